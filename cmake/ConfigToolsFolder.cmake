@@ -1,0 +1,51 @@
+# Flags that every target of the project is built with.
+add_library(configtools_flags INTERFACE)
+target_include_directories(configtools_flags INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(configtools_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+target_compile_definitions(configtools_flags INTERFACE
+    QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_STRICT_ITERATORS)
+if(CONFIGTOOLS_WARNINGS_ARE_ERRORS)
+    target_compile_options(configtools_flags INTERFACE -Werror)
+endif()
+if(CONFIGTOOLS_SANITIZER)
+    target_compile_options(configtools_flags INTERFACE -fsanitize=${CONFIGTOOLS_SANITIZER} -fno-omit-frame-pointer)
+    target_link_options(configtools_flags INTERFACE -fsanitize=${CONFIGTOOLS_SANITIZER})
+endif()
+
+# The toolkit's core headers, which nearly every source reads, precompiled once for all targets.
+add_library(configtools_precompiled STATIC ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+set_target_properties(configtools_precompiled PROPERTIES AUTOMOC OFF)
+target_link_libraries(configtools_precompiled PUBLIC configtools_flags Qt6::Core)
+target_precompile_headers(configtools_precompiled PRIVATE <QtCore>)
+
+# One folder of the project as one static library: configtools_add_folder(<target> [WITHOUT_TOOLKIT] <sources>...).
+# What it may see is what it links: the link graph is the architecture (docs/architecture.md). WITHOUT_TOOLKIT is for
+# a folder in plain C++.
+function(configtools_add_folder target)
+    cmake_parse_arguments(PARSE_ARGV 1 FOLDER "WITHOUT_TOOLKIT" "" "")
+    add_library(${target} STATIC ${FOLDER_UNPARSED_ARGUMENTS})
+    target_link_libraries(${target} PUBLIC configtools_flags)
+    if(FOLDER_WITHOUT_TOOLKIT)
+        set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+    else()
+        target_precompile_headers(${target} REUSE_FROM configtools_precompiled)
+    endif()
+endfunction()
+
+# A test program that CTest runs. A complaint of the QML engine fails it, whatever it returns.
+# configtools_add_test(<name> SOURCES <files>... LIBRARIES <targets>... [TIMEOUT <seconds>])
+function(configtools_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 TEST "" "TIMEOUT" "SOURCES;LIBRARIES")
+    if(NOT TEST_TIMEOUT)
+        set(TEST_TIMEOUT 120)
+    endif()
+    add_executable(${name} ${TEST_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_link_libraries(${name} PRIVATE configtools_flags Qt6::Test ${TEST_LIBRARIES})
+    target_precompile_headers(${name} REUSE_FROM configtools_precompiled)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${TEST_TIMEOUT}
+        FAIL_REGULAR_EXPRESSION "ReferenceError;TypeError;Binding loop;Unable to assign;is not a type;QML [A-Za-z]+:"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()
