@@ -1,0 +1,22 @@
+#include "sdk/blocktext.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace sdk {
+
+void setBlockText(char *destination, std::size_t size, std::string_view text)
+{
+    if (size == 0)
+        return;
+    std::size_t length = std::min(text.size(), size - 1);
+    if (length < text.size()) {
+        // Bytes 10xxxxxx continue a letter: step back to where the letter that does not fit begins.
+        while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
+            --length;
+    }
+    std::memcpy(destination, text.data(), length);
+    std::memset(destination + length, 0, size - length);
+}
+
+} // namespace sdk
