@@ -1,0 +1,87 @@
+#include "sdk/demo/fault.h"
+
+#include <array>
+#include <limits>
+
+namespace sdk::demo {
+
+namespace {
+
+struct FaultEntry
+{
+    Fault fault;
+    const char *name;
+    FaultValue value;
+};
+
+// In the order of the enumeration, so that a fault is its own index.
+constexpr std::array entries = {
+    FaultEntry{Fault::NoAnswer, "noAnswer", FaultValue::None},
+    FaultEntry{Fault::LateAnswer, "lateAnswer", FaultValue::Number},
+    FaultEntry{Fault::AnswerTwice, "answerTwice", FaultValue::None},
+    FaultEntry{Fault::WrongPassword, "wrongPassword", FaultValue::None},
+    FaultEntry{Fault::AccountLocked, "accountLocked", FaultValue::Number},
+    FaultEntry{Fault::NotInitialised, "notInitialised", FaultValue::None},
+    FaultEntry{Fault::RefusesItem, "refusesItem", FaultValue::Number},
+    FaultEntry{Fault::RefusesBitRatesAbove, "refusesBitRatesAbove", FaultValue::Number},
+    FaultEntry{Fault::RefusesConfiguration, "refusesConfiguration", FaultValue::Text},
+    FaultEntry{Fault::DropsStreamAfter, "dropsStreamAfter", FaultValue::Number},
+    FaultEntry{Fault::FirstPictureLate, "firstPictureLate", FaultValue::Number},
+    FaultEntry{Fault::RebootTakes, "rebootTakes", FaultValue::Number},
+    FaultEntry{Fault::UpgradeFailsAt, "upgradeFailsAt", FaultValue::Number},
+    FaultEntry{Fault::OddBytes, "oddBytes", FaultValue::None},
+    FaultEntry{Fault::OverLongTexts, "overLongTexts", FaultValue::None},
+};
+
+constexpr bool indexedByFault()
+{
+    for (std::size_t index = 0; index < entries.size(); ++index) {
+        if (static_cast<std::size_t>(entries[index].fault) != index)
+            return false;
+    }
+    return entries.back().fault == Fault::OverLongTexts;
+}
+static_assert(indexedByFault());
+
+const FaultEntry &entryOf(Fault fault)
+{
+    return entries[static_cast<std::size_t>(fault)];
+}
+
+} // namespace
+
+QString faultName(Fault fault)
+{
+    return QString::fromLatin1(entryOf(fault).name);
+}
+
+std::optional<Fault> faultNamed(const QString &name)
+{
+    for (const FaultEntry &entry : entries) {
+        if (name == QLatin1String(entry.name))
+            return entry.fault;
+    }
+    return std::nullopt;
+}
+
+FaultValue faultValue(Fault fault)
+{
+    return entryOf(fault).value;
+}
+
+int maximumFaultNumber(Fault fault)
+{
+    if (fault == Fault::UpgradeFailsAt)
+        return 100;
+    return std::numeric_limits<int>::max();
+}
+
+QStringList knownFaultNames()
+{
+    QStringList names;
+    for (const FaultEntry &entry : entries)
+        names.append(QString::fromLatin1(entry.name));
+    return names;
+}
+
+} // namespace sdk::demo

@@ -1,0 +1,59 @@
+// What can be wrong with a simulated device.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace sdk::demo {
+
+enum class Fault
+{
+    NoAnswer,             ///< search gets no answer
+    LateAnswer,           ///< search answers come `number` ms later than the device's latency
+    AnswerTwice,          ///< every search answer comes twice
+    WrongPassword,        ///< no password is accepted
+    AccountLocked,        ///< the account locks after `number` wrong passwords
+    NotInitialised,       ///< the device says that it waits for its first password
+    RefusesItem,          ///< refuses to write item `number`
+    RefusesBitRatesAbove, ///< refuses bit rates above `number` kbit/s
+    RefusesConfiguration, ///< refuses the configuration named `text`
+    DropsStreamAfter,     ///< ends the stream after `number` pictures
+    FirstPictureLate,     ///< the stream begins `number` ms late
+    RebootTakes,          ///< a reboot takes the device away for `number` s
+    UpgradeFailsAt,       ///< an upgrade fails at `number` %
+    OddBytes,             ///< texts hold control characters, markup, line breaks and invalid UTF-8
+    OverLongTexts,        ///< texts fill their fields to the last byte, without a terminating zero
+};
+
+/// What a fault needs beside its name.
+enum class FaultValue
+{
+    None,
+    Number, ///< FaultSetting::number, 0 or more (UpgradeFailsAt: 0 to 100)
+    Text,   ///< FaultSetting::text, not empty
+};
+
+struct FaultSetting
+{
+    Fault fault;
+    int number = 0;
+    QString text = {};
+};
+
+/// The name of `fault` in scenes: "noAnswer".
+[[nodiscard]] QString faultName(Fault fault);
+
+/// The fault that scenes call `name`; nothing for an unknown name.
+[[nodiscard]] std::optional<Fault> faultNamed(const QString &name);
+
+[[nodiscard]] FaultValue faultValue(Fault fault);
+
+/// Largest FaultSetting::number that makes sense for `fault`.
+[[nodiscard]] int maximumFaultNumber(Fault fault);
+
+/// The names of all faults, in the order of the enumeration.
+[[nodiscard]] QStringList knownFaultNames();
+
+} // namespace sdk::demo

@@ -1,0 +1,81 @@
+// A simulated site as data: what a scene file says.
+#pragma once
+
+#include "sdk/demo/fault.h"
+#include "sdk/searchblocks.h"
+
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
+
+namespace sdk::demo {
+
+inline constexpr int maximumSceneDevices = 20000;
+
+/// A user of a device.
+struct SceneAccount
+{
+    QString user;
+    QString password;
+};
+
+/// A picture input of a device.
+struct SceneChannel
+{
+    QString name;
+    bool connected = true;
+};
+
+/// One simulated device.
+struct SceneDevice
+{
+    QString mac;     ///< "02:1a:c5:00:40:17", lower case: the identity of the device
+    QString address; ///< IPv4; "0.0.0.0" while unset; empty when the device speaks IPv6 only
+    QString ipv6;    ///< canonical IPv6 address; empty when the device speaks IPv4 only
+    int ipv6PrefixLength = 64;
+    QString mask;
+    QString gateway;
+    bool dhcp = false;
+    int port = 0;      ///< service port, 1 to 65535
+    int httpPort = 80; ///< 0 when it has no web page
+    QString name;
+    QString type; ///< "IPC", "NVR", ...
+    QString model;
+    QString version;
+    QString serial;
+    InitialisationBits initialisation = InitialisationBits::Initialised;
+    std::uint8_t resetWay = 0; ///< as SearchDeviceInformation::passwordResetWay
+    QList<SceneAccount> accounts;
+    QList<SceneChannel> channels;
+    QJsonObject capabilities;
+    QJsonObject configuration;
+    std::chrono::milliseconds latency{100}; ///< from a request to the device's answer
+    bool inOtherSegment = false;  ///< out of reach of local searches, answers when its address is asked
+    bool knowsFirstSearch = true; ///< false: answers only the second kind (…Ex) of search
+    QList<FaultSetting> faults;   ///< each fault at most once
+
+    /// The device's setting of `wanted`; nothing while the device does not have that fault.
+    [[nodiscard]] std::optional<FaultSetting> fault(Fault wanted) const
+    {
+        const auto found = std::find_if(faults.begin(), faults.end(), [wanted](const FaultSetting &setting) {
+            return setting.fault == wanted;
+        });
+        return found == faults.end() ? std::nullopt : std::optional(*found);
+    }
+    [[nodiscard]] bool hasFault(Fault wanted) const { return fault(wanted).has_value(); }
+};
+
+struct Scene
+{
+    QString title;
+    QString description;
+    QString localAddress = QStringLiteral("192.168.1.250"); ///< of this computer, as devices see it
+    QString localIpv6 = QStringLiteral("fe80::1a:c5ff:fe00:1");
+    QList<SceneDevice> devices; ///< MACs are unique
+};
+
+} // namespace sdk::demo

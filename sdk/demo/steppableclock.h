@@ -1,0 +1,47 @@
+// A clock that stands still until it is stepped: waits and countdowns without sleeping.
+#pragma once
+
+#include "sdk/clock.h"
+
+#include <set>
+
+namespace sdk::demo {
+
+/// Thread-safe. A thread that waits is woken by the step that reaches its time, or by its stop.
+class SteppableClock : public Clock
+{
+public:
+    /// 2024-01-01T00:00:00Z.
+    static constexpr std::int64_t defaultStart = 1704067200000;
+
+    explicit SteppableClock(std::int64_t start = defaultStart) : m_now(start) {}
+
+    using Clock::wait;
+    [[nodiscard]] std::int64_t now() const override;
+    bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) override;
+    bool waitUntil(std::int64_t time, const std::stop_token &stop) override;
+
+    /// Moves the clock on; a negative step is ignored.
+    void advance(std::chrono::milliseconds step);
+
+    /// How many threads wait for a later step. A thread whose time has come counts no more, even before it
+    /// runs again.
+    [[nodiscard]] int waiters() const;
+
+    /// Blocks until exactly `count` threads wait. Returns false when `timeout` of real time has passed
+    /// before.
+    [[nodiscard]] bool waitForWaiters(int count,
+                                      std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
+
+private:
+    bool waitLocked(std::unique_lock<std::mutex> &lock, std::int64_t time, const std::stop_token &stop);
+    [[nodiscard]] int waitersLocked() const;
+
+    mutable std::mutex m_mutex;
+    mutable std::condition_variable m_waitersChanged;
+    std::condition_variable_any m_stepped;
+    std::int64_t m_now;
+    std::multiset<std::int64_t> m_wakeTimes; // one of each thread in a wait
+};
+
+} // namespace sdk::demo
