@@ -1,0 +1,126 @@
+#include "device/devicebase.h"
+
+#include "device/devicestore.h"
+
+#include <utility>
+
+CDeviceBase::CDeviceBase(std::shared_ptr<DeviceStore> store) : m_store(std::move(store)) {}
+
+CDeviceBase::~CDeviceBase() = default;
+
+void CDeviceBase::startSearch() {}
+
+void CDeviceBase::setSearchByIPInfo(quint32, quint32) {}
+
+QVariantList CDeviceBase::filterData(const QString &, const QString &)
+{
+    return {};
+}
+
+QVariantList CDeviceBase::filterDataIPV6(const QString &, const QString &)
+{
+    return {};
+}
+
+void CDeviceBase::modifyIP(const QString &, const QString &, const QString &, const QString &, bool) {}
+
+void CDeviceBase::setDefaultAccount(const QString &, const QString &) {}
+
+void CDeviceBase::setInitAccount(const QString &, const QString &, const QString &) {}
+
+void CDeviceBase::setDeleteDevice(const QString &, const QString &) {}
+
+void CDeviceBase::setBatchDeleteDevice(const QVariantMap &, const QString &) {}
+
+QVariantMap CDeviceBase::getDeviceInfo(const QString &)
+{
+    return {};
+}
+
+QVariantMap CDeviceBase::getDeviceDetail(const QString &)
+{
+    return {};
+}
+
+QVariantMap CDeviceBase::getDeviceDetailByAddress(const QString &)
+{
+    return {};
+}
+
+int CDeviceBase::getLoginDevice(const QString &, const QString &, const QString &, const QString &, int,
+                                const QString &)
+{
+    return 0;
+}
+
+void CDeviceBase::setUpgradeFilePath(const QString &, const QString &) {}
+
+void CDeviceBase::startUpgrade(const QStringList &) {}
+
+void CDeviceBase::startUpgradeByDocument(const QStringList &) {}
+
+void CDeviceBase::stopUpgrade(const QString &) {}
+
+QVariantList CDeviceBase::importUpgradeDocument(const QString &)
+{
+    return {};
+}
+
+int CDeviceBase::findAndLoginDevice(const QString &, const QString &, const QString &)
+{
+    return 0;
+}
+
+bool CDeviceBase::updataDeviceInfo(const QString &, const QVariant &, const QString &, const QString &)
+{
+    return false;
+}
+
+void CDeviceBase::getCameraConfig() {}
+
+void CDeviceBase::getEncodeCaps() {}
+
+QVariant CDeviceBase::getConfigData(const QString &, const QVariant &)
+{
+    return {};
+}
+
+void CDeviceBase::setConfigData(const QString &, const QVariant &, const QString &) {}
+
+QVariantList CDeviceBase::getDeviceChannelData(const QString &, int)
+{
+    return {};
+}
+
+void CDeviceBase::confirmConfigData() {}
+
+void CDeviceBase::getVideoIn() {}
+
+void CDeviceBase::getVideoInByChangeChannel() {}
+
+void CDeviceBase::copyConfigToDevice(const QStringList &) {}
+
+void CDeviceBase::getEncodeInfo() {}
+
+void CDeviceBase::unusedOperation() {}
+
+void CDeviceBase::systemConfig(const QString &, const QVariantMap &, const QStringList &) {}
+
+void CDeviceBase::snapPictureToFile(const QString &, const QVariant &, const QString &) {}
+
+bool CDeviceBase::hasDeviceUpgrading()
+{
+    return false;
+}
+
+bool CDeviceBase::importDevice(const QString &, ImportSummary &)
+{
+    return false;
+}
+
+bool CDeviceBase::exportDevice(const QString &, const QStringList &, const QString &)
+{
+    return false;
+}
+
+void CDeviceBase::unusedListOperation() {}

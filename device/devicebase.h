@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+
+#include <memory>
+
+class DeviceStore;
+
+/// Outcome of reading a device list file.
+struct ImportSummary
+{
+    int total = 0;    ///< devices read
+    int errcount = 0; ///< devices of them that failed
+};
+
+/// The back end of one family of devices, speaking to them through its own library. The factory picks one by
+/// family name, forwards each operation of the scene to it and relays its signals.
+///
+/// Operations are called on the scene's thread; signals may come from any. An operation that a family does
+/// not override does nothing and returns an empty value. The row lists are shared by all back ends.
+class CDeviceBase : public QObject
+{
+    Q_OBJECT
+public:
+    explicit CDeviceBase(std::shared_ptr<DeviceStore> store);
+    ~CDeviceBase() override;
+
+    // The virtual operations stand in one fixed order, which is that of their slots: new ones go to the end.
+
+    virtual void startSearch();
+    virtual void setSearchByIPInfo(quint32 beginip, quint32 endip);
+    virtual QVariantList filterData(const QString &filtertype, const QString &searchtext);
+    virtual QVariantList filterDataIPV6(const QString &filtertype, const QString &searchtext);
+    virtual void modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
+                          const QString &newgateway, bool dhcpON);
+    virtual void setDefaultAccount(const QString &account, const QString &password);
+    virtual void setInitAccount(const QString &mac, const QString &account, const QString &password);
+    virtual void setDeleteDevice(const QString &mac, const QString &ipvision);
+    virtual void setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion);
+    virtual QVariantMap getDeviceInfo(const QString &ipport);
+    virtual QVariantMap getDeviceDetail(const QString &mac);
+    /// Detail of the device at one address.
+    virtual QVariantMap getDeviceDetailByAddress(const QString &ipport);
+    virtual int getLoginDevice(const QString &address, const QString &account, const QString &password,
+                               const QString &port, int loginType, const QString &devicePort);
+    virtual void setUpgradeFilePath(const QString &mac, const QString &path);
+    virtual void startUpgrade(const QStringList &macs);
+    virtual void startUpgradeByDocument(const QStringList &paths);
+    virtual void stopUpgrade(const QString &mac);
+    virtual QVariantList importUpgradeDocument(const QString &file);
+    virtual int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password);
+    virtual bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
+                                  const QString &ipport);
+    virtual void getCameraConfig();
+    virtual void getEncodeCaps();
+    virtual QVariant getConfigData(const QString &key, const QVariant &channel);
+    virtual void setConfigData(const QString &key, const QVariant &value, const QString &otype);
+    virtual QVariantList getDeviceChannelData(const QString &key, int channelNum);
+    virtual void confirmConfigData();
+    virtual void getVideoIn();
+    virtual void getVideoInByChangeChannel();
+    virtual void copyConfigToDevice(const QStringList &devlist);
+    virtual void getEncodeInfo();
+    /// A place in the order that no family fills.
+    virtual void unusedOperation();
+    virtual void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports);
+    virtual void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address);
+    virtual bool hasDeviceUpgrading();
+
+    // Device lists work on the rows alone.
+
+    virtual bool importDevice(const QString &path, ImportSummary &summary);
+    virtual bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName);
+    /// A place in the order that nothing calls.
+    virtual void unusedListOperation();
+
+Q_SIGNALS:
+    void signalCDeviceAddDeviceToTable();        ///< new rows are there
+    void signalCDeviceSearchCount(int devCount); ///< IPv4 rows found so far
+    void signalCDeviceSearchDone();              ///< a search has ended
+    void signalCDeviceAddSingleDeviceToTable();  ///< one row added or changed outside a search
+    void signalCDeviceUpdateSchedule(int value); ///< progress of an upgrade
+    void signalCDeviceUpdateScheduleUpgradeByDocument(const QString &filename, int value);
+    void signalCDeviceShowUpgradeFinishTip(); ///< all upgrades have finished
+    void signalCDeviceRetToCopyConfig(const QString &ipport, int result);
+    void signalCDeviceRetToSystemConfig(const QString &ipport, int result);
+    void signalCDeviceSystemConfigEnablePassword();
+    void signalCDeviceHighLevelLoginRet(int loginRet);
+    void signalCDeviceGetDeviceCapRet(int GetDeviceCapRet);
+    void signalCDeviceChangeVideoType();
+    void signalCDeviceChangeVideoChannel();
+    void signalCDeviceChangeEncodeChannel();
+    void signalCDeviceConfirmEncodeConfig(const QString &resStr); ///< empty on success
+    void signalCDeviceSetChannelNameFinished();
+    void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
+    void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
+
+protected:
+    [[nodiscard]] DeviceStore &store() const { return *m_store; }
+
+private:
+    const std::shared_ptr<DeviceStore> m_store;
+};

@@ -1,0 +1,332 @@
+#include "device/devicefactory.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QMetaMethod>
+
+#include <algorithm>
+
+namespace {
+
+CDeviceFactory *instance = nullptr;
+
+CDeviceFactory::BackEndCreators &registeredBackEnds()
+{
+    static CDeviceFactory::BackEndCreators creators;
+    return creators;
+}
+
+/// The factory's name for a signal of a back end: "signalCDeviceXxx" is "signalXxx"; other names are the
+/// same.
+QByteArray twinOf(const QByteArray &backEndSignal)
+{
+    constexpr QByteArrayView backEndPrefix("signalCDevice");
+    return backEndSignal.startsWith(backEndPrefix) ? "signal" + backEndSignal.mid(backEndPrefix.size())
+                                                   : backEndSignal;
+}
+
+/// What the SIGNAL() macro makes of a signature.
+QByteArray asSignal(const QByteArray &signature)
+{
+    return QByteArray::number(QSIGNAL_CODE) + signature;
+}
+
+} // namespace
+
+void CDeviceFactory::registerBackEnd(const QString &family, BackEndCreator creator)
+{
+    registeredBackEnds().insert(family, std::move(creator));
+}
+
+CDeviceFactory *CDeviceFactory::getinstance()
+{
+    if (!instance)
+        instance = new CDeviceFactory(registeredBackEnds());
+    return instance;
+}
+
+void CDeviceFactory::deleteInstance()
+{
+    delete instance;
+    instance = nullptr;
+    registeredBackEnds().clear();
+}
+
+CDeviceFactory::CDeviceFactory(const BackEndCreators &creators)
+{
+    for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
+        const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
+        relaySignals(*backEnd);
+        m_backEnds.insert(creator.key(), backEnd);
+    }
+}
+
+CDeviceFactory::~CDeviceFactory() = default;
+
+void CDeviceFactory::relaySignals(const CDeviceBase &backEnd)
+{
+    const QMetaObject &base = CDeviceBase::staticMetaObject;
+    for (int index = base.methodOffset(); index < base.methodCount(); ++index) {
+        const QMetaMethod method = base.method(index);
+        if (method.methodType() != QMetaMethod::Signal)
+            continue;
+        const QByteArray signature = method.methodSignature();
+        if (!connect(&backEnd, asSignal(signature).constData(), this,
+                     asSignal(twinOf(signature)).constData()))
+            qCritical() << "CDeviceFactory: no twin for" << signature;
+    }
+}
+
+QString CDeviceFactory::getDeviceDetailString(const QString &family, const QString &mac)
+{
+    const QVariantMap detail = getDeviceDetail(family, mac);
+    QString text;
+    for (auto entry = detail.cbegin(); entry != detail.cend(); ++entry)
+        text += entry.key() + QLatin1String(": ") + entry.value().toString() + QLatin1Char('\n');
+    return text;
+}
+
+bool CDeviceFactory::importDevice(const QString &family, const QString &path, QJSValue msg)
+{
+    ImportSummary summary;
+    const std::shared_ptr<CDeviceBase> backEnd = m_backEnds.value(family);
+    if (!backEnd)
+        return false;
+    const bool imported = backEnd->importDevice(path, summary);
+    if (msg.isCallable()) {
+        msg.call({summary.total, summary.errcount});
+    } else if (msg.isObject()) {
+        msg.setProperty(QStringLiteral("total"), summary.total);
+        msg.setProperty(QStringLiteral("errcount"), summary.errcount);
+    }
+    return imported;
+}
+
+bool CDeviceFactory::hasDeviceUpgrading()
+{
+    return std::any_of(
+        m_backEnds.cbegin(), m_backEnds.cend(),
+        [](const std::shared_ptr<CDeviceBase> &backEnd) { return backEnd->hasDeviceUpgrading(); });
+}
+
+void CDeviceFactory::startSnap(const QString &family, const QVariant &channelNum, const QString &address)
+{
+    qDebug() << "startSnap"
+             << ":" << address << channelNum;
+    snapPictureToFile(family, QStringLiteral("liveCapture"), channelNum, address);
+    qDebug() << "endSnap"
+             << ":" << address << channelNum;
+}
+
+void CDeviceFactory::exitProgram()
+{
+    QCoreApplication::exit(0);
+}
+
+void CDeviceFactory::startSearch(const QString &family)
+{
+    forward(family, &CDeviceBase::startSearch);
+}
+
+void CDeviceFactory::setSearchByIPInfo(const QString &family, quint32 beginip, quint32 endip)
+{
+    forward(family, &CDeviceBase::setSearchByIPInfo, beginip, endip);
+}
+
+QVariantList CDeviceFactory::filterData(const QString &family, const QString &filtertype,
+                                        const QString &searchtext)
+{
+    return forward(family, &CDeviceBase::filterData, filtertype, searchtext);
+}
+
+QVariantList CDeviceFactory::filterDataIPV6(const QString &family, const QString &filtertype,
+                                            const QString &searchtext)
+{
+    return forward(family, &CDeviceBase::filterDataIPV6, filtertype, searchtext);
+}
+
+void CDeviceFactory::modifyIP(const QString &family, const QString &mac, const QString &newip,
+                              const QString &newsubmask, const QString &newgateway, bool dhcpON)
+{
+    forward(family, &CDeviceBase::modifyIP, mac, newip, newsubmask, newgateway, dhcpON);
+}
+
+void CDeviceFactory::setDefaultAccount(const QString &family, const QString &account, const QString &password)
+{
+    forward(family, &CDeviceBase::setDefaultAccount, account, password);
+}
+
+void CDeviceFactory::setInitAccount(const QString &family, const QString &mac, const QString &account,
+                                    const QString &password)
+{
+    forward(family, &CDeviceBase::setInitAccount, mac, account, password);
+}
+
+int CDeviceFactory::setAddDevice(const QString &, const QString &, const QString &, const QString &,
+                                 const QString &, int)
+{
+    return 0;
+}
+
+void CDeviceFactory::setPluginPort(const QString &, const QString &, int) {}
+
+void CDeviceFactory::setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision)
+{
+    forward(family, &CDeviceBase::setDeleteDevice, mac, ipvision);
+}
+
+void CDeviceFactory::setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
+                                          const QString &ipversion)
+{
+    forward(family, &CDeviceBase::setBatchDeleteDevice, macs, ipversion);
+}
+
+QVariantMap CDeviceFactory::getDeviceDetail(const QString &family, const QString &mac)
+{
+    return forward(family, &CDeviceBase::getDeviceDetail, mac);
+}
+
+QVariantMap CDeviceFactory::getDeviceInfo(const QString &family, const QString &ipport)
+{
+    return forward(family, &CDeviceBase::getDeviceInfo, ipport);
+}
+
+bool CDeviceFactory::exportDevice(const QString &family, const QString &folder, const QStringList &macs,
+                                  const QString &fileName)
+{
+    return forward(family, &CDeviceBase::exportDevice, folder, macs, fileName);
+}
+
+int CDeviceFactory::getLoginDevice(const QString &family, const QString &address, const QString &account,
+                                   const QString &password, const QString &port, int loginType,
+                                   const QString &devp2pPort)
+{
+    return forward(family, &CDeviceBase::getLoginDevice, address, account, password, port, loginType,
+                   devp2pPort);
+}
+
+int CDeviceFactory::getPassWordType(const QString &)
+{
+    return 0;
+}
+
+void CDeviceFactory::setUpgradeFilePath(const QString &family, const QString &mac, const QString &path)
+{
+    forward(family, &CDeviceBase::setUpgradeFilePath, mac, path);
+}
+
+void CDeviceFactory::startUpgrade(const QString &family, const QStringList &macs)
+{
+    forward(family, &CDeviceBase::startUpgrade, macs);
+}
+
+void CDeviceFactory::startUpgradeByDocument(const QString &family, const QStringList &paths)
+{
+    forward(family, &CDeviceBase::startUpgradeByDocument, paths);
+}
+
+void CDeviceFactory::stopUpgrade(const QString &family, const QString &mac)
+{
+    forward(family, &CDeviceBase::stopUpgrade, mac);
+}
+
+void CDeviceFactory::openTemplate() {}
+
+QVariantList CDeviceFactory::importUpgradeDocument(const QString &family, const QString &file)
+{
+    return forward(family, &CDeviceBase::importUpgradeDocument, file);
+}
+
+QString CDeviceFactory::getErrorName(int)
+{
+    return {};
+}
+
+int CDeviceFactory::findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
+                                       const QString &password)
+{
+    return forward(family, &CDeviceBase::findAndLoginDevice, ipport, account, password);
+}
+
+bool CDeviceFactory::updataDeviceInfo(const QString &family, const QString &key, const QVariant &newValue,
+                                      const QString &mac, const QString &ipport)
+{
+    return forward(family, &CDeviceBase::updataDeviceInfo, key, newValue, mac, ipport);
+}
+
+void CDeviceFactory::getCameraConfig(const QString &family)
+{
+    forward(family, &CDeviceBase::getCameraConfig);
+}
+
+QVariant CDeviceFactory::getConfigData(const QString &family, const QString &key, const QVariant &channel)
+{
+    return forward(family, &CDeviceBase::getConfigData, key, channel);
+}
+
+void CDeviceFactory::getEncodeCaps(const QString &family)
+{
+    forward(family, &CDeviceBase::getEncodeCaps);
+}
+
+void CDeviceFactory::setConfigData(const QString &family, const QString &key, const QVariant &value,
+                                   const QString &otype)
+{
+    forward(family, &CDeviceBase::setConfigData, key, value, otype);
+}
+
+QVariantList CDeviceFactory::getDeviceChannelData(const QString &family, const QString &key, int channelNum)
+{
+    return forward(family, &CDeviceBase::getDeviceChannelData, key, channelNum);
+}
+
+void CDeviceFactory::confirmConfigData(const QString &family)
+{
+    forward(family, &CDeviceBase::confirmConfigData);
+}
+
+void CDeviceFactory::getVideoIn(const QString &family)
+{
+    forward(family, &CDeviceBase::getVideoIn);
+}
+
+void CDeviceFactory::getVideoInByChangeChannel(const QString &family)
+{
+    forward(family, &CDeviceBase::getVideoInByChangeChannel);
+}
+
+void CDeviceFactory::getEncodeInfo(const QString &family)
+{
+    forward(family, &CDeviceBase::getEncodeInfo);
+}
+
+void CDeviceFactory::copyConfigToDevice(const QString &family, const QStringList &devlist)
+{
+    forward(family, &CDeviceBase::copyConfigToDevice, devlist);
+}
+
+void CDeviceFactory::systemConfig(const QString &family, const QString &command, const QVariantMap &data,
+                                  const QStringList &ipports)
+{
+    forward(family, &CDeviceBase::systemConfig, command, data, ipports);
+}
+
+void CDeviceFactory::addP2PPort(int, int) {}
+
+int CDeviceFactory::getP2PWebPort(int)
+{
+    return 0;
+}
+
+QVariantList CDeviceFactory::getDays(int)
+{
+    return {};
+}
+
+void CDeviceFactory::snapPictureToFile(const QString &family, const QString &kind, const QVariant &channelNum,
+                                       const QString &address)
+{
+    forward(family, &CDeviceBase::snapPictureToFile, kind, channelNum, address);
+}
+
+void CDeviceFactory::releaseP2PPort(int) {}

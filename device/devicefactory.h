@@ -1,0 +1,144 @@
+#pragma once
+
+#include "device/devicebase.h"
+
+#include <QJSValue>
+#include <QMap>
+
+#include <functional>
+#include <memory>
+
+/// The one object through which the scene reaches devices. It owns one back end per device family, forwards
+/// each operation to the one that its first argument names, and emits the back ends' signals under its own
+/// names. For an unknown family an operation does nothing and returns an empty value.
+///
+/// Operations are called on the scene's thread, where the factory lives; signals of back ends arrive there
+/// queued when they come from another thread.
+class CDeviceFactory : public QObject
+{
+    Q_OBJECT
+public:
+    using BackEndCreator = std::function<std::shared_ptr<CDeviceBase>()>;
+    using BackEndCreators = QMap<QString, BackEndCreator>; ///< by family name
+
+    /// Registers the creator of a family's back end. To be called before the first getinstance(): this is how
+    /// the factory comes to own back ends that it does not know.
+    static void registerBackEnd(const QString &family, BackEndCreator creator);
+
+    /// The process-wide factory, created on first use with the registered families. Main thread only.
+    static CDeviceFactory *getinstance();
+
+    /// Deletes the process-wide factory with its back ends and forgets the registered families.
+    static void deleteInstance();
+
+    explicit CDeviceFactory(const BackEndCreators &creators);
+    ~CDeviceFactory() override;
+
+    Q_INVOKABLE void startSearch(const QString &family);
+    Q_INVOKABLE void setSearchByIPInfo(const QString &family, quint32 beginip, quint32 endip);
+    Q_INVOKABLE QVariantList filterData(const QString &family, const QString &filtertype,
+                                        const QString &searchtext = QString());
+    Q_INVOKABLE QVariantList filterDataIPV6(const QString &family, const QString &filtertype,
+                                            const QString &searchtext = QString());
+    Q_INVOKABLE void modifyIP(const QString &family, const QString &mac, const QString &newip,
+                              const QString &newsubmask, const QString &newgateway, bool dhcpON);
+    Q_INVOKABLE void setDefaultAccount(const QString &family, const QString &account,
+                                       const QString &password);
+    Q_INVOKABLE void setInitAccount(const QString &family, const QString &mac, const QString &account,
+                                    const QString &password);
+    /// Returns the local port that leads to the device, 0 on failure.
+    Q_INVOKABLE int setAddDevice(const QString &family, const QString &deviceId, const QString &account,
+                                 const QString &password, const QString &port, int p2pPort);
+    Q_INVOKABLE void setPluginPort(const QString &family, const QString &mac, int devp2pPort);
+    Q_INVOKABLE void setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision);
+    Q_INVOKABLE void setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
+                                          const QString &ipversion);
+    Q_INVOKABLE QVariantMap getDeviceDetail(const QString &family, const QString &mac);
+    /// The detail as one text, a line "key: value" for each.
+    Q_INVOKABLE QString getDeviceDetailString(const QString &family, const QString &mac);
+    Q_INVOKABLE QVariantMap getDeviceInfo(const QString &family, const QString &ipport);
+    /// Fills the properties "total" and "errcount" of `msg`, or calls it with the two when it is a function.
+    Q_INVOKABLE bool importDevice(const QString &family, const QString &path, QJSValue msg);
+    Q_INVOKABLE bool exportDevice(const QString &family, const QString &folder, const QStringList &macs,
+                                  const QString &fileName);
+    Q_INVOKABLE int getLoginDevice(const QString &family, const QString &address, const QString &account,
+                                   const QString &password, const QString &port, int loginType = 0,
+                                   const QString &devp2pPort = QString());
+    Q_INVOKABLE int getPassWordType(const QString &password);
+    Q_INVOKABLE void setUpgradeFilePath(const QString &family, const QString &mac, const QString &path);
+    Q_INVOKABLE void startUpgrade(const QString &family, const QStringList &macs);
+    Q_INVOKABLE void startUpgradeByDocument(const QString &family, const QStringList &paths);
+    Q_INVOKABLE void stopUpgrade(const QString &family, const QString &mac);
+    Q_INVOKABLE void openTemplate();
+    Q_INVOKABLE QVariantList importUpgradeDocument(const QString &family, const QString &file);
+    Q_INVOKABLE QString getErrorName(int error);
+    Q_INVOKABLE int findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
+                                       const QString &password);
+    Q_INVOKABLE bool updataDeviceInfo(const QString &family, const QString &key, const QVariant &newValue,
+                                      const QString &mac, const QString &ipport);
+    Q_INVOKABLE void getCameraConfig(const QString &family);
+    Q_INVOKABLE QVariant getConfigData(const QString &family, const QString &key,
+                                       const QVariant &channel = QVariant());
+    Q_INVOKABLE void getEncodeCaps(const QString &family);
+    Q_INVOKABLE void setConfigData(const QString &family, const QString &key, const QVariant &value,
+                                   const QString &otype = QString());
+    Q_INVOKABLE QVariantList getDeviceChannelData(const QString &family, const QString &key, int channelNum);
+    Q_INVOKABLE void confirmConfigData(const QString &family);
+    Q_INVOKABLE void getVideoIn(const QString &family);
+    Q_INVOKABLE void getVideoInByChangeChannel(const QString &family);
+    Q_INVOKABLE void getEncodeInfo(const QString &family);
+    Q_INVOKABLE void copyConfigToDevice(const QString &family, const QStringList &devlist);
+    Q_INVOKABLE void systemConfig(const QString &family, const QString &command, const QVariantMap &data,
+                                  const QStringList &ipports);
+    Q_INVOKABLE void addP2PPort(int p2pPort, int webPort);
+    Q_INVOKABLE int getP2PWebPort(int port);
+    Q_INVOKABLE QVariantList getDays(int month);
+    /// True while a device of any family is being upgraded.
+    Q_INVOKABLE bool hasDeviceUpgrading();
+    Q_INVOKABLE void snapPictureToFile(const QString &family, const QString &kind, const QVariant &channelNum,
+                                       const QString &address);
+    Q_INVOKABLE void startSnap(const QString &family, const QVariant &channelNum, const QString &address);
+    /// Asks the application to leave its event loop with exit code 0.
+    Q_INVOKABLE void exitProgram();
+    Q_INVOKABLE void releaseP2PPort(int p2pPort);
+
+Q_SIGNALS:
+    // Twins of the back ends' signals, in their order. Each is relayed from the signal of the same name with
+    // "CDevice" behind "signal".
+
+    void signalAddDeviceToTable();
+    void signalSearchCount(int devCount);
+    void signalSearchDone();
+    void signalAddSingleDeviceToTable();
+    void signalUpdateSchedule(int value);
+    void signalUpdateScheduleUpgradeByDocument(const QString &filename, int value);
+    void signalShowUpgradeFinishTip();
+    void signalRetToCopyConfig(const QString &ipport, int result);
+    void signalRetToSystemConfig(const QString &ipport, int result);
+    void signalSystemConfigEnablePassword();
+    void signalHighLevelLoginRet(int loginRet);
+    void signalGetDeviceCapRet(int GetDeviceCapRet);
+    void signalChangeVideoType();
+    void signalChangeVideoChannel();
+    void signalChangeEncodeChannel();
+    void signalConfirmEncodeConfig(const QString &resStr);
+    void signalSetChannelNameFinished();
+    void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
+    void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
+
+private:
+    void relaySignals(const CDeviceBase &backEnd);
+
+    /// Calls an operation of the family's back end, which lives at least until the call has returned.
+    template<typename Result, typename... Parameters, typename... Arguments>
+    Result forward(const QString &family, Result (CDeviceBase::*operation)(Parameters...),
+                   const Arguments &...arguments)
+    {
+        const std::shared_ptr<CDeviceBase> backEnd = m_backEnds.value(family);
+        if (!backEnd)
+            return Result();
+        return (backEnd.get()->*operation)(arguments...);
+    }
+
+    QMap<QString, std::shared_ptr<CDeviceBase>> m_backEnds;
+};

@@ -1,0 +1,49 @@
+// Device rows: one JSON object per device, keyed by the column names of the device tables.
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+namespace sdk {
+struct SearchAnswer;
+}
+
+/// Keys of a device row.
+namespace DeviceRowKey {
+inline constexpr QLatin1StringView checked("checked");       ///< bool: tick box of the row
+inline constexpr QLatin1StringView num("num");               ///< text: row number, filled by the page
+inline constexpr QLatin1StringView state("state");           ///< bool: initialised
+inline constexpr QLatin1StringView name("name");             ///< text: device name
+inline constexpr QLatin1StringView type("type");             ///< text: device type
+inline constexpr QLatin1StringView model("model");           ///< text: detailed model
+inline constexpr QLatin1StringView ipport("ipport");         ///< text: "address:port", names the device
+inline constexpr QLatin1StringView mac("mac");               ///< text: identity of the device in the lists
+inline constexpr QLatin1StringView vision("vision");         ///< text: software version, "v" in front
+inline constexpr QLatin1StringView res("res");               ///< int: last IP modification, -1 none yet
+inline constexpr QLatin1StringView operate("operate");       ///< text of the operation column
+inline constexpr QLatin1StringView filepath("filepath");     ///< text: firmware file chosen for the device
+inline constexpr QLatin1StringView upgrade("upgrade");       ///< int: upgrade progress in percent
+inline constexpr QLatin1StringView upgraderes("upgraderes"); ///< int: last upgrade, -1 none yet
+inline constexpr QLatin1StringView url("url");               ///< text: address used for CGI commands
+inline constexpr QLatin1StringView result("result");         ///< text result of the last batch operation
+inline constexpr QLatin1StringView httpport("httpport");     ///< int: HTTP port
+} // namespace DeviceRowKey
+
+/// Type of the devices that no name is known for; translated, since it is shown.
+[[nodiscard]] QString otherDeviceType();
+
+/// True when the answer belongs into the list of IPv4 devices: its version is 4 and its address is set.
+[[nodiscard]] bool hasIPv4Address(const sdk::SearchAnswer &answer);
+
+/// MAC of the device that answered: its identity.
+[[nodiscard]] QString macText(const sdk::SearchAnswer &answer);
+
+/// "address:port" by which operations name the device; an IPv6 address stands in brackets, as addresses with
+/// colons are written beside a port (RFC 3986).
+[[nodiscard]] QString addressAndPort(const sdk::SearchAnswer &answer);
+
+/// Row of an IPv4 answer, with all 17 keys.
+[[nodiscard]] QJsonObject ipv4Row(const sdk::SearchAnswer &answer);
+
+/// Row of any other answer, with the ten keys that IPv6 rows carry.
+[[nodiscard]] QJsonObject ipv6Row(const sdk::SearchAnswer &answer);

@@ -1,0 +1,167 @@
+#include "device/devicesearch.h"
+
+#include "device/devicestore.h"
+#include "sdk/clock.h"
+#include "sdk/netlibrary.h"
+
+#include <QDebug>
+#include <QScopeGuard>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// How long sending a request may take.
+constexpr auto startWait = 4ms;
+
+// The local segment is asked three times, since a device may miss a single datagram, and is listened to for a
+// while after the last one.
+constexpr auto pauseBetweenRequests = 1000ms;
+constexpr auto listeningTime = 3000ms;
+
+constexpr auto addressesWait = 3000ms;
+constexpr const char *anyLocalAddress = "0.0.0.0";
+
+} // namespace
+
+DeviceSearch::DeviceSearch(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries)
+    : m_store(std::move(store)), m_libraries(std::move(libraries))
+{
+}
+
+DeviceSearch::~DeviceSearch()
+{
+    requestStop();
+    for (QFuture<void> &search : m_searches)
+        search.waitForFinished();
+}
+
+void DeviceSearch::requestStop()
+{
+    m_stop.request_stop();
+}
+
+void DeviceSearch::setRange(SearchRange range)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_range = range;
+}
+
+SearchRange DeviceSearch::range()
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_range;
+}
+
+void DeviceSearch::start(bool localSegment)
+{
+    m_searches.removeIf([](const QFuture<void> &search) { return search.isFinished(); });
+    m_searches.append(
+        QtConcurrent::run([this, localSegment, stop = m_stop.get_token()] { run(localSegment, stop); }));
+}
+
+void DeviceSearch::run(bool localSegment, const std::stop_token &stop)
+{
+    // A search mostly waits: its thread must not count against those that the pool keeps for work.
+    QThreadPool::globalInstance()->releaseThread();
+    const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
+
+    m_store->clear();
+    Q_EMIT rowsAdded();
+
+    if (m_libraries.net) {
+        if (localSegment)
+            searchLocalSegment(stop);
+        searchRange(range(), stop);
+    }
+
+    setRange({});
+    if (stop.stop_requested())
+        return; // the receivers are being destroyed
+    Q_EMIT rowsAdded();
+    Q_EMIT counted(m_store->ipv4Count());
+    Q_EMIT done();
+}
+
+void DeviceSearch::searchLocalSegment(const std::stop_token &stop)
+{
+    sdk::SearchParameter parameter{};
+    parameter.size = sizeof(parameter);
+    parameter.handler = &DeviceSearch::answerHandler;
+    parameter.user = this;
+
+    sdk::SearchParameterEx parameterEx{};
+    parameterEx.size = sizeof(parameterEx);
+    parameterEx.handler = &DeviceSearch::answerHandler;
+    parameterEx.user = this;
+
+    sdk::NetLibrary &net = *m_libraries.net;
+    sdk::Clock &clock = *m_libraries.clock;
+    keepHandle(net.NetStartSearchDevices(parameter, startWait));
+    if (clock.wait(pauseBetweenRequests, stop)) {
+        keepHandle(net.NetStartSearchDevices(parameter, startWait));
+        if (clock.wait(pauseBetweenRequests, stop)) {
+            keepHandle(net.NetStartSearchDevicesEx(parameterEx, startWait));
+            clock.wait(listeningTime, stop);
+        }
+    }
+    stopHandles();
+}
+
+void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_token &stop)
+{
+    sdk::NetLibrary &net = *m_libraries.net;
+    for (const sdk::SearchByAddressesRequest &request : searchRequests(addresses)) {
+        if (stop.stop_requested())
+            return;
+        net.NetSearchDevicesByIPs(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
+                                  addressesWait);
+        if (stop.stop_requested())
+            return;
+        net.NetSearchDevicesByIPsEx(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
+                                    addressesWait);
+    }
+}
+
+void DeviceSearch::keepHandle(std::int64_t handle)
+{
+    if (handle == 0) {
+        qWarning() << "DeviceSearch: a local search could not be started, error" << Qt::hex
+                   << m_libraries.net->NetGetLastError();
+        return;
+    }
+    const std::scoped_lock lock(m_mutex);
+    m_handles.append(handle);
+}
+
+void DeviceSearch::stopHandles()
+{
+    // Taken out under the lock and stopped outside it: stopping waits for handlers, and they must not wait
+    // for us.
+    QList<std::int64_t> handles;
+    {
+        const std::scoped_lock lock(m_mutex);
+        handles.swap(m_handles);
+    }
+    for (const std::int64_t handle : handles)
+        m_libraries.net->NetStopSearchDevices(handle);
+}
+
+void DeviceSearch::answerHandler(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+{
+    if (answer && answer->size == sizeof(*answer))
+        static_cast<DeviceSearch *>(user)->handleAnswer(*answer);
+}
+
+void DeviceSearch::handleAnswer(const sdk::SearchAnswer &answer)
+{
+    const DeviceStore::Addition addition = m_store->addAnswer(answer);
+    if (!addition.notify)
+        return;
+    Q_EMIT rowsAdded();
+    Q_EMIT counted(addition.ipv4Count);
+}

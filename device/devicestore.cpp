@@ -1,0 +1,116 @@
+#include "device/devicestore.h"
+
+#include "device/devicerow.h"
+#include "sdk/clock.h"
+
+#include <utility>
+
+namespace {
+
+/// A search announces its rows at most once in so many milliseconds.
+constexpr std::int64_t notificationInterval = 1000;
+
+constexpr QLatin1StringView loopbackAddress("127.0.0.1");
+
+} // namespace
+
+void DeviceStore::RowList::append(const QString &identity, const QJsonObject &row)
+{
+    m_places.insert(identity, m_placeOfFront + m_rows.size());
+    m_rows.append(row);
+}
+
+void DeviceStore::RowList::prepend(const QString &identity, const QJsonObject &row)
+{
+    --m_placeOfFront;
+    m_places.insert(identity, m_placeOfFront);
+    m_rows.prepend(row);
+}
+
+void DeviceStore::RowList::clear()
+{
+    m_rows.clear();
+    m_places.clear();
+    m_placeOfFront = 0;
+}
+
+DeviceStore::DeviceStore(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
+
+DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
+{
+    const bool ipv4 = hasIPv4Address(answer);
+    const QString mac = macText(answer);
+    RowList &list = ipv4 ? m_ipv4 : m_ipv6;
+    // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
+    // that arrived again, as every device answers each kind of search.
+    const QString identity = ipv4 ? mac : mac + QLatin1Char(' ') + addressAndPort(answer);
+    {
+        // Most answers are repeated ones: drop them before a row is built.
+        const std::scoped_lock lock(m_mutex);
+        if (list.contains(identity))
+            return {};
+    }
+
+    const QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
+    const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
+                       row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
+    auto record = std::make_shared<const sdk::SearchAnswer>(answer);
+
+    const std::scoped_lock lock(m_mutex);
+    if (list.contains(identity))
+        return {};
+    if (heads)
+        list.prepend(identity, row);
+    else
+        list.append(identity, row);
+
+    // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
+    if (ipv4 || !m_records.contains(mac))
+        m_records.insert(mac, std::move(record));
+
+    return {
+        .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
+}
+
+void DeviceStore::clear()
+{
+    const std::scoped_lock lock(m_mutex);
+    m_ipv4.clear();
+    m_ipv6.clear();
+    m_records.clear();
+}
+
+QVariantList DeviceStore::ipv4Rows() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.rows();
+}
+
+QVariantList DeviceStore::ipv6Rows() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv6.rows();
+}
+
+int DeviceStore::ipv4Count() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return static_cast<int>(m_ipv4.rows().size());
+}
+
+std::shared_ptr<const sdk::SearchAnswer> DeviceStore::record(const QString &mac) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_records.value(mac);
+}
+
+bool DeviceStore::isNotificationDue()
+{
+    const std::int64_t now = m_clock->now();
+    if (!m_lastNotification)
+        m_lastNotification = now;
+    if (now - *m_lastNotification < notificationInterval)
+        return false;
+    m_lastNotification = now;
+    return true;
+}

@@ -1,0 +1,76 @@
+// The process-wide device rows and search records.
+#pragma once
+
+#include "sdk/searchblocks.h"
+
+#include <QHash>
+#include <QJsonObject>
+#include <QVariantList>
+
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+
+namespace sdk {
+class Clock;
+}
+
+/// The two ordered row lists (IPv4 and IPv6) and the raw search answer of each device, shared by all back
+/// ends. Thread-safe: answers are added on threads of the network library while the scene's thread reads. A
+/// reader gets a copy that may lack rows of a moment later, never a torn one.
+class DeviceStore
+{
+public:
+    /// `clock` gives the time for the limit on notifications.
+    explicit DeviceStore(std::shared_ptr<const sdk::Clock> clock);
+
+    /// What adding an answer calls for.
+    struct Addition
+    {
+        bool added = false;  ///< false: the device has a row already, and the answer was dropped
+        bool notify = false; ///< at least a second has passed since the last notification
+        int ipv4Count = 0;   ///< rows of the IPv4 list after the addition
+    };
+
+    /// Turns an answer into a row at its place. The first answer of a device wins; a loopback address goes to
+    /// the head of its list. Constant time, whatever the length of the list.
+    Addition addAnswer(const sdk::SearchAnswer &answer);
+
+    /// Forgets every row and record.
+    void clear();
+
+    [[nodiscard]] QVariantList ipv4Rows() const;
+    [[nodiscard]] QVariantList ipv6Rows() const;
+    [[nodiscard]] int ipv4Count() const;
+
+    /// The raw search answer of the device, null when none is kept.
+    [[nodiscard]] std::shared_ptr<const sdk::SearchAnswer> record(const QString &mac) const;
+
+private:
+    /// An ordered list of rows with an index from a row's identity to its place. Places are counted from the
+    /// first row ever appended, so that a row put in front moves none of the others.
+    class RowList
+    {
+    public:
+        void append(const QString &identity, const QJsonObject &row);
+        void prepend(const QString &identity, const QJsonObject &row);
+        [[nodiscard]] bool contains(const QString &identity) const { return m_places.contains(identity); }
+        [[nodiscard]] const QVariantList &rows() const { return m_rows; }
+        void clear();
+
+    private:
+        QVariantList m_rows;
+        QHash<QString, qsizetype> m_places;
+        qsizetype m_placeOfFront = 0;
+    };
+
+    bool isNotificationDue();
+
+    const std::shared_ptr<const sdk::Clock> m_clock;
+    mutable std::mutex m_mutex;
+    RowList m_ipv4;
+    RowList m_ipv6;
+    QHash<QString, std::shared_ptr<const sdk::SearchAnswer>> m_records; ///< by MAC
+    std::optional<std::int64_t> m_lastNotification;                     ///< in milliseconds since the epoch
+};

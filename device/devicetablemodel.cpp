@@ -1,0 +1,369 @@
+#include "device/devicetablemodel.h"
+
+#include "device/devicefactory.h"
+#include "device/devicefilter.h"
+#include "device/deviceorder.h"
+#include "device/devicerow.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+
+namespace {
+
+const QString family = QStringLiteral("dh");
+
+enum Role
+{
+    CheckedRole = Qt::UserRole,
+    NumRole,
+    ConflictRole,
+    AddressRole,
+    PortRole,
+    IdentityRole,
+    FirstKeyRole, ///< from here on: rowKeys, in their order
+};
+
+/// Keys that are read from the row as they are.
+constexpr std::array rowKeys = {
+    DeviceRowKey::state,   DeviceRowKey::name,     DeviceRowKey::type,     DeviceRowKey::model,
+    DeviceRowKey::ipport,  DeviceRowKey::mac,      DeviceRowKey::vision,   DeviceRowKey::res,
+    DeviceRowKey::operate, DeviceRowKey::filepath, DeviceRowKey::upgrade,  DeviceRowKey::upgraderes,
+    DeviceRowKey::url,     DeviceRowKey::result,   DeviceRowKey::httpport,
+};
+
+QString identityOf(const QJsonObject &row)
+{
+    const QString mac = row.value(DeviceRowKey::mac).toString();
+    return mac.isEmpty() ? row.value(DeviceRowKey::ipport).toString() : mac;
+}
+
+/// The value of a key; rows that lack it (IPv6 rows lack some) have the value that new rows begin with.
+QVariant valueOf(const QJsonObject &row, QLatin1StringView key)
+{
+    const QJsonValue value = row.value(key);
+    if (!value.isUndefined())
+        return value.toVariant();
+    if (key == DeviceRowKey::res || key == DeviceRowKey::upgraderes)
+        return -1;
+    return key == DeviceRowKey::upgrade ? QVariant(0) : QVariant(QString());
+}
+
+} // namespace
+
+DeviceTableModel::DeviceTableModel(QObject *parent) : QAbstractListModel(parent) {}
+
+int DeviceTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant DeviceTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Row &row = m_rows.at(index.row());
+    switch (role) {
+    case CheckedRole:
+        return m_checked.contains(row.identity);
+    case NumRole:
+        return index.row() + 1;
+    case ConflictRole:
+        return row.conflict;
+    case AddressRole:
+        return row.ipport.left(row.ipport.lastIndexOf(QLatin1Char(':')));
+    case PortRole:
+        return row.ipport.mid(row.ipport.lastIndexOf(QLatin1Char(':')) + 1);
+    case IdentityRole:
+        return row.identity;
+    default:
+        break;
+    }
+    const int key = role - FirstKeyRole;
+    return key >= 0 && key < int(rowKeys.size()) ? valueOf(row.values, rowKeys[key]) : QVariant();
+}
+
+bool DeviceTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != CheckedRole)
+        return false;
+    setChecked(index.row(), value.toBool());
+    return true;
+}
+
+QHash<int, QByteArray> DeviceTableModel::roleNames() const
+{
+    QHash<int, QByteArray> names = {
+        {CheckedRole, "checked"}, {NumRole, "num"},   {ConflictRole, "conflict"},
+        {AddressRole, "address"}, {PortRole, "port"}, {IdentityRole, "identity"},
+    };
+    for (std::size_t key = 0; key < rowKeys.size(); ++key)
+        names.insert(FirstKeyRole + static_cast<int>(key),
+                     QByteArray(rowKeys[key].data(), rowKeys[key].size()));
+    return names;
+}
+
+CDeviceFactory *DeviceTableModel::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void DeviceTableModel::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    if (m_deviceFactory == deviceFactory)
+        return;
+    m_deviceFactory = deviceFactory;
+    Q_EMIT deviceFactoryChanged();
+    refresh();
+}
+
+void DeviceTableModel::setShowInitialised(bool show)
+{
+    if (std::exchange(m_showInitialised, show) != show)
+        applyFilter();
+}
+
+void DeviceTableModel::setShowUninitialised(bool show)
+{
+    if (std::exchange(m_showUninitialised, show) != show)
+        applyFilter();
+}
+
+void DeviceTableModel::setIpv6(bool ipv6)
+{
+    if (std::exchange(m_ipv6, ipv6) != ipv6)
+        applyFilter();
+}
+
+void DeviceTableModel::setSearchText(const QString &searchText)
+{
+    if (std::exchange(m_searchText, searchText) != searchText)
+        applyFilter();
+}
+
+void DeviceTableModel::applyFilter()
+{
+    Q_EMIT filterChanged();
+    refresh();
+}
+
+QString DeviceTableModel::filterType() const
+{
+    if (m_showInitialised)
+        return m_showUninitialised ? QStringLiteral("nofilter") : QStringLiteral("removeuninit");
+    return m_showUninitialised ? QStringLiteral("removeinit") : QStringLiteral("removeall");
+}
+
+QList<DeviceTableModel::Row> DeviceTableModel::readRows()
+{
+    const auto filterData = [this](const QString &type) {
+        return m_ipv6 ? m_deviceFactory->filterDataIPV6(family, type)
+                      : m_deviceFactory->filterData(family, type);
+    };
+    const QVariantList all = filterData(QStringLiteral("nofilter"));
+    m_totalCount = static_cast<int>(all.size());
+    forgetLostTicks(all);
+
+    const QString type = filterType();
+    const QVariantList kept = type == QLatin1String("nofilter") ? all : filterData(type);
+    QList<Row> rows;
+    rows.reserve(kept.size());
+    for (const QVariant &value : kept) {
+        const QJsonObject values = value.toJsonObject();
+        if (m_searchText.isEmpty() || holdsText(values, m_searchText))
+            rows.append({.values = values,
+                         .identity = identityOf(values),
+                         .ipport = values.value(DeviceRowKey::ipport).toString()});
+    }
+    return rows;
+}
+
+void DeviceTableModel::forgetLostTicks(const QVariantList &all)
+{
+    if (m_checked.isEmpty())
+        return;
+    QSet<QString> left;
+    for (const QVariant &value : all) {
+        const QString identity = identityOf(value.toJsonObject());
+        if (m_checked.contains(identity))
+            left.insert(identity);
+    }
+    m_checked.swap(left);
+}
+
+void DeviceTableModel::markConflicts(QList<Row> &rows)
+{
+    QHash<QString, int> occurrences;
+    occurrences.reserve(rows.size());
+    for (const Row &row : std::as_const(rows))
+        ++occurrences[row.ipport];
+    m_conflictCount = 0;
+    for (Row &row : rows) {
+        row.conflict = occurrences.value(row.ipport) > 1;
+        m_conflictCount += row.conflict ? 1 : 0;
+    }
+}
+
+void DeviceTableModel::sortRows(QList<Row> &rows) const
+{
+    if (m_sortKey.isEmpty())
+        return;
+    const DeviceOrder order(m_sortKey);
+    std::vector<DeviceOrder::SortKey> keys;
+    keys.reserve(rows.size());
+    for (const Row &row : std::as_const(rows))
+        keys.push_back(order.sortKey(row.values));
+
+    std::vector<qsizetype> places(rows.size());
+    std::iota(places.begin(), places.end(), 0);
+    const int direction = m_sortOrder == Qt::AscendingOrder ? 1 : -1;
+    std::stable_sort(places.begin(), places.end(), [&](qsizetype left, qsizetype right) {
+        return direction * DeviceOrder::compare(keys[left], keys[right]) < 0;
+    });
+
+    QList<Row> sorted;
+    sorted.reserve(rows.size());
+    for (const qsizetype place : places)
+        sorted.append(std::move(rows[place]));
+    rows = std::move(sorted);
+}
+
+void DeviceTableModel::refresh()
+{
+    if (!m_deviceFactory)
+        return;
+    QList<Row> rows = readRows();
+    markConflicts(rows);
+    sortRows(rows);
+    takeRows(std::move(rows));
+    countChecked();
+    Q_EMIT countChanged();
+}
+
+void DeviceTableModel::takeRows(QList<Row> rows)
+{
+    const qsizetype shown = m_rows.size();
+    const bool grown = rows.size() >= shown && std::equal(m_rows.cbegin(), m_rows.cend(), rows.cbegin(),
+                                                          [](const Row &before, const Row &now) {
+                                                              return before.identity == now.identity;
+                                                          });
+    if (!grown) {
+        beginResetModel();
+        m_rows = std::move(rows);
+        endResetModel();
+        return;
+    }
+    // The usual case during a search. Views keep their place and their delegates.
+    if (rows.size() > shown) {
+        beginInsertRows(QModelIndex(), static_cast<int>(shown), static_cast<int>(rows.size() - 1));
+        m_rows = std::move(rows);
+        endInsertRows();
+    } else {
+        m_rows = std::move(rows);
+    }
+    if (shown > 0)
+        Q_EMIT dataChanged(index(0), index(static_cast<int>(shown - 1)));
+}
+
+void DeviceTableModel::toggleSort(const QString &key)
+{
+    if (m_sortKey != key) {
+        m_sortKey = key;
+        m_sortOrder = Qt::AscendingOrder;
+    } else if (m_sortOrder == Qt::AscendingOrder) {
+        m_sortOrder = Qt::DescendingOrder;
+    } else {
+        m_sortKey.clear();
+        m_sortOrder = Qt::AscendingOrder;
+    }
+    Q_EMIT sortChanged();
+    refresh();
+}
+
+void DeviceTableModel::setChecked(int row, bool checked)
+{
+    setRangeChecked(row, row, checked);
+}
+
+void DeviceTableModel::setRangeChecked(int first, int last, bool checked)
+{
+    first = std::max(first, 0);
+    last = std::min(last, rowCount() - 1);
+    if (first > last)
+        return;
+    for (int row = first; row <= last; ++row) {
+        if (checked)
+            m_checked.insert(m_rows.at(row).identity);
+        else
+            m_checked.remove(m_rows.at(row).identity);
+    }
+    Q_EMIT dataChanged(index(first), index(last), {CheckedRole});
+    countChecked();
+}
+
+void DeviceTableModel::setAllChecked(bool checked)
+{
+    setRangeChecked(0, rowCount() - 1, checked);
+}
+
+void DeviceTableModel::countChecked()
+{
+    m_checkedCount =
+        m_checked.isEmpty()
+            ? 0
+            : static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(), [this](const Row &row) {
+                  return m_checked.contains(row.identity);
+              }));
+    Q_EMIT checkedCountChanged();
+}
+
+Qt::CheckState DeviceTableModel::checkState() const
+{
+    if (m_checkedCount == 0)
+        return Qt::Unchecked;
+    return m_checkedCount == m_rows.size() ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+QVariantMap DeviceTableModel::get(int row) const
+{
+    if (row < 0 || row >= rowCount())
+        return {};
+    QVariantMap values = m_rows.at(row).values.toVariantMap();
+    values.insert(DeviceRowKey::checked, m_checked.contains(m_rows.at(row).identity));
+    values.insert(DeviceRowKey::num, QString::number(row + 1));
+    return values;
+}
+
+int DeviceTableModel::rowOf(const QString &identity) const
+{
+    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [&identity](const Row &candidate) {
+        return candidate.identity == identity;
+    });
+    return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
+}
+
+QStringList DeviceTableModel::checkedMacs() const
+{
+    QStringList macs;
+    for (const Row &row : m_rows) {
+        if (m_checked.contains(row.identity))
+            macs.append(row.values.value(DeviceRowKey::mac).toString());
+    }
+    return macs;
+}
+
+QString DeviceTableModel::textOf(const QList<int> &rows) const
+{
+    constexpr std::array copiedKeys = {DeviceRowKey::name,   DeviceRowKey::type, DeviceRowKey::model,
+                                       DeviceRowKey::ipport, DeviceRowKey::mac,  DeviceRowKey::vision};
+    QStringList lines;
+    for (const int row : rows) {
+        if (row < 0 || row >= rowCount())
+            continue;
+        QStringList cells;
+        for (const QLatin1StringView key : copiedKeys)
+            cells.append(m_rows.at(row).values.value(key).toString().simplified());
+        lines.append(cells.join(QLatin1Char('\t')));
+    }
+    return lines.join(QLatin1Char('\n'));
+}

@@ -1,0 +1,125 @@
+// The device table of a page: the rows that its filters leave, as an item model.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QJsonObject>
+#include <QList>
+#include <QPointer>
+#include <QSet>
+
+class CDeviceFactory;
+
+/// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and four computed ones:
+/// "conflict" (true when another shown row has the same "ipport"), "address" and "port" (the two halves of
+/// "ipport") and "identity" ("mac", or "ipport" where there is none).
+///
+/// It asks the factory's filterData or filterDataIPV6 for its rows, adds the text filter on top, and keeps
+/// the user's ticks, selection and order over a refresh. Lives on the scene's thread.
+///
+/// It exists because the toolkit's own TableModel takes its rows through JavaScript objects: with 10,000
+/// devices each refresh would hold up the window for a quarter of a second, once a second during a search.
+class DeviceTableModel : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_PROPERTY(
+        CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    Q_PROPERTY(bool showInitialised READ showInitialised WRITE setShowInitialised NOTIFY filterChanged)
+    Q_PROPERTY(bool showUninitialised READ showUninitialised WRITE setShowUninitialised NOTIFY filterChanged)
+    Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
+    Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
+    Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
+    Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
+    Q_PROPERTY(int totalCount READ totalCount NOTIFY countChanged)
+    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
+    Q_PROPERTY(int conflictCount READ conflictCount NOTIFY countChanged)
+    Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedCountChanged)
+public:
+    explicit DeviceTableModel(QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override; ///< "checked" only
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+    [[nodiscard]] bool showInitialised() const { return m_showInitialised; }
+    void setShowInitialised(bool show);
+    [[nodiscard]] bool showUninitialised() const { return m_showUninitialised; }
+    void setShowUninitialised(bool show);
+    [[nodiscard]] bool ipv6() const { return m_ipv6; }
+    void setIpv6(bool ipv6);
+    [[nodiscard]] QString searchText() const { return m_searchText; }
+    void setSearchText(const QString &searchText);
+    [[nodiscard]] QString sortKey() const { return m_sortKey; }
+    [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
+
+    [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
+    [[nodiscard]] int checkedCount() const { return m_checkedCount; }
+    [[nodiscard]] int conflictCount() const { return m_conflictCount; }
+    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
+
+    /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
+    Q_INVOKABLE void refresh();
+
+    /// Orders by a key: first ascending, then descending, then in the order of the list again. Addresses are
+    /// compared as numbers, texts by the user's language.
+    Q_INVOKABLE void toggleSort(const QString &key);
+
+    Q_INVOKABLE void setChecked(int row, bool checked);
+    Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
+    Q_INVOKABLE void setAllChecked(bool checked);
+
+    /// The row as the scene sees it, with its keys; empty when `row` is out of range.
+    Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
+
+    /// Position of the row with this identity, -1 when it is not shown.
+    Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
+
+    /// "mac" of the checked rows in the order shown.
+    Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
+
+    /// The texts of the given rows as lines with tab-separated columns, for the clipboard.
+    Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;
+
+Q_SIGNALS:
+    void deviceFactoryChanged();
+    void filterChanged();
+    void sortChanged();
+    void countChanged();
+    void checkedCountChanged();
+
+private:
+    /// A shown row with what is computed from it once, at refresh.
+    struct Row
+    {
+        QJsonObject values;
+        QString identity;
+        QString ipport;
+        bool conflict = false;
+    };
+
+    [[nodiscard]] QString filterType() const;
+    [[nodiscard]] QList<Row> readRows();
+    void markConflicts(QList<Row> &rows);
+    void sortRows(QList<Row> &rows) const;
+    void forgetLostTicks(const QVariantList &all);
+    void takeRows(QList<Row> rows);
+    void applyFilter();
+    void countChecked();
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    bool m_showInitialised = true;
+    bool m_showUninitialised = true;
+    bool m_ipv6 = false;
+    QString m_searchText;
+    QString m_sortKey; ///< empty: the order of the list
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+
+    QList<Row> m_rows;
+    QSet<QString> m_checked; ///< identities of ticked rows, also of those that a filter hides
+    int m_totalCount = 0;
+    int m_checkedCount = 0;
+    int m_conflictCount = 0;
+};

@@ -1,0 +1,23 @@
+#include "device/devicefilter.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+
+void CDeviceDH::startSearch()
+{
+    m_search->start(m_searchSettings().localDomain);
+}
+
+void CDeviceDH::setSearchByIPInfo(quint32 beginip, quint32 endip)
+{
+    m_search->setRange({.begin = beginip, .end = endip});
+}
+
+QVariantList CDeviceDH::filterData(const QString &filtertype, const QString &searchtext)
+{
+    return filteredRows(store().ipv4Rows(), filtertype, searchtext, RowFamily::IPv4);
+}
+
+QVariantList CDeviceDH::filterDataIPV6(const QString &filtertype, const QString &searchtext)
+{
+    return filteredRows(store().ipv6Rows(), filtertype, searchtext, RowFamily::IPv6);
+}

@@ -1,0 +1,204 @@
+#include "device/treemodel.h"
+
+#include "device/devicefactory.h"
+#include "device/devicerow.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Where a group stands: ordinary types first, then these two.
+int groupRank(const QString &type)
+{
+    if (type == otherDeviceType())
+        return 2;
+    return type == QLatin1String("PC-NVR") ? 1 : 0;
+}
+
+} // namespace
+
+OVTreeModel::OVTreeModel(QObject *parent) : QAbstractItemModel(parent) {}
+
+// The internal id of a group is 0; that of a device is the row of its group plus 1.
+
+QModelIndex OVTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) + 1 : quintptr(0));
+}
+
+QModelIndex OVTreeModel::parent(const QModelIndex &child) const
+{
+    if (!child.isValid() || isGroup(child))
+        return {};
+    return createIndex(static_cast<int>(child.internalId()) - 1, 0, quintptr(0));
+}
+
+int OVTreeModel::rowCount(const QModelIndex &parent) const
+{
+    if (!parent.isValid())
+        return static_cast<int>(m_groups.size());
+    return isGroup(parent) && parent.column() == 0
+               ? static_cast<int>(m_groups.at(parent.row()).devices.size())
+               : 0;
+}
+
+int OVTreeModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+const OVTreeModel::Group &OVTreeModel::groupOf(const QModelIndex &device) const
+{
+    return m_groups.at(static_cast<qsizetype>(device.internalId()) - 1);
+}
+
+QVariant OVTreeModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    return isGroup(index) ? groupData(m_groups.at(index.row()), role)
+                          : deviceData(groupOf(index).devices.at(index.row()), role);
+}
+
+QVariant OVTreeModel::groupData(const Group &group, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case NameRole:
+        return group.type;
+    case IsCheckedRole:
+        if (group.checkedCount == 0)
+            return Qt::Unchecked;
+        return group.checkedCount == group.devices.size() ? Qt::Checked : Qt::PartiallyChecked;
+    case CopyRetRole:
+        return -1;
+    default:
+        return {};
+    }
+}
+
+QVariant OVTreeModel::deviceData(const Device &device, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case NameRole:
+        return device.ipport;
+    case IsCheckedRole:
+        return device.checked ? Qt::Checked : Qt::Unchecked;
+    case CopyRetRole:
+        return device.copyRet;
+    default:
+        return {};
+    }
+}
+
+bool OVTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return false;
+    if (role == IsCheckedRole) {
+        const bool checked = value.toInt() != Qt::Unchecked;
+        if (isGroup(index))
+            setGroupChecked(index, checked);
+        else
+            setDeviceChecked(index, checked);
+        Q_EMIT checkedDevicesChanged();
+        return true;
+    }
+    if (role == CopyRetRole && !isGroup(index)) {
+        m_groups[static_cast<qsizetype>(index.internalId()) - 1].devices[index.row()].copyRet = value.toInt();
+        Q_EMIT dataChanged(index, index, {CopyRetRole});
+        return true;
+    }
+    return false;
+}
+
+void OVTreeModel::setGroupChecked(const QModelIndex &group, bool checked)
+{
+    Group &changed = m_groups[group.row()];
+    for (Device &device : changed.devices)
+        device.checked = checked;
+    changed.checkedCount = checked ? static_cast<int>(changed.devices.size()) : 0;
+    Q_EMIT dataChanged(group, group, {IsCheckedRole});
+    Q_EMIT dataChanged(index(0, 0, group), index(rowCount(group) - 1, 0, group), {IsCheckedRole});
+}
+
+void OVTreeModel::setDeviceChecked(const QModelIndex &device, bool checked)
+{
+    Group &group = m_groups[static_cast<qsizetype>(device.internalId()) - 1];
+    if (std::exchange(group.devices[device.row()].checked, checked) == checked)
+        return;
+    group.checkedCount += checked ? 1 : -1;
+    Q_EMIT dataChanged(device, device, {IsCheckedRole});
+    Q_EMIT dataChanged(device.parent(), device.parent(), {IsCheckedRole});
+}
+
+QHash<int, QByteArray> OVTreeModel::roleNames() const
+{
+    return {{NameRole, "name"}, {IsCheckedRole, "isChecked"}, {CopyRetRole, "copyRet"}};
+}
+
+CDeviceFactory *OVTreeModel::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void OVTreeModel::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    if (std::exchange(m_deviceFactory, deviceFactory) != deviceFactory)
+        Q_EMIT deviceFactoryChanged();
+}
+
+void OVTreeModel::resetItems(const QString &type, const QString &searchText)
+{
+    if (!m_deviceFactory)
+        return;
+    const QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), type, searchText);
+
+    for (const Group &group : std::as_const(m_groups)) {
+        for (const Device &device : group.devices)
+            m_remembered.insert(device.ipport, device);
+    }
+
+    QHash<QString, qsizetype> places;
+    QList<Group> groups;
+    for (const QVariant &row : rows) {
+        const QJsonObject values = row.toJsonObject();
+        QString typeText = values.value(DeviceRowKey::type).toString();
+        if (typeText.isEmpty())
+            typeText = otherDeviceType();
+        const auto place = places.constFind(typeText);
+        const qsizetype position = place == places.cend() ? groups.size() : *place;
+        if (place == places.cend()) {
+            places.insert(typeText, position);
+            groups.append({.type = typeText, .devices = {}});
+        }
+        const QString ipport = values.value(DeviceRowKey::ipport).toString();
+        const Device device = m_remembered.value(ipport, {.ipport = ipport});
+        groups[position].devices.append(device);
+        groups[position].checkedCount += device.checked ? 1 : 0;
+    }
+    std::sort(groups.begin(), groups.end(), [](const Group &left, const Group &right) {
+        return std::pair(groupRank(left.type), left.type) < std::pair(groupRank(right.type), right.type);
+    });
+
+    beginResetModel();
+    m_groups = std::move(groups);
+    endResetModel();
+    Q_EMIT checkedDevicesChanged();
+}
+
+QStringList OVTreeModel::checkedDevices() const
+{
+    QStringList devices;
+    for (const Group &group : m_groups) {
+        for (const Device &device : group.devices) {
+            if (device.checked)
+                devices.append(device.ipport);
+        }
+    }
+    return devices;
+}

@@ -1,0 +1,45 @@
+// A back end whose rows a test sets.
+#pragma once
+
+#include "device/devicebase.h"
+#include "device/devicefactory.h"
+#include "device/devicefilter.h"
+#include "device/devicerow.h"
+#include "tests/device/searchanswers.h"
+
+class RowsBackEnd : public CDeviceBase
+{
+    Q_OBJECT
+public:
+    RowsBackEnd() : CDeviceBase(nullptr) {}
+
+    QVariantList filterData(const QString &filtertype, const QString &searchtext) override
+    {
+        return filteredRows(ipv4, filtertype, searchtext, RowFamily::IPv4);
+    }
+    QVariantList filterDataIPV6(const QString &filtertype, const QString &searchtext) override
+    {
+        return filteredRows(ipv6, filtertype, searchtext, RowFamily::IPv6);
+    }
+
+    void add(const AnswerTexts &texts)
+    {
+        const sdk::SearchAnswer answer = searchAnswer(texts);
+        if (texts.ipVersion == 4)
+            ipv4.append(ipv4Row(answer));
+        else
+            ipv6.append(ipv6Row(answer));
+    }
+
+    QVariantList ipv4;
+    QVariantList ipv6;
+};
+
+/// A factory of one RowsBackEnd under the name "dh".
+struct RowsFactory
+{
+    std::shared_ptr<RowsBackEnd> rows = std::make_shared<RowsBackEnd>();
+    CDeviceFactory factory{{{QStringLiteral("dh"), [this] {
+                                 return rows;
+                             }}}};
+};

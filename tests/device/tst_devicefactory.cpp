@@ -1,0 +1,276 @@
+#include "device/devicefactory.h"
+#include "device/devicehik.h"
+#include "device/deviceol.h"
+
+#include <QJSEngine>
+#include <QMetaMethod>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+namespace {
+
+const QStringList operations = {"startSearch",
+                                "setSearchByIPInfo",
+                                "filterData",
+                                "filterDataIPV6",
+                                "modifyIP",
+                                "setDefaultAccount",
+                                "setInitAccount",
+                                "setAddDevice",
+                                "setPluginPort",
+                                "setDeleteDevice",
+                                "setBatchDeleteDevice",
+                                "getDeviceDetail",
+                                "getDeviceDetailString",
+                                "getDeviceInfo",
+                                "importDevice",
+                                "exportDevice",
+                                "getLoginDevice",
+                                "getPassWordType",
+                                "setUpgradeFilePath",
+                                "startUpgrade",
+                                "startUpgradeByDocument",
+                                "stopUpgrade",
+                                "openTemplate",
+                                "importUpgradeDocument",
+                                "getErrorName",
+                                "findAndLoginDevice",
+                                "updataDeviceInfo",
+                                "getCameraConfig",
+                                "getConfigData",
+                                "getEncodeCaps",
+                                "setConfigData",
+                                "getDeviceChannelData",
+                                "confirmConfigData",
+                                "getVideoIn",
+                                "getVideoInByChangeChannel",
+                                "getEncodeInfo",
+                                "copyConfigToDevice",
+                                "systemConfig",
+                                "addP2PPort",
+                                "getP2PWebPort",
+                                "getDays",
+                                "hasDeviceUpgrading",
+                                "snapPictureToFile",
+                                "startSnap",
+                                "exitProgram",
+                                "releaseP2PPort"};
+
+const QStringList signalNames = {"signalAddDeviceToTable",
+                                 "signalSearchCount",
+                                 "signalSearchDone",
+                                 "signalAddSingleDeviceToTable",
+                                 "signalUpdateSchedule",
+                                 "signalUpdateScheduleUpgradeByDocument",
+                                 "signalShowUpgradeFinishTip",
+                                 "signalRetToCopyConfig",
+                                 "signalRetToSystemConfig",
+                                 "signalSystemConfigEnablePassword",
+                                 "signalHighLevelLoginRet",
+                                 "signalGetDeviceCapRet",
+                                 "signalChangeVideoType",
+                                 "signalChangeVideoChannel",
+                                 "signalChangeEncodeChannel",
+                                 "signalConfirmEncodeConfig",
+                                 "signalSetChannelNameFinished",
+                                 "signalSnapPictureToFile",
+                                 "signalSnapPictureToFileAgain"};
+
+/// Own methods of the factory of one kind, in declaration order, without the copies that default arguments
+/// make.
+QStringList ownMethods(QMetaMethod::MethodType type)
+{
+    QStringList names;
+    const QMetaObject &meta = CDeviceFactory::staticMetaObject;
+    for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
+        const QString name = QString::fromLatin1(meta.method(index).name());
+        if (meta.method(index).methodType() == type && !names.contains(name))
+            names.append(name);
+    }
+    return names;
+}
+
+/// A back end that notes what it was called with.
+class NotingBackEnd : public CDeviceBase
+{
+    Q_OBJECT
+public:
+    NotingBackEnd() : CDeviceBase(nullptr) {}
+
+    void setDefaultAccount(const QString &account, const QString &password) override
+    {
+        calls.append("setDefaultAccount " + account + ' ' + password);
+    }
+    void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override
+    {
+        calls.append("snapPictureToFile " + kind + ' ' + channelNum.toString() + ' ' + address);
+    }
+    bool importDevice(const QString &path, ImportSummary &summary) override
+    {
+        calls.append("importDevice " + path);
+        summary = {.total = 7, .errcount = 2};
+        return true;
+    }
+    bool hasDeviceUpgrading() override { return upgrading; }
+    QVariantMap getDeviceDetail(const QString &) override { return {{"mac", "02:aa"}, {"name", "大厅"}}; }
+
+    QStringList calls;
+    bool upgrading = false;
+};
+
+} // namespace
+
+class TestDeviceFactory : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<NotingBackEnd> m_backEnd = std::make_shared<NotingBackEnd>();
+    CDeviceFactory m_factory{{
+        {"dh",
+         [this] {
+             return m_backEnd;
+         }},
+        {"hik",
+         [] {
+             return std::make_shared<CDeviceHik>(nullptr);
+         }},
+        {"ol",
+         [] {
+             return std::make_shared<CDeviceOL>(nullptr);
+         }},
+    }};
+
+private Q_SLOTS:
+    void init()
+    {
+        m_backEnd->calls.clear();
+        m_backEnd->upgrading = false;
+    }
+
+    void offersEveryOperationAndSignalInOrder()
+    {
+        QCOMPARE(ownMethods(QMetaMethod::Method), operations);
+        QCOMPARE(ownMethods(QMetaMethod::Signal), signalNames);
+    }
+
+    void relaysEverySignalWithItsArguments()
+    {
+        const QMetaObject &base = CDeviceBase::staticMetaObject;
+        int relayed = 0;
+        for (int index = base.methodOffset(); index < base.methodCount(); ++index) {
+            const QMetaMethod signal = base.method(index);
+            if (signal.methodType() != QMetaMethod::Signal)
+                continue;
+            const QByteArray twin = signal.methodSignature().replace("signalCDevice", "signal");
+            const int twinIndex = m_factory.metaObject()->indexOfSignal(twin.constData());
+            QVERIFY2(twinIndex >= 0, twin.constData());
+            QSignalSpy spy(&m_factory, m_factory.metaObject()->method(twinIndex));
+
+            int number = 40 + index;
+            QString text = "text " + QString::number(index);
+            QString other = "other " + QString::number(index);
+            QVariantList expected;
+            std::array<void *, 4> arguments = {};
+            for (int argument = 0; argument < signal.parameterCount(); ++argument) {
+                const bool isInt = signal.parameterMetaType(argument) == QMetaType::fromType<int>();
+                QString &string = expected.contains(text) ? other : text;
+                arguments[argument + 1] = isInt ? static_cast<void *>(&number) : &string;
+                expected.append(isInt ? QVariant(number) : QVariant(string));
+            }
+            QMetaObject::activate(m_backEnd.get(), &base, index - base.methodOffset(), arguments.data());
+            QCOMPARE(spy.size(), 1);
+            QCOMPARE(spy.at(0), expected);
+            ++relayed;
+        }
+        QCOMPARE(relayed, 19);
+    }
+
+    void aSignalOfAnotherThreadArrivesOnTheFactorysThread()
+    {
+        QThread *receiver = nullptr;
+        connect(&m_factory, &CDeviceFactory::signalSearchDone, this,
+                [&] { receiver = QThread::currentThread(); });
+        QSignalSpy done(&m_factory, &CDeviceFactory::signalSearchDone);
+        const std::unique_ptr<QThread> thread(
+            QThread::create([this] { Q_EMIT m_backEnd->signalCDeviceSearchDone(); }));
+        thread->start();
+        thread->wait();
+        QCOMPARE(done.size(), 0);
+        QVERIFY(done.wait());
+        QCOMPARE(receiver, QThread::currentThread());
+    }
+
+    void forwardsToTheFamilyThatIsNamed()
+    {
+        m_factory.setDefaultAccount("hik", "admin", "1");
+        m_factory.setDefaultAccount("dh", "root", "2");
+        m_factory.startSnap("dh", 3, "10.0.0.1:37777");
+        QCOMPARE(m_backEnd->calls,
+                 QStringList({"setDefaultAccount root 2", "snapPictureToFile liveCapture 3 10.0.0.1:37777"}));
+        QCOMPARE(m_factory.getDeviceDetailString("dh", "02:aa"), "mac: 02:aa\nname: 大厅\n");
+    }
+
+    void anyFamilyMayBeUpgrading()
+    {
+        QVERIFY(!m_factory.hasDeviceUpgrading());
+        m_backEnd->upgrading = true;
+        QVERIFY(m_factory.hasDeviceUpgrading());
+    }
+
+    void importFillsAnObjectOrCallsAFunction()
+    {
+        QJSEngine engine;
+        QJSValue object = engine.newObject();
+        QVERIFY(m_factory.importDevice("dh", "list.csv", object));
+        QCOMPARE(object.property("total").toInt(), 7);
+        QCOMPARE(object.property("errcount").toInt(), 2);
+
+        const QJSValue function =
+            engine.evaluate("(function(total, errcount) { seen = total + '/' + errcount })");
+        QVERIFY(m_factory.importDevice("dh", "list.csv", function));
+        QCOMPARE(engine.globalObject().property("seen").toString(), "7/2");
+        QVERIFY(m_factory.importDevice("dh", "list.csv", QJSValue()));
+    }
+
+    void anUnknownOrEmptyFamilyGivesEmptyValues_data()
+    {
+        QTest::addColumn<QString>("family");
+        for (const char *family : {"hik", "ol", "nobody", ""})
+            QTest::newRow(family) << QString(family);
+    }
+
+    /// Every operation that takes a family, with arguments of the right types, however many.
+    void anUnknownOrEmptyFamilyGivesEmptyValues()
+    {
+        QFETCH(QString, family);
+        const QMetaObject *meta = m_factory.metaObject();
+        int called = 0;
+        for (int index = meta->methodOffset(); index < meta->methodCount(); ++index) {
+            const QMetaMethod method = meta->method(index);
+            if (method.methodType() != QMetaMethod::Method || method.parameterNames().value(0) != "family")
+                continue;
+            std::vector<QVariant> values;
+            std::vector<void *> arguments = {nullptr};
+            values.reserve(method.parameterCount() + 1);
+            const QMetaType returned = method.returnMetaType();
+            if (returned != QMetaType::fromType<void>())
+                arguments[0] = values.emplace_back(returned).data();
+            for (int argument = 0; argument < method.parameterCount(); ++argument) {
+                QVariant value(method.parameterMetaType(argument));
+                if (argument == 0)
+                    value = family;
+                arguments.push_back(values.emplace_back(value).data());
+            }
+            QVERIFY(m_factory.qt_metacall(QMetaObject::InvokeMetaMethod, index, arguments.data()) < 0);
+            if (arguments[0])
+                QCOMPARE(values.front(), QVariant(returned));
+            ++called;
+        }
+        QVERIFY(called >= 38);
+        QVERIFY(m_backEnd->calls.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDeviceFactory)
+#include "tst_devicefactory.moc"

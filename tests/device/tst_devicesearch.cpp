@@ -1,0 +1,219 @@
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "device/ipv4address.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/steppableclock.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+using namespace std::chrono_literals;
+
+/// The whole way from the factory to the devices of a simulated site, on a clock that is stepped.
+class TestDeviceSearch : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
+    std::shared_ptr<sdk::demo::DemoSite> m_site;
+    std::unique_ptr<CDeviceFactory> m_factory;
+    bool m_localDomain = true;
+
+    void openSite(const QString &scene)
+    {
+        m_factory.reset();
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        QString error;
+        m_site = sdk::demo::DemoSite::open(scene, m_clock, &error);
+        QVERIFY2(m_site, qPrintable(error));
+        const auto store = std::make_shared<DeviceStore>(m_clock);
+        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
+            {"dh", [this, store] {
+                 return std::make_shared<CDeviceDH>(store, m_site->libraries(),
+                                                    [this] { return SearchSettings{m_localDomain}; });
+             }}});
+    }
+
+    /// Steps the clock until `spy` has `count` signals.
+    void stepUntil(const QSignalSpy &spy, qsizetype count)
+    {
+        const QDeadlineTimer deadline(20s);
+        while (spy.size() < count && !deadline.hasExpired()) {
+            m_clock->advance(50ms);
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            QThread::yieldCurrentThread();
+        }
+        QVERIFY2(spy.size() >= count, "the search did not end");
+    }
+
+    QStringList operations() const
+    {
+        QStringList names;
+        for (const auto &request : m_site->requests().all()) {
+            if (request.operation.startsWith("NetSt") || request.operation.startsWith("NetSearch"))
+                names.append(request.operation);
+        }
+        return names;
+    }
+
+private Q_SLOTS:
+    void init() { m_localDomain = true; }
+    void cleanup() { m_factory.reset(); }
+
+    void aLocalSearchAsksThreeTimesAndStops()
+    {
+        openSite("office");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        const std::int64_t start = m_clock->now();
+        m_factory->startSearch("dh");
+        stepUntil(done, 1);
+
+        QCOMPARE(operations(),
+                 QStringList({"NetStartSearchDevices", "NetStartSearchDevices", "NetStartSearchDevicesEx",
+                              "NetStopSearchDevices", "NetStopSearchDevices", "NetStopSearchDevices"}));
+        const auto requests = m_site->requests().of("NetStartSearchDevices");
+        const auto second = m_site->requests().of("NetStartSearchDevicesEx");
+        QVERIFY(requests.at(1).time - start >= 1000);
+        QVERIFY(second.at(0).time - requests.at(1).time >= 1000);
+        QVERIFY(m_site->requests().of("NetStopSearchDevices").at(0).time - second.at(0).time >= 3000);
+    }
+
+    void everyReachableDeviceBecomesOneRow()
+    {
+        openSite("office");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        QSignalSpy count(m_factory.get(), &CDeviceFactory::signalSearchCount);
+        QSignalSpy added(m_factory.get(), &CDeviceFactory::signalAddDeviceToTable);
+        m_factory->startSearch("dh");
+        stepUntil(done, 1);
+
+        QStringList ipv4;
+        int others = 0;
+        m_site->visitDevices([&](const sdk::demo::SceneDevice &device) {
+            if (device.inOtherSegment)
+                return;
+            const bool set = !device.address.isEmpty() && device.address != "0.0.0.0";
+            if (set)
+                ipv4.append(device.mac);
+            others += (!device.ipv6.isEmpty() ? 1 : 0) + (device.address == "0.0.0.0" ? 1 : 0);
+        });
+        QStringList found;
+        for (const QVariant &row : m_factory->filterData("dh", "nofilter"))
+            found.append(row.toJsonObject().value("mac").toString());
+        QCOMPARE(QSet<QString>(found.cbegin(), found.cend()), QSet<QString>(ipv4.cbegin(), ipv4.cend()));
+        QCOMPARE(found.size(), ipv4.size());
+        QCOMPARE(m_factory->filterDataIPV6("dh", "nofilter").size(), others);
+        QVERIFY(m_factory->filterData("dh", "nofilter")
+                    .value(0)
+                    .toJsonObject()
+                    .value("ipport")
+                    .toString()
+                    .startsWith("127.0.0.1:"));
+        QCOMPARE(count.last().at(0).toInt(), int(ipv4.size()));
+        QVERIFY(added.size() > 2); // at the start, while the answers come, at the end
+    }
+
+    void aRangeIsAskedBlockByBlockAndForgotten()
+    {
+        m_localDomain = false;
+        openSite("office");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_factory->setSearchByIPInfo("dh", *ipv4Number(u"192.168.1.10"), *ipv4Number(u"192.168.3.20"));
+        m_factory->startSearch("dh");
+        stepUntil(done, 1);
+        QCOMPARE(operations(), QStringList({"NetSearchDevicesByIPs", "NetSearchDevicesByIPsEx",
+                                            "NetSearchDevicesByIPs", "NetSearchDevicesByIPsEx",
+                                            "NetSearchDevicesByIPs", "NetSearchDevicesByIPsEx"}));
+        const QJsonObject first = m_site->requests().of("NetSearchDevicesByIPs").at(0).request;
+        QCOMPARE(first.value("wait").toInt(), 3000);
+        bool foundOther = false;
+        for (const QVariant &row : m_factory->filterData("dh", "nofilter"))
+            foundOther |= row.toJsonObject().value("ipport").toString().startsWith("192.168.2.");
+        QVERIFY(foundOther);
+
+        m_site->requests().clear();
+        m_factory->startSearch("dh");
+        stepUntil(done, 2);
+        QVERIFY(operations().isEmpty());
+    }
+
+    void nothingToSearchEndsAtOnce()
+    {
+        m_localDomain = false;
+        openSite("office");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        QSignalSpy count(m_factory.get(), &CDeviceFactory::signalSearchCount);
+        m_factory->startSearch("dh");
+        QVERIFY(done.wait()); // without a step of the clock
+        QCOMPARE(count.size(), 1);
+        QCOMPARE(count.at(0).at(0).toInt(), 0);
+    }
+
+    void twoSearchesFillTheSameLists()
+    {
+        openSite("fleet:300");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_factory->startSearch("dh");
+        QVERIFY(m_site->requests().waitFor("NetStartSearchDevices", 1));
+        m_factory->startSearch("dh");
+        QVERIFY(m_site->requests().waitFor("NetStartSearchDevices", 2));
+        stepUntil(done, 2);
+        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), 300);
+        // Every handle was stopped, whichever of the two stopped it.
+        QCOMPARE(m_site->requests().of("NetStopSearchDevices").size(), 6);
+    }
+
+    void aSearchThatIsStartedAgainBeginsEmpty()
+    {
+        openSite("factory");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_factory->startSearch("dh");
+        stepUntil(done, 1);
+        const qsizetype rows = m_factory->filterData("dh", "nofilter").size();
+        QVERIFY(rows > 0);
+        QCOMPARE(m_factory->filterData("dh", "removeuninit").size(), 0);
+
+        QSignalSpy added(m_factory.get(), &CDeviceFactory::signalAddDeviceToTable);
+        m_factory->startSearch("dh");
+        QVERIFY(added.wait());
+        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), 0);
+        stepUntil(done, 2);
+        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), rows);
+    }
+
+    void closingInTheMiddleEndsCleanly_data()
+    {
+        QTest::addColumn<bool>("local");
+        QTest::newRow("local search") << true;
+        QTest::newRow("range search") << false;
+    }
+
+    void closingInTheMiddleEndsCleanly()
+    {
+        QFETCH(bool, local);
+        m_localDomain = local;
+        openSite("fleet:200");
+        if (!local)
+            m_factory->setSearchByIPInfo("dh", *ipv4Number(u"10.0.0.1"), *ipv4Number(u"10.0.16.1"));
+        m_factory->startSearch("dh");
+        QVERIFY(m_site->requests().waitFor(local ? "NetStartSearchDevices" : "NetSearchDevicesByIPs", 1));
+        m_factory.reset(); // without a step of the clock: nothing may wait for it
+    }
+
+    void withoutALibraryASearchEndsAtOnce()
+    {
+        const auto clock = std::make_shared<sdk::demo::SteppableClock>();
+        const auto store = std::make_shared<DeviceStore>(clock);
+        sdk::SdkLibraries libraries;
+        libraries.clock = clock;
+        CDeviceDH backEnd(store, libraries, [] { return SearchSettings(); });
+        QSignalSpy done(&backEnd, &CDeviceBase::signalCDeviceSearchDone);
+        backEnd.startSearch();
+        QVERIFY(done.wait());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDeviceSearch)
+#include "tst_devicesearch.moc"

@@ -1,0 +1,185 @@
+#include "device/devicetablemodel.h"
+#include "tests/device/rowsbackend.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTest>
+
+class TestDeviceTableModel : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<RowsFactory> m_site;
+    std::unique_ptr<DeviceTableModel> m_model;
+    std::unique_ptr<QAbstractItemModelTester> m_tester;
+
+    QVariant cell(int row, const QByteArray &role) const
+    {
+        return m_model->data(m_model->index(row), m_model->roleNames().key(role));
+    }
+
+    QStringList column(const QByteArray &role) const
+    {
+        QStringList texts;
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            texts.append(cell(row, role).toString());
+        return texts;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_site = std::make_unique<RowsFactory>();
+        RowsBackEnd &rows = *m_site->rows;
+        rows.add({.address = "192.168.1.100", .mac = "m0", .type = "NVR", .name = "cam 10"});
+        rows.add({.address = "192.168.1.9",
+                  .mac = "m1",
+                  .name = "Cam 9",
+                  .state = sdk::InitialisationBits::Uninitialised});
+        rows.add({.address = "10.0.0.1", .mac = "m2", .name = "cam 1", .port = 80});
+        rows.add({.address = "10.0.0.1", .mac = "m3", .name = "cam 2", .port = 37777});
+        rows.add({.address = "10.0.0.1", .mac = "m4", .name = "cam 3", .port = 37777});
+        rows.add({.address = "fe80::1", .mac = "m5", .ipVersion = 6});
+        m_model = std::make_unique<DeviceTableModel>();
+        m_tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
+        m_model->setDeviceFactory(&m_site->factory);
+    }
+
+    void cleanup()
+    {
+        m_tester.reset();
+        m_model.reset();
+        m_site.reset();
+    }
+
+    void showsTheRowsThatItsFiltersLeave_data()
+    {
+        QTest::addColumn<bool>("initialised");
+        QTest::addColumn<bool>("uninitialised");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("identities");
+        QTest::newRow("all") << true << true << "" << QStringList{"m0", "m1", "m2", "m3", "m4"};
+        QTest::newRow("initialised") << true << false << "" << QStringList{"m0", "m2", "m3", "m4"};
+        QTest::newRow("uninitialised") << false << true << "" << QStringList{"m1"};
+        QTest::newRow("neither") << false << false << "" << QStringList();
+        QTest::newRow("text") << true << true << "cam 1" << QStringList{"m0", "m2"};
+        QTest::newRow("text among the initialised") << true << false << "168" << QStringList{"m0"};
+    }
+
+    void showsTheRowsThatItsFiltersLeave()
+    {
+        QFETCH(bool, initialised);
+        QFETCH(bool, uninitialised);
+        QFETCH(QString, text);
+        m_model->setShowInitialised(initialised);
+        m_model->setShowUninitialised(uninitialised);
+        m_model->setSearchText(text);
+        QTEST(column("identity"), "identities");
+        QCOMPARE(m_model->totalCount(), 5);
+    }
+
+    void showsIPv6Devices()
+    {
+        m_model->setIpv6(true);
+        QCOMPARE(column("ipport"), QStringList("[fe80::1]:37777"));
+        QCOMPARE(cell(0, "address"), "[fe80::1]");
+        QCOMPARE(cell(0, "port"), "37777");
+        QCOMPARE(cell(0, "res"), -1);
+        QCOMPARE(cell(0, "mac"), "");
+        m_model->setAllChecked(true);
+        QCOMPARE(m_model->checkedCount(), 1);
+    }
+
+    void marksConflictsOfAddressAndPort()
+    {
+        QCOMPARE(column("conflict"), QStringList({"false", "false", "false", "true", "true"}));
+        QCOMPARE(m_model->conflictCount(), 2);
+        m_site->rows->ipv4.removeLast();
+        m_model->refresh();
+        QCOMPARE(m_model->conflictCount(), 0);
+    }
+
+    void sortsByValue_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QStringList>("ascending");
+        QTest::newRow("addresses as numbers, then ports")
+            << "ipport" << QStringList{"m2", "m3", "m4", "m1", "m0"};
+        QTest::newRow("numbers in texts") << "name" << QStringList{"m2", "m3", "m4", "m1", "m0"};
+        QTest::newRow("flags") << "state" << QStringList{"m1", "m0", "m2", "m3", "m4"};
+        QTest::newRow("texts") << "type" << QStringList{"m1", "m2", "m3", "m4", "m0"};
+    }
+
+    void sortsByValue()
+    {
+        QFETCH(QString, key);
+        m_model->toggleSort(key);
+        QTEST(column("identity"), "ascending");
+        QCOMPARE(column("num"), QStringList({"1", "2", "3", "4", "5"}));
+        m_model->toggleSort(key);
+        QCOMPARE(m_model->sortOrder(), Qt::DescendingOrder);
+        QVERIFY(column("identity") != QStringList({"m0", "m1", "m2", "m3", "m4"}) || key == "type");
+        m_model->toggleSort(key);
+        QCOMPARE(m_model->sortKey(), QString());
+        QCOMPARE(column("identity"), QStringList({"m0", "m1", "m2", "m3", "m4"}));
+    }
+
+    void ticksOutliveRefreshAndFilterButNotTheirDevice()
+    {
+        m_model->setChecked(0, true);
+        m_model->setRangeChecked(2, 99, true);
+        QCOMPARE(m_model->checkedMacs(), QStringList({"m0", "m2", "m3", "m4"}));
+        QCOMPARE(m_model->checkState(), Qt::PartiallyChecked);
+        m_model->setSearchText("cam 1"); // a hidden row is never part of what is done to the checked ones
+        QCOMPARE(m_model->checkedMacs(), QStringList({"m0", "m2"}));
+        QCOMPARE(m_model->checkState(), Qt::Checked);
+        m_model->setSearchText("");
+        QCOMPARE(m_model->checkedCount(), 4);
+
+        const QVariantList rows = m_site->rows->ipv4;
+        m_site->rows->ipv4.clear(); // a new search begins
+        m_model->refresh();
+        QCOMPARE(m_model->checkState(), Qt::Unchecked);
+        m_site->rows->ipv4 = rows;
+        m_model->refresh();
+        QCOMPARE(m_model->checkedCount(), 0);
+    }
+
+    void aGrowingListKeepsItsRows()
+    {
+        QSignalSpy reset(m_model.get(), &QAbstractItemModel::modelReset);
+        QSignalSpy inserted(m_model.get(), &QAbstractItemModel::rowsInserted);
+        QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
+        m_site->rows->add(
+            {.address = "192.168.1.100", .mac = "m9"}); // makes a conflict of a row that was there
+        m_model->refresh();
+        QCOMPARE(reset.size(), 0);
+        QCOMPARE(inserted.size(), 1);
+        QVERIFY(!changed.isEmpty());
+        QVERIFY(cell(0, "conflict").toBool());
+
+        m_site->rows->ipv4.move(0, 2); // another order
+        m_model->refresh();
+        QCOMPARE(reset.size(), 1);
+        QCOMPARE(column("identity").first(), "m1");
+    }
+
+    void copiesRowsAsLines()
+    {
+        m_site->rows->add({.mac = "m9", .name = "two\nlines\tand tabs"});
+        m_model->refresh();
+        QCOMPARE(m_model->textOf({2, 5, 77}),
+                 "cam 1\tIPC\tB-2230-IR\t10.0.0.1:80\tm2\tv2.840.1\n"
+                 "two lines and tabs\tIPC\tB-2230-IR\t192.168.1.64:37777\tm9\tv2.840.1");
+    }
+
+    void outlivesItsFactory()
+    {
+        m_site.reset();
+        m_model->refresh();
+        QCOMPARE(m_model->rowCount(), 5);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDeviceTableModel)
+#include "tst_devicetablemodel.moc"

@@ -1,0 +1,109 @@
+#include "device/addresstools.h"
+#include "device/ipv4address.h"
+#include "device/searchrange.h"
+#include "sdk/blocktext.h"
+
+#include <QTest>
+
+class TestSearchRange : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void readsAddresses_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("number"); // -1: no address
+        QTest::newRow("lowest") << "0.0.0.0" << 0.0;
+        QTest::newRow("highest") << "255.255.255.255" << 4294967295.0;
+        QTest::newRow("octets in order") << "1.2.3.4" << 16909060.0;
+        QTest::newRow("leading zeros") << "010.001.000.009" << 167837705.0;
+        for (const char *text :
+             {"", "1.2.3", "1.2.3.4.5", "1.2.3.", ".1.2.3", "256.1.1.1", "1.2.3.4 ", "+1.2.3.4", "1.2.3.-4",
+              "1.2.3.0x4", "1.2.3.0004", "a.b.c.d", "１.2.3.4", "fe80::1"})
+            QTest::newRow(qPrintable(QString("no address: %1").arg(text))) << QString(text) << -1.0;
+    }
+
+    void readsAddresses()
+    {
+        QFETCH(QString, text);
+        QFETCH(double, number);
+        QCOMPARE(ipv4Number(text).has_value(), number >= 0);
+        QCOMPARE(AddressTools().isLegalAddress(text), number >= 0);
+        QCOMPARE(AddressTools().toNumber(text), std::max(number, 0.0));
+    }
+
+    void checksARange_data()
+    {
+        QTest::addColumn<QString>("begin");
+        QTest::addColumn<QString>("end");
+        QTest::addColumn<int>("fault");
+        QTest::newRow("one address") << "10.0.1.1"
+                                     << "10.0.1.1" << 0;
+        QTest::newRow("sixteen apart") << "10.0.1.1"
+                                       << "10.0.17.1" << 0;
+        QTest::newRow("seventeen apart") << "10.0.1.1"
+                                         << "10.0.18.1" << 2;
+        QTest::newRow("other second octet") << "10.0.1.1"
+                                            << "10.1.1.1" << 2;
+        QTest::newRow("other first octet") << "10.0.1.1"
+                                           << "11.0.1.1" << 2;
+        QTest::newRow("begin above end") << "10.0.2.1"
+                                         << "10.0.1.1" << 1;
+        QTest::newRow("begin above end by the last octet") << "10.0.1.9"
+                                                           << "10.0.1.8" << 1;
+        QTest::newRow("begin above end in the highest octet") << "200.0.0.1"
+                                                              << "100.0.0.1" << 1;
+        QTest::newRow("begin no address") << "10.0.1"
+                                          << "10.0.1.1" << 3;
+        QTest::newRow("end no address") << "10.0.1.1"
+                                        << "printer" << 4;
+    }
+
+    void checksARange()
+    {
+        QFETCH(QString, begin);
+        QFETCH(QString, end);
+        QTEST(AddressTools().searchRangeFault(begin, end), "fault");
+    }
+
+    void coversARangeByBlocks_data()
+    {
+        QTest::addColumn<QString>("begin");
+        QTest::addColumn<QString>("end");
+        QTest::addColumn<QStringList>("blocks"); // "first last" of each
+        const auto row = [](const char *begin, const char *end, const QStringList &blocks) {
+            QTest::addRow("%s to %s", begin, end) << QString(begin) << QString(end) << blocks;
+        };
+        row("192.168.1.10", "192.168.3.20",
+            {"192.168.1.10 192.168.1.255", "192.168.2.0 192.168.2.255", "192.168.3.0 192.168.3.20"});
+        row("192.168.1.5", "192.168.1.5", {"192.168.1.5 192.168.1.5"});
+        row("255.255.254.250", "255.255.255.255",
+            {"255.255.254.250 255.255.254.255", "255.255.255.0 255.255.255.255"});
+        row("10.0.2.1", "10.0.1.1", {}); // third octet of the end below the begin's
+        row("10.0.1.9", "10.0.1.8", {}); // nothing to ask
+        row("0.0.0.0", "10.0.1.8", {});  // no range set
+        row("10.0.1.9", "0.0.0.0", {});
+        row("10.0.1.1", "10.1.1.1", {"10.0.1.1 10.0.1.255"}); // the first two octets are not compared
+        row("10.1.1.1", "10.0.5.1", {});
+    }
+
+    void coversARangeByBlocks()
+    {
+        QFETCH(QString, begin);
+        QFETCH(QString, end);
+        QStringList blocks;
+        for (const auto &request : searchRequests({*ipv4Number(begin), *ipv4Number(end)})) {
+            QCOMPARE(request.size, 16392U);
+            QVERIFY(request.count >= 1 && request.count <= sdk::maximumSearchAddresses);
+            const auto text = [&](int entry) {
+                return QString::fromStdString(std::string(sdk::blockText(request.addresses.at(entry))));
+            };
+            QCOMPARE(*ipv4Number(text(request.count - 1)) - *ipv4Number(text(0)) + 1, quint32(request.count));
+            blocks.append(text(0) + ' ' + text(request.count - 1));
+        }
+        QTEST(blocks, "blocks");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSearchRange)
+#include "tst_searchrange.moc"

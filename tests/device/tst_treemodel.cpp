@@ -1,0 +1,109 @@
+#include "device/treemodel.h"
+#include "tests/device/rowsbackend.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTest>
+
+class TestTreeModel : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<RowsFactory> m_site;
+    std::unique_ptr<OVTreeModel> m_model;
+    std::unique_ptr<QAbstractItemModelTester> m_tester;
+
+    QStringList texts() const
+    {
+        QStringList lines;
+        for (int group = 0; group < m_model->rowCount(); ++group) {
+            const QModelIndex parent = m_model->index(group, 0);
+            QStringList devices;
+            for (int device = 0; device < m_model->rowCount(parent); ++device)
+                devices.append(m_model->index(device, 0, parent).data(OVTreeModel::NameRole).toString());
+            lines.append(parent.data(OVTreeModel::NameRole).toString() + ": " + devices.join(' '));
+        }
+        return lines;
+    }
+
+    QVariant state(int group, int device = -1) const
+    {
+        const QModelIndex parent = m_model->index(group, 0);
+        return (device < 0 ? parent : m_model->index(device, 0, parent)).data(OVTreeModel::IsCheckedRole);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_site = std::make_unique<RowsFactory>();
+        RowsBackEnd &rows = *m_site->rows;
+        rows.add({.address = "127.0.0.1", .mac = "m0", .type = "PC-NVR"});
+        rows.add({.address = "10.0.0.1", .mac = "m1", .type = "Other"});
+        rows.add({.address = "10.0.0.2", .mac = "m2", .type = "SD"});
+        rows.add({.address = "10.0.0.3", .mac = "m3", .type = "IPC", .name = "大厅"});
+        rows.add({.address = "10.0.0.4",
+                  .mac = "m4",
+                  .type = "IPC",
+                  .state = sdk::InitialisationBits::Uninitialised});
+        rows.add({.address = "10.0.0.5", .mac = "m5", .type = "IPC"});
+        rows.add({.address = "10.0.0.6", .mac = "m6", .type = ""});
+        m_model = std::make_unique<OVTreeModel>();
+        m_tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
+        m_model->setDeviceFactory(&m_site->factory);
+        m_model->resetItems("removeuninit", "");
+    }
+
+    void cleanup()
+    {
+        m_tester.reset();
+        m_model.reset();
+        m_site.reset();
+    }
+
+    void groupsDevicesByType()
+    {
+        QCOMPARE(texts(), QStringList({"IPC: 10.0.0.3:37777 10.0.0.5:37777", "SD: 10.0.0.2:37777",
+                                       "PC-NVR: 127.0.0.1:37777", "Other: 10.0.0.1:37777 10.0.0.6:37777"}));
+        QCOMPARE(m_model->roleNames().values().size(), 3);
+    }
+
+    void searchesTheRows()
+    {
+        m_model->resetItems("search", "大厅");
+        QCOMPARE(texts(), QStringList("IPC: 10.0.0.3:37777"));
+        m_model->resetItems("search", "no such device");
+        QCOMPARE(texts(), QStringList());
+    }
+
+    void aGroupsTickCoversItsDevices()
+    {
+        QSignalSpy changed(m_model.get(), &OVTreeModel::checkedDevicesChanged);
+        const QModelIndex ipc = m_model->index(0, 0);
+        QVERIFY(m_model->setData(m_model->index(1, 0, ipc), true, OVTreeModel::IsCheckedRole));
+        QCOMPARE(state(0), Qt::PartiallyChecked);
+        QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.5:37777"));
+        QVERIFY(m_model->setData(ipc, Qt::Checked, OVTreeModel::IsCheckedRole));
+        QCOMPARE(state(0), Qt::Checked);
+        QCOMPARE(state(0, 0), Qt::Checked);
+        QVERIFY(m_model->setData(m_model->index(0, 0, ipc), Qt::Unchecked, OVTreeModel::IsCheckedRole));
+        QVERIFY(m_model->setData(m_model->index(1, 0, ipc), Qt::Unchecked, OVTreeModel::IsCheckedRole));
+        QCOMPARE(state(0), Qt::Unchecked);
+        QCOMPARE(changed.size(), 4);
+        QVERIFY(!m_model->setData(ipc, 3, OVTreeModel::CopyRetRole));
+    }
+
+    void ticksAndResultsOutliveARebuild()
+    {
+        const QModelIndex device = m_model->index(0, 0, m_model->index(0, 0));
+        m_model->setData(device, true, OVTreeModel::IsCheckedRole);
+        m_model->setData(device, 999, OVTreeModel::CopyRetRole);
+        m_model->resetItems("search", "SD");
+        m_model->resetItems("removeuninit", "");
+        QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.3:37777"));
+        QCOMPARE(state(0), Qt::PartiallyChecked);
+        QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 999);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTreeModel)
+#include "tst_treemodel.moc"
