@@ -1,0 +1,107 @@
+// Everything that a page may know of the look: colours by meaning, measures, type, durations, icons.
+pragma Singleton
+import QtQuick
+import configtools
+
+QtObject {
+    id: theme
+
+    // A dark theme is a second ThemeColours in this place.
+    readonly property ThemeColours colours: ThemeColours {}
+
+    // Measures, on a grid of 8.
+    readonly property int unit: 8
+    readonly property int half: 4
+    readonly property int pageMargin: 16
+    readonly property int controlHeight: 32
+    readonly property int rowHeight: 34
+    readonly property int tableHeadHeight: 36
+    readonly property int titleBarHeight: 48
+    readonly property int tabBarHeight: 40
+    readonly property int toolBarHeight: 56
+    readonly property int footHeight: 40
+    readonly property int dialogHeadHeight: 44
+    readonly property int dialogFootHeight: 56
+    readonly property int boxSize: 16
+    readonly property int iconSize: 18
+    readonly property int smallIconSize: 14
+    readonly property int largeIconSize: 40
+    readonly property int line: 1
+    readonly property int focusRing: 3
+    readonly property int resizeEdge: 10
+    readonly property int paneRadius: 8
+    readonly property int controlRadius: 6
+    readonly property int smallRadius: 4
+    readonly property int dialogWidth: 460
+    readonly property int toastWidth: 380
+    readonly property int toolTipWidth: 360
+
+    // Type.
+    readonly property int hintSize: 12
+    readonly property int headSize: 12
+    readonly property int bodySize: 13
+    readonly property int titleSize: 14
+    readonly property int leadSize: 16
+    readonly property int counterSize: 20
+    readonly property font hintFont: Qt.font({family: Typefaces.text, pixelSize: hintSize})
+    readonly property font headFont: Qt.font({family: Typefaces.text, pixelSize: headSize, weight: Font.DemiBold})
+    readonly property font bodyFont: Qt.font({family: Typefaces.text, pixelSize: bodySize})
+    readonly property font buttonFont: Qt.font({family: Typefaces.text, pixelSize: bodySize, weight: Font.Medium})
+    readonly property font titleFont: Qt.font({family: Typefaces.text, pixelSize: titleSize, weight: Font.DemiBold})
+    readonly property font leadFont: Qt.font({family: Typefaces.text, pixelSize: leadSize, weight: Font.DemiBold})
+    readonly property font figureFont: Qt.font({family: Typefaces.figures, pixelSize: bodySize})
+    readonly property font counterFont:
+        Qt.font({family: Typefaces.figures, pixelSize: counterSize, weight: Font.DemiBold})
+    readonly property string iconFamily: Typefaces.icons
+    // Where the baseline of a line of text lies below the middle of its box, in parts of its size, so that
+    // capitals and Chinese signs both sit in the middle. The faces' own metrics put them a pixel apart.
+    readonly property real baselineShift: 0.37
+    readonly property real lineRatio: 1.5
+
+    // Durations in milliseconds.
+    readonly property int quick: 120
+    readonly property int turn: 1000
+    readonly property int toolTipDelay: 500
+    readonly property int toastStay: 4000
+    readonly property int errorToastStay: 9000
+
+    // One stroke, one set.
+    readonly property var icons: ({
+        "about": "\ue0f9",
+        "add": "\ue13d",
+        "alert": "\ue193",
+        "cgi": "\ue181",
+        "check": "\ue06c",
+        "clear": "\ue1b2",
+        "close": "\ue1b2",
+        "config": "\ue29a",
+        "copy": "\ue09e",
+        "device": "\ue57d",
+        "down": "\ue06d",
+        "error": "\ue084",
+        "filtered": "\ue3b5",
+        "help": "\ue05f",
+        "hide": "\ue0bb",
+        "language": "\ue0fe",
+        "maximise": "\ue167",
+        "menu": "\ue115",
+        "minimise": "\ue11c",
+        "mixed": "\ue11c",
+        "nothing": "\ue4ad",
+        "ok": "\ue226",
+        "questions": "\ue568",
+        "radar": "\ue497",
+        "restore": "\ue09e",
+        "right": "\ue06f",
+        "search": "\ue151",
+        "settings": "\ue29a",
+        "show": "\ue0ba",
+        "sortDown": "\ue042",
+        "sortUp": "\ue04a",
+        "spinner": "\ue10a",
+        "system": "\ue154",
+        "unknown": "\ue07e",
+        "unplugged": "\ue45d",
+        "upgrade": "\ue07b"
+    })
+}

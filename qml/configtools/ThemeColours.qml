@@ -1,0 +1,67 @@
+// The colours of a theme by meaning. Its defaults are the light theme.
+import QtQuick
+
+QtObject {
+    // Title bar.
+    property color bar: "#172130"
+    property color barHover: "#26364b"
+    property color barPressed: "#31445d"
+    property color barLine: "#33445a"
+    property color barInk: "#ffffff"
+    property color barSub: "#b9c6d6"
+    property color barClose: "#c8322b"
+    property color logoTop: "#4f8ff7"
+
+    // Ground and panes.
+    property color surface: "#ffffff"
+    property color background: "#f4f6f8"
+    property color head: "#edf1f6"
+    property color foot: "#f7f9fb"
+    property color hover: "#f0f4f9"
+    property color pressed: "#e3eaf2"
+    property color line: "#d9dfe6"
+    property color lineStrong: "#b9c3cf"
+    property color scrim: "#73101822"
+    property color shadow: "#03000000"
+    property color clear: "#00ffffff"
+
+    // Text.
+    property color ink: "#1b2430"
+    property color sub: "#5d6b7c"
+    property color faint: "#8a97a6"
+    property color disabledInk: "#a3adb9"
+    property color disabledFill: "#eef1f4"
+
+    // What can be done, and what is chosen.
+    property color accent: "#1769e0"
+    property color accentHover: "#1259c4"
+    property color accentPressed: "#0e4ba8"
+    property color accentSoft: "#e3eefc"
+    property color accentSofter: "#f2f7fe"
+    property color accentDisabled: "#a9c5ee"
+    property color focusRing: "#b3d1f9"
+    property color accentInk: "#ffffff"
+
+    // States.
+    property color ok: "#1a8f4c"
+    property color warn: "#c77700"
+    property color warnInk: "#8a5200"
+    property color warnSoft: "#fdf3e1"
+    property color warnLine: "#f1d9ab"
+    property color bad: "#c8322b"
+    property color badHover: "#ad2821"
+    property color badPressed: "#92201a"
+    property color badSoft: "#fdeceb"
+    property color badLine: "#ebc3c0"
+
+    // Rows of device tables.
+    property color row: "#ffffff"
+    property color rowAlternate: "#E5E5E5"
+    property color rowConflict: "#FCE7E7"
+    property color rowSelected: "#cfe4fb"
+    property color rowHoverVeil: "#0f1769e0"
+
+    // Bubbles above everything.
+    property color bubble: "#263242"
+    property color bubbleInk: "#ffffff"
+}

@@ -1,0 +1,95 @@
+// A button with words.
+import QtQuick
+import configtools
+
+OVAbstractButton {
+    id: root
+
+    enum Kind { Outlined, Primary, Danger, DangerPrimary }
+
+    property int kind: OVButton.Outlined
+    property bool opensMenu: false
+    property bool busy: false
+    property string iconName
+
+    readonly property bool filled: kind === OVButton.Primary || kind === OVButton.DangerPrimary
+    readonly property color fill: {
+        const c = Theme.colours;
+        if (!enabled)
+            return filled ? c.accentDisabled : c.surface;
+        if (kind === OVButton.Primary)
+            return down ? c.accentPressed : hovered ? c.accentHover : c.accent;
+        if (kind === OVButton.DangerPrimary)
+            return down ? c.badPressed : hovered ? c.badHover : c.bad;
+        if (kind === OVButton.Danger)
+            return down || hovered ? c.badSoft : c.surface;
+        return down ? c.pressed : hovered ? c.hover : c.surface;
+    }
+    readonly property color ink: {
+        const c = Theme.colours;
+        if (filled)
+            return c.accentInk;
+        if (!enabled)
+            return c.disabledInk;
+        return kind === OVButton.Danger ? c.bad : c.ink;
+    }
+
+    readonly property int signsWidth: (iconName !== "" || busy ? Theme.boxSize + 6 : 0)
+                                      + (opensMenu ? Theme.smallIconSize + 6 : 0)
+
+    implicitWidth: label.implicitWidth + signsWidth + leftPadding + rightPadding
+    implicitHeight: Theme.controlHeight
+    leftPadding: 12
+    rightPadding: opensMenu ? Theme.unit : 12
+
+    contentItem: Item {
+        Row {
+            anchors.centerIn: parent
+            spacing: 6
+
+            OVSpinner {
+                anchors.verticalCenter: parent.verticalCenter
+                color: root.ink
+                running: root.busy
+                size: Theme.boxSize
+                visible: root.busy
+            }
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: root.ink
+                name: root.iconName
+                size: Theme.boxSize
+                visible: root.iconName !== "" && !root.busy
+            }
+            OVLabel {
+                id: label
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, root.availableWidth - root.signsWidth)
+                color: root.ink
+                font: Theme.buttonFont
+                text: root.text
+            }
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+                name: "down"
+                size: Theme.smallIconSize
+                visible: root.opensMenu
+            }
+        }
+    }
+
+    background: Rectangle {
+        border.color: !root.enabled || root.filled ? Theme.colours.line
+            : root.kind === OVButton.Danger ? (root.hovered ? Theme.colours.badLine : Theme.colours.line)
+            : root.visualFocus ? Theme.colours.accent
+            : root.hovered ? Theme.colours.lineStrong : Theme.colours.line
+        border.width: root.filled ? 0 : Theme.line
+        color: root.fill
+        radius: Theme.controlRadius
+
+        Behavior on color { ColorAnimation { duration: Theme.quick } }
+
+        OVFocusRing { shown: root.visualFocus }
+    }
+}

@@ -1,0 +1,57 @@
+// A tick box; with tristate it also shows "some of them".
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.CheckBox {
+    id: root
+
+    property string toolTip
+
+    implicitWidth: text === "" ? Theme.boxSize : implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Theme.controlHeight
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    leftPadding: text === "" ? 0 : Theme.boxSize + spacing
+    spacing: Theme.unit
+
+    Accessible.name: text !== "" ? text : toolTip
+    Accessible.description: toolTip
+
+    indicator: Rectangle {
+        readonly property bool filled: root.checkState !== Qt.Unchecked
+
+        y: Math.round((root.height - height) / 2)
+        width: Theme.boxSize
+        height: Theme.boxSize
+        border.color: root.visualFocus ? Theme.colours.accent
+            : root.hovered && root.enabled ? Theme.colours.accent : Theme.colours.lineStrong
+        border.width: filled ? 0 : Theme.line
+        color: !root.enabled ? (filled ? Theme.colours.accentDisabled : Theme.colours.disabledFill)
+            : filled ? (root.down ? Theme.colours.accentPressed : root.hovered ? Theme.colours.accentHover
+                                                                               : Theme.colours.accent)
+            : root.down ? Theme.colours.accentSoft : Theme.colours.surface
+        radius: Theme.smallRadius
+
+        OVIcon {
+            anchors.centerIn: parent
+            color: Theme.colours.accentInk
+            name: root.checkState === Qt.PartiallyChecked ? "mixed" : "check"
+            size: Theme.boxSize
+            visible: parent.filled
+        }
+
+        OVFocusRing { shown: root.visualFocus; around: Theme.smallRadius }
+    }
+
+    contentItem: OVLabel {
+        color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        text: root.text
+        visible: root.text !== ""
+    }
+
+    OVToolTip {
+        shown: root.hovered
+        text: root.toolTip
+    }
+}

@@ -1,0 +1,159 @@
+// A modal box in the window: a head with a title, the content, a foot with buttons. Escape closes it, Enter
+// does what its primary button does, and the keyboard stays inside.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.Popup {
+    id: root
+
+    property string title
+    property string okText: qsTr("确定")
+    property string cancelText: qsTr("取消")
+    property int okKind: OVButton.Primary
+    property bool okEnabled: true
+    property bool hasCancel: true
+    property bool closable: true
+    default property alias content: body.data
+    signal accepted
+    signal rejected
+
+    function accept() {
+        if (okEnabled)
+            accepted();
+    }
+    function reject() {
+        close();
+        rejected();
+    }
+
+    parent: T.Overlay.overlay
+    x: Math.round(((parent?.width ?? 0) - width) / 2)
+    y: Math.round(((parent?.height ?? 0) - height) / 2)
+    width: Theme.dialogWidth
+    height: implicitHeight
+    implicitHeight: head.height + body.implicitHeight + 2 * Theme.pageMargin + foot.height
+    closePolicy: T.Popup.NoAutoClose
+    dim: true
+    focus: true
+    modal: true
+
+    T.Overlay.modal: Rectangle {
+        color: Theme.colours.scrim
+        Behavior on opacity { NumberAnimation { duration: Theme.quick } }
+    }
+
+    contentItem: FocusScope {
+        focus: true
+
+        Keys.onEnterPressed: root.accept()
+        Keys.onEscapePressed: root.reject()
+        Keys.onReturnPressed: root.accept()
+
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.title
+
+        Item {
+            id: head
+            width: parent.width
+            height: Theme.dialogHeadHeight
+
+            OVLabel {
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.pageMargin
+                anchors.right: shut.left
+                height: parent.height
+                font: Theme.titleFont
+                text: root.title
+            }
+            OVIconButton {
+                id: shut
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.unit
+                anchors.verticalCenter: parent.verticalCenter
+                focusPolicy: Qt.NoFocus
+                iconName: "close"
+                iconSize: Theme.boxSize
+                objectName: "dialogCloseButton"
+                toolTip: qsTr("关闭")
+                visible: root.closable
+                onClicked: root.reject()
+            }
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: Theme.line
+                color: Theme.colours.line
+            }
+        }
+
+        FocusScope {
+            id: body
+            x: Theme.pageMargin
+            y: head.height + Theme.pageMargin
+            width: parent.width - 2 * Theme.pageMargin
+            height: foot.y - y - Theme.pageMargin
+            focus: true
+            implicitHeight: childrenRect.height
+        }
+
+        Item {
+            id: foot
+            y: parent.height - height
+            width: parent.width
+            height: Theme.dialogFootHeight
+
+            Rectangle {
+                anchors.fill: parent
+                color: Theme.colours.foot
+                radius: Theme.paneRadius
+            }
+            Rectangle {
+                width: parent.width
+                height: Theme.paneRadius
+                color: Theme.colours.foot
+            }
+            Rectangle {
+                width: parent.width
+                height: Theme.line
+                color: Theme.colours.line
+            }
+            Row {
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.pageMargin
+                anchors.verticalCenter: parent.verticalCenter
+                layoutDirection: Qt.RightToLeft
+                spacing: Theme.unit
+
+                OVButton {
+                    enabled: root.okEnabled
+                    kind: root.okKind
+                    objectName: "okButton"
+                    text: root.okText
+                    onClicked: root.accept()
+                }
+                OVButton {
+                    id: cancel
+                    objectName: "cancelButton"
+                    text: root.cancelText
+                    visible: root.hasCancel
+                    onClicked: root.reject()
+                }
+            }
+        }
+    }
+
+    background: Rectangle {
+        color: Theme.colours.surface
+        radius: Theme.paneRadius
+
+        OVShadow { depth: 24 }
+    }
+
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick }
+    }
+    exit: Transition {
+        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Theme.quick }
+    }
+}

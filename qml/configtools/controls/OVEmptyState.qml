@@ -1,0 +1,77 @@
+// What stands where there is nothing to show: why, and what to do.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property string iconName
+    required property string title
+    property string hint
+    property string actionText
+    property bool busy: false
+    signal activated
+
+    implicitHeight: column.implicitHeight
+
+    Column {
+        id: column
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.pageMargin, 460)
+        spacing: Theme.unit
+
+        Rectangle {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 72
+            height: 72
+            color: Theme.colours.accentSofter
+            radius: width / 2
+
+            OVIcon {
+                anchors.centerIn: parent
+                color: Theme.colours.accent
+                name: root.iconName
+                size: 30
+                visible: !root.busy
+            }
+            OVSpinner {
+                anchors.centerIn: parent
+                running: root.busy
+                size: 30
+                visible: root.busy
+            }
+        }
+        Item {
+            width: 1
+            height: Theme.half
+        }
+        OVParagraph {
+            width: parent.width
+            font: Theme.leadFont
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "emptyTitle"
+            text: root.title
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.sub
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "emptyHint"
+            text: root.hint
+            visible: root.hint !== ""
+        }
+        Item {
+            width: 1
+            height: Theme.half
+            visible: action.visible
+        }
+        OVButton {
+            id: action
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "emptyActionButton"
+            text: root.actionText
+            visible: root.actionText !== ""
+            onClicked: root.activated()
+        }
+    }
+}

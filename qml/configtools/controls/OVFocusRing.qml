@@ -1,0 +1,16 @@
+// The soft ring around the control that has the keyboard.
+import QtQuick
+import configtools
+
+Rectangle {
+    required property bool shown
+    property int around: Theme.controlRadius
+
+    anchors.fill: parent
+    anchors.margins: -Theme.focusRing
+    border.color: Theme.colours.focusRing
+    border.width: Theme.focusRing
+    color: Theme.colours.clear
+    radius: around + Theme.focusRing
+    visible: shown
+}

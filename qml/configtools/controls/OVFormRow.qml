@@ -1,0 +1,26 @@
+// A label and its field, the label on the middle of the field's first line.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property string label
+    property int labelWidth: 108
+    default property alias field: slot.data
+
+    implicitHeight: Math.max(Theme.controlHeight, slot.height)
+
+    OVLabel {
+        width: root.labelWidth - Theme.unit
+        height: Theme.controlHeight
+        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+        text: root.label
+    }
+    Item {
+        id: slot
+        x: root.labelWidth
+        width: root.width - x
+        height: childrenRect.height
+    }
+}

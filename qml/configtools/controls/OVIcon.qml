@@ -1,0 +1,24 @@
+// A sign of the icon set, by its name in the theme.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property string name
+    property int size: Theme.iconSize
+    property color color: Theme.colours.sub
+
+    implicitWidth: size
+    implicitHeight: size
+
+    Text {
+        anchors.centerIn: parent
+        color: root.color
+        font.family: Theme.iconFamily
+        font.pixelSize: root.size
+        text: Theme.icons[root.name] ?? ""
+
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,46 @@
+// One line of text whose baseline lies at the same height whatever the script, so that Chinese and Latin texts
+// line up side by side. What does not fit is elided and shown whole on hover.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    property alias text: label.text
+    property alias color: label.color
+    property alias font: label.font
+    property alias horizontalAlignment: label.horizontalAlignment
+    property alias elide: label.elide
+    property bool showsWholeOnHover: true
+    readonly property alias truncated: label.truncated
+
+    implicitWidth: Math.ceil(label.implicitWidth)
+    implicitHeight: Math.round(label.font.pixelSize * Theme.lineRatio)
+    baselineOffset: label.y + label.baselineOffset
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
+    Text {
+        id: label
+
+        y: Math.round(root.height / 2 + font.pixelSize * Theme.baselineShift - baselineOffset)
+        width: root.width
+        color: Theme.colours.ink
+        elide: Text.ElideRight
+        font: Theme.bodyFont
+        maximumLineCount: 1
+        renderType: Text.NativeRendering
+        textFormat: Text.PlainText
+    }
+
+    HoverHandler {
+        id: pointer
+        enabled: root.showsWholeOnHover && label.truncated
+    }
+
+    OVToolTip {
+        shown: pointer.enabled && pointer.hovered
+        text: label.text
+    }
+}

@@ -1,0 +1,53 @@
+// An entry of a menu.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.MenuItem {
+    id: root
+
+    property string iconName
+    property bool marksChoice: false
+
+    implicitWidth: Math.max(180, label.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: Theme.rowHeight
+    leftPadding: iconName !== "" ? 38 : 12
+    rightPadding: 36
+
+    Accessible.name: text
+
+    contentItem: OVLabel {
+        id: label
+        color: !root.enabled ? Theme.colours.disabledInk
+            : root.marksChoice ? Theme.colours.accent : Theme.colours.ink
+        font: root.marksChoice ? Theme.buttonFont : Theme.bodyFont
+        showsWholeOnHover: false
+        text: root.text
+    }
+
+    indicator: OVIcon {
+        x: 12
+        anchors.verticalCenter: parent?.verticalCenter
+        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+        name: root.iconName
+        size: Theme.boxSize
+        visible: root.iconName !== ""
+    }
+
+    arrow: OVIcon {
+        x: root.width - width - 10
+        anchors.verticalCenter: parent?.verticalCenter
+        color: root.marksChoice ? Theme.colours.accent : Theme.colours.faint
+        name: root.marksChoice ? "check" : "right"
+        size: Theme.smallIconSize
+        visible: root.marksChoice || root.subMenu !== null
+    }
+
+    background: Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.half
+        anchors.rightMargin: Theme.half
+        color: root.highlighted ? Theme.colours.accentSoft : Theme.colours.clear
+        radius: Theme.smallRadius
+    }
+}

@@ -1,0 +1,40 @@
+// How far something is; without a known end a piece travels along.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.ProgressBar {
+    id: root
+
+    implicitWidth: 220
+    implicitHeight: 6
+
+    background: Rectangle {
+        color: Theme.colours.pressed
+        radius: height / 2
+    }
+
+    contentItem: Item {
+        clip: true
+
+        Rectangle {
+            id: piece
+            property real way
+
+            x: root.indeterminate ? way * (parent.width + width) - width : 0
+            width: root.indeterminate ? parent.width * 0.3 : root.position * parent.width
+            height: parent.height
+            color: Theme.colours.accent
+            radius: height / 2
+
+            NumberAnimation on way {
+                duration: Theme.turn * 1.4
+                easing.type: Easing.InOutQuad
+                from: 0
+                to: 1
+                loops: Animation.Infinite
+                running: root.indeterminate && root.visible
+            }
+        }
+    }
+}

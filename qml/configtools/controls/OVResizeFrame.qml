@@ -1,0 +1,37 @@
+// The edges of a frameless window, by which it is resized in eight directions.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property bool active
+    signal resizeRequested(int edges)
+
+    // qmllint disable unqualified
+    Repeater {
+        model: root.active ? [
+            Qt.LeftEdge, Qt.RightEdge, Qt.TopEdge, Qt.BottomEdge, Qt.TopEdge | Qt.LeftEdge,
+            Qt.TopEdge | Qt.RightEdge, Qt.BottomEdge | Qt.LeftEdge, Qt.BottomEdge | Qt.RightEdge
+        ] : []
+
+        MouseArea {
+            required property int modelData
+            readonly property bool onLeft: modelData & Qt.LeftEdge
+            readonly property bool onRight: modelData & Qt.RightEdge
+            readonly property bool onTop: modelData & Qt.TopEdge
+            readonly property bool onBottom: modelData & Qt.BottomEdge
+            readonly property bool onSide: onLeft || onRight
+            readonly property bool onEnd: onTop || onBottom
+
+            x: onLeft ? 0 : onRight ? root.width - width : Theme.resizeEdge
+            y: onTop ? 0 : onBottom ? root.height - height : Theme.resizeEdge
+            width: onSide ? Theme.resizeEdge : root.width - 2 * Theme.resizeEdge
+            height: onEnd ? Theme.resizeEdge : root.height - 2 * Theme.resizeEdge
+            cursorShape: !onEnd ? Qt.SizeHorCursor : !onSide ? Qt.SizeVerCursor
+                : onTop === onLeft ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor
+            onPressed: root.resizeRequested(modelData)
+        }
+    }
+    // qmllint enable unqualified
+}

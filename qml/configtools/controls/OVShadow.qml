@@ -1,0 +1,31 @@
+// A soft shadow under what floats, in layers: Qt Quick of this version has no blur of its own.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    property int depth: 16
+    property int around: Theme.paneRadius
+
+    anchors.fill: parent
+    z: -1
+
+    // qmllint disable unqualified
+    Repeater {
+        model: root.depth
+
+        Rectangle {
+            required property int index
+            readonly property int reach: index + 1
+
+            x: -reach
+            y: -reach + Math.round(root.depth / 3)
+            width: root.width + 2 * reach
+            height: root.height + 2 * reach
+            color: Theme.colours.shadow
+            radius: root.around + reach
+        }
+    }
+    // qmllint enable unqualified
+}

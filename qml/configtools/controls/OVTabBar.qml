@@ -1,0 +1,87 @@
+// The tabs of the window, one pressed at a time. Tabs are texts.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property var tabs
+    required property int currentIndex
+    signal activated(int index)
+
+    implicitHeight: Theme.tabBarHeight
+    color: Theme.colours.surface
+
+    Accessible.role: Accessible.PageTabList
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: Theme.line
+        color: Theme.colours.line
+    }
+
+    Row {
+        id: row
+        x: Theme.pageMargin
+        height: parent.height
+
+        // qmllint disable unqualified
+        Repeater {
+            id: repeater
+            model: root.tabs
+
+            OVAbstractButton {
+                id: tab
+
+                required property int index
+                required property string modelData
+                readonly property bool current: index === root.currentIndex
+
+                implicitWidth: label.implicitWidth + 28
+                implicitHeight: Theme.tabBarHeight
+                objectName: "tab" + index
+                text: modelData
+
+                Accessible.role: Accessible.PageTab
+                Accessible.selected: current
+
+                onClicked: root.activated(index)
+                Keys.onLeftPressed: root.step(-1)
+                Keys.onRightPressed: root.step(1)
+
+                contentItem: OVLabel {
+                    id: label
+                    color: tab.current ? Theme.colours.accent : tab.hovered ? Theme.colours.ink
+                                                                            : Theme.colours.sub
+                    font: Theme.buttonFont
+                    horizontalAlignment: Text.AlignHCenter
+                    text: tab.text
+                }
+
+                background: Item {
+                    Rectangle {
+                        anchors.bottom: parent.bottom
+                        x: 10
+                        width: parent.width - 20
+                        height: 2
+                        color: tab.current ? Theme.colours.accent : Theme.colours.lineStrong
+                        radius: 1
+                        visible: tab.current || tab.hovered
+                    }
+                    OVFocusRing {
+                        anchors.margins: Theme.half
+                        shown: tab.visualFocus
+                    }
+                }
+            }
+        }
+        // qmllint enable unqualified
+    }
+
+    function step(by) {
+        const next = (currentIndex + by + tabs.length) % tabs.length;
+        activated(next);
+        repeater.itemAt(next)?.forceActiveFocus(Qt.TabFocusReason);
+    }
+}

@@ -1,0 +1,106 @@
+// A row of an OVTable.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property int index
+    required property bool checked
+    required property bool conflict
+    required property string identity
+    required property var values  // the row as the model's get() returns it
+    required property var columns
+    required property var columnWidths
+    required property int checkWidth  // 0: rows have no tick box
+    required property bool current
+    signal picked(int modifiers)
+    signal tickToggled(int modifiers)
+    signal opened
+
+    height: Theme.rowHeight
+    color: current ? Theme.colours.rowSelected
+        : conflict ? Theme.colours.rowConflict
+        : index % 2 === 1 ? Theme.colours.rowAlternate : Theme.colours.row
+    objectName: "row" + index
+
+    Accessible.role: Accessible.Row
+    Accessible.name: values.ipport ?? values.name ?? ""
+    Accessible.selected: current
+    Accessible.checkable: checkWidth > 0
+    Accessible.checked: checked
+
+    HoverHandler {
+        id: pointer
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.colours.rowHoverVeil
+        visible: pointer.hovered && !root.current
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        onClicked: mouse => root.picked(mouse.modifiers)
+        onDoubleClicked: root.opened()
+    }
+
+    // A part of the row's surface, not a control of its own: a click counts anywhere in its column.
+    MouseArea {
+        width: root.checkWidth
+        height: parent.height
+        objectName: "check" + root.index
+        onClicked: mouse => root.tickToggled(mouse.modifiers)
+
+        OVCheckBox {
+            anchors.centerIn: parent
+            checked: root.checked
+            enabled: true
+            focusPolicy: Qt.NoFocus
+            hoverEnabled: false
+            nextCheckState: () => checkState
+            Accessible.ignored: true
+
+            // The model owns the tick; the area under the box takes the click.
+            MouseArea {
+                anchors.fill: parent
+                onClicked: mouse => root.tickToggled(mouse.modifiers)
+            }
+        }
+    }
+
+    Row {
+        x: root.checkWidth
+        height: parent.height
+
+        // qmllint disable unqualified
+        Repeater {
+            model: root.columns
+
+            Loader {
+                required property int index
+                required property var modelData
+
+                width: root.columnWidths[index] ?? 0
+                height: Theme.rowHeight
+                sourceComponent: modelData.cell ?? textCell
+
+                onLoaded: {
+                    const cell = item as OVTableCell;
+                    cell.key = modelData.key;
+                    cell.row = Qt.binding(() => root.values);
+                    cell.conflict = Qt.binding(() => root.conflict);
+                    cell.rowIndex = Qt.binding(() => root.index);
+                    cell.current = Qt.binding(() => root.current);
+                }
+            }
+        }
+        // qmllint enable unqualified
+    }
+
+    Component {
+        id: textCell
+        OVTableTextCell {}
+    }
+}

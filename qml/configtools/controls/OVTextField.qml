@@ -1,0 +1,141 @@
+// A field for a line of text, with what is wrong with it written under it.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+FocusScope {
+    id: root
+
+    property alias text: field.text
+    property alias placeholderText: field.placeholderText
+    property alias validator: field.validator
+    property alias maximumLength: field.maximumLength
+    property alias readOnly: field.readOnly
+    property alias textFont: field.font
+    property string errorText
+    property string accessibleName
+    property string iconName
+    property bool clearable: false
+    property bool secret: false
+    signal edited
+    signal accepted
+
+    function selectAll() {
+        field.selectAll();
+    }
+
+    implicitWidth: 180
+    implicitHeight: Theme.controlHeight + (error.visible ? error.height : 0)
+
+    T.TextField {
+        id: field
+
+        readonly property bool wrong: root.errorText !== "" && enabled
+
+        width: root.width
+        height: Theme.controlHeight
+        color: enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        echoMode: root.secret && !eye.checked ? TextInput.Password : TextInput.Normal
+        focus: true
+        font: Theme.bodyFont
+        hoverEnabled: true
+        leftPadding: root.iconName !== "" ? 34 : 11
+        rightPadding: clear.visible || eye.visible ? 34 : 11
+        renderType: Text.NativeRendering
+        selectByMouse: true
+        selectedTextColor: Theme.colours.ink
+        selectionColor: Theme.colours.rowSelected
+        verticalAlignment: TextInput.AlignVCenter
+
+        Accessible.name: root.accessibleName !== "" ? root.accessibleName : placeholderText
+        Accessible.description: root.errorText
+
+        onAccepted: root.accepted()
+        onTextEdited: root.edited()
+        Keys.onEscapePressed: event => {
+            event.accepted = root.clearable && text !== "";
+            if (event.accepted)
+                root.wipe();
+        }
+
+        background: Rectangle {
+            border.color: field.wrong ? Theme.colours.bad
+                : field.activeFocus ? Theme.colours.accent
+                : field.hovered && field.enabled ? Theme.colours.lineStrong : Theme.colours.line
+            border.width: Theme.line
+            color: field.enabled ? Theme.colours.surface : Theme.colours.disabledFill
+            radius: Theme.controlRadius
+
+            OVFocusRing {
+                border.color: field.wrong ? Theme.colours.badLine : Theme.colours.focusRing
+                shown: field.activeFocus
+            }
+        }
+
+        OVLabel {
+            x: field.leftPadding
+            width: field.width - field.leftPadding - field.rightPadding
+            height: field.height
+            color: Theme.colours.faint
+            showsWholeOnHover: false
+            text: field.placeholderText
+            visible: field.length === 0 && field.preeditText === ""
+
+            Accessible.ignored: true
+        }
+
+        OVIcon {
+            x: 10
+            anchors.verticalCenter: parent.verticalCenter
+            color: field.activeFocus ? Theme.colours.accent : Theme.colours.faint
+            name: root.iconName
+            size: Theme.boxSize
+            visible: root.iconName !== ""
+        }
+
+        OVIconButton {
+            id: clear
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.half
+            anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: Theme.unit * 3
+            implicitHeight: Theme.unit * 3
+            focusPolicy: Qt.NoFocus
+            iconName: "clear"
+            iconSize: Theme.smallIconSize
+            toolTip: qsTr("清除")
+            visible: root.clearable && field.length > 0 && field.enabled
+            onClicked: root.wipe()
+        }
+
+        OVIconButton {
+            id: eye
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.half
+            anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: Theme.unit * 3
+            implicitHeight: Theme.unit * 3
+            checkable: true
+            iconName: checked ? "hide" : "show"
+            iconSize: Theme.boxSize
+            toolTip: checked ? qsTr("隐藏密码") : qsTr("显示密码")
+            visible: root.secret
+        }
+    }
+
+    function wipe() {
+        field.clear();
+        field.forceActiveFocus();
+        root.edited();
+    }
+
+    OVParagraph {
+        id: error
+        y: Theme.controlHeight + Theme.half
+        width: root.width
+        color: Theme.colours.bad
+        font: Theme.hintFont
+        text: root.errorText
+        visible: field.wrong
+    }
+}

@@ -1,0 +1,160 @@
+// The window's own title bar: logo, name and counter, and places for what a window puts on it.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property string title
+    required property bool maximised
+    property int count: 0
+    property bool searching: false
+    readonly property alias menuButton: menuButton
+    signal searchRequested
+    signal settingsRequested
+    signal menuRequested
+    signal minimiseRequested
+    signal maximiseRequested
+    signal closeRequested
+    signal dragged(point from)
+
+    component BarButton: OVIconButton {
+        fillHover: Theme.colours.barHover
+        fillPressed: Theme.colours.barPressed
+        ink: Theme.colours.barInk
+        inkHover: Theme.colours.barInk
+    }
+
+    implicitHeight: Theme.titleBarHeight
+    color: Theme.colours.bar
+
+    Accessible.role: Accessible.TitleBar
+    Accessible.name: title
+
+    MouseArea {
+        property point start
+        property bool moving: false
+
+        anchors.fill: parent
+        objectName: "titleDragArea"
+        onDoubleClicked: root.maximiseRequested()
+        onPressed: mouse => {
+            start = Qt.point(mouse.x, mouse.y);
+            moving = false;
+        }
+        onPositionChanged: mouse => {
+            if (moving || Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y) < Theme.unit)
+                return;
+            moving = true;
+            root.dragged(start);
+        }
+    }
+
+    Rectangle {
+        id: logo
+        x: Theme.pageMargin
+        anchors.verticalCenter: parent.verticalCenter
+        width: Theme.unit * 3
+        height: width
+        radius: Theme.controlRadius
+        gradient: Gradient {
+            GradientStop { position: 0; color: Theme.colours.logoTop }
+            GradientStop { position: 1; color: Theme.colours.accent }
+        }
+
+        OVLabel {
+            anchors.fill: parent
+            color: Theme.colours.accentInk
+            font: Theme.headFont
+            horizontalAlignment: Text.AlignHCenter
+            text: root.title.charAt(0)
+            Accessible.ignored: true
+        }
+    }
+    OVLabel {
+        anchors.left: logo.right
+        anchors.leftMargin: 12
+        height: parent.height
+        color: Theme.colours.barInk
+        font: Theme.titleFont
+        objectName: "titleText"
+        text: root.title
+    }
+
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit
+        y: (parent.height - Theme.controlHeight) / 2
+        spacing: 12
+
+        Row {
+            spacing: 6
+
+            OVLabel {
+                height: Theme.controlHeight
+                color: Theme.colours.barInk
+                font: Theme.counterFont
+                objectName: "counterNumber"
+                text: root.count
+            }
+            OVLabel {
+                height: Theme.controlHeight + 3  // stands on the baseline of the larger number
+                color: Theme.colours.barSub
+                objectName: "counterText"
+                //: Follows a number in the title bar, as in "24 devices found".
+                text: qsTr("台设备被搜索到")
+            }
+        }
+        BarButton {
+            fill: Theme.colours.barHover
+            fillHover: Theme.colours.barPressed
+            iconName: root.searching ? "spinner" : "search"
+            objectName: "searchButton"
+            toolTip: qsTr("搜索设备")
+            turning: root.searching
+            onClicked: root.searchRequested()
+        }
+        BarButton {
+            iconName: "settings"
+            objectName: "searchSettingsButton"
+            toolTip: qsTr("搜索设置")
+            onClicked: root.settingsRequested()
+        }
+        BarButton {
+            id: menuButton
+            iconName: "menu"
+            objectName: "menuButton"
+            toolTip: qsTr("关于")
+            onClicked: root.menuRequested()
+        }
+        Rectangle {
+            y: (Theme.controlHeight - height) / 2
+            width: Theme.line
+            height: 20
+            color: Theme.colours.barLine
+        }
+        BarButton {
+            iconName: "minimise"
+            iconSize: Theme.boxSize
+            objectName: "minimiseButton"
+            toolTip: qsTr("最小化")
+            onClicked: root.minimiseRequested()
+        }
+        BarButton {
+            iconName: root.maximised ? "restore" : "maximise"
+            iconSize: Theme.smallIconSize
+            objectName: "maximiseButton"
+            toolTip: root.maximised ? qsTr("向下还原") : qsTr("最大化")
+            onClicked: root.maximiseRequested()
+        }
+        BarButton {
+            fillHover: Theme.colours.barClose
+            fillPressed: Theme.colours.badPressed
+            iconName: "close"
+            iconSize: Theme.boxSize
+            objectName: "closeButton"
+            toolTip: qsTr("关闭")
+            onClicked: root.closeRequested()
+        }
+    }
+}

@@ -1,0 +1,111 @@
+// Short messages that need no answer, up to three on top of each other. Errors stay longer; a click sends one
+// away. It floats over dialogs too, since a dialog may be what the message is about.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.Popup {
+    id: root
+
+    enum Kind { Information, Success, Error }
+
+    readonly property int shown: 3
+
+    function show(text, kind) {
+        for (let i = messages.count - 1; i >= 0; --i) {
+            if (messages.get(i).words === text)
+                messages.remove(i);  // said again, it stays from now
+        }
+        if (messages.count === shown)
+            messages.remove(0);
+        messages.append({words: text, kind: kind ?? OVToast.Information});
+        open();
+    }
+
+    parent: T.Overlay.overlay
+    x: Math.round(((parent?.width ?? 0) - width) / 2)
+    y: Theme.titleBarHeight + Theme.tabBarHeight + Theme.unit
+    z: 1000
+    closePolicy: T.Popup.NoAutoClose
+    focus: false
+    modal: false
+    implicitWidth: Theme.toastWidth
+    implicitHeight: stack.implicitHeight
+
+    ListModel {
+        id: messages
+        onCountChanged: if (count === 0) root.close()
+    }
+
+    contentItem: Column {
+        id: stack
+        spacing: Theme.unit
+
+        // qmllint disable unqualified
+        Repeater {
+            model: messages
+
+            Rectangle {
+                id: toast
+
+                required property int index
+                required property int kind
+                required property string words
+                readonly property color sign: kind === OVToast.Error ? Theme.colours.bad
+                    : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
+
+                width: Theme.toastWidth
+                height: text.implicitHeight + 24
+                border.color: Theme.colours.line
+                border.width: Theme.line
+                color: Theme.colours.surface
+                objectName: "toast"
+                radius: Theme.paneRadius
+
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: words
+
+                OVShadow { depth: 12 }
+
+                Rectangle {
+                    x: Theme.line
+                    y: Theme.unit
+                    width: 3
+                    height: parent.height - 2 * Theme.unit
+                    color: toast.sign
+                    radius: 1.5
+                }
+                OVIcon {
+                    id: icon
+                    x: 14
+                    y: 12
+                    color: toast.sign
+                    name: toast.kind === OVToast.Error ? "error"
+                        : toast.kind === OVToast.Success ? "ok" : "about"
+                }
+                OVParagraph {
+                    id: text
+                    anchors.left: icon.right
+                    anchors.leftMargin: 10
+                    anchors.right: parent.right
+                    anchors.rightMargin: 16
+                    y: 12
+                    objectName: "toastText"
+                    text: toast.words
+                }
+                TapHandler {
+                    onTapped: messages.remove(toast.index)
+                }
+                Timer {
+                    interval: toast.kind === OVToast.Error ? Theme.errorToastStay : Theme.toastStay
+                    running: !hover.hovered
+                    onTriggered: messages.remove(toast.index)
+                }
+                HoverHandler {
+                    id: hover
+                }
+            }
+        }
+        // qmllint enable unqualified
+    }
+}

@@ -1,0 +1,5 @@
+import configtools
+
+MainWindow {
+    visible: true
+}

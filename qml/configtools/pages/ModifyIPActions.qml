@@ -1,0 +1,44 @@
+// What can be done with one device of the main page. Only the current row's actions are reached by Tab, or the
+// way through the table would be hundreds of stops long.
+import QtQuick
+import configtools
+
+OVTableCell {
+    id: root
+
+    property bool available: false
+
+    OVActionRow {
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 12
+
+        OVLinkButton {
+            enabled: root.available
+            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            objectName: "edit" + root.rowIndex
+            text: qsTr("编辑")
+            toolTip: qsTr("修改这台设备的IP地址")
+        }
+        OVLinkButton {
+            enabled: root.available
+            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            objectName: "detail" + root.rowIndex
+            text: qsTr("详情")
+            toolTip: qsTr("显示这台设备的全部信息")
+        }
+        OVLinkButton {
+            enabled: root.available
+            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            objectName: "web" + root.rowIndex
+            text: "web"
+            toolTip: qsTr("在浏览器中打开设备网页")
+        }
+        OVLinkButton {
+            enabled: root.available
+            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            objectName: "live" + root.rowIndex
+            text: "live"
+            toolTip: qsTr("观看实时画面")
+        }
+    }
+}

@@ -1,0 +1,126 @@
+// What can be done with the devices of the main page, and which of them are shown.
+import QtQuick
+import QtQuick.Layouts
+import configtools
+
+RowLayout {
+    id: root
+
+    required property bool showInitialised
+    required property bool showUninitialised
+    required property bool ipv6
+    property bool actionsAvailable: false
+    property alias searchText: searchField.text
+    signal initialisedToggled(bool shown)
+    signal uninitialisedToggled(bool shown)
+    signal ipv6Chosen(bool ipv6)
+
+    readonly property bool ipv4ActionsAvailable: actionsAvailable && !ipv6
+
+    function focusSearch() {
+        searchField.forceActiveFocus(Qt.ShortcutFocusReason);
+        searchField.selectAll();
+    }
+
+    implicitHeight: Theme.toolBarHeight
+    spacing: Theme.pageMargin
+
+    OVActionRow {
+        OVButton {
+            enabled: root.ipv4ActionsAvailable
+            kind: OVButton.Primary
+            objectName: "initialiseButton"
+            text: qsTr("初始化")
+            toolTip: qsTr("为勾选的新设备设置第一个密码")
+        }
+        OVButton {
+            enabled: root.ipv4ActionsAvailable
+            objectName: "batchModifyButton"
+            text: qsTr("批量修改IP")
+            toolTip: qsTr("为勾选的设备依次分配地址")
+        }
+        OVButton {
+            enabled: root.ipv4ActionsAvailable
+            objectName: "importButton"
+            text: qsTr("导入")
+            toolTip: qsTr("从表格文件读入设备列表")
+        }
+        OVButton {
+            enabled: root.ipv4ActionsAvailable
+            objectName: "exportButton"
+            text: qsTr("导出")
+            toolTip: qsTr("把勾选的设备写入表格文件")
+        }
+        OVButton {
+            id: addButton
+            enabled: root.ipv4ActionsAvailable
+            objectName: "addButton"
+            opensMenu: true
+            text: qsTr("手动添加")
+            toolTip: qsTr("添加搜索不到的设备：按IP、按P2P或从收藏夹")
+            onClicked: addMenu.popup(addButton, 0, addButton.height + Theme.half)
+
+            OVMenu {
+                id: addMenu
+                objectName: "addMenu"
+
+                OVMenuItem {
+                    objectName: "addIpItem"
+                    text: qsTr("IP设备")
+                }
+                OVMenuItem {
+                    objectName: "addP2pItem"
+                    text: qsTr("P2P设备")
+                }
+                OVMenuItem {
+                    objectName: "addFavouriteItem"
+                    text: qsTr("收藏夹")
+                }
+            }
+        }
+        OVButton {
+            enabled: root.actionsAvailable
+            kind: OVButton.Danger
+            objectName: "deleteButton"
+            text: qsTr("删除")
+            toolTip: qsTr("把勾选的设备从列表中删除")
+        }
+    }
+
+    Item {
+        Layout.fillWidth: true
+    }
+
+    Row {
+        spacing: 14
+
+        OVCheckBox {
+            checked: root.showInitialised
+            objectName: "initialisedBox"
+            text: qsTr("已初始化")
+            onToggled: root.initialisedToggled(checked)
+        }
+        OVCheckBox {
+            checked: root.showUninitialised
+            objectName: "uninitialisedBox"
+            text: qsTr("未初始化")
+            onToggled: root.uninitialisedToggled(checked)
+        }
+    }
+    OVSegmentedChoice {
+        currentIndex: root.ipv6 ? 1 : 0
+        options: [{text: "IPV4", objectName: "ipv4Choice"}, {text: "IPV6", objectName: "ipv6Choice"}]
+        onActivated: index => root.ipv6Chosen(index === 1)
+    }
+    OVTextField {
+        id: searchField
+        Layout.fillWidth: true
+        Layout.maximumWidth: 240
+        Layout.minimumWidth: 140
+        Layout.preferredWidth: 240
+        clearable: true
+        iconName: "search"
+        objectName: "searchField"
+        placeholderText: qsTr("搜索…")
+    }
+}

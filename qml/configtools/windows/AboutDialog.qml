@@ -1,0 +1,79 @@
+// What this program is and which version of it, for copying into a report.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property string productName
+    required property string version
+    signal copied
+
+    width: 400
+    objectName: "aboutDialog"
+    hasCancel: false
+    onAccepted: close()
+
+    Row {
+        width: parent.width
+        spacing: 12
+
+        Rectangle {
+            id: logo
+            width: 40
+            height: 40
+            radius: Theme.paneRadius
+            gradient: Gradient {
+                GradientStop { position: 0; color: Theme.colours.logoTop }
+                GradientStop { position: 1; color: Theme.colours.accent }
+            }
+
+            OVLabel {
+                anchors.fill: parent
+                color: Theme.colours.accentInk
+                font: Theme.leadFont
+                horizontalAlignment: Text.AlignHCenter
+                text: root.productName.charAt(0)
+                Accessible.ignored: true
+            }
+        }
+        Column {
+            width: parent.width - logo.width - copy.width - 2 * parent.spacing
+
+            OVLabel {
+                width: parent.width
+                font: Theme.titleFont
+                text: root.productName
+            }
+            TextEdit {
+                id: versionText
+                width: parent.width
+                color: Theme.colours.sub
+                font: Theme.figureFont
+                objectName: "versionText"
+                readOnly: true
+                renderType: Text.NativeRendering
+                selectByMouse: true
+                selectedTextColor: Theme.colours.ink
+                selectionColor: Theme.colours.rowSelected
+                text: root.version
+                textFormat: TextEdit.PlainText
+
+                Accessible.name: text
+            }
+        }
+        OVIconButton {
+            id: copy
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "copy"
+            objectName: "copyVersionButton"
+            toolTip: qsTr("复制版本号")
+            onClicked: {
+                versionText.selectAll();
+                versionText.copy();
+                versionText.deselect();
+                root.copied();
+            }
+        }
+    }
+}

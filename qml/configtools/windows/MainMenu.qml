@@ -1,0 +1,61 @@
+// The menu of the main window.
+import QtQuick
+import QtQml
+import configtools
+
+OVMenu {
+    id: root
+
+    required property var languages  // objects with "code" and "label"
+    required property string currentLanguage
+    signal helpRequested
+    signal questionsRequested
+    signal aboutRequested
+    signal languageChosen(string code)
+
+    objectName: "mainMenu"
+
+    OVMenuItem {
+        iconName: "help"
+        objectName: "helpItem"
+        text: qsTr("帮助")
+        onTriggered: root.helpRequested()
+    }
+    OVMenu {
+        id: languageMenu
+        iconName: "language"
+        objectName: "languageMenu"
+        enabled: root.languages.length > 0
+        title: qsTr("语言")
+
+        // qmllint disable unqualified
+        Instantiator {
+            model: root.languages
+
+            OVMenuItem {
+                required property var modelData
+
+                marksChoice: modelData.code === root.currentLanguage
+                objectName: "language_" + modelData.code
+                text: modelData.label
+                onTriggered: root.languageChosen(modelData.code)
+            }
+
+            onObjectAdded: (index, object) => languageMenu.insertItem(index, object)
+            onObjectRemoved: (index, object) => languageMenu.removeItem(object)
+        }
+        // qmllint enable unqualified
+    }
+    OVMenuItem {
+        iconName: "questions"
+        objectName: "qaItem"
+        text: qsTr("QA")
+        onTriggered: root.questionsRequested()
+    }
+    OVMenuItem {
+        iconName: "about"
+        objectName: "aboutItem"
+        text: qsTr("关于")
+        onTriggered: root.aboutRequested()
+    }
+}
