@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QStringList>
+#include <QVariantList>
+
+#include <memory>
+
+class QSharedMemory;
+
+/// The user's local settings, the interface language, the texts that name the product, the help documents and
+/// the single-instance lock.
+///
+/// The settings file is opened afresh for every read and every write, so that a write is on disk at once and
+/// nothing is cached. A missing key reads as an empty text or 0; a write that fails is lost, with a warning
+/// in the log. Main thread only.
+class CLocalConfig : public QObject
+{
+    Q_OBJECT
+public:
+    /// The process-wide object for the executable's directory, created on first use.
+    static CLocalConfig *getinstance();
+
+    /// Deletes the process-wide object.
+    static void deleteInstance();
+
+    /// Works on the files of `directory`. Writes a settings file with the defaults when there is none; an
+    /// existing one is never completed or repaired.
+    explicit CLocalConfig(const QString &directory);
+    ~CLocalConfig() override;
+
+    Q_INVOKABLE [[nodiscard]] QString getLanguage() const;
+    /// Stores the language of the next start; the running program keeps its own.
+    Q_INVOKABLE void setLanguage(const QString &lang);
+    Q_INVOKABLE [[nodiscard]] QString getSearchConfigStartIP() const;
+    Q_INVOKABLE void setSearchConfigStartIP(const QString &address);
+    Q_INVOKABLE [[nodiscard]] QString getSearchConfigEndIP() const;
+    Q_INVOKABLE void setSearchConfigEndIP(const QString &address);
+    /// Spelt as the scene calls it.
+    Q_INVOKABLE [[nodiscard]] QString getSearchConfigUsrename() const;
+    Q_INVOKABLE void setSearchConfigUsername(const QString &user);
+    Q_INVOKABLE [[nodiscard]] QString getSearchConfigPass() const;
+    Q_INVOKABLE void setSearchConfigPass(const QString &pass);
+    Q_INVOKABLE [[nodiscard]] int getSearchConfigLocalDomain() const;
+    Q_INVOKABLE void setSearchConfigLocalDomain(int check);
+    Q_INVOKABLE [[nodiscard]] int getSearchConfigOtherDomain() const;
+    Q_INVOKABLE void setSearchConfigOtherDomain(int check);
+    /// Starts the program again with the same arguments and quits this process.
+    Q_INVOKABLE void reboot();
+    Q_INVOKABLE [[nodiscard]] QString getVersion() const;
+    Q_INVOKABLE [[nodiscard]] QString getSoftwareName() const;
+    Q_INVOKABLE [[nodiscard]] QString getLogoSoftwareName() const;
+    Q_INVOKABLE void OpenHelpFile();
+    Q_INVOKABLE void OpenQAFile();
+    Q_INVOKABLE [[nodiscard]] QString getAppPath() const;
+    /// Indexes into languageCodes of the languages without a translation file, ascending.
+    Q_INVOKABLE [[nodiscard]] QVariantList getRemoveLanguageList() const;
+    Q_INVOKABLE [[nodiscard]] QPoint cursorPos() const;
+
+    void setCurrentLanguage(const QString &code);
+    [[nodiscard]] bool hasTranslation(const QString &code) const;
+
+    /// Takes the single-instance lock for the life of this object. Returns true when another instance holds
+    /// it. A lock that a killed process left behind is taken over.
+    [[nodiscard]] bool anotherInstanceRuns();
+
+private:
+    [[nodiscard]] QVariant value(const QString &key) const;
+    void setValue(const QString &key, const QVariant &value);
+    void writeDefaults();
+    [[nodiscard]] QString translationFile(const QString &code) const;
+    void openDocument(const QString &name) const;
+
+    QString m_currentLanguage;
+    const QString m_directory;
+    const QString m_settingsPath;
+    std::unique_ptr<QSharedMemory> m_instanceLock; ///< null while not held
+    QVariantList m_removedLanguages;
+    QStringList m_languageFiles; ///< translation files that exist, in the order of languageCodes
+};

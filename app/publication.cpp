@@ -1,0 +1,20 @@
+#include "app/publication.h"
+
+#include "app/localconfig.h"
+#include "app/timezonetext.h"
+#include "device/devicefactory.h"
+
+#include <QCoreApplication>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+
+void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
+{
+    // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
+    QQmlContext *context = engine.rootContext();
+    context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
+    context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
+    context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
+    context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());
+    context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), deviceLibraryInstalled);
+}

@@ -1,0 +1,125 @@
+#include "app/shell.h"
+
+#include "app/languages.h"
+#include "app/localconfig.h"
+#include "app/messagebox.h"
+#include "app/publication.h"
+#include "device/devicefactory.h"
+#include "device/devicehik.h"
+#include "device/deviceol.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QFile>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include <utility>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+namespace {
+
+constexpr int sceneFailed = 1;
+
+/// Translation files are looked up where the program was started, not where it stands.
+QString translationPath(const QString &code)
+{
+    return QLatin1String("./language/") + code + QLatin1String(".qm");
+}
+
+} // namespace
+
+void Shell::prepareApplication()
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // without effect in this toolkit version, which always scales
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QT_WARNING_POP
+}
+
+Shell::Shell(CommandLine commandLine) : m_commandLine(std::move(commandLine)) {}
+
+Shell::~Shell()
+{
+    CLocalConfig::deleteInstance();
+    CDeviceFactory::deleteInstance();
+}
+
+std::optional<int> Shell::begin()
+{
+    // Live video is drawn into framebuffer objects of OpenGL.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+
+    loadTranslators();
+    if (CLocalConfig::getinstance()->anotherInstanceRuns()) {
+        OMessageBox::show(QObject::tr("提示"), QObject::tr("应用程序已经运行!"));
+        QCoreApplication::exit(0);
+        return 0;
+    }
+    if (!chooseLibraries())
+        return sceneFailed;
+    registerBackEnds();
+    loadScene();
+    return std::nullopt;
+}
+
+void Shell::loadTranslators()
+{
+    const QString code = resolveLanguage(*CLocalConfig::getinstance(), QLocale::system().language());
+    if (code != QLatin1String("en_US") && code != QLatin1String("zh_CN") &&
+        m_fallbackTranslator.load(translationPath(QStringLiteral("en_US")))) {
+        QCoreApplication::installTranslator(&m_fallbackTranslator);
+    }
+    // Installed last, it is searched first.
+    if (m_mainTranslator.load(translationPath(code)))
+        QCoreApplication::installTranslator(&m_mainTranslator);
+}
+
+bool Shell::chooseLibraries()
+{
+    m_libraries.clock = std::make_shared<sdk::SystemClock>();
+    if (!m_commandLine.demo)
+        return true;
+    QString error;
+    const std::shared_ptr<sdk::demo::DemoSite> site =
+        sdk::demo::DemoSite::open(m_commandLine.scene, m_libraries.clock, &error);
+    if (!site) {
+        qCritical().noquote() << "The simulated site cannot be opened:" << error;
+        OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + error);
+        return false;
+    }
+    m_libraries = site->libraries();
+    return true;
+}
+
+void Shell::registerBackEnds()
+{
+    const auto store = std::make_shared<DeviceStore>(m_libraries.clock);
+    CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [store, libraries = m_libraries] {
+        const auto searchSettings = [] {
+            return SearchSettings{.localDomain =
+                                      CLocalConfig::getinstance()->getSearchConfigLocalDomain() != 0};
+        };
+        return std::make_shared<CDeviceDH>(store, libraries, searchSettings);
+    });
+    CDeviceFactory::registerBackEnd(QStringLiteral("hik"),
+                                    [store] { return std::make_shared<CDeviceHik>(store); });
+    CDeviceFactory::registerBackEnd(QStringLiteral("ol"),
+                                    [store] { return std::make_shared<CDeviceOL>(store); });
+}
+
+void Shell::loadScene()
+{
+    QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    publishToScene(*m_engine, m_libraries.net != nullptr);
+    m_engine->load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml")));
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/commandline.h"
+#include "sdk/sdklibraries.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+#include <memory>
+#include <optional>
+
+class QQmlApplicationEngine;
+
+/// Start-up and clean-up around the event loop, given an application object. Everything on the main thread.
+class Shell
+{
+    Q_DECLARE_TR_FUNCTIONS(Shell)
+public:
+    /// Attributes that must be set before the application object is created.
+    static void prepareApplication();
+
+    explicit Shell(CommandLine commandLine);
+
+    /// Deletes the local configuration and then the device factory; the scene and the translators follow.
+    ~Shell();
+
+    Shell(const Shell &) = delete;
+    Shell &operator=(const Shell &) = delete;
+
+    /// Settles the language, takes the single-instance lock, chooses the device libraries and loads the
+    /// scene. Returns an exit code when the program is not to run, after it has said why.
+    [[nodiscard]] std::optional<int> begin();
+
+    /// The scene's engine; null before a successful begin().
+    [[nodiscard]] QQmlApplicationEngine *engine() const { return m_engine.get(); }
+
+    /// The libraries in use; empty before a successful begin().
+    [[nodiscard]] const sdk::SdkLibraries &libraries() const { return m_libraries; }
+
+private:
+    void loadTranslators();
+    [[nodiscard]] bool chooseLibraries();
+    void registerBackEnds();
+    void loadScene();
+
+    const CommandLine m_commandLine;
+    QTranslator m_fallbackTranslator; ///< English, for texts that the chosen language lacks
+    QTranslator m_mainTranslator;
+    sdk::SdkLibraries m_libraries;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+};

@@ -1,0 +1,16 @@
+#include "app/localconfig.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir directory;
+    CLocalConfig localConfig(directory.path());
+    std::puts(localConfig.anotherInstanceRuns() ? "refused" : "holding");
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,233 @@
+#include "app/languages.h"
+#include "app/localconfig.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+void write(const QString &path, const QByteArray &content = "x")
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write(content);
+}
+
+} // namespace
+
+class TestLocalConfig : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<QTemporaryDir> m_directory;
+    QStringList m_opened; ///< documents that the desktop was asked to open
+
+    QString path(const QString &name) const { return m_directory->path() + '/' + name; }
+
+public Q_SLOTS:
+    void openDocument(const QUrl &url)
+    {
+        m_opened.append(QDir(m_directory->path()).relativeFilePath(url.toLocalFile()));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        m_opened.clear();
+        QDesktopServices::setUrlHandler("file", this, "openDocument");
+    }
+
+    void cleanup() { QDesktopServices::unsetUrlHandler("file"); }
+
+    void aFirstStartWritesTheDefaults()
+    {
+        const CLocalConfig config(m_directory->path());
+        QSettings settings(path("LocalConfig.ini"), QSettings::IniFormat);
+        QStringList keys = settings.allKeys();
+        keys.sort();
+        QCOMPARE(keys, QStringList({"language/name", "searchConfig/endIP", "searchConfig/localDomain",
+                                    "searchConfig/otherDomain", "searchConfig/pass", "searchConfig/startIP",
+                                    "searchConfig/username"}));
+        QCOMPARE(config.getLanguage(), "");
+        QCOMPARE(config.getSearchConfigLocalDomain(), 1);
+        QCOMPARE(config.getSearchConfigOtherDomain(), 0);
+        QCOMPARE(config.getSearchConfigStartIP(), "192.168.1.1");
+        QCOMPARE(config.getSearchConfigEndIP(), "192.168.1.255");
+        QCOMPARE(config.getSearchConfigUsrename(), "admin");
+        QCOMPARE(config.getSearchConfigPass(), "739164");
+    }
+
+    void settingsAreOnDiskAtOnceAndReadAfresh()
+    {
+        CLocalConfig config(m_directory->path());
+        const QString password = "a,b;\"c\" = 密码\\";
+        config.setSearchConfigPass(password);
+        config.setSearchConfigStartIP("10.0.0.1");
+        config.setSearchConfigEndIP("10.0.0.9");
+        config.setSearchConfigUsername("root");
+        config.setSearchConfigLocalDomain(0);
+        config.setSearchConfigOtherDomain(1);
+        config.setLanguage("de_DE");
+
+        CLocalConfig other(m_directory->path());
+        QCOMPARE(other.getSearchConfigPass(), password);
+        QCOMPARE(other.getSearchConfigStartIP(), "10.0.0.1");
+        QCOMPARE(other.getSearchConfigEndIP(), "10.0.0.9");
+        QCOMPARE(other.getSearchConfigUsrename(), "root");
+        QCOMPARE(other.getSearchConfigLocalDomain(), 0);
+        QCOMPARE(other.getSearchConfigOtherDomain(), 1);
+        other.setLanguage("fr_FR");
+        QCOMPARE(config.getLanguage(), "fr_FR");
+    }
+
+    void anExistingFileIsNeverCompleted()
+    {
+        write(path("LocalConfig.ini"), "[searchConfig]\nendIP=10.0.0.9\n");
+        const CLocalConfig config(m_directory->path());
+        QCOMPARE(config.getSearchConfigStartIP(), "");
+        QCOMPARE(config.getSearchConfigLocalDomain(), 0);
+        QCOMPARE(config.getSearchConfigEndIP(), "10.0.0.9");
+        QFile file(path("LocalConfig.ini"));
+        QVERIFY(file.open(QFile::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("[searchConfig]\nendIP=10.0.0.9\n"));
+    }
+
+    void badSettingsReadAsEmptyAndLoseNoOther_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("junk around a key")
+            << QByteArray("\x00\xFF]]junk\n[searchConfig]\n=\nendIP=10.0.0.9\n%%", 44);
+        QTest::newRow("wrong types") << QByteArray(
+            "[searchConfig]\nlocalDomain=yes\nstartIP=@Invalid()\n"
+            "otherDomain=1e9\nendIP=10.0.0.9\n[language]\nname=@Size(1 2)\n");
+        QTest::newRow("numbers out of range") << QByteArray("[searchConfig]\nlocalDomain=99999999999999\n"
+                                                            "endIP=10.0.0.9\n");
+    }
+
+    void badSettingsReadAsEmptyAndLoseNoOther()
+    {
+        QFETCH(QByteArray, content);
+        write(path("LocalConfig.ini"), content);
+        CLocalConfig config(m_directory->path());
+        QCOMPARE(config.getSearchConfigLocalDomain(), 0);
+        QCOMPARE(config.getSearchConfigOtherDomain(), 0);
+        QCOMPARE(config.getSearchConfigStartIP(), "");
+        QCOMPARE(config.getLanguage(), "");
+        config.setLanguage("en_US");
+        QCOMPARE(config.getLanguage(), "en_US");
+        QCOMPARE(config.getSearchConfigEndIP(), "10.0.0.9");
+    }
+
+    void aFolderInPlaceOfTheFileLosesWritesOnly()
+    {
+        QVERIFY(QDir().mkpath(path("LocalConfig.ini")));
+        CLocalConfig config(m_directory->path());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write"));
+        config.setLanguage("en_US");
+        QCOMPARE(config.getLanguage(), "");
+        QVERIFY(QFileInfo(path("LocalConfig.ini")).isDir());
+    }
+
+    void languagesWithoutAFileAreRemoved_data()
+    {
+        QTest::addColumn<QStringList>("present");
+        QTest::addColumn<QVariantList>("removed");
+        QTest::newRow("Chinese and English")
+            << QStringList{"zh_CN", "en_US"} << QVariantList{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
+        QTest::newRow("odd codes") << QStringList{"JP_US", "sv_SV"}
+                                   << QVariantList{0, 1, 2, 4, 5, 6, 7, 8, 9, 10, 12, 13};
+        QTest::newRow("no folder") << QStringList()
+                                   << QVariantList{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
+    }
+
+    void languagesWithoutAFileAreRemoved()
+    {
+        QFETCH(QStringList, present);
+        for (const QString &code : present)
+            write(path("language/" + code + ".qm"));
+        QTEST(CLocalConfig(m_directory->path()).getRemoveLanguageList(), "removed");
+    }
+
+    void aFirstStartTakesTheSystemsLanguage_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QLocale::Language>("system");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("Chinese") << "" << QLocale::Chinese << "zh_CN";
+        QTest::newRow("Japanese") << "" << QLocale::Japanese << "JP_US";
+        QTest::newRow("Swedish") << "" << QLocale::Swedish << "sv_SV";
+        QTest::newRow("Norwegian") << "" << QLocale::NorwegianBokmal << "no_NO";
+        QTest::newRow("Catalan is a choice of the user only") << "" << QLocale::Catalan << "en_US";
+        QTest::newRow("Galician is a choice of the user only") << "" << QLocale::Galician << "en_US";
+        QTest::newRow("unknown") << "" << QLocale::Zulu << "en_US";
+        QTest::newRow("no translation file") << "" << QLocale::German << "en_US";
+        QTest::newRow("stored") << "fr_FR" << QLocale::Chinese << "fr_FR";
+        QTest::newRow("stored, its file lost") << "de_DE" << QLocale::Chinese << "de_DE";
+    }
+
+    void aFirstStartTakesTheSystemsLanguage()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QLocale::Language, system);
+        QFETCH(QString, code);
+        for (const QLatin1StringView present : languageCodes) {
+            if (present != QLatin1String("de_DE"))
+                write(path("language/" + QString(present) + ".qm"));
+        }
+        CLocalConfig config(m_directory->path());
+        config.setLanguage(stored);
+        QCOMPARE(resolveLanguage(config, system), code);
+        QCOMPARE(config.getLanguage(), code);
+    }
+
+    void helpOpensTheDocumentOfTheLanguage()
+    {
+        CLocalConfig config(m_directory->path());
+        write(path("documents/manual_zh_CN.pdf"));
+        config.setCurrentLanguage("zh_CN");
+        config.OpenHelpFile();
+        config.OpenQAFile(); // is not there: English is opened without a test
+        config.setCurrentLanguage("fr_FR");
+        config.OpenHelpFile();
+        QCOMPARE(m_opened, QStringList({"documents/manual_zh_CN.pdf", "documents/QA_en_US.pdf",
+                                        "documents/manual_en_US.pdf"}));
+    }
+
+    void theLockIsHeldByOneLivingProcess()
+    {
+        QProcess first;
+        const auto start = [](QProcess &process) {
+            process.start(QCoreApplication::applicationDirPath() + "/lockholder", QStringList());
+            QVERIFY(process.waitForReadyRead());
+        };
+        start(first);
+        QCOMPARE(first.readLine().trimmed(), "holding");
+
+        CLocalConfig config(m_directory->path());
+        QVERIFY(config.anotherInstanceRuns());
+        QVERIFY(config.anotherInstanceRuns()); // asking does not take a live lock away
+        QProcess second;
+        start(second);
+        QCOMPARE(second.readLine().trimmed(), "refused");
+
+        first.kill(); // leaves its segment behind
+        QVERIFY(first.waitForFinished());
+        QVERIFY(!config.anotherInstanceRuns());
+        QProcess third;
+        start(third);
+        QCOMPARE(third.readLine().trimmed(), "refused");
+        for (QProcess *process : {&second, &third}) {
+            process->kill();
+            process->waitForFinished();
+        }
+    }
+};
+
+QTEST_MAIN(TestLocalConfig)
+#include "tst_localconfig.moc"
