@@ -1,0 +1,374 @@
+// Build tool that turns a document written in Markdown into a PDF file: documentwriter <file.md> <file.pdf>.
+// The language is that of the file's name ("manual_zh_CN.md").
+#include "documents/searchabletext.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QTextFrame>
+#include <QTextList>
+#include <QTextTable>
+
+#include <cstdio>
+
+namespace {
+
+namespace Colour {
+const QColor bar(0x17, 0x21, 0x30);
+const QColor ink(0x1b, 0x24, 0x30);
+const QColor sub(0x5d, 0x6b, 0x7c);
+const QColor faint(0x8a, 0x97, 0xa6);
+const QColor line(0xd9, 0xdf, 0xe6);
+const QColor quiet(0xf4, 0xf6, 0xf8);
+const QColor accent(0x17, 0x69, 0xe0);
+const QColor accentSoft(0xe3, 0xee, 0xfc);
+} // namespace Colour
+
+// Everything is laid out and painted in tenths of a point, so that sizes of fonts are whole numbers.
+constexpr int unitsPerInch = 720;
+constexpr qreal pt = unitsPerInch / 72.0;
+constexpr qreal marginSide = 64 * pt;
+constexpr qreal marginTop = 60 * pt;
+constexpr qreal marginBottom = 62 * pt;
+constexpr qreal notePadding = 9 * pt;
+constexpr qreal textSize = 10.5 * pt;
+
+QFont textFont(qreal size, QFont::Weight weight = QFont::Normal)
+{
+    QFont font;
+    font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans CJK SC")});
+    font.setPixelSize(qRound(size));
+    font.setWeight(weight);
+    // The Latin face has other brackets and slashes beside capitals and figures. They have no character of
+    // their own, so a reader that searches or copies would not find them.
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+void setBlockSpace(QTextBlockFormat &format, qreal above, qreal below, int lineHeight = 145)
+{
+    format.setTopMargin(above);
+    format.setBottomMargin(below);
+    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+}
+
+/// Gives every piece of text in the block the size, weight and colour, and keeps what is bold or code so.
+void setText(const QTextBlock &block, qreal size, QFont::Weight weight, const QColor &colour)
+{
+    // The fragments are collected first: changing one may join it to the next.
+    QList<std::pair<int, int>> pieces;
+    QList<QTextCharFormat> formats;
+    for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
+        pieces.append({fragment.fragment().position(), fragment.fragment().length()});
+        formats.append(fragment.fragment().charFormat());
+    }
+    for (qsizetype index = 0; index < pieces.size(); ++index) {
+        const QTextCharFormat &old = formats.at(index);
+        const bool isCode = old.fontFixedPitch();
+        const bool isBold = old.fontWeight() > QFont::Normal;
+        QTextCharFormat format;
+        format.setFont(textFont(size, isBold ? std::max(weight, QFont::DemiBold) : weight));
+        format.setFontItalic(old.fontItalic());
+        format.setForeground(old.isAnchor() ? Colour::accent : colour);
+        if (isCode)
+            format.setBackground(Colour::quiet);
+        if (isCode)
+            format.setForeground(Colour::accent.darker(150));
+        QTextCursor cursor(block);
+        cursor.setPosition(pieces.at(index).first);
+        cursor.setPosition(pieces.at(index).first + pieces.at(index).second, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(format);
+    }
+}
+
+void styleHeading(const QTextBlock &block)
+{
+    struct Style
+    {
+        qreal size, above, below;
+    };
+    constexpr Style styles[] = {
+        {24 * pt, 0, 8 * pt}, {15 * pt, 20 * pt, 6 * pt}, {11.5 * pt, 12 * pt, 3 * pt}};
+    const int level = std::clamp(block.blockFormat().headingLevel(), 1, 3);
+    const Style &style = styles[level - 1];
+    QTextBlockFormat format = block.blockFormat();
+    setBlockSpace(format, style.above, style.below, 120);
+    QTextCursor(block).setBlockFormat(format);
+    setText(block, style.size, QFont::DemiBold, level == 1 ? Colour::bar : Colour::ink);
+}
+
+void styleTable(QTextTable *table, qreal width)
+{
+    QTextTableFormat format = table->format();
+    format.setBorder(0.6 * pt);
+    format.setBorderBrush(Colour::line);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    format.setBorderCollapse(true);
+    format.setCellPadding(5 * pt);
+    format.setCellSpacing(0);
+    format.setTopMargin(6 * pt);
+    format.setBottomMargin(10 * pt);
+    format.setHeaderRowCount(1);
+    format.setWidth(QTextLength(QTextLength::FixedLength, width));
+    // The first column names things and is short; the others share what is left.
+    QList<QTextLength> columns{QTextLength(QTextLength::PercentageLength, 30)};
+    for (int column = 1; column < table->columns(); ++column)
+        columns.append(QTextLength(QTextLength::PercentageLength, 70.0 / (table->columns() - 1)));
+    format.setColumnWidthConstraints(columns);
+    table->setFormat(format);
+
+    for (int row = 0; row < table->rows(); ++row) {
+        for (int column = 0; column < table->columns(); ++column) {
+            QTextTableCell cell = table->cellAt(row, column);
+            if (row == 0) {
+                QTextCharFormat cellFormat = cell.format();
+                cellFormat.setBackground(Colour::quiet);
+                cell.setFormat(cellFormat);
+            }
+            for (auto part = cell.begin(); !part.atEnd(); ++part) {
+                const QTextBlock block = part.currentBlock();
+                QTextBlockFormat blockFormat = block.blockFormat();
+                setBlockSpace(blockFormat, 0, 0, 130);
+                blockFormat.setAlignment(Qt::AlignLeft);
+                QTextCursor(block).setBlockFormat(blockFormat);
+                setText(block, 9.5 * pt, row == 0 ? QFont::DemiBold : QFont::Normal,
+                        row == 0 ? Colour::sub : Colour::ink);
+            }
+        }
+    }
+}
+
+/// A quoted paragraph is a note; its box is painted with the page.
+bool isNote(const QTextBlock &block)
+{
+    return block.blockFormat().intProperty(QTextFormat::BlockQuoteLevel) > 0;
+}
+
+void styleBlock(const QTextBlock &block)
+{
+    QTextBlockFormat format = block.blockFormat();
+    if (format.headingLevel() > 0) {
+        styleHeading(block);
+        return;
+    }
+    if (isNote(block)) {
+        setBlockSpace(format, notePadding + 4 * pt, notePadding + 10 * pt);
+        format.setLeftMargin(notePadding + 4 * pt);
+        format.setRightMargin(notePadding);
+    } else if (block.textList()) {
+        const bool isLast = block.next().textList() != block.textList();
+        setBlockSpace(format, 0, (isLast ? 8 : 3) * pt);
+    } else {
+        setBlockSpace(format, 0, 7 * pt);
+    }
+    QTextCursor(block).setBlockFormat(format);
+    setText(block, textSize, QFont::Normal, Colour::ink);
+}
+
+/// The first paragraph below the title says what the document is about.
+void styleLead(const QTextBlock &block)
+{
+    setText(block, 12 * pt, QFont::Normal, Colour::sub);
+    QTextBlockFormat format = block.blockFormat();
+    setBlockSpace(format, 0, 8 * pt);
+    QTextCursor(block).setBlockFormat(format);
+}
+
+void style(QTextDocument &document, qreal width)
+{
+    for (QTextFrame *frame : document.rootFrame()->childFrames()) {
+        if (auto *table = qobject_cast<QTextTable *>(frame))
+            styleTable(table, width);
+    }
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (!QTextCursor(block).currentTable())
+            styleBlock(block);
+        if (QTextList *list = block.textList()) {
+            QTextListFormat format = list->format();
+            format.setIndent(1);
+            list->setFormat(format);
+        }
+    }
+    const QTextBlock lead = document.begin().next();
+    if (lead.isValid() && lead.blockFormat().headingLevel() == 0)
+        styleLead(lead);
+}
+
+int pageOf(const QTextDocument &document, qreal y)
+{
+    return static_cast<int>(y / document.pageSize().height());
+}
+
+void breakPageBefore(QTextBlock block)
+{
+    // Headings, and the sentence that leads up to a table, go with what follows them.
+    for (QTextBlock before = block.previous(); before.isValid(); before = before.previous()) {
+        const QString text = before.text();
+        const bool leadsOn = before.blockFormat().headingLevel() > 1 || text.endsWith(QLatin1Char(':')) ||
+                             text.endsWith(QChar(0xff1a));
+        if (!leadsOn || QTextCursor(before).currentTable())
+            break;
+        block = before;
+    }
+    QTextBlockFormat format = block.blockFormat();
+    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    QTextCursor(block).setBlockFormat(format);
+}
+
+/// Keeps a table, a note, and a heading with the first lines below it on one page.
+void placePageBreaks(QTextDocument &document)
+{
+    QAbstractTextDocumentLayout *layout = document.documentLayout();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextTable *table = QTextCursor(block).currentTable();
+        qreal top = layout->blockBoundingRect(block).top();
+        qreal bottom = top;
+        if (table) {
+            if (block != table->firstCursorPosition().block())
+                continue;
+            // The paragraph before a table leads up to it.
+            const QRectF area = layout->frameBoundingRect(table);
+            top = block.previous().isValid() ? layout->blockBoundingRect(block.previous()).top() : area.top();
+            bottom = area.bottom() - table->format().bottomMargin() - 1;
+        } else if (isNote(block)) {
+            bottom = layout->blockBoundingRect(block).bottom();
+        } else if (block.blockFormat().headingLevel() > 0 && block.next().isValid()) {
+            const QRectF next = layout->blockBoundingRect(block.next());
+            bottom = next.top() + std::min(next.height(), 34 * pt);
+        }
+        if (pageOf(document, top) == pageOf(document, bottom))
+            continue;
+        breakPageBefore(table && block.previous().isValid() ? block.previous() : block);
+    }
+}
+
+void drawNotes(QPainter &painter, const QTextDocument &document, int page)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QRectF text = document.documentLayout()->blockBoundingRect(block);
+        if (!isNote(block) || pageOf(document, text.top()) != page)
+            continue;
+        const QRectF box(0, text.top() - notePadding, document.pageSize().width(),
+                         text.height() + 2 * notePadding);
+        painter.fillRect(box, Colour::accentSoft);
+        painter.fillRect(QRectF(box.topLeft(), QSizeF(2.5 * pt, box.height())), Colour::accent);
+    }
+}
+
+void drawPage(QPainter &painter, const QTextDocument &document, int page, const QSizeF &paper,
+              const QString &title)
+{
+    const QSizeF body = document.pageSize();
+    painter.save();
+    painter.translate(marginSide, marginTop - page * body.height());
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = QRectF(0, page * body.height(), body.width(), body.height());
+    context.palette.setColor(QPalette::Text, Colour::ink);
+    drawNotes(painter, document, page);
+    painter.setClipRect(context.clip);
+    document.documentLayout()->draw(&painter, context);
+    painter.restore();
+
+    if (page == 0)
+        painter.fillRect(QRectF(0, 0, paper.width(), 8 * pt), Colour::bar);
+    const qreal footTop = paper.height() - marginBottom + 18 * pt;
+    painter.setPen(QPen(Colour::line, 0.6 * pt));
+    painter.drawLine(QPointF(marginSide, footTop), QPointF(paper.width() - marginSide, footTop));
+    painter.setFont(textFont(8.5 * pt));
+    painter.setPen(Colour::faint);
+    const QRectF foot(marginSide, footTop + 6 * pt, paper.width() - 2 * marginSide, 14 * pt);
+    painter.drawText(foot, Qt::AlignLeft | Qt::AlignVCenter, title);
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignVCenter,
+                     QStringLiteral("%1 / %2").arg(page + 1).arg(document.pageCount()));
+}
+
+/// The document as PDF; empty when it could not be painted.
+QByteArray pdfOf(const QString &markdown)
+{
+    QByteArray pdf;
+    QBuffer output(&pdf);
+    output.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&output);
+    writer.setResolution(unitsPerInch);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins(QMarginsF());
+    const QSizeF paper = writer.pageLayout().fullRectPixels(unitsPerInch).size();
+    const qreal width = paper.width() - 2 * marginSide;
+
+    QTextDocument document;
+    document.setDocumentMargin(0);
+    document.setDefaultFont(textFont(textSize));
+    document.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+    document.setIndentWidth(18 * pt);
+    style(document, width);
+    document.setPageSize(QSizeF(width, paper.height() - marginTop - marginBottom));
+    placePageBreaks(document);
+
+    const QString title = document.begin().text();
+    writer.setTitle(title);
+    writer.setCreator(QStringLiteral("BRELM Tool"));
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return {};
+    for (int page = 0; page < document.pageCount(); ++page) {
+        if (page > 0)
+            writer.newPage();
+        drawPage(painter, document, page, paper, title);
+    }
+    painter.end();
+    return withSearchableText(pdf, document.toRawText(), textFont(textSize));
+}
+
+bool hasFonts()
+{
+    const QStringList families = QFontDatabase::families();
+    for (const QString &family : {QStringLiteral("Inter"), QStringLiteral("Noto Sans CJK SC")}) {
+        if (!families.contains(family)) {
+            std::fprintf(stderr, "The font %s is not installed.\n", qPrintable(family));
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() != 3) {
+        std::fprintf(stderr, "usage: documentwriter FILE.md FILE.pdf\n");
+        return 2;
+    }
+    QFile input(arguments.at(1));
+    if (!input.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(input.fileName()), qPrintable(input.errorString()));
+        return 1;
+    }
+    if (!hasFonts())
+        return 1;
+    const QByteArray pdf = pdfOf(QString::fromUtf8(input.readAll()));
+    if (pdf.isEmpty()) {
+        std::fprintf(stderr, "%s: it could not be turned into PDF\n", qPrintable(input.fileName()));
+        return 1;
+    }
+    QDir().mkpath(QFileInfo(arguments.at(2)).path());
+    QSaveFile output(arguments.at(2));
+    if (!output.open(QIODevice::WriteOnly) || output.write(pdf) != pdf.size() || !output.commit()) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(output.fileName()), qPrintable(output.errorString()));
+        return 1;
+    }
+    return 0;
+}
