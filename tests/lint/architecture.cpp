@@ -1,0 +1,163 @@
+// Fails when a file of one folder includes a file of another that it may not see. The link graph says the
+// same, but cannot notice a header that is included and needs no linking.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <optional>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Folder
+{
+    std::string_view name;
+    std::vector<std::string_view> mayInclude; ///< besides itself and its own internal/
+};
+
+/// The arrows of docs/architecture.md. "*" stands for every folder.
+const std::vector<Folder> &folders()
+{
+    static const std::vector<Folder> table = {
+        {"sdk", {}},
+        {"sdk/demo", {"sdk"}},
+        {"sdk/ffmpeg", {"sdk"}},
+        {"sdk/binding", {"sdk"}},
+        {"sdk/onvif", {"sdk"}},
+        {"device", {"sdk"}},
+        {"media", {"device", "sdk"}},
+        {"sheets", {}},
+        {"favourites", {}},
+        {"device/dh", {"device", "media", "sdk", "sheets"}},
+        {"cgi", {"device", "sdk"}},
+        {"qml/configtools", {"device"}},
+        {"documents", {}},
+        {"app", {"*"}},
+        {"tests", {"*"}},
+        {"benchmarks", {"*"}},
+    };
+    return table;
+}
+
+/// The folder of the table that `path` (from the top of the project) lies in: the longest name that fits.
+const Folder *folderOf(std::string_view path)
+{
+    const Folder *found = nullptr;
+    for (const Folder &folder : folders()) {
+        const bool inside = path.size() > folder.name.size() && path.starts_with(folder.name) &&
+                            path[folder.name.size()] == '/';
+        if (inside && (!found || folder.name.size() > found->name.size()))
+            found = &folder;
+    }
+    return found;
+}
+
+/// What is wrong with `file` including `included`, if anything is.
+std::optional<std::string> objection(std::string_view file, std::string_view included)
+{
+    const Folder *from = folderOf(file);
+    if (!from)
+        return "the file lies in a folder that the table in tests/lint/architecture.cpp does not know";
+    const Folder *to = folderOf(included);
+    if (!to || to == from)
+        return std::nullopt; // a file next to it, or of a library
+    const auto isAllowed = [to](std::string_view name) {
+        return name == "*" || name == to->name;
+    };
+    if (std::none_of(from->mayInclude.begin(), from->mayInclude.end(), isAllowed))
+        return std::string(from->name) + "/ may not see " + std::string(to->name) + "/";
+    // A folder's internal/ is its own affair; its tests may look in.
+    const bool isTest = from->name == "tests" || from->name == "benchmarks";
+    if (!isTest && included.find("/internal/") != std::string_view::npos)
+        return "internal/ is for " + std::string(to->name) + "/ alone";
+    return std::nullopt;
+}
+
+int checkFile(const fs::path &root, const fs::path &path)
+{
+    static const std::regex pattern("^\\s*#\\s*include\\s*[\"<]([^\">]+)[\">]");
+    const std::string file = path.lexically_relative(root).generic_string();
+    std::ifstream stream(path);
+    int faults = 0;
+    int number = 0;
+    for (std::string line; std::getline(stream, line);) {
+        ++number;
+        std::smatch match;
+        if (!std::regex_search(line, match, pattern))
+            continue;
+        if (const auto fault = objection(file, match[1].str())) {
+            std::cerr << file << ':' << number << ": " << *fault << '\n';
+            ++faults;
+        }
+    }
+    return faults;
+}
+
+int checkProject(const fs::path &root)
+{
+    int faults = 0;
+    int files = 0;
+    for (fs::recursive_directory_iterator entry(root), end; entry != end; ++entry) {
+        const std::string name = entry->path().filename().string();
+        if (entry->is_directory() && (name == "build" || name.starts_with('.')))
+            entry.disable_recursion_pending();
+        const std::string extension = entry->path().extension().string();
+        if (entry->is_regular_file() && (extension == ".h" || extension == ".cpp")) {
+            ++files;
+            faults += checkFile(root, entry->path());
+        }
+    }
+    if (files == 0)
+        std::cerr << root << " holds no source\n";
+    return faults == 0 && files > 0 ? 0 : 1;
+}
+
+/// The check itself, on includes that must pass and includes that must not.
+int selfTest()
+{
+    struct Case
+    {
+        std::string_view file;
+        std::string_view included;
+        bool allowed;
+    };
+    const Case cases[] = {
+        {"device/devicestore.h", "sdk/clock.h", true},
+        {"device/devicestore.h", "device/devicerow.h", true},
+        {"device/devicestore.h", "QHash", true},
+        {"device/dh/internal/a.cpp", "device/dh/internal/a.h", true},
+        {"app/main.cpp", "sdk/demo/demosite.h", true},
+        {"tests/device/tst_x.cpp", "device/internal/x.h", true},
+        {"device/devicefactory.cpp", "device/dh/devicedh.h", false},
+        {"device/devicestore.cpp", "app/localconfig.h", false},
+        {"device/dh/devicedh.cpp", "sdk/demo/demosite.h", false},
+        {"device/dh/devicedh.cpp", "device/internal/x.h", false},
+        {"sdk/netlibrary.h", "device/devicerow.h", false},
+        {"elsewhere/x.cpp", "QHash", false},
+    };
+    int faults = 0;
+    for (const Case &one : cases) {
+        if (objection(one.file, one.included).has_value() == one.allowed) {
+            std::cerr << one.file << " including " << one.included << " was judged wrongly\n";
+            ++faults;
+        }
+    }
+    return faults == 0 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 2) {
+        std::cerr << "usage: lint_architecture PROJECT_FOLDER | --self-test\n";
+        return 2;
+    }
+    return std::string_view(argv[1]) == "--self-test" ? selfTest() : checkProject(argv[1]);
+}
