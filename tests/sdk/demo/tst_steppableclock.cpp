@@ -100,4 +100,4 @@ void SteppableClockTest::losesNoWakeUp()
 }
 
 QTEST_GUILESS_MAIN(SteppableClockTest)
-#include "steppableclocktest.moc"
+#include "tst_steppableclock.moc"

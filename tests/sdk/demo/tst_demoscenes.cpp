@@ -337,4 +337,4 @@ void ScenesTest::fleetIsUniqueAndMixed()
 }
 
 QTEST_GUILESS_MAIN(ScenesTest)
-#include "scenestest.moc"
+#include "tst_demoscenes.moc"

@@ -255,4 +255,4 @@ void DemoNetLibraryTest::librariesKeepTheSiteAlive()
 }
 
 QTEST_GUILESS_MAIN(DemoNetLibraryTest)
-#include "demonetlibrarytest.moc"
+#include "tst_demonetlibrary.moc"

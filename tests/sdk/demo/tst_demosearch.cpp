@@ -228,4 +228,4 @@ void SearchTest::changedDeviceAnswersFromItsNewAddress()
 }
 
 QTEST_GUILESS_MAIN(SearchTest)
-#include "searchtest.moc"
+#include "tst_demosearch.moc"

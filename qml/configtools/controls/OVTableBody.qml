@@ -1,0 +1,170 @@
+// The rows of an OVTable, with what the pointer and the keyboard do to them.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+ListView {
+    id: root
+
+    required property var columns
+    required property var columnWidths
+    required property int checkWidth
+    readonly property real rowWidth: columnWidths.reduce((sum, width) => sum + width, checkWidth)
+    property bool byPointer: false  // the focus came with a click, which needs no ring
+    property int tickAnchor: -1
+    property string currentIdentity
+    property real keptY: 0
+    property int revision: 0  // rises when values of rows may have changed
+    signal allToggled(bool checked)
+    signal rangeToggled(int first, int last, bool checked)
+    signal copyRequested(int row)
+    signal rowOpened(int row)
+
+    /// Makes `to` the current row; with `extend`, ticks the rows from where the extension began.
+    function move(to, extend) {
+        if (count === 0)
+            return;
+        const from = Math.max(0, currentIndex);
+        const row = Math.max(0, Math.min(count - 1, to));
+        if (extend) {
+            if (tickAnchor < 0 || tickAnchor >= count)
+                tickAnchor = from;
+            rangeToggled(Math.min(tickAnchor, row), Math.max(tickAnchor, row), true);
+        } else {
+            tickAnchor = row;
+        }
+        currentIndex = row;
+        positionViewAtIndex(row, ListView.Contain);
+        currentIdentity = (itemAtIndex(row) as OVTableRow)?.identity ?? "";
+    }
+
+    function toggle(row, modifiers) {
+        const extend = modifiers & Qt.ShiftModifier;
+        if (!extend)
+            rangeToggled(row, row, !model.get(row).checked);
+        move(row, extend);
+    }
+
+    function takePointerFocus() {
+        forceActiveFocus(Qt.MouseFocusReason);
+        byPointer = true;
+    }
+
+    function scrollBy(x, y) {
+        contentX = Math.max(0, Math.min(contentWidth - width, contentX - x));
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY - y));
+    }
+
+    function restore() {
+        forceLayout();
+        currentIndex = currentIdentity !== "" ? model.rowOf(currentIdentity) : -1;
+        contentY = Math.max(0, Math.min(contentHeight - height, keptY));
+    }
+
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    cacheBuffer: Theme.rowHeight * 10
+    clip: true
+    contentWidth: Math.max(width, rowWidth)
+    currentIndex: -1
+    flickableDirection: Flickable.HorizontalAndVerticalFlick
+    highlightFollowsCurrentItem: false
+    interactive: false  // rows are picked with the pointer, not thrown
+    keyNavigationEnabled: false
+    reuseItems: true
+
+    Accessible.role: Accessible.Table
+
+    onActiveFocusChanged: byPointer = false
+
+    Keys.onPressed: event => {
+        const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1);
+        const extend = event.modifiers & Qt.ShiftModifier;
+        const control = event.modifiers & Qt.ControlModifier;
+        const targets = {
+            [Qt.Key_Up]: currentIndex - 1, [Qt.Key_Down]: currentIndex + 1, [Qt.Key_PageUp]: currentIndex - page,
+            [Qt.Key_PageDown]: currentIndex + page, [Qt.Key_Home]: 0, [Qt.Key_End]: count - 1
+        };
+        event.accepted = true;
+        if (targets[event.key] !== undefined)
+            move(targets[event.key], extend);
+        else if (event.key === Qt.Key_Space && checkWidth > 0 && currentIndex >= 0)
+            toggle(currentIndex, event.modifiers);
+        else if (control && event.key === Qt.Key_A && checkWidth > 0)
+            allToggled(true);
+        else if (control && event.key === Qt.Key_C && currentIndex >= 0)
+            copyRequested(currentIndex);
+        else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentIndex >= 0)
+            rowOpened(currentIndex);
+        else
+            event.accepted = false;
+    }
+
+    // qmllint disable unqualified
+    delegate: OVTableRow {
+        width: root.contentWidth
+        checkWidth: root.checkWidth
+        columnWidths: root.columnWidths
+        columns: root.columns
+        current: index === root.currentIndex
+        values: {
+            root.revision;
+            return root.model.get(index);
+        }
+        onPicked: modifiers => {
+            root.takePointerFocus();
+            root.move(index, modifiers & Qt.ShiftModifier);
+        }
+        onTickToggled: modifiers => {
+            root.takePointerFocus();
+            root.toggle(index, modifiers);
+        }
+        onOpened: root.rowOpened(index)
+    }
+    // qmllint enable unqualified
+
+    T.ScrollBar.vertical: OVScrollBar {}
+    T.ScrollBar.horizontal: OVScrollBar {}
+
+    WheelHandler {
+        acceptedDevices: PointerDevice.AllDevices
+        property: ""
+        onWheel: event => {
+            const lines = 3 * Theme.rowHeight / 120;
+            const y = event.pixelDelta.y || event.angleDelta.y * lines;
+            const x = event.pixelDelta.x || event.angleDelta.x * lines;
+            if (event.modifiers & Qt.ShiftModifier)
+                root.scrollBy(y, 0);
+            else
+                root.scrollBy(x, y);
+        }
+    }
+
+    Connections {
+        target: root.model
+        ignoreUnknownSignals: true
+
+        function onDataChanged() {
+            ++root.revision;
+        }
+        function onRowsInserted() {
+            // A search empties the table and fills it again: the current row may be back.
+            if (root.currentIndex < 0 && root.currentIdentity !== "")
+                root.currentIndex = root.model.rowOf(root.currentIdentity);
+        }
+        function onModelAboutToBeReset() {
+            root.keptY = root.contentY;
+        }
+        function onModelReset() {
+            ++root.revision;
+            restoring.start();
+        }
+    }
+
+    // The view takes notice of a reset in its own time.
+    Timer {
+        id: restoring
+        interval: 0
+        onTriggered: root.restore()
+    }
+}

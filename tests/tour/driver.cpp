@@ -1,0 +1,141 @@
+#include "tests/tour/driver.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QTextStream>
+
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+QQuickItem *findBelow(QQuickItem *item, const QString &name)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findBelow(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+QPoint middleOf(const QQuickItem *item)
+{
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+} // namespace
+
+Driver::Driver(QQuickWindow *window, QString pictureFolder)
+    : m_window(window), m_pictureFolder(std::move(pictureFolder))
+{
+    QDir().mkpath(m_pictureFolder);
+}
+
+QQuickItem *Driver::find(const QString &name) const
+{
+    return findBelow(m_window->contentItem(), name);
+}
+
+QQuickItem *Driver::require(const QString &name) const
+{
+    await(QStringLiteral("\"%1\" is on the window").arg(name), [&] { return find(name) != nullptr; });
+    return find(name);
+}
+
+QString Driver::text(const QString &name) const
+{
+    return require(name)->property("text").toString();
+}
+
+void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
+{
+    QQuickItem *item = require(name);
+    atRest();
+    QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(item));
+}
+
+void Driver::hover(const QString &name) const
+{
+    QQuickItem *item = require(name);
+    atRest();
+    QTest::mouseMove(m_window, middleOf(item) + QPoint(1, 1));
+    QTest::mouseMove(m_window, middleOf(item));
+}
+
+void Driver::doubleClick(const QString &name) const
+{
+    QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier, middleOf(require(name)));
+}
+
+void Driver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+{
+    QTest::keyClick(m_window, key, modifiers);
+}
+
+void Driver::type(const QString &text) const
+{
+    for (const QChar letter : text) {
+        if (letter.unicode() < 128) {
+            QTest::keyClick(m_window, letter.toLatin1());
+            continue;
+        }
+        QInputMethodEvent event;
+        event.setCommitString(letter);
+        QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    }
+}
+
+void Driver::fill(const QString &name, const QString &text) const
+{
+    click(name);
+    key(Qt::Key_A, Qt::ControlModifier);
+    key(Qt::Key_Delete);
+    type(text);
+}
+
+void Driver::await(const QString &what, const std::function<bool()> &condition, int seconds) const
+{
+    check(QTest::qWaitFor(condition, seconds * 1000), what);
+}
+
+void Driver::check(bool condition, const QString &what) const
+{
+    if (condition)
+        return;
+    QTextStream(stdout) << "FAILED: " << what << Qt::endl;
+    if (m_window)
+        m_window->grabWindow().save(m_pictureFolder + QStringLiteral("/failed.png"));
+    std::_Exit(EXIT_FAILURE); // the scene is in the middle of something: nothing of it must run any more
+}
+
+void Driver::report(const QString &step, const QString &seen)
+{
+    atRest();
+    const QString picture = QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(step);
+    const QImage image = m_window->grabWindow();
+    check(!image.isNull() && image.save(m_pictureFolder + QLatin1Char('/') + picture),
+          QStringLiteral("the picture %1 is saved").arg(picture));
+    QTextStream(stdout) << picture << ": " << seen << Qt::endl;
+}
+
+void Driver::atRest() const
+{
+    // Two pictures alike, a moment apart: animations have ended. What moves for good (a search that runs) is
+    // given up on after a while.
+    constexpr int tries = 12;
+    QImage before;
+    for (int attempt = 0; attempt < tries; ++attempt) {
+        const QImage now = m_window->grabWindow();
+        if (now == before)
+            return;
+        before = now;
+        QTest::qWait(60);
+    }
+}

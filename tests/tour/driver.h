@@ -1,0 +1,57 @@
+// Drives the program's window as a user does: looks for what is on it, clicks and types, waits for what
+// follows.
+#pragma once
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+/// Everything on the main thread. A requirement that is not met ends the tour with a message and a last
+/// picture.
+class Driver
+{
+public:
+    Driver(QQuickWindow *window, QString pictureFolder);
+
+    [[nodiscard]] QQuickWindow *window() const { return m_window; }
+
+    /// The visible item with this object name, null when there is none.
+    [[nodiscard]] QQuickItem *find(const QString &name) const;
+
+    /// The same, waited for; the tour ends when it does not come.
+    QQuickItem *require(const QString &name) const;
+
+    /// "text" of a visible item.
+    [[nodiscard]] QString text(const QString &name) const;
+
+    /// Clicks the middle of an item, once it has come to rest.
+    void click(const QString &name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    void hover(const QString &name) const;
+    void doubleClick(const QString &name) const;
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+
+    /// Types into the item that has the keyboard. Text that no key makes is put in as an input method does.
+    void type(const QString &text) const;
+
+    /// Replaces the text of a field.
+    void fill(const QString &name, const QString &text) const;
+
+    /// Goes on when `condition` holds; ends the tour with `what` when it does not within `seconds`.
+    void await(const QString &what, const std::function<bool()> &condition, int seconds = 15) const;
+
+    void check(bool condition, const QString &what) const;
+
+    /// Says what a step has seen, and takes its picture once the window is at rest.
+    void report(const QString &step, const QString &seen);
+
+private:
+    void atRest() const;
+
+    QPointer<QQuickWindow> m_window;
+    const QString m_pictureFolder;
+    int m_pictures = 0;
+};

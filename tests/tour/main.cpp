@@ -1,0 +1,178 @@
+// ConfigTools LANGUAGE FOLDER: plays the tour in a language and saves its pictures in a folder.
+//
+// Several processes take part: one that watches, the program that is driven, a second start of it beside the
+// first, and the one that the program starts in its place when its language was changed.
+
+#include "app/localconfig.h"
+#include "app/messagebox.h"
+#include "app/shell.h"
+#include "tests/tour/driver.h"
+#include "tests/tour/steps.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QQmlApplicationEngine>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+#include <cstdlib>
+
+namespace {
+
+const char *const stageVariable = "CONFIGTOOLS_TOUR_STAGE";
+
+QtMessageHandler previousHandler = nullptr;
+int warnings = 0;
+
+/// Passes messages on and counts those that must not be: a warning fails the tour.
+void countWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtWarningMsg || type == QtCriticalMsg)
+        ++warnings;
+    previousHandler(type, context, message);
+}
+
+QString otherLanguage(const QString &language)
+{
+    return language == QLatin1String("zh_CN") ? QStringLiteral("en_US") : QStringLiteral("zh_CN");
+}
+
+/// Written by the last process, for the one that watches.
+QString resultFile(const QString &folder)
+{
+    return folder + QStringLiteral("/result.txt");
+}
+
+QString restartFile(const QString &folder)
+{
+    return folder + QStringLiteral("/restarted.txt");
+}
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QFile::WriteOnly) && file.write(content) == content.size();
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Starts the program and waits for it and for the one that follows it.
+int watch(const QString &language, const QString &folder)
+{
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/LocalConfig.ini"));
+    CLocalConfig(QCoreApplication::applicationDirPath()).setLanguage(language);
+
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(stageVariable), QStringLiteral("program"));
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedChannels);
+    program.start(QCoreApplication::applicationFilePath(), {language, folder});
+    constexpr int minutes = 60000;
+    if (!program.waitForFinished(4 * minutes) || program.exitStatus() != QProcess::NormalExit ||
+        program.exitCode() != EXIT_SUCCESS) {
+        QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
+        return EXIT_FAILURE;
+    }
+    const bool restarted = QTest::qWaitFor([&] { return QFile::exists(resultFile(folder)); }, minutes);
+    const QByteArray result =
+        restarted ? readFile(resultFile(folder)) : "FAILED: the program did not start again";
+    QTextStream(stdout) << result << Qt::endl;
+    QFile::remove(restartFile(folder));
+    QFile::remove(resultFile(folder));
+    return result.startsWith("FAILED") ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+/// A second start: says on its output what its message box says, and closes that.
+void answerMessageBox(const QString &folder)
+{
+    auto *closer = new QTimer(qApp);
+    QObject::connect(closer, &QTimer::timeout, closer, [folder] {
+        auto *box = qobject_cast<OMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        QTextStream(stdout) << box->windowTitle() << ": "
+                            << box->findChild<QLabel *>(QStringLiteral("text"))->text() << Qt::endl;
+        box->grab().save(folder + QStringLiteral("/second-start-box.png"));
+        QTest::mouseClick(box->findChild<QPushButton *>(), Qt::LeftButton);
+    });
+    closer->start(100);
+}
+
+void drive(Driver &driver, const QString &language, const QString &folder)
+{
+    walkFirstSearch(driver);
+    walkTable(driver);
+    walkWindow(driver);
+    walkSearchSettings(driver);
+    walkSecondStart(driver, folder);
+    driver.check(warnings == 0, QStringLiteral("no warning was given"));
+    driver.check(writeFile(restartFile(folder), "restarted"), QStringLiteral("the restart is noted"));
+    walkLanguageChange(driver, otherLanguage(language));
+}
+
+/// The program after its restart: it has another language and closes as any program does.
+void driveRestarted(Driver &driver, const QString &language, const QString &folder)
+{
+    const bool changed = CLocalConfig::getinstance()->getLanguage() == otherLanguage(language);
+    driver.await(QStringLiteral("the search of the restarted program ends"),
+                 [&] { return !driver.window()->property("searching").toBool(); });
+    driver.window()->grabWindow().save(folder + QStringLiteral("/restarted.png"));
+    const QString counter = driver.text(QStringLiteral("counterText"));
+    const bool translated =
+        counter.contains(QStringLiteral("台设备")) == (language != QLatin1String("zh_CN"));
+    const bool clean = changed && translated && warnings == 0;
+    writeFile(resultFile(folder),
+              clean ? "restarted.png: after the restart \"" + counter.toUtf8() + '"'
+                    : "FAILED: the restarted program is not in the other language: " + counter.toUtf8());
+    driver.click(QStringLiteral("closeButton"));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    previousHandler = qInstallMessageHandler(countWarnings);
+    Shell::prepareApplication();
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3) {
+        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER\n";
+        return 2;
+    }
+    const QString language = arguments.at(1);
+    const QString folder = QDir(arguments.at(2)).absolutePath();
+    const QByteArray stage = qgetenv(stageVariable);
+    if (stage.isEmpty())
+        return watch(language, folder);
+    if (stage == "second")
+        answerMessageBox(folder);
+
+    Shell shell(CommandLine::parse({QStringLiteral("ConfigTools"), QStringLiteral("--demo")}));
+    if (const std::optional<int> exitCode = shell.begin())
+        return *exitCode;
+    auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
+    if (!window || !QTest::qWaitForWindowExposed(window)) {
+        QTextStream(stdout) << "FAILED: no window opened" << Qt::endl;
+        return EXIT_FAILURE;
+    }
+    Driver driver(window, folder);
+    const bool restarted = QFile::exists(restartFile(folder));
+    QTimer::singleShot(0, window, [&] {
+        if (restarted)
+            driveRestarted(driver, language, folder);
+        else
+            drive(driver, language, folder);
+    });
+    return QApplication::exec();
+}

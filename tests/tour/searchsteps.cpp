@@ -1,0 +1,103 @@
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+#include "tests/tour/driver.h"
+#include "tests/tour/steps.h"
+
+#include <QQuickItem>
+
+namespace {
+
+/// Devices of the site that a search of the local segment lists by an IPv4 address.
+int devicesInReach(bool otherSegmentToo)
+{
+    int devices = 0;
+    const auto site =
+        sdk::demo::DemoSite::open(QStringLiteral("office"), std::make_shared<sdk::SystemClock>(), nullptr);
+    site->visitDevices([&](const sdk::demo::SceneDevice &device) {
+        const bool set = !device.address.isEmpty() && device.address != QLatin1String("0.0.0.0");
+        devices += set && (otherSegmentToo || !device.inOtherSegment) ? 1 : 0;
+    });
+    return devices;
+}
+
+bool isSearching(const Driver &driver)
+{
+    return driver.window()->property("searching").toBool();
+}
+
+int counter(const Driver &driver)
+{
+    return driver.text(QStringLiteral("counterNumber")).toInt();
+}
+
+int rows(const Driver &driver)
+{
+    return driver.require(QStringLiteral("deviceTable"))->property("count").toInt();
+}
+
+void awaitEndOfSearch(const Driver &driver, int seconds)
+{
+    driver.await(
+        QStringLiteral("the search ends"), [&] { return !isSearching(driver); }, seconds);
+}
+
+} // namespace
+
+void walkFirstSearch(Driver &driver)
+{
+    driver.await(QStringLiteral("the first search runs"), [&] { return isSearching(driver); });
+    driver.report(QStringLiteral("first-search"), QStringLiteral("the window searches by itself"));
+
+    driver.await(QStringLiteral("devices appear while the search runs"),
+                 [&] { return counter(driver) > 0 && rows(driver) > 0; });
+    driver.check(isSearching(driver),
+                 QStringLiteral("the first devices are there before the search has ended"));
+    driver.click(QStringLiteral("closeButton"));
+    driver.report(QStringLiteral("counter-climbs"),
+                  QStringLiteral("%1 devices so far, closing is refused").arg(counter(driver)));
+    driver.check(driver.window()->isVisible(), QStringLiteral("closing during a search does nothing"));
+
+    awaitEndOfSearch(driver, 15);
+    const int expected = devicesInReach(false);
+    driver.check(counter(driver) == expected && rows(driver) == expected,
+                 QStringLiteral("%1 devices are counted and listed (%2, %3)")
+                     .arg(expected)
+                     .arg(counter(driver))
+                     .arg(rows(driver)));
+    driver.hover(QStringLiteral("searchButton"));
+    driver.report(QStringLiteral("found"), QStringLiteral("%1 devices found").arg(counter(driver)));
+}
+
+void walkSearchSettings(Driver &driver)
+{
+    driver.click(QStringLiteral("searchSettingsButton"));
+    driver.report(QStringLiteral("search-settings"), QStringLiteral("search settings"));
+
+    driver.click(QStringLiteral("otherDomainBox"));
+    driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.3.1"));
+    driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.2.254"));
+    driver.click(QStringLiteral("okButton"));
+    driver.report(QStringLiteral("search-settings-begin-above-end"),
+                  driver.text(QStringLiteral("toastText")));
+    driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.20.1"));
+    driver.report(QStringLiteral("search-settings-too-many"), QStringLiteral("17 segments apart"));
+    driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.2"));
+    driver.click(QStringLiteral("okButton"));
+    driver.report(QStringLiteral("search-settings-no-address"), QStringLiteral("an unfinished address"));
+    driver.check(driver.find(QStringLiteral("searchSettingsDialog")) ||
+                     driver.find(QStringLiteral("okButton")),
+                 QStringLiteral("settings that are refused stay open"));
+
+    driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.2.1"));
+    driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.2.254"));
+    driver.click(QStringLiteral("okButton"));
+    driver.await(QStringLiteral("accepted settings start a search"), [&] { return isSearching(driver); });
+    awaitEndOfSearch(driver, 30);
+    const int expected = devicesInReach(true);
+    driver.check(counter(driver) == expected,
+                 QStringLiteral("the other segment's devices are found as well: %1 (%2)")
+                     .arg(expected)
+                     .arg(counter(driver)));
+    driver.report(QStringLiteral("other-segment"),
+                  QStringLiteral("%1 devices with the other segment").arg(expected));
+}

@@ -1,0 +1,18 @@
+// The steps of the tour, by subject.
+#pragma once
+
+class Driver;
+class QString;
+
+/// The window opens, searches by itself, and its controls do what they say.
+void walkFirstSearch(Driver &driver);
+/// Sorting, ticks, the filters and the text search.
+void walkTable(Driver &driver);
+/// Search settings, their refusals, and a search of another segment.
+void walkSearchSettings(Driver &driver);
+/// Tabs, menus, the about box, maximising, and closing.
+void walkWindow(Driver &driver);
+/// A second start beside this one.
+void walkSecondStart(Driver &driver, const QString &pictureFolder);
+/// Chooses another language and restarts: this process ends, and the next one finds itself in that language.
+void walkLanguageChange(Driver &driver, const QString &otherLanguage);
