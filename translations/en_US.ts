@@ -5,523 +5,529 @@
     <name>AboutDialog</name>
     <message>
         <source>复制版本号</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy version number</translation>
     </message>
 </context>
 <context>
     <name>DeviceRow</name>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Other</translation>
     </message>
 </context>
 <context>
     <name>MainMenu</name>
     <message>
         <source>帮助</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>语言</source>
-        <translation type="unfinished"></translation>
+        <translation>Language</translation>
     </message>
     <message>
         <source>QA</source>
-        <translation type="unfinished"></translation>
+        <translation>Questions and answers</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>当前有设备正在升级中，请勿刷新设备！</source>
-        <translation type="unfinished"></translation>
+        <translation>A device is being upgraded. Wait until it has finished, then search again.</translation>
     </message>
     <message>
         <source>正在搜索，请稍候再关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>A search is running. Close the window once it has ended.</translation>
     </message>
     <message>
         <source>修改IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Modify IP</translation>
     </message>
     <message>
         <source>设备升级</source>
-        <translation type="unfinished"></translation>
+        <translation>Device upgrade</translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation type="unfinished"></translation>
+        <translation>Device configuration</translation>
     </message>
     <message>
         <source>系统配置</source>
-        <translation type="unfinished"></translation>
+        <translation>System configuration</translation>
     </message>
     <message>
         <source>CGI协议</source>
-        <translation type="unfinished"></translation>
+        <translation>CGI protocol</translation>
     </message>
     <message>
         <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
-        <translation type="unfinished"></translation>
+        <translation>No device library is installed. Start the tool with --demo to work with a simulated site.</translation>
     </message>
     <message>
         <source>已复制到剪贴板</source>
-        <translation type="unfinished"></translation>
+        <translation>Copied to the clipboard</translation>
     </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
     <message>
         <source>编辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit</translation>
     </message>
     <message>
         <source>修改这台设备的IP地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Change the IP address of this device</translation>
     </message>
     <message>
         <source>详情</source>
-        <translation type="unfinished"></translation>
+        <translation>Details</translation>
     </message>
     <message>
         <source>显示这台设备的全部信息</source>
-        <translation type="unfinished"></translation>
+        <translation>Show everything known about this device</translation>
     </message>
     <message>
         <source>在浏览器中打开设备网页</source>
-        <translation type="unfinished"></translation>
+        <translation>Open the device&apos;s web page in the browser</translation>
     </message>
     <message>
         <source>观看实时画面</source>
-        <translation type="unfinished"></translation>
+        <translation>Watch the live picture</translation>
     </message>
 </context>
 <context>
     <name>ModifyIPEmptyState</name>
     <message>
         <source>筛选条件隐藏了全部 %1 台设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Devices hidden by the filters: %1</translation>
     </message>
     <message>
         <source>正在搜索设备…</source>
-        <translation type="unfinished"></translation>
+        <translation>Searching for devices…</translation>
     </message>
     <message>
         <source>没有找到设备</source>
-        <translation type="unfinished"></translation>
+        <translation>No devices found</translation>
     </message>
     <message>
         <source>未安装设备库</source>
-        <translation type="unfinished"></translation>
+        <translation>No device library is installed</translation>
     </message>
     <message>
         <source>放宽筛选条件，或清除搜索文字。</source>
-        <translation type="unfinished"></translation>
+        <translation>Loosen the filters or clear the search text.</translation>
     </message>
     <message>
         <source>找到的设备会陆续显示在这里。</source>
-        <translation type="unfinished"></translation>
+        <translation>Devices appear here as they are found.</translation>
     </message>
     <message>
         <source>请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。</source>
-        <translation type="unfinished"></translation>
+        <translation>Check the cable and the network segment, or choose other segments in the search settings. Then search again.</translation>
     </message>
     <message>
         <source>以 --demo 参数启动可演示模拟站点。</source>
-        <translation type="unfinished"></translation>
+        <translation>Start the tool with --demo to work with a simulated site.</translation>
     </message>
     <message>
         <source>清除筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear filters</translation>
     </message>
     <message>
         <source>重新搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Search again</translation>
     </message>
 </context>
 <context>
     <name>ModifyIPToolBar</name>
     <message>
         <source>初始化</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialise</translation>
     </message>
     <message>
         <source>为勾选的新设备设置第一个密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Set the first password of the selected factory-new devices</translation>
     </message>
     <message>
         <source>批量修改IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Batch modify IP</translation>
     </message>
     <message>
         <source>为勾选的设备依次分配地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Assign consecutive addresses to the selected devices</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished"></translation>
+        <translation>Import</translation>
     </message>
     <message>
         <source>从表格文件读入设备列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Read a device list from a spreadsheet file</translation>
     </message>
     <message>
         <source>导出</source>
-        <translation type="unfinished"></translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>把勾选的设备写入表格文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Write the selected devices to a spreadsheet file</translation>
     </message>
     <message>
         <source>手动添加</source>
-        <translation type="unfinished"></translation>
+        <translation>Add manually</translation>
     </message>
     <message>
         <source>添加搜索不到的设备：按IP、按P2P或从收藏夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Add devices that a search does not find: by IP, by P2P or from the favourites</translation>
     </message>
     <message>
         <source>IP设备</source>
-        <translation type="unfinished"></translation>
+        <translation>IP device</translation>
     </message>
     <message>
         <source>P2P设备</source>
-        <translation type="unfinished"></translation>
+        <translation>P2P device</translation>
     </message>
     <message>
         <source>收藏夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Favourites</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>把勾选的设备从列表中删除</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove the selected devices from the list</translation>
     </message>
     <message>
         <source>已初始化</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialised</translation>
     </message>
     <message>
         <source>未初始化</source>
-        <translation type="unfinished"></translation>
+        <translation>Uninitialised</translation>
     </message>
     <message>
         <source>搜索…</source>
-        <translation type="unfinished"></translation>
+        <translation>Search…</translation>
     </message>
 </context>
 <context>
     <name>OMessageBox</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>OVAddressField</name>
     <message>
         <source>请输入正确的IP地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter a valid IP address</translation>
     </message>
 </context>
 <context>
     <name>OVDialog</name>
     <message>
         <source>确定</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
 </context>
 <context>
     <name>OVMessageBox</name>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Notice</translation>
     </message>
 </context>
 <context>
     <name>OVTableHead</name>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Select all</translation>
     </message>
 </context>
 <context>
     <name>OVTextField</name>
     <message>
         <source>清除</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>隐藏密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Hide password</translation>
     </message>
     <message>
         <source>显示密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Show password</translation>
     </message>
 </context>
 <context>
     <name>OVTitleBar</name>
-    <message>
+    <message numerus="yes">
         <source>台设备被搜索到</source>
         <extracomment>Follows a number in the title bar, as in &quot;24 devices found&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>
+            <numerusform>device found</numerusform>
+            <numerusform>devices found</numerusform>
+        </translation>
     </message>
     <message>
         <source>搜索设备</source>
-        <translation type="unfinished"></translation>
+        <translation>Search for devices</translation>
     </message>
     <message>
         <source>搜索设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Search settings</translation>
     </message>
     <message>
         <source>关于</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimise</translation>
     </message>
     <message>
         <source>向下还原</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximise</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
 </context>
 <context>
     <name>PageCGIConfig</name>
     <message>
         <source>CGI协议</source>
-        <translation type="unfinished"></translation>
+        <translation>CGI protocol</translation>
     </message>
     <message>
         <source>在此向多台设备批量发送CGI命令，并逐台查看设备的回应。</source>
-        <translation type="unfinished"></translation>
+        <translation>Send CGI commands to many devices at once and see the reply of each.</translation>
     </message>
     <message>
         <source>常用命令可以保存为模板。</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequent commands can be saved as templates.</translation>
     </message>
 </context>
 <context>
     <name>PageDeviceConfig</name>
     <message>
         <source>设备配置</source>
-        <translation type="unfinished"></translation>
+        <translation>Device configuration</translation>
     </message>
     <message>
         <source>在此查看并修改设备的编码参数和图像参数，旁边是实时预览。</source>
-        <translation type="unfinished"></translation>
+        <translation>View and change the encoding and image settings of a device next to its live preview.</translation>
     </message>
     <message>
         <source>修改可以复制到其他设备。</source>
-        <translation type="unfinished"></translation>
+        <translation>Changes can be copied to other devices.</translation>
     </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
     <message>
         <source>设备升级</source>
-        <translation type="unfinished"></translation>
+        <translation>Device upgrade</translation>
     </message>
     <message>
         <source>在此为选中的设备选择固件并批量升级，每台设备的进度和结果都显示在表中。</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose firmware for the selected devices and upgrade them together. The table shows the progress and result of each.</translation>
     </message>
     <message>
         <source>也可以按升级文档一次升级多台设备。</source>
-        <translation type="unfinished"></translation>
+        <translation>Many devices can also be upgraded in one run from an upgrade document.</translation>
     </message>
 </context>
 <context>
     <name>PageModifyIP</name>
     <message>
         <source>尚未修改</source>
-        <translation type="unfinished"></translation>
+        <translation>Not modified yet</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>No.</translation>
     </message>
     <message>
         <source>状态</source>
-        <translation type="unfinished"></translation>
+        <translation>State</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>类型</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>型号</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>IP:端口</source>
-        <translation type="unfinished"></translation>
+        <translation>IP:port</translation>
     </message>
     <message>
         <source>版本号</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>修改结果</source>
-        <translation type="unfinished"></translation>
+        <translation>Result</translation>
     </message>
     <message>
         <source>操作</source>
-        <translation type="unfinished"></translation>
+        <translation>Actions</translation>
     </message>
     <message>
         <source>正在搜索设备…</source>
-        <translation type="unfinished"></translation>
+        <translation>Searching for devices…</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>台设备已选中</source>
         <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>
+            <numerusform>device selected</numerusform>
+            <numerusform>devices selected</numerusform>
+        </translation>
     </message>
     <message>
         <source>已初始化</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialised</translation>
     </message>
     <message>
         <source>未初始化</source>
-        <translation type="unfinished"></translation>
+        <translation>Uninitialised</translation>
     </message>
     <message>
         <source>IP地址冲突</source>
-        <translation type="unfinished"></translation>
+        <translation>IP address conflict</translation>
     </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
     <message>
         <source>系统配置</source>
-        <translation type="unfinished"></translation>
+        <translation>System configuration</translation>
     </message>
     <message>
         <source>在此为多台设备统一校时、设置网络服务和修改密码。</source>
-        <translation type="unfinished"></translation>
+        <translation>Set the time, network services and passwords of many devices together.</translation>
     </message>
     <message>
         <source>也可以重启设备或恢复出厂设置。</source>
-        <translation type="unfinished"></translation>
+        <translation>Devices can also be restarted or reset to factory settings.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Notice</translation>
     </message>
     <message>
         <source>应用程序已经运行!</source>
-        <translation type="unfinished"></translation>
+        <translation>The program is already running!</translation>
     </message>
 </context>
 <context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
-        <translation type="unfinished"></translation>
+        <translation>Restart</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation type="unfinished"></translation>
+        <translation>Notice</translation>
     </message>
     <message>
         <source>语言变更需要重新启动程序才能生效！</source>
-        <translation type="unfinished"></translation>
+        <translation>The change of language takes effect after a restart.</translation>
     </message>
 </context>
 <context>
     <name>SearchSettingsDialog</name>
     <message>
         <source>起始ip不可以大于结束ip</source>
-        <translation type="unfinished"></translation>
+        <translation>The start IP must not be above the end IP</translation>
     </message>
     <message>
         <source>仅支持跨16个网段搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>End IP: at most 16 segments above the start IP</translation>
     </message>
     <message>
         <source>请输入正确的起始IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter a valid start IP</translation>
     </message>
     <message>
         <source>请输入正确的结束IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter a valid end IP</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Search</translation>
     </message>
     <message>
         <source>搜索设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Search settings</translation>
     </message>
     <message>
         <source>搜索本地网段</source>
-        <translation type="unfinished"></translation>
+        <translation>Search local segment</translation>
     </message>
     <message>
         <source>搜索其他网段</source>
-        <translation type="unfinished"></translation>
+        <translation>Search other segments</translation>
     </message>
     <message>
         <source>起始IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Start IP</translation>
     </message>
     <message>
         <source>结束IP</source>
-        <translation type="unfinished"></translation>
+        <translation>End IP</translation>
     </message>
     <message>
         <source>用户名</source>
-        <translation type="unfinished"></translation>
+        <translation>User name</translation>
     </message>
     <message>
         <source>密码</source>
-        <translation type="unfinished"></translation>
+        <translation>Password</translation>
     </message>
     <message>
         <source>登录搜索到的设备时默认使用此账号</source>
-        <translation type="unfinished"></translation>
+        <translation>Used by default to log in to the devices found</translation>
     </message>
 </context>
 <context>
     <name>Shell</name>
     <message>
         <source>无法打开模拟站点：</source>
-        <translation type="unfinished"></translation>
+        <translation>The simulated site cannot be opened:</translation>
     </message>
 </context>
 </TS>

@@ -102,7 +102,7 @@ Rectangle {
                 color: Theme.colours.barSub
                 objectName: "counterText"
                 //: Follows a number in the title bar, as in "24 devices found".
-                text: qsTr("台设备被搜索到")
+                text: qsTr("台设备被搜索到", "", root.count)
             }
         }
         BarButton {

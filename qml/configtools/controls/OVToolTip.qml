@@ -33,6 +33,7 @@ Loader {
 
         contentItem: OVParagraph {
             id: words
+            objectName: "toolTip"
             color: Theme.colours.bubbleInk
             font: Theme.hintFont
             text: bubble.text

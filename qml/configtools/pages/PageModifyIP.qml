@@ -112,7 +112,7 @@ FocusScope {
         running: page.searching
         runningText: qsTr("正在搜索设备…")
         //: Follows a number at the foot of a page, as in "3 devices selected".
-        text: devices.checkedCount + " " + qsTr("台设备已选中")
+        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
     }
 
     Component {
