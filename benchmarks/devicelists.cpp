@@ -1,0 +1,101 @@
+#include "benchmarks/measurements.h"
+
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/devicetablemodel.h"
+#include "device/dh/devicedh.h"
+#include "sdk/blocktext.h"
+#include "sdk/clock.h"
+
+#include <thread>
+#include <vector>
+
+namespace {
+
+constexpr int devices = 10000;
+constexpr int threads = 4;
+constexpr int runs = 9;
+
+std::vector<sdk::SearchAnswer> makeAnswers(int count)
+{
+    std::vector<sdk::SearchAnswer> answers(count);
+    for (int number = 0; number < count; ++number) {
+        sdk::SearchAnswer &answer = answers[number];
+        answer.size = sizeof(answer);
+        answer.device.ipVersion = 4;
+        answer.device.port = 37777;
+        answer.device.initialisationState = 2;
+        const QByteArray text = QByteArray::number(number);
+        sdk::setBlockText(answer.device.mac, ("02:1a:c5:" + text).toStdString());
+        sdk::setBlockText(answer.device.address,
+                          QStringLiteral("10.0.%1.%2").arg(number / 250).arg(number % 250 + 1).toStdString());
+        sdk::setBlockText(answer.device.deviceType, number % 3 ? "IPC" : "NVR");
+        sdk::setBlockText(answer.device.detailModel, "B-2230-IR");
+        sdk::setBlockText(answer.device.deviceName, ("机房 " + text).toStdString());
+        sdk::setBlockText(answer.device.softwareVersion, "2.840.1");
+    }
+    return answers;
+}
+
+/// Each thread delivers its share of the answers.
+void deliver(DeviceStore &store, const std::vector<sdk::SearchAnswer> &answers)
+{
+    std::vector<std::thread> library;
+    for (int thread = 0; thread < threads; ++thread) {
+        library.emplace_back([&, thread] {
+            for (std::size_t number = thread; number < answers.size(); number += threads)
+                store.addAnswer(answers[number]);
+        });
+    }
+    for (std::thread &thread : library)
+        thread.join();
+}
+
+} // namespace
+
+QList<Figure> measureDeviceLists()
+{
+    const auto clock = std::make_shared<sdk::SystemClock>();
+    const std::vector<sdk::SearchAnswer> answers = makeAnswers(devices);
+    const std::vector<sdk::SearchAnswer> half(answers.begin(), answers.begin() + devices / 2);
+    const auto adding = [&](const std::vector<sdk::SearchAnswer> &some) {
+        return medianMilliseconds(runs, [&] {
+            DeviceStore store(clock);
+            deliver(store, some);
+        });
+    };
+    const double halfTime = adding(half);
+    const Figure rows = {.subject = QStringLiteral("10,000 answers from four threads into rows"),
+                         .value = adding(answers),
+                         .unit = QStringLiteral("ms"),
+                         .budget = 150,
+                         .peer = halfTime,
+                         .largestRatio = 2.6, // twice, and what the machine's unrest adds
+                         .peerName = QStringLiteral("half as many")};
+
+    const auto store = std::make_shared<DeviceStore>(clock);
+    deliver(*store, answers);
+    sdk::SdkLibraries none;
+    none.clock = clock;
+    CDeviceFactory factory({{QStringLiteral("dh"), [&] {
+                                 return std::make_shared<CDeviceDH>(store, none,
+                                                                    [] { return SearchSettings(); });
+                             }}});
+    DeviceTableModel model;
+    model.setDeviceFactory(&factory);
+    bool text = false;
+    const Figure filter = {.subject = QStringLiteral("text filter over 10,000 rows"),
+                           .value =
+                               medianMilliseconds(runs,
+                                                  [&] {
+                                                      text = !text;
+                                                      model.setSearchText(text ? QStringLiteral("77")
+                                                                               : QStringLiteral("机房 9"));
+                                                  }),
+                           .unit = QStringLiteral("ms"),
+                           .budget = 30,
+                           .peer = {},
+                           .largestRatio = {},
+                           .peerName = {}};
+    return {rows, filter};
+}

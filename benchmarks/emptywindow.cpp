@@ -1,0 +1,21 @@
+// An empty window of the toolkit, on the same kind of application object and graphics interface as the
+// program.
+#include <QApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    QQmlApplicationEngine engine;
+    engine.loadData("import QtQuick\nWindow { width: 1280; height: 720; visible: true }");
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    QObject::connect(window, &QQuickWindow::frameSwapped, window, [] {
+        std::fputs("first picture\n", stderr);
+        QCoreApplication::quit();
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,16 @@
+// Measures the program against its budgets and prints a table. Not a test: times depend on the machine.
+#include "app/shell.h"
+#include "benchmarks/measurements.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    Shell::prepareApplication();
+    const QApplication application(argc, argv);
+    QList<Figure> figures = measureDeviceLists();
+    figures.append(measureStart());
+    figures.append(measureDevicePage());
+    printFigures(figures);
+    return 0;
+}

@@ -1,0 +1,155 @@
+#include "benchmarks/measurements.h"
+
+#include "app/shell.h"
+#include "device/devicefactory.h"
+#include "device/devicetablemodel.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr int runs = 7;
+
+/// Milliseconds from the start of a program to its first picture.
+double timeToFirstPicture(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("configtools.app.debug=true"));
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(QFileInfo(program).path());
+    process.setReadChannel(QProcess::StandardError);
+    QElapsedTimer timer;
+    timer.start();
+    process.start(program, arguments);
+    QByteArray said;
+    while (!said.contains("first picture") && process.waitForReadyRead(20000))
+        said += process.readAllStandardError();
+    const double time = static_cast<double>(timer.elapsed());
+    process.kill();
+    process.waitForFinished();
+    return time;
+}
+
+/// Resident memory of this process in megabytes.
+double residentMegabytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QFile::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.simplified().split(' ').value(1).toDouble() / 1024;
+    }
+    return 0;
+}
+
+QQuickItem *itemNamed(QQuickItem *item, const QString &name)
+{
+    if (item->objectName() == name)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = itemNamed(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+void awaitPicture(QQuickWindow *window)
+{
+    QSignalSpy swapped(window, &QQuickWindow::frameSwapped);
+    window->update();
+    swapped.wait();
+}
+
+/// The toolkit's own table model, filled from the factory as a page would.
+const char *const toolkitModel = R"(
+import QtQuick
+import Qt.labs.qmlmodels
+TableModel {
+    function refresh() { rows = CDeviceFactoryApi.filterData("dh", "nofilter") }
+    TableModelColumn { display: "checked" }
+    TableModelColumn { display: "num" }
+    TableModelColumn { display: "state" }
+    TableModelColumn { display: "name" }
+    TableModelColumn { display: "type" }
+    TableModelColumn { display: "model" }
+    TableModelColumn { display: "ipport" }
+    TableModelColumn { display: "mac" }
+    TableModelColumn { display: "vision" }
+    TableModelColumn { display: "res" }
+    TableModelColumn { display: "operate" }
+})";
+
+} // namespace
+
+Figure measureStart()
+{
+    QList<double> own;
+    QList<double> empty;
+    for (int run = 0; run < runs; ++run) { // in turn, so that both feel the same unrest
+        own.append(timeToFirstPicture(QStringLiteral(CONFIGTOOLS_PROGRAM), {QStringLiteral("--demo")}));
+        empty.append(timeToFirstPicture(QStringLiteral(CONFIGTOOLS_EMPTY_WINDOW), {}));
+    }
+    return {.subject = QStringLiteral("start to first painted main window"),
+            .value = median(own),
+            .unit = QStringLiteral("ms"),
+            .budget = 1000,
+            .peer = median(empty),
+            .largestRatio = 2,
+            .peerName = QStringLiteral("an empty window")};
+}
+
+QList<Figure> measureDevicePage()
+{
+    Shell shell(CommandLine::parse({QStringLiteral("ConfigTools"), QStringLiteral("--demo=fleet:10000")}));
+    if (shell.begin())
+        return {};
+    QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
+    done.wait(60000);
+
+    auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
+    QQuickItem *table = itemNamed(window->contentItem(), QStringLiteral("deviceTable"));
+    auto *model = table->property("model").value<DeviceTableModel *>();
+    const auto refreshed = [&] {
+        model->toggleSort(QStringLiteral("ipport")); // every row at another place
+        awaitPicture(window);
+    };
+    const double own = medianMilliseconds(runs, refreshed);
+    const double memory = residentMegabytes();
+
+    QQmlComponent component(shell.engine());
+    component.setData(toolkitModel, QUrl());
+    const std::unique_ptr<QObject> toolkits(component.create());
+    double peer = 0;
+    if (toolkits) {
+        peer = medianMilliseconds(3, [&] {
+            QMetaObject::invokeMethod(toolkits.get(), "refresh");
+            awaitPicture(window);
+        });
+    }
+    return {{.subject = QStringLiteral("page refresh with %1 rows").arg(model->rowCount()),
+             .value = own,
+             .unit = QStringLiteral("ms"),
+             .budget = 400,
+             .peer = peer > 0 ? std::optional(peer) : std::nullopt,
+             .largestRatio = {},
+             .peerName = QStringLiteral("the toolkit's TableModel")},
+            {.subject = QStringLiteral("memory with %1 rows").arg(model->rowCount()),
+             .value = memory,
+             .unit = QStringLiteral("MB"),
+             .budget = 250,
+             .peer = {},
+             .largestRatio = {},
+             .peerName = {}}};
+}

@@ -1,0 +1,13 @@
+// What is measured, by subject.
+#pragma once
+
+#include "benchmarks/figures.h"
+
+/// Search answers into rows, and the text filter over them.
+[[nodiscard]] QList<Figure> measureDeviceLists();
+
+/// Start of the program against an empty window of the toolkit.
+[[nodiscard]] Figure measureStart();
+
+/// The page of devices with 10,000 rows, and the memory of the program with them.
+[[nodiscard]] QList<Figure> measureDevicePage();
