@@ -1,11 +1,11 @@
 #include "app/localconfig.h"
 
 #include "app/languages.h"
+#include "app/logging.h"
 #include "app/product.h"
 
 #include <QCoreApplication>
 #include <QCursor>
-#include <QDebug>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -75,7 +75,7 @@ void CLocalConfig::setValue(const QString &key, const QVariant &value)
     settings.setValue(key, value);
     settings.sync();
     if (settings.status() == QSettings::AccessError)
-        qWarning() << "CLocalConfig: cannot write" << m_settingsPath;
+        qCWarning(logApp) << "CLocalConfig: cannot write" << m_settingsPath;
 }
 
 void CLocalConfig::writeDefaults()

@@ -2,6 +2,7 @@
 
 #include "app/languages.h"
 #include "app/localconfig.h"
+#include "app/logging.h"
 #include "app/messagebox.h"
 #include "app/publication.h"
 #include "device/devicefactory.h"
@@ -13,7 +14,6 @@
 #include "sdk/demo/demosite.h"
 
 #include <QApplication>
-#include <QDebug>
 #include <QFile>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
@@ -48,6 +48,9 @@ Shell::Shell(CommandLine commandLine) : m_commandLine(std::move(commandLine)) {}
 
 Shell::~Shell()
 {
+    // The scene's windows go first: their bindings must not see the objects vanish that they read.
+    if (m_engine)
+        qDeleteAll(m_engine->rootObjects());
     CLocalConfig::deleteInstance();
     CDeviceFactory::deleteInstance();
 }
@@ -91,7 +94,7 @@ bool Shell::chooseLibraries()
     const std::shared_ptr<sdk::demo::DemoSite> site =
         sdk::demo::DemoSite::open(m_commandLine.scene, m_libraries.clock, &error);
     if (!site) {
-        qCritical().noquote() << "The simulated site cannot be opened:" << error;
+        qCCritical(logApp).noquote() << "The simulated site cannot be opened:" << error;
         OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + error);
         return false;
     }
@@ -122,4 +125,10 @@ void Shell::loadScene()
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     publishToScene(*m_engine, m_libraries.net != nullptr);
     m_engine->load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml")));
+    if (auto *window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0))) {
+        const auto noteFirst = [] {
+            qCDebug(logApp) << "first picture";
+        };
+        QObject::connect(window, &QQuickWindow::frameSwapped, window, noteFirst, Qt::SingleShotConnection);
+    }
 }

@@ -1,7 +1,8 @@
 #include "device/devicefactory.h"
 
+#include "device/logging.h"
+
 #include <QCoreApplication>
-#include <QDebug>
 #include <QMetaMethod>
 
 #include <algorithm>
@@ -33,9 +34,9 @@ QByteArray asSignal(const QByteArray &signature)
 
 } // namespace
 
-void CDeviceFactory::registerBackEnd(const QString &family, BackEndCreator creator)
+void CDeviceFactory::registerBackEnd(const QString &family, const BackEndCreator &creator)
 {
-    registeredBackEnds().insert(family, std::move(creator));
+    registeredBackEnds().insert(family, creator);
 }
 
 CDeviceFactory *CDeviceFactory::getinstance()
@@ -73,7 +74,7 @@ void CDeviceFactory::relaySignals(const CDeviceBase &backEnd)
         const QByteArray signature = method.methodSignature();
         if (!connect(&backEnd, asSignal(signature).constData(), this,
                      asSignal(twinOf(signature)).constData()))
-            qCritical() << "CDeviceFactory: no twin for" << signature;
+            qCCritical(logDevice) << "CDeviceFactory: no twin for" << signature;
     }
 }
 
@@ -111,11 +112,11 @@ bool CDeviceFactory::hasDeviceUpgrading()
 
 void CDeviceFactory::startSnap(const QString &family, const QVariant &channelNum, const QString &address)
 {
-    qDebug() << "startSnap"
-             << ":" << address << channelNum;
+    qCDebug(logDevice) << "startSnap"
+                       << ":" << address << channelNum;
     snapPictureToFile(family, QStringLiteral("liveCapture"), channelNum, address);
-    qDebug() << "endSnap"
-             << ":" << address << channelNum;
+    qCDebug(logDevice) << "endSnap"
+                       << ":" << address << channelNum;
 }
 
 void CDeviceFactory::exitProgram()

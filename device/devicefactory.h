@@ -23,7 +23,7 @@ public:
 
     /// Registers the creator of a family's back end. To be called before the first getinstance(): this is how
     /// the factory comes to own back ends that it does not know.
-    static void registerBackEnd(const QString &family, BackEndCreator creator);
+    static void registerBackEnd(const QString &family, const BackEndCreator &creator);
 
     /// The process-wide factory, created on first use with the registered families. Main thread only.
     static CDeviceFactory *getinstance();

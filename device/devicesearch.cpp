@@ -1,10 +1,10 @@
 #include "device/devicesearch.h"
 
 #include "device/devicestore.h"
+#include "device/logging.h"
 #include "sdk/clock.h"
 #include "sdk/netlibrary.h"
 
-#include <QDebug>
 #include <QScopeGuard>
 #include <QThreadPool>
 #include <QtConcurrent>
@@ -130,8 +130,8 @@ void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_tok
 void DeviceSearch::keepHandle(std::int64_t handle)
 {
     if (handle == 0) {
-        qWarning() << "DeviceSearch: a local search could not be started, error" << Qt::hex
-                   << m_libraries.net->NetGetLastError();
+        qCWarning(logDevice) << "DeviceSearch: a local search could not be started, error" << Qt::hex
+                             << m_libraries.net->NetGetLastError();
         return;
     }
     const std::scoped_lock lock(m_mutex);

@@ -54,7 +54,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     const QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
     const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
                        row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
-    auto record = std::make_shared<const sdk::SearchAnswer>(answer);
+    const auto record = std::make_shared<const sdk::SearchAnswer>(answer);
 
     const std::scoped_lock lock(m_mutex);
     if (list.contains(identity))
@@ -66,7 +66,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
 
     // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
     if (ipv4 || !m_records.contains(mac))
-        m_records.insert(mac, std::move(record));
+        m_records.insert(mac, record);
 
     return {
         .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};

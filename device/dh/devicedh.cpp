@@ -1,8 +1,7 @@
 #include "device/dh/devicedh.h"
 
+#include "device/logging.h"
 #include "sdk/netlibrary.h"
-
-#include <QDebug>
 
 #include <utility>
 
@@ -12,7 +11,7 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_search(std::make_unique<DeviceSearch>(std::move(store), m_libraries))
 {
     if (m_libraries.net && !m_libraries.net->NetInit())
-        qWarning() << "CDeviceDH: the network library cannot be initialised";
+        qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
 
     connect(m_search.get(), &DeviceSearch::rowsAdded, this, &CDeviceBase::signalCDeviceAddDeviceToTable,
             Qt::DirectConnection);

@@ -189,7 +189,7 @@ private Q_SLOTS:
     void aSignalOfAnotherThreadArrivesOnTheFactorysThread()
     {
         QThread *receiver = nullptr;
-        connect(&m_factory, &CDeviceFactory::signalSearchDone, this,
+        connect(&m_factory, &CDeviceFactory::signalSearchDone, &m_factory,
                 [&] { receiver = QThread::currentThread(); });
         QSignalSpy done(&m_factory, &CDeviceFactory::signalSearchDone);
         const std::unique_ptr<QThread> thread(

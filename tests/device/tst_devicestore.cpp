@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <array>
 #include <atomic>
 #include <thread>
 
@@ -205,9 +206,9 @@ private Q_SLOTS:
                     QVERIFY(!row.toJsonObject().value("mac").toString().isEmpty());
             }
         });
-        std::vector<std::thread> writers;
-        for (int writer = 0; writer < 4; ++writer) {
-            writers.emplace_back([&] {
+        std::array<std::thread, 4> writers;
+        for (std::thread &writer : writers) {
+            writer = std::thread([&] {
                 for (int number = 0; number < devices; ++number)
                     added += m_store->addAnswer(searchAnswer({.mac = numberedMac(number)})).added ? 1 : 0;
             });

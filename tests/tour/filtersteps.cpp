@@ -87,7 +87,7 @@ void walkFilters(Driver &driver)
     driver.await(QStringLiteral("the text filter leaves some rows"),
                  [&] { return rows.count() > 0 && rows.count() < all; });
     driver.report(QStringLiteral("text-search"),
-                  QStringLiteral("%1 devices hold the text").arg(rows.count()));
+                  QStringLiteral("rows that hold the text: %1").arg(rows.count()));
     driver.key(Qt::Key_A, Qt::ControlModifier);
     driver.type(QStringLiteral("no such device"));
     driver.await(QStringLiteral("no row holds the text"), [&] { return rows.count() == 0; });

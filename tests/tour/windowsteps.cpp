@@ -2,7 +2,6 @@
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
-#include <QAccessible>
 #include <QGuiApplication>
 #include <QProcess>
 
@@ -47,13 +46,11 @@ void walkDisabledOperations(Driver &driver)
     for (const QString &button : {QStringLiteral("initialiseButton"), QStringLiteral("batchModifyButton"),
                                   QStringLiteral("importButton"), QStringLiteral("exportButton"),
                                   QStringLiteral("addButton"), QStringLiteral("deleteButton")}) {
-        driver.check(!driver.require(button)->isEnabled() ||
-                         !driver.require(button)->property("enabled").toBool() ||
-                         !driver.require(button)->property("available").toBool(),
+        driver.check(!driver.require(button)->isEnabled(),
                      QStringLiteral("\"%1\" is there and disabled").arg(button));
     }
     driver.hover(QStringLiteral("batchModifyButton"));
-    driver.report(QStringLiteral("tool-tip"), QStringLiteral("a button says what it will do"));
+    driver.report(QStringLiteral("tool-tip"), driver.text(QStringLiteral("toolTip")));
 }
 
 void walkSize(Driver &driver)
