@@ -24,7 +24,7 @@ T.Popup {
 
     parent: T.Overlay.overlay
     x: Math.round(((parent?.width ?? 0) - width) / 2)
-    y: Theme.titleBarHeight + Theme.tabBarHeight + Theme.unit
+    y: (parent?.height ?? 0) - height - Theme.footHeight - Theme.unit
     z: 1000
     closePolicy: T.Popup.NoAutoClose
     focus: false
