@@ -69,6 +69,12 @@ QVariant CLocalConfig::value(const QString &key) const
     return QSettings(m_settingsPath, QSettings::IniFormat).value(key);
 }
 
+int CLocalConfig::number(const QString &key) const
+{
+    // Through the text: a number that does not fit is then 0 like any other text that is no number.
+    return value(key).toString().toInt();
+}
+
 void CLocalConfig::setValue(const QString &key, const QVariant &value)
 {
     QSettings settings(m_settingsPath, QSettings::IniFormat);
@@ -141,7 +147,7 @@ void CLocalConfig::setSearchConfigPass(const QString &pass)
 
 int CLocalConfig::getSearchConfigLocalDomain() const
 {
-    return value(localDomainKey).toString().toInt();
+    return number(localDomainKey);
 }
 
 void CLocalConfig::setSearchConfigLocalDomain(int check)
@@ -151,7 +157,7 @@ void CLocalConfig::setSearchConfigLocalDomain(int check)
 
 int CLocalConfig::getSearchConfigOtherDomain() const
 {
-    return value(otherDomainKey).toString().toInt();
+    return number(otherDomainKey);
 }
 
 void CLocalConfig::setSearchConfigOtherDomain(int check)

@@ -60,6 +60,8 @@ public:
 
     void setCurrentLanguage(const QString &code);
     [[nodiscard]] bool hasTranslation(const QString &code) const;
+    /// Paths of the translation files that exist, in the order of languageCodes.
+    [[nodiscard]] QStringList languageFiles() const { return m_languageFiles; }
 
     /// Takes the single-instance lock for the life of this object. Returns true when another instance holds
     /// it. A lock that a killed process left behind is taken over.
@@ -67,6 +69,7 @@ public:
 
 private:
     [[nodiscard]] QVariant value(const QString &key) const;
+    [[nodiscard]] int number(const QString &key) const;
     void setValue(const QString &key, const QVariant &value);
     void writeDefaults();
     [[nodiscard]] QString translationFile(const QString &code) const;
@@ -77,5 +80,5 @@ private:
     const QString m_settingsPath;
     std::unique_ptr<QSharedMemory> m_instanceLock; ///< null while not held
     QVariantList m_removedLanguages;
-    QStringList m_languageFiles; ///< translation files that exist, in the order of languageCodes
+    QStringList m_languageFiles;
 };

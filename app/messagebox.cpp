@@ -1,6 +1,7 @@
 #include "app/messagebox.h"
 
 #include "app/pressbutton.h"
+#include "app/widgetstyle.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -11,9 +12,7 @@ OMessageBox::OMessageBox(const QString &title, const QString &text, QWidget *par
     setModal(true);
     setWindowTitle(title);
     setMinimumWidth(360);
-    setStyleSheet(QStringLiteral("OMessageBox { background: #ffffff; border: 1px solid #d9dfe6; }"
-                                 "QLabel { color: #1b2430; }"
-                                 "QLabel#title { font-weight: 600; }"));
+    setStyleSheet(widgetStyle());
 
     auto *titleLabel = new QLabel(title, this);
     titleLabel->setObjectName(QStringLiteral("title"));

@@ -30,6 +30,9 @@ function(configtools_add_folder target)
     endif()
 endfunction()
 
+# What the scene's engine says of a broken binding or document, which does not fail by itself.
+set(configtools_scene_complaints "ReferenceError;TypeError;Binding loop;Unable to assign;is not a type;QML [A-Za-z]+:")
+
 # A test program that CTest runs. A complaint of the QML engine fails it, whatever it returns.
 # configtools_add_test(<name> SOURCES <files>... LIBRARIES <targets>... [TIMEOUT <seconds>])
 function(configtools_add_test name)
@@ -44,6 +47,6 @@ function(configtools_add_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
-        FAIL_REGULAR_EXPRESSION "ReferenceError;TypeError;Binding loop;Unable to assign;is not a type;QML [A-Za-z]+:"
+        FAIL_REGULAR_EXPRESSION "${configtools_scene_complaints}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()

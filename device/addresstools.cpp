@@ -13,7 +13,7 @@ double AddressTools::toNumber(const QString &text) const
     return ipv4Number(text).value_or(0);
 }
 
-int AddressTools::searchRangeFault(const QString &begin, const QString &end) const
+AddressTools::RangeFault AddressTools::searchRangeFault(const QString &begin, const QString &end) const
 {
-    return static_cast<int>(::searchRangeFault(begin, end));
+    return static_cast<RangeFault>(::searchRangeFault(begin, end));
 }

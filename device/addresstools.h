@@ -7,6 +7,17 @@ class AddressTools : public QObject
 {
     Q_OBJECT
 public:
+    /// What is wrong with a search range; the values of SearchRangeFault for the scene.
+    enum RangeFault
+    {
+        NoFault = 0,
+        BeginAboveEnd = 1,
+        TooManySegments = 2,
+        BeginIsNoAddress = 3,
+        EndIsNoAddress = 4,
+    };
+    Q_ENUM(RangeFault)
+
     explicit AddressTools(QObject *parent = nullptr) : QObject(parent) {}
 
     /// True for four decimal octets, each 0 to 255.
@@ -16,6 +27,5 @@ public:
     /// address. A double, because the scene's integers are signed.
     Q_INVOKABLE [[nodiscard]] double toNumber(const QString &text) const;
 
-    /// A value of SearchRangeFault.
-    Q_INVOKABLE [[nodiscard]] int searchRangeFault(const QString &begin, const QString &end) const;
+    Q_INVOKABLE [[nodiscard]] RangeFault searchRangeFault(const QString &begin, const QString &end) const;
 };

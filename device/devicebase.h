@@ -27,7 +27,8 @@ public:
     explicit CDeviceBase(std::shared_ptr<DeviceStore> store);
     ~CDeviceBase() override;
 
-    // The virtual operations stand in one fixed order, which is that of their slots: new ones go to the end.
+    // Back ends may be built apart from this class: the order of the virtual operations is kept, new ones go
+    // to the end.
 
     virtual void startSearch();
     virtual void setSearchByIPInfo(quint32 beginip, quint32 endip);
@@ -63,7 +64,7 @@ public:
     virtual void getVideoInByChangeChannel();
     virtual void copyConfigToDevice(const QStringList &devlist);
     virtual void getEncodeInfo();
-    /// A place in the order that no family fills.
+    /// Kept for its place in the order; does nothing in every family.
     virtual void unusedOperation();
     virtual void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports);
     virtual void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address);
@@ -73,7 +74,7 @@ public:
 
     virtual bool importDevice(const QString &path, ImportSummary &summary);
     virtual bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName);
-    /// A place in the order that nothing calls.
+    /// Kept for its place in the order; nothing calls it.
     virtual void unusedListOperation();
 
 Q_SIGNALS:

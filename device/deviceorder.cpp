@@ -3,6 +3,7 @@
 #include "device/devicerow.h"
 #include "device/ipv4address.h"
 
+#include <optional>
 #include <utility>
 
 namespace {

@@ -47,24 +47,19 @@ void DeviceSearch::requestStop()
 
 void DeviceSearch::setRange(SearchRange range)
 {
-    const std::scoped_lock lock(m_mutex);
     m_range = range;
-}
-
-SearchRange DeviceSearch::range()
-{
-    const std::scoped_lock lock(m_mutex);
-    return m_range;
 }
 
 void DeviceSearch::start(bool localSegment)
 {
     m_searches.removeIf([](const QFuture<void> &search) { return search.isFinished(); });
-    m_searches.append(
-        QtConcurrent::run([this, localSegment, stop = m_stop.get_token()] { run(localSegment, stop); }));
+    // The range is taken here, so that one that is set while another search runs belongs to the next one
+    // alone.
+    m_searches.append(QtConcurrent::run([this, localSegment, range = std::exchange(m_range, {}),
+                                         stop = m_stop.get_token()] { run(localSegment, range, stop); }));
 }
 
-void DeviceSearch::run(bool localSegment, const std::stop_token &stop)
+void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::stop_token &stop)
 {
     // A search mostly waits: its thread must not count against those that the pool keeps for work.
     QThreadPool::globalInstance()->releaseThread();
@@ -76,10 +71,9 @@ void DeviceSearch::run(bool localSegment, const std::stop_token &stop)
     if (m_libraries.net) {
         if (localSegment)
             searchLocalSegment(stop);
-        searchRange(range(), stop);
+        searchRange(range, stop);
     }
 
-    setRange({});
     if (stop.stop_requested())
         return; // the receivers are being destroyed
     Q_EMIT rowsAdded();

@@ -30,7 +30,7 @@ public:
     /// Makes running searches end at their next step, without waiting for them.
     void requestStop();
 
-    /// The range of the next search, and of that one only.
+    /// The range of the next search that is started, and of that one only.
     void setRange(SearchRange range);
 
     /// Empties the store and starts a search; `localSegment` tells whether the local segment is searched. A
@@ -43,10 +43,9 @@ Q_SIGNALS:
     void done();
 
 private:
-    void run(bool localSegment, const std::stop_token &stop);
+    void run(bool localSegment, const SearchRange &range, const std::stop_token &stop);
     void searchLocalSegment(const std::stop_token &stop);
     void searchRange(const SearchRange &addresses, const std::stop_token &stop);
-    SearchRange range();
     void keepHandle(std::int64_t handle);
     void stopHandles();
     void handleAnswer(const sdk::SearchAnswer &answer);
@@ -56,8 +55,8 @@ private:
     const sdk::SdkLibraries m_libraries;
     std::stop_source m_stop;
     QList<QFuture<void>> m_searches;
+    SearchRange m_range; ///< of the next search
 
-    std::mutex m_mutex; ///< guards what follows, which every running search uses
-    SearchRange m_range;
+    std::mutex m_mutex;            ///< guards what follows, which every running search uses
     QList<std::int64_t> m_handles; ///< running local searches
 };

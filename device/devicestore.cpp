@@ -14,26 +14,6 @@ constexpr QLatin1StringView loopbackAddress("127.0.0.1");
 
 } // namespace
 
-void DeviceStore::RowList::append(const QString &identity, const QJsonObject &row)
-{
-    m_places.insert(identity, m_placeOfFront + m_rows.size());
-    m_rows.append(row);
-}
-
-void DeviceStore::RowList::prepend(const QString &identity, const QJsonObject &row)
-{
-    --m_placeOfFront;
-    m_places.insert(identity, m_placeOfFront);
-    m_rows.prepend(row);
-}
-
-void DeviceStore::RowList::clear()
-{
-    m_rows.clear();
-    m_places.clear();
-    m_placeOfFront = 0;
-}
-
 DeviceStore::DeviceStore(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
 
 DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
@@ -47,7 +27,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     {
         // Most answers are repeated ones: drop them before a row is built.
         const std::scoped_lock lock(m_mutex);
-        if (list.contains(identity))
+        if (list.identities.contains(identity))
             return {};
     }
 
@@ -57,45 +37,45 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     const auto record = std::make_shared<const sdk::SearchAnswer>(answer);
 
     const std::scoped_lock lock(m_mutex);
-    if (list.contains(identity))
+    if (list.identities.contains(identity))
         return {};
+    list.identities.insert(identity);
     if (heads)
-        list.prepend(identity, row);
+        list.rows.prepend(row);
     else
-        list.append(identity, row);
+        list.rows.append(row);
 
     // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
     if (ipv4 || !m_records.contains(mac))
         m_records.insert(mac, record);
 
-    return {
-        .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
+    return {.added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows.size())};
 }
 
 void DeviceStore::clear()
 {
     const std::scoped_lock lock(m_mutex);
-    m_ipv4.clear();
-    m_ipv6.clear();
+    m_ipv4 = {};
+    m_ipv6 = {};
     m_records.clear();
 }
 
 QVariantList DeviceStore::ipv4Rows() const
 {
     const std::scoped_lock lock(m_mutex);
-    return m_ipv4.rows();
+    return m_ipv4.rows;
 }
 
 QVariantList DeviceStore::ipv6Rows() const
 {
     const std::scoped_lock lock(m_mutex);
-    return m_ipv6.rows();
+    return m_ipv6.rows;
 }
 
 int DeviceStore::ipv4Count() const
 {
     const std::scoped_lock lock(m_mutex);
-    return static_cast<int>(m_ipv4.rows().size());
+    return static_cast<int>(m_ipv4.rows.size());
 }
 
 std::shared_ptr<const sdk::SearchAnswer> DeviceStore::record(const QString &mac) const
@@ -109,7 +89,8 @@ bool DeviceStore::isNotificationDue()
     const std::int64_t now = m_clock->now();
     if (!m_lastNotification)
         m_lastNotification = now;
-    if (now - *m_lastNotification < notificationInterval)
+    const bool clockSetBack = now < *m_lastNotification;
+    if (!clockSetBack && now - *m_lastNotification < notificationInterval)
         return false;
     m_lastNotification = now;
     return true;

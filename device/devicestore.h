@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QVariantList>
 
 #include <functional>
@@ -48,21 +49,11 @@ public:
     [[nodiscard]] std::shared_ptr<const sdk::SearchAnswer> record(const QString &mac) const;
 
 private:
-    /// An ordered list of rows with an index from a row's identity to its place. Places are counted from the
-    /// first row ever appended, so that a row put in front moves none of the others.
-    class RowList
+    /// An ordered list of rows and the identities of those that it holds.
+    struct RowList
     {
-    public:
-        void append(const QString &identity, const QJsonObject &row);
-        void prepend(const QString &identity, const QJsonObject &row);
-        [[nodiscard]] bool contains(const QString &identity) const { return m_places.contains(identity); }
-        [[nodiscard]] const QVariantList &rows() const { return m_rows; }
-        void clear();
-
-    private:
-        QVariantList m_rows;
-        QHash<QString, qsizetype> m_places;
-        qsizetype m_placeOfFront = 0;
+        QVariantList rows;
+        QSet<QString> identities;
     };
 
     bool isNotificationDue();

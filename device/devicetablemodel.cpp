@@ -5,9 +5,13 @@
 #include "device/deviceorder.h"
 #include "device/devicerow.h"
 
+#include <QHash>
+
 #include <algorithm>
-#include <iterator>
+#include <array>
 #include <numeric>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -18,8 +22,6 @@ enum Role
     CheckedRole = Qt::UserRole,
     NumRole,
     ConflictRole,
-    AddressRole,
-    PortRole,
     IdentityRole,
     FirstKeyRole, ///< from here on: rowKeys, in their order
 };
@@ -31,12 +33,6 @@ constexpr std::array rowKeys = {
     DeviceRowKey::operate, DeviceRowKey::filepath, DeviceRowKey::upgrade,  DeviceRowKey::upgraderes,
     DeviceRowKey::url,     DeviceRowKey::result,   DeviceRowKey::httpport,
 };
-
-QString identityOf(const QJsonObject &row)
-{
-    const QString mac = row.value(DeviceRowKey::mac).toString();
-    return mac.isEmpty() ? row.value(DeviceRowKey::ipport).toString() : mac;
-}
 
 /// The value of a key; rows that lack it (IPv6 rows lack some) have the value that new rows begin with.
 QVariant valueOf(const QJsonObject &row, QLatin1StringView key)
@@ -65,15 +61,11 @@ QVariant DeviceTableModel::data(const QModelIndex &index, int role) const
     const Row &row = m_rows.at(index.row());
     switch (role) {
     case CheckedRole:
-        return m_checked.contains(row.identity);
+        return checkedIdentities().contains(row.identity);
     case NumRole:
-        return index.row() + 1;
+        return QString::number(index.row() + 1);
     case ConflictRole:
         return row.conflict;
-    case AddressRole:
-        return row.ipport.left(row.ipport.lastIndexOf(QLatin1Char(':')));
-    case PortRole:
-        return row.ipport.mid(row.ipport.lastIndexOf(QLatin1Char(':')) + 1);
     case IdentityRole:
         return row.identity;
     default:
@@ -94,8 +86,10 @@ bool DeviceTableModel::setData(const QModelIndex &index, const QVariant &value, 
 QHash<int, QByteArray> DeviceTableModel::roleNames() const
 {
     QHash<int, QByteArray> names = {
-        {CheckedRole, "checked"}, {NumRole, "num"},   {ConflictRole, "conflict"},
-        {AddressRole, "address"}, {PortRole, "port"}, {IdentityRole, "identity"},
+        {CheckedRole, "checked"},
+        {NumRole, "num"},
+        {ConflictRole, "conflict"},
+        {IdentityRole, "identity"},
     };
     for (std::size_t key = 0; key < rowKeys.size(); ++key)
         names.insert(FirstKeyRole + static_cast<int>(key),
@@ -160,48 +154,57 @@ QList<DeviceTableModel::Row> DeviceTableModel::readRows()
         return m_ipv6 ? m_deviceFactory->filterDataIPV6(family, type)
                       : m_deviceFactory->filterData(family, type);
     };
-    const QVariantList all = filterData(QStringLiteral("nofilter"));
-    m_totalCount = static_cast<int>(all.size());
+    // The filtered rows first: all rows, read later, then hold them too, however many have come in between.
+    const QString type = filterType();
+    const QVariantList kept = filterData(type);
+    const QVariantList list =
+        type == QLatin1String("nofilter") ? kept : filterData(QStringLiteral("nofilter"));
+    m_totalCount = static_cast<int>(list.size());
+
+    QList<Row> all;
+    all.reserve(list.size());
+    QHash<QString, int> occurrences;
+    occurrences.reserve(list.size());
+    for (const QVariant &value : list) {
+        Row row{.values = value.toJsonObject(), .identity = {}, .ipport = {}};
+        row.ipport = row.values.value(DeviceRowKey::ipport).toString();
+        row.identity = row.values.value(DeviceRowKey::mac).toString();
+        const int before = occurrences[row.ipport]++;
+        if (row.identity.isEmpty())
+            row.identity = row.ipport + QLatin1Char('#') + QString::number(before);
+        all.append(std::move(row));
+    }
     forgetLostTicks(all);
 
-    const QString type = filterType();
-    const QVariantList kept = type == QLatin1String("nofilter") ? all : filterData(type);
-    QList<Row> rows;
-    rows.reserve(kept.size());
-    for (const QVariant &value : kept) {
-        const QJsonObject values = value.toJsonObject();
-        if (m_searchText.isEmpty() || holdsText(values, m_searchText))
-            rows.append({.values = values,
-                         .identity = identityOf(values),
-                         .ipport = values.value(DeviceRowKey::ipport).toString()});
-    }
-    return rows;
-}
-
-void DeviceTableModel::forgetLostTicks(const QVariantList &all)
-{
-    if (m_checked.isEmpty())
-        return;
-    QSet<QString> left;
-    for (const QVariant &value : all) {
-        const QString identity = identityOf(value.toJsonObject());
-        if (m_checked.contains(identity))
-            left.insert(identity);
-    }
-    m_checked.swap(left);
-}
-
-void DeviceTableModel::markConflicts(QList<Row> &rows)
-{
-    QHash<QString, int> occurrences;
-    occurrences.reserve(rows.size());
-    for (const Row &row : std::as_const(rows))
-        ++occurrences[row.ipport];
+    QList<Row> shown;
+    shown.reserve(kept.size());
     m_conflictCount = 0;
-    for (Row &row : rows) {
+    qsizetype nextKept = 0;
+    for (Row &row : all) {
+        if (nextKept == kept.size())
+            break;
+        if (kept.at(nextKept).toJsonObject() != row.values)
+            continue;
+        ++nextKept;
+        if (!m_searchText.isEmpty() && !holdsText(row.values, m_searchText))
+            continue;
         row.conflict = occurrences.value(row.ipport) > 1;
         m_conflictCount += row.conflict ? 1 : 0;
+        shown.append(std::move(row));
     }
+    return shown;
+}
+
+void DeviceTableModel::forgetLostTicks(const QList<Row> &all)
+{
+    if (checkedIdentities().isEmpty())
+        return;
+    QSet<QString> left;
+    for (const Row &row : all) {
+        if (checkedIdentities().contains(row.identity))
+            left.insert(row.identity);
+    }
+    checkedIdentities().swap(left);
 }
 
 void DeviceTableModel::sortRows(QList<Row> &rows) const
@@ -233,7 +236,6 @@ void DeviceTableModel::refresh()
     if (!m_deviceFactory)
         return;
     QList<Row> rows = readRows();
-    markConflicts(rows);
     sortRows(rows);
     takeRows(std::move(rows));
     countChecked();
@@ -293,9 +295,9 @@ void DeviceTableModel::setRangeChecked(int first, int last, bool checked)
         return;
     for (int row = first; row <= last; ++row) {
         if (checked)
-            m_checked.insert(m_rows.at(row).identity);
+            checkedIdentities().insert(m_rows.at(row).identity);
         else
-            m_checked.remove(m_rows.at(row).identity);
+            checkedIdentities().remove(m_rows.at(row).identity);
     }
     Q_EMIT dataChanged(index(first), index(last), {CheckedRole});
     countChecked();
@@ -309,10 +311,10 @@ void DeviceTableModel::setAllChecked(bool checked)
 void DeviceTableModel::countChecked()
 {
     m_checkedCount =
-        m_checked.isEmpty()
+        checkedIdentities().isEmpty()
             ? 0
             : static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(), [this](const Row &row) {
-                  return m_checked.contains(row.identity);
+                  return checkedIdentities().contains(row.identity);
               }));
     Q_EMIT checkedCountChanged();
 }
@@ -329,7 +331,7 @@ QVariantMap DeviceTableModel::get(int row) const
     if (row < 0 || row >= rowCount())
         return {};
     QVariantMap values = m_rows.at(row).values.toVariantMap();
-    values.insert(DeviceRowKey::checked, m_checked.contains(m_rows.at(row).identity));
+    values.insert(DeviceRowKey::checked, checkedIdentities().contains(m_rows.at(row).identity));
     values.insert(DeviceRowKey::num, QString::number(row + 1));
     return values;
 }
@@ -346,7 +348,7 @@ QStringList DeviceTableModel::checkedMacs() const
 {
     QStringList macs;
     for (const Row &row : m_rows) {
-        if (m_checked.contains(row.identity))
+        if (checkedIdentities().contains(row.identity))
             macs.append(row.values.value(DeviceRowKey::mac).toString());
     }
     return macs;

@@ -9,9 +9,9 @@
 
 class CDeviceFactory;
 
-/// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and four computed ones:
-/// "conflict" (true when another shown row has the same "ipport"), "address" and "port" (the two halves of
-/// "ipport") and "identity" ("mac", or "ipport" where there is none).
+/// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
+/// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" ("mac";
+/// where there is none, "ipport" and how many rows before it have the same one).
 ///
 /// It asks the factory's filterData or filterDataIPV6 for its rows, adds the text filter on top, and keeps
 /// the user's ticks, selection and order over a refresh. Lives on the scene's thread.
@@ -57,7 +57,7 @@ public:
 
     [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
     [[nodiscard]] int checkedCount() const { return m_checkedCount; }
-    [[nodiscard]] int conflictCount() const { return m_conflictCount; }
+    [[nodiscard]] int conflictCount() const { return m_conflictCount; } ///< shown rows in conflict
     [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
 
     /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
@@ -102,9 +102,13 @@ private:
 
     [[nodiscard]] QString filterType() const;
     [[nodiscard]] QList<Row> readRows();
-    void markConflicts(QList<Row> &rows);
     void sortRows(QList<Row> &rows) const;
-    void forgetLostTicks(const QVariantList &all);
+    void forgetLostTicks(const QList<Row> &all);
+    [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
+    [[nodiscard]] const QSet<QString> &checkedIdentities() const
+    {
+        return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4;
+    }
     void takeRows(QList<Row> rows);
     void applyFilter();
     void countChecked();
@@ -118,7 +122,9 @@ private:
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 
     QList<Row> m_rows;
-    QSet<QString> m_checked; ///< identities of ticked rows, also of those that a filter hides
+    // Identities of ticked rows, also of those that a filter hides.
+    QSet<QString> m_checkedIPv4;
+    QSet<QString> m_checkedIPv6;
     int m_totalCount = 0;
     int m_checkedCount = 0;
     int m_conflictCount = 0;

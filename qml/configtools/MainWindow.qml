@@ -13,68 +13,22 @@ T.ApplicationWindow {
     readonly property bool libraryInstalled: deviceLibraryInstalled
     // qmllint enable unqualified
 
-    property int count: 0
-    property bool searching: false
+    readonly property alias searching: search.running
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
-    property var languages: [
-        {code: "zh_CN", label: "简体中文"}, {code: "en_US", label: "English"},
-        {code: "ro_RO", label: "Romanian"}, {code: "JP_US", label: "日本語"},
-        {code: "de_DE", label: "German"}, {code: "es_ES", label: "Español"},
-        {code: "fr_FR", label: "French"}, {code: "it_IT", label: "Italian"},
-        {code: "nl_NL", label: "Dutch"}, {code: "no_NO", label: "Norwegian"},
-        {code: "pt_PT", label: "Portuguese"}, {code: "sv_SV", label: "Swedish"},
-        {code: "gl_GL", label: "Galician"}, {code: "ca_CA", label: "Catalan"}
-    ]
-
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
-
-    function startSearch() {
-        count = 0;
-        searching = true;
-        deviceFactory.setDefaultAccount("dh", localConfig.getSearchConfigUsrename(),
-                                        localConfig.getSearchConfigPass());
-        if (localConfig.getSearchConfigOtherDomain() !== 0)
-            deviceFactory.setSearchByIPInfo("dh", AddressTools.toNumber(localConfig.getSearchConfigStartIP()),
-                                            AddressTools.toNumber(localConfig.getSearchConfigEndIP()));
-        deviceFactory.startSearch("dh");
-    }
 
     /// Starts a search that the user asks for. While a device is being upgraded it must not be disturbed.
     function requestSearch() {
         if (deviceFactory.hasDeviceUpgrading())
             messageBox.show(qsTr("当前有设备正在升级中，请勿刷新设备！"), OVMessageBox.Information);
         else
-            startSearch();
+            search.start(searchSettings.read());
     }
 
     function openSearchSettings() {
-        searchSettings.startIP = localConfig.getSearchConfigStartIP();
-        searchSettings.endIP = localConfig.getSearchConfigEndIP();
-        searchSettings.userName = localConfig.getSearchConfigUsrename();
-        searchSettings.password = localConfig.getSearchConfigPass();
-        searchSettings.localDomain = localConfig.getSearchConfigLocalDomain() !== 0;
-        searchSettings.otherDomain = localConfig.getSearchConfigOtherDomain() !== 0;
-        searchSettings.open();
-    }
-
-    function storeSearchSettings() {
-        localConfig.setSearchConfigStartIP(searchSettings.startIP);
-        localConfig.setSearchConfigEndIP(searchSettings.endIP);
-        localConfig.setSearchConfigUsername(searchSettings.userName);
-        localConfig.setSearchConfigPass(searchSettings.password);
-        localConfig.setSearchConfigLocalDomain(searchSettings.localDomain ? 1 : 0);
-        localConfig.setSearchConfigOtherDomain(searchSettings.otherDomain ? 1 : 0);
-    }
-
-    /// Takes languages without a translation out of the menu, from the last to the first, so that the indexes
-    /// still to come stay valid.
-    function removeMissingLanguages() {
-        const removed = localConfig.getRemoveLanguageList();
-        const kept = languages.slice();
-        for (let i = removed.length - 1; i >= 0; --i)
-            kept.splice(removed[i], 1);
-        languages = kept;
+        searchSettingsDialog.load(searchSettings.read());
+        searchSettingsDialog.open();
     }
 
     function chooseLanguage(code) {
@@ -94,25 +48,18 @@ T.ApplicationWindow {
         toast.show(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
     }
 
-    function toggleMaximised() {
-        if (maximised)
-            showNormal();
-        else
-            showMaximized();
-    }
-
-    width: 1280
-    height: 720
-    minimumWidth: 1280
-    minimumHeight: 720
+    width: Theme.windowWidth
+    height: Theme.windowHeight
+    minimumWidth: Theme.windowWidth
+    minimumHeight: Theme.windowHeight
     color: Theme.colours.background
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowSystemMenuHint | Qt.WindowMinimizeButtonHint
            | Qt.WindowMaximizeButtonHint
     title: localConfig.getLogoSoftwareName()
 
     Component.onCompleted: {
-        startSearch();
-        removeMissingLanguages();
+        search.start(searchSettings.read());
+        languageList.remove(localConfig.getRemoveLanguageList());
     }
 
     onClosing: close => {
@@ -124,43 +71,26 @@ T.ApplicationWindow {
             refuseClosing();
     }
 
-    Connections {
-        target: window.deviceFactory
-
-        function onSignalSearchCount(devCount) {
-            window.count = devCount;
-        }
-        function onSignalSearchDone() {
-            window.searching = false;
-        }
+    SearchSettings {
+        id: searchSettings
+        localConfig: window.localConfig
     }
-
-    Shortcut { sequence: "F5"; onActivated: window.requestSearch() }
-    Shortcut { sequence: "F1"; onActivated: window.localConfig.OpenHelpFile() }
-    Shortcut { sequence: "Ctrl+,"; onActivated: window.openSearchSettings() }
-    Shortcut {
-        sequence: "Ctrl+F"
-        enabled: window.currentTab === 0
-        onActivated: modifyIpPage.focusSearch()
+    DeviceSearch {
+        id: search
+        deviceFactory: window.deviceFactory
     }
-    Shortcut {
-        sequence: "Ctrl+Tab"
-        onActivated: window.showTab((window.currentTab + 1) % tabBar.tabs.length)
+    LanguageList {
+        id: languageList
     }
-    Shortcut {
-        sequence: "Ctrl+Shift+Tab"
-        onActivated: window.showTab((window.currentTab + tabBar.tabs.length - 1) % tabBar.tabs.length)
+    WindowShortcuts {
+        currentTab: window.currentTab
+        tabCount: tabBar.tabs.length
+        onFindRequested: if (window.currentTab === 0) modifyIpPage.focusSearch()
+        onHelpRequested: window.localConfig.OpenHelpFile()
+        onSearchRequested: window.requestSearch()
+        onSettingsRequested: window.openSearchSettings()
+        onTabRequested: index => window.showTab(index)
     }
-    // qmllint disable unqualified
-    Instantiator {
-        model: tabBar.tabs.length
-        Shortcut {
-            required property int index
-            sequence: "Ctrl+" + (index + 1)
-            onActivated: window.showTab(index)
-        }
-    }
-    // qmllint enable unqualified
 
     ColumnLayout {
         anchors.fill: parent
@@ -169,13 +99,14 @@ T.ApplicationWindow {
         OVTitleBar {
             id: titleBar
             Layout.fillWidth: true
-            count: window.count
+            count: search.count
             maximised: window.maximised
             searching: window.searching
             title: window.title
+            version: window.localConfig.getSoftwareName() + " " + window.localConfig.getVersion()
             onCloseRequested: window.searching ? window.refuseClosing() : window.deviceFactory.exitProgram()
             onDragged: window.startSystemMove()
-            onMaximiseRequested: window.toggleMaximised()
+            onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: menu.popup(titleBar.menuButton, titleBar.menuButton.width - menu.width,
                                         titleBar.menuButton.height + Theme.half)
             onMinimiseRequested: window.showMinimized()
@@ -229,16 +160,16 @@ T.ApplicationWindow {
     MainMenu {
         id: menu
         currentLanguage: window.chosenLanguage
-        languages: window.languages
+        languages: languageList.entries
         onAboutRequested: aboutDialog.open()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
     }
     SearchSettingsDialog {
-        id: searchSettings
+        id: searchSettingsDialog
         onConfirmed: {
-            window.storeSearchSettings();
+            searchSettings.write(values());
             window.requestSearch();
             close();
         }

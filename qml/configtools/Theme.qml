@@ -13,6 +13,8 @@ QtObject {
     readonly property int unit: 8
     readonly property int half: 4
     readonly property int pageMargin: 16
+    readonly property int controlGap: 12
+    readonly property int signGap: 6  // between a sign and its word
     readonly property int controlHeight: 32
     readonly property int rowHeight: 34
     readonly property int tableHeadHeight: 36
@@ -25,16 +27,40 @@ QtObject {
     readonly property int boxSize: 16
     readonly property int iconSize: 18
     readonly property int smallIconSize: 14
-    readonly property int largeIconSize: 40
     readonly property int line: 1
     readonly property int focusRing: 3
     readonly property int resizeEdge: 10
     readonly property int paneRadius: 8
     readonly property int controlRadius: 6
     readonly property int smallRadius: 4
+    readonly property int logoSize: 24
+    readonly property int largeLogoSize: 40
+    readonly property int formLabelWidth: 100
+    readonly property int searchFieldWidth: 240
+    readonly property int searchFieldMinimum: 140
+    readonly property int windowWidth: 1280
+    readonly property int windowHeight: 720
     readonly property int dialogWidth: 460
+    readonly property int messageWidth: 400
+    readonly property int restartWidth: 480
+    readonly property int restartHeight: 200
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
+
+    // Widths of table columns, by what they show.
+    readonly property int columnNumber: 56
+    readonly property int columnState: 104
+    readonly property int columnStateMinimum: 32  // the state's dot without its word
+    readonly property int columnName: 146
+    readonly property int columnType: 68
+    readonly property int columnModel: 130
+    readonly property int columnAddress: 172
+    readonly property int columnLongAddress: 242
+    readonly property int columnMac: 146
+    readonly property int columnShortMac: 76
+    readonly property int columnVersion: 114
+    readonly property int columnResult: 92
+    readonly property int columnActions: 168
 
     // Type.
     readonly property int hintSize: 12
@@ -68,7 +94,6 @@ QtObject {
     // One stroke, one set.
     readonly property var icons: ({
         "about": "\ue0f9",
-        "add": "\ue13d",
         "alert": "\ue193",
         "cgi": "\ue181",
         "check": "\ue06c",
@@ -76,7 +101,6 @@ QtObject {
         "close": "\ue1b2",
         "config": "\ue29a",
         "copy": "\ue09e",
-        "device": "\ue57d",
         "down": "\ue06d",
         "error": "\ue084",
         "filtered": "\ue3b5",
@@ -90,7 +114,6 @@ QtObject {
         "nothing": "\ue4ad",
         "ok": "\ue226",
         "questions": "\ue568",
-        "radar": "\ue497",
         "restore": "\ue09e",
         "right": "\ue06f",
         "search": "\ue151",

@@ -151,7 +151,14 @@ private Q_SLOTS:
         QFETCH(QStringList, present);
         for (const QString &code : present)
             write(path("language/" + code + ".qm"));
-        QTEST(CLocalConfig(m_directory->path()).getRemoveLanguageList(), "removed");
+        const CLocalConfig config(m_directory->path());
+        QTEST(config.getRemoveLanguageList(), "removed");
+        QStringList files;
+        for (const QString &file : config.languageFiles())
+            files.append(QFileInfo(file).completeBaseName());
+        files.sort();
+        present.sort();
+        QCOMPARE(files, present);
     }
 
     void aFirstStartTakesTheSystemsLanguage_data()

@@ -90,7 +90,7 @@ private Q_SLOTS:
         QTEST(commandLine.error.isEmpty(), "understood");
     }
 
-    void aSecondInstanceSaysSoInItsLanguageAndEndsWith0()
+    void aSecondInstanceSaysSoAndEndsWith0()
     {
         const QTemporaryDir directory;
         CLocalConfig first(directory.path());

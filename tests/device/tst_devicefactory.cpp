@@ -189,8 +189,9 @@ private Q_SLOTS:
     void aSignalOfAnotherThreadArrivesOnTheFactorysThread()
     {
         QThread *receiver = nullptr;
-        connect(&m_factory, &CDeviceFactory::signalSearchDone, &m_factory,
-                [&] { receiver = QThread::currentThread(); });
+        const QObject context; // ends the connection before receiver goes
+        connect(&m_factory, &CDeviceFactory::signalSearchDone, &context,
+                [&receiver] { receiver = QThread::currentThread(); });
         QSignalSpy done(&m_factory, &CDeviceFactory::signalSearchDone);
         const std::unique_ptr<QThread> thread(
             QThread::create([this] { Q_EMIT m_backEnd->signalCDeviceSearchDone(); }));

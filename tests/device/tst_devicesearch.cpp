@@ -139,6 +139,24 @@ private Q_SLOTS:
         QVERIFY(operations().isEmpty());
     }
 
+    void aRangeSetDuringASearchBelongsToTheNext()
+    {
+        openSite("factory");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_localDomain = false;
+        m_factory->setSearchByIPInfo("dh", *ipv4Number(u"10.0.1.1"), *ipv4Number(u"10.0.1.9"));
+        m_factory->startSearch("dh");
+        QVERIFY(m_site->requests().waitFor("NetSearchDevicesByIPs", 1));
+        m_localDomain = true; // the second search comes to its range after the first has ended
+        m_factory->setSearchByIPInfo("dh", *ipv4Number(u"10.0.2.1"), *ipv4Number(u"10.0.2.9"));
+        m_factory->startSearch("dh");
+        stepUntil(done, 2);
+        QStringList first;
+        for (const auto &request : m_site->requests().of("NetSearchDevicesByIPs"))
+            first.append(request.request.value("addresses").toArray().at(0).toString());
+        QCOMPARE(first, QStringList({"10.0.1.1", "10.0.2.1"}));
+    }
+
     void nothingToSearchEndsAtOnce()
     {
         m_localDomain = false;

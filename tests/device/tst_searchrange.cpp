@@ -63,7 +63,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, begin);
         QFETCH(QString, end);
-        QTEST(AddressTools().searchRangeFault(begin, end), "fault");
+        QTEST(int(AddressTools().searchRangeFault(begin, end)), "fault");
     }
 
     void coversARangeByBlocks_data()

@@ -25,6 +25,17 @@ QQuickItem *findBelow(QQuickItem *item, const QString &name)
     return nullptr;
 }
 
+void collectTexts(QQuickItem *item, const QString &name, QStringList &texts)
+{
+    if (!item->isVisible())
+        return;
+    if (item->objectName() == name)
+        texts.append(item->property("text").toString());
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
+        collectTexts(child, name, texts);
+}
+
 QPoint middleOf(const QQuickItem *item)
 {
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
@@ -52,6 +63,13 @@ QQuickItem *Driver::require(const QString &name) const
 QString Driver::text(const QString &name) const
 {
     return require(name)->property("text").toString();
+}
+
+QStringList Driver::texts(const QString &name) const
+{
+    QStringList texts;
+    collectTexts(m_window->contentItem(), name, texts);
+    return texts;
 }
 
 void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const

@@ -28,6 +28,9 @@ public:
     /// "text" of a visible item.
     [[nodiscard]] QString text(const QString &name) const;
 
+    /// "text" of every visible item with this object name.
+    [[nodiscard]] QStringList texts(const QString &name) const;
+
     /// Clicks the middle of an item, once it has come to rest.
     void click(const QString &name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void hover(const QString &name) const;

@@ -138,6 +138,28 @@ QByteArray driveRestarted(Driver &driver, const QString &language, const QString
                : "FAILED: the restarted program is not in the other language: " + counter.toUtf8();
 }
 
+/// The program from its start to its end, driven on the way. The restarted one puts what it saw into
+/// `result`.
+int runProgram(const QString &language, const QString &folder, QByteArray &result)
+{
+    Shell shell(CommandLine::parse({QStringLiteral("ConfigTools"), QStringLiteral("--demo")}));
+    if (const std::optional<int> exitCode = shell.begin())
+        return *exitCode;
+    auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
+    if (!window || !QTest::qWaitForWindowExposed(window)) {
+        QTextStream(stdout) << "FAILED: no window opened" << Qt::endl;
+        return EXIT_FAILURE;
+    }
+    Driver driver(window, folder);
+    QTimer::singleShot(0, window, [&] {
+        if (QFile::exists(restartFile(folder)))
+            result = driveRestarted(driver, language, folder);
+        else
+            drive(driver, language, folder);
+    });
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -158,25 +180,9 @@ int main(int argc, char *argv[])
     if (stage == "second")
         answerMessageBox(folder);
 
-    Shell shell(CommandLine::parse({QStringLiteral("ConfigTools"), QStringLiteral("--demo")}));
-    if (const std::optional<int> exitCode = shell.begin())
-        return *exitCode;
-    auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
-    if (!window || !QTest::qWaitForWindowExposed(window)) {
-        QTextStream(stdout) << "FAILED: no window opened" << Qt::endl;
-        return EXIT_FAILURE;
-    }
-    Driver driver(window, folder);
     QByteArray result;
-    const bool restarted = QFile::exists(restartFile(folder));
-    QTimer::singleShot(0, window, [&] {
-        if (restarted)
-            result = driveRestarted(driver, language, folder);
-        else
-            drive(driver, language, folder);
-    });
-    const int exitCode = QApplication::exec();
-    if (restarted)
+    const int exitCode = runProgram(language, folder, result);
+    if (!result.isEmpty())
         writeFile(resultFile(folder),
                   warnings == 0 && exitCode == 0 ? result : "FAILED: a warning was given");
     return exitCode;

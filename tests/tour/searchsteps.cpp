@@ -3,6 +3,7 @@
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
+#include <QCoreApplication>
 #include <QQuickItem>
 
 namespace {
@@ -33,6 +34,16 @@ int counter(const Driver &driver)
 int rows(const Driver &driver)
 {
     return driver.require(QStringLiteral("deviceTable"))->property("count").toInt();
+}
+
+/// The settings stay open and say why they are refused.
+void expectRefusal(const Driver &driver, const char *message)
+{
+    const QString expected = QCoreApplication::translate("SearchSettingsDialog", message);
+    driver.await(QStringLiteral("\"%1\" is said").arg(expected),
+                 [&] { return driver.texts(QStringLiteral("toastText")).contains(expected); });
+    driver.check(driver.find(QStringLiteral("okButton")) != nullptr,
+                 QStringLiteral("settings that are refused stay open"));
 }
 
 void awaitEndOfSearch(const Driver &driver, int seconds)
@@ -77,16 +88,17 @@ void walkSearchSettings(Driver &driver)
     driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.3.1"));
     driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.2.254"));
     driver.click(QStringLiteral("okButton"));
+    expectRefusal(driver, "起始ip不可以大于结束ip");
     driver.report(QStringLiteral("search-settings-begin-above-end"),
-                  driver.text(QStringLiteral("toastText")));
+                  QStringLiteral("the end in front of the begin"));
     driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.20.1"));
+    driver.click(QStringLiteral("okButton"));
+    expectRefusal(driver, "仅支持跨16个网段搜索");
     driver.report(QStringLiteral("search-settings-too-many"), QStringLiteral("17 segments apart"));
     driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.2"));
     driver.click(QStringLiteral("okButton"));
+    expectRefusal(driver, "请输入正确的起始IP");
     driver.report(QStringLiteral("search-settings-no-address"), QStringLiteral("an unfinished address"));
-    driver.check(driver.find(QStringLiteral("searchSettingsDialog")) ||
-                     driver.find(QStringLiteral("okButton")),
-                 QStringLiteral("settings that are refused stay open"));
 
     driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.2.1"));
     driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.2.254"));

@@ -1,4 +1,4 @@
-// The foot of a page: what is selected on the left, what is running on the right.
+// The foot of a page: what is selected on the left and what needs a look, what is running on the right.
 import QtQuick
 import configtools
 
@@ -6,6 +6,7 @@ Item {
     id: root
 
     required property string text
+    property string warning
     property string runningText
     property string runningDevice
     property bool running: false
@@ -13,13 +14,39 @@ Item {
 
     implicitHeight: Theme.footHeight
 
-    OVLabel {
-        anchors.left: parent.left
+    Row {
         height: parent.height
-        width: Math.min(implicitWidth, parent.width - work.width - Theme.pageMargin)
-        color: Theme.colours.sub
-        objectName: "selectedCount"
-        text: root.text
+        spacing: Theme.pageMargin
+
+        OVLabel {
+            id: selected
+            height: parent.height
+            color: Theme.colours.sub
+            objectName: "selectedCount"
+            text: root.text
+        }
+        Row {
+            height: parent.height
+            spacing: Theme.signGap
+            visible: root.warning !== ""
+
+            OVIcon {
+                id: sign
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.colours.warn
+                name: "alert"
+                size: Theme.smallIconSize
+            }
+            OVLabel {
+                readonly property real room: root.width - selected.width - sign.width - Theme.signGap
+                    - (work.visible ? work.width + Theme.pageMargin : 0) - Theme.pageMargin
+                width: Math.max(0, Math.min(implicitWidth, room))
+                height: parent.height
+                color: Theme.colours.warnInk
+                objectName: "footWarning"
+                text: root.warning
+            }
+        }
     }
     Row {
         id: work

@@ -6,20 +6,20 @@ Item {
     id: root
 
     required property string label
-    property int labelWidth: 108
+    property int labelWidth: Theme.formLabelWidth
     default property alias field: slot.data
 
     implicitHeight: Math.max(Theme.controlHeight, slot.height)
 
     OVLabel {
-        width: root.labelWidth - Theme.unit
+        width: root.labelWidth
         height: Theme.controlHeight
         color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
         text: root.label
     }
     Item {
         id: slot
-        x: root.labelWidth
+        x: root.labelWidth + Theme.unit
         width: root.width - x
         height: childrenRect.height
     }

@@ -18,28 +18,18 @@ OVDialog {
 
     readonly property bool asks: kind === OVMessageBox.Question || kind === OVMessageBox.DangerQuestion
 
-    width: 400
+    width: Theme.messageWidth
     hasCancel: asks
     okKind: kind === OVMessageBox.DangerQuestion ? OVButton.DangerPrimary : OVButton.Primary
     title: qsTr("提示")
     onAccepted: close()
 
-    Row {
+    OVNotice {
         width: parent.width
-        spacing: 12
-
-        OVIcon {
-            id: sign
-            y: 1
-            color: root.kind === OVMessageBox.Information ? Theme.colours.accent
-                : root.kind === OVMessageBox.Question ? Theme.colours.warn : Theme.colours.bad
-            name: root.kind === OVMessageBox.Information ? "about"
-                : root.kind === OVMessageBox.Error ? "error" : "alert"
-        }
-        OVParagraph {
-            width: parent.width - sign.width - parent.spacing
-            objectName: "messageText"
-            text: root.message
-        }
+        iconColor: root.kind === OVMessageBox.Information ? Theme.colours.accent
+            : root.kind === OVMessageBox.Question ? Theme.colours.warn : Theme.colours.bad
+        iconName: root.kind === OVMessageBox.Information ? "about"
+            : root.kind === OVMessageBox.Error ? "error" : "alert"
+        text: root.message
     }
 }

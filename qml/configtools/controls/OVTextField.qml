@@ -27,6 +27,8 @@ FocusScope {
     implicitWidth: 180
     implicitHeight: Theme.controlHeight + (error.visible ? error.height : 0)
 
+    onVisibleChanged: eye.checked = false  // a password is not left revealed for whoever comes next
+
     T.TextField {
         id: field
 

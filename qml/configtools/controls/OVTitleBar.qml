@@ -6,6 +6,7 @@ Rectangle {
     id: root
 
     required property string title
+    required property string version  // of the software, with its name
     required property bool maximised
     property int count: 0
     property bool searching: false
@@ -50,45 +51,40 @@ Rectangle {
         }
     }
 
-    Rectangle {
-        id: logo
+    Row {
         x: Theme.pageMargin
-        anchors.verticalCenter: parent.verticalCenter
-        width: Theme.unit * 3
-        height: width
-        radius: Theme.controlRadius
-        gradient: Gradient {
-            GradientStop { position: 0; color: Theme.colours.logoTop }
-            GradientStop { position: 1; color: Theme.colours.accent }
-        }
-
-        OVLabel {
-            anchors.fill: parent
-            color: Theme.colours.accentInk
-            font: Theme.headFont
-            horizontalAlignment: Text.AlignHCenter
-            text: root.title.charAt(0)
-            Accessible.ignored: true
-        }
-    }
-    OVLabel {
-        anchors.left: logo.right
-        anchors.leftMargin: 12
         height: parent.height
-        color: Theme.colours.barInk
-        font: Theme.titleFont
-        objectName: "titleText"
-        text: root.title
+        spacing: Theme.controlGap
+
+        OVLogo {
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.title
+        }
+        OVLabel {
+            height: parent.height
+            color: Theme.colours.barInk
+            font: Theme.titleFont
+            objectName: "titleText"
+            text: root.title
+
+            HoverHandler {
+                id: namePointer
+            }
+            OVToolTip {
+                shown: namePointer.hovered
+                text: root.version
+            }
+        }
     }
 
     Row {
         anchors.right: parent.right
         anchors.rightMargin: Theme.unit
         y: (parent.height - Theme.controlHeight) / 2
-        spacing: 12
+        spacing: Theme.controlGap
 
         Row {
-            spacing: 6
+            spacing: Theme.signGap
 
             OVLabel {
                 height: Theme.controlHeight

@@ -1,5 +1,5 @@
-// Short messages that need no answer, up to three on top of each other. Errors stay longer; a click sends one
-// away. It floats over dialogs too, since a dialog may be what the message is about.
+// Short messages that need no answer, up to three on top of each other with the newest at the bottom. Errors stay
+// longer; a click sends one away. It floats over dialogs too, since a dialog may be what the message is about.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -30,20 +30,33 @@ T.Popup {
     focus: false
     modal: false
     implicitWidth: Theme.toastWidth
-    implicitHeight: stack.implicitHeight
+    implicitHeight: toasts.heightFrom(0, toasts.revision)
 
     ListModel {
         id: messages
         onCountChanged: if (count === 0) root.close()
     }
 
-    contentItem: Column {
+    contentItem: Item {
         id: stack
-        spacing: Theme.unit
 
         // qmllint disable unqualified
         Repeater {
+            id: toasts
+
+            property int revision: 0  // rises when a toast comes or goes
+
+            /// Height of the toasts from `first` on, with the gaps between them.
+            function heightFrom(first, _) {
+                let sum = 0;
+                for (let i = first; i < count; ++i)
+                    sum += (itemAt(i)?.height ?? 0) + (i > first ? Theme.unit : 0);
+                return sum;
+            }
+
             model: messages
+            onItemAdded: ++revision
+            onItemRemoved: ++revision
 
             Rectangle {
                 id: toast
@@ -54,6 +67,12 @@ T.Popup {
                 readonly property color sign: kind === OVToast.Error ? Theme.colours.bad
                     : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
 
+                // The stack stands on its foot: a toast that stays moves only by what came or went below it.
+                property real foot: index < toasts.count - 1
+                    ? toasts.heightFrom(index + 1, toasts.revision) + Theme.unit : 0
+                Behavior on foot { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutQuad } }
+
+                y: stack.height - foot - height
                 width: Theme.toastWidth
                 height: text.implicitHeight + 24
                 border.color: Theme.colours.line
@@ -93,6 +112,7 @@ T.Popup {
                     objectName: "toastText"
                     text: toast.words
                 }
+                NumberAnimation on opacity { from: 0; to: 1; duration: Theme.quick }
                 TapHandler {
                     onTapped: messages.remove(toast.index)
                 }

@@ -10,7 +10,7 @@ OVTableCell {
 
     OVActionRow {
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 12
+        spacing: Theme.controlGap
 
         OVLinkButton {
             enabled: root.available

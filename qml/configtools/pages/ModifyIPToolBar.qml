@@ -92,7 +92,7 @@ RowLayout {
     }
 
     Row {
-        spacing: 14
+        spacing: Theme.controlGap
 
         OVCheckBox {
             checked: root.showInitialised
@@ -115,9 +115,9 @@ RowLayout {
     OVTextField {
         id: searchField
         Layout.fillWidth: true
-        Layout.maximumWidth: 240
-        Layout.minimumWidth: 140
-        Layout.preferredWidth: 240
+        Layout.maximumWidth: Theme.searchFieldWidth
+        Layout.minimumWidth: Theme.searchFieldMinimum
+        Layout.preferredWidth: Theme.searchFieldWidth
         clearable: true
         iconName: "search"
         objectName: "searchField"

@@ -9,33 +9,19 @@ OVDialog {
     required property string version
     signal copied
 
-    width: 400
+    width: Theme.messageWidth
     objectName: "aboutDialog"
     hasCancel: false
     onAccepted: close()
 
     Row {
         width: parent.width
-        spacing: 12
+        spacing: Theme.controlGap
 
-        Rectangle {
+        OVLogo {
             id: logo
-            width: 40
-            height: 40
-            radius: Theme.paneRadius
-            gradient: Gradient {
-                GradientStop { position: 0; color: Theme.colours.logoTop }
-                GradientStop { position: 1; color: Theme.colours.accent }
-            }
-
-            OVLabel {
-                anchors.fill: parent
-                color: Theme.colours.accentInk
-                font: Theme.leadFont
-                horizontalAlignment: Text.AlignHCenter
-                text: root.productName.charAt(0)
-                Accessible.ignored: true
-            }
+            large: true
+            name: root.productName
         }
         Column {
             width: parent.width - logo.width - copy.width - 2 * parent.spacing

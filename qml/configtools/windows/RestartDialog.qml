@@ -7,8 +7,8 @@ OVDialog {
 
     signal restartRequested
 
-    width: 480
-    height: 200
+    width: Theme.restartWidth
+    height: Theme.restartHeight
     objectName: "restartDialog"
     okText: qsTr("重启")
     title: qsTr("提示")
@@ -17,19 +17,9 @@ OVDialog {
         restartRequested();
     }
 
-    Row {
+    OVNotice {
         width: parent.width
-        spacing: 12
-
-        OVIcon {
-            id: sign
-            y: 1
-            color: Theme.colours.accent
-            name: "language"
-        }
-        OVParagraph {
-            width: parent.width - sign.width - parent.spacing
-            text: qsTr("语言变更需要重新启动程序才能生效！")
-        }
+        iconName: "language"
+        text: qsTr("语言变更需要重新启动程序才能生效！")
     }
 }

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Style sheet of the shell's widgets, in the colours of the scene's theme, which widgets cannot read.
+[[nodiscard]] QString widgetStyle();

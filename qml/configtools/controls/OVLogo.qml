@@ -1,0 +1,27 @@
+// The sign of the program: the first letter of its name on a coloured ground.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property string name
+    property bool large: false
+
+    implicitWidth: large ? Theme.largeLogoSize : Theme.logoSize
+    implicitHeight: implicitWidth
+    radius: large ? Theme.paneRadius : Theme.controlRadius
+    gradient: Gradient {
+        GradientStop { position: 0; color: Theme.colours.logoTop }
+        GradientStop { position: 1; color: Theme.colours.accent }
+    }
+
+    OVLabel {
+        anchors.fill: parent
+        color: Theme.colours.accentInk
+        font: root.large ? Theme.leadFont : Theme.headFont
+        horizontalAlignment: Text.AlignHCenter
+        text: root.name.charAt(0)
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,26 @@
+// A text with the sign of its kind before its first line.
+import QtQuick
+import configtools
+
+Row {
+    id: root
+
+    required property string iconName
+    required property string text
+    property color iconColor: Theme.colours.accent
+
+    spacing: Theme.controlGap
+
+    OVIcon {
+        id: sign
+        y: Math.round((words.lineHeight - height) / 2)
+        color: root.iconColor
+        name: root.iconName
+    }
+    OVParagraph {
+        id: words
+        width: root.width - sign.width - root.spacing
+        objectName: "messageText"
+        text: root.text
+    }
+}

@@ -1,0 +1,152 @@
+// The table of the main page: its columns, and what their cells look like.
+import QtQuick
+import configtools
+
+OVTable {
+    id: root
+
+    required property bool ipv6
+    required property var nameOfResult  // function of a result code
+
+    function wordOfResult(code) {
+        const name = nameOfResult(code);
+        return name === "" && code === -1 ? qsTr("尚未修改") : name;
+    }
+
+    columns: [
+        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
+        {
+            key: "state", title: qsTr("状态"), width: Theme.columnState, minimumWidth: Theme.columnStateMinimum,
+            sortable: true, cell: stateCell
+        },
+        {key: "name", title: qsTr("名称"), width: Theme.columnName, stretch: 2, sortable: true},
+        {key: "type", title: qsTr("类型"), width: Theme.columnType, sortable: true},
+        {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 2, sortable: true},
+        {
+            key: "ipport", title: qsTr("IP:端口"), width: root.ipv6 ? Theme.columnLongAddress : Theme.columnAddress,
+            sortable: true, cell: addressCell
+        },
+        {
+            key: "mac", title: "MAC", width: root.ipv6 ? Theme.columnShortMac : Theme.columnMac,
+            sortable: true, cell: quietFigureCell
+        },
+        {
+            key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, stretch: 1,
+            sortable: true, cell: figureCell
+        },
+        {key: "res", title: qsTr("修改结果"), width: Theme.columnResult, sortable: true, cell: resultCell},
+        {key: "operate", title: qsTr("操作"), width: Theme.columnActions, cell: actionCell}
+    ]
+
+    Component {
+        id: numberCell
+        OVTableTextCell {
+            font: Theme.figureFont
+            text: rowIndex + 1
+        }
+    }
+
+    Component {
+        id: figureCell
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
+    }
+
+    Component {
+        id: quietFigureCell
+        OVTableTextCell {
+            color: Theme.colours.sub
+            font: Theme.figureFont
+        }
+    }
+
+    Component {
+        id: stateCell
+        OVTableCell {
+            id: state
+
+            Rectangle {
+                id: dot
+                anchors.verticalCenter: parent.verticalCenter
+                width: Theme.unit
+                height: Theme.unit
+                color: state.value ? Theme.colours.ok : Theme.colours.warn
+                radius: Theme.half
+            }
+            OVLabel {
+                anchors.left: dot.right
+                anchors.leftMargin: Theme.signGap
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.half
+                height: parent.height
+                text: state.value ? qsTr("已初始化") : qsTr("未初始化")
+            }
+        }
+    }
+
+    Component {
+        id: addressCell
+        OVTableCell {
+            id: address
+
+            OVLabel {
+                id: addressText
+                readonly property int signRoom: sign.visible ? sign.width + Theme.signGap : 0
+                width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
+                height: parent.height
+                font: Theme.figureFont
+                text: address.value ?? ""
+            }
+            OVIcon {
+                id: sign
+                anchors.left: addressText.right
+                anchors.leftMargin: Theme.signGap
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.colours.bad
+                name: "alert"
+                size: Theme.smallIconSize
+                visible: address.conflict
+
+                HoverHandler {
+                    id: signPointer
+                }
+                OVToolTip {
+                    shown: signPointer.hovered
+                    text: qsTr("IP地址冲突")
+                }
+            }
+        }
+    }
+
+    // qmllint disable unqualified
+    Component {
+        id: resultCell
+        OVTableCell {
+            id: result
+
+            OVIcon {
+                x: 2 * Theme.unit
+                anchors.verticalCenter: parent.verticalCenter
+                color: result.value === 0 ? Theme.colours.ok
+                    : (result.value ?? -1) === -1 ? Theme.colours.faint : Theme.colours.warn
+                name: result.value === 0 ? "ok" : (result.value ?? -1) === -1 ? "unknown" : "alert"
+                size: Theme.boxSize
+
+                HoverHandler {
+                    id: resultPointer
+                }
+                OVToolTip {
+                    shown: resultPointer.hovered
+                    text: resultPointer.hovered ? root.wordOfResult(result.value ?? -1) : ""
+                }
+            }
+        }
+    }
+    // qmllint enable unqualified
+
+    Component {
+        id: actionCell
+        ModifyIPActions {}
+    }
+}

@@ -1,0 +1,23 @@
+// The languages that the menu offers, by code, each under its own name.
+import QtQml
+
+QtObject {
+    property var entries: [
+        {code: "zh_CN", label: "简体中文"}, {code: "en_US", label: "English"},
+        {code: "ro_RO", label: "Romanian"}, {code: "JP_US", label: "日本語"},
+        {code: "de_DE", label: "German"}, {code: "es_ES", label: "Español"},
+        {code: "fr_FR", label: "French"}, {code: "it_IT", label: "Italian"},
+        {code: "nl_NL", label: "Dutch"}, {code: "no_NO", label: "Norwegian"},
+        {code: "pt_PT", label: "Portuguese"}, {code: "sv_SV", label: "Swedish"},
+        {code: "gl_GL", label: "Galician"}, {code: "ca_CA", label: "Catalan"}
+    ]
+
+    /// Takes entries out by their indexes, which ascend: from the last to the first, so that the indexes still to
+    /// come stay valid.
+    function remove(indexes) {
+        const kept = entries.slice();
+        for (let i = indexes.length - 1; i >= 0; --i)
+            kept.splice(indexes[i], 1);
+        entries = kept;
+    }
+}

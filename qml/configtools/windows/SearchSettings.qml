@@ -1,0 +1,26 @@
+// The search settings as one object, in the terms of the local configuration that keeps them.
+import QtQml
+
+QtObject {
+    required property var localConfig
+
+    function read() {
+        return {
+            localDomain: localConfig.getSearchConfigLocalDomain() !== 0,
+            otherDomain: localConfig.getSearchConfigOtherDomain() !== 0,
+            startIP: localConfig.getSearchConfigStartIP(),
+            endIP: localConfig.getSearchConfigEndIP(),
+            userName: localConfig.getSearchConfigUsrename(),
+            password: localConfig.getSearchConfigPass()
+        };
+    }
+
+    function write(settings) {
+        localConfig.setSearchConfigLocalDomain(settings.localDomain ? 1 : 0);
+        localConfig.setSearchConfigOtherDomain(settings.otherDomain ? 1 : 0);
+        localConfig.setSearchConfigStartIP(settings.startIP);
+        localConfig.setSearchConfigEndIP(settings.endIP);
+        localConfig.setSearchConfigUsername(settings.userName);
+        localConfig.setSearchConfigPass(settings.password);
+    }
+}

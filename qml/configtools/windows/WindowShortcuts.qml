@@ -1,0 +1,38 @@
+// The keys of the main window. They rest while a dialog or a menu is open.
+import QtQuick
+import QtQml
+
+Item {
+    id: root
+
+    required property int tabCount
+    required property int currentTab
+    signal searchRequested
+    signal helpRequested
+    signal settingsRequested
+    signal findRequested
+    signal tabRequested(int index)
+
+    function turn(steps) {
+        tabRequested((currentTab + tabCount + steps) % tabCount);
+    }
+
+    Shortcut { sequence: "F5"; onActivated: root.searchRequested() }
+    Shortcut { sequence: "F1"; onActivated: root.helpRequested() }
+    Shortcut { sequence: "Ctrl+,"; onActivated: root.settingsRequested() }
+    Shortcut { sequence: "Ctrl+F"; onActivated: root.findRequested() }
+    Shortcut { sequence: "Ctrl+Tab"; onActivated: root.turn(1) }
+    Shortcut { sequence: "Ctrl+Shift+Tab"; onActivated: root.turn(-1) }
+
+    // qmllint disable unqualified
+    Instantiator {
+        model: root.tabCount
+
+        Shortcut {
+            required property int index
+            sequence: "Ctrl+" + (index + 1)
+            onActivated: root.tabRequested(index)
+        }
+    }
+    // qmllint enable unqualified
+}
