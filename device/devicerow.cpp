@@ -26,6 +26,19 @@ QString versionText(const sdk::SearchDeviceInformation &device)
     return version.isEmpty() ? QString() : QLatin1Char('v') + version;
 }
 
+/// Writes what rows of both lists take from an answer.
+void fillIn(QJsonObject &row, const sdk::SearchAnswer &answer)
+{
+    const sdk::SearchDeviceInformation &device = answer.device;
+    row.insert(DeviceRowKey::state, isInitialised(device));
+    row.insert(DeviceRowKey::name, fieldText(device.deviceName));
+    row.insert(DeviceRowKey::type, fieldText(device.deviceType));
+    row.insert(DeviceRowKey::model, fieldText(device.detailModel));
+    row.insert(DeviceRowKey::ipport, addressAndPort(answer));
+    row.insert(DeviceRowKey::vision, versionText(device));
+    row.insert(DeviceRowKey::httpport, device.httpPort);
+}
+
 } // namespace
 
 QString otherDeviceType()
@@ -51,38 +64,33 @@ QString addressAndPort(const sdk::SearchAnswer &answer)
                                               : address + QLatin1Char(':') + port;
 }
 
-/// What rows of both lists hold.
-static QJsonObject commonRow(const sdk::SearchAnswer &answer)
-{
-    const sdk::SearchDeviceInformation &device = answer.device;
-    return {
-        {DeviceRowKey::checked, false},
-        {DeviceRowKey::state, isInitialised(device)},
-        {DeviceRowKey::name, fieldText(device.deviceName)},
-        {DeviceRowKey::type, fieldText(device.deviceType)},
-        {DeviceRowKey::model, fieldText(device.detailModel)},
-        {DeviceRowKey::ipport, addressAndPort(answer)},
-        {DeviceRowKey::vision, versionText(device)},
-        {DeviceRowKey::operate, QString()},
-        {DeviceRowKey::result, QString()},
-        {DeviceRowKey::httpport, device.httpPort},
-    };
-}
-
 QJsonObject ipv4Row(const sdk::SearchAnswer &answer)
 {
-    QJsonObject row = commonRow(answer);
-    row.insert(DeviceRowKey::num, QString());
+    // A copy of what every new row holds, filled in: less than half the cost of seventeen insertions.
+    static const QJsonObject newRow = {
+        {DeviceRowKey::checked, false},     {DeviceRowKey::num, QString()},
+        {DeviceRowKey::state, false},       {DeviceRowKey::name, QString()},
+        {DeviceRowKey::type, QString()},    {DeviceRowKey::model, QString()},
+        {DeviceRowKey::ipport, QString()},  {DeviceRowKey::mac, QString()},
+        {DeviceRowKey::vision, QString()},  {DeviceRowKey::res, -1},
+        {DeviceRowKey::operate, QString()}, {DeviceRowKey::filepath, QString()},
+        {DeviceRowKey::upgrade, 0},         {DeviceRowKey::upgraderes, -1},
+        {DeviceRowKey::url, QString()},     {DeviceRowKey::result, QString()},
+        {DeviceRowKey::httpport, 0},
+    };
+    QJsonObject row = newRow;
+    fillIn(row, answer);
     row.insert(DeviceRowKey::mac, macText(answer));
-    row.insert(DeviceRowKey::res, -1);
-    row.insert(DeviceRowKey::filepath, QString());
-    row.insert(DeviceRowKey::upgrade, 0);
-    row.insert(DeviceRowKey::upgraderes, -1);
-    row.insert(DeviceRowKey::url, QString());
     return row;
 }
 
 QJsonObject ipv6Row(const sdk::SearchAnswer &answer)
 {
-    return commonRow(answer);
+    QJsonObject row = {
+        {DeviceRowKey::checked, false},
+        {DeviceRowKey::operate, QString()},
+        {DeviceRowKey::result, QString()},
+    };
+    fillIn(row, answer);
+    return row;
 }

@@ -45,8 +45,8 @@ public:
     [[nodiscard]] QVariantList ipv6Rows() const;
     [[nodiscard]] int ipv4Count() const;
 
-    /// The raw search answer of the device, null when none is kept.
-    [[nodiscard]] std::shared_ptr<const sdk::SearchAnswer> record(const QString &mac) const;
+    /// The raw search answer of the device, if one is kept.
+    [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &mac) const;
 
 private:
     /// An ordered list of rows and the identities of those that it holds.
@@ -62,6 +62,6 @@ private:
     mutable std::mutex m_mutex;
     RowList m_ipv4;
     RowList m_ipv6;
-    QHash<QString, std::shared_ptr<const sdk::SearchAnswer>> m_records; ///< by MAC
-    std::optional<std::int64_t> m_lastNotification;                     ///< in milliseconds since the epoch
+    QHash<QString, QByteArray> m_records; ///< by MAC: the bytes of the answer without the zeros at its end
+    std::optional<std::int64_t> m_lastNotification; ///< in milliseconds since the epoch
 };

@@ -144,6 +144,61 @@
     </message>
 </context>
 <context>
+    <name>ModifyIPTable</name>
+    <message>
+        <source>尚未修改</source>
+        <translation>Not modified yet</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>修改结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initialised</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Uninitialised</translation>
+    </message>
+    <message>
+        <source>IP地址冲突</source>
+        <translation>IP address conflict</translation>
+    </message>
+</context>
+<context>
     <name>ModifyIPToolBar</name>
     <message>
         <source>初始化</source>
@@ -223,13 +278,6 @@
     <message>
         <source>确定</source>
         <translation>OK</translation>
-    </message>
-</context>
-<context>
-    <name>OVAddressField</name>
-    <message>
-        <source>请输入正确的IP地址</source>
-        <translation>Enter a valid IP address</translation>
     </message>
 </context>
 <context>
@@ -363,46 +411,6 @@
 <context>
     <name>PageModifyIP</name>
     <message>
-        <source>尚未修改</source>
-        <translation>Not modified yet</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>No.</translation>
-    </message>
-    <message>
-        <source>状态</source>
-        <translation>State</translation>
-    </message>
-    <message>
-        <source>名称</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>类型</source>
-        <translation>Type</translation>
-    </message>
-    <message>
-        <source>型号</source>
-        <translation>Model</translation>
-    </message>
-    <message>
-        <source>IP:端口</source>
-        <translation>IP:port</translation>
-    </message>
-    <message>
-        <source>版本号</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>修改结果</source>
-        <translation>Result</translation>
-    </message>
-    <message>
-        <source>操作</source>
-        <translation>Actions</translation>
-    </message>
-    <message>
         <source>正在搜索设备…</source>
         <translation>Searching for devices…</translation>
     </message>
@@ -414,17 +422,13 @@
             <numerusform>devices selected</numerusform>
         </translation>
     </message>
-    <message>
-        <source>已初始化</source>
-        <translation>Initialised</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Uninitialised</translation>
-    </message>
-    <message>
-        <source>IP地址冲突</source>
-        <translation>IP address conflict</translation>
+    <message numerus="yes">
+        <source>%n 台设备IP地址冲突</source>
+        <extracomment>Each of the devices has the address of another one.</extracomment>
+        <translation>
+            <numerusform>%n device shares an IP address</numerusform>
+            <numerusform>%n devices share an IP address</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -144,6 +144,61 @@
     </message>
 </context>
 <context>
+    <name>ModifyIPTable</name>
+    <message>
+        <source>尚未修改</source>
+        <translation>尚未修改</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>版本号</translation>
+    </message>
+    <message>
+        <source>修改结果</source>
+        <translation>修改结果</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>已初始化</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初始化</translation>
+    </message>
+    <message>
+        <source>IP地址冲突</source>
+        <translation>IP地址冲突</translation>
+    </message>
+</context>
+<context>
     <name>ModifyIPToolBar</name>
     <message>
         <source>初始化</source>
@@ -223,13 +278,6 @@
     <message>
         <source>确定</source>
         <translation>确定</translation>
-    </message>
-</context>
-<context>
-    <name>OVAddressField</name>
-    <message>
-        <source>请输入正确的IP地址</source>
-        <translation>请输入正确的IP地址</translation>
     </message>
 </context>
 <context>
@@ -362,46 +410,6 @@
 <context>
     <name>PageModifyIP</name>
     <message>
-        <source>尚未修改</source>
-        <translation>尚未修改</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>No.</translation>
-    </message>
-    <message>
-        <source>状态</source>
-        <translation>状态</translation>
-    </message>
-    <message>
-        <source>名称</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>类型</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>型号</source>
-        <translation>型号</translation>
-    </message>
-    <message>
-        <source>IP:端口</source>
-        <translation>IP:端口</translation>
-    </message>
-    <message>
-        <source>版本号</source>
-        <translation>版本号</translation>
-    </message>
-    <message>
-        <source>修改结果</source>
-        <translation>修改结果</translation>
-    </message>
-    <message>
-        <source>操作</source>
-        <translation>操作</translation>
-    </message>
-    <message>
         <source>正在搜索设备…</source>
         <translation>正在搜索设备…</translation>
     </message>
@@ -412,17 +420,12 @@
             <numerusform>台设备已选中</numerusform>
         </translation>
     </message>
-    <message>
-        <source>已初始化</source>
-        <translation>已初始化</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>未初始化</translation>
-    </message>
-    <message>
-        <source>IP地址冲突</source>
-        <translation>IP地址冲突</translation>
+    <message numerus="yes">
+        <source>%n 台设备IP地址冲突</source>
+        <extracomment>Each of the devices has the address of another one.</extracomment>
+        <translation>
+            <numerusform>%n 台设备IP地址冲突</numerusform>
+        </translation>
     </message>
 </context>
 <context>

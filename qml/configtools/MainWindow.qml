@@ -13,6 +13,7 @@ T.ApplicationWindow {
     readonly property bool libraryInstalled: deviceLibraryInstalled
     // qmllint enable unqualified
 
+    readonly property alias count: search.count
     readonly property alias searching: search.running
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
@@ -99,7 +100,7 @@ T.ApplicationWindow {
         OVTitleBar {
             id: titleBar
             Layout.fillWidth: true
-            count: search.count
+            count: window.count
             maximised: window.maximised
             searching: window.searching
             title: window.title

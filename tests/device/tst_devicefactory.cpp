@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QThread>
 
+#include <memory>
+
 namespace {
 
 const QStringList operations = {"startSearch",
@@ -188,10 +190,10 @@ private Q_SLOTS:
 
     void aSignalOfAnotherThreadArrivesOnTheFactorysThread()
     {
-        QThread *receiver = nullptr;
-        const QObject context; // ends the connection before receiver goes
-        connect(&m_factory, &CDeviceFactory::signalSearchDone, &context,
-                [&receiver] { receiver = QThread::currentThread(); });
+        // Shared, because the connection stays when this function is left early.
+        const auto receiver = std::make_shared<QThread *>(nullptr);
+        connect(&m_factory, &CDeviceFactory::signalSearchDone, this,
+                [receiver] { *receiver = QThread::currentThread(); });
         QSignalSpy done(&m_factory, &CDeviceFactory::signalSearchDone);
         const std::unique_ptr<QThread> thread(
             QThread::create([this] { Q_EMIT m_backEnd->signalCDeviceSearchDone(); }));
@@ -199,7 +201,7 @@ private Q_SLOTS:
         thread->wait();
         QCOMPARE(done.size(), 0);
         QVERIFY(done.wait());
-        QCOMPARE(receiver, QThread::currentThread());
+        QCOMPARE(*receiver, QThread::currentThread());
     }
 
     void forwardsToTheFamilyThatIsNamed()

@@ -70,7 +70,8 @@ int watch(const QString &language, const QString &folder)
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/LocalConfig.ini"));
-    CLocalConfig(QCoreApplication::applicationDirPath()).setLanguage(language);
+    CLocalConfig localConfig(QCoreApplication::applicationDirPath());
+    localConfig.setLanguage(language);
 
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

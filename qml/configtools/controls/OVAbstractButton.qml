@@ -1,4 +1,5 @@
-// What all buttons share: a tool tip, which an OVActionRow shows for a disabled one too.
+// What all buttons share: a tool tip, which an OVActionRow shows for a disabled one too. Once pressed, a button
+// keeps quiet until the pointer comes back: its tip would lie over the menu that it has opened.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,6 +8,7 @@ T.AbstractButton {
     id: root
 
     property string toolTip
+    property bool quiet: false
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -16,6 +18,9 @@ T.AbstractButton {
             toggle();
         clicked();
     }
+
+    onHoveredChanged: quiet = false
+    onPressedChanged: if (pressed) quiet = true
 
     // Space is the toolkit's own key.
     Keys.onEnterPressed: press()
@@ -30,7 +35,7 @@ T.AbstractButton {
     }
 
     OVToolTip {
-        shown: root.hovered && !root.pressed
+        shown: root.hovered && !root.quiet
         text: root.toolTip
     }
 }

@@ -51,29 +51,31 @@ Rectangle {
         }
     }
 
-    Row {
+    Item {
         x: Theme.pageMargin
+        width: name.x + name.width
         height: parent.height
-        spacing: Theme.controlGap
 
         OVLogo {
+            id: logo
             anchors.verticalCenter: parent.verticalCenter
             name: root.title
         }
         OVLabel {
+            id: name
+            x: logo.width + Theme.controlGap
             height: parent.height
             color: Theme.colours.barInk
             font: Theme.titleFont
             objectName: "titleText"
             text: root.title
-
-            HoverHandler {
-                id: namePointer
-            }
-            OVToolTip {
-                shown: namePointer.hovered
-                text: root.version
-            }
+        }
+        HoverHandler {
+            id: namePointer
+        }
+        OVToolTip {
+            shown: namePointer.hovered
+            text: root.version
         }
     }
 

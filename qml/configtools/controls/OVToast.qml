@@ -1,5 +1,6 @@
 // Short messages that need no answer, up to three on top of each other with the newest at the bottom. Errors stay
-// longer; a click sends one away. It floats over dialogs too, since a dialog may be what the message is about.
+// longer; a click sends one away. They float over dialogs too, since a dialog may be what the message is about, and
+// keep to the left, since a dialog has its buttons on the right.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -23,7 +24,7 @@ T.Popup {
     }
 
     parent: T.Overlay.overlay
-    x: Math.round(((parent?.width ?? 0) - width) / 2)
+    x: Theme.pageMargin
     y: (parent?.height ?? 0) - height - Theme.footHeight - Theme.unit
     z: 1000
     closePolicy: T.Popup.NoAutoClose

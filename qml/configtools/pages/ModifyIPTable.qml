@@ -6,10 +6,10 @@ OVTable {
     id: root
 
     required property bool ipv6
-    required property var nameOfResult  // function of a result code
+    required property var deviceFactory  // knows the names of results
 
     function wordOfResult(code) {
-        const name = nameOfResult(code);
+        const name = deviceFactory.getErrorName(code);
         return name === "" && code === -1 ? qsTr("尚未修改") : name;
     }
 

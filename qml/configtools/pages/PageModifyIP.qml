@@ -67,10 +67,10 @@ FocusScope {
         width: parent.width - 2 * Theme.pageMargin
         height: foot.y - y
         checkState: devices.checkState
+        deviceFactory: page.deviceFactory
         focus: true
         ipv6: devices.ipv6
         model: devices
-        nameOfResult: code => page.deviceFactory.getErrorName(code)
         objectName: "deviceTable"
         sortKey: devices.sortKey
         sortOrder: devices.sortOrder

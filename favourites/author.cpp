@@ -1,0 +1,204 @@
+#include "favourites/author.h"
+
+#include "favourites/aesencryption.h"
+#include "favourites/logging.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrl>
+
+#include <array>
+#include <optional>
+
+namespace {
+
+// The values of a favourite that the scene is given, in its order.
+constexpr std::array listedKeys = {"type", "addr", "port", "username", "password", "note"};
+
+struct KeyMaterial
+{
+    QByteArray key = QByteArray::fromHex("5C1E8B3F7A90D24E6B1F0C9A3D7E52B8");
+    /// Without use in the mode that passwords are enciphered in; passed on for one that needs it.
+    QByteArray iv = QByteArrayLiteral("kalbrisen402917");
+};
+
+const KeyMaterial &keyMaterial()
+{
+    static const KeyMaterial material;
+    return material;
+}
+
+AESEncryption passwordCipher()
+{
+    return AESEncryption(AESEncryption::AES128, AESEncryption::ECB, AESEncryption::PKCS7);
+}
+
+QString localPath(const QString &path)
+{
+    const QString scheme = QStringLiteral("file:///");
+    if (!path.startsWith(scheme))
+        return path;
+    const QString local = QUrl(path).toLocalFile();
+    return local.startsWith(scheme) ? local.sliced(scheme.size()) : local;
+}
+
+/// The folder that a favourite is saved into. Empty for an empty path, which names none: the working folder
+/// is no place for passwords.
+QString saveFolder(const QString &path)
+{
+    if (path.isEmpty())
+        return QString();
+    const QFileInfo info(path);
+    return info.isDir() ? path : info.absolutePath();
+}
+
+QString fileNameFor(const QString &addr, const QString &port)
+{
+    const QString plain = addr + QLatin1Char('_') + port;
+    QString name;
+    for (const QChar character : plain) {
+        const bool separates = character == QLatin1Char('/') || character == QLatin1Char('\\');
+        const bool hides = name.isEmpty() && character == QLatin1Char('.'); // also begins ".."
+        if (separates || hides || character.isNull())
+            name += QStringLiteral("%%1").arg(character.unicode(), 2, 16, QLatin1Char('0')).toUpper();
+        else
+            name += character;
+    }
+    return name + QStringLiteral(".json");
+}
+
+/// What a file of the folder holds, when that may be a favourite.
+std::optional<QByteArray> readFile(const QDir &folder, const QString &name)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCWarning(logFavourites) << "无法打开文件:" << name << "-" << file.errorString();
+        return std::nullopt;
+    }
+    // The size on disk is not asked: a file may grow while it is read, and some have none.
+    QByteArray text = file.read(CAuthor::maximumFileSize + 1);
+    if (text.size() > CAuthor::maximumFileSize) {
+        qCWarning(logFavourites) << "文件过大:" << name;
+        return std::nullopt;
+    }
+    if (text.isEmpty()) {
+        qCWarning(logFavourites) << "文件为空:" << name;
+        return std::nullopt;
+    }
+    return text;
+}
+
+std::optional<QJsonObject> parseObject(const QByteArray &text, const QString &name)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    if (error.error != QJsonParseError::NoError) {
+        qCWarning(logFavourites) << "JSON解析错误 (" << name << "):" << error.errorString() << "at offset"
+                                 << error.offset;
+        return std::nullopt;
+    }
+    if (!document.isObject()) {
+        qCWarning(logFavourites) << "JSON根元素不是对象:" << name;
+        return std::nullopt;
+    }
+    return document.object();
+}
+
+} // namespace
+
+CAuthor::CAuthor(QObject *parent) : QObject(parent) {}
+
+QString CAuthor::AesEncrypt(const QString &input) const
+{
+    const KeyMaterial &material = keyMaterial();
+    return QString::fromLatin1(passwordCipher().encode(input.toUtf8(), material.key, material.iv).toBase64());
+}
+
+QString CAuthor::AesDecrypt(const QString &input) const
+{
+    const KeyMaterial &material = keyMaterial();
+    const QByteArray cipherText = QByteArray::fromBase64(input.toLatin1());
+    const AESEncryption cipher = passwordCipher();
+    return QString::fromUtf8(cipher.removePadding(cipher.decode(cipherText, material.key, material.iv)));
+}
+
+void CAuthor::saveTextAsJson(const QString &inputPath, const QString &type, const QString &addr,
+                             const QString &port, const QString &username, const QString &password,
+                             const QString &note) const
+{
+    const QString path = localPath(inputPath);
+    const QString folder = saveFolder(path);
+    if (folder.isEmpty() || !QDir().mkpath(folder)) {
+        qCWarning(logFavourites) << "无法创建目录:" << folder;
+        return;
+    }
+
+    const QJsonObject favourite = {
+        {"type", type},
+        {"addr", addr},
+        {"port", port},
+        {"username", username},
+        {"password", password},
+        {"note", note},
+        {"created", QDateTime::currentDateTime().toString(Qt::ISODate)},
+        {"original_path", inputPath},
+    };
+    const QByteArray text = QJsonDocument(favourite).toJson(QJsonDocument::Indented);
+
+    QFile file(QDir(folder).filePath(fileNameFor(addr, port)));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        qCWarning(logFavourites) << "无法打开文件:" << file.fileName() << "-" << file.errorString();
+        return;
+    }
+    if (file.write(text) != text.size() || !file.flush()) {
+        qCWarning(logFavourites) << "文件写入不完整:" << file.fileName() << "-" << file.errorString();
+        return;
+    }
+    qCDebug(logFavourites) << "文件已保存到:" << file.fileName();
+    qCDebug(logFavourites) << "原始输入路径:" << inputPath;
+    qCDebug(logFavourites) << "清理后路径:" << path;
+}
+
+QVariantMap CAuthor::readJsonFilesFromFolder(const QString &folderPath) const
+{
+    const QString path = localPath(folderPath);
+    const QDir folder(path);
+    if (path.isEmpty() || !folder.exists()) {
+        qCWarning(logFavourites) << "文件夹不存在:" << path;
+        return QVariantMap();
+    }
+    const QStringList names =
+        folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::NoDotAndDotDot);
+    if (names.isEmpty()) {
+        qCDebug(logFavourites) << "文件夹中没有找到JSON文件:" << path;
+        return QVariantMap();
+    }
+    qCDebug(logFavourites) << "找到" << names.size() << "个JSON文件";
+
+    QVariantMap favourites;
+    for (const QString &name : names) {
+        qCDebug(logFavourites) << "处理文件:" << name;
+        const std::optional<QByteArray> text = readFile(folder, name);
+        const std::optional<QJsonObject> favourite = text ? parseObject(*text, name) : std::nullopt;
+        if (!favourite)
+            continue;
+        QStringList values;
+        for (const char *key : listedKeys)
+            values.append(favourite->value(QLatin1String(key)).toString());
+        favourites.insert(name, values);
+    }
+    return favourites;
+}
+
+bool CAuthor::deleteFile(const QString &filePath) const
+{
+    const QString path = localPath(filePath);
+    if (!QFile::exists(path))
+        return false;
+    qCDebug(logFavourites) << "删除";
+    return QFile::remove(path);
+}

@@ -1,0 +1,3 @@
+#include "favourites/logging.h"
+
+Q_LOGGING_CATEGORY(logFavourites, "configtools.favourites")

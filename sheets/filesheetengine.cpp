@@ -1,0 +1,117 @@
+#include "sheets/filesheetengine.h"
+
+#include "sheets/internal/newworkbook.h"
+#include "sheets/internal/openedworkbook.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+namespace sheets {
+
+namespace {
+
+constexpr qint64 maximumFileSize = 128LL * 1024 * 1024;
+constexpr qint64 maximumChangedCells = 100'000;
+
+} // namespace
+
+FileSheetEngine::FileSheetEngine() = default;
+
+FileSheetEngine::~FileSheetEngine() = default;
+
+bool FileSheetEngine::createWorkbook()
+{
+    m_path.clear();
+    m_workbook = std::make_unique<NewWorkbook>();
+    return true;
+}
+
+bool FileSheetEngine::open(const QString &path)
+{
+    quit();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
+    const QByteArray bytes = file.read(maximumFileSize + 1);
+    if (file.error() != QFileDevice::NoError)
+        return fail(QStringLiteral("cannot read %1: %2").arg(path, file.errorString()));
+    if (bytes.size() > maximumFileSize)
+        return fail(QStringLiteral("%1 is too large").arg(path));
+    auto workbook = std::make_unique<OpenedWorkbook>();
+    if (!workbook->load(bytes) || !workbook->selectSheet(1))
+        return fail(QStringLiteral("cannot open %1: %2").arg(path, workbook->errorText()));
+    m_workbook = std::move(workbook);
+    m_path = path;
+    return true;
+}
+
+bool FileSheetEngine::selectSheet(int index)
+{
+    return ended(m_workbook->selectSheet(index));
+}
+
+std::optional<UsedRows> FileSheetEngine::usedRows()
+{
+    return m_workbook->usedRows();
+}
+
+std::optional<QString> FileSheetEngine::cellText(CellPlace place)
+{
+    return m_workbook->cellText(place);
+}
+
+bool FileSheetEngine::setCellText(CellPlace place, const QString &text)
+{
+    return ended(m_workbook->setCellText(place, text));
+}
+
+bool FileSheetEngine::mergeCells(const CellRange &range)
+{
+    return ended(m_workbook->mergeCells(range));
+}
+
+bool FileSheetEngine::changeFormat(const CellRange &range, const FormatChange &change)
+{
+    if (range.cellCount() > maximumChangedCells)
+        return fail(QStringLiteral("%1 are too many cells to format at once").arg(rangeText(range)));
+    return ended(m_workbook->changeFormat(range, change));
+}
+
+bool FileSheetEngine::setRowHeight(int row, double points)
+{
+    return ended(m_workbook->setRowHeight(row, points));
+}
+
+bool FileSheetEngine::save()
+{
+    if (m_path.isEmpty())
+        return fail(QStringLiteral("the workbook has no file yet"));
+    return saveAs(m_path);
+}
+
+bool FileSheetEngine::saveAs(const QString &path)
+{
+    QByteArray bytes;
+    if (!m_workbook->build(bytes))
+        return fail(QStringLiteral("cannot make %1: %2").arg(path, m_workbook->errorText()));
+    // Written beside the file and put in its place by a rename, so that a full disk costs nothing.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
+    m_path = path;
+    return true;
+}
+
+void FileSheetEngine::quit()
+{
+    m_workbook.reset();
+    m_path.clear();
+}
+
+/// Takes over the workbook's reason when it is not done.
+bool FileSheetEngine::ended(bool done)
+{
+    return done || fail(m_workbook->errorText());
+}
+
+} // namespace sheets

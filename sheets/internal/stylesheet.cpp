@@ -1,0 +1,128 @@
+#include "sheets/internal/stylesheet.h"
+
+#include "sheets/internal/xmlnames.h"
+
+namespace sheets {
+
+namespace {
+
+constexpr int textNumberFormat = 49; // "@", one of the formats that every reader knows
+
+std::vector<pugi::xml_node> childrenNamed(pugi::xml_node parent, std::string_view name)
+{
+    std::vector<pugi::xml_node> found;
+    for (pugi::xml_node child = childNamed(parent, name); child; child = nextNamed(child, name))
+        found.push_back(child);
+    return found;
+}
+
+/// True for a font's property that is there and not switched off.
+bool isSet(pugi::xml_node property)
+{
+    const pugi::xml_attribute value = property.attribute("val");
+    return property && (!value || isOn(value));
+}
+
+void setAttribute(pugi::xml_node node, const char *name, int value)
+{
+    attributeOf(node, name).set_value(value);
+}
+
+} // namespace
+
+QByteArray StyleSheet::smallest(const QByteArray &nameSpace)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n<styleSheet xmlns=\"" + nameSpace +
+           "\"><fonts count=\"1\"><font><sz val=\"11\"/><name val=\"Calibri\"/></font></fonts>"
+           "<fills count=\"2\"><fill><patternFill patternType=\"none\"/></fill>"
+           "<fill><patternFill patternType=\"gray125\"/></fill></fills>"
+           "<borders count=\"1\"><border><left/><right/><top/><bottom/><diagonal/></border></borders>"
+           "<cellStyleXfs count=\"1\"><xf numFmtId=\"0\" fontId=\"0\" fillId=\"0\" borderId=\"0\"/></cellStyleXfs>"
+           "<cellXfs count=\"1\"><xf numFmtId=\"0\" fontId=\"0\" fillId=\"0\" borderId=\"0\" xfId=\"0\"/></cellXfs>"
+           "<cellStyles count=\"1\"><cellStyle name=\"Normal\" xfId=\"0\" builtinId=\"0\"/></cellStyles>"
+           "</styleSheet>";
+}
+
+bool StyleSheet::load(const QByteArray &bytes)
+{
+    if (!m_part.parse(bytes, "styleSheet"))
+        return fail(m_part.errorText());
+    m_lookList = childNamed(m_part.root(), "cellXfs");
+    m_fontList = childNamed(m_part.root(), "fonts");
+    m_looks = childrenNamed(m_lookList, "xf");
+    m_fonts = childrenNamed(m_fontList, "font");
+    m_known.clear();
+    m_isModified = false;
+    return (!m_looks.empty() && !m_fonts.empty()) || fail(QStringLiteral("it has no cell formats or no fonts"));
+}
+
+int StyleSheet::changed(int base, const FormatChange &change)
+{
+    if (base < 0 || std::size_t(base) >= m_looks.size())
+        base = 0;
+    const auto [known, isNew] = m_known.try_emplace({base, change}, base);
+    if (!isNew || hasAll(m_looks[std::size_t(base)], change))
+        return known->second;
+
+    pugi::xml_node look = m_lookList.append_copy(m_looks[std::size_t(base)]);
+    if (change.isText) {
+        setAttribute(look, "numFmtId", *change.isText ? textNumberFormat : 0);
+        setAttribute(look, "applyNumberFormat", 1);
+    }
+    if (change.bold || change.fontSize) {
+        setAttribute(look, "fontId", changedFont(fontOf(look), change));
+        setAttribute(look, "applyFont", 1);
+    }
+    if (change.wrap) {
+        pugi::xml_node alignment = childNamed(look, "alignment");
+        if (!alignment)
+            alignment = look.prepend_child(nameLike(look, "alignment").c_str());
+        setAttribute(alignment, "wrapText", *change.wrap);
+        setAttribute(look, "applyAlignment", 1);
+    }
+    known->second = int(m_looks.size());
+    m_looks.push_back(look);
+    setAttribute(m_lookList, "count", int(m_looks.size()));
+    m_isModified = true;
+    return known->second;
+}
+
+/// True for a look that the change would leave as it is.
+bool StyleSheet::hasAll(pugi::xml_node look, const FormatChange &change) const
+{
+    const pugi::xml_node font = fontOf(look);
+    if (change.isText && *change.isText != (look.attribute("numFmtId").as_int() == textNumberFormat))
+        return false;
+    if (change.wrap && *change.wrap != isOn(childNamed(look, "alignment").attribute("wrapText")))
+        return false;
+    if (change.bold && *change.bold != isSet(childNamed(font, "b")))
+        return false;
+    return !change.fontSize || *change.fontSize == childNamed(font, "sz").attribute("val").as_double();
+}
+
+pugi::xml_node StyleSheet::fontOf(pugi::xml_node look) const
+{
+    const auto index = std::size_t(look.attribute("fontId").as_uint());
+    return m_fonts[index < m_fonts.size() ? index : 0];
+}
+
+int StyleSheet::changedFont(pugi::xml_node font, const FormatChange &change)
+{
+    pugi::xml_node copy = m_fontList.insert_copy_after(font, m_fonts.back());
+    if (change.bold) {
+        copy.remove_child(childNamed(copy, "b"));
+        if (*change.bold)
+            copy.prepend_child(nameLike(copy, "b").c_str());
+    }
+    if (change.fontSize) {
+        pugi::xml_node size = childNamed(copy, "sz");
+        if (!size)
+            size = copy.append_child(nameLike(copy, "sz").c_str());
+        attributeOf(size, "val").set_value(*change.fontSize, 6);
+    }
+    m_fonts.push_back(copy);
+    setAttribute(m_fontList, "count", int(m_fonts.size()));
+    return int(m_fonts.size()) - 1;
+}
+
+} // namespace sheets

@@ -1,0 +1,37 @@
+// Names in XML documents whose writer may have put any prefix before them.
+#pragma once
+
+#include <QString>
+
+#include <pugixml.hpp>
+
+#include <string>
+#include <string_view>
+
+namespace sheets {
+
+/// The name without its prefix.
+[[nodiscard]] std::string_view localName(std::string_view name);
+
+/// The first child element of that name, whatever its prefix; a null node when there is none.
+[[nodiscard]] pugi::xml_node childNamed(pugi::xml_node parent, std::string_view name);
+
+/// The first element of that name after `node` and beside it.
+[[nodiscard]] pugi::xml_node nextNamed(pugi::xml_node node, std::string_view name);
+
+/// The name with the prefix of `relative`, for an element to stand beside or in it.
+[[nodiscard]] std::string nameLike(pugi::xml_node relative, std::string_view name);
+
+/// The attribute of `node`, which is added when it is missing.
+[[nodiscard]] pugi::xml_attribute attributeOf(pugi::xml_node node, const char *name);
+
+/// All text inside of a node, in its order.
+[[nodiscard]] QString textOf(pugi::xml_node node);
+
+/// The text of a string item: a plain text, or runs of rich text without their phonetic hints.
+[[nodiscard]] QString richTextOf(pugi::xml_node item);
+
+/// True for "1", "true" and "on".
+[[nodiscard]] bool isOn(pugi::xml_attribute attribute);
+
+} // namespace sheets

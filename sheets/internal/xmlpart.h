@@ -1,0 +1,29 @@
+#pragma once
+
+#include "sheets/lasterror.h"
+
+#include <QByteArray>
+
+#include <pugixml.hpp>
+
+namespace sheets {
+
+/// A part of a workbook as an XML document, which is written again exactly as it was, but for what is changed.
+class XmlPart : public LastError
+{
+public:
+    /// Reads the part. Fails when it is not well-formed, has another root element, is nested deeper than 100
+    /// elements, or would take more than 512 MiB of memory. Entities of the document's own are not replaced.
+    bool parse(const QByteArray &bytes, const char *rootName);
+
+    /// The root element.
+    [[nodiscard]] pugi::xml_node root() const { return m_document.document_element(); }
+
+    [[nodiscard]] QByteArray bytes();
+
+private:
+    QByteArray m_buffer; ///< what the document's names and texts point into
+    pugi::xml_document m_document;
+};
+
+} // namespace sheets

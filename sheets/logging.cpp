@@ -1,0 +1,3 @@
+#include "sheets/logging.h"
+
+Q_LOGGING_CATEGORY(logSheets, "configtools.sheets")

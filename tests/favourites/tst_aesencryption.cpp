@@ -1,0 +1,203 @@
+#include "favourites/aesencryption.h"
+
+#include <QTest>
+
+namespace {
+
+QByteArray bytes(const char *hex)
+{
+    return QByteArray::fromHex(hex);
+}
+
+} // namespace
+
+class TestAESEncryption : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void ciphersPublishedVectors_data()
+    {
+        QTest::addColumn<AESEncryption::Level>("level");
+        QTest::addColumn<AESEncryption::Mode>("mode");
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("cipherText");
+
+        const auto single = [](const char *name, AESEncryption::Level level, const char *key,
+                               const char *text, const char *cipherText) {
+            QTest::newRow(name) << level << AESEncryption::ECB << bytes(key) << bytes(text)
+                                << bytes(cipherText);
+        };
+        single("FIPS-197 B", AESEncryption::AES128, "2b7e151628aed2a6abf7158809cf4f3c",
+               "3243f6a8885a308d313198a2e0370734", "3925841d02dc09fbdc118597196a0b32");
+        const char *counting = "00112233445566778899aabbccddeeff";
+        single("FIPS-197 C.1", AESEncryption::AES128, "000102030405060708090a0b0c0d0e0f", counting,
+               "69c4e0d86a7b0430d8cdb78070b4c55a");
+        single("FIPS-197 C.2", AESEncryption::AES192, "000102030405060708090a0b0c0d0e0f1011121314151617",
+               counting, "dda97ca4864cdfe06eaf70a0ec0d7191");
+        single("FIPS-197 C.3", AESEncryption::AES256,
+               "000102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f", counting,
+               "8ea2b7ca516745bfeafc49904b496089");
+
+        const QByteArray key128 = bytes("2b7e151628aed2a6abf7158809cf4f3c");
+        const QByteArray key192 = bytes("8e73b0f7da0e6452c810f32b809079e562f8ead2522c6b7b");
+        const QByteArray key256 = bytes("603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4");
+        const QByteArray text = bytes("6bc1bee22e409f96e93d7e117393172aae2d8a571e03ac9c9eb76fac45af8e51"
+                                      "30c81c46a35ce411e5fbc1191a0a52eff69f2445df4f9b17ad2b417be66c3710");
+        const auto chained = [&](const char *name, AESEncryption::Mode mode, const char *cipherText128,
+                                 const char *cipherText192, const char *cipherText256) {
+            QTest::addRow("SP 800-38A %s AES-128", name)
+                << AESEncryption::AES128 << mode << key128 << text << bytes(cipherText128);
+            QTest::addRow("SP 800-38A %s AES-192", name)
+                << AESEncryption::AES192 << mode << key192 << text << bytes(cipherText192);
+            QTest::addRow("SP 800-38A %s AES-256", name)
+                << AESEncryption::AES256 << mode << key256 << text << bytes(cipherText256);
+        };
+        chained("ECB", AESEncryption::ECB,
+                "3ad77bb40d7a3660a89ecaf32466ef97f5d3d58503b9699de785895a96fdbaaf"
+                "43b1cd7f598ece23881b00e3ed0306887b0c785e27e8ad3f8223207104725dd4",
+                "bd334f1d6e45f25ff712a214571fa5cc974104846d0ad3ad7734ecb3ecee4eef"
+                "ef7afd2270e2e60adce0ba2face6444e9a4b41ba738d6c72fb16691603c18e0e",
+                "f3eed1bdb5d2a03c064b5a7e3db181f8591ccb10d410ed26dc5ba74a31362870"
+                "b6ed21b99ca6f4f9f153e7b1beafed1d23304b7a39f9f3ff067d8d8f9e24ecc7");
+        chained("CBC", AESEncryption::CBC,
+                "7649abac8119b246cee98e9b12e9197d5086cb9b507219ee95db113a917678b2"
+                "73bed6b8e3c1743b7116e69e222295163ff1caa1681fac09120eca307586e1a7",
+                "4f021db243bc633d7178183a9fa071e8b4d9ada9ad7dedf4e5e738763f69145a"
+                "571b242012fb7ae07fa9baac3df102e008b0e27988598881d920a9e64f5615cd",
+                "f58c4c04d6e5f1ba779eabfb5f7bfbd69cfc4e967edb808d679f777bc6702c7d"
+                "39f23369a9d9bacfa530e26304231461b2eb05e2c39be9fcda6c19078c6a9d1b");
+        chained("CFB128", AESEncryption::CFB,
+                "3b3fd92eb72dad20333449f8e83cfb4ac8a64537a0b3a93fcde3cdad9f1ce58b"
+                "26751f67a3cbb140b1808cf187a4f4dfc04b05357c5d1c0eeac4c66f9ff7f2e6",
+                "cdc80d6fddf18cab34c25909c99a417467ce7f7f81173621961a2b70171d3d7a"
+                "2e1e8a1dd59b88b1c8e60fed1efac4c9c05f9f9ca9834fa042ae8fba584b09ff",
+                "dc7e84bfda79164b7ecd8486985d386039ffed143b28b1c832113c6331e5407b"
+                "df10132415e54b92a13ed0a8267ae2f975a385741ab9cef82031623d55b1e471");
+        chained("OFB", AESEncryption::OFB,
+                "3b3fd92eb72dad20333449f8e83cfb4a7789508d16918f03f53c52dac54ed825"
+                "9740051e9c5fecf64344f7a82260edcc304c6528f659c77866a510d9c1d6ae5e",
+                "cdc80d6fddf18cab34c25909c99a4174fcc28b8d4c63837c09e81700c1100401"
+                "8d9a9aeac0f6596f559c6d4daf59a5f26d9f200857ca6c3e9cac524bd9acc92a",
+                "dc7e84bfda79164b7ecd8486985d38604febdc6740d20b3ac88f6ad82a4fb08d"
+                "71ab47a086e86eedf39d1c5bba97c4080126141d67f37be8538f5a8be740e484");
+    }
+
+    void ciphersPublishedVectors()
+    {
+        QFETCH(AESEncryption::Level, level);
+        QFETCH(AESEncryption::Mode, mode);
+        QFETCH(QByteArray, key);
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, cipherText);
+        const AESEncryption cipher(level, mode, AESEncryption::ZERO); // adds nothing to whole blocks
+        const QByteArray iv = bytes("000102030405060708090a0b0c0d0e0f");
+        QCOMPARE(cipher.encode(text, key, iv).toHex(), cipherText.toHex());
+        QCOMPARE(cipher.decode(cipherText, key, iv).toHex(), text.toHex());
+    }
+
+    void padsAndRemovesPadding_data()
+    {
+        QTest::addColumn<AESEncryption::Padding>("padding");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QByteArray>("added");
+        const auto row = [](AESEncryption::Padding padding, int length, const QByteArray &added) {
+            QTest::addRow("padding %d of %d bytes", int(padding), length) << padding << length << added;
+        };
+        row(AESEncryption::ZERO, 0, "");
+        row(AESEncryption::ZERO, 1, QByteArray(15, '\0'));
+        row(AESEncryption::ZERO, 16, "");
+        row(AESEncryption::PKCS7, 0, QByteArray(16, '\x10'));
+        row(AESEncryption::PKCS7, 1, QByteArray(15, '\x0f'));
+        row(AESEncryption::PKCS7, 15, QByteArray(1, '\x01'));
+        row(AESEncryption::PKCS7, 16, QByteArray(16, '\x10'));
+        row(AESEncryption::ISO, 0, bytes("80") + QByteArray(15, '\0'));
+        row(AESEncryption::ISO, 15, bytes("80"));
+        row(AESEncryption::ISO, 16, bytes("80") + QByteArray(15, '\0'));
+    }
+
+    void padsAndRemovesPadding()
+    {
+        QFETCH(AESEncryption::Padding, padding);
+        QFETCH(int, length);
+        QFETCH(QByteArray, added);
+        // Ends in the mark of the one padding, for the others in a byte that might be a count.
+        const QByteArray text = QByteArray(length, '\x80');
+        const QByteArray key(16, 'k');
+        const QByteArray iv(16, 'i');
+        for (const auto mode :
+             {AESEncryption::ECB, AESEncryption::CBC, AESEncryption::CFB, AESEncryption::OFB}) {
+            const AESEncryption cipher(AESEncryption::AES128, mode, padding);
+            const QByteArray decoded = cipher.decode(cipher.encode(text, key, iv), key, iv);
+            QCOMPARE(decoded.toHex(), (text + added).toHex());
+            QCOMPARE(cipher.removePadding(decoded).toHex(), text.toHex());
+        }
+    }
+
+    void removesWhatOnlyLooksLikePadding_data()
+    {
+        QTest::addColumn<AESEncryption::Padding>("padding");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("rest");
+        const auto row = [](const char *name, AESEncryption::Padding padding, const QByteArray &text,
+                            const QByteArray &rest) {
+            QTest::newRow(name) << padding << text << rest;
+        };
+        row("zero, nothing else", AESEncryption::ZERO, QByteArray(16, '\0'), QByteArray());
+        row("PKCS#7, nothing", AESEncryption::PKCS7, QByteArray(), QByteArray());
+        row("PKCS#7, count 0", AESEncryption::PKCS7, bytes("616200"), bytes("616200"));
+        row("PKCS#7, count above the length", AESEncryption::PKCS7, bytes("616204"), QByteArray());
+        row("PKCS#7, count 255", AESEncryption::PKCS7, bytes("6162ff"), QByteArray());
+        row("PKCS#7, other bytes before", AESEncryption::PKCS7, bytes("616203"), QByteArray());
+        row("ISO, no mark", AESEncryption::ISO, bytes("616200"), bytes("616200"));
+        row("ISO, text behind the mark", AESEncryption::ISO, bytes("61806280ff"), bytes("618062"));
+    }
+
+    void removesWhatOnlyLooksLikePadding()
+    {
+        QFETCH(AESEncryption::Padding, padding);
+        QFETCH(QByteArray, text);
+        const AESEncryption cipher(AESEncryption::AES128, AESEncryption::ECB, padding);
+        QTEST(cipher.removePadding(text), "rest");
+    }
+
+    void refusesAWrongKeyOrVector_data()
+    {
+        QTest::addColumn<AESEncryption::Level>("level");
+        QTest::addColumn<AESEncryption::Mode>("mode");
+        QTest::addColumn<int>("keyLength");
+        QTest::addColumn<int>("ivLength");
+        QTest::addColumn<bool>("accepted");
+        const auto row = [](const char *name, AESEncryption::Level level, AESEncryption::Mode mode,
+                            int keyLength, int ivLength, bool accepted) {
+            QTest::newRow(name) << level << mode << keyLength << ivLength << accepted;
+        };
+        row("key short of one", AESEncryption::AES128, AESEncryption::ECB, 15, 16, false);
+        row("key of another level", AESEncryption::AES128, AESEncryption::ECB, 32, 16, false);
+        row("key of a lower level", AESEncryption::AES256, AESEncryption::CBC, 24, 16, false);
+        row("ECB, no vector", AESEncryption::AES192, AESEncryption::ECB, 24, 0, true);
+        row("ECB, short vector", AESEncryption::AES128, AESEncryption::ECB, 16, 15, true);
+        row("CFB, short vector", AESEncryption::AES128, AESEncryption::CFB, 16, 15, false);
+        row("CFB, vector", AESEncryption::AES128, AESEncryption::CFB, 16, 16, true);
+        row("OFB, long vector", AESEncryption::AES128, AESEncryption::OFB, 16, 17, false);
+    }
+
+    void refusesAWrongKeyOrVector()
+    {
+        QFETCH(AESEncryption::Level, level);
+        QFETCH(AESEncryption::Mode, mode);
+        QFETCH(int, keyLength);
+        QFETCH(int, ivLength);
+        QFETCH(bool, accepted);
+        const AESEncryption cipher(level, mode, AESEncryption::PKCS7);
+        const QByteArray key(keyLength, 'k');
+        const QByteArray iv(ivLength, 'i');
+        QCOMPARE(cipher.encode("text", key, iv).size(), accepted ? 16 : 0);
+        QCOMPARE(cipher.decode(QByteArray(32, 'c'), key, iv).size(), accepted ? 32 : 0);
+        for (const int length : {0, 1, 15, 17}) // not whole blocks
+            QCOMPARE(cipher.decode(QByteArray(length, 'c'), key, iv), QByteArray());
+    }
+};
+
+QTEST_APPLESS_MAIN(TestAESEncryption)
+#include "tst_aesencryption.moc"

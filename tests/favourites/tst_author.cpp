@@ -1,0 +1,338 @@
+#include "favourites/author.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QJSEngine>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+namespace {
+
+// The meta-object compiler loses its way in raw strings, so quotation marks are single here.
+const char *const favouriteText = "{\n"
+                                  "    'addr': '10.0.0.1',\n"
+                                  "    'created': '%1',\n"
+                                  "    'note': 'front door, \\'密\\'',\n"
+                                  "    'original_path': '%2',\n"
+                                  "    'password': '%3',\n"
+                                  "    'port': '37777',\n"
+                                  "    'type': '1',\n"
+                                  "    'username': 'admin'\n"
+                                  "}\n";
+const char *const useByScene =
+    "author.saveTextAsJson(folder, 0, '10.0.0.1', 37777, 'admin', author.AesEncrypt('geheim'), undefined); "
+    "const rows = author.readJsonFilesFromFolder(folder); "
+    "const name = Object.keys(rows)[0]; "
+    "const [type, addr, port, username, password, note] = rows[name]; "
+    "[name, parseInt(type), addr, port, username, author.AesDecrypt(password), note, rows[name].length, "
+    "author.deleteFile(folder + '/' + name)].join(';') ";
+
+QStringList logged;
+
+void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    logged.append((type == QtWarningMsg ? "warning " : "debug ") + message);
+}
+
+} // namespace
+
+class TestAuthor : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        logged.clear();
+        qInstallMessageHandler(collect);
+    }
+
+    void cleanup()
+    {
+        qInstallMessageHandler(nullptr);
+        m_folder.reset();
+    }
+
+    void enciphersPasswords_data()
+    {
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("cipherText"); // by another implementation of the cipher
+        const auto row = [](const char *name, const QString &password, const QString &cipherText) {
+            QTest::newRow(name) << password << cipherText;
+        };
+        row("short", "admin123", "2de7rNKbNWdLWHtGrPU4tw==");
+        row("empty", "", "LtSmAzuJo5Hd13PbBmat+Q==");
+        row("beyond Latin", "pässwörd密码🔑", "km188VPRkWndZfhWHFSTDtY1o0uiZPO59tX/QJVO1xw=");
+        row("whole block", "0123456789abcdef", "Gnk6Ka91S3eEiAjqho6ZCC7UpgM7iaOR3ddz2wZmrfk=");
+    }
+
+    void enciphersPasswords()
+    {
+        QFETCH(QString, password);
+        QFETCH(QString, cipherText);
+        QCOMPARE(m_author.AesEncrypt(password), cipherText);
+        QCOMPARE(m_author.AesDecrypt(cipherText), password);
+    }
+
+    void survivesWhatIsNoCipherText()
+    {
+        for (const char *text : {"", "admin123", "密码!?*", "2de7rNKbNWdLWHtGrPU4"})
+            QCOMPARE(m_author.AesDecrypt(text), QString());
+        // What looks like cipher text deciphers to anything.
+        QVERIFY(m_author.AesDecrypt(QByteArray(16, 'x').toBase64()).size() <= 16);
+    }
+
+    void writesAFavourite()
+    {
+        const QString password = m_author.AesEncrypt("geheim");
+        const QDateTime before =
+            QDateTime::fromString(QDateTime::currentDateTime().toString(Qt::ISODate), Qt::ISODate);
+        m_author.saveTextAsJson(path(), "1", "10.0.0.1", "37777", "admin", password, "front door, \"密\"");
+
+        const QString text = QString::fromUtf8(read("10.0.0.1_37777.json"));
+        static const QRegularExpression creation("\"created\": \"([^\"]+)\"");
+        const QString created = creation.match(text).captured(1);
+        QCOMPARE(text, QString(favouriteText).replace('\'', '"').arg(created, path(), password));
+        const QDateTime time = QDateTime::fromString(created, Qt::ISODate);
+        QVERIFY(time >= before && time <= QDateTime::currentDateTime());
+        QCOMPARE(created, time.toString(Qt::ISODate));
+
+        QCOMPARE(logged, (QStringList{QString("debug 文件已保存到: \"%1\"").arg(path("10.0.0.1_37777.json")),
+                                      QString("debug 原始输入路径: \"%1\"").arg(path()),
+                                      QString("debug 清理后路径: \"%1\"").arg(path())}));
+    }
+
+    void overwritesTheSameDevice()
+    {
+        m_author.saveTextAsJson(path(), "0", "10.0.0.1", "80", "admin", "first", QString(500, 'n'));
+        m_author.saveTextAsJson(path(), "1", "10.0.0.1", "80", "root", "second", "");
+        m_author.saveTextAsJson(path(), "0", "10.0.0.1", "81", "admin", "third", "");
+        const QVariantMap expected = {
+            {"10.0.0.1_80.json", QStringList{"1", "10.0.0.1", "80", "root", "second", ""}},
+            {"10.0.0.1_81.json", QStringList{"0", "10.0.0.1", "81", "admin", "third", ""}},
+        };
+        QCOMPARE(m_author.readJsonFilesFromFolder(path()), expected);
+    }
+
+    void choosesTheFolder_data()
+    {
+        QTest::addColumn<QString>("input"); // "%1" is the test's folder
+        QTest::addColumn<QString>("cleaned");
+        QTest::addColumn<QString>("folder");
+        const auto row = [](const char *name, const QString &input, const QString &cleaned,
+                            const QString &folder) {
+            QTest::newRow(name) << input << cleaned << folder;
+        };
+        row("folder", "%1", "%1", ".");
+        row("file of the folder", "%1/file", "%1/file", ".");
+        row("missing, without slash", "%1/new", "%1/new", ".");
+        row("missing, with slash", "%1/new/", "%1/new/", "new");
+        row("several missing", "%1/new/er/", "%1/new/er/", "new/er");
+        row("URL", "file://%1", "%1", ".");
+        row("URL of a missing folder", "file://%1/a%20b/", "%1/a b/", "a b");
+        row("path with a percent sign", "%1/a%20b/", "%1/a%20b/", "a%20b");
+    }
+
+    void choosesTheFolder()
+    {
+        QFETCH(QString, input);
+        QFETCH(QString, cleaned);
+        QFETCH(QString, folder);
+        write("file", "");
+        input.replace("%1", path());
+        cleaned.replace("%1", path());
+        m_author.saveTextAsJson(input, "0", "10.0.0.1", "80", "admin", "password", "");
+        QCOMPARE(QDir(path(folder)).entryList({"*.json"}), QStringList("10.0.0.1_80.json"));
+        QCOMPARE(QJsonDocument::fromJson(read(folder + "/10.0.0.1_80.json"))["original_path"].toString(),
+                 input);
+        QCOMPARE(logged.last(), QString("debug 清理后路径: \"%1\"").arg(cleaned));
+
+        // The folder is found again under its path and its URL, and the file goes under either.
+        const QString url = QUrl::fromLocalFile(path(folder)).toString(QUrl::FullyEncoded);
+        QCOMPARE(m_author.readJsonFilesFromFolder(url).keys(), QStringList("10.0.0.1_80.json"));
+        QCOMPARE(m_author.readJsonFilesFromFolder(path(folder)), m_author.readJsonFilesFromFolder(url));
+        QVERIFY(m_author.deleteFile(url + "/10.0.0.1_80.json"));
+    }
+
+    void staysInTheFolder_data()
+    {
+        QTest::addColumn<QString>("addr");
+        QTest::addColumn<QString>("port");
+        QTest::addColumn<QString>("name");
+        const auto row = [](const char *title, const QString &addr, const QString &port,
+                            const QString &name) {
+            QTest::newRow(title) << addr << port << name;
+        };
+        row("IPv6", "fe80::1%eth0", "80", "fe80::1%eth0_80.json");
+        row("way up", "../up", "80", "%2E.%2Fup_80.json");
+        row("way up in the port", "a", "/../../up", "a_%2F..%2F..%2Fup.json");
+        row("from the root", "/tmp/up", "80", "%2Ftmp%2Fup_80.json");
+        row("backslashes", "..\\up", "80", "%2E.%5Cup_80.json");
+        row("hidden", ".id", "80", "%2Eid_80.json");
+        row("null character", QString("a") + QChar(), "80", "a%00_80.json");
+        row("empty", "", "", "_.json");
+    }
+
+    void staysInTheFolder()
+    {
+        QFETCH(QString, addr);
+        QFETCH(QString, port);
+        QFETCH(QString, name);
+        QVERIFY(QDir(path()).mkpath("outer/fav"));
+        m_author.saveTextAsJson(path("outer/fav"), "1", addr, port, "admin", "password", "");
+        QCOMPARE(QDir(path("outer")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList("fav"));
+        const QVariantMap expected = {{name, QStringList{"1", addr, port, "admin", "password", ""}}};
+        QCOMPARE(m_author.readJsonFilesFromFolder(path("outer/fav")), expected);
+        QVERIFY(m_author.deleteFile(path("outer/fav/") + name));
+    }
+
+    void warnsWhenItCannotSave_data()
+    {
+        QTest::addColumn<QString>("input"); // "%1" is the test's folder
+        QTest::addColumn<QString>("warning");
+        const auto row = [](const char *name, const QString &input, const QString &warning) {
+            QTest::newRow(name) << input << warning;
+        };
+        row("folder below a file", "%1/file/below/", "无法创建目录: \"%1/file/below\"");
+        row("no folder named", "", "无法创建目录: \"\"");
+        row("a folder of the file's name", "%1/taken",
+            "无法打开文件: \"%1/taken/10.0.0.1_80.json\" - \"Is a directory\"");
+        row("disk full", "%1/full",
+            "文件写入不完整: \"%1/full/10.0.0.1_80.json\" - \"No space left on device\"");
+    }
+
+    void warnsWhenItCannotSave()
+    {
+        QFETCH(QString, input);
+        QFETCH(QString, warning);
+        write("file", "");
+        QVERIFY(QDir(path()).mkpath("taken/10.0.0.1_80.json"));
+        QVERIFY(QDir(path()).mkpath("full"));
+        QVERIFY(QFile::link("/dev/full", path("full/10.0.0.1_80.json")));
+        m_author.saveTextAsJson(input.replace("%1", path()), "0", "10.0.0.1", "80", "admin", "password", "");
+        QCOMPARE(logged, QStringList("warning " + warning.replace("%1", path())));
+    }
+
+    void skipsWhatIsNoFavourite_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("warning"); // empty: the file is listed
+        QTest::addColumn<QStringList>("values");
+        const QStringList nothing = {"", "", "", "", "", ""};
+        const QByteArray longest = "{" + QByteArray(CAuthor::maximumFileSize - 2, ' ') + "}";
+        QTest::newRow("lacks keys") << QByteArray("{}") << QString() << nothing;
+        QTest::newRow("longest") << longest << QString() << nothing;
+        QTest::newRow("other types and keys")
+            << QByteArray(R"({"type":0,"addr":["a"],"port":80,"username":null,"note":"n","more":"m"})")
+            << QString() << QStringList{"", "", "", "", "", "n"};
+        QTest::newRow("too long") << longest + " "
+                                  << "文件过大: \"a.json\"" << QStringList();
+        QTest::newRow("empty") << QByteArray() << "文件为空: \"a.json\"" << QStringList();
+        QTest::newRow("array") << QByteArray("[{}]") << "JSON根元素不是对象: \"a.json\"" << QStringList();
+        QTest::newRow("cut off") << QByteArray(R"({"password": "geheim")")
+                                 << "JSON解析错误 ( \"a.json\" ): \"unterminated string\" at offset 21"
+                                 << QStringList();
+        QTest::newRow("bytes") << QByteArray("\xff\x00{}", 4)
+                               << "JSON解析错误 ( \"a.json\" ): \"illegal value\" at offset 1"
+                               << QStringList();
+        QTest::newRow("deep") << QByteArray(100000, '[')
+                              << "JSON解析错误 ( \"a.json\" ): \"too deeply nested document\" at offset 1025"
+                              << QStringList();
+    }
+
+    void skipsWhatIsNoFavourite()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, warning);
+        QFETCH(QStringList, values);
+        write("a.json", text);
+        write("b.json", R"({"type":"0","addr":"b","port":"1","username":"u","password":"p","note":"n"})");
+        QVariantMap expected = {{"b.json", QStringList{"0", "b", "1", "u", "p", "n"}}};
+        QStringList log = {"debug 找到 2 个JSON文件", "debug 处理文件: \"a.json\""};
+        if (warning.isEmpty())
+            expected.insert("a.json", values);
+        else
+            log.append("warning " + warning);
+        QCOMPARE(m_author.readJsonFilesFromFolder(path()), expected);
+        QCOMPARE(logged, log << "debug 处理文件: \"b.json\"");
+    }
+
+    void listsOnlyFilesOfTheFolder()
+    {
+        QVERIFY(QDir(path()).mkpath("folder.json"));
+        write("folder.json/inner.json", "{}");
+        write("other.txt", "{}");
+        write("a.json", "{}");
+        QVERIFY(QFile::link("/dev/zero", path("endless.json")));
+        QVERIFY(QFile::link(path("nowhere"), path("dangling.json")));
+        QVERIFY(QFile::link(path("other.txt"), path("linked.json")));
+        QCOMPARE(m_author.readJsonFilesFromFolder(path()).keys(), (QStringList{"a.json", "linked.json"}));
+
+        QVERIFY(m_author.deleteFile(path("linked.json")));
+        QCOMPARE(read("other.txt"), QByteArray("{}"));
+    }
+
+    void saysWhenThereIsNothingToList()
+    {
+        write("other.txt", "{}");
+        for (const QString &input : {path("missing"), path("other.txt"), QString()}) {
+            logged.clear();
+            QCOMPARE(m_author.readJsonFilesFromFolder(input), QVariantMap());
+            QCOMPARE(logged, QStringList(QString("warning 文件夹不存在: \"%1\"").arg(input)));
+        }
+        logged.clear();
+        QCOMPARE(m_author.readJsonFilesFromFolder(path()), QVariantMap());
+        QCOMPARE(logged, QStringList(QString("debug 文件夹中没有找到JSON文件: \"%1\"").arg(path())));
+    }
+
+    void deletes()
+    {
+        write("a.json", "{}");
+        QVERIFY(m_author.deleteFile(path("a.json")));
+        QVERIFY(!QFile::exists(path("a.json")));
+        QCOMPARE(logged, QStringList("debug 删除"));
+        QVERIFY(!m_author.deleteFile(path("a.json")));
+        QVERIFY(!m_author.deleteFile(path()));
+        QVERIFY(!m_author.deleteFile(QString()));
+        QVERIFY(QFile::exists(path()));
+    }
+
+    /// The scene passes numbers, and reads what it gets as an object of lists.
+    void servesTheScene()
+    {
+        QJSEngine engine;
+        engine.globalObject().setProperty("folder", "file://" + path());
+        QJSEngine::setObjectOwnership(&m_author, QJSEngine::CppOwnership);
+        engine.globalObject().setProperty("author", engine.newQObject(&m_author));
+        const QJSValue result = engine.evaluate(useByScene);
+        QCOMPARE(result.toString(), QString("10.0.0.1_37777.json;0;10.0.0.1;37777;admin;geheim;;6;true"));
+        QVERIFY(logged.filter("geheim").isEmpty());
+    }
+
+private:
+    [[nodiscard]] QString path(const QString &name = QString()) const { return m_folder->filePath(name); }
+    void write(const QString &name, const QByteArray &text) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), text.size());
+    }
+    [[nodiscard]] QByteArray read(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    CAuthor m_author;
+};
+
+QTEST_GUILESS_MAIN(TestAuthor)
+#include "tst_author.moc"
