@@ -9,5 +9,8 @@
 /// Start of the program against an empty window of the toolkit.
 [[nodiscard]] Figure measureStart();
 
-/// The page of devices with 10,000 rows, and the memory of the program with them.
-[[nodiscard]] QList<Figure> measureDevicePage();
+/// The page of devices with 10,000 rows.
+[[nodiscard]] Figure measureDevicePage();
+
+/// The memory of the program with 10,000 rows.
+[[nodiscard]] Figure measureMemory();

@@ -68,10 +68,6 @@
         <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
         <translation>No device library is installed. Start the tool with --demo to work with a simulated site.</translation>
     </message>
-    <message>
-        <source>已复制到剪贴板</source>
-        <translation>Copied to the clipboard</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -532,6 +528,13 @@
     <message>
         <source>无法打开模拟站点：</source>
         <translation>The simulated site cannot be opened:</translation>
+    </message>
+</context>
+<context>
+    <name>WindowPopups</name>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>Copied to the clipboard</translation>
     </message>
 </context>
 </TS>

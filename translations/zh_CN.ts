@@ -68,10 +68,6 @@
         <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
         <translation>未安装设备库：以 --demo 参数启动可演示模拟站点</translation>
     </message>
-    <message>
-        <source>已复制到剪贴板</source>
-        <translation>已复制到剪贴板</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -529,6 +525,13 @@
     <message>
         <source>无法打开模拟站点：</source>
         <translation>无法打开模拟站点：</translation>
+    </message>
+</context>
+<context>
+    <name>WindowPopups</name>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>已复制到剪贴板</translation>
     </message>
 </context>
 </TS>

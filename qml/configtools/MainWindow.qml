@@ -22,31 +22,26 @@ T.ApplicationWindow {
     /// Starts a search that the user asks for. While a device is being upgraded it must not be disturbed.
     function requestSearch() {
         if (deviceFactory.hasDeviceUpgrading())
-            messageBox.show(qsTr("当前有设备正在升级中，请勿刷新设备！"), OVMessageBox.Information);
+            popups.tell(qsTr("当前有设备正在升级中，请勿刷新设备！"));
         else
             search.start(searchSettings.read());
-    }
-
-    function openSearchSettings() {
-        searchSettingsDialog.load(searchSettings.read());
-        searchSettingsDialog.open();
     }
 
     function chooseLanguage(code) {
         localConfig.setLanguage(code);
         chosenLanguage = code;
-        restartDialog.open();
+        popups.openRestartPrompt();
     }
 
     function showTab(index) {
         if (index === currentTab || index < 0 || index >= tabBar.tabs.length)
             return;
-        systemConfigPage.disablePasswordEditor();
+        systemConfigPage.item?.disablePasswordEditor();
         currentTab = index;
     }
 
     function refuseClosing() {
-        toast.show(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
+        popups.say(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
     }
 
     width: Theme.windowWidth
@@ -89,7 +84,7 @@ T.ApplicationWindow {
         onFindRequested: if (window.currentTab === 0) modifyIpPage.focusSearch()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: window.requestSearch()
-        onSettingsRequested: window.openSearchSettings()
+        onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         onTabRequested: index => window.showTab(index)
     }
 
@@ -104,15 +99,14 @@ T.ApplicationWindow {
             maximised: window.maximised
             searching: window.searching
             title: window.title
-            version: window.localConfig.getSoftwareName() + " " + window.localConfig.getVersion()
+            version: popups.softwareName + " " + popups.version
             onCloseRequested: window.searching ? window.refuseClosing() : window.deviceFactory.exitProgram()
             onDragged: window.startSystemMove()
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
-            onMenuRequested: menu.popup(titleBar.menuButton, titleBar.menuButton.width - menu.width,
-                                        titleBar.menuButton.height + Theme.half)
+            onMenuRequested: popups.openMenu(titleBar.menuButton)
             onMinimiseRequested: window.showMinimized()
             onSearchRequested: window.requestSearch()
-            onSettingsRequested: window.openSearchSettings()
+            onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         }
         OVTabBar {
             id: tabBar
@@ -137,10 +131,14 @@ T.ApplicationWindow {
                 searching: window.searching
                 onSearchRequested: window.requestSearch()
             }
-            PageDeviceUpgrade {}
-            PageDeviceConfig {}
-            PageSystemConfig { id: systemConfigPage }
-            PageCGIConfig {}
+            OVOnDemand { visible: false; sourceComponent: Component { PageDeviceUpgrade {} } }
+            OVOnDemand { visible: false; sourceComponent: Component { PageDeviceConfig {} } }
+            OVOnDemand {
+                id: systemConfigPage
+                visible: false
+                sourceComponent: Component { PageSystemConfig {} }
+            }
+            OVOnDemand { visible: false; sourceComponent: Component { PageCGIConfig {} } }
         }
     }
 
@@ -158,41 +156,20 @@ T.ApplicationWindow {
         onResizeRequested: edges => window.startSystemResize(edges)
     }
 
-    MainMenu {
-        id: menu
+    WindowPopups {
+        id: popups
         currentLanguage: window.chosenLanguage
         languages: languageList.entries
-        onAboutRequested: aboutDialog.open()
+        logoName: window.title
+        softwareName: window.localConfig.getSoftwareName()
+        version: window.localConfig.getVersion()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
-    }
-    SearchSettingsDialog {
-        id: searchSettingsDialog
-        onConfirmed: {
-            searchSettings.write(values());
-            window.requestSearch();
-            close();
-        }
-        onRefused: message => toast.show(message, OVToast.Error)
-    }
-    RestartDialog {
-        id: restartDialog
         onRestartRequested: window.localConfig.reboot()
-    }
-    AboutDialog {
-        id: aboutDialog
-        productName: window.title
-        title: window.localConfig.getSoftwareName()
-        version: window.localConfig.getVersion()
-        onCopied: toast.show(qsTr("已复制到剪贴板"), OVToast.Success)
-    }
-    OVMessageBox {
-        id: messageBox
-        objectName: "messageBox"
-    }
-    OVToast {
-        id: toast
-        objectName: "toasts"
+        onSettingsAccepted: values => {
+            searchSettings.write(values);
+            window.requestSearch();
+        }
     }
 }

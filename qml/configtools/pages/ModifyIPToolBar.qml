@@ -58,23 +58,26 @@ RowLayout {
             opensMenu: true
             text: qsTr("手动添加")
             toolTip: qsTr("添加搜索不到的设备：按IP、按P2P或从收藏夹")
-            onClicked: addMenu.popup(addButton, 0, addButton.height + Theme.half)
+            onClicked: addMenu.wanted().popup(addButton, 0, addButton.height + Theme.half)
 
-            OVMenu {
+            OVOnDemand {
                 id: addMenu
-                objectName: "addMenu"
+                visible: false
+                sourceComponent: OVMenu {
+                    objectName: "addMenu"
 
-                OVMenuItem {
-                    objectName: "addIpItem"
-                    text: qsTr("IP设备")
-                }
-                OVMenuItem {
-                    objectName: "addP2pItem"
-                    text: qsTr("P2P设备")
-                }
-                OVMenuItem {
-                    objectName: "addFavouriteItem"
-                    text: qsTr("收藏夹")
+                    OVMenuItem {
+                        objectName: "addIpItem"
+                        text: qsTr("IP设备")
+                    }
+                    OVMenuItem {
+                        objectName: "addP2pItem"
+                        text: qsTr("P2P设备")
+                    }
+                    OVMenuItem {
+                        objectName: "addFavouriteItem"
+                        text: qsTr("收藏夹")
+                    }
                 }
             }
         }

@@ -1,0 +1,99 @@
+// What the main window opens over itself. Each is made when it is first asked for.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var languages
+    required property string currentLanguage
+    required property string logoName
+    required property string softwareName
+    required property string version
+    signal helpRequested
+    signal questionsRequested
+    signal languageChosen(string code)
+    signal restartRequested
+    signal settingsAccepted(var values)
+
+    function openMenu(button) {
+        const mainMenu = menu.wanted();
+        mainMenu.popup(button, button.width - mainMenu.width, button.height + Theme.half);
+    }
+
+    function openSearchSettings(values) {
+        const dialog = searchSettings.wanted();
+        dialog.load(values);
+        dialog.open();
+    }
+
+    function openRestartPrompt() {
+        restart.wanted().open();
+    }
+
+    /// A message that is to be confirmed.
+    function tell(message) {
+        messageBox.wanted().show(message, OVMessageBox.Information);
+    }
+
+    /// A message that goes by itself.
+    function say(message, kind) {
+        toasts.wanted().show(message, kind);
+    }
+
+    OVOnDemand {
+        id: menu
+        visible: false
+        sourceComponent: MainMenu {
+            currentLanguage: root.currentLanguage
+            languages: root.languages
+            onAboutRequested: about.wanted().open()
+            onHelpRequested: root.helpRequested()
+            onLanguageChosen: code => root.languageChosen(code)
+            onQuestionsRequested: root.questionsRequested()
+        }
+    }
+    OVOnDemand {
+        id: searchSettings
+        visible: false
+        sourceComponent: SearchSettingsDialog {
+            id: settings
+            onConfirmed: {
+                root.settingsAccepted(settings.values());
+                settings.close();
+            }
+            onRefused: message => root.say(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: restart
+        visible: false
+        sourceComponent: RestartDialog {
+            onRestartRequested: root.restartRequested()
+        }
+    }
+    OVOnDemand {
+        id: about
+        visible: false
+        sourceComponent: AboutDialog {
+            productName: root.logoName
+            title: root.softwareName
+            version: root.version
+            onCopied: root.say(qsTr("已复制到剪贴板"), OVToast.Success)
+        }
+    }
+    OVOnDemand {
+        id: messageBox
+        visible: false
+        sourceComponent: OVMessageBox {
+            objectName: "messageBox"
+        }
+    }
+    OVOnDemand {
+        id: toasts
+        visible: false
+        sourceComponent: OVToast {
+            objectName: "toasts"
+        }
+    }
+}
