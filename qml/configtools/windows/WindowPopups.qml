@@ -41,6 +41,7 @@ Item {
         toasts.wanted().show(message, kind);
     }
 
+    // qmllint disable unqualified
     OVOnDemand {
         id: menu
         visible: false
@@ -96,4 +97,5 @@ Item {
             objectName: "toasts"
         }
     }
+    // qmllint enable unqualified
 }
