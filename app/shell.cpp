@@ -5,6 +5,7 @@
 #include "app/logging.h"
 #include "app/messagebox.h"
 #include "app/publication.h"
+#include "app/translationfile.h"
 #include "device/devicefactory.h"
 #include "device/devicehik.h"
 #include "device/deviceol.h"
@@ -77,11 +78,11 @@ void Shell::loadTranslators()
 {
     const QString code = resolveLanguage(*CLocalConfig::getinstance(), QLocale::system().language());
     if (code != QLatin1String("en_US") && code != QLatin1String("zh_CN") &&
-        m_fallbackTranslator.load(translationPath(QStringLiteral("en_US")))) {
+        loadTranslation(m_fallbackTranslator, translationPath(QStringLiteral("en_US")))) {
         QCoreApplication::installTranslator(&m_fallbackTranslator);
     }
     // Installed last, it is searched first.
-    if (m_mainTranslator.load(translationPath(code)))
+    if (loadTranslation(m_mainTranslator, translationPath(code)))
         QCoreApplication::installTranslator(&m_mainTranslator);
 }
 
@@ -94,6 +95,11 @@ bool Shell::chooseLibraries()
     const std::shared_ptr<sdk::demo::DemoSite> site =
         sdk::demo::DemoSite::open(m_commandLine.scene, m_libraries.clock, &error);
     if (!site) {
+        // What the scene file says is quoted in it, however long and odd.
+        constexpr qsizetype longestError = 400;
+        error = error.simplified();
+        if (error.size() > longestError)
+            error = error.left(longestError) + QChar(0x2026);
         qCCritical(logApp).noquote() << "The simulated site cannot be opened:" << error;
         OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + error);
         return false;

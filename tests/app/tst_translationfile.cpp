@@ -1,0 +1,84 @@
+#include "app/translationfile.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+/// A file of a language is one that others may have made, copied or cut short.
+class TestTranslationFile : public QObject
+{
+    Q_OBJECT
+private:
+    QByteArray m_sound;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QFile file(TRANSLATION);
+        QVERIFY(file.open(QFile::ReadOnly));
+        m_sound = file.readAll();
+        QVERIFY(m_sound.size() > 1000);
+    }
+
+    void theProgramsOwnAreSound()
+    {
+        QVERIFY(isSoundTranslation(m_sound));
+        QTranslator translator;
+        QVERIFY(loadTranslation(translator, TRANSLATION));
+        QVERIFY(!translator.isEmpty());
+    }
+
+    void aCutOneIsNot()
+    {
+        for (qsizetype size = 0; size < m_sound.size(); size += 7)
+            QVERIFY2(!isSoundTranslation(m_sound.left(size)) || size == m_sound.size(),
+                     qPrintable(QString::number(size)));
+    }
+
+    /// Whatever passes the check can be asked for every text without leaving its bytes, which the sanitizers
+    /// watch.
+    void aDamagedOneIsRefusedOrHarmless()
+    {
+        const QTemporaryDir directory;
+        QRandomGenerator random(20261124);
+        int refused = 0;
+        for (int round = 0; round < 300; ++round) {
+            QByteArray damaged = m_sound;
+            for (int change = 0; change < 1 + round % 40; ++change)
+                damaged[qsizetype(random.bounded(16, int(damaged.size())))] = char(random.bounded(256));
+            if (!isSoundTranslation(damaged)) {
+                ++refused;
+                continue;
+            }
+            QTranslator translator;
+            if (!translator.load(reinterpret_cast<const uchar *>(damaged.constData()), int(damaged.size())))
+                continue;
+            for (const char *text : {"修改IP", "台设备被搜索到", "搜索设置", "no such text"}) {
+                for (const char *context : {"MainWindow", "OVTitleBar", "ModifyIPTable", ""})
+                    translator.translate(context, text, nullptr, 3);
+            }
+        }
+        QVERIFY(refused > 100);
+    }
+
+    void aMissingOrDamagedFileLeavesNoTranslation()
+    {
+        const QTemporaryDir directory;
+        QTranslator translator;
+        QVERIFY(!loadTranslation(translator, directory.filePath("none.qm")));
+        QFile file(directory.filePath("damaged.qm"));
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.write(m_sound.left(m_sound.size() / 2));
+        file.close();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is damaged"));
+        QVERIFY(!loadTranslation(translator, file.fileName()));
+        QVERIFY(translator.isEmpty());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read"));
+        QVERIFY(!loadTranslation(translator, directory.path()));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTranslationFile)
+#include "tst_translationfile.moc"
