@@ -12,7 +12,14 @@ template<std::size_t size>
 QString fieldText(const std::array<char, size> &field)
 {
     const std::string_view text = sdk::blockText(field);
-    return QString::fromLocal8Bit(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    QString decoded =
+        QString::fromLocal8Bit(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    // Line breaks and other control characters would break the lines of tables and of the clipboard.
+    for (QChar &letter : decoded) {
+        if (letter.category() == QChar::Other_Control)
+            letter = QLatin1Char(' ');
+    }
+    return decoded;
 }
 
 bool isInitialised(const sdk::SearchDeviceInformation &device)

@@ -37,8 +37,8 @@ std::optional<Scene> generatedFleet(const QString &name, QString *error)
     const int count = name.sliced(fleetPrefix.size()).toInt(&isNumber);
     if (isNumber && count >= 1 && count <= maximumSceneDevices)
         return FleetGenerator::generate(count);
-    *error = u"\"%1\": a fleet needs a number of devices from 1 to %2, as in \"fleet:500\""_s.arg(name).arg(
-        maximumSceneDevices);
+    *error = u"\"%1\": a fleet needs a number of devices from 1 to %2, as in \"fleet:500\""_s.arg(
+        name, QString::number(maximumSceneDevices));
     return std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 #include "sdk/demo/internal/jsonkeys.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QJsonDocument>
 
@@ -275,12 +276,26 @@ std::optional<Scene> SceneReader::read(const QByteArray &json, QString *error)
     return complaint.isEmpty() ? std::optional(scene) : std::nullopt;
 }
 
+/// Far more than 20,000 devices need, in bytes.
+constexpr qint64 maximumSceneFileSize = 256 * 1024 * 1024;
+
 std::optional<Scene> SceneReader::readFile(const QString &path, QString *error)
 {
     QFile file(path);
+    if (QFileInfo::exists(path) && !path.startsWith(u':') && !QFileInfo(path).isFile()) {
+        // Opening a pipe waits for a writer, and a device has no end to read to.
+        if (error)
+            *error = u"%1: is no file"_s.arg(path);
+        return std::nullopt;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         if (error)
             *error = u"%1: cannot be read: %2"_s.arg(path, file.errorString());
+        return std::nullopt;
+    }
+    if (file.size() > maximumSceneFileSize) {
+        if (error)
+            *error = u"%1: is larger than a scene can be"_s.arg(path);
         return std::nullopt;
     }
     std::optional<Scene> scene = read(file.readAll(), error);

@@ -276,7 +276,9 @@ void ScenesTest::opensFilesAndNamesMistakes()
         {u"fleet:20001"_s, {u"1 to 20000"_s}},
         {u"fleet:many"_s, {u"\"fleet:many\""_s, u"1 to 20000"_s}},
         {directory.filePath(u"none.json"_s), {u"none.json"_s, u"cannot be read"_s}},
-        {directory.path(), {directory.path(), u"cannot be read"_s}},
+        {directory.path(), {directory.path(), u"is no file"_s}},
+        {u"/dev/zero"_s, {u"/dev/zero"_s, u"is no file"_s}},
+        {u"fleet:%1"_s, {u"\"fleet:%1\""_s, u"1 to 20000"_s}},
     };
     for (const auto &[name, words] : mistakes) {
         QVERIFY(!openSite(name, &error));
