@@ -68,6 +68,10 @@
         <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
         <translation>No device library is installed. Start the tool with --demo to work with a simulated site.</translation>
     </message>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>The settings could not be saved. Check that the program&apos;s folder can be written</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -137,6 +141,18 @@
     <message>
         <source>重新搜索</source>
         <translation>Search again</translation>
+    </message>
+    <message>
+        <source>搜索设置中没有选择网段</source>
+        <translation>The search settings name no segment</translation>
+    </message>
+    <message>
+        <source>请在搜索设置中选择本地网段或其他网段。</source>
+        <translation>Select the local segment or other segments in the search settings.</translation>
+    </message>
+    <message>
+        <source>搜索设置</source>
+        <translation>Search settings</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,10 @@
         <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
         <translation>未安装设备库：以 --demo 参数启动可演示模拟站点</translation>
     </message>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -137,6 +141,18 @@
     <message>
         <source>重新搜索</source>
         <translation>重新搜索</translation>
+    </message>
+    <message>
+        <source>搜索设置中没有选择网段</source>
+        <translation>搜索设置中没有选择网段</translation>
+    </message>
+    <message>
+        <source>请在搜索设置中选择本地网段或其他网段。</source>
+        <translation>请在搜索设置中选择本地网段或其他网段。</translation>
+    </message>
+    <message>
+        <source>搜索设置</source>
+        <translation>搜索设置</translation>
     </message>
 </context>
 <context>

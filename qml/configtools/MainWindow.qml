@@ -29,6 +29,10 @@ T.ApplicationWindow {
 
     function chooseLanguage(code) {
         localConfig.setLanguage(code);
+        if (localConfig.getLanguage() !== code) {
+            popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            return;
+        }
         chosenLanguage = code;
         popups.openRestartPrompt();
     }
@@ -44,10 +48,10 @@ T.ApplicationWindow {
         popups.say(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
     }
 
-    width: Theme.windowWidth
-    height: Theme.windowHeight
-    minimumWidth: Theme.windowWidth
-    minimumHeight: Theme.windowHeight
+    width: minimumWidth
+    height: minimumHeight
+    minimumWidth: Math.min(Theme.windowWidth, Screen.desktopAvailableWidth)
+    minimumHeight: Math.min(Theme.windowHeight, Screen.desktopAvailableHeight)
     color: Theme.colours.background
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowSystemMenuHint | Qt.WindowMinimizeButtonHint
            | Qt.WindowMaximizeButtonHint
@@ -56,6 +60,18 @@ T.ApplicationWindow {
     Component.onCompleted: {
         search.start(searchSettings.read());
         languageList.remove(localConfig.getRemoveLanguageList());
+    }
+
+    // The toolkit forgets that a window was maximised when it is minimised.
+    property int lastVisibility: Window.Windowed
+    property bool maximisedBefore: false
+    onVisibilityChanged: {
+        const now = window.visibility;
+        if (now === Window.Minimized)
+            maximisedBefore = lastVisibility === Window.Maximized;
+        else if (now === Window.Windowed && lastVisibility === Window.Minimized && maximisedBefore)
+            showMaximized();
+        lastVisibility = now;
     }
 
     onClosing: close => {
@@ -83,7 +99,7 @@ T.ApplicationWindow {
         tabCount: tabBar.tabs.length
         onFindRequested: if (window.currentTab === 0) modifyIpPage.focusSearch()
         onHelpRequested: window.localConfig.OpenHelpFile()
-        onSearchRequested: window.requestSearch()
+        onSearchRequested: if (!window.searching) window.requestSearch()
         onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         onTabRequested: index => window.showTab(index)
     }
@@ -105,7 +121,7 @@ T.ApplicationWindow {
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)
             onMinimiseRequested: window.showMinimized()
-            onSearchRequested: window.requestSearch()
+            onSearchRequested: if (!window.searching) window.requestSearch()
             onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         }
         OVTabBar {
@@ -129,7 +145,9 @@ T.ApplicationWindow {
                 id: modifyIpPage
                 libraryInstalled: window.libraryInstalled
                 searching: window.searching
+                searchesNothing: search.searchedNothing
                 onSearchRequested: window.requestSearch()
+                onSettingsRequested: popups.openSearchSettings(searchSettings.read())
             }
             OVOnDemand { visible: false; sourceComponent: Component { PageDeviceUpgrade {} } }
             OVOnDemand { visible: false; sourceComponent: Component { PageDeviceConfig {} } }
@@ -168,7 +186,8 @@ T.ApplicationWindow {
         onQuestionsRequested: window.localConfig.OpenQAFile()
         onRestartRequested: window.localConfig.reboot()
         onSettingsAccepted: values => {
-            searchSettings.write(values);
+            if (!searchSettings.write(values))
+                popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
             window.requestSearch();
         }
     }

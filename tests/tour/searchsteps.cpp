@@ -52,6 +52,24 @@ void awaitEndOfSearch(const Driver &driver, int seconds)
         QStringLiteral("the search ends"), [&] { return !isSearching(driver); }, seconds);
 }
 
+void walkNothingToSearch(Driver &driver)
+{
+    driver.click(QStringLiteral("searchSettingsButton"));
+    driver.click(QStringLiteral("localDomainBox"));
+    driver.click(QStringLiteral("okButton"));
+    driver.await(QStringLiteral("the page says that the settings name nothing to search"), [&] {
+        return rows(driver) == 0 && driver.find(QStringLiteral("emptyTitle")) &&
+               driver.text(QStringLiteral("emptyTitle")) ==
+                   QCoreApplication::translate("ModifyIPEmptyState", "搜索设置中没有选择网段");
+    });
+    driver.report(QStringLiteral("nothing-to-search"), driver.text(QStringLiteral("emptyTitle")));
+    driver.click(QStringLiteral("emptyActionButton")); // opens the settings
+    driver.click(QStringLiteral("localDomainBox"));
+    driver.key(Qt::Key_Escape);
+    driver.await(QStringLiteral("the settings are closed"),
+                 [&] { return !driver.find(QStringLiteral("okButton")); });
+}
+
 } // namespace
 
 void walkFirstSearch(Driver &driver)
@@ -81,9 +99,11 @@ void walkFirstSearch(Driver &driver)
 
 void walkSearchSettings(Driver &driver)
 {
+    walkNothingToSearch(driver);
     driver.click(QStringLiteral("searchSettingsButton"));
     driver.report(QStringLiteral("search-settings"), QStringLiteral("search settings"));
 
+    driver.click(QStringLiteral("localDomainBox"));
     driver.click(QStringLiteral("otherDomainBox"));
     driver.fill(QStringLiteral("startIpField"), QStringLiteral("192.168.3.1"));
     driver.fill(QStringLiteral("endIpField"), QStringLiteral("192.168.2.254"));

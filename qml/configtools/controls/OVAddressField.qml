@@ -7,7 +7,7 @@ OVTextField {
 
     readonly property bool acceptable: AddressTools.isLegalAddress(text)
 
-    maximumLength: 15
+    unwanted: /\s/g
     textFont: Theme.figureFont
-    validator: RegularExpressionValidator { regularExpression: /[0-9.]*/ }
+    validator: RegularExpressionValidator { regularExpression: /\s*[0-9.]{0,15}\s*/ }
 }

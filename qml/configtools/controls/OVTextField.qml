@@ -17,6 +17,8 @@ FocusScope {
     property string iconName
     property bool clearable: false
     property bool secret: false
+    /// What is dropped from a text that is pasted: line breaks, which a single line would hold unseen.
+    property var unwanted: /[\r\n\t]/g
     signal edited
     signal accepted
 
@@ -54,6 +56,7 @@ FocusScope {
 
         onAccepted: root.accepted()
         onTextEdited: root.edited()
+        onTextChanged: if (text.search(root.unwanted) >= 0) text = text.replace(root.unwanted, "")
         Keys.onEscapePressed: event => {
             event.accepted = root.clearable && text !== "";
             if (event.accepted)

@@ -7,7 +7,9 @@ FocusScope {
 
     required property bool searching
     required property bool libraryInstalled
+    required property bool searchesNothing
     signal searchRequested
+    signal settingsRequested
 
     readonly property var deviceFactory: CDeviceFactoryApi // qmllint disable unqualified
 
@@ -26,7 +28,7 @@ FocusScope {
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
-        searchText: toolBar.searchText
+        searchText: toolBar.searchText.trim()
     }
 
     Connections {
@@ -84,8 +86,10 @@ FocusScope {
             hiddenCount: devices.totalCount
             libraryInstalled: page.libraryInstalled
             searching: page.searching
+            searchesNothing: page.searchesNothing
             onFiltersCleared: page.clearFilters()
             onSearchRequested: page.searchRequested()
+            onSettingsRequested: page.settingsRequested()
         }
     }
 

@@ -8,10 +8,20 @@ QtObject {
     required property var deviceFactory
     property int count: 0
     property bool running: false
+    property bool searchedNothing: false  // the settings named nothing to search
+    /// The settings of a search that is to follow the running one, null when none is to.
+    property var next: null
 
+    /// Starts a search, or, while one runs, notes that another is to follow it: two at once would fill the same
+    /// list, and the first to end would pass for both.
     function start(settings) {
+        if (running) {
+            next = settings;
+            return;
+        }
         count = 0;
         running = true;
+        searchedNothing = !settings.localDomain && !settings.otherDomain;
         deviceFactory.setDefaultAccount("dh", settings.userName, settings.password);
         if (settings.otherDomain)
             deviceFactory.setSearchByIPInfo("dh", AddressTools.toNumber(settings.startIP),
@@ -27,6 +37,10 @@ QtObject {
         }
         function onSignalSearchDone() {
             root.running = false;
+            const settings = root.next;
+            root.next = null;
+            if (settings)
+                root.start(settings);
         }
     }
 }

@@ -15,12 +15,15 @@ QtObject {
         };
     }
 
+    /// Stores settings. Returns false when they could not be stored: what is read back then is not what was given.
     function write(settings) {
-        localConfig.setSearchConfigLocalDomain(settings.localDomain ? 1 : 0);
-        localConfig.setSearchConfigOtherDomain(settings.otherDomain ? 1 : 0);
         localConfig.setSearchConfigStartIP(settings.startIP);
         localConfig.setSearchConfigEndIP(settings.endIP);
         localConfig.setSearchConfigUsername(settings.userName);
         localConfig.setSearchConfigPass(settings.password);
+        localConfig.setSearchConfigLocalDomain(settings.localDomain ? 1 : 0);
+        localConfig.setSearchConfigOtherDomain(settings.otherDomain ? 1 : 0);
+        const stored = read();
+        return Object.keys(stored).every(key => stored[key] === settings[key]);
     }
 }
