@@ -32,11 +32,11 @@ bool FileSheetEngine::open(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
-    const QByteArray bytes = file.read(maximumFileSize + 1);
+    if (file.size() > maximumFileSize)
+        return fail(QStringLiteral("%1 is too large").arg(path));
+    const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return fail(QStringLiteral("cannot read %1: %2").arg(path, file.errorString()));
-    if (bytes.size() > maximumFileSize)
-        return fail(QStringLiteral("%1 is too large").arg(path));
     auto workbook = std::make_unique<OpenedWorkbook>();
     if (!workbook->load(bytes) || !workbook->selectSheet(1))
         return fail(QStringLiteral("cannot open %1: %2").arg(path, workbook->errorText()));

@@ -8,10 +8,12 @@ namespace sheets {
 
 class Workbook;
 
-/// Works on the file format itself, with no other program: a new workbook is kept as rows and written in one go;
-/// one from a file is changed in place, and all parts of the file that are not concerned stay byte for byte.
+/// Works on the file format itself, with no other program: a new workbook is kept as rows and written in one
+/// go; one from a file is changed in place, and all parts of the file that are not concerned stay byte for
+/// byte.
 ///
-/// What it opens is bounded: 128 MiB of file, 10,000 parts, 64 MiB of text and 512 MiB of memory for one part.
+/// What it opens is bounded: 128 MiB of file, 10,000 parts, 64 MiB of text and 512 MiB of memory for one
+/// part.
 class FileSheetEngine : public SheetEngine
 {
 public:

@@ -15,8 +15,8 @@ struct UsedRows
     int count = 0;
 };
 
-/// One workbook at a time, as QExcel needs it. Whoever calls has checked that places lie in a sheet, texts are
-/// not too long and a workbook is there.
+/// One workbook at a time, as QExcel needs it. Whoever calls has checked that places lie in a sheet, texts
+/// are not too long and a workbook is there.
 ///
 /// An operation returns false, or nothing, when it failed, and leaves the reason in `errorText()`.
 /// Not thread-safe; an object is used on the thread that made it.

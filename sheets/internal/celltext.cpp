@@ -59,7 +59,8 @@ QString escapedCellText(const QString &text)
     }
     if (done == 0)
         return text;
-    return escaped + QStringView(text).sliced(done);
+    escaped += QStringView(text).sliced(done);
+    return escaped;
 }
 
 QString unescapedCellText(const QString &escaped)
@@ -75,12 +76,15 @@ QString unescapedCellText(const QString &escaped)
         }
         at = escaped.indexOf(QLatin1String("_x"), next);
     }
-    return done == 0 ? escaped : text + QStringView(escaped).sliced(done);
+    if (done == 0)
+        return escaped;
+    text += QStringView(escaped).sliced(done);
+    return text;
 }
 
 bool fitsCell(const QString &text)
 {
-    return escapedCellText(text).size() <= maximumLength;
+    return text.size() <= maximumLength / escapeLength || escapedCellText(text).size() <= maximumLength;
 }
 
 QString numberText(double value)

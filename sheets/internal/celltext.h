@@ -5,8 +5,8 @@
 
 namespace sheets {
 
-/// The text as the file holds it: characters that XML cannot carry as "_xHHHH_", and what looks like one of these
-/// with its own first underscore spelled that way.
+/// The text as the file holds it: characters that XML cannot carry as "_xHHHH_", and what looks like one of
+/// these with its own first underscore spelled that way.
 [[nodiscard]] QString escapedCellText(const QString &text);
 
 /// The text that `escaped` spells.

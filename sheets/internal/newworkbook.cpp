@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+#include <clocale>
+
 #include <xlsxwriter.h>
 
 namespace sheets {
@@ -32,9 +34,9 @@ public:
         if (error == LXW_NO_ERROR && row.height)
             error = worksheet_set_row(m_sheet, index, *row.height, nullptr);
         for (auto cell = row.cells.begin(); cell != row.cells.end() && error == LXW_NO_ERROR; ++cell) {
-            const QByteArray text = escapedCellText(cell->second.text).toUtf8();
-            const auto column = lxw_col_t(cell->first - 1);
-            lxw_format *look = format(cell->second.format);
+            const QByteArray text = escapedCellText(cell->text).toUtf8();
+            const auto column = lxw_col_t(cell->column - 1);
+            lxw_format *look = format(cell->format);
             error = text.isEmpty() ? worksheet_write_blank(m_sheet, index, column, look)
                                    : worksheet_write_string(m_sheet, index, column, text.constData(), look);
         }
@@ -65,12 +67,52 @@ private:
     std::map<FormatChange, lxw_format *> m_formats;
 };
 
+/// Makes this thread write numbers with a decimal point, as the file format wants them, wherever the user
+/// lives.
+class PointLocale
+{
+public:
+#ifdef Q_OS_UNIX
+    PointLocale() : m_point(newlocale(LC_NUMERIC_MASK, "C", nullptr)), m_before(uselocale(m_point)) {}
+
+    ~PointLocale()
+    {
+        uselocale(m_before);
+        if (m_point)
+            freelocale(m_point);
+    }
+#else
+    PointLocale() = default; // only where the toolkit sets the C library's locale
+#endif
+    PointLocale(const PointLocale &) = delete;
+    PointLocale &operator=(const PointLocale &) = delete;
+
+private:
+#ifdef Q_OS_UNIX
+    const locale_t m_point;
+    const locale_t m_before;
+#endif
+};
+
+bool isBefore(const NewWorkbook::Cell &cell, int column)
+{
+    return cell.column < column;
+}
+
 bool isInSeveralRows(const CellRange &range)
 {
     return range.first.row != range.last.row;
 }
 
 } // namespace
+
+NewWorkbook::Cell &NewWorkbook::Row::cell(int column)
+{
+    auto cell = std::lower_bound(cells.begin(), cells.end(), column, isBefore);
+    if (cell == cells.end() || cell->column != column)
+        cell = cells.insert(cell, Cell{column, {}, {}});
+    return *cell;
+}
 
 bool NewWorkbook::selectSheet(int index)
 {
@@ -95,13 +137,14 @@ QString NewWorkbook::cellText(CellPlace place) const
     const auto row = m_rows.find(place.row);
     if (row == m_rows.end())
         return {};
-    const auto cell = row->second.cells.find(place.column);
-    return cell == row->second.cells.end() ? QString() : cell->second.text;
+    const auto &cells = row->second.cells;
+    const auto cell = std::lower_bound(cells.begin(), cells.end(), place.column, isBefore);
+    return cell == cells.end() || cell->column != place.column ? QString() : cell->text;
 }
 
 bool NewWorkbook::setCellText(CellPlace place, const QString &text)
 {
-    Cell &cell = m_rows[place.row].cells[place.column];
+    Cell &cell = m_rows[place.row].cell(place.column);
     cell.text = text;
     cell.format.isText = true;
     return true;
@@ -115,13 +158,13 @@ bool NewWorkbook::mergeCells(const CellRange &range)
                                               .arg(rangeText(range), rangeText(other)));
     }
     m_merged.append(range);
-    m_rows[range.first.row].cells[range.first.column];
-    for (auto row = m_rows.find(range.first.row); row != m_rows.end() && row->first <= range.last.row; ++row) {
-        auto &cells = row->second.cells;
-        for (auto cell = cells.lower_bound(range.first.column);
-             cell != cells.end() && cell->first <= range.last.column; ++cell) {
-            if (row->first != range.first.row || cell->first != range.first.column)
-                cell->second.text.clear();
+    m_rows[range.first.row].cell(range.first.column);
+    for (auto row = m_rows.find(range.first.row); row != m_rows.end() && row->first <= range.last.row;
+         ++row) {
+        for (Cell &cell : row->second.cells) {
+            const CellPlace place{row->first, cell.column};
+            if (place != range.first && CellRange{place, place}.overlaps(range))
+                cell.text.clear();
         }
     }
     return true;
@@ -130,9 +173,9 @@ bool NewWorkbook::mergeCells(const CellRange &range)
 bool NewWorkbook::changeFormat(const CellRange &range, const FormatChange &change)
 {
     for (int row = range.first.row; row <= range.last.row; ++row) {
-        auto &cells = m_rows[row].cells;
+        Row &cells = m_rows[row];
         for (int column = range.first.column; column <= range.last.column; ++column) {
-            FormatChange &format = cells[column].format;
+            FormatChange &format = cells.cell(column).format;
             if (change.wrap)
                 format.wrap = change.wrap;
             if (change.bold)
@@ -167,10 +210,12 @@ bool NewWorkbook::build(QByteArray &file)
 
 bool NewWorkbook::write(const QString &path, const QString &temporaryFolder)
 {
+    [[maybe_unused]] const PointLocale locale;
     QByteArray folder = QFile::encodeName(temporaryFolder);
     lxw_workbook_options options = {};
     options.tmpdir = folder.data();
-    // Rows that are complete leave the memory at once, which is quick, but cells merged across rows come too early.
+    // Rows that are complete leave the memory at once, which is quick, but cells merged across rows come too
+    // early.
     options.constant_memory = std::none_of(m_merged.begin(), m_merged.end(), isInSeveralRows);
     lxw_workbook *workbook = workbook_new_opt(QFile::encodeName(path).constData(), &options);
     if (!workbook)

@@ -5,11 +5,12 @@
 #include <QList>
 
 #include <map>
+#include <vector>
 
 namespace sheets {
 
-/// A workbook with one sheet that was begun here. It is kept as rows, because a cell's look may change until it is
-/// written, and is written row by row.
+/// A workbook with one sheet that was begun here. It is kept as rows, because a cell's look may change until
+/// it is written, and is written row by row.
 class NewWorkbook : public Workbook
 {
 public:
@@ -24,14 +25,18 @@ public:
 
     struct Cell
     {
+        int column = 0;
         QString text;
         FormatChange format; ///< against the look of an untouched cell
     };
 
     struct Row
     {
-        std::map<int, Cell> cells; ///< by column
+        std::vector<Cell> cells; ///< in the order of their columns
         std::optional<double> height;
+
+        /// The cell of that column, which is added when it is missing.
+        Cell &cell(int column);
     };
 
 private:

@@ -90,7 +90,8 @@ bool Relationships::removePart(ZipPackage &package, const QString &part)
     const auto unlist = [&listed](pugi::xml_node types) {
         for (pugi::xml_node entry = types.first_child(); entry;) {
             const pugi::xml_node next = entry.next_sibling();
-            if (listed.compare(QString::fromUtf8(entry.attribute("PartName").value()), Qt::CaseInsensitive) == 0)
+            if (listed.compare(QString::fromUtf8(entry.attribute("PartName").value()), Qt::CaseInsensitive) ==
+                0)
                 types.remove_child(entry);
             entry = next;
         }
@@ -108,9 +109,11 @@ bool Relationships::addPart(ZipPackage &package, const QString &fileName, QLatin
     for (int number = 1; id.isEmpty() || targetById(id); ++number)
         id = QStringLiteral("rId%1").arg(number);
     // The same dialect as the relationships that are there.
-    const QString known = QString::fromUtf8(childNamed(m_document.root(), "Relationship").attribute("Type").value());
+    const QString known =
+        QString::fromUtf8(childNamed(m_document.root(), "Relationship").attribute("Type").value());
     const QString address = known.first(known.lastIndexOf(QLatin1Char('/')) + 1) + type;
-    pugi::xml_node entry = m_document.root().append_child(nameLike(m_document.root(), "Relationship").c_str());
+    pugi::xml_node entry =
+        m_document.root().append_child(nameLike(m_document.root(), "Relationship").c_str());
     entry.append_attribute("Id").set_value(id.toUtf8().constData());
     entry.append_attribute("Type").set_value(address.toUtf8().constData());
     entry.append_attribute("Target").set_value(fileName.toUtf8().constData());

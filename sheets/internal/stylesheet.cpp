@@ -37,8 +37,10 @@ QByteArray StyleSheet::smallest(const QByteArray &nameSpace)
            "<fills count=\"2\"><fill><patternFill patternType=\"none\"/></fill>"
            "<fill><patternFill patternType=\"gray125\"/></fill></fills>"
            "<borders count=\"1\"><border><left/><right/><top/><bottom/><diagonal/></border></borders>"
-           "<cellStyleXfs count=\"1\"><xf numFmtId=\"0\" fontId=\"0\" fillId=\"0\" borderId=\"0\"/></cellStyleXfs>"
-           "<cellXfs count=\"1\"><xf numFmtId=\"0\" fontId=\"0\" fillId=\"0\" borderId=\"0\" xfId=\"0\"/></cellXfs>"
+           "<cellStyleXfs count=\"1\"><xf numFmtId=\"0\" fontId=\"0\" fillId=\"0\" "
+           "borderId=\"0\"/></cellStyleXfs>"
+           "<cellXfs count=\"1\"><xf numFmtId=\"0\" fontId=\"0\" fillId=\"0\" borderId=\"0\" "
+           "xfId=\"0\"/></cellXfs>"
            "<cellStyles count=\"1\"><cellStyle name=\"Normal\" xfId=\"0\" builtinId=\"0\"/></cellStyles>"
            "</styleSheet>";
 }
@@ -53,7 +55,8 @@ bool StyleSheet::load(const QByteArray &bytes)
     m_fonts = childrenNamed(m_fontList, "font");
     m_known.clear();
     m_isModified = false;
-    return (!m_looks.empty() && !m_fonts.empty()) || fail(QStringLiteral("it has no cell formats or no fonts"));
+    return (!m_looks.empty() && !m_fonts.empty()) ||
+           fail(QStringLiteral("it has no cell formats or no fonts"));
 }
 
 int StyleSheet::changed(int base, const FormatChange &change)
@@ -97,7 +100,9 @@ bool StyleSheet::hasAll(pugi::xml_node look, const FormatChange &change) const
         return false;
     if (change.bold && *change.bold != isSet(childNamed(font, "b")))
         return false;
-    return !change.fontSize || *change.fontSize == childNamed(font, "sz").attribute("val").as_double();
+    // Not the parser's own numbers, which follow the decimal point of the user's country.
+    return !change.fontSize ||
+           *change.fontSize == QByteArray(childNamed(font, "sz").attribute("val").value()).toDouble();
 }
 
 pugi::xml_node StyleSheet::fontOf(pugi::xml_node look) const
@@ -118,7 +123,7 @@ int StyleSheet::changedFont(pugi::xml_node font, const FormatChange &change)
         pugi::xml_node size = childNamed(copy, "sz");
         if (!size)
             size = copy.append_child(nameLike(copy, "sz").c_str());
-        attributeOf(size, "val").set_value(*change.fontSize, 6);
+        attributeOf(size, "val").set_value(QByteArray::number(*change.fontSize).constData());
     }
     m_fonts.push_back(copy);
     setAttribute(m_fontList, "count", int(m_fonts.size()));

@@ -6,8 +6,8 @@
 
 namespace sheets {
 
-/// The two kinds of workbook of the file engine: one that is begun, one that came from a file. Operations as in
-/// SheetEngine.
+/// The two kinds of workbook of the file engine: one that is begun, one that came from a file. Operations as
+/// in SheetEngine.
 class Workbook : public LastError
 {
 public:

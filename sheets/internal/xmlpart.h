@@ -8,7 +8,8 @@
 
 namespace sheets {
 
-/// A part of a workbook as an XML document, which is written again exactly as it was, but for what is changed.
+/// A part of a workbook as an XML document, which is written again exactly as it was, but for what is
+/// changed.
 class XmlPart : public LastError
 {
 public:

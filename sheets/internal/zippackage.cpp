@@ -1,5 +1,10 @@
 #include "sheets/internal/zippackage.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
 #include <zip.h>
 
 namespace sheets {
@@ -13,29 +18,36 @@ constexpr zip_uint64_t maximumPartSize = 64ULL * 1024 * 1024;
 constexpr zip_uint64_t maximumRatio = 250;
 constexpr zip_uint64_t sizeWithoutRatio = 8ULL * 1024 * 1024;
 
-/// Opens an archive on bytes that must outlive it. `source`, if wanted, gets a reference of its own.
-zip_t *openArchive(const QByteArray &bytes, QString &reason, zip_source_t **source = nullptr)
+// Sheets repeat themselves so much that a higher level costs time and gains little.
+constexpr zip_uint32_t deflateLevel = 3;
+
+/// Opens an archive on the source, and takes the caller's reference to it. Null on failure, with the reason.
+zip_t *openArchive(zip_source_t *source, QString &reason)
 {
     zip_error_t error;
     zip_error_init(&error);
-    zip_source_t *made = zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, &error);
-    zip_t *archive = nullptr;
-    if (made) {
-        if (source)
-            zip_source_keep(made);
-        archive = zip_open_from_source(made, 0, &error);
-        if (!archive) {
-            if (source)
-                zip_source_free(made);
-            zip_source_free(made);
-        } else if (source) {
-            *source = made;
-        }
-    }
-    if (!archive)
+    zip_t *archive = zip_open_from_source(source, 0, &error);
+    if (!archive) {
+        zip_source_free(source);
         reason = QString::fromUtf8(zip_error_strerror(&error));
+    }
     zip_error_fini(&error);
     return archive;
+}
+
+/// A source with a copy of the bytes that belongs to it. Writing an archive into a source frees a part of the
+/// bytes that it was made of, even when they are not its own.
+zip_source_t *copiedSource(const QByteArray &bytes)
+{
+    const auto size = std::size_t(bytes.size());
+    void *copy = std::malloc(std::max<std::size_t>(size, 1)); // the library frees it with free()
+    if (!copy)
+        return nullptr;
+    std::memcpy(copy, bytes.constData(), size);
+    zip_source_t *source = zip_source_buffer_create(copy, size, 1, nullptr);
+    if (!source)
+        std::free(copy);
+    return source;
 }
 
 /// What a file that is no zip archive is.
@@ -44,8 +56,9 @@ QString describeForeignFile(const QByteArray &file, const QString &reason)
     static const QByteArray compoundFile("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     if (!file.startsWith(compoundFile))
         return QStringLiteral("not a workbook, or a damaged one (%1)").arg(reason);
-    const char16_t *stream = u"EncryptedPackage";
-    const QByteArray name(reinterpret_cast<const char *>(stream), 2 * 16);
+    static constexpr std::u16string_view stream = u"EncryptedPackage";
+    const QByteArray name(reinterpret_cast<const char *>(stream.data()),
+                          qsizetype(sizeof(char16_t) * stream.size()));
     return file.contains(name) ? QStringLiteral("the workbook is encrypted with a password")
                                : QStringLiteral("not a workbook of the format .xlsx");
 }
@@ -77,7 +90,9 @@ bool ZipPackage::load(const QByteArray &file)
     m_removed.clear();
     m_file = file;
     QString reason;
-    m_archive.reset(openArchive(m_file, reason));
+    zip_source_t *source =
+        zip_source_buffer_create(m_file.constData(), zip_uint64_t(m_file.size()), 0, nullptr);
+    m_archive.reset(source ? openArchive(source, reason) : nullptr);
     if (!m_archive)
         return fail(describeForeignFile(m_file, reason));
     const zip_int64_t count = zip_get_num_entries(m_archive.get(), 0);
@@ -95,9 +110,10 @@ bool ZipPackage::load(const QByteArray &file)
     return true;
 }
 
-bool ZipPackage::checkEntry(const zip_stat &entry)
+bool ZipPackage::checkEntry(const struct zip_stat &entry)
 {
-    constexpr zip_uint64_t needed = ZIP_STAT_NAME | ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_ENCRYPTION_METHOD;
+    constexpr zip_uint64_t needed =
+        ZIP_STAT_NAME | ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_ENCRYPTION_METHOD;
     if ((entry.valid & needed) != needed)
         return fail(QStringLiteral("a part of the workbook has no name or size"));
     const QString name = QString::fromUtf8(entry.name);
@@ -163,24 +179,31 @@ bool ZipPackage::build(QByteArray &file)
         file = m_file;
         return true;
     }
-    // An archive of its own, because writing uses it up.
+    // An archive of its own, because writing uses it up. The source takes what is written and must stay for
+    // that.
+    zip_source_t *source = copiedSource(m_file);
+    if (!source)
+        return fail(QStringLiteral("there is not enough memory"));
+    zip_source_keep(source);
     QString reason;
-    zip_source_t *source = nullptr;
-    Archive archive(openArchive(m_file, reason, &source));
-    if (!archive)
-        return fail(reason);
-    bool isDone = applyChanges(archive.get());
-    if (isDone) {
-        isDone = zip_close(archive.get()) == 0;
-        if (isDone)
-            (void)archive.release(); // closed, and gone with that
-        else
-            fail(QString::fromUtf8(zip_strerror(archive.get())));
-    }
-    isDone = isDone && (readWhole(source, file) || fail(QStringLiteral("the archive cannot be read back")));
-    archive.reset();
+    Archive archive(openArchive(source, reason));
+    const bool isBuilt =
+        archive ? writeChanges(std::move(archive)) &&
+                      (readWhole(source, file) || fail(QStringLiteral("the archive cannot be read back")))
+                : fail(reason);
     zip_source_free(source);
-    return isDone;
+    return isBuilt;
+}
+
+/// Writes the archive with all changes into its source, and closes it.
+bool ZipPackage::writeChanges(Archive archive)
+{
+    if (!applyChanges(archive.get()))
+        return false;
+    if (zip_close(archive.get()) != 0)
+        return fail(QString::fromUtf8(zip_strerror(archive.get())));
+    (void)archive.release(); // gone with closing
+    return true;
 }
 
 bool ZipPackage::applyChanges(zip *archive)
@@ -190,14 +213,19 @@ bool ZipPackage::applyChanges(zip *archive)
         zip_source_t *part = zip_source_buffer(archive, bytes.constData(), size, 0);
         if (!part)
             return fail(QString::fromUtf8(zip_strerror(archive)));
-        const auto index = m_entries.constFind(name.toLower());
-        const bool isTaken = index != m_entries.constEnd()
-                                 ? zip_file_replace(archive, *index, part, 0) == 0
-                                 : zip_file_add(archive, name.toUtf8().constData(), part, ZIP_FL_ENC_UTF_8) >= 0;
-        if (!isTaken) {
+        const auto known = m_entries.constFind(name.toLower());
+        const bool isKnown = known != m_entries.constEnd();
+        const zip_int64_t index =
+            isKnown ? zip_int64_t(*known)
+                    : zip_file_add(archive, name.toUtf8().constData(), part, ZIP_FL_ENC_UTF_8);
+        if (index < 0 || (isKnown && zip_file_replace(archive, *known, part, 0) != 0)) {
             zip_source_free(part);
             return fail(QString::fromUtf8(zip_strerror(archive)));
         }
+        // The default method is deflate; naming it would make the library take it for no change, and drop the
+        // level.
+        if (zip_set_file_compression(archive, zip_uint64_t(index), ZIP_CM_DEFAULT, deflateLevel) != 0)
+            return fail(QString::fromUtf8(zip_strerror(archive)));
     }
     for (const quint64 index : std::as_const(m_removed)) {
         if (zip_delete(archive, index) != 0)

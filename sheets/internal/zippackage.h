@@ -13,14 +13,15 @@ struct zip_stat;
 
 namespace sheets {
 
-/// The parts of a workbook file, which is a zip archive. Changed parts are kept beside the file's bytes, and a file
-/// that is built of both holds all other parts byte for byte as they were.
+/// The parts of a workbook file, which is a zip archive. Changed parts are kept beside the file's bytes, and
+/// a file that is built of both holds all other parts byte for byte as they were.
 ///
 /// Part names have no leading slash and are the same part in capitals and small letters.
 class ZipPackage : public LastError
 {
 public:
-    /// Takes the bytes of a file. Fails for one that is no archive, damaged, encrypted or suspiciously packed.
+    /// Takes the bytes of a file. Fails for one that is no archive, damaged, encrypted or suspiciously
+    /// packed.
     bool load(const QByteArray &file);
 
     [[nodiscard]] bool contains(const QString &name) const;
@@ -44,7 +45,8 @@ private:
     };
     using Archive = std::unique_ptr<zip, ArchiveCloser>;
 
-    bool checkEntry(const zip_stat &entry);
+    bool checkEntry(const struct zip_stat &entry);
+    bool writeChanges(Archive archive);
     bool applyChanges(zip *archive);
 
     QByteArray m_file;

@@ -1,0 +1,230 @@
+#include "sheets/applicationsheetengine.h"
+
+#include "sheets/internal/celltext.h"
+
+#include <QAxObject>
+#include <QDateTime>
+#include <QDir>
+
+namespace sheets {
+
+namespace {
+
+/// Days since the day that sheets count from, with the time as a fraction.
+double dayNumber(const QDateTime &time)
+{
+    constexpr double millisecondsOfDay = 24.0 * 60 * 60 * 1000;
+    return double(QDate(1899, 12, 30).daysTo(time.date())) +
+           time.time().msecsSinceStartOfDay() / millisecondsOfDay;
+}
+
+QString valueText(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return truthText(value.toBool());
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return numberText(value.toDouble());
+    case QMetaType::QDateTime:
+        return numberText(dayNumber(value.toDateTime()));
+    default:
+        return value.toString();
+    }
+}
+
+} // namespace
+
+ApplicationSheetEngine::ApplicationSheetEngine()
+{
+    start();
+}
+
+ApplicationSheetEngine::~ApplicationSheetEngine()
+{
+    quit();
+}
+
+bool ApplicationSheetEngine::start()
+{
+    m_application = std::make_unique<QAxObject>(QStringLiteral("Excel.Application"));
+    if (m_application->isNull()) {
+        m_application.reset();
+        return fail(QStringLiteral("no spreadsheet application can be started"));
+    }
+    QObject::connect(m_application.get(), &QAxObject::exception, m_application.get(),
+                     [this](int code, const QString &, const QString &description) {
+                         m_exception =
+                             description.isEmpty() ? QStringLiteral("error %1").arg(code) : description;
+                     });
+    return set(m_application.get(), "DisplayAlerts", false);
+}
+
+bool ApplicationSheetEngine::isAvailable() const
+{
+    return m_application != nullptr;
+}
+
+bool ApplicationSheetEngine::createWorkbook()
+{
+    if (m_workbook)
+        quit(); // lets go of the file of an earlier workbook
+    if (!isAvailable() && !start())
+        return false;
+    m_workbooks = object(m_application.get(), "Workbooks");
+    return m_workbooks && call(m_workbooks.get(), "Add") && pickActive();
+}
+
+bool ApplicationSheetEngine::open(const QString &path)
+{
+    if (m_workbook)
+        quit(); // lets go of the file of an earlier workbook
+    if (!isAvailable() && !start())
+        return false;
+    m_workbooks = object(m_application.get(), "Workbooks");
+    return m_workbooks && call(m_workbooks.get(), "Open(const QString&)", QDir::toNativeSeparators(path)) &&
+           pickActive() && selectSheet(1);
+}
+
+/// Takes the workbook that the application has just made or opened, and its sheet.
+bool ApplicationSheetEngine::pickActive()
+{
+    m_sheet.reset();
+    m_sheets.reset();
+    m_workbook = object(m_application.get(), "ActiveWorkBook");
+    if (!m_workbook)
+        return false;
+    m_sheets = object(m_workbook.get(), "WorkSheets");
+    if (!m_sheets)
+        return false;
+    m_sheet = object(m_workbook.get(), "ActiveSheet");
+    return m_sheet != nullptr;
+}
+
+bool ApplicationSheetEngine::selectSheet(int index)
+{
+    Object sheet = object(m_sheets.get(), "Item(int)", index);
+    if (!sheet)
+        return false;
+    m_sheet = std::move(sheet);
+    return true;
+}
+
+std::optional<UsedRows> ApplicationSheetEngine::usedRows()
+{
+    const Object used = object(m_sheet.get(), "UsedRange");
+    const Object rows = used ? object(used.get(), "Rows") : nullptr;
+    if (!rows)
+        return std::nullopt;
+    m_exception.clear();
+    const UsedRows range{used->property("Row").toInt(), rows->property("Count").toInt()};
+    if (!answered("UsedRange"))
+        return std::nullopt;
+    return range;
+}
+
+std::optional<QString> ApplicationSheetEngine::cellText(CellPlace place)
+{
+    const Object cell = object(m_sheet.get(), "Cells(int,int)", place.row, place.column);
+    if (!cell)
+        return std::nullopt;
+    m_exception.clear();
+    const QString text = valueText(cell->property("Value"));
+    return answered("Value") ? std::optional(text) : std::nullopt;
+}
+
+bool ApplicationSheetEngine::setCellText(CellPlace place, const QString &text)
+{
+    const Object cell = object(m_sheet.get(), "Cells(int,int)", place.row, place.column);
+    return cell && set(cell.get(), "NumberFormat", QStringLiteral("@")) &&
+           call(cell.get(), "SetValue(const QString&)", text);
+}
+
+bool ApplicationSheetEngine::mergeCells(const CellRange &range)
+{
+    const Object cells = rangeObject(range);
+    return cells && call(cells.get(), "Merge()");
+}
+
+bool ApplicationSheetEngine::changeFormat(const CellRange &range, const FormatChange &change)
+{
+    const Object cells = rangeObject(range);
+    if (!cells)
+        return false;
+    if (change.wrap && !set(cells.get(), "WrapText", *change.wrap))
+        return false;
+    if (!change.bold && !change.fontSize)
+        return true;
+    const Object font = object(cells.get(), "Font");
+    return font && (!change.bold || set(font.get(), "Bold", *change.bold)) &&
+           (!change.fontSize || set(font.get(), "Size", *change.fontSize));
+}
+
+bool ApplicationSheetEngine::setRowHeight(int row, double points)
+{
+    const Object object = this->object(m_sheet.get(), "Rows(int)", row);
+    return object && set(object.get(), "RowHeight", points);
+}
+
+bool ApplicationSheetEngine::save()
+{
+    return call(m_workbook.get(), "Save()");
+}
+
+bool ApplicationSheetEngine::saveAs(const QString &path)
+{
+    return call(m_workbook.get(), "SaveAs(const QString&)", QDir::toNativeSeparators(path));
+}
+
+void ApplicationSheetEngine::quit()
+{
+    // The application stays in memory as long as anything holds one of its objects.
+    m_sheet.reset();
+    m_sheets.reset();
+    m_workbook.reset();
+    m_workbooks.reset();
+    if (m_application)
+        call(m_application.get(), "Quit()");
+    m_application.reset();
+}
+
+/// An object that `owner` has or makes. Null on failure, with the reason noted.
+ApplicationSheetEngine::Object ApplicationSheetEngine::object(QAxObject *owner, const char *name,
+                                                              const QVariant &first, const QVariant &second)
+{
+    m_exception.clear();
+    Object object(owner->querySubObject(name, first, second));
+    if (object && m_exception.isEmpty())
+        return object;
+    if (answered(name))
+        fail(QStringLiteral("the spreadsheet application has no %1").arg(QString::fromLatin1(name)));
+    return nullptr;
+}
+
+ApplicationSheetEngine::Object ApplicationSheetEngine::rangeObject(const CellRange &range)
+{
+    return object(m_sheet.get(), "Range(QVariant,QVariant)", placeText(range.first), placeText(range.last));
+}
+
+bool ApplicationSheetEngine::set(QAxObject *object, const char *property, const QVariant &value)
+{
+    m_exception.clear();
+    object->setProperty(property, value);
+    return answered(property);
+}
+
+bool ApplicationSheetEngine::call(QAxObject *object, const char *function, const QVariant &argument)
+{
+    m_exception.clear();
+    object->dynamicCall(function, argument);
+    return answered(function);
+}
+
+/// False when the application complained since the exception was cleared.
+bool ApplicationSheetEngine::answered(const char *what)
+{
+    return m_exception.isEmpty() || fail(QStringLiteral("the spreadsheet application refuses %1: %2")
+                                             .arg(QString::fromLatin1(what), m_exception));
+}
+
+} // namespace sheets

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "sheets/internal/relationships.h"
+#include "sheets/internal/sharedstrings.h"
+#include "sheets/internal/stylesheet.h"
+#include "sheets/internal/workbook.h"
+#include "sheets/internal/worksheet.h"
+#include "sheets/internal/zippackage.h"
+
+#include <QStringList>
+
+#include <memory>
+
+namespace sheets {
+
+/// A workbook from a file. Only the sheet that is picked is held as a document; changes of another one stand
+/// in the package.
+class OpenedWorkbook : public Workbook
+{
+public:
+    /// Takes the bytes of a file and finds its sheets. No sheet is picked.
+    bool load(const QByteArray &file);
+
+    bool selectSheet(int index) override;
+    [[nodiscard]] UsedRows usedRows() const override;
+    [[nodiscard]] QString cellText(CellPlace place) const override;
+    bool setCellText(CellPlace place, const QString &text) override;
+    bool mergeCells(const CellRange &range) override;
+    bool changeFormat(const CellRange &range, const FormatChange &change) override;
+    bool setRowHeight(int row, double points) override;
+    bool build(QByteArray &file) override;
+
+private:
+    bool findSheets(pugi::xml_node workbook);
+    bool loadStrings();
+    bool needStyles();
+    bool storeSheet();
+
+    ZipPackage m_package;
+    Relationships m_relationships; ///< of the workbook's part
+    QByteArray m_nameSpace;        ///< of the workbook's dialect
+    QStringList m_sheetParts;
+    SharedStrings m_strings;
+    std::unique_ptr<StyleSheet> m_styles; ///< once something needs it
+    QString m_stylesPart;
+    std::unique_ptr<Worksheet> m_sheet; ///< the one that is picked
+    QString m_sheetPart;
+};
+
+} // namespace sheets

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "sheets/internal/worksheetrows.h"
+#include "sheets/internal/xmlpart.h"
+
+#include <QList>
+
+namespace sheets {
+
+class SharedStrings;
+class StyleSheet;
+
+/// One sheet of a workbook from a file, changed in place.
+class Worksheet : public LastError
+{
+public:
+    bool load(const QByteArray &bytes);
+
+    [[nodiscard]] UsedRows usedRows() const { return m_rows.usedRows(); }
+    [[nodiscard]] QString cellText(CellPlace place, const SharedStrings &strings) const;
+
+    /// Writes a text into a cell, which keeps its look but for the number format. Fails where a formula is
+    /// that other cells depend on.
+    bool setCellText(CellPlace place, const QString &text, StyleSheet &styles);
+    bool mergeCells(const CellRange &range);
+    void changeFormat(const CellRange &range, const FormatChange &change, StyleSheet &styles);
+    void setRowHeight(int row, double points);
+
+    [[nodiscard]] bool isModified() const { return m_isModified; }
+    [[nodiscard]] bool hasLostFormulas() const { return m_hasLostFormulas; }
+    [[nodiscard]] QByteArray bytes();
+
+private:
+    bool checkFormula(CellPlace place, pugi::xml_node cell);
+    void clearCell(pugi::xml_node cell);
+    pugi::xml_node makeCell(CellPlace place);
+    void setLook(pugi::xml_node cell, const FormatChange &change, StyleSheet &styles);
+    [[nodiscard]] int lookOfEmptyCell(CellPlace place) const;
+    pugi::xml_node makeMergeList();
+
+    XmlPart m_part;
+    pugi::xml_node m_data;
+    WorksheetRows m_rows;
+    QList<CellRange> m_merged;
+    bool m_isModified = false;
+    bool m_hasLostFormulas = false;
+    bool m_hasNewCells = false;
+};
+
+} // namespace sheets

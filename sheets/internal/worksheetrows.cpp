@@ -1,0 +1,133 @@
+#include "sheets/internal/worksheetrows.h"
+
+#include "sheets/internal/xmlnames.h"
+
+#include <algorithm>
+
+namespace sheets {
+
+namespace {
+
+/// Where the cell of that column is in `cells`, or would be.
+template<typename Cells>
+auto positionOf(Cells &cells, int column)
+{
+    return std::lower_bound(cells.begin(), cells.end(), column,
+                            [](const auto &cell, int wanted) { return cell.first < wanted; });
+}
+
+} // namespace
+
+bool WorksheetRows::load(pugi::xml_node data)
+{
+    m_data = data;
+    m_rows.clear();
+    int number = 0;
+    for (pugi::xml_node row = childNamed(data, "row"); row; row = nextNamed(row, "row")) {
+        const pugi::xml_attribute written = row.attribute("r");
+        number = written ? QByteArray(written.value()).toInt() : number + 1;
+        if (number < 1 || number > maximumRows)
+            return fail(QStringLiteral("a row has the number %1").arg(QString::fromUtf8(written.value())));
+        if (!loadRow(number, row))
+            return false;
+    }
+    return true;
+}
+
+bool WorksheetRows::loadRow(int number, pugi::xml_node node)
+{
+    Row &row = m_rows.try_emplace(number, Row{node, {}}).first->second;
+    int column = 0;
+    for (pugi::xml_node cell = childNamed(node, "c"); cell; cell = nextNamed(cell, "c")) {
+        const pugi::xml_attribute written = cell.attribute("r");
+        const auto place = written ? cellPlace(QString::fromUtf8(written.value()))
+                                   : std::optional(CellPlace{number, column + 1});
+        if (!place || !place->isInSheet())
+            return fail(QStringLiteral("a cell in row %1 has the place %2")
+                            .arg(number)
+                            .arg(QString::fromUtf8(written.value())));
+        column = place->column;
+        const auto position = positionOf(row.cells, column);
+        // Of two cells in one place the first counts.
+        if (position == row.cells.end() || position->first != column)
+            row.cells.insert(position, {column, cell});
+    }
+    return true;
+}
+
+UsedRows WorksheetRows::usedRows() const
+{
+    const auto range = usedRange();
+    return range ? UsedRows{range->first.row, range->last.row - range->first.row + 1} : UsedRows{};
+}
+
+std::optional<CellRange> WorksheetRows::usedRange() const
+{
+    std::optional<CellRange> range;
+    for (const auto &[number, row] : m_rows) {
+        if (row.cells.empty())
+            continue;
+        const int first = row.cells.front().first;
+        const int last = row.cells.back().first;
+        if (!range)
+            range = CellRange{{number, first}, {number, last}};
+        range->first.column = std::min(range->first.column, first);
+        range->last = {number, std::max(range->last.column, last)};
+    }
+    return range;
+}
+
+pugi::xml_node WorksheetRows::row(int number) const
+{
+    const auto row = m_rows.find(number);
+    return row == m_rows.end() ? pugi::xml_node() : row->second.node;
+}
+
+pugi::xml_node WorksheetRows::cell(CellPlace place) const
+{
+    const auto row = m_rows.find(place.row);
+    if (row == m_rows.end())
+        return {};
+    const auto cell = positionOf(row->second.cells, place.column);
+    return cell == row->second.cells.end() || cell->first != place.column ? pugi::xml_node() : cell->second;
+}
+
+pugi::xml_node WorksheetRows::makeRow(int number)
+{
+    const auto next = m_rows.lower_bound(number);
+    if (next != m_rows.end() && next->first == number)
+        return next->second.node;
+    const std::string name = nameLike(m_data, "row");
+    pugi::xml_node row = next == m_rows.end() ? m_data.append_child(name.c_str())
+                                              : m_data.insert_child_before(name.c_str(), next->second.node);
+    row.append_attribute("r").set_value(number);
+    // A row without a number takes it from the one before, which may be the new one.
+    if (next != m_rows.end())
+        attributeOf(next->second.node, "r").set_value(next->first);
+    m_rows.emplace_hint(next, number, Row{row, {}});
+    return row;
+}
+
+pugi::xml_node WorksheetRows::makeCell(CellPlace place)
+{
+    pugi::xml_node node = makeRow(place.row);
+    Row &row = m_rows.find(place.row)->second;
+    const auto next = positionOf(row.cells, place.column);
+    if (next != row.cells.end() && next->first == place.column)
+        return next->second;
+    const std::string name = nameLike(node, "c");
+    pugi::xml_node cell;
+    if (next == row.cells.end()) {
+        cell = row.cells.empty() ? node.prepend_child(name.c_str())
+                                 : node.insert_child_after(name.c_str(), row.cells.back().second);
+    } else {
+        cell = node.insert_child_before(name.c_str(), next->second);
+        attributeOf(next->second, "r").set_value(placeText({place.row, next->first}).toLatin1().constData());
+    }
+    cell.append_attribute("r").set_value(placeText(place).toLatin1().constData());
+    node.remove_attribute("spans"); // a hint on the columns in use, no longer true
+    row.cells.insert(next, {place.column, cell});
+    return cell;
+}
+
+} // namespace sheets

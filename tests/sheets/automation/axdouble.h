@@ -1,0 +1,91 @@
+// Stands in for the automation interface's client objects: records what is asked and answers as a test says.
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+
+/// What all objects of one test share.
+struct AxRecord
+{
+    QStringList calls;                ///< "path what arguments", in order
+    QHash<QString, QVariant> answers; ///< values of properties by "path.name"
+    QString refused;                  ///< the call, by the same text, that ends in an exception
+    QString missing;                  ///< the name of an object that there is none of
+    bool isInstalled = true;
+    int alive = 0; ///< objects that are held
+
+    static AxRecord &instance()
+    {
+        static AxRecord record;
+        return record;
+    }
+};
+
+class QAxObject : public QObject
+{
+    Q_OBJECT
+public:
+    explicit QAxObject(const QString &control) : QAxObject(control, nullptr) {}
+
+    ~QAxObject() override { --AxRecord::instance().alive; }
+
+    [[nodiscard]] bool isNull() const { return !AxRecord::instance().isInstalled; }
+
+    QAxObject *querySubObject(const char *name, const QVariant &first = {}, const QVariant &second = {})
+    {
+        const QString label = labelOf(name, first, second);
+        note(label);
+        return AxRecord::instance().missing == name ? nullptr : new QAxObject(m_path + '.' + label, this);
+    }
+
+    QVariant dynamicCall(const char *function, const QVariant &first = {}, const QVariant &second = {})
+    {
+        note(labelOf(function, first, second));
+        return {};
+    }
+
+    bool setProperty(const char *name, const QVariant &value)
+    {
+        note(QString("%1 = %2").arg(name, value.toString()));
+        return true;
+    }
+
+    [[nodiscard]] QVariant property(const char *name)
+    {
+        note(name);
+        return AxRecord::instance().answers.value(m_path + '.' + name);
+    }
+
+Q_SIGNALS:
+    void exception(int code, const QString &source, const QString &description, const QString &help);
+
+private:
+    QAxObject(const QString &path, QAxObject *owner)
+        : QObject(owner), m_path(path), m_application(owner ? owner->m_application : this)
+    {
+        ++AxRecord::instance().alive;
+    }
+
+    static QString labelOf(const char *name, const QVariant &first, const QVariant &second)
+    {
+        QString label(name);
+        for (const QVariant &argument : {first, second}) {
+            if (argument.isValid())
+                label += ' ' + argument.toString();
+        }
+        return label;
+    }
+
+    void note(const QString &what)
+    {
+        const QString call = m_path + '.' + what;
+        AxRecord::instance().calls += call;
+        if (call == AxRecord::instance().refused)
+            Q_EMIT m_application->exception(7, "application", "no room", QString());
+    }
+
+    const QString m_path;
+    QAxObject *const m_application;
+};

@@ -1,0 +1,135 @@
+// The engine that drives the spreadsheet application asks it for the right things in the right order.
+#include "automation/axdouble.h"
+#include "sheets/applicationsheetengine.h"
+#include "sheets/qexcel.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QTemporaryFile>
+#include <QTest>
+
+using sheets::ApplicationSheetEngine;
+using sheets::CellRange;
+
+namespace {
+
+const QString app = QStringLiteral("Excel.Application");
+const QString book = app + ".ActiveWorkBook";
+const QString sheet = book + ".ActiveSheet";
+const QString firstSheet = book + ".WorkSheets.Item(int) 1";
+
+/// The calls since the last time.
+QStringList takeCalls()
+{
+    return std::exchange(AxRecord::instance().calls, {});
+}
+
+} // namespace
+
+class TestApplicationSheetEngine : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { AxRecord::instance() = AxRecord(); }
+
+    void makesAWorkbook()
+    {
+        QExcel excel(std::make_unique<ApplicationSheetEngine>());
+        QCOMPARE(takeCalls(), QStringList(app + ".DisplayAlerts = false"));
+        QVERIFY(excel.createWorkbook());
+        QCOMPARE(takeCalls(), (QStringList{app + ".Workbooks", app + ".Workbooks.Add", book,
+                                           book + ".WorkSheets", sheet}));
+        QVERIFY(excel.setCellText(3, 2, "007"));
+        const QString cell = sheet + ".Cells(int,int) 3 2";
+        QCOMPARE(takeCalls(),
+                 (QStringList{cell, cell + ".NumberFormat = @", cell + ".SetValue(const QString&) 007"}));
+        QVERIFY(excel.mergeCells({{1, 1}, {1, 19}}));
+        QVERIFY(excel.setWrapText({{1, 1}, {1, 19}}, true));
+        const QString range = sheet + ".Range(QVariant,QVariant) A1 S1";
+        QCOMPARE(takeCalls(), (QStringList{range, range + ".Merge()", range, range + ".WrapText = true"}));
+        QVERIFY(excel.setFontSize(CellRange::cell(2, 1), 12));
+        QVERIFY(excel.setBold(CellRange::cell(2, 1), true));
+        const QString single = sheet + ".Range(QVariant,QVariant) A2 A2";
+        QCOMPARE(takeCalls(), (QStringList{single, single + ".Font", single + ".Font.Size = 12", single,
+                                           single + ".Font", single + ".Font.Bold = true"}));
+        QVERIFY(excel.setRowHeight(1, 160));
+        QCOMPARE(takeCalls(), (QStringList{sheet + ".Rows(int) 1", sheet + ".Rows(int) 1.RowHeight = 160"}));
+        QVERIFY(excel.saveAs("/folder/device.xlsx"));
+        QVERIFY(excel.save());
+        const QString path = QDir::toNativeSeparators(QFileInfo("/folder/device.xlsx").absoluteFilePath());
+        QCOMPARE(takeCalls(), (QStringList{book + ".SaveAs(const QString&) " + path, book + ".Save()"}));
+        excel.quit();
+        QCOMPARE(takeCalls(), QStringList(app + ".Quit()"));
+        QCOMPARE(AxRecord::instance().alive, 0); // or the application would stay in memory
+        QVERIFY(excel.createWorkbook());         // it is started anew
+    }
+
+    void readsAWorkbook()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        auto &record = AxRecord::instance();
+        record.answers = {{firstSheet + ".UsedRange.Row", 2}, {firstSheet + ".UsedRange.Rows.Count", 40}};
+        QExcel excel(std::make_unique<ApplicationSheetEngine>());
+        takeCalls();
+        QVERIFY(excel.open(file.fileName()));
+        QCOMPARE(takeCalls(), (QStringList{app + ".Workbooks",
+                                           app + ".Workbooks.Open(const QString&) " +
+                                               QDir::toNativeSeparators(file.fileName()),
+                                           book, book + ".WorkSheets", sheet, firstSheet}));
+        QCOMPARE(excel.usedRowCount(), 40);
+        QCOMPARE(excel.firstUsedRow(), 2);
+        const QList<std::pair<QVariant, QString>> values = {
+            {"text", "text"}, {37777.0, "37777"}, {0.1 + 0.2, "0.3"},
+            {true, "TRUE"},   {QVariant(), ""},   {QDateTime({2024, 2, 29}, {12, 0}), "45351.5"}};
+        for (const auto &[value, text] : values) {
+            record.answers[firstSheet + ".Cells(int,int) 3 1.Value"] = value;
+            QCOMPARE(excel.cellText(3, 1), text);
+        }
+        const int alive = record.alive;
+        (void)excel.cellText(3, 1);
+        QCOMPARE(record.alive, alive); // no object is left over for each cell
+    }
+
+    void reportsRefusals_data()
+    {
+        QTest::addColumn<QString>("refused");
+        QTest::addColumn<QString>("missing");
+        const QString cell = sheet + ".Cells(int,int) 1 1";
+        for (const QString &call :
+             {app + ".Workbooks.Add", cell, cell + ".NumberFormat = @", cell + ".SetValue(const QString&) x",
+              book + ".SaveAs(const QString&) /x.xlsx"})
+            QTest::newRow(qPrintable(call)) << call << QString();
+        for (const char *name :
+             {"Workbooks", "ActiveWorkBook", "WorkSheets", "ActiveSheet", "Cells(int,int)"})
+            QTest::newRow(name) << QString() << QString(name);
+    }
+
+    void reportsRefusals()
+    {
+        QFETCH(QString, refused);
+        QFETCH(QString, missing);
+        AxRecord::instance().refused = refused;
+        AxRecord::instance().missing = missing;
+        QExcel excel(std::make_unique<ApplicationSheetEngine>());
+        QVERIFY(!(excel.createWorkbook() && excel.setCellText(1, 1, "x") && excel.saveAs("/x.xlsx")));
+        QVERIFY2(excel.errorText().contains(missing.isEmpty() ? QString("no room") : missing),
+                 qPrintable(excel.errorText()));
+        excel.quit();
+        QCOMPARE(AxRecord::instance().alive, 0);
+    }
+
+    void noticesThatThereIsNoApplication()
+    {
+        AxRecord::instance().isInstalled = false;
+        auto engine = std::make_unique<ApplicationSheetEngine>();
+        QVERIFY(!engine->isAvailable());
+        QVERIFY(!engine->errorText().isEmpty());
+        QExcel excel(std::move(engine));
+        QVERIFY(!excel.createWorkbook());
+        QVERIFY(!excel.setCellText(1, 1, "x"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestApplicationSheetEngine)
+#include "tst_applicationsheetengine.moc"

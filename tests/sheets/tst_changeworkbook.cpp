@@ -1,0 +1,262 @@
+// A workbook that is opened and changed keeps everything else as it was.
+#include "sheets/filesheetengine.h"
+#include "sheets/qexcel.h"
+#include "workbookfiles.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using sheets::CellRange;
+
+namespace {
+
+const QString sheetPart = QStringLiteral("xl/worksheets/sheet1.xml");
+const QString stylesPart = QStringLiteral("xl/styles.xml");
+
+/// The small workbook with styles: look 1 is bold in column B, look 2 text.
+Parts styledWorkbook(const QByteArray &rows)
+{
+    Parts parts = smallWorkbook(rows);
+    parts["xl/_rels/workbook.xml.rels"].replace(
+        "</Relationships>",
+        "<Relationship Id=\"rId1\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/"
+        "relationships/styles\" Target=\"styles.xml\"/></Relationships>");
+    parts[stylesPart] =
+        "<styleSheet xmlns=\"" + mainNamespace +
+        "\"><fonts count=\"2\"><font><sz val=\"10\"/></font>"
+        "<font><b/><sz val=\"10\"/><name val=\"Arial\"/></font></fonts><cellXfs count=\"3\">"
+        "<xf numFmtId=\"0\" fontId=\"0\"/><xf numFmtId=\"0\" fontId=\"1\"><protection locked=\"0\"/></xf>"
+        "<xf numFmtId=\"49\" fontId=\"0\"/></cellXfs></styleSheet>";
+    return parts;
+}
+
+} // namespace
+
+class TestChangeWorkbook : public QObject
+{
+    Q_OBJECT
+    QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath("changed.xlsx");
+
+    /// Opens the workbook of the parts, lets `change` change it, and saves it. The parts of what was saved.
+    template<typename Change>
+    Parts changed(const Parts &parts, const Change &change)
+    {
+        QExcel excel(std::make_unique<sheets::FileSheetEngine>());
+        if (!writeArchive(m_path, parts) || !excel.open(m_path) || !change(excel) || !excel.save()) {
+            qWarning().noquote() << excel.errorText();
+            return {};
+        }
+        return readArchive(m_path);
+    }
+
+private Q_SLOTS:
+    void writesTexts_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QByteArray>("rows");
+        const QByteArray text = "t=\"inlineStr\"><is><t xml:space=\"preserve\">n&lt;w</t></is></c>";
+        const QByteArray plainText =
+            QByteArray(text).insert(text.indexOf('>'), " s=\"3\""); // had no look before
+        QTest::newRow("over a number") << 2 << 2
+                                       << "<row r='2' spans='2:4'><c r='B2' s='2' " + text +
+                                              "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>";
+        QTest::newRow("before all rows")
+            << 1 << 1
+            << "<row r='1'><c r='A1' " + plainText +
+                   "</row><row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
+                   "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>";
+        QTest::newRow("after all rows")
+            << 9 << 2
+            << "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c><c r='D2' t='b'>"
+               "<v>1</v></c></row><row><c><v>5</v></c></row><row r='9'><c r='B9' s='3' " +
+                   text + "</row>";
+        QTest::newRow("between cells") << 2 << 3
+                                       << "<row r='2'><c r='B2' s='2'><v>4</v></c><c r='C2' " + plainText +
+                                              "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>";
+        QTest::newRow("after a cell without a place")
+            << 3 << 2
+            << "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
+               "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c>"
+               "<c r='B3' s='3' " +
+                   text + "</row>";
+    }
+
+    void writesTexts()
+    {
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(QByteArray, rows);
+        Parts parts = styledWorkbook("<row r=\"2\" spans=\"2:4\"><c r=\"B2\" s=\"2\"><v>4</v></c>"
+                                     "<c r=\"D2\" t=\"b\"><v>1</v></c></row><row><c><v>5</v></c></row>");
+        parts[sheetPart].replace("<sheetData>",
+                                 "<cols><col min=\"2\" max=\"2\" style=\"1\"/></cols><sheetData>");
+        Parts after = changed(parts, [&](QExcel &excel) {
+            return excel.setCellText(row, column, "n<w") && excel.cellText(row, column) == "n<w";
+        });
+        QByteArray expected = parts[sheetPart];
+        const qsizetype from = expected.indexOf("<row");
+        expected.replace(from, expected.indexOf("</sheetData>") - from, rows.replace('\'', '"'));
+        // Look 2 is for texts already; the others get one that is added.
+        if (!after.empty() && !after[sheetPart].contains("s=\"3\""))
+            QCOMPARE(after[stylesPart], parts[stylesPart]);
+        QCOMPARE(after[sheetPart], expected);
+        for (const auto &[name, bytes] : parts) {
+            if (name != sheetPart && name != stylesPart)
+                QCOMPARE(after[name], bytes);
+        }
+    }
+
+    void keepsOtherPartsPacked()
+    {
+        Parts parts = styledWorkbook("<row r=\"1\"><c r=\"A1\" s=\"2\"/></row>");
+        parts["xl/media/picture.png"] = QByteArray("\x89PNG\r\n\0\x1A", 8).repeated(1000);
+        parts["customXml/item1.xml"] = "<any>thing</any>\r\n";
+        QVERIFY(writeArchive(m_path, parts));
+        QStringList before = packedParts(m_path);
+        changed(parts, [](QExcel &excel) { return excel.setCellText(1, 1, "x"); });
+        QStringList after = packedParts(m_path);
+        const auto isSheet = [](const QString &line) {
+            return line.startsWith(sheetPart);
+        };
+        QCOMPARE(before.removeIf(isSheet), 1);
+        QCOMPARE(after.removeIf(isSheet), 1);
+        QCOMPARE(after, before);
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList("changed.xlsx"));
+    }
+
+    void savesAFileThatWasOnlyRead()
+    {
+        const Parts parts = styledWorkbook("<row><c><v>1</v></c></row>");
+        QVERIFY(writeArchive(m_path, parts));
+        QExcel excel(std::make_unique<sheets::FileSheetEngine>());
+        QVERIFY(excel.open(m_path));
+        const QString copy = m_folder.filePath("copy.xlsx");
+        QVERIFY(excel.saveAs(copy));
+        QFile first(m_path);
+        QFile second(copy);
+        QVERIFY(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
+        QCOMPARE(second.readAll(), first.readAll());
+        QVERIFY(second.remove());
+    }
+
+    void changesLooks()
+    {
+        Parts after =
+            changed(styledWorkbook("<row r=\"1\"><c r=\"A1\" s=\"1\"><v>1</v></c></row>"), [](QExcel &excel) {
+                return excel.setBold(CellRange::cell(1, 1), true) && // is so already
+                       excel.setFontSize({{1, 1}, {1, 2}}, 12.5) &&
+                       excel.setWrapText({{1, 1}, {1, 2}}, true) &&
+                       excel.setBold(CellRange::cell(1, 1), false) && excel.setRowHeight(1, 30.5) &&
+                       excel.setRowHeight(3, 15);
+            });
+        QCOMPARE(
+            after[sheetPart].mid(after[sheetPart].indexOf("<sheetData>")),
+            "<sheetData><row r=\"1\" ht=\"30.5\" customHeight=\"1\"><c r=\"A1\" s=\"7\"><v>1</v></c>"
+            "<c r=\"B1\" s=\"6\"/></row><row r=\"3\" ht=\"15\" customHeight=\"1\"/></sheetData></worksheet>");
+        const QByteArray styles = after[stylesPart];
+        QVERIFY2(styles.contains("<fonts count=\"5\">") && styles.contains("<cellXfs count=\"8\">"),
+                 styles.constData());
+        QVERIFY2(styles.contains("<font><sz val=\"12.5\"/><name val=\"Arial\"/></font></fonts>"),
+                 styles.constData());
+        QVERIFY2(styles.endsWith(
+                     "<xf numFmtId=\"0\" fontId=\"4\" applyFont=\"1\" applyAlignment=\"1\">"
+                     "<alignment wrapText=\"1\"/><protection locked=\"0\"/></xf></cellXfs></styleSheet>"),
+                 styles.constData());
+    }
+
+    void beginsAStyleSheet()
+    {
+        Parts after =
+            changed(smallWorkbook(""), [](QExcel &excel) { return excel.setCellText(1, 1, "007"); });
+        QVERIFY(after[stylesPart].contains("numFmtId=\"49\""));
+        QVERIFY(after["[Content_Types].xml"].contains("\"/xl/styles.xml\""));
+        const QByteArray relations = after["xl/_rels/workbook.xml.rels"];
+        QVERIFY2(relations.contains("relationships/styles\" Target=\"styles.xml\""), relations.constData());
+        QCOMPARE(relations.count("Id=\"rId1\""), 1);
+    }
+
+    void mergesAtTheRightPlace()
+    {
+        Parts parts =
+            smallWorkbook("<row r=\"1\"><c r=\"A1\"><v>1</v></c><c r=\"B1\" s=\"0\"><v>2</v></c></row>");
+        parts[sheetPart].replace("</sheetData>",
+                                 "</sheetData><autoFilter ref=\"A1:B1\"/><pageMargins left=\"1\"/>");
+        Parts after = changed(parts, [](QExcel &excel) {
+            return excel.mergeCells({{1, 1}, {1, 3}}) && excel.mergeCells({{5, 1}, {6, 1}}) &&
+                   !excel.mergeCells({{1, 3}, {2, 3}});
+        });
+        QVERIFY2(
+            after[sheetPart].contains(
+                "<c r=\"A1\"><v>1</v></c><c r=\"B1\" s=\"0\"/></row></sheetData><autoFilter ref=\"A1:B1\"/>"
+                "<mergeCells count=\"2\"><mergeCell ref=\"A1:C1\"/><mergeCell ref=\"A5:A6\"/></mergeCells>"),
+            after[sheetPart].constData());
+    }
+
+    void takesFormulasOutOfTheCalculationChain()
+    {
+        Parts parts = styledWorkbook(
+            "<row r=\"1\"><c r=\"A1\" s=\"2\"><f>1+1</f><v>2</v></c>"
+            "<c r=\"B1\" s=\"2\"><f t=\"shared\" ref=\"B1:B2\" si=\"0\">A1</f><v>2</v></c></row>");
+        parts["xl/calcChain.xml"] = "<calcChain xmlns=\"" + mainNamespace + "\"><c r=\"A1\"/></calcChain>";
+        parts["xl/_rels/workbook.xml.rels"]
+            .replace("sharedStrings\"", "calcChain\"")
+            .replace("/xl/sharedStrings.xml", "calcChain.xml");
+        parts["[Content_Types].xml"].replace("/xl/sharedStrings", "/xl/calcChain");
+        Parts after = changed(parts, [](QExcel &excel) {
+            return !excel.setCellText(1, 2, "x") && !excel.mergeCells({{1, 1}, {1, 2}}) && // another needs it
+                   excel.cellText(1, 2) == "2" && excel.setCellText(1, 1, "x");
+        });
+        QVERIFY(!after.empty() && !after.contains("xl/calcChain.xml"));
+        QVERIFY(!after["[Content_Types].xml"].contains("calcChain"));
+        QVERIFY(!after["xl/_rels/workbook.xml.rels"].contains("calcChain"));
+    }
+
+    void changesSheetsInADialectWithPrefixes()
+    {
+        Parts parts = smallWorkbook("");
+        parts[sheetPart] = "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\" "
+                           "standalone=\"yes\"?>\r\n<x:worksheet xmlns:x=\"" +
+                           mainNamespace +
+                           "\"><x:dimension ref=\"B2\"/><x:sheetData><x:row r=\"2\"><x:c r=\"B2\"><x:v>"
+                           "1</x:v></x:c></x:row></x:sheetData></x:worksheet>";
+        Parts after = changed(parts, [](QExcel &excel) {
+            return excel.setCellText(3, 1, "") && excel.setCellText(2, 3, " y") &&
+                   excel.mergeCells({{4, 1}, {4, 2}});
+        });
+        QCOMPARE(
+            after[sheetPart],
+            "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><x:worksheet xmlns:x=\"" +
+                mainNamespace +
+                "\"><x:dimension ref=\"A2:C3\"/><x:sheetData><x:row r=\"2\"><x:c r=\"B2\"><x:v>1</x:v></x:c>"
+                "<x:c r=\"C2\" t=\"inlineStr\" s=\"1\"><x:is><x:t xml:space=\"preserve\"> "
+                "y</x:t></x:is></x:c>"
+                "</x:row><x:row r=\"3\"><x:c r=\"A3\" s=\"1\"/></x:row></x:sheetData>"
+                "<x:mergeCells count=\"1\"><x:mergeCell ref=\"A4:B4\"/></x:mergeCells></x:worksheet>");
+    }
+
+    void changesEverySheet()
+    {
+        Parts parts = styledWorkbook("<row><c><v>1</v></c></row>");
+        parts["xl/worksheets/sheet2.xml"] = parts[sheetPart];
+        parts["xl/workbook.xml"].replace("<sheets>",
+                                         "<sheets><sheet name=\"Two\" sheetId=\"2\" r:id=\"r9\"/>");
+        parts["xl/_rels/workbook.xml.rels"].replace(
+            "<Relationship Id=\"r7\"",
+            "<Relationship Id=\"r9\" Type=\"x/worksheet\" Target=\"worksheets/sheet2.xml\"/>"
+            "<Relationship Id=\"r7\"");
+        Parts after = changed(parts, [](QExcel &excel) {
+            return excel.setCellText(1, 1, "first") && excel.selectSheet(2) && excel.cellText(1, 1) == "1" &&
+                   excel.setCellText(1, 1, "second") && !excel.selectSheet(3) && !excel.selectSheet(0) &&
+                   excel.cellText(1, 1) == "second" && excel.selectSheet(1) &&
+                   excel.cellText(1, 1) == "first";
+        });
+        QVERIFY(after["xl/worksheets/sheet2.xml"].contains(">first<")); // the order is that of the workbook
+        QVERIFY(after[sheetPart].contains(">second<"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestChangeWorkbook)
+#include "tst_changeworkbook.moc"

@@ -1,0 +1,166 @@
+// A workbook that is begun, filled and saved is read back as it was meant.
+#include "sheets/filesheetengine.h"
+#include "sheets/qexcel.h"
+#include "workbookfiles.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using sheets::CellRange;
+
+namespace {
+
+std::unique_ptr<sheets::SheetEngine> fileEngine()
+{
+    return std::make_unique<sheets::FileSheetEngine>();
+}
+
+} // namespace
+
+class TestNewWorkbook : public QObject
+{
+    Q_OBJECT
+    QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath(QStringLiteral("设备.xlsx"));
+
+private Q_SLOTS:
+    void keepsTexts_data()
+    {
+        QTest::addColumn<int>("lastMergedRow"); // rows that are merged or not take different ways
+        QTest::newRow("nothing merged") << 0;
+        QTest::newRow("merged in one row") << 1;
+        QTest::newRow("merged across rows") << 2;
+    }
+
+    void keepsTexts()
+    {
+        QFETCH(int, lastMergedRow);
+        const QStringList texts = {"007",
+                                   "=1+1",
+                                   "  spaces  ",
+                                   "two\nlines\r\n",
+                                   "<&>\"'",
+                                   "摄像机 😀",
+                                   "_x0041_",
+                                   "1E5",
+                                   "TRUE",
+                                   QString(32'767, QChar(u'长')),
+                                   "http://10.0.0.1",
+                                   "\x01"};
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        QVERIFY(excel.setCellText(1, 2, "hidden by the merged cell"));
+        QVERIFY(excel.setCellText(1, 1, "title"));
+        if (lastMergedRow > 0)
+            QVERIFY(excel.mergeCells({{1, 1}, {lastMergedRow, 19}}));
+        // From the last to the first: the order does not matter.
+        for (int i = int(texts.size()); i-- > 0;)
+            QVERIFY2(excel.setCellText(3 + i, 1 + i % 3, texts[i]), qPrintable(excel.errorText()));
+        QVERIFY2(excel.saveAs(m_path), qPrintable(excel.errorText()));
+
+        QExcel reader(fileEngine());
+        QVERIFY2(reader.open(m_path), qPrintable(reader.errorText()));
+        QCOMPARE(reader.firstUsedRow(), 1);
+        QCOMPARE(reader.usedRowCount(), 2 + int(texts.size()));
+        QCOMPARE(reader.cellText(1, 1), "title");
+        QCOMPARE(reader.cellText(1, 2), lastMergedRow > 0 ? "" : "hidden by the merged cell");
+        for (int i = 0; i < texts.size(); ++i)
+            QCOMPARE(reader.cellText(3 + i, 1 + i % 3), texts[i]);
+        QCOMPARE(reader.cellText(500, 500), "");
+        const bool isMerged = readArchive(m_path)["xl/worksheets/sheet1.xml"].contains(
+            "<mergeCell ref=\"A1:S" + QByteArray::number(lastMergedRow) + "\"/>");
+        QCOMPARE(isMerged, lastMergedRow > 0);
+    }
+
+    void keepsLooks()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        QVERIFY(excel.setBold({{2, 1}, {2, 2}}, true));
+        QVERIFY(excel.setCellText(2, 1, "a"));
+        QVERIFY(excel.setCellText(2, 2, "b"));
+        QVERIFY(excel.setBold(CellRange::cell(2, 2), false));
+        QVERIFY(excel.setWrapText(CellRange::cell(1, 1), true));
+        QVERIFY(excel.setFontSize(CellRange::cell(1, 1), 13.5));
+        QVERIFY(excel.setRowHeight(1, 160.25));
+        QVERIFY(excel.saveAs(m_path));
+        Parts parts = readArchive(m_path);
+        const QByteArray styles = parts["xl/styles.xml"];
+        QCOMPARE(styles.count("<b/>"), 1);
+        QCOMPARE(styles.count("<sz val=\"13.5\"/>"), 1);
+        QCOMPARE(styles.count("wrapText=\"1\""), 1);
+        QVERIFY(styles.contains("formatCode=\"@\""));
+        QVERIFY(parts["xl/worksheets/sheet1.xml"].contains("ht=\"160.25\" customHeight=\"1\""));
+    }
+
+    void savesAgainAfterMoreChanges()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        QVERIFY(!excel.save()); // there is no path yet
+        QVERIFY(excel.setCellText(1, 1, "one"));
+        QVERIFY(excel.saveAs(m_path));
+        QVERIFY(excel.setCellText(1, 1, "two"));
+        QVERIFY(excel.save());
+        QExcel reader(fileEngine());
+        QVERIFY(reader.open(m_path));
+        QCOMPARE(reader.cellText(1, 1), "two");
+    }
+
+    void refusesWhatNoSheetHas()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(!excel.setCellText(1, 1, "x")); // there is no workbook yet
+        QVERIFY(!excel.cellText(1, 1).has_value());
+        QCOMPARE(excel.usedRowCount(), -1);
+        QVERIFY(!excel.saveAs(m_path));
+        QVERIFY(excel.createWorkbook());
+        QCOMPARE(excel.usedRowCount(), 0);
+        QVERIFY(excel.setCellText(1'048'576, 16'384, "x"));
+        for (const auto &[row, column] : {std::pair(0, 1), {1, 0}, {-1, 1}, {1'048'577, 1}, {1, 16'385}}) {
+            QVERIFY(!excel.setCellText(row, column, "x"));
+            QVERIFY(!excel.cellText(row, column).has_value());
+        }
+        QVERIFY(!excel.setCellText(1, 1, QString(32'768, QChar(u'x'))));
+        QVERIFY(!excel.mergeCells({{2, 2}, {1, 1}}));
+        QVERIFY(!excel.setBold({{1, 1}, {1'048'576, 16'384}}, true));
+        QVERIFY(!excel.setFontSize(CellRange::cell(1, 1), std::numeric_limits<double>::quiet_NaN()));
+        QVERIFY(!excel.setRowHeight(1, 410));
+        QVERIFY(!excel.selectSheet(2));
+        QVERIFY(!excel.errorText().isEmpty());
+        excel.quit();
+        QVERIFY(!excel.setCellText(1, 1, "x"));
+    }
+
+    void mergesNoCellTwice()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        QVERIFY(excel.mergeCells({{1, 1}, {3, 3}}));
+        QVERIFY(excel.mergeCells({{1, 1}, {3, 3}})); // the same once more changes nothing
+        QVERIFY(!excel.mergeCells({{3, 3}, {4, 4}}));
+        QVERIFY(excel.mergeCells(CellRange::cell(2, 2)));
+        QVERIFY(excel.mergeCells({{4, 1}, {4, 3}}));
+        QVERIFY2(excel.saveAs(m_path), qPrintable(excel.errorText()));
+        QCOMPARE(readArchive(m_path)["xl/worksheets/sheet1.xml"].count("<mergeCell "), 2);
+    }
+
+    void leavesTheFileWhenItCannotBeWritten()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        QVERIFY(!excel.saveAs(m_folder.filePath("no/such/folder.xlsx")));
+        QVERIFY(!excel.saveAs(m_folder.path()));
+        QVERIFY(!excel.saveAs(QString()));
+        QVERIFY(!excel.save()); // a path that failed is not kept
+        QVERIFY(excel.saveAs(m_path));
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), 1); // nothing is left beside it
+    }
+};
+
+QTEST_GUILESS_MAIN(TestNewWorkbook)
+#include "tst_newworkbook.moc"

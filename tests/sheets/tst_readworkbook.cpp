@@ -1,0 +1,111 @@
+// What other programs write is read: every kind of cell, and the freedoms of the format.
+#include "sheets/filesheetengine.h"
+#include "sheets/qexcel.h"
+#include "workbookfiles.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestReadWorkbook : public QObject
+{
+    Q_OBJECT
+    QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath("read.xlsx");
+
+private Q_SLOTS:
+    void readsCells_data()
+    {
+        QTest::addColumn<QByteArray>("cell");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char *name, const char *cell, const char *text) {
+            QTest::newRow(name) << QByteArray(cell) << QString(text);
+        };
+        row("empty", "<c r='A1' s='3'/>", "");
+        row("shared", "<c r='A1' t='s'><v>0</v></c>", "plain & simple");
+        row("shared, rich, without its phonetic hint", "<c r='A1' t='s'><v>1</v></c>", "two runs");
+        row("shared, spaces kept", "<c r='A1' t='s'><v>2</v></c>", " x ");
+        row("shared, with an escape", "<c r='A1' t='s'><v>3</v></c>", "a\rb");
+        row("shared, empty", "<c r='A1' t='s'><v>4</v></c>", "");
+        row("shared, not there", "<c r='A1' t='s'><v>5</v></c>", "");
+        row("shared, no number", "<c r='A1' t='s'><v>x</v></c>", "");
+        row("inline", "<c r='A1' t='inlineStr'><is><t>in <![CDATA[<line>]]></t></is></c>", "in <line>");
+        row("inline, rich", "<c r='A1' t='inlineStr'><is><r><t>a</t></r><r><rPr/><t>b</t></r></is></c>",
+            "ab");
+        row("whole number", "<c r='A1'><v>37777</v></c>", "37777");
+        row("number of another type", "<c r='A1' t='n'><v>-0.5</v></c>", "-0.5");
+        row("number with noise", "<c r='A1'><v>0.30000000000000004</v></c>", "0.3");
+        row("large number", "<c r='A1'><v>123456789012345</v></c>", "123456789012345");
+        row("number as a power", "<c r='A1'><v>1.5E3</v></c>", "1500");
+        row("negative zero", "<c r='A1'><v>-0</v></c>", "0");
+        row("true", "<c r='A1' t='b'><v>1</v></c>", "TRUE");
+        row("false", "<c r='A1' t='b'><v>0</v></c>", "FALSE");
+        row("error", "<c r='A1' t='e'><v>#N/A</v></c>", "#N/A");
+        row("date", "<c r='A1' t='d'><v>2024-02-29</v></c>", "2024-02-29");
+        row("formula", "<c r='A1'><f>1+1</f><v>2</v></c>", "2");
+        row("formula of a text", "<c r='A1' t='str'><f>\"a\"</f><v>a_x005F_x0041_</v></c>", "a_x0041_");
+        row("formula never worked out", "<c r='A1'><f>1+1</f></c>", "");
+        row("entity of the document's own", "<c r='A1' t='str'><v>&own;</v></c>", "&own;");
+    }
+
+    void readsCells()
+    {
+        QFETCH(QByteArray, cell);
+        const QByteArray strings =
+            "<si><t>plain &amp; simple</t></si>"
+            "<si><r><rPr><b/></rPr><t xml:space='preserve'>two </t></r><r><t>runs</t></r>"
+            "<rPh sb='0' eb='1'><t>hint</t></rPh><phoneticPr fontId='1'/></si>"
+            "<si><t xml:space='preserve'> x </t></si><si><t>a_x000D_b</t></si><si/>";
+        QVERIFY(writeArchive(m_path, smallWorkbook("<row r='1'>" + cell + "</row>", strings)));
+        QExcel excel(std::make_unique<sheets::FileSheetEngine>());
+        QVERIFY2(excel.open(m_path), qPrintable(excel.errorText()));
+        QTEST(excel.cellText(1, 1).value_or("nothing"), "text");
+    }
+
+    void findsCellsInAnyDress_data()
+    {
+        QTest::addColumn<QString>("change"); // of the small workbook's parts: "part|from|to"
+        QTest::newRow("as usual") << "||";
+        QTest::newRow("rows and cells without numbers") << "xl/worksheets/sheet1.xml| r='[A-Z]*[0-9]+'|";
+        QTest::newRow("a prefix") << "xl/worksheets/sheet1.xml|<(/?)(?=[a-z])|<\\1x:";
+        QTest::newRow("white space and a comment") << "xl/worksheets/sheet1.xml|(<row|<c)|<!-- c -->\n \\1";
+        QTest::newRow("a document type") << "xl/worksheets/sheet1.xml|^|<!DOCTYPE x [<!ENTITY own 'y'>]>";
+        QTest::newRow("the strict dialect")
+            << "xl/_rels/workbook.xml.rels|http://schemas.openxmlformats.org/"
+               "officeDocument/2006|http://purl.oclc.org/ooxml/officeDocument";
+        QTest::newRow("absolute target") << "xl/_rels/workbook.xml.rels|\"worksheets/|\"/xl/worksheets/";
+        QTest::newRow("target with steps")
+            << "xl/_rels/workbook.xml.rels|\"worksheets/|\"../xl/./worksheets/";
+        QTest::newRow("other capitals") << "xl/_rels/workbook.xml.rels|sheet1|Sheet1";
+        QTest::newRow("another prefix of relations") << "xl/workbook.xml|([ :])r([:=])|\\1rel\\2";
+        QTest::newRow("a chart before it") << "xl/workbook.xml|<sheets>|<sheets><sheet name='C' r:id='r8'/>";
+    }
+
+    void findsCellsInAnyDress()
+    {
+        QFETCH(QString, change);
+        Parts parts = smallWorkbook("<row r='1'/><row r='2'><c r='A2'/><c r='B2'><v>5</v></c></row>"
+                                    "<row r='3'><c r='A3' t='str'><v>end</v></c></row>");
+        const QStringList words = change.split('|', Qt::KeepEmptyParts);
+        if (!words[0].isEmpty()) {
+            QString text = parts[words[0]];
+            const QString before = text;
+            text.replace(QRegularExpression(words.size() > 3 ? words[1] + '|' + words[2] : words[1]),
+                         words.last());
+            QVERIFY(text != before);
+            parts[words[0]] = text.replace("xmlns=\"http://schemas.openxmlformats.org/spreadsheetml",
+                                           text.contains("<x:") ? "xmlns:x=\"http://x" : "xmlns=\"http://x")
+                                  .toUtf8();
+        }
+        QVERIFY(writeArchive(m_path, parts));
+        QExcel excel(std::make_unique<sheets::FileSheetEngine>());
+        QVERIFY2(excel.open(m_path), qPrintable(excel.errorText()));
+        QCOMPARE(excel.firstUsedRow(), 2); // rows without cells do not count
+        QCOMPARE(excel.usedRowCount(), 2);
+        QCOMPARE(excel.cellText(2, 2), "5");
+        QCOMPARE(excel.cellText(3, 1), "end");
+        QCOMPARE(excel.cellText(3, 2), "");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestReadWorkbook)
+#include "tst_readworkbook.moc"
