@@ -143,7 +143,7 @@ bool loadTranslation(QTranslator &translator, const QString &path)
         qCWarning(logApp) << "The translation" << path << "cannot be read:" << file.errorString();
         return false;
     }
-    constexpr qint64 maximumSize = 64 * 1024 * 1024;
+    constexpr qint64 maximumSize = qint64{64} * 1024 * 1024;
     const QByteArray bytes = file.size() <= maximumSize ? file.readAll() : QByteArray();
     if (!isSoundTranslation(bytes) || !translator.load(path)) {
         qCWarning(logApp) << "The translation" << path << "is damaged and not used";

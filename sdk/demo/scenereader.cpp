@@ -277,7 +277,7 @@ std::optional<Scene> SceneReader::read(const QByteArray &json, QString *error)
 }
 
 /// Far more than 20,000 devices need, in bytes.
-constexpr qint64 maximumSceneFileSize = 256 * 1024 * 1024;
+constexpr qint64 maximumSceneFileSize = qint64{256} * 1024 * 1024;
 
 std::optional<Scene> SceneReader::readFile(const QString &path, QString *error)
 {
