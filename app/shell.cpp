@@ -118,6 +118,7 @@ void Shell::registerBackEnds()
         };
         return std::make_shared<CDeviceDH>(store, libraries, searchSettings);
     });
+    CDeviceFactory::registerP2PAgent({.library = m_libraries.p2pAgent, .handler = &CDeviceDH::agentMessage});
     CDeviceFactory::registerBackEnd(QStringLiteral("hik"),
                                     [store] { return std::make_shared<CDeviceHik>(store); });
     CDeviceFactory::registerBackEnd(QStringLiteral("ol"),

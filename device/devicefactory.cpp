@@ -1,6 +1,9 @@
 #include "device/devicefactory.h"
 
+#include "device/devicerow.h"
 #include "device/logging.h"
+#include "device/loginresult.h"
+#include "device/passwordstrength.h"
 
 #include <QCoreApplication>
 #include <QMetaMethod>
@@ -15,6 +18,12 @@ CDeviceFactory::BackEndCreators &registeredBackEnds()
 {
     static CDeviceFactory::BackEndCreators creators;
     return creators;
+}
+
+CDeviceFactory::P2PAgent &registeredP2PAgent()
+{
+    static CDeviceFactory::P2PAgent agent;
+    return agent;
 }
 
 /// The factory's name for a signal of a back end: "signalCDeviceXxx" is "signalXxx"; other names are the
@@ -39,10 +48,15 @@ void CDeviceFactory::registerBackEnd(const QString &family, const BackEndCreator
     registeredBackEnds().insert(family, creator);
 }
 
+void CDeviceFactory::registerP2PAgent(const P2PAgent &agent)
+{
+    registeredP2PAgent() = agent;
+}
+
 CDeviceFactory *CDeviceFactory::getinstance()
 {
     if (!instance)
-        instance = new CDeviceFactory(registeredBackEnds());
+        instance = new CDeviceFactory(registeredBackEnds(), registeredP2PAgent());
     return instance;
 }
 
@@ -51,9 +65,11 @@ void CDeviceFactory::deleteInstance()
     delete instance;
     instance = nullptr;
     registeredBackEnds().clear();
+    registeredP2PAgent() = {};
 }
 
-CDeviceFactory::CDeviceFactory(const BackEndCreators &creators)
+CDeviceFactory::CDeviceFactory(const BackEndCreators &creators, const P2PAgent &agent)
+    : m_p2pPorts(agent.library, P2PSettings::read(QStringLiteral("./p2p.ini")), agent.handler)
 {
     for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
         const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
@@ -61,6 +77,8 @@ CDeviceFactory::CDeviceFactory(const BackEndCreators &creators)
         m_backEnds.insert(creator.key(), backEnd);
     }
 }
+
+CDeviceFactory::CDeviceFactory(const BackEndCreators &creators) : CDeviceFactory(creators, P2PAgent()) {}
 
 CDeviceFactory::~CDeviceFactory() = default;
 
@@ -163,23 +181,38 @@ void CDeviceFactory::setInitAccount(const QString &family, const QString &mac, c
     forward(family, &CDeviceBase::setInitAccount, mac, account, password);
 }
 
-int CDeviceFactory::setAddDevice(const QString &, const QString &, const QString &, const QString &,
-                                 const QString &, int)
+int CDeviceFactory::setAddDevice(const QString &family, const QString &deviceId, const QString &,
+                                 const QString &, const QString &port, int p2pPort)
 {
-    return 0;
+    return m_backEnds.contains(family) ? m_p2pPorts.portFor(deviceId, port.toInt(), p2pPort) : 0;
 }
 
-void CDeviceFactory::setPluginPort(const QString &, const QString &, int) {}
+void CDeviceFactory::setPluginPort(const QString &family, const QString &mac, int devp2pPort)
+{
+    updataDeviceInfo(family, DeviceRowKey::devp2pPort, QString::number(devp2pPort), mac, QString());
+}
 
 void CDeviceFactory::setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision)
 {
+    releaseP2PPortsOf(family, mac);
     forward(family, &CDeviceBase::setDeleteDevice, mac, ipvision);
 }
 
 void CDeviceFactory::setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
                                           const QString &ipversion)
 {
+    for (auto mac = macs.cbegin(); mac != macs.cend(); ++mac)
+        releaseP2PPortsOf(family, mac.key());
     forward(family, &CDeviceBase::setBatchDeleteDevice, macs, ipversion);
+}
+
+void CDeviceFactory::releaseP2PPortsOf(const QString &family, const QString &mac)
+{
+    const QVariantMap row = forward(family, &CDeviceBase::getDeviceDetail, mac);
+    if (row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
+        return;
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
+    m_p2pPorts.releaseDevice(QStringView(ipport).mid(ipport.lastIndexOf(QLatin1Char(':')) + 1).toInt());
 }
 
 QVariantMap CDeviceFactory::getDeviceDetail(const QString &family, const QString &mac)
@@ -206,9 +239,9 @@ int CDeviceFactory::getLoginDevice(const QString &family, const QString &address
                    devp2pPort);
 }
 
-int CDeviceFactory::getPassWordType(const QString &)
+int CDeviceFactory::getPassWordType(const QString &password)
 {
-    return 0;
+    return passwordStrength(password);
 }
 
 void CDeviceFactory::setUpgradeFilePath(const QString &family, const QString &mac, const QString &path)
@@ -238,9 +271,9 @@ QVariantList CDeviceFactory::importUpgradeDocument(const QString &family, const 
     return forward(family, &CDeviceBase::importUpgradeDocument, file);
 }
 
-QString CDeviceFactory::getErrorName(int)
+QString CDeviceFactory::getErrorName(int error)
 {
-    return {};
+    return resultName(error);
 }
 
 int CDeviceFactory::findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
@@ -312,11 +345,14 @@ void CDeviceFactory::systemConfig(const QString &family, const QString &command,
     forward(family, &CDeviceBase::systemConfig, command, data, ipports);
 }
 
-void CDeviceFactory::addP2PPort(int, int) {}
-
-int CDeviceFactory::getP2PWebPort(int)
+void CDeviceFactory::addP2PPort(int p2pPort, int webPort)
 {
-    return 0;
+    m_p2pPorts.pair(p2pPort, webPort);
+}
+
+int CDeviceFactory::getP2PWebPort(int port)
+{
+    return m_p2pPorts.webPortOf(port);
 }
 
 QVariantList CDeviceFactory::getDays(int)
@@ -330,4 +366,7 @@ void CDeviceFactory::snapPictureToFile(const QString &family, const QString &kin
     forward(family, &CDeviceBase::snapPictureToFile, kind, channelNum, address);
 }
 
-void CDeviceFactory::releaseP2PPort(int) {}
+void CDeviceFactory::releaseP2PPort(int p2pPort)
+{
+    m_p2pPorts.release(p2pPort);
+}

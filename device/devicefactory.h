@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/devicebase.h"
+#include "device/p2pports.h"
 
 #include <QJSValue>
 #include <QMap>
@@ -25,12 +26,25 @@ public:
     /// the factory comes to own back ends that it does not know.
     static void registerBackEnd(const QString &family, const BackEndCreator &creator);
 
+    /// The port agent of the process-wide factory and what takes its events. To be called before the first
+    /// getinstance(), as registerBackEnd() is.
+    struct P2PAgent
+    {
+        std::shared_ptr<sdk::P2PAgentLibrary> library; ///< null for none
+        sdk::P2PAgentMessageHandler handler = nullptr;
+    };
+    static void registerP2PAgent(const P2PAgent &agent);
+
     /// The process-wide factory, created on first use with the registered families. Main thread only.
     static CDeviceFactory *getinstance();
 
     /// Deletes the process-wide factory with its back ends and forgets the registered families.
     static void deleteInstance();
 
+    /// Starts the port agent with the settings of "p2p.ini" in the working directory.
+    CDeviceFactory(const BackEndCreators &creators, const P2PAgent &agent);
+
+    /// A factory without a port agent.
     explicit CDeviceFactory(const BackEndCreators &creators);
     ~CDeviceFactory() override;
 
@@ -140,5 +154,8 @@ private:
         return (backEnd.get()->*operation)(arguments...);
     }
 
+    void releaseP2PPortsOf(const QString &family, const QString &mac);
+
     QMap<QString, std::shared_ptr<CDeviceBase>> m_backEnds;
+    P2PPorts m_p2pPorts;
 };

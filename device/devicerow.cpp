@@ -1,36 +1,14 @@
 #include "device/devicerow.h"
 
-#include "sdk/blocktext.h"
 #include "sdk/searchblocks.h"
 
 #include <QCoreApplication>
 
 namespace {
 
-/// Text of a block field, decoded as local 8-bit text. Bytes that are no text become replacement characters.
-template<std::size_t size>
-QString fieldText(const std::array<char, size> &field)
-{
-    const std::string_view text = sdk::blockText(field);
-    QString decoded =
-        QString::fromLocal8Bit(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
-    // Line breaks and other control characters would break the lines of tables and of the clipboard.
-    for (QChar &letter : decoded) {
-        if (letter.category() == QChar::Other_Control)
-            letter = QLatin1Char(' ');
-    }
-    return decoded;
-}
-
 bool isInitialised(const sdk::SearchDeviceInformation &device)
 {
     return sdk::initialisationBits(device.initialisationState) != sdk::InitialisationBits::Uninitialised;
-}
-
-QString versionText(const sdk::SearchDeviceInformation &device)
-{
-    const QString version = fieldText(device.softwareVersion);
-    return version.isEmpty() ? QString() : QLatin1Char('v') + version;
 }
 
 /// Writes what rows of both lists take from an answer.
@@ -42,15 +20,30 @@ void fillIn(QJsonObject &row, const sdk::SearchAnswer &answer)
     row.insert(DeviceRowKey::type, fieldText(device.deviceType));
     row.insert(DeviceRowKey::model, fieldText(device.detailModel));
     row.insert(DeviceRowKey::ipport, addressAndPort(answer));
-    row.insert(DeviceRowKey::vision, versionText(device));
+    row.insert(DeviceRowKey::vision, versionText(fieldText(device.softwareVersion)));
     row.insert(DeviceRowKey::httpport, device.httpPort);
 }
 
 } // namespace
 
+QString fieldText(std::string_view bytes)
+{
+    QString text = QString::fromLocal8Bit(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    for (QChar &letter : text) {
+        if (letter.category() == QChar::Other_Control)
+            letter = QLatin1Char(' ');
+    }
+    return text;
+}
+
 QString otherDeviceType()
 {
     return QCoreApplication::translate("DeviceRow", "Other");
+}
+
+QString versionText(const QString &version)
+{
+    return version.isEmpty() ? QString() : QLatin1Char('v') + version;
 }
 
 bool hasIPv4Address(const sdk::SearchAnswer &answer)

@@ -1,6 +1,8 @@
 // Device rows: one JSON object per device, keyed by the column names of the device tables.
 #pragma once
 
+#include "sdk/blocktext.h"
+
 #include <QJsonObject>
 #include <QString>
 
@@ -27,10 +29,29 @@ inline constexpr QLatin1StringView upgraderes("upgraderes"); ///< int: last upgr
 inline constexpr QLatin1StringView url("url");               ///< text: address used for CGI commands
 inline constexpr QLatin1StringView result("result");         ///< text result of the last batch operation
 inline constexpr QLatin1StringView httpport("httpport");     ///< int: HTTP port
+
+// Keys of devices that were added by hand, or that the user has given an account.
+inline constexpr QLatin1StringView username("username");
+inline constexpr QLatin1StringView password("password");
+inline constexpr QLatin1StringView loginType("loginType");   ///< text: "IP" or "P2P"
+inline constexpr QLatin1StringView devp2pPort("devp2pPort"); ///< text: the device's own port behind a tunnel
 } // namespace DeviceRowKey
+
+/// Text of a block field, decoded as local 8-bit text. Bytes that are no text become replacement characters,
+/// and control characters blanks: a line break would break the lines of tables and of the clipboard.
+[[nodiscard]] QString fieldText(std::string_view bytes);
+
+template<std::size_t size>
+[[nodiscard]] QString fieldText(const std::array<char, size> &field)
+{
+    return fieldText(sdk::blockText(field));
+}
 
 /// Type of the devices that no name is known for; translated, since it is shown.
 [[nodiscard]] QString otherDeviceType();
+
+/// A version as rows show it: "v" in front, empty when it is not known.
+[[nodiscard]] QString versionText(const QString &version);
 
 /// True when the answer belongs into the list of IPv4 devices: its version is 4 and its address is set.
 [[nodiscard]] bool hasIPv4Address(const sdk::SearchAnswer &answer);

@@ -41,14 +41,14 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
 {
     const bool ipv4 = hasIPv4Address(answer);
     const QString mac = macText(answer);
-    RowList &list = ipv4 ? m_ipv4 : m_ipv6;
+    DeviceRowList &list = ipv4 ? m_ipv4 : m_ipv6;
     // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
     // that arrived again, as every device answers each kind of search.
     const QString identity = ipv4 ? mac : mac + QLatin1Char(' ') + addressAndPort(answer);
     {
         // Most answers are repeated ones: drop them before a row is built.
         const std::scoped_lock lock(m_mutex);
-        if (list.identities.contains(identity))
+        if (list.contains(identity))
             return {};
     }
 
@@ -58,19 +58,19 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     const QByteArray record = bytesOf(answer);
 
     const std::scoped_lock lock(m_mutex);
-    if (list.identities.contains(identity))
+    if (list.contains(identity))
         return {};
-    list.identities.insert(identity);
     if (heads)
-        list.rows.prepend(row);
+        list.prepend(identity, row);
     else
-        list.rows.append(row);
+        list.append(identity, row);
 
     // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
     if (ipv4 || !m_records.contains(mac))
         m_records.insert(mac, record);
 
-    return {.added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows.size())};
+    return {
+        .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
 }
 
 void DeviceStore::clear()
@@ -84,19 +84,19 @@ void DeviceStore::clear()
 QVariantList DeviceStore::ipv4Rows() const
 {
     const std::scoped_lock lock(m_mutex);
-    return m_ipv4.rows;
+    return m_ipv4.rows();
 }
 
 QVariantList DeviceStore::ipv6Rows() const
 {
     const std::scoped_lock lock(m_mutex);
-    return m_ipv6.rows;
+    return m_ipv6.rows();
 }
 
 int DeviceStore::ipv4Count() const
 {
     const std::scoped_lock lock(m_mutex);
-    return static_cast<int>(m_ipv4.rows.size());
+    return static_cast<int>(m_ipv4.rows().size());
 }
 
 std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &mac) const
@@ -104,6 +104,76 @@ std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &mac) const
     const std::scoped_lock lock(m_mutex);
     const auto record = m_records.constFind(mac);
     return record == m_records.cend() ? std::nullopt : std::optional(answerOf(*record));
+}
+
+void DeviceStore::putRecord(const sdk::SearchAnswer &answer)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_records.insert(macText(answer), bytesOf(answer));
+}
+
+QJsonObject DeviceStore::row(const QString &mac) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.row(mac);
+}
+
+QJsonObject DeviceStore::rowAt(const QString &ipport) const
+{
+    const std::scoped_lock lock(m_mutex);
+    const std::optional<QString> identity = identityAt(m_ipv4, ipport);
+    return identity ? m_ipv4.row(*identity) : QJsonObject();
+}
+
+bool DeviceStore::changeRow(const QString &mac, const DeviceRowList::Change &change)
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.change(mac, change);
+}
+
+bool DeviceStore::changeRowAt(const QString &ipport, const DeviceRowList::Change &change)
+{
+    const std::scoped_lock lock(m_mutex);
+    for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+        if (const std::optional<QString> identity = identityAt(*list, ipport))
+            return list->change(*identity, change);
+    }
+    return false;
+}
+
+void DeviceStore::putRow(const QJsonObject &row)
+{
+    const QString mac = row.value(DeviceRowKey::mac).toString();
+    const std::scoped_lock lock(m_mutex);
+    // A device that does not tell its MAC is known by its address.
+    const QString identity = mac.isEmpty() ? row.value(DeviceRowKey::ipport).toString() : mac;
+    if (!m_ipv4.change(identity, [&row](QJsonObject &stored) { stored = row; }))
+        m_ipv4.append(identity, row);
+}
+
+void DeviceStore::removeRows(const QSet<QString> &macs)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_ipv4.remove(macs);
+    for (const QString &mac : macs)
+        m_records.remove(mac);
+}
+
+void DeviceStore::removeIPv6Rows(const QSet<QString> &ipports)
+{
+    const std::scoped_lock lock(m_mutex);
+    QSet<QString> identities;
+    for (const QString &ipport : ipports) {
+        if (const std::optional<QString> identity = identityAt(m_ipv6, ipport))
+            identities.insert(*identity);
+    }
+    m_ipv6.remove(identities);
+}
+
+std::optional<QString> DeviceStore::identityAt(const DeviceRowList &list, const QString &ipport)
+{
+    return list.identityOf(
+        [&ipport](const QJsonObject &row) { return row.value(DeviceRowKey::ipport).toString() == ipport; });
 }
 
 bool DeviceStore::isNotificationDue()

@@ -1,6 +1,7 @@
 // The process-wide device rows and search records.
 #pragma once
 
+#include "device/devicerowlist.h"
 #include "sdk/searchblocks.h"
 
 #include <QHash>
@@ -45,23 +46,37 @@ public:
     [[nodiscard]] QVariantList ipv6Rows() const;
     [[nodiscard]] int ipv4Count() const;
 
+    /// The IPv4 row of a device, or the first one of an address and port; empty when there is none.
+    [[nodiscard]] QJsonObject row(const QString &mac) const;
+    [[nodiscard]] QJsonObject rowAt(const QString &ipport) const;
+
+    /// Changes the IPv4 row of a device. Returns false when there is none.
+    bool changeRow(const QString &mac, const DeviceRowList::Change &change);
+
+    /// Changes the first row of an address and port, of either list.
+    bool changeRowAt(const QString &ipport, const DeviceRowList::Change &change);
+
+    /// Takes a row that does not come from a search: in the place of the device's row, or at the end.
+    void putRow(const QJsonObject &row);
+
+    /// Removes IPv4 rows by MAC, with their search records, or IPv6 rows by address and port.
+    void removeRows(const QSet<QString> &macs);
+    void removeIPv6Rows(const QSet<QString> &ipports);
+
     /// The raw search answer of the device, if one is kept.
     [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &mac) const;
 
-private:
-    /// An ordered list of rows and the identities of those that it holds.
-    struct RowList
-    {
-        QVariantList rows;
-        QSet<QString> identities;
-    };
+    /// Keeps an answer as the device's record, in place of any other.
+    void putRecord(const sdk::SearchAnswer &answer);
 
+private:
+    [[nodiscard]] static std::optional<QString> identityAt(const DeviceRowList &list, const QString &ipport);
     bool isNotificationDue();
 
     const std::shared_ptr<const sdk::Clock> m_clock;
     mutable std::mutex m_mutex;
-    RowList m_ipv4;
-    RowList m_ipv6;
+    DeviceRowList m_ipv4;                 ///< by MAC
+    DeviceRowList m_ipv6;                 ///< by MAC and address
     QHash<QString, QByteArray> m_records; ///< by MAC: the bytes of the answer without the zeros at its end
     std::optional<std::int64_t> m_lastNotification; ///< in milliseconds since the epoch
 };

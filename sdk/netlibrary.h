@@ -1,6 +1,9 @@
 // The network library's roles: everything that goes to a device over its own protocol.
 #pragma once
 
+#include "sdk/devicerequestblocks.h"
+#include "sdk/loginblocks.h"
+#include "sdk/neterror.h"
 #include "sdk/searchblocks.h"
 
 #include <chrono>
@@ -50,6 +53,45 @@ public:
     /// Stops one local search. After it has returned, the handler of that search runs no more. Must not be
     /// called from a handler. Returns false for a handle that is not a running search.
     virtual bool NetStopSearchDevices(std::int64_t searchHandle) = 0;
+
+    /// Asks the one address of `request` (its count is 1) and blocks until it has answered or `wait` has
+    /// passed or NetCleanup is called. Answers reach `handler` on a thread of the library during the call,
+    /// never after it.
+    virtual void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                                     void *user, std::chrono::milliseconds wait) = 0;
+
+    /// Opens a session and blocks until the device has answered. Returns its handle; a value below 1 is
+    /// failure.
+    virtual std::int64_t NetLogin(const char *address, std::int32_t port, const char *account,
+                                  const char *password, std::int32_t unused1, void *unused2,
+                                  LoginDeviceInformation &device, std::int32_t &error) = 0;
+
+    /// The newer kind of login. Returns the handle of the session; a value below 1 is failure.
+    virtual std::int64_t NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) = 0;
+
+    /// Ends a session. Returns false for a handle that is no session.
+    virtual bool NetLogout(std::int64_t loginHandle) = 0;
+
+    /// Reads a block of the device by command number into `buffer` of `bufferSize` bytes; `returnedSize` is
+    /// set to the bytes that were filled, never more than `bufferSize`.
+    virtual bool NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel,
+                                void *buffer, std::uint32_t bufferSize, std::uint32_t &returnedSize,
+                                std::chrono::milliseconds wait) = 0;
+
+    /// Reads the configuration text `name` of a channel (-1 for the whole device) into `text` of `textSize`
+    /// bytes, ended by a zero. A text that does not fit is a failure.
+    virtual bool NetGetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel, char *text,
+                                 std::uint32_t textSize, std::int32_t &error,
+                                 std::chrono::milliseconds wait) = 0;
+
+    /// Gives a factory-new device its first account. `localAddress` is the address to send from, empty for
+    /// the library's choice. Blocks up to `wait`.
+    virtual bool NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
+                                      std::chrono::milliseconds wait, const char *localAddress) = 0;
+
+    /// Changes the addresses of a device that a search has found. Blocks up to `wait`.
+    virtual bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
+                                         std::chrono::milliseconds wait) = 0;
 };
 
 } // namespace sdk

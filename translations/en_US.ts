@@ -485,6 +485,65 @@
     </message>
 </context>
 <context>
+    <name>ResultNames</name>
+    <message>
+        <source>成功</source>
+        <translation>Success</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <source>账号不存在</source>
+        <translation>The account does not exist</translation>
+    </message>
+    <message>
+        <source>密码错误</source>
+        <translation>Wrong password</translation>
+    </message>
+    <message>
+        <source>账号被锁定</source>
+        <translation>The account is locked</translation>
+    </message>
+    <message>
+        <source>账号已登录</source>
+        <translation>The account is already logged in</translation>
+    </message>
+    <message>
+        <source>网络异常</source>
+        <translation>Network error</translation>
+    </message>
+    <message>
+        <source>协议不匹配</source>
+        <translation>Protocol mismatch</translation>
+    </message>
+    <message>
+        <source>设备未初始化</source>
+        <translation>The device is not initialised</translation>
+    </message>
+    <message>
+        <source>设备不支持此操作</source>
+        <translation>The device does not support this</translation>
+    </message>
+    <message>
+        <source>设备已存在</source>
+        <translation>The device is already in the list</translation>
+    </message>
+    <message>
+        <source>获取设备能力失败</source>
+        <translation>The device&apos;s capabilities could not be read</translation>
+    </message>
+    <message>
+        <source>设备拒绝了此操作</source>
+        <translation>The device refused</translation>
+    </message>
+    <message>
+        <source>未知错误 %1</source>
+        <translation>Unknown error %1</translation>
+    </message>
+</context>
+<context>
     <name>SearchSettingsDialog</name>
     <message>
         <source>起始ip不可以大于结束ip</source>

@@ -482,6 +482,65 @@
     </message>
 </context>
 <context>
+    <name>ResultNames</name>
+    <message>
+        <source>成功</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>账号不存在</source>
+        <translation>账号不存在</translation>
+    </message>
+    <message>
+        <source>密码错误</source>
+        <translation>密码错误</translation>
+    </message>
+    <message>
+        <source>账号被锁定</source>
+        <translation>账号被锁定</translation>
+    </message>
+    <message>
+        <source>账号已登录</source>
+        <translation>账号已登录</translation>
+    </message>
+    <message>
+        <source>网络异常</source>
+        <translation>网络异常</translation>
+    </message>
+    <message>
+        <source>协议不匹配</source>
+        <translation>协议不匹配</translation>
+    </message>
+    <message>
+        <source>设备未初始化</source>
+        <translation>设备未初始化</translation>
+    </message>
+    <message>
+        <source>设备不支持此操作</source>
+        <translation>设备不支持此操作</translation>
+    </message>
+    <message>
+        <source>设备已存在</source>
+        <translation>设备已存在</translation>
+    </message>
+    <message>
+        <source>获取设备能力失败</source>
+        <translation>获取设备能力失败</translation>
+    </message>
+    <message>
+        <source>设备拒绝了此操作</source>
+        <translation>设备拒绝了此操作</translation>
+    </message>
+    <message>
+        <source>未知错误 %1</source>
+        <translation>未知错误 %1</translation>
+    </message>
+</context>
+<context>
     <name>SearchSettingsDialog</name>
     <message>
         <source>起始ip不可以大于结束ip</source>

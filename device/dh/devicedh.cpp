@@ -24,7 +24,27 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
 CDeviceDH::~CDeviceDH()
 {
     m_search->requestStop();
+    endSession();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_search.reset();
+}
+
+void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort, void *)
+{
+    switch (event) {
+    case sdk::P2PAgentEvent::ServiceConnected:
+        qCInfo(logDevice) << "P2P: the service is connected";
+        return;
+    case sdk::P2PAgentEvent::ServiceLost:
+        qCWarning(logDevice) << "P2P: the service is lost";
+        return;
+    case sdk::P2PAgentEvent::TunnelOpened:
+        qCInfo(logDevice) << "P2P: port" << localPort << "leads to" << deviceId;
+        return;
+    case sdk::P2PAgentEvent::TunnelBroken:
+        qCWarning(logDevice) << "P2P: the tunnel to" << deviceId << "on port" << localPort << "is broken";
+        return;
+    }
+    qCWarning(logDevice) << "P2P: event" << static_cast<int>(event) << "of" << deviceId << localPort;
 }

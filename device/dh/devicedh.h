@@ -2,6 +2,7 @@
 
 #include "device/devicebase.h"
 #include "device/devicesearch.h"
+#include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
 
 #include <functional>
@@ -22,8 +23,13 @@ public:
     CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
               std::function<SearchSettings()> searchSettings);
 
-    /// Ends running searches and releases the network library.
+    /// Ends running searches and the session, and releases the network library.
     ~CDeviceDH() override;
+
+    /// Takes the port agent's events, on a thread of the agent: logs them, and those that a user needs to
+    /// know go to the row's result.
+    static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
+                             void *user);
 
     // Search: devicedhsearch.cpp
     void startSearch() override;
@@ -31,8 +37,45 @@ public:
     QVariantList filterData(const QString &filtertype, const QString &searchtext) override;
     QVariantList filterDataIPV6(const QString &filtertype, const QString &searchtext) override;
 
+    // Rows and their logins: devicedhrows.cpp
+    int getLoginDevice(const QString &address, const QString &account, const QString &password,
+                       const QString &port, int loginType, const QString &devicePort) override;
+    void setDefaultAccount(const QString &account, const QString &password) override;
+    bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
+                          const QString &ipport) override;
+    QVariantMap getDeviceInfo(const QString &ipport) override;
+    QVariantMap getDeviceDetail(const QString &mac) override;
+    QVariantMap getDeviceDetailByAddress(const QString &ipport) override;
+    /// `mac` is an address and port when `ipvision` is "IPV6", whose rows have no MAC.
+    void setDeleteDevice(const QString &mac, const QString &ipvision) override;
+    /// The keys of `macs` name the rows, as `mac` does in setDeleteDevice().
+    void setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion) override;
+
+    // The current session: devicedhsession.cpp
+    int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password) override;
+
+    // Requests to devices that a search has found: devicedhrequests.cpp
+    void setInitAccount(const QString &mac, const QString &account, const QString &password) override;
+    void modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
+                  const QString &newgateway, bool dhcpON) override;
+
 private:
+    /// The one login that configuration, live view and snapshots use.
+    struct Session
+    {
+        std::int32_t loginKind = 0;
+        std::int64_t handle = 0; ///< 0 while there is none
+        QString ipport;
+        QString account;
+        QString password;
+    };
+
+    void endSession();
+
     const sdk::SdkLibraries m_libraries;
     const std::function<SearchSettings()> m_searchSettings;
     std::unique_ptr<DeviceSearch> m_search;
+    Session m_session;
+    QString m_defaultAccount;
+    QString m_defaultPassword;
 };

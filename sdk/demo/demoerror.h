@@ -1,20 +1,23 @@
-// Error codes that the simulated network library leaves for NetGetLastError.
+// Error codes that the simulated libraries leave for misuse; what devices and networks fail with is
+// sdk::NetError.
 #pragma once
 
 #include <cstdint>
 
 namespace sdk::demo {
 
+/// Callers of NetGetLastError set the highest bit before they compare, so the codes stay apart from those of
+/// NetError with that bit as well.
 enum class DemoError : std::uint32_t
 {
     None = 0,
-    NotPrepared = 1,   ///< NetInit has not been called, or NetCleanup has
-    WrongSize = 2,     ///< the size field of a block is not the size of the block
-    WrongCount = 3,    ///< more addresses than fit, or fewer than none
-    NoHandler = 4,     ///< a search without a handler
-    UnknownHandle = 5, ///< not the handle of a running search
-    InsideHandler = 6, ///< called from a handler, where it would wait for itself
-    NoThread = 7,      ///< the computer gives no more threads
+    NotPrepared = 0x1001, ///< NetInit has not been called, or NetCleanup has
+    WrongSize,     ///< the size field of a block is not the size of the block, or a buffer is too small
+    WrongCount,    ///< more addresses than fit, or fewer than none
+    NoHandler,     ///< a search without a handler
+    UnknownHandle, ///< not the handle of a running search or session
+    InsideHandler, ///< called from a handler, where it would wait for itself
+    NoThread,      ///< the computer gives no more threads
 };
 
 } // namespace sdk::demo

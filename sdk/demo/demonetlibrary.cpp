@@ -1,9 +1,9 @@
 #include "sdk/demo/demonetlibrary.h"
 
-#include "sdk/blocktext.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/addresstext.h"
+#include "sdk/demo/internal/fieldtext.h"
 #include "sdk/demo/internal/logging.h"
 
 #include <QJsonArray>
@@ -14,16 +14,6 @@
 namespace sdk::demo {
 
 namespace {
-
-// Longer waits are cut to this, so that adding one to the time of day cannot overflow.
-constexpr std::chrono::milliseconds longestWait = std::chrono::hours(24);
-
-template<std::size_t size>
-QString textOf(const std::array<char, size> &field)
-{
-    const std::string_view text = blockText(field);
-    return QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 bool isCountInRange(const SearchByAddressesRequest &request)
 {
@@ -51,37 +41,6 @@ QJsonObject decoded(const SearchByAddressesRequest &request, const char *localAd
 
 } // namespace
 
-/// One call between its begin and its end, which NetCleanup waits for.
-class DemoNetLibrary::RunningCall
-{
-public:
-    explicit RunningCall(DemoNetLibrary &library) : m_library(library)
-    {
-        const std::lock_guard lock(library.m_mutex);
-        m_isAllowed = library.m_isPrepared;
-        m_stop = library.m_cleanup.get_token();
-        ++library.m_runningCalls;
-    }
-
-    ~RunningCall()
-    {
-        const std::lock_guard lock(m_library.m_mutex);
-        --m_library.m_runningCalls;
-        m_library.m_callEnded.notify_all();
-    }
-
-    RunningCall(const RunningCall &) = delete;
-    RunningCall &operator=(const RunningCall &) = delete;
-
-    [[nodiscard]] bool isAllowed() const { return m_isAllowed; }
-    [[nodiscard]] const std::stop_token &stop() const { return m_stop; }
-
-private:
-    DemoNetLibrary &m_library;
-    bool m_isAllowed;
-    std::stop_token m_stop;
-};
-
 DemoNetLibrary::~DemoNetLibrary()
 {
     endEverything();
@@ -90,10 +49,7 @@ DemoNetLibrary::~DemoNetLibrary()
 bool DemoNetLibrary::NetInit()
 {
     record("NetInit");
-    const std::lock_guard lock(m_mutex);
-    if (!m_isPrepared)
-        m_cleanup = std::stop_source();
-    m_isPrepared = true;
+    m_gate.open();
     return true;
 }
 
@@ -110,21 +66,16 @@ void DemoNetLibrary::NetCleanup()
 
 void DemoNetLibrary::endEverything()
 {
-    std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches;
-    {
-        const std::lock_guard lock(m_mutex);
-        m_isPrepared = false;
-        searches.swap(m_searches);
-        m_cleanup.request_stop();
-    }
-    searches.clear();
-    std::unique_lock lock(m_mutex);
-    m_callEnded.wait(lock, [this] { return m_runningCalls == 0; });
+    m_gate.close();
+    m_sessions.closeAll();
+    std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches; // end without the lock
+    const std::lock_guard lock(m_mutex);
+    searches.swap(m_searches);
 }
 
 std::uint32_t DemoNetLibrary::NetGetLastError() const
 {
-    return static_cast<std::uint32_t>(m_error.last());
+    return m_error.last();
 }
 
 std::int64_t DemoNetLibrary::NetStartSearchDevices(const SearchParameter &parameter,
@@ -159,15 +110,16 @@ std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, AnswerReceiver re
         m_error.fail(DemoError::NoHandler);
         return 0;
     }
+    const CallGate::Call call(m_gate);
+    if (!call.isAllowed()) {
+        m_error.fail(DemoError::NotPrepared);
+        return 0;
+    }
     const std::int64_t start = m_site.clock().now();
     std::vector<PlannedAnswer> plan = planLocalSearch(m_site, kind, start);
 
     const std::lock_guard lock(m_mutex);
-    if (!m_isPrepared) {
-        m_error.fail(DemoError::NotPrepared);
-        return 0;
-    }
-    receiver.searchHandle = ++m_lastHandle;
+    receiver.searchHandle = ++m_lastSearchHandle;
     auto delivery = std::make_unique<AnswerDelivery>(m_site, receiver, std::move(plan));
     if (!delivery->start()) {
         m_error.fail(DemoError::NoThread);
@@ -183,7 +135,7 @@ bool DemoNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &reque
 {
     record("NetSearchDevicesByIPs", decoded(request, localAddress, wait));
     return searchAddresses(SearchKind::First, request,
-                           {handler, user, 0, QString::fromLocal8Bit(localAddress)}, wait);
+                           {handler, user, 0, QString::fromLocal8Bit(localAddress)}, wait, SearchEnd::AtWait);
 }
 
 bool DemoNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request,
@@ -192,11 +144,12 @@ bool DemoNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &req
 {
     record("NetSearchDevicesByIPsEx", decoded(request, localAddress, wait));
     return searchAddresses(SearchKind::Second, request,
-                           {handler, user, 0, QString::fromLocal8Bit(localAddress)}, wait);
+                           {handler, user, 0, QString::fromLocal8Bit(localAddress)}, wait, SearchEnd::AtWait);
 }
 
 bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesRequest &request,
-                                     AnswerReceiver receiver, std::chrono::milliseconds wait)
+                                     AnswerReceiver receiver, std::chrono::milliseconds wait,
+                                     SearchEnd searchEnd)
 {
     if (request.size != sizeof(SearchByAddressesRequest))
         return m_error.fail(DemoError::WrongSize);
@@ -204,7 +157,7 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
         return m_error.fail(DemoError::WrongCount);
     if (!receiver.handler)
         return m_error.fail(DemoError::NoHandler);
-    const RunningCall call(*this);
+    const CallGate::Call call(m_gate);
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
 
@@ -217,9 +170,13 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
             addresses.insert(address);
     }
     const std::int64_t start = m_site.clock().now();
-    const std::int64_t end = start + std::clamp(wait, std::chrono::milliseconds(0), longestWait).count();
-    AnswerDelivery delivery(m_site, std::move(receiver),
-                            planAddressSearch(m_site, kind, addresses, start, end));
+    std::int64_t end = start + bounded(wait).count();
+    std::vector<PlannedAnswer> plan = planAddressSearch(m_site, kind, addresses, start, end);
+    if (searchEnd == SearchEnd::AfterAnswer && !plan.empty()) {
+        end = plan.front().time;
+        std::erase_if(plan, [end](const PlannedAnswer &answer) { return answer.time > end; });
+    }
+    AnswerDelivery delivery(m_site, std::move(receiver), std::move(plan));
     if (!delivery.start())
         return m_error.fail(DemoError::NoThread);
     if (m_site.clock().waitUntil(end, call.stop()))
@@ -234,7 +191,7 @@ bool DemoNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
     record("NetStopSearchDevices", {{QStringLiteral("searchHandle"), static_cast<qint64>(searchHandle)}});
     if (AnswerDelivery::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
-    const RunningCall call(*this);
+    const CallGate::Call call(m_gate);
     std::unique_ptr<AnswerDelivery> delivery;
     {
         const std::lock_guard lock(m_mutex);
@@ -250,9 +207,27 @@ bool DemoNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
     return true;
 }
 
-void DemoNetLibrary::record(const char *operation, const QJsonObject &request) const
+void DemoNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                                         void *user, std::chrono::milliseconds wait)
 {
-    m_site.requests().add({QString::fromLatin1(operation), QString(), request, m_site.clock().now()});
+    record("NetSearchDeviceByIp", decoded(request, "", wait));
+    if (request.size == sizeof(SearchByAddressesRequest) && request.count != 1)
+        m_error.fail(DemoError::WrongCount);
+    else
+        searchAddresses(SearchKind::Second, request, {handler, user, 0, QString()}, wait,
+                        SearchEnd::AfterAnswer);
+}
+
+void DemoNetLibrary::record(const char *operation, const QJsonObject &request, const QString &mac) const
+{
+    m_site.requests().add({QString::fromLatin1(operation), mac, request, m_site.clock().now()});
+}
+
+std::chrono::milliseconds DemoNetLibrary::bounded(std::chrono::milliseconds wait)
+{
+    // Longer waits are cut to this, so that adding one to the time of day cannot overflow.
+    constexpr std::chrono::milliseconds longestWait = std::chrono::hours(24);
+    return std::clamp(wait, std::chrono::milliseconds(0), longestWait);
 }
 
 } // namespace sdk::demo

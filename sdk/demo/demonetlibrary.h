@@ -2,23 +2,29 @@
 #pragma once
 
 #include "sdk/demo/internal/answerdelivery.h"
+#include "sdk/demo/internal/callgate.h"
+#include "sdk/demo/internal/demosessions.h"
+#include "sdk/demo/internal/devicelogin.h"
 #include "sdk/demo/internal/threaderror.h"
 #include "sdk/netlibrary.h"
 
 #include <QJsonObject>
 
-#include <condition_variable>
 #include <map>
 #include <memory>
 #include <mutex>
-#include <stop_token>
 
 namespace sdk::demo {
 
-/// Error codes are those of DemoError. Every request, malformed ones too, goes to the site's record.
+/// Error codes are those of DemoError for misuse, and of NetError for what devices answer. Every request,
+/// malformed ones too, goes to the site's record. Reachable devices answer logins, queries and requests at
+/// once; the others take their time on the site's clock, which NetCleanup cuts short.
 class DemoNetLibrary : public NetLibrary
 {
 public:
+    /// How long a login to an address where nothing answers takes.
+    static constexpr std::chrono::milliseconds connectTime{3000};
+
     /// `site` must outlive the library.
     explicit DemoNetLibrary(DemoSite &site) : m_site(site) {}
     ~DemoNetLibrary() override;
@@ -26,6 +32,8 @@ public:
     bool NetInit() override;
     void NetCleanup() override;
     [[nodiscard]] std::uint32_t NetGetLastError() const override;
+
+    // Searches
     std::int64_t NetStartSearchDevices(const SearchParameter &parameter,
                                        std::chrono::milliseconds wait) override;
     std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,
@@ -36,24 +44,77 @@ public:
                                  void *user, const char *localAddress,
                                  std::chrono::milliseconds wait) override;
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
+    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
+                             std::chrono::milliseconds wait) override;
+
+    // Sessions
+    std::int64_t NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
+                          std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
+                          std::int32_t &error) override;
+    std::int64_t NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) override;
+    bool NetLogout(std::int64_t loginHandle) override;
+
+    // Queries and configuration
+    bool NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
+                        std::uint32_t bufferSize, std::uint32_t &returnedSize,
+                        std::chrono::milliseconds wait) override;
+    bool NetGetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel, char *text,
+                         std::uint32_t textSize, std::int32_t &error,
+                         std::chrono::milliseconds wait) override;
+
+    // Requests to devices without a login
+    bool NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
+                              std::chrono::milliseconds wait, const char *localAddress) override;
+    bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
+                                 std::chrono::milliseconds wait) override;
 
 private:
-    class RunningCall;
+    /// How long an address search goes on.
+    enum class SearchEnd
+    {
+        AtWait,      // the whole wait
+        AfterAnswer, // until the first device has answered
+    };
 
-    void record(const char *operation, const QJsonObject &request = {}) const;
+    struct LoginRequest
+    {
+        QString address;
+        int port;
+        QString account;
+        QString password;
+        LoginKind kind;
+    };
+
+    void record(const char *operation, const QJsonObject &request = {}, const QString &mac = {}) const;
+    [[nodiscard]] static std::chrono::milliseconds bounded(std::chrono::milliseconds wait);
+
     std::int64_t startLocalSearch(SearchKind kind, AnswerReceiver receiver);
     bool searchAddresses(SearchKind kind, const SearchByAddressesRequest &request, AnswerReceiver receiver,
-                         std::chrono::milliseconds wait);
+                         std::chrono::milliseconds wait, SearchEnd searchEnd);
     void endEverything();
+
+    /// Returns the handle, 0 on failure, which it leaves in m_error.
+    std::int64_t login(const char *operation, QJsonObject decoded, const LoginRequest &request,
+                       LoginDeviceInformation &device);
+
+    /// The device of a session that may be asked something; nothing, with the error left, when it may not.
+    std::optional<SceneDevice> askedDevice(const CallGate::Call &call,
+                                           const std::optional<DemoSession> &session,
+                                           std::chrono::milliseconds wait);
+    bool fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
+                     const QString &name, char *text, std::uint32_t textSize, std::chrono::milliseconds wait);
+
+    /// Whether a request without a login may go to `mac`; with the error left when not.
+    bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
+                    std::chrono::milliseconds wait);
 
     DemoSite &m_site;
     ThreadError m_error;
+    CallGate m_gate;
+    DemoSessions m_sessions;
+    LoginGuard m_loginGuard;
     std::mutex m_mutex;
-    std::condition_variable m_callEnded;
-    bool m_isPrepared = false;
-    int m_runningCalls = 0;     // calls that may have handlers running, or that are waiting for them
-    std::stop_source m_cleanup; // cuts short the calls that began since the last NetInit
-    std::int64_t m_lastHandle = 0;
+    std::int64_t m_lastSearchHandle = 0;
     std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> m_searches;
 };
 

@@ -1,7 +1,9 @@
 #include "sdk/demo/demosite.h"
 
 #include "sdk/clock.h"
+#include "sdk/configtext/configtextlibrary.h"
 #include "sdk/demo/demonetlibrary.h"
+#include "sdk/demo/demop2pagentlibrary.h"
 #include "sdk/demo/fleetgenerator.h"
 #include "sdk/demo/internal/logging.h"
 #include "sdk/demo/scenereader.h"
@@ -87,7 +89,10 @@ std::shared_ptr<DemoSite> DemoSite::create(const Scene &scene, std::shared_ptr<C
 
 DemoSite::DemoSite(const Scene &scene, std::shared_ptr<Clock> clock)
     : m_title(scene.title), m_description(scene.description), m_localAddress(scene.localAddress),
-      m_localIpv6(scene.localIpv6), m_clock(std::move(clock)), m_net(std::make_unique<DemoNetLibrary>(*this))
+      m_localIpv6(scene.localIpv6), m_clock(std::move(clock)),
+      m_config(std::make_shared<ConfigTextLibrary>()),
+      m_portAgent(std::make_unique<DemoP2PAgentLibrary>(*this)),
+      m_net(std::make_unique<DemoNetLibrary>(*this))
 {
     for (const SceneDevice &device : scene.devices)
         setDevice(device);
@@ -98,8 +103,10 @@ DemoSite::~DemoSite() = default;
 SdkLibraries DemoSite::libraries()
 {
     SdkLibraries libraries;
-    // Shares the ownership of the site, which owns the library.
+    // These share the ownership of the site, which owns them.
     libraries.net = std::shared_ptr<NetLibrary>(shared_from_this(), m_net.get());
+    libraries.p2pAgent = std::shared_ptr<P2PAgentLibrary>(shared_from_this(), m_portAgent.get());
+    libraries.config = m_config;
     libraries.clock = m_clock;
     return libraries;
 }
@@ -150,25 +157,30 @@ bool DemoSite::removeDevice(const QString &mac)
     return true;
 }
 
-bool DemoSite::setFault(const QString &mac, const FaultSetting &setting)
+bool DemoSite::changeDevice(
+    const QString &mac, const std::function<void(SceneDevice &device, const QList<SceneDevice> &all)> &change)
 {
     const std::lock_guard lock(m_mutex);
     SceneDevice *device = findLocked(mac);
     if (!device)
         return false;
-    device->faults.removeIf([&setting](const FaultSetting &other) { return other.fault == setting.fault; });
-    device->faults.append(setting);
+    change(*device, m_devices);
     return true;
+}
+
+bool DemoSite::setFault(const QString &mac, const FaultSetting &setting)
+{
+    return changeDevice(mac, [&setting](SceneDevice &device, const QList<SceneDevice> &) {
+        device.faults.removeIf(
+            [&setting](const FaultSetting &other) { return other.fault == setting.fault; });
+        device.faults.append(setting);
+    });
 }
 
 bool DemoSite::clearFault(const QString &mac, Fault fault)
 {
-    const std::lock_guard lock(m_mutex);
-    SceneDevice *device = findLocked(mac);
-    if (!device)
-        return false;
-    device->faults.removeIf([fault](const FaultSetting &setting) { return setting.fault == fault; });
-    return true;
+    return changeDevice(
+        mac, [fault](SceneDevice &device, const QList<SceneDevice> &) { device.clearFault(fault); });
 }
 
 QString DemoSite::localAddressFor(const SceneDevice &device, int ipVersion) const

@@ -16,6 +16,7 @@
 namespace sdk::demo {
 
 class DemoNetLibrary;
+class DemoP2PAgentLibrary;
 
 /// Thread-safe. Devices are found by MAC, in upper or lower case. The libraries keep the site alive; the last
 /// of them must not be released inside a handler.
@@ -57,10 +58,20 @@ public:
     /// Changes the device of the same MAC, or brings a new one to the site.
     void setDevice(const SceneDevice &device);
 
-    /// These return false when the site has no such device.
+    /// Lets `change` change a device (its MAC stays) while nobody else changes the site; `all` are the
+    /// devices of the site. The site is locked meanwhile: `change` must not call it. This and the following
+    /// return false when the site has no such device.
+    bool changeDevice(const QString &mac,
+                      const std::function<void(SceneDevice &device, const QList<SceneDevice> &all)> &change);
     bool removeDevice(const QString &mac);
     bool setFault(const QString &mac, const FaultSetting &setting);
     bool clearFault(const QString &mac, Fault fault);
+
+    /// The port agent, which knows where local ports lead, and whose tunnels a test can break.
+    [[nodiscard]] DemoP2PAgentLibrary &portAgent() const { return *m_portAgent; }
+
+    /// This computer's IPv4 address in the local segment.
+    [[nodiscard]] QString localAddress() const { return m_localAddress; }
 
     /// The address of this computer that receives what `device` sends.
     [[nodiscard]] QString localAddressFor(const SceneDevice &device, int ipVersion) const;
@@ -78,7 +89,10 @@ private:
     mutable std::mutex m_mutex;
     QList<SceneDevice> m_devices;
     QHash<QString, qsizetype> m_placeOfMac;
-    std::unique_ptr<DemoNetLibrary> m_net; // last: its threads end before what they use
+    const std::shared_ptr<ConfigLibrary> m_config;
+    // Last, the agent before the network library that looks at its ports: threads end before what they use.
+    std::unique_ptr<DemoP2PAgentLibrary> m_portAgent;
+    std::unique_ptr<DemoNetLibrary> m_net;
 };
 
 } // namespace sdk::demo

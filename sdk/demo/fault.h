@@ -10,21 +10,24 @@ namespace sdk::demo {
 
 enum class Fault
 {
-    NoAnswer,             ///< search gets no answer
-    LateAnswer,           ///< search answers come `number` ms later than the device's latency
-    AnswerTwice,          ///< every search answer comes twice
-    WrongPassword,        ///< no password is accepted
-    AccountLocked,        ///< the account locks after `number` wrong passwords
-    NotInitialised,       ///< the device says that it waits for its first password
-    RefusesItem,          ///< refuses to write item `number`
-    RefusesBitRatesAbove, ///< refuses bit rates above `number` kbit/s
-    RefusesConfiguration, ///< refuses the configuration named `text`
-    DropsStreamAfter,     ///< ends the stream after `number` pictures
-    FirstPictureLate,     ///< the stream begins `number` ms late
-    RebootTakes,          ///< a reboot takes the device away for `number` s
-    UpgradeFailsAt,       ///< an upgrade fails at `number` %
-    OddBytes,             ///< texts hold control characters, markup, line breaks and invalid UTF-8
-    OverLongTexts,        ///< texts fill their fields to the last byte, without a terminating zero
+    NoAnswer,              ///< nothing gets an answer: no search, no login, no request
+    LateAnswer,            ///< search answers come `number` ms later than the device's latency
+    AnswerTwice,           ///< every search answer comes twice
+    WrongPassword,         ///< no password is accepted
+    AccountLocked,         ///< the account locks after `number` wrong passwords
+    AccountLoggedIn,       ///< every account has a session already
+    NotInitialised,        ///< the device says that it waits for its first password
+    RefusesInitialisation, ///< refuses its first account
+    RefusesAddressChange,  ///< refuses a new address
+    RefusesItem,           ///< refuses to write item `number`
+    RefusesBitRatesAbove,  ///< refuses bit rates above `number` kbit/s
+    RefusesConfiguration,  ///< refuses the configuration named `text`
+    DropsStreamAfter,      ///< ends the stream after `number` pictures
+    FirstPictureLate,      ///< the stream begins `number` ms late
+    RebootTakes,           ///< a reboot takes the device away for `number` s
+    UpgradeFailsAt,        ///< an upgrade fails at `number` %
+    OddBytes,              ///< texts hold control characters, markup, line breaks and invalid UTF-8
+    OverLongTexts,         ///< texts fill their fields to the last byte, without a terminating zero
 };
 
 /// What a fault needs beside its name.

@@ -20,7 +20,9 @@ struct RecordedRequest
     std::int64_t time = 0; ///< on the site's clock, ms since 1970
 };
 
-/// The requests in the order of their arrival; the latest maximumRequests of them. Thread-safe.
+/// The requests in the order of their arrival; the latest maximumRequests of them. Passwords are never kept:
+/// only their length ("passwordLength"), and at a login whether it is the account's ("passwordMatches").
+/// Thread-safe.
 class RequestRecord
 {
 public:

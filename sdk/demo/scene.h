@@ -49,12 +49,14 @@ struct SceneDevice
     QString serial;
     InitialisationBits initialisation = InitialisationBits::Initialised;
     std::uint8_t resetWay = 0; ///< as SearchDeviceInformation::passwordResetWay
+    QString p2pId;             ///< what the port agent knows the device by; empty when it does not
     QList<SceneAccount> accounts;
     QList<SceneChannel> channels;
     QJsonObject capabilities;
-    QJsonObject configuration;
+    QJsonObject configuration;              ///< by name; laid over what the device tells of its own state
     std::chrono::milliseconds latency{100}; ///< from a request to the device's answer
-    bool inOtherSegment = false;  ///< out of reach of local searches, answers when its address is asked
+    bool inOtherSegment = false;  ///< out of reach of local searches; answers when its address is asked
+    bool isRemote = false;        ///< out of reach of everything but the port agent
     bool knowsFirstSearch = true; ///< false: answers only the second kind (…Ex) of search
     QList<FaultSetting> faults;   ///< each fault at most once
 
@@ -67,6 +69,17 @@ struct SceneDevice
         return found == faults.end() ? std::nullopt : std::optional(*found);
     }
     [[nodiscard]] bool hasFault(Fault wanted) const { return fault(wanted).has_value(); }
+
+    /// Whether the device waits for its first password.
+    [[nodiscard]] bool isUninitialised() const
+    {
+        return initialisation == InitialisationBits::Uninitialised || hasFault(Fault::NotInitialised);
+    }
+
+    void clearFault(Fault fault)
+    {
+        faults.removeIf([fault](const FaultSetting &setting) { return setting.fault == fault; });
+    }
 };
 
 struct Scene

@@ -61,7 +61,12 @@ void readAddresses(JsonKeys &keys, SceneDevice &device)
     device.dhcp = keys.boolean(u"dhcp"_s, false);
     device.port = keys.requiredNumber(u"port"_s, 1, highestPort);
     device.httpPort = keys.number(u"httpPort"_s, 0, highestPort, device.httpPort);
-    device.inOtherSegment = keys.choice(u"segment"_s, {u"local"_s, u"other"_s}, 0) == 1;
+    const int segment = keys.choice(u"segment"_s, {u"local"_s, u"other"_s, u"remote"_s}, 0);
+    device.inOtherSegment = segment > 0;
+    device.isRemote = segment == 2;
+    device.p2pId = keys.text(u"p2pId"_s);
+    if (device.isRemote && device.p2pId.isEmpty())
+        keys.complain(u"p2pId"_s, u"a text that is not empty, for the device is remote"_s);
 }
 
 void readIdentity(JsonKeys &keys, SceneDevice &device)

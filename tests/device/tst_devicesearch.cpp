@@ -94,7 +94,7 @@ private Q_SLOTS:
         m_site->visitDevices([&](const sdk::demo::SceneDevice &device) {
             if (device.inOtherSegment)
                 return;
-            const bool set = !device.address.isEmpty() && device.address != "0.0.0.0";
+            const bool set = !device.isRemote && !device.address.isEmpty() && device.address != "0.0.0.0";
             if (set)
                 ipv4.append(device.mac);
             others += (!device.ipv6.isEmpty() ? 1 : 0) + (device.address == "0.0.0.0" ? 1 : 0);

@@ -26,7 +26,8 @@ const std::vector<Folder> &folders()
 {
     static const std::vector<Folder> table = {
         {"sdk", {}},
-        {"sdk/demo", {"sdk"}},
+        {"sdk/configtext", {"sdk"}},
+        {"sdk/demo", {"sdk", "sdk/configtext"}},
         {"sdk/ffmpeg", {"sdk"}},
         {"sdk/binding", {"sdk"}},
         {"sdk/onvif", {"sdk"}},

@@ -15,7 +15,8 @@ int devicesInReach(bool otherSegmentToo)
     const auto site =
         sdk::demo::DemoSite::open(QStringLiteral("office"), std::make_shared<sdk::SystemClock>(), nullptr);
     site->visitDevices([&](const sdk::demo::SceneDevice &device) {
-        const bool set = !device.address.isEmpty() && device.address != QLatin1String("0.0.0.0");
+        const bool set =
+            !device.isRemote && !device.address.isEmpty() && device.address != QLatin1String("0.0.0.0");
         devices += set && (otherSegmentToo || !device.inOtherSegment) ? 1 : 0;
     });
     return devices;

@@ -10,7 +10,8 @@ namespace {
 
 bool answersKind(const SceneDevice &device, SearchKind kind)
 {
-    return !device.hasFault(Fault::NoAnswer) && (kind == SearchKind::Second || device.knowsFirstSearch);
+    return !device.isRemote && !device.hasFault(Fault::NoAnswer) &&
+           (kind == SearchKind::Second || device.knowsFirstSearch);
 }
 
 void plan(std::vector<PlannedAnswer> &answers, const SceneDevice &device, int ipVersion, std::int64_t start)

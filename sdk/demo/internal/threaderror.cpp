@@ -7,9 +7,9 @@ namespace sdk::demo {
 
 namespace {
 
-std::unordered_map<std::uint64_t, DemoError> &errorsOfThisThread()
+std::unordered_map<std::uint64_t, std::uint32_t> &errorsOfThisThread()
 {
-    thread_local std::unordered_map<std::uint64_t, DemoError> errors;
+    thread_local std::unordered_map<std::uint64_t, std::uint32_t> errors;
     return errors;
 }
 
@@ -21,17 +21,17 @@ ThreadError::ThreadError()
     m_key = ++lastKey;
 }
 
-bool ThreadError::fail(DemoError error) const
+bool ThreadError::fail(std::uint32_t code) const
 {
-    errorsOfThisThread()[m_key] = error;
+    errorsOfThisThread()[m_key] = code;
     return false;
 }
 
-DemoError ThreadError::last() const
+std::uint32_t ThreadError::last() const
 {
     const auto &errors = errorsOfThisThread();
     const auto found = errors.find(m_key);
-    return found == errors.end() ? DemoError::None : found->second;
+    return found == errors.end() ? 0 : found->second;
 }
 
 } // namespace sdk::demo

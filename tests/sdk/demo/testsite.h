@@ -1,4 +1,4 @@
-// What the tests of searches share.
+// What the tests of the simulated site share.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -92,6 +92,27 @@ inline DemoError lastError(const NetLibrary &net)
     return static_cast<DemoError>(net.NetGetLastError());
 }
 
+inline NetError netError(const NetLibrary &net)
+{
+    return static_cast<NetError>(net.NetGetLastError());
+}
+
+/// What a login with these gives; `device` and `error` are filled as by NetLogin.
+struct Login
+{
+    Login(NetLibrary &net, const QString &address, int port, const QString &account = QStringLiteral("admin"),
+          const QString &password = QStringLiteral("Pass-1"))
+    {
+        handle = net.NetLogin(address.toUtf8().constData(), port, account.toUtf8().constData(),
+                              password.toUtf8().constData(), 0, nullptr, device, error);
+    }
+    [[nodiscard]] NetError netError() const { return static_cast<NetError>(error); }
+
+    LoginDeviceInformation device = {};
+    std::int32_t error = 99;
+    std::int64_t handle = 0;
+};
+
 inline SceneDevice camera(int number, std::chrono::milliseconds latency)
 {
     SceneDevice device;
@@ -104,6 +125,7 @@ inline SceneDevice camera(int number, std::chrono::milliseconds latency)
     device.model = QStringLiteral("B-2230-IR");
     device.version = QStringLiteral("2.840.1");
     device.serial = QStringLiteral("S%1").arg(number);
+    device.accounts = {{QStringLiteral("admin"), QStringLiteral("Pass-1")}};
     device.latency = latency;
     return device;
 }

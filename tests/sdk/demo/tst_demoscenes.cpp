@@ -95,6 +95,8 @@ void ScenesTest::refusesWithClearError_data()
     deviceRow("state as boolean", u"initialised"_s, true, {u"\"yes\""_s, u"but is true"_s});
     deviceRow("negative latency", u"latency"_s, -5, {u"from 0"_s});
     deviceRow("too many channels", u"channels"_s, 1e9, {u"1024"_s});
+    row("remote without P2P ID", sceneWith({{u"segment"_s, u"remote"_s}}),
+        {u"\"p2pId\" is missing"_s, u"device 1"_s});
     deviceRow("slip in a key", u"adress"_s, u"1.2.3.4"_s, {u"not a known key"_s, u"address"_s});
 
     const auto entryRow = [&row](const char *title, const QString &key, const QJsonValue &entry,
@@ -139,13 +141,14 @@ void ScenesTest::readsEveryKey()
     const std::optional<Scene> scene = SceneReader::read(R"({"title": "T", "description": "D",
         "localAddress": "10.1.1.1", "localIpv6": "fe80:0::1",
         "devices": [{"mac": "02:1A:C5:00:40:17", "address": "10.0.0.9", "ipv6": "FD00:0:0::9/56",
-        "mask": "255.255.0.0", "gateway": "10.0.0.1", "dhcp": true, "port": 65535, "httpPort": 0,
+        "mask": "255.255.0.0", "gateway": "10.0.0.1", "dhcp": true, "p2pId": "OV1", "port": 65535, "httpPort": 0,
         "name": "大门", "type": "NVR", "model": "R-1", "version": "2.1", "serial": "S1",
         "initialised": "unreported", "resetWay": "mail", "accounts": [{"user": "admin", "password": "p"}],
         "channels": [{"connected": false}, {"name": "C2"}], "capabilities": {"a": 1}, "configuration": {"b": 2},
         "latency": 0, "segment": "other", "knowsFirstSearch": false,
         "faults": ["oddBytes", {"name": "lateAnswer", "value": 70}]},
-        {"mac": "02:1a:c5:00:40:18", "ipv6": "fd00::a", "type": "IPC", "port": 1, "channels": 3}]})",
+        {"mac": "02:1a:c5:00:40:18", "ipv6": "fd00::a", "type": "IPC", "port": 1, "channels": 3,
+         "segment": "remote", "p2pId": "OV2"}]})",
                                                          &error);
     QVERIFY2(scene.has_value(), qPrintable(error));
     QCOMPARE(scene->title + scene->description + scene->localAddress + scene->localIpv6,
@@ -160,7 +163,7 @@ void ScenesTest::readsEveryKey()
              QStringList({u"大门"_s, u"NVR"_s, u"R-1"_s, u"2.1"_s, u"S1"_s}));
     QCOMPARE(QList<int>({full.ipv6PrefixLength, full.port, full.httpPort, full.resetWay}),
              QList<int>({56, 65535, 0, 2}));
-    QVERIFY(full.dhcp && full.inOtherSegment && !full.knowsFirstSearch);
+    QVERIFY(full.dhcp && full.inOtherSegment && !full.isRemote && !full.knowsFirstSearch);
     QCOMPARE(full.initialisation, sdk::InitialisationBits::NotReported);
     QCOMPARE(full.latency.count(), 0);
     QCOMPARE(full.accounts.first().user + full.accounts.first().password, u"adminp"_s);
@@ -170,7 +173,9 @@ void ScenesTest::readsEveryKey()
     QCOMPARE(full.fault(Fault::LateAnswer)->number, 70);
 
     const SceneDevice &sparse = scene->devices.last();
-    QVERIFY(sparse.address.isEmpty() && !sparse.dhcp && !sparse.inOtherSegment && sparse.knowsFirstSearch);
+    QVERIFY(sparse.address.isEmpty() && !sparse.dhcp && sparse.isRemote && sparse.knowsFirstSearch);
+    QVERIFY(sparse.inOtherSegment); // out of reach of local searches as well
+    QCOMPARE(full.p2pId + sparse.p2pId, u"OV1OV2"_s);
     QCOMPARE(sparse.initialisation, sdk::InitialisationBits::Initialised);
     QCOMPARE(sparse.channels.size(), 3);
 }
@@ -206,6 +211,7 @@ void ScenesTest::officeHoldsWhatItPromises()
 
     QSet<QString> types;
     QHash<QString, int> devicesOfAddress;
+    QSet<QString> p2pIds;
     int factoryNew = 0;
     int ipv6Only = 0;
     int dualStack = 0;
@@ -223,7 +229,9 @@ void ScenesTest::officeHoldsWhatItPromises()
         hasPartlyConnectedRecorder |= device.channels.size() == 16 && connected > 0 && connected < 16;
         QVERIFY2(device.latency.count() >= 50 && device.latency.count() <= 2800, qPrintable(device.name));
         QVERIFY2(device.mac.startsWith(u"02:1a:c5"), qPrintable(device.mac));
-        QCOMPARE(device.inOtherSegment, device.address.startsWith(u"192.168.2."));
+        QCOMPARE(device.inOtherSegment && !device.isRemote, device.address.startsWith(u"192.168.2."));
+        if (device.isRemote)
+            p2pIds.insert(device.p2pId);
         if (device.address == u"127.0.0.1")
             QCOMPARE(device.type, u"PC-NVR"_s);
     }
@@ -231,6 +239,7 @@ void ScenesTest::officeHoldsWhatItPromises()
                                      u"ITC"_s, u"Matrix"_s, u"Other"_s, u"PC-NVR"_s};
     QCOMPARE(types, everyType);
     QCOMPARE(QList<int>({factoryNew, ipv6Only, dualStack}), QList<int>({3, 2, 1}));
+    QCOMPARE(p2pIds.size(), 2);
     QCOMPARE(devicesOfAddress.value(u"192.168.1.180"_s), 2);
     QCOMPARE(devicesOfAddress.value(u"0.0.0.0"_s), 1);
     QCOMPARE(devicesOfAddress.value(u"127.0.0.1"_s), 1);

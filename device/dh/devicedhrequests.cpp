@@ -1,0 +1,79 @@
+// Requests to devices that a search has found: the first password, and a new address.
+#include "device/devicerow.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "device/loginresult.h"
+#include "sdk/blocktext.h"
+#include "sdk/netlibrary.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto requestWait = 5000ms;
+
+void setText(auto &field, const QString &text)
+{
+    sdk::setBlockText(field, text.toLocal8Bit().toStdString());
+}
+
+} // namespace
+
+void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const QString &password)
+{
+    LoginResult result = LoginResult::Success;
+    const std::optional<sdk::SearchAnswer> record = store().record(mac);
+    if (record && m_libraries.net) {
+        sdk::InitDeviceAccountInput input{};
+        input.size = sizeof(input);
+        input.mac = record->device.mac;
+        setText(input.account, account);
+        setText(input.password, password);
+        input.passwordResetWay = record->device.passwordResetWay;
+        sdk::DeviceRequestOutput output{.size = sizeof(output)};
+        if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
+            result = loginResultOf(m_libraries.net->NetGetLastError());
+    }
+    store().changeRow(mac, [result](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(result)); });
+}
+
+void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
+                         const QString &newgateway, bool dhcpON)
+{
+    std::optional<sdk::SearchAnswer> record = store().record(mac);
+    LoginResult result = LoginResult::Success;
+    if (record && m_libraries.net) {
+        if (sdk::initialisationBits(record->device.initialisationState) ==
+            sdk::InitialisationBits::Uninitialised) {
+            store().changeRow(mac, [](QJsonObject &row) {
+                row.insert(DeviceRowKey::res, resultCode(LoginResult::NotInitialised));
+            });
+            return;
+        }
+        sdk::ModifyDeviceInput input{};
+        input.size = sizeof(input);
+        input.device = record->device;
+        input.device.dhcpEnabled = dhcpON ? 1 : 0;
+        if (!dhcpON) {
+            setText(input.device.address, newip);
+            setText(input.device.subnetMask, newsubmask);
+            setText(input.device.gateway, newgateway);
+        }
+        sdk::DeviceRequestOutput output{.size = sizeof(output)};
+        if (!m_libraries.net->NetModifyDeviceBySearch(input, output, requestWait))
+            result = loginResultOf(m_libraries.net->NetGetLastError());
+    }
+
+    // The row shows what was asked for, whatever came of it: the result stands beside it, and the next search
+    // shows the true address. With DHCP nobody knows the new address yet, and the old one stays.
+    store().changeRow(mac, [&](QJsonObject &row) {
+        row.insert(DeviceRowKey::res, resultCode(result));
+        const QStringList parts = row.value(DeviceRowKey::ipport).toString().split(QLatin1Char(':'));
+        if (!dhcpON && parts.size() == 2)
+            row.insert(DeviceRowKey::ipport, QStringLiteral("%1:%2").arg(newip, parts.at(1)));
+    });
+    if (record && !dhcpON) {
+        setText(record->device.address, newip);
+        store().putRecord(*record);
+    }
+}

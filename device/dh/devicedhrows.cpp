@@ -1,0 +1,81 @@
+// Rows and their logins.
+#include "device/devicerow.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "device/dh/rowlogin.h"
+
+int CDeviceDH::getLoginDevice(const QString &address, const QString &account, const QString &password,
+                              const QString &port, int loginType, const QString &devicePort)
+{
+    const RowLoginRequest request = {.address = address,
+                                     .account = account,
+                                     .password = password,
+                                     .port = port.toInt(),
+                                     .reachedBy = static_cast<ReachedBy>(loginType),
+                                     .devicePort = devicePort};
+    RowLoginOutcome outcome = loginForRow(m_libraries, request);
+    if (outcome.result == LoginResult::Success) {
+        outcome.row.insert(DeviceRowKey::num, QString::number(store().ipv4Count() + 1));
+        if (outcome.record)
+            store().putRecord(*outcome.record);
+        store().putRow(outcome.row);
+        Q_EMIT signalCDeviceAddSingleDeviceToTable();
+    }
+    return resultCode(outcome.result);
+}
+
+void CDeviceDH::setDefaultAccount(const QString &account, const QString &password)
+{
+    m_defaultAccount = account;
+    m_defaultPassword = password;
+}
+
+bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
+                                 const QString &ipport)
+{
+    const auto write = [&](QJsonObject &row) {
+        row.insert(key, QJsonValue::fromVariant(newValue));
+    };
+    return (!mac.isEmpty() && store().changeRow(mac, write)) || store().changeRowAt(ipport, write);
+}
+
+QVariantMap CDeviceDH::getDeviceInfo(const QString &ipport)
+{
+    return store().rowAt(ipport).toVariantMap();
+}
+
+QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
+{
+    QVariantMap detail = store().row(mac).toVariantMap();
+    const std::optional<sdk::SearchAnswer> record = store().record(mac);
+    if (!record)
+        return detail;
+    const sdk::SearchDeviceInformation &device = record->device;
+    detail.insert(QStringLiteral("submask"), fieldText(device.subnetMask));
+    detail.insert(QStringLiteral("gateway"), fieldText(device.gateway));
+    detail.insert(QStringLiteral("dhcp"), device.dhcpEnabled != 0);
+    detail.insert(QStringLiteral("serial"), fieldText(device.serialNumber));
+    detail.insert(QStringLiteral("localAddress"), fieldText(record->localAddress));
+    return detail;
+}
+
+QVariantMap CDeviceDH::getDeviceDetailByAddress(const QString &ipport)
+{
+    return getDeviceDetail(store().rowAt(ipport).value(DeviceRowKey::mac).toString());
+}
+
+void CDeviceDH::setDeleteDevice(const QString &mac, const QString &ipvision)
+{
+    setBatchDeleteDevice({{mac, true}}, ipvision);
+}
+
+void CDeviceDH::setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion)
+{
+    const QStringList names = macs.keys();
+    const QSet<QString> deleted(names.cbegin(), names.cend());
+    if (ipversion == QLatin1String("IPV6"))
+        store().removeIPv6Rows(deleted);
+    else
+        store().removeRows(deleted);
+    Q_EMIT signalCDeviceAddSingleDeviceToTable();
+}

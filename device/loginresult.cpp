@@ -1,0 +1,82 @@
+#include "device/loginresult.h"
+
+#include "sdk/neterror.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+class ResultNames
+{
+    Q_DECLARE_TR_FUNCTIONS(ResultNames)
+public:
+    static QString of(int code);
+};
+
+QString ResultNames::of(int code)
+{
+    // Configuration operations have two codes of their own.
+    constexpr int capabilitiesUnknown = 10;
+    constexpr int refusedByDevice = 999;
+    switch (code) {
+    case resultCode(LoginResult::Success):
+        return tr("成功");
+    case resultCode(LoginResult::Unknown):
+        return tr("未知");
+    case resultCode(LoginResult::NoSuchAccount):
+        return tr("账号不存在");
+    case resultCode(LoginResult::WrongPassword):
+        return tr("密码错误");
+    case resultCode(LoginResult::AccountLocked):
+        return tr("账号被锁定");
+    case resultCode(LoginResult::AccountLoggedIn):
+        return tr("账号已登录");
+    case resultCode(LoginResult::NetworkFailure):
+        return tr("网络异常");
+    case resultCode(LoginResult::ProtocolMismatch):
+        return tr("协议不匹配");
+    case resultCode(LoginResult::NotInitialised):
+        return tr("设备未初始化");
+    case resultCode(LoginResult::NotSupported):
+        return tr("设备不支持此操作");
+    case resultCode(LoginResult::AlreadyListed):
+        return tr("设备已存在");
+    case capabilitiesUnknown:
+        return tr("获取设备能力失败");
+    case refusedByDevice:
+        return tr("设备拒绝了此操作");
+    default:
+        return tr("未知错误 %1").arg(code);
+    }
+}
+
+} // namespace
+
+LoginResult loginResultOf(std::uint32_t libraryError)
+{
+    constexpr std::uint32_t highBit = 0x80000000;
+    switch (static_cast<sdk::NetError>(libraryError | highBit)) {
+    case sdk::NetError::ProtocolMismatch:
+        return LoginResult::ProtocolMismatch;
+    case sdk::NetError::WrongPassword:
+    case sdk::NetError::WrongPasswordSecure:
+    case sdk::NetError::WrongPasswordTriesLeft:
+        return LoginResult::WrongPassword;
+    case sdk::NetError::NoSuchAccount:
+        return LoginResult::NoSuchAccount;
+    case sdk::NetError::AccountLoggedIn:
+    case sdk::NetError::AccountLoggedInSecure:
+        return LoginResult::AccountLoggedIn;
+    case sdk::NetError::AccountLocked:
+        return LoginResult::AccountLocked;
+    case sdk::NetError::NotSupported:
+        return LoginResult::NotSupported;
+    default:
+        return LoginResult::NetworkFailure;
+    }
+}
+
+QString resultName(int code)
+{
+    return ResultNames::of(code);
+}

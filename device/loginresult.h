@@ -1,0 +1,36 @@
+// Result codes of operations on a device, as rows and the scene carry them.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+/// How a request to a device ended.
+enum class LoginResult : int
+{
+    Unknown = -1, ///< nothing was asked yet
+    Success = 0,
+    NoSuchAccount = 1,
+    WrongPassword = 2,
+    AccountLocked = 3,
+    AccountLoggedIn = 4,
+    NetworkFailure = 5,
+    ProtocolMismatch = 6,
+    NotInitialised = 7,
+    NotSupported = 12, ///< the one failure that the add-device dialog says nothing about
+    AlreadyListed = 13,
+};
+
+/// The result for a failed operation of the network library, whose last error is `libraryError`, with or
+/// without its high bit. Never Success: an error that is not known counts as a network failure.
+[[nodiscard]] LoginResult loginResultOf(std::uint32_t libraryError);
+
+/// The result as rows hold it.
+[[nodiscard]] constexpr int resultCode(LoginResult result)
+{
+    return static_cast<int>(result);
+}
+
+/// What a result code means, in the user's language. Codes that nobody has given a meaning are named by
+/// number.
+[[nodiscard]] QString resultName(int code);

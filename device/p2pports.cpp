@@ -1,0 +1,149 @@
+#include "device/p2pports.h"
+
+#include "device/logging.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+/// The same wherever the services are, so it is not a setting.
+constexpr const char *serverSecret = "tamsvelorink";
+
+std::shared_ptr<sdk::P2PAgentLibrary> started(std::shared_ptr<sdk::P2PAgentLibrary> library,
+                                              const P2PSettings &settings,
+                                              sdk::P2PAgentMessageHandler handler)
+{
+    if (!library)
+        return nullptr;
+    const QByteArray tunnelHost = settings.tunnelHost.toLocal8Bit();
+    const QByteArray relayHost = settings.relayHost.toLocal8Bit();
+    const QByteArray domain = settings.domain.toLocal8Bit();
+    const QByteArray restAddress = settings.restAddress.toLocal8Bit();
+    const QByteArray mediaHost = settings.mediaHost.toLocal8Bit();
+    const sdk::P2PAgentServices services = {.tunnelHost = tunnelHost.constData(),
+                                            .tunnelPort = settings.tunnelPort,
+                                            .relayHost = relayHost.constData(),
+                                            .relayPort = settings.relayPort,
+                                            .serverSecret = serverSecret,
+                                            .domain = domain.constData(),
+                                            .restAddress = restAddress.constData(),
+                                            .mediaHost = mediaHost.constData(),
+                                            .mediaPort = settings.mediaPort};
+    if (!library->OAgent_ClientInit(services)) {
+        qCWarning(logDevice) << "P2PPorts: the port agent cannot be started with tunnel"
+                             << settings.tunnelHost << settings.tunnelPort << "and relay"
+                             << settings.relayHost << settings.relayPort;
+        return nullptr;
+    }
+    library->OAgent_SetMessageCallback(handler, nullptr);
+    return library;
+}
+
+} // namespace
+
+P2PSettings P2PSettings::builtIn()
+{
+    return {.tunnelHost = QStringLiteral("tunnel.kelda.example"),
+            .tunnelPort = 7885,
+            .relayHost = QStringLiteral("relay.kelda.example"),
+            .relayPort = 443,
+            .domain = QStringLiteral("kelda"),
+            .restAddress = QStringLiteral("https://api.kelda.example"),
+            .mediaHost = QStringLiteral("video.kelda.example"),
+            .mediaPort = 8300};
+}
+
+P2PSettings P2PSettings::read(const QString &file)
+{
+    if (!QFileInfo::exists(file))
+        return builtIn();
+    const QSettings settings(file, QSettings::IniFormat);
+    const auto text = [&settings](const char *key) {
+        return settings.value(QLatin1String(key)).toString();
+    };
+    const auto number = [&text](const char *key) {
+        return text(key).toInt();
+    };
+    return {.tunnelHost = text("p2p/tunnel"),
+            .tunnelPort = number("p2p/tunnel_port"),
+            .relayHost = text("p2p/trans"),
+            .relayPort = number("p2p/trans_port"),
+            .domain = text("p2p/domain"),
+            .restAddress = text("p2p/saas"),
+            .mediaHost = text("p2p/mnserver"),
+            .mediaPort = number("p2p/mnport")};
+}
+
+P2PPorts::P2PPorts(std::shared_ptr<sdk::P2PAgentLibrary> library, const P2PSettings &settings,
+                   sdk::P2PAgentMessageHandler handler)
+    : m_library(started(std::move(library), settings, handler))
+{
+}
+
+P2PPorts::~P2PPorts()
+{
+    if (m_library)
+        m_library->OAgent_ClientRelease();
+}
+
+int P2PPorts::portFor(const QString &deviceId, int devicePort, int wish)
+{
+    if (wish > 0 && wish != devicePort)
+        return 0;
+    if (!m_library)
+        return 0;
+
+    std::array<std::int32_t, sdk::maximumLocalPorts> ports{};
+    std::int32_t count = 0;
+    if (!m_library->OAgent_ClientGetDeviceLocalPort(deviceId.toLocal8Bit().constData(), devicePort,
+                                                    ports.data(), static_cast<std::int32_t>(ports.size()),
+                                                    count))
+        count = 0;
+    count = std::clamp(count, 0, static_cast<std::int32_t>(ports.size()));
+
+    if (count == 0)
+        return addPort(deviceId, devicePort, 0);
+    if (count == 1) {
+        // A mapping onto the device's own port number is kept for those who wish for it.
+        const bool sameNumber = ports[0] == devicePort;
+        if (sameNumber)
+            return wish == 0 ? addPort(deviceId, devicePort, 0) : ports[0];
+        return wish == 0 ? ports[0] : addPort(deviceId, devicePort, wish);
+    }
+    const auto end = ports.begin() + count;
+    const auto other =
+        std::find_if(ports.begin(), end, [devicePort](std::int32_t port) { return port != devicePort; });
+    return other == end ? 0 : *other;
+}
+
+int P2PPorts::addPort(const QString &deviceId, int devicePort, int localPort)
+{
+    std::int32_t port = localPort;
+    constexpr std::int32_t noFlag = 0;
+    return m_library->OAgent_ClientAddPort(deviceId.toLocal8Bit().constData(), devicePort, port, noFlag)
+               ? port
+               : 0;
+}
+
+void P2PPorts::release(int localPort)
+{
+    if (m_library && localPort > 0)
+        m_library->OAgent_ClientDelPort(localPort);
+}
+
+void P2PPorts::pair(int loginPort, int webPort)
+{
+    if (loginPort > 0)
+        m_webPorts.insert(loginPort, webPort);
+}
+
+void P2PPorts::releaseDevice(int loginPort)
+{
+    release(loginPort);
+    release(m_webPorts.take(loginPort));
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "sdk/p2pagentlibrary.h"
+
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+/// Where the services of the port agent are.
+struct P2PSettings
+{
+    QString tunnelHost;
+    int tunnelPort = 0;
+    QString relayHost;
+    int relayPort = 0;
+    QString domain;
+    QString restAddress;
+    QString mediaHost;
+    int mediaPort = 0;
+
+    /// What is used where there is no settings file.
+    [[nodiscard]] static P2PSettings builtIn();
+
+    /// Reads every key from the file, in the settings reader's INI format; built-in values only when there is
+    /// no such file. A key that is missing reads as an empty text or 0.
+    [[nodiscard]] static P2PSettings read(const QString &file);
+};
+
+/// The local ports that lead to devices behind NAT: starts the agent, hands ports out, knows which belong
+/// together, and stops the agent when it is destroyed. Scene's thread only.
+class P2PPorts
+{
+public:
+    /// Without a library every request for a port fails.
+    P2PPorts(std::shared_ptr<sdk::P2PAgentLibrary> library, const P2PSettings &settings,
+             sdk::P2PAgentMessageHandler handler);
+    ~P2PPorts();
+    P2PPorts(const P2PPorts &) = delete;
+    P2PPorts &operator=(const P2PPorts &) = delete;
+
+    /// A local port that leads to `devicePort` of the device, 0 on failure. A wished port is honoured only
+    /// when it equals the device port; 0 wishes for none.
+    [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
+
+    /// Removes a mapping.
+    void release(int localPort);
+
+    /// Remembers that a device's web page is reached by `webPort` while its service is by `loginPort`.
+    void pair(int loginPort, int webPort);
+
+    /// The web port that belongs to a login port, 0 when there is none.
+    [[nodiscard]] int webPortOf(int loginPort) const { return m_webPorts.value(loginPort); }
+
+    /// Releases the two ports of a device.
+    void releaseDevice(int loginPort);
+
+private:
+    [[nodiscard]] int addPort(const QString &deviceId, int devicePort, int localPort);
+
+    const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null when the agent could not be started
+    QHash<int, int> m_webPorts;                            ///< by login port
+};

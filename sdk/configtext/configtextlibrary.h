@@ -1,0 +1,16 @@
+// The configuration library's roles on the project's own tables.
+#pragma once
+
+#include "sdk/configlibrary.h"
+
+namespace sdk {
+
+/// Has no state. configtext.h describes the texts.
+class ConfigTextLibrary : public ConfigLibrary
+{
+public:
+    bool ConfigParseData(std::string_view name, std::string_view text, void *record, std::uint32_t recordSize,
+                         std::uint32_t &returnedSize) override;
+};
+
+} // namespace sdk

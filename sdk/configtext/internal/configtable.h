@@ -1,0 +1,39 @@
+// What each configuration text holds, as tables: a new configuration is a new table and no new code.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace sdk {
+
+enum class ConfigFieldKind
+{
+    Number, ///< std::int32_t from `minimum` to `maximum`; a whole number in JSON
+    Flag,   ///< std::int32_t 0 or 1; true or false in JSON
+    Text,   ///< `size` chars, UTF-8, ended by a zero; a text in JSON
+};
+
+/// One key of a configuration and the field of the record that it fills.
+struct ConfigField
+{
+    const char *key;
+    std::size_t offset; ///< in the record
+    ConfigFieldKind kind;
+    std::int32_t minimum = 0;
+    std::int32_t maximum = 0;
+    std::size_t size = 0;
+};
+
+struct ConfigTable
+{
+    std::string_view name;    ///< of the configuration
+    std::uint32_t recordSize; ///< the record begins with its own size, an std::uint32_t
+    std::span<const ConfigField> fields;
+};
+
+/// Null for an unknown name.
+[[nodiscard]] const ConfigTable *configTable(std::string_view name);
+
+} // namespace sdk

@@ -1,0 +1,105 @@
+// Queries and configuration texts of the simulated network library.
+#include "sdk/clock.h"
+#include "sdk/demo/demonetlibrary.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/internal/deviceanswers.h"
+#include "sdk/demo/internal/devicereach.h"
+
+#include <cstring>
+
+namespace sdk::demo {
+
+std::optional<SceneDevice> DemoNetLibrary::askedDevice(const CallGate::Call &call,
+                                                       const std::optional<DemoSession> &session,
+                                                       std::chrono::milliseconds wait)
+{
+    if (!call.isAllowed()) {
+        m_error.fail(DemoError::NotPrepared);
+        return std::nullopt;
+    }
+    if (!session) {
+        m_error.fail(DemoError::UnknownHandle);
+        return std::nullopt;
+    }
+    std::optional<SceneDevice> device;
+    if (isReachable(m_site, *session))
+        device = m_site.device(session->mac);
+    if (!device) {
+        m_site.clock().wait(bounded(wait), call.stop());
+        m_error.fail(NetError::NetworkFailure);
+    }
+    return device;
+}
+
+bool DemoNetLibrary::NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel,
+                                    void *buffer, std::uint32_t bufferSize, std::uint32_t &returnedSize,
+                                    std::chrono::milliseconds wait)
+{
+    const CallGate::Call call(m_gate);
+    const std::optional<DemoSession> session = m_sessions.session(loginHandle);
+    record("NetQueryConfig",
+           {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
+            {QStringLiteral("command"), static_cast<int>(command)},
+            {QStringLiteral("channel"), channel},
+            {QStringLiteral("bufferSize"), static_cast<qint64>(bufferSize)},
+            {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
+           session.value_or(DemoSession()).mac);
+    returnedSize = 0;
+    const std::optional<SceneDevice> device = askedDevice(call, session, wait);
+    if (!device)
+        return false;
+    const auto answer = [&](const auto &block) {
+        if (!buffer || bufferSize < sizeof(block))
+            return m_error.fail(DemoError::WrongSize);
+        std::memcpy(buffer, &block, sizeof(block));
+        returnedSize = sizeof(block);
+        return true;
+    };
+    switch (command) {
+    case QueryCommand::DeviceAttributes:
+        return answer(deviceAttributes(*device));
+    case QueryCommand::NetworkServices:
+        return answer(networkServices(*device));
+    }
+    return m_error.fail(NetError::NotSupported);
+}
+
+bool DemoNetLibrary::NetGetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel,
+                                     char *text, std::uint32_t textSize, std::int32_t &error,
+                                     std::chrono::milliseconds wait)
+{
+    const CallGate::Call call(m_gate);
+    const std::optional<DemoSession> session = m_sessions.session(loginHandle);
+    const QString wanted = QString::fromLocal8Bit(name);
+    record("NetGetNewConfig",
+           {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
+            {QStringLiteral("name"), wanted},
+            {QStringLiteral("channel"), channel},
+            {QStringLiteral("textSize"), static_cast<qint64>(textSize)},
+            {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
+           session.value_or(DemoSession()).mac);
+    const bool isFetched = fetchConfig(call, session, wanted, text, textSize, wait);
+    error = isFetched ? 0 : static_cast<std::int32_t>(m_error.last());
+    return isFetched;
+}
+
+bool DemoNetLibrary::fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
+                                 const QString &name, char *text, std::uint32_t textSize,
+                                 std::chrono::milliseconds wait)
+{
+    const std::optional<SceneDevice> device = askedDevice(call, session, wait);
+    if (!device)
+        return false;
+    const std::optional<FaultSetting> refusal = device->fault(Fault::RefusesConfiguration);
+    const std::optional<QByteArray> answer = configurationText(*device, name);
+    if (!answer || (refusal && refusal->text == name))
+        return m_error.fail(NetError::NotSupported);
+    // The constant data of a byte array end with a zero.
+    const auto size = static_cast<std::size_t>(answer->size()) + 1;
+    if (!text || textSize < size)
+        return m_error.fail(DemoError::WrongSize);
+    std::memcpy(text, answer->constData(), size);
+    return true;
+}
+
+} // namespace sdk::demo

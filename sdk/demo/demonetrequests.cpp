@@ -1,0 +1,71 @@
+// Requests of the simulated network library to devices that nobody is logged in to.
+#include "sdk/clock.h"
+#include "sdk/demo/demonetlibrary.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/internal/addresstext.h"
+#include "sdk/demo/internal/devicechanges.h"
+#include "sdk/demo/internal/fieldtext.h"
+
+namespace sdk::demo {
+
+bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
+                                std::chrono::milliseconds wait)
+{
+    if (!call.isAllowed())
+        return m_error.fail(DemoError::NotPrepared);
+    const std::optional<SceneDevice> device = m_site.device(mac);
+    if (device && !device->isRemote && (fromOtherSegment || !device->inOtherSegment) &&
+        !device->hasFault(Fault::NoAnswer))
+        return true;
+    const bool isFullWait = m_site.clock().wait(bounded(wait), call.stop());
+    return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
+}
+
+bool DemoNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
+                                          std::chrono::milliseconds wait, const char *localAddress)
+{
+    const CallGate::Call call(m_gate);
+    const QString mac = canonicalMac(textOf(input.mac));
+    const SceneAccount account = {textOf(input.account), textOf(input.password)};
+    record("NetInitDeviceAccount",
+           {{QStringLiteral("size"), static_cast<qint64>(input.size)},
+            {QStringLiteral("mac"), textOf(input.mac)},
+            {QStringLiteral("account"), account.user},
+            {QStringLiteral("passwordLength"), account.password.size()},
+            {QStringLiteral("passwordResetWay"), input.passwordResetWay},
+            {QStringLiteral("localAddress"), QString::fromLocal8Bit(localAddress)},
+            {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
+           mac);
+    if (input.size != sizeof(InitDeviceAccountInput) || output.size != sizeof(DeviceRequestOutput))
+        return m_error.fail(DemoError::WrongSize);
+    if (!isAnswered(call, mac, false, wait))
+        return false;
+    const NetError error = giveFirstAccount(m_site, mac, account);
+    return error == NetError::None || m_error.fail(error);
+}
+
+bool DemoNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
+                                             std::chrono::milliseconds wait)
+{
+    const CallGate::Call call(m_gate);
+    const SearchDeviceInformation &wanted = input.device;
+    const QString mac = canonicalMac(textOf(wanted.mac));
+    record("NetModifyDeviceBySearch",
+           {{QStringLiteral("size"), static_cast<qint64>(input.size)},
+            {QStringLiteral("mac"), textOf(wanted.mac)},
+            {QStringLiteral("ipVersion"), wanted.ipVersion},
+            {QStringLiteral("address"), textOf(wanted.address)},
+            {QStringLiteral("subnetMask"), textOf(wanted.subnetMask)},
+            {QStringLiteral("gateway"), textOf(wanted.gateway)},
+            {QStringLiteral("dhcpEnabled"), wanted.dhcpEnabled},
+            {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
+           mac);
+    if (input.size != sizeof(ModifyDeviceInput) || output.size != sizeof(DeviceRequestOutput))
+        return m_error.fail(DemoError::WrongSize);
+    if (!isAnswered(call, mac, true, wait))
+        return false;
+    const NetError error = giveAddress(m_site, mac, wanted);
+    return error == NetError::None || m_error.fail(error);
+}
+
+} // namespace sdk::demo

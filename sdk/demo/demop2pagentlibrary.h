@@ -1,0 +1,73 @@
+// The port agent's roles on a simulated site.
+#pragma once
+
+#include "sdk/demo/internal/agentevents.h"
+#include "sdk/p2pagentlibrary.h"
+
+#include <QJsonObject>
+#include <QString>
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+namespace sdk::demo {
+
+class DemoSite;
+class LoopbackListener;
+
+/// Where a local port leads.
+struct Tunnel
+{
+    QString mac;
+    int devicePort;
+    bool isBroken; ///< the local port is there still, but what goes in does not come out
+};
+
+/// Maps ports of the site's devices that have a P2P ID. The local ports are real ones of 127.0.0.1. Every
+/// request goes to the site's record, the server secret as its length only.
+class DemoP2PAgentLibrary : public P2PAgentLibrary
+{
+public:
+    /// `site` must outlive the agent.
+    explicit DemoP2PAgentLibrary(DemoSite &site);
+    ~DemoP2PAgentLibrary() override;
+
+    bool OAgent_ClientInit(const P2PAgentServices &services) override;
+    void OAgent_SetMessageCallback(P2PAgentMessageHandler handler, void *user) override;
+    bool OAgent_ClientGetDeviceLocalPort(const char *deviceId, std::int32_t devicePort,
+                                         std::int32_t *localPorts, std::int32_t capacity,
+                                         std::int32_t &count) override;
+    bool OAgent_ClientAddPort(const char *deviceId, std::int32_t devicePort, std::int32_t &localPort,
+                              std::int32_t flag) override;
+    bool OAgent_ClientDelPort(std::int32_t localPort) override;
+    void OAgent_ClientRelease() override;
+
+    /// Where `localPort` leads; nothing when the agent has not given it.
+    [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const;
+
+    /// Breaks the tunnel behind `localPort`, for good, with its event. Returns false when there is none.
+    bool breakTunnel(int localPort);
+
+private:
+    struct Mapping
+    {
+        QByteArray deviceId;
+        Tunnel tunnel;
+        std::unique_ptr<LoopbackListener> listener;
+    };
+
+    void record(const char *operation, const QJsonObject &request, const QString &mac = {}) const;
+    [[nodiscard]] QString macOf(const QString &deviceId) const;
+    void release();
+
+    DemoSite &m_site;
+    AgentEvents m_events;
+    std::mutex m_lifeMutex; // start and release, one at a time
+    mutable std::mutex m_mutex;
+    bool m_isStarted = false;
+    std::vector<Mapping> m_mappings; // in the order in which they were made
+};
+
+} // namespace sdk::demo

@@ -1,0 +1,91 @@
+#include "sdk/demo/internal/deviceanswers.h"
+
+#include "sdk/configrecords.h"
+#include "sdk/configtext/configtext.h"
+#include "sdk/demo/internal/fieldtext.h"
+
+#include <QJsonDocument>
+
+namespace sdk::demo {
+
+namespace {
+
+constexpr int rtspPort = 554;
+constexpr int usualHttpsPort = 443;
+constexpr int maximumConnections = 10;
+
+NetworkRecord networkRecord(const SceneDevice &device)
+{
+    NetworkRecord record = {};
+    record.size = sizeof(record);
+    record.dhcpEnabled = device.dhcp ? 1 : 0;
+    FieldWriter(device).write(record.hostName, device.name);
+    writePlain(record.mac, device.mac);
+    if (device.address.isEmpty()) {
+        writePlain(record.address, device.ipv6);
+        writePlain(record.subnetMask, QString::number(device.ipv6PrefixLength));
+    } else {
+        writePlain(record.address, device.address);
+        writePlain(record.subnetMask, device.mask);
+        writePlain(record.gateway, device.gateway);
+    }
+    return record;
+}
+
+std::optional<QByteArray> ownText(const SceneDevice &device, const QString &name)
+{
+    if (name == QLatin1String("Network")) {
+        const NetworkRecord record = networkRecord(device);
+        return packConfigText("Network", &record, sizeof(record));
+    }
+    if (name == QLatin1String("DVRIP")) {
+        const ServiceRecord record = {sizeof(record), device.port, maximumConnections, {}};
+        return packConfigText("DVRIP", &record, sizeof(record));
+    }
+    if (name == QLatin1String("Https")) {
+        const HttpsRecord record = {sizeof(record), 0, usualHttpsPort, 0};
+        return packConfigText("Https", &record, sizeof(record));
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+DeviceAttributes deviceAttributes(const SceneDevice &device)
+{
+    DeviceAttributes attributes = {};
+    attributes.size = sizeof(attributes);
+    const FieldWriter writer(device);
+    writer.write(attributes.serialNumber, device.serial);
+    writer.write(attributes.softwareVersion, device.version);
+    writer.write(attributes.detailModel, device.model);
+    writePlain(attributes.mac, device.mac);
+    attributes.videoInputs = static_cast<std::int32_t>(device.channels.size());
+    attributes.alarmInputs = device.capabilities.value(QLatin1String("alarmInputs")).toInt();
+    attributes.disks = device.capabilities.value(QLatin1String("disks")).toInt();
+    return attributes;
+}
+
+NetworkServices networkServices(const SceneDevice &device)
+{
+    NetworkServices services = {};
+    services.size = sizeof(services);
+    services.webPort = device.httpPort;
+    services.servicePort = device.port;
+    services.rtspPort = rtspPort;
+    return services;
+}
+
+std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name)
+{
+    std::optional<QByteArray> text = ownText(device, name);
+    const QJsonObject laidOver = device.configuration.value(name).toObject();
+    if (!text || laidOver.isEmpty())
+        return text;
+    QJsonObject object = QJsonDocument::fromJson(*text).object().value(name).toObject();
+    for (auto entry = laidOver.constBegin(); entry != laidOver.constEnd(); ++entry)
+        object.insert(entry.key(), entry.value());
+    return QJsonDocument(QJsonObject{{name, object}}).toJson(QJsonDocument::Compact);
+}
+
+} // namespace sdk::demo

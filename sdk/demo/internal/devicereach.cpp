@@ -1,0 +1,59 @@
+#include "sdk/demo/internal/devicereach.h"
+
+#include "sdk/demo/demop2pagentlibrary.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/internal/addresstext.h"
+
+namespace sdk::demo {
+
+namespace {
+
+DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int localPort)
+{
+    const std::optional<SceneDevice> device = site.device(tunnel.mac);
+    if (tunnel.isBroken || !device || device->hasFault(Fault::NoAnswer))
+        return {};
+    if (tunnel.devicePort != device->port)
+        return {DeviceReach::Kind::Refuses};
+    return {DeviceReach::Kind::Answers, {tunnel.mac, localPort}};
+}
+
+} // namespace
+
+DeviceReach reach(const DemoSite &site, const QString &address, int port)
+{
+    const bool isLoopback = address == QLatin1String("127.0.0.1");
+    if (isLoopback) {
+        if (const std::optional<Tunnel> tunnel = site.portAgent().tunnel(port))
+            return reachThroughTunnel(site, *tunnel, port);
+    }
+    const QString ipv6 = canonicalIpv6Address(address);
+    const bool isIpv4 = isIpv4Address(address) && address != QLatin1String("0.0.0.0");
+    DeviceReach found;
+    if (isLoopback)
+        found.kind = DeviceReach::Kind::Refuses; // this computer is always there
+    site.visitDevices([&](const SceneDevice &device) {
+        const bool isHere = ipv6.isEmpty() ? isIpv4 && device.address == address : device.ipv6 == ipv6;
+        if (!isHere || device.isRemote || device.hasFault(Fault::NoAnswer) ||
+            found.kind == DeviceReach::Kind::Answers)
+            return;
+        if (device.port == port)
+            found = {DeviceReach::Kind::Answers, {device.mac, 0}};
+        else
+            found.kind = DeviceReach::Kind::Refuses;
+    });
+    return found;
+}
+
+bool isReachable(const DemoSite &site, const DemoSession &session)
+{
+    if (session.localPort == 0) {
+        const std::optional<SceneDevice> device = site.device(session.mac);
+        return device && !device->hasFault(Fault::NoAnswer);
+    }
+    const std::optional<Tunnel> tunnel = site.portAgent().tunnel(session.localPort);
+    return tunnel && tunnel->mac == session.mac &&
+           reachThroughTunnel(site, *tunnel, session.localPort).kind == DeviceReach::Kind::Answers;
+}
+
+} // namespace sdk::demo

@@ -1,0 +1,29 @@
+// What answers at an address and port.
+#pragma once
+
+#include "sdk/demo/internal/demosessions.h"
+
+namespace sdk::demo {
+
+class DemoSite;
+
+struct DeviceReach
+{
+    enum class Kind
+    {
+        Answers, ///< `session` leads to the device
+        Refuses, ///< there is somebody, but not at this port
+        Silent,  ///< nothing answers
+    };
+    Kind kind = Kind::Silent;
+    DemoSession session = {};
+};
+
+/// Looks for the first device of the scene at `address` (IPv4 or IPv6), or behind the local port of the port
+/// agent when the address is 127.0.0.1.
+[[nodiscard]] DeviceReach reach(const DemoSite &site, const QString &address, int port);
+
+/// Whether the device of `session` can be talked to still.
+[[nodiscard]] bool isReachable(const DemoSite &site, const DemoSession &session);
+
+} // namespace sdk::demo

@@ -1,0 +1,98 @@
+// Blocks of logging in to a device and of the device's answers that a login is followed by.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace sdk {
+
+/// What a device tells about itself when it accepts a login.
+struct LoginDeviceInformation
+{
+    std::array<char, 48> serialNumber;
+    std::array<char, 32> model; ///< model text, need not end with a zero
+    std::int32_t loginKind;     ///< how the session came about: 0 directly, 1 through a tunnel
+    std::uint8_t deviceType;    ///< one of DeviceTypeCode, others exist
+    std::uint8_t reserved1;
+    std::uint16_t channelCount; ///< video inputs
+    std::array<std::uint8_t, 40> reserved;
+};
+static_assert(sizeof(LoginDeviceInformation) == 128);
+
+/// LoginDeviceInformation::deviceType of the kinds of devices that have a name of their own.
+enum class DeviceTypeCode : std::uint8_t
+{
+    SpeedDome = 19,
+    Camera = 20,
+    VideoServer = 29,
+    VideoServerSecond = 30,
+    Recorder = 31,
+    TrafficCamera = 40,
+    VideoWall = 41,
+    ComputerRecorder = 42,
+};
+
+/// How NetLoginSecure opens its session.
+enum class LoginMode : std::int32_t
+{
+    Direct = 0,
+    Tunnel = 19, ///< through a port of this computer that leads to the device
+};
+
+/// Given to NetLoginSecure.
+struct LoginSecureInput
+{
+    std::uint32_t size; ///< sizeof(LoginSecureInput)
+    std::int32_t port;
+    std::array<char, 64> address;
+    std::array<char, 64> account;
+    std::array<char, 64> password;
+    LoginMode mode;
+    std::array<std::uint8_t, 60> reserved;
+};
+static_assert(sizeof(LoginSecureInput) == 264);
+
+/// Filled by NetLoginSecure.
+struct LoginSecureOutput
+{
+    std::uint32_t size;  ///< sizeof(LoginSecureOutput), set by the caller
+    std::uint32_t error; ///< the code that NetGetLastError returns as well, 0 on success
+    LoginDeviceInformation device;
+};
+static_assert(sizeof(LoginSecureOutput) == 136);
+
+/// Commands of NetQueryConfig.
+enum class QueryCommand : std::uint32_t
+{
+    DeviceAttributes = 1, ///< DeviceAttributes
+    NetworkServices = 91, ///< NetworkServices
+};
+
+/// Answer to QueryCommand::DeviceAttributes.
+struct DeviceAttributes
+{
+    std::uint32_t size;
+    std::array<char, 48> serialNumber;
+    std::array<char, 64> softwareVersion;
+    std::array<char, 32> detailModel;
+    std::array<char, 40> mac;
+    std::int32_t videoInputs;
+    std::int32_t alarmInputs;
+    std::int32_t disks;
+    std::array<std::uint8_t, 12> reserved;
+};
+static_assert(sizeof(DeviceAttributes) == 212);
+
+/// Answer to QueryCommand::NetworkServices.
+struct NetworkServices
+{
+    std::uint32_t size;
+    std::int32_t webPort; ///< of the web page without TLS, 0 when it is not said
+    std::int32_t servicePort;
+    std::int32_t rtspPort;
+    std::array<std::uint8_t, 3024> reserved;
+};
+static_assert(sizeof(NetworkServices) == 3040);
+
+} // namespace sdk

@@ -1,0 +1,26 @@
+// Error codes that operations of the network library leave for NetGetLastError.
+#pragma once
+
+#include <cstdint>
+
+namespace sdk {
+
+/// Codes that callers tell apart. Others exist: what is not named here is some other failure.
+enum class NetError : std::uint32_t
+{
+    None = 0,
+    NetworkFailure = 0x80000002,   ///< the request could not be sent or its answer not be read
+    ProtocolMismatch = 0x80000003, ///< the device speaks another version of the protocol
+    NotSupported = 0x80000013,     ///< the device refuses this kind of request as it stands
+    WrongPassword = 0x80000064,
+    NoSuchAccount = 0x80000065,
+    AccountLoggedIn = 0x80000067,        ///< the account has a session already
+    AccountLocked = 0x80000068,          ///< too many wrong passwords
+    ConnectTimeout = 0x8000006B,         ///< nothing answers at the address
+    ConnectFailed = 0x8000006C,          ///< the address answers and refuses
+    WrongPasswordSecure = 0x80000096,    ///< as WrongPassword, said by the newer kind of login
+    WrongPasswordTriesLeft = 0x80000097, ///< the same, with tries left before the account locks
+    AccountLoggedInSecure = 0x80000098,
+};
+
+} // namespace sdk

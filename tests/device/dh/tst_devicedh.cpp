@@ -1,0 +1,244 @@
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/steppableclock.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Moves a stepped clock on whenever somebody waits for it, as time does.
+class FlowingClock
+{
+public:
+    explicit FlowingClock(sdk::demo::SteppableClock &clock)
+        : m_thread([&clock](const std::stop_token &stop) {
+              while (!stop.stop_requested()) {
+                  if (clock.waiters() > 0)
+                      clock.advance(50ms);
+                  std::this_thread::yield();
+              }
+          })
+    {
+    }
+
+private:
+    std::jthread m_thread;
+};
+
+const QString camera = QStringLiteral("02:1a:c5:00:00:01");
+const QString newCamera = QStringLiteral("02:1a:c5:00:00:02");
+const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
+
+sdk::demo::SceneDevice device(const QString &mac, const QString &address)
+{
+    sdk::demo::SceneDevice made;
+    made.mac = mac;
+    made.address = address;
+    made.mask = QStringLiteral("255.255.255.0");
+    made.gateway = QStringLiteral("192.168.1.1");
+    made.port = 37777;
+    made.httpPort = 8080;
+    made.name = QStringLiteral("东门");
+    made.type = QStringLiteral("IPC");
+    made.model = QStringLiteral("B-2230-IR");
+    made.version = QStringLiteral("2.840.1");
+    made.serial = QStringLiteral("S1");
+    made.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
+    made.latency = 20ms;
+    return made;
+}
+
+} // namespace
+
+/// What the scene asks of devices, on a simulated site.
+class TestDeviceDH : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
+    std::shared_ptr<sdk::demo::DemoSite> m_site;
+    std::unique_ptr<CDeviceFactory> m_factory;
+    std::unique_ptr<FlowingClock> m_time;
+
+    void search()
+    {
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_factory->startSearch("dh");
+        QVERIFY(done.wait(20000));
+    }
+
+    QJsonObject row(const QString &mac) const
+    {
+        for (const QVariant &value : m_factory->filterData("dh", "nofilter")) {
+            if (value.toJsonObject().value("mac").toString() == mac)
+                return value.toJsonObject();
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        sdk::demo::Scene scene;
+        scene.devices = {device(camera, "192.168.1.10"), device(newCamera, "192.168.1.11"),
+                         device(recorder, "192.168.1.12")};
+        scene.devices[1].initialisation = sdk::InitialisationBits::Uninitialised;
+        scene.devices[1].accounts.clear();
+        scene.devices[1].resetWay = 3;
+        scene.devices[2].type = "NVR";
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        m_site = sdk::demo::DemoSite::create(scene, m_clock);
+        const auto store = std::make_shared<DeviceStore>(m_clock);
+        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
+            {"dh", [this, store] {
+                 return std::make_shared<CDeviceDH>(store, m_site->libraries(),
+                                                    [] { return SearchSettings(); });
+             }}});
+        m_time = std::make_unique<FlowingClock>(*m_clock);
+    }
+
+    void cleanup()
+    {
+        m_factory.reset();
+        m_time.reset();
+    }
+
+    void aLoginMakesARow()
+    {
+        QSignalSpy added(m_factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.12", "admin", "secret1", "37777"), 0);
+        QCOMPARE(added.size(), 1);
+        const QJsonObject made = row(recorder);
+        QCOMPARE(made.value("username").toString(), "admin");
+        QCOMPARE(made.value("password").toString(), "secret1");
+        QCOMPARE(made.value("loginType").toString(), "IP");
+        QCOMPARE(made.value("type").toString(), "NVR");
+        QCOMPARE(made.value("ipport").toString(), "192.168.1.12:37777");
+        QCOMPARE(made.value("name").toString(), "东门");
+        QCOMPARE(made.value("vision").toString(), "v2.840.1");
+        QCOMPARE(made.value("num").toString(), "1");
+        QCOMPARE(made.value("res").toInt(), -1);
+        QCOMPARE(made.value("httpport").toInt(), 8080);
+        QVERIFY(made.value("state").toBool());
+        QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QCOMPARE(m_factory->getDeviceDetail("dh", recorder).value("submask").toString(), "255.255.255.0");
+    }
+
+    void aLoginThatFailsSaysWhyAndAddsNothing_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<QString>("account");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<int>("result");
+        QTest::newRow("no account") << "192.168.1.10"
+                                    << "root"
+                                    << "secret1" << 1;
+        QTest::newRow("wrong password") << "192.168.1.10"
+                                        << "admin"
+                                        << "secret2" << 2;
+        QTest::newRow("nobody there") << "192.168.1.99"
+                                      << "admin"
+                                      << "secret1" << 5;
+        QTest::newRow("no address") << ""
+                                    << "admin"
+                                    << "secret1" << 5;
+    }
+
+    void aLoginThatFailsSaysWhyAndAddsNothing()
+    {
+        QFETCH(QString, address);
+        QFETCH(QString, account);
+        QFETCH(QString, password);
+        QTEST(m_factory->getLoginDevice("dh", address, account, password, "37777"), "result");
+        QVERIFY(m_factory->filterData("dh", "nofilter").isEmpty());
+        QVERIFY(m_site->requests().of("NetQueryConfig").isEmpty());
+    }
+
+    void aNewAddressIsWhereTheDeviceAnswersNext()
+    {
+        search();
+        m_factory->modifyIP("dh", camera, "192.168.1.77", "255.255.0.0", "192.168.1.254", false);
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
+        QCOMPARE(row(camera).value("res").toInt(), 0);
+        search();
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
+        QCOMPARE(m_factory->getDeviceDetail("dh", camera).value("submask").toString(), "255.255.0.0");
+        QCOMPARE(m_factory->getDeviceDetail("dh", camera).value("gateway").toString(), "192.168.1.254");
+    }
+
+    void addressesAreNotSentWhereTheyMustNotBe()
+    {
+        search();
+        m_factory->modifyIP("dh", newCamera, "192.168.1.78", "255.255.255.0", "192.168.1.1", false);
+        QCOMPARE(row(newCamera).value("res").toInt(), 7);
+        QCOMPARE(row(newCamera).value("ipport").toString(), "192.168.1.11:37777");
+        m_factory->modifyIP("dh", "02:1a:c5:ff:ff:ff", "192.168.1.79", "", "", false);
+        QVERIFY(m_site->requests().of("NetModifyDeviceBySearch").isEmpty());
+
+        m_factory->modifyIP("dh", camera, "not an address", "", "", true); // DHCP ignores the addresses
+        QCOMPARE(row(camera).value("res").toInt(), 0);
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.10:37777");
+        QVERIFY(m_site->device(camera)->dhcp);
+    }
+
+    void aRefusedAddressIsShownWithItsResult()
+    {
+        search();
+        m_site->removeDevice(camera); // it has gone since
+        m_factory->modifyIP("dh", camera, "192.168.1.80", "255.255.255.0", "192.168.1.1", false);
+        QCOMPARE(row(camera).value("res").toInt(), 5);
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.80:37777");
+    }
+
+    void aFirstPasswordIsThePassword()
+    {
+        search();
+        QVERIFY(!row(newCamera).value("state").toBool());
+        m_factory->setInitAccount("dh", newCamera, "admin", "first-1");
+        QCOMPARE(row(newCamera).value("res").toInt(), 0);
+        search();
+        QVERIFY(row(newCamera).value("state").toBool());
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "first-2", "37777"), 2);
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "first-1", "37777"), 0);
+
+        m_factory->setInitAccount("dh", camera, "admin", "first-1"); // has a password already
+        QVERIFY(row(camera).value("res").toInt() > 0);
+    }
+
+    void theSessionIsReplacedByTheNext()
+    {
+        QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
+        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1"), 0);
+        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "wrong"), 2);
+        QCOMPARE(m_site->requests().of("NetLogout").size(), 0); // the session that was there stays
+        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "secret1"), 0);
+        QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QCOMPARE(result.size(), 3);
+        m_factory.reset();
+        QCOMPARE(m_site->requests().of("NetLogout").size(), 2);
+    }
+
+    void rowsAreChangedAndDeleted()
+    {
+        search();
+        QVERIFY(m_factory->updataDeviceInfo("dh", "password", "p", camera, ""));
+        QVERIFY(m_factory->updataDeviceInfo("dh", "username", "u", "", "192.168.1.10:37777"));
+        QVERIFY(!m_factory->updataDeviceInfo("dh", "password", "p", "02:1a:c5:ff:ff:ff", "10.0.0.1:1"));
+        QCOMPARE(row(camera).value("password").toString(), "p");
+        QCOMPARE(m_factory->getDeviceInfo("dh", "192.168.1.10:37777").value("username").toString(), "u");
+        m_factory->setBatchDeleteDevice("dh", {{camera, true}, {recorder, true}}, "IPV4");
+        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), 1);
+        m_factory->setDeleteDevice("dh", newCamera, "IPV4");
+        QVERIFY(m_factory->filterData("dh", "nofilter").isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDeviceDH)
+#include "tst_devicedh.moc"

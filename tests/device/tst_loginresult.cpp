@@ -1,0 +1,79 @@
+#include "device/loginresult.h"
+#include "device/passwordstrength.h"
+
+#include <QSet>
+#include <QTest>
+
+class TestLoginResult : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void mapsErrorsOfTheLibrary_data()
+    {
+        QTest::addColumn<quint32>("error");
+        QTest::addColumn<int>("result");
+        const auto row = [](quint32 error, int result) {
+            QTest::addRow("%08x", error) << error << result;
+        };
+        row(0x80000003, 6);
+        row(0x80000064, 2);
+        row(0x80000096, 2);
+        row(0x80000097, 2);
+        row(0x80000065, 1);
+        row(0x80000067, 4);
+        row(0x80000098, 4);
+        row(0x80000068, 3);
+        row(0x8000006B, 5);
+        row(0x8000006C, 5);
+        row(0x80000002, 5);
+        row(0x80000013, 12);
+        row(0x64, 2); // without the high bit
+        row(0, 5);
+        row(0xFFFFFFFF, 5);
+    }
+
+    void mapsErrorsOfTheLibrary()
+    {
+        QFETCH(quint32, error);
+        QTEST(resultCode(loginResultOf(error)), "result");
+    }
+
+    void everyResultHasANameOfItsOwn()
+    {
+        QSet<QString> names;
+        const QList<int> codes = {-1, 0, 1, 2, 3, 4, 5, 6, 7, 10, 12, 13, 999, 8, 4711};
+        for (const int code : codes)
+            names.insert(resultName(code));
+        QCOMPARE(names.size(), codes.size());
+        QVERIFY(!names.contains(QString()));
+        QVERIFY(resultName(4711).contains("4711"));
+    }
+
+    void gradesPasswords_data()
+    {
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<int>("grade");
+        const auto row = [](const char *password, int grade) {
+            QTest::newRow(password) << QString(password) << grade;
+        };
+        row("", 0);
+        row("_", 0);
+        row("abcdefgh", 1);
+        row("ABCdefgh", 1);
+        row("12345678", 1);
+        row("!!", 1);
+        row("abc_def12", 2);
+        row("abc def", 2);
+        row("Ab1!", 3);
+        row("1-密码a", 3);
+    }
+
+    void gradesPasswords()
+    {
+        QFETCH(QString, password);
+        QTEST(passwordStrength(password), "grade");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLoginResult)
+#include "tst_loginresult.moc"

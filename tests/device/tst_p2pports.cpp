@@ -1,0 +1,163 @@
+#include "device/p2pports.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+/// An agent whose mappings a test sets, and which notes what it is asked.
+class NotingAgent : public sdk::P2PAgentLibrary
+{
+public:
+    bool OAgent_ClientInit(const sdk::P2PAgentServices &services) override
+    {
+        calls.append(QStringLiteral("init %1 %2 %3 %4 %5 %6 %7 %8 %9")
+                         .arg(services.tunnelHost, QString::number(services.tunnelPort), services.relayHost,
+                              QString::number(services.relayPort), services.serverSecret, services.domain,
+                              services.restAddress, services.mediaHost, QString::number(services.mediaPort)));
+        return starts;
+    }
+    void OAgent_SetMessageCallback(sdk::P2PAgentMessageHandler, void *user) override
+    {
+        calls.append(user ? "callback with user" : "callback");
+    }
+    bool OAgent_ClientGetDeviceLocalPort(const char *, std::int32_t, std::int32_t *localPorts,
+                                         std::int32_t capacity, std::int32_t &count) override
+    {
+        count = static_cast<std::int32_t>(existing.size());
+        for (int place = 0; place < count && place < capacity; ++place)
+            localPorts[place] = existing.at(place);
+        return true;
+    }
+    bool OAgent_ClientAddPort(const char *deviceId, std::int32_t devicePort, std::int32_t &localPort,
+                              std::int32_t flag) override
+    {
+        calls.append(
+            QStringLiteral("add %1 %2 %3 %4").arg(deviceId).arg(devicePort).arg(localPort).arg(flag));
+        if (localPort == 0)
+            localPort = 50001;
+        return adds;
+    }
+    bool OAgent_ClientDelPort(std::int32_t localPort) override
+    {
+        calls.append(QStringLiteral("delete %1").arg(localPort));
+        return true;
+    }
+    void OAgent_ClientRelease() override { calls.append("release"); }
+
+    bool starts = true;
+    bool adds = true;
+    QList<int> existing;
+    QStringList calls;
+};
+
+void noHandler(sdk::P2PAgentEvent, const char *, std::int32_t, void *) {}
+
+} // namespace
+
+class TestP2PPorts : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void readsItsSettings_data()
+    {
+        QTest::addColumn<QByteArray>("file"); // null: there is none
+        QTest::addColumn<QString>("started");
+        QTest::newRow("no file")
+            << QByteArray()
+            << "init tunnel.kelda.example 7885 relay.kelda.example 443 tamsvelorink kelda "
+               "https://api.kelda.example video.kelda.example 8300";
+        QTest::newRow("every key from the file")
+            << QByteArray("[p2p]\ntunnel=t.example\ntunnel_port=1\ntrans=r.example\ntrans_port=2\ndomain=d\n"
+                          "saas=https://s.example\nmnserver=m.example\nmnport=3\n")
+            << "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3";
+        QTest::newRow("missing and impossible keys")
+            << QByteArray("[p2p]\ntunnel_port=ninety\n") << "init  0  0 tamsvelorink    0";
+    }
+
+    void readsItsSettings()
+    {
+        QFETCH(QByteArray, file);
+        const QTemporaryDir directory;
+        const QString path = directory.filePath("p2p.ini");
+        if (!file.isNull()) {
+            QFile written(path);
+            QVERIFY(written.open(QFile::WriteOnly));
+            written.write(file);
+        }
+        const auto agent = std::make_shared<NotingAgent>();
+        {
+            const P2PPorts ports(agent, P2PSettings::read(path), &noHandler);
+        }
+        QTEST(agent->calls.value(0), "started");
+        QCOMPARE(agent->calls.mid(1), QStringList({"callback", "release"}));
+    }
+
+    void handsOutPorts_data()
+    {
+        QTest::addColumn<QList<int>>("existing");
+        QTest::addColumn<int>("wish");
+        QTest::addColumn<int>("port");
+        QTest::addColumn<QString>("asked");
+        QTest::newRow("none there") << QList<int>() << 0 << 50001 << "add ID 37777 0 0";
+        QTest::newRow("none there, wished") << QList<int>() << 37777 << 50001 << "add ID 37777 0 0";
+        QTest::newRow("a wish for another port") << QList{50005} << 37778 << 0 << QString();
+        QTest::newRow("one there") << QList{50005} << 0 << 50005 << QString();
+        QTest::newRow("one there, the device's wished")
+            << QList{50005} << 37777 << 37777 << "add ID 37777 37777 0";
+        QTest::newRow("the device's there") << QList{37777} << 0 << 50001 << "add ID 37777 0 0";
+        QTest::newRow("the device's there and wished") << QList{37777} << 37777 << 37777 << QString();
+        QTest::newRow("more there") << QList{37777, 50006, 50007} << 0 << 50006 << QString();
+        QTest::newRow("more there, all the device's") << QList{37777, 37777} << 0 << 0 << QString();
+        QTest::newRow("more than fit") << QList<int>(12, 50008) << 0 << 50008 << QString();
+    }
+
+    void handsOutPorts()
+    {
+        QFETCH(QList<int>, existing);
+        QFETCH(int, wish);
+        QFETCH(QString, asked);
+        const auto agent = std::make_shared<NotingAgent>();
+        P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
+        agent->calls.clear();
+        agent->existing = existing;
+        QTEST(ports.portFor("ID", 37777, wish), "port");
+        QCOMPARE(agent->calls.join('\n'), asked);
+    }
+
+    void releasesBothPortsOfADevice()
+    {
+        const auto agent = std::make_shared<NotingAgent>();
+        P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
+        agent->calls.clear();
+        ports.pair(50001, 50002);
+        ports.pair(0, 50003); // a device that was added by address has no ports
+        QCOMPARE(ports.webPortOf(50001), 50002);
+        ports.releaseDevice(50001);
+        ports.release(0);
+        QCOMPARE(agent->calls, QStringList({"delete 50001", "delete 50002"}));
+        QCOMPARE(ports.webPortOf(50001), 0);
+    }
+
+    void anAgentThatFailsGivesNoPorts()
+    {
+        const auto agent = std::make_shared<NotingAgent>();
+        agent->adds = false;
+        {
+            P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
+            QCOMPARE(ports.portFor("ID", 37777, 0), 0);
+        }
+        agent->starts = false;
+        agent->calls.clear();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be started"));
+        P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
+        QCOMPARE(ports.portFor("ID", 37777, 0), 0);
+        QCOMPARE(agent->calls.size(), 1);
+        P2PPorts none(nullptr, P2PSettings::builtIn(), &noHandler);
+        QCOMPARE(none.portFor("ID", 37777, 0), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestP2PPorts)
+#include "tst_p2pports.moc"

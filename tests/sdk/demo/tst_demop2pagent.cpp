@@ -1,0 +1,294 @@
+// The simulated port agent: real local ports, where they lead, and its events.
+#include "sdk/demo/demop2pagentlibrary.h"
+#include "sdk/p2pagentlibrary.h"
+#include "tests/sdk/demo/testsite.h"
+
+#include <QJsonDocument>
+
+#include <condition_variable>
+#include <future>
+#include <latch>
+#include <utility>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace sdk;
+using namespace sdk::demo;
+
+namespace {
+
+constexpr char deviceId[] = "OV1";
+
+/// Keeps "event device port" of the events that it receives.
+class Events
+{
+public:
+    static void handle(P2PAgentEvent event, const char *id, std::int32_t localPort, void *user)
+    {
+        auto *events = static_cast<Events *>(user);
+        if (events->onEvent)
+            events->onEvent();
+        const std::lock_guard lock(events->m_mutex);
+        events->m_lines.append(
+            u"%1 %2 %3"_s.arg(static_cast<int>(event)).arg(QString::fromUtf8(id)).arg(localPort));
+        events->m_added.notify_all();
+    }
+
+    /// Waits for that many.
+    QStringList lines(qsizetype count)
+    {
+        std::unique_lock lock(m_mutex);
+        m_added.wait_for(lock, 10s, [this, count] { return m_lines.size() >= count; });
+        return m_lines;
+    }
+
+    std::function<void()> onEvent;
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_added;
+    QStringList m_lines;
+};
+
+/// Whether 127.0.0.1 takes a connection at `port`; waits until the other side has closed it.
+bool isListening(int port)
+{
+    const int connection = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    char byte = 0;
+    const bool isClosed =
+        ::connect(connection, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0 &&
+        ::recv(connection, &byte, 1, 0) <= 0;
+    ::close(connection);
+    return isClosed;
+}
+
+struct AgentSite : TestSite
+{
+    AgentSite() : TestSite({remote(1), camera(2, 0ms)}), agent(site->libraries().p2pAgent)
+    {
+        agent->OAgent_SetMessageCallback(&Events::handle, &events);
+        agent->OAgent_ClientInit(services);
+    }
+    ~AgentSite() { agent->OAgent_ClientRelease(); }
+
+    static SceneDevice remote(int number)
+    {
+        SceneDevice device = camera(number, 0ms);
+        device.p2pId = QString::fromLatin1(deviceId);
+        device.inOtherSegment = device.isRemote = true;
+        return device;
+    }
+
+    /// The port that was given, 0 on failure.
+    [[nodiscard]] int add(int devicePort, int wish = 0, const char *id = deviceId) const
+    {
+        std::int32_t localPort = wish;
+        return agent->OAgent_ClientAddPort(id, devicePort, localPort, 0) ? localPort : 0;
+    }
+
+    [[nodiscard]] QList<int> localPorts(int devicePort, int capacity = maximumLocalPorts) const
+    {
+        std::array<std::int32_t, maximumLocalPorts> ports = {};
+        std::int32_t count = -1;
+        if (!agent->OAgent_ClientGetDeviceLocalPort(deviceId, devicePort, ports.data(), capacity, count))
+            return {-1};
+        return QList<int>(ports.begin(), ports.begin() + count);
+    }
+
+    static constexpr P2PAgentServices services = {
+        "tunnel.invalid", 7885, "relay.invalid", 443, "se-cret", "kelda", "https://rest.invalid",
+        "media.invalid",  8300};
+    Events events;
+    std::shared_ptr<P2PAgentLibrary> agent;
+};
+
+} // namespace
+
+class P2PAgentTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mapsRealPorts();
+    void refusesBadRequests_data();
+    void refusesBadRequests();
+    void loginGoesThroughTheTunnel();
+    void tellsItsEventsInOrder();
+    void releaseEndsEverything();
+    void handlersCannotReleaseTheirAgent();
+    void manyThreadsMapAtOnce();
+};
+
+void P2PAgentTest::mapsRealPorts()
+{
+    const AgentSite site;
+    QCOMPARE(site.localPorts(8800), QList<int>());
+    const int first = site.add(8800);
+    const int second = site.add(8800);
+    const int web = site.add(80);
+    QVERIFY(first > 0 && second > 0 && web > 0);
+    QCOMPARE(site.localPorts(8800), QList<int>({first, second}));
+    QCOMPARE(site.localPorts(8800, 1), QList<int>({first}));
+    QCOMPARE(site.localPorts(80), QList<int>({web}));
+    QVERIFY(isListening(first) && isListening(web) && isListening(first));
+
+    QCOMPARE(site.add(554, first), 0); // taken
+    QVERIFY(site.agent->OAgent_ClientDelPort(first));
+    QVERIFY(!isListening(first));
+    QVERIFY(!site.agent->OAgent_ClientDelPort(first));
+    QCOMPARE(site.localPorts(8800), QList<int>({second}));
+    QCOMPARE(site.add(554, first), first); // free again, though connections of before linger
+}
+
+void P2PAgentTest::refusesBadRequests_data()
+{
+    QTest::addColumn<QByteArray>("id");
+    QTest::addColumn<int>("devicePort");
+    QTest::addColumn<int>("wish");
+    QTest::newRow("unknown ID") << QByteArray("OV9") << 8800 << 0;
+    QTest::newRow("empty ID") << QByteArray("") << 8800 << 0; // as devices without an ID have
+    QTest::newRow("device port 0") << QByteArray(deviceId) << 0 << 0;
+    QTest::newRow("device port too high") << QByteArray(deviceId) << 65536 << 0;
+    QTest::newRow("negative wish") << QByteArray(deviceId) << 8800 << -1;
+    QTest::newRow("wish too high") << QByteArray(deviceId) << 8800 << 65536 + 8800;
+}
+
+void P2PAgentTest::refusesBadRequests()
+{
+    QFETCH(QByteArray, id);
+    QFETCH(int, devicePort);
+    QFETCH(int, wish);
+    const AgentSite site;
+    QCOMPARE(site.add(devicePort, wish, id.constData()), 0);
+    QVERIFY(!site.agent->OAgent_ClientInit(AgentSite::services)); // runs already
+    QCOMPARE(site.localPorts(8800, -1), QList<int>({-1}));
+}
+
+void P2PAgentTest::loginGoesThroughTheTunnel()
+{
+    const AgentSite site;
+    const int service = site.add(8800);
+    const int web = site.add(80);
+    const auto login = [&site](int port) {
+        return Login(*site.net, u"127.0.0.1"_s, port);
+    };
+    const Login session = login(service);
+    QVERIFY(session.handle > 0);
+    QCOMPARE(session.device.loginKind, 1);
+    QCOMPARE(site.site->requests().of(u"NetLogin"_s).last().mac, camera(1, 0ms).mac);
+    QCOMPARE(login(web).netError(), NetError::ConnectFailed);
+
+    const auto query = [&] {
+        NetworkServices services = {};
+        std::uint32_t size = 0;
+        return site.net->NetQueryConfig(session.handle, QueryCommand::NetworkServices, 0, &services,
+                                        sizeof(services), size, 0ms);
+    };
+    QVERIFY(query());
+    QVERIFY(site.site->portAgent().breakTunnel(service));
+    QVERIFY(!query());
+    QCOMPARE(netError(*site.net), NetError::NetworkFailure);
+    QCOMPARE(site.localPorts(8800), QList<int>()); // leads nowhere now, but the local port is there
+    QVERIFY(isListening(service));
+    std::future<NetError> silent = std::async(std::launch::async, [&] { return login(service).netError(); });
+    QVERIFY(site.site->requests().waitFor(u"NetLogin"_s, 3));
+    site.net->NetCleanup();
+    QVERIFY(silent.get() != NetError::None);
+}
+
+void P2PAgentTest::tellsItsEventsInOrder()
+{
+    AgentSite site;
+    const int port = site.add(8800);
+    QVERIFY(site.clock->waitForWaiters(1));
+    QCOMPARE(site.events.lines(0), QStringList());
+    site.clock->advance(100ms);
+    QStringList expected = {u"1  0"_s, u"3 OV1 %1"_s.arg(port)};
+    QCOMPARE(site.events.lines(2), expected);
+    QVERIFY(site.site->portAgent().breakTunnel(port));
+    QVERIFY(!site.site->portAgent().breakTunnel(port));
+    expected.append(u"4 OV1 %1"_s.arg(port));
+    QCOMPARE(site.events.lines(3), expected);
+}
+
+void P2PAgentTest::releaseEndsEverything()
+{
+    AgentSite site;
+    const int port = site.add(8800);
+    std::latch handlerRuns(1);
+    std::latch handlerMayEnd(1);
+    site.events.onEvent = [&] {
+        if (!handlerRuns.try_wait())
+            handlerRuns.count_down();
+        handlerMayEnd.wait();
+    };
+    site.clock->advance(100ms);
+    handlerRuns.wait();
+    std::future<void> release =
+        std::async(std::launch::async, [&site] { site.agent->OAgent_ClientRelease(); });
+    QVERIFY(site.site->requests().waitFor(u"OAgent_ClientRelease"_s, 1));
+    QCOMPARE(release.wait_for(0ms), std::future_status::timeout);
+    handlerMayEnd.count_down();
+    release.get();
+    const QStringList told = site.events.lines(0);
+    QVERIFY(!isListening(port));
+    QCOMPARE(site.add(8800), 0);
+    QCOMPARE(site.localPorts(8800), QList<int>({-1}));
+    QVERIFY(site.agent->OAgent_ClientInit(AgentSite::services));
+    QVERIFY(site.add(8800, port) == port);
+    QCOMPARE(site.events.lines(0), told); // nothing is told before the service is connected again
+    const QList<RecordedRequest> starts = site.site->requests().of(u"OAgent_ClientInit"_s);
+    QCOMPARE(starts.last().request.value(u"tunnelPort"_s).toInt(), 7885);
+    QVERIFY(!QJsonDocument(starts.last().request).toJson().contains("se-cret"));
+}
+
+void P2PAgentTest::handlersCannotReleaseTheirAgent()
+{
+    AgentSite site;
+    const int port = site.add(8800);
+    site.events.onEvent = [&, isFirst = true]() mutable {
+        if (!std::exchange(isFirst, false))
+            return;
+        site.agent->OAgent_ClientRelease();
+        QVERIFY(site.add(80) > 0); // everything else works from there
+    };
+    QTest::ignoreMessage(QtWarningMsg,
+                         "OAgent_ClientRelease was called from a handler and would wait for itself: ignored");
+    site.clock->advance(100ms);
+    QCOMPARE(site.events.lines(3).size(), 3); // the service, and both tunnels
+    QCOMPARE(site.localPorts(8800), QList<int>({port}));
+}
+
+void P2PAgentTest::manyThreadsMapAtOnce()
+{
+    const AgentSite site;
+    site.clock->advance(100ms);
+    std::vector<std::jthread> threads;
+    constexpr int count = 4;
+    threads.reserve(count);
+    for (int thread = 0; thread < count; ++thread) {
+        threads.emplace_back([&site] {
+            for (int round = 0; round < 20; ++round) {
+                const int port = site.add(8800);
+                Login(*site.net, u"127.0.0.1"_s, port);
+                site.site->portAgent().breakTunnel(port);
+                site.agent->OAgent_ClientDelPort(port);
+            }
+        });
+    }
+    QVERIFY(site.site->requests().waitFor(u"OAgent_ClientDelPort"_s, count));
+    site.agent->OAgent_ClientRelease(); // in the middle
+    threads.clear();
+    QCOMPARE(site.localPorts(8800), QList<int>({-1}));
+}
+
+QTEST_GUILESS_MAIN(P2PAgentTest)
+#include "tst_demop2pagent.moc"
