@@ -29,7 +29,6 @@ private Q_SLOTS:
     void malformedRequestsFail_data();
     void malformedRequestsFail();
     void errorsAreKeptPerThreadAndLibrary();
-    void recordKeepsDecodedRequests();
     void librariesKeepTheSiteAlive();
 };
 
@@ -214,30 +213,6 @@ void DemoNetLibraryTest::errorsAreKeptPerThreadAndLibrary()
     QCOMPARE(lastError(*other), DemoError::None);
     QVERIFY(site.net->NetInit()); // success leaves it
     QCOMPARE(lastError(*site.net), DemoError::UnknownHandle);
-}
-
-void DemoNetLibraryTest::recordKeepsDecodedRequests()
-{
-    const TestSite site(threeCameras);
-    Collector collector;
-    site.clock->advance(5ms);
-    site.net->NetSearchDevicesByIPs(requestFor({u"192.168.1.1"_s, u"192.168.1.2"_s}), &Collector::handle,
-                                    &collector, "0.0.0.0", 0ms);
-    const QList<RecordedRequest> requests = site.site->requests().of(u"NetSearchDevicesByIPs"_s);
-    QCOMPARE(requests.size(), 1);
-    QCOMPARE(requests.first().time, SteppableClock::defaultStart + 5);
-    QCOMPARE(requests.first().request,
-             (QJsonObject{{u"size"_s, 16392},
-                          {u"count"_s, 2},
-                          {u"addresses"_s, QJsonArray{u"192.168.1.1"_s, u"192.168.1.2"_s}},
-                          {u"localAddress"_s, u"0.0.0.0"_s},
-                          {u"wait"_s, 0}}));
-
-    RequestRecord &record = site.site->requests();
-    for (qsizetype request = 0; request < RequestRecord::maximumRequests + 5; ++request)
-        record.add({u"Filler"_s, QString(), {}, request});
-    QCOMPARE(record.all().size(), RequestRecord::maximumRequests);
-    QCOMPARE(record.all().first().time, 5);
 }
 
 void DemoNetLibraryTest::librariesKeepTheSiteAlive()

@@ -70,7 +70,6 @@ private Q_SLOTS:
     void initialisedDeviceTakesItsPassword();
     void initialisationIsRefused_data();
     void initialisationIsRefused();
-    void deviceAnswersAtItsNewAddress();
     void addressChangeIsRefused_data();
     void addressChangeIsRefused();
     void dhcpGivesEachItsOwnAddress();
@@ -141,30 +140,6 @@ void RequestsTest::initialisationIsRefused()
     QCOMPARE(site.net->NetGetLastError(), error);
     for (const SceneDevice &device : site.site->devices())
         QVERIFY(device.isUninitialised() && device.accounts.isEmpty());
-}
-
-void RequestsTest::deviceAnswersAtItsNewAddress()
-{
-    const TestSite site({camera(1, 0ms), camera(2, 0ms)});
-    const Login before(*site.net, u"192.168.1.1"_s, 8800);
-    ModifyDeviceInput input = changeOf(site, camera(1, 0ms).mac);
-    setAddresses(input, "10.0.0.77", "255.0.0.0", "10.0.0.1");
-    DeviceRequestOutput output = requestOutput();
-    QVERIFY(site.net->NetModifyDeviceBySearch(input, output, 5000ms));
-    QCOMPARE(site.found(0ms),
-             QStringList({u"02:1a:c5:00:00:01 10.0.0.77"_s, u"02:1a:c5:00:00:02 192.168.1.2"_s}));
-    const SearchDeviceInformation now = changeOf(site, camera(1, 0ms).mac).device;
-    QCOMPARE(textOf(now.subnetMask) + textOf(now.gateway), u"255.0.0.010.0.0.1"_s);
-    QVERIFY(Login(*site.net, u"10.0.0.77"_s, 8800).handle > 0);
-    QVERIFY(site.net->NetLogout(before.handle));
-
-    // Two devices may be given one address: the conflict is the administrator's.
-    setAddresses(input, "192.168.1.2", "255.255.255.0", "");
-    QVERIFY(site.net->NetModifyDeviceBySearch(input, output, 5000ms));
-    QCOMPARE(site.site->device(camera(1, 0ms).mac)->address, u"192.168.1.2"_s);
-    const RecordedRequest request = site.site->requests().of(u"NetModifyDeviceBySearch"_s).first();
-    QCOMPARE(request.mac, camera(1, 0ms).mac);
-    QCOMPARE(request.request.value(u"address"_s).toString(), u"10.0.0.77"_s);
 }
 
 void RequestsTest::addressChangeIsRefused_data()

@@ -51,8 +51,6 @@ private Q_SLOTS:
     void refusesWithClearError();
     void readsEveryKey();
     void readsLargestSceneQuickly();
-    void officeHoldsWhatItPromises();
-    void otherScenesHoldWhatTheyPromise();
     void opensFilesAndNamesMistakes();
     void fleetIsTheSameEveryTime();
     void fleetIsUniqueAndMixed();
@@ -200,68 +198,6 @@ void ScenesTest::readsLargestSceneQuickly()
     QCOMPARE(scene->devices.size(), maximumSceneDevices);
     // A hundred times what it takes: a reader that compares each device with every other takes longer.
     QVERIFY2(timer.elapsed() < 15000, qPrintable(u"%1 ms"_s.arg(timer.elapsed())));
-}
-
-void ScenesTest::officeHoldsWhatItPromises()
-{
-    QString error;
-    const std::shared_ptr<DemoSite> site = openSite(u"office"_s, &error);
-    QVERIFY2(site != nullptr, qPrintable(error));
-    QCOMPARE(site->sceneTitle(), u"Office"_s);
-
-    QSet<QString> types;
-    QHash<QString, int> devicesOfAddress;
-    QSet<QString> p2pIds;
-    int factoryNew = 0;
-    int ipv6Only = 0;
-    int dualStack = 0;
-    bool hasPartlyConnectedRecorder = false;
-    for (const SceneDevice &device : site->devices()) {
-        types.insert(device.type);
-        ++devicesOfAddress[device.address];
-        factoryNew += device.initialisation == sdk::InitialisationBits::Uninitialised ? 1 : 0;
-        ipv6Only += device.address.isEmpty() ? 1 : 0;
-        dualStack += !device.address.isEmpty() && !device.ipv6.isEmpty() ? 1 : 0;
-        const auto isConnected = [](const SceneChannel &channel) {
-            return channel.connected;
-        };
-        const auto connected = std::count_if(device.channels.begin(), device.channels.end(), isConnected);
-        hasPartlyConnectedRecorder |= device.channels.size() == 16 && connected > 0 && connected < 16;
-        QVERIFY2(device.latency.count() >= 50 && device.latency.count() <= 2800, qPrintable(device.name));
-        QVERIFY2(device.mac.startsWith(u"02:1a:c5"), qPrintable(device.mac));
-        QCOMPARE(device.inOtherSegment && !device.isRemote, device.address.startsWith(u"192.168.2."));
-        if (device.isRemote)
-            p2pIds.insert(device.p2pId);
-        if (device.address == u"127.0.0.1")
-            QCOMPARE(device.type, u"PC-NVR"_s);
-    }
-    const QSet<QString> everyType = {u"IPC"_s, u"NVR"_s,    u"SVR"_s,   u"SD"_s,
-                                     u"ITC"_s, u"Matrix"_s, u"Other"_s, u"PC-NVR"_s};
-    QCOMPARE(types, everyType);
-    QCOMPARE(QList<int>({factoryNew, ipv6Only, dualStack}), QList<int>({3, 2, 1}));
-    QCOMPARE(p2pIds.size(), 2);
-    QCOMPARE(devicesOfAddress.value(u"192.168.1.180"_s), 2);
-    QCOMPARE(devicesOfAddress.value(u"0.0.0.0"_s), 1);
-    QCOMPARE(devicesOfAddress.value(u"127.0.0.1"_s), 1);
-    QVERIFY(hasPartlyConnectedRecorder);
-}
-
-void ScenesTest::otherScenesHoldWhatTheyPromise()
-{
-    QString error;
-    const std::shared_ptr<DemoSite> factory = openSite(u"factory"_s, &error);
-    QVERIFY2(factory != nullptr, qPrintable(error));
-    for (const SceneDevice &device : factory->devices())
-        QCOMPARE(device.initialisation, sdk::InitialisationBits::Uninitialised);
-
-    const std::shared_ptr<DemoSite> faulty = openSite(u"faulty"_s, &error);
-    QVERIFY2(faulty != nullptr, qPrintable(error));
-    QStringList faults;
-    for (const SceneDevice &device : faulty->devices()) {
-        QCOMPARE(device.faults.size(), 1);
-        faults.append(faultName(device.faults.first().fault));
-    }
-    QCOMPARE(faults, knownFaultNames());
 }
 
 void ScenesTest::opensFilesAndNamesMistakes()

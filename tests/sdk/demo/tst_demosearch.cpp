@@ -17,13 +17,11 @@ class SearchTest : public QObject
 
 private Q_SLOTS:
     void foundDevicesDependOnTheClockAlone();
-    void everyStackAnswersForItself();
     void secondKindReachesEveryDevice();
     void addressSearchReachesTheListedOnly();
     void addressSearchBlocksAndDropsLateAnswers();
     void faultsActAtRunTime();
     void faultyTextsFillTheirFields();
-    void changedDeviceAnswersFromItsNewAddress();
 };
 
 void SearchTest::foundDevicesDependOnTheClockAlone()
@@ -36,43 +34,6 @@ void SearchTest::foundDevicesDependOnTheClockAlone()
     QVERIFY(expected > 100);
     QCOMPARE(site.found(1000ms).size(), expected);
     QCOMPARE(site.found(0ms).size(), 0);
-}
-
-void SearchTest::everyStackAnswersForItself()
-{
-    SceneDevice unset = camera(1, 0ms);
-    unset.address = u"0.0.0.0"_s;
-    SceneDevice ipv6Only = camera(2, 0ms);
-    ipv6Only.address.clear();
-    ipv6Only.ipv6 = u"fd00::2"_s;
-    SceneDevice dual = camera(3, 0ms);
-    dual.ipv6 = u"fd00::3"_s;
-    dual.ipv6PrefixLength = 56;
-    dual.httpPort = 8080;
-    dual.dhcp = true;
-    dual.resetWay = 3;
-    const TestSite site({unset, ipv6Only, dual});
-
-    Collector collector;
-    site.search(collector, 1ms);
-    QCOMPARE(collector.lines(),
-             QStringList({u"02:1a:c5:00:00:01 0.0.0.0"_s, u"02:1a:c5:00:00:02 fd00::2"_s,
-                          u"02:1a:c5:00:00:03 192.168.1.3"_s, u"02:1a:c5:00:00:03 fd00::3"_s}));
-    for (const SearchAnswer &answer : collector.answers()) {
-        const SearchDeviceInformation &device = answer.device;
-        QCOMPARE(answer.size, sizeof(SearchAnswer));
-        QCOMPARE(device.ipVersion, textOf(device.address).contains(u':') ? 6 : 4);
-        if (textOf(device.mac) != dual.mac)
-            continue;
-        QCOMPARE(textOf(device.subnetMask), device.ipVersion == 6 ? u"56"_s : u"255.255.255.0"_s);
-        QCOMPARE(
-            QStringList({textOf(device.deviceName), textOf(device.deviceType), textOf(device.detailModel),
-                         textOf(device.softwareVersion), textOf(device.serialNumber)}),
-            QStringList({dual.name, dual.type, dual.model, dual.version, dual.serial}));
-        QCOMPARE(QList<int>({device.port, device.httpPort, device.dhcpEnabled, device.passwordResetWay}),
-                 QList<int>({8800, 8080, 1, 3}));
-        QCOMPARE(initialisationBits(device.initialisationState), InitialisationBits::Initialised);
-    }
 }
 
 void SearchTest::secondKindReachesEveryDevice()
@@ -206,25 +167,6 @@ void SearchTest::faultyTextsFillTheirFields()
             QCOMPARE(decoder.hasError() && decoded.contains(u'\n') && decoded.contains(u'<'), !isOverLong);
         }
     }
-}
-
-void SearchTest::changedDeviceAnswersFromItsNewAddress()
-{
-    const TestSite site(threeCameras);
-    Collector collector;
-    const std::int64_t handle = site.net->NetStartSearchDevices(parameterFor(collector), 4ms);
-    SceneDevice moved = *site.site->device(u"02:1a:c5:00:00:01"_s);
-    moved.address = u"10.0.0.77"_s;
-    site.site->setDevice(moved);
-    QVERIFY(site.site->removeDevice(u"02:1a:c5:00:00:02"_s));
-    QVERIFY(!site.site->removeDevice(u"02:1a:c5:00:00:02"_s));
-    site.clock->advance(900ms);
-    QVERIFY(site.net->NetStopSearchDevices(handle));
-    const QStringList left = {u"02:1a:c5:00:00:01 10.0.0.77"_s, u"02:1a:c5:00:00:03 192.168.1.3"_s};
-    QCOMPARE(collector.lines(), left);
-
-    site.site->setDevice(camera(4, 0ms));
-    QCOMPARE(site.found(900ms), left + QStringList{u"02:1a:c5:00:00:04 192.168.1.4"_s});
 }
 
 QTEST_GUILESS_MAIN(SearchTest)

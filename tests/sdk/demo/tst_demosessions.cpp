@@ -45,10 +45,8 @@ private Q_SLOTS:
     void accountLocksForGood();
     void nothingAnswersForItsTime();
     void cleanupEndsLoginsAndSessions();
-    void loginTellsAboutTheDevice();
     void malformedSecureLoginsFail();
     void sessionsAreApart();
-    void queriesFillTheirBlocks();
     void configurationIsTheStateOfTheDevice();
     void queriesFail_data();
     void queriesFail();
@@ -197,37 +195,6 @@ void SessionsTest::cleanupEndsLoginsAndSessions()
     QVERIFY(Login(*site.net, u"192.168.1.1"_s, 8800).handle > open.handle);
 }
 
-void SessionsTest::loginTellsAboutTheDevice()
-{
-    const QList<std::pair<QString, DeviceTypeCode>> types = {{u"IPC"_s, DeviceTypeCode::Camera},
-                                                             {u"NVR"_s, DeviceTypeCode::Recorder},
-                                                             {u"SVR"_s, DeviceTypeCode::VideoServer},
-                                                             {u"SD"_s, DeviceTypeCode::SpeedDome},
-                                                             {u"ITC"_s, DeviceTypeCode::TrafficCamera},
-                                                             {u"Matrix"_s, DeviceTypeCode::VideoWall},
-                                                             {u"Other"_s, DeviceTypeCode{}},
-                                                             {u"PC-NVR"_s, DeviceTypeCode::ComputerRecorder}};
-    QList<SceneDevice> devices;
-    for (const auto &[type, code] : types) {
-        devices.append(camera(static_cast<int>(devices.size()) + 1, 0ms));
-        devices.last().type = type;
-        devices.last().channels.resize(devices.size());
-    }
-    devices.first().faults = {{Fault::OverLongTexts}};
-    const TestSite site(devices);
-    for (qsizetype place = 0; place < devices.size(); ++place) {
-        const Login login(*site.net, devices.at(place).address, 8800);
-        QCOMPARE(static_cast<DeviceTypeCode>(login.device.deviceType), types.at(place).second);
-        QCOMPARE(login.device.channelCount, place + 1);
-        QCOMPARE(login.device.loginKind, 0);
-        if (place > 0)
-            QCOMPARE(textOf(login.device.model) + textOf(login.device.serialNumber),
-                     devices.at(place).model + devices.at(place).serial);
-        else
-            QCOMPARE(blockText(login.device.model).size(), login.device.model.size());
-    }
-}
-
 void SessionsTest::malformedSecureLoginsFail()
 {
     const TestSite site(threeCameras);
@@ -263,36 +230,6 @@ void SessionsTest::sessionsAreApart()
     QCOMPARE(lastError(*site.net), DemoError::UnknownHandle);
     QCOMPARE(mac(one), threeCameras.at(0).mac);
     QCOMPARE(mac(two), threeCameras.at(1).mac);
-}
-
-void SessionsTest::queriesFillTheirBlocks()
-{
-    SceneDevice device = camera(1, 0ms);
-    device.httpPort = 8080;
-    device.channels.resize(4);
-    device.capabilities = {{u"disks"_s, 2}, {u"alarmInputs"_s, 8}};
-    const TestSite site({device});
-    const Login login(*site.net, device.address, 8800);
-
-    DeviceAttributes attributes = {};
-    std::uint32_t size = 0;
-    QVERIFY(site.net->NetQueryConfig(login.handle, QueryCommand::DeviceAttributes, 0, &attributes,
-                                     sizeof(attributes), size, 500ms));
-    QCOMPARE(size, sizeof(DeviceAttributes));
-    QCOMPARE(QStringList({textOf(attributes.serialNumber), textOf(attributes.softwareVersion),
-                          textOf(attributes.detailModel)}),
-             QStringList({device.serial, device.version, device.model}));
-    QCOMPARE(QList<int>({attributes.videoInputs, attributes.alarmInputs, attributes.disks}),
-             QList<int>({4, 8, 2}));
-
-    QByteArray buffer(sizeof(NetworkServices) + 10, 'b'); // nothing is written behind the block
-    QVERIFY(site.net->NetQueryConfig(login.handle, QueryCommand::NetworkServices, 0, buffer.data(),
-                                     static_cast<std::uint32_t>(buffer.size()), size, 5000ms));
-    QCOMPARE(size, sizeof(NetworkServices));
-    QVERIFY(buffer.endsWith(QByteArray(10, 'b')));
-    NetworkServices services = {};
-    std::memcpy(&services, buffer.constData(), sizeof(services));
-    QCOMPARE(QList<int>({services.webPort, services.servicePort}), QList<int>({8080, 8800}));
 }
 
 void SessionsTest::configurationIsTheStateOfTheDevice()
