@@ -1,5 +1,6 @@
 #include "app/publication.h"
 
+#include "app/filedialogs.h"
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
 #include "device/devicefactory.h"
@@ -14,6 +15,7 @@ void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
+    context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());
     context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), deviceLibraryInstalled);

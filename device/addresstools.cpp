@@ -3,6 +3,8 @@
 #include "device/ipv4address.h"
 #include "device/searchrange.h"
 
+#include <QUrl>
+
 bool AddressTools::isLegalAddress(const QString &text) const
 {
     return ipv4Number(text).has_value();
@@ -11,6 +13,56 @@ bool AddressTools::isLegalAddress(const QString &text) const
 double AddressTools::toNumber(const QString &text) const
 {
     return ipv4Number(text).value_or(0);
+}
+
+bool AddressTools::isLegalMask(const QString &text) const
+{
+    const std::optional<std::uint32_t> mask = ipv4Number(text);
+    return mask && isSubnetMask(*mask);
+}
+
+QString AddressTools::gatewayAfterEdit(const QString &before, const QString &after,
+                                       const QString &gateway) const
+{
+    constexpr qsizetype octetCount = 4;
+    const QLatin1Char point('.');
+    const QStringList old = before.split(point);
+    const QStringList now = after.split(point);
+    QStringList octets = gateway.isEmpty() ? QStringList() : gateway.split(point);
+    if (now.size() > octetCount || octets.size() > octetCount)
+        return gateway;
+    for (qsizetype place = 0; place < now.size(); ++place) {
+        const bool last = place == octetCount - 1;
+        const bool changed = now.at(place) != old.value(place);
+        const QString octet = last && !now.at(place).isEmpty() ? QStringLiteral("1") : now.at(place);
+        if (place >= octets.size())
+            octets.append(octet);
+        else if (changed)
+            octets[place] = octet;
+    }
+    return octets.join(point);
+}
+
+QString AddressTools::webPage(const QString &ipport, int webPort) const
+{
+    constexpr int plainPort = 80;
+    constexpr int encryptedPort = 443;
+    constexpr int highestPort = 65535;
+    QString host = ipport.section(QLatin1Char(':'), 0, -2);
+    if (host.startsWith(QLatin1Char('[')) && host.endsWith(QLatin1Char(']')))
+        host = host.sliced(1, host.size() - 2);
+    // Never a name: where a name leads is not the device's to say.
+    const bool isAddress = ipv4Number(host) || host.contains(QLatin1Char(':'));
+    if (!isAddress || webPort < 1 || webPort > highestPort)
+        return {};
+    QUrl page;
+    page.setScheme(webPort == encryptedPort ? QStringLiteral("https") : QStringLiteral("http"));
+    page.setHost(host, QUrl::StrictMode);
+    if (!page.isValid() || page.host().isEmpty())
+        return {};
+    if (webPort != plainPort && webPort != encryptedPort)
+        page.setPort(webPort);
+    return page.toString();
 }
 
 AddressTools::RangeFault AddressTools::searchRangeFault(const QString &begin, const QString &end) const

@@ -27,5 +27,18 @@ public:
     /// address. A double, because the scene's integers are signed.
     Q_INVOKABLE [[nodiscard]] double toNumber(const QString &text) const;
 
+    /// True for a subnet mask: ones from the left, then zeros, and at least one of each.
+    Q_INVOKABLE [[nodiscard]] bool isLegalMask(const QString &text) const;
+
+    /// The gateway that follows an edit of an address: octets 1 to 3 that the edit changed are copied into
+    /// it, and a change of octet 4 makes its last octet "1". Octets that the gateway lacks are taken from the
+    /// address. The texts may be unfinished.
+    Q_INVOKABLE [[nodiscard]] QString gatewayAfterEdit(const QString &before, const QString &after,
+                                                       const QString &gateway) const;
+
+    /// The address of a device's web page, from "address:port" of the device and the port of its web server;
+    /// encrypted when that is the port for it. Empty when `ipport` or the port is none.
+    Q_INVOKABLE [[nodiscard]] QString webPage(const QString &ipport, int webPort) const;
+
     Q_INVOKABLE [[nodiscard]] RangeFault searchRangeFault(const QString &begin, const QString &end) const;
 };

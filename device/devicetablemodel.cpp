@@ -267,6 +267,22 @@ void DeviceTableModel::takeRows(QList<Row> rows)
         Q_EMIT dataChanged(index(0), index(static_cast<int>(shown - 1)));
 }
 
+void DeviceTableModel::refreshDevice(const QString &mac)
+{
+    const int place = rowOf(mac);
+    if (!m_deviceFactory || place < 0)
+        return;
+    const QVariantMap detail = m_deviceFactory->getDeviceDetail(family, mac);
+    Row &row = m_rows[place];
+    for (const QLatin1StringView key : rowKeys) {
+        const QVariant value = detail.value(key);
+        if (value.isValid())
+            row.values.insert(key, QJsonValue::fromVariant(value));
+    }
+    row.ipport = row.values.value(DeviceRowKey::ipport).toString();
+    Q_EMIT dataChanged(index(place), index(place));
+}
+
 void DeviceTableModel::toggleSort(const QString &key)
 {
     if (m_sortKey != key) {
@@ -352,6 +368,16 @@ QStringList DeviceTableModel::checkedMacs() const
             macs.append(row.values.value(DeviceRowKey::mac).toString());
     }
     return macs;
+}
+
+QVariantList DeviceTableModel::checkedRows() const
+{
+    QVariantList rows;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (checkedIdentities().contains(m_rows.at(row).identity))
+            rows.append(get(row));
+    }
+    return rows;
 }
 
 QString DeviceTableModel::textOf(const QList<int> &rows) const

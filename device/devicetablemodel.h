@@ -63,6 +63,10 @@ public:
     /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
     Q_INVOKABLE void refresh();
 
+    /// Reads one IPv4 device's row again, in its place: while a batch runs, reading all of them for each
+    /// result would take longer than the batch. Conflicts stay as they were until refresh().
+    Q_INVOKABLE void refreshDevice(const QString &mac);
+
     /// Orders by a key: first ascending, then descending, then in the order of the list again. Addresses are
     /// compared as numbers, texts by the user's language.
     Q_INVOKABLE void toggleSort(const QString &key);
@@ -79,6 +83,9 @@ public:
 
     /// "mac" of the checked rows in the order shown.
     Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
+
+    /// The checked rows as get() returns them, in the order shown.
+    Q_INVOKABLE [[nodiscard]] QVariantList checkedRows() const;
 
     /// The texts of the given rows as lines with tab-separated columns, for the clipboard.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;

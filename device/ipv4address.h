@@ -18,3 +18,10 @@
 {
     return (address >> (8 * (3 - position))) & 0xFF;
 }
+
+/// True for a subnet mask: ones from the left, then zeros, and at least one of each.
+[[nodiscard]] constexpr bool isSubnetMask(std::uint32_t mask)
+{
+    const std::uint32_t hosts = ~mask;
+    return mask != 0 && hosts != 0 && (hosts & (hosts + 1)) == 0;
+}

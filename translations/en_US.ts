@@ -9,10 +9,242 @@
     </message>
 </context>
 <context>
+    <name>AddressPlanTable</name>
+    <message>
+        <source>未初始化，不会修改</source>
+        <translation>Not initialised, will refuse</translation>
+    </message>
+    <message>
+        <source>与其他设备冲突</source>
+        <translation>Taken by another device</translation>
+    </message>
+    <message>
+        <source>与本批设备冲突</source>
+        <translation>Twice in this batch</translation>
+    </message>
+    <message>
+        <source>超出起始IP的网段</source>
+        <translation>Outside the subnet</translation>
+    </message>
+    <message>
+        <source>网络地址或广播地址</source>
+        <translation>Network or broadcast address</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>原地址</source>
+        <translation>Old address</translation>
+    </message>
+    <message>
+        <source>新地址</source>
+        <translation>New address</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetailDialog</name>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initialised</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Not initialised</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>子网掩码</source>
+        <translation>Subnet mask</translation>
+    </message>
+    <message>
+        <source>网关</source>
+        <translation>Gateway</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>HTTP端口</source>
+        <translation>HTTP port</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>添加方式</source>
+        <translation>Added by</translation>
+    </message>
+    <message>
+        <source>P2P端口</source>
+        <translation>P2P port</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>本机地址</source>
+        <translation>Found from</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>Copy all</translation>
+    </message>
+    <message>
+        <source>设备详情</source>
+        <translation>Device details</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
     <name>DeviceRow</name>
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPasswordDialog</name>
+    <message>
+        <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
+        <translation>Use at least two of digits, letters and common symbols, and no illegal character.</translation>
+    </message>
+    <message>
+        <source>请输入用户名</source>
+        <translation>Enter the user name</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>Enter the password</translation>
+    </message>
+    <message>
+        <source>请确认密码</source>
+        <translation>Confirm the password</translation>
+    </message>
+    <message>
+        <source>请输入相同的密码</source>
+        <translation>Enter the same password twice</translation>
+    </message>
+    <message>
+        <source>密码长度应当在8到32个字符范围内</source>
+        <translation>The password must have 8 to 32 characters</translation>
+    </message>
+    <message>
+        <source>初始化设置</source>
+        <translation>Initialisation</translation>
+    </message>
+    <message numerus="yes">
+        <source>台未初始化设备</source>
+        <extracomment>Follows a number, as in &quot;3 uninitialised devices&quot;.</extracomment>
+        <translation>
+            <numerusform>uninitialised device</numerusform>
+            <numerusform>uninitialised devices</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>新密码</source>
+        <translation>New password</translation>
+    </message>
+    <message>
+        <source>确认密码</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除</source>
+        <translation>8 to 32 characters with at least two of digits, letters and common symbols (any visible character except </translation>
+    </message>
+    <message>
+        <source>这五个字符以外的任意可见字符)</source>
+        <translation>)</translation>
+    </message>
+    <message>
+        <source>设定新密码后,请在“搜索设置”中设置新密码</source>
+        <translation>After setting the new password, set it in the search settings as well.</translation>
+    </message>
+</context>
+<context>
+    <name>InitialiseDialog</name>
+    <message>
+        <source>初始化</source>
+        <translation>Initialise</translation>
+    </message>
+    <message>
+        <source>初始化设置</source>
+        <translation>Initialisation</translation>
+    </message>
+    <message>
+        <source>请选择一台未初始化的设备</source>
+        <translation>Select an uninitialised device</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>列表只显示本局域网设备,初始化不支持跨局域网</source>
+        <translation>Only devices of this LAN are listed: initialisation does not work across LANs.</translation>
     </message>
 </context>
 <context>
@@ -96,8 +328,124 @@
         <translation>Open the device&apos;s web page in the browser</translation>
     </message>
     <message>
-        <source>观看实时画面</source>
-        <translation>Watch the live picture</translation>
+        <source>实时画面尚未提供</source>
+        <translation>Live video is not there yet</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPBatches</name>
+    <message>
+        <source>请选择一台未初始化的设备</source>
+        <translation>Select an uninitialised device</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未成功，请查看修改结果</source>
+        <extracomment>Of the devices of a batch, those whose result is a failure.</extracomment>
+        <translation>
+            <numerusform>%n device failed: see its result</numerusform>
+            <numerusform>%n devices failed: see their results</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备已完成</source>
+        <translation>
+            <numerusform>%n device done</numerusform>
+            <numerusform>%n devices done</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>正在初始化设备…</source>
+        <translation>Initialising devices…</translation>
+    </message>
+    <message>
+        <source>正在修改IP地址…</source>
+        <translation>Changing addresses…</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPDevices</name>
+    <message>
+        <source>这台设备没有可打开的网页</source>
+        <translation>This device has no web page to open</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>The browser cannot be opened. The device&apos;s web page: %1</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
+    </message>
+    <message>
+        <source>请确认是否要删除</source>
+        <translation>Confirm that you want to delete</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPDialog</name>
+    <message>
+        <source>请输入正确的起始IP</source>
+        <translation>Enter a correct start IP</translation>
+    </message>
+    <message>
+        <source>请输入正确的子网掩码</source>
+        <translation>Enter a correct subnet mask</translation>
+    </message>
+    <message>
+        <source>请输入正确的网关</source>
+        <translation>Enter a correct gateway</translation>
+    </message>
+    <message>
+        <source>修改IP</source>
+        <translation>Modify IP</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>device selected</numerusform>
+            <numerusform>devices selected</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>收起预览</source>
+        <translation>Hide preview</translation>
+    </message>
+    <message>
+        <source>预览</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>显示每台设备将得到的地址</source>
+        <translation>Show which address each device will get</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>静态</source>
+        <translation>Static</translation>
+    </message>
+    <message>
+        <source>起始IP</source>
+        <translation>Start IP</translation>
+    </message>
+    <message>
+        <source>同一IP</source>
+        <translation>Same IP</translation>
+    </message>
+    <message>
+        <source>子网掩码</source>
+        <translation>Subnet mask</translation>
+    </message>
+    <message>
+        <source>网关</source>
+        <translation>Gateway</translation>
     </message>
 </context>
 <context>
@@ -315,6 +663,25 @@
     </message>
 </context>
 <context>
+    <name>OVStrengthBar</name>
+    <message>
+        <source>弱</source>
+        <translation>Weak</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>强</source>
+        <translation>Strong</translation>
+    </message>
+    <message>
+        <source>密码强度</source>
+        <translation>Password strength</translation>
+    </message>
+</context>
+<context>
     <name>OVTableHead</name>
     <message>
         <source>全选</source>
@@ -441,6 +808,10 @@
             <numerusform>%n device shares an IP address</numerusform>
             <numerusform>%n devices share an IP address</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>Copied to the clipboard</translation>
     </message>
 </context>
 <context>

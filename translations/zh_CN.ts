@@ -9,10 +9,241 @@
     </message>
 </context>
 <context>
+    <name>AddressPlanTable</name>
+    <message>
+        <source>未初始化，不会修改</source>
+        <translation>未初始化，不会修改</translation>
+    </message>
+    <message>
+        <source>与其他设备冲突</source>
+        <translation>与其他设备冲突</translation>
+    </message>
+    <message>
+        <source>与本批设备冲突</source>
+        <translation>与本批设备冲突</translation>
+    </message>
+    <message>
+        <source>超出起始IP的网段</source>
+        <translation>超出起始IP的网段</translation>
+    </message>
+    <message>
+        <source>网络地址或广播地址</source>
+        <translation>网络地址或广播地址</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>原地址</source>
+        <translation>原地址</translation>
+    </message>
+    <message>
+        <source>新地址</source>
+        <translation>新地址</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetailDialog</name>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>已初始化</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初始化</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>子网掩码</source>
+        <translation>子网掩码</translation>
+    </message>
+    <message>
+        <source>网关</source>
+        <translation>网关</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>HTTP端口</source>
+        <translation>HTTP端口</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>版本号</translation>
+    </message>
+    <message>
+        <source>添加方式</source>
+        <translation>添加方式</translation>
+    </message>
+    <message>
+        <source>P2P端口</source>
+        <translation>P2P端口</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>本机地址</source>
+        <translation>本机地址</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>复制全部</translation>
+    </message>
+    <message>
+        <source>设备详情</source>
+        <translation>设备详情</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
     <name>DeviceRow</name>
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPasswordDialog</name>
+    <message>
+        <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
+        <translation>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</translation>
+    </message>
+    <message>
+        <source>请输入用户名</source>
+        <translation>请输入用户名</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>请输入密码</translation>
+    </message>
+    <message>
+        <source>请确认密码</source>
+        <translation>请确认密码</translation>
+    </message>
+    <message>
+        <source>请输入相同的密码</source>
+        <translation>请输入相同的密码</translation>
+    </message>
+    <message>
+        <source>密码长度应当在8到32个字符范围内</source>
+        <translation>密码长度应当在8到32个字符范围内</translation>
+    </message>
+    <message>
+        <source>初始化设置</source>
+        <translation>初始化设置</translation>
+    </message>
+    <message numerus="yes">
+        <source>台未初始化设备</source>
+        <extracomment>Follows a number, as in &quot;3 uninitialised devices&quot;.</extracomment>
+        <translation>
+            <numerusform>台未初始化设备</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>新密码</source>
+        <translation>新密码</translation>
+    </message>
+    <message>
+        <source>确认密码</source>
+        <translation>确认密码</translation>
+    </message>
+    <message>
+        <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除</source>
+        <translation>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除</translation>
+    </message>
+    <message>
+        <source>这五个字符以外的任意可见字符)</source>
+        <translation>这五个字符以外的任意可见字符)</translation>
+    </message>
+    <message>
+        <source>设定新密码后,请在“搜索设置”中设置新密码</source>
+        <translation>设定新密码后,请在“搜索设置”中设置新密码</translation>
+    </message>
+</context>
+<context>
+    <name>InitialiseDialog</name>
+    <message>
+        <source>初始化</source>
+        <translation>初始化</translation>
+    </message>
+    <message>
+        <source>初始化设置</source>
+        <translation>初始化设置</translation>
+    </message>
+    <message>
+        <source>请选择一台未初始化的设备</source>
+        <translation>请选择一台未初始化的设备</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>版本号</translation>
+    </message>
+    <message>
+        <source>列表只显示本局域网设备,初始化不支持跨局域网</source>
+        <translation>列表只显示本局域网设备,初始化不支持跨局域网</translation>
     </message>
 </context>
 <context>
@@ -96,8 +327,121 @@
         <translation>在浏览器中打开设备网页</translation>
     </message>
     <message>
-        <source>观看实时画面</source>
-        <translation>观看实时画面</translation>
+        <source>实时画面尚未提供</source>
+        <translation>实时画面尚未提供</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPBatches</name>
+    <message>
+        <source>请选择一台未初始化的设备</source>
+        <translation>请选择一台未初始化的设备</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未成功，请查看修改结果</source>
+        <extracomment>Of the devices of a batch, those whose result is a failure.</extracomment>
+        <translation>
+            <numerusform>%n 台设备未成功，请查看修改结果</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备已完成</source>
+        <translation>
+            <numerusform>%n 台设备已完成</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>正在初始化设备…</source>
+        <translation>正在初始化设备…</translation>
+    </message>
+    <message>
+        <source>正在修改IP地址…</source>
+        <translation>正在修改IP地址…</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPDevices</name>
+    <message>
+        <source>这台设备没有可打开的网页</source>
+        <translation>这台设备没有可打开的网页</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>无法打开浏览器，设备网页：%1</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
+    </message>
+    <message>
+        <source>请确认是否要删除</source>
+        <translation>请确认是否要删除</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPDialog</name>
+    <message>
+        <source>请输入正确的起始IP</source>
+        <translation>请输入正确的起始IP</translation>
+    </message>
+    <message>
+        <source>请输入正确的子网掩码</source>
+        <translation>请输入正确的子网掩码</translation>
+    </message>
+    <message>
+        <source>请输入正确的网关</source>
+        <translation>请输入正确的网关</translation>
+    </message>
+    <message>
+        <source>修改IP</source>
+        <translation>修改IP</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>台设备已选中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>收起预览</source>
+        <translation>收起预览</translation>
+    </message>
+    <message>
+        <source>预览</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>显示每台设备将得到的地址</source>
+        <translation>显示每台设备将得到的地址</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>静态</source>
+        <translation>静态</translation>
+    </message>
+    <message>
+        <source>起始IP</source>
+        <translation>起始IP</translation>
+    </message>
+    <message>
+        <source>同一IP</source>
+        <translation>同一IP</translation>
+    </message>
+    <message>
+        <source>子网掩码</source>
+        <translation>子网掩码</translation>
+    </message>
+    <message>
+        <source>网关</source>
+        <translation>网关</translation>
     </message>
 </context>
 <context>
@@ -315,6 +659,25 @@
     </message>
 </context>
 <context>
+    <name>OVStrengthBar</name>
+    <message>
+        <source>弱</source>
+        <translation>弱</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>强</source>
+        <translation>强</translation>
+    </message>
+    <message>
+        <source>密码强度</source>
+        <translation>密码强度</translation>
+    </message>
+</context>
+<context>
     <name>OVTableHead</name>
     <message>
         <source>全选</source>
@@ -438,6 +801,10 @@
         <translation>
             <numerusform>%n 台设备IP地址冲突</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>已复制到剪贴板</translation>
     </message>
 </context>
 <context>

@@ -146,6 +146,7 @@ T.ApplicationWindow {
                 libraryInstalled: window.libraryInstalled
                 searching: window.searching
                 searchesNothing: search.searchedNothing
+                onSaid: (message, kind) => popups.say(message, kind)
                 onSearchRequested: window.requestSearch()
                 onSettingsRequested: popups.openSearchSettings(searchSettings.read())
             }

@@ -24,6 +24,8 @@ QtObject {
     readonly property int footHeight: 40
     readonly property int dialogHeadHeight: 44
     readonly property int dialogFootHeight: 56
+    readonly property int denseHeadHeight: 40
+    readonly property int denseFootHeight: 48
     readonly property int boxSize: 16
     readonly property int iconSize: 18
     readonly property int smallIconSize: 14
@@ -44,6 +46,16 @@ QtObject {
     readonly property int messageWidth: 400
     readonly property int restartWidth: 480
     readonly property int restartHeight: 200
+    readonly property int modifyIpWidth: 415
+    readonly property int modifyIpHeight: 250
+    readonly property int addressPlanWidth: 720
+    readonly property int addressPlanHeight: 240
+    readonly property int initialiseWidth: 860
+    readonly property int initialiseListHeight: 300
+    readonly property int firstPasswordWidth: 440
+    readonly property int firstPasswordHeight: 400
+    readonly property int detailWidth: 520
+    readonly property int detailHeight: 480
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
 
@@ -61,6 +73,8 @@ QtObject {
     readonly property int columnVersion: 114
     readonly property int columnResult: 92
     readonly property int columnActions: 168
+    readonly property int columnPlanAddress: 128
+    readonly property int columnPlanMark: 224
 
     // Type.
     readonly property int hintSize: 12
@@ -86,6 +100,7 @@ QtObject {
 
     // Durations in milliseconds.
     readonly property int quick: 120
+    readonly property int paintEvery: 25  // the longest that a batch works without a picture
     readonly property int turn: 1000
     readonly property int toolTipDelay: 500
     readonly property int toastStay: 4000

@@ -54,6 +54,12 @@ QtObject {
     property color badSoft: "#fdeceb"
     property color badLine: "#ebc3c0"
 
+    // Grades of a password. They say how hard it is to guess, and warn of nothing.
+    property color passwordWeak: "#1a8f4c"
+    property color passwordMedium: "#f2b600"
+    property color passwordStrong: "#c8322b"
+    property color passwordUnlit: "#cdcdcd"
+
     // Rows of device tables.
     property color row: "#ffffff"
     property color rowAlternate: "#E5E5E5"

@@ -1,8 +1,10 @@
 // Types of other folders under their names in the scene.
 #pragma once
 
+#include "device/addressplan.h"
 #include "device/addresstools.h"
 #include "device/devicefactory.h"
+#include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
 #include "device/treemodel.h"
 
@@ -20,6 +22,20 @@ struct DeviceTableModelForeign
     Q_GADGET
     QML_FOREIGN(DeviceTableModel)
     QML_NAMED_ELEMENT(DeviceTableModel)
+};
+
+struct DeviceSelectionForeign
+{
+    Q_GADGET
+    QML_FOREIGN(DeviceSelection)
+    QML_NAMED_ELEMENT(DeviceSelection)
+};
+
+struct AddressPlanForeign
+{
+    Q_GADGET
+    QML_FOREIGN(AddressPlan)
+    QML_NAMED_ELEMENT(AddressPlan)
 };
 
 struct OVTreeModelForeign

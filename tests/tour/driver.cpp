@@ -17,9 +17,10 @@ QQuickItem *findBelow(QQuickItem *item, const QString &name)
         return nullptr;
     if (item->objectName() == name)
         return item;
+    // The last child first: of two dialogs one over the other, the upper one is meant.
     const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findBelow(child, name))
+    for (auto child = children.crbegin(); child != children.crend(); ++child) {
+        if (QQuickItem *found = findBelow(*child, name))
             return found;
     }
     return nullptr;
@@ -112,7 +113,12 @@ void Driver::type(const QString &text) const
 
 void Driver::fill(const QString &name, const QString &text) const
 {
-    click(name);
+    // Near its upper edge: what is wrong with the text may stand under it.
+    constexpr int intoField = 8;
+    QQuickItem *field = require(name);
+    atRest();
+    const QPoint place = field->mapToScene(QPointF(field->width() / 2, intoField)).toPoint();
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, place);
     key(Qt::Key_A, Qt::ControlModifier);
     key(Qt::Key_Delete);
     type(text);

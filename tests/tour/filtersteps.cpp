@@ -1,38 +1,10 @@
 #include "tests/tour/driver.h"
+#include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
-#include <QAbstractItemModel>
 #include <QQuickItem>
 
 namespace {
-
-/// The rows that the table shows, read from its model by role.
-class Rows
-{
-public:
-    explicit Rows(const Driver &driver)
-        : m_model(
-              driver.require(QStringLiteral("deviceTable"))->property("model").value<QAbstractItemModel *>())
-    {
-        driver.check(m_model != nullptr, QStringLiteral("the table has a model"));
-    }
-
-    [[nodiscard]] int count() const { return m_model->rowCount(); }
-    [[nodiscard]] QVariant value(int row, const QByteArray &role) const
-    {
-        return m_model->data(m_model->index(row, 0), m_model->roleNames().key(role));
-    }
-    [[nodiscard]] int countOf(const QByteArray &role, const QVariant &value) const
-    {
-        int found = 0;
-        for (int row = 0; row < count(); ++row)
-            found += this->value(row, role) == value ? 1 : 0;
-        return found;
-    }
-
-private:
-    QAbstractItemModel *const m_model;
-};
 
 void walkSorting(Driver &driver)
 {

@@ -116,6 +116,7 @@ void drive(Driver &driver, const QString &language, const QString &folder)
     walkTable(driver);
     walkWindow(driver);
     walkSearchSettings(driver);
+    walkDevices(driver);
     walkSecondStart(driver, folder);
     driver.check(warnings == 0, QStringLiteral("no warning was given"));
     driver.check(writeFile(restartFile(folder), "restarted"), QStringLiteral("the restart is noted"));

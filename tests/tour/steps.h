@@ -12,6 +12,8 @@ void walkTable(Driver &driver);
 void walkSearchSettings(Driver &driver);
 /// Tabs, menus, the about box, maximising, and closing.
 void walkWindow(Driver &driver);
+/// First passwords, new addresses singly and in batches, details, web pages and deleting.
+void walkDevices(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

@@ -46,16 +46,20 @@ void walkMenus(Driver &driver)
     driver.key(Qt::Key_Escape);
 }
 
-void walkDisabledOperations(Driver &driver)
+void walkOperationsOfIPv6(Driver &driver)
 {
+    driver.click(QStringLiteral("ipv6Choice"));
     for (const QString &button : {QStringLiteral("initialiseButton"), QStringLiteral("batchModifyButton"),
                                   QStringLiteral("importButton"), QStringLiteral("exportButton"),
-                                  QStringLiteral("addButton"), QStringLiteral("deleteButton")}) {
+                                  QStringLiteral("addButton"), QStringLiteral("edit0")}) {
         driver.check(!driver.require(button)->isEnabled(),
-                     QStringLiteral("\"%1\" is there and disabled").arg(button));
+                     QStringLiteral("\"%1\" is disabled for IPv6 devices").arg(button));
     }
+    driver.check(driver.require(QStringLiteral("deleteButton"))->isEnabled(),
+                 QStringLiteral("IPv6 devices can be deleted"));
     driver.hover(QStringLiteral("batchModifyButton"));
     driver.report(QStringLiteral("tool-tip"), driver.text(QStringLiteral("toolTip")));
+    driver.click(QStringLiteral("ipv4Choice"));
 }
 
 void walkSize(Driver &driver)
@@ -77,7 +81,7 @@ void walkWindow(Driver &driver)
 {
     walkTabs(driver);
     walkMenus(driver);
-    walkDisabledOperations(driver);
+    walkOperationsOfIPv6(driver);
     walkSize(driver);
 }
 

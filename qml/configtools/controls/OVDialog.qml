@@ -14,6 +14,8 @@ T.Popup {
     property bool okEnabled: true
     property bool hasCancel: true
     property bool closable: true
+    property bool dense: false  // for a small box: its head, its foot and the room around its content are lower
+    property alias footContent: footSlot.data  // at the left of the buttons
     default property alias content: body.data
     signal accepted
     signal rejected
@@ -32,7 +34,9 @@ T.Popup {
     y: Math.round(((parent?.height ?? 0) - height) / 2)
     width: Theme.dialogWidth
     height: implicitHeight
-    implicitHeight: head.height + body.implicitHeight + 2 * Theme.pageMargin + foot.height
+    readonly property int contentMargin: dense ? Theme.controlGap - Theme.line : Theme.pageMargin
+
+    implicitHeight: head.height + body.implicitHeight + 2 * contentMargin + foot.height
     closePolicy: T.Popup.NoAutoClose
     dim: true
     focus: true
@@ -56,7 +60,7 @@ T.Popup {
         Item {
             id: head
             width: parent.width
-            height: Theme.dialogHeadHeight
+            height: root.dense ? Theme.denseHeadHeight : Theme.dialogHeadHeight
 
             OVLabel {
                 anchors.left: parent.left
@@ -90,9 +94,9 @@ T.Popup {
         FocusScope {
             id: body
             x: Theme.pageMargin
-            y: head.height + Theme.pageMargin
+            y: head.height + root.contentMargin
             width: parent.width - 2 * Theme.pageMargin
-            height: foot.y - y - Theme.pageMargin
+            height: foot.y - y - root.contentMargin
             focus: true
             implicitHeight: childrenRect.height
         }
@@ -101,7 +105,7 @@ T.Popup {
             id: foot
             y: parent.height - height
             width: parent.width
-            height: Theme.dialogFootHeight
+            height: root.dense ? Theme.denseFootHeight : Theme.dialogFootHeight
 
             Rectangle {
                 anchors.fill: parent
@@ -118,7 +122,14 @@ T.Popup {
                 height: Theme.line
                 color: Theme.colours.line
             }
+            Item {
+                id: footSlot
+                x: Theme.pageMargin
+                width: buttons.x - x - Theme.unit
+                height: parent.height
+            }
             Row {
+                id: buttons
                 anchors.right: parent.right
                 anchors.rightMargin: Theme.pageMargin
                 anchors.verticalCenter: parent.verticalCenter

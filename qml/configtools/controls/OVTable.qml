@@ -25,7 +25,7 @@ FocusScope {
     signal copyRequested(int row)
     signal rowOpened(int row)
 
-    readonly property int checkWidth: checkable ? 48 : 0
+    readonly property int checkWidth: checkable ? 48 : Theme.controlGap
     property var draggedWidths: ({})
     readonly property var columnWidths: layOut(columns, draggedWidths, body.width - checkWidth)
 
@@ -65,6 +65,7 @@ FocusScope {
         width: root.width - 2 * Theme.line
         checkState: root.checkState
         checkWidth: root.checkWidth
+        checkable: root.checkable
         columnWidths: root.columnWidths
         columns: root.columns
         rowCount: body.count
@@ -83,6 +84,7 @@ FocusScope {
         width: root.width - 2 * Theme.line
         height: root.height - y - Theme.controlRadius
         checkWidth: root.checkWidth
+        checkable: root.checkable
         columnWidths: root.columnWidths
         columns: root.columns
         focus: true

@@ -8,6 +8,7 @@ ListView {
 
     required property var columns
     required property var columnWidths
+    required property bool checkable
     required property int checkWidth
     readonly property real rowWidth: columnWidths.reduce((sum, width) => sum + width, checkWidth)
     property bool byPointer: false  // the focus came with a click, which needs no ring
@@ -88,9 +89,9 @@ ListView {
         event.accepted = true;
         if (targets[event.key] !== undefined)
             move(targets[event.key], extend);
-        else if (event.key === Qt.Key_Space && checkWidth > 0 && currentIndex >= 0)
+        else if (event.key === Qt.Key_Space && checkable && currentIndex >= 0)
             toggle(currentIndex, event.modifiers);
-        else if (control && event.key === Qt.Key_A && checkWidth > 0)
+        else if (control && event.key === Qt.Key_A && checkable)
             allToggled(true);
         else if (control && event.key === Qt.Key_C && currentIndex >= 0)
             copyRequested(currentIndex);
@@ -104,6 +105,7 @@ ListView {
     delegate: OVTableRow {
         width: root.contentWidth
         checkWidth: root.checkWidth
+        checkable: root.checkable
         columnWidths: root.columnWidths
         columns: root.columns
         current: index === root.currentIndex

@@ -7,7 +7,8 @@ Rectangle {
 
     required property var columns
     required property var columnWidths
-    required property int checkWidth
+    required property bool checkable
+    required property int checkWidth  // without tick boxes: the room before the first column
     required property int checkState
     required property int rowCount
     required property string sortKey
@@ -43,9 +44,9 @@ Rectangle {
         Item {
             width: root.checkWidth
             height: parent.height
-            visible: width > 0
 
             OVCheckBox {
+                visible: root.checkable
                 anchors.centerIn: parent
                 checkState: root.checkState
                 nextCheckState: () => checkState

@@ -12,7 +12,8 @@ Rectangle {
     required property var values  // the row as the model's get() returns it
     required property var columns
     required property var columnWidths
-    required property int checkWidth  // 0: rows have no tick box
+    required property bool checkable
+    required property int checkWidth
     required property bool current
     signal picked(int modifiers)
     signal tickToggled(int modifiers)
@@ -27,7 +28,7 @@ Rectangle {
     Accessible.role: Accessible.Row
     Accessible.name: values.ipport ?? values.name ?? ""
     Accessible.selected: current
-    Accessible.checkable: checkWidth > 0
+    Accessible.checkable: checkable
     Accessible.checked: checked
 
     HoverHandler {
@@ -51,6 +52,7 @@ Rectangle {
         width: root.checkWidth
         height: parent.height
         objectName: "check" + root.index
+        visible: root.checkable
         onClicked: mouse => root.tickToggled(mouse.modifiers)
 
         OVCheckBox {

@@ -6,39 +6,43 @@ import configtools
 OVTableCell {
     id: root
 
-    property bool available: false
+    property bool editable: true
+    signal editRequested(int row)
+    signal detailRequested(int row)
+    signal webRequested(int row)
 
     OVActionRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.controlGap
 
         OVLinkButton {
-            enabled: root.available
+            enabled: root.editable
             focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
             objectName: "edit" + root.rowIndex
             text: qsTr("编辑")
             toolTip: qsTr("修改这台设备的IP地址")
+            onClicked: root.editRequested(root.rowIndex)
         }
         OVLinkButton {
-            enabled: root.available
             focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
             objectName: "detail" + root.rowIndex
             text: qsTr("详情")
             toolTip: qsTr("显示这台设备的全部信息")
+            onClicked: root.detailRequested(root.rowIndex)
         }
         OVLinkButton {
-            enabled: root.available
             focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
             objectName: "web" + root.rowIndex
             text: "web"
             toolTip: qsTr("在浏览器中打开设备网页")
+            onClicked: root.webRequested(root.rowIndex)
         }
         OVLinkButton {
-            enabled: root.available
+            enabled: false
             focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
             objectName: "live" + root.rowIndex
             text: "live"
-            toolTip: qsTr("观看实时画面")
+            toolTip: qsTr("实时画面尚未提供")
         }
     }
 }

@@ -7,6 +7,9 @@ OVTable {
 
     required property bool ipv6
     required property var deviceFactory  // knows the names of results
+    signal editRequested(int row)
+    signal detailRequested(int row)
+    signal webRequested(int row)
 
     function wordOfResult(code) {
         const name = deviceFactory.getErrorName(code);
@@ -145,8 +148,15 @@ OVTable {
     }
     // qmllint enable unqualified
 
+    // qmllint disable unqualified
     Component {
         id: actionCell
-        ModifyIPActions {}
+        ModifyIPActions {
+            editable: !root.ipv6
+            onDetailRequested: row => root.detailRequested(row)
+            onEditRequested: row => root.editRequested(row)
+            onWebRequested: row => root.webRequested(row)
+        }
     }
+    // qmllint enable unqualified
 }

@@ -9,11 +9,19 @@ RowLayout {
     required property bool showInitialised
     required property bool showUninitialised
     required property bool ipv6
-    property bool actionsAvailable: false
+    property bool actionsAvailable: true
     property alias searchText: searchField.text
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
     signal ipv6Chosen(bool ipv6)
+    signal initialiseRequested
+    signal modifyRequested
+    signal importRequested
+    signal exportRequested
+    signal addRequested(int kind)
+    signal deleteRequested
+
+    enum AddKind { ByAddress, ByP2P, FromFavourites }
 
     readonly property bool ipv4ActionsAvailable: actionsAvailable && !ipv6
 
@@ -32,24 +40,28 @@ RowLayout {
             objectName: "initialiseButton"
             text: qsTr("初始化")
             toolTip: qsTr("为勾选的新设备设置第一个密码")
+            onClicked: root.initialiseRequested()
         }
         OVButton {
             enabled: root.ipv4ActionsAvailable
             objectName: "batchModifyButton"
             text: qsTr("批量修改IP")
             toolTip: qsTr("为勾选的设备依次分配地址")
+            onClicked: root.modifyRequested()
         }
         OVButton {
             enabled: root.ipv4ActionsAvailable
             objectName: "importButton"
             text: qsTr("导入")
             toolTip: qsTr("从表格文件读入设备列表")
+            onClicked: root.importRequested()
         }
         OVButton {
             enabled: root.ipv4ActionsAvailable
             objectName: "exportButton"
             text: qsTr("导出")
             toolTip: qsTr("把勾选的设备写入表格文件")
+            onClicked: root.exportRequested()
         }
         OVButton {
             id: addButton
@@ -87,6 +99,7 @@ RowLayout {
             objectName: "deleteButton"
             text: qsTr("删除")
             toolTip: qsTr("把勾选的设备从列表中删除")
+            onClicked: root.deleteRequested()
         }
     }
 

@@ -10,6 +10,7 @@ FocusScope {
     required property bool searchesNothing
     signal searchRequested
     signal settingsRequested
+    signal said(string message, int kind)
 
     readonly property var deviceFactory: CDeviceFactoryApi // qmllint disable unqualified
 
@@ -49,6 +50,24 @@ FocusScope {
         id: clipboard
     }
 
+    ModifyIPBatches {
+        id: batches
+        deviceFactory: page.deviceFactory
+        deviceTable: devices
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+
+    ModifyIPDevices {
+        id: actions
+        deviceFactory: page.deviceFactory
+        deviceTable: devices
+        onCopyRequested: text => {
+            clipboard.put(text);
+            page.said(qsTr("已复制到剪贴板"), OVToast.Success);
+        }
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+
     ModifyIPToolBar {
         id: toolBar
         x: Theme.pageMargin
@@ -59,6 +78,9 @@ FocusScope {
         showUninitialised: devices.showUninitialised
         onInitialisedToggled: shown => devices.showInitialised = shown
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
+        onDeleteRequested: actions.removeChecked()
+        onInitialiseRequested: batches.initialise()
+        onModifyRequested: batches.modifyChecked()
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }
 
@@ -78,8 +100,12 @@ FocusScope {
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
         onCopyRequested: row => clipboard.put(devices.textOf([row]))
+        onDetailRequested: row => actions.showDetail(row)
+        onEditRequested: row => batches.modifyRow(row)
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
+        onRowOpened: row => devices.ipv6 ? actions.showDetail(row) : batches.modifyRow(row)
         onSortRequested: key => devices.toggleSort(key)
+        onWebRequested: row => actions.openWebPage(row)
 
         ModifyIPEmptyState {
             anchors.fill: parent
@@ -98,8 +124,10 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        running: page.searching
-        runningText: qsTr("正在搜索设备…")
+        progress: batches.running ? batches.progress : -1
+        running: page.searching || batches.running
+        runningDevice: batches.current
+        runningText: batches.running ? batches.runningText : qsTr("正在搜索设备…")
         //: Follows a number at the foot of a page, as in "3 devices selected".
         text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
         //: Each of the devices has the address of another one.

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QJSValue>
+#include <QObject>
+#include <QStringList>
+
+/// The desktop's boxes in which the user picks a file or a folder, for the scene. They do not block: what was
+/// picked goes, as a local path, to the function that was handed over; a box that is cancelled calls nothing.
+/// One box at a time; each begins in the folder that the last one ended in. Main thread only.
+class FileDialogs : public QObject
+{
+    Q_OBJECT
+public:
+    explicit FileDialogs(QObject *parent = nullptr);
+
+    /// An existing file. `nameFilters` as in "Excel Files (*.xlsx)".
+    Q_INVOKABLE void chooseFile(const QString &title, const QStringList &nameFilters, const QJSValue &chosen);
+
+    Q_INVOKABLE void chooseFolder(const QString &title, const QJSValue &chosen);
+
+private:
+    void open(const QString &title, const QStringList &nameFilters, bool folder, const QJSValue &chosen);
+
+    QString m_folder;
+    bool m_open = false;
+};

@@ -1,0 +1,96 @@
+// Which address each device of a batch will get, and what will be wrong with it.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QHash>
+#include <QList>
+#include <QPointer>
+#include <QVariantList>
+
+#include <cstdint>
+#include <optional>
+
+class CDeviceFactory;
+
+/// The addresses of a batch, one row for each device in its order: the k-th gets the start address plus k, as
+/// a 32-bit number, or all get the start address. A mark says what will be wrong with an address; it informs
+/// and changes no address.
+///
+/// Offers what a table of the scene asks for: the roles "checked" (always false), "conflict" (the address
+/// collides) and "identity" ("mac"), and by get() "num", "name", "mac", "ipport", "address" (the new one,
+/// empty while the start address is none) and "mark". Lives on the scene's thread.
+class AddressPlan : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
+    Q_PROPERTY(CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY planChanged)
+    Q_PROPERTY(QString startAddress READ startAddress WRITE setStartAddress NOTIFY planChanged)
+    Q_PROPERTY(QString mask READ mask WRITE setMask NOTIFY planChanged)
+    Q_PROPERTY(bool sameAddress READ sameAddress WRITE setSameAddress NOTIFY planChanged)
+    Q_PROPERTY(int count READ rowCount NOTIFY planChanged)
+    Q_PROPERTY(int markedCount READ markedCount NOTIFY planChanged)
+public:
+    enum Mark
+    {
+        Fine,
+        NotInitialised,  ///< the device has no password yet and will refuse
+        TakenByOther,    ///< a device outside the batch has the address
+        TakenInBatch,    ///< another device of the batch gets it too
+        OutsideSubnet,   ///< not in the subnet of the start address
+        NoDeviceAddress, ///< the address of the subnet itself, or of all its devices
+    };
+    Q_ENUM(Mark)
+
+    explicit AddressPlan(QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+    [[nodiscard]] QString startAddress() const { return m_startAddress; }
+    void setStartAddress(const QString &startAddress);
+    [[nodiscard]] QString mask() const { return m_mask; }
+    void setMask(const QString &mask);
+    [[nodiscard]] bool sameAddress() const { return m_sameAddress; }
+    void setSameAddress(bool sameAddress);
+    [[nodiscard]] int markedCount() const { return m_markedCount; }
+
+    /// Takes the device rows of the batch in their order, and reads from the factory which addresses the
+    /// devices outside of it have.
+    Q_INVOKABLE void setDevices(const QVariantList &rows);
+
+    /// What the device in this place gets; empty when there is no such place or no start address.
+    Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
+
+    Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
+    /// Position of the device with this "mac", -1 when there is none.
+    Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
+
+Q_SIGNALS:
+    void planChanged();
+
+private:
+    struct Row
+    {
+        QVariantMap values;
+        bool initialised = true;
+        std::uint32_t address = 0;
+        Mark mark = Fine;
+    };
+
+    void plan();
+    [[nodiscard]] Mark markOf(const Row &row, std::uint32_t start,
+                              const QHash<std::uint32_t, int> &timesGiven) const;
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QString m_startAddress;
+    QString m_mask;
+    bool m_sameAddress = false;
+
+    QList<Row> m_rows;
+    QHash<std::uint32_t, int> m_taken; ///< addresses of devices outside the batch
+    bool m_planned = false;            ///< there is a start address
+    int m_markedCount = 0;
+};

@@ -1,0 +1,110 @@
+#include "device/deviceselection.h"
+
+#include "device/devicerow.h"
+
+#include <algorithm>
+
+namespace {
+
+enum Role
+{
+    CheckedRole = Qt::UserRole,
+    ConflictRole,
+    IdentityRole,
+};
+
+} // namespace
+
+DeviceSelection::DeviceSelection(QObject *parent) : QAbstractListModel(parent) {}
+
+int DeviceSelection::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant DeviceSelection::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    switch (role) {
+    case CheckedRole:
+        return m_rows.at(index.row()).checked;
+    case ConflictRole:
+        return false;
+    case IdentityRole:
+        return m_rows.at(index.row()).values.value(DeviceRowKey::mac);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> DeviceSelection::roleNames() const
+{
+    return {{CheckedRole, "checked"}, {ConflictRole, "conflict"}, {IdentityRole, "identity"}};
+}
+
+Qt::CheckState DeviceSelection::checkState() const
+{
+    if (m_checkedCount == 0)
+        return Qt::Unchecked;
+    return m_checkedCount == m_rows.size() ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+void DeviceSelection::setRows(const QVariantList &rows)
+{
+    beginResetModel();
+    m_rows.clear();
+    m_rows.reserve(rows.size());
+    for (const QVariant &row : rows)
+        m_rows.append({.values = row.toMap()});
+    m_checkedCount = rowCount();
+    endResetModel();
+    Q_EMIT rowsChanged();
+    Q_EMIT checkedCountChanged();
+}
+
+void DeviceSelection::setRangeChecked(int first, int last, bool checked)
+{
+    first = std::max(first, 0);
+    last = std::min(last, rowCount() - 1);
+    if (first > last)
+        return;
+    for (int row = first; row <= last; ++row)
+        m_rows[row].checked = checked;
+    m_checkedCount = static_cast<int>(
+        std::count_if(m_rows.cbegin(), m_rows.cend(), [](const Row &row) { return row.checked; }));
+    Q_EMIT dataChanged(index(first), index(last), {CheckedRole});
+    Q_EMIT checkedCountChanged();
+}
+
+void DeviceSelection::setAllChecked(bool checked)
+{
+    setRangeChecked(0, rowCount() - 1, checked);
+}
+
+QVariantMap DeviceSelection::get(int row) const
+{
+    if (row < 0 || row >= rowCount())
+        return {};
+    QVariantMap values = m_rows.at(row).values;
+    values.insert(DeviceRowKey::checked, m_rows.at(row).checked);
+    return values;
+}
+
+int DeviceSelection::rowOf(const QString &identity) const
+{
+    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [&identity](const Row &candidate) {
+        return candidate.values.value(DeviceRowKey::mac).toString() == identity;
+    });
+    return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
+}
+
+QVariantList DeviceSelection::checkedRows() const
+{
+    QVariantList rows;
+    for (const Row &row : m_rows) {
+        if (row.checked)
+            rows.append(row.values);
+    }
+    return rows;
+}

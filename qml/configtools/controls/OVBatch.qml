@@ -1,0 +1,76 @@
+// Runs a step for each of many things, one after another on the scene's thread: some in a row as long as that
+// is quick, then a turn of the event loop, in which the page paints. Until the end the user's input is held
+// back by an invisible sheet over the whole window.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+Item {
+    id: root
+
+    readonly property bool running: total > 0
+    readonly property real progress: total > 0 ? done / total : 0
+    property int total: 0
+    property int done: 0
+    property string current  // what the step just now is about
+    property var job: null
+
+    /// Calls `step` with the place of each thing, then `finish` once. `nameOf` gives the name of the thing in a
+    /// place, for the foot of the page. Does nothing while another run goes on, and for an empty one.
+    function start(count, step, nameOf, finish) {
+        if (running || count === 0)
+            return;
+        job = {step: step, nameOf: nameOf, finish: finish};
+        done = 0;
+        current = job.nameOf(0);
+        total = count;
+        hold.open();
+        turn.start();
+    }
+
+    /// Steps for a picture's time; a slow step has its turn alone.
+    function work() {
+        const begin = Date.now();
+        do {
+            job.step(done);
+            ++done;
+        } while (done < total && Date.now() - begin < Theme.paintEvery);
+        if (done < total) {
+            current = job.nameOf(done);
+            turn.start();
+            return;
+        }
+        total = 0;
+        current = "";
+        hold.close();
+        const ended = job;
+        job = null;
+        ended.finish();
+    }
+
+    visible: false
+
+    Timer {
+        id: turn
+        interval: 1
+        onTriggered: root.work()
+    }
+
+    T.Popup {
+        id: hold
+        parent: T.Overlay.overlay
+        width: parent?.width ?? 0
+        height: parent?.height ?? 0
+        closePolicy: T.Popup.NoAutoClose
+        focus: true
+        modal: true
+        dim: false
+
+        contentItem: MouseArea {
+            cursorShape: Qt.BusyCursor
+            focus: true
+            hoverEnabled: true
+            Keys.onPressed: event => event.accepted = true
+        }
+    }
+}

@@ -1,0 +1,134 @@
+// First passwords and new addresses: their dialogs, and sending them device by device.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    required property var deviceTable  // a DeviceTableModel
+    readonly property alias running: batch.running
+    readonly property alias progress: batch.progress
+    readonly property alias current: batch.current
+    property string runningText
+    signal said(string message, int kind)
+
+    function initialise() {
+        const rows = deviceTable.checkedRows().filter(row => !row.state);
+        if (rows.length === 0) {
+            said(qsTr("请选择一台未初始化的设备"), OVToast.Error);
+            return;
+        }
+        const dialog = initialising.wanted();
+        dialog.load(rows);
+        dialog.open();
+    }
+
+    /// New addresses for the ticked rows.
+    function modifyChecked() {
+        const rows = deviceTable.checkedRows();
+        if (rows.length === 0)
+            said(qsTr("请选择一台设备"), OVToast.Error);
+        else
+            askForAddresses(rows, true);
+    }
+
+    function modifyRow(row) {
+        askForAddresses([deviceTable.get(row)], false);
+    }
+
+    function askForAddresses(rows, isBatch) {
+        const dialog = readdressing.wanted();
+        dialog.load(rows, isBatch);
+        dialog.open();
+    }
+
+    /// Calls `request` for each row, shows its result as it comes, and reads the whole table at the end.
+    function run(rows, text, request) {
+        runningText = text;
+        batch.start(rows.length, i => {
+            request(rows[i], i);
+            deviceTable.refreshDevice(rows[i].mac);
+        }, i => rows[i].ipport, () => {
+            const failed = rows.filter(row => deviceFactory.getDeviceDetail("dh", row.mac).res !== 0).length;
+            deviceTable.refresh();
+            if (failed > 0)
+                //: Of the devices of a batch, those whose result is a failure.
+                said(qsTr("%n 台设备未成功，请查看修改结果", "", failed), OVToast.Error);
+            else
+                said(qsTr("%n 台设备已完成", "", rows.length), OVToast.Success);
+        });
+    }
+
+    function sendFirstPasswords(rows, account, password) {
+        run(rows, qsTr("正在初始化设备…"),
+            row => deviceFactory.setInitAccount("dh", row.mac, account, password));
+    }
+
+    function sendAddresses(dialog) {
+        const rows = dialog.rows;
+        const dhcp = dialog.dhcp;
+        const mask = dialog.mask;
+        const gateway = dialog.gateway;
+        const addresses = rows.map((_, i) => dialog.plan.addressOf(i));
+        run(rows, qsTr("正在修改IP地址…"), (row, i) => {
+            if (dhcp)
+                deviceFactory.modifyIP("dh", row.mac, "", "", "", true);
+            else
+                deviceFactory.modifyIP("dh", row.mac, addresses[i], mask, gateway, false);
+        });
+    }
+
+    visible: false
+
+    OVBatch {
+        id: batch
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: initialising
+        visible: false
+        sourceComponent: InitialiseDialog {
+            id: list
+            onConfirmed: {
+                const dialog = firstPassword.wanted();
+                dialog.load(list.count);
+                dialog.open();
+            }
+            onRefused: message => root.said(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: firstPassword
+        visible: false
+        sourceComponent: FirstPasswordDialog {
+            id: account
+            deviceFactory: root.deviceFactory
+            onConfirmed: {
+                const list = initialising.wanted();
+                const rows = list.chosen();
+                const name = account.account;
+                const word = account.password;
+                account.close();
+                list.close();
+                root.sendFirstPasswords(rows, name, word);
+            }
+            onRefused: message => root.said(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: readdressing
+        visible: false
+        sourceComponent: ModifyIPDialog {
+            id: addresses
+            deviceFactory: root.deviceFactory
+            onConfirmed: {
+                addresses.close();
+                root.sendAddresses(addresses);
+            }
+            onRefused: message => root.said(message, OVToast.Error)
+        }
+    }
+    // qmllint enable unqualified
+}

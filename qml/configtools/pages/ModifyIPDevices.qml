@@ -1,0 +1,68 @@
+// What is done with devices of the main page besides changing them: reading their details, opening their web
+// page, deleting them from the list.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    required property var deviceTable  // a DeviceTableModel
+    signal copyRequested(string text)
+    signal said(string message, int kind)
+
+    function showDetail(row) {
+        const values = deviceTable.get(row);
+        const dialog = detail.wanted();
+        dialog.load(Object.assign({}, values, deviceTable.ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.mac)));
+        dialog.open();
+    }
+
+    /// The web page of a device behind a tunnel is reached through a tunnel of its own.
+    function openWebPage(row) {
+        const values = deviceTable.get(row);
+        const detail = deviceTable.ipv6 ? values : deviceFactory.getDeviceDetail("dh", values.mac);
+        const port = Number(values.ipport.slice(values.ipport.lastIndexOf(":") + 1));
+        const webPort = detail.loginType === "P2P" ? deviceFactory.getP2PWebPort(port) : detail.httpport;
+        const page = AddressTools.webPage(values.ipport, webPort ?? 0);
+        if (page === "")
+            said(qsTr("这台设备没有可打开的网页"), OVToast.Error);
+        else if (!Qt.openUrlExternally(page))
+            said(qsTr("无法打开浏览器，设备网页：%1").arg(page), OVToast.Error);
+    }
+
+    function removeChecked() {
+        if (deviceTable.checkedCount === 0)
+            said(qsTr("请选择一台设备"), OVToast.Error);
+        else
+            question.wanted().show(qsTr("请确认是否要删除"), OVMessageBox.DangerQuestion);
+    }
+
+    function removeNow() {
+        const names = {};
+        for (const row of deviceTable.checkedRows())
+            names[deviceTable.ipv6 ? row.ipport : row.mac] = true;
+        deviceFactory.setBatchDeleteDevice("dh", names, deviceTable.ipv6 ? "IPV6" : "IPV4");
+        deviceTable.refresh();
+    }
+
+    visible: false
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: detail
+        visible: false
+        sourceComponent: DeviceDetailDialog {
+            onCopyRequested: text => root.copyRequested(text)
+        }
+    }
+    OVOnDemand {
+        id: question
+        visible: false
+        sourceComponent: OVMessageBox {
+            objectName: "deleteQuestion"
+            onAccepted: root.removeNow()
+        }
+    }
+    // qmllint enable unqualified
+}

@@ -1,0 +1,137 @@
+// The account and the first password of factory-new devices.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property var deviceFactory
+    property int deviceCount: 0
+    readonly property alias account: accountField.text
+    readonly property alias password: passwordField.text
+    readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
+    property bool tried: false
+    signal refused(string message)
+    signal confirmed
+
+    function load(count) {
+        deviceCount = count;
+        tried = false;
+        accountField.text = "admin";
+        passwordField.text = "";
+        confirmationField.text = "";
+    }
+
+    /// No password stays in the memory of the scene longer than it is needed.
+    function forget() {
+        passwordField.text = "";
+        confirmationField.text = "";
+    }
+
+    readonly property string weak: qsTr("请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。")
+    readonly property string noAccount: qsTr("请输入用户名")
+    readonly property string noPassword: qsTr("请输入密码")
+    readonly property string noConfirmation: qsTr("请确认密码")
+    readonly property string different: qsTr("请输入相同的密码")
+    readonly property string wrongLength: qsTr("密码长度应当在8到32个字符范围内")
+
+    function fault() {
+        const length = confirmationField.text.length;
+        return grade <= 1 ? weak : account === "" ? noAccount : password === "" ? noPassword
+            : length === 0 ? noConfirmation : confirmationField.text !== password ? different
+            : length < 8 || length > 32 ? wrongLength : "";
+    }
+
+    width: Theme.firstPasswordWidth
+    height: Math.max(Theme.firstPasswordHeight, implicitHeight)
+    objectName: "firstPasswordDialog"
+    title: qsTr("初始化设置")
+    onAccepted: {
+        tried = true;
+        const message = fault();
+        if (message !== "")
+            refused(message);
+        else
+            confirmed();
+    }
+    onOpened: passwordField.forceActiveFocus()
+    onClosed: forget()
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVLabel {
+            width: parent.width
+            font: Theme.titleFont
+            objectName: "uninitialisedCount"
+            //: Follows a number, as in "3 uninitialised devices".
+            text: root.deviceCount + " " + qsTr("台未初始化设备", "", root.deviceCount)
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("用户名")
+
+            OVTextField {
+                id: accountField
+                width: parent.width
+                accessibleName: qsTr("用户名")
+                errorText: root.tried && text === "" ? root.noAccount : ""
+                maximumLength: 63
+                objectName: "firstAccountField"
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("新密码")
+
+            Column {
+                width: parent.width
+                spacing: Theme.unit
+
+                OVTextField {
+                    id: passwordField
+                    width: parent.width
+                    accessibleName: qsTr("新密码")
+                    errorText: !root.tried ? "" : text === "" ? root.noPassword : root.grade <= 1 ? root.weak
+                        : text.length < 8 || text.length > 32 ? root.wrongLength : ""
+                    maximumLength: 63
+                    objectName: "firstPasswordField"
+                    secret: true
+                }
+                OVStrengthBar {
+                    width: parent.width
+                    grade: root.grade
+                }
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("确认密码")
+
+            OVTextField {
+                id: confirmationField
+                width: parent.width
+                accessibleName: qsTr("确认密码")
+                errorText: !root.tried ? "" : text === "" ? root.noConfirmation
+                    : text !== root.password ? root.different : ""
+                maximumLength: 63
+                objectName: "confirmationField"
+                secret: true
+            }
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.sub
+            font: Theme.hintFont
+            text: qsTr("密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除") + "'\":;&"
+                + qsTr("这五个字符以外的任意可见字符)")
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.sub
+            font: Theme.hintFont
+            text: qsTr("设定新密码后,请在“搜索设置”中设置新密码")
+        }
+    }
+}

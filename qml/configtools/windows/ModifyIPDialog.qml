@@ -1,0 +1,200 @@
+// New addresses for one device or for a batch. Before a batch is sent, the dialog opens out to show who will
+// get what.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property var deviceFactory
+    property bool batch: false
+    property bool openedOut: false
+    property var rows: []  // the devices, in the order of the plan
+    readonly property alias plan: plan
+    readonly property alias dhcp: dhcpButton.checked
+    readonly property alias mask: maskField.text
+    readonly property alias gateway: gatewayField.text
+    property bool tried: false  // what is wrong is said under a field once "确定" was pressed
+    signal refused(string message)
+    signal confirmed
+
+    /// Puts rows of devices in, and everything back to its beginning.
+    function load(devices, isBatch) {
+        batch = isBatch;
+        openedOut = false;
+        tried = false;
+        staticButton.checked = true;
+        sameBox.checked = false;
+        startField.text = startField.before = "";
+        maskField.text = "255.255.255.0";
+        gatewayField.text = "";
+        rows = devices;
+        plan.setDevices(devices);
+    }
+
+    function fault() {
+        if (dhcp)
+            return "";
+        if (!startField.acceptable)
+            return qsTr("请输入正确的起始IP");
+        if (!AddressTools.isLegalMask(mask))
+            return qsTr("请输入正确的子网掩码");
+        return gatewayField.acceptable ? "" : qsTr("请输入正确的网关");
+    }
+
+    width: openedOut ? Theme.addressPlanWidth : Theme.modifyIpWidth
+    height: Math.max(Theme.modifyIpHeight, implicitHeight)
+    dense: true
+    objectName: "modifyIpDialog"
+    title: qsTr("修改IP")
+    onAccepted: {
+        tried = true;
+        const message = fault();
+        if (message !== "")
+            refused(message);
+        else
+            confirmed();
+    }
+    onOpened: startField.forceActiveFocus()
+
+    AddressPlan {
+        id: plan
+        deviceFactory: root.deviceFactory
+        mask: maskField.text
+        sameAddress: root.batch && sameBox.checked
+        startAddress: startField.text
+    }
+
+    footContent: Row {
+        height: parent.height
+        spacing: Theme.controlGap
+        visible: root.batch
+
+        OVLabel {
+            id: selectedText
+            height: parent.height
+            color: Theme.colours.sub
+            objectName: "batchCount"
+            //: Follows a number, as in "3 devices selected".
+            text: plan.count + " " + qsTr("台设备已选中", "", plan.count)
+        }
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "planButton"
+            text: root.openedOut ? qsTr("收起预览") : qsTr("预览")
+            toolTip: qsTr("显示每台设备将得到的地址")
+            onClicked: root.openedOut = !root.openedOut
+        }
+        Row {
+            height: parent.height
+            spacing: Theme.signGap
+            visible: plan.markedCount > 0 && !root.dhcp
+
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.colours.warn
+                name: "alert"
+                size: Theme.smallIconSize
+            }
+            OVLabel {
+                height: parent.height
+                color: Theme.colours.warnInk
+                objectName: "planWarning"
+                text: plan.markedCount
+            }
+        }
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.unit
+
+        Row {
+            id: modes
+            spacing: Theme.pageMargin
+
+            OVLabel {
+                width: Theme.formLabelWidth - modes.spacing + Theme.unit
+                height: parent.height
+                color: Theme.colours.sub
+                text: qsTr("模式")
+            }
+            OVRadioButton {
+                id: staticButton
+                height: Theme.unit * 3
+                checked: true
+                objectName: "staticButton"
+                text: qsTr("静态")
+            }
+            OVRadioButton {
+                id: dhcpButton
+                height: Theme.unit * 3
+                objectName: "dhcpButton"
+                text: "DHCP"
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            enabled: !root.dhcp
+            label: qsTr("起始IP")
+
+            Item {
+                width: parent.width
+                height: startField.height
+
+                OVAddressField {
+                    id: startField
+                    property string before
+                    width: parent.width - (sameBox.visible ? sameBox.width + Theme.controlGap : 0)
+                    accessibleName: qsTr("起始IP")
+                    errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的起始IP")
+                    objectName: "newStartField"
+                    onEdited: {
+                        gatewayField.text = AddressTools.gatewayAfterEdit(before, text, gatewayField.text);
+                        before = text;
+                    }
+                }
+                OVCheckBox {
+                    id: sameBox
+                    anchors.right: parent.right
+                    objectName: "sameAddressBox"
+                    text: qsTr("同一IP")
+                    visible: root.batch
+                }
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            enabled: !root.dhcp
+            label: qsTr("子网掩码")
+
+            OVAddressField {
+                id: maskField
+                width: parent.width
+                accessibleName: qsTr("子网掩码")
+                errorText: AddressTools.isLegalMask(text) || !root.tried ? "" : qsTr("请输入正确的子网掩码")
+                objectName: "newMaskField"
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            enabled: !root.dhcp
+            label: qsTr("网关")
+
+            OVAddressField {
+                id: gatewayField
+                width: parent.width
+                accessibleName: qsTr("网关")
+                errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的网关")
+                objectName: "newGatewayField"
+            }
+        }
+        AddressPlanTable {
+            width: parent.width
+            height: Theme.addressPlanHeight
+            dhcp: root.dhcp
+            model: plan
+            visible: root.openedOut
+        }
+    }
+}

@@ -1,0 +1,185 @@
+#include "device/addressplan.h"
+#include "device/addresstools.h"
+#include "device/deviceselection.h"
+#include "tests/device/rowsbackend.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+class TestAddressPlan : public QObject
+{
+    Q_OBJECT
+private:
+    /// Rows as the page hands them over.
+    static QVariantList rowsOf(const RowsFactory &site, const QStringList &macs)
+    {
+        QVariantList rows;
+        for (const QVariant &row : std::as_const(site.rows->ipv4)) {
+            const QVariantMap values = row.toJsonObject().toVariantMap();
+            if (macs.contains(values.value(QStringLiteral("mac")).toString()))
+                rows.append(values);
+        }
+        return rows;
+    }
+
+private Q_SLOTS:
+    void givesAndMarksAddresses_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<bool>("same");
+        QTest::addColumn<QString>("mask");
+        QTest::addColumn<QStringList>("addresses");
+        QTest::addColumn<QList<int>>("marks");
+        const QString mask = QStringLiteral("255.255.255.0");
+        QTest::newRow("over an octet")
+            << "192.168.1.254" << false << mask
+            << QStringList{"192.168.1.254", "192.168.1.255", "192.168.2.0"}
+            << QList<int>{AddressPlan::Fine, AddressPlan::NoDeviceAddress, AddressPlan::NotInitialised};
+        QTest::newRow("over the highest address")
+            << "255.255.255.254" << false << mask
+            << QStringList{"255.255.255.254", "255.255.255.255", "0.0.0.0"}
+            << QList<int>{AddressPlan::Fine, AddressPlan::NoDeviceAddress, AddressPlan::NotInitialised};
+        QTest::newRow("out of a small subnet")
+            << "10.0.0.6" << false << "255.255.255.248" << QStringList{"10.0.0.6", "10.0.0.7", "10.0.0.8"}
+            << QList<int>{AddressPlan::Fine, AddressPlan::NoDeviceAddress, AddressPlan::NotInitialised};
+        QTest::newRow("into the next subnet")
+            << "10.0.0.7" << false << "255.255.255.248" << QStringList{"10.0.0.7", "10.0.0.8", "10.0.0.9"}
+            << QList<int>{AddressPlan::NoDeviceAddress, AddressPlan::OutsideSubnet,
+                          AddressPlan::NotInitialised};
+        QTest::newRow("onto a device outside, not onto one's own")
+            << "192.168.1.8" << false << mask << QStringList{"192.168.1.8", "192.168.1.9", "192.168.1.10"}
+            << QList<int>{AddressPlan::Fine, AddressPlan::TakenByOther, AddressPlan::NotInitialised};
+        QTest::newRow("the same for all")
+            << "192.168.1.30" << true << mask << QStringList{"192.168.1.30", "192.168.1.30", "192.168.1.30"}
+            << QList<int>{AddressPlan::TakenInBatch, AddressPlan::TakenInBatch, AddressPlan::NotInitialised};
+        QTest::newRow("no mask to judge by")
+            << "10.0.0.7" << false << "255.0.255.0" << QStringList{"10.0.0.7", "10.0.0.8", "10.0.0.9"}
+            << QList<int>{AddressPlan::Fine, AddressPlan::Fine, AddressPlan::NotInitialised};
+        QTest::newRow("no start address")
+            << "192.168.1" << false << mask << QStringList{"", "", ""}
+            << QList<int>{AddressPlan::Fine, AddressPlan::Fine, AddressPlan::Fine};
+    }
+
+    void givesAndMarksAddresses()
+    {
+        QFETCH(QString, start);
+        QFETCH(bool, same);
+        QFETCH(QString, mask);
+        RowsFactory site;
+        site.rows->add({.address = "192.168.1.8", .mac = "m0"});
+        site.rows->add({.address = "192.168.1.9", .mac = "outside"});
+        site.rows->add({.address = "192.168.1.20", .mac = "m1"});
+        site.rows->add(
+            {.address = "192.168.1.21", .mac = "m2", .state = sdk::InitialisationBits::Uninitialised});
+
+        AddressPlan plan;
+        const QAbstractItemModelTester tester(&plan);
+        plan.setDeviceFactory(&site.factory);
+        plan.setDevices(rowsOf(site, {"m0", "m1", "m2"}));
+        plan.setMask(mask);
+        plan.setSameAddress(same);
+        plan.setStartAddress(start);
+        QStringList addresses;
+        QList<int> marks;
+        for (int row = 0; row < plan.rowCount(); ++row) {
+            addresses.append(plan.addressOf(row));
+            marks.append(plan.get(row).value("mark").toInt());
+        }
+        QTEST(addresses, "addresses");
+        QTEST(marks, "marks");
+        QCOMPARE(plan.markedCount(), marks.size() - marks.count(AddressPlan::Fine));
+    }
+
+    void copiesEditsIntoTheGateway_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<QString>("gateway");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("first octet") << ""
+                                     << "192"
+                                     << ""
+                                     << "192";
+        QTest::newRow("last octet") << "192.168.1."
+                                    << "192.168.1.6"
+                                    << "192.168.1."
+                                    << "192.168.1.1";
+        QTest::newRow("third octet, the gateway's own end stays") << "192.168.1.64"
+                                                                  << "192.168.2.64"
+                                                                  << "192.168.1.254"
+                                                                  << "192.168.2.254";
+        QTest::newRow("last octet, over the gateway's own end") << "192.168.1.64"
+                                                                << "192.168.1.65"
+                                                                << "192.168.1.254"
+                                                                << "192.168.1.1";
+        QTest::newRow("pasted whole") << ""
+                                      << "10.1.2.77"
+                                      << ""
+                                      << "10.1.2.1";
+        QTest::newRow("no address at all") << ""
+                                           << "1.2.3.4.5"
+                                           << "10.0.0.1"
+                                           << "10.0.0.1";
+    }
+
+    void copiesEditsIntoTheGateway()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QFETCH(QString, gateway);
+        QTEST(AddressTools().gatewayAfterEdit(before, after, gateway), "expected");
+    }
+
+    void knowsMasks_data()
+    {
+        QTest::addColumn<bool>("legal");
+        for (const char *mask : {"255.255.255.0", "128.0.0.0", "255.255.255.254", "255.255.252.0"})
+            QTest::newRow(mask) << true;
+        for (const char *mask : {"0.0.0.0", "255.255.255.255", "255.0.255.0", "255.255.255.1", "24", ""})
+            QTest::newRow(mask) << false;
+    }
+
+    void knowsMasks()
+    {
+        QTEST(AddressTools().isLegalMask(QString::fromLatin1(QTest::currentDataTag())), "legal");
+    }
+
+    void namesWebPages_data()
+    {
+        QTest::addColumn<QString>("ipport");
+        QTest::addColumn<int>("port");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("plain") << "192.168.1.9:37777" << 80 << "http://192.168.1.9";
+        QTest::newRow("another port") << "127.0.0.1:20000" << 20001 << "http://127.0.0.1:20001";
+        QTest::newRow("encrypted") << "192.168.1.9:37777" << 443 << "https://192.168.1.9";
+        QTest::newRow("IPv6") << "[fe80::17]:37777" << 8080 << "http://[fe80::17]:8080";
+        QTest::newRow("no port") << "192.168.1.9:37777" << 0 << "";
+        QTest::newRow("a name") << "elsewhere.example:37777" << 80 << "";
+        QTest::newRow("markup") << "[::1]/<b>:37777" << 80 << "";
+        QTest::newRow("nothing") << "" << 80 << "";
+    }
+
+    void namesWebPages()
+    {
+        QFETCH(QString, ipport);
+        QFETCH(int, port);
+        QTEST(AddressTools().webPage(ipport, port), "page");
+    }
+
+    void choosesFromRows()
+    {
+        DeviceSelection selection;
+        const QAbstractItemModelTester tester(&selection);
+        selection.setRows({QVariantMap{{"mac", "a"}}, QVariantMap{{"mac", "b"}}, QVariantMap{{"mac", "c"}}});
+        QCOMPARE(selection.checkState(), Qt::Checked);
+        selection.setRangeChecked(1, 9, false);
+        QCOMPARE(selection.checkState(), Qt::PartiallyChecked);
+        QCOMPARE(selection.checkedRows(), QVariantList({QVariantMap{{"mac", "a"}}}));
+        selection.setAllChecked(false);
+        QCOMPARE(selection.checkedCount(), 0);
+        QCOMPARE(selection.get(selection.rowOf("c")).value("checked"), QVariant(false));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAddressPlan)
+#include "tst_addressplan.moc"
