@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -17,6 +18,11 @@ void FileDialogs::chooseFile(const QString &title, const QStringList &nameFilter
 void FileDialogs::chooseFolder(const QString &title, const QJSValue &chosen)
 {
     open(title, {}, true, chosen);
+}
+
+bool FileDialogs::exists(const QString &path) const
+{
+    return QFileInfo::exists(path);
 }
 
 void FileDialogs::open(const QString &title, const QStringList &nameFilters, bool folder,

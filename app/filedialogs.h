@@ -18,6 +18,9 @@ public:
 
     Q_INVOKABLE void chooseFolder(const QString &title, const QJSValue &chosen);
 
+    /// True when there is something at this path, so that writing there would replace it.
+    Q_INVOKABLE [[nodiscard]] bool exists(const QString &path) const;
+
 private:
     void open(const QString &title, const QStringList &nameFilters, bool folder, const QJSValue &chosen);
 

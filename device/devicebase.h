@@ -97,6 +97,7 @@ Q_SIGNALS:
     void signalCDeviceSetChannelNameFinished();
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
+    void signalCDeviceTunnelBroken(const QString &deviceId, int localPort); ///< a device behind NAT is gone
 
 protected:
     [[nodiscard]] DeviceStore &store() const { return *m_store; }

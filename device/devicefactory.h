@@ -139,6 +139,7 @@ Q_SIGNALS:
     void signalSetChannelNameFinished();
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
+    void signalTunnelBroken(const QString &deviceId, int localPort);
 
 private:
     void relaySignals(const CDeviceBase &backEnd);

@@ -1,9 +1,21 @@
 #include "device/dh/devicedh.h"
 
+#include "device/devicerow.h"
+#include "device/devicestore.h"
 #include "device/logging.h"
+#include "device/loginresult.h"
 #include "sdk/netlibrary.h"
 
+#include <mutex>
 #include <utility>
+
+namespace {
+
+// The agent's handler is a plain function, and the agent hands it nothing to find a back end by.
+std::mutex agentListenerMutex;
+CDeviceDH *agentListener = nullptr;
+
+} // namespace
 
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      std::function<SearchSettings()> searchSettings)
@@ -19,10 +31,18 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
             Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::done, this, &CDeviceBase::signalCDeviceSearchDone,
             Qt::DirectConnection);
+
+    const std::lock_guard lock(agentListenerMutex);
+    agentListener = this;
 }
 
 CDeviceDH::~CDeviceDH()
 {
+    {
+        const std::lock_guard lock(agentListenerMutex);
+        if (agentListener == this)
+            agentListener = nullptr;
+    }
     m_search->requestStop();
     endSession();
     if (m_libraries.net)
@@ -44,7 +64,25 @@ void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std
         return;
     case sdk::P2PAgentEvent::TunnelBroken:
         qCWarning(logDevice) << "P2P: the tunnel to" << deviceId << "on port" << localPort << "is broken";
+        // Queued events of an object that is gone are dropped.
+        if (const std::lock_guard lock(agentListenerMutex); agentListener) {
+            QMetaObject::invokeMethod(
+                agentListener,
+                [listener = agentListener, id = QString::fromUtf8(deviceId), localPort] {
+                    listener->noteBrokenTunnel(id, localPort);
+                },
+                Qt::QueuedConnection);
+        }
         return;
     }
     qCWarning(logDevice) << "P2P: event" << static_cast<int>(event) << "of" << deviceId << localPort;
+}
+
+void CDeviceDH::noteBrokenTunnel(const QString &deviceId, int localPort)
+{
+    // The tunnel to a device's web page has no row.
+    store().changeRowAt(QStringLiteral("127.0.0.1:%1").arg(localPort), [](QJsonObject &row) {
+        row.insert(DeviceRowKey::res, resultCode(LoginResult::NetworkFailure));
+    });
+    Q_EMIT signalCDeviceTunnelBroken(deviceId, localPort);
 }

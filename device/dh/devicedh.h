@@ -26,8 +26,9 @@ public:
     /// Ends running searches and the session, and releases the network library.
     ~CDeviceDH() override;
 
-    /// Takes the port agent's events, on a thread of the agent: logs them, and those that a user needs to
-    /// know go to the row's result.
+    /// Takes the port agent's events, on a thread of the agent: logs them. Of a tunnel that broke the user
+    /// learns: the device's row gets the result of a network failure, and signalCDeviceTunnelBroken is emitted,
+    /// both on the thread of the back end that was made last.
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 
@@ -71,6 +72,7 @@ private:
     };
 
     void endSession();
+    void noteBrokenTunnel(const QString &deviceId, int localPort);
 
     const sdk::SdkLibraries m_libraries;
     const std::function<SearchSettings()> m_searchSettings;

@@ -2,7 +2,6 @@
 // is quick, then a turn of the event loop, in which the page paints. Until the end the user's input is held
 // back by an invisible sheet over the whole window.
 import QtQuick
-import QtQuick.Templates as T
 import configtools
 
 Item {
@@ -25,6 +24,7 @@ Item {
         current = job.nameOf(0);
         total = count;
         hold.open();
+        turn.interval = 2 * Theme.paintEvery;  // the page shows that work has begun
         turn.start();
     }
 
@@ -37,6 +37,7 @@ Item {
         } while (done < total && Date.now() - begin < Theme.paintEvery);
         if (done < total) {
             current = job.nameOf(done);
+            turn.interval = 1;
             turn.start();
             return;
         }
@@ -52,25 +53,10 @@ Item {
 
     Timer {
         id: turn
-        interval: 1
         onTriggered: root.work()
     }
 
-    T.Popup {
+    OVInputHold {
         id: hold
-        parent: T.Overlay.overlay
-        width: parent?.width ?? 0
-        height: parent?.height ?? 0
-        closePolicy: T.Popup.NoAutoClose
-        focus: true
-        modal: true
-        dim: false
-
-        contentItem: MouseArea {
-            cursorShape: Qt.BusyCursor
-            focus: true
-            hoverEnabled: true
-            Keys.onPressed: event => event.accepted = true
-        }
     }
 }

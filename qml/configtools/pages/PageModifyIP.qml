@@ -44,6 +44,10 @@ FocusScope {
         function onSignalSearchDone() {
             devices.refresh();
         }
+        function onSignalTunnelBroken(deviceId) {
+            devices.refresh();
+            page.said(qsTr("到P2P设备 %1 的连接已断开，请删除后重新添加").arg(deviceId), OVToast.Error);
+        }
     }
 
     OVClipboard {

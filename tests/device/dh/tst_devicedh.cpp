@@ -83,6 +83,16 @@ private:
         return {};
     }
 
+    void makeFactory()
+    {
+        const auto store = std::make_shared<DeviceStore>(m_clock);
+        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
+            {"dh", [this, store] {
+                 return std::make_shared<CDeviceDH>(store, m_site->libraries(),
+                                                    [] { return SearchSettings(); });
+             }}});
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -95,12 +105,7 @@ private Q_SLOTS:
         scene.devices[2].type = "NVR";
         m_clock = std::make_shared<sdk::demo::SteppableClock>();
         m_site = sdk::demo::DemoSite::create(scene, m_clock);
-        const auto store = std::make_shared<DeviceStore>(m_clock);
-        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {"dh", [this, store] {
-                 return std::make_shared<CDeviceDH>(store, m_site->libraries(),
-                                                    [] { return SearchSettings(); });
-             }}});
+        makeFactory();
         m_time = std::make_unique<FlowingClock>(*m_clock);
     }
 
@@ -223,6 +228,60 @@ private Q_SLOTS:
         QCOMPARE(result.size(), 3);
         m_factory.reset();
         QCOMPARE(m_site->requests().of("NetLogout").size(), 2);
+    }
+
+    void faultsEndInRowsAndResults_data()
+    {
+        QTest::addColumn<QString>("mac");
+        QTest::addColumn<int>("login");
+        QTest::addColumn<int>("modification");
+        QTest::newRow("wrong password") << "02:1a:c5:00:4c:7c" << 2 << 0;
+        QTest::newRow("account locked") << "02:1a:c5:00:4c:a1" << 3 << 0;
+        QTest::newRow("account logged in") << "02:1a:c5:00:4d:38" << 4 << 0;
+        QTest::newRow("not initialised") << "02:1a:c5:00:4c:c6" << 12 << 7;
+        QTest::newRow("refuses a new address") << "02:1a:c5:00:4d:82" << 0 << 5;
+    }
+
+    /// Each fault of a login and of a modification, by its code and by the name that the user reads.
+    void faultsEndInRowsAndResults()
+    {
+        QFETCH(QString, mac);
+        QFETCH(int, login);
+        QFETCH(int, modification);
+        m_factory.reset();
+        m_site = sdk::demo::DemoSite::open("faulty", m_clock, nullptr);
+        makeFactory();
+        search();
+        const QString address = row(mac).value("ipport").toString().section(':', 0, 0);
+        const QString port = row(mac).value("ipport").toString().section(':', 1);
+        const auto tryToLogIn = [&](const QString &password) {
+            return m_factory->getLoginDevice("dh", address, "admin", password, port);
+        };
+        for (int attempt = 0; login == 3 && attempt < 5; ++attempt)
+            tryToLogIn("not the password");
+        const QString password = m_site->device(mac)->accounts.value(0).password;
+        QCOMPARE(tryToLogIn(password), login);
+        if (login == 3)
+            QCOMPARE(tryToLogIn(password), login); // it stays locked
+        m_factory->modifyIP("dh", mac, "192.168.1.250", "255.255.255.0", "192.168.1.1", false);
+        QCOMPARE(row(mac).value("res").toInt(), modification);
+        QVERIFY(login == 0 || !m_factory->getErrorName(login).isEmpty());
+        QVERIFY(modification == 0 || !m_factory->getErrorName(modification).isEmpty());
+    }
+
+    void aBrokenTunnelIsSeen()
+    {
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.12", "admin", "secret1", "37777"), 0);
+        QVERIFY(m_factory->updataDeviceInfo("dh", "ipport", "127.0.0.1:20001", recorder, ""));
+        QSignalSpy broken(m_factory.get(), &CDeviceFactory::signalTunnelBroken);
+        std::thread([] {
+            CDeviceDH::agentMessage(sdk::P2PAgentEvent::TunnelBroken, "OV1", 20001, nullptr);
+        }).join();
+        QVERIFY(broken.wait());
+        QCOMPARE(broken.first(), QVariantList({"OV1", 20001}));
+        QCOMPARE(row(recorder).value("res").toInt(), 5);
+        m_factory.reset();
+        CDeviceDH::agentMessage(sdk::P2PAgentEvent::TunnelBroken, "OV1", 20001, nullptr); // nobody listens
     }
 
     void rowsAreChangedAndDeleted()

@@ -1,0 +1,39 @@
+// In which format a device list is written.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    readonly property string fileName: "device" + suffixes[formats.chosen]
+    readonly property var suffixes: [".xlsx", ".csv", ".xml"]
+
+    width: Theme.messageWidth
+    objectName: "exportDialog"
+    title: qsTr("请选择导出的文件格式")
+    onOpened: formats.itemAt(formats.chosen).forceActiveFocus()
+
+    Row {
+        spacing: 2 * Theme.pageMargin
+
+        // qmllint disable unqualified
+        Repeater {
+            id: formats
+
+            property int chosen: 0
+
+            model: root.suffixes
+
+            OVRadioButton {
+                required property int index
+                required property string modelData
+
+                checked: index === formats.chosen
+                objectName: "format" + modelData
+                text: modelData
+                onClicked: formats.chosen = index
+            }
+        }
+        // qmllint enable unqualified
+    }
+}

@@ -1,0 +1,60 @@
+// What came of reading a device list: how many devices, and each that failed with its line and the reason.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    property string summary
+    property var failures: []
+
+    /// `failed` as the factory's importFailures() returns it.
+    function load(text, failed) {
+        summary = text;
+        failures = failed;
+    }
+
+    width: Theme.addressPlanWidth
+    objectName: "importReport"
+    hasCancel: false
+    title: qsTr("导入结果")
+    onAccepted: close()
+    onOpened: table.forceActiveFocus()
+
+    QtObject {
+        id: lines
+
+        /// What OVTable asks of its model, over an array.
+        function get(row) {
+            return root.failures[row] ?? {};
+        }
+        function rowOf(identity) {
+            return root.failures.findIndex(failure => String(failure.line) === identity);
+        }
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.warn
+            iconName: "alert"
+            text: root.summary
+        }
+        OVTable {
+            id: table
+            width: parent.width
+            height: Theme.initialiseListHeight
+            checkable: false
+            columns: [
+                {key: "line", title: qsTr("行"), width: Theme.columnNumber},
+                {key: "address", title: qsTr("地址"), width: Theme.columnAddress},
+                {key: "reason", title: qsTr("原因"), width: Theme.columnAddress, stretch: 1}
+            ]
+            model: lines
+            objectName: "importTable"
+        }
+    }
+}
