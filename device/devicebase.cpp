@@ -124,3 +124,13 @@ bool CDeviceBase::exportDevice(const QString &, const QStringList &, const QStri
 }
 
 void CDeviceBase::unusedListOperation() {}
+
+QVariantList CDeviceBase::importFailures()
+{
+    return {};
+}
+
+QString CDeviceBase::importError()
+{
+    return {};
+}

@@ -7,6 +7,7 @@
 #include <memory>
 
 class DeviceStore;
+class P2PPorts;
 
 /// Outcome of reading a device list file.
 struct ImportSummary
@@ -77,6 +78,16 @@ public:
     /// Kept for its place in the order; nothing calls it.
     virtual void unusedListOperation();
 
+    /// The lines of the last imported list that brought no device, in their order: maps of "line" (its number
+    /// in the file), "address", "code" (a LoginResult) and "reason" (in the user's language).
+    virtual QVariantList importFailures();
+    /// Why the last list was refused as a whole, in the user's language; empty when it was not.
+    virtual QString importError();
+
+    /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
+    /// which owns the ports.
+    void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }
+
 Q_SIGNALS:
     void signalCDeviceAddDeviceToTable();        ///< new rows are there
     void signalCDeviceSearchCount(int devCount); ///< IPv4 rows found so far
@@ -98,10 +109,14 @@ Q_SIGNALS:
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
     void signalCDeviceTunnelBroken(const QString &deviceId, int localPort); ///< a device behind NAT is gone
+    void signalCDeviceImportProgress(int done, int total); ///< devices of a list, after each of them
 
 protected:
     [[nodiscard]] DeviceStore &store() const { return *m_store; }
+    /// Null when there are none. Not to be kept beyond a call: the factory may take them away.
+    [[nodiscard]] P2PPorts *p2pPorts() const { return m_p2pPorts; }
 
 private:
     const std::shared_ptr<DeviceStore> m_store;
+    P2PPorts *m_p2pPorts = nullptr;
 };

@@ -74,13 +74,19 @@ CDeviceFactory::CDeviceFactory(const BackEndCreators &creators, const P2PAgent &
     for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
         const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
         relaySignals(*backEnd);
+        backEnd->setP2PPorts(&m_p2pPorts);
         m_backEnds.insert(creator.key(), backEnd);
     }
 }
 
 CDeviceFactory::CDeviceFactory(const BackEndCreators &creators) : CDeviceFactory(creators, P2PAgent()) {}
 
-CDeviceFactory::~CDeviceFactory() = default;
+CDeviceFactory::~CDeviceFactory()
+{
+    // A running operation may hold a back end a little longer than the factory and its ports are there.
+    for (const std::shared_ptr<CDeviceBase> &backEnd : std::as_const(m_backEnds))
+        backEnd->setP2PPorts(nullptr);
+}
 
 void CDeviceFactory::relaySignals(const CDeviceBase &backEnd)
 {
@@ -369,4 +375,14 @@ void CDeviceFactory::snapPictureToFile(const QString &family, const QString &kin
 void CDeviceFactory::releaseP2PPort(int p2pPort)
 {
     m_p2pPorts.release(p2pPort);
+}
+
+QVariantList CDeviceFactory::importFailures(const QString &family)
+{
+    return forward(family, &CDeviceBase::importFailures);
+}
+
+QString CDeviceFactory::importError(const QString &family)
+{
+    return forward(family, &CDeviceBase::importError);
 }

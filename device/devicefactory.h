@@ -115,6 +115,11 @@ public:
     /// Asks the application to leave its event loop with exit code 0.
     Q_INVOKABLE void exitProgram();
     Q_INVOKABLE void releaseP2PPort(int p2pPort);
+    /// The lines of the last imported list that brought no device: maps of "line", "address", "code",
+    /// "reason".
+    Q_INVOKABLE QVariantList importFailures(const QString &family);
+    /// Why importDevice() refused the last list as a whole.
+    Q_INVOKABLE QString importError(const QString &family);
 
 Q_SIGNALS:
     // Twins of the back ends' signals, in their order. Each is relayed from the signal of the same name with
@@ -140,6 +145,7 @@ Q_SIGNALS:
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
     void signalTunnelBroken(const QString &deviceId, int localPort);
+    void signalImportProgress(int done, int total);
 
 private:
     void relaySignals(const CDeviceBase &backEnd);
@@ -157,6 +163,6 @@ private:
 
     void releaseP2PPortsOf(const QString &family, const QString &mac);
 
+    P2PPorts m_p2pPorts; ///< outlives the back ends, which use it
     QMap<QString, std::shared_ptr<CDeviceBase>> m_backEnds;
-    P2PPorts m_p2pPorts;
 };

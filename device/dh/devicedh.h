@@ -7,6 +7,9 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
+
+struct DeviceListLine;
 
 /// What a search reads from the local configuration.
 struct SearchSettings
@@ -60,6 +63,20 @@ public:
     void modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                   const QString &newgateway, bool dhcpON) override;
 
+    // Device lists: devicedhlists.cpp
+
+    /// `folder` may be a "file:///" address; the ending of `fileName` chooses the format. A device that is
+    /// not in the table any more is left out; false when none is left, or when the file cannot be written.
+    bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName) override;
+
+    /// Blocks until every device of the list was asked; between two devices the event loop runs at times,
+    /// without the user's input: whoever calls holds this object, as the factory does. `path` may be a
+    /// "file:///" address. False when the list was refused as a whole, and when another one is being
+    /// imported.
+    bool importDevice(const QString &path, ImportSummary &summary) override;
+    QVariantList importFailures() override;
+    QString importError() override;
+
 private:
     /// The one login that configuration, live view and snapshots use.
     struct Session
@@ -73,6 +90,7 @@ private:
 
     void endSession();
     void noteBrokenTunnel(const QString &deviceId, int localPort);
+    void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
 
     const sdk::SdkLibraries m_libraries;
     const std::function<SearchSettings()> m_searchSettings;
@@ -80,4 +98,7 @@ private:
     Session m_session;
     QString m_defaultAccount;
     QString m_defaultPassword;
+    bool m_isImporting = false;
+    QVariantList m_importFailures;
+    QString m_importError;
 };

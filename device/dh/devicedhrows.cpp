@@ -13,12 +13,9 @@ int CDeviceDH::getLoginDevice(const QString &address, const QString &account, co
                                      .port = port.toInt(),
                                      .reachedBy = static_cast<ReachedBy>(loginType),
                                      .devicePort = devicePort};
-    RowLoginOutcome outcome = loginForRow(m_libraries, request);
+    const RowLoginOutcome outcome = loginForRow(m_libraries, request);
     if (outcome.result == LoginResult::Success) {
-        outcome.row.insert(DeviceRowKey::num, QString::number(store().ipv4Count() + 1));
-        if (outcome.record)
-            store().putRecord(*outcome.record);
-        store().putRow(outcome.row);
+        keepRow(store(), outcome);
         Q_EMIT signalCDeviceAddSingleDeviceToTable();
     }
     return resultCode(outcome.result);

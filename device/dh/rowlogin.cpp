@@ -1,6 +1,7 @@
 #include "device/dh/rowlogin.h"
 
 #include "device/devicerow.h"
+#include "device/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/configlibrary.h"
 #include "sdk/configrecords.h"
@@ -215,4 +216,13 @@ RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRe
     }
     net.NetLogout(handle);
     return outcome;
+}
+
+void keepRow(DeviceStore &store, const RowLoginOutcome &outcome)
+{
+    QJsonObject row = outcome.row;
+    row.insert(DeviceRowKey::num, QString::number(store.ipv4Count() + 1));
+    if (outcome.record)
+        store.putRecord(*outcome.record);
+    store.putRow(row);
 }

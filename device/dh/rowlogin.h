@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class DeviceStore;
+
 /// How a device is reached.
 enum class ReachedBy : int
 {
@@ -39,3 +41,7 @@ struct RowLoginOutcome
 /// Logs in, reads what a row tells about the device, and logs out again. Blocks for the waits of the library,
 /// up to 5 s for each query. Queries that fail leave their part of the row empty.
 [[nodiscard]] RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request);
+
+/// Puts the row of a successful login into the table, with the number behind the last one, and keeps its
+/// record.
+void keepRow(DeviceStore &store, const RowLoginOutcome &outcome);

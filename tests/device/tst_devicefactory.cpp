@@ -57,7 +57,9 @@ const QStringList operations = {"startSearch",
                                 "snapPictureToFile",
                                 "startSnap",
                                 "exitProgram",
-                                "releaseP2PPort"};
+                                "releaseP2PPort",
+                                "importFailures",
+                                "importError"};
 
 const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSearchCount",
@@ -77,7 +79,8 @@ const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalConfirmEncodeConfig",
                                  "signalSetChannelNameFinished",
                                  "signalSnapPictureToFile",
-                                 "signalSnapPictureToFileAgain"};
+                                 "signalSnapPictureToFileAgain",
+                                 "signalImportProgress"};
 
 /// Own methods of the factory of one kind, in declaration order, without the copies that default arguments
 /// make.
@@ -185,7 +188,7 @@ private Q_SLOTS:
             QCOMPARE(spy.at(0), expected);
             ++relayed;
         }
-        QCOMPARE(relayed, 19);
+        QCOMPARE(relayed, 20);
     }
 
     void aSignalOfAnotherThreadArrivesOnTheFactorysThread()

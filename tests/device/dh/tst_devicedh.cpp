@@ -3,34 +3,14 @@
 #include "device/dh/devicedh.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "tests/device/dh/flowingclock.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
-#include <thread>
-
 using namespace std::chrono_literals;
 
 namespace {
-
-/// Moves a stepped clock on whenever somebody waits for it, as time does.
-class FlowingClock
-{
-public:
-    explicit FlowingClock(sdk::demo::SteppableClock &clock)
-        : m_thread([&clock](const std::stop_token &stop) {
-              while (!stop.stop_requested()) {
-                  if (clock.waiters() > 0)
-                      clock.advance(50ms);
-                  std::this_thread::yield();
-              }
-          })
-    {
-    }
-
-private:
-    std::jthread m_thread;
-};
 
 const QString camera = QStringLiteral("02:1a:c5:00:00:01");
 const QString newCamera = QStringLiteral("02:1a:c5:00:00:02");

@@ -1,0 +1,107 @@
+// Device lists: exporting devices to a file, and logging in to those of a file.
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "device/dh/internal/devicelistfile.h"
+#include "device/dh/internal/devicelistimport.h"
+#include "device/dh/internal/devicelistvalues.h"
+#include "device/logging.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QScopeGuard>
+
+#include <utility>
+
+namespace {
+
+/// How long the scene may stand still between two devices that answer quickly, in milliseconds.
+constexpr qint64 paintInterval = 50;
+
+QVariantMap failureMap(const DeviceListLine &line, const ImportFailure &failure)
+{
+    return {{QStringLiteral("line"), line.number},
+            {QStringLiteral("address"), line[ListColumn::IPAddress].left(maximumListText)},
+            {QStringLiteral("code"), resultCode(failure.result)},
+            {QStringLiteral("reason"), failure.reason}};
+}
+
+} // namespace
+
+bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, const QString &fileName)
+{
+    const DeviceAccount usual = {.name = m_defaultAccount, .password = m_defaultPassword};
+    std::vector<DeviceListLine> lines;
+    lines.reserve(static_cast<std::size_t>(macs.size()));
+    for (const QString &mac : macs) {
+        const ListedDevice device = {.row = store().row(mac), .record = store().record(mac)};
+        // It has left the table since it was ticked. The others are worth having without it.
+        if (device.row.isEmpty() && !device.record) {
+            qCWarning(logDevice) << "CDeviceDH::exportDevice: there is no device" << mac;
+            continue;
+        }
+        lines.push_back(listLineOf(device, usual));
+    }
+    // A file without a device would tell the user that the export went well.
+    return !lines.empty() && writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines);
+}
+
+bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)
+{
+    summary = {};
+    // The scene's timers run between two devices and could call again.
+    if (m_isImporting) {
+        qCWarning(logDevice) << "CDeviceDH::importDevice: a list is being imported";
+        return false;
+    }
+    m_importFailures.clear();
+    const DeviceListContents contents = readDeviceList(localPath(path));
+    m_importError =
+        contents.refusal.isEmpty() ? DeviceListImport::refusalOf(contents.lines) : contents.refusal;
+    if (!m_importError.isEmpty())
+        return false;
+    importLines(contents.lines, summary);
+    return true;
+}
+
+void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary)
+{
+    m_isImporting = true;
+    const auto end = qScopeGuard([this] { m_isImporting = false; });
+    const int total = static_cast<int>(lines.size());
+    bool hasNewRows = false;
+    QElapsedTimer sincePaint;
+    sincePaint.start();
+    DeviceListImport import(store(), m_libraries);
+    for (const DeviceListLine &line : lines) {
+        if (const std::optional<ImportFailure> failure = import.add(line, p2pPorts())) {
+            ++summary.errcount;
+            m_importFailures.append(failureMap(line, *failure));
+        } else {
+            hasNewRows = true;
+        }
+        ++summary.total;
+        Q_EMIT signalCDeviceImportProgress(summary.total, total);
+        const bool isLast = summary.total == total;
+        if (!isLast && sincePaint.elapsed() < paintInterval)
+            continue;
+        // Told together: the page reads the whole table again each time.
+        if (std::exchange(hasNewRows, false))
+            Q_EMIT signalCDeviceAddSingleDeviceToTable();
+        // The scene has no other chance to paint what has come so far. Clicks and keys wait for the end: they
+        // are meant for the table as it will be then. What runs here may end the factory and take the ports
+        // away, but not this object, which its caller holds.
+        if (!isLast)
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        sincePaint.restart();
+    }
+}
+
+QVariantList CDeviceDH::importFailures()
+{
+    return m_importFailures;
+}
+
+QString CDeviceDH::importError()
+{
+    return m_importError;
+}

@@ -1,0 +1,462 @@
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/demo/demop2pagentlibrary.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/steppableclock.h"
+#include "sheets/qexcel.h"
+#include "tests/device/dh/flowingclock.h"
+
+#include <QFile>
+#include <QJSEngine>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString camera = QStringLiteral("02:1a:c5:00:00:01");
+const QString plateCamera = QStringLiteral("02:1a:c5:00:00:02");
+const QString videoWall = QStringLiteral("02:1a:c5:00:00:03");
+const QString remote = QStringLiteral("02:1a:c5:00:00:04");
+const QString newCamera = QStringLiteral("02:1a:c5:00:00:05");
+const QString remoteId = QStringLiteral("OV7QK2M4");
+
+const QByteArray headers =
+    "设备分类,设备类型,接入协议,添加模式,设备名称,IP地址/域名/注册ID/设备序列号,设备端口,组织,"
+    "服务IP,用户名,密码,型号,MAC,序列号,版本号,子网掩码,网关,初始化状态,结果\n";
+const QByteArray cameraLine =
+    "Encoder,IPC,General,IpAddress,东门,192.168.1.10,37777,,127.0.0.1,admin,secret1,"
+    "B-2230-IR,02:1a:c5:00:00:01,S1,2.840.1,255.255.255.0,192.168.1.1,INITIALIZED,\n";
+
+sdk::demo::SceneDevice device(const QString &mac, const QString &address, const QString &type)
+{
+    sdk::demo::SceneDevice made;
+    made.mac = mac;
+    made.address = address;
+    made.mask = QStringLiteral("255.255.255.0");
+    made.gateway = QStringLiteral("192.168.1.1");
+    made.port = 37777;
+    made.httpPort = 8080;
+    made.name = QStringLiteral("东门");
+    made.type = type;
+    made.model = QStringLiteral("B-2230-IR");
+    made.version = QStringLiteral("2.840.1");
+    made.serial = QStringLiteral("S1");
+    made.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
+    made.latency = 1ms;
+    return made;
+}
+
+} // namespace
+
+/// Device lists against a simulated site.
+class TestDeviceLists : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
+    std::shared_ptr<sdk::demo::DemoSite> m_site;
+    std::unique_ptr<CDeviceFactory> m_factory;
+    std::unique_ptr<FlowingClock> m_time;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QJSEngine m_engine;
+    int m_total = 0;
+    int m_failed = 0;
+
+    void search()
+    {
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_factory->startSearch("dh");
+        QVERIFY(done.wait(20000));
+    }
+
+    bool import(const QString &path)
+    {
+        QJSValue msg = m_engine.newObject();
+        const bool imported = m_factory->importDevice("dh", path, msg);
+        m_total = msg.property("total").toInt();
+        m_failed = msg.property("errcount").toInt();
+        return imported;
+    }
+
+    QString write(const QString &name, const QByteArray &text) const
+    {
+        QFile file(m_folder->filePath(name));
+        return file.open(QFile::WriteOnly) && file.write(text) == text.size() ? file.fileName() : QString();
+    }
+
+    QByteArray read(const QString &name) const
+    {
+        QFile file(m_folder->filePath(name));
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    bool exported(const QStringList &macs, const QString &name) const
+    {
+        return m_factory->exportDevice("dh", m_folder->path(), macs, name);
+    }
+
+    QJsonObject row(const QString &mac) const
+    {
+        const QVariantList rows = m_factory->filterData("dh", "nofilter");
+        for (const QVariant &value : rows) {
+            if (value.toJsonObject().value("mac").toString() == mac)
+                return value.toJsonObject();
+        }
+        return {};
+    }
+
+    qsizetype logins() const { return m_site->requests().of("NetLogin").size(); }
+    qsizetype rowCount() const { return m_factory->filterData("dh", "nofilter").size(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        sdk::demo::Scene scene;
+        scene.devices = {device(camera, "192.168.1.10", "IPC"), device(plateCamera, "192.168.1.11", "ITC"),
+                         device(videoWall, "192.168.1.12", "Matrix"), device(remote, "10.9.9.9", "NVR"),
+                         device(newCamera, "192.168.1.13", "IPC")};
+        scene.devices[3].isRemote = true;
+        scene.devices[3].p2pId = remoteId;
+        scene.devices[3].port = 8800;
+        scene.devices[4].initialisation = sdk::InitialisationBits::Uninitialised;
+        scene.devices[4].accounts.clear();
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        m_site = sdk::demo::DemoSite::create(scene, m_clock);
+        const auto store = std::make_shared<DeviceStore>(m_clock);
+        m_factory = std::make_unique<CDeviceFactory>(
+            CDeviceFactory::BackEndCreators{{"dh",
+                                             [this, store] {
+                                                 return std::make_shared<CDeviceDH>(
+                                                     store, m_site->libraries(),
+                                                     [] { return SearchSettings(); });
+                                             }}},
+            CDeviceFactory::P2PAgent{m_site->libraries().p2pAgent, &CDeviceDH::agentMessage});
+        m_time = std::make_unique<FlowingClock>(*m_clock);
+        m_factory->setDefaultAccount("dh", "admin", "secret1");
+    }
+
+    void cleanup()
+    {
+        m_factory.reset();
+        m_time.reset();
+    }
+
+    void writesTextByteForByte()
+    {
+        search();
+        m_factory->updataDeviceInfo("dh", "name", "A<&", videoWall, "");
+        QVERIFY(exported({camera, videoWall, newCamera}, "device.csv"));
+        QCOMPARE(
+            read("device.csv"),
+            headers + cameraLine +
+                "Video Wall Control,NVD,General,IpAddress,A<&,192.168.1.12,37777,,127.0.0.1,admin,secret1,"
+                "B-2230-IR,02:1a:c5:00:00:03,S1,2.840.1,255.255.255.0,192.168.1.1,INITIALIZED,\n"
+                "Encoder,IPC,General,IpAddress,东门,192.168.1.13,37777,,127.0.0.1,,,"
+                "B-2230-IR,02:1a:c5:00:00:05,S1,2.840.1,255.255.255.0,192.168.1.1,NOT INITIALIZED,\n");
+
+        m_factory->updataDeviceInfo("dh", "name", "A<&", plateCamera, "");
+        QVERIFY(m_factory->exportDevice("dh", "file://" + m_folder->path(), {plateCamera}, "device.xml"));
+        QCOMPARE(read("device.xml"), R"(<?xml version="1.0" encoding="UTF-8"?>
+<deviceList>
+  <device>
+    <DeviceCategory>Traffic</DeviceCategory>
+    <DeviceType>Traffic</DeviceType>
+    <AccessProtocol>General</AccessProtocol>
+    <AddMode>IpAddress</AddMode>
+    <DeviceName>A<&</DeviceName>
+    <IPAddress>192.168.1.11</IPAddress>
+    <DevicePort>37777</DevicePort>
+    <Organization></Organization>
+    <ServiceIP>127.0.0.1</ServiceIP>
+    <Username>admin</Username>
+    <Password>secret1</Password>
+    <Model>B-2230-IR</Model>
+    <MAC>02:1a:c5:00:00:02</MAC>
+    <SerialNumber>S1</SerialNumber>
+    <Version>2.840.1</Version>
+    <SubnetMask>255.255.255.0</SubnetMask>
+    <Gateway>192.168.1.1</Gateway>
+    <InitStatus>INITIALIZED</InitStatus>
+    <Result></Result>
+  </device>
+</deviceList>
+)");
+    }
+
+    void leavesOutDevicesThatAreGone()
+    {
+        search();
+        QVERIFY(exported({"02:1a:c5:ff:ff:ff", camera}, "device.csv"));
+        QCOMPARE(read("device.csv"), headers + cameraLine);
+        QVERIFY(!exported({"02:1a:c5:ff:ff:ff"}, "device.csv"));
+        QVERIFY(!exported({camera}, "no/folder/device.csv"));
+        QVERIFY(!exported({camera}, "no/folder/device.xlsx"));
+        QCOMPARE(read("device.csv"), headers + cameraLine); // as it was
+    }
+
+    void comesBackFromEveryFormat_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"device.xlsx", "device.csv", "device.xml"})
+            QTest::newRow(name) << name;
+    }
+
+    void comesBackFromEveryFormat()
+    {
+        QFETCH(QString, name);
+        search();
+        const int port = m_factory->setAddDevice("dh", remoteId, "admin", "secret1", "8800", 0);
+        QVERIFY(port > 0);
+        QCOMPARE(
+            m_factory->getLoginDevice("dh", remoteId, "admin", "secret1", QString::number(port), 1, "8800"),
+            0);
+        QVERIFY(exported({camera, plateCamera, videoWall, remote}, name));
+        m_factory->setBatchDeleteDevice(
+            "dh", {{camera, true}, {plateCamera, true}, {videoWall, true}, {remote, true}}, "IPV4");
+        QCOMPARE(rowCount(), 1);
+
+        QSignalSpy progress(m_factory.get(), &CDeviceFactory::signalImportProgress);
+        QSignalSpy added(m_factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        QVERIFY(import(QUrl::fromLocalFile(m_folder->filePath(name)).toString()));
+        QCOMPARE(m_total, 4);
+        QCOMPARE(m_factory->importFailures("dh"), QVariantList());
+        QCOMPARE(progress.size(), 4);
+        QCOMPARE(progress.last(), QVariantList({4, 4}));
+        QVERIFY(!added.isEmpty());
+        QCOMPARE(rowCount(), 5);
+        QCOMPARE(row(camera).value("name").toString(), "东门");
+        QCOMPARE(row(camera).value("password").toString(), "secret1");
+        QCOMPARE(row(plateCamera).value("type").toString(), "ITC");
+        QCOMPARE(row(videoWall).value("type").toString(), "Matrix");
+        QCOMPARE(row(remote).value("name").toString(), remoteId);
+        QCOMPARE(row(remote).value("devp2pPort").toString(), "8800");
+        QVERIFY(row(remote).value("ipport").toString().startsWith("127.0.0.1:"));
+
+        // What was imported is exported as before.
+        QVERIFY(exported({camera, plateCamera, videoWall, remote}, "again.csv"));
+        QVERIFY(read("again.csv").contains(cameraLine));
+        QVERIFY(read("again.csv").contains(",P2P," + remoteId.toUtf8() + ',' + remoteId.toUtf8() + ",8800,"));
+    }
+
+    void opensTunnelsForP2P()
+    {
+        const QString list =
+            write("p2p.csv", "添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,密码,序列号\n"
+                             "P2P,OV7QK2M4,8800,admin,wrong,S9\n"
+                             "P2P,NOBODY,8800,admin,secret1,\n"
+                             "P2P,OV7QK2M4,8800,admin,secret1,S9\n"
+                             "P2P,OV7QK2M4,8800,admin,secret1,S9\n");
+        QVERIFY(import(list));
+        QCOMPARE(m_total, 4);
+        QCOMPARE(m_failed, 3);
+        QList<int> codes;
+        const QVariantList failures = m_factory->importFailures("dh");
+        for (const QVariant &failure : failures)
+            codes.append(failure.toMap().value("code").toInt());
+        QCOMPARE(codes, QList({2, 5, 13}));
+        QCOMPARE(m_site->requests().of("OAgent_ClientDelPort").size(), 1); // of the login that failed
+
+        const int port = row(remote).value("ipport").toString().section(':', 1).toInt();
+        const int webPort = m_factory->getP2PWebPort(port);
+        QCOMPARE(m_site->portAgent().tunnel(port)->devicePort, 8800);
+        QCOMPARE(m_site->portAgent().tunnel(webPort)->devicePort, 8080);
+        QCOMPARE(m_factory->getDeviceDetail("dh", remote).value("serial").toString(), "S9");
+        m_factory->setDeleteDevice("dh", remote, "IPV4");
+        QVERIFY(!m_site->portAgent().tunnel(port) && !m_site->portAgent().tunnel(webPort));
+    }
+
+    void readsWhatOthersHaveChanged_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("text");
+        const QByteArray crlf = QByteArray(headers + cameraLine).replace("\n", "\r\n");
+        QTest::newRow("byte order mark and CRLF") << "a.csv"
+                                                  << "\xEF\xBB\xBF" + crlf;
+        QTest::newRow("no line end") << "a.CSV" << (headers + cameraLine).chopped(1);
+        QTest::newRow("other order, missing and other columns, blanks")
+            << "a.csv"
+            << QByteArray("\n密码,备注, *用户名 ,IP地址/域名/注册ID/设备序列号\n,,,\nsecret1,x, admin "
+                          ",192.168.1.10\n");
+        QTest::newRow("other elements")
+            << "a.xml"
+            << QByteArray(
+                   "\xEF\xBB\xBF<?xml version='1.0'?><!-- by hand --><deviceList><info><a/></info>"
+                   "<device><Note><b>x</b></Note><Username>admin</Username><Password>secret&#49;</Password>"
+                   "<IPAddress>\n192.168.1.10 </IPAddress></device></deviceList>");
+    }
+
+    void readsWhatOthersHaveChanged()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, text);
+        QVERIFY(import(write(name, text)));
+        QCOMPARE(m_total, 1);
+        QCOMPARE(m_factory->importFailures("dh"), QVariantList());
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.10:37777");
+    }
+
+    void refusesAFileAsAWhole_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("logged");
+        const QString unopened = QStringLiteral("^Failed to open file: .*/");
+        const QString unparsed = QStringLiteral("^Failed to parse XML file:");
+        QTest::newRow("no file") << "missing.csv" << QByteArray() << unopened;
+        QTest::newRow("no workbook") << "a.xlsx" << QByteArray("PK") << unopened;
+        QTest::newRow("same MAC")
+            << "a.csv"
+            << headers + cameraLine + QByteArray(cameraLine).replace(".10,", ".11,").replace("02:1a", "02:1A")
+            << QString();
+        QTest::newRow("no headers") << "a.csv" << cameraLine << QString();
+        QTest::newRow("empty") << "a.csv" << QByteArray("") << QString();
+        QTest::newRow("not UTF-8") << "a.csv" << headers + "\xB6\xAB,\n" << QString();
+        QTest::newRow("line too long") << "a.csv" << headers + QByteArray(70000, 'x') << QString();
+        QTest::newRow("too many lines")
+            << "a.csv"
+            << "IP地址/域名/注册ID/设备序列号\n" + QByteArray("a\n").repeated(100001) << QString();
+        QTest::newRow("empty XML") << "a.xml" << QByteArray("") << unparsed;
+        QTest::newRow("unescaped") << "a.xml" << QByteArray("<deviceList><device>a&b</device></deviceList>")
+                                   << unparsed;
+        QTest::newRow("cut off") << "a.xml" << QByteArray("<deviceList><device>") << unparsed;
+        QTest::newRow("document type")
+            << "a.xml"
+            << QByteArray("<!DOCTYPE d [<!ENTITY e 'x'>]><deviceList><device><IPAddress>&e;</IPAddress>"
+                          "</device></deviceList>")
+            << unparsed;
+        QTest::newRow("too deep") << "a.xml"
+                                  << "<deviceList>" + QByteArray("<a>").repeated(100000) << unparsed;
+        QTest::newRow("another root")
+            << "a.xml" << QByteArray("<devices/>") << "^Root element is not 'deviceList': devices$";
+    }
+
+    void refusesAFileAsAWhole()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, text);
+        QFETCH(QString, logged);
+        if (!text.isNull())
+            QVERIFY(!write(name, text).isEmpty());
+        if (name.endsWith(".xlsx"))
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(".*"));
+        if (!logged.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(logged));
+        QVERIFY(!import(m_folder->filePath(name)));
+        QVERIFY(!m_factory->importError("dh").isEmpty());
+        QCOMPARE(logins(), 0);
+        QCOMPARE(rowCount(), 0);
+    }
+
+    void saysWhyALineFailed_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<int>("code");
+        const auto changed = [](const char *from, const QByteArray &to) {
+            return QByteArray(cameraLine).replace(from, to);
+        };
+        QTest::newRow("nobody there") << changed("192.168.1.10", "192.168.1.99") << 5;
+        QTest::newRow("wrong password") << changed("secret1", "secret2") << 2;
+        QTest::newRow("listed address")
+            << changed("1:00:00:01", "1:00:00:77").replace("1.10,", "1.11,") << 13;
+        QTest::newRow("listed MAC") << changed("02:1a:c5:00:00:01", "02-1A-C5-00-00-02") << 13;
+        QTest::newRow("MAC that turns out to be listed")
+            << changed("02:1a:c5:00:00:01", "").replace("1.10,37777", "1.11,037777") << 13;
+        QTest::newRow("no password") << changed("secret1", "") << -1;
+        QTest::newRow("no address") << changed("192.168.1.10", "") << -1;
+        QTest::newRow("strange address") << changed("192.168.1.10", "10.0.0.1/x?") << -1;
+        QTest::newRow("strange port") << changed("37777", "70000") << -1;
+        QTest::newRow("other way") << changed("IpAddress", "Register") << -1;
+        QTest::newRow("comma in a name") << changed("东门", "东,门") << -1;
+        QTest::newRow("long name") << changed("东门", QByteArray(300, 'x')) << -1;
+        QTest::newRow("control character") << changed("secret1", "a\x1b[2J") << -1;
+    }
+
+    void saysWhyALineFailed()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(int, code);
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "secret1", "37777"), 0);
+        const qsizetype before = logins();
+        const QByteArray good = QByteArray(cameraLine).replace("1.10,", "1.12,").replace("00:01,", "00:03,");
+        QVERIFY(import(write("a.csv", headers + line + good)));
+        QCOMPARE(m_total, 2);
+        QCOMPARE(m_failed, 1);
+        const QVariantMap failure = m_factory->importFailures("dh").value(0).toMap();
+        QCOMPARE(failure.value("line").toInt(), 2);
+        QCOMPARE(failure.value("code").toInt(), code);
+        const QString address =
+            line.contains("东,门") ? QString() : QString::fromUtf8(line.split(',').value(5));
+        QCOMPARE(failure.value("address").toString(), address);
+        QVERIFY(!failure.value("reason").toString().isEmpty());
+        if (code == -1)
+            QCOMPARE(logins(), before + 1); // the good one's
+        QCOMPARE(rowCount(), 2);
+    }
+
+    void findsTheHeadersOfAWorkbook()
+    {
+        QExcel workbook;
+        QVERIFY(workbook.createWorkbook());
+        int column = 2;
+        for (const char *header : {"用户名", "密码", "IP地址/域名/注册ID/设备序列号", "初始化状态"})
+            QVERIFY(workbook.setCellText(3, ++column, header));
+        column = 2;
+        for (const char *value : {"admin", "secret1", "192.168.1.10", "NOT INITIALIZED"})
+            QVERIFY(workbook.setCellText(5, ++column, value));
+        QVERIFY(workbook.setCellText(6, 5, "192.168.1.11"));
+        QVERIFY(workbook.saveAs(m_folder->filePath("a.xlsx")));
+        QVERIFY(import(m_folder->filePath("a.xlsx")));
+        QCOMPARE(m_total, 2);
+        QCOMPARE(m_factory->importFailures("dh").value(0).toMap().value("line").toInt(), 6);
+        QCOMPARE(row(camera).value("state").toBool(true), false);
+    }
+
+    void writesAWorkbookThatOthersRead()
+    {
+        search();
+        QVERIFY(exported({camera}, "device.xlsx"));
+        QProcess python;
+        python.start(
+            CONFIGTOOLS_SYSTEM_PYTHON,
+            {"-c",
+             "import openpyxl, sys\n"
+             "sheet = openpyxl.load_workbook(sys.argv[1]).worksheets[0]\n"
+             "print(sheet['A1'].value.split('\\n')[0], sheet['A1'].value.count('\\n'))\n"
+             "print(*sheet.merged_cells.ranges, sheet['A1'].alignment.wrap_text, sheet['S2'].font.b)\n"
+             "for row in sheet.iter_rows(min_row=2):\n"
+             "    print(*[cell.value or '' for cell in row], sep=',')\n",
+             m_folder->filePath("device.xlsx")});
+        QVERIFY(python.waitForFinished());
+        QCOMPARE(QString::fromUtf8(python.readAllStandardOutput()),
+                 "1、带“*”必须填写； 9\nA1:S1 True True\n" + QString::fromUtf8(headers + cameraLine));
+    }
+
+    void letsThePagePaintAndSurvivesWhatItDoes()
+    {
+        QByteArray text = headers;
+        constexpr int lines = 200;
+        for (int line = 0; line < lines; ++line)
+            text += QByteArray(cameraLine).replace("00:01", QByteArray::number(line)).replace("1.10", "1.99");
+        const QString list = write("a.csv", text);
+        bool second = true;
+        QTimer::singleShot(0, this, [&] {
+            second = m_factory->importDevice("dh", list, QJSValue());
+            m_factory.reset();
+        });
+        QJSValue msg = m_engine.newObject();
+        QVERIFY(m_factory->importDevice("dh", list, msg));
+        QVERIFY(!m_factory); // ended in the middle
+        QVERIFY(!second);
+        QCOMPARE(msg.property("total").toInt(), lines);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDeviceLists)
+#include "tst_devicelists.moc"
