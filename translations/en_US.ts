@@ -139,10 +139,92 @@
     </message>
 </context>
 <context>
+    <name>DeviceList</name>
+    <message>
+        <source>第 %1 行过长</source>
+        <translation>Line %1 is too long</translation>
+    </message>
+    <message>
+        <source>第 %1 行不是UTF-8编码</source>
+        <translation>Line %1 is not encoded in UTF-8</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>The file could not be opened</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>The file is too large</translation>
+    </message>
+    <message>
+        <source>字段比表头多</source>
+        <translation>More fields than headers</translation>
+    </message>
+    <message>
+        <source>字段过长</source>
+        <translation>A field is too long</translation>
+    </message>
+    <message>
+        <source>字段内有控制字符</source>
+        <translation>A field holds a control character</translation>
+    </message>
+    <message>
+        <source>不支持的添加模式</source>
+        <translation>This add mode is not supported</translation>
+    </message>
+    <message>
+        <source>设备地址无效</source>
+        <translation>Not a valid device address</translation>
+    </message>
+    <message>
+        <source>设备端口无效</source>
+        <translation>Not a valid device port</translation>
+    </message>
+    <message>
+        <source>缺少用户名或密码</source>
+        <translation>User name or password is missing</translation>
+    </message>
+    <message>
+        <source>第 %1 行与第 %2 行的MAC地址相同：%3</source>
+        <translation>Lines %1 and %2 have the same MAC address: %3</translation>
+    </message>
+    <message>
+        <source>无法建立P2P通道</source>
+        <translation>No P2P tunnel to the device could be opened</translation>
+    </message>
+    <message>
+        <source>文件内的设备超过 %1 台</source>
+        <translation>The file holds more than %1 devices</translation>
+    </message>
+    <message>
+        <source>文件内没有设备列表的表头</source>
+        <translation>The file has no headers of a device list</translation>
+    </message>
+    <message>
+        <source>无法读取工作簿</source>
+        <translation>The workbook could not be read</translation>
+    </message>
+    <message>
+        <source>根元素不是 deviceList：%1</source>
+        <translation>The root element is not deviceList: %1</translation>
+    </message>
+    <message>
+        <source>第 %1 行不是有效的XML</source>
+        <translation>Line %1 is not valid XML</translation>
+    </message>
+</context>
+<context>
     <name>DeviceRow</name>
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>请选择导出的文件格式</source>
+        <translation>Select the export format</translation>
     </message>
 </context>
 <context>
@@ -206,6 +288,25 @@
     <message>
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
         <translation>After setting the new password, set it in the search settings as well.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>导入结果</source>
+        <translation>Import result</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Reason</translation>
     </message>
 </context>
 <context>
@@ -501,6 +602,55 @@
     <message>
         <source>搜索设置</source>
         <translation>Search settings</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPFiles</name>
+    <message>
+        <source>正在导入设备…</source>
+        <translation>Importing devices…</translation>
+    </message>
+    <message>
+        <source>正在导出设备…</source>
+        <translation>Exporting devices…</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
+    </message>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 is there already. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>导出设备成功
+文件路径:</source>
+        <translation>Devices exported
+File path: </translation>
+    </message>
+    <message>
+        <source>导出设备失败，请检查本机是否已经安装了Office</source>
+        <translation>The export failed: check that the office suite is installed</translation>
+    </message>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Open a device list</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>The import failed: wrong format, duplicate MACs in the file, or the file is open elsewhere!</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Devices imported: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>done</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Select a folder</translation>
     </message>
 </context>
 <context>
@@ -812,6 +962,10 @@
     <message>
         <source>已复制到剪贴板</source>
         <translation>Copied to the clipboard</translation>
+    </message>
+    <message>
+        <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
+        <translation>The connection to the P2P device %1 is broken: delete the device and add it again</translation>
     </message>
 </context>
 <context>

@@ -139,10 +139,92 @@
     </message>
 </context>
 <context>
+    <name>DeviceList</name>
+    <message>
+        <source>第 %1 行过长</source>
+        <translation>第 %1 行过长</translation>
+    </message>
+    <message>
+        <source>第 %1 行不是UTF-8编码</source>
+        <translation>第 %1 行不是UTF-8编码</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>字段比表头多</source>
+        <translation>字段比表头多</translation>
+    </message>
+    <message>
+        <source>字段过长</source>
+        <translation>字段过长</translation>
+    </message>
+    <message>
+        <source>字段内有控制字符</source>
+        <translation>字段内有控制字符</translation>
+    </message>
+    <message>
+        <source>不支持的添加模式</source>
+        <translation>不支持的添加模式</translation>
+    </message>
+    <message>
+        <source>设备地址无效</source>
+        <translation>设备地址无效</translation>
+    </message>
+    <message>
+        <source>设备端口无效</source>
+        <translation>设备端口无效</translation>
+    </message>
+    <message>
+        <source>缺少用户名或密码</source>
+        <translation>缺少用户名或密码</translation>
+    </message>
+    <message>
+        <source>第 %1 行与第 %2 行的MAC地址相同：%3</source>
+        <translation>第 %1 行与第 %2 行的MAC地址相同：%3</translation>
+    </message>
+    <message>
+        <source>无法建立P2P通道</source>
+        <translation>无法建立P2P通道</translation>
+    </message>
+    <message>
+        <source>文件内的设备超过 %1 台</source>
+        <translation>文件内的设备超过 %1 台</translation>
+    </message>
+    <message>
+        <source>文件内没有设备列表的表头</source>
+        <translation>文件内没有设备列表的表头</translation>
+    </message>
+    <message>
+        <source>无法读取工作簿</source>
+        <translation>无法读取工作簿</translation>
+    </message>
+    <message>
+        <source>根元素不是 deviceList：%1</source>
+        <translation>根元素不是 deviceList：%1</translation>
+    </message>
+    <message>
+        <source>第 %1 行不是有效的XML</source>
+        <translation>第 %1 行不是有效的XML</translation>
+    </message>
+</context>
+<context>
     <name>DeviceRow</name>
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>请选择导出的文件格式</source>
+        <translation>请选择导出的文件格式</translation>
     </message>
 </context>
 <context>
@@ -205,6 +287,25 @@
     <message>
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
         <translation>设定新密码后,请在“搜索设置”中设置新密码</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>导入结果</source>
+        <translation>导入结果</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>原因</translation>
     </message>
 </context>
 <context>
@@ -497,6 +598,55 @@
     <message>
         <source>搜索设置</source>
         <translation>搜索设置</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPFiles</name>
+    <message>
+        <source>正在导入设备…</source>
+        <translation>正在导入设备…</translation>
+    </message>
+    <message>
+        <source>正在导出设备…</source>
+        <translation>正在导出设备…</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
+    </message>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 已存在，是否覆盖？</translation>
+    </message>
+    <message>
+        <source>导出设备成功
+文件路径:</source>
+        <translation>导出设备成功
+文件路径:</translation>
+    </message>
+    <message>
+        <source>导出设备失败，请检查本机是否已经安装了Office</source>
+        <translation>导出设备失败，请检查本机是否已经安装了Office</translation>
+    </message>
+    <message>
+        <source>打开excel文件</source>
+        <translation>打开excel文件</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>批量导入设备：</translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>台已完成</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
     </message>
 </context>
 <context>
@@ -805,6 +955,10 @@
     <message>
         <source>已复制到剪贴板</source>
         <translation>已复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
+        <translation>到P2P设备 %1 的连接已断开，请删除后重新添加</translation>
     </message>
 </context>
 <context>

@@ -30,8 +30,8 @@ public:
     ~CDeviceDH() override;
 
     /// Takes the port agent's events, on a thread of the agent: logs them. Of a tunnel that broke the user
-    /// learns: the device's row gets the result of a network failure, and signalCDeviceTunnelBroken is emitted,
-    /// both on the thread of the back end that was made last.
+    /// learns: the device's row gets the result of a network failure, and signalCDeviceTunnelBroken is
+    /// emitted, both on the thread of the back end that was made last.
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 

@@ -12,7 +12,11 @@ FocusScope {
     signal settingsRequested
     signal said(string message, int kind)
 
-    readonly property var deviceFactory: CDeviceFactoryApi // qmllint disable unqualified
+    // qmllint disable unqualified
+    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var fileDialogs: FileDialogsApi
+    // qmllint enable unqualified
+    readonly property var work: batches.running ? batches : files.running ? files : null
 
     function focusSearch() {
         toolBar.focusSearch();
@@ -61,6 +65,14 @@ FocusScope {
         onSaid: (message, kind) => page.said(message, kind)
     }
 
+    ModifyIPFiles {
+        id: files
+        deviceFactory: page.deviceFactory
+        deviceTable: devices
+        fileDialogs: page.fileDialogs
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+
     ModifyIPDevices {
         id: actions
         deviceFactory: page.deviceFactory
@@ -83,6 +95,8 @@ FocusScope {
         onInitialisedToggled: shown => devices.showInitialised = shown
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
         onDeleteRequested: actions.removeChecked()
+        onExportRequested: files.startExport()
+        onImportRequested: files.startImport()
         onInitialiseRequested: batches.initialise()
         onModifyRequested: batches.modifyChecked()
         onUninitialisedToggled: shown => devices.showUninitialised = shown
@@ -128,10 +142,10 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        progress: batches.running ? batches.progress : -1
-        running: page.searching || batches.running
-        runningDevice: batches.current
-        runningText: batches.running ? batches.runningText : qsTr("正在搜索设备…")
+        progress: page.work?.progress ?? -1
+        running: page.searching || page.work !== null
+        runningDevice: page.work?.current ?? ""
+        runningText: page.work?.runningText ?? qsTr("正在搜索设备…")
         //: Follows a number at the foot of a page, as in "3 devices selected".
         text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
         //: Each of the devices has the address of another one.

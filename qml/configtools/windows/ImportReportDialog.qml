@@ -6,12 +6,12 @@ OVDialog {
     id: root
 
     property string summary
-    property var failures: []
 
     /// `failed` as the factory's importFailures() returns it.
     function load(text, failed) {
         summary = text;
-        failures = failed;
+        // A line has no MAC that could tell it from others: its number does.
+        lines.setRows(failed.map(failure => Object.assign({mac: String(failure.line)}, failure)));
     }
 
     width: Theme.addressPlanWidth
@@ -21,16 +21,8 @@ OVDialog {
     onAccepted: close()
     onOpened: table.forceActiveFocus()
 
-    QtObject {
+    DeviceSelection {
         id: lines
-
-        /// What OVTable asks of its model, over an array.
-        function get(row) {
-            return root.failures[row] ?? {};
-        }
-        function rowOf(identity) {
-            return root.failures.findIndex(failure => String(failure.line) === identity);
-        }
     }
 
     Column {

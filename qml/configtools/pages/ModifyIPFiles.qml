@@ -1,0 +1,138 @@
+// Writing device lists to files and reading them back.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    required property var fileDialogs
+    required property var deviceTable  // a DeviceTableModel
+    readonly property bool running: importing || batch.running
+    readonly property real progress: importing && total > 0 ? done / total : -1
+    readonly property string current: importing && total > 0 ? done + " / " + total : ""
+    readonly property string runningText: importing ? qsTr("正在导入设备…") : qsTr("正在导出设备…")
+    property bool importing: false
+    property int done: 0
+    property int total: 0
+    signal said(string message, int kind)
+
+    function startExport() {
+        if (deviceTable.checkedCount === 0)
+            said(qsTr("请选择一台设备"), OVToast.Error);
+        else
+            format.wanted().open();
+    }
+
+    /// A list of the same name that the folder holds already is not replaced unasked.
+    function exportTo(folder, fileName) {
+        if (!fileDialogs.exists(folder + "/" + fileName)) {
+            writeList(folder, fileName);
+            return;
+        }
+        const asked = question.wanted();
+        asked.folder = folder;
+        asked.fileName = fileName;
+        asked.show(qsTr("%1 已存在，是否覆盖？").arg(folder + "/" + fileName), OVMessageBox.DangerQuestion);
+    }
+
+    function writeList(folder, fileName) {
+        const macs = deviceTable.checkedMacs();
+        let written = false;
+        batch.start(1, () => written = deviceFactory.exportDevice("dh", folder, macs, fileName),
+                    () => fileName, () => {
+            if (written)
+                said(qsTr("导出设备成功\n文件路径:") + folder + "/" + fileName, OVToast.Success);
+            else
+                said(qsTr("导出设备失败，请检查本机是否已经安装了Office"), OVToast.Error);
+        });
+    }
+
+    function startImport() {
+        fileDialogs.chooseFile(qsTr("打开excel文件"),
+                               ["Excel Files (*.xlsx)", "CSV Files (*.csv)", "XML Files (*.xml)"], path => {
+            importing = true;
+            done = total = 0;
+            hold.open();
+            beginning.path = path;
+            beginning.start();
+        });
+    }
+
+    function readList(path) {
+        const counts = {total: 0, errcount: 0};
+        const read = deviceFactory.importDevice("dh", path, counts);
+        importing = false;
+        hold.close();
+        deviceTable.refresh();
+        if (!read) {
+            const reason = deviceFactory.importError("dh");
+            said(qsTr("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！")
+                 + (reason !== "" ? "\n" + reason : ""), OVToast.Error);
+            return;
+        }
+        const summary = qsTr("批量导入设备：") + (counts.total - counts.errcount) + "/" + counts.total + " "
+            + qsTr("台已完成");
+        if (counts.errcount === 0) {
+            said(summary, OVToast.Success);
+            return;
+        }
+        const dialog = report.wanted();
+        dialog.load(summary, deviceFactory.importFailures("dh"));
+        dialog.open();
+    }
+
+    visible: false
+
+    Connections {
+        target: root.deviceFactory
+
+        function onSignalImportProgress(done, total) {
+            root.done = done;
+            root.total = total;
+        }
+    }
+
+    OVBatch {
+        id: batch
+    }
+    OVInputHold {
+        id: hold
+    }
+    Timer {
+        id: beginning
+        property string path
+        interval: 2 * Theme.paintEvery  // the page shows that work has begun
+        onTriggered: root.readList(path)
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: format
+        visible: false
+        sourceComponent: ExportDialog {
+            id: formats
+            onAccepted: {
+                const fileName = formats.fileName;
+                formats.close();
+                root.fileDialogs.chooseFolder(qsTr("请选择文件夹"), folder => root.exportTo(folder, fileName));
+            }
+        }
+    }
+    OVOnDemand {
+        id: question
+        visible: false
+        sourceComponent: OVMessageBox {
+            property string folder
+            property string fileName
+            objectName: "overwriteQuestion"
+            onAccepted: root.writeList(folder, fileName)
+        }
+    }
+    OVOnDemand {
+        id: report
+        visible: false
+        sourceComponent: ImportReportDialog {}
+    }
+    // qmllint enable unqualified
+}
