@@ -14,6 +14,8 @@ void walkSearchSettings(Driver &driver);
 void walkWindow(Driver &driver);
 /// First passwords, new addresses singly and in batches, details, web pages and deleting.
 void walkDevices(Driver &driver);
+/// Writes device lists in every format into `folder`, and reads one back.
+void walkLists(Driver &driver, const QString &folder);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

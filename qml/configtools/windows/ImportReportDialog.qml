@@ -41,12 +41,19 @@ OVDialog {
             height: Theme.initialiseListHeight
             checkable: false
             columns: [
-                {key: "line", title: qsTr("行"), width: Theme.columnNumber},
-                {key: "address", title: qsTr("地址"), width: Theme.columnAddress},
+                {key: "line", title: qsTr("行"), width: Theme.columnNumber, cell: figureCell},
+                {key: "address", title: qsTr("地址"), width: Theme.columnAddress, cell: figureCell},
                 {key: "reason", title: qsTr("原因"), width: Theme.columnAddress, stretch: 1}
             ]
             model: lines
             objectName: "importTable"
+        }
+    }
+
+    Component {
+        id: figureCell
+        OVTableTextCell {
+            font: Theme.figureFont
         }
     }
 }
