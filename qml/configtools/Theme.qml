@@ -9,6 +9,9 @@ QtObject {
     // A dark theme is a second ThemeColours in this place.
     readonly property ThemeColours colours: ThemeColours {}
 
+    // Where favourites are kept.
+    readonly property string favPath: ProgramFolders.favourites
+
     // Measures, on a grid of 8.
     readonly property int unit: 8
     readonly property int half: 4
@@ -56,6 +59,11 @@ QtObject {
     readonly property int firstPasswordHeight: 400
     readonly property int detailWidth: 520
     readonly property int detailHeight: 480
+    readonly property int addDeviceWidth: 400
+    readonly property int addDeviceHeight: 250
+    readonly property int portFieldWidth: 112
+    readonly property int favouritesWidth: 1000
+    readonly property int favouritesHeight: 560
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
 
@@ -75,6 +83,10 @@ QtObject {
     readonly property int columnActions: 168
     readonly property int columnPlanAddress: 128
     readonly property int columnPlanMark: 224
+    readonly property int columnShortActions: 72
+    readonly property int columnPort: 72
+    readonly property int columnAccount: 110
+    readonly property int columnOutcome: 150
 
     // Type.
     readonly property int hintSize: 12
@@ -118,6 +130,7 @@ QtObject {
         "copy": "\ue09e",
         "down": "\ue06d",
         "error": "\ue084",
+        "favourite": "\ue176",
         "filtered": "\ue3b5",
         "help": "\ue05f",
         "hide": "\ue0bb",
@@ -127,6 +140,7 @@ QtObject {
         "minimise": "\ue11c",
         "mixed": "\ue11c",
         "nothing": "\ue4ad",
+        "note": "\ue1f9",
         "ok": "\ue226",
         "questions": "\ue568",
         "restore": "\ue09e",

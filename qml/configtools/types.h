@@ -7,6 +7,8 @@
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
 #include "device/treemodel.h"
+#include "favourites/author.h"
+#include "favourites/favouritelistmodel.h"
 
 #include <QtQml/qqml.h>
 
@@ -51,4 +53,18 @@ struct AddressToolsForeign
     QML_FOREIGN(AddressTools)
     QML_NAMED_ELEMENT(AddressTools)
     QML_SINGLETON
+};
+
+struct AuthorForeign
+{
+    Q_GADGET
+    QML_FOREIGN(CAuthor)
+    QML_NAMED_ELEMENT(Author)
+};
+
+struct FavouriteListModelForeign
+{
+    Q_GADGET
+    QML_FOREIGN(FavouriteListModel)
+    QML_NAMED_ELEMENT(FavouriteListModel)
 };

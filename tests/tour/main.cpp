@@ -70,6 +70,7 @@ int watch(const QString &language, const QString &folder)
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/LocalConfig.ini"));
+    QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/fav")).removeRecursively();
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
 
@@ -115,6 +116,7 @@ void drive(Driver &driver, const QString &language, const QString &folder)
     walkFirstSearch(driver);
     walkTable(driver);
     walkWindow(driver);
+    walkAdding(driver);
     walkSearchSettings(driver);
     walkDevices(driver);
     walkLists(driver, folder + QStringLiteral("/lists"));

@@ -16,6 +16,8 @@ void walkWindow(Driver &driver);
 void walkDevices(Driver &driver);
 /// Writes device lists in every format into `folder`, and reads one back.
 void walkLists(Driver &driver, const QString &folder);
+/// Adding devices by hand and from favourites.
+void walkAdding(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

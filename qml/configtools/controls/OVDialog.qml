@@ -15,16 +15,19 @@ T.Popup {
     property bool hasCancel: true
     property bool closable: true
     property bool dense: false  // for a small box: its head, its foot and the room around its content are lower
-    property alias footContent: footSlot.data  // at the left of the buttons
+    property bool busy: false  // at what was accepted: the primary button turns, and nothing can be done meanwhile
+    property alias footContent: footSlot.data  // beside the buttons
     default property alias content: body.data
     signal accepted
     signal rejected
 
     function accept() {
-        if (okEnabled)
+        if (okEnabled && !busy)
             accepted();
     }
     function reject() {
+        if (busy)
+            return;
         close();
         rejected();
     }
@@ -97,6 +100,7 @@ T.Popup {
             y: head.height + root.contentMargin
             width: parent.width - 2 * Theme.pageMargin
             height: foot.y - y - root.contentMargin
+            enabled: !root.busy
             focus: true
             implicitHeight: childrenRect.height
         }
@@ -122,11 +126,14 @@ T.Popup {
                 height: Theme.line
                 color: Theme.colours.line
             }
-            Item {
+            FocusScope {
                 id: footSlot
-                x: Theme.pageMargin
-                width: buttons.x - x - Theme.unit
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.pageMargin
+                anchors.right: buttons.left
+                anchors.rightMargin: Theme.pageMargin
                 height: parent.height
+                enabled: !root.busy
             }
             Row {
                 id: buttons
@@ -137,7 +144,8 @@ T.Popup {
                 spacing: Theme.unit
 
                 OVButton {
-                    enabled: root.okEnabled
+                    busy: root.busy
+                    enabled: root.okEnabled && !root.busy
                     kind: root.okKind
                     objectName: "okButton"
                     text: root.okText
@@ -145,6 +153,7 @@ T.Popup {
                 }
                 OVButton {
                     id: cancel
+                    enabled: !root.busy
                     objectName: "cancelButton"
                     text: root.cancelText
                     visible: root.hasCancel

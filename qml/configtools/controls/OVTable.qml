@@ -25,6 +25,12 @@ FocusScope {
     signal copyRequested(int row)
     signal rowOpened(int row)
 
+    /// Makes a row the current one and brings it into view.
+    function show(row) {
+        if (row >= 0)
+            body.move(row, false);
+    }
+
     readonly property int checkWidth: checkable ? 48 : Theme.controlGap
     property var draggedWidths: ({})
     readonly property var columnWidths: layOut(columns, draggedWidths, body.width - checkWidth)

@@ -9,7 +9,6 @@ RowLayout {
     required property bool showInitialised
     required property bool showUninitialised
     required property bool ipv6
-    property bool actionsAvailable: true
     property alias searchText: searchField.text
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
@@ -18,12 +17,10 @@ RowLayout {
     signal modifyRequested
     signal importRequested
     signal exportRequested
-    signal addRequested(int kind)
     signal deleteRequested
-
-    enum AddKind { ByAddress, ByP2P, FromFavourites }
-
-    readonly property bool ipv4ActionsAvailable: actionsAvailable && !ipv6
+    signal addIpRequested
+    signal addP2pRequested
+    signal addFavouriteRequested
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
@@ -35,7 +32,7 @@ RowLayout {
 
     OVActionRow {
         OVButton {
-            enabled: root.ipv4ActionsAvailable
+            enabled: !root.ipv6
             kind: OVButton.Primary
             objectName: "initialiseButton"
             text: qsTr("初始化")
@@ -43,21 +40,21 @@ RowLayout {
             onClicked: root.initialiseRequested()
         }
         OVButton {
-            enabled: root.ipv4ActionsAvailable
+            enabled: !root.ipv6
             objectName: "batchModifyButton"
             text: qsTr("批量修改IP")
             toolTip: qsTr("为勾选的设备依次分配地址")
             onClicked: root.modifyRequested()
         }
         OVButton {
-            enabled: root.ipv4ActionsAvailable
+            enabled: !root.ipv6
             objectName: "importButton"
             text: qsTr("导入")
             toolTip: qsTr("从表格文件读入设备列表")
             onClicked: root.importRequested()
         }
         OVButton {
-            enabled: root.ipv4ActionsAvailable
+            enabled: !root.ipv6
             objectName: "exportButton"
             text: qsTr("导出")
             toolTip: qsTr("把勾选的设备写入表格文件")
@@ -65,7 +62,7 @@ RowLayout {
         }
         OVButton {
             id: addButton
-            enabled: root.ipv4ActionsAvailable
+            enabled: !root.ipv6
             objectName: "addButton"
             opensMenu: true
             text: qsTr("手动添加")
@@ -81,20 +78,22 @@ RowLayout {
                     OVMenuItem {
                         objectName: "addIpItem"
                         text: qsTr("IP设备")
+                        onTriggered: root.addIpRequested()
                     }
                     OVMenuItem {
                         objectName: "addP2pItem"
                         text: qsTr("P2P设备")
+                        onTriggered: root.addP2pRequested()
                     }
                     OVMenuItem {
                         objectName: "addFavouriteItem"
                         text: qsTr("收藏夹")
+                        onTriggered: root.addFavouriteRequested()
                     }
                 }
             }
         }
         OVButton {
-            enabled: root.actionsAvailable
             kind: OVButton.Danger
             objectName: "deleteButton"
             text: qsTr("删除")

@@ -84,6 +84,13 @@ FocusScope {
         onSaid: (message, kind) => page.said(message, kind)
     }
 
+    ModifyIPAdding {
+        id: adding
+        deviceFactory: page.deviceFactory
+        onAdded: devices.refresh()
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+
     ModifyIPToolBar {
         id: toolBar
         x: Theme.pageMargin
@@ -92,12 +99,15 @@ FocusScope {
         ipv6: devices.ipv6
         showInitialised: devices.showInitialised
         showUninitialised: devices.showUninitialised
-        onInitialisedToggled: shown => devices.showInitialised = shown
-        onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
+        onAddFavouriteRequested: adding.openFavourites()
+        onAddIpRequested: adding.openIp()
+        onAddP2pRequested: adding.openP2p()
         onDeleteRequested: actions.removeChecked()
         onExportRequested: files.startExport()
         onImportRequested: files.startImport()
         onInitialiseRequested: batches.initialise()
+        onInitialisedToggled: shown => devices.showInitialised = shown
+        onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
         onModifyRequested: batches.modifyChecked()
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }

@@ -1,0 +1,76 @@
+// Adding devices by hand and from favourites: the dialogs, and what happens between them and the devices.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    signal said(string message, int kind)
+    signal added  // the list has changed
+
+    function openIp() {
+        byHand.wanted().begin(DeviceAdding.IP);
+    }
+    function openP2p() {
+        byHand.wanted().begin(DeviceAdding.P2P);
+    }
+    function openFavourites() {
+        fromFavourites.wanted().begin();
+    }
+
+    /// Tries to add what the dialog holds, once the dialog shows that it is busy.
+    function tryDevice(dialog, device, isFavourite) {
+        dialog.busy = true;
+        afterPaint.run(() => {
+            const code = deviceAdding.add(device);
+            dialog.busy = false;
+            if (code !== deviceAdding.added) {
+                dialog.hint = deviceAdding.quietText(code);
+                if (deviceAdding.errorText(code) !== "")
+                    said(deviceAdding.errorText(code), OVToast.Error);
+                return;
+            }
+            dialog.close();
+            added();
+            if (isFavourite && savedDevices.save(device) === "")
+                said(qsTr("设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            else
+                said(isFavourite ? qsTr("设备已添加，并保存到收藏夹") : qsTr("设备已添加"), OVToast.Success);
+        });
+    }
+
+    DeviceAdding {
+        id: deviceAdding
+        deviceFactory: root.deviceFactory
+    }
+    Favourites {
+        id: savedDevices
+    }
+    OVAfterPaint {
+        id: afterPaint
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: byHand
+        visible: false
+        sourceComponent: AddDeviceDialog {
+            id: dialog
+            onConfirmed: (device, isFavourite) => root.tryDevice(dialog, device, isFavourite)
+            onRefused: message => root.said(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: fromFavourites
+        visible: false
+        sourceComponent: AddDevicesByFavoritesWindow {
+            adding: deviceAdding
+            favourites: savedDevices
+            onAdded: root.added()
+            onSaid: (message, kind) => root.said(message, kind)
+            onByHandRequested: root.openIp()
+        }
+    }
+    // qmllint enable unqualified
+}

@@ -1,0 +1,10 @@
+#include "programfolders.h"
+
+#include <QCoreApplication>
+
+ProgramFolders::ProgramFolders(QObject *parent) : QObject(parent) {}
+
+QString ProgramFolders::favourites() const
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/fav/");
+}

@@ -1,0 +1,73 @@
+// The note of a favourite, which is edited in its place: Enter and leaving the field keep the text, Escape does not.
+import QtQuick
+import configtools
+
+OVTableCell {
+    id: root
+
+    property bool editable: true
+    signal edited(string note)
+
+    property bool editing: false
+
+    function begin() {
+        field.text = value ?? "";
+        editing = true;
+        field.forceActiveFocus();
+        field.selectAll();
+    }
+
+    function end(keep) {
+        if (!editing)
+            return;
+        editing = false;
+        if (keep && field.text !== value)
+            edited(field.text);
+    }
+
+    onRowIndexChanged: editing = false  // the cell has come to serve another row
+
+    HoverHandler {
+        id: pointer
+    }
+
+    OVLabel {
+        width: root.width - Theme.unit - pencil.width
+        height: root.height
+        objectName: "note" + root.rowIndex
+        text: root.value ?? ""
+        visible: !root.editing
+    }
+    OVIconButton {
+        id: pencil
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        implicitWidth: Theme.unit * 3
+        implicitHeight: Theme.unit * 3
+        focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+        iconName: "note"
+        iconSize: Theme.smallIconSize
+        objectName: "editNote" + root.rowIndex
+        opacity: root.editable && (pointer.hovered || root.current || activeFocus) ? 1 : 0
+        enabled: root.editable
+        toolTip: qsTr("编辑备注")
+        visible: !root.editing
+        onClicked: root.begin()
+    }
+    OVTextField {
+        id: field
+        x: -Theme.unit
+        y: Theme.line
+        width: root.width
+        accessibleName: qsTr("备注")
+        maximumLength: 50
+        objectName: "noteEditor"
+        visible: root.editing
+        onAccepted: root.end(true)
+        onActiveFocusChanged: if (!activeFocus) root.end(true)
+        Keys.onEscapePressed: root.end(false)
+        Keys.onReturnPressed: root.end(true)
+        Keys.onEnterPressed: root.end(true)
+    }
+}
