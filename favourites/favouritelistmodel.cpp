@@ -16,8 +16,8 @@ enum Role
     FirstKeyRole, ///< from here on: rowKeys, in their order
 };
 
-constexpr std::array rowKeys = {"num",  "type",     "ip",    "port", "ipport", "username",
-                                "note", "progress", "words", "fileName"};
+constexpr std::array rowKeys = {"num",      "type", "ip",       "port",  "ipport",
+                                "username", "note", "progress", "words", "fileName"};
 
 /// A value as a row shows it: one line of a length that can be laid out, since a file may hold anything.
 QString shownText(const QString &value)
@@ -218,8 +218,8 @@ QVariantMap FavouriteListModel::device(const QString &identity) const
         return {};
     const Favourite &favourite = m_favourites.at(place);
     return {
-        {"mode", favourite.p2p ? 1 : 0},  {"address", favourite.address}, {"port", favourite.port},
-        {"account", favourite.account},   {"cipher", favourite.cipher},   {"note", favourite.note},
+        {"mode", favourite.p2p ? 1 : 0}, {"address", favourite.address}, {"port", favourite.port},
+        {"account", favourite.account},  {"cipher", favourite.cipher},   {"note", favourite.note},
     };
 }
 

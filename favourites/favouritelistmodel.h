@@ -6,8 +6,8 @@
 #include <QVariantMap>
 
 /// Favourites of a folder with what the user does to them: ticks, the text filter, and how adding each one
-/// went. Roles are "checked", "conflict" (always false: a favourite stands in no other's way), "identity" (its
-/// file name) and the keys of get(). Lives on the scene's thread; reads and writes no files.
+/// went. Roles are "checked", "conflict" (always false: a favourite stands in no other's way), "identity"
+/// (its file name) and the keys of get(). Lives on the scene's thread; reads and writes no files.
 class FavouriteListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
     [[nodiscard]] int totalCount() const { return static_cast<int>(m_favourites.size()); } ///< also hidden
-    [[nodiscard]] int checkedCount() const; ///< of the shown ones: hidden ones are not acted on
+    [[nodiscard]] int checkedCount() const;          ///< of the shown ones: hidden ones are not acted on
     [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
 
     /// Takes the favourites of a folder as CAuthor lists them, numbered in that order. What is known of one
@@ -47,7 +47,8 @@ public:
     Q_INVOKABLE void setAllChecked(bool checked);
 
     /// Notes how adding a favourite went, with the words for it. Takes a tick away from one that was added.
-    Q_INVOKABLE void setProgress(const QString &identity, Progress progress, const QString &words);
+    Q_INVOKABLE void setProgress(const QString &identity, FavouriteListModel::Progress progress,
+                                 const QString &words);
 
     /// Forgets how adding went.
     Q_INVOKABLE void forgetProgress();

@@ -62,7 +62,7 @@ QtObject {
     readonly property int addDeviceWidth: 400
     readonly property int addDeviceHeight: 250
     readonly property int portFieldWidth: 112
-    readonly property int favouritesWidth: 1000
+    readonly property int favouritesWidth: 1080
     readonly property int favouritesHeight: 560
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
@@ -85,8 +85,8 @@ QtObject {
     readonly property int columnPlanMark: 224
     readonly property int columnShortActions: 72
     readonly property int columnPort: 72
-    readonly property int columnAccount: 110
-    readonly property int columnOutcome: 150
+    readonly property int columnAccount: 96
+    readonly property int columnOutcome: 236
 
     // Type.
     readonly property int hintSize: 12

@@ -39,14 +39,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("mode");
-        QTest::newRow("IP") << favourite("0", "10.0.0.1", "n") << "IP" << "IP\t10.0.0.1\t37777\tadmin\tn" << 0;
-        QTest::newRow("P2P") << favourite("1", "OV7") << "P2P" << "P2P\tOV7\t37777\tadmin\t" << 1;
-        QTest::newRow("no type") << favourite("", "OV7") << "P2P" << "P2P\tOV7\t37777\tadmin\t" << 1;
+        QTest::newRow("IP") << favourite("0", "10.0.0.1", "n") << "IP"
+                            << "IP\t10.0.0.1\t37777\tadmin\tn" << 0;
+        QTest::newRow("P2P") << favourite("1", "OV7") << "P2P"
+                             << "P2P\tOV7\t37777\tadmin\t" << 1;
+        QTest::newRow("no type") << favourite("", "OV7") << "P2P"
+                                 << "P2P\tOV7\t37777\tadmin\t" << 1;
         QTest::newRow("several lines") << favourite("0", "10.0.0.1", "a\n\tb") << "IP"
                                        << "IP\t10.0.0.1\t37777\tadmin\ta b" << 0;
         QTest::newRow("endless") << favourite("0", "a", QString(100000, 'x')) << "IP"
                                  << "IP\ta\t37777\tadmin\t" + QString(200, 'x') << 0;
-        QTest::newRow("nothing") << QStringList() << "P2P" << "P2P\t\t\t\t" << 1;
+        QTest::newRow("nothing") << QStringList() << "P2P"
+                                 << "P2P\t\t\t\t" << 1;
     }
 
     void listsFiles()

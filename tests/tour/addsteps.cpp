@@ -10,7 +10,8 @@
 namespace {
 
 const QString password = QStringLiteral("Office-2024");
-const QString branchAddress = QStringLiteral("192.168.2.21"); // a search of the local segment does not find it
+const QString branchAddress =
+    QStringLiteral("192.168.2.21"); // a search of the local segment does not find it
 const QString remoteId = QStringLiteral("OV7QK2M4X9T3HD58");
 
 QVariantMap deviceAt(const QString &ipport)

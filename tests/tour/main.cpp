@@ -177,7 +177,7 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER\n";
         return 2;
     }
-    const QString language = arguments.at(1);
+    const QString &language = arguments.at(1);
     const QString folder = QDir(arguments.at(2)).absolutePath();
     const QByteArray stage = qgetenv(stageVariable);
     if (stage.isEmpty())

@@ -46,7 +46,7 @@ Item {
     // A window that is minimised or covered paints nothing.
     Timer {
         id: patience
-        interval: 250
+        interval: 1000
         onTriggered: root.finish()
     }
 }

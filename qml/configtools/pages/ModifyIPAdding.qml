@@ -6,6 +6,7 @@ Item {
     id: root
 
     required property var deviceFactory
+    property alias favouritesFolder: savedDevices.folder
     signal said(string message, int kind)
     signal added  // the list has changed
 
@@ -25,10 +26,11 @@ Item {
         afterPaint.run(() => {
             const code = deviceAdding.add(device);
             dialog.busy = false;
-            if (code !== deviceAdding.added) {
-                dialog.hint = deviceAdding.quietText(code);
-                if (deviceAdding.errorText(code) !== "")
-                    said(deviceAdding.errorText(code), OVToast.Error);
+            if (code !== DeviceAdding.Added) {
+                const error = deviceAdding.errorText(code);
+                dialog.showResult(code, error, deviceAdding.quietText(code));
+                if (error !== "")
+                    said(error, OVToast.Error);
                 return;
             }
             dialog.close();

@@ -69,6 +69,7 @@ RowLayout {
             toolTip: qsTr("添加搜索不到的设备：按IP、按P2P或从收藏夹")
             onClicked: addMenu.wanted().popup(addButton, 0, addButton.height + Theme.half)
 
+            // qmllint disable unqualified
             OVOnDemand {
                 id: addMenu
                 visible: false
@@ -92,6 +93,7 @@ RowLayout {
                     }
                 }
             }
+            // qmllint enable unqualified
         }
         OVButton {
             kind: OVButton.Danger

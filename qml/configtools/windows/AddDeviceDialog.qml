@@ -7,18 +7,17 @@ OVDialog {
     id: root
 
     property int mode: DeviceAdding.IP
+    readonly property bool p2p: mode === DeviceAdding.P2P
     property string hint  // something that is not said as an error
     signal refused(string message)
     signal confirmed(var device, bool isFavourite)
 
-    readonly property bool p2p: mode === DeviceAdding.P2P
-    property string faultKind  // of the first thing that is wrong, once it was confirmed
+    property string faultKind  // the field of the first thing that is wrong, once it was confirmed
     property string fault
 
     function begin(mode) {
         root.mode = mode;
         busy = false;
-        hint = "";
         addressField.text = "";
         idField.text = "";
         accountField.text = "admin";
@@ -36,26 +35,37 @@ OVDialog {
         hint = "";
     }
 
-    function errorOf(kind) {
-        return faultKind === kind ? fault : "";
+    /// Shows how the login went: a result that speaks of one field under that field.
+    function showResult(code, error, quiet) {
+        faultKind = code === DeviceAdding.NoSuchAccount ? "account" : code === DeviceAdding.WrongPassword ? "password"
+            : code === DeviceAdding.AlreadyListed ? "address" : "";
+        fault = error;
+        hint = quiet;
+        if (faultKind === "password")
+            passwordField.selectAll();
     }
 
-    /// Notes the first thing that is wrong. Returns whether nothing is.
+    function note(kind, message, field) {
+        faultKind = kind;
+        fault = message;
+        field.forceActiveFocus();
+    }
+
+    /// Notes the first thing that is wrong, if anything is.
     function check() {
-        const port = Number(portField.text);
-        const checks = [
-            {kind: "id", passes: !p2p || idField.text !== "", message: qsTr("请输入P2P ID"), field: idField},
-            {kind: "address", passes: p2p || addressField.acceptable, message: qsTr("请输入正确的IP"), field: addressField},
-            {kind: "account", passes: accountField.text !== "", message: qsTr("请输入账号"), field: accountField},
-            {kind: "password", passes: passwordField.text !== "", message: qsTr("请输入密码"), field: passwordField},
-            {kind: "port", passes: portField.text !== "", message: qsTr("请输入端口"), field: portField},
-            {kind: "port", passes: port > 0 && port <= 65535, message: qsTr("端口范围为1到65535"), field: portField}
-        ];
-        const failed = checks.find(one => !one.passes);
-        faultKind = failed?.kind ?? "";
-        fault = failed?.message ?? "";
-        failed?.field.forceActiveFocus();
-        return failed === undefined;
+        forget();
+        if (p2p && idField.text === "")
+            note("id", qsTr("请输入P2P ID"), idField);
+        else if (!p2p && !addressField.acceptable)
+            note("address", qsTr("请输入正确的IP"), addressField);
+        else if (accountField.text === "")
+            note("account", qsTr("请输入账号"), accountField);
+        else if (passwordField.text === "")
+            note("password", qsTr("请输入密码"), passwordField);
+        else if (portField.text === "")
+            note("port", qsTr("请输入端口"), portField);
+        else if (!portField.acceptable)
+            note("port", qsTr("端口范围为1到65535"), portField);
     }
 
     width: Theme.addDeviceWidth
@@ -64,8 +74,8 @@ OVDialog {
     title: qsTr("手动添加设备")
     onOpened: (p2p ? idField : addressField).forceActiveFocus()
     onAccepted: {
-        hint = "";
-        if (!check()) {
+        check();
+        if (fault !== "") {
             refused(fault);
             return;
         }
@@ -85,7 +95,7 @@ OVDialog {
 
     Column {
         width: parent.width
-        spacing: Theme.controlGap
+        spacing: Theme.unit
 
         Row {
             spacing: Theme.pageMargin
@@ -98,7 +108,7 @@ OVDialog {
                     id: addressField
                     width: parent.width
                     accessibleName: qsTr("IP")
-                    errorText: root.errorOf("address")
+                    errorText: root.faultKind === "address" ? root.fault : ""
                     objectName: "addressField"
                     placeholderText: "192.168.1.64"
                     visible: !root.p2p
@@ -108,7 +118,7 @@ OVDialog {
                     id: idField
                     width: parent.width
                     accessibleName: qsTr("P2P ID")
-                    errorText: root.errorOf("id")
+                    errorText: root.faultKind === "id" ? root.fault : ""
                     maximumLength: 64
                     objectName: "p2pIdField"
                     textFont: Theme.figureFont
@@ -121,15 +131,12 @@ OVDialog {
                 width: Theme.portFieldWidth
                 label: qsTr("端口")
 
-                OVTextField {
+                OVPortField {
                     id: portField
                     width: parent.width
                     accessibleName: qsTr("端口")
-                    errorText: root.errorOf("port")
+                    errorText: root.faultKind === "port" ? root.fault : ""
                     objectName: "portField"
-                    textFont: Theme.figureFont
-                    unwanted: /\s/g
-                    validator: RegularExpressionValidator { regularExpression: /\s*[0-9]{0,5}\s*/ }
                     onEdited: root.forget()
                 }
             }
@@ -145,7 +152,7 @@ OVDialog {
                     id: accountField
                     width: parent.width
                     accessibleName: qsTr("用户名")
-                    errorText: root.errorOf("account")
+                    errorText: root.faultKind === "account" ? root.fault : ""
                     maximumLength: 63
                     objectName: "accountField"
                     onEdited: root.forget()
@@ -159,7 +166,7 @@ OVDialog {
                     id: passwordField
                     width: parent.width
                     accessibleName: qsTr("密码")
-                    errorText: root.errorOf("password")
+                    errorText: root.faultKind === "password" ? root.fault : ""
                     maximumLength: 63
                     objectName: "devicePasswordField"
                     secret: true

@@ -50,7 +50,6 @@ OVDialog {
     function addNext() {
         if (stopping || waiting.length === 0) {
             running = false;
-            table.forceActiveFocus();
             return;
         }
         const identity = waiting[0];
@@ -66,7 +65,7 @@ OVDialog {
 
     function addOne(identity) {
         const code = adding.add(favourites.deviceOf(saved.device(identity)));
-        if (code === adding.added) {
+        if (code === DeviceAdding.Added) {
             saved.setProgress(identity, FavouriteListModel.Added, qsTr("已添加"));
             added();
         } else {
@@ -101,7 +100,7 @@ OVDialog {
     okText: qsTr("添加")
     title: qsTr("收藏夹")
     onAccepted: addThese(saved.checkedIdentities())
-    onOpened: table.forceActiveFocus()
+    onOpened: filter.forceActiveFocus()
 
     FavouriteListModel {
         id: saved
@@ -110,7 +109,7 @@ OVDialog {
 
     footContent: OVFootBar {
         anchors.fill: parent
-        progress: root.all > 0 ? root.done / root.all : 0
+        progress: root.all > 0 ? (root.done - 1) / root.all : 0
         running: root.running
         runningText: root.stopping ? qsTr("正在停止…") : qsTr("正在添加 %1 / %2").arg(root.done).arg(root.all)
         //: Follows a number, as in "3 favourites selected".

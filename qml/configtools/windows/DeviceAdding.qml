@@ -8,27 +8,29 @@ QtObject {
 
     enum Mode { IP, P2P }
 
-    readonly property int added: 0
-    readonly property int noLogin: -2  // no result of a login: none was tried
-    readonly property int notSupported: 12
-    readonly property int alreadyListed: 13
+    /// The result codes of a login that mean something here, and one for a login that was not tried.
+    enum Result {
+        NoLogin = 1000, Added = 0, NoSuchAccount = 1, WrongPassword = 2, NotSupported = 12, AlreadyListed = 13
+    }
 
     /// Adds a device: "mode", "address" (an IPv4 address or a P2P ID), "account", "password", "port" (a text).
-    /// Returns the result code of the login, or noLogin.
+    /// Returns the result code.
     function add(device) {
         return device.mode === DeviceAdding.P2P ? addByP2p(device) : addByAddress(device);
     }
 
     /// What is said as an error, empty for results that nothing is said about.
     function errorText(code) {
-        return code === added || code === noLogin || code === notSupported ? "" : deviceFactory.getErrorName(code);
+        if (code === DeviceAdding.Added || code === DeviceAdding.NoLogin || code === DeviceAdding.NotSupported)
+            return "";
+        return deviceFactory.getErrorName(code);
     }
 
     /// What is told beside the place where a device is added, when nothing is said as an error.
     function quietText(code) {
-        if (code === noLogin)
+        if (code === DeviceAdding.NoLogin)
             return qsTr("没有取得通往该设备的本地端口，请检查P2P ID和网络");
-        return code === notSupported ? deviceFactory.getErrorName(code) : "";
+        return code === DeviceAdding.NotSupported ? deviceFactory.getErrorName(code) : "";
     }
 
     function isListed(ipport) {
@@ -37,7 +39,7 @@ QtObject {
 
     function addByAddress(device) {
         if (isListed(device.address + ":" + device.port))
-            return alreadyListed;
+            return DeviceAdding.AlreadyListed;
         const code = deviceFactory.getLoginDevice("dh", device.address, device.account, device.password,
                                                   device.port);
         return finish(code, 0, 0);
@@ -47,10 +49,10 @@ QtObject {
         const port = deviceFactory.setAddDevice("dh", device.address, device.account, device.password,
                                                 device.port, 0);
         if (port <= 0)
-            return noLogin;
+            return DeviceAdding.NoLogin;
         const code = deviceFactory.getLoginDevice("dh", device.address, device.account, device.password,
                                                   String(port), DeviceAdding.P2P, device.port);
-        return finish(code, port, code === added ? webPort(device, port) : 0);
+        return finish(code, port, code === DeviceAdding.Added ? webPort(device, port) : 0);
     }
 
     /// The local port that leads to the web page of a device that is reached by the local port `port`.
@@ -64,7 +66,7 @@ QtObject {
     // The two ports belong to the device from here on; with a failure that is told they go. Devices that are
     // reached by their address have none: 0 is no port, and passing it does nothing.
     function finish(code, port, webPort) {
-        if (code === added) {
+        if (code === DeviceAdding.Added) {
             deviceFactory.addP2PPort(port, webPort);
         } else if (errorText(code) !== "") {
             deviceFactory.releaseP2PPort(port);

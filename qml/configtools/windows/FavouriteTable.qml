@@ -15,8 +15,8 @@ OVTable {
         {key: "ip", title: qsTr("IP / P2P ID"), width: Theme.columnAddress, stretch: 1, cell: figureCell},
         {key: "port", title: qsTr("端口"), width: Theme.columnPort, cell: figureCell},
         {key: "username", title: qsTr("用户名"), width: Theme.columnAccount, stretch: 1},
-        {key: "note", title: qsTr("备注"), width: Theme.columnName, stretch: 2, cell: noteCell},
-        {key: "progress", title: qsTr("添加结果"), width: Theme.columnOutcome, stretch: 1, cell: resultCell},
+        {key: "note", title: qsTr("备注"), width: Theme.columnModel, stretch: 2, cell: noteCell},
+        {key: "progress", title: qsTr("添加结果"), width: Theme.columnOutcome, cell: resultCell},
         {key: "operate", title: qsTr("操作"), width: Theme.columnShortActions, cell: actionCell}
     ]
 

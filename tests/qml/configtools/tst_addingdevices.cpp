@@ -1,0 +1,315 @@
+#include "favourites/author.h"
+#include "tests/qml/configtools/recordingfactory.h"
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+namespace {
+
+const char *const scene = "import QtQuick\n"
+                          "import QtQuick.Templates as T\n"
+                          "import configtools\n"
+                          "T.ApplicationWindow {\n"
+                          "    width: 1280; height: 720; visible: true\n"
+                          "    ModifyIPAdding { objectName: 'adding'; deviceFactory: factory }\n"
+                          "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n"
+                          "}\n";
+
+QStringList argumentsOf(const QSignalSpy &spy)
+{
+    QStringList texts;
+    for (const QList<QVariant> &arguments : spy) {
+        QStringList words;
+        for (const QVariant &argument : arguments)
+            words.append(argument.toString());
+        texts.append(words.join('/'));
+    }
+    return texts;
+}
+
+QQuickItem *findBelow(QQuickItem *item, const QString &name)
+{
+    if (item->objectName() == name)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findBelow(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestAddingDevices : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+    void init()
+    {
+        m_factory = std::make_unique<RecordingFactory>();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_engine = std::make_unique<QQmlEngine>();
+        m_engine->addImportPath("qrc:/qt/qml");
+        m_engine->rootContext()->setContextProperty("factory", m_factory.get());
+        QQmlComponent component(m_engine.get());
+        component.setData(scene, QUrl("qrc:/test.qml"));
+        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(m_window, qPrintable(component.errorString()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_adding = m_window->findChild<QObject *>("adding");
+        m_adding->setProperty("favouritesFolder", favouritesFolder());
+        m_said = std::make_unique<QSignalSpy>(m_adding, SIGNAL(said(QString, int)));
+        m_added = std::make_unique<QSignalSpy>(m_adding, SIGNAL(added()));
+    }
+
+    void cleanup()
+    {
+        m_said.reset();
+        m_added.reset();
+        m_window.reset();
+        m_engine.reset();
+    }
+
+    void refusesWhatIsMissing_data()
+    {
+        QTest::addColumn<QString>("opener");
+        QTest::addColumn<QStringList>("fields"); // name, text, name, text, ...
+        QTest::addColumn<QString>("message");
+        const auto row = [](const char *name, const char *opener, const QStringList &fields,
+                            const char *message) {
+            QTest::newRow(name) << opener << fields << message;
+        };
+        const QStringList nothing = {"accountField", "", "portField", ""};
+        row("no ID", "openP2p", nothing, "请输入P2P ID");
+        row("no address", "openIp", nothing, "请输入正确的IP");
+        row("part of an address", "openIp", {"addressField", "10.0.0"}, "请输入正确的IP");
+        row("no account", "openP2p", QStringList{"p2pIdField", "OV7"} + nothing, "请输入账号");
+        row("no password", "openIp", {"addressField", "10.0.0.1", "portField", ""}, "请输入密码");
+        row("no port", "openP2p", {"p2pIdField", "OV7", "devicePasswordField", "p", "portField", ""},
+            "请输入端口");
+        row("port 0", "openP2p", {"p2pIdField", "OV7", "devicePasswordField", "p", "portField", "0"},
+            "端口范围为1到65535");
+        row("port 65536", "openP2p", {"p2pIdField", "OV7", "devicePasswordField", "p", "portField", "65536"},
+            "端口范围为1到65535");
+    }
+
+    void refusesWhatIsMissing()
+    {
+        QFETCH(QString, opener);
+        QFETCH(QStringList, fields);
+        QFETCH(QString, message);
+        open(opener, fields);
+        press("accept");
+        QCOMPARE(argumentsOf(*m_said), QStringList(message + "/2"));
+        QCOMPARE(dialog()->property("fault").toString(), message);
+        QVERIFY(dialog()->property("visible").toBool());
+        QCOMPARE(m_factory->asked, QStringList());
+    }
+
+    void addsByHand_data()
+    {
+        QTest::addColumn<QString>("opener");
+        QTest::addColumn<int>("loginResult");
+        QTest::addColumn<int>("port");
+        QTest::addColumn<QStringList>("asked");
+        QTest::addColumn<QString>("said");
+        QTest::addColumn<bool>("hinted");
+        const QString login = "login dh 10.0.0.1 admin secret 37777 0";
+        const QString tunnel = "port dh OV7 admin secret 37777 0";
+        const QString tunnelLogin = "login dh OV7 admin secret 5000 1 37777";
+        const auto row = [](const char *name, const char *opener, int result, int port,
+                            const QStringList &asked, const QString &said, bool hinted = false) {
+            QTest::newRow(name) << opener << result << port << asked << said << hinted;
+        };
+        row("address", "openIp", 0, 0, {login, "pair 0 0"}, "设备已添加/1");
+        row("address, wrong password", "openIp", 2, 0, {login, "release 0", "release 0"}, "result 2/2");
+        row("address, not supported", "openIp", 12, 0, {login}, "", true);
+        row("ID", "openP2p", 0, 5000,
+            {tunnel, tunnelLogin, "port dh OV7 admin secret 8080 0", "pair 5000 5001"}, "设备已添加/1");
+        row("ID, wrong password", "openP2p", 2, 5000, {tunnel, tunnelLogin, "release 5000", "release 0"},
+            "result 2/2");
+        row("ID, no port", "openP2p", 0, 0, {tunnel}, "", true);
+        row("ID, not supported", "openP2p", 12, 5000, {tunnel, tunnelLogin}, "", true);
+    }
+
+    void addsByHand()
+    {
+        QFETCH(QString, opener);
+        QFETCH(QString, said);
+        QFETCH(int, loginResult);
+        QFETCH(int, port);
+        m_factory->loginResult = loginResult;
+        m_factory->nextPort = port;
+        open(opener, filled());
+        const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
+        m_factory->login = [&] { // blocks: the busy dialog has to be on the screen by now
+            QVERIFY(dialog()->property("busy").toBool());
+            QVERIFY(!painted.isEmpty());
+        };
+        press("accept");
+        press("accept"); // more of them do nothing
+        press("reject");
+        QTRY_VERIFY(!dialog()->property("busy").toBool());
+        QTEST(m_factory->asked, "asked");
+        QCOMPARE(argumentsOf(*m_said).join(','), said);
+        QTEST(dialog()->property("hint").toString() != "", "hinted");
+        const bool done = said.startsWith("设备已添加");
+        QCOMPARE(m_added->count(), done ? 1 : 0);
+        QTRY_COMPARE(dialog()->property("visible").toBool(), !done);
+        QCOMPARE(CAuthor().readJsonFilesFromFolder(favouritesFolder()), QVariantMap());
+    }
+
+    void addsNoListedAddress()
+    {
+        m_factory->listed.insert("10.0.0.1:37777", QVariantMap{{"mac", "any"}});
+        open("openIp", filled());
+        press("accept");
+        QTRY_COMPARE(argumentsOf(*m_said), QStringList("result 13/2"));
+        QCOMPARE(m_factory->asked, QStringList());
+    }
+
+    void savesFavourites_data()
+    {
+        QTest::addColumn<bool>("writable");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("saved") << true << "设备已添加，并保存到收藏夹/1";
+        QTest::newRow("cannot be saved")
+            << false << "设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限/2";
+    }
+
+    void savesFavourites()
+    {
+        QFETCH(bool, writable);
+        if (!writable) {
+            QFile inTheWay(m_folder->filePath("fav"));
+            QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        }
+        open("openIp", filled() + QStringList{"noteField", QString(60, 'n')});
+        item("favouriteBox")->setProperty("checked", true);
+        press("accept");
+        QTRY_COMPARE(m_said->count(), 1);
+        QTEST(argumentsOf(*m_said).first(), "said");
+        if (!writable)
+            return;
+        const CAuthor author;
+        const QStringList values =
+            author.readJsonFilesFromFolder(favouritesFolder()).value("10.0.0.1_37777.json").toStringList();
+        QCOMPARE(values, (QStringList{"0", "10.0.0.1", "37777", "admin", author.AesEncrypt("secret"),
+                                      QString(50, 'n')}));
+    }
+
+    /// One after another, with the window alive between them; stopping leaves the rest alone.
+    void addsFavourites()
+    {
+        const CAuthor author;
+        for (const char *id : {"OV1", "OV2", "OV3"})
+            author.saveTextAsJson(favouritesFolder(), "1", id, "8800", "admin", author.AesEncrypt(id), "");
+        QMetaObject::invokeMethod(m_adding, "openFavourites");
+        QQuickItem *table = item("favouriteTable");
+        auto *model = table->property("model").value<QAbstractItemModel *>();
+        QCOMPARE(model->rowCount(), 3);
+        QMetaObject::invokeMethod(model, "setAllChecked", Q_ARG(bool, true));
+
+        m_factory->nextPort = 5000;
+        m_factory->loginResult = 2;
+        QObject *window = m_window->findChild<QObject *>("favouritesWindow");
+        m_factory->login = [&] {
+            if (m_factory->asked.filter("login").size() == 2) {
+                m_factory->loginResult = 0;
+                QMetaObject::invokeMethod(window, "reject");
+            }
+        };
+        QMetaObject::invokeMethod(window, "accept");
+        QTRY_VERIFY(!window->property("running").toBool());
+        QCOMPARE(m_factory->asked.filter("login"),
+                 (QStringList{"login dh OV1 admin OV1 5000 1 8800", "login dh OV2 admin OV2 5001 1 8800"}));
+        QVERIFY(window->property("visible").toBool());
+        const auto words = [&](int row) {
+            QVariantMap values;
+            QMetaObject::invokeMethod(model, "get", Q_RETURN_ARG(QVariantMap, values), Q_ARG(int, row));
+            return values.value("words").toString();
+        };
+        QCOMPARE((QStringList{words(0), words(1), words(2)}), (QStringList{"result 2", "已添加", ""}));
+        QCOMPARE(m_added->count(), 1);
+    }
+
+    void asksForTheAccountAgain_data()
+    {
+        QTest::addColumn<bool>("takesChanges");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QStringList>("asked");
+        QTest::addColumn<QString>("answer");
+        const QStringList change = {"change dh password new m1 10.0.0.1:80"};
+        QTest::newRow("confirmed") << true << "accept" << change << "user/new";
+        QTest::newRow("the row is gone") << false << "accept" << change << "/";
+        QTest::newRow("cancelled") << true << "reject" << QStringList() << "/";
+    }
+
+    void asksForTheAccountAgain()
+    {
+        QFETCH(bool, takesChanges);
+        QFETCH(QString, button);
+        QFETCH(QString, answer);
+        QObject *relogin = m_window->findChild<QObject *>("relogin");
+        const QSignalSpy answered(relogin, SIGNAL(answered(QString, QString)));
+        const QSignalSpy refused(relogin, SIGNAL(refused(QString)));
+        const auto ask = [&](const QString &mac) {
+            QMetaObject::invokeMethod(relogin, "ask", Q_ARG(QVariant, mac),
+                                      Q_ARG(QVariant, QStringLiteral("10.0.0.1:80")),
+                                      Q_ARG(QVariant, QStringLiteral("user")));
+        };
+        ask("m0");
+        ask("m1"); // the first one is given up
+        QCOMPARE(argumentsOf(answered), QStringList("/"));
+        QMetaObject::invokeMethod(relogin, "accept");
+        QCOMPARE(argumentsOf(refused), QStringList("请输入密码"));
+        item("devicePasswordField")->setProperty("text", "new");
+        m_factory->takesChanges = takesChanges;
+        QMetaObject::invokeMethod(relogin, button.toLatin1().constData());
+        QTEST(m_factory->asked, "asked");
+        QCOMPARE(argumentsOf(answered), (QStringList{"/", answer}));
+        QTRY_VERIFY(!relogin->property("visible").toBool());
+    }
+
+private:
+    [[nodiscard]] QString favouritesFolder() const { return m_folder->path() + "/fav/"; }
+    [[nodiscard]] QObject *dialog() const { return m_window->findChild<QObject *>("addDeviceDialog"); }
+    [[nodiscard]] QQuickItem *item(const QString &name) const
+    {
+        return findBelow(m_window->contentItem(), name);
+    }
+    static QStringList filled()
+    {
+        return {"addressField", "10.0.0.1", "p2pIdField", "OV7", "devicePasswordField", "secret"};
+    }
+    void open(const QString &opener, const QStringList &fields) const
+    {
+        QMetaObject::invokeMethod(m_adding, opener.toLatin1().constData());
+        for (qsizetype place = 0; place + 1 < fields.size(); place += 2)
+            item(fields.at(place))->setProperty("text", fields.at(place + 1));
+    }
+    void press(const char *button) const { QMetaObject::invokeMethod(dialog(), button); }
+
+    std::unique_ptr<RecordingFactory> m_factory;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QObject *m_adding = nullptr;
+    std::unique_ptr<QSignalSpy> m_said;
+    std::unique_ptr<QSignalSpy> m_added;
+};
+
+QTEST_MAIN(TestAddingDevices)
+#include "tst_addingdevices.moc"
