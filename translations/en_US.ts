@@ -9,6 +9,156 @@
     </message>
 </context>
 <context>
+    <name>AddDeviceDialog</name>
+    <message>
+        <source>请输入P2P ID</source>
+        <translation>Enter the P2P ID</translation>
+    </message>
+    <message>
+        <source>请输入正确的IP</source>
+        <translation>Enter a valid IP address</translation>
+    </message>
+    <message>
+        <source>请输入账号</source>
+        <translation>Enter the account</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>Enter the password</translation>
+    </message>
+    <message>
+        <source>请输入端口</source>
+        <translation>Enter the port</translation>
+    </message>
+    <message>
+        <source>端口范围为1到65535</source>
+        <translation>1 to 65535</translation>
+    </message>
+    <message>
+        <source>手动添加设备</source>
+        <translation>Add device</translation>
+    </message>
+    <message>
+        <source>添加到收藏夹</source>
+        <translation>Add to favourites</translation>
+    </message>
+    <message>
+        <source>P2P ID</source>
+        <translation>P2P ID</translation>
+    </message>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>最多50个字符</source>
+        <translation>Up to 50 characters</translation>
+    </message>
+</context>
+<context>
+    <name>AddDevicesByFavoritesWindow</name>
+    <message>
+        <source>正在添加…</source>
+        <translation>Adding…</translation>
+    </message>
+    <message>
+        <source>已添加</source>
+        <translation>Added</translation>
+    </message>
+    <message>
+        <source>备注无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>The note cannot be saved. Check whether the program&apos;s folder can be written to.</translation>
+    </message>
+    <message>
+        <source>收藏无法删除，请检查程序所在文件夹的写入权限</source>
+        <translation>The favourite cannot be deleted. Check whether the program&apos;s folder can be written to.</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>收藏夹</source>
+        <translation>Favourites</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>正在添加 %1 / %2</source>
+        <translation>Adding %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>个收藏已选中</source>
+        <extracomment>Follows a number, as in &quot;3 favourites selected&quot;.</extracomment>
+        <translation>
+            <numerusform>favourite selected</numerusform>
+            <numerusform>favourites selected</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>Search…</translation>
+    </message>
+    <message>
+        <source>双击一行可添加该设备</source>
+        <translation>Double-click a row to add its device</translation>
+    </message>
+    <message>
+        <source>清除筛选</source>
+        <translation>Clear filters</translation>
+    </message>
+    <message>
+        <source>手动添加设备</source>
+        <translation>Add device</translation>
+    </message>
+    <message>
+        <source>换一个搜索文字，或清除它。</source>
+        <translation>Search for another text, or clear it.</translation>
+    </message>
+    <message>
+        <source>手动添加设备时勾选“添加到收藏夹”，设备就会保存在这里。</source>
+        <translation>Tick “Add to favourites” when you add a device, and it is kept here.</translation>
+    </message>
+    <message>
+        <source>没有符合搜索文字的收藏</source>
+        <translation>No favourite holds this text</translation>
+    </message>
+    <message>
+        <source>收藏夹是空的</source>
+        <translation>There are no favourites yet</translation>
+    </message>
+    <message>
+        <source>请确认是否要从收藏夹中删除 %1</source>
+        <translation>Delete %1 from the favourites?</translation>
+    </message>
+</context>
+<context>
     <name>AddressPlanTable</name>
     <message>
         <source>未初始化，不会修改</source>
@@ -49,6 +199,13 @@
     <message>
         <source>提示</source>
         <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceAdding</name>
+    <message>
+        <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
+        <translation>There is no way to this device. Check the P2P ID and the network.</translation>
     </message>
 </context>
 <context>
@@ -225,6 +382,60 @@
     <message>
         <source>请选择导出的文件格式</source>
         <translation>Select the export format</translation>
+    </message>
+</context>
+<context>
+    <name>FavouriteNoteCell</name>
+    <message>
+        <source>编辑备注</source>
+        <translation>Edit the note</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>FavouriteTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>IP / P2P ID</source>
+        <translation>IP / P2P ID</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>添加结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>从收藏夹中删除</source>
+        <translation>Delete from the favourites</translation>
     </message>
 </context>
 <context>
@@ -431,6 +642,21 @@
     <message>
         <source>实时画面尚未提供</source>
         <translation>Live video is not there yet</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPAdding</name>
+    <message>
+        <source>设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限</source>
+        <translation>The device was added but cannot be saved as a favourite. Check whether the program&apos;s folder can be written to.</translation>
+    </message>
+    <message>
+        <source>设备已添加，并保存到收藏夹</source>
+        <translation>The device was added and saved as a favourite</translation>
+    </message>
+    <message>
+        <source>设备已添加</source>
+        <translation>The device was added</translation>
     </message>
 </context>
 <context>
@@ -992,6 +1218,33 @@ File path: </translation>
     <message>
         <source>应用程序已经运行!</source>
         <translation>The program is already running!</translation>
+    </message>
+</context>
+<context>
+    <name>ReloginDialog</name>
+    <message>
+        <source>请输入账号</source>
+        <translation>Enter the account</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>Enter the password</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>Log in again</translation>
+    </message>
+    <message>
+        <source>设备 %1 没有接受登录，请输入它的账号和密码。</source>
+        <translation>The device %1 did not accept the login. Enter its account and password.</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>Password</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,155 @@
     </message>
 </context>
 <context>
+    <name>AddDeviceDialog</name>
+    <message>
+        <source>请输入P2P ID</source>
+        <translation>请输入P2P ID</translation>
+    </message>
+    <message>
+        <source>请输入正确的IP</source>
+        <translation>请输入正确的IP</translation>
+    </message>
+    <message>
+        <source>请输入账号</source>
+        <translation>请输入账号</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>请输入密码</translation>
+    </message>
+    <message>
+        <source>请输入端口</source>
+        <translation>请输入端口</translation>
+    </message>
+    <message>
+        <source>端口范围为1到65535</source>
+        <translation>端口范围为1到65535</translation>
+    </message>
+    <message>
+        <source>手动添加设备</source>
+        <translation>手动添加设备</translation>
+    </message>
+    <message>
+        <source>添加到收藏夹</source>
+        <translation>添加到收藏夹</translation>
+    </message>
+    <message>
+        <source>P2P ID</source>
+        <translation>P2P ID</translation>
+    </message>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>最多50个字符</source>
+        <translation>最多50个字符</translation>
+    </message>
+</context>
+<context>
+    <name>AddDevicesByFavoritesWindow</name>
+    <message>
+        <source>正在添加…</source>
+        <translation>正在添加…</translation>
+    </message>
+    <message>
+        <source>已添加</source>
+        <translation>已添加</translation>
+    </message>
+    <message>
+        <source>备注无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>备注无法保存，请检查程序所在文件夹的写入权限</translation>
+    </message>
+    <message>
+        <source>收藏无法删除，请检查程序所在文件夹的写入权限</source>
+        <translation>收藏无法删除，请检查程序所在文件夹的写入权限</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>收藏夹</source>
+        <translation>收藏夹</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>正在停止…</translation>
+    </message>
+    <message>
+        <source>正在添加 %1 / %2</source>
+        <translation>正在添加 %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>个收藏已选中</source>
+        <extracomment>Follows a number, as in &quot;3 favourites selected&quot;.</extracomment>
+        <translation>
+            <numerusform>个收藏已选中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>搜索…</translation>
+    </message>
+    <message>
+        <source>双击一行可添加该设备</source>
+        <translation>双击一行可添加该设备</translation>
+    </message>
+    <message>
+        <source>清除筛选</source>
+        <translation>清除筛选</translation>
+    </message>
+    <message>
+        <source>手动添加设备</source>
+        <translation>手动添加设备</translation>
+    </message>
+    <message>
+        <source>换一个搜索文字，或清除它。</source>
+        <translation>换一个搜索文字，或清除它。</translation>
+    </message>
+    <message>
+        <source>手动添加设备时勾选“添加到收藏夹”，设备就会保存在这里。</source>
+        <translation>手动添加设备时勾选“添加到收藏夹”，设备就会保存在这里。</translation>
+    </message>
+    <message>
+        <source>没有符合搜索文字的收藏</source>
+        <translation>没有符合搜索文字的收藏</translation>
+    </message>
+    <message>
+        <source>收藏夹是空的</source>
+        <translation>收藏夹是空的</translation>
+    </message>
+    <message>
+        <source>请确认是否要从收藏夹中删除 %1</source>
+        <translation>请确认是否要从收藏夹中删除 %1</translation>
+    </message>
+</context>
+<context>
     <name>AddressPlanTable</name>
     <message>
         <source>未初始化，不会修改</source>
@@ -49,6 +198,13 @@
     <message>
         <source>提示</source>
         <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceAdding</name>
+    <message>
+        <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
+        <translation>没有取得通往该设备的本地端口，请检查P2P ID和网络</translation>
     </message>
 </context>
 <context>
@@ -225,6 +381,60 @@
     <message>
         <source>请选择导出的文件格式</source>
         <translation>请选择导出的文件格式</translation>
+    </message>
+</context>
+<context>
+    <name>FavouriteNoteCell</name>
+    <message>
+        <source>编辑备注</source>
+        <translation>编辑备注</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
+    </message>
+</context>
+<context>
+    <name>FavouriteTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>IP / P2P ID</source>
+        <translation>IP / P2P ID</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>添加结果</source>
+        <translation>添加结果</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>从收藏夹中删除</source>
+        <translation>从收藏夹中删除</translation>
     </message>
 </context>
 <context>
@@ -430,6 +640,21 @@
     <message>
         <source>实时画面尚未提供</source>
         <translation>实时画面尚未提供</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPAdding</name>
+    <message>
+        <source>设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限</source>
+        <translation>设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限</translation>
+    </message>
+    <message>
+        <source>设备已添加，并保存到收藏夹</source>
+        <translation>设备已添加，并保存到收藏夹</translation>
+    </message>
+    <message>
+        <source>设备已添加</source>
+        <translation>设备已添加</translation>
     </message>
 </context>
 <context>
@@ -985,6 +1210,33 @@
     <message>
         <source>应用程序已经运行!</source>
         <translation>应用程序已经运行!</translation>
+    </message>
+</context>
+<context>
+    <name>ReloginDialog</name>
+    <message>
+        <source>请输入账号</source>
+        <translation>请输入账号</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>请输入密码</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>重新登录</translation>
+    </message>
+    <message>
+        <source>设备 %1 没有接受登录，请输入它的账号和密码。</source>
+        <translation>设备 %1 没有接受登录，请输入它的账号和密码。</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
     </message>
 </context>
 <context>

@@ -50,9 +50,11 @@ QtObject {
                                                 device.port, 0);
         if (port <= 0)
             return DeviceAdding.NoLogin;
+        // A device that is in the list already is reached by the port that its row has: that one stays.
+        const listed = isListed("127.0.0.1:" + port);
         const code = deviceFactory.getLoginDevice("dh", device.address, device.account, device.password,
                                                   String(port), DeviceAdding.P2P, device.port);
-        return finish(code, port, code === DeviceAdding.Added ? webPort(device, port) : 0);
+        return finish(code, listed && code !== DeviceAdding.Added ? 0 : port, code === DeviceAdding.Added ? webPort(device, port) : 0);
     }
 
     /// The local port that leads to the web page of a device that is reached by the local port `port`.
