@@ -13,7 +13,7 @@ class DeviceListTable
 public:
     /// How many rows may stand above the headers, and how many columns are looked at.
     static constexpr int maximumRowsAbove = 50;
-    static constexpr int maximumColumns = 256;
+    static constexpr int maximumColumns = 64;
 
     explicit DeviceListTable(DeviceListContents &contents) : m_contents(contents) {}
 
@@ -25,6 +25,9 @@ public:
 
     /// How many columns the headers take up; 0 before they are found.
     [[nodiscard]] qsizetype width() const { return m_columns.size(); }
+
+    /// True for the places in a row whose text counts: all before the headers are found.
+    [[nodiscard]] bool isRead(qsizetype place) const { return m_columns.value(place, 0) >= 0; }
 
 private:
     bool findHeaders(const QList<QStringView> &cells);

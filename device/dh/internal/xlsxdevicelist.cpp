@@ -82,15 +82,17 @@ DeviceListContents readXlsx(const QString &path)
     std::array<QString, DeviceListTable::maximumColumns> texts;
     for (int row = first; row < first + count; ++row) {
         const qsizetype width = table.width() > 0 ? table.width() : DeviceListTable::maximumColumns;
-        QList<QStringView> cells;
+        QList<QStringView> cells(width);
         for (qsizetype place = 0; place < width; ++place) {
+            if (!table.isRead(place))
+                continue; // a sheet may have a million rows
             const std::optional<QString> text = workbook.cellText(row, static_cast<int>(place) + 1);
             if (!text) {
                 contents.refuse(unreadable);
                 return contents;
             }
             texts.at(static_cast<std::size_t>(place)) = *text;
-            cells.append(texts.at(static_cast<std::size_t>(place)));
+            cells[place] = texts.at(static_cast<std::size_t>(place));
         }
         if (!table.addRow(row, cells))
             return contents;
