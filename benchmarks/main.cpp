@@ -9,6 +9,7 @@ int main(int argc, char *argv[])
     Shell::prepareApplication();
     const QApplication application(argc, argv);
     QList<Figure> figures = measureDeviceLists();
+    figures.append(measureDeviceFiles());
     figures.append(measureStart());
     figures.append(measureMemory());
     figures.append(measureDevicePage());

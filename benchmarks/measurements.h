@@ -6,6 +6,9 @@
 /// Search answers into rows, and the text filter over them.
 [[nodiscard]] QList<Figure> measureDeviceLists();
 
+/// Device lists as files, workbooks against another library for them.
+[[nodiscard]] QList<Figure> measureDeviceFiles();
+
 /// Start of the program against an empty window of the toolkit.
 [[nodiscard]] Figure measureStart();
 
