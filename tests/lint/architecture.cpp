@@ -42,6 +42,7 @@ const std::vector<Folder> &folders()
         {"app", {"*"}},
         {"tests", {"*"}},
         {"benchmarks", {"*"}},
+        {"fuzz", {"*"}},
     };
     return table;
 }
@@ -74,7 +75,7 @@ std::optional<std::string> objection(std::string_view file, std::string_view inc
     if (std::none_of(from->mayInclude.begin(), from->mayInclude.end(), isAllowed))
         return std::string(from->name) + "/ may not see " + std::string(to->name) + "/";
     // A folder's internal/ is its own affair; its tests may look in.
-    const bool isTest = from->name == "tests" || from->name == "benchmarks";
+    const bool isTest = from->name == "tests" || from->name == "benchmarks" || from->name == "fuzz";
     if (!isTest && included.find("/internal/") != std::string_view::npos)
         return "internal/ is for " + std::string(to->name) + "/ alone";
     return std::nullopt;

@@ -1,0 +1,50 @@
+// What the readers under test are given, and what they are to do with it.
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+
+#include <cstddef>
+#include <cstdint>
+
+/// Lets one input through a reader. Returns 0; what is wrong ends the process.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+namespace fuzz {
+
+inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
+{
+    return QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+}
+
+/// Readers say in the log what is wrong with their input: here that is every line.
+inline void beQuiet()
+{
+    [[maybe_unused]] static const bool done = [] {
+        QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+        return true;
+    }();
+}
+
+/// An input as a file in a folder of its own, for readers that take a path. Gone with the object.
+class InputFile
+{
+public:
+    InputFile(const QString &name, const QByteArray &bytes) : m_path(m_folder.filePath(name))
+    {
+        QFile file(m_path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write an input into %s", qUtf8Printable(m_folder.path()));
+    }
+
+    [[nodiscard]] QString folder() const { return m_folder.path(); }
+    [[nodiscard]] const QString &path() const { return m_path; }
+
+private:
+    const QTemporaryDir m_folder;
+    const QString m_path;
+};
+
+} // namespace fuzz

@@ -1,0 +1,26 @@
+// What holds of every device list that was read.
+#pragma once
+
+#include "device/dh/internal/devicelistimport.h"
+#include "device/dh/internal/devicelistvalues.h"
+
+namespace fuzz {
+
+/// Takes a list as far as it goes without a device: ends the process when a bound was not kept.
+inline void useList(const DeviceListContents &contents)
+{
+    if (!contents.refusal.isEmpty() && !contents.lines.empty())
+        qFatal("a refused list has lines");
+    for (const DeviceListLine &line : contents.lines) {
+        for (const QString &value : line.values) {
+            if (value.size() > maximumListText + 1)
+                qFatal("a text was kept whole");
+        }
+        QJsonObject row;
+        completeFrom(row, line, false);
+        static_cast<void>(listLineOf({.row = row, .record = {}}, {}));
+    }
+    static_cast<void>(DeviceListImport::refusalOf(contents.lines));
+}
+
+} // namespace fuzz

@@ -1,0 +1,66 @@
+#include "device/dh/internal/xlsxdevicelist.h"
+#include "fuzz/input.h"
+#include "fuzz/lists.h"
+#include "sheets/filesheetengine.h"
+#include "sheets/internal/sharedstrings.h"
+#include "sheets/internal/worksheet.h"
+#include "sheets/qexcel.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int rows = 40;
+constexpr int columns = 20;
+
+/// A whole file, as a user would choose it.
+void useFile(const QByteArray &bytes)
+{
+    const fuzz::InputFile file(QStringLiteral("a.xlsx"), bytes);
+    fuzz::useList(readXlsx(file.path()));
+
+    QExcel workbook(std::make_unique<sheets::FileSheetEngine>());
+    if (!workbook.open(file.path()))
+        return;
+    for (int sheet = 1; sheet <= 3 && workbook.selectSheet(sheet); ++sheet) {
+        const int row = std::max(1, workbook.firstUsedRow());
+        workbook.setCellText(row, 1, QStringLiteral("changed"));
+        workbook.mergeCells({{row, 1}, {row + 1, 3}});
+        workbook.setBold({{row, 1}, {row, 3}}, true);
+    }
+    if (workbook.save() && !workbook.open(file.path()))
+        qFatal("what was saved cannot be opened");
+}
+
+/// One part of a file. Packed, a fuzzer would hardly get past its check sum.
+void useSheet(const QByteArray &bytes)
+{
+    sheets::Worksheet sheet;
+    const sheets::SharedStrings strings;
+    if (!sheet.load(bytes))
+        return;
+    const int first = std::clamp(sheet.usedRows().first, 1, sheets::maximumRows - rows);
+    for (int row = first; row < first + rows; ++row) {
+        for (int column = 1; column <= columns; ++column)
+            static_cast<void>(sheet.cellText({row, column}, strings));
+    }
+    sheet.mergeCells({{first, 1}, {first, 3}});
+    sheet.setRowHeight(first + 1, 20);
+    sheets::Worksheet again;
+    if (!again.load(sheet.bytes()))
+        qFatal("what was changed cannot be read");
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    fuzz::beQuiet();
+    const QByteArray bytes = fuzz::bytesOf(data, size);
+    if (bytes.startsWith("PK"))
+        useFile(bytes);
+    else
+        useSheet(bytes);
+    return 0;
+}
