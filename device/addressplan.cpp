@@ -90,7 +90,9 @@ void AddressPlan::setDevices(const QVariantList &rows)
         for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::mac, DeviceRowKey::ipport})
             shown.insert(key, device.value(key));
         m_rows.append({.values = shown, .initialised = device.value(DeviceRowKey::state).toBool()});
-        batch.insert(device.value(DeviceRowKey::mac).toString());
+        // Without a password it refuses, and keeps the address that it has.
+        if (m_rows.constLast().initialised)
+            batch.insert(device.value(DeviceRowKey::mac).toString());
     }
     m_taken.clear();
     const QVariantList all =
@@ -99,7 +101,7 @@ void AddressPlan::setDevices(const QVariantList &rows)
     for (const QVariant &value : all) {
         const QJsonObject row = value.toJsonObject();
         if (batch.contains(row.value(DeviceRowKey::mac).toString()))
-            continue;
+            continue; // it gives its address up
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
         if (const auto address = ipv4Number(QStringView(ipport).left(ipport.lastIndexOf(QLatin1Char(':')))))
             ++m_taken[*address];
@@ -118,7 +120,7 @@ void AddressPlan::plan()
     for (Row &row : m_rows) {
         row.address = start.value_or(0) + step; // over the highest address it begins at the lowest again
         step += m_sameAddress ? 0 : 1;
-        ++timesGiven[row.address];
+        timesGiven[row.address] += row.initialised ? 1 : 0;
     }
     for (Row &row : m_rows)
         row.mark = m_planned ? markOf(row, *start, timesGiven) : Fine;

@@ -34,7 +34,7 @@ public:
     {
         Fine,
         NotInitialised,  ///< the device has no password yet and will refuse
-        TakenByOther,    ///< a device outside the batch has the address
+        TakenByOther,    ///< a device that keeps its address has this one
         TakenInBatch,    ///< another device of the batch gets it too
         OutsideSubnet,   ///< not in the subnet of the start address
         NoDeviceAddress, ///< the address of the subnet itself, or of all its devices
@@ -90,7 +90,7 @@ private:
     bool m_sameAddress = false;
 
     QList<Row> m_rows;
-    QHash<std::uint32_t, int> m_taken; ///< addresses of devices outside the batch
+    QHash<std::uint32_t, int> m_taken; ///< addresses of devices that keep theirs
     bool m_planned = false;            ///< there is a start address
     int m_markedCount = 0;
 };

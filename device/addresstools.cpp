@@ -43,7 +43,7 @@ QString AddressTools::gatewayAfterEdit(const QString &before, const QString &aft
     return octets.join(point);
 }
 
-QString AddressTools::webPage(const QString &ipport, int webPort) const
+QString AddressTools::webPage(const QString &ipport, int webPort, bool encrypted) const
 {
     constexpr int plainPort = 80;
     constexpr int encryptedPort = 443;
@@ -56,13 +56,20 @@ QString AddressTools::webPage(const QString &ipport, int webPort) const
     if (!isAddress || webPort < 1 || webPort > highestPort)
         return {};
     QUrl page;
-    page.setScheme(webPort == encryptedPort ? QStringLiteral("https") : QStringLiteral("http"));
+    encrypted = encrypted || webPort == encryptedPort;
+    page.setScheme(encrypted ? QStringLiteral("https") : QStringLiteral("http"));
     page.setHost(host, QUrl::StrictMode);
     if (!page.isValid() || page.host().isEmpty())
         return {};
-    if (webPort != plainPort && webPort != encryptedPort)
+    if (webPort != (encrypted ? encryptedPort : plainPort))
         page.setPort(webPort);
     return page.toString();
+}
+
+QString AddressTools::plainAddress(const QString &text) const
+{
+    const std::optional<std::uint32_t> address = ipv4Number(text);
+    return address ? ipv4Text(*address) : text;
 }
 
 AddressTools::RangeFault AddressTools::searchRangeFault(const QString &begin, const QString &end) const

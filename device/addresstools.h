@@ -37,8 +37,11 @@ public:
                                                        const QString &gateway) const;
 
     /// The address of a device's web page, from "address:port" of the device and the port of its web server;
-    /// encrypted when that is the port for it. Empty when `ipport` or the port is none.
-    Q_INVOKABLE [[nodiscard]] QString webPage(const QString &ipport, int webPort) const;
+    /// `encrypted` when it is known to be, or by the port for it. Empty when `ipport` or the port is none.
+    Q_INVOKABLE [[nodiscard]] QString webPage(const QString &ipport, int webPort, bool encrypted) const;
+
+    /// An address without leading zeros; the text as it is when it is no address.
+    Q_INVOKABLE [[nodiscard]] QString plainAddress(const QString &text) const;
 
     Q_INVOKABLE [[nodiscard]] RangeFault searchRangeFault(const QString &begin, const QString &end) const;
 };

@@ -108,7 +108,7 @@ Q_SIGNALS:
     void signalCDeviceSetChannelNameFinished();
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
-    void signalCDeviceTunnelBroken(const QString &deviceId, int localPort); ///< a device behind NAT is gone
+    void signalCDeviceTunnelBroken(const QString &deviceId, int localPort); ///< no device: all of them
     void signalCDeviceImportProgress(int done, int total); ///< devices of a list, after each of them
 
 protected:

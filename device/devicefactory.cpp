@@ -106,8 +106,11 @@ QString CDeviceFactory::getDeviceDetailString(const QString &family, const QStri
 {
     const QVariantMap detail = getDeviceDetail(family, mac);
     QString text;
-    for (auto entry = detail.cbegin(); entry != detail.cend(); ++entry)
+    for (auto entry = detail.cbegin(); entry != detail.cend(); ++entry) {
+        if (entry.key() == DeviceRowKey::password)
+            continue; // the text is there to be copied and handed on
         text += entry.key() + QLatin1String(": ") + entry.value().toString() + QLatin1Char('\n');
+    }
     return text;
 }
 
@@ -150,6 +153,7 @@ void CDeviceFactory::exitProgram()
 
 void CDeviceFactory::startSearch(const QString &family)
 {
+    releaseP2PPortsOfAll(family); // the search forgets every row
     forward(family, &CDeviceBase::startSearch);
 }
 
@@ -200,7 +204,7 @@ void CDeviceFactory::setPluginPort(const QString &family, const QString &mac, in
 
 void CDeviceFactory::setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision)
 {
-    releaseP2PPortsOf(family, mac);
+    releaseP2PPortsOf(getDeviceDetail(family, mac));
     forward(family, &CDeviceBase::setDeleteDevice, mac, ipvision);
 }
 
@@ -208,13 +212,20 @@ void CDeviceFactory::setBatchDeleteDevice(const QString &family, const QVariantM
                                           const QString &ipversion)
 {
     for (auto mac = macs.cbegin(); mac != macs.cend(); ++mac)
-        releaseP2PPortsOf(family, mac.key());
+        releaseP2PPortsOf(getDeviceDetail(family, mac.key()));
     forward(family, &CDeviceBase::setBatchDeleteDevice, macs, ipversion);
 }
 
-void CDeviceFactory::releaseP2PPortsOf(const QString &family, const QString &mac)
+void CDeviceFactory::releaseP2PPortsOfAll(const QString &family)
 {
-    const QVariantMap row = forward(family, &CDeviceBase::getDeviceDetail, mac);
+    const QVariantList rows =
+        forward(family, &CDeviceBase::filterData, QStringLiteral("nofilter"), QString());
+    for (const QVariant &row : rows)
+        releaseP2PPortsOf(row.toJsonObject().toVariantMap());
+}
+
+void CDeviceFactory::releaseP2PPortsOf(const QVariantMap &row)
+{
     if (row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
         return;
     const QString ipport = row.value(DeviceRowKey::ipport).toString();

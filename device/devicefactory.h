@@ -161,7 +161,8 @@ private:
         return (backEnd.get()->*operation)(arguments...);
     }
 
-    void releaseP2PPortsOf(const QString &family, const QString &mac);
+    void releaseP2PPortsOfAll(const QString &family);
+    void releaseP2PPortsOf(const QVariantMap &row);
 
     P2PPorts m_p2pPorts; ///< outlives the back ends, which use it
     QMap<QString, std::shared_ptr<CDeviceBase>> m_backEnds;

@@ -35,6 +35,7 @@ inline constexpr QLatin1StringView username("username");
 inline constexpr QLatin1StringView password("password");
 inline constexpr QLatin1StringView loginType("loginType");   ///< text: "IP" or "P2P"
 inline constexpr QLatin1StringView devp2pPort("devp2pPort"); ///< text: the device's own port behind a tunnel
+inline constexpr QLatin1StringView https("https");           ///< bool: the HTTP port is an encrypted one
 } // namespace DeviceRowKey
 
 /// Text of a block field, decoded as local 8-bit text. Bytes that are no text become replacement characters,

@@ -32,6 +32,16 @@ DeviceRowList::identityOf(const std::function<bool(const QJsonObject &)> &isMean
     return std::nullopt;
 }
 
+QSet<QString> DeviceRowList::identitiesOf(const std::function<bool(const QJsonObject &)> &isMeant) const
+{
+    QSet<QString> identities;
+    for (qsizetype place = 0; place < m_rows.size(); ++place) {
+        if (isMeant(m_rows.at(place).toJsonObject()))
+            identities.insert(m_identities.at(place));
+    }
+    return identities;
+}
+
 bool DeviceRowList::change(const QString &identity, const Change &change)
 {
     const auto place = m_places.constFind(identity);

@@ -29,6 +29,9 @@ public:
     [[nodiscard]] std::optional<QString>
     identityOf(const std::function<bool(const QJsonObject &)> &isMeant) const;
 
+    /// Identities of all rows that `isMeant` accepts.
+    [[nodiscard]] QSet<QString> identitiesOf(const std::function<bool(const QJsonObject &)> &isMeant) const;
+
     /// Changes a row in its place. Returns false when there is none.
     bool change(const QString &identity, const Change &change);
 

@@ -162,12 +162,9 @@ void DeviceStore::removeRows(const QSet<QString> &macs)
 void DeviceStore::removeIPv6Rows(const QSet<QString> &ipports)
 {
     const std::scoped_lock lock(m_mutex);
-    QSet<QString> identities;
-    for (const QString &ipport : ipports) {
-        if (const std::optional<QString> identity = identityAt(m_ipv6, ipport))
-            identities.insert(*identity);
-    }
-    m_ipv6.remove(identities);
+    m_ipv6.remove(m_ipv6.identitiesOf([&ipports](const QJsonObject &row) {
+        return ipports.contains(row.value(DeviceRowKey::ipport).toString());
+    }));
 }
 
 std::optional<QString> DeviceStore::identityAt(const DeviceRowList &list, const QString &ipport)

@@ -171,7 +171,7 @@ QList<DeviceTableModel::Row> DeviceTableModel::readRows()
         row.identity = row.values.value(DeviceRowKey::mac).toString();
         const int before = occurrences[row.ipport]++;
         if (row.identity.isEmpty())
-            row.identity = row.ipport + QLatin1Char('#') + QString::number(before);
+            row.identity = before == 0 ? row.ipport : row.ipport + QLatin1Char('#') + QString::number(before);
         all.append(std::move(row));
     }
     forgetLostTicks(all);
@@ -349,6 +349,7 @@ QVariantMap DeviceTableModel::get(int row) const
     QVariantMap values = m_rows.at(row).values.toVariantMap();
     values.insert(DeviceRowKey::checked, checkedIdentities().contains(m_rows.at(row).identity));
     values.insert(DeviceRowKey::num, QString::number(row + 1));
+    values.insert(QStringLiteral("identity"), m_rows.at(row).identity);
     return values;
 }
 
@@ -365,7 +366,7 @@ QStringList DeviceTableModel::checkedMacs() const
     QStringList macs;
     for (const Row &row : m_rows) {
         if (checkedIdentities().contains(row.identity))
-            macs.append(row.values.value(DeviceRowKey::mac).toString());
+            macs.append(row.identity);
     }
     return macs;
 }

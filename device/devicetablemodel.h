@@ -11,7 +11,7 @@ class CDeviceFactory;
 
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" ("mac";
-/// where there is none, "ipport" and how many rows before it have the same one).
+/// where there is none, "ipport", with a number behind it when rows before it have the same one).
 ///
 /// It asks the factory's filterData or filterDataIPV6 for its rows, adds the text filter on top, and keeps
 /// the user's ticks, selection and order over a refresh. Lives on the scene's thread.
@@ -81,7 +81,7 @@ public:
     /// Position of the row with this identity, -1 when it is not shown.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
-    /// "mac" of the checked rows in the order shown.
+    /// "identity" of the checked rows in the order shown, by which the operations of an IPv4 device name it.
     Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
 
     /// The checked rows as get() returns them, in the order shown.

@@ -14,12 +14,38 @@ namespace {
 /// The same wherever the services are, so it is not a setting.
 constexpr const char *serverSecret = "tamsvelorink";
 
+/// The key of the first setting that the agent cannot work with; empty when there is none.
+QString faultOf(const P2PSettings &settings)
+{
+    const std::pair<const char *, const QString &> hosts[] = {{"p2p/tunnel", settings.tunnelHost},
+                                                              {"p2p/trans", settings.relayHost},
+                                                              {"p2p/saas", settings.restAddress},
+                                                              {"p2p/mnserver", settings.mediaHost}};
+    for (const auto &[key, host] : hosts) {
+        if (host.trimmed().isEmpty())
+            return QLatin1String(key);
+    }
+    constexpr int highestPort = 65535;
+    const std::pair<const char *, int> ports[] = {{"p2p/tunnel_port", settings.tunnelPort},
+                                                  {"p2p/trans_port", settings.relayPort},
+                                                  {"p2p/mnport", settings.mediaPort}};
+    for (const auto &[key, port] : ports) {
+        if (port < 1 || port > highestPort)
+            return QLatin1String(key);
+    }
+    return {};
+}
+
 std::shared_ptr<sdk::P2PAgentLibrary> started(std::shared_ptr<sdk::P2PAgentLibrary> library,
                                               const P2PSettings &settings,
                                               sdk::P2PAgentMessageHandler handler)
 {
     if (!library)
         return nullptr;
+    if (const QString fault = faultOf(settings); !fault.isEmpty()) {
+        qCWarning(logDevice) << "P2PPorts: the port agent is not started, its settings are no good:" << fault;
+        return nullptr;
+    }
     const QByteArray tunnelHost = settings.tunnelHost.toLocal8Bit();
     const QByteArray relayHost = settings.relayHost.toLocal8Bit();
     const QByteArray domain = settings.domain.toLocal8Bit();

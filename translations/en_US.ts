@@ -692,6 +692,14 @@
         <source>正在修改IP地址…</source>
         <translation>Changing addresses…</translation>
     </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation> (Esc stops)</translation>
+    </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>Stopped: %1 of %2 done</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPDevices</name>
@@ -773,6 +781,13 @@
     <message>
         <source>网关</source>
         <translation>Gateway</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的新地址有问题，请查看预览</source>
+        <translation>
+            <numerusform>The new address of %n device needs a look: see the preview</numerusform>
+            <numerusform>The new addresses of %n devices need a look: see the preview</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -881,10 +896,6 @@ File path: </translation>
 </context>
 <context>
     <name>ModifyIPTable</name>
-    <message>
-        <source>尚未修改</source>
-        <translation>Not modified yet</translation>
-    </message>
     <message>
         <source>No.</source>
         <translation>No.</translation>
@@ -1192,6 +1203,10 @@ File path: </translation>
     <message>
         <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
         <translation>The connection to the P2P device %1 is broken: delete the device and add it again</translation>
+    </message>
+    <message>
+        <source>P2P服务已断开，P2P设备暂时无法访问</source>
+        <translation>The P2P service is gone: devices behind NAT cannot be reached for now</translation>
     </message>
 </context>
 <context>

@@ -688,6 +688,14 @@
         <source>正在修改IP地址…</source>
         <translation>正在修改IP地址…</translation>
     </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation>（按Esc停止）</translation>
+    </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>已停止，完成 %1 / %2</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPDevices</name>
@@ -768,6 +776,12 @@
     <message>
         <source>网关</source>
         <translation>网关</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的新地址有问题，请查看预览</source>
+        <translation>
+            <numerusform>%n 台设备的新地址有问题，请查看预览</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -876,10 +890,6 @@
 </context>
 <context>
     <name>ModifyIPTable</name>
-    <message>
-        <source>尚未修改</source>
-        <translation>尚未修改</translation>
-    </message>
     <message>
         <source>No.</source>
         <translation>No.</translation>
@@ -1184,6 +1194,10 @@
     <message>
         <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
         <translation>到P2P设备 %1 的连接已断开，请删除后重新添加</translation>
+    </message>
+    <message>
+        <source>P2P服务已断开，P2P设备暂时无法访问</source>
+        <translation>P2P服务已断开，P2P设备暂时无法访问</translation>
     </message>
 </context>
 <context>

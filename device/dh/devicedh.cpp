@@ -58,31 +58,38 @@ void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std
         return;
     case sdk::P2PAgentEvent::ServiceLost:
         qCWarning(logDevice) << "P2P: the service is lost";
+        tellAgentListener({}, 0);
         return;
     case sdk::P2PAgentEvent::TunnelOpened:
         qCInfo(logDevice) << "P2P: port" << localPort << "leads to" << deviceId;
         return;
     case sdk::P2PAgentEvent::TunnelBroken:
         qCWarning(logDevice) << "P2P: the tunnel to" << deviceId << "on port" << localPort << "is broken";
-        // Queued events of an object that is gone are dropped.
-        if (const std::lock_guard lock(agentListenerMutex); agentListener) {
-            QMetaObject::invokeMethod(
-                agentListener,
-                [listener = agentListener, id = QString::fromUtf8(deviceId), localPort] {
-                    listener->noteBrokenTunnel(id, localPort);
-                },
-                Qt::QueuedConnection);
-        }
+        tellAgentListener(QString::fromUtf8(deviceId), localPort);
         return;
     }
     qCWarning(logDevice) << "P2P: event" << static_cast<int>(event) << "of" << deviceId << localPort;
 }
 
+void CDeviceDH::tellAgentListener(const QString &deviceId, int localPort)
+{
+    const std::lock_guard lock(agentListenerMutex);
+    if (!agentListener)
+        return;
+    // Queued events of an object that is gone are dropped.
+    QMetaObject::invokeMethod(
+        agentListener,
+        [listener = agentListener, deviceId, localPort] { listener->noteBrokenTunnel(deviceId, localPort); },
+        Qt::QueuedConnection);
+}
+
 void CDeviceDH::noteBrokenTunnel(const QString &deviceId, int localPort)
 {
-    // The tunnel to a device's web page has no row.
-    store().changeRowAt(QStringLiteral("127.0.0.1:%1").arg(localPort), [](QJsonObject &row) {
-        row.insert(DeviceRowKey::res, resultCode(LoginResult::NetworkFailure));
-    });
-    Q_EMIT signalCDeviceTunnelBroken(deviceId, localPort);
+    const bool isListed =
+        store().changeRowAt(QStringLiteral("127.0.0.1:%1").arg(localPort), [](QJsonObject &row) {
+            row.insert(DeviceRowKey::res, resultCode(LoginResult::NetworkFailure));
+        });
+    // The tunnel to a device's web page has no row, nor has one whose device a search has taken off the list.
+    if (isListed || deviceId.isEmpty())
+        Q_EMIT signalCDeviceTunnelBroken(deviceId, localPort);
 }

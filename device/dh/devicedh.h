@@ -31,7 +31,8 @@ public:
 
     /// Takes the port agent's events, on a thread of the agent: logs them. Of a tunnel that broke the user
     /// learns: the device's row gets the result of a network failure, and signalCDeviceTunnelBroken is
-    /// emitted, both on the thread of the back end that was made last.
+    /// emitted, both on the thread of the back end that was made last. So does he of the loss of the service,
+    /// which has no device.
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 
@@ -89,6 +90,7 @@ private:
     };
 
     void endSession();
+    static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
 

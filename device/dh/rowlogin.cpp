@@ -102,6 +102,12 @@ Answers askDevice(const sdk::SdkLibraries &libraries, std::int64_t handle)
     return answers;
 }
 
+QString macOf(const Answers &answers)
+{
+    const QString mac = fieldText(answers.network.mac);
+    return mac.isEmpty() ? fieldText(answers.attributes.mac) : mac;
+}
+
 int webPort(const Answers &answers)
 {
     const int port = answers.https.enabled != 0 ? answers.https.port : answers.services.webPort;
@@ -159,7 +165,7 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
         {DeviceRowKey::model, fieldText(device.model)},
         {DeviceRowKey::ipport,
          (p2p ? loopback : request.address) + QLatin1Char(':') + QString::number(request.port)},
-        {DeviceRowKey::mac, fieldText(answers.network.mac)},
+        {DeviceRowKey::mac, macOf(answers)},
         {DeviceRowKey::vision, versionText(fieldText(answers.attributes.softwareVersion))},
         {DeviceRowKey::url, QString()},
         {DeviceRowKey::result, QString()},
@@ -170,6 +176,7 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
         {DeviceRowKey::upgraderes, -1},
         {DeviceRowKey::password, request.password},
         {DeviceRowKey::httpport, webPort(answers)},
+        {DeviceRowKey::https, answers.https.enabled != 0 && answers.https.port > 0},
     };
     if (p2p) {
         row.insert(DeviceRowKey::name, request.address);

@@ -82,7 +82,7 @@ QtObject {
     readonly property int columnResult: 92
     readonly property int columnActions: 168
     readonly property int columnPlanAddress: 128
-    readonly property int columnPlanMark: 224
+    readonly property int columnPlanMark: 208
     readonly property int columnShortActions: 72
     readonly property int columnPort: 72
     readonly property int columnAccount: 96

@@ -49,6 +49,9 @@ private Q_SLOTS:
         QTest::newRow("onto a device outside, not onto one's own")
             << "192.168.1.8" << false << mask << QStringList{"192.168.1.8", "192.168.1.9", "192.168.1.10"}
             << QList<int>{AddressPlan::Fine, AddressPlan::TakenByOther, AddressPlan::NotInitialised};
+        QTest::newRow("onto a device of the batch that keeps its address")
+            << "192.168.1.20" << false << mask << QStringList{"192.168.1.20", "192.168.1.21", "192.168.1.22"}
+            << QList<int>{AddressPlan::Fine, AddressPlan::TakenByOther, AddressPlan::NotInitialised};
         QTest::newRow("the same for all")
             << "192.168.1.30" << true << mask << QStringList{"192.168.1.30", "192.168.1.30", "192.168.1.30"}
             << QList<int>{AddressPlan::TakenInBatch, AddressPlan::TakenInBatch, AddressPlan::NotInitialised};
@@ -152,6 +155,7 @@ private Q_SLOTS:
         QTest::newRow("plain") << "192.168.1.9:37777" << 80 << "http://192.168.1.9";
         QTest::newRow("another port") << "127.0.0.1:20000" << 20001 << "http://127.0.0.1:20001";
         QTest::newRow("encrypted") << "192.168.1.9:37777" << 443 << "https://192.168.1.9";
+        QTest::newRow("encrypted on another port") << "127.0.0.1:20000" << 8443 << "https://127.0.0.1:8443";
         QTest::newRow("IPv6") << "[fe80::17]:37777" << 8080 << "http://[fe80::17]:8080";
         QTest::newRow("no port") << "192.168.1.9:37777" << 0 << "";
         QTest::newRow("a name") << "elsewhere.example:37777" << 80 << "";
@@ -163,7 +167,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, ipport);
         QFETCH(int, port);
-        QTEST(AddressTools().webPage(ipport, port), "page");
+        QTEST(AddressTools().webPage(ipport, port, port == 8443), "page");
     }
 
     void choosesFromRows()

@@ -93,26 +93,11 @@ ImportFailure failureOf(LoginResult result)
     return {.result = result, .reason = resultName(resultCode(result))};
 }
 
-/// How operations would come to the device of a row.
-QString wayTo(const QJsonObject &row)
-{
-    if (row.value(DeviceRowKey::loginType).toString() != ListWord::byP2P)
-        return row.value(DeviceRowKey::ipport).toString();
-    return row.value(DeviceRowKey::name).toString() + QLatin1Char(':') +
-           row.value(DeviceRowKey::devp2pPort).toString();
-}
-
 } // namespace
 
 DeviceListImport::DeviceListImport(DeviceStore &store, sdk::SdkLibraries libraries)
     : m_store(store), m_libraries(std::move(libraries))
 {
-    const QVariantList rows = store.ipv4Rows();
-    for (const QVariant &value : rows) {
-        const QJsonObject row = value.toJsonObject();
-        m_ways.insert(wayTo(row));
-        m_macs.insert(spelled(row.value(DeviceRowKey::mac).toString()));
-    }
 }
 
 QString DeviceListImport::refusalOf(const std::vector<DeviceListLine> &lines)
@@ -144,7 +129,7 @@ std::optional<ImportFailure> DeviceListImport::add(const DeviceListLine &line, P
     const Target target = {.address = address,
                            .port = portOf(line).value_or(defaultPort),
                            .reachedBy = p2p ? ReachedBy::P2P : ReachedBy::Address};
-    if (m_ways.contains(target.way()) || hasMac(line[ListColumn::Mac]))
+    if (m_ways.contains(target.way()))
         return failureOf(LoginResult::AlreadyListed);
     int webPort = 0;
     if (!p2p)
@@ -154,18 +139,14 @@ std::optional<ImportFailure> DeviceListImport::add(const DeviceListLine &line, P
     if (localPort <= 0)
         return ImportFailure{.result = LoginResult::NetworkFailure,
                              .reason = QCoreApplication::translate("DeviceList", "无法建立P2P通道")};
+    // The port of a device that the table has already stays, whatever comes of this.
+    const bool inUse = !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty();
     std::optional<ImportFailure> failure = logIn(line, target, localPort, webPort);
-    if (failure)
+    if (failure && !inUse)
         ports->release(localPort);
-    else
+    else if (!failure)
         ports->pair(localPort, ports->portFor(target.address, webPort, 0));
     return failure;
-}
-
-/// True when the table has a device of that MAC, also one that a search has found since.
-bool DeviceListImport::hasMac(const QString &mac) const
-{
-    return !mac.isEmpty() && (m_macs.contains(spelled(mac)) || !m_store.row(mac).isEmpty());
 }
 
 /// Logs in at `port`, which with P2P is the local end of the tunnel. Sets the port of the device's web page.
@@ -180,14 +161,15 @@ std::optional<ImportFailure> DeviceListImport::logIn(const DeviceListLine &line,
                                                         .devicePort = QString::number(target.port)});
     if (outcome.result != LoginResult::Success)
         return failureOf(outcome.result);
-    // The list may have said nothing of the MAC, or something else.
-    if (hasMac(outcome.row.value(DeviceRowKey::mac).toString()))
+    // Two lines may lead to one device: the list may have said nothing of the MAC, or something else.
+    const QString mac = spelled(outcome.row.value(DeviceRowKey::mac).toString());
+    if (!mac.isEmpty() && m_macs.contains(mac))
         return failureOf(LoginResult::AlreadyListed);
 
     completeFrom(outcome.row, line, outcome.record.has_value());
     webPort = outcome.row.value(DeviceRowKey::httpport).toInt();
     m_ways.insert(target.way());
-    m_macs.insert(spelled(outcome.row.value(DeviceRowKey::mac).toString()));
+    m_macs.insert(mac);
     keepRow(m_store, outcome);
     return std::nullopt;
 }

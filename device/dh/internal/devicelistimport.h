@@ -22,27 +22,26 @@ struct ImportFailure
 class DeviceListImport
 {
 public:
-    /// Takes note of the devices that the table has.
     DeviceListImport(DeviceStore &store, sdk::SdkLibraries libraries);
 
     /// Why the list cannot be imported as a whole, in the user's language; empty when it can. A MAC that
     /// occurs twice makes it doubtful which of the lines tells the truth.
     [[nodiscard]] static QString refusalOf(const std::vector<DeviceListLine> &lines);
 
-    /// Logs in to the device of a line and adds its row. A device that the table has already is not asked
-    /// again. Blocks for the waits of the library. `ports` leads to devices behind NAT, null when nothing
-    /// does; a port that was opened in vain is released.
+    /// Logs in to the device of a line and adds its row, in the place of the one that the device has already.
+    /// A device that another line of the list has brought is not asked again. Blocks for the waits of the
+    /// library. `ports` leads to devices behind NAT, null when nothing does; a port that was opened in vain
+    /// is released.
     [[nodiscard]] std::optional<ImportFailure> add(const DeviceListLine &line, P2PPorts *ports);
 
 private:
     struct Target;
 
-    [[nodiscard]] bool hasMac(const QString &mac) const;
     [[nodiscard]] std::optional<ImportFailure> logIn(const DeviceListLine &line, const Target &target,
                                                      int port, int &webPort);
 
     DeviceStore &m_store;
     const sdk::SdkLibraries m_libraries;
-    QSet<QString> m_ways; ///< to the devices of the table: address or P2P ID, ":" and port
+    QSet<QString> m_ways; ///< to the devices that the list has brought: address or P2P ID, ":" and port
     QSet<QString> m_macs; ///< of these devices, in one spelling
 };

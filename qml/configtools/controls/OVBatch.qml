@@ -1,6 +1,6 @@
 // Runs a step for each of many things, one after another on the scene's thread: some in a row as long as that
 // is quick, then a turn of the event loop, in which the page paints. Until the end the user's input is held
-// back by an invisible sheet over the whole window.
+// back by an invisible sheet over the whole window; only Escape gets through, and leaves out what remains.
 import QtQuick
 import configtools
 
@@ -13,14 +13,16 @@ Item {
     property int done: 0
     property string current  // what the step just now is about
     property var job: null
+    property bool stopping: false
 
-    /// Calls `step` with the place of each thing, then `finish` once. `nameOf` gives the name of the thing in a
+    /// Calls `step` with the place of each thing, then `finish` once with how many there were. `nameOf` gives the name of the thing in a
     /// place, for the foot of the page. Does nothing while another run goes on, and for an empty one.
     function start(count, step, nameOf, finish) {
         if (running || count === 0)
             return;
         job = {step: step, nameOf: nameOf, finish: finish};
         done = 0;
+        stopping = false;
         current = job.nameOf(0);
         total = count;
         hold.open();
@@ -34,8 +36,8 @@ Item {
         do {
             job.step(done);
             ++done;
-        } while (done < total && Date.now() - begin < Theme.paintEvery);
-        if (done < total) {
+        } while (done < total && !stopping && Date.now() - begin < Theme.paintEvery);
+        if (done < total && !stopping) {
             current = job.nameOf(done);
             turn.interval = 1;
             turn.start();
@@ -46,7 +48,7 @@ Item {
         hold.close();
         const ended = job;
         job = null;
-        ended.finish();
+        ended.finish(done);
     }
 
     visible: false
@@ -58,5 +60,6 @@ Item {
 
     OVInputHold {
         id: hold
+        onEscapePressed: root.stopping = true
     }
 }

@@ -37,7 +37,7 @@ T.Popup {
     y: Math.round(((parent?.height ?? 0) - height) / 2)
     width: Theme.dialogWidth
     height: implicitHeight
-    readonly property int contentMargin: dense ? Theme.controlGap - Theme.line : Theme.pageMargin
+    readonly property int contentMargin: dense ? Theme.unit + Theme.line : Theme.pageMargin
 
     implicitHeight: head.height + body.implicitHeight + 2 * contentMargin + foot.height
     closePolicy: T.Popup.NoAutoClose

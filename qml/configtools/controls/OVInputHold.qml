@@ -3,6 +3,10 @@ import QtQuick
 import QtQuick.Templates as T
 
 T.Popup {
+    id: root
+
+    signal escapePressed
+
     parent: T.Overlay.overlay
     width: parent?.width ?? 0
     height: parent?.height ?? 0
@@ -15,6 +19,10 @@ T.Popup {
         cursorShape: Qt.BusyCursor
         focus: true
         hoverEnabled: true
-        Keys.onPressed: event => event.accepted = true
+        Keys.onPressed: event => {
+            event.accepted = true;
+            if (event.key === Qt.Key_Escape)
+                root.escapePressed();
+        }
     }
 }

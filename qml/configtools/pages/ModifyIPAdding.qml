@@ -28,7 +28,7 @@ Item {
             dialog.busy = false;
             if (code !== DeviceAdding.Added) {
                 const error = deviceAdding.errorText(code);
-                dialog.showResult(code, error, deviceAdding.quietText(code));
+                dialog.showResult(code, error);
                 if (error !== "")
                     said(error, OVToast.Error);
                 return;

@@ -45,24 +45,26 @@ Item {
 
     /// Calls `request` for each row, shows its result as it comes, and reads the whole table at the end.
     function run(rows, text, request) {
-        runningText = text;
+        runningText = rows.length > 1 ? text + qsTr("（按Esc停止）") : text;
         batch.start(rows.length, i => {
             request(rows[i], i);
-            deviceTable.refreshDevice(rows[i].mac);
-        }, i => rows[i].ipport, () => {
-            const failed = rows.filter(row => deviceFactory.getDeviceDetail("dh", row.mac).res !== 0).length;
+            deviceTable.refreshDevice(rows[i].identity);
+        }, i => rows[i].ipport, done => {
+            const failed = rows.slice(0, done).filter(row => deviceFactory.getDeviceDetail("dh", row.identity).res !== 0).length;
             deviceTable.refresh();
+            if (done < rows.length)
+                said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
             if (failed > 0)
                 //: Of the devices of a batch, those whose result is a failure.
                 said(qsTr("%n 台设备未成功，请查看修改结果", "", failed), OVToast.Error);
-            else
-                said(qsTr("%n 台设备已完成", "", rows.length), OVToast.Success);
+            else if (done === rows.length)
+                said(qsTr("%n 台设备已完成", "", done), OVToast.Success);
         });
     }
 
     function sendFirstPasswords(rows, account, password) {
         run(rows, qsTr("正在初始化设备…"),
-            row => deviceFactory.setInitAccount("dh", row.mac, account, password));
+            row => deviceFactory.setInitAccount("dh", row.identity, account, password));
     }
 
     function sendAddresses(dialog) {
@@ -73,9 +75,9 @@ Item {
         const addresses = rows.map((_, i) => dialog.plan.addressOf(i));
         run(rows, qsTr("正在修改IP地址…"), (row, i) => {
             if (dhcp)
-                deviceFactory.modifyIP("dh", row.mac, "", "", "", true);
+                deviceFactory.modifyIP("dh", row.identity, "", "", "", true);
             else
-                deviceFactory.modifyIP("dh", row.mac, addresses[i], mask, gateway, false);
+                deviceFactory.modifyIP("dh", row.identity, addresses[i], mask, gateway, false);
         });
     }
 

@@ -14,17 +14,17 @@ Item {
     function showDetail(row) {
         const values = deviceTable.get(row);
         const dialog = detail.wanted();
-        dialog.load(Object.assign({}, values, deviceTable.ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.mac)));
+        dialog.load(Object.assign({}, values, deviceTable.ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.identity)));
         dialog.open();
     }
 
     /// The web page of a device behind a tunnel is reached through a tunnel of its own.
     function openWebPage(row) {
         const values = deviceTable.get(row);
-        const detail = deviceTable.ipv6 ? values : deviceFactory.getDeviceDetail("dh", values.mac);
+        const detail = deviceTable.ipv6 ? values : deviceFactory.getDeviceDetail("dh", values.identity);
         const port = Number(values.ipport.slice(values.ipport.lastIndexOf(":") + 1));
         const webPort = detail.loginType === "P2P" ? deviceFactory.getP2PWebPort(port) : detail.httpport;
-        const page = AddressTools.webPage(values.ipport, webPort ?? 0);
+        const page = AddressTools.webPage(values.ipport, webPort ?? 0, detail.https ?? false);
         if (page === "")
             said(qsTr("这台设备没有可打开的网页"), OVToast.Error);
         else if (!Qt.openUrlExternally(page))
@@ -41,7 +41,7 @@ Item {
     function removeNow() {
         const names = {};
         for (const row of deviceTable.checkedRows())
-            names[deviceTable.ipv6 ? row.ipport : row.mac] = true;
+            names[deviceTable.ipv6 ? row.ipport : row.identity] = true;
         deviceFactory.setBatchDeleteDevice("dh", names, deviceTable.ipv6 ? "IPV6" : "IPV4");
         deviceTable.refresh();
     }

@@ -11,11 +11,6 @@ OVTable {
     signal detailRequested(int row)
     signal webRequested(int row)
 
-    function wordOfResult(code) {
-        const name = deviceFactory.getErrorName(code);
-        return name === "" && code === -1 ? qsTr("尚未修改") : name;
-    }
-
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
         {
@@ -141,7 +136,7 @@ OVTable {
                 }
                 OVToolTip {
                     shown: resultPointer.hovered
-                    text: resultPointer.hovered ? root.wordOfResult(result.value ?? -1) : ""
+                    text: resultPointer.hovered ? root.deviceFactory.getErrorName(result.value ?? -1) : ""
                 }
             }
         }

@@ -50,7 +50,8 @@ FocusScope {
         }
         function onSignalTunnelBroken(deviceId) {
             devices.refresh();
-            page.said(qsTr("到P2P设备 %1 的连接已断开，请删除后重新添加").arg(deviceId), OVToast.Error);
+            page.said(deviceId === "" ? qsTr("P2P服务已断开，P2P设备暂时无法访问")
+                : qsTr("到P2P设备 %1 的连接已断开，请删除后重新添加").arg(deviceId), OVToast.Error);
         }
     }
 

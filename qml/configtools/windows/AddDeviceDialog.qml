@@ -8,7 +8,6 @@ OVDialog {
 
     property int mode: DeviceAdding.IP
     readonly property bool p2p: mode === DeviceAdding.P2P
-    property string hint  // something that is not said as an error
     signal refused(string message)
     signal confirmed(var device, bool isFavourite)
 
@@ -32,15 +31,13 @@ OVDialog {
     function forget() {
         faultKind = "";
         fault = "";
-        hint = "";
     }
 
     /// Shows how the login went: a result that speaks of one field under that field.
-    function showResult(code, error, quiet) {
+    function showResult(code, error) {
         faultKind = code === DeviceAdding.NoSuchAccount ? "account" : code === DeviceAdding.WrongPassword ? "password"
             : code === DeviceAdding.AlreadyListed ? "address" : "";
         fault = error;
-        hint = quiet;
         if (faultKind === "password")
             passwordField.selectAll();
     }
@@ -80,8 +77,9 @@ OVDialog {
             return;
         }
         confirmed({
-            mode: mode, address: p2p ? idField.text : addressField.text, account: accountField.text,
-            password: passwordField.text, port: portField.text, note: noteField.text
+            mode: mode, address: p2p ? idField.text : AddressTools.plainAddress(addressField.text),
+            account: accountField.text, password: passwordField.text, port: String(Number(portField.text)),
+            note: noteField.text
         }, favouriteBox.checked);
     }
 
@@ -187,14 +185,6 @@ OVDialog {
                 objectName: "noteField"
                 placeholderText: qsTr("最多50个字符")
             }
-        }
-        OVNotice {
-            width: parent.width
-            iconColor: Theme.colours.warn
-            iconName: "alert"
-            objectName: "addHint"
-            text: root.hint
-            visible: root.hint !== ""
         }
     }
 }

@@ -32,7 +32,7 @@ OVTable {
     checkable: false
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: figures},
-        {key: "name", title: qsTr("名称"), width: Theme.columnName, stretch: 1},
+        {key: "name", title: qsTr("名称"), width: Theme.columnModel, stretch: 1},
         {key: "ipport", title: qsTr("原地址"), width: Theme.columnPlanAddress, cell: oldAddress},
         {key: "address", title: qsTr("新地址"), width: Theme.columnPlanAddress, cell: newAddress},
         {key: "mark", title: qsTr("提示"), width: Theme.columnPlanMark, cell: markCell}

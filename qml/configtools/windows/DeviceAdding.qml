@@ -65,12 +65,12 @@ QtObject {
                                           String(detail.httpport ?? row.httpport ?? ""), 0);
     }
 
-    // The two ports belong to the device from here on; with a failure that is told they go. Devices that are
+    // The two ports belong to the device from here on; with a failure they go. Devices that are
     // reached by their address have none: 0 is no port, and passing it does nothing.
     function finish(code, port, webPort) {
         if (code === DeviceAdding.Added) {
             deviceFactory.addP2PPort(port, webPort);
-        } else if (errorText(code) !== "") {
+        } else {
             deviceFactory.releaseP2PPort(port);
             deviceFactory.releaseP2PPort(webPort);
         }

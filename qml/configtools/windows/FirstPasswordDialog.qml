@@ -35,12 +35,16 @@ OVDialog {
     readonly property string different: qsTr("请输入相同的密码")
     readonly property string wrongLength: qsTr("密码长度应当在8到32个字符范围内")
 
-    function fault() {
+    /// The first thing that is wrong, empty when nothing is. It is shown under the field that it is about.
+    readonly property string fault: {
         const length = confirmationField.text.length;
         return grade <= 1 ? weak : account === "" ? noAccount : password === "" ? noPassword
             : length === 0 ? noConfirmation : confirmationField.text !== password ? different
             : length < 8 || length > 32 ? wrongLength : "";
     }
+
+    readonly property string faultField: fault === "" ? "" : fault === noAccount ? "account"
+        : fault === noConfirmation || fault === different ? "confirmation" : "password"
 
     width: Theme.firstPasswordWidth
     height: Math.max(Theme.firstPasswordHeight, implicitHeight)
@@ -48,9 +52,8 @@ OVDialog {
     title: qsTr("初始化设置")
     onAccepted: {
         tried = true;
-        const message = fault();
-        if (message !== "")
-            refused(message);
+        if (fault !== "")
+            refused(fault);
         else
             confirmed();
     }
@@ -76,7 +79,7 @@ OVDialog {
                 id: accountField
                 width: parent.width
                 accessibleName: qsTr("用户名")
-                errorText: root.tried && text === "" ? root.noAccount : ""
+                errorText: root.tried && root.faultField === "account" ? root.fault : ""
                 maximumLength: 63
                 objectName: "firstAccountField"
             }
@@ -93,8 +96,7 @@ OVDialog {
                     id: passwordField
                     width: parent.width
                     accessibleName: qsTr("新密码")
-                    errorText: !root.tried ? "" : text === "" ? root.noPassword : root.grade <= 1 ? root.weak
-                        : text.length < 8 || text.length > 32 ? root.wrongLength : ""
+                    errorText: root.tried && root.faultField === "password" ? root.fault : ""
                     maximumLength: 63
                     objectName: "firstPasswordField"
                     secret: true
@@ -113,8 +115,7 @@ OVDialog {
                 id: confirmationField
                 width: parent.width
                 accessibleName: qsTr("确认密码")
-                errorText: !root.tried ? "" : text === "" ? root.noConfirmation
-                    : text !== root.password ? root.different : ""
+                errorText: root.tried && root.faultField === "confirmation" ? root.fault : ""
                 maximumLength: 63
                 objectName: "confirmationField"
                 secret: true

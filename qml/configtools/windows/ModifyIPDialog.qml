@@ -12,8 +12,8 @@ OVDialog {
     property var rows: []  // the devices, in the order of the plan
     readonly property alias plan: plan
     readonly property alias dhcp: dhcpButton.checked
-    readonly property alias mask: maskField.text
-    readonly property alias gateway: gatewayField.text
+    readonly property string mask: AddressTools.plainAddress(maskField.text)
+    readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
     property bool tried: false  // what is wrong is said under a field once "确定" was pressed
     signal refused(string message)
     signal confirmed
@@ -101,6 +101,14 @@ OVDialog {
                 color: Theme.colours.warnInk
                 objectName: "planWarning"
                 text: plan.markedCount
+
+                HoverHandler {
+                    id: warningPointer
+                }
+                OVToolTip {
+                    shown: warningPointer.hovered
+                    text: qsTr("%n 台设备的新地址有问题，请查看预览", "", plan.markedCount)
+                }
             }
         }
     }

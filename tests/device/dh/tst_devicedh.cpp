@@ -215,11 +215,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mac");
         QTest::addColumn<int>("login");
         QTest::addColumn<int>("modification");
-        QTest::newRow("wrong password") << "02:1a:c5:00:4c:7c" << 2 << 0;
-        QTest::newRow("account locked") << "02:1a:c5:00:4c:a1" << 3 << 0;
-        QTest::newRow("account logged in") << "02:1a:c5:00:4d:38" << 4 << 0;
-        QTest::newRow("not initialised") << "02:1a:c5:00:4c:c6" << 12 << 7;
-        QTest::newRow("refuses a new address") << "02:1a:c5:00:4d:82" << 0 << 5;
+        QTest::addColumn<QString>("name"); // of the result that is no success
+        QTest::newRow("wrong password") << "02:1a:c5:00:4c:7c" << 2 << 0 << "密码错误";
+        QTest::newRow("account locked") << "02:1a:c5:00:4c:a1" << 3 << 0 << "账号被锁定";
+        QTest::newRow("account logged in") << "02:1a:c5:00:4d:38" << 4 << 0 << "账号已登录";
+        QTest::newRow("not initialised") << "02:1a:c5:00:4c:c6" << 12 << 7 << "设备未初始化";
+        QTest::newRow("refuses a new address") << "02:1a:c5:00:4d:82" << 0 << 5 << "网络异常";
     }
 
     /// Each fault of a login and of a modification, by its code and by the name that the user reads.
@@ -245,8 +246,19 @@ private Q_SLOTS:
             QCOMPARE(tryToLogIn(password), login); // it stays locked
         m_factory->modifyIP("dh", mac, "192.168.1.250", "255.255.255.0", "192.168.1.1", false);
         QCOMPARE(row(mac).value("res").toInt(), modification);
-        QVERIFY(login == 0 || !m_factory->getErrorName(login).isEmpty());
-        QVERIFY(modification == 0 || !m_factory->getErrorName(modification).isEmpty());
+        QTEST(m_factory->getErrorName(modification != 0 ? modification : login), "name");
+    }
+
+    void aRefusedFirstPasswordIsShownWithItsResult()
+    {
+        m_factory.reset();
+        m_site = sdk::demo::DemoSite::open("faulty", m_clock, nullptr);
+        makeFactory();
+        search();
+        const QString refuses = QStringLiteral("02:1a:c5:00:4d:5d");
+        m_factory->setInitAccount("dh", refuses, "admin", "first-1");
+        QCOMPARE(row(refuses).value("res").toInt(), 5);
+        QVERIFY(row("02:1a:c5:00:4c:0d").isEmpty()); // the one that never answers
     }
 
     void aBrokenTunnelIsSeen()

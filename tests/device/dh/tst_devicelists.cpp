@@ -363,11 +363,6 @@ private Q_SLOTS:
         };
         QTest::newRow("nobody there") << changed("192.168.1.10", "192.168.1.99") << 5;
         QTest::newRow("wrong password") << changed("secret1", "secret2") << 2;
-        QTest::newRow("listed address")
-            << changed("1:00:00:01", "1:00:00:77").replace("1.10,", "1.11,") << 13;
-        QTest::newRow("listed MAC") << changed("02:1a:c5:00:00:01", "02-1A-C5-00-00-02") << 13;
-        QTest::newRow("MAC that turns out to be listed")
-            << changed("02:1a:c5:00:00:01", "").replace("1.10,37777", "1.11,037777") << 13;
         QTest::newRow("no password") << changed("secret1", "") << -1;
         QTest::newRow("no address") << changed("192.168.1.10", "") << -1;
         QTest::newRow("strange address") << changed("192.168.1.10", "10.0.0.1/x?") << -1;
@@ -398,6 +393,21 @@ private Q_SLOTS:
         if (code == -1)
             QCOMPARE(logins(), before + 1); // the good one's
         QCOMPARE(rowCount(), 2);
+    }
+
+    void aDeviceOfTheTableIsReplacedAndOneOfAnotherLineIsNot()
+    {
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.10", "admin", "secret1", "37777"), 0);
+        QVERIFY(m_factory->updataDeviceInfo("dh", "password", "an old one", camera, ""));
+        const QByteArray unnamed =
+            QByteArray(cameraLine).replace("02:1a:c5:00:00:01", "").replace(",37777", ",037777");
+        QVERIFY(import(write("a.csv", headers + cameraLine + unnamed)));
+        QCOMPARE(m_failed, 1);
+        const QVariantMap failure = m_factory->importFailures("dh").value(0).toMap();
+        QCOMPARE(failure.value("line").toInt(), 3);
+        QCOMPARE(failure.value("code").toInt(), 13);
+        QCOMPARE(rowCount(), 1);
+        QCOMPARE(row(camera).value("password").toString(), "secret1");
     }
 
     void findsTheHeadersOfAWorkbook()
