@@ -66,6 +66,7 @@ static_assert(sizeof(LoginSecureOutput) == 136);
 enum class QueryCommand : std::uint32_t
 {
     DeviceAttributes = 1, ///< DeviceAttributes
+    Time = 8,             ///< TimeRecord
     NetworkServices = 91, ///< NetworkServices
 };
 

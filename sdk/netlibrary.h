@@ -1,15 +1,25 @@
 // The network library's roles: everything that goes to a device over its own protocol.
 #pragma once
 
+#include "sdk/camerablocks.h"
 #include "sdk/devicerequestblocks.h"
+#include "sdk/encodeblocks.h"
 #include "sdk/loginblocks.h"
 #include "sdk/neterror.h"
 #include "sdk/searchblocks.h"
+#include "sdk/systemblocks.h"
 
 #include <chrono>
 #include <cstdint>
 
 namespace sdk {
+
+/// What NetQueryCapabilities asks for.
+enum class CapabilityQuery : std::uint32_t
+{
+    Encode = 2, ///< EncodeCapabilityInput, EncodeCapabilities
+    Camera = 4, ///< CameraCapabilityInput, CameraCapabilities
+};
 
 /// Operations may be called from any thread, several at a time. A failed one leaves its error code for the
 /// calling thread, to be fetched with NetGetLastError.
@@ -84,6 +94,17 @@ public:
                                  std::uint32_t textSize, std::int32_t &error,
                                  std::chrono::milliseconds wait) = 0;
 
+    /// Asks what a device can do. `input` and `output` are the blocks of `query`, each with its size in it;
+    /// the output is filled up to its size. Blocks until the device has answered, up to `wait`. Returns
+    /// false, with the output unchanged, when the device refuses, is away, or `loginHandle` is no session.
+    virtual bool NetQueryCapabilities(std::int64_t loginHandle, CapabilityQuery query, const void *input,
+                                      void *output, std::chrono::milliseconds wait) = 0;
+
+    /// Reads the block of an item by its number. `block` begins with its own size, and holds the stream or
+    /// mode that is asked for where the item has one. Waits and fails as NetQueryCapabilities() does.
+    virtual bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
+                            std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
+
     /// Gives a factory-new device its first account. `localAddress` is the address to send from, empty for
     /// the library's choice. Blocks up to `wait`.
     virtual bool NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
@@ -92,6 +113,35 @@ public:
     /// Changes the addresses of a device that a search has found. Blocks up to `wait`.
     virtual bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
                                          std::chrono::milliseconds wait) = 0;
+
+    // Maintenance of a device. Each blocks until the device has answered, up to `wait`, and returns false
+    // when the device refuses, is away, or `loginHandle` is no session.
+
+    /// Writes the block of a setting: `blockSize` bytes of `block`. `channel` is -1 for the whole device.
+    virtual bool NetSetDeviceSetting(std::int64_t loginHandle, DeviceSetting setting, std::int32_t channel,
+                                     const void *block, std::uint32_t blockSize,
+                                     std::chrono::milliseconds wait) = 0;
+
+    /// Writes the block of an item by its number. `block` begins with its own size.
+    virtual bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel,
+                            const void *block, std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
+
+    /// Writes the configuration text `name`: `text` is `textSize` bytes, ended by a zero among them. A device
+    /// takes what the text holds and leaves the rest as it was. `error` is set as NetGetLastError() is.
+    virtual bool NetSetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel,
+                                 const char *text, std::uint32_t textSize, std::int32_t &error,
+                                 std::chrono::milliseconds wait) = 0;
+
+    /// Asks the device to reboot. It is away for a while then, and its sessions have ended.
+    virtual bool NetRebootDevice(std::int64_t loginHandle, std::chrono::milliseconds wait) = 0;
+
+    /// Asks the device to become as it left the factory: it reboots and waits for its first password.
+    virtual bool NetResetSystem(std::int64_t loginHandle, const ResetSystemInput &input,
+                                ResetSystemOutput &output, std::chrono::milliseconds wait) = 0;
+
+    /// Changes the password of an account. The session goes on.
+    virtual bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
+                                   std::chrono::milliseconds wait) = 0;
 };
 
 } // namespace sdk

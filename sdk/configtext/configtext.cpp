@@ -6,12 +6,39 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <span>
 
 namespace sdk {
 
 namespace {
+
+bool unpackField(const ConfigField &field, const QJsonValue &value, char *record);
+QJsonValue packedField(const ConfigField &field, const char *record);
+
+/// Unpacks the keys of `object` that there are fields for. Returns false when a value does not fit.
+bool unpackFields(std::span<const ConfigField> fields, const QJsonObject &object, char *record)
+{
+    return std::all_of(fields.begin(), fields.end(), [&](const ConfigField &field) {
+        const QJsonValue value = object.value(QLatin1String(field.key));
+        return value.isUndefined() || unpackField(field, value, record);
+    });
+}
+
+/// Nothing when a field holds a number out of its range.
+std::optional<QJsonObject> packedFields(std::span<const ConfigField> fields, const char *record)
+{
+    QJsonObject object;
+    for (const ConfigField &field : fields) {
+        const QJsonValue value = packedField(field, record);
+        if (value.isUndefined())
+            return std::nullopt;
+        object.insert(QLatin1String(field.key), value);
+    }
+    return object;
+}
 
 /// Returns false when the value does not fit `field`.
 bool unpackField(const ConfigField &field, const QJsonValue &value, char *record)
@@ -33,6 +60,11 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
             return false;
         number = value.toBool() ? 1 : 0;
         break;
+    case ConfigFieldKind::ByteFlag:
+        if (!value.isBool())
+            return false;
+        *place = value.toBool() ? 1 : 0;
+        return true;
     case ConfigFieldKind::Number: {
         const double wide = value.toDouble(std::nan(""));
         // Turned round, so that what is no number fails as well.
@@ -41,6 +73,8 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
         number = static_cast<std::int32_t>(wide);
         break;
     }
+    case ConfigFieldKind::Object:
+        return value.isObject() && unpackFields({field.inner, field.innerCount}, value.toObject(), place);
     }
     std::memcpy(place, &number, sizeof(number));
     return true;
@@ -55,13 +89,20 @@ QJsonValue packedField(const ConfigField &field, const char *record)
         const std::string_view text = whole.substr(0, whole.find('\0'));
         return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     }
+    if (field.kind == ConfigFieldKind::Object) {
+        const std::optional<QJsonObject> inner = packedFields({field.inner, field.innerCount}, place);
+        return inner ? QJsonValue(*inner) : QJsonValue(QJsonValue::Undefined);
+    }
     std::int32_t number = 0;
-    std::memcpy(&number, place, sizeof(number));
+    if (field.kind == ConfigFieldKind::ByteFlag)
+        number = static_cast<std::uint8_t>(*place);
+    else
+        std::memcpy(&number, place, sizeof(number));
     if (number < field.minimum || number > field.maximum)
         return QJsonValue(QJsonValue::Undefined);
-    if (field.kind == ConfigFieldKind::Flag)
-        return number != 0;
-    return number;
+    if (field.kind == ConfigFieldKind::Number)
+        return number;
+    return number != 0;
 }
 
 QString keyOf(std::string_view name)
@@ -92,12 +133,8 @@ std::optional<std::uint32_t> unpackConfigText(std::string_view name, std::string
 
     // Filled beside the record, which stays whole when a later key is bad.
     QByteArray filled(static_cast<const char *>(record), static_cast<qsizetype>(table->recordSize));
-    const QJsonObject object = inner.toObject();
-    for (const ConfigField &field : table->fields) {
-        const QJsonValue value = object.value(QLatin1String(field.key));
-        if (!value.isUndefined() && !unpackField(field, value, filled.data()))
-            return std::nullopt;
-    }
+    if (!unpackFields(table->fields, inner.toObject(), filled.data()))
+        return std::nullopt;
     std::memcpy(filled.data(), &table->recordSize, sizeof(table->recordSize));
     std::memcpy(record, filled.constData(), table->recordSize);
     return table->recordSize;
@@ -108,14 +145,10 @@ std::optional<QByteArray> packConfigText(std::string_view name, const void *reco
     const ConfigTable *table = tableFor(name, record, recordSize);
     if (!table)
         return std::nullopt;
-    QJsonObject object;
-    for (const ConfigField &field : table->fields) {
-        const QJsonValue value = packedField(field, static_cast<const char *>(record));
-        if (value.isUndefined())
-            return std::nullopt;
-        object.insert(QLatin1String(field.key), value);
-    }
-    return QJsonDocument(QJsonObject{{keyOf(name), object}}).toJson(QJsonDocument::Compact);
+    const std::optional<QJsonObject> object = packedFields(table->fields, static_cast<const char *>(record));
+    if (!object)
+        return std::nullopt;
+    return QJsonDocument(QJsonObject{{keyOf(name), *object}}).toJson(QJsonDocument::Compact);
 }
 
 } // namespace sdk

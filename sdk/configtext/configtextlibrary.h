@@ -11,6 +11,8 @@ class ConfigTextLibrary : public ConfigLibrary
 public:
     bool ConfigParseData(std::string_view name, std::string_view text, void *record, std::uint32_t recordSize,
                          std::uint32_t &returnedSize) override;
+    bool ConfigPackData(std::string_view name, const void *record, std::uint32_t recordSize, char *text,
+                        std::uint32_t textSize) override;
 };
 
 } // namespace sdk

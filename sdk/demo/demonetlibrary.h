@@ -10,6 +10,7 @@
 
 #include <QJsonObject>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -62,11 +63,32 @@ public:
                          std::uint32_t textSize, std::int32_t &error,
                          std::chrono::milliseconds wait) override;
 
+    // Items and capabilities: demonetconfiguration.cpp
+    bool NetQueryCapabilities(std::int64_t loginHandle, CapabilityQuery query, const void *input,
+                              void *output, std::chrono::milliseconds wait) override;
+    bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
+                    std::uint32_t blockSize, std::chrono::milliseconds wait) override;
+
     // Requests to devices without a login
     bool NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
                               std::chrono::milliseconds wait, const char *localAddress) override;
     bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
                                  std::chrono::milliseconds wait) override;
+
+    // Maintenance
+    bool NetSetDeviceSetting(std::int64_t loginHandle, DeviceSetting setting, std::int32_t channel,
+                             const void *block, std::uint32_t blockSize,
+                             std::chrono::milliseconds wait) override;
+    bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
+                    std::uint32_t blockSize, std::chrono::milliseconds wait) override;
+    bool NetSetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel, const char *text,
+                         std::uint32_t textSize, std::int32_t &error,
+                         std::chrono::milliseconds wait) override;
+    bool NetRebootDevice(std::int64_t loginHandle, std::chrono::milliseconds wait) override;
+    bool NetResetSystem(std::int64_t loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
+                        std::chrono::milliseconds wait) override;
+    bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
+                           std::chrono::milliseconds wait) override;
 
 private:
     /// How long an address search goes on.
@@ -101,8 +123,21 @@ private:
     std::optional<SceneDevice> askedDevice(const CallGate::Call &call,
                                            const std::optional<DemoSession> &session,
                                            std::chrono::milliseconds wait);
+    /// Lets `change` change the device of a session; it returns what the device refuses with.
+    bool maintain(const CallGate::Call &call, const std::optional<DemoSession> &session,
+                  std::chrono::milliseconds wait, const std::function<NetError(SceneDevice &device)> &change);
     bool fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
-                     const QString &name, char *text, std::uint32_t textSize, std::chrono::milliseconds wait);
+                     const QString &name, std::int32_t channel, char *text, std::uint32_t textSize,
+                     std::chrono::milliseconds wait);
+    bool setItemOfChannel(const CallGate::Call &call, std::int64_t loginHandle,
+                          const std::optional<DemoSession> &session, std::uint32_t item, std::int32_t channel,
+                          const void *block, std::uint32_t blockSize, std::chrono::milliseconds wait);
+    bool queryEncode(const CallGate::Call &call, std::int64_t loginHandle,
+                     const std::optional<DemoSession> &session, const EncodeCapabilityInput *input,
+                     EncodeCapabilities *output, std::chrono::milliseconds wait);
+    bool queryCamera(const CallGate::Call &call, std::int64_t loginHandle,
+                     const std::optional<DemoSession> &session, const CameraCapabilityInput *input,
+                     CameraCapabilities *output, std::chrono::milliseconds wait);
 
     /// Whether a request without a login may go to `mac`; with the error left when not.
     bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,

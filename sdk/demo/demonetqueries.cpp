@@ -58,6 +58,8 @@ bool DemoNetLibrary::NetQueryConfig(std::int64_t loginHandle, QueryCommand comma
     switch (command) {
     case QueryCommand::DeviceAttributes:
         return answer(deviceAttributes(*device));
+    case QueryCommand::Time:
+        return answer(deviceTime(*device, m_site.clock().now()));
     case QueryCommand::NetworkServices:
         return answer(networkServices(*device));
     }
@@ -78,20 +80,20 @@ bool DemoNetLibrary::NetGetNewConfig(std::int64_t loginHandle, const char *name,
             {QStringLiteral("textSize"), static_cast<qint64>(textSize)},
             {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
            session.value_or(DemoSession()).mac);
-    const bool isFetched = fetchConfig(call, session, wanted, text, textSize, wait);
+    const bool isFetched = fetchConfig(call, session, wanted, channel, text, textSize, wait);
     error = isFetched ? 0 : static_cast<std::int32_t>(m_error.last());
     return isFetched;
 }
 
 bool DemoNetLibrary::fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
-                                 const QString &name, char *text, std::uint32_t textSize,
-                                 std::chrono::milliseconds wait)
+                                 const QString &name, std::int32_t channel, char *text,
+                                 std::uint32_t textSize, std::chrono::milliseconds wait)
 {
     const std::optional<SceneDevice> device = askedDevice(call, session, wait);
     if (!device)
         return false;
     const std::optional<FaultSetting> refusal = device->fault(Fault::RefusesConfiguration);
-    const std::optional<QByteArray> answer = configurationText(*device, name);
+    const std::optional<QByteArray> answer = configurationText(*device, name, channel);
     if (!answer || (refusal && refusal->text == name))
         return m_error.fail(NetError::NotSupported);
     // The constant data of a byte array end with a zero.

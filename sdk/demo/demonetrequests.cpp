@@ -15,7 +15,7 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
         return m_error.fail(DemoError::NotPrepared);
     const std::optional<SceneDevice> device = m_site.device(mac);
     if (device && !device->isRemote && (fromOtherSegment || !device->inOtherSegment) &&
-        !device->hasFault(Fault::NoAnswer))
+        device->isListening(m_site.clock().now()))
         return true;
     const bool isFullWait = m_site.clock().wait(bounded(wait), call.stop());
     return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);

@@ -34,6 +34,14 @@ constexpr std::array entries = {
     FaultEntry{Fault::UpgradeFailsAt, "upgradeFailsAt", FaultValue::Number},
     FaultEntry{Fault::OddBytes, "oddBytes", FaultValue::None},
     FaultEntry{Fault::OverLongTexts, "overLongTexts", FaultValue::None},
+    FaultEntry{Fault::RefusesSetting, "refusesSetting", FaultValue::Number},
+    FaultEntry{Fault::RefusesReboot, "refusesReboot", FaultValue::None},
+    FaultEntry{Fault::RefusesReset, "refusesReset", FaultValue::None},
+    FaultEntry{Fault::RefusesPasswordChange, "refusesPasswordChange", FaultValue::None},
+    FaultEntry{Fault::RefusesCapabilities, "refusesCapabilities", FaultValue::None},
+    FaultEntry{Fault::OddCapabilities, "oddCapabilities", FaultValue::None},
+    FaultEntry{Fault::OddConfiguration, "oddConfiguration", FaultValue::Text},
+    FaultEntry{Fault::OverLongConfiguration, "overLongConfiguration", FaultValue::Text},
 };
 
 constexpr bool indexedByFault()
@@ -42,7 +50,7 @@ constexpr bool indexedByFault()
         if (static_cast<std::size_t>(entries[index].fault) != index)
             return false;
     }
-    return entries.back().fault == Fault::OverLongTexts;
+    return entries.back().fault == Fault::OverLongConfiguration;
 }
 static_assert(indexedByFault());
 

@@ -28,6 +28,14 @@ enum class Fault
     UpgradeFailsAt,        ///< an upgrade fails at `number` %
     OddBytes,              ///< texts hold control characters, markup, line breaks and invalid UTF-8
     OverLongTexts,         ///< texts fill their fields to the last byte, without a terminating zero
+    RefusesSetting,        ///< refuses to write setting `number`
+    RefusesReboot,         ///< refuses to reboot
+    RefusesReset,          ///< refuses to become factory-new
+    RefusesPasswordChange, ///< refuses a new password
+    RefusesCapabilities,   ///< does not tell what it can do
+    OddCapabilities,       ///< counts beyond every bound, bits that nobody knows, sizes of 0
+    OddConfiguration,      ///< the configuration named `text` is no JSON
+    OverLongConfiguration, ///< the configuration named `text` is larger than any buffer
 };
 
 /// What a fault needs beside its name.

@@ -1,8 +1,10 @@
 // A simulated site as data: what a scene file says.
 #pragma once
 
+#include "sdk/demo/channelsettings.h"
 #include "sdk/demo/fault.h"
 #include "sdk/searchblocks.h"
+#include "sdk/systemblocks.h"
 
 #include <QJsonObject>
 #include <QList>
@@ -30,6 +32,14 @@ struct SceneChannel
     bool connected = true;
 };
 
+/// What a device's maintenance changes, beside its accounts and its configuration.
+struct SceneMaintenance
+{
+    std::chrono::milliseconds clockAhead{0}; ///< of the site's clock, as the device's own clock stands
+    std::int64_t awayUntil = 0;              ///< on the site's clock: the device reboots until then
+    VideoStandard videoStandard = VideoStandard::Pal;
+};
+
 /// One simulated device.
 struct SceneDevice
 {
@@ -53,12 +63,20 @@ struct SceneDevice
     QList<SceneAccount> accounts;
     QList<SceneChannel> channels;
     QJsonObject capabilities;
+    ChannelSettings channelSettings;        ///< what was written to the channels; not part of scene files
     QJsonObject configuration;              ///< by name; laid over what the device tells of its own state
     std::chrono::milliseconds latency{100}; ///< from a request to the device's answer
     bool inOtherSegment = false;  ///< out of reach of local searches; answers when its address is asked
     bool isRemote = false;        ///< out of reach of everything but the port agent
     bool knowsFirstSearch = true; ///< false: answers only the second kind (…Ex) of search
     QList<FaultSetting> faults;   ///< each fault at most once
+    SceneMaintenance maintenance;
+
+    /// Whether the device hears anything at `time` of the site's clock.
+    [[nodiscard]] bool isListening(std::int64_t time) const
+    {
+        return time >= maintenance.awayUntil && !hasFault(Fault::NoAnswer);
+    }
 
     /// The device's setting of `wanted`; nothing while the device does not have that fault.
     [[nodiscard]] std::optional<FaultSetting> fault(Fault wanted) const

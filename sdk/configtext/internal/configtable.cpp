@@ -1,6 +1,8 @@
 #include "sdk/configtext/internal/configtable.h"
 
 #include "sdk/configrecords.h"
+#include "sdk/configtext/internal/picturetables.h"
+#include "sdk/systemrecords.h"
 
 #include <algorithm>
 #include <array>
@@ -47,18 +49,81 @@ constexpr std::array httpsFields = {
     number("port", offsetof(HttpsRecord, port), 0, highestPort),
 };
 
+// Maintenance
+
+constexpr ConfigField byteFlag(const char *key, std::size_t offset)
+{
+    return {key, offset, ConfigFieldKind::ByteFlag, 0, 1, 1};
+}
+
+constexpr std::int32_t lastMinute = 59;
+constexpr std::int32_t lastHour = 23;
+constexpr std::int32_t longestMonth = 31;
+
+constexpr std::size_t daylightBegin = offsetof(LocalesRecord, begin);
+constexpr std::size_t daylightEnd = offsetof(LocalesRecord, end);
+constexpr std::array localesFields = {
+    flag("daylightSaving", offsetof(LocalesRecord, daylightSavingEnabled)),
+    number("beginMonth", daylightBegin + offsetof(DaylightSavingPoint, month), 0, 12),
+    number("beginWeek", daylightBegin + offsetof(DaylightSavingPoint, week), DaylightSavingPoint::lastWeek,
+           4),
+    number("beginDay", daylightBegin + offsetof(DaylightSavingPoint, day), 0, longestMonth),
+    number("beginHour", daylightBegin + offsetof(DaylightSavingPoint, hour), 0, lastHour),
+    number("beginMinute", daylightBegin + offsetof(DaylightSavingPoint, minute), 0, lastMinute),
+    number("endMonth", daylightEnd + offsetof(DaylightSavingPoint, month), 0, 12),
+    number("endWeek", daylightEnd + offsetof(DaylightSavingPoint, week), DaylightSavingPoint::lastWeek, 4),
+    number("endDay", daylightEnd + offsetof(DaylightSavingPoint, day), 0, longestMonth),
+    number("endHour", daylightEnd + offsetof(DaylightSavingPoint, hour), 0, lastHour),
+    number("endMinute", daylightEnd + offsetof(DaylightSavingPoint, minute), 0, lastMinute),
+    text("timeFormat", offsetof(LocalesRecord, timeFormat), sizeof(LocalesRecord::timeFormat)),
+};
+
+constexpr std::array autoMaintainFields = {
+    number("rebootDay", offsetof(AutoMaintainRecord, rebootDay), AutoMaintainRecord::never,
+           AutoMaintainRecord::everyDay),
+    number("rebootHour", offsetof(AutoMaintainRecord, rebootHour), 0, lastHour),
+    number("rebootMinute", offsetof(AutoMaintainRecord, rebootMinute), 0, lastMinute),
+    byteFlag("rebootEnabled", offsetof(AutoMaintainRecord, rebootEnabled)),
+};
+
+constexpr std::array ntpFields = {
+    flag("enabled", offsetof(NtpRecord, enabled)),
+    text("address", offsetof(NtpRecord, address), sizeof(NtpRecord::address)),
+    number("port", offsetof(NtpRecord, port), 0, highestPort),
+    number("updatePeriod", offsetof(NtpRecord, updatePeriod), 0, 65535),
+    number("timeZone", offsetof(NtpRecord, timeZone), 0, NtpRecord::timeZones - 1),
+};
+
 constexpr std::array tables = {
     ConfigTable{"Network", sizeof(NetworkRecord), networkFields},
     ConfigTable{"DVRIP", sizeof(ServiceRecord), serviceFields},
     ConfigTable{"Https", sizeof(HttpsRecord), httpsFields},
+    ConfigTable{"Locales", sizeof(LocalesRecord), localesFields},
+    ConfigTable{"AutoMaintain", sizeof(AutoMaintainRecord), autoMaintainFields},
+    ConfigTable{"NTP", sizeof(NtpRecord), ntpFields},
+    ConfigTable{"Encode", sizeof(EncodeRecord), picturetables::encodeFields},
+    ConfigTable{"VideoColor", sizeof(VideoColorRecord), picturetables::videoColorFields},
+    ConfigTable{"Lighting_V2", sizeof(LightingRecord), picturetables::lightingFields},
 };
+
+/// Bytes from the field's offset that it and what is in it take.
+constexpr std::size_t fieldSize(const ConfigField &field)
+{
+    if (field.kind == ConfigFieldKind::Text || field.kind == ConfigFieldKind::ByteFlag)
+        return field.size;
+    if (field.kind != ConfigFieldKind::Object)
+        return sizeof(std::int32_t);
+    std::size_t size = 0;
+    for (std::size_t place = 0; place < field.innerCount; ++place)
+        size = std::max(size, field.inner[place].offset + fieldSize(field.inner[place]));
+    return size;
+}
 
 /// Every field lies behind the record's own size and ends within the record.
 constexpr bool fieldsLieInRecord(const ConfigTable &table)
 {
     return std::all_of(table.fields.begin(), table.fields.end(), [&table](const ConfigField &field) {
-        const bool isText = field.kind == ConfigFieldKind::Text;
-        const std::size_t size = isText ? field.size : sizeof(std::int32_t);
+        const std::size_t size = fieldSize(field);
         return size > 0 && field.offset >= sizeof(std::uint32_t) && field.offset + size <= table.recordSize;
     });
 }

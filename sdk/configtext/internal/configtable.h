@@ -10,9 +10,11 @@ namespace sdk {
 
 enum class ConfigFieldKind
 {
-    Number, ///< std::int32_t from `minimum` to `maximum`; a whole number in JSON
-    Flag,   ///< std::int32_t 0 or 1; true or false in JSON
-    Text,   ///< `size` chars, UTF-8, ended by a zero; a text in JSON
+    Number,   ///< std::int32_t from `minimum` to `maximum`; a whole number in JSON
+    Flag,     ///< std::int32_t 0 or 1; true or false in JSON
+    ByteFlag, ///< std::uint8_t 0 or 1; true or false in JSON
+    Text,     ///< `size` chars, UTF-8, ended by a zero; a text in JSON
+    Object,   ///< `inner` fields, whose offsets count from this field's; an object in JSON
 };
 
 /// One key of a configuration and the field of the record that it fills.
@@ -24,6 +26,8 @@ struct ConfigField
     std::int32_t minimum = 0;
     std::int32_t maximum = 0;
     std::size_t size = 0;
+    const ConfigField *inner = nullptr;
+    std::size_t innerCount = 0;
 };
 
 struct ConfigTable

@@ -8,9 +8,9 @@ namespace sdk::demo {
 
 namespace {
 
-bool answersKind(const SceneDevice &device, SearchKind kind)
+bool answersKind(const SceneDevice &device, SearchKind kind, std::int64_t start)
 {
-    return !device.isRemote && !device.hasFault(Fault::NoAnswer) &&
+    return !device.isRemote && device.isListening(start) &&
            (kind == SearchKind::Second || device.knowsFirstSearch);
 }
 
@@ -38,7 +38,7 @@ std::vector<PlannedAnswer> planLocalSearch(const DemoSite &site, SearchKind kind
 {
     std::vector<PlannedAnswer> answers;
     site.visitDevices([&](const SceneDevice &device) {
-        if (device.inOtherSegment || !answersKind(device, kind))
+        if (device.inOtherSegment || !answersKind(device, kind, start))
             return;
         if (!device.address.isEmpty())
             plan(answers, device, 4, start);
@@ -55,7 +55,7 @@ std::vector<PlannedAnswer> planAddressSearch(const DemoSite &site, SearchKind ki
 {
     std::vector<PlannedAnswer> answers;
     site.visitDevices([&](const SceneDevice &device) {
-        if (!answersKind(device, kind))
+        if (!answersKind(device, kind, start))
             return;
         // Nothing can be sent to a device that has no address yet.
         if (device.address != QLatin1String("0.0.0.0") && addresses.contains(device.address))

@@ -21,6 +21,15 @@ void DemoSessions::closeAll()
     m_sessions.clear();
 }
 
+void DemoSessions::breakSessionsTo(const QString &mac)
+{
+    const std::lock_guard lock(m_mutex);
+    for (auto &entry : m_sessions) {
+        if (entry.second.mac == mac)
+            entry.second.isBroken = true;
+    }
+}
+
 std::optional<DemoSession> DemoSessions::session(std::int64_t handle) const
 {
     const std::lock_guard lock(m_mutex);

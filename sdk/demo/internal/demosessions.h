@@ -14,7 +14,8 @@ namespace sdk::demo {
 struct DemoSession
 {
     QString mac;
-    int localPort = 0; ///< of the port agent, 0 for a session that goes to the device directly
+    int localPort = 0;     ///< of the port agent, 0 for a session that goes to the device directly
+    bool isBroken = false; ///< the device has rebooted since
 };
 
 /// Thread-safe. A handle is never given twice.
@@ -24,6 +25,9 @@ public:
     std::int64_t open(const DemoSession &session);
     bool close(std::int64_t handle);
     void closeAll();
+
+    /// Nothing goes through the sessions to a device any more; they are still to be closed.
+    void breakSessionsTo(const QString &mac);
     [[nodiscard]] std::optional<DemoSession> session(std::int64_t handle) const;
 
 private:

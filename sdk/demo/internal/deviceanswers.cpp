@@ -2,8 +2,11 @@
 
 #include "sdk/configrecords.h"
 #include "sdk/configtext/configtext.h"
+#include "sdk/demo/internal/channelitems.h"
 #include "sdk/demo/internal/fieldtext.h"
+#include "sdk/systemrecords.h"
 
+#include <QDateTime>
 #include <QJsonDocument>
 
 namespace sdk::demo {
@@ -32,6 +35,27 @@ NetworkRecord networkRecord(const SceneDevice &device)
     return record;
 }
 
+/// As a device leaves the factory; what it is told since is in its configuration.
+std::optional<QByteArray> maintenanceText(const QString &name)
+{
+    constexpr int fetchingPort = 123;
+    if (name == QLatin1String("Locales")) {
+        LocalesRecord record = {
+            sizeof(record), 0, {4, 1, 0, 2, 0}, {10, DaylightSavingPoint::lastWeek, 0, 2, 0}, {}, {}};
+        writePlain(record.timeFormat, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+        return packConfigText("Locales", &record, sizeof(record));
+    }
+    if (name == QLatin1String("AutoMaintain")) {
+        const AutoMaintainRecord record = {sizeof(record), AutoMaintainRecord::never, 0, 0, {}, 0, {}};
+        return packConfigText("AutoMaintain", &record, sizeof(record));
+    }
+    if (name == QLatin1String("NTP")) {
+        const NtpRecord record = {sizeof(record), 0, {}, fetchingPort, 10, 0, {}};
+        return packConfigText("NTP", &record, sizeof(record));
+    }
+    return std::nullopt;
+}
+
 std::optional<QByteArray> ownText(const SceneDevice &device, const QString &name)
 {
     if (name == QLatin1String("Network")) {
@@ -46,7 +70,7 @@ std::optional<QByteArray> ownText(const SceneDevice &device, const QString &name
         const HttpsRecord record = {sizeof(record), 0, usualHttpsPort, 0};
         return packConfigText("Https", &record, sizeof(record));
     }
-    return std::nullopt;
+    return maintenanceText(name);
 }
 
 } // namespace
@@ -76,11 +100,32 @@ NetworkServices networkServices(const SceneDevice &device)
     return services;
 }
 
-std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name)
+TimeRecord deviceTime(const SceneDevice &device, std::int64_t now)
 {
-    std::optional<QByteArray> text = ownText(device, name);
+    const std::int64_t shown = now + device.maintenance.clockAhead.count();
+    const QDateTime time = QDateTime::fromMSecsSinceEpoch(shown, Qt::UTC);
+    const auto part = [](int number) {
+        return static_cast<std::uint32_t>(number);
+    };
+    return {part(time.date().year()), part(time.date().month()),  part(time.date().day()),
+            part(time.time().hour()), part(time.time().minute()), part(time.time().second())};
+}
+
+std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name,
+                                            std::int32_t channel)
+{
+    std::optional<QByteArray> text =
+        isChannelConfiguration(name) ? channelText(device, name, channel) : ownText(device, name);
     const QJsonObject laidOver = device.configuration.value(name).toObject();
-    if (!text || laidOver.isEmpty())
+    if (!text)
+        return text;
+    if (const std::optional<FaultSetting> odd = device.fault(Fault::OddConfiguration);
+        odd && odd->text == name)
+        return text->chopped(1) + "\x07\xff\n"; // its last bracket is missing
+    if (const std::optional<FaultSetting> odd = device.fault(Fault::OverLongConfiguration);
+        odd && odd->text == name)
+        return *text + QByteArray(static_cast<qsizetype>(longestConfigText), ' ');
+    if (laidOver.isEmpty())
         return text;
     QJsonObject object = QJsonDocument::fromJson(*text).object().value(name).toObject();
     for (auto entry = laidOver.constBegin(); entry != laidOver.constEnd(); ++entry)

@@ -3,6 +3,7 @@
 
 #include "sdk/demo/scene.h"
 #include "sdk/loginblocks.h"
+#include "sdk/systemblocks.h"
 
 #include <QByteArray>
 
@@ -11,8 +12,13 @@ namespace sdk::demo {
 [[nodiscard]] DeviceAttributes deviceAttributes(const SceneDevice &device);
 [[nodiscard]] NetworkServices networkServices(const SceneDevice &device);
 
+/// What the device's own clock shows at `now` of the site's clock.
+[[nodiscard]] TimeRecord deviceTime(const SceneDevice &device, std::int64_t now);
+
 /// The configuration text `name`: the device's own state, with the scene's "configuration" of that name laid
-/// over it. Nothing when the device does not know the name.
-[[nodiscard]] std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name);
+/// over it. `channel` is for configurations of channels. Nothing when the device does not know the name or
+/// has no such channel.
+[[nodiscard]] std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name,
+                                                          std::int32_t channel = -1);
 
 } // namespace sdk::demo

@@ -1,5 +1,6 @@
 #include "sdk/demo/internal/devicereach.h"
 
+#include "sdk/clock.h"
 #include "sdk/demo/demop2pagentlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/addresstext.h"
@@ -11,7 +12,7 @@ namespace {
 DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int localPort)
 {
     const std::optional<SceneDevice> device = site.device(tunnel.mac);
-    if (tunnel.isBroken || !device || device->hasFault(Fault::NoAnswer))
+    if (tunnel.isBroken || !device || !device->isListening(site.clock().now()))
         return {};
     if (tunnel.devicePort != device->port)
         return {DeviceReach::Kind::Refuses};
@@ -32,9 +33,10 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port)
     DeviceReach found;
     if (isLoopback)
         found.kind = DeviceReach::Kind::Refuses; // this computer is always there
+    const std::int64_t now = site.clock().now();
     site.visitDevices([&](const SceneDevice &device) {
         const bool isHere = ipv6.isEmpty() ? isIpv4 && device.address == address : device.ipv6 == ipv6;
-        if (!isHere || device.isRemote || device.hasFault(Fault::NoAnswer) ||
+        if (!isHere || device.isRemote || !device.isListening(now) ||
             found.kind == DeviceReach::Kind::Answers)
             return;
         if (device.port == port)
@@ -47,9 +49,11 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port)
 
 bool isReachable(const DemoSite &site, const DemoSession &session)
 {
+    if (session.isBroken)
+        return false;
     if (session.localPort == 0) {
         const std::optional<SceneDevice> device = site.device(session.mac);
-        return device && !device->hasFault(Fault::NoAnswer);
+        return device && device->isListening(site.clock().now());
     }
     const std::optional<Tunnel> tunnel = site.portAgent().tunnel(session.localPort);
     return tunnel && tunnel->mac == session.mac &&

@@ -3,6 +3,7 @@
 #include "sdk/configrecords.h"
 #include "sdk/configtext/configtext.h"
 #include "sdk/configtext/configtextlibrary.h"
+#include "sdk/systemrecords.h"
 
 #include <QTest>
 
@@ -145,6 +146,9 @@ void ConfigTextTest::packedTextUnpacksToTheSame()
     goesRound("Network", network);
     goesRound("DVRIP", ServiceRecord{0, 65535, 2147483647, {}});
     goesRound("Https", HttpsRecord{0, 1, 8443, 0});
+    goesRound("Locales", LocalesRecord{0, 1, {3, -1, 0, 2, 0}, {10, 0, 31, 23, 59}, {"HH:mm"}, {}});
+    goesRound("AutoMaintain", AutoMaintainRecord{0, -1, 23, 59, {}, 1, {}});
+    goesRound("NTP", NtpRecord{0, 1, {"time.example"}, 65535, 65535, 39, {}});
 }
 
 void ConfigTextTest::refusesToPackBadRecords()
@@ -157,6 +161,18 @@ void ConfigTextTest::refusesToPackBadRecords()
     QVERIFY(!packConfigText("Https", &record, sizeof(record)));
     record = {sizeof(HttpsRecord), 2, 443, 0};
     QVERIFY(!packConfigText("Https", &record, sizeof(record)));
+    const AutoMaintainRecord byteOutOfRange{sizeof(AutoMaintainRecord), 0, 0, 0, {}, 2, {}};
+    QVERIFY(!packConfigText("AutoMaintain", &byteOutOfRange, sizeof(byteOutOfRange)));
+
+    // A text that does not fit with its zero leaves the buffer as it was.
+    record.enabled = 1;
+    const qsizetype length = packConfigText("Https", &record, sizeof(record))->size();
+    QByteArray buffer(length + 1, 'x');
+    ConfigTextLibrary library;
+    QVERIFY(!library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length)));
+    QCOMPARE(buffer, QByteArray(length + 1, 'x'));
+    QVERIFY(library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length) + 1));
+    QCOMPARE(buffer.back(), '\0');
 
     NetworkRecord broken = {};
     broken.hostName.fill('\xe5'); // half letters to the last byte

@@ -1,0 +1,290 @@
+// Blocks of the camera image configuration: the items of a picture input, and what its camera can do. Every
+// number is a little-endian word of 32 bits. In each item the caller sets size and, where there is one, mode
+// before it reads.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace sdk {
+
+/// When settings of an item hold; its word "mode".
+enum class CameraMode : std::int32_t
+{
+    Day = 0,
+    Night = 1,
+    Normal = 2,
+};
+
+inline constexpr std::size_t cameraModeCount = 3;
+
+/// Item numbers of NetGetItem and NetSetItem that belong to a picture input.
+enum class CameraItem : std::uint32_t
+{
+    ChannelName = 1108,
+    Picture = 1301,
+    Mirror = 1302,
+    Stable = 1303,
+    Exposure = 1306,
+    BackLight = 1309,
+    Light = 1311,
+    WhiteBalance = 1315,
+    DayNight = 1316,
+    Defog = 1317,
+    Sharpness = 1318,
+    NoiseReduction = 1320,
+    MixedLight = 1324,
+};
+
+/// CameraItem::ChannelName.
+struct ChannelNameItem
+{
+    std::uint32_t size;
+    std::array<char, 256> name; ///< UTF-8
+};
+static_assert(sizeof(ChannelNameItem) == 260);
+
+/// CameraItem::Picture. Values are 0 to 100 unless the camera's capabilities say otherwise.
+struct PictureItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t colorStyle; ///< 1 soft, 2 standard, 3 vivid
+    std::int32_t brightness;
+    std::int32_t contrast;
+    std::int32_t saturation;
+    std::int32_t hue;
+    std::int32_t gamma;
+    std::array<std::int32_t, 8> reserved;
+};
+static_assert(sizeof(PictureItem) == 64);
+static_assert(offsetof(PictureItem, brightness) == 12);
+
+/// CameraItem::Sharpness.
+struct SharpnessItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t sharpness;
+    std::array<std::int32_t, 2> reserved;
+};
+static_assert(sizeof(SharpnessItem) == 20);
+
+/// CameraItem::Mirror.
+struct MirrorItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t mirror; ///< 0 or 1
+    std::int32_t rotate; ///< 0 normal, 1 and 2 corridor, 3 upside down
+    std::int32_t reserved;
+};
+static_assert(sizeof(MirrorItem) == 20);
+
+/// CameraItem::Stable.
+struct StableItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t stable; ///< 0 or 1: electronic image stabilisation
+};
+static_assert(sizeof(StableItem) == 12);
+
+/// CameraItem::Exposure.
+struct ExposureItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t antiFlicker;
+    std::int32_t exposure; ///< kind of exposure
+    float shortestShutter; ///< in milliseconds
+    float longestShutter;
+    std::int32_t gain;
+    std::int32_t gainMinimum;
+    std::int32_t gainMaximum;
+    std::int32_t compensation;
+    std::int32_t irisAutomatic; ///< 0 or 1
+    std::array<std::int32_t, 5> reserved;
+};
+static_assert(sizeof(ExposureItem) == 64);
+static_assert(offsetof(ExposureItem, shortestShutter) == 16);
+
+/// CameraItem::NoiseReduction, which belongs to the exposure.
+struct NoiseReductionItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t type;  ///< 0 off, 1 automatic
+    std::int32_t level; ///< of the reduction over time
+};
+static_assert(sizeof(NoiseReductionItem) == 16);
+
+/// CameraItem::BackLight.
+struct BackLightItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t backMode;      ///< 0 off, 1 backlight, 2 wide dynamic range, 3 strong light
+    std::int32_t backLightMode; ///< of backlight compensation: 0 whole picture, 1 the region
+    std::int32_t wideDynamic;
+    std::int32_t glareInhibition;
+    std::int32_t regionTop; ///< the region, in 8192ths of the picture
+    std::int32_t regionBottom;
+    std::int32_t regionLeft;
+    std::int32_t regionRight;
+};
+static_assert(sizeof(BackLightItem) == 40);
+static_assert(offsetof(BackLightItem, regionTop) == 24);
+
+/// CameraItem::WhiteBalance.
+struct WhiteBalanceItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t type;
+    std::int32_t gainBlue;
+    std::int32_t gainRed;
+    std::array<std::int32_t, 2> reserved;
+};
+static_assert(sizeof(WhiteBalanceItem) == 28);
+
+/// CameraItem::DayNight.
+struct DayNightItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t type;        ///< 0 colour, 1 automatic, 2 black and white
+    std::int32_t sensitivity; ///< 1 low, 2 medium, 3 high
+    std::int32_t switchDelay; ///< in seconds
+};
+static_assert(sizeof(DayNightItem) == 20);
+
+/// CameraItem::Defog.
+struct DefogItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t defogMode; ///< 0 off, 1 manual, 2 automatic
+    std::int32_t intensity;
+    std::array<std::int32_t, 4> reserved;
+};
+static_assert(sizeof(DefogItem) == 32);
+
+/// CameraItem::Light: one kind of light. It holds at all times.
+struct LightItem
+{
+    std::uint32_t size;
+    std::int32_t controlMode; ///< 0 off, 1 manual, 2 automatic
+    std::int32_t lightMode;
+    std::int32_t nearLight;
+    std::int32_t farLight;
+    std::int32_t correction;
+};
+static_assert(sizeof(LightItem) == 24);
+
+/// CameraItem::MixedLight: cameras with infrared and white light.
+struct MixedLightItem
+{
+    std::uint32_t size;
+    std::int32_t mode;
+    std::int32_t controlMode;
+    std::int32_t mixMode; ///< which lights: 0 infrared, 1 white, 2 whichever serves
+    std::int32_t lightMode;
+    std::int32_t sensitive; ///< 1, 3 or 5
+    std::int32_t correction;
+    std::int32_t brightness;
+    std::int32_t delay; ///< in seconds
+    std::int32_t reserved;
+};
+static_assert(sizeof(MixedLightItem) == 40);
+
+/// Configuration "VideoColor": the pictures of a channel by CameraMode; the other entries are for times of
+/// day and not used.
+struct VideoColorRecord
+{
+    std::uint32_t size;
+    std::int32_t reserved;
+    std::array<PictureItem, 24> pictures; ///< their sizes and modes are not part of the configuration
+};
+static_assert(sizeof(VideoColorRecord) == 1544);
+static_assert(offsetof(VideoColorRecord, pictures) == 8);
+
+/// Configuration "Lighting_V2": the lights of a channel.
+struct LightingRecord
+{
+    std::uint32_t size;
+    std::int32_t reserved1;
+    std::array<MixedLightItem, cameraModeCount> lights; ///< by CameraMode, as `pictures` above
+    std::array<std::uint8_t, 384> reserved2;
+};
+static_assert(sizeof(LightingRecord) == 512);
+
+/// Bits of CameraCapabilities::groups.
+enum class CameraGroup : std::uint32_t
+{
+    Picture = 0,
+    Sharpness,
+    Mirror,
+    Stable,
+    Exposure,
+    BackLight,
+    WhiteBalance,
+    DayNight,
+    Defog,
+    Light,
+    MixedLight,
+};
+
+inline constexpr std::uint32_t cameraGroupCount = 11;
+
+/// The numbers that a setting may have. Comes from a device: it may be empty or the wrong way round.
+struct ValueRange
+{
+    std::int32_t minimum;
+    std::int32_t maximum;
+};
+static_assert(sizeof(ValueRange) == 8);
+
+/// Output of CapabilityQuery::Camera. In a mask bit N says that the camera knows value N.
+struct CameraCapabilities
+{
+    std::uint32_t size; ///< sizeof(CameraCapabilities), set by the caller
+    std::uint32_t groups;
+    std::uint32_t switchModeMask; ///< CameraMode
+    std::uint32_t colorStyleMask;
+    std::uint32_t rotateMask;
+    std::uint32_t antiFlickerMask;
+    std::uint32_t exposureMask;
+    std::uint32_t backModeMask;
+    std::uint32_t whiteBalanceMask;
+    std::uint32_t dayNightMask;
+    std::uint32_t defogMask;
+    std::uint32_t lightControlMask;
+    std::uint32_t mixedLightMask;
+    std::uint32_t reserved1;
+    ValueRange picture; ///< brightness, contrast, saturation, hue, gamma
+    ValueRange sharpness;
+    ValueRange gain;
+    ValueRange compensation;
+    ValueRange noiseReduction;
+    ValueRange wideDynamic;
+    ValueRange glareInhibition;
+    ValueRange whiteBalanceGain;
+    ValueRange defogIntensity;
+    ValueRange light; ///< near and far light, correction
+    ValueRange mixedLight;
+    std::array<std::uint8_t, 112> reserved2;
+};
+static_assert(sizeof(CameraCapabilities) == 256);
+static_assert(offsetof(CameraCapabilities, picture) == 56);
+
+/// Input of CapabilityQuery::Camera.
+struct CameraCapabilityInput
+{
+    std::uint32_t size; ///< sizeof(CameraCapabilityInput)
+    std::int32_t channel;
+};
+static_assert(sizeof(CameraCapabilityInput) == 8);
+
+} // namespace sdk

@@ -1,0 +1,187 @@
+// Blocks of the encode configuration: the items of a stream, and what a device's encoder can do. Numbers are
+// little-endian words of 32 bits unless their type says otherwise.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace sdk {
+
+/// Kinds of streams: each has its own items and its own capability block.
+enum class StreamKind : std::int32_t
+{
+    MainNormal = 0,
+    MainMotion = 1,
+    MainAlarm = 2,
+    Sub = 3,
+};
+
+inline constexpr std::size_t streamKindCount = 4;
+
+/// The word "stream" of items: counts the kinds from 1.
+[[nodiscard]] constexpr std::int32_t streamNumber(StreamKind kind)
+{
+    return static_cast<std::int32_t>(kind) + 1;
+}
+
+/// Item numbers of NetGetItem and NetSetItem that belong to a stream. In each, the caller sets
+/// size and stream before it reads.
+enum class EncodeItem : std::uint32_t
+{
+    VideoFormat = 1100,
+    VideoProfile = 1103,
+    AudioCompression = 1104,
+    AudioFormat = 1105,
+};
+
+/// Compression codes are the bits of EncodeCapabilityBlock::compressionMask.
+inline constexpr std::int32_t compressionH264 = 7;
+inline constexpr std::uint32_t compressionCount = 10;
+
+/// EncodeItem::VideoFormat.
+struct VideoFormatItem
+{
+    std::int32_t size;
+    std::int32_t stream;
+    std::int32_t videoEnable; ///< 0 or 1
+    std::int32_t compression; ///< 0 to 9
+    std::int32_t width;       ///< in pixels
+    std::int32_t height;
+    std::int32_t bitRateControl; ///< 0 fixed, 1 variable
+    std::int32_t bitRate;        ///< kbit/s
+    float frameRate;             ///< pictures a second
+    std::int32_t reserved;
+    std::int32_t quality; ///< 1 to 6
+};
+static_assert(sizeof(VideoFormatItem) == 44);
+static_assert(offsetof(VideoFormatItem, stream) == 4);
+static_assert(offsetof(VideoFormatItem, frameRate) == 32);
+static_assert(offsetof(VideoFormatItem, quality) == 40);
+
+/// EncodeItem::VideoProfile.
+struct VideoProfileItem
+{
+    std::int32_t size;
+    std::int32_t stream;
+    std::int32_t profile; ///< of H.264, 1 to 4
+};
+static_assert(sizeof(VideoProfileItem) == 12);
+static_assert(offsetof(VideoProfileItem, profile) == 8);
+
+/// EncodeItem::AudioCompression. The one item whose stream does not stand second.
+struct AudioCompressionItem
+{
+    std::int32_t size;
+    std::int32_t audioEnable; ///< 0 or 1
+    std::int32_t stream;
+    std::int32_t format; ///< audio format as configurations number it
+};
+static_assert(sizeof(AudioCompressionItem) == 16);
+static_assert(offsetof(AudioCompressionItem, stream) == 8);
+
+/// EncodeItem::AudioFormat.
+struct AudioFormatItem
+{
+    std::int32_t size;
+    std::int32_t stream;
+    std::int32_t reserved1;
+    std::int32_t samplingFrequency; ///< Hz
+    std::array<std::int32_t, 3> reserved2;
+};
+static_assert(sizeof(AudioFormatItem) == 28);
+static_assert(offsetof(AudioFormatItem, samplingFrequency) == 12);
+
+/// The size of a picture in pixels.
+struct PictureSize
+{
+    std::uint16_t width;
+    std::uint16_t height;
+};
+static_assert(sizeof(PictureSize) == 4);
+
+inline constexpr std::size_t maximumPictureSizes = 64;
+
+/// A list of picture sizes in a block. `count` comes from a device: it must be bounded before it is used.
+struct PictureSizeList
+{
+    std::uint32_t count; ///< used entries of `sizes`
+    std::array<PictureSize, maximumPictureSizes> sizes;
+};
+static_assert(sizeof(PictureSizeList) == 260);
+
+/// What the encoder can do for one kind of stream. The counts come from a device: they must be bounded before
+/// they are used.
+struct EncodeCapabilityBlock
+{
+    std::uint32_t size; ///< sizeof(EncodeCapabilityBlock), set by the caller
+    std::uint32_t compressionMask;
+    std::int32_t sizesDependOnCompression; ///< not 0: `sizesByCompression` holds, otherwise `sizes`
+    std::int32_t minimumBitRate;           ///< kbit/s
+    std::int32_t maximumBitRate;
+    std::int32_t maximumFrameRate;
+    std::uint32_t profileCount;                ///< used entries of `profiles`
+    std::array<std::int32_t, 8> profiles;      ///< values 1 to 4 of H.264 profiles; 0 stands for none
+    std::uint32_t audioFormatCount;            ///< used entries of `audioFormats`
+    std::array<std::int32_t, 64> audioFormats; ///< audio format codes as capabilities number them
+    PictureSizeList sizes;
+    std::array<PictureSizeList, 16> sizesByCompression; ///< by compression code
+    std::array<std::uint8_t, 236> reserved;
+};
+static_assert(sizeof(EncodeCapabilityBlock) == 4976);
+static_assert(offsetof(EncodeCapabilityBlock, sizes) == 320);
+
+/// Output of CapabilityQuery::Encode: a block for each StreamKind, and reserved ones.
+struct EncodeCapabilities
+{
+    std::uint32_t size; ///< sizeof(EncodeCapabilities), set by the caller
+    std::array<std::uint32_t, 3> reserved;
+    std::array<EncodeCapabilityBlock, 8> blocks;
+};
+static_assert(sizeof(EncodeCapabilities) == 39824);
+static_assert(offsetof(EncodeCapabilities, blocks) == 16);
+
+/// Input of CapabilityQuery::Encode.
+struct EncodeCapabilityInput
+{
+    std::uint32_t size; ///< sizeof(EncodeCapabilityInput)
+    std::uint32_t reserved1;
+    std::int32_t channel;
+    std::uint32_t reserved2;
+    const char *text; ///< configuration text "Encode", ended by a zero: the settings to answer for
+};
+static_assert(sizeof(EncodeCapabilityInput) == 24);
+static_assert(offsetof(EncodeCapabilityInput, channel) == 8);
+static_assert(offsetof(EncodeCapabilityInput, text) == 16);
+
+/// One stream in EncodeRecord.
+struct EncodeStreamRecord
+{
+    std::int32_t videoEnabled; ///< 0 or 1
+    std::int32_t compression;
+    std::int32_t profile; ///< of H.264, 0 when it is not said
+    std::int32_t width;
+    std::int32_t height;
+    std::int32_t bitRateControl;
+    std::int32_t bitRate;
+    std::int32_t frameRate;
+    std::int32_t quality;
+    std::int32_t audioEnabled; ///< 0 or 1
+    std::int32_t audioFormat;
+    std::int32_t samplingFrequency;
+    std::array<std::int32_t, 4> reserved;
+};
+static_assert(sizeof(EncodeStreamRecord) == 64);
+
+/// Configuration "Encode": the streams of a channel.
+struct EncodeRecord
+{
+    std::uint32_t size;
+    std::int32_t reserved1;
+    std::array<EncodeStreamRecord, streamKindCount> streams; ///< by StreamKind
+    std::array<std::uint8_t, 2568> reserved2;
+};
+static_assert(sizeof(EncodeRecord) == 2832);
+static_assert(offsetof(EncodeRecord, streams) == 8);
+
+} // namespace sdk
