@@ -372,9 +372,13 @@ int CDeviceFactory::getP2PWebPort(int port)
     return m_p2pPorts.webPortOf(port);
 }
 
-QVariantList CDeviceFactory::getDays(int)
+QVariantList CDeviceFactory::getDays(int month)
 {
-    return {};
+    const int count = QDate(QDate::currentDate().year(), month, 1).daysInMonth();
+    QVariantList days;
+    for (int day = 1; day <= count; ++day)
+        days.append(day);
+    return days;
 }
 
 void CDeviceFactory::snapPictureToFile(const QString &family, const QString &kind, const QVariant &channelNum,

@@ -106,6 +106,7 @@ public:
                                   const QStringList &ipports);
     Q_INVOKABLE void addP2PPort(int p2pPort, int webPort);
     Q_INVOKABLE int getP2PWebPort(int port);
+    /// The days of a month (1 to 12) of this year, as numbers from 1; none for any other number.
     Q_INVOKABLE QVariantList getDays(int month);
     /// True while a device of any family is being upgraded.
     Q_INVOKABLE bool hasDeviceUpgrading();

@@ -2,6 +2,8 @@
 
 #include "device/devicerow.h"
 #include "device/devicestore.h"
+#include "device/dh/cameraconfig.h"
+#include "device/dh/encodeconfig.h"
 #include "device/logging.h"
 #include "device/loginresult.h"
 #include "sdk/netlibrary.h"
@@ -20,7 +22,9 @@ CDeviceDH *agentListener = nullptr;
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      std::function<SearchSettings()> searchSettings)
     : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
-      m_search(std::make_unique<DeviceSearch>(std::move(store), m_libraries))
+      m_search(std::make_unique<DeviceSearch>(std::move(store), m_libraries)), m_keptLogins(m_libraries.net),
+      m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
+      m_camera(std::make_unique<CameraConfig>(m_tables, m_channels))
 {
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
@@ -45,6 +49,7 @@ CDeviceDH::~CDeviceDH()
     }
     m_search->requestStop();
     endSession();
+    m_keptLogins.letAllGo();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_search.reset();

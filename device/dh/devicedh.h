@@ -2,6 +2,10 @@
 
 #include "device/devicebase.h"
 #include "device/devicesearch.h"
+#include "device/dh/channelchoice.h"
+#include "device/dh/keptlogins.h"
+#include "device/dh/systemaction.h"
+#include "device/dh/valuetables.h"
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
 
@@ -9,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+class CameraConfig;
+class EncodeConfig;
 struct DeviceListLine;
 
 /// What a search reads from the local configuration.
@@ -78,6 +84,29 @@ public:
     QVariantList importFailures() override;
     QString importError() override;
 
+    // System configuration: devicedhsystem.cpp
+    /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
+    /// when it refuses, also for an unknown command and for data that make no sense. `loginCheck` keeps
+    /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`.
+    void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
+
+    // The configuration pages, of the current session's device: devicedhencode.cpp
+    void getEncodeCaps() override;
+    void getEncodeInfo() override;
+    QVariant getConfigData(const QString &key, const QVariant &channel) override;
+    /// `otype` is the sub-key of a value of the camera image page.
+    void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
+    void confirmConfigData() override;
+    /// The settings of the current channel go to the channel of the same number of each device. What a device
+    /// cannot do is skipped, and named in its row's "result".
+    void copyConfigToDevice(const QStringList &devlist) override;
+
+    // The camera image page: devicedhcamera.cpp
+    /// What the camera can do and its configurations; the values come with getVideoIn().
+    void getCameraConfig() override;
+    void getVideoIn() override;
+    void getVideoInByChangeChannel() override;
+
 private:
     /// The one login that configuration, live view and snapshots use.
     struct Session
@@ -89,15 +118,35 @@ private:
         QString password;
     };
 
+    struct Credentials
+    {
+        QString account;
+        QString password;
+    };
+
     void endSession();
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
+    void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
 
+    void performOn(const QStringList &ipports, const QString &command, const QVariantMap &data);
+    int performOn(const QString &ipport, const SystemAction &action);
+    void checkPasswords(const QStringList &ipports, const QString &password);
+    void modifyPasswords(const QStringList &ipports, const QString &newPassword);
+
+    /// Of the device's row; the default account for what the row does not have.
+    [[nodiscard]] Credentials credentialsOf(const QString &ipport) const;
+
+    const ValueTables m_tables;
     const sdk::SdkLibraries m_libraries;
     const std::function<SearchSettings()> m_searchSettings;
     std::unique_ptr<DeviceSearch> m_search;
     Session m_session;
+    KeptLogins m_keptLogins;
+    ChannelChoice m_channels; ///< of the session's device
+    std::unique_ptr<EncodeConfig> m_encode;
+    std::unique_ptr<CameraConfig> m_camera;
     QString m_defaultAccount;
     QString m_defaultPassword;
     bool m_isImporting = false;

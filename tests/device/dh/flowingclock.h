@@ -1,8 +1,8 @@
+// A stepped clock that passes by itself.
 #pragma once
 
 #include "sdk/demo/steppableclock.h"
 
-#include <chrono>
 #include <thread>
 
 /// Moves a stepped clock on whenever somebody waits for it, as time does.

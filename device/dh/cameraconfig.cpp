@@ -1,0 +1,81 @@
+#include "device/dh/cameraconfig.h"
+
+#include "device/dh/camerajob.h"
+#include "device/logging.h"
+
+CameraConfig::CameraConfig(const ValueTables &tables, const ChannelChoice &channels)
+    : m_tables(tables), m_channels(channels)
+{
+}
+
+void CameraConfig::begin(const ConfigSession &session)
+{
+    m_session = session;
+    m_state = {};
+}
+
+void CameraConfig::readColor(int channel)
+{
+    readVideoColor(m_session, channel, m_state);
+}
+
+bool CameraConfig::readCapabilities()
+{
+    const bool isTold = readCameraCapabilities(m_session, m_channels.curVideoChannel, m_state);
+    // A mode that this camera does not know gives way to its first.
+    const OfferedValues modes = CameraLists(m_tables, m_state.capabilities).switchModes;
+    if (modes.placeOf(static_cast<int>(m_state.mode)) < 0)
+        m_state.mode = static_cast<sdk::CameraMode>(modes.valueAt(0).value_or(0));
+    return isTold;
+}
+
+void CameraConfig::readItems()
+{
+    readCameraItems(m_session, m_channels.curVideoChannel, m_state);
+}
+
+QVariant CameraConfig::value(const QString &key) const
+{
+    return cameraValue(key, m_state, m_tables);
+}
+
+void CameraConfig::chooseMode(const QVariant &place)
+{
+    bool isNumber = false;
+    const int number = place.toInt(&isNumber);
+    const std::optional<int> mode = CameraLists(m_tables, m_state.capabilities).switchModes.valueAt(number);
+    if (isNumber && mode)
+        m_state.mode = static_cast<sdk::CameraMode>(*mode);
+}
+
+CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant &value, const QString &subKey)
+{
+    if (key == QLatin1String("curSwitchMode")) {
+        chooseMode(value); // the page reads the items of the mode itself
+        return Outcome::Taken;
+    }
+    const int channel = m_channels.curVideoChannel;
+    CameraState changed = m_state;
+    // Other hands than ours change it too, so it is read before it is written.
+    if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&
+        !readDefog(m_session, channel, changed))
+        return Outcome::Refused;
+    const QList<CameraWrite> writes = changeCamera(key, subKey, value, m_tables, changed);
+    if (writes.isEmpty()) {
+        qCWarning(logDevice) << "Camera:" << key << subKey << "cannot be set to" << value;
+        return Outcome::Ignored;
+    }
+    bool isTaken = true;
+    for (const CameraWrite write : writes)
+        isTaken = CameraJob(m_session, channel, changed).run(write) && isTaken;
+    if (isTaken) {
+        m_state = changed;
+        return Outcome::Taken;
+    }
+    // Of several writes some may have been taken: the device knows. One that is away would only wait.
+    if (!m_session.isDeviceAway() && readCameraCapabilities(m_session, channel, changed)) {
+        readCameraItems(m_session, channel, changed);
+        m_state = changed;
+    }
+    return Outcome::Refused;
+}

@@ -1,0 +1,49 @@
+// The camera image configuration of the logged-in device.
+#pragma once
+
+#include "device/dh/camerastate.h"
+#include "device/dh/channelchoice.h"
+#include "device/dh/valuetables.h"
+
+#include <QVariant>
+
+/// The camera of one channel of the current session's device. Every change goes to the device at once. Blocks
+/// for the waits of the library. One thread.
+class CameraConfig
+{
+public:
+    /// What came of a change.
+    enum class Outcome
+    {
+        Ignored, ///< no such setting or value: nothing was asked of the device
+        Taken,
+        Refused, ///< by the device; the values are again those that it has
+    };
+
+    /// `tables` and `channels` must outlive this object.
+    CameraConfig(const ValueTables &tables, const ChannelChoice &channels);
+
+    /// Turns to a new session; nothing is known of its device yet.
+    void begin(const ConfigSession &session);
+
+    /// Reads the configuration "VideoColor" of a channel.
+    void readColor(int channel);
+
+    /// Reads what the chosen channel's camera can do, and its configurations. Returns false when the device
+    /// does not tell: every group then says that it is not supported.
+    [[nodiscard]] bool readCapabilities();
+
+    /// Reads the values of the chosen channel and mode.
+    void readItems();
+
+    [[nodiscard]] QVariant value(const QString &key) const;
+    Outcome setValue(const QString &key, const QVariant &value, const QString &subKey);
+
+private:
+    void chooseMode(const QVariant &place);
+
+    const ValueTables &m_tables;
+    const ChannelChoice &m_channels;
+    ConfigSession m_session;
+    CameraState m_state;
+};

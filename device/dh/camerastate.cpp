@@ -1,0 +1,103 @@
+#include "device/dh/camerastate.h"
+
+#include "device/logging.h"
+
+namespace {
+
+/// Returns false, with the item zeroed but for its size and mode, when it cannot be read.
+template<typename Item>
+bool readItem(const ConfigSession &session, sdk::CameraItem number, int channel, sdk::CameraMode mode,
+              Item &item)
+{
+    const auto prepare = [mode](Item &prepared) {
+        prepared.size = sizeof(prepared);
+        if constexpr (requires { prepared.mode; })
+            prepared.mode = static_cast<std::int32_t>(mode);
+    };
+    item = {};
+    prepare(item);
+    Item read = item;
+    if (!session.readItem(static_cast<std::uint32_t>(number), channel, read)) {
+        qCWarning(logDevice) << "Camera: item" << static_cast<int>(number) << "cannot be read, error"
+                             << session.lastError();
+        return false;
+    }
+    item = read;
+    prepare(item); // whatever the device filled in: these are sent back
+    return true;
+}
+
+/// Returns false, with the record zeroed, when it cannot be had.
+template<typename Record>
+bool readConfiguration(const ConfigSession &session, const char *name, int channel, Record &record)
+{
+    record = {};
+    ConfigText text(cameraTextSize);
+    const std::int32_t error = session.fetchText(name, channel, text, cameraTextWait);
+    const bool isRead = error == 0 && session.unpack(name, text, record);
+    if (!isRead)
+        qCWarning(logDevice) << "Camera: no configuration" << name << "error" << error;
+    return isRead;
+}
+
+} // namespace
+
+void readVideoColor(const ConfigSession &session, int channel, CameraState &state)
+{
+    state.isColorKnown = readConfiguration(session, "VideoColor", channel, state.color);
+}
+
+bool readCameraCapabilities(const ConfigSession &session, int channel, CameraState &state)
+{
+    state.capabilities = {};
+    state.capabilities.size = sizeof(state.capabilities);
+    const sdk::CameraCapabilityInput input = {sizeof(input), channel};
+    if (!session.queryCapabilities(sdk::CapabilityQuery::Camera, input, state.capabilities)) {
+        qCWarning(logDevice) << "Camera: no capabilities of channel" << channel << "error"
+                             << session.lastError();
+        return false;
+    }
+    state.isColorKnown = state.isLightingKnown = false;
+    if (state.supports(sdk::CameraGroup::Picture))
+        readVideoColor(session, channel, state);
+    if (state.supports(sdk::CameraGroup::MixedLight))
+        state.isLightingKnown = readConfiguration(session, "Lighting_V2", channel, state.lighting);
+    readItem(session, sdk::CameraItem::ChannelName, channel, state.mode, state.channelName);
+    return true;
+}
+
+void readCameraItems(const ConfigSession &session, int channel, CameraState &state)
+{
+    bool isAway = false; // every further item would wait for nothing
+    const auto read = [&](sdk::CameraGroup group, sdk::CameraItem number, auto &item) {
+        if (state.supports(group) && !isAway && readItem(session, number, channel, state.mode, item))
+            return;
+        if (state.supports(group))
+            isAway = isAway || session.isDeviceAway();
+        state.capabilities.groups &= ~(1u << static_cast<std::uint32_t>(group));
+        item = {};
+    };
+    read(sdk::CameraGroup::Picture, sdk::CameraItem::Picture, state.picture);
+    read(sdk::CameraGroup::Sharpness, sdk::CameraItem::Sharpness, state.sharpness);
+    read(sdk::CameraGroup::Mirror, sdk::CameraItem::Mirror, state.mirror);
+    read(sdk::CameraGroup::Stable, sdk::CameraItem::Stable, state.stable);
+    read(sdk::CameraGroup::Exposure, sdk::CameraItem::Exposure, state.exposure);
+    read(sdk::CameraGroup::Exposure, sdk::CameraItem::NoiseReduction, state.noiseReduction);
+    read(sdk::CameraGroup::BackLight, sdk::CameraItem::BackLight, state.backLight);
+    read(sdk::CameraGroup::WhiteBalance, sdk::CameraItem::WhiteBalance, state.whiteBalance);
+    read(sdk::CameraGroup::DayNight, sdk::CameraItem::DayNight, state.dayNight);
+    read(sdk::CameraGroup::Defog, sdk::CameraItem::Defog, state.defog);
+    read(sdk::CameraGroup::Light, sdk::CameraItem::Light, state.light);
+    read(sdk::CameraGroup::MixedLight, sdk::CameraItem::MixedLight, state.mixedLight);
+    state.backLightByMode = state.backLight;
+    state.dayNightByMode = state.dayNight;
+}
+
+bool readDefog(const ConfigSession &session, int channel, CameraState &state)
+{
+    sdk::DefogItem item;
+    if (!readItem(session, sdk::CameraItem::Defog, channel, state.mode, item))
+        return false;
+    state.defog = item;
+    return true;
+}

@@ -1,0 +1,78 @@
+// The encode page.
+#include "device/devicerow.h"
+#include "device/devicestore.h"
+#include "device/dh/cameraconfig.h"
+#include "device/dh/devicedh.h"
+#include "device/dh/encodeconfig.h"
+#include "device/dh/encodecopy.h"
+#include "device/dh/securelogin.h"
+#include "sdk/netlibrary.h"
+
+void CDeviceDH::getEncodeCaps()
+{
+    const int result = m_encode->read();
+    m_camera->readColor(m_channels.curChannel);
+    Q_EMIT signalCDeviceGetDeviceCapRet(result);
+}
+
+void CDeviceDH::getEncodeInfo()
+{
+    const int result = m_encode->read();
+    Q_EMIT signalCDeviceChangeEncodeChannel();
+    Q_EMIT signalCDeviceGetDeviceCapRet(result);
+}
+
+QVariant CDeviceDH::getConfigData(const QString &key, const QVariant & /*channel*/)
+{
+    if (ChannelChoice::isKey(key))
+        return m_channels.value(key);
+    if (EncodeValues::isKey(key))
+        return m_encode->value(key);
+    return m_camera->value(key);
+}
+
+void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const QString &otype)
+{
+    if (ChannelChoice::isKey(key)) {
+        m_channels.choose(key, value);
+        return;
+    }
+    if (!EncodeValues::isKey(key)) {
+        setCameraValue(key, value, otype);
+        return;
+    }
+    const int result = m_encode->setValue(key, value);
+    if (result != 0)
+        Q_EMIT signalCDeviceGetDeviceCapRet(result);
+}
+
+void CDeviceDH::confirmConfigData()
+{
+    Q_EMIT signalCDeviceConfirmEncodeConfig(m_encode->confirm());
+}
+
+void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
+{
+    // A copy: the page may change its channel while a signal is being looked at.
+    const std::optional<EncodeState> state = m_encode->state();
+    const ChannelChoice channels = m_channels;
+    for (const QString &ipport : devlist) {
+        EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
+        if (state) {
+            const Credentials known = credentialsOf(ipport);
+            const SecureLogin login =
+                secureLogin(m_libraries.net.get(), ipport, known.account, known.password);
+            outcome.result = resultCode(login.result);
+            if (login.result == LoginResult::Success) {
+                outcome =
+                    copyEncodeSettings(m_tables, *state, channels, ConfigSession(m_libraries, login.handle));
+                m_libraries.net->NetLogout(login.handle);
+            }
+        }
+        const QString skipped = outcome.skipped.isEmpty()
+                                    ? QString()
+                                    : tr("未复制：%1").arg(outcome.skipped.join(QStringLiteral("、")));
+        store().changeRowAt(ipport, [&](QJsonObject &row) { row.insert(DeviceRowKey::result, skipped); });
+        Q_EMIT signalCDeviceRetToCopyConfig(ipport, outcome.result);
+    }
+}

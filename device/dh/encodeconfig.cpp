@@ -1,0 +1,87 @@
+#include "device/dh/encodeconfig.h"
+
+#include "device/logging.h"
+
+EncodeConfig::EncodeConfig(const ValueTables &tables, const ChannelChoice &channels)
+    : m_values(tables), m_tables(tables), m_channels(channels)
+{
+}
+
+void EncodeConfig::begin(const ConfigSession &session)
+{
+    m_session = session;
+    m_state.reset();
+}
+
+int EncodeConfig::read()
+{
+    EncodeState state = m_state.value_or(EncodeState());
+    const int result = readEncodeState(m_session, m_channels.curChannel, m_channels.curStreamType, state);
+    if (result == 0 || result == configurationUnreadable || result == capabilitiesUnknown)
+        m_state = state;
+    return result;
+}
+
+QVariant EncodeConfig::value(const QString &key) const
+{
+    static const EncodeState nothing;
+    return m_values.value(key, m_state ? *m_state : nothing, m_channels.curStreamType);
+}
+
+int EncodeConfig::setValue(const QString &key, const QVariant &value)
+{
+    if (!m_state || !m_values.setValue(key, value, *m_state)) {
+        qCWarning(logDevice) << "Encode:" << key << "cannot be set to" << value;
+        return 0;
+    }
+    if (key != QLatin1String("subCurResolution"))
+        return 0;
+    writeSubResolution();
+    return readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result;
+}
+
+void EncodeConfig::writeSubResolution()
+{
+    sdk::VideoFormatItem &item = m_state->sub.videoFormat;
+    const std::int32_t wantedBitRate = item.bitRate;
+    const auto isTaken = [this, &item] {
+        // To the channel of the other page: that is the one that devices are set up with here.
+        return m_session.writeItem(static_cast<std::uint32_t>(sdk::EncodeItem::VideoFormat),
+                                   m_channels.curVideoChannel, item);
+    };
+    if (isTaken())
+        return;
+    // The resolution may need another bit rate. A device that is away gets no further tries, each of which
+    // would wait.
+    for (const std::int32_t step : m_tables.BitRateSteps) {
+        if (m_session.isDeviceAway())
+            break;
+        item.bitRate = step;
+        if (isTaken())
+            return;
+    }
+    item.bitRate = wantedBitRate;
+    qCWarning(logDevice) << "Encode: the sub stream's size" << item.width << item.height
+                         << "is refused at every bit rate, error" << m_session.lastError();
+}
+
+QString EncodeConfig::confirm()
+{
+    // Without a state nothing can be written, and everything counts as refused.
+    QList<int> refused = {0, 1, 2, 3, 4, 5, 6, 7};
+    if (m_state)
+        refused = writeEncodeItems(m_session, m_channels.curChannel, m_state->main, m_state->sub);
+    const QStringList names = itemNames();
+    QString text;
+    for (const int place : refused)
+        text += names.at(place) + QLatin1Char('\n');
+    return text;
+}
+
+QStringList EncodeConfig::itemNames()
+{
+    // The last one is worded otherwise than the main stream's.
+    return {tr("主码流编码视频格式属性"), tr("主码流编码视频格式profile"), tr("主码流编码音频压缩格式"),
+            tr("主码流编码音频格式"),     tr("辅码流编码视频格式属性"),    tr("辅码流编码视频格式profile"),
+            tr("辅码流编码音频压缩格式"), tr("辅码流编码音频格式配置")};
+}

@@ -1,0 +1,51 @@
+// The encode configuration of the logged-in device.
+#pragma once
+
+#include "device/dh/channelchoice.h"
+#include "device/dh/encodevalues.h"
+
+#include <QCoreApplication>
+
+#include <optional>
+
+/// One channel of the device of the current session: what was read of it, changed by the page, and written
+/// back when the user confirms. Blocks for the waits of the library. One thread.
+class EncodeConfig
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodeConfig)
+public:
+    /// `tables` and `channels` must outlive this object.
+    EncodeConfig(const ValueTables &tables, const ChannelChoice &channels);
+
+    /// Turns to a new session; nothing is known of its device yet.
+    void begin(const ConfigSession &session);
+
+    /// Reads the chosen channel and kind of stream. Returns 0; 1 when the configuration cannot be understood,
+    /// 10 when the device does not tell what it can do, or else the error that reading reported.
+    [[nodiscard]] int read();
+
+    [[nodiscard]] QVariant value(const QString &key) const;
+
+    /// Takes a value of the page. The resolution of the sub stream goes to the device at once, everything
+    /// else waits for confirm(). Returns the result of reading the capabilities again where that was needed,
+    /// as read() does, otherwise 0. What the key cannot have is ignored.
+    int setValue(const QString &key, const QVariant &value);
+
+    /// Writes everything. Returns the names of what was refused, each with a line feed.
+    [[nodiscard]] QString confirm();
+
+    /// What is known of the channel; nothing while it has not been read.
+    [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
+
+    /// The names of the items that writeEncodeItems() counts.
+    [[nodiscard]] static QStringList itemNames();
+
+private:
+    void writeSubResolution();
+
+    const EncodeValues m_values;
+    const ValueTables &m_tables;
+    const ChannelChoice &m_channels;
+    ConfigSession m_session;
+    std::optional<EncodeState> m_state;
+};

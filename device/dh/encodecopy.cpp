@@ -1,0 +1,99 @@
+#include "device/dh/encodecopy.h"
+
+#include "device/dh/encodechoices.h"
+#include "device/dh/encodeconfig.h"
+#include "device/loginresult.h"
+
+namespace {
+
+constexpr int refusedByDevice = 999;
+
+class SettingNames
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodeCopy)
+public:
+    static QString compression(bool isSub) { return isSub ? tr("辅码流编码模式") : tr("主码流编码模式"); }
+    static QString resolution(bool isSub) { return isSub ? tr("辅码流分辨率") : tr("主码流分辨率"); }
+    static QString bitRate(bool isSub) { return isSub ? tr("辅码流码率") : tr("主码流码率"); }
+    static QString frameRate(bool isSub) { return isSub ? tr("辅码流帧率") : tr("主码流帧率"); }
+    static QString audio(bool isSub) { return isSub ? tr("辅码流音频编码") : tr("主码流音频编码"); }
+};
+
+bool offersAudio(const EncodeChoices &choices, int format)
+{
+    const QStringList names = choices.audioCompressions();
+    return std::any_of(names.begin(), names.end(), [format](const QString &name) {
+        return ValueTables::audioNameToFormat(name) == format;
+    });
+}
+
+/// Puts the settings of `from` into `to` as far as `block` says that its device can do them. Returns the
+/// names of the others.
+QStringList take(const ValueTables &tables, const EncodeItems &from, const sdk::EncodeCapabilityBlock &block,
+                 bool isSub, EncodeItems &to)
+{
+    const EncodeChoices choices(tables, block);
+    const sdk::VideoFormatItem &wanted = from.videoFormat;
+    sdk::VideoFormatItem &video = to.videoFormat;
+    QStringList skipped;
+
+    const int profile = choices.hasProfiles() ? from.videoProfile.profile : 0;
+    if (choices.compressions().contains(compressionName(tables, wanted.compression, profile))) {
+        video.compression = wanted.compression;
+        to.videoProfile.profile = from.videoProfile.profile;
+    } else {
+        skipped.append(SettingNames::compression(isSub));
+    }
+    if (choices.offersSize(video.compression, wanted.width, wanted.height)) {
+        video.width = wanted.width;
+        video.height = wanted.height;
+    } else {
+        skipped.append(SettingNames::resolution(isSub));
+    }
+    if (wanted.bitRate >= block.minimumBitRate && wanted.bitRate <= block.maximumBitRate)
+        video.bitRate = wanted.bitRate;
+    else
+        skipped.append(SettingNames::bitRate(isSub));
+    if (wanted.frameRate <= static_cast<float>(block.maximumFrameRate))
+        video.frameRate = wanted.frameRate;
+    else
+        skipped.append(SettingNames::frameRate(isSub));
+    if (offersAudio(choices, from.audioCompression.format)) {
+        to.audioCompression.audioEnable = from.audioCompression.audioEnable;
+        to.audioCompression.format = from.audioCompression.format;
+        to.audioFormat.samplingFrequency = from.audioFormat.samplingFrequency;
+    } else {
+        skipped.append(SettingNames::audio(isSub));
+    }
+    video.videoEnable = wanted.videoEnable;
+    video.bitRateControl = wanted.bitRateControl;
+    video.quality = wanted.quality;
+    return skipped;
+}
+
+/// What a row says of a device whose settings cannot be read.
+int rowResult(int reading)
+{
+    const bool isOwnCode = reading == configurationUnreadable || reading == capabilitiesUnknown;
+    return isOwnCode ? capabilitiesUnknown : resultCode(loginResultOf(static_cast<std::uint32_t>(reading)));
+}
+
+} // namespace
+
+EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
+                                     const ChannelChoice &channels, const ConfigSession &session)
+{
+    EncodeState to;
+    const int reading = readEncodeState(session, channels.curChannel, channels.curStreamType, to);
+    if (reading != 0)
+        return {.result = rowResult(reading), .skipped = {}};
+    EncodeCopyOutcome outcome;
+    outcome.skipped = take(tables, from.main, to.mainBlock(channels.curStreamType), false, to.main);
+    outcome.skipped += take(tables, from.sub, to.subBlock(), true, to.sub);
+    const QList<int> refused = writeEncodeItems(session, channels.curChannel, to.main, to.sub);
+    if (!refused.isEmpty())
+        outcome.result = refusedByDevice;
+    for (const int place : refused)
+        outcome.skipped.append(EncodeConfig::itemNames().at(place));
+    return outcome;
+}

@@ -1,0 +1,20 @@
+// Taking the encode settings of one device over to another.
+#pragma once
+
+#include "device/dh/channelchoice.h"
+#include "device/dh/encodestate.h"
+#include "device/dh/valuetables.h"
+
+#include <QStringList>
+
+struct EncodeCopyOutcome
+{
+    int result = 0;      ///< as rows have it: 0, a login result, 10 or 999
+    QStringList skipped; ///< names of the settings that the device cannot do and kept its own for
+};
+
+/// Copies `from` to the channel of the same number of the device of `session`. What the device tells that it
+/// cannot do is left as it is there; the items are written whole, and 999 says that it refused one of them.
+[[nodiscard]] EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
+                                                   const ChannelChoice &channels,
+                                                   const ConfigSession &session);

@@ -1,0 +1,95 @@
+#include "device/dh/encodestate.h"
+
+#include "device/logging.h"
+
+namespace {
+
+constexpr std::size_t encodeTextSize = 524288;
+
+template<typename Item>
+void readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int channel, int stream, Item &item)
+{
+    item = {};
+    item.size = sizeof(item);
+    item.stream = stream;
+    if (!session.readItem(static_cast<std::uint32_t>(number), channel, item))
+        qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << stream
+                             << "cannot be read, error" << session.lastError();
+    // Whatever the device filled in: these two are sent back.
+    item.size = sizeof(item);
+    item.stream = stream;
+}
+
+void readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items)
+{
+    readStreamItem(session, sdk::EncodeItem::VideoFormat, channel, stream, items.videoFormat);
+    readStreamItem(session, sdk::EncodeItem::VideoProfile, channel, stream, items.videoProfile);
+    readStreamItem(session, sdk::EncodeItem::AudioCompression, channel, stream, items.audioCompression);
+    readStreamItem(session, sdk::EncodeItem::AudioFormat, channel, stream, items.audioFormat);
+}
+
+void clear(sdk::EncodeCapabilities &capabilities)
+{
+    capabilities = {};
+    capabilities.size = sizeof(capabilities);
+    for (sdk::EncodeCapabilityBlock &block : capabilities.blocks)
+        block.size = sizeof(block);
+}
+
+} // namespace
+
+EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state)
+{
+    ConfigText text(encodeTextSize);
+    const std::int32_t error = session.fetchText("Encode", channel, text, ConfigSession::usualWait);
+    if (error != 0)
+        return {.result = error, .asked = false};
+    state.record = {};
+    EncodeReading reading;
+    if (!session.unpack("Encode", text, state.record))
+        reading.result = configurationUnreadable;
+    if (!session.pack("Encode", state.record, text))
+        return reading;
+
+    reading.asked = true;
+    clear(state.capabilities);
+    const sdk::EncodeCapabilityInput input = {sizeof(input), 0, channel, 0, text.data()};
+    if (!session.queryCapabilities(sdk::CapabilityQuery::Encode, input, state.capabilities)) {
+        qCWarning(logDevice) << "Encode: no capabilities of channel" << channel << "error"
+                             << session.lastError();
+        reading.result = capabilitiesUnknown;
+    }
+    return reading;
+}
+
+int readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state)
+{
+    const EncodeReading reading = readEncodeCapabilities(session, channel, state);
+    if (reading.asked) {
+        readItems(session, channel, streamType + 1, state.main);
+        readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub);
+    }
+    return reading.result;
+}
+
+QList<int> writeEncodeItems(const ConfigSession &session, int channel, const EncodeItems &main,
+                            const EncodeItems &sub)
+{
+    QList<int> refused;
+    int place = 0;
+    const auto write = [&](sdk::EncodeItem number, const auto &item) {
+        if (!session.writeItem(static_cast<std::uint32_t>(number), channel, item)) {
+            qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << item.stream
+                                 << "is refused, error" << session.lastError();
+            refused.append(place);
+        }
+        ++place;
+    };
+    for (const EncodeItems *items : {&main, &sub}) {
+        write(sdk::EncodeItem::VideoFormat, items->videoFormat);
+        write(sdk::EncodeItem::VideoProfile, items->videoProfile);
+        write(sdk::EncodeItem::AudioCompression, items->audioCompression);
+        write(sdk::EncodeItem::AudioFormat, items->audioFormat);
+    }
+    return refused;
+}

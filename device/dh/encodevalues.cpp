@@ -1,0 +1,222 @@
+#include "device/dh/encodevalues.h"
+
+#include "device/dh/encodechoices.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <cmath>
+#include <optional>
+
+namespace {
+
+constexpr int worstQuality = 1;
+constexpr int bestQuality = 6;
+constexpr int highestBitRate = 1000000;
+constexpr int highestFrameRate = 1000;
+constexpr int highestSamplingFrequency = 1000000;
+
+class PageTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodeValues)
+public:
+    static QString customBitRate() { return tr("自定义"); }
+};
+
+/// A key parted into the stream and what it is of that stream.
+struct StreamKey
+{
+    bool isSub = false;
+    QString field; ///< as the main stream calls it
+};
+
+StreamKey parted(const QString &key)
+{
+    const QLatin1StringView prefix("sub");
+    if (!key.startsWith(prefix) || key.size() == prefix.size())
+        return {.isSub = false, .field = key};
+    QString field = key.mid(prefix.size());
+    field[0] = field.at(0).toLower();
+    return {.isSub = true, .field = field};
+}
+
+const QSet<QString> &streamFields()
+{
+    static const QSet<QString> fields = {QStringLiteral("allStreamType"),
+                                         QStringLiteral("encodeMode"),
+                                         QStringLiteral("curEncodeMode"),
+                                         QStringLiteral("bitstreamControl"),
+                                         QStringLiteral("audioEnable"),
+                                         QStringLiteral("audioCompression"),
+                                         QStringLiteral("curAudioCompression"),
+                                         QStringLiteral("samplingFrequency"),
+                                         QStringLiteral("curSamplingFrequency"),
+                                         QStringLiteral("resolution"),
+                                         QStringLiteral("curResolution"),
+                                         QStringLiteral("frameRateMax"),
+                                         QStringLiteral("frameRate"),
+                                         QStringLiteral("quality"),
+                                         QStringLiteral("bitStream"),
+                                         QStringLiteral("curBitStream")};
+    return fields;
+}
+
+/// A whole number from `minimum` to `maximum`, given as number, flag or decimal text.
+std::optional<int> numberOf(const QVariant &value, int minimum, int maximum)
+{
+    bool isNumber = false;
+    const double number = value.typeId() == QMetaType::QString
+                              ? value.toString().trimmed().toInt(&isNumber, 10)
+                              : value.toDouble(&isNumber);
+    // Turned round, so that what is no number fails as well.
+    if (!isNumber || !(number >= minimum && number <= maximum))
+        return std::nullopt;
+    return static_cast<int>(std::lround(number));
+}
+
+/// Returns false, with the field unchanged, when the value is no number in the range.
+bool setNumber(const QVariant &value, int minimum, int maximum, auto &field)
+{
+    const std::optional<int> number = numberOf(value, minimum, maximum);
+    if (number)
+        field = static_cast<std::remove_reference_t<decltype(field)>>(*number);
+    return number.has_value();
+}
+
+bool setFlag(const QVariant &value, std::int32_t &field)
+{
+    return setNumber(value, 0, 1, field);
+}
+
+int shownFrameRate(float frameRate)
+{
+    return frameRate > 0 && frameRate <= highestFrameRate ? static_cast<int>(std::lround(frameRate)) : 0;
+}
+
+/// The tables' frequencies, and the current one when they lack it.
+QStringList samplingFrequencies(const ValueTables &tables, int current)
+{
+    QStringList names;
+    for (const int frequency : tables.AudioSamplingFrequencies) {
+        if (frequency > 0)
+            names.append(QString::number(frequency));
+    }
+    if (current > 0 && !names.contains(QString::number(current)))
+        names.append(QString::number(current));
+    return names;
+}
+
+} // namespace
+
+bool EncodeValues::isKey(const QString &key)
+{
+    return key == QLatin1String("subVideoEnable") || streamFields().contains(parted(key).field);
+}
+
+QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const
+{
+    if (key == QLatin1String("subVideoEnable"))
+        return state.sub.videoFormat.videoEnable != 0 ? 1 : 0;
+    const StreamKey parts = parted(key);
+    return parts.isSub ? streamValue(parts.field, true, state.sub, state.subBlock())
+                       : streamValue(parts.field, false, state.main, state.mainBlock(streamType));
+}
+
+QVariant EncodeValues::streamValue(const QString &field, bool isSub, const EncodeItems &items,
+                                   const sdk::EncodeCapabilityBlock &block) const
+{
+    const sdk::VideoFormatItem &video = items.videoFormat;
+    if (field == QLatin1String("curEncodeMode")) {
+        const bool hasProfiles = EncodeChoices(m_tables, block).hasProfiles();
+        return compressionName(m_tables, video.compression, hasProfiles ? items.videoProfile.profile : 0);
+    }
+    if (field == QLatin1String("bitstreamControl"))
+        return video.bitRateControl != 0 ? 1 : 0;
+    if (field == QLatin1String("audioEnable"))
+        return items.audioCompression.audioEnable != 0 ? 1 : 0;
+    if (field == QLatin1String("curAudioCompression"))
+        return ValueTables::audioFormatToName(items.audioCompression.format);
+    if (field == QLatin1String("curSamplingFrequency"))
+        return QString::number(items.audioFormat.samplingFrequency);
+    if (field == QLatin1String("curResolution"))
+        return resolutionName(m_tables, video.width, video.height);
+    if (field == QLatin1String("frameRateMax"))
+        return qBound(0, block.maximumFrameRate, highestFrameRate);
+    if (field == QLatin1String("frameRate"))
+        return shownFrameRate(video.frameRate);
+    if (field == QLatin1String("quality"))
+        return qBound(worstQuality, video.quality, bestQuality);
+    if (field == QLatin1String("curBitStream")) {
+        const QStringList steps = EncodeChoices(m_tables, block).bitRates();
+        return static_cast<int>(steps.indexOf(QString::number(video.bitRate)));
+    }
+    return listValue(field, isSub, items, block);
+}
+
+QVariant EncodeValues::listValue(const QString &field, bool isSub, const EncodeItems &items,
+                                 const sdk::EncodeCapabilityBlock &block) const
+{
+    const EncodeChoices choices(m_tables, block);
+    if (field == QLatin1String("allStreamType"))
+        return isSub ? m_tables.StreamTypeNames.first(1) : m_tables.StreamTypeNames;
+    if (field == QLatin1String("encodeMode"))
+        return choices.compressions();
+    if (field == QLatin1String("resolution"))
+        return choices.resolutions();
+    if (field == QLatin1String("bitStream"))
+        return choices.bitRates() + QStringList(PageTexts::customBitRate());
+    if (field == QLatin1String("audioCompression"))
+        return choices.audioCompressions();
+    if (field == QLatin1String("samplingFrequency"))
+        return samplingFrequencies(m_tables, items.audioFormat.samplingFrequency);
+    return {};
+}
+
+bool EncodeValues::setCompression(const QString &name, EncodeItems &items, EncodeState &state) const
+{
+    const std::optional<CompressionChoice> choice = compressionChoice(m_tables, name);
+    if (!choice)
+        return false;
+    // Of both streams: the compression is the main stream's, and only the profile is the stream's own.
+    // Devices are set up this way; it must not be put right here alone.
+    state.main.videoFormat.compression = choice->code;
+    if (choice->profile > 0)
+        items.videoProfile.profile = choice->profile;
+    return true;
+}
+
+bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeState &state) const
+{
+    const StreamKey parts = parted(key);
+    EncodeItems &items = parts.isSub ? state.sub : state.main;
+    sdk::VideoFormatItem &video = items.videoFormat;
+    if (key == QLatin1String("subVideoEnable"))
+        return setFlag(value, video.videoEnable);
+    if (parts.field == QLatin1String("curEncodeMode"))
+        return setCompression(value.toString(), items, state);
+    if (parts.field == QLatin1String("bitstreamControl"))
+        return setFlag(value, video.bitRateControl);
+    if (parts.field == QLatin1String("audioEnable"))
+        return setFlag(value, items.audioCompression.audioEnable);
+    if (parts.field == QLatin1String("frameRate"))
+        return setNumber(value, 1, highestFrameRate, video.frameRate);
+    if (parts.field == QLatin1String("quality"))
+        return setNumber(value, worstQuality, bestQuality, video.quality);
+    if (parts.field == QLatin1String("curBitStream"))
+        return setNumber(value, 1, highestBitRate, video.bitRate);
+    if (parts.field == QLatin1String("curSamplingFrequency"))
+        return setNumber(value, 1, highestSamplingFrequency, items.audioFormat.samplingFrequency);
+    if (parts.field == QLatin1String("curAudioCompression")) {
+        items.audioCompression.format = ValueTables::audioNameToFormat(value.toString());
+        return true;
+    }
+    if (parts.field == QLatin1String("curResolution")) {
+        const std::optional<ResolutionChoice> choice = resolutionChoice(m_tables, value.toString());
+        if (!choice)
+            return false;
+        video.width = choice->width;
+        video.height = choice->height;
+        return true;
+    }
+    return false;
+}

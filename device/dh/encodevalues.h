@@ -1,0 +1,34 @@
+// The values of the encode page by key: what a state shows, and what a changed value does to it.
+#pragma once
+
+#include "device/dh/encodestate.h"
+#include "device/dh/valuetables.h"
+
+#include <QVariant>
+
+/// Keys of the sub stream begin with "sub"; the rest of the key is that of the main stream.
+class EncodeValues
+{
+public:
+    /// `tables` must outlive this object.
+    explicit EncodeValues(const ValueTables &tables) : m_tables(tables) {}
+
+    /// Whether the encode page has this key, to read or to write.
+    [[nodiscard]] static bool isKey(const QString &key);
+
+    /// `streamType` is the kind of main stream, 0 to 2. Invalid for a key that is not read.
+    [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
+
+    /// Changes the state, but not the device. Returns false, with the state unchanged, when the value is none
+    /// that the key can have.
+    bool setValue(const QString &key, const QVariant &value, EncodeState &state) const;
+
+private:
+    [[nodiscard]] QVariant streamValue(const QString &field, bool isSub, const EncodeItems &items,
+                                       const sdk::EncodeCapabilityBlock &block) const;
+    [[nodiscard]] QVariant listValue(const QString &field, bool isSub, const EncodeItems &items,
+                                     const sdk::EncodeCapabilityBlock &block) const;
+    [[nodiscard]] bool setCompression(const QString &name, EncodeItems &items, EncodeState &state) const;
+
+    const ValueTables &m_tables;
+};

@@ -1,0 +1,43 @@
+// Logins that are kept open between the check of an old password and the new one.
+#pragma once
+
+#include <QMap>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+
+namespace sdk {
+class NetLibrary;
+}
+
+struct KeptLogin
+{
+    std::int64_t loginHandle = 0;
+    QString account;
+    QString password; ///< that the account has now
+};
+
+/// One login for each device, by its "address:port". Every login is logged out when it is let go.
+class KeptLogins
+{
+public:
+    /// `net` may be null; nothing can be kept then.
+    explicit KeptLogins(std::shared_ptr<sdk::NetLibrary> net);
+    ~KeptLogins();
+    KeptLogins(const KeptLogins &) = delete;
+    KeptLogins &operator=(const KeptLogins &) = delete;
+
+    /// Keeps a login in place of any other to that device.
+    void keep(const QString &ipport, const KeptLogin &login);
+
+    /// The login to a device, null when none is kept.
+    [[nodiscard]] KeptLogin *find(const QString &ipport);
+
+    void letGo(const QString &ipport);
+    void letAllGo();
+
+private:
+    const std::shared_ptr<sdk::NetLibrary> m_net;
+    QMap<QString, KeptLogin> m_logins;
+};

@@ -1,0 +1,37 @@
+#include "device/dh/securelogin.h"
+
+#include "sdk/blocktext.h"
+#include "sdk/netlibrary.h"
+
+SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
+                        const QString &password)
+{
+    if (!net)
+        return {.result = LoginResult::NetworkFailure};
+
+    // Address and port are parted at the last colon: an IPv6 address has colons of its own, in brackets.
+    const qsizetype colon = ipport.lastIndexOf(QLatin1Char(':'));
+    QString address = ipport.left(colon);
+    if (address.startsWith(QLatin1Char('[')) && address.endsWith(QLatin1Char(']')))
+        address = address.mid(1, address.size() - 2);
+
+    sdk::LoginSecureInput input{};
+    input.size = sizeof(input);
+    input.port = QStringView(ipport).mid(colon + 1).toInt();
+    sdk::setBlockText(input.address, address.toLocal8Bit().toStdString());
+    sdk::setBlockText(input.account, account.toLocal8Bit().toStdString());
+    sdk::setBlockText(input.password, password.toLocal8Bit().toStdString());
+    // A loopback address is the end of a tunnel, which takes a login of its own kind.
+    input.mode =
+        ipport.contains(QLatin1String("127.0.0.1")) ? sdk::LoginMode::Tunnel : sdk::LoginMode::Direct;
+
+    sdk::LoginSecureOutput output{};
+    output.size = sizeof(output);
+    const std::int64_t handle = net->NetLoginSecure(input, output);
+    if (handle < 1)
+        return {.result = loginResultOf(net->NetGetLastError())};
+    return {.result = LoginResult::Success,
+            .handle = handle,
+            .loginKind = output.device.loginKind,
+            .channelCount = output.device.channelCount};
+}

@@ -1,0 +1,102 @@
+// A simulated site with the factory on it, for the tests of the configuration pages.
+#pragma once
+
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/demo/demosite.h"
+#include "tests/device/dh/flowingclock.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+/// A device of kind `type` at 192.168.1.`number`, with one account.
+inline sdk::demo::SceneDevice configDevice(int number, const QString &type, int channels)
+{
+    sdk::demo::SceneDevice device;
+    device.mac = QStringLiteral("02:1a:c5:00:00:%1").arg(number, 2, 16, QLatin1Char('0'));
+    device.address = QStringLiteral("192.168.1.%1").arg(number);
+    device.port = 37777;
+    device.name = QStringLiteral("东门");
+    device.type = type;
+    device.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
+    device.channels.resize(channels);
+    return device;
+}
+
+inline QString ipportOf(const sdk::demo::SceneDevice &device)
+{
+    return QStringLiteral("%1:%2").arg(device.address).arg(device.port);
+}
+
+class ConfigSite
+{
+public:
+    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices)
+    {
+        sdk::demo::Scene scene;
+        scene.devices = devices;
+        site = sdk::demo::DemoSite::create(scene, m_clock);
+        const auto store = std::make_shared<DeviceStore>(m_clock);
+        factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
+            {QStringLiteral("dh"), [this, store] {
+                 return std::make_shared<CDeviceDH>(store, site->libraries(),
+                                                    [] { return SearchSettings(); });
+             }}});
+        factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
+    }
+
+    int login(const sdk::demo::SceneDevice &device) const
+    {
+        const int result = factory->findAndLoginDevice(QStringLiteral("dh"), ipportOf(device),
+                                                       QStringLiteral("admin"), QStringLiteral("secret1"));
+        site->requests().clear();
+        return result;
+    }
+
+    [[nodiscard]] QVariant get(const QString &key) const
+    {
+        return factory->getConfigData(QStringLiteral("dh"), key);
+    }
+    void set(const QString &key, const QVariant &value, const QString &subKey = QString()) const
+    {
+        factory->setConfigData(QStringLiteral("dh"), key, value, subKey);
+    }
+
+    /// The decoded requests of an operation, oldest first.
+    [[nodiscard]] QList<QJsonObject> asked(const QString &operation) const
+    {
+        QList<QJsonObject> requests;
+        for (const sdk::demo::RecordedRequest &request : site->requests().of(operation))
+            requests.append(request.request);
+        return requests;
+    }
+
+    /// "item/stream or mode@channel size wait" of the requests of an operation on items.
+    [[nodiscard]] QStringList askedItems(const QString &operation) const
+    {
+        QStringList lines;
+        for (const QJsonObject &request : asked(operation)) {
+            const QJsonValue selector = request.value(
+                request.contains(QLatin1String("stream")) ? QLatin1String("stream") : QLatin1String("mode"));
+            lines.append(QStringLiteral("%1/%2@%3 %4 %5")
+                             .arg(request.value(QLatin1String("item")).toInt())
+                             .arg(selector.toInt())
+                             .arg(request.value(QLatin1String("channel")).toInt())
+                             .arg(request.value(QLatin1String("blockSize")).toInt())
+                             .arg(request.value(QLatin1String("wait")).toInt()));
+        }
+        return lines;
+    }
+
+private:
+    // First, so that it outlives what takes its time from it.
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock = std::make_shared<sdk::demo::SteppableClock>();
+
+public:
+    std::shared_ptr<sdk::demo::DemoSite> site;
+    std::unique_ptr<CDeviceFactory> factory;
+
+private:
+    FlowingClock m_time{*m_clock}; // ends first: then nobody waits any more
+};

@@ -1,0 +1,414 @@
+// The encode page on a simulated site: what it shows, what the device is asked, and what comes of it.
+#include "sdk/neterror.h"
+#include "tests/device/dh/configsite.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using sdk::demo::Fault;
+using sdk::demo::FaultSetting;
+using sdk::demo::SceneDevice;
+
+namespace {
+
+QJsonArray list(const QVariantList &values)
+{
+    return QJsonArray::fromVariantList(values);
+}
+
+SceneDevice modernCamera()
+{
+    return configDevice(1, "IPC", 1);
+}
+
+SceneDevice oldCamera()
+{
+    SceneDevice device = configDevice(2, "IPC", 1);
+    const QJsonObject stream = {
+        {"compressions", list({0})},          {"profiles", list({})}, {"sizes", list({"704*576", "352*288"})},
+        {"bitRates", list({64, 2048})},       {"frameRate", 12},      {"audioFormats", list({2})},
+        {"samplingFrequencies", list({8000})}};
+    device.capabilities = {{"encode", QJsonObject{{"main", stream}, {"sub", stream}}}};
+    return device;
+}
+
+SceneDevice recorder()
+{
+    SceneDevice device = configDevice(3, "NVR", 16);
+    device.channels[5].connected = false;
+    return device;
+}
+
+} // namespace
+
+class TestEncodeConfig : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<ConfigSite> m_site;
+
+    int read()
+    {
+        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
+        m_site->factory->getEncodeCaps("dh");
+        return result.size() == 1 ? result.first().first().toInt() : 99;
+    }
+
+    QString confirm()
+    {
+        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalConfirmEncodeConfig);
+        m_site->factory->confirmConfigData("dh");
+        return result.size() == 1 ? result.first().first().toString() : QStringLiteral("no signal");
+    }
+
+    /// Logs in to `device` with these faults and reads its page.
+    int open(SceneDevice device, const QList<FaultSetting> &faults = {})
+    {
+        m_site.reset();
+        device.faults = faults;
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{device});
+        return m_site->login(device) == 0 ? read() : 99;
+    }
+
+    QJsonObject written(int item, int stream) const
+    {
+        QJsonObject last;
+        for (const QJsonObject &request : m_site->asked("NetSetItem")) {
+            if (request.value("item") == item && request.value("stream") == stream)
+                last = request;
+        }
+        return last;
+    }
+
+private Q_SLOTS:
+    void cleanup() { m_site.reset(); }
+
+    void thePageShowsTheDevice()
+    {
+        QCOMPARE(open(modernCamera()), 0);
+        QCOMPARE(m_site->get("channelNum").toStringList(), QStringList({"1"}));
+        QCOMPARE(m_site->get("allStreamType").toStringList(), QStringList({"普通", "动检", "报警"}));
+        QCOMPARE(m_site->get("subAllStreamType").toStringList(), QStringList({"普通"}));
+        QCOMPARE(m_site->get("encodeMode").toStringList(),
+                 QStringList({"MJPG", "H.264 B", "H.264  ", "H.264 H", "H.265"}));
+        QCOMPARE(m_site->get("curEncodeMode").toString(), "H.264  ");
+        QCOMPARE(m_site->get("resolution").toStringList(), QStringList({"2688*1520", "1080P", "720P"}));
+        QCOMPARE(m_site->get("curResolution").toString(), "2688*1520");
+        QCOMPARE(m_site->get("subResolution").toStringList(), QStringList({"D1", "VGA", "CIF"}));
+        QCOMPARE(m_site->get("subCurResolution").toString(), "D1");
+        const QStringList bitRates = m_site->get("bitStream").toStringList();
+        QCOMPARE(bitRates.last(), "自定义");
+        QCOMPARE(bitRates.value(m_site->get("curBitStream").toInt()), "4096");
+        QCOMPARE(m_site->get("frameRateMax").toInt(), 25);
+        QCOMPARE(m_site->get("frameRate").toInt(), 25);
+        QCOMPARE(m_site->get("quality").toInt(), 4);
+        QCOMPARE(m_site->get("bitstreamControl").toInt(), 1);
+        QCOMPARE(m_site->get("subVideoEnable").toInt(), 1);
+        QCOMPARE(m_site->get("audioCompression").toStringList(), QStringList({"G711a", "G711u", "AAC"}));
+        QCOMPARE(m_site->get("subCurAudioCompression").toString(), "G711a");
+        QCOMPARE(m_site->get("samplingFrequency").toStringList(), QStringList({"8000"}));
+        QVERIFY(!m_site->get("noSuchKey").isValid());
+    }
+
+    void readingAsksInItsOrder()
+    {
+        QCOMPARE(open(recorder()), 0);
+        m_site->set("curChannel", 3);
+        m_site->set("curStreamType", 1);
+        m_site->site->requests().clear();
+        QStringList signalled;
+        connect(m_site->factory.get(), &CDeviceFactory::signalChangeEncodeChannel, this,
+                [&] { signalled.append("channel"); });
+        connect(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet, this,
+                [&](int result) { signalled.append(QString::number(result)); });
+        m_site->factory->getEncodeInfo("dh");
+        QCOMPARE(signalled, QStringList({"channel", "0"}));
+
+        QStringList operations;
+        for (const sdk::demo::RecordedRequest &request : m_site->site->requests().all())
+            operations.append(request.operation);
+        QCOMPARE(operations.mid(0, 2), QStringList({"NetGetNewConfig", "NetQueryCapabilities"}));
+        const QJsonObject text = m_site->asked("NetGetNewConfig").first();
+        QCOMPARE(text.value("name").toString(), "Encode");
+        QCOMPARE(text.value("channel").toInt(), 3);
+        QCOMPARE(text.value("textSize").toInt(), 524288);
+        QCOMPARE(text.value("wait").toInt(), 5000);
+        const QJsonObject query = m_site->asked("NetQueryCapabilities").first();
+        QCOMPARE(query.value("query").toInt(), 2);
+        QCOMPARE(query.value("size").toInt(), 24);
+        QCOMPARE(query.value("outputSize").toInt(), 39824);
+        QVERIFY(query.value("text").toObject().contains("Encode"));
+        QCOMPARE(
+            m_site->askedItems("NetGetItem"),
+            QStringList({"1100/2@3 44 5000", "1103/2@3 12 5000", "1104/2@3 16 5000", "1105/2@3 28 5000",
+                         "1100/4@3 44 5000", "1103/4@3 12 5000", "1104/4@3 16 5000", "1105/4@3 28 5000"}));
+        for (const QJsonObject &request : m_site->asked("NetGetItem")) // nothing but size and stream is set
+            QCOMPARE(request.value("width").toInt() + request.value("format").toInt(), 0);
+        QCOMPARE(m_site->get("channelNum").toStringList().size(), 16);
+    }
+
+    void choicesThatCannotBeAreIgnored()
+    {
+        QCOMPARE(open(recorder()), 0);
+        m_site->set("curChannel", 15);
+        m_site->set("curChannel", 16);
+        m_site->set("curChannel", -1);
+        m_site->set("curStreamType", 3);
+        for (const char *key : {"quality", "frameRate", "curBitStream", "curResolution", "curEncodeMode",
+                                "curSamplingFrequency", "bitstreamControl"})
+            m_site->set(key, "nonsense");
+        m_site->set("quality", 7);
+        m_site->set("curBitStream", "1e3");
+        m_site->set("noSuchKey", 1);
+        QCOMPARE(m_site->get("curChannel").toInt(), 15);
+        QCOMPARE(m_site->get("curStreamType").toInt(), 0);
+        QCOMPARE(m_site->get("quality").toInt(), 4);
+        QCOMPARE(m_site->get("curResolution").toString(), "2688*1520");
+        QCOMPARE(m_site->get("curEncodeMode").toString(), "H.264  ");
+    }
+
+    void confirmWritesTheEightItems()
+    {
+        QCOMPARE(open(recorder()), 0);
+        m_site->set("curChannel", 2);
+        QCOMPARE(read(), 0);
+        m_site->set("curEncodeMode", "H.264 H");
+        m_site->set("curResolution", "1080P");
+        m_site->set("curBitStream", "2000");
+        m_site->set("bitstreamControl", 0);
+        m_site->set("frameRate", 12);
+        m_site->set("quality", 6);
+        m_site->set("curAudioCompression", "AAC");
+        m_site->set("subCurSamplingFrequency", "16000");
+        m_site->set("subVideoEnable", false);
+        m_site->set("subAudioEnable", 0);
+        QCOMPARE(confirm(), "");
+        QCOMPARE(
+            m_site->askedItems("NetSetItem"),
+            QStringList({"1100/1@2 44 5000", "1103/1@2 12 5000", "1104/1@2 16 5000", "1105/1@2 28 5000",
+                         "1100/4@2 44 5000", "1103/4@2 12 5000", "1104/4@2 16 5000", "1105/4@2 28 5000"}));
+        const QJsonObject video = written(1100, 1);
+        QCOMPARE(video.value("compression").toInt(), 7);
+        QCOMPARE(video.value("width").toInt(), 1920);
+        QCOMPARE(video.value("bitRate").toInt(), 2000);
+        QCOMPARE(video.value("bitRateControl").toInt(), 0);
+        QCOMPARE(video.value("frameRate").toDouble(), 12.0);
+        QCOMPARE(video.value("quality").toInt(), 6);
+        QCOMPARE(written(1103, 1).value("profile").toInt(), 4);
+        QCOMPARE(written(1104, 1).value("format").toInt(), 5);
+        QCOMPARE(written(1105, 4).value("samplingFrequency").toInt(), 16000);
+        QCOMPARE(written(1100, 4).value("videoEnable").toInt(), 0);
+        QCOMPARE(written(1104, 4).value("audioEnable").toInt(), 0);
+
+        // It is the device's now, on this channel alone, and a later login reads it back.
+        QCOMPARE(m_site->login(recorder()), 0);
+        QCOMPARE(read(), 0);
+        QCOMPARE(m_site->get("curResolution").toString(), "2688*1520");
+        m_site->set("curChannel", 2);
+        QCOMPARE(read(), 0);
+        QCOMPARE(m_site->get("curEncodeMode").toString(), "H.264 H");
+        QCOMPARE(m_site->get("curResolution").toString(), "1080P");
+        QCOMPARE(m_site->get("curBitStream").toInt(), -1); // no step
+        QCOMPARE(m_site->get("subCurSamplingFrequency").toString(), "16000");
+        QCOMPARE(m_site->get("subSamplingFrequency").toStringList(), QStringList({"8000", "16000"}));
+    }
+
+    void theSubStreamsCompressionIsTheMainStreams()
+    {
+        QCOMPARE(open(modernCamera()), 0);
+        m_site->set("curEncodeMode", "H.264 B");
+        m_site->set("subCurEncodeMode", "H.265");
+        QCOMPARE(m_site->get("curEncodeMode").toString(), "H.265");
+        QCOMPARE(m_site->get("subCurEncodeMode").toString(), "H.264  ");
+        m_site->set("subCurEncodeMode", "H.264 H");
+        QCOMPARE(confirm(), "");
+        QCOMPARE(written(1100, 1).value("compression").toInt(), 7);
+        QCOMPARE(written(1100, 4).value("compression").toInt(), 7);
+        QCOMPARE(written(1103, 1).value("profile").toInt(), 1);
+        QCOMPARE(written(1103, 4).value("profile").toInt(), 4);
+    }
+
+    void whatIsRefusedIsNamed_data()
+    {
+        QTest::addColumn<int>("item");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("one item of the sub stream")
+            << 0 << "subCurSamplingFrequency" << QVariant("44100") << "辅码流编码音频格式配置\n";
+        QTest::newRow("one item of the main stream")
+            << 0 << "curBitStream" << QVariant("100000") << "主码流编码视频格式属性\n";
+        QTest::newRow("the item of both")
+            << 1104 << "quality" << QVariant(5) << "主码流编码音频压缩格式\n辅码流编码音频压缩格式\n";
+    }
+
+    void whatIsRefusedIsNamed()
+    {
+        QFETCH(int, item);
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QCOMPARE(open(modernCamera(), {{Fault::RefusesItem, item}}), 0);
+        m_site->set(key, value);
+        QTEST(confirm(), "text");
+        QCOMPARE(m_site->asked("NetSetItem").size(), 8);
+    }
+
+    void theSubStreamsSizeIsWrittenAtOnce_data()
+    {
+        QTest::addColumn<int>("limit"); // what bit rates above are refused, 0 for none
+        QTest::addColumn<int>("writes");
+        QTest::addColumn<int>("bitRate");
+        QTest::newRow("taken") << 1000000 << 1 << 512;
+        QTest::newRow("taken at a lower bit rate") << 64 << 4 << 64; // after 512, 32 and 48
+        QTest::newRow("taken at none") << 10 << 65 << 512;
+    }
+
+    void theSubStreamsSizeIsWrittenAtOnce()
+    {
+        QFETCH(int, limit);
+        QFETCH(int, writes);
+        QFETCH(int, bitRate);
+        SceneDevice device = recorder();
+        const QJsonObject sub = {{"bitRates", list({64, 4096})}};
+        device.capabilities = {{"encode", QJsonObject{{"sub", sub}}}};
+        QCOMPARE(open(device, {{Fault::RefusesBitRatesAbove, limit}}), 0);
+        m_site->set("curVideoChannel", 4);
+        m_site->set("curChannel", 2);
+        QCOMPARE(read(), 0);
+        m_site->site->requests().clear();
+        m_site->set("subCurResolution", "CIF");
+        QCOMPARE(m_site->asked("NetSetItem").size(), writes);
+        QCOMPARE(m_site->askedItems("NetSetItem").last(), "1100/4@4 44 5000"); // the other page's channel
+        QCOMPARE(m_site->asked("NetSetItem").first().value("bitRate").toInt(), 512);
+        QVERIFY(m_site->asked("NetGetItem").isEmpty());
+        QCOMPARE(m_site->asked("NetGetNewConfig").first().value("channel").toInt(), 2);
+        QCOMPARE(m_site->asked("NetQueryCapabilities").size(), 1);
+        QCOMPARE(m_site->get("subCurResolution").toString(), "CIF");
+        m_site->site->clearFault(device.mac, Fault::RefusesBitRatesAbove);
+        QCOMPARE(confirm(), "");
+        QCOMPARE(written(1100, 4).value("bitRate").toInt(), bitRate);
+    }
+
+    void aReadThatFailsSaysWhy_data()
+    {
+        QTest::addColumn<int>("fault");
+        QTest::addColumn<QString>("overlay"); // of the main stream's width, empty for none
+        QTest::addColumn<int>("result");
+        const auto row = [](const char *title, Fault fault, int result) {
+            QTest::newRow(title) << static_cast<int>(fault) << QString() << result;
+        };
+        const auto error = [](auto code) {
+            return static_cast<int>(code);
+        };
+        row("refused", Fault::RefusesConfiguration, error(sdk::NetError::NotSupported));
+        row("no JSON", Fault::OddConfiguration, 1);
+        row("no capabilities", Fault::RefusesCapabilities, 10);
+        row("odd capabilities", Fault::OddCapabilities, 0);
+        row("away", Fault::NoAnswer, error(sdk::NetError::NetworkFailure));
+        QTest::newRow("number out of range") << -1 << "70000" << 1;
+        QTest::newRow("keys are missing") << -1 << "1920" << 0;
+    }
+
+    void aReadThatFailsSaysWhy()
+    {
+        QFETCH(int, fault);
+        QFETCH(QString, overlay);
+        SceneDevice device = modernCamera();
+        if (!overlay.isEmpty()) {
+            const QJsonObject stream = {{"width", overlay.toInt()}};
+            device.configuration = {{"Encode", QJsonObject{{"mainNormal", stream}}}};
+        }
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{device});
+        QCOMPARE(m_site->login(device), 0);
+        if (fault >= 0)
+            m_site->site->setFault(device.mac, {static_cast<Fault>(fault), 0, QStringLiteral("Encode")});
+        QTEST(read(), "result");
+        for (const char *key : {"encodeMode", "resolution", "bitStream", "audioCompression", "curResolution",
+                                "subEncodeMode", "frameRateMax", "quality", "curBitStream"})
+            QVERIFY2(m_site->get(key).isValid(), key);
+        QVERIFY(m_site->get("encodeMode").toStringList().size() < 20);
+        QVERIFY(m_site->get("resolution").toStringList().size() <= 64);
+        QVERIFY(!m_site->get("resolution").toStringList().contains("0*0"));
+        QVERIFY(m_site->get("frameRateMax").toInt() >= 0);
+    }
+
+    void anOverLongTextIsAFailure()
+    {
+        QCOMPARE(open(modernCamera(), {{Fault::OverLongConfiguration, 0, "Encode"}}) != 0, true);
+        QVERIFY(m_site->asked("NetQueryCapabilities").isEmpty());
+        QVERIFY(m_site->asked("NetGetItem").isEmpty());
+    }
+
+    void aDeviceThatVanishesEndsClearly()
+    {
+        QCOMPARE(open(modernCamera()), 0);
+        m_site->site->removeDevice(modernCamera().mac);
+        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
+        m_site->set("subCurResolution", "CIF");
+        QCOMPARE(m_site->asked("NetSetItem").size(), 1); // no further tries that would each wait
+        QCOMPARE(result.size(), 1);
+        QCOMPARE(confirm().count('\n'), 8);
+        QCOMPARE(read(), static_cast<int>(sdk::NetError::NetworkFailure));
+        QCOMPARE(m_site->get("curResolution").toString(), "2688*1520"); // lists stay as they were
+    }
+
+    void withoutALoginNothingIsKnown()
+    {
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{modernCamera()});
+        QVERIFY(read() != 0);
+        QVERIFY(m_site->get("channelNum").toStringList().isEmpty());
+        QVERIFY(m_site->get("resolution").toStringList().isEmpty());
+        m_site->set("subCurResolution", "CIF");
+        QVERIFY(!confirm().isEmpty());
+        QVERIFY(m_site->asked("NetSetItem").isEmpty());
+    }
+
+    void settingsAreCopiedToOtherDevices()
+    {
+        SceneDevice refusing = configDevice(4, "IPC", 1);
+        refusing.faults = {{Fault::RefusesItem, 1105}};
+        SceneDevice locked = configDevice(5, "IPC", 1);
+        locked.faults = {{Fault::WrongPassword}};
+        SceneDevice twin = configDevice(6, "IPC", 1);
+        m_site = std::make_unique<ConfigSite>(QList{modernCamera(), oldCamera(), refusing, locked, twin});
+        const QStringList targets = {ipportOf(oldCamera()), ipportOf(refusing), ipportOf(locked),
+                                     "192.168.1.99:37777", ipportOf(twin)};
+        for (const SceneDevice &device : {oldCamera(), twin})
+            m_site->factory->getLoginDevice("dh", device.address, "admin", "secret1", "37777");
+        QSignalSpy results(m_site->factory.get(), &CDeviceFactory::signalRetToCopyConfig);
+        m_site->factory->copyConfigToDevice("dh", {ipportOf(twin)}); // nothing is known that could be copied
+        QCOMPARE(results.takeFirst().at(1).toInt(), 10);
+
+        QCOMPARE(m_site->login(modernCamera()), 0);
+        QCOMPARE(read(), 0);
+        m_site->set("curResolution", "1080P");
+        m_site->set("curBitStream", "1500");
+        m_site->set("frameRate", 10);
+        m_site->site->requests().clear();
+        m_site->factory->copyConfigToDevice("dh", targets);
+        QStringList told;
+        for (const QList<QVariant> &result : results)
+            told.append(result.at(0).toString() + ' ' + result.at(1).toString());
+        QCOMPARE(told, QStringList({"192.168.1.2:37777 0", "192.168.1.4:37777 999", "192.168.1.5:37777 2",
+                                    "192.168.1.99:37777 5", "192.168.1.6:37777 0"}));
+        QCOMPARE(m_site->site->requests().of("NetLogout").size(), 3);
+        const auto rowResult = [this](const SceneDevice &device) {
+            return m_site->factory->getDeviceInfo("dh", ipportOf(device)).value("result").toString();
+        };
+        QVERIFY2(rowResult(oldCamera()).contains("主码流分辨率"), qPrintable(rowResult(oldCamera())));
+        QCOMPARE(rowResult(twin), "");
+
+        QCOMPARE(m_site->login(twin), 0);
+        QCOMPARE(read(), 0);
+        QCOMPARE(m_site->get("curResolution").toString(), "1080P");
+        QCOMPARE(m_site->login(oldCamera()), 0);
+        QCOMPARE(read(), 0);
+        QCOMPARE(m_site->get("curEncodeMode").toString(), "MPEG4"); // its own stay
+        QCOMPARE(m_site->get("curResolution").toString(), "D1");
+        QCOMPARE(m_site->get("frameRate").toInt(), 10);
+        QCOMPARE(m_site->get("curBitStream").toInt(), -1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEncodeConfig)
+#include "tst_encodeconfig.moc"

@@ -1,0 +1,437 @@
+// System configuration: what devices are asked, what becomes of them, and what their rows are told.
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/steppableclock.h"
+#include "sdk/netlibrary.h"
+#include "tests/device/dh/flowingclock.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString cameraMac = u"02:1a:c5:00:00:01"_s;
+const QString recorderMac = u"02:1a:c5:00:00:02"_s;
+const QString camera = u"192.168.1.10:37777"_s;
+const QString recorder = u"192.168.1.11:37777"_s;
+const QString absent = u"192.168.1.99:37777"_s;
+
+sdk::demo::SceneDevice device(const QString &mac, const QString &address)
+{
+    sdk::demo::SceneDevice made;
+    made.mac = mac;
+    made.address = address;
+    made.port = 37777;
+    made.type = u"IPC"_s;
+    made.accounts = {{u"admin"_s, u"secret1"_s}};
+    made.latency = 20ms;
+    return made;
+}
+
+QVariantMap daylightSaving()
+{
+    return {{u"dstEnable"_s, true},
+            {u"dstMode"_s, 1},
+            {u"startMonth"_s, 3},
+            {u"startDay"_s, 0},
+            {u"startWeek"_s, 4},
+            {u"startWeekDay"_s, 0},
+            {u"startTime"_s, u"02:30"_s},
+            {u"endMonth"_s, 10},
+            {u"endDay"_s, 30},
+            {u"endWeek"_s, 0},
+            {u"endWeekDay"_s, 6},
+            {u"endTime"_s, u"03:00"_s}};
+}
+
+QVariantMap ntp()
+{
+    return {{u"timeZone"_s, 39},
+            {u"ntpSet"_s, true},
+            {u"ntpServer"_s, u"time.example"_s},
+            {u"ntpPort"_s, u"123"_s},
+            {u"updatePeriod"_s, 65535}};
+}
+
+QVariantMap with(QVariantMap data, const QString &key, const QVariant &value)
+{
+    data.insert(key, value);
+    return data;
+}
+
+QVariantMap without(QVariantMap data, const QString &key)
+{
+    data.remove(key);
+    return data;
+}
+
+} // namespace
+
+class TestSystemConfig : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
+    std::shared_ptr<sdk::demo::DemoSite> m_site;
+    std::shared_ptr<DeviceStore> m_store;
+    std::unique_ptr<CDeviceFactory> m_factory;
+    std::unique_ptr<FlowingClock> m_time;
+    std::unique_ptr<QSignalSpy> m_results;
+    std::unique_ptr<QSignalSpy> m_enabled;
+
+    void run(const QString &command, const QVariantMap &data = {}, const QStringList &ipports = {camera})
+    {
+        m_results->clear();
+        m_factory->systemConfig("dh", command, data, ipports);
+    }
+
+    /// "address:port result" in the order of their coming.
+    QStringList results() const
+    {
+        QStringList lines;
+        for (const QVariantList &arguments : *m_results)
+            lines.append(arguments.at(0).toString().section(':', 0, 0).section('.', 3) + ' ' +
+                         arguments.at(1).toString());
+        return lines;
+    }
+
+    qsizetype asked(const char *operation) const { return m_site->requests().of(operation).size(); }
+
+    /// The last request of a kind, without the handle.
+    QJsonObject lastRequest(const char *operation) const
+    {
+        const auto requests = m_site->requests().of(operation);
+        if (requests.isEmpty())
+            return {};
+        QJsonObject request = requests.last().request;
+        request.remove("loginHandle");
+        return request;
+    }
+
+    QJsonObject configuration(const QString &name) const
+    {
+        return m_site->device(cameraMac)->configuration.value(name).toObject();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        sdk::demo::Scene scene;
+        scene.devices = {device(cameraMac, "192.168.1.10"), device(recorderMac, "192.168.1.11")};
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        m_site = sdk::demo::DemoSite::create(scene, m_clock);
+        m_store = std::make_shared<DeviceStore>(m_clock);
+        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
+            {"dh", [this] {
+                 return std::make_shared<CDeviceDH>(m_store, m_site->libraries(),
+                                                    [] { return SearchSettings(); });
+             }}});
+        m_time = std::make_unique<FlowingClock>(*m_clock);
+        m_results = std::make_unique<QSignalSpy>(m_factory.get(), &CDeviceFactory::signalRetToSystemConfig);
+        m_enabled =
+            std::make_unique<QSignalSpy>(m_factory.get(), &CDeviceFactory::signalSystemConfigEnablePassword);
+        m_store->putRow({{"mac", cameraMac}, {"ipport", camera}});
+        m_store->putRow(
+            {{"mac", recorderMac}, {"ipport", recorder}, {"username", "admin"}, {"password", "secret1"}});
+        m_factory->setDefaultAccount("dh", "admin", "secret1");
+    }
+
+    void cleanup()
+    {
+        m_results.reset();
+        m_enabled.reset();
+        m_factory.reset();
+        m_time.reset();
+    }
+
+    void everyDeviceGetsItsOwnResult()
+    {
+        m_store->changeRow(recorderMac, [](QJsonObject &row) { row.insert("password", "old"); });
+        run("rebootDevice", {}, {absent, recorder, camera});
+        QCOMPARE(results(), QStringList({"99 5", "11 2", "10 0"}));
+        QCOMPARE(asked("NetRebootDevice"), 1);
+        QCOMPARE(lastRequest("NetRebootDevice").value("wait").toInt(), 5000);
+        QCOMPARE(asked("NetLogout"), 1);
+        run("rebootDevice", {}, {});
+        QCOMPARE(results(), QStringList());
+    }
+
+    void aRefusalIsNamed_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QVariantMap>("data");
+        QTest::addColumn<QString>("fault");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("text");
+        const QVariantMap noon = {{"time", "2024-02-29 12:00:00"}};
+        QTest::newRow("time") << "setTimeByPC" << noon << "refusesSetting" << 8 << "";
+        QTest::newRow("locales") << "dstConfig" << daylightSaving() << "refusesConfiguration" << 0
+                                 << "Locales";
+        QTest::newRow("ntp") << "ntpConfig" << ntp() << "refusesConfiguration" << 0 << "NTP";
+        QTest::newRow("video") << "videoStandard" << QVariantMap{{"videoStandard", 2}} << "refusesItem" << 11
+                               << "";
+        QTest::newRow("reboot") << "rebootDevice" << QVariantMap() << "refusesReboot" << 0 << "";
+        QTest::newRow("reset") << "resetSystem" << QVariantMap() << "refusesReset" << 0 << "";
+    }
+
+    void aRefusalIsNamed()
+    {
+        QFETCH(QString, command);
+        QFETCH(QVariantMap, data);
+        QFETCH(QString, fault);
+        QFETCH(int, number);
+        QFETCH(QString, text);
+        m_site->setFault(cameraMac, {*sdk::demo::faultNamed(fault), number, text});
+        run(command, data, {camera, recorder});
+        QCOMPARE(results(), QStringList({"10 999", "11 0"}));
+        QCOMPARE(asked("NetLogout"), 2);
+    }
+
+    void theClockThatWasSetRunsOn_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::newRow("by PC") << "setTimeByPC";
+        QTest::newRow("by hand") << "setTimeByManual";
+    }
+
+    void theClockThatWasSetRunsOn()
+    {
+        QFETCH(QString, command);
+        m_time.reset(); // the clock stands still
+        run(command, {{"time", "2031-12-31 23:59:50"}});
+        QCOMPARE(results(), QStringList("10 0"));
+        QCOMPARE(lastRequest("NetSetDeviceSetting"), QJsonObject({{"setting", 8},
+                                                                  {"channel", -1},
+                                                                  {"blockSize", 24},
+                                                                  {"wait", 3000},
+                                                                  {"time", "2031-12-31 23:59:50"}}));
+        m_clock->advance(15s);
+        const auto net = m_site->libraries().net;
+        sdk::LoginDeviceInformation information;
+        std::int32_t error = 0;
+        const auto handle =
+            net->NetLogin("192.168.1.10", 37777, "admin", "secret1", 0, nullptr, information, error);
+        sdk::TimeRecord time{};
+        std::uint32_t returned = 0;
+        QVERIFY(net->NetQueryConfig(handle, sdk::QueryCommand::Time, -1, &time, sizeof(time), returned, 1s));
+        QCOMPARE(time.year, 2032u);
+        QCOMPARE(time.month * 100 + time.day, 101u);
+        QCOMPARE(time.hour * 10000 + time.minute * 100 + time.second, 5u);
+    }
+
+    void daylightSavingIsARuleByWeekOrByDate()
+    {
+        run("dstConfig", daylightSaving());
+        QCOMPARE(results(), QStringList("10 0"));
+        const QJsonObject fetched = lastRequest("NetGetNewConfig");
+        QCOMPARE(fetched.value("name").toString(), "Locales");
+        QCOMPARE(fetched.value("channel").toInt(), -1);
+        const QJsonObject written = lastRequest("NetSetNewConfig");
+        QCOMPARE(written.value("channel").toInt(), -1);
+        const QJsonObject byWeek = written.value("text").toObject().value("Locales").toObject();
+        QCOMPARE(byWeek, QJsonObject({{"daylightSaving", true},
+                                      {"beginMonth", 3},
+                                      {"beginWeek", -1},
+                                      {"beginDay", 0},
+                                      {"beginHour", 2},
+                                      {"beginMinute", 30},
+                                      {"endMonth", 10},
+                                      {"endWeek", 1},
+                                      {"endDay", 6},
+                                      {"endHour", 3},
+                                      {"endMinute", 0},
+                                      {"timeFormat", "yyyy-MM-dd HH:mm:ss"}}));
+        run("dstConfig", with(daylightSaving(), "dstMode", 0));
+        const QJsonObject byDate = configuration("Locales");
+        QCOMPARE(byDate.value("beginWeek").toInt(), 0);
+        QCOMPARE(byDate.value("beginDay").toInt(), 1);
+        QCOMPARE(byDate.value("endDay").toInt(), 31);
+    }
+
+    void whatDaylightSavingDoesNotChangeStays()
+    {
+        m_site->changeDevice(cameraMac, [](sdk::demo::SceneDevice &changed, const auto &) {
+            changed.configuration.insert("Locales", QJsonObject{{"timeFormat", "dd.MM.yyyy"}});
+        });
+        run("dstConfig", with(daylightSaving(), "dstEnable", false));
+        QCOMPARE(configuration("Locales").value("timeFormat").toString(), "dd.MM.yyyy");
+        QCOMPARE(configuration("Locales").value("daylightSaving").toBool(true), false);
+    }
+
+    void configurationsAreKept()
+    {
+        run("ntpConfig", ntp());
+        QCOMPARE(results(), QStringList("10 0"));
+        QCOMPARE(configuration("NTP"), QJsonObject({{"enabled", true},
+                                                    {"address", "time.example"},
+                                                    {"port", 123},
+                                                    {"updatePeriod", 65535},
+                                                    {"timeZone", 39}}));
+        QVariantMap weekly = {{"week", 7}, {"time", "23:45"}, {"autoReboot", true}};
+        run("autoMaintain", weekly);
+        QCOMPARE(lastRequest("NetSetNewConfig").value("textSize").toInt(), 4096);
+        QCOMPARE(lastRequest("NetSetNewConfig").value("channel").toInt(), -1);
+        QCOMPARE(configuration("AutoMaintain"),
+                 QJsonObject(
+                     {{"rebootDay", 7}, {"rebootHour", 23}, {"rebootMinute", 45}, {"rebootEnabled", true}}));
+        run("autoMaintain", with(weekly, "autoReboot", false));
+        QCOMPARE(configuration("AutoMaintain").value("rebootDay").toInt(), -1);
+        QCOMPARE(configuration("AutoMaintain").value("rebootEnabled").toBool(true), false);
+        run("videoStandard", {{"videoStandard", 2}});
+        QCOMPARE(lastRequest("NetSetItem"), QJsonObject({{"item", 11},
+                                                         {"channel", -1},
+                                                         {"blockSize", 8},
+                                                         {"size", 8},
+                                                         {"standard", 2},
+                                                         {"wait", 5000}}));
+        QCOMPARE(m_site->device(cameraMac)->maintenance.videoStandard, sdk::VideoStandard::Ntsc);
+    }
+
+    void aRebootTakesTheDeviceAway()
+    {
+        m_time.reset();
+        m_site->setFault(cameraMac, {sdk::demo::Fault::RebootTakes, 90});
+        run("rebootDevice");
+        QCOMPARE(results(), QStringList("10 0"));
+        m_time = std::make_unique<FlowingClock>(*m_clock); // a login that nobody answers takes its time
+        run("rebootDevice");
+        QCOMPARE(results(), QStringList("10 5"));
+        m_clock->advance(90s);
+        run("rebootDevice");
+        QCOMPARE(results(), QStringList("10 0"));
+    }
+
+    void aResetMakesTheDeviceFactoryNew()
+    {
+        run("ntpConfig", ntp());
+        run("resetSystem");
+        QCOMPARE(results(), QStringList("10 0"));
+        QCOMPARE(lastRequest("NetResetSystem"),
+                 QJsonObject({{"size", 4}, {"outputSize", 4}, {"wait", 5000}}));
+        m_clock->advance(60s);
+        run("rebootDevice");
+        QCOMPARE(results(), QStringList("10 12")); // waits for its first password
+        QVERIFY(m_site->device(cameraMac)->isUninitialised());
+        QVERIFY(configuration("NTP").isEmpty());
+    }
+
+    void dataThatMakeNoSenseAreSentToNobody_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QVariantMap>("data");
+        const auto row = [](const char *title, const QString &command, const QVariantMap &data = {}) {
+            QTest::newRow(title) << command << data;
+        };
+        row("unknown command", "format");
+        row("empty command", "");
+        row("no time", "setTimeByPC");
+        row("half a time", "setTimeByManual", {{"time", "2024-01-01"}});
+        row("no such day", "setTimeByManual", {{"time", "2023-02-29 00:00:00"}});
+        row("time is a list", "setTimeByPC", {{"time", QVariantList{1, 2}}});
+        for (const QString &key : daylightSaving().keys()) {
+            if (key != "startDay" && key != "endDay")
+                row(qPrintable("no " + key), "dstConfig", without(daylightSaving(), key));
+        }
+        row("month 0", "dstConfig", with(daylightSaving(), "startMonth", 0));
+        row("month 13", "dstConfig", with(daylightSaving(), "endMonth", 13));
+        row("sixth week", "dstConfig", with(daylightSaving(), "startWeek", 5));
+        row("eighth weekday", "dstConfig", with(daylightSaving(), "endWeekDay", 7));
+        row("hour 24", "dstConfig", with(daylightSaving(), "endTime", "24:00"));
+        row("third mode", "dstConfig", with(daylightSaving(), "dstMode", 2));
+        row("day 32", "dstConfig", with(with(daylightSaving(), "dstMode", 0), "startDay", 31));
+        for (const QString &key : ntp().keys())
+            row(qPrintable("no " + key), "ntpConfig", without(ntp(), key));
+        row("port 65536", "ntpConfig", with(ntp(), "ntpPort", 65536));
+        row("port -1", "ntpConfig", with(ntp(), "ntpPort", "-1"));
+        row("port in words", "ntpConfig", with(ntp(), "ntpPort", "many"));
+        row("period 1e300", "ntpConfig", with(ntp(), "updatePeriod", 1e300));
+        row("zone 40", "ntpConfig", with(ntp(), "timeZone", 40));
+        row("server too long", "ntpConfig", with(ntp(), "ntpServer", QString(256, 'n')));
+        row("ninth day", "autoMaintain", {{"week", 8}, {"time", "00:00"}, {"autoReboot", true}});
+        row("no maintenance time", "autoMaintain", {{"week", 1}, {"time", ""}, {"autoReboot", false}});
+        row("third standard", "videoStandard", {{"videoStandard", 3}});
+        row("half a standard", "videoStandard", {{"videoStandard", 1.5}});
+    }
+
+    void dataThatMakeNoSenseAreSentToNobody()
+    {
+        QFETCH(QString, command);
+        QFETCH(QVariantMap, data);
+        m_site->requests().clear();
+        run(command, data, {camera, recorder});
+        QCOMPARE(results(), QStringList({"10 999", "11 999"}));
+        QVERIFY(m_site->requests().all().isEmpty());
+    }
+
+    void aNewPasswordIsThePassword()
+    {
+        m_store->changeRow(recorderMac, [](QJsonObject &row) { row.insert("password", "no longer known"); });
+        run("loginCheck", {{"password", "secret1"}}, {camera, absent, recorder});
+        QCOMPARE(results(), QStringList({"10 -1", "99 5", "11 -1"}));
+        QCOMPARE(m_enabled->size(), 1);
+        QCOMPARE(asked("NetLogout"), 0);
+
+        run("modifyPassword", {{"password", "brand-new-2"}}, {absent, camera});
+        QCOMPARE(results(), QStringList("10 0"));
+        QCOMPARE(lastRequest("NetModifyPassword"),
+                 QJsonObject({{"size", 256}, {"account", "admin"}, {"passwordLength", 11}, {"wait", 10000}}));
+        QCOMPARE(asked("NetLoginSecure"), 3); // no login of its own
+        QCOMPARE(m_store->row(cameraMac).value("password").toString(), "brand-new-2");
+        run("modifyPassword", {{"password", "newer-still-3"}}, {camera}); // the login is kept still
+        QCOMPARE(results(), QStringList("10 0"));
+
+        run("cancelLogin", {}, {});
+        QCOMPARE(asked("NetLogout"), 2);
+        run("modifyPassword", {{"password", "too-late-4"}}, {camera, recorder});
+        QCOMPARE(results(), QStringList());
+        run("rebootDevice", {}, {camera}); // with what the row knows
+        QCOMPARE(results(), QStringList("10 0"));
+    }
+
+    void aPasswordThatIsRefusedChangesNothing()
+    {
+        run("loginCheck", {{"password", "wrong"}}, {camera, recorder});
+        QCOMPARE(results(), QStringList({"10 2", "11 2"}));
+        QCOMPARE(m_enabled->size(), 0);
+        m_site->setFault(cameraMac, {sdk::demo::Fault::RefusesPasswordChange});
+        run("loginCheck", {{"password", "secret1"}}, {camera, recorder});
+        run("modifyPassword", {{"password", "brand-new-2"}}, {camera});
+        QCOMPARE(results(), QStringList("10 999"));
+        QVERIFY(!m_store->row(cameraMac).contains("password"));
+        for (const QString &password : {QString(), QString(64, 'p')}) { // none, and one that would be cut
+            run("modifyPassword", {{"password", password}}, {recorder});
+            QCOMPARE(results(), QStringList("11 999"));
+        }
+        QCOMPARE(m_store->row(recorderMac).value("password").toString(), "secret1");
+    }
+
+    void keptLoginsAreEnded()
+    {
+        run("loginCheck", {{"password", "secret1"}}, {camera, recorder});
+        run("loginCheck", {{"password", "secret1"}}, {camera});
+        QCOMPARE(asked("NetLogout"), 1); // replaced
+        run("loginCheck", {{"password", "wrong"}}, {camera});
+        QCOMPARE(asked("NetLogout"), 2); // a check that fails leaves none
+        m_results.reset();
+        m_enabled.reset();
+        m_factory.reset();
+        QCOMPARE(asked("NetLogout"), 3);
+        QCOMPARE(m_site->requests().all().last().operation, "NetCleanup");
+    }
+
+    void daysOfAMonth()
+    {
+        QCOMPARE(m_factory->getDays(1).size(), 31);
+        QCOMPARE(m_factory->getDays(4).last().toInt(), 30);
+        QVERIFY(m_factory->getDays(2).size() >= 28 && m_factory->getDays(2).size() <= 29);
+        QVERIFY(m_factory->getDays(0).isEmpty() && m_factory->getDays(13).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSystemConfig)
+#include "tst_systemconfig.moc"
