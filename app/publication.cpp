@@ -4,6 +4,7 @@
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
 #include "device/devicefactory.h"
+#include "qml/configtools/datetimevalidator.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
@@ -11,6 +12,8 @@
 
 void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
 {
+    qmlRegisterType<DateTimeValidator>("DateTimeValidator", 1, 0, "DateTimeValidator");
+
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());

@@ -3,7 +3,7 @@
 
 #include "benchmarks/figures.h"
 
-/// Search answers into rows, and the text filter over them.
+/// Search answers into rows, the text filter over them, and the device tree.
 [[nodiscard]] QList<Figure> measureDeviceLists();
 
 /// Device lists as files, workbooks against another library for them.

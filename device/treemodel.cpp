@@ -3,7 +3,10 @@
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
 
+#include <QJsonObject>
+
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -74,7 +77,7 @@ QVariant OVTreeModel::groupData(const Group &group, int role) const
             return Qt::Unchecked;
         return group.checkedCount == group.devices.size() ? Qt::Checked : Qt::PartiallyChecked;
     case CopyRetRole:
-        return -1;
+        return NoResult;
     default:
         return {};
     }
@@ -90,6 +93,8 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
         return device.checked ? Qt::Checked : Qt::Unchecked;
     case CopyRetRole:
         return device.copyRet;
+    case Qt::ToolTipRole:
+        return device.detail;
     default:
         return {};
     }
@@ -102,21 +107,20 @@ bool OVTreeModel::setData(const QModelIndex &index, const QVariant &value, int r
     if (role == IsCheckedRole) {
         const bool checked = value.toInt() != Qt::Unchecked;
         if (isGroup(index))
-            setGroupChecked(index, checked);
+            checkGroup(index, checked);
         else
             setDeviceChecked(index, checked);
         Q_EMIT checkedDevicesChanged();
         return true;
     }
     if (role == CopyRetRole && !isGroup(index)) {
-        m_groups[static_cast<qsizetype>(index.internalId()) - 1].devices[index.row()].copyRet = value.toInt();
-        Q_EMIT dataChanged(index, index, {CopyRetRole});
+        writeResult(index, value.toInt());
         return true;
     }
     return false;
 }
 
-void OVTreeModel::setGroupChecked(const QModelIndex &group, bool checked)
+void OVTreeModel::checkGroup(const QModelIndex &group, bool checked)
 {
     Group &changed = m_groups[group.row()];
     for (Device &device : changed.devices)
@@ -134,6 +138,39 @@ void OVTreeModel::setDeviceChecked(const QModelIndex &device, bool checked)
     group.checkedCount += checked ? 1 : -1;
     Q_EMIT dataChanged(device, device, {IsCheckedRole});
     Q_EMIT dataChanged(device.parent(), device.parent(), {IsCheckedRole});
+}
+
+void OVTreeModel::setAllChecked(bool checked)
+{
+    for (int group = 0; group < m_groups.size(); ++group)
+        checkGroup(index(group, 0), checked);
+    Q_EMIT checkedDevicesChanged();
+}
+
+void OVTreeModel::writeResult(const QModelIndex &device, int result)
+{
+    Group &group = m_groups[static_cast<qsizetype>(device.internalId()) - 1];
+    if (std::exchange(group.devices[device.row()].copyRet, result) != result)
+        Q_EMIT dataChanged(device, device, {CopyRetRole});
+}
+
+void OVTreeModel::setResult(const QString &ipport, int result)
+{
+    const auto place = m_places.constFind(ipport);
+    if (place != m_places.cend())
+        writeResult(index(place->second, 0, index(place->first, 0)), result);
+}
+
+void OVTreeModel::clearResults()
+{
+    for (Device &device : m_remembered)
+        device.copyRet = NoResult;
+    for (int group = 0; group < m_groups.size(); ++group) {
+        for (Device &device : m_groups[group].devices)
+            device.copyRet = NoResult;
+        const QModelIndex parent = index(group, 0);
+        Q_EMIT dataChanged(index(0, 0, parent), index(rowCount(parent) - 1, 0, parent), {CopyRetRole});
+    }
 }
 
 QHash<int, QByteArray> OVTreeModel::roleNames() const
@@ -159,8 +196,12 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     const QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), type, searchText);
 
     for (const Group &group : std::as_const(m_groups)) {
-        for (const Device &device : group.devices)
-            m_remembered.insert(device.ipport, device);
+        for (const Device &device : group.devices) {
+            if (device.checked || device.copyRet != NoResult)
+                m_remembered.insert(device.ipport, device);
+            else
+                m_remembered.remove(device.ipport);
+        }
     }
 
     QHash<QString, qsizetype> places;
@@ -176,8 +217,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
             places.insert(typeText, position);
             groups.append({.type = typeText, .devices = {}});
         }
-        const QString ipport = values.value(DeviceRowKey::ipport).toString();
-        const Device device = m_remembered.value(ipport, {.ipport = ipport});
+        const Device device = deviceOf(values);
         groups[position].devices.append(device);
         groups[position].checkedCount += device.checked ? 1 : 0;
     }
@@ -187,8 +227,51 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
 
     beginResetModel();
     m_groups = std::move(groups);
+    notePlaces();
     endResetModel();
     Q_EMIT checkedDevicesChanged();
+}
+
+OVTreeModel::Device OVTreeModel::deviceOf(const QJsonObject &row) const
+{
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
+    Device device = m_remembered.value(ipport, {.ipport = ipport});
+    const QString name = row.value(DeviceRowKey::name).toString();
+    const QString model = row.value(DeviceRowKey::model).toString();
+    device.detail = name.isEmpty() || model.isEmpty() ? name + model : name + QStringLiteral(" · ") + model;
+    return device;
+}
+
+void OVTreeModel::notePlaces()
+{
+    m_places.clear();
+    m_places.reserve(deviceCount());
+    for (int group = 0; group < m_groups.size(); ++group) {
+        const QList<Device> &devices = m_groups.at(group).devices;
+        for (int row = 0; row < devices.size(); ++row)
+            m_places.insert(devices.at(row).ipport, {group, row});
+    }
+}
+
+int OVTreeModel::checkedCount() const
+{
+    return std::accumulate(m_groups.cbegin(), m_groups.cend(), 0,
+                           [](int sum, const Group &group) { return sum + group.checkedCount; });
+}
+
+int OVTreeModel::deviceCount() const
+{
+    return std::accumulate(m_groups.cbegin(), m_groups.cend(), 0, [](int sum, const Group &group) {
+        return sum + static_cast<int>(group.devices.size());
+    });
+}
+
+Qt::CheckState OVTreeModel::checkState() const
+{
+    const int checked = checkedCount();
+    if (checked == 0)
+        return Qt::Unchecked;
+    return checked == deviceCount() ? Qt::Checked : Qt::PartiallyChecked;
 }
 
 QStringList OVTreeModel::checkedDevices() const

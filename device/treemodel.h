@@ -6,6 +6,8 @@
 #include <QList>
 #include <QPointer>
 
+#include <utility>
+
 class CDeviceFactory;
 
 /// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named and keyed
@@ -19,12 +21,23 @@ class OVTreeModel : public QAbstractItemModel
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(QStringList checkedDevices READ checkedDevices NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(int deviceCount READ deviceCount NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedDevicesChanged)
 public:
+    /// "copyRet" beside the results of devices.
+    enum Result
+    {
+        NoResult = -1,
+        WaitsForPassword = -2, ///< the old password was right, and the new one is to come
+    };
+    Q_ENUM(Result)
+
     enum Role
     {
         NameRole = Qt::UserRole, ///< "name": text of the node
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
-        CopyRetRole,             ///< "copyRet": result of copying a configuration to the device, -1 none yet
+        CopyRetRole, ///< "copyRet": result of what was last done with the device, NoResult at first
     };
 
     explicit OVTreeModel(QObject *parent = nullptr);
@@ -49,6 +62,18 @@ public:
 
     /// "ipport" of the ticked devices, in the order of the tree.
     [[nodiscard]] QStringList checkedDevices() const;
+    [[nodiscard]] int checkedCount() const;
+    [[nodiscard]] int deviceCount() const;
+
+    /// The tick of the whole tree, as that of a group.
+    [[nodiscard]] Qt::CheckState checkState() const;
+    Q_INVOKABLE void setAllChecked(bool checked);
+
+    /// Writes "copyRet" of the device that `ipport` names; does nothing when the tree has none.
+    Q_INVOKABLE void setResult(const QString &ipport, int result);
+
+    /// Takes every result back, also of devices that a search text hides.
+    Q_INVOKABLE void clearResults();
 
 Q_SIGNALS:
     void deviceFactoryChanged();
@@ -59,7 +84,8 @@ private:
     {
         QString ipport;
         bool checked = false;
-        int copyRet = -1;
+        int copyRet = NoResult;
+        QString detail = {}; ///< name and model, the tool tip of the device
     };
     struct Group
     {
@@ -70,12 +96,16 @@ private:
 
     [[nodiscard]] static bool isGroup(const QModelIndex &index) { return index.internalId() == 0; }
     [[nodiscard]] const Group &groupOf(const QModelIndex &device) const;
+    [[nodiscard]] Device deviceOf(const QJsonObject &row) const;
+    void notePlaces();
+    void checkGroup(const QModelIndex &group, bool checked);
+    void writeResult(const QModelIndex &device, int result);
     [[nodiscard]] QVariant groupData(const Group &group, int role) const;
     [[nodiscard]] QVariant deviceData(const Device &device, int role) const;
-    void setGroupChecked(const QModelIndex &group, bool checked);
     void setDeviceChecked(const QModelIndex &device, bool checked);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     QList<Group> m_groups;
+    QHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
     QHash<QString, Device> m_remembered; ///< ticks and results of devices that a search text hides, by ipport
 };

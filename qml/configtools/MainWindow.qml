@@ -97,7 +97,12 @@ T.ApplicationWindow {
     WindowShortcuts {
         currentTab: window.currentTab
         tabCount: tabBar.tabs.length
-        onFindRequested: if (window.currentTab === 0) modifyIpPage.focusSearch()
+        onFindRequested: {
+            if (window.currentTab === 0)
+                modifyIpPage.focusSearch();
+            else if (window.currentTab === 3)
+                systemConfigPage.item?.focusSearch();
+        }
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
         onSettingsRequested: popups.openSearchSettings(searchSettings.read())
@@ -155,7 +160,16 @@ T.ApplicationWindow {
             OVOnDemand {
                 id: systemConfigPage
                 visible: false
-                sourceComponent: Component { PageSystemConfig {} }
+                // qmllint disable unqualified
+                sourceComponent: Component {
+                    PageSystemConfig {
+                        libraryInstalled: window.libraryInstalled
+                        searching: window.searching
+                        onSaid: (message, kind) => popups.say(message, kind)
+                        onSearchRequested: window.requestSearch()
+                    }
+                }
+                // qmllint enable unqualified
             }
             OVOnDemand { visible: false; sourceComponent: Component { PageCGIConfig {} } }
         }

@@ -67,6 +67,18 @@ QtObject {
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
 
+    // Pages with a device tree at the left and panels at the right.
+    readonly property int treePaneWidth: 344
+    readonly property int treeIndent: 22
+    readonly property int panelWidth: 640
+    readonly property int panelLabelWidth: 116
+    readonly property int choiceWidth: 200
+    readonly property int shortChoiceWidth: 104
+    readonly property int momentFieldWidth: 200
+    readonly property int passwordFieldWidth: 260
+    readonly property int hourFieldWidth: 84
+    readonly property int shownChoices: 8  // rows of an open choice before it scrolls
+
     // Widths of table columns, by what they show.
     readonly property int columnNumber: 56
     readonly property int columnState: 104
@@ -95,6 +107,7 @@ QtObject {
     readonly property int titleSize: 14
     readonly property int leadSize: 16
     readonly property int counterSize: 20
+    readonly property int clockSize: 26
     readonly property font hintFont: Qt.font({family: Typefaces.text, pixelSize: hintSize})
     readonly property font headFont: Qt.font({family: Typefaces.text, pixelSize: headSize, weight: Font.DemiBold})
     readonly property font bodyFont: Qt.font({family: Typefaces.text, pixelSize: bodySize})
@@ -102,6 +115,8 @@ QtObject {
     readonly property font titleFont: Qt.font({family: Typefaces.text, pixelSize: titleSize, weight: Font.DemiBold})
     readonly property font leadFont: Qt.font({family: Typefaces.text, pixelSize: leadSize, weight: Font.DemiBold})
     readonly property font figureFont: Qt.font({family: Typefaces.figures, pixelSize: bodySize})
+    readonly property font clockFont:
+        Qt.font({family: Typefaces.figures, pixelSize: clockSize, weight: Font.DemiBold})
     readonly property font counterFont:
         Qt.font({family: Typefaces.figures, pixelSize: counterSize, weight: Font.DemiBold})
     readonly property string iconFamily: Typefaces.icons
@@ -117,6 +132,7 @@ QtObject {
     readonly property int toolTipDelay: 500
     readonly property int toastStay: 4000
     readonly property int errorToastStay: 9000
+    readonly property int frame: 16  // long enough for a picture between two pieces of work
 
     // One stroke, one set.
     readonly property var icons: ({

@@ -6,7 +6,9 @@
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
+#include "device/systemtools.h"
 #include "device/treemodel.h"
+#include "device/treerows.h"
 #include "favourites/author.h"
 #include "favourites/favouritelistmodel.h"
 
@@ -67,4 +69,19 @@ struct FavouriteListModelForeign
     Q_GADGET
     QML_FOREIGN(FavouriteListModel)
     QML_NAMED_ELEMENT(FavouriteListModel)
+};
+
+struct DeviceTreeRowsForeign
+{
+    Q_GADGET
+    QML_FOREIGN(DeviceTreeRows)
+    QML_NAMED_ELEMENT(DeviceTreeRows)
+};
+
+struct SystemToolsForeign
+{
+    Q_GADGET
+    QML_FOREIGN(SystemTools)
+    QML_NAMED_ELEMENT(SystemTools)
+    QML_SINGLETON
 };

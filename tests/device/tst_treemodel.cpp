@@ -1,4 +1,5 @@
 #include "device/treemodel.h"
+#include "device/treerows.h"
 #include "tests/device/rowsbackend.h"
 
 #include <QAbstractItemModelTester>
@@ -102,6 +103,74 @@ private Q_SLOTS:
         QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.3:37777"));
         QCOMPARE(state(0), Qt::PartiallyChecked);
         QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 999);
+    }
+
+    void aResultFindsItsDevice()
+    {
+        m_model->setResult("10.0.0.5:37777", 999);
+        m_model->setResult("10.9.9.9:1", 0);
+        const QModelIndex device = m_model->index(1, 0, m_model->index(0, 0));
+        QCOMPARE(device.data(OVTreeModel::CopyRetRole), 999);
+        m_model->resetItems("search", "SD"); // hidden
+        m_model->clearResults();
+        m_model->resetItems("removeuninit", "");
+        QCOMPARE(m_model->index(1, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole),
+                 int(OVTreeModel::NoResult));
+    }
+
+    void theWholeTreeIsTicked()
+    {
+        m_model->setAllChecked(true);
+        QCOMPARE(m_model->checkedCount(), 6);
+        QCOMPARE(m_model->checkState(), Qt::Checked);
+        m_model->setData(m_model->index(0, 0, m_model->index(1, 0)), false, OVTreeModel::IsCheckedRole);
+        QCOMPARE(m_model->checkState(), Qt::PartiallyChecked);
+        m_model->setAllChecked(false);
+        QCOMPARE(m_model->checkedDevices(), QStringList());
+        QCOMPARE(m_model->checkState(), Qt::Unchecked);
+    }
+
+    void rowsOfClosedGroupsAreHidden()
+    {
+        DeviceTreeRows rows;
+        const QAbstractItemModelTester tester(&rows);
+        rows.setTree(m_model.get());
+        const auto titles = [&rows] {
+            QStringList list;
+            for (int row = 0; row < rows.rowCount(); ++row)
+                list.append(rows.index(row).data(DeviceTreeRows::TitleRole).toString().section('.', -1));
+            return list.join(' ');
+        };
+        QCOMPARE(titles(), "IPC 3:37777 5:37777 SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
+        QCOMPARE(rows.groupRowOf(4), 3);
+        rows.setOpen(0, false);
+        rows.setOpen(0, false);
+        QCOMPARE(titles(), "IPC SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
+        m_model->resetItems("nofilter", ""); // closed it stays
+        QCOMPARE(titles(), "IPC SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
+        QCOMPARE(rows.index(0).data(DeviceTreeRows::CountRole).toInt(), 3);
+
+        QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+        rows.toggleTick(0); // of the group alone: its devices are not seen
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(m_model->checkedCount(), 3);
+        rows.setOpen(0, true);
+        QCOMPARE(titles(), "IPC 3:37777 4:37777 5:37777 SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
+        rows.toggleTick(2);
+        QCOMPARE(rows.index(0).data(DeviceTreeRows::TickRole).toInt(), int(Qt::PartiallyChecked));
+        changed.clear();
+        m_model->setResult("10.0.0.6:37777", 0);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.first().first().toModelIndex().row(), 10);
+        QCOMPARE(rows.index(1).data(DeviceTreeRows::DetailRole).toString(), "大厅 · B-2230-IR");
+
+        rows.setOpen(1, false); // no group
+        rows.setOpen(99, false);
+        rows.toggleTick(-1);
+        QCOMPARE(rows.rowCount(), 11);
+        m_model.reset();
+        QCOMPARE(rows.rowCount(), 0);
+        m_tester.reset();
     }
 };
 

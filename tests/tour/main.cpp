@@ -123,6 +123,7 @@ void drive(Driver &driver, const QString &language, const QString &folder)
     walkSearchSettings(driver);
     walkDevices(driver);
     walkLists(driver, folder + QStringLiteral("/lists"));
+    walkSystem(driver);
     walkSecondStart(driver, folder);
     driver.check(warnings == 0, QStringLiteral("no warning was given"));
     driver.check(writeFile(restartFile(folder), "restarted"), QStringLiteral("the restart is noted"));

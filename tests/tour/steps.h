@@ -18,6 +18,8 @@ void walkDevices(Driver &driver);
 void walkLists(Driver &driver, const QString &folder);
 /// Adding devices by hand and from favourites.
 void walkAdding(Driver &driver);
+/// The maintenance of three devices, one of which is away for a while.
+void walkSystem(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

@@ -16,7 +16,7 @@ OVAbstractButton {
     readonly property color fill: {
         const c = Theme.colours;
         if (!enabled)
-            return filled ? c.accentDisabled : c.surface;
+            return kind === OVButton.DangerPrimary ? c.badDisabled : filled ? c.accentDisabled : c.surface;
         if (kind === OVButton.Primary)
             return down ? c.accentPressed : hovered ? c.accentHover : c.accent;
         if (kind === OVButton.DangerPrimary)

@@ -7,6 +7,7 @@ Rectangle {
 
     required property var tabs
     required property int currentIndex
+    property string namePrefix: "tab"  // of the object names of the tabs
     signal activated(int index)
 
     implicitHeight: Theme.tabBarHeight
@@ -40,7 +41,7 @@ Rectangle {
 
                 implicitWidth: label.implicitWidth + 28
                 implicitHeight: Theme.tabBarHeight
-                objectName: "tab" + index
+                objectName: root.namePrefix + index
                 text: modelData
 
                 Accessible.role: Accessible.PageTab

@@ -12,6 +12,7 @@ FocusScope {
     property alias maximumLength: field.maximumLength
     property alias readOnly: field.readOnly
     property alias textFont: field.font
+    readonly property alias acceptableText: field.acceptableInput
     property string errorText
     property string accessibleName
     property string iconName

@@ -1,0 +1,35 @@
+// A part of a panel under its heading.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property string title
+    default property alias content: body.data
+
+    spacing: Theme.controlGap
+
+    Item {
+        width: parent.width
+        height: Theme.unit * 3
+
+        OVLabel {
+            height: parent.height - Theme.half
+            color: Theme.colours.sub
+            font: Theme.headFont
+            text: root.title
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Theme.line
+            color: Theme.colours.line
+        }
+    }
+    Column {
+        id: body
+        width: parent.width
+        spacing: Theme.controlGap
+    }
+}

@@ -1,0 +1,130 @@
+// A row of an OVTree: a group that opens, or a device of one.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property int index
+    required property string title
+    required property string detail
+    required property int tick
+    required property int result
+    required property bool isGroup
+    required property bool isOpen
+    required property int deviceCount
+    property var describer
+    property bool current: false
+    property bool busy: false
+    signal picked
+    signal openToggled
+    signal tickToggled
+
+    readonly property bool hasResult: !isGroup && result !== OVTreeModel.NoResult
+    readonly property bool waits: result === OVTreeModel.WaitsForPassword
+
+    height: Theme.controlHeight
+    color: current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.hover : Theme.colours.clear
+    objectName: isGroup ? "group_" + title : "device_" + title
+
+    Accessible.role: Accessible.TreeItem
+    Accessible.name: title
+    Accessible.checkable: true
+    Accessible.checked: tick === Qt.Checked
+
+    HoverHandler {
+        id: pointer
+    }
+    MouseArea {
+        anchors.fill: parent
+        onClicked: root.picked()
+        onDoubleClicked: if (root.isGroup) root.openToggled()
+    }
+
+    OVIconButton {
+        x: Theme.half
+        anchors.verticalCenter: parent.verticalCenter
+        implicitWidth: Theme.unit * 3
+        implicitHeight: Theme.unit * 3
+        focusPolicy: Qt.NoFocus
+        iconName: root.isOpen ? "down" : "right"
+        iconSize: Theme.smallIconSize
+        objectName: "open_" + root.title
+        toolTip: root.isOpen ? qsTr("收起") : qsTr("展开")
+        visible: root.isGroup
+        onClicked: root.openToggled()
+    }
+
+    // A part of the row's surface, not a control of its own: a click counts around the box, too.
+    MouseArea {
+        x: Theme.treeIndent + (root.isGroup ? 0 : Theme.treeIndent)
+        width: Theme.boxSize + 2 * Theme.unit
+        height: parent.height
+        objectName: "tick_" + root.title
+        onClicked: root.tickToggled()
+
+        OVCheckBox {
+            anchors.centerIn: parent
+            checkState: root.tick
+            focusPolicy: Qt.NoFocus
+            hoverEnabled: false
+            tristate: true
+            nextCheckState: () => checkState
+            Accessible.ignored: true
+
+            // The model owns the tick; the area under the box takes the click.
+            MouseArea {
+                anchors.fill: parent
+                onClicked: root.tickToggled()
+            }
+        }
+
+        OVLabel {
+            id: words
+            x: parent.width
+            width: Math.min(implicitWidth, root.width - parent.x - x - Theme.pageMargin
+                - (sign.visible || spinner.visible ? Theme.boxSize + Theme.unit : 0))
+            height: parent.height
+            font: root.isGroup ? Theme.titleFont : Theme.figureFont
+            text: root.title
+        }
+        OVLabel {
+            x: words.x + words.width + Theme.unit
+            width: Math.max(0, root.width - parent.x - x - Theme.pageMargin
+                - (sign.visible || spinner.visible ? Theme.boxSize + Theme.unit : 0))
+            height: parent.height
+            color: Theme.colours.faint
+            font: root.isGroup ? Theme.figureFont : Theme.hintFont
+            text: root.isGroup ? root.deviceCount : root.detail
+        }
+    }
+
+    OVSpinner {
+        id: spinner
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin
+        anchors.verticalCenter: parent.verticalCenter
+        running: root.busy
+        size: Theme.boxSize
+        visible: root.busy
+    }
+    OVIcon {
+        id: sign
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin
+        anchors.verticalCenter: parent.verticalCenter
+        color: root.result === 0 ? Theme.colours.ok : root.waits ? Theme.colours.accent : Theme.colours.warn
+        name: root.result === 0 ? "ok" : root.waits ? "check" : "alert"
+        objectName: "resultSign"
+        size: Theme.boxSize
+        visible: root.hasResult && !root.busy
+
+        HoverHandler {
+            id: signPointer
+        }
+        OVToolTip {
+            shown: signPointer.hovered
+            text: signPointer.hovered ? root.describer.wordOfResult(root.result) : ""
+        }
+    }
+}

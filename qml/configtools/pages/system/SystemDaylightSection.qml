@@ -1,0 +1,91 @@
+// Daylight saving.
+import QtQuick
+import configtools
+
+OVSection {
+    id: root
+
+    required property bool available
+    required property var deviceFactory
+    signal actionRequested(string command, string title, var dataOf)
+    signal refused(string message)
+
+    title: qsTr("夏令时")
+
+    SystemLists {
+        id: systemLists
+    }
+
+    Row {
+        spacing: Theme.pageMargin
+
+        OVCheckBox {
+            id: enabledBox
+            width: Theme.panelLabelWidth + Theme.unit - parent.spacing
+            objectName: "dstEnableBox"
+            text: qsTr("启用")
+        }
+        OVRadioButton {
+            id: byDate
+            objectName: "dstByDate"
+            text: qsTr("按日期")
+        }
+        OVRadioButton {
+            id: byWeek
+            checked: true
+            objectName: "dstByWeek"
+            text: qsTr("按星期")
+        }
+    }
+    OVFormRow {
+        width: parent.width
+        label: qsTr("开始时间")
+        labelWidth: Theme.panelLabelWidth
+
+        SystemDaylightPoint {
+            id: begin
+            byWeek: byWeek.checked
+            deviceFactory: root.deviceFactory
+            lists: systemLists
+            month: 2
+            name: "start"
+            time: "02:00"
+            week: 4
+        }
+    }
+    OVFormRow {
+        width: parent.width
+        label: qsTr("结束时间")
+        labelWidth: Theme.panelLabelWidth
+
+        SystemDaylightPoint {
+            id: end
+            byWeek: byWeek.checked
+            deviceFactory: root.deviceFactory
+            lists: systemLists
+            month: 9
+            name: "end"
+            time: "03:00"
+            week: 4
+        }
+    }
+    OVActionRow {
+        x: Theme.panelLabelWidth + Theme.unit
+
+        OVButton {
+            enabled: root.available
+            objectName: "dstApplyButton"
+            text: qsTr("应用夏令时")
+            toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+            onClicked: {
+                if (!begin.acceptable || !end.acceptable) {
+                    root.refused(qsTr("请输入正确的时间"));
+                    return;
+                }
+                const data = Object.assign({dstEnable: enabledBox.checked, dstMode: byWeek.checked ? 1 : 0},
+                                           begin.values(), end.values());
+                root.actionRequested("dstConfig", root.title, () => data);
+            }
+        }
+    }
+}

@@ -1,0 +1,116 @@
+// The devices that an action goes to.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property OVTreeModel devices
+    required property var describer
+    required property string busyDevice
+    required property bool searching
+    required property bool libraryInstalled
+    property bool held: false  // an action runs: what it goes to stays as it is
+    readonly property string searchText: searchField.text.trim()
+    signal searchRequested
+
+    function focusSearch() {
+        searchField.forceActiveFocus(Qt.ShortcutFocusReason);
+        searchField.selectAll();
+    }
+
+    border.color: Theme.colours.line
+    border.width: Theme.line
+    color: Theme.colours.surface
+    radius: Theme.paneRadius
+
+    DeviceTreeRows {
+        id: treeRows
+        tree: root.devices
+    }
+
+    Item {
+        id: head
+        width: parent.width
+        height: Theme.tabBarHeight
+
+        OVCheckBox {
+            id: all
+            x: Theme.controlGap
+            anchors.verticalCenter: parent.verticalCenter
+            checkState: root.devices.checkState
+            enabled: root.devices.deviceCount > 0 && !root.held
+            nextCheckState: () => checkState
+            objectName: "allDevicesBox"
+            toolTip: qsTr("全选")
+            tristate: true
+            onClicked: root.devices.setAllChecked(root.devices.checkState !== Qt.Checked)
+        }
+        OVLabel {
+            id: heading
+            anchors.left: all.right
+            anchors.leftMargin: Theme.unit
+            height: parent.height
+            font: Theme.titleFont
+            text: qsTr("设备")
+        }
+        OVLabel {
+            anchors.left: heading.right
+            anchors.leftMargin: Theme.unit
+            height: parent.height
+            color: Theme.colours.faint
+            font: Theme.figureFont
+            text: root.devices.deviceCount
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Theme.line
+            color: Theme.colours.line
+        }
+    }
+    OVTextField {
+        id: searchField
+        x: Theme.controlGap
+        y: head.height + Theme.unit
+        width: parent.width - 2 * x
+        clearable: true
+        enabled: !root.held
+        iconName: "search"
+        objectName: "treeSearchField"
+        placeholderText: qsTr("搜索…")
+    }
+    OVTree {
+        id: tree
+        x: Theme.line
+        y: searchField.y + searchField.height + Theme.unit
+        width: parent.width - 2 * x
+        height: parent.height - y - Theme.controlRadius
+        busyDevice: root.busyDevice
+        describer: root.describer
+        enabled: !root.held
+        objectName: "deviceTree"
+        rows: treeRows
+    }
+    OVFocusRing {
+        around: Theme.paneRadius
+        shown: tree.activeFocus && !tree.byPointer
+    }
+    OVEmptyState {
+        anchors.fill: tree
+        actionText: root.searchText !== "" ? qsTr("清除搜索")
+            : root.searching || !root.libraryInstalled ? "" : qsTr("重新搜索")
+        busy: root.searching && root.searchText === ""
+        hint: root.searchText !== "" ? qsTr("没有设备的名称、类型、型号或地址包含这些文字。")
+            : root.searching ? qsTr("找到的设备会陆续显示在这里。")
+            : !root.libraryInstalled ? qsTr("以 --demo 参数启动可演示模拟站点。")
+            : qsTr("只列出已初始化的IPv4设备。")
+        iconName: root.searchText !== "" ? "filtered" : root.libraryInstalled ? "nothing" : "unplugged"
+        objectName: "treeEmptyState"
+        title: root.searchText !== "" ? qsTr("没有匹配的设备")
+            : root.searching ? qsTr("正在搜索设备…")
+            : root.libraryInstalled ? qsTr("没有可配置的设备") : qsTr("未安装设备库")
+        visible: root.devices.deviceCount === 0
+        onActivated: root.searchText !== "" ? searchField.wipe() : root.searchRequested()
+    }
+}

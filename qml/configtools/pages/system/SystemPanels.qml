@@ -1,0 +1,121 @@
+// What can be done with devices, in tabs.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+Rectangle {
+    id: root
+
+    required property bool available
+    required property bool held  // an action runs
+    required property string timeZone
+    required property var deviceFactory
+    required property bool editorEnabled
+    required property int secondsLeft
+    required property int waitingCount
+    property int currentPanel: 0
+    signal actionRequested(string command, string title, var dataOf)
+    signal rebootRequested
+    signal resetRequested
+    signal passwordCheckRequested(string password)
+    signal passwordChangeRequested(string password)
+    signal refused(string message)
+
+    function clearNewPassword() {
+        passwordPanel.clearNewPassword();
+    }
+    function clearOldPassword() {
+        passwordPanel.clearOldPassword();
+    }
+
+    border.color: Theme.colours.line
+    border.width: Theme.line
+    color: Theme.colours.surface
+    radius: Theme.paneRadius
+
+    OVTabBar {
+        id: tabs
+        x: Theme.line
+        y: Theme.line
+        width: parent.width - 2 * x
+        color: Theme.colours.clear
+        currentIndex: root.currentPanel
+        namePrefix: "systemTab"
+        tabs: [qsTr("校时"), qsTr("时区"), qsTr("重启"), qsTr("恢复"), qsTr("密码"), qsTr("视频制式")]
+        onActivated: index => root.currentPanel = index
+    }
+
+    Flickable {
+        id: view
+        x: Theme.line
+        y: tabs.y + tabs.height
+        width: parent.width - 2 * x
+        height: parent.height - y - Theme.line
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentHeight: stack.height + 2 * Theme.pageMargin
+        enabled: !root.held
+        interactive: contentHeight > height
+
+        T.ScrollBar.vertical: OVScrollBar {}
+
+        Item {
+            id: stack
+            x: Theme.pageMargin + Theme.unit
+            y: Theme.pageMargin
+            width: Math.min(Theme.panelWidth, view.width - 2 * x)
+            height: children[root.currentPanel].height
+
+            SystemTimePanel {
+                width: stack.width
+                available: root.available
+                timeZone: root.timeZone
+                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onRefused: message => root.refused(message)
+                visible: root.currentPanel === 0
+            }
+            SystemZonePanel {
+                width: stack.width
+                available: root.available
+                deviceFactory: root.deviceFactory
+                timeZone: root.timeZone
+                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onRefused: message => root.refused(message)
+                visible: root.currentPanel === 1
+            }
+            SystemRebootPanel {
+                width: stack.width
+                available: root.available
+                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onRebootRequested: root.rebootRequested()
+                onRefused: message => root.refused(message)
+                visible: root.currentPanel === 2
+            }
+            SystemResetPanel {
+                width: stack.width
+                available: root.available
+                onResetRequested: root.resetRequested()
+                visible: root.currentPanel === 3
+            }
+            SystemPasswordPanel {
+                id: passwordPanel
+                width: stack.width
+                available: root.available
+                deviceFactory: root.deviceFactory
+                editorEnabled: root.editorEnabled
+                secondsLeft: root.secondsLeft
+                waitingCount: root.waitingCount
+                onChangeRequested: password => root.passwordChangeRequested(password)
+                onCheckRequested: password => root.passwordCheckRequested(password)
+                onRefused: message => root.refused(message)
+                visible: root.currentPanel === 4
+            }
+            SystemVideoPanel {
+                width: stack.width
+                available: root.available
+                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                visible: root.currentPanel === 5
+            }
+        }
+    }
+}

@@ -1,0 +1,171 @@
+// A new password, once the old one was checked. There is a minute for it.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property bool available
+    required property bool editorEnabled
+    required property int secondsLeft
+    required property int waitingCount   // devices that wait for the new password
+    required property var deviceFactory  // grades passwords
+    signal checkRequested(string password)
+    signal changeRequested(string password)
+    signal refused(string message)
+
+    readonly property int fault: SystemTools.newPasswordFault(newField.text, confirmField.text)
+
+    function clearNewPassword() {
+        newField.text = "";
+        confirmField.text = "";
+    }
+    function clearOldPassword() {
+        oldField.text = "";
+    }
+
+    function textOf(fault) {
+        switch (fault) {
+        case SystemTools.TooWeak:
+            return qsTr("请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。");
+        case SystemTools.NoPassword:
+            return qsTr("请输入密码");
+        case SystemTools.NoConfirmation:
+            return qsTr("请确认密码");
+        case SystemTools.NotTheSame:
+            return qsTr("请输入相同的密码");
+        case SystemTools.LengthOutOfRange:
+            return qsTr("密码长度应当在8到32个字符范围内");
+        default:
+            return "";
+        }
+    }
+
+    function check() {
+        if (oldField.text === "")
+            refused(qsTr("请输入旧密码"));
+        else
+            checkRequested(oldField.text);
+    }
+    function change() {
+        if (fault !== SystemTools.NoFault)
+            refused(textOf(fault));
+        else
+            changeRequested(newField.text);
+    }
+
+    spacing: Theme.pageMargin * 1.5
+
+    onEditorEnabledChanged: if (editorEnabled) newField.forceActiveFocus()
+
+    OVSection {
+        width: parent.width
+        title: qsTr("第一步：验证旧密码")
+
+        OVFormRow {
+            width: parent.width
+            label: qsTr("旧密码")
+            labelWidth: Theme.panelLabelWidth
+
+            Row {
+                spacing: Theme.unit
+
+                OVTextField {
+                    id: oldField
+                    width: Theme.passwordFieldWidth
+                    accessibleName: qsTr("旧密码")
+                    maximumLength: 63
+                    objectName: "oldPasswordField"
+                    secret: true
+                    onAccepted: if (root.available) root.check()
+                }
+                OVActionRow {
+                    OVButton {
+                        enabled: root.available
+                        kind: root.editorEnabled ? OVButton.Outlined : OVButton.Primary
+                        objectName: "loginCheckButton"
+                        text: qsTr("验证")
+                        toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                        onClicked: root.check()
+                    }
+                }
+            }
+        }
+    }
+    OVSection {
+        width: parent.width
+        title: qsTr("第二步：设置新密码")
+
+        OVFormRow {
+            width: parent.width
+            enabled: root.editorEnabled
+            label: qsTr("新密码")
+            labelWidth: Theme.panelLabelWidth
+
+            Row {
+                spacing: Theme.controlGap
+
+                OVTextField {
+                    id: newField
+                    width: Theme.passwordFieldWidth
+                    accessibleName: qsTr("新密码")
+                    enabled: root.editorEnabled
+                    maximumLength: 63
+                    objectName: "newPasswordField"
+                    secret: true
+                }
+                OVPasswordStrength {
+                    grade: root.deviceFactory.getPassWordType(newField.text)
+                    visible: root.editorEnabled
+                }
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            enabled: root.editorEnabled
+            label: qsTr("确认密码")
+            labelWidth: Theme.panelLabelWidth
+
+            OVTextField {
+                id: confirmField
+                width: Theme.passwordFieldWidth
+                accessibleName: qsTr("确认密码")
+                errorText: text !== "" && text !== newField.text ? root.textOf(SystemTools.NotTheSame) : ""
+                maximumLength: 63
+                objectName: "confirmPasswordField"
+                secret: true
+                onAccepted: if (root.editorEnabled && root.available) root.change()
+            }
+        }
+        OVParagraph {  // the rule, in the colour of what breaks it; a line of its own would move the button below
+            readonly property bool broken: newField.text !== ""
+                && SystemTools.newPasswordFault(newField.text, newField.text) !== SystemTools.NoFault
+
+            x: Theme.panelLabelWidth + Theme.unit
+            width: parent.width - x
+            color: broken ? Theme.colours.bad : Theme.colours.faint
+            font: Theme.hintFont
+            text: qsTr("密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除'\":;&这五个字符以外的任意可见字符)")
+        }
+        Row {
+            x: Theme.panelLabelWidth + Theme.unit
+            spacing: Theme.controlGap
+
+            OVButton {
+                enabled: root.editorEnabled && root.available
+                kind: root.editorEnabled ? OVButton.Primary : OVButton.Outlined
+                objectName: "modifyPasswordButton"
+                text: qsTr("修改密码")
+                onClicked: root.change()
+            }
+            OVLabel {
+                height: Theme.controlHeight
+                color: root.secondsLeft <= 10 ? Theme.colours.bad : Theme.colours.sub
+                objectName: "countdownText"
+                text: qsTr("%1 秒后失效").arg(root.secondsLeft) + " · "
+                    + qsTr("%n 台设备等待新密码", "", root.waitingCount)
+                visible: root.editorEnabled
+            }
+        }
+    }
+}

@@ -1,0 +1,95 @@
+// Reboots at regular times, and one at once.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property bool available
+    signal actionRequested(string command, string title, var dataOf)
+    signal rebootRequested
+    signal refused(string message)
+
+    spacing: Theme.pageMargin * 1.5
+
+    SystemLists {
+        id: systemLists
+    }
+
+    OVSection {
+        width: parent.width
+        title: qsTr("自动维护")
+
+        OVCheckBox {
+            id: autoBox
+            objectName: "autoRebootBox"
+            text: qsTr("定时自动重启")
+        }
+        OVFormRow {
+            width: parent.width
+            enabled: autoBox.checked
+            label: qsTr("重启时间")
+            labelWidth: Theme.panelLabelWidth
+
+            Row {
+                spacing: Theme.unit
+
+                OVComboBox {
+                    id: dayBox
+                    width: Theme.shortChoiceWidth
+                    accessibleName: qsTr("重启日")
+                    currentIndex: 7
+                    model: systemLists.maintenanceDays
+                    objectName: "maintenanceDayBox"
+                }
+                OVDateTimeField {
+                    id: timeField
+                    width: Theme.hourFieldWidth
+                    accessibleName: qsTr("重启时间")
+                    format: "hh:mm"
+                    objectName: "maintenanceTimeField"
+                    text: "02:00"
+                }
+            }
+        }
+        OVActionRow {
+            x: Theme.panelLabelWidth + Theme.unit
+
+            OVButton {
+                enabled: root.available
+                kind: OVButton.Primary
+                objectName: "autoMaintainButton"
+                text: qsTr("应用")
+                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                onClicked: {
+                    if (!timeField.acceptable) {
+                        root.refused(timeField.complaint);
+                        return;
+                    }
+                    const data = {week: dayBox.currentIndex, time: timeField.text, autoReboot: autoBox.checked};
+                    root.actionRequested("autoMaintain", qsTr("自动维护"), () => data);
+                }
+            }
+        }
+    }
+    OVSection {
+        width: parent.width
+        title: qsTr("立即重启")
+
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.sub
+            text: qsTr("设备重启期间无法访问，录像和预览会中断。")
+        }
+        OVActionRow {
+            OVButton {
+                enabled: root.available
+                kind: OVButton.Danger
+                objectName: "rebootButton"
+                text: qsTr("重启设备")
+                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                onClicked: root.rebootRequested()
+            }
+        }
+    }
+}

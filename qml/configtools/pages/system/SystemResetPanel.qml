@@ -1,0 +1,29 @@
+// Back to the state in which a device leaves the factory.
+import QtQuick
+import configtools
+
+OVSection {
+    id: root
+
+    required property bool available
+    signal resetRequested
+
+    title: qsTr("恢复出厂设置")
+
+    OVNotice {
+        width: parent.width
+        iconColor: Theme.colours.warn
+        iconName: "alert"
+        text: qsTr("设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。")
+    }
+    OVActionRow {
+        OVButton {
+            enabled: root.available
+            kind: OVButton.DangerPrimary
+            objectName: "resetButton"
+            text: qsTr("恢复出厂设置")
+            toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+            onClicked: root.resetRequested()
+        }
+    }
+}

@@ -1,0 +1,101 @@
+// The clocks of devices, by this computer's or by hand.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property bool available
+    required property string timeZone
+    signal actionRequested(string command, string title, var dataOf)
+    signal refused(string message)
+
+    spacing: Theme.pageMargin * 1.5
+
+    Timer {
+        interval: 1000
+        repeat: true
+        running: root.visible
+        triggeredOnStart: true
+        onTriggered: clock.text = SystemTools.timeOfThisComputer()
+    }
+
+    OVSection {
+        width: parent.width
+        title: qsTr("按电脑时间校时")
+
+        Row {
+            spacing: Theme.controlGap
+
+            OVLabel {
+                id: clock
+                height: Theme.controlHeight
+                font: Theme.clockFont
+                objectName: "computerTime"
+            }
+            OVLabel {
+                height: Theme.controlHeight
+                color: Theme.colours.faint
+                text: root.timeZone
+            }
+        }
+        OVActionRow {
+            OVButton {
+                enabled: root.available
+                kind: OVButton.Primary
+                objectName: "setTimeByPCButton"
+                text: qsTr("同步电脑时间")
+                toolTip: root.available ? qsTr("每台设备得到发送时刻的电脑时间") : qsTr("请先在左侧勾选设备")
+                onClicked: root.actionRequested("setTimeByPC", qsTr("同步电脑时间"),
+                                                () => ({time: SystemTools.timeOfThisComputer()}))
+            }
+        }
+    }
+    OVSection {
+        width: parent.width
+        title: qsTr("手动校时")
+
+        OVFormRow {
+            width: parent.width
+            label: qsTr("时间")
+            labelWidth: Theme.panelLabelWidth
+
+            Row {
+                spacing: Theme.unit
+
+                OVDateTimeField {
+                    id: field
+                    width: Theme.momentFieldWidth
+                    accessibleName: qsTr("时间")
+                    objectName: "manualTimeField"
+                    text: SystemTools.timeOfThisComputer()
+                    onAccepted: if (root.available) root.applyByHand()
+                }
+                OVButton {
+                    objectName: "takeNowButton"
+                    text: qsTr("取当前时间")
+                    onClicked: field.text = SystemTools.timeOfThisComputer()
+                }
+            }
+        }
+        OVActionRow {
+            x: Theme.panelLabelWidth + Theme.unit
+
+            OVButton {
+                enabled: root.available
+                objectName: "setTimeByManualButton"
+                text: qsTr("应用")
+                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                onClicked: root.applyByHand()
+            }
+        }
+    }
+
+    function applyByHand() {
+        const time = field.text;
+        if (field.acceptable)
+            actionRequested("setTimeByManual", qsTr("手动校时"), () => ({time: time}));
+        else
+            refused(field.complaint);
+    }
+}

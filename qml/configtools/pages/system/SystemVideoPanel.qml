@@ -1,0 +1,47 @@
+// The video standard.
+import QtQuick
+import configtools
+
+OVSection {
+    id: root
+
+    required property bool available
+    signal actionRequested(string command, string title, var dataOf)
+
+    title: qsTr("视频制式")
+
+    OVFormRow {
+        width: parent.width
+        label: qsTr("制式")
+        labelWidth: Theme.panelLabelWidth
+
+        OVComboBox {
+            id: standardBox
+            accessibleName: qsTr("制式")
+            model: ["PAL", "NTSC"]
+            objectName: "videoStandardBox"
+        }
+    }
+    OVParagraph {
+        x: Theme.panelLabelWidth + Theme.unit
+        width: parent.width - x
+        color: Theme.colours.faint
+        font: Theme.hintFont
+        text: qsTr("PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。")
+    }
+    OVActionRow {
+        x: Theme.panelLabelWidth + Theme.unit
+
+        OVButton {
+            enabled: root.available
+            kind: OVButton.Primary
+            objectName: "videoStandardButton"
+            text: qsTr("应用")
+            toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+            onClicked: {
+                const standard = standardBox.currentIndex + 1;
+                root.actionRequested("videoStandard", root.title, () => ({videoStandard: standard}));
+            }
+        }
+    }
+}

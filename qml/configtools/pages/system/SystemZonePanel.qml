@@ -1,0 +1,121 @@
+// Daylight saving, the time zone, and where devices fetch the time from.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property bool available
+    required property string timeZone
+    required property var deviceFactory
+    signal actionRequested(string command, string title, var dataOf)
+    signal refused(string message)
+
+    readonly property string ntpComplaint: ntpBox.checked && serverField.text.trim() === "" ? qsTr("请输入NTP服务器")
+        : !portField.acceptable ? portField.complaint : !periodField.acceptable ? periodField.complaint : ""
+
+    spacing: Theme.pageMargin
+
+    SystemDaylightSection {
+        width: parent.width
+        available: root.available
+        deviceFactory: root.deviceFactory
+        onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+        onRefused: message => root.refused(message)
+    }
+    OVSection {
+        width: parent.width
+        title: qsTr("时区和NTP")
+
+        Row {
+            spacing: Theme.pageMargin
+
+            OVFormRow {
+                width: Theme.panelLabelWidth + Theme.unit + Theme.choiceWidth
+                label: qsTr("时区")
+                labelWidth: Theme.panelLabelWidth
+
+                OVComboBox {
+                    id: zoneBox
+                    accessibleName: qsTr("时区")
+                    currentIndex: SystemTools.timeZoneIndex(root.timeZone)
+                    font: Theme.figureFont
+                    model: SystemTools.timeZones
+                    objectName: "timeZoneBox"
+                }
+            }
+            OVCheckBox {
+                id: ntpBox
+                objectName: "ntpSetBox"
+                text: qsTr("启用NTP")
+            }
+        }
+        OVFormRow {
+            width: Theme.panelLabelWidth + Theme.unit + Theme.choiceWidth
+            label: qsTr("NTP服务器")
+            labelWidth: Theme.panelLabelWidth
+
+            OVTextField {
+                id: serverField
+                width: Theme.choiceWidth
+                accessibleName: qsTr("NTP服务器")
+                errorText: ntpBox.checked && text.trim() === "" ? qsTr("请输入NTP服务器") : ""
+                maximumLength: 255
+                objectName: "ntpServerField"
+                placeholderText: qsTr("地址或域名")
+            }
+        }
+        Row {
+            spacing: Theme.pageMargin
+
+            OVFormRow {
+                width: Theme.panelLabelWidth + Theme.unit + Theme.choiceWidth
+                label: qsTr("NTP端口")
+                labelWidth: Theme.panelLabelWidth
+
+                OVNumberField {
+                    id: portField
+                    width: Theme.choiceWidth
+                    accessibleName: qsTr("NTP端口")
+                    objectName: "ntpPortField"
+                    text: "123"
+                }
+            }
+            OVFormRow {
+                width: Theme.panelLabelWidth + Theme.unit + Theme.hourFieldWidth
+                label: qsTr("更新周期(分钟)")
+                labelWidth: Theme.panelLabelWidth
+
+                OVNumberField {
+                    id: periodField
+                    width: Theme.hourFieldWidth
+                    accessibleName: qsTr("更新周期(分钟)")
+                    objectName: "updatePeriodField"
+                    text: "10"
+                }
+            }
+        }
+        OVActionRow {
+            x: Theme.panelLabelWidth + Theme.unit
+
+            OVButton {
+                enabled: root.available
+                kind: OVButton.Primary
+                objectName: "ntpApplyButton"
+                text: qsTr("应用时区和NTP")
+                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                onClicked: {
+                    if (root.ntpComplaint !== "") {
+                        root.refused(root.ntpComplaint);
+                        return;
+                    }
+                    const data = {
+                        timeZone: zoneBox.currentIndex, ntpSet: ntpBox.checked, ntpServer: serverField.text.trim(),
+                        ntpPort: Number(portField.text), updatePeriod: Number(periodField.text)
+                    };
+                    root.actionRequested("ntpConfig", qsTr("时区和NTP"), () => data);
+                }
+            }
+        }
+    }
+}
