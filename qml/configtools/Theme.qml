@@ -64,6 +64,7 @@ QtObject {
     readonly property int portFieldWidth: 112
     readonly property int favouritesWidth: 1080
     readonly property int favouritesHeight: 560
+    readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
 

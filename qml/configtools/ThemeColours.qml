@@ -55,12 +55,6 @@ QtObject {
     property color badLine: "#ebc3c0"
     property color badDisabled: "#e5b8b5"
 
-    // Steps of a password's strength. The colours are given: they do not warn, they climb.
-    property color strengthWeak: "green"
-    property color strengthMedium: "yellow"
-    property color strengthStrong: "red"
-    property color strengthUnlit: "#cdcdcd"
-
     // Grades of a password. They say how hard it is to guess, and warn of nothing.
     property color passwordWeak: "#1a8f4c"
     property color passwordMedium: "#f2b600"

@@ -116,8 +116,8 @@ bool DemoNetLibrary::NetSetNewConfig(std::int64_t loginHandle, const char *name,
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
     const QString written = QString::fromLocal8Bit(name);
     const std::string_view buffer(text ? text : "", text ? textSize : 0);
-    const std::size_t length = buffer.find('\0');
-    const bool isEnded = length != std::string_view::npos && length <= longestConfigText;
+    const std::size_t length = buffer.find('\0'); // beyond every text when there is no zero
+    const bool isEnded = length <= longestConfigText;
     const QByteArray words = isEnded ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
     QJsonObject request = asked(loginHandle, wait);
     request.insert(QStringLiteral("name"), written);

@@ -24,7 +24,7 @@ ListView {
 
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: Theme.controlHeight * 10
+    cacheBuffer: 0  // rows that are made in advance are asked for still when a rebuild has taken them away
     clip: true
     currentIndex: -1
     highlightFollowsCurrentItem: false

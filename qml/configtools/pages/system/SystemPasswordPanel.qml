@@ -114,7 +114,8 @@ Column {
                     objectName: "newPasswordField"
                     secret: true
                 }
-                OVPasswordStrength {
+                OVStrengthBar {
+                    width: Theme.strengthWidth
                     grade: root.deviceFactory.getPassWordType(newField.text)
                     visible: root.editorEnabled
                 }
