@@ -156,8 +156,8 @@ void OVTreeModel::writeResult(const QModelIndex &device, int result)
 
 void OVTreeModel::setResult(const QString &ipport, int result)
 {
-    const auto place = m_places.constFind(ipport);
-    if (place != m_places.cend())
+    const auto [first, last] = std::as_const(m_places).equal_range(ipport);
+    for (auto place = first; place != last; ++place)
         writeResult(index(place->second, 0, index(place->first, 0)), result);
 }
 

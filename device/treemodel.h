@@ -69,7 +69,8 @@ public:
     [[nodiscard]] Qt::CheckState checkState() const;
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Writes "copyRet" of the device that `ipport` names; does nothing when the tree has none.
+    /// Writes "copyRet" of the device that `ipport` names, and of any that shares its address; does nothing
+    /// when the tree has none.
     Q_INVOKABLE void setResult(const QString &ipport, int result);
 
     /// Takes every result back, also of devices that a search text hides.
@@ -106,6 +107,6 @@ private:
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     QList<Group> m_groups;
-    QHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
+    QMultiHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
     QHash<QString, Device> m_remembered; ///< ticks and results of devices that a search text hides, by ipport
 };

@@ -109,6 +109,12 @@ private Q_SLOTS:
     {
         m_model->setResult("10.0.0.5:37777", 999);
         m_model->setResult("10.9.9.9:1", 0);
+        m_site->rows->add(
+            {.address = "10.0.0.2", .mac = "m9", .type = "IPC"}); // in conflict with one of the SD
+        m_model->resetItems("removeuninit", "");
+        m_model->setResult("10.0.0.2:37777", 5);
+        QCOMPARE(m_model->index(2, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 5);
+        QCOMPARE(m_model->index(0, 0, m_model->index(1, 0)).data(OVTreeModel::CopyRetRole), 5);
         const QModelIndex device = m_model->index(1, 0, m_model->index(0, 0));
         QCOMPARE(device.data(OVTreeModel::CopyRetRole), 999);
         m_model->resetItems("search", "SD"); // hidden

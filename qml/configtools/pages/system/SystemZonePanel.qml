@@ -63,6 +63,7 @@ Column {
                 maximumLength: 255
                 objectName: "ntpServerField"
                 placeholderText: qsTr("地址或域名")
+                textFont: Theme.figureFont
             }
         }
         Row {
