@@ -10,6 +10,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     QList<Figure> figures = measureDeviceLists();
     figures.append(measureDeviceFiles());
+    figures.append(measureEncodePage());
     figures.append(measureStart());
     figures.append(measureMemory());
     figures.append(measureDevicePage());

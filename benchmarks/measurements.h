@@ -15,5 +15,8 @@
 /// The page of devices with 10,000 rows.
 [[nodiscard]] Figure measureDevicePage();
 
+/// The values of the whole encode page from what was read of a device, without the library's calls.
+[[nodiscard]] Figure measureEncodePage();
+
 /// The memory of the program with 10,000 rows.
 [[nodiscard]] Figure measureMemory();

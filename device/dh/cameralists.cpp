@@ -23,7 +23,7 @@ class CameraTexts
 {
     Q_DECLARE_TR_FUNCTIONS(CameraLists)
 public:
-    static QStringList antiFlicker() { return {tr("室外"), tr("50Hz"), tr("60Hz")}; }
+    static QStringList antiFlicker() { return {tr("室外"), QStringLiteral("50Hz"), QStringLiteral("60Hz")}; }
     static QStringList exposure() { return {tr("自动"), tr("手动"), tr("增益优先"), tr("快门优先")}; }
     static QStringList whiteBalance()
     {

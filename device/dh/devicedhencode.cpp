@@ -69,9 +69,8 @@ void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
                 m_libraries.net->NetLogout(login.handle);
             }
         }
-        const QString skipped = outcome.skipped.isEmpty()
-                                    ? QString()
-                                    : tr("未复制：%1").arg(outcome.skipped.join(QStringLiteral("、")));
+        const QString skipped =
+            outcome.skipped.isEmpty() ? QString() : tr("未复制：%1").arg(outcome.skipped.join(tr("、")));
         store().changeRowAt(ipport, [&](QJsonObject &row) { row.insert(DeviceRowKey::result, skipped); });
         Q_EMIT signalCDeviceRetToCopyConfig(ipport, outcome.result);
     }

@@ -2,6 +2,26 @@
 
 #include "device/logging.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+class ItemTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodeConfig)
+public:
+    static QStringList names()
+    {
+        // The last one is worded otherwise than the main stream's.
+        return {tr("主码流编码视频格式属性"), tr("主码流编码视频格式profile"),
+                tr("主码流编码音频压缩格式"), tr("主码流编码音频格式"),
+                tr("辅码流编码视频格式属性"), tr("辅码流编码视频格式profile"),
+                tr("辅码流编码音频压缩格式"), tr("辅码流编码音频格式配置")};
+    }
+};
+
+} // namespace
+
 EncodeConfig::EncodeConfig(const ValueTables &tables, const ChannelChoice &channels)
     : m_values(tables), m_tables(tables), m_channels(channels)
 {
@@ -80,8 +100,5 @@ QString EncodeConfig::confirm()
 
 QStringList EncodeConfig::itemNames()
 {
-    // The last one is worded otherwise than the main stream's.
-    return {tr("主码流编码视频格式属性"), tr("主码流编码视频格式profile"), tr("主码流编码音频压缩格式"),
-            tr("主码流编码音频格式"),     tr("辅码流编码视频格式属性"),    tr("辅码流编码视频格式profile"),
-            tr("辅码流编码音频压缩格式"), tr("辅码流编码音频格式配置")};
+    return ItemTexts::names();
 }

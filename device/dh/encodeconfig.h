@@ -4,7 +4,7 @@
 #include "device/dh/channelchoice.h"
 #include "device/dh/encodevalues.h"
 
-#include <QCoreApplication>
+#include <QStringList>
 
 #include <optional>
 
@@ -12,7 +12,6 @@
 /// back when the user confirms. Blocks for the waits of the library. One thread.
 class EncodeConfig
 {
-    Q_DECLARE_TR_FUNCTIONS(EncodeConfig)
 public:
     /// `tables` and `channels` must outlive this object.
     EncodeConfig(const ValueTables &tables, const ChannelChoice &channels);

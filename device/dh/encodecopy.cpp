@@ -4,6 +4,10 @@
 #include "device/dh/encodeconfig.h"
 #include "device/loginresult.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
+
 namespace {
 
 constexpr int refusedByDevice = 999;

@@ -1,8 +1,10 @@
 // Configuration text: what it unpacks to, what is refused, and that packing gives it back.
 #include "sdk/blocktext.h"
+#include "sdk/camerablocks.h"
 #include "sdk/configrecords.h"
 #include "sdk/configtext/configtext.h"
 #include "sdk/configtext/configtextlibrary.h"
+#include "sdk/encodeblocks.h"
 #include "sdk/systemrecords.h"
 
 #include <QTest>
@@ -104,6 +106,13 @@ void ConfigTextTest::refusesAndLeavesTheRecord_data()
     row("too long", good + QByteArray(512 * 1024, ' '));
     row("flag as number", R"({"Https":{"port":443,"enabled":1}})");
     row("text as number", R"({"Network":{"dhcp":true,"address":5}})", "Network", sizeof(NetworkRecord));
+    const auto streams = [&row](const char *title, const QByteArray &stream) {
+        row(title, "{\"Encode\":{\"mainNormal\":{\"width\":1},\"sub\":" + stream + "}}", "Encode",
+            sizeof(EncodeRecord));
+    };
+    streams("no object inside a record", "[1]");
+    streams("bad number in an inner object", R"({"width":70000})");
+    streams("bad flag in an inner object", R"({"videoEnabled":1})");
     ports("number as text", "\"443\"");
     ports("null", "null");
     ports("negative", "-1");
@@ -118,7 +127,7 @@ void ConfigTextTest::refusesAndLeavesTheRecord()
     QFETCH(QByteArray, name);
     QFETCH(QByteArray, text);
     QFETCH(quint32, recordSize);
-    QByteArray record(sizeof(NetworkRecord), 'r');
+    QByteArray record(sizeof(EncodeRecord), 'r');
     ConfigTextLibrary library;
     std::uint32_t filled = 99;
     QVERIFY(!library.ConfigParseData(viewOf(name), viewOf(text), record.data(), recordSize, filled));
@@ -146,6 +155,12 @@ void ConfigTextTest::packedTextUnpacksToTheSame()
     goesRound("Network", network);
     goesRound("DVRIP", ServiceRecord{0, 65535, 2147483647, {}});
     goesRound("Https", HttpsRecord{0, 1, 8443, 0});
+    EncodeRecord encode = {};
+    encode.streams[3] = {1, 8, 4, 704, 576, 1, 512, 25, 6, 1, 5, 16000, {}};
+    goesRound("Encode", encode);
+    VideoColorRecord color = {};
+    color.pictures[2] = {0, 0, 3, 1, 2, 3, 4, 100, {}};
+    goesRound("VideoColor", color);
     goesRound("Locales", LocalesRecord{0, 1, {3, -1, 0, 2, 0}, {10, 0, 31, 23, 59}, {"HH:mm"}, {}});
     goesRound("AutoMaintain", AutoMaintainRecord{0, -1, 23, 59, {}, 1, {}});
     goesRound("NTP", NtpRecord{0, 1, {"time.example"}, 65535, 65535, 39, {}});
@@ -159,6 +174,9 @@ void ConfigTextTest::refusesToPackBadRecords()
     QVERIFY(!packConfigText("Smoke", &record, sizeof(record)));
     record.port = 65536;
     QVERIFY(!packConfigText("Https", &record, sizeof(record)));
+    EncodeRecord encode = {};
+    encode.streams[1].quality = 7; // in an inner object
+    QVERIFY(!packConfigText("Encode", &encode, sizeof(encode)));
     record = {sizeof(HttpsRecord), 2, 443, 0};
     QVERIFY(!packConfigText("Https", &record, sizeof(record)));
     const AutoMaintainRecord byteOutOfRange{sizeof(AutoMaintainRecord), 0, 0, 0, {}, 2, {}};
