@@ -36,10 +36,11 @@ void EncodeConfig::begin(const ConfigSession &session)
 int EncodeConfig::read()
 {
     EncodeState state = m_state.value_or(EncodeState());
-    const int result = readEncodeState(m_session, m_channels.curChannel, m_channels.curStreamType, state);
-    if (result == 0 || result == configurationUnreadable || result == capabilitiesUnknown)
+    const EncodeReading reading =
+        readEncodeState(m_session, m_channels.curChannel, m_channels.curStreamType, state);
+    if (reading.isFetched)
         m_state = state;
-    return result;
+    return reading.result;
 }
 
 QVariant EncodeConfig::value(const QString &key) const

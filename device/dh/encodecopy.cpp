@@ -31,16 +31,14 @@ bool offersAudio(const EncodeChoices &choices, int format)
     });
 }
 
-/// Puts the settings of `from` into `to` as far as `block` says that its device can do them. Returns the
-/// names of the others.
-QStringList take(const ValueTables &tables, const EncodeItems &from, const sdk::EncodeCapabilityBlock &block,
-                 bool isSub, EncodeItems &to)
+/// Puts the compression and the size of `from` into `to` as far as its device offers them.
+/// Returns the names of the others.
+QStringList takePicture(const EncodeChoices &choices, const ValueTables &tables, const EncodeItems &from,
+                        bool isSub, EncodeItems &to)
 {
-    const EncodeChoices choices(tables, block);
     const sdk::VideoFormatItem &wanted = from.videoFormat;
     sdk::VideoFormatItem &video = to.videoFormat;
     QStringList skipped;
-
     const int profile = choices.hasProfiles() ? from.videoProfile.profile : 0;
     if (choices.compressions().contains(compressionName(tables, wanted.compression, profile))) {
         video.compression = wanted.compression;
@@ -54,6 +52,16 @@ QStringList take(const ValueTables &tables, const EncodeItems &from, const sdk::
     } else {
         skipped.append(SettingNames::resolution(isSub));
     }
+    return skipped;
+}
+
+/// The same for everything else.
+QStringList takeRest(const EncodeChoices &choices, const sdk::EncodeCapabilityBlock &block,
+                     const EncodeItems &from, bool isSub, EncodeItems &to)
+{
+    const sdk::VideoFormatItem &wanted = from.videoFormat;
+    sdk::VideoFormatItem &video = to.videoFormat;
+    QStringList skipped;
     if (wanted.bitRate >= block.minimumBitRate && wanted.bitRate <= block.maximumBitRate)
         video.bitRate = wanted.bitRate;
     else
@@ -75,11 +83,19 @@ QStringList take(const ValueTables &tables, const EncodeItems &from, const sdk::
     return skipped;
 }
 
-/// What a row says of a device whose settings cannot be read.
-int rowResult(int reading)
+/// Puts compression and size of `items` into the record that capabilities are asked for with.
+void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
 {
-    const bool isOwnCode = reading == configurationUnreadable || reading == capabilitiesUnknown;
-    return isOwnCode ? capabilitiesUnknown : resultCode(loginResultOf(static_cast<std::uint32_t>(reading)));
+    record.compression = items.videoFormat.compression;
+    record.width = items.videoFormat.width;
+    record.height = items.videoFormat.height;
+}
+
+/// What a row says of a device whose settings cannot be read.
+int rowResult(const EncodeReading &reading)
+{
+    return reading.isFetched ? capabilitiesUnknown
+                             : resultCode(loginResultOf(static_cast<std::uint32_t>(reading.result)));
 }
 
 } // namespace
@@ -88,12 +104,23 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
                                      const ChannelChoice &channels, const ConfigSession &session)
 {
     EncodeState to;
-    const int reading = readEncodeState(session, channels.curChannel, channels.curStreamType, to);
-    if (reading != 0)
+    const EncodeReading reading = readEncodeState(session, channels.curChannel, channels.curStreamType, to);
+    if (reading.result != 0)
         return {.result = rowResult(reading), .skipped = {}};
     EncodeCopyOutcome outcome;
-    outcome.skipped = take(tables, from.main, to.mainBlock(channels.curStreamType), false, to.main);
-    outcome.skipped += take(tables, from.sub, to.subBlock(), true, to.sub);
+    const int streamType = channels.curStreamType;
+    const sdk::EncodeCapabilityBlock &main = to.mainBlock(streamType);
+    const sdk::EncodeCapabilityBlock &sub = to.subBlock();
+    const EncodeChoices mainChoices(tables, main);
+    const EncodeChoices subChoices(tables, sub);
+    outcome.skipped = takePicture(mainChoices, tables, from.main, false, to.main);
+    outcome.skipped += takePicture(subChoices, tables, from.sub, true, to.sub);
+    // The bit rates that a device can do follow the size.
+    putIntoRecord(to.main, to.record.streams[static_cast<std::size_t>(streamType)]);
+    putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);
+    refreshEncodeCapabilities(session, channels.curChannel, to);
+    outcome.skipped += takeRest(mainChoices, main, from.main, false, to.main);
+    outcome.skipped += takeRest(subChoices, sub, from.sub, true, to.sub);
     const QList<int> refused = writeEncodeItems(session, channels.curChannel, to.main, to.sub);
     if (!refused.isEmpty())
         outcome.result = refusedByDevice;

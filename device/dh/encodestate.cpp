@@ -43,15 +43,15 @@ EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, 
     ConfigText text(encodeTextSize);
     const std::int32_t error = session.fetchText("Encode", channel, text, ConfigSession::usualWait);
     if (error != 0)
-        return {.result = error, .asked = false};
+        return {.result = error};
     state.record = {};
-    EncodeReading reading;
+    EncodeReading reading = {.result = 0, .isFetched = true};
     if (!session.unpack("Encode", text, state.record))
         reading.result = configurationUnreadable;
     if (!session.pack("Encode", state.record, text))
         return reading;
 
-    reading.asked = true;
+    reading.isAsked = true;
     clear(state.capabilities);
     const sdk::EncodeCapabilityInput input = {sizeof(input), 0, channel, 0, text.data()};
     if (!session.queryCapabilities(sdk::CapabilityQuery::Encode, input, state.capabilities)) {
@@ -62,14 +62,27 @@ EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, 
     return reading;
 }
 
-int readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state)
+bool refreshEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state)
+{
+    ConfigText text(encodeTextSize);
+    sdk::EncodeCapabilities capabilities;
+    clear(capabilities);
+    const sdk::EncodeCapabilityInput input = {sizeof(input), 0, channel, 0, text.data()};
+    if (!session.pack("Encode", state.record, text) ||
+        !session.queryCapabilities(sdk::CapabilityQuery::Encode, input, capabilities))
+        return false;
+    state.capabilities = capabilities;
+    return true;
+}
+
+EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state)
 {
     const EncodeReading reading = readEncodeCapabilities(session, channel, state);
-    if (reading.asked) {
+    if (reading.isAsked) {
         readItems(session, channel, streamType + 1, state.main);
         readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub);
     }
-    return reading.result;
+    return reading;
 }
 
 QList<int> writeEncodeItems(const ConfigSession &session, int channel, const EncodeItems &main,

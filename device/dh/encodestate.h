@@ -39,8 +39,9 @@ inline constexpr int capabilitiesUnknown = 10;
 
 struct EncodeReading
 {
-    int result = 0;     ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
-    bool asked = false; ///< the capabilities were asked for, whatever came of it
+    int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
+    bool isFetched = false; ///< the device gave its configuration: the state is new, as far as it was read
+    bool isAsked = false;   ///< the capabilities were asked for, whatever came of it
 };
 
 /// Reads the configuration "Encode" and the capabilities that go with it. When the configuration is refused
@@ -48,10 +49,14 @@ struct EncodeReading
 [[nodiscard]] EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel,
                                                    EncodeState &state);
 
-/// The same and then the items of the chosen main stream and of the sub stream. An item that is refused is
-/// zero but for its size and stream. Returns the result.
-[[nodiscard]] int readEncodeState(const ConfigSession &session, int channel, int streamType,
-                                  EncodeState &state);
+/// Asks for the capabilities again, for the settings of the state's record. Returns false, with the state
+/// unchanged, when the device does not tell them.
+bool refreshEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state);
+
+/// Reads as readEncodeCapabilities() does, and then the items of the chosen main stream and of the sub
+/// stream. An item that is refused is zero but for its size and stream.
+[[nodiscard]] EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType,
+                                            EncodeState &state);
 
 /// Writes the eight items, whatever comes of each. Returns the places of those that were refused: 0 to 3 the
 /// main stream's video format, video profile, audio compression and audio format, 4 to 7 the sub stream's.

@@ -370,6 +370,8 @@ private Q_SLOTS:
         SceneDevice locked = configDevice(5, "IPC", 1);
         locked.faults = {{Fault::WrongPassword}};
         SceneDevice twin = configDevice(6, "IPC", 1);
+        const QJsonObject sub = {{"sizes", list({"352*288", "704*576"})}}; // the small one is set
+        twin.capabilities = {{"encode", QJsonObject{{"sub", sub}}}};
         m_site = std::make_unique<ConfigSite>(QList{modernCamera(), oldCamera(), refusing, locked, twin});
         const QStringList targets = {ipportOf(oldCamera()), ipportOf(refusing), ipportOf(locked),
                                      "192.168.1.99:37777", ipportOf(twin)};
@@ -384,6 +386,7 @@ private Q_SLOTS:
         m_site->set("curResolution", "1080P");
         m_site->set("curBitStream", "1500");
         m_site->set("frameRate", 10);
+        m_site->set("subCurBitStream", "3072");
         m_site->site->requests().clear();
         m_site->factory->copyConfigToDevice("dh", targets);
         QStringList told;
@@ -401,6 +404,9 @@ private Q_SLOTS:
         QCOMPARE(m_site->login(twin), 0);
         QCOMPARE(read(), 0);
         QCOMPARE(m_site->get("curResolution").toString(), "1080P");
+        QCOMPARE(m_site->get("subCurResolution").toString(), "D1"); // with a bit rate that the size needs
+        QCOMPARE(m_site->get("subBitStream").toStringList().value(m_site->get("subCurBitStream").toInt()),
+                 "3072");
         QCOMPARE(m_site->login(oldCamera()), 0);
         QCOMPARE(read(), 0);
         QCOMPARE(m_site->get("curEncodeMode").toString(), "MPEG4"); // its own stay
