@@ -4,18 +4,22 @@
 
 namespace {
 
+/// What a read needs, and what is sent back: size, and the mode where there is one.
+template<typename Item>
+void address(Item &item, [[maybe_unused]] sdk::CameraMode mode)
+{
+    item.size = sizeof(item);
+    if constexpr (requires { item.mode; })
+        item.mode = static_cast<std::int32_t>(mode);
+}
+
 /// Returns false, with the item zeroed but for its size and mode, when it cannot be read.
 template<typename Item>
 bool readItem(const ConfigSession &session, sdk::CameraItem number, int channel, sdk::CameraMode mode,
               Item &item)
 {
-    const auto prepare = [mode](Item &prepared) {
-        prepared.size = sizeof(prepared);
-        if constexpr (requires { prepared.mode; })
-            prepared.mode = static_cast<std::int32_t>(mode);
-    };
     item = {};
-    prepare(item);
+    address(item, mode);
     Item read = item;
     if (!session.readItem(static_cast<std::uint32_t>(number), channel, read)) {
         qCWarning(logDevice) << "Camera: item" << static_cast<int>(number) << "cannot be read, error"
@@ -23,7 +27,7 @@ bool readItem(const ConfigSession &session, sdk::CameraItem number, int channel,
         return false;
     }
     item = read;
-    prepare(item); // whatever the device filled in: these are sent back
+    address(item, mode); // whatever the device filled in
     return true;
 }
 

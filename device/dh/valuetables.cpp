@@ -54,6 +54,7 @@ QStringList resolutionNames()
 std::vector<sdk::PictureSize> resolutionSizes()
 {
     std::vector<sdk::PictureSize> sizes;
+    sizes.reserve(resolutions.size());
     for (const Resolution &resolution : resolutions)
         sizes.push_back(resolution.size);
     return sizes;

@@ -30,7 +30,8 @@ QList<int> numbers(const QJsonValue &list, const QList<int> &usual)
     if (!list.isArray())
         return usual;
     QList<int> found;
-    for (const QJsonValue &value : list.toArray())
+    const QJsonArray values = list.toArray();
+    for (const auto &value : values)
         found.append(value.toInt());
     return found;
 }
@@ -41,7 +42,8 @@ QList<PictureSize> sizes(const QJsonValue &list, const QList<PictureSize> &usual
     if (!list.isArray())
         return usual;
     QList<PictureSize> found;
-    for (const QJsonValue &value : list.toArray()) {
+    const QJsonArray values = list.toArray();
+    for (const auto &value : values) {
         const QStringList sides = value.toString().split(u'*');
         found.append({sides.value(0).toUShort(), sides.value(1).toUShort()});
     }

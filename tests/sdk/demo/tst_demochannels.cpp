@@ -20,6 +20,11 @@ VideoFormatItem itemOf(std::int32_t stream)
     return item;
 }
 
+QByteArray bytesOf(const VideoFormatItem &item)
+{
+    return {reinterpret_cast<const char *>(&item), sizeof(item)};
+}
+
 } // namespace
 
 class ChannelsTest : public QObject
@@ -103,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(site.net->NetSetItem(login.handle, videoFormat, 0, &item, sizeof(item), 5000ms), taken);
         VideoFormatItem after = itemOf(1);
         QVERIFY(site.net->NetGetItem(login.handle, videoFormat, 0, &after, sizeof(after), 5000ms));
-        QVERIFY(std::memcmp(&after, taken ? &item : &before, sizeof(after)) == 0);
+        QCOMPARE(bytesOf(after), bytesOf(taken ? item : before));
         VideoFormatItem motion = itemOf(2); // another stream
         QVERIFY(site.net->NetGetItem(login.handle, videoFormat, 0, &motion, sizeof(motion), 5000ms));
         QCOMPARE(motion.compression, before.compression);
