@@ -202,6 +202,76 @@
     </message>
 </context>
 <context>
+    <name>CDeviceDH</name>
+    <message>
+        <source>未复制：%1</source>
+        <translation>Not copied: %1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>CameraLists</name>
+    <message>
+        <source>室外</source>
+        <translation>Outdoors</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>增益优先</source>
+        <translation>Gain priority</translation>
+    </message>
+    <message>
+        <source>快门优先</source>
+        <translation>Shutter priority</translation>
+    </message>
+    <message>
+        <source>自然光</source>
+        <translation>Natural light</translation>
+    </message>
+    <message>
+        <source>路灯</source>
+        <translation>Street lamp</translation>
+    </message>
+    <message>
+        <source>区域自定义</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>彩色</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation>Black and white</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>红外</source>
+        <translation>Infrared</translation>
+    </message>
+    <message>
+        <source>白光</source>
+        <translation>White light</translation>
+    </message>
+    <message>
+        <source>智能</source>
+        <translation>Smart</translation>
+    </message>
+</context>
+<context>
     <name>DeviceAdding</name>
     <message>
         <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
@@ -375,6 +445,91 @@
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeConfig</name>
+    <message>
+        <source>主码流编码视频格式属性</source>
+        <translation>Main stream: video format</translation>
+    </message>
+    <message>
+        <source>主码流编码视频格式profile</source>
+        <translation>Main stream: video profile</translation>
+    </message>
+    <message>
+        <source>主码流编码音频压缩格式</source>
+        <translation>Main stream: audio compression</translation>
+    </message>
+    <message>
+        <source>主码流编码音频格式</source>
+        <translation>Main stream: audio format</translation>
+    </message>
+    <message>
+        <source>辅码流编码视频格式属性</source>
+        <translation>Sub stream: video format</translation>
+    </message>
+    <message>
+        <source>辅码流编码视频格式profile</source>
+        <translation>Sub stream: video profile</translation>
+    </message>
+    <message>
+        <source>辅码流编码音频压缩格式</source>
+        <translation>Sub stream: audio compression</translation>
+    </message>
+    <message>
+        <source>辅码流编码音频格式配置</source>
+        <translation>Sub stream: audio format configuration</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeCopy</name>
+    <message>
+        <source>辅码流编码模式</source>
+        <translation>compression of the sub stream</translation>
+    </message>
+    <message>
+        <source>主码流编码模式</source>
+        <translation>compression of the main stream</translation>
+    </message>
+    <message>
+        <source>辅码流分辨率</source>
+        <translation>resolution of the sub stream</translation>
+    </message>
+    <message>
+        <source>主码流分辨率</source>
+        <translation>resolution of the main stream</translation>
+    </message>
+    <message>
+        <source>辅码流码率</source>
+        <translation>bit rate of the sub stream</translation>
+    </message>
+    <message>
+        <source>主码流码率</source>
+        <translation>bit rate of the main stream</translation>
+    </message>
+    <message>
+        <source>辅码流帧率</source>
+        <translation>frame rate of the sub stream</translation>
+    </message>
+    <message>
+        <source>主码流帧率</source>
+        <translation>frame rate of the main stream</translation>
+    </message>
+    <message>
+        <source>辅码流音频编码</source>
+        <translation>audio of the sub stream</translation>
+    </message>
+    <message>
+        <source>主码流音频编码</source>
+        <translation>audio of the main stream</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeValues</name>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
     </message>
 </context>
 <context>
@@ -1028,6 +1183,13 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>OVDateTimeField</name>
+    <message>
+        <source>请输入正确的时间</source>
+        <translation>Enter a valid time</translation>
+    </message>
+</context>
+<context>
     <name>OVDialog</name>
     <message>
         <source>确定</source>
@@ -1047,6 +1209,13 @@ File path: </translation>
     <message>
         <source>提示</source>
         <translation>Notice</translation>
+    </message>
+</context>
+<context>
+    <name>OVNumberField</name>
+    <message>
+        <source>请输入数字</source>
+        <translation>Enter a number</translation>
     </message>
 </context>
 <context>
@@ -1127,6 +1296,17 @@ File path: </translation>
     <message>
         <source>关闭</source>
         <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>OVTreeRow</name>
+    <message>
+        <source>收起</source>
+        <translation>Collapse</translation>
+    </message>
+    <message>
+        <source>展开</source>
+        <translation>Expand</translation>
     </message>
 </context>
 <context>
@@ -1212,16 +1392,50 @@ File path: </translation>
 <context>
     <name>PageSystemConfig</name>
     <message>
-        <source>系统配置</source>
-        <translation>System configuration</translation>
+        <source>旧密码正确，等待新密码</source>
+        <translation>The old password is right; waiting for the new one</translation>
     </message>
     <message>
-        <source>在此为多台设备统一校时、设置网络服务和修改密码。</source>
-        <translation>Set the time, network services and passwords of many devices together.</translation>
+        <source>修改密码</source>
+        <translation>Change password</translation>
     </message>
     <message>
-        <source>也可以重启设备或恢复出厂设置。</source>
-        <translation>Devices can also be restarted or reset to factory settings.</translation>
+        <source>验证旧密码</source>
+        <translation>Check old password</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要重启选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>Reboot the selected device?</numerusform>
+            <numerusform>Reboot the %n selected devices?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reboot</translation>
+    </message>
+    <message>
+        <source>重启设备</source>
+        <translation>Reboot devices</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
+        <translation>
+            <numerusform>Restore the factory settings of the selected device?</numerusform>
+            <numerusform>Restore the factory settings of the %n selected devices?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>Restore factory settings</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>device selected</numerusform>
+            <numerusform>devices selected</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1396,6 +1610,581 @@ File path: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>The simulated site cannot be opened:</translation>
+    </message>
+</context>
+<context>
+    <name>SystemBatch</name>
+    <message numerus="yes">
+        <source>%n 台设备成功</source>
+        <translation>
+            <numerusform>%n device succeeded</numerusform>
+            <numerusform>%n devices succeeded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n device waits for the new password</numerusform>
+            <numerusform>%n devices wait for the new password</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备失败</source>
+        <translation>
+            <numerusform>%n device failed</numerusform>
+            <numerusform>%n devices failed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>：</source>
+        <translation>: </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SystemDaylightPoint</name>
+    <message>
+        <source>月</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>日</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>周</source>
+        <translation>Week</translation>
+    </message>
+    <message>
+        <source>星期</source>
+        <translation>Weekday</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDaylightSection</name>
+    <message>
+        <source>夏令时</source>
+        <translation>Daylight saving</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>Enable</translation>
+    </message>
+    <message>
+        <source>按日期</source>
+        <translation>By date</translation>
+    </message>
+    <message>
+        <source>按星期</source>
+        <translation>By week</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>Begins</translation>
+    </message>
+    <message>
+        <source>结束时间</source>
+        <translation>Ends</translation>
+    </message>
+    <message>
+        <source>应用夏令时</source>
+        <translation>Apply daylight saving</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+    <message>
+        <source>请输入正确的时间</source>
+        <translation>Enter a valid time</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDeviceTree</name>
+    <message>
+        <source>全选</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>Search…</translation>
+    </message>
+    <message>
+        <source>清除搜索</source>
+        <translation>Clear search</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>Search again</translation>
+    </message>
+    <message>
+        <source>没有设备的名称、类型、型号或地址包含这些文字。</source>
+        <translation>No device&apos;s name, type, model or address contains this text.</translation>
+    </message>
+    <message>
+        <source>找到的设备会陆续显示在这里。</source>
+        <translation>Devices appear here as they are found.</translation>
+    </message>
+    <message>
+        <source>以 --demo 参数启动可演示模拟站点。</source>
+        <translation>Start the tool with --demo to work with a simulated site.</translation>
+    </message>
+    <message>
+        <source>只列出已初始化的IPv4设备。</source>
+        <translation>Only initialised IPv4 devices are listed.</translation>
+    </message>
+    <message>
+        <source>没有匹配的设备</source>
+        <translation>No device matches</translation>
+    </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>Searching for devices…</translation>
+    </message>
+    <message>
+        <source>没有可配置的设备</source>
+        <translation>No devices to configure</translation>
+    </message>
+    <message>
+        <source>未安装设备库</source>
+        <translation>No device library is installed</translation>
+    </message>
+</context>
+<context>
+    <name>SystemLists</name>
+    <message>
+        <source>1月</source>
+        <translation>January</translation>
+    </message>
+    <message>
+        <source>2月</source>
+        <translation>February</translation>
+    </message>
+    <message>
+        <source>3月</source>
+        <translation>March</translation>
+    </message>
+    <message>
+        <source>4月</source>
+        <translation>April</translation>
+    </message>
+    <message>
+        <source>5月</source>
+        <translation>May</translation>
+    </message>
+    <message>
+        <source>6月</source>
+        <translation>June</translation>
+    </message>
+    <message>
+        <source>7月</source>
+        <translation>July</translation>
+    </message>
+    <message>
+        <source>8月</source>
+        <translation>August</translation>
+    </message>
+    <message>
+        <source>9月</source>
+        <translation>September</translation>
+    </message>
+    <message>
+        <source>10月</source>
+        <translation>October</translation>
+    </message>
+    <message>
+        <source>11月</source>
+        <translation>November</translation>
+    </message>
+    <message>
+        <source>12月</source>
+        <translation>December</translation>
+    </message>
+    <message>
+        <source>第一周</source>
+        <translation>First</translation>
+    </message>
+    <message>
+        <source>第二周</source>
+        <translation>Second</translation>
+    </message>
+    <message>
+        <source>第三周</source>
+        <translation>Third</translation>
+    </message>
+    <message>
+        <source>第四周</source>
+        <translation>Fourth</translation>
+    </message>
+    <message>
+        <source>最后一周</source>
+        <translation>Last</translation>
+    </message>
+    <message>
+        <source>周日</source>
+        <translation>Sunday</translation>
+    </message>
+    <message>
+        <source>周一</source>
+        <translation>Monday</translation>
+    </message>
+    <message>
+        <source>周二</source>
+        <translation>Tuesday</translation>
+    </message>
+    <message>
+        <source>周三</source>
+        <translation>Wednesday</translation>
+    </message>
+    <message>
+        <source>周四</source>
+        <translation>Thursday</translation>
+    </message>
+    <message>
+        <source>周五</source>
+        <translation>Friday</translation>
+    </message>
+    <message>
+        <source>周六</source>
+        <translation>Saturday</translation>
+    </message>
+    <message>
+        <source>星期日</source>
+        <translation>Sunday</translation>
+    </message>
+    <message>
+        <source>星期一</source>
+        <translation>Monday</translation>
+    </message>
+    <message>
+        <source>星期二</source>
+        <translation>Tuesday</translation>
+    </message>
+    <message>
+        <source>星期三</source>
+        <translation>Wednesday</translation>
+    </message>
+    <message>
+        <source>星期四</source>
+        <translation>Thursday</translation>
+    </message>
+    <message>
+        <source>星期五</source>
+        <translation>Friday</translation>
+    </message>
+    <message>
+        <source>星期六</source>
+        <translation>Saturday</translation>
+    </message>
+    <message>
+        <source>每天</source>
+        <translation>Every day</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPanels</name>
+    <message>
+        <source>校时</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>Time zone</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reboot</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Video standard</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPasswordPanel</name>
+    <message>
+        <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
+        <translation>Use at least two of digits, letters and common symbols, and no illegal characters.</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>Enter the password</translation>
+    </message>
+    <message>
+        <source>请确认密码</source>
+        <translation>Confirm the password</translation>
+    </message>
+    <message>
+        <source>请输入相同的密码</source>
+        <translation>Enter the same password</translation>
+    </message>
+    <message>
+        <source>密码长度应当在8到32个字符范围内</source>
+        <translation>The password must have 8 to 32 characters</translation>
+    </message>
+    <message>
+        <source>请输入旧密码</source>
+        <translation>Enter the old password</translation>
+    </message>
+    <message>
+        <source>第一步：验证旧密码</source>
+        <translation>Step 1: check the old password</translation>
+    </message>
+    <message>
+        <source>旧密码</source>
+        <translation>Old password</translation>
+    </message>
+    <message>
+        <source>验证</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+    <message>
+        <source>第二步：设置新密码</source>
+        <translation>Step 2: set the new password</translation>
+    </message>
+    <message>
+        <source>新密码</source>
+        <translation>New password</translation>
+    </message>
+    <message>
+        <source>确认密码</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
+        <translation>8 to 32 characters with at least two of digits, letters and common symbols (any visible character but the five &apos;&quot;:;&amp;)</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Change password</translation>
+    </message>
+    <message>
+        <source>%1 秒后失效</source>
+        <translation>Closes in %1 s</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n device waits for the new password</numerusform>
+            <numerusform>%n devices wait for the new password</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SystemRebootPanel</name>
+    <message>
+        <source>自动维护</source>
+        <translation>Automatic maintenance</translation>
+    </message>
+    <message>
+        <source>定时自动重启</source>
+        <translation>Reboot regularly</translation>
+    </message>
+    <message>
+        <source>重启时间</source>
+        <translation>Reboot at</translation>
+    </message>
+    <message>
+        <source>重启日</source>
+        <translation>Day of reboot</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+    <message>
+        <source>立即重启</source>
+        <translation>Reboot now</translation>
+    </message>
+    <message>
+        <source>设备重启期间无法访问，录像和预览会中断。</source>
+        <translation>A device cannot be reached while it reboots; recording and live view are interrupted.</translation>
+    </message>
+    <message>
+        <source>重启设备</source>
+        <translation>Reboot devices</translation>
+    </message>
+</context>
+<context>
+    <name>SystemResetPanel</name>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>Restore factory settings</translation>
+    </message>
+    <message>
+        <source>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</source>
+        <translation>All settings, accounts and passwords of the devices are erased. This cannot be undone, and the devices have to be initialised again.</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTimePanel</name>
+    <message>
+        <source>按电脑时间校时</source>
+        <translation>By this computer&apos;s time</translation>
+    </message>
+    <message>
+        <source>同步电脑时间</source>
+        <translation>Set to computer time</translation>
+    </message>
+    <message>
+        <source>每台设备得到发送时刻的电脑时间</source>
+        <translation>Each device gets the computer&apos;s time at the moment of sending</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+    <message>
+        <source>手动校时</source>
+        <translation>By hand</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>取当前时间</source>
+        <translation>Take current time</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>Apply</translation>
+    </message>
+</context>
+<context>
+    <name>SystemVideoPanel</name>
+    <message>
+        <source>视频制式</source>
+        <translation>Video standard</translation>
+    </message>
+    <message>
+        <source>制式</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。</source>
+        <translation>PAL is for regions with 50 Hz mains, NTSC for 60 Hz. Some devices reboot after the change.</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+</context>
+<context>
+    <name>SystemZonePanel</name>
+    <message>
+        <source>请输入NTP服务器</source>
+        <translation>Enter the NTP server</translation>
+    </message>
+    <message>
+        <source>时区和NTP</source>
+        <translation>Time zone and NTP</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>Time zone</translation>
+    </message>
+    <message>
+        <source>启用NTP</source>
+        <translation>Enable NTP</translation>
+    </message>
+    <message>
+        <source>NTP服务器</source>
+        <translation>NTP server</translation>
+    </message>
+    <message>
+        <source>地址或域名</source>
+        <translation>Address or name</translation>
+    </message>
+    <message>
+        <source>NTP端口</source>
+        <translation>NTP port</translation>
+    </message>
+    <message>
+        <source>更新周期(分钟)</source>
+        <translation>Update (minutes)</translation>
+    </message>
+    <message>
+        <source>应用时区和NTP</source>
+        <translation>Apply zone and NTP</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>First tick devices on the left</translation>
+    </message>
+</context>
+<context>
+    <name>ValueTables</name>
+    <message>
+        <source>普通</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>动检</source>
+        <translation>Motion detection</translation>
+    </message>
+    <message>
+        <source>报警</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>白天</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>夜晚</source>
+        <translation>Night</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>背光补偿</source>
+        <translation>Backlight compensation</translation>
+    </message>
+    <message>
+        <source>宽动态</source>
+        <translation>Wide dynamic range</translation>
+    </message>
+    <message>
+        <source>强光抑制</source>
+        <translation>Highlight compensation</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,76 @@
     </message>
 </context>
 <context>
+    <name>CDeviceDH</name>
+    <message>
+        <source>未复制：%1</source>
+        <translation>未复制：%1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>CameraLists</name>
+    <message>
+        <source>室外</source>
+        <translation>室外</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>手动</translation>
+    </message>
+    <message>
+        <source>增益优先</source>
+        <translation>增益优先</translation>
+    </message>
+    <message>
+        <source>快门优先</source>
+        <translation>快门优先</translation>
+    </message>
+    <message>
+        <source>自然光</source>
+        <translation>自然光</translation>
+    </message>
+    <message>
+        <source>路灯</source>
+        <translation>路灯</translation>
+    </message>
+    <message>
+        <source>区域自定义</source>
+        <translation>区域自定义</translation>
+    </message>
+    <message>
+        <source>彩色</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation>黑白</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>红外</source>
+        <translation>红外</translation>
+    </message>
+    <message>
+        <source>白光</source>
+        <translation>白光</translation>
+    </message>
+    <message>
+        <source>智能</source>
+        <translation>智能</translation>
+    </message>
+</context>
+<context>
     <name>DeviceAdding</name>
     <message>
         <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
@@ -374,6 +444,91 @@
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeConfig</name>
+    <message>
+        <source>主码流编码视频格式属性</source>
+        <translation>主码流编码视频格式属性</translation>
+    </message>
+    <message>
+        <source>主码流编码视频格式profile</source>
+        <translation>主码流编码视频格式profile</translation>
+    </message>
+    <message>
+        <source>主码流编码音频压缩格式</source>
+        <translation>主码流编码音频压缩格式</translation>
+    </message>
+    <message>
+        <source>主码流编码音频格式</source>
+        <translation>主码流编码音频格式</translation>
+    </message>
+    <message>
+        <source>辅码流编码视频格式属性</source>
+        <translation>辅码流编码视频格式属性</translation>
+    </message>
+    <message>
+        <source>辅码流编码视频格式profile</source>
+        <translation>辅码流编码视频格式profile</translation>
+    </message>
+    <message>
+        <source>辅码流编码音频压缩格式</source>
+        <translation>辅码流编码音频压缩格式</translation>
+    </message>
+    <message>
+        <source>辅码流编码音频格式配置</source>
+        <translation>辅码流编码音频格式配置</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeCopy</name>
+    <message>
+        <source>辅码流编码模式</source>
+        <translation>辅码流编码模式</translation>
+    </message>
+    <message>
+        <source>主码流编码模式</source>
+        <translation>主码流编码模式</translation>
+    </message>
+    <message>
+        <source>辅码流分辨率</source>
+        <translation>辅码流分辨率</translation>
+    </message>
+    <message>
+        <source>主码流分辨率</source>
+        <translation>主码流分辨率</translation>
+    </message>
+    <message>
+        <source>辅码流码率</source>
+        <translation>辅码流码率</translation>
+    </message>
+    <message>
+        <source>主码流码率</source>
+        <translation>主码流码率</translation>
+    </message>
+    <message>
+        <source>辅码流帧率</source>
+        <translation>辅码流帧率</translation>
+    </message>
+    <message>
+        <source>主码流帧率</source>
+        <translation>主码流帧率</translation>
+    </message>
+    <message>
+        <source>辅码流音频编码</source>
+        <translation>辅码流音频编码</translation>
+    </message>
+    <message>
+        <source>主码流音频编码</source>
+        <translation>主码流音频编码</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeValues</name>
+    <message>
+        <source>自定义</source>
+        <translation>自定义</translation>
     </message>
 </context>
 <context>
@@ -1022,6 +1177,13 @@
     </message>
 </context>
 <context>
+    <name>OVDateTimeField</name>
+    <message>
+        <source>请输入正确的时间</source>
+        <translation>请输入正确的时间</translation>
+    </message>
+</context>
+<context>
     <name>OVDialog</name>
     <message>
         <source>确定</source>
@@ -1041,6 +1203,13 @@
     <message>
         <source>提示</source>
         <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>OVNumberField</name>
+    <message>
+        <source>请输入数字</source>
+        <translation>请输入数字</translation>
     </message>
 </context>
 <context>
@@ -1120,6 +1289,17 @@
     <message>
         <source>关闭</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>OVTreeRow</name>
+    <message>
+        <source>收起</source>
+        <translation>收起</translation>
+    </message>
+    <message>
+        <source>展开</source>
+        <translation>展开</translation>
     </message>
 </context>
 <context>
@@ -1203,16 +1383,47 @@
 <context>
     <name>PageSystemConfig</name>
     <message>
-        <source>系统配置</source>
-        <translation>系统配置</translation>
+        <source>旧密码正确，等待新密码</source>
+        <translation>旧密码正确，等待新密码</translation>
     </message>
     <message>
-        <source>在此为多台设备统一校时、设置网络服务和修改密码。</source>
-        <translation>在此为多台设备统一校时、设置网络服务和修改密码。</translation>
+        <source>修改密码</source>
+        <translation>修改密码</translation>
     </message>
     <message>
-        <source>也可以重启设备或恢复出厂设置。</source>
-        <translation>也可以重启设备或恢复出厂设置。</translation>
+        <source>验证旧密码</source>
+        <translation>验证旧密码</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要重启选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>确定要重启选中的 %n 台设备吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>重启设备</source>
+        <translation>重启设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
+        <translation>
+            <numerusform>确定要将选中的 %n 台设备恢复出厂设置吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>恢复出厂设置</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>台设备已选中</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1387,6 +1598,577 @@
     <message>
         <source>无法打开模拟站点：</source>
         <translation>无法打开模拟站点：</translation>
+    </message>
+</context>
+<context>
+    <name>SystemBatch</name>
+    <message numerus="yes">
+        <source>%n 台设备成功</source>
+        <translation>
+            <numerusform>%n 台设备成功</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n 台设备等待新密码</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备失败</source>
+        <translation>
+            <numerusform>%n 台设备失败</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>：</source>
+        <translation>：</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDaylightPoint</name>
+    <message>
+        <source>月</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>日</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>周</source>
+        <translation>周</translation>
+    </message>
+    <message>
+        <source>星期</source>
+        <translation>星期</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>时间</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDaylightSection</name>
+    <message>
+        <source>夏令时</source>
+        <translation>夏令时</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <source>按日期</source>
+        <translation>按日期</translation>
+    </message>
+    <message>
+        <source>按星期</source>
+        <translation>按星期</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>结束时间</source>
+        <translation>结束时间</translation>
+    </message>
+    <message>
+        <source>应用夏令时</source>
+        <translation>应用夏令时</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message>
+        <source>请输入正确的时间</source>
+        <translation>请输入正确的时间</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDeviceTree</name>
+    <message>
+        <source>全选</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>搜索…</translation>
+    </message>
+    <message>
+        <source>清除搜索</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>重新搜索</translation>
+    </message>
+    <message>
+        <source>没有设备的名称、类型、型号或地址包含这些文字。</source>
+        <translation>没有设备的名称、类型、型号或地址包含这些文字。</translation>
+    </message>
+    <message>
+        <source>找到的设备会陆续显示在这里。</source>
+        <translation>找到的设备会陆续显示在这里。</translation>
+    </message>
+    <message>
+        <source>以 --demo 参数启动可演示模拟站点。</source>
+        <translation>以 --demo 参数启动可演示模拟站点。</translation>
+    </message>
+    <message>
+        <source>只列出已初始化的IPv4设备。</source>
+        <translation>只列出已初始化的IPv4设备。</translation>
+    </message>
+    <message>
+        <source>没有匹配的设备</source>
+        <translation>没有匹配的设备</translation>
+    </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>正在搜索设备…</translation>
+    </message>
+    <message>
+        <source>没有可配置的设备</source>
+        <translation>没有可配置的设备</translation>
+    </message>
+    <message>
+        <source>未安装设备库</source>
+        <translation>未安装设备库</translation>
+    </message>
+</context>
+<context>
+    <name>SystemLists</name>
+    <message>
+        <source>1月</source>
+        <translation>1月</translation>
+    </message>
+    <message>
+        <source>2月</source>
+        <translation>2月</translation>
+    </message>
+    <message>
+        <source>3月</source>
+        <translation>3月</translation>
+    </message>
+    <message>
+        <source>4月</source>
+        <translation>4月</translation>
+    </message>
+    <message>
+        <source>5月</source>
+        <translation>5月</translation>
+    </message>
+    <message>
+        <source>6月</source>
+        <translation>6月</translation>
+    </message>
+    <message>
+        <source>7月</source>
+        <translation>7月</translation>
+    </message>
+    <message>
+        <source>8月</source>
+        <translation>8月</translation>
+    </message>
+    <message>
+        <source>9月</source>
+        <translation>9月</translation>
+    </message>
+    <message>
+        <source>10月</source>
+        <translation>10月</translation>
+    </message>
+    <message>
+        <source>11月</source>
+        <translation>11月</translation>
+    </message>
+    <message>
+        <source>12月</source>
+        <translation>12月</translation>
+    </message>
+    <message>
+        <source>第一周</source>
+        <translation>第一周</translation>
+    </message>
+    <message>
+        <source>第二周</source>
+        <translation>第二周</translation>
+    </message>
+    <message>
+        <source>第三周</source>
+        <translation>第三周</translation>
+    </message>
+    <message>
+        <source>第四周</source>
+        <translation>第四周</translation>
+    </message>
+    <message>
+        <source>最后一周</source>
+        <translation>最后一周</translation>
+    </message>
+    <message>
+        <source>周日</source>
+        <translation>周日</translation>
+    </message>
+    <message>
+        <source>周一</source>
+        <translation>周一</translation>
+    </message>
+    <message>
+        <source>周二</source>
+        <translation>周二</translation>
+    </message>
+    <message>
+        <source>周三</source>
+        <translation>周三</translation>
+    </message>
+    <message>
+        <source>周四</source>
+        <translation>周四</translation>
+    </message>
+    <message>
+        <source>周五</source>
+        <translation>周五</translation>
+    </message>
+    <message>
+        <source>周六</source>
+        <translation>周六</translation>
+    </message>
+    <message>
+        <source>星期日</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>星期一</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>星期二</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>星期三</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>星期四</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>星期五</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>星期六</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>每天</source>
+        <translation>每天</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPanels</name>
+    <message>
+        <source>校时</source>
+        <translation>校时</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>时区</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>视频制式</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPasswordPanel</name>
+    <message>
+        <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
+        <translation>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>请输入密码</translation>
+    </message>
+    <message>
+        <source>请确认密码</source>
+        <translation>请确认密码</translation>
+    </message>
+    <message>
+        <source>请输入相同的密码</source>
+        <translation>请输入相同的密码</translation>
+    </message>
+    <message>
+        <source>密码长度应当在8到32个字符范围内</source>
+        <translation>密码长度应当在8到32个字符范围内</translation>
+    </message>
+    <message>
+        <source>请输入旧密码</source>
+        <translation>请输入旧密码</translation>
+    </message>
+    <message>
+        <source>第一步：验证旧密码</source>
+        <translation>第一步：验证旧密码</translation>
+    </message>
+    <message>
+        <source>旧密码</source>
+        <translation>旧密码</translation>
+    </message>
+    <message>
+        <source>验证</source>
+        <translation>验证</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message>
+        <source>第二步：设置新密码</source>
+        <translation>第二步：设置新密码</translation>
+    </message>
+    <message>
+        <source>新密码</source>
+        <translation>新密码</translation>
+    </message>
+    <message>
+        <source>确认密码</source>
+        <translation>确认密码</translation>
+    </message>
+    <message>
+        <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
+        <translation>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>修改密码</translation>
+    </message>
+    <message>
+        <source>%1 秒后失效</source>
+        <translation>%1 秒后失效</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n 台设备等待新密码</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SystemRebootPanel</name>
+    <message>
+        <source>自动维护</source>
+        <translation>自动维护</translation>
+    </message>
+    <message>
+        <source>定时自动重启</source>
+        <translation>定时自动重启</translation>
+    </message>
+    <message>
+        <source>重启时间</source>
+        <translation>重启时间</translation>
+    </message>
+    <message>
+        <source>重启日</source>
+        <translation>重启日</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message>
+        <source>立即重启</source>
+        <translation>立即重启</translation>
+    </message>
+    <message>
+        <source>设备重启期间无法访问，录像和预览会中断。</source>
+        <translation>设备重启期间无法访问，录像和预览会中断。</translation>
+    </message>
+    <message>
+        <source>重启设备</source>
+        <translation>重启设备</translation>
+    </message>
+</context>
+<context>
+    <name>SystemResetPanel</name>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>恢复出厂设置</translation>
+    </message>
+    <message>
+        <source>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</source>
+        <translation>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTimePanel</name>
+    <message>
+        <source>按电脑时间校时</source>
+        <translation>按电脑时间校时</translation>
+    </message>
+    <message>
+        <source>同步电脑时间</source>
+        <translation>同步电脑时间</translation>
+    </message>
+    <message>
+        <source>每台设备得到发送时刻的电脑时间</source>
+        <translation>每台设备得到发送时刻的电脑时间</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message>
+        <source>手动校时</source>
+        <translation>手动校时</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>取当前时间</source>
+        <translation>取当前时间</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>应用</translation>
+    </message>
+</context>
+<context>
+    <name>SystemVideoPanel</name>
+    <message>
+        <source>视频制式</source>
+        <translation>视频制式</translation>
+    </message>
+    <message>
+        <source>制式</source>
+        <translation>制式</translation>
+    </message>
+    <message>
+        <source>PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。</source>
+        <translation>PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+</context>
+<context>
+    <name>SystemZonePanel</name>
+    <message>
+        <source>请输入NTP服务器</source>
+        <translation>请输入NTP服务器</translation>
+    </message>
+    <message>
+        <source>时区和NTP</source>
+        <translation>时区和NTP</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>时区</translation>
+    </message>
+    <message>
+        <source>启用NTP</source>
+        <translation>启用NTP</translation>
+    </message>
+    <message>
+        <source>NTP服务器</source>
+        <translation>NTP服务器</translation>
+    </message>
+    <message>
+        <source>地址或域名</source>
+        <translation>地址或域名</translation>
+    </message>
+    <message>
+        <source>NTP端口</source>
+        <translation>NTP端口</translation>
+    </message>
+    <message>
+        <source>更新周期(分钟)</source>
+        <translation>更新周期(分钟)</translation>
+    </message>
+    <message>
+        <source>应用时区和NTP</source>
+        <translation>应用时区和NTP</translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+</context>
+<context>
+    <name>ValueTables</name>
+    <message>
+        <source>普通</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>动检</source>
+        <translation>动检</translation>
+    </message>
+    <message>
+        <source>报警</source>
+        <translation>报警</translation>
+    </message>
+    <message>
+        <source>白天</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>夜晚</source>
+        <translation>夜晚</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>背光补偿</source>
+        <translation>背光补偿</translation>
+    </message>
+    <message>
+        <source>宽动态</source>
+        <translation>宽动态</translation>
+    </message>
+    <message>
+        <source>强光抑制</source>
+        <translation>强光抑制</translation>
     </message>
 </context>
 <context>

@@ -11,9 +11,9 @@ constexpr int waitsForPassword = -2;
 constexpr int wrongPassword = 2;
 constexpr int unreachable = 5;
 
-const QString first = QStringLiteral("192.168.1.101:8800");
-const QString second = QStringLiteral("192.168.1.102:8800");
-const QString third = QStringLiteral("192.168.1.103:8800");
+const QString first = QStringLiteral("192.168.1.104:8800");
+const QString second = QStringLiteral("192.168.2.0:8800");
+const QString third = QStringLiteral("192.168.1.105:8800");
 const QString password = QStringLiteral("Office-2024");
 
 int resultOf(const Driver &driver, const QString &device)
