@@ -48,5 +48,5 @@ void FileDialogs::open(const QString &title, const QStringList &nameFilters, boo
         if (result == QDialog::Accepted && !path.isEmpty())
             chosen.call({path});
     });
-    dialog->open();
+    dialog->show(); // open() would make it modal for one window only
 }

@@ -130,6 +130,8 @@ QVariantList CDeviceBase::importFailures()
     return {};
 }
 
+void CDeviceBase::stopImport() {}
+
 QString CDeviceBase::importError()
 {
     return {};

@@ -83,6 +83,8 @@ public:
     virtual QVariantList importFailures();
     /// Why the last list was refused as a whole, in the user's language; empty when it was not.
     virtual QString importError();
+    /// Leaves out what an import has not come to yet. Called while importDevice() lets the event loop run.
+    virtual void stopImport();
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

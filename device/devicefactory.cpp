@@ -397,6 +397,11 @@ QVariantList CDeviceFactory::importFailures(const QString &family)
     return forward(family, &CDeviceBase::importFailures);
 }
 
+void CDeviceFactory::stopImport(const QString &family)
+{
+    forward(family, &CDeviceBase::stopImport);
+}
+
 QString CDeviceFactory::importError(const QString &family)
 {
     return forward(family, &CDeviceBase::importError);

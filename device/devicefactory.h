@@ -121,6 +121,8 @@ public:
     Q_INVOKABLE QVariantList importFailures(const QString &family);
     /// Why importDevice() refused the last list as a whole.
     Q_INVOKABLE QString importError(const QString &family);
+    /// Leaves out what a running import has not come to yet.
+    Q_INVOKABLE void stopImport(const QString &family);
 
 Q_SIGNALS:
     // Twins of the back ends' signals, in their order. Each is relayed from the signal of the same name with

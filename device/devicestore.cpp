@@ -44,7 +44,10 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     DeviceRowList &list = ipv4 ? m_ipv4 : m_ipv6;
     // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
     // that arrived again, as every device answers each kind of search.
-    const QString identity = ipv4 ? mac : mac + QLatin1Char(' ') + addressAndPort(answer);
+    // A device that does not tell its MAC is known by its address.
+    const QString identity = !ipv4           ? mac + QLatin1Char(' ') + addressAndPort(answer)
+                             : mac.isEmpty() ? addressAndPort(answer)
+                                             : mac;
     {
         // Most answers are repeated ones: drop them before a row is built.
         const std::scoped_lock lock(m_mutex);
@@ -66,8 +69,9 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
         list.append(identity, row);
 
     // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
-    if (ipv4 || !m_records.contains(mac))
-        m_records.insert(mac, record);
+    const QString recordKey = ipv4 ? identity : mac;
+    if (ipv4 || !m_records.contains(recordKey))
+        m_records.insert(recordKey, record);
 
     return {
         .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};

@@ -439,6 +439,10 @@
         <source>第 %1 行不是有效的XML</source>
         <translation>Line %1 is not valid XML</translation>
     </message>
+    <message>
+        <source>表格超过 %1 行</source>
+        <translation>The sheet has more than %1 rows</translation>
+    </message>
 </context>
 <context>
     <name>DeviceRow</name>
@@ -771,6 +775,10 @@
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>The settings could not be saved. Check that the program&apos;s folder can be written</translation>
     </message>
+    <message>
+        <source>正在处理设备，请稍候再关闭</source>
+        <translation>Devices are being worked on: please wait before closing</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -1047,6 +1055,10 @@ File path: </translation>
     <message>
         <source>请选择文件夹</source>
         <translation>Select a folder</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation> (Esc stops)</translation>
     </message>
 </context>
 <context>

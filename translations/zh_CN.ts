@@ -438,6 +438,10 @@
         <source>第 %1 行不是有效的XML</source>
         <translation>第 %1 行不是有效的XML</translation>
     </message>
+    <message>
+        <source>表格超过 %1 行</source>
+        <translation>表格超过 %1 行</translation>
+    </message>
 </context>
 <context>
     <name>DeviceRow</name>
@@ -769,6 +773,10 @@
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
     </message>
+    <message>
+        <source>正在处理设备，请稍候再关闭</source>
+        <translation>正在处理设备，请稍候再关闭</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -1041,6 +1049,10 @@
     <message>
         <source>请选择文件夹</source>
         <translation>请选择文件夹</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation>（按Esc停止）</translation>
     </message>
 </context>
 <context>

@@ -76,13 +76,14 @@ public:
     /// not in the table any more is left out; false when none is left, or when the file cannot be written.
     bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName) override;
 
-    /// Blocks until every device of the list was asked; between two devices the event loop runs at times,
-    /// without the user's input: whoever calls holds this object, as the factory does. `path` may be a
+    /// Blocks until every device of the list was asked, or stopImport() was called; between two devices the
+    /// event loop runs at times: whoever calls holds this object, as the factory does. `path` may be a
     /// "file:///" address. False when the list was refused as a whole, and when another one is being
     /// imported.
     bool importDevice(const QString &path, ImportSummary &summary) override;
     QVariantList importFailures() override;
     QString importError() override;
+    void stopImport() override;
 
     // System configuration: devicedhsystem.cpp
     /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
@@ -150,6 +151,7 @@ private:
     QString m_defaultAccount;
     QString m_defaultPassword;
     bool m_isImporting = false;
+    bool m_stopsImport = false;
     QVariantList m_importFailures;
     QString m_importError;
 };

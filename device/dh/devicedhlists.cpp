@@ -66,6 +66,7 @@ bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)
 void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary)
 {
     m_isImporting = true;
+    m_stopsImport = false;
     const auto end = qScopeGuard([this] { m_isImporting = false; });
     const int total = static_cast<int>(lines.size());
     bool hasNewRows = false;
@@ -87,11 +88,13 @@ void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSumm
         // Told together: the page reads the whole table again each time.
         if (std::exchange(hasNewRows, false))
             Q_EMIT signalCDeviceAddSingleDeviceToTable();
-        // The scene has no other chance to paint what has come so far. Clicks and keys wait for the end: they
-        // are meant for the table as it will be then. What runs here may end the factory and take the ports
-        // away, but not this object, which its caller holds.
+        // The scene has no other chance to paint what has come so far, and the user none to end it; the scene
+        // keeps all other input away. What runs here may end the factory and take the ports away, but not
+        // this object, which its caller holds.
         if (!isLast)
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            QCoreApplication::processEvents();
+        if (m_stopsImport)
+            return;
         sincePaint.restart();
     }
 }
@@ -99,6 +102,11 @@ void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSumm
 QVariantList CDeviceDH::importFailures()
 {
     return m_importFailures;
+}
+
+void CDeviceDH::stopImport()
+{
+    m_stopsImport = true;
 }
 
 QString CDeviceDH::importError()

@@ -15,12 +15,15 @@ T.ApplicationWindow {
 
     readonly property alias count: search.count
     readonly property alias searching: search.running
+    readonly property bool working: modifyIpPage.work !== null  // devices are worked on one after another
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
 
     /// Starts a search that the user asks for. While a device is being upgraded it must not be disturbed.
     function requestSearch() {
+        if (working)
+            return;  // a search would take away the rows that are worked on
         if (deviceFactory.hasDeviceUpgrading())
             popups.tell(qsTr("当前有设备正在升级中，请勿刷新设备！"));
         else
@@ -45,7 +48,8 @@ T.ApplicationWindow {
     }
 
     function refuseClosing() {
-        popups.say(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
+        popups.say(working ? qsTr("正在处理设备，请稍候再关闭") : qsTr("正在搜索，请稍候再关闭"),
+                   OVToast.Information);
     }
 
     width: minimumWidth
@@ -76,7 +80,7 @@ T.ApplicationWindow {
 
     onClosing: close => {
         console.log("Window is closing...");
-        close.accepted = !searching;
+        close.accepted = !searching && !working;
         if (close.accepted)
             deviceFactory.exitProgram();
         else
@@ -90,6 +94,7 @@ T.ApplicationWindow {
     DeviceSearch {
         id: search
         deviceFactory: window.deviceFactory
+        held: window.working
     }
     LanguageList {
         id: languageList
@@ -121,7 +126,7 @@ T.ApplicationWindow {
             searching: window.searching
             title: window.title
             version: popups.softwareName + " " + popups.version
-            onCloseRequested: window.searching ? window.refuseClosing() : window.deviceFactory.exitProgram()
+            onCloseRequested: window.searching || window.working ? window.refuseClosing() : window.deviceFactory.exitProgram()
             onDragged: window.startSystemMove()
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)

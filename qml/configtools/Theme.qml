@@ -128,6 +128,7 @@ QtObject {
 
     // Durations in milliseconds.
     readonly property int quick: 120
+    readonly property int queueDrains: 100  // in which input comes that has queued up
     readonly property int paintEvery: 25  // the longest that a batch works without a picture
     readonly property int turn: 1000
     readonly property int toolTipDelay: 500

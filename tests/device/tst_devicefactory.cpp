@@ -59,7 +59,8 @@ const QStringList operations = {"startSearch",
                                 "exitProgram",
                                 "releaseP2PPort",
                                 "importFailures",
-                                "importError"};
+                                "importError",
+                                "stopImport"};
 
 const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSearchCount",

@@ -167,6 +167,9 @@ std::optional<ImportFailure> DeviceListImport::logIn(const DeviceListLine &line,
         return failureOf(LoginResult::AlreadyListed);
 
     completeFrom(outcome.row, line, outcome.record.has_value());
+    // A device that tells no MAC does not take the row of the one that the list names.
+    if (mac.isEmpty() && !m_store.row(outcome.row.value(DeviceRowKey::mac).toString()).isEmpty())
+        outcome.row.insert(DeviceRowKey::mac, QString());
     webPort = outcome.row.value(DeviceRowKey::httpport).toInt();
     m_ways.insert(target.way());
     m_macs.insert(mac);

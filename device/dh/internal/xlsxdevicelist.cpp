@@ -78,6 +78,13 @@ DeviceListContents readXlsx(const QString &path)
     }
     const int first = workbook.firstUsedRow();
     const int count = workbook.usedRowCount();
+    // A stray cell far down makes a sheet long: what is between is not gone through.
+    constexpr int maximumRows =
+        static_cast<int>(DeviceListContents::maximumLines) + DeviceListTable::maximumRowsAbove;
+    if (count > maximumRows) {
+        contents.refuse(QCoreApplication::translate("DeviceList", "表格超过 %1 行").arg(maximumRows));
+        return contents;
+    }
     DeviceListTable table(contents);
     std::array<QString, DeviceListTable::maximumColumns> texts;
     for (int row = first; row < first + count; ++row) {

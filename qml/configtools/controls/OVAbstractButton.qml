@@ -13,6 +13,12 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
 
+    /// A key that is held down presses once.
+    function pressOnce(event) {
+        if (!event.isAutoRepeat)
+            press();
+    }
+
     function press() {
         if (checkable)
             toggle();
@@ -23,8 +29,8 @@ T.AbstractButton {
     onPressedChanged: if (pressed) quiet = true
 
     // Space is the toolkit's own key.
-    Keys.onEnterPressed: press()
-    Keys.onReturnPressed: press()
+    Keys.onEnterPressed: event => pressOnce(event)
+    Keys.onReturnPressed: event => pressOnce(event)
 
     Accessible.role: Accessible.Button
     Accessible.name: text !== "" ? text : toolTip

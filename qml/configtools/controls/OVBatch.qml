@@ -45,7 +45,7 @@ Item {
         }
         total = 0;
         current = "";
-        hold.close();
+        hold.release();
         const ended = job;
         job = null;
         ended.finish(done);

@@ -21,15 +21,29 @@ T.Popup {
     signal accepted
     signal rejected
 
+    // While it goes a dialog takes no answer: a second click is not a second answer.
+    property bool leaving: false
+    onAboutToHide: leaving = true
+    onAboutToShow: leaving = false
+
     function accept() {
-        if (okEnabled && !busy)
+        if (okEnabled && !leaving && !busy)
             accepted();
     }
     function reject() {
-        if (busy)
+        if (busy || leaving)
             return;
         close();
         rejected();
+    }
+
+    /// A key that is held down answers once.
+    function acceptOnce(event) {
+        if (!event.isAutoRepeat)
+            accept();
+    }
+    function focusCancel() {
+        cancel.forceActiveFocus();
     }
 
     parent: T.Overlay.overlay
@@ -53,9 +67,9 @@ T.Popup {
     contentItem: FocusScope {
         focus: true
 
-        Keys.onEnterPressed: root.accept()
+        Keys.onEnterPressed: event => root.acceptOnce(event)
         Keys.onEscapePressed: root.reject()
-        Keys.onReturnPressed: root.accept()
+        Keys.onReturnPressed: event => root.acceptOnce(event)
 
         Accessible.role: Accessible.Dialog
         Accessible.name: root.title

@@ -1,11 +1,18 @@
 // An invisible sheet over the whole window that keeps the user's input from what lies under it.
 import QtQuick
 import QtQuick.Templates as T
+import configtools
 
 T.Popup {
     id: root
 
     signal escapePressed
+
+    /// Opens the way again once what queued up while the thread was at work has come and gone: it was meant for
+    /// what was on the screen then.
+    function release() {
+        late.start();
+    }
 
     parent: T.Overlay.overlay
     width: parent?.width ?? 0
@@ -14,6 +21,14 @@ T.Popup {
     dim: false
     focus: true
     modal: true
+
+    onAboutToShow: late.stop()
+
+    Timer {
+        id: late
+        interval: Theme.queueDrains
+        onTriggered: root.close()
+    }
 
     contentItem: MouseArea {
         cursorShape: Qt.BusyCursor

@@ -23,6 +23,7 @@ OVDialog {
     okKind: kind === OVMessageBox.DangerQuestion ? OVButton.DangerPrimary : OVButton.Primary
     title: qsTr("提示")
     onAccepted: close()
+    onOpened: if (kind === OVMessageBox.DangerQuestion) focusCancel()  // Enter twice is not yet a yes
 
     OVNotice {
         width: parent.width

@@ -146,8 +146,12 @@ ListView {
         target: root.model
         ignoreUnknownSignals: true
 
-        function onDataChanged() {
-            ++root.revision;
+        function onDataChanged(topLeft, bottomRight) {
+            // A batch changes thousands of rows one by one. Those out of reach are read anew when they come.
+            const first = Math.floor((root.contentY - root.cacheBuffer) / Theme.rowHeight) - 1;
+            const last = Math.ceil((root.contentY + root.height + root.cacheBuffer) / Theme.rowHeight) + 1;
+            if (topLeft.row <= last && bottomRight.row >= first)
+                ++root.revision;
         }
         function onRowsInserted() {
             // A search empties the table and fills it again: the current row may be back.

@@ -25,21 +25,26 @@ Item {
         dialog.busy = true;
         afterPaint.run(() => {
             const code = deviceAdding.add(device);
-            dialog.busy = false;
-            if (code !== DeviceAdding.Added) {
-                const error = deviceAdding.errorText(code);
-                dialog.showResult(code, error);
-                if (error !== "")
-                    said(error, OVToast.Error);
-                return;
-            }
-            dialog.close();
-            added();
-            if (isFavourite && savedDevices.save(device) === "")
-                said(qsTr("设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限"), OVToast.Error);
-            else
-                said(isFavourite ? qsTr("设备已添加，并保存到收藏夹") : qsTr("设备已添加"), OVToast.Success);
+            // Clicks that have queued up meanwhile meet a dialog that is busy still.
+            afterPaint.run(() => showOutcome(dialog, device, isFavourite, code));
         });
+    }
+
+    function showOutcome(dialog, device, isFavourite, code) {
+        dialog.busy = false;
+        if (code !== DeviceAdding.Added) {
+            const error = deviceAdding.errorText(code);
+            dialog.showResult(code, error);
+            if (error !== "")
+                said(error, OVToast.Error);
+            return;
+        }
+        dialog.close();
+        added();
+        if (isFavourite && savedDevices.save(device) === "")
+            said(qsTr("设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限"), OVToast.Error);
+        else
+            said(isFavourite ? qsTr("设备已添加，并保存到收藏夹") : qsTr("设备已添加"), OVToast.Success);
     }
 
     DeviceAdding {

@@ -11,7 +11,7 @@ Item {
     readonly property bool running: importing || batch.running
     readonly property real progress: importing && total > 0 ? done / total : -1
     readonly property string current: importing && total > 0 ? done + " / " + total : ""
-    readonly property string runningText: importing ? qsTr("正在导入设备…") : qsTr("正在导出设备…")
+    readonly property string runningText: importing ? qsTr("正在导入设备…") + qsTr("（按Esc停止）") : qsTr("正在导出设备…")
     property bool importing: false
     property int done: 0
     property int total: 0
@@ -63,7 +63,7 @@ Item {
         const counts = {total: 0, errcount: 0};
         const read = deviceFactory.importDevice("dh", path, counts);
         importing = false;
-        hold.close();
+        hold.release();
         deviceTable.refresh();
         if (!read) {
             const reason = deviceFactory.importError("dh");
@@ -98,6 +98,7 @@ Item {
     }
     OVInputHold {
         id: hold
+        onEscapePressed: root.deviceFactory.stopImport("dh")
     }
     Timer {
         id: beginning

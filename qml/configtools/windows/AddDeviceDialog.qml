@@ -69,6 +69,7 @@ OVDialog {
     height: Math.max(Theme.addDeviceHeight, implicitHeight)
     objectName: "addDeviceDialog"
     title: qsTr("手动添加设备")
+    onClosed: passwordField.text = ""  // no password stays longer than it is needed
     onOpened: (p2p ? idField : addressField).forceActiveFocus()
     onAccepted: {
         check();

@@ -11,6 +11,7 @@ QtObject {
     property bool searchedNothing: false  // the settings named nothing to search
     /// The settings of a search that is to follow the running one, null when none is to.
     property var next: null
+    property bool held: false  // no search follows the running one for now
 
     /// Starts a search, or, while one runs, notes that another is to follow it: two at once would fill the same
     /// list, and the first to end would pass for both.
@@ -29,6 +30,16 @@ QtObject {
         deviceFactory.startSearch("dh");
     }
 
+    function startNext() {
+        const settings = next;
+        if (!settings || running || held)
+            return;
+        next = null;
+        start(settings);
+    }
+
+    onHeldChanged: startNext()
+
     readonly property Connections reports: Connections {
         target: root.deviceFactory
 
@@ -37,10 +48,7 @@ QtObject {
         }
         function onSignalSearchDone() {
             root.running = false;
-            const settings = root.next;
-            root.next = null;
-            if (settings)
-                root.start(settings);
+            root.startNext();
         }
     }
 }
