@@ -167,7 +167,7 @@ void walkChangingFavourites(Driver &driver)
     for (int left = 1; left >= 0; --left) {
         driver.click(QStringLiteral("deleteFavourite0"));
         driver.require(QStringLiteral("messageText"));
-        driver.key(Qt::Key_Return);
+        driver.click(QStringLiteral("okButton"));
         driver.await(QStringLiteral("%1 favourites are left").arg(left),
                      [&] { return favourites(driver) == left; });
     }
