@@ -30,6 +30,7 @@ public:
     {
         NoResult = -1,
         WaitsForPassword = -2, ///< the old password was right, and the new one is to come
+        PartlyDone = -3,       ///< done but for what the device cannot do
     };
     Q_ENUM(Result)
 

@@ -57,7 +57,8 @@ const QSet<QString> &streamFields()
                                          QStringLiteral("frameRate"),
                                          QStringLiteral("quality"),
                                          QStringLiteral("bitStream"),
-                                         QStringLiteral("curBitStream")};
+                                         QStringLiteral("curBitStream"),
+                                         QStringLiteral("bitRate")};
     return fields;
 }
 
@@ -150,6 +151,8 @@ QVariant EncodeValues::streamValue(const QString &field, bool isSub, const Encod
         const QStringList steps = EncodeChoices(m_tables, block).bitRates();
         return static_cast<int>(steps.indexOf(QString::number(video.bitRate)));
     }
+    if (field == QLatin1String("bitRate"))
+        return qBound(0, video.bitRate, highestBitRate);
     return listValue(field, isSub, items, block);
 }
 

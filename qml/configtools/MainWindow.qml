@@ -43,8 +43,15 @@ T.ApplicationWindow {
     function showTab(index) {
         if (index === currentTab || index < 0 || index >= tabBar.tabs.length)
             return;
-        systemConfigPage.item?.disablePasswordEditor();
-        currentTab = index;
+        const go = () => {
+            systemConfigPage.item?.disablePasswordEditor();
+            currentTab = index;
+        };
+        // Settings that were changed and not saved are not left without a word.
+        if (deviceConfigPage.visible)
+            deviceConfigPage.item.leave(go);
+        else
+            go();
     }
 
     function refuseClosing() {
@@ -107,6 +114,8 @@ T.ApplicationWindow {
                 modifyIpPage.focusSearch();
             else if (window.currentTab === 3)
                 systemConfigPage.item?.focusSearch();
+            else if (window.currentTab === 2)
+                deviceConfigPage.item?.focusSearch();
         }
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
@@ -161,7 +170,20 @@ T.ApplicationWindow {
                 onSettingsRequested: popups.openSearchSettings(searchSettings.read())
             }
             OVOnDemand { visible: false; sourceComponent: Component { PageDeviceUpgrade {} } }
-            OVOnDemand { visible: false; sourceComponent: Component { PageDeviceConfig {} } }
+            OVOnDemand {
+                id: deviceConfigPage
+                visible: false
+                // qmllint disable unqualified
+                sourceComponent: Component {
+                    PageDeviceConfig {
+                        libraryInstalled: window.libraryInstalled
+                        searching: window.searching
+                        onSaid: (message, kind, stay) => popups.say(message, kind, stay)
+                        onSearchRequested: window.requestSearch()
+                    }
+                }
+                // qmllint enable unqualified
+            }
             OVOnDemand {
                 id: systemConfigPage
                 visible: false

@@ -80,6 +80,21 @@ QtObject {
     readonly property int hourFieldWidth: 84
     readonly property int shownChoices: 8  // rows of an open choice before it scrolls
 
+    // Forms for one device.
+    readonly property int sliderGroove: 4
+    readonly property int sliderHandle: 16
+    readonly property int sliderNumberWidth: 36
+    readonly property int switchWidth: 36
+    readonly property int switchHeight: 20
+    readonly property int changeMark: 6
+    readonly property int encodeLabelWidth: 104
+    readonly property int imageLabelWidth: 124
+    readonly property int imageSideWidth: 272
+    readonly property int sideLabelWidth: 72
+    readonly property int configTabsWidth: 260
+    readonly property int rangeFieldWidth: 76
+    readonly property int sliderRest: 400  // milliseconds without a further step, after which a value counts
+
     // Widths of table columns, by what they show.
     readonly property int columnNumber: 56
     readonly property int columnState: 104
@@ -172,6 +187,7 @@ QtObject {
         "system": "\ue154",
         "unknown": "\ue07e",
         "unplugged": "\ue45d",
-        "upgrade": "\ue07b"
+        "upgrade": "\ue07b",
+        "video": "\ue1a5"
     })
 }

@@ -3,10 +3,12 @@
 
 #include "device/addressplan.h"
 #include "device/addresstools.h"
+#include "device/cameraform.h"
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
 #include "device/systemtools.h"
+#include "device/encodeform.h"
 #include "device/treemodel.h"
 #include "device/treerows.h"
 #include "favourites/author.h"
@@ -71,6 +73,13 @@ struct FavouriteListModelForeign
     QML_NAMED_ELEMENT(FavouriteListModel)
 };
 
+struct CameraFormForeign
+{
+    Q_GADGET
+    QML_FOREIGN(CameraForm)
+    QML_NAMED_ELEMENT(CameraForm)
+};
+
 struct DeviceTreeRowsForeign
 {
     Q_GADGET
@@ -84,4 +93,9 @@ struct SystemToolsForeign
     QML_FOREIGN(SystemTools)
     QML_NAMED_ELEMENT(SystemTools)
     QML_SINGLETON
+struct EncodeFormForeign
+{
+    Q_GADGET
+    QML_FOREIGN(EncodeForm)
+    QML_NAMED_ELEMENT(EncodeForm)
 };

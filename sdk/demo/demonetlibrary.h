@@ -28,6 +28,8 @@ public:
 
     /// `site` must outlive the library.
     explicit DemoNetLibrary(DemoSite &site) : m_site(site) {}
+
+    [[nodiscard]] DemoSite &site() const { return m_site; }
     ~DemoNetLibrary() override;
 
     bool NetInit() override;

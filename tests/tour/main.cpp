@@ -6,6 +6,7 @@
 #include "app/localconfig.h"
 #include "app/messagebox.h"
 #include "app/shell.h"
+#include "sdk/demo/demonetlibrary.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
@@ -114,11 +115,12 @@ void answerMessageBox(const QString &folder)
     closer->start(100);
 }
 
-void drive(Driver &driver, const QString &language, const QString &folder)
+void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, const QString &folder)
 {
     walkFirstSearch(driver);
     walkTable(driver);
     walkWindow(driver);
+    walkConfiguration(driver, site);
     walkAdding(driver);
     walkSearchSettings(driver);
     walkDevices(driver);
@@ -164,7 +166,7 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
         if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else
-            drive(driver, language, folder);
+            drive(driver, dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site(), language, folder);
     });
     return QApplication::exec();
 }

@@ -4,6 +4,10 @@
 class Driver;
 class QString;
 
+namespace sdk::demo {
+class DemoSite;
+}
+
 /// The window opens, searches by itself, and its controls do what they say.
 void walkFirstSearch(Driver &driver);
 /// Sorting, ticks, the filters and the text search.
@@ -20,6 +24,8 @@ void walkLists(Driver &driver, const QString &folder);
 void walkAdding(Driver &driver);
 /// The maintenance of three devices, one of which is away for a while.
 void walkSystem(Driver &driver);
+/// Encode and image settings of single devices, and copying them to others, of which one can do less.
+void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

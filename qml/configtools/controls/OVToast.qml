@@ -12,14 +12,16 @@ T.Popup {
 
     readonly property int shown: 3
 
-    function show(text, kind) {
+    /// `stay` in milliseconds; left out, it depends on the kind.
+    function show(text, kind, stay) {
         for (let i = messages.count - 1; i >= 0; --i) {
             if (messages.get(i).words === text)
                 messages.remove(i);  // said again, it stays from now
         }
         if (messages.count === shown)
             messages.remove(0);
-        messages.append({words: text, kind: kind ?? OVToast.Information});
+        const usualStay = kind === OVToast.Error ? Theme.errorToastStay : Theme.toastStay;
+        messages.append({words: text, kind: kind ?? OVToast.Information, stay: stay ?? usualStay});
         open();
     }
 
@@ -64,6 +66,7 @@ T.Popup {
 
                 required property int index
                 required property int kind
+                required property int stay
                 required property string words
                 readonly property color sign: kind === OVToast.Error ? Theme.colours.bad
                     : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
@@ -118,7 +121,7 @@ T.Popup {
                     onTapped: messages.remove(toast.index)
                 }
                 Timer {
-                    interval: toast.kind === OVToast.Error ? Theme.errorToastStay : Theme.toastStay
+                    interval: toast.stay
                     running: !hover.hovered
                     onTriggered: messages.remove(toast.index)
                 }

@@ -1,4 +1,5 @@
 // Devices in groups, each with a tick and the result of what was last done with it. `rows` are DeviceTreeRows.
+// Where one device is worked on, a click or Enter chooses it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -9,8 +10,11 @@ ListView {
     required property DeviceTreeRows rows
     required property var describer  // its wordOfResult() names a result
     property string busyDevice          // the one that something is done with just now
+    property bool choosing: false       // one device can be chosen
+    property string chosenDevice
     property bool byPointer: false      // the focus came with a click, which needs no ring
     property real keptY: 0
+    signal deviceChosen(string ipport)
 
     function pick(row) {
         forceActiveFocus(Qt.MouseFocusReason);
@@ -36,7 +40,8 @@ ListView {
     Accessible.role: Accessible.Tree
 
     onActiveFocusChanged: {
-        byPointer = false;
+        if (!focus)  // it keeps the focus of its page while something lies over that
+            byPointer = false;
         if (activeFocus && currentIndex < 0 && count > 0)
             currentIndex = 0;
     }
@@ -53,6 +58,10 @@ ListView {
             positionViewAtIndex(currentIndex, ListView.Contain);
         } else if (event.key === Qt.Key_Space && currentIndex >= 0) {
             rows.toggleTick(currentIndex);
+        } else if (choosing && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            const row = itemAtIndex(currentIndex);
+            if (row && !row.isGroup)
+                deviceChosen(row.title);
         } else if (event.key === Qt.Key_Right && currentIndex >= 0) {
             rows.setOpen(currentIndex, true);
         } else if (event.key === Qt.Key_Left && currentIndex >= 0) {
@@ -70,13 +79,19 @@ ListView {
     delegate: OVTreeRow {
         width: root.width
         busy: !isGroup && root.busyDevice !== "" && title === root.busyDevice
+        chosen: root.choosing && !isGroup && title === root.chosenDevice
+        choosing: root.choosing
         current: index === root.currentIndex && root.activeFocus
         describer: root.describer
         onOpenToggled: {
             root.pick(index);
             root.rows.setOpen(index, !isOpen);
         }
-        onPicked: root.pick(index)
+        onPicked: {
+            root.pick(index);
+            if (root.choosing && !isGroup)
+                root.deviceChosen(title);
+        }
         onTickToggled: {
             root.pick(index);
             root.rows.toggleTick(index);

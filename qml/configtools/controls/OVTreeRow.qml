@@ -16,6 +16,8 @@ Rectangle {
     property var describer
     property bool current: false
     property bool busy: false
+    property bool choosing: false
+    property bool chosen: false
     signal picked
     signal openToggled
     signal tickToggled
@@ -24,11 +26,13 @@ Rectangle {
     readonly property bool waits: result === OVTreeModel.WaitsForPassword
 
     height: Theme.controlHeight
-    color: current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.hover : Theme.colours.clear
+    color: chosen || (current && !choosing) ? Theme.colours.rowSelected
+        : current || pointer.hovered ? Theme.colours.hover : Theme.colours.clear
     objectName: isGroup ? "group_" + title : "device_" + title
 
     Accessible.role: Accessible.TreeItem
     Accessible.name: title
+    Accessible.selected: chosen
     Accessible.checkable: true
     Accessible.checked: tick === Qt.Checked
 
@@ -124,7 +128,7 @@ Rectangle {
         }
         OVToolTip {
             shown: signPointer.hovered
-            text: signPointer.hovered ? root.describer.wordOfResult(root.result) : ""
+            text: signPointer.hovered ? root.describer.wordOfResult(root.result, root.title) : ""
         }
     }
 }

@@ -1,10 +1,164 @@
-// Announces the page of this tab until its work arrives.
+// Configuration of one device at a time: which one at the left, its settings at the right. Encode settings can be
+// copied to the ticked devices.
 import QtQuick
 import configtools
 
-OVComingPage {
+FocusScope {
+    id: page
+
+    required property bool searching
+    required property bool libraryInstalled
+    signal searchRequested
+    signal said(string message, int kind, int stay)
+
+    // qmllint disable unqualified
+    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var localConfig: LocalConfigApi
+    // qmllint enable unqualified
+
+    property bool outdated: true  // the tree lacks what was found since
+
+    /// Devices to copy to: the ticked ones but for that whose settings are copied.
+    readonly property var targets: Array.from(devices.checkedDevices).filter(device => device !== session.device)
+
+    function focusSearch() {
+        deviceTree.focusSearch();
+    }
+
+    function refresh() {
+        outdated = !visible;
+        if (!outdated)
+            devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
+    }
+
+    /// Does `action`, after the user has agreed to lose what was changed and not saved. Returns whether that was asked.
+    function leave(action) {
+        if (session.unsaved === 0) {
+            action();
+            return false;
+        }
+        const box = question.wanted();
+        box.action = () => {
+            session.discard();
+            action();
+        };
+        box.okText = qsTr("放弃修改");
+        box.show(qsTr("有 %n 项修改尚未保存，离开后将丢失。", "", session.unsaved), OVMessageBox.DangerQuestion);
+        return true;
+    }
+
+    function choose(ipport) {
+        if (ipport !== session.device || !session.loggedIn)
+            leave(() => session.open(ipport));
+    }
+
+    function copy() {
+        const chosen = page.targets;
+        const box = question.wanted();
+        box.action = () => copying.start(chosen);
+        box.okText = qsTr("复制");
+        //: %1 is a channel's number.
+        box.show(qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", chosen.length)
+                     .arg(session.encode.channel + 1)
+                 + (session.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : ""), OVMessageBox.Question);
+    }
+
     objectName: "pageDeviceConfig"
-    iconName: "config"
-    title: qsTr("设备配置")
-    hint: qsTr("在此查看并修改设备的编码参数和图像参数，旁边是实时预览。") + "\n" + qsTr("修改可以复制到其他设备。")
+    onVisibleChanged: {
+        if (visible && outdated)
+            refresh();
+        if (visible)
+            session.readShown();
+    }
+    Component.onCompleted: refresh()
+
+    OVTreeModel {
+        id: devices
+        deviceFactory: page.deviceFactory
+    }
+
+    Connections {
+        target: page.deviceFactory
+
+        function onSignalAddDeviceToTable() {
+            page.refresh();
+        }
+        function onSignalAddSingleDeviceToTable() {
+            page.refresh();
+        }
+        function onSignalSearchDone() {
+            page.refresh();
+        }
+    }
+
+    ConfigSession {
+        id: session
+        deviceFactory: page.deviceFactory
+        localConfig: page.localConfig
+        onSaid: (message, kind, stay) => page.said(message, kind, stay)
+    }
+    ConfigCopy {
+        id: copying
+        deviceFactory: page.deviceFactory
+        devices: devices
+        onSaid: (message, kind, stay) => page.said(message, kind, stay)
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: question
+        visible: false
+        sourceComponent: OVMessageBox {
+            property var action: null
+
+            objectName: "questionBox"
+            onAccepted: action()
+        }
+    }
+    // qmllint enable unqualified
+
+    SystemDeviceTree {
+        id: deviceTree
+        x: Theme.pageMargin
+        y: Theme.pageMargin
+        width: Theme.treePaneWidth
+        height: foot.y - y
+        busyDevice: copying.running ? copying.current : session.busy ? session.device : ""
+        choosing: true
+        chosenDevice: session.device
+        describer: copying
+        devices: devices
+        libraryInstalled: page.libraryInstalled
+        searching: page.searching
+        onDeviceChosen: ipport => page.choose(ipport)
+        onSearchRequested: page.searchRequested()
+        onSearchTextChanged: page.refresh()
+    }
+
+    VideoConfig {
+        x: deviceTree.x + deviceTree.width + Theme.pageMargin
+        y: deviceTree.y
+        width: page.width - x - Theme.pageMargin
+        height: deviceTree.height
+        session: session
+        targetCount: page.targets.length
+        onCopyRequested: page.copy()
+        onEncodeChannelRequested: index => page.leave(() => session.chooseEncode("curChannel", index))
+        onRefreshRequested: page.leave(() => session.chooseEncode("curChannel", session.encode.channel))
+        onStreamTypeRequested: index => page.leave(() => session.chooseEncode("curStreamType", index))
+        onTabRequested: index => page.leave(() => session.imageShown = index === 1)
+    }
+
+    OVFootBar {
+        id: foot
+        x: Theme.pageMargin
+        y: parent.height - height
+        width: parent.width - 2 * Theme.pageMargin
+        progress: copying.progress
+        running: copying.running
+        runningDevice: copying.current
+        runningText: qsTr("正在复制编码配置…")
+        //: Follows a number at the foot of a page, as in "3 devices selected".
+        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+    }
 }

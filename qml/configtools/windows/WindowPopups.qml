@@ -37,8 +37,8 @@ Item {
     }
 
     /// A message that goes by itself.
-    function say(message, kind) {
-        toasts.wanted().show(message, kind);
+    function say(message, kind, stay) {
+        toasts.wanted().show(message, kind, stay);
     }
 
     // qmllint disable unqualified

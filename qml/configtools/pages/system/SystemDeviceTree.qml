@@ -11,8 +11,11 @@ Rectangle {
     required property bool searching
     required property bool libraryInstalled
     property bool held: false  // an action runs: what it goes to stays as it is
+    property bool choosing: false  // one of the devices can be chosen
+    property string chosenDevice
     readonly property string searchText: searchField.text.trim()
     signal searchRequested
+    signal deviceChosen(string ipport)
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
@@ -87,10 +90,13 @@ Rectangle {
         width: parent.width - 2 * x
         height: parent.height - y - Theme.controlRadius
         busyDevice: root.busyDevice
+        choosing: root.choosing
+        chosenDevice: root.chosenDevice
         describer: root.describer
         enabled: !root.held
         objectName: "deviceTree"
         rows: treeRows
+        onDeviceChosen: ipport => root.deviceChosen(ipport)
     }
     OVFocusRing {
         around: Theme.paneRadius

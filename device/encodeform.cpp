@@ -1,0 +1,154 @@
+#include "device/encodeform.h"
+
+#include "device/devicefactory.h"
+
+namespace {
+
+/// A key of the main stream as the sub stream calls it.
+QString keyOf(bool isSub, const QString &field)
+{
+    return isSub ? QStringLiteral("sub") + field.at(0).toUpper() + field.sliced(1) : field;
+}
+
+QVariantMap setting(const QString &key, bool isChanged)
+{
+    return {{QStringLiteral("key"), key},
+            {QStringLiteral("changed"), isChanged},
+            {QStringLiteral("choices"), QStringList()},
+            {QStringLiteral("index"), -1},
+            {QStringLiteral("value"), 0},
+            {QStringLiteral("minimum"), 0},
+            {QStringLiteral("maximum"), 0},
+            {QStringLiteral("usable"), true}};
+}
+
+} // namespace
+
+CDeviceFactory *EncodeForm::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void EncodeForm::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    if (m_deviceFactory == deviceFactory)
+        return;
+    m_deviceFactory = deviceFactory;
+    Q_EMIT deviceFactoryChanged();
+    read(); // the maps of the streams are complete from the first on
+}
+
+bool EncodeForm::isComplete() const
+{
+    const auto isUsable = [this](const QString &name) {
+        return m_main.value(name).toMap().value(QStringLiteral("usable")).toBool();
+    };
+    return isUsable(QStringLiteral("encodeMode")) && isUsable(QStringLiteral("resolution"));
+}
+
+void EncodeForm::read()
+{
+    m_read.clear();
+    m_isReading = true;
+    fetch();
+    m_isReading = false;
+}
+
+void EncodeForm::set(const QString &key, const QVariant &value)
+{
+    if (m_deviceFactory)
+        m_deviceFactory->setConfigData(QStringLiteral("dh"), key, value);
+    fetch();
+}
+
+void EncodeForm::fetch()
+{
+    m_changedCount = 0;
+    m_channels = value(QStringLiteral("channelNum")).toStringList();
+    if (m_channels.isEmpty()) // a device that tells of no channels has one
+        m_channels.append(QStringLiteral("1"));
+    m_channel = value(QStringLiteral("curChannel")).toInt();
+    m_streamTypes = value(QStringLiteral("allStreamType")).toStringList();
+    m_streamType = value(QStringLiteral("curStreamType")).toInt();
+    m_subStreamTypes = value(QStringLiteral("subAllStreamType")).toStringList();
+    m_main = stream(false);
+    m_sub = stream(true);
+    Q_EMIT changed();
+}
+
+QVariant EncodeForm::value(const QString &key) const
+{
+    return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
+}
+
+bool EncodeForm::noteChange(const QString &key, const QVariant &value)
+{
+    if (m_isReading)
+        m_read.insert(key, value);
+    const bool isChanged = m_read.value(key) != value;
+    m_changedCount += isChanged ? 1 : 0;
+    return isChanged;
+}
+
+QVariantMap EncodeForm::choice(const QString &list, const QString &current)
+{
+    QStringList choices = value(list).toStringList();
+    const QString text = value(current).toString();
+    QVariantMap map = setting(current, noteChange(current, text));
+    map.insert(QStringLiteral("usable"), !choices.isEmpty());
+    // A device may be set to what it does not offer.
+    if (!text.isEmpty() && !choices.contains(text))
+        choices.append(text);
+    map.insert(QStringLiteral("choices"), choices);
+    map.insert(QStringLiteral("index"), choices.indexOf(text));
+    return map;
+}
+
+QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, const QString &rate)
+{
+    const QStringList choices = value(list).toStringList();
+    const int kilobits = value(rate).toInt();
+    QVariantMap map = setting(current, noteChange(current, kilobits));
+    const QVariant place = value(current);
+    const bool isStep = place.isValid() && place.toInt() >= 0 && place.toInt() < choices.size();
+    map.insert(QStringLiteral("choices"), choices);
+    // The last entry stands for every rate that is none of the steps.
+    map.insert(QStringLiteral("index"), isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
+    map.insert(QStringLiteral("value"), kilobits);
+    map.insert(QStringLiteral("usable"), !choices.isEmpty());
+    return map;
+}
+
+QVariantMap EncodeForm::number(const QString &key, int minimum, int maximum)
+{
+    const int current = value(key).toInt();
+    QVariantMap map = setting(key, noteChange(key, current));
+    map.insert(QStringLiteral("value"), current);
+    map.insert(QStringLiteral("minimum"), minimum);
+    map.insert(QStringLiteral("maximum"), qMax(maximum, current));
+    map.insert(QStringLiteral("usable"), maximum > minimum);
+    return map;
+}
+
+QVariantMap EncodeForm::stream(bool isSub)
+{
+    const auto key = [isSub](const char *field) {
+        return keyOf(isSub, QString::fromLatin1(field));
+    };
+    constexpr int bestQuality = 6;
+    QVariantMap map = {
+        {QStringLiteral("encodeMode"), choice(key("encodeMode"), key("curEncodeMode"))},
+        {QStringLiteral("resolution"), choice(key("resolution"), key("curResolution"))},
+        {QStringLiteral("control"), number(key("bitstreamControl"), 0, 1)},
+        {QStringLiteral("bitRate"), bitRate(key("bitStream"), key("curBitStream"), key("bitRate"))},
+        {QStringLiteral("frameRate"), number(key("frameRate"), 1, value(key("frameRateMax")).toInt())},
+        {QStringLiteral("quality"), number(key("quality"), 1, bestQuality)},
+        {QStringLiteral("audioEnable"), number(key("audioEnable"), 0, 1)},
+        {QStringLiteral("audioCompression"), choice(key("audioCompression"), key("curAudioCompression"))},
+        {QStringLiteral("samplingFrequency"), choice(key("samplingFrequency"), key("curSamplingFrequency"))},
+    };
+    // The main stream's picture cannot be switched off.
+    map.insert(QStringLiteral("videoEnable"),
+               isSub ? number(key("videoEnable"), 0, 1) : setting(QString(), false));
+    return map;
+}

@@ -1,0 +1,119 @@
+// A slider over whole numbers with its number. The value comes from outside; one that the user has settled on, by
+// letting go or by resting for a while, is told once.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+Item {
+    id: root
+
+    property int from: 0
+    property int to: 100
+    property int value: 0
+    property string accessibleName
+    property bool unknown: false  // there is no number to show
+    property var source: null     // whenever it changes, the slider shows the value again
+    readonly property bool rested: !slider.pressed && !rest.running
+    signal committed(int value)
+
+    function follow() {
+        if (rested)
+            slider.value = value;
+    }
+
+    function commit() {
+        rest.stop();
+        const chosen = Math.round(slider.value);
+        if (chosen !== value)
+            committed(chosen);
+    }
+
+    implicitWidth: 180
+    implicitHeight: Theme.controlHeight
+
+    onSourceChanged: follow()
+    onValueChanged: follow()
+    Component.onCompleted: follow()
+
+    T.Slider {
+        id: slider
+
+        width: root.width - number.width - Theme.unit
+        height: root.height
+        enabled: root.enabled
+        focusPolicy: Qt.StrongFocus
+        from: root.from
+        hoverEnabled: true
+        snapMode: T.Slider.SnapAlways
+        stepSize: 1
+        to: Math.max(root.from + 1, root.to)
+        wheelEnabled: false  // a page that is scrolled must not change what is under the pointer
+
+        Accessible.name: root.accessibleName
+
+        onFromChanged: root.follow()
+        onToChanged: root.follow()
+        onMoved: if (!pressed) rest.restart()
+        onPressedChanged: if (!pressed) root.commit()
+        Keys.onPressed: event => {
+            const page = Math.max(1, Math.round((to - from) / 10));
+            const steps = {
+                [Qt.Key_PageUp]: page, [Qt.Key_PageDown]: -page, [Qt.Key_Home]: from - to, [Qt.Key_End]: to - from
+            };
+            event.accepted = steps[event.key] !== undefined;
+            if (event.accepted) {
+                value = Math.max(from, Math.min(to, value + steps[event.key]));
+                rest.restart();
+            }
+        }
+
+        background: Rectangle {
+            y: Math.round((slider.height - height) / 2)
+            width: slider.width
+            height: Theme.sliderGroove
+            color: slider.enabled ? Theme.colours.line : Theme.colours.disabledFill
+            radius: height / 2
+
+            Rectangle {
+                width: root.unknown ? 0 : slider.visualPosition * (slider.width - slider.handle.width)
+                    + slider.handle.width / 2
+                height: parent.height
+                color: slider.enabled ? Theme.colours.accent : Theme.colours.lineStrong
+                radius: height / 2
+            }
+        }
+
+        handle: Rectangle {
+            x: slider.visualPosition * (slider.width - width)
+            y: Math.round((slider.height - height) / 2)
+            width: Theme.sliderHandle
+            height: Theme.sliderHandle
+            border.color: !slider.enabled ? Theme.colours.lineStrong
+                : slider.pressed ? Theme.colours.accentPressed : Theme.colours.accent
+            border.width: 2
+            color: slider.enabled && (slider.hovered || slider.pressed) ? Theme.colours.accentSoft
+                : Theme.colours.surface
+            radius: width / 2
+            visible: !root.unknown
+
+            OVFocusRing { around: parent.radius; shown: slider.visualFocus }
+        }
+    }
+    OVLabel {
+        id: number
+        anchors.right: parent.right
+        width: Theme.sliderNumberWidth
+        height: root.height
+        color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        font: Theme.figureFont
+        horizontalAlignment: Text.AlignRight
+        objectName: "sliderNumber"
+        text: root.unknown ? "—" : Math.round(slider.value)
+    }
+
+    Timer {
+        id: rest
+        interval: Theme.sliderRest
+        onTriggered: root.commit()
+    }
+}

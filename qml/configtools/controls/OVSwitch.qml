@@ -1,0 +1,59 @@
+// On or off. It shows the state from outside and asks for the other one.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.AbstractButton {
+    id: root
+
+    property bool on: false
+    property string accessibleName
+    signal wanted(bool on)
+
+    implicitWidth: track.width + (text === "" ? 0 : Theme.unit + word.implicitWidth)
+    implicitHeight: Theme.controlHeight
+    focusPolicy: Qt.StrongFocus
+    font: Theme.bodyFont
+    hoverEnabled: true
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: accessibleName !== "" ? accessibleName : text
+    Accessible.checkable: true
+    Accessible.checked: on
+
+    onClicked: wanted(!on)
+
+    contentItem: Item {
+        Rectangle {
+            id: track
+            y: Math.round((root.height - height) / 2)
+            width: Theme.switchWidth
+            height: Theme.switchHeight
+            color: !root.enabled ? (root.on ? Theme.colours.accentDisabled : Theme.colours.line)
+                : root.on ? (root.down ? Theme.colours.accentPressed : root.hovered ? Theme.colours.accentHover
+                                                                                    : Theme.colours.accent)
+                : root.hovered ? Theme.colours.faint : Theme.colours.lineStrong
+            radius: height / 2
+
+            Rectangle {
+                x: root.on ? parent.width - width - 2 : 2
+                y: 2
+                width: parent.height - 4
+                height: width
+                color: Theme.colours.surface
+                radius: width / 2
+
+                Behavior on x { NumberAnimation { duration: Theme.quick } }
+            }
+            OVFocusRing { around: parent.radius; shown: root.visualFocus }
+        }
+        OVLabel {
+            id: word
+            x: track.width + Theme.unit
+            height: root.height
+            width: parent.width - x
+            color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+            text: root.text
+        }
+    }
+}

@@ -1,0 +1,62 @@
+// Which device is configured, and how it is with it: always in view.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property ConfigSession session
+    readonly property string words: {
+        if (session.device === "")
+            return qsTr("未选择设备");
+        if (session.busy)
+            return session.busyText;
+        return session.loggedIn ? qsTr("已登录") : qsTr("登录失败：%1").arg(session.failure);
+    }
+    readonly property string details: [session.device, session.name, session.model, session.type]
+        .filter(text => text !== "").join(" · ")
+
+    implicitHeight: Theme.controlHeight
+
+    Row {
+        anchors.right: parent.right
+        height: parent.height
+        spacing: Theme.unit
+
+        OVLabel {
+            width: Math.min(implicitWidth, root.width - state.width - parent.spacing)
+            height: parent.height
+            color: Theme.colours.sub
+            font: Theme.figureFont
+            objectName: "configDevice"
+            text: root.details
+            visible: text !== ""
+        }
+        Row {
+            id: state
+            height: parent.height
+            spacing: Theme.signGap
+
+            OVSpinner {
+                anchors.verticalCenter: parent.verticalCenter
+                running: root.session.busy
+                size: Theme.smallIconSize
+                visible: root.session.busy
+            }
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: root.session.loggedIn ? Theme.colours.ok : Theme.colours.bad
+                name: root.session.loggedIn ? "ok" : "error"
+                size: Theme.smallIconSize
+                visible: root.session.device !== "" && !root.session.busy
+            }
+            OVLabel {
+                height: root.height
+                color: root.session.device !== "" && !root.session.busy && !root.session.loggedIn
+                    ? Theme.colours.bad : Theme.colours.sub
+                objectName: "configState"
+                text: root.words
+            }
+        }
+    }
+}

@@ -1,0 +1,174 @@
+// The encode settings of a channel: both streams side by side, saved together.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+Item {
+    id: root
+
+    required property ConfigSession session
+    required property int targetCount
+    readonly property EncodeForm form: session.encode
+    readonly property string trouble: {
+        if (session.refusedItems !== "")
+            return qsTr("设备没有接受：%1").arg(session.refusedItems.trim().split("\n").join(qsTr("、")));
+        if (session.encodeFailed)
+            return "";
+        if (session.encodeResult === session.configurationUnreadable)
+            return qsTr("设备的配置无法识别，显示的内容可能不完整");
+        return form.complete ? "" : qsTr("设备没有告知它的编码能力，部分选项为空");
+    }
+    signal channelRequested(int index)
+    signal streamTypeRequested(int index)
+    signal refreshRequested
+    signal copyRequested
+
+    Flickable {
+        id: view
+        width: parent.width
+        height: foot.y
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentHeight: content.height + 2 * Theme.controlGap
+        interactive: contentHeight > height
+
+        T.ScrollBar.vertical: OVScrollBar {}
+
+        Column {
+            id: content
+            x: Theme.pageMargin + Theme.unit
+            y: Theme.controlGap
+            width: view.width - 2 * x
+            spacing: Theme.unit
+
+            Item {
+                width: parent.width
+                height: Theme.controlHeight
+
+                EncodeRow {
+                    width: streams.columnWidth
+                    label: qsTr("通道")
+
+                    OVChoice {
+                        width: parent.width
+                        accessibleName: qsTr("通道")
+                        chosen: root.form.channel
+                        enabled: root.form.channels.length > 1
+                        model: root.form.channels
+                        objectName: "encodeChannelChoice"
+                        source: root.form.mainStream
+                        onPicked: index => root.channelRequested(index)
+                    }
+                }
+            }
+            Row {
+                id: streams
+
+                readonly property real columnWidth: (content.width - spacing) / 2
+
+                spacing: Theme.unit * 5
+                visible: !root.session.encodeFailed
+
+                EncodeStream {
+                    width: streams.columnWidth
+                    namePrefix: "main"
+                    stream: root.form.mainStream
+                    streamType: root.form.streamType
+                    streamTypes: root.form.streamTypes
+                    title: qsTr("主码流")
+                    onChangeRequested: (key, value) => root.session.setEncode(key, value)
+                    onStreamTypeRequested: index => root.streamTypeRequested(index)
+                }
+                EncodeStream {
+                    width: streams.columnWidth
+                    isSub: true
+                    namePrefix: "sub"
+                    stream: root.form.subStream
+                    streamTypes: root.form.subStreamTypes
+                    title: qsTr("辅码流")
+                    onChangeRequested: (key, value) => root.session.setEncode(key, value)
+                }
+            }
+        }
+    }
+
+    // What was read before is another channel's.
+    OVEmptyState {
+        anchors.fill: view
+        hint: qsTr("设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。")
+        iconName: "unplugged"
+        objectName: "encodeEmptyState"
+        title: qsTr("没有读到通道 %1 的编码配置").arg(root.form.channel + 1)
+        visible: root.session.encodeFailed
+    }
+
+    Rectangle {
+        id: foot
+        y: parent.height - height
+        width: parent.width
+        height: Theme.dialogFootHeight
+        color: Theme.colours.foot
+        radius: Theme.paneRadius
+
+        Rectangle {
+            width: parent.width
+            height: Theme.paneRadius
+            color: Theme.colours.foot
+        }
+        Rectangle {
+            width: parent.width
+            height: Theme.line
+            color: Theme.colours.line
+        }
+        Row {
+            x: Theme.pageMargin + Theme.unit
+            height: parent.height
+            spacing: Theme.signGap
+
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: root.trouble !== "" ? Theme.colours.bad : Theme.colours.warn
+                name: root.trouble !== "" ? "error" : "alert"
+                size: Theme.smallIconSize
+                visible: words.text !== ""
+            }
+            OVLabel {
+                id: words
+                width: Math.min(implicitWidth, buttons.x - parent.x - parent.spacing - Theme.smallIconSize
+                    - Theme.pageMargin)
+                height: parent.height
+                color: root.trouble !== "" ? Theme.colours.bad : Theme.colours.warnInk
+                objectName: "encodeNotice"
+                text: root.trouble !== "" ? root.trouble
+                    : root.session.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.session.unsaved) : ""
+            }
+        }
+        Row {
+            id: buttons
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.pageMargin
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.unit
+
+            OVButton {
+                enabled: !root.session.encodeFailed && root.form.complete && root.targetCount > 0
+                iconName: "copy"
+                objectName: "copyButton"
+                text: root.targetCount > 0 ? qsTr("复制到 %n 台设备", "", root.targetCount) : qsTr("复制到选中的设备")
+                onClicked: root.copyRequested()
+            }
+            OVButton {
+                objectName: "encodeRefreshButton"
+                text: qsTr("刷新")
+                onClicked: root.refreshRequested()
+            }
+            OVButton {
+                enabled: !root.session.encodeFailed
+                kind: OVButton.Primary
+                objectName: "encodeSaveButton"
+                text: qsTr("保存")
+                onClicked: root.session.save()
+            }
+        }
+    }
+}

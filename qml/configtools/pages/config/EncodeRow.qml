@@ -1,0 +1,37 @@
+// A setting of a stream: its label, with a mark while it is changed and not saved, and what it is set by.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property string label
+    property bool changed: false
+    default property alias field: slot.data
+
+    width: parent?.width ?? 0
+    height: Theme.controlHeight
+
+    Rectangle {
+        x: -width - Theme.half
+        anchors.verticalCenter: parent.verticalCenter
+        width: Theme.changeMark
+        height: width
+        color: Theme.colours.warn
+        objectName: "changeMark"
+        radius: width / 2
+        visible: root.changed
+    }
+    OVLabel {
+        width: Theme.encodeLabelWidth
+        height: parent.height
+        color: root.changed ? Theme.colours.warnInk : Theme.colours.sub
+        text: root.label
+    }
+    Item {
+        id: slot
+        x: Theme.encodeLabelWidth + Theme.unit
+        width: root.width - x
+        height: parent.height
+    }
+}

@@ -1,0 +1,185 @@
+// The settings of one stream. `stream` is a map of an EncodeForm.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property string title
+    required property string namePrefix  // of the object names
+    required property var stream
+    required property var streamTypes
+    property int streamType: 0
+    property bool isSub: false
+    signal changeRequested(string key, var value)
+    signal streamTypeRequested(int index)
+
+    function pick(setting, index) {
+        changeRequested(setting.key, setting.choices[index]);
+    }
+
+    spacing: Theme.unit
+
+    Item {
+        width: parent.width
+        height: Theme.unit * 3
+
+        OVLabel {
+            height: parent.height - Theme.half
+            color: Theme.colours.sub
+            font: Theme.headFont
+            text: root.title
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Theme.line
+            color: Theme.colours.line
+        }
+    }
+
+    // qmllint disable unqualified
+    component TextChoice: EncodeRow {
+        id: row
+
+        required property var setting
+        required property string choiceName
+
+        changed: setting.changed
+
+        OVChoice {
+            width: parent.width
+            accessibleName: root.title + " " + row.label
+            chosen: row.setting.index
+            enabled: row.setting.usable
+            model: row.setting.choices
+            objectName: root.namePrefix + row.choiceName
+            source: root.stream
+            onPicked: index => root.pick(row.setting, index)
+        }
+    }
+    component NumberSlider: EncodeRow {
+        id: row
+
+        required property var setting
+        required property string sliderName
+        property bool usable: true
+
+        changed: setting.changed
+
+        OVSlider {
+            width: parent.width
+            accessibleName: root.title + " " + row.label
+            enabled: row.setting.usable && row.usable
+            from: row.setting.minimum
+            objectName: root.namePrefix + row.sliderName
+            source: root.stream
+            to: row.setting.maximum
+            unknown: row.setting.value < row.setting.minimum
+            value: row.setting.value
+            onCommitted: value => root.changeRequested(row.setting.key, value)
+        }
+    }
+    // qmllint enable unqualified
+
+    EncodeRow {
+        changed: root.isSub && root.stream.videoEnable.changed
+        label: qsTr("码流类型")
+
+        OVChoice {
+            width: parent.width - (root.isSub ? videoSwitch.width + Theme.controlGap : 0)
+            accessibleName: root.title + " " + qsTr("码流类型")
+            chosen: root.streamTypes.length > 0 ? root.streamType : -1
+            enabled: root.streamTypes.length > 1
+            model: root.streamTypes
+            objectName: root.namePrefix + "StreamTypeChoice"
+            source: root.stream
+            onPicked: index => root.streamTypeRequested(index)
+        }
+        OVSwitch {
+            id: videoSwitch
+            anchors.right: parent.right
+            accessibleName: qsTr("启用辅码流")
+            objectName: root.namePrefix + "VideoSwitch"
+            on: root.stream.videoEnable.value === 1
+            text: qsTr("启用")
+            visible: root.isSub
+            onWanted: on => root.changeRequested(root.stream.videoEnable.key, on ? 1 : 0)
+        }
+    }
+    TextChoice {
+        choiceName: "EncodeModeChoice"
+        label: qsTr("编码模式")
+        setting: root.stream.encodeMode
+    }
+    TextChoice {
+        choiceName: "ResolutionChoice"
+        label: qsTr("分辨率")
+        setting: root.stream.resolution
+    }
+    EncodeRow {
+        changed: root.stream.control.changed
+        label: qsTr("码流控制")
+
+        OVChoice {
+            width: parent.width
+            accessibleName: root.title + " " + qsTr("码流控制")
+            chosen: root.stream.control.value
+            model: [qsTr("固定码流"), qsTr("可变码流")]
+            objectName: root.namePrefix + "ControlChoice"
+            source: root.stream
+            onPicked: index => root.changeRequested(root.stream.control.key, index)
+        }
+    }
+    EncodeRow {
+        changed: root.stream.bitRate.changed
+        label: qsTr("码流值(Kb/S)")
+
+        EncodeBitRate {
+            width: parent.width
+            accessibleName: root.title + " " + qsTr("码流值(Kb/S)")
+            namePrefix: root.namePrefix
+            setting: root.stream.bitRate
+            onChosen: bitRate => root.changeRequested(root.stream.bitRate.key, bitRate)
+        }
+    }
+    NumberSlider {
+        label: qsTr("帧率(FPS)")
+        setting: root.stream.frameRate
+        sliderName: "FrameRateSlider"
+    }
+    NumberSlider {
+        label: qsTr("画质")
+        setting: root.stream.quality
+        sliderName: "QualitySlider"
+        usable: root.stream.control.value === 1
+    }
+    EncodeRow {
+        changed: root.stream.audioEnable.changed || root.stream.audioCompression.changed
+        label: qsTr("音频编码")
+
+        OVSwitch {
+            id: audioSwitch
+            accessibleName: root.title + " " + qsTr("启用音频")
+            objectName: root.namePrefix + "AudioSwitch"
+            on: root.stream.audioEnable.value === 1
+            onWanted: on => root.changeRequested(root.stream.audioEnable.key, on ? 1 : 0)
+        }
+        OVChoice {
+            anchors.right: parent.right
+            width: parent.width - audioSwitch.width - Theme.controlGap
+            accessibleName: root.title + " " + qsTr("音频编码")
+            chosen: root.stream.audioCompression.index
+            enabled: root.stream.audioCompression.usable
+            model: root.stream.audioCompression.choices
+            objectName: root.namePrefix + "AudioChoice"
+            source: root.stream
+            onPicked: index => root.pick(root.stream.audioCompression, index)
+        }
+    }
+    TextChoice {
+        choiceName: "SamplingChoice"
+        label: qsTr("采样率(Hz)")
+        setting: root.stream.samplingFrequency
+    }
+}

@@ -1,0 +1,116 @@
+// How long the shutter opens: a time, or with the last entry a range of one's own, in milliseconds.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    required property ImageGroup group
+    required property CameraForm form
+    property bool asked: false  // a range was picked, and its bounds are to come
+    readonly property real shortest: group.number("dbExposureValue1")
+    readonly property real longest: group.number("dbExposureValue2")
+    readonly property int last: form.shutterTimes.length
+    readonly property int place: form.shutterPlace(shortest, longest)
+    readonly property bool custom: asked || place < 0
+    readonly property bool wrong: lower.text !== "" && upper.text !== "" && Number(lower.text) > Number(upper.text)
+    readonly property real longestKnown: 100000
+
+    function follow() {
+        asked = false;
+        // Devices keep times with the precision of a single float.
+        lower.text = String(Number(shortest.toPrecision(6)));
+        upper.text = String(Number(longest.toPrecision(6)));
+    }
+
+    function write(lowest, highest) {
+        group.session.setImage(group.key, [["dbExposureValue1", lowest], ["dbExposureValue2", highest]]);
+    }
+
+    function finish() {
+        if (!custom || wrong || !lower.acceptableText || !upper.acceptableText)
+            return;
+        const lowest = Number(lower.text);
+        const highest = Number(upper.text);
+        if (Math.fround(lowest) !== Math.fround(shortest) || Math.fround(highest) !== Math.fround(longest))
+            write(lowest, highest);
+    }
+
+    spacing: Theme.controlGap
+    width: parent?.width ?? 0
+    onLongestChanged: follow()
+    onShortestChanged: follow()
+    Component.onCompleted: follow()
+
+    Connections {
+        target: root.group
+
+        function onValuesChanged() {
+            root.follow();
+        }
+    }
+
+    OVFormRow {
+        width: parent.width
+        label: qsTr("快门")
+        labelWidth: Theme.imageLabelWidth
+
+        OVChoice {
+            width: parent.width
+            accessibleName: qsTr("快门")
+            chosen: root.custom ? root.last : root.place
+            model: root.form.shutterTimes.concat([qsTr("自定义范围")])
+            objectName: "shutterChoice"
+            source: root.group.values
+            onPicked: index => {
+                root.asked = index === root.last;
+                const time = root.form.shutterMilliseconds(index);
+                if (!root.asked)
+                    root.write(time, time);
+            }
+        }
+    }
+    OVFormRow {
+        width: parent.width
+        label: qsTr("快门范围(ms)")
+        labelWidth: Theme.imageLabelWidth
+        visible: root.custom
+
+        Row {
+            spacing: Theme.unit
+
+            OVTextField {
+                id: lower
+                width: Theme.rangeFieldWidth
+                accessibleName: qsTr("最短快门")
+                objectName: "shutterLowerField"
+                textFont: Theme.figureFont
+                validator: DoubleValidator { bottom: 0; locale: "C"; notation: DoubleValidator.StandardNotation; top: root.longestKnown }
+                onAccepted: root.finish()
+                onActiveFocusChanged: if (!activeFocus) root.finish()
+            }
+            OVLabel {
+                height: Theme.controlHeight
+                color: Theme.colours.sub
+                text: "–"
+            }
+            OVTextField {
+                id: upper
+                width: Theme.rangeFieldWidth
+                accessibleName: qsTr("最长快门")
+                objectName: "shutterUpperField"
+                textFont: Theme.figureFont
+                validator: DoubleValidator { bottom: 0; locale: "C"; notation: DoubleValidator.StandardNotation; top: root.longestKnown }
+                onAccepted: root.finish()
+                onActiveFocusChanged: if (!activeFocus) root.finish()
+            }
+            OVLabel {
+                height: Theme.controlHeight
+                color: Theme.colours.bad
+                font: Theme.hintFont
+                text: qsTr("下限不能大于上限")
+                visible: root.wrong
+            }
+        }
+    }
+}

@@ -1,0 +1,110 @@
+// Beside the image settings: the channel, its picture and its name, when the settings hold, and the defaults.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property ConfigSession session
+    readonly property CameraForm form: session.image
+    signal defaultsRequested
+
+    function finishName() {
+        if (nameField.text.trim() !== "" && nameField.text !== form.channelName)
+            session.setImage("curChannelName", [["", nameField.text.trim()]]);
+        else
+            nameField.text = form.channelName;
+    }
+
+    Connections {
+        target: root.form
+
+        function onChanged() {
+            nameField.text = root.form.channelName;
+        }
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        ChannelPicture {
+            width: parent.width
+            channelName: root.form.channelName !== "" ? root.form.channelName
+                                                      : qsTr("通道 %1").arg(root.form.channel + 1)
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("通道")
+            labelWidth: Theme.sideLabelWidth
+
+            OVChoice {
+                width: parent.width
+                accessibleName: qsTr("通道")
+                chosen: root.form.channel
+                enabled: root.form.channels.length > 1
+                model: root.form.channels
+                objectName: "imageChannelChoice"
+                source: root.form.groups
+                onPicked: index => root.session.chooseImageChannel(index)
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("通道名称")
+            labelWidth: Theme.sideLabelWidth
+
+            OVTextField {
+                id: nameField
+                width: parent.width
+                accessibleName: qsTr("通道名称")
+                maximumLength: 63
+                objectName: "channelNameField"
+                text: root.form.channelName
+                onAccepted: root.finishName()
+                onActiveFocusChanged: if (!activeFocus) root.finishName()
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("配置模式")
+            labelWidth: Theme.sideLabelWidth
+
+            OVChoice {
+                width: parent.width
+                accessibleName: qsTr("配置模式")
+                chosen: root.form.switchMode
+                enabled: root.form.switchModes.length > 1
+                model: root.form.switchModes
+                objectName: "switchModeChoice"
+                source: root.form.groups
+                onPicked: index => root.session.chooseSwitchMode(index)
+            }
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.faint
+            font: Theme.hintFont
+            text: qsTr("修改会立即写入设备。")
+        }
+    }
+    Row {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        spacing: Theme.unit
+
+        OVButton {
+            width: (parent.width - parent.spacing) / 2
+            objectName: "imageRefreshButton"
+            text: qsTr("刷新")
+            onClicked: root.session.readImage()
+        }
+        OVButton {
+            width: (parent.width - parent.spacing) / 2
+            enabled: root.form.groups.picture.support
+            objectName: "imageDefaultsButton"
+            text: qsTr("恢复默认")
+            onClicked: root.session.setImage("setDefault", [["", ""]])
+        }
+    }
+}

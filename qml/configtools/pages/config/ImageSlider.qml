@@ -1,0 +1,26 @@
+// A number of a group of image settings.
+import QtQuick
+import configtools
+
+OVFormRow {
+    id: root
+
+    required property ImageGroup group
+    required property string subKey
+    property int least: group.least(subKey)
+    property int most: group.most(subKey)
+
+    labelWidth: Theme.imageLabelWidth
+    width: parent?.width ?? 0
+
+    OVSlider {
+        width: parent.width
+        accessibleName: root.group.title + " " + root.label
+        from: root.least
+        objectName: root.group.key + "_" + root.subKey
+        source: root.group.values
+        to: root.most
+        value: root.group.number(root.subKey)
+        onCommitted: value => root.group.change(root.subKey, value)
+    }
+}

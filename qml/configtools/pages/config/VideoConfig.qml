@@ -1,0 +1,86 @@
+// What can be configured of the current device, in tabs, and how it is with that device.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property ConfigSession session
+    required property int targetCount  // devices that encode settings can be copied to
+    readonly property bool shown: session.imageShown ? session.imageRead : session.encodeRead
+    signal tabRequested(int index)
+    signal encodeChannelRequested(int index)
+    signal streamTypeRequested(int index)
+    signal refreshRequested
+    signal copyRequested
+
+    border.color: Theme.colours.line
+    border.width: Theme.line
+    color: Theme.colours.surface
+    radius: Theme.paneRadius
+
+    OVTabBar {
+        id: tabs
+        x: Theme.line
+        y: Theme.line
+        width: parent.width - 2 * x
+        color: Theme.colours.clear
+        currentIndex: root.session.imageShown ? 1 : 0
+        namePrefix: "configTab"
+        tabs: [qsTr("编码配置"), qsTr("视频配置")]
+        onActivated: index => root.tabRequested(index)
+    }
+    DeviceState {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin
+        y: Theme.line
+        width: parent.width - Theme.configTabsWidth
+        height: tabs.height
+        session: root.session
+    }
+
+    Item {
+        x: Theme.line
+        y: tabs.y + tabs.height
+        width: parent.width - 2 * x
+        height: parent.height - y - Theme.line
+
+        OVOnDemand {
+            anchors.fill: parent
+            visible: root.shown && !root.session.imageShown
+            // qmllint disable unqualified
+            sourceComponent: EncodePanel {
+                session: root.session
+                targetCount: root.targetCount
+                onChannelRequested: index => root.encodeChannelRequested(index)
+                onCopyRequested: root.copyRequested()
+                onRefreshRequested: root.refreshRequested()
+                onStreamTypeRequested: index => root.streamTypeRequested(index)
+            }
+            // qmllint enable unqualified
+        }
+        OVOnDemand {
+            anchors.fill: parent
+            visible: root.shown && root.session.imageShown
+            // qmllint disable unqualified
+            sourceComponent: ImagePanel {
+                session: root.session
+            }
+            // qmllint enable unqualified
+        }
+        OVEmptyState {
+            anchors.fill: parent
+            actionText: root.session.device === "" || root.session.busy || root.session.loggedIn ? ""
+                : root.session.canLoginAgain() ? qsTr("重新登录") : qsTr("重试")
+            busy: root.session.busy
+            hint: root.session.device === "" ? qsTr("单击左侧的一台设备，登录后在此查看并修改它的配置。")
+                : root.session.busy ? root.session.device : root.session.failure
+            iconName: root.session.device === "" ? "config" : "unplugged"
+            objectName: "configEmptyState"
+            title: root.session.device === "" ? qsTr("请选择设备")
+                : root.session.busy ? root.session.busyText : qsTr("登录失败")
+            visible: !root.shown
+            onActivated: root.session.tryAgain()
+        }
+    }
+}

@@ -1,0 +1,165 @@
+// What the configuration pages show of values that a back end gives, good ones and bad ones.
+#include "device/cameraform.h"
+#include "device/devicebase.h"
+#include "device/devicefactory.h"
+#include "device/encodeform.h"
+
+#include <QTest>
+
+namespace {
+
+class ValuesBackEnd : public CDeviceBase
+{
+    Q_OBJECT
+public:
+    ValuesBackEnd() : CDeviceBase(nullptr) {}
+
+    QVariant getConfigData(const QString &key, const QVariant & /*channel*/) override
+    {
+        return values.value(key);
+    }
+    void setConfigData(const QString &key, const QVariant &value, const QString & /*otype*/) override
+    {
+        values.insert(key, value);
+    }
+
+    QVariantMap values;
+};
+
+} // namespace
+
+class TestConfigForms : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<ValuesBackEnd> m_backEnd = std::make_shared<ValuesBackEnd>();
+    CDeviceFactory m_factory{{{QStringLiteral("dh"), [this] {
+                                   return m_backEnd;
+                               }}}};
+
+    static QVariant of(const QVariantMap &stream, const char *setting, const char *part)
+    {
+        return stream.value(setting).toMap().value(part);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_backEnd->values = {{"channelNum", QStringList({"1", "2"})},
+                             {"curChannel", 1},
+                             {"encodeMode", QStringList({"H.264 B", "H.265"})},
+                             {"curEncodeMode", "H.265"},
+                             {"resolution", QStringList({"1080P"})},
+                             {"curResolution", "1080P"},
+                             {"frameRateMax", 25},
+                             {"frameRate", 20},
+                             {"bitStream", QStringList({"1024", "2048", "自定义"})},
+                             {"curBitStream", 1},
+                             {"bitRate", 2048}};
+    }
+
+    void changesCountUntilTheyAreTakenBackOrRead()
+    {
+        EncodeForm form;
+        form.setDeviceFactory(&m_factory);
+        QCOMPARE(form.channel(), 1);
+        QCOMPARE(form.changedCount(), 0);
+        form.set("curEncodeMode", "H.264 B");
+        form.set("frameRate", 10);
+        QCOMPARE(form.changedCount(), 2);
+        QVERIFY(of(form.mainStream(), "encodeMode", "changed").toBool());
+        QCOMPARE(of(form.mainStream(), "encodeMode", "index").toInt(), 0);
+        QVERIFY(!of(form.mainStream(), "resolution", "changed").toBool());
+        form.set("frameRate", 20);
+        QCOMPARE(form.changedCount(), 1);
+        form.read();
+        QCOMPARE(form.changedCount(), 0);
+    }
+
+    void whatADeviceIsSetToIsShownThoughItDoesNotOfferIt()
+    {
+        m_backEnd->values.insert("curResolution", "800*600");
+        m_backEnd->values.insert("frameRate", 30);
+        m_backEnd->values.insert("curBitStream", -1);
+        m_backEnd->values.insert("bitRate", 3000);
+        EncodeForm form;
+        form.setDeviceFactory(&m_factory);
+        const QVariantMap stream = form.mainStream();
+        QCOMPARE(of(stream, "resolution", "choices").toStringList(), QStringList({"1080P", "800*600"}));
+        QCOMPARE(of(stream, "resolution", "index").toInt(), 1);
+        QCOMPARE(of(stream, "frameRate", "maximum").toInt(), 30);
+        QCOMPARE(of(stream, "bitRate", "index").toInt(), 2); // a number of one's own
+        QCOMPARE(of(stream, "bitRate", "value").toInt(), 3000);
+        form.set("bitRate", 3100); // none of the steps before and after
+        QVERIFY(of(form.mainStream(), "bitRate", "changed").toBool());
+    }
+
+    void badValuesLeaveAWholeForm_data()
+    {
+        QTest::addColumn<QVariantMap>("values");
+        QTest::newRow("nothing") << QVariantMap();
+        QTest::newRow("empty lists") << QVariantMap{{"channelNum", QStringList()},
+                                                    {"encodeMode", QStringList()},
+                                                    {"resolution", QStringList()},
+                                                    {"bitStream", QStringList()}};
+        QTest::newRow("other kinds") << QVariantMap{{"channelNum", 3},
+                                                    {"encodeMode", QVariantMap{{"a", 1}}},
+                                                    {"curBitStream", "none"},
+                                                    {"frameRateMax", "many"},
+                                                    {"picture", 7},
+                                                    {"curSwitchMode", QStringList()}};
+    }
+    void badValuesLeaveAWholeForm()
+    {
+        QFETCH(QVariantMap, values);
+        m_backEnd->values = values;
+        EncodeForm form;
+        form.setDeviceFactory(&m_factory);
+        QVERIFY(!form.isComplete());
+        QVERIFY(!form.channels().isEmpty());
+        for (const QVariantMap &stream : {form.mainStream(), form.subStream()}) {
+            QCOMPARE(stream.size(), 10);
+            for (const QVariant &setting : stream)
+                QCOMPARE(setting.toMap().keys(), QStringList({"changed", "choices", "index", "key", "maximum",
+                                                              "minimum", "usable", "value"}));
+            QCOMPARE(of(stream, "encodeMode", "index").toInt(), -1);
+            QVERIFY(!of(stream, "frameRate", "usable").toBool());
+        }
+        CameraForm camera;
+        camera.setDeviceFactory(&m_factory);
+        QCOMPARE(camera.groups().size(), 11);
+        QVERIFY(!camera.supportsAny());
+        QVERIFY(!camera.channels().isEmpty());
+    }
+
+    void shutters_data()
+    {
+        QTest::addColumn<double>("shortest");
+        QTest::addColumn<double>("longest");
+        QTest::addColumn<int>("place");
+        QTest::newRow("shortest") << 0.01 << 0.01 << 0;
+        QTest::newRow("as devices keep it") << static_cast<double>(1000.0F / 30000) << static_cast<double>(1000.0F / 30000) << 1;
+        QTest::newRow("longest") << 40.0 << 40.0 << 9;
+        QTest::newRow("a range") << 0.0 << 40.0 << -1;
+        QTest::newRow("a time that is not listed") << 25.0 << 25.0 << -1;
+        QTest::newRow("nothing") << 0.0 << 0.0 << -1;
+    }
+    void shutters()
+    {
+        QFETCH(double, shortest);
+        QFETCH(double, longest);
+        const CameraForm form;
+        QTEST(form.shutterPlace(shortest, longest), "place");
+    }
+
+    void shutterTimesArePartsOfASecond()
+    {
+        const CameraForm form;
+        QCOMPARE(form.shutterTimes().size(), 10);
+        QCOMPARE(form.shutterMilliseconds(form.shutterTimes().indexOf("1/250")), 4.0);
+        QCOMPARE(form.shutterMilliseconds(10), 0.0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestConfigForms)
+#include "tst_configforms.moc"

@@ -1,0 +1,313 @@
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/fault.h"
+#include "sdk/encodeblocks.h"
+#include "tests/tour/driver.h"
+#include "tests/tour/steps.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QQuickItem>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int copiedWhole = 0;
+constexpr int copiedPartly = -3;
+
+const QString first = u"192.168.1.101:8800"_s;
+const QString second = u"192.168.1.102:8800"_s;
+const QString old = u"192.168.1.105:8800"_s; // has MPEG4 only
+const QString last = u"192.168.1.104:8800"_s;
+const QString recorder = u"192.168.1.120:8800"_s;
+const QString twoLamps = u"192.168.1.103:8800"_s;
+const QString password = u"Office-2024"_s;
+
+QString macOf(const sdk::demo::DemoSite &site, const QString &ipport)
+{
+    QString mac;
+    site.visitDevices([&](const sdk::demo::SceneDevice &device) {
+        if (u"%1:%2"_s.arg(device.address).arg(device.port) == ipport)
+            mac = device.mac;
+    });
+    return mac;
+}
+
+int numberOf(const Driver &driver, const QString &slider)
+{
+    return driver.require(slider)->property("value").toInt();
+}
+
+QString shownBy(const Driver &driver, const QString &choice)
+{
+    return driver.require(choice)->property("displayText").toString();
+}
+
+void awaitIdle(const Driver &driver)
+{
+    driver.await(u"the device was asked"_s, [&] {
+        const QString state = driver.find(u"configState"_s) ? driver.text(u"configState"_s) : QString();
+        return !state.isEmpty() && !state.endsWith(u'…');
+    });
+}
+
+void pick(const Driver &driver, const QString &choice, int place)
+{
+    driver.require(choice)->forceActiveFocus(Qt::TabFocusReason); // brings it into view
+    driver.click(choice);
+    driver.key(Qt::Key_Home); // to the head of a long list
+    driver.click(u"choice%1"_s.arg(place));
+    driver.await(u"the list of \"%1\" is closed"_s.arg(choice),
+                 [&] { return !driver.find(u"choice0"_s); });
+    awaitIdle(driver);
+}
+
+/// Moves a slider with the keyboard.
+void slide(const Driver &driver, const QString &slider, Qt::Key key, int expected)
+{
+    driver.require(slider)->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
+    driver.key(key);
+    driver.await(u"\"%1\" has the number %2"_s.arg(slider).arg(expected),
+                 [&] { return numberOf(driver, slider) == expected; });
+    awaitIdle(driver);
+}
+
+void choose(const Driver &driver, const QString &device)
+{
+    driver.click(u"device_"_s + device);
+    awaitIdle(driver);
+}
+
+/// The recorders stand below the cameras, out of sight.
+void chooseRecorder(const Driver &driver)
+{
+    driver.click(u"open_IPC"_s);
+    choose(driver, recorder);
+    driver.click(u"open_IPC"_s);
+}
+
+QString translated(const char *context, const char *text)
+{
+    return QCoreApplication::translate(context, text);
+}
+
+void expectToast(const Driver &driver, const QString &text)
+{
+    driver.await(u"\"%1\" is said"_s.arg(text),
+                 [&] { return driver.texts(u"toastText"_s).contains(text); });
+}
+
+/// A login that is refused asks for the account, and goes on with it.
+void walkLogin(Driver &driver)
+{
+    driver.click(u"tab2"_s);
+    driver.report(u"config-none"_s, driver.text(u"emptyTitle"_s));
+    driver.click(u"device_"_s + first);
+    driver.require(u"devicePasswordField"_s);
+    driver.report(u"config-refused"_s, driver.text(u"configState"_s));
+    driver.fill(u"devicePasswordField"_s, password);
+    driver.click(u"okButton"_s);
+    driver.require(u"encodeSaveButton"_s);
+    awaitIdle(driver);
+    driver.report(u"config-encode"_s, driver.text(u"configDevice"_s));
+}
+
+/// The account that found devices are logged in to with.
+void setDefaultPassword(const Driver &driver)
+{
+    driver.click(u"searchSettingsButton"_s);
+    driver.fill(u"passwordField"_s, password);
+    driver.click(u"okButton"_s);
+    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
+    driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
+}
+
+void walkStreams(Driver &driver)
+{
+    driver.check(shownBy(driver, u"mainEncodeModeChoice"_s).startsWith(u"H.264"),
+                 u"the main stream's compression is shown"_s);
+    pick(driver, u"mainEncodeModeChoice"_s, 1);
+    pick(driver, u"mainResolutionChoice"_s, 1);
+    pick(driver, u"mainControlChoice"_s, 0);
+    driver.check(!driver.require(u"mainQualitySlider"_s)->isEnabled(),
+                 u"a fixed bit rate leaves no choice of quality"_s);
+    pick(driver, u"mainControlChoice"_s, 1);
+    driver.check(driver.require(u"mainQualitySlider"_s)->isEnabled(),
+                 u"the quality is set where the bit rate varies"_s);
+    slide(driver, u"mainQualitySlider"_s, Qt::Key_Left, 3);
+    slide(driver, u"mainFrameRateSlider"_s, Qt::Key_PageDown, 23);
+    driver.click(u"mainBitRateChoice"_s);
+    driver.report(u"config-bit-rates"_s, u"steps, and a number of one's own"_s);
+    driver.key(Qt::Key_End);
+    driver.key(Qt::Key_Return);
+    driver.fill(u"mainBitRateField"_s, u"3000"_s);
+    driver.key(Qt::Key_Return);
+    pick(driver, u"subResolutionChoice"_s, 2);
+    slide(driver, u"subFrameRateSlider"_s, Qt::Key_Home, 1);
+    driver.click(u"subAudioSwitch"_s);
+    driver.report(u"config-changed"_s, driver.text(u"encodeNotice"_s));
+}
+
+/// What was changed is not lost without a word.
+void walkLeaving(Driver &driver)
+{
+    for (const QString &way : {u"device_"_s + second, u"configTab1"_s, u"tab0"_s}) {
+        driver.click(way);
+        driver.require(u"messageText"_s);
+        if (way == u"tab0")
+            driver.report(u"config-leaving"_s, driver.text(u"messageText"_s));
+        driver.click(u"cancelButton"_s);
+        driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    }
+    driver.check(driver.find(u"encodeSaveButton"_s) != nullptr, u"the changes are still there"_s);
+}
+
+void walkSaving(Driver &driver, sdk::demo::DemoSite &site)
+{
+    const QString mac = macOf(site, first);
+    const int item = static_cast<int>(sdk::EncodeItem::AudioFormat);
+    site.setFault(mac, {.fault = sdk::demo::Fault::RefusesItem, .number = item, .text = {}});
+    driver.click(u"encodeSaveButton"_s);
+    const QString refused = translated("EncodeConfig", "主码流编码音频格式") + u'\n' +
+                            translated("EncodeConfig", "辅码流编码音频格式配置") + u'\n' +
+                            translated("ConfigSession", "保存失败");
+    expectToast(driver, refused);
+    driver.report(u"config-item-refused"_s, driver.text(u"encodeNotice"_s));
+    site.clearFault(mac, sdk::demo::Fault::RefusesItem);
+    driver.click(u"encodeSaveButton"_s);
+    expectToast(driver, translated("ConfigSession", "保存成功"));
+    awaitIdle(driver);
+    driver.check(!driver.find(u"changeMark"_s), u"nothing is left to be saved"_s);
+
+    choose(driver, second);
+    driver.click(u"device_"_s + first);
+    awaitIdle(driver);
+    driver.check(driver.text(u"mainBitRateField"_s) == u"3000" && numberOf(driver, u"mainFrameRateSlider"_s) == 23,
+                 u"the next login reads what was saved"_s);
+    driver.report(u"config-saved"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
+}
+
+int resultOf(const Driver &driver, const QString &device)
+{
+    return driver.require(u"device_"_s + device)->property("result").toInt();
+}
+
+void walkCopying(Driver &driver)
+{
+    for (const QString &device : {second, last, old})
+        driver.click(u"tick_"_s + device);
+    driver.click(u"copyButton"_s);
+    driver.report(u"config-copy"_s, driver.text(u"messageText"_s));
+    driver.click(u"okButton"_s);
+    driver.await(u"each device has its result"_s, [&] {
+        return resultOf(driver, second) == copiedWhole && resultOf(driver, old) == copiedPartly &&
+               resultOf(driver, last) == copiedWhole;
+    });
+    driver.await(u"the copying ends"_s, [&] { return !driver.find(u"runningText"_s); });
+    driver.hover(u"resultSign"_s); // of the lowest one
+    driver.await(u"what was not copied is named"_s, [&] { return driver.find(u"toolTip"_s) != nullptr; });
+    driver.report(u"config-copied"_s, driver.text(u"toolTip"_s));
+}
+
+void walkChannels(Driver &driver)
+{
+    chooseRecorder(driver);
+    pick(driver, u"encodeChannelChoice"_s, 7);
+    driver.report(u"config-unplugged"_s, driver.text(u"emptyTitle"_s));
+    pick(driver, u"encodeChannelChoice"_s, 1);
+    driver.check(driver.require(u"encodeChannelChoice"_s)->property("count").toInt() == 16,
+                 u"the recorder has 16 channels"_s);
+    driver.report(u"config-recorder"_s, driver.text(u"configDevice"_s));
+    choose(driver, old);
+    driver.report(u"config-old"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
+}
+
+void walkImage(Driver &driver, sdk::demo::DemoSite &site)
+{
+    choose(driver, first);
+    driver.click(u"configTab1"_s);
+    awaitIdle(driver);
+    driver.report(u"config-image"_s, driver.text(u"channelPictureName"_s));
+    slide(driver, u"picture_brightnessSlider"_s, Qt::Key_PageUp, 60);
+    pick(driver, u"picture_colorStyle"_s, 2);
+    driver.click(u"mirror_value"_s);
+    awaitIdle(driver);
+    driver.fill(u"channelNameField"_s, u"East gate"_s);
+    driver.key(Qt::Key_Return);
+    awaitIdle(driver);
+    driver.check(driver.text(u"channelPictureName"_s) == u"East gate", u"the channel has its new name"_s);
+    driver.click(u"imageSubject1"_s);
+    pick(driver, u"shutterChoice"_s, 4);
+    pick(driver, u"backMode_backlightmode"_s, 1);
+    driver.report(u"config-exposure"_s, shownBy(driver, u"shutterChoice"_s));
+
+    site.setFault(macOf(site, first), {.fault = sdk::demo::Fault::RefusesItem, .number = 1318, .text = {}});
+    driver.click(u"imageSubject0"_s);
+    slide(driver, u"picture_hue"_s, Qt::Key_Right, 51);
+    const int sharpness = numberOf(driver, u"sharpness_value"_s);
+    driver.require(u"sharpness_value"_s)->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
+    driver.key(Qt::Key_Right);
+    expectToast(driver, translated("ConfigSession", "设备没有接受修改，显示的是设备现有的值"));
+    driver.check(numberOf(driver, u"sharpness_value"_s) == sharpness, u"what the device refuses goes back"_s);
+    driver.report(u"config-image-refused"_s, driver.text(u"configState"_s));
+    site.clearFault(macOf(site, first), sdk::demo::Fault::RefusesItem);
+    driver.click(u"imageDefaultsButton"_s);
+    driver.await(u"the defaults are set"_s, [&] { return numberOf(driver, u"picture_brightnessSlider"_s) == 50; });
+    awaitIdle(driver);
+
+    choose(driver, twoLamps);
+    driver.click(u"imageSubject2"_s);
+    driver.check(driver.find(u"lightControlEx_mixMode"_s) && !driver.find(u"lightControl_controlMode"_s),
+                 u"a camera shows what it has, and no more"_s);
+    pick(driver, u"lightControlEx_Sensitive"_s, 2);
+    slide(driver, u"lightControlEx_Brightness"_s, Qt::Key_End, 100);
+    driver.report(u"config-light"_s, shownBy(driver, u"lightControlEx_mixMode"_s));
+    pick(driver, u"switchModeChoice"_s, 1);
+    driver.click(u"imageSubject0"_s);
+    driver.check(numberOf(driver, u"picture_brightnessSlider"_s) == 40, u"the night has a picture of its own"_s);
+    chooseRecorder(driver);
+    driver.click(u"imageSubject1"_s);
+    driver.report(u"config-image-none"_s, driver.text(u"emptyTitle"_s));
+}
+
+/// Devices that talk nonsense, and one that is gone.
+void walkOddDevices(Driver &driver, sdk::demo::DemoSite &site)
+{
+    const QString mac = macOf(site, second);
+    site.setFault(mac, {.fault = sdk::demo::Fault::OddCapabilities, .number = 0, .text = {}});
+    site.setFault(mac, {.fault = sdk::demo::Fault::OddConfiguration, .number = 0, .text = u"Encode"_s});
+    choose(driver, second);
+    driver.click(u"imageSubject1"_s);
+    driver.report(u"config-odd-image"_s, driver.text(u"configState"_s));
+    driver.click(u"configTab0"_s);
+    expectToast(driver, translated("ConfigSession", "获取设备配置失败"));
+    awaitIdle(driver);
+    driver.report(u"config-odd-encode"_s, driver.text(u"encodeNotice"_s));
+    site.clearFault(mac, sdk::demo::Fault::OddCapabilities);
+    site.clearFault(mac, sdk::demo::Fault::OddConfiguration);
+
+    site.setFault(macOf(site, last), {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}});
+    choose(driver, last);
+    driver.report(u"config-away"_s, driver.text(u"configState"_s));
+    site.clearFault(macOf(site, last), sdk::demo::Fault::NoAnswer);
+    driver.click(u"emptyActionButton"_s);
+    driver.require(u"encodeSaveButton"_s);
+    awaitIdle(driver);
+    driver.click(u"tab0"_s);
+}
+
+} // namespace
+
+void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site)
+{
+    walkLogin(driver);
+    setDefaultPassword(driver);
+    walkStreams(driver);
+    walkLeaving(driver);
+    walkSaving(driver, site);
+    walkCopying(driver);
+    walkChannels(driver);
+    walkImage(driver, site);
+    walkOddDevices(driver, site);
+}
