@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr std::array groupKeys = {"picture",  "sharpness", "mirror",       "stable",
-                                  "exposure", "backMode",  "whiteBalance", "dayNight",
+constexpr std::array groupKeys = {"picture",  "sharpness",    "mirror",        "stable",
+                                  "exposure", "backMode",     "whiteBalance",  "dayNight",
                                   "inDefog",  "lightControl", "lightControlEx"};
 
 /// Of a second, shortest first.

@@ -25,7 +25,8 @@ class EncodeForm : public QObject
     /// "audioEnable", "audioCompression", "samplingFrequency", "videoEnable"), always with all of:
     ///  - "key": the key that it is changed by
     ///  - "changed": whether it differs from what was read
-    ///  - "choices" and "index": texts, with the current one among them, and its place, -1 while there is none
+    ///  - "choices" and "index": texts, with the current one among them, and its place, -1 while there is
+    ///  none
     ///  - "value", "minimum" and "maximum": numbers
     ///  - "usable": whether there is anything to choose
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)

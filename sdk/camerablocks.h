@@ -176,7 +176,7 @@ struct LightItem
 {
     std::uint32_t size;
     std::int32_t controlMode; ///< 0 off, 1 manual, 2 automatic
-    std::int32_t lightMode; ///< which lamps: 0 near and far, 1 near, 2 far
+    std::int32_t lightMode;   ///< which lamps: 0 near and far, 1 near, 2 far
     std::int32_t nearLight;
     std::int32_t farLight;
     std::int32_t correction;
@@ -189,7 +189,7 @@ struct MixedLightItem
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t controlMode;
-    std::int32_t mixMode; ///< which lights: 0 infrared, 1 white, 2 whichever serves
+    std::int32_t mixMode;   ///< which lights: 0 infrared, 1 white, 2 whichever serves
     std::int32_t lightMode; ///< which lamps: 0 near and far, 1 near, 2 far
     std::int32_t sensitive; ///< 1, 3 or 5
     std::int32_t correction;

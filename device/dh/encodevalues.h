@@ -16,8 +16,8 @@ public:
     /// Whether the encode page has this key, to read or to write.
     [[nodiscard]] static bool isKey(const QString &key);
 
-    /// `streamType` is the kind of main stream, 0 to 2. Invalid for a key that is not read. "bitRate" is the bit
-    /// rate in kbit/s, also of one that "curBitStream" has no place for.
+    /// `streamType` is the kind of main stream, 0 to 2. Invalid for a key that is not read. "bitRate" is the
+    /// bit rate in kbit/s, also of one that "curBitStream" has no place for.
     [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
 
     /// Changes the state, but not the device. Returns false, with the state unchanged, when the value is none

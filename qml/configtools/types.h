@@ -7,8 +7,8 @@
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
-#include "device/systemtools.h"
 #include "device/encodeform.h"
+#include "device/systemtools.h"
 #include "device/treemodel.h"
 #include "device/treerows.h"
 #include "favourites/author.h"
@@ -93,6 +93,8 @@ struct SystemToolsForeign
     QML_FOREIGN(SystemTools)
     QML_NAMED_ELEMENT(SystemTools)
     QML_SINGLETON
+};
+
 struct EncodeFormForeign
 {
     Q_GADGET

@@ -102,12 +102,10 @@ private Q_SLOTS:
                                                     {"encodeMode", QStringList()},
                                                     {"resolution", QStringList()},
                                                     {"bitStream", QStringList()}};
-        QTest::newRow("other kinds") << QVariantMap{{"channelNum", 3},
-                                                    {"encodeMode", QVariantMap{{"a", 1}}},
-                                                    {"curBitStream", "none"},
-                                                    {"frameRateMax", "many"},
-                                                    {"picture", 7},
-                                                    {"curSwitchMode", QStringList()}};
+        QTest::newRow("other kinds") << QVariantMap{
+            {"channelNum", 3},        {"encodeMode", QVariantMap{{"a", 1}}},
+            {"curBitStream", "none"}, {"frameRateMax", "many"},
+            {"picture", 7},           {"curSwitchMode", QStringList()}};
     }
     void badValuesLeaveAWholeForm()
     {
@@ -138,7 +136,8 @@ private Q_SLOTS:
         QTest::addColumn<double>("longest");
         QTest::addColumn<int>("place");
         QTest::newRow("shortest") << 0.01 << 0.01 << 0;
-        QTest::newRow("as devices keep it") << static_cast<double>(1000.0F / 30000) << static_cast<double>(1000.0F / 30000) << 1;
+        QTest::newRow("as devices keep it")
+            << static_cast<double>(1000.0F / 30000) << static_cast<double>(1000.0F / 30000) << 1;
         QTest::newRow("longest") << 40.0 << 40.0 << 9;
         QTest::newRow("a range") << 0.0 << 40.0 << -1;
         QTest::newRow("a time that is not listed") << 25.0 << 25.0 << -1;

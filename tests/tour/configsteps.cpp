@@ -58,8 +58,7 @@ void pick(const Driver &driver, const QString &choice, int place)
     driver.click(choice);
     driver.key(Qt::Key_Home); // to the head of a long list
     driver.click(u"choice%1"_s.arg(place));
-    driver.await(u"the list of \"%1\" is closed"_s.arg(choice),
-                 [&] { return !driver.find(u"choice0"_s); });
+    driver.await(u"the list of \"%1\" is closed"_s.arg(choice), [&] { return !driver.find(u"choice0"_s); });
     awaitIdle(driver);
 }
 
@@ -82,9 +81,16 @@ void choose(const Driver &driver, const QString &device)
 /// The recorders stand below the cameras, out of sight.
 void chooseRecorder(const Driver &driver)
 {
+    const QQuickItem *tree = driver.require(u"deviceTree"_s);
+    const int rows = tree->property("count").toInt();
     driver.click(u"open_IPC"_s);
+    driver.await(u"the cameras are folded away"_s, [&] {
+        const QQuickItem *row = driver.find(u"device_"_s + recorder);
+        return tree->property("count").toInt() < rows && row && row->y() + row->height() < tree->height();
+    });
     choose(driver, recorder);
     driver.click(u"open_IPC"_s);
+    driver.await(u"the cameras are there again"_s, [&] { return tree->property("count").toInt() == rows; });
 }
 
 QString translated(const char *context, const char *text)
@@ -94,8 +100,7 @@ QString translated(const char *context, const char *text)
 
 void expectToast(const Driver &driver, const QString &text)
 {
-    driver.await(u"\"%1\" is said"_s.arg(text),
-                 [&] { return driver.texts(u"toastText"_s).contains(text); });
+    driver.await(u"\"%1\" is said"_s.arg(text), [&] { return driver.texts(u"toastText"_s).contains(text); });
 }
 
 /// A login that is refused asks for the account, and goes on with it.
@@ -120,7 +125,8 @@ void setDefaultPassword(const Driver &driver)
     driver.fill(u"passwordField"_s, password);
     driver.click(u"okButton"_s);
     driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
+    driver.await(
+        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
 }
 
 void walkStreams(Driver &driver)
@@ -171,19 +177,20 @@ void walkSaving(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"encodeSaveButton"_s);
     const QString refused = translated("EncodeConfig", "主码流编码音频格式") + u'\n' +
                             translated("EncodeConfig", "辅码流编码音频格式配置") + u'\n' +
-                            translated("ConfigSession", "保存失败");
+                            translated("EncodeWork", "保存失败");
     expectToast(driver, refused);
     driver.report(u"config-item-refused"_s, driver.text(u"encodeNotice"_s));
     site.clearFault(mac, sdk::demo::Fault::RefusesItem);
     driver.click(u"encodeSaveButton"_s);
-    expectToast(driver, translated("ConfigSession", "保存成功"));
+    expectToast(driver, translated("EncodeWork", "保存成功"));
     awaitIdle(driver);
     driver.check(!driver.find(u"changeMark"_s), u"nothing is left to be saved"_s);
 
     choose(driver, second);
     driver.click(u"device_"_s + first);
     awaitIdle(driver);
-    driver.check(driver.text(u"mainBitRateField"_s) == u"3000" && numberOf(driver, u"mainFrameRateSlider"_s) == 23,
+    driver.check(driver.text(u"mainBitRateField"_s) == u"3000" &&
+                     numberOf(driver, u"mainFrameRateSlider"_s) == 23,
                  u"the next login reads what was saved"_s);
     driver.report(u"config-saved"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
 }
@@ -248,12 +255,13 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     const int sharpness = numberOf(driver, u"sharpness_value"_s);
     driver.require(u"sharpness_value"_s)->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
     driver.key(Qt::Key_Right);
-    expectToast(driver, translated("ConfigSession", "设备没有接受修改，显示的是设备现有的值"));
+    expectToast(driver, translated("ImageWork", "设备没有接受修改，显示的是设备现有的值"));
     driver.check(numberOf(driver, u"sharpness_value"_s) == sharpness, u"what the device refuses goes back"_s);
     driver.report(u"config-image-refused"_s, driver.text(u"configState"_s));
     site.clearFault(macOf(site, first), sdk::demo::Fault::RefusesItem);
     driver.click(u"imageDefaultsButton"_s);
-    driver.await(u"the defaults are set"_s, [&] { return numberOf(driver, u"picture_brightnessSlider"_s) == 50; });
+    driver.await(u"the defaults are set"_s,
+                 [&] { return numberOf(driver, u"picture_brightnessSlider"_s) == 50; });
     awaitIdle(driver);
 
     choose(driver, twoLamps);
@@ -265,7 +273,8 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"config-light"_s, shownBy(driver, u"lightControlEx_mixMode"_s));
     pick(driver, u"switchModeChoice"_s, 1);
     driver.click(u"imageSubject0"_s);
-    driver.check(numberOf(driver, u"picture_brightnessSlider"_s) == 40, u"the night has a picture of its own"_s);
+    driver.check(numberOf(driver, u"picture_brightnessSlider"_s) == 40,
+                 u"the night has a picture of its own"_s);
     chooseRecorder(driver);
     driver.click(u"imageSubject1"_s);
     driver.report(u"config-image-none"_s, driver.text(u"emptyTitle"_s));

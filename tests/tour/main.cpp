@@ -166,7 +166,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
         if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else
-            drive(driver, dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site(), language, folder);
+            drive(driver, dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site(), language,
+                  folder);
     });
     return QApplication::exec();
 }

@@ -33,17 +33,17 @@ FocusScope {
 
     /// Does `action`, after the user has agreed to lose what was changed and not saved. Returns whether that was asked.
     function leave(action) {
-        if (session.unsaved === 0) {
+        if (session.encoding.unsaved === 0) {
             action();
             return false;
         }
         const box = question.wanted();
         box.action = () => {
-            session.discard();
+            session.encoding.forget();
             action();
         };
         box.okText = qsTr("放弃修改");
-        box.show(qsTr("有 %n 项修改尚未保存，离开后将丢失。", "", session.unsaved), OVMessageBox.DangerQuestion);
+        box.show(qsTr("有 %n 项修改尚未保存，离开后将丢失。", "", session.encoding.unsaved), OVMessageBox.DangerQuestion);
         return true;
     }
 
@@ -59,8 +59,8 @@ FocusScope {
         box.okText = qsTr("复制");
         //: %1 is a channel's number.
         box.show(qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", chosen.length)
-                     .arg(session.encode.channel + 1)
-                 + (session.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : ""), OVMessageBox.Question);
+                     .arg(session.encoding.form.channel + 1)
+                 + (session.encoding.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : ""), OVMessageBox.Question);
     }
 
     objectName: "pageDeviceConfig"
@@ -112,7 +112,10 @@ FocusScope {
             property var action: null
 
             objectName: "questionBox"
-            onAccepted: action()
+            onAccepted: {
+                const wanted = action;
+                wanted();
+            }
         }
     }
     // qmllint enable unqualified
@@ -143,9 +146,9 @@ FocusScope {
         session: session
         targetCount: page.targets.length
         onCopyRequested: page.copy()
-        onEncodeChannelRequested: index => page.leave(() => session.chooseEncode("curChannel", index))
-        onRefreshRequested: page.leave(() => session.chooseEncode("curChannel", session.encode.channel))
-        onStreamTypeRequested: index => page.leave(() => session.chooseEncode("curStreamType", index))
+        onEncodeChannelRequested: index => page.leave(() => session.encoding.choose("curChannel", index))
+        onRefreshRequested: page.leave(() => session.encoding.load())
+        onStreamTypeRequested: index => page.leave(() => session.encoding.choose("curStreamType", index))
         onTabRequested: index => page.leave(() => session.imageShown = index === 1)
     }
 

@@ -99,6 +99,7 @@ private Q_SLOTS:
         const QStringList bitRates = m_site->get("bitStream").toStringList();
         QCOMPARE(bitRates.last(), "自定义");
         QCOMPARE(bitRates.value(m_site->get("curBitStream").toInt()), "4096");
+        QCOMPARE(m_site->get("bitRate").toInt(), 4096);
         QCOMPARE(m_site->get("frameRateMax").toInt(), 25);
         QCOMPARE(m_site->get("frameRate").toInt(), 25);
         QCOMPARE(m_site->get("quality").toInt(), 4);

@@ -34,13 +34,11 @@ Item {
     }
 
     function tell() {
-        const parts = [];
-        if (complete > 0)
-            parts.push(qsTr("%n 台设备已复制", "", complete));
-        if (incomplete > 0)
-            parts.push(qsTr("%n 台设备只复制了一部分", "", incomplete));
-        if (failed > 0)
-            parts.push(qsTr("%n 台设备复制失败", "", failed));
+        const parts = Array.from([
+            complete > 0 ? qsTr("%n 台设备已复制", "", complete) : "",
+            incomplete > 0 ? qsTr("%n 台设备只复制了一部分", "", incomplete) : "",
+            failed > 0 ? qsTr("%n 台设备复制失败", "", failed) : ""
+        ]).filter(part => part !== "");
         const kind = failed > 0 ? OVToast.Error : incomplete > 0 ? OVToast.Information : OVToast.Success;
         said(parts.join(qsTr("，")), kind, failed + incomplete > 0 ? Theme.errorToastStay : Theme.toastStay);
     }

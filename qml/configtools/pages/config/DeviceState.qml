@@ -13,7 +13,7 @@ Item {
             return session.busyText;
         return session.loggedIn ? qsTr("已登录") : qsTr("登录失败：%1").arg(session.failure);
     }
-    readonly property string details: [session.device, session.name, session.model, session.type]
+    readonly property string details: Array.from([session.device, session.name, session.model, session.type])
         .filter(text => text !== "").join(" · ")
 
     implicitHeight: Theme.controlHeight

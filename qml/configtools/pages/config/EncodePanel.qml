@@ -6,15 +6,15 @@ import configtools
 Item {
     id: root
 
-    required property ConfigSession session
+    required property EncodeWork work
     required property int targetCount
-    readonly property EncodeForm form: session.encode
+    readonly property EncodeForm form: work.form
     readonly property string trouble: {
-        if (session.refusedItems !== "")
-            return qsTr("设备没有接受：%1").arg(session.refusedItems.trim().split("\n").join(qsTr("、")));
-        if (session.encodeFailed)
+        if (work.refusedItems !== "")
+            return qsTr("设备没有接受：%1").arg(work.refusedItems.trim().split("\n").join(qsTr("、")));
+        if (work.failed)
             return "";
-        if (session.encodeResult === session.configurationUnreadable)
+        if (work.result === work.configurationUnreadable)
             return qsTr("设备的配置无法识别，显示的内容可能不完整");
         return form.complete ? "" : qsTr("设备没有告知它的编码能力，部分选项为空");
     }
@@ -67,7 +67,7 @@ Item {
                 readonly property real columnWidth: (content.width - spacing) / 2
 
                 spacing: Theme.unit * 5
-                visible: !root.session.encodeFailed
+                visible: !root.work.failed
 
                 EncodeStream {
                     width: streams.columnWidth
@@ -76,7 +76,7 @@ Item {
                     streamType: root.form.streamType
                     streamTypes: root.form.streamTypes
                     title: qsTr("主码流")
-                    onChangeRequested: (key, value) => root.session.setEncode(key, value)
+                    onChangeRequested: (key, value) => root.work.set(key, value)
                     onStreamTypeRequested: index => root.streamTypeRequested(index)
                 }
                 EncodeStream {
@@ -86,7 +86,7 @@ Item {
                     stream: root.form.subStream
                     streamTypes: root.form.subStreamTypes
                     title: qsTr("辅码流")
-                    onChangeRequested: (key, value) => root.session.setEncode(key, value)
+                    onChangeRequested: (key, value) => root.work.set(key, value)
                 }
             }
         }
@@ -99,7 +99,7 @@ Item {
         iconName: "unplugged"
         objectName: "encodeEmptyState"
         title: qsTr("没有读到通道 %1 的编码配置").arg(root.form.channel + 1)
-        visible: root.session.encodeFailed
+        visible: root.work.failed
     }
 
     Rectangle {
@@ -140,7 +140,7 @@ Item {
                 color: root.trouble !== "" ? Theme.colours.bad : Theme.colours.warnInk
                 objectName: "encodeNotice"
                 text: root.trouble !== "" ? root.trouble
-                    : root.session.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.session.unsaved) : ""
+                    : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved) : ""
             }
         }
         Row {
@@ -151,10 +151,11 @@ Item {
             spacing: Theme.unit
 
             OVButton {
-                enabled: !root.session.encodeFailed && root.form.complete && root.targetCount > 0
+                enabled: root.work.copyable && root.targetCount > 0
                 iconName: "copy"
                 objectName: "copyButton"
-                text: root.targetCount > 0 ? qsTr("复制到 %n 台设备", "", root.targetCount) : qsTr("复制到选中的设备")
+                text: root.targetCount > 0 ? qsTr("复制到 %n 台设备", "", root.targetCount)
+                                           : qsTr("复制到选中的设备")
                 onClicked: root.copyRequested()
             }
             OVButton {
@@ -163,11 +164,11 @@ Item {
                 onClicked: root.refreshRequested()
             }
             OVButton {
-                enabled: !root.session.encodeFailed
+                enabled: !root.work.failed
                 kind: OVButton.Primary
                 objectName: "encodeSaveButton"
                 text: qsTr("保存")
-                onClicked: root.session.save()
+                onClicked: root.work.save()
             }
         }
     }

@@ -5,14 +5,14 @@ import configtools
 Column {
     id: root
 
-    required property ConfigSession session
+    required property ImageWork work
 
     spacing: Theme.pageMargin
 
     ImageGroup {
         id: exposure
         key: "exposure"
-        session: root.session
+        work: root.work
         title: qsTr("曝光")
 
         ImageChoice {
@@ -28,7 +28,7 @@ Column {
             subKey: "value"
         }
         ImageShutter {
-            form: root.session.image
+            form: root.work.form
             group: exposure
         }
         OVFormRow {
@@ -99,7 +99,7 @@ Column {
     ImageGroup {
         id: backMode
         key: "backMode"
-        session: root.session
+        work: root.work
         title: qsTr("背光")
 
         ImageChoice {
@@ -132,7 +132,7 @@ Column {
     ImageGroup {
         id: whiteBalance
         key: "whiteBalance"
-        session: root.session
+        work: root.work
         title: qsTr("白平衡")
 
         ImageChoice {

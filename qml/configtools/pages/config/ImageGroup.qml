@@ -6,9 +6,9 @@ import configtools
 OVSection {
     id: root
 
-    required property ConfigSession session
+    required property ImageWork work
     required property string key
-    readonly property var values: session.image.groups[key] ?? ({})
+    readonly property var values: work.form.groups[key] ?? ({})
 
     function number(subKey) {
         return Number(values[subKey] ?? 0) || 0;
@@ -31,7 +31,7 @@ OVSection {
     }
 
     function change(subKey, value) {
-        session.setImage(key, [[subKey, value]]);
+        work.set(key, [[subKey, value]]);
     }
 
     objectName: "group_" + key

@@ -5,7 +5,7 @@ import configtools
 Column {
     id: root
 
-    required property ConfigSession session
+    required property ImageWork work
     readonly property var lamps: [qsTr("远近光"), qsTr("近光"), qsTr("远光")]
 
     spacing: Theme.pageMargin
@@ -13,7 +13,7 @@ Column {
     ImageGroup {
         id: dayNight
         key: "dayNight"
-        session: root.session
+        work: root.work
         title: qsTr("日夜转换")
 
         ImageChoice {
@@ -30,7 +30,7 @@ Column {
             subKey: "Sensitivity"
         }
         ImageChoice {
-            choices: [2, 3, 4, 5, 6, 7, 8, 9, 10].map(seconds => qsTr("%1秒").arg(seconds))
+            choices: Array.from({length: 9}, (_, place) => qsTr("%1秒").arg(place + 2))
             first: 2
             group: dayNight
             label: qsTr("切换延时")
@@ -40,7 +40,7 @@ Column {
     ImageGroup {
         id: light
         key: "lightControl"
-        session: root.session
+        work: root.work
         title: qsTr("补光灯")
 
         ImageChoice {
@@ -74,7 +74,7 @@ Column {
     ImageGroup {
         id: mixed
         key: "lightControlEx"
-        session: root.session
+        work: root.work
         title: qsTr("混合补光")
 
         ImageChoice {

@@ -6,9 +6,9 @@ import configtools
 Item {
     id: root
 
-    required property ConfigSession session
+    required property ImageWork work
     property int subject: 0
-    readonly property CameraForm form: session.image
+    readonly property CameraForm form: work.form
 
     /// The groups of each subject.
     readonly property var subjects: [
@@ -58,6 +58,7 @@ Item {
         clip: true
         contentHeight: groups.height + Theme.pageMargin
         interactive: contentHeight > height
+        visible: !root.empty
 
         T.ScrollBar.vertical: OVScrollBar {}
 
@@ -69,17 +70,17 @@ Item {
 
             ImagePictureGroups {
                 width: parent.width
-                session: root.session
+                work: root.work
                 visible: root.subject === 0
             }
             ImageExposureGroups {
                 width: parent.width
-                session: root.session
+                work: root.work
                 visible: root.subject === 1
             }
             ImageLightGroups {
                 width: parent.width
-                session: root.session
+                work: root.work
                 visible: root.subject === 2
             }
         }
@@ -104,6 +105,6 @@ Item {
         y: Theme.pageMargin
         width: Theme.imageSideWidth
         height: parent.height - 2 * y
-        session: root.session
+        work: root.work
     }
 }

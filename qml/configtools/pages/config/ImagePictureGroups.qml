@@ -5,14 +5,14 @@ import configtools
 Column {
     id: root
 
-    required property ConfigSession session
+    required property ImageWork work
 
     spacing: Theme.pageMargin
 
     ImageGroup {
         id: picture
         key: "picture"
-        session: root.session
+        work: root.work
         title: qsTr("图像")
 
         ImageChoice {
@@ -51,7 +51,7 @@ Column {
     ImageGroup {
         id: sharpness
         key: "sharpness"
-        session: root.session
+        work: root.work
         title: qsTr("锐度")
 
         ImageSlider {
@@ -63,7 +63,7 @@ Column {
     ImageGroup {
         id: mirror
         key: "mirror"
-        session: root.session
+        work: root.work
         title: qsTr("镜像与旋转")
 
         ImageSwitch {
@@ -82,7 +82,7 @@ Column {
     ImageGroup {
         id: stable
         key: "stable"
-        session: root.session
+        work: root.work
         title: qsTr("防抖")
 
         ImageSwitch {
@@ -94,7 +94,7 @@ Column {
     ImageGroup {
         id: defog
         key: "inDefog"
-        session: root.session
+        work: root.work
         title: qsTr("透雾")
 
         ImageChoice {

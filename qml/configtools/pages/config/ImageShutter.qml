@@ -24,7 +24,7 @@ Column {
     }
 
     function write(lowest, highest) {
-        group.session.setImage(group.key, [["dbExposureValue1", lowest], ["dbExposureValue2", highest]]);
+        group.work.set(group.key, [["dbExposureValue1", lowest], ["dbExposureValue2", highest]]);
     }
 
     function finish() {
@@ -59,7 +59,7 @@ Column {
             width: parent.width
             accessibleName: qsTr("快门")
             chosen: root.custom ? root.last : root.place
-            model: root.form.shutterTimes.concat([qsTr("自定义范围")])
+            model: Array.from(root.form.shutterTimes).concat([qsTr("自定义范围")])
             objectName: "shutterChoice"
             source: root.group.values
             onPicked: index => {
@@ -85,7 +85,12 @@ Column {
                 accessibleName: qsTr("最短快门")
                 objectName: "shutterLowerField"
                 textFont: Theme.figureFont
-                validator: DoubleValidator { bottom: 0; locale: "C"; notation: DoubleValidator.StandardNotation; top: root.longestKnown }
+                validator: DoubleValidator {
+                    bottom: 0
+                    locale: "C"
+                    notation: DoubleValidator.StandardNotation
+                    top: root.longestKnown
+                }
                 onAccepted: root.finish()
                 onActiveFocusChanged: if (!activeFocus) root.finish()
             }
@@ -100,7 +105,12 @@ Column {
                 accessibleName: qsTr("最长快门")
                 objectName: "shutterUpperField"
                 textFont: Theme.figureFont
-                validator: DoubleValidator { bottom: 0; locale: "C"; notation: DoubleValidator.StandardNotation; top: root.longestKnown }
+                validator: DoubleValidator {
+                    bottom: 0
+                    locale: "C"
+                    notation: DoubleValidator.StandardNotation
+                    top: root.longestKnown
+                }
                 onAccepted: root.finish()
                 onActiveFocusChanged: if (!activeFocus) root.finish()
             }

@@ -5,13 +5,14 @@ import configtools
 Item {
     id: root
 
-    required property ConfigSession session
-    readonly property CameraForm form: session.image
+    required property ImageWork work
+    readonly property CameraForm form: work.form
+    readonly property var groups: form.groups
     signal defaultsRequested
 
     function finishName() {
         if (nameField.text.trim() !== "" && nameField.text !== form.channelName)
-            session.setImage("curChannelName", [["", nameField.text.trim()]]);
+            work.set("curChannelName", [["", nameField.text.trim()]]);
         else
             nameField.text = form.channelName;
     }
@@ -46,7 +47,7 @@ Item {
                 model: root.form.channels
                 objectName: "imageChannelChoice"
                 source: root.form.groups
-                onPicked: index => root.session.chooseImageChannel(index)
+                onPicked: index => root.work.chooseChannel(index)
             }
         }
         OVFormRow {
@@ -78,7 +79,7 @@ Item {
                 model: root.form.switchModes
                 objectName: "switchModeChoice"
                 source: root.form.groups
-                onPicked: index => root.session.chooseSwitchMode(index)
+                onPicked: index => root.work.chooseMode(index)
             }
         }
         OVParagraph {
@@ -97,14 +98,14 @@ Item {
             width: (parent.width - parent.spacing) / 2
             objectName: "imageRefreshButton"
             text: qsTr("刷新")
-            onClicked: root.session.readImage()
+            onClicked: root.work.load()
         }
         OVButton {
             width: (parent.width - parent.spacing) / 2
-            enabled: root.form.groups.picture.support
+            enabled: root.groups.picture.support
             objectName: "imageDefaultsButton"
             text: qsTr("恢复默认")
-            onClicked: root.session.setImage("setDefault", [["", ""]])
+            onClicked: root.work.set("setDefault", [["", ""]])
         }
     }
 }

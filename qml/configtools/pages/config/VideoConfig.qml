@@ -7,7 +7,7 @@ Rectangle {
 
     required property ConfigSession session
     required property int targetCount  // devices that encode settings can be copied to
-    readonly property bool shown: session.imageShown ? session.imageRead : session.encodeRead
+    readonly property bool shown: session.imageShown ? session.image.read : session.encoding.read
     signal tabRequested(int index)
     signal encodeChannelRequested(int index)
     signal streamTypeRequested(int index)
@@ -50,8 +50,8 @@ Rectangle {
             visible: root.shown && !root.session.imageShown
             // qmllint disable unqualified
             sourceComponent: EncodePanel {
-                session: root.session
                 targetCount: root.targetCount
+                work: root.session.encoding
                 onChannelRequested: index => root.encodeChannelRequested(index)
                 onCopyRequested: root.copyRequested()
                 onRefreshRequested: root.refreshRequested()
@@ -64,7 +64,7 @@ Rectangle {
             visible: root.shown && root.session.imageShown
             // qmllint disable unqualified
             sourceComponent: ImagePanel {
-                session: root.session
+                work: root.session.image
             }
             // qmllint enable unqualified
         }

@@ -1,0 +1,95 @@
+// The reading and writing of the encode settings of the session's device.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var session  // a ConfigSession
+    required property var deviceFactory
+    property bool read: false  // what the form shows is this device's
+    property int result: 0     // of the last reading: 0, or one of the following, or an error of the device
+    readonly property int configurationUnreadable: 1
+    readonly property int abilitiesUnknown: 10
+    readonly property bool failed: result !== 0 && result !== configurationUnreadable && result !== abilitiesUnknown
+    property string refusedItems  // of the last saving, a line for each
+    readonly property alias form: encodeForm
+    readonly property var subStream: encodeForm.subStream
+    readonly property int unsaved: read ? encodeForm.changedCount : 0
+    readonly property bool copyable: read && !failed && encodeForm.complete
+
+    /// Forgets the device. What was changed and not saved is lost; it is read anew when it is next shown.
+    function forget() {
+        read = false;
+        refusedItems = "";
+        result = 0;
+    }
+
+    function load() {
+        refusedItems = "";
+        session.work(qsTr("正在读取编码配置…"), () => {
+            deviceFactory.getEncodeCaps("dh");
+            encodeForm.read();
+            read = true;
+        });
+    }
+
+    /// `key` is "curChannel" or "curStreamType".
+    function choose(key, index) {
+        refusedItems = "";
+        session.work(qsTr("正在读取编码配置…"), () => {
+            deviceFactory.setConfigData("dh", key, index);
+            deviceFactory.getEncodeInfo("dh");
+            read = true;
+        });
+    }
+
+    function set(key, value) {
+        refusedItems = "";
+        // Only this one goes to the device at once.
+        if (key === "subCurResolution")
+            session.work(qsTr("正在写入辅码流分辨率…"), () => encodeForm.set(key, value));
+        else
+            encodeForm.set(key, value);
+        // The compression is one for both streams, and only its profile is each one's own.
+        const mode = subStream.encodeMode;
+        if (key === "subCurEncodeMode" && mode.choices[mode.index] !== value)
+            session.said(qsTr("设备的编码模式由主码流决定：主码流已改为 %1").arg(value), OVToast.Information,
+                         session.longStay);
+    }
+
+    function save() {
+        refusedItems = "";
+        session.work(qsTr("正在保存编码配置…"), () => deviceFactory.confirmConfigData("dh"));
+    }
+
+    visible: false
+
+    EncodeForm {
+        id: encodeForm
+        deviceFactory: root.deviceFactory
+    }
+
+    Connections {
+        enabled: root.session.busy && !root.session.imageShown  // other pages ask devices, too
+        target: root.deviceFactory
+
+        function onSignalGetDeviceCapRet(result) {
+            root.result = result;
+            if (root.failed)
+                root.session.said(qsTr("设备没有应答，读取配置失败"), OVToast.Error, root.session.longStay);
+        }
+        function onSignalChangeEncodeChannel() {
+            encodeForm.read();
+        }
+        function onSignalConfirmEncodeConfig(refused) {
+            if (refused === "") {
+                root.session.said(qsTr("保存成功"), OVToast.Success, root.session.shortStay);
+                root.session.work(qsTr("正在读取编码配置…"), () => root.deviceFactory.getEncodeInfo("dh"));
+            } else {
+                root.refusedItems = refused;
+                root.session.said(refused + qsTr("保存失败"), OVToast.Error, root.session.longStay);
+            }
+        }
+    }
+}

@@ -1,0 +1,70 @@
+// The reading and writing of the image settings of the session's device.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var session  // a ConfigSession
+    required property var deviceFactory
+    property bool read: false  // what the form shows is this device's
+    property bool writeRefused: false
+    readonly property alias form: cameraForm
+
+    function forget() {
+        read = false;
+    }
+
+    function load() {
+        session.work(qsTr("正在读取图像配置…"), () => {
+            deviceFactory.getCameraConfig("dh");
+            deviceFactory.getVideoInByChangeChannel("dh");
+            read = true;
+        });
+    }
+
+    function chooseChannel(index) {
+        deviceFactory.setConfigData("dh", "curVideoChannel", index);
+        load();
+    }
+
+    function chooseMode(index) {
+        session.work(qsTr("正在读取图像配置…"), () => {
+            deviceFactory.setConfigData("dh", "curSwitchMode", index);
+            deviceFactory.getVideoIn("dh");
+        });
+    }
+
+    /// Writes values of a group, each as [sub-key, value].
+    function set(key, values) {
+        session.work(qsTr("正在写入图像配置…"), () => {
+            writeRefused = false;
+            for (const [subKey, value] of values)
+                deviceFactory.setConfigData("dh", key, value, subKey);
+            const refused = writeRefused;
+            cameraForm.read();
+            if (refused)
+                session.said(qsTr("设备没有接受修改，显示的是设备现有的值"), OVToast.Error, session.longStay);
+        });
+    }
+
+    visible: false
+
+    CameraForm {
+        id: cameraForm
+        deviceFactory: root.deviceFactory
+    }
+
+    Connections {
+        enabled: root.session.busy && root.session.imageShown  // other pages ask devices, too
+        target: root.deviceFactory
+
+        function onSignalChangeVideoChannel() {
+            cameraForm.read();
+        }
+        function onSignalChangeVideoType() {
+            root.writeRefused = true;
+            cameraForm.read();
+        }
+    }
+}
