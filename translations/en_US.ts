@@ -272,6 +272,56 @@
     </message>
 </context>
 <context>
+    <name>ChannelPicture</name>
+    <message>
+        <source>通道的实时画面将显示在这里</source>
+        <translation>Live picture to be shown here</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigCopy</name>
+    <message numerus="yes">
+        <source>%n 台设备已复制</source>
+        <translation>
+            <numerusform>Copied to %n device</numerusform>
+            <numerusform>Copied to %n devices</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备只复制了一部分</source>
+        <translation>
+            <numerusform>%n device took only a part</numerusform>
+            <numerusform>%n devices took only a part</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备复制失败</source>
+        <translation>
+            <numerusform>%n device failed</numerusform>
+            <numerusform>%n devices failed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>ConfigSession</name>
+    <message>
+        <source>正在登录…</source>
+        <translation>Logging in…</translation>
+    </message>
+    <message>
+        <source>获取设备配置失败</source>
+        <translation>The device’s configuration could not be read</translation>
+    </message>
+    <message>
+        <source>获取设备能力失败</source>
+        <translation>The device’s capabilities could not be read</translation>
+    </message>
+</context>
+<context>
     <name>DeviceAdding</name>
     <message>
         <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
@@ -452,6 +502,28 @@
     </message>
 </context>
 <context>
+    <name>DeviceState</name>
+    <message>
+        <source>未选择设备</source>
+        <translation>No device chosen</translation>
+    </message>
+    <message>
+        <source>已登录</source>
+        <translation>Logged in</translation>
+    </message>
+    <message>
+        <source>登录失败：%1</source>
+        <translation>Login failed: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeBitRate</name>
+    <message>
+        <source>自定义码流值</source>
+        <translation>Bit rate of your own</translation>
+    </message>
+</context>
+<context>
     <name>EncodeConfig</name>
     <message>
         <source>主码流编码视频格式属性</source>
@@ -530,10 +602,165 @@
     </message>
 </context>
 <context>
+    <name>EncodePanel</name>
+    <message>
+        <source>设备没有接受：%1</source>
+        <translation>Refused: %1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>设备的配置无法识别，显示的内容可能不完整</source>
+        <translation>The configuration makes no sense: what is shown may be incomplete</translation>
+    </message>
+    <message>
+        <source>设备没有告知它的编码能力，部分选项为空</source>
+        <translation>The device does not tell what it can do: some lists are empty</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Main stream</translation>
+    </message>
+    <message>
+        <source>辅码流</source>
+        <translation>Sub stream</translation>
+    </message>
+    <message>
+        <source>设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
+        <translation>The device did not answer, or nothing is connected to this channel. Choose another one, or refresh.</translation>
+    </message>
+    <message>
+        <source>没有读到通道 %1 的编码配置</source>
+        <translation>Nothing was read of channel %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>有未保存的修改：%n 项</source>
+        <translation>
+            <numerusform>%n change is not saved</numerusform>
+            <numerusform>%n changes are not saved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>复制到 %n 台设备</source>
+        <translation>
+            <numerusform>Copy to %n device</numerusform>
+            <numerusform>Copy to %n devices</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>复制到选中的设备</source>
+        <translation>Copy to selected devices</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeStream</name>
+    <message>
+        <source>码流类型</source>
+        <translation>Stream type</translation>
+    </message>
+    <message>
+        <source>启用辅码流</source>
+        <translation>Sub stream enabled</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>编码模式</source>
+        <translation>Compression</translation>
+    </message>
+    <message>
+        <source>分辨率</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>码流控制</source>
+        <translation>Rate control</translation>
+    </message>
+    <message>
+        <source>固定码流</source>
+        <translation>Constant bit rate</translation>
+    </message>
+    <message>
+        <source>可变码流</source>
+        <translation>Variable bit rate</translation>
+    </message>
+    <message>
+        <source>码流值(Kb/S)</source>
+        <translation>Rate (Kb/S)</translation>
+    </message>
+    <message>
+        <source>帧率(FPS)</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>画质</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
+        <source>音频编码</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>启用音频</source>
+        <translation>Audio enabled</translation>
+    </message>
+    <message>
+        <source>采样率(Hz)</source>
+        <translation>Sampling (Hz)</translation>
+    </message>
+</context>
+<context>
     <name>EncodeValues</name>
     <message>
         <source>自定义</source>
         <translation>Custom</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeWork</name>
+    <message>
+        <source>正在读取编码配置…</source>
+        <translation>Reading encode settings…</translation>
+    </message>
+    <message>
+        <source>正在写入辅码流分辨率…</source>
+        <translation>Writing the sub stream’s resolution…</translation>
+    </message>
+    <message>
+        <source>设备的编码模式由主码流决定：主码流已改为 %1</source>
+        <translation>The main stream decides the compression: it is now %1</translation>
+    </message>
+    <message>
+        <source>正在保存编码配置…</source>
+        <translation>Saving encode settings…</translation>
+    </message>
+    <message>
+        <source>设备没有应答，读取配置失败</source>
+        <translation>The device did not answer: nothing was read</translation>
+    </message>
+    <message>
+        <source>保存成功</source>
+        <translation>Saved</translation>
+    </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Saving failed</translation>
     </message>
 </context>
 <context>
@@ -658,6 +885,394 @@
     <message>
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
         <translation>After setting the new password, set it in the search settings as well.</translation>
+    </message>
+</context>
+<context>
+    <name>ImageExposureGroups</name>
+    <message>
+        <source>曝光</source>
+        <translation>Exposure</translation>
+    </message>
+    <message>
+        <source>防闪烁</source>
+        <translation>Anti-flicker</translation>
+    </message>
+    <message>
+        <source>曝光模式</source>
+        <translation>Exposure mode</translation>
+    </message>
+    <message>
+        <source>增益</source>
+        <translation>Gain</translation>
+    </message>
+    <message>
+        <source>增益范围</source>
+        <translation>Gain range</translation>
+    </message>
+    <message>
+        <source>最小增益</source>
+        <translation>Least gain</translation>
+    </message>
+    <message>
+        <source>最大增益</source>
+        <translation>Highest gain</translation>
+    </message>
+    <message>
+        <source>曝光补偿</source>
+        <translation>Compensation</translation>
+    </message>
+    <message>
+        <source>自动光圈</source>
+        <translation>Automatic iris</translation>
+    </message>
+    <message>
+        <source>3D降噪</source>
+        <translation>3D noise reduction</translation>
+    </message>
+    <message>
+        <source>降噪等级</source>
+        <translation>Reduction level</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>Backlight</translation>
+    </message>
+    <message>
+        <source>背光模式</source>
+        <translation>Backlight mode</translation>
+    </message>
+    <message>
+        <source>整个画面</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>自定义区域</source>
+        <translation>Chosen region</translation>
+    </message>
+    <message>
+        <source>补偿区域</source>
+        <translation>Compensated area</translation>
+    </message>
+    <message>
+        <source>宽动态</source>
+        <translation>Wide dynamic</translation>
+    </message>
+    <message>
+        <source>强光抑制</source>
+        <translation>Strong light</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>White balance</translation>
+    </message>
+    <message>
+        <source>白平衡模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>蓝增益</source>
+        <translation>Blue gain</translation>
+    </message>
+    <message>
+        <source>红增益</source>
+        <translation>Red gain</translation>
+    </message>
+</context>
+<context>
+    <name>ImageLightGroups</name>
+    <message>
+        <source>远近光</source>
+        <translation>Near and far</translation>
+    </message>
+    <message>
+        <source>近光</source>
+        <translation>Near</translation>
+    </message>
+    <message>
+        <source>远光</source>
+        <translation>Far</translation>
+    </message>
+    <message>
+        <source>日夜转换</source>
+        <translation>Day and night</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>低</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>灵敏度</source>
+        <translation>Sensitivity</translation>
+    </message>
+    <message>
+        <source>%1秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>切换延时</source>
+        <translation>Switching delay</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>Lamps</translation>
+    </message>
+    <message>
+        <source>灯光</source>
+        <translation>Lamp</translation>
+    </message>
+    <message>
+        <source>近光亮度</source>
+        <translation>Near lamp</translation>
+    </message>
+    <message>
+        <source>远光亮度</source>
+        <translation>Far lamp</translation>
+    </message>
+    <message>
+        <source>灯光校正</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>混合补光</source>
+        <translation>Infrared and white light</translation>
+    </message>
+    <message>
+        <source>补光方式</source>
+        <translation>Lights</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>延时(秒)</source>
+        <translation>Delay (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePanel</name>
+    <message>
+        <source>画面</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>曝光与白平衡</source>
+        <translation>Exposure and white balance</translation>
+    </message>
+    <message>
+        <source>日夜与补光</source>
+        <translation>Day, night and lamps</translation>
+    </message>
+    <message>
+        <source>摄像机没有告知这方面的设置。</source>
+        <translation>The camera tells of no such settings.</translation>
+    </message>
+    <message>
+        <source>没有可调的项目</source>
+        <translation>Nothing to set here</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePictureGroups</name>
+    <message>
+        <source>图像</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>柔和</source>
+        <translation>Soft</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>艳丽</source>
+        <translation>Vivid</translation>
+    </message>
+    <message>
+        <source>风格</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>锐度</source>
+        <translation>Sharpness</translation>
+    </message>
+    <message>
+        <source>镜像与旋转</source>
+        <translation>Mirror and rotation</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>Mirror</translation>
+    </message>
+    <message>
+        <source>正常视角</source>
+        <translation>Normal view</translation>
+    </message>
+    <message>
+        <source>走廊模式1</source>
+        <translation>Corridor 1</translation>
+    </message>
+    <message>
+        <source>走廊模式2</source>
+        <translation>Corridor 2</translation>
+    </message>
+    <message>
+        <source>倒影</source>
+        <translation>Reflection</translation>
+    </message>
+    <message>
+        <source>旋转</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>Stabilisation</translation>
+    </message>
+    <message>
+        <source>电子防抖</source>
+        <translation>Stabilisation</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>Defog</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>强度</source>
+        <translation>Intensity</translation>
+    </message>
+</context>
+<context>
+    <name>ImageRegion</name>
+    <message>
+        <source>左</source>
+        <translation>L</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>区域(0–8192)</source>
+        <translation>Region (0–8192)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageShutter</name>
+    <message>
+        <source>快门</source>
+        <translation>Shutter</translation>
+    </message>
+    <message>
+        <source>自定义范围</source>
+        <translation>Custom range</translation>
+    </message>
+    <message>
+        <source>快门范围(ms)</source>
+        <translation>Shutter range (ms)</translation>
+    </message>
+    <message>
+        <source>最短快门</source>
+        <translation>Shortest shutter</translation>
+    </message>
+    <message>
+        <source>最长快门</source>
+        <translation>Longest shutter</translation>
+    </message>
+    <message>
+        <source>下限不能大于上限</source>
+        <translation>From must not be above to</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSide</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>配置模式</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>修改会立即写入设备。</source>
+        <translation>Changes are written at once.</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>Defaults</translation>
+    </message>
+</context>
+<context>
+    <name>ImageWork</name>
+    <message>
+        <source>正在读取图像配置…</source>
+        <translation>Reading image settings…</translation>
+    </message>
+    <message>
+        <source>正在写入图像配置…</source>
+        <translation>Writing image settings…</translation>
+    </message>
+    <message>
+        <source>设备没有接受修改，显示的是设备现有的值</source>
+        <translation>The device refused the change. What it has is shown.</translation>
     </message>
 </context>
 <context>
@@ -1339,16 +1954,43 @@ File path: </translation>
 <context>
     <name>PageDeviceConfig</name>
     <message>
-        <source>设备配置</source>
-        <translation>Device configuration</translation>
+        <source>放弃修改</source>
+        <translation>Discard</translation>
+    </message>
+    <message numerus="yes">
+        <source>有 %n 项修改尚未保存，离开后将丢失。</source>
+        <translation>
+            <numerusform>%n change is not saved and will be lost.</numerusform>
+            <numerusform>%n changes are not saved and will be lost.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>在此查看并修改设备的编码参数和图像参数，旁边是实时预览。</source>
-        <translation>View and change the encoding and image settings of a device next to its live preview.</translation>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message numerus="yes">
+        <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
+        <extracomment>%1 is a channel&apos;s number.</extracomment>
+        <translation>
+            <numerusform>Copy the encode settings of channel %1 to the same channel of the selected device?</numerusform>
+            <numerusform>Copy the encode settings of channel %1 to the same channel of the %n selected devices?</numerusform>
+        </translation>
     </message>
     <message>
-        <source>修改可以复制到其他设备。</source>
-        <translation>Changes can be copied to other devices.</translation>
+        <source>其中包括尚未保存的修改。</source>
+        <translation>This includes changes that are not saved.</translation>
+    </message>
+    <message>
+        <source>正在复制编码配置…</source>
+        <translation>Copying encode settings…</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>device selected</numerusform>
+            <numerusform>devices selected</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2197,6 +2839,37 @@ File path: </translation>
     <message>
         <source>强光抑制</source>
         <translation>Highlight compensation</translation>
+    </message>
+</context>
+<context>
+    <name>VideoConfig</name>
+    <message>
+        <source>编码配置</source>
+        <translation>Encoding</translation>
+    </message>
+    <message>
+        <source>视频配置</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>Log in again</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，登录后在此查看并修改它的配置。</source>
+        <translation>Click a device at the left to log in, and see and change its settings here.</translation>
+    </message>
+    <message>
+        <source>请选择设备</source>
+        <translation>Choose a device</translation>
+    </message>
+    <message>
+        <source>登录失败</source>
+        <translation>Login failed</translation>
     </message>
 </context>
 <context>

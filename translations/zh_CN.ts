@@ -271,6 +271,53 @@
     </message>
 </context>
 <context>
+    <name>ChannelPicture</name>
+    <message>
+        <source>通道的实时画面将显示在这里</source>
+        <translation>通道的实时画面将显示在这里</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigCopy</name>
+    <message numerus="yes">
+        <source>%n 台设备已复制</source>
+        <translation>
+            <numerusform>%n 台设备已复制</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备只复制了一部分</source>
+        <translation>
+            <numerusform>%n 台设备只复制了一部分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备复制失败</source>
+        <translation>
+            <numerusform>%n 台设备复制失败</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigSession</name>
+    <message>
+        <source>正在登录…</source>
+        <translation>正在登录…</translation>
+    </message>
+    <message>
+        <source>获取设备配置失败</source>
+        <translation>获取设备配置失败</translation>
+    </message>
+    <message>
+        <source>获取设备能力失败</source>
+        <translation>获取设备能力失败</translation>
+    </message>
+</context>
+<context>
     <name>DeviceAdding</name>
     <message>
         <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
@@ -451,6 +498,28 @@
     </message>
 </context>
 <context>
+    <name>DeviceState</name>
+    <message>
+        <source>未选择设备</source>
+        <translation>未选择设备</translation>
+    </message>
+    <message>
+        <source>已登录</source>
+        <translation>已登录</translation>
+    </message>
+    <message>
+        <source>登录失败：%1</source>
+        <translation>登录失败：%1</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeBitRate</name>
+    <message>
+        <source>自定义码流值</source>
+        <translation>自定义码流值</translation>
+    </message>
+</context>
+<context>
     <name>EncodeConfig</name>
     <message>
         <source>主码流编码视频格式属性</source>
@@ -529,10 +598,163 @@
     </message>
 </context>
 <context>
+    <name>EncodePanel</name>
+    <message>
+        <source>设备没有接受：%1</source>
+        <translation>设备没有接受：%1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>设备的配置无法识别，显示的内容可能不完整</source>
+        <translation>设备的配置无法识别，显示的内容可能不完整</translation>
+    </message>
+    <message>
+        <source>设备没有告知它的编码能力，部分选项为空</source>
+        <translation>设备没有告知它的编码能力，部分选项为空</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>主码流</translation>
+    </message>
+    <message>
+        <source>辅码流</source>
+        <translation>辅码流</translation>
+    </message>
+    <message>
+        <source>设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
+        <translation>设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。</translation>
+    </message>
+    <message>
+        <source>没有读到通道 %1 的编码配置</source>
+        <translation>没有读到通道 %1 的编码配置</translation>
+    </message>
+    <message numerus="yes">
+        <source>有未保存的修改：%n 项</source>
+        <translation>
+            <numerusform>有未保存的修改：%n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>复制到 %n 台设备</source>
+        <translation>
+            <numerusform>复制到 %n 台设备</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>复制到选中的设备</source>
+        <translation>复制到选中的设备</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeStream</name>
+    <message>
+        <source>码流类型</source>
+        <translation>码流类型</translation>
+    </message>
+    <message>
+        <source>启用辅码流</source>
+        <translation>启用辅码流</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <source>编码模式</source>
+        <translation>编码模式</translation>
+    </message>
+    <message>
+        <source>分辨率</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>码流控制</source>
+        <translation>码流控制</translation>
+    </message>
+    <message>
+        <source>固定码流</source>
+        <translation>固定码流</translation>
+    </message>
+    <message>
+        <source>可变码流</source>
+        <translation>可变码流</translation>
+    </message>
+    <message>
+        <source>码流值(Kb/S)</source>
+        <translation>码流值(Kb/S)</translation>
+    </message>
+    <message>
+        <source>帧率(FPS)</source>
+        <translation>帧率(FPS)</translation>
+    </message>
+    <message>
+        <source>画质</source>
+        <translation>画质</translation>
+    </message>
+    <message>
+        <source>音频编码</source>
+        <translation>音频编码</translation>
+    </message>
+    <message>
+        <source>启用音频</source>
+        <translation>启用音频</translation>
+    </message>
+    <message>
+        <source>采样率(Hz)</source>
+        <translation>采样率(Hz)</translation>
+    </message>
+</context>
+<context>
     <name>EncodeValues</name>
     <message>
         <source>自定义</source>
         <translation>自定义</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeWork</name>
+    <message>
+        <source>正在读取编码配置…</source>
+        <translation>正在读取编码配置…</translation>
+    </message>
+    <message>
+        <source>正在写入辅码流分辨率…</source>
+        <translation>正在写入辅码流分辨率…</translation>
+    </message>
+    <message>
+        <source>设备的编码模式由主码流决定：主码流已改为 %1</source>
+        <translation>设备的编码模式由主码流决定：主码流已改为 %1</translation>
+    </message>
+    <message>
+        <source>正在保存编码配置…</source>
+        <translation>正在保存编码配置…</translation>
+    </message>
+    <message>
+        <source>设备没有应答，读取配置失败</source>
+        <translation>设备没有应答，读取配置失败</translation>
+    </message>
+    <message>
+        <source>保存成功</source>
+        <translation>保存成功</translation>
+    </message>
+    <message>
+        <source>保存失败</source>
+        <translation>保存失败</translation>
     </message>
 </context>
 <context>
@@ -656,6 +878,394 @@
     <message>
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
         <translation>设定新密码后,请在“搜索设置”中设置新密码</translation>
+    </message>
+</context>
+<context>
+    <name>ImageExposureGroups</name>
+    <message>
+        <source>曝光</source>
+        <translation>曝光</translation>
+    </message>
+    <message>
+        <source>防闪烁</source>
+        <translation>防闪烁</translation>
+    </message>
+    <message>
+        <source>曝光模式</source>
+        <translation>曝光模式</translation>
+    </message>
+    <message>
+        <source>增益</source>
+        <translation>增益</translation>
+    </message>
+    <message>
+        <source>增益范围</source>
+        <translation>增益范围</translation>
+    </message>
+    <message>
+        <source>最小增益</source>
+        <translation>最小增益</translation>
+    </message>
+    <message>
+        <source>最大增益</source>
+        <translation>最大增益</translation>
+    </message>
+    <message>
+        <source>曝光补偿</source>
+        <translation>曝光补偿</translation>
+    </message>
+    <message>
+        <source>自动光圈</source>
+        <translation>自动光圈</translation>
+    </message>
+    <message>
+        <source>3D降噪</source>
+        <translation>3D降噪</translation>
+    </message>
+    <message>
+        <source>降噪等级</source>
+        <translation>降噪等级</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>背光</translation>
+    </message>
+    <message>
+        <source>背光模式</source>
+        <translation>背光模式</translation>
+    </message>
+    <message>
+        <source>整个画面</source>
+        <translation>整个画面</translation>
+    </message>
+    <message>
+        <source>自定义区域</source>
+        <translation>自定义区域</translation>
+    </message>
+    <message>
+        <source>补偿区域</source>
+        <translation>补偿区域</translation>
+    </message>
+    <message>
+        <source>宽动态</source>
+        <translation>宽动态</translation>
+    </message>
+    <message>
+        <source>强光抑制</source>
+        <translation>强光抑制</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>白平衡</translation>
+    </message>
+    <message>
+        <source>白平衡模式</source>
+        <translation>白平衡模式</translation>
+    </message>
+    <message>
+        <source>蓝增益</source>
+        <translation>蓝增益</translation>
+    </message>
+    <message>
+        <source>红增益</source>
+        <translation>红增益</translation>
+    </message>
+</context>
+<context>
+    <name>ImageLightGroups</name>
+    <message>
+        <source>远近光</source>
+        <translation>远近光</translation>
+    </message>
+    <message>
+        <source>近光</source>
+        <translation>近光</translation>
+    </message>
+    <message>
+        <source>远光</source>
+        <translation>远光</translation>
+    </message>
+    <message>
+        <source>日夜转换</source>
+        <translation>日夜转换</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>低</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>灵敏度</source>
+        <translation>灵敏度</translation>
+    </message>
+    <message>
+        <source>%1秒</source>
+        <translation>%1秒</translation>
+    </message>
+    <message>
+        <source>切换延时</source>
+        <translation>切换延时</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>补光灯</translation>
+    </message>
+    <message>
+        <source>灯光</source>
+        <translation>灯光</translation>
+    </message>
+    <message>
+        <source>近光亮度</source>
+        <translation>近光亮度</translation>
+    </message>
+    <message>
+        <source>远光亮度</source>
+        <translation>远光亮度</translation>
+    </message>
+    <message>
+        <source>灯光校正</source>
+        <translation>灯光校正</translation>
+    </message>
+    <message>
+        <source>混合补光</source>
+        <translation>混合补光</translation>
+    </message>
+    <message>
+        <source>补光方式</source>
+        <translation>补光方式</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>延时(秒)</source>
+        <translation>延时(秒)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePanel</name>
+    <message>
+        <source>画面</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>曝光与白平衡</source>
+        <translation>曝光与白平衡</translation>
+    </message>
+    <message>
+        <source>日夜与补光</source>
+        <translation>日夜与补光</translation>
+    </message>
+    <message>
+        <source>摄像机没有告知这方面的设置。</source>
+        <translation>摄像机没有告知这方面的设置。</translation>
+    </message>
+    <message>
+        <source>没有可调的项目</source>
+        <translation>没有可调的项目</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePictureGroups</name>
+    <message>
+        <source>图像</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>柔和</source>
+        <translation>柔和</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>艳丽</source>
+        <translation>艳丽</translation>
+    </message>
+    <message>
+        <source>风格</source>
+        <translation>风格</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>对比度</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>饱和度</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>色调</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>伽马</translation>
+    </message>
+    <message>
+        <source>锐度</source>
+        <translation>锐度</translation>
+    </message>
+    <message>
+        <source>镜像与旋转</source>
+        <translation>镜像与旋转</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>正常视角</source>
+        <translation>正常视角</translation>
+    </message>
+    <message>
+        <source>走廊模式1</source>
+        <translation>走廊模式1</translation>
+    </message>
+    <message>
+        <source>走廊模式2</source>
+        <translation>走廊模式2</translation>
+    </message>
+    <message>
+        <source>倒影</source>
+        <translation>倒影</translation>
+    </message>
+    <message>
+        <source>旋转</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>防抖</translation>
+    </message>
+    <message>
+        <source>电子防抖</source>
+        <translation>电子防抖</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>透雾</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>强度</source>
+        <translation>强度</translation>
+    </message>
+</context>
+<context>
+    <name>ImageRegion</name>
+    <message>
+        <source>左</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>区域(0–8192)</source>
+        <translation>区域(0–8192)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageShutter</name>
+    <message>
+        <source>快门</source>
+        <translation>快门</translation>
+    </message>
+    <message>
+        <source>自定义范围</source>
+        <translation>自定义范围</translation>
+    </message>
+    <message>
+        <source>快门范围(ms)</source>
+        <translation>快门范围(ms)</translation>
+    </message>
+    <message>
+        <source>最短快门</source>
+        <translation>最短快门</translation>
+    </message>
+    <message>
+        <source>最长快门</source>
+        <translation>最长快门</translation>
+    </message>
+    <message>
+        <source>下限不能大于上限</source>
+        <translation>下限不能大于上限</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSide</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>通道名称</translation>
+    </message>
+    <message>
+        <source>配置模式</source>
+        <translation>配置模式</translation>
+    </message>
+    <message>
+        <source>修改会立即写入设备。</source>
+        <translation>修改会立即写入设备。</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>恢复默认</translation>
+    </message>
+</context>
+<context>
+    <name>ImageWork</name>
+    <message>
+        <source>正在读取图像配置…</source>
+        <translation>正在读取图像配置…</translation>
+    </message>
+    <message>
+        <source>正在写入图像配置…</source>
+        <translation>正在写入图像配置…</translation>
+    </message>
+    <message>
+        <source>设备没有接受修改，显示的是设备现有的值</source>
+        <translation>设备没有接受修改，显示的是设备现有的值</translation>
     </message>
 </context>
 <context>
@@ -1332,16 +1942,40 @@
 <context>
     <name>PageDeviceConfig</name>
     <message>
-        <source>设备配置</source>
-        <translation>设备配置</translation>
+        <source>放弃修改</source>
+        <translation>放弃修改</translation>
+    </message>
+    <message numerus="yes">
+        <source>有 %n 项修改尚未保存，离开后将丢失。</source>
+        <translation>
+            <numerusform>有 %n 项修改尚未保存，离开后将丢失。</numerusform>
+        </translation>
     </message>
     <message>
-        <source>在此查看并修改设备的编码参数和图像参数，旁边是实时预览。</source>
-        <translation>在此查看并修改设备的编码参数和图像参数，旁边是实时预览。</translation>
+        <source>复制</source>
+        <translation>复制</translation>
+    </message>
+    <message numerus="yes">
+        <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
+        <extracomment>%1 is a channel&apos;s number.</extracomment>
+        <translation>
+            <numerusform>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</numerusform>
+        </translation>
     </message>
     <message>
-        <source>修改可以复制到其他设备。</source>
-        <translation>修改可以复制到其他设备。</translation>
+        <source>其中包括尚未保存的修改。</source>
+        <translation>其中包括尚未保存的修改。</translation>
+    </message>
+    <message>
+        <source>正在复制编码配置…</source>
+        <translation>正在复制编码配置…</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>台设备已选中</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2815,37 @@
     <message>
         <source>强光抑制</source>
         <translation>强光抑制</translation>
+    </message>
+</context>
+<context>
+    <name>VideoConfig</name>
+    <message>
+        <source>编码配置</source>
+        <translation>编码配置</translation>
+    </message>
+    <message>
+        <source>视频配置</source>
+        <translation>视频配置</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>重新登录</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，登录后在此查看并修改它的配置。</source>
+        <translation>单击左侧的一台设备，登录后在此查看并修改它的配置。</translation>
+    </message>
+    <message>
+        <source>请选择设备</source>
+        <translation>请选择设备</translation>
+    </message>
+    <message>
+        <source>登录失败</source>
+        <translation>登录失败</translation>
     </message>
 </context>
 <context>
