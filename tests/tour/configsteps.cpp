@@ -230,6 +230,22 @@ void walkChannels(Driver &driver)
     driver.report(u"config-old"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
 }
 
+/// Changes that the user gives up are gone.
+void walkDiscarding(Driver &driver)
+{
+    pick(driver, u"mainControlChoice"_s, 0);
+    driver.click(u"configTab1"_s);
+    driver.require(u"messageText"_s);
+    driver.click(u"okButton"_s);
+    driver.require(u"channelPicture"_s);
+    awaitIdle(driver);
+    driver.click(u"configTab0"_s);
+    driver.require(u"encodeSaveButton"_s);
+    awaitIdle(driver);
+    driver.check(driver.require(u"mainControlChoice"_s)->property("currentIndex").toInt() == 1,
+                 u"what was given up is read anew"_s);
+}
+
 void walkImage(Driver &driver, sdk::demo::DemoSite &site)
 {
     choose(driver, first);
@@ -317,6 +333,7 @@ void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site)
     walkSaving(driver, site);
     walkCopying(driver);
     walkChannels(driver);
+    walkDiscarding(driver);
     walkImage(driver, site);
     walkOddDevices(driver, site);
 }

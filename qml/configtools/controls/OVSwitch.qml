@@ -1,9 +1,8 @@
 // On or off. It shows the state from outside and asks for the other one.
 import QtQuick
-import QtQuick.Templates as T
 import configtools
 
-T.AbstractButton {
+OVAbstractButton {
     id: root
 
     property bool on: false
@@ -12,9 +11,7 @@ T.AbstractButton {
 
     implicitWidth: track.width + (text === "" ? 0 : Theme.unit + word.implicitWidth)
     implicitHeight: Theme.controlHeight
-    focusPolicy: Qt.StrongFocus
     font: Theme.bodyFont
-    hoverEnabled: true
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName !== "" ? accessibleName : text
