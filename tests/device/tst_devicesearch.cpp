@@ -164,7 +164,7 @@ private Q_SLOTS:
         QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
         QSignalSpy count(m_factory.get(), &CDeviceFactory::signalSearchCount);
         m_factory->startSearch("dh");
-        QVERIFY(done.wait()); // without a step of the clock
+        QVERIFY(done.wait(30000)); // without a step of the clock
         QCOMPARE(count.size(), 1);
         QCOMPARE(count.at(0).at(0).toInt(), 0);
     }
@@ -229,7 +229,7 @@ private Q_SLOTS:
         CDeviceDH backEnd(store, libraries, [] { return SearchSettings(); });
         QSignalSpy done(&backEnd, &CDeviceBase::signalCDeviceSearchDone);
         backEnd.startSearch();
-        QVERIFY(done.wait());
+        QVERIFY(done.wait(30000));
     }
 };
 
