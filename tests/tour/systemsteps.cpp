@@ -47,10 +47,10 @@ void expectRefusal(const Driver &driver, const QString &button, const char *cont
 }
 
 /// The account that found devices are logged in to with.
-void setDefaultPassword(const Driver &driver)
+void setDefaultPassword(const Driver &driver, const QString &word)
 {
     driver.click(QStringLiteral("searchSettingsButton"));
-    driver.fill(QStringLiteral("passwordField"), password);
+    driver.fill(QStringLiteral("passwordField"), word);
     driver.click(QStringLiteral("okButton"));
     driver.await(QStringLiteral("a search runs"),
                  [&] { return driver.window()->property("searching").toBool(); });
@@ -61,6 +61,7 @@ void setDefaultPassword(const Driver &driver)
 
 void walkTime(Driver &driver)
 {
+    setDefaultPassword(driver, QStringLiteral("not the password"));
     driver.click(QStringLiteral("tab3"));
     for (const QString &device : {first, second, third})
         tick(driver, device);
@@ -68,7 +69,7 @@ void walkTime(Driver &driver)
     apply(driver, QStringLiteral("setTimeByPCButton"), {wrongPassword, wrongPassword, wrongPassword});
     driver.hover(QStringLiteral("resultSign"));
     driver.report(QStringLiteral("system-wrong-password"), driver.text(QStringLiteral("toolTip")));
-    setDefaultPassword(driver);
+    setDefaultPassword(driver, password);
     apply(driver, QStringLiteral("setTimeByPCButton"), {0, 0, 0});
     driver.report(QStringLiteral("system-time-by-pc"), QStringLiteral("three clocks are set"));
 
