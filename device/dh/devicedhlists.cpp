@@ -70,8 +70,7 @@ void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSumm
     const auto end = qScopeGuard([this] { m_isImporting = false; });
     const int total = static_cast<int>(lines.size());
     bool hasNewRows = false;
-    QElapsedTimer sincePaint;
-    sincePaint.start();
+    QElapsedTimer sincePaint; // not started: the first device is shown at once
     DeviceListImport import(store(), m_libraries);
     for (const DeviceListLine &line : lines) {
         if (const std::optional<ImportFailure> failure = import.add(line, p2pPorts())) {
@@ -83,7 +82,7 @@ void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSumm
         ++summary.total;
         Q_EMIT signalCDeviceImportProgress(summary.total, total);
         const bool isLast = summary.total == total;
-        if (!isLast && sincePaint.elapsed() < paintInterval)
+        if (!isLast && sincePaint.isValid() && sincePaint.elapsed() < paintInterval)
             continue;
         // Told together: the page reads the whole table again each time.
         if (std::exchange(hasNewRows, false))
@@ -95,7 +94,7 @@ void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSumm
             QCoreApplication::processEvents();
         if (m_stopsImport)
             return;
-        sincePaint.restart();
+        sincePaint.start();
     }
 }
 
