@@ -9,44 +9,11 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-enum Role
-{
-    CheckedRole = Qt::UserRole,
-    ConflictRole,
-    IdentityRole,
-};
-
-} // namespace
-
-AddressPlan::AddressPlan(QObject *parent) : QAbstractListModel(parent) {}
+AddressPlan::AddressPlan(QObject *parent) : DialogRows(parent) {}
 
 int AddressPlan::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant AddressPlan::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row &row = m_rows.at(index.row());
-    switch (role) {
-    case CheckedRole:
-        return false;
-    case ConflictRole:
-        return row.mark == TakenByOther || row.mark == TakenInBatch;
-    case IdentityRole:
-        return row.values.value(DeviceRowKey::mac);
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> AddressPlan::roleNames() const
-{
-    return {{CheckedRole, "checked"}, {ConflictRole, "conflict"}, {IdentityRole, "identity"}};
 }
 
 CDeviceFactory *AddressPlan::deviceFactory() const
@@ -89,10 +56,11 @@ void AddressPlan::setDevices(const QVariantList &rows)
         QVariantMap shown;
         for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::mac, DeviceRowKey::ipport})
             shown.insert(key, device.value(key));
+        shown.insert(QStringLiteral("identity"), identityOf(device));
         m_rows.append({.values = shown, .initialised = device.value(DeviceRowKey::state).toBool()});
         // Without a password it refuses, and keeps the address that it has.
         if (m_rows.constLast().initialised)
-            batch.insert(device.value(DeviceRowKey::mac).toString());
+            batch.insert(identityOf(device));
     }
     m_taken.clear();
     const QVariantList all =
@@ -100,9 +68,10 @@ void AddressPlan::setDevices(const QVariantList &rows)
                         : QVariantList();
     for (const QVariant &value : all) {
         const QJsonObject row = value.toJsonObject();
-        if (batch.contains(row.value(DeviceRowKey::mac).toString()))
-            continue; // it gives its address up
+        const QString mac = row.value(DeviceRowKey::mac).toString();
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        if (batch.contains(mac.isEmpty() ? ipport : mac))
+            continue; // it gives its address up
         if (const auto address = ipv4Number(QStringView(ipport).left(ipport.lastIndexOf(QLatin1Char(':')))))
             ++m_taken[*address];
     }
@@ -154,21 +123,17 @@ QString AddressPlan::addressOf(int row) const
     return m_planned && row >= 0 && row < rowCount() ? ipv4Text(m_rows.at(row).address) : QString();
 }
 
-QVariantMap AddressPlan::get(int row) const
+bool AddressPlan::isInConflict(int row) const
 {
-    if (row < 0 || row >= rowCount())
-        return {};
+    const Mark mark = m_rows.at(row).mark;
+    return mark == TakenByOther || mark == TakenInBatch;
+}
+
+QVariantMap AddressPlan::valuesOf(int row) const
+{
     QVariantMap values = m_rows.at(row).values;
     values.insert(DeviceRowKey::num, row + 1);
     values.insert(QStringLiteral("address"), addressOf(row));
     values.insert(QStringLiteral("mark"), m_rows.at(row).mark);
     return values;
-}
-
-int AddressPlan::rowOf(const QString &identity) const
-{
-    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [&identity](const Row &candidate) {
-        return candidate.values.value(DeviceRowKey::mac).toString() == identity;
-    });
-    return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
 }

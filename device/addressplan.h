@@ -1,7 +1,8 @@
 // Which address each device of a batch will get, and what will be wrong with it.
 #pragma once
 
-#include <QAbstractListModel>
+#include "device/dialogrows.h"
+
 #include <QHash>
 #include <QList>
 #include <QPointer>
@@ -16,10 +17,9 @@ class CDeviceFactory;
 /// a 32-bit number, or all get the start address. A mark says what will be wrong with an address; it informs
 /// and changes no address.
 ///
-/// Offers what a table of the scene asks for: the roles "checked" (always false), "conflict" (the address
-/// collides) and "identity" ("mac"), and by get() "num", "name", "mac", "ipport", "address" (the new one,
-/// empty while the start address is none) and "mark". Lives on the scene's thread.
-class AddressPlan : public QAbstractListModel
+/// A row is in conflict when its address collides. Its values are "num", "name", "mac", "identity", "ipport",
+/// "address" (the new one, empty while the start address is none) and "mark".
+class AddressPlan : public DialogRows
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/devicefactory.h")
@@ -44,8 +44,6 @@ public:
     explicit AddressPlan(QObject *parent = nullptr);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
@@ -64,12 +62,12 @@ public:
     /// What the device in this place gets; empty when there is no such place or no start address.
     Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
 
-    Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
-    /// Position of the device with this "mac", -1 when there is none.
-    Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
-
 Q_SIGNALS:
     void planChanged();
+
+protected:
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
+    [[nodiscard]] bool isInConflict(int row) const override;
 
 private:
     struct Row

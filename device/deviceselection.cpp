@@ -4,43 +4,11 @@
 
 #include <algorithm>
 
-namespace {
-
-enum Role
-{
-    CheckedRole = Qt::UserRole,
-    ConflictRole,
-    IdentityRole,
-};
-
-} // namespace
-
-DeviceSelection::DeviceSelection(QObject *parent) : QAbstractListModel(parent) {}
+DeviceSelection::DeviceSelection(QObject *parent) : DialogRows(parent) {}
 
 int DeviceSelection::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant DeviceSelection::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    switch (role) {
-    case CheckedRole:
-        return m_rows.at(index.row()).checked;
-    case ConflictRole:
-        return false;
-    case IdentityRole:
-        return m_rows.at(index.row()).values.value(DeviceRowKey::mac);
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> DeviceSelection::roleNames() const
-{
-    return {{CheckedRole, "checked"}, {ConflictRole, "conflict"}, {IdentityRole, "identity"}};
 }
 
 Qt::CheckState DeviceSelection::checkState() const
@@ -82,21 +50,11 @@ void DeviceSelection::setAllChecked(bool checked)
     setRangeChecked(0, rowCount() - 1, checked);
 }
 
-QVariantMap DeviceSelection::get(int row) const
+QVariantMap DeviceSelection::valuesOf(int row) const
 {
-    if (row < 0 || row >= rowCount())
-        return {};
     QVariantMap values = m_rows.at(row).values;
     values.insert(DeviceRowKey::checked, m_rows.at(row).checked);
     return values;
-}
-
-int DeviceSelection::rowOf(const QString &identity) const
-{
-    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [&identity](const Row &candidate) {
-        return candidate.values.value(DeviceRowKey::mac).toString() == identity;
-    });
-    return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
 }
 
 QVariantList DeviceSelection::checkedRows() const

@@ -7,6 +7,7 @@
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
+#include "device/dialogrows.h"
 #include "device/encodeform.h"
 #include "device/systemtools.h"
 #include "device/treemodel.h"
@@ -28,6 +29,13 @@ struct DeviceTableModelForeign
     Q_GADGET
     QML_FOREIGN(DeviceTableModel)
     QML_NAMED_ELEMENT(DeviceTableModel)
+};
+
+struct DialogRowsForeign
+{
+    Q_GADGET
+    QML_FOREIGN(DialogRows)
+    QML_ANONYMOUS
 };
 
 struct DeviceSelectionForeign

@@ -4,6 +4,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/device/dh/flowingclock.h"
+#include "tests/device/dh/scenedevices.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -15,25 +16,6 @@ namespace {
 const QString camera = QStringLiteral("02:1a:c5:00:00:01");
 const QString newCamera = QStringLiteral("02:1a:c5:00:00:02");
 const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
-
-sdk::demo::SceneDevice device(const QString &mac, const QString &address)
-{
-    sdk::demo::SceneDevice made;
-    made.mac = mac;
-    made.address = address;
-    made.mask = QStringLiteral("255.255.255.0");
-    made.gateway = QStringLiteral("192.168.1.1");
-    made.port = 37777;
-    made.httpPort = 8080;
-    made.name = QStringLiteral("东门");
-    made.type = QStringLiteral("IPC");
-    made.model = QStringLiteral("B-2230-IR");
-    made.version = QStringLiteral("2.840.1");
-    made.serial = QStringLiteral("S1");
-    made.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
-    made.latency = 20ms;
-    return made;
-}
 
 } // namespace
 
@@ -77,8 +59,8 @@ private Q_SLOTS:
     void init()
     {
         sdk::demo::Scene scene;
-        scene.devices = {device(camera, "192.168.1.10"), device(newCamera, "192.168.1.11"),
-                         device(recorder, "192.168.1.12")};
+        scene.devices = {sceneDevice(camera, "192.168.1.10"), sceneDevice(newCamera, "192.168.1.11"),
+                         sceneDevice(recorder, "192.168.1.12")};
         scene.devices[1].initialisation = sdk::InitialisationBits::Uninitialised;
         scene.devices[1].accounts.clear();
         scene.devices[1].resetWay = 3;

@@ -6,6 +6,7 @@
 #include "sdk/demo/steppableclock.h"
 #include "sheets/qexcel.h"
 #include "tests/device/dh/flowingclock.h"
+#include "tests/device/dh/scenedevices.h"
 
 #include <QFile>
 #include <QJSEngine>
@@ -32,25 +33,6 @@ const QByteArray headers =
 const QByteArray cameraLine =
     "Encoder,IPC,General,IpAddress,东门,192.168.1.10,37777,,127.0.0.1,admin,secret1,"
     "B-2230-IR,02:1a:c5:00:00:01,S1,2.840.1,255.255.255.0,192.168.1.1,INITIALIZED,\n";
-
-sdk::demo::SceneDevice device(const QString &mac, const QString &address, const QString &type)
-{
-    sdk::demo::SceneDevice made;
-    made.mac = mac;
-    made.address = address;
-    made.mask = QStringLiteral("255.255.255.0");
-    made.gateway = QStringLiteral("192.168.1.1");
-    made.port = 37777;
-    made.httpPort = 8080;
-    made.name = QStringLiteral("东门");
-    made.type = type;
-    made.model = QStringLiteral("B-2230-IR");
-    made.version = QStringLiteral("2.840.1");
-    made.serial = QStringLiteral("S1");
-    made.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
-    made.latency = 1ms;
-    return made;
-}
 
 } // namespace
 
@@ -119,9 +101,10 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         sdk::demo::Scene scene;
-        scene.devices = {device(camera, "192.168.1.10", "IPC"), device(plateCamera, "192.168.1.11", "ITC"),
-                         device(videoWall, "192.168.1.12", "Matrix"), device(remote, "10.9.9.9", "NVR"),
-                         device(newCamera, "192.168.1.13", "IPC")};
+        scene.devices = {
+            sceneDevice(camera, "192.168.1.10", "IPC"), sceneDevice(plateCamera, "192.168.1.11", "ITC"),
+            sceneDevice(videoWall, "192.168.1.12", "Matrix"), sceneDevice(remote, "10.9.9.9", "NVR"),
+            sceneDevice(newCamera, "192.168.1.13", "IPC")};
         scene.devices[3].isRemote = true;
         scene.devices[3].p2pId = remoteId;
         scene.devices[3].port = 8800;

@@ -6,6 +6,7 @@
 #include "sdk/demo/steppableclock.h"
 #include "sdk/netlibrary.h"
 #include "tests/device/dh/flowingclock.h"
+#include "tests/device/dh/scenedevices.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -20,18 +21,6 @@ const QString recorderMac = u"02:1a:c5:00:00:02"_s;
 const QString camera = u"192.168.1.10:37777"_s;
 const QString recorder = u"192.168.1.11:37777"_s;
 const QString absent = u"192.168.1.99:37777"_s;
-
-sdk::demo::SceneDevice device(const QString &mac, const QString &address)
-{
-    sdk::demo::SceneDevice made;
-    made.mac = mac;
-    made.address = address;
-    made.port = 37777;
-    made.type = u"IPC"_s;
-    made.accounts = {{u"admin"_s, u"secret1"_s}};
-    made.latency = 20ms;
-    return made;
-}
 
 QVariantMap daylightSaving()
 {
@@ -122,7 +111,7 @@ private Q_SLOTS:
     void init()
     {
         sdk::demo::Scene scene;
-        scene.devices = {device(cameraMac, "192.168.1.10"), device(recorderMac, "192.168.1.11")};
+        scene.devices = {sceneDevice(cameraMac, "192.168.1.10"), sceneDevice(recorderMac, "192.168.1.11")};
         m_clock = std::make_shared<sdk::demo::SteppableClock>();
         m_site = sdk::demo::DemoSite::create(scene, m_clock);
         m_store = std::make_shared<DeviceStore>(m_clock);
@@ -333,7 +322,8 @@ private Q_SLOTS:
         row("half a time", "setTimeByManual", {{"time", "2024-01-01"}});
         row("no such day", "setTimeByManual", {{"time", "2023-02-29 00:00:00"}});
         row("time is a list", "setTimeByPC", {{"time", QVariantList{1, 2}}});
-        for (const QString &key : daylightSaving().keys()) {
+        const QStringList savingKeys = daylightSaving().keys();
+        for (const QString &key : savingKeys) {
             if (key != "startDay" && key != "endDay")
                 row(qPrintable("no " + key), "dstConfig", without(daylightSaving(), key));
         }
@@ -344,7 +334,8 @@ private Q_SLOTS:
         row("hour 24", "dstConfig", with(daylightSaving(), "endTime", "24:00"));
         row("third mode", "dstConfig", with(daylightSaving(), "dstMode", 2));
         row("day 32", "dstConfig", with(with(daylightSaving(), "dstMode", 0), "startDay", 31));
-        for (const QString &key : ntp().keys())
+        const QStringList ntpKeys = ntp().keys();
+        for (const QString &key : ntpKeys)
             row(qPrintable("no " + key), "ntpConfig", without(ntp(), key));
         row("port 65536", "ntpConfig", with(ntp(), "ntpPort", 65536));
         row("port -1", "ntpConfig", with(ntp(), "ntpPort", "-1"));
