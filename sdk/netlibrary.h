@@ -7,6 +7,7 @@
 #include "sdk/loginblocks.h"
 #include "sdk/neterror.h"
 #include "sdk/searchblocks.h"
+#include "sdk/streamblocks.h"
 #include "sdk/systemblocks.h"
 
 #include <chrono>
@@ -142,6 +143,34 @@ public:
     /// Changes the password of an account. The session goes on.
     virtual bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
                                    std::chrono::milliseconds wait) = 0;
+
+    // Live streams
+
+    /// Asks for a live stream of a channel (from 0). `window` is where to show it: always 0. Blocks until the
+    /// device has answered, up to 5 s. Returns the handle of the stream, 0 when the device refuses, is away,
+    /// or `loginHandle` is no session. A session that ends takes its streams along.
+    virtual std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel,
+                                            std::uintptr_t window, LiveStreamKind kind) = 0;
+
+    /// Sets or, by null, removes what gets the stream's data, on a thread of the library, from the stream's
+    /// beginning on when it is the first. After it has returned, the handler that was set before runs no
+    /// more; so it must not be called from one. `flag` is 1 for the stream as the device sends it. Returns
+    /// false for a handle that is no stream.
+    virtual bool NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
+                                        std::uint32_t flag) = 0;
+
+    /// Tells the device that its stream is watched from here on: it begins anew with a picture that needs no
+    /// earlier one. `reserved` is 0.
+    virtual bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel,
+                                   std::uint32_t reserved) = 0;
+
+    /// Ends a stream. Its handler runs no more after it has returned; so it must not be called from one.
+    /// Returns false for a handle that is no stream.
+    virtual bool NetStopRealStream(std::int64_t streamHandle) = 0;
+
+    /// Asks which channels of the device have a camera. Waits and fails as NetQueryCapabilities() does.
+    virtual bool NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,
+                                       std::chrono::milliseconds wait) = 0;
 };
 
 } // namespace sdk

@@ -92,6 +92,16 @@ public:
     bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
                            std::chrono::milliseconds wait) override;
 
+    // Live streams
+    std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel, std::uintptr_t window,
+                                    LiveStreamKind kind) override;
+    bool NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
+                                std::uint32_t flag) override;
+    bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel, std::uint32_t reserved) override;
+    bool NetStopRealStream(std::int64_t streamHandle) override;
+    bool NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,
+                               std::chrono::milliseconds wait) override;
+
 private:
     /// How long an address search goes on.
     enum class SearchEnd
