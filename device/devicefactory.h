@@ -35,7 +35,9 @@ public:
     };
     static void registerP2PAgent(const P2PAgent &agent);
 
-    /// The process-wide factory, created on first use with the registered families. Main thread only.
+    /// The process-wide factory, created on first use with the registered families, on the main thread. Once
+    /// it is there, other threads may ask for it too, to read what a back end gives to any thread; they have
+    /// ended before deleteInstance().
     static CDeviceFactory *getinstance();
 
     /// Deletes the process-wide factory with its back ends and forgets the registered families.

@@ -9,6 +9,7 @@
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -94,6 +95,7 @@ public:
     // The configuration pages, of the current session's device: devicedhencode.cpp
     void getEncodeCaps() override;
     void getEncodeInfo() override;
+    /// The key "loginHandle", the current session's handle or 0, may be read on any thread.
     QVariant getConfigData(const QString &key, const QVariant &channel) override;
     /// `otype` is the sub-key of a value of the camera image page.
     void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
@@ -144,6 +146,7 @@ private:
     const std::function<SearchSettings()> m_searchSettings;
     std::unique_ptr<DeviceSearch> m_search;
     Session m_session;
+    std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
     KeptLogins m_keptLogins;
     ChannelChoice m_channels; ///< of the session's device
     std::unique_ptr<EncodeConfig> m_encode;

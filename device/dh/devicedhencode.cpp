@@ -24,6 +24,8 @@ void CDeviceDH::getEncodeInfo()
 
 QVariant CDeviceDH::getConfigData(const QString &key, const QVariant & /*channel*/)
 {
+    if (key == QLatin1String("loginHandle"))
+        return QVariant::fromValue<qint64>(m_loginHandle);
     if (ChannelChoice::isKey(key))
         return m_channels.value(key);
     if (EncodeValues::isKey(key))

@@ -17,6 +17,7 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
                      .ipport = ipport,
                      .account = account,
                      .password = password};
+        m_loginHandle = login.handle;
         m_channels.channelCount = login.channelCount;
         const ConfigSession session(m_libraries, login.handle);
         m_encode->begin(session);
@@ -28,6 +29,7 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
 
 void CDeviceDH::endSession()
 {
+    m_loginHandle = 0;
     if (m_session.handle != 0 && m_libraries.net)
         m_libraries.net->NetLogout(m_session.handle);
     m_session = {};
