@@ -2873,6 +2873,13 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>VideoItem</name>
+    <message>
+        <source>播放失败</source>
+        <translation>Playback failed</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>已复制到剪贴板</source>

@@ -2849,6 +2849,13 @@
     </message>
 </context>
 <context>
+    <name>VideoItem</name>
+    <message>
+        <source>播放失败</source>
+        <translation>播放失败</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>已复制到剪贴板</source>

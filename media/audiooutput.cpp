@@ -1,0 +1,108 @@
+#include "media/audiooutput.h"
+
+#include "media/logging.h"
+
+#include <QAudioDevice>
+#include <QAudioFormat>
+#include <QAudioSink>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QIODevice>
+#include <QMediaDevices>
+#include <QThread>
+#include <QTimer>
+
+#include <cstring>
+
+namespace {
+
+constexpr std::int32_t highestSampleRate = 384000; // beyond, it is no sound
+constexpr qint64 letGoTime = 200;                  // milliseconds
+
+QElapsedTimer lastClosed; ///< valid when an output was closed; main thread only
+
+} // namespace
+
+AudioOutput::AudioOutput(QObject *owner, const std::function<void()> &outputsChanged)
+    : m_owner(owner), m_buffer(std::make_unique<std::uint8_t[]>(bufferSize))
+{
+    if (QCoreApplication::instance() && QThread::currentThread() == QCoreApplication::instance()->thread()) {
+        m_devices = std::make_unique<QMediaDevices>();
+        QObject::connect(m_devices.get(), &QMediaDevices::audioOutputsChanged, owner, outputsChanged);
+    }
+}
+
+AudioOutput::~AudioOutput()
+{
+    close();
+}
+
+void AudioOutput::push(const std::uint8_t *data, std::int32_t size, const std::function<void()> &pushed)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (data && size >= 0 && std::int64_t(m_fill) + size < bufferSize) {
+        std::memcpy(m_buffer.get() + m_fill, data, static_cast<std::size_t>(size));
+        m_fill += size;
+    } else {
+        qCDebug(logMedia) << "Error RealplayManager::pushToAudioBuffer m_audioBufferCurSize + size >= "
+                             "MAX_AUDIO_BUFFER_SIZE";
+    }
+    pushed();
+}
+
+void AudioOutput::drain()
+{
+    const QMutexLocker lock(&m_mutex);
+    if (m_sink && m_device && m_fill > 0) {
+        if (m_sink->bytesFree() < m_fill)
+            qCDebug(logMedia)
+                << "RealplayManager::onSlotAudioFrameUpdate m_audioSink->bytesFree() < m_audioBufferCurSize";
+        m_device->write(reinterpret_cast<const char *>(m_buffer.get()), m_fill);
+    }
+    m_fill = 0;
+}
+
+void AudioOutput::reopen()
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_fill = 0;
+    }
+    QAudioFormat format;
+    format.setSampleFormat(QAudioFormat::Int16);
+    format.setChannelCount(1);
+    format.setSampleRate(m_sampleRate);
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    close();
+    // The outputs may change before the first sound has told its rate.
+    if (device.isNull() || format.sampleRate() <= 0 || format.sampleRate() > highestSampleRate)
+        return;
+    m_sink = std::make_unique<QAudioSink>(device, format, m_owner);
+    m_device = m_sink->start();
+}
+
+std::int32_t AudioOutput::fill() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_fill;
+}
+
+void AudioOutput::letGo()
+{
+    if (!lastClosed.isValid() || lastClosed.hasExpired(letGoTime))
+        return;
+    QEventLoop loop;
+    QTimer::singleShot(static_cast<int>(letGoTime - lastClosed.elapsed()), &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void AudioOutput::close()
+{
+    if (!m_sink)
+        return;
+    m_sink->stop();
+    m_sink.reset();
+    m_device = nullptr;
+    lastClosed.start();
+}

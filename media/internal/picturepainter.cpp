@@ -1,0 +1,183 @@
+#include "media/internal/picturepainter.h"
+
+#include "media/logging.h"
+
+#include <QOpenGLContext>
+
+#include <array>
+
+namespace {
+
+// Names that may be missing in the headers of an ES system.
+constexpr int redFormat8 = 0x8229;     // GL_R8
+constexpr unsigned redFormat = 0x1903; // GL_RED
+constexpr int usualUnpackAlignment = 4;
+
+/// Whether textures of one channel are there under their newer name. The older one is missing where the newer
+/// is the rule.
+bool hasRedTextures(const QOpenGLContext &context)
+{
+    return context.format().majorVersion() >= 3 ||
+           context.hasExtension(context.isOpenGLES() ? "GL_EXT_texture_rg" : "GL_ARB_texture_rg");
+}
+
+struct Corner
+{
+    std::array<float, 2> position; ///< y upward
+    std::array<float, 2> texture;  ///< y downward, as the lines of a picture
+};
+
+constexpr std::array<Corner, 4> corners = {{
+    {.position = {-1, -1}, .texture = {0, 1}},
+    {.position = {1, -1}, .texture = {1, 1}},
+    {.position = {-1, 1}, .texture = {0, 0}},
+    {.position = {1, 1}, .texture = {1, 0}},
+}};
+
+} // namespace
+
+PicturePainter::~PicturePainter()
+{
+    if (m_hasBegun)
+        deleteTextures();
+}
+
+void PicturePainter::begin()
+{
+    if (m_hasBegun)
+        return;
+    m_hasBegun = true;
+    initializeOpenGLFunctions();
+    const bool red = hasRedTextures(*QOpenGLContext::currentContext());
+    m_internalFormat = red ? redFormat8 : GL_LUMINANCE;
+    m_format = red ? redFormat : GL_LUMINANCE;
+    if (red && QOpenGLContext::currentContext()->isOpenGLES() &&
+        QOpenGLContext::currentContext()->format().majorVersion() < 3) {
+        m_internalFormat = static_cast<int>(redFormat); // sized ones came later
+    }
+    buildProgram();
+    buildSquare();
+}
+
+void PicturePainter::buildProgram()
+{
+    const bool hasVertexShader =
+        m_program.addShaderFromSourceFile(QOpenGLShader::Vertex, QStringLiteral("./Shaders/vertex.vsh"));
+    if (!hasVertexShader)
+        qCWarning(logMedia) << " add vertex shader file failed.";
+    const bool hasFragmentShader =
+        m_program.addShaderFromSourceFile(QOpenGLShader::Fragment, QStringLiteral("./Shaders/fragment.fsh"));
+    if (!hasFragmentShader)
+        qCWarning(logMedia) << " add fragment shader file failed.";
+    if (!hasVertexShader || !hasFragmentShader)
+        return;
+    m_canDraw = m_program.link();
+    if (!m_canDraw)
+        qCWarning(logMedia) << "The shaders do not go together:" << m_program.log();
+}
+
+void PicturePainter::buildSquare()
+{
+    m_vertexArray.create(); // where there is none, the states below are set for each drawing
+    m_square.create();
+    m_square.bind();
+    m_square.allocate(corners.data(), sizeof(corners));
+    m_square.release();
+}
+
+bool PicturePainter::setPictureSize(const QSize &size)
+{
+    begin();
+    deleteTextures();
+    m_size = {};
+    GLint longestSide = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &longestSide);
+    if (size.width() > longestSide || size.height() > longestSide) {
+        qCWarning(logMedia) << "The graphics driver cannot show pictures of" << size;
+        return false;
+    }
+    m_size = size;
+    const QSize chroma((size.width() + 1) / 2, (size.height() + 1) / 2);
+    const std::array<QSize, 3> planes = {size, chroma, chroma};
+    glGenTextures(static_cast<GLsizei>(m_textures.size()), m_textures.data());
+    for (std::size_t plane = 0; plane < planes.size(); ++plane) {
+        glBindTexture(GL_TEXTURE_2D, m_textures.at(plane));
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+        glTexImage2D(GL_TEXTURE_2D, 0, m_internalFormat, planes.at(plane).width(), planes.at(plane).height(),
+                     0, m_format, GL_UNSIGNED_BYTE, nullptr);
+    }
+    return true;
+}
+
+void PicturePainter::upload(const DecodedPicture &picture)
+{
+    m_colour = picture.colour;
+    const std::array<const std::uint8_t *, 3> planes = {picture.y(), picture.u(), picture.v()};
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    for (std::size_t plane = 0; plane < planes.size(); ++plane) {
+        const bool isLuma = plane == 0;
+        glBindTexture(GL_TEXTURE_2D, m_textures.at(plane));
+        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, isLuma ? picture.width : picture.chromaWidth(),
+                        isLuma ? picture.height : picture.chromaHeight(), m_format, GL_UNSIGNED_BYTE,
+                        planes.at(plane));
+    }
+    glPixelStorei(GL_UNPACK_ALIGNMENT, usualUnpackAlignment);
+}
+
+void PicturePainter::clear(const QSize &view)
+{
+    begin();
+    glViewport(0, 0, view.width(), view.height());
+    glDisable(GL_BLEND);
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_SCISSOR_TEST);
+    glDisable(GL_STENCIL_TEST);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    glClearColor(0, 0, 0, 0);
+    glClear(GL_COLOR_BUFFER_BIT);
+}
+
+void PicturePainter::draw(const ViewMatrices &matrices)
+{
+    if (!m_canDraw)
+        return;
+    m_program.bind();
+    m_program.setUniformValue("u_modelMatrix", matrices.model);
+    m_program.setUniformValue("u_viewMatrix", QMatrix4x4());
+    m_program.setUniformValue("u_projectMatrix", matrices.project);
+    m_program.setUniformValue("pixFmt", static_cast<int>(m_colour));
+    // Of an odd number of pixels, the last sample of U and V belongs to one instead of two.
+    m_program.setUniformValue("chromaPart",
+                              static_cast<float>(m_size.width()) / ((m_size.width() + 1) / 2 * 2),
+                              static_cast<float>(m_size.height()) / ((m_size.height() + 1) / 2 * 2));
+    constexpr std::array<const char *, 3> samplers = {"tex_y", "tex_u", "tex_v"};
+    for (std::size_t plane = 0; plane < samplers.size(); ++plane) {
+        glActiveTexture(GL_TEXTURE0 + static_cast<unsigned>(plane));
+        glBindTexture(GL_TEXTURE_2D, m_textures.at(plane));
+        m_program.setUniformValue(samplers.at(plane), static_cast<int>(plane));
+    }
+
+    const QOpenGLVertexArrayObject::Binder vertexArray(&m_vertexArray);
+    m_square.bind();
+    for (const char *name : {"qt_Vertex", "texCoord"}) {
+        const std::size_t offset =
+            qstrcmp(name, "texCoord") == 0 ? offsetof(Corner, texture) : offsetof(Corner, position);
+        m_program.enableAttributeArray(name);
+        m_program.setAttributeBuffer(name, GL_FLOAT, static_cast<int>(offset), 2, sizeof(Corner));
+    }
+    glDrawArrays(GL_TRIANGLE_STRIP, 0, static_cast<GLsizei>(corners.size()));
+    m_square.release();
+    m_program.release();
+    glActiveTexture(GL_TEXTURE0);
+}
+
+void PicturePainter::deleteTextures()
+{
+    if (m_textures.front() != 0)
+        glDeleteTextures(static_cast<GLsizei>(m_textures.size()), m_textures.data());
+    m_textures = {};
+}

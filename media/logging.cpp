@@ -1,0 +1,3 @@
+#include "media/logging.h"
+
+Q_LOGGING_CATEGORY(logMedia, "configtools.media")

@@ -1,0 +1,17 @@
+attribute vec4 qt_Vertex;
+attribute vec2 texCoord;
+
+uniform mat4 u_modelMatrix;   // zoom and pan
+uniform mat4 u_viewMatrix;
+uniform mat4 u_projectMatrix; // the picture's shape in the view
+uniform vec2 chromaPart;      // what the picture covers of the samples of U and V
+
+varying vec2 lumaPoint;
+varying vec2 chromaPoint;
+
+void main()
+{
+    lumaPoint = texCoord;
+    chromaPoint = texCoord * chromaPart;
+    gl_Position = u_projectMatrix * u_viewMatrix * u_modelMatrix * qt_Vertex;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+/// What was added during the last second, to a tenth of one. For one thread at a time.
+class SlidingSum
+{
+public:
+    /// `now` in milliseconds, from any starting point.
+    void add(std::int64_t now, std::int64_t amount)
+    {
+        const std::int64_t tenth = now / tenthOfSecond;
+        Slot &slot = m_slots.at(indexOf(tenth));
+        if (slot.tenth != tenth)
+            slot = {.tenth = tenth, .amount = 0};
+        slot.amount += amount;
+    }
+
+    /// Of the ten tenths before the one that `now` is in.
+    [[nodiscard]] std::int64_t sum(std::int64_t now) const
+    {
+        const std::int64_t current = now / tenthOfSecond;
+        std::int64_t sum = 0;
+        for (const Slot &slot : m_slots) {
+            if (slot.tenth >= current - 10 && slot.tenth < current)
+                sum += slot.amount;
+        }
+        return sum;
+    }
+
+private:
+    static constexpr std::int64_t tenthOfSecond = 100; // milliseconds
+
+    struct Slot
+    {
+        std::int64_t tenth = -1000;
+        std::int64_t amount = 0;
+    };
+
+    [[nodiscard]] static std::size_t indexOf(std::int64_t tenth)
+    {
+        return static_cast<std::size_t>(static_cast<std::uint64_t>(tenth) % 11);
+    }
+
+    std::array<Slot, 11> m_slots; // the tenth that is being filled, and ten before it
+};

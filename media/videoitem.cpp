@@ -1,0 +1,311 @@
+#include "media/videoitem.h"
+
+#include "device/devicefactory.h"
+#include "media/dhdecoder.h"
+#include "media/itemrender.h"
+#include "media/logging.h"
+#include "sdk/clock.h"
+#include "sdk/netlibrary.h"
+
+#include <vector>
+
+namespace {
+
+constexpr std::uint32_t streamAsSent = 1; // flag of NetSetRealDataCallback
+
+sdk::SdkLibraries &registeredLibraries()
+{
+    static sdk::SdkLibraries libraries;
+    return libraries;
+}
+
+/// What an item works with; its clock is never null.
+sdk::SdkLibraries itemLibraries()
+{
+    sdk::SdkLibraries libraries = registeredLibraries();
+    if (!libraries.clock)
+        libraries.clock = std::make_shared<sdk::SystemClock>();
+    return libraries;
+}
+
+} // namespace
+
+void VideoItem::registerLibraries(const sdk::SdkLibraries &libraries)
+{
+    registeredLibraries() = libraries;
+}
+
+VideoItem::VideoItem(QQuickItem *parent)
+    : QQuickFramebufferObject(parent), m_libraries(itemLibraries()),
+      m_decoder(std::make_shared<CDHDecoder>(this, m_libraries.decoder, m_libraries.clock)),
+      m_audio(this, [this] { onAudioFormatChanged(); })
+{
+    connect(this, &QQuickItem::widthChanged, this, &VideoItem::onSizeChanged);
+    connect(this, &QQuickItem::heightChanged, this, &VideoItem::onSizeChanged);
+    // Queued also for an item that gets its sound on its own thread: it is emitted with the buffer locked.
+    connect(this, &VideoItem::sigAudioDataChanged, this, &VideoItem::onSigAudioDataChanged,
+            Qt::QueuedConnection);
+    connect(this, &VideoItem::sigSampleRateChanged, this, &VideoItem::onAudioFormatChanged);
+    m_watchTimer.setInterval(watchInterval);
+    connect(&m_watchTimer, &QTimer::timeout, this, &VideoItem::watch);
+}
+
+VideoItem::~VideoItem()
+{
+    disconnect(m_repaint);
+    closeStream();
+}
+
+bool VideoItem::start()
+{
+    qCDebug(logMedia) << "VideoItem::start()";
+    if (m_streamHandle != 0)
+        stop();
+    if (!open())
+        return false;
+    m_repaint = connect(this, &VideoItem::sigVideoDataChanged, this, &VideoItem::onSigVideoDataChanged);
+    m_watchTimer.start();
+    setIsStreaming(true);
+    update(); // a picture may have come before the connection
+    return true;
+}
+
+bool VideoItem::open()
+{
+    CDeviceFactory *factory = CDeviceFactory::getinstance();
+    if (!factory) {
+        qCDebug(logMedia) << "CDeviceFactory::getinstance() fail";
+        return false;
+    }
+    const qint64 loginHandle =
+        factory->getConfigData(QStringLiteral("dh"), QStringLiteral("loginHandle")).toLongLong();
+    if (loginHandle != m_loginHandle) {
+        m_loginHandle = loginHandle;
+        Q_EMIT isLoginHandleChanged();
+    }
+    qCDebug(logMedia) << "m_loginHandle" << m_loginHandle;
+
+    m_watch.begin(m_libraries.clock->now());
+    m_decoder->Start(); // without it the stream runs all the same, and its data are dropped
+    const bool hasLibraries = m_libraries.net && m_libraries.decoder;
+    m_streamHandle = hasLibraries
+                         ? m_libraries.net->NetStartRealStream(m_loginHandle, m_channelId, 0,
+                                                               static_cast<sdk::LiveStreamKind>(m_streamKind))
+                         : 0;
+    qCDebug(logMedia) << "m_lRealHandle" << m_streamHandle;
+    if (m_streamHandle == 0)
+        return failToOpen("open stream fail");
+
+    qCDebug(logMedia) << "lRealHandle" << m_streamHandle;
+    if (!m_libraries.net->NetSetRealDataCallback(m_streamHandle, &CDHDecoder::realDataCallback,
+                                                 m_decoder.get(), streamAsSent)) {
+        return failToOpen("open failed"); // the next stop() closes the stream
+    }
+    setText(QString());
+    m_libraries.net->NetStreamFollowUp(m_streamHandle, m_channelId, 0);
+    return true;
+}
+
+bool VideoItem::failToOpen(const char *reason)
+{
+    m_decoder->Stop();
+    setText(tr("播放失败"));
+    qCDebug(logMedia) << reason;
+    return false;
+}
+
+void VideoItem::stop()
+{
+    disconnect(m_repaint);
+    closeStream();
+    setIsStreaming(false);
+    tellPictureSize();
+    update();
+}
+
+void VideoItem::closeStream()
+{
+    qCDebug(logMedia) << "VideoItem::stop()";
+    m_watchTimer.stop();
+    m_picture.clearSize();
+    if (m_streamHandle != 0) {
+        m_libraries.net->NetSetRealDataCallback(m_streamHandle, nullptr, nullptr, streamAsSent);
+        m_libraries.net->NetStopRealStream(m_streamHandle);
+    }
+    m_decoder->Stop();
+    m_streamHandle = 0;
+    m_picture.forget(); // a last one may have come meanwhile; the port's pictures have ended
+}
+
+void VideoItem::onDecodedFrame(const std::uint8_t *data, std::int32_t size, std::int32_t width,
+                               std::int32_t height, sdk::DecodedFrameType type, std::int32_t rate,
+                               std::int32_t /*reserved*/)
+{
+    switch (type) {
+    case sdk::DecodedFrameType::Picture:
+        m_watch.notePicture(m_libraries.clock->now());
+        m_picture.set(data, size, width, height, m_decoder->pictureColour());
+        Q_EMIT sigVideoDataChanged();
+        return;
+    case sdk::DecodedFrameType::Sound:
+        if (!m_isAudioOutput)
+            return;
+        if (m_audio.noteSampleRate(rate))
+            Q_EMIT sigSampleRateChanged();
+        m_audio.push(data, size, [this] { Q_EMIT sigAudioDataChanged(); });
+        return;
+    }
+}
+
+void VideoItem::onSigVideoDataChanged()
+{
+    tellPictureSize();
+    update();
+}
+
+void VideoItem::onSizeChanged()
+{
+    zoom({width() / 2, height() / 2}, 0);
+}
+
+void VideoItem::onSigAudioDataChanged()
+{
+    m_audio.drain();
+}
+
+void VideoItem::onAudioFormatChanged()
+{
+    m_audio.reopen();
+}
+
+void VideoItem::changeScale(double facotr, QPointF center)
+{
+    zoom(center, facotr);
+}
+
+void VideoItem::drag(double deltx, double delty)
+{
+    m_geometry.drag(deltx, delty, size());
+    update();
+}
+
+void VideoItem::zoom(const QPointF &anchor, double steps)
+{
+    const int oldLevel = m_geometry.level();
+    if (steps == 0)
+        m_geometry.zoomTo(oldLevel, anchor, size());
+    else
+        m_geometry.zoomBy(steps, anchor, size());
+    if (m_geometry.level() != oldLevel)
+        Q_EMIT zoomLevelChanged();
+    update();
+}
+
+void VideoItem::watch()
+{
+    if (m_watch.isOverdue(m_libraries.clock->now()))
+        Q_EMIT videoErrorSig();
+}
+
+QVariantMap VideoItem::figures() const
+{
+    const StreamFigures figures = m_decoder->figures();
+    return {
+        {QStringLiteral("width"), std::max(m_pictureSize.width(), 0)},
+        {QStringLiteral("height"), std::max(m_pictureSize.height(), 0)},
+        {QStringLiteral("codec"), figures.videoCodec},
+        {QStringLiteral("audioCodec"), figures.audioCodec},
+        {QStringLiteral("rate"), figures.picturesASecond},
+        {QStringLiteral("bitRate"), figures.kilobitsASecond},
+        {QStringLiteral("waiting"), figures.waitingBytes},
+        {QStringLiteral("damages"), figures.damages},
+    };
+}
+
+bool VideoItem::savePicture(const QString &path, int quality)
+{
+    // A copy: the decoder must not wait for a file, and the library is not called with the picture locked.
+    std::vector<std::uint8_t> bytes;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    m_picture.lookAt([&](const DecodedPicture &picture) {
+        if (!picture.isWhole())
+            return;
+        bytes.assign(picture.data, picture.data + picture.size);
+        width = picture.width;
+        height = picture.height;
+    });
+    return m_libraries.decoder && m_libraries.decoder->DecoderSaveFrame(
+                                      bytes.empty() ? nullptr : bytes.data(), width, height,
+                                      sdk::SavedPictureType::Jpeg, quality, path.toLocal8Bit().constData());
+}
+
+void VideoItem::tellPictureSize()
+{
+    const QSize size =
+        m_picture.lookAt([](const DecodedPicture &picture) { return QSize(picture.width, picture.height); });
+    if (size == m_pictureSize)
+        return;
+    m_pictureSize = size;
+    Q_EMIT videoInfoChangedSig();
+}
+
+void VideoItem::setIsAudioOutput(bool isAudioOutput)
+{
+    if (m_isAudioOutput.exchange(isAudioOutput) != isAudioOutput)
+        Q_EMIT isAudioOutputChanged();
+}
+
+void VideoItem::setFillMode(FillModeType fillMode)
+{
+    if (m_fillMode == fillMode)
+        return;
+    m_fillMode = fillMode;
+    Q_EMIT fillModeChanged();
+    update();
+}
+
+void VideoItem::setChannelId(int channelId)
+{
+    if (m_channelId == channelId)
+        return;
+    m_channelId = channelId;
+    Q_EMIT channelIdChanged();
+}
+
+void VideoItem::setUrl(const QString &url)
+{
+    if (m_url == url)
+        return;
+    m_url = url;
+    Q_EMIT urlChanged();
+}
+
+void VideoItem::setStreamKind(StreamKind streamKind)
+{
+    if (m_streamKind == streamKind)
+        return;
+    m_streamKind = streamKind;
+    Q_EMIT streamKindChanged();
+}
+
+void VideoItem::setText(const QString &text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    Q_EMIT textChanged();
+}
+
+void VideoItem::setIsStreaming(bool isStreaming)
+{
+    if (m_isStreaming == isStreaming)
+        return;
+    m_isStreaming = isStreaming;
+    Q_EMIT isStreamingChanged();
+}
+
+VideoItem::Renderer *VideoItem::createRenderer() const
+{
+    return new ItemRender;
+}
