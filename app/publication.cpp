@@ -4,6 +4,7 @@
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
 #include "device/devicefactory.h"
+#include "media/videoitem.h"
 #include "qml/configtools/datetimevalidator.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@
 void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
 {
     qmlRegisterType<DateTimeValidator>("DateTimeValidator", 1, 0, "DateTimeValidator");
+    qmlRegisterType<VideoItem>("VideoItem", 1, 0, "VideoItem");
 
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();

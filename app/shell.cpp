@@ -11,6 +11,8 @@
 #include "device/deviceol.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "media/audiooutput.h"
+#include "media/videoitem.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 
@@ -52,8 +54,10 @@ Shell::~Shell()
     // The scene's windows go first: their bindings must not see the objects vanish that they read.
     if (m_engine)
         qDeleteAll(m_engine->rootObjects());
+    AudioOutput::letGo();
     CLocalConfig::deleteInstance();
     CDeviceFactory::deleteInstance();
+    VideoItem::registerLibraries({});
 }
 
 std::optional<int> Shell::begin()
@@ -70,6 +74,7 @@ std::optional<int> Shell::begin()
     if (!chooseLibraries())
         return sceneFailed;
     registerBackEnds();
+    VideoItem::registerLibraries(m_libraries);
     loadScene();
     return std::nullopt;
 }

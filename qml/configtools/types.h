@@ -14,6 +14,7 @@
 #include "device/treerows.h"
 #include "favourites/author.h"
 #include "favourites/favouritelistmodel.h"
+#include "media/videoitem.h"
 
 #include <QtQml/qqml.h>
 
@@ -108,4 +109,11 @@ struct EncodeFormForeign
     Q_GADGET
     QML_FOREIGN(EncodeForm)
     QML_NAMED_ELEMENT(EncodeForm)
+};
+
+struct VideoItemForeign
+{
+    Q_GADGET
+    QML_FOREIGN(VideoItem)
+    QML_NAMED_ELEMENT(VideoItem)
 };

@@ -37,7 +37,7 @@ const std::vector<Folder> &folders()
         {"favourites", {}},
         {"device/dh", {"device", "media", "sdk", "sheets"}},
         {"cgi", {"device", "sdk"}},
-        {"qml/configtools", {"device", "favourites"}},
+        {"qml/configtools", {"device", "favourites", "media"}},
         {"documents", {}},
         {"app", {"*"}},
         {"tests", {"*"}},
