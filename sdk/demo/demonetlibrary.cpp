@@ -56,7 +56,7 @@ bool DemoNetLibrary::NetInit()
 void DemoNetLibrary::NetCleanup()
 {
     record("NetCleanup");
-    if (AnswerDelivery::isInsideHandler()) {
+    if (AnswerDelivery::isInsideHandler() || LiveStream::isInsideHandler()) {
         qCWarning(demoLog, "NetCleanup was called from a handler and would wait for itself: ignored");
         m_error.fail(DemoError::InsideHandler);
         return;
@@ -68,6 +68,7 @@ void DemoNetLibrary::endEverything()
 {
     m_gate.close();
     m_sessions.closeAll();
+    m_streams.closeAll();
     std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches; // end without the lock
     const std::lock_guard lock(m_mutex);
     searches.swap(m_searches);

@@ -5,6 +5,7 @@
 #include "sdk/demo/internal/callgate.h"
 #include "sdk/demo/internal/demosessions.h"
 #include "sdk/demo/internal/devicelogin.h"
+#include "sdk/demo/internal/livestreams.h"
 #include "sdk/demo/internal/threaderror.h"
 #include "sdk/netlibrary.h"
 
@@ -27,7 +28,7 @@ public:
     static constexpr std::chrono::milliseconds connectTime{3000};
 
     /// `site` must outlive the library.
-    explicit DemoNetLibrary(DemoSite &site) : m_site(site) {}
+    explicit DemoNetLibrary(DemoSite &site) : m_site(site), m_streams(site, m_sessions) {}
 
     [[nodiscard]] DemoSite &site() const { return m_site; }
     ~DemoNetLibrary() override;
@@ -92,7 +93,7 @@ public:
     bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
                            std::chrono::milliseconds wait) override;
 
-    // Live streams
+    // Live streams: demonetstreams.cpp
     std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel, std::uintptr_t window,
                                     LiveStreamKind kind) override;
     bool NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
@@ -120,6 +121,7 @@ private:
     };
 
     void record(const char *operation, const QJsonObject &request = {}, const QString &mac = {}) const;
+    void recordOfStream(const char *operation, std::int64_t streamHandle, QJsonObject request) const;
     [[nodiscard]] static std::chrono::milliseconds bounded(std::chrono::milliseconds wait);
 
     std::int64_t startLocalSearch(SearchKind kind, AnswerReceiver receiver);
@@ -163,6 +165,7 @@ private:
     std::mutex m_mutex;
     std::int64_t m_lastSearchHandle = 0;
     std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> m_searches;
+    LiveStreams m_streams;
 };
 
 } // namespace sdk::demo

@@ -74,7 +74,12 @@ bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
     record("NetLogout", {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)}}, mac);
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
-    return m_sessions.close(loginHandle) || m_error.fail(DemoError::UnknownHandle);
+    if (LiveStream::isInsideHandler()) // it would wait for the handler of its own stream
+        return m_error.fail(DemoError::InsideHandler);
+    if (!m_sessions.close(loginHandle))
+        return m_error.fail(DemoError::UnknownHandle);
+    m_streams.closeAllOf(loginHandle);
+    return true;
 }
 
 } // namespace sdk::demo

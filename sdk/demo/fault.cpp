@@ -42,6 +42,7 @@ constexpr std::array entries = {
     FaultEntry{Fault::OddCapabilities, "oddCapabilities", FaultValue::None},
     FaultEntry{Fault::OddConfiguration, "oddConfiguration", FaultValue::Text},
     FaultEntry{Fault::OverLongConfiguration, "overLongConfiguration", FaultValue::Text},
+    FaultEntry{Fault::RefusesChannelStates, "refusesChannelStates", FaultValue::None},
 };
 
 constexpr bool indexedByFault()
@@ -50,7 +51,7 @@ constexpr bool indexedByFault()
         if (static_cast<std::size_t>(entries[index].fault) != index)
             return false;
     }
-    return entries.back().fault == Fault::OverLongConfiguration;
+    return entries.back().fault == Fault::RefusesChannelStates;
 }
 static_assert(indexedByFault());
 

@@ -36,6 +36,7 @@ enum class Fault
     OddCapabilities,       ///< counts beyond every bound, bits that nobody knows, sizes of 0
     OddConfiguration,      ///< the configuration named `text` is no JSON
     OverLongConfiguration, ///< the configuration named `text` is larger than any buffer
+    RefusesChannelStates,  ///< does not tell which channels have a camera
 };
 
 /// What a fault needs beside its name.

@@ -1,0 +1,75 @@
+#include "sdk/demo/internal/livestream.h"
+
+#include "sdk/demo/internal/liveproduction.h"
+
+namespace sdk::demo {
+
+namespace {
+
+thread_local bool insideHandler = false;
+
+}
+
+void LiveStream::setHandler(RealDataHandler handler, void *user)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_handler && handler)
+        ++m_beginning;
+    m_handler = handler;
+    m_user = user;
+}
+
+bool LiveStream::isWatched() const
+{
+    if (m_hasEnded)
+        return false;
+    const std::lock_guard lock(m_mutex);
+    return m_handler != nullptr;
+}
+
+bool LiveStream::isInsideHandler()
+{
+    return insideHandler;
+}
+
+bool LiveStream::prepare(const LiveProduction &production)
+{
+    const bool isAsked = m_wantsKeyPicture.exchange(false);
+    std::unique_lock lock(m_mutex);
+    const std::int64_t beginning = m_beginning;
+    lock.unlock();
+    if (m_writer && m_sentBeginning == beginning)
+        return isAsked;
+    m_sentBeginning = beginning;
+    m_writer = production.openWriter();
+    return true;
+}
+
+void LiveStream::send(const EncodedPackets &packets)
+{
+    for (const AvPointer<AVPacket> &packet : packets) {
+        if (!m_writer || !m_writer->write(*packet)) {
+            beginAnew();
+            return;
+        }
+    }
+    ++m_pictures;
+    deliver(m_writer->takeBytes());
+}
+
+void LiveStream::deliver(std::span<const std::uint8_t> bytes)
+{
+    constexpr std::uint32_t streamBytes = 0; // the kind of the data
+    while (!bytes.empty()) {
+        const std::span<const std::uint8_t> piece = bytes.first(std::min(bytes.size(), largestPiece));
+        bytes = bytes.subspan(piece.size());
+        const std::lock_guard lock(m_mutex);
+        if (!m_handler || m_beginning != m_sentBeginning)
+            return;
+        insideHandler = true;
+        m_handler(m_handle, streamBytes, piece.data(), static_cast<std::uint32_t>(piece.size()), 0, m_user);
+        insideHandler = false;
+    }
+}
+
+} // namespace sdk::demo
