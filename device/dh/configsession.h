@@ -68,6 +68,12 @@ public:
         return m_net && m_net->NetQueryCapabilities(m_handle, query, &input, &output, usualWait);
     }
 
+    bool queryChannelStates(sdk::ChannelStates &states, std::chrono::milliseconds wait) const
+    {
+        states.size = sizeof(states);
+        return m_net && m_net->NetQueryChannelStates(m_handle, states, wait);
+    }
+
     /// The error of the failure before, on this thread.
     [[nodiscard]] std::uint32_t lastError() const;
 

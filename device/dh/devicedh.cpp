@@ -6,6 +6,7 @@
 #include "device/dh/encodeconfig.h"
 #include "device/logging.h"
 #include "device/loginresult.h"
+#include "media/snapthread.h"
 #include "sdk/netlibrary.h"
 
 #include <mutex>
@@ -48,6 +49,7 @@ CDeviceDH::~CDeviceDH()
             agentListener = nullptr;
     }
     m_search->requestStop();
+    m_snapshots.reset();
     endSession();
     m_keptLogins.letAllGo();
     if (m_libraries.net)

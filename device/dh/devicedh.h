@@ -16,6 +16,7 @@
 
 class CameraConfig;
 class EncodeConfig;
+class SnapThread;
 struct DeviceListLine;
 
 /// What a search reads from the local configuration.
@@ -110,6 +111,11 @@ public:
     void getVideoIn() override;
     void getVideoInByChangeChannel() override;
 
+    // Live view and snapshots: devicedhlive.cpp
+    /// Returns at once; the pictures are taken one after another on a thread of their own. `address` names
+    /// the device's folder.
+    void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override;
+
 private:
     /// The one login that configuration, live view and snapshots use.
     struct Session
@@ -131,6 +137,8 @@ private:
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
+    [[nodiscard]] QVariantList sessionChannels() const;
+    void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
     void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
 
     void performOn(const QStringList &ipports, const QString &command, const QVariantMap &data);
@@ -151,6 +159,7 @@ private:
     ChannelChoice m_channels; ///< of the session's device
     std::unique_ptr<EncodeConfig> m_encode;
     std::unique_ptr<CameraConfig> m_camera;
+    std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
     QString m_defaultAccount;
     QString m_defaultPassword;
     bool m_isImporting = false;

@@ -26,6 +26,10 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant & /*channel
 {
     if (key == QLatin1String("loginHandle"))
         return QVariant::fromValue<qint64>(m_loginHandle);
+    if (key == QLatin1String("sessionDevice"))
+        return m_session.ipport;
+    if (key == QLatin1String("liveChannels"))
+        return sessionChannels();
     if (ChannelChoice::isKey(key))
         return m_channels.value(key);
     if (EncodeValues::isKey(key))
