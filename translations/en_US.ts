@@ -272,13 +272,6 @@
     </message>
 </context>
 <context>
-    <name>ChannelPicture</name>
-    <message>
-        <source>通道的实时画面将显示在这里</source>
-        <translation>Live picture to be shown here</translation>
-    </message>
-</context>
-<context>
     <name>ConfigCopy</name>
     <message numerus="yes">
         <source>%n 台设备已复制</source>
@@ -319,6 +312,10 @@
     <message>
         <source>获取设备能力失败</source>
         <translation>The device’s capabilities could not be read</translation>
+    </message>
+    <message>
+        <source>设备已重新登录，尚未保存的修改已丢失</source>
+        <translation>The device was logged in to anew; changes that were not saved are lost</translation>
     </message>
 </context>
 <context>
@@ -514,6 +511,10 @@
     <message>
         <source>登录失败：%1</source>
         <translation>Login failed: %1</translation>
+    </message>
+    <message>
+        <source>未登录</source>
+        <translation>Not logged in</translation>
     </message>
 </context>
 <context>
@@ -1334,6 +1335,158 @@
     </message>
 </context>
 <context>
+    <name>LiveChannelList</name>
+    <message>
+        <source>通道列表</source>
+        <extracomment>Heads a list of the channels of a device.</extracomment>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>未连接</source>
+        <translation>Not connected</translation>
+    </message>
+</context>
+<context>
+    <name>LiveChannels</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFigures</name>
+    <message>
+        <source>%1 帧/秒   %2 kbit/s</source>
+        <translation>%1 pictures/s   %2 kbit/s</translation>
+    </message>
+    <message>
+        <source>待解码 %1 KB</source>
+        <extracomment>Data of a live stream that is not yet decoded.</extracomment>
+        <translation>%1 KB waiting</translation>
+    </message>
+    <message>
+        <source>音频 %1</source>
+        <translation>Sound %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveTitleBar</name>
+    <message>
+        <source>实时画面</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>向下还原</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximise</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>LiveToolBar</name>
+    <message>
+        <source>1 画面</source>
+        <translation>1 picture</translation>
+    </message>
+    <message>
+        <source>4 画面</source>
+        <translation>4 pictures</translation>
+    </message>
+    <message>
+        <source>9 画面</source>
+        <translation>9 pictures</translation>
+    </message>
+    <message>
+        <source>上一页通道</source>
+        <translation>Previous channels</translation>
+    </message>
+    <message>
+        <source>下一页通道</source>
+        <translation>Next channels</translation>
+    </message>
+    <message>
+        <source>关闭声音</source>
+        <translation>Sound off</translation>
+    </message>
+    <message>
+        <source>打开声音</source>
+        <translation>Sound on</translation>
+    </message>
+    <message>
+        <source>保持画面比例</source>
+        <translation>Keep the picture&apos;s shape</translation>
+    </message>
+    <message>
+        <source>拉伸铺满</source>
+        <translation>Fill the place</translation>
+    </message>
+    <message>
+        <source>隐藏码流信息</source>
+        <translation>Hide the stream&apos;s figures</translation>
+    </message>
+    <message>
+        <source>显示码流信息</source>
+        <translation>Show the stream&apos;s figures</translation>
+    </message>
+    <message>
+        <source>正在抓图…</source>
+        <translation>Taking a snapshot…</translation>
+    </message>
+    <message>
+        <source>抓取当前通道</source>
+        <translation>Snapshot of this channel</translation>
+    </message>
+    <message>
+        <source>抓取全部通道</source>
+        <translation>Snapshots of all channels</translation>
+    </message>
+    <message>
+        <source>退出全屏</source>
+        <translation>Leave full screen</translation>
+    </message>
+    <message>
+        <source>全屏</source>
+        <translation>Full screen</translation>
+    </message>
+</context>
+<context>
+    <name>LiveWindow</name>
+    <message>
+        <source>已登录另一台设备，实时画面已关闭</source>
+        <translation>Another device was logged in to; the live window has closed</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>Log in again</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>正在登录…</source>
+        <translation>Logging in…</translation>
+    </message>
+    <message>
+        <source>没有通道</source>
+        <translation>No channel</translation>
+    </message>
+    <message>
+        <source>登录失败</source>
+        <translation>Login failed</translation>
+    </message>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>The folder cannot be opened: %1</translation>
+    </message>
+</context>
+<context>
     <name>MainMenu</name>
     <message>
         <source>帮助</source>
@@ -1418,8 +1571,12 @@
         <translation>Open the device&apos;s web page in the browser</translation>
     </message>
     <message>
-        <source>实时画面尚未提供</source>
-        <translation>Live video is not there yet</translation>
+        <source>查看实时画面</source>
+        <translation>Watch it live</translation>
+    </message>
+    <message>
+        <source>未初始化的设备没有实时画面</source>
+        <translation>A device without its first password has no live picture</translation>
     </message>
 </context>
 <context>
@@ -1937,6 +2094,36 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>OV_MediaPlayer</name>
+    <message>
+        <source>没有通道</source>
+        <translation>No channel</translation>
+    </message>
+    <message>
+        <source>通道未连接</source>
+        <translation>Channel not connected</translation>
+    </message>
+    <message>
+        <source>正在连接…</source>
+        <translation>Connecting…</translation>
+    </message>
+    <message>
+        <source>画面中断</source>
+        <translation>The picture has broken off</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 秒后重试</source>
+        <translation>
+            <numerusform>Next try in %n second</numerusform>
+            <numerusform>Next try in %n seconds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>立即重试</source>
+        <translation>Try now</translation>
+    </message>
+</context>
+<context>
     <name>PageCGIConfig</name>
     <message>
         <source>CGI协议</source>
@@ -2264,6 +2451,59 @@ File path: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>The simulated site cannot be opened:</translation>
+    </message>
+</context>
+<context>
+    <name>SnapThread</name>
+    <message>
+        <source>通道未连接</source>
+        <translation>Channel not connected</translation>
+    </message>
+    <message>
+        <source>抓图失败</source>
+        <translation>Snapshot failed</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotCell</name>
+    <message>
+        <source>正在抓图…</source>
+        <translation>Taking a snapshot…</translation>
+    </message>
+    <message>
+        <source>等待中</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>重新抓取</source>
+        <translation>Take again</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotDialog</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Snapshots</translation>
+    </message>
+    <message>
+        <source>正在抓图 %1 / %2</source>
+        <translation>Taking snapshot %1 of %2</translation>
+    </message>
+    <message>
+        <source>成功 %1，失败 %2</source>
+        <translation>%1 taken, %2 failed</translation>
+    </message>
+    <message>
+        <source>成功 %1</source>
+        <translation>%1 taken</translation>
     </message>
 </context>
 <context>
@@ -2870,6 +3110,18 @@ File path: </translation>
     <message>
         <source>登录失败</source>
         <translation>Login failed</translation>
+    </message>
+    <message>
+        <source>继续配置</source>
+        <translation>Go on here</translation>
+    </message>
+    <message>
+        <source>同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。</source>
+        <translation>Only one device can be logged in to at a time. Going on closes the live picture of the other one.</translation>
+    </message>
+    <message>
+        <source>正在查看另一台设备的实时画面</source>
+        <translation>Another device is being watched live</translation>
     </message>
 </context>
 <context>

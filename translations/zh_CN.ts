@@ -271,13 +271,6 @@
     </message>
 </context>
 <context>
-    <name>ChannelPicture</name>
-    <message>
-        <source>通道的实时画面将显示在这里</source>
-        <translation>通道的实时画面将显示在这里</translation>
-    </message>
-</context>
-<context>
     <name>ConfigCopy</name>
     <message numerus="yes">
         <source>%n 台设备已复制</source>
@@ -315,6 +308,10 @@
     <message>
         <source>获取设备能力失败</source>
         <translation>获取设备能力失败</translation>
+    </message>
+    <message>
+        <source>设备已重新登录，尚未保存的修改已丢失</source>
+        <translation>设备已重新登录，尚未保存的修改已丢失</translation>
     </message>
 </context>
 <context>
@@ -510,6 +507,10 @@
     <message>
         <source>登录失败：%1</source>
         <translation>登录失败：%1</translation>
+    </message>
+    <message>
+        <source>未登录</source>
+        <translation>未登录</translation>
     </message>
 </context>
 <context>
@@ -1327,6 +1328,158 @@
     </message>
 </context>
 <context>
+    <name>LiveChannelList</name>
+    <message>
+        <source>通道列表</source>
+        <extracomment>Heads a list of the channels of a device.</extracomment>
+        <translation>通道列表</translation>
+    </message>
+    <message>
+        <source>未连接</source>
+        <translation>未连接</translation>
+    </message>
+</context>
+<context>
+    <name>LiveChannels</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFigures</name>
+    <message>
+        <source>%1 帧/秒   %2 kbit/s</source>
+        <translation>%1 帧/秒   %2 kbit/s</translation>
+    </message>
+    <message>
+        <source>待解码 %1 KB</source>
+        <extracomment>Data of a live stream that is not yet decoded.</extracomment>
+        <translation>待解码 %1 KB</translation>
+    </message>
+    <message>
+        <source>音频 %1</source>
+        <translation>音频 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveTitleBar</name>
+    <message>
+        <source>实时画面</source>
+        <translation>实时画面</translation>
+    </message>
+    <message>
+        <source>向下还原</source>
+        <translation>向下还原</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>LiveToolBar</name>
+    <message>
+        <source>1 画面</source>
+        <translation>1 画面</translation>
+    </message>
+    <message>
+        <source>4 画面</source>
+        <translation>4 画面</translation>
+    </message>
+    <message>
+        <source>9 画面</source>
+        <translation>9 画面</translation>
+    </message>
+    <message>
+        <source>上一页通道</source>
+        <translation>上一页通道</translation>
+    </message>
+    <message>
+        <source>下一页通道</source>
+        <translation>下一页通道</translation>
+    </message>
+    <message>
+        <source>关闭声音</source>
+        <translation>关闭声音</translation>
+    </message>
+    <message>
+        <source>打开声音</source>
+        <translation>打开声音</translation>
+    </message>
+    <message>
+        <source>保持画面比例</source>
+        <translation>保持画面比例</translation>
+    </message>
+    <message>
+        <source>拉伸铺满</source>
+        <translation>拉伸铺满</translation>
+    </message>
+    <message>
+        <source>隐藏码流信息</source>
+        <translation>隐藏码流信息</translation>
+    </message>
+    <message>
+        <source>显示码流信息</source>
+        <translation>显示码流信息</translation>
+    </message>
+    <message>
+        <source>正在抓图…</source>
+        <translation>正在抓图…</translation>
+    </message>
+    <message>
+        <source>抓取当前通道</source>
+        <translation>抓取当前通道</translation>
+    </message>
+    <message>
+        <source>抓取全部通道</source>
+        <translation>抓取全部通道</translation>
+    </message>
+    <message>
+        <source>退出全屏</source>
+        <translation>退出全屏</translation>
+    </message>
+    <message>
+        <source>全屏</source>
+        <translation>全屏</translation>
+    </message>
+</context>
+<context>
+    <name>LiveWindow</name>
+    <message>
+        <source>已登录另一台设备，实时画面已关闭</source>
+        <translation>已登录另一台设备，实时画面已关闭</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>重新登录</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>正在登录…</source>
+        <translation>正在登录…</translation>
+    </message>
+    <message>
+        <source>没有通道</source>
+        <translation>没有通道</translation>
+    </message>
+    <message>
+        <source>登录失败</source>
+        <translation>登录失败</translation>
+    </message>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>无法打开文件夹：%1</translation>
+    </message>
+</context>
+<context>
     <name>MainMenu</name>
     <message>
         <source>帮助</source>
@@ -1411,8 +1564,12 @@
         <translation>在浏览器中打开设备网页</translation>
     </message>
     <message>
-        <source>实时画面尚未提供</source>
-        <translation>实时画面尚未提供</translation>
+        <source>查看实时画面</source>
+        <translation>查看实时画面</translation>
+    </message>
+    <message>
+        <source>未初始化的设备没有实时画面</source>
+        <translation>未初始化的设备没有实时画面</translation>
     </message>
 </context>
 <context>
@@ -1925,6 +2082,35 @@
     </message>
 </context>
 <context>
+    <name>OV_MediaPlayer</name>
+    <message>
+        <source>没有通道</source>
+        <translation>没有通道</translation>
+    </message>
+    <message>
+        <source>通道未连接</source>
+        <translation>通道未连接</translation>
+    </message>
+    <message>
+        <source>正在连接…</source>
+        <translation>正在连接…</translation>
+    </message>
+    <message>
+        <source>画面中断</source>
+        <translation>画面中断</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 秒后重试</source>
+        <translation>
+            <numerusform>%n 秒后重试</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>立即重试</source>
+        <translation>立即重试</translation>
+    </message>
+</context>
+<context>
     <name>PageCGIConfig</name>
     <message>
         <source>CGI协议</source>
@@ -2244,6 +2430,59 @@
     <message>
         <source>无法打开模拟站点：</source>
         <translation>无法打开模拟站点：</translation>
+    </message>
+</context>
+<context>
+    <name>SnapThread</name>
+    <message>
+        <source>通道未连接</source>
+        <translation>通道未连接</translation>
+    </message>
+    <message>
+        <source>抓图失败</source>
+        <translation>抓图失败</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotCell</name>
+    <message>
+        <source>正在抓图…</source>
+        <translation>正在抓图…</translation>
+    </message>
+    <message>
+        <source>等待中</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>重新抓取</source>
+        <translation>重新抓取</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotDialog</name>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>抓图</translation>
+    </message>
+    <message>
+        <source>正在抓图 %1 / %2</source>
+        <translation>正在抓图 %1 / %2</translation>
+    </message>
+    <message>
+        <source>成功 %1，失败 %2</source>
+        <translation>成功 %1，失败 %2</translation>
+    </message>
+    <message>
+        <source>成功 %1</source>
+        <translation>成功 %1</translation>
     </message>
 </context>
 <context>
@@ -2846,6 +3085,18 @@
     <message>
         <source>登录失败</source>
         <translation>登录失败</translation>
+    </message>
+    <message>
+        <source>继续配置</source>
+        <translation>继续配置</translation>
+    </message>
+    <message>
+        <source>同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。</source>
+        <translation>同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。</translation>
+    </message>
+    <message>
+        <source>正在查看另一台设备的实时画面</source>
+        <translation>正在查看另一台设备的实时画面</translation>
     </message>
 </context>
 <context>

@@ -47,16 +47,28 @@ T.ApplicationWindow {
             systemConfigPage.item?.disablePasswordEditor();
             currentTab = index;
         };
-        // Settings that were changed and not saved are not left without a word.
-        if (deviceConfigPage.visible)
-            deviceConfigPage.item.leave(go);
-        else
-            go();
+        leavePage(go);
     }
 
-    function refuseClosing() {
-        popups.say(working ? qsTr("正在处理设备，请稍候再关闭") : qsTr("正在搜索，请稍候再关闭"),
-                   OVToast.Information);
+    /// Settings that were changed and not saved are not left without a word. Returns whether there is a question first.
+    function leavePage(action) {
+        if (deviceConfigPage.visible)
+            return (deviceConfigPage.item as PageDeviceConfig).leave(action);
+        action();
+        return false;
+    }
+
+    /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
+    function requestEnd() {
+        if (searching || working) {
+            popups.say(working ? qsTr("正在处理设备，请稍候再关闭") : qsTr("正在搜索，请稍候再关闭"),
+                       OVToast.Information);
+            return false;
+        }
+        return !leavePage(() => {
+            popups.closeLive();
+            deviceFactory.exitProgram();
+        });
     }
 
     width: minimumWidth
@@ -87,11 +99,7 @@ T.ApplicationWindow {
 
     onClosing: close => {
         console.log("Window is closing...");
-        close.accepted = !searching && !working;
-        if (close.accepted)
-            deviceFactory.exitProgram();
-        else
-            refuseClosing();
+        close.accepted = requestEnd();
     }
 
     SearchSettings {
@@ -135,7 +143,7 @@ T.ApplicationWindow {
             searching: window.searching
             title: window.title
             version: popups.softwareName + " " + popups.version
-            onCloseRequested: window.searching || window.working ? window.refuseClosing() : window.deviceFactory.exitProgram()
+            onCloseRequested: window.requestEnd()
             onDragged: window.startSystemMove()
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)
@@ -165,6 +173,7 @@ T.ApplicationWindow {
                 libraryInstalled: window.libraryInstalled
                 searching: window.searching
                 searchesNothing: search.searchedNothing
+                onLiveRequested: ipport => popups.openLive(ipport)
                 onSaid: (message, kind) => popups.say(message, kind)
                 onSearchRequested: window.requestSearch()
                 onSettingsRequested: popups.openSearchSettings(searchSettings.read())
@@ -219,14 +228,16 @@ T.ApplicationWindow {
     WindowPopups {
         id: popups
         currentLanguage: window.chosenLanguage
+        deviceFactory: window.deviceFactory
         languages: languageList.entries
+        localConfig: window.localConfig
         logoName: window.title
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
-        onRestartRequested: window.localConfig.reboot()
+        onRestartRequested: window.leavePage(() => window.localConfig.reboot())
         onSettingsAccepted: values => {
             if (!searchSettings.write(values))
                 popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);

@@ -95,6 +95,15 @@ QtObject {
     readonly property int rangeFieldWidth: 76
     readonly property int sliderRest: 400  // milliseconds without a further step, after which a value counts
 
+    // The live window.
+    readonly property int liveWidth: 1180
+    readonly property int liveHeight: 700
+    readonly property int liveMinimumWidth: 720
+    readonly property int liveMinimumHeight: 480
+    readonly property int liveListWidth: 220
+    readonly property int snapshotWidth: 216
+    readonly property int snapshotsHeight: 400
+
     // Widths of table columns, by what they show.
     readonly property int columnNumber: 56
     readonly property int columnState: 104
@@ -115,6 +124,8 @@ QtObject {
     readonly property int columnPort: 72
     readonly property int columnAccount: 96
     readonly property int columnOutcome: 236
+    readonly property int columnAnswer: 240
+    readonly property int columnCommand: 320
 
     // Type.
     readonly property int hintSize: 12
@@ -131,6 +142,7 @@ QtObject {
     readonly property font titleFont: Qt.font({family: Typefaces.text, pixelSize: titleSize, weight: Font.DemiBold})
     readonly property font leadFont: Qt.font({family: Typefaces.text, pixelSize: leadSize, weight: Font.DemiBold})
     readonly property font figureFont: Qt.font({family: Typefaces.figures, pixelSize: bodySize})
+    readonly property font smallFigureFont: Qt.font({family: Typefaces.figures, pixelSize: hintSize})
     readonly property font clockFont:
         Qt.font({family: Typefaces.figures, pixelSize: clockSize, weight: Font.DemiBold})
     readonly property font counterFont:
@@ -164,26 +176,41 @@ QtObject {
         "down": "\ue06d",
         "error": "\ue084",
         "favourite": "\ue176",
+        "figures": "\ue038",
         "filtered": "\ue3b5",
+        "fourPlaces": "\ue4ff",
+        "fullScreen": "\ue21a",
         "help": "\ue05f",
         "hide": "\ue0bb",
+        "history": "\ue1f5",
         "language": "\ue0fe",
+        "leaveFullScreen": "\ue220",
+        "left": "\ue06e",
         "maximise": "\ue167",
         "menu": "\ue115",
         "minimise": "\ue11c",
         "mixed": "\ue11c",
-        "nothing": "\ue4ad",
+        "mute": "\ue1ac",
+        "ninePlaces": "\ue0e9",
+        "noVideo": "\ue1a6",
         "note": "\ue1f9",
+        "nothing": "\ue4ad",
         "ok": "\ue226",
+        "onePlace": "\ue167",
         "questions": "\ue568",
         "restore": "\ue09e",
         "right": "\ue06f",
         "search": "\ue151",
         "settings": "\ue29a",
         "show": "\ue0ba",
+        "snapshot": "\ue064",
+        "snapshots": "\ue5c4",
         "sortDown": "\ue042",
         "sortUp": "\ue04a",
+        "sound": "\ue1ab",
         "spinner": "\ue10a",
+        "star": "\ue176",
+        "stretch": "\ue27c",
         "system": "\ue154",
         "unknown": "\ue07e",
         "unplugged": "\ue45d",

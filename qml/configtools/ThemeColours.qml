@@ -68,6 +68,11 @@ QtObject {
     property color rowSelected: "#cfe4fb"
     property color rowHoverVeil: "#0f1769e0"
 
+    // Live pictures.
+    property color videoGround: "#0d141d"
+    property color videoLine: "#1f2b3b"
+    property color videoVeil: "#a60d141d"
+
     // Bubbles above everything.
     property color bubble: "#263242"
     property color bubbleInk: "#ffffff"

@@ -7,9 +7,11 @@ OVTableCell {
     id: root
 
     property bool editable: true
+    readonly property bool initialised: row?.state ?? true
     signal editRequested(int row)
     signal detailRequested(int row)
     signal webRequested(int row)
+    signal liveRequested(int row)
 
     OVActionRow {
         anchors.verticalCenter: parent.verticalCenter
@@ -38,11 +40,12 @@ OVTableCell {
             onClicked: root.webRequested(root.rowIndex)
         }
         OVLinkButton {
-            enabled: false
+            enabled: root.initialised
             focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
             objectName: "live" + root.rowIndex
             text: "live"
-            toolTip: qsTr("实时画面尚未提供")
+            toolTip: root.initialised ? qsTr("查看实时画面") : qsTr("未初始化的设备没有实时画面")
+            onClicked: root.liveRequested(root.rowIndex)
         }
     }
 }

@@ -10,6 +10,7 @@ OVTable {
     signal editRequested(int row)
     signal detailRequested(int row)
     signal webRequested(int row)
+    signal liveRequested(int row)
 
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
@@ -150,6 +151,7 @@ OVTable {
             editable: !root.ipv6
             onDetailRequested: row => root.detailRequested(row)
             onEditRequested: row => root.editRequested(row)
+            onLiveRequested: row => root.liveRequested(row)
             onWebRequested: row => root.webRequested(row)
         }
     }

@@ -95,6 +95,7 @@ FocusScope {
         id: session
         deviceFactory: page.deviceFactory
         localConfig: page.localConfig
+        onRenewed: if (page.visible) readShown()
         onSaid: (message, kind, stay) => page.said(message, kind, stay)
     }
     ConfigCopy {

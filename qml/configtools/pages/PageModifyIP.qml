@@ -10,6 +10,7 @@ FocusScope {
     required property bool searchesNothing
     signal searchRequested
     signal settingsRequested
+    signal liveRequested(string ipport)
     signal said(string message, int kind)
 
     // qmllint disable unqualified
@@ -131,6 +132,7 @@ FocusScope {
         onCopyRequested: row => clipboard.put(devices.textOf([row]))
         onDetailRequested: row => actions.showDetail(row)
         onEditRequested: row => batches.modifyRow(row)
+        onLiveRequested: row => page.liveRequested(devices.get(row).ipport)
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onRowOpened: row => devices.ipv6 ? actions.showDetail(row) : batches.modifyRow(row)
         onSortRequested: key => devices.toggleSort(key)

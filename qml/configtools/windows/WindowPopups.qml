@@ -5,6 +5,8 @@ import configtools
 Item {
     id: root
 
+    required property var deviceFactory
+    required property var localConfig
     required property var languages
     required property string currentLanguage
     required property string logoName
@@ -29,6 +31,14 @@ Item {
 
     function openRestartPrompt() {
         restart.wanted().open();
+    }
+
+    function openLive(ipport) {
+        live.wanted().open(ipport);
+    }
+
+    function closeLive() {
+        live.item?.close();
     }
 
     /// A message that is to be confirmed.
@@ -81,6 +91,15 @@ Item {
             title: root.softwareName
             version: root.version
             onCopied: root.say(qsTr("已复制到剪贴板"), OVToast.Success)
+        }
+    }
+    OVOnDemand {
+        id: live
+        visible: false
+        sourceComponent: LiveWindow {
+            deviceFactory: root.deviceFactory
+            localConfig: root.localConfig
+            onSaid: (message, kind) => root.say(message, kind)
         }
     }
     OVOnDemand {

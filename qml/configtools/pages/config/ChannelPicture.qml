@@ -1,40 +1,26 @@
-// The place of a channel's live picture. It announces the picture, until there is live video.
+// A channel's live picture beside its settings, so that a change is seen at once. The small stream does; a device
+// that has none shows the large one.
 import QtQuick
 import configtools
 
-Rectangle {
+Item {
     id: root
 
+    required property int channel
     required property string channelName
+    required property bool active  // there is a login, and nothing waits for the device
 
-    color: Theme.colours.bar
-    height: Math.round(width * 9 / 16)
+    implicitHeight: Math.round(width * 9 / 16)
     objectName: "channelPicture"
-    radius: Theme.controlRadius
 
-    OVLabel {
-        x: Theme.controlGap
-        y: Theme.unit
-        width: parent.width - 2 * x
-        color: Theme.colours.barInk
-        font: Theme.hintFont
-        objectName: "channelPictureName"
-        text: root.channelName
-    }
-    Column {
-        anchors.centerIn: parent
-        spacing: Theme.unit
-
-        OVIcon {
-            anchors.horizontalCenter: parent.horizontalCenter
-            color: Theme.colours.barSub
-            name: "video"
-            size: Theme.counterSize
-        }
-        OVLabel {
-            color: Theme.colours.barSub
-            font: Theme.hintFont
-            text: qsTr("通道的实时画面将显示在这里")
-        }
+    OV_MediaPlayer {
+        id: player
+        anchors.fill: parent
+        active: root.active
+        channel: root.channel
+        channelName: root.channelName
+        compact: true
+        connected: true
+        onFailedAgain: mainStream = true
     }
 }

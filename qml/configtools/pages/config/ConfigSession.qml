@@ -15,11 +15,13 @@ Item {
     property string type
     property bool loggedIn: false
     property int loginResult: 0
+    property bool taken: false       // another device is logged in to, since its live picture is watched
     property string failure          // why there was no login
     property string busyText
     readonly property bool busy: busyText !== ""
     readonly property alias encoding: encodeWork
     readonly property alias image: imageWork
+    signal renewed                   // what was read of the device is forgotten
     signal said(string message, int kind, int stay)
 
     readonly property int shortStay: 3000
@@ -51,6 +53,7 @@ Item {
 
     function login(account, password) {
         loggedIn = false;
+        taken = false;
         failure = "";
         encodeWork.forget();
         imageWork.forget();
@@ -82,7 +85,7 @@ Item {
 
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", device);
-        if (canLoginAgain())
+        if (canLoginAgain() && !taken)
             askAgain(row.username || localConfig.getSearchConfigUsrename());
         else
             open(device);
@@ -94,6 +97,17 @@ Item {
             imageWork.load();
         else if (loggedIn && !imageShown && !encodeWork.read)
             encodeWork.load();
+    }
+
+    /// The live view works with the same login, and has just made it anew.
+    function noteOtherLogin() {
+        if (encodeWork.unsaved > 0)
+            said(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longStay);
+        encodeWork.forget();
+        imageWork.forget();
+        taken = deviceFactory.getConfigData("dh", "sessionDevice") !== device;
+        loggedIn = !taken;
+        renewed();
     }
 
     visible: false
@@ -110,6 +124,15 @@ Item {
         session: root
     }
 
+    Connections {
+        enabled: root.loggedIn && !root.busy
+        target: root.deviceFactory
+
+        function onSignalHighLevelLoginRet(result) {
+            if (result === 0)
+                root.noteOtherLogin();
+        }
+    }
     Connections {
         enabled: root.busy  // other pages ask devices, too
         target: root.deviceFactory

@@ -11,6 +11,8 @@ Item {
             return qsTr("未选择设备");
         if (session.busy)
             return session.busyText;
+        if (session.taken)
+            return qsTr("未登录");
         return session.loggedIn ? qsTr("已登录") : qsTr("登录失败：%1").arg(session.failure);
     }
     readonly property string details: Array.from([session.device, session.name, session.model, session.type])

@@ -31,6 +31,8 @@ Item {
 
         ChannelPicture {
             width: parent.width
+            active: root.visible && root.work.session.loggedIn
+            channel: root.form.channel
             channelName: root.form.channelName !== "" ? root.form.channelName
                                                       : qsTr("通道 %1").arg(root.form.channel + 1)
         }

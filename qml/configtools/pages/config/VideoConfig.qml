@@ -71,14 +71,18 @@ Rectangle {
         OVEmptyState {
             anchors.fill: parent
             actionText: root.session.device === "" || root.session.busy || root.session.loggedIn ? ""
+                : root.session.taken ? qsTr("继续配置")
                 : root.session.canLoginAgain() ? qsTr("重新登录") : qsTr("重试")
             busy: root.session.busy
             hint: root.session.device === "" ? qsTr("单击左侧的一台设备，登录后在此查看并修改它的配置。")
-                : root.session.busy ? root.session.device : root.session.failure
+                : root.session.busy ? root.session.device
+                : root.session.taken ? qsTr("同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。")
+                : root.session.failure
             iconName: root.session.device === "" ? "config" : "unplugged"
             objectName: "configEmptyState"
             title: root.session.device === "" ? qsTr("请选择设备")
-                : root.session.busy ? root.session.busyText : qsTr("登录失败")
+                : root.session.busy ? root.session.busyText
+                : root.session.taken ? qsTr("正在查看另一台设备的实时画面") : qsTr("登录失败")
             visible: !root.shown
             onActivated: root.session.tryAgain()
         }

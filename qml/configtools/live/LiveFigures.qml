@@ -1,0 +1,42 @@
+// What a live stream is like: its size and codec, its pictures a second, its bit rate, and the data that waits.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property VideoItem video
+    property var figures: ({})
+
+    readonly property var lines: [
+        [figures.width ?? 0, figures.height ?? 0].join(" × ") + "   " + (figures.codec ?? ""),
+        qsTr("%1 帧/秒   %2 kbit/s").arg(Math.round(figures.rate ?? 0)).arg(figures.bitRate ?? 0),
+        //: Data of a live stream that is not yet decoded.
+        qsTr("待解码 %1 KB").arg(Math.round((figures.waiting ?? 0) / 1024))
+    ].concat((figures.audioCodec ?? "") === "" ? [] : [qsTr("音频 %1").arg(figures.audioCodec)])
+
+    width: text.implicitWidth + 2 * Theme.unit
+    height: text.implicitHeight + Theme.unit
+    color: Theme.colours.videoVeil
+    radius: Theme.smallRadius
+    onVisibleChanged: if (visible) figures = video.figures()
+
+    Timer {
+        interval: 1000
+        repeat: true
+        running: root.visible
+        triggeredOnStart: true
+        onTriggered: root.figures = root.video.figures()
+    }
+    Text {
+        id: text
+        x: Theme.unit
+        y: Theme.half
+        color: Theme.colours.barInk
+        font: Theme.smallFigureFont
+        lineHeight: 1.3
+        objectName: "liveFigures"
+        text: root.lines.join("\n")
+        textFormat: Text.PlainText
+    }
+}

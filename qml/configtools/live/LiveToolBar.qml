@@ -1,0 +1,139 @@
+// What can be done with the live pictures: their arrangement at the left, what concerns the current one at the right.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property LiveGrid grid
+    required property bool fullScreen
+    required property bool canSnap
+    required property bool snapping
+    signal fullScreenRequested
+    signal snapRequested
+    signal snapAllRequested
+
+    component BarButton: OVIconButton {
+        property bool on: false
+
+        checked: on
+        fill: on ? Theme.colours.barPressed : Theme.colours.clear
+        fillHover: Theme.colours.barHover
+        fillPressed: Theme.colours.barPressed
+        ink: enabled ? Theme.colours.barSub : Theme.colours.barLine
+        inkHover: Theme.colours.barInk
+    }
+    component Gap: Item {
+        width: Theme.unit
+        height: 1
+    }
+
+    implicitHeight: Theme.titleBarHeight
+    color: Theme.colours.bar
+
+    OVActionRow {
+        x: Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.half
+
+        BarButton {
+            iconName: "onePlace"
+            objectName: "liveOneButton"
+            on: root.grid.places === 1
+            toolTip: qsTr("1 画面")
+            onClicked: root.grid.arrange(1)
+        }
+        BarButton {
+            enabled: root.grid.channels.length > 1
+            iconName: "fourPlaces"
+            objectName: "liveFourButton"
+            on: root.grid.places === 4
+            toolTip: qsTr("4 画面")
+            onClicked: root.grid.arrange(4)
+        }
+        BarButton {
+            enabled: root.grid.channels.length > 4
+            iconName: "ninePlaces"
+            objectName: "liveNineButton"
+            on: root.grid.places === 9
+            toolTip: qsTr("9 画面")
+            onClicked: root.grid.arrange(9)
+        }
+        Gap {}
+        BarButton {
+            enabled: root.grid.page > 0
+            iconName: "left"
+            objectName: "livePreviousButton"
+            toolTip: qsTr("上一页通道")
+            visible: root.grid.pages > 1
+            onClicked: root.grid.showPage(root.grid.page - 1)
+        }
+        OVLabel {
+            height: Theme.controlHeight
+            color: Theme.colours.barSub
+            font: Theme.figureFont
+            objectName: "livePage"
+            text: (root.grid.page + 1) + " / " + root.grid.pages
+            visible: root.grid.pages > 1
+        }
+        BarButton {
+            enabled: root.grid.page < root.grid.pages - 1
+            iconName: "right"
+            objectName: "liveNextButton"
+            toolTip: qsTr("下一页通道")
+            visible: root.grid.pages > 1
+            onClicked: root.grid.showPage(root.grid.page + 1)
+        }
+    }
+    OVActionRow {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.half
+
+        BarButton {
+            iconName: root.grid.sounding ? "sound" : "mute"
+            objectName: "liveSoundButton"
+            on: root.grid.sounding
+            toolTip: root.grid.sounding ? qsTr("关闭声音") : qsTr("打开声音")
+            onClicked: root.grid.sounding = !root.grid.sounding
+        }
+        BarButton {
+            iconName: "stretch"
+            objectName: "liveStretchButton"
+            on: root.grid.stretched
+            toolTip: root.grid.stretched ? qsTr("保持画面比例") : qsTr("拉伸铺满")
+            onClicked: root.grid.stretched = !root.grid.stretched
+        }
+        BarButton {
+            iconName: "figures"
+            objectName: "liveFiguresButton"
+            on: root.grid.figuresShown
+            toolTip: root.grid.figuresShown ? qsTr("隐藏码流信息") : qsTr("显示码流信息")
+            onClicked: root.grid.figuresShown = !root.grid.figuresShown
+        }
+        Gap {}
+        BarButton {
+            enabled: root.canSnap && !root.snapping && root.grid.currentChannel >= 0
+            iconName: "snapshot"
+            objectName: "liveSnapButton"
+            toolTip: root.snapping ? qsTr("正在抓图…") : qsTr("抓取当前通道")
+            onClicked: root.snapRequested()
+        }
+        BarButton {
+            enabled: root.canSnap && !root.snapping
+            iconName: root.snapping ? "spinner" : "snapshots"
+            objectName: "liveSnapAllButton"
+            toolTip: root.snapping ? qsTr("正在抓图…") : qsTr("抓取全部通道")
+            turning: root.snapping
+            onClicked: root.snapAllRequested()
+        }
+        Gap {}
+        BarButton {
+            iconName: root.fullScreen ? "leaveFullScreen" : "fullScreen"
+            objectName: "liveFullScreenButton"
+            toolTip: root.fullScreen ? qsTr("退出全屏") : qsTr("全屏")
+            onClicked: root.fullScreenRequested()
+        }
+    }
+}

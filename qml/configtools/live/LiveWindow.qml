@@ -1,0 +1,203 @@
+// Watches a device: its channels at the left, their live pictures beside them.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+T.ApplicationWindow {
+    id: window
+
+    required property var deviceFactory
+    required property var localConfig
+    readonly property bool fullScreen: visibility === Window.FullScreen
+    readonly property bool maximised: visibility === Window.Maximized
+    property int visibilityBefore: Window.Windowed
+    signal said(string message, int kind)
+
+    function open(ipport) {
+        if (visible && device.ipport === ipport) {
+            requestActivate();
+            return;
+        }
+        device.close();
+        if (!visible) {
+            grid.sounding = false;
+            show();
+        }
+        raise();
+        requestActivate();
+        device.open(ipport);
+    }
+
+    function toggleFullScreen() {
+        if (fullScreen) {
+            visibility = visibilityBefore;
+        } else {
+            visibilityBefore = maximised ? Window.Maximized : Window.Windowed;
+            showFullScreen();
+        }
+    }
+
+    /// One step back: from the enlarged picture to the grid, from the full screen to the window.
+    function goBack() {
+        if (grid.enlargedPlace >= 0)
+            grid.enlargedPlace = -1;
+        else if (fullScreen)
+            toggleFullScreen();
+    }
+
+    function snap(channel) {
+        snapshots.take(device.ipport, device.channels[channel]);
+        results.wanted().open();
+    }
+
+    function snapAll() {
+        snapshots.takeAll(device.ipport, device.channels);
+        results.wanted().open();
+    }
+
+    width: Math.min(Theme.liveWidth, Screen.desktopAvailableWidth)
+    height: Math.min(Theme.liveHeight, Screen.desktopAvailableHeight)
+    minimumWidth: Math.min(Theme.liveMinimumWidth, Screen.desktopAvailableWidth)
+    minimumHeight: Math.min(Theme.liveMinimumHeight, Screen.desktopAvailableHeight)
+    color: Theme.colours.videoGround
+    flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowSystemMenuHint | Qt.WindowMaximizeButtonHint
+    objectName: "liveWindow"
+    title: device.name !== "" ? device.name : device.ipport
+    onClosing: {
+        doubt.rest();
+        results.item?.close();
+        device.close();
+    }
+
+    LiveDevice {
+        id: device
+        deviceFactory: window.deviceFactory
+        localConfig: window.localConfig
+        onLost: {
+            window.said(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
+            window.close();
+        }
+        onRenewed: grid.reconnect()
+    }
+    Snapshots {
+        id: snapshots
+        deviceFactory: window.deviceFactory
+    }
+
+    Shortcut { sequence: "Esc"; onActivated: window.goBack() }
+    Shortcut { sequence: "F11"; onActivated: window.toggleFullScreen() }
+    Shortcut { sequence: "M"; onActivated: grid.sounding = !grid.sounding }
+    Shortcut { sequence: "I"; onActivated: grid.figuresShown = !grid.figuresShown }
+
+    LiveTitleBar {
+        id: titleBar
+        width: parent.width
+        height: window.fullScreen ? 0 : implicitHeight
+        address: device.ipport
+        maximised: window.maximised
+        name: device.name
+        visible: !window.fullScreen
+        onCloseRequested: window.close()
+        onDragged: window.startSystemMove()
+        onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
+    }
+    LiveChannelList {
+        id: list
+        y: titleBar.height
+        width: visible ? Theme.liveListWidth : 0
+        height: parent.height - y
+        channels: device.channels
+        currentChannel: grid.currentChannel
+        shownChannels: grid.shownChannels
+        visible: !window.fullScreen && device.channels.length > 1
+        onEnlargeRequested: channel => grid.enlarge(channel)
+        onPicked: channel => grid.showChannel(channel)
+    }
+    LiveGrid {
+        id: grid
+        x: list.width
+        y: titleBar.height
+        width: parent.width - x
+        height: toolBar.y - y
+        active: window.visible && device.loggedIn
+        channels: device.channels
+        objectName: "liveGrid"
+        visible: device.loggedIn && device.channels.length > 0
+        onNothingPlays: if (!doubt.running) doubt.start()
+        onPictureCame: doubt.rest()
+    }
+    LiveToolBar {
+        id: toolBar
+        x: list.width
+        y: parent.height - height
+        width: parent.width - x
+        canSnap: device.loggedIn && device.channels.length > 0
+        fullScreen: window.fullScreen
+        grid: grid
+        snapping: snapshots.busy
+        onFullScreenRequested: window.toggleFullScreen()
+        onSnapAllRequested: window.snapAll()
+        onSnapRequested: window.snap(grid.currentChannel)
+    }
+    Rectangle {
+        y: titleBar.height
+        width: parent.width
+        height: toolBar.y - y
+        color: Theme.colours.surface
+        visible: !grid.visible
+
+        OVEmptyState {
+            anchors.fill: parent
+            actionText: device.busy || device.loggedIn ? ""
+                : device.accountRefused ? qsTr("重新登录") : qsTr("重试")
+            busy: device.busy
+            hint: device.busy ? device.ipport : device.failure
+            iconName: "unplugged"
+            objectName: "liveEmptyState"
+            title: device.busy ? qsTr("正在登录…") : device.loggedIn ? qsTr("没有通道") : qsTr("登录失败")
+            onActivated: device.tryAgain()
+        }
+    }
+
+    // A device that was away has forgotten the session: the next tries need a new one. A login may take seconds, in
+    // which the window stands still, so the pauses grow.
+    Timer {
+        id: doubt
+
+        readonly property int shortest: 2000
+        readonly property int longest: 32000
+
+        function rest() {
+            stop();
+            interval = shortest;
+        }
+
+        interval: shortest
+        onTriggered: {
+            interval = Math.min(2 * interval, longest);
+            device.renew();
+        }
+    }
+
+    OVResizeFrame {
+        anchors.fill: parent
+        active: !window.maximised && !window.fullScreen
+        onResizeRequested: edges => window.startSystemResize(edges)
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: results
+        visible: false
+        sourceComponent: SnapshotDialog {
+            snapshots: snapshots
+            onAgainRequested: channel => window.snap(channel)
+            onFolderRequested: {
+                const picture = snapshots.results.find(entry => entry.picture !== "").picture;
+                if (!Qt.openUrlExternally(picture.slice(0, picture.lastIndexOf("/"))))
+                    window.said(qsTr("无法打开文件夹：%1").arg(picture), OVToast.Error);
+            }
+        }
+    }
+    // qmllint enable unqualified
+}

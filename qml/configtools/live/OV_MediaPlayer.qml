@@ -1,0 +1,223 @@
+// One channel's live picture with what is to be said about it. A stream that fails or breaks is tried again, after
+// pauses that grow.
+import QtQuick
+import configtools
+
+FocusScope {
+    id: root
+
+    required property int channel         // from 0, below 0 for an empty place
+    required property string channelName
+    required property bool connected      // the channel has a camera
+    required property bool active         // the stream is wanted now
+    property bool mainStream: false
+    property bool current: false
+    property bool stretched: false
+    property bool sounding: false
+    property bool figuresShown: false
+    property bool compact: false          // a small picture beside something else: words only
+    readonly property bool wanted: active && connected && channel >= 0
+    readonly property bool playing: video.hasPicture
+    readonly property bool failed: failures > 0 && !connecting && !playing
+    readonly property alias video: video
+    signal chosen
+    signal enlargeRequested
+    signal failedAgain
+
+    property bool connecting: false
+    property int failures: 0  // one after another
+    property int pause: 0     // seconds until the next try
+
+    /// Seconds to wait after so many failures.
+    readonly property var pauses: [1, 2, 4, 8, 15, 30]
+
+    function begin() {
+        retry.stop();
+        if (!wanted)
+            return;
+        connecting = true;
+        starting.run(() => {
+            if (!root.wanted)
+                return;
+            if (!video.start())
+                root.fail();
+        });
+    }
+
+    function end() {
+        starting.work = null;
+        retry.stop();
+        connecting = false;
+        failures = 0;
+        video.stop();
+    }
+
+    function fail() {
+        video.stop();
+        connecting = false;
+        failures += 1;
+        pause = pauses[Math.min(failures, pauses.length) - 1];
+        retry.restart();
+        failedAgain();
+    }
+
+    function restart() {
+        end();
+        begin();
+    }
+
+    /// Tries at once what may go well now; the failures until now still count.
+    function reconnect() {
+        video.stop();
+        begin();
+    }
+
+    onWantedChanged: wanted ? begin() : end()
+    onChannelChanged: if (wanted) restart()
+    onMainStreamChanged: if (wanted) restart()
+    Component.onCompleted: if (wanted) begin()
+    Component.onDestruction: video.stop()
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: channelName
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.colours.videoGround
+    }
+    VideoItem {
+        id: video
+        anchors.fill: parent
+        channelId: root.channel
+        fillMode: root.stretched ? VideoItem.Stretch : VideoItem.PreserveAspectFit
+        isAudioOutput: root.sounding
+        objectName: "liveVideo"
+        streamKind: root.mainStream ? VideoItem.Main : VideoItem.Sub
+        onHasPictureChanged: {
+            if (hasPicture) {
+                root.connecting = false;
+                root.failures = 0;
+            }
+        }
+        onVideoErrorSig: root.fail()
+    }
+    OVAfterPaint {
+        id: starting
+    }
+    Timer {
+        id: retry
+        interval: 1000
+        repeat: true
+        onTriggered: {
+            root.pause -= 1;
+            if (root.pause <= 0)
+                root.begin();
+        }
+    }
+
+    MouseArea {
+        property point last
+        readonly property real notch: 120  // of a mouse wheel, in eighths of a degree
+
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton
+        cursorShape: pressed && root.playing ? Qt.ClosedHandCursor : Qt.ArrowCursor
+        enabled: !root.compact
+        onDoubleClicked: root.enlargeRequested()
+        onPositionChanged: mouse => {
+            video.drag(mouse.x - last.x, mouse.y - last.y);
+            last = Qt.point(mouse.x, mouse.y);
+        }
+        onPressed: mouse => {
+            last = Qt.point(mouse.x, mouse.y);
+            root.chosen();
+        }
+        onWheel: wheel => {
+            if (wheel.angleDelta.y !== 0)
+                video.changeScale(wheel.angleDelta.y / notch, Qt.point(wheel.x, wheel.y));
+        }
+    }
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Theme.unit
+        spacing: Theme.unit
+        visible: !root.playing
+
+        OVIcon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: Theme.colours.barSub
+            name: root.channel < 0 ? "video" : root.connected ? "error" : "noVideo"
+            size: root.compact ? Theme.iconSize : Theme.clockSize
+            visible: !root.connecting
+        }
+        OVSpinner {
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: Theme.colours.barSub
+            running: root.connecting
+            size: root.compact ? Theme.iconSize : Theme.clockSize
+            visible: root.connecting
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.barSub
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "liveStateText"
+            text: root.channel < 0 ? qsTr("没有通道")
+                : !root.connected ? qsTr("通道未连接")
+                : root.connecting ? qsTr("正在连接…")
+                : root.failed ? (video.text !== "" ? video.text : qsTr("画面中断")) : ""
+            visible: text !== ""
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.barSub
+            font: Theme.hintFont
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "liveRetryText"
+            text: qsTr("%n 秒后重试", "", root.pause)
+            visible: root.failed && root.wanted
+        }
+        OVButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "liveRetryButton"
+            text: qsTr("立即重试")
+            visible: root.failed && root.wanted && !root.compact
+            onClicked: root.reconnect()
+        }
+    }
+
+    Rectangle {  // the channel's name, readable over any picture
+        x: Theme.unit
+        y: Theme.unit
+        width: Math.min(name.implicitWidth + 2 * Theme.unit, parent.width - 2 * x)
+        height: Theme.unit * 3
+        color: Theme.colours.videoVeil
+        radius: Theme.smallRadius
+        visible: root.channel >= 0
+
+        OVLabel {
+            id: name
+            x: Theme.unit
+            width: parent.width - 2 * x
+            height: parent.height
+            color: Theme.colours.barInk
+            font: Theme.hintFont
+            objectName: "liveChannelName"
+            text: root.channelName
+        }
+    }
+    LiveFigures {
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.unit
+        x: Theme.unit
+        visible: root.figuresShown && root.playing
+        video: video
+    }
+    Rectangle {
+        anchors.fill: parent
+        border.color: root.current && !root.compact ? Theme.colours.accent : Theme.colours.videoLine
+        border.width: root.current && !root.compact ? 2 : Theme.line
+        color: Theme.colours.clear
+    }
+}

@@ -1,0 +1,80 @@
+// The snapshot of one channel: the picture, or what stands in its way.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var entry   // of Snapshots.results
+    required property int revision
+    required property bool waits  // others are being taken
+    readonly property int stage: entry?.state ?? Snapshots.Waiting
+    signal againRequested
+
+    Rectangle {
+        id: frame
+        width: parent.width
+        height: parent.height - Theme.controlHeight
+        color: Theme.colours.videoGround
+        clip: true
+        radius: Theme.smallRadius
+
+        Image {
+            anchors.fill: parent
+            asynchronous: true
+            cache: false
+            fillMode: Image.PreserveAspectFit
+            objectName: "snapshotPicture"
+            source: root.stage === Snapshots.Taken ? root.entry.picture + "?" + root.revision : ""
+            sourceSize.width: width * 2
+            visible: root.stage === Snapshots.Taken
+
+            Accessible.role: Accessible.Graphic
+            Accessible.name: root.entry?.name ?? ""
+        }
+        Column {
+            anchors.centerIn: parent
+            width: parent.width - 2 * Theme.unit
+            spacing: Theme.unit
+            visible: root.stage !== Snapshots.Taken
+
+            OVSpinner {
+                anchors.horizontalCenter: parent.horizontalCenter
+                color: Theme.colours.barSub
+                visible: root.stage === Snapshots.Taking
+            }
+            OVIcon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                color: Theme.colours.barSub
+                name: "noVideo"
+                visible: root.stage === Snapshots.Failed
+            }
+            OVParagraph {
+                width: parent.width
+                color: Theme.colours.barSub
+                font: Theme.hintFont
+                horizontalAlignment: Text.AlignHCenter
+                objectName: "snapshotMessage"
+                text: root.stage === Snapshots.Taking ? qsTr("正在抓图…")
+                    : root.stage === Snapshots.Waiting ? qsTr("等待中") : root.entry?.message ?? ""
+            }
+        }
+    }
+    OVLabel {
+        y: frame.height
+        width: parent.width - (again.visible ? again.width + Theme.unit : 0)
+        height: Theme.controlHeight
+        objectName: "snapshotName"
+        text: root.entry?.name ?? ""
+    }
+    OVLinkButton {
+        id: again
+        anchors.right: parent.right
+        y: frame.height + (Theme.controlHeight - height) / 2
+        enabled: !root.waits
+        objectName: "snapshotAgain" + (root.entry?.channel ?? "")
+        text: qsTr("重新抓取")
+        visible: root.stage === Snapshots.Failed || root.stage === Snapshots.Taken
+        onClicked: root.againRequested()
+    }
+}

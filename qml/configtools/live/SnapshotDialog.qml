@@ -1,0 +1,64 @@
+// The snapshots of a device: its channels with their pictures as they come, and what went wrong.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+OVDialog {
+    id: root
+
+    required property Snapshots snapshots
+    signal againRequested(int channel)
+    signal folderRequested
+
+    readonly property int columns: Math.max(1, Math.min(4, snapshots.results.length))
+    readonly property int failures: snapshots.results.filter(entry => entry.state === Snapshots.Failed).length
+
+    width: Math.min(Theme.snapshotWidth * columns + Theme.controlGap * (columns - 1) + 2 * Theme.pageMargin,
+                    (parent?.width ?? 0) - 4 * Theme.pageMargin)
+    cancelText: qsTr("关闭")
+    objectName: "snapshotDialog"
+    okEnabled: !snapshots.busy && snapshots.results.some(entry => entry.state === Snapshots.Taken)
+    okText: qsTr("打开文件夹")
+    title: qsTr("抓图")
+    onAccepted: folderRequested()
+
+    footContent: OVLabel {
+        anchors.fill: parent
+        color: root.failures > 0 && !root.snapshots.busy ? Theme.colours.bad : Theme.colours.sub
+        objectName: "snapshotSummary"
+        text: root.snapshots.busy
+            ? qsTr("正在抓图 %1 / %2").arg(Math.min(root.snapshots.done + 1, root.snapshots.results.length))
+                                      .arg(root.snapshots.results.length)
+            : root.failures > 0 ? qsTr("成功 %1，失败 %2").arg(root.snapshots.results.length - root.failures)
+                                                          .arg(root.failures)
+            : qsTr("成功 %1").arg(root.snapshots.results.length)
+    }
+
+    GridView {
+        id: view
+        width: parent.width
+        height: Math.min(Math.ceil(count / root.columns) * cellHeight, Theme.snapshotsHeight)
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        cellHeight: cellWidth * 9 / 16 + Theme.controlHeight + Theme.controlGap
+        cellWidth: Math.floor(width / root.columns)
+        clip: true
+        model: root.snapshots.results.length
+        objectName: "snapshotGrid"
+
+        T.ScrollBar.vertical: OVScrollBar {}
+
+        // qmllint disable unqualified
+        delegate: SnapshotCell {
+            required property int index
+
+            width: view.cellWidth - Theme.controlGap
+            height: view.cellHeight - Theme.controlGap
+            entry: root.snapshots.results[index] ?? null
+            revision: root.snapshots.taken
+            waits: root.snapshots.busy
+            onAgainRequested: root.againRequested(entry.channel)
+        }
+        // qmllint enable unqualified
+    }
+}

@@ -1,0 +1,79 @@
+// Takes snapshots of a device's channels and keeps what came of them.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    property string folder            // of the device, below the folder of all snapshots
+    property var results: []          // maps of "channel", "name", "state", "picture", "message", in their order
+    property int running: 0           // channels that are still to be reported
+    readonly property bool busy: running > 0
+    readonly property int done: results.filter(entry => entry.state !== Snapshots.Waiting
+                                                       && entry.state !== Snapshots.Taking).length
+    property int taken: 0             // rises with each picture, so that one that is written anew is read anew
+    signal finished(int channel)
+
+    enum State { Waiting, Taking, Taken, Failed }
+
+    /// A device's address as the name of a folder.
+    function folderOf(ipport) {
+        return ipport.replace(/[^0-9A-Za-z._-]+/g, "_");
+    }
+
+    function takeAll(ipport, channels) {
+        folder = folderOf(ipport);
+        results = channels.map((entry, place) => ({
+            channel: entry.channel, name: entry.name, picture: "", message: "",
+            state: place === 0 ? Snapshots.Taking : Snapshots.Waiting
+        }));
+        running = results.length;
+        deviceFactory.startSnap("dh", 0, folder);
+    }
+
+    /// Takes one channel, anew when it was taken before.
+    function take(ipport, entry) {
+        const wanted = folderOf(ipport);
+        if (wanted !== folder)
+            results = [];
+        folder = wanted;
+        if (!results.some(other => other.channel === entry.channel))
+            results = results.concat([{channel: entry.channel, name: entry.name, picture: "", message: "",
+                                       state: Snapshots.Waiting}]);
+        change(entry.channel, {state: Snapshots.Taking, message: ""});
+        running += 1;
+        deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folder);
+    }
+
+    function change(channel, values) {
+        results = results.map(entry => entry.channel === channel ? Object.assign({}, entry, values) : entry);
+    }
+
+    function note(channel, picture, message) {
+        if (running === 0)
+            return;
+        running -= 1;
+        taken += 1;
+        change(channel, {picture: picture, message: message,
+                         state: picture !== "" ? Snapshots.Taken : Snapshots.Failed});
+        finished(channel);
+    }
+
+    visible: false
+
+    Connections {
+        target: root.deviceFactory
+
+        function onSignalSnapPictureToFile(channel, picture, message) {
+            root.note(channel, picture, message);
+            // They are taken in their order.
+            const next = root.results.find(entry => entry.state === Snapshots.Waiting);
+            if (next && root.busy)
+                root.change(next.channel, {state: Snapshots.Taking});
+        }
+        function onSignalSnapPictureToFileAgain(channel, picture, message) {
+            root.note(channel, picture, message);
+        }
+    }
+}
