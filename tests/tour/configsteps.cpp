@@ -251,7 +251,9 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     choose(driver, first);
     driver.click(u"configTab1"_s);
     awaitIdle(driver);
-    driver.report(u"config-image"_s, driver.text(u"channelPictureName"_s));
+    driver.await(u"the live picture is there"_s,
+                 [&] { return driver.require(u"liveVideo"_s)->property("hasPicture").toBool(); });
+    driver.report(u"config-image"_s, driver.text(u"liveChannelName"_s));
     slide(driver, u"picture_brightnessSlider"_s, Qt::Key_PageUp, 60);
     pick(driver, u"picture_colorStyle"_s, 2);
     driver.click(u"mirror_value"_s);
@@ -259,7 +261,7 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     driver.fill(u"channelNameField"_s, u"East gate"_s);
     driver.key(Qt::Key_Return);
     awaitIdle(driver);
-    driver.check(driver.text(u"channelPictureName"_s) == u"East gate", u"the channel has its new name"_s);
+    driver.check(driver.text(u"liveChannelName"_s) == u"East gate", u"the channel has its new name"_s);
     driver.click(u"imageSubject1"_s);
     pick(driver, u"shutterChoice"_s, 4);
     pick(driver, u"backMode_backlightmode"_s, 1);

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QPainter>
 #include <QTest>
 #include <QTextStream>
 
@@ -40,6 +41,27 @@ void collectTexts(QQuickItem *item, const QString &name, QStringList &texts)
 QPoint middleOf(const QQuickItem *item)
 {
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+void blankVideo(QQuickItem *item, QPainter &painter)
+{
+    if (!item->isVisible())
+        return;
+    if (item->objectName() == u"liveVideo")
+        painter.fillRect(item->mapRectToScene(item->boundingRect()), Qt::black);
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
+        blankVideo(child, painter);
+}
+
+/// What is on the window, with live pictures blanked.
+QImage withoutVideo(QQuickWindow *window)
+{
+    QImage image = window->grabWindow();
+    image.setDevicePixelRatio(window->effectiveDevicePixelRatio());
+    QPainter painter(&image);
+    blankVideo(window->contentItem(), painter);
+    return image;
 }
 
 } // namespace
@@ -151,12 +173,12 @@ void Driver::report(const QString &step, const QString &seen)
 
 void Driver::atRest() const
 {
-    // Two pictures alike, a moment apart: animations have ended. What moves for good (a search that runs) is
-    // given up on after a while.
+    // Two pictures alike, a moment apart, but for live video: animations have ended. What else moves for good
+    // (a search that runs) is given up on after a while.
     constexpr int tries = 12;
     QImage before;
     for (int attempt = 0; attempt < tries; ++attempt) {
-        const QImage now = m_window->grabWindow();
+        const QImage now = withoutVideo(m_window);
         if (now == before)
             return;
         before = now;

@@ -75,6 +75,7 @@ int watch(const QString &language, const QString &folder)
     QDir().mkpath(folder);
     QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/LocalConfig.ini"));
     QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/fav")).removeRecursively();
+    QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/snap")).removeRecursively();
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
 
@@ -121,6 +122,7 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkTable(driver);
     walkWindow(driver);
     walkConfiguration(driver, site);
+    walkLive(driver, site, folder + QStringLiteral("/live"));
     walkAdding(driver);
     walkSearchSettings(driver);
     walkDevices(driver);

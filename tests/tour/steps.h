@@ -26,6 +26,8 @@ void walkAdding(Driver &driver);
 void walkSystem(Driver &driver);
 /// Encode and image settings of single devices, and copying them to others, of which one can do less.
 void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site);
+/// Live pictures of a camera and of a recorder, and snapshots; their pictures go into `folder`.
+void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

@@ -1,0 +1,210 @@
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/fault.h"
+#include "tests/tour/driver.h"
+#include "tests/tour/steps.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQuickItem>
+#include <QSize>
+#include <QTest>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString camera = u"192.168.1.101:8800"_s;
+const QString cameraMac = u"02:1a:c5:00:40:25"_s;
+const QString recorder = u"192.168.1.120:8800"_s;
+
+/// Looks a device up in the main window and asks for its live picture.
+QQuickWindow *openLive(Driver &driver, const QString &ipport)
+{
+    driver.click(u"tab0"_s);
+    driver.fill(u"searchField"_s, ipport.section(u':', 0, 0));
+    driver.await(u"the device is the only one in the table"_s,
+                 [&] { return driver.find(u"live0"_s) && !driver.find(u"live1"_s); });
+    driver.click(u"live0"_s);
+    QQuickWindow *window = nullptr;
+    driver.await(u"the live window opens"_s, [&] {
+        for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
+            if (candidate->objectName() == u"liveWindow" && candidate->isVisible())
+                window = qobject_cast<QQuickWindow *>(candidate);
+        }
+        return window && window->isExposed();
+    });
+    return window;
+}
+
+QQuickItem *videoIn(const Driver &live, int place)
+{
+    const QQuickItem *player = live.find(u"livePlace%1"_s.arg(place));
+    return player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
+}
+
+QSize pictureSize(const Driver &live, int place)
+{
+    const QQuickItem *video = videoIn(live, place);
+    return video ? video->property("pictureSize").toSize() : QSize();
+}
+
+bool plays(const Driver &live, int place)
+{
+    return !pictureSize(live, place).isEmpty();
+}
+
+void awaitPictures(const Driver &live, int places)
+{
+    live.await(u"%1 live pictures are there"_s.arg(places), [&] {
+        for (int place = 0; place < places; ++place) {
+            if (!plays(live, place))
+                return false;
+        }
+        return true;
+    });
+}
+
+void turnWheel(const Driver &live, QPointF place, int notches)
+{
+    constexpr int notch = 120;
+    QWheelEvent event(place, live.window()->mapToGlobal(place), {}, {0, notch * notches}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(live.window(), &event);
+}
+
+void walkCamera(Driver &live)
+{
+    awaitPictures(live, 1);
+    live.report(u"camera"_s, live.text(u"liveChannelName"_s));
+    live.key(Qt::Key_I);
+    live.await(u"the stream's figures are known"_s,
+               [&] { return live.text(u"liveFigures"_s).contains(u"H.26"_s); });
+    live.report(u"figures"_s, live.text(u"liveFigures"_s).replace(u'\n', u' '));
+    live.key(Qt::Key_I);
+
+    QQuickItem *video = videoIn(live, 0);
+    const QPointF corner(video->width() / 4, video->mapToScene({0, video->height() / 4}).y());
+    turnWheel(live, corner, 4);
+    live.check(video->property("zoomLevel").toInt() == 4, u"the wheel zooms"_s);
+    live.report(u"zoomed"_s, u"about the pointer"_s);
+    const QPoint from = video->mapToScene({video->width() / 2, video->height() / 2}).toPoint();
+    QTest::mousePress(live.window(), Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(live.window(), from - QPoint(120, 60));
+    QTest::mouseRelease(live.window(), Qt::LeftButton, Qt::NoModifier, from - QPoint(120, 60));
+    live.report(u"panned"_s, u"dragged to the left and up"_s);
+    turnWheel(live, from, -20);
+    live.check(video->property("zoomLevel").toInt() == 0, u"the whole picture is back"_s);
+
+    live.click(u"liveStretchButton"_s);
+    live.report(u"stretched"_s, u"the picture fills its place"_s);
+    live.click(u"liveStretchButton"_s);
+    live.click(u"liveSoundButton"_s);
+    live.check(video->property("isAudioOutput").toBool(), u"the sound is on"_s);
+    live.key(Qt::Key_M);
+    live.check(!video->property("isAudioOutput").toBool(), u"the sound is off"_s);
+}
+
+/// The encode page sets another size, and the picture follows.
+void walkOtherSize(Driver &driver, Driver &live)
+{
+    const QSize before = pictureSize(live, 0);
+    driver.click(u"tab2"_s);
+    driver.click(u"device_"_s + camera);
+    driver.require(u"mainResolutionChoice"_s);
+    driver.await(u"the device was asked"_s, [&] { return !driver.text(u"configState"_s).endsWith(u'…'); });
+    awaitPictures(live, 1); // the page has logged in anew
+    driver.click(u"mainResolutionChoice"_s);
+    driver.key(Qt::Key_End);
+    driver.key(Qt::Key_Return);
+    driver.click(u"encodeSaveButton"_s);
+    live.await(u"the live picture has the new size"_s,
+               [&] { return plays(live, 0) && pictureSize(live, 0) != before; });
+    live.report(u"other-size"_s, u"%1 x %2 instead of %3 x %4"_s.arg(pictureSize(live, 0).width())
+                                     .arg(pictureSize(live, 0).height())
+                                     .arg(before.width())
+                                     .arg(before.height()));
+}
+
+void walkBreak(Driver &live, sdk::demo::DemoSite &site)
+{
+    site.setFault(cameraMac, {.fault = sdk::demo::Fault::DropsStreamAfter, .number = 1, .text = {}});
+    live.await(u"the break is told"_s, [&] { return live.find(u"liveRetryText"_s) != nullptr; });
+    live.report(u"broken"_s, u"%1, %2"_s.arg(live.text(u"liveStateText"_s), live.text(u"liveRetryText"_s)));
+    site.clearFault(cameraMac, sdk::demo::Fault::DropsStreamAfter);
+    awaitPictures(live, 1);
+    live.report(u"back"_s, live.text(u"liveChannelName"_s));
+}
+
+void walkRecorder(Driver &live)
+{
+    awaitPictures(live, 4);
+    live.report(u"recorder"_s, live.text(u"liveTitle"_s));
+    const QSize small = pictureSize(live, 1);
+    live.doubleClick(u"livePlace1"_s);
+    live.await(u"the enlarged picture is that of the main stream"_s,
+               [&] { return plays(live, 1) && pictureSize(live, 1).width() > small.width(); });
+    live.report(u"enlarged"_s, live.text(u"liveChannelName"_s));
+    live.key(Qt::Key_Escape);
+    awaitPictures(live, 4);
+    live.click(u"liveChannel6"_s);
+    live.await(u"a channel without a camera says so"_s, [&] {
+        return live.texts(u"liveStateText"_s)
+            .contains(QCoreApplication::translate("OV_MediaPlayer", "通道未连接"));
+    });
+    live.report(u"not-connected"_s, live.texts(u"liveStateText"_s).join(u' '));
+    live.click(u"liveNineButton"_s);
+    awaitPictures(live, 6);
+    live.report(u"nine"_s, live.text(u"livePage"_s));
+    live.click(u"liveNextButton"_s);
+    awaitPictures(live, 2);
+    live.click(u"liveOneButton"_s);
+    live.key(Qt::Key_F11);
+    live.await(u"the window fills the screen"_s,
+               [&] { return live.window()->visibility() == QWindow::FullScreen; });
+    awaitPictures(live, 1);
+    live.report(u"full-screen"_s, live.text(u"liveChannelName"_s));
+    live.key(Qt::Key_Escape);
+    live.await(u"the window has its frame again"_s,
+               [&] { return live.window()->visibility() == QWindow::Windowed; });
+}
+
+void walkSnapshots(Driver &live)
+{
+    live.click(u"liveSnapAllButton"_s);
+    live.await(u"the first snapshot is there"_s, [&] { return live.find(u"snapshotPicture"_s) != nullptr; });
+    live.report(u"snapshots-running"_s, live.text(u"snapshotSummary"_s));
+    const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %1，失败 %2").arg(11).arg(5);
+    live.await(
+        u"every channel was taken or told why not"_s,
+        [&] { return live.text(u"snapshotSummary"_s) == expected; }, 90);
+    live.report(u"snapshots"_s, live.text(u"snapshotSummary"_s));
+    live.click(u"snapshotAgain0"_s);
+    live.await(u"the retry ends"_s, [&] { return live.text(u"snapshotSummary"_s) == expected; });
+
+    const QDir folder(u"snap/192.168.1.120_8800"_s);
+    const QStringList files = folder.entryList({u"*.jpg"_s}, QDir::Files);
+    live.check(files.size() == 11, u"a file for each connected channel"_s);
+    for (const QString &file : files)
+        live.check(!QImage(folder.filePath(file)).isNull(), u"%1 is a picture"_s.arg(file));
+    live.key(Qt::Key_Escape);
+    live.await(u"the snapshots are closed"_s, [&] { return !live.find(u"snapshotGrid"_s); });
+}
+
+} // namespace
+
+void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
+{
+    Driver live(openLive(driver, camera), folder);
+    walkCamera(live);
+    walkOtherSize(driver, live);
+    walkBreak(live, site);
+    openLive(driver, recorder);
+    walkRecorder(live);
+    walkSnapshots(live);
+    live.click(u"liveCloseButton"_s);
+    driver.await(u"the live window is closed"_s, [&] { return !live.window()->isVisible(); });
+    driver.fill(u"searchField"_s, QString());
+    driver.key(Qt::Key_Escape);
+}
