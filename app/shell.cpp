@@ -15,6 +15,7 @@
 #include "media/videoitem.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 
 #include <QApplication>
 #include <QFile>
@@ -110,6 +111,7 @@ bool Shell::chooseLibraries()
         return false;
     }
     m_libraries = site->libraries();
+    m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
     return true;
 }
 

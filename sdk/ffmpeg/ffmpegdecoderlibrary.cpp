@@ -1,0 +1,130 @@
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+
+#include "sdk/ffmpeg/internal/decoderport.h"
+#include "sdk/ffmpeg/internal/logging.h"
+#include "sdk/ffmpeg/internal/savedpicture.h"
+#include "sdk/ffmpeg/internal/trackdecoder.h"
+
+#include <QFile>
+
+namespace sdk::ffmpeg {
+
+namespace {
+
+constexpr std::int32_t mostPorts = 512;
+
+/// Bytes from a caller; null with a size is refused before.
+std::span<const std::uint8_t> bytesOf(const std::uint8_t *data, std::uint32_t size)
+{
+    return data ? std::span(data, size) : std::span<const std::uint8_t>();
+}
+
+} // namespace
+
+FfmpegDecoderLibrary::FfmpegDecoderLibrary()
+{
+    routeLog();
+}
+
+FfmpegDecoderLibrary::~FfmpegDecoderLibrary() = default;
+
+bool FfmpegDecoderLibrary::DecoderAllocPort(std::int32_t &port)
+{
+    const std::lock_guard lock(m_mutex);
+    for (std::int32_t number = 0; number < mostPorts; ++number) {
+        if (m_ports.contains(number))
+            continue;
+        m_ports.emplace(number, std::make_shared<DecoderPort>(number));
+        port = number;
+        return true;
+    }
+    return false;
+}
+
+bool FfmpegDecoderLibrary::DecoderSetStreamMode(std::int32_t port, std::uint32_t mode)
+{
+    return portOf(port) && mode == 0;
+}
+
+bool FfmpegDecoderLibrary::DecoderOpenStream(std::int32_t port, const std::uint8_t *header,
+                                             std::uint32_t headerSize, std::uint32_t bufferSize)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    return found && (header || headerSize == 0) && found->open(bytesOf(header, headerSize), bufferSize);
+}
+
+bool FfmpegDecoderLibrary::DecoderSetDecodeCallback(std::int32_t port, DecodeHandler handler, void *user)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    if (found)
+        found->setHandler(handler, user);
+    return found != nullptr;
+}
+
+bool FfmpegDecoderLibrary::DecoderPlay(std::int32_t port, std::uintptr_t)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    return found && found->play();
+}
+
+bool FfmpegDecoderLibrary::DecoderInputData(std::int32_t port, const std::uint8_t *data, std::uint32_t size)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    return found && (data || size == 0) && found->input(bytesOf(data, size));
+}
+
+bool FfmpegDecoderLibrary::DecoderStop(std::int32_t port)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    return found && found->stop();
+}
+
+bool FfmpegDecoderLibrary::DecoderCloseStream(std::int32_t port)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    return found && found->close();
+}
+
+bool FfmpegDecoderLibrary::DecoderFreePort(std::int32_t port)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    if (!found)
+        return false;
+    found->close(); // whoever still pushes data holds the port for that moment, but no thread of it runs
+    const std::lock_guard lock(m_mutex);
+    m_ports.erase(port);
+    return true;
+}
+
+bool FfmpegDecoderLibrary::DecoderGetStatus(std::int32_t port, DecoderStatus &status)
+{
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    if (found)
+        status = found->status();
+    return found != nullptr;
+}
+
+bool FfmpegDecoderLibrary::DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width,
+                                            std::int32_t height, SavedPictureType type, std::int32_t quality,
+                                            const char *fileName)
+{
+    constexpr std::int32_t bestQuality = 100;
+    if (!picture || !isUsableSize(width, height) || type != SavedPictureType::Jpeg || quality < 1 ||
+        quality > bestQuality || !fileName) {
+        return false;
+    }
+    return savePicture(picture, width, height, quality, QFile::decodeName(fileName));
+}
+
+std::shared_ptr<DecoderPort> FfmpegDecoderLibrary::portOf(std::int32_t number) const
+{
+    if (DecoderPort::isInsideHandler()) {
+        qCWarning(ffmpegLog, "An operation on port %d was called from a handler, and is refused", number);
+        return nullptr;
+    }
+    const std::lock_guard lock(m_mutex);
+    const auto found = m_ports.find(number);
+    return found == m_ports.end() ? nullptr : found->second;
+}
+
+} // namespace sdk::ffmpeg

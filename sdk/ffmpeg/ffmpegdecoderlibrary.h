@@ -1,0 +1,53 @@
+// The decoder role on FFmpeg.
+#pragma once
+
+#include "sdk/decoderlibrary.h"
+
+#include <map>
+#include <memory>
+#include <mutex>
+
+namespace sdk::ffmpeg {
+
+class DecoderPort;
+
+/// Decodes Matroska streams as they are written live: pictures in H.264, H.265 and MJPEG, sound in G.711, AAC
+/// and 16-bit PCM. A stream begins with its header; another header in the middle begins another stream, in
+/// whatever size and encoding. What is damaged is left out. Pictures are delivered one by one as they arrive,
+/// up to a size of 8192 x 4320.
+///
+/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. FFmpeg's own lines go
+/// to the logging category "configtools.sdk.ffmpeg", for the whole process, from the first library on.
+class FfmpegDecoderLibrary final : public DecoderLibrary
+{
+public:
+    FfmpegDecoderLibrary();
+
+    /// Frees all ports.
+    ~FfmpegDecoderLibrary() override;
+
+    FfmpegDecoderLibrary(const FfmpegDecoderLibrary &) = delete;
+    FfmpegDecoderLibrary &operator=(const FfmpegDecoderLibrary &) = delete;
+
+    bool DecoderAllocPort(std::int32_t &port) override;
+    bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) override;
+    bool DecoderOpenStream(std::int32_t port, const std::uint8_t *header, std::uint32_t headerSize,
+                           std::uint32_t bufferSize) override;
+    bool DecoderSetDecodeCallback(std::int32_t port, DecodeHandler handler, void *user) override;
+    bool DecoderPlay(std::int32_t port, std::uintptr_t window) override;
+    bool DecoderInputData(std::int32_t port, const std::uint8_t *data, std::uint32_t size) override;
+    bool DecoderStop(std::int32_t port) override;
+    bool DecoderCloseStream(std::int32_t port) override;
+    bool DecoderFreePort(std::int32_t port) override;
+    bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) override;
+    bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
+                          SavedPictureType type, std::int32_t quality, const char *fileName) override;
+
+private:
+    [[nodiscard]] std::shared_ptr<DecoderPort> portOf(std::int32_t number) const;
+
+    mutable std::mutex m_mutex;
+    std::map<std::int32_t, std::shared_ptr<DecoderPort>> m_ports;
+};
+
+} // namespace sdk::ffmpeg

@@ -1,0 +1,74 @@
+// One port of the decoder library.
+#pragma once
+
+#include "sdk/decoderlibrary.h"
+#include "sdk/ffmpeg/internal/inputqueue.h"
+#include "sdk/ffmpeg/internal/picturering.h"
+#include "sdk/ffmpeg/internal/streamdecoder.h"
+#include "sdk/ffmpeg/internal/streamsource.h"
+
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace sdk::ffmpeg {
+
+/// Its operations are those of DecoderLibrary, and may be called from the threads that are named there.
+/// Between play() and stop() it has a thread, which decodes and calls the handler.
+class DecoderPort final : private StreamObserver
+{
+public:
+    explicit DecoderPort(std::int32_t number) : m_number(number) {}
+
+    /// Ends decoding, and the port's pictures.
+    ~DecoderPort() override;
+
+    DecoderPort(const DecoderPort &) = delete;
+    DecoderPort &operator=(const DecoderPort &) = delete;
+
+    [[nodiscard]] bool open(std::span<const std::uint8_t> header, std::size_t bufferSize);
+    void setHandler(DecodeHandler handler, void *user);
+    [[nodiscard]] bool play();
+    [[nodiscard]] bool input(std::span<const std::uint8_t> bytes);
+
+    /// Returns false when it does not play.
+    bool stop();
+
+    /// Stops as well. Returns false when it is not open.
+    bool close();
+
+    [[nodiscard]] DecoderStatus status() const;
+
+    /// Whether the calling thread is in the handler of a port.
+    [[nodiscard]] static bool isInsideHandler();
+
+private:
+    /// What was pushed in between open() and close().
+    struct Input
+    {
+        explicit Input(std::size_t limit) : queue(limit) {}
+        InputQueue queue;
+        StreamSource source{queue}; // of the thread that decodes
+    };
+
+    void run(const std::stop_token &stop);
+    void codecsFound(std::string_view video, std::string_view audio) override;
+    void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) override;
+    void damaged() override;
+    [[nodiscard]] std::shared_ptr<Input> currentInput() const;
+
+    const std::int32_t m_number;
+
+    mutable std::mutex m_mutex;     // for the two below
+    std::shared_ptr<Input> m_input; // null while closed
+    DecoderStatus m_status{};
+
+    std::mutex m_handlerMutex; // held while the handler runs
+    DecodeHandler m_handler = nullptr;
+    void *m_user = nullptr;
+
+    PictureRing m_ring; // of the thread that decodes
+    std::jthread m_thread;
+};
+
+} // namespace sdk::ffmpeg

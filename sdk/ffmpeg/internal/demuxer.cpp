@@ -1,0 +1,82 @@
+#include "sdk/ffmpeg/internal/demuxer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace sdk::ffmpeg {
+
+namespace {
+
+constexpr int readAhead = 32 * 1024; // at most: a read returns what is there
+
+} // namespace
+
+Demuxer::Demuxer(StreamSource &source, std::stop_token stop) : m_source(source), m_stop(std::move(stop)) {}
+
+Demuxer::~Demuxer()
+{
+    m_format.reset(); // it reads from the input until it is closed
+}
+
+bool Demuxer::open()
+{
+    auto *buffer = static_cast<unsigned char *>(av_malloc(readAhead));
+    m_input.reset(avio_alloc_context(buffer, readAhead, 0, this, &Demuxer::readBytes, nullptr, nullptr));
+    if (!m_input) {
+        av_free(buffer);
+        return false;
+    }
+    m_input->seekable = 0;
+
+    AVFormatContext *format = avformat_alloc_context();
+    if (!format)
+        return false;
+    format->pb = m_input.get();
+    format->flags |= AVFMT_FLAG_CUSTOM_IO;
+    format->interrupt_callback = {&Demuxer::isInterrupted, this};
+    // The kind of container is not guessed, nor are pictures looked at before they are decoded: both would
+    // hold the first ones back.
+    if (avformat_open_input(&format, nullptr, av_find_input_format("matroska"), nullptr) != 0)
+        return false; // the context is gone
+    m_format.reset(format);
+    for (unsigned track = 0; track < m_format->nb_streams; ++track)
+        m_format->streams[track]->discard = AVDISCARD_ALL;
+    return true;
+}
+
+const AVStream *Demuxer::useTrack(AVMediaType type, std::initializer_list<AVCodecID> codecs)
+{
+    const std::span<AVStream *> tracks(m_format->streams, m_format->nb_streams);
+    const auto isUsable = [&](const AVStream *track) {
+        return track->codecpar->codec_type == type &&
+               std::find(codecs.begin(), codecs.end(), track->codecpar->codec_id) != codecs.end();
+    };
+    const auto found = std::find_if(tracks.begin(), tracks.end(), isUsable);
+    if (found == tracks.end())
+        return nullptr;
+    (*found)->discard = AVDISCARD_DEFAULT;
+    return *found;
+}
+
+bool Demuxer::read(AVPacket &packet)
+{
+    if (av_read_frame(m_format.get(), &packet) != 0)
+        return false;
+    m_source.noteProgress();
+    return true;
+}
+
+int Demuxer::readBytes(void *demuxer, std::uint8_t *destination, int size)
+{
+    auto *self = static_cast<Demuxer *>(demuxer);
+    const std::size_t count =
+        self->m_source.read({destination, static_cast<std::size_t>(std::max(size, 0))}, self->m_stop);
+    return count > 0 ? static_cast<int>(count) : AVERROR_EOF;
+}
+
+int Demuxer::isInterrupted(void *demuxer)
+{
+    return static_cast<Demuxer *>(demuxer)->m_stop.stop_requested() ? 1 : 0;
+}
+
+} // namespace sdk::ffmpeg

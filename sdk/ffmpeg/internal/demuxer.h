@@ -1,0 +1,40 @@
+// Takes one live stream apart.
+#pragma once
+
+#include "sdk/ffmpeg/internal/avpointers.h"
+#include "sdk/ffmpeg/internal/streamsource.h"
+
+#include <initializer_list>
+
+namespace sdk::ffmpeg {
+
+/// Reads from a source until its stream ends, or a stop is requested. On one thread.
+class Demuxer
+{
+public:
+    Demuxer(StreamSource &source, std::stop_token stop);
+    ~Demuxer();
+    Demuxer(const Demuxer &) = delete;
+    Demuxer &operator=(const Demuxer &) = delete;
+
+    /// Reads the head of the stream. Returns false when it is none.
+    [[nodiscard]] bool open();
+
+    /// The first track in one of these encodings; null without one. Tracks that were not asked for are
+    /// skipped.
+    [[nodiscard]] const AVStream *useTrack(AVMediaType type, std::initializer_list<AVCodecID> codecs);
+
+    /// Waits for the next piece of the tracks in use. Returns false at the end.
+    [[nodiscard]] bool read(AVPacket &packet);
+
+private:
+    static int readBytes(void *demuxer, std::uint8_t *destination, int size);
+    static int isInterrupted(void *demuxer);
+
+    StreamSource &m_source;
+    const std::stop_token m_stop;
+    AvPointer<AVIOContext> m_input;
+    AvPointer<AVFormatContext> m_format;
+};
+
+} // namespace sdk::ffmpeg

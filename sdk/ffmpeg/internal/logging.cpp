@@ -1,0 +1,37 @@
+#include "sdk/ffmpeg/internal/logging.h"
+
+#include "sdk/ffmpeg/internal/avpointers.h"
+
+#include <array>
+#include <cstdarg>
+#include <cstring>
+#include <mutex>
+
+namespace sdk::ffmpeg {
+
+Q_LOGGING_CATEGORY(ffmpegLog, "configtools.sdk.ffmpeg", QtInfoMsg)
+
+namespace {
+
+/// Called by FFmpeg on any thread.
+void writeLine(void *source, int level, const char *format, va_list arguments)
+{
+    if (level > AV_LOG_WARNING || !ffmpegLog().isDebugEnabled())
+        return;
+    std::array<char, 400> line{};
+    int withPrefix = 1;
+    av_log_format_line2(source, level, format, arguments, line.data(), static_cast<int>(line.size()),
+                        &withPrefix);
+    line.at(std::strcspn(line.data(), "\r\n")) = '\0';
+    qCDebug(ffmpegLog, "%s", line.data());
+}
+
+} // namespace
+
+void routeLog()
+{
+    static std::once_flag done;
+    std::call_once(done, [] { av_log_set_callback(&writeLine); });
+}
+
+} // namespace sdk::ffmpeg

@@ -1,0 +1,41 @@
+// The layout of pictures: planes as DecodedFrameType::Picture has them, and FFmpeg's frames with padded
+// lines.
+#pragma once
+
+#include "sdk/ffmpeg/internal/avpointers.h"
+
+namespace sdk::ffmpeg {
+
+inline constexpr int planes = 3; // Y, U, V
+
+struct PlaneSize
+{
+    int width;
+    int height;
+
+    [[nodiscard]] std::size_t bytes() const
+    {
+        return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    }
+};
+
+/// Of a plane (from 0) of a picture.
+[[nodiscard]] constexpr PlaneSize planeSize(int plane, int width, int height)
+{
+    return plane == 0 ? PlaneSize{width, height} : PlaneSize{(width + 1) / 2, (height + 1) / 2};
+}
+
+/// Bytes of a whole picture.
+[[nodiscard]] inline std::size_t pictureSize(int width, int height)
+{
+    return planeSize(0, width, height).bytes() + 2 * planeSize(1, width, height).bytes();
+}
+
+/// A frame of its own memory, whose lines the scaler may write beyond; null without memory.
+[[nodiscard]] AvPointer<AVFrame> paddedFrame(AVPixelFormat format, int width, int height);
+
+/// Copies a planar 4:2:0 frame to pictureSize() bytes without padding, and back.
+void copyPlanes(const AVFrame &frame, std::uint8_t *destination);
+void copyPlanes(const std::uint8_t *source, AVFrame &frame);
+
+} // namespace sdk::ffmpeg

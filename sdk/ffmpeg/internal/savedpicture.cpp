@@ -1,0 +1,51 @@
+#include "sdk/ffmpeg/internal/savedpicture.h"
+
+#include "sdk/ffmpeg/internal/avpointers.h"
+#include "sdk/ffmpeg/internal/colours.h"
+#include "sdk/ffmpeg/internal/logging.h"
+#include "sdk/ffmpeg/internal/planarpicture.h"
+
+#include <QImage>
+#include <QSaveFile>
+
+namespace sdk::ffmpeg {
+
+namespace {
+
+/// The picture as blue, green, red and a spare byte for each pixel; null when that cannot be made.
+AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height)
+{
+    const AvPointer<AVFrame> source = paddedFrame(AV_PIX_FMT_YUV420P, width, height);
+    AvPointer<AVFrame> rgb = paddedFrame(AV_PIX_FMT_RGB32, width, height);
+    const AvPointer<SwsContext> scaler(sws_getContext(width, height, AV_PIX_FMT_YUV420P, width, height,
+                                                      AV_PIX_FMT_RGB32, SWS_BILINEAR, nullptr, nullptr,
+                                                      nullptr));
+    if (!source || !rgb || !scaler)
+        return nullptr;
+    copyPlanes(picture, *source);
+    const PictureColour colour = usualPictureColour(height);
+    const int *matrix = colourMatrix(colour);
+    sws_setColorspaceDetails(scaler.get(), matrix, isFullRange(colour) ? 1 : 0, matrix, 1, 0, 1 << 16,
+                             1 << 16);
+    const int lines =
+        sws_scale(scaler.get(), source->data, source->linesize, 0, height, rgb->data, rgb->linesize);
+    return lines == height ? std::move(rgb) : nullptr;
+}
+
+} // namespace
+
+bool savePicture(const std::uint8_t *picture, int width, int height, int quality, const QString &path)
+{
+    const AvPointer<AVFrame> rgb = toRgb(picture, width, height);
+    if (!rgb)
+        return false;
+    const QImage image(rgb->data[0], width, height, rgb->linesize[0], QImage::Format_RGB32);
+    // Written beside the file and put in its place by a rename.
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && image.save(&file, "JPG", quality) && file.commit())
+        return true;
+    qCWarning(ffmpegLog).noquote() << "cannot write the picture" << path << '-' << file.errorString();
+    return false;
+}
+
+} // namespace sdk::ffmpeg

@@ -1,0 +1,58 @@
+// Decodes one live stream.
+#pragma once
+
+#include "sdk/decoderlibrary.h"
+#include "sdk/ffmpeg/internal/demuxer.h"
+#include "sdk/ffmpeg/internal/pictureconverter.h"
+#include "sdk/ffmpeg/internal/picturering.h"
+#include "sdk/ffmpeg/internal/soundconverter.h"
+#include "sdk/ffmpeg/internal/trackdecoder.h"
+
+#include <string_view>
+
+namespace sdk::ffmpeg {
+
+/// Who is told what comes out of a stream, on the decoding thread.
+class StreamObserver
+{
+public:
+    virtual ~StreamObserver() = default;
+
+    /// The encodings as DecoderStatus has them; empty for a track that is not there.
+    virtual void codecsFound(std::string_view video, std::string_view audio) = 0;
+
+    /// A picture or a piece of sound. Pictures are in the ring, sound ends with the call.
+    virtual void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) = 0;
+
+    /// A piece of the stream could not be decoded.
+    virtual void damaged() = 0;
+};
+
+/// From its head to its end, on one thread.
+class StreamDecoder
+{
+public:
+    StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, std::stop_token stop);
+
+    /// Decodes until the stream ends, is given up or a stop is requested. Returns whether anything of it
+    /// could be read.
+    bool run();
+
+private:
+    [[nodiscard]] bool open();
+    void decode(const AVPacket &packet);
+    void deliverPicture(const AVFrame &frame);
+    void deliverSound(const AVFrame &frame);
+
+    StreamSource &m_source;
+    PictureRing &m_ring;
+    StreamObserver &m_observer;
+    const std::stop_token m_stop;
+    Demuxer m_demuxer;
+    std::unique_ptr<TrackDecoder> m_pictures; // null without such a track
+    std::unique_ptr<TrackDecoder> m_sound;
+    PictureConverter m_pictureConverter;
+    SoundConverter m_soundConverter;
+};
+
+} // namespace sdk::ffmpeg

@@ -1,0 +1,72 @@
+#include "sdk/ffmpeg/internal/trackdecoder.h"
+
+#include <cmath>
+#include <utility>
+
+namespace sdk::ffmpeg {
+
+TrackDecoder::TrackDecoder(AvPointer<AVCodecContext> context, AvPointer<AVFrame> frame, const AVStream &track)
+    : m_context(std::move(context)), m_frame(std::move(frame)), m_track(track.index),
+      m_containerRate(track.avg_frame_rate),
+      // Its decoder makes up what the first pictures refer to, that of H.264 waits by itself.
+      m_waitsForKey(m_context->codec_id == AV_CODEC_ID_HEVC)
+{
+}
+
+std::unique_ptr<TrackDecoder> TrackDecoder::open(const AVStream &track)
+{
+    const AVCodec *codec = avcodec_find_decoder(track.codecpar->codec_id);
+    AvPointer<AVCodecContext> context(avcodec_alloc_context3(codec));
+    AvPointer<AVFrame> frame(av_frame_alloc());
+    if (!codec || !context || !frame || avcodec_parameters_to_context(context.get(), track.codecpar) < 0)
+        return nullptr;
+    context->pkt_timebase = track.time_base;
+    context->thread_count = 1;
+    context->max_pixels = mostPixels;
+    // Pictures are cut exactly to their size: they are copied anyway.
+    context->flags |= AV_CODEC_FLAG_UNALIGNED;
+    if (avcodec_open2(context.get(), codec, nullptr) < 0)
+        return nullptr;
+    return std::unique_ptr<TrackDecoder>(new TrackDecoder(std::move(context), std::move(frame), track));
+}
+
+bool TrackDecoder::decode(const AVPacket &packet, const FrameHandler &handler)
+{
+    if (m_waitsForKey && (packet.flags & AV_PKT_FLAG_KEY) == 0)
+        return true;
+    m_waitsForKey = false;
+    const bool isTaken = avcodec_send_packet(m_context.get(), &packet) == 0;
+    return takeFrames(handler) && isTaken;
+}
+
+void TrackDecoder::finish(const FrameHandler &handler)
+{
+    if (avcodec_send_packet(m_context.get(), nullptr) == 0)
+        static_cast<void>(takeFrames(handler));
+}
+
+bool TrackDecoder::takeFrames(const FrameHandler &handler)
+{
+    bool isWhole = true;
+    int result = 0;
+    while ((result = avcodec_receive_frame(m_context.get(), m_frame.get())) == 0) {
+        if (m_frame->decode_error_flags == 0 && (m_frame->flags & AV_FRAME_FLAG_CORRUPT) == 0)
+            handler(*m_frame);
+        else
+            isWhole = false;
+    }
+    return isWhole && (result == AVERROR(EAGAIN) || result == AVERROR_EOF);
+}
+
+int TrackDecoder::pictureRate() const
+{
+    constexpr double highestRate = 1000;
+    for (const AVRational &rate : {m_containerRate, m_context->framerate}) {
+        const double value = rate.num > 0 && rate.den > 0 ? av_q2d(rate) : 0;
+        if (value > 0 && value <= highestRate)
+            return static_cast<int>(std::lround(value));
+    }
+    return 0;
+}
+
+} // namespace sdk::ffmpeg

@@ -1,0 +1,98 @@
+// Live streams as devices send them, made for tests.
+#pragma once
+
+#include "sdk/ffmpeg/internal/avpointers.h"
+
+#include <QByteArray>
+
+#include <array>
+#include <functional>
+
+namespace sdk::ffmpeg {
+
+/// What a picture of a test shows: four patches of one colour each, in reading order.
+struct Patches
+{
+    struct Colour
+    {
+        int y; ///< or red, and so on
+        int u;
+        int v;
+    };
+    std::array<Colour, 4> colours;
+
+    /// Colours that are far from each other, other ones for each number.
+    [[nodiscard]] static Patches numbered(int number);
+
+    /// The patch that covers a point of a picture or of a plane of it.
+    [[nodiscard]] const Colour &at(int x, int y, int width, int height) const
+    {
+        return colours.at((y * 2 < height ? 0U : 2U) + (x * 2 < width ? 0U : 1U));
+    }
+};
+
+/// How the pictures of a stream are encoded.
+struct PictureFormat
+{
+    const char *encoder = "libx264";
+    int width = 64;
+    int height = 36;
+    AVPixelFormat pixels = AV_PIX_FMT_YUV420P;
+    int rate = 25;
+    AVColorSpace colourSpace = AVCOL_SPC_UNSPECIFIED;
+    AVColorRange range = AVCOL_RANGE_UNSPECIFIED;
+    int keyEvery = 5;         ///< pictures
+    const char *options = ""; ///< of the encoder, as "name=value:name=value"
+};
+
+/// How the sound of a stream is encoded.
+struct SoundFormat
+{
+    const char *encoder = "pcm_alaw";
+    int rate = 8000;
+    int channels = 1;
+};
+
+/// A Matroska stream, written live: what was added comes out at once, in a cluster of its own.
+class LiveStream
+{
+public:
+    explicit LiveStream(const PictureFormat &pictures) : LiveStream(&pictures, nullptr) {}
+    explicit LiveStream(const SoundFormat &sound) : LiveStream(nullptr, &sound) {}
+    LiveStream(const PictureFormat &pictures, const SoundFormat &sound) : LiveStream(&pictures, &sound) {}
+    ~LiveStream();
+    LiveStream(const LiveStream &) = delete;
+    LiveStream &operator=(const LiveStream &) = delete;
+
+    /// What begins the stream.
+    [[nodiscard]] const QByteArray &head() const { return m_head; }
+
+    /// The bytes of the next picture.
+    [[nodiscard]] QByteArray picture(const Patches &patches);
+
+    /// Of so many pictures, numbered from `first` on.
+    [[nodiscard]] QByteArray pictures(int count, int first = 0);
+
+    /// The bytes of the next samples: a tone of 500 Hz and a quarter of the largest amplitude.
+    [[nodiscard]] QByteArray tone(int samples);
+
+private:
+    LiveStream(const PictureFormat *pictures, const SoundFormat *sound);
+    AvPointer<AVCodecContext> addTrack(const char *encoder, const char *options,
+                                       const std::function<void(AVCodecContext &)> &set);
+    void encode(AVCodecContext &encoder, const AVFrame *frame, int track);
+    void fill(AVFrame &frame, const Patches &patches) const;
+    QByteArray takeBytes();
+    static int write(void *stream, std::uint8_t *bytes, int size);
+
+    AVFormatContext *m_format = nullptr;
+    AvPointer<AVIOContext> m_output;
+    AvPointer<AVCodecContext> m_pictureEncoder;
+    AvPointer<AVCodecContext> m_soundEncoder;
+    std::int64_t m_pictures = 0;
+    std::int64_t m_samples = 0;
+    QByteArray m_bytes;
+    QByteArray m_head;
+};
+
+} // namespace sdk::ffmpeg

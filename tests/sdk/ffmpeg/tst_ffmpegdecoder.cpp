@@ -1,0 +1,284 @@
+// Pictures and sound of whole streams.
+#include "tests/sdk/ffmpeg/testport.h"
+
+#include <cmath>
+
+using namespace sdk;
+using namespace sdk::ffmpeg;
+
+Q_DECLARE_METATYPE(PictureFormat)
+Q_DECLARE_METATYPE(SoundFormat)
+
+namespace {
+
+constexpr double nearEnough = 4;
+
+} // namespace
+
+class FfmpegDecoderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pictures_data();
+    void pictures();
+    void colours_data();
+    void colours();
+    void convertsRgb();
+    void sound_data();
+    void sound();
+    void takesAnyCut_data();
+    void takesAnyCut();
+    void firstPictureWaitsForNothing_data();
+    void firstPictureWaitsForNothing();
+    void ordersPictures();
+    void skipsOtherTracks();
+};
+
+void FfmpegDecoderTest::pictures_data()
+{
+    QTest::addColumn<PictureFormat>("format");
+    QTest::addColumn<QString>("codec");
+    QTest::newRow("H.264") << PictureFormat{.encoder = "libx264"} << "H.264";
+    QTest::newRow("H.264, cut to 1080 lines")
+        << PictureFormat{.encoder = "libx264", .width = 192, .height = 1080, .rate = 12} << "H.264";
+    QTest::newRow("H.264, 4:4:4") << PictureFormat{.encoder = "libx264", .pixels = AV_PIX_FMT_YUV444P}
+                                  << "H.264";
+    QTest::newRow("H.264, 4:2:2 of 10 bits")
+        << PictureFormat{.encoder = "libx264", .pixels = AV_PIX_FMT_YUV422P10} << "H.264";
+    QTest::newRow("H.265") << PictureFormat{.encoder = "libx265", .width = 98, .height = 70, .rate = 30}
+                           << "H.265";
+    QTest::newRow("H.265, 10 bits") << PictureFormat{.encoder = "libx265",
+                                                     .width = 98,
+                                                     .height = 70,
+                                                     .pixels = AV_PIX_FMT_YUV420P10}
+                                    << "H.265";
+    QTest::newRow("MJPEG, odd size") << PictureFormat{.encoder = "mjpeg",
+                                                      .width = 65,
+                                                      .height = 33,
+                                                      .pixels = AV_PIX_FMT_YUVJ420P,
+                                                      .rate = 5}
+                                     << "MJPEG";
+    QTest::newRow("MJPEG, 4:2:2, odd size")
+        << PictureFormat{.encoder = "mjpeg", .width = 65, .height = 33, .pixels = AV_PIX_FMT_YUVJ422P}
+        << "MJPEG";
+    QTest::newRow("MJPEG, 4:4:4, narrow")
+        << PictureFormat{.encoder = "mjpeg", .width = 17, .height = 121, .pixels = AV_PIX_FMT_YUVJ444P}
+        << "MJPEG";
+}
+
+void FfmpegDecoderTest::pictures()
+{
+    QFETCH(PictureFormat, format);
+    QFETCH(QString, codec);
+    constexpr int count = 7; // the ring goes round twice
+    LiveStream stream(format);
+    TestPort port;
+    QVERIFY(port.push(stream.head() + stream.pictures(count)));
+    QTRY_COMPARE(port.receiver.pictures().size(), count);
+    const QList<Delivered> pictures = port.receiver.pictures();
+    for (int number = 0; number < count; ++number) {
+        const Delivered &picture = pictures.at(number);
+        QCOMPARE(picture.information.width, format.width);
+        QCOMPARE(picture.information.height, format.height);
+        QCOMPARE(picture.information.rate, format.rate);
+        QVERIFY2(distance(picture, Patches::numbered(number)) < nearEnough,
+                 qPrintable(QStringLiteral("picture %1 is off by %2")
+                                .arg(number)
+                                .arg(distance(picture, Patches::numbered(number)))));
+        QVERIFY(picture.thread == pictures.first().thread && picture.thread != std::this_thread::get_id());
+    }
+    QCOMPARE(port.videoCodec(), codec);
+    QCOMPARE(port.audioCodec(), QString());
+    QCOMPARE(port.status().damages, 0U);
+}
+
+void FfmpegDecoderTest::colours_data()
+{
+    QTest::addColumn<PictureFormat>("format");
+    QTest::addColumn<int>("colour");
+    const auto row = [](const char *name, const PictureFormat &format, PictureColour colour) {
+        QTest::newRow(name) << format << static_cast<int>(colour);
+    };
+    row("says nothing, small", {}, PictureColour::Bt601Limited);
+    row("says nothing, 720 lines", {.width = 64, .height = 720}, PictureColour::Bt709Limited);
+    row("says BT.709, small", {.colourSpace = AVCOL_SPC_BT709}, PictureColour::Bt709Limited);
+    row("says BT.709, full", {.colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
+        PictureColour::Bt709Full);
+    row("says BT.601, 720 lines", {.width = 64, .height = 720, .colourSpace = AVCOL_SPC_SMPTE170M},
+        PictureColour::Bt601Limited);
+    row("says full", {.range = AVCOL_RANGE_JPEG}, PictureColour::Bt601Full);
+    row("H.265, full", {.encoder = "libx265", .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
+        PictureColour::Bt709Full);
+    row("MJPEG, 720 lines",
+        {.encoder = "mjpeg",
+         .width = 64,
+         .height = 720,
+         .pixels = AV_PIX_FMT_YUVJ420P,
+         .range = AVCOL_RANGE_JPEG},
+        PictureColour::Bt601Full);
+    row("converted, full",
+        {.pixels = AV_PIX_FMT_YUV444P, .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
+        PictureColour::Bt709Full);
+}
+
+void FfmpegDecoderTest::colours()
+{
+    QFETCH(PictureFormat, format);
+    QFETCH(int, colour);
+    LiveStream stream(format);
+    TestPort port;
+    QVERIFY(port.push(stream.head() + stream.pictures(1)));
+    QTRY_COMPARE(port.receiver.pictures().size(), 1);
+    const Delivered picture = port.receiver.pictures().first();
+    QCOMPARE(static_cast<int>(picture.information.colour), colour);
+    QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are the stream's
+}
+
+void FfmpegDecoderTest::convertsRgb()
+{
+    LiveStream stream(PictureFormat{.encoder = "libx264rgb", .pixels = AV_PIX_FMT_RGB24});
+    TestPort port;
+    const Patches rgb{{{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 255}}}};
+    const Patches bt601{{{{82, 90, 240}, {145, 54, 34}, {41, 240, 110}, {235, 128, 128}}}};
+    QVERIFY(port.push(stream.head() + stream.picture(rgb)));
+    QTRY_COMPARE(port.receiver.pictures().size(), 1);
+    QCOMPARE(port.receiver.pictures().first().information.colour, PictureColour::Bt601Limited);
+    const double off = distance(port.receiver.pictures().first(), bt601);
+    QVERIFY2(off < nearEnough, qPrintable(QString::number(off)));
+}
+
+void FfmpegDecoderTest::sound_data()
+{
+    QTest::addColumn<SoundFormat>("format");
+    QTest::addColumn<QString>("codec");
+    QTest::newRow("A-law") << SoundFormat{.encoder = "pcm_alaw"} << "G.711A";
+    QTest::newRow("mu-law") << SoundFormat{.encoder = "pcm_mulaw", .rate = 16000} << "G.711Mu";
+    QTest::newRow("PCM") << SoundFormat{.encoder = "pcm_s16le", .rate = 44100} << "PCM";
+    QTest::newRow("PCM, two channels")
+        << SoundFormat{.encoder = "pcm_s16le", .rate = 8000, .channels = 2} << "PCM";
+    QTest::newRow("AAC") << SoundFormat{.encoder = "aac", .rate = 16000} << "AAC";
+    QTest::newRow("AAC, two channels")
+        << SoundFormat{.encoder = "aac", .rate = 48000, .channels = 2} << "AAC";
+}
+
+void FfmpegDecoderTest::sound()
+{
+    QFETCH(SoundFormat, format);
+    QFETCH(QString, codec);
+    LiveStream stream({.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P}, format);
+    TestPort port;
+    QVERIFY(port.push(stream.head() + stream.pictures(1)));
+    for (int piece = 0; piece < 10; ++piece)
+        QVERIFY(port.push(stream.tone(format.rate / 10)));
+    const int enough = format.rate * 9 / 10; // an encoder keeps its last piece
+    QTRY_VERIFY(port.receiver.sampleCount() >= enough);
+    QCOMPARE(port.receiver.pictures().size(), 1);
+
+    QList<std::int16_t> samples;
+    for (const Delivered &sound : port.receiver.sounds()) {
+        QCOMPARE(sound.information.rate, format.rate);
+        QCOMPARE(sound.information.width, 0);
+        const auto *values = reinterpret_cast<const std::int16_t *>(sound.bytes.constData());
+        samples.append(QList<std::int16_t>(values, values + sound.bytes.size() / 2));
+    }
+    // The middle, where an encoder has swung in: a tone of 500 Hz and its loudness.
+    samples = samples.mid(format.rate / 4, format.rate / 2);
+    int risings = 0;
+    double squares = 0;
+    for (qsizetype place = 1; place < samples.size(); ++place) {
+        risings += samples.at(place - 1) < 0 && samples.at(place) >= 0 ? 1 : 0;
+        squares += std::pow(samples.at(place), 2);
+    }
+    QVERIFY2(std::abs(risings - 250) <= 2, qPrintable(QString::number(risings)));
+    const double loudness = std::sqrt(squares / static_cast<double>(samples.size()));
+    QVERIFY2(std::abs(loudness - 5792) < 400, qPrintable(QString::number(loudness)));
+    QCOMPARE(port.audioCodec(), codec);
+    QCOMPARE(port.status().damages, 0U);
+}
+
+void FfmpegDecoderTest::takesAnyCut_data()
+{
+    QTest::addColumn<int>("pieceSize");
+    QTest::newRow("bytes") << 1;
+    QTest::newRow("three") << 3;
+    QTest::newRow("odd") << 1021;
+    QTest::newRow("whole") << 10000000;
+}
+
+void FfmpegDecoderTest::takesAnyCut()
+{
+    QFETCH(int, pieceSize);
+    LiveStream first({.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
+    LiveStream second(PictureFormat{.encoder = "libx265", .width = 96, .height = 64});
+    QByteArray bytes = first.head();
+    for (int number = 0; number < 4; ++number)
+        bytes += first.pictures(1, number) + first.tone(640);
+    bytes += second.head() + second.pictures(4, 4);
+    TestPort port;
+    QVERIFY(port.push(bytes, pieceSize));
+    QTRY_COMPARE(port.receiver.pictures().size(), 8);
+    const QList<Delivered> pictures = port.receiver.pictures();
+    for (int number = 0; number < 8; ++number)
+        QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
+    QCOMPARE(pictures.at(3).information.width, 64);
+    QCOMPARE(pictures.at(4).information.width, 96);
+    QVERIFY(port.receiver.sampleCount() > 1000);
+    QCOMPARE(port.videoCodec(), QStringLiteral("H.265"));
+    QCOMPARE(port.status().damages, 0U);
+}
+
+void FfmpegDecoderTest::firstPictureWaitsForNothing_data()
+{
+    QTest::addColumn<PictureFormat>("format");
+    QTest::newRow("H.264") << PictureFormat{.encoder = "libx264"};
+    QTest::newRow("H.265") << PictureFormat{.encoder = "libx265"};
+    QTest::newRow("MJPEG") << PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
+}
+
+void FfmpegDecoderTest::firstPictureWaitsForNothing()
+{
+    QFETCH(PictureFormat, format);
+    LiveStream stream(format, SoundFormat{}); // sound that was announced and does not come holds nothing back
+    TestPort port;
+    QVERIFY(port.push(stream.head()));
+    for (int number = 0; number < 4; ++number) {
+        QVERIFY(port.push(stream.pictures(1, number)));
+        QTRY_COMPARE(port.receiver.pictures().size(), number + 1);
+    }
+}
+
+void FfmpegDecoderTest::ordersPictures()
+{
+    // Two pictures between those that they refer to, which are sent first.
+    PictureFormat format;
+    format.keyEvery = 30;
+    format.options = "tune=film:bf=2:b_strategy=0:rc-lookahead=0:x264-params=scenecut=0";
+    LiveStream stream(format);
+    LiveStream next(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+    TestPort port;
+    QVERIFY(port.push(stream.head() + stream.pictures(12)));
+    QVERIFY(port.push(next.head() + next.pictures(1))); // what waits for others comes out at the end
+    QTRY_COMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
+    QTRY_COMPARE(port.receiver.pictures().last().information.colour, PictureColour::Bt601Full);
+    const QList<Delivered> pictures = port.receiver.pictures().first(port.receiver.pictures().size() - 1);
+    QVERIFY(pictures.size() >= 7);
+    for (int number = 0; number < pictures.size(); ++number)
+        QVERIFY2(distance(pictures.at(number), Patches::numbered(number)) < nearEnough,
+                 qPrintable(QString::number(number)));
+}
+
+void FfmpegDecoderTest::skipsOtherTracks()
+{
+    LiveStream stream({.encoder = "mpeg4", .options = "flags=+qscale"}, SoundFormat{.encoder = "pcm_mulaw"});
+    TestPort port;
+    QVERIFY(port.push(stream.head() + stream.pictures(3) + stream.tone(8000)));
+    QTRY_COMPARE(port.receiver.sampleCount(), 8000);
+    QCOMPARE(port.receiver.pictures().size(), 0);
+    QCOMPARE(port.videoCodec(), QString());
+    QCOMPARE(port.audioCodec(), QStringLiteral("G.711Mu"));
+}
+
+QTEST_GUILESS_MAIN(FfmpegDecoderTest)
+
+#include "tst_ffmpegdecoder.moc"

@@ -1,0 +1,166 @@
+// Pictures as files.
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace sdk;
+using namespace sdk::ffmpeg;
+
+namespace {
+
+/// A picture of two colours, left and right.
+QByteArray twoColours(int width, int height, std::array<int, 3> left, std::array<int, 3> right)
+{
+    QByteArray bytes;
+    for (std::size_t plane = 0; plane < 3; ++plane) {
+        const int wide = plane == 0 ? width : (width + 1) / 2;
+        const int high = plane == 0 ? height : (height + 1) / 2;
+        for (int y = 0; y < high; ++y) {
+            for (int x = 0; x < wide; ++x)
+                bytes.append(static_cast<char>(x * 2 < wide ? left.at(plane) : right.at(plane)));
+        }
+    }
+    return bytes;
+}
+
+bool save(const QByteArray &picture, int width, int height, const QString &path, int quality = 50)
+{
+    FfmpegDecoderLibrary library;
+    return library.DecoderSaveFrame(reinterpret_cast<const std::uint8_t *>(picture.constData()), width,
+                                    height, SavedPictureType::Jpeg, quality,
+                                    QFile::encodeName(path).constData());
+}
+
+bool isNear(QRgb value, QRgb wanted)
+{
+    constexpr int tolerance = 10;
+    return std::abs(qRed(value) - qRed(wanted)) < tolerance &&
+           std::abs(qGreen(value) - qGreen(wanted)) < tolerance &&
+           std::abs(qBlue(value) - qBlue(wanted)) < tolerance;
+}
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class SavedFrameTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsTheColours_data();
+    void showsTheColours();
+    void qualityCounts();
+    void refusesWhatIsNoPicture();
+    void replacesWholeOrNotAtAll();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void SavedFrameTest::showsTheColours_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("isBt709");
+    QTest::newRow("small") << 64 << 36 << false;
+    QTest::newRow("odd") << 67 << 33 << false;
+    QTest::newRow("719 lines") << 100 << 719 << false;
+    QTest::newRow("720 lines") << 100 << 720 << true;
+    QTest::newRow("1080 lines") << 1920 << 1080 << true;
+    QTest::newRow("one pixel") << 1 << 1 << false;
+}
+
+void SavedFrameTest::showsTheColours()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(bool, isBt709);
+    // Red and a grey, limited range, as the two matrices have them.
+    const std::array<int, 3> red = isBt709 ? std::array{63, 102, 240} : std::array{82, 90, 240};
+    const QByteArray picture = twoColours(width, height, red, {180, 128, 128});
+    const QString path = m_folder.filePath(QStringLiteral("图 1.jpg"));
+    QVERIFY(save(picture, width, height, path));
+    const QImage image(path, "JPG");
+    QCOMPARE(image.size(), QSize(width, height));
+    QVERIFY(isNear(image.pixel(width / 4, height / 2), qRgb(254, 0, 0)));
+    if (width > 1)
+        QVERIFY(isNear(image.pixel(width - 1 - width / 4, height - 1), qRgb(191, 191, 191)));
+}
+
+void SavedFrameTest::qualityCounts()
+{
+    QByteArray picture = twoColours(320, 240, {60, 100, 200}, {200, 140, 90});
+    for (qsizetype place = 0; place < 320 * 240; ++place) // something to lose
+        picture[place] = static_cast<char>(16 + place * place % 219);
+    const auto sizeAt = [&](int quality) {
+        const QString path = m_folder.filePath(QStringLiteral("quality.jpg"));
+        return save(picture, 320, 240, path, quality) ? contents(path).size() : -1;
+    };
+    QVERIFY(sizeAt(1) > 0);
+    QVERIFY(sizeAt(1) < sizeAt(50));
+    QVERIFY(sizeAt(50) < sizeAt(100));
+}
+
+void SavedFrameTest::refusesWhatIsNoPicture()
+{
+    FfmpegDecoderLibrary library;
+    const QByteArray picture(200, '\0');
+    const auto *bytes = reinterpret_cast<const std::uint8_t *>(picture.constData());
+    const QByteArray name = QFile::encodeName(m_folder.filePath(QStringLiteral("refused.jpg")));
+    constexpr auto jpeg = SavedPictureType::Jpeg;
+    QVERIFY(!library.DecoderSaveFrame(nullptr, 8, 8, jpeg, 50, name.constData()));
+    QVERIFY(!library.DecoderSaveFrame(bytes, 0, 8, jpeg, 50, name.constData()));
+    QVERIFY(
+        !library.DecoderSaveFrame(bytes, 8, -1, jpeg, 50, name.constData())); // as before the first picture
+    QVERIFY(!library.DecoderSaveFrame(bytes, 2000000000, 2000000000, jpeg, 50, name.constData()));
+    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, static_cast<SavedPictureType>(2), 50, name.constData()));
+    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, jpeg, 0, name.constData()));
+    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, jpeg, 101, name.constData()));
+    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, jpeg, 50, nullptr));
+    QVERIFY(!QFile::exists(QFile::decodeName(name)));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
+    QVERIFY(!save(picture, 8, 8, m_folder.filePath(QStringLiteral("no folder/a.jpg"))));
+}
+
+void SavedFrameTest::replacesWholeOrNotAtAll()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("0.jpg"));
+    const QByteArray first = twoColours(64, 36, {60, 100, 200}, {200, 140, 90});
+    const QByteArray second = twoColours(640, 360, {90, 200, 100}, {30, 90, 200});
+    QVERIFY(save(first, 64, 36, path));
+    QVERIFY(save(second, 640, 360, path));
+    const QByteArray written = contents(path);
+    QCOMPARE(QImage::fromData(written).size(), QSize(640, 360));
+
+    // As on a full disk: no file may have more than 100 bytes.
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small{100, limit.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
+    const bool saved = save(first, 64, 36, path);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, oldHandler);
+    QVERIFY(!saved);
+    QCOMPARE(contents(path), written);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("0.jpg")});
+}
+
+QTEST_GUILESS_MAIN(SavedFrameTest)
+
+#include "tst_savedframe.moc"
