@@ -17,14 +17,7 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
         ++m_beginning;
     m_handler = handler;
     m_user = user;
-}
-
-bool LiveStream::isWatched() const
-{
-    if (m_hasEnded)
-        return false;
-    const std::lock_guard lock(m_mutex);
-    return m_handler != nullptr;
+    m_hasHandler = handler != nullptr;
 }
 
 bool LiveStream::isInsideHandler()

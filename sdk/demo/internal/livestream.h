@@ -43,7 +43,7 @@ public:
     void setHandler(RealDataHandler handler, void *user);
 
     /// Whether somebody gets data, or would.
-    [[nodiscard]] bool isWatched() const;
+    [[nodiscard]] bool isWatched() const { return m_hasHandler && !m_hasEnded; }
 
     /// Whether the calling thread is inside a handler of any stream of this process.
     [[nodiscard]] static bool isInsideHandler();
@@ -75,8 +75,9 @@ private:
     const LiveStreamOrder m_order;
     std::atomic<bool> m_hasEnded = false;
     std::atomic<bool> m_wantsKeyPicture = false;
+    std::atomic<bool> m_hasHandler = false; // tells of m_handler without the lock
 
-    mutable std::mutex m_mutex; // held while the handler runs
+    std::mutex m_mutex; // held while the handler runs
     RealDataHandler m_handler = nullptr;
     void *m_user = nullptr;
     std::int64_t m_beginning = 0; // counts the handlers that follow on none

@@ -6,12 +6,13 @@
 #include "tests/sdk/demo/testsite.h"
 
 #include <QJsonArray>
-#include <QMutex>
 #include <QSet>
-#include <QWaitCondition>
 
 #include <algorithm>
+#include <chrono>
+#include <condition_variable>
 #include <functional>
+#include <mutex>
 
 namespace sdk::demo {
 
@@ -25,17 +26,17 @@ public:
         auto *watcher = static_cast<Watcher *>(user);
         if (watcher->onData)
             watcher->onData();
-        const QMutexLocker lock(&watcher->m_mutex);
+        const std::lock_guard lock(watcher->m_mutex);
         watcher->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
         watcher->m_largestPiece = std::max(watcher->m_largestPiece, size);
         watcher->m_handles.insert(streamHandle);
         watcher->m_isPlain = watcher->m_isPlain && dataType == 0 && size > 0;
-        watcher->m_came.wakeAll();
+        watcher->m_came.notify_all();
     }
 
     [[nodiscard]] QByteArray bytes() const
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         return m_bytes;
     }
     [[nodiscard]] qsizetype size() const { return bytes().size(); }
@@ -46,20 +47,16 @@ public:
     /// Blocks until there is more than `size`.
     [[nodiscard]] bool waitForMore(qsizetype size) const
     {
-        constexpr unsigned long timeout = 20000;
-        const QMutexLocker lock(&m_mutex);
-        while (m_bytes.size() <= size) {
-            if (!m_came.wait(&m_mutex, timeout))
-                return false;
-        }
-        return true;
+        constexpr std::chrono::seconds timeout(20);
+        std::unique_lock lock(m_mutex);
+        return m_came.wait_for(lock, timeout, [this, size] { return m_bytes.size() > size; });
     }
 
     std::function<void()> onData; ///< runs first in every handler
 
 private:
-    mutable QMutex m_mutex;
-    mutable QWaitCondition m_came;
+    mutable std::mutex m_mutex;
+    mutable std::condition_variable m_came;
     QByteArray m_bytes;
     std::uint32_t m_largestPiece = 0;
     QSet<std::int64_t> m_handles;
