@@ -72,6 +72,12 @@ Driver::Driver(QQuickWindow *window, QString pictureFolder)
     QDir().mkpath(m_pictureFolder);
 }
 
+void Driver::activate() const
+{
+    m_window->requestActivate();
+    check(QTest::qWaitForWindowActive(m_window), QStringLiteral("the window becomes the active one"));
+}
+
 QQuickItem *Driver::find(const QString &name) const
 {
     return findBelow(m_window->contentItem(), name);

@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] QQuickWindow *window() const { return m_window; }
 
+    /// Makes the window the active one, which gets the keys.
+    void activate() const;
+
     /// The visible item with this object name, null when there is none.
     [[nodiscard]] QQuickItem *find(const QString &name) const;
 

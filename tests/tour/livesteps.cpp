@@ -9,6 +9,7 @@
 #include <QQuickItem>
 #include <QSize>
 #include <QTest>
+#include <QVariantMap>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -22,10 +23,13 @@ const QString recorder = u"192.168.1.120:8800"_s;
 /// Looks a device up in the main window and asks for its live picture.
 QQuickWindow *openLive(Driver &driver, const QString &ipport)
 {
+    driver.activate(); // a live window may be before it
     driver.click(u"tab0"_s);
     driver.fill(u"searchField"_s, ipport.section(u':', 0, 0));
-    driver.await(u"the device is the only one in the table"_s,
-                 [&] { return driver.find(u"live0"_s) && !driver.find(u"live1"_s); });
+    driver.await(u"the device is the first of the table"_s, [&] {
+        const QQuickItem *row = driver.find(u"row0"_s);
+        return row && row->property("values").toMap().value(u"ipport"_s) == ipport;
+    });
     driver.click(u"live0"_s);
     QQuickWindow *window = nullptr;
     driver.await(u"the live window opens"_s, [&] {
@@ -110,14 +114,19 @@ void walkCamera(Driver &live)
 void walkOtherSize(Driver &driver, Driver &live)
 {
     const QSize before = pictureSize(live, 0);
+    driver.activate();
     driver.click(u"tab2"_s);
     driver.click(u"device_"_s + camera);
     driver.require(u"mainResolutionChoice"_s);
     driver.await(u"the device was asked"_s, [&] { return !driver.text(u"configState"_s).endsWith(u'…'); });
     awaitPictures(live, 1); // the page has logged in anew
+    const QQuickItem *choice = driver.require(u"mainResolutionChoice"_s);
+    const int other = choice->property("currentIndex").toInt() == 0 ? 1 : 0;
     driver.click(u"mainResolutionChoice"_s);
-    driver.key(Qt::Key_End);
-    driver.key(Qt::Key_Return);
+    driver.key(Qt::Key_Home);
+    driver.click(u"choice%1"_s.arg(other));
+    driver.await(u"the size is chosen"_s, [&] { return driver.find(u"changeMark"_s) != nullptr; });
+    driver.report(u"live-other-size"_s, driver.text(u"encodeNotice"_s));
     driver.click(u"encodeSaveButton"_s);
     live.await(u"the live picture has the new size"_s,
                [&] { return plays(live, 0) && pictureSize(live, 0) != before; });
@@ -205,6 +214,7 @@ void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
     walkSnapshots(live);
     live.click(u"liveCloseButton"_s);
     driver.await(u"the live window is closed"_s, [&] { return !live.window()->isVisible(); });
+    driver.activate();
     driver.fill(u"searchField"_s, QString());
     driver.key(Qt::Key_Escape);
 }

@@ -46,12 +46,12 @@ T.ApplicationWindow {
     }
 
     function snap(channel) {
-        snapshots.take(device.ipport, device.channels[channel]);
+        taking.take(device.ipport, device.channels[channel]);
         results.wanted().open();
     }
 
     function snapAll() {
-        snapshots.takeAll(device.ipport, device.channels);
+        taking.takeAll(device.ipport, device.channels);
         results.wanted().open();
     }
 
@@ -80,7 +80,7 @@ T.ApplicationWindow {
         onRenewed: grid.reconnect()
     }
     Snapshots {
-        id: snapshots
+        id: taking
         deviceFactory: window.deviceFactory
     }
 
@@ -134,7 +134,7 @@ T.ApplicationWindow {
         canSnap: device.loggedIn && device.channels.length > 0
         fullScreen: window.fullScreen
         grid: grid
-        snapping: snapshots.busy
+        snapping: taking.busy
         onFullScreenRequested: window.toggleFullScreen()
         onSnapAllRequested: window.snapAll()
         onSnapRequested: window.snap(grid.currentChannel)
@@ -190,10 +190,10 @@ T.ApplicationWindow {
         id: results
         visible: false
         sourceComponent: SnapshotDialog {
-            snapshots: snapshots
+            snapshots: taking
             onAgainRequested: channel => window.snap(channel)
             onFolderRequested: {
-                const picture = snapshots.results.find(entry => entry.picture !== "").picture;
+                const picture = taking.results.find(entry => entry.picture !== "").picture;
                 if (!Qt.openUrlExternally(picture.slice(0, picture.lastIndexOf("/"))))
                     window.said(qsTr("无法打开文件夹：%1").arg(picture), OVToast.Error);
             }
