@@ -46,7 +46,6 @@ VideoItem::VideoItem(QQuickItem *parent)
     connect(this, &VideoItem::sigAudioDataChanged, this, &VideoItem::onSigAudioDataChanged,
             Qt::QueuedConnection);
     connect(this, &VideoItem::sigSampleRateChanged, this, &VideoItem::onAudioFormatChanged);
-    setMirrorVertically(true);
     m_watchTimer.setInterval(watchInterval);
     connect(&m_watchTimer, &QTimer::timeout, this, &VideoItem::watch);
 }
