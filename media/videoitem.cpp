@@ -46,6 +46,7 @@ VideoItem::VideoItem(QQuickItem *parent)
     connect(this, &VideoItem::sigAudioDataChanged, this, &VideoItem::onSigAudioDataChanged,
             Qt::QueuedConnection);
     connect(this, &VideoItem::sigSampleRateChanged, this, &VideoItem::onAudioFormatChanged);
+    setMirrorVertically(true); // OpenGL's lines go upward
     m_watchTimer.setInterval(watchInterval);
     connect(&m_watchTimer, &QTimer::timeout, this, &VideoItem::watch);
 }

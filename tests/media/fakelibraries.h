@@ -11,7 +11,7 @@
 #include <QSet>
 #include <QStringList>
 
-#include <cstring>
+#include <atomic>
 #include <functional>
 #include <mutex>
 #include <vector>
@@ -194,12 +194,25 @@ public:
     qint64 loginHandle = 5'000'000'000; // more than 32 bits
 };
 
+/// Counts how often somebody looks at it.
+class WatchedClock : public sdk::demo::SteppableClock
+{
+public:
+    [[nodiscard]] std::int64_t now() const override
+    {
+        ++looks;
+        return SteppableClock::now();
+    }
+
+    mutable std::atomic<int> looks = 0;
+};
+
 struct FakeLibraries
 {
     LibraryCalls calls;
     std::shared_ptr<FakeNet> net = std::make_shared<FakeNet>(calls);
     std::shared_ptr<FakeDecoder> decoder = std::make_shared<FakeDecoder>(calls);
-    std::shared_ptr<sdk::demo::SteppableClock> clock = std::make_shared<sdk::demo::SteppableClock>();
+    std::shared_ptr<WatchedClock> clock = std::make_shared<WatchedClock>();
 
     [[nodiscard]] sdk::SdkLibraries libraries() const
     {

@@ -1,0 +1,75 @@
+// A sound server whose one output a test listens to.
+#pragma once
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// Runs while it lives, in a folder of its own, and is the one that this process connects to.
+class SoundServer
+{
+public:
+    static constexpr int rate = 48000;
+
+    ~SoundServer()
+    {
+        end(m_listener);
+        end(m_server);
+    }
+
+    bool start()
+    {
+        const QString socket = m_directory.filePath("native");
+        qputenv("XDG_RUNTIME_DIR", m_directory.path().toLocal8Bit());
+        qputenv("HOME", m_directory.path().toLocal8Bit());
+        qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
+        m_server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        // Without "norewinds" the sink runs at half its speed.
+        m_server.start("pulseaudio",
+                       {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
+                        "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-level=error",
+                        "--load=module-null-sink " + sink,
+                        "--load=module-native-protocol-unix socket=" + socket + " auth-anonymous=1"});
+        return m_server.waitForStarted() && QTest::qWaitFor([&] { return QFile::exists(socket); }, 10000);
+    }
+
+    /// Takes the output away or brings it back.
+    bool unplug() { return control({"unload-module", "module-null-sink"}); }
+    bool plug() { return control(QStringList{"load-module", "module-null-sink"} + sink.split(' ')); }
+
+    /// Hears from now on what the output plays, as one channel of 16-bit samples.
+    bool listen()
+    {
+        end(m_listener);
+        m_heard.clear();
+        m_listener.start("parec", {"--device=testsink.monitor", "--raw", "--format=s16le", "--channels=1",
+                                   "--rate=" + QString::number(rate), "--latency-msec=50"});
+        return m_listener.waitForStarted();
+    }
+
+    /// What was heard since listen().
+    QByteArray heard()
+    {
+        m_heard += m_listener.readAllStandardOutput();
+        return m_heard;
+    }
+
+private:
+    static bool control(const QStringList &arguments) { return QProcess::execute("pactl", arguments) == 0; }
+
+    static void end(QProcess &process)
+    {
+        process.terminate();
+        if (process.state() != QProcess::NotRunning && !process.waitForFinished(5000)) {
+            process.kill();
+            process.waitForFinished();
+        }
+    }
+
+    const QString sink = "sink_name=testsink rate=48000 norewinds=1";
+    QTemporaryDir m_directory;
+    QProcess m_server;
+    QProcess m_listener;
+    QByteArray m_heard;
+};

@@ -1,0 +1,333 @@
+#include "media/dhdecoder.h"
+#include "media/videoitem.h"
+#include "tests/media/fakelibraries.h"
+
+#include <QMetaMethod>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QStringList decoderStarted = {"DecoderAllocPort()", "DecoderSetStreamMode(3, 0)",
+                                    "DecoderOpenStream(3, null, 0, 8388608)",
+                                    "DecoderSetDecodeCallback(3, handler)", "DecoderPlay(3, 0)"};
+const QStringList decoderStopped = {"DecoderSetDecodeCallback(3, null)", "DecoderStop(3)",
+                                    "DecoderCloseStream(3)", "DecoderFreePort(3)"};
+const QString streamAsked = "NetStartRealStream(5000000000, 2, 0, 0)";
+const QString handlerSet = "NetSetRealDataCallback(77, handler, 1)";
+const QStringList streamStopped = {"NetSetRealDataCallback(77, null, 1)", "NetStopRealStream(77)"};
+
+/// Runs `call` on a thread as a library has one, and waits for it.
+template<typename Call>
+void onAnotherThread(const Call &call)
+{
+    std::thread(call).join();
+}
+
+} // namespace
+
+/// What a live view asks of the libraries and tells the scene. What it draws is in tst_videopicture.
+class TestVideoItem : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<FakeLibraries> m_fake;
+    std::unique_ptr<VideoItem> m_item;
+
+    QList<PlainPicture> m_delivered; ///< the decoder's own buffers
+
+    void deliver(const PlainPicture &picture)
+    {
+        m_delivered.append(picture);
+        onAnotherThread([this] {
+            m_fake->decoder->deliver(m_delivered.constLast().bytes, m_delivered.constLast().information);
+        });
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        CDeviceFactory::registerBackEnd("dh", [] { return std::make_shared<SessionBackEnd>(); });
+    }
+
+    void init()
+    {
+        m_fake = std::make_unique<FakeLibraries>();
+        VideoItem::registerLibraries(m_fake->libraries());
+        m_item = std::make_unique<VideoItem>();
+        m_item->setChannelId(2);
+    }
+
+    void cleanup()
+    {
+        m_item.reset();
+        VideoItem::registerLibraries({});
+        m_fake.reset();
+        m_delivered.clear();
+    }
+
+    void cleanupTestCase() { CDeviceFactory::deleteInstance(); }
+
+    /// The scene and other programs may connect by index.
+    void signalsAndSlotsKeepTheirOrder()
+    {
+        const QMetaObject &meta = VideoItem::staticMetaObject;
+        QStringList names;
+        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
+            names.append(QString::fromLatin1(meta.method(index).name()));
+        const QStringList wanted = {"isAudioOutputChanged", "isLoginHandleChanged", "videoInfoChangedSig",
+                                    "fillModeChanged",      "channelIdChanged",     "videoErrorSig",
+                                    "urlChanged",           "sigVideoDataChanged",  "sigAudioDataChanged",
+                                    "textChanged",          "sigSampleRateChanged"};
+        QCOMPARE(names.mid(0, wanted.size()), wanted);
+        const QStringList slotNames = {"start",
+                                       "stop",
+                                       "onSigVideoDataChanged",
+                                       "onSizeChanged",
+                                       "onSigAudioDataChanged",
+                                       "onAudioFormatChanged",
+                                       "changeScale",
+                                       "drag"};
+        QCOMPARE(names.mid(names.indexOf("start"), slotNames.size()), slotNames);
+    }
+
+    void startsAndStopsStepByStep_data()
+    {
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("started"); // calls behind those that start the decoder
+        QTest::addColumn<QStringList>("stopped");
+        QTest::addColumn<QStringList>("log");
+        QTest::newRow("all well") << ""
+                                  << "" << QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}
+                                  << streamStopped + decoderStopped
+                                  << QStringList{"m_lRealHandle 77", "lRealHandle 77"};
+        QTest::newRow("stream refused")
+            << "NetStartRealStream"
+            << "播放失败" << (QStringList{streamAsked} + decoderStopped) << QStringList()
+            << QStringList{"m_lRealHandle 0", "open stream fail"};
+        // The stream that was opened is closed by stop().
+        QTest::newRow("handler refused")
+            << "NetSetRealDataCallback"
+            << "播放失败" << (QStringList{streamAsked, handlerSet} + decoderStopped) << streamStopped
+            << QStringList{"m_lRealHandle 77", "lRealHandle 77", "open failed"};
+        QTest::newRow("follow-up refused")
+            << "NetStreamFollowUp"
+            << "" << QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}
+            << streamStopped + decoderStopped << QStringList{"m_lRealHandle 77", "lRealHandle 77"};
+    }
+
+    void startsAndStopsStepByStep()
+    {
+        QFETCH(QString, failing);
+        QFETCH(QString, text);
+        QFETCH(QStringList, started);
+        QFETCH(QStringList, log);
+        m_fake->calls.failOnly(failing);
+        MessageLog messages;
+        QSignalSpy handleChanged(m_item.get(), &VideoItem::isLoginHandleChanged);
+        QCOMPARE(m_item->start(), text.isEmpty());
+        QCOMPARE(m_item->text(), text);
+        QCOMPARE(m_item->loginHandle(), 5'000'000'000);
+        QCOMPARE(handleChanged.size(), 1);
+        QCOMPARE(m_fake->calls.take(), decoderStarted + started);
+        QStringList said = messages.take();
+        said.removeIf([](const QString &line) { return line.startsWith("CDHDecoder::"); });
+        QCOMPARE(said, (QStringList{"VideoItem::start()", "m_loginHandle 5000000000"} + log));
+
+        m_item->stop();
+        QTEST(m_fake->calls.take(), "stopped");
+        QVERIFY(messages.take().contains("VideoItem::stop()"));
+        m_item->stop();
+        QCOMPARE(m_fake->calls.take(), QStringList());
+
+        m_fake->calls.failOnly({});
+        QVERIFY(m_item->start()); // a good start takes the complaint back
+        QCOMPARE(m_item->text(), QString());
+    }
+
+    void aDecoderThatDoesNotStartIsNotReported()
+    {
+        m_fake->calls.failOnly("DecoderAllocPort");
+        QVERIFY(m_item->start());
+        QVERIFY(m_fake->net->deliver("dropped"));
+        m_item->stop();
+        QVERIFY(m_fake->calls.take().endsWith("NetStopRealStream(77)"));
+    }
+
+    void withoutALibraryAStartFails_data()
+    {
+        QTest::addColumn<bool>("hasNet");
+        QTest::addColumn<bool>("hasDecoder");
+        QTest::newRow("no network library") << false << true;
+        QTest::newRow("no decoder library") << true << false;
+        QTest::newRow("none") << false << false;
+    }
+
+    void withoutALibraryAStartFails()
+    {
+        QFETCH(bool, hasNet);
+        QFETCH(bool, hasDecoder);
+        sdk::SdkLibraries libraries;
+        if (hasNet)
+            libraries.net = m_fake->net;
+        if (hasDecoder)
+            libraries.decoder = m_fake->decoder;
+        VideoItem::registerLibraries(libraries);
+        VideoItem item;
+        QVERIFY(!item.start());
+        QCOMPARE(item.text(), QString("播放失败"));
+        QVERIFY(!item.savePicture("x.jpg", 50));
+        item.stop();
+    }
+
+    void theSubStreamAndAnotherStart()
+    {
+        m_item->setStreamKind(VideoItem::Sub);
+        QVERIFY(m_item->start());
+        QVERIFY(m_fake->calls.take().contains("NetStartRealStream(5000000000, 2, 0, 1)"));
+        QVERIFY(m_item->start()); // ends the one that runs
+        QCOMPARE(m_fake->calls.take().mid(0, 6), streamStopped + decoderStopped);
+        m_item.reset();
+        QCOMPARE(m_fake->calls.take(), streamStopped + decoderStopped);
+    }
+
+    void tellsThePicture()
+    {
+        QSignalSpy info(m_item.get(), &VideoItem::videoInfoChangedSig);
+        QSignalSpy pictures(m_item.get(), &VideoItem::sigVideoDataChanged);
+        QCOMPARE(m_item->pictureSize(), QSize(-1, -1));
+        QVERIFY(m_item->start());
+        deliver({6, 4, 50, 128, 128});
+        deliver({6, 4, 50, 128, 128});
+        QTRY_COMPARE(m_item->pictureSize(), QSize(6, 4));
+        QVERIFY(m_item->hasPicture());
+        QCOMPARE(pictures.size(), 2);
+        QCOMPARE(info.size(), 1);
+        deliver({8, 4, 50, 128, 128}); // in mid-stream
+        QTRY_COMPARE(m_item->pictureSize(), QSize(8, 4));
+        const QVariantMap figures = m_item->figures();
+        QCOMPARE(figures.value("width").toInt(), 8);
+        QCOMPARE(figures.value("codec").toString(), QString("H.265"));
+        QCOMPARE(figures.value("damages").toInt(), 2);
+        m_item->stop();
+        QCOMPARE(m_item->pictureSize(), QSize(0, 0));
+        QVERIFY(!m_item->hasPicture());
+        QCOMPARE(info.size(), 3);
+        QCoreApplication::processEvents(); // what the decoder had posted
+        QCOMPARE(m_item->pictureSize(), QSize(0, 0));
+    }
+
+    /// The decoder's bytes have ended when stop() returns, also those of a picture that came meanwhile.
+    void nothingIsLeftOfAStoppedStream()
+    {
+        QVERIFY(m_item->start());
+        deliver({6, 4, 50, 128, 128});
+        m_fake->decoder->beforeRemoval = [this] {
+            deliver({6, 4, 60, 128, 128});
+        };
+        m_item->stop();
+        m_item->currentPicture().lookAt([](const DecodedPicture &picture) {
+            QVERIFY(!picture.data);
+            QVERIFY(!picture.isWhole());
+        });
+        QVERIFY(!m_fake->decoder->deliver({1}, {}));
+        QVERIFY(!m_fake->net->deliver("late"));
+    }
+
+    void believesNoSize_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("bytes");
+        QTest::newRow("a byte short") << 5 << 3 << 15 + 2 * 6 - 1;
+        QTest::newRow("negative") << -4 << -2 << 12;
+        QTest::newRow("no height") << 4 << 0 << 12;
+        QTest::newRow("overflowing") << 65536 << 65536 << 12;
+        QTest::newRow("huge") << 0x7fffffff << 0x7fffffff << 12;
+    }
+
+    void believesNoSize()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(int, bytes);
+        QVERIFY(m_item->start());
+        PlainPicture picture(2, 2, 0, 0, 0);
+        picture.bytes.resize(bytes);
+        picture.information.width = width;
+        picture.information.height = height;
+        deliver(picture);
+        m_item->currentPicture().lookAt([](const DecodedPicture &held) { QVERIFY(!held.isWhole()); });
+        QVERIFY(!m_item->savePicture("x.jpg", 50));
+    }
+
+    void saysWhenNoPictureComes()
+    {
+        QSignalSpy errors(m_item.get(), &VideoItem::videoErrorSig);
+        const auto passes = [this](std::chrono::milliseconds time) {
+            m_fake->clock->advance(time);
+            const int looks = m_fake->clock->looks;
+            QTRY_VERIFY(m_fake->clock->looks >= looks + 2);
+        };
+        QVERIFY(m_item->start());
+        passes(7900ms);
+        QCOMPARE(errors.size(), 0);
+        passes(200ms);
+        QCOMPARE(errors.size(), 1);
+        passes(60s); // said once
+        QCOMPARE(errors.size(), 1);
+        deliver({6, 4, 50, 128, 128});
+        passes(3900ms);
+        QCOMPARE(errors.size(), 1);
+        passes(200ms);
+        QCOMPARE(errors.size(), 2);
+        QVERIFY(m_item->start()); // the silence of before does not count
+        passes(7900ms);
+        QCOMPARE(errors.size(), 2);
+    }
+
+    /// A view that is never shown, on a thread that sleeps between its tries, as snapshots need it.
+    void savesThePictureOfAHiddenView()
+    {
+        QStringList results;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            VideoItem item;
+            item.setChannelId(2);
+            results.append(item.start() ? "started" : "failed");
+            results.append(item.savePicture("x.jpg", 50) ? "saved" : "none yet");
+            deliver({6, 4, 50, 128, 128});
+            m_fake->calls.take();
+            results.append(item.savePicture("x.jpg", 50) ? "saved" : "none yet");
+            results.append(m_fake->calls.take());
+        }));
+        thread->start();
+        QVERIFY(thread->wait());
+        QCOMPARE(results,
+                 (QStringList{"started", "none yet", "saved", "DecoderSaveFrame(50, 6x4, 3, 50, x.jpg)"}));
+        QCOMPARE(m_fake->calls.take(), streamStopped + decoderStopped);
+    }
+
+    void zoomsAndDragsInItsOwnSize()
+    {
+        m_item->setSize({640, 360});
+        m_item->changeScale(2, {640, 0}); // towards the upper right corner
+        QCOMPARE(m_item->zoomLevel(), 2);
+        const double half = 0.5 / 1.44;
+        QVERIFY(std::abs(m_item->geometry().centre().x() - (1 - half)) < 1e-5);
+        m_item->drag(64, -36);
+        QVERIFY(std::abs(m_item->geometry().centre().x() - (1 - half - 0.1 / 1.44)) < 1e-5);
+        m_item->setWidth(800); // zoom and part stay
+        QCOMPARE(m_item->zoomLevel(), 2);
+        m_item->changeScale(-100, {0, 0});
+        QCOMPARE(m_item->geometry().centre(), QPointF(0.5, 0.5));
+    }
+};
+
+QTEST_MAIN(TestVideoItem)
+#include "tst_videoitem.moc"
