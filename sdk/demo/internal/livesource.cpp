@@ -26,10 +26,11 @@ std::int64_t LiveSource::Schedule::due() const
 void LiveSource::Schedule::advance(std::int64_t now)
 {
     ++picture;
+    const double period = millisecondsOfSecond / frameRate;
     const std::int64_t late = now - due();
     if (late > longestDelay.count())
-        picture += static_cast<std::int64_t>(static_cast<double>(late) * frameRate / millisecondsOfSecond);
-    else if (-late > 2 * longestDelay.count())
+        picture += static_cast<std::int64_t>(static_cast<double>(late) / period);
+    else if (static_cast<double>(-late) > period + static_cast<double>(longestDelay.count()))
         start += late; // the clock was set back
 }
 

@@ -21,8 +21,9 @@ class DemoSite;
 class LiveSource
 {
 public:
-    /// Pictures that are later than this are left out.
-    static constexpr std::chrono::milliseconds longestDelay{1000};
+    /// Pictures that are later than this are left out, when the computer cannot keep up or the clock was
+    /// stepped far.
+    static constexpr std::chrono::milliseconds longestDelay{200};
 
     /// `site` and `sessions` must outlive the source. Throws std::system_error when there is no thread.
     LiveSource(DemoSite &site, const DemoSessions &sessions, LiveStreamOrder order);

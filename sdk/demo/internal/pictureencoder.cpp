@@ -86,9 +86,9 @@ AVDictionary *optionsOf(StreamCodec codec)
     if (codec == StreamCodec::H265) {
         // Without its filter of offsets (sao) the encoder loses memory each time that it is opened. What is
         // switched off puts noise into plain areas, or needs threads.
-        const std::string parameters =
-            "log-level=none:sao=1:psy-rd=0:aq-mode=0:pools=none:frame-threads=1:wpp=0:qpmin=" +
-            std::to_string(finestQuantizer);
+        const std::string parameters = "log-level=none:sao=1:selective-sao=1:psy-rd=0:aq-mode=0:pools=none:"
+                                       "frame-threads=1:wpp=0:qpmin=" +
+                                       std::to_string(finestQuantizer);
         av_dict_set(&options, "x265-params", parameters.c_str(), 0);
     }
     return options;
