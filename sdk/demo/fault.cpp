@@ -43,6 +43,12 @@ constexpr std::array entries = {
     FaultEntry{Fault::OddConfiguration, "oddConfiguration", FaultValue::Text},
     FaultEntry{Fault::OverLongConfiguration, "overLongConfiguration", FaultValue::Text},
     FaultEntry{Fault::RefusesChannelStates, "refusesChannelStates", FaultValue::None},
+    FaultEntry{Fault::HttpLate, "httpLate", FaultValue::Number},
+    FaultEntry{Fault::HttpSlow, "httpSlow", FaultValue::Number},
+    FaultEntry{Fault::HttpBroken, "httpBroken", FaultValue::None},
+    FaultEntry{Fault::HttpNoStatusLine, "httpNoStatusLine", FaultValue::None},
+    FaultEntry{Fault::HttpHuge, "httpHuge", FaultValue::Number},
+    FaultEntry{Fault::HttpRedirects, "httpRedirects", FaultValue::None},
 };
 
 constexpr bool indexedByFault()
@@ -51,7 +57,7 @@ constexpr bool indexedByFault()
         if (static_cast<std::size_t>(entries[index].fault) != index)
             return false;
     }
-    return entries.back().fault == Fault::RefusesChannelStates;
+    return entries.back().fault == Fault::HttpRedirects;
 }
 static_assert(indexedByFault());
 
@@ -85,6 +91,8 @@ int maximumFaultNumber(Fault fault)
 {
     if (fault == Fault::UpgradeFailsAt)
         return 100;
+    if (fault == Fault::HttpHuge)
+        return 1024;
     return std::numeric_limits<int>::max();
 }
 

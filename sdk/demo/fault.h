@@ -37,13 +37,20 @@ enum class Fault
     OddConfiguration,      ///< the configuration named `text` is no JSON
     OverLongConfiguration, ///< the configuration named `text` is larger than any buffer
     RefusesChannelStates,  ///< does not tell which channels have a camera
+    // Answers over HTTP to a right password:
+    HttpLate,         ///< come `number` ms late
+    HttpSlow,         ///< come at one byte a second for `number` s
+    HttpBroken,       ///< end in the middle
+    HttpNoStatusLine, ///< are the text alone
+    HttpHuge,         ///< are `number` megabytes long
+    HttpRedirects,    ///< send the client elsewhere
 };
 
 /// What a fault needs beside its name.
 enum class FaultValue
 {
     None,
-    Number, ///< FaultSetting::number, 0 or more (UpgradeFailsAt: 0 to 100)
+    Number, ///< FaultSetting::number, 0 or more (UpgradeFailsAt: 0 to 100, HttpHuge: 0 to 1024)
     Text,   ///< FaultSetting::text, not empty
 };
 

@@ -36,8 +36,16 @@ struct SceneChannel
 struct SceneMaintenance
 {
     std::chrono::milliseconds clockAhead{0}; ///< of the site's clock, as the device's own clock stands
-    std::int64_t awayUntil = 0;              ///< on the site's clock: the device reboots until then
+    std::int64_t awayFrom = 0;               ///< on the site's clock: the device reboots from here
+    std::int64_t awayUntil = 0;              ///< until there
     VideoStandard videoStandard = VideoStandard::Pal;
+};
+
+/// What a device's web service asks for.
+enum class HttpAuthenticationKind
+{
+    Digest,
+    Basic,
 };
 
 /// One simulated device.
@@ -52,6 +60,7 @@ struct SceneDevice
     bool dhcp = false;
     int port = 0;      ///< service port, 1 to 65535
     int httpPort = 80; ///< 0 when it has no web page
+    HttpAuthenticationKind httpAuthentication = HttpAuthenticationKind::Digest;
     QString name;
     QString type; ///< "IPC", "NVR", ...
     QString model;
@@ -75,7 +84,8 @@ struct SceneDevice
     /// Whether the device hears anything at `time` of the site's clock.
     [[nodiscard]] bool isListening(std::int64_t time) const
     {
-        return time >= maintenance.awayUntil && !hasFault(Fault::NoAnswer);
+        const bool isAway = time >= maintenance.awayFrom && time < maintenance.awayUntil;
+        return !isAway && !hasFault(Fault::NoAnswer);
     }
 
     /// The device's setting of `wanted`; nothing while the device does not have that fault.

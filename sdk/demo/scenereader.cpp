@@ -61,6 +61,8 @@ void readAddresses(JsonKeys &keys, SceneDevice &device)
     device.dhcp = keys.boolean(u"dhcp"_s, false);
     device.port = keys.requiredNumber(u"port"_s, 1, highestPort);
     device.httpPort = keys.number(u"httpPort"_s, 0, highestPort, device.httpPort);
+    const bool isBasic = keys.choice(u"httpAuthentication"_s, {u"digest"_s, u"basic"_s}, 0) == 1;
+    device.httpAuthentication = isBasic ? HttpAuthenticationKind::Basic : HttpAuthenticationKind::Digest;
     const int segment = keys.choice(u"segment"_s, {u"local"_s, u"other"_s, u"remote"_s}, 0);
     device.inOtherSegment = segment > 0;
     device.isRemote = segment == 2;

@@ -18,6 +18,7 @@ bool isRefusedByNumber(const SceneDevice &device, Fault fault, int number)
 
 void leaveForReboot(SceneDevice &device, std::int64_t now)
 {
+    device.maintenance.awayFrom = now;
     std::chrono::milliseconds away = usualReboot;
     if (const std::optional<FaultSetting> fault = device.fault(Fault::RebootTakes))
         away = std::chrono::seconds(fault->number);
@@ -78,6 +79,13 @@ NetError reboot(SceneDevice &device, std::int64_t now)
         return NetError::NotSupported;
     leaveForReboot(device, now);
     return NetError::None;
+}
+
+NetError rebootAfterAnswer(SceneDevice &device, std::int64_t now)
+{
+    constexpr std::chrono::milliseconds moment = std::chrono::seconds(2);
+    const bool isAboutTo = device.maintenance.awayFrom > now;
+    return isAboutTo ? NetError::None : reboot(device, now + moment.count());
 }
 
 NetError resetToFactory(SceneDevice &device, std::int64_t now)

@@ -25,6 +25,10 @@ inline constexpr std::chrono::seconds usualReboot{20};
 
 [[nodiscard]] NetError reboot(SceneDevice &device, std::int64_t now);
 
+/// The same a moment later, so that whoever asked over HTTP gets the answer, and a client that asks twice
+/// gets both.
+[[nodiscard]] NetError rebootAfterAnswer(SceneDevice &device, std::int64_t now);
+
 /// The device forgets its accounts and its configuration and reboots. It keeps its address and its clock.
 [[nodiscard]] NetError resetToFactory(SceneDevice &device, std::int64_t now);
 

@@ -91,6 +91,7 @@ void ScenesTest::refusesWithClearError_data()
     deviceRow("empty type", u"type"_s, u""_s, {u"not empty"_s});
     deviceRow("unknown state", u"initialised"_s, u"maybe"_s, {u"unreported"_s, u"maybe"_s});
     deviceRow("state as boolean", u"initialised"_s, true, {u"\"yes\""_s, u"but is true"_s});
+    deviceRow("unknown authentication", u"httpAuthentication"_s, u"none"_s, {u"digest"_s, u"basic"_s});
     deviceRow("negative latency", u"latency"_s, -5, {u"from 0"_s});
     deviceRow("too many channels", u"channels"_s, 1e9, {u"1024"_s});
     row("remote without P2P ID", sceneWith({{u"segment"_s, u"remote"_s}}),
@@ -140,6 +141,7 @@ void ScenesTest::readsEveryKey()
         "localAddress": "10.1.1.1", "localIpv6": "fe80:0::1",
         "devices": [{"mac": "02:1A:C5:00:40:17", "address": "10.0.0.9", "ipv6": "FD00:0:0::9/56",
         "mask": "255.255.0.0", "gateway": "10.0.0.1", "dhcp": true, "p2pId": "OV1", "port": 65535, "httpPort": 0,
+        "httpAuthentication": "basic",
         "name": "大门", "type": "NVR", "model": "R-1", "version": "2.1", "serial": "S1",
         "initialised": "unreported", "resetWay": "mail", "accounts": [{"user": "admin", "password": "p"}],
         "channels": [{"connected": false}, {"name": "C2"}], "capabilities": {"a": 1}, "configuration": {"b": 2},
@@ -161,6 +163,7 @@ void ScenesTest::readsEveryKey()
              QStringList({u"大门"_s, u"NVR"_s, u"R-1"_s, u"2.1"_s, u"S1"_s}));
     QCOMPARE(QList<int>({full.ipv6PrefixLength, full.port, full.httpPort, full.resetWay}),
              QList<int>({56, 65535, 0, 2}));
+    QCOMPARE(full.httpAuthentication, HttpAuthenticationKind::Basic);
     QVERIFY(full.dhcp && full.inOtherSegment && !full.isRemote && !full.knowsFirstSearch);
     QCOMPARE(full.initialisation, sdk::InitialisationBits::NotReported);
     QCOMPARE(full.latency.count(), 0);
