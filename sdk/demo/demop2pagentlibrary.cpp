@@ -2,8 +2,8 @@
 
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
+#include "sdk/demo/internal/httpport.h"
 #include "sdk/demo/internal/logging.h"
-#include "sdk/demo/internal/loopbacklistener.h"
 
 #include <algorithm>
 
@@ -99,7 +99,8 @@ bool DemoP2PAgentLibrary::OAgent_ClientAddPort(const char *deviceId, std::int32_
     const std::lock_guard lock(m_mutex);
     if (!m_isStarted)
         return false;
-    std::unique_ptr<LoopbackListener> listener = LoopbackListener::open(localPort);
+    std::unique_ptr<HttpPort> listener =
+        HttpPort::open(m_site.httpResponder(), HttpPort::Role::Tunnel, localPort);
     if (!listener)
         return false;
     localPort = listener->port();
@@ -110,7 +111,7 @@ bool DemoP2PAgentLibrary::OAgent_ClientAddPort(const char *deviceId, std::int32_
 
 bool DemoP2PAgentLibrary::OAgent_ClientDelPort(std::int32_t localPort)
 {
-    std::unique_ptr<LoopbackListener> listener;
+    std::unique_ptr<HttpPort> listener;
     QString mac;
     {
         const std::lock_guard lock(m_mutex);

@@ -15,7 +15,7 @@
 namespace sdk::demo {
 
 class DemoSite;
-class LoopbackListener;
+class HttpPort;
 
 /// Where a local port leads.
 struct Tunnel
@@ -25,7 +25,8 @@ struct Tunnel
     bool isBroken; ///< the local port is there still, but what goes in does not come out
 };
 
-/// Maps ports of the site's devices that have a P2P ID. The local ports are real ones of 127.0.0.1. Every
+/// Maps ports of the site's devices that have a P2P ID. The local ports are real ones of 127.0.0.1, and one
+/// to a device's web port speaks HTTP. Every
 /// request goes to the site's record, the server secret as its length only.
 class DemoP2PAgentLibrary : public P2PAgentLibrary
 {
@@ -55,7 +56,7 @@ private:
     {
         QByteArray deviceId;
         Tunnel tunnel;
-        std::unique_ptr<LoopbackListener> listener;
+        std::unique_ptr<HttpPort> listener;
     };
 
     void record(const char *operation, const QJsonObject &request, const QString &mac = {}) const;

@@ -5,6 +5,8 @@
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demop2pagentlibrary.h"
 #include "sdk/demo/fleetgenerator.h"
+#include "sdk/demo/internal/httpport.h"
+#include "sdk/demo/internal/httpresponder.h"
 #include "sdk/demo/internal/logging.h"
 #include "sdk/demo/scenereader.h"
 
@@ -91,6 +93,7 @@ DemoSite::DemoSite(const Scene &scene, std::shared_ptr<Clock> clock)
     : m_title(scene.title), m_description(scene.description), m_localAddress(scene.localAddress),
       m_localIpv6(scene.localIpv6), m_clock(std::move(clock)),
       m_config(std::make_shared<ConfigTextLibrary>()),
+      m_httpResponder(std::make_unique<HttpResponder>(*this)),
       m_portAgent(std::make_unique<DemoP2PAgentLibrary>(*this)),
       m_net(std::make_unique<DemoNetLibrary>(*this))
 {
@@ -181,6 +184,14 @@ bool DemoSite::clearFault(const QString &mac, Fault fault)
 {
     return changeDevice(
         mac, [fault](SceneDevice &device, const QList<SceneDevice> &) { device.clearFault(fault); });
+}
+
+QString DemoSite::httpProxy()
+{
+    const std::lock_guard lock(m_httpProxyMutex);
+    if (!m_httpProxy)
+        m_httpProxy = HttpPort::open(*m_httpResponder, HttpPort::Role::Proxy, 0);
+    return m_httpProxy ? u"http://127.0.0.1:%1"_s.arg(m_httpProxy->port()) : QString();
 }
 
 QString DemoSite::localAddressFor(const SceneDevice &device, int ipVersion) const

@@ -17,6 +17,8 @@ namespace sdk::demo {
 
 class DemoNetLibrary;
 class DemoP2PAgentLibrary;
+class HttpPort;
+class HttpResponder;
 
 /// Thread-safe. Devices are found by MAC, in upper or lower case. The libraries keep the site alive; the last
 /// of them must not be released inside a handler.
@@ -70,6 +72,13 @@ public:
     /// The port agent, which knows where local ports lead, and whose tunnels a test can break.
     [[nodiscard]] DemoP2PAgentLibrary &portAgent() const { return *m_portAgent; }
 
+    /// The HTTP proxy through which the devices' web services are reached: "http://127.0.0.1:40123". It is
+    /// opened by the first call and ends with the site. Empty when the computer gives no port.
+    [[nodiscard]] QString httpProxy();
+
+    /// What the proxy and the tunnels of the port agent answer with.
+    [[nodiscard]] const HttpResponder &httpResponder() const { return *m_httpResponder; }
+
     /// This computer's IPv4 address in the local segment.
     [[nodiscard]] QString localAddress() const { return m_localAddress; }
 
@@ -90,9 +99,12 @@ private:
     QList<SceneDevice> m_devices;
     QHash<QString, qsizetype> m_placeOfMac;
     const std::shared_ptr<ConfigLibrary> m_config;
-    // Last, the agent before the network library that looks at its ports: threads end before what they use.
+    const std::unique_ptr<HttpResponder> m_httpResponder;
+    // Last, the agent before those that look at its ports: threads end before what they use.
     std::unique_ptr<DemoP2PAgentLibrary> m_portAgent;
     std::unique_ptr<DemoNetLibrary> m_net;
+    std::mutex m_httpProxyMutex; // opening the proxy
+    std::unique_ptr<HttpPort> m_httpProxy;
 };
 
 } // namespace sdk::demo

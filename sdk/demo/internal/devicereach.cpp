@@ -9,24 +9,30 @@ namespace sdk::demo {
 
 namespace {
 
-DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int localPort)
+/// 0 for none.
+int portOf(const SceneDevice &device, DevicePort kind)
+{
+    return kind == DevicePort::Web ? device.httpPort : device.port;
+}
+
+DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int localPort, DevicePort kind)
 {
     const std::optional<SceneDevice> device = site.device(tunnel.mac);
     if (tunnel.isBroken || !device || !device->isListening(site.clock().now()))
         return {};
-    if (tunnel.devicePort != device->port)
+    if (tunnel.devicePort != portOf(*device, kind))
         return {DeviceReach::Kind::Refuses};
     return {DeviceReach::Kind::Answers, {tunnel.mac, localPort}};
 }
 
 } // namespace
 
-DeviceReach reach(const DemoSite &site, const QString &address, int port)
+DeviceReach reach(const DemoSite &site, const QString &address, int port, DevicePort kind)
 {
     const bool isLoopback = address == QLatin1String("127.0.0.1");
     if (isLoopback) {
         if (const std::optional<Tunnel> tunnel = site.portAgent().tunnel(port))
-            return reachThroughTunnel(site, *tunnel, port);
+            return reachThroughTunnel(site, *tunnel, port, kind);
     }
     const QString ipv6 = canonicalIpv6Address(address);
     const bool isIpv4 = isIpv4Address(address) && address != QLatin1String("0.0.0.0");
@@ -39,7 +45,7 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port)
         if (!isHere || device.isRemote || !device.isListening(now) ||
             found.kind == DeviceReach::Kind::Answers)
             return;
-        if (device.port == port)
+        if (port != 0 && portOf(device, kind) == port)
             found = {DeviceReach::Kind::Answers, {device.mac, 0}};
         else
             found.kind = DeviceReach::Kind::Refuses;
@@ -57,7 +63,8 @@ bool isReachable(const DemoSite &site, const DemoSession &session)
     }
     const std::optional<Tunnel> tunnel = site.portAgent().tunnel(session.localPort);
     return tunnel && tunnel->mac == session.mac &&
-           reachThroughTunnel(site, *tunnel, session.localPort).kind == DeviceReach::Kind::Answers;
+           reachThroughTunnel(site, *tunnel, session.localPort, DevicePort::Service).kind ==
+               DeviceReach::Kind::Answers;
 }
 
 } // namespace sdk::demo

@@ -7,6 +7,13 @@ namespace sdk::demo {
 
 class DemoSite;
 
+/// Which of a device's ports is meant.
+enum class DevicePort
+{
+    Service,
+    Web,
+};
+
 struct DeviceReach
 {
     enum class Kind
@@ -21,7 +28,8 @@ struct DeviceReach
 
 /// Looks for the first device of the scene at `address` (IPv4 or IPv6), or behind the local port of the port
 /// agent when the address is 127.0.0.1.
-[[nodiscard]] DeviceReach reach(const DemoSite &site, const QString &address, int port);
+[[nodiscard]] DeviceReach reach(const DemoSite &site, const QString &address, int port,
+                                DevicePort kind = DevicePort::Service);
 
 /// Whether the device of `session` can be talked to still.
 [[nodiscard]] bool isReachable(const DemoSite &site, const DemoSession &session);

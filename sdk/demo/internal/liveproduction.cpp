@@ -30,11 +30,17 @@ TestCardTexts textsOf(const SceneDevice &device, std::int32_t channel, LiveStrea
 
 } // namespace
 
+TestCard testCardOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
+                    const StreamSettings &settings)
+{
+    return {
+        {settings.width, settings.height}, hueOf(device, channel), textsOf(device, channel, kind, settings)};
+}
+
 std::unique_ptr<LiveProduction> LiveProduction::begin(const SceneDevice &device, std::int32_t channel,
                                                       LiveStreamKind kind, const StreamSettings &settings)
 {
-    TestCard card({settings.width, settings.height}, hueOf(device, channel),
-                  textsOf(device, channel, kind, settings));
+    TestCard card = testCardOf(device, channel, kind, settings);
     // Not make_unique: the constructor is private.
     std::unique_ptr<LiveProduction> production(new LiveProduction(settings, std::move(card)));
     production->m_encoder = PictureEncoder::open(settings);

@@ -10,6 +10,10 @@
 
 namespace sdk::demo {
 
+/// The test card that the stream of a channel (from 0) shows.
+[[nodiscard]] TestCard testCardOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
+                                  const StreamSettings &settings);
+
 /// Belongs to one thread. Goes on with the same settings from its begin to its end.
 class LiveProduction
 {

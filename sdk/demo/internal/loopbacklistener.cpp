@@ -37,12 +37,12 @@ int bindLoopback(int socket, int port)
 
 } // namespace
 
-std::unique_ptr<LoopbackListener> LoopbackListener::open(int port)
+std::unique_ptr<LoopbackListener> LoopbackListener::open(int port, ConnectionTaker taker)
 {
     const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     const int wakeUp = eventfd(0, EFD_CLOEXEC);
     // Owns both from here on, and closes them on failure.
-    std::unique_ptr<LoopbackListener> listener(new LoopbackListener(socket, wakeUp, 0));
+    std::unique_ptr<LoopbackListener> listener(new LoopbackListener(socket, wakeUp, std::move(taker)));
     if (socket < 0 || wakeUp < 0)
         return nullptr;
     listener->m_port = bindLoopback(socket, port);
@@ -51,7 +51,7 @@ std::unique_ptr<LoopbackListener> LoopbackListener::open(int port)
     try {
         listener->m_thread = std::thread([listener = listener.get()] { listener->acceptConnections(); });
     } catch (const std::system_error &error) {
-        qCWarning(demoLog, "No thread for a port of the port agent: %s", error.what());
+        qCWarning(demoLog, "No thread for a local port: %s", error.what());
         return nullptr;
     }
     return listener;
@@ -83,7 +83,7 @@ void LoopbackListener::acceptConnections() const
             continue;
         const int connection = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
         if (connection >= 0) {
-            close(connection);
+            m_taker(connection, m_port);
         } else if (errno == EMFILE || errno == ENFILE || errno == ENOBUFS || errno == ENOMEM) {
             // The connection stays in the queue: asking again at once would keep a processor busy.
             constexpr int pause = 100;

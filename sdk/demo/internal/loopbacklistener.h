@@ -1,19 +1,22 @@
 // A real port of 127.0.0.1.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <thread>
 
 namespace sdk::demo {
 
-/// Accepts connections on a thread of its own, and for now closes each at once. The destructor closes the
-/// port and joins the thread.
+/// Accepts connections on a thread of its own. The destructor closes the port and joins the thread.
 class LoopbackListener
 {
 public:
+    /// Takes over a connected socket that has come to `port`; called on the listener's thread.
+    using ConnectionTaker = std::function<void(int socket, int port)>;
+
     /// Listens at `port`, 0 for any that is free. Returns null when it is taken or the computer gives no
     /// socket or thread.
-    [[nodiscard]] static std::unique_ptr<LoopbackListener> open(int port);
+    [[nodiscard]] static std::unique_ptr<LoopbackListener> open(int port, ConnectionTaker taker);
 
     ~LoopbackListener();
     LoopbackListener(const LoopbackListener &) = delete;
@@ -22,12 +25,16 @@ public:
     [[nodiscard]] int port() const { return m_port; }
 
 private:
-    LoopbackListener(int socket, int wakeUp, int port) : m_socket(socket), m_wakeUp(wakeUp), m_port(port) {}
+    LoopbackListener(int socket, int wakeUp, ConnectionTaker taker)
+        : m_taker(std::move(taker)), m_socket(socket), m_wakeUp(wakeUp)
+    {
+    }
     void acceptConnections() const;
 
-    int m_socket;
-    int m_wakeUp; // becomes readable when the thread is to end
-    int m_port;
+    const ConnectionTaker m_taker;
+    const int m_socket;
+    const int m_wakeUp; // becomes readable when the thread is to end
+    int m_port = 0;
     std::thread m_thread;
 };
 

@@ -54,7 +54,8 @@ private:
     QStringList m_lines;
 };
 
-/// Whether 127.0.0.1 takes a connection at `port`; waits until the other side has closed it.
+/// Whether 127.0.0.1 takes a connection at `port`; asks nothing, and waits until the other side has closed
+/// it.
 bool isListening(int port)
 {
     const int connection = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
@@ -63,9 +64,10 @@ bool isListening(int port)
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     char byte = 0;
-    const bool isClosed =
-        ::connect(connection, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0 &&
-        ::recv(connection, &byte, 1, 0) <= 0;
+    const bool isConnected =
+        ::connect(connection, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0;
+    ::shutdown(connection, SHUT_WR);
+    const bool isClosed = isConnected && ::recv(connection, &byte, 1, 0) <= 0;
     ::close(connection);
     return isClosed;
 }

@@ -1,0 +1,52 @@
+// One connection to the web service, from its first request to its end.
+#pragma once
+
+#include "sdk/demo/internal/httpmessage.h"
+
+#include <QByteArray>
+
+#include <chrono>
+#include <stop_token>
+
+namespace sdk::demo {
+
+class HttpResponder;
+
+/// Answers the requests of a connection, one after another, on the calling thread. It ends with the client,
+/// with a request that is none, after a time without one, and soon after a stop together with
+/// shutdown(socket).
+class HttpConnection
+{
+public:
+    /// From the first byte of a request until it is complete, and between two requests.
+    static constexpr std::chrono::seconds requestTime{15};
+
+    /// `socket` is a connected one; the caller closes it. `localPort` is as for HttpResponder::answer.
+    HttpConnection(const HttpResponder &responder, int socket, int localPort, std::stop_token stop);
+
+    void serve();
+
+private:
+    using Deadline = std::chrono::steady_clock::time_point;
+
+    /// Returns Ok with a request, None when there is no further one, else what to refuse it with.
+    HttpStatus receiveRequest(HttpRequest &request);
+    /// Appends what has come to m_received. Returns false at the end, and when nothing comes in time.
+    bool receiveMore(Deadline deadline);
+
+    /// Returns false when the connection cannot be used any more.
+    bool sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection);
+    bool sendBody(const HttpReply &reply);
+    bool send(QByteArrayView bytes);
+
+    /// Takes in what the client still sends, so that it reads the answer before the connection ends.
+    void linger();
+
+    const HttpResponder &m_responder;
+    const int m_socket;
+    const int m_localPort;
+    const std::stop_token m_stop;
+    QByteArray m_received; // and not yet used
+};
+
+} // namespace sdk::demo
