@@ -312,6 +312,12 @@ const QHash<QString, Changer> &changers()
 
 } // namespace
 
+bool changesColor(const QString &key)
+{
+    const auto changer = changers().constFind(key);
+    return changer != changers().constEnd() && changer->group == sdk::CameraGroup::Picture;
+}
+
 QList<CameraWrite> changeCamera(const QString &key, const QString &subKey, const QVariant &value,
                                 const ValueTables &tables, CameraState &state)
 {

@@ -28,6 +28,9 @@ enum class CameraWrite
     ChannelName,
 };
 
+/// Whether a change of `key` changes the configuration "VideoColor" in the state, or writes it.
+[[nodiscard]] bool changesColor(const QString &key);
+
 /// Changes `state` and returns the writes in their order. Nothing, with the state unchanged, for an unknown
 /// key or sub-key, a group that the camera does not support, or a value that is none; numbers out of the
 /// camera's range are brought into it. A sub-key may be left out where a group has one value only.

@@ -60,6 +60,9 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
     if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&
         !readDefog(m_session, channel, changed))
         return Outcome::Refused;
+    // The encode page reads another channel's, which must not be written to this one.
+    if (changesColor(key) && m_state.supports(sdk::CameraGroup::Picture) && m_state.colorChannel != channel)
+        readVideoColor(m_session, channel, changed);
     const QList<CameraWrite> writes = changeCamera(key, subKey, value, m_tables, changed);
     if (writes.isEmpty()) {
         qCWarning(logDevice) << "Camera:" << key << subKey << "cannot be set to" << value;

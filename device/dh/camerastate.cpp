@@ -48,6 +48,7 @@ bool readConfiguration(const ConfigSession &session, const char *name, int chann
 
 void readVideoColor(const ConfigSession &session, int channel, CameraState &state)
 {
+    state.colorChannel = channel;
     state.isColorKnown = readConfiguration(session, "VideoColor", channel, state.color);
 }
 

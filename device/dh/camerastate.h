@@ -10,6 +10,7 @@ struct CameraState
     sdk::CameraMode mode = sdk::CameraMode::Day;
     sdk::CameraCapabilities capabilities{};
     sdk::VideoColorRecord color{};
+    int colorChannel = 0; ///< that the record was read of, or asked of
     sdk::LightingRecord lighting{};
     bool isColorKnown =
         false; ///< otherwise the record must not be written: it would undo what it does not know

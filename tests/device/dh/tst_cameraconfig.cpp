@@ -246,6 +246,24 @@ private Q_SLOTS:
         QCOMPARE(text.value("wait").toInt(), 3000);
     }
 
+    void theColoursOfOneChannelAreNotWrittenToAnother()
+    {
+        open(camera());
+        m_site->set("curVideoChannel", 1);
+        read();
+        m_site->set("curSwitchMode", 1); // night
+        m_site->factory->getVideoIn("dh");
+        m_site->set("picture", 88, "hue");
+        m_site->set("curSwitchMode", 0);
+        m_site->factory->getVideoIn("dh");
+        m_site->factory->getEncodeCaps("dh"); // reads the colours of the first channel
+        m_site->set("setDefault", "");
+        const QJsonObject written = m_site->asked("NetSetNewConfig").first();
+        QCOMPARE(written.value("channel").toInt(), 1);
+        const QJsonObject colours = written.value("text").toObject().value("VideoColor").toObject();
+        QCOMPARE(colours.value("night").toObject().value("hue").toInt(), 88);
+    }
+
     void aRefusedChangeShowsWhatTheDeviceHas()
     {
         SceneDevice device = camera();
