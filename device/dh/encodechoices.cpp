@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr int profileWithoutLetter = 2;
 constexpr int largestSide = 65535;
 
 /// Steps behind these are not offered.
@@ -15,11 +14,6 @@ template<typename Entry, std::size_t size>
 std::span<const Entry> used(const std::array<Entry, size> &entries, std::uint32_t count)
 {
     return std::span(entries).first(std::min<std::size_t>(count, size));
-}
-
-bool isProfile(int value)
-{
-    return value >= 1 && value <= 4;
 }
 
 std::optional<int> sideOf(QStringView text)
@@ -34,7 +28,7 @@ std::optional<int> sideOf(QStringView text)
 bool EncodeChoices::hasProfiles() const
 {
     const auto profiles = used(m_block.profiles, m_block.profileCount);
-    return isFilled() && std::any_of(profiles.begin(), profiles.end(), isProfile);
+    return isFilled() && std::any_of(profiles.begin(), profiles.end(), isH264Profile);
 }
 
 QStringList EncodeChoices::compressions() const
@@ -48,11 +42,22 @@ QStringList EncodeChoices::compressions() const
             continue;
         }
         for (const int profile : used(m_block.profiles, m_block.profileCount)) {
-            if (isProfile(profile))
+            if (isH264Profile(profile))
                 names.append(m_tables.H264ProfileNames.at(profile - 1));
         }
     }
     return names;
+}
+
+bool EncodeChoices::offersCompression(int code, int profile) const
+{
+    const bool isKnown = code >= 0 && code < static_cast<int>(sdk::compressionCount);
+    if (!isFilled() || !isKnown || (m_block.compressionMask >> code & 1) == 0)
+        return false;
+    if (code != sdk::compressionH264 || !hasProfiles() || !isH264Profile(profile))
+        return true;
+    const auto profiles = used(m_block.profiles, m_block.profileCount);
+    return std::find(profiles.begin(), profiles.end(), profile) != profiles.end();
 }
 
 void EncodeChoices::appendSizes(QStringList &names, const sdk::PictureSizeList &list) const
@@ -127,6 +132,11 @@ QStringList EncodeChoices::audioCompressions() const
     return names;
 }
 
+bool isH264Profile(int value)
+{
+    return value >= 1 && value <= 4;
+}
+
 std::optional<CompressionChoice> compressionChoice(const ValueTables &tables, const QString &name)
 {
     const int profilePlace = static_cast<int>(tables.H264ProfileNames.indexOf(name));
@@ -141,7 +151,7 @@ std::optional<CompressionChoice> compressionChoice(const ValueTables &tables, co
 
 QString compressionName(const ValueTables &tables, int code, int profile)
 {
-    if (code == sdk::compressionH264 && isProfile(profile))
+    if (code == sdk::compressionH264 && isH264Profile(profile))
         return tables.H264ProfileNames.at(profile - 1);
     return tables.VideoCompressionNames.value(code);
 }

@@ -19,6 +19,10 @@ public:
     /// With H.264 an entry for each profile that the device reports stands in place of "H264".
     [[nodiscard]] QStringList compressions() const;
 
+    /// Whether the compression of this code is offered, with this profile where it is H.264 and the device
+    /// reports its profiles. A `profile` that is none of 1 to 4 stands for any.
+    [[nodiscard]] bool offersCompression(int code, int profile) const;
+
     /// The same size may stand there more than once when sizes depend on the compression.
     [[nodiscard]] QStringList resolutions() const;
 
@@ -47,6 +51,12 @@ struct CompressionChoice
     int code = 0;
     int profile = 0; ///< 1 to 4; 0 when the compression has none
 };
+
+/// Whether `value` is a profile of H.264: 1 to 4.
+[[nodiscard]] bool isH264Profile(int value);
+
+/// The profile whose name has no letter, which "H264" alone stands for.
+inline constexpr int profileWithoutLetter = 2;
 
 /// What a compression text stands for; nothing for an unknown one. "H264" without a profile stands for the
 /// profile whose name has no letter.

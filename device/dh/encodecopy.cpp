@@ -33,16 +33,20 @@ bool offersAudio(const EncodeChoices &choices, int format)
 
 /// Puts the compression and the size of `from` into `to` as far as its device offers them.
 /// Returns the names of the others.
-QStringList takePicture(const EncodeChoices &choices, const ValueTables &tables, const EncodeItems &from,
-                        bool isSub, EncodeItems &to)
+QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
 {
     const sdk::VideoFormatItem &wanted = from.videoFormat;
     sdk::VideoFormatItem &video = to.videoFormat;
     QStringList skipped;
-    const int profile = choices.hasProfiles() ? from.videoProfile.profile : 0;
-    if (choices.compressions().contains(compressionName(tables, wanted.compression, profile))) {
+    const int profile = from.videoProfile.profile;
+    if (choices.offersCompression(wanted.compression, profile)) {
         video.compression = wanted.compression;
-        to.videoProfile.profile = from.videoProfile.profile;
+        // Other compressions have no profile, and not every device tells one of H.264: then the own one
+        // stays.
+        if (wanted.compression == sdk::compressionH264 && isH264Profile(profile))
+            to.videoProfile.profile = profile;
+        else if (wanted.compression == sdk::compressionH264 && !isH264Profile(to.videoProfile.profile))
+            to.videoProfile.profile = profileWithoutLetter;
     } else {
         skipped.append(SettingNames::compression(isSub));
     }
@@ -113,8 +117,8 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     const sdk::EncodeCapabilityBlock &sub = to.subBlock();
     const EncodeChoices mainChoices(tables, main);
     const EncodeChoices subChoices(tables, sub);
-    outcome.skipped = takePicture(mainChoices, tables, from.main, false, to.main);
-    outcome.skipped += takePicture(subChoices, tables, from.sub, true, to.sub);
+    outcome.skipped = takePicture(mainChoices, from.main, false, to.main);
+    outcome.skipped += takePicture(subChoices, from.sub, true, to.sub);
     // The bit rates that a device can do follow the size.
     putIntoRecord(to.main, to.record.streams[static_cast<std::size_t>(streamType)]);
     putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);

@@ -364,6 +364,38 @@ private Q_SLOTS:
         QVERIFY(m_site->asked("NetSetItem").isEmpty());
     }
 
+    void aCopyLeavesProfilesThatTheSourceDoesNotHave_data()
+    {
+        QTest::addColumn<int>("compression");       // of the source, which reports no profiles
+        QTest::addColumn<QVariantList>("profiles"); // that the target reports
+        QTest::addColumn<int>("written");
+        QTest::newRow("H.265") << 8 << QVariantList{1, 2, 4} << 2;
+        QTest::newRow("H.264") << 7 << QVariantList{1, 4} << 1;
+        QTest::newRow("H.264, and the target has none either") << 7 << QVariantList() << 2;
+    }
+
+    void aCopyLeavesProfilesThatTheSourceDoesNotHave()
+    {
+        QFETCH(int, compression);
+        QFETCH(QVariantList, profiles);
+        SceneDevice source = modernCamera();
+        const QJsonObject plain = {{"compressions", list({compression})}, {"profiles", list({})}};
+        source.capabilities = {{"encode", QJsonObject{{"main", plain}, {"sub", plain}}}};
+        SceneDevice target = configDevice(6, "IPC", 1);
+        const QJsonObject stream = {{"compressions", list({7, 8})}, {"profiles", list(profiles)}};
+        target.capabilities = {{"encode", QJsonObject{{"main", stream}, {"sub", stream}}}};
+        m_site = std::make_unique<ConfigSite>(QList{source, target});
+        m_site->factory->getLoginDevice("dh", target.address, "admin", "secret1", "37777");
+        QCOMPARE(m_site->login(source), 0);
+        QCOMPARE(read(), 0);
+        QSignalSpy results(m_site->factory.get(), &CDeviceFactory::signalRetToCopyConfig);
+        m_site->factory->copyConfigToDevice("dh", {ipportOf(target)});
+        QCOMPARE(results.first().at(1).toInt(), 0);
+        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(target)).value("result").toString(), "");
+        QCOMPARE(written(1100, 1).value("compression").toInt(), compression);
+        QTEST(written(1103, 1).value("profile").toInt(), "written");
+    }
+
     void settingsAreCopiedToOtherDevices()
     {
         SceneDevice refusing = configDevice(4, "IPC", 1);
