@@ -106,7 +106,9 @@ Q_SIGNALS:
     void signalCDeviceChangeVideoType();
     void signalCDeviceChangeVideoChannel();
     void signalCDeviceChangeEncodeChannel();
-    void signalCDeviceConfirmEncodeConfig(const QString &resStr); ///< empty on success
+    /// What was refused, a line for each; empty on success. Also for what setConfigData() wrote at once,
+    /// when it is refused.
+    void signalCDeviceConfirmEncodeConfig(const QString &resStr);
     void signalCDeviceSetChannelNameFinished();
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);

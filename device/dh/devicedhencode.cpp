@@ -47,9 +47,11 @@ void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const Q
         setCameraValue(key, value, otype);
         return;
     }
-    const int result = m_encode->setValue(key, value);
-    if (result != 0)
-        Q_EMIT signalCDeviceGetDeviceCapRet(result);
+    const EncodeConfig::Outcome outcome = m_encode->setValue(key, value);
+    if (!outcome.refused.isEmpty())
+        Q_EMIT signalCDeviceConfirmEncodeConfig(outcome.refused);
+    if (outcome.result != 0)
+        Q_EMIT signalCDeviceGetDeviceCapRet(outcome.result);
 }
 
 void CDeviceDH::confirmConfigData()

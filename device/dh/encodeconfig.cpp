@@ -20,6 +20,18 @@ public:
     }
 };
 
+constexpr int subVideoFormat = 4; // its place among the items
+
+/// A line for each.
+QString namesOf(const QList<int> &items)
+{
+    const QStringList names = ItemTexts::names();
+    QString text;
+    for (const int place : items)
+        text += names.at(place) + QLatin1Char('\n');
+    return text;
+}
+
 } // namespace
 
 EncodeConfig::EncodeConfig(const ValueTables &tables, const ChannelChoice &channels)
@@ -49,19 +61,20 @@ QVariant EncodeConfig::value(const QString &key) const
     return m_values.value(key, m_state ? *m_state : nothing, m_channels.curStreamType);
 }
 
-int EncodeConfig::setValue(const QString &key, const QVariant &value)
+EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant &value)
 {
     if (!m_state || !m_values.setValue(key, value, *m_state)) {
         qCWarning(logDevice) << "Encode:" << key << "cannot be set to" << value;
-        return 0;
+        return {};
     }
     if (key != QLatin1String("subCurResolution"))
-        return 0;
-    writeSubResolution();
-    return readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result;
+        return {};
+    const bool isTaken = writeSubResolution();
+    return {.refused = isTaken ? QString() : namesOf({subVideoFormat}),
+            .result = readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result};
 }
 
-void EncodeConfig::writeSubResolution()
+bool EncodeConfig::writeSubResolution()
 {
     sdk::VideoFormatItem &item = m_state->sub.videoFormat;
     const std::int32_t wantedBitRate = item.bitRate;
@@ -71,7 +84,7 @@ void EncodeConfig::writeSubResolution()
                                    m_channels.curVideoChannel, item);
     };
     if (isTaken())
-        return;
+        return true;
     // The resolution may need another bit rate. A device that is away gets no further tries, each of which
     // would wait.
     for (const std::int32_t step : m_tables.BitRateSteps) {
@@ -79,11 +92,12 @@ void EncodeConfig::writeSubResolution()
             break;
         item.bitRate = step;
         if (isTaken())
-            return;
+            return true;
     }
     item.bitRate = wantedBitRate;
     qCWarning(logDevice) << "Encode: the sub stream's size" << item.width << item.height
                          << "is refused at every bit rate, error" << m_session.lastError();
+    return false;
 }
 
 QString EncodeConfig::confirm()
@@ -92,11 +106,7 @@ QString EncodeConfig::confirm()
     QList<int> refused = {0, 1, 2, 3, 4, 5, 6, 7};
     if (m_state)
         refused = writeEncodeItems(m_session, m_channels.curChannel, m_state->main, m_state->sub);
-    const QStringList names = itemNames();
-    QString text;
-    for (const int place : refused)
-        text += names.at(place) + QLatin1Char('\n');
-    return text;
+    return namesOf(refused);
 }
 
 QStringList EncodeConfig::itemNames()

@@ -25,10 +25,16 @@ public:
 
     [[nodiscard]] QVariant value(const QString &key) const;
 
+    /// What came of a value that may have gone to the device at once.
+    struct Outcome
+    {
+        QString refused; ///< as confirm() returns it
+        int result = 0;  ///< of reading the capabilities again where that was needed, as read() returns it
+    };
+
     /// Takes a value of the page. The resolution of the sub stream goes to the device at once, everything
-    /// else waits for confirm(). Returns the result of reading the capabilities again where that was needed,
-    /// as read() does, otherwise 0. What the key cannot have is ignored.
-    int setValue(const QString &key, const QVariant &value);
+    /// else waits for confirm(). What the key cannot have is ignored.
+    Outcome setValue(const QString &key, const QVariant &value);
 
     /// Writes everything. Returns the names of what was refused, each with a line feed.
     [[nodiscard]] QString confirm();
@@ -40,7 +46,8 @@ public:
     [[nodiscard]] static QStringList itemNames();
 
 private:
-    void writeSubResolution();
+    /// Returns whether the device took it, at whatever bit rate.
+    [[nodiscard]] bool writeSubResolution();
 
     const EncodeValues m_values;
     const ValueTables &m_tables;

@@ -277,7 +277,10 @@ private Q_SLOTS:
         m_site->set("curChannel", 2);
         QCOMPARE(read(), 0);
         m_site->site->requests().clear();
+        QSignalSpy refused(m_site->factory.get(), &CDeviceFactory::signalConfirmEncodeConfig);
         m_site->set("subCurResolution", "CIF");
+        QCOMPARE(refused.isEmpty() ? QString() : refused.first().first().toString(),
+                 limit < 32 ? "辅码流编码视频格式属性\n" : "");
         QCOMPARE(m_site->asked("NetSetItem").size(), writes);
         QCOMPARE(m_site->askedItems("NetSetItem").last(), "1100/4@4 44 5000"); // the other page's channel
         QCOMPARE(m_site->asked("NetSetItem").first().value("bitRate").toInt(), 512);
