@@ -5,6 +5,7 @@
 #include <QHash>
 
 #include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -233,7 +234,7 @@ Writes setDefaults(const Change &change)
 {
     CameraState &state = change.state;
     const sdk::ValueRange range = usableRange(state.capabilities.picture);
-    const std::int32_t middle = range.minimum + (range.maximum - range.minimum) / 2;
+    const std::int32_t middle = std::midpoint(range.minimum, range.maximum); // of any range, also the widest
     constexpr std::int32_t standardStyle = 2;
     sdk::PictureItem &item = state.picture;
     item.colorStyle = standardStyle;

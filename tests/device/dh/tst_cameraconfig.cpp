@@ -1,4 +1,5 @@
 // The camera image page on a simulated site: every change is one request of its own.
+#include "device/dh/camerachanges.h"
 #include "sdk/neterror.h"
 #include "tests/device/dh/configsite.h"
 
@@ -303,6 +304,16 @@ private Q_SLOTS:
         m_site->set("curDayNightMode", 3);
         m_site->set("noSuchKey", 1);
         QVERIFY(m_site->site->requests().all().isEmpty());
+    }
+
+    void theWidestRangeHasAMiddle()
+    {
+        CameraState state;
+        state.capabilities.groups = 1u << static_cast<std::uint32_t>(sdk::CameraGroup::Picture);
+        state.capabilities.picture = {std::numeric_limits<std::int32_t>::min(),
+                                      std::numeric_limits<std::int32_t>::max()};
+        QCOMPARE(changeCamera("setDefault", "", "", ValueTables(), state).size(), 1);
+        QCOMPARE(state.picture.gamma, -1);
     }
 
     void oddCapabilitiesGiveAUsablePage()
