@@ -4,8 +4,11 @@
 
 #include <QHash>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
+#include <span>
 
 namespace {
 
@@ -16,7 +19,7 @@ constexpr sdk::ValueRange rotations = {0, 3};
 constexpr sdk::ValueRange flags = {0, 1};
 constexpr sdk::ValueRange sensitivities = {1, 3};
 constexpr sdk::ValueRange switchDelays = {2, 10};
-constexpr sdk::ValueRange mixedSensitivities = {1, 5};
+constexpr std::array mixedSensitivities = {1, 3, 5};
 constexpr sdk::ValueRange lightDelays = {0, 3600};
 constexpr sdk::ValueRange lightModes = {0, 255};
 constexpr sdk::ValueRange regionSides = {0, 8192};
@@ -55,6 +58,15 @@ struct Change
         if (!isNumber || !chosen)
             return false;
         field = *chosen;
+        return true;
+    }
+    [[nodiscard]] bool oneOf(std::span<const int> numbers, std::int32_t &field) const
+    {
+        bool isNumber = false;
+        const int number = value.toInt(&isNumber);
+        if (!isNumber || std::find(numbers.begin(), numbers.end(), number) == numbers.end())
+            return false;
+        field = number;
         return true;
     }
     [[nodiscard]] bool shutter(float &field) const
@@ -209,7 +221,7 @@ Writes changeMixedLight(const Change &change)
         (change.is("controlMode") && change.choice(change.lists().lightControls, item.controlMode)) ||
         (change.is("mixMode") && change.choice(change.lists().mixedLights, item.mixMode)) ||
         (change.is("LightMode") && change.number(lightModes, item.lightMode)) ||
-        (change.is("Sensitive") && change.number(mixedSensitivities, item.sensitive)) ||
+        (change.is("Sensitive") && change.oneOf(mixedSensitivities, item.sensitive)) ||
         (change.is("Correction") && change.slider(range, item.correction)) ||
         (change.is("Brightness") && change.slider(range, item.brightness)) ||
         (change.is("Delay") && change.number(lightDelays, item.delay));

@@ -302,6 +302,8 @@ private Q_SLOTS:
         m_site->set("backMode", QVariantMap{{"Top", 1}}, "BacklightRegion");
         m_site->set("dayNight", QVariant(), "Type");
         m_site->set("curDayNightMode", 3);
+        m_site->set("lightControlEx", 2, "Sensitive");
+        m_site->set("lightControlEx", 6, "Sensitive");
         m_site->set("noSuchKey", 1);
         QVERIFY(m_site->site->requests().all().isEmpty());
     }
