@@ -168,7 +168,19 @@ Writes changeBackLight(const Change &change)
         (change.is("GlareInhibition") &&
          change.slider(state.capabilities.glareInhibition, item.glareInhibition)) ||
         (change.is("BacklightRegion") && changeRegion(change, item));
+    if (isChanged)
+        state.backLightByMode = item;
     return when(isChanged, {CameraWrite::BackLight});
+}
+
+/// Through the second copy.
+Writes changeBackLightMode(const Change &change)
+{
+    CameraState &state = change.state;
+    if (!change.choice({change.tables.BackLightModeNames, ~0u}, state.backLightByMode.backMode))
+        return {};
+    state.backLight = state.backLightByMode;
+    return {CameraWrite::BackLightByMode};
 }
 
 Writes changeWhiteBalance(const Change &change)
@@ -184,11 +196,24 @@ Writes changeWhiteBalance(const Change &change)
 
 Writes changeDayNight(const Change &change)
 {
-    sdk::DayNightItem &item = change.state.dayNight;
-    return when((change.is("Type") && change.choice(change.lists().dayNightTypes, item.type)) ||
-                    (change.is("Sensitivity") && change.number(sensitivities, item.sensitivity)) ||
-                    (change.is("SwitchDelay") && change.number(switchDelays, item.switchDelay)),
-                {CameraWrite::DayNight});
+    CameraState &state = change.state;
+    sdk::DayNightItem &item = state.dayNight;
+    const bool isChanged = (change.is("Type") && change.choice(change.lists().dayNightTypes, item.type)) ||
+                           (change.is("Sensitivity") && change.number(sensitivities, item.sensitivity)) ||
+                           (change.is("SwitchDelay") && change.number(switchDelays, item.switchDelay));
+    if (isChanged) { // the second copy's mode is the one that was chosen for it
+        const std::int32_t mode = state.dayNightByMode.mode;
+        state.dayNightByMode = item;
+        state.dayNightByMode.mode = mode;
+    }
+    return when(isChanged, {CameraWrite::DayNight});
+}
+
+/// Through the second copy: the mode is what its settings are written for.
+Writes changeDayNightMode(const Change &change)
+{
+    return when(change.choice({change.tables.DayNightModeNames, ~0u}, change.state.dayNightByMode.mode),
+                {CameraWrite::DayNightByMode});
 }
 
 Writes changeDefog(const Change &change)
@@ -291,20 +316,8 @@ const QHash<QString, Changer> &changers()
         {QStringLiteral("inDefog"), {Group::Defog, &changeDefog}},
         {QStringLiteral("lightControl"), {Group::Light, &changeLight}},
         {QStringLiteral("lightControlEx"), {Group::MixedLight, &changeMixedLight}},
-        {QStringLiteral("curDayNightMode"),
-         {Group::DayNight,
-          [](const Change &change) {
-              return when(
-                  change.choice({change.tables.DayNightModeNames, ~0u}, change.state.dayNightByMode.mode),
-                  {CameraWrite::DayNightByMode});
-          }}},
-        {QStringLiteral("curBackLightMode"),
-         {Group::BackLight,
-          [](const Change &change) {
-              return when(change.choice({change.tables.BackLightModeNames, ~0u},
-                                        change.state.backLightByMode.backMode),
-                          {CameraWrite::BackLightByMode});
-          }}},
+        {QStringLiteral("curDayNightMode"), {Group::DayNight, &changeDayNightMode}},
+        {QStringLiteral("curBackLightMode"), {Group::BackLight, &changeBackLightMode}},
         {QStringLiteral("curChannelName"), {std::nullopt, &changeChannelName}},
         {QStringLiteral("curColorStyle"),
          {Group::Picture,

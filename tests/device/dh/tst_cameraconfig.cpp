@@ -208,6 +208,27 @@ private Q_SLOTS:
         QTEST(static_cast<int>(m_site->asked("NetSetItem").size()), "items");
     }
 
+    void bothWaysToTheSameItemKnowOfEachOther()
+    {
+        open(camera());
+        m_site->set("backMode", 20, "WideDynamic");
+        m_site->set("curBackLightMode", 2);
+        m_site->set("backMode", 30, "GlareInhibition");
+        m_site->set("dayNight", 9, "SwitchDelay");
+        m_site->set("curDayNightMode", 1); // the night gets what the day has
+        m_site->set("dayNight", 3, "Sensitivity");
+        QCOMPARE(m_site->get("curDayNightMode").toInt(), 1);
+        QCOMPARE(m_site->get("curBackLightMode").toInt(), 2);
+        const QList<QJsonObject> writes = m_site->asked("NetSetItem");
+        QCOMPARE(writes.size(), 6);
+        QCOMPARE(writes.at(1).value("wideDynamic").toInt(), 20);
+        QCOMPARE(writes.at(2).value("wideDynamic").toInt(), 20);
+        QCOMPARE(writes.at(2).value("backMode").toInt(), 2);
+        QCOMPARE(writes.at(4).value("switchDelay").toInt(), 9);
+        QCOMPARE(writes.at(5).value("mode").toInt(), 0); // the page still shows the day
+        QCOMPARE(writes.at(5).value("switchDelay").toInt(), 9);
+    }
+
     void modesAndChannelsAreRead()
     {
         open(camera());
