@@ -13,6 +13,9 @@ public:
     static QString of(int code);
 };
 
+/// Errors come with and without it.
+constexpr std::uint32_t highBit = 0x80000000;
+
 QString ResultNames::of(int code)
 {
     // Configuration operations have two codes of their own.
@@ -54,7 +57,6 @@ QString ResultNames::of(int code)
 
 LoginResult loginResultOf(std::uint32_t libraryError)
 {
-    constexpr std::uint32_t highBit = 0x80000000;
     switch (static_cast<sdk::NetError>(libraryError | highBit)) {
     case sdk::NetError::ProtocolMismatch:
         return LoginResult::ProtocolMismatch;
@@ -74,6 +76,12 @@ LoginResult loginResultOf(std::uint32_t libraryError)
     default:
         return LoginResult::NetworkFailure;
     }
+}
+
+bool isDeviceAway(std::uint32_t libraryError)
+{
+    const auto error = static_cast<sdk::NetError>(libraryError | highBit);
+    return error == sdk::NetError::NetworkFailure || error == sdk::NetError::ConnectTimeout;
 }
 
 QString resultName(int code)

@@ -25,6 +25,10 @@ enum class LoginResult : int
 /// without its high bit. Never Success: an error that is not known counts as a network failure.
 [[nodiscard]] LoginResult loginResultOf(std::uint32_t libraryError);
 
+/// Whether an error of the network library, with or without its high bit, says that the device did not
+/// answer, and not that it refused.
+[[nodiscard]] bool isDeviceAway(std::uint32_t libraryError);
+
 /// The result as rows hold it.
 [[nodiscard]] constexpr int resultCode(LoginResult result)
 {

@@ -1,6 +1,7 @@
 #include "device/dh/cameraconfig.h"
 
 #include "device/dh/camerajob.h"
+#include "device/dh/encodestate.h"
 #include "device/logging.h"
 
 CameraConfig::CameraConfig(const ValueTables &tables, const ChannelChoice &channels)
@@ -19,19 +20,21 @@ void CameraConfig::readColor(int channel)
     readVideoColor(m_session, channel, m_state);
 }
 
-bool CameraConfig::readCapabilities()
+int CameraConfig::readCapabilities()
 {
-    const bool isTold = readCameraCapabilities(m_session, m_channels.curVideoChannel, m_state);
+    int result = 0;
+    if (!readCameraCapabilities(m_session, m_channels.curVideoChannel, m_state))
+        result = m_session.isDeviceAway() ? deviceAway : capabilitiesUnknown;
     // A mode that this camera does not know gives way to its first.
     const OfferedValues modes = CameraLists(m_tables, m_state.capabilities).switchModes;
     if (modes.placeOf(static_cast<int>(m_state.mode)) < 0)
         m_state.mode = static_cast<sdk::CameraMode>(modes.valueAt(0).value_or(0));
-    return isTold;
+    return result;
 }
 
-void CameraConfig::readItems()
+int CameraConfig::readItems()
 {
-    readCameraItems(m_session, m_channels.curVideoChannel, m_state);
+    return readCameraItems(m_session, m_channels.curVideoChannel, m_state) ? 0 : deviceAway;
 }
 
 QVariant CameraConfig::value(const QString &key) const
@@ -59,7 +62,7 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
     // Other hands than ours change it too, so it is read before it is written.
     if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&
         !readDefog(m_session, channel, changed))
-        return Outcome::Refused;
+        return m_session.isDeviceAway() ? Outcome::Unanswered : Outcome::Refused;
     // The encode page reads another channel's, which must not be written to this one.
     if (changesColor(key) && m_state.supports(sdk::CameraGroup::Picture) && m_state.colorChannel != channel)
         readVideoColor(m_session, channel, changed);
@@ -76,8 +79,11 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
         return Outcome::Taken;
     }
     // Of several writes some may have been taken: the device knows. One that is away would only wait.
-    if (!m_session.isDeviceAway() && readCameraCapabilities(m_session, channel, changed)) {
-        readCameraItems(m_session, channel, changed);
+    if (m_session.isDeviceAway())
+        return Outcome::Unanswered;
+    if (readCameraCapabilities(m_session, channel, changed)) {
+        if (!readCameraItems(m_session, channel, changed))
+            return Outcome::Unanswered;
         m_state = changed;
     }
     return Outcome::Refused;

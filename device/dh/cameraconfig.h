@@ -17,7 +17,8 @@ public:
     {
         Ignored, ///< no such setting or value: nothing was asked of the device
         Taken,
-        Refused, ///< by the device; the values are again those that it has
+        Refused,    ///< by the device; the values are again those that it has
+        Unanswered, ///< the device is away; the values are those that it had
     };
 
     /// `tables` and `channels` must outlive this object.
@@ -29,12 +30,12 @@ public:
     /// Reads the configuration "VideoColor" of a channel.
     void readColor(int channel);
 
-    /// Reads what the chosen channel's camera can do, and its configurations. Returns false when the device
-    /// does not tell: every group then says that it is not supported.
-    [[nodiscard]] bool readCapabilities();
+    /// Reads what the chosen channel's camera can do, and its configurations. Returns 0; otherwise every
+    /// group says that it is not supported, and the result is that of a device that is away, or 10.
+    [[nodiscard]] int readCapabilities();
 
-    /// Reads the values of the chosen channel and mode.
-    void readItems();
+    /// Reads the values of the chosen channel and mode. Returns 0, or the result of a device that is away.
+    [[nodiscard]] int readItems();
 
     [[nodiscard]] QVariant value(const QString &key) const;
     Outcome setValue(const QString &key, const QVariant &value, const QString &subKey);

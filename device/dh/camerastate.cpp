@@ -71,15 +71,16 @@ bool readCameraCapabilities(const ConfigSession &session, int channel, CameraSta
     return true;
 }
 
-void readCameraItems(const ConfigSession &session, int channel, CameraState &state)
+bool readCameraItems(const ConfigSession &session, int channel, CameraState &state)
 {
+    state.unreadGroups = 0;
     bool isAway = false; // every further item would wait for nothing
     const auto read = [&](sdk::CameraGroup group, sdk::CameraItem number, auto &item) {
         if (state.supports(group) && !isAway && readItem(session, number, channel, state.mode, item))
             return;
         if (state.supports(group))
             isAway = isAway || session.isDeviceAway();
-        state.capabilities.groups &= ~(1u << static_cast<std::uint32_t>(group));
+        state.unreadGroups |= 1u << static_cast<std::uint32_t>(group);
         item = {};
     };
     read(sdk::CameraGroup::Picture, sdk::CameraItem::Picture, state.picture);
@@ -96,6 +97,7 @@ void readCameraItems(const ConfigSession &session, int channel, CameraState &sta
     read(sdk::CameraGroup::MixedLight, sdk::CameraItem::MixedLight, state.mixedLight);
     state.backLightByMode = state.backLight;
     state.dayNightByMode = state.dayNight;
+    return !isAway;
 }
 
 bool readDefog(const ConfigSession &session, int channel, CameraState &state)

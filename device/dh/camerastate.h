@@ -9,6 +9,7 @@ struct CameraState
 {
     sdk::CameraMode mode = sdk::CameraMode::Day;
     sdk::CameraCapabilities capabilities{};
+    std::uint32_t unreadGroups = 0; ///< a bit for each group whose item could not be read: it is not known
     sdk::VideoColorRecord color{};
     int colorChannel = 0; ///< that the record was read of, or asked of
     sdk::LightingRecord lighting{};
@@ -34,7 +35,7 @@ struct CameraState
 
     [[nodiscard]] bool supports(sdk::CameraGroup group) const
     {
-        return (capabilities.groups >> static_cast<std::uint32_t>(group) & 1) != 0;
+        return ((capabilities.groups & ~unreadGroups) >> static_cast<std::uint32_t>(group) & 1) != 0;
     }
 
     /// The picture of the current mode in the configuration.
@@ -57,8 +58,9 @@ void readVideoColor(const ConfigSession &session, int channel, CameraState &stat
 [[nodiscard]] bool readCameraCapabilities(const ConfigSession &session, int channel, CameraState &state);
 
 /// Reads the items of the groups that the camera supports, for the current mode. A group whose item cannot be
-/// read counts as one that is not supported, since its other values would be lost by writing one.
-void readCameraItems(const ConfigSession &session, int channel, CameraState &state);
+/// read counts as one that is not supported until it is read, since its other values would be lost by writing
+/// one. Returns false when the device is away.
+[[nodiscard]] bool readCameraItems(const ConfigSession &session, int channel, CameraState &state);
 
 /// Reads the one item that is read anew before it is changed. Returns false, with the state unchanged, when
 /// it cannot be read.

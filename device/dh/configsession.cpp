@@ -1,5 +1,6 @@
 #include "device/dh/configsession.h"
 
+#include "device/loginresult.h"
 #include "sdk/configlibrary.h"
 
 #include <string_view>
@@ -51,7 +52,5 @@ std::uint32_t ConfigSession::lastError() const
 
 bool ConfigSession::isDeviceAway() const
 {
-    constexpr std::uint32_t highBit = 0x80000000;
-    const auto error = static_cast<sdk::NetError>(lastError() | highBit);
-    return error == sdk::NetError::NetworkFailure || error == sdk::NetError::ConnectTimeout;
+    return ::isDeviceAway(lastError());
 }

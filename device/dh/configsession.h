@@ -1,6 +1,7 @@
 // Reading and writing a device's configuration through one login.
 #pragma once
 
+#include "sdk/neterror.h"
 #include "sdk/netlibrary.h"
 #include "sdk/sdklibraries.h"
 
@@ -9,6 +10,9 @@
 
 /// A buffer for configuration text, ended by a zero.
 using ConfigText = std::vector<char>;
+
+/// The result of an operation that a device did not answer, of those that pass no error of the library on.
+inline constexpr int deviceAway = static_cast<int>(sdk::NetError::NetworkFailure);
 
 /// Blocks its caller for the waits of the library. Without a library, or without a login, everything fails.
 class ConfigSession

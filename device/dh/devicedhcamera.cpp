@@ -1,31 +1,45 @@
-// The camera image page.
+// The camera image page. A device that does not answer is told of after what the page is to show.
 #include "device/dh/cameraconfig.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/encodestate.h"
 
 void CDeviceDH::getCameraConfig()
 {
-    if (!m_camera->readCapabilities())
-        Q_EMIT signalCDeviceGetDeviceCapRet(capabilitiesUnknown);
+    const int result = m_camera->readCapabilities();
+    if (result != 0)
+        Q_EMIT signalCDeviceGetDeviceCapRet(result);
 }
 
 void CDeviceDH::getVideoIn()
 {
-    m_camera->readItems();
+    const int result = m_camera->readItems();
     Q_EMIT signalCDeviceChangeVideoType();
+    if (result != 0)
+        Q_EMIT signalCDeviceGetDeviceCapRet(result);
 }
 
 void CDeviceDH::getVideoInByChangeChannel()
 {
-    m_camera->readItems();
+    const int result = m_camera->readItems();
     Q_EMIT signalCDeviceChangeVideoChannel();
+    if (result != 0)
+        Q_EMIT signalCDeviceGetDeviceCapRet(result);
 }
 
 void CDeviceDH::setCameraValue(const QString &key, const QVariant &value, const QString &subKey)
 {
-    const CameraConfig::Outcome outcome = m_camera->setValue(key, value, subKey);
-    if (outcome == CameraConfig::Outcome::Refused)
+    switch (m_camera->setValue(key, value, subKey)) {
+    case CameraConfig::Outcome::Ignored:
+        break;
+    case CameraConfig::Outcome::Taken:
+        if (key == QLatin1String("curChannelName"))
+            Q_EMIT signalCDeviceSetChannelNameFinished();
+        break;
+    case CameraConfig::Outcome::Refused:
         Q_EMIT signalCDeviceChangeVideoType(); // the page shows again what the device has
-    else if (outcome == CameraConfig::Outcome::Taken && key == QLatin1String("curChannelName"))
-        Q_EMIT signalCDeviceSetChannelNameFinished();
+        break;
+    case CameraConfig::Outcome::Unanswered:
+        Q_EMIT signalCDeviceChangeVideoType();
+        Q_EMIT signalCDeviceGetDeviceCapRet(deviceAway);
+        break;
+    }
 }

@@ -300,16 +300,40 @@ private Q_SLOTS:
         QCOMPARE(value("picture", "gamma").toInt(), 50);
         QCOMPARE(changed.size(), 2);
 
+        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
         m_site->site->removeDevice(device.mac); // away: what is known stays
         m_site->set("inDefog", 1, "DefogMode");
         m_site->set("stable", true);
         QCOMPARE(value("stable", "value").toBool(), false);
         QCOMPARE(supported(), groups);
         QCOMPARE(changed.size(), 4);
-        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
+        QCOMPARE(result.size(), 2);
         read();
-        QCOMPARE(result.first().first().toInt(), 10);
+        QCOMPARE(result.size(), 3);
+        for (const QList<QVariant> &told : result)
+            QVERIFY(m_site->factory->isDeviceAway(told.first().toInt()));
         QVERIFY(supported().isEmpty());
+    }
+
+    void aModeThatWasNotReadIsReadTheNextTime()
+    {
+        const SceneDevice device = camera();
+        open(device);
+        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
+        m_site->site->setFault(device.mac, {Fault::NoAnswer, 0, {}});
+        m_site->set("curSwitchMode", 1);
+        m_site->factory->getVideoIn("dh");
+        QCOMPARE(m_site->asked("NetGetItem").size(), 1); // every further one would wait
+        QCOMPARE(result.size(), 1);
+        QVERIFY(m_site->factory->isDeviceAway(result.first().first().toInt()));
+        QVERIFY(supported().isEmpty());
+        m_site->set("stable", true); // not over what is not known
+        QVERIFY(m_site->asked("NetSetItem").isEmpty());
+        m_site->site->clearFault(device.mac, Fault::NoAnswer);
+        m_site->factory->getVideoIn("dh");
+        QCOMPARE(result.size(), 1);
+        QCOMPARE(supported(), groups);
+        QCOMPARE(value("picture", "brightnessSlider").toInt(), 40);
     }
 
     void nonsenseIsNotSent()
