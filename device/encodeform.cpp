@@ -2,12 +2,33 @@
 
 #include "device/devicefactory.h"
 
+#include <algorithm>
+
 namespace {
 
 /// A key of the main stream as the sub stream calls it.
 QString keyOf(bool isSub, const QString &field)
 {
     return isSub ? QStringLiteral("sub") + field.at(0).toUpper() + field.sliced(1) : field;
+}
+
+/// The items of its stream that a setting is written with.
+QList<int> itemsOf(const QString &key)
+{
+    constexpr int videoFormat = 0;
+    constexpr int videoProfile = 1;
+    constexpr int audioCompression = 2;
+    constexpr int audioFormat = 3;
+    const auto is = [&key](const char *field) {
+        return key.endsWith(QLatin1String(field), Qt::CaseInsensitive);
+    };
+    if (is("curEncodeMode"))
+        return {videoFormat, videoProfile};
+    if (is("audioEnable") || is("curAudioCompression"))
+        return {audioCompression};
+    if (is("curSamplingFrequency"))
+        return {audioFormat};
+    return {videoFormat};
 }
 
 QVariantMap setting(const QString &key, bool isChanged)
@@ -54,6 +75,11 @@ void EncodeForm::read()
     m_isReading = false;
 }
 
+void EncodeForm::takeSaved()
+{
+    fetch();
+}
+
 void EncodeForm::set(const QString &key, const QVariant &value)
 {
     if (m_deviceFactory)
@@ -64,6 +90,10 @@ void EncodeForm::set(const QString &key, const QVariant &value)
 void EncodeForm::fetch()
 {
     m_changedCount = 0;
+    m_takenItems.clear();
+    const QVariantList taken = value(QStringLiteral("takenItems")).toList();
+    for (const QVariant &place : taken)
+        m_takenItems.append(place.toInt());
     m_channels = value(QStringLiteral("channelNum")).toStringList();
     if (m_channels.isEmpty()) // a device that tells of no channels has one
         m_channels.append(QStringLiteral("1"));
@@ -81,9 +111,18 @@ QVariant EncodeForm::value(const QString &key) const
     return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
 }
 
+bool EncodeForm::isTaken(const QString &key) const
+{
+    constexpr int itemsOfStream = 4;
+    const bool isSub = key.startsWith(QLatin1String("sub"));
+    const QList<int> items = itemsOf(key);
+    return std::all_of(items.begin(), items.end(),
+                       [&](int item) { return m_takenItems.contains(isSub ? item + itemsOfStream : item); });
+}
+
 bool EncodeForm::noteChange(const QString &key, const QVariant &value)
 {
-    if (m_isReading)
+    if (m_isReading || isTaken(key))
         m_read.insert(key, value);
     const bool isChanged = m_read.value(key) != value;
     m_changedCount += isChanged ? 1 : 0;

@@ -54,6 +54,10 @@ public:
     /// Takes the back end's values as those that the device has: nothing counts as changed.
     Q_INVOKABLE void read();
 
+    /// Takes the values that the device accepted at the last saving as those that it has; the others still
+    /// count as changed.
+    Q_INVOKABLE void takeSaved();
+
     /// Passes a changed value on and shows what came of it.
     Q_INVOKABLE void set(const QString &key, const QVariant &value);
 
@@ -63,6 +67,7 @@ Q_SIGNALS:
 
 private:
     void fetch();
+    [[nodiscard]] bool isTaken(const QString &key) const;
     [[nodiscard]] QVariant value(const QString &key) const;
     [[nodiscard]] QVariantMap stream(bool isSub);
     [[nodiscard]] QVariantMap choice(const QString &list, const QString &current);
@@ -80,5 +85,6 @@ private:
     QVariantMap m_sub;
     QHash<QString, QVariant> m_read; ///< values as they were read, by key
     bool m_isReading = false;
+    QList<int> m_takenItems; ///< the places of those that the device took at the last writing
     int m_changedCount = 0;
 };

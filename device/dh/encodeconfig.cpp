@@ -43,10 +43,12 @@ void EncodeConfig::begin(const ConfigSession &session)
 {
     m_session = session;
     m_state.reset();
+    m_takenItems.clear();
 }
 
 int EncodeConfig::read()
 {
+    m_takenItems.clear();
     EncodeState state = m_state.value_or(EncodeState());
     const EncodeReading reading =
         readEncodeState(m_session, m_channels.curChannel, m_channels.curStreamType, state);
@@ -57,12 +59,15 @@ int EncodeConfig::read()
 
 QVariant EncodeConfig::value(const QString &key) const
 {
+    if (key == takenItemsKey)
+        return m_takenItems;
     static const EncodeState nothing;
     return m_values.value(key, m_state ? *m_state : nothing, m_channels.curStreamType);
 }
 
 EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant &value)
 {
+    m_takenItems.clear();
     if (!m_state || !m_values.setValue(key, value, *m_state)) {
         qCWarning(logDevice) << "Encode:" << key << "cannot be set to" << value;
         return {};
@@ -70,6 +75,8 @@ EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant 
     if (key != QLatin1String("subCurResolution"))
         return {};
     const bool isTaken = writeSubResolution();
+    if (isTaken && m_channels.curVideoChannel == m_channels.curChannel)
+        m_takenItems.append(subVideoFormat);
     return {.refused = isTaken ? QString() : namesOf({subVideoFormat}),
             .result = readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result};
 }
@@ -106,6 +113,11 @@ QString EncodeConfig::confirm()
     QList<int> refused = {0, 1, 2, 3, 4, 5, 6, 7};
     if (m_state)
         refused = writeEncodeItems(m_session, m_channels.curChannel, m_state->main, m_state->sub);
+    m_takenItems.clear();
+    for (int place = 0; place < itemNames().size(); ++place) {
+        if (!refused.contains(place))
+            m_takenItems.append(place);
+    }
     return namesOf(refused);
 }
 

@@ -23,6 +23,9 @@ public:
     /// 10 when the device does not tell what it can do, or else the error that reading reported.
     [[nodiscard]] int read();
 
+    /// Beside the values of the channel "takenItems": the places, as writeEncodeItems() counts them, of the
+    /// items that the device took for this channel at the last call of setValue() or confirm(). None after
+    /// read().
     [[nodiscard]] QVariant value(const QString &key) const;
 
     /// What came of a value that may have gone to the device at once.
@@ -54,4 +57,5 @@ private:
     const ChannelChoice &m_channels;
     ConfigSession m_session;
     std::optional<EncodeState> m_state;
+    QVariantList m_takenItems;
 };

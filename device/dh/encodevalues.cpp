@@ -111,7 +111,8 @@ QStringList samplingFrequencies(const ValueTables &tables, int current)
 
 bool EncodeValues::isKey(const QString &key)
 {
-    return key == QLatin1String("subVideoEnable") || streamFields().contains(parted(key).field);
+    return key == QLatin1String("subVideoEnable") || key == takenItemsKey ||
+           streamFields().contains(parted(key).field);
 }
 
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const

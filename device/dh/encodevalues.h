@@ -6,6 +6,9 @@
 
 #include <QVariant>
 
+/// The key of the places of the items that the device took at the last write; not one of a state.
+inline constexpr QLatin1StringView takenItemsKey("takenItems");
+
 /// Keys of the sub stream begin with "sub"; the rest of the key is that of the main stream.
 class EncodeValues
 {

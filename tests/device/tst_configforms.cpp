@@ -76,6 +76,25 @@ private Q_SLOTS:
         QCOMPARE(form.changedCount(), 0);
     }
 
+    void whatWasTakenAtASavingNoLongerCounts()
+    {
+        EncodeForm form;
+        form.setDeviceFactory(&m_factory);
+        form.set("curEncodeMode", "H.264 B"); // with its profile
+        form.set("frameRate", 10);
+        form.set("subFrameRate", 10);
+        form.set("curSamplingFrequency", "16000");
+        QCOMPARE(form.changedCount(), 4);
+        m_backEnd->values.insert("takenItems", QVariantList{0, 3});
+        form.takeSaved();
+        QCOMPARE(form.changedCount(), 2);
+        QVERIFY(of(form.mainStream(), "encodeMode", "changed").toBool());
+        QVERIFY(of(form.subStream(), "frameRate", "changed").toBool());
+        m_backEnd->values.remove("takenItems");
+        form.set("frameRate", 20); // no longer what the device has
+        QCOMPARE(form.changedCount(), 3);
+    }
+
     void whatADeviceIsSetToIsShownThoughItDoesNotOfferIt()
     {
         m_backEnd->values.insert("curResolution", "800*600");

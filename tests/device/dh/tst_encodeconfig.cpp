@@ -252,6 +252,10 @@ private Q_SLOTS:
         m_site->set(key, value);
         QTEST(confirm(), "text");
         QCOMPARE(m_site->asked("NetSetItem").size(), 8);
+        const auto refused = QTest::currentDataTag() == QLatin1String("the item of both") ? 2 : 1;
+        QCOMPARE(m_site->get("takenItems").toList().size(), 8 - refused);
+        m_site->set("frameRate", 10);
+        QVERIFY(m_site->get("takenItems").toList().isEmpty());
     }
 
     void theSubStreamsSizeIsWrittenAtOnce_data()
@@ -288,7 +292,11 @@ private Q_SLOTS:
         QCOMPARE(m_site->asked("NetGetNewConfig").first().value("channel").toInt(), 2);
         QCOMPARE(m_site->asked("NetQueryCapabilities").size(), 1);
         QCOMPARE(m_site->get("subCurResolution").toString(), "CIF");
+        QVERIFY(m_site->get("takenItems").toList().isEmpty()); // it went to another channel
         m_site->site->clearFault(device.mac, Fault::RefusesBitRatesAbove);
+        m_site->set("curVideoChannel", 2);
+        m_site->set("subCurResolution", "CIF");
+        QCOMPARE(m_site->get("takenItems").toList(), QVariantList{4});
         QCOMPARE(confirm(), "");
         QCOMPARE(written(1100, 4).value("bitRate").toInt(), bitRate);
     }

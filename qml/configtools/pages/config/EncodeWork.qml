@@ -87,6 +87,7 @@ Item {
                 root.session.said(qsTr("保存成功"), OVToast.Success, root.session.shortStay);
                 root.session.work(qsTr("正在读取编码配置…"), () => root.deviceFactory.getEncodeInfo("dh"));
             } else {
+                encodeForm.takeSaved();
                 root.refusedItems = refused;
                 root.session.said(refused + qsTr("保存失败"), OVToast.Error, root.session.longStay);
             }
