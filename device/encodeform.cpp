@@ -135,9 +135,11 @@ QVariantMap EncodeForm::choice(const QString &list, const QString &current)
     const QString text = value(current).toString();
     QVariantMap map = setting(current, noteChange(current, text));
     map.insert(QStringLiteral("usable"), !choices.isEmpty());
-    // A device may be set to what it does not offer.
-    if (!text.isEmpty() && !choices.contains(text))
-        choices.append(text);
+    // A device may be set to what it does not offer. What it has stays there to be chosen again.
+    for (const QString &own : {m_read.value(current).toString(), text}) {
+        if (!own.isEmpty() && !choices.contains(own))
+            choices.append(own);
+    }
     map.insert(QStringLiteral("choices"), choices);
     map.insert(QStringLiteral("index"), choices.indexOf(text));
     return map;

@@ -109,6 +109,9 @@ private Q_SLOTS:
         QCOMPARE(of(stream, "frameRate", "maximum").toInt(), 30);
         QCOMPARE(of(stream, "bitRate", "index").toInt(), 2); // a number of one's own
         QCOMPARE(of(stream, "bitRate", "value").toInt(), 3000);
+        form.set("curResolution", "1080P");
+        QCOMPARE(of(form.mainStream(), "resolution", "choices").toStringList(),
+                 QStringList({"1080P", "800*600"})); // there is a way back
         form.set("bitRate", 3100); // none of the steps before and after
         QVERIFY(of(form.mainStream(), "bitRate", "changed").toBool());
     }
