@@ -16,6 +16,7 @@ Item {
     property bool loggedIn: false
     property int loginResult: 0
     property bool taken: false       // another device is logged in to, since its live picture is watched
+    property bool lost: false        // the login was there, but the device no longer answers
     property string failure          // why there was no login
     property string busyText
     readonly property bool busy: busyText !== ""
@@ -52,8 +53,7 @@ Item {
     }
 
     function login(account, password) {
-        loggedIn = false;
-        taken = false;
+        loggedIn = taken = lost = false;
         failure = "";
         encodeWork.forget();
         imageWork.forget();
@@ -68,6 +68,21 @@ Item {
             if (canLoginAgain())
                 askAgain(account);
         });
+    }
+
+    /// The device was asked and did not answer. After it was away, as for a restart, it knows the login no more.
+    function lose() {
+        const networkFailure = 5;
+        loginResult = networkFailure;
+        failure = qsTr("设备没有应答");
+        lost = true;
+        loggedIn = false;
+    }
+
+    /// It was only slow: it answered in the same login.
+    function regain() {
+        lost = false;
+        loggedIn = true;
     }
 
     /// Whether another account or password may help.
@@ -142,6 +157,10 @@ Item {
                 root.said(qsTr("获取设备配置失败"), OVToast.Error, root.shortStay);
             else if (result === encodeWork.abilitiesUnknown)
                 root.said(qsTr("获取设备能力失败"), OVToast.Error, root.shortStay);
+            else if (root.deviceFactory.isDeviceAway(result))
+                root.lose();
+            else if (root.lost && result === 0)
+                root.regain();
         }
     }
 

@@ -25,7 +25,12 @@ Item {
         result = 0;
     }
 
+    /// In a login that is lost it begins with another one.
     function load() {
+        if (!session.loggedIn) {
+            session.tryAgain();
+            return;
+        }
         refusedItems = "";
         session.work(qsTr("正在读取编码配置…"), () => {
             deviceFactory.getEncodeCaps("dh");

@@ -19,7 +19,7 @@ Item {
         session.work(qsTr("正在读取图像配置…"), () => {
             deviceFactory.getCameraConfig("dh");
             deviceFactory.getVideoInByChangeChannel("dh");
-            read = true;
+            read = session.loggedIn;
         });
     }
 
@@ -32,6 +32,7 @@ Item {
         session.work(qsTr("正在读取图像配置…"), () => {
             deviceFactory.setConfigData("dh", "curSwitchMode", index);
             deviceFactory.getVideoIn("dh");
+            read = session.loggedIn;
         });
     }
 
@@ -39,11 +40,16 @@ Item {
     function set(key, values) {
         session.work(qsTr("正在写入图像配置…"), () => {
             writeRefused = false;
-            for (const [subKey, value] of values)
-                deviceFactory.setConfigData("dh", key, value, subKey);
+            for (const [subKey, value] of values) {
+                if (session.loggedIn)
+                    deviceFactory.setConfigData("dh", key, value, subKey);
+            }
             const refused = writeRefused;
             cameraForm.read();
-            if (refused)
+            read = session.loggedIn;
+            if (!session.loggedIn)
+                session.said(qsTr("设备没有应答，修改可能没有写入"), OVToast.Error, session.longStay);
+            else if (refused)
                 session.said(qsTr("设备没有接受修改，显示的是设备现有的值"), OVToast.Error, session.longStay);
         });
     }

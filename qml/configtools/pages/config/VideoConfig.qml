@@ -82,7 +82,8 @@ Rectangle {
             objectName: "configEmptyState"
             title: root.session.device === "" ? qsTr("请选择设备")
                 : root.session.busy ? root.session.busyText
-                : root.session.taken ? qsTr("正在查看另一台设备的实时画面") : qsTr("登录失败")
+                : root.session.taken ? qsTr("正在查看另一台设备的实时画面")
+                : root.session.lost ? qsTr("连接已断开") : qsTr("登录失败")
             visible: !root.shown
             onActivated: root.session.tryAgain()
         }
