@@ -8,15 +8,20 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
+    property bool writing: false
     property int result: 0     // of the last reading: 0, or one of the following, or an error of the device
     readonly property int configurationUnreadable: 1
     readonly property int abilitiesUnknown: 10
-    readonly property bool failed: result !== 0 && result !== configurationUnreadable && result !== abilitiesUnknown
+    readonly property bool failed: isFailure(result)
     property string refusedItems  // of the last saving, a line for each
     readonly property alias form: encodeForm
     readonly property var subStream: encodeForm.subStream
     readonly property int unsaved: read ? encodeForm.changedCount : 0
     readonly property bool copyable: read && !failed && encodeForm.complete
+
+    function isFailure(result) {
+        return result !== 0 && result !== configurationUnreadable && result !== abilitiesUnknown;
+    }
 
     /// Forgets the device. What was changed and not saved is lost; it is read anew when it is next shown.
     function forget() {
@@ -53,7 +58,11 @@ Item {
         refusedItems = "";
         // Only this one goes to the device at once.
         if (key === "subCurResolution")
-            session.work(qsTr("正在写入辅码流分辨率…"), () => encodeForm.set(key, value));
+            session.work(qsTr("正在写入辅码流分辨率…"), () => {
+                writing = true;
+                encodeForm.set(key, value);
+                writing = false;
+            });
         else
             encodeForm.set(key, value);
         // The compression is one for both streams, and only its profile is each one's own.
@@ -80,8 +89,11 @@ Item {
         target: root.deviceFactory
 
         function onSignalGetDeviceCapRet(result) {
-            root.result = result;
-            if (root.failed)
+            const failure = root.isFailure(result);
+            // After a write the form stays: what was changed and not saved would be out of reach.
+            if (!failure || !root.writing)
+                root.result = result;
+            if (failure)
                 root.session.said(qsTr("设备没有应答，读取配置失败"), OVToast.Error, root.session.longStay);
         }
         function onSignalChangeEncodeChannel() {
