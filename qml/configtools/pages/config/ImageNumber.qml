@@ -9,6 +9,7 @@ OVNumberField {
     required property string subKey
     property int least: 0
     property int current: group.number(subKey)
+    property bool wrong: false  // it does not go with the numbers beside it, and waits for them
     signal finished(int number)
 
     function follow() {
@@ -16,6 +17,8 @@ OVNumberField {
     }
 
     function finish() {
+        if (acceptable && wrong)
+            return;
         const number = Math.max(least, Number(text));
         if (acceptable && number !== current)
             finished(number);

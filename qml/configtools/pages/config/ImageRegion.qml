@@ -12,49 +12,61 @@ OVFormRow {
         {key: "Right", name: qsTr("右")}, {key: "Bottom", name: qsTr("下")}
     ]
     readonly property int whole: 8192
+    property var typed: ({Left: 0, Top: 0, Right: whole, Bottom: whole})
+    readonly property bool acrossWrong: typed.Left > typed.Right
+    readonly property bool downWrong: typed.Top > typed.Bottom
+    readonly property bool wrong: acrossWrong || downWrong
 
     label: qsTr("区域(0–8192)")
     labelWidth: Theme.imageLabelWidth
     width: parent?.width ?? 0
 
-    Grid {
-        columns: 4
-        columnSpacing: Theme.unit
-        rowSpacing: Theme.unit
+    Column {
+        spacing: Theme.unit
 
-        // qmllint disable unqualified
-        Repeater {
-            model: root.sides
+        Grid {
+            columns: 4
+            columnSpacing: Theme.unit
+            rowSpacing: Theme.unit
 
-            Row {
-                id: side
+            // qmllint disable unqualified
+            Repeater {
+                model: root.sides
 
-                required property var modelData
+                Row {
+                    id: side
 
-                spacing: Theme.half
+                    required property var modelData
 
-                OVLabel {
-                    height: Theme.controlHeight
-                    color: Theme.colours.sub
-                    text: side.modelData.name
-                }
-                ImageNumber {
-                    accessibleName: side.modelData.name
-                    current: Number(root.region[side.modelData.key] ?? 0) || 0
-                    group: root.group
-                    largest: root.whole
-                    objectName: "region" + side.modelData.key
-                    subKey: "BacklightRegion"
-                    width: Theme.rangeFieldWidth - Theme.pageMargin
-                    onFinished: number => {
-                        const changed = {Top: 0, Bottom: root.whole, Left: 0, Right: root.whole};
-                        Object.assign(changed, root.region);
-                        changed[side.modelData.key] = number;
-                        root.group.change("BacklightRegion", changed);
+                    spacing: Theme.half
+
+                    OVLabel {
+                        height: Theme.controlHeight
+                        color: Theme.colours.sub
+                        text: side.modelData.name
+                    }
+                    ImageNumber {
+                        accessibleName: side.modelData.name
+                        current: Number(root.region[side.modelData.key] ?? 0) || 0
+                        group: root.group
+                        largest: root.whole
+                        objectName: "region" + side.modelData.key
+                        subKey: "BacklightRegion"
+                        width: Theme.rangeFieldWidth - Theme.pageMargin
+                        wrong: root.wrong
+                        onFinished: root.group.change("BacklightRegion", root.typed)
+                        onTextChanged: root.typed = Object.assign({}, root.typed, {[side.modelData.key]: Number(text)})
                     }
                 }
             }
+            // qmllint enable unqualified
         }
-        // qmllint enable unqualified
+        OVLabel {
+            color: Theme.colours.bad
+            font: Theme.hintFont
+            objectName: "regionComplaint"
+            text: root.acrossWrong ? qsTr("左边不能大于右边") : qsTr("上边不能大于下边")
+            visible: root.wrong
+        }
     }
 }
