@@ -72,7 +72,7 @@ FocusScope {
     function takeEnd() {
         if (batch.command === "loginCheck" && batch.waiting.length > 0)
             enablePasswordEditor();
-        if (batch.command === "modifyPassword" && batch.failed === 0) {
+        if (batch.command === "modifyPassword" && batch.failed === 0 && !batch.stopping) {
             disablePasswordEditor();
             panels.clearOldPassword();
         }
@@ -121,6 +121,11 @@ FocusScope {
             result === -1 ? OVTreeModel.WaitsForPassword : result)
     }
 
+    Shortcut {
+        enabled: batch.running && page.visible
+        sequence: "Escape"
+        onActivated: batch.stop()
+    }
     Timer {
         id: countdown
         interval: 1000

@@ -12,12 +12,13 @@ QtObject {
     property var devices: []
     property var dataOf: () => ({})
     property bool running: false
+    property bool stopping: false
     property int done: 0
     property int succeeded: 0
     property int failed: 0
     property var waiting: []  // devices whose old password was right
     readonly property string outcome: {
-        if (running || done === 0)
+        if (running || devices.length === 0)
             return "";
         const parts = [];
         if (succeeded > 0)
@@ -26,6 +27,8 @@ QtObject {
             parts.push(qsTr("%n 台设备等待新密码", "", waiting.length));
         if (failed > 0)
             parts.push(qsTr("%n 台设备失败", "", failed));
+        if (done < devices.length)
+            parts.push(qsTr("%n 台设备未执行", "", devices.length - done));
         return title + qsTr("：") + parts.join(qsTr("，"));
     }
     readonly property string device: running ? devices[done] ?? "" : ""
@@ -40,12 +43,18 @@ QtObject {
         root.dataOf = dataOf;
         done = succeeded = failed = 0;
         waiting = [];
+        stopping = false;
         running = true;
         next.start();
     }
 
+    /// Leaves out what follows the device that is being asked.
+    function stop() {
+        stopping = true;
+    }
+
     function step() {
-        if (done < devices.length) {
+        if (done < devices.length && !stopping) {
             deviceFactory.systemConfig("dh", command, dataOf(), [devices[done]]);
             ++done;
             next.start();
