@@ -52,8 +52,10 @@ int EncodeConfig::read()
     EncodeState state = m_state.value_or(EncodeState());
     const EncodeReading reading =
         readEncodeState(m_session, m_channels.curChannel, m_channels.curStreamType, state);
-    if (reading.isFetched)
+    if (reading.isFetched && reading.isAsked)
         m_state = state;
+    else if (reading.isFetched)
+        m_state.reset(); // its items were not read: what is there is another channel's
     return reading.result;
 }
 

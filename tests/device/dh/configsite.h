@@ -32,16 +32,18 @@ inline QString ipportOf(const sdk::demo::SceneDevice &device)
 class ConfigSite
 {
 public:
-    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices)
+    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices, bool hasConfigLibrary = true)
     {
         sdk::demo::Scene scene;
         scene.devices = devices;
         site = sdk::demo::DemoSite::create(scene, m_clock);
         const auto store = std::make_shared<DeviceStore>(m_clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {QStringLiteral("dh"), [this, store] {
-                 return std::make_shared<CDeviceDH>(store, site->libraries(),
-                                                    [] { return SearchSettings(); });
+            {QStringLiteral("dh"), [this, store, hasConfigLibrary] {
+                 sdk::SdkLibraries libraries = site->libraries();
+                 if (!hasConfigLibrary)
+                     libraries.config = nullptr;
+                 return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
              }}});
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
     }

@@ -375,6 +375,18 @@ private Q_SLOTS:
         QVERIFY(m_site->asked("NetSetItem").isEmpty());
     }
 
+    void withoutAConfigurationLibraryNothingIsWritten()
+    {
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{modernCamera()}, false);
+        QCOMPARE(m_site->login(modernCamera()), 0);
+        QCOMPARE(read(), 1);
+        QCOMPARE(confirm().count('\n'), 8);
+        QSignalSpy results(m_site->factory.get(), &CDeviceFactory::signalRetToCopyConfig);
+        m_site->factory->copyConfigToDevice("dh", {ipportOf(modernCamera())});
+        QCOMPARE(results.first().at(1).toInt(), 10);
+        QVERIFY(m_site->asked("NetSetItem").isEmpty());
+    }
+
     void aCopyLeavesProfilesThatTheSourceDoesNotHave_data()
     {
         QTest::addColumn<int>("compression");       // of the source, which reports no profiles
