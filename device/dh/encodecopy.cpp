@@ -125,10 +125,12 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     refreshEncodeCapabilities(session, channels.curChannel, to);
     outcome.skipped += takeRest(mainChoices, main, from.main, false, to.main);
     outcome.skipped += takeRest(subChoices, sub, from.sub, true, to.sub);
-    const QList<int> refused = writeEncodeItems(session, channels.curChannel, to.main, to.sub);
+    // One that could not be read lacks what is to stay as it is there.
+    const QList<int> &unread = reading.unreadItems;
+    const QList<int> refused = writeEncodeItems(session, channels.curChannel, to.main, to.sub, unread);
     if (!refused.isEmpty())
         outcome.result = refusedByDevice;
-    for (const int place : refused)
+    for (const int place : unread + refused)
         outcome.skipped.append(EncodeConfig::itemNames().at(place));
     return outcome;
 }

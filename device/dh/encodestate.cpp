@@ -5,27 +5,39 @@
 namespace {
 
 constexpr std::size_t encodeTextSize = 524288;
+constexpr int itemsOfStream = 4;
 
 template<typename Item>
-void readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int channel, int stream, Item &item)
+bool readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int channel, int stream, Item &item)
 {
     item = {};
     item.size = sizeof(item);
     item.stream = stream;
-    if (!session.readItem(static_cast<std::uint32_t>(number), channel, item))
+    const bool isRead = session.readItem(static_cast<std::uint32_t>(number), channel, item);
+    if (!isRead)
         qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << stream
                              << "cannot be read, error" << session.lastError();
     // Whatever the device filled in: these two are sent back.
     item.size = sizeof(item);
     item.stream = stream;
+    return isRead;
 }
 
-void readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items)
+/// Returns the places of those that cannot be read, from 0.
+QList<int> readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items)
 {
-    readStreamItem(session, sdk::EncodeItem::VideoFormat, channel, stream, items.videoFormat);
-    readStreamItem(session, sdk::EncodeItem::VideoProfile, channel, stream, items.videoProfile);
-    readStreamItem(session, sdk::EncodeItem::AudioCompression, channel, stream, items.audioCompression);
-    readStreamItem(session, sdk::EncodeItem::AudioFormat, channel, stream, items.audioFormat);
+    QList<int> unread;
+    int place = 0;
+    const auto read = [&](sdk::EncodeItem number, auto &item) {
+        if (!readStreamItem(session, number, channel, stream, item))
+            unread.append(place);
+        ++place;
+    };
+    read(sdk::EncodeItem::VideoFormat, items.videoFormat);
+    read(sdk::EncodeItem::VideoProfile, items.videoProfile);
+    read(sdk::EncodeItem::AudioCompression, items.audioCompression);
+    read(sdk::EncodeItem::AudioFormat, items.audioFormat);
+    return unread;
 }
 
 void clear(sdk::EncodeCapabilities &capabilities)
@@ -77,21 +89,24 @@ bool refreshEncodeCapabilities(const ConfigSession &session, int channel, Encode
 
 EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state)
 {
-    const EncodeReading reading = readEncodeCapabilities(session, channel, state);
+    EncodeReading reading = readEncodeCapabilities(session, channel, state);
     if (reading.isAsked) {
-        readItems(session, channel, streamType + 1, state.main);
-        readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub);
+        reading.unreadItems = readItems(session, channel, streamType + 1, state.main);
+        const QList<int> ofSub =
+            readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub);
+        for (const int place : ofSub)
+            reading.unreadItems.append(place + itemsOfStream);
     }
     return reading;
 }
 
 QList<int> writeEncodeItems(const ConfigSession &session, int channel, const EncodeItems &main,
-                            const EncodeItems &sub)
+                            const EncodeItems &sub, const QList<int> &left)
 {
     QList<int> refused;
     int place = 0;
     const auto write = [&](sdk::EncodeItem number, const auto &item) {
-        if (!session.writeItem(static_cast<std::uint32_t>(number), channel, item)) {
+        if (!left.contains(place) && !session.writeItem(static_cast<std::uint32_t>(number), channel, item)) {
             qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << item.stream
                                  << "is refused, error" << session.lastError();
             refused.append(place);

@@ -42,6 +42,7 @@ struct EncodeReading
     int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
     bool isFetched = false; ///< the device gave its configuration: the state is new, as far as it was read
     bool isAsked = false;   ///< the capabilities were asked for, whatever came of it
+    QList<int> unreadItems = {}; ///< places of the items that were refused, as writeEncodeItems() counts them
 };
 
 /// Reads the configuration "Encode" and the capabilities that go with it. When the configuration is refused
@@ -58,7 +59,8 @@ bool refreshEncodeCapabilities(const ConfigSession &session, int channel, Encode
 [[nodiscard]] EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType,
                                             EncodeState &state);
 
-/// Writes the eight items, whatever comes of each. Returns the places of those that were refused: 0 to 3 the
-/// main stream's video format, video profile, audio compression and audio format, 4 to 7 the sub stream's.
+/// Writes the eight items but for those in the places `left`, whatever comes of each. Returns the places of
+/// those that were refused: 0 to 3 the main stream's video format, video profile, audio compression and audio
+/// format, 4 to 7 the sub stream's.
 [[nodiscard]] QList<int> writeEncodeItems(const ConfigSession &session, int channel, const EncodeItems &main,
-                                          const EncodeItems &sub);
+                                          const EncodeItems &sub, const QList<int> &left = {});

@@ -77,7 +77,8 @@ bool DemoNetLibrary::NetGetItem(std::int64_t loginHandle, std::uint32_t item, st
         return false;
     const std::optional<QByteArray> answer =
         known ? channelItem(*device, placeOf(*known, channel, block)) : std::nullopt;
-    if (!answer)
+    const std::optional<FaultSetting> withheld = device->fault(Fault::WithholdsItem);
+    if (!answer || (withheld && withheld->number == static_cast<int>(item)))
         return m_error.fail(NetError::NotSupported);
     std::memcpy(block, answer->constData(), static_cast<std::size_t>(answer->size()));
     return true;

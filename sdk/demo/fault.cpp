@@ -26,6 +26,7 @@ constexpr std::array entries = {
     FaultEntry{Fault::RefusesInitialisation, "refusesInitialisation", FaultValue::None},
     FaultEntry{Fault::RefusesAddressChange, "refusesAddressChange", FaultValue::None},
     FaultEntry{Fault::RefusesItem, "refusesItem", FaultValue::Number},
+    FaultEntry{Fault::WithholdsItem, "withholdsItem", FaultValue::Number},
     FaultEntry{Fault::RefusesBitRatesAbove, "refusesBitRatesAbove", FaultValue::Number},
     FaultEntry{Fault::RefusesConfiguration, "refusesConfiguration", FaultValue::Text},
     FaultEntry{Fault::DropsStreamAfter, "dropsStreamAfter", FaultValue::Number},

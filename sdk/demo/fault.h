@@ -20,6 +20,7 @@ enum class Fault
     RefusesInitialisation, ///< refuses its first account
     RefusesAddressChange,  ///< refuses a new address
     RefusesItem,           ///< refuses to write item `number`
+    WithholdsItem,         ///< does not tell item `number`
     RefusesBitRatesAbove,  ///< refuses bit rates above `number` kbit/s
     RefusesConfiguration,  ///< refuses the configuration named `text`
     DropsStreamAfter,      ///< ends the stream after `number` pictures

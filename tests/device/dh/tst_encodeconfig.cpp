@@ -375,6 +375,23 @@ private Q_SLOTS:
         QVERIFY(m_site->asked("NetSetItem").isEmpty());
     }
 
+    void anItemThatTheTargetDoesNotTellIsLeftAsItIs()
+    {
+        SceneDevice target = configDevice(6, "IPC", 1);
+        target.faults = {{Fault::WithholdsItem, 1104}};
+        m_site = std::make_unique<ConfigSite>(QList{modernCamera(), target});
+        m_site->factory->getLoginDevice("dh", target.address, "admin", "secret1", "37777");
+        QCOMPARE(m_site->login(modernCamera()), 0);
+        QCOMPARE(read(), 0);
+        QSignalSpy results(m_site->factory.get(), &CDeviceFactory::signalRetToCopyConfig);
+        m_site->factory->copyConfigToDevice("dh", {ipportOf(target)});
+        QCOMPARE(results.first().at(1).toInt(), 0);
+        QCOMPARE(m_site->asked("NetSetItem").size(), 6);
+        QVERIFY(written(1104, 1).isEmpty());
+        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(target)).value("result").toString(),
+                 "未复制：主码流编码音频压缩格式、辅码流编码音频压缩格式");
+    }
+
     void withoutAConfigurationLibraryNothingIsWritten()
     {
         m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{modernCamera()}, false);
