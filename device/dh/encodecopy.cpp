@@ -78,7 +78,7 @@ QStringList takeRest(const EncodeChoices &choices, const sdk::EncodeCapabilityBl
         to.audioCompression.audioEnable = from.audioCompression.audioEnable;
         to.audioCompression.format = from.audioCompression.format;
         to.audioFormat.samplingFrequency = from.audioFormat.samplingFrequency;
-    } else {
+    } else if (from.audioCompression.format != 0) { // a source without audio has none to copy
         skipped.append(SettingNames::audio(isSub));
     }
     video.videoEnable = wanted.videoEnable;
