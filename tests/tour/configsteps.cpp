@@ -72,6 +72,13 @@ void slide(const Driver &driver, const QString &slider, Qt::Key key, int expecte
     awaitIdle(driver);
 }
 
+void setNumber(const Driver &driver, const QString &field, int number)
+{
+    driver.require(field)->forceActiveFocus(Qt::TabFocusReason); // brings it into view
+    driver.fill(field, QString::number(number));
+    driver.key(Qt::Key_Return);
+}
+
 void choose(const Driver &driver, const QString &device)
 {
     driver.click(u"device_"_s + device);
@@ -267,6 +274,13 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     pick(driver, u"backMode_backlightmode"_s, 1);
     driver.report(u"config-exposure"_s, shownBy(driver, u"shutterChoice"_s));
 
+    setNumber(driver, u"regionLeft"_s, 7000);
+    driver.report(u"config-region"_s, driver.text(u"regionComplaint"_s));
+    setNumber(driver, u"regionRight"_s, 8000);
+    awaitIdle(driver);
+    driver.check(!driver.find(u"regionComplaint"_s) && driver.text(u"regionLeft"_s) == u"7000",
+                 u"both sides of a region are written together"_s);
+
     site.setFault(macOf(site, first), {.fault = sdk::demo::Fault::RefusesItem, .number = 1318, .text = {}});
     driver.click(u"imageSubject0"_s);
     slide(driver, u"picture_hue"_s, Qt::Key_Right, 51);
@@ -296,6 +310,38 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     chooseRecorder(driver);
     driver.click(u"imageSubject1"_s);
     driver.report(u"config-image-none"_s, driver.text(u"emptyTitle"_s));
+}
+
+/// A device that no longer answers in the login that it gave.
+void walkLostLogin(Driver &driver, sdk::demo::DemoSite &site)
+{
+    const QString mac = macOf(site, last);
+    const sdk::demo::FaultSetting noAnswer = {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}};
+    const QString loggedIn = translated("DeviceState", "已登录");
+    choose(driver, last);
+    pick(driver, u"mainControlChoice"_s, 0);
+    site.setFault(mac, noAnswer);
+    pick(driver, u"subResolutionChoice"_s, 2);
+    driver.report(u"config-lost-changes"_s, driver.text(u"encodeNotice"_s));
+    driver.check(driver.find(u"mainControlChoice"_s) != nullptr, u"the changes are still in view"_s);
+    site.clearFault(mac, sdk::demo::Fault::NoAnswer);
+    driver.click(u"encodeRefreshButton"_s);
+    driver.click(u"okButton"_s); // give them up
+    awaitIdle(driver);
+    driver.check(driver.text(u"configState"_s) == loggedIn, u"refreshing logs in again"_s);
+
+    driver.click(u"configTab1"_s);
+    awaitIdle(driver);
+    site.setFault(mac, noAnswer);
+    pick(driver, u"switchModeChoice"_s, 1);
+    driver.report(u"config-lost"_s, driver.text(u"emptyTitle"_s));
+    site.clearFault(mac, sdk::demo::Fault::NoAnswer);
+    driver.click(u"device_"_s + last);
+    awaitIdle(driver);
+    driver.check(driver.find(u"switchModeChoice"_s) && driver.text(u"configState"_s) == loggedIn,
+                 u"choosing the device again logs in again"_s);
+    driver.click(u"configTab0"_s);
+    awaitIdle(driver);
 }
 
 /// Devices that talk nonsense, and one that is gone.
@@ -337,5 +383,8 @@ void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site)
     walkChannels(driver);
     walkDiscarding(driver);
     walkImage(driver, site);
+    driver.click(u"configTab0"_s);
+    walkLostLogin(driver, site);
+    driver.click(u"configTab1"_s);
     walkOddDevices(driver, site);
 }
