@@ -1,17 +1,16 @@
 #include "device/dh/camerachanges.h"
 
+#include "device/dh/internal/camerachange.h"
 #include "sdk/blocktext.h"
 
 #include <QHash>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <numeric>
-#include <span>
 
 namespace {
 
+using Change = CameraChange;
 using Writes = QList<CameraWrite>;
 
 constexpr sdk::ValueRange colorStyles = {1, 3};
@@ -23,62 +22,6 @@ constexpr std::array mixedSensitivities = {1, 3, 5};
 constexpr sdk::ValueRange lightDelays = {0, 3600};
 constexpr sdk::ValueRange lightModes = {0, 255};
 constexpr sdk::ValueRange regionSides = {0, 8192};
-constexpr double longestShutter = 100000; // in milliseconds
-
-/// One change: where it stands and what is to become of it.
-struct Change
-{
-    const QString &subKey;
-    const QVariant &value;
-    const ValueTables &tables;
-    CameraState &state;
-
-    [[nodiscard]] bool is(const char *name) const { return subKey == QLatin1String(name); }
-    [[nodiscard]] bool isPlain() const { return subKey.isEmpty() || is("value"); }
-    [[nodiscard]] CameraLists lists() const { return {tables, state.capabilities}; }
-
-    /// Each returns false, with the field unchanged, for a value that is none.
-    [[nodiscard]] bool number(sdk::ValueRange range, std::int32_t &field) const
-    {
-        bool isNumber = false;
-        const double number = value.toDouble(&isNumber);
-        if (!isNumber || std::isnan(number))
-            return false;
-        field = static_cast<std::int32_t>(std::lround(qBound<double>(range.minimum, number, range.maximum)));
-        return true;
-    }
-    [[nodiscard]] bool slider(sdk::ValueRange told, std::int32_t &field) const
-    {
-        return number(usableRange(told), field);
-    }
-    [[nodiscard]] bool choice(const OfferedValues &offered, std::int32_t &field) const
-    {
-        bool isNumber = false;
-        const std::optional<int> chosen = offered.valueAt(value.toInt(&isNumber));
-        if (!isNumber || !chosen)
-            return false;
-        field = *chosen;
-        return true;
-    }
-    [[nodiscard]] bool oneOf(std::span<const int> numbers, std::int32_t &field) const
-    {
-        bool isNumber = false;
-        const int number = value.toInt(&isNumber);
-        if (!isNumber || std::find(numbers.begin(), numbers.end(), number) == numbers.end())
-            return false;
-        field = number;
-        return true;
-    }
-    [[nodiscard]] bool shutter(float &field) const
-    {
-        bool isNumber = false;
-        const double milliseconds = value.toDouble(&isNumber);
-        if (!isNumber || !(milliseconds >= 0 && milliseconds <= longestShutter))
-            return false;
-        field = static_cast<float>(milliseconds);
-        return true;
-    }
-};
 
 Writes when(bool isChanged, const Writes &writes)
 {
