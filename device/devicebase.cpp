@@ -132,6 +132,11 @@ QVariantList CDeviceBase::importFailures()
 
 void CDeviceBase::stopImport() {}
 
+int CDeviceBase::checkLogin(const QString &, const QString &, const QString &)
+{
+    return 0;
+}
+
 QString CDeviceBase::importError()
 {
     return {};

@@ -86,6 +86,10 @@ public:
     /// Leaves out what an import has not come to yet. Called while importDevice() lets the event loop run.
     virtual void stopImport();
 
+    /// Asks the device whether it lets this account in, and logs out again at once: the current session of
+    /// findAndLoginDevice() stays as it is. Returns a LoginResult.
+    virtual int checkLogin(const QString &ipport, const QString &account, const QString &password);
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

@@ -407,6 +407,12 @@ void CDeviceFactory::stopImport(const QString &family)
     forward(family, &CDeviceBase::stopImport);
 }
 
+int CDeviceFactory::checkLogin(const QString &family, const QString &ipport, const QString &account,
+                               const QString &password)
+{
+    return forward(family, &CDeviceBase::checkLogin, ipport, account, password);
+}
+
 QString CDeviceFactory::importError(const QString &family)
 {
     return forward(family, &CDeviceBase::importError);

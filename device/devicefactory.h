@@ -129,6 +129,11 @@ public:
     /// Leaves out what a running import has not come to yet.
     Q_INVOKABLE void stopImport(const QString &family);
 
+    /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
+    /// session of findAndLoginDevice() stays as it is.
+    int checkLogin(const QString &family, const QString &ipport, const QString &account,
+                   const QString &password);
+
 Q_SIGNALS:
     // Twins of the back ends' signals, in their order. Each is relayed from the signal of the same name with
     // "CDevice" behind "signal".

@@ -66,6 +66,7 @@ public:
 
     // The current session: devicedhsession.cpp
     int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password) override;
+    int checkLogin(const QString &ipport, const QString &account, const QString &password) override;
 
     // Requests to devices that a search has found: devicedhrequests.cpp
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;

@@ -27,6 +27,14 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
     return resultCode(login.result);
 }
 
+int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const QString &password)
+{
+    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
+    if (login.handle != 0)
+        m_libraries.net->NetLogout(login.handle);
+    return resultCode(login.result);
+}
+
 void CDeviceDH::endSession()
 {
     m_loginHandle = 0;

@@ -192,6 +192,19 @@ private Q_SLOTS:
         QCOMPARE(m_site->requests().of("NetLogout").size(), 2);
     }
 
+    /// A page that works on the session does not notice that another one looks whether a password is right.
+    void aCheckedLoginLeavesTheSession()
+    {
+        QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
+        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1"), 0);
+        QCOMPARE(m_factory->checkLogin("dh", "192.168.1.12:37777", "admin", "wrong"), 2);
+        QCOMPARE(m_site->requests().of("NetLogout").size(), 0);
+        QCOMPARE(m_factory->checkLogin("dh", "192.168.1.12:37777", "admin", "secret1"), 0);
+        QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QCOMPARE(result.size(), 1);
+        QCOMPARE(m_factory->checkLogin("none", "192.168.1.12:37777", "admin", "wrong"), 0);
+    }
+
     void faultsEndInRowsAndResults_data()
     {
         QTest::addColumn<QString>("mac");
