@@ -36,7 +36,7 @@ const std::vector<Folder> &folders()
         {"sheets", {}},
         {"favourites", {}},
         {"device/dh", {"device", "media", "sdk", "sheets"}},
-        {"cgi", {"device", "sdk"}},
+        {"cgi", {"device", "sdk", "sheets"}},
         {"qml/configtools", {"device", "favourites", "media"}},
         {"documents", {}},
         {"app", {"*"}},

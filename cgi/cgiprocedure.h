@@ -1,0 +1,68 @@
+// How one command is sent to one device.
+#pragma once
+
+#include "cgi/httptransport.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+/// What a command is sent with. The functions are called on the thread that sends it.
+struct CgiSurroundings
+{
+    /// Whether the device at `ipport` lets the account in, as a LoginResult.
+    using LoginCheck =
+        std::function<int(const QString &ipport, const QString &account, const QString &password)>;
+
+    LoginCheck checkLogin;
+    std::shared_ptr<HttpTransport> transport;
+    QString folder;                       ///< where pictures and recordings are saved
+    std::function<QDateTime()> localTime; ///< which names them
+};
+
+/// The limits of the exchanges that a command may take.
+struct CgiLimits
+{
+    HttpLimits first{.total = std::chrono::milliseconds(3000)};
+    HttpLimits text{.total = std::chrono::milliseconds(30000)};
+    HttpLimits picture{.total = std::chrono::milliseconds(10000)};
+    HttpLimits recording{.slowestRate = 1024, .slowTime = std::chrono::seconds(10)};
+    qsizetype longestText = 8LL * 1024 * 1024;
+    qsizetype largestPicture = 64LL * 1024 * 1024;
+};
+
+/// Begins the result of a command that failed.
+inline const QString failedResult = QStringLiteral("Error:");
+
+/// The login is checked first, so that a wrong password is told in the device's own terms. Then the command
+/// is sent to see what the answer will be, and, when it is accepted, once more to take the answer in the
+/// right way: a command that changes something reaches the device twice.
+class CgiProcedure
+{
+    Q_DECLARE_TR_FUNCTIONS(CgiProcedure)
+public:
+    CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits &limits);
+
+    /// Blocks. The text of the answer, or the path of the file that it was saved in, or "Error:" and why not.
+    /// Empty when the file could not be created.
+    [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
+                              const QString &ipport) const;
+
+    /// Why a login with this result forbids the command, in the user's language; empty when it does not.
+    [[nodiscard]] static QString loginRefusal(int loginResult);
+
+private:
+    /// What an answer was turned into.
+    struct Taken
+    {
+        QString text;
+        QString failure;
+    };
+
+    [[nodiscard]] Taken take(HttpConversation &conversation, const HttpOutcome &first) const;
+    [[nodiscard]] Taken takeText(HttpConversation &conversation) const;
+    [[nodiscard]] Taken takeFile(HttpConversation &conversation, const QByteArray &headers,
+                                 const HttpOutcome &first) const;
+
+    const CgiSurroundings &m_surroundings;
+    const CgiLimits m_limits;
+};

@@ -1,0 +1,134 @@
+#include "cgi/curltransport.h"
+
+#include <curl/curl.h>
+
+#include <cstdio>
+
+namespace {
+
+constexpr qsizetype keptHeaderText = 64 * 1024;
+/// Nobody sends as much; a device that does would keep an exchange without a time limit up for ever.
+constexpr qsizetype longestHeaderText = 256 * 1024;
+
+/// The names of machines that are asked without the proxy: a tunnel to a device ends on this one.
+constexpr const char *localNames = "127.0.0.1,localhost,::1";
+
+struct HandleDeleter
+{
+    void operator()(CURL *handle) const { curl_easy_cleanup(handle); }
+};
+using Handle = std::unique_ptr<CURL, HandleDeleter>;
+
+class CurlConversation : public HttpConversation
+{
+public:
+    CurlConversation(Handle handle, const CgiRequest &request, std::chrono::seconds connectLimit,
+                     const QByteArray &proxy)
+        : m_handle(std::move(handle))
+    {
+        set(CURLOPT_HTTPGET, 1L);
+        set(CURLOPT_URL, request.url().constData());
+        // Digest in the form of older browsers, which leaves the query out: what the devices expect.
+        set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_DIGEST_IE));
+        set(CURLOPT_USERPWD, request.userPassword().constData());
+        set(CURLOPT_HEADERFUNCTION, &CurlConversation::takeHeader);
+        set(CURLOPT_HEADERDATA, static_cast<void *>(this));
+        set(CURLOPT_CONNECTTIMEOUT, static_cast<long>(connectLimit.count()));
+
+#if LIBCURL_VERSION_NUM >= 0x075500
+        set(CURLOPT_PROTOCOLS_STR, "http,https");
+#else
+        set(CURLOPT_PROTOCOLS, static_cast<long>(CURLPROTO_HTTP | CURLPROTO_HTTPS));
+#endif
+        set(CURLOPT_PROXY, proxy.constData()); // empty: none, not that of the environment
+        set(CURLOPT_NOPROXY, localNames);
+        set(CURLOPT_NOSIGNAL, 1L); // the process has other threads
+        set(CURLOPT_WRITEFUNCTION, &CurlConversation::takeBody);
+        set(CURLOPT_WRITEDATA, static_cast<void *>(this));
+    }
+
+    void useBasic() override
+    {
+        set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC));
+    }
+
+    HttpOutcome perform(const HttpLimits &limits, const BodySink &sink) override
+    {
+        set(CURLOPT_TIMEOUT_MS, static_cast<long>(limits.total.count()));
+        set(CURLOPT_LOW_SPEED_LIMIT, limits.slowestRate);
+        set(CURLOPT_LOW_SPEED_TIME, static_cast<long>(limits.slowTime.count()));
+        m_sink = sink;
+        m_headerLength = 0;
+        const CURLcode result = curl_easy_perform(m_handle.get());
+        m_sink = {};
+
+        HttpOutcome outcome;
+        outcome.hasTooLongHeaders = m_headerLength > longestHeaderText;
+        curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &outcome.status);
+        if (result != CURLE_OK) {
+            outcome.failure = QString::fromUtf8(curl_easy_strerror(result));
+            std::fprintf(stderr, "curl_easy_perform() failed: %s\n", curl_easy_strerror(result));
+        }
+        return outcome;
+    }
+
+    [[nodiscard]] QByteArray headerText() const override
+    {
+        return m_headerText;
+    }
+
+private:
+    template<typename Value>
+    void set(CURLoption option, Value value)
+    {
+        // Fails for want of memory, or for an option that the library lacks; the exchange fails then, too.
+        curl_easy_setopt(m_handle.get(), option, value);
+    }
+
+    static size_t takeHeader(const char *line, size_t size, size_t count, void *conversation)
+    {
+        auto *self = static_cast<CurlConversation *>(conversation);
+        const auto length = static_cast<qsizetype>(size * count);
+        self->m_headerLength += length;
+        if (self->m_headerLength > longestHeaderText)
+            return 0;
+        self->m_headerText.append(line, qMin(length, keptHeaderText - self->m_headerText.size()));
+        return size * count;
+    }
+
+    /// There is always a function that takes the body: without one the library prints it.
+    static size_t takeBody(const char *data, size_t size, size_t count, void *conversation)
+    {
+        const auto *self = static_cast<const CurlConversation *>(conversation);
+        const size_t length = size * count;
+        const bool isTaken = !self->m_sink || self->m_sink({data, static_cast<qsizetype>(length)});
+        return isTaken ? length : 0;
+    }
+
+    const Handle m_handle;
+    BodySink m_sink;
+    QByteArray m_headerText;
+    qsizetype m_headerLength = 0; ///< of the exchange that runs
+};
+
+} // namespace
+
+CurlTransport::CurlTransport(std::chrono::seconds connectLimit) : m_connectLimit(connectLimit)
+{
+    // Once in the process, before the first handle.
+    static const CURLcode isReady = curl_global_init(CURL_GLOBAL_DEFAULT);
+    Q_UNUSED(isReady);
+}
+
+void CurlTransport::setProxy(const QString &proxy)
+{
+    m_proxy = proxy.toUtf8();
+}
+
+std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
+{
+    Handle handle(curl_easy_init());
+    if (!handle)
+        return nullptr;
+    return std::make_unique<CurlConversation>(std::move(handle), request, m_connectLimit, m_proxy);
+}

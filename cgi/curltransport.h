@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cgi/httptransport.h"
+
+/// Requests through libcurl's easy interface, each with a handle of its own. Only HTTP and HTTPS.
+class CurlTransport : public HttpTransport
+{
+public:
+    /// How long a connection may take to come about.
+    explicit CurlTransport(std::chrono::seconds connectLimit = defaultConnectLimit);
+
+    void setProxy(const QString &proxy) override;
+    [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &request) override;
+
+private:
+    static constexpr std::chrono::seconds defaultConnectLimit{5};
+
+    const std::chrono::seconds m_connectLimit;
+    QByteArray m_proxy;
+};

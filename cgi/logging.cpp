@@ -1,0 +1,3 @@
+#include "cgi/logging.h"
+
+Q_LOGGING_CATEGORY(logCgi, "configtools.cgi")

@@ -1,0 +1,341 @@
+// Commands to web servers: a real one, and one that sends what no real one would.
+#include "cgi/cgiprocedure.h"
+#include "cgi/curltransport.h"
+#include "tests/cgi/apacheserver.h"
+#include "tests/cgi/rawserver.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString user = QStringLiteral("admin");
+const QString password = QStringLiteral("p@ss:密码%");
+const QByteArray textType = QByteArrayLiteral("Content-Type: text/plain\r\n");
+const QByteArray recordingType = QByteArrayLiteral("Content-Type: application/octet-stream\r\n");
+
+/// Limits that let a test wait for the failure that they bring.
+CgiLimits shortLimits()
+{
+    CgiLimits limits;
+    limits.first.total = 250ms;
+    limits.text.total = 500ms;
+    limits.picture.total = 500ms;
+    limits.recording = {.slowestRate = 1024, .slowTime = 1s};
+    return limits;
+}
+
+} // namespace
+
+class TestCgiProcedure : public QObject
+{
+    Q_OBJECT
+    QTemporaryDir m_folder;
+    int m_loginResult = 0;
+    CgiSurroundings m_surroundings;
+
+    [[nodiscard]] QString run(const QString &url, const CgiLimits &limits = {},
+                              const QString &account = user) const
+    {
+        return CgiProcedure(m_surroundings, limits)
+            .run(url, account, password, QStringLiteral("127.0.0.1:37777"));
+    }
+
+    [[nodiscard]] QStringList savedFiles() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+
+    [[nodiscard]] static QByteArray contents(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        for (const QString &name : savedFiles())
+            QVERIFY(QFile::remove(m_folder.filePath(name)));
+        m_loginResult = 0;
+        m_surroundings = {
+            .checkLogin = [this](const QString &, const QString &, const QString &) { return m_loginResult; },
+            .transport = std::make_shared<CurlTransport>(1s),
+            .folder = m_folder.path(),
+            .localTime =
+                [] {
+                    return QDateTime(QDate(2026, 3, 9), QTime(7, 5, 1));
+                }};
+    }
+
+    void takesAnswersOfARealServer_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("result");
+        QTest::addColumn<QStringList>("requests");
+        QTest::newRow("digest") << "/digest/text?action=get"
+                                << "OK 东门\r\n"
+                                << QStringList{"401 GET /digest/text?action=get",
+                                               "200 GET /digest/text?action=get",
+                                               "200 GET /digest/text?action=get"};
+        QTest::newRow("basic, asked again")
+            << "/basic/text"
+            << "OK 东门\r\n"
+            << QStringList{"401 GET /basic/text", "200 GET /basic/text", "200 GET /basic/text"};
+        QTest::newRow("open") << "/open/text"
+                              << "OK 东门\r\n"
+                              << QStringList{"200 GET /open/text", "200 GET /open/text"};
+        QTest::newRow("fragment is kept back") << "/open/text#part"
+                                               << "OK 东门\r\n"
+                                               << QStringList{"200 GET /open/text", "200 GET /open/text"};
+        QTest::newRow("missing") << "/open/missing"
+                                 << "Error:服务器连接失败" << QStringList{"404 GET /open/missing"};
+        QTest::newRow("digest without its query")
+            << "/strict/text?action=get"
+            << "Error:服务器连接失败"
+            << QStringList{"401 GET /strict/text?action=get", "400 GET /strict/text?action=get"};
+    }
+
+    void takesAnswersOfARealServer()
+    {
+        QFETCH(QString, path);
+        QFETCH(QStringList, requests);
+        ApacheServer server(user, password);
+        QVERIFY2(server.failure().isEmpty(), qPrintable(server.failure()));
+        QTEST(run(server.url(path)), "result");
+        QTRY_COMPARE(server.requests(), requests); // it writes its log after the answer
+        QCOMPARE(savedFiles(), QStringList());
+    }
+
+    void savesFilesOfARealServer()
+    {
+        ApacheServer server(user, password);
+        QVERIFY2(server.failure().isEmpty(), qPrintable(server.failure()));
+        const QString picture = m_folder.filePath("20260309070501.jpg");
+        QCOMPARE(run(server.url("/digest/picture.jpg")), picture);
+        QCOMPARE(contents(picture), QByteArray("\xFF\xD8picture\0of", 12));
+        QCOMPARE(run(server.url("/basic/picture.svg")), m_folder.filePath("20260309070501.svg"));
+        const QString recording = m_folder.filePath("20260309070501.dav");
+        QCOMPARE(run(server.url("/digest/recording.dav")), recording);
+        QCOMPARE(contents(recording), QByteArray(300'000, 'd'));
+        QCOMPARE(savedFiles().size(), 3);
+        // Another account, and a file that is there already: nothing of it changes.
+        QCOMPARE(run(server.url("/digest/picture.jpg"), {}, "guest"), "Error:服务器连接失败");
+        QCOMPARE(contents(picture), QByteArray("\xFF\xD8picture\0of", 12));
+    }
+
+    void forbiddenCommandsAreNotSent()
+    {
+        RawServer server([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "OK"); });
+        m_loginResult = 3;
+        QCOMPARE(run(server.url("/cgi-bin/a")), "Error:设备被锁定。");
+        m_loginResult = 0;
+        QVERIFY(run(server.url("/cgi-bin/a"), {}, "admin\r\nX-Smuggled: 1").startsWith("Error:"));
+        QVERIFY(run("file:///etc/hostname").startsWith("Error:"));
+        QVERIFY(run("http://[half/cgi-bin/a").startsWith("Error:"));
+        QCOMPARE(server.requests(), QList<QByteArray>());
+    }
+
+    void lineBreaksSmuggleNoHeader()
+    {
+        RawServer server([](const RawExchange &exchange) {
+            if (exchange.request().contains("Authorization"))
+                exchange.answer("200 OK", textType, "OK");
+            else
+                exchange.answer("401 Unauthorized", "WWW-Authenticate: Digest realm=\"d\", nonce=\"1\"\r\n",
+                                "");
+        });
+        const QString command = server.url("/cgi-bin/a?b=c\r\nX-Smuggled: 1");
+        QCOMPARE(CgiProcedure(m_surroundings, {}).run(command, user, "pass\r\nX-Smuggled: 1", "127.0.0.1:1"),
+                 "OK");
+        QVERIFY(server.requests().size() >= 2);
+        for (const QByteArray &request : server.requests())
+            QVERIFY(!request.contains("\nX-Smuggled"));
+    }
+
+    void oddAnswersEndInATextThatSaysSo_data()
+    {
+        QTest::addColumn<RawServer::Handler>("handler");
+        QTest::addColumn<QString>("result"); // that it begins with
+        const auto row = [](const char *name, const RawServer::Handler &handler, const QString &result) {
+            QTest::newRow(name) << handler << result;
+        };
+        row(
+            "no status line",
+            [](const RawExchange &exchange) { exchange.send("hello\r\n\r\nwhat is HTTP?"); }, "Error:");
+        row(
+            "nothing", [](const RawExchange &) {}, "Error:");
+        row(
+            "endless headers",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\n");
+                const QByteArray line = "X-More: " + QByteArray(4000, 'x') + "\r\n";
+                while (exchange.send(line)) {
+                }
+            },
+            "Error:应答头过大。");
+        row(
+            "body cut short",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nbeginning");
+            },
+            "Error:");
+        row(
+            "length that lies",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: -7\r\n\r\nbody");
+            },
+            "Error:");
+        row(
+            "more than it said",
+            [](const RawExchange &exchange) {
+                exchange.send(
+                    "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 4\r\n\r\nbody and more");
+            },
+            "body");
+        row(
+            "redirection",
+            [](const RawExchange &exchange) {
+                exchange.answer("302 Found", "Location: /elsewhere\r\n", "moved");
+            },
+            "Error:服务器连接失败");
+        row(
+            "large text",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 104857600\r\n\r\n");
+                const QByteArray piece(64 * 1024, 't');
+                for (int sent = 0; sent < 1600 && exchange.send(piece); ++sent) {
+                }
+            },
+            "Error:应答内容过大。");
+        row(
+            "slow drip",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n");
+                while (exchange.send("x") && exchange.pause(50)) {
+                }
+            },
+            "Error:");
+        row(
+            "slow recording",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\n");
+                while (exchange.send("x") && exchange.pause(50)) {
+                }
+            },
+            "Error:");
+        row(
+            "recording cut short",
+            [](const RawExchange &exchange) {
+                exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\nbegin");
+            },
+            "Error:");
+        row(
+            "picture that becomes a page",
+            [](const RawExchange &exchange) {
+                if (exchange.number() == 1)
+                    exchange.answer("200 OK", "Content-Type: image/png\r\n", "png");
+                else
+                    exchange.answer("404 Not Found", textType, "no picture");
+            },
+            "Error:服务器连接失败");
+    }
+
+    void oddAnswersEndInATextThatSaysSo()
+    {
+        QFETCH(RawServer::Handler, handler);
+        QFETCH(QString, result);
+        RawServer server(handler);
+        const QString actual = run(server.url("/cgi-bin/a"), shortLimits());
+        QVERIFY2(actual.startsWith(result), qPrintable(actual));
+        QVERIFY(actual.size() > failedResult.size() || result != failedResult);
+        QVERIFY(!server.requests().isEmpty());
+        QCOMPARE(savedFiles(), QStringList()); // nothing that looks whole
+    }
+
+    /// The first exchange has 3 seconds and throws its body away, the second takes a recording for as long
+    /// as it comes.
+    void aLongRecordingOutlivesTheFirstLimit()
+    {
+        RawServer server([](const RawExchange &exchange) {
+            exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\n");
+            for (int piece = 0; piece < 10 && exchange.send(QByteArray(10000, 'd')) && exchange.pause(60);
+                 ++piece) {
+            }
+        });
+        const QString path = run(server.url("/cgi-bin/a"), shortLimits());
+        QCOMPARE(path, m_folder.filePath("20260309070501.dav"));
+        QCOMPARE(contents(path).size(), 100000);
+        QCOMPARE(server.requests().size(), 2);
+    }
+
+    void theSecondAnswerIsTheText()
+    {
+        RawServer server([](const RawExchange &exchange) {
+            exchange.answer("200 OK", textType, "answer " + QByteArray::number(exchange.number()));
+        });
+        QCOMPARE(run(server.url("/cgi-bin/a")), "answer 2");
+    }
+
+    void aFileThatCannotBeCreatedLeavesTheResultEmpty()
+    {
+        RawServer server([](const RawExchange &exchange) {
+            exchange.answer("200 OK", "Content-Type: image/png\r\n", "png");
+        });
+        m_surroundings.folder = m_folder.filePath("none");
+        QCOMPARE(run(server.url("/cgi-bin/a")), "");
+        QCOMPARE(server.requests().size(), 1);
+    }
+
+    void aFullDiskIsTold()
+    {
+        RawServer server([](const RawExchange &exchange) {
+            exchange.answer("200 OK", recordingType, QByteArray(1'000'000, 'd'));
+        });
+        // A limit of the process stands for the disk's.
+        rlimit before = {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        rlimit small = before;
+        small.rlim_cur = 200'000;
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const QString result = run(server.url("/cgi-bin/a"));
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, handler);
+        QVERIFY2(result.startsWith("Error:文件写入失败："), qPrintable(result));
+        QCOMPARE(savedFiles(), QStringList());
+    }
+
+    void aDeviceThatIsNotThereIsToldSoon()
+    {
+        QString url;
+        {
+            RawServer server([](const RawExchange &) {});
+            url = server.url("/cgi-bin/a");
+        }
+        QVERIFY(run(url).startsWith("Error:"));
+    }
+
+    /// Devices are asked directly, unless the program itself names a proxy. A tunnel is, even then.
+    void onlyTheProgramsOwnProxyIsUsed()
+    {
+        RawServer device([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "device"); });
+        RawServer proxy([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "proxy"); });
+        const QString proxyUrl = proxy.url({});
+        qputenv("http_proxy", proxyUrl.toUtf8());
+        qputenv("no_proxy", "10.11.12.13");
+        QCOMPARE(run(device.url("/cgi-bin/a")), "device");
+        m_surroundings.transport->setProxy(proxyUrl);
+        QCOMPARE(run(device.url("/cgi-bin/a")), "device");
+        QCOMPARE(run("http://10.11.12.13/cgi-bin/a"), "proxy");
+        qunsetenv("http_proxy");
+        qunsetenv("no_proxy");
+        QVERIFY(proxy.requests().first().startsWith("GET http://10.11.12.13/cgi-bin/a HTTP/1.1\r\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCgiProcedure)
+#include "tst_cgiprocedure.moc"

@@ -1,0 +1,125 @@
+// What a command becomes on its way out, and what its answer's headers say.
+#include "cgi/answerkind.h"
+#include "cgi/cgiprocedure.h"
+#include "cgi/cgirequest.h"
+
+#include <QTest>
+
+class TestCgiRequest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void encodesAddresses_data()
+    {
+        QTest::addColumn<QString>("url");
+        QTest::addColumn<QByteArray>("encoded");
+        QTest::newRow("plain") << "http://10.0.0.2:80/cgi-bin/a.cgi?action=get&name=General"
+                               << QByteArray("http://10.0.0.2:80/cgi-bin/a.cgi?action=get&name=General");
+        QTest::newRow("index in brackets") << "http://10.0.0.2/cgi-bin/a?Title[0].Name=x"
+                                           << QByteArray("http://10.0.0.2/cgi-bin/a?Title[0].Name=x");
+        QTest::newRow("blank") << "http://10.0.0.2/cgi-bin/a b?c=d e"
+                               << QByteArray("http://10.0.0.2/cgi-bin/a%20b?c=d%20e");
+        QTest::newRow("Chinese") << QStringLiteral("http://10.0.0.2/cgi-bin/a?n=东")
+                                 << QByteArray("http://10.0.0.2/cgi-bin/a?n=%E4%B8%9C");
+        QTest::newRow("encoded already")
+            << "http://10.0.0.2/cgi-bin/a?n=50%25" << QByteArray("http://10.0.0.2/cgi-bin/a?n=50%25");
+        QTest::newRow("lone percent sign") // it says that nothing was encoded yet
+            << "http://10.0.0.2/cgi-bin/a?n=50%&m=%41"
+            << QByteArray("http://10.0.0.2/cgi-bin/a?n=50%25&m=%2541");
+        QTest::newRow("line breaks") << "http://10.0.0.2/cgi-bin/a?b=c\r\nX-Smuggled: 1"
+                                     << QByteArray("http://10.0.0.2/cgi-bin/a?b=c%0D%0AX-Smuggled:%201");
+        QTest::newRow("no address") << "http://[10.0.0.2/cgi-bin/a" << QByteArray();
+    }
+
+    void encodesAddresses()
+    {
+        QFETCH(QString, url);
+        QTEST(CgiRequest(url, {}, {}).url(), "encoded");
+    }
+
+    void refusesWhatWouldBecomeOthersCredentials_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<bool>("isRefused");
+        QTest::newRow("usual") << "admin"
+                               << "secret1" << false;
+        QTest::newRow("colon in the password") << "admin"
+                                               << "a:b@c" << false;
+        QTest::newRow("others") << QStringLiteral("管理员@site") << QStringLiteral("密码%\r\n") << false;
+        QTest::newRow("colon in the name") << "ad:min"
+                                           << "x" << true;
+        QTest::newRow("line break in the name") << "admin\"\r\nX-Smuggled: 1"
+                                                << "x" << true;
+        QTest::newRow("zero in the password") << "admin" << QStringLiteral("a") + QChar(QChar::Null) << true;
+    }
+
+    void refusesWhatWouldBecomeOthersCredentials()
+    {
+        QFETCH(QString, user);
+        QFETCH(QString, password);
+        const CgiRequest request(QStringLiteral("http://10.0.0.2/cgi-bin/a"), user, password);
+        QTEST(!request.refusal().isEmpty(), "isRefused");
+    }
+
+    void choosesTheFileByTheHeaders_data()
+    {
+        QTest::addColumn<QByteArray>("headers");
+        QTest::addColumn<AnswerKind>("kind");
+        QTest::addColumn<QString>("ending");
+        const auto row = [](const char *type, AnswerKind kind, const char *ending) {
+            QTest::newRow(type) << QByteArray("HTTP/1.1 200 OK\r\nContent-Type: ") + type + "\r\n\r\n"
+                                << kind << ending;
+        };
+        row("text/plain;charset=utf-8", AnswerKind::Text, "");
+        row("image/jpeg", AnswerKind::Picture, ".jpg");
+        row("image/png", AnswerKind::Picture, ".png");
+        row("image/gif", AnswerKind::Picture, ".gif");
+        row("image/bmp", AnswerKind::Picture, ".bmp");
+        row("image/svg+xml", AnswerKind::Picture, ".svg");
+        row("image/webp", AnswerKind::Picture, ".webp");
+        row("image/tiff", AnswerKind::Picture, ".jpg");
+        row("Image/PNG", AnswerKind::Text, "");
+        row("application/octet-stream", AnswerKind::Recording, ".dav");
+        row("multipart/mixed; image/png; octet-stream", AnswerKind::Picture, ".png");
+    }
+
+    void choosesTheFileByTheHeaders()
+    {
+        QFETCH(QByteArray, headers);
+        QTEST(answerKind(headers), "kind");
+        QTEST(answerFileEnding(headers), "ending");
+    }
+
+    void namesFilesByTheClock()
+    {
+        const QDateTime time(QDate(2026, 3, 9), QTime(7, 5, 1));
+        QCOMPARE(answerFilePath(QStringLiteral("/tool"), time, QStringLiteral(".dav")),
+                 "/tool/20260309070501.dav");
+    }
+
+    void loginsForbidCommands_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("refusal");
+        QTest::newRow("unknown to the back end") << -1 << "";
+        QTest::newRow("success") << 0 << "";
+        QTest::newRow("no such account") << 1 << "账号或密码错误。";
+        QTest::newRow("wrong password") << 2 << "账号或密码错误。";
+        QTest::newRow("locked") << 3 << "设备被锁定。";
+        QTest::newRow("logged in already") << 4 << "";
+        QTest::newRow("network") << 5 << "网络连接失败。";
+        QTest::newRow("not initialised") << 7 << "设备未初始化。";
+        QTest::newRow("not supported") << 12 << "";
+        QTest::newRow("unknown error") << 99 << "未知错误。";
+    }
+
+    void loginsForbidCommands()
+    {
+        QFETCH(int, code);
+        QTEST(CgiProcedure::loginRefusal(code), "refusal");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCgiRequest)
+#include "tst_cgirequest.moc"
