@@ -1,0 +1,80 @@
+#pragma once
+
+#include "cgi/cgiprocedure.h"
+#include "cgi/commandmemory.h"
+
+#include <QObject>
+#include <QVariantList>
+
+/// Commands to devices over HTTP, for the scene: one, or those of a workbook, whose results are written into
+/// it; and the small services that the page of commands needs.
+///
+/// Everything runs on the scene's thread and blocks it until it is done. Between two rows of a workbook the
+/// event loop runs, so that the scene can show how far it is; the scene keeps other input away meanwhile,
+/// and whoever owns this object lets it live until the call has returned.
+class CGIConfigManage : public QObject
+{
+    Q_OBJECT
+public:
+    /// The process-wide object, created on first use: asks the process-wide factory about logins and works in
+    /// the program's folder.
+    static CGIConfigManage *getinstance();
+
+    /// Deletes the process-wide object.
+    static void deleteInstance();
+
+    /// Keeps the commands that the user typed in "cgicommands.json" of the surroundings' folder.
+    explicit CGIConfigManage(CgiSurroundings surroundings = programSurroundings(), QObject *parent = nullptr);
+
+    /// The factory's login check, HTTP through the library, the program's folder and the machine's clock.
+    [[nodiscard]] static CgiSurroundings programSurroundings();
+
+    /// Where requests to other machines go from now on, as "http://host:port"; empty: to the devices.
+    void setProxy(const QString &proxy);
+
+    /// Sends one command. The text of the answer, the path of the file that it was saved in, or "Error:" and
+    /// why not.
+    Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &pass,
+                                        const QString &ipport);
+
+    /// Sends the commands of a workbook, from above, and writes each result into its row. `path` may be a
+    /// "file:///" address. Returns what is to be told to the user: how many succeeded and failed and where
+    /// the results are, or why the workbook cannot be used.
+    Q_INVOKABLE QString batchCGIConfig(const QString &path);
+
+    /// Ends a running workbook after the row that is being asked; its results are kept.
+    Q_INVOKABLE void stopBatch();
+
+    /// The rows (maps) ordered by the text of one field, equal ones as they were.
+    Q_INVOKABLE QVariantList sortList(const QVariantList &list, const QString &key, Qt::SortOrder order);
+
+    /// The number by which an address or "address:port" is ordered: that of the IPv4 address, 0 for any other
+    /// text.
+    Q_INVOKABLE double addressNumber(const QString &address) const;
+
+    /// Puts the text on the clipboard.
+    Q_INVOKABLE void copyText(const QString &text);
+
+    /// The workbook to begin from, in the user's language: the path of a file beside the program.
+    Q_INVOKABLE QString templateFile() const;
+
+    /// The name of that file alone.
+    [[nodiscard]] static QString templateFileName();
+
+    /// The commands that were used last, the last one first; at most 20.
+    Q_INVOKABLE QStringList recentCommands() const;
+    Q_INVOKABLE void rememberCommand(const QString &command);
+    Q_INVOKABLE QStringList favouriteCommands() const;
+    Q_INVOKABLE void setFavouriteCommand(const QString &command, bool favourite);
+
+Q_SIGNALS:
+    /// Commands of the running workbook that were sent, of all that it holds, and the one sent last.
+    void signalBatchProgress(int done, int total, const QString &command);
+
+private:
+    const CgiSurroundings m_surroundings;
+    const CgiProcedure m_procedure;
+    CommandMemory m_memory;
+    bool m_isBatchRunning = false;
+    bool m_stopsBatch = false;
+};

@@ -1,0 +1,89 @@
+#include "cgi/commandmemory.h"
+
+#include "cgi/logging.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+namespace {
+
+const QString recentKey = QStringLiteral("recent");
+const QString favouritesKey = QStringLiteral("favourites");
+
+bool canBeKept(const QString &command)
+{
+    return !command.isEmpty() && command.size() <= CommandMemory::longestCommand;
+}
+
+QStringList commandsOf(const QJsonValue &value, qsizetype most)
+{
+    QStringList commands;
+    const QJsonArray list = value.toArray();
+    for (const QJsonValue &item : list) {
+        const QString command = item.toString();
+        if (commands.size() < most && canBeKept(command) && !commands.contains(command))
+            commands.append(command);
+    }
+    return commands;
+}
+
+} // namespace
+
+CommandMemory::CommandMemory(const QString &path) : m_path(path)
+{
+    read();
+}
+
+void CommandMemory::remember(const QString &command)
+{
+    const QString text = command.trimmed();
+    if (!canBeKept(text) || (!m_recent.isEmpty() && m_recent.constFirst() == text))
+        return;
+    m_recent.removeAll(text);
+    m_recent.prepend(text);
+    m_recent = m_recent.mid(0, mostRecent);
+    write();
+}
+
+void CommandMemory::setFavourite(const QString &command, bool isFavourite)
+{
+    const QString text = command.trimmed();
+    if (m_favourites.contains(text) == isFavourite)
+        return;
+    if (!isFavourite)
+        m_favourites.removeAll(text);
+    else if (canBeKept(text) && m_favourites.size() < mostFavourites)
+        m_favourites.append(text);
+    else
+        return;
+    write();
+}
+
+void CommandMemory::read()
+{
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly))
+        return; // nothing was remembered yet
+    constexpr qint64 largest = 4LL * 1024 * 1024;
+    const QByteArray text = file.read(largest + 1);
+    const QJsonDocument document = QJsonDocument::fromJson(text.size() > largest ? QByteArray() : text);
+    if (!document.isObject()) {
+        qCWarning(logCgi).noquote() << m_path << "holds no commands";
+        return;
+    }
+    m_recent = commandsOf(document.object().value(recentKey), mostRecent);
+    m_favourites = commandsOf(document.object().value(favouritesKey), mostFavourites);
+}
+
+void CommandMemory::write() const
+{
+    const QJsonObject object = {{recentKey, QJsonArray::fromStringList(m_recent)},
+                                {favouritesKey, QJsonArray::fromStringList(m_favourites)}};
+    const QByteArray text = QJsonDocument(object).toJson();
+    QSaveFile file(m_path); // whole or not at all
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        qCWarning(logCgi).noquote() << "cannot write" << m_path << "-" << file.errorString();
+}

@@ -1,0 +1,137 @@
+#include "cgi/commandworkbook.h"
+
+#include "cgi/logging.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <cmath>
+
+namespace {
+
+enum Column
+{
+    AddressColumn = 1,
+    PortColumn,
+    UserColumn,
+    PasswordColumn,
+    CommandColumn,
+    SchemeColumn,
+    ResultColumn,
+};
+
+/// A cell that was meant as a whole number, whether it is stored as a number or as a text such as "80.0".
+std::optional<qint64> wholeNumber(const QString &cell)
+{
+    constexpr double largest = 1e9;
+    bool isNumber = false;
+    const double number = cell.trimmed().toDouble(&isNumber);
+    if (!isNumber || std::abs(number) > largest)
+        return std::nullopt;
+    return static_cast<qint64>(number);
+}
+
+/// Only what a host and its port consist of: with anything else in front, a command, and the password with
+/// it, could go to another machine than the one that the row seems to name.
+bool isHost(const QString &address)
+{
+    static const QRegularExpression host(QStringLiteral("^[0-9A-Za-z.:_\\[\\]-]+$"));
+    return host.match(address).hasMatch();
+}
+
+} // namespace
+
+CommandWorkbook::CommandWorkbook(std::unique_ptr<sheets::SheetEngine> engine) : m_excel(std::move(engine)) {}
+
+QStringList CommandWorkbook::requiredTitles()
+{
+    return {tr("IP"), tr("端口"), tr("用户名"), tr("密码"), tr("CGI配置命令")};
+}
+
+QString CommandWorkbook::open(const QString &path)
+{
+    m_path = path;
+    if (!m_excel.open(path)) {
+        qCWarning(logCgi).noquote() << "cannot open the workbook:" << m_excel.errorText();
+        return tr("文件打开失败");
+    }
+    const QStringList titles = requiredTitles();
+    for (int column = AddressColumn; column <= CommandColumn; ++column) {
+        if (text(1, column).trimmed() == titles.at(column - 1))
+            continue;
+        m_excel.quit();
+        return tr("文件格式错误");
+    }
+    return {};
+}
+
+std::vector<WorkbookCommand> CommandWorkbook::commands()
+{
+    std::vector<WorkbookCommand> found;
+    const int lastRow = m_excel.firstUsedRow() + m_excel.usedRowCount() - 1;
+    for (int row = 2; row <= lastRow; ++row) {
+        if (!text(row, AddressColumn).trimmed().isEmpty() || !text(row, CommandColumn).trimmed().isEmpty())
+            found.push_back(command(row));
+    }
+    return found;
+}
+
+WorkbookCommand CommandWorkbook::command(int row)
+{
+    const QString address = text(row, AddressColumn).trimmed();
+    const QString port = text(row, PortColumn).trimmed();
+    const auto portNumber = wholeNumber(port);
+    const QString scheme = wholeNumber(text(row, SchemeColumn)).value_or(0) == 0 ? QStringLiteral("http://")
+                                                                                 : QStringLiteral("https://");
+    WorkbookCommand command;
+    command.row = row;
+    command.command = text(row, CommandColumn).trimmed();
+    command.url = scheme + address + command.command;
+    command.ipport = address + QLatin1Char(':') + (portNumber ? QString::number(*portNumber) : port);
+    command.user = text(row, UserColumn);
+    command.password = text(row, PasswordColumn);
+    if (command.command.isEmpty())
+        command.refusal = tr("请填写CGI命令的具体内容。");
+    else if (!command.command.startsWith(QLatin1Char('/')) || !isHost(address))
+        command.refusal = tr("URL格式错误。");
+    return command;
+}
+
+void CommandWorkbook::setResult(int row, const QString &result)
+{
+    constexpr qsizetype longest = 32'000; // a cell takes a little more
+    const QString text =
+        result.size() > longest ? result.left(longest) + tr("…（内容过长，已截断）") : result;
+    if (!m_excel.setCellText(row, ResultColumn, text))
+        qCWarning(logCgi).noquote() << "cannot write the result of row" << row << "-" << m_excel.errorText();
+}
+
+bool CommandWorkbook::keepResults()
+{
+    if (m_excel.save())
+        return true;
+    qCWarning(logCgi).noquote() << "cannot save the workbook:" << m_excel.errorText();
+    return keepElsewhere(QFileInfo(m_path).absolutePath()) ||
+           keepElsewhere(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+bool CommandWorkbook::keepElsewhere(const QString &folder)
+{
+    const QString base =
+        folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName() + QLatin1Char('_') + tr("结果");
+    const QString ending = QStringLiteral(".xlsx");
+    constexpr int mostFiles = 1000;
+    QString path = base + ending;
+    for (int number = 2; QFileInfo::exists(path) && number < mostFiles; ++number)
+        path = base + QString::number(number) + ending;
+    if (QFileInfo::exists(path) || !m_excel.saveAs(path))
+        return false;
+    m_path = path;
+    return true;
+}
+
+QString CommandWorkbook::text(int row, int column)
+{
+    return m_excel.cellText(row, column).value_or(QString());
+}

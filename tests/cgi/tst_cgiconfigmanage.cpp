@@ -1,0 +1,320 @@
+// Commands of workbooks, and the services for the page.
+#include "cgi/cgiconfigmanage.h"
+#include "cgi/commandworkbook.h"
+#include "sheets/qexcel.h"
+#include "tests/cgi/recordedtransport.h"
+#include "tests/sheets/workbookfiles.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QJSEngine>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+namespace {
+
+constexpr int resultColumn = 7;
+
+using Row = QStringList;
+
+const Row titles = {QStringLiteral("IP"), QStringLiteral("端口"), QStringLiteral("用户名"),
+                    QStringLiteral("密码"), QStringLiteral("CGI配置命令")};
+
+Row deviceRow(int number)
+{
+    return {QStringLiteral("10.0.%1.%2").arg(number / 250).arg(number % 250 + 1), QStringLiteral("37777"),
+            QStringLiteral("admin"), QStringLiteral("secret1"),
+            QStringLiteral("/cgi-bin/set?number=%1").arg(number)};
+}
+
+} // namespace
+
+class TestCGIConfigManage : public QObject
+{
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<RecordedTransport> m_transport;
+    std::unique_ptr<CGIConfigManage> m_manager;
+    QStringList m_logins;
+
+    [[nodiscard]] QString path() const { return m_folder->filePath("commands.xlsx"); }
+
+    /// Writes the workbook, with empty cells left out.
+    [[nodiscard]] bool writeWorkbook(const QList<Row> &rows) const
+    {
+        QExcel excel;
+        bool isWritten = excel.createWorkbook();
+        for (int row = 0; row < rows.size(); ++row) {
+            for (int column = 0; column < rows.at(row).size(); ++column) {
+                if (!rows.at(row).at(column).isEmpty())
+                    isWritten = isWritten && excel.setCellText(row + 1, column + 1, rows.at(row).at(column));
+            }
+        }
+        return isWritten && excel.saveAs(path());
+    }
+
+    [[nodiscard]] static QStringList results(const QString &workbook, int rows)
+    {
+        QExcel excel;
+        QStringList texts;
+        if (!excel.open(workbook))
+            return {excel.errorText()};
+        for (int row = 2; row < rows + 2; ++row)
+            texts.append(excel.cellText(row, resultColumn).value_or(QStringLiteral("none")));
+        return texts;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_transport = std::make_shared<RecordedTransport>();
+        m_logins.clear();
+        const auto checkLogin = [this](const QString &ipport, const QString &, const QString &password) {
+            m_logins.append(ipport);
+            return password == QLatin1String("wrong") ? 2 : 0;
+        };
+        m_manager =
+            std::make_unique<CGIConfigManage>(CgiSurroundings{.checkLogin = checkLogin,
+                                                              .transport = m_transport,
+                                                              .folder = m_folder->path(),
+                                                              .localTime = &QDateTime::currentDateTime});
+    }
+
+    void filesThatAreNoneAreRefused_data()
+    {
+        QTest::addColumn<QList<Row>>("rows");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no file") << QList<Row>() << "文件打开失败";
+        QTest::newRow("a title is missing") << QList<Row>{titles.mid(0, 4), deviceRow(1)} << "文件格式错误";
+        QTest::newRow("titles in another row") << QList<Row>{{}, titles, deviceRow(1)} << "文件格式错误";
+        QTest::newRow("titles in another order")
+            << QList<Row>{{"IP", "端口", "密码", "用户名", "CGI配置命令"}, deviceRow(1)} << "文件格式错误";
+    }
+
+    void filesThatAreNoneAreRefused()
+    {
+        QFETCH(QList<Row>, rows);
+        QVERIFY(rows.isEmpty() || writeWorkbook(rows));
+        QTEST(m_manager->batchCGIConfig(path()), "text");
+        QCOMPARE(m_transport->urls, QStringList());
+    }
+
+    void eachRowGetsItsResult()
+    {
+        QVERIFY(writeWorkbook({titles,
+                               {"10.0.0.1", "37777", "admin", "secret1", "/cgi-bin/a?b=c d", "0"},
+                               {},
+                               {"10.0.0.2", "80.0", "admin", "a:b", "/cgi-bin/b", "1"},
+                               {"10.0.0.3", "80", "admin", "wrong", "/cgi-bin/b"},
+                               {"10.0.0.4", "80", "admin", "secret1", "cgi-bin/b"},
+                               {"10.0.0.5", "80", "admin", "secret1", ""},
+                               {"10.0.0.6@example", "80", "admin", "secret1", "/cgi-bin/b"},
+                               {"", "80", "admin", "secret1", "/cgi-bin/b"},
+                               {"", "", "admin", "secret1", ""},
+                               {"[fe80::1]", "37777", "管理员", "", "/cgi-bin/东"}}));
+        m_transport->answer = [](const QByteArray &url) {
+            return "answer of " + url;
+        };
+        QSignalSpy progress(m_manager.get(), &CGIConfigManage::signalBatchProgress);
+        const QString text = m_manager->batchCGIConfig(QUrl::fromLocalFile(path()).toString());
+        QCOMPARE(text,
+                 "执行完成：成功3行，失败5行。\n执行结果已保存到文件：" + QDir::toNativeSeparators(path()));
+        const QStringList expected = {"answer of http://10.0.0.1/cgi-bin/a?b=c%20d",
+                                      "",
+                                      "answer of https://10.0.0.2/cgi-bin/b",
+                                      "Error:账号或密码错误。",
+                                      "Error:URL格式错误。",
+                                      "Error:请填写CGI命令的具体内容。",
+                                      "Error:URL格式错误。",
+                                      "Error:URL格式错误。",
+                                      "",
+                                      "answer of http://[fe80::1]/cgi-bin/%E4%B8%9C"};
+        QCOMPARE(results(path(), 10), expected);
+        QCOMPARE(m_logins, QStringList({"10.0.0.1:37777", "10.0.0.2:80", "10.0.0.3:80", "[fe80::1]:37777"}));
+        QCOMPARE(m_transport->credentials, QStringList({"admin:secret1", "admin:a:b", "管理员:"}));
+        QCOMPARE(progress.size(), 8);
+        QCOMPARE(progress.at(1), QVariantList({2, 8, "/cgi-bin/b"}));
+    }
+
+    /// Cells as a spreadsheet program stores them, not as this one does.
+    void numbersAndFormulasAreRead()
+    {
+        QByteArray header;
+        for (int column = 0; column < titles.size(); ++column) {
+            header += "<c r=\"" + QByteArray(1, static_cast<char>('A' + column)) +
+                      "1\" t=\"inlineStr\"><is><t>" + titles.at(column).toUtf8() + "</t></is></c>";
+        }
+        const QByteArray rows =
+            "<row r=\"1\">" + header +
+            "</row><row r=\"3\"><c r=\"A3\" t=\"str\"><f>\"10.0.0.\"&amp;7</f><v>10.0.0.7</v></c>"
+            "<c r=\"B3\"><v>37777</v></c><c r=\"C3\" t=\"inlineStr\"><is><t>admin</t></is></c>"
+            "<c r=\"D3\"><v>123456</v></c><c r=\"E3\" t=\"inlineStr\"><is><t>/cgi-bin/a</t></is></c>"
+            "<c r=\"F3\"><f>2-1</f><v>1</v></c></row>";
+        QVERIFY(writeArchive(path(), smallWorkbook(rows)));
+        QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功1行，失败0行。"));
+        QCOMPARE(m_logins, QStringList("10.0.0.7:37777"));
+        QCOMPARE(m_transport->urls, QStringList("https://10.0.0.7/cgi-bin/a"));
+        QCOMPARE(m_transport->credentials, QStringList("admin:123456"));
+        QCOMPARE(results(path(), 2), QStringList({"", "OK"}));
+    }
+
+    void aLongResultIsCutOff()
+    {
+        QVERIFY(writeWorkbook({titles, deviceRow(1)}));
+        m_transport->answer = [](const QByteArray &) {
+            return QByteArray(100'000, 'x');
+        };
+        QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功1行"));
+        QVERIFY(results(path(), 1).first().endsWith("xxx…（内容过长，已截断）"));
+    }
+
+    void theUserCanStopAndTheResultsStay()
+    {
+        QList<Row> rows = {titles};
+        for (int number = 0; number < 200; ++number)
+            rows.append(deviceRow(number));
+        QVERIFY(writeWorkbook(rows));
+        QString second;
+        // As a button does: what it says comes from the event loop.
+        QTimer::singleShot(0, this, [&] {
+            second = m_manager->batchCGIConfig(path());
+            m_manager->stopBatch();
+        });
+        const QString text = m_manager->batchCGIConfig(path());
+        QCOMPARE(second, "正在执行另一个文件中的CGI命令。");
+        QCOMPARE(text.section('\n', 0, 0), "已停止执行：成功1行，失败0行，未执行199行。");
+        QCOMPARE(results(path(), 3), QStringList({"OK", "", ""}));
+        // The next one is not stopped.
+        QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功200行"));
+    }
+
+    void resultsOfAFileThatCannotBeWrittenGoBesideIt()
+    {
+        QVERIFY(writeWorkbook({titles, deviceRow(1), deviceRow(2)}));
+        const QString other = m_folder->filePath("commands_结果2.xlsx");
+        QVERIFY(QFile::copy(path(), m_folder->filePath("commands_结果.xlsx"))); // not to be overwritten
+        m_transport->answer = [this](const QByteArray &) {
+            QFile::remove(path());
+            QDir().mkdir(path());
+            return QByteArray("OK");
+        };
+        const QString text = m_manager->batchCGIConfig(path());
+        QVERIFY2(text.endsWith("执行结果已另存为：" + QDir::toNativeSeparators(other)), qPrintable(text));
+        QCOMPARE(results(other, 2), QStringList({"OK", "OK"}));
+        QCOMPARE(results(m_folder->filePath("commands_结果.xlsx"), 2), QStringList({"", ""}));
+    }
+
+    void fiveThousandRows()
+    {
+        constexpr int count = 5000;
+        QList<Row> rows = {titles};
+        for (int number = 0; number < count; ++number)
+            rows.append(deviceRow(number));
+        QVERIFY(writeWorkbook(rows));
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功5000行，失败0行。"));
+        constexpr qint64 patience = 20000; // about half a second
+        QVERIFY(timer.elapsed() < patience);
+        QCOMPARE(results(path(), count), QStringList(count, "OK"));
+        QCOMPARE(m_transport->urls.last(), "http://10.0.19.250/cgi-bin/set?number=4999");
+    }
+
+    void sortsRows()
+    {
+        // As the factory hands them out, and as the scene does.
+        const QVariantList rows = {QJsonObject{{"name", "b"}, {"id", 1}},
+                                   QVariantMap{{"name", "a"}, {"id", 2}},
+                                   QJsonObject{{"name", "b"}, {"id", 3}}, QVariantMap{{"id", 4}}};
+        const auto ids = [](const QVariantList &list) {
+            QList<int> numbers;
+            for (const QVariant &row : list)
+                numbers.append(row.toMap().value("id").toInt());
+            return numbers;
+        };
+        QCOMPARE(ids(m_manager->sortList(rows, "name", Qt::AscendingOrder)), QList<int>({4, 2, 1, 3}));
+        QCOMPARE(ids(m_manager->sortList(rows, "name", Qt::DescendingOrder)), QList<int>({1, 3, 2, 4}));
+
+        QJSEngine engine;
+        QJSEngine::setObjectOwnership(m_manager.get(), QJSEngine::CppOwnership);
+        engine.globalObject().setProperty("manager", engine.newQObject(m_manager.get()));
+        const QJSValue first = engine.evaluate("manager.sortList([{a: '1'}, {a: '2'}], 'a', 1)[0].a");
+        QCOMPARE(first.toString(), "2");
+    }
+
+    void ordersAddressesAsNumbers_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<double>("number");
+        QTest::newRow("address") << "192.168.1.9" << 3232235785.0;
+        QTest::newRow("with port") << "0.0.1.2:37777" << 258.0;
+        QTest::newRow("largest") << "255.255.255.255" << 4294967295.0;
+        QTest::newRow("part too large") << "192.168.1.256" << 0.0;
+        QTest::newRow("three parts") << "192.168.1" << 0.0;
+        QTest::newRow("IPv6") << "[fe80::1]:37777" << 0.0;
+        QTest::newRow("nothing") << "" << 0.0;
+    }
+
+    void ordersAddressesAsNumbers()
+    {
+        QFETCH(QString, address);
+        QTEST(m_manager->addressNumber(address), "number");
+    }
+
+    void remembersCommands()
+    {
+        for (int number = 0; number < 25; ++number)
+            m_manager->rememberCommand(QStringLiteral("/cgi-bin/%1").arg(number));
+        m_manager->rememberCommand(" /cgi-bin/20 ");
+        m_manager->rememberCommand("");
+        m_manager->rememberCommand(QString(100'000, 'x'));
+        m_manager->setFavouriteCommand("/cgi-bin/东", true);
+        m_manager->setFavouriteCommand("/cgi-bin/b", true);
+        m_manager->setFavouriteCommand("/cgi-bin/东", true);
+        m_manager->setFavouriteCommand("/cgi-bin/b", false);
+
+        const CommandMemory next(m_folder->filePath("cgicommands.json"));
+        QCOMPARE(next.recent().size(), 20);
+        QCOMPARE(next.recent().mid(0, 3), QStringList({"/cgi-bin/20", "/cgi-bin/24", "/cgi-bin/23"}));
+        QCOMPARE(next.favourites(), QStringList("/cgi-bin/东"));
+        QCOMPARE(m_manager->recentCommands(), next.recent());
+        QCOMPARE(m_manager->favouriteCommands(), next.favourites());
+    }
+
+    void aMemoryThatIsNoneIsEmpty_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("cut off") << QByteArray("{\"recent\": [\"/a");
+        QTest::newRow("array") << QByteArray("[1, 2]");
+        QTest::newRow("other types") << QByteArray(
+            "{\"recent\": {\"a\": 1}, \"favourites\": [1, null, \"\"]}");
+    }
+
+    void aMemoryThatIsNoneIsEmpty()
+    {
+        QFETCH(QByteArray, text);
+        const QString place = m_folder->filePath("memory.json");
+        QFile file(place);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        file.close();
+        const CommandMemory memory(place);
+        QCOMPARE(memory.recent(), QStringList());
+        QCOMPARE(memory.favourites(), QStringList());
+    }
+
+    void copiesToTheClipboard()
+    {
+        m_manager->copyText("结果");
+        QCOMPARE(QGuiApplication::clipboard()->text(), "结果");
+    }
+};
+
+QTEST_MAIN(TestCGIConfigManage)
+#include "tst_cgiconfigmanage.moc"
