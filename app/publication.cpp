@@ -3,6 +3,7 @@
 #include "app/filedialogs.h"
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
+#include "cgi/cgiconfigmanage.h"
 #include "device/devicefactory.h"
 #include "media/videoitem.h"
 #include "qml/configtools/datetimevalidator.h"
@@ -20,6 +21,7 @@ void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
+    context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());

@@ -6,6 +6,7 @@
 #include "app/messagebox.h"
 #include "app/publication.h"
 #include "app/translationfile.h"
+#include "cgi/cgiconfigmanage.h"
 #include "device/devicefactory.h"
 #include "device/devicehik.h"
 #include "device/deviceol.h"
@@ -57,6 +58,7 @@ Shell::~Shell()
         qDeleteAll(m_engine->rootObjects());
     AudioOutput::letGo();
     CLocalConfig::deleteInstance();
+    CGIConfigManage::deleteInstance(); // asks the factory
     CDeviceFactory::deleteInstance();
     VideoItem::registerLibraries({});
 }

@@ -21,8 +21,8 @@ public:
 
     explicit Shell(CommandLine commandLine);
 
-    /// Closes the scene's windows, deletes the local configuration and then the device factory; the engine
-    /// and the translators follow.
+    /// Closes the scene's windows, deletes the local configuration, the object for commands and then the
+    /// device factory; the engine and the translators follow.
     ~Shell();
 
     Shell(const Shell &) = delete;

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
 #include <QUrl>
 
 namespace {
@@ -307,6 +308,35 @@ private Q_SLOTS:
         const CommandMemory memory(place);
         QCOMPARE(memory.recent(), QStringList());
         QCOMPARE(memory.favourites(), QStringList());
+    }
+
+    /// The template of each language is a workbook of commands there, under the name that the page opens.
+    void templatesCanBeUsed_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Chinese") << "zh_CN"
+                                 << "批量操作CGI模板.xlsx";
+        QTest::newRow("English") << "en_US"
+                                 << "CGI batch template.xlsx";
+    }
+
+    void templatesCanBeUsed()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, name);
+        const QDir program(CONFIGTOOLS_PROGRAM_DIRECTORY);
+        QTranslator translator;
+        QVERIFY(translator.load(program.filePath("language/" + language + ".qm")));
+        QCoreApplication::installTranslator(&translator);
+        QCOMPARE(m_manager->templateFile(), m_folder->filePath("template/" + name));
+        CommandWorkbook workbook;
+        QCOMPARE(workbook.open(program.filePath("template/" + name)), "");
+        QCOMPARE(workbook.commands().size(), 1);
+        QCOMPARE(workbook.commands().front().refusal, "");
+        QExcel sheets;
+        QVERIFY(sheets.open(program.filePath("template/" + name)) && sheets.selectSheet(2));
+        QVERIFY(sheets.usedRowCount() > 8); // a line for each column
     }
 
     void copiesToTheClipboard()
