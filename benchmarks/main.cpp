@@ -11,6 +11,7 @@ int main(int argc, char *argv[])
     QList<Figure> figures = measureDeviceLists();
     figures.append(measureDeviceFiles());
     figures.append(measureEncodePage());
+    figures.append(measureCgiRequests());
     figures.append(measureStart());
     figures.append(measureMemory());
     figures.append(measureDevicePage());

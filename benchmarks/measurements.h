@@ -9,6 +9,9 @@
 /// Device lists as files, workbooks against another library for them.
 [[nodiscard]] QList<Figure> measureDeviceFiles();
 
+/// Commands to a web server against another client of the same library.
+[[nodiscard]] Figure measureCgiRequests();
+
 /// Start of the program against an empty window of the toolkit.
 [[nodiscard]] Figure measureStart();
 
