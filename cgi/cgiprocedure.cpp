@@ -21,14 +21,14 @@ constexpr long credentialsWanted = 401;
 
 HttpOutcome performNoting(HttpConversation &conversation, const HttpLimits &limits)
 {
-    const HttpOutcome outcome = conversation.perform(limits);
+    HttpOutcome outcome = conversation.perform(limits);
     qCDebug(logCgi).nospace() << "Response Code: " << outcome.status;
     return outcome;
 }
 
 void noteResult(const QString &text)
 {
-    constexpr qsizetype longest = 16 * 1024; // an answer may have megabytes
+    constexpr qsizetype longest = 16LL * 1024; // an answer may have megabytes
     qCDebug(logCgi).noquote().nospace() << "Response Body: " << text.left(longest);
 }
 

@@ -22,7 +22,7 @@ QStringList commandsOf(const QJsonValue &value, qsizetype most)
 {
     QStringList commands;
     const QJsonArray list = value.toArray();
-    for (const QJsonValue &item : list) {
+    for (const auto &item : list) {
         const QString command = item.toString();
         if (commands.size() < most && canBeKept(command) && !commands.contains(command))
             commands.append(command);

@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr qsizetype keptHeaderText = 64 * 1024;
+constexpr qsizetype keptHeaderText = 64LL * 1024;
 /// Nobody sends as much; a device that does would keep an exchange without a time limit up for ever.
-constexpr qsizetype longestHeaderText = 256 * 1024;
+constexpr qsizetype longestHeaderText = 256LL * 1024;
 
 /// The names of machines that are asked without the proxy: a tunnel to a device ends on this one.
 constexpr const char *localNames = "127.0.0.1,localhost,::1";
