@@ -79,7 +79,7 @@ bool LiveStreams::close(std::int64_t handle)
             return false;
         closed.insert(m_entries.extract(found));
     }
-    close(std::move(closed));
+    close(closed);
     return true;
 }
 
@@ -94,7 +94,7 @@ void LiveStreams::closeAllOf(std::int64_t loginHandle)
                 closed.insert(m_entries.extract(here));
         }
     }
-    close(std::move(closed));
+    close(closed);
 }
 
 void LiveStreams::closeAll()
@@ -104,13 +104,14 @@ void LiveStreams::closeAll()
         const std::lock_guard lock(m_mutex);
         closed.swap(m_entries);
     }
-    close(std::move(closed));
+    close(closed);
 }
 
-/// Without the lock: it waits for handlers and threads.
-void LiveStreams::close(Entries entries)
+/// Without the lock: it waits for handlers. So do its callers, whose entries may be the last owners of a
+/// source and wait for its thread.
+void LiveStreams::close(const Entries &entries)
 {
-    for (auto &[handle, entry] : entries) {
+    for (const auto &[handle, entry] : entries) {
         entry.stream->end();
         entry.stream->setHandler(nullptr, nullptr);
         entry.source->remove(entry.stream);

@@ -48,7 +48,7 @@ private:
 
     [[nodiscard]] std::optional<Entry> entry(std::int64_t handle) const;
     [[nodiscard]] std::shared_ptr<LiveSource> sourceLocked(const LiveStreamOrder &order);
-    static void close(Entries entries);
+    static void close(const Entries &entries);
 
     DemoSite &m_site;
     const DemoSessions &m_sessions;

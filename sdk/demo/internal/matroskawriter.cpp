@@ -7,8 +7,9 @@ namespace sdk::demo {
 namespace {
 
 constexpr int bufferSize = 16384;
+constexpr AVRational microsecond = {1, 1000000};
 
-}
+} // namespace
 
 std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const AVCodecContext &picture,
                                                      const AVCodecContext *sound)
@@ -76,12 +77,12 @@ bool MatroskaWriter::write(const AVPacket &packet)
     if (!m_hasBegun && (packet.stream_index != pictureTrack || (packet.flags & AV_PKT_FLAG_KEY) == 0))
         return true;
     if (!m_hasBegun)
-        m_begin = av_rescale_q(packet.pts, packet.time_base, AV_TIME_BASE_Q);
+        m_begin = av_rescale_q(packet.pts, packet.time_base, microsecond);
     m_hasBegun = true;
     AvPointer<AVPacket> shifted(av_packet_clone(&packet));
     if (!shifted)
         return false;
-    const std::int64_t begin = av_rescale_q(m_begin, AV_TIME_BASE_Q, packet.time_base);
+    const std::int64_t begin = av_rescale_q(m_begin, microsecond, packet.time_base);
     if (packet.pts < begin)
         return true;
     shifted->pts -= begin;

@@ -4,6 +4,7 @@
 #include "sdk/demo/internal/avpointers.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace sdk::demo {
 
@@ -36,7 +37,7 @@ private:
     std::vector<std::uint8_t> m_bytes;
     AVFormatContext *m_container = nullptr;
     bool m_hasBegun = false;
-    std::int64_t m_begin = 0; // time of the first picture, in units of AV_TIME_BASE_Q
+    std::int64_t m_begin = 0; // time of the first picture, in microseconds
 };
 
 } // namespace sdk::demo

@@ -240,10 +240,11 @@ TestCard::Piece TestCard::hand(std::int64_t time) const
 TestCard::Piece TestCard::slider(std::int64_t time) const
 {
     constexpr int wayTime = 4000;
+    constexpr std::int64_t bothWays = 8000;
     const QRect area = track();
     Piece piece = {area.topLeft(), QImage(area.size(), QImage::Format_RGB32)};
     piece.picture.fill(paper);
-    const auto passed = static_cast<int>(time % (2 * wayTime));
+    const auto passed = static_cast<int>(time % bothWays);
     const double way = static_cast<double>(passed < wayTime ? passed : 2 * wayTime - passed) / wayTime;
     const double radius = area.height() / 2.0;
     QPainter painter(&piece.picture);
