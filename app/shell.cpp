@@ -114,6 +114,7 @@ bool Shell::chooseLibraries()
     }
     m_libraries = site->libraries();
     m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
+    CGIConfigManage::getinstance()->setProxy(site->httpProxy());
     return true;
 }
 

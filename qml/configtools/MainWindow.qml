@@ -15,7 +15,8 @@ T.ApplicationWindow {
 
     readonly property alias count: search.count
     readonly property alias searching: search.running
-    readonly property bool working: modifyIpPage.work !== null  // devices are worked on one after another
+    // Devices are worked on one after another.
+    readonly property bool working: modifyIpPage.work !== null || (cgiConfigPage.item?.work ?? null) !== null
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
@@ -124,6 +125,8 @@ T.ApplicationWindow {
                 systemConfigPage.item?.focusSearch();
             else if (window.currentTab === 2)
                 deviceConfigPage.item?.focusSearch();
+            else if (window.currentTab === 4)
+                cgiConfigPage.item?.focusSearch();
         }
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
@@ -207,7 +210,20 @@ T.ApplicationWindow {
                 }
                 // qmllint enable unqualified
             }
-            OVOnDemand { visible: false; sourceComponent: Component { PageCGIConfig {} } }
+            OVOnDemand {
+                id: cgiConfigPage
+                visible: false
+                // qmllint disable unqualified
+                sourceComponent: Component {
+                    PageCGIConfig {
+                        libraryInstalled: window.libraryInstalled
+                        searching: window.searching
+                        onSaid: (message, kind) => popups.say(message, kind)
+                        onSearchRequested: window.requestSearch()
+                    }
+                }
+                // qmllint enable unqualified
+            }
         }
     }
 

@@ -1,10 +1,182 @@
-// Announces the page of this tab until its work arrives.
+// Commands to devices over their web service: to one, to all ticked ones, or from a workbook.
 import QtQuick
+import QtQuick.Layouts
 import configtools
 
-OVComingPage {
+FocusScope {
+    id: page
+
+    required property bool searching
+    required property bool libraryInstalled
+    signal searchRequested
+    signal said(string message, int kind)
+
+    // qmllint disable unqualified
+    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var localConfig: LocalConfigApi
+    readonly property var cgiManager: CGIConfigManageApi
+    readonly property var fileDialogs: FileDialogsApi
+    // qmllint enable unqualified
+    readonly property var work: sender.running ? sender : workbook.running ? workbook : null
+
+    property bool outdated: false  // the table lacks what was found since
+
+    function focusSearch() {
+        searchField.forceActiveFocus(Qt.ShortcutFocusReason);
+        searchField.selectAll();
+    }
+
+    function refresh() {
+        outdated = !visible;
+        if (!outdated)
+            devices.refresh();
+    }
+
+    function askForAll() {
+        if (devices.checkedCount === 0)
+            said(qsTr("请选择一台设备。"), OVToast.Error);
+        else
+            batchWindow.wanted().ask(devices.checkedCount);
+    }
+
     objectName: "pageCGIConfig"
-    iconName: "cgi"
-    title: qsTr("CGI协议")
-    hint: qsTr("在此向多台设备批量发送CGI命令，并逐台查看设备的回应。") + "\n" + qsTr("常用命令可以保存为模板。")
+    onVisibleChanged: if (visible && outdated) refresh()
+
+    DeviceTableModel {
+        id: devices
+        deviceFactory: page.deviceFactory
+        searchText: searchField.text.trim()
+    }
+    Connections {
+        target: page.deviceFactory
+
+        function onSignalAddDeviceToTable() {
+            page.refresh();
+        }
+        function onSignalAddSingleDeviceToTable() {
+            page.refresh();
+        }
+        function onSignalSearchDone() {
+            page.refresh();
+        }
+    }
+    CgiCommands {
+        id: commands
+        cgiManager: page.cgiManager
+    }
+    CgiSender {
+        id: sender
+        cgiManager: page.cgiManager
+        commands: commands
+        deviceFactory: page.deviceFactory
+        deviceTable: devices
+        localConfig: page.localConfig
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+    CgiWorkbook {
+        id: workbook
+        cgiManager: page.cgiManager
+        fileDialogs: page.fileDialogs
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: batchWindow
+        visible: false
+        sourceComponent: BatchCGIWindow {
+            commands: commands
+            sender: sender
+            onConfirmed: command => sender.sendToAll(devices.checkedRows(), command)
+            onRefused: message => page.said(message, OVToast.Error)
+        }
+    }
+    // qmllint enable unqualified
+
+    RowLayout {
+        id: toolBar
+        x: Theme.pageMargin
+        width: parent.width - 2 * x
+        height: Theme.toolBarHeight
+        spacing: Theme.pageMargin
+
+        OVActionRow {
+            OVButton {
+                kind: OVButton.Primary
+                objectName: "batchCgiButton"
+                text: qsTr("批量配置CGI")
+                toolTip: qsTr("向勾选的设备依次发送同一条命令")
+                onClicked: page.askForAll()
+            }
+            OVButton {
+                objectName: "workbookCgiButton"
+                text: qsTr("批量表单操作")
+                toolTip: qsTr("执行表格文件中的命令，并把结果写回文件")
+                onClicked: workbook.choose()
+            }
+            OVButton {
+                objectName: "cgiTemplateButton"
+                text: qsTr("打开模板")
+                toolTip: qsTr("打开命令表格的模板文件")
+                onClicked: workbook.openTemplate()
+            }
+        }
+        Item {
+            Layout.fillWidth: true
+        }
+        OVTextField {
+            id: searchField
+            Layout.maximumWidth: Theme.searchFieldWidth
+            Layout.minimumWidth: Theme.searchFieldMinimum
+            Layout.preferredWidth: Theme.searchFieldWidth
+            Layout.fillWidth: true
+            clearable: true
+            iconName: "search"
+            objectName: "cgiSearchField"
+            placeholderText: qsTr("搜索...")
+        }
+    }
+    CgiTable {
+        x: Theme.pageMargin
+        y: toolBar.height
+        width: parent.width - 2 * x
+        height: foot.y - y
+        checkState: devices.checkState
+        commands: commands
+        deviceFactory: page.deviceFactory
+        focus: true
+        model: devices
+        objectName: "cgiTable"
+        sortKey: devices.sortKey
+        sortOrder: devices.sortOrder
+        onAllToggled: checked => devices.setAllChecked(checked)
+        onAnswerCopyRequested: text => {
+            page.cgiManager.copyText(text);
+            page.said(qsTr("复制成功"), OVToast.Success);
+        }
+        onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
+        onSendRequested: row => sender.send(row)
+        onSortRequested: key => devices.toggleSort(key)
+
+        ModifyIPEmptyState {
+            anchors.fill: parent
+            hiddenCount: devices.totalCount
+            libraryInstalled: page.libraryInstalled
+            searching: page.searching
+            searchesNothing: false
+            onFiltersCleared: searchField.text = ""
+            onSearchRequested: page.searchRequested()
+        }
+    }
+    OVFootBar {
+        id: foot
+        x: Theme.pageMargin
+        y: parent.height - height
+        width: parent.width - 2 * x
+        progress: page.work?.progress ?? -1
+        running: page.work !== null
+        runningDevice: page.work?.current ?? ""
+        runningText: page.work?.runningText ?? ""
+        //: Follows a number at the foot of a page, as in "3 devices selected".
+        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+    }
 }

@@ -1,0 +1,82 @@
+// Sends commands to devices, one after another, and keeps each answer in the device's row.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    required property var localConfig
+    required property var cgiManager
+    required property var deviceTable  // a DeviceTableModel
+    required property CgiCommands commands
+    readonly property alias running: batch.running
+    readonly property alias progress: batch.progress
+    readonly property alias current: batch.current
+    readonly property string runningText: batch.total > 1 ? qsTr("正在发送CGI命令…") + qsTr("（按Esc停止）")
+                                                           : qsTr("正在发送CGI命令…")
+    signal said(string message, int kind)
+
+    readonly property string prefix: "/cgi-bin/"
+
+    /// What is wrong with a command, "" for nothing.
+    function faultOf(command) {
+        if (command === "")
+            return qsTr("请填写CGI命令的具体内容。");
+        return command.startsWith(prefix) ? "" : qsTr("URL格式错误。");
+    }
+
+    /// A device behind a tunnel has its web page on a port of its own.
+    function addressOf(ipport, command) {
+        const [ip, port] = ipport.split(":");
+        const webPort = ip === "127.0.0.1" ? deviceFactory.getP2PWebPort(Number(port))
+                                           : deviceFactory.getDeviceInfo("dh", ipport).httpport;
+        return "http://" + ip + ":" + (webPort ?? 80) + command;
+    }
+
+    function sendOne(row, command) {
+        const answer = cgiManager.singleCGIConfig(addressOf(row.ipport, command),
+                                                  localConfig.getSearchConfigUsrename(),
+                                                  localConfig.getSearchConfigPass(), row.ipport);
+        deviceFactory.updataDeviceInfo("dh", "url", command, row.identity, row.ipport);
+        deviceFactory.updataDeviceInfo("dh", "result", answer, row.identity, row.ipport);
+        deviceTable.refreshDevice(row.identity);
+        return !answer.startsWith("Error:");
+    }
+
+    /// Sends the command of one row.
+    function send(row) {
+        const values = deviceTable.get(row);
+        const command = (deviceFactory.getDeviceInfo("dh", values.ipport).url ?? "").trim();
+        const fault = faultOf(command);
+        if (fault !== "") {
+            said(fault, OVToast.Error);
+            return;
+        }
+        commands.remember(command);
+        batch.start(1, () => sendOne(values, command), () => values.ipport, () => {});
+    }
+
+    /// Sends one command to each of these rows.
+    function sendToAll(rows, command) {
+        let failed = 0;
+        commands.remember(command);
+        batch.start(rows.length, i => {
+            if (!sendOne(rows[i], command))
+                failed += 1;
+        }, i => rows[i].ipport, done => {
+            if (done < rows.length)
+                said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
+            else
+                said(qsTr("批量配置CGI命令已完成"), OVToast.Success);
+            if (failed > 0)
+                said(qsTr("%n 台设备未成功，请查看结果", "", failed), OVToast.Error);
+        });
+    }
+
+    visible: false
+
+    OVBatch {
+        id: batch
+    }
+}
