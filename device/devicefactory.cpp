@@ -293,11 +293,6 @@ QString CDeviceFactory::getErrorName(int error)
     return resultName(error);
 }
 
-bool CDeviceFactory::isDeviceAway(int error) const
-{
-    return ::isDeviceAway(static_cast<std::uint32_t>(error));
-}
-
 int CDeviceFactory::findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
                                        const QString &password)
 {

@@ -88,9 +88,6 @@ public:
     Q_INVOKABLE void openTemplate();
     Q_INVOKABLE QVariantList importUpgradeDocument(const QString &family, const QString &file);
     Q_INVOKABLE QString getErrorName(int error);
-    /// Whether a result of signalGetDeviceCapRet() says that the device did not answer, and not that it
-    /// refused.
-    Q_INVOKABLE [[nodiscard]] bool isDeviceAway(int error) const;
     Q_INVOKABLE int findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
                                        const QString &password);
     Q_INVOKABLE bool updataDeviceInfo(const QString &family, const QString &key, const QVariant &newValue,

@@ -1,6 +1,7 @@
 #include "device/encodeform.h"
 
 #include "device/devicefactory.h"
+#include "device/loginresult.h"
 
 #include <algorithm>
 
@@ -73,6 +74,11 @@ void EncodeForm::read()
     m_isReading = true;
     fetch();
     m_isReading = false;
+}
+
+bool EncodeForm::isDeviceAway(int result)
+{
+    return ::isDeviceAway(static_cast<std::uint32_t>(result));
 }
 
 void EncodeForm::takeSaved()

@@ -61,6 +61,10 @@ public:
     /// Passes a changed value on and shows what came of it.
     Q_INVOKABLE void set(const QString &key, const QVariant &value);
 
+    /// Whether a result of a factory's signalGetDeviceCapRet() says that the device did not answer, and not
+    /// that it refused.
+    Q_INVOKABLE [[nodiscard]] static bool isDeviceAway(int result);
+
 Q_SIGNALS:
     void deviceFactoryChanged();
     void changed();

@@ -1,5 +1,6 @@
 // The camera image page on a simulated site: every change is one request of its own.
 #include "device/dh/camerachanges.h"
+#include "device/encodeform.h"
 #include "sdk/neterror.h"
 #include "tests/device/dh/configsite.h"
 
@@ -311,7 +312,7 @@ private Q_SLOTS:
         read();
         QCOMPARE(result.size(), 3);
         for (const QList<QVariant> &told : result)
-            QVERIFY(m_site->factory->isDeviceAway(told.first().toInt()));
+            QVERIFY(EncodeForm::isDeviceAway(told.first().toInt()));
         QVERIFY(supported().isEmpty());
     }
 
@@ -325,7 +326,7 @@ private Q_SLOTS:
         m_site->factory->getVideoIn("dh");
         QCOMPARE(m_site->asked("NetGetItem").size(), 1); // every further one would wait
         QCOMPARE(result.size(), 1);
-        QVERIFY(m_site->factory->isDeviceAway(result.first().first().toInt()));
+        QVERIFY(EncodeForm::isDeviceAway(result.first().first().toInt()));
         QVERIFY(supported().isEmpty());
         m_site->set("stable", true); // not over what is not known
         QVERIFY(m_site->asked("NetSetItem").isEmpty());

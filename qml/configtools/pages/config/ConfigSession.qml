@@ -157,7 +157,7 @@ Item {
                 root.said(qsTr("获取设备配置失败"), OVToast.Error, root.shortStay);
             else if (result === encodeWork.abilitiesUnknown)
                 root.said(qsTr("获取设备能力失败"), OVToast.Error, root.shortStay);
-            else if (root.deviceFactory.isDeviceAway(result))
+            else if (encodeWork.form.isDeviceAway(result))
                 root.lose();
             else if (root.lost && result === 0)
                 root.regain();
