@@ -321,7 +321,7 @@ void walkLostLogin(Driver &driver, sdk::demo::DemoSite &site)
     choose(driver, last);
     pick(driver, u"mainControlChoice"_s, 0);
     site.setFault(mac, noAnswer);
-    pick(driver, u"subResolutionChoice"_s, 2);
+    pick(driver, u"subResolutionChoice"_s, 1);
     driver.report(u"config-lost-changes"_s, driver.text(u"encodeNotice"_s));
     driver.check(driver.find(u"mainControlChoice"_s) != nullptr, u"the changes are still in view"_s);
     site.clearFault(mac, sdk::demo::Fault::NoAnswer);
