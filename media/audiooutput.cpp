@@ -53,14 +53,30 @@ void AudioOutput::push(const std::uint8_t *data, std::int32_t size, const std::f
 
 void AudioOutput::drain()
 {
+    look();
     const QMutexLocker lock(&m_mutex);
-    if (m_sink && m_device && m_fill > 0) {
+    if (m_device && m_fill > 0) {
         if (m_sink->bytesFree() < m_fill)
             qCDebug(logMedia)
                 << "RealplayManager::onSlotAudioFrameUpdate m_audioSink->bytesFree() < m_audioBufferCurSize";
         m_device->write(reinterpret_cast<const char *>(m_buffer.get()), m_fill);
     }
     m_fill = 0;
+}
+
+void AudioOutput::look()
+{
+    // The server has ended the stream, with its output. The toolkit notices only by writing to it, and locks
+    // up the whole process then, for good.
+    if (m_sink && m_sink->bytesFree() < 0) {
+        close();
+        m_output.clear();
+    }
+    if (!m_lastLook.isValid() || !m_lastLook.hasExpired(lookInterval))
+        return;
+    m_lastLook.start();
+    if (QMediaDevices::defaultAudioOutput().id() != m_output)
+        reopen();
 }
 
 void AudioOutput::reopen()
@@ -75,6 +91,8 @@ void AudioOutput::reopen()
     format.setSampleRate(m_sampleRate);
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
     close();
+    m_output = device.id();
+    m_lastLook.start();
     // The outputs may change before the first sound has told its rate.
     if (device.isNull() || format.sampleRate() <= 0 || format.sampleRate() > highestSampleRate)
         return;

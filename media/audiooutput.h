@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QElapsedTimer>
 #include <QMutex>
 
 #include <atomic>
@@ -35,7 +37,9 @@ public:
     /// `pushed` in both cases, with the buffer locked. On the decoder's thread.
     void push(const std::uint8_t *data, std::int32_t size, const std::function<void()> &pushed);
 
-    /// Writes what was gathered to the output, which loses what it has no room for.
+    /// Writes what was gathered to the output, which loses what it has no room for. Opens the output anew
+    /// when it has gone, or another one is the default: not every system tells that (the sound library of
+    /// Debian 12 does not), so it is looked at once a second.
     void drain();
 
     /// Plays from now on with the current sample rate on the current default output, if there is one.
@@ -51,7 +55,10 @@ public:
     static void letGo();
 
 private:
+    static constexpr int lookInterval = 1000; // milliseconds
+
     void close();
+    void look();
 
     QObject *const m_owner;
     std::unique_ptr<QMediaDevices> m_devices;
@@ -61,4 +68,6 @@ private:
     std::atomic<std::int32_t> m_sampleRate = 0;
     std::unique_ptr<QAudioSink> m_sink;
     QIODevice *m_device = nullptr; ///< the sink's
+    QByteArray m_output;           ///< identity of the output that was opened last; empty for none
+    QElapsedTimer m_lastLook;
 };
