@@ -85,6 +85,8 @@ void AudioOutput::reopen()
         const QMutexLocker lock(&m_mutex);
         m_fill = 0;
     }
+    if (!m_devices)
+        return;
     QAudioFormat format;
     format.setSampleFormat(QAudioFormat::Int16);
     format.setChannelCount(1);

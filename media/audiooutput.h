@@ -42,7 +42,8 @@ public:
     /// Debian 12 does not), so it is looked at once a second.
     void drain();
 
-    /// Plays from now on with the current sample rate on the current default output, if there is one.
+    /// Plays from now on with the current sample rate on the current default output, if there is one. Does
+    /// nothing where outputs are not watched.
     void reopen();
 
     [[nodiscard]] bool isOpen() const { return m_sink != nullptr; }

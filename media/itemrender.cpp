@@ -15,9 +15,10 @@ void ItemRender::synchronize(QQuickFramebufferObject *item)
         m_hasPicture = picture.isWhole();
         const QSize size(picture.width, picture.height);
         if (m_hasPicture && (picture.isSizeStale || m_painter.pictureSize() != size)) {
-            m_hasPicture = m_painter.setPictureSize(size);
+            m_painter.setPictureSize(size);
             m_shownNumber = 0;
         }
+        m_hasPicture = m_hasPicture && m_painter.hasTextures();
         picture.isSizeStale = false;
         if (m_hasPicture && picture.number != m_shownNumber) {
             m_painter.upload(picture);

@@ -85,18 +85,17 @@ void PicturePainter::buildSquare()
     m_square.release();
 }
 
-bool PicturePainter::setPictureSize(const QSize &size)
+void PicturePainter::setPictureSize(const QSize &size)
 {
     begin();
     deleteTextures();
-    m_size = {};
+    m_size = size;
     GLint longestSide = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &longestSide);
     if (size.width() > longestSide || size.height() > longestSide) {
         qCWarning(logMedia) << "The graphics driver cannot show pictures of" << size;
-        return false;
+        return;
     }
-    m_size = size;
     const QSize chroma((size.width() + 1) / 2, (size.height() + 1) / 2);
     const std::array<QSize, 3> planes = {size, chroma, chroma};
     glGenTextures(static_cast<GLsizei>(m_textures.size()), m_textures.data());
@@ -109,7 +108,6 @@ bool PicturePainter::setPictureSize(const QSize &size)
         glTexImage2D(GL_TEXTURE_2D, 0, m_internalFormat, planes.at(plane).width(), planes.at(plane).height(),
                      0, m_format, GL_UNSIGNED_BYTE, nullptr);
     }
-    return true;
 }
 
 void PicturePainter::upload(const DecodedPicture &picture)
@@ -177,7 +175,7 @@ void PicturePainter::draw(const ViewMatrices &matrices)
 
 void PicturePainter::deleteTextures()
 {
-    if (m_textures.front() != 0)
+    if (hasTextures())
         glDeleteTextures(static_cast<GLsizei>(m_textures.size()), m_textures.data());
     m_textures = {};
 }

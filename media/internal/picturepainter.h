@@ -22,9 +22,10 @@ public:
     PicturePainter(const PicturePainter &) = delete;
     PicturePainter &operator=(const PicturePainter &) = delete;
 
-    /// Makes the textures anew. Returns false when the graphics driver has none of that size.
-    bool setPictureSize(const QSize &size);
+    /// Makes the textures anew. There are none then when the graphics driver has none of that size.
+    void setPictureSize(const QSize &size);
     [[nodiscard]] QSize pictureSize() const { return m_size; }
+    [[nodiscard]] bool hasTextures() const { return m_textures.front() != 0; }
 
     /// Takes a picture of that size.
     void upload(const DecodedPicture &picture);

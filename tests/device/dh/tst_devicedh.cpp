@@ -182,11 +182,19 @@ private Q_SLOTS:
     void theSessionIsReplacedByTheNext()
     {
         QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
+        const auto handle = [this] {
+            return m_factory->getConfigData("dh", "loginHandle");
+        };
+        QCOMPARE(handle(), QVariant(qint64(0)));
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1"), 0);
+        const QVariant first = handle();
+        QVERIFY(first.toLongLong() > 0);
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "wrong"), 2);
+        QCOMPARE(handle(), first);
         QCOMPARE(m_site->requests().of("NetLogout").size(), 0); // the session that was there stays
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "secret1"), 0);
         QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QVERIFY(handle().toLongLong() > 0 && handle() != first);
         QCOMPARE(result.size(), 3);
         m_factory.reset();
         QCOMPARE(m_site->requests().of("NetLogout").size(), 2);
