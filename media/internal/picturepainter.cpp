@@ -149,9 +149,10 @@ void PicturePainter::draw(const ViewMatrices &matrices)
     m_program.setUniformValue("u_projectMatrix", matrices.project);
     m_program.setUniformValue("pixFmt", static_cast<int>(m_colour));
     // Of an odd number of pixels, the last sample of U and V belongs to one instead of two.
-    m_program.setUniformValue("chromaPart",
-                              static_cast<float>(m_size.width()) / ((m_size.width() + 1) / 2 * 2),
-                              static_cast<float>(m_size.height()) / ((m_size.height() + 1) / 2 * 2));
+    const auto coveredPart = [](int pixels) {
+        return static_cast<float>(pixels) / static_cast<float>(pixels + pixels % 2);
+    };
+    m_program.setUniformValue("chromaPart", coveredPart(m_size.width()), coveredPart(m_size.height()));
     constexpr std::array<const char *, 3> samplers = {"tex_y", "tex_u", "tex_v"};
     for (std::size_t plane = 0; plane < samplers.size(); ++plane) {
         glActiveTexture(GL_TEXTURE0 + static_cast<unsigned>(plane));
