@@ -124,7 +124,8 @@ bool HttpConnection::receiveMore(Deadline deadline)
             continue;
         if (ready <= 0)
             return false;
-        std::array<char, 16 * 1024> piece;
+        constexpr std::size_t pieceSize = std::size_t{16} * 1024;
+        std::array<char, pieceSize> piece;
         const ssize_t count = recv(m_socket, piece.data(), piece.size(), 0);
         if (count < 0 && errno == EINTR)
             continue;
@@ -135,7 +136,7 @@ bool HttpConnection::receiveMore(Deadline deadline)
     }
 }
 
-bool HttpConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection)
+bool HttpConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const
 {
     if (reply.lateness > 0ms && !m_responder.clock().wait(reply.lateness, m_stop))
         return false;
@@ -144,7 +145,7 @@ bool HttpConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsC
     return !hasBody || (sendBody(reply) && !reply.isBroken && !reply.hasNoHead);
 }
 
-bool HttpConnection::sendBody(const HttpReply &reply)
+bool HttpConnection::sendBody(const HttpReply &reply) const
 {
     const qint64 end = reply.isBroken ? reply.fullLength() / 2 : reply.fullLength();
     const QByteArrayView block = reply.body;
@@ -163,7 +164,7 @@ bool HttpConnection::sendBody(const HttpReply &reply)
     return true;
 }
 
-bool HttpConnection::send(QByteArrayView bytes)
+bool HttpConnection::send(QByteArrayView bytes) const
 {
     while (!bytes.isEmpty()) {
         const ssize_t count =

@@ -35,9 +35,9 @@ private:
     bool receiveMore(Deadline deadline);
 
     /// Returns false when the connection cannot be used any more.
-    bool sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection);
-    bool sendBody(const HttpReply &reply);
-    bool send(QByteArrayView bytes);
+    bool sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const;
+    bool sendBody(const HttpReply &reply) const;
+    bool send(QByteArrayView bytes) const;
 
     /// Takes in what the client still sends, so that it reads the answer before the connection ends.
     void linger();
