@@ -106,6 +106,7 @@ void CDeviceBase::unusedOperation() {}
 
 void CDeviceBase::systemConfig(const QString &, const QVariantMap &, const QStringList &) {}
 
+void CDeviceBase::factoryEnds() {}
 void CDeviceBase::snapPictureToFile(const QString &, const QVariant &, const QString &) {}
 
 bool CDeviceBase::hasDeviceUpgrading()

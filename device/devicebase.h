@@ -90,6 +90,9 @@ public:
     /// findAndLoginDevice() stays as it is. Returns a LoginResult.
     virtual int checkLogin(const QString &ipport, const QString &account, const QString &password);
 
+    /// Called by the factory at its end: ends the threads that may ask it, while it can still be asked.
+    virtual void factoryEnds();
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

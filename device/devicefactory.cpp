@@ -84,8 +84,10 @@ CDeviceFactory::CDeviceFactory(const BackEndCreators &creators) : CDeviceFactory
 CDeviceFactory::~CDeviceFactory()
 {
     // A running operation may hold a back end a little longer than the factory and its ports are there.
-    for (const std::shared_ptr<CDeviceBase> &backEnd : std::as_const(m_backEnds))
+    for (const std::shared_ptr<CDeviceBase> &backEnd : std::as_const(m_backEnds)) {
+        backEnd->factoryEnds();
         backEnd->setP2PPorts(nullptr);
+    }
 }
 
 void CDeviceFactory::relaySignals(const CDeviceBase &backEnd)

@@ -202,6 +202,43 @@
     </message>
 </context>
 <context>
+    <name>BatchCGIWindow</name>
+    <message>
+        <source>批量配置CGI</source>
+        <translation>Batch CGI</translation>
+    </message>
+    <message numerus="yes">
+        <source>向选中的 %n 台设备依次发送同一条命令：</source>
+        <translation>
+            <numerusform>One command goes to the selected device:</numerusform>
+            <numerusform>One command goes to each of the %n selected devices in turn:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchRun</name>
+    <message>
+        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
+        <translation>Stopped: %1 rows succeeded, %2 failed, %3 were not sent.</translation>
+    </message>
+    <message>
+        <source>执行完成：成功%1行，失败%2行。</source>
+        <translation>Finished: %1 rows succeeded, %2 failed.</translation>
+    </message>
+    <message>
+        <source>执行结果无法保存：%1</source>
+        <translation>The results cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>执行结果已保存到文件：%1</source>
+        <translation>The results are in the file: %1</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
+        <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as: %1</translation>
+    </message>
+</context>
+<context>
     <name>CDeviceDH</name>
     <message>
         <source>未复制：%1</source>
@@ -210,6 +247,17 @@
     <message>
         <source>、</source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>CGIConfigManage</name>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>The CGI commands of another file are running.</translation>
+    </message>
+    <message>
+        <source>批量操作CGI模板.xlsx</source>
+        <translation>CGI batch template.xlsx</translation>
     </message>
 </context>
 <context>
@@ -272,6 +320,208 @@
     </message>
 </context>
 <context>
+    <name>CgiCommandField</name>
+    <message>
+        <source>CGI命令</source>
+        <translation>CGI command</translation>
+    </message>
+    <message>
+        <source>从常用命令中移除</source>
+        <translation>Remove from the favourites</translation>
+    </message>
+    <message>
+        <source>保存为常用命令</source>
+        <translation>Keep as a favourite</translation>
+    </message>
+</context>
+<context>
+    <name>CgiProcedure</name>
+    <message>
+        <source>应答头过大。</source>
+        <translation>The headers of the answer are too large.</translation>
+    </message>
+    <message>
+        <source>账号或密码错误。</source>
+        <translation>Wrong account or password.</translation>
+    </message>
+    <message>
+        <source>设备被锁定。</source>
+        <translation>The device is locked.</translation>
+    </message>
+    <message>
+        <source>网络连接失败。</source>
+        <translation>No network connection to the device.</translation>
+    </message>
+    <message>
+        <source>设备未初始化。</source>
+        <translation>The device is not initialised.</translation>
+    </message>
+    <message>
+        <source>未知错误。</source>
+        <translation>Unknown error.</translation>
+    </message>
+    <message>
+        <source>服务器连接失败</source>
+        <translation>The server did not accept the request</translation>
+    </message>
+    <message>
+        <source>应答内容过大。</source>
+        <translation>The answer is too large.</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>The file cannot be written: </translation>
+    </message>
+</context>
+<context>
+    <name>CgiRequest</name>
+    <message>
+        <source>用户名不能包含冒号或控制字符。</source>
+        <translation>A user name must not contain a colon or control characters.</translation>
+    </message>
+    <message>
+        <source>密码不能包含空字符。</source>
+        <translation>A password must not contain a null character.</translation>
+    </message>
+</context>
+<context>
+    <name>CgiSender</name>
+    <message>
+        <source>正在发送CGI命令…</source>
+        <translation>Sending CGI commands…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation> (Esc stops)</translation>
+    </message>
+    <message>
+        <source>请填写CGI命令的具体内容。</source>
+        <translation>Please fill in the CGI command.</translation>
+    </message>
+    <message>
+        <source>URL格式错误。</source>
+        <translation>The URL&apos;s format is wrong.</translation>
+    </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>Stopped, %1 of %2 done</translation>
+    </message>
+    <message>
+        <source>批量配置CGI命令已完成</source>
+        <translation>The CGI command went to all of them</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未成功，请查看结果</source>
+        <translation>
+            <numerusform>%n device did not accept it, see its result</numerusform>
+            <numerusform>%n devices did not accept it, see their results</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CgiTable</name>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>Url路径</source>
+        <translation>URL path</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>
+右键点击可复制结果</source>
+        <translation>
+A right click copies the result</translation>
+    </message>
+    <message>
+        <source>配置</source>
+        <translation>Send</translation>
+    </message>
+    <message>
+        <source>向这台设备发送CGI命令</source>
+        <translation>Send the command to this device</translation>
+    </message>
+</context>
+<context>
+    <name>CgiWorkbook</name>
+    <message>
+        <source>正在执行文件中的CGI命令…</source>
+        <translation>Running the commands of the file…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation> (Esc stops)</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>即将执行文件中的CGI命令，执行结果将记录在文件中</source>
+        <translation>The CGI commands in the file will be run and their results recorded in it</translation>
+    </message>
+    <message>
+        <source>打开模板文件失败。</source>
+        <translation>The template cannot be opened.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandWorkbook</name>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>CGI配置命令</source>
+        <translation>CGI command</translation>
+    </message>
+    <message>
+        <source>文件打开失败</source>
+        <translation>The file cannot be opened</translation>
+    </message>
+    <message>
+        <source>文件格式错误</source>
+        <translation>The file has another format</translation>
+    </message>
+    <message>
+        <source>请填写CGI命令的具体内容。</source>
+        <translation>Enter the CGI command.</translation>
+    </message>
+    <message>
+        <source>URL格式错误。</source>
+        <translation>The URL has the wrong form.</translation>
+    </message>
+    <message>
+        <source>…（内容过长，已截断）</source>
+        <translation>… (too long, cut off)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+</context>
+<context>
     <name>ConfigCopy</name>
     <message numerus="yes">
         <source>%n 台设备已复制</source>
@@ -316,6 +566,10 @@
     <message>
         <source>设备已重新登录，尚未保存的修改已丢失</source>
         <translation>The device was logged in to anew; changes that were not saved are lost</translation>
+    </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>The device did not answer</translation>
     </message>
 </context>
 <context>
@@ -515,6 +769,10 @@
     <message>
         <source>未登录</source>
         <translation>Not logged in</translation>
+    </message>
+    <message>
+        <source>连接已断开</source>
+        <translation>Connection lost</translation>
     </message>
 </context>
 <context>
@@ -1202,6 +1460,14 @@
         <source>区域(0–8192)</source>
         <translation>Region (0–8192)</translation>
     </message>
+    <message>
+        <source>左边不能大于右边</source>
+        <translation>Left must not exceed right</translation>
+    </message>
+    <message>
+        <source>上边不能大于下边</source>
+        <translation>Top must not exceed bottom</translation>
+    </message>
 </context>
 <context>
     <name>ImageShutter</name>
@@ -1274,6 +1540,10 @@
     <message>
         <source>设备没有接受修改，显示的是设备现有的值</source>
         <translation>The device refused the change. What it has is shown.</translation>
+    </message>
+    <message>
+        <source>设备没有应答，修改可能没有写入</source>
+        <translation>The device did not answer. The change may not have been written.</translation>
     </message>
 </context>
 <context>
@@ -2126,16 +2396,48 @@ File path: </translation>
 <context>
     <name>PageCGIConfig</name>
     <message>
-        <source>CGI协议</source>
-        <translation>CGI protocol</translation>
+        <source>请选择一台设备。</source>
+        <translation>Please select a device.</translation>
     </message>
     <message>
-        <source>在此向多台设备批量发送CGI命令，并逐台查看设备的回应。</source>
-        <translation>Send CGI commands to many devices at once and see the reply of each.</translation>
+        <source>批量配置CGI</source>
+        <translation>Batch CGI</translation>
     </message>
     <message>
-        <source>常用命令可以保存为模板。</source>
-        <translation>Frequent commands can be saved as templates.</translation>
+        <source>向勾选的设备依次发送同一条命令</source>
+        <translation>Send one command to each of the ticked devices</translation>
+    </message>
+    <message>
+        <source>批量表单操作</source>
+        <translation>Run a workbook</translation>
+    </message>
+    <message>
+        <source>执行表格文件中的命令，并把结果写回文件</source>
+        <translation>Run the commands of a workbook and record their results in it</translation>
+    </message>
+    <message>
+        <source>打开模板</source>
+        <translation>Open template</translation>
+    </message>
+    <message>
+        <source>打开命令表格的模板文件</source>
+        <translation>Open the template of such a workbook</translation>
+    </message>
+    <message>
+        <source>搜索...</source>
+        <translation>Search...</translation>
+    </message>
+    <message>
+        <source>复制成功</source>
+        <translation>Copied</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>device selected</numerusform>
+            <numerusform>devices selected</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2536,6 +2838,13 @@ File path: </translation>
     <message>
         <source>，</source>
         <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n device left out</numerusform>
+            <numerusform>%n devices left out</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3043,6 +3352,73 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>TemplateText</name>
+    <message>
+        <source>设备的IP地址；网页端口不是80时写成“地址:网页端口”。必填。</source>
+        <translation>Address of the device; &quot;address:web port&quot; when its web port is not 80. Required.</translation>
+    </message>
+    <message>
+        <source>设备的登录端口，只用于检查账号，不用于发送命令。</source>
+        <translation>Login port of the device. It is used to check the account, not to send the command.</translation>
+    </message>
+    <message>
+        <source>登录设备的用户名，不能包含冒号。</source>
+        <translation>User name of the device, without a colon.</translation>
+    </message>
+    <message>
+        <source>登录设备的密码。执行完成后请从文件中删除。</source>
+        <translation>Password of the device. Remove it from the file afterwards.</translation>
+    </message>
+    <message>
+        <source>以“/”开头的命令。设备接受的命令会发送两次。必填。</source>
+        <translation>Command, beginning with &quot;/&quot;. A command that the device accepts is sent twice. Required.</translation>
+    </message>
+    <message>
+        <source>协议</source>
+        <translation>Scheme</translation>
+    </message>
+    <message>
+        <source>0表示HTTP，其他整数表示HTTPS；不填时为HTTP。</source>
+        <translation>0 for HTTP, another whole number for HTTPS; HTTP when empty.</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</source>
+        <translation>Filled in by the program: the answer, the path of a picture or recording, or &quot;Error:&quot; and the reason.</translation>
+    </message>
+    <message>
+        <source>命令</source>
+        <translation>Commands</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Explanation</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>Column</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>Meaning</translation>
+    </message>
+    <message>
+        <source>请保留第一行的标题，并在执行前用自己的内容替换示例行。</source>
+        <translation>Keep the titles in the first row, and put your own rows in place of the example.</translation>
+    </message>
+    <message>
+        <source>IP和命令都为空的行会被跳过。</source>
+        <translation>Rows without address and command are skipped.</translation>
+    </message>
+    <message>
+        <source>执行时请不要在其他程序中打开此文件。</source>
+        <translation>Do not keep the file open in another program while it runs.</translation>
+    </message>
+</context>
+<context>
     <name>ValueTables</name>
     <message>
         <source>普通</source>
@@ -3122,6 +3498,10 @@ File path: </translation>
     <message>
         <source>正在查看另一台设备的实时画面</source>
         <translation>Another device is being watched live</translation>
+    </message>
+    <message>
+        <source>连接已断开</source>
+        <translation>Connection lost</translation>
     </message>
 </context>
 <context>

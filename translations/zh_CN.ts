@@ -201,6 +201,42 @@
     </message>
 </context>
 <context>
+    <name>BatchCGIWindow</name>
+    <message>
+        <source>批量配置CGI</source>
+        <translation>批量配置CGI</translation>
+    </message>
+    <message numerus="yes">
+        <source>向选中的 %n 台设备依次发送同一条命令：</source>
+        <translation>
+            <numerusform>向选中的 %n 台设备依次发送同一条命令：</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchRun</name>
+    <message>
+        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
+        <translation>已停止执行：成功%1行，失败%2行，未执行%3行。</translation>
+    </message>
+    <message>
+        <source>执行完成：成功%1行，失败%2行。</source>
+        <translation>执行完成：成功%1行，失败%2行。</translation>
+    </message>
+    <message>
+        <source>执行结果无法保存：%1</source>
+        <translation>执行结果无法保存：%1</translation>
+    </message>
+    <message>
+        <source>执行结果已保存到文件：%1</source>
+        <translation>执行结果已保存到文件：%1</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
+        <translation>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</translation>
+    </message>
+</context>
+<context>
     <name>CDeviceDH</name>
     <message>
         <source>未复制：%1</source>
@@ -209,6 +245,17 @@
     <message>
         <source>、</source>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>CGIConfigManage</name>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>正在执行另一个文件中的CGI命令。</translation>
+    </message>
+    <message>
+        <source>批量操作CGI模板.xlsx</source>
+        <translation>批量操作CGI模板.xlsx</translation>
     </message>
 </context>
 <context>
@@ -271,6 +318,207 @@
     </message>
 </context>
 <context>
+    <name>CgiCommandField</name>
+    <message>
+        <source>CGI命令</source>
+        <translation>CGI命令</translation>
+    </message>
+    <message>
+        <source>从常用命令中移除</source>
+        <translation>从常用命令中移除</translation>
+    </message>
+    <message>
+        <source>保存为常用命令</source>
+        <translation>保存为常用命令</translation>
+    </message>
+</context>
+<context>
+    <name>CgiProcedure</name>
+    <message>
+        <source>应答头过大。</source>
+        <translation>应答头过大。</translation>
+    </message>
+    <message>
+        <source>账号或密码错误。</source>
+        <translation>账号或密码错误。</translation>
+    </message>
+    <message>
+        <source>设备被锁定。</source>
+        <translation>设备被锁定。</translation>
+    </message>
+    <message>
+        <source>网络连接失败。</source>
+        <translation>网络连接失败。</translation>
+    </message>
+    <message>
+        <source>设备未初始化。</source>
+        <translation>设备未初始化。</translation>
+    </message>
+    <message>
+        <source>未知错误。</source>
+        <translation>未知错误。</translation>
+    </message>
+    <message>
+        <source>服务器连接失败</source>
+        <translation>服务器连接失败</translation>
+    </message>
+    <message>
+        <source>应答内容过大。</source>
+        <translation>应答内容过大。</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>文件写入失败：</translation>
+    </message>
+</context>
+<context>
+    <name>CgiRequest</name>
+    <message>
+        <source>用户名不能包含冒号或控制字符。</source>
+        <translation>用户名不能包含冒号或控制字符。</translation>
+    </message>
+    <message>
+        <source>密码不能包含空字符。</source>
+        <translation>密码不能包含空字符。</translation>
+    </message>
+</context>
+<context>
+    <name>CgiSender</name>
+    <message>
+        <source>正在发送CGI命令…</source>
+        <translation>正在发送CGI命令…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation>（按Esc停止）</translation>
+    </message>
+    <message>
+        <source>请填写CGI命令的具体内容。</source>
+        <translation>请填写CGI命令的具体内容。</translation>
+    </message>
+    <message>
+        <source>URL格式错误。</source>
+        <translation>URL格式错误。</translation>
+    </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>已停止，完成 %1 / %2</translation>
+    </message>
+    <message>
+        <source>批量配置CGI命令已完成</source>
+        <translation>批量配置CGI命令已完成</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未成功，请查看结果</source>
+        <translation>
+            <numerusform>%n 台设备未成功，请查看结果</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CgiTable</name>
+    <message>
+        <source>型号</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>Url路径</source>
+        <translation>Url路径</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>
+右键点击可复制结果</source>
+        <translation>
+右键点击可复制结果</translation>
+    </message>
+    <message>
+        <source>配置</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>向这台设备发送CGI命令</source>
+        <translation>向这台设备发送CGI命令</translation>
+    </message>
+</context>
+<context>
+    <name>CgiWorkbook</name>
+    <message>
+        <source>正在执行文件中的CGI命令…</source>
+        <translation>正在执行文件中的CGI命令…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation>（按Esc停止）</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>即将执行文件中的CGI命令，执行结果将记录在文件中</source>
+        <translation>即将执行文件中的CGI命令，执行结果将记录在文件中</translation>
+    </message>
+    <message>
+        <source>打开模板文件失败。</source>
+        <translation>打开模板文件失败。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandWorkbook</name>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>CGI配置命令</source>
+        <translation>CGI配置命令</translation>
+    </message>
+    <message>
+        <source>文件打开失败</source>
+        <translation>文件打开失败</translation>
+    </message>
+    <message>
+        <source>文件格式错误</source>
+        <translation>文件格式错误</translation>
+    </message>
+    <message>
+        <source>请填写CGI命令的具体内容。</source>
+        <translation>请填写CGI命令的具体内容。</translation>
+    </message>
+    <message>
+        <source>URL格式错误。</source>
+        <translation>URL格式错误。</translation>
+    </message>
+    <message>
+        <source>…（内容过长，已截断）</source>
+        <translation>…（内容过长，已截断）</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+</context>
+<context>
     <name>ConfigCopy</name>
     <message numerus="yes">
         <source>%n 台设备已复制</source>
@@ -312,6 +560,10 @@
     <message>
         <source>设备已重新登录，尚未保存的修改已丢失</source>
         <translation>设备已重新登录，尚未保存的修改已丢失</translation>
+    </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>设备没有应答</translation>
     </message>
 </context>
 <context>
@@ -511,6 +763,10 @@
     <message>
         <source>未登录</source>
         <translation>未登录</translation>
+    </message>
+    <message>
+        <source>连接已断开</source>
+        <translation>连接已断开</translation>
     </message>
 </context>
 <context>
@@ -1195,6 +1451,14 @@
         <source>区域(0–8192)</source>
         <translation>区域(0–8192)</translation>
     </message>
+    <message>
+        <source>左边不能大于右边</source>
+        <translation>左边不能大于右边</translation>
+    </message>
+    <message>
+        <source>上边不能大于下边</source>
+        <translation>上边不能大于下边</translation>
+    </message>
 </context>
 <context>
     <name>ImageShutter</name>
@@ -1267,6 +1531,10 @@
     <message>
         <source>设备没有接受修改，显示的是设备现有的值</source>
         <translation>设备没有接受修改，显示的是设备现有的值</translation>
+    </message>
+    <message>
+        <source>设备没有应答，修改可能没有写入</source>
+        <translation>设备没有应答，修改可能没有写入</translation>
     </message>
 </context>
 <context>
@@ -2113,16 +2381,47 @@
 <context>
     <name>PageCGIConfig</name>
     <message>
-        <source>CGI协议</source>
-        <translation>CGI协议</translation>
+        <source>请选择一台设备。</source>
+        <translation>请选择一台设备。</translation>
     </message>
     <message>
-        <source>在此向多台设备批量发送CGI命令，并逐台查看设备的回应。</source>
-        <translation>在此向多台设备批量发送CGI命令，并逐台查看设备的回应。</translation>
+        <source>批量配置CGI</source>
+        <translation>批量配置CGI</translation>
     </message>
     <message>
-        <source>常用命令可以保存为模板。</source>
-        <translation>常用命令可以保存为模板。</translation>
+        <source>向勾选的设备依次发送同一条命令</source>
+        <translation>向勾选的设备依次发送同一条命令</translation>
+    </message>
+    <message>
+        <source>批量表单操作</source>
+        <translation>批量表单操作</translation>
+    </message>
+    <message>
+        <source>执行表格文件中的命令，并把结果写回文件</source>
+        <translation>执行表格文件中的命令，并把结果写回文件</translation>
+    </message>
+    <message>
+        <source>打开模板</source>
+        <translation>打开模板</translation>
+    </message>
+    <message>
+        <source>打开命令表格的模板文件</source>
+        <translation>打开命令表格的模板文件</translation>
+    </message>
+    <message>
+        <source>搜索...</source>
+        <translation>搜索...</translation>
+    </message>
+    <message>
+        <source>复制成功</source>
+        <translation>复制成功</translation>
+    </message>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>台设备已选中</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2512,6 +2811,12 @@
     <message>
         <source>，</source>
         <translation>，</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n 台设备未执行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3018,6 +3323,73 @@
     </message>
 </context>
 <context>
+    <name>TemplateText</name>
+    <message>
+        <source>设备的IP地址；网页端口不是80时写成“地址:网页端口”。必填。</source>
+        <translation>设备的IP地址；网页端口不是80时写成“地址:网页端口”。必填。</translation>
+    </message>
+    <message>
+        <source>设备的登录端口，只用于检查账号，不用于发送命令。</source>
+        <translation>设备的登录端口，只用于检查账号，不用于发送命令。</translation>
+    </message>
+    <message>
+        <source>登录设备的用户名，不能包含冒号。</source>
+        <translation>登录设备的用户名，不能包含冒号。</translation>
+    </message>
+    <message>
+        <source>登录设备的密码。执行完成后请从文件中删除。</source>
+        <translation>登录设备的密码。执行完成后请从文件中删除。</translation>
+    </message>
+    <message>
+        <source>以“/”开头的命令。设备接受的命令会发送两次。必填。</source>
+        <translation>以“/”开头的命令。设备接受的命令会发送两次。必填。</translation>
+    </message>
+    <message>
+        <source>协议</source>
+        <translation>协议</translation>
+    </message>
+    <message>
+        <source>0表示HTTP，其他整数表示HTTPS；不填时为HTTP。</source>
+        <translation>0表示HTTP，其他整数表示HTTPS；不填时为HTTP。</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</source>
+        <translation>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</translation>
+    </message>
+    <message>
+        <source>命令</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>含义</translation>
+    </message>
+    <message>
+        <source>请保留第一行的标题，并在执行前用自己的内容替换示例行。</source>
+        <translation>请保留第一行的标题，并在执行前用自己的内容替换示例行。</translation>
+    </message>
+    <message>
+        <source>IP和命令都为空的行会被跳过。</source>
+        <translation>IP和命令都为空的行会被跳过。</translation>
+    </message>
+    <message>
+        <source>执行时请不要在其他程序中打开此文件。</source>
+        <translation>执行时请不要在其他程序中打开此文件。</translation>
+    </message>
+</context>
+<context>
     <name>ValueTables</name>
     <message>
         <source>普通</source>
@@ -3097,6 +3469,10 @@
     <message>
         <source>正在查看另一台设备的实时画面</source>
         <translation>正在查看另一台设备的实时画面</translation>
+    </message>
+    <message>
+        <source>连接已断开</source>
+        <translation>连接已断开</translation>
     </message>
 </context>
 <context>

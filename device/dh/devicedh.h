@@ -116,6 +116,8 @@ public:
     /// Returns at once; the pictures are taken one after another on a thread of their own. `address` names
     /// the device's folder.
     void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override;
+    /// Gives up the snapshots that are being taken.
+    void factoryEnds() override;
 
 private:
     /// The one login that configuration, live view and snapshots use.

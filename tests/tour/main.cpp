@@ -34,7 +34,8 @@ int warnings = 0;
 /// list.
 void countWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    const bool own = QLatin1StringView(context.category).startsWith(QLatin1String("configtools."));
+    const bool own = QLatin1StringView(context.category).startsWith(QLatin1String("configtools.")) ||
+                     message.startsWith(QLatin1String("PulseAudioService:")); // there is no loudspeaker here
     if ((type == QtWarningMsg && !own) || type == QtCriticalMsg)
         ++warnings;
     previousHandler(type, context, message);
