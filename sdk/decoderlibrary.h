@@ -60,7 +60,7 @@ struct DecoderStatus
 {
     std::array<char, 16> videoCodec; ///< "H.264", "H.265", "MJPEG"; empty until a stream has told
     std::array<char, 16> audioCodec; ///< "AAC", "G.711A", "G.711Mu", "PCM"; empty without sound
-    std::uint32_t waitingBytes;      ///< taken, and not yet decoded
+    std::uint32_t waitingBytes;      ///< taken, and not yet gone through
     std::uint32_t damages;           ///< pieces of the stream that could not be decoded
 };
 static_assert(sizeof(DecoderStatus) == 40);
@@ -109,7 +109,8 @@ public:
 
     /// Writes a picture (its bytes as DecodedFrameType::Picture, its colour the usual one of its height) to
     /// the file of that name in the local 8-bit encoding, replacing it. `quality` is 1 to 100. Returns false
-    /// for a null picture or a size below 1, and when the file cannot be written.
+    /// for a null picture, a size below 1 or a quality out of its range, and when the file cannot be written:
+    /// then what it held is still there.
     virtual bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
                                   SavedPictureType type, std::int32_t quality, const char *fileName) = 0;
 };

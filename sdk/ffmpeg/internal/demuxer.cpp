@@ -39,23 +39,18 @@ bool Demuxer::open()
     if (avformat_open_input(&format, nullptr, av_find_input_format("matroska"), nullptr) != 0)
         return false; // the context is gone
     m_format.reset(format);
-    for (unsigned track = 0; track < m_format->nb_streams; ++track)
-        m_format->streams[track]->discard = AVDISCARD_ALL;
     return true;
 }
 
-const AVStream *Demuxer::useTrack(AVMediaType type, std::initializer_list<AVCodecID> codecs)
+const AVStream *Demuxer::track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const
 {
     const std::span<AVStream *> tracks(m_format->streams, m_format->nb_streams);
-    const auto isUsable = [&](const AVStream *track) {
+    const auto isWanted = [&](const AVStream *track) {
         return track->codecpar->codec_type == type &&
                std::find(codecs.begin(), codecs.end(), track->codecpar->codec_id) != codecs.end();
     };
-    const auto found = std::find_if(tracks.begin(), tracks.end(), isUsable);
-    if (found == tracks.end())
-        return nullptr;
-    (*found)->discard = AVDISCARD_DEFAULT;
-    return *found;
+    const auto found = std::find_if(tracks.begin(), tracks.end(), isWanted);
+    return found == tracks.end() ? nullptr : *found;
 }
 
 bool Demuxer::read(AVPacket &packet)

@@ -20,11 +20,10 @@ public:
     /// Reads the head of the stream. Returns false when it is none.
     [[nodiscard]] bool open();
 
-    /// The first track in one of these encodings; null without one. Tracks that were not asked for are
-    /// skipped.
-    [[nodiscard]] const AVStream *useTrack(AVMediaType type, std::initializer_list<AVCodecID> codecs);
+    /// The first track in one of these encodings; null without one.
+    [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
-    /// Waits for the next piece of the tracks in use. Returns false at the end.
+    /// Waits for the next piece of any track. Returns false at the end.
     [[nodiscard]] bool read(AVPacket &packet);
 
 private:

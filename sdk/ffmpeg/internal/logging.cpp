@@ -13,9 +13,13 @@ Q_LOGGING_CATEGORY(ffmpegLog, "configtools.sdk.ffmpeg", QtInfoMsg)
 
 namespace {
 
-/// Called by FFmpeg on any thread.
+thread_local unsigned linesOfErrors = 0;
+
+/// Called by FFmpeg on any thread, with lines of every level.
 void writeLine(void *source, int level, const char *format, va_list arguments)
 {
+    if (level <= AV_LOG_ERROR)
+        ++linesOfErrors;
     if (level > AV_LOG_WARNING || !ffmpegLog().isDebugEnabled())
         return;
     std::array<char, 400> line{};
@@ -32,6 +36,11 @@ void routeLog()
 {
     static std::once_flag done;
     std::call_once(done, [] { av_log_set_callback(&writeLine); });
+}
+
+unsigned errorLines()
+{
+    return linesOfErrors;
 }
 
 } // namespace sdk::ffmpeg

@@ -11,4 +11,8 @@ Q_DECLARE_LOGGING_CATEGORY(ffmpegLog)
 /// Takes FFmpeg's lines to ffmpegLog, instead of to standard error. For the whole process, once.
 void routeLog();
 
+/// How many errors FFmpeg has told of on the calling thread: its container readers go on after damage, and
+/// say so nowhere else.
+[[nodiscard]] unsigned errorLines();
+
 } // namespace sdk::ffmpeg

@@ -5,6 +5,7 @@
 #include "sdk/ffmpeg/internal/logging.h"
 #include "sdk/ffmpeg/internal/planarpicture.h"
 
+#include <QBuffer>
 #include <QImage>
 #include <QSaveFile>
 
@@ -40,9 +41,15 @@ bool savePicture(const std::uint8_t *picture, int width, int height, int quality
     if (!rgb)
         return false;
     const QImage image(rgb->data[0], width, height, rgb->linesize[0], QImage::Format_RGB32);
-    // Written beside the file and put in its place by a rename.
+    QBuffer jpeg;
+    jpeg.open(QIODevice::WriteOnly);
+    if (!image.save(&jpeg, "JPG", quality))
+        return false;
+    // Written beside the file and put in its place by a rename. Not through a buffer: the toolkit does not
+    // notice when only a part of that could be written.
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && image.save(&file, "JPG", quality) && file.commit())
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+        file.write(jpeg.data()) == jpeg.data().size() && file.commit())
         return true;
     qCWarning(ffmpegLog).noquote() << "cannot write the picture" << path << '-' << file.errorString();
     return false;

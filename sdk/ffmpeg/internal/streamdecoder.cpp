@@ -1,5 +1,6 @@
 #include "sdk/ffmpeg/internal/streamdecoder.h"
 
+#include "sdk/ffmpeg/internal/logging.h"
 #include "sdk/ffmpeg/internal/planarpicture.h"
 
 #include <utility>
@@ -50,10 +51,14 @@ bool StreamDecoder::run()
         return false;
     const AvPointer<AVPacket> packet(av_packet_alloc());
     bool hasRead = false;
+    unsigned errors = errorLines();
     while (packet && m_demuxer.read(*packet)) {
         hasRead = true;
-        decode(*packet);
+        const bool isWhole = decode(*packet);
         av_packet_unref(packet.get());
+        if (!isWhole || errorLines() != errors)
+            m_observer.damaged();
+        errors = errorLines();
     }
     if (m_pictures && !m_stop.stop_requested())
         m_pictures->finish([this](const AVFrame &frame) { deliverPicture(frame); });
@@ -65,23 +70,21 @@ bool StreamDecoder::open()
     if (!m_demuxer.open())
         return false;
     m_pictures = decoderOf(
-        m_demuxer.useTrack(AVMEDIA_TYPE_VIDEO, {AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_MJPEG}));
+        m_demuxer.track(AVMEDIA_TYPE_VIDEO, {AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_MJPEG}));
     m_sound = decoderOf(
-        m_demuxer.useTrack(AVMEDIA_TYPE_AUDIO, {AV_CODEC_ID_AAC, AV_CODEC_ID_PCM_ALAW, AV_CODEC_ID_PCM_MULAW,
-                                                AV_CODEC_ID_PCM_S16LE, AV_CODEC_ID_PCM_S16BE}));
+        m_demuxer.track(AVMEDIA_TYPE_AUDIO, {AV_CODEC_ID_AAC, AV_CODEC_ID_PCM_ALAW, AV_CODEC_ID_PCM_MULAW,
+                                             AV_CODEC_ID_PCM_S16LE, AV_CODEC_ID_PCM_S16BE}));
     m_observer.codecsFound(nameOf(m_pictures), nameOf(m_sound));
     return true;
 }
 
-void StreamDecoder::decode(const AVPacket &packet)
+bool StreamDecoder::decode(const AVPacket &packet)
 {
-    bool isWhole = true;
     if (m_pictures && packet.stream_index == m_pictures->track())
-        isWhole = m_pictures->decode(packet, [this](const AVFrame &frame) { deliverPicture(frame); });
-    else if (m_sound && packet.stream_index == m_sound->track())
-        isWhole = m_sound->decode(packet, [this](const AVFrame &frame) { deliverSound(frame); });
-    if (!isWhole)
-        m_observer.damaged();
+        return m_pictures->decode(packet, [this](const AVFrame &frame) { deliverPicture(frame); });
+    if (m_sound && packet.stream_index == m_sound->track())
+        return m_sound->decode(packet, [this](const AVFrame &frame) { deliverSound(frame); });
+    return true;
 }
 
 void StreamDecoder::deliverPicture(const AVFrame &frame)

@@ -40,7 +40,7 @@ public:
 
 private:
     [[nodiscard]] bool open();
-    void decode(const AVPacket &packet);
+    [[nodiscard]] bool decode(const AVPacket &packet);
     void deliverPicture(const AVFrame &frame);
     void deliverSound(const AVFrame &frame);
 

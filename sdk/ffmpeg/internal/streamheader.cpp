@@ -116,12 +116,11 @@ std::optional<std::size_t> StreamHeaderFinder::find(std::span<const std::uint8_t
             continue;
         switch (judge(m_candidate)) {
         case Verdict::Header:
-            m_header = std::move(m_candidate);
-            m_candidate.clear();
+            m_header = m_candidate;
+            keepEnd(); // where the last byte of this one was lost, that of the next stands in its place
             return place;
         case Verdict::NoHeader:
-            m_candidate.erase(m_candidate.begin(), m_candidate.end() - static_cast<std::ptrdiff_t>(
-                                                                           beginOfIdentifier(m_candidate)));
+            keepEnd();
             break;
         case Verdict::Unfinished:
             break;
@@ -137,7 +136,13 @@ void StreamHeaderFinder::addToCandidate(std::uint8_t byte)
     // A header holds no other one: where another identifier is complete, the candidate was none. One that is
     // not complete must be its beginning.
     if (begin == headerIdentifier.size() || m_candidate.size() <= headerIdentifier.size())
-        m_candidate.erase(m_candidate.begin(), m_candidate.end() - static_cast<std::ptrdiff_t>(begin));
+        keepEnd();
+}
+
+void StreamHeaderFinder::keepEnd()
+{
+    m_candidate.erase(m_candidate.begin(),
+                      m_candidate.end() - static_cast<std::ptrdiff_t>(beginOfIdentifier(m_candidate)));
 }
 
 std::span<const std::uint8_t, ClusterFinder::identifierSize> ClusterFinder::identifier()

@@ -21,6 +21,7 @@ public:
 
 private:
     void addToCandidate(std::uint8_t byte);
+    void keepEnd();
 
     std::vector<std::uint8_t> m_candidate; // the latest bytes, as far as they may begin a header
     std::vector<std::uint8_t> m_header;

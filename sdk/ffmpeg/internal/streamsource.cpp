@@ -10,20 +10,28 @@ namespace {
 /// Heads are about one kilobyte; reading one again is to cost little.
 constexpr std::size_t longestHead = std::size_t{64} * 1024;
 
-/// More than any picture takes.
-constexpr std::size_t longestWithoutProgress = std::size_t{8} * 1024 * 1024;
+/// What a reader may pass without making something of it. A cluster holds at least one picture or piece of
+/// sound, and a picture never takes so many bytes.
+constexpr int mostClustersWithoutProgress = 4;
+constexpr std::size_t mostBytesWithoutProgress = std::size_t{8} * 1024 * 1024;
 
 } // namespace
 
 StreamSource::Begin StreamSource::begin(const std::stop_token &stop)
 {
+    // A stream that is given up has just come to a cluster, which is where it can be taken up.
+    const bool isAtCluster = !m_hasNext && m_clustersWithoutProgress >= mostClustersWithoutProgress;
     m_before.clear();
     m_beforePlace = 0;
-    m_withoutProgress = 0;
+    noteProgress();
     m_skipped = 0;
     m_clusterFinder.reset();
     if (m_headState == Head::Growing) // the reader stopped in the middle of it
         forgetHead();
+    if (isAtCluster && m_headState == Head::Complete) {
+        prepareHead();
+        return Begin::SameStream;
+    }
     while (!m_hasNext) {
         const std::span<const std::uint8_t> bytes = m_queue.next(stop);
         if (bytes.empty())
@@ -41,9 +49,7 @@ StreamSource::Begin StreamSource::begin(const std::stop_token &stop)
             m_hasNext = true;
         } else if (cluster) {
             m_skipped -= std::min(m_skipped, ClusterFinder::identifierSize);
-            m_before = m_head;
-            const auto identifier = ClusterFinder::identifier();
-            m_before.insert(m_before.end(), identifier.begin(), identifier.end());
+            prepareHead();
             return Begin::SameStream;
         }
     }
@@ -65,7 +71,7 @@ std::size_t StreamSource::read(std::span<std::uint8_t> destination, const std::s
         m_beforePlace += count;
         return count;
     }
-    if (m_withoutProgress >= longestWithoutProgress)
+    if (isGivenUp())
         return 0;
     const std::span<const std::uint8_t> bytes = m_queue.next(stop);
     return passOn(bytes.first(std::min(bytes.size(), destination.size())), destination);
@@ -73,6 +79,9 @@ std::size_t StreamSource::read(std::span<std::uint8_t> destination, const std::s
 
 std::size_t StreamSource::passOn(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> destination)
 {
+    // Not beyond the begin of a cluster: so it is known how many of them the reader has seen.
+    const std::optional<std::size_t> cluster = m_clusterFinder.find(bytes);
+    bytes = bytes.first(cluster.value_or(bytes.size()));
     std::size_t count = bytes.size();
     if (const std::optional<std::size_t> header = m_headerFinder.find(bytes)) {
         m_queue.use(*header);
@@ -81,25 +90,37 @@ std::size_t StreamSource::passOn(std::span<const std::uint8_t> bytes, std::span<
         count = *header - std::min(*header, m_headerFinder.header().size());
     } else {
         m_queue.use(count);
+        m_clustersWithoutProgress += cluster ? 1 : 0;
     }
+    m_bytesWithoutProgress += count;
     if (m_headState == Head::Growing)
-        extendHead(bytes.first(count));
+        extendHead(bytes.first(count), cluster && !m_hasNext);
     std::copy_n(bytes.begin(), count, destination.begin());
-    m_withoutProgress += count;
     return count;
 }
 
-void StreamSource::extendHead(std::span<const std::uint8_t> bytes)
+void StreamSource::extendHead(std::span<const std::uint8_t> bytes, bool endsInCluster)
 {
-    const std::optional<std::size_t> cluster = m_clusterFinder.find(bytes);
-    m_head.insert(m_head.end(), bytes.begin(),
-                  bytes.begin() + static_cast<std::ptrdiff_t>(cluster.value_or(bytes.size())));
+    m_head.insert(m_head.end(), bytes.begin(), bytes.end());
     if (m_head.size() > longestHead) {
         forgetHead();
-    } else if (cluster) {
+    } else if (endsInCluster) {
         m_head.resize(m_head.size() - ClusterFinder::identifierSize);
         m_headState = Head::Complete;
     }
+}
+
+void StreamSource::prepareHead()
+{
+    m_before = m_head;
+    const auto identifier = ClusterFinder::identifier();
+    m_before.insert(m_before.end(), identifier.begin(), identifier.end());
+}
+
+bool StreamSource::isGivenUp() const
+{
+    return m_clustersWithoutProgress >= mostClustersWithoutProgress ||
+           m_bytesWithoutProgress >= mostBytesWithoutProgress;
 }
 
 void StreamSource::forgetHead()

@@ -33,9 +33,13 @@ public:
     /// Returns how many; 0 at the end of the stream, when it is given up, and when a stop was requested.
     [[nodiscard]] std::size_t read(std::span<std::uint8_t> destination, const std::stop_token &stop);
 
-    /// Tells that the reader makes something of the bytes. One that does not for too many of them has lost
-    /// its way, and the stream is given up.
-    void noteProgress() { m_withoutProgress = 0; }
+    /// Tells that the reader makes something of the bytes. One that does not for several clusters, or for too
+    /// many bytes, has lost its way, and the stream is given up.
+    void noteProgress()
+    {
+        m_bytesWithoutProgress = 0;
+        m_clustersWithoutProgress = 0;
+    }
 
     /// The stream is not to be taken up again.
     void forgetHead();
@@ -49,7 +53,9 @@ public:
 private:
     [[nodiscard]] std::size_t passOn(std::span<const std::uint8_t> bytes,
                                      std::span<std::uint8_t> destination);
-    void extendHead(std::span<const std::uint8_t> bytes);
+    void extendHead(std::span<const std::uint8_t> bytes, bool endsInCluster);
+    void prepareHead();
+    [[nodiscard]] bool isGivenUp() const;
 
     InputQueue &m_queue;
     StreamHeaderFinder m_headerFinder;
@@ -67,7 +73,8 @@ private:
     bool m_hasNext = false;             // the header of the next stream has been found
     std::vector<std::uint8_t> m_before; // what is to be read before the bytes of the queue
     std::size_t m_beforePlace = 0;
-    std::size_t m_withoutProgress = 0;
+    std::size_t m_bytesWithoutProgress = 0;
+    int m_clustersWithoutProgress = 0;
     std::size_t m_skipped = 0;
 };
 

@@ -73,7 +73,8 @@ public:
     /// Of so many pictures, numbered from `first` on.
     [[nodiscard]] QByteArray pictures(int count, int first = 0);
 
-    /// The bytes of the next samples: a tone of 500 Hz and a quarter of the largest amplitude.
+    /// The bytes of the next samples: a tone of 500 Hz and a quarter of the largest amplitude. The container
+    /// keeps the last piece back until something else is added.
     [[nodiscard]] QByteArray tone(int samples);
 
 private:

@@ -261,11 +261,14 @@ void FfmpegDecoderTest::ordersPictures()
     QVERIFY(port.push(next.head() + next.pictures(1))); // what waits for others comes out at the end
     QTRY_COMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
     QTRY_COMPARE(port.receiver.pictures().last().information.colour, PictureColour::Bt601Full);
-    const QList<Delivered> pictures = port.receiver.pictures().first(port.receiver.pictures().size() - 1);
-    QVERIFY(pictures.size() >= 7);
-    for (int number = 0; number < pictures.size(); ++number)
-        QVERIFY2(distance(pictures.at(number), Patches::numbered(number)) < nearEnough,
-                 qPrintable(QString::number(number)));
+    // The last one is what those that the encoder kept back would have come before.
+    const QList<Delivered> pictures = port.receiver.pictures();
+    QVERIFY(pictures.size() > 8);
+    for (int number = 0; number < pictures.size() - 2; ++number) {
+        const double off = distance(pictures.at(number), Patches::numbered(number));
+        QVERIFY2(off < nearEnough,
+                 qPrintable(QStringLiteral("picture %1 is off by %2").arg(number).arg(off)));
+    }
 }
 
 void FfmpegDecoderTest::skipsOtherTracks()
