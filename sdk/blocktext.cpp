@@ -15,7 +15,7 @@ void setBlockText(char *destination, std::size_t size, std::string_view text)
         while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
             --length;
     }
-    std::memcpy(destination, text.data(), length);
+    std::copy_n(text.data(), length, destination); // an empty text may be null
     std::memset(destination + length, 0, size - length);
 }
 
