@@ -98,12 +98,12 @@ void DecoderPort::run(const std::stop_token &stop)
             return;
         if (source.skipped() > 0)
             damaged();
-        const bool hasRead = StreamDecoder(source, m_ring, *this, stop).run();
+        const bool isStream = StreamDecoder(source, m_ring, *this, stop).run();
         if (stop.stop_requested())
             return;
         if (!source.hasNext())
             damaged(); // it was given up
-        if (!hasRead)
+        if (!isStream)
             source.forgetHead();
     }
 }

@@ -50,10 +50,8 @@ bool StreamDecoder::run()
     if (!open())
         return false;
     const AvPointer<AVPacket> packet(av_packet_alloc());
-    bool hasRead = false;
     unsigned errors = errorLines();
     while (packet && m_demuxer.read(*packet)) {
-        hasRead = true;
         const bool isWhole = decode(*packet);
         av_packet_unref(packet.get());
         if (!isWhole || errorLines() != errors)
@@ -62,7 +60,7 @@ bool StreamDecoder::run()
     }
     if (m_pictures && !m_stop.stop_requested())
         m_pictures->finish([this](const AVFrame &frame) { deliverPicture(frame); });
-    return hasRead;
+    return true;
 }
 
 bool StreamDecoder::open()

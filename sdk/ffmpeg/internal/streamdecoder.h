@@ -34,8 +34,8 @@ class StreamDecoder
 public:
     StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, std::stop_token stop);
 
-    /// Decodes until the stream ends, is given up or a stop is requested. Returns whether anything of it
-    /// could be read.
+    /// Decodes until the stream ends, is given up or a stop is requested. Returns false when it has no head
+    /// that can be read.
     bool run();
 
 private:

@@ -8,7 +8,7 @@ namespace sdk::ffmpeg {
 namespace {
 
 /// Heads are about one kilobyte; reading one again is to cost little.
-constexpr std::size_t longestHead = std::size_t{64} * 1024;
+constexpr std::size_t longestHead = std::size_t{16} * 1024;
 
 /// What a reader may pass without making something of it. A cluster holds at least one picture or piece of
 /// sound, and a picture never takes so many bytes.

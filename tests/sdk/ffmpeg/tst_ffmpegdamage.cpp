@@ -54,6 +54,7 @@ private Q_SLOTS:
     void boundsSizes_data();
     void boundsSizes();
     void boundsPieces();
+    void goesOnAfterLongDamage();
     void changesTheSampleRate();
 };
 
@@ -255,6 +256,23 @@ void FfmpegDamageTest::boundsPieces()
         QTRY_VERIFY(port.push(more));
     QTRY_VERIFY(port.receiver.pictures().size() > 2); // the stream was given up, and taken up again
     QVERIFY(port.status().damages > 0);
+}
+
+void FfmpegDamageTest::goesOnAfterLongDamage()
+{
+    LiveStream stream(mjpeg);
+    TestPort port;
+    QVERIFY(port.push(stream.head() + stream.pictures(2)));
+    QTRY_COMPARE(port.receiver.pictures().size(), 2);
+    QByteArray broken;
+    for (unsigned cluster = 0; cluster < 30; ++cluster)
+        broken += QByteArray("\x1F\x43\xB6\x75", 4) + randomBytes(100, cluster);
+    QVERIFY(port.push(broken));
+    QVERIFY(port.push(stream.pictures(10, 2)));
+    QTRY_VERIFY(port.isIdle());
+    QVERIFY2(port.receiver.pictures().size() >= 7,
+             qPrintable(QString::number(port.receiver.pictures().size())));
+    QVERIFY(distance(port.receiver.pictures().last(), Patches::numbered(11)) < nearEnough);
 }
 
 void FfmpegDamageTest::changesTheSampleRate()

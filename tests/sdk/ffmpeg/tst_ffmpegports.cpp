@@ -284,7 +284,7 @@ void FfmpegPortsTest::hundredStartsLeaveNothing()
     bytes.chop(500); // ends in the middle of a piece
     FfmpegDecoderLibrary library;
     const qsizetype threadsBefore = threads();
-    double memory = 0;
+    [[maybe_unused]] double memory = 0;
     for (int start = 0; start < 100; ++start) {
         Receiver receiver;
         std::int32_t port = -1;
