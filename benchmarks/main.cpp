@@ -12,6 +12,7 @@ int main(int argc, char *argv[])
     figures.append(measureDeviceFiles());
     figures.append(measureEncodePage());
     figures.append(measureCgiRequests());
+    figures.append(measureDecoding());
     figures.append(measureStart());
     figures.append(measureMemory());
     figures.append(measureDevicePage());

@@ -11,6 +11,8 @@
 
 /// Commands to a web server against another client of the same library.
 [[nodiscard]] Figure measureCgiRequests();
+/// Live streams into pictures, against the decoder's own program on one thread.
+[[nodiscard]] QList<Figure> measureDecoding();
 
 /// Start of the program against an empty window of the toolkit.
 [[nodiscard]] Figure measureStart();

@@ -1,0 +1,145 @@
+#include "benchmarks/measurements.h"
+
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace {
+
+constexpr int pictures = 300;
+constexpr int runs = 5;
+constexpr int patience = 120000;
+constexpr std::uint32_t bufferSize = 8388608;
+constexpr std::uint32_t pieceSize = 65536;
+
+/// Counts pictures on the port's thread, and lets another thread wait for them.
+class PictureCount
+{
+public:
+    static void handle(std::int32_t, const std::uint8_t *, std::int32_t, const sdk::DecodedFrameInformation *,
+                       void *user)
+    {
+        auto *count = static_cast<PictureCount *>(user);
+        const std::lock_guard lock(count->m_mutex);
+        ++count->m_count;
+        count->m_changed.notify_one();
+    }
+
+    void waitFor(int wanted)
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait_for(lock, std::chrono::milliseconds(patience), [&] { return m_count >= wanted; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_count = 0;
+};
+
+/// Pushes a stream into a port of its own and waits for so many pictures.
+void decode(const QByteArray &stream, int wanted)
+{
+    sdk::ffmpeg::FfmpegDecoderLibrary library;
+    PictureCount count;
+    std::int32_t port = -1;
+    library.DecoderAllocPort(port);
+    library.DecoderOpenStream(port, nullptr, 0, bufferSize);
+    library.DecoderSetDecodeCallback(port, &PictureCount::handle, &count);
+    library.DecoderPlay(port, 0);
+    const auto *bytes = reinterpret_cast<const std::uint8_t *>(stream.constData());
+    const auto size = static_cast<std::uint32_t>(stream.size());
+    for (std::uint32_t place = 0; place < size; place += pieceSize) {
+        while (!library.DecoderInputData(port, bytes + place, std::min(pieceSize, size - place)))
+            std::this_thread::sleep_for(std::chrono::milliseconds(1)); // its buffer is full
+    }
+    count.waitFor(wanted);
+    library.DecoderFreePort(port);
+}
+
+/// A live stream of 1080p H.264 as a file. False when it cannot be made here.
+bool makeStream(const QString &path)
+{
+    QProcess maker;
+    maker.start(QStringLiteral("ffmpeg"), {QStringLiteral("-v"),
+                                           QStringLiteral("error"),
+                                           QStringLiteral("-f"),
+                                           QStringLiteral("lavfi"),
+                                           QStringLiteral("-i"),
+                                           QStringLiteral("testsrc2=size=1920x1080:rate=25"),
+                                           QStringLiteral("-frames:v"),
+                                           QString::number(pictures),
+                                           QStringLiteral("-c:v"),
+                                           QStringLiteral("libx264"),
+                                           QStringLiteral("-preset"),
+                                           QStringLiteral("veryfast"),
+                                           QStringLiteral("-tune"),
+                                           QStringLiteral("zerolatency"),
+                                           QStringLiteral("-g"),
+                                           QStringLiteral("50"),
+                                           QStringLiteral("-b:v"),
+                                           QStringLiteral("4M"),
+                                           QStringLiteral("-f"),
+                                           QStringLiteral("matroska"),
+                                           QStringLiteral("-live"),
+                                           QStringLiteral("1"),
+                                           path});
+    return maker.waitForFinished(patience) && maker.exitCode() == 0;
+}
+
+/// What the peer says that it took, without its start; nothing when it does not work here.
+std::optional<double> peerMilliseconds(const QString &path)
+{
+    QProcess peer;
+    peer.setProcessChannelMode(QProcess::MergedChannels);
+    peer.start(QStringLiteral("ffmpeg"), {QStringLiteral("-benchmark"), QStringLiteral("-threads"),
+                                          QStringLiteral("1"), QStringLiteral("-i"), path,
+                                          QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")});
+    peer.waitForFinished(patience);
+    static const QRegularExpression said(QStringLiteral("bench: .*rtime=([0-9.]+)s"));
+    const QRegularExpressionMatch match = said.match(QString::fromUtf8(peer.readAll()));
+    constexpr double millisecondsPerSecond = 1000;
+    return match.hasMatch() ? std::optional(match.captured(1).toDouble() * millisecondsPerSecond)
+                            : std::nullopt;
+}
+
+} // namespace
+
+QList<Figure> measureDecoding()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("stream.mkv"));
+    QFile file(path);
+    if (!makeStream(path) || !file.open(QFile::ReadOnly))
+        return {};
+    const QByteArray stream = file.readAll();
+    QList<double> own;
+    QList<double> peer;
+    for (int run = 0; run < runs; ++run) { // in turn, so that both feel the same unrest
+        own.append(medianMilliseconds(1, [&] { decode(stream, pictures); }));
+        if (const std::optional<double> time = peerMilliseconds(path))
+            peer.append(*time);
+    }
+    return {{.subject = QStringLiteral("%1 pictures of 1080p H.264 through a port").arg(pictures),
+             .value = median(own),
+             .unit = QStringLiteral("ms"),
+             .budget = 3000,
+             .peer = peer.isEmpty() ? std::nullopt : std::optional(median(peer)),
+             .largestRatio = 1.11, // nine tenths of its pictures a second
+             .peerName = QStringLiteral("ffmpeg -f null")},
+            {.subject = QStringLiteral("first picture of a port after its key picture"),
+             .value = medianMilliseconds(runs, [&] { decode(stream.first(stream.size() / 10), 1); }),
+             .unit = QStringLiteral("ms"),
+             .budget = 300,
+             .peer = {},
+             .largestRatio = {},
+             .peerName = {}}};
+}
