@@ -16,8 +16,9 @@ class DecoderPort;
 /// whatever size and encoding. What is damaged is left out. Pictures are delivered one by one as they arrive,
 /// up to a size of 8192 x 4320.
 ///
-/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. FFmpeg's own lines go
-/// to the logging category "configtools.sdk.ffmpeg", for the whole process, from the first library on.
+/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. An operation that is
+/// called in a handler fails. FFmpeg's own lines go to the logging category "configtools.sdk.ffmpeg", for the
+/// whole process, from the first library on.
 class FfmpegDecoderLibrary final : public DecoderLibrary
 {
 public:
