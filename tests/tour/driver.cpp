@@ -1,8 +1,10 @@
 #include "tests/tour/driver.h"
 
+#include <QApplication>
 #include <QDir>
-#include <QGuiApplication>
+#include <QFileDialog>
 #include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QTest>
 #include <QTextStream>
@@ -121,6 +123,27 @@ void Driver::doubleClick(const QString &name) const
     QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier, middleOf(require(name)));
 }
 
+void Driver::rightClick(const QString &name) const
+{
+    QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, middleOf(require(name)));
+}
+
+void Driver::answerFileBox(const QString &path) const
+{
+    QFileDialog *box = nullptr;
+    await(QStringLiteral("the box for files opens"), [&] {
+        box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        return box && box->isVisible();
+    });
+    auto *field = box->findChild<QLineEdit *>();
+    check(field != nullptr, QStringLiteral("the box has a field for a path"));
+    field->setFocus();
+    field->setText(path);
+    QTest::keyClick(field, Qt::Key_Return);
+    await(QStringLiteral("the box for files is closed"),
+          [] { return QApplication::activeModalWidget() == nullptr; });
+}
+
 void Driver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 {
     QTest::keyClick(m_window, key, modifiers);
@@ -146,7 +169,11 @@ void Driver::fill(const QString &name, const QString &text) const
     QQuickItem *field = require(name);
     atRest();
     const QPoint place = field->mapToScene(QPointF(field->width() / 2, intoField)).toPoint();
-    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, place);
+    // Input may be held back yet after what was done before.
+    await(QStringLiteral("\"%1\" has the keyboard").arg(name), [&] {
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, place);
+        return field->hasActiveFocus();
+    });
     key(Qt::Key_A, Qt::ControlModifier);
     key(Qt::Key_Delete);
     type(text);

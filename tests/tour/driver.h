@@ -38,6 +38,7 @@ public:
     void click(const QString &name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void hover(const QString &name) const;
     void doubleClick(const QString &name) const;
+    void rightClick(const QString &name) const;
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
     /// Types into the item that has the keyboard. Text that no key makes is put in as an input method does.
@@ -45,6 +46,9 @@ public:
 
     /// Replaces the text of a field.
     void fill(const QString &name, const QString &text) const;
+
+    /// Answers the desktop's box for files and folders with a path, as a user types it.
+    void answerFileBox(const QString &path) const;
 
     /// Goes on when `condition` holds; ends the tour with `what` when it does not within `seconds`.
     void await(const QString &what, const std::function<bool()> &condition, int seconds = 15) const;

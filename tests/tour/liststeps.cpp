@@ -2,34 +2,13 @@
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
-#include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QTest>
 
 #include <algorithm>
 
 namespace {
-
-/// Answers the desktop's box for files and folders with a path, as a user types it.
-void answerFileBox(const Driver &driver, const QString &path)
-{
-    QFileDialog *box = nullptr;
-    driver.await(QStringLiteral("the box for files opens"), [&] {
-        box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        return box && box->isVisible();
-    });
-    auto *field = box->findChild<QLineEdit *>();
-    driver.check(field != nullptr, QStringLiteral("the box has a field for a path"));
-    field->setFocus();
-    field->setText(path);
-    QTest::keyClick(field, Qt::Key_Return);
-    driver.await(QStringLiteral("the box for files is closed"),
-                 [] { return QApplication::activeModalWidget() == nullptr; });
-}
 
 void expectMessage(const Driver &driver, const QString &expected)
 {
@@ -51,7 +30,7 @@ void writeList(Driver &driver, const QString &format, const QString &folder)
     driver.click(QStringLiteral("format") + format);
     driver.report(QStringLiteral("export") + format, QStringLiteral("the format is chosen"));
     driver.click(QStringLiteral("okButton"));
-    answerFileBox(driver, folder);
+    driver.answerFileBox(folder);
     expectMessage(driver,
                   translated("导出设备成功\n文件路径:") + folder + QStringLiteral("/device") + format);
     driver.check(QFile::exists(folder + QStringLiteral("/device") + format),
@@ -61,7 +40,7 @@ void writeList(Driver &driver, const QString &format, const QString &folder)
 void readList(const Driver &driver, const QString &path)
 {
     driver.click(QStringLiteral("importButton"));
-    answerFileBox(driver, path);
+    driver.answerFileBox(path);
 }
 
 /// Puts accounts into a list of comma-separated text, as whoever hands it on fills them in.

@@ -28,6 +28,8 @@ void walkSystem(Driver &driver);
 void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site);
 /// Live pictures of a camera and of a recorder, and snapshots; their pictures go into `folder`.
 void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+/// Commands over HTTP to one device, to several, and from a workbook, which is written into `folder`.
+void walkCommands(Driver &driver, const QString &folder);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

@@ -10,7 +10,7 @@ Rectangle {
 
     readonly property var lines: [
         [figures.width ?? 0, figures.height ?? 0].join(" × ") + "   " + (figures.codec ?? ""),
-        qsTr("%1 帧/秒   %2 kbit/s").arg(Math.round(figures.rate ?? 0)).arg(figures.bitRate ?? 0),
+        qsTr("%1 帧/秒   %2 kbit/s").arg(Math.round(figures.rate ?? 0)).arg(Math.round(figures.bitRate ?? 0)),
         //: Data of a live stream that is not yet decoded.
         qsTr("待解码 %1 KB").arg(Math.round((figures.waiting ?? 0) / 1024))
     ].concat((figures.audioCodec ?? "") === "" ? [] : [qsTr("音频 %1").arg(figures.audioCodec)])

@@ -17,7 +17,7 @@ FocusScope {
     readonly property var cgiManager: CGIConfigManageApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    readonly property var work: sender.running ? sender : workbook.running ? workbook : null
+    readonly property var work: cgiSender.running ? cgiSender : workbook.running ? workbook : null
 
     property bool outdated: false  // the table lacks what was found since
 
@@ -61,13 +61,13 @@ FocusScope {
         }
     }
     CgiCommands {
-        id: commands
+        id: cgiCommands
         cgiManager: page.cgiManager
     }
     CgiSender {
-        id: sender
+        id: cgiSender
         cgiManager: page.cgiManager
-        commands: commands
+        commands: cgiCommands
         deviceFactory: page.deviceFactory
         deviceTable: devices
         localConfig: page.localConfig
@@ -84,9 +84,9 @@ FocusScope {
         id: batchWindow
         visible: false
         sourceComponent: BatchCGIWindow {
-            commands: commands
-            sender: sender
-            onConfirmed: command => sender.sendToAll(devices.checkedRows(), command)
+            commands: cgiCommands
+            sender: cgiSender
+            onConfirmed: command => cgiSender.sendToAll(devices.checkedRows(), command)
             onRefused: message => page.said(message, OVToast.Error)
         }
     }
@@ -141,7 +141,7 @@ FocusScope {
         width: parent.width - 2 * x
         height: foot.y - y
         checkState: devices.checkState
-        commands: commands
+        commands: cgiCommands
         deviceFactory: page.deviceFactory
         focus: true
         model: devices
@@ -154,7 +154,7 @@ FocusScope {
             page.said(qsTr("复制成功"), OVToast.Success);
         }
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onSendRequested: row => sender.send(row)
+        onSendRequested: row => cgiSender.send(row)
         onSortRequested: key => devices.toggleSort(key)
 
         ModifyIPEmptyState {

@@ -86,7 +86,7 @@ void HttpTest::sendsAPicture()
     QCOMPARE(test.ask("/cgi-bin/picture?brightness=90").status, 200);
     const QImage bright = QImage::fromData(test.ask("/cgi-bin/snapshot").body, "JPG");
     // In the second bar, which is yellow.
-    const QPoint place(usual.width() * 3 / 16, usual.height() * 3 / 4);
+    const QPoint place(usual.width() * 28 / 100, usual.height() * 17 / 100);
     QVERIFY(qGreen(usual.pixel(place)) > qBlue(usual.pixel(place)) + 100);
     QVERIFY(qGreen(bright.pixel(place)) > qGreen(usual.pixel(place)) + 30);
 }

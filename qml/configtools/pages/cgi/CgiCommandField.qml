@@ -1,6 +1,5 @@
 // A field for a command. While it has the keyboard it offers what was sent before; the star keeps a command.
 import QtQuick
-import QtQuick.Templates as T
 import configtools
 
 FocusScope {
@@ -19,13 +18,17 @@ FocusScope {
         offers = field.activeFocus ? commands.matching(field.text) : [];
         marked = -1;
         if (offers.length > 0)
-            list.open();
+            list.wanted().open();
         else
-            list.close();
+            close();
+    }
+
+    function close() {
+        list.item?.close();
     }
 
     function take(command) {
-        list.close();
+        close();
         field.text = command;
         edited();
     }
@@ -43,10 +46,10 @@ FocusScope {
         placeholderText: "/cgi-bin/"
         textFont: Theme.figureFont
         onAccepted: {
-            list.close();
+            root.close();
             root.accepted();
         }
-        onActiveFocusChanged: if (!activeFocus) list.close()
+        onActiveFocusChanged: if (!activeFocus) root.close()
         onEdited: {
             root.edited();
             root.offer();
@@ -54,18 +57,18 @@ FocusScope {
 
         Keys.priority: Keys.BeforeItem
         Keys.onDownPressed: {
-            if (!list.visible)
+            if (!list.offering)
                 root.offer();
             else
                 root.marked = Math.min(root.offers.length - 1, root.marked + 1);
         }
         Keys.onUpPressed: root.marked = Math.max(-1, root.marked - 1)
         Keys.onEscapePressed: event => {
-            event.accepted = list.visible;
-            list.close();
+            event.accepted = list.offering;
+            root.close();
         }
         Keys.onReturnPressed: event => {
-            event.accepted = list.visible && root.marked >= 0;
+            event.accepted = list.offering && root.marked >= 0;
             if (event.accepted)
                 root.take(root.offers[root.marked]);
         }
@@ -83,69 +86,21 @@ FocusScope {
         onClicked: root.commands.setFavourite(field.text.trim(), !root.starred)
     }
 
-    // qmllint disable unqualified
-    T.Popup {
+    // Made when there is something to offer: a table has one of these in each row.
+    OVOnDemand {
         id: list
-        y: Theme.controlHeight + Theme.half
-        width: root.width
-        implicitHeight: column.implicitHeight + topPadding + bottomPadding
-        margins: Theme.unit
-        topPadding: Theme.half
-        bottomPadding: Theme.half
-        closePolicy: T.Popup.CloseOnPressOutsideParent
-        focus: false
-
-        contentItem: Column {
-            id: column
-
-            Repeater {
-                model: root.offers
-
-                Rectangle {
-                    id: entry
-
-                    required property int index
-                    required property string modelData
-
-                    x: Theme.half
-                    width: root.width - 2 * Theme.half
-                    height: Theme.controlHeight
-                    color: root.marked === index || pointer.hovered ? Theme.colours.accentSoft : Theme.colours.clear
-                    objectName: "cgiOffer" + index
-                    radius: Theme.smallRadius
-
-                    OVIcon {
-                        id: sign
-                        x: Theme.half
-                        anchors.verticalCenter: parent.verticalCenter
-                        color: root.commands.isFavourite(entry.modelData) ? Theme.colours.warn : Theme.colours.faint
-                        name: root.commands.isFavourite(entry.modelData) ? "star" : "history"
-                        size: Theme.smallIconSize
-                    }
-                    OVLabel {
-                        x: sign.x + sign.width + Theme.unit
-                        width: parent.width - x - Theme.half
-                        height: parent.height
-                        font: Theme.figureFont
-                        text: entry.modelData
-                    }
-                    HoverHandler {
-                        id: pointer
-                    }
-                    TapHandler {
-                        onTapped: root.take(entry.modelData)
-                    }
-                }
-            }
+        readonly property bool offering: (item as CgiOffers)?.visible ?? false
+        visible: false
+        // qmllint disable unqualified
+        sourceComponent: CgiOffers {
+            y: Theme.controlHeight + Theme.half
+            width: root.width
+            commands: root.commands
+            marked: root.marked
+            offers: root.offers
+            parent: root
+            onTaken: command => root.take(command)
         }
-        background: Rectangle {
-            border.color: Theme.colours.line
-            border.width: Theme.line
-            color: Theme.colours.surface
-            radius: Theme.controlRadius
-
-            OVShadow { around: Theme.controlRadius; depth: 12 }
-        }
+        // qmllint enable unqualified
     }
-    // qmllint enable unqualified
 }
