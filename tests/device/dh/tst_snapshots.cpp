@@ -1,0 +1,191 @@
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "media/videoitem.h"
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "tests/device/dh/scenedevices.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
+const QString other = QStringLiteral("02:1a:c5:00:00:04");
+const QString recorderPort = QStringLiteral("192.168.1.12:37777");
+const QString otherPort = QStringLiteral("192.168.1.13:37777");
+constexpr int longWait = 30000;
+
+struct Capture
+{
+    int channel;
+    QString path;
+    QString message;
+    bool operator==(const Capture &) const = default;
+};
+
+} // namespace
+
+/// Snapshots of a simulated recorder: real streams, decoded and written.
+class TestSnapshots : public QObject
+{
+    Q_OBJECT
+private:
+    QTemporaryDir m_folder;
+    std::shared_ptr<sdk::demo::DemoSite> m_site;
+
+    CDeviceFactory *factory() { return CDeviceFactory::getinstance(); }
+
+    /// Asks for snapshots and waits for `count` of them.
+    QList<Capture> take(const QString &kind, int channel, const QString &folder, int count)
+    {
+        const bool isAll = kind == QLatin1String("liveCapture");
+        QSignalSpy taken(factory(), isAll ? &CDeviceFactory::signalSnapPictureToFile
+                                          : &CDeviceFactory::signalSnapPictureToFileAgain);
+        factory()->snapPictureToFile("dh", kind, channel, folder);
+        if (!QTest::qWaitFor([&] { return taken.size() >= count; }, longWait))
+            return {};
+        QList<Capture> captures;
+        for (const QVariantList &arguments : std::as_const(taken))
+            captures.append(
+                {arguments.at(0).toInt(), arguments.at(1).toString(), arguments.at(2).toString()});
+        return captures;
+    }
+
+    static QString pathOf(const QString &folder, int channel)
+    {
+        return QDir::current().absoluteFilePath(QStringLiteral("snap/%1/%2.jpg").arg(folder).arg(channel));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QDir::setCurrent(m_folder.path());
+        QDir(QStringLiteral("snap")).removeRecursively();
+        sdk::demo::Scene scene;
+        scene.devices = {sceneDevice(recorder, "192.168.1.12", "NVR"), sceneDevice(other, "192.168.1.13")};
+        for (const QString &name : {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")})
+            scene.devices[0].channels.append({name, name != QLatin1String("B")});
+        for (const QString &name : {QStringLiteral("D"), QStringLiteral("E"), QStringLiteral("F")})
+            scene.devices[1].channels.append({name, true});
+        m_site = sdk::demo::DemoSite::create(scene, std::make_shared<sdk::SystemClock>());
+        sdk::SdkLibraries libraries = m_site->libraries();
+        libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
+        VideoItem::registerLibraries(libraries);
+        const auto store = std::make_shared<DeviceStore>(libraries.clock);
+        CDeviceFactory::registerBackEnd("dh", [libraries, store] {
+            return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
+        });
+        QCOMPARE(factory()->findAndLoginDevice("dh", recorderPort, "admin", "secret1"), 0);
+    }
+
+    void cleanup()
+    {
+        CDeviceFactory::deleteInstance();
+        VideoItem::registerLibraries({});
+        m_site.reset();
+    }
+
+    void everyChannelIsReportedInTurn()
+    {
+        const QList<Capture> captures = take("liveCapture", 0, "rec", 3);
+        const QList<Capture> expected = {{0, "file:///" + pathOf("rec", 0), {}},
+                                         {1, {}, QStringLiteral("通道未连接")},
+                                         {2, "file:///" + pathOf("rec", 2), {}}};
+        QCOMPARE(captures, expected);
+        const QImage first(pathOf("rec", 0));
+        QVERIFY(!first.isNull());
+        QVERIFY(first != QImage(pathOf("rec", 2))); // each channel has a picture of its own
+        QVERIFY(!QFile::exists(pathOf("rec", 1)));
+    }
+
+    void aChannelIsTakenAgainIntoTheSameFile()
+    {
+        const QString path = pathOf("rec", 2);
+        QDir().mkpath(QFileInfo(path).path());
+        QFile before(path);
+        QVERIFY(before.open(QFile::WriteOnly) && before.write("an older picture") > 0);
+        before.close();
+        QCOMPARE(take("againCapture", 2, "rec", 1), (QList<Capture>{{2, "file:///" + path, {}}}));
+        QVERIFY(!QImage(path).isNull());
+        QCOMPARE(QDir(QStringLiteral("snap/rec")).entryList(QDir::Files).size(), 1);
+    }
+
+    void anotherKindDoesNothing()
+    {
+        QSignalSpy all(factory(), &CDeviceFactory::signalSnapPictureToFile);
+        QSignalSpy again(factory(), &CDeviceFactory::signalSnapPictureToFileAgain);
+        factory()->snapPictureToFile("dh", "capture", 0, "rec");
+        QCOMPARE(take("againCapture", 1, "rec", 1).size(), 1); // what is asked for later is done later
+        QCOMPARE(all.size(), 0);
+        QCOMPARE(again.size(), 1);
+    }
+
+    void aDeviceCannotLeadOutOfTheFolder_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("up") << QStringLiteral("../../rec");
+        QTest::newRow("absolute") << QStringLiteral("/rec");
+        QTest::newRow("dots") << QStringLiteral("..");
+        QTest::newRow("empty") << QString();
+    }
+
+    void aDeviceCannotLeadOutOfTheFolder()
+    {
+        QFETCH(QString, name);
+        const QList<Capture> captures = take("againCapture", 0, name, 1);
+        QCOMPARE(captures.size(), 1);
+        const QString folder = "file:///" + QDir::current().absoluteFilePath(QStringLiteral("snap/"));
+        const QString path = captures.first().path;
+        QVERIFY(path.startsWith(folder));
+        QCOMPARE(path.mid(folder.size()).count('/'), 1);
+        QCOMPARE(QDir::cleanPath(path.mid(8)), path.mid(8));
+    }
+
+    void aPictureThatComesTooLateIsAFailure()
+    {
+        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
+        QCOMPARE(take("againCapture", 0, "rec", 1), (QList<Capture>{{0, {}, QStringLiteral("抓图失败")}}));
+    }
+
+    void withoutChannelStatesEveryChannelCountsAsConnected()
+    {
+        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::RefusesChannelStates}));
+        const QList<Capture> captures = take("liveCapture", 0, "rec", 3);
+        QCOMPARE(captures.size(), 3);
+        QCOMPARE(captures.at(1).message, QStringLiteral("抓图失败")); // it was tried
+    }
+
+    void anotherDevicesPictureIsNotTaken()
+    {
+        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 1000}));
+        QSignalSpy taken(factory(), &CDeviceFactory::signalSnapPictureToFile);
+        factory()->snapPictureToFile("dh", "liveCapture", 0, "rec");
+        QVERIFY(m_site->requests().waitFor("NetStartRealStream", 1));
+        QCOMPARE(factory()->findAndLoginDevice("dh", otherPort, "admin", "secret1"), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(taken.size(), 3, longWait);
+        QCOMPARE(taken.at(2).at(2).toString(), QStringLiteral("抓图失败"));
+        QVERIFY(!QFile::exists(pathOf("rec", 2)));
+    }
+
+    void theEndOfTheProgramGivesThemUp()
+    {
+        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
+        factory()->snapPictureToFile("dh", "liveCapture", 0, "rec");
+        QVERIFY(m_site->requests().waitFor("NetStartRealStream", 1));
+        QElapsedTimer time;
+        time.start();
+        CDeviceFactory::deleteInstance();
+        QVERIFY(time.elapsed() < 2000); // less than the tries of one channel
+    }
+};
+
+QTEST_MAIN(TestSnapshots)
+#include "tst_snapshots.moc"
