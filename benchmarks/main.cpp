@@ -13,6 +13,7 @@ int main(int argc, char *argv[])
     figures.append(measureEncodePage());
     figures.append(measureCgiRequests());
     figures.append(measureDecoding());
+    figures.append(measureLiveView());
     figures.append(measureStart());
     figures.append(measureMemory());
     figures.append(measureDevicePage());

@@ -11,6 +11,10 @@
 
 /// Commands to a web server against another client of the same library.
 [[nodiscard]] Figure measureCgiRequests();
+
+/// Live pictures on the screen, and what 100 live views leave behind.
+[[nodiscard]] QList<Figure> measureLiveView();
+
 /// Live streams into pictures, against the decoder's own program on one thread.
 [[nodiscard]] QList<Figure> measureDecoding();
 

@@ -1,0 +1,168 @@
+#include "benchmarks/measurements.h"
+
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "media/videoitem.h"
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/encodeblocks.h"
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "sdk/netlibrary.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <sys/resource.h>
+
+namespace {
+
+constexpr int longWait = 15000;
+
+/// A simulated recorder that is logged in to, for as long as this lives.
+class LiveSite
+{
+public:
+    LiveSite()
+    {
+        QString error;
+        m_libraries.clock = std::make_shared<sdk::SystemClock>();
+        const auto site = sdk::demo::DemoSite::open(QStringLiteral("office"), m_libraries.clock, &error);
+        m_libraries = site->libraries();
+        m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
+        VideoItem::registerLibraries(m_libraries);
+        const auto store = std::make_shared<DeviceStore>(m_libraries.clock);
+        CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [libraries = m_libraries, store] {
+            return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
+        });
+        CDeviceFactory::getinstance()->findAndLoginDevice(
+            QStringLiteral("dh"), QStringLiteral("192.168.1.120:8800"), QStringLiteral("admin"),
+            QStringLiteral("Office-2024"));
+        // Shaders are looked up in the working directory.
+        QDir::setCurrent(QFileInfo(QStringLiteral(CONFIGTOOLS_PROGRAM)).path());
+    }
+    ~LiveSite()
+    {
+        CDeviceFactory::deleteInstance();
+        VideoItem::registerLibraries({});
+        QDir::setCurrent(m_folder);
+    }
+    LiveSite(const LiveSite &) = delete;
+    LiveSite &operator=(const LiveSite &) = delete;
+
+    void setMainStream(int width, int height) const
+    {
+        using namespace std::chrono_literals;
+        const qint64 login = CDeviceFactory::getinstance()
+                                 ->getConfigData(QStringLiteral("dh"), QStringLiteral("loginHandle"))
+                                 .toLongLong();
+        const auto number = static_cast<std::uint32_t>(sdk::EncodeItem::VideoFormat);
+        sdk::VideoFormatItem item = {};
+        item.size = sizeof(item);
+        m_libraries.net->NetGetItem(login, number, 0, &item, sizeof(item), 5000ms);
+        item.width = width;
+        item.height = height;
+        item.frameRate = 25;
+        m_libraries.net->NetSetItem(login, number, 0, &item, sizeof(item), 5000ms);
+    }
+
+private:
+    const QString m_folder = QDir::currentPath();
+    sdk::SdkLibraries m_libraries;
+};
+
+/// Processor time of this process in milliseconds.
+double processorTime()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto milliseconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) * 1000 + static_cast<double>(time.tv_usec) / 1000;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
+}
+
+double residentMegabytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QFile::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.simplified().split(' ').value(1).toDouble() / 1024;
+    }
+    return 0;
+}
+
+void awaitPicture(const VideoItem &video)
+{
+    if (!QTest::qWaitFor([&] { return video.hasPicture(); }, longWait))
+        qWarning("no live picture came");
+}
+
+Figure measureShowing(const LiveSite &site, int width, int height)
+{
+    site.setMainStream(width, height);
+    QQuickWindow window;
+    window.resize(1280, 720);
+    VideoItem video(window.contentItem());
+    video.setSize(window.size());
+    video.setChannelId(0);
+    window.show();
+    video.start();
+    awaitPicture(video);
+    constexpr int seconds = 5;
+    int pictures = 0;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] { ++pictures; });
+    const double before = processorTime();
+    QTest::qWait(seconds * 1000);
+    const double spent = processorTime() - before;
+    video.stop();
+    return {.subject =
+                QStringLiteral("processor time per shown picture, %1p, %2 pictures/s, drawn in software, "
+                               "with the simulated camera")
+                    .arg(height)
+                    .arg(pictures / seconds),
+            .value = spent / std::max(pictures, 1),
+            .unit = QStringLiteral("ms"),
+            .budget = 2 * 1000.0 / 25, // of two cores
+            .peer = {},
+            .largestRatio = {},
+            .peerName = {}};
+}
+
+Figure measureStarts(const LiveSite &site)
+{
+    site.setMainStream(1280, 720);
+    constexpr int settled = 10;
+    constexpr int starts = 100;
+    double settledMemory = 0;
+    VideoItem video;
+    video.setChannelId(0);
+    for (int start = 1; start <= starts; ++start) {
+        video.start();
+        awaitPicture(video);
+        video.stop();
+        if (start == settled)
+            settledMemory = residentMegabytes();
+    }
+    return {.subject = QStringLiteral("growth of memory from the 10th to the 100th live view"),
+            .value = residentMegabytes() - settledMemory,
+            .unit = QStringLiteral("MB"),
+            .budget = 4, // what the allocator does not give back at once
+            .peer = {},
+            .largestRatio = {},
+            .peerName = {}};
+}
+
+} // namespace
+
+QList<Figure> measureLiveView()
+{
+    const LiveSite site;
+    return {measureShowing(site, 1280, 720), measureShowing(site, 1920, 1080), measureStarts(site)};
+}
