@@ -61,7 +61,7 @@ FocusScope {
 
     OVFocusRing {
         around: Theme.paneRadius
-        shown: body.activeFocus && !body.byPointer
+        shown: root.Window.activeFocusItem === body && !body.byPointer  // a field in a row has its own
     }
 
     OVTableHead {
