@@ -114,7 +114,9 @@ bool Shell::chooseLibraries()
     }
     m_libraries = site->libraries();
     m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
-    CGIConfigManage::getinstance()->setProxy(site->httpProxy());
+    // Without a port of its own the site is still the only one that may be asked: no real address is.
+    const QString proxy = site->httpProxy();
+    CGIConfigManage::getinstance()->setProxy(proxy.isEmpty() ? QStringLiteral("http://127.0.0.1:9") : proxy);
     return true;
 }
 

@@ -4,7 +4,6 @@
 #include "cgi/curltransport.h"
 #include "cgi/internal/batchrun.h"
 #include "device/devicefactory.h"
-#include "device/ipv4address.h"
 
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -135,12 +134,6 @@ QVariantList CGIConfigManage::sortList(const QVariantList &list, const QString &
     return sorted;
 }
 
-double CGIConfigManage::addressNumber(const QString &address) const
-{
-    const qsizetype colon = address.indexOf(QLatin1Char(':'));
-    return ipv4Number(QStringView(address).left(colon < 0 ? address.size() : colon)).value_or(0);
-}
-
 void CGIConfigManage::copyText(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
@@ -149,6 +142,11 @@ void CGIConfigManage::copyText(const QString &text)
 QString CGIConfigManage::templateFile() const
 {
     return m_surroundings.folder + QStringLiteral("/template/") + templateFileName();
+}
+
+QUrl CGIConfigManage::templateAddress() const
+{
+    return QUrl::fromLocalFile(templateFile());
 }
 
 QString CGIConfigManage::templateFileName()

@@ -48,15 +48,14 @@ public:
     /// The rows (maps) ordered by the text of one field, equal ones as they were.
     Q_INVOKABLE QVariantList sortList(const QVariantList &list, const QString &key, Qt::SortOrder order);
 
-    /// The number by which an address or "address:port" is ordered: that of the IPv4 address, 0 for any other
-    /// text.
-    Q_INVOKABLE double addressNumber(const QString &address) const;
-
     /// Puts the text on the clipboard.
     Q_INVOKABLE void copyText(const QString &text);
 
     /// The workbook to begin from, in the user's language: the path of a file beside the program.
     Q_INVOKABLE QString templateFile() const;
+
+    /// The address by which the desktop opens it.
+    Q_INVOKABLE QUrl templateAddress() const;
 
     /// The name of that file alone.
     [[nodiscard]] static QString templateFileName();

@@ -32,6 +32,14 @@ std::optional<qint64> wholeNumber(const QString &cell)
     return static_cast<qint64>(number);
 }
 
+/// The address alone of "address:web port"; an IPv6 address stands in brackets before a port.
+QString withoutPort(const QString &address)
+{
+    static const QRegularExpression port(QStringLiteral(":\\d+$"));
+    const bool isBareIpv6 = address.count(QLatin1Char(':')) > 1 && !address.startsWith(QLatin1Char('['));
+    return isBareIpv6 ? address : QString(address).remove(port);
+}
+
 /// Only what a host and its port consist of: with anything else in front, a command, and the password with
 /// it, could go to another machine than the one that the row seems to name.
 bool isHost(const QString &address)
@@ -88,7 +96,8 @@ WorkbookCommand CommandWorkbook::command(int row)
     command.row = row;
     command.command = text(row, CommandColumn).trimmed();
     command.url = scheme + address + command.command;
-    command.ipport = address + QLatin1Char(':') + (portNumber ? QString::number(*portNumber) : port);
+    command.ipport =
+        withoutPort(address) + QLatin1Char(':') + (portNumber ? QString::number(*portNumber) : port);
     command.user = text(row, UserColumn);
     command.password = text(row, PasswordColumn);
     if (command.command.isEmpty())

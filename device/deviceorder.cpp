@@ -21,8 +21,8 @@ std::optional<double> addressAndPortNumber(const QString &ipport)
 
 } // namespace
 
-DeviceOrder::DeviceOrder(QString key)
-    : m_key(std::move(key)),
+DeviceOrder::DeviceOrder(QString key, OddAddresses oddAddresses)
+    : m_key(std::move(key)), m_oddAddresses(oddAddresses),
       // The "C" language knows no numbers in texts.
       m_collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale())
 {
@@ -41,7 +41,7 @@ DeviceOrder::SortKey DeviceOrder::sortKey(const QJsonObject &row) const
         key.number = value.toDouble();
     } else if (m_key == DeviceRowKey::ipport) {
         const std::optional<double> number = addressAndPortNumber(text);
-        key.behind = !number;
+        key.behind = !number && m_oddAddresses == OddAddresses::Behind;
         key.number = number.value_or(0);
     }
     return key;

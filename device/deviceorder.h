@@ -5,13 +5,19 @@
 #include <QJsonObject>
 #include <QString>
 
-/// Compares rows by one key: "ipport" by address and then port as numbers, with those that are no IPv4
-/// address behind the others; texts by the user's language, with numbers inside them by value; numbers and
-/// flags by value.
+/// Compares rows by one key: "ipport" by address and then port as numbers; texts by the user's language, with
+/// numbers inside them by value; numbers and flags by value.
 class DeviceOrder
 {
 public:
-    explicit DeviceOrder(QString key);
+    /// Where rows stand whose "ipport" is no IPv4 address.
+    enum class OddAddresses
+    {
+        Behind,
+        AsZero,
+    };
+
+    explicit DeviceOrder(QString key, OddAddresses oddAddresses = OddAddresses::Behind);
 
     /// Position of a row in the order, made once for each row before sorting.
     struct SortKey
@@ -27,5 +33,6 @@ public:
 
 private:
     const QString m_key;
+    const OddAddresses m_oddAddresses;
     QCollator m_collator;
 };

@@ -211,7 +211,8 @@ void DeviceTableModel::sortRows(QList<Row> &rows) const
 {
     if (m_sortKey.isEmpty())
         return;
-    const DeviceOrder order(m_sortKey);
+    const DeviceOrder order(m_sortKey, m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero
+                                                           : DeviceOrder::OddAddresses::Behind);
     std::vector<DeviceOrder::SortKey> keys;
     keys.reserve(rows.size());
     for (const Row &row : std::as_const(rows))

@@ -27,6 +27,8 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(bool showUninitialised READ showUninitialised WRITE setShowUninitialised NOTIFY filterChanged)
     Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
+    /// Whether texts that are no IPv4 address are ordered as the address 0 and not behind the others.
+    Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
@@ -125,6 +127,7 @@ private:
     bool m_showUninitialised = true;
     bool m_ipv6 = false;
     QString m_searchText;
+    bool m_oddAddressesFirst = false;
     QString m_sortKey; ///< empty: the order of the list
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 

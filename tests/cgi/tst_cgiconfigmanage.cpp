@@ -112,7 +112,7 @@ private Q_SLOTS:
         QVERIFY(writeWorkbook({titles,
                                {"10.0.0.1", "37777", "admin", "secret1", "/cgi-bin/a?b=c d", "0"},
                                {},
-                               {"10.0.0.2", "80.0", "admin", "a:b", "/cgi-bin/b", "1"},
+                               {"10.0.0.2:8443", "80.0", "admin", "a:b", "/cgi-bin/b", "1"},
                                {"10.0.0.3", "80", "admin", "wrong", "/cgi-bin/b"},
                                {"10.0.0.4", "80", "admin", "secret1", "cgi-bin/b"},
                                {"10.0.0.5", "80", "admin", "secret1", ""},
@@ -129,7 +129,7 @@ private Q_SLOTS:
                  "执行完成：成功3行，失败5行。\n执行结果已保存到文件：" + QDir::toNativeSeparators(path()));
         const QStringList expected = {"answer of http://10.0.0.1/cgi-bin/a?b=c%20d",
                                       "",
-                                      "answer of https://10.0.0.2/cgi-bin/b",
+                                      "answer of https://10.0.0.2:8443/cgi-bin/b",
                                       "Error:账号或密码错误。",
                                       "Error:URL格式错误。",
                                       "Error:请填写CGI命令的具体内容。",
@@ -248,25 +248,6 @@ private Q_SLOTS:
         engine.globalObject().setProperty("manager", engine.newQObject(m_manager.get()));
         const QJSValue first = engine.evaluate("manager.sortList([{a: '1'}, {a: '2'}], 'a', 1)[0].a");
         QCOMPARE(first.toString(), "2");
-    }
-
-    void ordersAddressesAsNumbers_data()
-    {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<double>("number");
-        QTest::newRow("address") << "192.168.1.9" << 3232235785.0;
-        QTest::newRow("with port") << "0.0.1.2:37777" << 258.0;
-        QTest::newRow("largest") << "255.255.255.255" << 4294967295.0;
-        QTest::newRow("part too large") << "192.168.1.256" << 0.0;
-        QTest::newRow("three parts") << "192.168.1" << 0.0;
-        QTest::newRow("IPv6") << "[fe80::1]:37777" << 0.0;
-        QTest::newRow("nothing") << "" << 0.0;
-    }
-
-    void ordersAddressesAsNumbers()
-    {
-        QFETCH(QString, address);
-        QTEST(m_manager->addressNumber(address), "number");
     }
 
     void remembersCommands()

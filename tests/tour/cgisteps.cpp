@@ -86,6 +86,9 @@ void walkOneDevice(Driver &driver)
     driver.report(u"cgi-offers"_s, u"what was sent before"_s);
     driver.key(Qt::Key_Down);
     driver.key(Qt::Key_Return);
+    driver.check(Rows(driver, u"cgiTable"_s).value(0, "url") == u"/cgi-bin/device?get=all"_s &&
+                     answerOf(driver, 0) == recording,
+                 u"Enter takes the offer and sends nothing"_s);
     driver.click(u"cgiStarButton"_s);
 }
 
@@ -109,6 +112,15 @@ void walkBatch(Driver &driver)
         answers += answerOf(driver, row).startsWith(u"name="_s) ? 1 : 0;
     driver.check(answers > 0, u"devices have told their names"_s);
     driver.report(u"cgi-batch-done"_s, answerOf(driver, 0));
+
+    // What is typed stays with its row when another one becomes the current one.
+    driver.click(u"cgiCommand3"_s);
+    driver.fill(u"cgiCommand3"_s, u"/cgi-bin/time"_s);
+    driver.key(Qt::Key_Escape);
+    driver.click(u"cgiCommand1"_s);
+    driver.check(Rows(driver, u"cgiTable"_s).value(3, "url") == u"/cgi-bin/time"_s &&
+                     Rows(driver, u"cgiTable"_s).value(1, "url") == u"/cgi-bin/device?get=name"_s,
+                 u"each row has its command"_s);
 }
 
 /// The template, filled in as a user does.

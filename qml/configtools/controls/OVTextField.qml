@@ -20,6 +20,8 @@ FocusScope {
     property bool secret: false
     /// What is dropped from a text that is pasted: line breaks, which a single line would hold unseen.
     property var unwanted: /[\r\n\t]/g
+    /// Sees each key before the field does, and takes it by accepting the event.
+    property var keyFilter: null
     signal edited
     signal accepted
 
@@ -56,8 +58,23 @@ FocusScope {
         Accessible.description: root.errorText
 
         onAccepted: root.accepted()
-        onTextEdited: root.edited()
-        onTextChanged: if (text.search(root.unwanted) >= 0) text = text.replace(root.unwanted, "")
+        onTextEdited: {
+            clean();
+            root.edited();
+        }
+        onTextChanged: clean()
+
+        function clean() {
+            if (text.search(root.unwanted) >= 0)
+                text = text.replace(root.unwanted, "");
+        }
+
+        Keys.priority: Keys.BeforeItem
+        Keys.onPressed: event => {
+            event.accepted = false;
+            if (root.keyFilter)
+                root.keyFilter(event);
+        }
         Keys.onEscapePressed: event => {
             event.accepted = root.clearable && text !== "";
             if (event.accepted)

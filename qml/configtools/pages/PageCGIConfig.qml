@@ -45,6 +45,7 @@ FocusScope {
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
+        oddAddressesFirst: true
         searchText: searchField.text.trim()
     }
     Connections {
@@ -149,8 +150,8 @@ FocusScope {
         sortKey: devices.sortKey
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
-        onAnswerCopyRequested: text => {
-            page.cgiManager.copyText(text);
+        onAnswerCopyRequested: row => {
+            page.cgiManager.copyText(cgiSender.answerOf(row));
             page.said(qsTr("复制成功"), OVToast.Success);
         }
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)

@@ -50,7 +50,6 @@ OVDialog {
             errorText: root.fault
             focus: true
             objectName: "batchCgiCommand"
-            onAccepted: root.accept()
             onEdited: root.fault = ""
         }
     }

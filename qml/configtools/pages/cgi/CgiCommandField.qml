@@ -33,6 +33,28 @@ FocusScope {
         edited();
     }
 
+    /// While commands are offered the arrows mark one and Enter takes it.
+    function filterKey(event) {
+        const step = event.key === Qt.Key_Down ? 1 : event.key === Qt.Key_Up ? -1 : 0;
+        const isEnter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        if (!list.offering) {
+            if (step === 1) {
+                event.accepted = true;
+                offer();
+            }
+            return;
+        }
+        if (step !== 0)
+            marked = Math.max(-1, Math.min(offers.length - 1, marked + step));
+        else if (event.key === Qt.Key_Escape)
+            close();
+        else if (isEnter && marked >= 0)
+            take(offers[marked]);
+        else
+            return;
+        event.accepted = true;
+    }
+
     implicitWidth: 240
     implicitHeight: field.implicitHeight
 
@@ -41,6 +63,7 @@ FocusScope {
         width: parent.width - star.width
         accessibleName: qsTr("CGI命令")
         focus: true
+        keyFilter: event => root.filterKey(event)
         maximumLength: 2048
         objectName: "cgiCommandText"
         placeholderText: "/cgi-bin/"
@@ -53,24 +76,6 @@ FocusScope {
         onEdited: {
             root.edited();
             root.offer();
-        }
-
-        Keys.priority: Keys.BeforeItem
-        Keys.onDownPressed: {
-            if (!list.offering)
-                root.offer();
-            else
-                root.marked = Math.min(root.offers.length - 1, root.marked + 1);
-        }
-        Keys.onUpPressed: root.marked = Math.max(-1, root.marked - 1)
-        Keys.onEscapePressed: event => {
-            event.accepted = list.offering;
-            root.close();
-        }
-        Keys.onReturnPressed: event => {
-            event.accepted = list.offering && root.marked >= 0;
-            if (event.accepted)
-                root.take(root.offers[root.marked]);
         }
     }
     OVIconButton {
@@ -93,7 +98,9 @@ FocusScope {
         visible: false
         // qmllint disable unqualified
         sourceComponent: CgiOffers {
-            y: Theme.controlHeight + Theme.half
+            // Above the field where there is no room below it.
+            y: root.mapToItem(null, 0, 0).y + Theme.controlHeight + implicitHeight + 2 * Theme.half > root.Window.height
+                ? -implicitHeight - Theme.half : Theme.controlHeight + Theme.half
             width: root.width
             commands: root.commands
             marked: root.marked

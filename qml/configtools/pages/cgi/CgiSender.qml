@@ -18,6 +18,15 @@ Item {
     signal said(string message, int kind)
 
     readonly property string prefix: "/cgi-bin/"
+    readonly property int kept: 4000  // letters of an answer
+    readonly property var whole: ({})  // longer answers, by the identities of their devices
+
+    /// The answer of a row, however long.
+    function answerOf(row) {
+        const values = deviceTable.get(row);
+        const answer = whole[values.identity];
+        return answer !== undefined && answer.startsWith(values.result) ? answer : values.result;
+    }
 
     /// What is wrong with a command, "" for nothing.
     function faultOf(command) {
@@ -28,8 +37,9 @@ Item {
 
     /// A device behind a tunnel has its web page on a port of its own.
     function addressOf(ipport, command) {
-        const [ip, port] = ipport.split(":");
-        const webPort = ip === "127.0.0.1" ? deviceFactory.getP2PWebPort(Number(port))
+        const colon = ipport.lastIndexOf(":");
+        const ip = ipport.slice(0, colon);
+        const webPort = ip === "127.0.0.1" ? deviceFactory.getP2PWebPort(Number(ipport.slice(colon + 1)))
                                            : deviceFactory.getDeviceInfo("dh", ipport).httpport;
         return "http://" + ip + ":" + (webPort ?? 80) + command;
     }
@@ -39,7 +49,9 @@ Item {
                                                   localConfig.getSearchConfigUsrename(),
                                                   localConfig.getSearchConfigPass(), row.ipport);
         deviceFactory.updataDeviceInfo("dh", "url", command, row.identity, row.ipport);
-        deviceFactory.updataDeviceInfo("dh", "result", answer, row.identity, row.ipport);
+        // A row is read often: it keeps the beginning of a long answer.
+        whole[row.identity] = answer.length > kept ? answer : undefined;
+        deviceFactory.updataDeviceInfo("dh", "result", answer.slice(0, kept), row.identity, row.ipport);
         deviceTable.refreshDevice(row.identity);
         return !answer.startsWith("Error:");
     }
@@ -47,7 +59,7 @@ Item {
     /// Sends the command of one row.
     function send(row) {
         const values = deviceTable.get(row);
-        const command = (deviceFactory.getDeviceInfo("dh", values.ipport).url ?? "").trim();
+        const command = (values.url ?? "").trim();
         const fault = faultOf(command);
         if (fault !== "") {
             said(fault, OVToast.Error);

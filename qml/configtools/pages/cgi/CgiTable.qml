@@ -7,10 +7,24 @@ OVTable {
 
     required property var deviceFactory
     required property CgiCommands commands
+    property int editRow: -1  // whose field gets the keyboard as soon as it is there
     signal sendRequested(int row)
-    signal answerCopyRequested(string text)
+    signal answerCopyRequested(int row)
 
-    readonly property int tipLength: 1200  // letters of a long answer that a bubble shows
+    readonly property int tipLength: 1200  // letters and lines of a long answer that a bubble shows
+    readonly property int tipLines: 24
+
+    function beginningOf(answer) {
+        const lines = answer.slice(0, tipLength).replace(/\s+$/, "").split("\n");
+        const cut = answer.length > tipLength || lines.length > tipLines;
+        return lines.slice(0, tipLines).join("\n") + (cut ? "…" : "");
+    }
+
+    /// Makes the row the current one, whose command can be typed.
+    function edit(row) {
+        editRow = row;
+        show(row);
+    }
 
     columns: [
         {key: "num", title: "No.", width: Theme.columnNumber, cell: numberCell},
@@ -55,31 +69,76 @@ OVTable {
             }
             OVToolTip {
                 shown: pointer.enabled && pointer.hovered
-                text: pointer.hovered ? (answer.words.length > root.tipLength
-                    ? answer.words.slice(0, root.tipLength) + "…" : answer.words) + qsTr("\n右键点击可复制结果") : ""
+                text: pointer.hovered ? root.beginningOf(answer.words) + qsTr("\n右键点击可复制结果") : ""
             }
             TapHandler {
                 acceptedButtons: Qt.RightButton
                 enabled: answer.words !== ""
-                onTapped: root.answerCopyRequested(answer.words)
+                onTapped: root.answerCopyRequested(answer.rowIndex)
             }
         }
     }
+    // Only the current row has a field: rows that scroll out of view are used again for others, the current one stays.
     Component {
         id: commandCell
         OVTableCell {
             id: command
+            readonly property string stored: value ?? ""
+            onStoredChanged: {
+                const edited = field.item as CgiCommandField;
+                if (edited && edited.text !== stored)
+                    edited.text = stored;
+            }
 
-            CgiCommandField {
+            Loader {
+                id: field
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - Theme.unit
-                commands: root.commands
+                active: command.current
+                sourceComponent: CgiCommandField {
+                    commands: root.commands
+                    objectName: "cgiCommand" + command.rowIndex
+                    onAccepted: root.sendRequested(command.rowIndex)
+                    onEdited: {
+                        root.deviceFactory.updataDeviceInfo("dh", "url", text, command.row.identity, command.row.ipport);
+                        root.model.refreshDevice(command.row.identity);
+                    }
+                }
+                onLoaded: {
+                    (item as CgiCommandField).text = command.stored;
+                    if (root.editRow !== command.rowIndex)
+                        return;
+                    root.editRow = -1;
+                    item.forceActiveFocus();
+                }
+            }
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width - Theme.unit - Theme.controlHeight
+                height: Theme.controlHeight
+                border.color: pointer.hovered ? Theme.colours.lineStrong : Theme.colours.line
+                border.width: Theme.line
+                color: Theme.colours.surface
                 objectName: "cgiCommand" + command.rowIndex
-                text: command.value ?? ""
-                onAccepted: root.sendRequested(command.rowIndex)
-                onEdited: root.deviceFactory.updataDeviceInfo("dh", "url", text, command.row.identity,
-                                                              command.row.ipport)
-                onActiveFocusChanged: if (!activeFocus) root.model.refreshDevice(command.row.identity)
+                radius: Theme.controlRadius
+                visible: !command.current
+
+                OVLabel {
+                    x: Theme.controlGap
+                    width: parent.width - 2 * x
+                    height: parent.height
+                    color: command.stored !== "" ? Theme.colours.ink : Theme.colours.faint
+                    font: Theme.figureFont
+                    text: command.stored !== "" ? command.stored : "/cgi-bin/"
+                }
+                HoverHandler {
+                    id: pointer
+                    cursorShape: Qt.IBeamCursor
+                }
+                MouseArea {
+                    anchors.fill: parent
+                    onClicked: root.edit(command.rowIndex)
+                }
             }
         }
     }

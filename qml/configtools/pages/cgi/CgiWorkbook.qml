@@ -24,7 +24,7 @@ Item {
     }
 
     function openTemplate() {
-        if (!Qt.openUrlExternally("file:///" + cgiManager.templateFile()))
+        if (!fileDialogs.exists(cgiManager.templateFile()) || !Qt.openUrlExternally(cgiManager.templateAddress()))
             said(qsTr("打开模板文件失败。"), OVToast.Error);
     }
 
