@@ -71,7 +71,7 @@ bool SnapThread::savePicture(const SnapTask &task, int channel, const QString &f
     VideoItem view;
     view.setChannelId(channel);
     // Another device may have been logged in to since: its picture must not pass for this one's.
-    if (!view.start() || view.loginHandle() != task.loginHandle)
+    if (!view.start() || !task.isDeviceCurrent())
         return false;
     for (int attempt = 0; attempt < maximumTries && !m_stop.stop_requested(); ++attempt) {
         if (attempt > 0)

@@ -21,9 +21,9 @@ struct SnapChannel
 /// What to take, and of which session.
 struct SnapTask
 {
-    QString kind;   ///< "liveCapture" or "againCapture", as the signal tells it
-    QString folder; ///< of the device, one name without separators
-    qint64 loginHandle = 0;
+    QString kind;                          ///< "liveCapture" or "againCapture", as the signal tells it
+    QString folder;                        ///< of the device, one name without separators
+    std::function<bool()> isDeviceCurrent; ///< whether the session is still one with that device; any thread
     std::function<QList<SnapChannel>()> channels; ///< called on the thread of the snapshots: it may block
 };
 

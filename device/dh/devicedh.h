@@ -141,6 +141,8 @@ private:
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
     [[nodiscard]] QVariantList sessionChannels() const;
+    [[nodiscard]] QVariantList sessionConnections() const;
+    [[nodiscard]] bool sessionAnswers() const;
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
     void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
 
@@ -157,6 +159,7 @@ private:
     const std::function<SearchSettings()> m_searchSettings;
     std::unique_ptr<DeviceSearch> m_search;
     Session m_session;
+    std::atomic<int> m_deviceGeneration = 0;     ///< rises when another device is logged in to
     std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
     KeptLogins m_keptLogins;
     ChannelChoice m_channels; ///< of the session's device

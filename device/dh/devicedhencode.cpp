@@ -28,8 +28,12 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant & /*channel
         return QVariant::fromValue<qint64>(m_loginHandle);
     if (key == QLatin1String("sessionDevice"))
         return m_session.ipport;
+    if (key == QLatin1String("sessionAnswers"))
+        return sessionAnswers();
     if (key == QLatin1String("liveChannels"))
         return sessionChannels();
+    if (key == QLatin1String("connectedChannels"))
+        return sessionConnections();
     if (ChannelChoice::isKey(key))
         return m_channels.value(key);
     if (EncodeValues::isKey(key))

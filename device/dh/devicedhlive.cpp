@@ -33,6 +33,27 @@ QVariantList CDeviceDH::sessionChannels() const
     return liveChannels(ConfigSession(m_libraries, m_session.handle), std::max(m_channels.channelCount, 1));
 }
 
+QVariantList CDeviceDH::sessionConnections() const
+{
+    QVariantList connected;
+    if (m_session.handle != 0) {
+        const ConfigSession session(m_libraries, m_session.handle);
+        for (const bool isConnected : connectedChannels(session, std::max(m_channels.channelCount, 1)))
+            connected.append(isConnected);
+    }
+    return connected;
+}
+
+bool CDeviceDH::sessionAnswers() const
+{
+    using namespace std::chrono_literals;
+    if (m_session.handle == 0)
+        return false;
+    const ConfigSession session(m_libraries, m_session.handle);
+    const auto states = std::make_unique<sdk::ChannelStates>();
+    return session.queryChannelStates(*states, 1000ms) || !session.isDeviceAway();
+}
+
 void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address)
 {
     if (kind != allChannels && kind != oneChannel)
@@ -46,16 +67,19 @@ void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNu
     m_snapshots->take(
         {.kind = kind,
          .folder = folderName(address),
-         .loginHandle = m_session.handle,
-         .channels = [libraries = m_libraries, handle = m_session.handle, channelCount, onlyChannel] {
-             const QList<bool> connected = connectedChannels(ConfigSession(libraries, handle), channelCount);
-             if (onlyChannel >= 0)
-                 return QList<SnapChannel>{{onlyChannel, connected.value(onlyChannel, true)}};
-             QList<SnapChannel> channels;
-             for (int channel = 0; channel < connected.size(); ++channel)
-                 channels.append({channel, connected.at(channel)});
-             return channels;
-         }});
+         .isDeviceCurrent =
+             [this, generation = m_deviceGeneration.load()] { return m_deviceGeneration == generation; },
+         .channels =
+             [libraries = m_libraries, handle = m_session.handle, channelCount, onlyChannel] {
+                 const QList<bool> connected =
+                     connectedChannels(ConfigSession(libraries, handle), channelCount);
+                 if (onlyChannel >= 0)
+                     return QList<SnapChannel>{{onlyChannel, connected.value(onlyChannel, true)}};
+                 QList<SnapChannel> channels;
+                 for (int channel = 0; channel < connected.size(); ++channel)
+                     channels.append({channel, connected.at(channel)});
+                 return channels;
+             }});
 }
 
 void CDeviceDH::factoryEnds()

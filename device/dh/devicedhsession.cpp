@@ -11,6 +11,8 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
         return resultCode(LoginResult::NetworkFailure);
     const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
     if (login.result == LoginResult::Success) {
+        if (ipport != m_session.ipport)
+            ++m_deviceGeneration;
         endSession();
         m_session = {.loginKind = login.loginKind,
                      .handle = login.handle,

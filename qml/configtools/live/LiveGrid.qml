@@ -18,7 +18,8 @@ Item {
     readonly property int currentChannel: shownChannels[currentPlace] ?? -1
     readonly property int pages: Math.max(1, Math.ceil(channels.length / places))
     property int page: 0
-    signal nothingPlays  // after a picture failed
+    property var readiness: () => LiveDevice.Ready
+    signal failed  // a picture
     signal pictureCame
 
     function showPage(wanted) {
@@ -46,6 +47,10 @@ Item {
                 enlargedPlace = place;
             return;
         }
+        if (places === 1) {
+            showPage(channels.findIndex(entry => entry.channel === channel));
+            return;
+        }
         const changed = Array.from(shownChannels);
         changed[currentPlace] = channel;
         shownChannels = changed;
@@ -62,19 +67,12 @@ Item {
             players.itemAt(place).reconnect();
     }
 
-    function plays() {
-        for (let place = 0; place < players.count; ++place) {
-            if (players.itemAt(place).playing)
-                return true;
-        }
-        return false;
-    }
-
     readonly property int columns: Math.round(Math.sqrt(places))
     readonly property real cellWidth: Math.floor((width - (columns - 1) * Theme.half) / columns)
     readonly property real cellHeight: Math.floor((height - (columns - 1) * Theme.half) / columns)
 
-    onChannelsChanged: {
+    /// Begins with a device.
+    function begin() {
         places = channels.length <= 1 ? 1 : 4;
         showPage(0);
     }
@@ -101,6 +99,7 @@ Item {
             figuresShown: root.figuresShown
             mainStream: enlarged || root.places === 1
             objectName: "livePlace" + index
+            readiness: root.readiness
             sounding: root.sounding && root.currentPlace === index
             stretched: root.stretched
             visible: root.enlargedPlace < 0 || enlarged
@@ -109,7 +108,7 @@ Item {
                 if (root.places > 1)
                     root.enlargedPlace = enlarged ? -1 : index;
             }
-            onFailedAgain: if (!root.plays()) root.nothingPlays()
+            onFailed: root.failed()
             onPlayingChanged: if (playing) root.pictureCame()
         }
     }

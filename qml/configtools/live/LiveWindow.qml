@@ -14,15 +14,15 @@ T.ApplicationWindow {
     signal said(string message, int kind)
 
     function open(ipport) {
-        if (visible && device.ipport === ipport) {
+        if (visible && device.ipport === ipport && (device.loggedIn || device.busy)) {
             requestActivate();
             return;
         }
         device.close();
-        if (!visible) {
-            grid.sounding = false;
+        results.item?.close();  // they are another device's
+        grid.sounding = false;
+        if (!visible)
             show();
-        }
         raise();
         requestActivate();
         device.open(ipport);
@@ -64,7 +64,6 @@ T.ApplicationWindow {
     objectName: "liveWindow"
     title: device.name !== "" ? device.name : device.ipport
     onClosing: {
-        doubt.rest();
         results.item?.close();
         device.close();
     }
@@ -77,6 +76,7 @@ T.ApplicationWindow {
             window.said(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
             window.close();
         }
+        onOpened: grid.begin()
         onRenewed: grid.reconnect()
     }
     Snapshots {
@@ -123,8 +123,9 @@ T.ApplicationWindow {
         channels: device.channels
         objectName: "liveGrid"
         visible: device.loggedIn && device.channels.length > 0
-        onNothingPlays: if (!doubt.running) doubt.start()
-        onPictureCame: doubt.rest()
+        readiness: () => device.readiness()
+        onFailed: device.inDoubt = true
+        onPictureCame: device.settle()
     }
     LiveToolBar {
         id: toolBar
@@ -156,26 +157,6 @@ T.ApplicationWindow {
             objectName: "liveEmptyState"
             title: device.busy ? qsTr("正在登录…") : device.loggedIn ? qsTr("没有通道") : qsTr("登录失败")
             onActivated: device.tryAgain()
-        }
-    }
-
-    // A device that was away has forgotten the session: the next tries need a new one. A login may take seconds, in
-    // which the window stands still, so the pauses grow.
-    Timer {
-        id: doubt
-
-        readonly property int shortest: 2000
-        readonly property int longest: 32000
-
-        function rest() {
-            stop();
-            interval = shortest;
-        }
-
-        interval: shortest
-        onTriggered: {
-            interval = Math.min(2 * interval, longest);
-            device.renew();
         }
     }
 

@@ -16,18 +16,22 @@ FocusScope {
     property bool sounding: false
     property bool figuresShown: false
     property bool compact: false          // a small picture beside something else: words only
+    /// Called before a start, returns a LiveDevice.Readiness: whether the device can be asked now.
+    property var readiness: () => LiveDevice.Ready
     readonly property bool wanted: active && connected && channel >= 0
     readonly property bool playing: video.hasPicture
-    readonly property bool failed: failures > 0 && !connecting && !playing
+    readonly property bool resting: failures > 0 && !connecting && !playing  // until the next try
     readonly property alias video: video
     signal chosen
     signal enlargeRequested
-    signal failedAgain
+    signal failed
 
     property bool connecting: false
     property int failures: 0  // one after another
     property int pause: 0     // seconds until the next try
+    property bool subRefused: false  // the channel has no sub stream: the main one is shown in its place
 
+    readonly property int zoomLevels: 20
     /// Seconds to wait after so many failures.
     readonly property var pauses: [1, 2, 4, 8, 15, 30]
 
@@ -39,9 +43,23 @@ FocusScope {
         starting.run(() => {
             if (!root.wanted)
                 return;
-            if (!video.start())
+            const state = root.readiness();
+            if (state === LiveDevice.Away)
                 root.fail();
+            else if (state === LiveDevice.Ready)
+                root.start();
         });
+    }
+
+    function start() {
+        if (video.start())
+            return;
+        if (!mainStream && !subRefused) {
+            subRefused = true;
+            if (video.start())
+                return;
+        }
+        fail();
     }
 
     function end() {
@@ -49,6 +67,7 @@ FocusScope {
         retry.stop();
         connecting = false;
         failures = 0;
+        subRefused = false;
         video.stop();
     }
 
@@ -58,7 +77,7 @@ FocusScope {
         failures += 1;
         pause = pauses[Math.min(failures, pauses.length) - 1];
         retry.restart();
-        failedAgain();
+        failed();
     }
 
     function restart() {
@@ -73,7 +92,11 @@ FocusScope {
     }
 
     onWantedChanged: wanted ? begin() : end()
-    onChannelChanged: if (wanted) restart()
+    onChannelChanged: {
+        video.changeScale(-zoomLevels, Qt.point(0, 0));
+        if (wanted)
+            restart();
+    }
     onMainStreamChanged: if (wanted) restart()
     Component.onCompleted: if (wanted) begin()
     Component.onDestruction: video.stop()
@@ -92,7 +115,7 @@ FocusScope {
         fillMode: root.stretched ? VideoItem.Stretch : VideoItem.PreserveAspectFit
         isAudioOutput: root.sounding
         objectName: "liveVideo"
-        streamKind: root.mainStream ? VideoItem.Main : VideoItem.Sub
+        streamKind: root.mainStream || root.subRefused ? VideoItem.Main : VideoItem.Sub
         onHasPictureChanged: {
             if (hasPicture) {
                 root.connecting = false;
@@ -117,6 +140,7 @@ FocusScope {
 
     MouseArea {
         property point last
+        property real turned: 0  // by the wheel since the last whole notch
         readonly property real notch: 120  // of a mouse wheel, in eighths of a degree
 
         anchors.fill: parent
@@ -133,8 +157,12 @@ FocusScope {
             root.chosen();
         }
         onWheel: wheel => {
-            if (wheel.angleDelta.y !== 0)
-                video.changeScale(wheel.angleDelta.y / notch, Qt.point(wheel.x, wheel.y));
+            // Fine wheels and touchpads turn in parts of a notch.
+            turned += wheel.angleDelta.y / notch;
+            const notches = Math.trunc(turned);
+            turned -= notches;
+            if (notches !== 0)
+                video.changeScale(notches, Qt.point(wheel.x, wheel.y));
         }
     }
 
@@ -166,7 +194,7 @@ FocusScope {
             text: root.channel < 0 ? qsTr("没有通道")
                 : !root.connected ? qsTr("通道未连接")
                 : root.connecting ? qsTr("正在连接…")
-                : root.failed ? (video.text !== "" ? video.text : qsTr("画面中断")) : ""
+                : root.resting ? (video.text !== "" ? video.text : qsTr("画面中断")) : ""
             visible: text !== ""
         }
         OVParagraph {
@@ -176,13 +204,13 @@ FocusScope {
             horizontalAlignment: Text.AlignHCenter
             objectName: "liveRetryText"
             text: qsTr("%n 秒后重试", "", root.pause)
-            visible: root.failed && root.wanted
+            visible: root.resting && root.wanted
         }
         OVButton {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "liveRetryButton"
             text: qsTr("立即重试")
-            visible: root.failed && root.wanted && !root.compact
+            visible: root.resting && root.wanted && !root.compact
             onClicked: root.reconnect()
         }
     }

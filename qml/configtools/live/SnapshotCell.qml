@@ -6,7 +6,6 @@ Item {
     id: root
 
     required property var entry   // of Snapshots.results
-    required property int revision
     required property bool waits  // others are being taken
     readonly property int stage: entry?.state ?? Snapshots.Waiting
     signal againRequested
@@ -25,7 +24,7 @@ Item {
             cache: false
             fillMode: Image.PreserveAspectFit
             objectName: "snapshotPicture"
-            source: root.stage === Snapshots.Taken ? root.entry.picture + "?" + root.revision : ""
+            source: root.stage === Snapshots.Taken ? root.entry.picture + "?" + root.entry.revision : ""
             sourceSize.width: width * 2
             visible: root.stage === Snapshots.Taken
 

@@ -55,7 +55,6 @@ OVDialog {
             width: view.cellWidth - Theme.controlGap
             height: view.cellHeight - Theme.controlGap
             entry: root.snapshots.results[index] ?? null
-            revision: root.snapshots.taken
             waits: root.snapshots.busy
             onAgainRequested: root.againRequested(entry.channel)
         }

@@ -7,13 +7,11 @@ Item {
 
     required property var deviceFactory
     property string folder            // of the device, below the folder of all snapshots
-    property var results: []          // maps of "channel", "name", "state", "picture", "message", in their order
+    property var results: []          // maps of "channel", "name", "state", "picture", "message", "revision"
     property int running: 0           // channels that are still to be reported
     readonly property bool busy: running > 0
     readonly property int done: results.filter(entry => entry.state !== Snapshots.Waiting
                                                        && entry.state !== Snapshots.Taking).length
-    property int taken: 0             // rises with each picture, so that one that is written anew is read anew
-    signal finished(int channel)
 
     enum State { Waiting, Taking, Taken, Failed }
 
@@ -54,10 +52,10 @@ Item {
         if (running === 0)
             return;
         running -= 1;
-        taken += 1;
-        change(channel, {picture: picture, message: message,
+        const before = results.find(entry => entry.channel === channel);
+        // A picture that was written anew is read anew.
+        change(channel, {picture: picture, message: message, revision: (before?.revision ?? 0) + 1,
                          state: picture !== "" ? Snapshots.Taken : Snapshots.Failed});
-        finished(channel);
     }
 
     visible: false

@@ -1,5 +1,4 @@
-// A channel's live picture beside its settings, so that a change is seen at once. The small stream does; a device
-// that has none shows the large one.
+// A channel's live picture beside its settings, so that a change is seen at once.
 import QtQuick
 import configtools
 
@@ -8,19 +7,18 @@ Item {
 
     required property int channel
     required property string channelName
-    required property bool active  // there is a login, and nothing waits for the device
+    required property bool active     // there is a login
+    required property bool connected  // the channel has a camera
 
     implicitHeight: Math.round(width * 9 / 16)
     objectName: "channelPicture"
 
     OV_MediaPlayer {
-        id: player
         anchors.fill: parent
         active: root.active
         channel: root.channel
         channelName: root.channelName
         compact: true
-        connected: true
-        onFailedAgain: mainStream = true
+        connected: root.connected
     }
 }

@@ -33,6 +33,7 @@ Item {
             width: parent.width
             active: root.visible && root.work.session.loggedIn
             channel: root.form.channel
+            connected: root.work.connectedChannels[root.form.channel] ?? true
             channelName: root.form.channelName !== "" ? root.form.channelName
                                                       : qsTr("通道 %1").arg(root.form.channel + 1)
         }

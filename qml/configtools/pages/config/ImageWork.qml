@@ -9,6 +9,7 @@ Item {
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
     property bool writeRefused: false
+    property var connectedChannels: []  // for each channel whether it has a camera
     readonly property alias form: cameraForm
 
     function forget() {
@@ -20,6 +21,8 @@ Item {
             deviceFactory.getCameraConfig("dh");
             deviceFactory.getVideoInByChangeChannel("dh");
             read = session.loggedIn;
+            if (read)
+                connectedChannels = deviceFactory.getConfigData("dh", "connectedChannels");
         });
     }
 
