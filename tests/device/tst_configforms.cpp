@@ -112,7 +112,7 @@ private Q_SLOTS:
         form.set("curResolution", "1080P");
         QCOMPARE(of(form.mainStream(), "resolution", "choices").toStringList(),
                  QStringList({"1080P", "800*600"})); // there is a way back
-        form.set("bitRate", 3100); // none of the steps before and after
+        form.set("bitRate", 3100);                   // none of the steps before and after
         QVERIFY(of(form.mainStream(), "bitRate", "changed").toBool());
     }
 
