@@ -122,9 +122,10 @@ CgiProcedure::Taken CgiProcedure::takeFile(HttpConversation &conversation, const
 {
     const QString path =
         answerFilePath(m_surroundings.folder, m_surroundings.localTime(), answerFileEnding(headers));
-    // It gets its name when it is whole: half a recording is not to be taken for one.
+    // It gets its name when it is whole: half a recording is not to be taken for one. Not
+    // through a buffer: the toolkit does not notice when only a part of that could be written.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         qCWarning(logCgi).noquote() << "cannot write" << path << "-" << file.errorString();
         return {.text = {}, .failure = failureOf(first)}; // the answer's code alone decides
     }

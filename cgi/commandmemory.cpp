@@ -83,7 +83,10 @@ void CommandMemory::write() const
     const QJsonObject object = {{recentKey, QJsonArray::fromStringList(m_recent)},
                                 {favouritesKey, QJsonArray::fromStringList(m_favourites)}};
     const QByteArray text = QJsonDocument(object).toJson();
-    QSaveFile file(m_path); // whole or not at all
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+    // Whole or not at all. Not through a buffer: the toolkit does not notice when only a part of that could
+    // be written.
+    QSaveFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(text) != text.size() ||
+        !file.commit())
         qCWarning(logCgi).noquote() << "cannot write" << m_path << "-" << file.errorString();
 }

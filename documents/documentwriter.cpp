@@ -365,8 +365,10 @@ int main(int argc, char **argv)
         return 1;
     }
     QDir().mkpath(QFileInfo(arguments.at(2)).path());
+    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
     QSaveFile output(arguments.at(2));
-    if (!output.open(QIODevice::WriteOnly) || output.write(pdf) != pdf.size() || !output.commit()) {
+    if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || output.write(pdf) != pdf.size() ||
+        !output.commit()) {
         std::fprintf(stderr, "%s: %s\n", qPrintable(output.fileName()), qPrintable(output.errorString()));
         return 1;
     }

@@ -16,6 +16,10 @@
 #include <QTest>
 #include <QTimer>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -33,6 +37,30 @@ const QByteArray headers =
 const QByteArray cameraLine =
     "Encoder,IPC,General,IpAddress,东门,192.168.1.10,37777,,127.0.0.1,admin,secret1,"
     "B-2230-IR,02:1a:c5:00:00:01,S1,2.840.1,255.255.255.0,192.168.1.1,INITIALIZED,\n";
+
+/// While it is there, no file of this process grows beyond `size` bytes: as on a disk that is full then, a
+/// write stores a part of its bytes and the next one fails.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(rlim_t size)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_limit);
+        const rlimit small = {.rlim_cur = size, .rlim_max = m_limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_limit);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    SmallDisk(const SmallDisk &) = delete;
+    SmallDisk &operator=(const SmallDisk &) = delete;
+
+private:
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
+    rlimit m_limit{};
+};
 
 } // namespace
 
@@ -182,6 +210,29 @@ private Q_SLOTS:
         QVERIFY(!exported({camera}, "no/folder/device.csv"));
         QVERIFY(!exported({camera}, "no/folder/device.xlsx"));
         QCOMPARE(read("device.csv"), headers + cameraLine); // as it was
+    }
+
+    void aFullDiskLeavesTheListAsItWas_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"device.xlsx", "device.csv", "device.xml"})
+            QTest::newRow(name) << name;
+    }
+
+    void aFullDiskLeavesTheListAsItWas()
+    {
+        QFETCH(const QString, name);
+        search();
+        QVERIFY(!write(name, "as it was").isEmpty());
+        bool isWritten = true;
+        {
+            const SmallDisk disk(200);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot (make|write).*"));
+            isWritten = exported({camera}, name);
+        }
+        QVERIFY(!isWritten);
+        QCOMPARE(read(name), "as it was");
+        QVERIFY(exported({camera}, name));
     }
 
     void comesBackFromEveryFormat_data()
