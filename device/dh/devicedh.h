@@ -3,6 +3,7 @@
 #include "device/devicebase.h"
 #include "device/devicesearch.h"
 #include "device/dh/channelchoice.h"
+#include "device/dh/channelnames.h"
 #include "device/dh/keptlogins.h"
 #include "device/dh/systemaction.h"
 #include "device/dh/valuetables.h"
@@ -99,8 +100,14 @@ public:
     void getEncodeInfo() override;
     /// The key "loginHandle", the current session's handle or 0, may be read on any thread.
     QVariant getConfigData(const QString &key, const QVariant &channel) override;
-    /// `otype` is the sub-key of a value of the camera image page.
+    /// `otype` is the sub-key of a value of the camera image page; of "channelName" it is the channel from 0.
+    /// A name goes to the device at once: signalCDeviceSetChannelNameFinished says that it was written, or
+    /// could not be, which getConfigData("channelNameResult", channel) tells.
     void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
+    /// `key` is "channelNames", the names in their order, null for one that the device does not tell, or
+    /// "channelsConnected", a bool for each. Of the first `channelNum` channels of the current session's
+    /// device, of all of them for 0 or less. Blocks for a request per name, while the device is there.
+    QVariantList getDeviceChannelData(const QString &key, int channelNum) override;
     void confirmConfigData() override;
     /// The settings of the current channel go to the channel of the same number of each device. What a device
     /// cannot do is skipped, and named in its row's "result".
@@ -144,6 +151,9 @@ private:
     [[nodiscard]] QVariantList sessionConnections() const;
     [[nodiscard]] bool sessionAnswers() const;
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
+    /// Channels of the session's device that are asked for.
+    [[nodiscard]] int askedChannels(int wanted) const;
+    void writeChannelName(const QString &name, const QString &channel);
     void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
 
     void performOn(const QStringList &ipports, const QString &command, const QVariantMap &data);
@@ -162,7 +172,8 @@ private:
     std::atomic<int> m_deviceGeneration = 0;     ///< rises when another device is logged in to
     std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
     KeptLogins m_keptLogins;
-    ChannelChoice m_channels; ///< of the session's device
+    ChannelChoice m_channels;    ///< of the session's device
+    ChannelNames m_channelNames; ///< of the same device
     std::unique_ptr<EncodeConfig> m_encode;
     std::unique_ptr<CameraConfig> m_camera;
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot

@@ -22,7 +22,7 @@ void CDeviceDH::getEncodeInfo()
     Q_EMIT signalCDeviceGetDeviceCapRet(result);
 }
 
-QVariant CDeviceDH::getConfigData(const QString &key, const QVariant & /*channel*/)
+QVariant CDeviceDH::getConfigData(const QString &key, const QVariant &channel)
 {
     if (key == QLatin1String("loginHandle"))
         return QVariant::fromValue<qint64>(m_loginHandle);
@@ -34,6 +34,10 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant & /*channel
         return sessionChannels();
     if (key == QLatin1String("connectedChannels"))
         return sessionConnections();
+    if (key == QLatin1String("channelName"))
+        return m_channelNames.name(channel.toInt());
+    if (key == QLatin1String("channelNameResult"))
+        return m_channelNames.result(channel.toInt());
     if (ChannelChoice::isKey(key))
         return m_channels.value(key);
     if (EncodeValues::isKey(key))
@@ -45,6 +49,10 @@ void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const Q
 {
     if (ChannelChoice::isKey(key)) {
         m_channels.choose(key, value);
+        return;
+    }
+    if (key == QLatin1String("channelName")) {
+        writeChannelName(value.toString(), otype);
         return;
     }
     if (!EncodeValues::isKey(key)) {

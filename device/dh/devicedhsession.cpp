@@ -22,6 +22,7 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
         m_loginHandle = login.handle;
         m_channels.channelCount = login.channelCount;
         const ConfigSession session(m_libraries, login.handle);
+        m_channelNames.begin(session);
         m_encode->begin(session);
         m_camera->begin(session);
     }
@@ -44,6 +45,7 @@ void CDeviceDH::endSession()
         m_libraries.net->NetLogout(m_session.handle);
     m_session = {};
     m_channels = {};
+    m_channelNames.begin(ConfigSession());
     m_encode->begin(ConfigSession());
     m_camera->begin(ConfigSession());
 }

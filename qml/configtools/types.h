@@ -3,7 +3,9 @@
 
 #include "device/addressplan.h"
 #include "device/addresstools.h"
+#include "device/bytetext.h"
 #include "device/cameraform.h"
+#include "device/channelnameform.h"
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
@@ -80,6 +82,21 @@ struct FavouriteListModelForeign
     Q_GADGET
     QML_FOREIGN(FavouriteListModel)
     QML_NAMED_ELEMENT(FavouriteListModel)
+};
+
+struct ByteTextForeign
+{
+    Q_GADGET
+    QML_FOREIGN(ByteText)
+    QML_NAMED_ELEMENT(ByteText)
+    QML_SINGLETON
+};
+
+struct ChannelNameFormForeign
+{
+    Q_GADGET
+    QML_FOREIGN(ChannelNameForm)
+    QML_NAMED_ELEMENT(ChannelNameForm)
 };
 
 struct CameraFormForeign

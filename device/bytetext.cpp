@@ -1,0 +1,31 @@
+#include "device/bytetext.h"
+
+#include "sdk/camerablocks.h"
+
+#include <QTextBoundaryFinder>
+
+int ByteText::channelNameBytes()
+{
+    return static_cast<int>(sdk::ChannelNameItem().name.size()) - 1; // a zero ends it
+}
+
+int ByteText::bytes(const QString &text)
+{
+    return static_cast<int>(text.toUtf8().size());
+}
+
+QString ByteText::cutTo(const QString &text, int bytes)
+{
+    if (ByteText::bytes(text) <= bytes)
+        return text;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+    qsizetype end = 0;
+    qsizetype used = 0;
+    for (qsizetype next = letters.toNextBoundary(); next > 0; next = letters.toNextBoundary()) {
+        used += QStringView(text).sliced(end, next - end).toUtf8().size();
+        if (used > bytes)
+            break;
+        end = next;
+    }
+    return text.left(end);
+}

@@ -1,0 +1,97 @@
+// The names of the channels of the logged-in device, as a table that the user edits.
+#pragma once
+
+#include "device/dialogrows.h"
+
+#include <QList>
+#include <QPointer>
+
+class CDeviceFactory;
+
+/// One row for each channel. What the user types stays here until it is written, each channel for itself.
+/// Roles are those of DialogRows; "identity" is the channel's number. Reading and writing ask the device and
+/// block for the waits of the library. Lives on the scene's thread.
+class ChannelNameForm : public DialogRows
+{
+    Q_OBJECT
+    Q_PROPERTY(
+        CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    Q_PROPERTY(int count READ rowCount NOTIFY changed)
+    Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
+    Q_PROPERTY(int failedCount READ failedCount NOTIFY changed) ///< rows whose last write failed
+    Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< channels whose name is not known
+public:
+    /// What a row is to be told apart by.
+    enum Trouble
+    {
+        None,
+        Unknown,    ///< the device does not tell the name
+        Empty,      ///< a name is needed
+        TooLong,    ///< in bytes
+        Refused,    ///< by the device, at the last write
+        Unanswered, ///< the device was away at the last write
+        Different,  ///< the device took the name and has another one now
+    };
+    Q_ENUM(Trouble)
+
+    explicit ChannelNameForm(QObject *parent = nullptr);
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] int changedCount() const;
+    [[nodiscard]] int failedCount() const;
+    [[nodiscard]] int untoldCount() const;
+
+    /// Reads all names anew; what was changed and not written is gone.
+    Q_INVOKABLE void read();
+
+    /// Takes what the user has typed for a row.
+    Q_INVOKABLE void set(int row, const QString &name);
+
+    /// Takes back what was typed.
+    Q_INVOKABLE void revert(int row);
+
+    /// Leaves as much of a name as the device can hold.
+    Q_INVOKABLE void cut(int row);
+
+    /// The rows to write, in their order.
+    Q_INVOKABLE [[nodiscard]] QList<int> changedRows() const;
+
+    /// The first changed row that cannot be written as it is, -1 when there is none.
+    Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
+
+    /// Writes the name of a row and reads it back. Returns how that ended: None, Refused, Unanswered or
+    /// Different.
+    Q_INVOKABLE ChannelNameForm::Trouble write(int row);
+
+Q_SIGNALS:
+    void deviceFactoryChanged();
+    void changed();
+
+protected:
+    /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble"
+    /// and "identity".
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
+    [[nodiscard]] bool isInConflict(int row) const override;
+
+private:
+    struct Row
+    {
+        QString saved;
+        QString name;
+        bool isTold = false;
+        bool isConnected = true;
+        Trouble lastWrite = None;
+
+        [[nodiscard]] bool isChanged() const { return name != saved; }
+    };
+
+    [[nodiscard]] static bool isFaulty(Trouble trouble) { return trouble == Empty || trouble == TooLong; }
+    [[nodiscard]] Trouble troubleOf(const Row &row) const;
+    void tellOf(int row);
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QList<Row> m_rows;                        ///< by channel
+};

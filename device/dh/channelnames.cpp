@@ -1,0 +1,58 @@
+#include "device/dh/channelnames.h"
+
+#include "device/bytetext.h"
+#include "device/logging.h"
+#include "sdk/blocktext.h"
+#include "sdk/camerablocks.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr auto nameItem = static_cast<std::uint32_t>(sdk::CameraItem::ChannelName);
+
+} // namespace
+
+void ChannelNames::begin(const ConfigSession &session)
+{
+    m_session = session;
+    m_results.clear();
+    m_isDeviceAway = false;
+}
+
+QVariant ChannelNames::name(int channel)
+{
+    sdk::ChannelNameItem item = {};
+    item.size = sizeof(item);
+    const bool isTold = m_session.readItem(nameItem, channel, item);
+    m_isDeviceAway = !isTold && m_session.isDeviceAway();
+    if (!isTold)
+        return {};
+    const std::string_view told = sdk::blockText(item.name);
+    return QString::fromUtf8(told.data(), static_cast<qsizetype>(told.size())).trimmed();
+}
+
+QVariantList ChannelNames::names(int count)
+{
+    QVariantList all;
+    m_isDeviceAway = false;
+    for (int channel = 0; channel < std::min(count, maximumChannels); ++channel)
+        all.append(m_isDeviceAway ? QVariant() : name(channel)); // further requests would wait for nothing
+    return all;
+}
+
+int ChannelNames::write(int channel, const QString &name)
+{
+    sdk::ChannelNameItem item = {};
+    item.size = sizeof(item);
+    const QString whole = ByteText::cutTo(name, static_cast<int>(item.name.size()) - 1);
+    sdk::setBlockText(item.name, whole.toStdString());
+    int result = 0;
+    if (!m_session.writeItem(nameItem, channel, item)) {
+        result = m_session.isDeviceAway() ? deviceAway : refused;
+        qCWarning(logDevice) << "ChannelNames: the name of channel" << channel << "is refused, error"
+                             << m_session.lastError();
+    }
+    m_results.insert(channel, result);
+    return result;
+}

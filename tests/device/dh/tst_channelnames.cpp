@@ -1,0 +1,203 @@
+// The names of channels on a simulated recorder: read, edited and written, each channel for itself.
+#include "device/bytetext.h"
+#include "device/channelnameform.h"
+#include "sdk/neterror.h"
+#include "tests/device/dh/configsite.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using sdk::demo::Fault;
+using sdk::demo::SceneDevice;
+
+namespace {
+
+SceneDevice recorder(int channels = 16)
+{
+    SceneDevice device = configDevice(1, "NVR", channels);
+    device.channels[0].name = "大门";
+    device.channels[1].name = "Lagerhalle Süd";
+    device.channels[2].connected = false;
+    return device;
+}
+
+} // namespace
+
+class TestChannelNames : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<ConfigSite> m_site;
+    SceneDevice m_device;
+
+    void open(const SceneDevice &device)
+    {
+        m_site.reset();
+        m_device = device;
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{device});
+        QCOMPARE(m_site->login(device), 0);
+    }
+
+    QVariantList names(int count) const
+    {
+        return m_site->factory->getDeviceChannelData("dh", "channelNames", count);
+    }
+
+    void setFault(Fault fault, int number = 0) const
+    {
+        m_site->site->setFault(m_device.mac, {.fault = fault, .number = number, .text = {}});
+    }
+
+    /// A form with the names of the device that is logged in to.
+    std::unique_ptr<ChannelNameForm> form() const
+    {
+        auto form = std::make_unique<ChannelNameForm>();
+        form->setDeviceFactory(m_site->factory.get());
+        form->read();
+        return form;
+    }
+
+    static ChannelNameForm::Trouble troubleOf(const ChannelNameForm &form, int row)
+    {
+        return form.get(row).value("trouble").value<ChannelNameForm::Trouble>();
+    }
+
+private Q_SLOTS:
+    void cleanup() { m_site.reset(); }
+
+    void namesComeInTheirOrder()
+    {
+        open(recorder());
+        QCOMPARE(names(2), QVariantList({"大门", "Lagerhalle Süd"}));
+        QCOMPARE(m_site->askedItems("NetGetItem"), QStringList({"1108/0@0 260 5000", "1108/0@1 260 5000"}));
+        QCOMPARE(names(0).size(), 16);
+        QCOMPARE(names(-3).size(), 16);
+        QCOMPARE(names(900).size(), 16);
+        QVERIFY(m_site->factory->getDeviceChannelData("dh", "others", 2).isEmpty());
+        QVERIFY(m_site->factory->getDeviceChannelData("other", "channelNames", 2).isEmpty());
+    }
+
+    void aDeviceThatIsAwayIsAskedOnce()
+    {
+        open(recorder());
+        setFault(Fault::NoAnswer);
+        QSignalSpy away(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
+        QCOMPARE(names(0), QVariantList(16));
+        QCOMPARE(m_site->asked("NetGetItem").size(), 1);
+        QCOMPARE(away, QList<QVariantList>({{static_cast<int>(sdk::NetError::NetworkFailure)}}));
+    }
+
+    void withoutALoginThereIsNothing()
+    {
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{recorder()});
+        QVERIFY(names(0).isEmpty());
+        QTest::ignoreMessage(QtWarningMsg, "there is no channel \"0\" to name");
+        m_site->set("channelName", "x", "0");
+        QVERIFY(m_site->asked("NetSetItem").isEmpty());
+    }
+
+    void aWriteIsOneRequestWithItsResult()
+    {
+        open(recorder());
+        QSignalSpy finished(m_site->factory.get(), &CDeviceFactory::signalSetChannelNameFinished);
+        m_site->set("channelName", "后门", "5");
+        QCOMPARE(m_site->askedItems("NetSetItem"), QStringList({"1108/0@5 260 5000"}));
+        QCOMPARE(finished.size(), 1);
+        const auto result = [this](int channel) {
+            return m_site->factory->getConfigData("dh", "channelNameResult", channel).toInt();
+        };
+        QCOMPARE(result(5), 0);
+        QCOMPARE(result(6), -1);
+        QCOMPARE(names(0).value(5).toString(), "后门");
+
+        setFault(Fault::RefusesItem, 1108);
+        m_site->set("channelName", "东门", "5");
+        QCOMPARE(result(5), 999);
+        QCOMPARE(finished.size(), 2);
+        for (const char *channel : {"16", "-1", "", "x"}) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("there is no channel.*"));
+            m_site->set("channelName", "x", channel);
+        }
+        QCOMPARE(m_site->asked("NetSetItem").size(), 2);
+    }
+
+    void textsAreCutByBytesBetweenLetters_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("bytes");
+        QTest::addColumn<QString>("cut");
+        QTest::newRow("fits") << "大门" << 6 << "大门";
+        QTest::newRow("inside a letter") << "大门" << 5 << "大";
+        QTest::newRow("nothing fits") << "大门" << 2 << "";
+        QTest::newRow("Latin") << "Süden" << 3 << "Sü";
+        QTest::newRow("accent of its own") << "ae\u0301" << 2 << "a";
+        QTest::newRow("beyond the base plane") << "a😀b" << 4 << "a";
+        QTest::newRow("joined signs") << "a👨‍👩‍👧" << 12 << "a";
+    }
+
+    void textsAreCutByBytesBetweenLetters()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const int, bytes);
+        QTEST(ByteText::cutTo(text, bytes), "cut");
+    }
+
+    void theLimitCountsBytes()
+    {
+        open(recorder());
+        const auto names = form();
+        names->set(0, QString(85, u'门'));
+        QCOMPARE(names->get(0).value("bytes").toInt(), 255);
+        QCOMPARE(names->firstFaulty(), -1);
+        names->set(0, QString(85, u'门') + "x");
+        QCOMPARE(troubleOf(*names, 0), ChannelNameForm::TooLong);
+        QCOMPARE(names->firstFaulty(), 0);
+        names->cut(0);
+        QCOMPARE(names->get(0).value("name").toString(), QString(85, u'门'));
+        QCOMPARE(names->write(0), ChannelNameForm::None);
+        QCOMPARE(this->names(1).value(0).toString(), QString(85, u'门'));
+    }
+
+    void changesCountUntilTheyAreWrittenOrTakenBack()
+    {
+        open(recorder());
+        const auto names = form();
+        QCOMPARE(names->rowCount(), 16);
+        QCOMPARE(names->get(2).value("connected").toBool(), false);
+        QCOMPARE(names->get(3).value("connected").toBool(), true);
+        names->set(0, " 正门 ");
+        names->set(1, "");
+        names->set(3, "Hof");
+        QCOMPARE(names->changedCount(), 3);
+        QCOMPARE(troubleOf(*names, 1), ChannelNameForm::Empty);
+        names->revert(1);
+        QCOMPARE(names->changedRows(), QList<int>({0, 3}));
+
+        QCOMPARE(names->write(0), ChannelNameForm::None);
+        QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the blanks
+        setFault(Fault::RefusesItem, 1108);
+        QCOMPARE(names->write(3), ChannelNameForm::Refused);
+        QCOMPARE(names->changedRows(), QList<int>({3})); // can be tried again
+        QCOMPARE(names->failedCount(), 1);
+        setFault(Fault::NoAnswer);
+        QCOMPARE(names->write(3), ChannelNameForm::Unanswered);
+        names->set(3, "Hof 1");
+        QCOMPARE(troubleOf(*names, 3), ChannelNameForm::None);
+    }
+
+    void aNameThatIsNotToldCanBeGiven()
+    {
+        open(recorder());
+        setFault(Fault::WithholdsItem, 1108);
+        const auto names = form();
+        QCOMPARE(names->untoldCount(), 16);
+        QCOMPARE(names->changedCount(), 0);
+        QCOMPARE(troubleOf(*names, 0), ChannelNameForm::Unknown);
+        names->set(0, "Hof");
+        QCOMPARE(names->write(0), ChannelNameForm::None);
+        QCOMPARE(names->changedCount(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestChannelNames)
+#include "tst_channelnames.moc"
