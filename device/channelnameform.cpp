@@ -47,8 +47,8 @@ int ChannelNameForm::failedCount() const
 
 int ChannelNameForm::untoldCount() const
 {
-    return static_cast<int>(
-        std::count_if(m_rows.cbegin(), m_rows.cend(), [](const Row &row) { return !row.isTold; }));
+    return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(),
+                                          [](const Row &row) { return row.isConnected && !row.isTold; }));
 }
 
 void ChannelNameForm::read()
@@ -153,7 +153,7 @@ QVariantMap ChannelNameForm::valuesOf(int row) const
             {QStringLiteral("saved"), channel.saved},
             {QStringLiteral("changed"), channel.isChanged()},
             {QStringLiteral("bytes"), ByteText::bytes(channel.name.trimmed())},
-            {QStringLiteral("trouble"), troubleOf(channel)}};
+            {QStringLiteral("trouble"), static_cast<int>(troubleOf(channel))}};
 }
 
 bool ChannelNameForm::isInConflict(int row) const

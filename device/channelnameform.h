@@ -19,7 +19,7 @@ class ChannelNameForm : public DialogRows
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY changed) ///< rows whose last write failed
-    Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< channels whose name is not known
+    Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< cameras whose name is not known
 public:
     /// What a row is to be told apart by.
     enum Trouble
@@ -71,7 +71,7 @@ Q_SIGNALS:
     void changed();
 
 protected:
-    /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble"
+    /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble" (a number)
     /// and "identity".
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isInConflict(int row) const override;

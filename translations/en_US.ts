@@ -475,6 +475,149 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
+    <name>ChannelNameCell</name>
+    <message>
+        <source>已修改，尚未保存</source>
+        <translation>Changed, not saved yet</translation>
+    </message>
+    <message>
+        <source>通道 %1 的名称</source>
+        <translation>Name of channel %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNameTrouble</name>
+    <message>
+        <source>设备没有告知名称</source>
+        <translation>No name from the device</translation>
+    </message>
+    <message>
+        <source>名称不能为空</source>
+        <translation>A name is needed</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>Too long: %1 bytes at most</translation>
+    </message>
+    <message>
+        <source>设备没有接受</source>
+        <translation>The device refused it</translation>
+    </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>No answer from the device</translation>
+    </message>
+    <message>
+        <source>设备改变了名称</source>
+        <translation>The device changed it</translation>
+    </message>
+    <message>
+        <source>截短</source>
+        <translation>Shorten</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>保留设备能存下的部分</source>
+        <translation>Keeps what the device can store</translation>
+    </message>
+    <message>
+        <source>恢复设备现有的名称</source>
+        <translation>Back to the name that the device has</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNamesPanel</name>
+    <message>
+        <source>通道</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Connection</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>未连接</source>
+        <translation>Not connected</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称未保存</source>
+        <translation>
+            <numerusform>%n channel name not saved</numerusform>
+            <numerusform>%n channel names not saved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>有未保存的修改：%n 项</source>
+        <translation>
+            <numerusform>%n unsaved change</numerusform>
+            <numerusform>%n unsaved changes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>设备没有告知 %n 个通道的名称</source>
+        <translation>
+            <numerusform>The device does not tell the name of %n channel</numerusform>
+            <numerusform>The device does not tell the names of %n channels</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNamesWork</name>
+    <message>
+        <source>正在读取通道名称…</source>
+        <translation>Reading channel names…</translation>
+    </message>
+    <message>
+        <source>通道 %1 的名称不能保存，请先修改</source>
+        <translation>The name of channel %1 cannot be saved as it is</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称已保存</source>
+        <translation>
+            <numerusform>%n channel name saved</numerusform>
+            <numerusform>%n channel names saved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称未保存</source>
+        <translation>
+            <numerusform>%n channel name not saved</numerusform>
+            <numerusform>%n channel names not saved</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>CommandWorkbook</name>
     <message>
         <source>IP</source>
@@ -1526,6 +1669,10 @@ A right click copies the result</translation>
         <source>恢复默认</source>
         <translation>Defaults</translation>
     </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>Too long: %1 bytes at most</translation>
+    </message>
 </context>
 <context>
     <name>ImageWork</name>
@@ -2480,6 +2627,14 @@ File path: </translation>
             <numerusform>device selected</numerusform>
             <numerusform>devices selected</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>正在保存通道名称…</source>
+        <translation>Saving channel names…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation> (Esc stops)</translation>
     </message>
 </context>
 <context>
@@ -3502,6 +3657,10 @@ File path: </translation>
     <message>
         <source>连接已断开</source>
         <translation>Connection lost</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Channel names</translation>
     </message>
 </context>
 <context>

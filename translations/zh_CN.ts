@@ -472,6 +472,144 @@
     </message>
 </context>
 <context>
+    <name>ChannelNameCell</name>
+    <message>
+        <source>已修改，尚未保存</source>
+        <translation>已修改，尚未保存</translation>
+    </message>
+    <message>
+        <source>通道 %1 的名称</source>
+        <translation>通道 %1 的名称</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNameTrouble</name>
+    <message>
+        <source>设备没有告知名称</source>
+        <translation>设备没有告知名称</translation>
+    </message>
+    <message>
+        <source>名称不能为空</source>
+        <translation>名称不能为空</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>名称过长，最多 %1 字节</translation>
+    </message>
+    <message>
+        <source>设备没有接受</source>
+        <translation>设备没有接受</translation>
+    </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>设备没有应答</translation>
+    </message>
+    <message>
+        <source>设备改变了名称</source>
+        <translation>设备改变了名称</translation>
+    </message>
+    <message>
+        <source>截短</source>
+        <translation>截短</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>保留设备能存下的部分</source>
+        <translation>保留设备能存下的部分</translation>
+    </message>
+    <message>
+        <source>恢复设备现有的名称</source>
+        <translation>恢复设备现有的名称</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNamesPanel</name>
+    <message>
+        <source>通道</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>字节</translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>未连接</source>
+        <translation>未连接</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称未保存</source>
+        <translation>
+            <numerusform>%n 个通道名称未保存</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>有未保存的修改：%n 项</source>
+        <translation>
+            <numerusform>有未保存的修改：%n 项</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>设备没有告知 %n 个通道的名称</source>
+        <translation>
+            <numerusform>设备没有告知 %n 个通道的名称</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNamesWork</name>
+    <message>
+        <source>正在读取通道名称…</source>
+        <translation>正在读取通道名称…</translation>
+    </message>
+    <message>
+        <source>通道 %1 的名称不能保存，请先修改</source>
+        <translation>通道 %1 的名称不能保存，请先修改</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称已保存</source>
+        <translation>
+            <numerusform>%n 个通道名称已保存</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称未保存</source>
+        <translation>
+            <numerusform>%n 个通道名称未保存</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+</context>
+<context>
     <name>CommandWorkbook</name>
     <message>
         <source>IP</source>
@@ -1517,6 +1655,10 @@
         <source>恢复默认</source>
         <translation>恢复默认</translation>
     </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>名称过长，最多 %1 字节</translation>
+    </message>
 </context>
 <context>
     <name>ImageWork</name>
@@ -2461,6 +2603,14 @@
         <translation>
             <numerusform>台设备已选中</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>正在保存通道名称…</source>
+        <translation>正在保存通道名称…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation>（按Esc停止）</translation>
     </message>
 </context>
 <context>
@@ -3473,6 +3623,10 @@
     <message>
         <source>连接已断开</source>
         <translation>连接已断开</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>通道名称</translation>
     </message>
 </context>
 <context>

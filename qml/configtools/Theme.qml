@@ -91,7 +91,7 @@ QtObject {
     readonly property int imageLabelWidth: 124
     readonly property int imageSideWidth: 272
     readonly property int sideLabelWidth: 72
-    readonly property int configTabsWidth: 260
+    readonly property int configTabsWidth: 380
     readonly property int rangeFieldWidth: 76
     readonly property int sliderRest: 400  // milliseconds without a further step, after which a value counts
 
@@ -122,6 +122,7 @@ QtObject {
     readonly property int columnPlanMark: 208
     readonly property int columnShortActions: 72
     readonly property int columnPort: 72
+    readonly property int columnBytes: 84
     readonly property int columnAccount: 96
     readonly property int columnOutcome: 236
     readonly property int columnAnswer: 240

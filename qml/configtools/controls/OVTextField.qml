@@ -24,6 +24,7 @@ FocusScope {
     property var keyFilter: null
     signal edited
     signal accepted
+    signal tabPressed(var event)  // forwards or back; whoever has another way than the toolkit's accepts it
 
     function selectAll() {
         field.selectAll();
@@ -74,6 +75,14 @@ FocusScope {
             event.accepted = false;
             if (root.keyFilter)
                 root.keyFilter(event);
+        }
+        Keys.onTabPressed: event => {
+            event.accepted = false;
+            root.tabPressed(event);
+        }
+        Keys.onBacktabPressed: event => {
+            event.accepted = false;
+            root.tabPressed(event);
         }
         Keys.onEscapePressed: event => {
             event.accepted = root.clearable && text !== "";

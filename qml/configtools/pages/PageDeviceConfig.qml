@@ -33,17 +33,18 @@ FocusScope {
 
     /// Does `action`, after the user has agreed to lose what was changed and not saved. Returns whether that was asked.
     function leave(action) {
-        if (session.encoding.unsaved === 0) {
+        if (session.unsaved === 0) {
             action();
             return false;
         }
         const box = question.wanted();
         box.action = () => {
             session.encoding.forget();
+            session.names.forget();
             action();
         };
         box.okText = qsTr("放弃修改");
-        box.show(qsTr("有 %n 项修改尚未保存，离开后将丢失。", "", session.encoding.unsaved), OVMessageBox.DangerQuestion);
+        box.show(qsTr("有 %n 项修改尚未保存，离开后将丢失。", "", session.unsaved), OVMessageBox.DangerQuestion);
         return true;
     }
 
@@ -148,9 +149,10 @@ FocusScope {
         targetCount: page.targets.length
         onCopyRequested: page.copy()
         onEncodeChannelRequested: index => page.leave(() => session.encoding.choose("curChannel", index))
+        onNamesRefreshRequested: page.leave(() => session.names.load())
         onRefreshRequested: page.leave(() => session.encoding.load())
         onStreamTypeRequested: index => page.leave(() => session.encoding.choose("curStreamType", index))
-        onTabRequested: index => page.leave(() => session.imageShown = index === 1)
+        onTabRequested: index => page.leave(() => session.tab = index)
     }
 
     OVFootBar {
@@ -158,10 +160,11 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        progress: copying.progress
-        running: copying.running
-        runningDevice: copying.current
-        runningText: qsTr("正在复制编码配置…")
+        progress: session.names.running ? session.names.progress : copying.progress
+        running: copying.running || session.names.running
+        runningDevice: session.names.running ? session.names.current : copying.current
+        runningText: session.names.running ? qsTr("正在保存通道名称…") + qsTr("（按Esc停止）")
+                                           : qsTr("正在复制编码配置…")
         //: Follows a number at the foot of a page, as in "3 devices selected".
         text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
     }

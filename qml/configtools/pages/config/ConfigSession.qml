@@ -8,7 +8,10 @@ Item {
 
     required property var deviceFactory
     required property var localConfig
-    property bool imageShown: false  // the image tab is in front, else the encode tab
+    property int tab: 0              // that is in front: the encode settings, the image, the channels' names
+    readonly property bool encodeShown: tab === 0
+    readonly property bool imageShown: tab === 1
+    readonly property bool namesShown: tab === 2
     property string device           // "" while none is chosen
     property string name
     property string model
@@ -22,6 +25,8 @@ Item {
     readonly property bool busy: busyText !== ""
     readonly property alias encoding: encodeWork
     readonly property alias image: imageWork
+    readonly property alias names: namesWork
+    readonly property int unsaved: encodeWork.unsaved + namesWork.unsaved
     signal renewed                   // what was read of the device is forgotten
     signal said(string message, int kind, int stay)
 
@@ -52,11 +57,17 @@ Item {
               row.password || localConfig.getSearchConfigPass());
     }
 
+    /// What was read of the device, with what was changed and not saved.
+    function forget() {
+        encodeWork.forget();
+        imageWork.forget();
+        namesWork.forget();
+    }
+
     function login(account, password) {
         loggedIn = taken = lost = false;
         failure = "";
-        encodeWork.forget();
-        imageWork.forget();
+        forget();
         work(qsTr("正在登录…"), () => {
             loginResult = deviceFactory.findAndLoginDevice("dh", device, account, password);
             loggedIn = loginResult === 0;
@@ -108,25 +119,25 @@ Item {
 
     /// Reads what is in front, unless that was done already.
     function readShown() {
-        if (loggedIn && imageShown && !imageWork.read)
-            imageWork.load();
-        else if (loggedIn && !imageShown && !encodeWork.read)
-            encodeWork.load();
+        if (!loggedIn)
+            return;
+        const shown = [encodeWork, imageWork, namesWork][tab];
+        if (!shown.read)
+            shown.load();
     }
 
     /// The live view works with the same login, and has just made it anew.
     function noteOtherLogin() {
-        if (encodeWork.unsaved > 0)
+        if (unsaved > 0)
             said(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longStay);
-        encodeWork.forget();
-        imageWork.forget();
+        forget();
         taken = deviceFactory.getConfigData("dh", "sessionDevice") !== device;
         loggedIn = !taken;
         renewed();
     }
 
     visible: false
-    onImageShownChanged: readShown()
+    onTabChanged: readShown()
 
     EncodeWork {
         id: encodeWork
@@ -138,9 +149,14 @@ Item {
         deviceFactory: root.deviceFactory
         session: root
     }
+    ChannelNamesWork {
+        id: namesWork
+        deviceFactory: root.deviceFactory
+        session: root
+    }
 
     Connections {
-        enabled: root.loggedIn && !root.busy
+        enabled: root.loggedIn && !root.busy && !namesWork.running
         target: root.deviceFactory
 
         function onSignalHighLevelLoginRet(result) {
@@ -149,7 +165,7 @@ Item {
         }
     }
     Connections {
-        enabled: root.busy  // other pages ask devices, too
+        enabled: root.busy || namesWork.running  // other pages ask devices, too
         target: root.deviceFactory
 
         function onSignalGetDeviceCapRet(result) {

@@ -85,7 +85,7 @@ Item {
     }
 
     Connections {
-        enabled: root.session.busy && !root.session.imageShown  // other pages ask devices, too
+        enabled: root.session.busy && root.session.encodeShown  // other pages ask devices, too
         target: root.deviceFactory
 
         function onSignalGetDeviceCapRet(result) {

@@ -11,6 +11,8 @@ Item {
     signal defaultsRequested
 
     function finishName() {
+        if (nameField.errorText !== "")
+            return;
         if (nameField.text.trim() !== "" && nameField.text !== form.channelName)
             work.set("curChannelName", [["", nameField.text.trim()]]);
         else
@@ -62,7 +64,8 @@ Item {
                 id: nameField
                 width: parent.width
                 accessibleName: qsTr("通道名称")
-                maximumLength: 63
+                errorText: ByteText.bytes(text.trim()) > ByteText.channelNameBytes
+                    ? qsTr("名称过长，最多 %1 字节").arg(ByteText.channelNameBytes) : ""
                 objectName: "channelNameField"
                 text: root.form.channelName
                 onAccepted: root.finishName()

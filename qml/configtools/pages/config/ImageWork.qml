@@ -47,6 +47,8 @@ Item {
                 if (session.loggedIn)
                     deviceFactory.setConfigData("dh", key, value, subKey);
             }
+            if (key === "curChannelName")
+                session.names.forget();
             const refused = writeRefused;
             cameraForm.read();
             read = session.loggedIn;

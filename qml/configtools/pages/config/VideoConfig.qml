@@ -7,11 +7,13 @@ Rectangle {
 
     required property ConfigSession session
     required property int targetCount  // devices that encode settings can be copied to
-    readonly property bool shown: session.imageShown ? session.image.read : session.encoding.read
+    readonly property bool shown: session.encodeShown ? session.encoding.read
+        : session.imageShown ? session.image.read : session.names.read
     signal tabRequested(int index)
     signal encodeChannelRequested(int index)
     signal streamTypeRequested(int index)
     signal refreshRequested
+    signal namesRefreshRequested
     signal copyRequested
 
     border.color: Theme.colours.line
@@ -25,9 +27,9 @@ Rectangle {
         y: Theme.line
         width: parent.width - 2 * x
         color: Theme.colours.clear
-        currentIndex: root.session.imageShown ? 1 : 0
+        currentIndex: root.session.tab
         namePrefix: "configTab"
-        tabs: [qsTr("编码配置"), qsTr("视频配置")]
+        tabs: [qsTr("编码配置"), qsTr("视频配置"), qsTr("通道名称")]
         onActivated: index => root.tabRequested(index)
     }
     DeviceState {
@@ -47,7 +49,7 @@ Rectangle {
 
         OVOnDemand {
             anchors.fill: parent
-            visible: root.shown && !root.session.imageShown
+            visible: root.shown && root.session.encodeShown
             // qmllint disable unqualified
             sourceComponent: EncodePanel {
                 targetCount: root.targetCount
@@ -65,6 +67,16 @@ Rectangle {
             // qmllint disable unqualified
             sourceComponent: ImagePanel {
                 work: root.session.image
+            }
+            // qmllint enable unqualified
+        }
+        OVOnDemand {
+            anchors.fill: parent
+            visible: root.shown && root.session.namesShown
+            // qmllint disable unqualified
+            sourceComponent: ChannelNamesPanel {
+                work: root.session.names
+                onRefreshRequested: root.namesRefreshRequested()
             }
             // qmllint enable unqualified
         }

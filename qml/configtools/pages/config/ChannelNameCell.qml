@@ -1,0 +1,70 @@
+// The name of a channel, edited in its place. Enter, Tab and the arrow keys go on to another row; Escape takes back
+// what was typed.
+import QtQuick
+import configtools
+
+OVTableCell {
+    id: root
+
+    required property int wantedRow  // that is to have the keyboard
+    signal edited(string name)
+    signal reverted
+    signal leftFor(int row)  // -1 and the number of rows lie outside
+    signal reached  // the wanted row has the keyboard
+    signal entered  // the keyboard came by itself, with a click
+
+    readonly property bool wanted: rowIndex >= 0 && wantedRow === rowIndex
+    readonly property string name: value ?? ""
+
+    function take() {
+        if (!wanted)
+            return;
+        field.forceActiveFocus(Qt.TabFocusReason);
+        field.selectAll();
+        reached();
+    }
+
+    onNameChanged: if (field.text !== name) field.text = name
+    onWantedChanged: Qt.callLater(take)  // the row may be on its way into view
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: Theme.changeMark
+        height: width
+        color: Theme.colours.warn
+        objectName: "nameChanged" + root.rowIndex
+        radius: width / 2
+        visible: root.row?.changed ?? false
+
+        Accessible.role: Accessible.StaticText
+        Accessible.name: qsTr("已修改，尚未保存")
+    }
+    OVTextField {
+        id: field
+        x: Theme.changeMark + Theme.half
+        y: Theme.line
+        width: root.width - x - Theme.unit
+        accessibleName: qsTr("通道 %1 的名称").arg(root.rowIndex + 1)
+        objectName: "channelName" + root.rowIndex
+        onActiveFocusChanged: {
+            if (!activeFocus || root.current)
+                return;
+            root.entered();
+            forceActiveFocus(Qt.MouseFocusReason);  // a view gives the keyboard to what becomes its current row
+        }
+        onEdited: root.edited(text)
+        onTabPressed: event => {
+            event.accepted = true;
+            root.leftFor(root.rowIndex + (event.key === Qt.Key_Backtab ? -1 : 1));
+        }
+
+        Keys.onDownPressed: root.leftFor(root.rowIndex + 1)
+        Keys.onEnterPressed: root.leftFor(root.rowIndex + 1)
+        Keys.onEscapePressed: event => {
+            event.accepted = root.row.changed;
+            root.reverted();
+        }
+        Keys.onReturnPressed: root.leftFor(root.rowIndex + 1)
+        Keys.onUpPressed: root.leftFor(root.rowIndex - 1)
+    }
+}

@@ -1,0 +1,175 @@
+// The names of all channels of a device in one table, saved together.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property ChannelNamesWork work
+    readonly property ChannelNameForm form: work.form
+    property int wantedRow: -1  // whose field is to have the keyboard
+    signal refreshRequested
+
+    /// Gives the keyboard to the field of a row; behind the last one to the buttons.
+    function edit(row) {
+        if (row < 0)
+            return;
+        if (row >= form.count) {
+            save.forceActiveFocus(Qt.TabFocusReason);
+            return;
+        }
+        table.show(row);
+        wantedRow = row;
+    }
+
+    Connections {
+        target: root.work
+
+        function onRowWanted(row) {
+            root.edit(row);
+        }
+    }
+
+    OVTable {
+        id: table
+        x: Theme.pageMargin
+        y: Theme.pageMargin
+        width: parent.width - 2 * x
+        height: foot.y - y - Theme.pageMargin
+        checkable: false
+        columns: [
+            {key: "num", title: qsTr("通道"), width: Theme.columnNumber, cell: numberCell},
+            {key: "connected", title: qsTr("连接"), width: Theme.columnState, cell: connectionCell},
+            {key: "name", title: qsTr("名称"), width: Theme.columnCommand, stretch: 1, cell: nameCell},
+            {key: "bytes", title: qsTr("字节"), width: Theme.columnBytes, cell: bytesCell},
+            {key: "trouble", title: " ", width: Theme.columnAnswer, cell: troubleCell}
+        ]
+        model: root.form
+        objectName: "nameTable"
+        onRowOpened: row => root.edit(row)
+    }
+
+    Component {
+        id: numberCell
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
+    }
+    // qmllint disable unqualified
+    Component {
+        id: connectionCell
+        OVTableCell {
+            id: connection
+
+            Row {
+                height: parent.height
+                spacing: Theme.signGap
+
+                Rectangle {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: Theme.unit
+                    height: width
+                    color: connection.value ? Theme.colours.ok : Theme.colours.faint
+                    radius: width / 2
+                }
+                OVLabel {
+                    height: parent.height
+                    color: connection.value ? Theme.colours.ink : Theme.colours.sub
+                    text: connection.value ? qsTr("已连接") : qsTr("未连接")
+                }
+            }
+        }
+    }
+    Component {
+        id: nameCell
+        ChannelNameCell {
+            wantedRow: root.wantedRow
+            onEdited: name => root.form.set(rowIndex, name)
+            onEntered: table.show(rowIndex)
+            onLeftFor: row => root.edit(row)
+            onReached: root.wantedRow = -1
+            onReverted: root.form.revert(rowIndex)
+        }
+    }
+    Component {
+        id: bytesCell
+        OVTableTextCell {
+            color: value > ByteText.channelNameBytes ? Theme.colours.bad : Theme.colours.sub
+            font: Theme.figureFont
+            text: (value ?? 0) + " / " + ByteText.channelNameBytes
+        }
+    }
+    Component {
+        id: troubleCell
+        ChannelNameTrouble {
+            onCutRequested: root.form.cut(rowIndex)
+            onRevertRequested: root.form.revert(rowIndex)
+        }
+    }
+    // qmllint enable unqualified
+
+    Rectangle {
+        id: foot
+        y: parent.height - height
+        width: parent.width
+        height: Theme.dialogFootHeight
+        color: Theme.colours.foot
+        radius: Theme.paneRadius
+
+        Rectangle {
+            width: parent.width
+            height: Theme.paneRadius
+            color: Theme.colours.foot
+        }
+        Rectangle {
+            width: parent.width
+            height: Theme.line
+            color: Theme.colours.line
+        }
+        Row {
+            x: Theme.pageMargin + Theme.unit
+            height: parent.height
+            spacing: Theme.signGap
+
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: root.form.failedCount > 0 ? Theme.colours.bad : Theme.colours.warn
+                name: root.form.failedCount > 0 ? "error" : "alert"
+                size: Theme.smallIconSize
+                visible: words.text !== ""
+            }
+            OVLabel {
+                id: words
+                width: Math.min(implicitWidth, buttons.x - parent.x - parent.spacing - Theme.smallIconSize
+                    - Theme.pageMargin)
+                height: parent.height
+                color: root.form.failedCount > 0 ? Theme.colours.bad : Theme.colours.warnInk
+                objectName: "namesNotice"
+                text: root.form.failedCount > 0 ? qsTr("%n 个通道名称未保存", "", root.form.failedCount)
+                    : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved)
+                    : root.form.untoldCount > 0 ? qsTr("设备没有告知 %n 个通道的名称", "", root.form.untoldCount) : ""
+            }
+        }
+        Row {
+            id: buttons
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.pageMargin
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.unit
+
+            OVButton {
+                objectName: "namesRefreshButton"
+                text: qsTr("刷新")
+                onClicked: root.refreshRequested()
+            }
+            OVButton {
+                id: save
+                enabled: root.work.unsaved > 0
+                kind: OVButton.Primary
+                objectName: "namesSaveButton"
+                text: qsTr("保存")
+                onClicked: root.work.save()
+            }
+        }
+    }
+}

@@ -1,0 +1,138 @@
+// The names of a recorder's channels, and everything that is known of it.
+#include "sdk/camerablocks.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/fault.h"
+#include "tests/tour/driver.h"
+#include "tests/tour/rows.h"
+#include "tests/tour/steps.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString recorder = u"192.168.1.120:8800"_s;
+const QString recorderMac = u"02:1a:c5:00:40:72"_s;
+constexpr int nameItem = static_cast<int>(sdk::CameraItem::ChannelName);
+
+QString troubleOf(const Driver &driver, int row)
+{
+    return driver.find(u"nameTrouble%1"_s.arg(row)) ? driver.text(u"nameTrouble%1"_s.arg(row)) : QString();
+}
+
+QString nameOf(const Driver &driver, int row)
+{
+    return driver.text(u"channelName%1"_s.arg(row));
+}
+
+bool hasKeyboard(const Driver &driver, int row)
+{
+    return driver.require(u"channelName%1"_s.arg(row))->hasActiveFocus();
+}
+
+QString translated(const char *context, const char *text)
+{
+    return QCoreApplication::translate(context, text);
+}
+
+void awaitLogin(const Driver &driver)
+{
+    driver.await(u"the device has answered"_s,
+                 [&] { return driver.text(u"configState"_s) == translated("DeviceState", "已登录"); });
+}
+
+/// How often the recorder was told a name.
+qsizetype writes(sdk::demo::DemoSite &site)
+{
+    qsizetype count = 0;
+    for (const sdk::demo::RecordedRequest &request : site.requests().of(u"NetSetItem"_s))
+        count += request.mac == recorderMac && request.request.value(u"item"_s).toInt() == nameItem ? 1 : 0;
+    return count;
+}
+
+void openNames(Driver &driver)
+{
+    driver.click(u"tab2"_s);
+    driver.fill(u"treeSearchField"_s, u"192.168.1.120"_s);
+    driver.await(u"the recorder is found"_s, [&] { return driver.find(u"device_"_s + recorder) != nullptr; });
+    driver.click(u"device_"_s + recorder);
+    driver.require(u"encodeSaveButton"_s); // until the device has answered, clicks are held back
+    awaitLogin(driver);
+    driver.click(u"configTab2"_s);
+    driver.require(u"nameTable"_s);
+    awaitLogin(driver);
+    driver.check(driver.require(u"nameTable"_s)->property("count").toInt() == 16,
+                 u"every channel of the recorder has a row"_s);
+    driver.check(nameOf(driver, 0) == u"大门", u"the first channel has its name"_s);
+    driver.report(u"names"_s, nameOf(driver, 1));
+}
+
+/// Two names, of which one is too long for the device, though not in letters; the keyboard goes from row to row.
+void walkEditing(Driver &driver)
+{
+    driver.fill(u"channelName0"_s, u"正门"_s);
+    driver.key(Qt::Key_Return);
+    driver.await(u"Enter goes on to the next row"_s, [&] { return hasKeyboard(driver, 1); });
+    driver.type(QString(90, u'库'));
+    driver.key(Qt::Key_Tab);
+    driver.await(u"so does Tab"_s, [&] { return hasKeyboard(driver, 2); });
+    driver.type(u"x"_s);
+    driver.key(Qt::Key_Escape);
+    driver.check(nameOf(driver, 2) == u"停车场入口", u"Escape takes back what was typed"_s);
+    driver.key(Qt::Key_Up);
+    driver.await(u"and up"_s, [&] { return hasKeyboard(driver, 1); });
+    driver.report(u"names-too-long"_s, troubleOf(driver, 1));
+    driver.click(u"namesSaveButton"_s);
+    driver.await(u"the name that is too long is shown"_s, [&] { return hasKeyboard(driver, 1); });
+    driver.click(u"nameWay1"_s);
+    driver.check(nameOf(driver, 1) == QString(85, u'库'), u"it is cut between two letters"_s);
+
+    driver.click(u"configTab0"_s);
+    driver.report(u"names-leaving"_s, driver.text(u"messageText"_s));
+    driver.click(u"cancelButton"_s);
+    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+}
+
+void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
+{
+    const qsizetype before = writes(site);
+    driver.click(u"namesSaveButton"_s);
+    driver.await(u"the names are saved"_s, [&] {
+        return writes(site) == before + 2 && !driver.find(u"nameChanged0"_s) &&
+               !driver.find(u"nameChanged1"_s) && !driver.find(u"runningText"_s);
+    });
+    driver.report(u"names-saved"_s, driver.texts(u"toastText"_s).join(u' '));
+
+    site.setFault(recorderMac, {.fault = sdk::demo::Fault::RefusesItem, .number = nameItem, .text = {}});
+    driver.fill(u"channelName3"_s, u"Car park 2"_s);
+    driver.click(u"namesSaveButton"_s);
+    driver.await(u"the refusal is told in its row"_s, [&] {
+        return troubleOf(driver, 3) == translated("ChannelNameTrouble", "设备没有接受") &&
+               !driver.find(u"runningText"_s);
+    });
+    driver.report(u"names-refused"_s, driver.text(u"namesNotice"_s));
+    site.clearFault(recorderMac, sdk::demo::Fault::RefusesItem);
+
+    driver.click(u"namesRefreshButton"_s);
+    driver.click(u"okButton"_s); // gives up the refused one
+    driver.await(u"the device's own name is back"_s, [&] {
+        return driver.find(u"channelName3"_s) && nameOf(driver, 3) == u"Car park, upper level";
+    });
+    driver.check(nameOf(driver, 0) == u"正门" && nameOf(driver, 1) == QString(85, u'库'),
+                 u"the saved names are read back"_s);
+    driver.click(u"configTab0"_s);
+    driver.require(u"encodeSaveButton"_s);
+    driver.fill(u"treeSearchField"_s, QString());
+    driver.click(u"tab0"_s);
+}
+
+} // namespace
+
+void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site)
+{
+    openNames(driver);
+    walkEditing(driver);
+    walkSavingNames(driver, site);
+}
