@@ -138,6 +138,11 @@ int CDeviceBase::checkLogin(const QString &, const QString &, const QString &)
     return 0;
 }
 
+QVariantMap CDeviceBase::readDeviceDetail(const QString &)
+{
+    return {};
+}
+
 QString CDeviceBase::importError()
 {
     return {};

@@ -90,6 +90,10 @@ public:
     /// findAndLoginDevice() stays as it is. Returns a LoginResult.
     virtual int checkLogin(const QString &ipport, const QString &account, const QString &password);
 
+    /// Logs in to the device as checkLogin() does and asks it for everything that it tells of itself. Holds
+    /// "loginResult" (a LoginResult as int), and what the device told.
+    virtual QVariantMap readDeviceDetail(const QString &ipport);
+
     /// Called by the factory at its end: ends the threads that may ask it, while it can still be asked.
     virtual void factoryEnds();
 

@@ -1,5 +1,6 @@
 #include "device/devicefactory.h"
 
+#include "device/devicedetail.h"
 #include "device/devicerow.h"
 #include "device/logging.h"
 #include "device/loginresult.h"
@@ -106,14 +107,7 @@ void CDeviceFactory::relaySignals(const CDeviceBase &backEnd)
 
 QString CDeviceFactory::getDeviceDetailString(const QString &family, const QString &mac)
 {
-    const QVariantMap detail = getDeviceDetail(family, mac);
-    QString text;
-    for (auto entry = detail.cbegin(); entry != detail.cend(); ++entry) {
-        if (entry.key() == DeviceRowKey::password)
-            continue; // the text is there to be copied and handed on
-        text += entry.key() + QLatin1String(": ") + entry.value().toString() + QLatin1Char('\n');
-    }
-    return text;
+    return DeviceDetail::textOf(DeviceDetail::linesOf(getDeviceDetail(family, mac)));
 }
 
 bool CDeviceFactory::importDevice(const QString &family, const QString &path, QJSValue msg)
@@ -408,6 +402,11 @@ int CDeviceFactory::checkLogin(const QString &family, const QString &ipport, con
                                const QString &password)
 {
     return forward(family, &CDeviceBase::checkLogin, ipport, account, password);
+}
+
+QVariantMap CDeviceFactory::readDeviceDetail(const QString &family, const QString &ipport)
+{
+    return forward(family, &CDeviceBase::readDeviceDetail, ipport);
 }
 
 QString CDeviceFactory::importError(const QString &family)

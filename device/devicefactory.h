@@ -69,8 +69,9 @@ public:
     Q_INVOKABLE void setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision);
     Q_INVOKABLE void setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
                                           const QString &ipversion);
+    /// The device's row and its search record, without the password.
     Q_INVOKABLE QVariantMap getDeviceDetail(const QString &family, const QString &mac);
-    /// The detail as one text, a line "key: value" for each.
+    /// The detail as one text in the user's language, a line "label: value" for each, by groups.
     Q_INVOKABLE QString getDeviceDetailString(const QString &family, const QString &mac);
     Q_INVOKABLE QVariantMap getDeviceInfo(const QString &family, const QString &ipport);
     /// Fills the properties "total" and "errcount" of `msg`, or calls it with the two when it is a function.
@@ -125,6 +126,10 @@ public:
     Q_INVOKABLE QString importError(const QString &family);
     /// Leaves out what a running import has not come to yet.
     Q_INVOKABLE void stopImport(const QString &family);
+    /// Logs in to a device with its row's account, else the default one, and asks it for everything that it
+    /// tells of itself. Holds "loginResult" (0 for success) and keys as getDeviceDetail() has, never a
+    /// password. Blocks for the waits of the library; the session of findAndLoginDevice() stays as it is.
+    Q_INVOKABLE QVariantMap readDeviceDetail(const QString &family, const QString &ipport);
 
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.

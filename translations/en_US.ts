@@ -723,7 +723,11 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
-    <name>DeviceDetailDialog</name>
+    <name>DeviceDetail</name>
+    <message>
+        <source>标识</source>
+        <translation>Identity</translation>
+    </message>
     <message>
         <source>名称</source>
         <translation>Name</translation>
@@ -735,6 +739,10 @@ A right click copies the result</translation>
     <message>
         <source>型号</source>
         <translation>Model</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
     </message>
     <message>
         <source>状态</source>
@@ -749,8 +757,28 @@ A right click copies the result</translation>
         <translation>Not initialised</translation>
     </message>
     <message>
-        <source>IP:端口</source>
-        <translation>IP:port</translation>
+        <source>版本</source>
+        <translation>Versions</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>网络</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>IPv6地址</source>
+        <translation>IPv6 address</translation>
+    </message>
+    <message>
+        <source>IPv4地址</source>
+        <translation>IPv4 address</translation>
+    </message>
+    <message>
+        <source>设备地址</source>
+        <translation>Own address</translation>
     </message>
     <message>
         <source>子网掩码</source>
@@ -761,24 +789,100 @@ A right click copies the result</translation>
         <translation>Gateway</translation>
     </message>
     <message>
-        <source>关闭</source>
-        <translation>Close</translation>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>主机名</source>
+        <translation>Host name</translation>
+    </message>
+    <message>
+        <source>本机地址</source>
+        <translation>Found from</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Ports</translation>
+    </message>
+    <message>
+        <source>本地端口</source>
+        <translation>Local port</translation>
+    </message>
+    <message>
+        <source>服务端口</source>
+        <translation>Service port</translation>
+    </message>
+    <message>
+        <source>设备服务端口</source>
+        <translation>Own service port</translation>
     </message>
     <message>
         <source>HTTP端口</source>
         <translation>HTTP port</translation>
     </message>
     <message>
-        <source>序列号</source>
-        <translation>Serial number</translation>
+        <source>HTTPS端口</source>
+        <translation>HTTPS port</translation>
     </message>
     <message>
-        <source>版本号</source>
-        <translation>Version</translation>
+        <source>RTSP端口</source>
+        <translation>RTSP port</translation>
+    </message>
+    <message>
+        <source>最大连接数</source>
+        <translation>Connections at most</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>已连接通道</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>报警输入</source>
+        <translation>Alarm inputs</translation>
+    </message>
+    <message>
+        <source>存储</source>
+        <translation>Storage</translation>
+    </message>
+    <message>
+        <source>硬盘数</source>
+        <translation>Hard disks</translation>
+    </message>
+    <message>
+        <source>添加与账号</source>
+        <translation>Access</translation>
     </message>
     <message>
         <source>添加方式</source>
         <translation>Added by</translation>
+    </message>
+    <message>
+        <source>手动添加（P2P）</source>
+        <translation>Hand (P2P)</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>手动添加（%1）</source>
+        <translation>Hand (%1)</translation>
+    </message>
+    <message>
+        <source>P2P ID</source>
+        <translation>P2P ID</translation>
     </message>
     <message>
         <source>P2P端口</source>
@@ -788,9 +892,12 @@ A right click copies the result</translation>
         <source>用户名</source>
         <translation>User name</translation>
     </message>
+</context>
+<context>
+    <name>DeviceDetailDialog</name>
     <message>
-        <source>本机地址</source>
-        <translation>Found from</translation>
+        <source>关闭</source>
+        <translation>Close</translation>
     </message>
     <message>
         <source>复制全部</source>
@@ -801,12 +908,39 @@ A right click copies the result</translation>
         <translation>Device details</translation>
     </message>
     <message>
-        <source>是</source>
-        <translation>Yes</translation>
+        <source>登录失败：%1</source>
+        <translation>Login failed: %1</translation>
     </message>
     <message>
-        <source>否</source>
-        <translation>No</translation>
+        <source>登录读取更多</source>
+        <translation>Log in for more</translation>
+    </message>
+    <message>
+        <source>登录设备，读取端口、通道和硬盘等信息</source>
+        <translation>Logs in to the device and reads its ports, channels, hard disks and more</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>Saves a text file</translation>
+    </message>
+    <message>
+        <source>搜索名称或内容</source>
+        <translation>Search names and values</translation>
+    </message>
+    <message>
+        <source>没有包含这些文字的信息</source>
+        <translation>Nothing holds this text</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetailLine</name>
+    <message>
+        <source>复制这一行</source>
+        <translation>Copy this line</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2204,22 @@ A right click copies the result</translation>
     <message>
         <source>请确认是否要删除</source>
         <translation>Confirm that you want to delete</translation>
+    </message>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 is there already. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>已导出到 %1</source>
+        <translation>Exported to %1</translation>
+    </message>
+    <message>
+        <source>无法写入文件 %1</source>
+        <translation>The file %1 cannot be written</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Select a folder</translation>
     </message>
 </context>
 <context>

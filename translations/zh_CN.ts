@@ -712,7 +712,11 @@
     </message>
 </context>
 <context>
-    <name>DeviceDetailDialog</name>
+    <name>DeviceDetail</name>
+    <message>
+        <source>标识</source>
+        <translation>标识</translation>
+    </message>
     <message>
         <source>名称</source>
         <translation>名称</translation>
@@ -724,6 +728,10 @@
     <message>
         <source>型号</source>
         <translation>型号</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>序列号</translation>
     </message>
     <message>
         <source>状态</source>
@@ -738,8 +746,28 @@
         <translation>未初始化</translation>
     </message>
     <message>
-        <source>IP:端口</source>
-        <translation>IP:端口</translation>
+        <source>版本</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>版本号</translation>
+    </message>
+    <message>
+        <source>网络</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>IPv6地址</source>
+        <translation>IPv6地址</translation>
+    </message>
+    <message>
+        <source>IPv4地址</source>
+        <translation>IPv4地址</translation>
+    </message>
+    <message>
+        <source>设备地址</source>
+        <translation>设备地址</translation>
     </message>
     <message>
         <source>子网掩码</source>
@@ -750,24 +778,100 @@
         <translation>网关</translation>
     </message>
     <message>
-        <source>关闭</source>
-        <translation>关闭</translation>
+        <source>是</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>主机名</source>
+        <translation>主机名</translation>
+    </message>
+    <message>
+        <source>本机地址</source>
+        <translation>本机地址</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>本地端口</source>
+        <translation>本地端口</translation>
+    </message>
+    <message>
+        <source>服务端口</source>
+        <translation>服务端口</translation>
+    </message>
+    <message>
+        <source>设备服务端口</source>
+        <translation>设备服务端口</translation>
     </message>
     <message>
         <source>HTTP端口</source>
         <translation>HTTP端口</translation>
     </message>
     <message>
-        <source>序列号</source>
-        <translation>序列号</translation>
+        <source>HTTPS端口</source>
+        <translation>HTTPS端口</translation>
     </message>
     <message>
-        <source>版本号</source>
-        <translation>版本号</translation>
+        <source>RTSP端口</source>
+        <translation>RTSP端口</translation>
+    </message>
+    <message>
+        <source>最大连接数</source>
+        <translation>最大连接数</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>通道数</translation>
+    </message>
+    <message>
+        <source>已连接通道</source>
+        <translation>已连接通道</translation>
+    </message>
+    <message>
+        <source>报警输入</source>
+        <translation>报警输入</translation>
+    </message>
+    <message>
+        <source>存储</source>
+        <translation>存储</translation>
+    </message>
+    <message>
+        <source>硬盘数</source>
+        <translation>硬盘数</translation>
+    </message>
+    <message>
+        <source>添加与账号</source>
+        <translation>添加与账号</translation>
     </message>
     <message>
         <source>添加方式</source>
         <translation>添加方式</translation>
+    </message>
+    <message>
+        <source>手动添加（P2P）</source>
+        <translation>手动添加（P2P）</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>手动添加（%1）</source>
+        <translation>手动添加（%1）</translation>
+    </message>
+    <message>
+        <source>P2P ID</source>
+        <translation>P2P ID</translation>
     </message>
     <message>
         <source>P2P端口</source>
@@ -777,9 +881,12 @@
         <source>用户名</source>
         <translation>用户名</translation>
     </message>
+</context>
+<context>
+    <name>DeviceDetailDialog</name>
     <message>
-        <source>本机地址</source>
-        <translation>本机地址</translation>
+        <source>关闭</source>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>复制全部</source>
@@ -790,12 +897,39 @@
         <translation>设备详情</translation>
     </message>
     <message>
-        <source>是</source>
-        <translation>是</translation>
+        <source>登录失败：%1</source>
+        <translation>登录失败：%1</translation>
     </message>
     <message>
-        <source>否</source>
-        <translation>否</translation>
+        <source>登录读取更多</source>
+        <translation>登录读取更多</translation>
+    </message>
+    <message>
+        <source>登录设备，读取端口、通道和硬盘等信息</source>
+        <translation>登录设备，读取端口、通道和硬盘等信息</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>保存为文本文件</translation>
+    </message>
+    <message>
+        <source>搜索名称或内容</source>
+        <translation>搜索名称或内容</translation>
+    </message>
+    <message>
+        <source>没有包含这些文字的信息</source>
+        <translation>没有包含这些文字的信息</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetailLine</name>
+    <message>
+        <source>复制这一行</source>
+        <translation>复制这一行</translation>
     </message>
 </context>
 <context>
@@ -2054,6 +2188,22 @@
     <message>
         <source>请确认是否要删除</source>
         <translation>请确认是否要删除</translation>
+    </message>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 已存在，是否覆盖？</translation>
+    </message>
+    <message>
+        <source>已导出到 %1</source>
+        <translation>已导出到 %1</translation>
+    </message>
+    <message>
+        <source>无法写入文件 %1</source>
+        <translation>无法写入文件 %1</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
     </message>
 </context>
 <context>

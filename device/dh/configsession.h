@@ -78,6 +78,14 @@ public:
         return m_net && m_net->NetQueryChannelStates(m_handle, states, wait);
     }
 
+    template<typename Block>
+    bool queryBlock(sdk::QueryCommand command, Block &block, std::chrono::milliseconds wait) const
+    {
+        std::uint32_t filled = 0;
+        return m_net && m_net->NetQueryConfig(m_handle, command, 0, &block, sizeof(block), filled, wait) &&
+               filled == sizeof(block);
+    }
+
     /// The error of the failure before, on this thread.
     [[nodiscard]] std::uint32_t lastError() const;
 

@@ -67,6 +67,7 @@ public:
 
     // The current session: devicedhsession.cpp
     int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password) override;
+    QVariantMap readDeviceDetail(const QString &ipport) override;
     int checkLogin(const QString &ipport, const QString &account, const QString &password) override;
 
     // Requests to devices that a search has found: devicedhrequests.cpp

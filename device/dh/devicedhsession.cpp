@@ -2,6 +2,7 @@
 #include "device/dh/cameraconfig.h"
 #include "device/dh/devicedh.h"
 #include "device/dh/encodeconfig.h"
+#include "device/dh/logindetail.h"
 #include "device/dh/securelogin.h"
 #include "sdk/netlibrary.h"
 
@@ -36,6 +37,19 @@ int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const Q
     if (login.handle != 0)
         m_libraries.net->NetLogout(login.handle);
     return resultCode(login.result);
+}
+
+QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
+{
+    const Credentials known = credentialsOf(ipport);
+    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, known.account, known.password);
+    QVariantMap detail;
+    if (login.handle != 0) {
+        detail = loginDetail(ConfigSession(m_libraries, login.handle));
+        m_libraries.net->NetLogout(login.handle);
+    }
+    detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
+    return detail;
 }
 
 void CDeviceDH::endSession()

@@ -57,8 +57,8 @@ QtObject {
     readonly property int initialiseListHeight: 300
     readonly property int firstPasswordWidth: 440
     readonly property int firstPasswordHeight: 400
-    readonly property int detailWidth: 520
-    readonly property int detailHeight: 480
+    readonly property int detailWidth: 600
+    readonly property int detailHeight: 420
     readonly property int addDeviceWidth: 400
     readonly property int addDeviceHeight: 250
     readonly property int portFieldWidth: 112

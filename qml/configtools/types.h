@@ -6,6 +6,7 @@
 #include "device/bytetext.h"
 #include "device/cameraform.h"
 #include "device/channelnameform.h"
+#include "device/devicedetailmodel.h"
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
@@ -32,6 +33,13 @@ struct DeviceTableModelForeign
     Q_GADGET
     QML_FOREIGN(DeviceTableModel)
     QML_NAMED_ELEMENT(DeviceTableModel)
+};
+
+struct DeviceDetailModelForeign
+{
+    Q_GADGET
+    QML_FOREIGN(DeviceDetailModel)
+    QML_NAMED_ELEMENT(DeviceDetailModel)
 };
 
 struct DialogRowsForeign

@@ -60,7 +60,8 @@ const QStringList operations = {"startSearch",
                                 "releaseP2PPort",
                                 "importFailures",
                                 "importError",
-                                "stopImport"};
+                                "stopImport",
+                                "readDeviceDetail"};
 
 const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSearchCount",
@@ -216,7 +217,8 @@ private Q_SLOTS:
         m_factory.startSnap("dh", 3, "10.0.0.1:37777");
         QCOMPARE(m_backEnd->calls,
                  QStringList({"setDefaultAccount root 2", "snapPictureToFile liveCapture 3 10.0.0.1:37777"}));
-        QCOMPARE(m_factory.getDeviceDetailString("dh", "02:aa"), "mac: 02:aa\nname: 大厅\n");
+        QCOMPARE(m_factory.getDeviceDetailString("dh", "02:aa"),
+                 "标识\n名称: 大厅\n\n网络\nMAC: 02:aa\n\n添加与账号\n添加方式: 搜索\n");
     }
 
     void anyFamilyMayBeUpgrading()

@@ -6,7 +6,8 @@
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
-#include <QCoreApplication>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QJsonObject>
 
 using namespace Qt::StringLiterals;
@@ -69,7 +70,8 @@ void openNames(Driver &driver)
     driver.report(u"names"_s, nameOf(driver, 1));
 }
 
-/// Two names, of which one is too long for the device, though not in letters; the keyboard goes from row to row.
+/// Two names, of which one is too long for the device, though not in letters; the keyboard goes from row to
+/// row.
 void walkEditing(Driver &driver)
 {
     driver.fill(u"channelName0"_s, u"正门"_s);
@@ -128,6 +130,35 @@ void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"tab0"_s);
 }
 
+/// What the search told, then what a login adds; searched and copied.
+void walkDetailPanel(Driver &driver)
+{
+    const int row = Rows(driver).rowOf("ipport", recorder);
+    QMetaObject::invokeMethod(driver.require(u"deviceTable"_s), "show", Q_ARG(QVariant, row));
+    driver.click(u"detail%1"_s.arg(row));
+    driver.report(u"detail-found"_s, driver.texts(u"detailValue"_s).join(u", "_s));
+    driver.check(!driver.texts(u"detailValue"_s).contains(u"554"_s), u"a search does not tell every port"_s);
+    driver.click(u"detailLoginButton"_s);
+    driver.fill(u"detailSearchField"_s, u"RTSP"_s);
+    driver.await(u"the login has told the port"_s,
+                 [&] { return driver.texts(u"detailValue"_s) == QStringList(u"554"_s); });
+    driver.report(u"detail-search"_s, driver.texts(u"detailValue"_s).join(u", "_s));
+    driver.hover(u"detailLine0"_s);
+    driver.click(u"detailCopy0"_s);
+    driver.check(QGuiApplication::clipboard()->text().endsWith(u": 554"_s), u"one line is copied"_s);
+    driver.fill(u"detailSearchField"_s, u"nothing like it"_s);
+    driver.report(u"detail-nothing"_s, driver.text(u"detailNothing"_s));
+    driver.fill(u"detailSearchField"_s, QString());
+    driver.key(Qt::Key_Down);
+    driver.key(Qt::Key_End);
+    driver.report(u"detail-whole"_s, driver.texts(u"detailValue"_s).join(u", "_s));
+    driver.click(u"okButton"_s);
+    driver.check(QGuiApplication::clipboard()->text().contains(recorderMac), u"and all of them"_s);
+    driver.check(!QGuiApplication::clipboard()->text().contains(u"Office-2024"_s), u"without the password"_s);
+    driver.key(Qt::Key_Escape);
+    driver.await(u"the panel is closed"_s, [&] { return !driver.find(u"detailList"_s); });
+}
+
 } // namespace
 
 void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site)
@@ -135,4 +166,5 @@ void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site)
     openNames(driver);
     walkEditing(driver);
     walkSavingNames(driver, site);
+    walkDetailPanel(driver);
 }

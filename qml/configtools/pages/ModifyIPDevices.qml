@@ -8,6 +8,7 @@ Item {
 
     required property var deviceFactory
     required property var deviceTable  // a DeviceTableModel
+    required property var fileDialogs
     signal copyRequested(string text)
     signal said(string message, int kind)
 
@@ -16,6 +17,25 @@ Item {
         const dialog = detail.wanted();
         dialog.load(Object.assign({}, values, deviceTable.ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.identity)));
         dialog.open();
+    }
+
+    /// A file of the same name that the folder holds already is not replaced unasked.
+    function exportDetail(folder, fileName) {
+        const path = folder + "/" + fileName;
+        if (!fileDialogs.exists(path)) {
+            writeDetail(path);
+            return;
+        }
+        const asked = overwriting.wanted();
+        asked.path = path;
+        asked.show(qsTr("%1 已存在，是否覆盖？").arg(path), OVMessageBox.DangerQuestion);
+    }
+
+    function writeDetail(path) {
+        if (detail.wanted().write(path))
+            said(qsTr("已导出到 %1").arg(path), OVToast.Success);
+        else
+            said(qsTr("无法写入文件 %1").arg(path), OVToast.Error);
     }
 
     /// The web page of a device behind a tunnel is reached through a tunnel of its own.
@@ -53,7 +73,19 @@ Item {
         id: detail
         visible: false
         sourceComponent: DeviceDetailDialog {
+            deviceFactory: root.deviceFactory
             onCopyRequested: text => root.copyRequested(text)
+            onExportRequested: fileName => root.fileDialogs.chooseFolder(
+                qsTr("请选择文件夹"), folder => root.exportDetail(folder, fileName))
+        }
+    }
+    OVOnDemand {
+        id: overwriting
+        visible: false
+        sourceComponent: OVMessageBox {
+            property string path
+            objectName: "overwriteDetailQuestion"
+            onAccepted: root.writeDetail(path)
         }
     }
     OVOnDemand {

@@ -79,6 +79,7 @@ FocusScope {
         id: actions
         deviceFactory: page.deviceFactory
         deviceTable: devices
+        fileDialogs: page.fileDialogs
         onCopyRequested: text => {
             clipboard.put(text);
             page.said(qsTr("已复制到剪贴板"), OVToast.Success);

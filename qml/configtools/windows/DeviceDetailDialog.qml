@@ -1,4 +1,5 @@
-// Everything that is known of a device, for reading and copying. Passwords are left out.
+// Everything that is known of a device, in groups: to be searched, copied and kept as a file. What only a login tells
+// is asked for when the user wants it: it takes a while, and a wrong password counts at the device.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,28 +7,38 @@ import configtools
 OVDialog {
     id: root
 
-    property var entries: []
+    required property var deviceFactory
+    property string ipport
+    property bool asking: false
+    property string trouble        // of the last login
     signal copyRequested(string text)
+    signal exportRequested(string fileName)
 
     /// Takes the values of a row and what else is known, by their keys.
     function load(detail) {
-        const known = [
-            [qsTr("名称"), detail.name], [qsTr("类型"), detail.type], [qsTr("型号"), detail.model],
-            [qsTr("状态"), detail.state ? qsTr("已初始化") : qsTr("未初始化")],
-            [qsTr("IP:端口"), detail.ipport], ["MAC", detail.mac],
-            [qsTr("子网掩码"), detail.submask], [qsTr("网关"), detail.gateway],
-            ["DHCP", detail.dhcp === undefined ? "" : detail.dhcp ? qsTr("是") : qsTr("否")],
-            [qsTr("HTTP端口"), detail.httpport > 0 ? detail.httpport : ""],
-            [qsTr("序列号"), detail.serial], [qsTr("版本号"), detail.vision],
-            [qsTr("添加方式"), detail.loginType], [qsTr("P2P端口"), detail.devp2pPort],
-            [qsTr("用户名"), detail.username], [qsTr("本机地址"), detail.localAddress]
-        ];
-        entries = known.filter(entry => (entry[1] ?? "") !== "")
-            .map(entry => ({label: entry[0], value: String(entry[1])}));
+        trouble = "";
+        ipport = detail.ipport ?? "";
+        searchField.text = "";
+        lines.load(detail);
     }
 
-    function text() {
-        return entries.map(entry => entry.label + ": " + entry.value).join("\n");
+    function write(path) {
+        return lines.write(path);
+    }
+
+    function ask() {
+        asking = true;
+        trouble = "";
+        hold.open();
+        paint.run(() => {
+            const told = deviceFactory.readDeviceDetail("dh", ipport);
+            asking = false;
+            hold.release();
+            if (told.loginResult === 0)
+                lines.add(told);
+            else
+                trouble = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(told.loginResult ?? -1));
+        });
     }
 
     width: Theme.detailWidth
@@ -35,60 +46,135 @@ OVDialog {
     okText: qsTr("复制全部")
     cancelText: qsTr("关闭")
     title: qsTr("设备详情")
-    onAccepted: copyRequested(text())
+    onAccepted: copyRequested(lines.text)
     onOpened: list.forceActiveFocus()
 
-    ListView {
-        id: list
+    footContent: Row {
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.unit
+
+        OVButton {
+            busy: root.asking
+            enabled: !root.asking
+            objectName: "detailLoginButton"
+            text: qsTr("登录读取更多")
+            toolTip: qsTr("登录设备，读取端口、通道和硬盘等信息")
+            onClicked: root.ask()
+        }
+        OVButton {
+            objectName: "detailExportButton"
+            text: qsTr("导出")
+            toolTip: qsTr("保存为文本文件")
+            onClicked: root.exportRequested(lines.fileName)
+        }
+    }
+
+    DeviceDetailModel {
+        id: lines
+        searchText: searchField.text
+    }
+    OVAfterPaint {
+        id: paint
+    }
+    OVInputHold {
+        id: hold
+    }
+
+    Column {
         width: parent.width
-        height: Math.min(contentHeight, Theme.detailHeight)
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        model: root.entries
-        objectName: "detailList"
+        spacing: Theme.controlGap
 
-        T.ScrollBar.vertical: OVScrollBar {}
+        OVTextField {
+            id: searchField
+            width: parent.width
+            accessibleName: placeholderText
+            clearable: true
+            iconName: "search"
+            objectName: "detailSearchField"
+            placeholderText: qsTr("搜索名称或内容")
+            Keys.onDownPressed: list.forceActiveFocus()
+        }
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.bad
+            iconName: "error"
+            objectName: "detailTrouble"
+            text: root.trouble
+            visible: root.trouble !== ""
+        }
+        Item {
+            width: parent.width
+            height: Theme.detailHeight - (root.trouble !== "" ? Theme.controlHeight + Theme.controlGap : 0)
 
-        delegate: Item {
-            id: entry
+            ListView {
+                id: list
+                anchors.fill: parent
+                activeFocusOnTab: true
+                boundsBehavior: Flickable.StopAtBounds
+                clip: true
+                keyNavigationEnabled: true
+                model: lines
+                objectName: "detailList"
+                section.property: "group"
 
-            required property int index
-            required property var modelData
+                Accessible.role: Accessible.List
+                Accessible.name: root.title
 
-            width: ListView.view.width
-            height: Math.max(Theme.rowHeight, value.height + Theme.controlGap)
+                T.ScrollBar.vertical: OVScrollBar {}
 
-            OVLabel {
-                width: Theme.formLabelWidth
-                height: Theme.rowHeight
-                color: Theme.colours.sub
-                text: entry.modelData.label
+                onActiveFocusChanged: if (activeFocus && currentIndex < 0) currentIndex = 0
+
+                Keys.onPressed: event => {
+                    const copies = event.key === Qt.Key_C && event.modifiers & Qt.ControlModifier;
+                    event.accepted = true;
+                    if (copies && currentIndex >= 0)
+                        root.copyRequested(lines.lineText(currentIndex));
+                    else if (event.key === Qt.Key_Home)
+                        currentIndex = 0;
+                    else if (event.key === Qt.Key_End)
+                        currentIndex = count - 1;
+                    else
+                        event.accepted = false;
+                }
+
+                section.delegate: Item {
+                    required property string section
+
+                    width: ListView.view.width
+                    height: Theme.tableHeadHeight
+
+                    OVLabel {
+                        anchors.bottom: parent.bottom
+                        width: parent.width
+                        height: Theme.unit * 3
+                        color: Theme.colours.sub
+                        font: Theme.headFont
+                        text: parent.section
+                    }
+                    Rectangle {
+                        anchors.bottom: parent.bottom
+                        width: parent.width
+                        height: Theme.line
+                        color: Theme.colours.line
+                    }
+                }
+
+                // qmllint disable unqualified
+                delegate: DeviceDetailLine {
+                    width: ListView.view.width
+                    current: index === list.currentIndex && list.activeFocus
+                    onCopyRequested: root.copyRequested(lines.lineText(index))
+                }
+                // qmllint enable unqualified
             }
-            TextEdit {
-                id: value
-                x: Theme.formLabelWidth + Theme.unit
-                y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baselineOffset)
-                width: parent.width - x - Theme.pageMargin
-                color: Theme.colours.ink
-                font: Theme.figureFont
-                objectName: "detailValue"
-                readOnly: true
-                renderType: Text.NativeRendering
-                selectByMouse: true
-                selectedTextColor: Theme.colours.ink
-                selectionColor: Theme.colours.rowSelected
-                text: entry.modelData.value
-                textFormat: TextEdit.PlainText
-                wrapMode: TextEdit.WrapAnywhere
-
-                Accessible.name: entry.modelData.label + " " + text
-            }
-            Rectangle {
-                y: parent.height - height
+            OVParagraph {
+                anchors.centerIn: parent
                 width: parent.width
-                height: Theme.line
-                color: Theme.colours.line
-                visible: entry.index < entry.ListView.view.count - 1
+                color: Theme.colours.sub
+                horizontalAlignment: Text.AlignHCenter
+                objectName: "detailNothing"
+                text: qsTr("没有包含这些文字的信息")
+                visible: lines.count === 0
             }
         }
     }

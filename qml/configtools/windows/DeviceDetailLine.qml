@@ -1,0 +1,68 @@
+// One thing that is known of a device: what it is, and its value, which can be marked and copied.
+import QtQuick
+import configtools
+
+Rectangle {
+    id: root
+
+    required property int index
+    required property string label
+    required property string value
+    property bool current: false
+    signal copyRequested
+
+    height: Math.max(Theme.rowHeight, words.height + Theme.controlGap)
+    color: current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.rowHoverVeil : Theme.colours.clear
+    objectName: "detailLine" + index
+    radius: Theme.smallRadius
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: label + " " + value
+    Accessible.selected: current
+
+    HoverHandler {
+        id: pointer
+    }
+
+    OVLabel {
+        x: Theme.unit
+        width: Theme.panelLabelWidth
+        height: Theme.rowHeight
+        color: Theme.colours.sub
+        text: root.label
+    }
+    TextEdit {
+        id: words
+        x: Theme.panelLabelWidth + 2 * Theme.unit
+        y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baselineOffset)
+        width: copy.x - x - Theme.unit
+        color: Theme.colours.ink
+        font: Theme.figureFont
+        objectName: "detailValue"
+        readOnly: true
+        renderType: Text.NativeRendering
+        selectByMouse: true
+        selectedTextColor: Theme.colours.ink
+        selectionColor: Theme.colours.rowSelected
+        text: root.value
+        textFormat: TextEdit.PlainText
+        wrapMode: TextEdit.WrapAnywhere
+
+        Accessible.ignored: true  // the line says it
+    }
+    OVIconButton {
+        id: copy
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.controlGap
+        anchors.verticalCenter: parent.verticalCenter
+        implicitWidth: Theme.unit * 3
+        implicitHeight: Theme.unit * 3
+        focusPolicy: Qt.NoFocus
+        iconName: "copy"
+        iconSize: Theme.smallIconSize
+        objectName: "detailCopy" + root.index
+        opacity: pointer.hovered || root.current ? 1 : 0
+        toolTip: qsTr("复制这一行")
+        onClicked: root.copyRequested()
+    }
+}
