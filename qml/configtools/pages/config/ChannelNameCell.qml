@@ -25,7 +25,14 @@ OVTableCell {
     }
 
     onNameChanged: if (field.text !== name) field.text = name
-    onWantedChanged: Qt.callLater(take)  // the row may be on its way into view
+    onWantedChanged: if (wanted) arriving.start()
+
+    // The row may be on its way into view.
+    Timer {
+        id: arriving
+        interval: 0
+        onTriggered: root.take()
+    }
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
