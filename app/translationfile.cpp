@@ -21,6 +21,7 @@ enum class Section : quint8
     Contexts = 0x2f,
     Hashes = 0x42,
     Messages = 0x69,
+    PluralRules = 0x88,
 };
 
 enum class MessageTag : quint8
@@ -117,6 +118,10 @@ bool isSoundTranslation(const QByteArray &bytes)
     }
     // A table of contexts is an old form, which nothing makes any more and whose chains have no bounds.
     if (!sections.value(quint8(Section::Contexts)).isEmpty())
+        return false;
+
+    // Of the last sections, which a file that is cut between two of them lacks.
+    if (sections.value(quint8(Section::PluralRules)).isEmpty())
         return false;
 
     const QByteArrayView messages = sections.value(quint8(Section::Messages));

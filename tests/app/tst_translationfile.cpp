@@ -32,9 +32,8 @@ private Q_SLOTS:
 
     void aCutOneIsNot()
     {
-        for (qsizetype size = 0; size < m_sound.size(); size += 7)
-            QVERIFY2(!isSoundTranslation(m_sound.left(size)) || size == m_sound.size(),
-                     qPrintable(QString::number(size)));
+        for (qsizetype size = 0; size < m_sound.size(); ++size)
+            QVERIFY2(!isSoundTranslation(m_sound.left(size)), qPrintable(QString::number(size)));
     }
 
     /// Whatever passes the check can be asked for every text without leaving its bytes, which the sanitizers

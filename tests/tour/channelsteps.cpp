@@ -151,6 +151,10 @@ void walkDetailPanel(Driver &driver)
     driver.fill(u"detailSearchField"_s, QString());
     driver.key(Qt::Key_Down);
     driver.key(Qt::Key_End);
+    driver.await(u"the last line is in view"_s, [&] {
+        const QQuickItem *list = driver.require(u"detailList"_s);
+        return list->hasActiveFocus() && list->property("atYEnd").toBool();
+    });
     driver.report(u"detail-whole"_s, driver.texts(u"detailValue"_s).join(u", "_s));
     driver.click(u"okButton"_s);
     driver.check(QGuiApplication::clipboard()->text().contains(recorderMac), u"and all of them"_s);

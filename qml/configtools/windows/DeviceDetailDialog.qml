@@ -122,7 +122,7 @@ OVDialog {
 
                 T.ScrollBar.vertical: OVScrollBar {}
 
-                onActiveFocusChanged: if (activeFocus && currentIndex < 0) currentIndex = 0
+                onCountChanged: currentIndex = Math.min(0, count - 1)
 
                 Keys.onPressed: event => {
                     const copies = event.key === Qt.Key_C && event.modifiers & Qt.ControlModifier;

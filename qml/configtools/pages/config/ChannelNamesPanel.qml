@@ -38,8 +38,8 @@ Item {
         height: foot.y - y - Theme.pageMargin
         checkable: false
         columns: [
-            {key: "num", title: qsTr("通道"), width: Theme.columnNumber, cell: numberCell},
-            {key: "connected", title: qsTr("连接"), width: Theme.columnState, cell: connectionCell},
+            {key: "num", title: qsTr("通道"), width: Theme.columnShortActions, cell: numberCell},
+            {key: "connected", title: qsTr("连接"), width: Theme.columnVersion, cell: connectionCell},
             {key: "name", title: qsTr("名称"), width: Theme.columnCommand, stretch: 1, cell: nameCell},
             {key: "bytes", title: qsTr("字节"), width: Theme.columnBytes, cell: bytesCell},
             {key: "trouble", title: " ", width: Theme.columnAnswer, cell: troubleCell}
