@@ -139,9 +139,10 @@ void walkDetailPanel(Driver &driver)
     driver.report(u"detail-found"_s, driver.texts(u"detailValue"_s).join(u", "_s));
     driver.check(!driver.texts(u"detailValue"_s).contains(u"554"_s), u"a search does not tell every port"_s);
     driver.click(u"detailLoginButton"_s);
-    driver.fill(u"detailSearchField"_s, u"RTSP"_s);
-    driver.await(u"the login has told the port"_s,
-                 [&] { return driver.texts(u"detailValue"_s) == QStringList(u"554"_s); });
+    driver.await(u"the login has told the port"_s, [&] {
+        driver.fill(u"detailSearchField"_s, u"RTSP"_s); // held back until the device has answered
+        return driver.texts(u"detailValue"_s) == QStringList(u"554"_s);
+    });
     driver.report(u"detail-search"_s, driver.texts(u"detailValue"_s).join(u", "_s));
     driver.hover(u"detailLine0"_s);
     driver.click(u"detailCopy0"_s);
