@@ -21,7 +21,6 @@ enum class Section : quint8
     Contexts = 0x2f,
     Hashes = 0x42,
     Messages = 0x69,
-    PluralRules = 0x88,
 };
 
 enum class MessageTag : quint8
@@ -120,14 +119,10 @@ bool isSoundTranslation(const QByteArray &bytes)
     if (!sections.value(quint8(Section::Contexts)).isEmpty())
         return false;
 
-    // Of the last sections, which a file that is cut between two of them lacks.
-    if (sections.value(quint8(Section::PluralRules)).isEmpty())
-        return false;
-
     const QByteArrayView messages = sections.value(quint8(Section::Messages));
     const QByteArrayView hashes = sections.value(quint8(Section::Hashes));
     constexpr qsizetype entrySize = 8; // a hash and the place of its message
-    if (hashes.size() % entrySize != 0)
+    if (hashes.isEmpty() || hashes.size() % entrySize != 0)
         return false;
     ByteReader table(hashes);
     while (!table.atEnd()) {

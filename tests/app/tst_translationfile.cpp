@@ -32,8 +32,14 @@ private Q_SLOTS:
 
     void aCutOneIsNot()
     {
-        for (qsizetype size = 0; size < m_sound.size(); ++size)
+        // All of its texts are there when it is cut right before the rules of plurals, which not every
+        // language has: such a file is as good as one that never had them.
+        constexpr char pluralRules = '\x88';
+        for (qsizetype size = 0; size < m_sound.size(); ++size) {
+            if (m_sound.at(size) == pluralRules && m_sound.size() - size < 100)
+                continue;
             QVERIFY2(!isSoundTranslation(m_sound.left(size)), qPrintable(QString::number(size)));
+        }
     }
 
     /// Whatever passes the check can be asked for every text without leaving its bytes, which the sanitizers

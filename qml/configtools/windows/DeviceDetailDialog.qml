@@ -111,6 +111,7 @@ OVDialog {
                 anchors.fill: parent
                 activeFocusOnTab: true
                 boundsBehavior: Flickable.StopAtBounds
+                cacheBuffer: 0  // lines that are made ahead are in the way when the lines change
                 clip: true
                 keyNavigationEnabled: true
                 model: lines
