@@ -1,0 +1,116 @@
+// Heads and names of firmware files, also of files that others have made.
+#include "sdk/firmwarehead.h"
+
+#include <QTest>
+
+using namespace sdk;
+using Kind = FirmwareHeadReading::Kind;
+Q_DECLARE_METATYPE(Kind)
+
+namespace {
+
+QByteArray line(const std::vector<std::string> &models)
+{
+    QByteArrayList parts;
+    for (const std::string &model : models)
+        parts.append(QByteArray::fromStdString(model));
+    return parts.join(',');
+}
+
+FirmwareHeadReading readingOf(const QByteArray &bytes)
+{
+    return readFirmwareHead({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+} // namespace
+
+class FirmwareHeadTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void heads_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<QByteArray>("models");
+        QTest::addColumn<QByteArray>("version");
+        const auto row = [](const char *title, const QByteArray &bytes, Kind kind,
+                            const QByteArray &models = {}, const QByteArray &version = {}) {
+            QTest::newRow(title) << bytes << kind << models << version;
+        };
+        const QByteArray first = "BRELM-FIRMWARE 1\n";
+        const QByteArray version = "version=2.900.0\n";
+        row("whole", first + "model=A-1, B-2230-IR\n" + version + "\n\0\xff", Kind::Known, "A-1,B-2230-IR",
+            "2.900.0");
+        row("other line ends", "BRELM-FIRMWARE 1\r\nmodel=A-1\r\nversion=1.2\r\n\r\n", Kind::Known, "A-1",
+            "1.2");
+        row("no models, other keys", first + "built=2024-05-06\n" + version + "\n", Kind::Known, "",
+            "2.900.0");
+        row("nothing", "", Kind::Unknown);
+        row("other file", QByteArray("PK\x03\x04", 4), Kind::Unknown);
+        row("other generation", "BRELM-FIRMWARE 2\n" + version + "\n", Kind::Damaged);
+        row("first line alone", "BRELM-FIRMWARE 1", Kind::Damaged);
+        row("no end", first + version, Kind::Damaged);
+        row("end cut off", first + version + "\r", Kind::Damaged);
+        row("no version", first + "model=A-1\n\n", Kind::Damaged);
+        row("version in words", first + "version=new\n\n", Kind::Damaged);
+        row("version of one number", first + "version=2\n\n", Kind::Damaged);
+        row("version with a hole", first + "version=2..1\n\n", Kind::Damaged);
+        row("version too long", first + "version=2." + QByteArray(62, '1') + "\n\n", Kind::Damaged);
+        row("empty model", first + "model=\n" + version + "\n", Kind::Damaged);
+        row("model of odd letters", first + "model=A\x01\n" + version + "\n", Kind::Damaged);
+        row("model too long", first + "model=" + QByteArray(33, 'A') + "\n" + version + "\n", Kind::Damaged);
+        row("65 models", first + "model=" + QByteArray("A,").repeated(64) + "A\n" + version + "\n",
+            Kind::Damaged);
+        row("no key", first + "=1\n" + version + "\n", Kind::Damaged);
+        row("line without a value", first + "model\n" + version + "\n", Kind::Damaged);
+        row("too long", first + "x=" + QByteArray(4096, '1') + "\n" + version + "\n", Kind::Damaged);
+        row("bytes of zero", first + QByteArray(5000, '\0'), Kind::Damaged);
+    }
+
+    void heads()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(Kind, kind);
+        const FirmwareHeadReading reading = readingOf(bytes);
+        QCOMPARE(reading.kind, kind);
+        QTEST(line(reading.head.models), "models");
+        QTEST(QByteArray::fromStdString(reading.head.version), "version");
+    }
+
+    void names_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("told"); // "models version", empty for nothing
+        const auto row = [](const QByteArray &name, const QByteArray &told) {
+            QTest::newRow(name.constData()) << name << told;
+        };
+        row("B-2230-IR_2.900.0.bin", "B-2230-IR 2.900.0");
+        row("A-1,B-2_v2.900.0_20240506.img", "A-1,B-2 2.900.0");
+        row("A-1_V1.2", "A-1 1.2");
+        row("firmware.bin", "");
+        row("new firmware_2.bin", "");
+        row("General_final.bin", "");
+        row("_2.900.0.bin", "");
+        row("升级_2.900.0.bin", "");
+        row("", "");
+    }
+
+    void names()
+    {
+        QFETCH(QByteArray, name);
+        const std::optional<FirmwareHead> head = firmwareHeadOfName(name.toStdString());
+        QTEST(head ? line(head->models) + ' ' + QByteArray::fromStdString(head->version) : QByteArray(),
+              "told");
+    }
+
+    void modelsThatFit()
+    {
+        const FirmwareHead head = {.models = {"B-2230-IR"}, .version = "1.0"};
+        QVERIFY(head.fits("b-2230-ir ") && head.fits("") && FirmwareHead().fits("any"));
+        QVERIFY(!head.fits("B-2230") && !head.fits("B-2230-IRX"));
+    }
+};
+
+QTEST_GUILESS_MAIN(FirmwareHeadTest)
+#include "tst_firmwarehead.moc"
