@@ -12,6 +12,7 @@ enum class NetError : std::uint32_t
     NetworkFailure = 0x80000002,   ///< the request could not be sent or its answer not be read
     ProtocolMismatch = 0x80000003, ///< the device speaks another version of the protocol
     NotSupported = 0x80000013,     ///< the device refuses this kind of request as it stands
+    UnusableFile = 0x80000017,     ///< a file of this computer cannot be read
     WrongPassword = 0x80000064,
     NoSuchAccount = 0x80000065,
     AccountLoggedIn = 0x80000067,        ///< the account has a session already
@@ -21,6 +22,9 @@ enum class NetError : std::uint32_t
     WrongPasswordSecure = 0x80000096,    ///< as WrongPassword, said by the newer kind of login
     WrongPasswordTriesLeft = 0x80000097, ///< the same, with tries left before the account locks
     AccountLoggedInSecure = 0x80000098,
+    DeviceBusy = 0x800000A0,      ///< the device is at something that it cannot leave
+    FirmwareRefused = 0x800000A1, ///< the device does not take this firmware
+    UpgradeFailed = 0x800000A2,   ///< the device gave its upgrade up
 };
 
 } // namespace sdk

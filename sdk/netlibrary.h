@@ -9,6 +9,7 @@
 #include "sdk/searchblocks.h"
 #include "sdk/streamblocks.h"
 #include "sdk/systemblocks.h"
+#include "sdk/upgradeblocks.h"
 
 #include <chrono>
 #include <cstdint>
@@ -171,6 +172,24 @@ public:
     /// Asks which channels of the device have a camera. Waits and fails as NetQueryCapabilities() does.
     virtual bool NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,
                                        std::chrono::milliseconds wait) = 0;
+
+    // Firmware
+
+    /// Sends the firmware file `fileName` (local 8-bit text) to a device and lets it write it. Blocks up to
+    /// `wait` until the device says that it will take the file; all that follows is told to `handler`, which
+    /// may be called before the return. Returns the handle of the upgrade, which NetStopUpgrade frees; 0 when
+    /// the file cannot be read, when the device refuses or is away, or when `loginHandle` is no session. A
+    /// session that ends takes its upgrades along: a file on its way is dropped, a device that is writing
+    /// goes on unheard.
+    virtual std::int64_t NetStartUpgrade(std::int64_t loginHandle, const char *fileName,
+                                         UpgradeProgressHandler handler, void *user,
+                                         std::chrono::milliseconds wait) = 0;
+
+    /// Ends an upgrade and frees its handle: the device drops what it has of the file and stays as it was.
+    /// While it is writing it cannot be stopped: false (NotSupported), and the upgrade goes on. After true
+    /// the handler runs no more; so this must not be called from one. Returns false for a handle that is no
+    /// upgrade.
+    virtual bool NetStopUpgrade(std::int64_t upgradeHandle) = 0;
 };
 
 } // namespace sdk

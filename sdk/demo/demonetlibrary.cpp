@@ -56,7 +56,8 @@ bool DemoNetLibrary::NetInit()
 void DemoNetLibrary::NetCleanup()
 {
     record("NetCleanup");
-    if (AnswerDelivery::isInsideHandler() || LiveStream::isInsideHandler()) {
+    if (AnswerDelivery::isInsideHandler() || LiveStream::isInsideHandler() ||
+        DeviceUpgrade::isInsideHandler()) {
         qCWarning(demoLog, "NetCleanup was called from a handler and would wait for itself: ignored");
         m_error.fail(DemoError::InsideHandler);
         return;
@@ -69,6 +70,7 @@ void DemoNetLibrary::endEverything()
     m_gate.close();
     m_sessions.closeAll();
     m_streams.closeAll();
+    m_upgrades.closeAll();
     std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches; // end without the lock
     const std::lock_guard lock(m_mutex);
     searches.swap(m_searches);

@@ -5,6 +5,7 @@
 #include "sdk/demo/internal/callgate.h"
 #include "sdk/demo/internal/demosessions.h"
 #include "sdk/demo/internal/devicelogin.h"
+#include "sdk/demo/internal/deviceupgrades.h"
 #include "sdk/demo/internal/livestreams.h"
 #include "sdk/demo/internal/threaderror.h"
 #include "sdk/netlibrary.h"
@@ -28,7 +29,10 @@ public:
     static constexpr std::chrono::milliseconds connectTime{3000};
 
     /// `site` must outlive the library.
-    explicit DemoNetLibrary(DemoSite &site) : m_site(site), m_streams(site, m_sessions) {}
+    explicit DemoNetLibrary(DemoSite &site)
+        : m_site(site), m_streams(site, m_sessions), m_upgrades(site, m_sessions)
+    {
+    }
 
     [[nodiscard]] DemoSite &site() const { return m_site; }
     ~DemoNetLibrary() override;
@@ -103,6 +107,12 @@ public:
     bool NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,
                                std::chrono::milliseconds wait) override;
 
+    // Firmware: demonetupgrade.cpp
+    std::int64_t NetStartUpgrade(std::int64_t loginHandle, const char *fileName,
+                                 UpgradeProgressHandler handler, void *user,
+                                 std::chrono::milliseconds wait) override;
+    bool NetStopUpgrade(std::int64_t upgradeHandle) override;
+
 private:
     /// How long an address search goes on.
     enum class SearchEnd
@@ -166,6 +176,7 @@ private:
     std::int64_t m_lastSearchHandle = 0;
     std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> m_searches;
     LiveStreams m_streams;
+    DeviceUpgrades m_upgrades;
 };
 
 } // namespace sdk::demo

@@ -74,11 +74,13 @@ bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
     record("NetLogout", {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)}}, mac);
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
-    if (LiveStream::isInsideHandler()) // it would wait for the handler of its own stream
+    // It would wait for the handler of its own stream or upgrade.
+    if (LiveStream::isInsideHandler() || DeviceUpgrade::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
     if (!m_sessions.close(loginHandle))
         return m_error.fail(DemoError::UnknownHandle);
     m_streams.closeAllOf(loginHandle);
+    m_upgrades.closeAllOf(loginHandle);
     return true;
 }
 

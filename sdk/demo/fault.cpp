@@ -44,6 +44,11 @@ constexpr std::array entries = {
     FaultEntry{Fault::OddConfiguration, "oddConfiguration", FaultValue::Text},
     FaultEntry{Fault::OverLongConfiguration, "overLongConfiguration", FaultValue::Text},
     FaultEntry{Fault::RefusesChannelStates, "refusesChannelStates", FaultValue::None},
+    FaultEntry{Fault::UpgradeBusy, "upgradeBusy", FaultValue::None},
+    FaultEntry{Fault::UpgradeHangsAt, "upgradeHangsAt", FaultValue::Number},
+    FaultEntry{Fault::UpgradeKeepsVersion, "upgradeKeepsVersion", FaultValue::None},
+    FaultEntry{Fault::UpgradeNeverReturns, "upgradeNeverReturns", FaultValue::None},
+    FaultEntry{Fault::UpgradeTakes, "upgradeTakes", FaultValue::Number},
     FaultEntry{Fault::HttpLate, "httpLate", FaultValue::Number},
     FaultEntry{Fault::HttpSlow, "httpSlow", FaultValue::Number},
     FaultEntry{Fault::HttpBroken, "httpBroken", FaultValue::None},
@@ -90,7 +95,7 @@ FaultValue faultValue(Fault fault)
 
 int maximumFaultNumber(Fault fault)
 {
-    if (fault == Fault::UpgradeFailsAt)
+    if (fault == Fault::UpgradeFailsAt || fault == Fault::UpgradeHangsAt)
         return 100;
     if (fault == Fault::HttpHuge)
         return 1024;

@@ -26,7 +26,7 @@ enum class Fault
     DropsStreamAfter,      ///< ends the stream after `number` pictures
     FirstPictureLate,      ///< the stream begins `number` ms late
     RebootTakes,           ///< a reboot takes the device away for `number` s
-    UpgradeFailsAt,        ///< an upgrade fails at `number` %
+    UpgradeFailsAt,        ///< an upgrade fails at `number` % of the sending, at 100 in the writing
     OddBytes,              ///< texts hold control characters, markup, line breaks and invalid UTF-8
     OverLongTexts,         ///< texts fill their fields to the last byte, without a terminating zero
     RefusesSetting,        ///< refuses to write setting `number`
@@ -38,6 +38,11 @@ enum class Fault
     OddConfiguration,      ///< the configuration named `text` is no JSON
     OverLongConfiguration, ///< the configuration named `text` is larger than any buffer
     RefusesChannelStates,  ///< does not tell which channels have a camera
+    UpgradeBusy,           ///< is at an upgrade already
+    UpgradeHangsAt,        ///< an upgrade stands still there, as UpgradeFailsAt fails
+    UpgradeKeepsVersion,   ///< comes back from an upgrade with the version that it had
+    UpgradeNeverReturns,   ///< does not come back from an upgrade
+    UpgradeTakes,          ///< a firmware file takes `number` s to be sent
     // Answers over HTTP to a right password:
     HttpLate,         ///< come `number` ms late
     HttpSlow,         ///< come at one byte a second for `number` s
@@ -51,7 +56,7 @@ enum class Fault
 enum class FaultValue
 {
     None,
-    Number, ///< FaultSetting::number, 0 or more (UpgradeFailsAt: 0 to 100, HttpHuge: 0 to 1024)
+    Number, ///< FaultSetting::number, 0 or more (upgrades at %: 0 to 100, HttpHuge: 0 to 1024)
     Text,   ///< FaultSetting::text, not empty
 };
 

@@ -112,4 +112,10 @@ public:
     {
         return false;
     }
+    std::int64_t NetStartUpgrade(std::int64_t, const char *, sdk::UpgradeProgressHandler, void *,
+                                 std::chrono::milliseconds) override
+    {
+        return 0;
+    }
+    bool NetStopUpgrade(std::int64_t) override { return false; }
 };

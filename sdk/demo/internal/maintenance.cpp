@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QJsonDocument>
 
+#include <limits>
+
 namespace sdk::demo {
 
 namespace {
@@ -104,6 +106,15 @@ NetError resetToFactory(SceneDevice &device, std::int64_t now)
     device.maintenance.videoStandard = VideoStandard::Pal;
     leaveForReboot(device, now);
     return NetError::None;
+}
+
+void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int64_t now)
+{
+    if (!device.hasFault(Fault::UpgradeKeepsVersion))
+        device.version = QString::fromStdString(firmware.version);
+    leaveForReboot(device, now);
+    if (device.hasFault(Fault::UpgradeNeverReturns))
+        device.maintenance.awayUntil = std::numeric_limits<std::int64_t>::max();
 }
 
 NetError changePassword(SceneDevice &device, const QString &user, const QString &oldPassword,

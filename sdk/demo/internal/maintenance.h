@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/demo/scene.h"
+#include "sdk/firmwarehead.h"
 #include "sdk/neterror.h"
 
 #include <QByteArray>
@@ -31,6 +32,9 @@ inline constexpr std::chrono::seconds usualReboot{20};
 
 /// The device forgets its accounts and its configuration and reboots. It keeps its address and its clock.
 [[nodiscard]] NetError resetToFactory(SceneDevice &device, std::int64_t now);
+
+/// The device has the firmware and reboots with it.
+void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int64_t now);
 
 [[nodiscard]] NetError changePassword(SceneDevice &device, const QString &user, const QString &oldPassword,
                                       const QString &newPassword);
