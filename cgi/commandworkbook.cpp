@@ -1,10 +1,9 @@
 #include "cgi/commandworkbook.h"
 
 #include "cgi/logging.h"
+#include "sheets/keptworkbook.h"
 
-#include <QFileInfo>
 #include <QRegularExpression>
-#include <QStandardPaths>
 
 #include <cmath>
 
@@ -118,26 +117,7 @@ void CommandWorkbook::setResult(int row, const QString &result)
 
 bool CommandWorkbook::keepResults()
 {
-    if (m_excel.save())
-        return true;
-    qCWarning(logCgi).noquote() << "cannot save the workbook:" << m_excel.errorText();
-    return keepElsewhere(QFileInfo(m_path).absolutePath()) ||
-           keepElsewhere(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-}
-
-bool CommandWorkbook::keepElsewhere(const QString &folder)
-{
-    const QString base =
-        folder + QLatin1Char('/') + QFileInfo(m_path).completeBaseName() + QLatin1Char('_') + tr("结果");
-    const QString ending = QStringLiteral(".xlsx");
-    constexpr int mostFiles = 1000;
-    QString path = base + ending;
-    for (int number = 2; QFileInfo::exists(path) && number < mostFiles; ++number)
-        path = base + QString::number(number) + ending;
-    if (QFileInfo::exists(path) || !m_excel.saveAs(path))
-        return false;
-    m_path = path;
-    return true;
+    return keepWorkbook(m_excel, m_path, tr("结果"));
 }
 
 QString CommandWorkbook::text(int row, int column)

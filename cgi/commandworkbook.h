@@ -54,7 +54,6 @@ public:
 private:
     [[nodiscard]] QString text(int row, int column);
     [[nodiscard]] WorkbookCommand command(int row);
-    [[nodiscard]] bool keepElsewhere(const QString &folder);
 
     QExcel m_excel;
     QString m_path;
