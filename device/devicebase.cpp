@@ -106,6 +106,11 @@ void CDeviceBase::unusedOperation() {}
 
 void CDeviceBase::systemConfig(const QString &, const QVariantMap &, const QStringList &) {}
 
+QString CDeviceBase::upgradeDocumentResult()
+{
+    return {};
+}
+
 void CDeviceBase::factoryEnds() {}
 void CDeviceBase::snapPictureToFile(const QString &, const QVariant &, const QString &) {}
 

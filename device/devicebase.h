@@ -51,6 +51,9 @@ public:
     virtual void startUpgrade(const QStringList &macs);
     virtual void startUpgradeByDocument(const QStringList &paths);
     virtual void stopUpgrade(const QString &mac);
+    /// A map for each line: "line" (its number in the file), "address", "mac" (of its row, if it has one),
+    /// "file", "code" (an UpgradeTools::Result, None when it can be upgraded) and "reason". Why a document
+    /// was refused as a whole is told by importError().
     virtual QVariantList importUpgradeDocument(const QString &file);
     virtual int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password);
     virtual bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
@@ -96,6 +99,10 @@ public:
 
     /// Called by the factory at its end: ends the threads that may ask it, while it can still be asked.
     virtual void factoryEnds();
+
+    /// What has come of the documents of the last startUpgradeByDocument(), a line for each, in the user's
+    /// language; empty while they are worked on.
+    virtual QString upgradeDocumentResult();
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

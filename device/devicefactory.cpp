@@ -5,9 +5,13 @@
 #include "device/logging.h"
 #include "device/loginresult.h"
 #include "device/passwordstrength.h"
+#include "device/upgradetools.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QMetaMethod>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -277,7 +281,12 @@ void CDeviceFactory::stopUpgrade(const QString &family, const QString &mac)
     forward(family, &CDeviceBase::stopUpgrade, mac);
 }
 
-void CDeviceFactory::openTemplate() {}
+bool CDeviceFactory::openTemplate()
+{
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/template/") +
+                         UpgradeTools::templateFileName();
+    return QFileInfo::exists(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
 
 QVariantList CDeviceFactory::importUpgradeDocument(const QString &family, const QString &file)
 {
@@ -396,6 +405,11 @@ QVariantList CDeviceFactory::importFailures(const QString &family)
 void CDeviceFactory::stopImport(const QString &family)
 {
     forward(family, &CDeviceBase::stopImport);
+}
+
+QString CDeviceFactory::upgradeDocumentResult(const QString &family)
+{
+    return forward(family, &CDeviceBase::upgradeDocumentResult);
 }
 
 int CDeviceFactory::checkLogin(const QString &family, const QString &ipport, const QString &account,

@@ -86,7 +86,9 @@ public:
     Q_INVOKABLE void startUpgrade(const QString &family, const QStringList &macs);
     Q_INVOKABLE void startUpgradeByDocument(const QString &family, const QStringList &paths);
     Q_INVOKABLE void stopUpgrade(const QString &family, const QString &mac);
-    Q_INVOKABLE void openTemplate();
+    /// Shows the workbook that upgrades by document begin from, with the program that the system has for it.
+    /// Returns false when it is not there or when there is no such program.
+    Q_INVOKABLE bool openTemplate();
     Q_INVOKABLE QVariantList importUpgradeDocument(const QString &family, const QString &file);
     Q_INVOKABLE QString getErrorName(int error);
     Q_INVOKABLE int findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
@@ -130,6 +132,9 @@ public:
     /// tells of itself. Holds "loginResult" (0 for success) and keys as getDeviceDetail() has, never a
     /// password. Blocks for the waits of the library; the session of findAndLoginDevice() stays as it is.
     Q_INVOKABLE QVariantMap readDeviceDetail(const QString &family, const QString &ipport);
+
+    /// What has come of the documents of the last startUpgradeByDocument().
+    Q_INVOKABLE QString upgradeDocumentResult(const QString &family);
 
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.

@@ -4,6 +4,7 @@
 #include "device/devicestore.h"
 #include "device/dh/cameraconfig.h"
 #include "device/dh/encodeconfig.h"
+#include "device/dh/upgraderunner.h"
 #include "device/logging.h"
 #include "device/loginresult.h"
 #include "media/snapthread.h"
@@ -25,7 +26,16 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
     : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
       m_search(std::make_unique<DeviceSearch>(std::move(store), m_libraries)), m_keptLogins(m_libraries.net),
       m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
-      m_camera(std::make_unique<CameraConfig>(m_tables, m_channels))
+      m_camera(std::make_unique<CameraConfig>(m_tables, m_channels)),
+      m_upgrades(std::make_unique<UpgradeRunner>(
+          m_libraries, UpgradeLimits(),
+          UpgradeRunner::Watchers{.changed = [this](const UpgradeOrder &order,
+                                                    const UpgradeState &state) { noteUpgrade(order, state); },
+                                  .roundEnded =
+                                      [this] {
+                                          QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeRoundEnd,
+                                                                    Qt::QueuedConnection);
+                                      }}))
 {
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
@@ -50,11 +60,19 @@ CDeviceDH::~CDeviceDH()
     }
     m_search->requestStop();
     m_snapshots.reset();
+    m_upgrades->end();
     endSession();
     m_keptLogins.letAllGo();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_search.reset();
+}
+
+void CDeviceDH::factoryEnds()
+{
+    m_snapshots.reset();
+    m_upgrades->end();
+    noteUpgradeDocuments();
 }
 
 void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort, void *)

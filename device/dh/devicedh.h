@@ -6,6 +6,7 @@
 #include "device/dh/channelnames.h"
 #include "device/dh/keptlogins.h"
 #include "device/dh/systemaction.h"
+#include "device/dh/upgradedocuments.h"
 #include "device/dh/valuetables.h"
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
@@ -18,7 +19,10 @@
 class CameraConfig;
 class EncodeConfig;
 class SnapThread;
+class UpgradeRunner;
 struct DeviceListLine;
+struct UpgradeOrder;
+struct UpgradeState;
 
 /// What a search reads from the local configuration.
 struct SearchSettings
@@ -124,8 +128,22 @@ public:
     /// Returns at once; the pictures are taken one after another on a thread of their own. `address` names
     /// the device's folder.
     void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override;
-    /// Gives up the snapshots that are being taken.
+    /// Gives up the snapshots that are being taken, and the upgrades.
     void factoryEnds() override;
+
+    // Firmware upgrades: devicedhupgrade.cpp
+
+    /// `path` may be a "file:///" address. A device that is being upgraded keeps its file.
+    void setUpgradeFilePath(const QString &mac, const QString &path) override;
+    /// Returns at once; the rows tell how far each device is and what has come of it: "upgrade" in percent,
+    /// "upgraderes" an UpgradeTools::Result, "result" in words, and "vision" at the end.
+    void startUpgrade(const QStringList &macs) override;
+    void stopUpgrade(const QString &mac) override;
+    bool hasDeviceUpgrading() override;
+    /// The signals name each document by its entry of `paths`. Its results are in it when 100 % is told.
+    void startUpgradeByDocument(const QStringList &paths) override;
+    QVariantList importUpgradeDocument(const QString &file) override;
+    QString upgradeDocumentResult() override;
 
 private:
     /// The one login that configuration, live view and snapshots use.
@@ -148,6 +166,11 @@ private:
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
+    [[nodiscard]] UpgradeOrder upgradeOrder(const QJsonObject &row) const;
+    [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line) const;
+    void noteUpgrade(const UpgradeOrder &order, const UpgradeState &state);
+    void noteUpgradeDocuments();
+    void noteUpgradeRoundEnd();
     [[nodiscard]] QVariantList sessionChannels() const;
     [[nodiscard]] QVariantList sessionConnections() const;
     [[nodiscard]] bool sessionAnswers() const;
@@ -178,6 +201,8 @@ private:
     std::unique_ptr<EncodeConfig> m_encode;
     std::unique_ptr<CameraConfig> m_camera;
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
+    UpgradeDocuments m_upgradeDocuments;
+    std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
     QString m_defaultAccount;
     QString m_defaultPassword;
     bool m_isImporting = false;

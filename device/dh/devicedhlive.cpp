@@ -82,11 +82,6 @@ void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNu
              }});
 }
 
-void CDeviceDH::factoryEnds()
-{
-    m_snapshots.reset();
-}
-
 void CDeviceDH::noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message)
 {
     if (kind == allChannels)

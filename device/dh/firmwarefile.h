@@ -1,0 +1,23 @@
+// Looking at a firmware file before anything is sent.
+#pragma once
+
+#include "device/upgradetools.h"
+#include "sdk/firmwarehead.h"
+
+#include <QString>
+
+#include <optional>
+
+struct FirmwareFile
+{
+    /// Larger files are refused.
+    static constexpr qint64 largest = qint64(1) << 30;
+
+    UpgradeTools::Result refusal = UpgradeTools::None; ///< None: it can be sent
+    std::optional<sdk::FirmwareHead> head;             ///< what its head or else its name tells
+
+    /// Whether a device with this model may get it; also when one of both does not tell.
+    [[nodiscard]] bool fits(const QString &model) const;
+};
+
+[[nodiscard]] FirmwareFile firmwareFile(const QString &path);

@@ -1,0 +1,119 @@
+#include "device/dh/upgradedocument.h"
+
+#include "device/ipv4address.h"
+#include "device/logging.h"
+#include "sheets/keptworkbook.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHostAddress>
+#include <QSet>
+
+namespace {
+
+enum Column
+{
+    AddressColumn = 1,
+    PortColumn,
+    UserColumn,
+    PasswordColumn,
+    FileColumn,
+    ResultColumn,
+};
+
+constexpr int usualPort = 37777;
+
+/// The port of a cell, whether it is stored as a number or as a text; the usual one for an empty cell, 0 for
+/// what is none.
+int portIn(const QString &cell)
+{
+    if (cell.isEmpty())
+        return usualPort;
+    bool isNumber = false;
+    const double number = cell.toDouble(&isNumber);
+    return isNumber && number >= 1 && number <= 65535 ? static_cast<int>(number) : 0;
+}
+
+} // namespace
+
+QStringList UpgradeDocument::requiredTitles()
+{
+    return {tr("IP"), tr("端口"), tr("用户名"), tr("密码"), tr("升级文件")};
+}
+
+QString UpgradeDocument::open(const QString &path)
+{
+    m_path = path;
+    if (!m_excel.open(path)) {
+        qCWarning(logDevice).noquote() << "cannot open the workbook:" << m_excel.errorText();
+        return tr("文件打开失败");
+    }
+    const QStringList titles = requiredTitles();
+    for (int column = AddressColumn; column <= FileColumn; ++column) {
+        if (text(1, column) == titles.at(column - 1))
+            continue;
+        m_excel.quit();
+        return tr("文件格式错误");
+    }
+    return {};
+}
+
+std::vector<UpgradeDocumentLine> UpgradeDocument::lines()
+{
+    std::vector<UpgradeDocumentLine> found;
+    QSet<QString> addresses;
+    const int lastRow = m_excel.firstUsedRow() + m_excel.usedRowCount() - 1;
+    for (int row = 2; row <= lastRow && found.size() < mostLines; ++row) {
+        if (text(row, AddressColumn).isEmpty() && text(row, FileColumn).isEmpty())
+            continue;
+        found.push_back(line(row));
+        UpgradeDocumentLine &added = found.back();
+        if (added.refusal == UpgradeTools::None && addresses.contains(added.ipport))
+            added.refusal = UpgradeTools::ListedTwice;
+        addresses.insert(added.ipport);
+    }
+    return found;
+}
+
+UpgradeDocumentLine UpgradeDocument::line(int row)
+{
+    const QString addressText = text(row, AddressColumn);
+    const QHostAddress address(addressText);
+    const int port = portIn(text(row, PortColumn));
+    const bool isIpv6 = address.protocol() == QAbstractSocket::IPv6Protocol;
+    const QString file = text(row, FileColumn);
+    UpgradeDocumentLine line;
+    line.row = row;
+    line.ipport = (isIpv6 ? QLatin1Char('[') + address.toString() + QLatin1Char(']') : addressText) +
+                  QLatin1Char(':') + QString::number(port);
+    line.user = text(row, UserColumn);
+    line.password = m_excel.cellText(row, PasswordColumn).value_or(QString());
+    if (!file.isEmpty()) // a path of another system has other separators
+        line.file = QDir::cleanPath(
+            QFileInfo(m_path).absoluteDir().absoluteFilePath(QDir::fromNativeSeparators(file)));
+    if ((!isIpv6 && !ipv4Number(addressText)) || port == 0)
+        line.refusal = UpgradeTools::LineUnusable;
+    return line;
+}
+
+void UpgradeDocument::setResult(int row, const QString &result)
+{
+    if (!m_excel.setCellText(row, ResultColumn, result))
+        qCWarning(logDevice).noquote()
+            << "cannot write the result of row" << row << "-" << m_excel.errorText();
+}
+
+QString UpgradeDocument::keep()
+{
+    const QString original = m_path;
+    if (!keepWorkbook(m_excel, m_path, tr("结果")))
+        return tr("升级结果无法保存：%1").arg(m_excel.errorText());
+    const QString path = QDir::toNativeSeparators(m_path);
+    return m_path == original ? tr("升级结果已保存到文件：%1").arg(path)
+                              : tr("原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1").arg(path);
+}
+
+QString UpgradeDocument::text(int row, int column)
+{
+    return m_excel.cellText(row, column).value_or(QString()).trimmed();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "device/upgradetools.h"
+#include "sheets/qexcel.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <vector>
+
+/// A line of a document of upgrades.
+struct UpgradeDocumentLine
+{
+    int row = 0; ///< in the sheet, from 2
+    QString ipport;
+    QString user;
+    QString password;
+    QString file;                                      ///< absolute
+    UpgradeTools::Result refusal = UpgradeTools::None; ///< why it cannot be upgraded, by the line alone
+};
+
+/// A workbook of devices and their firmware files, into which the results are written. The first row holds
+/// the titles, each other row a device: address, port, user name, password, file (from the folder of the
+/// workbook on, unless it is absolute) and result.
+class UpgradeDocument
+{
+    Q_DECLARE_TR_FUNCTIONS(UpgradeDocument)
+public:
+    static constexpr std::size_t mostLines = 10000;
+
+    /// What the first five cells of the first row say, in the user's language.
+    [[nodiscard]] static QStringList requiredTitles();
+
+    /// Opens the file. Returns why it cannot be used, in the user's language; an empty text when it can.
+    [[nodiscard]] QString open(const QString &path);
+
+    /// The rows that hold an address or a file, from above; at most mostLines. An address that stands in an
+    /// earlier row too is refused.
+    [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
+
+    void setResult(int row, const QString &result);
+
+    /// Writes the results into the file, or else into one beside it. What is to be told to the user.
+    [[nodiscard]] QString keep();
+
+private:
+    [[nodiscard]] QString text(int row, int column);
+    [[nodiscard]] UpgradeDocumentLine line(int row);
+
+    QExcel m_excel;
+    QString m_path;
+};

@@ -1,0 +1,293 @@
+#include "device/dh/upgradework.h"
+
+#include "device/devicerow.h"
+#include "device/dh/securelogin.h"
+#include "device/logging.h"
+#include "sdk/clock.h"
+#include "sdk/netlibrary.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto attributesWait = 3000ms;
+constexpr auto startWait = 10000ms;
+constexpr auto lookInterval = 200ms;    ///< between two looks at the news
+constexpr auto returnInterval = 1000ms; ///< between two tries to log in again
+
+// How the phases share the percent of an upgrade.
+constexpr int writingFrom = 70;
+constexpr int restartingFrom = 95;
+
+/// Texts that hold more than a result.
+class UpgradeTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(UpgradeTexts)
+public:
+    static QString cannotStop() { return tr("已开始写入，无法停止"); }
+    static QString done(const QString &before, const QString &now)
+    {
+        return tr("升级成功：%1 → %2").arg(before, now);
+    }
+    static QString failedAt(const QString &reason, int percent)
+    {
+        return tr("%1（%2%）").arg(reason).arg(percent);
+    }
+};
+
+UpgradeTools::Result resultOfLogin(LoginResult result)
+{
+    switch (result) {
+    case LoginResult::NoSuchAccount:
+        return UpgradeTools::NoSuchAccount;
+    case LoginResult::WrongPassword:
+        return UpgradeTools::WrongPassword;
+    case LoginResult::AccountLocked:
+        return UpgradeTools::AccountLocked;
+    case LoginResult::AccountLoggedIn:
+        return UpgradeTools::DeviceBusy;
+    case LoginResult::NotInitialised:
+        return UpgradeTools::NotInitialised;
+    case LoginResult::ProtocolMismatch:
+    case LoginResult::NotSupported:
+        return UpgradeTools::NotSupported;
+    default:
+        return UpgradeTools::NoAnswer;
+    }
+}
+
+UpgradeTools::Result resultOfError(std::uint32_t error)
+{
+    switch (static_cast<sdk::NetError>(error)) {
+    case sdk::NetError::UnusableFile:
+        return UpgradeTools::FileUnreadable;
+    case sdk::NetError::DeviceBusy:
+        return UpgradeTools::DeviceBusy;
+    case sdk::NetError::FirmwareRefused:
+        return UpgradeTools::FirmwareRefused;
+    case sdk::NetError::NotSupported:
+        return UpgradeTools::NotSupported;
+    default:
+        return isDeviceAway(error) ? UpgradeTools::NoAnswer : UpgradeTools::Failed;
+    }
+}
+
+/// A version without what devices put around it: a "v" before, a date behind.
+QString plainVersion(const QString &version)
+{
+    QString plain = version.trimmed();
+    if (plain.startsWith(QLatin1Char('v'), Qt::CaseInsensitive))
+        plain.remove(0, 1);
+    const auto isPart = [](QChar letter) {
+        return (letter >= u'0' && letter <= u'9') || letter == u'.';
+    };
+    qsizetype length = 0;
+    while (length < plain.size() && isPart(plain.at(length)))
+        ++length;
+    return length > 0 ? plain.left(length) : plain;
+}
+
+} // namespace
+
+/// What the library has told last, on a thread of its own.
+class UpgradeWork::News
+{
+public:
+    static void handle(std::int64_t, const sdk::UpgradeProgress *progress, void *user)
+    {
+        if (!progress || progress->size != sizeof(*progress))
+            return;
+        auto *news = static_cast<News *>(user);
+        const std::scoped_lock lock(news->m_mutex);
+        if (!news->hasEnded()) // what comes late does not undo it
+            news->m_last = *progress;
+    }
+
+    [[nodiscard]] sdk::UpgradeProgress last() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_last;
+    }
+
+private:
+    [[nodiscard]] bool hasEnded() const
+    {
+        return m_last.phase == sdk::UpgradePhase::Done || m_last.phase == sdk::UpgradePhase::Failed;
+    }
+
+    mutable std::mutex m_mutex;
+    sdk::UpgradeProgress m_last = {
+        .size = sizeof(sdk::UpgradeProgress), .phase = sdk::UpgradePhase::Sending, .percent = 0, .error = 0};
+};
+
+UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits,
+                         const UpgradeOrder &order, const std::atomic<bool> &stopAsked, Tell tell)
+    : m_libraries(libraries), m_limits(limits), m_order(order), m_stopAsked(stopAsked),
+      m_tell(std::move(tell))
+{
+}
+
+UpgradeState UpgradeWork::run(const std::stop_token &stop)
+{
+    tell(UpgradeTools::Preparing, 0);
+    const FirmwareFile file = firmwareFile(m_order.file);
+    if (file.refusal != UpgradeTools::None)
+        return ended(file.refusal);
+    if (!file.fits(m_order.model))
+        return ended(UpgradeTools::WrongModel);
+    if (m_stopAsked)
+        return ended(UpgradeTools::Stopped);
+    const SecureLogin login =
+        secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
+    if (login.result != LoginResult::Success)
+        return ended(resultOfLogin(login.result));
+    News news;
+    const UpgradeState state = send(login.handle, file, news, stop);
+    m_libraries.net->NetLogout(login.handle); // no news from here on, also of what cannot be stopped
+    return state.result == UpgradeTools::Restarting ? waitForReturn(file, stop) : state;
+}
+
+UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
+                               const std::stop_token &stop)
+{
+    const Identity device = identity(loginHandle);
+    if (!file.fits(device.model))
+        return ended(UpgradeTools::WrongModel);
+    if (stop.stop_requested())
+        return ended(UpgradeTools::Cut);
+    if (m_stopAsked)
+        return ended(UpgradeTools::Stopped);
+    m_oldVersion = device.version;
+    const std::int64_t handle = m_libraries.net->NetStartUpgrade(
+        loginHandle, m_order.file.toLocal8Bit().constData(), &News::handle, &news, startWait);
+    if (handle == 0) {
+        const std::uint32_t error = m_libraries.net->NetGetLastError();
+        qCWarning(logDevice) << "The upgrade of" << m_order.ipport << "was refused, error" << Qt::hex
+                             << error;
+        return ended(resultOfError(error));
+    }
+    UpgradeState state = follow(handle, news, stop);
+    if (state.result != UpgradeTools::Stopped) // else it is stopped already
+        m_libraries.net->NetStopUpgrade(handle);
+    return state;
+}
+
+UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, const std::stop_token &stop)
+{
+    sdk::Clock &clock = *m_libraries.clock;
+    const std::int64_t start = clock.now();
+    std::int64_t lastChange = start;
+    sdk::UpgradeProgress seen = news.last();
+    tell(UpgradeTools::Sending, 0);
+    while (clock.wait(lookInterval, stop)) {
+        const sdk::UpgradeProgress now = news.last();
+        if (now.phase == sdk::UpgradePhase::Done) {
+            tell(UpgradeTools::Restarting, restartingFrom);
+            return m_state;
+        }
+        if (now.phase == sdk::UpgradePhase::Failed)
+            return ended(resultOfError(now.error));
+        if (now.phase != seen.phase || now.percent != seen.percent)
+            lastChange = clock.now();
+        seen = now;
+        const bool isWriting = now.phase == sdk::UpgradePhase::Writing;
+        const int percent = std::clamp(now.percent, 0, 100);
+        if (m_stopAsked && !m_stopRefused) {
+            if (m_libraries.net->NetStopUpgrade(upgradeHandle))
+                return ended(UpgradeTools::Stopped);
+            m_stopRefused = true;
+        }
+        tell(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
+             isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
+                       : percent * writingFrom / 100,
+             m_stopRefused ? UpgradeTexts::cannotStop() : QString());
+        const auto longest = isWriting ? m_limits.writingStandsStill : m_limits.sendingStandsStill;
+        if (clock.now() - lastChange > longest.count() || clock.now() - start > m_limits.whole.count())
+            return ended(UpgradeTools::Stuck);
+    }
+    return ended(UpgradeTools::Cut);
+}
+
+UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const std::stop_token &stop)
+{
+    sdk::Clock &clock = *m_libraries.clock;
+    const std::int64_t start = clock.now();
+    bool wasAway = false;
+    while (clock.wait(returnInterval, stop)) {
+        const SecureLogin login =
+            secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
+        const UpgradeTools::Result refusal = resultOfLogin(login.result);
+        const auto passed = clock.now() - start;
+        if (login.result == LoginResult::Success) {
+            m_state.version = identity(login.handle).version;
+            m_libraries.net->NetLogout(login.handle);
+            // Some take a moment to go, and answer as before until then.
+            const bool hasRebooted = wasAway || passed > m_limits.leaves.count();
+            const bool isOther = !m_state.version.isEmpty() && m_state.version != m_oldVersion;
+            if (isNew(file, m_state.version) && (hasRebooted || isOther))
+                return ended(UpgradeTools::Success);
+            if (hasRebooted && !m_state.version.isEmpty())
+                return ended(UpgradeTools::KeptVersion);
+        } else if (refusal == UpgradeTools::NoAnswer) {
+            wasAway = true;
+        } else if (UpgradeTools::canTryAgain(refusal)) {
+            qCInfo(logDevice) << m_order.ipport << "does not let in yet after its upgrade";
+        } else {
+            return ended(refusal); // it has lost its accounts
+        }
+        if (passed > m_limits.comesBack.count())
+            return ended(UpgradeTools::NotBack);
+    }
+    return ended(UpgradeTools::Cut);
+}
+
+bool UpgradeWork::isNew(const FirmwareFile &file, const QString &version) const
+{
+    if (version.isEmpty())
+        return false;
+    return file.head ? plainVersion(version) == QString::fromStdString(file.head->version)
+                     : version != m_oldVersion;
+}
+
+UpgradeWork::Identity UpgradeWork::identity(std::int64_t loginHandle) const
+{
+    sdk::DeviceAttributes attributes{};
+    std::uint32_t returned = 0;
+    if (!m_libraries.net->NetQueryConfig(loginHandle, sdk::QueryCommand::DeviceAttributes, 0, &attributes,
+                                         sizeof(attributes), returned, attributesWait))
+        return {};
+    return {.model = fieldText(attributes.detailModel).trimmed(),
+            .version = fieldText(attributes.softwareVersion).trimmed()};
+}
+
+void UpgradeWork::tell(UpgradeTools::Result result, int percent, const QString &remark)
+{
+    const QString text = remark.isEmpty() ? UpgradeTools::text(result) : remark;
+    if (m_state.result == result && m_state.percent == percent && m_state.text == text)
+        return;
+    m_state.result = result;
+    m_state.percent = percent;
+    m_state.text = text;
+    m_tell(m_state);
+}
+
+UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const
+{
+    UpgradeState state = m_state;
+    const bool isOnWay = state.result == UpgradeTools::Sending || state.result == UpgradeTools::Writing;
+    state.text = UpgradeTools::text(result);
+    if (result == UpgradeTools::Success) {
+        state.percent = 100;
+        state.text = UpgradeTexts::done(m_oldVersion, state.version);
+    } else if (isOnWay && (result == UpgradeTools::Failed || result == UpgradeTools::Stuck)) {
+        state.text = UpgradeTexts::failedAt(state.text, state.percent);
+    }
+    state.result = result;
+    return state;
+}

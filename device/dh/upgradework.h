@@ -1,0 +1,84 @@
+// The upgrade of one device, from the look at the file to the answer with the new version.
+#pragma once
+
+#include "device/dh/firmwarefile.h"
+#include "device/loginresult.h"
+#include "sdk/sdklibraries.h"
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <stop_token>
+
+/// Which device gets which file.
+struct UpgradeOrder
+{
+    QString key; ///< names the device among those that are upgraded: its MAC, or its address and port
+    QString mac; ///< of its row; empty when there is none
+    QString ipport;
+    QString account;
+    QString password;
+    QString model; ///< empty when it is not known
+    QString file;
+};
+
+struct UpgradeState
+{
+    UpgradeTools::Result result = UpgradeTools::Waiting;
+    int percent = 0; ///< of the whole upgrade
+    QString text;    ///< in the user's language
+    QString version; ///< that the device has answered with at the end
+};
+
+/// How long is waited for a device.
+struct UpgradeLimits
+{
+    int atOnce = 4; ///< devices that are upgraded at the same time
+    std::chrono::milliseconds sendingStandsStill = std::chrono::seconds(25);
+    std::chrono::milliseconds writingStandsStill = std::chrono::seconds(90);
+    std::chrono::milliseconds leaves = std::chrono::seconds(30); ///< until it has gone to reboot
+    std::chrono::milliseconds comesBack = std::chrono::minutes(3);
+    std::chrono::milliseconds whole = std::chrono::minutes(30); ///< until it is written
+};
+
+/// Runs on any one thread and blocks it.
+class UpgradeWork
+{
+public:
+    using Tell = std::function<void(const UpgradeState &state)>;
+
+    /// `tell` gets each change on the way. `stopAsked` is set when the user wants it to stop.
+    UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
+                const std::atomic<bool> &stopAsked, Tell tell);
+
+    /// Returns the end. A stop of `stop` cuts the waits short: the program ends.
+    [[nodiscard]] UpgradeState run(const std::stop_token &stop);
+
+private:
+    struct Identity
+    {
+        QString model;
+        QString version;
+    };
+
+    class News;
+
+    [[nodiscard]] UpgradeState send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
+                                    const std::stop_token &stop);
+    [[nodiscard]] UpgradeState follow(std::int64_t upgradeHandle, const News &news,
+                                      const std::stop_token &stop);
+    [[nodiscard]] UpgradeState waitForReturn(const FirmwareFile &file, const std::stop_token &stop);
+    [[nodiscard]] bool isNew(const FirmwareFile &file, const QString &version) const;
+    [[nodiscard]] Identity identity(std::int64_t loginHandle) const;
+    void tell(UpgradeTools::Result result, int percent, const QString &remark = QString());
+    [[nodiscard]] UpgradeState ended(UpgradeTools::Result result) const;
+
+    const sdk::SdkLibraries &m_libraries;
+    const UpgradeLimits &m_limits;
+    const UpgradeOrder &m_order;
+    const std::atomic<bool> &m_stopAsked;
+    const Tell m_tell;
+    QString m_oldVersion;
+    UpgradeState m_state;
+    bool m_stopRefused = false;
+};

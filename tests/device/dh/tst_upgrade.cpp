@@ -1,0 +1,238 @@
+// Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
+#include "tests/device/dh/upgradesite.h"
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+using sdk::demo::Fault;
+using sdk::demo::FaultSetting;
+
+Q_DECLARE_METATYPE(FaultSetting)
+
+class TestUpgrade : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void aFewAtATime()
+    {
+        const UpgradeSite test(6);
+        int most = 0;
+        bool hasWaited = false;
+        const auto count = [&] {
+            int running = 0;
+            for (int place = 0; place < 6; ++place) {
+                running += UpgradeTools::isRunning(test.result(place)) &&
+                           test.result(place) != UpgradeTools::Waiting;
+                hasWaited |= test.text(place) == u"等待升级"_s;
+            }
+            most = std::max(most, running);
+            return !test.ends->isEmpty();
+        };
+        QVERIFY(!test.factory->hasDeviceUpgrading());
+        test.start({0, 1, 2, 3, 4, 5}, test.file());
+        QVERIFY(test.factory->hasDeviceUpgrading());
+        test.start({0, 1}, u"/another/file"_s); // changes nothing while they are upgraded
+        QVERIFY(test.passUntil(count));
+        QCOMPARE(most, 4);
+        QVERIFY(hasWaited);
+        QVERIFY(!test.factory->hasDeviceUpgrading());
+        QCOMPARE(test.ends->size(), 1);
+        QCOMPARE(test.schedule->last().first().toInt(), 100);
+        for (int place = 0; place < 6; ++place) {
+            QCOMPARE(test.result(place), UpgradeTools::Success);
+            QCOMPARE(test.percent(place), 100);
+            QCOMPARE(test.text(place), u"升级成功：2.840.1 → 2.900.0"_s);
+            QCOMPARE(test.value(place, DeviceRowKey::vision).toString(), u"v2.900.0"_s);
+            QCOMPARE(test.value(place, DeviceRowKey::filepath).toString(), test.file());
+        }
+        QCOMPARE(test.site->requests().of("NetStartUpgrade").size(), 6);
+        QCOMPARE(test.site->requests().of("NetLogout").size(), 12); // one login before, one after
+    }
+
+    void rowsTellThePhases()
+    {
+        const UpgradeSite test(1);
+        QStringList seen;
+        int highest = 0;
+        const auto look = [&] {
+            if (seen.isEmpty() || seen.last() != test.text(0))
+                seen.append(test.text(0));
+            const bool grows = test.percent(0) >= highest;
+            highest = std::max(highest, test.percent(0));
+            return !test.ends->isEmpty() || !grows;
+        };
+        test.start({0}, test.file());
+        QVERIFY(test.passUntil(look));
+        look();
+        QCOMPARE(highest, 100);
+        for (const QString &text : {u"正在发送文件"_s, u"正在写入，请勿断电"_s, u"等待设备重启"_s,
+                                    u"升级成功：2.840.1 → 2.900.0"_s})
+            QVERIFY2(seen.contains(text), qPrintable(seen.join(u'|')));
+    }
+
+    void whatDevicesDo_data()
+    {
+        QTest::addColumn<FaultSetting>("fault");
+        QTest::addColumn<UpgradeTools::Result>("result");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("canTryAgain");
+        const auto row = [](const char *title, const FaultSetting &fault, UpgradeTools::Result result,
+                            const QString &text, bool canTryAgain) {
+            QTest::newRow(title) << fault << result << text << canTryAgain;
+        };
+        row("fails", {Fault::UpgradeFailsAt, 50}, UpgradeTools::Failed, u"设备中断了升级（3"_s, true);
+        row("fails in the writing", {Fault::UpgradeFailsAt, 100}, UpgradeTools::Failed, u"设备中断了升级（"_s,
+            true);
+        row("hangs", {Fault::UpgradeHangsAt, 30}, UpgradeTools::Stuck, u"升级长时间没有进展（20%）"_s, true);
+        row("hangs in the writing", {Fault::UpgradeHangsAt, 100}, UpgradeTools::Stuck,
+            u"升级长时间没有进展（70%）"_s, true);
+        row("keeps its version", {Fault::UpgradeKeepsVersion}, UpgradeTools::KeptVersion,
+            u"重启后仍是原版本"_s, true);
+        row("never returns", {Fault::UpgradeNeverReturns}, UpgradeTools::NotBack, u"设备重启后未恢复"_s,
+            true);
+        row("is busy", {Fault::UpgradeBusy}, UpgradeTools::DeviceBusy, u"设备忙，请稍后重试"_s, true);
+        row("is away", {Fault::NoAnswer}, UpgradeTools::NoAnswer, u"设备无应答"_s, true);
+        row("has a session", {Fault::AccountLoggedIn}, UpgradeTools::DeviceBusy, u"设备忙，请稍后重试"_s,
+            true);
+        row("wrong password", {Fault::WrongPassword}, UpgradeTools::WrongPassword, u"密码错误"_s, false);
+        row("has no password", {Fault::NotInitialised}, UpgradeTools::NotSupported,
+            u"设备不支持升级，或未初始化"_s, false);
+    }
+
+    void whatDevicesDo()
+    {
+        QFETCH(FaultSetting, fault);
+        QFETCH(UpgradeTools::Result, result);
+        QFETCH(QString, text);
+        QFETCH(bool, canTryAgain);
+        const UpgradeSite test(2);
+        test.site->setFault(test.mac(0), fault);
+        test.start({0, 1}, test.file());
+        // The other one is not held up.
+        QVERIFY(test.passUntil([&] { return test.result(1) == UpgradeTools::Success; }));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), result);
+        QVERIFY2(test.text(0).startsWith(text), qPrintable(test.text(0)));
+        QCOMPARE(UpgradeTools::canTryAgain(test.result(0)), canTryAgain);
+        QVERIFY(UpgradeTools::isFailure(test.result(0)));
+        QCOMPARE(test.ends->size(), 1);
+
+        if (!canTryAgain || fault.fault == Fault::UpgradeNeverReturns)
+            return;
+        test.site->clearFault(test.mac(0), fault.fault);
+        test.ends->clear();
+        test.factory->startUpgrade(test.family, {test.mac(0)});
+        QVERIFY(test.passUntilEnd());
+        // A device that hung while it wrote is still at it.
+        const bool stillWrites = fault.fault == Fault::UpgradeHangsAt && fault.number == 100;
+        QCOMPARE(test.result(0), stillWrites ? UpgradeTools::DeviceBusy : UpgradeTools::Success);
+    }
+
+    void filesThatAreNotSent_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<UpgradeTools::Result>("result");
+        QTest::newRow("none") << QByteArray() << QString() << UpgradeTools::NoFile;
+        QTest::newRow("missing") << QByteArray() << u"missing"_s << UpgradeTools::FileMissing;
+        QTest::newRow("folder") << QByteArray() << u"."_s << UpgradeTools::FileUnreadable;
+        QTest::newRow("empty") << QByteArray("") << u"empty.bin"_s << UpgradeTools::FileEmpty;
+        QTest::newRow("damaged") << QByteArray("BRELM-FIRMWARE 1\nversion") << u"damaged.bin"_s
+                                 << UpgradeTools::FileDamaged;
+        QTest::newRow("other model") << QByteArray("BRELM-FIRMWARE 1\nmodel=C-1\nversion=2.9\n\n")
+                                     << u"B-2230-IR_2.9.bin"_s << UpgradeTools::WrongModel;
+        QTest::newRow("other model by name")
+            << QByteArray("bytes") << u"C-1,C-2_2.9.bin"_s << UpgradeTools::WrongModel;
+    }
+
+    void filesThatAreNotSent()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, name);
+        QFETCH(UpgradeTools::Result, result);
+        const UpgradeSite test(1);
+        const bool isWritten = !name.isEmpty() && (!content.isEmpty() || name == u"empty.bin"_s);
+        const QString path =
+            isWritten ? test.file(content, name) : (name.isEmpty() ? QString() : test.folder.filePath(name));
+        test.site->requests().clear();
+        test.start({0}, path);
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), result);
+        QCOMPARE(test.text(0), UpgradeTools::text(result));
+        QVERIFY(!UpgradeTools::canTryAgain(result));
+        QVERIFY(test.site->requests().all().isEmpty());
+    }
+
+    void aDeviceKnowsItsModelBetterThanItsRow()
+    {
+        const UpgradeSite test(1);
+        test.store->changeRow(test.mac(0),
+                              [](QJsonObject &row) { row.insert(DeviceRowKey::model, QString()); });
+        test.start({0}, test.file("bytes", u"C-1_2.9.bin"_s));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), UpgradeTools::WrongModel);
+        QVERIFY(test.site->requests().of("NetStartUpgrade").isEmpty());
+    }
+
+    void anUnknownFileIsLeftToTheDevice()
+    {
+        const UpgradeSite test(1);
+        test.start({0}, QUrl::fromLocalFile(test.file("bytes")).toString());
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), UpgradeTools::FirmwareRefused);
+    }
+
+    void stops()
+    {
+        const UpgradeSite test(6);
+        test.site->setFault(test.mac(1), {Fault::UpgradeTakes, 60});
+        test.site->setFault(test.mac(2), {Fault::UpgradeTakes, 60});
+        test.site->setFault(test.mac(3), {Fault::UpgradeTakes, 60});
+        test.start({0, 1, 2, 3, 4}, test.file());
+        test.factory->stopUpgrade(test.family, test.mac(4)); // has not begun
+        QCOMPARE(test.result(4), UpgradeTools::Stopped);
+        QVERIFY(
+            test.passUntil([&] { return test.percent(1) > 0 && test.result(0) == UpgradeTools::Writing; }));
+        for (int place = 0; place < 4; ++place)
+            test.factory->stopUpgrade(test.family, test.mac(place));
+        test.factory->stopUpgrade(test.family, test.mac(5));
+        QVERIFY(test.passUntil([&] { return test.text(0) == u"已开始写入，无法停止"_s; }));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), UpgradeTools::Success);
+        for (int place = 1; place < 5; ++place) {
+            QCOMPARE(test.result(place), UpgradeTools::Stopped);
+            QCOMPARE(test.text(place), u"已停止，设备未改动"_s);
+            QCOMPARE(test.site->device(test.mac(place))->version, u"2.840.1"_s);
+        }
+        QCOMPARE(test.result(5), UpgradeTools::None);
+    }
+
+    void theEndOfTheProgram()
+    {
+        UpgradeSite test(6);
+        test.site->setFault(test.mac(0), {Fault::NoAnswer});
+        test.site->setFault(test.mac(2), {Fault::UpgradeTakes, 60});
+        test.start({0, 1, 2, 3, 4, 5}, test.file());
+        QVERIFY(test.passUntil([&] { return test.result(1) == UpgradeTools::Writing; }));
+        test.endFactory();
+        QCOMPARE(test.clock->waiters(), 0);
+        QCOMPARE(test.result(2), UpgradeTools::Cut);
+        QCOMPARE(test.site->device(test.mac(2))->version, u"2.840.1"_s);
+        for (int place = 0; place < 6; ++place)
+            QVERIFY(!UpgradeTools::isRunning(test.result(place)));
+        QCOMPARE(test.site->requests().all().last().operation, u"NetCleanup"_s);
+    }
+
+    void devicesThatLeaveTheTable()
+    {
+        const UpgradeSite test(1);
+        test.start({0}, test.file());
+        test.factory->setDeleteDevice(test.family, test.mac(0), u"IPV4"_s);
+        test.factory->startUpgrade(test.family, {test.mac(0), u"nobody"_s});
+        QVERIFY(test.passUntilEnd());
+        QVERIFY(test.store->row(test.mac(0)).isEmpty());
+        QCOMPARE(test.site->device(test.mac(0))->version, u"2.900.0"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestUpgrade)
+#include "tst_upgrade.moc"

@@ -1,0 +1,149 @@
+// Upgrades by document: the report before, the results in the workbook after.
+#include "sheets/qexcel.h"
+#include "tests/device/dh/upgradesite.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+class TestUpgradeDocument : public QObject
+{
+    Q_OBJECT
+private:
+    /// Writes a workbook of these rows and returns its path.
+    static QString workbook(const UpgradeSite &test, const QList<QStringList> &rows,
+                            const QString &name = u"upgrades.xlsx"_s)
+    {
+        QExcel excel;
+        bool isWritten = excel.createWorkbook();
+        const QStringList titles = {u"IP"_s, u"端口"_s, u"用户名"_s, u"密码"_s, u"升级文件"_s, u"结果"_s};
+        for (int row = 0; row <= rows.size(); ++row) {
+            const QStringList cells = row == 0 ? titles : rows.at(row - 1);
+            for (int column = 0; column < cells.size(); ++column)
+                isWritten &= excel.setCellText(row + 1, column + 1, cells.at(column));
+        }
+        const QString path = test.folder.filePath(name);
+        return isWritten && excel.saveAs(path) ? path : QString();
+    }
+
+    static QStringList results(const QString &path, int rows)
+    {
+        QExcel excel;
+        QStringList texts;
+        for (int row = 2; excel.open(path) && row <= rows + 1; ++row)
+            texts.append(excel.cellText(row, 6).value_or(QString()));
+        return texts;
+    }
+
+private Q_SLOTS:
+    void theReport()
+    {
+        const UpgradeSite test(2);
+        const QString path = workbook(test, {{test.address(0), u"37777.0"_s, {}, {}, test.file()},
+                                             {u"192.168.1.77"_s, {}, {}, {}, u"./firmware.bin"_s},
+                                             {},
+                                             {u"192.168.1"_s, {}, {}, {}, u"firmware.bin"_s},
+                                             {u"host/../"_s, {}, {}, {}, u"firmware.bin"_s},
+                                             {test.address(1), u"70000"_s, {}, {}, u"firmware.bin"_s},
+                                             {test.address(1), u"37777"_s, {}, {}, u"missing.bin"_s},
+                                             {test.address(0), {}, {}, {}, u"firmware.bin"_s},
+                                             {u"fe80::1"_s, u"1"_s, {}, {}, {}},
+                                             {{}, {}, {}, {}, u"firmware.bin"_s}});
+        QStringList lines;
+        const QVariantList report = test.factory->importUpgradeDocument(test.family, path);
+        for (const QVariant &entry : report) {
+            const QVariantMap line = entry.toMap();
+            lines.append(u"%1 %2 %3 %4"_s.arg(line.value(u"line"_s).toInt())
+                             .arg(line.value(u"address"_s).toString(), line.value(u"mac"_s).toString())
+                             .arg(line.value(u"code"_s).toInt()));
+        }
+        QCOMPARE(lines,
+                 QStringList({u"2 192.168.1.11:37777 02:1a:c5:00:00:01 -1"_s, u"3 192.168.1.77:37777  -1"_s,
+                              u"5 192.168.1:37777  14"_s, u"6 host/../:37777  14"_s,
+                              u"7 192.168.1.12:0  14"_s, u"8 192.168.1.12:37777 02:1a:c5:00:00:02 2"_s,
+                              u"9 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s, u"10 [fe80::1]:1  1"_s,
+                              u"11 :37777  14"_s}));
+        QCOMPARE(report.at(5).toMap().value(u"reason"_s).toString(), u"升级文件不存在"_s);
+        QCOMPARE(report.at(1).toMap().value(u"file"_s).toString(), test.file());
+        QCOMPARE(test.factory->importError(test.family), QString());
+        QVERIFY(!test.factory->hasDeviceUpgrading());
+    }
+
+    void documentsThatAreRefused()
+    {
+        const UpgradeSite test(1);
+        QVERIFY(test.factory->importUpgradeDocument(test.family, test.file()).isEmpty());
+        QCOMPARE(test.factory->importError(test.family), u"文件打开失败"_s);
+        QExcel excel;
+        QVERIFY(excel.createWorkbook() && excel.setCellText(1, 1, u"IP"_s));
+        const QString path = test.folder.filePath(u"other.xlsx"_s);
+        QVERIFY(excel.saveAs(path));
+        QVERIFY(test.factory->importUpgradeDocument(test.family, path).isEmpty());
+        QCOMPARE(test.factory->importError(test.family), u"文件格式错误"_s);
+        test.factory->startUpgradeByDocument(test.family, {path, u"/no/such"_s});
+        QTRY_COMPARE(test.ends->size(), 1);
+        QCOMPARE(test.factory->upgradeDocumentResult(test.family),
+                 u"other.xlsx：文件格式错误\nsuch：文件打开失败"_s);
+    }
+
+    void resultsAreWritten()
+    {
+        const UpgradeSite test(4);
+        QSignalSpy schedule(test.factory.get(), &CDeviceFactory::signalUpdateScheduleUpgradeByDocument);
+        test.store->removeRows({test.mac(1)}); // a document may name devices that are not in the table
+        test.site->setFault(test.mac(2), {sdk::demo::Fault::UpgradeFailsAt, 50});
+        const QString file = test.file();
+        const QString first = workbook(test, {{test.address(0), {}, u"admin"_s, u"secret1"_s, file},
+                                              {test.address(1), {}, u"admin"_s, u"secret1"_s, file},
+                                              {test.address(2), {}, {}, {}, file},
+                                              {test.address(3), {}, u"admin"_s, u"wrong"_s, file},
+                                              {u"nowhere"_s, {}, {}, {}, file}});
+        const QString second = workbook(test, {{test.address(0), {}, {}, {}, file}}, u"second.xlsx"_s);
+        const QString url = QUrl::fromLocalFile(first).toString();
+        test.factory->startUpgradeByDocument(test.family, {url, second});
+        QVERIFY(test.factory->hasDeviceUpgrading());
+        QVERIFY(test.passUntilEnd());
+        const QStringList written = results(first, 5);
+        QCOMPARE(written.at(0), u"升级成功：2.840.1 → 2.900.0"_s);
+        QCOMPARE(written.at(1), u"升级成功：2.840.1 → 2.900.0"_s);
+        QVERIFY(written.at(2).startsWith(u"设备中断了升级"_s));
+        QCOMPARE(written.at(3), u"密码错误"_s);
+        QCOMPARE(written.at(4), u"IP或端口填写错误"_s);
+        QCOMPARE(results(second, 1), QStringList(u"设备忙，请稍后重试"_s));
+        QCOMPARE(test.result(0), UpgradeTools::Success);
+        QCOMPARE(test.value(0, DeviceRowKey::filepath).toString(), file);
+        QVERIFY(schedule.contains(QVariantList({second, 100})));
+        QCOMPARE(schedule.last(), QVariantList({url, 100}));
+        QVERIFY(schedule.size() > 10);
+        const QString told = test.factory->upgradeDocumentResult(test.family);
+        QVERIFY2(told.contains(u"upgrades.xlsx：成功2台，失败3台。升级结果已保存到文件："_s),
+                 qPrintable(told));
+    }
+
+    void aWorkbookThatCannotBeWrittenLosesNothing()
+    {
+        const UpgradeSite test(1);
+        const QString path = workbook(test, {{test.address(0), {}, {}, {}, test.file()}});
+        test.factory->startUpgradeByDocument(test.family, {path});
+        // A folder in its place: nothing can be written there, whoever the user is.
+        QVERIFY(QFile::remove(path) && QDir().mkpath(path + u"/full"_s));
+        QVERIFY(test.passUntilEnd());
+        const QString other = test.folder.filePath(u"upgrades_结果.xlsx"_s);
+        QCOMPARE(results(other, 1), QStringList(u"升级成功：2.840.1 → 2.900.0"_s));
+        const QString told = test.factory->upgradeDocumentResult(test.family);
+        QVERIFY2(told.contains(QDir::toNativeSeparators(other)), qPrintable(told));
+    }
+
+    void theEndOfTheProgramIsWritten()
+    {
+        UpgradeSite test(1);
+        const QString path = workbook(test, {{test.address(0), {}, {}, {}, test.file()}});
+        test.factory->startUpgradeByDocument(test.family, {path});
+        QVERIFY(test.passUntil([&] { return test.percent(0) > 10; }));
+        test.endFactory();
+        QCOMPARE(results(path, 1), QStringList(u"程序退出，升级中断"_s));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestUpgradeDocument)
+#include "tst_upgradedocument.moc"

@@ -1,0 +1,117 @@
+// A simulated site with the factory on it, and firmware files, for the tests of upgrades.
+#pragma once
+
+#include "device/devicefactory.h"
+#include "device/devicerow.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "device/upgradetools.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/steppableclock.h"
+#include "tests/device/dh/flowingclock.h"
+#include "tests/device/dh/scenedevices.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// `count` cameras at 192.168.1.11 and on, each with its row.
+class UpgradeSite
+{
+public:
+    explicit UpgradeSite(int count)
+    {
+        sdk::demo::Scene scene;
+        for (int place = 0; place < count; ++place)
+            scene.devices.append(sceneDevice(mac(place), address(place)));
+        site = sdk::demo::DemoSite::create(scene, clock);
+        factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
+            {family, [this] {
+                 return std::make_shared<CDeviceDH>(store, site->libraries(),
+                                                    [] { return SearchSettings(); });
+             }}});
+        for (int place = 0; place < count; ++place)
+            store->putRow({{DeviceRowKey::mac, mac(place)},
+                           {DeviceRowKey::ipport, ipport(place)},
+                           {DeviceRowKey::model, QStringLiteral("B-2230-IR")},
+                           {DeviceRowKey::upgraderes, -1}});
+        factory->setDefaultAccount(family, QStringLiteral("admin"), QStringLiteral("secret1"));
+        schedule = std::make_unique<QSignalSpy>(factory.get(), &CDeviceFactory::signalUpdateSchedule);
+        ends = std::make_unique<QSignalSpy>(factory.get(), &CDeviceFactory::signalShowUpgradeFinishTip);
+    }
+
+    ~UpgradeSite() { endFactory(); }
+
+    void endFactory()
+    {
+        schedule.reset();
+        ends.reset();
+        const FlowingClock time(*clock); // a login on its way takes its time
+        factory.reset();
+    }
+
+    [[nodiscard]] static QString mac(int place)
+    {
+        return QStringLiteral("02:1a:c5:00:00:%1").arg(place + 1, 2, 16, QLatin1Char('0'));
+    }
+    [[nodiscard]] static QString address(int place) { return QStringLiteral("192.168.1.%1").arg(11 + place); }
+    [[nodiscard]] static QString ipport(int place) { return address(place) + QStringLiteral(":37777"); }
+
+    /// Writes a firmware file and returns its path.
+    [[nodiscard]] QString file(const QByteArray &content = firmware,
+                               const QString &name = QStringLiteral("firmware.bin")) const
+    {
+        QFile written(folder.filePath(name));
+        return written.open(QFile::WriteOnly) && written.write(content) == content.size() ? written.fileName()
+                                                                                          : QString();
+    }
+
+    /// Starts the upgrade of the devices of these places.
+    void start(const QList<int> &places, const QString &path) const
+    {
+        QStringList macs;
+        for (const int place : places) {
+            factory->setUpgradeFilePath(family, mac(place), path);
+            macs.append(mac(place));
+        }
+        factory->startUpgrade(family, macs);
+    }
+
+    [[nodiscard]] QJsonValue value(int place, QLatin1StringView key) const
+    {
+        return store->row(mac(place)).value(key);
+    }
+    [[nodiscard]] int result(int place) const { return value(place, DeviceRowKey::upgraderes).toInt(-99); }
+    [[nodiscard]] QString text(int place) const { return value(place, DeviceRowKey::result).toString(); }
+    [[nodiscard]] int percent(int place) const { return value(place, DeviceRowKey::upgrade).toInt(-99); }
+
+    /// Lets the time pass until `isThere` is true.
+    template<typename Condition>
+    [[nodiscard]] bool passUntil(const Condition &isThere) const
+    {
+        constexpr int longest = 60000;
+        return QTest::qWaitFor(
+            [&] {
+                if (isThere())
+                    return true;
+                clock->advance(std::chrono::milliseconds(500));
+                return false;
+            },
+            longest);
+    }
+    [[nodiscard]] bool passUntilEnd() const
+    {
+        return passUntil([this] { return !ends->isEmpty(); }) && !factory->hasDeviceUpgrading();
+    }
+
+    static constexpr const char *firmware = "BRELM-FIRMWARE 1\nmodel=B-2230-IR\nversion=2.900.0\n\nbytes";
+    static inline const QString family = QStringLiteral("dh");
+    QTemporaryDir folder;
+    std::shared_ptr<sdk::demo::SteppableClock> clock = std::make_shared<sdk::demo::SteppableClock>();
+    std::shared_ptr<sdk::demo::DemoSite> site;
+    std::shared_ptr<DeviceStore> store = std::make_shared<DeviceStore>(clock);
+    std::unique_ptr<CDeviceFactory> factory;
+    std::unique_ptr<QSignalSpy> schedule;
+    std::unique_ptr<QSignalSpy> ends;
+};
