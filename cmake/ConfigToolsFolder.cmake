@@ -30,6 +30,30 @@ function(configtools_add_folder target)
     endif()
 endfunction()
 
+# A workbook that users begin from, in each language under its name there: made into the folder template/ beside the
+# program, by a program of the build. The names are known only to the translations, so a stamp stands for each file.
+# configtools_add_template(<name of the program> SOURCES <files>... LIBRARIES <targets>...), also makes the target <name>s.
+function(configtools_add_template name)
+    cmake_parse_arguments(PARSE_ARGV 1 TEMPLATE "" "" "SOURCES;LIBRARIES")
+    add_executable(${name} ${TEMPLATE_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tools)
+    target_link_libraries(${name} PRIVATE ${TEMPLATE_LIBRARIES})
+    set(stamps)
+    foreach(language en_US zh_CN)
+        set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${name}_${language}.stamp)
+        add_custom_command(
+            OUTPUT ${stamp}
+            COMMAND ${name} ${CONFIGTOOLS_PROGRAM_DIRECTORY}/language/${language}.qm
+                ${CONFIGTOOLS_PROGRAM_DIRECTORY}/template
+            COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+            DEPENDS ${name} configtools_translations ${CMAKE_SOURCE_DIR}/translations/${language}.ts
+            COMMENT "Template workbook of ${name}, ${language}"
+            VERBATIM)
+        list(APPEND stamps ${stamp})
+    endforeach()
+    add_custom_target(${name}s ALL DEPENDS ${stamps})
+endfunction()
+
 # What the scene's engine says of a broken binding or document, which does not fail by itself.
 set(configtools_scene_complaints "ReferenceError;TypeError;Binding loop;Unable to assign;is not a type;QML [A-Za-z]+:")
 
