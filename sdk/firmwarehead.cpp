@@ -137,7 +137,11 @@ std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName)
     std::string_view version = takeUntil(fileName, '_');
     if (version.starts_with('v') || version.starts_with('V'))
         version.remove_prefix(1);
-    if (head.models.empty() || !isVersion(version))
+    // A word in front of the version, "Upgrade_2.900.0.bin", is no model: those have figures.
+    const bool areModels = !head.models.empty() && std::ranges::all_of(head.models, [](const auto &model) {
+        return std::ranges::any_of(model, isDigit);
+    });
+    if (!areModels || !isVersion(version))
         return std::nullopt;
     head.version = version;
     return head;

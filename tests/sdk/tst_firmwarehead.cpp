@@ -91,6 +91,7 @@ private Q_SLOTS:
         row("firmware.bin", "");
         row("new firmware_2.bin", "");
         row("General_final.bin", "");
+        row("Upgrade_2.900.0.bin", "");
         row("_2.900.0.bin", "");
         row("升级_2.900.0.bin", "");
         row("", "");
