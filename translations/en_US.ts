@@ -2098,6 +2098,10 @@ A right click copies the result</translation>
         <source>正在处理设备，请稍候再关闭</source>
         <translation>Devices are being worked on: please wait before closing</translation>
     </message>
+    <message>
+        <source>当前有设备正在升级中，请稍候再关闭</source>
+        <translation>Devices are being upgraded. Please wait before you close the program.</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -2790,16 +2794,16 @@ File path: </translation>
 <context>
     <name>PageDeviceUpgrade</name>
     <message>
-        <source>设备升级</source>
-        <translation>Device upgrade</translation>
+        <source>正在升级设备，请勿断电…</source>
+        <translation>Upgrading. Do not switch the devices off…</translation>
     </message>
-    <message>
-        <source>在此为选中的设备选择固件并批量升级，每台设备的进度和结果都显示在表中。</source>
-        <translation>Choose firmware for the selected devices and upgrade them together. The table shows the progress and result of each.</translation>
-    </message>
-    <message>
-        <source>也可以按升级文档一次升级多台设备。</source>
-        <translation>Many devices can also be upgraded in one run from an upgrade document.</translation>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>device selected</numerusform>
+            <numerusform>devices selected</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3721,6 +3725,524 @@ File path: </translation>
     <message>
         <source>执行时请不要在其他程序中打开此文件。</source>
         <translation>Do not keep the file open in another program while it runs.</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocument</name>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>Firmware file</translation>
+    </message>
+    <message>
+        <source>文件打开失败</source>
+        <translation>The file cannot be opened</translation>
+    </message>
+    <message>
+        <source>文件格式错误</source>
+        <translation>The file has another format</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>升级结果无法保存：%1</source>
+        <translation>The results cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>升级结果已保存到文件：%1</source>
+        <translation>The results are in the file %1</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
+        <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as %1</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocuments</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1：成功%2台，失败%3台。</source>
+        <translation>%1: %2 upgraded, %3 failed. </translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeReportDialog</name>
+    <message>
+        <source>开始升级</source>
+        <translation>Start upgrade</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>Upgrade document</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备可以升级</source>
+        <translation>
+            <numerusform>%n device can be upgraded</numerusform>
+            <numerusform>%n devices can be upgraded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>，%n 台不能升级</source>
+        <translation>
+            <numerusform>, %n cannot</numerusform>
+            <numerusform>, %n cannot</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>。升级期间设备会重启，请勿断电；结果将写入文档。</source>
+        <translation>. Devices restart during the upgrade: do not switch them off. The results are written into the document.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>Firmware file</translation>
+    </message>
+    <message>
+        <source>检查结果</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>可以升级</source>
+        <translation>Can be upgraded</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTable</name>
+    <message>
+        <source>等待</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>登录</source>
+        <translation>Logging in</translation>
+    </message>
+    <message>
+        <source>发送</source>
+        <translation>Sending</translation>
+    </message>
+    <message>
+        <source>写入</source>
+        <translation>Writing</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Restarting</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>Firmware file</translation>
+    </message>
+    <message>
+        <source>进度</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>未选择</source>
+        <translation>None chosen</translation>
+    </message>
+    <message>
+        <source>可以重试</source>
+        <translation>Trying again may help</translation>
+    </message>
+    <message>
+        <source>请先更正文件、账号或设备，再重新升级</source>
+        <translation>Correct the file, the account or the device before you try again</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>Choose file</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>已开始写入，无法停止</source>
+        <translation>Already being written, cannot be stopped</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTemplateText</name>
+    <message>
+        <source>设备的IP地址。必填。</source>
+        <translation>IP address of the device. Required.</translation>
+    </message>
+    <message>
+        <source>设备的登录端口，不填时为37777。</source>
+        <translation>Login port of the device; 37777 when empty.</translation>
+    </message>
+    <message>
+        <source>登录设备的用户名；与密码都不填时使用程序已知的账号。</source>
+        <translation>User name of the device; with both this and the password empty, the account that the program knows is used.</translation>
+    </message>
+    <message>
+        <source>登录设备的密码。升级完成后请从文件中删除。</source>
+        <translation>Password of the device. Delete it from the file after the upgrade.</translation>
+    </message>
+    <message>
+        <source>升级文件的完整路径，或相对于此文档所在文件夹的路径。必填。</source>
+        <translation>Full path of the firmware file, or its path from the folder of this document. Required.</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>由程序填写：升级前后的版本，或失败原因。</source>
+        <translation>Filled by the program: the versions before and after the upgrade, or why it failed.</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Explanation</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>Column</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>Meaning</translation>
+    </message>
+    <message>
+        <source>请保留第一行的标题，并在升级前用自己的内容替换示例行。</source>
+        <translation>Keep the titles of the first row, and replace the example by your own rows before the upgrade.</translation>
+    </message>
+    <message>
+        <source>IP和升级文件都为空的行会被跳过。</source>
+        <translation>Rows with neither an address nor a firmware file are passed over.</translation>
+    </message>
+    <message>
+        <source>升级时请不要在其他程序中打开此文件。</source>
+        <translation>Do not keep this file open in another program during the upgrade.</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTexts</name>
+    <message>
+        <source>已开始写入，无法停止</source>
+        <translation>Already being written, cannot be stopped</translation>
+    </message>
+    <message>
+        <source>升级成功：%1 → %2</source>
+        <translation>Upgraded: %1 → %2</translation>
+    </message>
+    <message>
+        <source>%1（%2%）</source>
+        <translation>%1 (%2%)</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeToolBar</name>
+    <message>
+        <source>开始升级</source>
+        <translation>Start upgrade</translation>
+    </message>
+    <message>
+        <source>升级勾选的设备</source>
+        <translation>Upgrade the ticked devices</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>Choose file</translation>
+    </message>
+    <message>
+        <source>为勾选的设备选择同一个升级文件</source>
+        <translation>Choose one firmware file for the ticked devices</translation>
+    </message>
+    <message>
+        <source>全部停止</source>
+        <translation>Stop all</translation>
+    </message>
+    <message>
+        <source>停止尚未开始写入的设备</source>
+        <translation>Stop the devices that have not begun to write</translation>
+    </message>
+    <message>
+        <source>重试失败项</source>
+        <translation>Retry failed</translation>
+    </message>
+    <message>
+        <source>再次升级重试可能成功的设备，例如无应答的设备</source>
+        <translation>Upgrade once more those devices for which it may help, such as those that did not answer</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>Upgrade document</translation>
+    </message>
+    <message>
+        <source>按表格文件升级其中的设备，并把结果写回文件</source>
+        <translation>Upgrade the devices of a workbook and write the results into it</translation>
+    </message>
+    <message>
+        <source>打开模板</source>
+        <translation>Open template</translation>
+    </message>
+    <message>
+        <source>打开升级文档的模板文件</source>
+        <translation>Open the template of upgrade documents</translation>
+    </message>
+    <message>
+        <source>搜索...</source>
+        <translation>Search...</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTools</name>
+    <message>
+        <source>等待设备重启</source>
+        <translation>Waiting for the device to restart</translation>
+    </message>
+    <message>
+        <source>正在写入，请勿断电</source>
+        <translation>Writing, do not switch off</translation>
+    </message>
+    <message>
+        <source>正在发送文件</source>
+        <translation>Sending the file</translation>
+    </message>
+    <message>
+        <source>正在登录设备</source>
+        <translation>Logging in</translation>
+    </message>
+    <message>
+        <source>等待升级</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>升级成功</source>
+        <translation>Upgraded</translation>
+    </message>
+    <message>
+        <source>未选择升级文件</source>
+        <translation>No firmware file chosen</translation>
+    </message>
+    <message>
+        <source>升级文件不存在</source>
+        <translation>The firmware file does not exist</translation>
+    </message>
+    <message>
+        <source>升级文件无法读取</source>
+        <translation>The firmware file cannot be read</translation>
+    </message>
+    <message>
+        <source>升级文件是空的</source>
+        <translation>The firmware file is empty</translation>
+    </message>
+    <message>
+        <source>升级文件过大</source>
+        <translation>The firmware file is too large</translation>
+    </message>
+    <message>
+        <source>升级文件已损坏</source>
+        <translation>The firmware file is damaged</translation>
+    </message>
+    <message>
+        <source>升级文件不适用于此型号</source>
+        <translation>The firmware is for other models</translation>
+    </message>
+    <message>
+        <source>设备不接受此升级文件</source>
+        <translation>The device refuses this firmware</translation>
+    </message>
+    <message>
+        <source>密码错误</source>
+        <translation>Wrong password</translation>
+    </message>
+    <message>
+        <source>账号不存在</source>
+        <translation>The account does not exist</translation>
+    </message>
+    <message>
+        <source>账号被锁定</source>
+        <translation>The account is locked</translation>
+    </message>
+    <message>
+        <source>设备未初始化</source>
+        <translation>The device is not initialised</translation>
+    </message>
+    <message>
+        <source>设备不支持升级，或未初始化</source>
+        <translation>Not supported, or not initialised</translation>
+    </message>
+    <message>
+        <source>IP或端口填写错误</source>
+        <translation>Wrong IP address or port</translation>
+    </message>
+    <message>
+        <source>与前面的行是同一设备</source>
+        <translation>Same device as an earlier line</translation>
+    </message>
+    <message>
+        <source>设备无应答</source>
+        <translation>The device does not answer</translation>
+    </message>
+    <message>
+        <source>设备忙，请稍后重试</source>
+        <translation>The device is busy, try later</translation>
+    </message>
+    <message>
+        <source>设备中断了升级</source>
+        <translation>The device gave up</translation>
+    </message>
+    <message>
+        <source>升级长时间没有进展</source>
+        <translation>No progress for too long</translation>
+    </message>
+    <message>
+        <source>设备重启后未恢复</source>
+        <translation>Not back after its restart</translation>
+    </message>
+    <message>
+        <source>重启后仍是原版本</source>
+        <translation>Still the old version after restart</translation>
+    </message>
+    <message>
+        <source>已停止，设备未改动</source>
+        <translation>Stopped, device unchanged</translation>
+    </message>
+    <message>
+        <source>程序退出，升级中断</source>
+        <translation>Cut short: the program ended</translation>
+    </message>
+    <message>
+        <source>未知错误 %1</source>
+        <translation>Unknown error %1</translation>
+    </message>
+    <message>
+        <source>批量升级模板.xlsx</source>
+        <translation>Batch upgrade template.xlsx</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeWork</name>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
+    </message>
+    <message>
+        <source>选择升级文件</source>
+        <translation>Choose a firmware file</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>Firmware file</translation>
+    </message>
+    <message>
+        <source>所有文件</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>没有可以重试的设备</source>
+        <translation>There is nothing to retry</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未选择升级文件</source>
+        <extracomment>Of the devices that are to be upgraded.</extracomment>
+        <translation>
+            <numerusform>%n device has no firmware file</numerusform>
+            <numerusform>%n devices have no firmware file</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
+        <translation>
+            <numerusform>%n device will be upgraded. It restarts meanwhile: do not switch it off.</numerusform>
+            <numerusform>%n devices will be upgraded. They restart meanwhile: do not switch them off.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未升级成功，请查看结果</source>
+        <extracomment>Of the devices that were upgraded.</extracomment>
+        <translation>
+            <numerusform>%n device was not upgraded, see its result</numerusform>
+            <numerusform>%n devices were not upgraded, see their results</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备升级成功</source>
+        <translation>
+            <numerusform>%n device was upgraded</numerusform>
+            <numerusform>%n devices were upgraded</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeWorkbook</name>
+    <message>
+        <source>正在按另一个文档升级</source>
+        <translation>Another document is being worked on</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>文档中没有设备</source>
+        <translation>The document holds no devices</translation>
+    </message>
+    <message>
+        <source>打开模板文件失败。</source>
+        <translation>The template cannot be opened.</translation>
     </message>
 </context>
 <context>

@@ -2084,6 +2084,10 @@
         <source>正在处理设备，请稍候再关闭</source>
         <translation>正在处理设备，请稍候再关闭</translation>
     </message>
+    <message>
+        <source>当前有设备正在升级中，请稍候再关闭</source>
+        <translation>当前有设备正在升级中，请稍候再关闭</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -2766,16 +2770,15 @@
 <context>
     <name>PageDeviceUpgrade</name>
     <message>
-        <source>设备升级</source>
-        <translation>设备升级</translation>
+        <source>正在升级设备，请勿断电…</source>
+        <translation>正在升级设备，请勿断电…</translation>
     </message>
-    <message>
-        <source>在此为选中的设备选择固件并批量升级，每台设备的进度和结果都显示在表中。</source>
-        <translation>在此为选中的设备选择固件并批量升级，每台设备的进度和结果都显示在表中。</translation>
-    </message>
-    <message>
-        <source>也可以按升级文档一次升级多台设备。</source>
-        <translation>也可以按升级文档一次升级多台设备。</translation>
+    <message numerus="yes">
+        <source>台设备已选中</source>
+        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <translation>
+            <numerusform>台设备已选中</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3687,6 +3690,518 @@
     <message>
         <source>执行时请不要在其他程序中打开此文件。</source>
         <translation>执行时请不要在其他程序中打开此文件。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocument</name>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>升级文件</translation>
+    </message>
+    <message>
+        <source>文件打开失败</source>
+        <translation>文件打开失败</translation>
+    </message>
+    <message>
+        <source>文件格式错误</source>
+        <translation>文件格式错误</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>升级结果无法保存：%1</source>
+        <translation>升级结果无法保存：%1</translation>
+    </message>
+    <message>
+        <source>升级结果已保存到文件：%1</source>
+        <translation>升级结果已保存到文件：%1</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
+        <translation>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocuments</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1：成功%2台，失败%3台。</source>
+        <translation>%1：成功%2台，失败%3台。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeReportDialog</name>
+    <message>
+        <source>开始升级</source>
+        <translation>开始升级</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>升级文档</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备可以升级</source>
+        <translation>
+            <numerusform>%n 台设备可以升级</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>，%n 台不能升级</source>
+        <translation>
+            <numerusform>，%n 台不能升级</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>。升级期间设备会重启，请勿断电；结果将写入文档。</source>
+        <translation>。升级期间设备会重启，请勿断电；结果将写入文档。</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>升级文件</translation>
+    </message>
+    <message>
+        <source>检查结果</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>可以升级</source>
+        <translation>可以升级</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTable</name>
+    <message>
+        <source>等待</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>登录</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>发送</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>写入</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>版本号</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>升级文件</translation>
+    </message>
+    <message>
+        <source>进度</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>未选择</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>可以重试</source>
+        <translation>可以重试</translation>
+    </message>
+    <message>
+        <source>请先更正文件、账号或设备，再重新升级</source>
+        <translation>请先更正文件、账号或设备，再重新升级</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>已开始写入，无法停止</source>
+        <translation>已开始写入，无法停止</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTemplateText</name>
+    <message>
+        <source>设备的IP地址。必填。</source>
+        <translation>设备的IP地址。必填。</translation>
+    </message>
+    <message>
+        <source>设备的登录端口，不填时为37777。</source>
+        <translation>设备的登录端口，不填时为37777。</translation>
+    </message>
+    <message>
+        <source>登录设备的用户名；与密码都不填时使用程序已知的账号。</source>
+        <translation>登录设备的用户名；与密码都不填时使用程序已知的账号。</translation>
+    </message>
+    <message>
+        <source>登录设备的密码。升级完成后请从文件中删除。</source>
+        <translation>登录设备的密码。升级完成后请从文件中删除。</translation>
+    </message>
+    <message>
+        <source>升级文件的完整路径，或相对于此文档所在文件夹的路径。必填。</source>
+        <translation>升级文件的完整路径，或相对于此文档所在文件夹的路径。必填。</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>由程序填写：升级前后的版本，或失败原因。</source>
+        <translation>由程序填写：升级前后的版本，或失败原因。</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>含义</translation>
+    </message>
+    <message>
+        <source>请保留第一行的标题，并在升级前用自己的内容替换示例行。</source>
+        <translation>请保留第一行的标题，并在升级前用自己的内容替换示例行。</translation>
+    </message>
+    <message>
+        <source>IP和升级文件都为空的行会被跳过。</source>
+        <translation>IP和升级文件都为空的行会被跳过。</translation>
+    </message>
+    <message>
+        <source>升级时请不要在其他程序中打开此文件。</source>
+        <translation>升级时请不要在其他程序中打开此文件。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTexts</name>
+    <message>
+        <source>已开始写入，无法停止</source>
+        <translation>已开始写入，无法停止</translation>
+    </message>
+    <message>
+        <source>升级成功：%1 → %2</source>
+        <translation>升级成功：%1 → %2</translation>
+    </message>
+    <message>
+        <source>%1（%2%）</source>
+        <translation>%1（%2%）</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeToolBar</name>
+    <message>
+        <source>开始升级</source>
+        <translation>开始升级</translation>
+    </message>
+    <message>
+        <source>升级勾选的设备</source>
+        <translation>升级勾选的设备</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>为勾选的设备选择同一个升级文件</source>
+        <translation>为勾选的设备选择同一个升级文件</translation>
+    </message>
+    <message>
+        <source>全部停止</source>
+        <translation>全部停止</translation>
+    </message>
+    <message>
+        <source>停止尚未开始写入的设备</source>
+        <translation>停止尚未开始写入的设备</translation>
+    </message>
+    <message>
+        <source>重试失败项</source>
+        <translation>重试失败项</translation>
+    </message>
+    <message>
+        <source>再次升级重试可能成功的设备，例如无应答的设备</source>
+        <translation>再次升级重试可能成功的设备，例如无应答的设备</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>升级文档</translation>
+    </message>
+    <message>
+        <source>按表格文件升级其中的设备，并把结果写回文件</source>
+        <translation>按表格文件升级其中的设备，并把结果写回文件</translation>
+    </message>
+    <message>
+        <source>打开模板</source>
+        <translation>打开模板</translation>
+    </message>
+    <message>
+        <source>打开升级文档的模板文件</source>
+        <translation>打开升级文档的模板文件</translation>
+    </message>
+    <message>
+        <source>搜索...</source>
+        <translation>搜索...</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTools</name>
+    <message>
+        <source>等待设备重启</source>
+        <translation>等待设备重启</translation>
+    </message>
+    <message>
+        <source>正在写入，请勿断电</source>
+        <translation>正在写入，请勿断电</translation>
+    </message>
+    <message>
+        <source>正在发送文件</source>
+        <translation>正在发送文件</translation>
+    </message>
+    <message>
+        <source>正在登录设备</source>
+        <translation>正在登录设备</translation>
+    </message>
+    <message>
+        <source>等待升级</source>
+        <translation>等待升级</translation>
+    </message>
+    <message>
+        <source>升级成功</source>
+        <translation>升级成功</translation>
+    </message>
+    <message>
+        <source>未选择升级文件</source>
+        <translation>未选择升级文件</translation>
+    </message>
+    <message>
+        <source>升级文件不存在</source>
+        <translation>升级文件不存在</translation>
+    </message>
+    <message>
+        <source>升级文件无法读取</source>
+        <translation>升级文件无法读取</translation>
+    </message>
+    <message>
+        <source>升级文件是空的</source>
+        <translation>升级文件是空的</translation>
+    </message>
+    <message>
+        <source>升级文件过大</source>
+        <translation>升级文件过大</translation>
+    </message>
+    <message>
+        <source>升级文件已损坏</source>
+        <translation>升级文件已损坏</translation>
+    </message>
+    <message>
+        <source>升级文件不适用于此型号</source>
+        <translation>升级文件不适用于此型号</translation>
+    </message>
+    <message>
+        <source>设备不接受此升级文件</source>
+        <translation>设备不接受此升级文件</translation>
+    </message>
+    <message>
+        <source>密码错误</source>
+        <translation>密码错误</translation>
+    </message>
+    <message>
+        <source>账号不存在</source>
+        <translation>账号不存在</translation>
+    </message>
+    <message>
+        <source>账号被锁定</source>
+        <translation>账号被锁定</translation>
+    </message>
+    <message>
+        <source>设备未初始化</source>
+        <translation>设备未初始化</translation>
+    </message>
+    <message>
+        <source>设备不支持升级，或未初始化</source>
+        <translation>设备不支持升级，或未初始化</translation>
+    </message>
+    <message>
+        <source>IP或端口填写错误</source>
+        <translation>IP或端口填写错误</translation>
+    </message>
+    <message>
+        <source>与前面的行是同一设备</source>
+        <translation>与前面的行是同一设备</translation>
+    </message>
+    <message>
+        <source>设备无应答</source>
+        <translation>设备无应答</translation>
+    </message>
+    <message>
+        <source>设备忙，请稍后重试</source>
+        <translation>设备忙，请稍后重试</translation>
+    </message>
+    <message>
+        <source>设备中断了升级</source>
+        <translation>设备中断了升级</translation>
+    </message>
+    <message>
+        <source>升级长时间没有进展</source>
+        <translation>升级长时间没有进展</translation>
+    </message>
+    <message>
+        <source>设备重启后未恢复</source>
+        <translation>设备重启后未恢复</translation>
+    </message>
+    <message>
+        <source>重启后仍是原版本</source>
+        <translation>重启后仍是原版本</translation>
+    </message>
+    <message>
+        <source>已停止，设备未改动</source>
+        <translation>已停止，设备未改动</translation>
+    </message>
+    <message>
+        <source>程序退出，升级中断</source>
+        <translation>程序退出，升级中断</translation>
+    </message>
+    <message>
+        <source>未知错误 %1</source>
+        <translation>未知错误 %1</translation>
+    </message>
+    <message>
+        <source>批量升级模板.xlsx</source>
+        <translation>批量升级模板.xlsx</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeWork</name>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
+    </message>
+    <message>
+        <source>选择升级文件</source>
+        <translation>选择升级文件</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>升级文件</translation>
+    </message>
+    <message>
+        <source>所有文件</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>没有可以重试的设备</source>
+        <translation>没有可以重试的设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未选择升级文件</source>
+        <extracomment>Of the devices that are to be upgraded.</extracomment>
+        <translation>
+            <numerusform>%n 台设备未选择升级文件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
+        <translation>
+            <numerusform>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未升级成功，请查看结果</source>
+        <extracomment>Of the devices that were upgraded.</extracomment>
+        <translation>
+            <numerusform>%n 台设备未升级成功，请查看结果</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备升级成功</source>
+        <translation>
+            <numerusform>%n 台设备升级成功</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeWorkbook</name>
+    <message>
+        <source>正在按另一个文档升级</source>
+        <translation>正在按另一个文档升级</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>文档中没有设备</source>
+        <translation>文档中没有设备</translation>
+    </message>
+    <message>
+        <source>打开模板文件失败。</source>
+        <translation>打开模板文件失败。</translation>
     </message>
 </context>
 <context>

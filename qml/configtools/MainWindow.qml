@@ -59,8 +59,18 @@ T.ApplicationWindow {
         return false;
     }
 
+    /// A device that is being upgraded must not be left alone.
+    function isUpgradeLeft() {
+        if (!deviceFactory.hasDeviceUpgrading())
+            return false;
+        popups.say(qsTr("当前有设备正在升级中，请稍候再关闭"), OVToast.Information);
+        return true;
+    }
+
     /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
     function requestEnd() {
+        if (isUpgradeLeft())
+            return false;
         if (searching || working) {
             popups.say(working ? qsTr("正在处理设备，请稍候再关闭") : qsTr("正在搜索，请稍候再关闭"),
                        OVToast.Information);
@@ -125,6 +135,8 @@ T.ApplicationWindow {
                 systemConfigPage.item?.focusSearch();
             else if (window.currentTab === 2)
                 deviceConfigPage.item?.focusSearch();
+            else if (window.currentTab === 1)
+                upgradePage.item?.focusSearch();
             else if (window.currentTab === 4)
                 cgiConfigPage.item?.focusSearch();
         }
@@ -181,7 +193,20 @@ T.ApplicationWindow {
                 onSearchRequested: window.requestSearch()
                 onSettingsRequested: popups.openSearchSettings(searchSettings.read())
             }
-            OVOnDemand { visible: false; sourceComponent: Component { PageDeviceUpgrade {} } }
+            OVOnDemand {
+                id: upgradePage
+                visible: false
+                // qmllint disable unqualified
+                sourceComponent: Component {
+                    PageDeviceUpgrade {
+                        libraryInstalled: window.libraryInstalled
+                        searching: window.searching
+                        onSaid: (message, kind) => popups.say(message, kind)
+                        onSearchRequested: window.requestSearch()
+                    }
+                }
+                // qmllint enable unqualified
+            }
             OVOnDemand {
                 id: deviceConfigPage
                 visible: false
@@ -253,7 +278,7 @@ T.ApplicationWindow {
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
-        onRestartRequested: window.leavePage(() => window.localConfig.reboot())
+        onRestartRequested: if (!window.isUpgradeLeft()) window.leavePage(() => window.localConfig.reboot())
         onSettingsAccepted: values => {
             if (!searchSettings.write(values))
                 popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);

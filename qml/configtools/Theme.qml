@@ -127,6 +127,10 @@ QtObject {
     readonly property int columnOutcome: 236
     readonly property int columnAnswer: 240
     readonly property int columnCommand: 320
+    readonly property int columnFile: 132
+    readonly property int columnProgress: 180
+    readonly property int columnUpgradeActions: 148
+    readonly property int progressWidth: 76  // of a bar in a row
 
     // Type.
     readonly property int hintSize: 12

@@ -15,6 +15,7 @@
 #include "device/systemtools.h"
 #include "device/treemodel.h"
 #include "device/treerows.h"
+#include "device/upgradetools.h"
 #include "favourites/author.h"
 #include "favourites/favouritelistmodel.h"
 #include "media/videoitem.h"
@@ -126,6 +127,14 @@ struct SystemToolsForeign
     Q_GADGET
     QML_FOREIGN(SystemTools)
     QML_NAMED_ELEMENT(SystemTools)
+    QML_SINGLETON
+};
+
+struct UpgradeToolsForeign
+{
+    Q_GADGET
+    QML_FOREIGN(UpgradeTools)
+    QML_NAMED_ELEMENT(UpgradeTools)
     QML_SINGLETON
 };
 

@@ -6,6 +6,8 @@ import configtools
 T.ProgressBar {
     id: root
 
+    property color ink: Theme.colours.accent
+
     implicitWidth: 220
     implicitHeight: 6
 
@@ -24,7 +26,7 @@ T.ProgressBar {
             x: root.indeterminate ? way * (parent.width + width) - width : 0
             width: root.indeterminate ? parent.width * 0.3 : root.position * parent.width
             height: parent.height
-            color: Theme.colours.accent
+            color: root.ink
             radius: height / 2
 
             NumberAnimation on way {

@@ -1,10 +1,121 @@
-// Announces the page of this tab until its work arrives.
+// Firmware for devices: a file for each, and how far each one's upgrade is.
 import QtQuick
 import configtools
 
-OVComingPage {
+FocusScope {
+    id: page
+
+    required property bool searching
+    required property bool libraryInstalled
+    signal searchRequested
+    signal said(string message, int kind)
+
+    // qmllint disable unqualified
+    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var fileDialogs: FileDialogsApi
+    // qmllint enable unqualified
+
+    property bool outdated: false  // the table lacks what has changed since
+
+    function focusSearch() {
+        toolBar.focusSearch();
+    }
+
+    function refresh() {
+        outdated = !visible;
+        if (!outdated)
+            devices.refresh();
+    }
+
     objectName: "pageDeviceUpgrade"
-    iconName: "upgrade"
-    title: qsTr("设备升级")
-    hint: qsTr("在此为选中的设备选择固件并批量升级，每台设备的进度和结果都显示在表中。") + "\n" + qsTr("也可以按升级文档一次升级多台设备。")
+    onVisibleChanged: if (visible && outdated) refresh()
+
+    DeviceTableModel {
+        id: devices
+        deviceFactory: page.deviceFactory
+        searchText: toolBar.searchText.trim()
+    }
+    Connections {
+        target: page.deviceFactory
+
+        function onSignalAddDeviceToTable() {
+            page.refresh();
+        }
+        function onSignalAddSingleDeviceToTable() {
+            page.refresh();
+        }
+        function onSignalSearchDone() {
+            page.refresh();
+        }
+    }
+    UpgradeWork {
+        id: work
+        deviceFactory: page.deviceFactory
+        deviceTable: devices
+        fileDialogs: page.fileDialogs
+        shown: page.visible
+        onChanged: page.refresh()
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+    UpgradeWorkbook {
+        id: document
+        deviceFactory: page.deviceFactory
+        fileDialogs: page.fileDialogs
+        onSaid: (message, kind) => page.said(message, kind)
+        onStarted: work.followAll()
+    }
+
+    UpgradeToolBar {
+        id: toolBar
+        x: Theme.pageMargin
+        width: parent.width - 2 * x
+        height: Theme.toolBarHeight
+        running: work.running
+        onDocumentRequested: document.choose()
+        onFileRequested: work.chooseFileForChecked()
+        onRetryRequested: work.retry()
+        onStartRequested: work.startChecked()
+        onStopRequested: work.stopAll()
+        onTemplateRequested: document.openTemplate()
+    }
+    UpgradeTable {
+        x: Theme.pageMargin
+        y: toolBar.height
+        width: parent.width - 2 * x
+        height: foot.y - y
+        checkState: devices.checkState
+        focus: true
+        model: devices
+        objectName: "upgradeTable"
+        sortKey: devices.sortKey
+        sortOrder: devices.sortOrder
+        onAllToggled: checked => devices.setAllChecked(checked)
+        onFileRequested: row => work.chooseFile([devices.get(row).identity])
+        onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
+        onSortRequested: key => devices.toggleSort(key)
+        onStartRequested: row => work.start([devices.get(row)])
+        onStopRequested: row => work.stop(devices.get(row).identity)
+
+        ModifyIPEmptyState {
+            anchors.fill: parent
+            hiddenCount: devices.totalCount
+            libraryInstalled: page.libraryInstalled
+            searching: page.searching
+            searchesNothing: false
+            onFiltersCleared: toolBar.searchText = ""
+            onSearchRequested: page.searchRequested()
+        }
+    }
+    OVFootBar {
+        id: foot
+        x: Theme.pageMargin
+        y: parent.height - height
+        width: parent.width - 2 * x
+        progress: work.percent / 100
+        running: work.running
+        runningDevice: work.percent + "%"
+        runningText: qsTr("正在升级设备，请勿断电…")
+        //: Follows a number at the foot of a page, as in "3 devices selected".
+        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+    }
 }

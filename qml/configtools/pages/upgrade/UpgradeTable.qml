@@ -1,0 +1,177 @@
+// The devices of the upgrade page: the file of each, how far it is, and what has come of it.
+import QtQuick
+import configtools
+
+OVTable {
+    id: root
+
+    signal fileRequested(int row)
+    signal startRequested(int row)
+    signal stopRequested(int row)
+
+    readonly property var phases: ({
+        [UpgradeTools.Waiting]: qsTr("等待"), [UpgradeTools.Preparing]: qsTr("登录"),
+        [UpgradeTools.Sending]: qsTr("发送"), [UpgradeTools.Writing]: qsTr("写入"),
+        [UpgradeTools.Restarting]: qsTr("重启")
+    })
+
+    columns: [
+        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
+        {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true},
+        {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, sortable: true, cell: figureCell},
+        {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, sortable: true, cell: figureCell},
+        {key: "filepath", title: qsTr("升级文件"), width: Theme.columnFile, stretch: 2, sortable: true, cell: fileCell},
+        {key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, cell: progressCell},
+        {key: "upgraderes", title: qsTr("结果"), width: Theme.columnAnswer, stretch: 2, sortable: true, cell: resultCell},
+        {key: "operate", title: qsTr("操作"), width: Theme.columnUpgradeActions, cell: actionCell}
+    ]
+
+    Component {
+        id: numberCell
+        OVTableTextCell {
+            font: Theme.figureFont
+            text: rowIndex + 1
+        }
+    }
+    Component {
+        id: figureCell
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
+    }
+    Component {
+        id: fileCell
+        OVTableCell {
+            id: file
+
+            OVLabel {
+                readonly property string path: file.value ?? ""
+                width: parent.width - Theme.unit
+                height: parent.height
+                color: path === "" ? Theme.colours.faint : Theme.colours.ink
+                showsWholeOnHover: false
+                text: path === "" ? qsTr("未选择") : path.slice(path.lastIndexOf("/") + 1)
+
+                HoverHandler {
+                    id: filePointer
+                }
+                OVToolTip {
+                    shown: filePointer.hovered && parent.path !== ""
+                    text: parent.path
+                }
+            }
+        }
+    }
+    // qmllint disable unqualified
+    Component {
+        id: progressCell
+        OVTableCell {
+            id: progress
+
+            readonly property int result: row?.upgraderes ?? UpgradeTools.None
+            readonly property bool running: UpgradeTools.isRunning(result)
+            readonly property bool counted: !running || result === UpgradeTools.Sending || result === UpgradeTools.Writing
+            readonly property bool shown: result !== UpgradeTools.None
+
+            OVProgressBar {
+                id: bar
+                anchors.verticalCenter: parent.verticalCenter
+                width: Theme.progressWidth
+                ink: progress.running ? Theme.colours.accent
+                    : progress.result === UpgradeTools.Success ? Theme.colours.ok : Theme.colours.faint
+                value: (progress.value ?? 0) / 100
+                visible: progress.shown
+            }
+            OVLabel {
+                anchors.left: bar.right
+                anchors.leftMargin: Theme.unit
+                anchors.right: parent.right
+                height: parent.height
+                color: Theme.colours.sub
+                font: Theme.figureFont
+                objectName: "upgradePhase" + progress.rowIndex
+                text: progress.counted ? ((root.phases[progress.result] ?? "") + " " + (progress.value ?? 0) + "%").trim()
+                    : root.phases[progress.result]
+                visible: progress.shown
+            }
+        }
+    }
+    Component {
+        id: resultCell
+        OVTableCell {
+            id: result
+
+            readonly property int code: value ?? UpgradeTools.None
+            readonly property bool failed: UpgradeTools.isFailure(code)
+            readonly property bool mayGoWell: UpgradeTools.canTryAgain(code)
+            readonly property bool signed: failed || code === UpgradeTools.Success
+            // While it runs the phase stands beside the bar; only what is more than that stands here.
+            readonly property string words: UpgradeTools.isRunning(code)
+                && row?.result === UpgradeTools.text(code) ? "" : row?.result ?? ""
+
+            OVIcon {
+                id: sign
+                anchors.verticalCenter: parent.verticalCenter
+                color: !result.failed ? Theme.colours.ok : result.mayGoWell ? Theme.colours.warn : Theme.colours.bad
+                name: !result.failed ? "ok" : result.mayGoWell ? "alert" : "error"
+                size: Theme.smallIconSize
+                visible: result.signed
+
+                HoverHandler {
+                    id: signPointer
+                }
+                OVToolTip {
+                    shown: signPointer.hovered && result.failed
+                    text: result.mayGoWell ? qsTr("可以重试") : qsTr("请先更正文件、账号或设备，再重新升级")
+                }
+            }
+            OVLabel {
+                x: result.signed ? sign.width + Theme.signGap : 0
+                width: parent.width - x - Theme.unit
+                height: parent.height
+                color: !result.failed ? Theme.colours.ink : result.mayGoWell ? Theme.colours.warnInk : Theme.colours.bad
+                objectName: "upgradeResult" + result.rowIndex
+                text: result.words
+            }
+        }
+    }
+    Component {
+        id: actionCell
+        OVTableCell {
+            id: action
+
+            readonly property int result: row?.upgraderes ?? UpgradeTools.None
+            readonly property bool running: UpgradeTools.isRunning(result)
+
+            Row {
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: Theme.controlGap
+
+                OVLinkButton {
+                    focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                    objectName: "upgradeFile" + action.rowIndex
+                    text: qsTr("选择文件")
+                    visible: !action.running
+                    onClicked: root.fileRequested(action.rowIndex)
+                }
+                OVLinkButton {
+                    focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                    objectName: "upgradeStart" + action.rowIndex
+                    text: qsTr("升级")
+                    visible: !action.running
+                    onClicked: root.startRequested(action.rowIndex)
+                }
+                OVLinkButton {
+                    enabled: UpgradeTools.canStop(action.result)
+                    focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                    objectName: "upgradeStop" + action.rowIndex
+                    text: qsTr("停止")
+                    toolTip: enabled ? "" : qsTr("已开始写入，无法停止")
+                    visible: action.running
+                    onClicked: root.stopRequested(action.rowIndex)
+                }
+            }
+        }
+    }
+    // qmllint enable unqualified
+}

@@ -1,0 +1,74 @@
+// Upgrades by document: the choice of the workbook, the report of its lines, and what has come of them.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    required property var fileDialogs
+    property bool running: false
+    signal started
+    signal said(string message, int kind)
+
+    function choose() {
+        if (running)
+            said(qsTr("正在按另一个文档升级"), OVToast.Information);
+        else
+            fileDialogs.chooseFile(qsTr("打开"), ["Excel Files (*.xlsx)"], path => report(path));
+    }
+
+    function report(path) {
+        const lines = deviceFactory.importUpgradeDocument("dh", path);
+        const refusal = deviceFactory.importError("dh");
+        if (refusal !== "" || lines.length === 0) {
+            said(refusal !== "" ? refusal : qsTr("文档中没有设备"), OVToast.Error);
+            return;
+        }
+        const dialog = reportDialog.wanted();
+        dialog.load(path, lines);
+        dialog.open();
+    }
+
+    function start(path) {
+        running = true;
+        deviceFactory.startUpgradeByDocument("dh", [path]);
+        started();
+    }
+
+    function openTemplate() {
+        if (!deviceFactory.openTemplate())
+            said(qsTr("打开模板文件失败。"), OVToast.Error);
+    }
+
+    visible: false
+
+    Connections {
+        target: root.deviceFactory
+        enabled: root.running
+
+        function onSignalShowUpgradeFinishTip() {
+            const result = root.deviceFactory.upgradeDocumentResult("dh");
+            if (result === "")
+                return;
+            root.running = false;
+            outcome.wanted().show(result, OVMessageBox.Information);
+        }
+    }
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: reportDialog
+        visible: false
+        sourceComponent: UpgradeReportDialog {
+            onConfirmed: path => root.start(path)
+        }
+    }
+    OVOnDemand {
+        id: outcome
+        visible: false
+        sourceComponent: OVMessageBox {
+            objectName: "upgradeOutcome"
+        }
+    }
+    // qmllint enable unqualified
+}
