@@ -1,4 +1,5 @@
 #include "tests/tour/driver.h"
+#include "tests/tour/filebox.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 

@@ -134,6 +134,7 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkSearchSettings(driver);
     walkDevices(driver);
     walkLists(driver, folder + QStringLiteral("/lists"));
+    walkUpgrade(driver, site, folder + QStringLiteral("/upgrade"));
     walkSystem(driver);
     walkSecondStart(driver, folder);
     driver.check(warnings == 0, QStringLiteral("no warning was given"));

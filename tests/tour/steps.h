@@ -32,6 +32,9 @@ void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site);
 void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// Commands over HTTP to one device, to several, and from a workbook, which is written into `folder`.
 void walkCommands(Driver &driver, const QString &folder);
+/// Upgrades of six devices, of which one fails, one stands still and one is stopped, and upgrades by
+/// document; the firmware and the document are written into `folder`.
+void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

@@ -1,0 +1,241 @@
+#include "device/devicerow.h"
+#include "device/upgradetools.h"
+#include "sdk/demo/demosite.h"
+#include "sheets/qexcel.h"
+#include "tests/tour/filebox.h"
+#include "tests/tour/rows.h"
+#include "tests/tour/steps.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using sdk::demo::Fault;
+
+namespace {
+
+const QString password = u"Office-2024"_s;
+const QString newVersion = u"3.000.1"_s;
+const QString firmwareName = u"cameras_"_s + newVersion + u".bin"_s;
+
+QString said(const char *context, const char *message)
+{
+    return QCoreApplication::translate(context, message);
+}
+
+/// The account that found devices are logged in to with.
+void setDefaultPassword(const Driver &driver)
+{
+    driver.click(u"searchSettingsButton"_s);
+    driver.fill(u"passwordField"_s, password);
+    driver.click(u"okButton"_s);
+    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
+    driver.await(
+        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
+}
+
+bool letsIn(const sdk::demo::DemoSite &site, const QString &mac)
+{
+    const auto device = site.device(mac);
+    return device && !device->isUninitialised() &&
+           std::any_of(device->accounts.cbegin(), device->accounts.cend(),
+                       [](const auto &account) { return account.password == password; });
+}
+
+/// The first rows of the table whose devices can be logged in to.
+QList<int> usableRows(const Driver &driver, const Rows &rows, const sdk::demo::DemoSite &site, int count)
+{
+    QList<int> found;
+    for (int row = 0; row < rows.count() && found.size() < count; ++row) {
+        if (letsIn(site, rows.value(row, "mac").toString()) && !rows.value(row, "conflict").toBool())
+            found.append(row);
+    }
+    driver.check(found.size() == count, u"there are %1 devices to upgrade"_s.arg(count));
+    return found;
+}
+
+void writeFirmware(const Driver &driver, const QString &path, const QStringList &models)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    const QByteArray content = "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
+                               "\nversion=" + newVersion.toLatin1() + "\n\n" + QByteArray(100000, '\1');
+    driver.check(file.open(QFile::WriteOnly) && file.write(content) == content.size(),
+                 u"the firmware is written"_s);
+}
+
+/// Six devices that are quick, but for what is wrong with some.
+void prepareDevices(const Rows &rows, const QList<int> &places, sdk::demo::DemoSite &site)
+{
+    for (const int row : places) {
+        const QString mac = rows.value(row, "mac").toString();
+        site.setFault(mac, {Fault::UpgradeTakes, 3});
+        site.setFault(mac, {Fault::RebootTakes, 2});
+    }
+    const auto mac = [&](int place) {
+        return rows.value(places.at(place), "mac").toString();
+    };
+    site.setFault(mac(1), {Fault::UpgradeFailsAt, 47});
+    site.setFault(mac(2), {Fault::UpgradeHangsAt, 63});
+    site.setFault(mac(3), {Fault::UpgradeTakes, 60});
+}
+
+void answerQuestion(Driver &driver, const QString &picture)
+{
+    driver.require(u"messageText"_s);
+    if (!picture.isEmpty())
+        driver.report(picture, driver.text(u"messageText"_s));
+    driver.click(u"okButton"_s);
+    driver.await(u"the question is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+}
+
+/// Nothing disturbs devices that are upgraded.
+void expectHold(const Driver &driver)
+{
+    driver.click(u"searchButton"_s);
+    driver.await(u"a search is refused"_s, [&] {
+        return driver.text(u"messageText"_s) == said("MainWindow", "当前有设备正在升级中，请勿刷新设备！");
+    });
+    driver.click(u"okButton"_s);
+    driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+    driver.click(u"closeButton"_s);
+    driver.await(u"closing is refused"_s, [&] {
+        return driver.texts(u"toastText"_s)
+            .contains(said("MainWindow", "当前有设备正在升级中，请稍候再关闭"));
+    });
+}
+
+void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &firmware)
+{
+    const Rows rows(driver, u"upgradeTable"_s);
+    const QList<int> places = usableRows(driver, rows, site, 6);
+    prepareDevices(rows, places, site);
+    QStringList models;
+    for (const int row : places)
+        models.append(rows.value(row, "model").toString());
+    models.removeDuplicates();
+    writeFirmware(driver, firmware, models);
+    const auto result = [&](int place) {
+        return rows.value(places.at(place), "upgraderes").toInt();
+    };
+
+    driver.click(u"upgradeStartButton"_s);
+    driver.await(u"ticks are missing"_s, [&] {
+        return driver.texts(u"toastText"_s).contains(said("UpgradeWork", "请选择一台设备"));
+    });
+    for (const int row : places)
+        driver.click(u"check%1"_s.arg(row));
+    driver.click(u"upgradeFileButton"_s);
+    answerFileBox(driver, firmware);
+    driver.await(u"each has the file"_s, [&] {
+        return std::all_of(places.cbegin(), places.cend(),
+                           [&](int row) { return rows.value(row, "filepath").toString() == firmware; });
+    });
+    driver.report(u"upgrade-files"_s, u"one file for six devices"_s);
+    driver.click(u"upgradeStartButton"_s);
+    answerQuestion(driver, u"upgrade-question"_s);
+    driver.await(u"four at a time"_s, [&] {
+        return result(0) == UpgradeTools::Sending && result(4) == UpgradeTools::Waiting &&
+               rows.value(places.at(0), "upgrade").toInt() > 20;
+    });
+    driver.report(u"upgrade-running"_s, driver.text(u"runningText"_s));
+    driver.click(u"upgradeStop%1"_s.arg(places.at(3)));
+    driver.await(u"one is stopped"_s, [&] { return result(3) == UpgradeTools::Stopped; });
+    expectHold(driver);
+    driver.await(u"one writes"_s, [&] {
+        return result(0) == UpgradeTools::Writing || result(4) == UpgradeTools::Writing ||
+               result(5) == UpgradeTools::Writing;
+    });
+    driver.report(u"upgrade-writing"_s, u"one cannot be stopped any more"_s);
+    driver.await(
+        u"all have ended"_s, [&] { return driver.find(u"runningText"_s) == nullptr; }, 60);
+    const QList<int> expected = {UpgradeTools::Success, UpgradeTools::Failed,  UpgradeTools::Stuck,
+                                 UpgradeTools::Stopped, UpgradeTools::Success, UpgradeTools::Success};
+    for (int place = 0; place < 6; ++place)
+        driver.check(result(place) == expected.at(place),
+                     u"device %1 has the result %2"_s.arg(place).arg(expected.at(place)));
+    driver.check(rows.value(places.at(0), "vision").toString() == u'v' + newVersion,
+                 u"the new version is shown"_s);
+    driver.report(u"upgrade-results"_s, driver.texts(u"upgradeResult%1"_s.arg(places.at(2))).join(QString()));
+
+    for (int place = 1; place < 4; ++place) {
+        const QString mac = rows.value(places.at(place), "mac").toString();
+        site.clearFault(mac, Fault::UpgradeFailsAt);
+        site.clearFault(mac, Fault::UpgradeHangsAt);
+        site.setFault(mac, {Fault::UpgradeTakes, 1});
+    }
+    driver.click(u"upgradeRetryButton"_s);
+    answerQuestion(driver, {});
+    driver.await(
+        u"the others go well too"_s,
+        [&] {
+            return result(1) == UpgradeTools::Success && result(2) == UpgradeTools::Success &&
+                   result(3) == UpgradeTools::Success;
+        },
+        30);
+}
+
+/// The template, filled with three devices.
+QString writeDocument(const Driver &driver, const QStringList &addresses, const QString &folder)
+{
+    QExcel excel;
+    bool isWritten = excel.open(QCoreApplication::applicationDirPath() + u"/template/"_s +
+                                UpgradeTools::templateFileName());
+    const QStringList files = {firmwareName, firmwareName, u"missing.bin"_s};
+    for (int place = 0; place < addresses.size(); ++place) {
+        const int row = place + 2;
+        isWritten &= excel.setCellText(row, 1, addresses.at(place).section(u':', 0, 0)) &&
+                     excel.setCellText(row, 2, addresses.at(place).section(u':', 1)) &&
+                     excel.setCellText(row, 3, u"admin"_s) &&
+                     excel.setCellText(row, 4, place == 1 ? u"wrong"_s : password) &&
+                     excel.setCellText(row, 5, files.at(place));
+    }
+    const QString path = folder + u"/upgrades.xlsx"_s;
+    driver.check(isWritten && excel.saveAs(path), u"the document is written"_s);
+    return path;
+}
+
+void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
+{
+    const Rows rows(driver, u"upgradeTable"_s);
+    QStringList addresses;
+    for (const int row : usableRows(driver, rows, site, 3))
+        addresses.append(rows.value(row, "ipport").toString());
+    const QString path = writeDocument(driver, addresses, folder);
+    driver.click(u"upgradeDocumentButton"_s);
+    answerFileBox(driver, path);
+    driver.require(u"upgradeReportTable"_s);
+    driver.report(u"upgrade-document"_s, driver.text(u"messageText"_s));
+    driver.click(u"okButton"_s);
+    driver.await(
+        u"what has come of it is told"_s,
+        [&] { return driver.text(u"messageText"_s).contains(QDir::toNativeSeparators(path)); }, 40);
+    driver.report(u"upgrade-document-results"_s, driver.text(u"messageText"_s));
+    driver.click(u"okButton"_s);
+    driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+    QExcel excel;
+    driver.check(excel.open(path), u"the document can be read"_s);
+    driver.check(excel.cellText(2, 6).value_or(QString()).contains(newVersion) &&
+                     excel.cellText(3, 6) == UpgradeTools::text(UpgradeTools::WrongPassword) &&
+                     excel.cellText(4, 6) == UpgradeTools::text(UpgradeTools::FileMissing),
+                 u"the results are in the document"_s);
+}
+
+} // namespace
+
+void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
+{
+    setDefaultPassword(driver);
+    driver.click(u"tab1"_s);
+    driver.fill(u"upgradeSearchField"_s, u"B-2"_s);
+    driver.require(u"check5"_s);
+    walkTableUpgrade(driver, site, folder + u'/' + firmwareName);
+    walkDocumentUpgrade(driver, site, folder);
+    driver.fill(u"upgradeSearchField"_s, u"nothing of this kind"_s);
+    driver.require(u"emptyTitle"_s);
+    driver.report(u"upgrade-nothing"_s, driver.text(u"emptyTitle"_s));
+    driver.fill(u"upgradeSearchField"_s, QString());
+}
