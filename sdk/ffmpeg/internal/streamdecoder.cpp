@@ -41,7 +41,7 @@ std::unique_ptr<TrackDecoder> decoderOf(const AVStream *track)
 
 StreamDecoder::StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer,
                              std::stop_token stop)
-    : m_source(source), m_ring(ring), m_observer(observer), m_stop(std::move(stop)), m_demuxer(source, m_stop)
+    : m_ring(ring), m_observer(observer), m_stop(std::move(stop)), m_demuxer(source, m_stop)
 {
 }
 

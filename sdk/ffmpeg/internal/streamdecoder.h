@@ -44,7 +44,6 @@ private:
     void deliverPicture(const AVFrame &frame);
     void deliverSound(const AVFrame &frame);
 
-    StreamSource &m_source;
     PictureRing &m_ring;
     StreamObserver &m_observer;
     const std::stop_token m_stop;
