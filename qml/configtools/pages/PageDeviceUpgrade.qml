@@ -62,7 +62,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         onSaid: (message, kind) => page.said(message, kind)
-        onStarted: work.followAll()
+        onStarted: identities => work.followDocument(identities)
     }
 
     UpgradeToolBar {

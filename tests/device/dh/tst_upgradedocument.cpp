@@ -134,6 +134,20 @@ private Q_SLOTS:
         QVERIFY2(told.contains(QDir::toNativeSeparators(other)), qPrintable(told));
     }
 
+    void aDeviceWithoutARowIsStoppedByItsAddress()
+    {
+        const UpgradeSite test(1);
+        test.store->removeRows({test.mac(0)});
+        test.site->setFault(test.mac(0), {sdk::demo::Fault::UpgradeTakes, 60});
+        const QString path = workbook(test, {{test.address(0), {}, {}, {}, test.file()}});
+        test.factory->startUpgradeByDocument(test.family, {path});
+        QVERIFY(test.passUntil(
+            [&] { return !test.schedule->isEmpty() && test.schedule->last().first().toInt() > 1; }));
+        test.factory->stopUpgrade(test.family, test.ipport(0));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(results(path, 1), QStringList(u"已停止，设备未改动"_s));
+    }
+
     void theEndOfTheProgramIsWritten()
     {
         UpgradeSite test(1);

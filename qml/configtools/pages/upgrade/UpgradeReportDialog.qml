@@ -6,15 +6,15 @@ OVDialog {
     id: root
 
     property string path
-    property int good: 0
-    property int bad: 0
-    signal confirmed(string path)
+    readonly property int good: goodLines.length
+    readonly property int bad: lines.count - good
+    property var goodLines: []
+    signal confirmed(string path, var lines)
 
     /// `report` as the factory's importUpgradeDocument() returns it.
     function load(file, report) {
         path = file;
-        good = report.filter(line => line.code === UpgradeTools.None).length;
-        bad = report.length - good;
+        goodLines = report.filter(line => line.code === UpgradeTools.None);
         // A line may have no MAC: its number tells it from others.
         lines.setRows(report.map(line => Object.assign({}, line, {mac: String(line.line)})));
     }
@@ -26,7 +26,7 @@ OVDialog {
     title: qsTr("升级文档")
     onAccepted: {
         close();
-        confirmed(path);
+        confirmed(path, goodLines);
     }
     onOpened: table.forceActiveFocus()
 

@@ -15,6 +15,7 @@ Item {
     signal said(string message, int kind)
 
     property var followed: []  // identities of the rows that change
+    property var ofDocument: []
     property bool followsAll: false
     property bool outdated: false
 
@@ -80,16 +81,14 @@ Item {
         deviceFactory.stopUpgrade("dh", identity);
     }
 
+    /// Also those that the filter hides, or that are not in the table.
     function stopAll() {
-        for (let i = 0; i < deviceTable.count; ++i) {
-            const row = deviceTable.get(i);
-            if (UpgradeTools.canStop(row.upgraderes))
-                stop(row.identity);
-        }
+        followed.concat(ofDocument).forEach(identity => stop(identity));
     }
 
-    /// Any device may be among those that are upgraded.
-    function followAll() {
+    /// A document's devices are upgraded, by MAC or else by address and port. Any row may be among them.
+    function followDocument(identities) {
+        ofDocument = ofDocument.concat(identities);
         followsAll = true;
         percent = 0;
         running = deviceFactory.hasDeviceUpgrading();
@@ -117,6 +116,7 @@ Item {
         else if (results.length > 0)
             said(qsTr("%n 台设备升级成功", "", results.length), OVToast.Success);
         followed = [];
+        ofDocument = [];
         followsAll = false;
     }
 

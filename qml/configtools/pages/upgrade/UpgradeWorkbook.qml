@@ -8,7 +8,7 @@ Item {
     required property var deviceFactory
     required property var fileDialogs
     property bool running: false
-    signal started
+    signal started(var identities)  // MACs, or addresses and ports of devices without a row
     signal said(string message, int kind)
 
     function choose() {
@@ -30,10 +30,10 @@ Item {
         dialog.open();
     }
 
-    function start(path) {
+    function start(path, lines) {
         running = true;
         deviceFactory.startUpgradeByDocument("dh", [path]);
-        started();
+        started(lines.map(line => line.mac !== "" ? line.mac : line.address));
     }
 
     function openTemplate() {
@@ -60,7 +60,7 @@ Item {
         id: reportDialog
         visible: false
         sourceComponent: UpgradeReportDialog {
-            onConfirmed: path => root.start(path)
+            onConfirmed: (path, lines) => root.start(path, lines)
         }
     }
     OVOnDemand {
