@@ -11,9 +11,9 @@ namespace {
 void walkTabs(Driver &driver)
 {
     driver.click(QStringLiteral("tab1"));
-    driver.require(QStringLiteral("pageDeviceUpgrade"));
+    driver.report(QStringLiteral("tab1"), driver.text(QStringLiteral("upgradeStartButton")));
     driver.key(Qt::Key_5, Qt::ControlModifier);
-    driver.require(QStringLiteral("pageCGIConfig"));
+    driver.report(QStringLiteral("tab4"), driver.text(QStringLiteral("batchCgiButton")));
     driver.key(Qt::Key_Tab, Qt::ControlModifier);
     driver.await(QStringLiteral("the tabs go round"),
                  [&] { return driver.find(QStringLiteral("deviceTable")) != nullptr; });
