@@ -61,7 +61,8 @@ const QStringList operations = {"startSearch",
                                 "importFailures",
                                 "importError",
                                 "stopImport",
-                                "readDeviceDetail"};
+                                "readDeviceDetail",
+                                "upgradeDocumentResult"};
 
 const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSearchCount",
