@@ -112,19 +112,26 @@ private:
         return {
             {"setUpgradeFilePath",
              [this] {
-                 return m_factory->setUpgradeFilePath("dh", camera, "x"), true;
+                 m_factory->setUpgradeFilePath("dh", camera, "x");
+                 return m_factory->getDeviceDetail("dh", camera).value("filepath").toString() == "x";
              }},
             {"startUpgrade",
              [this] {
-                 return m_factory->startUpgrade("dh", {}), true;
+                 m_factory->setUpgradeFilePath("dh", camera, m_folder->filePath("no such file"));
+                 QSignalSpy ended(m_factory.get(), &CDeviceFactory::signalShowUpgradeFinishTip);
+                 m_factory->startUpgrade("dh", {camera});
+                 return ended.wait(10000) &&
+                        m_factory->getDeviceDetail("dh", camera).value("upgraderes").toInt() > 0;
              }},
             {"startUpgradeByDocument",
              [this] {
-                 return m_factory->startUpgradeByDocument("dh", {}), true;
+                 m_factory->startUpgradeByDocument("dh", {});
+                 return !m_factory->hasDeviceUpgrading();
              }},
             {"stopUpgrade",
              [this] {
-                 return m_factory->stopUpgrade("dh", camera), true;
+                 m_factory->stopUpgrade("dh", camera); // which is not being upgraded
+                 return !m_factory->hasDeviceUpgrading();
              }},
             {"openTemplate",
              [] {
@@ -132,11 +139,16 @@ private:
              }}, // would open another program's window
             {"importUpgradeDocument",
              [this] {
-                 return m_factory->importUpgradeDocument("dh", "no file").isEmpty();
+                 return m_factory->importUpgradeDocument("dh", "no file").isEmpty() &&
+                        !m_factory->importError("dh").isEmpty();
              }},
             {"hasDeviceUpgrading",
              [this] {
                  return !m_factory->hasDeviceUpgrading();
+             }},
+            {"upgradeDocumentResult",
+             [this] {
+                 return m_factory->upgradeDocumentResult("dh").isEmpty(); // none was run
              }},
         };
     }

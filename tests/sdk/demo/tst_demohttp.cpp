@@ -88,7 +88,7 @@ void HttpTest::sendsAPicture()
     // In the second bar, which is yellow.
     const QPoint place(usual.width() * 28 / 100, usual.height() * 17 / 100);
     QVERIFY(qGreen(usual.pixel(place)) > qBlue(usual.pixel(place)) + 100);
-    QVERIFY(qGreen(bright.pixel(place)) > qGreen(usual.pixel(place)) + 30);
+    QVERIFY(qBlue(bright.pixel(place)) > qBlue(usual.pixel(place)) + 30);
 }
 
 void HttpTest::sendsARecording()

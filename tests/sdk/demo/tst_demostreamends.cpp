@@ -276,6 +276,8 @@ private Q_SLOTS:
         QList<bool> refused;
         QList<bool> allowed;
         watcher.onData = [&] {
+            if (!refused.isEmpty())
+                return; // once: later calls may come while the stream is being stopped
             const auto isRefused = [&](bool result) {
                 return !result && lastError(*site.net) == DemoError::InsideHandler;
             };
