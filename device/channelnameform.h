@@ -71,8 +71,8 @@ Q_SIGNALS:
     void changed();
 
 protected:
-    /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble" (a number)
-    /// and "identity".
+    /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble"
+    /// (a number) and "identity".
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isInConflict(int row) const override;
 

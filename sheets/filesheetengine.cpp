@@ -97,7 +97,8 @@ bool FileSheetEngine::saveAs(const QString &path)
     // Written beside the file and put in its place by a rename, so that a full disk costs nothing. Not
     // through a buffer: the toolkit does not notice when only a part of that could be written.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(bytes) != bytes.size() ||
+        !file.commit())
         return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
     m_path = path;
     return true;

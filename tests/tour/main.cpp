@@ -91,7 +91,7 @@ int watch(const QString &language, const QString &folder)
     program.setProcessChannelMode(QProcess::ForwardedChannels);
     program.start(QCoreApplication::applicationFilePath(), {language, folder});
     constexpr int minutes = 60000;
-    if (!program.waitForFinished(9 * minutes) || program.exitStatus() != QProcess::NormalExit ||
+    if (!program.waitForFinished(22 * minutes) || program.exitStatus() != QProcess::NormalExit ||
         program.exitCode() != EXIT_SUCCESS) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;

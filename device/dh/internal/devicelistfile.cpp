@@ -35,7 +35,8 @@ bool writeText(const QString &path, const QByteArray &text)
     // Written beside the file and put in its place by a rename, so that a full disk costs nothing. Not
     // through a buffer: the toolkit does not notice when only a part of that could be written.
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(text) == text.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(text) == text.size() &&
+        file.commit())
         return true;
     qCWarning(logDevice).noquote() << "cannot write the device list" << path << '-' << file.errorString();
     return false;
