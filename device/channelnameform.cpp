@@ -81,7 +81,7 @@ void ChannelNameForm::set(int row, const QString &name)
     tellOf(row);
 }
 
-void ChannelNameForm::revert(int row)
+void ChannelNameForm::takeBack(int row)
 {
     if (row >= 0 && row < m_rows.size())
         set(row, m_rows.at(row).saved);

@@ -51,7 +51,7 @@ public:
     Q_INVOKABLE void set(int row, const QString &name);
 
     /// Takes back what was typed.
-    Q_INVOKABLE void revert(int row);
+    Q_INVOKABLE void takeBack(int row);
 
     /// Leaves as much of a name as the device can hold.
     Q_INVOKABLE void cut(int row);

@@ -20,7 +20,7 @@ QVariantList CDeviceDH::getDeviceChannelData(const QString &key, int channelNum)
     if (count == 0)
         return {};
     if (key == QLatin1String("channelNames")) {
-        const QVariantList names = m_channelNames.names(count);
+        QVariantList names = m_channelNames.names(count);
         if (m_channelNames.isDeviceAway())
             Q_EMIT signalCDeviceGetDeviceCapRet(deviceAway);
         return names;

@@ -170,7 +170,7 @@ private Q_SLOTS:
         names->set(3, "Hof");
         QCOMPARE(names->changedCount(), 3);
         QCOMPARE(troubleOf(*names, 1), ChannelNameForm::Empty);
-        names->revert(1);
+        names->takeBack(1);
         QCOMPARE(names->changedRows(), QList<int>({0, 3}));
 
         QCOMPARE(names->write(0), ChannelNameForm::None);

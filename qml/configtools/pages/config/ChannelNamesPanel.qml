@@ -88,7 +88,7 @@ Item {
             onEntered: table.show(rowIndex)
             onLeftFor: row => root.edit(row)
             onReached: root.wantedRow = -1
-            onReverted: root.form.revert(rowIndex)
+            onReverted: root.form.takeBack(rowIndex)
         }
     }
     Component {
@@ -103,7 +103,7 @@ Item {
         id: troubleCell
         ChannelNameTrouble {
             onCutRequested: root.form.cut(rowIndex)
-            onRevertRequested: root.form.revert(rowIndex)
+            onRevertRequested: root.form.takeBack(rowIndex)
         }
     }
     // qmllint enable unqualified
