@@ -282,12 +282,12 @@ private:
             {"stopImport",
              [this] {
                  constexpr int devices = 50;
-                 int last = 0;
-                 connect(m_factory.get(), &CDeviceFactory::signalImportProgress, this, [&](int done, int) {
-                     last = done;
-                     m_factory->stopImport("dh");
-                 });
-                 return import(listOfNobody(devices)) && last > 0 && last < devices;
+                 const QSignalSpy progress(m_factory.get(), &CDeviceFactory::signalImportProgress);
+                 connect(m_factory.get(), &CDeviceFactory::signalImportProgress, this,
+                         [this] { m_factory->stopImport("dh"); });
+                 const bool isImported = import(listOfNobody(devices));
+                 const int last = progress.isEmpty() ? 0 : progress.last().first().toInt();
+                 return isImported && last > 0 && last < devices;
              }},
         };
     }
