@@ -10,6 +10,7 @@
 using namespace std::chrono_literals;
 using namespace sdk;
 using namespace sdk::demo;
+Q_DECLARE_METATYPE(FaultSetting)
 
 namespace {
 
@@ -249,7 +250,6 @@ private Q_SLOTS:
         QCOMPARE(test.clock->waiters(), 0);
     }
 };
-Q_DECLARE_METATYPE(sdk::demo::FaultSetting)
 
 QTEST_GUILESS_MAIN(DemoUpgradeTest)
 #include "tst_demoupgrade.moc"
