@@ -1,15 +1,21 @@
 #include "sheets/cellrange.h"
 
 #include <algorithm>
+#include <array>
+#include <limits>
 
 namespace sheets {
 
 QString placeText(CellPlace place)
 {
-    QString letters;
+    // From the end: the last digit and the last letter are known first. No sheet needs more characters.
+    std::array<char16_t, 2 * std::numeric_limits<int>::digits10> text;
+    auto first = text.end();
+    for (int row = place.row; row > 0; row /= 10)
+        *--first = char16_t(u'0' + row % 10);
     for (int column = place.column; column > 0; column = (column - 1) / 26)
-        letters.prepend(QChar(u'A' + (column - 1) % 26));
-    return letters + QString::number(place.row);
+        *--first = char16_t(u'A' + (column - 1) % 26);
+    return QString(reinterpret_cast<const QChar *>(first), text.end() - first);
 }
 
 QString rangeText(const CellRange &range)

@@ -1,7 +1,7 @@
 #include "sheets/filesheetengine.h"
 
-#include "sheets/internal/newworkbook.h"
-#include "sheets/internal/openedworkbook.h"
+#include "sheets/internal/emptyworkbook.h"
+#include "sheets/internal/workbook.h"
 
 #include <QFile>
 #include <QSaveFile>
@@ -21,9 +21,11 @@ FileSheetEngine::~FileSheetEngine() = default;
 
 bool FileSheetEngine::createWorkbook()
 {
-    m_path.clear();
-    m_workbook = std::make_unique<NewWorkbook>();
-    return true;
+    quit();
+    const QString failure = QStringLiteral("cannot begin a workbook");
+    QString reason;
+    const QByteArray bytes = emptyWorkbook(reason);
+    return bytes.isEmpty() ? fail(failure + QLatin1String(": ") + reason) : load(bytes, failure);
 }
 
 bool FileSheetEngine::open(const QString &path)
@@ -37,11 +39,20 @@ bool FileSheetEngine::open(const QString &path)
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return fail(QStringLiteral("cannot read %1: %2").arg(path, file.errorString()));
-    auto workbook = std::make_unique<OpenedWorkbook>();
-    if (!workbook->load(bytes) || !workbook->selectSheet(1))
-        return fail(QStringLiteral("cannot open %1: %2").arg(path, workbook->errorText()));
-    m_workbook = std::move(workbook);
+    if (!load(bytes, QStringLiteral("cannot open %1").arg(path)))
+        return false;
     m_path = path;
+    return true;
+}
+
+/// Takes the workbook of a file's bytes and picks its first sheet. `failure` begins the reason when that
+/// fails.
+bool FileSheetEngine::load(const QByteArray &bytes, const QString &failure)
+{
+    auto workbook = std::make_unique<Workbook>();
+    if (!workbook->load(bytes) || !workbook->selectSheet(1))
+        return fail(failure + QLatin1String(": ") + workbook->errorText());
+    m_workbook = std::move(workbook);
     return true;
 }
 

@@ -36,6 +36,7 @@ public:
     void quit() override;
 
 private:
+    bool load(const QByteArray &bytes, const QString &failure);
     bool ended(bool done);
 
     std::unique_ptr<Workbook> m_workbook;

@@ -1,31 +1,51 @@
 #pragma once
 
-#include "sheets/sheetengine.h"
+#include "sheets/internal/relationships.h"
+#include "sheets/internal/sharedstrings.h"
+#include "sheets/internal/stylesheet.h"
+#include "sheets/internal/worksheet.h"
+#include "sheets/internal/zippackage.h"
 
-#include <QByteArray>
+#include <QStringList>
+
+#include <memory>
 
 namespace sheets {
 
-/// The two kinds of workbook of the file engine: one that is begun, one that came from a file. Operations as
-/// in SheetEngine.
+/// The file engine's workbook, from the bytes of a file. Only the sheet that is picked is held as a document;
+/// changes of another one stand in the package. Operations as in SheetEngine.
 class Workbook : public LastError
 {
 public:
-    Workbook() = default;
-    Workbook(const Workbook &) = delete;
-    Workbook &operator=(const Workbook &) = delete;
-    virtual ~Workbook() = default;
+    /// Takes the bytes of a file and finds its sheets. No sheet is picked.
+    bool load(const QByteArray &file);
 
-    virtual bool selectSheet(int index) = 0;
-    [[nodiscard]] virtual UsedRows usedRows() const = 0;
-    [[nodiscard]] virtual QString cellText(CellPlace place) const = 0;
-    virtual bool setCellText(CellPlace place, const QString &text) = 0;
-    virtual bool mergeCells(const CellRange &range) = 0;
-    virtual bool changeFormat(const CellRange &range, const FormatChange &change) = 0;
-    virtual bool setRowHeight(int row, double points) = 0;
+    bool selectSheet(int index);
+    [[nodiscard]] UsedRows usedRows() const;
+    [[nodiscard]] QString cellText(CellPlace place) const;
+    bool setCellText(CellPlace place, const QString &text);
+    bool mergeCells(const CellRange &range);
+    bool changeFormat(const CellRange &range, const FormatChange &change);
+    bool setRowHeight(int row, double points);
 
     /// The bytes of the file that the workbook makes.
-    virtual bool build(QByteArray &file) = 0;
+    bool build(QByteArray &file);
+
+private:
+    bool findSheets(pugi::xml_node workbook);
+    bool loadStrings();
+    bool needStyles();
+    bool storeSheet();
+
+    ZipPackage m_package;
+    Relationships m_relationships; ///< of the workbook's part
+    QByteArray m_nameSpace;        ///< of the workbook's dialect
+    QStringList m_sheetParts;
+    SharedStrings m_strings;
+    std::unique_ptr<StyleSheet> m_styles; ///< once something needs it
+    QString m_stylesPart;
+    std::unique_ptr<Worksheet> m_sheet; ///< the one that is picked
+    QString m_sheetPart;
 };
 
 } // namespace sheets

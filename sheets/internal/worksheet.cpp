@@ -24,6 +24,12 @@ QString shownNumber(const QString &text)
     return isNumber ? numberText(value) : text;
 }
 
+/// True for a text that begins or ends with space, which readers may drop unless they are told to keep it.
+bool hasOuterSpace(const QString &text)
+{
+    return text.front().isSpace() || text.back().isSpace();
+}
+
 } // namespace
 
 bool Worksheet::load(const QByteArray &bytes)
@@ -35,6 +41,7 @@ bool Worksheet::load(const QByteArray &bytes)
     m_data = childNamed(m_part.root(), "sheetData");
     if (!m_data)
         return fail(QStringLiteral("it has no rows"));
+    m_columns = childNamed(m_part.root(), "cols");
     const pugi::xml_node merges = childNamed(m_part.root(), "mergeCells");
     for (pugi::xml_node merge = childNamed(merges, "mergeCell"); merge;
          merge = nextNamed(merge, "mergeCell")) {
@@ -65,15 +72,19 @@ QString Worksheet::cellText(CellPlace place, const SharedStrings &strings) const
 
 bool Worksheet::setCellText(CellPlace place, const QString &text, StyleSheet &styles)
 {
-    if (const pugi::xml_node cell = m_rows.cell(place); cell && !checkFormula(place, cell))
+    pugi::xml_node cell = m_rows.cell(place);
+    if (!cell)
+        cell = addCell(place);
+    else if (checkFormula(place, cell))
+        clearCell(cell);
+    else
         return false;
-    pugi::xml_node cell = makeCell(place);
-    clearCell(cell);
     if (!text.isEmpty()) {
-        attributeOf(cell, "t").set_value("inlineStr");
+        cell.append_attribute("t").set_value("inlineStr");
         pugi::xml_node content =
             cell.append_child(nameLike(cell, "is").c_str()).append_child(nameLike(cell, "t").c_str());
-        content.append_attribute("xml:space").set_value("preserve");
+        if (hasOuterSpace(text))
+            content.append_attribute("xml:space").set_value("preserve");
         content.append_child(pugi::node_pcdata).set_value(escapedCellText(text).toUtf8().constData());
     }
     setLook(cell, {.isText = true, .wrap = {}, .bold = {}, .fontSize = {}}, styles);
@@ -159,8 +170,12 @@ void Worksheet::clearCell(pugi::xml_node cell)
 
 pugi::xml_node Worksheet::makeCell(CellPlace place)
 {
-    if (const pugi::xml_node cell = m_rows.cell(place))
-        return cell;
+    const pugi::xml_node cell = m_rows.cell(place);
+    return cell ? cell : addCell(place);
+}
+
+pugi::xml_node Worksheet::addCell(CellPlace place)
+{
     const int look = lookOfEmptyCell(place);
     pugi::xml_node cell = m_rows.makeCell(place);
     if (look != 0)
@@ -184,7 +199,7 @@ int Worksheet::lookOfEmptyCell(CellPlace place) const
 {
     if (const pugi::xml_node row = m_rows.row(place.row); isOn(row.attribute("customFormat")))
         return row.attribute("s").as_int();
-    for (const pugi::xml_node column : childNamed(m_part.root(), "cols").children()) {
+    for (const pugi::xml_node column : m_columns.children()) {
         if (column.attribute("min").as_int() <= place.column &&
             place.column <= column.attribute("max").as_int())
             return column.attribute("style").as_int();

@@ -34,12 +34,14 @@ private:
     bool checkFormula(CellPlace place, pugi::xml_node cell);
     void clearCell(pugi::xml_node cell);
     pugi::xml_node makeCell(CellPlace place);
+    pugi::xml_node addCell(CellPlace place);
     void setLook(pugi::xml_node cell, const FormatChange &change, StyleSheet &styles);
     [[nodiscard]] int lookOfEmptyCell(CellPlace place) const;
     pugi::xml_node makeMergeList();
 
     XmlPart m_part;
     pugi::xml_node m_data;
+    pugi::xml_node m_columns; ///< the looks of whole columns; null when there are none
     WorksheetRows m_rows;
     QList<CellRange> m_merged;
     bool m_isModified = false;

@@ -79,24 +79,43 @@ std::optional<CellRange> WorksheetRows::usedRange() const
 
 pugi::xml_node WorksheetRows::row(int number) const
 {
-    const auto row = m_rows.find(number);
-    return row == m_rows.end() ? pugi::xml_node() : row->second.node;
+    const Row *row = knownRow(number);
+    return row ? row->node : pugi::xml_node();
 }
 
 pugi::xml_node WorksheetRows::cell(CellPlace place) const
 {
-    const auto row = m_rows.find(place.row);
-    if (row == m_rows.end())
+    const Row *row = knownRow(place.row);
+    if (!row)
         return {};
-    const auto cell = positionOf(row->second.cells, place.column);
-    return cell == row->second.cells.end() || cell->first != place.column ? pugi::xml_node() : cell->second;
+    const auto cell = positionOf(row->cells, place.column);
+    return cell == row->cells.end() || cell->first != place.column ? pugi::xml_node() : cell->second;
+}
+
+const WorksheetRows::Row *WorksheetRows::knownRow(int number) const
+{
+    // Sheets are written from top to bottom, so that it is mostly the last one.
+    if (m_rows.empty() || m_rows.rbegin()->first < number)
+        return nullptr;
+    if (m_rows.rbegin()->first == number)
+        return &m_rows.rbegin()->second;
+    const auto row = m_rows.find(number);
+    return row == m_rows.end() ? nullptr : &row->second;
 }
 
 pugi::xml_node WorksheetRows::makeRow(int number)
 {
-    const auto next = m_rows.lower_bound(number);
+    return madeRow(number).node;
+}
+
+WorksheetRows::Row &WorksheetRows::madeRow(int number)
+{
+    const bool isBelow = m_rows.empty() || m_rows.rbegin()->first < number;
+    if (!isBelow && m_rows.rbegin()->first == number)
+        return m_rows.rbegin()->second;
+    const auto next = isBelow ? m_rows.end() : m_rows.lower_bound(number);
     if (next != m_rows.end() && next->first == number)
-        return next->second.node;
+        return next->second;
     const std::string name = nameLike(m_data, "row");
     pugi::xml_node row = next == m_rows.end() ? m_data.append_child(name.c_str())
                                               : m_data.insert_child_before(name.c_str(), next->second.node);
@@ -104,14 +123,13 @@ pugi::xml_node WorksheetRows::makeRow(int number)
     // A row without a number takes it from the one before, which may be the new one.
     if (next != m_rows.end())
         attributeOf(next->second.node, "r").set_value(next->first);
-    m_rows.emplace_hint(next, number, Row{row, {}});
-    return row;
+    return m_rows.emplace_hint(next, number, Row{row, {}})->second;
 }
 
 pugi::xml_node WorksheetRows::makeCell(CellPlace place)
 {
-    pugi::xml_node node = makeRow(place.row);
-    Row &row = m_rows.find(place.row)->second;
+    Row &row = madeRow(place.row);
+    pugi::xml_node node = row.node;
     const auto next = positionOf(row.cells, place.column);
     if (next != row.cells.end() && next->first == place.column)
         return next->second;

@@ -58,6 +58,8 @@ private:
     };
 
     bool loadRow(int number, pugi::xml_node node);
+    [[nodiscard]] const Row *knownRow(int number) const;
+    Row &madeRow(int number);
 
     pugi::xml_node m_data;
     std::map<int, Row> m_rows; ///< by number

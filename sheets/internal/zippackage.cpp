@@ -19,7 +19,7 @@ constexpr zip_uint64_t maximumRatio = 250;
 constexpr zip_uint64_t sizeWithoutRatio = 8ULL * 1024 * 1024;
 
 // Sheets repeat themselves so much that a higher level costs time and gains little.
-constexpr zip_uint32_t deflateLevel = 3;
+constexpr zip_uint32_t deflateLevel = 1;
 
 /// Opens an archive on the source, and takes the caller's reference to it. Null on failure, with the reason.
 zip_t *openArchive(zip_source_t *source, QString &reason)

@@ -57,7 +57,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("row");
         QTest::addColumn<int>("column");
         QTest::addColumn<QByteArray>("rows");
-        const QByteArray text = "t=\"inlineStr\"><is><t xml:space=\"preserve\">n&lt;w</t></is></c>";
+        const QByteArray text = "t=\"inlineStr\"><is><t>n&lt;w</t></is></c>";
         const QByteArray plainText =
             QByteArray(text).insert(text.indexOf('>'), " s=\"3\""); // had no look before
         QTest::newRow("over a number") << 2 << 2

@@ -1,4 +1,4 @@
-#include "sheets/internal/openedworkbook.h"
+#include "sheets/internal/workbook.h"
 
 #include "sheets/internal/xmlnames.h"
 
@@ -19,7 +19,7 @@ QString prefixedAttribute(pugi::xml_node node, std::string_view name)
 
 } // namespace
 
-bool OpenedWorkbook::load(const QByteArray &file)
+bool Workbook::load(const QByteArray &file)
 {
     if (!m_package.load(file))
         return fail(m_package.errorText());
@@ -40,7 +40,7 @@ bool OpenedWorkbook::load(const QByteArray &file)
     return findSheets(workbook.root()) && loadStrings();
 }
 
-bool OpenedWorkbook::findSheets(pugi::xml_node workbook)
+bool Workbook::findSheets(pugi::xml_node workbook)
 {
     const std::string declared = nameLike(workbook, "");
     const std::string attribute =
@@ -55,7 +55,7 @@ bool OpenedWorkbook::findSheets(pugi::xml_node workbook)
     return true;
 }
 
-bool OpenedWorkbook::loadStrings()
+bool Workbook::loadStrings()
 {
     const auto part = m_relationships.partOfType(QLatin1String("sharedStrings"));
     if (!part)
@@ -66,7 +66,7 @@ bool OpenedWorkbook::loadStrings()
     return m_strings.load(bytes) || fail(QStringLiteral("part %1: %2").arg(*part, m_strings.errorText()));
 }
 
-bool OpenedWorkbook::selectSheet(int index)
+bool Workbook::selectSheet(int index)
 {
     if (index < 1 || index > m_sheetParts.size())
         return fail(QStringLiteral("there is no sheet %1").arg(index));
@@ -86,27 +86,27 @@ bool OpenedWorkbook::selectSheet(int index)
     return true;
 }
 
-UsedRows OpenedWorkbook::usedRows() const
+UsedRows Workbook::usedRows() const
 {
     return m_sheet->usedRows();
 }
 
-QString OpenedWorkbook::cellText(CellPlace place) const
+QString Workbook::cellText(CellPlace place) const
 {
     return m_sheet->cellText(place, m_strings);
 }
 
-bool OpenedWorkbook::setCellText(CellPlace place, const QString &text)
+bool Workbook::setCellText(CellPlace place, const QString &text)
 {
     return needStyles() && (m_sheet->setCellText(place, text, *m_styles) || fail(m_sheet->errorText()));
 }
 
-bool OpenedWorkbook::mergeCells(const CellRange &range)
+bool Workbook::mergeCells(const CellRange &range)
 {
     return m_sheet->mergeCells(range) || fail(m_sheet->errorText());
 }
 
-bool OpenedWorkbook::changeFormat(const CellRange &range, const FormatChange &change)
+bool Workbook::changeFormat(const CellRange &range, const FormatChange &change)
 {
     if (!needStyles())
         return false;
@@ -114,13 +114,13 @@ bool OpenedWorkbook::changeFormat(const CellRange &range, const FormatChange &ch
     return true;
 }
 
-bool OpenedWorkbook::setRowHeight(int row, double points)
+bool Workbook::setRowHeight(int row, double points)
 {
     m_sheet->setRowHeight(row, points);
     return true;
 }
 
-bool OpenedWorkbook::build(QByteArray &file)
+bool Workbook::build(QByteArray &file)
 {
     if (!storeSheet())
         return false;
@@ -130,7 +130,7 @@ bool OpenedWorkbook::build(QByteArray &file)
 }
 
 /// Reads the style sheet, or begins one in a workbook that has none.
-bool OpenedWorkbook::needStyles()
+bool Workbook::needStyles()
 {
     if (m_styles)
         return true;
@@ -155,7 +155,7 @@ bool OpenedWorkbook::needStyles()
 }
 
 /// Puts the sheet that is picked into the package.
-bool OpenedWorkbook::storeSheet()
+bool Workbook::storeSheet()
 {
     if (!m_sheet || !m_sheet->isModified())
         return true;
