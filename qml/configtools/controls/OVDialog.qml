@@ -24,7 +24,10 @@ T.Popup {
     // While it goes a dialog takes no answer: a second click is not a second answer.
     property bool leaving: false
     onAboutToHide: leaving = true
-    onAboutToShow: leaving = false
+    onAboutToShow: {
+        leaving = false;
+        body.focus = true;  // not the button that answered the last time
+    }
 
     function accept() {
         if (okEnabled && !leaving && !busy)

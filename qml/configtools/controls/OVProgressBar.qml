@@ -11,6 +11,9 @@ T.ProgressBar {
     implicitWidth: 220
     implicitHeight: 6
 
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: indeterminate ? "" : Math.round(100 * position) + "%"
+
     background: Rectangle {
         color: Theme.colours.pressed
         radius: height / 2

@@ -1,0 +1,96 @@
+// Boxes over the window, answered from the keyboard.
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+namespace {
+
+const char *const scene = "import QtQuick\n"
+                          "import QtQuick.Templates as T\n"
+                          "import configtools\n"
+                          "T.ApplicationWindow {\n"
+                          "    width: 1280; height: 720; visible: true\n"
+                          "    OVMessageBox { objectName: 'question' }\n"
+                          "}\n";
+
+} // namespace
+
+class TestDialogs : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+        m_engine.addImportPath("qrc:/qt/qml");
+        QQmlComponent component(&m_engine);
+        component.setData(scene, QUrl("qrc:/test.qml"));
+        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(m_window, qPrintable(component.errorString()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_box = m_window->findChild<QObject *>("question");
+    }
+
+    void enterAnswers_data()
+    {
+        QTest::addColumn<int>("kind"); // OVMessageBox's
+        QTest::addColumn<bool>("isYes");
+        QTest::newRow("a question: yes") << 2 << true;
+        QTest::newRow("a dangerous question: no") << 3 << false;
+    }
+
+    void enterAnswers()
+    {
+        QFETCH(const int, kind);
+        QFETCH(const bool, isYes);
+        const QSignalSpy accepted(m_box, SIGNAL(accepted()));
+        const QSignalSpy rejected(m_box, SIGNAL(rejected()));
+        show(kind);
+        QTest::keyClick(m_window.get(), Qt::Key_Return);
+        QTRY_VERIFY(!m_box->property("visible").toBool());
+        QCOMPARE(accepted.count(), isYes ? 1 : 0);
+        QCOMPARE(rejected.count(), isYes ? 0 : 1);
+    }
+
+    /// The button that had the focus when a box went does not have it when the box comes back.
+    void aBoxThatComesBackIsAnsweredAnew()
+    {
+        show(2);
+        const QString cancel = QStringLiteral("cancelButton");
+        for (int i = 0; i < 5 && focused() != cancel; ++i)
+            QTest::keyClick(m_window.get(), Qt::Key_Tab);
+        QCOMPARE(focused(), cancel);
+        QTest::keyClick(m_window.get(), Qt::Key_Escape);
+        QTRY_VERIFY(!m_box->property("visible").toBool());
+        const QSignalSpy accepted(m_box, SIGNAL(accepted()));
+        show(2);
+        QTest::keyClick(m_window.get(), Qt::Key_Return);
+        QTRY_COMPARE(accepted.count(), 1);
+        QTRY_VERIFY(!m_box->property("visible").toBool());
+    }
+
+private:
+    void show(int kind)
+    {
+        QMetaObject::invokeMethod(m_box, "show", Q_ARG(QVariant, "?"), Q_ARG(QVariant, kind));
+        QTRY_VERIFY(m_box->property("opened").toBool());
+    }
+
+    [[nodiscard]] QString focused() const
+    {
+        return m_window->activeFocusItem() ? m_window->activeFocusItem()->objectName() : QString();
+    }
+
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QObject *m_box = nullptr;
+};
+
+QTEST_MAIN(TestDialogs)
+#include "tst_dialogs.moc"
