@@ -105,14 +105,24 @@ public:
             return;
         auto *news = static_cast<News *>(user);
         const std::scoped_lock lock(news->m_mutex);
-        if (!news->hasEnded()) // what comes late does not undo it
-            news->m_last = *progress;
+        if (news->hasEnded()) // what comes late does not undo it
+            return;
+        news->m_last = *progress;
+        if (!news->hasEnded())
+            news->m_onWay = *progress;
     }
 
     [[nodiscard]] sdk::UpgradeProgress last() const
     {
         const std::scoped_lock lock(m_mutex);
         return m_last;
+    }
+
+    /// The last that was no end: an end does not say how far the device was.
+    [[nodiscard]] sdk::UpgradeProgress lastOnWay() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_onWay;
     }
 
 private:
@@ -122,8 +132,9 @@ private:
     }
 
     mutable std::mutex m_mutex;
-    sdk::UpgradeProgress m_last = {
+    sdk::UpgradeProgress m_onWay = {
         .size = sizeof(sdk::UpgradeProgress), .phase = sdk::UpgradePhase::Sending, .percent = 0, .error = 0};
+    sdk::UpgradeProgress m_last = m_onWay;
 };
 
 UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits,
@@ -191,23 +202,21 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, c
             tell(UpgradeTools::Restarting, restartingFrom);
             return m_state;
         }
-        if (now.phase == sdk::UpgradePhase::Failed)
+        if (now.phase == sdk::UpgradePhase::Failed) {
+            tellOnWay(news.lastOnWay());
             return ended(resultOfError(now.error));
+        }
         if (now.phase != seen.phase || now.percent != seen.percent)
             lastChange = clock.now();
         seen = now;
-        const bool isWriting = now.phase == sdk::UpgradePhase::Writing;
-        const int percent = std::clamp(now.percent, 0, 100);
         if (m_stopAsked && !m_stopRefused) {
             if (m_libraries.net->NetStopUpgrade(upgradeHandle))
                 return ended(UpgradeTools::Stopped);
             m_stopRefused = true;
         }
-        tell(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
-             isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
-                       : percent * writingFrom / 100,
-             m_stopRefused ? UpgradeTexts::cannotStop() : QString());
-        const auto longest = isWriting ? m_limits.writingStandsStill : m_limits.sendingStandsStill;
+        tellOnWay(now);
+        const auto longest = now.phase == sdk::UpgradePhase::Writing ? m_limits.writingStandsStill
+                                                                     : m_limits.sendingStandsStill;
         if (clock.now() - lastChange > longest.count() || clock.now() - start > m_limits.whole.count())
             return ended(UpgradeTools::Stuck);
     }
@@ -275,6 +284,16 @@ void UpgradeWork::tell(UpgradeTools::Result result, int percent, const QString &
     m_state.percent = percent;
     m_state.text = text;
     m_tell(m_state);
+}
+
+void UpgradeWork::tellOnWay(const sdk::UpgradeProgress &progress)
+{
+    const bool isWriting = progress.phase == sdk::UpgradePhase::Writing;
+    const int percent = std::clamp(progress.percent, 0, 100);
+    tell(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
+         isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
+                   : percent * writingFrom / 100,
+         m_stopRefused ? UpgradeTexts::cannotStop() : QString());
 }
 
 UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const

@@ -4,6 +4,7 @@
 #include "device/dh/firmwarefile.h"
 #include "device/loginresult.h"
 #include "sdk/sdklibraries.h"
+#include "sdk/upgradeblocks.h"
 
 #include <atomic>
 #include <chrono>
@@ -71,6 +72,7 @@ private:
     [[nodiscard]] bool isNew(const FirmwareFile &file, const QString &version) const;
     [[nodiscard]] Identity identity(std::int64_t loginHandle) const;
     void tell(UpgradeTools::Result result, int percent, const QString &remark = QString());
+    void tellOnWay(const sdk::UpgradeProgress &progress);
     [[nodiscard]] UpgradeState ended(UpgradeTools::Result result) const;
 
     const sdk::SdkLibraries &m_libraries;

@@ -79,9 +79,9 @@ private Q_SLOTS:
                             const QString &text, bool canTryAgain) {
             QTest::newRow(title) << fault << result << text << canTryAgain;
         };
-        row("fails", {Fault::UpgradeFailsAt, 50}, UpgradeTools::Failed, u"设备中断了升级（"_s, true);
-        row("fails in the writing", {Fault::UpgradeFailsAt, 100}, UpgradeTools::Failed, u"设备中断了升级（"_s,
-            true);
+        row("fails", {Fault::UpgradeFailsAt, 50}, UpgradeTools::Failed, u"设备中断了升级（34%）"_s, true);
+        row("fails in the writing", {Fault::UpgradeFailsAt, 100}, UpgradeTools::Failed,
+            u"设备中断了升级（70%）"_s, true);
         row("hangs", {Fault::UpgradeHangsAt, 30}, UpgradeTools::Stuck, u"升级长时间没有进展（20%）"_s, true);
         row("hangs in the writing", {Fault::UpgradeHangsAt, 100}, UpgradeTools::Stuck,
             u"升级长时间没有进展（70%）"_s, true);
