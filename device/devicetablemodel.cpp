@@ -4,6 +4,7 @@
 #include "device/devicefilter.h"
 #include "device/deviceorder.h"
 #include "device/devicerow.h"
+#include "device/upgradetools.h"
 
 #include <QHash>
 
@@ -327,12 +328,17 @@ void DeviceTableModel::setAllChecked(bool checked)
 
 void DeviceTableModel::countChecked()
 {
-    m_checkedCount =
-        checkedIdentities().isEmpty()
-            ? 0
-            : static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(), [this](const Row &row) {
-                  return checkedIdentities().contains(row.identity);
-              }));
+    m_checkedCount = 0;
+    m_checkedUpgradingCount = 0;
+    if (!checkedIdentities().isEmpty()) {
+        for (const Row &row : std::as_const(m_rows)) {
+            if (!checkedIdentities().contains(row.identity))
+                continue;
+            ++m_checkedCount;
+            const int upgrade = valueOf(row.values, DeviceRowKey::upgraderes).toInt();
+            m_checkedUpgradingCount += UpgradeTools::isRunning(upgrade) ? 1 : 0;
+        }
+    }
     Q_EMIT checkedCountChanged();
 }
 

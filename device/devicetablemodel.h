@@ -34,6 +34,7 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
     Q_PROPERTY(int totalCount READ totalCount NOTIFY countChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
+    Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedCountChanged)
     Q_PROPERTY(int conflictCount READ conflictCount NOTIFY countChanged)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedCountChanged)
 public:
@@ -59,6 +60,10 @@ public:
 
     [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
     [[nodiscard]] int checkedCount() const { return m_checkedCount; }
+    [[nodiscard]] int checkedUpgradingCount() const
+    {
+        return m_checkedUpgradingCount;
+    }                                                                   ///< of them, at refresh
     [[nodiscard]] int conflictCount() const { return m_conflictCount; } ///< shown rows in conflict
     [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
 
@@ -137,5 +142,6 @@ private:
     QSet<QString> m_checkedIPv6;
     int m_totalCount = 0;
     int m_checkedCount = 0;
+    int m_checkedUpgradingCount = 0;
     int m_conflictCount = 0;
 };

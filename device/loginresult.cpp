@@ -44,6 +44,8 @@ QString ResultNames::of(int code)
         return tr("设备不支持此操作");
     case resultCode(LoginResult::AlreadyListed):
         return tr("设备已存在");
+    case resultCode(LoginResult::Upgrading):
+        return tr("设备正在升级");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
     case refusedByDevice:

@@ -19,6 +19,7 @@ enum class LoginResult : int
     NotInitialised = 7,
     NotSupported = 12, ///< the one failure that the add-device dialog says nothing about
     AlreadyListed = 13,
+    Upgrading = 14, ///< nothing was asked: the device's firmware is being upgraded
 };
 
 /// The result for a failed operation of the network library, whose last error is `libraryError`, with or

@@ -2,6 +2,7 @@
 
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
+#include "device/upgradetools.h"
 
 #include <QJsonObject>
 
@@ -239,6 +240,8 @@ OVTreeModel::Device OVTreeModel::deviceOf(const QJsonObject &row) const
     const QString name = row.value(DeviceRowKey::name).toString();
     const QString model = row.value(DeviceRowKey::model).toString();
     device.detail = name.isEmpty() || model.isEmpty() ? name + model : name + QStringLiteral(" · ") + model;
+    device.isUpgrading =
+        UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None));
     return device;
 }
 
@@ -257,6 +260,15 @@ int OVTreeModel::checkedCount() const
 {
     return std::accumulate(m_groups.cbegin(), m_groups.cend(), 0,
                            [](int sum, const Group &group) { return sum + group.checkedCount; });
+}
+
+int OVTreeModel::checkedUpgradingCount() const
+{
+    return std::accumulate(m_groups.cbegin(), m_groups.cend(), 0, [](int sum, const Group &group) {
+        return sum + static_cast<int>(std::count_if(
+                         group.devices.cbegin(), group.devices.cend(),
+                         [](const Device &device) { return device.checked && device.isUpgrading; }));
+    });
 }
 
 int OVTreeModel::deviceCount() const

@@ -22,6 +22,7 @@ class OVTreeModel : public QAbstractItemModel
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(QStringList checkedDevices READ checkedDevices NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedDevicesChanged)
 public:
@@ -64,6 +65,7 @@ public:
     /// "ipport" of the ticked devices, in the order of the tree.
     [[nodiscard]] QStringList checkedDevices() const;
     [[nodiscard]] int checkedCount() const;
+    [[nodiscard]] int checkedUpgradingCount() const; ///< of the ticked ones, as of the last rebuild
     [[nodiscard]] int deviceCount() const;
 
     /// The tick of the whole tree, as that of a group.
@@ -88,6 +90,7 @@ private:
         bool checked = false;
         int copyRet = NoResult;
         QString detail = {}; ///< name and model, the tool tip of the device
+        bool isUpgrading = false;
     };
     struct Group
     {

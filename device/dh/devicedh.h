@@ -64,7 +64,8 @@ public:
     QVariantMap getDeviceInfo(const QString &ipport) override;
     QVariantMap getDeviceDetail(const QString &mac) override;
     QVariantMap getDeviceDetailByAddress(const QString &ipport) override;
-    /// `mac` is an address and port when `ipvision` is "IPV6", whose rows have no MAC.
+    /// `mac` is an address and port when `ipvision` is "IPV6", whose rows have no MAC. A row whose device is
+    /// being upgraded stays.
     void setDeleteDevice(const QString &mac, const QString &ipvision) override;
     /// The keys of `macs` name the rows, as `mac` does in setDeleteDevice().
     void setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion) override;
@@ -76,6 +77,7 @@ public:
 
     // Requests to devices that a search has found: devicedhrequests.cpp
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;
+    /// A device that is being upgraded is not asked; "res" says so.
     void modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                   const QString &newgateway, bool dhcpON) override;
 
@@ -97,7 +99,8 @@ public:
     // System configuration: devicedhsystem.cpp
     /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
     /// when it refuses, also for an unknown command and for data that make no sense. `loginCheck` keeps
-    /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`.
+    /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`. A device that is being
+    /// upgraded is not rebooted or reset and keeps its password: LoginResult::Upgrading.
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
 
     // The configuration pages, of the current session's device: devicedhencode.cpp
@@ -170,6 +173,10 @@ private:
     [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line) const;
     void noteUpgrade(const UpgradeOrder &order, const UpgradeState &state);
     void noteUpgradeDocuments();
+    [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
+    /// Says once, however often it is called before, that rows have begun or ended to be upgraded. On any
+    /// thread.
+    void noteHeldRows();
     void noteUpgradeRoundEnd();
     [[nodiscard]] QVariantList sessionChannels() const;
     [[nodiscard]] QVariantList sessionConnections() const;
@@ -202,6 +209,7 @@ private:
     std::unique_ptr<CameraConfig> m_camera;
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
     UpgradeDocuments m_upgradeDocuments;
+    std::atomic<bool> m_heldRowsNoted = false;
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
     QString m_defaultAccount;
     QString m_defaultPassword;

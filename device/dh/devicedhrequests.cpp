@@ -2,6 +2,7 @@
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "device/dh/upgraderunner.h"
 #include "device/loginresult.h"
 #include "sdk/blocktext.h"
 #include "sdk/netlibrary.h"
@@ -40,6 +41,11 @@ void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const
 void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                          const QString &newgateway, bool dhcpON)
 {
+    if (m_upgrades->isUpgrading(mac)) {
+        store().changeRow(
+            mac, [](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(LoginResult::Upgrading)); });
+        return;
+    }
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;
     if (record && m_libraries.net) {

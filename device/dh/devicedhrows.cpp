@@ -3,6 +3,7 @@
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
 #include "device/dh/rowlogin.h"
+#include "device/dh/upgraderunner.h"
 
 int CDeviceDH::getLoginDevice(const QString &address, const QString &account, const QString &password,
                               const QString &port, int loginType, const QString &devicePort)
@@ -69,8 +70,11 @@ void CDeviceDH::setDeleteDevice(const QString &mac, const QString &ipvision)
 
 void CDeviceDH::setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion)
 {
-    const QStringList names = macs.keys();
-    const QSet<QString> deleted(names.cbegin(), names.cend());
+    QSet<QString> deleted;
+    for (const QString &name : macs.keys()) {
+        if (!m_upgrades->isUpgrading(name))
+            deleted.insert(name);
+    }
     if (ipversion == QLatin1String("IPV6"))
         store().removeIPv6Rows(deleted);
     else

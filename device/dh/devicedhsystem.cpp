@@ -33,6 +33,12 @@ bool changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString 
     return fits && !newPassword.isEmpty() && net.NetModifyPassword(login.loginHandle, input, passwordWait);
 }
 
+/// Whether the command would spoil the firmware that a device is writing.
+bool spoilsUpgrade(const QString &command)
+{
+    return command == QLatin1String("rebootDevice") || command == QLatin1String("resetSystem");
+}
+
 } // namespace
 
 void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
@@ -54,8 +60,11 @@ void CDeviceDH::performOn(const QStringList &ipports, const QString &command, co
     if (!action)
         qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
     for (const QString &ipport : ipports) {
-        // What no device could accept is not sent to any.
-        const int result = action ? performOn(ipport, *action) : refusedByDevice;
+        int result = refusedByDevice;
+        if (spoilsUpgrade(command) && isUpgradingAt(ipport))
+            result = resultCode(LoginResult::Upgrading);
+        else if (action) // what no device could accept is not sent to any
+            result = performOn(ipport, *action);
         Q_EMIT signalCDeviceRetToSystemConfig(ipport, result);
     }
 }
@@ -98,6 +107,10 @@ void CDeviceDH::modifyPasswords(const QStringList &ipports, const QString &newPa
         KeptLogin *login = m_keptLogins.find(ipport);
         if (!login)
             continue;
+        if (isUpgradingAt(ipport)) { // it is logged in to again when it comes back
+            Q_EMIT signalCDeviceRetToSystemConfig(ipport, resultCode(LoginResult::Upgrading));
+            continue;
+        }
         const bool isChanged = changePassword(*m_libraries.net, *login, newPassword);
         if (isChanged) {
             login->password = newPassword;

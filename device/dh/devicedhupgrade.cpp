@@ -42,11 +42,30 @@ void CDeviceDH::startUpgrade(const QStringList &macs)
         else
             m_upgrades->start(upgradeOrder(row));
     }
+    noteHeldRows();
 }
 
 void CDeviceDH::stopUpgrade(const QString &mac)
 {
     m_upgrades->stop(mac);
+}
+
+bool CDeviceDH::isUpgradingAt(const QString &ipport) const
+{
+    return m_upgrades->isUpgrading(ipport) ||
+           m_upgrades->isUpgrading(store().rowAt(ipport).value(DeviceRowKey::mac).toString());
+}
+
+void CDeviceDH::noteHeldRows()
+{
+    if (!m_heldRowsNoted.exchange(true))
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_heldRowsNoted = false;
+                Q_EMIT signalCDeviceAddSingleDeviceToTable();
+            },
+            Qt::QueuedConnection);
 }
 
 bool CDeviceDH::hasDeviceUpgrading()
@@ -133,6 +152,7 @@ void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
         }
     }
     noteUpgradeDocuments();
+    noteHeldRows();
     if (!hasDeviceUpgrading()) // no line could be upgraded
         QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeRoundEnd, Qt::QueuedConnection);
 }
@@ -152,6 +172,8 @@ void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state
             row.insert(DeviceRowKey::vision, versionText(state.version));
     });
     Q_EMIT signalCDeviceUpdateSchedule(m_upgrades->percent());
+    if (!UpgradeTools::isRunning(state.result))
+        noteHeldRows();
     if (!m_upgradeDocuments.isFollowed(order.key))
         return;
     m_upgradeDocuments.note(order.key, state.result, state.percent, state.text);

@@ -5,6 +5,7 @@
 #include "device/devicefactory.h"
 #include "device/devicefilter.h"
 #include "device/devicerow.h"
+#include "device/upgradetools.h"
 #include "tests/device/searchanswers.h"
 
 class RowsBackEnd : public CDeviceBase
@@ -29,6 +30,14 @@ public:
             ipv4.append(ipv4Row(answer));
         else
             ipv6.append(ipv6Row(answer));
+    }
+
+    /// Writes how far the upgrade of an IPv4 row is.
+    void setUpgrade(qsizetype place, UpgradeTools::Result result)
+    {
+        QJsonObject row = ipv4.at(place).toJsonObject();
+        row.insert(DeviceRowKey::upgraderes, result);
+        ipv4[place] = row;
     }
 
     QVariantList ipv4;

@@ -167,6 +167,22 @@ private Q_SLOTS:
         QCOMPARE(m_model->checkedCount(), 0);
     }
 
+    void countsTickedRowsThatAreUpgraded()
+    {
+        m_site->rows->setUpgrade(0, UpgradeTools::Waiting);
+        m_site->rows->setUpgrade(1, UpgradeTools::Writing);
+        m_site->rows->setUpgrade(2, UpgradeTools::Stuck);
+        m_model->refresh();
+        QCOMPARE(m_model->checkedUpgradingCount(), 0);
+        m_model->setAllChecked(true);
+        QCOMPARE(m_model->checkedUpgradingCount(), 2);
+        m_model->setChecked(1, false);
+        QCOMPARE(m_model->checkedUpgradingCount(), 1);
+        m_site->rows->setUpgrade(0, UpgradeTools::Success);
+        m_model->refresh();
+        QCOMPARE(m_model->checkedUpgradingCount(), 0);
+    }
+
     void aGrowingListKeepsItsRows()
     {
         QSignalSpy reset(m_model.get(), &QAbstractItemModel::modelReset);

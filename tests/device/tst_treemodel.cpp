@@ -124,6 +124,18 @@ private Q_SLOTS:
                  int(OVTreeModel::NoResult));
     }
 
+    void countsTickedDevicesThatAreUpgraded()
+    {
+        m_site->rows->setUpgrade(0, UpgradeTools::Sending);
+        m_model->resetItems("nofilter", "");
+        QCOMPARE(m_model->checkedUpgradingCount(), 0);
+        m_model->setAllChecked(true);
+        QCOMPARE(m_model->checkedUpgradingCount(), 1);
+        m_site->rows->setUpgrade(0, UpgradeTools::Success);
+        m_model->resetItems("nofilter", "");
+        QCOMPARE(m_model->checkedUpgradingCount(), 0);
+    }
+
     void theWholeTreeIsTicked()
     {
         m_model->setAllChecked(true);

@@ -8,6 +8,7 @@ OVTableCell {
 
     property bool editable: true
     readonly property bool initialised: row?.state ?? true
+    readonly property bool upgrading: UpgradeTools.isRunning(row?.upgraderes ?? UpgradeTools.None)
     signal editRequested(int row)
     signal detailRequested(int row)
     signal webRequested(int row)
@@ -18,11 +19,11 @@ OVTableCell {
         spacing: Theme.controlGap
 
         OVLinkButton {
-            enabled: root.editable
+            enabled: root.editable && !root.upgrading
             focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
             objectName: "edit" + root.rowIndex
             text: qsTr("编辑")
-            toolTip: qsTr("修改这台设备的IP地址")
+            toolTip: root.upgrading ? qsTr("设备正在升级，不能修改IP地址") : qsTr("修改这台设备的IP地址")
             onClicked: root.editRequested(root.rowIndex)
         }
         OVLinkButton {

@@ -34,7 +34,11 @@ Item {
     }
 
     function modifyRow(row) {
-        askForAddresses([deviceTable.get(row)], false);
+        const values = deviceTable.get(row);
+        if (UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None))
+            said(qsTr("设备正在升级，不能修改IP地址"), OVToast.Error);
+        else
+            askForAddresses([values], false);
     }
 
     function askForAddresses(rows, isBatch) {

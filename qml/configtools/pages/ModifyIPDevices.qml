@@ -64,6 +64,9 @@ Item {
             names[deviceTable.ipv6 ? row.ipport : row.identity] = true;
         deviceFactory.setBatchDeleteDevice("dh", names, deviceTable.ipv6 ? "IPV6" : "IPV4");
         deviceTable.refresh();
+        const kept = Object.keys(names).filter(name => deviceTable.rowOf(name) >= 0).length;
+        if (kept > 0)
+            said(qsTr("%n 台设备正在升级，没有删除", "", kept), OVToast.Error);
     }
 
     visible: false

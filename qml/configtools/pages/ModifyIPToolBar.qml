@@ -9,6 +9,7 @@ RowLayout {
     required property bool showInitialised
     required property bool showUninitialised
     required property bool ipv6
+    required property int upgradingCount  // of the ticked devices
     property alias searchText: searchField.text
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
@@ -40,10 +41,11 @@ RowLayout {
             onClicked: root.initialiseRequested()
         }
         OVButton {
-            enabled: !root.ipv6
+            enabled: !root.ipv6 && root.upgradingCount === 0
             objectName: "batchModifyButton"
             text: qsTr("批量修改IP")
-            toolTip: qsTr("为勾选的设备依次分配地址")
+            toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能修改IP地址", "", root.upgradingCount)
+                : qsTr("为勾选的设备依次分配地址")
             onClicked: root.modifyRequested()
         }
         OVButton {
@@ -96,10 +98,12 @@ RowLayout {
             // qmllint enable unqualified
         }
         OVButton {
+            enabled: root.upgradingCount === 0
             kind: OVButton.Danger
             objectName: "deleteButton"
             text: qsTr("删除")
-            toolTip: qsTr("把勾选的设备从列表中删除")
+            toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能删除", "", root.upgradingCount)
+                : qsTr("把勾选的设备从列表中删除")
             onClicked: root.deleteRequested()
         }
     }

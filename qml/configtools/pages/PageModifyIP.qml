@@ -102,6 +102,7 @@ FocusScope {
         ipv6: devices.ipv6
         showInitialised: devices.showInitialised
         showUninitialised: devices.showUninitialised
+        upgradingCount: devices.checkedUpgradingCount
         onAddFavouriteRequested: adding.openFavourites()
         onAddIpRequested: adding.openIp()
         onAddP2pRequested: adding.openP2p()

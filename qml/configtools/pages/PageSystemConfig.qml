@@ -178,6 +178,7 @@ FocusScope {
         held: batch.running
         secondsLeft: page.secondsLeft
         timeZone: page.timeZone
+        upgradingCount: devices.checkedUpgradingCount
         waitingCount: page.passwordDevices.length
         onActionRequested: (command, title, dataOf) => page.runOnTicked(command, title, dataOf)
         onPasswordChangeRequested: password => page.run("modifyPassword", qsTr("修改密码"), page.passwordDevices,

@@ -1,4 +1,5 @@
 // Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
+#include "device/loginresult.h"
 #include "tests/device/dh/upgradesite.h"
 
 using namespace std::chrono_literals;
@@ -222,11 +223,42 @@ private Q_SLOTS:
         QCOMPARE(test.site->requests().all().last().operation, u"NetCleanup"_s);
     }
 
+    void nothingDisturbsADeviceThatIsUpgraded()
+    {
+        const UpgradeSite test(2);
+        QSignalSpy changed(test.factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        test.start({0}, test.file());
+        QTRY_COMPARE(changed.size(), 1); // the pages hold the row back
+        test.factory->setBatchDeleteDevice(test.family, {{test.mac(0), true}, {test.mac(1), true}},
+                                           u"IPV4"_s);
+        QVERIFY(!test.store->row(test.mac(0)).isEmpty());
+        QVERIFY(test.store->row(test.mac(1)).isEmpty());
+        changed.clear();
+
+        const auto refusal = resultCode(LoginResult::Upgrading);
+        test.factory->modifyIP(test.family, test.mac(0), u"192.168.1.99"_s, u"255.255.255.0"_s,
+                               u"192.168.1.1"_s, false);
+        QCOMPARE(test.value(0, DeviceRowKey::res).toInt(), refusal);
+        QCOMPARE(test.value(0, DeviceRowKey::ipport).toString(), test.ipport(0));
+        QSignalSpy results(test.factory.get(), &CDeviceFactory::signalRetToSystemConfig);
+        for (const QString &command : {u"rebootDevice"_s, u"resetSystem"_s})
+            test.factory->systemConfig(test.family, command, {}, {test.ipport(0)});
+        QCOMPARE(results, QList<QVariantList>({{test.ipport(0), refusal}, {test.ipport(0), refusal}}));
+        for (const char *operation : {"NetModifyDeviceBySearch", "NetRebootDevice", "NetResetSystem"})
+            QVERIFY(test.site->requests().of(operation).isEmpty());
+
+        QVERIFY(test.passUntilEnd());
+        QTRY_COMPARE(changed.size(), 1); // and let it go
+        QCOMPARE(test.result(0), UpgradeTools::Success);
+        test.factory->setDeleteDevice(test.family, test.mac(0), u"IPV4"_s);
+        QVERIFY(test.store->row(test.mac(0)).isEmpty());
+    }
+
     void devicesThatLeaveTheTable()
     {
         const UpgradeSite test(1);
         test.start({0}, test.file());
-        test.factory->setDeleteDevice(test.family, test.mac(0), u"IPV4"_s);
+        test.store->removeRows({test.mac(0)}); // as a search does
         test.factory->startUpgrade(test.family, {test.mac(0), u"nobody"_s});
         QVERIFY(test.passUntilEnd());
         QVERIFY(test.store->row(test.mac(0)).isEmpty());

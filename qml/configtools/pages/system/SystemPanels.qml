@@ -7,6 +7,7 @@ Rectangle {
     id: root
 
     required property bool available
+    required property int upgradingCount  // of the ticked devices
     required property bool held  // an action runs
     required property string timeZone
     required property var deviceFactory
@@ -87,6 +88,7 @@ Rectangle {
                 width: stack.width
                 available: root.available
                 onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                upgradingCount: root.upgradingCount
                 onRebootRequested: root.rebootRequested()
                 onRefused: message => root.refused(message)
                 visible: root.currentPanel === 2
@@ -94,6 +96,7 @@ Rectangle {
             SystemResetPanel {
                 width: stack.width
                 available: root.available
+                upgradingCount: root.upgradingCount
                 onResetRequested: root.resetRequested()
                 visible: root.currentPanel === 3
             }

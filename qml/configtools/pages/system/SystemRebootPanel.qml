@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property int upgradingCount  // of the ticked devices
     signal actionRequested(string command, string title, var dataOf)
     signal rebootRequested
     signal refused(string message)
@@ -83,11 +84,12 @@ Column {
         }
         OVActionRow {
             OVButton {
-                enabled: root.available
+                enabled: root.available && root.upgradingCount === 0
                 kind: OVButton.Danger
                 objectName: "rebootButton"
                 text: qsTr("重启设备")
-                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能重启", "", root.upgradingCount)
+                    : root.available ? "" : qsTr("请先在左侧勾选设备")
                 onClicked: root.rebootRequested()
             }
         }

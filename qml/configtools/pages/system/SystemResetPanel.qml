@@ -6,6 +6,7 @@ OVSection {
     id: root
 
     required property bool available
+    required property int upgradingCount  // of the ticked devices
     signal resetRequested
 
     title: qsTr("恢复出厂设置")
@@ -18,11 +19,12 @@ OVSection {
     }
     OVActionRow {
         OVButton {
-            enabled: root.available
+            enabled: root.available && root.upgradingCount === 0
             kind: OVButton.DangerPrimary
             objectName: "resetButton"
             text: qsTr("恢复出厂设置")
-            toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+            toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能恢复出厂设置", "", root.upgradingCount)
+                : root.available ? "" : qsTr("请先在左侧勾选设备")
             onClicked: root.resetRequested()
         }
     }
