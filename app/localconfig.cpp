@@ -25,6 +25,7 @@ const QString startIpKey = QStringLiteral("/searchConfig/startIP");
 const QString endIpKey = QStringLiteral("/searchConfig/endIP");
 const QString usernameKey = QStringLiteral("/searchConfig/username");
 const QString passKey = QStringLiteral("/searchConfig/pass");
+const QString upgradesAtOnceKey = QStringLiteral("/upgradeConfig/atOnce");
 
 const QString lockKey = QStringLiteral("OrvoConfigTools");
 
@@ -163,6 +164,14 @@ int CLocalConfig::getSearchConfigOtherDomain() const
 void CLocalConfig::setSearchConfigOtherDomain(int check)
 {
     setValue(otherDomainKey, check);
+}
+
+int CLocalConfig::upgradesAtOnce() const
+{
+    constexpr int usual = 4;
+    constexpr int most = 16;
+    const int wanted = number(upgradesAtOnceKey);
+    return wanted >= 1 && wanted <= most ? wanted : usual;
 }
 
 void CLocalConfig::reboot()

@@ -128,7 +128,8 @@ void Shell::registerBackEnds()
             return SearchSettings{.localDomain =
                                       CLocalConfig::getinstance()->getSearchConfigLocalDomain() != 0};
         };
-        return std::make_shared<CDeviceDH>(store, libraries, searchSettings);
+        const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
+        return std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits);
     });
     CDeviceFactory::registerP2PAgent({.library = m_libraries.p2pAgent, .handler = &CDeviceDH::agentMessage});
     CDeviceFactory::registerBackEnd(QStringLiteral("hik"),

@@ -22,13 +22,13 @@ CDeviceDH *agentListener = nullptr;
 } // namespace
 
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
-                     std::function<SearchSettings()> searchSettings)
+                     std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits)
     : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
       m_search(std::make_unique<DeviceSearch>(std::move(store), m_libraries)), m_keptLogins(m_libraries.net),
       m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
       m_camera(std::make_unique<CameraConfig>(m_tables, m_channels)),
       m_upgrades(std::make_unique<UpgradeRunner>(
-          m_libraries, UpgradeLimits(),
+          m_libraries, upgradeLimits,
           UpgradeRunner::Watchers{.changed = [this](const UpgradeOrder &order,
                                                     const UpgradeState &state) { noteUpgrade(order, state); },
                                   .roundEnded =

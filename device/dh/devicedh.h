@@ -7,6 +7,7 @@
 #include "device/dh/keptlogins.h"
 #include "device/dh/systemaction.h"
 #include "device/dh/upgradedocuments.h"
+#include "device/dh/upgradework.h"
 #include "device/dh/valuetables.h"
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
@@ -21,8 +22,6 @@ class EncodeConfig;
 class SnapThread;
 class UpgradeRunner;
 struct DeviceListLine;
-struct UpgradeOrder;
-struct UpgradeState;
 
 /// What a search reads from the local configuration.
 struct SearchSettings
@@ -37,7 +36,8 @@ class CDeviceDH : public CDeviceBase
 public:
     /// `searchSettings` is called on the scene's thread at each start of a search.
     CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
-              std::function<SearchSettings()> searchSettings);
+              std::function<SearchSettings()> searchSettings,
+              const UpgradeLimits &upgradeLimits = UpgradeLimits());
 
     /// Ends running searches and the session, and releases the network library.
     ~CDeviceDH() override;

@@ -124,6 +124,30 @@ private Q_SLOTS:
         QCOMPARE(config.getSearchConfigEndIP(), "10.0.0.9");
     }
 
+    void upgradesAtOnceAreBounded_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<int>("atOnce");
+        QTest::newRow("least") << QByteArray("1") << 1;
+        QTest::newRow("most") << QByteArray("16") << 16;
+        QTest::newRow("quoted") << QByteArray("\"8\"") << 8;
+        QTest::newRow("none") << QByteArray("") << 4;
+        QTest::newRow("zero") << QByteArray("0") << 4;
+        QTest::newRow("negative") << QByteArray("-1") << 4;
+        QTest::newRow("too many") << QByteArray("17") << 4;
+        QTest::newRow("does not fit") << QByteArray("4294967297") << 4;
+        QTest::newRow("text") << QByteArray("many") << 4;
+        QTest::newRow("list") << QByteArray("2, 3") << 4;
+    }
+
+    void upgradesAtOnceAreBounded()
+    {
+        QFETCH(QByteArray, value);
+        QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 4);
+        write(path("LocalConfig.ini"), "[upgradeConfig]\natOnce=" + value + '\n');
+        QTEST(CLocalConfig(m_directory->path()).upgradesAtOnce(), "atOnce");
+    }
+
     void aFolderInPlaceOfTheFileLosesWritesOnly()
     {
         QVERIFY(QDir().mkpath(path("LocalConfig.ini")));

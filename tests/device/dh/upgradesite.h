@@ -20,16 +20,16 @@
 class UpgradeSite
 {
 public:
-    explicit UpgradeSite(int count)
+    explicit UpgradeSite(int count, const UpgradeLimits &limits = UpgradeLimits())
     {
         sdk::demo::Scene scene;
         for (int place = 0; place < count; ++place)
             scene.devices.append(sceneDevice(mac(place), address(place)));
         site = sdk::demo::DemoSite::create(scene, clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {family, [this] {
-                 return std::make_shared<CDeviceDH>(store, site->libraries(),
-                                                    [] { return SearchSettings(); });
+            {family, [this, limits] {
+                 return std::make_shared<CDeviceDH>(
+                     store, site->libraries(), [] { return SearchSettings(); }, limits);
              }}});
         for (int place = 0; place < count; ++place)
             store->putRow({{DeviceRowKey::mac, mac(place)},
