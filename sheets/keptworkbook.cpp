@@ -3,6 +3,7 @@
 #include "sheets/logging.h"
 #include "sheets/qexcel.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -30,7 +31,9 @@ bool keepWorkbook(QExcel &workbook, QString &path, const QString &addition)
     if (workbook.save())
         return true;
     qCWarning(logSheets).noquote() << "cannot save the workbook:" << workbook.errorText();
-    return keepIn(QFileInfo(path).absolutePath(), workbook, path, addition) ||
-           keepIn(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), workbook, path,
-                  addition);
+    if (keepIn(QFileInfo(path).absolutePath(), workbook, path, addition))
+        return true;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QDir().mkpath(documents); // not every account has it
+    return keepIn(documents, workbook, path, addition);
 }

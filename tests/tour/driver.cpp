@@ -1,5 +1,6 @@
 #include "tests/tour/driver.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -198,11 +199,28 @@ void Driver::check(bool condition, const QString &what) const
 void Driver::report(const QString &step, const QString &seen)
 {
     atRest();
+    checkNames(m_window->contentItem());
     const QString picture = QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(step);
     const QImage image = m_window->grabWindow();
     check(!image.isNull() && image.save(m_pictureFolder + QLatin1Char('/') + picture),
           QStringLiteral("the picture %1 is saved").arg(picture));
     QTextStream(stdout) << picture << ": " << seen << Qt::endl;
+}
+
+void Driver::checkNames(QQuickItem *item) const
+{
+    if (!item->isVisible())
+        return;
+    if (item->activeFocusOnTab() && item->isEnabled()) {
+        QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(item);
+        check(spoken && !spoken->text(QAccessible::Name).isEmpty(),
+              QStringLiteral("what the keyboard reaches has a name for screen readers: %1 \"%2\" in \"%3\"")
+                  .arg(QString::fromLatin1(item->metaObject()->className()), item->objectName(),
+                       item->parentItem() ? item->parentItem()->objectName() : QString()));
+    }
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
+        checkNames(child);
 }
 
 void Driver::atRest() const

@@ -55,11 +55,13 @@ public:
 
     void check(bool condition, const QString &what) const;
 
-    /// Says what a step has seen, and takes its picture once the window is at rest.
+    /// Says what a step has seen, and takes its picture once the window is at rest. All that the keyboard
+    /// reaches must have a name for screen readers then.
     void report(const QString &step, const QString &seen);
 
 private:
     void atRest() const;
+    void checkNames(QQuickItem *item) const;
 
     QPointer<QQuickWindow> m_window;
     const QString m_pictureFolder;

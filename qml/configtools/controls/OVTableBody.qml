@@ -75,6 +75,7 @@ ListView {
     reuseItems: true
 
     Accessible.role: Accessible.Table
+    Accessible.name: columns.map(column => column.title.trim()).filter(title => title !== "").join(", ")
 
     onActiveFocusChanged: byPointer = false
 

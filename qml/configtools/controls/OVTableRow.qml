@@ -26,7 +26,7 @@ Rectangle {
     objectName: "row" + index
 
     Accessible.role: Accessible.Row
-    Accessible.name: values.ipport ?? values.name ?? ""
+    Accessible.name: values.ipport ?? values.name ?? columns.map(column => values[column.key] ?? "").join(" ")
     Accessible.selected: current
     Accessible.checkable: checkable
     Accessible.checked: checked

@@ -35,7 +35,9 @@ Loader {
             id: words
             objectName: "toolTip"
             color: Theme.colours.bubbleInk
+            elide: Text.ElideRight
             font: Theme.hintFont
+            maximumLineCount: 12  // of a device's answer or a file's cell, which may be pages
             text: bubble.text
         }
 

@@ -46,6 +46,9 @@ OVDialog {
         model: root.snapshots.results.length
         objectName: "snapshotGrid"
 
+        Accessible.role: Accessible.List
+        Accessible.name: root.title
+
         T.ScrollBar.vertical: OVScrollBar {}
 
         // qmllint disable unqualified

@@ -93,6 +93,8 @@ OVDialog {
             objectName: "detailSearchField"
             placeholderText: qsTr("搜索名称或内容")
             Keys.onDownPressed: list.forceActiveFocus()
+            Keys.onEnterPressed: list.forceActiveFocus()
+            Keys.onReturnPressed: list.forceActiveFocus()
         }
         OVNotice {
             width: parent.width

@@ -96,6 +96,7 @@ Rectangle {
         enabled: !root.held
         objectName: "deviceTree"
         rows: treeRows
+        Accessible.name: heading.text
         onDeviceChosen: ipport => root.deviceChosen(ipport)
     }
     OVFocusRing {
