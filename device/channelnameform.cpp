@@ -131,6 +131,12 @@ ChannelNameForm::Trouble ChannelNameForm::write(int row)
     return written.lastWrite;
 }
 
+void ChannelNameForm::endSaving()
+{
+    if (m_deviceFactory)
+        m_deviceFactory->setConfigData(family, QStringLiteral("channelNamesSaved"), true);
+}
+
 ChannelNameForm::Trouble ChannelNameForm::troubleOf(const Row &row) const
 {
     if (!row.isChanged() && row.lastWrite == None)

@@ -66,6 +66,9 @@ public:
     /// Different.
     Q_INVOKABLE ChannelNameForm::Trouble write(int row);
 
+    /// Ends a saving, of which the factory's signalSetChannelNameFinished tells.
+    Q_INVOKABLE void endSaving();
+
 Q_SIGNALS:
     void deviceFactoryChanged();
     void changed();

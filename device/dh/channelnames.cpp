@@ -17,6 +17,8 @@ void ChannelNames::begin(const ConfigSession &session)
 {
     m_session = session;
     m_results.clear();
+    m_saving.reset();
+    m_savingResult = -1;
     m_isDeviceAway = false;
 }
 
@@ -54,5 +56,16 @@ int ChannelNames::write(int channel, const QString &name)
                              << m_session.lastError();
     }
     m_results.insert(channel, result);
+    if (!m_saving || result != 0)
+        m_saving = result;
     return result;
+}
+
+bool ChannelNames::endSaving()
+{
+    if (!m_saving)
+        return false;
+    m_savingResult = *m_saving;
+    m_saving.reset();
+    return true;
 }

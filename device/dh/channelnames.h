@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QVariantList>
 
+#include <optional>
+
 /// Reads and writes one name at a time; nothing is kept but how the last write to each channel ended. Blocks
 /// for the waits of the library. One thread.
 class ChannelNames
@@ -33,11 +35,20 @@ public:
     /// Returns 0, `refused`, or the result of a device that is away.
     int write(int channel, const QString &name);
 
+    /// Ends a saving, that is the writes since the last one. False when there were none.
+    bool endSaving();
+
+    /// How the last saving that has ended went: 0 when the device took every name, else the result of the
+    /// last write that failed; -1 when there was none.
+    [[nodiscard]] int savingResult() const { return m_savingResult; }
+
     /// How the last write to a channel ended; -1 when there was none.
     [[nodiscard]] int result(int channel) const { return m_results.value(channel, -1); }
 
 private:
     ConfigSession m_session;
-    QHash<int, int> m_results; ///< by channel
+    QHash<int, int> m_results;   ///< by channel
+    std::optional<int> m_saving; ///< what has come of the writes since the last saving
+    int m_savingResult = -1;
     bool m_isDeviceAway = false;
 };

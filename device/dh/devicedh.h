@@ -109,8 +109,9 @@ public:
     /// The key "loginHandle", the current session's handle or 0, may be read on any thread.
     QVariant getConfigData(const QString &key, const QVariant &channel) override;
     /// `otype` is the sub-key of a value of the camera image page; of "channelName" it is the channel from 0.
-    /// A name goes to the device at once: signalCDeviceSetChannelNameFinished says that it was written, or
-    /// could not be, which getConfigData("channelNameResult", channel) tells.
+    /// A name goes to the device at once; what came of it getConfigData("channelNameResult", channel) tells.
+    /// The key "channelNamesSaved" ends a saving of one name or many: signalCDeviceSetChannelNameFinished
+    /// says so once, and getConfigData("channelNamesResult") tells how it went as a whole.
     void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
     /// `key` is "channelNames", the names in their order, null for one that the device does not tell, or
     /// "channelsConnected", a bool for each. Of the first `channelNum` channels of the current session's

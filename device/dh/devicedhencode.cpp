@@ -38,6 +38,8 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant &channel)
         return m_channelNames.name(channel.toInt());
     if (key == QLatin1String("channelNameResult"))
         return m_channelNames.result(channel.toInt());
+    if (key == QLatin1String("channelNamesResult"))
+        return m_channelNames.savingResult();
     if (ChannelChoice::isKey(key))
         return m_channels.value(key);
     if (EncodeValues::isKey(key))
@@ -53,6 +55,11 @@ void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const Q
     }
     if (key == QLatin1String("channelName")) {
         writeChannelName(value.toString(), otype);
+        return;
+    }
+    if (key == QLatin1String("channelNamesSaved")) {
+        if (m_channelNames.endSaving())
+            Q_EMIT signalCDeviceSetChannelNameFinished();
         return;
     }
     if (!EncodeValues::isKey(key)) {

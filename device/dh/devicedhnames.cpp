@@ -41,8 +41,6 @@ void CDeviceDH::writeChannelName(const QString &name, const QString &channel)
         qCWarning(logDevice) << "there is no channel" << channel << "to name";
         return;
     }
-    const int result = m_channelNames.write(number, name);
-    Q_EMIT signalCDeviceSetChannelNameFinished();
-    if (result == deviceAway)
+    if (m_channelNames.write(number, name) == deviceAway)
         Q_EMIT signalCDeviceGetDeviceCapRet(deviceAway);
 }

@@ -102,7 +102,6 @@ private Q_SLOTS:
         QSignalSpy finished(m_site->factory.get(), &CDeviceFactory::signalSetChannelNameFinished);
         m_site->set("channelName", "后门", "5");
         QCOMPARE(m_site->askedItems("NetSetItem"), QStringList({"1108/0@5 260 5000"}));
-        QCOMPARE(finished.size(), 1);
         const auto result = [this](int channel) {
             return m_site->factory->getConfigData("dh", "channelNameResult", channel).toInt();
         };
@@ -113,12 +112,50 @@ private Q_SLOTS:
         setFault(Fault::RefusesItem, 1108);
         m_site->set("channelName", "东门", "5");
         QCOMPARE(result(5), 999);
-        QCOMPARE(finished.size(), 2);
+        QCOMPARE(finished.size(), 0); // the saving goes on
         for (const char *channel : {"16", "-1", "", "x"}) {
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("there is no channel.*"));
             m_site->set("channelName", "x", channel);
         }
         QCOMPARE(m_site->asked("NetSetItem").size(), 2);
+    }
+
+    void aSavingIsToldOnce()
+    {
+        open(recorder());
+        QSignalSpy finished(m_site->factory.get(), &CDeviceFactory::signalSetChannelNameFinished);
+        const auto result = [this] {
+            return m_site->get("channelNamesResult").toInt();
+        };
+        const auto names = form();
+        names->endSaving(); // of nothing
+        QCOMPARE(finished.size(), 0);
+        QCOMPARE(result(), -1);
+        const auto save = [&](const QString &name) {
+            for (const int row : {3, 4, 5}) {
+                names->set(row, name + QString::number(row));
+                names->write(row);
+            }
+            names->endSaving();
+        };
+        save("Hof ");
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(result(), 0);
+        setFault(Fault::RefusesItem, 1108);
+        save("Tor ");
+        QCOMPARE(finished.size(), 2);
+        QCOMPARE(result(), 999);
+    }
+
+    void aFailureOutlastsWhatGoesWellAfterIt()
+    {
+        open(recorder());
+        setFault(Fault::RefusesItem, 1108);
+        m_site->set("channelName", "x", "0");
+        m_site->site->clearFault(m_device.mac, Fault::RefusesItem);
+        m_site->set("channelName", "y", "1");
+        m_site->set("channelNamesSaved", true);
+        QCOMPARE(m_site->get("channelNamesResult").toInt(), 999);
     }
 
     void textsAreCutByBytesBetweenLetters_data()

@@ -8,7 +8,8 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
-    property int written: 0    // of the last saving
+    property var saving: []    // rows of the form that are being written
+    property int written: 0    // of them
     readonly property alias form: nameForm
     readonly property alias running: batch.running
     readonly property alias progress: batch.progress
@@ -41,8 +42,9 @@ Item {
             return;
         }
         const rows = Array.from(nameForm.changedRows());
+        saving = rows;
         written = 0;
-        batch.start(rows.length, i => write(rows[i]), i => qsTr("通道 %1").arg(rows[i] + 1), () => tell(rows));
+        batch.start(rows.length, i => write(rows[i]), i => qsTr("通道 %1").arg(rows[i] + 1), () => nameForm.endSaving());
     }
 
     function write(row) {
@@ -53,7 +55,9 @@ Item {
             batch.stopping = true;  // the others would only wait
     }
 
-    function tell(rows) {
+    function tell() {
+        const rows = saving;
+        saving = [];
         if (written > 0)
             session.image.forget();  // it shows the name of its channel, too
         const left = rows.length - written;
@@ -71,6 +75,14 @@ Item {
 
     visible: false
 
+    Connections {
+        target: root.deviceFactory
+        enabled: root.saving.length > 0  // else the image page has written a name
+
+        function onSignalSetChannelNameFinished() {
+            root.tell();
+        }
+    }
     ChannelNameForm {
         id: nameForm
         deviceFactory: root.deviceFactory
