@@ -30,6 +30,10 @@ inline constexpr QLatin1StringView url("url");               ///< text: address 
 inline constexpr QLatin1StringView result("result");         ///< text result of the last batch operation
 inline constexpr QLatin1StringView httpport("httpport");     ///< int: HTTP port
 
+/// Text: last upgrade in words. Only rows of devices that were to be upgraded have it: "result" belongs to
+/// other operations, whose pages show it.
+inline constexpr QLatin1StringView upgradetext("upgradetext");
+
 // Keys of devices that were added by hand, or that the user has given an account.
 inline constexpr QLatin1StringView username("username");
 inline constexpr QLatin1StringView password("password");

@@ -32,7 +32,7 @@ constexpr std::array rowKeys = {
     DeviceRowKey::state,   DeviceRowKey::name,     DeviceRowKey::type,     DeviceRowKey::model,
     DeviceRowKey::ipport,  DeviceRowKey::mac,      DeviceRowKey::vision,   DeviceRowKey::res,
     DeviceRowKey::operate, DeviceRowKey::filepath, DeviceRowKey::upgrade,  DeviceRowKey::upgraderes,
-    DeviceRowKey::url,     DeviceRowKey::result,   DeviceRowKey::httpport,
+    DeviceRowKey::url,     DeviceRowKey::result,   DeviceRowKey::httpport, DeviceRowKey::upgradetext,
 };
 
 /// The value of a key; rows that lack it (IPv6 rows lack some) have the value that new rows begin with.

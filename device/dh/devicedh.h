@@ -140,7 +140,7 @@ public:
     /// `path` may be a "file:///" address. A device that is being upgraded keeps its file.
     void setUpgradeFilePath(const QString &mac, const QString &path) override;
     /// Returns at once; the rows tell how far each device is and what has come of it: "upgrade" in percent,
-    /// "upgraderes" an UpgradeTools::Result, "result" in words, and "vision" at the end.
+    /// "upgraderes" an UpgradeTools::Result, "upgradetext" in words, and "vision" at the end.
     void startUpgrade(const QStringList &macs) override;
     void stopUpgrade(const QString &mac) override;
     bool hasDeviceUpgrading() override;

@@ -29,7 +29,7 @@ void CDeviceDH::setUpgradeFilePath(const QString &mac, const QString &path)
         row.insert(DeviceRowKey::filepath, file);
         row.insert(DeviceRowKey::upgrade, 0);
         row.insert(DeviceRowKey::upgraderes, UpgradeTools::None);
-        row.insert(DeviceRowKey::result, QString());
+        row.insert(DeviceRowKey::upgradetext, QString());
     });
 }
 
@@ -167,7 +167,7 @@ void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state
     store().changeRow(order.mac, [&state](QJsonObject &row) {
         row.insert(DeviceRowKey::upgrade, state.percent);
         row.insert(DeviceRowKey::upgraderes, state.result);
-        row.insert(DeviceRowKey::result, state.text);
+        row.insert(DeviceRowKey::upgradetext, state.text);
         if (!state.version.isEmpty())
             row.insert(DeviceRowKey::vision, versionText(state.version));
     });

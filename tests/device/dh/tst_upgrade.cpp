@@ -79,6 +79,23 @@ private Q_SLOTS:
             QVERIFY2(seen.contains(text), qPrintable(seen.join(u'|')));
     }
 
+    void anotherPagesResultStays()
+    {
+        const UpgradeSite test(1);
+        const auto answer = [&] {
+            return test.value(0, DeviceRowKey::result).toString();
+        };
+        test.factory->updataDeviceInfo(test.family, DeviceRowKey::result, u"name=Hof"_s, test.mac(0),
+                                       test.ipport(0));
+        test.start({0}, test.file());
+        QCOMPARE(answer(), u"name=Hof"_s);
+        test.factory->updataDeviceInfo(test.family, DeviceRowKey::result, u"OK"_s, test.mac(0),
+                                       test.ipport(0));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(answer(), u"OK"_s);
+        QCOMPARE(test.text(0), u"升级成功：2.840.1 → 2.900.0"_s);
+    }
+
     void whatDevicesDo_data()
     {
         QTest::addColumn<FaultSetting>("fault");

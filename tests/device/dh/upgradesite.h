@@ -83,7 +83,7 @@ public:
         return store->row(mac(place)).value(key);
     }
     [[nodiscard]] int result(int place) const { return value(place, DeviceRowKey::upgraderes).toInt(-99); }
-    [[nodiscard]] QString text(int place) const { return value(place, DeviceRowKey::result).toString(); }
+    [[nodiscard]] QString text(int place) const { return value(place, DeviceRowKey::upgradetext).toString(); }
     [[nodiscard]] int percent(int place) const { return value(place, DeviceRowKey::upgrade).toInt(-99); }
 
     /// Lets the time pass until `isThere` is true.

@@ -106,11 +106,10 @@ OVTable {
             readonly property bool mayGoWell: UpgradeTools.canTryAgain(code)
             readonly property bool signed: failed || code === UpgradeTools.Success
             readonly property string meaning: UpgradeTools.text(code)
-            // Other pages write their results into the row too.
-            readonly property string told: row?.result ?? ""
+            readonly property string told: row?.upgradetext ?? ""
             // While it runs the phase stands beside the bar; only what is more than that stands here.
             readonly property string words: UpgradeTools.isRunning(code) ? (told === meaning ? "" : told)
-                : told.startsWith(meaning) && signed ? told : meaning
+                : told !== "" ? told : meaning
 
             OVIcon {
                 id: sign
