@@ -111,6 +111,11 @@ QString CDeviceBase::upgradeDocumentResult()
     return {};
 }
 
+QVariantMap CDeviceBase::upgradeDocumentProgress()
+{
+    return {};
+}
+
 void CDeviceBase::factoryEnds() {}
 void CDeviceBase::snapPictureToFile(const QString &, const QVariant &, const QString &) {}
 

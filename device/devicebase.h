@@ -104,6 +104,9 @@ public:
     /// language; empty while they are worked on.
     virtual QString upgradeDocumentResult();
 
+    /// Lines of the documents of the last startUpgradeByDocument(): "total" of them, "done" with.
+    virtual QVariantMap upgradeDocumentProgress();
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

@@ -412,6 +412,11 @@ QString CDeviceFactory::upgradeDocumentResult(const QString &family)
     return forward(family, &CDeviceBase::upgradeDocumentResult);
 }
 
+QVariantMap CDeviceFactory::upgradeDocumentProgress(const QString &family)
+{
+    return forward(family, &CDeviceBase::upgradeDocumentProgress);
+}
+
 int CDeviceFactory::checkLogin(const QString &family, const QString &ipport, const QString &account,
                                const QString &password)
 {

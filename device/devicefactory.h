@@ -136,6 +136,10 @@ public:
     /// What has come of the documents of the last startUpgradeByDocument().
     Q_INVOKABLE QString upgradeDocumentResult(const QString &family);
 
+    /// How many lines of those documents there are ("total"), and with how many nothing is to be done any
+    /// more ("done").
+    Q_INVOKABLE QVariantMap upgradeDocumentProgress(const QString &family);
+
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,

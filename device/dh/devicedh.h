@@ -148,6 +148,7 @@ public:
     void startUpgradeByDocument(const QStringList &paths) override;
     QVariantList importUpgradeDocument(const QString &file) override;
     QString upgradeDocumentResult() override;
+    QVariantMap upgradeDocumentProgress() override;
 
 private:
     /// The one login that configuration, live view and snapshots use.

@@ -162,6 +162,12 @@ QString CDeviceDH::upgradeDocumentResult()
     return m_upgradeDocuments.resultText().trimmed();
 }
 
+QVariantMap CDeviceDH::upgradeDocumentProgress()
+{
+    const UpgradeDocuments::Progress progress = m_upgradeDocuments.progress();
+    return {{QStringLiteral("done"), progress.done}, {QStringLiteral("total"), progress.total}};
+}
+
 void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state)
 {
     store().changeRow(order.mac, [&state](QJsonObject &row) {

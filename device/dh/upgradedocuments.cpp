@@ -5,6 +5,12 @@
 #include <algorithm>
 #include <utility>
 
+void UpgradeDocuments::begin()
+{
+    m_result.clear();
+    m_finishedLines = 0;
+}
+
 void UpgradeDocuments::add(const QString &name, std::unique_ptr<UpgradeDocument> document)
 {
     auto added = std::make_unique<Document>();
@@ -59,9 +65,7 @@ QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
     {
         const std::lock_guard lock(m_mutex);
         for (const std::unique_ptr<Document> &document : m_documents) {
-            const bool isDone =
-                std::none_of(document->lines.cbegin(), document->lines.cend(),
-                             [](const Line &line) { return UpgradeTools::isRunning(line.result); });
+            const bool isDone = doneLinesOf(*document) == document->lines.size();
             // Only what is in the file is done.
             const int percent = isDone ? 100 : std::min(percentOf(*document), 99);
             if (percent != std::exchange(document->toldPercent, percent))
@@ -78,6 +82,24 @@ QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
     return changed;
 }
 
+int UpgradeDocuments::doneLinesOf(const Document &document)
+{
+    return static_cast<int>(
+        std::count_if(document.lines.cbegin(), document.lines.cend(),
+                      [](const Line &line) { return !UpgradeTools::isRunning(line.result); }));
+}
+
+UpgradeDocuments::Progress UpgradeDocuments::progress() const
+{
+    Progress progress = {.done = m_finishedLines, .total = m_finishedLines};
+    const std::lock_guard lock(m_mutex);
+    for (const std::unique_ptr<Document> &document : m_documents) {
+        progress.done += doneLinesOf(*document) + document->refused;
+        progress.total += static_cast<int>(document->lines.size()) + document->refused;
+    }
+    return progress;
+}
+
 int UpgradeDocuments::percentOf(const Document &document)
 {
     qsizetype sum = 0;
@@ -88,6 +110,7 @@ int UpgradeDocuments::percentOf(const Document &document)
 
 void UpgradeDocuments::finish(Document &document)
 {
+    m_finishedLines += static_cast<int>(document.lines.size()) + document.refused;
     int succeeded = 0;
     for (const Line &line : std::as_const(document.lines)) {
         document.workbook->setResult(line.row, line.text);

@@ -22,8 +22,15 @@ public:
         int percent = 0;
     };
 
+    /// Lines, of all documents since begin().
+    struct Progress
+    {
+        int done = 0; ///< also those that are refused
+        int total = 0;
+    };
+
     /// Forgets the results of earlier documents.
-    void begin() { m_result.clear(); }
+    void begin();
 
     /// Adds an opened document.
     void add(const QString &name, std::unique_ptr<UpgradeDocument> document);
@@ -49,6 +56,8 @@ public:
     /// stands in resultText().
     [[nodiscard]] QList<Schedule> update();
 
+    [[nodiscard]] Progress progress() const;
+
     [[nodiscard]] bool hasOpen() const { return !m_documents.empty(); }
 
     /// Empty while documents are open.
@@ -71,10 +80,12 @@ private:
         int toldPercent = -1;
     };
 
+    [[nodiscard]] static int doneLinesOf(const Document &document);
     [[nodiscard]] static int percentOf(const Document &document);
     void finish(Document &document);
 
     mutable std::mutex m_mutex; ///< for the documents; their workbooks are the scene's
     std::vector<std::unique_ptr<Document>> m_documents;
+    int m_finishedLines = 0; ///< of the documents that are done
     QString m_result;
 };

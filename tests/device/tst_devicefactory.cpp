@@ -62,7 +62,8 @@ const QStringList operations = {"startSearch",
                                 "importError",
                                 "stopImport",
                                 "readDeviceDetail",
-                                "upgradeDocumentResult"};
+                                "upgradeDocumentResult",
+                                "upgradeDocumentProgress"};
 
 const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSearchCount",

@@ -78,9 +78,22 @@ FocusScope {
         onStopRequested: work.stopAll()
         onTemplateRequested: document.openTemplate()
     }
-    UpgradeTable {
+    UpgradeDocumentBar {
+        id: documentBar
         x: Theme.pageMargin
         y: toolBar.height
+        width: parent.width - 2 * x
+        height: visible ? implicitHeight : 0
+        done: document.lines.done
+        name: document.name
+        percent: document.percent
+        total: document.lines.total
+        visible: document.running
+        onStopRequested: document.stop()
+    }
+    UpgradeTable {
+        x: Theme.pageMargin
+        y: documentBar.y + documentBar.height
         width: parent.width - 2 * x
         height: foot.y - y
         checkState: devices.checkState

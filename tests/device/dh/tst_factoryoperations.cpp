@@ -150,6 +150,10 @@ private:
              [this] {
                  return m_factory->upgradeDocumentResult("dh").isEmpty(); // none was run
              }},
+            {"upgradeDocumentProgress",
+             [this] {
+                 return m_factory->upgradeDocumentProgress("dh").value("total") == 0; // none was run
+             }},
         };
     }
 

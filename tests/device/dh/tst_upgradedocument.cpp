@@ -102,7 +102,15 @@ private Q_SLOTS:
         const QString url = QUrl::fromLocalFile(first).toString();
         test.factory->startUpgradeByDocument(test.family, {url, second});
         QVERIFY(test.factory->hasDeviceUpgrading());
+        const auto lines = [&](const QString &key) {
+            return test.factory->upgradeDocumentProgress(test.family).value(key).toInt();
+        };
+        QCOMPARE(lines(u"total"_s), 6);
+        QVERIFY(test.passUntil([&] { return lines(u"done"_s) == 4; })); // two succeed at the end
+        QCOMPARE(test.ends->size(), 0);
         QVERIFY(test.passUntilEnd());
+        QCOMPARE(lines(u"done"_s), 6);
+        QCOMPARE(lines(u"total"_s), 6);
         const QStringList written = results(first, 5);
         QCOMPARE(written.at(0), u"升级成功：2.840.1 → 2.900.0"_s);
         QCOMPARE(written.at(1), u"升级成功：2.840.1 → 2.900.0"_s);

@@ -8,6 +8,10 @@ Item {
     required property var deviceFactory
     required property var fileDialogs
     property bool running: false
+    property string name         // of the document's file
+    property int percent: 0      // of the document
+    property var lines: ({done: 0, total: 0})
+    property var identities: []  // of its devices
     signal started(var identities)  // MACs, or addresses and ports of devices without a row
     signal said(string message, int kind)
 
@@ -31,9 +35,23 @@ Item {
     }
 
     function start(path, lines) {
+        name = path.slice(path.lastIndexOf("/") + 1);
+        percent = 0;
+        // Those that the table upgrades already are refused to the document.
+        identities = lines.map(line => line.mac !== "" ? line.mac : line.address).filter(
+            identity => !UpgradeTools.isRunning(deviceFactory.getDeviceDetail("dh", identity).upgraderes ?? UpgradeTools.None));
         running = true;
         deviceFactory.startUpgradeByDocument("dh", [path]);
-        started(lines.map(line => line.mac !== "" ? line.mac : line.address));
+        count();
+        started(identities);
+    }
+
+    function stop() {
+        identities.forEach(identity => deviceFactory.stopUpgrade("dh", identity));
+    }
+
+    function count() {
+        lines = deviceFactory.upgradeDocumentProgress("dh");
     }
 
     function openTemplate() {
@@ -47,6 +65,9 @@ Item {
         target: root.deviceFactory
         enabled: root.running
 
+        function onSignalUpdateScheduleUpgradeByDocument(filename, value) {
+            root.percent = value;
+        }
         function onSignalShowUpgradeFinishTip() {
             const result = root.deviceFactory.upgradeDocumentResult("dh");
             if (result === "")
@@ -54,6 +75,12 @@ Item {
             root.running = false;
             outcome.wanted().show(result, OVMessageBox.Information);
         }
+    }
+    Timer {
+        interval: 250
+        repeat: true
+        running: root.running
+        onTriggered: root.count()
     }
     // qmllint disable unqualified
     OVOnDemand {
