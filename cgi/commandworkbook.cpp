@@ -2,10 +2,9 @@
 
 #include "cgi/logging.h"
 #include "sheets/keptworkbook.h"
+#include "sheets/tablecells.h"
 
 #include <QRegularExpression>
-
-#include <cmath>
 
 namespace {
 
@@ -19,17 +18,6 @@ enum Column
     SchemeColumn,
     ResultColumn,
 };
-
-/// A cell that was meant as a whole number, whether it is stored as a number or as a text such as "80.0".
-std::optional<qint64> wholeNumber(const QString &cell)
-{
-    constexpr double largest = 1e9;
-    bool isNumber = false;
-    const double number = cell.trimmed().toDouble(&isNumber);
-    if (!isNumber || std::abs(number) > largest)
-        return std::nullopt;
-    return static_cast<qint64>(number);
-}
 
 /// The address alone of "address:web port"; an IPv6 address stands in brackets before a port.
 QString withoutPort(const QString &address)
@@ -63,22 +51,18 @@ QString CommandWorkbook::open(const QString &path)
         qCWarning(logCgi).noquote() << "cannot open the workbook:" << m_excel.errorText();
         return tr("文件打开失败");
     }
-    const QStringList titles = requiredTitles();
-    for (int column = AddressColumn; column <= CommandColumn; ++column) {
-        if (text(1, column).trimmed() == titles.at(column - 1))
-            continue;
-        m_excel.quit();
-        return tr("文件格式错误");
-    }
-    return {};
+    if (sheets::beginsWithTitles(m_excel, requiredTitles()))
+        return {};
+    m_excel.quit();
+    return tr("文件格式错误");
 }
 
 std::vector<WorkbookCommand> CommandWorkbook::commands()
 {
     std::vector<WorkbookCommand> found;
-    const int lastRow = m_excel.firstUsedRow() + m_excel.usedRowCount() - 1;
+    const int lastRow = sheets::lastUsedRow(m_excel);
     for (int row = 2; row <= lastRow; ++row) {
-        if (!text(row, AddressColumn).trimmed().isEmpty() || !text(row, CommandColumn).trimmed().isEmpty())
+        if (!trimmedText(row, AddressColumn).isEmpty() || !trimmedText(row, CommandColumn).isEmpty())
             found.push_back(command(row));
     }
     return found;
@@ -86,14 +70,14 @@ std::vector<WorkbookCommand> CommandWorkbook::commands()
 
 WorkbookCommand CommandWorkbook::command(int row)
 {
-    const QString address = text(row, AddressColumn).trimmed();
-    const QString port = text(row, PortColumn).trimmed();
-    const auto portNumber = wholeNumber(port);
-    const QString scheme = wholeNumber(text(row, SchemeColumn)).value_or(0) == 0 ? QStringLiteral("http://")
-                                                                                 : QStringLiteral("https://");
+    const QString address = trimmedText(row, AddressColumn);
+    const QString port = trimmedText(row, PortColumn);
+    const auto portNumber = sheets::wholeNumber(port);
+    const bool isPlain = sheets::wholeNumber(text(row, SchemeColumn)).value_or(0) == 0;
+    const QString scheme = isPlain ? QStringLiteral("http://") : QStringLiteral("https://");
     WorkbookCommand command;
     command.row = row;
-    command.command = text(row, CommandColumn).trimmed();
+    command.command = trimmedText(row, CommandColumn);
     command.url = scheme + address + command.command;
     command.ipport =
         withoutPort(address) + QLatin1Char(':') + (portNumber ? QString::number(*portNumber) : port);
@@ -123,4 +107,9 @@ bool CommandWorkbook::keepResults()
 QString CommandWorkbook::text(int row, int column)
 {
     return m_excel.cellText(row, column).value_or(QString());
+}
+
+QString CommandWorkbook::trimmedText(int row, int column)
+{
+    return sheets::trimmedCellText(m_excel, row, column);
 }

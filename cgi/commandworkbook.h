@@ -53,6 +53,7 @@ public:
 
 private:
     [[nodiscard]] QString text(int row, int column);
+    [[nodiscard]] QString trimmedText(int row, int column);
     [[nodiscard]] WorkbookCommand command(int row);
 
     QExcel m_excel;

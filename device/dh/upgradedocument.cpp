@@ -3,6 +3,7 @@
 #include "device/ipv4address.h"
 #include "device/logging.h"
 #include "sheets/keptworkbook.h"
+#include "sheets/tablecells.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,15 +24,13 @@ enum Column
 
 constexpr int usualPort = 37777;
 
-/// The port of a cell, whether it is stored as a number or as a text; the usual one for an empty cell, 0 for
-/// what is none.
+/// The port of a cell; the usual one for an empty cell, 0 for what is none.
 int portIn(const QString &cell)
 {
     if (cell.isEmpty())
         return usualPort;
-    bool isNumber = false;
-    const double number = cell.toDouble(&isNumber);
-    return isNumber && number >= 1 && number <= 65535 ? static_cast<int>(number) : 0;
+    const qint64 number = sheets::wholeNumber(cell).value_or(0);
+    return number >= 1 && number <= 65535 ? static_cast<int>(number) : 0;
 }
 
 } // namespace
@@ -48,21 +47,17 @@ QString UpgradeDocument::open(const QString &path)
         qCWarning(logDevice).noquote() << "cannot open the workbook:" << m_excel.errorText();
         return tr("文件打开失败");
     }
-    const QStringList titles = requiredTitles();
-    for (int column = AddressColumn; column <= FileColumn; ++column) {
-        if (text(1, column) == titles.at(column - 1))
-            continue;
-        m_excel.quit();
-        return tr("文件格式错误");
-    }
-    return {};
+    if (sheets::beginsWithTitles(m_excel, requiredTitles()))
+        return {};
+    m_excel.quit();
+    return tr("文件格式错误");
 }
 
 std::vector<UpgradeDocumentLine> UpgradeDocument::lines()
 {
     std::vector<UpgradeDocumentLine> found;
     QSet<QString> addresses;
-    const int lastRow = m_excel.firstUsedRow() + m_excel.usedRowCount() - 1;
+    const int lastRow = sheets::lastUsedRow(m_excel);
     for (int row = 2; row <= lastRow && found.size() < mostLines; ++row) {
         if (text(row, AddressColumn).isEmpty() && text(row, FileColumn).isEmpty())
             continue;
@@ -115,5 +110,5 @@ QString UpgradeDocument::keep()
 
 QString UpgradeDocument::text(int row, int column)
 {
-    return m_excel.cellText(row, column).value_or(QString()).trimmed();
+    return sheets::trimmedCellText(m_excel, row, column);
 }

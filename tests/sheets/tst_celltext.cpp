@@ -1,14 +1,43 @@
 #include "sheets/cellrange.h"
 #include "sheets/internal/celltext.h"
+#include "sheets/tablecells.h"
 
 #include <QTest>
 
 using namespace sheets;
 
+Q_DECLARE_METATYPE(std::optional<qint64>)
+
 class TestCellText : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void readsWholeNumbers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<std::optional<qint64>>("number");
+        const auto row = [](const char *text, std::optional<qint64> number) {
+            QTest::newRow(text) << QString(text) << number;
+        };
+        row("80", 80);
+        row(" 80.0 ", 80);
+        row("8e1", 80);
+        row("-1.9", -1);
+        row("1000000000", 1000000000);
+        row("1000000001", std::nullopt);
+        row("1e300", std::nullopt);
+        row("nan", std::nullopt);
+        row("inf", std::nullopt);
+        row("80 a", std::nullopt);
+        row("", std::nullopt);
+    }
+
+    void readsWholeNumbers()
+    {
+        QFETCH(QString, text);
+        QTEST(sheets::wholeNumber(text), "number");
+    }
+
     void escapesTexts_data()
     {
         QTest::addColumn<QString>("text");
