@@ -2133,6 +2133,10 @@ A right click copies the result</translation>
         <source>未初始化的设备没有实时画面</source>
         <translation>A device without its first password has no live picture</translation>
     </message>
+    <message>
+        <source>设备正在升级，不能修改IP地址</source>
+        <translation>The device is being upgraded; its address cannot be changed</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPAdding</name>
@@ -2190,6 +2194,10 @@ A right click copies the result</translation>
         <source>已停止，完成 %1 / %2</source>
         <translation>Stopped: %1 of %2 done</translation>
     </message>
+    <message>
+        <source>设备正在升级，不能修改IP地址</source>
+        <translation>The device is being upgraded; its address cannot be changed</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPDevices</name>
@@ -2224,6 +2232,13 @@ A right click copies the result</translation>
     <message>
         <source>请选择文件夹</source>
         <translation>Select a folder</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备正在升级，没有删除</source>
+        <translation>
+            <numerusform>%n device is being upgraded and was not deleted</numerusform>
+            <numerusform>%n devices are being upgraded and were not deleted</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2528,6 +2543,20 @@ File path: </translation>
     <message>
         <source>搜索…</source>
         <translation>Search…</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能修改IP地址</source>
+        <translation>
+            <numerusform>%n of the ticked devices is being upgraded: addresses cannot be changed</numerusform>
+            <numerusform>%n of the ticked devices are being upgraded: addresses cannot be changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能删除</source>
+        <translation>
+            <numerusform>%n of the ticked devices is being upgraded and cannot be deleted</numerusform>
+            <numerusform>%n of the ticked devices are being upgraded and cannot be deleted</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3000,6 +3029,10 @@ File path: </translation>
     <message>
         <source>未知错误 %1</source>
         <translation>Unknown error %1</translation>
+    </message>
+    <message>
+        <source>设备正在升级</source>
+        <translation>The device is being upgraded</translation>
     </message>
 </context>
 <context>
@@ -3543,6 +3576,13 @@ File path: </translation>
         <source>重启设备</source>
         <translation>Reboot devices</translation>
     </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能重启</source>
+        <translation>
+            <numerusform>%n of the ticked devices is being upgraded and cannot be rebooted</numerusform>
+            <numerusform>%n of the ticked devices are being upgraded and cannot be rebooted</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SystemResetPanel</name>
@@ -3557,6 +3597,13 @@ File path: </translation>
     <message>
         <source>请先在左侧勾选设备</source>
         <translation>First tick devices on the left</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</source>
+        <translation>
+            <numerusform>%n of the ticked devices is being upgraded and cannot be reset</numerusform>
+            <numerusform>%n of the ticked devices are being upgraded and cannot be reset</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3819,22 @@ File path: </translation>
     <message>
         <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
         <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as %1</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocumentBar</name>
+    <message>
+        <source>升级文档 %1：已完成 %2 / %3 行</source>
+        <extracomment>%1 is a file, %2 of %3 its lines.</extracomment>
+        <translation>Document %1: %2 of %3 lines done</translation>
+    </message>
+    <message>
+        <source>停止文档升级</source>
+        <translation>Stop the document</translation>
+    </message>
+    <message>
+        <source>停止此文档中尚未开始写入的设备</source>
+        <translation>Stop the devices of this document that have not begun to write</translation>
     </message>
 </context>
 <context>

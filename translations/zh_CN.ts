@@ -2119,6 +2119,10 @@
         <source>未初始化的设备没有实时画面</source>
         <translation>未初始化的设备没有实时画面</translation>
     </message>
+    <message>
+        <source>设备正在升级，不能修改IP地址</source>
+        <translation>设备正在升级，不能修改IP地址</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPAdding</name>
@@ -2174,6 +2178,10 @@
         <source>已停止，完成 %1 / %2</source>
         <translation>已停止，完成 %1 / %2</translation>
     </message>
+    <message>
+        <source>设备正在升级，不能修改IP地址</source>
+        <translation>设备正在升级，不能修改IP地址</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPDevices</name>
@@ -2208,6 +2216,12 @@
     <message>
         <source>请选择文件夹</source>
         <translation>请选择文件夹</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备正在升级，没有删除</source>
+        <translation>
+            <numerusform>%n 台设备正在升级，没有删除</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2510,6 +2524,18 @@
     <message>
         <source>搜索…</source>
         <translation>搜索…</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能修改IP地址</source>
+        <translation>
+            <numerusform>勾选的设备中有 %n 台正在升级，不能修改IP地址</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能删除</source>
+        <translation>
+            <numerusform>勾选的设备中有 %n 台正在升级，不能删除</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2970,6 +2996,10 @@
     <message>
         <source>未知错误 %1</source>
         <translation>未知错误 %1</translation>
+    </message>
+    <message>
+        <source>设备正在升级</source>
+        <translation>设备正在升级</translation>
     </message>
 </context>
 <context>
@@ -3508,6 +3538,12 @@
         <source>重启设备</source>
         <translation>重启设备</translation>
     </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能重启</source>
+        <translation>
+            <numerusform>勾选的设备中有 %n 台正在升级，不能重启</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SystemResetPanel</name>
@@ -3522,6 +3558,12 @@
     <message>
         <source>请先在左侧勾选设备</source>
         <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</source>
+        <translation>
+            <numerusform>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3737,6 +3779,22 @@
     <message>
         <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
         <translation>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocumentBar</name>
+    <message>
+        <source>升级文档 %1：已完成 %2 / %3 行</source>
+        <extracomment>%1 is a file, %2 of %3 its lines.</extracomment>
+        <translation>升级文档 %1：已完成 %2 / %3 行</translation>
+    </message>
+    <message>
+        <source>停止文档升级</source>
+        <translation>停止文档升级</translation>
+    </message>
+    <message>
+        <source>停止此文档中尚未开始写入的设备</source>
+        <translation>停止此文档中尚未开始写入的设备</translation>
     </message>
 </context>
 <context>
