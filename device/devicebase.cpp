@@ -117,6 +117,13 @@ QVariantMap CDeviceBase::upgradeDocumentProgress()
 }
 
 void CDeviceBase::factoryEnds() {}
+
+void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool) {}
+
+void CDeviceBase::stopOpeningSession() {}
+
+void CDeviceBase::checkSession() {}
+
 void CDeviceBase::snapPictureToFile(const QString &, const QVariant &, const QString &) {}
 
 bool CDeviceBase::hasDeviceUpgrading()

@@ -107,6 +107,18 @@ public:
     /// Lines of the documents of the last startUpgradeByDocument(): "total" of them, "done" with.
     virtual QVariantMap upgradeDocumentProgress();
 
+    /// Sees to it that there is a session with the device: the current one, where the device answers in it,
+    /// else that of a new login, which is then told as findAndLoginDevice() tells it. Returns at once;
+    /// signalCDeviceSessionOpened tells the end, unless another device is logged in to or asked for
+    /// meanwhile. `readsChannels` asks for the channels of a session that goes on, too.
+    virtual void openSession(const QString &ipport, const QString &account, const QString &password,
+                             bool readsChannels);
+    /// Gives up what openSession() began: nothing comes of it any more.
+    virtual void stopOpeningSession();
+    /// Asks whether the device answers in the current session. Returns at once; signalCDeviceSessionChecked
+    /// tells.
+    virtual void checkSession();
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }
@@ -135,6 +147,10 @@ Q_SIGNALS:
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
     void signalCDeviceTunnelBroken(const QString &deviceId, int localPort); ///< no device: all of them
     void signalCDeviceImportProgress(int done, int total); ///< devices of a list, after each of them
+    /// `result` is a LoginResult. `channels` are maps of "channel" (from 0), "name" and "connected"; empty
+    /// when they were not read.
+    void signalCDeviceSessionOpened(const QString &ipport, int result, const QVariantList &channels);
+    void signalCDeviceSessionChecked(bool answers); ///< false also when there is none
 
 protected:
     [[nodiscard]] DeviceStore &store() const { return *m_store; }

@@ -432,3 +432,19 @@ QString CDeviceFactory::importError(const QString &family)
 {
     return forward(family, &CDeviceBase::importError);
 }
+
+void CDeviceFactory::openSession(const QString &family, const QString &ipport, const QString &account,
+                                 const QString &password, bool readsChannels)
+{
+    forward(family, &CDeviceBase::openSession, ipport, account, password, readsChannels);
+}
+
+void CDeviceFactory::stopOpeningSession(const QString &family)
+{
+    forward(family, &CDeviceBase::stopOpeningSession);
+}
+
+void CDeviceFactory::checkSession(const QString &family)
+{
+    forward(family, &CDeviceBase::checkSession);
+}

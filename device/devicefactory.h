@@ -140,6 +140,16 @@ public:
     /// more ("done").
     Q_INVOKABLE QVariantMap upgradeDocumentProgress(const QString &family);
 
+    /// Sees to it, without holding up the scene, that there is a session with the device: the current one,
+    /// where the device answers in it, else that of a new login. signalSessionOpened tells the end, unless
+    /// another device is logged in to or asked for meanwhile.
+    Q_INVOKABLE void openSession(const QString &family, const QString &ipport, const QString &account,
+                                 const QString &password, bool readsChannels);
+    /// Gives up what openSession() began.
+    Q_INVOKABLE void stopOpeningSession(const QString &family);
+    /// Asks, without holding up the scene, whether the device answers in the current session.
+    Q_INVOKABLE void checkSession(const QString &family);
+
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,
@@ -170,6 +180,8 @@ Q_SIGNALS:
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
     void signalTunnelBroken(const QString &deviceId, int localPort);
     void signalImportProgress(int done, int total);
+    void signalSessionOpened(const QString &ipport, int result, const QVariantList &channels);
+    void signalSessionChecked(bool answers);
 
 private:
     void relaySignals(const CDeviceBase &backEnd);

@@ -2036,6 +2036,13 @@ A right click copies the result</translation>
         <source>无法打开文件夹：%1</source>
         <translation>The folder cannot be opened: %1</translation>
     </message>
+    <message numerus="yes">
+        <source>%1，%n 秒后重试</source>
+        <translation>
+            <numerusform>%1. Next try in %n second</numerusform>
+            <numerusform>%1. Next try in %n seconds</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>

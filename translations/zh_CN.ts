@@ -2022,6 +2022,12 @@
         <source>无法打开文件夹：%1</source>
         <translation>无法打开文件夹：%1</translation>
     </message>
+    <message numerus="yes">
+        <source>%1，%n 秒后重试</source>
+        <translation>
+            <numerusform>%1，%n 秒后重试</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>

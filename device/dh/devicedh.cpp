@@ -19,6 +19,8 @@ namespace {
 std::mutex agentListenerMutex;
 CDeviceDH *agentListener = nullptr;
 
+constexpr int maximumSessionThreads = 4;
+
 } // namespace
 
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
@@ -37,6 +39,8 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
                                                                     Qt::QueuedConnection);
                                       }}))
 {
+    // One that does not answer keeps none that does waiting.
+    m_sessionThreads.setMaxThreadCount(maximumSessionThreads);
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
 
@@ -61,10 +65,12 @@ CDeviceDH::~CDeviceDH()
     m_search->requestStop();
     m_snapshots.reset();
     m_upgrades->end();
+    m_sessionThreads.clear();
     endSession();
     m_keptLogins.letAllGo();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
+    m_sessionThreads.waitForDone();
     m_search.reset();
 }
 

@@ -12,6 +12,8 @@
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
 
+#include <QThreadPool>
+
 #include <atomic>
 #include <functional>
 #include <memory>
@@ -21,6 +23,9 @@ class CameraConfig;
 class EncodeConfig;
 class SnapThread;
 class UpgradeRunner;
+struct SecureLogin;
+struct SessionOffer;
+struct SessionOrder;
 struct DeviceListLine;
 
 /// What a search reads from the local configuration.
@@ -74,6 +79,10 @@ public:
     int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password) override;
     QVariantMap readDeviceDetail(const QString &ipport) override;
     int checkLogin(const QString &ipport, const QString &account, const QString &password) override;
+    void openSession(const QString &ipport, const QString &account, const QString &password,
+                     bool readsChannels) override;
+    void stopOpeningSession() override;
+    void checkSession() override;
 
     // Requests to devices that a search has found: devicedhrequests.cpp
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;
@@ -161,13 +170,23 @@ private:
         QString password;
     };
 
+    /// An openSession() that is under way.
+    struct SessionRequest
+    {
+        int number = 0;
+        std::int64_t sessionBefore = 0; ///< handle of the session that there was
+    };
+
     struct Credentials
     {
         QString account;
         QString password;
     };
 
+    void beginSession(const QString &ipport, const QString &account, const QString &password,
+                      const SecureLogin &login);
     void endSession();
+    void takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer);
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
@@ -180,9 +199,7 @@ private:
     /// thread.
     void noteHeldRows();
     void noteUpgradeRoundEnd();
-    [[nodiscard]] QVariantList sessionChannels() const;
     [[nodiscard]] QVariantList sessionConnections() const;
-    [[nodiscard]] bool sessionAnswers() const;
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
     /// Channels of the session's device that are asked for.
     [[nodiscard]] int askedChannels(int wanted) const;
@@ -202,6 +219,8 @@ private:
     const std::function<SearchSettings()> m_searchSettings;
     std::unique_ptr<DeviceSearch> m_search;
     Session m_session;
+    QThreadPool m_sessionThreads;                ///< of openSession()
+    std::atomic<int> m_sessionRequest = 0;       ///< the number of the last openSession() that counts
     std::atomic<int> m_deviceGeneration = 0;     ///< rises when another device is logged in to
     std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
     KeptLogins m_keptLogins;

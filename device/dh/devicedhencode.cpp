@@ -28,10 +28,6 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant &channel)
         return QVariant::fromValue<qint64>(m_loginHandle);
     if (key == QLatin1String("sessionDevice"))
         return m_session.ipport;
-    if (key == QLatin1String("sessionAnswers"))
-        return sessionAnswers();
-    if (key == QLatin1String("liveChannels"))
-        return sessionChannels();
     if (key == QLatin1String("connectedChannels"))
         return sessionConnections();
     if (key == QLatin1String("channelName"))

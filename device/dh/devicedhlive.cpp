@@ -25,33 +25,15 @@ QString folderName(const QString &text)
 
 } // namespace
 
-QVariantList CDeviceDH::sessionChannels() const
-{
-    if (m_session.handle == 0)
-        return {};
-    // One that tells of no channels has one.
-    return liveChannels(ConfigSession(m_libraries, m_session.handle), std::max(m_channels.channelCount, 1));
-}
-
 QVariantList CDeviceDH::sessionConnections() const
 {
     QVariantList connected;
     if (m_session.handle != 0) {
         const ConfigSession session(m_libraries, m_session.handle);
-        for (const bool isConnected : connectedChannels(session, std::max(m_channels.channelCount, 1)))
+        for (const bool isConnected : connectedChannels(session, m_channels.channelCount))
             connected.append(isConnected);
     }
     return connected;
-}
-
-bool CDeviceDH::sessionAnswers() const
-{
-    using namespace std::chrono_literals;
-    if (m_session.handle == 0)
-        return false;
-    const ConfigSession session(m_libraries, m_session.handle);
-    const auto states = std::make_unique<sdk::ChannelStates>();
-    return session.queryChannelStates(*states, 1000ms) || !session.isDeviceAway();
 }
 
 void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address)
@@ -62,7 +44,7 @@ void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNu
         m_snapshots = std::make_unique<SnapThread>();
         connect(m_snapshots.get(), &SnapThread::captured, this, &CDeviceDH::noteSnapshot);
     }
-    const int channelCount = std::max(m_channels.channelCount, 1);
+    const int channelCount = m_channels.channelCount;
     const int onlyChannel = kind == oneChannel ? channelNum.toInt() : -1;
     m_snapshots->take(
         {.kind = kind,

@@ -4,6 +4,7 @@
 #include "device/dh/encodeconfig.h"
 #include "device/dh/logindetail.h"
 #include "device/dh/securelogin.h"
+#include "device/dh/sessionoffer.h"
 #include "sdk/netlibrary.h"
 
 int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account, const QString &password)
@@ -11,22 +12,8 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
     if (!m_libraries.net)
         return resultCode(LoginResult::NetworkFailure);
     const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
-    if (login.result == LoginResult::Success) {
-        if (ipport != m_session.ipport)
-            ++m_deviceGeneration;
-        endSession();
-        m_session = {.loginKind = login.loginKind,
-                     .handle = login.handle,
-                     .ipport = ipport,
-                     .account = account,
-                     .password = password};
-        m_loginHandle = login.handle;
-        m_channels.channelCount = login.channelCount;
-        const ConfigSession session(m_libraries, login.handle);
-        m_channelNames.begin(session);
-        m_encode->begin(session);
-        m_camera->begin(session);
-    }
+    if (login.result == LoginResult::Success)
+        beginSession(ipport, account, password, login);
     Q_EMIT signalCDeviceHighLevelLoginRet(resultCode(login.result));
     return resultCode(login.result);
 }
@@ -50,6 +37,79 @@ QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
     }
     detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
     return detail;
+}
+
+void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,
+                            bool readsChannels)
+{
+    const bool isCurrent = m_session.handle != 0 && m_session.ipport == ipport;
+    const SessionOrder order = {.ipport = ipport,
+                                .account = account,
+                                .password = password,
+                                .handle = isCurrent ? m_session.handle : 0,
+                                .channelCount = isCurrent ? m_channels.channelCount : 0,
+                                .readsChannels = readsChannels};
+    const SessionRequest request = {.number = ++m_sessionRequest, .sessionBefore = m_session.handle};
+    m_sessionThreads.start([this, order, request, libraries = m_libraries] {
+        if (request.number != m_sessionRequest)
+            return; // it has waited for a thread so long that nobody waits for it any more
+        const SessionOffer offer = offerSession(libraries, order);
+        // Dropped with this object, whose end releases every login.
+        QMetaObject::invokeMethod(
+            this, [this, request, order, offer] { takeOffer(request, order, offer); }, Qt::QueuedConnection);
+    });
+}
+
+void CDeviceDH::stopOpeningSession()
+{
+    ++m_sessionRequest;
+}
+
+void CDeviceDH::checkSession()
+{
+    m_sessionThreads.start([this, handle = m_session.handle, libraries = m_libraries] {
+        const bool answers = handle != 0 && answersInSession(ConfigSession(libraries, handle));
+        QMetaObject::invokeMethod(
+            this, [this, answers] { Q_EMIT signalCDeviceSessionChecked(answers); }, Qt::QueuedConnection);
+    });
+}
+
+void CDeviceDH::takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer)
+{
+    const bool isWanted = request.number == m_sessionRequest;
+    const bool isOvertaken = request.sessionBefore != m_session.handle;
+    if (!isWanted || isOvertaken) {
+        if (offer.login.handle != 0)
+            m_libraries.net->NetLogout(offer.login.handle);
+        // Another page has logged in meanwhile. What it did with the same device serves here as well.
+        if (isWanted && m_session.ipport == order.ipport)
+            openSession(order.ipport, order.account, order.password, order.readsChannels);
+        return;
+    }
+    if (offer.login.handle != 0)
+        beginSession(order.ipport, order.account, order.password, offer.login);
+    if (offer.login.handle != 0 || offer.result != LoginResult::Success)
+        Q_EMIT signalCDeviceHighLevelLoginRet(resultCode(offer.result));
+    Q_EMIT signalCDeviceSessionOpened(order.ipport, resultCode(offer.result), offer.channels);
+}
+
+void CDeviceDH::beginSession(const QString &ipport, const QString &account, const QString &password,
+                             const SecureLogin &login)
+{
+    if (ipport != m_session.ipport)
+        ++m_deviceGeneration;
+    endSession();
+    m_session = {.loginKind = login.loginKind,
+                 .handle = login.handle,
+                 .ipport = ipport,
+                 .account = account,
+                 .password = password};
+    m_loginHandle = login.handle;
+    m_channels.channelCount = login.channelCount;
+    const ConfigSession session(m_libraries, login.handle);
+    m_channelNames.begin(session);
+    m_encode->begin(session);
+    m_camera->begin(session);
 }
 
 void CDeviceDH::endSession()

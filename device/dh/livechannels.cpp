@@ -1,5 +1,6 @@
 #include "device/dh/livechannels.h"
 
+#include "device/dh/channelnames.h"
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
 #include "sdk/streamblocks.h"
@@ -14,7 +15,7 @@
 QList<bool> connectedChannels(const ConfigSession &session, int count)
 {
     using namespace std::chrono_literals;
-    QList<bool> connected(std::max(count, 0), true);
+    QList<bool> connected(std::clamp(count, 1, ChannelNames::maximumChannels), true);
     const auto answer = std::make_unique<sdk::ChannelStates>();
     if (!session.queryChannelStates(*answer, 1000ms))
         return connected;

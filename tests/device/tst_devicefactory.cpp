@@ -63,7 +63,10 @@ const QStringList operations = {"startSearch",
                                 "stopImport",
                                 "readDeviceDetail",
                                 "upgradeDocumentResult",
-                                "upgradeDocumentProgress"};
+                                "upgradeDocumentProgress",
+                                "openSession",
+                                "stopOpeningSession",
+                                "checkSession"};
 
 const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSearchCount",
@@ -85,7 +88,9 @@ const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalSnapPictureToFile",
                                  "signalSnapPictureToFileAgain",
                                  "signalTunnelBroken",
-                                 "signalImportProgress"};
+                                 "signalImportProgress",
+                                 "signalSessionOpened",
+                                 "signalSessionChecked"};
 
 /// Own methods of the factory of one kind, in declaration order, without the copies that default arguments
 /// make.
@@ -180,13 +185,22 @@ private Q_SLOTS:
             int number = 40 + index;
             QString text = "text " + QString::number(index);
             QString other = "other " + QString::number(index);
+            QVariantList list = {index, text};
+            bool flag = true;
             QVariantList expected;
             std::array<void *, 4> arguments = {};
             for (int argument = 0; argument < signal.parameterCount(); ++argument) {
-                const bool isInt = signal.parameterMetaType(argument) == QMetaType::fromType<int>();
+                const QMetaType type = signal.parameterMetaType(argument);
                 QString &string = expected.contains(text) ? other : text;
-                arguments[argument + 1] = isInt ? static_cast<void *>(&number) : &string;
-                expected.append(isInt ? QVariant(number) : QVariant(string));
+                if (type == QMetaType::fromType<int>())
+                    arguments[argument + 1] = &number;
+                else if (type == QMetaType::fromType<bool>())
+                    arguments[argument + 1] = &flag;
+                else if (type == QMetaType::fromType<QVariantList>())
+                    arguments[argument + 1] = &list;
+                else
+                    arguments[argument + 1] = &string;
+                expected.append(QVariant(type, arguments[argument + 1]));
             }
             QMetaObject::activate(m_backEnd.get(), &base, index - base.methodOffset(), arguments.data());
             QCOMPARE(spy.size(), 1);

@@ -1,4 +1,5 @@
 // The device that is watched: its login, which is the one that the configuration pages use too, and its channels.
+// What holds a caller up for as long as a device takes is done elsewhere meanwhile.
 import QtQuick
 import configtools
 
@@ -10,35 +11,29 @@ Item {
     property string ipport
     property string name
     property bool loggedIn: false
-    property bool busy: false
-    property int result: 0
+    property bool asking: false        // whether it answers, with a login where it has to be
+    readonly property bool busy: asking && !loggedIn
+    property int result: 0             // a LoginResult
     readonly property string failure: result !== 0 ? deviceFactory.getErrorName(result) : ""
-    property var channels: []  // maps of "channel" (from 0), "name" and "connected"
-    signal opened              // its channels are known
-    signal lost                // another device was logged in to
-    signal renewed             // there is a new session with the same device
-
-    enum Readiness {
-        Ready,    // a stream can be asked for
-        Renewed,  // there is a new session: every stream begins anew
-        Away      // the device does not answer, or does not let the user in
-    }
+    readonly property alias resting: pause.running  // until the next try of a login
+    readonly property alias restSeconds: pause.seconds
+    property var channels: []          // maps of "channel" (from 0), "name" and "connected"
+    signal opened                      // its channels are known
+    signal lost                        // another device was logged in to
+    signal renewed                     // there is a new session with the same device
+    signal answered(bool isThere)      // after look()
 
     /// Whether another account or password may help.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4
 
-    property bool inDoubt: false  // a stream has failed since the last picture: the session may have ended
-    property int rest: shortestRest
-    property double nextCheck: 0  // when a device that was away is looked for again, in ms
-    readonly property int shortestRest: 2000
-    readonly property int longestRest: 32000
+    /// What time may mend. More tries of a wrong password would lock the account.
+    readonly property bool unreachable: result === 5
+
+    property double heard: 0  // when the device answered last, in ms
+    readonly property int freshness: 1000
 
     function sessionDevice() {
         return deviceFactory.getConfigData("dh", "sessionDevice");
-    }
-
-    function sessionAnswers() {
-        return sessionDevice() === ipport && deviceFactory.getConfigData("dh", "sessionAnswers");
     }
 
     function account() {
@@ -48,31 +43,21 @@ Item {
     }
 
     function open(ipport) {
+        close();
         root.ipport = ipport;
         name = deviceFactory.getDeviceInfo("dh", ipport).name ?? "";
-        channels = [];
-        result = 0;
-        loggedIn = false;
-        settle();
-        work(() => {
-            if (sessionAnswers()) {
-                loggedIn = true;
-                readChannels();
-                opened();
-            } else {
-                const known = account();
-                login(known.user, known.password);
-            }
-        });
+        ask();
+    }
+
+    function ask() {
+        const known = account();
+        login(known.user, known.password);
     }
 
     function login(user, password) {
-        result = deviceFactory.findAndLoginDevice("dh", ipport, user, password);
-        loggedIn = result === 0;
-        if (loggedIn) {
-            readChannels();
-            opened();
-        }
+        pause.stop();
+        asking = true;
+        deviceFactory.openSession("dh", ipport, user, password, !loggedIn);
     }
 
     function tryAgain() {
@@ -80,82 +65,98 @@ Item {
         if (accountRefused)
             relogin.wanted().ask(row.mac ?? "", ipport, account().user);
         else
-            open(ipport);
+            ask();
     }
 
     /// A picture came.
-    function settle() {
-        inDoubt = false;
-        rest = shortestRest;
-        nextCheck = 0;
+    function noteAlive() {
+        heard = Date.now();
     }
 
-    /// Asked before a stream is. A device that rebooted has forgotten the session. One that is away holds the window up
-    /// for as long as a login waits for it: it is looked for once for all streams, after rests that grow.
-    function readiness() {
+    /// A stream failed: the session may have ended.
+    function doubt() {
+        heard = 0;
+    }
+
+    /// Looks whether a stream can be asked for: answered() follows. A device that has restarted has forgotten the
+    /// session, and is logged in to anew, once for all streams.
+    function look() {
+        if (asking)
+            return;
         if (!loggedIn)
-            return LiveDevice.Away;
-        if (!inDoubt)
-            return LiveDevice.Ready;
-        if (Date.now() < nextCheck)
-            return LiveDevice.Away;
-        if (sessionAnswers())
-            return LiveDevice.Ready;
-        busy = true;
-        const known = account();
-        const code = deviceFactory.findAndLoginDevice("dh", ipport, known.user, known.password);
-        if (code === 0) {
-            settle();
-            readChannels();
-            Qt.callLater(renewed);
-        } else {
-            nextCheck = Date.now() + rest;
-            rest = Math.min(2 * rest, longestRest);
-            result = code;
-            loggedIn = !accountRefused;  // more tries would lock the account
-        }
-        busy = false;
-        return code === 0 ? LiveDevice.Renewed : LiveDevice.Away;
+            answered(false);
+        else if (Date.now() - heard < freshness)
+            answered(true);
+        else
+            ask();
     }
 
     function close() {
-        paint.work = null;
-        busy = false;
+        relogin.item?.close();
+        pause.settle();
+        if (asking)
+            deviceFactory.stopOpeningSession("dh");
+        asking = false;
         loggedIn = false;
+        result = 0;
         ipport = "";
         channels = [];
+        doubt();
     }
 
-    /// Each of these holds the window up for as long as the device takes.
-    function work(job) {
-        busy = true;
-        paint.run(() => {
-            job();
-            busy = false;
-        });
+    function take(channels) {
+        pause.settle();
+        noteAlive();
+        if (channels.length > 0)
+            root.channels = channels;
+        if (loggedIn) {
+            answered(true);
+        } else {
+            loggedIn = true;
+            opened();
+        }
     }
 
-    function readChannels() {
-        channels = deviceFactory.getConfigData("dh", "liveChannels");
+    function fail() {
+        if (!unreachable)
+            loggedIn = false;
+        else if (!loggedIn)
+            pause.fail();
+        answered(false);  // the streams rest by themselves
     }
 
     visible: false
 
+    GrowingPause {
+        id: pause
+        onOver: root.ask()
+    }
     Connections {
-        enabled: root.loggedIn && !root.busy
+        enabled: root.ipport !== ""
         target: root.deviceFactory
 
+        function onSignalSessionOpened(ipport, result, channels) {
+            if (!root.asking || ipport !== root.ipport)
+                return;
+            root.asking = false;
+            root.result = result;
+            if (result === 0)
+                root.take(channels);
+            else
+                root.fail();
+        }
         function onSignalHighLevelLoginRet(result) {
             if (result !== 0)
                 return;
-            if (root.sessionDevice() !== root.ipport)
+            if (root.sessionDevice() === root.ipport) {
+                if (root.loggedIn)
+                    root.renewed();
+            } else if (root.loggedIn || root.asking) {
                 root.lost();
-            else
-                root.renewed();
+            } else {
+                pause.stop();  // another device is worked with: it is not to be taken away unasked
+            }
         }
-    }
-    OVAfterPaint {
-        id: paint
     }
     // qmllint disable unqualified
     OVOnDemand {
@@ -167,8 +168,7 @@ Item {
                 if (account === "" && password === "")
                     return;
                 root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
-                root.settle();
-                root.work(() => root.login(account, password));
+                root.login(account, password);
             }
         }
     }

@@ -18,7 +18,7 @@ Item {
     readonly property int currentChannel: shownChannels[currentPlace] ?? -1
     readonly property int pages: Math.max(1, Math.ceil(channels.length / places))
     property int page: 0
-    property var readiness: () => LiveDevice.Ready
+    signal asked   // whether the device is there: answer() is awaited
     signal failed  // a picture
     signal pictureCame
 
@@ -67,6 +67,11 @@ Item {
             players.itemAt(place).reconnect();
     }
 
+    function answer(isThere) {
+        for (let place = 0; place < players.count; ++place)
+            players.itemAt(place).answer(isThere);
+    }
+
     readonly property int columns: Math.round(Math.sqrt(places))
     readonly property real cellWidth: Math.floor((width - (columns - 1) * Theme.half) / columns)
     readonly property real cellHeight: Math.floor((height - (columns - 1) * Theme.half) / columns)
@@ -99,10 +104,10 @@ Item {
             figuresShown: root.figuresShown
             mainStream: enlarged || root.places === 1
             objectName: "livePlace" + index
-            readiness: root.readiness
             sounding: root.sounding && root.currentPlace === index
             stretched: root.stretched
             visible: root.enlargedPlace < 0 || enlarged
+            onAsked: root.asked()
             onChosen: root.currentPlace = index
             onEnlargeRequested: {
                 if (root.places > 1)

@@ -18,7 +18,6 @@ T.ApplicationWindow {
             requestActivate();
             return;
         }
-        device.close();
         results.item?.close();  // they are another device's
         grid.sounding = false;
         if (!visible)
@@ -76,6 +75,7 @@ T.ApplicationWindow {
             window.said(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
             window.close();
         }
+        onAnswered: isThere => grid.answer(isThere)
         onOpened: grid.begin()
         onRenewed: grid.reconnect()
     }
@@ -123,9 +123,9 @@ T.ApplicationWindow {
         channels: device.channels
         objectName: "liveGrid"
         visible: device.loggedIn && device.channels.length > 0
-        readiness: () => device.readiness()
-        onFailed: device.inDoubt = true
-        onPictureCame: device.settle()
+        onAsked: device.look()
+        onFailed: device.doubt()
+        onPictureCame: device.noteAlive()
     }
     LiveToolBar {
         id: toolBar
@@ -152,7 +152,8 @@ T.ApplicationWindow {
             actionText: device.busy || device.loggedIn ? ""
                 : device.accountRefused ? qsTr("重新登录") : qsTr("重试")
             busy: device.busy
-            hint: device.busy ? device.ipport : device.failure
+            hint: device.busy ? device.ipport
+                : device.resting ? qsTr("%1，%n 秒后重试", "", device.restSeconds).arg(device.failure) : device.failure
             iconName: "unplugged"
             objectName: "liveEmptyState"
             title: device.busy ? qsTr("正在登录…") : device.loggedIn ? qsTr("没有通道") : qsTr("登录失败")

@@ -16,39 +16,39 @@ FocusScope {
     property bool sounding: false
     property bool figuresShown: false
     property bool compact: false          // a small picture beside something else: words only
-    /// Called before a start, returns a LiveDevice.Readiness: whether the device can be asked now.
-    property var readiness: () => LiveDevice.Ready
     readonly property bool wanted: active && connected && channel >= 0
     readonly property bool playing: video.hasPicture
-    readonly property bool resting: failures > 0 && !connecting && !playing  // until the next try
+    readonly property bool resting: retry.failures > 0 && !connecting && !playing  // until the next try
     readonly property alias video: video
+    signal asked  // before a start, which would hold the window up if the device were away: answer() is awaited
     signal chosen
     signal enlargeRequested
     signal failed
 
     property bool connecting: false
-    property int failures: 0  // one after another
-    property int pause: 0     // seconds until the next try
+    property bool asking: false  // for the answer
     property bool subRefused: false  // the channel has no sub stream: the main one is shown in its place
 
     readonly property int zoomLevels: 20
-    /// Seconds to wait after so many failures.
-    readonly property var pauses: [1, 2, 4, 8, 15, 30]
 
     function begin() {
         retry.stop();
         if (!wanted)
             return;
         connecting = true;
-        starting.run(() => {
-            if (!root.wanted)
-                return;
-            const state = root.readiness();
-            if (state === LiveDevice.Away)
-                root.fail();
-            else if (state === LiveDevice.Ready)
-                root.start();
-        });
+        asking = false;
+        starting.restart();
+    }
+
+    /// Whether the device is there.
+    function answer(isThere) {
+        if (!asking)
+            return;
+        asking = false;
+        if (isThere)
+            start();
+        else
+            fail();
     }
 
     function start() {
@@ -58,15 +58,16 @@ FocusScope {
             subRefused = true;
             if (video.start())
                 return;
+            subRefused = false;
         }
         fail();
     }
 
     function end() {
-        starting.work = null;
-        retry.stop();
+        starting.stop();
+        retry.settle();
         connecting = false;
-        failures = 0;
+        asking = false;
         subRefused = false;
         video.stop();
     }
@@ -74,9 +75,7 @@ FocusScope {
     function fail() {
         video.stop();
         connecting = false;
-        failures += 1;
-        pause = pauses[Math.min(failures, pauses.length) - 1];
-        retry.restart();
+        retry.fail();
         failed();
     }
 
@@ -119,23 +118,23 @@ FocusScope {
         onHasPictureChanged: {
             if (hasPicture) {
                 root.connecting = false;
-                root.failures = 0;
+                retry.settle();
             }
         }
         onVideoErrorSig: root.fail()
     }
-    OVAfterPaint {
-        id: starting
-    }
+    // Once what changes together has changed: the channel, the kind of stream, whether it is wanted.
     Timer {
-        id: retry
-        interval: 1000
-        repeat: true
+        id: starting
+        interval: 0
         onTriggered: {
-            root.pause -= 1;
-            if (root.pause <= 0)
-                root.begin();
+            root.asking = true;
+            root.asked();
         }
+    }
+    GrowingPause {
+        id: retry
+        onOver: root.begin()
     }
 
     MouseArea {
@@ -203,7 +202,7 @@ FocusScope {
             font: Theme.hintFont
             horizontalAlignment: Text.AlignHCenter
             objectName: "liveRetryText"
-            text: qsTr("%n 秒后重试", "", root.pause)
+            text: qsTr("%n 秒后重试", "", retry.seconds)
             visible: root.resting && root.wanted
         }
         OVButton {

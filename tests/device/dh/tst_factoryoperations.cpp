@@ -309,6 +309,30 @@ private:
              [this] {
                  return login(cameraAt) && config("sessionDevice").toString() == cameraAt;
              }},
+            {"openSession",
+             [this] {
+                 QSignalSpy opened(m_factory.get(), &Factory::signalSessionOpened);
+                 m_factory->openSession("dh", cameraAt, "admin", "secret1", false);
+                 return opened.wait() && config("sessionDevice").toString() == cameraAt;
+             }},
+            {"stopOpeningSession",
+             [this] {
+                 m_factory->openSession("dh", cameraAt, "admin", "secret1", false);
+                 const bool isAsked = m_site->requests().waitFor("NetLoginSecure", 1);
+                 m_factory->stopOpeningSession("dh");
+                 const auto isLoggedOut = [this] {
+                     return m_site->requests().of("NetLogout").size() == 1;
+                 };
+                 return isAsked && QTest::qWaitFor(isLoggedOut) &&
+                        config("sessionDevice").toString().isEmpty();
+             }},
+            {"checkSession", inSession(cameraAt,
+                                       [this] {
+                                           QSignalSpy checked(m_factory.get(),
+                                                              &Factory::signalSessionChecked);
+                                           m_factory->checkSession("dh");
+                                           return checked.wait() && checked.first().first().toBool();
+                                       })},
             {"getCameraConfig", inSession(cameraAt,
                                           [this] {
                                               m_factory->getCameraConfig("dh");

@@ -5,6 +5,7 @@ import configtools
 Item {
     id: root
 
+    required property var deviceFactory
     required property int channel
     required property string channelName
     required property bool active     // there is a login
@@ -14,11 +15,20 @@ Item {
     objectName: "channelPicture"
 
     OV_MediaPlayer {
+        id: player
         anchors.fill: parent
         active: root.active
         channel: root.channel
         channelName: root.channelName
         compact: true
         connected: root.connected
+        onAsked: root.deviceFactory.checkSession("dh")
+    }
+    Connections {
+        target: root.deviceFactory
+
+        function onSignalSessionChecked(answers) {
+            player.answer(answers);
+        }
     }
 }

@@ -35,6 +35,7 @@ Item {
             width: parent.width
             active: root.visible && root.work.session.loggedIn
             channel: root.form.channel
+            deviceFactory: root.work.deviceFactory
             connected: root.work.connectedChannels[root.form.channel] ?? true
             channelName: root.form.channelName !== "" ? root.form.channelName
                                                       : qsTr("通道 %1").arg(root.form.channel + 1)

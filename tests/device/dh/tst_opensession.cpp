@@ -1,0 +1,198 @@
+// Sessions that are opened while the scene goes on: the present one where it is alive, else a new login.
+#include "device/dh/channelnames.h"
+#include "sdk/netlibrary.h"
+#include "tests/device/dh/configsite.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using sdk::demo::Fault;
+using sdk::demo::SceneDevice;
+
+namespace {
+
+SceneDevice recorder(int channels = 3)
+{
+    SceneDevice device = configDevice(1, "NVR", channels);
+    device.channels[0].name = "大门";
+    if (channels > 1)
+        device.channels[1].connected = false;
+    return device;
+}
+
+} // namespace
+
+class TestOpenSession : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<QSignalSpy> m_opened;
+    std::unique_ptr<QSignalSpy> m_logins;
+    const SceneDevice m_recorder = recorder();
+    const SceneDevice m_camera = configDevice(2, "IPC", 1);
+
+    void makeSite(const QList<SceneDevice> &devices)
+    {
+        m_site = std::make_unique<ConfigSite>(devices);
+        m_opened = std::make_unique<QSignalSpy>(m_site->factory.get(), &CDeviceFactory::signalSessionOpened);
+        m_logins =
+            std::make_unique<QSignalSpy>(m_site->factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
+    }
+
+    void open(const QString &ipport, const QString &password = "secret1", bool readsChannels = true) const
+    {
+        m_site->factory->openSession("dh", ipport, "admin", password, readsChannels);
+    }
+
+    /// Waits until as many logins have ended as there were.
+    [[nodiscard]] bool everyLoginEnds() const
+    {
+        return QTest::qWaitFor([this] {
+            const auto &requests = m_site->site->requests();
+            return requests.of("NetLoginSecure").size() == requests.of("NetLogout").size();
+        });
+    }
+
+private Q_SLOTS:
+    void init() { makeSite({m_recorder, m_camera}); }
+
+    void cleanup()
+    {
+        m_opened.reset();
+        m_logins.reset();
+        m_site.reset();
+    }
+
+    void aNewLoginBringsTheChannels()
+    {
+        open(ipportOf(m_recorder));
+        QCOMPARE(m_opened->size(), 0); // nothing is waited for
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->first().at(0).toString(), ipportOf(m_recorder));
+        QCOMPARE(m_opened->first().at(1).toInt(), 0);
+        const QVariantList channels = m_opened->first().at(2).toList();
+        QCOMPARE(channels.size(), 3);
+        QCOMPARE(channels.at(0).toMap(),
+                 QVariantMap({{"channel", 0}, {"name", "大门"}, {"connected", true}}));
+        QCOMPARE(channels.at(1).toMap().value("connected").toBool(), false);
+        QCOMPARE(m_logins->size(), 1); // the other pages hear of it
+        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_recorder));
+    }
+
+    void aSessionThatAnswersGoesOn()
+    {
+        QCOMPARE(m_site->login(m_recorder), 0);
+        const QVariant handle = m_site->get("loginHandle");
+        open(ipportOf(m_recorder));
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->first().at(2).toList().size(), 3);
+        m_site->site->requests().clear();
+        open(ipportOf(m_recorder), "secret1", false);
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->last().at(1).toInt(), 0);
+        QVERIFY(m_site->asked("NetGetItem").isEmpty());
+        QVERIFY(m_site->asked("NetLoginSecure").isEmpty());
+        QCOMPARE(m_logins->size(), 1); // of the first login: what is not saved yet is not forgotten
+        QCOMPARE(m_site->get("loginHandle"), handle);
+    }
+
+    void aRestartedDeviceIsLoggedInToAnew()
+    {
+        QCOMPARE(m_site->login(m_recorder), 0);
+        const qint64 handle = m_site->get("loginHandle").toLongLong();
+        m_site->site->setFault(m_recorder.mac, {.fault = Fault::RebootTakes, .number = 1, .text = {}});
+        QVERIFY(m_site->site->libraries().net->NetRebootDevice(handle, std::chrono::seconds(1)));
+        QVERIFY(QTest::qWaitFor([&] {
+            open(ipportOf(m_recorder), "secret1", false);
+            return m_opened->wait() && m_opened->last().at(1).toInt() == 0;
+        }));
+        QVERIFY(m_site->get("loginHandle").toLongLong() != handle);
+        QCOMPARE(m_opened->last().at(2).toList().size(), 3);
+    }
+
+    void refusalsAreTold_data()
+    {
+        QTest::addColumn<QString>("ipport");
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<int>("result");
+        QTest::newRow("wrong password") << ipportOf(m_recorder) << "wrong" << 2;
+        QTest::newRow("nobody there") << "192.168.1.77:37777"
+                                      << "secret1" << 5;
+    }
+
+    void refusalsAreTold()
+    {
+        QFETCH(QString, ipport);
+        QFETCH(QString, password);
+        QCOMPARE(m_site->login(m_camera), 0);
+        const QVariant handle = m_site->get("loginHandle");
+        open(ipport, password);
+        QVERIFY(m_opened->wait());
+        QTEST(m_opened->first().at(1).toInt(), "result");
+        QCOMPARE(m_site->asked("NetLoginSecure").size(), 1);
+        QCOMPARE(m_site->get("loginHandle"), handle); // the session that was there stays
+    }
+
+    void anotherDevicesLoginIsTheNewerWish()
+    {
+        open(ipportOf(m_recorder));
+        QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
+        QCOMPARE(m_site->factory->findAndLoginDevice("dh", ipportOf(m_camera), "admin", "secret1"), 0);
+        QVERIFY(QTest::qWaitFor([this] { return m_site->asked("NetLogout").size() == 1; }));
+        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
+        QCOMPARE(m_opened->size(), 0);
+    }
+
+    void theSameDevicesLoginServes()
+    {
+        open(ipportOf(m_recorder));
+        QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
+        QCOMPARE(m_site->factory->findAndLoginDevice("dh", ipportOf(m_recorder), "admin", "secret1"), 0);
+        const QVariant handle = m_site->get("loginHandle");
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->first().at(1).toInt(), 0);
+        QCOMPARE(m_site->get("loginHandle"), handle);
+        QCOMPARE(m_site->asked("NetLogout").size(), 1);
+    }
+
+    void whatIsGivenUpLeavesNothing()
+    {
+        open(ipportOf(m_recorder));
+        QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
+        m_site->factory->stopOpeningSession("dh");
+        QVERIFY(everyLoginEnds());
+        QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
+        QCOMPARE(m_opened->size(), 0);
+
+        open(ipportOf(m_recorder)); // overtaken by the next
+        open(ipportOf(m_camera));
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->first().at(0).toString(), ipportOf(m_camera));
+        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
+    }
+
+    void channelsBeyondReasonAreLeftOut_data()
+    {
+        QTest::addColumn<int>("told");
+        QTest::addColumn<int>("kept");
+        QTest::newRow("none") << 0 << 1;
+        QTest::newRow("as many as are kept")
+            << ChannelNames::maximumChannels << ChannelNames::maximumChannels;
+        QTest::newRow("too many") << 1500 << ChannelNames::maximumChannels;
+    }
+
+    void channelsBeyondReasonAreLeftOut()
+    {
+        QFETCH(int, told);
+        SceneDevice device = configDevice(3, "NVR", told);
+        device.latency = {};
+        makeSite({device});
+        open(ipportOf(device));
+        QVERIFY(QTest::qWaitFor([this] { return m_opened->size() == 1; }, 60000));
+        QTEST(static_cast<int>(m_opened->first().at(2).toList().size()), "kept");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestOpenSession)
+#include "tst_opensession.moc"
