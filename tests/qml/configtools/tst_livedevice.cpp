@@ -1,0 +1,225 @@
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVariantMap>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+namespace {
+
+const QString device = QStringLiteral("192.168.1.20:37777");
+const QString other = QStringLiteral("192.168.1.21:37777");
+
+const char *const scene =
+    "import QtQuick\n"
+    "import QtQuick.Templates as T\n"
+    "import configtools\n"
+    "T.ApplicationWindow {\n"
+    "    visible: true\n"
+    "    LiveDevice {\n"
+    "        objectName: 'live'; deviceFactory: factory\n"
+    "        localConfig: ({getSearchConfigUsrename: () => 'usual', getSearchConfigPass: () => 'usual-1'})\n"
+    "    }\n"
+    "}\n";
+
+} // namespace
+
+/// Sessions as a test says.
+class SessionFactory : public QObject
+{
+    Q_OBJECT
+public:
+    QStringList asked;   ///< "account password", with "channels" where they are to be read
+    int given = 0;       ///< sessions that are not waited for any more
+    QString sessionWith; ///< the address of the device
+
+    /// Ends what was asked for.
+    void answer(int result, const QString &ipport = device)
+    {
+        const QVariantList channels = {QVariantMap{{"channel", 0}, {"name", "A"}, {"connected", true}}};
+        if (result == 0)
+            sessionWith = ipport;
+        Q_EMIT signalSessionOpened(ipport, result, result == 0 ? channels : QVariantList());
+    }
+    void logInElsewhere(const QString &ipport)
+    {
+        sessionWith = ipport;
+        Q_EMIT signalHighLevelLoginRet(0);
+    }
+
+    Q_INVOKABLE void openSession(const QString &, const QString &, const QString &account,
+                                 const QString &password, bool readsChannels)
+    {
+        asked.append(account + ' ' + password + (readsChannels ? " channels" : ""));
+    }
+    Q_INVOKABLE void stopOpeningSession(const QString &) { ++given; }
+    Q_INVOKABLE QVariant getConfigData(const QString &, const QString &) const { return sessionWith; }
+    Q_INVOKABLE QVariantMap getDeviceInfo(const QString &, const QString &ipport) const
+    {
+        if (ipport == other)
+            return {};
+        return {{"name", "东门"}, {"username", "admin"}, {"password", "secret1"}};
+    }
+    Q_INVOKABLE QString getErrorName(int code) const { return QStringLiteral("result %1").arg(code); }
+
+Q_SIGNALS:
+    void signalSessionOpened(const QString &ipport, int result, const QVariantList &channels);
+    void signalHighLevelLoginRet(int loginRet);
+};
+
+/// The login of the live window, and what it does about a device that is away.
+class TestLiveDevice : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<SessionFactory> m_factory;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QObject *m_live = nullptr;
+    std::unique_ptr<QSignalSpy> m_answered;
+    std::unique_ptr<QSignalSpy> m_lost;
+
+    void open(const QString &ipport = device) const
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_live, "open", Q_ARG(QVariant, ipport)));
+    }
+    void call(const char *function) const { QVERIFY(QMetaObject::invokeMethod(m_live, function)); }
+    QVariant get(const char *name) const { return m_live->property(name); }
+
+private Q_SLOTS:
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+    void init()
+    {
+        m_factory = std::make_unique<SessionFactory>();
+        m_engine = std::make_unique<QQmlEngine>();
+        m_engine->addImportPath("qrc:/qt/qml");
+        m_engine->rootContext()->setContextProperty("factory", m_factory.get());
+        QQmlComponent component(m_engine.get());
+        component.setData(scene, QUrl("qrc:/test.qml"));
+        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_live = m_window->findChild<QObject *>("live");
+        m_answered = std::make_unique<QSignalSpy>(m_live, SIGNAL(answered(bool)));
+        m_lost = std::make_unique<QSignalSpy>(m_live, SIGNAL(lost()));
+    }
+
+    void cleanup()
+    {
+        m_answered.reset();
+        m_lost.reset();
+        m_window.reset();
+        m_engine.reset();
+    }
+
+    void aDeviceThatIsAwayIsTriedAgain()
+    {
+        const QSignalSpy opened(m_live, SIGNAL(opened()));
+        open();
+        QVERIFY(get("busy").toBool());
+        m_factory->answer(5);
+        QVERIFY(!get("busy").toBool());
+        QCOMPARE(get("failure").toString(), "result 5");
+        QCOMPARE(get("restSeconds").toInt(), 1);
+        QTRY_COMPARE(m_factory->asked.size(), 2);
+        QVERIFY(get("busy").toBool());
+        m_factory->answer(5);
+        QCOMPARE(get("restSeconds").toInt(), 2);
+        call("tryAgain"); // at once
+        QCOMPARE(m_factory->asked, QStringList(3, "admin secret1 channels"));
+        m_factory->answer(5);
+        QCOMPARE(get("restSeconds").toInt(), 4);
+        call("tryAgain");
+        m_factory->answer(0);
+        QCOMPARE(opened.size(), 1);
+        QCOMPARE(get("channels").toList().size(), 1);
+        QVERIFY(!get("resting").toBool());
+    }
+
+    void whatTimeDoesNotMendIsNotTriedAgain_data()
+    {
+        QTest::addColumn<int>("result");
+        QTest::newRow("no such account") << 1;
+        QTest::newRow("wrong password") << 2;
+        QTest::newRow("account locked") << 3;
+        QTest::newRow("account logged in") << 4;
+        QTest::newRow("another protocol") << 6;
+        QTest::newRow("not initialised") << 7;
+    }
+
+    void whatTimeDoesNotMendIsNotTriedAgain()
+    {
+        QFETCH(int, result);
+        open();
+        m_factory->answer(result);
+        QVERIFY(!get("resting").toBool() && !get("asking").toBool());
+        QVERIFY(!get("failure").toString().isEmpty());
+
+        open(); // as well when it was logged in to before, for a stream
+        m_factory->answer(0);
+        call("doubt");
+        call("look");
+        m_factory->answer(result);
+        QVERIFY(!get("loggedIn").toBool());
+        call("look");
+        QCOMPARE(m_answered->last().first().toBool(), false);
+        QCOMPARE(m_factory->asked.size(), 3);
+    }
+
+    void theEndOfTheWindowEndsTheTries()
+    {
+        open();
+        m_factory->answer(5);
+        call("close");
+        QVERIFY(!get("resting").toBool());
+        QCOMPARE(m_factory->given, 0);
+        open();
+        call("close");
+        QCOMPARE(m_factory->given, 1);
+        m_factory->answer(0); // too late
+        QVERIFY(!get("loggedIn").toBool());
+    }
+
+    void streamsAreAnsweredForTheDevice()
+    {
+        open();
+        m_factory->answer(0);
+        call("look"); // it has just answered
+        QCOMPARE(m_answered->last().first().toBool(), true);
+        QCOMPARE(m_factory->asked.size(), 1);
+        call("doubt");
+        call("look");
+        call("look"); // of another stream
+        QCOMPARE(m_factory->asked.size(), 2);
+        QCOMPARE(m_factory->asked.last(), "admin secret1"); // its channels are known
+        m_factory->answer(5);
+        QCOMPARE(m_answered->size(), 2);
+        QCOMPARE(m_answered->last().first().toBool(), false);
+        QVERIFY(get("loggedIn").toBool() && !get("resting").toBool()); // the streams rest by themselves
+        call("look");
+        m_factory->answer(0);
+        QCOMPARE(m_answered->last().first().toBool(), true);
+    }
+
+    void anotherDeviceIsNotTakenAway()
+    {
+        open();
+        m_factory->answer(5);
+        m_factory->logInElsewhere(other);
+        QVERIFY(!get("resting").toBool());
+        QCOMPARE(m_lost->size(), 0);
+
+        open(other); // without an account of its own
+        QCOMPARE(m_factory->asked.last(), "usual usual-1 channels");
+        m_factory->answer(0, other);
+        m_factory->logInElsewhere(device);
+        QCOMPARE(m_lost->size(), 1);
+    }
+};
+
+QTEST_MAIN(TestLiveDevice)
+#include "tst_livedevice.moc"
