@@ -70,12 +70,18 @@ bool SnapThread::savePicture(const SnapTask &task, int channel, const QString &f
 {
     VideoItem view;
     view.setChannelId(channel);
-    // Another device may have been logged in to since: its picture must not pass for this one's.
-    if (!view.start() || !task.isDeviceCurrent())
-        return false;
     for (int attempt = 0; attempt < maximumTries && !m_stop.stop_requested(); ++attempt) {
         if (attempt > 0)
             msleep(pauseMilliseconds);
+        // A new login ends the stream with its session.
+        if (attempt == 0 || view.loginHandle() != task.sessionHandle()) {
+            // Another device may have been logged in to since: its picture must not pass for this one's.
+            const bool isBegun = view.start() && task.isDeviceCurrent();
+            if (!isBegun && view.loginHandle() == task.sessionHandle())
+                return false;
+            if (!isBegun)
+                continue;
+        }
         if (view.savePicture(file, quality))
             return true;
     }

@@ -24,6 +24,7 @@ struct SnapTask
     QString kind;                          ///< "liveCapture" or "againCapture", as the signal tells it
     QString folder;                        ///< of the device, one name without separators
     std::function<bool()> isDeviceCurrent; ///< whether the session is still one with that device; any thread
+    std::function<qint64()> sessionHandle; ///< of that session, which a new login replaces; any thread
     std::function<QList<SnapChannel>()> channels; ///< called on the thread of the snapshots: it may block
 };
 

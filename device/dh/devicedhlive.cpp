@@ -51,6 +51,7 @@ void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNu
          .folder = folderName(address),
          .isDeviceCurrent =
              [this, generation = m_deviceGeneration.load()] { return m_deviceGeneration == generation; },
+         .sessionHandle = [this] { return m_loginHandle.load(); },
          .channels =
              [libraries = m_libraries, handle = m_session.handle, channelCount, onlyChannel] {
                  const QList<bool> connected =

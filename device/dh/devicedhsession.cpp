@@ -98,18 +98,21 @@ void CDeviceDH::beginSession(const QString &ipport, const QString &account, cons
 {
     if (ipport != m_session.ipport)
         ++m_deviceGeneration;
-    endSession();
+    const std::int64_t before = m_session.handle;
     m_session = {.loginKind = login.loginKind,
                  .handle = login.handle,
                  .ipport = ipport,
                  .account = account,
                  .password = password};
-    m_loginHandle = login.handle;
+    m_loginHandle = login.handle; // before the other is logged out: snapshots go on in the new session
+    m_channels = {};
     m_channels.channelCount = login.channelCount;
     const ConfigSession session(m_libraries, login.handle);
     m_channelNames.begin(session);
     m_encode->begin(session);
     m_camera->begin(session);
+    if (before != 0)
+        m_libraries.net->NetLogout(before);
 }
 
 void CDeviceDH::endSession()

@@ -176,6 +176,19 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(pathOf("rec", 2)));
     }
 
+    void aNewLoginToTheDeviceLosesNone()
+    {
+        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 300}));
+        QSignalSpy taken(factory(), &CDeviceFactory::signalSnapPictureToFile);
+        factory()->snapPictureToFile("dh", "liveCapture", 0, "rec");
+        QVERIFY(m_site->requests().waitFor("NetStartRealStream", 1));
+        QCOMPARE(factory()->findAndLoginDevice("dh", recorderPort, "admin", "secret1"), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(taken.size(), 3, longWait);
+        QCOMPARE(taken.at(0).at(2).toString(), QString());
+        QCOMPARE(taken.at(2).at(2).toString(), QString());
+        QVERIFY(!QImage(pathOf("rec", 0)).isNull());
+    }
+
     void theEndOfTheProgramGivesThemUp()
     {
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
