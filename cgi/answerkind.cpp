@@ -1,5 +1,7 @@
 #include "cgi/answerkind.h"
 
+#include <QStringDecoder>
+
 #include <array>
 
 namespace {
@@ -19,6 +21,26 @@ constexpr std::array pictureFormats = {
     PictureFormat{.contentType = "image/svg", .ending = ".svg"},
     PictureFormat{.contentType = "image/webp", .ending = ".webp"},
 };
+
+/// "gbk" of "Content-Type: text/plain; charset=GBK", where the last answer says so.
+QByteArray namedEncoding(const QByteArray &headers)
+{
+    const QByteArray text = headers.toLower();
+    const qsizetype begin = qMax(0, text.lastIndexOf("\ncontent-type:") + 1);
+    const QByteArray type = text.mid(begin).split('\n').constFirst();
+    const QByteArray mark = QByteArrayLiteral("charset=");
+    const qsizetype place = type.indexOf(mark);
+    if (place < 0)
+        return {};
+    QByteArray name = type.mid(place + mark.size()).split(';').constFirst();
+    return name.replace('"', "").trimmed();
+}
+
+/// Encodings of two or four bytes a letter have zeroes even in plain text.
+bool isUtf8(const QByteArray &body)
+{
+    return !body.contains('\0') && QByteArrayView(body).isValidUtf8();
+}
 
 } // namespace
 
@@ -44,6 +66,18 @@ QString answerFileEnding(const QByteArray &headers)
             return QLatin1String(format.ending);
     }
     return QStringLiteral(".jpg");
+}
+
+QString answerText(const QByteArray &headers, const QByteArray &body)
+{
+    if (isUtf8(body))
+        return QString::fromUtf8(body);
+    const auto marked = QStringConverter::encodingForData(body);
+    QStringDecoder decoder =
+        marked ? QStringDecoder(*marked) : QStringDecoder(namedEncoding(headers).constData());
+    if (!decoder.isValid())
+        return QString::fromUtf8(body);
+    return decoder.decode(body);
 }
 
 QString answerFilePath(const QString &folder, const QDateTime &localTime, const QString &ending)

@@ -114,7 +114,7 @@ CgiProcedure::Taken CgiProcedure::takeText(HttpConversation &conversation) const
     });
     if (isTooLong)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    return {.text = QString::fromUtf8(body), .failure = failureOf(outcome)};
+    return {.text = answerText(conversation.headerText(), body), .failure = failureOf(outcome)};
 }
 
 CgiProcedure::Taken CgiProcedure::takeFile(HttpConversation &conversation, const QByteArray &headers,

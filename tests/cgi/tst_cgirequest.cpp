@@ -3,6 +3,7 @@
 #include "cgi/cgiprocedure.h"
 #include "cgi/cgirequest.h"
 
+#include <QStringEncoder>
 #include <QTest>
 
 class TestCgiRequest : public QObject
@@ -89,6 +90,46 @@ private Q_SLOTS:
         QFETCH(QByteArray, headers);
         QTEST(answerKind(headers), "kind");
         QTEST(answerFileEnding(headers), "ending");
+    }
+
+    void readsTextsInTheirEncoding_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("text");
+        const QString text = "name=北门\r\n";
+        const auto row = [](const char *name, const char *type, const QByteArray &body, const QString &read) {
+            QTest::newRow(name) << QByteArray(type) << body << read;
+        };
+        const QByteArray gbk("name=\xB1\xB1\xC3\xC5\r\n");
+        const QByteArray utf16 = QStringEncoder(QStringEncoder::Utf16LE).encode(text);
+        row("UTF-8", "text/plain", text.toUtf8(), text);
+        row("UTF-8, announced as another one", "text/plain; charset=ISO-8859-1", text.toUtf8(), text);
+        row("UTF-8 with a mark", "text/plain", "\xEF\xBB\xBF" + text.toUtf8(), text);
+        row("GBK", "text/plain; charset=GBK", gbk, text);
+        row("GB2312 in quotes", "text/html; Charset=\"gb2312\"; x=y", gbk, text);
+        row("UTF-16 with a mark", "text/plain", "\xFF\xFE" + utf16, text);
+        row("UTF-16, announced", "text/plain; charset=utf-16le", utf16, text);
+        row("UTF-16 without a letter beyond ASCII", "text/plain; charset=utf-16le", QByteArray("O\0K\0", 4),
+            "OK");
+        row("not announced", "text/plain", "a=\xB1", QString("a=") + QChar(QChar::ReplacementCharacter));
+        row("announced as nothing known", "text/plain; charset=thing", "a=\xB1",
+            QString("a=") + QChar(QChar::ReplacementCharacter));
+        row("announced as nothing", "text/plain; charset=", "a=\xB1",
+            QString("a=") + QChar(QChar::ReplacementCharacter));
+        row("a 0 in a text", "text/plain", QByteArray("a\0b", 3), QString("a%1b").arg(QChar(QChar::Null)));
+    }
+
+    void readsTextsInTheirEncoding()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(QByteArray, body);
+        // What was refused before does not say how this one is to be read.
+        const QByteArray headers =
+            "HTTP/1.1 401 Unauthorized\r\nContent-Type: text/html; charset=Big5\r\n\r\n"
+            "HTTP/1.1 200 OK\r\nContent-Type: " +
+            type + "\r\nX-Other: charset=Big5\r\n\r\n";
+        QTEST(answerText(headers, body), "text");
     }
 
     void namesFilesByTheClock()
