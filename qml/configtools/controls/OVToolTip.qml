@@ -1,5 +1,5 @@
 // The tool tip of the item that it stands in. It comes into being only while it is shown, since a table has
-// hundreds of places for one.
+// hundreds of places for one. A long text is cut, so that it ends within the window and does not hide most of it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -9,6 +9,9 @@ Loader {
 
     required property string text
     required property bool shown
+    property string footnote  // stands below the text, also where that is cut
+    property int widest: Theme.toolTipWidth
+    readonly property int mostLines: 24
 
     width: parent?.width ?? 0
     height: parent?.height ?? 0
@@ -25,20 +28,37 @@ Loader {
         padding: Theme.unit
         topPadding: 5
         bottomPadding: 5
-        implicitWidth: Math.ceil(Math.min(words.implicitWidth, Theme.toolTipWidth)) + leftPadding + rightPadding
+        implicitWidth: Math.ceil(Math.min(Math.max(words.implicitWidth, note.implicitWidth), root.widest))
+            + leftPadding + rightPadding
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
         closePolicy: T.Popup.NoAutoClose
         delay: Theme.toolTipDelay
         text: root.text
 
-        contentItem: OVParagraph {
-            id: words
-            objectName: "toolTip"
-            color: Theme.colours.bubbleInk
-            elide: Text.ElideRight
-            font: Theme.hintFont
-            maximumLineCount: 12  // of a device's answer or a file's cell, which may be pages
-            text: bubble.text
+        contentItem: Column {
+            OVParagraph {
+                id: words
+                width: bubble.availableWidth
+                color: Theme.colours.bubbleInk
+                elide: Text.ElideRight
+                font: Theme.hintFont
+                maximumLineCount: {
+                    const room = root.Window.height - 2 * bubble.margins - bubble.topPadding - bubble.bottomPadding;
+                    return Math.max(1, Math.min(root.mostLines, Math.floor((room - note.height) / lineHeight)));
+                }
+                objectName: "toolTip"
+                text: bubble.text
+            }
+            OVParagraph {
+                id: note
+                width: bubble.availableWidth
+                height: visible ? implicitHeight : 0
+                color: Theme.colours.bubbleInk
+                font: Theme.hintFont
+                objectName: "toolTipNote"
+                text: root.footnote
+                visible: text !== ""
+            }
         }
 
         background: Rectangle {

@@ -11,13 +11,10 @@ OVTable {
     signal sendRequested(int row)
     signal answerCopyRequested(int row)
 
-    readonly property int tipLength: 1200  // letters and lines of a long answer that a bubble shows
-    readonly property int tipLines: 24
+    readonly property int tipLength: 3000  // letters of a long answer that a bubble shows
 
     function beginningOf(answer) {
-        const lines = answer.slice(0, tipLength).replace(/\s+$/, "").split("\n");
-        const cut = answer.length > tipLength || lines.length > tipLines;
-        return lines.slice(0, tipLines).join("\n") + (cut ? "…" : "");
+        return answer.slice(0, tipLength).replace(/\s+$/, "") + (answer.length > tipLength ? "…" : "");
     }
 
     /// Makes the row the current one, whose command can be typed.
@@ -61,15 +58,17 @@ OVTable {
                 color: answer.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.ink
                 objectName: "cgiAnswer" + answer.rowIndex
                 showsWholeOnHover: false
-                text: answer.words.slice(0, root.tipLength).replace(/\s+/g, " ")
+                text: answer.words.slice(0, 400).replace(/\s+/g, " ")
             }
             HoverHandler {
                 id: pointer
                 enabled: answer.words !== ""
             }
             OVToolTip {
+                footnote: qsTr("\n右键点击可复制结果").trim()
                 shown: pointer.enabled && pointer.hovered
-                text: pointer.hovered ? root.beginningOf(answer.words) + qsTr("\n右键点击可复制结果") : ""
+                text: pointer.hovered ? root.beginningOf(answer.words) : ""
+                widest: Theme.answerTipWidth
             }
             TapHandler {
                 acceptedButtons: Qt.RightButton
