@@ -11,12 +11,14 @@ FocusScope {
     readonly property bool starred: commands.isFavourite(field.text.trim())
     property var offers: []
     property int marked: -1
+    property real placeInWindow: 0  // its upper edge, when commands were last offered
     signal edited
     signal accepted
 
     function offer() {
         offers = field.activeFocus ? commands.matching(field.text) : [];
         marked = -1;
+        placeInWindow = root.mapToItem(null, 0, 0).y;
         if (offers.length > 0)
             list.wanted().open();
         else
@@ -64,7 +66,6 @@ FocusScope {
         accessibleName: qsTr("CGI命令")
         focus: true
         keyFilter: event => root.filterKey(event)
-        maximumLength: 2048
         objectName: "cgiCommandText"
         placeholderText: "/cgi-bin/"
         textFont: Theme.figureFont
@@ -81,7 +82,7 @@ FocusScope {
     OVIconButton {
         id: star
         x: parent.width - width
-        enabled: field.text.trim() !== "" || root.starred
+        enabled: root.commands.canBeKept(field.text.trim()) || root.starred
         focusPolicy: Qt.NoFocus
         iconName: "star"
         iconSize: Theme.boxSize
@@ -99,7 +100,7 @@ FocusScope {
         // qmllint disable unqualified
         sourceComponent: CgiOffers {
             // Above the field where there is no room below it.
-            y: root.mapToItem(null, 0, 0).y + Theme.controlHeight + implicitHeight + 2 * Theme.half > root.Window.height
+            y: root.placeInWindow + Theme.controlHeight + implicitHeight + 2 * Theme.half > root.Window.height
                 ? -implicitHeight - Theme.half : Theme.controlHeight + Theme.half
             width: root.width
             commands: root.commands

@@ -10,6 +10,7 @@ Item {
     property var favourites: []
 
     readonly property int offered: 8
+    readonly property int longestKept: 2048
 
     /// Up to `offered` commands that hold `text`, the favourites first.
     function matching(text) {
@@ -20,6 +21,10 @@ Item {
 
     function isFavourite(command) {
         return favourites.includes(command);
+    }
+
+    function canBeKept(command) {
+        return command !== "" && command.length <= longestKept;
     }
 
     function remember(command) {
