@@ -31,10 +31,21 @@ Rectangle {
         color: Theme.colours.sub
         text: root.label
     }
+    // Knows where its first baseline is, whatever the script; a TextEdit only where that of Latin letters would be.
+    Text {
+        id: baseline
+        width: words.width
+        font: words.font
+        renderType: words.renderType
+        text: words.text
+        textFormat: Text.PlainText
+        visible: false
+        wrapMode: Text.WrapAnywhere
+    }
     TextEdit {
         id: words
         x: Theme.panelLabelWidth + 2 * Theme.unit
-        y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baselineOffset)
+        y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baseline.baselineOffset)
         width: copy.x - x - Theme.unit
         color: Theme.colours.ink
         font: Theme.figureFont
