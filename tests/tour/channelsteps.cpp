@@ -7,6 +7,8 @@
 #include "tests/tour/steps.h"
 
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QJsonObject>
 
@@ -130,8 +132,42 @@ void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"tab0"_s);
 }
 
-/// What the search told, then what a login adds; searched and copied.
-void walkDetailPanel(Driver &driver)
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The open panel's text as a file, which is not written over unasked.
+void exportDetails(Driver &driver, const QString &folder)
+{
+    const QString path = folder + u"/192.168.1.120_8800.txt"_s;
+    const auto saidToast = [&] {
+        return driver.texts(u"toastText"_s).contains(translated("ModifyIPDevices", "已导出到 %1").arg(path));
+    };
+    QDir().mkpath(folder);
+    driver.click(u"detailExportButton"_s);
+    driver.answerFileBox(folder);
+    driver.await(u"the details are written"_s, saidToast);
+    const QByteArray written = contentOf(path);
+    driver.check(written.contains(recorderMac.toLatin1()) && written.contains("554"),
+                 u"the file holds what the search and the login have told"_s);
+    driver.check(!written.contains("Office-2024"), u"and no password"_s);
+    driver.report(u"detail-exported"_s, QFileInfo(path).fileName());
+
+    QFile file(path);
+    driver.check(file.open(QFile::WriteOnly) && file.write("kept") == 4, u"the file is another one"_s);
+    file.close();
+    driver.click(u"detailExportButton"_s);
+    driver.answerFileBox(folder);
+    driver.await(u"the user is asked"_s, [&] { return driver.text(u"messageText"_s).contains(path); });
+    driver.key(Qt::Key_Escape);
+    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.check(contentOf(path) == "kept", u"a file is not written over unasked"_s);
+}
+
+/// What the search told, then what a login adds; searched, copied and exported.
+void walkDetailPanel(Driver &driver, const QString &folder)
 {
     const int row = Rows(driver).rowOf("ipport", recorder);
     QMetaObject::invokeMethod(driver.require(u"deviceTable"_s), "show", Q_ARG(QVariant, row));
@@ -157,6 +193,7 @@ void walkDetailPanel(Driver &driver)
         return list->hasActiveFocus() && list->property("atYEnd").toBool();
     });
     driver.report(u"detail-whole"_s, driver.texts(u"detailValue"_s).join(u", "_s));
+    exportDetails(driver, folder);
     driver.click(u"okButton"_s);
     driver.check(QGuiApplication::clipboard()->text().contains(recorderMac), u"and all of them"_s);
     driver.check(!QGuiApplication::clipboard()->text().contains(u"Office-2024"_s), u"without the password"_s);
@@ -166,10 +203,10 @@ void walkDetailPanel(Driver &driver)
 
 } // namespace
 
-void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site)
+void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
     openNames(driver);
     walkEditing(driver);
     walkSavingNames(driver, site);
-    walkDetailPanel(driver);
+    walkDetailPanel(driver, folder);
 }

@@ -1,31 +1,14 @@
 #include "tests/tour/driver.h"
+#include "tests/tour/openedaddresses.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QQuickItem>
-#include <QUrl>
 
 namespace {
-
-/// Takes the addresses that the program would open in a browser.
-class Browser : public QObject
-{
-    Q_OBJECT
-public:
-    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "open"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("http")); }
-    [[nodiscard]] QString opened() const { return m_opened; }
-
-public Q_SLOTS:
-    void open(const QUrl &url) { m_opened = url.toString(); }
-
-private:
-    QString m_opened;
-};
 
 void expectMessage(const Driver &driver, const char *context, const char *message)
 {
@@ -188,11 +171,11 @@ void walkDetails(Driver &driver)
     driver.key(Qt::Key_Escape);
     awaitClosed(driver, QStringLiteral("detailList"));
 
-    const Browser browser;
+    const OpenedAddresses pages(QStringLiteral("http"));
     driver.click(QStringLiteral("web1"));
     const QString address = rows.value(1, "ipport").toString().section(QLatin1Char(':'), 0, 0);
-    driver.check(browser.opened().startsWith(QLatin1String("http://") + address),
-                 QStringLiteral("the web page is opened: %1").arg(browser.opened()));
+    driver.check(pages.last().toString().startsWith(QLatin1String("http://") + address),
+                 QStringLiteral("the web page is opened: %1").arg(pages.last().toString()));
 }
 
 void walkDeleting(Driver &driver)
@@ -223,5 +206,3 @@ void walkDevices(Driver &driver)
     walkDetails(driver);
     walkDeleting(driver);
 }
-
-#include "devicesteps.moc"

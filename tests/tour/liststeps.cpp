@@ -1,5 +1,4 @@
 #include "tests/tour/driver.h"
-#include "tests/tour/filebox.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 

@@ -127,7 +127,7 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkTable(driver);
     walkWindow(driver);
     walkConfiguration(driver, site);
-    walkChannelNames(driver, site);
+    walkChannelNames(driver, site, folder + QStringLiteral("/details"));
     walkLive(driver, site, folder + QStringLiteral("/live"));
     walkCommands(driver, folder + QStringLiteral("/commands"));
     walkAdding(driver);

@@ -26,8 +26,9 @@ void walkAdding(Driver &driver);
 void walkSystem(Driver &driver);
 /// Encode and image settings of single devices, and copying them to others, of which one can do less.
 void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site);
-/// The names of a recorder's channels, and the panel with everything that is known of a device.
-void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site);
+/// The names of a recorder's channels, and the panel with everything that is known of a device, which is
+/// written into `folder`.
+void walkChannelNames(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// Live pictures of a camera and of a recorder, and snapshots; their pictures go into `folder`.
 void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// Commands over HTTP to one device, to several, and from a workbook, which is written into `folder`.

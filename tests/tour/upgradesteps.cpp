@@ -2,7 +2,7 @@
 #include "device/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sheets/qexcel.h"
-#include "tests/tour/filebox.h"
+#include "tests/tour/openedaddresses.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
@@ -108,6 +108,26 @@ void expectHold(const Driver &driver)
     });
 }
 
+/// The main page leaves a device alone that is upgraded.
+void expectRowHeldBack(const Driver &driver, const QString &mac)
+{
+    driver.click(u"tab0"_s);
+    const int row = Rows(driver).rowOf("mac", mac);
+    QMetaObject::invokeMethod(driver.require(u"deviceTable"_s), "show", Q_ARG(QVariant, row));
+    const QString edit = u"edit%1"_s.arg(row);
+    driver.check(!driver.require(edit)->isEnabled(), u"its address cannot be changed"_s);
+    driver.hover(edit);
+    driver.await(u"it is said why"_s, [&] {
+        return driver.texts(u"toolTip"_s).contains(said("ModifyIPActions", "设备正在升级，不能修改IP地址"));
+    });
+    const QString box = u"check%1"_s.arg(row);
+    driver.click(box);
+    driver.await(u"it cannot be deleted"_s, [&] { return !driver.require(u"deleteButton"_s)->isEnabled(); });
+    driver.click(box);
+    driver.await(u"others can"_s, [&] { return driver.require(u"deleteButton"_s)->isEnabled(); });
+    driver.click(u"tab1"_s);
+}
+
 void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &firmware)
 {
     const Rows rows(driver, u"upgradeTable"_s);
@@ -129,7 +149,7 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     for (const int row : places)
         driver.click(u"check%1"_s.arg(row));
     driver.click(u"upgradeFileButton"_s);
-    answerFileBox(driver, firmware);
+    driver.answerFileBox(firmware);
     driver.await(u"each has the file"_s, [&] {
         return std::all_of(places.cbegin(), places.cend(),
                            [&](int row) { return rows.value(row, "filepath").toString() == firmware; });
@@ -145,6 +165,7 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     driver.click(u"upgradeStop%1"_s.arg(places.at(3)));
     driver.await(u"one is stopped"_s, [&] { return result(3) == UpgradeTools::Stopped; });
     expectHold(driver);
+    expectRowHeldBack(driver, rows.value(places.at(2), "mac").toString()); // stands still for long
     driver.await(u"one writes"_s, [&] {
         return result(0) == UpgradeTools::Writing || result(4) == UpgradeTools::Writing ||
                result(5) == UpgradeTools::Writing;
@@ -205,11 +226,20 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
     for (const int row : usableRows(driver, rows, site, 3))
         addresses.append(rows.value(row, "ipport").toString());
     const QString path = writeDocument(driver, addresses, folder);
+    const OpenedAddresses files(u"file"_s);
+    driver.click(u"upgradeTemplateButton"_s);
+    const QString opened = files.last().toLocalFile();
+    driver.check(QFileInfo(opened).isFile() &&
+                     QFileInfo(opened).fileName() == UpgradeTools::templateFileName(),
+                 u"the template is opened: %1"_s.arg(opened));
     driver.click(u"upgradeDocumentButton"_s);
-    answerFileBox(driver, path);
+    driver.answerFileBox(path);
     driver.require(u"upgradeReportTable"_s);
     driver.report(u"upgrade-document"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
+    driver.await(u"two of three lines are done"_s,
+                 [&] { return driver.text(u"upgradeDocumentText"_s).contains(u"2 / 3"_s); });
+    driver.report(u"upgrade-document-running"_s, driver.text(u"upgradeDocumentText"_s));
     driver.await(
         u"what has come of it is told"_s,
         [&] { return driver.text(u"messageText"_s).contains(QDir::toNativeSeparators(path)); }, 40);
