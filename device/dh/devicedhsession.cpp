@@ -1,4 +1,6 @@
 // The current session.
+#include "device/devicerow.h"
+#include "device/devicestore.h"
 #include "device/dh/cameraconfig.h"
 #include "device/dh/devicedh.h"
 #include "device/dh/encodeconfig.h"
@@ -23,6 +25,11 @@ int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const Q
     const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
     if (login.handle != 0)
         m_libraries.net->NetLogout(login.handle);
+    // A device that waits for its first password takes no login and does not say why. Only what it refuses is
+    // judged by its row, which may be older than the password.
+    const QJsonValue state = store().rowAt(ipport).value(DeviceRowKey::state);
+    if (login.result == LoginResult::NotSupported && state.isBool() && !state.toBool())
+        return resultCode(LoginResult::NotInitialised);
     return resultCode(login.result);
 }
 

@@ -247,6 +247,9 @@ private Q_SLOTS:
         QCOMPARE(tryToLogIn(password), login);
         if (login == 3)
             QCOMPARE(tryToLogIn(password), login); // it stays locked
+        // A check of a listed device knows what a login by hand does not: that it has no password yet.
+        const QString ipport = address + ':' + port;
+        QCOMPARE(m_factory->checkLogin("dh", ipport, "admin", password), login == 12 ? 7 : login);
         m_factory->modifyIP("dh", mac, "192.168.1.250", "255.255.255.0", "192.168.1.1", false);
         QCOMPARE(row(mac).value("res").toInt(), modification);
         QTEST(m_factory->getErrorName(modification != 0 ? modification : login), "name");
