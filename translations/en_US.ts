@@ -417,6 +417,10 @@
             <numerusform>%n devices did not accept it, see their results</numerusform>
         </translation>
     </message>
+    <message>
+        <source>命令已执行，没有可显示的结果。</source>
+        <translation>The command was carried out. There is no result to show.</translation>
+    </message>
 </context>
 <context>
     <name>CgiTable</name>

@@ -414,6 +414,10 @@
             <numerusform>%n 台设备未成功，请查看结果</numerusform>
         </translation>
     </message>
+    <message>
+        <source>命令已执行，没有可显示的结果。</source>
+        <translation>命令已执行，没有可显示的结果。</translation>
+    </message>
 </context>
 <context>
     <name>CgiTable</name>

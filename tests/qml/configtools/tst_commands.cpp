@@ -1,4 +1,5 @@
-// The field of a command with what it offers, and the bubble that shows a device's answer.
+// The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
+// answer.
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -6,6 +7,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QSignalSpy>
 #include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
 
@@ -18,7 +20,11 @@ const char *const scene = "import QtQuick\n"
                           "import configtools\n"
                           "T.ApplicationWindow {\n"
                           "    width: 1000; height: 400; visible: true\n"
-                          "    CgiCommands { id: known; cgiManager: memory }\n"
+                          "    CgiCommands { id: known; cgiManager: program }\n"
+                          "    CgiSender {\n"
+                          "        objectName: 'sender'; commands: known; cgiManager: program\n"
+                          "        deviceFactory: program; deviceTable: program; localConfig: program\n"
+                          "    }\n"
                           "    CgiCommandField { objectName: 'command'; x: 500; commands: known }\n"
                           "    Item {\n"
                           "        objectName: 'answer'; x: 300; y: 200; width: 100; height: 34\n"
@@ -46,11 +52,17 @@ QQuickItem *findBelow(QQuickItem *item, const QString &name)
 
 } // namespace
 
-/// Stands for the object that sends commands and remembers them.
-class Memory : public QObject
+/// Stands for what the page works with: a list of one device, and the object that sends commands and
+/// remembers them.
+class Program : public QObject
 {
     Q_OBJECT
 public:
+    QVariantMap device;
+    int tunnelPort = 0;
+    QString answer;
+    QStringList sent;
+
     Q_INVOKABLE [[nodiscard]] static QStringList recentCommands()
     {
         QStringList commands;
@@ -59,12 +71,33 @@ public:
         return commands;
     }
     Q_INVOKABLE [[nodiscard]] static QStringList favouriteCommands() { return {}; }
+    Q_INVOKABLE static void rememberCommand(const QString &) {}
+    Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &password,
+                                        const QString &ipport)
+    {
+        sent = QStringList{url, user, password, ipport};
+        return answer;
+    }
+    Q_INVOKABLE [[nodiscard]] static QString getSearchConfigUsrename() { return "admin"; }
+    Q_INVOKABLE [[nodiscard]] static QString getSearchConfigPass() { return "secret1"; }
+    Q_INVOKABLE [[nodiscard]] QVariantMap get(int) const { return device; }
+    Q_INVOKABLE [[nodiscard]] QVariantMap getDeviceInfo(const QString &, const QString &) const
+    {
+        return device;
+    }
+    Q_INVOKABLE [[nodiscard]] int getP2PWebPort(int) const { return tunnelPort; }
+    Q_INVOKABLE void updataDeviceInfo(const QString &, const QString &key, const QVariant &value,
+                                      const QString &, const QString &)
+    {
+        device.insert(key, value);
+    }
+    Q_INVOKABLE static void refreshDevice(const QString &) {}
 };
 
 class TestCommands : public QObject
 {
     Q_OBJECT
-    Memory m_memory;
+    std::unique_ptr<Program> m_program;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
 
@@ -89,9 +122,10 @@ private Q_SLOTS:
 
     void init()
     {
+        m_program = std::make_unique<Program>();
         m_engine = std::make_unique<QQmlEngine>();
         m_engine->addImportPath("qrc:/qt/qml");
-        m_engine->rootContext()->setContextProperty("memory", &m_memory);
+        m_engine->rootContext()->setContextProperty("program", m_program.get());
         QQmlComponent component(m_engine.get());
         component.setData(scene, QUrl("qrc:/test.qml"));
         m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
@@ -142,6 +176,46 @@ private Q_SLOTS:
         QTest::keyClick(m_window.get(), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(find("command")->property("text").toString(), command);
         QVERIFY(!find("cgiStarButton")->isEnabled()); // the memory would not keep it
+    }
+
+    void sendsTheCommandOfARow_data()
+    {
+        QTest::addColumn<QString>("ipport");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("url"); // empty: nothing is sent
+        QTest::addColumn<QString>("said");
+        const auto row = [](const char *name, const char *ipport, const char *command, const char *answer,
+                            const char *url, const char *said) {
+            QTest::newRow(name) << ipport << command << answer << url << said;
+        };
+        row("web port", "10.0.0.1:37777", " /cgi-bin/a ", "OK", "http://10.0.0.1:8080/cgi-bin/a", "");
+        row("tunnel", "127.0.0.1:5000", "/cgi-bin/a", "OK", "http://127.0.0.1:5001/cgi-bin/a", "");
+        row("failure", "10.0.0.1:37777", "/cgi-bin/a", "Error:", "http://10.0.0.1:8080/cgi-bin/a", "");
+        row("no text", "10.0.0.1:37777", "/cgi-bin/a", "", "http://10.0.0.1:8080/cgi-bin/a",
+            "命令已执行，没有可显示的结果。");
+        row("no command", "10.0.0.1:37777", "  ", "OK", "", "请填写CGI命令的具体内容。");
+        row("no slash", "10.0.0.1:37777", "cgi-bin/a", "OK", "", "URL格式错误。");
+        row("with a host", "10.0.0.1:37777", "http://10.0.0.1/cgi-bin/a", "OK", "", "URL格式错误。");
+    }
+
+    void sendsTheCommandOfARow()
+    {
+        QFETCH(QString, ipport);
+        QFETCH(QString, command);
+        QFETCH(QString, answer);
+        QFETCH(QString, url);
+        m_program->device = {{"ipport", ipport}, {"identity", "02:00"}, {"httpport", 8080}, {"url", command}};
+        m_program->tunnelPort = 5001;
+        m_program->answer = answer;
+        QObject *sender = m_window->findChild<QObject *>("sender");
+        QSignalSpy said(sender, SIGNAL(said(QString, int)));
+        QVERIFY(QMetaObject::invokeMethod(sender, "send", Q_ARG(QVariant, 0)));
+        QTRY_VERIFY(!sender->property("running").toBool());
+        QCOMPARE(m_program->sent,
+                 url.isEmpty() ? QStringList() : QStringList({url, "admin", "secret1", ipport}));
+        QCOMPARE(m_program->device.value("result").toString(), url.isEmpty() ? QString() : answer);
+        QTEST(said.value(0).value(0).toString(), "said");
     }
 
     void aLongAnswerEndsInTheWindow_data()

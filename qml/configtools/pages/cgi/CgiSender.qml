@@ -44,6 +44,7 @@ Item {
         return "http://" + ip + ":" + (webPort ?? 80) + command;
     }
 
+    /// Returns the answer.
     function sendOne(row, command) {
         const answer = cgiManager.singleCGIConfig(addressOf(row.ipport, command),
                                                   localConfig.getSearchConfigUsrename(),
@@ -53,7 +54,7 @@ Item {
         whole[row.identity] = answer.length > kept ? answer : undefined;
         deviceFactory.updataDeviceInfo("dh", "result", answer.slice(0, kept), row.identity, row.ipport);
         deviceTable.refreshDevice(row.identity);
-        return !answer.startsWith("Error:");
+        return answer;
     }
 
     /// Sends the command of one row.
@@ -65,8 +66,12 @@ Item {
             said(fault, OVToast.Error);
             return;
         }
+        let answer = "";
         commands.remember(command);
-        batch.start(1, () => sendOne(values, command), () => values.ipport, () => {});
+        batch.start(1, () => answer = sendOne(values, command), () => values.ipport, () => {
+            if (answer === "")
+                said(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
+        });
     }
 
     /// Sends one command to each of these rows.
@@ -74,7 +79,7 @@ Item {
         let failed = 0;
         commands.remember(command);
         batch.start(rows.length, i => {
-            if (!sendOne(rows[i], command))
+            if (sendOne(rows[i], command).startsWith("Error:"))
                 failed += 1;
         }, i => rows[i].ipport, done => {
             if (done < rows.length)
