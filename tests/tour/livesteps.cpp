@@ -1,5 +1,8 @@
+#include "device/devicefactory.h"
+#include "device/loginresult.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
+#include "sdk/netlibrary.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
@@ -19,6 +22,7 @@ namespace {
 const QString camera = u"192.168.1.101:8800"_s;
 const QString cameraMac = u"02:1a:c5:00:40:25"_s;
 const QString recorder = u"192.168.1.120:8800"_s;
+const QString recorderMac = u"02:1a:c5:00:40:72"_s;
 
 /// Looks a device up in the main window and asks for its live picture.
 QQuickWindow *openLive(Driver &driver, const QString &ipport)
@@ -40,6 +44,12 @@ QQuickWindow *openLive(Driver &driver, const QString &ipport)
         return window && window->isExposed();
     });
     return window;
+}
+
+void closeLive(const Driver &driver, const Driver &live)
+{
+    live.click(u"liveCloseButton"_s);
+    driver.await(u"the live window is closed"_s, [&] { return !live.window()->isVisible(); });
 }
 
 QQuickItem *videoIn(const Driver &live, int place)
@@ -201,6 +211,28 @@ void walkSnapshots(Driver &live)
     live.await(u"the snapshots are closed"_s, [&] { return !live.find(u"snapshotGrid"_s); });
 }
 
+/// The window is opened while its device restarts: the picture comes by itself.
+void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
+{
+    constexpr int restartSeconds = 8; // longer than one try of a login
+    site.setFault(recorderMac,
+                  {.fault = sdk::demo::Fault::RebootTakes, .number = restartSeconds, .text = {}});
+    CDeviceFactory &factory = *CDeviceFactory::getinstance();
+    const qint64 session = factory.getConfigData(u"dh"_s, u"loginHandle"_s).toLongLong();
+    driver.check(site.libraries().net->NetRebootDevice(session, std::chrono::seconds(1)),
+                 u"the recorder restarts"_s);
+    openLive(driver, recorder);
+    const QString failure = factory.getErrorName(resultCode(LoginResult::NetworkFailure));
+    live.await(u"it says when it tries again"_s, [&] {
+        const QString told = live.text(u"emptyHint"_s);
+        return told.startsWith(failure) && told != failure;
+    });
+    live.report(u"device-restarts"_s, live.text(u"emptyHint"_s));
+    awaitPictures(live, 4);
+    live.report(u"device-restarted"_s, live.text(u"liveTitle"_s));
+    site.clearFault(recorderMac, sdk::demo::Fault::RebootTakes);
+}
+
 } // namespace
 
 void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
@@ -212,8 +244,9 @@ void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
     openLive(driver, recorder);
     walkRecorder(live);
     walkSnapshots(live);
-    live.click(u"liveCloseButton"_s);
-    driver.await(u"the live window is closed"_s, [&] { return !live.window()->isVisible(); });
+    closeLive(driver, live);
+    walkRestart(driver, live, site);
+    closeLive(driver, live);
     driver.activate();
     driver.fill(u"searchField"_s, QString());
     driver.key(Qt::Key_Escape);
