@@ -63,6 +63,8 @@ QString UpgradeTools::text(int result)
         return tr("已停止，设备未改动");
     case Cut:
         return tr("程序退出，升级中断");
+    case VersionUnknown:
+        return tr("设备已恢复，但无法确认版本");
     }
     return tr("未知错误 %1").arg(result);
 }

@@ -45,7 +45,8 @@ public:
         NotBack = 24,
         KeptVersion = 25,
         Stopped = 26,
-        Cut = 27, ///< the program ended
+        Cut = 27,            ///< the program ended
+        VersionUnknown = 28, ///< the device is back, and nothing says which firmware it has
     };
     Q_ENUM(Result)
 

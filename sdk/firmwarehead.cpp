@@ -18,10 +18,14 @@ bool isDigit(char letter)
     return letter >= '0' && letter <= '9';
 }
 
+bool isLetterOrDigit(char letter)
+{
+    return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') || isDigit(letter);
+}
+
 bool isModelLetter(char letter)
 {
-    const bool isLetter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
-    return isLetter || isDigit(letter) || letter == '-' || letter == '/' || letter == '.' || letter == '+';
+    return isLetterOrDigit(letter) || letter == '-' || letter == '/' || letter == '.' || letter == '+';
 }
 
 bool isModel(std::string_view text)
@@ -29,14 +33,25 @@ bool isModel(std::string_view text)
     return !text.empty() && text.size() <= longestModel && std::ranges::all_of(text, isModelLetter);
 }
 
-/// Numbers with dots between: "2.900.0". What follows a blank or a comma, a date of the build, is left.
+/// The numbers that a version begins with: "2.900.0" of "2.900.0.R".
+std::string_view numbersOf(std::string_view version)
+{
+    std::string_view numbers = version.substr(0, version.find_first_not_of("0123456789."));
+    while (numbers.ends_with('.'))
+        numbers.remove_suffix(1);
+    return numbers;
+}
+
+/// At least two numbers with dots between, and then parts of letters: "2.900.0", "2.900.0.R".
 bool isVersion(std::string_view text)
 {
-    if (text.empty() || text.size() > longestVersion || !isDigit(text.front()) || !isDigit(text.back()))
+    if (text.empty() || text.size() > longestVersion || !isDigit(text.front()) ||
+        !isLetterOrDigit(text.back()))
         return false;
-    const bool isNumbers =
-        std::ranges::all_of(text, [](char letter) { return isDigit(letter) || letter == '.'; });
-    return isNumbers && text.find('.') != std::string_view::npos && text.find("..") == std::string_view::npos;
+    const bool isOfParts =
+        std::ranges::all_of(text, [](char letter) { return isLetterOrDigit(letter) || letter == '.'; });
+    return isOfParts && numbersOf(text).find('.') != std::string_view::npos &&
+           text.find("..") == std::string_view::npos;
 }
 
 std::string_view trimmed(std::string_view text)
@@ -46,6 +61,15 @@ std::string_view trimmed(std::string_view text)
     if (first == std::string_view::npos)
         return {};
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// A version without what devices and files put around it: a "v" before, the date of the build behind.
+std::string_view plainVersion(std::string_view version)
+{
+    version = trimmed(version);
+    if (version.starts_with('v') || version.starts_with('V'))
+        version.remove_prefix(1);
+    return version.substr(0, version.find_first_of(" \t,"));
 }
 
 /// Takes what is before the next `end` off `text`, and the `end` too.
@@ -69,7 +93,7 @@ std::vector<std::string> modelsIn(std::string_view list)
     return models;
 }
 
-bool isSameModel(std::string_view one, std::string_view other)
+bool isSameText(std::string_view one, std::string_view other)
 {
     const auto lower = [](char letter) {
         return std::tolower(static_cast<unsigned char>(letter));
@@ -89,8 +113,8 @@ bool takeLine(std::string_view line, FirmwareHead &head)
         return !head.models.empty();
     }
     if (key == "version") {
-        head.version = value;
-        return isVersion(value);
+        head.version = plainVersion(value);
+        return isVersion(head.version);
     }
     return !key.empty();
 }
@@ -101,7 +125,22 @@ bool FirmwareHead::fits(std::string_view model) const
 {
     const std::string_view wanted = trimmed(model);
     return models.empty() || wanted.empty() ||
-           std::ranges::any_of(models, [wanted](const std::string &own) { return isSameModel(own, wanted); });
+           std::ranges::any_of(models, [wanted](const std::string &own) { return isSameText(own, wanted); });
+}
+
+bool isSameVersion(std::string_view one, std::string_view other)
+{
+    one = plainVersion(one);
+    other = plainVersion(other);
+    const std::string_view numbers = numbersOf(one);
+    if (numbers.empty() || numbers != numbersOf(other))
+        return false;
+    const std::string_view oneLetters = one.substr(numbers.size());
+    const std::string_view otherLetters = other.substr(numbers.size());
+    const auto hasLetters = [](std::string_view text) {
+        return std::ranges::any_of(text, isLetterOrDigit);
+    };
+    return !hasLetters(oneLetters) || !hasLetters(otherLetters) || isSameText(oneLetters, otherLetters);
 }
 
 FirmwareHeadReading readFirmwareHead(std::string_view bytes)
@@ -134,9 +173,7 @@ std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName)
         fileName = fileName.substr(0, dot);
     FirmwareHead head;
     head.models = modelsIn(takeUntil(fileName, '_'));
-    std::string_view version = takeUntil(fileName, '_');
-    if (version.starts_with('v') || version.starts_with('V'))
-        version.remove_prefix(1);
+    const std::string_view version = plainVersion(takeUntil(fileName, '_'));
     // A word in front of the version, "Upgrade_2.900.0.bin", is no model: those have figures.
     const bool areModels = !head.models.empty() && std::ranges::all_of(head.models, [](const auto &model) {
         return std::ranges::any_of(model, isDigit);

@@ -15,7 +15,7 @@ inline constexpr std::size_t longestFirmwareHead = 4096;
 struct FirmwareHead
 {
     std::vector<std::string> models; ///< that the file is for; none when it does not tell
-    std::string version;             ///< "2.900.0"; empty when it does not tell
+    std::string version;             ///< "2.900.0", "2.900.0.R"; empty when it does not tell
 
     /// Whether the file is for this model. One that names no models, and a model that is not known, fit.
     [[nodiscard]] bool fits(std::string_view model) const;
@@ -41,8 +41,14 @@ struct FirmwareHeadReading
 ///     version=2.900.0
 ///     (an empty line)
 ///
-/// Other keys are passed over, and a line may end with CR LF.
+/// Other keys are passed over, a line may end with CR LF, and what follows a version behind a blank or a
+/// comma, as the date of a build does, is no part of it.
 [[nodiscard]] FirmwareHeadReading readFirmwareHead(std::string_view bytes);
+
+/// Whether two versions name the same firmware, as files and devices write them: with or without a "v"
+/// before, and with anything behind a blank or a comma. Letters behind the numbers, as in "2.900.0.R", count
+/// only when both have some. False when one of them has no number.
+[[nodiscard]] bool isSameVersion(std::string_view one, std::string_view other);
 
 /// What a file is for by its name, without the folder: "B-2230-IR,B-2231-IR_2.900.0.bin", with or without a
 /// "v" before the version, and with anything behind a further "_". Nothing for other names.

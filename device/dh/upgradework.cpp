@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -20,6 +21,7 @@ constexpr auto attributesWait = 3000ms;
 constexpr auto startWait = 10000ms;
 constexpr auto lookInterval = 200ms;    ///< between two looks at the news
 constexpr auto returnInterval = 1000ms; ///< between two tries to log in again
+constexpr auto versionWait = 10000ms;   ///< for a version of a device that lets in again
 
 // How the phases share the percent of an upgrade.
 constexpr int writingFrom = 70;
@@ -33,7 +35,12 @@ public:
     static QString cannotStop() { return tr("已开始写入，无法停止"); }
     static QString done(const QString &before, const QString &now)
     {
-        return tr("升级成功：%1 → %2").arg(before, now);
+        return before.isEmpty() ? tr("升级成功：%1").arg(now) : tr("升级成功：%1 → %2").arg(before, now);
+    }
+    static QString noVersion(const QString &reason) { return tr("%1：未读到版本号").arg(reason); }
+    static QString nothingToCompare(const QString &reason, const QString &now)
+    {
+        return tr("%1：现为 %2，升级前的版本未知").arg(reason, now);
     }
     static QString failedAt(const QString &reason, int percent)
     {
@@ -76,21 +83,6 @@ UpgradeTools::Result resultOfError(std::uint32_t error)
     default:
         return isDeviceAway(error) ? UpgradeTools::NoAnswer : UpgradeTools::Failed;
     }
-}
-
-/// A version without what devices put around it: a "v" before, a date behind.
-QString plainVersion(const QString &version)
-{
-    QString plain = version.trimmed();
-    if (plain.startsWith(QLatin1Char('v'), Qt::CaseInsensitive))
-        plain.remove(0, 1);
-    const auto isPart = [](QChar letter) {
-        return (letter >= u'0' && letter <= u'9') || letter == u'.';
-    };
-    qsizetype length = 0;
-    while (length < plain.size() && isPart(plain.at(length)))
-        ++length;
-    return length > 0 ? plain.left(length) : plain;
 }
 
 } // namespace
@@ -228,6 +220,7 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const std::sto
     sdk::Clock &clock = *m_libraries.clock;
     const std::int64_t start = clock.now();
     bool wasAway = false;
+    std::optional<std::int64_t> letInAt; // after the reboot
     while (clock.wait(returnInterval, stop)) {
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
@@ -238,11 +231,14 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const std::sto
             m_libraries.net->NetLogout(login.handle);
             // Some take a moment to go, and answer as before until then.
             const bool hasRebooted = wasAway || passed > m_limits.leaves.count();
-            const bool isOther = !m_state.version.isEmpty() && m_state.version != m_oldVersion;
-            if (isNew(file, m_state.version) && (hasRebooted || isOther))
-                return ended(UpgradeTools::Success);
-            if (hasRebooted && !m_state.version.isEmpty())
-                return ended(UpgradeTools::KeptVersion);
+            const UpgradeTools::Result outcome = outcomeOf(file, m_state.version);
+            const bool isOther = !m_oldVersion.isEmpty() && m_state.version != m_oldVersion;
+            if (!m_state.version.isEmpty() && (hasRebooted || (outcome == UpgradeTools::Success && isOther)))
+                return ended(outcome);
+            if (hasRebooted && clock.now() - letInAt.value_or(clock.now()) >= versionWait.count())
+                return ended(UpgradeTools::VersionUnknown);
+            if (hasRebooted && !letInAt)
+                letInAt = clock.now();
         } else if (refusal == UpgradeTools::NoAnswer) {
             wasAway = true;
         } else if (UpgradeTools::canTryAgain(refusal)) {
@@ -256,12 +252,13 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const std::sto
     return ended(UpgradeTools::Cut);
 }
 
-bool UpgradeWork::isNew(const FirmwareFile &file, const QString &version) const
+UpgradeTools::Result UpgradeWork::outcomeOf(const FirmwareFile &file, const QString &version) const
 {
-    if (version.isEmpty())
-        return false;
-    return file.head ? plainVersion(version) == QString::fromStdString(file.head->version)
-                     : version != m_oldVersion;
+    if (file.head && sdk::isSameVersion(version.toStdString(), file.head->version))
+        return UpgradeTools::Success;
+    if (m_oldVersion.isEmpty())
+        return UpgradeTools::VersionUnknown;
+    return version == m_oldVersion ? UpgradeTools::KeptVersion : UpgradeTools::Success;
 }
 
 UpgradeWork::Identity UpgradeWork::identity(std::int64_t loginHandle) const
@@ -304,6 +301,9 @@ UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const
     if (result == UpgradeTools::Success) {
         state.percent = 100;
         state.text = UpgradeTexts::done(m_oldVersion, state.version);
+    } else if (result == UpgradeTools::VersionUnknown) {
+        state.text = state.version.isEmpty() ? UpgradeTexts::noVersion(state.text)
+                                             : UpgradeTexts::nothingToCompare(state.text, state.version);
     } else if (isOnWay && (result == UpgradeTools::Failed || result == UpgradeTools::Stuck)) {
         state.text = UpgradeTexts::failedAt(state.text, state.percent);
     }

@@ -69,7 +69,8 @@ private:
     [[nodiscard]] UpgradeState follow(std::int64_t upgradeHandle, const News &news,
                                       const std::stop_token &stop);
     [[nodiscard]] UpgradeState waitForReturn(const FirmwareFile &file, const std::stop_token &stop);
-    [[nodiscard]] bool isNew(const FirmwareFile &file, const QString &version) const;
+    /// What it means that a device tells this version, which is not empty, after its reboot.
+    [[nodiscard]] UpgradeTools::Result outcomeOf(const FirmwareFile &file, const QString &version) const;
     [[nodiscard]] Identity identity(std::int64_t loginHandle) const;
     void tell(UpgradeTools::Result result, int percent, const QString &remark = QString());
     void tellOnWay(const sdk::UpgradeProgress &progress);

@@ -46,6 +46,9 @@ private Q_SLOTS:
             "1.2");
         row("no models, other keys", first + "built=2024-05-06\n" + version + "\n", Kind::Known, "",
             "2.900.0");
+        row("letters behind the version", first + "version=V3.000.1.R\n\n", Kind::Known, "", "3.000.1.R");
+        row("date behind the version", first + "version=3.000.1, build 2026-01-01\n\n", Kind::Known, "",
+            "3.000.1");
         row("nothing", "", Kind::Unknown);
         row("other file", QByteArray("PK\x03\x04", 4), Kind::Unknown);
         row("other generation", "BRELM-FIRMWARE 2\n" + version + "\n", Kind::Damaged);
@@ -88,6 +91,8 @@ private Q_SLOTS:
         row("B-2230-IR_2.900.0.bin", "B-2230-IR 2.900.0");
         row("A-1,B-2_v2.900.0_20240506.img", "A-1,B-2 2.900.0");
         row("A-1_V1.2", "A-1 1.2");
+        row("A-1_3.000.1.R.bin", "A-1 3.000.1.R");
+        row("A-1_2.R.bin", "");
         row("firmware.bin", "");
         row("new firmware_2.bin", "");
         row("General_final.bin", "");
@@ -103,6 +108,37 @@ private Q_SLOTS:
         const std::optional<FirmwareHead> head = firmwareHeadOfName(name.toStdString());
         QTEST(head ? line(head->models) + ' ' + QByteArray::fromStdString(head->version) : QByteArray(),
               "told");
+    }
+
+    void versions_data()
+    {
+        QTest::addColumn<QByteArray>("one");
+        QTest::addColumn<QByteArray>("other");
+        QTest::addColumn<bool>("isSame");
+        const auto row = [](const QByteArray &one, const QByteArray &other, bool isSame) {
+            QTest::newRow((one + " and " + other).constData()) << one << other << isSame;
+        };
+        row("3.000.1", "v3.000.1 ", true);
+        row("3.000.1", "3.000.1.R", true);
+        row("3.000.1", "3.000.1.", true);
+        row("3.000.1", "3.000.1R, build 2026-01-01", true);
+        row("3.000.1.R", "V3.000.1.r 2026-01-01", true);
+        row("3.000.1.R", "3.000.1.T", false);
+        row("3.000.1", "3.000.10", false);
+        row("3.000.1", "3.000", false);
+        row("", "", false);
+        row("new", "new", false);
+    }
+
+    void versions()
+    {
+        QFETCH(QByteArray, one);
+        QFETCH(QByteArray, other);
+        const auto isSame = [](const QByteArray &left, const QByteArray &right) {
+            return isSameVersion(left.toStdString(), right.toStdString());
+        };
+        QTEST(isSame(one, other), "isSame");
+        QTEST(isSame(other, one), "isSame");
     }
 
     void modelsThatFit()

@@ -154,6 +154,58 @@ private Q_SLOTS:
         QCOMPARE(test.result(0), stillWrites ? UpgradeTools::DeviceBusy : UpgradeTools::Success);
     }
 
+    void whatVersionsProve_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("inFile");
+        QTest::addColumn<QString>("after"); // the file's when it is null
+        QTest::addColumn<UpgradeTools::Result>("result");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char *title, const QString &before, const QString &inFile,
+                            const QString &after, UpgradeTools::Result result, const QString &text) {
+            QTest::newRow(title) << before << inFile << after << result << text;
+        };
+        row("letters behind it", u"2.900.0.R, build 2026-01-01"_s, u"3.000.1"_s,
+            u"3.000.1.R, build 2026-02-01"_s, UpgradeTools::Success,
+            u"升级成功：2.900.0.R, build 2026-01-01 → 3.000.1.R, build 2026-02-01"_s);
+        row("the same firmware again", u"3.000.1.R"_s, u"3.000.1"_s, u"3.000.1.R"_s, UpgradeTools::Success,
+            u"升级成功：3.000.1.R → 3.000.1.R"_s);
+        row("another than the file's", u"2.9"_s, u"3.000.1"_s, u"3.0-b"_s, UpgradeTools::Success,
+            u"升级成功：2.9 → 3.0-b"_s);
+        row("the file's after none", QString(), u"3.000.1"_s, QString(), UpgradeTools::Success,
+            u"升级成功：3.000.1"_s);
+        row("another after none", QString(), u"3.000.1"_s, u"2.9"_s, UpgradeTools::VersionUnknown,
+            u"设备已恢复，但无法确认版本：现为 2.9，升级前的版本未知"_s);
+        row("none", u"2.9"_s, u"3.000.1"_s, u""_s, UpgradeTools::VersionUnknown,
+            u"设备已恢复，但无法确认版本：未读到版本号"_s);
+    }
+
+    void whatVersionsProve()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, inFile);
+        QFETCH(QString, after);
+        const UpgradeSite test(1);
+        const auto setVersion = [&test](const QString &version) {
+            return test.site->changeDevice(
+                test.mac(0), [&version](auto &device, const auto &) { device.version = version; });
+        };
+        QVERIFY(setVersion(before));
+        test.start({0}, test.file("BRELM-FIRMWARE 1\nversion=" + inFile.toLatin1() + "\n\n"));
+        if (!after.isNull()) {
+            test.site->setFault(test.mac(0), {Fault::UpgradeKeepsVersion});
+            QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Writing; }));
+            QVERIFY(setVersion(after));
+        }
+        QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Restarting; }));
+        test.site->requests().clear();
+        QVERIFY(test.passUntilEnd());
+        QTEST(static_cast<UpgradeTools::Result>(test.result(0)), "result");
+        QTEST(test.text(0), "text");
+        // The device is not kept busy for minutes with what it does not tell.
+        QVERIFY(test.site->requests().of("NetLogout").size() <= 12);
+    }
+
     void filesThatAreNotSent_data()
     {
         QTest::addColumn<QByteArray>("content");
