@@ -10,6 +10,7 @@ OVAbstractButton {
     property bool turning: false
     property color ink: Theme.colours.sub
     property color inkHover: ink
+    property color inkDisabled: Theme.colours.disabledInk
     property color fill: Theme.colours.clear
     property color fillHover: Theme.colours.hover
     property color fillPressed: Theme.colours.pressed
@@ -21,7 +22,7 @@ OVAbstractButton {
         OVIcon {
             id: sign
             anchors.centerIn: parent
-            color: !root.enabled ? Theme.colours.disabledInk : root.hovered ? root.inkHover : root.ink
+            color: !root.enabled ? root.inkDisabled : root.hovered ? root.inkHover : root.ink
             name: root.iconName
             size: root.iconSize
 

@@ -70,10 +70,17 @@ def make_figures(weight):
     font.save(f"inter-figures-{weight.lower()}.otf")
 
 
+def set_bearings(font):
+    """The original says 0 for all, and narrow icons would be drawn too far to the left."""
+    for name, (advance, _) in font["hmtx"].metrics.items():
+        font["hmtx"][name] = (advance, getattr(font["glyf"][name], "xMin", 0))
+
+
 def make_icons(source):
     theme = pathlib.Path("../Theme.qml").read_text(encoding="utf-8")
     font = TTFont(source)
     cut(font, [int(code, 16) for code in re.findall(r"\\u([0-9a-f]{4})", theme)], [])
+    set_bearings(font)
     font.save("lucide.ttf")
 
 

@@ -17,10 +17,11 @@ Rectangle {
         property bool on: false
 
         checked: on
-        fill: on ? Theme.colours.barPressed : Theme.colours.clear
+        fill: on && enabled ? Theme.colours.barPressed : Theme.colours.clear
         fillHover: Theme.colours.barHover
         fillPressed: Theme.colours.barPressed
-        ink: enabled ? Theme.colours.barSub : Theme.colours.barLine
+        ink: Theme.colours.barSub
+        inkDisabled: Theme.colours.barLine
         inkHover: Theme.colours.barInk
     }
     component Gap: Item {
@@ -37,6 +38,7 @@ Rectangle {
         spacing: Theme.half
 
         BarButton {
+            enabled: root.grid.channels.length > 0
             iconName: "onePlace"
             objectName: "liveOneButton"
             on: root.grid.places === 1
