@@ -2,14 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace sheets {
 
 QString placeText(CellPlace place)
 {
-    // From the end: the last digit and the last letter are known first. No sheet needs more characters.
-    std::array<char16_t, 2 * std::numeric_limits<int>::digits10> text;
+    // From the end: the last digit and the last letter are known first.
+    constexpr std::size_t mostCharacters = 18; // ten digits and eight letters, of the largest numbers
+    std::array<char16_t, mostCharacters> text;
     auto first = text.end();
     for (int row = place.row; row > 0; row /= 10)
         *--first = char16_t(u'0' + row % 10);

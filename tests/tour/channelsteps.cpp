@@ -161,6 +161,10 @@ void exportDetails(Driver &driver, const QString &folder)
     driver.click(u"detailExportButton"_s);
     driver.answerFileBox(folder);
     driver.await(u"the user is asked"_s, [&] { return driver.text(u"messageText"_s).contains(path); });
+    driver.await(u"the question has the keyboard"_s, [&] {
+        const QQuickItem *item = driver.window()->activeFocusItem();
+        return item && item->objectName() == u"cancelButton";
+    });
     driver.key(Qt::Key_Escape);
     driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
     driver.check(contentOf(path) == "kept", u"a file is not written over unasked"_s);
