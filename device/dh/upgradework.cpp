@@ -33,6 +33,8 @@ class UpgradeTexts
     Q_DECLARE_TR_FUNCTIONS(UpgradeTexts)
 public:
     static QString cannotStop() { return tr("已开始写入，无法停止"); }
+    static QString stopFails() { return tr("尚未停止，正在重试"); }
+    static QString restarts() { return tr("固件已写入，设备正在重启，无法停止"); }
     static QString done(const QString &before, const QString &now)
     {
         return before.isEmpty() ? tr("升级成功：%1").arg(now) : tr("升级成功：%1 → %2").arg(before, now);
@@ -204,7 +206,9 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, c
         if (m_stopAsked && !m_stopRefused) {
             if (m_libraries.net->NetStopUpgrade(upgradeHandle))
                 return ended(UpgradeTools::Stopped);
-            m_stopRefused = true;
+            // A device that is written goes on; of one that is not yet the stop may go well next time.
+            m_stopRefused = now.phase == sdk::UpgradePhase::Writing;
+            m_stopRemark = m_stopRefused ? UpgradeTexts::cannotStop() : UpgradeTexts::stopFails();
         }
         tellOnWay(now);
         const auto longest = now.phase == sdk::UpgradePhase::Writing ? m_limits.writingStandsStill
@@ -222,6 +226,8 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const std::sto
     bool wasAway = false;
     std::optional<std::int64_t> letInAt; // after the reboot
     while (clock.wait(returnInterval, stop)) {
+        if (m_stopAsked)
+            tell(UpgradeTools::Restarting, restartingFrom, UpgradeTexts::restarts());
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
         const UpgradeTools::Result refusal = resultOfLogin(login.result);
@@ -290,7 +296,7 @@ void UpgradeWork::tellOnWay(const sdk::UpgradeProgress &progress)
     tell(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
          isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
                    : percent * writingFrom / 100,
-         m_stopRefused ? UpgradeTexts::cannotStop() : QString());
+         m_stopRemark);
 }
 
 UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const

@@ -83,5 +83,6 @@ private:
     const Tell m_tell;
     QString m_oldVersion;
     UpgradeState m_state;
-    bool m_stopRefused = false;
+    bool m_stopRefused = false; ///< it writes
+    QString m_stopRemark;       ///< why it has not stopped
 };

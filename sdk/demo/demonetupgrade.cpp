@@ -74,10 +74,13 @@ std::int64_t DemoNetLibrary::NetStartUpgrade(std::int64_t loginHandle, const cha
 bool DemoNetLibrary::NetStopUpgrade(std::int64_t upgradeHandle)
 {
     const CallGate::Call call(m_gate);
-    record("NetStopUpgrade", {{QStringLiteral("upgradeHandle"), static_cast<qint64>(upgradeHandle)}},
-           m_upgrades.macOf(upgradeHandle));
+    const QString mac = m_upgrades.macOf(upgradeHandle);
+    record("NetStopUpgrade", {{QStringLiteral("upgradeHandle"), static_cast<qint64>(upgradeHandle)}}, mac);
     if (DeviceUpgrade::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
+    const std::optional<SceneDevice> device = m_site.device(mac);
+    if (device && device->hasFault(Fault::RefusesUpgradeStop))
+        return m_error.fail(NetError::DeviceBusy);
     switch (m_upgrades.close(upgradeHandle)) {
     case DeviceUpgrades::Closing::Closed:
         return true;

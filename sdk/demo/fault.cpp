@@ -49,6 +49,7 @@ constexpr std::array entries = {
     FaultEntry{Fault::UpgradeKeepsVersion, "upgradeKeepsVersion", FaultValue::None},
     FaultEntry{Fault::UpgradeNeverReturns, "upgradeNeverReturns", FaultValue::None},
     FaultEntry{Fault::UpgradeTakes, "upgradeTakes", FaultValue::Number},
+    FaultEntry{Fault::RefusesUpgradeStop, "refusesUpgradeStop", FaultValue::None},
     FaultEntry{Fault::HttpLate, "httpLate", FaultValue::Number},
     FaultEntry{Fault::HttpSlow, "httpSlow", FaultValue::Number},
     FaultEntry{Fault::HttpBroken, "httpBroken", FaultValue::None},

@@ -43,6 +43,7 @@ enum class Fault
     UpgradeKeepsVersion,   ///< comes back from an upgrade with the version that it had
     UpgradeNeverReturns,   ///< does not come back from an upgrade
     UpgradeTakes,          ///< a firmware file takes `number` s to be sent
+    RefusesUpgradeStop,    ///< does not stop an upgrade, although nothing is written yet
     // Answers over HTTP to a right password:
     HttpLate,         ///< come `number` ms late
     HttpSlow,         ///< come at one byte a second for `number` s

@@ -285,6 +285,35 @@ private Q_SLOTS:
         QCOMPARE(test.result(5), UpgradeTools::None);
     }
 
+    void aStopIsTriedUntilTheDeviceWrites()
+    {
+        const UpgradeSite test(2);
+        for (const int place : {0, 1})
+            test.site->setFault(test.mac(place), {Fault::RefusesUpgradeStop});
+        test.start({0, 1}, test.file());
+        QVERIFY(test.passUntil([&] { return test.percent(0) > 0 && test.percent(1) > 0; }));
+        for (const int place : {0, 1})
+            test.factory->stopUpgrade(test.family, test.mac(place));
+        QVERIFY(test.passUntil([&] { return test.text(0) == u"尚未停止，正在重试"_s; }));
+        test.site->clearFault(test.mac(0), Fault::RefusesUpgradeStop);
+        QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Stopped; }));
+        QVERIFY(test.passUntil([&] { return test.text(1) == u"已开始写入，无法停止"_s; }));
+        QVERIFY(test.passUntil([&] { return test.text(1) == u"固件已写入，设备正在重启，无法停止"_s; }));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(1), UpgradeTools::Success);
+    }
+
+    void aDeviceThatRestartsSaysWhyItGoesOn()
+    {
+        const UpgradeSite test(1);
+        test.start({0}, test.file());
+        QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Restarting; }));
+        test.factory->stopUpgrade(test.family, test.mac(0));
+        QVERIFY(test.passUntil([&] { return test.text(0) == u"固件已写入，设备正在重启，无法停止"_s; }));
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), UpgradeTools::Success);
+    }
+
     void theEndOfTheProgram()
     {
         UpgradeSite test(6);
