@@ -10,6 +10,9 @@
 #include <QHostAddress>
 #include <QSet>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 enum Column
@@ -30,7 +33,26 @@ int portIn(const QString &cell)
     if (cell.isEmpty())
         return usualPort;
     const qint64 number = sheets::wholeNumber(cell).value_or(0);
-    return number >= 1 && number <= 65535 ? static_cast<int>(number) : 0;
+    const bool isPort = number >= 1 && number <= 65535 && cell.toDouble() == static_cast<double>(number);
+    return isPort ? static_cast<int>(number) : 0;
+}
+
+/// An address as rows have it, whatever its spelling in a cell, where it is often padded with zeros. Empty
+/// for what is none, and for one like "10.0.0.010", which is another address to some programs.
+QString addressIn(const QString &cell)
+{
+    const QHostAddress address(cell);
+    if (address.protocol() == QAbstractSocket::IPv6Protocol) {
+        bool isIpv4 = false;
+        const quint32 number = address.toIPv4Address(&isIpv4); // "::ffff:10.0.0.1"
+        return isIpv4 ? ipv4Text(number) : QLatin1Char('[') + address.toString() + QLatin1Char(']');
+    }
+    const std::optional<std::uint32_t> number = ipv4Number(cell);
+    const QStringList octets = number ? cell.split(QLatin1Char('.')) : QStringList();
+    const bool isAmbiguous = std::any_of(octets.cbegin(), octets.cend(), [](const QString &octet) {
+        return octet.startsWith(QLatin1Char('0')) && octet.toInt() >= 8;
+    });
+    return number && !isAmbiguous ? ipv4Text(*number) : QString();
 }
 
 } // namespace
@@ -47,19 +69,38 @@ QString UpgradeDocument::open(const QString &path)
         qCWarning(logDevice).noquote() << "cannot open the workbook:" << m_excel.errorText();
         return tr("文件打开失败");
     }
-    if (sheets::beginsWithTitles(m_excel, requiredTitles()))
-        return {};
-    m_excel.quit();
-    return tr("文件格式错误");
+    if (!sheets::beginsWithTitles(m_excel, requiredTitles())) {
+        m_excel.quit();
+        return tr("文件格式错误");
+    }
+    if (lineCount() > mostLines) {
+        m_excel.quit();
+        return tr("文档中的设备超过 %1 行，请分成多个文档").arg(mostLines);
+    }
+    return {};
+}
+
+bool UpgradeDocument::isLine(int row)
+{
+    return !text(row, AddressColumn).isEmpty() || !text(row, FileColumn).isEmpty();
+}
+
+int UpgradeDocument::lineCount()
+{
+    int count = 0;
+    const int last = sheets::lastUsedRow(m_excel);
+    for (int row = 2; row <= last && count <= mostLines; ++row)
+        count += isLine(row) ? 1 : 0;
+    return count;
 }
 
 std::vector<UpgradeDocumentLine> UpgradeDocument::lines()
 {
     std::vector<UpgradeDocumentLine> found;
     QSet<QString> addresses;
-    const int lastRow = sheets::lastUsedRow(m_excel);
-    for (int row = 2; row <= lastRow && found.size() < mostLines; ++row) {
-        if (text(row, AddressColumn).isEmpty() && text(row, FileColumn).isEmpty())
+    const int last = sheets::lastUsedRow(m_excel);
+    for (int row = 2; row <= last; ++row) {
+        if (!isLine(row))
             continue;
         found.push_back(line(row));
         UpgradeDocumentLine &added = found.back();
@@ -73,20 +114,18 @@ std::vector<UpgradeDocumentLine> UpgradeDocument::lines()
 UpgradeDocumentLine UpgradeDocument::line(int row)
 {
     const QString addressText = text(row, AddressColumn);
-    const QHostAddress address(addressText);
+    const QString address = addressIn(addressText);
     const int port = portIn(text(row, PortColumn));
-    const bool isIpv6 = address.protocol() == QAbstractSocket::IPv6Protocol;
     const QString file = text(row, FileColumn);
     UpgradeDocumentLine line;
     line.row = row;
-    line.ipport = (isIpv6 ? QLatin1Char('[') + address.toString() + QLatin1Char(']') : addressText) +
-                  QLatin1Char(':') + QString::number(port);
+    line.ipport = (address.isEmpty() ? addressText : address) + QLatin1Char(':') + QString::number(port);
     line.user = text(row, UserColumn);
     line.password = m_excel.cellText(row, PasswordColumn).value_or(QString());
     if (!file.isEmpty()) // a path of another system has other separators
         line.file = QDir::cleanPath(
             QFileInfo(m_path).absoluteDir().absoluteFilePath(QDir::fromNativeSeparators(file)));
-    if ((!isIpv6 && !ipv4Number(addressText)) || port == 0)
+    if (address.isEmpty() || port == 0)
         line.refusal = UpgradeTools::LineUnusable;
     return line;
 }

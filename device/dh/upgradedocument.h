@@ -26,7 +26,8 @@ class UpgradeDocument
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocument)
 public:
-    static constexpr std::size_t mostLines = 10000;
+    /// Of one document; one with more is refused.
+    static constexpr int mostLines = 10000;
 
     /// What the first five cells of the first row say, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();
@@ -34,8 +35,8 @@ public:
     /// Opens the file. Returns why it cannot be used, in the user's language; an empty text when it can.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows that hold an address or a file, from above; at most mostLines. An address that stands in an
-    /// earlier row too is refused.
+    /// The rows that hold an address or a file, from above. An address that stands in an earlier row too is
+    /// refused.
     [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
 
     void setResult(int row, const QString &result);
@@ -45,6 +46,8 @@ public:
 
 private:
     [[nodiscard]] QString text(int row, int column);
+    [[nodiscard]] bool isLine(int row);
+    [[nodiscard]] int lineCount();
     [[nodiscard]] UpgradeDocumentLine line(int row);
 
     QExcel m_excel;

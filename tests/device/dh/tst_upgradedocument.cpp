@@ -48,7 +48,11 @@ private Q_SLOTS:
                                              {test.address(1), u"37777"_s, {}, {}, u"missing.bin"_s},
                                              {test.address(0), {}, {}, {}, u"firmware.bin"_s},
                                              {u"fe80::1"_s, u"1"_s, {}, {}, {}},
-                                             {{}, {}, {}, {}, u"firmware.bin"_s}});
+                                             {{}, {}, {}, {}, u"firmware.bin"_s},
+                                             {u"192.168.001.11"_s, {}, {}, {}, u"firmware.bin"_s},
+                                             {u"192.168.001.012"_s, u"37778"_s, {}, {}, {}},
+                                             {u"::ffff:192.168.1.11"_s, {}, {}, {}, u"firmware.bin"_s},
+                                             {test.address(1), u"37777.9"_s, {}, {}, u"firmware.bin"_s}});
         QStringList lines;
         const QVariantList report = test.factory->importUpgradeDocument(test.family, path);
         for (const QVariant &entry : report) {
@@ -62,7 +66,9 @@ private Q_SLOTS:
                               u"5 192.168.1:37777  14"_s, u"6 host/../:37777  14"_s,
                               u"7 192.168.1.12:0  14"_s, u"8 192.168.1.12:37777 02:1a:c5:00:00:02 2"_s,
                               u"9 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s, u"10 [fe80::1]:1  1"_s,
-                              u"11 :37777  14"_s}));
+                              u"11 :37777  14"_s, u"12 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s,
+                              u"13 192.168.001.012:37778  14"_s,
+                              u"14 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s, u"15 192.168.1.12:0  14"_s}));
         QCOMPARE(report.at(5).toMap().value(u"reason"_s).toString(), u"升级文件不存在"_s);
         QCOMPARE(report.at(1).toMap().value(u"file"_s).toString(), test.file());
         QCOMPARE(test.factory->importError(test.family), QString());
@@ -84,6 +90,23 @@ private Q_SLOTS:
         QTRY_COMPARE(test.ends->size(), 1);
         QCOMPARE(test.factory->upgradeDocumentResult(test.family),
                  u"other.xlsx：文件格式错误\nsuch：文件打开失败"_s);
+    }
+
+    void aLongDocumentIsRefusedAsAWhole()
+    {
+        const UpgradeSite test(1);
+        QList<QStringList> rows(UpgradeDocument::mostLines, {test.address(0)});
+        const QString whole = workbook(test, rows, u"whole.xlsx"_s);
+        rows.insert(5, QStringList()); // does not count
+        rows.append({{}, {}, {}, {}, u"firmware.bin"_s});
+        const QString longer = workbook(test, rows);
+        QCOMPARE(test.factory->importUpgradeDocument(test.family, whole).size(), UpgradeDocument::mostLines);
+        QVERIFY(test.factory->importUpgradeDocument(test.family, longer).isEmpty());
+        QCOMPARE(test.factory->importError(test.family), u"文档中的设备超过 10000 行，请分成多个文档"_s);
+        test.factory->startUpgradeByDocument(test.family, {longer});
+        QTRY_COMPARE(test.ends->size(), 1);
+        QCOMPARE(test.factory->upgradeDocumentResult(test.family),
+                 u"upgrades.xlsx：文档中的设备超过 10000 行，请分成多个文档"_s);
     }
 
     void resultsAreWritten()
