@@ -109,7 +109,7 @@ public:
     /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
     /// when it refuses, also for an unknown command and for data that make no sense. `loginCheck` keeps
     /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`. A device that is being
-    /// upgraded is not rebooted or reset and keeps its password: LoginResult::Upgrading.
+    /// upgraded is left alone: LoginResult::Upgrading.
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
 
     // The configuration pages, of the current session's device: devicedhencode.cpp

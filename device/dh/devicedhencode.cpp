@@ -81,7 +81,9 @@ void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
     const ChannelChoice channels = m_channels;
     for (const QString &ipport : devlist) {
         EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
-        if (state) {
+        if (isUpgradingAt(ipport)) {
+            outcome.result = resultCode(LoginResult::Upgrading);
+        } else if (state) {
             const Credentials known = credentialsOf(ipport);
             const SecureLogin login =
                 secureLogin(m_libraries.net.get(), ipport, known.account, known.password);

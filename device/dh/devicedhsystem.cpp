@@ -33,12 +33,6 @@ bool changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString 
     return fits && !newPassword.isEmpty() && net.NetModifyPassword(login.loginHandle, input, passwordWait);
 }
 
-/// Whether the command would spoil the firmware that a device is writing.
-bool spoilsUpgrade(const QString &command)
-{
-    return command == QLatin1String("rebootDevice") || command == QLatin1String("resetSystem");
-}
-
 } // namespace
 
 void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
@@ -61,7 +55,7 @@ void CDeviceDH::performOn(const QStringList &ipports, const QString &command, co
         qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
     for (const QString &ipport : ipports) {
         int result = refusedByDevice;
-        if (spoilsUpgrade(command) && isUpgradingAt(ipport))
+        if (isUpgradingAt(ipport)) // nothing comes between a device and its firmware
             result = resultCode(LoginResult::Upgrading);
         else if (action) // what no device could accept is not sent to any
             result = performOn(ipport, *action);
@@ -86,6 +80,10 @@ void CDeviceDH::checkPasswords(const QStringList &ipports, const QString &passwo
     bool hasPassed = false;
     for (const QString &ipport : ipports) {
         m_keptLogins.letGo(ipport);
+        if (isUpgradingAt(ipport)) {
+            Q_EMIT signalCDeviceRetToSystemConfig(ipport, resultCode(LoginResult::Upgrading));
+            continue;
+        }
         const QString account = credentialsOf(ipport).account;
         const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
         if (login.result == LoginResult::Success) {

@@ -348,11 +348,17 @@ private Q_SLOTS:
         QCOMPARE(test.value(0, DeviceRowKey::res).toInt(), refusal);
         QCOMPARE(test.value(0, DeviceRowKey::ipport).toString(), test.ipport(0));
         QSignalSpy results(test.factory.get(), &CDeviceFactory::signalRetToSystemConfig);
-        for (const QString &command : {u"rebootDevice"_s, u"resetSystem"_s})
+        QSignalSpy copies(test.factory.get(), &CDeviceFactory::signalRetToCopyConfig);
+        QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Writing; }));
+        test.site->requests().clear();
+        const QStringList commands = {u"rebootDevice"_s, u"resetSystem"_s, u"videoStandard"_s,
+                                      u"autoMaintain"_s, u"setTimeByPC"_s, u"loginCheck"_s};
+        for (const QString &command : commands)
             test.factory->systemConfig(test.family, command, {}, {test.ipport(0)});
-        QCOMPARE(results, QList<QVariantList>({{test.ipport(0), refusal}, {test.ipport(0), refusal}}));
-        for (const char *operation : {"NetModifyDeviceBySearch", "NetRebootDevice", "NetResetSystem"})
-            QVERIFY(test.site->requests().of(operation).isEmpty());
+        QCOMPARE(results, QList<QVariantList>(commands.size(), {test.ipport(0), refusal}));
+        test.factory->copyConfigToDevice(test.family, {test.ipport(0)});
+        QCOMPARE(copies, QList<QVariantList>({{test.ipport(0), refusal}}));
+        QVERIFY(test.site->requests().all().isEmpty());
 
         QVERIFY(test.passUntilEnd());
         QTRY_COMPARE(changed.size(), 1); // and let it go
