@@ -129,6 +129,29 @@ QJsonObject DeviceStore::rowAt(const QString &ipport) const
     return identity ? m_ipv4.row(*identity) : QJsonObject();
 }
 
+std::optional<QString> DeviceStore::ipv6IdentityLocked(const QString &name) const
+{
+    return name.startsWith(QLatin1Char('[')) ? identityAt(m_ipv6, name) : std::nullopt;
+}
+
+QJsonObject DeviceStore::rowNamed(const QString &name) const
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_ipv4.contains(name))
+        return m_ipv4.row(name);
+    const std::optional<QString> identity = ipv6IdentityLocked(name);
+    return identity ? m_ipv6.row(*identity) : QJsonObject();
+}
+
+bool DeviceStore::changeRowNamed(const QString &name, const DeviceRowList::Change &change)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_ipv4.change(name, change))
+        return true;
+    const std::optional<QString> identity = ipv6IdentityLocked(name);
+    return identity && m_ipv6.change(*identity, change);
+}
+
 bool DeviceStore::changeRow(const QString &mac, const DeviceRowList::Change &change)
 {
     const std::scoped_lock lock(m_mutex);

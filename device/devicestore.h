@@ -50,6 +50,10 @@ public:
     [[nodiscard]] QJsonObject row(const QString &mac) const;
     [[nodiscard]] QJsonObject rowAt(const QString &ipport) const;
 
+    /// The row that pages name so: by its MAC, or by the address and port of one without, of either list.
+    [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
+    bool changeRowNamed(const QString &name, const DeviceRowList::Change &change);
+
     /// Changes the IPv4 row of a device. Returns false when there is none.
     bool changeRow(const QString &mac, const DeviceRowList::Change &change);
 
@@ -71,6 +75,7 @@ public:
 
 private:
     [[nodiscard]] static std::optional<QString> identityAt(const DeviceRowList &list, const QString &ipport);
+    [[nodiscard]] std::optional<QString> ipv6IdentityLocked(const QString &name) const;
     bool isNotificationDue();
 
     const std::shared_ptr<const sdk::Clock> m_clock;

@@ -146,6 +146,8 @@ public:
 
     // Firmware upgrades: devicedhupgrade.cpp
 
+    // Rows are named by MAC, or by address and port where they have none, as those of IPv6 devices.
+
     /// `path` may be a "file:///" address. A device that is being upgraded keeps its file.
     void setUpgradeFilePath(const QString &mac, const QString &path) override;
     /// Returns at once; the rows tell how far each device is and what has come of it: "upgrade" in percent,
@@ -181,6 +183,15 @@ private:
     {
         QString account;
         QString password;
+
+        bool operator==(const Credentials &) const = default;
+    };
+
+    /// What a document has logged in to a device with, and what would have been used without it.
+    struct DocumentAccount
+    {
+        Credentials used;
+        Credentials usual;
     };
 
     void beginSession(const QString &ipport, const QString &account, const QString &password,
@@ -191,8 +202,13 @@ private:
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
     [[nodiscard]] UpgradeOrder upgradeOrder(const QJsonObject &row) const;
-    [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line) const;
+    [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line, const QJsonObject &row) const;
+    /// The account of a document again, unless the device has refused it or the user has given another since.
+    [[nodiscard]] Credentials upgradeCredentials(const QJsonObject &row) const;
+    [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress() const;
     void noteUpgrade(const UpgradeOrder &order, const UpgradeState &state);
+    /// Says how far the upgrades are, once however often it is called before. On any thread.
+    void noteSchedule();
     void noteUpgradeDocuments();
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
     /// Says once, however often it is called before, that rows have begun or ended to be upgraded. On any
@@ -213,6 +229,7 @@ private:
 
     /// Of the device's row; the default account for what the row does not have.
     [[nodiscard]] Credentials credentialsOf(const QString &ipport) const;
+    [[nodiscard]] Credentials credentialsOf(const QJsonObject &row) const;
 
     const ValueTables m_tables;
     const sdk::SdkLibraries m_libraries;
@@ -230,7 +247,9 @@ private:
     std::unique_ptr<CameraConfig> m_camera;
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
     UpgradeDocuments m_upgradeDocuments;
+    QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row
     std::atomic<bool> m_heldRowsNoted = false;
+    std::atomic<bool> m_scheduleNoted = false;
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
     QString m_defaultAccount;
     QString m_defaultPassword;

@@ -44,7 +44,7 @@ QVariantMap CDeviceDH::getDeviceInfo(const QString &ipport)
 
 QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
 {
-    QVariantMap detail = store().row(mac).toVariantMap();
+    QVariantMap detail = store().rowNamed(mac).toVariantMap();
     detail.remove(DeviceRowKey::password); // details are shown and handed on
     const std::optional<sdk::SearchAnswer> record = store().record(mac);
     if (!record)

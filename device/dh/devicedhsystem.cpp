@@ -124,7 +124,11 @@ void CDeviceDH::modifyPasswords(const QStringList &ipports, const QString &newPa
 
 CDeviceDH::Credentials CDeviceDH::credentialsOf(const QString &ipport) const
 {
-    const QJsonObject row = store().rowAt(ipport);
+    return credentialsOf(store().rowAt(ipport));
+}
+
+CDeviceDH::Credentials CDeviceDH::credentialsOf(const QJsonObject &row) const
+{
     const QString account = row.value(DeviceRowKey::username).toString();
     const QString password = row.value(DeviceRowKey::password).toString();
     return {.account = account.isEmpty() ? m_defaultAccount : account,

@@ -9,15 +9,36 @@
 
 namespace {
 
-/// What a line lacks, and what its file is; None when it can be upgraded.
-UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const UpgradeOrder &order)
+UpgradeTools::Result refusalOf(const FirmwareFile &file, const QString &model)
 {
-    if (line.refusal != UpgradeTools::None)
-        return line.refusal;
-    const FirmwareFile file = firmwareFile(order.file);
-    return file.refusal == UpgradeTools::None && !file.fits(order.model) ? UpgradeTools::WrongModel
-                                                                         : file.refusal;
+    return file.refusal == UpgradeTools::None && !file.fits(model) ? UpgradeTools::WrongModel : file.refusal;
 }
+
+/// As DeviceStore::rowNamed() takes it; empty for an empty row.
+QString nameOf(const QJsonObject &row)
+{
+    const QString mac = row.value(DeviceRowKey::mac).toString();
+    return mac.isEmpty() ? row.value(DeviceRowKey::ipport).toString() : mac;
+}
+
+/// Looks at files, at each of them once.
+class FirmwareFiles
+{
+public:
+    /// What a line lacks, and what its file is; None when it can be upgraded.
+    [[nodiscard]] UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const UpgradeOrder &order)
+    {
+        if (line.refusal != UpgradeTools::None)
+            return line.refusal;
+        auto known = m_files.constFind(order.file);
+        if (known == m_files.cend())
+            known = m_files.insert(order.file, firmwareFile(order.file));
+        return ::refusalOf(*known, order.model);
+    }
+
+private:
+    QHash<QString, FirmwareFile> m_files;
+};
 
 } // namespace
 
@@ -25,7 +46,7 @@ void CDeviceDH::setUpgradeFilePath(const QString &mac, const QString &path)
 {
     if (m_upgrades->isUpgrading(mac))
         return;
-    store().changeRow(mac, [file = localPath(path)](QJsonObject &row) {
+    store().changeRowNamed(mac, [file = localPath(path)](QJsonObject &row) {
         row.insert(DeviceRowKey::filepath, file);
         row.insert(DeviceRowKey::upgrade, 0);
         row.insert(DeviceRowKey::upgraderes, UpgradeTools::None);
@@ -36,7 +57,7 @@ void CDeviceDH::setUpgradeFilePath(const QString &mac, const QString &path)
 void CDeviceDH::startUpgrade(const QStringList &macs)
 {
     for (const QString &mac : macs) {
-        const QJsonObject row = store().row(mac);
+        const QJsonObject row = store().rowNamed(mac);
         if (row.isEmpty())
             qCWarning(logDevice) << "CDeviceDH::startUpgrade: there is no device" << mac;
         else
@@ -52,8 +73,8 @@ void CDeviceDH::stopUpgrade(const QString &mac)
 
 bool CDeviceDH::isUpgradingAt(const QString &ipport) const
 {
-    return m_upgrades->isUpgrading(ipport) ||
-           m_upgrades->isUpgrading(store().rowAt(ipport).value(DeviceRowKey::mac).toString());
+    return m_upgrades->isUpgrading() && // else there is no need to look for the row
+           (m_upgrades->isUpgrading(ipport) || m_upgrades->isUpgrading(nameOf(store().rowAt(ipport))));
 }
 
 void CDeviceDH::noteHeldRows()
@@ -75,26 +96,48 @@ bool CDeviceDH::hasDeviceUpgrading()
 
 UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 {
-    const QString mac = row.value(DeviceRowKey::mac).toString();
-    const QString ipport = row.value(DeviceRowKey::ipport).toString();
-    const Credentials credentials = credentialsOf(ipport);
-    return {.key = mac,
-            .mac = mac,
-            .ipport = ipport,
+    const QString name = nameOf(row);
+    const Credentials credentials = upgradeCredentials(row);
+    return {.key = name,
+            .row = name,
+            .ipport = row.value(DeviceRowKey::ipport).toString(),
             .account = credentials.account,
             .password = credentials.password,
             .model = row.value(DeviceRowKey::model).toString(),
             .file = row.value(DeviceRowKey::filepath).toString()};
 }
 
-UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line) const
+CDeviceDH::Credentials CDeviceDH::upgradeCredentials(const QJsonObject &row) const
 {
-    UpgradeOrder order = upgradeOrder(store().rowAt(line.ipport));
+    const Credentials usual = credentialsOf(row);
+    const auto known = m_documentAccounts.constFind(nameOf(row));
+    if (known == m_documentAccounts.cend() || known->usual != usual)
+        return usual;
+    const int result = row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None);
+    const bool isRefused = result == UpgradeTools::WrongPassword || result == UpgradeTools::NoSuchAccount;
+    return isRefused ? usual : known->used;
+}
+
+QHash<QString, QJsonObject> CDeviceDH::rowsByAddress() const
+{
+    QHash<QString, QJsonObject> rows;
+    for (const QVariant &value : store().ipv4Rows() + store().ipv6Rows()) {
+        const QJsonObject row = value.toJsonObject();
+        const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        if (!rows.contains(ipport)) // several may have it
+            rows.insert(ipport, row);
+    }
+    return rows;
+}
+
+UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line, const QJsonObject &row) const
+{
+    UpgradeOrder order = upgradeOrder(row);
     order.ipport = line.ipport;
     order.file = line.file;
     if (order.key.isEmpty())
         order.key = line.ipport;
-    const Credentials usual = credentialsOf(line.ipport);
+    const Credentials usual = credentialsOf(row);
     order.account = line.user.isEmpty() ? usual.account : line.user;
     order.password = line.user.isEmpty() && line.password.isEmpty() ? usual.password : line.password;
     return order;
@@ -107,12 +150,14 @@ QVariantList CDeviceDH::importUpgradeDocument(const QString &file)
     QVariantList report;
     if (!m_importError.isEmpty())
         return report;
+    const QHash<QString, QJsonObject> rows = rowsByAddress();
+    FirmwareFiles files;
     for (const UpgradeDocumentLine &line : document.lines()) {
-        const UpgradeOrder order = upgradeOrder(line);
-        const UpgradeTools::Result refusal = refusalOf(line, order);
+        const UpgradeOrder order = upgradeOrder(line, rows.value(line.ipport));
+        const UpgradeTools::Result refusal = files.refusalOf(line, order);
         report.append(QVariantMap{{QStringLiteral("line"), line.row},
                                   {QStringLiteral("address"), line.ipport},
-                                  {QStringLiteral("mac"), order.mac},
+                                  {QStringLiteral("mac"), order.row},
                                   {QStringLiteral("file"), line.file},
                                   {QStringLiteral("code"), static_cast<int>(refusal)},
                                   {QStringLiteral("reason"), UpgradeTools::text(refusal)}});
@@ -124,6 +169,8 @@ void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
 {
     if (!m_upgradeDocuments.hasOpen())
         m_upgradeDocuments.begin();
+    const QHash<QString, QJsonObject> rows = rowsByAddress();
+    FirmwareFiles files;
     for (const QString &path : paths) {
         auto document = std::make_unique<UpgradeDocument>();
         const QString refusal = document->open(localPath(path));
@@ -134,16 +181,20 @@ void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
         const std::vector<UpgradeDocumentLine> lines = document->lines();
         m_upgradeDocuments.add(path, std::move(document));
         for (const UpgradeDocumentLine &line : lines) {
-            const UpgradeOrder order = upgradeOrder(line);
-            const UpgradeTools::Result lineRefusal = refusalOf(line, order);
+            const QJsonObject row = rows.value(line.ipport);
+            const UpgradeOrder order = upgradeOrder(line, row);
+            const UpgradeTools::Result lineRefusal = files.refusalOf(line, order);
             if (lineRefusal != UpgradeTools::None) {
                 m_upgradeDocuments.refuse(line.row, UpgradeTools::text(lineRefusal));
             } else if (m_upgrades->isUpgrading(order.key)) { // from another document, or from the table
                 m_upgradeDocuments.refuse(line.row, UpgradeTools::text(UpgradeTools::DeviceBusy));
             } else {
                 m_upgradeDocuments.follow(order.key, line.row);
-                store().changeRow(order.mac, [&order](QJsonObject &row) {
-                    row.insert(DeviceRowKey::filepath, order.file);
+                if (!order.row.isEmpty())
+                    m_documentAccounts.insert(
+                        order.row, {.used = {order.account, order.password}, .usual = credentialsOf(row)});
+                store().changeRowNamed(order.row, [&order](QJsonObject &changed) {
+                    changed.insert(DeviceRowKey::filepath, order.file);
                 });
                 if (!m_upgrades->start(order))
                     m_upgradeDocuments.note(order.key, UpgradeTools::Cut, 0,
@@ -170,20 +221,30 @@ QVariantMap CDeviceDH::upgradeDocumentProgress()
 
 void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state)
 {
-    store().changeRow(order.mac, [&state](QJsonObject &row) {
+    store().changeRowNamed(order.row, [&state](QJsonObject &row) {
         row.insert(DeviceRowKey::upgrade, state.percent);
         row.insert(DeviceRowKey::upgraderes, state.result);
         row.insert(DeviceRowKey::upgradetext, state.text);
         if (!state.version.isEmpty())
             row.insert(DeviceRowKey::vision, versionText(state.version));
     });
-    Q_EMIT signalCDeviceUpdateSchedule(m_upgrades->percent());
+    m_upgradeDocuments.note(order.key, state.result, state.percent, state.text);
+    noteSchedule();
     if (!UpgradeTools::isRunning(state.result))
         noteHeldRows();
-    if (!m_upgradeDocuments.isFollowed(order.key))
-        return;
-    m_upgradeDocuments.note(order.key, state.result, state.percent, state.text);
-    QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeDocuments, Qt::QueuedConnection);
+}
+
+void CDeviceDH::noteSchedule()
+{
+    if (!m_scheduleNoted.exchange(true))
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_scheduleNoted = false;
+                Q_EMIT signalCDeviceUpdateSchedule(m_upgrades->percent());
+                noteUpgradeDocuments();
+            },
+            Qt::QueuedConnection);
 }
 
 void CDeviceDH::noteUpgradeDocuments()

@@ -11,7 +11,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 

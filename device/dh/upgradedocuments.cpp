@@ -29,6 +29,7 @@ void UpgradeDocuments::follow(const QString &key, int row)
 {
     const std::lock_guard lock(m_mutex);
     m_documents.back()->lines.insert(key, {.row = row, .text = {}});
+    ++m_documents.back()->running;
 }
 
 void UpgradeDocuments::refuse(int row, const QString &reason)
@@ -45,17 +46,14 @@ void UpgradeDocuments::note(const QString &key, int result, int percent, const Q
         // The device may be upgraded once more while others of the document are not done.
         if (line == document->lines.end() || !UpgradeTools::isRunning(line->result))
             continue;
+        const bool isRunning = UpgradeTools::isRunning(result);
+        const int share = isRunning ? percent : 100;
+        document->running -= isRunning ? 0 : 1;
+        document->shareSum += share - line->share;
+        line->share = share;
         line->result = result;
-        line->percent = percent;
         line->text = text;
     }
-}
-
-bool UpgradeDocuments::isFollowed(const QString &key) const
-{
-    const std::lock_guard lock(m_mutex);
-    return std::any_of(m_documents.begin(), m_documents.end(),
-                       [&key](const auto &document) { return document->lines.contains(key); });
 }
 
 QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
@@ -65,9 +63,11 @@ QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
     {
         const std::lock_guard lock(m_mutex);
         for (const std::unique_ptr<Document> &document : m_documents) {
-            const bool isDone = doneLinesOf(*document) == document->lines.size();
             // Only what is in the file is done.
-            const int percent = isDone ? 100 : std::min(percentOf(*document), 99);
+            const int percent =
+                document->running == 0
+                    ? 100
+                    : static_cast<int>(std::min<qsizetype>(document->shareSum / document->lines.size(), 99));
             if (percent != std::exchange(document->toldPercent, percent))
                 changed.append({document->name, percent});
         }
@@ -82,30 +82,16 @@ QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
     return changed;
 }
 
-int UpgradeDocuments::doneLinesOf(const Document &document)
-{
-    return static_cast<int>(
-        std::count_if(document.lines.cbegin(), document.lines.cend(),
-                      [](const Line &line) { return !UpgradeTools::isRunning(line.result); }));
-}
-
 UpgradeDocuments::Progress UpgradeDocuments::progress() const
 {
     Progress progress = {.done = m_finishedLines, .total = m_finishedLines};
     const std::lock_guard lock(m_mutex);
     for (const std::unique_ptr<Document> &document : m_documents) {
-        progress.done += doneLinesOf(*document) + document->refused;
-        progress.total += static_cast<int>(document->lines.size()) + document->refused;
+        const int lines = static_cast<int>(document->lines.size());
+        progress.done += lines - document->running + document->refused;
+        progress.total += lines + document->refused;
     }
     return progress;
-}
-
-int UpgradeDocuments::percentOf(const Document &document)
-{
-    qsizetype sum = 0;
-    for (const Line &line : document.lines)
-        sum += UpgradeTools::isRunning(line.result) ? line.percent : 100;
-    return document.lines.isEmpty() ? 100 : static_cast<int>(sum / document.lines.size());
 }
 
 void UpgradeDocuments::finish(Document &document)

@@ -40,7 +40,7 @@ public:
 
     // Of the document that was added last:
 
-    /// Its line in this row is upgraded under this key.
+    /// Its line in this row is upgraded under this key, which no other of its lines has.
     void follow(const QString &key, int row);
 
     /// Its line in this row is not upgraded.
@@ -48,9 +48,6 @@ public:
 
     /// An upgrade has this result and text; of one that no document has named nothing is kept.
     void note(const QString &key, int result, int percent, const QString &text);
-
-    /// Whether note() has brought anything for update().
-    [[nodiscard]] bool isFollowed(const QString &key) const;
 
     /// How far the documents are that have changed. Those that are done are written; whatever comes of that
     /// stands in resultText().
@@ -68,7 +65,7 @@ private:
     {
         int row = 0;
         int result = UpgradeTools::Waiting;
-        int percent = 0;
+        int share = 0; ///< of the percent of its document
         QString text;
     };
     struct Document
@@ -77,11 +74,11 @@ private:
         std::unique_ptr<UpgradeDocument> workbook;
         QHash<QString, Line> lines; ///< by key
         int refused = 0;
+        qsizetype running = 0; ///< lines
+        qsizetype shareSum = 0;
         int toldPercent = -1;
     };
 
-    [[nodiscard]] static int doneLinesOf(const Document &document);
-    [[nodiscard]] static int percentOf(const Document &document);
     void finish(Document &document);
 
     mutable std::mutex m_mutex; ///< for the documents; their workbooks are the scene's

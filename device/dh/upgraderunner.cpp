@@ -23,17 +23,23 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
     upgrade->state.text = UpgradeTools::text(UpgradeTools::Waiting);
     {
         const std::lock_guard lock(m_mutex);
-        if (m_unfinished == 0)
+        if (m_unfinished == 0) {
             m_round.clear();
+            m_percentSum = 0;
+        }
         const auto known = m_round.constFind(order.key);
         const bool isRunning = known != m_round.cend() && UpgradeTools::isRunning((*known)->state.result);
         if (m_hasEnded || isRunning || !makeThreadLocked())
             return false;
+        if (known != m_round.cend())
+            m_percentSum -= shareOf((*known)->state);
         m_round.insert(order.key, upgrade);
+        m_percentSum += shareOf(upgrade->state);
         ++m_unfinished;
     }
     m_watchers.changed(upgrade->order, upgrade->state); // before a thread has news of it
     const std::lock_guard lock(m_mutex);
+    upgrade->isWaiting = true;
     m_waiting.push_back(upgrade);
     m_added.notify_one();
     return true;
@@ -54,16 +60,16 @@ bool UpgradeRunner::makeThreadLocked()
 void UpgradeRunner::stop(const QString &key)
 {
     std::shared_ptr<Upgrade> upgrade;
-    bool hasBegun = true;
+    bool wasWaiting = false;
     {
         const std::lock_guard lock(m_mutex);
         upgrade = m_round.value(key);
         if (!upgrade)
             return;
         upgrade->stopAsked = true;
-        hasBegun = std::erase(m_waiting, upgrade) == 0;
+        wasWaiting = std::exchange(upgrade->isWaiting, false);
     }
-    if (!hasBegun)
+    if (wasWaiting)
         finish(upgrade, {.result = UpgradeTools::Stopped,
                          .percent = 0,
                          .text = UpgradeTools::text(UpgradeTools::Stopped),
@@ -83,13 +89,15 @@ bool UpgradeRunner::isUpgrading(const QString &key) const
     return upgrade && UpgradeTools::isRunning(upgrade->state.result);
 }
 
+int UpgradeRunner::shareOf(const UpgradeState &state)
+{
+    return UpgradeTools::isRunning(state.result) ? state.percent : 100;
+}
+
 int UpgradeRunner::percent() const
 {
     const std::lock_guard lock(m_mutex);
-    qsizetype sum = 0;
-    for (const std::shared_ptr<Upgrade> &upgrade : m_round)
-        sum += UpgradeTools::isRunning(upgrade->state.result) ? upgrade->state.percent : 100;
-    return m_round.isEmpty() ? 100 : static_cast<int>(sum / m_round.size());
+    return m_round.isEmpty() ? 100 : static_cast<int>(m_percentSum / m_round.size());
 }
 
 void UpgradeRunner::end()
@@ -101,6 +109,9 @@ void UpgradeRunner::end()
         m_hasEnded = true;
         threads.swap(m_threads);
         waiting.swap(m_waiting);
+        std::erase_if(waiting, [](const std::shared_ptr<Upgrade> &upgrade) {
+            return !std::exchange(upgrade->isWaiting, false);
+        });
     }
     for (std::jthread &thread : threads)
         thread.request_stop();
@@ -123,6 +134,8 @@ void UpgradeRunner::work(const std::stop_token &stop)
                 return;
             upgrade = m_waiting.front();
             m_waiting.pop_front();
+            if (!std::exchange(upgrade->isWaiting, false)) // it was stopped
+                continue;
         }
         UpgradeWork device(m_libraries, m_limits, upgrade->order, upgrade->stopAsked,
                            [&](const UpgradeState &state) { change(*upgrade, state); });
@@ -134,6 +147,7 @@ void UpgradeRunner::change(Upgrade &upgrade, const UpgradeState &state)
 {
     {
         const std::lock_guard lock(m_mutex);
+        m_percentSum += shareOf(state) - shareOf(upgrade.state);
         upgrade.state = state;
     }
     m_watchers.changed(upgrade.order, state);

@@ -54,8 +54,11 @@ private:
         UpgradeOrder order;
         UpgradeState state;
         std::atomic<bool> stopAsked = false;
+        bool isWaiting = false; ///< for a thread
     };
 
+    /// What an upgrade adds to the percent of its round.
+    [[nodiscard]] static int shareOf(const UpgradeState &state);
     [[nodiscard]] bool makeThreadLocked();
     void work(const std::stop_token &stop);
     void change(Upgrade &upgrade, const UpgradeState &state);
@@ -68,7 +71,8 @@ private:
     std::condition_variable_any m_added;
     bool m_hasEnded = false;
     std::size_t m_unfinished = 0;
-    std::deque<std::shared_ptr<Upgrade>> m_waiting;
+    std::deque<std::shared_ptr<Upgrade>> m_waiting;   ///< also those that were stopped since
     QHash<QString, std::shared_ptr<Upgrade>> m_round; ///< by key
+    qsizetype m_percentSum = 0;                       ///< of the shares of the round
     std::vector<std::jthread> m_threads;
 };

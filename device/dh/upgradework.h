@@ -15,7 +15,7 @@
 struct UpgradeOrder
 {
     QString key; ///< names the device among those that are upgraded: its MAC, or its address and port
-    QString mac; ///< of its row; empty when there is none
+    QString row; ///< names its row, as DeviceStore::rowNamed() takes it; empty when there is none
     QString ipport;
     QString account;
     QString password;

@@ -1,6 +1,7 @@
 // Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
 #include "device/loginresult.h"
 #include "tests/device/dh/upgradesite.h"
+#include "tests/device/searchanswers.h"
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -312,6 +313,35 @@ private Q_SLOTS:
         QVERIFY(test.passUntil([&] { return test.text(0) == u"固件已写入，设备正在重启，无法停止"_s; }));
         QVERIFY(test.passUntilEnd());
         QCOMPARE(test.result(0), UpgradeTools::Success);
+    }
+
+    void devicesWithAnIpv6AddressAlone()
+    {
+        const UpgradeSite test(1);
+        test.store->removeRows({test.mac(0)});
+        QVERIFY(test.site->changeDevice(test.mac(0), [](auto &device, const auto &) {
+            device.address.clear();
+            device.ipv6 = u"fd00::11"_s;
+        }));
+        const std::string mac = test.mac(0).toStdString();
+        QVERIFY(
+            test.store->addAnswer(searchAnswer({.address = "fd00::11", .mac = mac, .ipVersion = 6})).added);
+        const QString name = u"[fd00::11]:37777"_s;
+        const auto row = [&test, &name] {
+            return test.factory->getDeviceDetail(test.family, name);
+        };
+        const QString path = test.file();
+        test.factory->setUpgradeFilePath(test.family, name, path);
+        test.site->setFault(test.mac(0), {Fault::UpgradeFailsAt, 10});
+        test.factory->startUpgrade(test.family, {name});
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(row().value(u"upgraderes"_s).toInt(), UpgradeTools::Failed);
+        test.site->clearFault(test.mac(0), Fault::UpgradeFailsAt);
+        test.ends->clear();
+        test.factory->startUpgrade(test.family, {name});
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(row().value(u"result"_s).toString(), u"升级成功：2.840.1 → 2.900.0"_s);
+        QCOMPARE(row().value(u"vision"_s).toString(), u"v2.900.0"_s);
     }
 
     void theEndOfTheProgram()

@@ -109,6 +109,60 @@ private Q_SLOTS:
                  u"upgrades.xlsx：文档中的设备超过 10000 行，请分成多个文档"_s);
     }
 
+    void manyDevicesAreToldOfAtOnce()
+    {
+        constexpr int count = 1000;
+        const UpgradeSite test(1);
+        QList<QStringList> rows;
+        for (int place = 0; place < count; ++place)
+            rows.append({u"10.0.%1.%2"_s.arg(place / 100).arg(place % 100), {}, {}, {}, test.file()});
+        const QString path = workbook(test, rows);
+        QSignalSpy documents(test.factory.get(), &CDeviceFactory::signalUpdateScheduleUpgradeByDocument);
+        QSignalSpy held(test.factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        test.factory->startUpgradeByDocument(test.family, {path});
+        QTRY_COMPARE(held.size(), 1);
+        const qsizetype atStart = test.schedule->size();
+        // The first ones begin on threads, which may be told apart from the rest.
+        QVERIFY2(atStart <= 1 + 2 * UpgradeLimits().atOnce, qPrintable(QString::number(atStart)));
+        for (const QStringList &row : rows)
+            test.factory->stopUpgrade(test.family, row.first() + u":37777"_s);
+        QTRY_VERIFY(test.schedule->last().first().toInt() > 90);
+        QVERIFY(test.schedule->size() - atStart <= 1 + 2 * UpgradeLimits().atOnce);
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.schedule->last().first().toInt(), 100);
+        QCOMPARE(documents.last(), QVariantList({path, 100}));
+        // The first ones may have found out that nobody answers.
+        QVERIFY(results(path, count).count(u"已停止，设备未改动"_s) >= count - UpgradeLimits().atOnce);
+    }
+
+    void aRetryHasTheAccountOfTheDocument()
+    {
+        const UpgradeSite test(2);
+        test.factory->setDefaultAccount(test.family, u"admin"_s, u"other"_s);
+        for (const int place : {0, 1})
+            test.site->setFault(test.mac(place), {sdk::demo::Fault::UpgradeFailsAt, 50});
+        const QString path = workbook(test, {{test.address(0), {}, u"admin"_s, u"secret1"_s, test.file()},
+                                             {test.address(1), {}, u"admin"_s, u"wrong"_s, test.file()}});
+        const auto tryAgain = [&test] {
+            test.ends->clear();
+            test.factory->startUpgrade(test.family, {test.mac(0), test.mac(1)});
+            return test.passUntilEnd();
+        };
+        test.factory->startUpgradeByDocument(test.family, {path});
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.result(0), UpgradeTools::Failed);
+        QCOMPARE(test.result(1), UpgradeTools::WrongPassword);
+        test.site->requests().clear();
+        QVERIFY(tryAgain());
+        QCOMPARE(test.result(0), UpgradeTools::Failed);
+        QCOMPARE(test.result(1), UpgradeTools::WrongPassword);
+        QVERIFY(!test.value(0, DeviceRowKey::password).toString().contains(u"secret1"_s));
+        // What the user says later counts more.
+        test.factory->setDefaultAccount(test.family, u"admin"_s, u"another"_s);
+        QVERIFY(tryAgain());
+        QCOMPARE(test.result(0), UpgradeTools::WrongPassword);
+    }
+
     void resultsAreWritten()
     {
         const UpgradeSite test(4);
