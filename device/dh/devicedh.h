@@ -148,7 +148,8 @@ public:
 
     // Rows are named by MAC, or by address and port where they have none, as those of IPv6 devices.
 
-    /// `path` may be a "file:///" address. A device that is being upgraded keeps its file.
+    /// `path` may be a "file:///" address. A device that is being upgraded keeps its file. The row's
+    /// "upgraderes" and "result" tell what is wrong with the file, which is looked at again at the start.
     void setUpgradeFilePath(const QString &mac, const QString &path) override;
     /// Returns at once; the rows tell how far each device is and what has come of it: "upgrade" in percent,
     /// "upgraderes" an UpgradeTools::Result, "upgradetext" in words, and "vision" at the end.

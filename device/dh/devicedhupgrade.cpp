@@ -46,11 +46,14 @@ void CDeviceDH::setUpgradeFilePath(const QString &mac, const QString &path)
 {
     if (m_upgrades->isUpgrading(mac))
         return;
-    store().changeRowNamed(mac, [file = localPath(path)](QJsonObject &row) {
+    const QString file = localPath(path);
+    const FirmwareFile firmware = file.isEmpty() ? FirmwareFile() : firmwareFile(file);
+    store().changeRowNamed(mac, [&](QJsonObject &row) {
+        const UpgradeTools::Result refusal = refusalOf(firmware, row.value(DeviceRowKey::model).toString());
         row.insert(DeviceRowKey::filepath, file);
         row.insert(DeviceRowKey::upgrade, 0);
-        row.insert(DeviceRowKey::upgraderes, UpgradeTools::None);
-        row.insert(DeviceRowKey::upgradetext, QString());
+        row.insert(DeviceRowKey::upgraderes, refusal);
+        row.insert(DeviceRowKey::upgradetext, UpgradeTools::text(refusal));
     });
 }
 

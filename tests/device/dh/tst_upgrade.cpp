@@ -234,7 +234,11 @@ private Q_SLOTS:
         const QString path =
             isWritten ? test.file(content, name) : (name.isEmpty() ? QString() : test.folder.filePath(name));
         test.site->requests().clear();
-        test.start({0}, path);
+        test.factory->setUpgradeFilePath(test.family, test.mac(0), path);
+        const bool isTold = result != UpgradeTools::NoFile; // as soon as it is chosen
+        QCOMPARE(test.result(0), isTold ? result : UpgradeTools::None);
+        QCOMPARE(test.text(0), isTold ? UpgradeTools::text(result) : QString());
+        test.factory->startUpgrade(test.family, {test.mac(0)});
         QVERIFY(test.passUntilEnd());
         QCOMPARE(test.result(0), result);
         QCOMPARE(test.text(0), UpgradeTools::text(result));

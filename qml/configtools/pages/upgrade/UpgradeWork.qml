@@ -31,7 +31,15 @@ Item {
                                [qsTr("升级文件") + " (*.bin *.img *.upg)", qsTr("所有文件") + " (*)"], path => {
             identities.forEach(identity => deviceFactory.setUpgradeFilePath("dh", identity, path));
             changed();
+            const refused = identities.filter(identity => UpgradeTools.isFailure(resultOf(identity))).length;
+            if (refused > 0)
+                //: Of the devices that a file was chosen for.
+                said(qsTr("%n 台设备不能用此文件升级，请查看结果", "", refused), OVToast.Error);
         });
+    }
+
+    function resultOf(identity) {
+        return deviceFactory.getDeviceDetail("dh", identity).upgraderes ?? UpgradeTools.None;
     }
 
     function startChecked() {
