@@ -116,6 +116,11 @@ QVariantMap CDeviceBase::upgradeDocumentProgress()
     return {};
 }
 
+int CDeviceBase::upgradeDocumentSuccesses()
+{
+    return 0;
+}
+
 void CDeviceBase::factoryEnds() {}
 
 void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool) {}

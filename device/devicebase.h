@@ -119,6 +119,9 @@ public:
     /// tells.
     virtual void checkSession();
 
+    /// How many of their devices were upgraded, of the documents that are done.
+    virtual int upgradeDocumentSuccesses();
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

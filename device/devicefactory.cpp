@@ -417,6 +417,11 @@ QVariantMap CDeviceFactory::upgradeDocumentProgress(const QString &family)
     return forward(family, &CDeviceBase::upgradeDocumentProgress);
 }
 
+int CDeviceFactory::upgradeDocumentSuccesses(const QString &family)
+{
+    return forward(family, &CDeviceBase::upgradeDocumentSuccesses);
+}
+
 int CDeviceFactory::checkLogin(const QString &family, const QString &ipport, const QString &account,
                                const QString &password)
 {

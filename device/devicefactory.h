@@ -135,6 +135,7 @@ public:
 
     /// What has come of the documents of the last startUpgradeByDocument().
     Q_INVOKABLE QString upgradeDocumentResult(const QString &family);
+    Q_INVOKABLE int upgradeDocumentSuccesses(const QString &family);
 
     /// How many lines of those documents there are ("total"), and with how many nothing is to be done any
     /// more ("done").

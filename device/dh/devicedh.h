@@ -161,6 +161,7 @@ public:
     QVariantList importUpgradeDocument(const QString &file) override;
     QString upgradeDocumentResult() override;
     QVariantMap upgradeDocumentProgress() override;
+    int upgradeDocumentSuccesses() override;
 
 private:
     /// The one login that configuration, live view and snapshots use.

@@ -222,6 +222,11 @@ QVariantMap CDeviceDH::upgradeDocumentProgress()
     return {{QStringLiteral("done"), progress.done}, {QStringLiteral("total"), progress.total}};
 }
 
+int CDeviceDH::upgradeDocumentSuccesses()
+{
+    return m_upgradeDocuments.succeeded();
+}
+
 void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state)
 {
     store().changeRowNamed(order.row, [&state](QJsonObject &row) {

@@ -9,6 +9,7 @@ void UpgradeDocuments::begin()
 {
     m_result.clear();
     m_finishedLines = 0;
+    m_succeeded = 0;
 }
 
 void UpgradeDocuments::add(const QString &name, std::unique_ptr<UpgradeDocument> document)
@@ -103,6 +104,7 @@ void UpgradeDocuments::finish(Document &document)
         document.workbook->setResult(line.row, line.text);
         succeeded += line.result == UpgradeTools::Success ? 1 : 0;
     }
+    m_succeeded += succeeded;
     const int failed = static_cast<int>(document.lines.size()) - succeeded + document.refused;
     m_result +=
         tr("%1：成功%2台，失败%3台。").arg(QFileInfo(document.name).fileName()).arg(succeeded).arg(failed) +

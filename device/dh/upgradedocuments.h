@@ -60,6 +60,9 @@ public:
     /// Empty while documents are open.
     [[nodiscard]] QString resultText() const { return hasOpen() ? QString() : m_result; }
 
+    /// How many devices of the documents that are done were upgraded.
+    [[nodiscard]] int succeeded() const { return m_succeeded; }
+
 private:
     struct Line
     {
@@ -85,4 +88,5 @@ private:
     std::vector<std::unique_ptr<Document>> m_documents;
     int m_finishedLines = 0; ///< of the documents that are done
     QString m_result;
+    int m_succeeded = 0;
 };

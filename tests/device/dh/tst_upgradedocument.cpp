@@ -133,6 +133,7 @@ private Q_SLOTS:
         QCOMPARE(documents.last(), QVariantList({path, 100}));
         // The first ones may have found out that nobody answers.
         QVERIFY(results(path, count).count(u"已停止，设备未改动"_s) >= count - UpgradeLimits().atOnce);
+        QCOMPARE(test.factory->upgradeDocumentSuccesses(test.family), 0);
     }
 
     void aRetryHasTheAccountOfTheDocument()
@@ -203,6 +204,7 @@ private Q_SLOTS:
         const QString told = test.factory->upgradeDocumentResult(test.family);
         QVERIFY2(told.contains(u"upgrades.xlsx：成功2台，失败3台。升级结果已保存到文件："_s),
                  qPrintable(told));
+        QCOMPARE(test.factory->upgradeDocumentSuccesses(test.family), 2);
     }
 
     void aWorkbookThatCannotBeWrittenLosesNothing()

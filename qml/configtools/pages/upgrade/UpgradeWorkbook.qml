@@ -73,7 +73,8 @@ Item {
             if (result === "")
                 return;
             root.running = false;
-            outcome.wanted().show(result, OVMessageBox.Information);
+            outcome.wanted().show(result, root.deviceFactory.upgradeDocumentSuccesses("dh") > 0
+                ? OVMessageBox.Information : OVMessageBox.Error);
         }
     }
     Timer {
