@@ -61,6 +61,11 @@ void CDeviceBase::startUpgradeByDocument(const QStringList &) {}
 
 void CDeviceBase::stopUpgrade(const QString &) {}
 
+QStringList CDeviceBase::upgradesToRetry()
+{
+    return {};
+}
+
 QVariantList CDeviceBase::importUpgradeDocument(const QString &)
 {
     return {};

@@ -51,6 +51,8 @@ public:
     virtual void startUpgrade(const QStringList &macs);
     virtual void startUpgradeByDocument(const QStringList &paths);
     virtual void stopUpgrade(const QString &mac);
+    /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
+    virtual QStringList upgradesToRetry();
     /// A map for each line: "line" (its number in the file), "address", "mac" (of its row, if it has one),
     /// "file", "code" (an UpgradeTools::Result, None when it can be upgraded) and "reason". Why a document
     /// was refused as a whole is told by importError().

@@ -281,6 +281,11 @@ void CDeviceFactory::stopUpgrade(const QString &family, const QString &mac)
     forward(family, &CDeviceBase::stopUpgrade, mac);
 }
 
+QStringList CDeviceFactory::upgradesToRetry(const QString &family)
+{
+    return forward(family, &CDeviceBase::upgradesToRetry);
+}
+
 bool CDeviceFactory::openTemplate()
 {
     const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/template/") +

@@ -86,6 +86,7 @@ public:
     Q_INVOKABLE void startUpgrade(const QString &family, const QStringList &macs);
     Q_INVOKABLE void startUpgradeByDocument(const QString &family, const QStringList &paths);
     Q_INVOKABLE void stopUpgrade(const QString &family, const QString &mac);
+    Q_INVOKABLE QStringList upgradesToRetry(const QString &family);
     /// Shows the workbook that upgrades by document begin from, with the program that the system has for it.
     /// Returns false when it is not there or when there is no such program.
     Q_INVOKABLE bool openTemplate();

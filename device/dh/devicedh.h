@@ -155,6 +155,7 @@ public:
     /// "upgraderes" an UpgradeTools::Result, "upgradetext" in words, and "vision" at the end.
     void startUpgrade(const QStringList &macs) override;
     void stopUpgrade(const QString &mac) override;
+    QStringList upgradesToRetry() override;
     bool hasDeviceUpgrading() override;
     /// The signals name each document by its entry of `paths`. Its results are in it when 100 % is told.
     void startUpgradeByDocument(const QStringList &paths) override;

@@ -69,6 +69,17 @@ void CDeviceDH::startUpgrade(const QStringList &macs)
     noteHeldRows();
 }
 
+QStringList CDeviceDH::upgradesToRetry()
+{
+    QStringList names;
+    for (const QVariant &value : store().ipv4Rows() + store().ipv6Rows()) {
+        const QJsonObject row = value.toJsonObject();
+        if (UpgradeTools::canTryAgain(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None)))
+            names.append(nameOf(row));
+    }
+    return names;
+}
+
 void CDeviceDH::stopUpgrade(const QString &mac)
 {
     m_upgrades->stop(mac);

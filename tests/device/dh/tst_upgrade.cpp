@@ -319,6 +319,17 @@ private Q_SLOTS:
         QCOMPARE(test.result(0), UpgradeTools::Success);
     }
 
+    void onlyWhatMayGoWellIsTriedAgain()
+    {
+        const UpgradeSite test(4);
+        test.site->setFault(test.mac(0), {Fault::UpgradeFailsAt, 10});
+        test.site->setFault(test.mac(1), {Fault::WrongPassword});
+        test.site->setFault(test.mac(2), {Fault::UpgradeBusy});
+        test.start({0, 1, 2, 3}, test.file());
+        QVERIFY(test.passUntilEnd());
+        QCOMPARE(test.factory->upgradesToRetry(test.family), QStringList({test.mac(0), test.mac(2)}));
+    }
+
     void devicesWithAnIpv6AddressAlone()
     {
         const UpgradeSite test(1);
@@ -340,6 +351,7 @@ private Q_SLOTS:
         test.factory->startUpgrade(test.family, {name});
         QVERIFY(test.passUntilEnd());
         QCOMPARE(row().value(u"upgraderes"_s).toInt(), UpgradeTools::Failed);
+        QCOMPARE(test.factory->upgradesToRetry(test.family), QStringList(name));
         test.site->clearFault(test.mac(0), Fault::UpgradeFailsAt);
         test.ends->clear();
         test.factory->startUpgrade(test.family, {name});

@@ -49,14 +49,10 @@ Item {
             start(deviceTable.checkedRows());
     }
 
-    /// Those that may go well another time.
+    /// Those that may go well another time, also those that the filter hides.
     function retry() {
-        const rows = [];
-        for (let i = 0; i < deviceTable.count; ++i) {
-            const row = deviceTable.get(i);
-            if (UpgradeTools.canTryAgain(row.upgraderes))
-                rows.push(row);
-        }
+        const rows = deviceFactory.upgradesToRetry("dh").map(
+            identity => Object.assign({}, deviceFactory.getDeviceDetail("dh", identity), {identity: identity}));
         if (rows.length === 0)
             said(qsTr("没有可以重试的设备"), OVToast.Information);
         else
@@ -64,8 +60,8 @@ Item {
     }
 
     function start(rows) {
-        const idle = rows.filter(row => !UpgradeTools.isRunning(row.upgraderes));
-        const ready = idle.filter(row => row.filepath !== "");
+        const idle = rows.filter(row => !UpgradeTools.isRunning(row.upgraderes ?? UpgradeTools.None));
+        const ready = idle.filter(row => (row.filepath ?? "") !== "");
         if (ready.length < idle.length) {
             //: Of the devices that are to be upgraded.
             said(qsTr("%n 台设备未选择升级文件", "", idle.length - ready.length), OVToast.Error);
@@ -79,7 +75,7 @@ Item {
     }
 
     function run(identities) {
-        followed = followed.concat(identities);
+        followed = Array.from(new Set(followed.concat(identities)));
         percent = 0;
         deviceFactory.startUpgrade("dh", identities);
         running = deviceFactory.hasDeviceUpgrading();
@@ -113,7 +109,7 @@ Item {
 
     function end() {
         running = deviceFactory.hasDeviceUpgrading();
-        const results = followed.map(identity => deviceFactory.getDeviceDetail("dh", identity).upgraderes);
+        const results = followed.map(identity => resultOf(identity));
         const failed = results.filter(result => UpgradeTools.isFailure(result)).length;
         update();
         if (running)
