@@ -268,4 +268,11 @@ void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
     driver.require(u"emptyTitle"_s);
     driver.report(u"upgrade-nothing"_s, driver.text(u"emptyTitle"_s));
     driver.fill(u"upgradeSearchField"_s, QString());
+    driver.click(u"upgradeIpv6Choice"_s);
+    driver.await(u"devices with an IPv6 address are shown"_s, [&] {
+        const Rows rows(driver, u"upgradeTable"_s);
+        return rows.count() > 0 && rows.value(0, "ipport").toString().startsWith(u'[');
+    });
+    driver.report(u"upgrade-ipv6"_s, driver.text(u"upgradeIpv6Choice"_s));
+    driver.click(u"upgradeIpv4Choice"_s);
 }

@@ -70,9 +70,11 @@ FocusScope {
         x: Theme.pageMargin
         width: parent.width - 2 * x
         height: Theme.toolBarHeight
+        ipv6: devices.ipv6
         running: work.running
         onDocumentRequested: document.choose()
         onFileRequested: work.chooseFileForChecked()
+        onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
         onRetryRequested: work.retry()
         onStartRequested: work.startChecked()
         onStopRequested: work.stopAll()
@@ -98,6 +100,7 @@ FocusScope {
         height: foot.y - y
         checkState: devices.checkState
         focus: true
+        ipv6: devices.ipv6
         model: devices
         objectName: "upgradeTable"
         sortKey: devices.sortKey

@@ -7,7 +7,9 @@ RowLayout {
     id: root
 
     required property bool running
+    required property bool ipv6
     property alias searchText: searchField.text
+    signal ipv6Chosen(bool ipv6)
     signal fileRequested
     signal startRequested
     signal stopRequested
@@ -64,6 +66,11 @@ RowLayout {
     }
     Item {
         Layout.fillWidth: true
+    }
+    OVSegmentedChoice {
+        currentIndex: root.ipv6 ? 1 : 0
+        options: [{text: "IPV4", objectName: "upgradeIpv4Choice"}, {text: "IPV6", objectName: "upgradeIpv6Choice"}]
+        onActivated: index => root.ipv6Chosen(index === 1)
     }
     OVTextField {
         id: searchField
