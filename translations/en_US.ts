@@ -3831,6 +3831,10 @@ File path: </translation>
         <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
         <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as %1</translation>
     </message>
+    <message>
+        <source>文档中的设备超过 %1 行，请分成多个文档</source>
+        <translation>The document has more than %1 devices, please split it into several</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeDocumentBar</name>
@@ -4064,6 +4068,26 @@ File path: </translation>
         <source>%1（%2%）</source>
         <translation>%1 (%2%)</translation>
     </message>
+    <message>
+        <source>尚未停止，正在重试</source>
+        <translation>Not stopped yet, trying again</translation>
+    </message>
+    <message>
+        <source>固件已写入，设备正在重启，无法停止</source>
+        <translation>The firmware is written and the device restarts, it cannot be stopped</translation>
+    </message>
+    <message>
+        <source>升级成功：%1</source>
+        <translation>Upgraded: %1</translation>
+    </message>
+    <message>
+        <source>%1：未读到版本号</source>
+        <translation>%1: it tells no version</translation>
+    </message>
+    <message>
+        <source>%1：现为 %2，升级前的版本未知</source>
+        <translation>%1: now %2, the version before is not known</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeToolBar</name>
@@ -4246,6 +4270,10 @@ File path: </translation>
         <source>批量升级模板.xlsx</source>
         <translation>Batch upgrade template.xlsx</translation>
     </message>
+    <message>
+        <source>设备已恢复，但无法确认版本</source>
+        <translation>The device is back, but its version cannot be confirmed</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -4297,6 +4325,14 @@ File path: </translation>
         <translation>
             <numerusform>%n device was upgraded</numerusform>
             <numerusform>%n devices were upgraded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不能用此文件升级，请查看结果</source>
+        <extracomment>Of the devices that a file was chosen for.</extracomment>
+        <translation>
+            <numerusform>%n device cannot be upgraded with this file, see its result</numerusform>
+            <numerusform>%n devices cannot be upgraded with this file, see their results</numerusform>
         </translation>
     </message>
 </context>

@@ -3790,6 +3790,10 @@
         <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
         <translation>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</translation>
     </message>
+    <message>
+        <source>文档中的设备超过 %1 行，请分成多个文档</source>
+        <translation>文档中的设备超过 %1 行，请分成多个文档</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeDocumentBar</name>
@@ -4021,6 +4025,26 @@
         <source>%1（%2%）</source>
         <translation>%1（%2%）</translation>
     </message>
+    <message>
+        <source>尚未停止，正在重试</source>
+        <translation>尚未停止，正在重试</translation>
+    </message>
+    <message>
+        <source>固件已写入，设备正在重启，无法停止</source>
+        <translation>固件已写入，设备正在重启，无法停止</translation>
+    </message>
+    <message>
+        <source>升级成功：%1</source>
+        <translation>升级成功：%1</translation>
+    </message>
+    <message>
+        <source>%1：未读到版本号</source>
+        <translation>%1：未读到版本号</translation>
+    </message>
+    <message>
+        <source>%1：现为 %2，升级前的版本未知</source>
+        <translation>%1：现为 %2，升级前的版本未知</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeToolBar</name>
@@ -4203,6 +4227,10 @@
         <source>批量升级模板.xlsx</source>
         <translation>批量升级模板.xlsx</translation>
     </message>
+    <message>
+        <source>设备已恢复，但无法确认版本</source>
+        <translation>设备已恢复，但无法确认版本</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -4250,6 +4278,13 @@
         <source>%n 台设备升级成功</source>
         <translation>
             <numerusform>%n 台设备升级成功</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不能用此文件升级，请查看结果</source>
+        <extracomment>Of the devices that a file was chosen for.</extracomment>
+        <translation>
+            <numerusform>%n 台设备不能用此文件升级，请查看结果</numerusform>
         </translation>
     </message>
 </context>

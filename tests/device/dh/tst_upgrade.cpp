@@ -395,6 +395,7 @@ private Q_SLOTS:
         QCOMPARE(test.value(0, DeviceRowKey::ipport).toString(), test.ipport(0));
         QSignalSpy results(test.factory.get(), &CDeviceFactory::signalRetToSystemConfig);
         QSignalSpy copies(test.factory.get(), &CDeviceFactory::signalRetToCopyConfig);
+        QVERIFY(test.site->requests().of("NetModifyDeviceBySearch").isEmpty());
         QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Writing; }));
         test.site->requests().clear();
         const QStringList commands = {u"rebootDevice"_s, u"resetSystem"_s, u"videoStandard"_s,
