@@ -86,7 +86,6 @@ public:
     Q_INVOKABLE void startUpgrade(const QString &family, const QStringList &macs);
     Q_INVOKABLE void startUpgradeByDocument(const QString &family, const QStringList &paths);
     Q_INVOKABLE void stopUpgrade(const QString &family, const QString &mac);
-    Q_INVOKABLE QStringList upgradesToRetry(const QString &family);
     /// Shows the workbook that upgrades by document begin from, with the program that the system has for it.
     /// Returns false when it is not there or when there is no such program.
     Q_INVOKABLE bool openTemplate();
@@ -136,7 +135,10 @@ public:
 
     /// What has come of the documents of the last startUpgradeByDocument().
     Q_INVOKABLE QString upgradeDocumentResult(const QString &family);
+    /// How many of their devices were upgraded.
     Q_INVOKABLE int upgradeDocumentSuccesses(const QString &family);
+    /// The names of the rows whose upgrade has failed and may go well another time.
+    Q_INVOKABLE QStringList upgradesToRetry(const QString &family);
 
     /// How many lines of those documents there are ("total"), and with how many nothing is to be done any
     /// more ("done").

@@ -154,6 +154,15 @@ private:
              [this] {
                  return m_factory->upgradeDocumentProgress("dh").value("total") == 0; // none was run
              }},
+            {"upgradeDocumentSuccesses",
+             [this] {
+                 return m_factory->upgradeDocumentSuccesses("dh") == 0;
+             }},
+            {"upgradesToRetry",
+             [this] {
+                 m_factory->updataDeviceInfo("dh", "upgraderes", 20, camera, {});
+                 return m_factory->upgradesToRetry("dh") == QStringList(camera);
+             }},
         };
     }
 
