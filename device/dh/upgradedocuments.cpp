@@ -88,7 +88,6 @@ UpgradeDocuments::Progress UpgradeDocuments::progress() const
     Progress progress = {.done = m_finishedLines, .total = m_finishedLines};
     const std::lock_guard lock(m_mutex);
     for (const std::unique_ptr<Document> &document : m_documents) {
-        const int lines = static_cast<int>(document->lines.size());
         const auto lines = static_cast<int>(document->lines.size());
         progress.done += lines - static_cast<int>(document->running) + document->refused;
         progress.total += lines + document->refused;
