@@ -356,7 +356,7 @@ private Q_SLOTS:
         test.ends->clear();
         test.factory->startUpgrade(test.family, {name});
         QVERIFY(test.passUntilEnd());
-        QCOMPARE(row().value(u"result"_s).toString(), u"升级成功：2.840.1 → 2.900.0"_s);
+        QCOMPARE(row().value(u"upgradetext"_s).toString(), u"升级成功：2.840.1 → 2.900.0"_s);
         QCOMPARE(row().value(u"vision"_s).toString(), u"v2.900.0"_s);
     }
 

@@ -63,6 +63,7 @@ public:
     Q_INVOKABLE bool hasDeviceUpgrading() { return false; }
     Q_INVOKABLE QStringList upgradesToRetry(const QString &) { return {"a", "b"}; }
     Q_INVOKABLE QString upgradeDocumentResult(const QString &) { return "upgrades.xlsx"; }
+    Q_INVOKABLE QVariantMap upgradeDocumentProgress(const QString &) { return {{"done", 1}, {"total", 2}}; }
     Q_INVOKABLE int upgradeDocumentSuccesses(const QString &) { return successes; }
     Q_INVOKABLE QVariantMap getDeviceDetail(const QString &, const QString &identity)
     {
@@ -71,6 +72,7 @@ public:
 
 Q_SIGNALS:
     void signalUpdateSchedule(int value);
+    void signalUpdateScheduleUpgradeByDocument(const QString &fileName, int value);
     void signalShowUpgradeFinishTip();
 };
 
