@@ -53,9 +53,9 @@ public:
     virtual void stopUpgrade(const QString &mac);
     /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
     virtual QStringList upgradesToRetry();
-    /// A map for each line: "line" (its number in the file), "address", "mac" (of its row, if it has one),
-    /// "file", "code" (an UpgradeTools::Result, None when it can be upgraded) and "reason". Why a document
-    /// was refused as a whole is told by importError().
+    /// A map for each line: "line" (its number in the file), "address", "mac" (the name of its row, if it has
+    /// one), "file", "code" (an UpgradeTools::Result, None when it can be upgraded) and "reason". Why a
+    /// document was refused as a whole is told by importError().
     virtual QVariantList importUpgradeDocument(const QString &file);
     virtual int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password);
     virtual bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,

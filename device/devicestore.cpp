@@ -131,7 +131,7 @@ QJsonObject DeviceStore::rowAt(const QString &ipport) const
 
 std::optional<QString> DeviceStore::ipv6IdentityLocked(const QString &name) const
 {
-    return name.startsWith(QLatin1Char('[')) ? identityAt(m_ipv6, name) : std::nullopt;
+    return name.isEmpty() ? std::nullopt : identityAt(m_ipv6, name);
 }
 
 QJsonObject DeviceStore::rowNamed(const QString &name) const

@@ -123,7 +123,7 @@ UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 
 CDeviceDH::Credentials CDeviceDH::upgradeCredentials(const QJsonObject &row) const
 {
-    const Credentials usual = credentialsOf(row);
+    Credentials usual = credentialsOf(row);
     const auto known = m_documentAccounts.constFind(nameOf(row));
     if (known == m_documentAccounts.cend() || known->usual != usual)
         return usual;

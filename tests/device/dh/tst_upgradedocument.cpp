@@ -30,7 +30,8 @@ private:
     {
         QExcel excel;
         QStringList texts;
-        for (int row = 2; excel.open(path) && row <= rows + 1; ++row)
+        const bool isOpen = excel.open(path);
+        for (int row = 2; isOpen && row <= rows + 1; ++row)
             texts.append(excel.cellText(row, 6).value_or(QString()));
         return texts;
     }

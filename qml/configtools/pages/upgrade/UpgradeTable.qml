@@ -19,7 +19,7 @@ OVTable {
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true},
-        {key: "ipport", title: qsTr("IP:端口"), width: root.ipv6 ? Theme.columnLongAddress : Theme.columnAddress, sortable: true, cell: figureCell},
+        {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: figureCell},
         {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, sortable: true, cell: figureCell},
         {key: "filepath", title: qsTr("升级文件"), width: Theme.columnFile, stretch: 2, sortable: true, cell: fileCell},
         {key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, cell: progressCell},
