@@ -358,6 +358,13 @@ private Q_SLOTS:
         QVERIFY(test.passUntilEnd());
         QCOMPARE(row().value(u"upgradetext"_s).toString(), u"升级成功：2.840.1 → 2.900.0"_s);
         QCOMPARE(row().value(u"vision"_s).toString(), u"v2.900.0"_s);
+
+        // One that has no address yet is named without brackets.
+        const QString unset = u"0.0.0.0:37777"_s;
+        QVERIFY(test.store->addAnswer(searchAnswer({.address = "0.0.0.0", .mac = "02:aa", .ipVersion = 6}))
+                    .added);
+        test.factory->setUpgradeFilePath(test.family, unset, path);
+        QCOMPARE(test.store->rowNamed(unset).value(DeviceRowKey::filepath).toString(), path);
     }
 
     void theEndOfTheProgram()
