@@ -44,10 +44,22 @@ Item {
         const rows = Array.from(nameForm.changedRows());
         saving = rows;
         written = 0;
-        batch.start(rows.length, i => write(rows[i]), i => qsTr("通道 %1").arg(rows[i] + 1), () => nameForm.endSaving());
+        batch.start(rows.length, i => write(rows[i]), i => qsTr("通道 %1").arg(rows[i] + 1), endSaving);
+    }
+
+    function endSaving() {
+        if (session.overtaken)
+            tell();  // of the saving in the login before, nothing more is heard
+        else
+            nameForm.endSaving();
+        session.settle();
     }
 
     function write(row) {
+        if (session.overtaken) {
+            batch.stopping = true;
+            return;
+        }
         const trouble = nameForm.write(row);
         if (trouble === ChannelNameForm.None || trouble === ChannelNameForm.Different)
             ++written;

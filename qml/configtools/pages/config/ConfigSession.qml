@@ -20,6 +20,8 @@ Item {
     property int loginResult: 0
     property bool taken: false       // another device is logged in to, since its live picture is watched
     property bool lost: false        // the login was there, but the device no longer answers
+    property bool overtaken: false   // another login was made in the midst of work, which is left out for that
+    property bool changeLost: false  // it was to write something
     property string failure          // why there was no login
     property string busyText
     readonly property bool busy: busyText !== ""
@@ -33,17 +35,28 @@ Item {
     readonly property int shortStay: 3000
     readonly property int longStay: 5000
 
-    /// Does `job` once the page shows `text`. A job may end with asking for the next one.
-    function work(text, job) {
+    /// Does `job` once the page shows `text`, unless the login is another one by then: it was meant for the device
+    /// of this one. A job may end with asking for the next one.
+    function work(text, job, writes = false) {
         busyText = text;
         hold.open();
         paint.run(() => {
-            job();
+            if (!overtaken)
+                job();
+            else if (writes)
+                changeLost = true;
             if (paint.work !== null)
                 return;
             busyText = "";
             hold.close();
+            settle();
         });
+    }
+
+    /// Work has ended: what came about the login meanwhile is noted.
+    function settle() {
+        if (overtaken)
+            noteOtherLogin();
     }
 
     function open(ipport) {
@@ -65,7 +78,7 @@ Item {
     }
 
     function login(account, password) {
-        loggedIn = taken = lost = false;
+        loggedIn = taken = lost = overtaken = changeLost = false;
         failure = "";
         forget();
         work(qsTr("正在登录…"), () => {
@@ -128,8 +141,9 @@ Item {
 
     /// The live view works with the same login, and has just made it anew.
     function noteOtherLogin() {
-        if (unsaved > 0)
+        if (unsaved > 0 || changeLost)
             said(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longStay);
+        overtaken = changeLost = lost = false;
         forget();
         taken = deviceFactory.getConfigData("dh", "sessionDevice") !== device;
         loggedIn = !taken;
@@ -156,11 +170,15 @@ Item {
     }
 
     Connections {
-        enabled: root.loggedIn && !root.busy && !namesWork.running
+        enabled: root.loggedIn || root.lost  // its own login is awaited in neither
         target: root.deviceFactory
 
         function onSignalHighLevelLoginRet(result) {
-            if (result === 0)
+            if (result !== 0)
+                return;
+            if (root.busy || namesWork.running)
+                root.overtaken = true;
+            else
                 root.noteOtherLogin();
         }
     }

@@ -62,7 +62,7 @@ Item {
                 writing = true;
                 encodeForm.set(key, value);
                 writing = false;
-            });
+            }, true);
         else
             encodeForm.set(key, value);
         // The compression is one for both streams, and only its profile is each one's own.
@@ -74,7 +74,7 @@ Item {
 
     function save() {
         refusedItems = "";
-        session.work(qsTr("正在保存编码配置…"), () => deviceFactory.confirmConfigData("dh"));
+        session.work(qsTr("正在保存编码配置…"), () => deviceFactory.confirmConfigData("dh"), true);
     }
 
     visible: false

@@ -56,7 +56,7 @@ Item {
                 session.said(qsTr("设备没有应答，修改可能没有写入"), OVToast.Error, session.longStay);
             else if (refused)
                 session.said(qsTr("设备没有接受修改，显示的是设备现有的值"), OVToast.Error, session.longStay);
-        });
+        }, true);
     }
 
     visible: false

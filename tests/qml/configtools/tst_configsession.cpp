@@ -1,0 +1,118 @@
+#include "sdk/demo/demosite.h"
+#include "tests/device/dh/configsite.h"
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+namespace {
+
+const char *const scene =
+    "import QtQuick\n"
+    "import QtQuick.Templates as T\n"
+    "import configtools\n"
+    "T.ApplicationWindow {\n"
+    "    visible: true\n"
+    "    ConfigSession {\n"
+    "        objectName: 'session'; deviceFactory: factory\n"
+    "        localConfig: ({getSearchConfigUsrename: () => 'admin', getSearchConfigPass: () => 'secret1'})\n"
+    "        function readNames() { names.load(); }\n"
+    "        function saveNames() {\n"
+    "            names.form.set(0, 'west');\n"
+    "            names.form.set(1, 'east');\n"
+    "            names.save();\n"
+    "        }\n"
+    "        function saveEncoding() { encoding.save(); }\n"
+    "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
+    "    }\n"
+    "}\n";
+
+} // namespace
+
+/// The login of the configuration page while other pages log in, too.
+class TestConfigSession : public QObject
+{
+    Q_OBJECT
+private:
+    const sdk::demo::SceneDevice m_recorder = configDevice(1, "NVR", 2);
+    const sdk::demo::SceneDevice m_other = configDevice(2, "NVR", 2);
+    std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QObject *m_session = nullptr;
+
+    void call(const char *function) const { QVERIFY(QMetaObject::invokeMethod(m_session, function)); }
+    [[nodiscard]] bool isBusy() const { return m_session->property("busy").toBool(); }
+    [[nodiscard]] qsizetype writes() const
+    {
+        return m_site->asked("NetSetItem").size() + m_site->asked("NetSetNewConfig").size();
+    }
+
+private Q_SLOTS:
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+
+    void init()
+    {
+        m_site = std::make_unique<ConfigSite>(QList<sdk::demo::SceneDevice>{m_recorder, m_other});
+        m_engine = std::make_unique<QQmlEngine>();
+        m_engine->addImportPath("qrc:/qt/qml");
+        m_engine->rootContext()->setContextProperty("factory", m_site->factory.get());
+        QQmlComponent component(m_engine.get());
+        component.setData(scene, QUrl("qrc:/test.qml"));
+        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_session = m_window->findChild<QObject *>("session");
+        QVERIFY(QMetaObject::invokeMethod(m_session, "open", Q_ARG(QVariant, ipportOf(m_recorder))));
+        QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_engine.reset();
+        m_site.reset();
+    }
+
+    void whatIsMeantForOneDeviceDoesNotReachAnother_data()
+    {
+        QTest::addColumn<QByteArray>("save");
+        QTest::newRow("names") << QByteArray("saveNames");
+        QTest::newRow("encoding") << QByteArray("saveEncoding");
+        QTest::newRow("image") << QByteArray("setImage");
+    }
+
+    /// A live view's login comes between the wish and the work.
+    void whatIsMeantForOneDeviceDoesNotReachAnother()
+    {
+        QFETCH(QByteArray, save);
+        call("readNames");
+        QTRY_VERIFY(!isBusy());
+        m_site->site->requests().clear();
+        const QSignalSpy said(m_session, SIGNAL(said(QString, int, int)));
+        call(save.constData());
+        QCOMPARE(writes(), 0);
+        QCOMPARE(m_site->factory->findAndLoginDevice("dh", ipportOf(m_other), "admin", "secret1"), 0);
+        QTRY_VERIFY(m_session->property("taken").toBool());
+        QVERIFY(!isBusy() && !m_session->property("loggedIn").toBool());
+        QCOMPARE(writes(), 0);
+        QVERIFY(!said.isEmpty());
+        QCOMPARE(said.last().at(0).toString(), QStringLiteral("设备已重新登录，尚未保存的修改已丢失"));
+    }
+
+    void aLostLoginComesBackWithTheLiveView()
+    {
+        call("lose");
+        QVERIFY(!m_session->property("loggedIn").toBool());
+        QCOMPARE(m_site->login(m_recorder), 0);
+        QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
+    }
+};
+
+QTEST_MAIN(TestConfigSession)
+#include "tst_configsession.moc"
