@@ -1,0 +1,183 @@
+#include "media/videoitem.h"
+#include "tests/media/fakelibraries.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+namespace {
+
+const char *const scene = "import QtQuick\n"
+                          "import QtQuick.Templates as T\n"
+                          "import configtools\n"
+                          "T.ApplicationWindow {\n"
+                          "    OV_MediaPlayer {\n"
+                          "        objectName: 'player'; active: false; channel: 2; channelName: 'gate'\n"
+                          "        connected: true\n"
+                          "    }\n"
+                          "}\n";
+
+/// Refuses streams of some kinds.
+class PickyNet : public FakeNet
+{
+public:
+    using FakeNet::FakeNet;
+
+    std::int64_t NetStartRealStream(std::int64_t login, std::int32_t channel, std::uintptr_t window,
+                                    sdk::LiveStreamKind kind) override
+    {
+        const std::int64_t handle = FakeNet::NetStartRealStream(login, channel, window, kind);
+        started.append(
+            QString("%1 of %2").arg(kind == sdk::LiveStreamKind::Sub ? "sub" : "main").arg(channel));
+        return refused.contains(kind) ? 0 : handle;
+    }
+
+    QList<sdk::LiveStreamKind> refused;
+    QStringList started;
+};
+
+} // namespace
+
+/// The place of a live picture: what it does about a stream that fails or breaks.
+class TestMediaPlayer : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<FakeLibraries> m_fake;
+    std::shared_ptr<PickyNet> m_net;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QObject *m_player = nullptr;
+    std::unique_ptr<QSignalSpy> m_asked;
+
+    QVariant get(const char *name) const { return m_player->property(name); }
+    void set(const char *name, const QVariant &value) const { m_player->setProperty(name, value); }
+
+    /// Waits until the player asks for the device, and tells it.
+    void answer(bool isThere) const
+    {
+        QTRY_VERIFY(get("asking").toBool());
+        answerUnasked(isThere);
+    }
+    void answerUnasked(bool isThere) const
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_player, "answer", Q_ARG(QVariant, isThere)));
+    }
+    void deliverPicture() const
+    {
+        const PlainPicture picture(4, 2, 16, 128, 128);
+        QVERIFY(m_fake->decoder->deliver(picture.bytes, picture.information));
+        QTRY_VERIFY(get("playing").toBool());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        CDeviceFactory::registerBackEnd("dh", [] { return std::make_shared<SessionBackEnd>(); });
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
+    void cleanupTestCase() { CDeviceFactory::deleteInstance(); }
+
+    void init()
+    {
+        m_fake = std::make_unique<FakeLibraries>();
+        m_net = std::make_shared<PickyNet>(m_fake->calls);
+        sdk::SdkLibraries libraries = m_fake->libraries();
+        libraries.net = m_net;
+        VideoItem::registerLibraries(libraries);
+        m_engine = std::make_unique<QQmlEngine>();
+        m_engine->addImportPath("qrc:/qt/qml");
+        QQmlComponent component(m_engine.get());
+        component.setData(scene, QUrl("qrc:/test.qml"));
+        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_player = m_window->findChild<QObject *>("player");
+        m_asked = std::make_unique<QSignalSpy>(m_player, SIGNAL(asked()));
+    }
+
+    void cleanup()
+    {
+        m_asked.reset();
+        m_window.reset();
+        m_engine.reset();
+        VideoItem::registerLibraries({});
+        m_net.reset();
+        m_fake.reset();
+    }
+
+    void whatFailsIsTriedAgain()
+    {
+        set("active", true);
+        answer(false); // the device is away: no stream is asked for
+        QVERIFY(get("resting").toBool() && m_net->started.isEmpty());
+        QTRY_COMPARE(m_asked->size(), 2); // by itself
+        m_net->refused = {sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub};
+        answer(true);
+        QCOMPARE(m_net->started, (QStringList{"sub of 2", "main of 2"}));
+        QVERIFY(get("resting").toBool() && !get("connecting").toBool());
+        m_net->refused.clear();
+        QVERIFY(QMetaObject::invokeMethod(m_player, "reconnect"));
+        answer(true);
+        deliverPicture();
+        QVERIFY(!get("resting").toBool());
+
+        const QSignalSpy failed(m_player, SIGNAL(failed()));
+        m_fake->clock->advance(std::chrono::seconds(5)); // nothing comes any more
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(get("resting").toBool() && !get("playing").toBool());
+        answer(true);
+        deliverPicture();
+    }
+
+    void withoutASubStreamTheMainOneIsShown()
+    {
+        m_net->refused = {sdk::LiveStreamKind::Sub};
+        set("active", true);
+        answer(true);
+        QCOMPARE(m_net->started, (QStringList{"sub of 2", "main of 2"}));
+        deliverPicture();
+        set("channel", 3); // may have one
+        answer(true);
+        QCOMPARE(m_net->started.mid(2), (QStringList{"sub of 3", "main of 3"}));
+    }
+
+    void onlyTheLastWishCounts()
+    {
+        set("active", true);
+        set("channel", 5);
+        set("mainStream", true);
+        answer(true);
+        QCOMPARE(m_asked->size(), 1);
+        QCOMPARE(m_net->started, QStringList{"main of 5"});
+
+        set("channel", 6);
+        QTRY_VERIFY(get("asking").toBool());
+        set("active", false); // the window is closed while it asks
+        answerUnasked(true);
+        QVERIFY(!get("connecting").toBool());
+        QCOMPARE(m_net->started.size(), 1);
+    }
+
+    void quickStartsAndStopsLeaveNothing()
+    {
+        m_fake->calls.take();
+        for (int round = 0; round < 100; ++round) {
+            set("active", true);
+            if (round % 2 == 0)
+                answer(true);
+            set("active", false);
+        }
+        const QStringList calls = m_fake->calls.take();
+        QCOMPARE(m_net->started.size(), 50);
+        QCOMPARE(calls.count("NetStopRealStream(77)"), 50);
+        QCOMPARE(calls.filter("DecoderFreePort").size(), 50);
+    }
+};
+
+QTEST_MAIN(TestMediaPlayer)
+#include "tst_mediaplayer.moc"
