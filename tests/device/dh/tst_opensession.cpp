@@ -172,6 +172,34 @@ private Q_SLOTS:
         QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
     }
 
+    void manyQuickWishesLeaveOneSession()
+    {
+        for (int round = 0; round < 100; ++round) {
+            open(ipportOf(round % 2 == 0 ? m_recorder : m_camera));
+            if (round % 3 == 0)
+                m_site->factory->stopOpeningSession("dh");
+            if (round % 10 == 0)
+                QCoreApplication::processEvents();
+        }
+        open(ipportOf(m_recorder));
+        QTRY_COMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_recorder));
+        QVERIFY(QTest::qWaitFor([this] {
+            return m_site->asked("NetLoginSecure").size() == m_site->asked("NetLogout").size() + 1;
+        }));
+        QCOMPARE(m_opened->last().at(0).toString(), ipportOf(m_recorder));
+    }
+
+    void theEndMayComeInTheMidst()
+    {
+        open(ipportOf(m_recorder));
+        open("192.168.1.77:37777");
+        m_site->factory->checkSession("dh");
+        QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
+        m_site->factory.reset();
+        QCoreApplication::processEvents();
+        QCOMPARE(m_opened->size(), 0);
+    }
+
     void channelsBeyondReasonAreLeftOut_data()
     {
         QTest::addColumn<int>("told");
