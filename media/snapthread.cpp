@@ -73,9 +73,11 @@ bool SnapThread::savePicture(const SnapTask &task, int channel, const QString &f
     for (int attempt = 0; attempt < maximumTries && !m_stop.stop_requested(); ++attempt) {
         if (attempt > 0)
             msleep(pauseMilliseconds);
+        if (!task.isDeviceCurrent())
+            return false; // its channels are another device's
         // A new login ends the stream with its session.
         if (attempt == 0 || view.loginHandle() != task.sessionHandle()) {
-            // Another device may have been logged in to since: its picture must not pass for this one's.
+            // Another device may be logged in to meanwhile: its picture must not pass for this one's.
             const bool isBegun = view.start() && task.isDeviceCurrent();
             if (!isBegun && view.loginHandle() == task.sessionHandle())
                 return false;

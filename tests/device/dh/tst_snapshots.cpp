@@ -174,6 +174,8 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(taken.size(), 3, longWait);
         QCOMPARE(taken.at(2).at(2).toString(), QStringLiteral("抓图失败"));
         QVERIFY(!QFile::exists(pathOf("rec", 2)));
+        for (const auto &request : m_site->requests().of("NetStartRealStream"))
+            QCOMPARE(request.mac, recorder); // the other one is not bothered
     }
 
     void aNewLoginToTheDeviceLosesNone()
