@@ -10,6 +10,20 @@ namespace {
 
 const QString family = QStringLiteral("dh");
 
+/// True for what nobody sees but what breaks a line or turns the letters behind it around.
+bool isInvisible(QChar letter)
+{
+    const char16_t code = letter.unicode();
+    return letter.category() == QChar::Other_Control || code == 0x061C || code == 0x200E || code == 0x200F ||
+           (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+QString withoutInvisible(QString text)
+{
+    text.removeIf(isInvisible);
+    return text;
+}
+
 } // namespace
 
 ChannelNameForm::ChannelNameForm(QObject *parent) : DialogRows(parent) {}
@@ -72,7 +86,12 @@ void ChannelNameForm::read()
     Q_EMIT changed();
 }
 
-void ChannelNameForm::set(int row, const QString &name)
+void ChannelNameForm::set(int row, const QString &typed)
+{
+    change(row, withoutInvisible(typed));
+}
+
+void ChannelNameForm::change(int row, const QString &name)
 {
     if (row < 0 || row >= m_rows.size() || m_rows.at(row).name == name)
         return;
@@ -84,13 +103,13 @@ void ChannelNameForm::set(int row, const QString &name)
 void ChannelNameForm::takeBack(int row)
 {
     if (row >= 0 && row < m_rows.size())
-        set(row, m_rows.at(row).saved);
+        change(row, m_rows.at(row).saved); // as the device has it, whatever is in it
 }
 
 void ChannelNameForm::cut(int row)
 {
     if (row >= 0 && row < m_rows.size())
-        set(row, ByteText::cutTo(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
+        change(row, ByteText::cutTo(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
 }
 
 QList<int> ChannelNameForm::changedRows() const

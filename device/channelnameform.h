@@ -47,8 +47,9 @@ public:
     /// Reads all names anew; what was changed and not written is gone.
     Q_INVOKABLE void read();
 
-    /// Takes what the user has typed for a row.
-    Q_INVOKABLE void set(int row, const QString &name);
+    /// Takes what the user has typed for a row, without what cannot be seen and breaks lines or turns letters
+    /// around.
+    Q_INVOKABLE void set(int row, const QString &typed);
 
     /// Takes back what was typed.
     Q_INVOKABLE void takeBack(int row);
@@ -93,6 +94,7 @@ private:
 
     [[nodiscard]] static bool isFaulty(Trouble trouble) { return trouble == Empty || trouble == TooLong; }
     [[nodiscard]] Trouble troubleOf(const Row &row) const;
+    void change(int row, const QString &name);
     void tellOf(int row);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is

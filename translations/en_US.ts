@@ -501,7 +501,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
-        <translation>Too long: %1 bytes at most</translation>
+        <translation>Over %1 bytes</translation>
     </message>
     <message>
         <source>设备没有接受</source>

@@ -211,18 +211,23 @@ void walkSnapshots(Driver &live)
     live.await(u"the snapshots are closed"_s, [&] { return !live.find(u"snapshotGrid"_s); });
 }
 
+void restartRecorder(const Driver &driver, sdk::demo::DemoSite &site, int seconds)
+{
+    site.setFault(recorderMac, {.fault = sdk::demo::Fault::RebootTakes, .number = seconds, .text = {}});
+    const qint64 session =
+        CDeviceFactory::getinstance()->getConfigData(u"dh"_s, u"loginHandle"_s).toLongLong();
+    driver.check(site.libraries().net->NetRebootDevice(session, std::chrono::seconds(1)),
+                 u"the recorder restarts"_s);
+}
+
 /// The window is opened while its device restarts: the picture comes by itself.
 void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
 {
-    constexpr int restartSeconds = 8; // longer than one try of a login
-    site.setFault(recorderMac,
-                  {.fault = sdk::demo::Fault::RebootTakes, .number = restartSeconds, .text = {}});
-    CDeviceFactory &factory = *CDeviceFactory::getinstance();
-    const qint64 session = factory.getConfigData(u"dh"_s, u"loginHandle"_s).toLongLong();
-    driver.check(site.libraries().net->NetRebootDevice(session, std::chrono::seconds(1)),
-                 u"the recorder restarts"_s);
+    constexpr int longerThanALogin = 8;
+    restartRecorder(driver, site, longerThanALogin);
     openLive(driver, recorder);
-    const QString failure = factory.getErrorName(resultCode(LoginResult::NetworkFailure));
+    const QString failure =
+        CDeviceFactory::getinstance()->getErrorName(resultCode(LoginResult::NetworkFailure));
     live.await(u"it says when it tries again"_s, [&] {
         const QString told = live.text(u"emptyHint"_s);
         return told.startsWith(failure) && told != failure;
@@ -230,6 +235,13 @@ void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
     live.report(u"device-restarts"_s, live.text(u"emptyHint"_s));
     awaitPictures(live, 4);
     live.report(u"device-restarted"_s, live.text(u"liveTitle"_s));
+
+    constexpr int shorterThanThePatience = 3;
+    restartRecorder(driver, site, shorterThanThePatience);
+    live.await(u"the break of all streams is told"_s,
+               [&] { return live.texts(u"liveRetryText"_s).size() == 4; });
+    awaitPictures(live, 4);
+    live.report(u"device-restarted-while-shown"_s, live.text(u"liveTitle"_s));
     site.clearFault(recorderMac, sdk::demo::Fault::RebootTakes);
 }
 

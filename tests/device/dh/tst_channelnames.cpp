@@ -195,6 +195,15 @@ private Q_SLOTS:
         QCOMPARE(this->names(1).value(0).toString(), QString(85, u'门'));
     }
 
+    void whatCannotBeSeenIsNotTyped()
+    {
+        open(recorder());
+        const auto names = form();
+        names->set(0, QStringLiteral(u"门\u0001\u202E口\n 👩\u200D🔧"));
+        QCOMPARE(names->get(0).value("name").toString(),
+                 QStringLiteral(u"门口 👩\u200D🔧")); // joined signs stay joined
+    }
+
     void changesCountUntilTheyAreWrittenOrTakenBack()
     {
         open(recorder());
