@@ -30,10 +30,9 @@ public:
     {
         if (line.refusal != UpgradeTools::None)
             return line.refusal;
-        auto known = m_files.constFind(order.file);
-        if (known == m_files.cend())
-            known = m_files.insert(order.file, firmwareFile(order.file));
-        return ::refusalOf(*known, order.model);
+        if (!m_files.contains(order.file))
+            m_files.insert(order.file, firmwareFile(order.file));
+        return ::refusalOf(m_files.value(order.file), order.model);
     }
 
 private:

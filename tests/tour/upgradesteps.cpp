@@ -237,8 +237,14 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
     driver.require(u"upgradeReportTable"_s);
     driver.report(u"upgrade-document"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"two of three lines are done"_s,
-                 [&] { return driver.text(u"upgradeDocumentText"_s).contains(u"2 / 3"_s); });
+    const QString twoOfThree = said("UpgradeDocumentBar", "升级文档 %1：已完成 %2 / %3 行")
+                                   .arg(QFileInfo(path).fileName())
+                                   .arg(2)
+                                   .arg(3);
+    driver.await(u"two of three lines are done"_s, [&] {
+        const QQuickItem *told = driver.find(u"upgradeDocumentText"_s);
+        return told && told->property("text").toString() == twoOfThree;
+    });
     driver.report(u"upgrade-document-running"_s, driver.text(u"upgradeDocumentText"_s));
     driver.await(
         u"what has come of it is told"_s,
