@@ -71,9 +71,9 @@ void CDeviceDH::setDeleteDevice(const QString &mac, const QString &ipvision)
 void CDeviceDH::setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion)
 {
     QSet<QString> deleted;
-    for (const QString &name : macs.keys()) {
-        if (!m_upgrades->isUpgrading(name))
-            deleted.insert(name);
+    for (auto name = macs.keyBegin(); name != macs.keyEnd(); ++name) {
+        if (!m_upgrades->isUpgrading(*name))
+            deleted.insert(*name);
     }
     if (ipversion == QLatin1String("IPV6"))
         store().removeIPv6Rows(deleted);
