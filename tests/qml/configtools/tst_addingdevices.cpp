@@ -1,17 +1,10 @@
 #include "favourites/author.h"
+#include "tests/qml/configtools/qmlscene.h"
 #include "tests/qml/configtools/recordingfactory.h"
 
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
@@ -36,37 +29,19 @@ QStringList argumentsOf(const QSignalSpy &spy)
     return texts;
 }
 
-QQuickItem *findBelow(QQuickItem *item, const QString &name)
-{
-    if (item->objectName() == name)
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findBelow(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class TestAddingDevices : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
     void init()
     {
         m_factory = std::make_unique<RecordingFactory>();
         m_folder = std::make_unique<QTemporaryDir>();
         m_engine = std::make_unique<QQmlEngine>();
-        m_engine->addImportPath("qrc:/qt/qml");
-        m_engine->rootContext()->setContextProperty("factory", m_factory.get());
-        QQmlComponent component(m_engine.get());
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(*m_engine, scene, {{"factory", m_factory.get()}});
+        QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_adding = m_window->findChild<QObject *>("adding");
         m_adding->setProperty("favouritesFolder", favouritesFolder());
@@ -286,7 +261,7 @@ private:
     [[nodiscard]] QObject *dialog() const { return m_window->findChild<QObject *>("addDeviceDialog"); }
     [[nodiscard]] QQuickItem *item(const QString &name) const
     {
-        return findBelow(m_window->contentItem(), name);
+        return findBelow(m_window->contentItem(), name, Sight::Any);
     }
     static QStringList filled()
     {

@@ -1,17 +1,10 @@
+#include "tests/qml/configtools/qmlscene.h"
 // The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
 // answer.
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
@@ -35,20 +28,6 @@ const char *const scene = "import QtQuick\n"
                           "        }\n"
                           "    }\n"
                           "}\n";
-
-QQuickItem *findBelow(QQuickItem *item, const QString &name)
-{
-    if (!item->isVisible())
-        return nullptr;
-    if (item->objectName() == name)
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findBelow(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -103,7 +82,7 @@ class TestCommands : public QObject
 
     [[nodiscard]] QQuickItem *find(const QString &name) const
     {
-        return findBelow(m_window->contentItem(), name);
+        return findBelow(m_window->contentItem(), name, Sight::Visible);
     }
 
     [[nodiscard]] QRectF place(const QString &name) const
@@ -118,18 +97,12 @@ class TestCommands : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
     void init()
     {
         m_program = std::make_unique<Program>();
         m_engine = std::make_unique<QQmlEngine>();
-        m_engine->addImportPath("qrc:/qt/qml");
-        m_engine->rootContext()->setContextProperty("program", m_program.get());
-        QQmlComponent component(m_engine.get());
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(*m_engine, scene, {{"program", m_program.get()}});
+        QVERIFY(m_window);
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }

@@ -1,15 +1,9 @@
 #include "sdk/demo/demosite.h"
 #include "tests/device/dh/configsite.h"
+#include "tests/qml/configtools/qmlscene.h"
 
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
@@ -55,18 +49,12 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
     void init()
     {
         m_site = std::make_unique<ConfigSite>(QList<sdk::demo::SceneDevice>{m_recorder, m_other});
         m_engine = std::make_unique<QQmlEngine>();
-        m_engine->addImportPath("qrc:/qt/qml");
-        m_engine->rootContext()->setContextProperty("factory", m_site->factory.get());
-        QQmlComponent component(m_engine.get());
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(*m_engine, scene, {{"factory", m_site->factory.get()}});
+        QVERIFY(m_window);
         m_session = m_window->findChild<QObject *>("session");
         QVERIFY(QMetaObject::invokeMethod(m_session, "open", Q_ARG(QVariant, ipportOf(m_recorder))));
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());

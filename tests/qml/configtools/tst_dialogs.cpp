@@ -1,13 +1,7 @@
+#include "tests/qml/configtools/qmlscene.h"
 // Boxes over the window, answered from the keyboard.
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
@@ -27,12 +21,8 @@ class TestDialogs : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-        m_engine.addImportPath("qrc:/qt/qml");
-        QQmlComponent component(&m_engine);
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(m_engine, scene);
+        QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_box = m_window->findChild<QObject *>("question");
     }

@@ -1,13 +1,8 @@
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickWindow>
+#include "tests/qml/configtools/qmlscene.h"
+
 #include <QSignalSpy>
 #include <QTest>
 #include <QVariantMap>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
@@ -91,18 +86,12 @@ private:
     QVariant get(const char *name) const { return m_live->property(name); }
 
 private Q_SLOTS:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
     void init()
     {
         m_factory = std::make_unique<SessionFactory>();
         m_engine = std::make_unique<QQmlEngine>();
-        m_engine->addImportPath("qrc:/qt/qml");
-        m_engine->rootContext()->setContextProperty("factory", m_factory.get());
-        QQmlComponent component(m_engine.get());
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(*m_engine, scene, {{"factory", m_factory.get()}});
+        QVERIFY(m_window);
         m_live = m_window->findChild<QObject *>("live");
         m_answered = std::make_unique<QSignalSpy>(m_live, SIGNAL(answered(bool)));
         m_lost = std::make_unique<QSignalSpy>(m_live, SIGNAL(lost()));

@@ -1,15 +1,8 @@
+#include "tests/qml/configtools/qmlscene.h"
 // What the upgrade page does with its devices, with a factory that does nothing but remember.
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
@@ -84,13 +77,8 @@ class TestUpgradeWork : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-        m_engine.addImportPath("qrc:/qt/qml");
-        m_engine.rootContext()->setContextProperty("factory", &m_factory);
-        QQmlComponent component(&m_engine);
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(m_engine, scene, {{"factory", &m_factory}});
+        QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
 

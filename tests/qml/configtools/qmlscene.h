@@ -1,0 +1,52 @@
+// A window of the program's own QML, for the tests of single pieces of it.
+#pragma once
+
+#include <QHash>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include <memory>
+
+Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+
+/// Opens the window that `source` describes, drawn without OpenGL. The scene reads `objects`, which are not
+/// taken over, by their names. Null on failure, with a warning that says why.
+inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const char *source,
+                                               const QHash<QString, QObject *> &objects = {})
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    for (auto object = objects.cbegin(); object != objects.cend(); ++object)
+        engine.rootContext()->setContextProperty(object.key(), object.value());
+    QQmlComponent component(&engine);
+    component.setData(source, QUrl(QStringLiteral("qrc:/test.qml")));
+    std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
+    if (!window)
+        qWarning().noquote() << component.errorString();
+    return window;
+}
+
+enum class Sight
+{
+    Any,
+    Visible
+};
+
+/// The first item below `item` with this object name, or the first that can be seen; null when there is none.
+inline QQuickItem *findBelow(QQuickItem *item, const QString &name, Sight sight)
+{
+    if (sight == Sight::Visible && !item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findBelow(child, name, sight))
+            return found;
+    }
+    return nullptr;
+}
