@@ -42,7 +42,7 @@ int SystemTools::timeZoneIndex(const QString &text) const
         if (wanted && offsetOf(zones.at(index)) == wanted)
             return index;
     }
-    return 0;
+    return -1;
 }
 
 QString SystemTools::timeOfThisComputer() const

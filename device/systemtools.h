@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] static QStringList timeZones();
 
-    /// The number of the zone with the offset of `text` ("UTC+08:00"), 0 when there is none.
+    /// The number of the zone with the offset of `text` ("UTC+08:00"), -1 when devices do not have it.
     Q_INVOKABLE [[nodiscard]] int timeZoneIndex(const QString &text) const;
 
     /// The time of this computer as "yyyy-MM-dd HH:mm:ss".

@@ -22,8 +22,8 @@ private Q_SLOTS:
         for (int index = 0; index < zones.size(); ++index)
             QCOMPARE(m_tools.timeZoneIndex(zones.at(index)), index);
         QCOMPARE(m_tools.timeZoneIndex("UTC-5:00"), 25);
-        for (const QString text : {"", "UTC+15:00", "UTC", "+08:00", "UTC+8"})
-            QCOMPARE(m_tools.timeZoneIndex(text), 0);
+        for (const QString text : {"", "UTC+15:00", "UTC", "+08:00", "UTC+8", "UTC+13:45", "UTC-2:30"})
+            QCOMPARE(m_tools.timeZoneIndex(text), -1);
     }
 
     void aNewPasswordIsLookedAtInOrder_data()

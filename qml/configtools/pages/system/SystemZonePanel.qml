@@ -11,7 +11,9 @@ Column {
     signal actionRequested(string command, string title, var dataOf)
     signal refused(string message)
 
-    readonly property string ntpComplaint: ntpBox.checked && serverField.text.trim() === "" ? qsTr("请输入NTP服务器")
+    readonly property string zoneComplaint: zoneBox.currentIndex >= 0 ? ""
+        : qsTr("设备没有本机的时区 %1，请选择时区").arg(timeZone)
+    readonly property string ntpComplaint: zoneComplaint !== "" ? zoneComplaint : ntpBox.checked && serverField.text.trim() === "" ? qsTr("请输入NTP服务器")
         : !portField.acceptable ? portField.complaint : !periodField.acceptable ? periodField.complaint : ""
 
     spacing: Theme.pageMargin
@@ -39,6 +41,7 @@ Column {
                     id: zoneBox
                     accessibleName: qsTr("时区")
                     currentIndex: SystemTools.timeZoneIndex(root.timeZone)
+                    displayText: currentIndex < 0 ? "—" : currentText
                     font: Theme.figureFont
                     model: SystemTools.timeZones
                     objectName: "timeZoneBox"
@@ -49,6 +52,14 @@ Column {
                 objectName: "ntpSetBox"
                 text: qsTr("启用NTP")
             }
+        }
+        OVParagraph {
+            x: Theme.panelLabelWidth + Theme.unit
+            width: parent.width - x
+            color: Theme.colours.warnInk
+            objectName: "zoneComplaint"
+            text: root.zoneComplaint
+            visible: text !== ""
         }
         OVFormRow {
             width: Theme.panelLabelWidth + Theme.unit + Theme.choiceWidth
