@@ -146,6 +146,12 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     driver.await(u"ticks are missing"_s, [&] {
         return driver.texts(u"toastText"_s).contains(said("UpgradeWork", "请选择一台设备"));
     });
+    const QString emptyFile = firmware + u".empty"_s;
+    driver.check(QFile(emptyFile).open(QFile::WriteOnly), u"there is an empty file"_s);
+    driver.click(u"upgradeFile%1"_s.arg(places.at(0)));
+    driver.answerFileBox(emptyFile);
+    driver.await(u"the empty file is refused"_s, [&] { return result(0) == UpgradeTools::FileEmpty; });
+    driver.check(!driver.find(u"upgradePhase%1"_s.arg(places.at(0))), u"nothing has made progress"_s);
     for (const int row : places)
         driver.click(u"check%1"_s.arg(row));
     driver.click(u"upgradeFileButton"_s);

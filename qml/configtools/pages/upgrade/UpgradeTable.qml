@@ -72,7 +72,8 @@ OVTable {
             readonly property int result: row?.upgraderes ?? UpgradeTools.None
             readonly property bool running: UpgradeTools.isRunning(result)
             readonly property bool counted: !running || result === UpgradeTools.Sending || result === UpgradeTools.Writing
-            readonly property bool shown: result !== UpgradeTools.None
+            // What failed before it began, as a file that was refused, has made no progress.
+            readonly property bool shown: running || result === UpgradeTools.Success || value > 0
 
             OVProgressBar {
                 id: bar
