@@ -53,12 +53,12 @@ void CDeviceDH::performOn(const QStringList &ipports, const QString &command, co
     const std::optional<SystemAction> action = systemAction(m_libraries, command, data);
     if (!action)
         qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
+    // What no device could accept is not sent, but a device that cannot be logged in to still says so.
+    const SystemAction perform = action.value_or([](std::int64_t) { return false; });
     for (const QString &ipport : ipports) {
-        int result = refusedByDevice;
-        if (isUpgradingAt(ipport)) // nothing comes between a device and its firmware
-            result = resultCode(LoginResult::Upgrading);
-        else if (action) // what no device could accept is not sent to any
-            result = performOn(ipport, *action);
+        // Nothing comes between a device and its firmware.
+        const int result =
+            isUpgradingAt(ipport) ? resultCode(LoginResult::Upgrading) : performOn(ipport, perform);
         Q_EMIT signalCDeviceRetToSystemConfig(ipport, result);
     }
 }
