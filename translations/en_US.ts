@@ -3717,6 +3717,10 @@ File path: </translation>
         <source>请先在左侧勾选设备</source>
         <translation>First tick devices on the left</translation>
     </message>
+    <message>
+        <source>设备没有本机的时区 %1，请选择时区</source>
+        <translation>Devices do not have the time zone of this computer, %1. Choose a zone.</translation>
+    </message>
 </context>
 <context>
     <name>TemplateText</name>

@@ -3676,6 +3676,10 @@
         <source>请先在左侧勾选设备</source>
         <translation>请先在左侧勾选设备</translation>
     </message>
+    <message>
+        <source>设备没有本机的时区 %1，请选择时区</source>
+        <translation>设备没有本机的时区 %1，请选择时区</translation>
+    </message>
 </context>
 <context>
     <name>TemplateText</name>
