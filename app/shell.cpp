@@ -27,6 +27,7 @@
 
 #include <utility>
 
+Q_IMPORT_QML_PLUGIN(AuthorPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {

@@ -51,8 +51,6 @@ public:
     virtual void startUpgrade(const QStringList &macs);
     virtual void startUpgradeByDocument(const QStringList &paths);
     virtual void stopUpgrade(const QString &mac);
-    /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
-    virtual QStringList upgradesToRetry();
     /// A map for each line: "line" (its number in the file), "address", "mac" (the name of its row, if it has
     /// one), "file", "code" (an UpgradeTools::Result, None when it can be upgraded) and "reason". Why a
     /// document was refused as a whole is told by importError().
@@ -123,6 +121,9 @@ public:
 
     /// How many of their devices were upgraded, of the documents that are done.
     virtual int upgradeDocumentSuccesses();
+
+    /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
+    virtual QStringList upgradesToRetry();
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

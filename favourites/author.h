@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QVariantMap>
+#include <QtQml/qqmlregistration.h>
 
 /// The scene's way to favourites: a folder with one JSON file for each saved device, whose password is
 /// enciphered. The key is built into the program, so the cipher keeps a password from being read in passing,
@@ -12,6 +13,7 @@
 class CAuthor : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
 public:
     /// Longer files are not favourites and are left unread.
     static constexpr qint64 maximumFileSize = 1'048'576;

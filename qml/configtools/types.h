@@ -16,7 +16,6 @@
 #include "device/treemodel.h"
 #include "device/treerows.h"
 #include "device/upgradetools.h"
-#include "favourites/author.h"
 #include "favourites/favouritelistmodel.h"
 #include "media/videoitem.h"
 
@@ -77,13 +76,6 @@ struct AddressToolsForeign
     QML_FOREIGN(AddressTools)
     QML_NAMED_ELEMENT(AddressTools)
     QML_SINGLETON
-};
-
-struct AuthorForeign
-{
-    Q_GADGET
-    QML_FOREIGN(CAuthor)
-    QML_NAMED_ELEMENT(Author)
 };
 
 struct FavouriteListModelForeign

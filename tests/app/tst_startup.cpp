@@ -1,14 +1,18 @@
 #include "app/commandline.h"
 #include "app/localconfig.h"
 #include "app/messagebox.h"
+#include "app/publication.h"
 #include "app/shell.h"
 #include "app/timezonetext.h"
+#include "cgi/cgiconfigmanage.h"
 #include "device/devicefactory.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -122,6 +126,32 @@ private Q_SLOTS:
         const auto [exitCode, texts] = refusedStart(CommandLine::parse({"ConfigTools", "--demo", path}));
         QCOMPARE(exitCode, 1);
         QVERIFY2(texts.value(1).contains("scene.json"), qPrintable(texts.join('\n')));
+    }
+
+    void documentsFindTheNativeTypes_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::newRow("CAuthor") << QByteArray("import Author 1.0\nCAuthor {}");
+        QTest::newRow("DateTimeValidator")
+            << QByteArray("import DateTimeValidator 1.0\nDateTimeValidator {}");
+        QTest::newRow("VideoItem") << QByteArray("import VideoItem 1.0\nVideoItem {}");
+        QTest::newRow("OVTreeModel") << QByteArray("import configtools\nOVTreeModel {}");
+    }
+
+    void documentsFindTheNativeTypes()
+    {
+        QFETCH(QByteArray, document);
+        QQmlApplicationEngine engine;
+        engine.addImportPath("qrc:/qt/qml");
+        publishToScene(engine, false);
+        QQmlComponent component(&engine);
+        component.setData(document, QUrl("qrc:/test.qml"));
+        const std::unique_ptr<QObject> object(component.create());
+        QVERIFY2(object, qPrintable(component.errorString()));
+        QCOMPARE(object->metaObject()->className(), QTest::currentDataTag());
+        CGIConfigManage::deleteInstance();
+        CDeviceFactory::deleteInstance();
+        CLocalConfig::deleteInstance();
     }
 
     void quitIsAskedForByTheFactory()

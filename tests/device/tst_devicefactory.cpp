@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QThread>
 
+#include <array>
+#include <cstring>
 #include <memory>
 
 namespace {
@@ -108,6 +110,17 @@ QStringList ownMethods(QMetaMethod::MethodType type)
     return names;
 }
 
+/// Place of a virtual function in its class's table, as calls of other programs find it: the Itanium ABI keeps it
+/// in the pointer to the function.
+template<typename Function>
+int slotOf(Function function)
+{
+    std::array<std::ptrdiff_t, 2> words = {};
+    static_assert(sizeof(function) == sizeof(words));
+    std::memcpy(words.data(), &function, sizeof(words));
+    return static_cast<int>((words[0] - 1) / std::ptrdiff_t(sizeof(void *)));
+}
+
 /// A back end that notes what it was called with.
 class NotingBackEnd : public CDeviceBase
 {
@@ -169,6 +182,53 @@ private Q_SLOTS:
     {
         QCOMPARE(ownMethods(QMetaMethod::Method), operations);
         QCOMPARE(ownMethods(QMetaMethod::Signal), signalNames);
+    }
+
+    /// Back ends that were built apart from the program find the operations at these places.
+    void theOperationsOfABackEndKeepTheirSlots()
+    {
+        constexpr int slotsOfQObject = 12;
+        const std::array slots = {
+            slotOf(&CDeviceBase::startSearch),
+            slotOf(&CDeviceBase::setSearchByIPInfo),
+            slotOf(&CDeviceBase::filterData),
+            slotOf(&CDeviceBase::filterDataIPV6),
+            slotOf(&CDeviceBase::modifyIP),
+            slotOf(&CDeviceBase::setDefaultAccount),
+            slotOf(&CDeviceBase::setInitAccount),
+            slotOf(&CDeviceBase::setDeleteDevice),
+            slotOf(&CDeviceBase::setBatchDeleteDevice),
+            slotOf(&CDeviceBase::getDeviceInfo),
+            slotOf(&CDeviceBase::getDeviceDetail),
+            slotOf(&CDeviceBase::getDeviceDetailByAddress),
+            slotOf(&CDeviceBase::getLoginDevice),
+            slotOf(&CDeviceBase::setUpgradeFilePath),
+            slotOf(&CDeviceBase::startUpgrade),
+            slotOf(&CDeviceBase::startUpgradeByDocument),
+            slotOf(&CDeviceBase::stopUpgrade),
+            slotOf(&CDeviceBase::importUpgradeDocument),
+            slotOf(&CDeviceBase::findAndLoginDevice),
+            slotOf(&CDeviceBase::updataDeviceInfo),
+            slotOf(&CDeviceBase::getCameraConfig),
+            slotOf(&CDeviceBase::getEncodeCaps),
+            slotOf(&CDeviceBase::getConfigData),
+            slotOf(&CDeviceBase::setConfigData),
+            slotOf(&CDeviceBase::getDeviceChannelData),
+            slotOf(&CDeviceBase::confirmConfigData),
+            slotOf(&CDeviceBase::getVideoIn),
+            slotOf(&CDeviceBase::getVideoInByChangeChannel),
+            slotOf(&CDeviceBase::copyConfigToDevice),
+            slotOf(&CDeviceBase::getEncodeInfo),
+            slotOf(&CDeviceBase::unusedOperation),
+            slotOf(&CDeviceBase::systemConfig),
+            slotOf(&CDeviceBase::snapPictureToFile),
+            slotOf(&CDeviceBase::hasDeviceUpgrading),
+            slotOf(&CDeviceBase::importDevice),
+            slotOf(&CDeviceBase::exportDevice),
+            slotOf(&CDeviceBase::unusedListOperation),
+        };
+        for (std::size_t place = 0; place < slots.size(); ++place)
+            QCOMPARE(slots[place], slotsOfQObject + static_cast<int>(place));
     }
 
     void relaysEverySignalWithItsArguments()

@@ -1,12 +1,13 @@
 // The saved devices, as files in one folder. Passwords are enciphered on the way in and deciphered on the way out.
 import QtQuick
+import Author 1.0
 import configtools
 
 QtObject {
     id: root
 
     property string folder: Theme.favPath
-    readonly property Author author: Author {}
+    readonly property CAuthor author: CAuthor {}
 
     /// The files as they are listed: a list of texts by file name.
     function list() {

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+Q_IMPORT_QML_PLUGIN(AuthorPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 /// Opens the window that `source` describes, drawn without OpenGL. The scene reads `objects`, which are not
