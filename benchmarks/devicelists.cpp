@@ -1,6 +1,7 @@
 #include "benchmarks/measurements.h"
 
 #include "device/devicefactory.h"
+#include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/devicetablemodel.h"
 #include "device/dh/devicedh.h"
@@ -71,6 +72,29 @@ Figure measureTree(CDeviceFactory &factory)
             .peerName = {}};
 }
 
+/// Every row is changed once, the last row first.
+Figure measureChanges(DeviceStore &store, const QString &by,
+                      bool (DeviceStore::*change)(const QString &, const DeviceStore::Change &),
+                      QLatin1StringView key)
+{
+    QStringList names;
+    for (const QVariant &row : store.ipv4Rows())
+        names.prepend(row.toJsonObject().value(key).toString());
+    int result = 0;
+    const double time = medianMilliseconds(runs, [&] {
+        ++result;
+        for (const QString &name : std::as_const(names))
+            (store.*change)(name, [result](QJsonObject &row) { row.insert(DeviceRowKey::res, result); });
+    });
+    return {.subject = QStringLiteral("10,000 rows changed one by one, by ") + by,
+            .value = time,
+            .unit = QStringLiteral("ms"),
+            .budget = 100,
+            .peer = {},
+            .largestRatio = {},
+            .peerName = {}};
+}
+
 } // namespace
 
 QList<Figure> measureDeviceLists()
@@ -117,5 +141,8 @@ QList<Figure> measureDeviceLists()
                            .peer = {},
                            .largestRatio = {},
                            .peerName = {}};
-    return {rows, filter, measureTree(factory)};
+    return {
+        rows, filter, measureTree(factory),
+        measureChanges(*store, QStringLiteral("MAC"), &DeviceStore::changeRow, DeviceRowKey::mac),
+        measureChanges(*store, QStringLiteral("address"), &DeviceStore::changeRowAt, DeviceRowKey::ipport)};
 }

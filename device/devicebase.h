@@ -157,6 +157,8 @@ Q_SIGNALS:
     /// when they were not read.
     void signalCDeviceSessionOpened(const QString &ipport, int result, const QVariantList &channels);
     void signalCDeviceSessionChecked(bool answers); ///< false also when there is none
+    /// A search that ends found more devices than it lists: `leftOut` answers came after so many `rows`.
+    void signalCDeviceSearchLimited(int rows, int leftOut);
 
 protected:
     [[nodiscard]] DeviceStore &store() const { return *m_store; }

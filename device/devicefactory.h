@@ -186,6 +186,7 @@ Q_SIGNALS:
     void signalImportProgress(int done, int total);
     void signalSessionOpened(const QString &ipport, int result, const QVariantList &channels);
     void signalSessionChecked(bool answers);
+    void signalSearchLimited(int rows, int leftOut);
 
 private:
     void relaySignals(const CDeviceBase &backEnd);

@@ -64,6 +64,16 @@ QString addressAndPort(const sdk::SearchAnswer &answer)
                                               : address + QLatin1Char(':') + port;
 }
 
+QString rowName(const QJsonObject &row)
+{
+    const QString mac = row.value(DeviceRowKey::mac).toString();
+    if (!mac.isEmpty())
+        return mac;
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
+    const int duplicate = row.value(DeviceRowKey::duplicate).toInt();
+    return duplicate > 0 ? ipport + QLatin1Char('#') + QString::number(duplicate) : ipport;
+}
+
 QJsonObject ipv4Row(const sdk::SearchAnswer &answer)
 {
     // A copy of what every new row holds, filled in: less than half the cost of seventeen insertions.

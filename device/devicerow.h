@@ -40,6 +40,10 @@ inline constexpr QLatin1StringView password("password");
 inline constexpr QLatin1StringView loginType("loginType");   ///< text: "IP" or "P2P"
 inline constexpr QLatin1StringView devp2pPort("devp2pPort"); ///< text: the device's own port behind a tunnel
 inline constexpr QLatin1StringView https("https");           ///< bool: the HTTP port is an encrypted one
+
+/// Int, from 1: rows of the same address and port that were found before. Only IPv6 rows have it, and only
+/// when there were any.
+inline constexpr QLatin1StringView duplicate("duplicate");
 } // namespace DeviceRowKey
 
 /// Text of a block field, decoded as local 8-bit text. Bytes that are no text become replacement characters,
@@ -67,6 +71,10 @@ template<std::size_t size>
 /// "address:port" by which operations name the device; an IPv6 address stands in brackets, as addresses with
 /// colons are written beside a port (RFC 3986).
 [[nodiscard]] QString addressAndPort(const sdk::SearchAnswer &answer);
+
+/// Identifies a row in its list: the MAC, or the address and port of a row without one, followed by "#" and
+/// a number if rows of the same address were found before. Empty for an empty row.
+[[nodiscard]] QString rowName(const QJsonObject &row);
 
 /// Row of an IPv4 answer, with all 17 keys.
 [[nodiscard]] QJsonObject ipv4Row(const sdk::SearchAnswer &answer);

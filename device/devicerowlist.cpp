@@ -1,68 +1,73 @@
 #include "device/devicerowlist.h"
 
+#include "device/devicerow.h"
+
+#include <algorithm>
 #include <utility>
 
-void DeviceRowList::append(const QString &identity, const QJsonObject &row)
+void DeviceRowList::append(const QString &name, const QJsonObject &row)
 {
-    m_places.insert(identity, m_placeOfFront + m_rows.size());
+    const qsizetype place = m_placeOfFront + m_rows.size();
+    m_places.insert(name, place);
     m_rows.append(row);
-    m_identities.append(identity);
+    m_names.append(name);
+    addAddress(row, place);
 }
 
-void DeviceRowList::prepend(const QString &identity, const QJsonObject &row)
+void DeviceRowList::prepend(const QString &name, const QJsonObject &row)
 {
-    m_places.insert(identity, --m_placeOfFront);
+    m_places.insert(name, --m_placeOfFront);
     m_rows.prepend(row);
-    m_identities.prepend(identity);
+    m_names.prepend(name);
+    addAddress(row, m_placeOfFront);
 }
 
-QJsonObject DeviceRowList::row(const QString &identity) const
+QJsonObject DeviceRowList::row(const QString &name) const
 {
-    const auto place = m_places.constFind(identity);
+    const auto place = m_places.constFind(name);
     return place == m_places.cend() ? QJsonObject() : m_rows.at(*place - m_placeOfFront).toJsonObject();
 }
 
-std::optional<QString>
-DeviceRowList::identityOf(const std::function<bool(const QJsonObject &)> &isMeant) const
+std::optional<QString> DeviceRowList::nameAt(const QString &ipport) const
 {
-    for (qsizetype place = 0; place < m_rows.size(); ++place) {
-        if (isMeant(m_rows.at(place).toJsonObject()))
-            return m_identities.at(place);
-    }
-    return std::nullopt;
+    const auto places = m_placesByAddress.constFind(ipport);
+    return places == m_placesByAddress.cend() ? std::nullopt
+                                              : std::optional(m_names.at(places->first() - m_placeOfFront));
 }
 
-QSet<QString> DeviceRowList::identitiesOf(const std::function<bool(const QJsonObject &)> &isMeant) const
+void DeviceRowList::replace(const QString &name, const QJsonObject &row)
 {
-    QSet<QString> identities;
-    for (qsizetype place = 0; place < m_rows.size(); ++place) {
-        if (isMeant(m_rows.at(place).toJsonObject()))
-            identities.insert(m_identities.at(place));
-    }
-    return identities;
-}
-
-bool DeviceRowList::change(const QString &identity, const Change &change)
-{
-    const auto place = m_places.constFind(identity);
-    if (place == m_places.cend())
-        return false;
-    QVariant &stored = m_rows[*place - m_placeOfFront];
-    QJsonObject row = stored.toJsonObject();
-    change(row);
+    const qsizetype place = m_places.value(name);
+    QVariant &stored = m_rows[place - m_placeOfFront];
+    const QJsonObject before = stored.toJsonObject();
     stored = row;
-    return true;
+    if (before.value(DeviceRowKey::ipport) == row.value(DeviceRowKey::ipport))
+        return;
+    removeAddress(before, place);
+    addAddress(row, place);
 }
 
-int DeviceRowList::remove(const QSet<QString> &identities)
+void DeviceRowList::remove(const QSet<QString> &names)
 {
     DeviceRowList kept;
     for (qsizetype place = 0; place < m_rows.size(); ++place) {
-        if (!identities.contains(m_identities.at(place)))
-            kept.append(m_identities.at(place), m_rows.at(place).toJsonObject());
+        if (!names.contains(m_names.at(place)))
+            kept.append(m_names.at(place), m_rows.at(place).toJsonObject());
     }
-    const int removed = static_cast<int>(m_rows.size() - kept.m_rows.size());
-    if (removed > 0)
+    if (kept.m_rows.size() < m_rows.size())
         *this = std::move(kept);
-    return removed;
+}
+
+void DeviceRowList::addAddress(const QJsonObject &row, qsizetype place)
+{
+    QList<qsizetype> &places = m_placesByAddress[row.value(DeviceRowKey::ipport).toString()];
+    places.insert(std::lower_bound(places.cbegin(), places.cend(), place), place);
+}
+
+void DeviceRowList::removeAddress(const QJsonObject &row, qsizetype place)
+{
+    const auto places = m_placesByAddress.find(row.value(DeviceRowKey::ipport).toString());
+    places->erase(std::lower_bound(places->cbegin(), places->cend(), place));
+    if (places->isEmpty())
+        m_placesByAddress.erase(places);
 }

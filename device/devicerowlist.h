@@ -6,43 +6,41 @@
 #include <QStringList>
 #include <QVariantList>
 
-#include <functional>
 #include <optional>
 
-/// An ordered list of rows with an index from a row's identity to its place. Not thread-safe: its owner
+/// An ordered list of rows, indexed by the name of a row and by its "ipport". Not thread-safe: its owner
 /// locks.
 class DeviceRowList
 {
 public:
-    using Change = std::function<void(QJsonObject &row)>;
-
     [[nodiscard]] const QVariantList &rows() const { return m_rows; }
-    [[nodiscard]] bool contains(const QString &identity) const { return m_places.contains(identity); }
+    [[nodiscard]] bool contains(const QString &name) const { return m_places.contains(name); }
 
-    void append(const QString &identity, const QJsonObject &row);
-    void prepend(const QString &identity, const QJsonObject &row);
+    void append(const QString &name, const QJsonObject &row);
+    void prepend(const QString &name, const QJsonObject &row);
 
     /// The row, empty when there is none. Constant time.
-    [[nodiscard]] QJsonObject row(const QString &identity) const;
+    [[nodiscard]] QJsonObject row(const QString &name) const;
 
-    /// Identity of the first row that `isMeant` accepts.
-    [[nodiscard]] std::optional<QString>
-    identityOf(const std::function<bool(const QJsonObject &)> &isMeant) const;
+    /// Name of the first row with this "ipport". Constant time.
+    [[nodiscard]] std::optional<QString> nameAt(const QString &ipport) const;
 
-    /// Identities of all rows that `isMeant` accepts.
-    [[nodiscard]] QSet<QString> identitiesOf(const std::function<bool(const QJsonObject &)> &isMeant) const;
+    /// Puts a row in the place of the one of this name, which must exist. Constant time, unless many rows
+    /// share the address that it had or gets.
+    void replace(const QString &name, const QJsonObject &row);
 
-    /// Changes a row in its place. Returns false when there is none.
-    bool change(const QString &identity, const Change &change);
-
-    /// Removes rows, in one pass however many. Returns how many there were.
-    int remove(const QSet<QString> &identities);
+    /// Removes rows, in one pass however many.
+    void remove(const QSet<QString> &names);
 
 private:
+    void addAddress(const QJsonObject &row, qsizetype place);
+    void removeAddress(const QJsonObject &row, qsizetype place);
+
     QVariantList m_rows;
-    QStringList m_identities; ///< of the rows, in their order
+    QStringList m_names; ///< of the rows, in their order
     /// Places are counted from the first row ever appended, so that a row put in front moves none of the
     /// others.
     QHash<QString, qsizetype> m_places;
     qsizetype m_placeOfFront = 0;
+    QHash<QString, QList<qsizetype>> m_placesByAddress; ///< ascending
 };

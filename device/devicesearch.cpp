@@ -76,6 +76,8 @@ void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::s
 
     if (stop.stop_requested())
         return; // the receivers are being destroyed
+    if (const int leftOut = m_store->leftOut(); leftOut > 0)
+        Q_EMIT limited(DeviceStore::maximumFound, leftOut);
     Q_EMIT rowsAdded();
     Q_EMIT counted(m_store->ipv4Count());
     Q_EMIT done();

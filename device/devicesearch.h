@@ -40,6 +40,7 @@ public:
 Q_SIGNALS:
     void rowsAdded();
     void counted(int ipv4Rows);
+    void limited(int rows, int leftOut); ///< at the end: `leftOut` answers came after so many rows
     void done();
 
 private:

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -41,32 +42,35 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
 {
     const bool ipv4 = hasIPv4Address(answer);
     const QString mac = macText(answer);
-    DeviceRowList &list = ipv4 ? m_ipv4 : m_ipv6;
     // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
     // that arrived again, as every device answers each kind of search.
-    // A device that does not tell its MAC is known by its address.
+    // A device that does not report its MAC is identified by its address.
     const QString identity = !ipv4           ? mac + QLatin1Char(' ') + addressAndPort(answer)
                              : mac.isEmpty() ? addressAndPort(answer)
                                              : mac;
     {
         // Most answers are repeated ones: drop them before a row is built.
         const std::scoped_lock lock(m_mutex);
-        if (list.contains(identity))
+        if (dropsLocked(identity))
             return {};
     }
 
-    const QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
+    QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
     const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
                        row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
     const QByteArray record = bytesOf(answer);
 
     const std::scoped_lock lock(m_mutex);
-    if (list.contains(identity))
+    if (dropsLocked(identity))
         return {};
-    if (heads)
-        list.prepend(identity, row);
+    m_settled.insert(identity);
+    ++m_found;
+    if (!ipv4)
+        addIPv6Locked(row);
+    else if (heads)
+        m_ipv4.prepend(identity, row);
     else
-        list.append(identity, row);
+        m_ipv4.append(identity, row);
 
     // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
     const QString recordKey = ipv4 ? identity : mac;
@@ -77,12 +81,42 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
         .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
 }
 
+bool DeviceStore::dropsLocked(const QString &identity)
+{
+    if (m_settled.contains(identity) || m_ipv4.contains(identity)) // that row was added by hand
+        return true;
+    if (m_found < maximumFound)
+        return false;
+    if (m_leftOut < std::numeric_limits<int>::max())
+        ++m_leftOut;
+    return true;
+}
+
+void DeviceStore::addIPv6Locked(QJsonObject &row)
+{
+    int &before = m_ipv6Found[row.value(DeviceRowKey::ipport).toString()];
+    if (before > 0)
+        row.insert(DeviceRowKey::duplicate, before);
+    ++before;
+    m_ipv6.append(rowName(row), row);
+}
+
+int DeviceStore::leftOut() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_leftOut;
+}
+
 void DeviceStore::clear()
 {
     const std::scoped_lock lock(m_mutex);
     m_ipv4 = {};
     m_ipv6 = {};
     m_records.clear();
+    m_settled.clear();
+    m_ipv6Found.clear();
+    m_found = 0;
+    m_leftOut = 0;
 }
 
 QVariantList DeviceStore::ipv4Rows() const
@@ -125,79 +159,95 @@ QJsonObject DeviceStore::row(const QString &mac) const
 QJsonObject DeviceStore::rowAt(const QString &ipport) const
 {
     const std::scoped_lock lock(m_mutex);
-    const std::optional<QString> identity = identityAt(m_ipv4, ipport);
-    return identity ? m_ipv4.row(*identity) : QJsonObject();
-}
-
-std::optional<QString> DeviceStore::ipv6IdentityLocked(const QString &name) const
-{
-    return name.isEmpty() ? std::nullopt : identityAt(m_ipv6, name);
+    const std::optional<QString> name = m_ipv4.nameAt(ipport);
+    return name ? m_ipv4.row(*name) : QJsonObject();
 }
 
 QJsonObject DeviceStore::rowNamed(const QString &name) const
 {
     const std::scoped_lock lock(m_mutex);
-    if (m_ipv4.contains(name))
-        return m_ipv4.row(name);
-    const std::optional<QString> identity = ipv6IdentityLocked(name);
-    return identity ? m_ipv6.row(*identity) : QJsonObject();
+    return m_ipv4.contains(name) ? m_ipv4.row(name) : m_ipv6.row(name);
 }
 
-bool DeviceStore::changeRowNamed(const QString &name, const DeviceRowList::Change &change)
+bool DeviceStore::changeRowNamed(const QString &name, const Change &change)
 {
-    const std::scoped_lock lock(m_mutex);
-    if (m_ipv4.change(name, change))
-        return true;
-    const std::optional<QString> identity = ipv6IdentityLocked(name);
-    return identity && m_ipv6.change(*identity, change);
+    return changeFound(
+        [&]() -> Place {
+            for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+                if (list->contains(name))
+                    return {.list = list, .name = name};
+            }
+            return {};
+        },
+        change);
 }
 
-bool DeviceStore::changeRow(const QString &mac, const DeviceRowList::Change &change)
+bool DeviceStore::changeRow(const QString &mac, const Change &change)
 {
-    const std::scoped_lock lock(m_mutex);
-    return m_ipv4.change(mac, change);
+    return changeFound([&] { return m_ipv4.contains(mac) ? Place{.list = &m_ipv4, .name = mac} : Place(); },
+                       change);
 }
 
-bool DeviceStore::changeRowAt(const QString &ipport, const DeviceRowList::Change &change)
+bool DeviceStore::changeRowAt(const QString &ipport, const Change &change)
 {
-    const std::scoped_lock lock(m_mutex);
-    for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
-        if (const std::optional<QString> identity = identityAt(*list, ipport))
-            return list->change(*identity, change);
+    return changeFound(
+        [&]() -> Place {
+            for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+                if (const std::optional<QString> name = list->nameAt(ipport))
+                    return {.list = list, .name = *name};
+            }
+            return {};
+        },
+        change);
+}
+
+bool DeviceStore::changeFound(const Finder &find, const Change &change)
+{
+    QJsonObject before;
+    QJsonObject row;
+    for (bool first = true;; first = false) {
+        {
+            const std::scoped_lock lock(m_mutex);
+            const Place place = find();
+            if (!place.list)
+                return false;
+            const QJsonObject stored = place.list->row(place.name);
+            if (!first && stored == before) {
+                place.list->replace(place.name, row);
+                return true;
+            }
+            before = stored;
+        }
+        row = before;
+        change(row);
     }
-    return false;
 }
 
 void DeviceStore::putRow(const QJsonObject &row)
 {
-    const QString mac = row.value(DeviceRowKey::mac).toString();
+    const QString name = rowName(row);
     const std::scoped_lock lock(m_mutex);
-    // A device that does not tell its MAC is known by its address.
-    const QString identity = mac.isEmpty() ? row.value(DeviceRowKey::ipport).toString() : mac;
-    if (!m_ipv4.change(identity, [&row](QJsonObject &stored) { stored = row; }))
-        m_ipv4.append(identity, row);
+    if (m_ipv4.contains(name))
+        m_ipv4.replace(name, row);
+    else
+        m_ipv4.append(name, row);
 }
 
-void DeviceStore::removeRows(const QSet<QString> &macs)
+void DeviceStore::removeRows(const QSet<QString> &names)
 {
     const std::scoped_lock lock(m_mutex);
-    m_ipv4.remove(macs);
-    for (const QString &mac : macs)
-        m_records.remove(mac);
+    for (const QString &name : names) {
+        if (m_ipv4.contains(name))
+            m_settled.insert(name);
+        m_records.remove(name);
+    }
+    m_ipv4.remove(names);
 }
 
-void DeviceStore::removeIPv6Rows(const QSet<QString> &ipports)
+void DeviceStore::removeIPv6Rows(const QSet<QString> &names)
 {
     const std::scoped_lock lock(m_mutex);
-    m_ipv6.remove(m_ipv6.identitiesOf([&ipports](const QJsonObject &row) {
-        return ipports.contains(row.value(DeviceRowKey::ipport).toString());
-    }));
-}
-
-std::optional<QString> DeviceStore::identityAt(const DeviceRowList &list, const QString &ipport)
-{
-    return list.identityOf(
-        [&ipport](const QJsonObject &row) { return row.value(DeviceRowKey::ipport).toString() == ipport; });
+    m_ipv6.remove(names);
 }
 
 bool DeviceStore::isNotificationDue()

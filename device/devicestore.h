@@ -21,25 +21,38 @@ class Clock;
 /// The two ordered row lists (IPv4 and IPv6) and the raw search answer of each device, shared by all back
 /// ends. Thread-safe: answers are added on threads of the network library while the scene's thread reads. A
 /// reader gets a copy that may lack rows of a moment later, never a torn one.
+///
+/// A row is identified by its name, see rowName().
 class DeviceStore
 {
 public:
+    /// Rows of one search, in both lists together. Anyone on the network can answer under any number of MACs.
+    static constexpr int maximumFound = 20'000;
+
+    /// Writes to a row. Runs outside the store's lock on the caller's thread, so it may use the store. Runs
+    /// again when the row was changed by another thread meanwhile, so it must depend on nothing but the row.
+    using Change = std::function<void(QJsonObject &row)>;
+
     /// `clock` gives the time for the limit on notifications.
     explicit DeviceStore(std::shared_ptr<const sdk::Clock> clock);
 
     /// What adding an answer calls for.
     struct Addition
     {
-        bool added = false;  ///< false: the device has a row already, and the answer was dropped
+        bool added = false;  ///< false: the answer was dropped
         bool notify = false; ///< at least a second has passed since the last notification
         int ipv4Count = 0;   ///< rows of the IPv4 list after the addition
     };
 
     /// Turns an answer into a row at its place. The first answer of a device wins; a loopback address goes to
-    /// the head of its list. Constant time, whatever the length of the list.
+    /// the head of its list. Answers of devices that were removed since clear() are dropped, as are those
+    /// beyond maximumFound. Constant time, whatever the length of the list.
     Addition addAnswer(const sdk::SearchAnswer &answer);
 
-    /// Forgets every row and record.
+    /// Answers of further devices that were dropped since clear(), because maximumFound rows had been found.
+    [[nodiscard]] int leftOut() const;
+
+    /// Removes every row and record, as a search begins.
     void clear();
 
     [[nodiscard]] QVariantList ipv4Rows() const;
@@ -50,22 +63,26 @@ public:
     [[nodiscard]] QJsonObject row(const QString &mac) const;
     [[nodiscard]] QJsonObject rowAt(const QString &ipport) const;
 
-    /// The row that pages name so: by its MAC, or by the address and port of one without, of either list.
+    /// The row of a name, of either list; empty when there is none.
     [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
-    bool changeRowNamed(const QString &name, const DeviceRowList::Change &change);
 
-    /// Changes the IPv4 row of a device. Returns false when there is none.
-    bool changeRow(const QString &mac, const DeviceRowList::Change &change);
+    // Changes return false when there is no such row. Constant time.
 
-    /// Changes the first row of an address and port, of either list.
-    bool changeRowAt(const QString &ipport, const DeviceRowList::Change &change);
+    bool changeRowNamed(const QString &name, const Change &change);
 
-    /// Takes a row that does not come from a search: in the place of the device's row, or at the end.
+    /// Changes the IPv4 row of a device.
+    bool changeRow(const QString &mac, const Change &change);
+
+    /// Changes the first row of an address and port: of the IPv4 list, otherwise of the IPv6 list.
+    bool changeRowAt(const QString &ipport, const Change &change);
+
+    /// Adds a row that does not come from a search: in the place of the device's row, or at the end.
     void putRow(const QJsonObject &row);
 
-    /// Removes IPv4 rows by MAC, with their search records, or IPv6 rows by address and port.
-    void removeRows(const QSet<QString> &macs);
-    void removeIPv6Rows(const QSet<QString> &ipports);
+    /// Removes IPv4 rows with their search records, or IPv6 rows, by name. A running search does not bring
+    /// them back.
+    void removeRows(const QSet<QString> &names);
+    void removeIPv6Rows(const QSet<QString> &names);
 
     /// The raw search answer of the device, if one is kept.
     [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &mac) const;
@@ -74,14 +91,26 @@ public:
     void putRecord(const sdk::SearchAnswer &answer);
 
 private:
-    [[nodiscard]] static std::optional<QString> identityAt(const DeviceRowList &list, const QString &ipport);
-    [[nodiscard]] std::optional<QString> ipv6IdentityLocked(const QString &name) const;
+    struct Place
+    {
+        DeviceRowList *list = nullptr; ///< null: there is no such row
+        QString name;
+    };
+    using Finder = std::function<Place()>; ///< called with the lock held
+
+    [[nodiscard]] bool dropsLocked(const QString &identity);
+    void addIPv6Locked(QJsonObject &row);
+    bool changeFound(const Finder &find, const Change &change);
     bool isNotificationDue();
 
     const std::shared_ptr<const sdk::Clock> m_clock;
     mutable std::mutex m_mutex;
-    DeviceRowList m_ipv4;                 ///< by MAC
-    DeviceRowList m_ipv6;                 ///< by MAC and address
+    DeviceRowList m_ipv4;
+    DeviceRowList m_ipv6;
     QHash<QString, QByteArray> m_records; ///< by MAC: the bytes of the answer without the zeros at its end
+    QSet<QString> m_settled;         ///< devices found or removed since clear(): further answers are dropped
+    QHash<QString, int> m_ipv6Found; ///< IPv6 rows found since clear(), by address and port
+    int m_found = 0;                 ///< rows found since clear()
+    int m_leftOut = 0;
     std::optional<std::int64_t> m_lastNotification; ///< in milliseconds since the epoch
 };

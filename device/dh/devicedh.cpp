@@ -48,6 +48,8 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
             Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::counted, this, &CDeviceBase::signalCDeviceSearchCount,
             Qt::DirectConnection);
+    connect(m_search.get(), &DeviceSearch::limited, this, &CDeviceBase::signalCDeviceSearchLimited,
+            Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::done, this, &CDeviceBase::signalCDeviceSearchDone,
             Qt::DirectConnection);
 

@@ -14,13 +14,6 @@ UpgradeTools::Result refusalOf(const FirmwareFile &file, const QString &model)
     return file.refusal == UpgradeTools::None && !file.fits(model) ? UpgradeTools::WrongModel : file.refusal;
 }
 
-/// As DeviceStore::rowNamed() takes it; empty for an empty row.
-QString nameOf(const QJsonObject &row)
-{
-    const QString mac = row.value(DeviceRowKey::mac).toString();
-    return mac.isEmpty() ? row.value(DeviceRowKey::ipport).toString() : mac;
-}
-
 /// Looks at files, at each of them once.
 class FirmwareFiles
 {
@@ -74,7 +67,7 @@ QStringList CDeviceDH::upgradesToRetry()
     for (const QVariant &value : store().ipv4Rows() + store().ipv6Rows()) {
         const QJsonObject row = value.toJsonObject();
         if (UpgradeTools::canTryAgain(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None)))
-            names.append(nameOf(row));
+            names.append(rowName(row));
     }
     return names;
 }
@@ -87,7 +80,7 @@ void CDeviceDH::stopUpgrade(const QString &mac)
 bool CDeviceDH::isUpgradingAt(const QString &ipport) const
 {
     return m_upgrades->isUpgrading() && // else there is no need to look for the row
-           (m_upgrades->isUpgrading(ipport) || m_upgrades->isUpgrading(nameOf(store().rowAt(ipport))));
+           (m_upgrades->isUpgrading(ipport) || m_upgrades->isUpgrading(rowName(store().rowAt(ipport))));
 }
 
 void CDeviceDH::noteHeldRows()
@@ -109,7 +102,7 @@ bool CDeviceDH::hasDeviceUpgrading()
 
 UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 {
-    const QString name = nameOf(row);
+    const QString name = rowName(row);
     const Credentials credentials = upgradeCredentials(row);
     return {.key = name,
             .row = name,
@@ -123,7 +116,7 @@ UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 CDeviceDH::Credentials CDeviceDH::upgradeCredentials(const QJsonObject &row) const
 {
     Credentials usual = credentialsOf(row);
-    const auto known = m_documentAccounts.constFind(nameOf(row));
+    const auto known = m_documentAccounts.constFind(rowName(row));
     if (known == m_documentAccounts.cend() || known->usual != usual)
         return usual;
     const int result = row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None);

@@ -94,7 +94,8 @@ const QStringList signalNames = {"signalAddDeviceToTable",
                                  "signalTunnelBroken",
                                  "signalImportProgress",
                                  "signalSessionOpened",
-                                 "signalSessionChecked"};
+                                 "signalSessionChecked",
+                                 "signalSearchLimited"};
 
 /// Own methods of the factory of one kind, in declaration order, without the copies that default arguments
 /// make.
@@ -110,8 +111,8 @@ QStringList ownMethods(QMetaMethod::MethodType type)
     return names;
 }
 
-/// Place of a virtual function in its class's table, as calls of other programs find it: the Itanium ABI keeps it
-/// in the pointer to the function.
+/// Place of a virtual function in its class's table, as calls of other programs find it: the Itanium ABI
+/// keeps it in the pointer to the function.
 template<typename Function>
 int slotOf(Function function)
 {

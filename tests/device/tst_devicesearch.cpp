@@ -4,6 +4,7 @@
 #include "device/ipv4address.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "tests/device/searchanswers.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -18,6 +19,7 @@ class TestDeviceSearch : public QObject
 private:
     std::shared_ptr<sdk::demo::SteppableClock> m_clock;
     std::shared_ptr<sdk::demo::DemoSite> m_site;
+    std::shared_ptr<DeviceStore> m_store;
     std::unique_ptr<CDeviceFactory> m_factory;
     bool m_localDomain = true;
 
@@ -28,10 +30,10 @@ private:
         QString error;
         m_site = sdk::demo::DemoSite::open(scene, m_clock, &error);
         QVERIFY2(m_site, qPrintable(error));
-        const auto store = std::make_shared<DeviceStore>(m_clock);
+        m_store = std::make_shared<DeviceStore>(m_clock);
         m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {"dh", [this, store] {
-                 return std::make_shared<CDeviceDH>(store, m_site->libraries(),
+            {"dh", [this] {
+                 return std::make_shared<CDeviceDH>(m_store, m_site->libraries(),
                                                     [this] { return SearchSettings{m_localDomain}; });
              }}});
     }
@@ -137,6 +139,24 @@ private Q_SLOTS:
         m_factory->startSearch("dh");
         stepUntil(done, 2);
         QVERIFY(operations().isEmpty());
+    }
+
+    void aFloodedSearchReportsOnceWhatItLeftOut()
+    {
+        openSite("factory");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        QSignalSpy limited(m_factory.get(), &CDeviceFactory::signalSearchLimited);
+        m_factory->startSearch("dh");
+        QVERIFY(m_site->requests().waitFor("NetStartSearchDevices", 1)); // the list has been emptied
+        for (int number = 0; number < 20'010; ++number)
+            m_store->addAnswer(searchAnswer({.mac = numberedMac(number)}));
+        stepUntil(done, 1);
+        QCOMPARE(limited.size(), 1);
+        QCOMPARE(limited.at(0).at(0).toInt(), 20'000);
+        QVERIFY(limited.at(0).at(1).toInt() >= 10);
+        m_factory->startSearch("dh");
+        stepUntil(done, 2);
+        QCOMPARE(limited.size(), 1);
     }
 
     void aRangeSetDuringASearchBelongsToTheNext()

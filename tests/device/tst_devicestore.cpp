@@ -8,6 +8,7 @@
 #include <array>
 #include <atomic>
 #include <thread>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -127,6 +128,105 @@ private Q_SLOTS:
         m_store->addAnswer(searchAnswer({.address = "fe80::1", .ipVersion = 6}));
         m_store->addAnswer(searchAnswer({.address = "fe80::1", .ipVersion = 6}));
         QCOMPARE(m_store->ipv6Rows().size(), 1);
+    }
+
+    void aSearchFindsALimitedNumberOfDevices()
+    {
+        for (int number = 0; number < DeviceStore::maximumFound; ++number) {
+            const bool ipv4 = number % 2 == 0;
+            m_store->addAnswer(searchAnswer({.address = ipv4 ? "192.168.1.64" : "fe80::1",
+                                             .mac = numberedMac(number),
+                                             .ipVersion = ipv4 ? 4 : 6}));
+        }
+        for (int number = 19'990; number < 20'003; ++number) // the last three are of further devices
+            QVERIFY(!m_store
+                         ->addAnswer(searchAnswer({.address = number % 2 ? "fe80::1" : "192.168.1.64",
+                                                   .mac = numberedMac(number),
+                                                   .ipVersion = number % 2 ? 6 : 4}))
+                         .added);
+        QCOMPARE(m_store->ipv4Rows().size() + m_store->ipv6Rows().size(), 20'000);
+        QCOMPARE(m_store->leftOut(), 3);
+        m_store->clear();
+        QCOMPARE(m_store->leftOut(), 0);
+        QVERIFY(m_store->addAnswer(searchAnswer({})).added);
+    }
+
+    void aRemovedDeviceStaysAwayUntilTheNextSearch()
+    {
+        const sdk::SearchAnswer ipv4 = searchAnswer({});
+        const sdk::SearchAnswer ipv6 = searchAnswer({.address = "fe80::1", .ipVersion = 6});
+        const QString mac = "02:1a:c5:00:40:17";
+        m_store->putRow({{"mac", "added by hand"}});
+        m_store->addAnswer(ipv4);
+        m_store->addAnswer(ipv6);
+        m_store->removeRows({mac, "added by hand"});
+        m_store->removeIPv6Rows({"[fe80::1]:37777"});
+        m_store->addAnswer(ipv4);
+        m_store->addAnswer(ipv6);
+        m_store->addAnswer(searchAnswer({.mac = "added by hand"}));
+        QCOMPARE(m_store->ipv4Rows().size() + m_store->ipv6Rows().size(), 0);
+        m_store->putRow({{"mac", mac}});
+        QCOMPARE(m_store->ipv4Rows().size(), 1);
+        m_store->clear();
+        QVERIFY(m_store->addAnswer(ipv4).added);
+        QVERIFY(m_store->addAnswer(ipv6).added);
+    }
+
+    void ipv6RowsOfOneAddressAreRemovedApart()
+    {
+        for (int number = 0; number < 3; ++number)
+            m_store->addAnswer(searchAnswer(
+                {.address = "0.0.0.0", .mac = numberedMac(number), .name = std::to_string(number)}));
+        const auto names = [this] {
+            return values(m_store->ipv6Rows(), DeviceRowKey::name);
+        };
+        m_store->removeIPv6Rows({"0.0.0.0:37777"});
+        QCOMPARE(names(), QStringList({"1", "2"}));
+        // Neither a row that stays nor one that comes is named as the removed one was.
+        m_store->addAnswer(searchAnswer({.address = "0.0.0.0", .mac = numberedMac(3), .name = "3"}));
+        QVERIFY(!m_store->changeRowNamed("0.0.0.0:37777", [](QJsonObject &) {}));
+        QCOMPARE(m_store->rowNamed("0.0.0.0:37777#1").value("name").toString(), "1");
+        m_store->removeIPv6Rows({"0.0.0.0:37777#2"});
+        QCOMPARE(names(), QStringList({"1", "3"}));
+    }
+
+    void anAddressIsThatOfTheFirstRowThatHasIt()
+    {
+        const QString shared = "192.168.1.108:37777";
+        const auto setAddress = [this](const QString &mac, const QString &ipport) {
+            QVERIFY(m_store->changeRow(mac, [&](QJsonObject &row) { row.insert("ipport", ipport); }));
+        };
+        for (const char *mac : {"a", "b", "c"})
+            m_store->addAnswer(searchAnswer({.address = "192.168.1.108", .mac = mac}));
+        const auto first = [&] {
+            return m_store->rowAt(shared).value("mac").toString();
+        };
+        QCOMPARE(first(), "a");
+        setAddress("a", "192.168.1.1:37777");
+        QCOMPARE(first(), "b");
+        setAddress("a", shared);
+        QCOMPARE(first(), "a");
+        m_store->removeRows({"a"});
+        QCOMPARE(first(), "b");
+        QVERIFY(m_store->changeRowAt(shared, [](QJsonObject &row) { row.insert("res", 7); }));
+        QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::res), QStringList({"7", "-1"}));
+        QVERIFY(m_store->rowAt("192.168.1.1:37777").isEmpty());
+    }
+
+    void aChangeKeepsWhatAnotherOneWritesMeanwhile()
+    {
+        const QString mac = "02:1a:c5:00:40:17";
+        m_store->addAnswer(searchAnswer({}));
+        bool overtaken = false;
+        m_store->changeRow(mac, [&](QJsonObject &row) {
+            if (!std::exchange(overtaken, true)) // as another thread may do
+                m_store->changeRow(mac, [](QJsonObject &same) { same.insert("res", 7); });
+            row.insert("upgrade", 50);
+        });
+        QCOMPARE(m_store->row(mac).value("res").toInt(), 7);
+        QCOMPARE(m_store->row(mac).value("upgrade").toInt(), 50);
+        QVERIFY(!m_store->changeRow(mac, [&](QJsonObject &) { m_store->removeRows({mac}); }));
+        QVERIFY(m_store->ipv4Rows().isEmpty());
     }
 
     void requestsAreBuiltFromTheIPv4AnswerOfADualStackDevice()
