@@ -1,12 +1,14 @@
 // The order of rows in a table that the user sorts by a column.
 #pragma once
 
+#include <QByteArray>
 #include <QCollator>
 #include <QJsonObject>
 #include <QString>
 
-/// Compares rows by one key: "ipport" by address and then port as numbers; texts by the user's language, with
-/// numbers inside them by value; numbers and flags by value.
+/// Compares rows by one key: "ipport" by the bytes of the address and then the port, IPv4 before IPv6; "mac"
+/// by its bytes; "vision" by its numbers in their order; other texts by the user's language, with numbers
+/// inside them by value; numbers and flags by value.
 class DeviceOrder
 {
 public:
@@ -19,11 +21,13 @@ public:
 
     explicit DeviceOrder(QString key, OddAddresses oddAddresses = OddAddresses::Behind);
 
-    /// Position of a row in the order, made once for each row before sorting.
+    /// Position of a row in the order, made once for each row before sorting. Parts are compared in their
+    /// order.
     struct SortKey
     {
-        bool behind = false; ///< stands behind all rows whose value can be read
+        int group = 0; ///< 0 unless values of the column are of several kinds
         double number = 0;
+        QByteArray bytes = {}; ///< compared byte by byte
         QCollatorSortKey text;
     };
     [[nodiscard]] SortKey sortKey(const QJsonObject &row) const;
@@ -32,6 +36,8 @@ public:
     [[nodiscard]] static int compare(const SortKey &left, const SortKey &right);
 
 private:
+    void placeAddress(SortKey &key, const QString &ipport) const;
+
     const QString m_key;
     const OddAddresses m_oddAddresses;
     QCollator m_collator;

@@ -142,68 +142,51 @@ void DeviceTableModel::applyFilter()
     refresh();
 }
 
-QString DeviceTableModel::filterType() const
-{
-    if (m_showInitialised)
-        return m_showUninitialised ? QStringLiteral("nofilter") : QStringLiteral("removeuninit");
-    return m_showUninitialised ? QStringLiteral("removeinit") : QStringLiteral("removeall");
-}
-
 QList<DeviceTableModel::Row> DeviceTableModel::readRows()
 {
-    const auto filterData = [this](const QString &type) {
-        return m_ipv6 ? m_deviceFactory->filterDataIPV6(family, type)
-                      : m_deviceFactory->filterData(family, type);
-    };
-    // The filtered rows first: all rows, read later, then hold them too, however many have come in between.
-    const QString type = filterType();
-    const QVariantList kept = filterData(type);
+    // Everything comes from one list: rows may be added or changed between two.
+    const QString all = QStringLiteral("nofilter");
     const QVariantList list =
-        type == QLatin1String("nofilter") ? kept : filterData(QStringLiteral("nofilter"));
+        m_ipv6 ? m_deviceFactory->filterDataIPV6(family, all) : m_deviceFactory->filterData(family, all);
     m_totalCount = static_cast<int>(list.size());
+    forgetLostTicks(list);
 
-    QList<Row> all;
-    all.reserve(list.size());
-    QHash<QString, int> occurrences;
-    occurrences.reserve(list.size());
+    QHash<QString, int> rowsOfAddress;
+    rowsOfAddress.reserve(list.size());
+    QList<Row> shown;
+    shown.reserve(list.size());
     for (const QVariant &value : list) {
         Row row{.values = value.toJsonObject(), .identity = {}, .ipport = {}};
         row.ipport = row.values.value(DeviceRowKey::ipport).toString();
-        row.identity = row.values.value(DeviceRowKey::mac).toString();
-        const int before = occurrences[row.ipport]++;
-        if (row.identity.isEmpty())
-            row.identity = before == 0 ? row.ipport : row.ipport + QLatin1Char('#') + QString::number(before);
-        all.append(std::move(row));
+        ++rowsOfAddress[row.ipport];
+        if (isShown(row.values)) {
+            row.identity = rowName(row.values);
+            shown.append(std::move(row));
+        }
     }
-    forgetLostTicks(all);
-
-    QList<Row> shown;
-    shown.reserve(kept.size());
     m_conflictCount = 0;
-    qsizetype nextKept = 0;
-    for (Row &row : all) {
-        if (nextKept == kept.size())
-            break;
-        if (kept.at(nextKept).toJsonObject() != row.values)
-            continue;
-        ++nextKept;
-        if (!m_searchText.isEmpty() && !holdsText(row.values, m_searchText))
-            continue;
-        row.conflict = occurrences.value(row.ipport) > 1;
+    for (Row &row : shown) {
+        row.conflict = rowsOfAddress.value(row.ipport) > 1;
         m_conflictCount += row.conflict ? 1 : 0;
-        shown.append(std::move(row));
     }
     return shown;
 }
 
-void DeviceTableModel::forgetLostTicks(const QList<Row> &all)
+bool DeviceTableModel::isShown(const QJsonObject &row) const
+{
+    const bool isWanted = row.value(DeviceRowKey::state).toBool() ? m_showInitialised : m_showUninitialised;
+    return isWanted && (m_searchText.isEmpty() || holdsText(row, m_searchText));
+}
+
+void DeviceTableModel::forgetLostTicks(const QVariantList &list)
 {
     if (checkedIdentities().isEmpty())
         return;
     QSet<QString> left;
-    for (const Row &row : all) {
-        if (checkedIdentities().contains(row.identity))
-            left.insert(row.identity);
+    for (const QVariant &row : list) {
+        const QString identity = rowName(row.toJsonObject());
+        if (checkedIdentities().contains(identity))
+            left.insert(identity);
     }
     checkedIdentities().swap(left);
 }

@@ -10,11 +10,12 @@
 class CDeviceFactory;
 
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
-/// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" ("mac";
-/// where there is none, "ipport", with a number behind it when rows before it have the same one).
+/// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
+/// rowName()).
 ///
-/// It asks the factory's filterData or filterDataIPV6 for its rows, adds the text filter on top, and keeps
-/// the user's ticks, selection and order over a refresh. Lives on the scene's thread.
+/// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
+/// filter are of the same moment, and keeps the user's ticks, selection and order over a refresh. Lives on
+/// the scene's thread.
 ///
 /// It exists because the toolkit's own TableModel takes its rows through JavaScript objects: with 10,000
 /// devices each refresh would hold up the window for a quarter of a second, once a second during a search.
@@ -114,10 +115,10 @@ private:
         bool conflict = false;
     };
 
-    [[nodiscard]] QString filterType() const;
     [[nodiscard]] QList<Row> readRows();
+    [[nodiscard]] bool isShown(const QJsonObject &row) const;
     void sortRows(QList<Row> &rows) const;
-    void forgetLostTicks(const QList<Row> &all);
+    void forgetLostTicks(const QVariantList &list);
     [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
     [[nodiscard]] const QSet<QString> &checkedIdentities() const
     {

@@ -16,6 +16,8 @@ public:
 
     QVariantList filterData(const QString &filtertype, const QString &searchtext) override
     {
+        if (beforeReading)
+            beforeReading();
         return filteredRows(ipv4, filtertype, searchtext, RowFamily::IPv4);
     }
     QVariantList filterDataIPV6(const QString &filtertype, const QString &searchtext) override
@@ -40,6 +42,7 @@ public:
         ipv4[place] = row;
     }
 
+    std::function<void()> beforeReading; ///< before each reading of the IPv4 rows
     QVariantList ipv4;
     QVariantList ipv6;
 };

@@ -61,7 +61,7 @@ Item {
     function removeNow() {
         const names = {};
         for (const row of deviceTable.checkedRows())
-            names[deviceTable.ipv6 ? row.ipport : row.identity] = true;
+            names[row.identity] = true;
         deviceFactory.setBatchDeleteDevice("dh", names, deviceTable.ipv6 ? "IPV6" : "IPV4");
         deviceTable.refresh();
         const kept = Object.keys(names).filter(name => deviceTable.rowOf(name) >= 0).length;
