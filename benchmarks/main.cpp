@@ -30,6 +30,7 @@ QList<Subject> subjects()
              }},
             {QStringLiteral("decoding"), measureDecoding},
             {QStringLiteral("live"), measureLiveView},
+            {QStringLiteral("flood"), measureFlood},
             {QStringLiteral("start"),
              [] {
                  return QList<Figure>{measureStart()};

@@ -40,7 +40,8 @@ double timeToFirstPicture(const QString &program, const QStringList &arguments)
     return time;
 }
 
-/// Resident memory of a process in megabytes.
+} // namespace
+
 double residentMegabytes(qint64 process)
 {
     QFile status(QStringLiteral("/proc/%1/status").arg(process));
@@ -52,6 +53,8 @@ double residentMegabytes(qint64 process)
     }
     return 0;
 }
+
+namespace {
 
 QQuickItem *itemNamed(QQuickItem *item, const QString &name)
 {

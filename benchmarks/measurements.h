@@ -27,5 +27,11 @@
 /// The values of the whole encode page from what was read of a device, without the library's calls.
 [[nodiscard]] Figure measureEncodePage();
 
+/// The window and its memory while a search is answered by more devices than there can be.
+[[nodiscard]] QList<Figure> measureFlood();
+
+/// Resident memory of a process in megabytes.
+[[nodiscard]] double residentMegabytes(qint64 process);
+
 /// The memory of the program with 10,000 rows.
 [[nodiscard]] Figure measureMemory();

@@ -2113,6 +2113,10 @@ A right click copies the result</translation>
         <source>当前有设备正在升级中，请稍候再关闭</source>
         <translation>Devices are being upgraded. Please wait before you close the program.</translation>
     </message>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>The search found more than %1 devices. %2 answers of further devices were left out of the list. Search a smaller range.</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>

@@ -2098,6 +2098,10 @@
         <source>当前有设备正在升级中，请稍候再关闭</source>
         <translation>当前有设备正在升级中，请稍候再关闭</translation>
     </message>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>

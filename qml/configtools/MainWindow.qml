@@ -121,6 +121,8 @@ T.ApplicationWindow {
         id: search
         deviceFactory: window.deviceFactory
         held: window.working
+        onLimited: (rows, leftOut) => popups.tell(
+            qsTr("搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。").arg(rows).arg(leftOut))
     }
     LanguageList {
         id: languageList

@@ -19,17 +19,9 @@ FocusScope {
     // qmllint enable unqualified
     readonly property var work: cgiSender.running ? cgiSender : workbook.running ? workbook : null
 
-    property bool outdated: false  // the table lacks what was found since
-
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
-    }
-
-    function refresh() {
-        outdated = !visible;
-        if (!outdated)
-            devices.refresh();
     }
 
     function askForAll() {
@@ -40,7 +32,6 @@ FocusScope {
     }
 
     objectName: "pageCGIConfig"
-    onVisibleChanged: if (visible && outdated) refresh()
 
     DeviceTableModel {
         id: devices
@@ -48,18 +39,10 @@ FocusScope {
         oddAddressesFirst: true
         searchText: searchField.text.trim()
     }
-    Connections {
-        target: page.deviceFactory
-
-        function onSignalAddDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalAddSingleDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalSearchDone() {
-            page.refresh();
-        }
+    DeviceListChanges {
+        deviceFactory: page.deviceFactory
+        shown: page.visible
+        onReadingRequested: devices.refresh()
     }
     CgiCommands {
         id: cgiCommands

@@ -16,8 +16,6 @@ FocusScope {
     readonly property var localConfig: LocalConfigApi
     // qmllint enable unqualified
 
-    property bool outdated: true  // the tree lacks what was found since
-
     /// Devices to copy to: the ticked ones but for that whose settings are copied.
     readonly property var targets: Array.from(devices.checkedDevices).filter(device => device !== session.device)
 
@@ -26,9 +24,7 @@ FocusScope {
     }
 
     function refresh() {
-        outdated = !visible;
-        if (!outdated)
-            devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
+        devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
     /// Does `action`, after the user has agreed to lose what was changed and not saved. Returns whether that was asked.
@@ -65,31 +61,17 @@ FocusScope {
     }
 
     objectName: "pageDeviceConfig"
-    onVisibleChanged: {
-        if (visible && outdated)
-            refresh();
-        if (visible)
-            session.readShown();
-    }
-    Component.onCompleted: refresh()
+    onVisibleChanged: if (visible) session.readShown()
 
     OVTreeModel {
         id: devices
         deviceFactory: page.deviceFactory
     }
 
-    Connections {
-        target: page.deviceFactory
-
-        function onSignalAddDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalAddSingleDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalSearchDone() {
-            page.refresh();
-        }
+    DeviceListChanges {
+        deviceFactory: page.deviceFactory
+        shown: page.visible
+        onReadingRequested: page.refresh()
     }
 
     ConfigSession {

@@ -15,38 +15,22 @@ FocusScope {
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
 
-    property bool outdated: false  // the table lacks what has changed since
-
     function focusSearch() {
         toolBar.focusSearch();
     }
 
-    function refresh() {
-        outdated = !visible;
-        if (!outdated)
-            devices.refresh();
-    }
-
     objectName: "pageDeviceUpgrade"
-    onVisibleChanged: if (visible && outdated) refresh()
 
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
         searchText: toolBar.searchText.trim()
     }
-    Connections {
-        target: page.deviceFactory
-
-        function onSignalAddDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalAddSingleDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalSearchDone() {
-            page.refresh();
-        }
+    DeviceListChanges {
+        id: changes
+        deviceFactory: page.deviceFactory
+        shown: page.visible
+        onReadingRequested: devices.refresh()
     }
     UpgradeWork {
         id: work
@@ -54,7 +38,7 @@ FocusScope {
         deviceTable: devices
         fileDialogs: page.fileDialogs
         shown: page.visible
-        onChanged: page.refresh()
+        onChanged: changes.note()
         onSaid: (message, kind) => page.said(message, kind)
     }
     UpgradeWorkbook {

@@ -37,20 +37,17 @@ FocusScope {
         searchText: toolBar.searchText.trim()
     }
 
+    DeviceListChanges {
+        id: changes
+        deviceFactory: page.deviceFactory
+        shown: page.visible
+        onReadingRequested: devices.refresh()
+    }
     Connections {
         target: page.deviceFactory
 
-        function onSignalAddDeviceToTable() {
-            devices.refresh();
-        }
-        function onSignalAddSingleDeviceToTable() {
-            devices.refresh();
-        }
-        function onSignalSearchDone() {
-            devices.refresh();
-        }
         function onSignalTunnelBroken(deviceId) {
-            devices.refresh();
+            changes.note();
             page.said(deviceId === "" ? qsTr("P2P服务已断开，P2P设备暂时无法访问")
                 : qsTr("到P2P设备 %1 的连接已断开，请删除后重新添加").arg(deviceId), OVToast.Error);
         }

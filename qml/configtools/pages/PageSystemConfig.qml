@@ -19,8 +19,6 @@ FocusScope {
     property int secondsLeft: 0
     property var passwordDevices: []  // those that wait for the new password
     property string passwordTicks     // the ticked devices when the editor was opened
-    property bool outdated: true      // the tree lacks what was found since
-
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
     function focusSearch() {
@@ -55,9 +53,7 @@ FocusScope {
     }
 
     function refresh() {
-        outdated = !visible;
-        if (!outdated)
-            devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
+        devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
     function run(command, title, targets, dataOf) {
@@ -87,8 +83,6 @@ FocusScope {
     }
 
     objectName: "pageSystemConfig"
-    onVisibleChanged: if (visible && outdated) refresh()
-    Component.onCompleted: refresh()
 
     OVTreeModel {
         id: devices
@@ -99,18 +93,10 @@ FocusScope {
         }
     }
 
-    Connections {
-        target: page.deviceFactory
-
-        function onSignalAddDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalAddSingleDeviceToTable() {
-            page.refresh();
-        }
-        function onSignalSearchDone() {
-            page.refresh();
-        }
+    DeviceListChanges {
+        deviceFactory: page.deviceFactory
+        shown: page.visible
+        onReadingRequested: page.refresh()
     }
 
     SystemBatch {

@@ -30,6 +30,9 @@ QtObject {
         deviceFactory.startSearch("dh");
     }
 
+    /// The search that ends now has listed `rows` devices and left out `leftOut` answers of further ones.
+    signal limited(int rows, int leftOut)
+
     function startNext() {
         const settings = next;
         if (!settings || running || held)
@@ -45,6 +48,9 @@ QtObject {
 
         function onSignalSearchCount(devCount) {
             root.count = devCount;
+        }
+        function onSignalSearchLimited(rows, leftOut) {
+            root.limited(rows, leftOut);
         }
         function onSignalSearchDone() {
             root.running = false;

@@ -1,0 +1,134 @@
+#include "benchmarks/measurements.h"
+
+#include "app/localconfig.h"
+#include "app/publication.h"
+#include "cgi/cgiconfigmanage.h"
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/blocktext.h"
+#include "sdk/clock.h"
+#include "tests/media/quietnetlibrary.h"
+
+#include <QElapsedTimer>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <atomic>
+#include <random>
+#include <thread>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int threads = 4;
+constexpr int answersPerSecond = 100'000;
+constexpr auto pause = 10ms;
+
+/// Answers a search under a new MAC each time, until it is stopped.
+class FloodingLibrary : public QuietNetLibrary
+{
+public:
+    std::int64_t NetStartSearchDevices(const sdk::SearchParameter &parameter,
+                                       std::chrono::milliseconds) override
+    {
+        if (!m_threads.empty())
+            return 0;
+        for (int thread = 0; thread < threads; ++thread)
+            m_threads.emplace_back([this, parameter, thread](const std::stop_token &stop) {
+                flood(parameter, static_cast<unsigned>(thread), stop);
+            });
+        return 1;
+    }
+    bool NetStopSearchDevices(std::int64_t) override
+    {
+        m_threads.clear();
+        return true;
+    }
+
+    std::atomic<int> answers = 0;
+
+private:
+    void flood(const sdk::SearchParameter &parameter, unsigned seed, const std::stop_token &stop)
+    {
+        constexpr int share = answersPerSecond / threads / (1s / pause);
+        std::mt19937 random(seed);
+        sdk::SearchAnswer answer{};
+        answer.size = sizeof(answer);
+        answer.device.ipVersion = 4;
+        sdk::setBlockText(answer.device.address, "192.168.1.108");
+        auto next = std::chrono::steady_clock::now();
+        while (!stop.stop_requested()) {
+            for (int number = 0; number < share; ++number) {
+                sdk::setBlockText(answer.device.mac, std::to_string(random()));
+                parameter.handler(1, &answer, parameter.user);
+            }
+            answers += share;
+            std::this_thread::sleep_until(next += pause);
+        }
+    }
+
+    std::vector<std::jthread> m_threads;
+};
+
+} // namespace
+
+QList<Figure> measureFlood()
+{
+    const auto net = std::make_shared<FloodingLibrary>();
+    sdk::SdkLibraries libraries;
+    libraries.clock = std::make_shared<sdk::SystemClock>();
+    libraries.net = net;
+    const auto store = std::make_shared<DeviceStore>(libraries.clock);
+    CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [libraries, store] {
+        return std::make_shared<CDeviceDH>(store, libraries,
+                                           [] { return SearchSettings{.localDomain = true}; });
+    });
+    const double before = residentMegabytes(QCoreApplication::applicationPid());
+    QElapsedTimer sinceTurn;
+    qint64 longestTurn = 0;
+    {
+        QQuickStyle::setStyle(QStringLiteral("Basic"));
+        QQmlApplicationEngine engine;
+        engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+        publishToScene(engine, true);
+        QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
+        engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
+        QTest::qWait(500);                                                     // the first picture
+
+        QTimer turns;
+        QObject::connect(&turns, &QTimer::timeout, &turns, [&] {
+            longestTurn = std::max(longestTurn, sinceTurn.isValid() ? sinceTurn.elapsed() : 0);
+            sinceTurn.start();
+        });
+        turns.start(5ms);
+        done.wait(20000);
+        QTest::qWait(1000);
+        turns.stop();
+        qDeleteAll(engine.rootObjects());
+    }
+    const double memory = residentMegabytes(QCoreApplication::applicationPid()) - before;
+    CLocalConfig::deleteInstance();
+    CGIConfigManage::deleteInstance();
+    CDeviceFactory::deleteInstance();
+    const QString subject = QStringLiteral(" while %1 new devices answer").arg(net->answers);
+    return {{.subject = QStringLiteral("longest turn of the window") + subject,
+             .value = static_cast<double>(longestTurn),
+             .unit = QStringLiteral("ms"),
+             .budget = 300,
+             .peer = {},
+             .largestRatio = {},
+             .peerName = {}},
+            {.subject = QStringLiteral("memory of window and rows") + subject,
+             .value = memory,
+             .unit = QStringLiteral("MB"),
+             .budget = 250,
+             .peer = {},
+             .largestRatio = {},
+             .peerName = {}}};
+}

@@ -1,0 +1,41 @@
+// Asks a page to read the list of devices when it has changed: once for all changes of one turn of the event loop, and
+// not while the page is hidden.
+import QtQml
+
+QtObject {
+    id: root
+
+    required property var deviceFactory
+    required property bool shown
+    property bool outdated: true  // the page lacks what has changed since it read
+    signal readingRequested
+
+    /// The list has changed.
+    function note() {
+        outdated = true;
+        Qt.callLater(read);
+    }
+
+    /// Reads now, when the page is shown and lacks something.
+    function read() {
+        if (!shown || !outdated)
+            return;
+        outdated = false;
+        readingRequested();
+    }
+
+    onShownChanged: read()
+    Component.onCompleted: read()
+
+    // The end of a search is told as a change, too.
+    readonly property Connections reports: Connections {
+        target: root.deviceFactory
+
+        function onSignalAddDeviceToTable() {
+            root.note();
+        }
+        function onSignalAddSingleDeviceToTable() {
+            root.note();
+        }
+    }
+}
