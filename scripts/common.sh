@@ -29,3 +29,20 @@ build_preset() {
         fail "the build failed; all of its output is in ${log#"$root"/}"
     }
 }
+
+# use_folders_of_tests <directory>: what is started from here on has its folders and settings in that directory.
+# Nothing of the user's is read or written, and a tool that runs just now holds another single-instance lock.
+use_folders_of_tests() {
+    local directory=$1
+    mkdir -m 700 "$directory/tmp" "$directory/runtime" "$directory/config" "$directory/cache" "$directory/data"
+    export TMPDIR=$directory/tmp
+    export XDG_RUNTIME_DIR=$directory/runtime XDG_CONFIG_HOME=$directory/config
+    export XDG_CACHE_HOME=$directory/cache XDG_DATA_HOME=$directory/data
+    export LC_ALL=C.UTF-8
+    export PULSE_SERVER=unix:$directory/no-sound # no test plays on a loudspeaker, or starts a sound server by connecting
+    unset LANGUAGE
+    export QT_QUICK_CONTROLS_STYLE=Basic
+    export ASAN_OPTIONS=detect_leaks=1
+    export LSAN_OPTIONS=suppressions=$root/scripts/sanitizer/lsan.supp:print_suppressions=0
+    export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+}

@@ -98,40 +98,73 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("subKey");
         QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QStringList>("writes"); // of items
-        QTest::addColumn<QString>("field");      // of the first
-        QTest::addColumn<double>("number");
-        const auto row = [](const char *key, const char *subKey, const QVariant &value, const QString &write,
-                            const char *field, double number) {
+        QTest::addColumn<QStringList>("writes");   // of items
+        QTest::addColumn<QVariantMap>("lastItem"); // some of its fields
+        const auto row = [](const char *key, const char *subKey, const QVariant &value, const char *write,
+                            const QVariantMap &lastItem) {
             QTest::addRow("%s %s", key, subKey)
-                << key << subKey << value << write.split(',') << field << number;
+                << key << subKey << value << QString(write).split(',') << lastItem;
         };
-        row("picture", "brightnessSlider", 70, "1301/0@1 64 5000", "brightness", 70);
-        row("picture", "colorStyle", 3, "1301/0@1 64 5000", "colorStyle", 3);
-        row("picture", "gamma", 1000, "1301/0@1 64 5000", "gamma", 100); // into the range
-        row("sharpness", "", 33, "1318/0@1 20 5000", "sharpness", 33);
-        row("mirror", "", true, "1302/0@1 20 5000", "mirror", 1);
-        row("mirror", "Rotate", 3, "1302/0@1 20 5000", "rotate", 3);
-        row("stable", "", true, "1303/0@1 12 5000", "stable", 1);
-        row("exposure", "value", 2, "1306/0@1 64 5000", "exposure", 2);
-        row("exposure", "dbExposureValue1", 0.25, "1306/0@1 64 5000", "shortestShutter", 0.25);
-        row("exposure", "GainMin", "7", "1306/0@1 64 5000", "gainMinimum", 7);
-        row("exposure", "irisAuto", false, "1306/0@1 64 5000", "irisAutomatic", 0);
-        row("exposure", "3D", 4, "1306/0@1 64 5000,1320/0@1 16 5000", "compensation", 50);
-        row("backMode", "backmode", 2, "1309/0@1 40 5000", "backMode", 2);
+        const char *picture = "1301/0@1 64 5000";
+        row("picture", "brightnessSlider", 70, picture, {{"brightness", 70}});
+        row("picture", "contrastSlider", 71, picture, {{"contrast", 71}});
+        row("picture", "saturationSlider", 72, picture, {{"saturation", 72}});
+        row("picture", "hue", 73, picture, {{"hue", 73}});
+        row("picture", "colorStyle", 3, picture, {{"colorStyle", 3}});
+        row("picture", "gamma", 1000, picture, {{"gamma", 100}}); // into the range
+        row("sharpness", "", 33, "1318/0@1 20 5000", {{"sharpness", 33}});
+        row("mirror", "", true, "1302/0@1 20 5000", {{"mirror", 1}, {"rotate", 0}});
+        row("mirror", "Rotate", 3, "1302/0@1 20 5000", {{"rotate", 3}, {"mirror", 0}});
+        row("stable", "", true, "1303/0@1 12 5000", {{"stable", 1}});
+        const char *exposure = "1306/0@1 64 5000";
+        row("exposure", "antiFlicker", 1, exposure, {{"antiFlicker", 1}, {"exposure", 0}});
+        row("exposure", "value", 2, exposure, {{"exposure", 2}});
+        row("exposure", "dbExposureValue1", 0.25, exposure, {{"shortestShutter", 0.25}});
+        row("exposure", "dbExposureValue2", 80, exposure, {{"longestShutter", 80}});
+        row("exposure", "GainValue", 6, exposure, {{"gain", 6}});
+        row("exposure", "GainMin", "7", exposure, {{"gainMinimum", 7}});
+        row("exposure", "GainMax", 87, exposure, {{"gainMaximum", 87}});
+        row("exposure", "Compensation", 61, exposure, {{"compensation", 61}});
+        row("exposure", "irisAuto", false, exposure, {{"irisAutomatic", 0}});
+        row("exposure", "3DType", 0, "1306/0@1 64 5000,1320/0@1 16 5000", {{"type", 0}});
+        row("exposure", "3D", 4, "1306/0@1 64 5000,1320/0@1 16 5000", {{"level", 4}});
+        const char *backLight = "1309/0@1 40 5000";
+        row("backMode", "backmode", 2, backLight, {{"backMode", 2}});
+        row("backMode", "backlightmode", 1, backLight, {{"backLightMode", 1}});
+        row("backMode", "WideDynamic", 21, backLight, {{"wideDynamic", 21}});
+        row("backMode", "GlareInhibition", 22, backLight, {{"glareInhibition", 22}});
         row("backMode", "BacklightRegion",
-            QVariantMap{{"Top", 10}, {"Bottom", 20}, {"Left", 30}, {"Right", 40}}, "1309/0@1 40 5000",
-            "regionRight", 40);
-        row("whiteBalance", "whiteBalanceType", 4, "1315/0@1 28 5000", "type", 4);
-        row("dayNight", "SwitchDelay", 9, "1316/0@1 20 5000", "switchDelay", 9);
-        row("inDefog", "DefogMode", 1, "1317/0@1 32 5000", "defogMode", 1);
-        row("lightControl", "NearLight", 12, "1311/0@1 24 5000", "nearLight", 12);
-        row("lightControlEx", "Sensitive", 5, "1324/0@1 40 5000", "sensitive", 5);
-        row("curDayNightMode", "", 1, "1316/1@1 20 5000", "mode", 1);
-        row("curBackLightMode", "", 3, "1309/0@1 40 5000", "backMode", 3);
-        row("curChannelName", "", "大门", "1108/0@1 260 5000", "size", 260);
-        row("curColorStyle", "", 1, "1301/0@1 1544 5000", "blockSize", 1544);
-        row("setDefault", "", "", "1301/0@1 64 5000", "brightness", 50);
+            QVariantMap{{"Top", 10}, {"Bottom", 20}, {"Left", 30}, {"Right", 40}}, backLight,
+            {{"regionTop", 10}, {"regionBottom", 20}, {"regionLeft", 30}, {"regionRight", 40}});
+        const char *whiteBalance = "1315/0@1 28 5000";
+        row("whiteBalance", "whiteBalanceType", 4, whiteBalance, {{"type", 4}});
+        row("whiteBalance", "GainBlue", 23, whiteBalance, {{"gainBlue", 23}});
+        row("whiteBalance", "GainRed", 24, whiteBalance, {{"gainRed", 24}});
+        const char *dayNight = "1316/0@1 20 5000";
+        row("dayNight", "Type", 2, dayNight, {{"type", 2}});
+        row("dayNight", "Sensitivity", 3, dayNight, {{"sensitivity", 3}});
+        row("dayNight", "SwitchDelay", 9, dayNight, {{"switchDelay", 9}});
+        row("inDefog", "DefogMode", 1, "1317/0@1 32 5000", {{"defogMode", 1}});
+        row("inDefog", "Intensity", 25, "1317/0@1 32 5000", {{"intensity", 25}});
+        const char *light = "1311/0@1 24 5000";
+        row("lightControl", "controlMode", 1, light, {{"controlMode", 1}});
+        row("lightControl", "LightMode", 2, light, {{"lightMode", 2}});
+        row("lightControl", "NearLight", 12, light, {{"nearLight", 12}});
+        row("lightControl", "FarLight", 13, light, {{"farLight", 13}});
+        row("lightControl", "Correction", 14, light, {{"correction", 14}});
+        const char *mixedLight = "1324/0@1 40 5000";
+        row("lightControlEx", "controlMode", 1, mixedLight, {{"controlMode", 1}});
+        row("lightControlEx", "mixMode", 1, mixedLight, {{"mixMode", 1}});
+        row("lightControlEx", "LightMode", 2, mixedLight, {{"lightMode", 2}});
+        row("lightControlEx", "Sensitive", 5, mixedLight, {{"sensitive", 5}});
+        row("lightControlEx", "Correction", 15, mixedLight, {{"correction", 15}});
+        row("lightControlEx", "Brightness", 16, mixedLight, {{"brightness", 16}});
+        row("lightControlEx", "Delay", "17", mixedLight, {{"delay", 17}});
+        row("curDayNightMode", "", 1, "1316/1@1 20 5000", {{"mode", 1}});
+        row("curBackLightMode", "", 3, backLight, {{"backMode", 3}});
+        row("curChannelName", "", "大门", "1108/0@1 260 5000", {{"size", 260}});
+        row("curColorStyle", "", 1, "1301/0@1 1544 5000", {});
+        row("setDefault", "", "", picture, {{"brightness", 50}, {"colorStyle", 2}});
     }
 
     void aChangeIsWrittenAtOnce()
@@ -139,19 +172,23 @@ private Q_SLOTS:
         QFETCH(QString, key);
         QFETCH(QString, subKey);
         QFETCH(QVariant, value);
-        QFETCH(QString, field);
+        QFETCH(QVariantMap, lastItem);
         open(camera());
         m_site->set("curVideoChannel", 1);
         read();
+        const QVariant before = m_site->get(key);
         m_site->site->requests().clear();
         m_site->set(key, value, subKey);
         QTEST(m_site->askedItems("NetSetItem"), "writes");
-        QTEST(m_site->asked("NetSetItem").first().value(field).toDouble(), "number");
+        const QJsonObject written = m_site->asked("NetSetItem").last();
+        for (auto field = lastItem.cbegin(); field != lastItem.cend(); ++field)
+            QCOMPARE(written.value(field.key()).toVariant().toString(), field.value().toString());
         // Only one group is read before it is written.
         QCOMPARE(m_site->asked("NetGetItem").size(), key == "inDefog" ? 1 : 0);
 
         // The device keeps it, on this channel.
         const QVariant kept = m_site->get(key);
+        QVERIFY(kept != before || key == "setDefault");
         QCOMPARE(m_site->login(camera()), 0);
         m_site->set("curVideoChannel", 1);
         read();
@@ -167,24 +204,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("field");
         QTest::addColumn<int>("items"); // written beside it
-        QTest::newRow("brightness") << "curBrightness"
-                                    << "" << 77 << "VideoColor"
-                                    << "brightness" << 0;
-        QTest::newRow("contrast") << "curContrast"
-                                  << "" << 78 << "VideoColor"
-                                  << "contrast" << 0;
-        QTest::newRow("saturation") << "curSaturation"
-                                    << "" << 79 << "VideoColor"
-                                    << "saturation" << 0;
-        QTest::newRow("gamma") << "curGamma"
-                               << "" << 80 << "VideoColor"
-                               << "gamma" << 0;
-        QTest::newRow("defaults") << "setDefault"
-                                  << "" << 50 << "VideoColor"
-                                  << "hue" << 1;
-        QTest::newRow("lights") << "lightControlEx"
-                                << "Delay" << 81 << "Lighting_V2"
-                                << "delay" << 1;
+        const auto row = [](const char *title, const QString &key, const QString &subKey, int value,
+                            const QString &name, const QString &field, int items) {
+            QTest::newRow(title) << key << subKey << value << name << field << items;
+        };
+        row("brightness", "curBrightness", "", 77, "VideoColor", "brightness", 0);
+        row("contrast", "curContrast", "", 78, "VideoColor", "contrast", 0);
+        row("saturation", "curSaturation", "", 79, "VideoColor", "saturation", 0);
+        row("gamma", "curGamma", "", 80, "VideoColor", "gamma", 0);
+        row("defaults", "setDefault", "", 50, "VideoColor", "hue", 1);
+        row("lights", "lightControlEx", "Delay", 81, "Lighting_V2", "delay", 1);
     }
 
     void configurationsAreWritten()
