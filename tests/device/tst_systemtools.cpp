@@ -1,5 +1,4 @@
 #include "device/systemtools.h"
-#include "sdk/systemrecords.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -13,14 +12,12 @@ private:
 private Q_SLOTS:
     void timeZonesAreInTheNumberingOfDevices()
     {
-        const QStringList zones = SystemTools::timeZones();
-        QCOMPARE(zones.size(), qsizetype(sdk::NtpRecord::timeZones));
-        QCOMPARE(zones.at(9), "UTC+05:45");
-        QCOMPARE(zones.at(32), "UTC-12:00");
-        QCOMPARE(zones.mid(33), QStringList({"UTC-04:30", "UTC+10:30", "UTC+14:00", "UTC-09:30", "UTC+08:30",
-                                             "UTC+08:45", "UTC+12:45"}));
-        for (int index = 0; index < zones.size(); ++index)
-            QCOMPARE(m_tools.timeZoneIndex(zones.at(index)), index);
+        const QString zones =
+            "+00:00 +01:00 +02:00 +03:00 +03:30 +04:00 +04:30 +05:00 +05:30 +05:45 +06:00 +06:30 +07:00 "
+            "+08:00 +09:00 +09:30 +10:00 +11:00 +12:00 +13:00 -01:00 -02:00 -03:00 -03:30 -04:00 -05:00 "
+            "-06:00 -07:00 -08:00 -09:00 -10:00 -11:00 -12:00 -04:30 +10:30 +14:00 -09:30 +08:30 +08:45 "
+            "+12:45";
+        QCOMPARE(SystemTools::timeZones().join(' ').remove("UTC"), zones);
         QCOMPARE(m_tools.timeZoneIndex("UTC-5:00"), 25);
         for (const QString text : {"", "UTC+15:00", "UTC", "+08:00", "UTC+8", "UTC+13:45", "UTC-2:30"})
             QCOMPARE(m_tools.timeZoneIndex(text), -1);

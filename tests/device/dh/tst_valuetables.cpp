@@ -23,39 +23,59 @@ private:
     const ValueTables m_tables;
 
 private Q_SLOTS:
-    void tablesHaveTheirAnchors()
+    void namesStandAtTheirCodes()
     {
-        QCOMPARE(m_tables.VideoCompressionNames.size(), 10);
-        QCOMPARE(m_tables.H264ProfileNames.at(1), "H.264  ");
-        QCOMPARE(m_tables.ResolutionNames.size(), 36);
-        QCOMPARE(m_tables.resolutionIndexFromSize(3744, 1408), 21);
-        QCOMPARE(m_tables.resolutionIndexFromSize(800, 600), -1);
-        int width = 1;
-        int height = 1;
-        QVERIFY(m_tables.resolutionSizeFromIndex(35, width, height));
-        QVERIFY(!m_tables.resolutionSizeFromIndex(36, width, height));
-        QVERIFY(!m_tables.resolutionSizeFromIndex(-1, width, height));
-        QCOMPARE(width, 3840);
-        QCOMPARE(m_tables.BitRateSteps[33], 22528);
-        QCOMPARE(m_tables.BitRateSteps[34], 0);
-        QVERIFY(std::is_sorted(m_tables.BitRateSteps.begin(), m_tables.BitRateSteps.begin() + 34));
-        QCOMPARE(m_tables.AudioCompressionNames.size(), 23);
-        QCOMPARE(m_tables.AudioSamplingFrequencies[0], 8000);
-        QCOMPARE(m_tables.DayNightModeNames, QStringList({"白天", "夜晚", "普通"}));
-        QCOMPARE(m_tables.BackLightModeNames.at(3), "强光抑制");
+        QCOMPARE(m_tables.StreamTypeNames.join('|'), "普通|动检|报警");
+        QCOMPARE(m_tables.VideoCompressionNames.join('|'),
+                 "MPEG4|MS_MPEG4|MPEG2|MPEG1|H263|MJPG|FCC_MPEG4|H264|H.265|SVAC");
+        QCOMPARE(m_tables.H264ProfileNames.join('|'), "H.264 B|H.264  |H.264 E|H.264 H");
+        QCOMPARE(m_tables.AudioCompressionNames.join('|'),
+                 "|PCM|G711a|AMR|G711u|G726|G723_53|G723_63|AAC|OGG|G729|MPEG2|MPEG2_Layer2|G7221||||||||"
+                 "ADPCM|MP3");
+        QCOMPARE(m_tables.DayNightModeNames.join('|'), "白天|夜晚|普通");
+        QCOMPARE(m_tables.BackLightModeNames.join('|'), "关闭|背光补偿|宽动态|强光抑制");
+        QCOMPARE(m_tables.AudioSamplingFrequencies[0] + m_tables.AudioSamplingFrequencies[1], 8000);
+        QStringList steps;
+        for (const int step : m_tables.BitRateSteps)
+            steps.append(QString::number(step));
+        QCOMPARE(steps.mid(0, 35).join(' '),
+                 "32 48 64 80 96 128 160 192 224 256 320 384 448 512 640 768 896 1024 1280 1536 1792 2048 "
+                 "3072 4096 6144 7168 8192 10240 12288 14336 16384 18432 20480 22528 0");
     }
 
-    void audioFormatsGoBothWays()
+    void resolutionsHaveTheirSizes()
     {
-        for (int format = 1; format <= 13; ++format)
-            QCOMPARE(ValueTables::audioNameToFormat(ValueTables::audioFormatToName(format)), format);
-        QCOMPARE(ValueTables::audioFormatToName(5), "AAC");
-        QCOMPARE(ValueTables::audioFormatToName(6), "G726");
-        for (const int unknown : {0, 14, -1})
-            QCOMPARE(ValueTables::audioFormatToName(unknown), "");
-        QCOMPARE(ValueTables::audioNameToFormat("G723_53"), 6);
-        QCOMPARE(ValueTables::audioNameToFormat("G723_63"), 6);
-        QCOMPARE(ValueTables::audioNameToFormat(""), 0);
+        QStringList sizes;
+        int width = 0;
+        int height = 0;
+        for (int index = 0; m_tables.resolutionSizeFromIndex(index, width, height); ++index) {
+            sizes.append(
+                QStringLiteral("%1 %2x%3").arg(m_tables.ResolutionNames.at(index)).arg(width).arg(height));
+            QCOMPARE(m_tables.resolutionIndexFromSize(width, height), index);
+        }
+        QCOMPARE(
+            sizes.join(", "),
+            "D1 704x576, HD1 352x576, BCIF 704x288, CIF 352x288, QCIF 176x144, VGA 640x480, QVGA 320x240, "
+            "SVCD 480x480, QQVGA 160x128, SVGA 800x592, XVGA 1024x768, WXGA 1280x800, SXGA 1280x1024, "
+            "WSXGA 1600x1024, UXGA 1600x1200, WUXGA 1920x1200, LFT 240x192, 720P 1280x720, "
+            "1080P 1920x1080, 1_3M 1280x960, 2M 1872x1408, 5M 3744x1408, 3M 2048x1536, 5_0M 2432x2050, "
+            "1_2M 1216x1024, 1408_1024 1408x1024, 8M 3296x2472, 2560_1920 2560x1920, 960H 960x576, "
+            "960_720 960x720, NHD 640x360, QNHD 320x180, QQNHD 160x90, 4000*3000 4000x3000, "
+            "4096*2160 4096x2160, 3840*2160 3840x2160");
+        QVERIFY(!m_tables.resolutionSizeFromIndex(-1, width, height));
+        QCOMPARE(m_tables.resolutionIndexFromSize(800, 600), -1);
+    }
+
+    void audioFormatsHaveTheirNames()
+    {
+        const QStringList names = {"",     "G711a", "PCM",   "G711u",        "AMR", "AAC", "G726",
+                                   "G729", "ADPCM", "MPEG2", "MPEG2_Layer2", "OGG", "MP3", "G7221"};
+        for (int format = -1; format <= names.size(); ++format)
+            QCOMPARE(ValueTables::audioFormatToName(format), names.value(format));
+        for (int format = 0; format < names.size(); ++format)
+            QCOMPARE(ValueTables::audioNameToFormat(names.at(format)), format);
+        for (const char *name : {"G723_53", "G723_63"})
+            QCOMPARE(ValueTables::audioNameToFormat(name), 6);
         QCOMPARE(ValueTables::audioNameToFormat("g711a"), 0);
     }
 
