@@ -1,5 +1,7 @@
+#include "device/devicefactory.h"
 #include "device/p2pports.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -84,16 +86,16 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, file);
         const QTemporaryDir directory;
-        const QString path = directory.filePath("p2p.ini");
+        QDir::setCurrent(directory.path());
         if (!file.isNull()) {
-            QFile written(path);
+            QFile written("p2p.ini");
             QVERIFY(written.open(QFile::WriteOnly));
             written.write(file);
         }
         const auto agent = std::make_shared<NotingAgent>();
-        {
-            const P2PPorts ports(agent, P2PSettings::read(path), &noHandler);
-        }
+        std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators(),
+                                         CDeviceFactory::P2PAgent{agent, &noHandler});
+        QDir::setCurrent(QDir::rootPath());
         QTEST(agent->calls.value(0), "started");
         if (!agent->calls.isEmpty()) // settings that are no good start nothing
             QCOMPARE(agent->calls.mid(1), QStringList({"callback", "release"}));

@@ -1,10 +1,12 @@
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "device/dh/rowlogin.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
+#include "tests/media/quietnetlibrary.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -16,6 +18,22 @@ namespace {
 const QString camera = QStringLiteral("02:1a:c5:00:00:01");
 const QString newCamera = QStringLiteral("02:1a:c5:00:00:02");
 const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
+
+/// Accepts every login, as a device of one kind.
+class OneKindLibrary : public QuietNetLibrary
+{
+public:
+    explicit OneKindLibrary(int typeCode) : m_typeCode(static_cast<std::uint8_t>(typeCode)) {}
+    std::int64_t NetLogin(const char *, std::int32_t, const char *, const char *, std::int32_t, void *,
+                          sdk::LoginDeviceInformation &device, std::int32_t &) override
+    {
+        device.deviceType = m_typeCode;
+        return 1;
+    }
+
+private:
+    const std::uint8_t m_typeCode;
+};
 
 } // namespace
 
@@ -98,24 +116,56 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getDeviceDetail("dh", recorder).value("submask").toString(), "255.255.255.0");
     }
 
+    void codesOfKindsHaveTheirWords()
+    {
+        const QMap<int, QString> words = {{19, "SD"},  {20, "IPC"},  {29, "SVR"},   {30, "SVR"},
+                                          {31, "NVR"}, {0, "Other"}, {18, "Other"}, {255, "Other"}};
+        RowLoginRequest request;
+        request.address = "192.168.1.10";
+        for (auto word = words.cbegin(); word != words.cend(); ++word) {
+            sdk::SdkLibraries libraries;
+            libraries.net = std::make_shared<OneKindLibrary>(word.key());
+            QCOMPARE(loginForRow(libraries, request).row.value("type").toString(), word.value());
+        }
+    }
+
+    void theWebPortFollowsHttps_data()
+    {
+        QTest::addColumn<QJsonObject>("https");
+        QTest::addColumn<int>("httpPort");
+        QTest::addColumn<int>("webPort");
+        QTest::newRow("without") << QJsonObject{{"enabled", false}, {"port", 8443}} << 8080 << 8080;
+        QTest::newRow("without, no port") << QJsonObject{{"enabled", false}, {"port", 8443}} << 0 << 80;
+        QTest::newRow("with") << QJsonObject{{"enabled", true}, {"port", 8443}} << 8080 << 8443;
+        QTest::newRow("with, no port") << QJsonObject{{"enabled", true}, {"port", 0}} << 8080 << 80;
+    }
+
+    void theWebPortFollowsHttps()
+    {
+        QFETCH(QJsonObject, https);
+        QFETCH(int, httpPort);
+        m_site->changeDevice(recorder, [&](sdk::demo::SceneDevice &device, const auto &) {
+            device.configuration.insert("Https", https);
+            device.httpPort = httpPort;
+        });
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.12", "admin", "secret1", "37777"), 0);
+        QTEST(row(recorder).value("httpport").toInt(), "webPort");
+    }
+
     void aLoginThatFailsSaysWhyAndAddsNothing_data()
     {
         QTest::addColumn<QString>("address");
         QTest::addColumn<QString>("account");
         QTest::addColumn<QString>("password");
         QTest::addColumn<int>("result");
-        QTest::newRow("no account") << "192.168.1.10"
-                                    << "root"
-                                    << "secret1" << 1;
-        QTest::newRow("wrong password") << "192.168.1.10"
-                                        << "admin"
-                                        << "secret2" << 2;
-        QTest::newRow("nobody there") << "192.168.1.99"
-                                      << "admin"
-                                      << "secret1" << 5;
-        QTest::newRow("no address") << ""
-                                    << "admin"
-                                    << "secret1" << 5;
+        const auto row = [](const char *name, const QString &address, const QString &account,
+                            const QString &password, int result) {
+            QTest::newRow(name) << address << account << password << result;
+        };
+        row("no account", "192.168.1.10", "root", "secret1", 1);
+        row("wrong password", "192.168.1.10", "admin", "secret2", 2);
+        row("nobody there", "192.168.1.99", "admin", "secret1", 5);
+        row("no address", "", "admin", "secret1", 5);
     }
 
     void aLoginThatFailsSaysWhyAndAddsNothing()
@@ -130,8 +180,11 @@ private Q_SLOTS:
 
     void aNewAddressIsWhereTheDeviceAnswersNext()
     {
+        m_site->changeDevice(camera,
+                             [](sdk::demo::SceneDevice &device, const auto &) { device.dhcp = true; });
         search();
         m_factory->modifyIP("dh", camera, "192.168.1.77", "255.255.0.0", "192.168.1.254", false);
+        QVERIFY(!m_site->device(camera)->dhcp);
         QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
         QCOMPARE(row(camera).value("res").toInt(), 0);
         search();
@@ -149,9 +202,13 @@ private Q_SLOTS:
         m_factory->modifyIP("dh", "02:1a:c5:ff:ff:ff", "192.168.1.79", "", "", false);
         QVERIFY(m_site->requests().of("NetModifyDeviceBySearch").isEmpty());
 
+        m_factory->modifyIP("dh", camera, "192.168.1.79", "255.255.255.0", "192.168.1.1", false);
         m_factory->modifyIP("dh", camera, "not an address", "", "", true); // DHCP ignores the addresses
         QCOMPARE(row(camera).value("res").toInt(), 0);
-        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.10:37777");
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.79:37777");
+        const auto asked = m_site->requests().of("NetModifyDeviceBySearch");
+        QCOMPARE(asked.last().request.value("address").toString(),
+                 "192.168.1.79"); // as the device has it now
         QVERIFY(m_site->device(camera)->dhcp);
     }
 
@@ -170,6 +227,7 @@ private Q_SLOTS:
         QVERIFY(!row(newCamera).value("state").toBool());
         m_factory->setInitAccount("dh", newCamera, "admin", "first-1");
         QCOMPARE(row(newCamera).value("res").toInt(), 0);
+        QCOMPARE(m_site->requests().of("NetInitDeviceAccount").last().request.value("passwordResetWay"), 3);
         search();
         QVERIFY(row(newCamera).value("state").toBool());
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "first-2", "37777"), 2);
@@ -198,6 +256,15 @@ private Q_SLOTS:
         QCOMPARE(result.size(), 3);
         m_factory.reset();
         QCOMPARE(m_site->requests().of("NetLogout").size(), 2);
+    }
+
+    void aLoginThroughATunnelIsOfAKindOfItsOwn()
+    {
+        m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1");
+        m_factory->findAndLoginDevice("dh", "127.0.0.1:20001", "admin", "secret1"); // leads nowhere
+        const auto logins = m_site->requests().of("NetLoginSecure");
+        QCOMPARE(logins.at(0).request.value("mode").toInt(), 0);
+        QCOMPARE(logins.at(1).request.value("mode").toInt(), 19);
     }
 
     /// A page that works on the session does not notice that another one looks whether a password is right.

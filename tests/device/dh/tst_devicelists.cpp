@@ -277,6 +277,9 @@ private Q_SLOTS:
         QVERIFY(exported({camera, plateCamera, videoWall, remote}, "again.csv"));
         QVERIFY(read("again.csv").contains(cameraLine));
         QVERIFY(read("again.csv").contains(",P2P," + remoteId.toUtf8() + ',' + remoteId.toUtf8() + ",8800,"));
+        m_factory->updataDeviceInfo("dh", "type", QString(40, 'T'), remote, "");
+        QVERIFY(exported({remote}, "again.csv"));
+        QVERIFY(read("again.csv").contains("Encoder," + QByteArray(32, 'T') + ",General"));
     }
 
     void opensTunnelsForP2P()
