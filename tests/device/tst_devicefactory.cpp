@@ -14,103 +14,6 @@
 
 namespace {
 
-const QStringList operations = {"startSearch",
-                                "setSearchByIPInfo",
-                                "filterData",
-                                "filterDataIPV6",
-                                "modifyIP",
-                                "setDefaultAccount",
-                                "setInitAccount",
-                                "setAddDevice",
-                                "setPluginPort",
-                                "setDeleteDevice",
-                                "setBatchDeleteDevice",
-                                "getDeviceDetail",
-                                "getDeviceDetailString",
-                                "getDeviceInfo",
-                                "importDevice",
-                                "exportDevice",
-                                "getLoginDevice",
-                                "getPassWordType",
-                                "setUpgradeFilePath",
-                                "startUpgrade",
-                                "startUpgradeByDocument",
-                                "stopUpgrade",
-                                "openTemplate",
-                                "importUpgradeDocument",
-                                "getErrorName",
-                                "findAndLoginDevice",
-                                "updataDeviceInfo",
-                                "getCameraConfig",
-                                "getConfigData",
-                                "getEncodeCaps",
-                                "setConfigData",
-                                "getDeviceChannelData",
-                                "confirmConfigData",
-                                "getVideoIn",
-                                "getVideoInByChangeChannel",
-                                "getEncodeInfo",
-                                "copyConfigToDevice",
-                                "systemConfig",
-                                "addP2PPort",
-                                "getP2PWebPort",
-                                "getDays",
-                                "hasDeviceUpgrading",
-                                "snapPictureToFile",
-                                "startSnap",
-                                "exitProgram",
-                                "releaseP2PPort",
-                                "importFailures",
-                                "importError",
-                                "stopImport",
-                                "readDeviceDetail",
-                                "upgradeDocumentResult",
-                                "upgradeDocumentSuccesses",
-                                "upgradesToRetry",
-                                "upgradeDocumentProgress",
-                                "openSession",
-                                "stopOpeningSession",
-                                "checkSession"};
-
-const QStringList signalNames = {"signalAddDeviceToTable",
-                                 "signalSearchCount",
-                                 "signalSearchDone",
-                                 "signalAddSingleDeviceToTable",
-                                 "signalUpdateSchedule",
-                                 "signalUpdateScheduleUpgradeByDocument",
-                                 "signalShowUpgradeFinishTip",
-                                 "signalRetToCopyConfig",
-                                 "signalRetToSystemConfig",
-                                 "signalSystemConfigEnablePassword",
-                                 "signalHighLevelLoginRet",
-                                 "signalGetDeviceCapRet",
-                                 "signalChangeVideoType",
-                                 "signalChangeVideoChannel",
-                                 "signalChangeEncodeChannel",
-                                 "signalConfirmEncodeConfig",
-                                 "signalSetChannelNameFinished",
-                                 "signalSnapPictureToFile",
-                                 "signalSnapPictureToFileAgain",
-                                 "signalTunnelBroken",
-                                 "signalImportProgress",
-                                 "signalSessionOpened",
-                                 "signalSessionChecked",
-                                 "signalSearchLimited"};
-
-/// Own methods of the factory of one kind, in declaration order, without the copies that default arguments
-/// make.
-QStringList ownMethods(QMetaMethod::MethodType type)
-{
-    QStringList names;
-    const QMetaObject &meta = CDeviceFactory::staticMetaObject;
-    for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
-        const QString name = QString::fromLatin1(meta.method(index).name());
-        if (meta.method(index).methodType() == type && !names.contains(name))
-            names.append(name);
-    }
-    return names;
-}
-
 /// Place of a virtual function in its class's table, as calls of other programs find it: the Itanium ABI
 /// keeps it in the pointer to the function.
 template<typename Function>
@@ -179,12 +82,6 @@ private Q_SLOTS:
         m_backEnd->upgrading = false;
     }
 
-    void offersEveryOperationAndSignalInOrder()
-    {
-        QCOMPARE(ownMethods(QMetaMethod::Method), operations);
-        QCOMPARE(ownMethods(QMetaMethod::Signal), signalNames);
-    }
-
     /// Back ends that were built apart from the program find the operations at these places.
     void theOperationsOfABackEndKeepTheirSlots()
     {
@@ -235,15 +132,18 @@ private Q_SLOTS:
     void relaysEverySignalWithItsArguments()
     {
         const QMetaObject &base = CDeviceBase::staticMetaObject;
-        int relayed = 0;
+        const QMetaObject &factory = CDeviceFactory::staticMetaObject;
+        int unrelayed = 0;
+        for (int index = factory.methodOffset(); index < factory.methodCount(); ++index)
+            unrelayed += factory.method(index).methodType() == QMetaMethod::Signal ? 1 : 0;
         for (int index = base.methodOffset(); index < base.methodCount(); ++index) {
             const QMetaMethod signal = base.method(index);
             if (signal.methodType() != QMetaMethod::Signal)
                 continue;
             const QByteArray twin = signal.methodSignature().replace("signalCDevice", "signal");
-            const int twinIndex = m_factory.metaObject()->indexOfSignal(twin.constData());
+            const int twinIndex = factory.indexOfSignal(twin.constData());
             QVERIFY2(twinIndex >= 0, twin.constData());
-            QSignalSpy spy(&m_factory, m_factory.metaObject()->method(twinIndex));
+            QSignalSpy spy(&m_factory, factory.method(twinIndex));
 
             int number = 40 + index;
             QString text = "text " + QString::number(index);
@@ -268,9 +168,9 @@ private Q_SLOTS:
             QMetaObject::activate(m_backEnd.get(), &base, index - base.methodOffset(), arguments.data());
             QCOMPARE(spy.size(), 1);
             QCOMPARE(spy.at(0), expected);
-            ++relayed;
+            --unrelayed;
         }
-        QCOMPARE(relayed, int(signalNames.size()));
+        QCOMPARE(unrelayed, 0);
     }
 
     void aSignalOfAnotherThreadArrivesOnTheFactorysThread()

@@ -1,5 +1,4 @@
 #include "device/devicefactory.h"
-#include "device/loginresult.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
@@ -81,10 +80,10 @@ void walkAddingByAddress(Driver &driver)
     expectRefusal(driver, "请输入端口");
 
     confirm(driver, QStringLiteral("8800"), password);
-    expectToast(driver, resultName(resultCode(LoginResult::AlreadyListed)));
+    expectToast(driver, QCoreApplication::translate("ResultNames", "设备已存在"));
     driver.fill(QStringLiteral("addressField"), branchAddress);
     confirm(driver, QStringLiteral("8800"), QStringLiteral("wrong"));
-    expectToast(driver, resultName(resultCode(LoginResult::WrongPassword)));
+    expectToast(driver, QCoreApplication::translate("ResultNames", "密码错误"));
     driver.report(QStringLiteral("add-ip-wrong-password"), QStringLiteral("the wrong password"));
 
     const int before = rows(driver);
@@ -131,7 +130,8 @@ void walkAddingFavourites(Driver &driver)
     driver.click(QStringLiteral("okButton"));
     const QString added = QCoreApplication::translate("AddDevicesByFavoritesWindow", "已添加");
     driver.await(QStringLiteral("each row says how it went"), [&] {
-        return driver.text(QStringLiteral("addResult0")) == resultName(13) &&
+        return driver.text(QStringLiteral("addResult0")) ==
+                   QCoreApplication::translate("ResultNames", "设备已存在") &&
                driver.text(QStringLiteral("addResult1")) == added;
     });
     driver.report(QStringLiteral("favourites-added"), driver.texts(QStringLiteral("addResult0")).last());

@@ -87,7 +87,9 @@ void walkFirstSearch(Driver &driver)
                  [&] { return counter(driver) > 0 && rows(driver) > 0; });
     if (isSearching(driver)) {
         driver.click(QStringLiteral("closeButton"));
-        driver.check(driver.window()->isVisible(), QStringLiteral("closing during a search does nothing"));
+        const QString refusal = QCoreApplication::translate("MainWindow", "正在搜索，请稍候再关闭");
+        driver.await(QStringLiteral("closing during a search is refused"),
+                     [&] { return driver.texts(QStringLiteral("toastText")).contains(refusal); });
     }
     driver.report(QStringLiteral("counter-climbs"),
                   QStringLiteral("%1 devices so far, closing is refused").arg(counter(driver)));
