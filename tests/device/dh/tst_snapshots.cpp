@@ -108,6 +108,7 @@ private Q_SLOTS:
 
     void aChannelIsTakenAgainIntoTheSameFile()
     {
+        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 1200}));
         const QString path = pathOf("rec", 2);
         QDir().mkpath(QFileInfo(path).path());
         QFile before(path);
