@@ -31,42 +31,28 @@ private Q_SLOTS:
         QTest::addColumn<QString>("filtertype");
         QTest::addColumn<QString>("searchtext");
         QTest::addColumn<QList<int>>("kept");
-        QTest::newRow("nofilter") << "nofilter"
-                                  << "" << QList{0, 1, 2};
-        QTest::newRow("removeall") << "removeall"
-                                   << "" << QList<int>();
-        QTest::newRow("removeinit") << "removeinit"
-                                    << "" << QList{1};
-        QTest::newRow("removeuninit") << "removeuninit"
-                                      << "" << QList{0, 2};
-        QTest::newRow("type") << "search"
-                              << "NVR" << QList{1};
-        QTest::newRow("model") << "search"
-                               << "B-3" << QList{2};
-        QTest::newRow("ipport") << "search"
-                                << "0.1:3" << QList{0, 2};
-        QTest::newRow("mac") << "search"
-                             << "2:b" << QList{1};
-        QTest::newRow("vision") << "search"
-                                << "v3" << QList{0};
-        QTest::newRow("name") << "search"
-                              << "大" << QList{0};
-        QTest::newRow("small letters") << "search"
-                                       << "ipc" << QList{0};
-        QTest::newRow("a key that is not searched") << "search"
-                                                    << "hidden" << QList<int>();
-        QTest::newRow("empty text") << "search"
-                                    << "" << QList{0, 1, 2};
-        QTest::newRow("no pattern") << "search"
-                                    << ".*" << QList<int>();
-        QTest::newRow("single") << "single"
-                                << "10.0.0.2:37777" << QList{1};
-        QTest::newRow("single of two with one address") << "single"
-                                                        << "10.0.0.1:37777" << QList{0};
-        QTest::newRow("single, whole text only") << "single"
-                                                 << "10.0.0.2" << QList<int>();
-        QTest::newRow("unknown word") << "everything"
-                                      << "" << QList<int>();
+        const auto row = [](const char *name, const QString &filtertype, const QString &searchtext,
+                            const QList<int> &kept) {
+            QTest::newRow(name) << filtertype << searchtext << kept;
+        };
+        row("nofilter", "nofilter", "", QList{0, 1, 2});
+        row("removeall", "removeall", "", QList<int>());
+        row("removeinit", "removeinit", "", QList{1});
+        row("removeuninit", "removeuninit", "", QList{0, 2});
+        row("type", "search", "NVR", QList{1});
+        row("model", "search", "B-3", QList{2});
+        row("ipport", "search", "0.1:3", QList{0, 2});
+        row("mac", "search", "2:b", QList{1});
+        row("vision", "search", "v3", QList{0});
+        row("name", "search", "大", QList{0});
+        row("small letters", "search", "ipc", QList{0});
+        row("a key that is not searched", "search", "hidden", QList<int>());
+        row("empty text", "search", "", QList{0, 1, 2});
+        row("no pattern", "search", ".*", QList<int>());
+        row("single", "single", "10.0.0.2:37777", QList{1});
+        row("single of two with one address", "single", "10.0.0.1:37777", QList{0});
+        row("single, whole text only", "single", "10.0.0.2", QList<int>());
+        row("unknown word", "everything", "", QList<int>());
     }
 
     void keepsTheRowsOfItsWord()
