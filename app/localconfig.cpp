@@ -3,6 +3,7 @@
 #include "app/languages.h"
 #include "app/logging.h"
 #include "app/product.h"
+#include "app/settingsfile.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -76,24 +77,22 @@ int CLocalConfig::number(const QString &key) const
     return value(key).toString().toInt();
 }
 
-void CLocalConfig::setValue(const QString &key, const QVariant &value)
+void CLocalConfig::setValues(const QList<QPair<QString, QString>> &values)
 {
-    QSettings settings(m_settingsPath, QSettings::IniFormat);
-    settings.setValue(key, value);
-    settings.sync();
-    if (settings.status() == QSettings::AccessError)
-        qCWarning(logApp) << "CLocalConfig: cannot write" << m_settingsPath;
+    const QString failure = SettingsFile(m_settingsPath).change(values);
+    if (!failure.isEmpty())
+        qCWarning(logApp).noquote() << "CLocalConfig: cannot write" << m_settingsPath << "-" << failure;
 }
 
 void CLocalConfig::writeDefaults()
 {
-    setLanguage(QString());
-    setSearchConfigLocalDomain(1);
-    setSearchConfigOtherDomain(0);
-    setSearchConfigStartIP(QStringLiteral("192.168.1.1"));
-    setSearchConfigEndIP(QStringLiteral("192.168.1.255"));
-    setSearchConfigUsername(QStringLiteral("admin"));
-    setSearchConfigPass(QStringLiteral("739164"));
+    setValues({{languageKey, QString()},
+               {localDomainKey, QStringLiteral("1")},
+               {otherDomainKey, QStringLiteral("0")},
+               {startIpKey, QStringLiteral("192.168.1.1")},
+               {endIpKey, QStringLiteral("192.168.1.255")},
+               {usernameKey, QStringLiteral("admin")},
+               {passKey, QStringLiteral("739164")}});
 }
 
 QString CLocalConfig::getLanguage() const
@@ -153,7 +152,7 @@ int CLocalConfig::getSearchConfigLocalDomain() const
 
 void CLocalConfig::setSearchConfigLocalDomain(int check)
 {
-    setValue(localDomainKey, check);
+    setValue(localDomainKey, QString::number(check));
 }
 
 int CLocalConfig::getSearchConfigOtherDomain() const
@@ -163,7 +162,7 @@ int CLocalConfig::getSearchConfigOtherDomain() const
 
 void CLocalConfig::setSearchConfigOtherDomain(int check)
 {
-    setValue(otherDomainKey, check);
+    setValue(otherDomainKey, QString::number(check));
 }
 
 int CLocalConfig::upgradesAtOnce() const

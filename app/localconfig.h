@@ -13,8 +13,8 @@ class QSharedMemory;
 /// the single-instance lock.
 ///
 /// The settings file is opened afresh for every read and every write, so that a write is on disk at once and
-/// nothing is cached. A missing key reads as an empty text or 0; a write that fails is lost, with a warning
-/// in the log. Main thread only.
+/// nothing is cached. A missing key reads as an empty text or 0. A write that fails leaves the file as it
+/// was, with a warning in the log; the caller reads the value back to notice. Main thread only.
 class CLocalConfig : public QObject
 {
     Q_OBJECT
@@ -74,7 +74,8 @@ public:
 private:
     [[nodiscard]] QVariant value(const QString &key) const;
     [[nodiscard]] int number(const QString &key) const;
-    void setValue(const QString &key, const QVariant &value);
+    void setValue(const QString &key, const QString &value) { setValues({{key, value}}); }
+    void setValues(const QList<QPair<QString, QString>> &values);
     void writeDefaults();
     [[nodiscard]] QString translationFile(const QString &code) const;
     void openDocument(const QString &name) const;

@@ -1,12 +1,12 @@
 #include "cgi/commandmemory.h"
 
 #include "cgi/logging.h"
+#include "files/filereplacement.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace {
 
@@ -83,10 +83,7 @@ void CommandMemory::write() const
     const QJsonObject object = {{recentKey, QJsonArray::fromStringList(m_recent)},
                                 {favouritesKey, QJsonArray::fromStringList(m_favourites)}};
     const QByteArray text = QJsonDocument(object).toJson();
-    // Whole or not at all. Not through a buffer: the toolkit does not notice when only a part of that could
-    // be written.
-    QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(text) != text.size() ||
-        !file.commit())
-        qCWarning(logCgi).noquote() << "cannot write" << m_path << "-" << file.errorString();
+    const QString failure = replaceFile(m_path, text);
+    if (!failure.isEmpty())
+        qCWarning(logCgi).noquote() << "cannot write" << m_path << "-" << failure;
 }

@@ -2,8 +2,7 @@
 
 #include "device/devicerow.h"
 #include "device/logging.h"
-
-#include <QSaveFile>
+#include "files/filereplacement.h"
 
 #include <algorithm>
 
@@ -77,14 +76,10 @@ QString DeviceDetailModel::lineText(int row) const
 
 bool DeviceDetailModel::write(const QString &path) const
 {
-    const QByteArray bytes = text().toUtf8();
-    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size() &&
-        file.commit())
-        return true;
-    qCWarning(logDevice).noquote() << "cannot write the details" << path << '-' << file.errorString();
-    return false;
+    const QString failure = replaceFile(path, text().toUtf8());
+    if (!failure.isEmpty())
+        qCWarning(logDevice).noquote() << "cannot write the details" << path << '-' << failure;
+    return failure.isEmpty();
 }
 
 void DeviceDetailModel::show()

@@ -2,6 +2,7 @@
 
 #include "favourites/aesencryption.h"
 #include "favourites/logging.h"
+#include "files/filereplacement.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -13,6 +14,8 @@
 
 #include <array>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -69,6 +72,20 @@ QString fileNameFor(const QString &addr, const QString &port)
             name += character;
     }
     return name + QStringLiteral(".json");
+}
+
+/// The text of a JSON object whose keys are in the given order, laid out as the toolkit does. The toolkit's
+/// own object sorts its keys.
+QByteArray objectText(const std::vector<std::pair<const char *, QString>> &entries)
+{
+    QByteArray text;
+    for (const auto &[key, value] : entries) {
+        const QByteArray entry =
+            QJsonDocument(QJsonObject{{QLatin1String(key), value}}).toJson(QJsonDocument::Indented);
+        const QByteArrayView line = QByteArrayView(entry).sliced(2).chopped(3); // without "{\n" and "\n}\n"
+        text += (text.isEmpty() ? "{\n" : ",\n") + line.toByteArray();
+    }
+    return text + "\n}\n";
 }
 
 /// What a file of the folder holds, when that may be a favourite.
@@ -137,7 +154,7 @@ void CAuthor::saveTextAsJson(const QString &inputPath, const QString &type, cons
         return;
     }
 
-    const QJsonObject favourite = {
+    const QByteArray text = objectText({
         {"type", type},
         {"addr", addr},
         {"port", port},
@@ -146,19 +163,14 @@ void CAuthor::saveTextAsJson(const QString &inputPath, const QString &type, cons
         {"note", note},
         {"created", QDateTime::currentDateTime().toString(Qt::ISODate)},
         {"original_path", inputPath},
-    };
-    const QByteArray text = QJsonDocument(favourite).toJson(QJsonDocument::Indented);
-
-    QFile file(QDir(folder).filePath(fileNameFor(addr, port)));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        qCWarning(logFavourites) << "无法打开文件:" << file.fileName() << "-" << file.errorString();
+    });
+    const QString file = QDir(folder).filePath(fileNameFor(addr, port));
+    const QString failure = replaceFile(file, text);
+    if (!failure.isEmpty()) {
+        qCWarning(logFavourites) << "无法打开文件:" << file << "-" << failure;
         return;
     }
-    if (file.write(text) != text.size() || !file.flush()) {
-        qCWarning(logFavourites) << "文件写入不完整:" << file.fileName() << "-" << file.errorString();
-        return;
-    }
-    qCDebug(logFavourites) << "文件已保存到:" << file.fileName();
+    qCDebug(logFavourites) << "文件已保存到:" << file;
     qCDebug(logFavourites) << "原始输入路径:" << inputPath;
     qCDebug(logFavourites) << "清理后路径:" << path;
 }

@@ -28,7 +28,8 @@ public:
 
     /// Writes the file of the device at `addr` and `port` into the folder `inputPath`, or, when that is no
     /// folder, into the one above it, which is created when missing. A file that the device already has is
-    /// overwritten. `password` is written as given, so the caller enciphers it.
+    /// replaced; when the new one cannot be written completely, the old one stays as it is. `password` is
+    /// written as given, so the caller enciphers it.
     ///
     /// The file's name is made of address and port. Characters that would lead out of the folder or hide the
     /// file from the list are written as "%" and two hexadecimal digits: the identifier of a device behind

@@ -1,10 +1,10 @@
 #include "sheets/filesheetengine.h"
 
+#include "files/filereplacement.h"
 #include "sheets/internal/emptyworkbook.h"
 #include "sheets/internal/workbook.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace sheets {
 
@@ -105,12 +105,9 @@ bool FileSheetEngine::saveAs(const QString &path)
     QByteArray bytes;
     if (!m_workbook->build(bytes))
         return fail(QStringLiteral("cannot make %1: %2").arg(path, m_workbook->errorText()));
-    // Written beside the file and put in its place by a rename, so that a full disk costs nothing. Not
-    // through a buffer: the toolkit does not notice when only a part of that could be written.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(bytes) != bytes.size() ||
-        !file.commit())
-        return fail(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
+    const QString failure = replaceFile(path, bytes);
+    if (!failure.isEmpty())
+        return fail(QStringLiteral("cannot write %1: %2").arg(path, failure));
     m_path = path;
     return true;
 }

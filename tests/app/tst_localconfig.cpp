@@ -1,5 +1,6 @@
 #include "app/languages.h"
 #include "app/localconfig.h"
+#include "tests/files/filesizelimit.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -86,6 +87,19 @@ private Q_SLOTS:
         QCOMPARE(config.getLanguage(), "fr_FR");
     }
 
+    /// In memory a change takes less than a tick of the clock that files are dated by.
+    void changesWithinATickAreRead()
+    {
+        const QTemporaryDir memory("/dev/shm/localconfig-XXXXXX");
+        if (!memory.isValid())
+            QSKIP("there is no file system in memory");
+        CLocalConfig config(memory.path());
+        for (const char *language : {"fr_FR", "de_DE", "es_ES", "it_IT", "nl_NL"}) {
+            config.setLanguage(language);
+            QCOMPARE(config.getLanguage(), language);
+        }
+    }
+
     void anExistingFileIsNeverCompleted()
     {
         write(path("LocalConfig.ini"), "[searchConfig]\nendIP=10.0.0.9\n");
@@ -156,6 +170,26 @@ private Q_SLOTS:
         config.setLanguage("en_US");
         QCOMPARE(config.getLanguage(), "");
         QVERIFY(QFileInfo(path("LocalConfig.ini")).isDir());
+    }
+
+    /// The old settings fit on the disk, the new ones do not.
+    void aFullDiskLosesWritesOnly()
+    {
+        CLocalConfig config(m_directory->path());
+        config.setLanguage("de_DE");
+        const auto contents = [this] {
+            QFile file(path("LocalConfig.ini"));
+            return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        const QByteArray before = contents();
+        {
+            const FileSizeLimit limit(static_cast<rlim_t>(before.size()) + 10);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write .* the draft is incomplete"));
+            config.setSearchConfigPass(QString(100, 'p'));
+        }
+        QCOMPARE(contents(), before);
+        QCOMPARE(config.getSearchConfigPass(), "739164");
+        QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList("LocalConfig.ini"));
     }
 
     void languagesWithoutAFileAreRemoved_data()

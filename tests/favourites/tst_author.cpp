@@ -1,4 +1,5 @@
 #include "favourites/author.h"
+#include "tests/files/filesizelimit.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -15,14 +16,14 @@ namespace {
 
 // The meta-object compiler loses its way in raw strings, so quotation marks are single here.
 const char *const favouriteText = "{\n"
-                                  "    'addr': '10.0.0.1',\n"
-                                  "    'created': '%1',\n"
-                                  "    'note': 'front door, \\'密\\'',\n"
-                                  "    'original_path': '%2',\n"
-                                  "    'password': '%3',\n"
-                                  "    'port': '37777',\n"
                                   "    'type': '1',\n"
-                                  "    'username': 'admin'\n"
+                                  "    'addr': '10.0.0.1',\n"
+                                  "    'port': '37777',\n"
+                                  "    'username': 'admin',\n"
+                                  "    'password': '%3',\n"
+                                  "    'note': 'front door, \\'密\\'',\n"
+                                  "    'created': '%1',\n"
+                                  "    'original_path': '%2'\n"
                                   "}\n";
 const char *const useByScene =
     "author.saveTextAsJson(folder, 0, '10.0.0.1', 37777, 'admin', author.AesEncrypt('geheim'), undefined); "
@@ -195,9 +196,8 @@ private Q_SLOTS:
         row("folder below a file", "%1/file/below/", "无法创建目录: \"%1/file/below\"");
         row("no folder named", "", "无法创建目录: \"\"");
         row("a folder of the file's name", "%1/taken",
-            "无法打开文件: \"%1/taken/10.0.0.1_80.json\" - \"Is a directory\"");
-        row("disk full", "%1/full",
-            "文件写入不完整: \"%1/full/10.0.0.1_80.json\" - \"No space left on device\"");
+            "无法打开文件: \"%1/taken/10.0.0.1_80.json\" - \"Not a regular file\"");
+        row("disk full", "%1/full", "无法打开文件: \"%1/full/10.0.0.1_80.json\" - \"File too large\"");
     }
 
     void warnsWhenItCannotSave()
@@ -207,9 +207,11 @@ private Q_SLOTS:
         write("file", "");
         QVERIFY(QDir(path()).mkpath("taken/10.0.0.1_80.json"));
         QVERIFY(QDir(path()).mkpath("full"));
-        QVERIFY(QFile::link("/dev/full", path("full/10.0.0.1_80.json")));
+        write("full/10.0.0.1_80.json", "before");
+        const FileSizeLimit limit(100);
         m_author.saveTextAsJson(input.replace("%1", path()), "0", "10.0.0.1", "80", "admin", "password", "");
         QCOMPARE(logged, QStringList("warning " + warning.replace("%1", path())));
+        QCOMPARE(read("full/10.0.0.1_80.json"), QByteArray("before"));
     }
 
     void skipsWhatIsNoFavourite_data()

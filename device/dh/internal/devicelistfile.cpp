@@ -4,11 +4,11 @@
 #include "device/dh/internal/xlsxdevicelist.h"
 #include "device/dh/internal/xmldevicelist.h"
 #include "device/logging.h"
+#include "files/filereplacement.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QUrl>
 
 namespace {
@@ -32,14 +32,10 @@ ListFormat formatOf(const QString &path)
 
 bool writeText(const QString &path, const QByteArray &text)
 {
-    // Written beside the file and put in its place by a rename, so that a full disk costs nothing. Not
-    // through a buffer: the toolkit does not notice when only a part of that could be written.
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(text) == text.size() &&
-        file.commit())
-        return true;
-    qCWarning(logDevice).noquote() << "cannot write the device list" << path << '-' << file.errorString();
-    return false;
+    const QString failure = replaceFile(path, text);
+    if (!failure.isEmpty())
+        qCWarning(logDevice).noquote() << "cannot write the device list" << path << '-' << failure;
+    return failure.isEmpty();
 }
 
 DeviceListContents refusal(const QString &reason)

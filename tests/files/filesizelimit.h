@@ -1,0 +1,29 @@
+// A full disk for the files that this process writes.
+#pragma once
+
+#include <csignal>
+#include <sys/resource.h>
+
+/// No file can grow beyond `bytes` while the object lives: a write is cut there, as on a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    void (*const m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN); // it would end the process
+    rlimit m_before = {};
+};
