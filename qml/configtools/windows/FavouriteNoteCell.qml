@@ -5,13 +5,20 @@ import configtools
 OVTableCell {
     id: root
 
+    required property var wholeNote  // a function that returns the note, of which the table may show a part
     property bool editable: true
     signal edited(string note)
 
     property bool editing: false
+    property string before  // in the field, when editing began
+
+    readonly property int longest: 50  // letters that can be typed; a longer note from elsewhere is not cut
 
     function begin() {
-        field.text = value ?? "";
+        const note = wholeNote();
+        field.maximumLength = Math.max(longest, note.length);
+        field.text = note;
+        before = field.text;
         editing = true;
         field.forceActiveFocus();
         field.selectAll();
@@ -21,7 +28,7 @@ OVTableCell {
         if (!editing)
             return;
         editing = false;
-        if (keep && field.text !== value)
+        if (keep && field.text !== before)
             edited(field.text);
     }
 
@@ -61,7 +68,6 @@ OVTableCell {
         y: Theme.line
         width: root.width
         accessibleName: qsTr("备注")
-        maximumLength: 50
         objectName: "noteEditor"
         visible: root.editing
         onAccepted: root.end(true)

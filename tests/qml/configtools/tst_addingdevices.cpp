@@ -218,6 +218,31 @@ private Q_SLOTS:
         QCOMPARE(m_added->count(), 1);
     }
 
+    /// What may be typed into a note is limited; a note that came from elsewhere is not.
+    void aLongNoteIsNotCut()
+    {
+        const CAuthor author;
+        const QString note = QString(300, 'n');
+        author.saveTextAsJson(favouritesFolder(), "0", "10.0.0.1", "80", "admin", "", note);
+        const auto stored = [&] {
+            return author.readJsonFilesFromFolder(favouritesFolder()).first().toStringList().last();
+        };
+        QMetaObject::invokeMethod(m_adding, "openFavourites");
+        QTRY_VERIFY(item("editNote0"));
+        QMetaObject::invokeMethod(item("editNote0"), "clicked");
+        QTRY_VERIFY(item("noteEditor")->hasActiveFocus());
+        item("favouriteFilter")->forceActiveFocus();
+        QTRY_VERIFY(!item("noteEditor")->isVisible());
+        QCOMPARE(stored(), note);
+
+        QMetaObject::invokeMethod(item("editNote0"), "clicked");
+        QTRY_VERIFY(item("noteEditor")->hasActiveFocus());
+        QTest::keyClick(m_window.get(), Qt::Key_End);
+        QTest::keyClick(m_window.get(), Qt::Key_Backspace);
+        item("favouriteFilter")->forceActiveFocus();
+        QTRY_COMPARE(stored(), note.chopped(1));
+    }
+
     void asksForTheAccountAgain_data()
     {
         QTest::addColumn<bool>("takesChanges");
