@@ -1,15 +1,17 @@
 #include "cgi/cgiconfigmanage.h"
 
+#include "cgi/answerkind.h"
 #include "cgi/commandworkbook.h"
 #include "cgi/curltransport.h"
 #include "cgi/internal/batchrun.h"
 #include "device/devicefactory.h"
+#include "files/filereplacement.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QJsonObject>
-#include <QScopeGuard>
 #include <QUrl>
 
 #include <algorithm>
@@ -40,6 +42,23 @@ QString fieldText(const QVariant &row, const QString &key)
 
 } // namespace
 
+/// The time in which a command or a workbook runs.
+class CGIConfigManage::Run
+{
+public:
+    explicit Run(CGIConfigManage &manager) : m_manager(manager)
+    {
+        m_manager.m_isRunning = true;
+        m_manager.m_isStopped = false;
+    }
+    Run(const Run &) = delete;
+    Run &operator=(const Run &) = delete;
+    ~Run() { m_manager.m_isRunning = false; }
+
+private:
+    CGIConfigManage &m_manager;
+};
+
 CGIConfigManage *CGIConfigManage::getinstance()
 {
     if (!instance())
@@ -53,7 +72,7 @@ void CGIConfigManage::deleteInstance()
 }
 
 CGIConfigManage::CGIConfigManage(CgiSurroundings surroundings, QObject *parent)
-    : QObject(parent), m_surroundings(std::move(surroundings)), m_procedure(m_surroundings, {}),
+    : QObject(parent), m_surroundings(watched(std::move(surroundings))), m_procedure(m_surroundings, {}),
       m_memory(m_surroundings.folder + QStringLiteral("/cgicommands.json"))
 {
 }
@@ -69,6 +88,25 @@ CgiSurroundings CGIConfigManage::programSurroundings()
             .localTime = &QDateTime::currentDateTime};
 }
 
+CgiSurroundings CGIConfigManage::watched(CgiSurroundings surroundings)
+{
+    surroundings.watch = [this] {
+        return passEvents();
+    };
+    return surroundings;
+}
+
+/// Lets the scene paint and take input, unless it has done so just now. Returns whether the work goes on.
+bool CGIConfigManage::passEvents()
+{
+    constexpr qint64 interval = 50; // milliseconds that the scene may stand still
+    if (!m_sinceEvents.isValid() || m_sinceEvents.elapsed() >= interval) {
+        QCoreApplication::processEvents();
+        m_sinceEvents.start();
+    }
+    return !m_isStopped;
+}
+
 void CGIConfigManage::setProxy(const QString &proxy)
 {
     m_surroundings.transport->setProxy(proxy);
@@ -77,40 +115,36 @@ void CGIConfigManage::setProxy(const QString &proxy)
 QString CGIConfigManage::singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                          const QString &ipport)
 {
+    // While a request waits, the scene's timers run and could call again.
+    if (m_isRunning)
+        return failedResult + tr("正在发送另一条CGI命令。");
+    const Run run(*this);
     return m_procedure.run(url, user, pass, ipport);
 }
 
 QString CGIConfigManage::batchCGIConfig(const QString &path)
 {
-    // The scene's timers run between two rows and could call again.
-    if (m_isBatchRunning)
+    if (m_isRunning)
         return tr("正在执行另一个文件中的CGI命令。");
-    m_isBatchRunning = true;
-    m_stopsBatch = false;
-    const auto end = qScopeGuard([this] { m_isBatchRunning = false; });
-
+    const Run run(*this);
     CommandWorkbook workbook;
     QString refusal = workbook.open(localPath(path));
     if (!refusal.isEmpty())
         return refusal;
 
-    constexpr qint64 paintInterval = 50; // milliseconds that the scene may stand still
-    QElapsedTimer sincePaint;            // not started: the first row is shown at once
-    BatchRun run(workbook, m_procedure);
-    while (run.hasNext() && !m_stopsBatch) {
-        const QString command = run.sendNext();
-        Q_EMIT signalBatchProgress(run.done(), run.total(), command);
-        if (!run.hasNext() || (sincePaint.isValid() && sincePaint.elapsed() < paintInterval))
-            continue;
-        QCoreApplication::processEvents();
-        sincePaint.start();
+    BatchRun batch(workbook, m_procedure);
+    while (batch.hasNext() && !m_isStopped) {
+        const QString command = batch.sendNext();
+        Q_EMIT signalBatchProgress(batch.done(), batch.total(), command);
+        if (batch.hasNext())
+            static_cast<void>(passEvents());
     }
-    return run.finish();
+    return batch.finish();
 }
 
-void CGIConfigManage::stopBatch()
+void CGIConfigManage::stop()
 {
-    m_stopsBatch = true;
+    m_isStopped = true;
 }
 
 QVariantList CGIConfigManage::sortList(const QVariantList &list, const QString &key, Qt::SortOrder order)
@@ -137,6 +171,39 @@ QVariantList CGIConfigManage::sortList(const QVariantList &list, const QString &
 void CGIConfigManage::copyText(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
+}
+
+QStringList CGIConfigManage::linesOf(const QString &text) const
+{
+    constexpr qsizetype longest = 500;
+    constexpr qsizetype most = 100'000;
+    QStringList lines;
+    qsizetype place = 0;
+    while (place < text.size() && lines.size() < most) {
+        qsizetype end = text.indexOf(QLatin1Char('\n'), place);
+        end = end < 0 ? text.size() : end;
+        qsizetype length = std::min(end - place, longest);
+        if (length < end - place && text.at(place + length - 1).isHighSurrogate())
+            --length; // the letter stays whole
+        QString line = text.mid(place, length);
+        line.remove(QLatin1Char('\r'));
+        lines.append(line);
+        place += length == end - place ? length + 1 : length;
+    }
+    if (place < text.size())
+        lines.append(tr("…（内容过长，已截断）"));
+    return lines;
+}
+
+QVariantMap CGIConfigManage::saveText(const QString &folder, const QString &text) const
+{
+    const QString ending = QStringLiteral(".txt");
+    QString path = answerFilePath(folder, m_surroundings.localTime(), ending);
+    const QString first = path.chopped(ending.size());
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = first + QStringLiteral("_%1").arg(number) + ending;
+    return {{QStringLiteral("path"), QDir::toNativeSeparators(path)},
+            {QStringLiteral("failure"), replaceFile(path, text.toUtf8())}};
 }
 
 QString CGIConfigManage::templateFile() const

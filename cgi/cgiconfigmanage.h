@@ -3,15 +3,17 @@
 #include "cgi/cgiprocedure.h"
 #include "cgi/commandmemory.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QVariantList>
+#include <QVariantMap>
 
 /// Commands to devices over HTTP, for the scene: one, or those of a workbook, whose results are written into
 /// it; and the small services that the page of commands needs.
 ///
-/// Everything runs on the scene's thread and blocks it until it is done. Between two rows of a workbook the
-/// event loop runs, so that the scene can show how far it is; the scene keeps other input away meanwhile,
-/// and whoever owns this object lets it live until the call has returned.
+/// Everything runs on the scene's thread and blocks it until it is done. While a request waits and between
+/// two rows of a workbook the event loop runs, so that the scene can paint and call stop(). The scene keeps
+/// other input away meanwhile, and the owner of this object keeps it until the call has returned.
 class CGIConfigManage : public QObject
 {
     Q_OBJECT
@@ -33,7 +35,7 @@ public:
     void setProxy(const QString &proxy);
 
     /// Sends one command. The text of the answer, the path of the file that it was saved in, or "Error:" and
-    /// why not.
+    /// why not. Refused while another command or a workbook runs.
     Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                         const QString &ipport);
 
@@ -42,14 +44,23 @@ public:
     /// the results are, or why the workbook cannot be used.
     Q_INVOKABLE QString batchCGIConfig(const QString &path);
 
-    /// Ends a running workbook after the row that is being asked; its results are kept.
-    Q_INVOKABLE void stopBatch();
+    /// Ends the request that runs at once, and with it a workbook, whose results so far are kept. The device
+    /// may have executed the command.
+    Q_INVOKABLE void stop();
 
     /// The rows (maps) ordered by the text of one field, equal ones as they were.
     Q_INVOKABLE QVariantList sortList(const QVariantList &list, const QString &key, Qt::SortOrder order);
 
     /// Puts the text on the clipboard.
     Q_INVOKABLE void copyText(const QString &text);
+
+    /// The text in lines for a list. A line of more than 500 letters is cut into several. Of a text with more
+    /// than 100,000 lines these are the first ones, and the last line says so.
+    Q_INVOKABLE QStringList linesOf(const QString &text) const;
+
+    /// Saves a text as UTF-8 in a new file of `folder`, which is named after the time. Returns its "path",
+    /// and a "failure" that is empty on success.
+    Q_INVOKABLE QVariantMap saveText(const QString &folder, const QString &text) const;
 
     /// The workbook to begin from, in the user's language: the path of a file beside the program.
     Q_INVOKABLE QString templateFile() const;
@@ -71,9 +82,15 @@ Q_SIGNALS:
     void signalBatchProgress(int done, int total, const QString &command);
 
 private:
+    class Run;
+
+    [[nodiscard]] CgiSurroundings watched(CgiSurroundings surroundings);
+    [[nodiscard]] bool passEvents();
+
     const CgiSurroundings m_surroundings;
     const CgiProcedure m_procedure;
     CommandMemory m_memory;
-    bool m_isBatchRunning = false;
-    bool m_stopsBatch = false;
+    bool m_isRunning = false;
+    bool m_isStopped = false;
+    QElapsedTimer m_sinceEvents;
 };

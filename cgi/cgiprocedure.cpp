@@ -1,29 +1,38 @@
 #include "cgi/cgiprocedure.h"
 
 #include "cgi/answerkind.h"
+#include "cgi/internal/partialfile.h"
 #include "cgi/logging.h"
+#include "files/filereplacement.h"
 
-#include <QFileInfo>
 #include <QSaveFile>
 
-#include <limits>
-
 namespace {
-
-/// The words of the library would speak of a full disk here.
-QString failureOf(const HttpOutcome &outcome)
-{
-    return outcome.hasTooLongHeaders ? CgiProcedure::tr("应答头过大。") : outcome.failure;
-}
 
 constexpr long accepted = 200;
 constexpr long credentialsWanted = 401;
 
-HttpOutcome performNoting(HttpConversation &conversation, const HttpLimits &limits)
+/// Why an exchange did not bring what was asked for; empty when it did. The words of the library would speak
+/// of a full disk when the headers are too long.
+QString failureOf(const HttpOutcome &outcome)
 {
-    HttpOutcome outcome = conversation.perform(limits);
-    qCDebug(logCgi).nospace() << "Response Code: " << outcome.status;
-    return outcome;
+    if (outcome.hasTooLongHeaders)
+        return CgiProcedure::tr("应答头过大。");
+    return outcome.isStopped ? CgiProcedure::tr("操作已停止。") : outcome.failure;
+}
+
+/// The same for the second exchange: the device may have changed its mind, and sends a page that says so.
+QString secondFailureOf(const HttpOutcome &outcome)
+{
+    const QString failure = failureOf(outcome);
+    if (!failure.isEmpty() || outcome.status == accepted)
+        return failure;
+    return CgiProcedure::tr("服务器连接失败") + QStringLiteral(" (HTTP %1)").arg(outcome.status);
+}
+
+void noteCannotWrite(const QString &path, const QString &failure)
+{
+    qCWarning(logCgi).noquote() << "cannot write" << path << "-" << failure;
 }
 
 void noteResult(const QString &text)
@@ -78,13 +87,13 @@ QString CgiProcedure::run(const QString &url, const QString &user, const QString
     if (!conversation)
         return failedResult + tr("未知错误。");
 
-    HttpOutcome first = performNoting(*conversation, m_limits.first);
-    if (first.status == credentialsWanted) {
+    HttpOutcome first = perform(*conversation, m_limits.first, {});
+    if (first.status == credentialsWanted && !first.isStopped) {
         conversation->useBasic();
-        first = performNoting(*conversation, m_limits.first);
+        first = perform(*conversation, m_limits.first, {});
     }
     Taken taken = {.text = {}, .failure = failureOf(first)};
-    if (first.status == accepted) {
+    if (first.status == accepted && !first.isStopped) {
         taken = take(*conversation, first);
         noteResult(taken.text);
     }
@@ -95,18 +104,35 @@ QString CgiProcedure::run(const QString &url, const QString &user, const QString
     return taken.text;
 }
 
+HttpOutcome CgiProcedure::perform(HttpConversation &conversation, const HttpLimits &limits,
+                                  const BodySink &sink) const
+{
+    HttpOutcome outcome = conversation.perform(limits, sink, m_surroundings.watch);
+    qCDebug(logCgi).nospace() << "Response Code: " << outcome.status;
+    return outcome;
+}
+
 CgiProcedure::Taken CgiProcedure::take(HttpConversation &conversation, const HttpOutcome &first) const
 {
     const QByteArray headers = conversation.headerText();
-    return answerKind(headers) == AnswerKind::Text ? takeText(conversation)
-                                                   : takeFile(conversation, headers, first);
+    const QString path =
+        answerFilePath(m_surroundings.folder, m_surroundings.localTime(), answerFileEnding(headers));
+    switch (answerKind(headers)) {
+    case AnswerKind::Text:
+        break;
+    case AnswerKind::Picture:
+        return takePicture(conversation, path, first);
+    case AnswerKind::Recording:
+        return takeRecording(conversation, path, first);
+    }
+    return takeText(conversation);
 }
 
 CgiProcedure::Taken CgiProcedure::takeText(HttpConversation &conversation) const
 {
     QByteArray body;
     bool isTooLong = false;
-    const HttpOutcome outcome = conversation.perform(m_limits.text, [&](QByteArrayView piece) {
+    const HttpOutcome outcome = perform(conversation, m_limits.text, [&](QByteArrayView piece) {
         isTooLong = piece.size() > m_limits.longestText - body.size();
         if (!isTooLong)
             body.append(piece);
@@ -114,38 +140,57 @@ CgiProcedure::Taken CgiProcedure::takeText(HttpConversation &conversation) const
     });
     if (isTooLong)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    return {.text = answerText(conversation.headerText(), body), .failure = failureOf(outcome)};
+    return {.text = answerText(conversation.headerText(), body), .failure = secondFailureOf(outcome)};
 }
 
-CgiProcedure::Taken CgiProcedure::takeFile(HttpConversation &conversation, const QByteArray &headers,
-                                           const HttpOutcome &first) const
+/// A part of a picture is of no use: it gets its name when it is complete.
+CgiProcedure::Taken CgiProcedure::takePicture(HttpConversation &conversation, const QString &path,
+                                              const HttpOutcome &first) const
 {
-    const QString path =
-        answerFilePath(m_surroundings.folder, m_surroundings.localTime(), answerFileEnding(headers));
-    // It gets its name when it is whole: half a recording is not to be taken for one. Not
-    // through a buffer: the toolkit does not notice when only a part of that could be written.
+    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        qCWarning(logCgi).noquote() << "cannot write" << path << "-" << file.errorString();
+        noteCannotWrite(path, file.errorString());
         return {.text = {}, .failure = failureOf(first)}; // the answer's code alone decides
     }
-    const bool isPicture = answerKind(headers) == AnswerKind::Picture;
-    qint64 room = isPicture ? m_limits.largestPicture : std::numeric_limits<qint64>::max();
+    qint64 room = m_limits.largestPicture;
     bool isWritten = true;
-    const HttpOutcome outcome =
-        conversation.perform(isPicture ? m_limits.picture : m_limits.recording, [&](QByteArrayView piece) {
-            room -= piece.size();
-            isWritten = room < 0 || file.write(piece.data(), piece.size()) == piece.size();
-            return room >= 0 && isWritten;
-        });
+    const HttpOutcome outcome = perform(conversation, m_limits.picture, [&](QByteArrayView piece) {
+        room -= piece.size();
+        isWritten = room < 0 || writeCompletely(file, piece);
+        return room >= 0 && isWritten;
+    });
     if (room < 0)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    if (isWritten && !outcome.failure.isEmpty())
-        return {.text = {}, .failure = failureOf(outcome)};
-    // The device has thought better of it, and sent a page that says so.
-    if (isWritten && outcome.status != accepted)
-        return {.text = {}, .failure = tr("服务器连接失败")};
+    const QString failure = isWritten ? secondFailureOf(outcome) : QString();
+    if (!failure.isEmpty())
+        return {.text = {}, .failure = failure};
     if (!isWritten || !file.commit())
         return {.text = {}, .failure = tr("文件写入失败：") + file.errorString()};
     return {.text = path, .failure = {}};
+}
+
+CgiProcedure::Taken CgiProcedure::takeRecording(HttpConversation &conversation, const QString &path,
+                                                const HttpOutcome &first) const
+{
+    PartialFile file(path);
+    if (!file.open()) {
+        noteCannotWrite(path, file.failure());
+        return {.text = {}, .failure = failureOf(first)}; // the answer's code alone decides
+    }
+    const HttpOutcome outcome = perform(conversation, m_limits.recording,
+                                        [&file](QByteArrayView piece) { return file.write(piece); });
+    QString failure = file.hasFailed() ? QString() : secondFailureOf(outcome);
+    if (failure.isEmpty() && !file.hasFailed() && file.complete())
+        return {.text = path, .failure = {}};
+    if (file.hasFailed())
+        failure = tr("文件写入失败：") + file.failure();
+    if (outcome.status != accepted) {
+        file.remove();
+        return {.text = {}, .failure = failure};
+    }
+    const QString kept = file.keepPartial();
+    if (!kept.isEmpty())
+        failure += QLatin1Char('\n') + tr("已收到的部分录像保存在：%1").arg(kept);
+    return {.text = {}, .failure = failure};
 }

@@ -17,6 +17,7 @@ struct CgiSurroundings
     std::shared_ptr<HttpTransport> transport;
     QString folder;                       ///< where pictures and recordings are saved
     std::function<QDateTime()> localTime; ///< which names them
+    ExchangeWatch watch = {};             ///< ends a request at once; may be empty
 };
 
 /// The limits of the exchanges that a command may take.
@@ -43,7 +44,8 @@ public:
     CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits &limits);
 
     /// Blocks. The text of the answer, or the path of the file that it was saved in, or "Error:" and why not.
-    /// Empty when the file could not be created.
+    /// Empty when the file could not be created. What there is of a recording that breaks off is kept in a
+    /// file that the result names.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
 
@@ -60,8 +62,12 @@ private:
 
     [[nodiscard]] Taken take(HttpConversation &conversation, const HttpOutcome &first) const;
     [[nodiscard]] Taken takeText(HttpConversation &conversation) const;
-    [[nodiscard]] Taken takeFile(HttpConversation &conversation, const QByteArray &headers,
-                                 const HttpOutcome &first) const;
+    [[nodiscard]] Taken takePicture(HttpConversation &conversation, const QString &path,
+                                    const HttpOutcome &first) const;
+    [[nodiscard]] Taken takeRecording(HttpConversation &conversation, const QString &path,
+                                      const HttpOutcome &first) const;
+    [[nodiscard]] HttpOutcome perform(HttpConversation &conversation, const HttpLimits &limits,
+                                      const BodySink &sink) const;
 
     const CgiSurroundings &m_surroundings;
     const CgiLimits m_limits;

@@ -19,12 +19,18 @@ struct HandleDeleter
 };
 using Handle = std::unique_ptr<CURL, HandleDeleter>;
 
+struct MultiHandleDeleter
+{
+    void operator()(CURLM *handle) const { curl_multi_cleanup(handle); }
+};
+using MultiHandle = std::unique_ptr<CURLM, MultiHandleDeleter>;
+
 class CurlConversation : public HttpConversation
 {
 public:
-    CurlConversation(Handle handle, const CgiRequest &request, std::chrono::seconds connectLimit,
-                     const QByteArray &proxy)
-        : m_handle(std::move(handle))
+    CurlConversation(Handle handle, MultiHandle multi, const CgiRequest &request,
+                     std::chrono::seconds connectLimit, const QByteArray &proxy)
+        : m_handle(std::move(handle)), m_multi(std::move(multi))
     {
         set(CURLOPT_HTTPGET, 1L);
         set(CURLOPT_URL, request.url().constData());
@@ -52,17 +58,18 @@ public:
         set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC));
     }
 
-    HttpOutcome perform(const HttpLimits &limits, const BodySink &sink) override
+    HttpOutcome perform(const HttpLimits &limits, const BodySink &sink, const ExchangeWatch &watch) override
     {
         set(CURLOPT_TIMEOUT_MS, static_cast<long>(limits.total.count()));
         set(CURLOPT_LOW_SPEED_LIMIT, limits.slowestRate);
         set(CURLOPT_LOW_SPEED_TIME, static_cast<long>(limits.slowTime.count()));
         m_sink = sink;
         m_headerLength = 0;
-        const CURLcode result = curl_easy_perform(m_handle.get());
+        const CURLcode result = transfer(watch);
         m_sink = {};
 
         HttpOutcome outcome;
+        outcome.isStopped = result == CURLE_ABORTED_BY_CALLBACK;
         outcome.hasTooLongHeaders = m_headerLength > longestHeaderText;
         curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &outcome.status);
         if (result != CURLE_OK) {
@@ -83,6 +90,30 @@ private:
     {
         // Fails for want of memory, or for an option that the library lacks; the exchange fails then, too.
         curl_easy_setopt(m_handle.get(), option, value);
+    }
+
+    /// Does what curl_easy_perform() does, but asks the watch more often: the library calls a progress
+    /// function only once a second while nothing arrives.
+    CURLcode transfer(const ExchangeWatch &watch)
+    {
+        constexpr int watchInterval = 50; // ms
+        int running = 1;
+        bool isStopped = false;
+        CURLMcode code = curl_multi_add_handle(m_multi.get(), m_handle.get());
+        while (code == CURLM_OK && running > 0 && !isStopped) {
+            code = curl_multi_perform(m_multi.get(), &running);
+            if (code == CURLM_OK && running > 0)
+                code = curl_multi_poll(m_multi.get(), nullptr, 0, watchInterval, nullptr);
+            isStopped = running > 0 && watch && !watch();
+        }
+        CURLcode result = isStopped ? CURLE_ABORTED_BY_CALLBACK : CURLE_OUT_OF_MEMORY;
+        int left = 0;
+        while (const CURLMsg *message = curl_multi_info_read(m_multi.get(), &left)) {
+            if (message->msg == CURLMSG_DONE)
+                result = message->data.result;
+        }
+        curl_multi_remove_handle(m_multi.get(), m_handle.get());
+        return result;
     }
 
     static size_t takeHeader(const char *line, size_t size, size_t count, void *conversation)
@@ -106,6 +137,7 @@ private:
     }
 
     const Handle m_handle;
+    const MultiHandle m_multi; ///< keeps the connection for the next exchange
     BodySink m_sink;
     QByteArray m_headerText;
     qsizetype m_headerLength = 0; ///< of the exchange that runs
@@ -128,7 +160,9 @@ void CurlTransport::setProxy(const QString &proxy)
 std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
 {
     Handle handle(curl_easy_init());
-    if (!handle)
+    MultiHandle multi(curl_multi_init());
+    if (!handle || !multi)
         return nullptr;
-    return std::make_unique<CurlConversation>(std::move(handle), request, m_connectLimit, m_proxy);
+    return std::make_unique<CurlConversation>(std::move(handle), std::move(multi), request, m_connectLimit,
+                                              m_proxy);
 }

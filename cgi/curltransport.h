@@ -2,7 +2,7 @@
 
 #include "cgi/httptransport.h"
 
-/// Requests through libcurl's easy interface, each with a handle of its own. Only HTTP and HTTPS.
+/// Requests through libcurl, each with an easy handle of its own. Only HTTP and HTTPS.
 class CurlTransport : public HttpTransport
 {
 public:

@@ -24,10 +24,14 @@ struct HttpOutcome
     long status = 0;                ///< of the last answer; 0 when none began
     QString failure;                ///< why it failed, in words; empty when it did not
     bool hasTooLongHeaders = false; ///< ended for that; a failure, too
+    bool isStopped = false;         ///< ended by the watch; a failure, too
 };
 
 /// Takes the body of an answer piece by piece. False ends the exchange, which then has failed.
 using BodySink = std::function<bool(QByteArrayView)>;
+
+/// Asked several times a second while an exchange runs, on its thread. False ends the exchange at once.
+using ExchangeWatch = std::function<bool()>;
 
 /// One request, which may be sent more than once. Blocks until it is done or a limit is reached; belongs to
 /// the thread that opened it. A redirection is an answer like any other.
@@ -43,8 +47,9 @@ public:
     /// challenge, in the Digest form.
     virtual void useBasic() = 0;
 
-    /// Sends the request. Without a sink the body is thrown away.
-    virtual HttpOutcome perform(const HttpLimits &limits, const BodySink &sink = {}) = 0;
+    /// Sends the request. Without a sink the body is thrown away; without a watch only a limit ends it early.
+    virtual HttpOutcome perform(const HttpLimits &limits, const BodySink &sink,
+                                const ExchangeWatch &watch) = 0;
 
     /// The header lines of all answers so far, but not more than a bounded length of them.
     [[nodiscard]] virtual QByteArray headerText() const = 0;

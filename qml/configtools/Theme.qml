@@ -67,6 +67,7 @@ QtObject {
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
+    readonly property int answerWindowWidth: 760
     readonly property int answerTipWidth: 560  // of what a device has said, which has longer lines
 
     // Pages with a device tree at the left and panels at the right.

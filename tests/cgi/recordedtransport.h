@@ -31,7 +31,7 @@ private:
         explicit Conversation(const QByteArray &body) : m_body(body) {}
 
         void useBasic() override {}
-        HttpOutcome perform(const HttpLimits &, const BodySink &sink) override
+        HttpOutcome perform(const HttpLimits &, const BodySink &sink, const ExchangeWatch &) override
         {
             constexpr long accepted = 200;
             if (sink)

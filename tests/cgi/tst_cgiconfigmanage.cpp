@@ -183,13 +183,16 @@ private Q_SLOTS:
             rows.append(deviceRow(number));
         QVERIFY(writeWorkbook(rows));
         QString second;
+        QString third;
         // As a button does: what it says comes from the event loop.
         QTimer::singleShot(0, this, [&] {
             second = m_manager->batchCGIConfig(path());
-            m_manager->stopBatch();
+            third = m_manager->singleCGIConfig("http://10.0.0.1/cgi-bin/a", "admin", "secret1", "10.0.0.1:1");
+            m_manager->stop();
         });
         const QString text = m_manager->batchCGIConfig(path());
         QCOMPARE(second, "正在执行另一个文件中的CGI命令。");
+        QCOMPARE(third, "Error:正在发送另一条CGI命令。");
         QCOMPARE(text.section('\n', 0, 0), "已停止执行：成功1行，失败0行，未执行199行。");
         QCOMPARE(results(path(), 3), QStringList({"OK", "", ""}));
         // The next one is not stopped.
@@ -318,6 +321,36 @@ private Q_SLOTS:
         QExcel sheets;
         QVERIFY(sheets.open(program.filePath("template/" + name)) && sheets.selectSheet(2));
         QVERIFY(sheets.usedRowCount() > 8); // a line for each column
+    }
+
+    void aLongTextIsCutIntoLines_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("lines");
+        const QString key = QString::fromUtf8("🔑");
+        QTest::newRow("line ends") << "a\r\n\nb\n" << QStringList{"a", "", "b"};
+        QTest::newRow("long line") << QString(500, 'x') + "\n" + QString(501, 'y')
+                                   << QStringList{QString(500, 'x'), QString(500, 'y'), "y"};
+        QTest::newRow("letter of two parts")
+            << QString(499, 'x') + key << QStringList{QString(499, 'x'), key};
+        QTest::newRow("too many lines") << QString("\n").repeated(100'001)
+                                        << QStringList(100'000, "") + QStringList("…（内容过长，已截断）");
+    }
+
+    void aLongTextIsCutIntoLines()
+    {
+        QFETCH(QString, text);
+        QTEST(m_manager->linesOf(text), "lines");
+    }
+
+    void savesTexts()
+    {
+        const QString first = m_manager->saveText(m_folder->path(), "东").value("path").toString();
+        const QString second = m_manager->saveText(m_folder->path(), "b").value("path").toString();
+        QFile file(first);
+        QVERIFY(first != second && file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("东"));
+        QVERIFY(!m_manager->saveText(m_folder->filePath("none"), "b").value("failure").toString().isEmpty());
     }
 
     void copiesToTheClipboard()

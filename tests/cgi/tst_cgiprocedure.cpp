@@ -3,13 +3,11 @@
 #include "cgi/curltransport.h"
 #include "tests/cgi/apacheserver.h"
 #include "tests/cgi/rawserver.h"
+#include "tests/files/filesizelimit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTest>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace std::chrono_literals;
 
@@ -160,8 +158,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<RawServer::Handler>("handler");
         QTest::addColumn<QString>("result"); // that it begins with
-        const auto row = [](const char *name, const RawServer::Handler &handler, const QString &result) {
-            QTest::newRow(name) << handler << result;
+        const auto row = [](const QByteArray &name, const RawServer::Handler &handler,
+                            const QString &result) {
+            QTest::newRow(name.constData()) << handler << result;
         };
         row(
             "no status line",
@@ -219,29 +218,17 @@ private Q_SLOTS:
                 }
             },
             "Error:");
-        row(
-            "slow recording",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\n");
-                while (exchange.send("x") && exchange.pause(50)) {
-                }
-            },
-            "Error:");
-        row(
-            "recording cut short",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\nbegin");
-            },
-            "Error:");
-        row(
-            "picture that becomes a page",
-            [](const RawExchange &exchange) {
-                if (exchange.number() == 1)
-                    exchange.answer("200 OK", "Content-Type: image/png\r\n", "png");
-                else
-                    exchange.answer("404 Not Found", textType, "no picture");
-            },
-            "Error:服务器连接失败");
+        for (const QByteArray &type : {QByteArray("Content-Type: image/png\r\n"), recordingType, textType}) {
+            row(
+                "becomes a page: " + type.trimmed(),
+                [type](const RawExchange &exchange) {
+                    if (exchange.number() == 1)
+                        exchange.answer("200 OK", type, "first");
+                    else
+                        exchange.answer("404 Not Found", textType, "not any more");
+                },
+                "Error:服务器连接失败 (HTTP 404)");
+        }
     }
 
     void oddAnswersEndInATextThatSaysSo()
@@ -254,6 +241,56 @@ private Q_SLOTS:
         QVERIFY(actual.size() > failedResult.size() || result != failedResult);
         QVERIFY(!server.requests().isEmpty());
         QCOMPARE(savedFiles(), QStringList()); // nothing that looks whole
+    }
+
+    void aRecordingThatBreaksOffIsKept_data()
+    {
+        QTest::addColumn<bool>("staysOpen"); // the connection of the device
+        QTest::addColumn<bool>("isStopped"); // by the user, as soon as something is in the file
+        QTest::newRow("cut short") << false << false;
+        QTest::newRow("too slow") << true << false;
+        QTest::newRow("stopped") << true << true;
+    }
+
+    void aRecordingThatBreaksOffIsKept()
+    {
+        QFETCH(bool, staysOpen);
+        QFETCH(bool, isStopped);
+        RawServer server([staysOpen](const RawExchange &exchange) {
+            exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\nbegin");
+            while (exchange.number() > 1 && staysOpen && exchange.pause(50)) {
+            }
+        });
+        const QString partial = m_folder.filePath("20260309070501.partial.dav");
+        m_surroundings.watch = [&] {
+            return !isStopped || contents(partial).isEmpty();
+        };
+        CgiLimits limits = shortLimits();
+        if (isStopped)
+            limits.recording.slowTime = 60s;
+        const QString result = run(server.url("/cgi-bin/a"), limits);
+        QVERIFY2(result.startsWith("Error:") && result.endsWith("：" + partial), qPrintable(result));
+        QCOMPARE(result.startsWith("Error:操作已停止。"), isStopped);
+        QCOMPARE(savedFiles(), QStringList(QFileInfo(partial).fileName()));
+        QCOMPARE(contents(partial), "begin");
+    }
+
+    void aStopEndsARequestAtOnce()
+    {
+        RawServer server([](const RawExchange &exchange) {
+            exchange.send("HTTP/1.1 200 OK\r\n");
+            while (exchange.pause(50)) {
+            }
+        });
+        QElapsedTimer timer;
+        timer.start();
+        m_surroundings.watch = [&timer] {
+            return timer.elapsed() < 200;
+        };
+        QCOMPARE(run(server.url("/cgi-bin/a")), "Error:操作已停止。");
+        constexpr qint64 atOnce = 900; // a progress function of the library would be called after a second
+        QVERIFY(timer.elapsed() < atOnce);
+        QCOMPARE(server.requests().size(), 1);
     }
 
     /// The first exchange has its limit and throws its body away, the second takes a recording for as long
@@ -295,18 +332,10 @@ private Q_SLOTS:
         RawServer server([](const RawExchange &exchange) {
             exchange.answer("200 OK", recordingType, QByteArray(1'000'000, 'd'));
         });
-        // A limit of the process stands for the disk's.
-        rlimit before = {};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-        rlimit small = before;
-        small.rlim_cur = 200'000;
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const FileSizeLimit limit(200'000);
         const QString result = run(server.url("/cgi-bin/a"));
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
         QVERIFY2(result.startsWith("Error:文件写入失败："), qPrintable(result));
-        QCOMPARE(savedFiles(), QStringList());
+        QCOMPARE(savedFiles(), QStringList("20260309070501.partial.dav"));
     }
 
     void aDeviceThatIsNotThereIsToldSoon()

@@ -14,6 +14,7 @@ Item {
     property string current  // what the step just now is about
     property var job: null
     property bool stopping: false
+    property alias stopper: hold.stopper  // the button that stops it, as Escape does
 
     /// Calls `step` with the place of each thing, then `finish` once with how many there were. `nameOf` gives the name of the thing in a
     /// place, for the foot of the page. Does nothing while another run goes on, and for an empty one.

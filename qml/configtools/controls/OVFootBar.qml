@@ -10,6 +10,8 @@ Item {
     property string runningText
     property string runningDevice
     property bool running: false
+    property bool stoppable: false  // by the button, while it is running
+    readonly property alias stopButton: stop
     property real progress: -1  // 0 to 1; below 0 there is no known end
 
     implicitHeight: Theme.footHeight
@@ -72,6 +74,13 @@ Item {
             font: Theme.figureFont
             text: root.runningDevice
             visible: text !== ""
+        }
+        OVLinkButton {
+            id: stop
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "stopButton"
+            text: qsTr("停止")
+            visible: root.stoppable
         }
     }
 }

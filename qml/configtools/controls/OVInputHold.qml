@@ -1,4 +1,5 @@
-// An invisible sheet over the whole window that keeps the user's input from what lies under it.
+// An invisible sheet over the whole window that keeps the user's input from what lies under it. Only Escape, and a
+// click on one button, get through.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,6 +7,7 @@ import configtools
 T.Popup {
     id: root
 
+    property Item stopper: null  // a button under the sheet, a click on which stops the work as Escape does
     signal escapePressed
 
     /// Opens the way again once what queued up while the thread was at work has come and gone: it was meant for
@@ -31,9 +33,15 @@ T.Popup {
     }
 
     contentItem: MouseArea {
-        cursorShape: Qt.BusyCursor
+        id: sheet
+        readonly property point pointer: Qt.point(mouseX, mouseY)
+        readonly property bool overStopper: containsMouse && root.stopper !== null && root.stopper.visible
+            && root.stopper.contains(sheet.mapToItem(root.stopper, pointer))
+
+        cursorShape: overStopper ? Qt.PointingHandCursor : Qt.BusyCursor
         focus: true
         hoverEnabled: true
+        onClicked: if (overStopper) root.escapePressed()
         Keys.onPressed: event => {
             event.accepted = true;
             if (event.key === Qt.Key_Escape)

@@ -55,12 +55,18 @@ FocusScope {
         deviceFactory: page.deviceFactory
         deviceTable: devices
         localConfig: page.localConfig
+        stopper: foot.stopButton
+        onFailed: devices => {
+            const lines = devices.map(device => device.ipport + "  " + device.result.replace(/\s+/g, " "));
+            answerWindow.wanted().show(qsTr("未成功的设备"), lines.join("\n"));
+        }
         onSaid: (message, kind) => page.said(message, kind)
     }
     CgiWorkbook {
         id: workbook
         cgiManager: page.cgiManager
         fileDialogs: page.fileDialogs
+        stopper: foot.stopButton
         onSaid: (message, kind) => page.said(message, kind)
     }
     // qmllint disable unqualified
@@ -72,6 +78,15 @@ FocusScope {
             sender: cgiSender
             onConfirmed: command => cgiSender.sendToAll(devices.checkedRows(), command)
             onRefused: message => page.said(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: answerWindow
+        visible: false
+        sourceComponent: CgiAnswerWindow {
+            cgiManager: page.cgiManager
+            fileDialogs: page.fileDialogs
+            onSaid: (message, kind) => page.said(message, kind)
         }
     }
     // qmllint enable unqualified
@@ -137,6 +152,9 @@ FocusScope {
             page.cgiManager.copyText(cgiSender.answerOf(row));
             page.said(qsTr("复制成功"), OVToast.Success);
         }
+        onAnswerOpenRequested: row => {
+            answerWindow.wanted().show(devices.get(row).ipport, cgiSender.answerOf(row));
+        }
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onSendRequested: row => cgiSender.send(row)
         onSortRequested: key => devices.toggleSort(key)
@@ -160,6 +178,7 @@ FocusScope {
         running: page.work !== null
         runningDevice: page.work?.current ?? ""
         runningText: page.work?.runningText ?? ""
+        stoppable: true
         //: Follows a number at the foot of a page, as in "3 devices selected".
         text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
     }

@@ -13,9 +13,11 @@ Item {
     readonly property alias running: batch.running
     readonly property alias progress: batch.progress
     readonly property alias current: batch.current
-    readonly property string runningText: batch.total > 1 ? qsTr("正在发送CGI命令…") + qsTr("（按Esc停止）")
-                                                           : qsTr("正在发送CGI命令…")
+    property alias stopper: batch.stopper
+    readonly property string runningText: qsTr("正在发送CGI命令…") + qsTr("（按Esc停止）")
     signal said(string message, int kind)
+    /// A batch has ended with devices that were not done: "ipport" and "result" of each, by their results.
+    signal failed(var devices)
 
     readonly property string prefix: "/cgi-bin/"
     readonly property int kept: 4000  // letters of an answer
@@ -35,20 +37,24 @@ Item {
         return command.startsWith(prefix) ? "" : qsTr("URL格式错误。");
     }
 
-    /// A device behind a tunnel has its web page on a port of its own.
+    /// Where a command goes. A device behind a tunnel has its web page on a port of its own; "" when there is none, since
+    /// the usual one would be that of this computer. A device that reports no web port has the usual one.
     function addressOf(ipport, command) {
         const colon = ipport.lastIndexOf(":");
         const ip = ipport.slice(0, colon);
         const webPort = ip === "127.0.0.1" ? deviceFactory.getP2PWebPort(Number(ipport.slice(colon + 1)))
                                            : deviceFactory.getDeviceInfo("dh", ipport).httpport;
-        return "http://" + ip + ":" + (webPort ?? 80) + command;
+        if (ip === "127.0.0.1" && !webPort)
+            return "";
+        return "http://" + ip + ":" + (webPort || 80) + command;
     }
 
     /// Returns the answer.
     function sendOne(row, command) {
-        const answer = cgiManager.singleCGIConfig(addressOf(row.ipport, command),
-                                                  localConfig.getSearchConfigUsrename(),
-                                                  localConfig.getSearchConfigPass(), row.ipport);
+        const address = addressOf(row.ipport, command);
+        const answer = address === "" ? "Error:" + qsTr("没有通往设备网页端口的隧道。")
+            : cgiManager.singleCGIConfig(address, localConfig.getSearchConfigUsrename(),
+                                         localConfig.getSearchConfigPass(), row.ipport);
         deviceFactory.updataDeviceInfo("dh", "url", command, row.identity, row.ipport);
         // A row is read often: it keeps the beginning of a long answer.
         whole[row.identity] = answer.length > kept ? answer : undefined;
@@ -76,18 +82,23 @@ Item {
 
     /// Sends one command to each of these rows.
     function sendToAll(rows, command) {
-        let failed = 0;
+        const failures = [];
         commands.remember(command);
         batch.start(rows.length, i => {
-            if (sendOne(rows[i], command).startsWith("Error:"))
-                failed += 1;
+            const answer = sendOne(rows[i], command);
+            if (answer.startsWith("Error:"))
+                failures.push({ipport: rows[i].ipport, result: answer});
         }, i => rows[i].ipport, done => {
             if (done < rows.length)
                 said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
             else
                 said(qsTr("批量配置CGI命令已完成"), OVToast.Success);
-            if (failed > 0)
-                said(qsTr("%n 台设备未成功，请查看结果", "", failed), OVToast.Error);
+            if (failures.length > 0)
+                said(qsTr("%n 台设备未成功，请查看结果", "", failures.length), OVToast.Error);
+            for (const row of rows.slice(done))
+                failures.push({ipport: row.ipport, result: qsTr("未执行")});
+            if (failures.length > 0)
+                failed(cgiManager.sortList(failures, "result", Qt.AscendingOrder));
         });
     }
 
@@ -95,5 +106,6 @@ Item {
 
     OVBatch {
         id: batch
+        onStoppingChanged: if (stopping) root.cgiManager.stop()
     }
 }

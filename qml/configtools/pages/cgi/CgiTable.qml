@@ -10,6 +10,7 @@ OVTable {
     property int editRow: -1  // whose field gets the keyboard as soon as it is there
     signal sendRequested(int row)
     signal answerCopyRequested(int row)
+    signal answerOpenRequested(int row)
 
     readonly property int tipLength: 3000  // letters of a long answer that a bubble shows
 
@@ -53,7 +54,7 @@ OVTable {
             readonly property string words: value ?? ""
 
             OVLabel {
-                width: parent.width - Theme.unit
+                width: opener.x - Theme.half
                 height: parent.height
                 color: answer.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.ink
                 objectName: "cgiAnswer" + answer.rowIndex
@@ -66,9 +67,25 @@ OVTable {
             }
             OVToolTip {
                 footnote: qsTr("\n右键点击可复制结果").trim()
-                shown: pointer.enabled && pointer.hovered
+                shown: pointer.enabled && pointer.hovered && !opener.hovered
                 text: pointer.hovered ? root.beginningOf(answer.words) : ""
                 widest: Theme.answerTipWidth
+            }
+            OVIconButton {
+                id: opener
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.unit
+                anchors.verticalCenter: parent.verticalCenter
+                implicitWidth: Theme.unit * 3
+                implicitHeight: Theme.unit * 3
+                enabled: answer.words !== ""
+                focusPolicy: answer.current ? Qt.StrongFocus : Qt.NoFocus
+                iconName: "stretch"
+                iconSize: Theme.smallIconSize
+                objectName: "cgiAnswerOpen" + answer.rowIndex
+                opacity: enabled && (pointer.hovered || answer.current || activeFocus) ? 1 : 0
+                toolTip: qsTr("查看全部内容")
+                onClicked: root.answerOpenRequested(answer.rowIndex)
             }
             TapHandler {
                 acceptedButtons: Qt.RightButton

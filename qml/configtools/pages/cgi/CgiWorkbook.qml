@@ -12,6 +12,7 @@ Item {
     property int total: 0
     readonly property real progress: total > 0 ? done / total : -1
     property string current
+    property alias stopper: hold.stopper
     readonly property string runningText: qsTr("正在执行文件中的CGI命令…") + qsTr("（按Esc停止）")
     signal said(string message, int kind)
 
@@ -51,7 +52,7 @@ Item {
     }
     OVInputHold {
         id: hold
-        onEscapePressed: root.cgiManager.stopBatch()
+        onEscapePressed: root.cgiManager.stop()
     }
     Timer {
         id: beginning

@@ -1,0 +1,108 @@
+// The whole of what a device has sent, however long: to be read, copied and kept as a file.
+import QtQuick
+import QtQuick.Templates as T
+import configtools
+
+OVDialog {
+    id: root
+
+    required property var cgiManager
+    required property var fileDialogs
+    property string answer
+    signal said(string message, int kind)
+
+    function show(heading, text) {
+        title = heading;
+        answer = text;
+        list.model = cgiManager.linesOf(text);
+        list.currentIndex = 0;
+        open();
+    }
+
+    function copy(text) {
+        cgiManager.copyText(text);
+        said(qsTr("复制成功"), OVToast.Success);
+    }
+
+    function save(folder) {
+        const saved = cgiManager.saveText(folder, answer);
+        if (saved.failure !== "")
+            said(qsTr("文件写入失败：") + saved.failure, OVToast.Error);
+        else
+            said(qsTr("已保存到文件：%1").arg(saved.path), OVToast.Success);
+    }
+
+    width: Math.min(Theme.answerWindowWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
+    cancelText: qsTr("关闭")
+    objectName: "cgiAnswerWindow"
+    okText: qsTr("复制全部")
+    onAccepted: copy(answer)
+    onOpened: list.forceActiveFocus()
+
+    footContent: OVButton {
+        anchors.verticalCenter: parent.verticalCenter
+        objectName: "cgiAnswerSaveButton"
+        text: qsTr("保存")
+        toolTip: qsTr("保存为文本文件")
+        onClicked: root.fileDialogs.chooseFolder(qsTr("请选择文件夹"), folder => root.save(folder))
+    }
+
+    ListView {
+        id: list
+        width: parent.width
+        height: Theme.detailHeight
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        highlightMoveDuration: 0  // the end of a long answer is there at once
+        keyNavigationEnabled: true
+        objectName: "cgiAnswerLines"
+
+        Accessible.role: Accessible.List
+        Accessible.name: root.title
+
+        T.ScrollBar.vertical: OVScrollBar {}
+
+        Keys.onPressed: event => {
+            event.accepted = true;
+            if (event.key === Qt.Key_C && event.modifiers & Qt.ControlModifier)
+                root.copy(model[currentIndex] ?? "");
+            else if (event.key === Qt.Key_Home)
+                currentIndex = 0;
+            else if (event.key === Qt.Key_End)
+                currentIndex = count - 1;
+            else
+                event.accepted = false;
+        }
+
+        // qmllint disable unqualified
+        delegate: Rectangle {
+            id: line
+
+            required property int index
+            required property string modelData
+
+            width: ListView.view.width
+            height: words.height + Theme.half
+            color: index === list.currentIndex && list.activeFocus ? Theme.colours.rowSelected : Theme.colours.clear
+
+            Accessible.role: Accessible.ListItem
+            Accessible.name: modelData
+
+            Text {
+                id: words
+                width: line.width - Theme.pageMargin
+                color: line.modelData.startsWith("Error:") ? Theme.colours.bad : Theme.colours.ink
+                font: Theme.figureFont
+                renderType: Text.NativeRendering
+                text: line.modelData
+                textFormat: Text.PlainText
+                wrapMode: Text.WrapAnywhere
+            }
+            TapHandler {
+                onTapped: list.currentIndex = line.index
+            }
+        }
+        // qmllint enable unqualified
+    }
+}
