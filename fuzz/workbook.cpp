@@ -33,12 +33,16 @@ void useFile(const QByteArray &bytes)
         qFatal("what was saved cannot be opened");
 }
 
-/// One part of a file. Packed, a fuzzer would hardly get past its check sum.
-void useSheet(const QByteArray &bytes)
+/// The parts of a file: a sheet and, behind a null byte, the shared strings. Packed, a fuzzer would hardly
+/// get past their check sums.
+void useParts(const QByteArray &bytes)
 {
     sheets::Worksheet sheet;
-    const sheets::SharedStrings strings;
-    if (!sheet.load(bytes))
+    sheets::SharedStrings strings;
+    const qsizetype end = bytes.indexOf('\0');
+    if (end >= 0 && !strings.load(bytes.mid(end + 1)))
+        return;
+    if (!sheet.load(bytes.left(end)))
         return;
     const int first = std::clamp(sheet.usedRows().first, 1, sheets::maximumRows - rows);
     for (int row = first; row < first + rows; ++row) {
@@ -61,6 +65,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     if (bytes.startsWith("PK"))
         useFile(bytes);
     else
-        useSheet(bytes);
+        useParts(bytes);
     return 0;
 }

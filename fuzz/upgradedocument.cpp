@@ -1,0 +1,33 @@
+#include "device/dh/upgradedocument.h"
+#include "fuzz/input.h"
+#include "tests/sheets/workbookfiles.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    fuzz::beQuiet();
+    // The rows of the sheet and, behind a null byte, the shared strings. Packed, a fuzzer would hardly get
+    // past the check sums.
+    const QByteArray bytes = fuzz::bytesOf(data, size);
+    const qsizetype end = bytes.indexOf('\0');
+    const QByteArray strings = end < 0 ? QByteArray() : bytes.mid(end + 1);
+    const fuzz::InputFile file(QStringLiteral("upgrades.xlsx"), {});
+    if (!writeArchive(file.path(), smallWorkbook(bytes.left(end), strings)))
+        qFatal("cannot pack the document");
+
+    UpgradeDocument document;
+    if (!document.open(file.path()).isEmpty())
+        return 0;
+    const std::vector<UpgradeDocumentLine> lines = document.lines();
+    if (lines.size() > UpgradeDocument::mostLines)
+        qFatal("more lines than the limit");
+    for (const UpgradeDocumentLine &line : lines) {
+        if (line.row < 2)
+            qFatal("a line is in the row of the titles");
+        document.setResult(line.row, QStringLiteral("done"));
+    }
+    static_cast<void>(document.keep());
+    UpgradeDocument again;
+    if (!again.open(file.path()).isEmpty() || again.lines().size() != lines.size())
+        qFatal("what was kept is read as something else");
+    return 0;
+}

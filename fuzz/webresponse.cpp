@@ -1,0 +1,97 @@
+#include "cgi/cgiprocedure.h"
+#include "fuzz/input.h"
+
+#include <QDir>
+
+namespace {
+
+/// What a device sends to both requests for a command.
+struct Response
+{
+    long firstStatus = 0;
+    long secondStatus = 0;
+    QByteArray headers;
+    QByteArray body;
+
+    /// The two status codes on the first line, then the headers up to an empty line, then the body.
+    static Response of(const QByteArray &bytes)
+    {
+        const qsizetype line = bytes.indexOf('\n');
+        const QList<QByteArray> codes = bytes.left(line).split(' ');
+        const qsizetype end = bytes.indexOf("\r\n\r\n", line);
+        return {.firstStatus = codes.value(0).toInt(),
+                .secondStatus = codes.value(1).toInt(),
+                .headers = bytes.mid(line + 1, end < 0 ? -1 : end - line - 1),
+                .body = end < 0 ? QByteArray() : bytes.mid(end + 4)};
+    }
+};
+
+class RespondingTransport : public HttpTransport
+{
+public:
+    explicit RespondingTransport(Response response) : m_response(std::move(response)) {}
+
+    void setProxy(const QString &) override {}
+    [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &) override
+    {
+        return std::make_unique<Conversation>(m_response);
+    }
+
+private:
+    class Conversation : public HttpConversation
+    {
+    public:
+        explicit Conversation(const Response &response) : m_response(response) {}
+
+        void useBasic() override {}
+        HttpOutcome perform(const HttpLimits &, const BodySink &sink, const ExchangeWatch &) override
+        {
+            HttpOutcome outcome;
+            outcome.status = sink ? m_response.secondStatus : m_response.firstStatus;
+            constexpr qsizetype piece = 1000;
+            for (qsizetype place = 0; sink && place < m_response.body.size(); place += piece) {
+                if (!sink(QByteArrayView(m_response.body.mid(place, piece)))) {
+                    outcome.failure = QStringLiteral("the client has ended the transfer");
+                    break;
+                }
+            }
+            return outcome;
+        }
+        [[nodiscard]] QByteArray headerText() const override { return m_response.headers; }
+
+    private:
+        const Response &m_response;
+    };
+
+    const Response m_response;
+};
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    fuzz::beQuiet();
+    const QTemporaryDir folder;
+    const Response response = Response::of(fuzz::bytesOf(data, size));
+    const auto letIn = [](const QString &, const QString &, const QString &) {
+        return 0;
+    };
+    const CgiSurroundings surroundings = {.checkLogin = letIn,
+                                          .transport = std::make_shared<RespondingTransport>(response),
+                                          .folder = folder.path(),
+                                          .localTime = &QDateTime::currentDateTime};
+    constexpr qsizetype longest = 4000;
+    const CgiLimits limits{.longestText = longest, .largestPicture = longest};
+    const QString result = CgiProcedure(surroundings, limits)
+                               .run(QStringLiteral("http://192.0.2.1/cgi-bin/a"), QStringLiteral("admin"),
+                                    QStringLiteral("secret"), QStringLiteral("192.0.2.1:37777"));
+    const QStringList files = QDir(folder.path()).entryList(QDir::Files);
+    if (files.size() > 1)
+        qFatal("more than one file");
+    if (files.isEmpty() || result.startsWith(failedResult))
+        return 0;
+    QFile file(result);
+    if (!file.open(QIODevice::ReadOnly) || file.readAll() != response.body)
+        qFatal("the file is not what the device has sent");
+    return 0;
+}
