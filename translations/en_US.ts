@@ -259,6 +259,14 @@
         <source>批量操作CGI模板.xlsx</source>
         <translation>CGI batch template.xlsx</translation>
     </message>
+    <message>
+        <source>正在发送另一条CGI命令。</source>
+        <translation>Another CGI command is being sent.</translation>
+    </message>
+    <message>
+        <source>…（内容过长，已截断）</source>
+        <translation>… (too long, cut off)</translation>
+    </message>
 </context>
 <context>
     <name>CameraLists</name>
@@ -320,6 +328,41 @@
     </message>
 </context>
 <context>
+    <name>CgiAnswerWindow</name>
+    <message>
+        <source>复制成功</source>
+        <translation>Copied</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>The file cannot be written: </translation>
+    </message>
+    <message>
+        <source>已保存到文件：%1</source>
+        <translation>Saved in the file %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>Copy all</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>Saves a text file</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Select a folder</translation>
+    </message>
+</context>
+<context>
     <name>CgiCommandField</name>
     <message>
         <source>CGI命令</source>
@@ -372,6 +415,14 @@
         <source>文件写入失败：</source>
         <translation>The file cannot be written: </translation>
     </message>
+    <message>
+        <source>操作已停止。</source>
+        <translation>The operation was stopped.</translation>
+    </message>
+    <message>
+        <source>已收到的部分录像保存在：%1</source>
+        <translation>The part of the recording that has arrived is in: %1</translation>
+    </message>
 </context>
 <context>
     <name>CgiRequest</name>
@@ -421,6 +472,14 @@
         <source>命令已执行，没有可显示的结果。</source>
         <translation>The command was carried out. There is no result to show.</translation>
     </message>
+    <message>
+        <source>没有通往设备网页端口的隧道。</source>
+        <translation>There is no tunnel to the web port of the device.</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>Not sent</translation>
+    </message>
 </context>
 <context>
     <name>CgiTable</name>
@@ -453,6 +512,10 @@ A right click copies the result</translation>
     <message>
         <source>向这台设备发送CGI命令</source>
         <translation>Send the command to this device</translation>
+    </message>
+    <message>
+        <source>查看全部内容</source>
+        <translation>Show all of it</translation>
     </message>
 </context>
 <context>
@@ -2604,6 +2667,13 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>OVFootBar</name>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+</context>
+<context>
     <name>OVMessageBox</name>
     <message>
         <source>提示</source>
@@ -2783,6 +2853,10 @@ File path: </translation>
             <numerusform>device selected</numerusform>
             <numerusform>devices selected</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>未成功的设备</source>
+        <translation>Devices that were not done</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,14 @@
         <source>批量操作CGI模板.xlsx</source>
         <translation>批量操作CGI模板.xlsx</translation>
     </message>
+    <message>
+        <source>正在发送另一条CGI命令。</source>
+        <translation>正在发送另一条CGI命令。</translation>
+    </message>
+    <message>
+        <source>…（内容过长，已截断）</source>
+        <translation>…（内容过长，已截断）</translation>
+    </message>
 </context>
 <context>
     <name>CameraLists</name>
@@ -318,6 +326,41 @@
     </message>
 </context>
 <context>
+    <name>CgiAnswerWindow</name>
+    <message>
+        <source>复制成功</source>
+        <translation>复制成功</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>文件写入失败：</translation>
+    </message>
+    <message>
+        <source>已保存到文件：%1</source>
+        <translation>已保存到文件：%1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>复制全部</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>保存为文本文件</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
+    </message>
+</context>
+<context>
     <name>CgiCommandField</name>
     <message>
         <source>CGI命令</source>
@@ -370,6 +413,14 @@
         <source>文件写入失败：</source>
         <translation>文件写入失败：</translation>
     </message>
+    <message>
+        <source>操作已停止。</source>
+        <translation>操作已停止。</translation>
+    </message>
+    <message>
+        <source>已收到的部分录像保存在：%1</source>
+        <translation>已收到的部分录像保存在：%1</translation>
+    </message>
 </context>
 <context>
     <name>CgiRequest</name>
@@ -418,6 +469,14 @@
         <source>命令已执行，没有可显示的结果。</source>
         <translation>命令已执行，没有可显示的结果。</translation>
     </message>
+    <message>
+        <source>没有通往设备网页端口的隧道。</source>
+        <translation>没有通往设备网页端口的隧道。</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未执行</translation>
+    </message>
 </context>
 <context>
     <name>CgiTable</name>
@@ -450,6 +509,10 @@
     <message>
         <source>向这台设备发送CGI命令</source>
         <translation>向这台设备发送CGI命令</translation>
+    </message>
+    <message>
+        <source>查看全部内容</source>
+        <translation>查看全部内容</translation>
     </message>
 </context>
 <context>
@@ -2582,6 +2645,13 @@
     </message>
 </context>
 <context>
+    <name>OVFootBar</name>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
     <name>OVMessageBox</name>
     <message>
         <source>提示</source>
@@ -2758,6 +2828,10 @@
         <translation>
             <numerusform>台设备已选中</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>未成功的设备</source>
+        <translation>未成功的设备</translation>
     </message>
 </context>
 <context>
