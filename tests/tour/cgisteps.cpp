@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
+#include <QQuickItem>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -53,6 +54,17 @@ void expectToast(const Driver &driver, const QString &text)
     driver.await(u"\"%1\" is said"_s.arg(text), [&] { return driver.texts(u"toastText"_s).contains(text); });
 }
 
+/// Reads the window of an answer, if it is open, and closes it.
+void readAnswerWindow(Driver &driver, const QString &step)
+{
+    const QQuickItem *lines = driver.find(u"cgiAnswerLines"_s);
+    if (!lines)
+        return;
+    driver.report(step, u"%1 lines"_s.arg(lines->property("count").toInt()));
+    driver.key(Qt::Key_Escape);
+    driver.await(u"the window of the answer is closed"_s, [&] { return !driver.find(u"cgiAnswerLines"_s); });
+}
+
 void walkOneDevice(Driver &driver)
 {
     driver.fill(u"cgiSearchField"_s, camera.section(u':', 0, 0));
@@ -65,6 +77,10 @@ void walkOneDevice(Driver &driver)
     driver.rightClick(u"cgiAnswer0"_s);
     expectToast(driver, translated("PageCGIConfig", "复制成功"));
     driver.check(QGuiApplication::clipboard()->text() == all, u"the answer is on the clipboard"_s);
+
+    driver.click(u"cgiAnswerOpen0"_s);
+    driver.require(u"cgiAnswerLines"_s);
+    readAnswerWindow(driver, u"cgi-answer-window"_s);
 
     const QString refused = send(driver, u"/cgi-bin/nonsense"_s);
     driver.check(refused.startsWith(u"Error:"_s), u"what the device does not know is an error"_s);
@@ -107,6 +123,7 @@ void walkBatch(Driver &driver)
     driver.click(u"okButton"_s);
     expectToast(driver, translated("CgiSender", "批量配置CGI命令已完成"));
     awaitIdle(driver);
+    readAnswerWindow(driver, u"cgi-batch-failures"_s); // opens when a device was not done
     int answers = 0;
     for (int row = 0; row < 3; ++row)
         answers += answerOf(driver, row).startsWith(u"name="_s) ? 1 : 0;
