@@ -20,6 +20,7 @@ void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
+    context->setContextProperty(QStringLiteral("BusyStateApi"), CDeviceFactory::getinstance()->busyState());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));

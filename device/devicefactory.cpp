@@ -74,7 +74,8 @@ void CDeviceFactory::deleteInstance()
 }
 
 CDeviceFactory::CDeviceFactory(const BackEndCreators &creators, const P2PAgent &agent)
-    : m_p2pPorts(agent.library, P2PSettings::read(QStringLiteral("./p2p.ini")), agent.handler)
+    : m_busyState([this] { return hasDeviceUpgrading(); }),
+      m_p2pPorts(agent.library, P2PSettings::read(QStringLiteral("./p2p.ini")), agent.handler)
 {
     for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
         const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
@@ -153,6 +154,11 @@ void CDeviceFactory::exitProgram()
 
 void CDeviceFactory::startSearch(const QString &family)
 {
+    if (m_busyState.areRowsHeld()) {
+        qCWarning(logDevice) << "CDeviceFactory: a search would remove rows that are in use";
+        Q_EMIT signalSearchDone();
+        return;
+    }
     releaseP2PPortsOfAll(family); // the search forgets every row
     forward(family, &CDeviceBase::startSearch);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/busystate.h"
 #include "device/devicebase.h"
 #include "device/p2pports.h"
 
@@ -50,6 +51,10 @@ public:
     explicit CDeviceFactory(const BackEndCreators &creators);
     ~CDeviceFactory() override;
 
+    /// What is being done with devices. Owned by the factory.
+    [[nodiscard]] BusyState *busyState() { return &m_busyState; }
+
+    /// While a work needs the rows, nothing is searched: signalSearchDone is emitted at once.
     Q_INVOKABLE void startSearch(const QString &family);
     Q_INVOKABLE void setSearchByIPInfo(const QString &family, quint32 beginip, quint32 endip);
     Q_INVOKABLE QVariantList filterData(const QString &family, const QString &filtertype,
@@ -205,6 +210,7 @@ private:
     void releaseP2PPortsOfAll(const QString &family);
     void releaseP2PPortsOf(const QVariantMap &row);
 
+    BusyState m_busyState;
     P2PPorts m_p2pPorts; ///< outlives the back ends, which use it
     QMap<QString, std::shared_ptr<CDeviceBase>> m_backEnds;
 };

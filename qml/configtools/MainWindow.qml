@@ -10,23 +10,21 @@ T.ApplicationWindow {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var localConfig: LocalConfigApi
+    readonly property BusyState busyState: BusyStateApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     // qmllint enable unqualified
 
     readonly property alias count: search.count
     readonly property alias searching: search.running
-    // Devices are worked on one after another.
-    readonly property bool working: modifyIpPage.work !== null || (cgiConfigPage.item?.work ?? null) !== null
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
 
-    /// Starts a search that the user asks for. While a device is being upgraded it must not be disturbed.
+    /// Starts a search that the user asks for. It removes all rows, so it waits for works that need them.
     function requestSearch() {
-        if (working)
-            return;  // a search would take away the rows that are worked on
-        if (deviceFactory.hasDeviceUpgrading())
-            popups.tell(qsTr("当前有设备正在升级中，请勿刷新设备！"));
+        const refusal = busyState.refusal(BusyState.Search);
+        if (refusal !== "")
+            popups.tell(refusal);
         else
             search.start(searchSettings.read());
     }
@@ -59,21 +57,25 @@ T.ApplicationWindow {
         return false;
     }
 
-    /// A device that is being upgraded must not be left alone.
-    function isUpgradeLeft() {
-        if (!deviceFactory.hasDeviceUpgrading())
-            return false;
-        popups.say(qsTr("当前有设备正在升级中，请稍候再关闭"), OVToast.Information);
-        return true;
+    /// Whether no work is in the way of an action; otherwise the user is shown which.
+    function mayBegin(action) {
+        const refusal = busyState.refusal(action);
+        if (refusal !== "")
+            popups.say(refusal, OVToast.Information);
+        return refusal === "";
+    }
+
+    function requestRestart() {
+        if (mayBegin(BusyState.Restart))
+            leavePage(() => localConfig.reboot());
     }
 
     /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
     function requestEnd() {
-        if (isUpgradeLeft())
+        if (!mayBegin(BusyState.Close))
             return false;
-        if (searching || working) {
-            popups.say(working ? qsTr("正在处理设备，请稍候再关闭") : qsTr("正在搜索，请稍候再关闭"),
-                       OVToast.Information);
+        if (searching) {
+            popups.say(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
             return false;
         }
         return !leavePage(() => {
@@ -119,8 +121,8 @@ T.ApplicationWindow {
     }
     DeviceSearch {
         id: search
+        busyState: window.busyState
         deviceFactory: window.deviceFactory
-        held: window.working
         onLimited: (rows, leftOut) => popups.tell(
             qsTr("搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。").arg(rows).arg(leftOut))
     }
@@ -187,6 +189,7 @@ T.ApplicationWindow {
 
             PageModifyIP {
                 id: modifyIpPage
+                busyState: window.busyState
                 libraryInstalled: window.libraryInstalled
                 searching: window.searching
                 searchesNothing: search.searchedNothing
@@ -215,6 +218,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageDeviceConfig {
+                        busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
                         onSaid: (message, kind, stay) => popups.say(message, kind, stay)
@@ -229,6 +233,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageSystemConfig {
+                        busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
                         onSaid: (message, kind) => popups.say(message, kind)
@@ -243,6 +248,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageCGIConfig {
+                        busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
                         onSaid: (message, kind) => popups.say(message, kind)
@@ -270,6 +276,7 @@ T.ApplicationWindow {
 
     WindowPopups {
         id: popups
+        busyState: window.busyState
         currentLanguage: window.chosenLanguage
         deviceFactory: window.deviceFactory
         languages: languageList.entries
@@ -280,7 +287,7 @@ T.ApplicationWindow {
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
-        onRestartRequested: if (!window.isUpgradeLeft()) window.leavePage(() => window.localConfig.reboot())
+        onRestartRequested: window.requestRestart()
         onSettingsAccepted: values => {
             if (!searchSettings.write(values))
                 popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);

@@ -3,6 +3,7 @@
 
 #include "device/addressplan.h"
 #include "device/addresstools.h"
+#include "device/busyreport.h"
 #include "device/bytetext.h"
 #include "device/cameraform.h"
 #include "device/channelnameform.h"
@@ -83,6 +84,21 @@ struct FavouriteListModelForeign
     Q_GADGET
     QML_FOREIGN(FavouriteListModel)
     QML_NAMED_ELEMENT(FavouriteListModel)
+};
+
+struct BusyStateForeign
+{
+    Q_GADGET
+    QML_FOREIGN(BusyState)
+    QML_NAMED_ELEMENT(BusyState)
+    QML_UNCREATABLE("there is one for the whole program")
+};
+
+struct BusyReportForeign
+{
+    Q_GADGET
+    QML_FOREIGN(BusyReport)
+    QML_NAMED_ELEMENT(BusyReport)
 };
 
 struct ByteTextForeign

@@ -97,14 +97,13 @@ void expectHold(const Driver &driver)
 {
     driver.click(u"searchButton"_s);
     driver.await(u"a search is refused"_s, [&] {
-        return driver.text(u"messageText"_s) == said("MainWindow", "当前有设备正在升级中，请勿刷新设备！");
+        return driver.text(u"messageText"_s) == said("BusyState", "当前有设备正在升级中，请勿刷新设备！");
     });
     driver.click(u"okButton"_s);
     driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
     driver.click(u"closeButton"_s);
     driver.await(u"closing is refused"_s, [&] {
-        return driver.texts(u"toastText"_s)
-            .contains(said("MainWindow", "当前有设备正在升级中，请稍候再关闭"));
+        return driver.texts(u"toastText"_s).contains(said("BusyState", "当前有设备正在升级中，请稍候再关闭"));
     });
 }
 

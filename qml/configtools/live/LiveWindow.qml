@@ -6,6 +6,7 @@ import configtools
 T.ApplicationWindow {
     id: window
 
+    required property BusyState busyState
     required property var deviceFactory
     required property var localConfig
     readonly property bool fullScreen: visibility === Window.FullScreen
@@ -82,6 +83,12 @@ T.ApplicationWindow {
     Snapshots {
         id: taking
         deviceFactory: window.deviceFactory
+    }
+    BusyReport {
+        active: taking.busy && window.visible
+        need: BusyState.Program
+        state: window.busyState
+        title: qsTr("抓图")
     }
 
     Shortcut { sequence: "Esc"; onActivated: window.goBack() }

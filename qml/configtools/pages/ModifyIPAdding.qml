@@ -5,7 +5,9 @@ import configtools
 Item {
     id: root
 
+    required property BusyState busyState
     required property var deviceFactory
+    property bool asking: false  // a device is being logged in to
     property alias favouritesFolder: savedDevices.folder
     signal said(string message, int kind)
     signal added  // the list has changed
@@ -22,7 +24,7 @@ Item {
 
     /// Tries to add what the dialog holds, once the dialog shows that it is busy.
     function tryDevice(dialog, device, isFavourite) {
-        dialog.busy = true;
+        dialog.busy = asking = true;
         afterPaint.run(() => {
             const code = deviceAdding.add(device);
             // Clicks that have queued up meanwhile meet a dialog that is busy still.
@@ -31,7 +33,7 @@ Item {
     }
 
     function showOutcome(dialog, device, isFavourite, code) {
-        dialog.busy = false;
+        dialog.busy = asking = false;
         if (code !== DeviceAdding.Added) {
             const error = deviceAdding.errorText(code);
             dialog.showResult(code, error);
@@ -54,6 +56,11 @@ Item {
     Favourites {
         id: savedDevices
     }
+    BusyReport {
+        active: root.asking
+        state: root.busyState
+        title: qsTr("手动添加")
+    }
     OVAfterPaint {
         id: afterPaint
     }
@@ -73,6 +80,7 @@ Item {
         visible: false
         sourceComponent: AddDevicesByFavoritesWindow {
             adding: deviceAdding
+            busyState: root.busyState
             favourites: savedDevices
             onAdded: root.added()
             onSaid: (message, kind) => root.said(message, kind)

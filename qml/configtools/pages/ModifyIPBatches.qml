@@ -5,15 +5,27 @@ import configtools
 Item {
     id: root
 
+    required property BusyState busyState
     required property var deviceFactory
     required property var deviceTable  // a DeviceTableModel
     readonly property alias running: batch.running
     readonly property alias progress: batch.progress
     readonly property alias current: batch.current
+    property string title  // of the batch
     property string runningText
     signal said(string message, int kind)
 
+    /// Whether devices may be changed now; otherwise the user is told which work is in the way.
+    function mayBegin() {
+        const refusal = busyState.refusal(BusyState.ChangeAddress);
+        if (refusal !== "")
+            said(refusal, OVToast.Error);
+        return refusal === "";
+    }
+
     function initialise() {
+        if (!mayBegin())
+            return;
         const rows = deviceTable.checkedRows().filter(row => !row.state);
         if (rows.length === 0) {
             said(qsTr("请选择一台未初始化的设备"), OVToast.Error);
@@ -42,13 +54,16 @@ Item {
     }
 
     function askForAddresses(rows, isBatch) {
+        if (!mayBegin())
+            return;
         const dialog = readdressing.wanted();
         dialog.load(rows, isBatch);
         dialog.open();
     }
 
     /// Calls `request` for each row, shows its result as it comes, and reads the whole table at the end.
-    function run(rows, text, request) {
+    function run(rows, title, text, request) {
+        root.title = title;
         runningText = rows.length > 1 ? text + qsTr("（按Esc停止）") : text;
         batch.start(rows.length, i => {
             request(rows[i], i);
@@ -67,7 +82,7 @@ Item {
     }
 
     function sendFirstPasswords(rows, account, password) {
-        run(rows, qsTr("正在初始化设备…"),
+        run(rows, qsTr("初始化"), qsTr("正在初始化设备…"),
             row => deviceFactory.setInitAccount("dh", row.identity, account, password));
     }
 
@@ -77,7 +92,7 @@ Item {
         const mask = dialog.mask;
         const gateway = dialog.gateway;
         const addresses = rows.map((_, i) => dialog.plan.addressOf(i));
-        run(rows, qsTr("正在修改IP地址…"), (row, i) => {
+        run(rows, qsTr("修改IP地址"), qsTr("正在修改IP地址…"), (row, i) => {
             if (dhcp)
                 deviceFactory.modifyIP("dh", row.identity, "", "", "", true);
             else

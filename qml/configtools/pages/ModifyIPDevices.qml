@@ -6,6 +6,7 @@ import configtools
 Item {
     id: root
 
+    required property BusyState busyState
     required property var deviceFactory
     required property var deviceTable  // a DeviceTableModel
     required property var fileDialogs
@@ -52,8 +53,11 @@ Item {
     }
 
     function removeChecked() {
+        const refusal = busyState.refusal(BusyState.Delete);
         if (deviceTable.checkedCount === 0)
             said(qsTr("请选择一台设备"), OVToast.Error);
+        else if (refusal !== "")
+            said(refusal, OVToast.Error);
         else
             question.wanted().show(qsTr("请确认是否要删除"), OVMessageBox.DangerQuestion);
     }

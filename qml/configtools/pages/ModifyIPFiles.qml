@@ -11,6 +11,7 @@ Item {
     readonly property bool running: importing || batch.running
     readonly property real progress: importing && total > 0 ? done / total : -1
     readonly property string current: importing && total > 0 ? done + " / " + total : ""
+    readonly property string title: importing ? qsTr("导入") : qsTr("导出")
     readonly property string runningText: importing ? qsTr("正在导入设备…") + qsTr("（按Esc停止）") : qsTr("正在导出设备…")
     property bool importing: false
     property int done: 0

@@ -6,6 +6,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
     signal searchRequested
@@ -43,6 +44,11 @@ FocusScope {
         deviceFactory: page.deviceFactory
         shown: page.visible
         onReadingRequested: devices.refresh()
+    }
+    BusyReport {
+        active: page.work !== null
+        state: page.busyState
+        title: workbook.running ? qsTr("批量表单操作") : qsTr("批量配置CGI")
     }
     CgiCommands {
         id: cgiCommands

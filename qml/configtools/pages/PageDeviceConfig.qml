@@ -6,6 +6,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
     signal searchRequested
@@ -80,6 +81,17 @@ FocusScope {
         localConfig: page.localConfig
         onRenewed: if (page.visible) readShown()
         onSaid: (message, kind, stay) => page.said(message, kind, stay)
+    }
+    BusyReport {
+        active: copying.running
+        state: page.busyState
+        title: qsTr("复制编码配置")
+    }
+    BusyReport {
+        active: session.busy || session.names.running
+        need: BusyState.Program
+        state: page.busyState
+        title: qsTr("设备配置")
     }
     ConfigCopy {
         id: copying

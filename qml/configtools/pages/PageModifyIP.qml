@@ -5,6 +5,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
     required property bool searchesNothing
@@ -57,8 +58,15 @@ FocusScope {
         id: clipboard
     }
 
+    BusyReport {
+        active: page.work !== null
+        state: page.busyState
+        title: page.work?.title ?? ""
+    }
+
     ModifyIPBatches {
         id: batches
+        busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
         onSaid: (message, kind) => page.said(message, kind)
@@ -74,6 +82,7 @@ FocusScope {
 
     ModifyIPDevices {
         id: actions
+        busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
         fileDialogs: page.fileDialogs
@@ -86,6 +95,7 @@ FocusScope {
 
     ModifyIPAdding {
         id: adding
+        busyState: page.busyState
         deviceFactory: page.deviceFactory
         onAdded: devices.refresh()
         onSaid: (message, kind) => page.said(message, kind)

@@ -5,6 +5,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
     signal searchRequested
@@ -107,6 +108,11 @@ FocusScope {
             result === -1 ? OVTreeModel.WaitsForPassword : result)
     }
 
+    BusyReport {
+        active: batch.running
+        state: page.busyState
+        title: batch.title
+    }
     Shortcut {
         enabled: batch.running && page.visible
         sequence: "Escape"

@@ -7,6 +7,7 @@ OVDialog {
     id: root
 
     required property DeviceAdding adding
+    required property BusyState busyState
     required property Favourites favourites
     signal added  // the device list has changed
     signal said(string message, int kind)
@@ -102,6 +103,11 @@ OVDialog {
     onAccepted: addThese(saved.checkedIdentities())
     onOpened: filter.forceActiveFocus()
 
+    BusyReport {
+        active: root.running
+        state: root.busyState
+        title: root.title
+    }
     FavouriteListModel {
         id: saved
         searchText: filter.text

@@ -5,13 +5,13 @@ import configtools
 QtObject {
     id: root
 
+    required property BusyState busyState
     required property var deviceFactory
     property int count: 0
     property bool running: false
     property bool searchedNothing: false  // the settings named nothing to search
     /// The settings of a search that is to follow the running one, null when none is to.
     property var next: null
-    property bool held: false  // no search follows the running one for now
 
     /// Starts a search, or, while one runs, notes that another is to follow it: two at once would fill the same
     /// list, and the first to end would pass for both.
@@ -33,19 +33,28 @@ QtObject {
     /// The search that ends now has listed `rows` devices and left out `leftOut` answers of further ones.
     signal limited(int rows, int leftOut)
 
+    /// Starts the search that is to follow, once no work needs the rows of the last one any more.
     function startNext() {
         const settings = next;
-        if (!settings || running || held)
+        if (!settings || running || busyState.refusal(BusyState.Search) !== "")
             return;
         next = null;
         start(settings);
     }
 
-    onHeldChanged: startNext()
+    readonly property Connections works: Connections {
+        target: root.busyState
 
+        function onChanged() {
+            root.startNext();
+        }
+    }
     readonly property Connections reports: Connections {
         target: root.deviceFactory
 
+        function onSignalShowUpgradeFinishTip() {
+            root.startNext();
+        }
         function onSignalSearchCount(devCount) {
             root.count = devCount;
         }

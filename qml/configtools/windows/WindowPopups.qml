@@ -5,6 +5,7 @@ import configtools
 Item {
     id: root
 
+    required property BusyState busyState
     required property var deviceFactory
     required property var localConfig
     required property var languages
@@ -97,6 +98,7 @@ Item {
         id: live
         visible: false
         sourceComponent: LiveWindow {
+            busyState: root.busyState
             deviceFactory: root.deviceFactory
             localConfig: root.localConfig
             onSaid: (message, kind) => root.say(message, kind)

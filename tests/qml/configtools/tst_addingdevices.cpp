@@ -1,3 +1,4 @@
+#include "device/busystate.h"
 #include "favourites/author.h"
 #include "tests/qml/configtools/qmlscene.h"
 #include "tests/qml/configtools/recordingfactory.h"
@@ -8,14 +9,15 @@
 
 namespace {
 
-const char *const scene = "import QtQuick\n"
-                          "import QtQuick.Templates as T\n"
-                          "import configtools\n"
-                          "T.ApplicationWindow {\n"
-                          "    width: 1280; height: 720; visible: true\n"
-                          "    ModifyIPAdding { objectName: 'adding'; deviceFactory: factory }\n"
-                          "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n"
-                          "}\n";
+const char *const scene =
+    "import QtQuick\n"
+    "import QtQuick.Templates as T\n"
+    "import configtools\n"
+    "T.ApplicationWindow {\n"
+    "    width: 1280; height: 720; visible: true\n"
+    "    ModifyIPAdding { objectName: 'adding'; busyState: busy; deviceFactory: factory }\n"
+    "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n"
+    "}\n";
 
 QStringList argumentsOf(const QSignalSpy &spy)
 {
@@ -40,7 +42,7 @@ private Q_SLOTS:
         m_factory = std::make_unique<RecordingFactory>();
         m_folder = std::make_unique<QTemporaryDir>();
         m_engine = std::make_unique<QQmlEngine>();
-        m_window = openScene(*m_engine, scene, {{"factory", m_factory.get()}});
+        m_window = openScene(*m_engine, scene, {{"factory", m_factory.get()}, {"busy", &m_busy}});
         QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_adding = m_window->findChild<QObject *>("adding");
@@ -129,7 +131,7 @@ private Q_SLOTS:
         open(opener, filled());
         const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
         m_factory->login = [&] { // blocks: the busy dialog has to be on the screen by now
-            QVERIFY(dialog()->property("busy").toBool());
+            QVERIFY(dialog()->property("busy").toBool() && m_busy.areRowsHeld());
             QVERIFY(!painted.isEmpty());
         };
         press("accept");
@@ -199,6 +201,7 @@ private Q_SLOTS:
         m_factory->loginResult = 2;
         QObject *window = m_window->findChild<QObject *>("favouritesWindow");
         m_factory->login = [&] {
+            QVERIFY(m_busy.areRowsHeld());
             if (m_factory->asked.filter("login").size() == 2) {
                 m_factory->loginResult = 0;
                 QMetaObject::invokeMethod(window, "reject");
@@ -215,6 +218,7 @@ private Q_SLOTS:
             return values.value("words").toString();
         };
         QCOMPARE((QStringList{words(0), words(1), words(2)}), (QStringList{"result 2", "已添加", ""}));
+        QVERIFY(!m_busy.areRowsHeld());
         QCOMPARE(m_added->count(), 1);
     }
 
@@ -300,6 +304,7 @@ private:
     }
     void press(const char *button) const { QMetaObject::invokeMethod(dialog(), button); }
 
+    BusyState m_busy{{}};
     std::unique_ptr<RecordingFactory> m_factory;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QQmlEngine> m_engine;

@@ -1,0 +1,106 @@
+#include "device/busyreport.h"
+#include "tests/device/rowsbackend.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const QStringList nothing;
+const QStringList copying = {QStringLiteral("copying")};
+const QStringList both = {QStringLiteral("copying"), QStringLiteral("snapshots")};
+
+} // namespace
+
+class TestBusyState : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void aRefusalNamesTheWorksInTheWay_data()
+    {
+        QTest::addColumn<BusyState::Action>("action");
+        QTest::addColumn<QStringList>("named");      // while one work needs rows, the other the program
+        QTest::addColumn<QStringList>("namedLater"); // when only the latter is left
+        QTest::addColumn<bool>("waitsForUpgrades");
+        QTest::newRow("search") << BusyState::Search << copying << nothing << true;
+        QTest::newRow("delete") << BusyState::Delete << copying << nothing << false;
+        QTest::newRow("change an address") << BusyState::ChangeAddress << copying << nothing << false;
+        QTest::newRow("close") << BusyState::Close << both << both.sliced(1) << true;
+        QTest::newRow("restart") << BusyState::Restart << both << both.sliced(1) << true;
+    }
+    void aRefusalNamesTheWorksInTheWay()
+    {
+        QFETCH(BusyState::Action, action);
+        QFETCH(QStringList, named);
+        QFETCH(QStringList, namedLater);
+        QFETCH(bool, waitsForUpgrades);
+        bool isUpgrading = false;
+        BusyState state([&] { return isUpgrading; });
+        const auto namedNow = [&] {
+            QStringList titles;
+            for (const QString &title : both) {
+                if (state.refusal(action).contains(title))
+                    titles.append(title);
+            }
+            return titles;
+        };
+
+        QCOMPARE(state.refusal(action), QString());
+        const int first = state.begin(QStringLiteral("copy"), BusyState::Rows);
+        state.rename(first, copying.first());
+        const int second = state.begin(both.last(), BusyState::Program);
+        QCOMPARE(namedNow(), named);
+        state.end(first);
+        QCOMPARE(namedNow(), namedLater);
+        state.end(second);
+        state.end(second);
+        QCOMPARE(state.refusal(action), QString());
+        isUpgrading = true;
+        QCOMPARE(!state.refusal(action).isEmpty(), waitsForUpgrades);
+    }
+
+    void aReportEndsItsWorkWhateverHappens()
+    {
+        BusyState state({});
+        auto report = std::make_unique<BusyReport>();
+        report->setActive(true);
+        report->setTitle(copying.first());
+        report->setState(&state);
+        QVERIFY(state.refusal(BusyState::Close).contains(copying.first()));
+        report->setActive(false);
+        QVERIFY(!state.areRowsHeld());
+
+        report->setActive(true);
+        QSignalSpy changes(&state, &BusyState::changed);
+        report->setTitle(both.last()); // meanwhile the rows must not be free for a moment
+        QCOMPARE(changes.count(), 0);
+        QVERIFY(state.refusal(BusyState::Search).contains(both.last()));
+        report.reset();
+        QVERIFY(!state.areRowsHeld());
+    }
+
+    void aSearchLeavesRowsThatAreNeeded()
+    {
+        struct SearchingBackEnd : RowsBackEnd
+        {
+            void startSearch() override { ++searches; }
+            int searches = 0;
+        };
+        const auto backEnd = std::make_shared<SearchingBackEnd>();
+        CDeviceFactory factory({{QStringLiteral("dh"), [&] {
+                                     return backEnd;
+                                 }}});
+        const QSignalSpy ends(&factory, &CDeviceFactory::signalSearchDone);
+        const int work = factory.busyState()->begin(copying.first(), BusyState::Rows);
+        factory.startSearch(QStringLiteral("dh"));
+        QCOMPARE(backEnd->searches, 0);
+        QCOMPARE(ends.count(), 1); // who has asked does not wait for ever
+        factory.busyState()->end(work);
+        factory.startSearch(QStringLiteral("dh"));
+        QCOMPARE(backEnd->searches, 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBusyState)
+
+#include "tst_busystate.moc"
