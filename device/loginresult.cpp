@@ -46,6 +46,8 @@ QString ResultNames::of(int code)
         return tr("设备已存在");
     case resultCode(LoginResult::Upgrading):
         return tr("设备正在升级");
+    case resultCode(LoginResult::NotDone):
+        return tr("未执行");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
     case refusedByDevice:

@@ -20,6 +20,7 @@ enum class LoginResult : int
     NotSupported = 12, ///< the one failure that the add-device dialog says nothing about
     AlreadyListed = 13,
     Upgrading = 14, ///< nothing was asked: the device's firmware is being upgraded
+    NotDone = 15,   ///< nothing was asked: the batch ended before it came to the device
 };
 
 /// The result for a failed operation of the network library, whose last error is `libraryError`, with or

@@ -3,6 +3,7 @@
 
 #include "device/addressplan.h"
 #include "device/addresstools.h"
+#include "device/batchreport.h"
 #include "device/busyreport.h"
 #include "device/bytetext.h"
 #include "device/cameraform.h"
@@ -84,6 +85,13 @@ struct FavouriteListModelForeign
     Q_GADGET
     QML_FOREIGN(FavouriteListModel)
     QML_NAMED_ELEMENT(FavouriteListModel)
+};
+
+struct BatchReportForeign
+{
+    Q_GADGET
+    QML_FOREIGN(BatchReport)
+    QML_NAMED_ELEMENT(BatchReport)
 };
 
 struct BusyStateForeign

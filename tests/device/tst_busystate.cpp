@@ -1,3 +1,4 @@
+#include "device/batchreport.h"
 #include "device/busyreport.h"
 #include "tests/device/rowsbackend.h"
 
@@ -77,6 +78,20 @@ private Q_SLOTS:
         QVERIFY(state.refusal(BusyState::Search).contains(both.last()));
         report.reset();
         QVERIFY(!state.areRowsHeld());
+    }
+
+    void aNameThatABatchListsTwiceStandsForTwoDevices()
+    {
+        BatchReport report;
+        report.begin({"1", "2", "1", "3"});
+        report.note("1", 0);
+        report.note("4", 0);
+        report.note("2", BatchReport::Waiting);
+        QCOMPARE(report.devicesNotSucceeded(), QStringList({"2", "1", "3"}));
+        report.note("1", 5);
+        report.note("2", 999);
+        QCOMPARE(report.devicesWith(BatchReport::NotDone), QStringList("3"));
+        QCOMPARE(report.summary(), QStringLiteral("1 台设备成功，2 台设备失败，1 台设备未执行"));
     }
 
     void aSearchLeavesRowsThatAreNeeded()

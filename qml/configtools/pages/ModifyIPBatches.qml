@@ -70,6 +70,8 @@ Item {
             deviceTable.refreshDevice(rows[i].identity);
         }, i => rows[i].ipport, done => {
             const failed = rows.slice(0, done).filter(row => deviceFactory.getDeviceDetail("dh", row.identity).res !== 0).length;
+            for (const row of rows.slice(done))
+                deviceFactory.updataDeviceInfo("dh", "res", BatchReport.NotDone, row.identity, row.ipport);
             deviceTable.refresh();
             if (done < rows.length)
                 said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);

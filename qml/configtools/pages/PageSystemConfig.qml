@@ -16,36 +16,37 @@ FocusScope {
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
 
-    property bool passwordEditorEnabled: false
-    property int secondsLeft: 0
-    property var passwordDevices: []  // those that wait for the new password
-    property string passwordTicks     // the ticked devices when the editor was opened
+    property string passwordTicks  // the ticked devices when the old password was checked
+
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
     function focusSearch() {
         deviceTree.focusSearch();
     }
 
-    /// The password editor is opened on purpose and closes as soon as the user turns to another tab.
+    /// The user turns to another tab: what was typed of the new password is forgotten. A batch that runs goes on.
     function disablePasswordEditor() {
-        if (!passwordEditorEnabled)
-            return;
-        passwordEditorEnabled = false;
-        countdown.stop();
-        passwordDevices = [];
-        panels.clearNewPassword();
-        deviceFactory.systemConfig("dh", "cancelLogin", {}, []);
+        passwordTime.close(SystemPasswordTime.Regular);
+        passwordTime.ending = SystemPasswordTime.Regular;
+        panels.forgetNewPassword();
     }
 
-    function enablePasswordEditor() {
-        passwordDevices = batch.waiting;
+    function askForNewPassword() {
         passwordTicks = String(devices.checkedDevices);
-        // Whoever has turned away meanwhile, or ticked others, is asked for the old password again.
-        passwordEditorEnabled = true;
-        secondsLeft = 60;
-        countdown.restart();
-        if (!visible || passwordTicks !== String(batch.devices))
+        passwordTime.begin(batch.report.devicesWith(BatchReport.Waiting));
+        if (!visible)
             disablePasswordEditor();
+        else if (passwordTicks !== String(batch.devices))
+            passwordTime.close(SystemPasswordTime.OtherTicks);
+    }
+
+    function takeChangedPasswords() {
+        const left = batch.report.devicesNotSucceeded();
+        passwordTime.takeResults(left);
+        if (left.length > 0)
+            return;
+        panels.forgetNewPassword();
+        panels.clearOldPassword();
     }
 
     function wordOfResult(result) {
@@ -67,12 +68,10 @@ FocusScope {
     }
 
     function takeEnd() {
-        if (batch.command === "loginCheck" && batch.waiting.length > 0)
-            enablePasswordEditor();
-        if (batch.command === "modifyPassword" && batch.failed === 0 && !batch.stopping) {
-            disablePasswordEditor();
-            panels.clearOldPassword();
-        }
+        if (batch.command === "loginCheck" && batch.report.waiting > 0)
+            askForNewPassword();
+        else if (batch.command === "modifyPassword")
+            takeChangedPasswords();
     }
 
     /// Runs a command that takes no data, once the user has said yes to `words`.
@@ -89,8 +88,8 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         onCheckedDevicesChanged: {
-            if (page.passwordEditorEnabled && String(checkedDevices) !== page.passwordTicks)
-                page.disablePasswordEditor();
+            if (passwordTime.open && String(checkedDevices) !== page.passwordTicks)
+                passwordTime.close(SystemPasswordTime.OtherTicks);
         }
     }
 
@@ -118,14 +117,15 @@ FocusScope {
         sequence: "Escape"
         onActivated: batch.stop()
     }
-    Timer {
-        id: countdown
-        interval: 1000
-        repeat: true
-        onTriggered: {
-            page.secondsLeft = Math.max(0, page.secondsLeft - 1);
-            if (page.secondsLeft === 0 && !batch.running)
-                page.disablePasswordEditor();
+    SystemPasswordTime {
+        id: passwordTime
+        changing: batch.running && batch.command === "modifyPassword"
+        deviceFactory: page.deviceFactory
+        objectName: "passwordTime"
+        onEnded: {
+            batch.giveUpWaiting(qsTr("修改密码"));
+            if (ending === SystemPasswordTime.TimeOver)
+                page.said(qsTr("时间已到，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
         }
     }
 
@@ -166,17 +166,15 @@ FocusScope {
         height: deviceTree.height
         available: page.available
         deviceFactory: page.deviceFactory
-        editorEnabled: page.passwordEditorEnabled
         held: batch.running
-        secondsLeft: page.secondsLeft
+        passwordTime: passwordTime
         timeZone: page.timeZone
         upgradingCount: devices.checkedUpgradingCount
-        waitingCount: page.passwordDevices.length
         onActionRequested: (command, title, dataOf) => page.runOnTicked(command, title, dataOf)
-        onPasswordChangeRequested: password => page.run("modifyPassword", qsTr("修改密码"), page.passwordDevices,
+        onPasswordChangeRequested: password => page.run("modifyPassword", qsTr("修改密码"), passwordTime.devices,
                                                         () => ({password: password}))
         onPasswordCheckRequested: password => {
-            page.disablePasswordEditor();
+            passwordTime.close(SystemPasswordTime.Regular);
             page.runOnTicked("loginCheck", qsTr("验证旧密码"), () => ({password: password}));
         }
         onRebootRequested: page.ask(qsTr("确定要重启选中的 %n 台设备吗？", "", devices.checkedCount), qsTr("重启"),
@@ -188,6 +186,8 @@ FocusScope {
 
     OVFootBar {
         id: foot
+        readonly property bool incomplete: batch.report.failed + batch.report.notDone > 0
+
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
@@ -197,7 +197,7 @@ FocusScope {
         runningText: batch.title + " " + Math.min(batch.done + 1, batch.devices.length) + " / " + batch.devices.length
         //: Follows a number at the foot of a page, as in "3 devices selected".
         text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
-            + (batch.outcome !== "" && batch.failed === 0 ? "  ·  " + batch.outcome : "")
-        warning: batch.failed > 0 ? batch.outcome : ""
+            + (batch.outcome !== "" && !incomplete ? "  ·  " + batch.outcome : "")
+        warning: incomplete ? batch.outcome : ""
     }
 }

@@ -50,6 +50,7 @@ OVDialog {
 
     function addNext() {
         if (stopping || waiting.length === 0) {
+            waiting.forEach(identity => saved.setProgress(identity, FavouriteListModel.Failed, qsTr("未执行")));
             running = false;
             return;
         }

@@ -89,6 +89,10 @@ Item {
             if (answer.startsWith("Error:"))
                 failures.push({ipport: rows[i].ipport, result: answer});
         }, i => rows[i].ipport, done => {
+            for (const row of rows.slice(done)) {
+                deviceFactory.updataDeviceInfo("dh", "result", qsTr("未执行"), row.identity, row.ipport);
+                deviceTable.refreshDevice(row.identity);
+            }
             if (done < rows.length)
                 said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
             else

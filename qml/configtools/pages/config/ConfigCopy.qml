@@ -19,7 +19,8 @@ Item {
     function start(targets) {
         complete = incomplete = failed = 0;
         devices.clearResults();
-        batch.start(targets.length, i => deviceFactory.copyConfigToDevice("dh", [targets[i]]), i => targets[i], tell);
+        batch.start(targets.length, i => deviceFactory.copyConfigToDevice("dh", [targets[i]]), i => targets[i],
+                    done => tell(targets.slice(done)));
     }
 
     function skippedBy(ipport) {
@@ -27,20 +28,24 @@ Item {
     }
 
     function wordOfResult(result, ipport) {
+        if (result === BatchReport.NotDone)
+            return deviceFactory.getErrorName(result);
         const skipped = skippedBy(ipport);
         if (result === OVTreeModel.PartlyDone)
             return skipped;
         return deviceFactory.getErrorName(result) + (skipped === "" ? "" : "\n" + skipped);
     }
 
-    function tell() {
+    function tell(notDone) {
+        notDone.forEach(ipport => devices.setResult(ipport, BatchReport.NotDone));
         const parts = Array.from([
             complete > 0 ? qsTr("%n 台设备已复制", "", complete) : "",
             incomplete > 0 ? qsTr("%n 台设备只复制了一部分", "", incomplete) : "",
-            failed > 0 ? qsTr("%n 台设备复制失败", "", failed) : ""
+            failed > 0 ? qsTr("%n 台设备复制失败", "", failed) : "",
+            notDone.length > 0 ? qsTr("%n 台设备未执行", "", notDone.length) : ""
         ]).filter(part => part !== "");
-        const kind = failed > 0 ? OVToast.Error : incomplete > 0 ? OVToast.Information : OVToast.Success;
-        said(parts.join(qsTr("，")), kind, failed + incomplete > 0 ? Theme.errorToastStay : Theme.toastStay);
+        const kind = failed > 0 ? OVToast.Error : incomplete + notDone.length > 0 ? OVToast.Information : OVToast.Success;
+        said(parts.join(qsTr("，")), kind, failed + incomplete + notDone.length > 0 ? Theme.errorToastStay : Theme.toastStay);
     }
 
     visible: false

@@ -14,23 +14,8 @@ QtObject {
     property bool running: false
     property bool stopping: false
     property int done: 0
-    property int succeeded: 0
-    property int failed: 0
-    property var waiting: []  // devices whose old password was right
-    readonly property string outcome: {
-        if (running || devices.length === 0)
-            return "";
-        const parts = [];
-        if (succeeded > 0)
-            parts.push(qsTr("%n 台设备成功", "", succeeded));
-        if (waiting.length > 0)
-            parts.push(qsTr("%n 台设备等待新密码", "", waiting.length));
-        if (failed > 0)
-            parts.push(qsTr("%n 台设备失败", "", failed));
-        if (done < devices.length)
-            parts.push(qsTr("%n 台设备未执行", "", devices.length - done));
-        return title + qsTr("：") + parts.join(qsTr("，"));
-    }
+    readonly property BatchReport report: BatchReport {}
+    readonly property string outcome: running || report.summary === "" ? "" : title + qsTr("：") + report.summary
     readonly property string device: running ? devices[done] ?? "" : ""
     signal resulted(string ipport, int result)
     signal finished
@@ -41,8 +26,8 @@ QtObject {
         root.title = title;
         root.devices = devices;
         root.dataOf = dataOf;
-        done = succeeded = failed = 0;
-        waiting = [];
+        report.begin(devices);
+        done = 0;
         stopping = false;
         running = true;
         next.start();
@@ -53,12 +38,22 @@ QtObject {
         stopping = true;
     }
 
+    /// The devices that wait for the next step get none: `title` names it.
+    function giveUpWaiting(title) {
+        const given = report.giveUpWaiting();
+        if (given.length > 0)
+            root.title = title;
+        given.forEach(ipport => resulted(ipport, BatchReport.NotDone));
+    }
+
     function step() {
         if (done < devices.length && !stopping) {
             deviceFactory.systemConfig("dh", command, dataOf(), [devices[done]]);
             ++done;
             next.start();
         } else {
+            // Also a device that was asked and brought no result.
+            report.devicesWith(BatchReport.NotDone).forEach(ipport => resulted(ipport, BatchReport.NotDone));
             running = false;
             finished();
         }
@@ -70,15 +65,11 @@ QtObject {
     }
 
     readonly property Connections results: Connections {
+        enabled: root.running
         target: root.deviceFactory
 
         function onSignalRetToSystemConfig(ipport, result) {
-            if (result === 0)
-                ++root.succeeded;
-            else if (result === -1)
-                root.waiting.push(ipport);
-            else
-                ++root.failed;
+            root.report.note(ipport, result);
             root.resulted(ipport, result);
         }
     }

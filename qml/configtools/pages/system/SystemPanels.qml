@@ -11,9 +11,7 @@ Rectangle {
     required property bool held  // an action runs
     required property string timeZone
     required property var deviceFactory
-    required property bool editorEnabled
-    required property int secondsLeft
-    required property int waitingCount
+    required property SystemPasswordTime passwordTime
     property int currentPanel: 0
     signal actionRequested(string command, string title, var dataOf)
     signal rebootRequested
@@ -22,8 +20,8 @@ Rectangle {
     signal passwordChangeRequested(string password)
     signal refused(string message)
 
-    function clearNewPassword() {
-        passwordPanel.clearNewPassword();
+    function forgetNewPassword() {
+        passwordPanel.forgetNewPassword();
     }
     function clearOldPassword() {
         passwordPanel.clearOldPassword();
@@ -105,9 +103,7 @@ Rectangle {
                 width: stack.width
                 available: root.available
                 deviceFactory: root.deviceFactory
-                editorEnabled: root.editorEnabled
-                secondsLeft: root.secondsLeft
-                waitingCount: root.waitingCount
+                time: root.passwordTime
                 onChangeRequested: password => root.passwordChangeRequested(password)
                 onCheckRequested: password => root.passwordCheckRequested(password)
                 onRefused: message => root.refused(message)

@@ -6,19 +6,35 @@ Column {
     id: root
 
     required property bool available
-    required property bool editorEnabled
-    required property int secondsLeft
-    required property int waitingCount   // devices that wait for the new password
+    required property SystemPasswordTime time
     required property var deviceFactory  // grades passwords
     signal checkRequested(string password)
     signal changeRequested(string password)
     signal refused(string message)
 
+    readonly property bool editorEnabled: time.open
+    // What was typed when the editor closed: it returns when the old password is checked again.
+    property string keptPassword
+    property string keptConfirmation
+    property bool restored: false
+
     readonly property int fault: SystemTools.newPasswordFault(newField.text, confirmField.text)
 
-    function clearNewPassword() {
-        newField.text = "";
-        confirmField.text = "";
+    function forgetNewPassword() {
+        newField.text = confirmField.text = keptPassword = keptConfirmation = "";
+    }
+    function setAside() {
+        keptPassword = newField.text;
+        keptConfirmation = confirmField.text;
+        newField.text = confirmField.text = "";
+        restored = false;
+    }
+    function restore() {
+        newField.text = keptPassword;
+        confirmField.text = keptConfirmation;
+        restored = keptPassword + keptConfirmation !== "";
+        keptPassword = keptConfirmation = "";
+        newField.forceActiveFocus();
     }
     function clearOldPassword() {
         oldField.text = "";
@@ -56,7 +72,7 @@ Column {
 
     spacing: Theme.pageMargin * 1.5
 
-    onEditorEnabledChanged: if (editorEnabled) newField.forceActiveFocus()
+    onEditorEnabledChanged: editorEnabled ? restore() : setAside()
 
     OVSection {
         width: parent.width
@@ -150,6 +166,7 @@ Column {
         }
         Row {
             x: Theme.panelLabelWidth + Theme.unit
+            width: parent.width - x
             spacing: Theme.controlGap
 
             OVButton {
@@ -159,13 +176,12 @@ Column {
                 text: qsTr("修改密码")
                 onClicked: root.change()
             }
-            OVLabel {
-                height: Theme.controlHeight
-                color: root.secondsLeft <= 10 ? Theme.colours.bad : Theme.colours.sub
-                objectName: "countdownText"
-                text: qsTr("%1 秒后失效").arg(root.secondsLeft) + " · "
-                    + qsTr("%n 台设备等待新密码", "", root.waitingCount)
-                visible: root.editorEnabled
+            SystemPasswordNotice {
+                width: parent.width - x
+                anchors.verticalCenter: parent.verticalCenter
+                keeps: root.keptPassword + root.keptConfirmation !== ""
+                restored: root.restored
+                time: root.time
             }
         }
     }

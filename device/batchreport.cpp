@@ -1,0 +1,82 @@
+#include "device/batchreport.h"
+
+#include <algorithm>
+#include <utility>
+
+BatchReport::BatchReport(QObject *parent) : QObject(parent) {}
+
+void BatchReport::begin(const QStringList &devices)
+{
+    m_entries.clear();
+    m_places.clear();
+    for (const QString &device : devices) {
+        m_places[device].append(m_entries.size());
+        m_entries.append({.device = device});
+    }
+    m_counts = {{NotDone, total()}};
+    Q_EMIT changed();
+}
+
+void BatchReport::note(const QString &device, int result)
+{
+    const QList<qsizetype> places = m_places.value(device);
+    const auto place = std::find_if(places.cbegin(), places.cend(), [this](qsizetype other) {
+        return m_entries.at(other).result == NotDone || m_entries.at(other).result == Waiting;
+    });
+    if (place == places.cend())
+        return;
+    setResult(*place, result);
+    Q_EMIT changed();
+}
+
+void BatchReport::setResult(qsizetype place, int result)
+{
+    --m_counts[std::exchange(m_entries[place].result, result)];
+    ++m_counts[result];
+}
+
+QStringList BatchReport::devicesWith(int result) const
+{
+    QStringList devices;
+    for (const Entry &entry : m_entries) {
+        if (entry.result == result)
+            devices.append(entry.device);
+    }
+    return devices;
+}
+
+QStringList BatchReport::devicesNotSucceeded() const
+{
+    QStringList devices;
+    for (const Entry &entry : m_entries) {
+        if (entry.result != Succeeded)
+            devices.append(entry.device);
+    }
+    return devices;
+}
+
+QStringList BatchReport::giveUpWaiting()
+{
+    const QStringList devices = devicesWith(Waiting);
+    for (qsizetype place = 0; place < m_entries.size(); ++place) {
+        if (m_entries.at(place).result == Waiting)
+            setResult(place, NotDone);
+    }
+    if (!devices.isEmpty())
+        Q_EMIT changed();
+    return devices;
+}
+
+QString BatchReport::summary() const
+{
+    QStringList parts;
+    if (succeeded() > 0)
+        parts.append(tr("%n 台设备成功", "", succeeded()));
+    if (waiting() > 0)
+        parts.append(tr("%n 台设备等待新密码", "", waiting()));
+    if (failed() > 0)
+        parts.append(tr("%n 台设备失败", "", failed()));
+    if (notDone() > 0)
+        parts.append(tr("%n 台设备未执行", "", notDone()));
+    return parts.join(tr("，"));
+}

@@ -1,0 +1,194 @@
+#include "device/treemodel.h"
+#include "sdk/demo/demosite.h"
+#include "tests/device/dh/configsite.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const char *const scene = "import QtQuick\n"
+                          "import QtQuick.Templates as T\n"
+                          "import configtools\n"
+                          "T.ApplicationWindow {\n"
+                          "    width: 1280; height: 720; visible: true\n"
+                          "    PageSystemConfig {\n"
+                          "        objectName: 'page'; anchors.fill: parent\n"
+                          "        busyState: busy; libraryInstalled: true; searching: false\n"
+                          "    }\n"
+                          "}\n";
+
+constexpr int notDone = 15;
+
+using Results = QList<int>;
+
+} // namespace
+
+/// The new password of many devices: what becomes of each, and of the time that there is for it.
+class TestSystemPassword : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QQuickItem *m_page = nullptr;
+    OVTreeModel *m_tree = nullptr;
+    QObject *m_time = nullptr;
+
+    [[nodiscard]] QQuickItem *item(const char *name) const
+    {
+        return findBelow(m_window->contentItem(), QString::fromLatin1(name), Sight::Any);
+    }
+    [[nodiscard]] QString text(const char *name) const { return item(name)->property("text").toString(); }
+    void type(const char *field, const char *text) const { item(field)->setProperty("text", text); }
+    void press(const char *button) const
+    {
+        QVERIFY(item(button)->isEnabled());
+        QVERIFY(QMetaObject::invokeMethod(item(button), "clicked"));
+    }
+    [[nodiscard]] Results results() const
+    {
+        Results results;
+        const QModelIndex group = m_tree->index(0, 0);
+        for (int row = 0; row < m_tree->rowCount(group); ++row)
+            results.append(m_tree->index(row, 0, group).data(OVTreeModel::CopyRetRole).toInt());
+        return results;
+    }
+    [[nodiscard]] bool isRunning() const { return m_site->factory->busyState()->areRowsHeld(); }
+
+    void checkOldPassword() const
+    {
+        type("oldPasswordField", "secret1");
+        press("loginCheckButton");
+        QTRY_VERIFY(item("newPasswordField")->isEnabled() && !isRunning());
+        QCOMPARE(results(), Results(4, OVTreeModel::WaitsForPassword));
+        m_site->site->requests().clear();
+    }
+    void sendNewPassword() const
+    {
+        type("newPasswordField", "Better-2025");
+        type("confirmPasswordField", "Better-2025");
+        press("modifyPasswordButton");
+        QVERIFY(isRunning());
+    }
+    void leave() const
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_page, "disablePasswordEditor"));
+        m_page->setVisible(false);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QList<sdk::demo::SceneDevice> devices;
+        for (int number = 1; number <= 4; ++number)
+            devices.append(configDevice(number, "IPC", 1));
+        m_site = std::make_unique<ConfigSite>(devices);
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY(!found.isEmpty());
+        m_engine = std::make_unique<QQmlEngine>();
+        m_engine->rootContext()->setContextProperty("systemTimeZone", QStringLiteral("UTC+08:00"));
+        m_window =
+            openScene(*m_engine, scene,
+                      {{"CDeviceFactoryApi", m_site->factory.get()}, {"busy", m_site->factory->busyState()}});
+        QVERIFY(m_window);
+        m_page = item("page");
+        m_tree = m_page->findChild<OVTreeModel *>();
+        m_time = m_page->findChild<QObject *>("passwordTime");
+        m_tree->setAllChecked(true);
+        QCOMPARE(results(), Results(4, OVTreeModel::NoResult));
+        checkOldPassword();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_engine.reset();
+        m_site.reset();
+    }
+
+    void everyDeviceIsAccountedFor_data()
+    {
+        QTest::addColumn<QString>("event"); // after the first device
+        QTest::addColumn<Results>("expected");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("nothing") << "" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
+        QTest::newRow("another tab") << "leave" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
+        QTest::newRow("time over") << "time" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
+        QTest::newRow("stopped") << "stop" << Results{0, notDone, notDone, notDone}
+                                 << "修改密码：1 台设备成功，3 台设备未执行";
+        QTest::newRow("without logins")
+            << "cancel" << Results{0, notDone, notDone, notDone} << "修改密码：1 台设备成功，3 台设备未执行";
+        QTest::newRow("refused, on another tab")
+            << "refuse" << Results{0, 0, 999, 0} << "修改密码：3 台设备成功，1 台设备失败";
+    }
+
+    void everyDeviceIsAccountedFor()
+    {
+        QFETCH(QString, event);
+        QFETCH(Results, expected);
+        QFETCH(QString, said);
+        const BusyState &busy = *m_site->factory->busyState();
+        const auto afterFirst =
+            QObject::connect(m_site->factory.get(), &CDeviceFactory::signalRetToSystemConfig, m_page, [&] {
+                if (m_site->asked("NetModifyPassword").size() > 1)
+                    return;
+                QVERIFY(busy.refusal(BusyState::Search).contains(QStringLiteral("修改密码")));
+                if (event == "refuse")
+                    m_site->site->setFault("02:1a:c5:00:00:03",
+                                           {.fault = sdk::demo::Fault::RefusesPasswordChange});
+                if (event == "leave" || event == "refuse")
+                    leave();
+                else if (event == "stop")
+                    QTest::keyClick(m_window.get(), Qt::Key_Escape);
+                else if (event == "cancel")
+                    m_site->factory->systemConfig("dh", "cancelLogin", {}, {});
+                else if (event == "time")
+                    m_time->setProperty("second", 1);
+            });
+        sendNewPassword();
+        QTRY_VERIFY(!isRunning());
+        QObject::disconnect(afterFirst);
+        QCOMPARE(results(), expected);
+        QVERIFY(QString(text("selectedCount") + text("footWarning")).endsWith(said));
+        const bool isComplete = !expected.contains(notDone) && !expected.contains(999);
+        QCOMPARE(text("oldPasswordField").isEmpty(), isComplete);
+        const bool keepsLogins = !isComplete && event != "refuse";
+        QCOMPARE(item("newPasswordField")->isEnabled(), keepsLogins);
+        if (event != "cancel")
+            QCOMPARE(m_site->asked("NetLogout").size(), keepsLogins ? 0 : 4);
+    }
+
+    void aPasswordThatIsHalfTypedOutlivesItsTime()
+    {
+        type("newPasswordField", "Bett");
+        m_time->setProperty("secondsLeft", 15);
+        QVERIFY(text("countdownText").startsWith(QStringLiteral("只剩 15 秒")));
+        const QSignalSpy said(m_page, SIGNAL(said(QString, int)));
+        m_time->setProperty("second", 1);
+        QTRY_VERIFY(!item("newPasswordField")->isEnabled());
+        QCOMPARE(m_site->asked("NetLogout").size(), 4);
+        QCOMPARE(results(), Results(4, notDone));
+        QVERIFY(text("footWarning").endsWith(QStringLiteral("修改密码：4 台设备未执行")));
+        QCOMPARE(said.count(), 1);
+        QCOMPARE(said.first().first().toString(), QStringLiteral("时间已到，4 台设备的密码没有修改"));
+        QVERIFY(text("countdownText").startsWith(QStringLiteral("时间已到，4 台设备的密码没有修改。")));
+        QCOMPARE(text("newPasswordField"), QString());
+
+        m_time->setProperty("second", 1000);
+        checkOldPassword();
+        QCOMPARE(text("newPasswordField"), QStringLiteral("Bett"));
+        leave();
+        QCOMPARE(m_site->asked("NetLogout").size(), 4);
+        QCOMPARE(results(), Results(4, notDone));
+        m_page->setVisible(true);
+        checkOldPassword();
+        QCOMPARE(text("newPasswordField"), QString());
+    }
+};
+
+QTEST_MAIN(TestSystemPassword)
+#include "tst_systempassword.moc"
