@@ -25,6 +25,7 @@
 namespace {
 
 const char *const stageVariable = "CONFIGTOOLS_TOUR_STAGE";
+constexpr int minutes = 60000;
 
 QtMessageHandler previousHandler = nullptr;
 int warnings = 0;
@@ -72,27 +73,35 @@ QByteArray readFile(const QString &path)
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Starts the program and waits for it and for the one that follows it.
-int watch(const QString &language, const QString &folder)
+/// Starts the program as if for the first time and waits for its end.
+bool runStage(const QString &stage, const QString &language, const QString &folder)
 {
-    QDir(folder).removeRecursively();
-    QDir().mkpath(folder);
     QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/LocalConfig.ini"));
     QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/fav")).removeRecursively();
     QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/snap")).removeRecursively();
     QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/cgicommands.json"));
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
+    if (stage == QLatin1String("fleet"))
+        localConfig.setSearchConfigPass(QStringLiteral("Installer-2024"));
 
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QString::fromLatin1(stageVariable), QStringLiteral("program"));
+    environment.insert(QString::fromLatin1(stageVariable), stage);
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::ForwardedChannels);
     program.start(QCoreApplication::applicationFilePath(), {language, folder});
-    constexpr int minutes = 60000;
-    if (!program.waitForFinished(22 * minutes) || program.exitStatus() != QProcess::NormalExit ||
-        program.exitCode() != EXIT_SUCCESS) {
+    return program.waitForFinished(22 * minutes) && program.exitStatus() == QProcess::NormalExit &&
+           program.exitCode() == EXIT_SUCCESS;
+}
+
+/// Starts the program with a large site, then with the usual one, and waits for the one that follows that.
+int watch(const QString &language, const QString &folder)
+{
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    if (!runStage(QStringLiteral("fleet"), language, folder + QStringLiteral("/fleet")) ||
+        !runStage(QStringLiteral("program"), language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
     }
@@ -142,6 +151,13 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkLanguageChange(driver, otherLanguage(language));
 }
 
+void driveFleet(Driver &driver, sdk::demo::DemoSite &site)
+{
+    walkFleet(driver, site);
+    driver.check(warnings == 0, QStringLiteral("no warning was given"));
+    driver.click(QStringLiteral("closeButton"));
+}
+
 /// The program after its restart: it has another language, and closes as any program does. Returns what it
 /// saw.
 QByteArray driveRestarted(Driver &driver, const QString &language, const QString &folder)
@@ -163,7 +179,10 @@ QByteArray driveRestarted(Driver &driver, const QString &language, const QString
 /// `result`.
 int runProgram(const QString &language, const QString &folder, QByteArray &result)
 {
-    Shell shell(CommandLine::parse({QStringLiteral("ConfigTools"), QStringLiteral("--demo")}));
+    const bool isFleet = qgetenv(stageVariable) == "fleet";
+    Shell shell(
+        CommandLine::parse({QStringLiteral("ConfigTools"),
+                            isFleet ? QStringLiteral("--demo=fleet:200") : QStringLiteral("--demo")}));
     if (const std::optional<int> exitCode = shell.begin())
         return *exitCode;
     auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
@@ -173,11 +192,13 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
     }
     Driver driver(window, folder);
     QTimer::singleShot(0, window, [&] {
-        if (QFile::exists(restartFile(folder)))
+        auto &site = dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site();
+        if (isFleet)
+            driveFleet(driver, site);
+        else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else
-            drive(driver, dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site(), language,
-                  folder);
+            drive(driver, site, language, folder);
     });
     return QApplication::exec();
 }

@@ -36,6 +36,8 @@ void walkCommands(Driver &driver, const QString &folder);
 /// Upgrades of six devices, of which one fails, one stands still and one is stopped, and upgrades by
 /// document; the firmware and the document are written into `folder`.
 void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+/// Batches over the devices of a fleet, which are left alone, searched for and closed meanwhile.
+void walkFleet(Driver &driver, sdk::demo::DemoSite &site);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

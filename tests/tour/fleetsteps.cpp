@@ -1,0 +1,97 @@
+#include "sdk/demo/demosite.h"
+#include "tests/tour/driver.h"
+#include "tests/tour/steps.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString newPassword = u"Fleet-2025"_s;
+
+bool isRunning(const Driver &driver)
+{
+    return driver.find(u"runningText"_s) != nullptr;
+}
+
+/// Waits until a batch has asked `count` devices by `operation`.
+void awaitRequests(const Driver &driver, sdk::demo::DemoSite &site, const QString &operation, int count)
+{
+    driver.await(
+        u"%1 devices are asked"_s.arg(count), [&] { return site.requests().of(operation).size() >= count; },
+        60);
+}
+
+/// What would take the devices or the program away from a running batch is refused, and the batch is named.
+void expectBatchUndisturbed(Driver &driver, const QString &name)
+{
+    driver.key(Qt::Key_F5);
+    driver.await(u"the search is refused"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
+    driver.check(driver.text(u"messageText"_s).contains(name) &&
+                     !driver.window()->property("searching").toBool(),
+                 u"the message names the batch: %1"_s.arg(driver.text(u"messageText"_s)));
+    driver.key(Qt::Key_Return);
+    driver.await(u"the message is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.check(!driver.window()->close() && driver.window()->isVisible(),
+                 u"the window does not close during a batch"_s);
+    driver.await(u"the refusal names the batch"_s,
+                 [&] { return driver.texts(u"toastText"_s).join(u'\n').contains(name); });
+    driver.check(isRunning(driver), u"the batch still runs"_s);
+}
+
+/// Every device has its result at the end, and none was tried with another password than its own.
+void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &step, int devices)
+{
+    driver.await(
+        u"the batch ends"_s, [&] { return !isRunning(driver); }, 120);
+    const QString outcome = QCoreApplication::translate("BatchReport", "%n 台设备成功", "", devices);
+    driver.check(driver.text(u"selectedCount"_s).endsWith(outcome) && !driver.find(u"footWarning"_s),
+                 u"every device is reported: %1"_s.arg(driver.text(u"selectedCount"_s)));
+    for (const sdk::demo::RecordedRequest &login : site.requests().of(u"NetLoginSecure"_s))
+        driver.check(login.request.value("passwordMatches"_L1).toBool(),
+                     u"%1 gets its own password"_s.arg(login.mac));
+    driver.report(step, driver.text(u"selectedCount"_s));
+}
+
+} // namespace
+
+void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
+{
+    for (const sdk::demo::SceneDevice &device : site.devices())
+        site.changeDevice(device.mac, [](sdk::demo::SceneDevice &changed, const auto &) {
+            changed.latency = std::chrono::milliseconds(40); // a batch takes seconds, not minutes
+        });
+    driver.activate();
+    driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
+    driver.click(u"tab3"_s);
+    driver.click(u"allDevicesBox"_s);
+    const int devices = driver.text(u"selectedCount"_s).section(u' ', 0, 0).toInt();
+    driver.check(devices > 150, u"the devices of the fleet are ticked: %1"_s.arg(devices));
+
+    driver.click(u"systemTab4"_s);
+    driver.fill(u"oldPasswordField"_s, u"Installer-2024"_s);
+    driver.click(u"loginCheckButton"_s);
+    driver.await(
+        u"the old passwords are checked"_s,
+        [&] { return !isRunning(driver) && driver.require(u"newPasswordField"_s)->isEnabled(); }, 120);
+    driver.fill(u"newPasswordField"_s, newPassword);
+    driver.fill(u"confirmPasswordField"_s, newPassword);
+    site.requests().clear();
+    driver.click(u"modifyPasswordButton"_s);
+    awaitRequests(driver, site, u"NetModifyPassword"_s, 3);
+    driver.key(Qt::Key_2, Qt::ControlModifier); // the page is left
+    driver.key(Qt::Key_4, Qt::ControlModifier);
+    expectBatchUndisturbed(driver, QCoreApplication::translate("PageSystemConfig", "修改密码"));
+    expectSuccess(driver, site, u"fleet-password"_s, devices);
+    driver.check(site.requests().of(u"NetModifyPassword"_s).size() == devices &&
+                     driver.text(u"oldPasswordField"_s).isEmpty(),
+                 u"every password is changed"_s);
+
+    site.requests().clear();
+    driver.click(u"systemTab0"_s);
+    driver.click(u"setTimeByPCButton"_s);
+    awaitRequests(driver, site, u"NetSetDeviceSetting"_s, 18);
+    expectBatchUndisturbed(driver, QCoreApplication::translate("SystemTimePanel", "同步电脑时间"));
+    expectSuccess(driver, site, u"fleet-time"_s, devices);
+}
