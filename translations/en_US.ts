@@ -157,6 +157,10 @@
         <source>请确认是否要从收藏夹中删除 %1</source>
         <translation>Delete %1 from the favourites?</translation>
     </message>
+    <message>
+        <source>未执行</source>
+        <translation>Not done</translation>
+    </message>
 </context>
 <context>
     <name>AddressPlanTable</name>
@@ -216,6 +220,41 @@
     </message>
 </context>
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n 台设备成功</source>
+        <translation>
+            <numerusform>%n device succeeded</numerusform>
+            <numerusform>%n devices succeeded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n device waits for the new password</numerusform>
+            <numerusform>%n devices wait for the new password</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备失败</source>
+        <translation>
+            <numerusform>%n device failed</numerusform>
+            <numerusform>%n devices failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n device not done</numerusform>
+            <numerusform>%n devices not done</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
@@ -236,6 +275,42 @@
     <message>
         <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
         <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as: %1</translation>
+    </message>
+</context>
+<context>
+    <name>BusyState</name>
+    <message>
+        <source>当前有设备正在升级中，请勿刷新设备！</source>
+        <translation>A device is being upgraded. Wait until it has finished, then search again.</translation>
+    </message>
+    <message>
+        <source>当前有设备正在升级中，请稍候再关闭</source>
+        <translation>Devices are being upgraded. Please wait before you close the program.</translation>
+    </message>
+    <message>
+        <source>”、“</source>
+        <translation>”, “</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再搜索设备</source>
+        <extracomment>Each %1 is the name of a running work, as on the button that begins it.</extracomment>
+        <translation>“%1” is in progress. Search again when it has ended.</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再删除设备</source>
+        <translation>“%1” is in progress. Delete devices when it has ended.</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再修改设备</source>
+        <translation>“%1” is in progress. Change devices when it has ended.</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再关闭</source>
+        <translation>“%1” is in progress. Close the program when it has ended.</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再重启程序</source>
+        <translation>“%1” is in progress. Restart the program when it has ended.</translation>
     </message>
 </context>
 <context>
@@ -757,6 +832,13 @@ A right click copies the result</translation>
     <message>
         <source>，</source>
         <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n device not done</numerusform>
+            <numerusform>%n devices not done</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2110,6 +2192,10 @@ A right click copies the result</translation>
             <numerusform>%1. Next try in %n seconds</numerusform>
         </translation>
     </message>
+    <message>
+        <source>抓图</source>
+        <translation>Snapshots</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2132,10 +2218,6 @@ A right click copies the result</translation>
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>当前有设备正在升级中，请勿刷新设备！</source>
-        <translation>A device is being upgraded. Wait until it has finished, then search again.</translation>
-    </message>
     <message>
         <source>正在搜索，请稍候再关闭</source>
         <translation>A search is running. Close the window once it has ended.</translation>
@@ -2167,14 +2249,6 @@ A right click copies the result</translation>
     <message>
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>The settings could not be saved. Check that the program&apos;s folder can be written</translation>
-    </message>
-    <message>
-        <source>正在处理设备，请稍候再关闭</source>
-        <translation>Devices are being worked on: please wait before closing</translation>
-    </message>
-    <message>
-        <source>当前有设备正在升级中，请稍候再关闭</source>
-        <translation>Devices are being upgraded. Please wait before you close the program.</translation>
     </message>
     <message>
         <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
@@ -2230,6 +2304,10 @@ A right click copies the result</translation>
         <source>设备已添加</source>
         <translation>The device was added</translation>
     </message>
+    <message>
+        <source>手动添加</source>
+        <translation>Add device</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPBatches</name>
@@ -2275,6 +2353,14 @@ A right click copies the result</translation>
     <message>
         <source>设备正在升级，不能修改IP地址</source>
         <translation>The device is being upgraded; its address cannot be changed</translation>
+    </message>
+    <message>
+        <source>初始化</source>
+        <translation>Initialise</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Change IP addresses</translation>
     </message>
 </context>
 <context>
@@ -2495,6 +2581,14 @@ File path: </translation>
     <message>
         <source>（按Esc停止）</source>
         <translation> (Esc stops)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
     </message>
 </context>
 <context>
@@ -2908,6 +3002,14 @@ File path: </translation>
         <source>（按Esc停止）</source>
         <translation> (Esc stops)</translation>
     </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>Copy encode settings</translation>
+    </message>
+    <message>
+        <source>设备配置</source>
+        <translation>Device configuration</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -3005,6 +3107,13 @@ File path: </translation>
         <translation>
             <numerusform>device selected</numerusform>
             <numerusform>devices selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>时间已到，%n 台设备的密码没有修改</source>
+        <translation>
+            <numerusform>Time is up: the password of %n device is unchanged</numerusform>
+            <numerusform>Time is up: the passwords of %n devices are unchanged</numerusform>
         </translation>
     </message>
 </context>
@@ -3122,6 +3231,10 @@ File path: </translation>
     <message>
         <source>设备正在升级</source>
         <translation>The device is being upgraded</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>Not done</translation>
     </message>
 </context>
 <context>
@@ -3241,41 +3354,9 @@ File path: </translation>
 </context>
 <context>
     <name>SystemBatch</name>
-    <message numerus="yes">
-        <source>%n 台设备成功</source>
-        <translation>
-            <numerusform>%n device succeeded</numerusform>
-            <numerusform>%n devices succeeded</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备等待新密码</source>
-        <translation>
-            <numerusform>%n device waits for the new password</numerusform>
-            <numerusform>%n devices wait for the new password</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备失败</source>
-        <translation>
-            <numerusform>%n device failed</numerusform>
-            <numerusform>%n devices failed</numerusform>
-        </translation>
-    </message>
     <message>
         <source>：</source>
         <translation>: </translation>
-    </message>
-    <message>
-        <source>，</source>
-        <translation>, </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备未执行</source>
-        <translation>
-            <numerusform>%n device left out</numerusform>
-            <numerusform>%n devices left out</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3554,6 +3635,47 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>SystemPasswordNotice</name>
+    <message>
+        <source>只剩 %1 秒，之后需要重新验证旧密码</source>
+        <translation>Only %1 s left, then the old password has to be checked again</translation>
+    </message>
+    <message>
+        <source>%1 秒后失效</source>
+        <translation>Closes in %1 s</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n device waits for the new password</numerusform>
+            <numerusform>%n devices wait for the new password</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>已恢复之前输入的新密码</source>
+        <translation>the new password typed before is back</translation>
+    </message>
+    <message>
+        <source>请重新验证旧密码。</source>
+        <translation>Check the old password again. </translation>
+    </message>
+    <message>
+        <source>已输入的新密码届时会恢复。</source>
+        <translation>What was typed of the new one then returns.</translation>
+    </message>
+    <message numerus="yes">
+        <source>时间已到，%n 台设备的密码没有修改。</source>
+        <translation>
+            <numerusform>Time is up: the password of %n device is unchanged. </numerusform>
+            <numerusform>Time is up: the passwords of %n devices are unchanged. </numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>勾选的设备已改变。</source>
+        <translation>Other devices are ticked. </translation>
+    </message>
+</context>
+<context>
     <name>SystemPasswordPanel</name>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
@@ -3614,17 +3736,6 @@ File path: </translation>
     <message>
         <source>修改密码</source>
         <translation>Change password</translation>
-    </message>
-    <message>
-        <source>%1 秒后失效</source>
-        <translation>Closes in %1 s</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备等待新密码</source>
-        <translation>
-            <numerusform>%n device waits for the new password</numerusform>
-            <numerusform>%n devices wait for the new password</numerusform>
-        </translation>
     </message>
 </context>
 <context>

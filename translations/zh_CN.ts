@@ -156,6 +156,10 @@
         <source>请确认是否要从收藏夹中删除 %1</source>
         <translation>请确认是否要从收藏夹中删除 %1</translation>
     </message>
+    <message>
+        <source>未执行</source>
+        <translation>未执行</translation>
+    </message>
 </context>
 <context>
     <name>AddressPlanTable</name>
@@ -214,6 +218,37 @@
     </message>
 </context>
 <context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n 台设备成功</source>
+        <translation>
+            <numerusform>%n 台设备成功</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n 台设备等待新密码</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备失败</source>
+        <translation>
+            <numerusform>%n 台设备失败</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n 台设备未执行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
@@ -234,6 +269,42 @@
     <message>
         <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
         <translation>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</translation>
+    </message>
+</context>
+<context>
+    <name>BusyState</name>
+    <message>
+        <source>当前有设备正在升级中，请勿刷新设备！</source>
+        <translation>当前有设备正在升级中，请勿刷新设备！</translation>
+    </message>
+    <message>
+        <source>当前有设备正在升级中，请稍候再关闭</source>
+        <translation>当前有设备正在升级中，请稍候再关闭</translation>
+    </message>
+    <message>
+        <source>”、“</source>
+        <translation>”、“</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再搜索设备</source>
+        <extracomment>Each %1 is the name of a running work, as on the button that begins it.</extracomment>
+        <translation>“%1”正在进行，请在结束后再搜索设备</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再删除设备</source>
+        <translation>“%1”正在进行，请在结束后再删除设备</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再修改设备</source>
+        <translation>“%1”正在进行，请在结束后再修改设备</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再关闭</source>
+        <translation>“%1”正在进行，请在结束后再关闭</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再重启程序</source>
+        <translation>“%1”正在进行，请在结束后再重启程序</translation>
     </message>
 </context>
 <context>
@@ -746,6 +817,12 @@
     <message>
         <source>，</source>
         <translation>，</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n 台设备未执行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2095,6 +2172,10 @@
             <numerusform>%1，%n 秒后重试</numerusform>
         </translation>
     </message>
+    <message>
+        <source>抓图</source>
+        <translation>抓图</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2117,10 +2198,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>当前有设备正在升级中，请勿刷新设备！</source>
-        <translation>当前有设备正在升级中，请勿刷新设备！</translation>
-    </message>
     <message>
         <source>正在搜索，请稍候再关闭</source>
         <translation>正在搜索，请稍候再关闭</translation>
@@ -2152,14 +2229,6 @@
     <message>
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
-    </message>
-    <message>
-        <source>正在处理设备，请稍候再关闭</source>
-        <translation>正在处理设备，请稍候再关闭</translation>
-    </message>
-    <message>
-        <source>当前有设备正在升级中，请稍候再关闭</source>
-        <translation>当前有设备正在升级中，请稍候再关闭</translation>
     </message>
     <message>
         <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
@@ -2215,6 +2284,10 @@
         <source>设备已添加</source>
         <translation>设备已添加</translation>
     </message>
+    <message>
+        <source>手动添加</source>
+        <translation>手动添加</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPBatches</name>
@@ -2258,6 +2331,14 @@
     <message>
         <source>设备正在升级，不能修改IP地址</source>
         <translation>设备正在升级，不能修改IP地址</translation>
+    </message>
+    <message>
+        <source>初始化</source>
+        <translation>初始化</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>修改IP地址</translation>
     </message>
 </context>
 <context>
@@ -2475,6 +2556,14 @@
     <message>
         <source>（按Esc停止）</source>
         <translation>（按Esc停止）</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>导出</translation>
     </message>
 </context>
 <context>
@@ -2880,6 +2969,14 @@
         <source>（按Esc停止）</source>
         <translation>（按Esc停止）</translation>
     </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>复制编码配置</translation>
+    </message>
+    <message>
+        <source>设备配置</source>
+        <translation>设备配置</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -2971,6 +3068,12 @@
         <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
         <translation>
             <numerusform>台设备已选中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>时间已到，%n 台设备的密码没有修改</source>
+        <translation>
+            <numerusform>时间已到，%n 台设备的密码没有修改</numerusform>
         </translation>
     </message>
 </context>
@@ -3088,6 +3191,10 @@
     <message>
         <source>设备正在升级</source>
         <translation>设备正在升级</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未执行</translation>
     </message>
 </context>
 <context>
@@ -3207,37 +3314,9 @@
 </context>
 <context>
     <name>SystemBatch</name>
-    <message numerus="yes">
-        <source>%n 台设备成功</source>
-        <translation>
-            <numerusform>%n 台设备成功</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备等待新密码</source>
-        <translation>
-            <numerusform>%n 台设备等待新密码</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备失败</source>
-        <translation>
-            <numerusform>%n 台设备失败</numerusform>
-        </translation>
-    </message>
     <message>
         <source>：</source>
         <translation>：</translation>
-    </message>
-    <message>
-        <source>，</source>
-        <translation>，</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备未执行</source>
-        <translation>
-            <numerusform>%n 台设备未执行</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -3516,6 +3595,45 @@
     </message>
 </context>
 <context>
+    <name>SystemPasswordNotice</name>
+    <message>
+        <source>只剩 %1 秒，之后需要重新验证旧密码</source>
+        <translation>只剩 %1 秒，之后需要重新验证旧密码</translation>
+    </message>
+    <message>
+        <source>%1 秒后失效</source>
+        <translation>%1 秒后失效</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n 台设备等待新密码</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>已恢复之前输入的新密码</source>
+        <translation>已恢复之前输入的新密码</translation>
+    </message>
+    <message>
+        <source>请重新验证旧密码。</source>
+        <translation>请重新验证旧密码。</translation>
+    </message>
+    <message>
+        <source>已输入的新密码届时会恢复。</source>
+        <translation>已输入的新密码届时会恢复。</translation>
+    </message>
+    <message numerus="yes">
+        <source>时间已到，%n 台设备的密码没有修改。</source>
+        <translation>
+            <numerusform>时间已到，%n 台设备的密码没有修改。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>勾选的设备已改变。</source>
+        <translation>勾选的设备已改变。</translation>
+    </message>
+</context>
+<context>
     <name>SystemPasswordPanel</name>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
@@ -3576,16 +3694,6 @@
     <message>
         <source>修改密码</source>
         <translation>修改密码</translation>
-    </message>
-    <message>
-        <source>%1 秒后失效</source>
-        <translation>%1 秒后失效</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备等待新密码</source>
-        <translation>
-            <numerusform>%n 台设备等待新密码</numerusform>
-        </translation>
     </message>
 </context>
 <context>
