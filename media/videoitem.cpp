@@ -229,16 +229,19 @@ bool VideoItem::savePicture(const QString &path, int quality)
     std::vector<std::uint8_t> bytes;
     std::int32_t width = 0;
     std::int32_t height = 0;
+    sdk::PictureColour colour = {};
     m_picture.lookAt([&](const DecodedPicture &picture) {
         if (!picture.isWhole())
             return;
         bytes.assign(picture.data, picture.data + picture.size);
         width = picture.width;
         height = picture.height;
+        colour = picture.colour;
     });
-    return m_libraries.decoder && m_libraries.decoder->DecoderSaveFrame(
-                                      bytes.empty() ? nullptr : bytes.data(), width, height,
-                                      sdk::SavedPictureType::Jpeg, quality, path.toLocal8Bit().constData());
+    return m_libraries.decoder &&
+           m_libraries.decoder->DecoderSaveFrame(bytes.empty() ? nullptr : bytes.data(), width, height,
+                                                 sdk::SavedPictureType::Jpeg, quality,
+                                                 path.toLocal8Bit().constData(), colour);
 }
 
 void VideoItem::tellPictureSize()

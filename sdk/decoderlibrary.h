@@ -107,12 +107,13 @@ public:
     /// What the port does; may be asked at any time between DecoderAllocPort and DecoderFreePort.
     virtual bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) = 0;
 
-    /// Writes a picture (its bytes as DecodedFrameType::Picture, its colour the usual one of its height) to
-    /// the file of that name in the local 8-bit encoding, replacing it. `quality` is 1 to 100. Returns false
-    /// for a null picture, a size below 1 or a quality out of its range, and when the file cannot be written:
-    /// then what it held is still there.
+    /// Writes a picture (its bytes as DecodedFrameType::Picture) to the file of that name in the local 8-bit
+    /// encoding, replacing it. `quality` is 1 to 100. `colour` is what the handler was given with the
+    /// picture. Returns false for a null picture, a size below 1 or a quality out of its range, and when the
+    /// file cannot be written: then what it held is still there.
     virtual bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
-                                  SavedPictureType type, std::int32_t quality, const char *fileName) = 0;
+                                  SavedPictureType type, std::int32_t quality, const char *fileName,
+                                  PictureColour colour) = 0;
 };
 
 } // namespace sdk

@@ -106,14 +106,14 @@ bool FfmpegDecoderLibrary::DecoderGetStatus(std::int32_t port, DecoderStatus &st
 
 bool FfmpegDecoderLibrary::DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width,
                                             std::int32_t height, SavedPictureType type, std::int32_t quality,
-                                            const char *fileName)
+                                            const char *fileName, PictureColour colour)
 {
     constexpr std::int32_t bestQuality = 100;
     if (!picture || !isUsableSize(width, height) || type != SavedPictureType::Jpeg || quality < 1 ||
         quality > bestQuality || !fileName) {
         return false;
     }
-    return savePicture(picture, width, height, quality, QFile::decodeName(fileName));
+    return savePicture(picture, width, height, colour, quality, QFile::decodeName(fileName));
 }
 
 std::shared_ptr<DecoderPort> FfmpegDecoderLibrary::portOf(std::int32_t number) const

@@ -42,7 +42,8 @@ public:
     bool DecoderFreePort(std::int32_t port) override;
     bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) override;
     bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
-                          SavedPictureType type, std::int32_t quality, const char *fileName) override;
+                          SavedPictureType type, std::int32_t quality, const char *fileName,
+                          PictureColour colour) override;
 
 private:
     [[nodiscard]] std::shared_ptr<DecoderPort> portOf(std::int32_t number) const;

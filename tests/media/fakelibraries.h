@@ -106,11 +106,13 @@ public:
         return true;
     }
     bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
-                          sdk::SavedPictureType type, std::int32_t quality, const char *fileName) override
+                          sdk::SavedPictureType type, std::int32_t quality, const char *fileName,
+                          sdk::PictureColour colour) override
     {
-        const QString arguments = QString("%1, %2x%3, %4, %5, %6").arg(picture ? picture[0] : -1);
+        const QString arguments = QString("%1, %2x%3, %4, %5, %6, %7").arg(picture ? picture[0] : -1);
         return m_calls.add("DecoderSaveFrame",
-                           arguments.arg(width).arg(height).arg(int(type)).arg(quality).arg(fileName)) &&
+                           arguments.arg(width).arg(height).arg(int(type)).arg(quality).arg(fileName).arg(
+                               int(colour))) &&
                picture;
     }
 

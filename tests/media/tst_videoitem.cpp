@@ -301,7 +301,7 @@ private Q_SLOTS:
             item.setChannelId(2);
             results.append(item.start() ? "started" : "failed");
             results.append(item.savePicture("x.jpg", 50) ? "saved" : "none yet");
-            deliver({6, 4, 50, 128, 128});
+            deliver({6, 4, 50, 128, 128, sdk::PictureColour::Bt709Full});
             m_fake->calls.take();
             results.append(item.savePicture("x.jpg", 50) ? "saved" : "none yet");
             results.append(m_fake->calls.take());
@@ -309,7 +309,7 @@ private Q_SLOTS:
         thread->start();
         QVERIFY(thread->wait());
         QCOMPARE(results,
-                 (QStringList{"started", "none yet", "saved", "DecoderSaveFrame(50, 6x4, 3, 50, x.jpg)"}));
+                 (QStringList{"started", "none yet", "saved", "DecoderSaveFrame(50, 6x4, 3, 50, x.jpg, 3)"}));
         QCOMPARE(m_fake->calls.take(), streamStopped + decoderStopped);
     }
 

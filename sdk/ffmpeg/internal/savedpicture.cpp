@@ -14,7 +14,7 @@ namespace sdk::ffmpeg {
 namespace {
 
 /// The picture as blue, green, red and a spare byte for each pixel; null when that cannot be made.
-AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height)
+AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height, PictureColour colour)
 {
     const AvPointer<AVFrame> source = paddedFrame(AV_PIX_FMT_YUV420P, width, height);
     AvPointer<AVFrame> rgb = paddedFrame(AV_PIX_FMT_RGB32, width, height);
@@ -24,7 +24,6 @@ AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height)
     if (!source || !rgb || !scaler)
         return nullptr;
     copyPlanes(picture, *source);
-    const PictureColour colour = usualPictureColour(height);
     const int *matrix = colourMatrix(colour);
     sws_setColorspaceDetails(scaler.get(), matrix, isFullRange(colour) ? 1 : 0, matrix, 1, 0, 1 << 16,
                              1 << 16);
@@ -35,9 +34,10 @@ AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height)
 
 } // namespace
 
-bool savePicture(const std::uint8_t *picture, int width, int height, int quality, const QString &path)
+bool savePicture(const std::uint8_t *picture, int width, int height, PictureColour colour, int quality,
+                 const QString &path)
 {
-    const AvPointer<AVFrame> rgb = toRgb(picture, width, height);
+    const AvPointer<AVFrame> rgb = toRgb(picture, width, height, colour);
     if (!rgb)
         return false;
     const QImage image(rgb->data[0], width, height, rgb->linesize[0], QImage::Format_RGB32);

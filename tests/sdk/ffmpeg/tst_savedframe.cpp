@@ -14,6 +14,8 @@
 using namespace sdk;
 using namespace sdk::ffmpeg;
 
+Q_DECLARE_METATYPE(PictureColour)
+
 namespace {
 
 /// A picture of two colours, left and right.
@@ -31,17 +33,17 @@ QByteArray twoColours(int width, int height, std::array<int, 3> left, std::array
     return bytes;
 }
 
-bool save(const QByteArray &picture, int width, int height, const QString &path, int quality = 50)
+bool save(const QByteArray &picture, int width, int height, const QString &path, int quality = 50,
+          PictureColour colour = PictureColour::Bt601Limited)
 {
     FfmpegDecoderLibrary library;
     return library.DecoderSaveFrame(reinterpret_cast<const std::uint8_t *>(picture.constData()), width,
                                     height, SavedPictureType::Jpeg, quality,
-                                    QFile::encodeName(path).constData());
+                                    QFile::encodeName(path).constData(), colour);
 }
 
-bool isNear(QRgb value, QRgb wanted)
+bool isNear(QRgb value, QRgb wanted, int tolerance = 10)
 {
-    constexpr int tolerance = 10;
     return std::abs(qRed(value) - qRed(wanted)) < tolerance &&
            std::abs(qGreen(value) - qGreen(wanted)) < tolerance &&
            std::abs(qBlue(value) - qBlue(wanted)) < tolerance;
@@ -74,30 +76,44 @@ void SavedFrameTest::showsTheColours_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
-    QTest::addColumn<bool>("isBt709");
-    QTest::newRow("small") << 64 << 36 << false;
-    QTest::newRow("odd") << 67 << 33 << false;
-    QTest::newRow("719 lines") << 100 << 719 << false;
-    QTest::newRow("720 lines") << 100 << 720 << true;
-    QTest::newRow("1080 lines") << 1920 << 1080 << true;
-    QTest::newRow("one pixel") << 1 << 1 << false;
+    QTest::addColumn<PictureColour>("colour");
+    QTest::addColumn<QList<int>>("red");   // as Y, U and V
+    QTest::addColumn<QList<int>>("greys"); // as Y: what is shown as 14, 64 and 237
+    const QList<int> limited = {28, 71, 220};
+    const QList<int> full = {14, 64, 237};
+    const QList<int> red601 = {82, 90, 240};
+    const QList<int> red709 = {63, 102, 240};
+    QTest::newRow("small") << 64 << 36 << PictureColour::Bt601Limited << red601 << limited;
+    QTest::newRow("odd") << 67 << 33 << PictureColour::Bt601Limited << red601 << limited;
+    QTest::newRow("one pixel") << 1 << 1 << PictureColour::Bt601Limited << red601 << limited;
+    QTest::newRow("small, BT.709") << 64 << 36 << PictureColour::Bt709Limited << red709 << limited;
+    QTest::newRow("1080 lines") << 1920 << 1080 << PictureColour::Bt709Limited << red709 << limited;
+    QTest::newRow("1080 lines, BT.601") << 1920 << 1080 << PictureColour::Bt601Limited << red601 << limited;
+    QTest::newRow("full") << 64 << 36 << PictureColour::Bt601Full << QList<int>{76, 85, 255} << full;
+    QTest::newRow("1080 lines, full")
+        << 1920 << 1080 << PictureColour::Bt709Full << QList<int>{54, 99, 255} << full;
 }
 
 void SavedFrameTest::showsTheColours()
 {
     QFETCH(int, width);
     QFETCH(int, height);
-    QFETCH(bool, isBt709);
-    // Red and a grey, limited range, as the two matrices have them.
-    const std::array<int, 3> red = isBt709 ? std::array{63, 102, 240} : std::array{82, 90, 240};
-    const QByteArray picture = twoColours(width, height, red, {180, 128, 128});
-    const QString path = m_folder.filePath(QStringLiteral("图 1.jpg"));
-    QVERIFY(save(picture, width, height, path));
-    const QImage image(path, "JPG");
-    QCOMPARE(image.size(), QSize(width, height));
-    QVERIFY(isNear(image.pixel(width / 4, height / 2), qRgb(254, 0, 0)));
-    if (width > 1)
-        QVERIFY(isNear(image.pixel(width - 1 - width / 4, height - 1), qRgb(191, 191, 191)));
+    QFETCH(PictureColour, colour);
+    QFETCH(QList<int>, red);
+    QFETCH(QList<int>, greys);
+    constexpr std::array shown = {14, 64, 237};
+    for (std::size_t place = 0; place < shown.size(); ++place) {
+        const int grey = greys.at(static_cast<qsizetype>(place));
+        const QByteArray picture = twoColours(width, height, {red[0], red[1], red[2]}, {grey, 128, 128});
+        const QString path = m_folder.filePath(QStringLiteral("图 1.jpg"));
+        QVERIFY(save(picture, width, height, path, 50, colour));
+        const QImage image(path, "JPG");
+        QCOMPARE(image.size(), QSize(width, height));
+        QVERIFY(isNear(image.pixel(width / 4, height / 2), qRgb(254, 0, 0)));
+        const int level = shown.at(place);
+        if (width > 1)
+            QVERIFY(isNear(image.pixel(width - 1 - width / 4, height - 1), qRgb(level, level, level), 4));
+    }
 }
 
 void SavedFrameTest::qualityCounts()
@@ -120,16 +136,18 @@ void SavedFrameTest::refusesWhatIsNoPicture()
     const QByteArray picture(200, '\0');
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(picture.constData());
     const QByteArray name = QFile::encodeName(m_folder.filePath(QStringLiteral("refused.jpg")));
-    constexpr auto jpeg = SavedPictureType::Jpeg;
-    QVERIFY(!library.DecoderSaveFrame(nullptr, 8, 8, jpeg, 50, name.constData()));
-    QVERIFY(!library.DecoderSaveFrame(bytes, 0, 8, jpeg, 50, name.constData()));
-    QVERIFY(
-        !library.DecoderSaveFrame(bytes, 8, -1, jpeg, 50, name.constData())); // as before the first picture
-    QVERIFY(!library.DecoderSaveFrame(bytes, 2000000000, 2000000000, jpeg, 50, name.constData()));
-    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, static_cast<SavedPictureType>(2), 50, name.constData()));
-    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, jpeg, 0, name.constData()));
-    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, jpeg, 101, name.constData()));
-    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, jpeg, 50, nullptr));
+    const auto isSaved = [&](const std::uint8_t *data, int width, int height, int quality = 50,
+                             SavedPictureType type = SavedPictureType::Jpeg) {
+        return library.DecoderSaveFrame(data, width, height, type, quality, name.constData(), {});
+    };
+    QVERIFY(!isSaved(nullptr, 8, 8));
+    QVERIFY(!isSaved(bytes, 0, 8));
+    QVERIFY(!isSaved(bytes, 8, -1)); // as before the first picture
+    QVERIFY(!isSaved(bytes, 2000000000, 2000000000));
+    QVERIFY(!isSaved(bytes, 8, 8, 50, static_cast<SavedPictureType>(2)));
+    QVERIFY(!isSaved(bytes, 8, 8, 0));
+    QVERIFY(!isSaved(bytes, 8, 8, 101));
+    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, SavedPictureType::Jpeg, 50, nullptr, {}));
     QVERIFY(!QFile::exists(QFile::decodeName(name)));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
     QVERIFY(!save(picture, 8, 8, m_folder.filePath(QStringLiteral("no folder/a.jpg"))));
