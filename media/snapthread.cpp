@@ -6,8 +6,42 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMutexLocker>
+#include <QSaveFile>
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
+
+namespace {
+
+/// Bytes of a large picture as a file.
+constexpr qsizetype pictureFileSize = 1024 * 1024;
+
+/// Makes the folder. Returns why that failed, or an empty text.
+QString folderProblem(const QString &folder)
+{
+    std::error_code error;
+    std::filesystem::create_directories(std::filesystem::path(folder.toStdU16String()), error);
+    return error ? QString::fromLocal8Bit(error.message()) : QString();
+}
+
+/// Why a file of so many bytes cannot be written in place of `path`, or an empty text. The decoder library
+/// says only that it failed; a picture that has not come yet and a full disk look the same. What `path` holds
+/// stays.
+QString writeProblem(const QString &path, qsizetype size)
+{
+    QSaveFile file(path);
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(QByteArray(size, '\0')) == size;
+    return isWritten ? QString() : file.errorString(); // not committed: the file is removed
+}
+
+QString notWritten(const QString &problem)
+{
+    return QCoreApplication::translate("SnapThread", "抓图失败，图片无法写入：%1").arg(problem);
+}
+
+} // namespace
 
 SnapThread::~SnapThread()
 {
@@ -61,31 +95,40 @@ SnapThread::Outcome SnapThread::takeOne(const SnapTask &task, const SnapChannel 
     if (!channel.connected)
         return {{}, QCoreApplication::translate("SnapThread", "通道未连接")};
     const QString file = QDir(folder).absoluteFilePath(QStringLiteral("%1.jpg").arg(channel.number));
-    if (QDir().mkpath(folder) && savePicture(task, channel.number, file))
-        return {QStringLiteral("file:///") + file, {}};
-    return {{}, QCoreApplication::translate("SnapThread", "抓图失败")};
+    // Without the folder no stream is opened.
+    QString problem = folderProblem(folder);
+    if (problem.isEmpty())
+        problem = writeProblem(file, 0);
+    const QString message = problem.isEmpty() ? savePicture(task, channel.number, file) : notWritten(problem);
+    return {message.isEmpty() ? QStringLiteral("file:///") + file : QString(), message};
 }
 
-bool SnapThread::savePicture(const SnapTask &task, int channel, const QString &file)
+QString SnapThread::savePicture(const SnapTask &task, int channel, const QString &file)
 {
+    const QString failed = QCoreApplication::translate("SnapThread", "抓图失败");
     VideoItem view;
     view.setChannelId(channel);
     for (int attempt = 0; attempt < maximumTries && !m_stop.stop_requested(); ++attempt) {
         if (attempt > 0)
             msleep(pauseMilliseconds);
         if (!task.isDeviceCurrent())
-            return false; // its channels are another device's
+            return failed; // its channels are another device's
         // A new login ends the stream with its session.
         if (attempt == 0 || view.loginHandle() != task.sessionHandle()) {
             // Another device may be logged in to meanwhile: its picture must not pass for this one's.
             const bool isBegun = view.start() && task.isDeviceCurrent();
             if (!isBegun && view.loginHandle() == task.sessionHandle())
-                return false;
+                return failed;
             if (!isBegun)
                 continue;
         }
         if (view.savePicture(file, quality))
-            return true;
+            return {};
+        const bool hasPicture =
+            view.currentPicture().lookAt([](const DecodedPicture &picture) { return picture.isWhole(); });
+        const QString problem = hasPicture ? writeProblem(file, pictureFileSize) : QString();
+        if (!problem.isEmpty())
+            return notWritten(problem);
     }
-    return false;
+    return failed;
 }

@@ -30,7 +30,8 @@ struct SnapTask
 
 /// Takes snapshots one after another: opens a hidden live view of the channel, waits until a picture has been
 /// decoded, lets the decoder write it to "snap/<folder>/<channel>.jpg" below the current folder, and closes
-/// the view. One task after another; the thread runs while there is one.
+/// the view. A file that cannot be written is reported at once, with the reason. One task after another; the
+/// thread runs while there is one.
 class SnapThread : public QThread
 {
     Q_OBJECT
@@ -64,7 +65,9 @@ private:
 
     void perform(const SnapTask &task);
     [[nodiscard]] Outcome takeOne(const SnapTask &task, const SnapChannel &channel, const QString &folder);
-    [[nodiscard]] bool savePicture(const SnapTask &task, int channel, const QString &file);
+
+    /// Returns the message for the user, empty on success.
+    [[nodiscard]] QString savePicture(const SnapTask &task, int channel, const QString &file);
 
     QMutex m_mutex;
     QList<SnapTask> m_tasks;

@@ -15,6 +15,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
@@ -155,6 +158,38 @@ private Q_SLOTS:
     {
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
         QCOMPARE(take("againCapture", 0, "rec", 1), (QList<Capture>{{0, {}, QStringLiteral("抓图失败")}}));
+    }
+
+    void aFileThatCannotBeWrittenIsReportedWithTheReason_data()
+    {
+        QTest::addColumn<bool>("isFull"); // the disk; else the folder's name is that of a file
+        QTest::newRow("no folder") << false;
+        QTest::newRow("full") << true;
+    }
+
+    void aFileThatCannotBeWrittenIsReportedWithTheReason()
+    {
+        QFETCH(bool, isFull);
+        QVERIFY(QDir().mkpath(isFull ? "snap/rec" : "snap"));
+        QFile file(isFull ? "snap/rec/0.jpg" : "snap/rec");
+        QVERIFY(file.open(QFile::WriteOnly) && file.write("kept") > 0);
+        file.close();
+        // As on a full disk: no file may have more than 100 bytes.
+        const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
+        const rlimit small{isFull ? 100 : limit.rlim_cur, limit.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        const QList<Capture> captures = take("liveCapture", 0, "rec", 3);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, oldHandler);
+        const QString reason = isFull ? "File too large" : "Not a directory";
+        const Capture failed = {0, {}, QStringLiteral("抓图失败，图片无法写入：") + reason};
+        QCOMPARE(captures.value(0), failed);
+        QCOMPARE(captures.value(2).message, failed.message);
+        QCOMPARE(m_site->requests().of("NetStartRealStream").size(), isFull ? 2 : 0);
+        QVERIFY(file.open(QFile::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("kept"));
     }
 
     void withoutChannelStatesEveryChannelCountsAsConnected()
