@@ -309,6 +309,27 @@ void VideoItem::setIsStreaming(bool isStreaming)
     Q_EMIT isStreamingChanged();
 }
 
+QString VideoItem::problemText() const
+{
+    switch (m_problem) {
+    case PictureProblem::None:
+        return {};
+    case PictureProblem::NoShaders:
+        return tr("无法显示画面：Shaders 文件夹中的文件缺失或无法使用");
+    case PictureProblem::TooLarge:
+        return tr("无法显示画面：显卡不支持这样大的画面");
+    }
+    return {};
+}
+
+void VideoItem::setPictureProblem(PictureProblem problem)
+{
+    if (m_problem == problem)
+        return;
+    m_problem = problem;
+    Q_EMIT problemTextChanged();
+}
+
 VideoItem::Renderer *VideoItem::createRenderer() const
 {
     return new ItemRender;

@@ -2,6 +2,7 @@
 
 #include "media/audiooutput.h"
 #include "media/currentpicture.h"
+#include "media/pictureproblem.h"
 #include "media/streamwatch.h"
 #include "media/videodataobserver.h"
 #include "media/viewgeometry.h"
@@ -40,6 +41,7 @@ class VideoItem : public QQuickFramebufferObject, public VideoDataObserver
     Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY videoInfoChangedSig)
     Q_PROPERTY(int zoomLevel READ zoomLevel NOTIFY zoomLevelChanged)
     Q_PROPERTY(bool isStreaming READ isStreaming NOTIFY isStreamingChanged)
+    Q_PROPERTY(QString problemText READ problemText NOTIFY problemTextChanged)
 public:
     enum FillModeType
     {
@@ -88,6 +90,8 @@ public:
     [[nodiscard]] int zoomLevel() const { return m_geometry.level(); }
     /// True from a successful start() to stop().
     [[nodiscard]] bool isStreaming() const { return m_isStreaming; }
+    /// Why a picture that has come cannot be drawn, for the user; empty when it can.
+    [[nodiscard]] QString problemText() const;
 
     /// "width", "height" of the picture; "codec" and "audioCodec", empty when there is none or not yet;
     /// "rate" in pictures a second and "bitRate" in kbit/s during the last second; "waiting" bytes that are
@@ -102,6 +106,8 @@ public:
 
     /// For the drawing side.
     [[nodiscard]] CurrentPicture &currentPicture() { return m_picture; }
+    [[nodiscard]] PictureProblem pictureProblem() const { return m_problem; }
+    void setPictureProblem(PictureProblem problem);
 
     Renderer *createRenderer() const override;
 
@@ -125,6 +131,7 @@ Q_SIGNALS:
     void streamKindChanged();
     void zoomLevelChanged();
     void isStreamingChanged();
+    void problemTextChanged();
 
 public Q_SLOTS:
     // The order is kept as well.
@@ -178,4 +185,5 @@ private:
     QString m_text;
     QSize m_pictureSize; ///< as the scene was told
     bool m_isStreaming = false;
+    PictureProblem m_problem = PictureProblem::None;
 };

@@ -2,6 +2,8 @@
 
 #include "media/logging.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QOpenGLContext>
 
 #include <array>
@@ -19,6 +21,14 @@ bool hasRedTextures(const QOpenGLContext &context)
 {
     return context.format().majorVersion() >= 3 ||
            context.hasExtension(context.isOpenGLES() ? "GL_EXT_texture_rg" : "GL_ARB_texture_rg");
+}
+
+/// The working directory comes first; a program that was started elsewhere has its own files beside it.
+QString shaderPath(const QString &name)
+{
+    const QString path = QStringLiteral("./Shaders/") + name;
+    return QFile::exists(path) ? path
+                               : QCoreApplication::applicationDirPath() + QStringLiteral("/Shaders/") + name;
 }
 
 struct Corner
@@ -62,11 +72,11 @@ void PicturePainter::begin()
 void PicturePainter::buildProgram()
 {
     const bool hasVertexShader =
-        m_program.addShaderFromSourceFile(QOpenGLShader::Vertex, QStringLiteral("./Shaders/vertex.vsh"));
+        m_program.addShaderFromSourceFile(QOpenGLShader::Vertex, shaderPath(QStringLiteral("vertex.vsh")));
     if (!hasVertexShader)
         qCWarning(logMedia) << " add vertex shader file failed.";
-    const bool hasFragmentShader =
-        m_program.addShaderFromSourceFile(QOpenGLShader::Fragment, QStringLiteral("./Shaders/fragment.fsh"));
+    const bool hasFragmentShader = m_program.addShaderFromSourceFile(
+        QOpenGLShader::Fragment, shaderPath(QStringLiteral("fragment.fsh")));
     if (!hasFragmentShader)
         qCWarning(logMedia) << " add fragment shader file failed.";
     if (!hasVertexShader || !hasFragmentShader)
@@ -108,6 +118,13 @@ void PicturePainter::setPictureSize(const QSize &size)
         glTexImage2D(GL_TEXTURE_2D, 0, m_internalFormat, planes.at(plane).width(), planes.at(plane).height(),
                      0, m_format, GL_UNSIGNED_BYTE, nullptr);
     }
+}
+
+PictureProblem PicturePainter::problem() const
+{
+    if (!m_canDraw)
+        return PictureProblem::NoShaders;
+    return hasTextures() ? PictureProblem::None : PictureProblem::TooLarge;
 }
 
 void PicturePainter::upload(const DecodedPicture &picture)

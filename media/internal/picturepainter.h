@@ -1,6 +1,7 @@
 #pragma once
 
 #include "media/currentpicture.h"
+#include "media/pictureproblem.h"
 #include "media/viewgeometry.h"
 
 #include <QOpenGLBuffer>
@@ -26,6 +27,9 @@ public:
     void setPictureSize(const QSize &size);
     [[nodiscard]] QSize pictureSize() const { return m_size; }
     [[nodiscard]] bool hasTextures() const { return m_textures.front() != 0; }
+
+    /// Of a picture of that size.
+    [[nodiscard]] PictureProblem problem() const;
 
     /// Takes a picture of that size.
     void upload(const DecodedPicture &picture);

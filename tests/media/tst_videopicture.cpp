@@ -297,20 +297,36 @@ private Q_SLOTS:
         }
     }
 
-    void saysThatShadersAreMissing()
+    void findsShadersBesideTheProgram_data()
     {
-        const QString programDirectory = QDir::currentPath();
-        MessageLog log;
+        QTest::addColumn<bool>("areThere");
+        QTest::newRow("missing") << false;
+        QTest::newRow("beside the program") << true;
+    }
+
+    void findsShadersBesideTheProgram()
+    {
+        QFETCH(bool, areThere);
+        QDir program(QCoreApplication::applicationDirPath());
+        QVERIFY(program.mkpath("Shaders"));
+        for (const QString name : {"Shaders/vertex.vsh", "Shaders/fragment.fsh"})
+            QVERIFY(!areThere || QFile::copy(name, program.filePath(name)));
+        const QString workingDirectory = QDir::currentPath();
         QVERIFY(QDir::setCurrent(QDir::rootPath()));
-        VideoItem second(m_window->contentItem());
-        second.setSize({20, 20});
-        QVERIFY(second.start());
-        deliver({64, 36, 60, 128, 128});
-        QVERIFY(!m_window->grabWindow().isNull());
-        QVERIFY(QDir::setCurrent(programDirectory));
+        MessageLog log;
+        delete m_item;
+        m_item = new VideoItem(m_window->contentItem()); // with a renderer of its own
+        m_item->setSize(viewSize);
+        QVERIFY(m_item->start());
+        deliver({64, 36, 60, 128, 128, sdk::PictureColour::Bt601Full});
+        m_seen = m_window->grabWindow();
+        QVERIFY(QDir::setCurrent(workingDirectory));
+        QVERIFY(program.cd("Shaders") && program.removeRecursively());
+        QCOMPARE(instead(0.5, 0.5, areThere ? QColor(60, 60, 60) : background), QString());
         const QStringList said = log.take();
-        QVERIFY(said.contains(" add vertex shader file failed."));
-        QVERIFY(said.contains(" add fragment shader file failed."));
+        QCOMPARE(said.contains(" add vertex shader file failed."), !areThere);
+        QCOMPARE(said.contains(" add fragment shader file failed."), !areThere);
+        QTRY_COMPARE(m_item->problemText().contains("Shaders"), !areThere);
     }
 };
 

@@ -169,7 +169,7 @@ FocusScope {
         anchors.centerIn: parent
         width: parent.width - 2 * Theme.unit
         spacing: Theme.unit
-        visible: !root.playing
+        visible: !root.playing || video.problemText !== ""
 
         OVIcon {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -193,6 +193,7 @@ FocusScope {
             text: root.channel < 0 ? qsTr("没有通道")
                 : !root.connected ? qsTr("通道未连接")
                 : root.connecting ? qsTr("正在连接…")
+                : root.playing ? video.problemText
                 : root.resting ? (video.text !== "" ? video.text : qsTr("画面中断")) : ""
             visible: text !== ""
         }
