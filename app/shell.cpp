@@ -13,6 +13,7 @@
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
 #include "media/audiooutput.h"
+#include "media/freedmemory.h"
 #include "media/videoitem.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
@@ -44,6 +45,7 @@ QString translationPath(const QString &code)
 
 void Shell::prepareApplication()
 {
+    limitFreedMemory();
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED // without effect in this toolkit version, which always scales
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);

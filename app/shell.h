@@ -16,7 +16,8 @@ class Shell
 {
     Q_DECLARE_TR_FUNCTIONS(Shell)
 public:
-    /// Attributes that must be set before the application object is created.
+    /// What must be set before the application object is created: its attributes, and what the allocator
+    /// keeps.
     static void prepareApplication();
 
     explicit Shell(CommandLine commandLine);

@@ -1,9 +1,12 @@
 #include "media/dhdecoder.h"
 
+#include "media/freedmemory.h"
 #include "media/logging.h"
 #include "media/videodataobserver.h"
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
+
+#include <QThreadPool>
 
 #include <utility>
 
@@ -11,6 +14,8 @@ namespace {
 
 constexpr std::uint32_t liveMode = 0;
 constexpr std::uint32_t streamBufferSize = 8388608;
+
+std::atomic<int> openPorts = 0; // of all decoders
 
 } // namespace
 
@@ -35,6 +40,7 @@ bool CDHDecoder::Start()
     if (m_library->DecoderOpenStream(port, nullptr, 0, streamBufferSize)) {
         m_library->DecoderSetDecodeCallback(port, &CDHDecoder::decodeCallback, this);
         if (m_library->DecoderPlay(port, 0)) {
+            ++openPorts;
             qCDebug(logMedia) << "CDHDecoder::Start():" << port;
             return true;
         }
@@ -55,6 +61,8 @@ bool CDHDecoder::Stop()
     m_library->DecoderStop(port);
     m_library->DecoderCloseStream(port);
     m_library->DecoderFreePort(port);
+    if (--openPorts == 0)
+        QThreadPool::globalInstance()->start(&returnFreedMemory); // the scene does not wait for it
     return true;
 }
 
