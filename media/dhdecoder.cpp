@@ -94,6 +94,7 @@ StreamFigures CDHDecoder::figures() const
         figures.audioCodec = text(status.audioCodec);
         figures.waitingBytes = status.waitingBytes;
         figures.damages = status.damages;
+        figures.skippedPictures = status.skippedPictures;
     }
     const std::int64_t now = m_clock->now();
     const std::lock_guard lock(m_sumsMutex);

@@ -27,6 +27,7 @@ struct StreamFigures
     double kilobitsASecond = 0; ///< likewise, of what came over the network
     std::uint32_t waitingBytes = 0;
     std::uint32_t damages = 0;
+    std::uint32_t skippedPictures = 0; ///< too late to be shown, since the start
 };
 
 /// One live stream through the decoder library: takes the bytes of the stream on a thread of the network

@@ -220,6 +220,7 @@ QVariantMap VideoItem::figures() const
         {QStringLiteral("bitRate"), figures.kilobitsASecond},
         {QStringLiteral("waiting"), figures.waitingBytes},
         {QStringLiteral("damages"), figures.damages},
+        {QStringLiteral("skipped"), figures.skippedPictures},
     };
 }
 

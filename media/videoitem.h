@@ -95,7 +95,7 @@ public:
 
     /// "width", "height" of the picture; "codec" and "audioCodec", empty when there is none or not yet;
     /// "rate" in pictures a second and "bitRate" in kbit/s during the last second; "waiting" bytes that are
-    /// not decoded yet; "damages" of the stream since its start.
+    /// not decoded yet; "damages" of the stream and "skipped" pictures, which were too late, since its start.
     Q_INVOKABLE [[nodiscard]] QVariantMap figures() const;
 
     /// Writes the current picture to a file as JPEG, replacing it, with a quality of 1 to 100. False while

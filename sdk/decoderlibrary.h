@@ -62,8 +62,9 @@ struct DecoderStatus
     std::array<char, 16> audioCodec; ///< "AAC", "G.711A", "G.711Mu", "PCM"; empty without sound
     std::uint32_t waitingBytes;      ///< taken, and not yet gone through
     std::uint32_t damages;           ///< pieces of the stream that could not be decoded
+    std::uint32_t skippedPictures;   ///< left out because they were too late
 };
-static_assert(sizeof(DecoderStatus) == 40);
+static_assert(sizeof(DecoderStatus) == 44);
 
 /// Decodes live streams into pictures and sound, one port per live view. Operations may be called from any
 /// thread, those of one port not at the same time except DecoderInputData and DecoderGetStatus; none may be
@@ -76,7 +77,9 @@ public:
     /// Gives a port, 0 or higher, in `port`. Returns false, with `port` unchanged, when there is none left.
     virtual bool DecoderAllocPort(std::int32_t &port) = 0;
 
-    /// `mode` 0: pictures and sound are delivered as they arrive. No other mode is used.
+    /// `mode` 0, to be set before DecoderPlay: a real-time stream, whose pictures and sound are delivered as
+    /// they arrive and left out when they are too late. No other mode is used; without it nothing is left
+    /// out.
     virtual bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) = 0;
 
     /// Makes the port take data. `header` of `headerSize` bytes is what begins a stream (null, 0: the stream

@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 namespace sdk::ffmpeg {
 
 namespace {
@@ -21,7 +23,7 @@ std::span<const std::uint8_t> bytesOf(const std::uint8_t *data, std::uint32_t si
 
 } // namespace
 
-FfmpegDecoderLibrary::FfmpegDecoderLibrary()
+FfmpegDecoderLibrary::FfmpegDecoderLibrary(std::shared_ptr<const Clock> clock) : m_clock(std::move(clock))
 {
     routeLog();
 }
@@ -34,7 +36,7 @@ bool FfmpegDecoderLibrary::DecoderAllocPort(std::int32_t &port)
     for (std::int32_t number = 0; number < mostPorts; ++number) {
         if (m_ports.contains(number))
             continue;
-        m_ports.emplace(number, std::make_shared<DecoderPort>(number));
+        m_ports.emplace(number, std::make_shared<DecoderPort>(number, m_clock));
         port = number;
         return true;
     }
@@ -43,7 +45,11 @@ bool FfmpegDecoderLibrary::DecoderAllocPort(std::int32_t &port)
 
 bool FfmpegDecoderLibrary::DecoderSetStreamMode(std::int32_t port, std::uint32_t mode)
 {
-    return portOf(port) && mode == 0;
+    const std::shared_ptr<DecoderPort> found = portOf(port);
+    if (!found || mode != 0)
+        return false;
+    found->setLive();
+    return true;
 }
 
 bool FfmpegDecoderLibrary::DecoderOpenStream(std::int32_t port, const std::uint8_t *header,

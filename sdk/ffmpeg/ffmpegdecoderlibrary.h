@@ -1,6 +1,7 @@
 // The decoder role on FFmpeg.
 #pragma once
 
+#include "sdk/clock.h"
 #include "sdk/decoderlibrary.h"
 
 #include <map>
@@ -14,7 +15,8 @@ class DecoderPort;
 /// Decodes Matroska streams as they are written live: pictures in H.264, H.265 and MJPEG, sound in G.711, AAC
 /// and 16-bit PCM. A stream begins with its header; another header in the middle begins another stream, in
 /// whatever size and encoding. What is damaged is left out. Pictures are delivered one by one as they arrive,
-/// up to a size of 8192 x 4320.
+/// up to a size of 8192 x 4320. A port in the mode of real-time streams that cannot keep up goes on with the
+/// newest picture that needs no earlier one.
 ///
 /// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. An operation that is
 /// called in a handler fails. FFmpeg's own lines go to the logging category "configtools.sdk.ffmpeg", for the
@@ -22,7 +24,8 @@ class DecoderPort;
 class FfmpegDecoderLibrary final : public DecoderLibrary
 {
 public:
-    FfmpegDecoderLibrary();
+    /// `clock` tells how late a stream is.
+    explicit FfmpegDecoderLibrary(std::shared_ptr<const Clock> clock = std::make_shared<SystemClock>());
 
     /// Frees all ports.
     ~FfmpegDecoderLibrary() override;
@@ -48,6 +51,7 @@ public:
 private:
     [[nodiscard]] std::shared_ptr<DecoderPort> portOf(std::int32_t number) const;
 
+    const std::shared_ptr<const Clock> m_clock;
     mutable std::mutex m_mutex;
     std::map<std::int32_t, std::shared_ptr<DecoderPort>> m_ports;
 };

@@ -102,7 +102,11 @@ public:
     }
     bool DecoderGetStatus(std::int32_t, sdk::DecoderStatus &status) override
     {
-        status = {.videoCodec = {"H.265"}, .audioCodec = {"AAC"}, .waitingBytes = 1200, .damages = 2};
+        status = {.videoCodec = {"H.265"},
+                  .audioCodec = {"AAC"},
+                  .waitingBytes = 1200,
+                  .damages = 2,
+                  .skippedPictures = 3};
         return true;
     }
     bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,

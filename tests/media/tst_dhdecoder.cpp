@@ -157,6 +157,7 @@ private Q_SLOTS:
         QCOMPARE(figures.audioCodec, QString("AAC"));
         QCOMPARE(figures.waitingBytes, 1200U);
         QCOMPARE(figures.damages, 2U);
+        QCOMPARE(figures.skippedPictures, 3U);
 
         fake.clock->advance(500ms); // nothing comes any more
         QCOMPARE(decoder.figures().picturesASecond, 10.0);

@@ -1,4 +1,5 @@
-// What a live stream is like: its size and codec, its pictures a second, its bit rate, and the data that waits.
+// What a live stream is like: its size and codec, its pictures a second, its bit rate, the data that waits, and the
+// pictures that were left out because the computer could not keep up.
 import QtQuick
 import configtools
 
@@ -12,7 +13,8 @@ Rectangle {
         [figures.width ?? 0, figures.height ?? 0].join(" × ") + "   " + (figures.codec ?? ""),
         qsTr("%1 帧/秒   %2 kbit/s").arg(Math.round(figures.rate ?? 0)).arg(Math.round(figures.bitRate ?? 0)),
         //: Data of a live stream that is not yet decoded.
-        qsTr("待解码 %1 KB").arg(Math.round((figures.waiting ?? 0) / 1024))
+        qsTr("待解码 %1 KB").arg(Math.round((figures.waiting ?? 0) / 1024)),
+        qsTr("跳过 %1 帧").arg(figures.skipped ?? 0)
     ].concat((figures.audioCodec ?? "") === "" ? [] : [qsTr("音频 %1").arg(figures.audioCodec)])
 
     width: text.implicitWidth + 2 * Theme.unit

@@ -1,6 +1,7 @@
 #include "sdk/ffmpeg/internal/decoderport.h"
 
 #include "sdk/blocktext.h"
+#include "sdk/clock.h"
 #include "sdk/ffmpeg/internal/logging.h"
 
 #include <system_error>
@@ -23,7 +24,7 @@ bool DecoderPort::open(std::span<const std::uint8_t> header, std::size_t bufferS
     if (bufferSize == 0 || currentInput())
         return false;
     const auto input = std::make_shared<Input>(bufferSize);
-    if (!input->queue.put(header))
+    if (!input->queue.put(header, m_clock->now()))
         return false;
     const std::lock_guard lock(m_mutex);
     m_input = input;
@@ -54,7 +55,7 @@ bool DecoderPort::play()
 bool DecoderPort::input(std::span<const std::uint8_t> bytes)
 {
     const std::shared_ptr<Input> input = currentInput();
-    return input && input->queue.put(bytes);
+    return input && input->queue.put(bytes, m_clock->now());
 }
 
 bool DecoderPort::stop()
@@ -98,7 +99,8 @@ void DecoderPort::run(const std::stop_token &stop)
             return;
         if (source.skipped() > 0)
             damaged();
-        const bool isStream = StreamDecoder(source, m_ring, *this, stop).run();
+        const bool isStream =
+            StreamDecoder(source, m_ring, *this, m_isLive ? m_clock.get() : nullptr, stop).run();
         if (stop.stop_requested())
             return;
         if (!source.hasNext())
@@ -129,6 +131,12 @@ void DecoderPort::damaged()
 {
     const std::lock_guard lock(m_mutex);
     ++m_status.damages;
+}
+
+void DecoderPort::skipped(int pictures)
+{
+    const std::lock_guard lock(m_mutex);
+    m_status.skippedPictures += static_cast<std::uint32_t>(pictures);
 }
 
 std::shared_ptr<DecoderPort::Input> DecoderPort::currentInput() const

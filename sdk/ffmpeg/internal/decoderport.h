@@ -18,7 +18,10 @@ namespace sdk::ffmpeg {
 class DecoderPort final : private StreamObserver
 {
 public:
-    explicit DecoderPort(std::int32_t number) : m_number(number) {}
+    DecoderPort(std::int32_t number, std::shared_ptr<const Clock> clock)
+        : m_number(number), m_clock(std::move(clock))
+    {
+    }
 
     /// Ends decoding, and the port's pictures.
     ~DecoderPort() override;
@@ -27,6 +30,7 @@ public:
     DecoderPort &operator=(const DecoderPort &) = delete;
 
     [[nodiscard]] bool open(std::span<const std::uint8_t> header, std::size_t bufferSize);
+    void setLive() { m_isLive = true; }
     void setHandler(DecodeHandler handler, void *user);
     [[nodiscard]] bool play();
     [[nodiscard]] bool input(std::span<const std::uint8_t> bytes);
@@ -55,9 +59,12 @@ private:
     void codecsFound(std::string_view video, std::string_view audio) override;
     void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) override;
     void damaged() override;
+    void skipped(int pictures) override;
     [[nodiscard]] std::shared_ptr<Input> currentInput() const;
 
     const std::int32_t m_number;
+    const std::shared_ptr<const Clock> m_clock;
+    bool m_isLive = false; // what is too late is left out; not changed while it plays
 
     mutable std::mutex m_mutex;     // for the two below
     std::shared_ptr<Input> m_input; // null while closed

@@ -4,14 +4,19 @@
 
 namespace sdk::ffmpeg {
 
-bool InputQueue::put(std::span<const std::uint8_t> bytes)
+bool InputQueue::put(std::span<const std::uint8_t> bytes, std::int64_t time)
 {
     {
         const std::lock_guard lock(m_mutex);
-        if (bytes.size() > m_limit - m_waiting)
+        if (m_waiting + m_held > m_limit || bytes.size() > m_limit - m_waiting - m_held)
             return false;
         m_arriving.insert(m_arriving.end(), bytes.begin(), bytes.end());
         m_waiting += bytes.size();
+        const std::uint64_t end = (m_arrivals.empty() ? 0 : m_arrivals.back().end) + bytes.size();
+        if (!m_arrivals.empty() && m_arrivals.back().time == time)
+            m_arrivals.back().end = end;
+        else
+            m_arrivals.push_back({end, time});
     }
     m_arrived.notify_one();
     return true;
@@ -20,7 +25,7 @@ bool InputQueue::put(std::span<const std::uint8_t> bytes)
 std::size_t InputQueue::waitingBytes() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_waiting;
+    return m_waiting + m_held;
 }
 
 std::span<const std::uint8_t> InputQueue::next(const std::stop_token &stop)
@@ -42,6 +47,28 @@ void InputQueue::use(std::size_t count)
 {
     m_place += count;
     m_inUse += count;
+    m_used += count;
+}
+
+bool InputQueue::hasNext() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_place < m_reading.size() || !m_arriving.empty();
+}
+
+std::int64_t InputQueue::arrival()
+{
+    const std::lock_guard lock(m_mutex);
+    // The last one stays: what arrives later counts from its end.
+    while (m_arrivals.size() > 1 && m_arrivals.front().end <= m_used)
+        m_arrivals.pop_front();
+    return m_arrivals.empty() ? 0 : m_arrivals.front().time;
+}
+
+void InputQueue::hold(std::size_t count)
+{
+    const std::lock_guard lock(m_mutex);
+    m_held = count;
 }
 
 } // namespace sdk::ffmpeg

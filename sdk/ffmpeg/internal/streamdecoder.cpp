@@ -1,5 +1,6 @@
 #include "sdk/ffmpeg/internal/streamdecoder.h"
 
+#include "sdk/clock.h"
 #include "sdk/ffmpeg/internal/logging.h"
 #include "sdk/ffmpeg/internal/planarpicture.h"
 
@@ -8,6 +9,9 @@
 namespace sdk::ffmpeg {
 
 namespace {
+
+/// Milliseconds between delivered pictures of a stream that is late: each costs a copy and a drawing.
+constexpr std::int64_t hurriedPeriod = 80;
 
 /// As DecoderStatus has it.
 std::string_view nameOf(const std::unique_ptr<TrackDecoder> &decoder)
@@ -40,8 +44,9 @@ std::unique_ptr<TrackDecoder> decoderOf(const AVStream *track)
 } // namespace
 
 StreamDecoder::StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer,
-                             std::stop_token stop)
-    : m_ring(ring), m_observer(observer), m_stop(std::move(stop)), m_demuxer(source, m_stop)
+                             const Clock *liveClock, std::stop_token stop)
+    : m_source(source), m_ring(ring), m_observer(observer), m_liveClock(liveClock), m_stop(std::move(stop)),
+      m_demuxer(source, m_stop)
 {
 }
 
@@ -49,11 +54,12 @@ bool StreamDecoder::run()
 {
     if (!open())
         return false;
-    const AvPointer<AVPacket> packet(av_packet_alloc());
     unsigned errors = errorLines();
-    while (packet && m_demuxer.read(*packet)) {
-        const bool isWhole = decode(*packet);
-        av_packet_unref(packet.get());
+    while (fillBacklog()) {
+        if (m_liveClock)
+            skipLatePictures();
+        const bool isWhole = m_backlog.isEmpty() || decode(*m_backlog.take());
+        m_source.noteKept(m_backlog.bytes());
         if (!isWhole || errorLines() != errors)
             m_observer.damaged();
         errors = errorLines();
@@ -76,10 +82,56 @@ bool StreamDecoder::open()
     return true;
 }
 
+bool StreamDecoder::fillBacklog()
+{
+    if (m_stop.stop_requested() || (m_backlog.isEmpty() && !readPiece()))
+        return false;
+    // Not before it is late: reading may wait for the rest of a piece.
+    while (m_liveClock && m_backlog.delay(m_liveClock->now()) > PacketBacklog::noticeableDelay &&
+           m_source.hasBytes() && readPiece()) {
+    }
+    return !m_stop.stop_requested();
+}
+
+bool StreamDecoder::readPiece()
+{
+    m_source.noteKept(m_backlog.bytes());
+    AvPointer<AVPacket> packet(av_packet_alloc());
+    if (m_hasEnded || !packet || !m_demuxer.read(*packet)) {
+        m_hasEnded = true;
+        return false;
+    }
+    const bool isPicture = m_pictures && packet->stream_index == m_pictures->track();
+    m_backlog.add(std::move(packet), isPicture, m_source.arrival());
+    return true;
+}
+
+void StreamDecoder::skipLatePictures()
+{
+    const std::int64_t now = m_liveClock->now();
+    const PacketBacklog::Skip skip = m_backlog.skip(now);
+    if (skip.pictures > 0)
+        m_observer.skipped(skip.pictures);
+    m_isHurried = m_backlog.delay(now) > PacketBacklog::noticeableDelay;
+    if (!m_pictures)
+        return;
+    if (skip.isInterrupted)
+        m_pictures->restart();
+    m_pictures->setHurried(m_isHurried);
+}
+
 bool StreamDecoder::decode(const AVPacket &packet)
 {
-    if (m_pictures && packet.stream_index == m_pictures->track())
-        return m_pictures->decode(packet, [this](const AVFrame &frame) { deliverPicture(frame); });
+    if (m_pictures && packet.stream_index == m_pictures->track()) {
+        bool hasCome = false;
+        const bool isWhole = m_pictures->decode(packet, [&](const AVFrame &frame) {
+            hasCome = true;
+            deliverPicture(frame);
+        });
+        if (m_isHurried && isWhole && !hasCome)
+            m_observer.skipped(1);
+        return isWhole;
+    }
     if (m_sound && packet.stream_index == m_sound->track())
         return m_sound->decode(packet, [this](const AVFrame &frame) { deliverSound(frame); });
     return true;
@@ -89,6 +141,14 @@ void StreamDecoder::deliverPicture(const AVFrame &frame)
 {
     if (m_stop.stop_requested())
         return;
+    if (m_liveClock) {
+        const std::int64_t now = m_liveClock->now();
+        if (m_isHurried && !m_backlog.isEmpty() && now - m_delivery < hurriedPeriod) {
+            m_observer.skipped(1);
+            return;
+        }
+        m_delivery = now;
+    }
     const bool isUsable = isUsableSize(frame.width, frame.height);
     const std::size_t size = isUsable ? pictureSize(frame.width, frame.height) : 0;
     std::uint8_t *const bytes = isUsable ? m_ring.next(size) : nullptr;

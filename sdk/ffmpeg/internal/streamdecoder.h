@@ -3,12 +3,17 @@
 
 #include "sdk/decoderlibrary.h"
 #include "sdk/ffmpeg/internal/demuxer.h"
+#include "sdk/ffmpeg/internal/packetbacklog.h"
 #include "sdk/ffmpeg/internal/pictureconverter.h"
 #include "sdk/ffmpeg/internal/picturering.h"
 #include "sdk/ffmpeg/internal/soundconverter.h"
 #include "sdk/ffmpeg/internal/trackdecoder.h"
 
 #include <string_view>
+
+namespace sdk {
+class Clock;
+}
 
 namespace sdk::ffmpeg {
 
@@ -26,13 +31,19 @@ public:
 
     /// A piece of the stream could not be decoded.
     virtual void damaged() = 0;
+
+    /// So many pictures were left out, because they were too late.
+    virtual void skipped(int pictures) = 0;
 };
 
 /// From its head to its end, on one thread.
 class StreamDecoder
 {
 public:
-    StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, std::stop_token stop);
+    /// By `liveClock`, on which the bytes of `source` arrived, it leaves out what is too late; without one
+    /// nothing is.
+    StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, const Clock *liveClock,
+                  std::stop_token stop);
 
     /// Decodes until the stream ends, is given up or a stop is requested. Returns false when it has no head
     /// that can be read.
@@ -40,14 +51,26 @@ public:
 
 private:
     [[nodiscard]] bool open();
+
+    /// Gets the next piece into the backlog and, while that is late, those that wait behind it. Returns false
+    /// at the end.
+    [[nodiscard]] bool fillBacklog();
+    [[nodiscard]] bool readPiece();
+    void skipLatePictures();
     [[nodiscard]] bool decode(const AVPacket &packet);
     void deliverPicture(const AVFrame &frame);
     void deliverSound(const AVFrame &frame);
 
+    StreamSource &m_source;
     PictureRing &m_ring;
     StreamObserver &m_observer;
+    const Clock *const m_liveClock;
     const std::stop_token m_stop;
     Demuxer m_demuxer;
+    PacketBacklog m_backlog;
+    bool m_hasEnded = false;                  // nothing more can be read
+    bool m_isHurried = false;                 // the piece that is decoded is late
+    std::int64_t m_delivery = 0;              // of the last picture, on the live clock
     std::unique_ptr<TrackDecoder> m_pictures; // null without such a track
     std::unique_ptr<TrackDecoder> m_sound;
     PictureConverter m_pictureConverter;

@@ -79,6 +79,8 @@ std::size_t StreamSource::read(std::span<std::uint8_t> destination, const std::s
 
 std::size_t StreamSource::passOn(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> destination)
 {
+    // Of the first byte: the last ones may be the mark of the next piece.
+    m_arrival = m_queue.arrival();
     // Not beyond the begin of a cluster: so it is known how many of them the reader has seen.
     const std::optional<std::size_t> cluster = m_clusterFinder.find(bytes);
     bytes = bytes.first(cluster.value_or(bytes.size()));

@@ -47,6 +47,15 @@ public:
     /// Whether the stream ended with the header of the next, not by being given up.
     [[nodiscard]] bool hasNext() const { return m_hasNext; }
 
+    /// Whether read() would not wait.
+    [[nodiscard]] bool hasBytes() const { return m_beforePlace < m_before.size() || m_queue.hasNext(); }
+
+    /// When the bytes that were read last arrived at the port.
+    [[nodiscard]] std::int64_t arrival() const { return m_arrival; }
+
+    /// Tells how many of the bytes that were read the reader keeps for later.
+    void noteKept(std::size_t count) { m_queue.hold(count); }
+
     /// Bytes skipped before the stream that has begun.
     [[nodiscard]] std::size_t skipped() const { return m_skipped; }
 
@@ -76,6 +85,7 @@ private:
     std::size_t m_bytesWithoutProgress = 0;
     int m_clustersWithoutProgress = 0;
     std::size_t m_skipped = 0;
+    std::int64_t m_arrival = 0;
 };
 
 } // namespace sdk::ffmpeg

@@ -39,6 +39,16 @@ bool TrackDecoder::decode(const AVPacket &packet, const FrameHandler &handler)
     return takeFrames(handler) && isTaken;
 }
 
+void TrackDecoder::restart()
+{
+    avcodec_flush_buffers(m_context.get());
+}
+
+void TrackDecoder::setHurried(bool isHurried)
+{
+    m_context->skip_frame = isHurried ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+}
+
 void TrackDecoder::finish(const FrameHandler &handler)
 {
     if (avcodec_send_packet(m_context.get(), nullptr) == 0)

@@ -31,6 +31,12 @@ public:
     /// Decodes a piece of the track. Returns false when it was damaged.
     [[nodiscard]] bool decode(const AVPacket &packet, const FrameHandler &handler);
 
+    /// The next piece does not follow on the last one; it is a frame that needs no earlier one.
+    void restart();
+
+    /// While it is hurried, it leaves out frames that no other one needs.
+    void setHurried(bool isHurried);
+
     /// Brings the frames that wait for others to come before them. Nothing can be decoded after that.
     void finish(const FrameHandler &handler);
 

@@ -71,9 +71,12 @@ private:
 class TestPort
 {
 public:
-    explicit TestPort(std::uint32_t bufferSize = usualBuffer)
+    /// With a clock it is a port for a live stream, which leaves out what is late on that clock.
+    explicit TestPort(std::uint32_t bufferSize = usualBuffer,
+                      const std::shared_ptr<const Clock> &liveClock = nullptr)
+        : library(liveClock ? liveClock : std::make_shared<SystemClock>())
     {
-        if (!library.DecoderAllocPort(number) || !library.DecoderSetStreamMode(number, 0) ||
+        if (!library.DecoderAllocPort(number) || (liveClock && !library.DecoderSetStreamMode(number, 0)) ||
             !library.DecoderOpenStream(number, nullptr, 0, bufferSize) ||
             !library.DecoderSetDecodeCallback(number, &Receiver::handle, &receiver) ||
             !library.DecoderPlay(number, 0)) {

@@ -2,6 +2,7 @@
 #include "tests/sdk/ffmpeg/testport.h"
 
 #include <cmath>
+#include <future>
 
 using namespace sdk;
 using namespace sdk::ffmpeg;
@@ -12,6 +13,25 @@ Q_DECLARE_METATYPE(SoundFormat)
 namespace {
 
 constexpr double nearEnough = 4;
+
+/// A picture of one grey, another one for each number.
+Patches greyOf(int number)
+{
+    const Patches::Colour grey = {20 + 10 * number, 128, 128};
+    return {{grey, grey, grey, grey}};
+}
+
+/// Stands still until it is stepped.
+class StandingClock : public Clock
+{
+public:
+    [[nodiscard]] std::int64_t now() const override { return m_now; }
+    bool wait(std::chrono::milliseconds, const std::stop_token &) override { return true; }
+    void advance(int milliseconds) { m_now += milliseconds; }
+
+private:
+    std::atomic<std::int64_t> m_now = 1704067200000;
+};
 
 } // namespace
 
@@ -33,6 +53,8 @@ private Q_SLOTS:
     void firstPictureWaitsForNothing();
     void ordersPictures();
     void skipsOtherTracks();
+    void leavesOutWhatIsLate_data();
+    void leavesOutWhatIsLate();
 };
 
 void FfmpegDecoderTest::pictures_data()
@@ -280,6 +302,67 @@ void FfmpegDecoderTest::skipsOtherTracks()
     QCOMPARE(port.receiver.pictures().size(), 0);
     QCOMPARE(port.videoCodec(), QString());
     QCOMPARE(port.audioCodec(), QStringLiteral("G.711Mu"));
+}
+
+void FfmpegDecoderTest::leavesOutWhatIsLate_data()
+{
+    QTest::addColumn<PictureFormat>("format"); // every fifth picture needs no earlier one
+    QTest::addColumn<bool>("isLive");
+    QTest::addColumn<int>("late");         // pictures after the first one, which is held up
+    QTest::addColumn<int>("period");       // between them
+    QTest::addColumn<QList<int>>("shown"); // with three that follow in time
+    const PictureFormat h264{.encoder = "libx264"};
+    const PictureFormat h265{.encoder = "libx265"};
+    const PictureFormat jpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
+    QTest::newRow("in time") << h264 << true << 6 << 10 << QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    QTest::newRow("no live stream") << h264 << false << 6 << 500 << QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
+    QTest::newRow("on from the newest key picture")
+        << h264 << true << 12 << 120 << QList<int>{0, 10, 12, 13, 14, 15};
+    QTest::newRow("H.265") << h265 << true << 12 << 120 << QList<int>{0, 10, 12, 13, 14, 15};
+    QTest::newRow("key pictures only") << jpeg << true << 12 << 120 << QList<int>{0, 12, 13, 14, 15};
+    QTest::newRow("somewhat late, no key picture")
+        << h264 << true << 3 << 120 << QList<int>{0, 1, 3, 4, 5, 6};
+    QTest::newRow("late, a key picture is near") << h264 << true << 3 << 450 << QList<int>{0, 5, 6};
+    QTest::newRow("late, a key picture is far") << h264 << true << 3 << 250 << QList<int>{0, 1, 3, 4, 5, 6};
+    QTest::newRow("too late") << h264 << true << 3 << 5000 << QList<int>{0, 5, 6};
+}
+
+void FfmpegDecoderTest::leavesOutWhatIsLate()
+{
+    QFETCH(PictureFormat, format);
+    QFETCH(bool, isLive);
+    QFETCH(int, late);
+    QFETCH(int, period);
+    QFETCH(QList<int>, shown);
+    LiveStream stream(format);
+    const auto clock = std::make_shared<StandingClock>();
+    std::promise<void> entered;
+    std::promise<void> leave;
+    TestPort port(usualBuffer, isLive ? clock : nullptr);
+    port.receiver.onDelivery = [&, isFirst = true]() mutable {
+        if (!std::exchange(isFirst, false))
+            return;
+        entered.set_value();
+        leave.get_future().wait();
+    };
+    QVERIFY(port.push(stream.head() + stream.picture(greyOf(0))));
+    entered.get_future().wait();
+    for (int number = 1; number <= late; ++number) {
+        clock->advance(period);
+        QVERIFY(port.push(stream.picture(greyOf(number))));
+    }
+    leave.set_value();
+    QTRY_VERIFY(port.isIdle());
+    for (int number = late + 1; number <= late + 3; ++number)
+        QVERIFY(port.push(stream.picture(greyOf(number))));
+    QTRY_VERIFY(port.isIdle());
+
+    QList<int> numbers;
+    for (const Delivered &picture : port.receiver.pictures())
+        numbers.append(qRound((static_cast<std::uint8_t>(picture.bytes.at(0)) - 20) / 10.0));
+    QCOMPARE(numbers, shown);
+    QCOMPARE(port.status().skippedPictures, static_cast<std::uint32_t>(late + 4 - shown.size()));
+    QCOMPARE(port.status().damages, 0U);
 }
 
 QTEST_GUILESS_MAIN(FfmpegDecoderTest)
