@@ -17,8 +17,9 @@
 #include <QQuickWindow>
 #include <QTest>
 
-#include <malloc.h>
+#include <memory>
 #include <sys/resource.h>
+#include <vector>
 
 namespace {
 
@@ -87,10 +88,9 @@ double processorTime()
     return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
-/// Of this process, without what the allocator only keeps for later.
+/// Of this process, with what the allocator keeps for later.
 double residentMegabytes()
 {
-    malloc_trim(0);
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QFile::ReadOnly))
         return 0;
@@ -173,12 +173,48 @@ QList<Figure> measureStarts(const LiveSite &site)
              .peerName = {}}};
 }
 
+/// What nine live views in a window leave behind.
+Figure measureMemoryAfterNine(const LiveSite &site)
+{
+    site.setMainStream(1920, 1080);
+    constexpr int views = 9;
+    constexpr int shownFor = 10000;
+    constexpr int closedFor = 30000;
+    const double before = residentMegabytes();
+    {
+        QQuickWindow window;
+        window.resize(1280, 720);
+        std::vector<std::unique_ptr<VideoItem>> videos;
+        for (int view = 0; view < views; ++view) {
+            videos.push_back(std::make_unique<VideoItem>(window.contentItem()));
+            videos.back()->setSize(window.size() / 3.0);
+            videos.back()->setPosition(
+                {window.width() / 3.0 * (view % 3), window.height() / 3.0 * (view / 3)});
+            videos.back()->setChannelId(0);
+            videos.back()->start();
+        }
+        window.show();
+        for (const auto &video : videos)
+            awaitPicture(*video);
+        QTest::qWait(shownFor);
+    }
+    QTest::qWait(closedFor);
+    return {.subject = QStringLiteral("growth of memory half a minute after nine live views were closed"),
+            .value = residentMegabytes() - before,
+            .unit = QStringLiteral("MB"),
+            .budget = 60,
+            .peer = {},
+            .largestRatio = {},
+            .peerName = {}};
+}
+
 } // namespace
 
 QList<Figure> measureLiveView()
 {
     const LiveSite site;
     QList<Figure> figures = {measureShowing(site, 1280, 720), measureShowing(site, 1920, 1080)};
+    figures.append(measureMemoryAfterNine(site));
     figures.append(measureStarts(site));
     return figures;
 }

@@ -30,6 +30,7 @@ QList<Subject> subjects()
              }},
             {QStringLiteral("decoding"), measureDecoding},
             {QStringLiteral("live"), measureLiveView},
+            {QStringLiteral("nine"), measureLivePorts},
             {QStringLiteral("flood"), measureFlood},
             {QStringLiteral("start"),
              [] {

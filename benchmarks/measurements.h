@@ -18,6 +18,9 @@
 /// Live streams into pictures, against the decoder's own program on one thread.
 [[nodiscard]] QList<Figure> measureDecoding();
 
+/// Nine live streams into pictures at once, at the pace of their cameras: how late they are.
+[[nodiscard]] QList<Figure> measureLivePorts();
+
 /// Start of the program against an empty window of the toolkit.
 [[nodiscard]] Figure measureStart();
 
