@@ -2068,6 +2068,10 @@ A right click copies the result</translation>
         <source>音频 %1</source>
         <translation>Sound %1</translation>
     </message>
+    <message>
+        <source>跳过 %1 帧</source>
+        <translation>%1 pictures skipped</translation>
+    </message>
 </context>
 <context>
     <name>LiveTitleBar</name>
@@ -3308,6 +3312,10 @@ File path: </translation>
     <message>
         <source>抓图失败</source>
         <translation>Snapshot failed</translation>
+    </message>
+    <message>
+        <source>抓图失败，图片无法写入：%1</source>
+        <translation>Snapshot failed, the picture cannot be written: %1</translation>
     </message>
 </context>
 <context>
@@ -4643,6 +4651,14 @@ File path: </translation>
     <message>
         <source>播放失败</source>
         <translation>Playback failed</translation>
+    </message>
+    <message>
+        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
+        <translation>The picture cannot be shown: files in the folder Shaders are missing or unusable</translation>
+    </message>
+    <message>
+        <source>无法显示画面：显卡不支持这样大的画面</source>
+        <translation>The picture cannot be shown: it is too large for the graphics card</translation>
     </message>
 </context>
 <context>

@@ -2049,6 +2049,10 @@
         <source>音频 %1</source>
         <translation>音频 %1</translation>
     </message>
+    <message>
+        <source>跳过 %1 帧</source>
+        <translation>跳过 %1 帧</translation>
+    </message>
 </context>
 <context>
     <name>LiveTitleBar</name>
@@ -3268,6 +3272,10 @@
     <message>
         <source>抓图失败</source>
         <translation>抓图失败</translation>
+    </message>
+    <message>
+        <source>抓图失败，图片无法写入：%1</source>
+        <translation>抓图失败，图片无法写入：%1</translation>
     </message>
 </context>
 <context>
@@ -4592,6 +4600,14 @@
     <message>
         <source>播放失败</source>
         <translation>播放失败</translation>
+    </message>
+    <message>
+        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
+        <translation>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</translation>
+    </message>
+    <message>
+        <source>无法显示画面：显卡不支持这样大的画面</source>
+        <translation>无法显示画面：显卡不支持这样大的画面</translation>
     </message>
 </context>
 <context>
