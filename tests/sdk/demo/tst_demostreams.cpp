@@ -94,6 +94,16 @@ private Q_SLOTS:
         const double kilobits = stream.pictureBytes * 8.0 / pictures * 25 / 1000;
         QVERIFY2(kilobits < limit, qPrintable(QString::number(kilobits)));
         QVERIFY(difference(stream.pictures.first().luma, stream.pictures.last().luma) < 20);
+        constexpr int greys = 11; // in a row below the bars of colours
+        for (int grey = 0; grey < greys; ++grey) {
+            const int x = size.width() * (150 + 700 * (2 * grey + 1) / (2 * greys)) / 1000;
+            const int y = size.height() * 285 / 1000;
+            const double value = 255.0 * grey / (greys - 1);
+            const double level = range == AVCOL_RANGE_JPEG ? value : 16 + value * 219 / 255;
+            const auto shown =
+                static_cast<std::uint8_t>(stream.pictures.last().luma.at(y * size.width() + x));
+            QVERIFY2(std::abs(shown - level) < 6, qPrintable(QStringLiteral("%1: %2").arg(level).arg(shown)));
+        }
     }
 
     void soundIsAsItIsSet_data()
