@@ -31,9 +31,16 @@ QString folderProblem(const QString &folder)
 QString writeProblem(const QString &path, qsizetype size)
 {
     QSaveFile file(path);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(QByteArray(size, '\0')) == size;
-    return isWritten ? QString() : file.errorString(); // not committed: the file is removed
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    for (qsizetype missing = size; missing > 0;) {
+        // A disk that becomes full takes a part first; the next write tells the reason.
+        const qint64 written = file.write(QByteArray(missing, '\0'));
+        if (written <= 0)
+            return file.errorString();
+        missing -= written;
+    }
+    return {}; // not committed: the file is removed
 }
 
 QString notWritten(const QString &problem)
