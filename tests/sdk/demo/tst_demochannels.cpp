@@ -32,54 +32,6 @@ class ChannelsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void malformedReadsFail_data()
-    {
-        QTest::addColumn<quint32>("number");
-        QTest::addColumn<int>("channel");
-        QTest::addColumn<int>("stream");
-        QTest::addColumn<quint32>("blockSize");
-        QTest::addColumn<quint32>("error");
-        const auto code = [](auto error) {
-            return static_cast<quint32>(error);
-        };
-        const quint32 refused = code(NetError::NotSupported);
-        const quint32 size = sizeof(VideoFormatItem);
-        QTest::newRow("right") << videoFormat << 1 << 4 << size << 0u;
-        QTest::newRow("unknown item") << 4711u << 1 << 1 << size << refused;
-        QTest::newRow("no such channel") << videoFormat << 3 << 1 << size << refused;
-        QTest::newRow("negative channel") << videoFormat << -1 << 1 << size << refused;
-        QTest::newRow("nothing connected") << videoFormat << 2 << 1 << size << refused;
-        QTest::newRow("no such stream") << videoFormat << 0 << 5 << size << refused;
-        QTest::newRow("stream left out") << videoFormat << 0 << 0 << size << refused;
-        QTest::newRow("buffer too small") << videoFormat << 0 << 1 << 8u << code(DemoError::WrongSize);
-        QTest::newRow("no buffer") << videoFormat << 0 << 1 << 0u << code(DemoError::WrongSize);
-        QTest::newRow("another item's size") << 1103u << 0 << 1 << size << code(DemoError::WrongSize);
-    }
-
-    void malformedReadsFail()
-    {
-        QFETCH(quint32, number);
-        QFETCH(int, channel);
-        QFETCH(int, stream);
-        QFETCH(quint32, blockSize);
-        QFETCH(quint32, error);
-        SceneDevice device = camera(1, 0ms);
-        device.channels.resize(3);
-        device.channels[2].connected = false;
-        const TestSite site({device});
-        const Login login(*site.net, device.address, 8800);
-        VideoFormatItem item = itemOf(stream);
-        const bool isRead = site.net->NetGetItem(login.handle, number, channel,
-                                                 blockSize > 0 ? &item : nullptr, blockSize, 5000ms);
-        QCOMPARE(isRead, error == 0);
-        if (!isRead)
-            QCOMPARE(site.net->NetGetLastError(), error);
-        QCOMPARE(item.width != 0, isRead);
-        const bool isWritten = site.net->NetSetItem(login.handle, number, channel,
-                                                    blockSize > 0 ? &item : nullptr, blockSize, 5000ms);
-        QCOMPARE(isWritten, error == 0);
-    }
-
     void aDeviceTakesWhatItCanDo_data()
     {
         QTest::addColumn<int>("place"); // of a word of the item
@@ -112,37 +64,6 @@ private Q_SLOTS:
         VideoFormatItem motion = itemOf(2); // another stream
         QVERIFY(site.net->NetGetItem(login.handle, videoFormat, 0, &motion, sizeof(motion), 5000ms));
         QCOMPARE(motion.compression, before.compression);
-    }
-
-    void malformedQueriesFail()
-    {
-        const TestSite site({camera(1, 0ms)});
-        const Login login(*site.net, u"192.168.1.1"_s, 8800);
-        auto capabilities = std::make_unique<EncodeCapabilities>();
-        const auto query = [&](const EncodeCapabilityInput &input) {
-            return site.net->NetQueryCapabilities(login.handle, CapabilityQuery::Encode, &input,
-                                                  capabilities.get(), 5000ms);
-        };
-        const EncodeCapabilityInput good = {sizeof(good), 0, 0, 0, R"({"Encode":{}})"};
-        QVERIFY(!query(good)); // the sizes in the output are not set
-        capabilities->size = sizeof(EncodeCapabilities);
-        for (EncodeCapabilityBlock &block : capabilities->blocks)
-            block.size = sizeof(block);
-        QVERIFY(query(good));
-        QVERIFY(capabilities->blocks[3].maximumBitRate > 0);
-        for (const EncodeCapabilityInput &bad : {EncodeCapabilityInput{8, 0, 0, 0, good.text},
-                                                 EncodeCapabilityInput{sizeof(good), 0, 0, 0, nullptr},
-                                                 EncodeCapabilityInput{sizeof(good), 0, 9, 0, good.text},
-                                                 EncodeCapabilityInput{sizeof(good), 0, 0, 0, "{"}})
-            QVERIFY(!query(bad));
-        QVERIFY(!site.net->NetQueryCapabilities(login.handle, static_cast<CapabilityQuery>(99), nullptr,
-                                                nullptr, 5000ms));
-        QCOMPARE(netError(*site.net), NetError::NotSupported);
-        CameraCapabilities cameras = {};
-        const CameraCapabilityInput input = {sizeof(input), 0};
-        QVERIFY(
-            !site.net->NetQueryCapabilities(login.handle, CapabilityQuery::Camera, &input, &cameras, 5000ms));
-        QCOMPARE(lastError(*site.net), DemoError::WrongSize);
     }
 
     void aResetForgetsSettings()

@@ -26,111 +26,13 @@ class HttpConnectionsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesMalformedRequests_data();
-    void refusesMalformedRequests();
-    void servesRequestsInARow();
-    void endsConnectionsThatAskForIt_data();
-    void endsConnectionsThatAskForIt();
     void servesManyClientsBesideIdleOnes();
-    void turnsAwayTooManyClients();
     void slowAndLateAnswers();
     void brokenAnswers();
     void hugeAnswers();
     void redirectingAnswers();
     void endsInTheMiddleOfAnswers();
 };
-
-void HttpConnectionsTest::refusesMalformedRequests_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("status");
-    const auto row = [](const char *title, const QByteArray &bytes, int status) {
-        QTest::newRow(title) << bytes << status;
-    };
-    const QByteArray head = start;
-    row("no words", "\x16\x03\x01\x02\n\n", 400);
-    row("two words", "GET http://192.168.1.1/\r\n\r\n", 400);
-    row("four words", "GET http://192.168.1.1/ x HTTP/1.1\r\n\r\n", 400);
-    row("control character in the address", "GET http://192.168.1.1/\x01 HTTP/1.1\r\n\r\n", 400);
-    row("letter beyond ASCII in the address", "GET http://192.168.1.1/\xE5\xA4\xA7 HTTP/1.1\r\n\r\n", 400);
-    row("not HTTP", "GET http://192.168.1.1/ FTP/1.1\r\n\r\n", 400);
-    row("another version", "GET http://192.168.1.1/ HTTP/2.0\r\n\r\n", 505);
-    row("header without a name", head + ": x\r\n\r\n", 400);
-    row("header without a colon", head + "Host\r\n\r\n", 400);
-    row("folded header", head + "Host: x\r\n  y\r\n\r\n", 400);
-    row("blank before the colon", head + "Host : x\r\n\r\n", 400);
-    row("carriage return in a header", head + "Host: x\ry\r\n\r\n", 400);
-    row("zero in a header", head + QByteArray("Host: \0\r\n\r\n", 11), 400);
-    row("length that is none", head + "Content-Length: -1\r\n\r\n", 400);
-    row("two lengths", head + "Content-Length: 1\r\nContent-Length: 2\r\n\r\nab", 400);
-    row("body too long", head + "Content-Length: 65537\r\n\r\n", 413);
-    row("length beyond numbers", head + "Content-Length: 99999999999999999999\r\n\r\n", 413);
-    row("body in chunks", head + "Transfer-Encoding: chunked\r\n\r\n0\r\n\r\n", 501);
-    row("long address", "GET http://192.168.1.1/" + QByteArray(9000, 'a') + " HTTP/1.1\r\n\r\n", 414);
-    row("address without an end", QByteArray(200000, 'a'), 414);
-    row("long header", head + "X: " + QByteArray(40000, 'a') + "\r\n\r\n", 431);
-    row("headers without an end", head + QByteArray("X: a\r\n").repeated(40000), 431);
-    row("head that stops", "GET http://192.168.1.1/ HTTP/1.1\r\nHost", 408);
-    row("body that stops", head + "Content-Length: 5\r\n\r\nabc", 408);
-    row("nothing", "\r\n\r\n", 0);
-    row("line feeds alone", "\n\nGET http://192.168.1.1/ HTTP/1.1\nX: a\n\n", 401);
-}
-
-void HttpConnectionsTest::refusesMalformedRequests()
-{
-    QFETCH(QByteArray, bytes);
-    const HttpSite test;
-    HttpClient client(test.port);
-    client.send(bytes);
-    client.endSending();
-    QTEST(client.answer().status, "status");
-    QCOMPARE(client.readToEnd(), QByteArray());
-    QCOMPARE(test.ask(nameCommand).body, QByteArray(nameLine)); // for others all is well
-}
-
-void HttpConnectionsTest::servesRequestsInARow()
-{
-    const HttpSite test;
-    const QByteArray target = QByteArray("http://192.168.1.1:80") + nameCommand;
-    HttpClient client(test.port);
-    client.send(request(target));
-    const QByteArray challenge = client.answer().field("WWW-Authenticate");
-    const QByteArray get = request(target, digest(challenge, nameCommand, "admin", "Pass-1"));
-    const QByteArray post = "POST " + target + " HTTP/1.1\r\nAuthorization: " +
-                            digest(challenge, nameCommand, "admin", "Pass-1", "POST") +
-                            "\r\nContent-Length: 25\r\n\r\nGET /cgi-bin/ HTTP/1.1\r\n\r";
-    client.send(get + post + "\r\n" + get + get.left(30));
-    for (int answer = 0; answer < 3; ++answer)
-        QCOMPARE(client.answer().body, QByteArray(nameLine));
-    for (const char byte : get.mid(30))
-        client.send(QByteArray(1, byte));
-    QCOMPARE(client.answer().status, 200);
-
-    const QByteArray waiting = post.left(post.indexOf("\r\n\r\n"));
-    client.send(waiting + "\r\nExpect: 100-continue\r\n\r\n");
-    QCOMPARE(client.answer().status, 100);
-    client.send(QByteArray(25, 'x'));
-    QCOMPARE(client.answer().status, 200);
-}
-
-void HttpConnectionsTest::endsConnectionsThatAskForIt_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("close") << QByteArray(start) + "Connection: Close\r\n\r\n";
-    QTest::newRow("older version") << QByteArray("GET http://192.168.1.1/ HTTP/1.0\r\n\r\n");
-}
-
-void HttpConnectionsTest::endsConnectionsThatAskForIt()
-{
-    QFETCH(QByteArray, bytes);
-    const HttpSite test;
-    HttpClient client(test.port);
-    client.send(bytes);
-    const HttpAnswer answer = client.answer();
-    QCOMPARE(answer.status, 401);
-    QCOMPARE(answer.field("Connection"), QByteArray("close"));
-    QCOMPARE(client.readToEnd(), QByteArray());
-}
 
 void HttpConnectionsTest::servesManyClientsBesideIdleOnes()
 {
@@ -152,17 +54,6 @@ void HttpConnectionsTest::servesManyClientsBesideIdleOnes()
     QCOMPARE(answered.load(), 50);
     idle.back()->send(QByteArray(start).mid(49) + "\r\n");
     QCOMPARE(idle.back()->answer().status, 401); // HTTP/1.1 was cut in two
-}
-
-void HttpConnectionsTest::turnsAwayTooManyClients()
-{
-    const HttpSite test;
-    std::vector<std::unique_ptr<HttpClient>> clients;
-    for (std::size_t place = 0; place < HttpPort::mostConnections; ++place)
-        clients.push_back(std::make_unique<HttpClient>(test.port));
-    QCOMPARE(HttpClient(test.port).readToEnd(), QByteArray());
-    clients.clear();
-    QTRY_COMPARE(test.ask(nameCommand).status, 200); // as soon as their ends have been noticed
 }
 
 void HttpConnectionsTest::slowAndLateAnswers()

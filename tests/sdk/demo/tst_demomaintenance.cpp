@@ -48,61 +48,6 @@ private Q_SLOTS:
         QVERIFY(Login(*test.net, "192.168.1.1", 8800, "admin", "admin").handle > 0);
     }
 
-    void malformedBlocksChangeNothing()
-    {
-        const TestSite test(threeCameras);
-        const Login login(*test.net, "192.168.1.1", 8800);
-        TimeRecord time = {2024, 2, 29, 0, 0, 0};
-        const auto setTime = [&](std::uint32_t size) {
-            return test.net->NetSetDeviceSetting(login.handle, DeviceSetting::Time, -1, &time, size, wait);
-        };
-        QVERIFY(!setTime(sizeof(time) - 1));
-        QCOMPARE(lastError(*test.net), DemoError::WrongSize);
-        time.month = 4000000000U;
-        QVERIFY(!setTime(sizeof(time)));
-        VideoStandardItem item = {sizeof(item) - 1, VideoStandard::Ntsc};
-        const auto setItem = [&](std::uint32_t number) {
-            return test.net->NetSetItem(login.handle, number, -1, &item, sizeof(item), wait);
-        };
-        QVERIFY(!setItem(videoStandardItem));
-        item = {sizeof(item), static_cast<VideoStandard>(3)};
-        QVERIFY(!setItem(videoStandardItem) && !setItem(12));
-        const ResetSystemInput input{sizeof(input) + 1};
-        ResetSystemOutput output{sizeof(output)};
-        QVERIFY(!test.net->NetResetSystem(login.handle, input, output, wait));
-        QVERIFY(!test.net->NetModifyPassword(login.handle, {}, wait));
-        QVERIFY(Login(*test.net, "192.168.1.1", 8800).handle > 0);
-        QCOMPARE(test.site->device("02:1a:c5:00:00:01")->maintenance.clockAhead, 0ms);
-    }
-
-    void configurationTextsThatAreNoneAreRefused_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("unknown name") << QByteArray("Smoke") << QByteArray(R"({"Smoke":{"on":true}})");
-        QTest::newRow("another name") << QByteArray("NTP") << QByteArray(R"({"Locales":{}})");
-        QTest::newRow("out of range") << QByteArray("NTP") << QByteArray(R"({"NTP":{"timeZone":40}})");
-        QTest::newRow("no JSON") << QByteArray("NTP") << QByteArray("{");
-        QTest::newRow("empty") << QByteArray("NTP") << QByteArray();
-    }
-
-    void configurationTextsThatAreNoneAreRefused()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, text);
-        const TestSite test(threeCameras);
-        const Login login(*test.net, "192.168.1.1", 8800);
-        const auto size = static_cast<std::uint32_t>(text.size());
-        std::int32_t error = 0;
-        QVERIFY(!test.net->NetSetNewConfig(login.handle, name.constData(), -1, text.constData(), size + 1,
-                                           error, wait));
-        QCOMPARE(static_cast<std::uint32_t>(error), test.net->NetGetLastError());
-        // Without the zero that ends it.
-        QVERIFY(!test.net->NetSetNewConfig(login.handle, name.constData(), -1, text.constData(), size, error,
-                                           wait));
-        QVERIFY(test.site->device("02:1a:c5:00:00:01")->configuration.isEmpty());
-    }
-
     void aPasswordIsChangedByWhoKnowsTheOldOne()
     {
         const TestSite test(threeCameras);

@@ -2,14 +2,10 @@
 #include "sdk/demo/fleetgenerator.h"
 #include "tests/sdk/demo/testsite.h"
 
-#include <QJsonArray>
-
-#include <atomic>
 #include <future>
 #include <latch>
 #include <set>
 #include <thread>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -24,12 +20,7 @@ private Q_SLOTS:
     void answersComeOnSeveralThreadsAtOnce();
     void stopWaitsForRunningHandlers();
     void cleanupEndsAddressSearch();
-    void cleanupEndsManySearches();
-    void handlersCannotStopTheirSearch();
-    void malformedRequestsFail_data();
-    void malformedRequestsFail();
     void errorsAreKeptPerThreadAndLibrary();
-    void librariesKeepTheSiteAlive();
 };
 
 void DemoNetLibraryTest::answersComeOnSeveralThreadsAtOnce()
@@ -100,102 +91,6 @@ void DemoNetLibraryTest::cleanupEndsAddressSearch()
     QCOMPARE(site.found(100ms).size(), 1);
 }
 
-void DemoNetLibraryTest::cleanupEndsManySearches()
-{
-    const TestSite site(FleetGenerator::generate(3000).devices);
-    QStringList addresses;
-    for (int place = 0; place < maximumSearchAddresses; ++place)
-        addresses.append(site.site->devices().at(place).address);
-    const SearchByAddressesRequest request = requestFor(addresses);
-    Collector collector;
-    std::vector<std::jthread> callers;
-    constexpr int count = 4;
-    callers.reserve(count);
-    for (int caller = 0; caller < count; ++caller) {
-        callers.emplace_back([&, caller] {
-            const std::int64_t handle = site.net->NetStartSearchDevicesEx(parameterExFor(collector), 4ms);
-            site.net->NetSearchDevicesByIPsEx(request, &Collector::handle, &collector, "0.0.0.0", 3000ms);
-            if (caller % 2 == 0)
-                site.net->NetStopSearchDevices(handle);
-        });
-    }
-    QVERIFY(site.site->requests().waitFor(u"NetSearchDevicesByIPsEx"_s, count));
-    site.clock->advance(1000ms);
-    site.net->NetCleanup();
-    const qsizetype answers = collector.count();
-    site.clock->advance(1h);
-    callers.clear();
-    QCOMPARE(collector.count(), answers);
-}
-
-void DemoNetLibraryTest::handlersCannotStopTheirSearch()
-{
-    const TestSite site(threeCameras);
-    Collector collector;
-    std::atomic<std::int64_t> handle = 0;
-    std::atomic<int> refused = 0;
-    collector.onAnswer = [&] {
-        site.net->NetCleanup();
-        if (!site.net->NetStopSearchDevices(handle) && lastError(*site.net) == DemoError::InsideHandler)
-            ++refused;
-    };
-    QTest::ignoreMessage(QtWarningMsg,
-                         "NetCleanup was called from a handler and would wait for itself: ignored");
-    handle = site.net->NetStartSearchDevices(parameterFor(collector), 4ms);
-    site.clock->advance(100ms);
-    QVERIFY(site.net->NetStopSearchDevices(handle));
-    QCOMPARE(refused.load(), 1);
-}
-
-void DemoNetLibraryTest::malformedRequestsFail_data()
-{
-    QTest::addColumn<quint32>("surplus"); // on the size of every block
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("hasHandler");
-    QTest::addColumn<DemoError>("localError");
-    QTest::addColumn<DemoError>("addressError");
-
-    QTest::newRow("size too large") << 1u << 1 << true << DemoError::WrongSize << DemoError::WrongSize;
-    QTest::newRow("size too small") << ~0u << 1 << true << DemoError::WrongSize << DemoError::WrongSize;
-    QTest::newRow("no handler") << 0u << 1 << false << DemoError::NoHandler << DemoError::NoHandler;
-    QTest::newRow("negative count") << 0u << -1 << true << DemoError::None << DemoError::WrongCount;
-    QTest::newRow("count too large") << 0u << 257 << true << DemoError::None << DemoError::WrongCount;
-    QTest::newRow("full list") << 0u << 256 << true << DemoError::None << DemoError::None;
-}
-
-void DemoNetLibraryTest::malformedRequestsFail()
-{
-    QFETCH(quint32, surplus);
-    QFETCH(int, count);
-    QFETCH(bool, hasHandler);
-    QFETCH(DemoError, localError);
-    QFETCH(DemoError, addressError);
-
-    Collector collector;
-    const TestSite site(threeCameras); // ends before the collector of its running searches
-    const SearchAnswerHandler handler = hasHandler ? &Collector::handle : nullptr;
-    const auto compare = [&site](std::int64_t result, DemoError error) {
-        QCOMPARE(result != 0, error == DemoError::None);
-        if (error != DemoError::None)
-            QCOMPARE(lastError(*site.net), error);
-    };
-    SearchParameter parameter = parameterFor(collector);
-    parameter.size += surplus;
-    parameter.handler = handler;
-    compare(site.net->NetStartSearchDevices(parameter, 4ms), localError);
-    SearchParameterEx parameterEx = parameterExFor(collector);
-    parameterEx.size += surplus;
-    parameterEx.handler = handler;
-    compare(site.net->NetStartSearchDevicesEx(parameterEx, 4ms), localError);
-
-    SearchByAddressesRequest request = requestFor({u"192.168.1.1"_s});
-    request.size += surplus;
-    request.count = count;
-    compare(site.net->NetSearchDevicesByIPs(request, handler, &collector, "0.0.0.0", 0ms), addressError);
-    compare(site.net->NetSearchDevicesByIPsEx(request, handler, &collector, "0.0.0.0", 0ms), addressError);
-    QCOMPARE(site.site->requests().all().size(), 5); // these and NetInit: malformed ones are kept too
-}
-
 void DemoNetLibraryTest::errorsAreKeptPerThreadAndLibrary()
 {
     const TestSite site(threeCameras);
@@ -213,20 +108,6 @@ void DemoNetLibraryTest::errorsAreKeptPerThreadAndLibrary()
     QCOMPARE(lastError(*other), DemoError::None);
     QVERIFY(site.net->NetInit()); // success leaves it
     QCOMPARE(lastError(*site.net), DemoError::UnknownHandle);
-}
-
-void DemoNetLibraryTest::librariesKeepTheSiteAlive()
-{
-    Collector collector;
-    TestSite site(threeCameras);
-    QVERIFY(site.net->NetStartSearchDevices(parameterFor(collector), 4ms) != 0);
-    const std::weak_ptr<DemoSite> watched = site.site;
-    site.site.reset();
-    QVERIFY(!watched.expired());
-    site.net.reset(); // in the middle of a search
-    QVERIFY(watched.expired());
-    site.clock->advance(1h);
-    QCOMPARE(collector.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(DemoNetLibraryTest)

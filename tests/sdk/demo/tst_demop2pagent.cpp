@@ -8,7 +8,6 @@
 #include <condition_variable>
 #include <future>
 #include <latch>
-#include <utility>
 
 #include <arpa/inet.h>
 #include <sys/socket.h>
@@ -120,12 +119,9 @@ class P2PAgentTest : public QObject
 
 private Q_SLOTS:
     void mapsRealPorts();
-    void refusesBadRequests_data();
-    void refusesBadRequests();
     void loginGoesThroughTheTunnel();
     void tellsItsEventsInOrder();
     void releaseEndsEverything();
-    void handlersCannotReleaseTheirAgent();
     void manyThreadsMapAtOnce();
 };
 
@@ -148,30 +144,6 @@ void P2PAgentTest::mapsRealPorts()
     QVERIFY(!site.agent->OAgent_ClientDelPort(first));
     QCOMPARE(site.localPorts(8800), QList<int>({second}));
     QCOMPARE(site.add(554, first), first); // free again, though connections of before linger
-}
-
-void P2PAgentTest::refusesBadRequests_data()
-{
-    QTest::addColumn<QByteArray>("id");
-    QTest::addColumn<int>("devicePort");
-    QTest::addColumn<int>("wish");
-    QTest::newRow("unknown ID") << QByteArray("OV9") << 8800 << 0;
-    QTest::newRow("empty ID") << QByteArray("") << 8800 << 0; // as devices without an ID have
-    QTest::newRow("device port 0") << QByteArray(deviceId) << 0 << 0;
-    QTest::newRow("device port too high") << QByteArray(deviceId) << 65536 << 0;
-    QTest::newRow("negative wish") << QByteArray(deviceId) << 8800 << -1;
-    QTest::newRow("wish too high") << QByteArray(deviceId) << 8800 << 65536 + 8800;
-}
-
-void P2PAgentTest::refusesBadRequests()
-{
-    QFETCH(QByteArray, id);
-    QFETCH(int, devicePort);
-    QFETCH(int, wish);
-    const AgentSite site;
-    QCOMPARE(site.add(devicePort, wish, id.constData()), 0);
-    QVERIFY(!site.agent->OAgent_ClientInit(AgentSite::services)); // runs already
-    QCOMPARE(site.localPorts(8800, -1), QList<int>({-1}));
 }
 
 void P2PAgentTest::loginGoesThroughTheTunnel()
@@ -250,23 +222,6 @@ void P2PAgentTest::releaseEndsEverything()
     const QList<RecordedRequest> starts = site.site->requests().of(u"OAgent_ClientInit"_s);
     QCOMPARE(starts.last().request.value(u"tunnelPort"_s).toInt(), 7885);
     QVERIFY(!QJsonDocument(starts.last().request).toJson().contains("se-cret"));
-}
-
-void P2PAgentTest::handlersCannotReleaseTheirAgent()
-{
-    AgentSite site;
-    const int port = site.add(8800);
-    site.events.onEvent = [&, isFirst = true]() mutable {
-        if (!std::exchange(isFirst, false))
-            return;
-        site.agent->OAgent_ClientRelease();
-        QVERIFY(site.add(80) > 0); // everything else works from there
-    };
-    QTest::ignoreMessage(QtWarningMsg,
-                         "OAgent_ClientRelease was called from a handler and would wait for itself: ignored");
-    site.clock->advance(100ms);
-    QCOMPARE(site.events.lines(3).size(), 3); // the service, and both tunnels
-    QCOMPARE(site.localPorts(8800), QList<int>({port}));
 }
 
 void P2PAgentTest::manyThreadsMapAtOnce()

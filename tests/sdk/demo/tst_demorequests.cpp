@@ -47,14 +47,6 @@ ModifyDeviceInput changeOf(const TestSite &site, const QString &mac)
     return input;
 }
 
-void setAddresses(ModifyDeviceInput &input, const char *address, const char *mask, const char *gateway)
-{
-    setBlockText(input.device.address, address);
-    setBlockText(input.device.subnetMask, mask);
-    setBlockText(input.device.gateway, gateway);
-    input.device.dhcpEnabled = 0;
-}
-
 DeviceRequestOutput requestOutput()
 {
     return {sizeof(DeviceRequestOutput)};
@@ -68,10 +60,6 @@ class RequestsTest : public QObject
 
 private Q_SLOTS:
     void initialisedDeviceTakesItsPassword();
-    void initialisationIsRefused_data();
-    void initialisationIsRefused();
-    void addressChangeIsRefused_data();
-    void addressChangeIsRefused();
     void dhcpGivesEachItsOwnAddress();
     void silentDevicesTakeTheWait();
     void oneAddressIsAskedUntilItAnswers();
@@ -100,89 +88,6 @@ void RequestsTest::initialisedDeviceTakesItsPassword()
     QCOMPARE(collector.count(), 2);
     for (const SearchAnswer &answer : collector.answers())
         QCOMPARE(initialisationBits(answer.device.initialisationState), InitialisationBits::Initialised);
-}
-
-void RequestsTest::initialisationIsRefused_data()
-{
-    QTest::addColumn<QString>("mac");
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<int>("surplus"); // on the size of the input
-    QTest::addColumn<quint32>("error");
-    const auto code = [](auto error) {
-        return static_cast<quint32>(error);
-    };
-    const QString mac = factoryNew(1).mac;
-    const QString good = u"New-Pass-7"_s;
-    QTest::newRow("input too large") << mac << good << 1 << code(DemoError::WrongSize);
-    QTest::newRow("input too small") << mac << good << -1 << code(DemoError::WrongSize);
-    QTest::newRow("empty password") << mac << u""_s << 0 << code(NetError::NotSupported);
-    QTest::newRow("by its fault") << factoryNew(2).mac << good << 0 << code(NetError::ConnectFailed);
-    QTest::newRow("other segment") << factoryNew(3).mac << good << 0 << code(NetError::ConnectTimeout);
-    QTest::newRow("unknown device") << factoryNew(9).mac << good << 0 << code(NetError::ConnectTimeout);
-    QTest::newRow("no MAC") << u"02:1a"_s << good << 0 << code(NetError::ConnectTimeout);
-}
-
-void RequestsTest::initialisationIsRefused()
-{
-    QFETCH(QString, mac);
-    QFETCH(QString, password);
-    QFETCH(int, surplus);
-    QFETCH(quint32, error);
-    SceneDevice refusing = factoryNew(2);
-    refusing.faults = {{Fault::RefusesInitialisation}};
-    SceneDevice elsewhere = factoryNew(3);
-    elsewhere.inOtherSegment = true;
-    const TestSite site({factoryNew(1), refusing, elsewhere});
-    InitDeviceAccountInput input = accountFor(mac, u"admin"_s, password);
-    input.size += static_cast<std::uint32_t>(surplus);
-    DeviceRequestOutput output = requestOutput();
-    QVERIFY(!site.net->NetInitDeviceAccount(input, output, 0ms, ""));
-    QCOMPARE(site.net->NetGetLastError(), error);
-    for (const SceneDevice &device : site.site->devices())
-        QVERIFY(device.isUninitialised() && device.accounts.isEmpty());
-}
-
-void RequestsTest::addressChangeIsRefused_data()
-{
-    QTest::addColumn<int>("device");
-    QTest::addColumn<QByteArray>("address");
-    QTest::addColumn<QByteArray>("mask");
-    QTest::addColumn<QByteArray>("gateway");
-    QTest::addColumn<int>("surplus");
-    QTest::addColumn<quint32>("error");
-    const auto row = [](const char *title, int device, auto error, const char *address = "10.0.0.9",
-                        const char *mask = "255.0.0.0", const char *gateway = "10.0.0.1", int surplus = 0) {
-        QTest::newRow(title) << device << QByteArray(address) << QByteArray(mask) << QByteArray(gateway)
-                             << surplus << static_cast<quint32>(error);
-    };
-    row("wrong size", 1, DemoError::WrongSize, "10.0.0.9", "255.0.0.0", "10.0.0.1", -4);
-    row("bad address", 1, NetError::NotSupported, "10.0.0.256");
-    row("unset address", 1, NetError::NotSupported, "0.0.0.0");
-    row("bad mask", 1, NetError::NotSupported, "10.0.0.9", "255.0.255.0");
-    row("bad gateway", 1, NetError::NotSupported, "10.0.0.9", "255.0.0.0", "gate");
-    row("by its fault", 2, NetError::ConnectFailed);
-    row("waits for its first password", 3, NetError::NotSupported);
-}
-
-void RequestsTest::addressChangeIsRefused()
-{
-    QFETCH(int, device);
-    QFETCH(QByteArray, address);
-    QFETCH(QByteArray, mask);
-    QFETCH(QByteArray, gateway);
-    QFETCH(int, surplus);
-    QFETCH(quint32, error);
-    SceneDevice refusing = camera(2, 0ms);
-    refusing.faults = {{Fault::RefusesAddressChange}};
-    const TestSite site({camera(1, 0ms), refusing, factoryNew(3)});
-    const QStringList before = site.found(0ms);
-    ModifyDeviceInput input = changeOf(site, camera(device, 0ms).mac);
-    setAddresses(input, address.constData(), mask.constData(), gateway.constData());
-    input.size += static_cast<std::uint32_t>(surplus);
-    DeviceRequestOutput output = requestOutput();
-    QVERIFY(!site.net->NetModifyDeviceBySearch(input, output, 0ms));
-    QCOMPARE(site.net->NetGetLastError(), error);
-    QCOMPARE(site.found(0ms), before);
 }
 
 void RequestsTest::dhcpGivesEachItsOwnAddress()

@@ -4,7 +4,6 @@
 #include "sdk/demo/fleetgenerator.h"
 #include "sdk/demo/scenereader.h"
 
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -50,7 +49,6 @@ private Q_SLOTS:
     void refusesWithClearError_data();
     void refusesWithClearError();
     void readsEveryKey();
-    void readsLargestSceneQuickly();
     void opensFilesAndNamesMistakes();
     void fleetIsTheSameEveryTime();
     void fleetIsUniqueAndMixed();
@@ -179,28 +177,6 @@ void ScenesTest::readsEveryKey()
     QCOMPARE(full.p2pId + sparse.p2pId, u"OV1OV2"_s);
     QCOMPARE(sparse.initialisation, sdk::InitialisationBits::Initialised);
     QCOMPARE(sparse.channels.size(), 3);
-}
-
-void ScenesTest::readsLargestSceneQuickly()
-{
-    QJsonArray devices;
-    for (const SceneDevice &device : FleetGenerator::generate(maximumSceneDevices).devices) {
-        devices.append(QJsonObject{{u"mac"_s, device.mac},
-                                   {u"address"_s, device.address},
-                                   {u"type"_s, device.type},
-                                   {u"name"_s, device.name},
-                                   {u"port"_s, device.port},
-                                   {u"accounts"_s, QJsonArray{QJsonObject{{u"user"_s, u"admin"_s}}}}});
-    }
-    const QByteArray json = QJsonDocument(QJsonObject{{u"devices"_s, devices}}).toJson();
-    QString error;
-    QElapsedTimer timer;
-    timer.start();
-    const std::optional<Scene> scene = SceneReader::read(json, &error);
-    QVERIFY2(scene.has_value(), qPrintable(error));
-    QCOMPARE(scene->devices.size(), maximumSceneDevices);
-    // A hundred times what it takes: a reader that compares each device with every other takes longer.
-    QVERIFY2(timer.elapsed() < 15000, qPrintable(u"%1 ms"_s.arg(timer.elapsed())));
 }
 
 void ScenesTest::opensFilesAndNamesMistakes()

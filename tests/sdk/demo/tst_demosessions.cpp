@@ -45,11 +45,7 @@ private Q_SLOTS:
     void accountLocksForGood();
     void nothingAnswersForItsTime();
     void cleanupEndsLoginsAndSessions();
-    void malformedSecureLoginsFail();
-    void sessionsAreApart();
     void configurationIsTheStateOfTheDevice();
-    void queriesFail_data();
-    void queriesFail();
     void recordKeepsNoPassword();
 };
 
@@ -195,43 +191,6 @@ void SessionsTest::cleanupEndsLoginsAndSessions()
     QVERIFY(Login(*site.net, u"192.168.1.1"_s, 8800).handle > open.handle);
 }
 
-void SessionsTest::malformedSecureLoginsFail()
-{
-    const TestSite site(threeCameras);
-    LoginSecureInput input = secureInput(u"192.168.1.1"_s, 8800, u"admin"_s, u"Pass-1"_s);
-    LoginSecureOutput output = secureOutput();
-    QVERIFY(site.net->NetLoginSecure(input, output) > 0);
-    --output.size;
-    QCOMPARE(site.net->NetLoginSecure(input, output), 0);
-    output = secureOutput();
-    ++input.size;
-    QCOMPARE(site.net->NetLoginSecure(input, output), 0);
-    QCOMPARE(lastError(*site.net), DemoError::WrongSize);
-}
-
-void SessionsTest::sessionsAreApart()
-{
-    const TestSite site(threeCameras);
-    const Login one(*site.net, u"192.168.1.1"_s, 8800);
-    const Login again(*site.net, u"192.168.1.1"_s, 8800);
-    const Login two(*site.net, u"192.168.1.2"_s, 8800);
-    QCOMPARE((QSet<std::int64_t>{one.handle, again.handle, two.handle}).size(), 3);
-    const auto mac = [&site](const Login &login) {
-        DeviceAttributes attributes = {};
-        std::uint32_t size = 0;
-        return site.net->NetQueryConfig(login.handle, QueryCommand::DeviceAttributes, 0, &attributes,
-                                        sizeof(attributes), size, 500ms)
-                   ? textOf(attributes.mac)
-                   : QString();
-    };
-    QVERIFY(site.net->NetLogout(again.handle));
-    QVERIFY(!site.net->NetLogout(again.handle));
-    QCOMPARE(mac(again), QString());
-    QCOMPARE(lastError(*site.net), DemoError::UnknownHandle);
-    QCOMPARE(mac(one), threeCameras.at(0).mac);
-    QCOMPARE(mac(two), threeCameras.at(1).mac);
-}
-
 void SessionsTest::configurationIsTheStateOfTheDevice()
 {
     SceneDevice device = camera(1, 0ms);
@@ -266,60 +225,6 @@ void SessionsTest::configurationIsTheStateOfTheDevice()
     QCOMPARE(QList<int>({https.enabled, https.port}), QList<int>({1, 8443}));
     fetch(plain, "Https", https);
     QCOMPARE(https.enabled, 0);
-}
-
-void SessionsTest::queriesFail_data()
-{
-    QTest::addColumn<int>("size");  // of the buffer
-    QTest::addColumn<int>("shift"); // of the handle
-    QTest::addColumn<quint32>("command");
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("fault");
-    QTest::addColumn<quint32>("error");
-    const auto code = [](auto error) {
-        return static_cast<quint32>(error);
-    };
-    const int room = 4096;
-    QTest::newRow("buffer too small")
-        << 20 << 0 << 1u << QByteArray("Https") << -1 << code(DemoError::WrongSize);
-    QTest::newRow("other handle") << room << 1 << 1u << QByteArray("Https") << -1
-                                  << code(DemoError::UnknownHandle);
-    QTest::newRow("unknown query") << room << 0 << 2u << QByteArray("Smoke") << -1
-                                   << code(NetError::NotSupported);
-    QTest::newRow("no answer any more")
-        << room << 0 << 1u << QByteArray("Https") << static_cast<int>(Fault::NoAnswer)
-        << code(NetError::NetworkFailure);
-    QTest::newRow("refused name") << room << 0 << 2u << QByteArray("Https")
-                                  << static_cast<int>(Fault::RefusesConfiguration)
-                                  << code(NetError::NotSupported);
-}
-
-void SessionsTest::queriesFail()
-{
-    QFETCH(int, size);
-    QFETCH(int, shift);
-    QFETCH(quint32, command);
-    QFETCH(QByteArray, name);
-    QFETCH(int, fault);
-    QFETCH(quint32, error);
-    const TestSite site(threeCameras);
-    const Login login(*site.net, u"192.168.1.1"_s, 8800);
-    if (fault >= 0)
-        site.site->setFault(threeCameras.at(0).mac, {static_cast<Fault>(fault), 0, u"Https"_s});
-
-    QByteArray buffer(4096, 'b');
-    const QByteArray untouched = buffer;
-    const auto bufferSize = static_cast<std::uint32_t>(size);
-    std::uint32_t returned = 99;
-    QVERIFY(!site.net->NetQueryConfig(login.handle + shift, static_cast<QueryCommand>(command), 0,
-                                      buffer.data(), bufferSize, returned, 0ms));
-    QCOMPARE(site.net->NetGetLastError(), error);
-    QCOMPARE(returned, 0u);
-    std::int32_t configError = 0;
-    QVERIFY(!site.net->NetGetNewConfig(login.handle + shift, name.constData(), 0, buffer.data(), bufferSize,
-                                       configError, 0ms));
-    QCOMPARE(static_cast<std::uint32_t>(configError), error);
-    QCOMPARE(buffer, untouched);
 }
 
 void SessionsTest::recordKeepsNoPassword()

@@ -51,35 +51,6 @@ class StreamEndsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsAreRefused_data()
-    {
-        QTest::addColumn<int>("channel");
-        QTest::addColumn<int>("kind");
-        QTest::newRow("no such channel") << 3 << 0;
-        QTest::newRow("negative channel") << -1 << 0;
-        QTest::newRow("nothing connected") << notConnected << 0;
-        QTest::newRow("no such kind") << 0 << 2;
-        QTest::newRow("switched off") << 0 << 1;
-    }
-
-    void startsAreRefused()
-    {
-        QFETCH(int, channel);
-        QFETCH(int, kind);
-        const StreamSite site(threeChannels());
-        site.change<VideoFormatItem>(
-            EncodeItem::VideoFormat, [](VideoFormatItem &item) { item.videoEnable = 0; }, StreamKind::Sub);
-        QCOMPARE(
-            site.net->NetStartRealStream(site.login.handle, channel, 0, static_cast<LiveStreamKind>(kind)),
-            0);
-        QCOMPARE(netError(*site.net), NetError::NotSupported);
-        const QList<RecordedRequest> requests = site.site->requests().of(u"NetStartRealStream"_s);
-        QCOMPARE(requests.size(), 1);
-        QCOMPARE(requests.first().mac, threeChannels().mac);
-        QCOMPARE(requests.first().request.value(u"channel"_s).toInt(), channel);
-        QCOMPARE(requests.first().request.value(u"kind"_s).toInt(), kind);
-    }
-
     void devicesThatAreAwayOrNewStreamNothing()
     {
         const StreamSite site(threeChannels());
@@ -266,38 +237,6 @@ private Q_SLOTS:
         QVERIFY(!net->NetStopRealStream(handle));
         QCOMPARE(net->NetStartRealStream(login.handle, 0, 0, LiveStreamKind::Main), 0);
         QVERIFY(!last.wasBroken);
-    }
-
-    void whatWouldWaitForItselfIsRefusedInHandlers()
-    {
-        const StreamSite site(threeChannels());
-        Watcher watcher;
-        std::int64_t handle = site.net->NetStartRealStream(site.login.handle, 0, 0, LiveStreamKind::Main);
-        QList<bool> refused;
-        QList<bool> allowed;
-        watcher.onData = [&] {
-            if (!refused.isEmpty())
-                return; // once: later calls may come while the stream is being stopped
-            const auto isRefused = [&](bool result) {
-                return !result && lastError(*site.net) == DemoError::InsideHandler;
-            };
-            refused = {isRefused(site.net->NetStopRealStream(handle)),
-                       isRefused(site.net->NetSetRealDataCallback(handle, nullptr, nullptr, 1)),
-                       isRefused(site.net->NetLogout(site.login.handle))};
-            ChannelStates states = {sizeof(states), 0, {}};
-            const std::int64_t second =
-                site.net->NetStartRealStream(site.login.handle, 0, 0, LiveStreamKind::Main);
-            allowed = {site.net->NetStreamFollowUp(handle, 0, 0), second != 0,
-                       site.net->NetQueryChannelStates(site.login.handle, states, 1s)};
-            QTest::ignoreMessage(QtWarningMsg, "NetCleanup was called from a handler and would wait for "
-                                               "itself: ignored");
-            site.net->NetCleanup();
-        };
-        QVERIFY(site.net->NetSetRealDataCallback(handle, &Watcher::handle, &watcher, 1));
-        QVERIFY(watcher.waitForMore(0));
-        QVERIFY(site.net->NetStopRealStream(handle));
-        QCOMPARE(refused, QList<bool>(3, true));
-        QCOMPARE(allowed, QList<bool>(3, true));
     }
 
     void channelStatesAreThoseOfTheScene()

@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <future>
-#include <set>
 
 using namespace sdk;
 using namespace sdk::ffmpeg;
@@ -45,71 +44,13 @@ class FfmpegPortsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void operationsNeedTheirState();
-    void portsAreNumberedAndEnd();
     void bufferTakesWhatFits();
     void headerComesWithTheOpening();
     void removedHandlerRunsNoMore();
     void stopsInTheMiddle();
-    void handlersMayCallNothing();
     void lastTwoPicturesStay();
-    void playsAgain();
     void hundredStartsLeaveNothing();
 };
-
-void FfmpegPortsTest::operationsNeedTheirState()
-{
-    FfmpegDecoderLibrary library;
-    const std::uint8_t byte = 0;
-    DecoderStatus status{};
-    for (const std::int32_t port : {-1, 0, 7}) {
-        QVERIFY(!library.DecoderSetStreamMode(port, 0));
-        QVERIFY(!library.DecoderOpenStream(port, nullptr, 0, usualBuffer));
-        QVERIFY(!library.DecoderSetDecodeCallback(port, nullptr, nullptr));
-        QVERIFY(!library.DecoderPlay(port, 0));
-        QVERIFY(!library.DecoderInputData(port, &byte, 1));
-        QVERIFY(!library.DecoderStop(port));
-        QVERIFY(!library.DecoderCloseStream(port));
-        QVERIFY(!library.DecoderFreePort(port));
-        QVERIFY(!library.DecoderGetStatus(port, status));
-    }
-    std::int32_t port = -1;
-    QVERIFY(library.DecoderAllocPort(port));
-    QVERIFY(!library.DecoderSetStreamMode(port, 1));
-    QVERIFY(!library.DecoderPlay(port, 0));
-    QVERIFY(!library.DecoderInputData(port, &byte, 1));
-    QVERIFY(!library.DecoderCloseStream(port));
-    QVERIFY(!library.DecoderOpenStream(port, nullptr, 5, usualBuffer));
-    QVERIFY(!library.DecoderOpenStream(port, nullptr, 0, 0));
-    QVERIFY(library.DecoderOpenStream(port, nullptr, 0, usualBuffer));
-    QVERIFY(!library.DecoderOpenStream(port, nullptr, 0, usualBuffer));
-    QVERIFY(!library.DecoderInputData(port, nullptr, 1));
-    QVERIFY(library.DecoderInputData(port, nullptr, 0));
-    QVERIFY(!library.DecoderStop(port));
-    QVERIFY(library.DecoderPlay(port, 0));
-    QVERIFY(!library.DecoderPlay(port, 0));
-    QVERIFY(library.DecoderStop(port));
-    QVERIFY(library.DecoderCloseStream(port));
-    QVERIFY(!library.DecoderInputData(port, &byte, 1));
-    QVERIFY(library.DecoderFreePort(port));
-}
-
-void FfmpegPortsTest::portsAreNumberedAndEnd()
-{
-    FfmpegDecoderLibrary library;
-    std::set<std::int32_t> numbers;
-    std::int32_t port = -1;
-    while (numbers.size() < 10000 && library.DecoderAllocPort(port))
-        numbers.insert(port);
-    QCOMPARE(numbers.size(), std::size_t{512});
-    QCOMPARE(*numbers.begin(), 0);
-    QVERIFY(library.DecoderFreePort(300));
-    port = -5;
-    QVERIFY(library.DecoderAllocPort(port));
-    QCOMPARE(port, 300);
-    QVERIFY(!library.DecoderAllocPort(port));
-    QCOMPARE(port, 300);
-}
 
 void FfmpegPortsTest::bufferTakesWhatFits()
 {
@@ -223,22 +164,6 @@ void FfmpegPortsTest::stopsInTheMiddle()
     QVERIFY(!ranAfterStop);
 }
 
-void FfmpegPortsTest::handlersMayCallNothing()
-{
-    LiveStream stream(mjpeg);
-    TestPort port;
-    std::atomic<int> done = 0;
-    port.receiver.onDelivery = [&] {
-        const bool isRefused = !port.library.DecoderStop(port.number) &&
-                               !port.library.DecoderFreePort(port.number) &&
-                               !port.library.DecoderSetDecodeCallback(port.number, nullptr, nullptr);
-        done += isRefused ? 1 : 0;
-    };
-    QVERIFY(port.push(stream.head() + stream.pictures(2)));
-    QTRY_COMPARE(port.receiver.pictures().size(), 2);
-    QCOMPARE(done, 2);
-}
-
 void FfmpegPortsTest::lastTwoPicturesStay()
 {
     LiveStream small(mjpeg);
@@ -261,19 +186,6 @@ void FfmpegPortsTest::lastTwoPicturesStay()
     QVERIFY(port.library.DecoderCloseStream(port.number));
     port.receiver.onDelivery();
     QCOMPARE(gone, 0);
-}
-
-void FfmpegPortsTest::playsAgain()
-{
-    LiveStream stream(mjpeg);
-    TestPort port;
-    QVERIFY(port.push(stream.head() + stream.pictures(2)));
-    QTRY_COMPARE(port.receiver.pictures().size(), 2);
-    QVERIFY(port.library.DecoderStop(port.number));
-    QVERIFY(port.push(stream.pictures(2, 2))); // waits
-    QCOMPARE(port.receiver.pictures().size(), 2);
-    QVERIFY(port.library.DecoderPlay(port.number, 0)); // without a new head
-    QTRY_COMPARE(port.receiver.pictures().size(), 4);
 }
 
 void FfmpegPortsTest::hundredStartsLeaveNothing()
