@@ -72,6 +72,7 @@ QVariant OVTreeModel::groupData(const Group &group, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case NameRole:
+    case IdentityRole:
         return group.type;
     case IsCheckedRole:
         if (group.checkedCount == 0)
@@ -94,6 +95,8 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
         return device.checked ? Qt::Checked : Qt::Unchecked;
     case CopyRetRole:
         return device.copyRet;
+    case IdentityRole:
+        return device.identity;
     case Qt::ToolTipRole:
         return device.detail;
     default:
@@ -199,13 +202,14 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     for (const Group &group : std::as_const(m_groups)) {
         for (const Device &device : group.devices) {
             if (device.checked || device.copyRet != NoResult)
-                m_remembered.insert(device.ipport, device);
+                m_remembered.insert(device.identity, device);
             else
-                m_remembered.remove(device.ipport);
+                m_remembered.remove(device.identity);
         }
     }
 
     QHash<QString, qsizetype> places;
+    QHash<QString, int> withoutMac; // rows by address
     QList<Group> groups;
     for (const QVariant &row : rows) {
         const QJsonObject values = row.toJsonObject();
@@ -218,7 +222,14 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
             places.insert(typeText, position);
             groups.append({.type = typeText, .devices = {}});
         }
-        const Device device = deviceOf(values);
+        QString identity = values.value(DeviceRowKey::mac).toString();
+        if (identity.isEmpty()) {
+            identity = values.value(DeviceRowKey::ipport).toString();
+            const int before = withoutMac[identity]++;
+            if (before > 0)
+                identity += QLatin1Char('#') + QString::number(before);
+        }
+        const Device device = deviceOf(identity, values);
         groups[position].devices.append(device);
         groups[position].checkedCount += device.checked ? 1 : 0;
     }
@@ -233,10 +244,10 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     Q_EMIT checkedDevicesChanged();
 }
 
-OVTreeModel::Device OVTreeModel::deviceOf(const QJsonObject &row) const
+OVTreeModel::Device OVTreeModel::deviceOf(const QString &identity, const QJsonObject &row) const
 {
-    const QString ipport = row.value(DeviceRowKey::ipport).toString();
-    Device device = m_remembered.value(ipport, {.ipport = ipport});
+    Device device = m_remembered.value(identity, {.identity = identity, .ipport = {}});
+    device.ipport = row.value(DeviceRowKey::ipport).toString();
     const QString name = row.value(DeviceRowKey::name).toString();
     const QString model = row.value(DeviceRowKey::model).toString();
     device.detail = name.isEmpty() || model.isEmpty() ? name + model : name + QStringLiteral(" · ") + model;

@@ -10,11 +10,13 @@
 
 class CDeviceFactory;
 
-/// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named and keyed
-/// by their "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
+/// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named by their
+/// "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
 /// order with "PC-NVR" and then "Other" at the end, since they are no device hardware; devices in the order
 /// of the list. The tick of a group covers its devices and is partial when some of them are ticked. Ticks and
-/// results outlive a rebuild.
+/// results outlive a rebuild. They belong to the device, which its MAC identifies (its "ipport" if it reports
+/// none): a device that gets another address keeps its tick, and one that gets that address does not inherit
+/// it.
 class OVTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -39,7 +41,8 @@ public:
     {
         NameRole = Qt::UserRole, ///< "name": text of the node
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
-        CopyRetRole, ///< "copyRet": result of what was last done with the device, NoResult at first
+        CopyRetRole,  ///< "copyRet": result of what was last done with the device, NoResult at first
+        IdentityRole, ///< not for the scene: unique text of a device or of a group among its kind
     };
 
     explicit OVTreeModel(QObject *parent = nullptr);
@@ -86,6 +89,7 @@ Q_SIGNALS:
 private:
     struct Device
     {
+        QString identity;
         QString ipport;
         bool checked = false;
         int copyRet = NoResult;
@@ -101,7 +105,7 @@ private:
 
     [[nodiscard]] static bool isGroup(const QModelIndex &index) { return index.internalId() == 0; }
     [[nodiscard]] const Group &groupOf(const QModelIndex &device) const;
-    [[nodiscard]] Device deviceOf(const QJsonObject &row) const;
+    [[nodiscard]] Device deviceOf(const QString &identity, const QJsonObject &row) const;
     void notePlaces();
     void checkGroup(const QModelIndex &group, bool checked);
     void writeResult(const QModelIndex &device, int result);
@@ -112,5 +116,6 @@ private:
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     QList<Group> m_groups;
     QMultiHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
-    QHash<QString, Device> m_remembered; ///< ticks and results of devices that a search text hides, by ipport
+    QHash<QString, Device>
+        m_remembered; ///< ticks and results of devices that a search text hides, by identity
 };

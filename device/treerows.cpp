@@ -86,6 +86,9 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
         return isGroup && m_groups.at(place->group).isOpen;
     case CountRole:
         return isGroup ? m_groups.at(place->group).devices : 0;
+    case IdentityRole: // a device may report the type of a group as its MAC
+        return (isGroup ? QStringLiteral("group ") : QStringLiteral("device ")) +
+               fromTree(OVTreeModel::IdentityRole).toString();
     default:
         return {};
     }
@@ -93,9 +96,9 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> DeviceTreeRows::roleNames() const
 {
-    return {{TitleRole, "title"},      {DetailRole, "detail"},   {TickRole, "tick"},
-            {ResultRole, "result"},    {IsGroupRole, "isGroup"}, {IsOpenRole, "isOpen"},
-            {CountRole, "deviceCount"}};
+    return {{TitleRole, "title"},       {DetailRole, "detail"},    {TickRole, "tick"},
+            {ResultRole, "result"},     {IsGroupRole, "isGroup"},  {IsOpenRole, "isOpen"},
+            {CountRole, "deviceCount"}, {IdentityRole, "identity"}};
 }
 
 void DeviceTreeRows::setOpen(int row, bool open)
@@ -123,6 +126,11 @@ void DeviceTreeRows::setOpen(int row, bool open)
     Q_EMIT dataChanged(index(row), index(row), {IsOpenRole});
 }
 
+void DeviceTreeRows::toggleOpen(int row)
+{
+    setOpen(row, !data(index(row), IsOpenRole).toBool());
+}
+
 void DeviceTreeRows::toggleTick(int row)
 {
     const std::optional<Place> place = placeOf(row);
@@ -131,6 +139,25 @@ void DeviceTreeRows::toggleTick(int row)
     const QModelIndex index = treeIndex(*place);
     const bool isWhole = m_tree->data(index, OVTreeModel::IsCheckedRole).toInt() == Qt::Checked;
     m_tree->setData(index, !isWhole, OVTreeModel::IsCheckedRole);
+}
+
+int DeviceTreeRows::rowOf(const QString &identity) const
+{
+    int row = m_rows - 1;
+    while (row >= 0 && identityAt(row) != identity)
+        --row;
+    return row;
+}
+
+QString DeviceTreeRows::deviceAt(int row) const
+{
+    const std::optional<Place> place = placeOf(row);
+    return place && place->device >= 0 ? data(index(row), TitleRole).toString() : QString();
+}
+
+QString DeviceTreeRows::identityAt(int row) const
+{
+    return data(index(row), IdentityRole).toString();
 }
 
 int DeviceTreeRows::groupRowOf(int row) const

@@ -26,6 +26,7 @@ public:
         IsGroupRole,              ///< "isGroup"
         IsOpenRole,               ///< "isOpen": of a group
         CountRole,                ///< "deviceCount": of a group
+        IdentityRole,             ///< "identity": text by which rowOf() finds the row again
     };
 
     explicit DeviceTreeRows(QObject *parent = nullptr) : QAbstractListModel(parent) {}
@@ -41,9 +42,19 @@ public:
 
     /// Opens or closes a group.
     Q_INVOKABLE void setOpen(int row, bool open);
+    Q_INVOKABLE void toggleOpen(int row);
 
     /// Ticks what is not ticked whole, and unticks what is.
     Q_INVOKABLE void toggleTick(int row);
+
+    /// The row with this identity, -1 when it is not there or its group is closed.
+    Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
+
+    /// "ipport" of a device, empty for a group.
+    Q_INVOKABLE [[nodiscard]] QString deviceAt(int row) const;
+
+    /// Text by which rowOf() finds the row again.
+    Q_INVOKABLE [[nodiscard]] QString identityAt(int row) const;
 
     /// The row of the group that a device stands in; the row itself for a group.
     Q_INVOKABLE [[nodiscard]] int groupRowOf(int row) const;

@@ -103,6 +103,27 @@ private Q_SLOTS:
         QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.3:37777"));
         QCOMPARE(state(0), Qt::PartiallyChecked);
         QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 999);
+
+        // They go with the device to another address, and not to the device that gets the old one.
+        QJsonObject moved = m_site->rows->ipv4.at(3).toJsonObject();
+        moved.insert("ipport", "10.0.0.9:37777");
+        m_site->rows->ipv4[3] = moved;
+        m_site->rows->add({.address = "10.0.0.3", .mac = "m9", .type = "IPC"});
+        m_model->resetItems("removeuninit", "");
+        QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.9:37777"));
+        QCOMPARE(m_model->index(2, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), -1);
+    }
+
+    void devicesWithoutAMacAreTickedOneByOne()
+    {
+        for (int device = 0; device < 2; ++device)
+            m_site->rows->add({.address = "10.0.0.7", .mac = "", .type = "SD"});
+        m_model->resetItems("removeuninit", "");
+        const QModelIndex group = m_model->index(1, 0);
+        m_model->setData(m_model->index(2, 0, group), true, OVTreeModel::IsCheckedRole);
+        m_model->resetItems("removeuninit", "");
+        QCOMPARE(state(1, 1), Qt::Unchecked);
+        QCOMPARE(state(1, 2), Qt::Checked);
     }
 
     void aResultFindsItsDevice()
@@ -161,9 +182,15 @@ private Q_SLOTS:
         };
         QCOMPARE(titles(), "IPC 3:37777 5:37777 SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
         QCOMPARE(rows.groupRowOf(4), 3);
+        const QString third = rows.identityAt(2);
+        QCOMPARE(rows.rowOf(third), 2);
+        QCOMPARE(rows.rowOf(rows.identityAt(3)), 3);
+        QCOMPARE(rows.deviceAt(2), "10.0.0.5:37777");
+        QCOMPARE(rows.deviceAt(3), "");
         rows.setOpen(0, false);
         rows.setOpen(0, false);
         QCOMPARE(titles(), "IPC SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
+        QCOMPARE(rows.rowOf(third), -1);
         m_model->resetItems("nofilter", ""); // closed it stays
         QCOMPARE(titles(), "IPC SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
         QCOMPARE(rows.index(0).data(DeviceTreeRows::CountRole).toInt(), 3);

@@ -2,6 +2,7 @@
 #include "sdk/demo/fault.h"
 #include "sdk/encodeblocks.h"
 #include "tests/tour/driver.h"
+#include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>
@@ -115,6 +116,20 @@ void walkLogin(Driver &driver)
 {
     driver.click(u"tab2"_s);
     driver.report(u"config-none"_s, driver.text(u"emptyTitle"_s));
+    const QQuickItem *deviceTree = driver.require(u"deviceTree"_s);
+    {
+        // The first click is one into a tree that has not had the keyboard yet.
+        const ScrolledTree tree(driver);
+        const QString device = tree.clickDevice();
+        driver.check(deviceTree->property("chosenDevice").toString() == device,
+                     u"the login is one to the device that was clicked"_s);
+        driver.require(u"devicePasswordField"_s);
+        driver.click(u"cancelButton"_s);
+        driver.await(u"the login is given up"_s, [&] { return !driver.find(u"devicePasswordField"_s); });
+        tree.tickGroup();
+        tree.tickDevice();
+        driver.turnWheel(deviceTree->mapToScene({1, 1}), 100);
+    }
     driver.click(u"device_"_s + first);
     driver.require(u"devicePasswordField"_s);
     driver.report(u"config-refused"_s, driver.text(u"configState"_s));

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTest>
 #include <QTextStream>
+#include <QWheelEvent>
 
 #include <cstdlib>
 #include <utility>
@@ -127,6 +128,14 @@ void Driver::doubleClick(const QString &name) const
 void Driver::rightClick(const QString &name) const
 {
     QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, middleOf(require(name)));
+}
+
+void Driver::turnWheel(QPointF place, int notches) const
+{
+    constexpr int notch = 120;
+    QWheelEvent event(place, m_window->mapToGlobal(place), {}, {0, notch * notches}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(m_window, &event);
 }
 
 void Driver::answerFileBox(const QString &path) const

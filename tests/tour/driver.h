@@ -39,6 +39,7 @@ public:
     void hover(const QString &name) const;
     void doubleClick(const QString &name) const;
     void rightClick(const QString &name) const;
+    void turnWheel(QPointF place, int notches) const; ///< upwards; `place` is one of the window
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
     /// Types into the item that has the keyboard. Text that no key makes is put in as an input method does.

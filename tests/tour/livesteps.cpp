@@ -13,7 +13,6 @@
 #include <QSize>
 #include <QTest>
 #include <QVariantMap>
-#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -80,14 +79,6 @@ void awaitPictures(const Driver &live, int places)
     });
 }
 
-void turnWheel(const Driver &live, QPointF place, int notches)
-{
-    constexpr int notch = 120;
-    QWheelEvent event(place, live.window()->mapToGlobal(place), {}, {0, notch * notches}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(live.window(), &event);
-}
-
 void walkCamera(Driver &live)
 {
     awaitPictures(live, 1);
@@ -100,7 +91,7 @@ void walkCamera(Driver &live)
 
     QQuickItem *video = videoIn(live, 0);
     const QPointF corner(video->width() / 4, video->mapToScene({0, video->height() / 4}).y());
-    turnWheel(live, corner, 4);
+    live.turnWheel(corner, 4);
     live.check(video->property("zoomLevel").toInt() == 4, u"the wheel zooms"_s);
     live.report(u"zoomed"_s, u"about the pointer"_s);
     const QPoint from = video->mapToScene({video->width() / 2, video->height() / 2}).toPoint();
@@ -108,7 +99,7 @@ void walkCamera(Driver &live)
     QTest::mouseMove(live.window(), from - QPoint(120, 60));
     QTest::mouseRelease(live.window(), Qt::LeftButton, Qt::NoModifier, from - QPoint(120, 60));
     live.report(u"panned"_s, u"dragged to the left and up"_s);
-    turnWheel(live, from, -20);
+    live.turnWheel(from, -20);
     live.check(video->property("zoomLevel").toInt() == 0, u"the whole picture is back"_s);
 
     live.click(u"liveStretchButton"_s);

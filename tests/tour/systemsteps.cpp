@@ -1,4 +1,5 @@
 #include "tests/tour/driver.h"
+#include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>
@@ -63,6 +64,14 @@ void walkTime(Driver &driver)
 {
     setDefaultPassword(driver, QStringLiteral("not the password"));
     driver.click(QStringLiteral("tab3"));
+    {
+        // The first click is one into a tree that has not had the keyboard yet.
+        const ScrolledTree tree(driver);
+        tree.tickGroup();
+        tree.tickDevice();
+        (void)tree.clickDevice();
+        driver.turnWheel(driver.require(QStringLiteral("deviceTree"))->mapToScene({1, 1}), 100);
+    }
     for (const QString &device : {first, second, third})
         tick(driver, device);
     driver.report(QStringLiteral("system-time"), driver.text(QStringLiteral("computerTime")));

@@ -14,12 +14,25 @@ ListView {
     property string chosenDevice
     property bool byPointer: false      // the focus came with a click, which needs no ring
     property real keptY: 0
+    // The row that the keys act on. `currentIndex` of the view stays -1: a change of it scrolls the view, so that a
+    // click would take the row away from under the pointer.
+    property int cursor: -1
+    property string cursorIdentity
     signal deviceChosen(string ipport)
 
-    function pick(row) {
+    function moveCursor(row) {
+        cursor = row;
+        cursorIdentity = rows.identityAt(row);
+    }
+
+    /// Makes the row with this identity the current one and returns it; -1 when it is gone.
+    function pick(identity) {
+        const row = rows.rowOf(identity);
+        if (row >= 0)
+            moveCursor(row);
         forceActiveFocus(Qt.MouseFocusReason);
         byPointer = true;
-        currentIndex = row;
+        return row;
     }
 
     function scrollBy(by) {
@@ -42,33 +55,33 @@ ListView {
     onActiveFocusChanged: {
         if (!focus)  // it keeps the focus of its page while something lies over that
             byPointer = false;
-        if (activeFocus && currentIndex < 0 && count > 0)
-            currentIndex = 0;
+        if (activeFocus && cursor < 0 && count > 0)
+            moveCursor(Math.min(count - 1, Math.ceil(contentY / Theme.controlHeight)));
     }
 
     Keys.onPressed: event => {
         const page = Math.max(1, Math.floor(height / Theme.controlHeight) - 1);
         const targets = {
-            [Qt.Key_Up]: currentIndex - 1, [Qt.Key_Down]: currentIndex + 1, [Qt.Key_PageUp]: currentIndex - page,
-            [Qt.Key_PageDown]: currentIndex + page, [Qt.Key_Home]: 0, [Qt.Key_End]: count - 1
+            [Qt.Key_Up]: cursor - 1, [Qt.Key_Down]: cursor + 1, [Qt.Key_PageUp]: cursor - page,
+            [Qt.Key_PageDown]: cursor + page, [Qt.Key_Home]: 0, [Qt.Key_End]: count - 1
         };
         event.accepted = true;
         if (targets[event.key] !== undefined && count > 0) {
-            currentIndex = Math.max(0, Math.min(count - 1, targets[event.key]));
-            positionViewAtIndex(currentIndex, ListView.Contain);
-        } else if (event.key === Qt.Key_Space && currentIndex >= 0) {
-            rows.toggleTick(currentIndex);
+            moveCursor(Math.max(0, Math.min(count - 1, targets[event.key])));
+            positionViewAtIndex(cursor, ListView.Contain);
+        } else if (event.key === Qt.Key_Space && cursor >= 0) {
+            rows.toggleTick(cursor);
         } else if (choosing && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            const row = itemAtIndex(currentIndex);
-            if (row && !row.isGroup)
-                deviceChosen(row.title);
-        } else if (event.key === Qt.Key_Right && currentIndex >= 0) {
-            rows.setOpen(currentIndex, true);
-        } else if (event.key === Qt.Key_Left && currentIndex >= 0) {
-            const group = rows.groupRowOf(currentIndex);
-            if (group === currentIndex)
+            const device = rows.deviceAt(cursor);
+            if (device !== "")
+                deviceChosen(device);
+        } else if (event.key === Qt.Key_Right && cursor >= 0) {
+            rows.setOpen(cursor, true);
+        } else if (event.key === Qt.Key_Left && cursor >= 0) {
+            const group = rows.groupRowOf(cursor);
+            if (group === cursor)
                 rows.setOpen(group, false);
-            currentIndex = group;
+            moveCursor(group);
             positionViewAtIndex(group, ListView.Contain);
         } else {
             event.accepted = false;
@@ -81,21 +94,15 @@ ListView {
         busy: !isGroup && root.busyDevice !== "" && title === root.busyDevice
         chosen: root.choosing && !isGroup && title === root.chosenDevice
         choosing: root.choosing
-        current: index === root.currentIndex && root.activeFocus
+        current: index === root.cursor && root.activeFocus
         describer: root.describer
-        onOpenToggled: {
-            root.pick(index);
-            root.rows.setOpen(index, !isOpen);
+        onOpenToggled: identity => root.rows.toggleOpen(root.pick(identity))
+        onPicked: identity => {
+            const device = root.rows.deviceAt(root.pick(identity));
+            if (root.choosing && device !== "")
+                root.deviceChosen(device);
         }
-        onPicked: {
-            root.pick(index);
-            if (root.choosing && !isGroup)
-                root.deviceChosen(title);
-        }
-        onTickToggled: {
-            root.pick(index);
-            root.rows.toggleTick(index);
-        }
+        onTickToggled: identity => root.rows.toggleTick(root.pick(identity))
     }
     // qmllint enable unqualified
 
@@ -124,6 +131,7 @@ ListView {
         interval: 0
         onTriggered: {
             root.forceLayout();
+            root.cursor = root.cursorIdentity === "" ? -1 : root.rows.rowOf(root.cursorIdentity);
             root.contentY = Math.max(0, Math.min(root.contentHeight - root.height, root.keptY));
         }
     }

@@ -6,6 +6,7 @@ Rectangle {
     id: root
 
     required property int index
+    required property string identity
     required property string title
     required property string detail
     required property int tick
@@ -18,9 +19,18 @@ Rectangle {
     property bool busy: false
     property bool choosing: false
     property bool chosen: false
-    signal picked
-    signal openToggled
-    signal tickToggled
+    property string pressedIdentity
+    signal picked(string identity)
+    signal openToggled(string identity)
+    signal tickToggled(string identity)
+
+    /// A click acts on what was under the pointer when the button went down: this item may show another row since.
+    /// A screen reader clicks without a press.
+    function takePressed() {
+        const identity = pressedIdentity !== "" ? pressedIdentity : root.identity;
+        pressedIdentity = "";
+        return identity;
+    }
 
     readonly property bool hasResult: !isGroup && result !== OVTreeModel.NoResult
     readonly property bool waits: result === OVTreeModel.WaitsForPassword
@@ -41,8 +51,9 @@ Rectangle {
     }
     MouseArea {
         anchors.fill: parent
-        onClicked: root.picked()
-        onDoubleClicked: if (root.isGroup) root.openToggled()
+        onPressed: root.pressedIdentity = root.identity
+        onClicked: root.picked(root.takePressed())
+        onDoubleClicked: root.openToggled(root.takePressed())
     }
 
     OVIconButton {
@@ -56,7 +67,8 @@ Rectangle {
         objectName: "open_" + root.title
         toolTip: root.isOpen ? qsTr("收起") : qsTr("展开")
         visible: root.isGroup
-        onClicked: root.openToggled()
+        onPressed: root.pressedIdentity = root.identity
+        onClicked: root.openToggled(root.takePressed())
     }
 
     // A part of the row's surface, not a control of its own: a click counts around the box, too.
@@ -65,7 +77,8 @@ Rectangle {
         width: Theme.boxSize + 2 * Theme.unit
         height: parent.height
         objectName: "tick_" + root.title
-        onClicked: root.tickToggled()
+        onPressed: root.pressedIdentity = root.identity
+        onClicked: root.tickToggled(root.takePressed())
 
         OVCheckBox {
             anchors.centerIn: parent
@@ -79,7 +92,8 @@ Rectangle {
             // The model owns the tick; the area under the box takes the click.
             MouseArea {
                 anchors.fill: parent
-                onClicked: root.tickToggled()
+                onPressed: root.pressedIdentity = root.identity
+                onClicked: root.tickToggled(root.takePressed())
             }
         }
 
