@@ -9,6 +9,17 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+QString deviceName(const QJsonObject &row)
+{
+    const QString name = row.value(DeviceRowKey::model).toString() + QLatin1Char(' ') +
+                         row.value(DeviceRowKey::mac).toString();
+    return name.trimmed().isEmpty() ? row.value(DeviceRowKey::ipport).toString() : name.trimmed();
+}
+
+} // namespace
+
 AddressPlan::AddressPlan(QObject *parent) : DialogRows(parent) {}
 
 int AddressPlan::rowCount(const QModelIndex &parent) const
@@ -37,6 +48,20 @@ void AddressPlan::setMask(const QString &mask)
 {
     if (std::exchange(m_mask, mask) != mask)
         plan();
+}
+
+void AddressPlan::setGateway(const QString &gateway)
+{
+    if (std::exchange(m_gateway, gateway) != gateway)
+        Q_EMIT planChanged();
+}
+
+bool AddressPlan::isGatewayOutside() const
+{
+    const std::optional<std::uint32_t> start = ipv4Number(m_startAddress);
+    const std::optional<std::uint32_t> mask = ipv4Number(m_mask);
+    const std::optional<std::uint32_t> gateway = ipv4Number(m_gateway);
+    return start && gateway && mask && isSubnetMask(*mask) && (*gateway & *mask) != (*start & *mask);
 }
 
 void AddressPlan::setSameAddress(bool sameAddress)
@@ -73,7 +98,7 @@ void AddressPlan::setDevices(const QVariantList &rows)
         if (batch.contains(mac.isEmpty() ? ipport : mac))
             continue; // it gives its address up
         if (const auto address = ipv4Number(QStringView(ipport).left(ipport.lastIndexOf(QLatin1Char(':')))))
-            ++m_taken[*address];
+            m_taken.insert(*address, deviceName(row));
     }
     endResetModel();
     plan();
@@ -121,6 +146,11 @@ AddressPlan::Mark AddressPlan::markOf(const Row &row, std::uint32_t start,
 QString AddressPlan::addressOf(int row) const
 {
     return m_planned && row >= 0 && row < rowCount() ? ipv4Text(m_rows.at(row).address) : QString();
+}
+
+QString AddressPlan::otherDeviceAt(int row) const
+{
+    return m_planned && row >= 0 && row < rowCount() ? m_taken.value(m_rows.at(row).address) : QString();
 }
 
 bool AddressPlan::isInConflict(int row) const

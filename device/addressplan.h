@@ -26,6 +26,8 @@ class AddressPlan : public DialogRows
     Q_PROPERTY(CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY planChanged)
     Q_PROPERTY(QString startAddress READ startAddress WRITE setStartAddress NOTIFY planChanged)
     Q_PROPERTY(QString mask READ mask WRITE setMask NOTIFY planChanged)
+    Q_PROPERTY(QString gateway READ gateway WRITE setGateway NOTIFY planChanged)
+    Q_PROPERTY(bool gatewayOutside READ isGatewayOutside NOTIFY planChanged)
     Q_PROPERTY(bool sameAddress READ sameAddress WRITE setSameAddress NOTIFY planChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY planChanged)
     Q_PROPERTY(int markedCount READ markedCount NOTIFY planChanged)
@@ -51,9 +53,15 @@ public:
     void setStartAddress(const QString &startAddress);
     [[nodiscard]] QString mask() const { return m_mask; }
     void setMask(const QString &mask);
+    [[nodiscard]] QString gateway() const { return m_gateway; }
+    void setGateway(const QString &gateway);
     [[nodiscard]] bool sameAddress() const { return m_sameAddress; }
     void setSameAddress(bool sameAddress);
     [[nodiscard]] int markedCount() const { return m_markedCount; }
+
+    /// True when the gateway is not in the subnet of the start address; false while one of the texts is not
+    /// valid.
+    [[nodiscard]] bool isGatewayOutside() const;
 
     /// Takes the device rows of the batch in their order, and reads from the factory which addresses the
     /// devices outside of it have.
@@ -61,6 +69,10 @@ public:
 
     /// What the device in this place gets; empty when there is no such place or no start address.
     Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
+
+    /// The device that has the address of this place, as the user knows it: model and MAC, or its address and
+    /// port when it reports neither. Empty when no other device has it.
+    Q_INVOKABLE [[nodiscard]] QString otherDeviceAt(int row) const;
 
 Q_SIGNALS:
     void planChanged();
@@ -85,10 +97,11 @@ private:
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     QString m_startAddress;
     QString m_mask;
+    QString m_gateway;
     bool m_sameAddress = false;
 
     QList<Row> m_rows;
-    QHash<std::uint32_t, int> m_taken; ///< addresses of devices that keep theirs
-    bool m_planned = false;            ///< there is a start address
+    QHash<std::uint32_t, QString> m_taken; ///< devices that keep their addresses, by address
+    bool m_planned = false;                ///< there is a start address
     int m_markedCount = 0;
 };

@@ -79,6 +79,11 @@ private Q_SLOTS:
         for (int row = 0; row < plan.rowCount(); ++row) {
             addresses.append(plan.addressOf(row));
             marks.append(plan.get(row).value("mark").toInt());
+            if (marks.constLast() == AddressPlan::TakenByOther)
+                QCOMPARE(plan.otherDeviceAt(row),
+                         start == "192.168.1.8" ? "B-2230-IR outside" : "B-2230-IR m2");
+            else
+                QCOMPARE(plan.otherDeviceAt(row), "");
         }
         QTEST(addresses.join(' '), "addresses");
         QCOMPARE(plan.markedCount(), marks.size() - marks.count(AddressPlan::Fine));
@@ -86,6 +91,18 @@ private Q_SLOTS:
         QTEST(marks, "marks");
         plan.setStartAddress("192.168.1");
         QVERIFY(plan.addressOf(0).isEmpty() && plan.markedCount() == 0);
+    }
+
+    void knowsGatewaysOfTheSubnet()
+    {
+        AddressPlan plan;
+        plan.setStartAddress("10.0.1.20");
+        plan.setMask("255.255.254.0");
+        for (const auto &[gateway, outside] : {std::pair("10.0.0.1", false), std::pair("10.0.1.254", false),
+                                               std::pair("10.0.2.1", true), std::pair("10.0.2", false)}) {
+            plan.setGateway(gateway);
+            QCOMPARE(plan.isGatewayOutside(), outside);
+        }
     }
 
     void copiesEditsIntoTheGateway_data()

@@ -1,4 +1,4 @@
-// A field for a line of text, with what is wrong with it written under it.
+// A field for a line of text, with what is wrong with it, or may be, written under it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -14,6 +14,7 @@ FocusScope {
     property alias textFont: field.font
     readonly property alias acceptableText: field.acceptableInput
     property string errorText
+    property string warningText  // the text is accepted all the same
     property string accessibleName
     property string iconName
     property bool clearable: false
@@ -56,7 +57,7 @@ FocusScope {
         verticalAlignment: TextInput.AlignVCenter
 
         Accessible.name: root.accessibleName !== "" ? root.accessibleName : placeholderText
-        Accessible.description: root.errorText
+        Accessible.description: error.text
 
         onAccepted: root.accepted()
         onTextEdited: {
@@ -165,9 +166,10 @@ FocusScope {
         id: error
         y: Theme.controlHeight + Theme.half
         width: root.width
-        color: Theme.colours.bad
+        color: field.wrong ? Theme.colours.bad : Theme.colours.warnInk
         font: Theme.hintFont
-        text: root.errorText
-        visible: field.wrong
+        objectName: "fieldMessage"
+        text: root.errorText !== "" ? root.errorText : root.warningText
+        visible: text !== "" && field.enabled
     }
 }

@@ -15,6 +15,24 @@ OVDialog {
     readonly property string mask: AddressTools.plainAddress(maskField.text)
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
     property bool tried: false  // what is wrong is said under a field once "确定" was pressed
+    readonly property string addressWarning: {
+        plan.markedCount;  // read so that this follows the plan
+        if (batch || dhcp)
+            return "";  // the preview has the marks of a batch
+        switch (plan.get(0).mark) {
+        case AddressPlan.NotInitialised:
+            return qsTr("设备未初始化，不会修改");
+        case AddressPlan.TakenByOther:
+            return qsTr("该地址已被 %1 使用").arg(plan.otherDeviceAt(0));
+        case AddressPlan.NoDeviceAddress:
+            return qsTr("这是网络地址或广播地址");
+        default:
+            return "";
+        }
+    }
+    readonly property string gatewayWarning: plan.gatewayOutside && !dhcp ? qsTr("网关不在该网段内") : ""
+    readonly property string warnings: addressWarning + gatewayWarning
+    property string warned  // the warnings that were shown; the same ones are not in the way a second time
     signal refused(string message)
     signal confirmed
 
@@ -23,6 +41,7 @@ OVDialog {
         batch = isBatch;
         openedOut = false;
         tried = false;
+        warned = "";
         staticButton.checked = true;
         sameBox.checked = false;
         startField.text = startField.before = "";
@@ -46,12 +65,15 @@ OVDialog {
     height: Math.max(Theme.modifyIpHeight, implicitHeight)
     dense: true
     objectName: "modifyIpDialog"
+    okText: warned !== "" && warned === warnings ? qsTr("仍然修改") : qsTr("确定")
     title: qsTr("修改IP")
     onAccepted: {
         tried = true;
         const message = fault();
         if (message !== "")
             refused(message);
+        else if (warned !== warnings && warnings !== "")
+            warned = warnings;
         else
             confirmed();
     }
@@ -60,6 +82,7 @@ OVDialog {
     AddressPlan {
         id: plan
         deviceFactory: root.deviceFactory
+        gateway: gatewayField.text
         mask: maskField.text
         sameAddress: root.batch && sameBox.checked
         startAddress: startField.text
@@ -157,6 +180,7 @@ OVDialog {
                     accessibleName: qsTr("起始IP")
                     errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的起始IP")
                     objectName: "newStartField"
+                    warningText: root.warned === "" ? "" : root.addressWarning
                     onEdited: {
                         gatewayField.text = AddressTools.gatewayAfterEdit(before, text, gatewayField.text);
                         before = text;
@@ -195,6 +219,7 @@ OVDialog {
                 accessibleName: qsTr("网关")
                 errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的网关")
                 objectName: "newGatewayField"
+                warningText: root.warned === "" ? "" : root.gatewayWarning
             }
         }
         AddressPlanTable {
