@@ -2478,6 +2478,30 @@ A right click copies the result</translation>
             <numerusform>The new addresses of %n devices need a look: see the preview</numerusform>
         </translation>
     </message>
+    <message>
+        <source>设备未初始化，不会修改</source>
+        <translation>The device is not initialised and keeps its address</translation>
+    </message>
+    <message>
+        <source>该地址已被 %1 使用</source>
+        <translation>%1 has this address</translation>
+    </message>
+    <message>
+        <source>这是网络地址或广播地址</source>
+        <translation>This is the network or broadcast address</translation>
+    </message>
+    <message>
+        <source>网关不在该网段内</source>
+        <translation>The gateway is outside the subnet</translation>
+    </message>
+    <message>
+        <source>仍然修改</source>
+        <translation>Change anyway</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPEmptyState</name>

@@ -2453,6 +2453,30 @@
             <numerusform>%n 台设备的新地址有问题，请查看预览</numerusform>
         </translation>
     </message>
+    <message>
+        <source>设备未初始化，不会修改</source>
+        <translation>设备未初始化，不会修改</translation>
+    </message>
+    <message>
+        <source>该地址已被 %1 使用</source>
+        <translation>该地址已被 %1 使用</translation>
+    </message>
+    <message>
+        <source>这是网络地址或广播地址</source>
+        <translation>这是网络地址或广播地址</translation>
+    </message>
+    <message>
+        <source>网关不在该网段内</source>
+        <translation>网关不在该网段内</translation>
+    </message>
+    <message>
+        <source>仍然修改</source>
+        <translation>仍然修改</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPEmptyState</name>
