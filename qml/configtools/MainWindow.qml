@@ -158,12 +158,12 @@ T.ApplicationWindow {
             id: titleBar
             Layout.fillWidth: true
             count: window.count
+            cursor: window.localConfig
             maximised: window.maximised
             searching: window.searching
             title: window.title
             version: popups.softwareName + " " + popups.version
             onCloseRequested: window.requestEnd()
-            onDragged: window.startSystemMove()
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)
             onMinimiseRequested: window.showMinimized()

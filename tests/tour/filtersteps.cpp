@@ -31,6 +31,8 @@ void walkTicks(Driver &driver)
     driver.await(QStringLiteral("four rows are ticked by mouse and keys"),
                  [&] { return rows.countOf("checked", true) == 4; });
     driver.report(QStringLiteral("ticked"), driver.text(QStringLiteral("selectedCount")));
+    driver.check(!driver.text(QStringLiteral("selectedCount")).contains(QStringLiteral(" 台")),
+                 QStringLiteral("Chinese has no space between a number and its unit"));
     driver.click(QStringLiteral("checkAllBox"));
     driver.check(rows.countOf("checked", true) == rows.count(), QStringLiteral("every row is ticked"));
     driver.click(QStringLiteral("checkAllBox"));

@@ -8,6 +8,7 @@ Rectangle {
     required property string title
     required property string version  // of the software, with its name
     required property bool maximised
+    required property var cursor  // its cursorPos() is the pointer's position on the screen
     property int count: 0
     property bool searching: false
     readonly property alias menuButton: menuButton
@@ -17,7 +18,6 @@ Rectangle {
     signal minimiseRequested
     signal maximiseRequested
     signal closeRequested
-    signal dragged(point from)
 
     component BarButton: OVIconButton {
         fillHover: Theme.colours.barHover
@@ -32,23 +32,10 @@ Rectangle {
     Accessible.role: Accessible.TitleBar
     Accessible.name: title
 
-    MouseArea {
-        property point start
-        property bool moving: false
-
+    OVTitleDragArea {
         anchors.fill: parent
-        objectName: "titleDragArea"
-        onDoubleClicked: root.maximiseRequested()
-        onPressed: mouse => {
-            start = Qt.point(mouse.x, mouse.y);
-            moving = false;
-        }
-        onPositionChanged: mouse => {
-            if (moving || Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y) < Theme.unit)
-                return;
-            moving = true;
-            root.dragged(start);
-        }
+        cursor: root.cursor
+        onMaximiseRequested: root.maximiseRequested()
     }
 
     Item {

@@ -8,9 +8,9 @@ Rectangle {
     required property string name
     required property string address
     required property bool maximised
+    required property var cursor  // its cursorPos() is the pointer's position on the screen
     signal closeRequested
     signal maximiseRequested
-    signal dragged
 
     implicitHeight: Theme.tabBarHeight
     color: Theme.colours.bar
@@ -25,22 +25,10 @@ Rectangle {
         inkHover: Theme.colours.barInk
     }
 
-    MouseArea {
-        property point start
-        property bool moving: false
-
+    OVTitleDragArea {
         anchors.fill: parent
-        onDoubleClicked: root.maximiseRequested()
-        onPressed: mouse => {
-            start = Qt.point(mouse.x, mouse.y);
-            moving = false;
-        }
-        onPositionChanged: mouse => {
-            if (moving || Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y) < Theme.unit)
-                return;
-            moving = true;
-            root.dragged();
-        }
+        cursor: root.cursor
+        onMaximiseRequested: root.maximiseRequested()
     }
     Row {
         x: Theme.pageMargin

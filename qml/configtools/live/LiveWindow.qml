@@ -101,11 +101,11 @@ T.ApplicationWindow {
         width: parent.width
         height: window.fullScreen ? 0 : implicitHeight
         address: device.ipport
+        cursor: window.localConfig
         maximised: window.maximised
         name: device.name
         visible: !window.fullScreen
         onCloseRequested: window.close()
-        onDragged: window.startSystemMove()
         onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
     }
     LiveChannelList {

@@ -185,7 +185,7 @@ FocusScope {
         runningDevice: page.work?.current ?? ""
         runningText: page.work?.runningText ?? ""
         stoppable: true
-        //: Follows a number at the foot of a page, as in "3 devices selected".
-        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+        //: At the foot of a page.
+        text: qsTr("%n台设备已选中", "", devices.checkedCount)
     }
 }

@@ -159,7 +159,7 @@ FocusScope {
         runningDevice: session.names.running ? session.names.current : copying.current
         runningText: session.names.running ? qsTr("正在保存通道名称…") + qsTr("（按Esc停止）")
                                            : qsTr("正在复制编码配置…")
-        //: Follows a number at the foot of a page, as in "3 devices selected".
-        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+        //: At the foot of a page.
+        text: qsTr("%n台设备已选中", "", devices.checkedCount)
     }
 }

@@ -115,7 +115,7 @@ FocusScope {
         running: work.running
         runningDevice: work.percent + "%"
         runningText: qsTr("正在升级设备，请勿断电…")
-        //: Follows a number at the foot of a page, as in "3 devices selected".
-        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+        //: At the foot of a page.
+        text: qsTr("%n台设备已选中", "", devices.checkedCount)
     }
 }

@@ -168,8 +168,8 @@ FocusScope {
         running: page.searching || page.work !== null
         runningDevice: page.work?.current ?? ""
         runningText: page.work?.runningText ?? qsTr("正在搜索设备…")
-        //: Follows a number at the foot of a page, as in "3 devices selected".
-        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+        //: At the foot of a page.
+        text: qsTr("%n台设备已选中", "", devices.checkedCount)
         //: Each of the devices has the address of another one.
         warning: devices.conflictCount > 0 ? qsTr("%n 台设备IP地址冲突", "", devices.conflictCount) : ""
     }

@@ -195,8 +195,8 @@ FocusScope {
         running: batch.running
         runningDevice: batch.device
         runningText: batch.title + " " + Math.min(batch.done + 1, batch.devices.length) + " / " + batch.devices.length
-        //: Follows a number at the foot of a page, as in "3 devices selected".
-        text: devices.checkedCount + " " + qsTr("台设备已选中", "", devices.checkedCount)
+        //: At the foot of a page.
+        text: qsTr("%n台设备已选中", "", devices.checkedCount)
             + (batch.outcome !== "" && !incomplete ? "  ·  " + batch.outcome : "")
         warning: incomplete ? batch.outcome : ""
     }

@@ -68,8 +68,7 @@ OVDialog {
             width: parent.width
             font: Theme.titleFont
             objectName: "uninitialisedCount"
-            //: Follows a number, as in "3 uninitialised devices".
-            text: root.deviceCount + " " + qsTr("台未初始化设备", "", root.deviceCount)
+            text: qsTr("%n台未初始化设备", "", root.deviceCount)
         }
         OVFormRow {
             width: parent.width

@@ -98,8 +98,7 @@ OVDialog {
             height: parent.height
             color: Theme.colours.sub
             objectName: "batchCount"
-            //: Follows a number, as in "3 devices selected".
-            text: plan.count + " " + qsTr("台设备已选中", "", plan.count)
+            text: qsTr("%n台设备已选中", "", plan.count)
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
