@@ -1540,11 +1540,10 @@ A right click copies the result</translation>
         <translation>Initialisation</translation>
     </message>
     <message numerus="yes">
-        <source>台未初始化设备</source>
-        <extracomment>Follows a number, as in &quot;3 uninitialised devices&quot;.</extracomment>
+        <source>%n台未初始化设备</source>
         <translation>
-            <numerusform>uninitialised device</numerusform>
-            <numerusform>uninitialised devices</numerusform>
+            <numerusform>%n uninitialised device</numerusform>
+            <numerusform>%n uninitialised devices</numerusform>
         </translation>
     </message>
     <message>
@@ -2428,11 +2427,10 @@ A right click copies the result</translation>
         <translation>Modify IP</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
         <translation>
-            <numerusform>device selected</numerusform>
-            <numerusform>devices selected</numerusform>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
         </translation>
     </message>
     <message>
@@ -2969,11 +2967,11 @@ File path: </translation>
         <translation>Copied</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>device selected</numerusform>
-            <numerusform>devices selected</numerusform>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
         </translation>
     </message>
     <message>
@@ -3015,11 +3013,11 @@ File path: </translation>
         <translation>Copying encode settings…</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>device selected</numerusform>
-            <numerusform>devices selected</numerusform>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
         </translation>
     </message>
     <message>
@@ -3046,11 +3044,11 @@ File path: </translation>
         <translation>Upgrading. Do not switch the devices off…</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>device selected</numerusform>
-            <numerusform>devices selected</numerusform>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
         </translation>
     </message>
 </context>
@@ -3061,11 +3059,11 @@ File path: </translation>
         <translation>Searching for devices…</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>device selected</numerusform>
-            <numerusform>devices selected</numerusform>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3130,11 +3128,11 @@ File path: </translation>
         <translation>Restore factory settings</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>device selected</numerusform>
-            <numerusform>devices selected</numerusform>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
         </translation>
     </message>
     <message numerus="yes">

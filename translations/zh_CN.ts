@@ -1522,10 +1522,9 @@
         <translation>初始化设置</translation>
     </message>
     <message numerus="yes">
-        <source>台未初始化设备</source>
-        <extracomment>Follows a number, as in &quot;3 uninitialised devices&quot;.</extracomment>
+        <source>%n台未初始化设备</source>
         <translation>
-            <numerusform>台未初始化设备</numerusform>
+            <numerusform>%n台未初始化设备</numerusform>
         </translation>
     </message>
     <message>
@@ -2405,10 +2404,9 @@
         <translation>修改IP</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
         <translation>
-            <numerusform>台设备已选中</numerusform>
+            <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
     <message>
@@ -2940,10 +2938,10 @@
         <translation>复制成功</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>台设备已选中</numerusform>
+            <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
     <message>
@@ -2983,10 +2981,10 @@
         <translation>正在复制编码配置…</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>台设备已选中</numerusform>
+            <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
     <message>
@@ -3013,10 +3011,10 @@
         <translation>正在升级设备，请勿断电…</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>台设备已选中</numerusform>
+            <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
 </context>
@@ -3027,10 +3025,10 @@
         <translation>正在搜索设备…</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>台设备已选中</numerusform>
+            <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3092,10 +3090,10 @@
         <translation>恢复出厂设置</translation>
     </message>
     <message numerus="yes">
-        <source>台设备已选中</source>
-        <extracomment>Follows a number at the foot of a page, as in &quot;3 devices selected&quot;.</extracomment>
+        <source>%n台设备已选中</source>
+        <extracomment>At the foot of a page.</extracomment>
         <translation>
-            <numerusform>台设备已选中</numerusform>
+            <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
     <message numerus="yes">
