@@ -152,6 +152,23 @@ void walkSingle(Driver &driver)
     driver.report(QStringLiteral("modify-dhcp"), QStringLiteral("DHCP needs no address"));
     driver.click(QStringLiteral("staticButton"));
     driver.fill(QStringLiteral("newMaskField"), QStringLiteral("255.255.255.0"));
+    driver.fill(QStringLiteral("newStartField"),
+                rows.value(1, "ipport").toString().section(QLatin1Char(':'), 0, 0));
+    driver.fill(QStringLiteral("newGatewayField"), QStringLiteral("10.0.0.1"));
+    driver.click(QStringLiteral("okButton"));
+    driver.await(QStringLiteral("both warnings are given, and the other device is named"), [&] {
+        const QStringList warnings = driver.texts(QStringLiteral("fieldMessage"));
+        return warnings.size() == 2 && warnings.first().contains(rows.value(1, "mac").toString());
+    });
+    driver.report(QStringLiteral("modify-warned"), driver.text(QStringLiteral("fieldMessage")));
+    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.231"));
+    driver.fill(QStringLiteral("newGatewayField"), QStringLiteral("10.0.0.1")); // it has followed the address
+    driver.click(QStringLiteral("okButton"));
+    driver.await(QStringLiteral("other warnings are asked about again"), [&] {
+        return driver.texts(QStringLiteral("fieldMessage")).size() == 1 &&
+               driver.text(QStringLiteral("okButton")) ==
+                   QCoreApplication::translate("ModifyIPDialog", "仍然修改");
+    });
     driver.click(QStringLiteral("okButton"));
     driver.await(QStringLiteral("the row has the new address"), [&] {
         return rows.value(rows.rowOf("mac", mac), "ipport")
