@@ -4,6 +4,18 @@
 
 #include <QTextBoundaryFinder>
 
+namespace {
+
+/// Control characters, and marks of line ends and of directions.
+bool isInvisible(QChar letter)
+{
+    const char16_t code = letter.unicode();
+    return letter.category() == QChar::Other_Control || code == 0x061C || code == 0x200E || code == 0x200F ||
+           (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+} // namespace
+
 int ByteText::channelNameBytes()
 {
     return static_cast<int>(sdk::ChannelNameItem().name.size()) - 1; // a zero ends it
@@ -28,4 +40,10 @@ QString ByteText::cutTo(const QString &text, int bytes)
         end = next;
     }
     return text.left(end);
+}
+
+QString ByteText::withoutInvisible(QString text)
+{
+    text.removeIf(isInvisible);
+    return text;
 }

@@ -20,4 +20,7 @@ public:
     /// As much of the beginning of `text` as fits into `bytes`, whole letters only: a letter stays together
     /// with its accents, and a sign with what it is joined to.
     Q_INVOKABLE [[nodiscard]] static QString cutTo(const QString &text, int bytes);
+
+    /// `text` without what is not visible but breaks a line or turns the direction of the letters behind it.
+    [[nodiscard]] static QString withoutInvisible(QString text);
 };

@@ -99,3 +99,11 @@ int CameraForm::shutterPlace(double shortest, double longest) const
     });
     return found == shutterParts.end() ? -1 : static_cast<int>(found - shutterParts.begin());
 }
+
+QVariantList CameraForm::shutterWrites(double longestNow, double shortest, double longest) const
+{
+    const QVariantList lower = {QStringLiteral("dbExposureValue1"), shortest};
+    const QVariantList upper = {QStringLiteral("dbExposureValue2"), longest};
+    return shortest > longestNow ? QVariantList{QVariant(upper), QVariant(lower)}
+                                 : QVariantList{QVariant(lower), QVariant(upper)};
+}

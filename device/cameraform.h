@@ -50,6 +50,12 @@ public:
     /// range, and for a time that is not listed.
     Q_INVOKABLE [[nodiscard]] int shutterPlace(double shortest, double longest) const;
 
+    /// The writes that bring the shutter to the range from `shortest` to `longest`, each as [sub-key, value].
+    /// Each bound is a write of its own; `longestNow` decides their order, so that the range in between is
+    /// not empty.
+    Q_INVOKABLE [[nodiscard]] QVariantList shutterWrites(double longestNow, double shortest,
+                                                         double longest) const;
+
 Q_SIGNALS:
     void deviceFactoryChanged();
     void changed();

@@ -10,20 +10,6 @@ namespace {
 
 const QString family = QStringLiteral("dh");
 
-/// True for what nobody sees but what breaks a line or turns the letters behind it around.
-bool isInvisible(QChar letter)
-{
-    const char16_t code = letter.unicode();
-    return letter.category() == QChar::Other_Control || code == 0x061C || code == 0x200E || code == 0x200F ||
-           (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
-}
-
-QString withoutInvisible(QString text)
-{
-    text.removeIf(isInvisible);
-    return text;
-}
-
 } // namespace
 
 ChannelNameForm::ChannelNameForm(QObject *parent) : DialogRows(parent) {}
@@ -88,7 +74,7 @@ void ChannelNameForm::read()
 
 void ChannelNameForm::set(int row, const QString &typed)
 {
-    change(row, withoutInvisible(typed));
+    change(row, ByteText::withoutInvisible(typed));
 }
 
 void ChannelNameForm::change(int row, const QString &name)

@@ -2,6 +2,7 @@
 
 #include "device/devicefactory.h"
 #include "device/loginresult.h"
+#include "sdk/neterror.h"
 
 #include <algorithm>
 
@@ -60,14 +61,6 @@ void EncodeForm::setDeviceFactory(CDeviceFactory *deviceFactory)
     read(); // the maps of the streams are complete from the first on
 }
 
-bool EncodeForm::isComplete() const
-{
-    const auto isUsable = [this](const QString &name) {
-        return m_main.value(name).toMap().value(QStringLiteral("usable")).toBool();
-    };
-    return isUsable(QStringLiteral("encodeMode")) && isUsable(QStringLiteral("resolution"));
-}
-
 void EncodeForm::read()
 {
     m_read.clear();
@@ -79,6 +72,24 @@ void EncodeForm::read()
 bool EncodeForm::isDeviceAway(int result)
 {
     return ::isDeviceAway(static_cast<std::uint32_t>(result));
+}
+
+QString EncodeForm::failureName(int result)
+{
+    if (result == resultCode(LoginResult::Upgrading)) // nothing was asked
+        return resultName(result);
+    constexpr std::uint32_t highBit = 0x80000000;
+    const auto error = static_cast<std::uint32_t>(result) | highBit;
+    if (isDeviceAway(result))
+        return tr("设备没有应答");
+    switch (static_cast<sdk::NetError>(error)) {
+    case sdk::NetError::NotSupported:
+        return tr("设备不支持此操作");
+    case sdk::NetError::DeviceBusy:
+        return tr("设备正忙");
+    default:
+        return tr("设备拒绝了此操作（错误 %1）").arg(error, 0, 16);
+    }
 }
 
 void EncodeForm::takeSaved()
@@ -106,6 +117,9 @@ void EncodeForm::fetch()
     m_channel = value(QStringLiteral("curChannel")).toInt();
     m_streamTypes = value(QStringLiteral("allStreamType")).toStringList();
     m_streamType = value(QStringLiteral("curStreamType")).toInt();
+    m_isComplete = !value(QStringLiteral("encodeMode")).toStringList().isEmpty() &&
+                   !value(QStringLiteral("resolution")).toStringList().isEmpty();
+    m_unreadItems = value(QStringLiteral("unreadItems")).toStringList();
     m_subStreamTypes = value(QStringLiteral("subAllStreamType")).toStringList();
     m_main = stream(false);
     m_sub = stream(true);
@@ -138,9 +152,10 @@ bool EncodeForm::noteChange(const QString &key, const QVariant &value)
 QVariantMap EncodeForm::choice(const QString &list, const QString &current)
 {
     QStringList choices = value(list).toStringList();
-    const QString text = value(current).toString();
+    const QVariant shown = value(current);
+    const QString text = shown.toString();
     QVariantMap map = setting(current, noteChange(current, text));
-    map.insert(QStringLiteral("usable"), !choices.isEmpty());
+    map.insert(QStringLiteral("usable"), shown.isValid() && !choices.isEmpty());
     // A device may be set to what it does not offer. What it has stays there to be chosen again.
     for (const QString &own : {m_read.value(current).toString(), text}) {
         if (!own.isEmpty() && !choices.contains(own))
@@ -157,7 +172,11 @@ QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, con
     const int kilobits = value(rate).toInt();
     QVariantMap map = setting(current, noteChange(current, kilobits));
     const QVariant place = value(current);
-    const bool isStep = place.isValid() && place.toInt() >= 0 && place.toInt() < choices.size();
+    if (!place.isValid()) {
+        map.insert(QStringLiteral("usable"), false);
+        return map;
+    }
+    const bool isStep = place.toInt() >= 0 && place.toInt() < choices.size();
     map.insert(QStringLiteral("choices"), choices);
     // The last entry stands for every rate that is none of the steps.
     map.insert(QStringLiteral("index"), isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
@@ -168,12 +187,13 @@ QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, con
 
 QVariantMap EncodeForm::number(const QString &key, int minimum, int maximum)
 {
-    const int current = value(key).toInt();
+    const QVariant shown = value(key);
+    const int current = shown.isValid() ? shown.toInt() : minimum - 1;
     QVariantMap map = setting(key, noteChange(key, current));
     map.insert(QStringLiteral("value"), current);
     map.insert(QStringLiteral("minimum"), minimum);
     map.insert(QStringLiteral("maximum"), qMax(maximum, current));
-    map.insert(QStringLiteral("usable"), maximum > minimum);
+    map.insert(QStringLiteral("usable"), shown.isValid() && maximum > minimum);
     return map;
 }
 

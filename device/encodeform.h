@@ -28,13 +28,16 @@ class EncodeForm : public QObject
     ///  - "choices" and "index": texts, with the current one among them, and its place, -1 while there is
     ///  none
     ///  - "value", "minimum" and "maximum": numbers
-    ///  - "usable": whether there is anything to choose
+    ///  - "usable": whether its value was read and there is anything to choose. While the value is unknown,
+    ///    "index" is -1 and "value" lies below "minimum".
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)
     Q_PROPERTY(QVariantMap subStream READ subStream NOTIFY changed)
     Q_PROPERTY(QStringList subStreamTypes READ subStreamTypes NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     /// Whether the device told what it can do.
     Q_PROPERTY(bool complete READ isComplete NOTIFY changed)
+    /// The names of the items that were not read, and are therefore not written.
+    Q_PROPERTY(QStringList unreadItems READ unreadItems NOTIFY changed)
 public:
     explicit EncodeForm(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -49,7 +52,8 @@ public:
     [[nodiscard]] QVariantMap mainStream() const { return m_main; }
     [[nodiscard]] QVariantMap subStream() const { return m_sub; }
     [[nodiscard]] int changedCount() const { return m_changedCount; }
-    [[nodiscard]] bool isComplete() const;
+    [[nodiscard]] bool isComplete() const { return m_isComplete; }
+    [[nodiscard]] QStringList unreadItems() const { return m_unreadItems; }
 
     /// Takes the back end's values as those that the device has: nothing counts as changed.
     Q_INVOKABLE void read();
@@ -64,6 +68,10 @@ public:
     /// Whether a result of a factory's signalGetDeviceCapRet() says that the device did not answer, and not
     /// that it refused.
     Q_INVOKABLE [[nodiscard]] static bool isDeviceAway(int result);
+
+    /// What such a result says, in the user's language: no response, not supported, refused, or that the
+    /// device is being upgraded.
+    Q_INVOKABLE [[nodiscard]] static QString failureName(int result);
 
 Q_SIGNALS:
     void deviceFactoryChanged();
@@ -91,4 +99,6 @@ private:
     bool m_isReading = false;
     QList<int> m_takenItems; ///< the places of those that the device took at the last writing
     int m_changedCount = 0;
+    bool m_isComplete = false;
+    QStringList m_unreadItems;
 };

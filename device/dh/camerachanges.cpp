@@ -1,5 +1,6 @@
 #include "device/dh/camerachanges.h"
 
+#include "device/bytetext.h"
 #include "device/dh/internal/camerachange.h"
 #include "sdk/blocktext.h"
 
@@ -69,9 +70,13 @@ Writes changeExposure(const Change &change)
     CameraState &state = change.state;
     sdk::ExposureItem &item = state.exposure;
     const sdk::ValueRange gain = state.capabilities.gain;
-    if ((change.is("3DType") && change.number(flags, state.noiseReduction.type)) ||
-        (change.is("3D") && change.slider(state.capabilities.noiseReduction, state.noiseReduction.level)))
-        return {CameraWrite::Exposure, CameraWrite::NoiseReduction};
+    if (change.is("3DType") || change.is("3D")) {
+        const bool isReduced = state.isNoiseReductionRead &&
+                               (change.is("3DType") ? change.number(flags, state.noiseReduction.type)
+                                                    : change.slider(state.capabilities.noiseReduction,
+                                                                    state.noiseReduction.level));
+        return when(isReduced, {CameraWrite::Exposure, CameraWrite::NoiseReduction});
+    }
     const bool isChanged =
         (change.is("antiFlicker") && change.choice(change.lists().antiFlickerTypes, item.antiFlicker)) ||
         (change.isPlain() && change.choice(change.lists().exposureTypes, item.exposure)) ||
@@ -226,8 +231,14 @@ Writes setDefaults(const Change &change)
 
 Writes changeChannelName(const Change &change)
 {
-    const QString name = change.value.toString();
-    sdk::setBlockText(change.state.channelName.name, name.toStdString());
+    const QString visible = ByteText::withoutInvisible(change.value.toString()).trimmed();
+    const QString name = ByteText::cutTo(visible, ByteText::channelNameBytes());
+    if (name.isEmpty())
+        return {};
+    sdk::ChannelNameItem &item = change.state.channelName;
+    item.size = sizeof(item);
+    sdk::setBlockText(item.name, name.toStdString());
+    change.state.isChannelNameRead = true; // the name is all that is in the item
     return {CameraWrite::ChannelName};
 }
 

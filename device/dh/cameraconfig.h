@@ -15,7 +15,7 @@ public:
     /// What came of a change.
     enum class Outcome
     {
-        Ignored, ///< no such setting or value: nothing was asked of the device
+        Ignored, ///< no such setting or value, or one that was not read: nothing was asked of the device
         Taken,
         Refused,    ///< by the device; the values are again those that it has
         Unanswered, ///< the device is away; the values are those that it had
@@ -26,6 +26,10 @@ public:
 
     /// Turns to a new session; nothing is known of its device yet.
     void begin(const ConfigSession &session);
+
+    /// Another channel was chosen: the values that are there are not its own, and count as not read until
+    /// readCapabilities() and readItems() have read them.
+    void forgetItems();
 
     /// Reads the configuration "VideoColor" of a channel.
     void readColor(int channel);
@@ -40,11 +44,17 @@ public:
     [[nodiscard]] QVariant value(const QString &key) const;
     Outcome setValue(const QString &key, const QVariant &value, const QString &subKey);
 
+    /// The library's error of the last change that was refused or not answered.
+    [[nodiscard]] int lastError() const { return m_lastError; }
+
 private:
+    /// Of the writes that `changed` needs some failed.
+    Outcome takeFailure(int channel, CameraState &changed);
     void chooseMode(const QVariant &place);
 
     const ValueTables &m_tables;
     const ChannelChoice &m_channels;
     ConfigSession m_session;
     CameraState m_state;
+    int m_lastError = 0;
 };

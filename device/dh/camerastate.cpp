@@ -1,6 +1,7 @@
 #include "device/dh/camerastate.h"
 
 #include "device/logging.h"
+#include "device/loginresult.h"
 
 namespace {
 
@@ -31,28 +32,31 @@ bool readItem(const ConfigSession &session, sdk::CameraItem number, int channel,
     return true;
 }
 
-/// Returns false, with the record zeroed, when it cannot be had.
+/// The record is zero when it cannot be had.
 template<typename Record>
-bool readConfiguration(const ConfigSession &session, const char *name, int channel, Record &record)
+CameraReading readConfiguration(const ConfigSession &session, const char *name, int channel, Record &record)
 {
     record = {};
     ConfigText text(cameraTextSize);
     const std::int32_t error = session.fetchText(name, channel, text, cameraTextWait);
-    const bool isRead = error == 0 && session.unpack(name, text, record);
-    if (!isRead)
-        qCWarning(logDevice) << "Camera: no configuration" << name << "error" << error;
-    return isRead;
+    if (error == 0 && session.unpack(name, text, record))
+        return CameraReading::Done;
+    qCWarning(logDevice) << "Camera: no configuration" << name << "error" << error;
+    return error != 0 && isDeviceAway(static_cast<std::uint32_t>(error)) ? CameraReading::Unanswered
+                                                                         : CameraReading::Refused;
 }
 
 } // namespace
 
-void readVideoColor(const ConfigSession &session, int channel, CameraState &state)
+CameraReading readVideoColor(const ConfigSession &session, int channel, CameraState &state)
 {
+    const CameraReading reading = readConfiguration(session, "VideoColor", channel, state.color);
     state.colorChannel = channel;
-    state.isColorKnown = readConfiguration(session, "VideoColor", channel, state.color);
+    state.isColorKnown = reading == CameraReading::Done;
+    return reading;
 }
 
-bool readCameraCapabilities(const ConfigSession &session, int channel, CameraState &state)
+CameraReading readCameraCapabilities(const ConfigSession &session, int channel, CameraState &state)
 {
     state.capabilities = {};
     state.capabilities.size = sizeof(state.capabilities);
@@ -60,35 +64,48 @@ bool readCameraCapabilities(const ConfigSession &session, int channel, CameraSta
     if (!session.queryCapabilities(sdk::CapabilityQuery::Camera, input, state.capabilities)) {
         qCWarning(logDevice) << "Camera: no capabilities of channel" << channel << "error"
                              << session.lastError();
-        return false;
+        return session.isDeviceAway() ? CameraReading::Unanswered : CameraReading::Refused;
     }
-    state.isColorKnown = state.isLightingKnown = false;
-    if (state.supports(sdk::CameraGroup::Picture))
-        readVideoColor(session, channel, state);
-    if (state.supports(sdk::CameraGroup::MixedLight))
-        state.isLightingKnown = readConfiguration(session, "Lighting_V2", channel, state.lighting);
-    readItem(session, sdk::CameraItem::ChannelName, channel, state.mode, state.channelName);
-    return true;
+    state.isColorKnown = state.isLightingKnown = state.isChannelNameRead = false;
+    if (state.has(sdk::CameraGroup::Picture) &&
+        readVideoColor(session, channel, state) == CameraReading::Unanswered)
+        return CameraReading::Unanswered;
+    if (state.has(sdk::CameraGroup::MixedLight)) {
+        const CameraReading reading = readConfiguration(session, "Lighting_V2", channel, state.lighting);
+        state.isLightingKnown = reading == CameraReading::Done;
+        if (reading == CameraReading::Unanswered)
+            return reading;
+    }
+    state.isChannelNameRead =
+        readItem(session, sdk::CameraItem::ChannelName, channel, state.mode, state.channelName);
+    return !state.isChannelNameRead && session.isDeviceAway() ? CameraReading::Unanswered
+                                                              : CameraReading::Done;
 }
 
 bool readCameraItems(const ConfigSession &session, int channel, CameraState &state)
 {
     state.unreadGroups = 0;
     bool isAway = false; // every further item would wait for nothing
-    const auto read = [&](sdk::CameraGroup group, sdk::CameraItem number, auto &item) {
-        if (state.supports(group) && !isAway && readItem(session, number, channel, state.mode, item))
-            return;
-        if (state.supports(group))
-            isAway = isAway || session.isDeviceAway();
-        state.unreadGroups |= 1u << static_cast<std::uint32_t>(group);
+    const auto isRead = [&](sdk::CameraGroup group, sdk::CameraItem number, auto &item) {
+        if (state.has(group) && !isAway) {
+            if (readItem(session, number, channel, state.mode, item))
+                return true;
+            isAway = session.isDeviceAway();
+        }
         item = {};
+        return false;
+    };
+    const auto read = [&](sdk::CameraGroup group, sdk::CameraItem number, auto &item) {
+        if (!isRead(group, number, item))
+            state.unreadGroups |= 1u << static_cast<std::uint32_t>(group);
     };
     read(sdk::CameraGroup::Picture, sdk::CameraItem::Picture, state.picture);
     read(sdk::CameraGroup::Sharpness, sdk::CameraItem::Sharpness, state.sharpness);
     read(sdk::CameraGroup::Mirror, sdk::CameraItem::Mirror, state.mirror);
     read(sdk::CameraGroup::Stable, sdk::CameraItem::Stable, state.stable);
     read(sdk::CameraGroup::Exposure, sdk::CameraItem::Exposure, state.exposure);
-    read(sdk::CameraGroup::Exposure, sdk::CameraItem::NoiseReduction, state.noiseReduction);
+    state.isNoiseReductionRead =
+        isRead(sdk::CameraGroup::Exposure, sdk::CameraItem::NoiseReduction, state.noiseReduction);
     read(sdk::CameraGroup::BackLight, sdk::CameraItem::BackLight, state.backLight);
     read(sdk::CameraGroup::WhiteBalance, sdk::CameraItem::WhiteBalance, state.whiteBalance);
     read(sdk::CameraGroup::DayNight, sdk::CameraItem::DayNight, state.dayNight);

@@ -7,9 +7,13 @@
 /// Items hold for `mode`; those of groups that the camera does not support are zero.
 struct CameraState
 {
+    static constexpr std::uint32_t allGroups = ~0u;
+
     sdk::CameraMode mode = sdk::CameraMode::Day;
     sdk::CameraCapabilities capabilities{};
-    std::uint32_t unreadGroups = 0; ///< a bit for each group whose item could not be read: it is not known
+    std::uint32_t unreadGroups = allGroups; ///< a bit for each group whose item was not read: it is not known
+    bool isNoiseReductionRead = false;      ///< the second item of the exposure
+    bool isChannelNameRead = false;
     sdk::VideoColorRecord color{};
     int colorChannel = 0; ///< that the record was read of, or asked of
     sdk::LightingRecord lighting{};
@@ -33,9 +37,16 @@ struct CameraState
     sdk::LightItem light{};
     sdk::MixedLightItem mixedLight{};
 
+    /// Whether the camera has the group.
+    [[nodiscard]] bool has(sdk::CameraGroup group) const
+    {
+        return (capabilities.groups >> static_cast<std::uint32_t>(group) & 1) != 0;
+    }
+
+    /// Whether it has the group and the group's item was read.
     [[nodiscard]] bool supports(sdk::CameraGroup group) const
     {
-        return ((capabilities.groups & ~unreadGroups) >> static_cast<std::uint32_t>(group) & 1) != 0;
+        return has(group) && (unreadGroups >> static_cast<std::uint32_t>(group) & 1) == 0;
     }
 
     /// The picture of the current mode in the configuration.
@@ -50,18 +61,28 @@ struct CameraState
 inline constexpr std::uint32_t cameraTextSize = 4096;
 inline constexpr std::chrono::milliseconds cameraTextWait{3000};
 
+/// How a reading ended.
+enum class CameraReading
+{
+    Done,
+    Refused,    ///< by the device, or not to be understood
+    Unanswered, ///< the device is away; what follows was not asked for
+};
+
 /// Reads the configuration "VideoColor", which is unknown when it cannot be had.
-void readVideoColor(const ConfigSession &session, int channel, CameraState &state);
+CameraReading readVideoColor(const ConfigSession &session, int channel, CameraState &state);
 
-/// Reads what the camera can do, its configurations and its channel's name; items and mode stay. Returns
-/// false when the device does not tell what the camera can do: no group is supported then.
-[[nodiscard]] bool readCameraCapabilities(const ConfigSession &session, int channel, CameraState &state);
+/// Reads what the camera can do, its configurations and its channel's name; items and mode stay. Refused says
+/// that the device does not tell what the camera can do: no group is supported then. A configuration or a
+/// name that is refused is unknown.
+[[nodiscard]] CameraReading readCameraCapabilities(const ConfigSession &session, int channel,
+                                                   CameraState &state);
 
-/// Reads the items of the groups that the camera supports, for the current mode. A group whose item cannot be
-/// read counts as one that is not supported until it is read, since its other values would be lost by writing
-/// one. Returns false when the device is away.
+/// Reads the items of the groups that the camera has, for the current mode. A group whose item cannot be read
+/// counts as one that is not supported until it is read, since its other values would be lost by writing one.
+/// Returns false when the device is away.
 [[nodiscard]] bool readCameraItems(const ConfigSession &session, int channel, CameraState &state);
 
-/// Reads the one item that is read anew before it is changed. Returns false, with the state unchanged, when
-/// it cannot be read.
+/// Reads the item that is read again each time before it is changed. Returns false, with the state unchanged,
+/// when it cannot be read.
 [[nodiscard]] bool readDefog(const ConfigSession &session, int channel, CameraState &state);

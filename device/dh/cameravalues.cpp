@@ -10,7 +10,8 @@ using Group = sdk::CameraGroup;
 
 QVariantMap groupMap(const CameraState &state, Group group)
 {
-    return {{QStringLiteral("support"), state.supports(group)}};
+    return {{QStringLiteral("support"), state.supports(group)},
+            {QStringLiteral("unread"), state.has(group) && !state.supports(group)}};
 }
 
 QVariantMap rangeMap(sdk::ValueRange told)
@@ -79,6 +80,7 @@ QVariant exposure(const CameraState &state, const CameraLists &lists)
     map.insert(QStringLiteral("GainMax"), item.gainMaximum);
     map.insert(QStringLiteral("Compensation"), item.compensation);
     map.insert(QStringLiteral("irisAuto"), item.irisAutomatic != 0);
+    map.insert(QStringLiteral("noiseReductionSupport"), state.isNoiseReductionRead);
     map.insert(QStringLiteral("3DType"), state.noiseReduction.type);
     map.insert(QStringLiteral("3D"), state.noiseReduction.level);
     map.insert(QStringLiteral("ranges"),
@@ -214,6 +216,8 @@ const QHash<QString, ValueOf> &values()
          }},
         {QStringLiteral("curChannelName"),
          [](const CameraState &state, const CameraLists &) {
+             if (!state.isChannelNameRead)
+                 return QVariant();
              const std::string_view name = sdk::blockText(state.channelName.name);
              return QVariant(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
          }},

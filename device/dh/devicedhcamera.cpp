@@ -1,4 +1,4 @@
-// The camera image page. A device that does not answer is told of after what the page is to show.
+// The camera image page. Failures are reported after what the page is to show.
 #include "device/dh/cameraconfig.h"
 #include "device/dh/devicedh.h"
 
@@ -36,6 +36,7 @@ void CDeviceDH::setCameraValue(const QString &key, const QVariant &value, const 
         break;
     case CameraConfig::Outcome::Refused:
         Q_EMIT signalCDeviceChangeVideoType(); // the page shows again what the device has
+        Q_EMIT signalCDeviceGetDeviceCapRet(m_camera->lastError());
         break;
     case CameraConfig::Outcome::Unanswered:
         Q_EMIT signalCDeviceChangeVideoType();

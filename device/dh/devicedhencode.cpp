@@ -11,7 +11,8 @@
 void CDeviceDH::getEncodeCaps()
 {
     const int result = m_encode->read();
-    m_camera->readColor(m_channels.curChannel);
+    if (!isLibraryError(result))
+        m_camera->readColor(m_channels.curChannel);
     Q_EMIT signalCDeviceGetDeviceCapRet(result);
 }
 
@@ -46,7 +47,12 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant &channel)
 void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const QString &otype)
 {
     if (ChannelChoice::isKey(key)) {
+        const ChannelChoice before = m_channels;
         m_channels.choose(key, value);
+        if (m_channels.curVideoChannel != before.curVideoChannel)
+            m_camera->forgetItems();
+        if (m_channels.curChannel != before.curChannel || m_channels.curStreamType != before.curStreamType)
+            m_encode->forgetItems();
         return;
     }
     if (key == QLatin1String("channelName")) {
@@ -63,15 +69,18 @@ void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const Q
         return;
     }
     const EncodeConfig::Outcome outcome = m_encode->setValue(key, value);
-    if (!outcome.refused.isEmpty())
-        Q_EMIT signalCDeviceConfirmEncodeConfig(outcome.refused);
+    if (!outcome.notWritten.isEmpty())
+        Q_EMIT signalCDeviceConfirmEncodeConfig(outcome.notWritten);
     if (outcome.result != 0)
         Q_EMIT signalCDeviceGetDeviceCapRet(outcome.result);
 }
 
 void CDeviceDH::confirmConfigData()
 {
-    Q_EMIT signalCDeviceConfirmEncodeConfig(m_encode->confirm());
+    const EncodeConfig::Outcome outcome = m_encode->confirm();
+    Q_EMIT signalCDeviceConfirmEncodeConfig(outcome.notWritten);
+    if (outcome.result != 0)
+        Q_EMIT signalCDeviceGetDeviceCapRet(outcome.result);
 }
 
 void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
@@ -83,7 +92,7 @@ void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
         EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
         if (isUpgradingAt(ipport)) {
             outcome.result = resultCode(LoginResult::Upgrading);
-        } else if (state) {
+        } else if (state && state->unreadItems().size() < 2 * itemsOfStream) {
             const Credentials known = credentialsOf(ipport);
             const SecureLogin login =
                 secureLogin(m_libraries.net.get(), ipport, known.account, known.password);

@@ -27,8 +27,7 @@ std::optional<int> sideOf(QStringView text)
 
 bool EncodeChoices::hasProfiles() const
 {
-    const auto profiles = used(m_block.profiles, m_block.profileCount);
-    return isFilled() && std::any_of(profiles.begin(), profiles.end(), isH264Profile);
+    return isFilled() && m_block.profileCount > 0;
 }
 
 QStringList EncodeChoices::compressions() const
@@ -54,9 +53,11 @@ bool EncodeChoices::offersCompression(int code, int profile) const
     const bool isKnown = code >= 0 && code < static_cast<int>(sdk::compressionCount);
     if (!isFilled() || !isKnown || (m_block.compressionMask >> code & 1) == 0)
         return false;
-    if (code != sdk::compressionH264 || !hasProfiles() || !isH264Profile(profile))
+    if (code != sdk::compressionH264 || !hasProfiles())
         return true;
     const auto profiles = used(m_block.profiles, m_block.profileCount);
+    if (!isH264Profile(profile))
+        return std::any_of(profiles.begin(), profiles.end(), isH264Profile);
     return std::find(profiles.begin(), profiles.end(), profile) != profiles.end();
 }
 

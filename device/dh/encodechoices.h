@@ -16,7 +16,8 @@ public:
     {
     }
 
-    /// With H.264 an entry for each profile that the device reports stands in place of "H264".
+    /// With H.264 an entry for each profile that the device reports stands in place of "H264". Profiles
+    /// without a name have no entry.
     [[nodiscard]] QStringList compressions() const;
 
     /// Whether the compression of this code is offered, with this profile where it is H.264 and the device
@@ -34,7 +35,7 @@ public:
 
     [[nodiscard]] QStringList audioCompressions() const;
 
-    /// Whether the device reports any profile of H.264.
+    /// Whether the device reports profiles of H.264, known ones or not.
     [[nodiscard]] bool hasProfiles() const;
 
 private:

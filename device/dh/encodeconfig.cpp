@@ -18,18 +18,18 @@ public:
                 tr("辅码流编码视频格式属性"), tr("辅码流编码视频格式profile"),
                 tr("辅码流编码音频压缩格式"), tr("辅码流编码音频格式配置")};
     }
+    static QString unread(const QString &name) { return tr("%1（没有读到，未写入）").arg(name); }
 };
 
 constexpr int subVideoFormat = 4; // its place among the items
 
-/// A line for each.
-QString namesOf(const QList<int> &items)
+constexpr int allItems = 2 * itemsOfStream;
+
+/// What is not known of any channel.
+const EncodeState &nothing()
 {
-    const QStringList names = ItemTexts::names();
-    QString text;
-    for (const int place : items)
-        text += names.at(place) + QLatin1Char('\n');
-    return text;
+    static const EncodeState state;
+    return state;
 }
 
 } // namespace
@@ -59,12 +59,37 @@ int EncodeConfig::read()
     return reading.result;
 }
 
+void EncodeConfig::forgetItems()
+{
+    m_takenItems.clear();
+    if (m_state)
+        m_state->main = m_state->sub = {};
+}
+
 QVariant EncodeConfig::value(const QString &key) const
 {
     if (key == takenItemsKey)
         return m_takenItems;
-    static const EncodeState nothing;
-    return m_values.value(key, m_state ? *m_state : nothing, m_channels.curStreamType);
+    const EncodeState &state = m_state ? *m_state : nothing();
+    if (key == unreadItemsKey) {
+        QStringList names;
+        for (const int place : state.unreadItems())
+            names.append(itemNames().at(place));
+        return names;
+    }
+    return m_values.value(key, state, m_channels.curStreamType);
+}
+
+QString EncodeConfig::linesOf(const QList<int> &items) const
+{
+    const QList<int> unread = (m_state ? *m_state : nothing()).unreadItems();
+    const QStringList names = itemNames();
+    QString lines;
+    for (const int place : items) {
+        const QString &name = names.at(place);
+        lines += (unread.contains(place) ? ItemTexts::unread(name) : name) + QLatin1Char('\n');
+    }
+    return lines;
 }
 
 EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant &value)
@@ -76,11 +101,18 @@ EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant 
     }
     if (key != QLatin1String("subCurResolution"))
         return {};
-    const bool isTaken = writeSubResolution();
-    if (isTaken && m_channels.curVideoChannel == m_channels.curChannel)
+    Outcome outcome;
+    if (!writeSubResolution()) {
+        outcome.notWritten = linesOf({subVideoFormat});
+        if (m_session.isDeviceAway()) { // to read would only wait again
+            outcome.result = static_cast<int>(m_session.lastError());
+            return outcome;
+        }
+    } else if (m_channels.curVideoChannel == m_channels.curChannel) {
         m_takenItems.append(subVideoFormat);
-    return {.refused = isTaken ? QString() : namesOf({subVideoFormat}),
-            .result = readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result};
+    }
+    outcome.result = readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result;
+    return outcome;
 }
 
 bool EncodeConfig::writeSubResolution()
@@ -109,18 +141,22 @@ bool EncodeConfig::writeSubResolution()
     return false;
 }
 
-QString EncodeConfig::confirm()
+EncodeConfig::Outcome EncodeConfig::confirm()
 {
-    // Without a state nothing can be written, and everything counts as refused.
-    QList<int> refused = {0, 1, 2, 3, 4, 5, 6, 7};
+    EncodeWriting writing;
     if (m_state)
-        refused = writeEncodeItems(m_session, m_channels.curChannel, m_state->main, m_state->sub);
+        writing = writeEncodeItems(m_session, m_channels.curChannel, *m_state);
+    const int error = writing.isDeviceAway ? static_cast<int>(m_session.lastError()) : 0;
+    const QList<int> unread = (m_state ? *m_state : nothing()).unreadItems();
+    QList<int> notWritten;
     m_takenItems.clear();
-    for (int place = 0; place < itemNames().size(); ++place) {
-        if (!refused.contains(place))
+    for (int place = 0; place < allItems; ++place) {
+        if (unread.contains(place) || writing.notTaken.contains(place))
+            notWritten.append(place);
+        else
             m_takenItems.append(place);
     }
-    return namesOf(refused);
+    return {.notWritten = linesOf(notWritten), .result = error};
 }
 
 QStringList EncodeConfig::itemNames()

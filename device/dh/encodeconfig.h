@@ -23,24 +23,28 @@ public:
     /// 10 when the device does not tell what it can do, or else the error that reading reported.
     [[nodiscard]] int read();
 
+    /// Another channel or kind of stream was chosen: the items that are there are not its own, and count as
+    /// not read until read() has read them. The lists stay.
+    void forgetItems();
+
     /// Beside the values of the channel "takenItems": the places, as writeEncodeItems() counts them, of the
-    /// items that the device took for this channel at the last call of setValue() or confirm(). None after
-    /// read().
+    /// items that the device took for this channel at the last call of setValue() or confirm(), none after
+    /// read(); and "unreadItems": the names of the items that were not read.
     [[nodiscard]] QVariant value(const QString &key) const;
 
     /// What came of a value that may have gone to the device at once.
     struct Outcome
     {
-        QString refused; ///< as confirm() returns it
-        int result = 0;  ///< of reading the capabilities again where that was needed, as read() returns it
+        QString notWritten; ///< a line for each item that did not reach the device; empty for none
+        int result = 0; ///< the error of a device that stopped answering, or of reading as read() returns it
     };
 
     /// Takes a value of the page. The resolution of the sub stream goes to the device at once, everything
     /// else waits for confirm(). What the key cannot have is ignored.
     Outcome setValue(const QString &key, const QVariant &value);
 
-    /// Writes everything. Returns the names of what was refused, each with a line feed.
-    [[nodiscard]] QString confirm();
+    /// Writes every item that was read. The others are named as not read.
+    [[nodiscard]] Outcome confirm();
 
     /// What is known of the channel; nothing while it has not been read.
     [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
@@ -51,6 +55,7 @@ public:
 private:
     /// Returns whether the device took it, at whatever bit rate.
     [[nodiscard]] bool writeSubResolution();
+    [[nodiscard]] QString linesOf(const QList<int> &items) const;
 
     const EncodeValues m_values;
     const ValueTables &m_tables;

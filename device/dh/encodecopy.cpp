@@ -59,9 +59,9 @@ QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, b
     return skipped;
 }
 
-/// The same for everything else.
-QStringList takeRest(const EncodeChoices &choices, const sdk::EncodeCapabilityBlock &block,
-                     const EncodeItems &from, bool isSub, EncodeItems &to)
+/// The same for the other values of the picture.
+QStringList takeRates(const sdk::EncodeCapabilityBlock &block, const EncodeItems &from, bool isSub,
+                      EncodeItems &to)
 {
     const sdk::VideoFormatItem &wanted = from.videoFormat;
     sdk::VideoFormatItem &video = to.videoFormat;
@@ -74,22 +74,30 @@ QStringList takeRest(const EncodeChoices &choices, const sdk::EncodeCapabilityBl
         video.frameRate = wanted.frameRate;
     else
         skipped.append(SettingNames::frameRate(isSub));
-    if (offersAudio(choices, from.audioCompression.format)) {
-        to.audioCompression.audioEnable = from.audioCompression.audioEnable;
-        to.audioCompression.format = from.audioCompression.format;
-        to.audioFormat.samplingFrequency = from.audioFormat.samplingFrequency;
-    } else if (from.audioCompression.format != 0) { // a source without audio has none to copy
-        skipped.append(SettingNames::audio(isSub));
-    }
     video.videoEnable = wanted.videoEnable;
     video.bitRateControl = wanted.bitRateControl;
     video.quality = wanted.quality;
     return skipped;
 }
 
+/// The same for the sound.
+QStringList takeAudio(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
+{
+    if (offersAudio(choices, from.audioCompression.format)) {
+        to.audioCompression.audioEnable = from.audioCompression.audioEnable;
+        to.audioCompression.format = from.audioCompression.format;
+        to.audioFormat.samplingFrequency = from.audioFormat.samplingFrequency;
+    } else if (from.audioCompression.format != 0) { // a source without audio has none to copy
+        return {SettingNames::audio(isSub)};
+    }
+    return {};
+}
+
 /// Puts compression and size of `items` into the record that capabilities are asked for with.
 void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
 {
+    if (!items.knows(EncodePlace::VideoFormat))
+        return;
     record.compression = items.videoFormat.compression;
     record.width = items.videoFormat.width;
     record.height = items.videoFormat.height;
@@ -98,8 +106,9 @@ void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
 /// What a row says of a device whose settings cannot be read.
 int rowResult(const EncodeReading &reading)
 {
-    return reading.isFetched ? capabilitiesUnknown
-                             : resultCode(loginResultOf(static_cast<std::uint32_t>(reading.result)));
+    return isLibraryError(reading.result)
+               ? resultCode(loginResultOf(static_cast<std::uint32_t>(reading.result)))
+               : capabilitiesUnknown;
 }
 
 } // namespace
@@ -117,20 +126,32 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     const sdk::EncodeCapabilityBlock &sub = to.subBlock();
     const EncodeChoices mainChoices(tables, main);
     const EncodeChoices subChoices(tables, sub);
-    outcome.skipped = takePicture(mainChoices, from.main, false, to.main);
-    outcome.skipped += takePicture(subChoices, from.sub, true, to.sub);
+    // What was not read of the source is not copied: its item is left out and named below.
+    const bool hasMain = from.main.knows(EncodePlace::VideoFormat);
+    const bool hasSub = from.sub.knows(EncodePlace::VideoFormat);
+    if (hasMain)
+        outcome.skipped += takePicture(mainChoices, from.main, false, to.main);
+    if (hasSub)
+        outcome.skipped += takePicture(subChoices, from.sub, true, to.sub);
     // The bit rates that a device can do follow the size.
     putIntoRecord(to.main, to.record.streams[static_cast<std::size_t>(streamType)]);
     putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);
     refreshEncodeCapabilities(session, channels.curChannel, to);
-    outcome.skipped += takeRest(mainChoices, main, from.main, false, to.main);
-    outcome.skipped += takeRest(subChoices, sub, from.sub, true, to.sub);
-    // One that could not be read lacks what is to stay as it is there.
-    const QList<int> &unread = reading.unreadItems;
-    const QList<int> refused = writeEncodeItems(session, channels.curChannel, to.main, to.sub, unread);
-    if (!refused.isEmpty())
+    if (hasMain)
+        outcome.skipped += takeRates(main, from.main, false, to.main);
+    outcome.skipped += takeAudio(mainChoices, from.main, false, to.main);
+    if (hasSub)
+        outcome.skipped += takeRates(sub, from.sub, true, to.sub);
+    outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
+    const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, from.unreadItems());
+    if (writing.isDeviceAway)
+        outcome.result = resultCode(LoginResult::NetworkFailure);
+    else if (!writing.notTaken.isEmpty())
         outcome.result = refusedByDevice;
-    for (const int place : unread + refused)
-        outcome.skipped.append(EncodeConfig::itemNames().at(place));
+    for (int place = 0; place < 2 * itemsOfStream; ++place) {
+        if (from.unreadItems().contains(place) || to.unreadItems().contains(place) ||
+            writing.notTaken.contains(place))
+            outcome.skipped.append(EncodeConfig::itemNames().at(place));
+    }
     return outcome;
 }

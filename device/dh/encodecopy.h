@@ -14,8 +14,8 @@ struct EncodeCopyOutcome
 };
 
 /// Copies `from` to the channel of the same number of the device of `session`. What the device tells that it
-/// cannot do is left as it is there; the items are written whole, but for those that it does not tell, and
-/// 999 says that it refused one of them.
+/// cannot do is left as it is there; the items are written whole, but for those that were not read of either
+/// device, and 999 says that it refused one of them.
 [[nodiscard]] EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
                                                    const ChannelChoice &channels,
                                                    const ConfigSession &session);

@@ -5,7 +5,6 @@
 namespace {
 
 constexpr std::size_t encodeTextSize = 524288;
-constexpr int itemsOfStream = 4;
 
 template<typename Item>
 bool readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int channel, int stream, Item &item)
@@ -23,21 +22,22 @@ bool readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int ch
     return isRead;
 }
 
-/// Returns the places of those that cannot be read, from 0.
-QList<int> readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items)
+/// Returns false when the device stops answering: what follows was not asked for.
+bool readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items)
 {
-    QList<int> unread;
-    int place = 0;
+    items = {};
+    bool isAway = false;
+    std::size_t place = 0;
     const auto read = [&](sdk::EncodeItem number, auto &item) {
-        if (!readStreamItem(session, number, channel, stream, item))
-            unread.append(place);
-        ++place;
+        const bool isRead = !isAway && readStreamItem(session, number, channel, stream, item);
+        isAway = isAway || (!isRead && session.isDeviceAway());
+        items.isRead[place++] = isRead;
     };
     read(sdk::EncodeItem::VideoFormat, items.videoFormat);
     read(sdk::EncodeItem::VideoProfile, items.videoProfile);
     read(sdk::EncodeItem::AudioCompression, items.audioCompression);
     read(sdk::EncodeItem::AudioFormat, items.audioFormat);
-    return unread;
+    return !isAway;
 }
 
 void clear(sdk::EncodeCapabilities &capabilities)
@@ -49,6 +49,17 @@ void clear(sdk::EncodeCapabilities &capabilities)
 }
 
 } // namespace
+
+QList<int> EncodeState::unreadItems() const
+{
+    QList<int> unread;
+    for (int place = 0; place < 2 * itemsOfStream; ++place) {
+        const EncodeItems &items = place < itemsOfStream ? main : sub;
+        if (!items.isRead[static_cast<std::size_t>(place % itemsOfStream)])
+            unread.append(place);
+    }
+    return unread;
+}
 
 EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state)
 {
@@ -69,7 +80,7 @@ EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, 
     if (!session.queryCapabilities(sdk::CapabilityQuery::Encode, input, state.capabilities)) {
         qCWarning(logDevice) << "Encode: no capabilities of channel" << channel << "error"
                              << session.lastError();
-        reading.result = capabilitiesUnknown;
+        reading.result = session.isDeviceAway() ? static_cast<int>(session.lastError()) : capabilitiesUnknown;
     }
     return reading;
 }
@@ -90,34 +101,41 @@ bool refreshEncodeCapabilities(const ConfigSession &session, int channel, Encode
 EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state)
 {
     EncodeReading reading = readEncodeCapabilities(session, channel, state);
-    if (reading.isAsked) {
-        reading.unreadItems = readItems(session, channel, streamType + 1, state.main);
-        const QList<int> ofSub =
-            readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub);
-        for (const int place : ofSub)
-            reading.unreadItems.append(place + itemsOfStream);
-    }
+    if (!reading.isAsked)
+        return reading;
+    state.main = state.sub = {};
+    if (isLibraryError(reading.result))
+        return reading;
+    if (!readItems(session, channel, streamType + 1, state.main) ||
+        !readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub))
+        reading.result = static_cast<int>(session.lastError());
     return reading;
 }
 
-QList<int> writeEncodeItems(const ConfigSession &session, int channel, const EncodeItems &main,
-                            const EncodeItems &sub, const QList<int> &left)
+EncodeWriting writeEncodeItems(const ConfigSession &session, int channel, const EncodeState &state,
+                               const QList<int> &unwanted)
 {
-    QList<int> refused;
+    EncodeWriting writing;
+    const QList<int> left = unwanted + state.unreadItems();
     int place = 0;
     const auto write = [&](sdk::EncodeItem number, const auto &item) {
-        if (!left.contains(place) && !session.writeItem(static_cast<std::uint32_t>(number), channel, item)) {
-            qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << item.stream
-                                 << "is refused, error" << session.lastError();
-            refused.append(place);
-        }
-        ++place;
+        const int here = place++;
+        if (left.contains(here))
+            return;
+        if (!writing.isDeviceAway && session.writeItem(static_cast<std::uint32_t>(number), channel, item))
+            return;
+        writing.notTaken.append(here);
+        if (writing.isDeviceAway)
+            return;
+        qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << item.stream
+                             << "was not written, error" << session.lastError();
+        writing.isDeviceAway = session.isDeviceAway();
     };
-    for (const EncodeItems *items : {&main, &sub}) {
+    for (const EncodeItems *items : {&state.main, &state.sub}) {
         write(sdk::EncodeItem::VideoFormat, items->videoFormat);
         write(sdk::EncodeItem::VideoProfile, items->videoProfile);
         write(sdk::EncodeItem::AudioCompression, items->audioCompression);
         write(sdk::EncodeItem::AudioFormat, items->audioFormat);
     }
-    return refused;
+    return writing;
 }

@@ -6,13 +6,28 @@
 
 #include <QList>
 
-/// The items of one stream.
+/// The items of a stream, in the order in which they are read and written.
+enum class EncodePlace : std::uint8_t
+{
+    VideoFormat,
+    VideoProfile,
+    AudioCompression,
+    AudioFormat,
+};
+
+inline constexpr int itemsOfStream = 4;
+
+/// The items of one stream. One that was not read is zero but for its size and stream, and must not be
+/// written: it would overwrite settings that are not known.
 struct EncodeItems
 {
     sdk::VideoFormatItem videoFormat{};
     sdk::VideoProfileItem videoProfile{};
     sdk::AudioCompressionItem audioCompression{};
     sdk::AudioFormatItem audioFormat{};
+    std::array<bool, itemsOfStream> isRead{}; ///< by EncodePlace
+
+    [[nodiscard]] bool knows(EncodePlace place) const { return isRead[static_cast<std::size_t>(place)]; }
 };
 
 struct EncodeState
@@ -31,6 +46,9 @@ struct EncodeState
     {
         return capabilities.blocks[static_cast<std::size_t>(sdk::StreamKind::Sub)];
     }
+
+    /// The places of the items that were not read, as writeEncodeItems() counts them.
+    [[nodiscard]] QList<int> unreadItems() const;
 };
 
 /// Results of reading that are no errors of the library.
@@ -42,11 +60,16 @@ struct EncodeReading
     int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
     bool isFetched = false; ///< the device gave its configuration: the state is new, as far as it was read
     bool isAsked = false;   ///< the capabilities were asked for, whatever came of it
-    QList<int> unreadItems = {}; ///< places of the items that were refused, as writeEncodeItems() counts them
 };
 
+/// Whether a result of reading is an error of the library, and not one of the two above.
+[[nodiscard]] constexpr bool isLibraryError(int result)
+{
+    return result != 0 && result != configurationUnreadable && result != capabilitiesUnknown;
+}
+
 /// Reads the configuration "Encode" and the capabilities that go with it. When the configuration is refused
-/// the state stays as it was.
+/// the state stays as it was. Capabilities that the device does not answer for end with the library's error.
 [[nodiscard]] EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel,
                                                    EncodeState &state);
 
@@ -55,12 +78,19 @@ struct EncodeReading
 bool refreshEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state);
 
 /// Reads as readEncodeCapabilities() does, and then the items of the chosen main stream and of the sub
-/// stream. An item that is refused is zero but for its size and stream.
+/// stream. An item that is refused counts as not read. When the device stops answering, the rest is not asked
+/// for and the result is the library's error.
 [[nodiscard]] EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType,
                                             EncodeState &state);
 
-/// Writes the eight items but for those in the places `left`, whatever comes of each. Returns the places of
-/// those that were refused: 0 to 3 the main stream's video format, video profile, audio compression and audio
-/// format, 4 to 7 the sub stream's.
-[[nodiscard]] QList<int> writeEncodeItems(const ConfigSession &session, int channel, const EncodeItems &main,
-                                          const EncodeItems &sub, const QList<int> &left = {});
+struct EncodeWriting
+{
+    QList<int> notTaken; ///< places of the items that were refused, not answered or not sent any more
+    bool isDeviceAway = false;
+};
+
+/// Writes the items that were read: the places 0 to 3 are the main stream's video format, video profile,
+/// audio compression and audio format, 4 to 7 the sub stream's. `unwanted` names places to leave out. A
+/// refusal does not keep the others from being written; a device that does not answer gets no further item.
+[[nodiscard]] EncodeWriting writeEncodeItems(const ConfigSession &session, int channel,
+                                             const EncodeState &state, const QList<int> &unwanted = {});

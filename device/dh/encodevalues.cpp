@@ -62,6 +62,22 @@ const QSet<QString> &streamFields()
     return fields;
 }
 
+/// The item of its stream that a value is in; nothing for a list.
+std::optional<EncodePlace> placeOf(const QString &field)
+{
+    static const QSet<QString> ofVideoFormat = {
+        QStringLiteral("videoEnable"),   QStringLiteral("curEncodeMode"), QStringLiteral("bitstreamControl"),
+        QStringLiteral("curResolution"), QStringLiteral("frameRate"),     QStringLiteral("quality"),
+        QStringLiteral("curBitStream"),  QStringLiteral("bitRate")};
+    if (ofVideoFormat.contains(field))
+        return EncodePlace::VideoFormat;
+    if (field == QLatin1String("audioEnable") || field == QLatin1String("curAudioCompression"))
+        return EncodePlace::AudioCompression;
+    if (field == QLatin1String("curSamplingFrequency"))
+        return EncodePlace::AudioFormat;
+    return std::nullopt;
+}
+
 /// A whole number from `minimum` to `maximum`, given as number, flag or decimal text.
 std::optional<int> numberOf(const QVariant &value, int minimum, int maximum)
 {
@@ -111,15 +127,18 @@ QStringList samplingFrequencies(const ValueTables &tables, int current)
 
 bool EncodeValues::isKey(const QString &key)
 {
-    return key == QLatin1String("subVideoEnable") || key == takenItemsKey ||
+    return key == QLatin1String("subVideoEnable") || key == takenItemsKey || key == unreadItemsKey ||
            streamFields().contains(parted(key).field);
 }
 
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const
 {
+    const StreamKey parts = parted(key);
+    const std::optional<EncodePlace> place = placeOf(parts.field);
+    if (place && !(parts.isSub ? state.sub : state.main).knows(*place))
+        return {};
     if (key == QLatin1String("subVideoEnable"))
         return state.sub.videoFormat.videoEnable != 0 ? 1 : 0;
-    const StreamKey parts = parted(key);
     return parts.isSub ? streamValue(parts.field, true, state.sub, state.subBlock())
                        : streamValue(parts.field, false, state.main, state.mainBlock(streamType));
 }
@@ -179,12 +198,12 @@ QVariant EncodeValues::listValue(const QString &field, bool isSub, const EncodeI
 bool EncodeValues::setCompression(const QString &name, EncodeItems &items, EncodeState &state) const
 {
     const std::optional<CompressionChoice> choice = compressionChoice(m_tables, name);
-    if (!choice)
+    if (!choice || !state.main.knows(EncodePlace::VideoFormat))
         return false;
     // Of both streams: the compression is the main stream's, and only the profile is the stream's own.
     // Devices are set up this way; it must not be put right here alone.
     state.main.videoFormat.compression = choice->code;
-    if (choice->profile > 0)
+    if (choice->profile > 0 && items.knows(EncodePlace::VideoProfile))
         items.videoProfile.profile = choice->profile;
     return true;
 }
@@ -194,6 +213,9 @@ bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeSta
     const StreamKey parts = parted(key);
     EncodeItems &items = parts.isSub ? state.sub : state.main;
     sdk::VideoFormatItem &video = items.videoFormat;
+    const std::optional<EncodePlace> place = placeOf(parts.field);
+    if (!place || !items.knows(*place))
+        return false;
     if (key == QLatin1String("subVideoEnable"))
         return setFlag(value, video.videoEnable);
     if (parts.field == QLatin1String("curEncodeMode"))

@@ -6,8 +6,10 @@
 
 #include <QVariant>
 
-/// The key of the places of the items that the device took at the last write; not one of a state.
+/// Keys that are not values of a state: the places of the items that the device took at the last write, and
+/// the names of the items that were not read.
 inline constexpr QLatin1StringView takenItemsKey("takenItems");
+inline constexpr QLatin1StringView unreadItemsKey("unreadItems");
 
 /// Keys of the sub stream begin with "sub"; the rest of the key is that of the main stream.
 class EncodeValues
@@ -19,12 +21,13 @@ public:
     /// Whether the encode page has this key, to read or to write.
     [[nodiscard]] static bool isKey(const QString &key);
 
-    /// `streamType` is the kind of main stream, 0 to 2. Invalid for a key that is not read. "bitRate" is the
-    /// bit rate in kbit/s, also of one that "curBitStream" has no place for.
+    /// `streamType` is the kind of main stream, 0 to 2. Invalid for a key that is not read, and for a value
+    /// of an item that was not read. "bitRate" is the bit rate in kbit/s, also of one that "curBitStream" has
+    /// no place for.
     [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
 
     /// Changes the state, but not the device. Returns false, with the state unchanged, when the value is none
-    /// that the key can have.
+    /// that the key can have, and when its item was not read.
     bool setValue(const QString &key, const QVariant &value, EncodeState &state) const;
 
 private:

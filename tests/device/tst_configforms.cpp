@@ -143,7 +143,10 @@ private Q_SLOTS:
                 QCOMPARE(setting.toMap().keys(), QStringList({"changed", "choices", "index", "key", "maximum",
                                                               "minimum", "usable", "value"}));
             QCOMPARE(of(stream, "encodeMode", "index").toInt(), -1);
-            QVERIFY(!of(stream, "frameRate", "usable").toBool());
+            for (const char *unknown : {"frameRate", "quality", "control", "audioEnable", "bitRate"})
+                QVERIFY2(!of(stream, unknown, "usable").toBool(), unknown);
+            QCOMPARE(of(stream, "control", "value").toInt(), -1);
+            QCOMPARE(of(stream, "bitRate", "index").toInt(), -1);
         }
         CameraForm camera;
         camera.setDeviceFactory(&m_factory);
@@ -171,6 +174,24 @@ private Q_SLOTS:
         QFETCH(double, longest);
         const CameraForm form;
         QTEST(form.shutterPlace(shortest, longest), "place");
+    }
+
+    void aRangeOfTheShutterIsNeverEmpty()
+    {
+        const CameraForm form;
+        const auto first = [&form](double longestNow) {
+            return form.shutterWrites(longestNow, 20, 40).first().toList();
+        };
+        QCOMPARE(first(10), QVariantList({"dbExposureValue2", 40.0}));
+        QCOMPARE(first(30), QVariantList({"dbExposureValue1", 20.0}));
+    }
+
+    void failuresHaveNames()
+    {
+        QCOMPARE(EncodeForm::failureName(static_cast<int>(0x8000006B)), "设备没有应答");
+        QCOMPARE(EncodeForm::failureName(static_cast<int>(0x80000013)), "设备不支持此操作");
+        QCOMPARE(EncodeForm::failureName(static_cast<int>(0x80000017)), "设备拒绝了此操作（错误 80000017）");
+        QCOMPARE(EncodeForm::failureName(14), "设备正在升级");
     }
 
     void shutterTimesArePartsOfASecond()

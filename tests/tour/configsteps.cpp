@@ -217,6 +217,31 @@ void walkSaving(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"config-saved"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
 }
 
+/// What a device does not give is neither shown as a value nor written.
+void walkUnread(Driver &driver, sdk::demo::DemoSite &site)
+{
+    const QString mac = macOf(site, first);
+    const auto item = static_cast<int>(sdk::EncodeItem::AudioCompression);
+    const auto asked = [&](const QString &operation) {
+        return site.requests().of(operation).size();
+    };
+    site.setFault(mac, {.fault = sdk::demo::Fault::WithholdsItem, .number = item, .text = {}});
+    driver.click(u"encodeRefreshButton"_s);
+    awaitIdle(driver);
+    driver.check(!driver.require(u"mainAudioSwitch"_s)->isEnabled() &&
+                     driver.require(u"mainQualitySlider"_s)->isEnabled(),
+                 u"only what was not read is disabled"_s);
+    driver.report(u"config-unread"_s, driver.text(u"encodeNotice"_s));
+    const qsizetype before = asked(u"NetSetItem"_s);
+    driver.click(u"encodeSaveButton"_s);
+    awaitIdle(driver);
+    driver.check(asked(u"NetSetItem"_s) == before + 6, u"only what was read is written"_s);
+    driver.report(u"config-unread-saved"_s, driver.text(u"encodeNotice"_s));
+    site.clearFault(mac, sdk::demo::Fault::WithholdsItem);
+    driver.click(u"encodeRefreshButton"_s);
+    awaitIdle(driver);
+}
+
 int resultOf(const Driver &driver, const QString &device)
 {
     return driver.require(u"device_"_s + device)->property("result").toInt();
@@ -302,7 +327,8 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     const int sharpness = numberOf(driver, u"sharpness_value"_s);
     driver.require(u"sharpness_value"_s)->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
     driver.key(Qt::Key_Right);
-    expectToast(driver, translated("ImageWork", "设备没有接受修改，显示的是设备现有的值"));
+    expectToast(driver, translated("ImageWork", "没有修改：%1。显示的是设备现有的值")
+                            .arg(translated("EncodeForm", "设备不支持此操作")));
     driver.check(numberOf(driver, u"sharpness_value"_s) == sharpness, u"what the device refuses goes back"_s);
     driver.report(u"config-image-refused"_s, driver.text(u"configState"_s));
     site.clearFault(macOf(site, first), sdk::demo::Fault::RefusesItem);
@@ -394,6 +420,7 @@ void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site)
     walkStreams(driver);
     walkLeaving(driver);
     walkSaving(driver, site);
+    walkUnread(driver, site);
     walkCopying(driver);
     walkChannels(driver);
     walkDiscarding(driver);

@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property string title
+    property string note  // stands in place of the content
     default property alias content: body.data
 
     spacing: Theme.controlGap
@@ -27,9 +28,16 @@ Column {
             color: Theme.colours.line
         }
     }
+    OVParagraph {
+        width: parent.width
+        color: Theme.colours.warnInk
+        text: root.note
+        visible: root.note !== ""
+    }
     Column {
         id: body
         width: parent.width
         spacing: Theme.controlGap
+        visible: root.note === ""
     }
 }

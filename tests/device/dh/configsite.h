@@ -4,7 +4,9 @@
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
+#include "sdk/neterror.h"
 #include "tests/device/dh/flowingclock.h"
 
 #include <QJsonArray>
@@ -29,6 +31,30 @@ inline QString ipportOf(const sdk::demo::SceneDevice &device)
     return QStringLiteral("%1:%2").arg(device.address).arg(device.port);
 }
 
+/// The site's library, with devices that do not respond to a request to read one item.
+class SilentNetLibrary : public sdk::demo::DemoNetLibrary
+{
+public:
+    using DemoNetLibrary::DemoNetLibrary;
+
+    int silentItem = 0; ///< 0 for none
+
+    bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
+                    std::uint32_t blockSize, std::chrono::milliseconds wait) override
+    {
+        m_isSilent = static_cast<int>(item) == silentItem;
+        return DemoNetLibrary::NetGetItem(loginHandle, item, channel, block, blockSize, wait) && !m_isSilent;
+    }
+    [[nodiscard]] std::uint32_t NetGetLastError() const override
+    {
+        return m_isSilent ? static_cast<std::uint32_t>(sdk::NetError::ConnectTimeout)
+                          : DemoNetLibrary::NetGetLastError();
+    }
+
+private:
+    bool m_isSilent = false; ///< at the last request for an item
+};
+
 class ConfigSite
 {
 public:
@@ -37,10 +63,12 @@ public:
         sdk::demo::Scene scene;
         scene.devices = devices;
         site = sdk::demo::DemoSite::create(scene, m_clock);
+        net = std::make_shared<SilentNetLibrary>(*site);
         const auto store = std::make_shared<DeviceStore>(m_clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
             {QStringLiteral("dh"), [this, store, hasConfigLibrary] {
                  sdk::SdkLibraries libraries = site->libraries();
+                 libraries.net = net;
                  if (!hasConfigLibrary)
                      libraries.config = nullptr;
                  return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
@@ -97,6 +125,7 @@ private:
 
 public:
     std::shared_ptr<sdk::demo::DemoSite> site;
+    std::shared_ptr<SilentNetLibrary> net; ///< of the factory; uses the site
     std::unique_ptr<CDeviceFactory> factory;
 
 private:

@@ -79,6 +79,8 @@ private Q_SLOTS:
                  1);
         QCOMPARE(m_site->get("allSwitchMode").toStringList(), QStringList({"白天", "夜晚", "普通"}));
         QCOMPARE(m_site->get("curChannelName").toString(), "东门 1");
+        m_site->set("curChannelName", QString::fromUtf8("\u202E 大\u200F门"));
+        QCOMPARE(m_site->get("curChannelName").toString(), "大门");
 
         open(configDevice(3, "NVR", 16));
         QCOMPARE(supported(), QStringList({"picture"}));
@@ -321,8 +323,10 @@ private Q_SLOTS:
         SceneDevice device = camera();
         open(device);
         QSignalSpy changed(m_site->factory.get(), &CDeviceFactory::signalChangeVideoType);
+        QSignalSpy reason(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
         m_site->site->setFault(device.mac, {Fault::RefusesItem, 1320, {}});
         m_site->set("exposure", 4, "3D");
+        QCOMPARE(reason, QList<QVariantList>({{static_cast<int>(sdk::NetError::NotSupported)}}));
         QCOMPARE(m_site->asked("NetSetItem").size(), 2);
         QCOMPARE(value("exposure", "3D").toInt(), 2);
         m_site->site->setFault(device.mac, {Fault::RefusesConfiguration, 0, "VideoColor"});
@@ -364,6 +368,34 @@ private Q_SLOTS:
         QCOMPARE(result.size(), 1);
         QCOMPARE(supported(), groups);
         QCOMPARE(value("picture", "brightnessSlider").toInt(), 40);
+
+        m_site->set("curVideoChannel", 1); // the values are those of the first channel
+        m_site->set("stable", true);
+        m_site->set("curBrightness", 70);
+        QVERIFY(m_site->asked("NetSetItem").isEmpty() && m_site->asked("NetSetNewConfig").isEmpty());
+        m_site->site->requests().clear();
+        m_site->net->silentItem = 1108; // after the abilities
+        m_site->factory->getCameraConfig("dh");
+        QCOMPARE(result.size(), 2);
+        QVERIFY(EncodeForm::isDeviceAway(result.last().first().toInt()));
+        QVERIFY(!m_site->get("curChannelName").isValid());
+    }
+
+    void anExposureWithoutNoiseReductionIsShown()
+    {
+        SceneDevice device = camera();
+        device.faults = {{Fault::WithholdsItem, 1320}};
+        open(device);
+        QCOMPARE(supported(), groups);
+        QCOMPARE(value("exposure", "noiseReductionSupport").toBool(), false);
+        m_site->set("exposure", 1, "3D");
+        QVERIFY(m_site->asked("NetSetItem").isEmpty());
+        m_site->set("exposure", 7, "GainMin");
+        QCOMPARE(m_site->askedItems("NetSetItem"), QStringList({"1306/0@0 64 5000"}));
+        m_site->site->setFault(device.mac, {Fault::WithholdsItem, 1306, {}});
+        read();
+        QVERIFY(value("exposure", "unread").toBool() && !value("exposure", "support").toBool());
+        QVERIFY(!value("stable", "unread").toBool());
     }
 
     void nonsenseIsNotSent()
@@ -379,6 +411,7 @@ private Q_SLOTS:
         m_site->set("curDayNightMode", 3);
         m_site->set("lightControlEx", 2, "Sensitive");
         m_site->set("lightControlEx", 6, "Sensitive");
+        m_site->set("curChannelName", QString::fromUtf8("\u200F "));
         m_site->set("noSuchKey", 1);
         QVERIFY(m_site->site->requests().all().isEmpty());
     }
@@ -387,6 +420,7 @@ private Q_SLOTS:
     {
         CameraState state;
         state.capabilities.groups = 1u << static_cast<std::uint32_t>(sdk::CameraGroup::Picture);
+        state.unreadGroups = 0;
         state.capabilities.picture = {std::numeric_limits<std::int32_t>::min(),
                                       std::numeric_limits<std::int32_t>::max()};
         QCOMPARE(changeCamera("setDefault", "", "", ValueTables(), state).size(), 1);

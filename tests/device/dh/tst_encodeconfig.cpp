@@ -1,4 +1,5 @@
 // The encode page on a simulated site: what it shows, what the device is asked, and what comes of it.
+#include "device/encodeform.h"
 #include "sdk/neterror.h"
 #include "tests/device/dh/configsite.h"
 
@@ -82,6 +83,15 @@ private:
         if (results.size() != 1 || results.first().at(1).toInt() != 0)
             return QStringLiteral("not copied");
         return m_site->factory->getDeviceInfo("dh", ipportOf(target)).value("result").toString();
+    }
+
+    /// "item/stream" of the requests of an operation on items.
+    QString places(const QString &operation) const
+    {
+        QStringList places;
+        for (const QString &line : m_site->askedItems(operation))
+            places.append(line.section('@', 0, 0));
+        return places.join(' ');
     }
 
     QJsonObject written(int item, int stream) const
@@ -349,13 +359,68 @@ private Q_SLOTS:
         if (fault >= 0)
             m_site->site->setFault(device.mac, {static_cast<Fault>(fault), 0, QStringLiteral("Encode")});
         QTEST(read(), "result");
-        for (const char *key : {"encodeMode", "resolution", "bitStream", "audioCompression", "curResolution",
-                                "subEncodeMode", "frameRateMax", "quality", "curBitStream"})
+        for (const char *key :
+             {"encodeMode", "resolution", "bitStream", "audioCompression", "subEncodeMode", "frameRateMax"})
             QVERIFY2(m_site->get(key).isValid(), key);
         QVERIFY(m_site->get("encodeMode").toStringList().size() < 20);
         QVERIFY(m_site->get("resolution").toStringList().size() <= 64);
         QVERIFY(!m_site->get("resolution").toStringList().contains("0*0"));
         QVERIFY(m_site->get("frameRateMax").toInt() >= 0);
+    }
+
+    void whatWasNotReadIsNotWritten_data()
+    {
+        QTest::addColumn<int>("fault");      // when another channel is read, -1 for none
+        QTest::addColumn<int>("silentItem"); // 0 for none
+        QTest::addColumn<bool>("isAway");
+        QTest::addColumn<QString>("reads");
+        QTest::addColumn<QString>("writes"); // of a saving after it, which nothing disturbs
+        const auto row = [](const char *title, int fault, int silentItem, bool isAway, const char *reads,
+                            const char *writes) {
+            QTest::newRow(title) << fault << silentItem << isAway << reads << writes;
+        };
+        row("refused", static_cast<int>(Fault::WithholdsItem), 0, false,
+            "1100/1 1103/1 1104/1 1105/1 1100/4 1103/4 1104/4 1105/4",
+            "1100/1 1103/1 1105/1 1100/4 1103/4 1105/4");
+        row("no response in the middle", -1, 1104, true, "1100/1 1103/1 1104/1", "1100/1 1103/1");
+        row("no response at the first item", -1, 1100, true, "1100/1", "");
+        row("configuration refused", static_cast<int>(Fault::RefusesConfiguration), 0, false, "", "");
+        row("no response at all", static_cast<int>(Fault::NoAnswer), 0, true, "", "");
+    }
+
+    void whatWasNotReadIsNotWritten()
+    {
+        QFETCH(int, fault);
+        QFETCH(int, silentItem);
+        QFETCH(QString, writes);
+        const SceneDevice device = recorder();
+        QCOMPARE(open(device), 0);
+        m_site->set("curChannel", 2);
+        QVERIFY(confirm().contains("没有读到")); // these would be the settings of the first channel
+        QVERIFY(m_site->asked("NetSetItem").isEmpty());
+        if (fault >= 0)
+            m_site->site->setFault(device.mac, {static_cast<Fault>(fault), 1104, "Encode"});
+        m_site->net->silentItem = silentItem;
+        m_site->site->requests().clear();
+        const int result = read();
+        QTEST(EncodeForm::isDeviceAway(result), "isAway");
+        QTEST(places("NetGetItem"), "reads");
+        QCOMPARE(m_site->asked("NetGetNewConfig").size(), result == 0 ? 2 : 1); // then "VideoColor", too
+        QVERIFY(!m_site->get("audioEnable").isValid());
+
+        if (fault >= 0)
+            m_site->site->clearFault(device.mac, static_cast<Fault>(fault));
+        m_site->net->silentItem = 0;
+        m_site->set("subCurResolution", "CIF");
+        m_site->set("audioEnable", 1);
+        QCOMPARE(places("NetSetItem"), writes.contains("1100/4") ? "1100/4" : "");
+        m_site->site->requests().clear();
+        const QString unsaved = confirm();
+        QCOMPARE(places("NetSetItem"), writes);
+        const auto unread = 8 - writes.split(' ', Qt::SkipEmptyParts).size();
+        QCOMPARE(unsaved.count("（没有读到，未写入）\n"), unread);
+        QVERIFY(unsaved.contains("主码流编码音频压缩格式（"));
+        QCOMPARE(m_site->get("unreadItems").toStringList().size(), unread);
     }
 
     void anOverLongTextIsAFailure()
@@ -374,6 +439,8 @@ private Q_SLOTS:
         QCOMPARE(m_site->asked("NetSetItem").size(), 1); // no further tries that would each wait
         QCOMPARE(result.size(), 1);
         QCOMPARE(confirm().count('\n'), 8);
+        QCOMPARE(m_site->asked("NetSetItem").size(), 2);
+        QCOMPARE(result.size(), 2);
         QCOMPARE(read(), static_cast<int>(sdk::NetError::NetworkFailure));
         QCOMPARE(m_site->get("curResolution").toString(), "2688*1520"); // lists stay as they were
     }
@@ -400,14 +467,28 @@ private Q_SLOTS:
         QCOMPARE(written(1104, 1).value("audioEnable").toInt(), 1); // its own stays
     }
 
-    void anItemThatTheTargetDoesNotTellIsLeftAsItIs()
+    void anItemThatOneOfTheDevicesDoesNotTellIsLeftAsItIs_data()
     {
+        QTest::addColumn<bool>("ofSource");
+        QTest::addColumn<int>("item");
+        QTest::addColumn<QString>("names");
+        QTest::newRow("target") << false << 1104 << "主码流编码音频压缩格式、辅码流编码音频压缩格式";
+        QTest::newRow("source") << true << 1104 << "主码流编码音频压缩格式、辅码流编码音频压缩格式";
+        QTest::newRow("source's picture") << true << 1100 << "主码流编码视频格式属性、辅码流编码视频格式属性";
+    }
+
+    void anItemThatOneOfTheDevicesDoesNotTellIsLeftAsItIs()
+    {
+        QFETCH(bool, ofSource);
+        QFETCH(int, item);
+        QFETCH(QString, names);
+        SceneDevice source = modernCamera();
         SceneDevice target = configDevice(6, "IPC", 1);
-        target.faults = {{Fault::WithholdsItem, 1104}};
-        const QString skipped = copy(modernCamera(), target);
+        (ofSource ? source : target).faults = {{Fault::WithholdsItem, item}};
+        const QString skipped = copy(source, target);
         QCOMPARE(m_site->asked("NetSetItem").size(), 6);
-        QVERIFY(written(1104, 1).isEmpty());
-        QCOMPARE(skipped, "未复制：主码流编码音频压缩格式、辅码流编码音频压缩格式");
+        QVERIFY(written(item, 1).isEmpty());
+        QCOMPARE(skipped, "未复制：" + names);
     }
 
     void withoutAConfigurationLibraryNothingIsWritten()

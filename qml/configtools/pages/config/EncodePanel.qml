@@ -10,10 +10,14 @@ Item {
     required property int targetCount
     readonly property EncodeForm form: work.form
     readonly property string trouble: {
-        if (work.refusedItems !== "")
-            return qsTr("设备没有接受：%1").arg(work.refusedItems.trim().split("\n").join(qsTr("、")));
+        const lost = work.session.lost ? qsTr("与设备的连接已断开") : "";
+        if (work.unsavedItems !== "")
+            return Array.from([lost, qsTr("没有保存：%1").arg(work.unsavedItems.trim().split("\n").join(qsTr("、")))])
+                .filter(part => part !== "").join(qsTr("，"));
         if (work.failed)
             return "";
+        if (lost !== "")
+            return lost;
         if (work.result === work.configurationUnreadable)
             return qsTr("设备的配置无法识别，显示的内容可能不完整");
         return form.complete ? "" : qsTr("设备没有告知它的编码能力，部分选项为空");
@@ -95,7 +99,8 @@ Item {
     // What was read before is another channel's.
     OVEmptyState {
         anchors.fill: view
-        hint: qsTr("设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。")
+        hint: root.work.session.lost ? qsTr("与设备的连接已断开，请刷新重试。")
+            : qsTr("%1，或者这个通道没有连接。请选择其他通道，或刷新重试。").arg(root.form.failureName(root.work.result))
         iconName: "unplugged"
         objectName: "encodeEmptyState"
         title: qsTr("没有读到通道 %1 的编码配置").arg(root.form.channel + 1)
@@ -140,7 +145,9 @@ Item {
                 color: root.trouble !== "" ? Theme.colours.bad : Theme.colours.warnInk
                 objectName: "encodeNotice"
                 text: root.trouble !== "" ? root.trouble
-                    : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved) : ""
+                    : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved)
+                    : root.work.failed || root.form.unreadItems.length === 0 ? ""
+                    : qsTr("没有读到：%1，保存时不写入").arg(Array.from(root.form.unreadItems).join(qsTr("、")))
             }
         }
         Row {

@@ -100,6 +100,7 @@ Column {
             id: videoSwitch
             anchors.right: parent.right
             accessibleName: qsTr("启用辅码流")
+            enabled: root.stream.videoEnable.usable
             objectName: root.namePrefix + "VideoSwitch"
             on: root.stream.videoEnable.value === 1
             text: qsTr("启用")
@@ -125,6 +126,7 @@ Column {
             width: parent.width
             accessibleName: root.title + " " + qsTr("码流控制")
             chosen: root.stream.control.value
+            enabled: root.stream.control.usable
             model: [qsTr("固定码流"), qsTr("可变码流")]
             objectName: root.namePrefix + "ControlChoice"
             source: root.stream
@@ -161,6 +163,7 @@ Column {
         OVSwitch {
             id: audioSwitch
             accessibleName: root.title + " " + qsTr("启用音频")
+            enabled: root.stream.audioEnable.usable
             objectName: root.namePrefix + "AudioSwitch"
             on: root.stream.audioEnable.value === 1
             onWanted: on => root.changeRequested(root.stream.audioEnable.key, on ? 1 : 0)

@@ -13,7 +13,7 @@ Item {
     readonly property int configurationUnreadable: 1
     readonly property int abilitiesUnknown: 10
     readonly property bool failed: isFailure(result)
-    property string refusedItems  // of the last saving, a line for each
+    property string unsavedItems  // of the last saving, a line for each, or the reason why nothing was saved
     readonly property alias form: encodeForm
     readonly property var subStream: encodeForm.subStream
     readonly property int unsaved: read ? encodeForm.changedCount : 0
@@ -26,7 +26,7 @@ Item {
     /// Forgets the device. What was changed and not saved is lost; it is read anew when it is next shown.
     function forget() {
         read = false;
-        refusedItems = "";
+        unsavedItems = "";
         result = 0;
     }
 
@@ -36,7 +36,7 @@ Item {
             session.tryAgain();
             return;
         }
-        refusedItems = "";
+        unsavedItems = "";
         session.work(qsTr("正在读取编码配置…"), () => {
             deviceFactory.getEncodeCaps("dh");
             encodeForm.read();
@@ -46,7 +46,7 @@ Item {
 
     /// `key` is "curChannel" or "curStreamType".
     function choose(key, index) {
-        refusedItems = "";
+        unsavedItems = "";
         session.work(qsTr("正在读取编码配置…"), () => {
             deviceFactory.setConfigData("dh", key, index);
             deviceFactory.getEncodeInfo("dh");
@@ -55,7 +55,7 @@ Item {
     }
 
     function set(key, value) {
-        refusedItems = "";
+        unsavedItems = "";
         // Only this one goes to the device at once.
         if (key === "subCurResolution")
             session.work(qsTr("正在写入辅码流分辨率…"), () => {
@@ -73,8 +73,12 @@ Item {
     }
 
     function save() {
-        refusedItems = "";
-        session.work(qsTr("正在保存编码配置…"), () => deviceFactory.confirmConfigData("dh"), true);
+        unsavedItems = "";
+        session.work(qsTr("正在保存编码配置…"), () => {
+            writing = true;
+            deviceFactory.confirmConfigData("dh");
+            writing = false;
+        }, true);
     }
 
     visible: false
@@ -93,20 +97,21 @@ Item {
             // After a write the form stays: what was changed and not saved would be out of reach.
             if (!failure || !root.writing)
                 root.result = result;
-            if (failure)
-                root.session.said(qsTr("设备没有应答，读取配置失败"), OVToast.Error, root.session.longStay);
+            if (failure && !root.writing)
+                root.session.said(qsTr("读取配置失败：%1").arg(encodeForm.failureName(result)), OVToast.Error,
+                                  root.session.longStay);
         }
         function onSignalChangeEncodeChannel() {
             encodeForm.read();
         }
-        function onSignalConfirmEncodeConfig(refused) {
-            if (refused === "") {
+        function onSignalConfirmEncodeConfig(unsaved) {
+            if (unsaved === "") {
                 root.session.said(qsTr("保存成功"), OVToast.Success, root.session.shortStay);
                 root.session.work(qsTr("正在读取编码配置…"), () => root.deviceFactory.getEncodeInfo("dh"));
             } else {
                 encodeForm.takeSaved();
-                root.refusedItems = refused;
-                root.session.said(refused + qsTr("保存失败"), OVToast.Error, root.session.longStay);
+                root.unsavedItems = unsaved;
+                root.session.said(unsaved + qsTr("保存失败"), OVToast.Error, root.session.longStay);
             }
         }
     }

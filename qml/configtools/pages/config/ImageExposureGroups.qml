@@ -88,12 +88,14 @@ Column {
             group: exposure
             label: qsTr("3D降噪")
             subKey: "3DType"
+            visible: exposure.values.noiseReductionSupport !== false
         }
         ImageSlider {
             group: exposure
             label: qsTr("降噪等级")
             most: Math.min(4, exposure.most("3D"))
             subKey: "3D"
+            visible: exposure.values.noiseReductionSupport !== false
         }
     }
     ImageGroup {

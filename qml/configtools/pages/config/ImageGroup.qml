@@ -1,5 +1,5 @@
-// Settings of a camera that belong together. A group that the camera does not have is hidden. Its rows take their
-// values from here, and tell it what the user sets.
+// Settings of a camera that belong together. A group that the camera does not have is hidden; one whose values were not
+// read says so in place of its rows. The rows take their values from here, and tell it what the user sets.
 import QtQuick
 import configtools
 
@@ -34,7 +34,8 @@ OVSection {
         work.set(key, [[subKey, value]]);
     }
 
+    note: values.unread === true ? qsTr("没有读到这一组设置，不能修改。请刷新重试。") : ""
     objectName: "group_" + key
-    visible: values.support === true
+    visible: values.support === true || values.unread === true
     width: parent?.width ?? 0
 }

@@ -16,7 +16,7 @@ Item {
         ["exposure", "backMode", "whiteBalance"],
         ["dayNight", "lightControl", "lightControlEx"]
     ]
-    readonly property bool empty: !subjects[subject].some(key => form.groups[key].support)
+    readonly property bool empty: !subjects[subject].some(key => form.groups[key].support || form.groups[key].unread)
 
     // What gets the keyboard comes into view.
     readonly property Item focused: Window.activeFocusItem

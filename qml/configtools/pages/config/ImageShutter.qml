@@ -24,7 +24,7 @@ Column {
     }
 
     function write(lowest, highest) {
-        group.work.set(group.key, [["dbExposureValue1", lowest], ["dbExposureValue2", highest]]);
+        group.work.set(group.key, form.shutterWrites(longest, lowest, highest));
     }
 
     function finish() {

@@ -8,7 +8,7 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
-    property bool writeRefused: false
+    property int refusal: 0  // why the device did not take the last change
     property var connectedChannels: []  // for each channel whether it has a camera
     readonly property alias form: cameraForm
 
@@ -19,7 +19,10 @@ Item {
     function load() {
         session.work(qsTr("正在读取图像配置…"), () => {
             deviceFactory.getCameraConfig("dh");
-            deviceFactory.getVideoInByChangeChannel("dh");
+            if (session.loggedIn)  // else the values would only be waited for again
+                deviceFactory.getVideoInByChangeChannel("dh");
+            else
+                cameraForm.read();
             read = session.loggedIn;
             if (read)
                 connectedChannels = deviceFactory.getConfigData("dh", "connectedChannels");
@@ -42,20 +45,20 @@ Item {
     /// Writes values of a group, each as [sub-key, value].
     function set(key, values) {
         session.work(qsTr("正在写入图像配置…"), () => {
-            writeRefused = false;
+            refusal = 0;
             for (const [subKey, value] of values) {
                 if (session.loggedIn)
                     deviceFactory.setConfigData("dh", key, value, subKey);
             }
             if (key === "curChannelName")
                 session.names.forget();
-            const refused = writeRefused;
             cameraForm.read();
             read = session.loggedIn;
             if (!session.loggedIn)
                 session.said(qsTr("设备没有应答，修改可能没有写入"), OVToast.Error, session.longStay);
-            else if (refused)
-                session.said(qsTr("设备没有接受修改，显示的是设备现有的值"), OVToast.Error, session.longStay);
+            else if (refusal !== 0)
+                session.said(qsTr("没有修改：%1。显示的是设备现有的值")
+                             .arg(session.encoding.form.failureName(refusal)), OVToast.Error, session.longStay);
         }, true);
     }
 
@@ -74,8 +77,10 @@ Item {
             cameraForm.read();
         }
         function onSignalChangeVideoType() {
-            root.writeRefused = true;
             cameraForm.read();
+        }
+        function onSignalGetDeviceCapRet(result) {
+            root.refusal = result;
         }
     }
 }
