@@ -57,6 +57,7 @@ QString CgiProcedure::loginRefusal(int loginResult)
     constexpr int accountLocked = 3;
     constexpr int networkFailure = 5;
     constexpr int notInitialised = 7;
+    constexpr int upgrading = 14;
     switch (loginResult) {
     case noSuchAccount:
     case wrongPassword:
@@ -67,6 +68,8 @@ QString CgiProcedure::loginRefusal(int loginResult)
         return tr("网络连接失败。");
     case notInitialised:
         return tr("设备未初始化。");
+    case upgrading:
+        return tr("设备正在升级。");
     case unknownError:
         return tr("未知错误。");
     default:

@@ -1,6 +1,7 @@
 // The camera image page. Failures are reported after what the page is to show.
 #include "device/dh/cameraconfig.h"
 #include "device/dh/devicedh.h"
+#include "device/loginresult.h"
 
 void CDeviceDH::getCameraConfig()
 {
@@ -27,6 +28,11 @@ void CDeviceDH::getVideoInByChangeChannel()
 
 void CDeviceDH::setCameraValue(const QString &key, const QVariant &value, const QString &subKey)
 {
+    if (key != QLatin1String("curSwitchMode") && isUpgradingAt(m_session.ipport)) {
+        Q_EMIT signalCDeviceChangeVideoType();
+        Q_EMIT signalCDeviceGetDeviceCapRet(resultCode(LoginResult::Upgrading));
+        return;
+    }
     switch (m_camera->setValue(key, value, subKey)) {
     case CameraConfig::Outcome::Ignored:
         break;

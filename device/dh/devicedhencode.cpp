@@ -68,6 +68,11 @@ void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const Q
         setCameraValue(key, value, otype);
         return;
     }
+    // It is written at once.
+    if (key == QLatin1String("subCurResolution") && isUpgradingAt(m_session.ipport)) {
+        Q_EMIT signalCDeviceConfirmEncodeConfig(resultName(resultCode(LoginResult::Upgrading)) + u'\n');
+        return;
+    }
     const EncodeConfig::Outcome outcome = m_encode->setValue(key, value);
     if (!outcome.notWritten.isEmpty())
         Q_EMIT signalCDeviceConfirmEncodeConfig(outcome.notWritten);
@@ -77,6 +82,10 @@ void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const Q
 
 void CDeviceDH::confirmConfigData()
 {
+    if (isUpgradingAt(m_session.ipport)) {
+        Q_EMIT signalCDeviceConfirmEncodeConfig(resultName(resultCode(LoginResult::Upgrading)) + u'\n');
+        return;
+    }
     const EncodeConfig::Outcome outcome = m_encode->confirm();
     Q_EMIT signalCDeviceConfirmEncodeConfig(outcome.notWritten);
     if (outcome.result != 0)

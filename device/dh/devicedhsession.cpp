@@ -22,6 +22,8 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
 
 int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const QString &password)
 {
+    if (isUpgradingAt(ipport)) // what follows the check would come between the device and its firmware
+        return resultCode(LoginResult::Upgrading);
     const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
     if (login.handle != 0)
         m_libraries.net->NetLogout(login.handle);

@@ -130,6 +130,8 @@ private Q_SLOTS:
         RawServer server([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "OK"); });
         m_loginResult = 3;
         QCOMPARE(run(server.url("/cgi-bin/a")), "Error:设备被锁定。");
+        m_loginResult = 14;
+        QCOMPARE(run(server.url("/cgi-bin/a")), "Error:设备正在升级。");
         m_loginResult = 0;
         QVERIFY(run(server.url("/cgi-bin/a"), {}, "admin\r\nX-Smuggled: 1").startsWith("Error:"));
         QVERIFY(run("file:///etc/hostname").startsWith("Error:"));

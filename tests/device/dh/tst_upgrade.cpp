@@ -387,6 +387,10 @@ private Q_SLOTS:
     {
         const UpgradeSite test(2);
         QSignalSpy changed(test.factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        QCOMPARE(test.factory->findAndLoginDevice(test.family, test.ipport(0), u"admin"_s, u"secret1"_s), 0);
+        test.factory->getEncodeCaps(test.family);
+        test.factory->getCameraConfig(test.family);
+        test.factory->getVideoIn(test.family);
         test.start({0}, test.file());
         QTRY_COMPARE(changed.size(), 1); // the pages hold the row back
         test.factory->setBatchDeleteDevice(test.family, {{test.mac(0), true}, {test.mac(1), true}},
@@ -412,6 +416,14 @@ private Q_SLOTS:
         QCOMPARE(results, QList<QVariantList>(commands.size(), {test.ipport(0), refusal}));
         test.factory->copyConfigToDevice(test.family, {test.ipport(0)});
         QCOMPARE(copies, QList<QVariantList>({{test.ipport(0), refusal}}));
+        QSignalSpy encoding(test.factory.get(), &CDeviceFactory::signalConfirmEncodeConfig);
+        QSignalSpy image(test.factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
+        test.factory->confirmConfigData(test.family);
+        test.factory->setConfigData(test.family, u"subCurResolution"_s, u"CIF"_s);
+        QCOMPARE(encoding, QList<QVariantList>(2, {u"设备正在升级\n"_s}));
+        test.factory->setConfigData(test.family, u"picture"_s, 3, u"hue"_s);
+        QCOMPARE(image, QList<QVariantList>({{refusal}}));
+        QCOMPARE(test.factory->checkLogin(test.family, test.ipport(0), u"admin"_s, u"secret1"_s), refusal);
         QVERIFY(test.site->requests().all().isEmpty());
 
         QVERIFY(test.passUntilEnd());

@@ -162,13 +162,15 @@ OVTable {
         id: actionCell
         OVTableCell {
             id: action
+            readonly property bool upgrading: UpgradeTools.isRunning(row?.upgraderes ?? UpgradeTools.None)
 
             OVLinkButton {
                 anchors.verticalCenter: parent.verticalCenter
+                enabled: !action.upgrading
                 focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
                 objectName: "cgiSend" + action.rowIndex
                 text: qsTr("配置")
-                toolTip: qsTr("向这台设备发送CGI命令")
+                toolTip: action.upgrading ? qsTr("设备正在升级，不能发送CGI命令") : qsTr("向这台设备发送CGI命令")
                 onClicked: root.sendRequested(action.rowIndex)
             }
         }

@@ -146,6 +146,7 @@ Item {
                 color: root.form.failedCount > 0 ? Theme.colours.bad : Theme.colours.warnInk
                 objectName: "namesNotice"
                 text: root.form.failedCount > 0 ? qsTr("%n 个通道名称未保存", "", root.form.failedCount)
+                    : root.work.session.upgrading ? qsTr("设备正在升级，不能保存修改")
                     : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved)
                     : root.form.untoldCount > 0 ? qsTr("设备没有告知 %n 个通道的名称", "", root.form.untoldCount) : ""
             }
@@ -164,10 +165,11 @@ Item {
             }
             OVButton {
                 id: save
-                enabled: root.work.unsaved > 0
+                enabled: root.work.unsaved > 0 && !root.work.session.upgrading
                 kind: OVButton.Primary
                 objectName: "namesSaveButton"
                 text: qsTr("保存")
+                toolTip: root.work.session.upgrading ? qsTr("设备正在升级，不能保存修改") : ""
                 onClicked: root.work.save()
             }
         }

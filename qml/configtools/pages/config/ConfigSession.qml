@@ -22,6 +22,7 @@ Item {
     property bool lost: false        // the login was there, but the device no longer answers
     property bool overtaken: false   // another login was made in the midst of work, which is left out for that
     property bool changeLost: false  // it was to write something
+    property bool upgrading: false   // the device takes new firmware, and no settings until that has ended
     property string failure          // why there was no login
     property string busyText
     readonly property bool busy: busyText !== ""
@@ -65,9 +66,15 @@ Item {
         name = row.name ?? "";
         model = row.model ?? "";
         type = row.type ?? "";
+        noteUpgrade();
         // A device that was found has no account of its own: the search settings' one is tried.
         login(row.username || localConfig.getSearchConfigUsrename(),
               row.password || localConfig.getSearchConfigPass());
+    }
+
+    function noteUpgrade() {
+        const row = device === "" ? {} : deviceFactory.getDeviceInfo("dh", device);
+        upgrading = UpgradeTools.isRunning(row.upgraderes ?? UpgradeTools.None);
     }
 
     /// What was read of the device, with what was changed and not saved.
@@ -169,6 +176,13 @@ Item {
         session: root
     }
 
+    Connections {
+        target: root.deviceFactory
+
+        function onSignalAddSingleDeviceToTable() {
+            root.noteUpgrade();
+        }
+    }
     Connections {
         enabled: root.loggedIn || root.lost  // its own login is awaited in neither
         target: root.deviceFactory

@@ -15,6 +15,8 @@ Item {
             return qsTr("未登录");
         if (session.lost)
             return qsTr("连接已断开");
+        if (session.loggedIn && session.upgrading)
+            return qsTr("正在升级");
         return session.loggedIn ? qsTr("已登录") : qsTr("登录失败：%1").arg(session.failure);
     }
     readonly property string details: Array.from([session.device, session.name, session.model, session.type])

@@ -18,6 +18,8 @@ Item {
             return "";
         if (lost !== "")
             return lost;
+        if (work.session.upgrading)
+            return qsTr("设备正在升级，不能保存修改");
         if (work.result === work.configurationUnreadable)
             return qsTr("设备的配置无法识别，显示的内容可能不完整");
         return form.complete ? "" : qsTr("设备没有告知它的编码能力，部分选项为空");
@@ -171,10 +173,11 @@ Item {
                 onClicked: root.refreshRequested()
             }
             OVButton {
-                enabled: !root.work.failed
+                enabled: !root.work.failed && !root.work.session.upgrading
                 kind: OVButton.Primary
                 objectName: "encodeSaveButton"
                 text: qsTr("保存")
+                toolTip: root.work.session.upgrading ? qsTr("设备正在升级，不能保存修改") : ""
                 onClicked: root.work.save()
             }
         }

@@ -34,6 +34,7 @@ OVSection {
         work.set(key, [[subKey, value]]);
     }
 
+    enabled: !work.session.upgrading
     note: values.unread === true ? qsTr("没有读到这一组设置，不能修改。请刷新重试。") : ""
     objectName: "group_" + key
     visible: values.support === true || values.unread === true

@@ -65,6 +65,7 @@ Item {
                 id: nameField
                 width: parent.width
                 accessibleName: qsTr("通道名称")
+                enabled: !root.work.session.upgrading
                 errorText: ByteText.bytes(text.trim()) > ByteText.channelNameBytes
                     ? qsTr("名称过长，最多 %1 字节").arg(ByteText.channelNameBytes) : ""
                 objectName: "channelNameField"
@@ -93,7 +94,8 @@ Item {
             width: parent.width
             color: Theme.colours.faint
             font: Theme.hintFont
-            text: qsTr("修改会立即写入设备。")
+            objectName: "imageNotice"
+            text: root.work.session.upgrading ? qsTr("设备正在升级，不能修改。") : qsTr("修改会立即写入设备。")
         }
     }
     Row {
@@ -109,7 +111,7 @@ Item {
         }
         OVButton {
             width: (parent.width - parent.spacing) / 2
-            enabled: root.groups.picture.support
+            enabled: root.groups.picture.support && !root.work.session.upgrading
             objectName: "imageDefaultsButton"
             text: qsTr("恢复默认")
             onClicked: root.work.set("setDefault", [["", ""]])
