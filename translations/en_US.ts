@@ -498,6 +498,10 @@
         <source>已收到的部分录像保存在：%1</source>
         <translation>The part of the recording that has arrived is in: %1</translation>
     </message>
+    <message>
+        <source>设备正在升级。</source>
+        <translation>The device is being upgraded.</translation>
+    </message>
 </context>
 <context>
     <name>CgiRequest</name>
@@ -591,6 +595,10 @@ A right click copies the result</translation>
     <message>
         <source>查看全部内容</source>
         <translation>Show all of it</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能发送CGI命令</source>
+        <translation>The device is being upgraded; no CGI command can be sent</translation>
     </message>
 </context>
 <context>
@@ -724,6 +732,10 @@ A right click copies the result</translation>
     <message>
         <source>保存</source>
         <translation>Save</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能保存修改</source>
+        <translation>The device is being upgraded; changes cannot be saved</translation>
     </message>
 </context>
 <context>
@@ -1200,6 +1212,10 @@ A right click copies the result</translation>
         <source>连接已断开</source>
         <translation>Connection lost</translation>
     </message>
+    <message>
+        <source>正在升级</source>
+        <translation>Being upgraded</translation>
+    </message>
 </context>
 <context>
     <name>EncodeBitRate</name>
@@ -1241,6 +1257,10 @@ A right click copies the result</translation>
     <message>
         <source>辅码流编码音频格式配置</source>
         <translation>Sub stream: audio format configuration</translation>
+    </message>
+    <message>
+        <source>%1（没有读到，未写入）</source>
+        <translation>%1 (not read, not written)</translation>
     </message>
 </context>
 <context>
@@ -1287,11 +1307,26 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
-    <name>EncodePanel</name>
+    <name>EncodeForm</name>
     <message>
-        <source>设备没有接受：%1</source>
-        <translation>Refused: %1</translation>
+        <source>设备没有应答</source>
+        <translation>The device did not answer</translation>
     </message>
+    <message>
+        <source>设备不支持此操作</source>
+        <translation>The device does not support this</translation>
+    </message>
+    <message>
+        <source>设备正忙</source>
+        <translation>The device is busy</translation>
+    </message>
+    <message>
+        <source>设备拒绝了此操作（错误 %1）</source>
+        <translation>The device refused (error %1)</translation>
+    </message>
+</context>
+<context>
+    <name>EncodePanel</name>
     <message>
         <source>、</source>
         <translation>, </translation>
@@ -1315,10 +1350,6 @@ A right click copies the result</translation>
     <message>
         <source>辅码流</source>
         <translation>Sub stream</translation>
-    </message>
-    <message>
-        <source>设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
-        <translation>The device did not answer, or nothing is connected to this channel. Choose another one, or refresh.</translation>
     </message>
     <message>
         <source>没有读到通道 %1 的编码配置</source>
@@ -1349,6 +1380,34 @@ A right click copies the result</translation>
     <message>
         <source>保存</source>
         <translation>Save</translation>
+    </message>
+    <message>
+        <source>与设备的连接已断开</source>
+        <translation>The connection to the device is lost</translation>
+    </message>
+    <message>
+        <source>没有保存：%1</source>
+        <translation>Not saved: %1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能保存修改</source>
+        <translation>The device is being upgraded; changes cannot be saved</translation>
+    </message>
+    <message>
+        <source>与设备的连接已断开，请刷新重试。</source>
+        <translation>The connection to the device is lost. Refresh to try again.</translation>
+    </message>
+    <message>
+        <source>%1，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
+        <translation>%1, or nothing is connected to this channel. Choose another one, or refresh.</translation>
+    </message>
+    <message>
+        <source>没有读到：%1，保存时不写入</source>
+        <translation>Not read: %1. Saving leaves them as they are.</translation>
     </message>
 </context>
 <context>
@@ -1436,16 +1495,16 @@ A right click copies the result</translation>
         <translation>Saving encode settings…</translation>
     </message>
     <message>
-        <source>设备没有应答，读取配置失败</source>
-        <translation>The device did not answer: nothing was read</translation>
-    </message>
-    <message>
         <source>保存成功</source>
         <translation>Saved</translation>
     </message>
     <message>
         <source>保存失败</source>
         <translation>Saving failed</translation>
+    </message>
+    <message>
+        <source>读取配置失败：%1</source>
+        <translation>Nothing was read: %1</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1719,13 @@ A right click copies the result</translation>
     <message>
         <source>红增益</source>
         <translation>Red gain</translation>
+    </message>
+</context>
+<context>
+    <name>ImageGroup</name>
+    <message>
+        <source>没有读到这一组设置，不能修改。请刷新重试。</source>
+        <translation>These settings were not read and cannot be changed. Refresh to try again.</translation>
     </message>
 </context>
 <context>
@@ -1955,6 +2021,10 @@ A right click copies the result</translation>
         <source>名称过长，最多 %1 字节</source>
         <translation>Too long: %1 bytes at most</translation>
     </message>
+    <message>
+        <source>设备正在升级，不能修改。</source>
+        <translation>The device is being upgraded; nothing can be changed.</translation>
+    </message>
 </context>
 <context>
     <name>ImageWork</name>
@@ -1967,12 +2037,12 @@ A right click copies the result</translation>
         <translation>Writing image settings…</translation>
     </message>
     <message>
-        <source>设备没有接受修改，显示的是设备现有的值</source>
-        <translation>The device refused the change. What it has is shown.</translation>
-    </message>
-    <message>
         <source>设备没有应答，修改可能没有写入</source>
         <translation>The device did not answer. The change may not have been written.</translation>
+    </message>
+    <message>
+        <source>没有修改：%1。显示的是设备现有的值</source>
+        <translation>Not changed: %1. What the device has is shown.</translation>
     </message>
 </context>
 <context>

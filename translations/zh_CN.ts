@@ -492,6 +492,10 @@
         <source>已收到的部分录像保存在：%1</source>
         <translation>已收到的部分录像保存在：%1</translation>
     </message>
+    <message>
+        <source>设备正在升级。</source>
+        <translation>设备正在升级。</translation>
+    </message>
 </context>
 <context>
     <name>CgiRequest</name>
@@ -584,6 +588,10 @@
     <message>
         <source>查看全部内容</source>
         <translation>查看全部内容</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能发送CGI命令</source>
+        <translation>设备正在升级，不能发送CGI命令</translation>
     </message>
 </context>
 <context>
@@ -714,6 +722,10 @@
     <message>
         <source>保存</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能保存修改</source>
+        <translation>设备正在升级，不能保存修改</translation>
     </message>
 </context>
 <context>
@@ -1184,6 +1196,10 @@
         <source>连接已断开</source>
         <translation>连接已断开</translation>
     </message>
+    <message>
+        <source>正在升级</source>
+        <translation>正在升级</translation>
+    </message>
 </context>
 <context>
     <name>EncodeBitRate</name>
@@ -1225,6 +1241,10 @@
     <message>
         <source>辅码流编码音频格式配置</source>
         <translation>辅码流编码音频格式配置</translation>
+    </message>
+    <message>
+        <source>%1（没有读到，未写入）</source>
+        <translation>%1（没有读到，未写入）</translation>
     </message>
 </context>
 <context>
@@ -1271,11 +1291,26 @@
     </message>
 </context>
 <context>
-    <name>EncodePanel</name>
+    <name>EncodeForm</name>
     <message>
-        <source>设备没有接受：%1</source>
-        <translation>设备没有接受：%1</translation>
+        <source>设备没有应答</source>
+        <translation>设备没有应答</translation>
     </message>
+    <message>
+        <source>设备不支持此操作</source>
+        <translation>设备不支持此操作</translation>
+    </message>
+    <message>
+        <source>设备正忙</source>
+        <translation>设备正忙</translation>
+    </message>
+    <message>
+        <source>设备拒绝了此操作（错误 %1）</source>
+        <translation>设备拒绝了此操作（错误 %1）</translation>
+    </message>
+</context>
+<context>
+    <name>EncodePanel</name>
     <message>
         <source>、</source>
         <translation>、</translation>
@@ -1299,10 +1334,6 @@
     <message>
         <source>辅码流</source>
         <translation>辅码流</translation>
-    </message>
-    <message>
-        <source>设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
-        <translation>设备没有应答，或者这个通道没有连接。请选择其他通道，或刷新重试。</translation>
     </message>
     <message>
         <source>没有读到通道 %1 的编码配置</source>
@@ -1331,6 +1362,34 @@
     <message>
         <source>保存</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>与设备的连接已断开</source>
+        <translation>与设备的连接已断开</translation>
+    </message>
+    <message>
+        <source>没有保存：%1</source>
+        <translation>没有保存：%1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能保存修改</source>
+        <translation>设备正在升级，不能保存修改</translation>
+    </message>
+    <message>
+        <source>与设备的连接已断开，请刷新重试。</source>
+        <translation>与设备的连接已断开，请刷新重试。</translation>
+    </message>
+    <message>
+        <source>%1，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
+        <translation>%1，或者这个通道没有连接。请选择其他通道，或刷新重试。</translation>
+    </message>
+    <message>
+        <source>没有读到：%1，保存时不写入</source>
+        <translation>没有读到：%1，保存时不写入</translation>
     </message>
 </context>
 <context>
@@ -1418,16 +1477,16 @@
         <translation>正在保存编码配置…</translation>
     </message>
     <message>
-        <source>设备没有应答，读取配置失败</source>
-        <translation>设备没有应答，读取配置失败</translation>
-    </message>
-    <message>
         <source>保存成功</source>
         <translation>保存成功</translation>
     </message>
     <message>
         <source>保存失败</source>
         <translation>保存失败</translation>
+    </message>
+    <message>
+        <source>读取配置失败：%1</source>
+        <translation>读取配置失败：%1</translation>
     </message>
 </context>
 <context>
@@ -1641,6 +1700,13 @@
     <message>
         <source>红增益</source>
         <translation>红增益</translation>
+    </message>
+</context>
+<context>
+    <name>ImageGroup</name>
+    <message>
+        <source>没有读到这一组设置，不能修改。请刷新重试。</source>
+        <translation>没有读到这一组设置，不能修改。请刷新重试。</translation>
     </message>
 </context>
 <context>
@@ -1936,6 +2002,10 @@
         <source>名称过长，最多 %1 字节</source>
         <translation>名称过长，最多 %1 字节</translation>
     </message>
+    <message>
+        <source>设备正在升级，不能修改。</source>
+        <translation>设备正在升级，不能修改。</translation>
+    </message>
 </context>
 <context>
     <name>ImageWork</name>
@@ -1948,12 +2018,12 @@
         <translation>正在写入图像配置…</translation>
     </message>
     <message>
-        <source>设备没有接受修改，显示的是设备现有的值</source>
-        <translation>设备没有接受修改，显示的是设备现有的值</translation>
-    </message>
-    <message>
         <source>设备没有应答，修改可能没有写入</source>
         <translation>设备没有应答，修改可能没有写入</translation>
+    </message>
+    <message>
+        <source>没有修改：%1。显示的是设备现有的值</source>
+        <translation>没有修改：%1。显示的是设备现有的值</translation>
     </message>
 </context>
 <context>
