@@ -40,9 +40,8 @@ int ChannelNameForm::changedCount() const
 
 int ChannelNameForm::failedCount() const
 {
-    return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(), [](const Row &row) {
-        return row.lastWrite == Refused || row.lastWrite == Unanswered;
-    }));
+    return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(),
+                                          [](const Row &row) { return hasFailed(row.lastWrite); }));
 }
 
 int ChannelNameForm::untoldCount() const
@@ -129,6 +128,8 @@ ChannelNameForm::Trouble ChannelNameForm::write(int row)
         written.saved = written.name = told.isValid() ? told.toString() : name;
         written.isTold = true;
         written.lastWrite = written.saved == name ? None : Different;
+    } else if (result == resultCode(LoginResult::Upgrading)) {
+        written.lastWrite = Upgrading;
     } else {
         written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? Unanswered : Refused;
     }
@@ -170,7 +171,7 @@ QVariantMap ChannelNameForm::valuesOf(int row) const
 bool ChannelNameForm::isInConflict(int row) const
 {
     const Trouble trouble = troubleOf(m_rows.at(row));
-    return isFaulty(trouble) || trouble == Refused || trouble == Unanswered;
+    return isFaulty(trouble) || hasFailed(trouble);
 }
 
 void ChannelNameForm::tellOf(int row)

@@ -30,6 +30,7 @@ public:
         TooLong,    ///< in bytes
         Refused,    ///< by the device, at the last write
         Unanswered, ///< the device was away at the last write
+        Upgrading,  ///< nothing was written: the device is being upgraded
         Different,  ///< the device took the name and has another one now
     };
     Q_ENUM(Trouble)
@@ -63,8 +64,8 @@ public:
     /// The first changed row that cannot be written as it is, -1 when there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
 
-    /// Writes the name of a row and reads it back. Returns how that ended: None, Refused, Unanswered or
-    /// Different.
+    /// Writes the name of a row and reads it back. Returns how that ended: None, Refused, Unanswered,
+    /// Upgrading or Different.
     Q_INVOKABLE ChannelNameForm::Trouble write(int row);
 
     /// Ends a saving, of which the factory's signalSetChannelNameFinished tells.
@@ -93,6 +94,10 @@ private:
     };
 
     [[nodiscard]] static bool isFaulty(Trouble trouble) { return trouble == Empty || trouble == TooLong; }
+    [[nodiscard]] static bool hasFailed(Trouble trouble)
+    {
+        return trouble == Refused || trouble == Unanswered || trouble == Upgrading;
+    }
     [[nodiscard]] Trouble troubleOf(const Row &row) const;
     void change(int row, const QString &name);
     void tellOf(int row);

@@ -677,6 +677,10 @@ A right click copies the result</translation>
         <source>恢复设备现有的名称</source>
         <translation>Back to the name that the device has</translation>
     </message>
+    <message>
+        <source>设备正在升级</source>
+        <translation>The device is being upgraded</translation>
+    </message>
 </context>
 <context>
     <name>ChannelNamesPanel</name>

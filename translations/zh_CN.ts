@@ -670,6 +670,10 @@
         <source>恢复设备现有的名称</source>
         <translation>恢复设备现有的名称</translation>
     </message>
+    <message>
+        <source>设备正在升级</source>
+        <translation>设备正在升级</translation>
+    </message>
 </context>
 <context>
     <name>ChannelNamesPanel</name>

@@ -55,10 +55,20 @@ int ChannelNames::write(int channel, const QString &name)
         qCWarning(logDevice) << "ChannelNames: the name of channel" << channel << "is refused, error"
                              << m_session.lastError();
     }
+    if (result != 0) {
+        noteFailure(channel, result);
+        return result;
+    }
     m_results.insert(channel, result);
-    if (!m_saving || result != 0)
+    if (!m_saving)
         m_saving = result;
     return result;
+}
+
+void ChannelNames::noteFailure(int channel, int result)
+{
+    m_results.insert(channel, result);
+    m_saving = result;
 }
 
 bool ChannelNames::endSaving()

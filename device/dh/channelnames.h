@@ -35,6 +35,9 @@ public:
     /// Returns 0, `refused`, or the result of a device that is away.
     int write(int channel, const QString &name);
 
+    /// Takes `result`, which is not 0, as that of a write that was not made.
+    void noteFailure(int channel, int result);
+
     /// Ends a saving, that is the writes since the last one. False when there were none.
     bool endSaving();
 

@@ -2,6 +2,7 @@
 #include "device/dh/devicedh.h"
 #include "device/dh/livechannels.h"
 #include "device/logging.h"
+#include "device/loginresult.h"
 
 #include <algorithm>
 
@@ -39,6 +40,10 @@ void CDeviceDH::writeChannelName(const QString &name, const QString &channel)
     const int number = channel.toInt(&isNumber);
     if (!isNumber || number < 0 || number >= askedChannels(0)) {
         qCWarning(logDevice) << "there is no channel" << channel << "to name";
+        return;
+    }
+    if (isUpgradingAt(m_session.ipport)) {
+        m_channelNames.noteFailure(number, resultCode(LoginResult::Upgrading));
         return;
     }
     if (m_channelNames.write(number, name) == deviceAway)

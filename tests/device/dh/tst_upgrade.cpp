@@ -423,6 +423,8 @@ private Q_SLOTS:
         QCOMPARE(encoding, QList<QVariantList>(2, {u"设备正在升级\n"_s}));
         test.factory->setConfigData(test.family, u"picture"_s, 3, u"hue"_s);
         QCOMPARE(image, QList<QVariantList>({{refusal}}));
+        test.factory->setConfigData(test.family, u"channelName"_s, u"x"_s, u"0"_s);
+        QCOMPARE(test.factory->getConfigData(test.family, u"channelNameResult"_s, 0).toInt(), refusal);
         QCOMPARE(test.factory->checkLogin(test.family, test.ipport(0), u"admin"_s, u"secret1"_s), refusal);
         QVERIFY(test.site->requests().all().isEmpty());
 

@@ -11,6 +11,7 @@ OVTableCell {
     readonly property int trouble: value ?? ChannelNameForm.None
     readonly property bool bad: trouble === ChannelNameForm.Empty || trouble === ChannelNameForm.TooLong
         || trouble === ChannelNameForm.Refused || trouble === ChannelNameForm.Unanswered
+        || trouble === ChannelNameForm.Upgrading
     readonly property string words: {
         switch (trouble) {
         case ChannelNameForm.Unknown:
@@ -23,6 +24,8 @@ OVTableCell {
             return qsTr("设备没有接受");
         case ChannelNameForm.Unanswered:
             return qsTr("设备没有应答");
+        case ChannelNameForm.Upgrading:
+            return qsTr("设备正在升级");
         case ChannelNameForm.Different:
             return qsTr("设备改变了名称");
         default:

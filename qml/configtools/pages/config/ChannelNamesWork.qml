@@ -63,8 +63,8 @@ Item {
         const trouble = nameForm.write(row);
         if (trouble === ChannelNameForm.None || trouble === ChannelNameForm.Different)
             ++written;
-        else if (trouble === ChannelNameForm.Unanswered)
-            batch.stopping = true;  // the others would only wait
+        else if (trouble === ChannelNameForm.Unanswered || trouble === ChannelNameForm.Upgrading)
+            batch.stopping = true;  // the others would only wait, or end the same
     }
 
     function tell() {
