@@ -12,7 +12,7 @@ class Workbook;
 /// go; one from a file is changed in place, and all parts of the file that are not concerned stay byte for
 /// byte.
 ///
-/// What it opens is bounded: 128 MiB of file, 10,000 parts, 64 MiB of text and 512 MiB of memory for one
+/// What it opens is bounded: 128 MiB of file, 10,000 parts, 192 MiB of text and 1 GiB of memory for one
 /// part.
 class FileSheetEngine : public SheetEngine
 {

@@ -41,7 +41,8 @@ public:
     bool selectSheet(int index);
 
     /// How many rows the used range has: from the first row that holds something to the last, so it does not
-    /// count empty rows above. An empty sheet has none or one, by engine. -1 on failure.
+    /// count empty rows above. To the spreadsheet application a cell that has only a look holds something,
+    /// and an empty sheet one row. -1 on failure.
     [[nodiscard]] int usedRowCount();
 
     /// The row that the used range begins with; -1 on failure.

@@ -16,6 +16,12 @@ auto positionOf(Cells &cells, int column)
                             [](const auto &cell, int wanted) { return cell.first < wanted; });
 }
 
+/// False for a cell that has only a look.
+bool holdsValue(pugi::xml_node cell)
+{
+    return childNamed(cell, "v") || childNamed(cell, "is") || childNamed(cell, "f");
+}
+
 } // namespace
 
 bool WorksheetRows::load(pugi::xml_node data)
@@ -57,8 +63,16 @@ bool WorksheetRows::loadRow(int number, pugi::xml_node node)
 
 UsedRows WorksheetRows::usedRows() const
 {
-    const auto range = usedRange();
-    return range ? UsedRows{range->first.row, range->last.row - range->first.row + 1} : UsedRows{};
+    const auto hasValue = [](const auto &entry) {
+        const auto &cells = entry.second.cells;
+        return std::any_of(cells.begin(), cells.end(),
+                           [](const auto &cell) { return holdsValue(cell.second); });
+    };
+    const auto first = std::find_if(m_rows.cbegin(), m_rows.cend(), hasValue);
+    if (first == m_rows.cend())
+        return {};
+    const auto last = std::find_if(m_rows.crbegin(), m_rows.crend(), hasValue);
+    return {first->first, last->first - first->first + 1};
 }
 
 std::optional<CellRange> WorksheetRows::usedRange() const

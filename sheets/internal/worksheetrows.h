@@ -20,6 +20,8 @@ public:
     /// Finds the rows of `data`, the element that holds them. Fails for a number that no sheet has.
     bool load(pugi::xml_node data);
 
+    /// From the first row with a value or a formula in a cell to the last. A cell that has only a look does
+    /// not count.
     [[nodiscard]] UsedRows usedRows() const;
 
     /// The cells that are there, from the first row and column to the last; nothing in an empty sheet.

@@ -1,49 +1,15 @@
 #include "sheets/internal/xmlpart.h"
 
 #include "sheets/internal/xmlnames.h"
+#include "sheets/xmlbounds.h"
 
 namespace sheets {
 
 namespace {
 
-constexpr qint64 maximumMemory = 512LL * 1024 * 1024;
-constexpr qint64 nodeSize = 64;      // of an element, a text or a comment
-constexpr qint64 attributeSize = 40; // as the parser allocates them
+// A device list of 100,000 rows takes 850 MiB.
+constexpr qint64 maximumMemory = 1024LL * 1024 * 1024;
 constexpr int maximumDepth = 100;
-
-/// At least what a document of these bytes takes. A document can be sixteen times as large as its text.
-qint64 neededMemory(const QByteArray &bytes)
-{
-    qint64 nodes = 0;
-    qint64 attributes = 0;
-    char previous = 0;
-    for (const char character : bytes) {
-        nodes += (previous == '<' && character != '/') || (previous == '>' && character != '<');
-        attributes += character == '=';
-        previous = character;
-    }
-    return bytes.size() + nodes * nodeSize + attributes * attributeSize;
-}
-
-bool isTooDeep(pugi::xml_node top)
-{
-    int depth = 0;
-    for (pugi::xml_node node = top; node && depth <= maximumDepth;) {
-        if (node.first_child()) {
-            node = node.first_child();
-            ++depth;
-            continue;
-        }
-        while (node != top && !node.next_sibling()) {
-            node = node.parent();
-            --depth;
-        }
-        if (node == top)
-            break;
-        node = node.next_sibling();
-    }
-    return depth > maximumDepth;
-}
 
 struct ByteArrayWriter : pugi::xml_writer
 {
@@ -59,7 +25,7 @@ struct ByteArrayWriter : pugi::xml_writer
 
 bool XmlPart::parse(const QByteArray &bytes, const char *rootName)
 {
-    if (neededMemory(bytes) > maximumMemory)
+    if (neededXmlMemory(bytes) > maximumMemory)
         return fail(QStringLiteral("it has too many elements"));
     m_document.reset();
     m_buffer = bytes;
@@ -70,7 +36,8 @@ bool XmlPart::parse(const QByteArray &bytes, const char *rootName)
     if (localName(root().name()) != rootName)
         return fail(QStringLiteral("its root element is %1 and not %2")
                         .arg(QString::fromUtf8(root().name()), QString::fromUtf8(rootName)));
-    return !isTooDeep(m_document) || fail(QStringLiteral("its elements are nested too deeply"));
+    return !isNestedDeeper(m_document, maximumDepth) ||
+           fail(QStringLiteral("its elements are nested too deeply"));
 }
 
 QByteArray XmlPart::bytes()

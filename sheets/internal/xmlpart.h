@@ -14,7 +14,7 @@ class XmlPart : public LastError
 {
 public:
     /// Reads the part. Fails when it is not well-formed, has another root element, is nested deeper than 100
-    /// elements, or would take more than 512 MiB of memory. Entities of the document's own are not replaced.
+    /// elements, or would take more than 1 GiB of memory. Entities of the document's own are not replaced.
     bool parse(const QByteArray &bytes, const char *rootName);
 
     /// The root element.

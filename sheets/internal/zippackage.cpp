@@ -12,7 +12,8 @@ namespace sheets {
 namespace {
 
 constexpr zip_int64_t maximumParts = 10'000;
-constexpr zip_uint64_t maximumPartSize = 64ULL * 1024 * 1024;
+// A device list of 100,000 rows is a sheet of 135 MiB.
+constexpr zip_uint64_t maximumPartSize = 192ULL * 1024 * 1024;
 
 // Sheets of one repeated row come close to 100 to 1; deflate cannot exceed 1,032 to 1.
 constexpr zip_uint64_t maximumRatio = 250;

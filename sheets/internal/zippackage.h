@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] bool contains(const QString &name) const;
 
-    /// Unpacks a part, as far as it keeps to a bound of 64 MiB; fails when it is damaged or not there.
+    /// Unpacks a part, as far as it keeps to a bound of 192 MiB; fails when it is damaged or not there.
     bool read(const QString &name, QByteArray &bytes);
 
     /// Puts `bytes` in place of a part, or adds one.

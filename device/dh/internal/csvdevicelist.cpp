@@ -6,19 +6,59 @@
 #include <QIODevice>
 #include <QStringDecoder>
 
+#include <algorithm>
+#include <optional>
+
 namespace {
 
-constexpr qint64 maximumLineLength = 65'536; // in bytes
+constexpr qsizetype maximumLineLength = 65'536; // in bytes
 constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
 
-/// Takes what ends a line away from it.
-void removeLineEnd(QByteArray &line)
+/// The lines of a file, whichever of the usual characters end them.
+class Lines
 {
-    for (const char end : {'\n', '\r'}) {
-        if (line.endsWith(end))
-            line.chop(1);
+public:
+    explicit Lines(QIODevice &file) : m_file(file) {}
+
+    [[nodiscard]] bool atEnd()
+    {
+        fill();
+        return m_next == m_bytes.size();
     }
-}
+
+    /// The next line without what ends it; nothing when it is longer than a list's may be.
+    std::optional<QByteArray> next()
+    {
+        fill();
+        const auto isEnd = [](char character) {
+            return character == '\n' || character == '\r';
+        };
+        const auto begin = m_bytes.cbegin() + m_next;
+        const auto end = std::find_if(begin, m_bytes.cend(), isEnd);
+        if (end - begin > maximumLineLength)
+            return std::nullopt;
+        m_next += end - begin;
+        const QByteArray line(begin, end - begin);
+        if (end != m_bytes.cend())
+            m_next += *end == '\r' && m_next + 1 < m_bytes.size() && m_bytes.at(m_next + 1) == '\n' ? 2 : 1;
+        return line;
+    }
+
+private:
+    /// Keeps enough of the file for a line of the largest length and what ends it.
+    void fill()
+    {
+        constexpr qsizetype needed = maximumLineLength + 2;
+        if (m_bytes.size() - m_next >= needed || m_file.atEnd())
+            return;
+        m_bytes = m_bytes.sliced(m_next) + m_file.read(4 * needed);
+        m_next = 0;
+    }
+
+    QIODevice &m_file;
+    QByteArray m_bytes;
+    qsizetype m_next = 0; ///< where the next line begins in m_bytes
+};
 
 } // namespace
 
@@ -40,18 +80,17 @@ DeviceListContents readCsv(QIODevice &file)
 {
     DeviceListContents contents;
     DeviceListTable table(contents);
-    for (int number = 1; !file.atEnd(); ++number) {
-        QByteArray bytes = file.readLine(maximumLineLength);
-        const bool isWhole = bytes.endsWith('\n') || file.atEnd();
-        if (!isWhole) {
+    Lines lines(file);
+    for (int number = 1; !lines.atEnd(); ++number) {
+        std::optional<QByteArray> bytes = lines.next();
+        if (!bytes) {
             contents.refuse(QCoreApplication::translate("DeviceList", "第 %1 行过长").arg(number));
             return contents;
         }
-        if (number == 1 && bytes.startsWith(byteOrderMark))
-            bytes.remove(0, byteOrderMark.size());
-        removeLineEnd(bytes);
+        if (number == 1 && bytes->startsWith(byteOrderMark))
+            bytes->remove(0, byteOrderMark.size());
         QStringDecoder decoder(QStringDecoder::Utf8);
-        const QString line = decoder.decode(bytes);
+        const QString line = decoder.decode(*bytes);
         if (decoder.hasError()) {
             contents.refuse(QCoreApplication::translate("DeviceList", "第 %1 行不是UTF-8编码").arg(number));
             return contents;

@@ -1,116 +1,212 @@
 #include "device/dh/internal/xmldevicelist.h"
 
 #include "device/logging.h"
+#include "sheets/xmlbounds.h"
 
 #include <QCoreApplication>
-#include <QXmlStreamReader>
+#include <QIODevice>
+#include <QStringDecoder>
+
+#include <pugixml.hpp>
 
 #include <algorithm>
-#include <utility>
+#include <optional>
+#include <string_view>
 
 namespace {
 
-constexpr QLatin1StringView rootName("deviceList");
-constexpr QLatin1StringView deviceName("device");
+constexpr std::string_view rootName("deviceList");
+constexpr const char *deviceName = "device";
 
-/// Lists are three elements deep; what somebody adds to one may be a little deeper.
+/// A list is three elements deep; what somebody adds to one may be a little deeper.
 constexpr int maximumDepth = 16;
+
+/// A list of 100,000 devices takes 450 MB by the count of neededXmlMemory().
+constexpr qint64 maximumMemory = 512LL * 1024 * 1024;
+
+/// Texts stay as the file has them: references are replaced here, where an unknown one is noticed.
+constexpr unsigned int parseFlags = pugi::parse_cdata | pugi::parse_eol | pugi::parse_doctype |
+                                    pugi::parse_ws_pcdata_single | pugi::parse_embed_pcdata;
+
+/// True for what may stand in XML.
+bool isXmlCharacter(char32_t character)
+{
+    if (character < 0x20)
+        return character == '\t' || character == '\n' || character == '\r';
+    return character <= QChar::LastValidCodePoint && character != 0xFFFE && character != 0xFFFF &&
+           !QChar::isSurrogate(character);
+}
+
+/// Where the first byte is that begins no character of XML, or about there; nothing when the text is clean.
+std::optional<qsizetype> strangeByte(QByteArrayView text)
+{
+    constexpr qsizetype piece = 4096;
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    for (qsizetype start = 0; start < text.size(); start += piece) {
+        const QString decoded =
+            decoder.decode(text.sliced(start).first(std::min(piece, text.size() - start)));
+        const auto isStrange = [](QChar unit) {
+            return !unit.isSurrogate() && !isXmlCharacter(unit.unicode());
+        };
+        if (decoder.hasError() || std::any_of(decoded.begin(), decoded.end(), isStrange))
+            return start;
+    }
+    return std::nullopt;
+}
+
+/// The character that a reference stands for, given without "&" and ";"; nothing when it stands for none.
+std::optional<QString> referenced(QStringView reference)
+{
+    constexpr std::pair<QLatin1StringView, char16_t> known[] = {{QLatin1StringView("amp"), u'&'},
+                                                                {QLatin1StringView("lt"), u'<'},
+                                                                {QLatin1StringView("gt"), u'>'},
+                                                                {QLatin1StringView("quot"), u'"'},
+                                                                {QLatin1StringView("apos"), u'\''}};
+    for (const auto &[name, character] : known) {
+        if (reference == name)
+            return QString(QChar(character));
+    }
+    if (!reference.startsWith(QLatin1Char('#')))
+        return std::nullopt;
+    const bool isHexadecimal = reference.startsWith(QLatin1String("#x"));
+    bool isNumber = false;
+    const char32_t code =
+        isHexadecimal ? reference.sliced(2).toUInt(&isNumber, 16) : reference.sliced(1).toUInt(&isNumber, 10);
+    if (!isNumber || !isXmlCharacter(code))
+        return std::nullopt;
+    return QString::fromUcs4(&code, 1);
+}
+
+/// A text with its references replaced; nothing when one of them stands for nothing.
+std::optional<QString> resolved(const QString &text)
+{
+    QString result;
+    qsizetype done = 0;
+    for (qsizetype at = text.indexOf(QLatin1Char('&')); at >= 0; at = text.indexOf(QLatin1Char('&'), done)) {
+        const qsizetype end = text.indexOf(QLatin1Char(';'), at);
+        const std::optional<QString> character =
+            end < 0 ? std::nullopt : referenced(QStringView(text).sliced(at + 1, end - at - 1));
+        if (!character)
+            return std::nullopt;
+        result += QStringView(text).sliced(done, at - done);
+        result += *character;
+        done = end + 1;
+    }
+    result += QStringView(text).sliced(done);
+    return result;
+}
+
+/// The text of an element; nothing when it holds other elements, or a reference to nothing.
+std::optional<QString> textOf(pugi::xml_node element)
+{
+    std::optional<QString> text = resolved(QString::fromUtf8(element.value()));
+    for (const pugi::xml_node part : element.children()) {
+        const QString written = QString::fromUtf8(part.value());
+        const bool isLiteral = part.type() == pugi::node_cdata;
+        const std::optional<QString> more = isLiteral                          ? written
+                                            : part.type() == pugi::node_pcdata ? resolved(written)
+                                                                               : std::nullopt;
+        if (!text || !more)
+            return std::nullopt;
+        *text += *more;
+    }
+    return text;
+}
 
 class XmlListReader
 {
 public:
-    explicit XmlListReader(QIODevice &file) : m_reader(&file) {}
+    explicit XmlListReader(QByteArray text) : m_text(std::move(text)) {}
 
     DeviceListContents read()
     {
-        if (!readRoot() && m_contents.refusal.isEmpty())
-            refuseUnparsable();
+        if (parse() && checkShape())
+            readDevices();
         return std::move(m_contents);
     }
 
 private:
-    bool readRoot()
+    bool parse()
     {
-        while (m_reader.readNext() != QXmlStreamReader::StartElement) {
-            if (m_reader.atEnd() || m_reader.isDTD())
-                return false;
+        if (const auto encoding = QStringConverter::encodingForData(m_text, u'<');
+            encoding && encoding != QStringConverter::Utf8)
+            m_text = QString(QStringDecoder(*encoding).decode(m_text)).toUtf8();
+        if (const auto at = strangeByte(m_text))
+            return refuse(*at, "a character that is none of UTF-8 or XML");
+        if (sheets::neededXmlMemory(m_text) > maximumMemory)
+            return refuse(0, "too many elements");
+        // The parser works on a copy, since it changes the text that lines are counted in.
+        const auto result = m_document.load_buffer(m_text.constData(), std::size_t(m_text.size()), parseFlags,
+                                                   pugi::encoding_utf8);
+        return result || refuse(result.offset, result.description());
+    }
+
+    /// One root element of the right name, no document type, and nothing too deep.
+    bool checkShape()
+    {
+        const pugi::xml_node root = m_document.document_element();
+        for (const pugi::xml_node node : m_document.children()) {
+            if (node != root)
+                return refuse(node.offset_debug(), "a document type, or a second root element");
         }
-        if (m_reader.name() != rootName) {
+        if (root.name() != rootName) {
             constexpr qsizetype shownLength = 64;
-            const QString name = m_reader.name().left(shownLength).toString();
+            const QString name = QString::fromUtf8(root.name()).left(shownLength);
             qCWarning(logDevice).noquote().nospace() << "Root element is not 'deviceList': " << name;
             return m_contents.refuse(
                 QCoreApplication::translate("DeviceList", "根元素不是 deviceList：%1").arg(name));
         }
-        while (nextChild()) {
-            if (m_reader.name() == deviceName ? !readDevice() : !passOver())
-                return false;
-        }
-        // What stands behind the root must be well-formed too.
-        while (!m_reader.atEnd())
-            m_reader.readNext();
-        return !m_reader.hasError();
+        return !sheets::isNestedDeeper(root, maximumDepth) || refuse(0, "elements too deep in each other");
     }
 
-    bool readDevice()
+    bool readDevices()
     {
-        DeviceListLine line;
-        line.number = static_cast<int>(m_reader.lineNumber());
-        while (nextChild()) {
-            const auto &names = listColumnNames();
-            const auto found = std::find_if(names.begin(), names.end(), [this](const ListColumnName &name) {
-                return m_reader.name() == name.element;
-            });
-            if (found == names.end()) {
-                if (!passOver())
-                    return false;
-                continue;
+        for (const pugi::xml_node device : m_document.document_element().children(deviceName)) {
+            DeviceListLine line;
+            line.number = lineAt(device.offset_debug());
+            for (const pugi::xml_node element : device.children()) {
+                const auto &names = listColumnNames();
+                const auto found =
+                    std::find_if(names.begin(), names.end(), [&element](const ListColumnName &name) {
+                        return name.element == element.name();
+                    });
+                if (found == names.end())
+                    continue;
+                const std::optional<QString> text = textOf(element);
+                if (!text)
+                    return refuse(element.offset_debug(),
+                                  "an element where a text belongs, or a strange \"&\"");
+                const auto column = static_cast<ListColumn>(found - names.begin());
+                line[column] = listText(column, *text);
             }
-            const auto column = static_cast<ListColumn>(found - names.begin());
-            line[column] = listText(column, m_reader.readElementText());
-        }
-        return !m_reader.hasError() && m_contents.add(std::move(line));
-    }
-
-    /// Goes to the next element inside the present one. False behind the last one, and after a fault.
-    bool nextChild()
-    {
-        while (!m_reader.atEnd()) {
-            m_reader.readNext();
-            if (m_reader.isStartElement())
-                return true;
-            if (m_reader.isEndElement())
+            if (!m_contents.add(std::move(line)))
                 return false;
         }
-        return false;
+        return true;
     }
 
-    /// Leaves an element out, with all that is in it.
-    bool passOver()
+    /// The number of the line that a place in the text is in. Places are asked for in their order, so that
+    /// the text is gone through once.
+    int lineAt(std::ptrdiff_t place)
     {
-        int depth = 1;
-        while (depth > 0 && depth <= maximumDepth && !m_reader.atEnd()) {
-            m_reader.readNext();
-            if (m_reader.isStartElement())
-                ++depth;
-            else if (m_reader.isEndElement())
-                --depth;
-        }
-        return depth == 0;
+        const qsizetype end = std::clamp<qsizetype>(place, m_countedTo, m_text.size());
+        m_line += static_cast<int>(std::count(m_text.cbegin() + m_countedTo, m_text.cbegin() + end, '\n'));
+        m_countedTo = end;
+        return m_line;
     }
 
-    void refuseUnparsable()
+    bool refuse(std::ptrdiff_t place, const char *reason)
     {
-        const QString reason = m_reader.hasError()
-                                   ? m_reader.errorString()
-                                   : QStringLiteral("a document type, or elements too deep in each other");
-        qCWarning(logDevice).noquote()
-            << "Failed to parse XML file:" << reason << "in line" << m_reader.lineNumber();
-        m_contents.refuse(
-            QCoreApplication::translate("DeviceList", "第 %1 行不是有效的XML").arg(m_reader.lineNumber()));
+        const int line = lineAt(place);
+        qCWarning(logDevice).noquote() << "Failed to parse XML file:" << reason << "in line" << line;
+        return m_contents.refuse(
+            QCoreApplication::translate("DeviceList", "第 %1 行不是有效的XML").arg(line));
     }
 
-    QXmlStreamReader m_reader;
+    QByteArray m_text;
+    qsizetype m_countedTo = 0;
+    int m_line = 1;
+    pugi::xml_document m_document;
     DeviceListContents m_contents;
 };
 
@@ -133,5 +229,5 @@ QByteArray xmlOf(const std::vector<DeviceListLine> &lines)
 
 DeviceListContents readXml(QIODevice &file)
 {
-    return XmlListReader(file).read();
+    return XmlListReader(file.readAll()).read();
 }

@@ -8,6 +8,7 @@
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJSEngine>
 #include <QProcess>
@@ -316,24 +317,35 @@ private Q_SLOTS:
         const QByteArray crlf = QByteArray(headers + cameraLine).replace("\n", "\r\n");
         QTest::newRow("byte order mark and CRLF") << "a.csv"
                                                   << "\xEF\xBB\xBF" + crlf;
+        QTest::newRow("carriage returns") << "a.csv" << QByteArray(headers + cameraLine).replace('\n', '\r');
         QTest::newRow("no line end") << "a.CSV" << (headers + cameraLine).chopped(1);
         QTest::newRow("other order, missing and other columns, blanks")
             << "a.csv"
             << QByteArray("\n密码,备注, *用户名 ,IP地址/域名/注册ID/设备序列号\n,,,\nsecret1,x, admin "
                           ",192.168.1.10\n");
+        QByteArray attributes;
+        for (int number = 0; number < 200'000; ++number)
+            attributes += " a" + QByteArray::number(number) + "=''";
+        QTest::newRow("many attributes") << "a.xml"
+                                         << "<deviceList><device" + attributes +
+                                                "><Username>admin</Username><Password>secret1</Password>"
+                                                "<IPAddress>192.168.1.10</IPAddress></device></deviceList>";
         QTest::newRow("other elements")
             << "a.xml"
-            << QByteArray(
-                   "\xEF\xBB\xBF<?xml version='1.0'?><!-- by hand --><deviceList><info><a/></info>"
-                   "<device><Note><b>x</b></Note><Username>admin</Username><Password>secret&#49;</Password>"
-                   "<IPAddress>\n192.168.1.10 </IPAddress></device></deviceList>");
+            << QByteArray("\xEF\xBB\xBF<?xml version='1.0'?><!-- by hand --><deviceList><info><a/></info>"
+                          "<device><Note><b>x</b></Note><Username>ad<!-- -->m<![CDATA[in]]></Username>"
+                          "<Password>secret&#49;</Password>"
+                          "<IPAddress>\n192.168.1.10 </IPAddress></device></deviceList>");
     }
 
     void readsWhatOthersHaveChanged()
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, text);
+        QElapsedTimer time;
+        time.start();
         QVERIFY(import(write(name, text)));
+        QCOMPARE_LT(time.elapsed(), 10'000);
         QCOMPARE(m_total, 1);
         QCOMPARE(m_factory->importFailures("dh"), QVariantList());
         QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.10:37777");
@@ -360,8 +372,15 @@ private Q_SLOTS:
             << "a.csv"
             << "IP地址/域名/注册ID/设备序列号\n" + QByteArray("a\n").repeated(100001) << QString();
         QTest::newRow("empty XML") << "a.xml" << QByteArray("") << unparsed;
-        QTest::newRow("unescaped") << "a.xml" << QByteArray("<deviceList><device>a&b</device></deviceList>")
-                                   << unparsed;
+        const auto named = [](const QByteArray &name) {
+            return "<deviceList>\n<device>\n<DeviceName>" + name + "</DeviceName></device></deviceList>";
+        };
+        QTest::newRow("unescaped") << "a.xml" << named("a&b") << unparsed + ".* in line 3";
+        QTest::newRow("reference to no character") << "a.xml" << named("&#xFFFE;") << unparsed;
+        QTest::newRow("no character") << "a.xml" << named("\xEF\xBF\xBE") << unparsed;
+        QTest::newRow("XML not in UTF-8") << "a.xml" << named("\xB6\xAB") << unparsed;
+        QTest::newRow("element in a text") << "a.xml" << named("<b>x</b>") << unparsed;
+        QTest::newRow("two roots") << "a.xml" << QByteArray("<deviceList/><deviceList/>") << unparsed;
         QTest::newRow("cut off") << "a.xml" << QByteArray("<deviceList><device>") << unparsed;
         QTest::newRow("document type")
             << "a.xml"
@@ -369,7 +388,12 @@ private Q_SLOTS:
                           "</device></deviceList>")
             << unparsed;
         QTest::newRow("too deep") << "a.xml"
-                                  << "<deviceList>" + QByteArray("<a>").repeated(100000) << unparsed;
+                                  << "<deviceList>" + QByteArray("<a>").repeated(100000) +
+                                         QByteArray("</a>").repeated(100000) + "</deviceList>"
+                                  << unparsed;
+        QTest::newRow("too many elements")
+            << "a.xml"
+            << "<deviceList>" + QByteArray("<a/>").repeated(10'000'000) + "</deviceList>" << unparsed;
         QTest::newRow("another root")
             << "a.xml" << QByteArray("<devices/>") << "^Root element is not 'deviceList': devices$";
     }
