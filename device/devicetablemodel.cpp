@@ -166,7 +166,8 @@ QList<DeviceTableModel::Row> DeviceTableModel::readRows()
     }
     m_conflictCount = 0;
     for (Row &row : shown) {
-        row.conflict = rowsOfAddress.value(row.ipport) > 1;
+        // Devices that wait for an address by DHCP have none to share.
+        row.conflict = !row.ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(row.ipport) > 1;
         m_conflictCount += row.conflict ? 1 : 0;
     }
     return shown;

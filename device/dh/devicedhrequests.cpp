@@ -71,15 +71,16 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
     }
 
     // The row shows what was asked for, whatever came of it: the result stands beside it, and the next search
-    // shows the true address. With DHCP nobody knows the new address yet, and the old one stays.
+    // shows the true address. With DHCP the address is not known until then: the row has none.
+    const QString address = dhcpON ? QString() : newip;
     store().changeRow(mac, [&](QJsonObject &row) {
         row.insert(DeviceRowKey::res, resultCode(result));
         const QStringList parts = row.value(DeviceRowKey::ipport).toString().split(QLatin1Char(':'));
-        if (!dhcpON && parts.size() == 2)
-            row.insert(DeviceRowKey::ipport, QStringLiteral("%1:%2").arg(newip, parts.at(1)));
+        if (parts.size() == 2)
+            row.insert(DeviceRowKey::ipport, QStringLiteral("%1:%2").arg(address, parts.at(1)));
     });
-    if (record && !dhcpON) {
-        setText(record->device.address, newip);
+    if (record) {
+        setText(record->device.address, address);
         store().putRecord(*record);
     }
 }

@@ -14,6 +14,8 @@ SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QStri
     QString address = ipport.left(colon);
     if (address.startsWith(QLatin1Char('[')) && address.endsWith(QLatin1Char(']')))
         address = address.mid(1, address.size() - 2);
+    if (address.isEmpty()) // the device waits for one by DHCP
+        return {.result = LoginResult::NetworkFailure};
 
     sdk::LoginSecureInput input{};
     input.size = sizeof(input);

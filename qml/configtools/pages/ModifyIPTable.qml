@@ -95,7 +95,7 @@ OVTable {
                 width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
                 height: parent.height
                 font: Theme.figureFont
-                text: address.value ?? ""
+                text: (address.value ?? "").replace(/^:/, "DHCP:")  // no address until the next search
             }
             OVIcon {
                 id: sign

@@ -1,5 +1,6 @@
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
+#include "device/devicetablemodel.h"
 #include "device/dh/devicedh.h"
 #include "device/dh/rowlogin.h"
 #include "sdk/demo/demosite.h"
@@ -203,13 +204,25 @@ private Q_SLOTS:
         QVERIFY(m_site->requests().of("NetModifyDeviceBySearch").isEmpty());
 
         m_factory->modifyIP("dh", camera, "192.168.1.79", "255.255.255.0", "192.168.1.1", false);
+        m_factory->modifyIP("dh", recorder, "", "", "", true);
         m_factory->modifyIP("dh", camera, "not an address", "", "", true); // DHCP ignores the addresses
         QCOMPARE(row(camera).value("res").toInt(), 0);
-        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.79:37777");
+        QCOMPARE(row(camera).value("ipport").toString(), ":37777");
         const auto asked = m_site->requests().of("NetModifyDeviceBySearch");
         QCOMPARE(asked.last().request.value("address").toString(),
                  "192.168.1.79"); // as the device has it now
         QVERIFY(m_site->device(camera)->dhcp);
+        // Until they are found again they are known by their MACs alone, and share no address.
+        DeviceTableModel table;
+        table.setDeviceFactory(m_factory.get());
+        QCOMPARE(table.conflictCount(), 0);
+        QCOMPARE(m_factory->findAndLoginDevice("dh", ":37777", "admin", "secret1"), 5);
+        QVERIFY(m_site->requests().of("NetLoginSecure").isEmpty());
+        m_factory->modifyIP("dh", camera, "192.168.1.77", "255.255.255.0", "192.168.1.1", false);
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
+        search();
+        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
+        QCOMPARE(row(recorder).value("ipport").toString(), m_site->device(recorder)->address + ":37777");
     }
 
     void aRefusedAddressIsShownWithItsResult()
