@@ -170,6 +170,11 @@ QVariantMap CDeviceBase::readDeviceDetail(const QString &)
     return {};
 }
 
+bool CDeviceBase::isInSession(const QString &)
+{
+    return false;
+}
+
 QString CDeviceBase::importError()
 {
     return {};

@@ -125,6 +125,9 @@ public:
     /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
     virtual QStringList upgradesToRetry();
 
+    /// Whether the current session is with the device at this address: it goes on when the row is gone.
+    virtual bool isInSession(const QString &ipport);
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

@@ -11,6 +11,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -38,6 +39,12 @@ QByteArray twinOf(const QByteArray &backEndSignal)
     constexpr QByteArrayView backEndPrefix("signalCDevice");
     return backEndSignal.startsWith(backEndPrefix) ? "signal" + backEndSignal.mid(backEndPrefix.size())
                                                    : backEndSignal;
+}
+
+/// Where this computer reaches the device behind a local port.
+QString tunnelEnd(int localPort)
+{
+    return QStringLiteral("127.0.0.1:%1").arg(localPort);
 }
 
 /// What the SIGNAL() macro makes of a signature.
@@ -79,6 +86,12 @@ CDeviceFactory::CDeviceFactory(const BackEndCreators &creators, const P2PAgent &
 {
     for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
         const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
+        // First: who hears of these signals from the factory finds the ports released.
+        for (const auto signal :
+             {&CDeviceBase::signalCDeviceAddDeviceToTable, &CDeviceBase::signalCDeviceSearchDone})
+            connect(backEnd.get(), signal, this, &CDeviceFactory::releaseUnneededP2PPorts);
+        connect(backEnd.get(), &CDeviceBase::signalCDeviceHighLevelLoginRet, this,
+                &CDeviceFactory::releaseUnneededP2PPorts);
         relaySignals(*backEnd);
         backEnd->setP2PPorts(&m_p2pPorts);
         m_backEnds.insert(creator.key(), backEnd);
@@ -121,7 +134,10 @@ bool CDeviceFactory::importDevice(const QString &family, const QString &path, QJ
     const std::shared_ptr<CDeviceBase> backEnd = m_backEnds.value(family);
     if (!backEnd)
         return false;
+    const QPointer<CDeviceFactory> self(this);
     const bool imported = backEnd->importDevice(path, summary);
+    if (self)                      // it may end while the import lets the event loop run
+        releaseUnneededP2PPorts(); // of rows that lines have replaced
     if (msg.isCallable()) {
         msg.call({summary.total, summary.errcount});
     } else if (msg.isObject()) {
@@ -159,7 +175,6 @@ void CDeviceFactory::startSearch(const QString &family)
         Q_EMIT signalSearchDone();
         return;
     }
-    releaseP2PPortsOfAll(family); // the search forgets every row
     forward(family, &CDeviceBase::startSearch);
 }
 
@@ -210,32 +225,58 @@ void CDeviceFactory::setPluginPort(const QString &family, const QString &mac, in
 
 void CDeviceFactory::setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision)
 {
-    releaseP2PPortsOf(getDeviceDetail(family, mac));
+    const QVariantMap row = getDeviceDetail(family, mac);
     forward(family, &CDeviceBase::setDeleteDevice, mac, ipvision);
+    releaseP2PPortsOf(family, {{mac, row}});
 }
 
 void CDeviceFactory::setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
                                           const QString &ipversion)
 {
-    for (auto mac = macs.cbegin(); mac != macs.cend(); ++mac)
-        releaseP2PPortsOf(getDeviceDetail(family, mac.key()));
+    QVariantMap rows;
+    for (auto mac = macs.keyBegin(); mac != macs.keyEnd(); ++mac)
+        rows.insert(*mac, getDeviceDetail(family, *mac));
     forward(family, &CDeviceBase::setBatchDeleteDevice, macs, ipversion);
+    releaseP2PPortsOf(family, rows);
 }
 
-void CDeviceFactory::releaseP2PPortsOfAll(const QString &family)
+void CDeviceFactory::releaseP2PPortsOf(const QString &family, const QVariantMap &rows)
 {
-    const QVariantList rows =
-        forward(family, &CDeviceBase::filterData, QStringLiteral("nofilter"), QString());
-    for (const QVariant &row : rows)
-        releaseP2PPortsOf(row.toJsonObject().toVariantMap());
+    // The back end may have refused to delete some.
+    for (auto row = rows.cbegin(); row != rows.cend(); ++row) {
+        if (getDeviceDetail(family, row.key()).isEmpty())
+            noteP2PPortsOf(row->toMap());
+    }
+    releaseUnneededP2PPorts();
 }
 
-void CDeviceFactory::releaseP2PPortsOf(const QVariantMap &row)
+void CDeviceFactory::noteP2PPortsOf(const QVariantMap &row)
 {
     if (row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
         return;
     const QString ipport = row.value(DeviceRowKey::ipport).toString();
-    m_p2pPorts.releaseDevice(QStringView(ipport).mid(ipport.lastIndexOf(QLatin1Char(':')) + 1).toInt());
+    m_p2pPorts.note(QStringView(ipport).mid(ipport.lastIndexOf(QLatin1Char(':')) + 1).toInt());
+}
+
+void CDeviceFactory::releaseUnneededP2PPorts()
+{
+    m_p2pPorts.releaseUnneeded([this](int port) { return isListedAt(port) || isInUse(port); });
+}
+
+bool CDeviceFactory::isListedAt(int p2pPort) const
+{
+    return std::any_of(m_backEnds.cbegin(), m_backEnds.cend(),
+                       [ipport = tunnelEnd(p2pPort)](const std::shared_ptr<CDeviceBase> &backEnd) {
+                           return !backEnd->getDeviceInfo(ipport).isEmpty();
+                       });
+}
+
+bool CDeviceFactory::isInUse(int p2pPort) const
+{
+    return std::any_of(m_backEnds.cbegin(), m_backEnds.cend(),
+                       [ipport = tunnelEnd(p2pPort)](const std::shared_ptr<CDeviceBase> &backEnd) {
+                           return backEnd->isInSession(ipport);
+                       });
 }
 
 QVariantMap CDeviceFactory::getDeviceDetail(const QString &family, const QString &mac)
@@ -258,8 +299,14 @@ int CDeviceFactory::getLoginDevice(const QString &family, const QString &address
                                    const QString &password, const QString &port, int loginType,
                                    const QString &devp2pPort)
 {
-    return forward(family, &CDeviceBase::getLoginDevice, address, account, password, port, loginType,
-                   devp2pPort);
+    const int result = forward(family, &CDeviceBase::getLoginDevice, address, account, password, port,
+                               loginType, devp2pPort);
+    // The device has its row in place of the one that it had before, which may have been reached otherwise.
+    if (result == resultCode(LoginResult::Success)) {
+        noteP2PPortsOf(getDeviceInfo(family, tunnelEnd(port.toInt())));
+        releaseUnneededP2PPorts();
+    }
+    return result;
 }
 
 int CDeviceFactory::getPassWordType(const QString &password)
@@ -405,7 +452,15 @@ void CDeviceFactory::snapPictureToFile(const QString &family, const QString &kin
 
 void CDeviceFactory::releaseP2PPort(int p2pPort)
 {
-    m_p2pPorts.release(p2pPort);
+    if (isInUse(p2pPort))
+        m_p2pPorts.note(p2pPort);
+    else
+        m_p2pPorts.releaseDevice(p2pPort);
+}
+
+QString CDeviceFactory::p2pFault()
+{
+    return m_p2pPorts.faultText();
 }
 
 QVariantList CDeviceFactory::importFailures(const QString &family)

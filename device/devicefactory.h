@@ -125,7 +125,11 @@ public:
     Q_INVOKABLE void startSnap(const QString &family, const QVariant &channelNum, const QString &address);
     /// Asks the application to leave its event loop with exit code 0.
     Q_INVOKABLE void exitProgram();
+    /// Removes a mapping; that of the current session's device when the session has ended.
     Q_INVOKABLE void releaseP2PPort(int p2pPort);
+    /// Why setAddDevice() may fail for every device, in the user's language: a wrong setting, or a port agent
+    /// that did not start. Empty when neither is so.
+    Q_INVOKABLE QString p2pFault();
     /// The lines of the last imported list that brought no device: maps of "line", "address", "code",
     /// "reason".
     Q_INVOKABLE QVariantList importFailures(const QString &family);
@@ -207,8 +211,15 @@ private:
         return (backEnd.get()->*operation)(arguments...);
     }
 
-    void releaseP2PPortsOfAll(const QString &family);
-    void releaseP2PPortsOf(const QVariantMap &row);
+    /// Makes the ports of a row known, if it is one of a device behind NAT.
+    void noteP2PPortsOf(const QVariantMap &row);
+    /// Releases the ports of those of the rows, by name, that were deleted.
+    void releaseP2PPortsOf(const QString &family, const QVariantMap &rows);
+    /// Releases the ports of devices that have left the list, but for those of a current session: they go
+    /// when it ends.
+    void releaseUnneededP2PPorts();
+    [[nodiscard]] bool isListedAt(int p2pPort) const;
+    [[nodiscard]] bool isInUse(int p2pPort) const;
 
     BusyState m_busyState;
     P2PPorts m_p2pPorts; ///< outlives the back ends, which use it

@@ -2,6 +2,7 @@
 
 #include "device/logging.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -14,7 +15,7 @@ namespace {
 /// The same wherever the services are, so it is not a setting.
 constexpr const char *serverSecret = "tamsvelorink";
 
-/// The key of the first setting that the agent cannot work with; empty when there is none.
+/// The key of the first setting that is missing or no host or port; empty when there is none.
 QString faultOf(const P2PSettings &settings)
 {
     const std::pair<const char *, const QString &> hosts[] = {{"p2p/tunnel", settings.tunnelHost},
@@ -36,16 +37,16 @@ QString faultOf(const P2PSettings &settings)
     return {};
 }
 
+/// Starts the agent, also with settings that are wrong: only the agent knows what it can do without. Null
+/// when it does not start.
 std::shared_ptr<sdk::P2PAgentLibrary> started(std::shared_ptr<sdk::P2PAgentLibrary> library,
                                               const P2PSettings &settings,
                                               sdk::P2PAgentMessageHandler handler)
 {
     if (!library)
         return nullptr;
-    if (const QString fault = faultOf(settings); !fault.isEmpty()) {
-        qCWarning(logDevice) << "P2PPorts: the port agent is not started, its settings are no good:" << fault;
-        return nullptr;
-    }
+    if (const QString fault = faultOf(settings); !fault.isEmpty())
+        qCWarning(logDevice) << "P2PPorts: the setting" << fault << "of the port agent is missing or wrong";
     const QByteArray tunnelHost = settings.tunnelHost.toLocal8Bit();
     const QByteArray relayHost = settings.relayHost.toLocal8Bit();
     const QByteArray domain = settings.domain.toLocal8Bit();
@@ -107,7 +108,7 @@ P2PSettings P2PSettings::read(const QString &file)
 
 P2PPorts::P2PPorts(std::shared_ptr<sdk::P2PAgentLibrary> library, const P2PSettings &settings,
                    sdk::P2PAgentMessageHandler handler)
-    : m_library(started(std::move(library), settings, handler))
+    : m_library(started(std::move(library), settings, handler)), m_settingFault(faultOf(settings))
 {
 }
 
@@ -115,6 +116,13 @@ P2PPorts::~P2PPorts()
 {
     if (m_library)
         m_library->OAgent_ClientRelease();
+}
+
+QString P2PPorts::faultText() const
+{
+    if (!m_settingFault.isEmpty())
+        return QCoreApplication::translate("P2PPorts", "p2p.ini 中的 %1 缺失或无效").arg(m_settingFault);
+    return m_library ? QString() : QCoreApplication::translate("P2PPorts", "P2P端口代理没有启动");
 }
 
 int P2PPorts::portFor(const QString &deviceId, int devicePort, int wish)
@@ -162,6 +170,12 @@ void P2PPorts::release(int localPort)
         m_library->OAgent_ClientDelPort(localPort);
 }
 
+void P2PPorts::note(int loginPort)
+{
+    if (loginPort > 0 && !isKnown(loginPort))
+        m_webPorts.insert(loginPort, 0);
+}
+
 void P2PPorts::pair(int loginPort, int webPort)
 {
     if (loginPort > 0)
@@ -172,4 +186,13 @@ void P2PPorts::releaseDevice(int loginPort)
 {
     release(loginPort);
     release(m_webPorts.take(loginPort));
+}
+
+void P2PPorts::releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded)
+{
+    const QList<int> known = m_webPorts.keys();
+    for (const int loginPort : known) {
+        if (!isNeeded(loginPort))
+            releaseDevice(loginPort);
+    }
 }

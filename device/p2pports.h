@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -33,7 +34,7 @@ struct P2PSettings
 class P2PPorts
 {
 public:
-    /// Without a library every request for a port fails.
+    /// Starts the agent. Without a library, or when the agent does not start, every request for a port fails.
     P2PPorts(std::shared_ptr<sdk::P2PAgentLibrary> library, const P2PSettings &settings,
              sdk::P2PAgentMessageHandler handler);
     ~P2PPorts();
@@ -44,8 +45,18 @@ public:
     /// when it equals the device port; 0 wishes for none.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
 
+    /// Why a request for a port may fail whatever the device: a setting that is missing or wrong, or an agent
+    /// that did not start. In the user's language; empty when neither is so.
+    [[nodiscard]] QString faultText() const;
+
     /// Removes a mapping.
     void release(int localPort);
+
+    /// Remembers that a device is reached by `loginPort`.
+    void note(int loginPort);
+
+    /// True for a login port of note() or pair() that was not released since.
+    [[nodiscard]] bool isKnown(int loginPort) const { return m_webPorts.contains(loginPort); }
 
     /// Remembers that a device's web page is reached by `webPort` while its service is by `loginPort`.
     void pair(int loginPort, int webPort);
@@ -56,9 +67,13 @@ public:
     /// Releases the two ports of a device.
     void releaseDevice(int loginPort);
 
+    /// Releases the two ports of every known device whose login port is not needed.
+    void releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded);
+
 private:
     [[nodiscard]] int addPort(const QString &deviceId, int devicePort, int localPort);
 
     const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null when the agent could not be started
-    QHash<int, int> m_webPorts;                            ///< by login port
+    const QString m_settingFault; ///< the key of the setting that is missing or wrong; empty for none
+    QHash<int, int> m_webPorts;   ///< by login port; 0 for a device whose web page has no port
 };

@@ -83,6 +83,7 @@ public:
                      bool readsChannels) override;
     void stopOpeningSession() override;
     void checkSession() override;
+    bool isInSession(const QString &ipport) override;
 
     // Requests to devices that a search has found: devicedhrequests.cpp
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;

@@ -51,7 +51,7 @@ QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
 void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,
                             bool readsChannels)
 {
-    const bool isCurrent = m_session.handle != 0 && m_session.ipport == ipport;
+    const bool isCurrent = isInSession(ipport);
     const SessionOrder order = {.ipport = ipport,
                                 .account = account,
                                 .password = password,
@@ -72,6 +72,11 @@ void CDeviceDH::openSession(const QString &ipport, const QString &account, const
 void CDeviceDH::stopOpeningSession()
 {
     ++m_sessionRequest;
+}
+
+bool CDeviceDH::isInSession(const QString &ipport)
+{
+    return m_session.handle != 0 && m_session.ipport == ipport;
 }
 
 void CDeviceDH::checkSession()

@@ -66,25 +66,36 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("file"); // null: there is none
         QTest::addColumn<QString>("started");
+        QTest::addColumn<QString>("fault"); // the setting that the user is told of
         QTest::newRow("no file")
             << QByteArray()
             << "init tunnel.kelda.example 7885 relay.kelda.example 443 tamsvelorink kelda "
-               "https://api.kelda.example video.kelda.example 8300";
+               "https://api.kelda.example video.kelda.example 8300"
+            << QString();
         QTest::newRow("every key from the file")
             << QByteArray("[p2p]\ntunnel=t.example\ntunnel_port=1\ntrans=r.example\ntrans_port=2\ndomain=d\n"
                           "saas=https://s.example\nmnserver=m.example\nmnport=3\n")
-            << "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3";
+            << "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3" << QString();
         const QByteArray whole = "[p2p]\ntunnel=t\ntunnel_port=1\ntrans=r\ntrans_port=2\ndomain=d\nsaas=s\n"
                                  "mnserver=m\nmnport=3\n";
-        QTest::newRow("no host") << QByteArray(whole).replace("trans=r", "trans= ") << QString();
-        QTest::newRow("missing keys") << QByteArray("[p2p]\ntunnel=t\ntunnel_port=1\n") << QString();
-        QTest::newRow("no number") << QByteArray(whole).replace("port=1", "port=ninety") << QString();
-        QTest::newRow("no port") << QByteArray(whole).replace("port=3", "port=70000") << QString();
+        QTest::newRow("no host") << QByteArray(whole).replace("trans=r", "trans= ")
+                                 << "init t 1  2 tamsvelorink d s m 3"
+                                 << "p2p/trans";
+        QTest::newRow("missing keys")
+            << QByteArray("[p2p]\ntunnel=t\ntunnel_port=1\n") << "init t 1  0 tamsvelorink    0"
+            << "p2p/trans";
+        QTest::newRow("no number") << QByteArray(whole).replace("port=1", "port=ninety")
+                                   << "init t 0 r 2 tamsvelorink d s m 3"
+                                   << "p2p/tunnel_port";
+        QTest::newRow("no port") << QByteArray(whole).replace("port=3", "port=70000")
+                                 << "init t 1 r 2 tamsvelorink d s m 70000"
+                                 << "p2p/mnport";
     }
 
     void readsItsSettings()
     {
         QFETCH(QByteArray, file);
+        QFETCH(QString, fault);
         const QTemporaryDir directory;
         QDir::setCurrent(directory.path());
         if (!file.isNull()) {
@@ -93,12 +104,15 @@ private Q_SLOTS:
             written.write(file);
         }
         const auto agent = std::make_shared<NotingAgent>();
-        std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators(),
-                                         CDeviceFactory::P2PAgent{agent, &noHandler});
+        {
+            CDeviceFactory factory(CDeviceFactory::BackEndCreators(),
+                                   CDeviceFactory::P2PAgent{agent, &noHandler});
+            QCOMPARE(factory.p2pFault(),
+                     fault.isEmpty() ? QString() : "p2p.ini 中的 " + fault + " 缺失或无效");
+        }
         QDir::setCurrent(QDir::rootPath());
         QTEST(agent->calls.value(0), "started");
-        if (!agent->calls.isEmpty()) // settings that are no good start nothing
-            QCOMPARE(agent->calls.mid(1), QStringList({"callback", "release"}));
+        QCOMPARE(agent->calls.mid(1), QStringList({"callback", "release"}));
     }
 
     void handsOutPorts_data()
@@ -161,6 +175,7 @@ private Q_SLOTS:
         P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
         QCOMPARE(ports.portFor("ID", 37777, 0), 0);
         QCOMPARE(agent->calls.size(), 1);
+        QVERIFY(!ports.faultText().isEmpty());
         P2PPorts none(nullptr, P2PSettings::builtIn(), &noHandler);
         QCOMPARE(none.portFor("ID", 37777, 0), 0);
     }

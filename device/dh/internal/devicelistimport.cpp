@@ -136,11 +136,15 @@ std::optional<ImportFailure> DeviceListImport::add(const DeviceListLine &line, P
         return logIn(line, target, target.port, webPort);
 
     const int localPort = ports ? ports->portFor(target.address, target.port, 0) : 0;
-    if (localPort <= 0)
+    if (localPort <= 0) {
+        const QString fault = ports ? ports->faultText() : QString();
+        const QString reason = QCoreApplication::translate("DeviceList", "无法建立P2P通道");
         return ImportFailure{.result = LoginResult::NetworkFailure,
-                             .reason = QCoreApplication::translate("DeviceList", "无法建立P2P通道")};
-    // The port of a device that the table has already stays, whatever comes of this.
-    const bool inUse = !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty();
+                             .reason = fault.isEmpty() ? reason : reason + QStringLiteral(": ") + fault};
+    }
+    // The port of a device that the table has already, or that is worked with, stays whatever comes of this.
+    const bool inUse =
+        ports->isKnown(localPort) || !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty();
     std::optional<ImportFailure> failure = logIn(line, target, localPort, webPort);
     if (failure && !inUse)
         ports->release(localPort);

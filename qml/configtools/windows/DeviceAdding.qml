@@ -28,8 +28,10 @@ QtObject {
 
     /// What is told beside the place where a device is added, when nothing is said as an error.
     function quietText(code) {
-        if (code === DeviceAdding.NoLogin)
-            return qsTr("没有取得通往该设备的本地端口，请检查P2P ID和网络");
+        if (code === DeviceAdding.NoLogin) {
+            const fault = deviceFactory.p2pFault();
+            return qsTr("没有取得通往该设备的本地端口，请检查P2P ID和网络") + (fault !== "" ? "\n" + fault : "");
+        }
         return code === DeviceAdding.NotSupported ? deviceFactory.getErrorName(code) : "";
     }
 

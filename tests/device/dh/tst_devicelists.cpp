@@ -134,6 +134,7 @@ private Q_SLOTS:
             sceneDevice(camera, "192.168.1.10", "IPC"), sceneDevice(plateCamera, "192.168.1.11", "ITC"),
             sceneDevice(videoWall, "192.168.1.12", "Matrix"), sceneDevice(remote, "10.9.9.9", "NVR"),
             sceneDevice(newCamera, "192.168.1.13", "IPC")};
+        scene.devices[0].p2pId = "OV3CAMERA"; // reached both ways
         scene.devices[3].isRemote = true;
         scene.devices[3].p2pId = remoteId;
         scene.devices[3].port = 8800;
@@ -308,6 +309,44 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getDeviceDetail("dh", remote).value("serial").toString(), "S9");
         m_factory->setDeleteDevice("dh", remote, "IPV4");
         QVERIFY(!m_site->portAgent().tunnel(port) && !m_site->portAgent().tunnel(webPort));
+    }
+
+    void aTunnelStaysAsLongAsItIsNeeded()
+    {
+        int port = 0;
+        int webPort = 0;
+        const auto portTo = [this](const char *devicePort) {
+            return m_factory->setAddDevice("dh", "OV3CAMERA", "admin", "secret1", devicePort, 0);
+        };
+        const auto add = [&] {
+            port = portTo("37777");
+            webPort = portTo("8080");
+            m_factory->addP2PPort(port, webPort);
+            return m_factory->getLoginDevice("dh", "OV3CAMERA", "admin", "secret1", QString::number(port), 1,
+                                             "37777") == 0;
+        };
+        const auto openTunnels = [&] {
+            return !!m_site->portAgent().tunnel(port) + !!m_site->portAgent().tunnel(webPort);
+        };
+        const auto logIn = [this](const QString &ipport) {
+            return m_factory->findAndLoginDevice("dh", ipport, "admin", "secret1") == 0;
+        };
+        // A search takes the device off the list while it is worked with: the tunnel goes with the session.
+        QVERIFY(add());
+        QVERIFY(logIn(QStringLiteral("127.0.0.1:%1").arg(port)));
+        search();
+        m_factory->releaseP2PPort(port); // as after a login that failed on the way in use
+        QCOMPARE(openTunnels(), 2);
+        QVERIFY(logIn("192.168.1.11:37777"));
+        QCOMPARE(openTunnels(), 0);
+        QVERIFY(add());
+        search();
+        QCOMPARE(openTunnels(), 0);
+        // The same device by its address takes the place of its row.
+        QVERIFY(add());
+        QCOMPARE(openTunnels(), 2);
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.10", "admin", "secret1", "37777"), 0);
+        QCOMPARE(openTunnels(), 0);
     }
 
     void readsWhatOthersHaveChanged_data()
