@@ -170,6 +170,11 @@ QVariantMap CDeviceBase::readDeviceDetail(const QString &)
     return {};
 }
 
+QVariantList CDeviceBase::exportFaults()
+{
+    return {};
+}
+
 bool CDeviceBase::isInSession(const QString &)
 {
     return false;

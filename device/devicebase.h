@@ -125,6 +125,10 @@ public:
     /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
     virtual QStringList upgradesToRetry();
 
+    /// The texts of the last exported list that do not come back when its file is read: maps of "address",
+    /// "name" (of the device), "column" and "reason" (in the user's language).
+    virtual QVariantList exportFaults();
+
     /// Whether the current session is with the device at this address: it goes on when the row is gone.
     virtual bool isInSession(const QString &ipport);
 

@@ -463,6 +463,11 @@ QString CDeviceFactory::p2pFault()
     return m_p2pPorts.faultText();
 }
 
+QVariantList CDeviceFactory::exportFaults(const QString &family)
+{
+    return forward(family, &CDeviceBase::exportFaults);
+}
+
 QVariantList CDeviceFactory::importFailures(const QString &family)
 {
     return forward(family, &CDeviceBase::importFailures);

@@ -130,6 +130,9 @@ public:
     /// Why setAddDevice() may fail for every device, in the user's language: a wrong setting, or a port agent
     /// that did not start. Empty when neither is so.
     Q_INVOKABLE QString p2pFault();
+    /// The texts of the last exported list that do not come back when its file is read: maps of "address",
+    /// "name", "column", "reason".
+    Q_INVOKABLE QVariantList exportFaults(const QString &family);
     /// The lines of the last imported list that brought no device: maps of "line", "address", "code",
     /// "reason".
     Q_INVOKABLE QVariantList importFailures(const QString &family);

@@ -102,6 +102,7 @@ public:
     /// "file:///" address. False when the list was refused as a whole, and when another one is being
     /// imported.
     bool importDevice(const QString &path, ImportSummary &summary) override;
+    QVariantList exportFaults() override;
     QVariantList importFailures() override;
     QString importError() override;
     void stopImport() override;
@@ -259,6 +260,7 @@ private:
     QString m_defaultPassword;
     bool m_isImporting = false;
     bool m_stopsImport = false;
+    QVariantList m_exportFaults;
     QVariantList m_importFailures;
     QString m_importError;
 };

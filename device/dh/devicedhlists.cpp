@@ -25,6 +25,29 @@ QVariantMap failureMap(const DeviceListLine &line, const ImportFailure &failure)
             {QStringLiteral("reason"), failure.reason}};
 }
 
+/// A character for the user, who may not see it otherwise.
+QString namedCharacter(const QString &character)
+{
+    const char32_t code = character.toUcs4().value(0);
+    const QString number =
+        QStringLiteral("U+%1").arg(static_cast<uint>(code), 4, 16, QLatin1Char('0')).toUpper();
+    const bool isShown = QChar::isPrint(code) && !QChar::isSpace(code);
+    return isShown ? character + QStringLiteral(" (%1)").arg(number) : number;
+}
+
+QVariantMap faultMap(const DeviceListLine &line, const UnreadableText &fault)
+{
+    const ListColumnName &name = listColumnNames().at(static_cast<std::size_t>(fault.column));
+    return {{QStringLiteral("address"), line[ListColumn::IPAddress].left(maximumListText)},
+            {QStringLiteral("name"), line[ListColumn::DeviceName].left(maximumListText)},
+            {QStringLiteral("column"), QStringLiteral("%1 (%2)").arg(name.header, name.element)},
+            {QStringLiteral("reason"),
+             fault.character.isEmpty()
+                 ? QCoreApplication::translate("DeviceList", "字段过长")
+                 : QCoreApplication::translate("DeviceList", "字符 %1 在此格式中无法读回")
+                       .arg(namedCharacter(fault.character))}};
+}
+
 } // namespace
 
 bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, const QString &fileName)
@@ -41,8 +64,18 @@ bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, con
         }
         lines.push_back(listLineOf(device, usual));
     }
+    m_exportFaults.clear();
     // A file without a device would tell the user that the export went well.
-    return !lines.empty() && writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines);
+    if (lines.empty() || !writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines))
+        return false;
+    for (const UnreadableText &fault : unreadableTexts(fileName, lines))
+        m_exportFaults.append(faultMap(lines.at(fault.line), fault));
+    return true;
+}
+
+QVariantList CDeviceDH::exportFaults()
+{
+    return m_exportFaults;
 }
 
 bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)

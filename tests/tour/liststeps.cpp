@@ -93,7 +93,7 @@ void walkLists(Driver &driver, const QString &folder)
     driver.await(QStringLiteral("three devices are deleted"), [&] { return rows.count() == before - 3; });
     readList(driver, folder + QStringLiteral("/device.csv"));
     driver.await(QStringLiteral("what failed is listed"),
-                 [&] { return driver.find(QStringLiteral("importTable")) != nullptr; });
+                 [&] { return driver.find(QStringLiteral("reportTable")) != nullptr; });
     driver.report(QStringLiteral("import-report"), driver.text(QStringLiteral("messageText")));
     driver.click(QStringLiteral("okButton"));
     driver.check(rows.count() == before - 1, QStringLiteral("two of three devices are back"));

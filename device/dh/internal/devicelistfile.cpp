@@ -6,10 +6,13 @@
 #include "device/logging.h"
 #include "files/filereplacement.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -38,6 +41,68 @@ bool writeText(const QString &path, const QByteArray &text)
     return failure.isEmpty();
 }
 
+/// What the import would read from a file with these lines.
+DeviceListContents readBack(ListFormat format, const std::vector<DeviceListLine> &lines)
+{
+    DeviceListContents contents;
+    QBuffer file;
+    switch (format) {
+    case ListFormat::Xlsx:
+        // Cells keep every character; what is cut off or left out is so in all formats.
+        for (const DeviceListLine &line : lines)
+            contents.add(line);
+        for (DeviceListLine &line : contents.lines) {
+            for (int column = 0; column < listColumnCount; ++column) {
+                QString &text = line[static_cast<ListColumn>(column)];
+                text = listText(static_cast<ListColumn>(column), QString::fromUtf8(text.toUtf8()));
+            }
+        }
+        return contents;
+    case ListFormat::Csv:
+        file.setData(csvOf(lines));
+        break;
+    case ListFormat::Xml:
+        file.setData(xmlOf(lines));
+        break;
+    }
+    file.open(QIODevice::ReadOnly);
+    return format == ListFormat::Csv ? readCsv(file) : readXml(file);
+}
+
+bool comesBack(ListFormat format, const std::vector<DeviceListLine> &lines)
+{
+    const DeviceListContents back = readBack(format, lines);
+    return std::equal(lines.begin(), lines.end(), back.lines.begin(), back.lines.end(),
+                      [](const DeviceListLine &written, const DeviceListLine &read) {
+                          return written.values == read.values &&
+                                 std::all_of(read.values.begin(), read.values.end(),
+                                             [](const QString &text) { return faultOfText(text).isEmpty(); });
+                      });
+}
+
+/// Whether one text of a line comes back. A line has an address, or it would be none.
+bool comesBack(ListFormat format, ListColumn column, const QString &text)
+{
+    DeviceListLine line;
+    line[ListColumn::IPAddress] = QStringLiteral("0");
+    line[column] = text;
+    return comesBack(format, {line});
+}
+
+/// The first character of a text that does not come back from between two others, else the blank that the
+/// text begins or ends with.
+QString lostCharacter(ListFormat format, ListColumn column, const QString &text)
+{
+    for (const char32_t code : text.toUcs4()) {
+        const QString character = QString::fromUcs4(&code, 1);
+        if (!comesBack(format, column, QLatin1Char('0') + character + QLatin1Char('0')))
+            return character;
+    }
+    if (text.front().isSpace())
+        return text.front();
+    return text.back().isSpace() ? QString(text.back()) : QString();
+}
+
 DeviceListContents refusal(const QString &reason)
 {
     DeviceListContents contents;
@@ -64,6 +129,26 @@ bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lin
         return writeText(path, xmlOf(lines));
     }
     return false;
+}
+
+std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::vector<DeviceListLine> &lines)
+{
+    const ListFormat format = formatOf(fileName);
+    std::vector<UnreadableText> lost;
+    if (comesBack(format, lines))
+        return lost;
+    for (std::size_t place = 0; place < lines.size(); ++place) {
+        if (comesBack(format, {lines.at(place)}))
+            continue;
+        for (int number = 0; number < listColumnCount; ++number) {
+            const auto column = static_cast<ListColumn>(number);
+            const QString &text = lines.at(place)[column];
+            if (!text.isEmpty() && !comesBack(format, column, text))
+                lost.push_back(
+                    {.line = place, .column = column, .character = lostCharacter(format, column, text)});
+        }
+    }
+    return lost;
 }
 
 DeviceListContents readDeviceList(const QString &path)

@@ -66,12 +66,8 @@ QString faultOf(const DeviceListLine &line)
     if (line.hasTooManyFields)
         return QCoreApplication::translate("DeviceList", "字段比表头多");
     for (const QString &value : line.values) {
-        if (value.size() > maximumListText)
-            return QCoreApplication::translate("DeviceList", "字段过长");
-        // They would break the lines of tables, and of the next list.
-        if (std::any_of(value.begin(), value.end(),
-                        [](QChar letter) { return letter.category() == QChar::Other_Control; }))
-            return QCoreApplication::translate("DeviceList", "字段内有控制字符");
+        if (const QString fault = faultOfText(value); !fault.isEmpty())
+            return fault;
     }
     const QString &mode = line[ListColumn::AddMode];
     const bool p2p = mode == ListWord::byP2P;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <utility>
 
 const std::array<ListColumnName, listColumnCount> &listColumnNames()
@@ -51,6 +52,15 @@ bool DeviceListContents::refuse(const QString &reason)
     lines.clear();
     refusal = reason;
     return false;
+}
+
+QString faultOfText(const QString &text)
+{
+    if (text.size() > maximumListText)
+        return QCoreApplication::translate("DeviceList", "字段过长");
+    const bool isClean = std::none_of(text.begin(), text.end(),
+                                      [](QChar letter) { return letter.category() == QChar::Other_Control; });
+    return isClean ? QString() : QCoreApplication::translate("DeviceList", "字段内有控制字符");
 }
 
 QString listText(ListColumn column, QStringView text)

@@ -92,6 +92,10 @@ struct DeviceListContents
     bool refuse(const QString &reason);
 };
 
+/// Why no device has such a text: it is too long, or holds control characters, which would break the lines of
+/// tables. In the user's language; empty when it may be a device's.
+[[nodiscard]] QString faultOfText(const QString &text);
+
 /// A text of a file as a line keeps it: not longer than shows that it is too long, and without the blanks
 /// around it, which only a password can mean.
 [[nodiscard]] QString listText(ListColumn column, QStringView text);

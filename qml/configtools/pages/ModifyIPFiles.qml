@@ -43,10 +43,22 @@ Item {
         batch.start(1, () => written = deviceFactory.exportDevice("dh", folder, macs, fileName),
                     () => fileName, () => {
             if (written)
-                said(qsTr("导出设备成功\n文件路径:") + folder + "/" + fileName, OVToast.Success);
+                reportExport(qsTr("导出设备成功\n文件路径:") + folder + "/" + fileName);
             else
                 said(qsTr("导出设备失败，请检查本机是否已经安装了Office"), OVToast.Error);
         });
+    }
+
+    /// Tells of the success, and of what the file will not give back.
+    function reportExport(success) {
+        const faults = deviceFactory.exportFaults("dh");
+        if (faults.length === 0) {
+            said(success, OVToast.Success);
+            return;
+        }
+        const dialog = exportReport.wanted();
+        dialog.load(success + "\n" + qsTr("以下内容无法从该文件正确导入："), faults);
+        dialog.open();
     }
 
     function startImport() {
@@ -75,10 +87,10 @@ Item {
         const summary = qsTr("批量导入设备：") + (counts.total - counts.errcount) + "/" + counts.total + " "
             + qsTr("台已完成");
         if (counts.errcount === 0) {
-            said(summary, OVToast.Success);
+            said(summary, counts.total > 0 ? OVToast.Success : OVToast.Information);
             return;
         }
-        const dialog = report.wanted();
+        const dialog = importReport.wanted();
         dialog.load(summary, deviceFactory.importFailures("dh"));
         dialog.open();
     }
@@ -132,9 +144,29 @@ Item {
         }
     }
     OVOnDemand {
-        id: report
+        id: importReport
         visible: false
-        sourceComponent: ImportReportDialog {}
+        sourceComponent: ListReportDialog {
+            columns: [
+                {key: "line", title: qsTr("行"), width: Theme.columnNumber, figure: true},
+                {key: "address", title: qsTr("地址"), width: Theme.columnAddress, figure: true},
+                {key: "reason", title: qsTr("原因"), width: Theme.columnAddress, stretch: 1}
+            ]
+            title: qsTr("导入结果")
+        }
+    }
+    OVOnDemand {
+        id: exportReport
+        visible: false
+        sourceComponent: ListReportDialog {
+            columns: [
+                {key: "address", title: qsTr("地址"), width: Theme.columnAddress, figure: true},
+                {key: "name", title: qsTr("名称"), width: Theme.columnAddress},
+                {key: "column", title: qsTr("列"), width: Theme.columnAddress},
+                {key: "reason", title: qsTr("原因"), width: Theme.columnAddress, stretch: 1}
+            ]
+            title: qsTr("导出结果")
+        }
     }
     // qmllint enable unqualified
 }

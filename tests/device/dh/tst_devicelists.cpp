@@ -203,6 +203,58 @@ private Q_SLOTS:
 )");
     }
 
+    void namesWhatTheFileDoesNotGiveBack_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason"); // a part of it; empty when the name comes back
+        const QString noCharacter(QChar(0xFFFE));
+        QTest::newRow("comma") << "csv"
+                               << "东,门"
+                               << ", (U+002C)";
+        QTest::newRow("line end") << "csv"
+                                  << "东\r门"
+                                  << "U+000D";
+        QTest::newRow("blank at the end") << "csv"
+                                          << "东门 "
+                                          << "U+0020";
+        QTest::newRow("other signs") << "csv"
+                                     << "A<&\"; 门 😀" << QString();
+        QTest::newRow("bracket") << "xml"
+                                 << "A<B"
+                                 << "< (U+003C)";
+        QTest::newRow("reference") << "xml"
+                                   << "A&amp;B"
+                                   << "& (U+0026)";
+        QTest::newRow("no character") << "xml" << noCharacter << "U+FFFE";
+        QTest::newRow("too long") << "xml" << QString(257, u'x') << "字段过长";
+        QTest::newRow("no trouble") << "xml"
+                                    << "A, B > \"C\" 😀" << QString();
+        QTest::newRow("any character of a cell") << "xlsx"
+                                                 << "A,<&_x0041_" + noCharacter << QString();
+        QTest::newRow("control character") << "xlsx"
+                                           << "\x01"
+                                           << "U+0001";
+    }
+
+    void namesWhatTheFileDoesNotGiveBack()
+    {
+        QFETCH(QString, format);
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        search();
+        m_factory->updataDeviceInfo("dh", "name", name, plateCamera, "");
+        QVERIFY(exported({camera, plateCamera}, "device." + format));
+        const QVariantList faults = m_factory->exportFaults("dh");
+        QCOMPARE(faults.size(), reason.isEmpty() ? 0 : 1);
+        const QVariantMap fault = faults.value(0).toMap();
+        QVERIFY(fault.value("reason").toString().contains(reason));
+        if (!reason.isEmpty()) {
+            QCOMPARE(fault.value("address").toString(), "192.168.1.11");
+            QCOMPARE(fault.value("column").toString(), "设备名称 (DeviceName)");
+        }
+    }
+
     void leavesOutDevicesThatAreGone()
     {
         search();

@@ -1,0 +1,54 @@
+// What a device list did not do: a sentence, and a table of what is missing with the reason for each.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    property string summary
+    required property var columns  // as OVTable has them, the texts of those with "figure" in the font of figures
+
+    /// `list` holds maps with the keys of the columns.
+    function load(text, list) {
+        summary = text;
+        // Entries have no MAC that could tell one from the others: their place does.
+        entries.setRows(list.map((entry, place) => Object.assign({mac: String(place)}, entry)));
+    }
+
+    width: Theme.addressPlanWidth
+    hasCancel: false
+    onAccepted: close()
+    onOpened: table.forceActiveFocus()
+
+    DeviceSelection {
+        id: entries
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.warn
+            iconName: "alert"
+            text: root.summary
+        }
+        OVTable {
+            id: table
+            width: parent.width
+            height: Theme.initialiseListHeight
+            checkable: false
+            columns: root.columns.map(column => column.figure ? Object.assign({cell: figureCell}, column) : column)
+            model: entries
+            objectName: "reportTable"
+        }
+    }
+
+    Component {
+        id: figureCell
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
+    }
+}
