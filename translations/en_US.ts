@@ -1186,6 +1186,10 @@ A right click copies the result</translation>
         <source>表格超过 %1 行</source>
         <translation>The sheet has more than %1 rows</translation>
     </message>
+    <message>
+        <source>字符 %1 在此格式中无法读回</source>
+        <translation>The character %1 cannot be read back in this format</translation>
+    </message>
 </context>
 <context>
     <name>DeviceRow</name>
@@ -2050,25 +2054,6 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
-    <name>ImportReportDialog</name>
-    <message>
-        <source>导入结果</source>
-        <translation>Import result</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Line</translation>
-    </message>
-    <message>
-        <source>地址</source>
-        <translation>Address</translation>
-    </message>
-    <message>
-        <source>原因</source>
-        <translation>Reason</translation>
-    </message>
-</context>
-<context>
     <name>InitialiseDialog</name>
     <message>
         <source>初始化</source>
@@ -2690,6 +2675,38 @@ File path: </translation>
         <source>导出</source>
         <translation>Export</translation>
     </message>
+    <message>
+        <source>以下内容无法从该文件正确导入：</source>
+        <translation>The following will not be imported correctly from this file:</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Import result</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>Column</translation>
+    </message>
+    <message>
+        <source>导出结果</source>
+        <translation>Export result</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -3000,6 +3017,17 @@ File path: </translation>
     <message>
         <source>立即重试</source>
         <translation>Try now</translation>
+    </message>
+</context>
+<context>
+    <name>P2PPorts</name>
+    <message>
+        <source>p2p.ini 中的 %1 缺失或无效</source>
+        <translation>%1 in p2p.ini is missing or invalid</translation>
+    </message>
+    <message>
+        <source>P2P端口代理没有启动</source>
+        <translation>The P2P port agent has not started</translation>
     </message>
 </context>
 <context>

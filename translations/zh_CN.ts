@@ -1170,6 +1170,10 @@
         <source>表格超过 %1 行</source>
         <translation>表格超过 %1 行</translation>
     </message>
+    <message>
+        <source>字符 %1 在此格式中无法读回</source>
+        <translation>字符 %1 在此格式中无法读回</translation>
+    </message>
 </context>
 <context>
     <name>DeviceRow</name>
@@ -2031,25 +2035,6 @@
     </message>
 </context>
 <context>
-    <name>ImportReportDialog</name>
-    <message>
-        <source>导入结果</source>
-        <translation>导入结果</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>行</translation>
-    </message>
-    <message>
-        <source>地址</source>
-        <translation>地址</translation>
-    </message>
-    <message>
-        <source>原因</source>
-        <translation>原因</translation>
-    </message>
-</context>
-<context>
     <name>InitialiseDialog</name>
     <message>
         <source>初始化</source>
@@ -2665,6 +2650,38 @@
         <source>导出</source>
         <translation>导出</translation>
     </message>
+    <message>
+        <source>以下内容无法从该文件正确导入：</source>
+        <translation>以下内容无法从该文件正确导入：</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>导入结果</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>导出结果</source>
+        <translation>导出结果</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -2971,6 +2988,17 @@
     <message>
         <source>立即重试</source>
         <translation>立即重试</translation>
+    </message>
+</context>
+<context>
+    <name>P2PPorts</name>
+    <message>
+        <source>p2p.ini 中的 %1 缺失或无效</source>
+        <translation>p2p.ini 中的 %1 缺失或无效</translation>
+    </message>
+    <message>
+        <source>P2P端口代理没有启动</source>
+        <translation>P2P端口代理没有启动</translation>
     </message>
 </context>
 <context>
