@@ -3,6 +3,7 @@
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +32,7 @@ void expectBatchUndisturbed(Driver &driver, const QString &name)
     driver.check(driver.text(u"messageText"_s).contains(name) &&
                      !driver.window()->property("searching").toBool(),
                  u"the message names the batch: %1"_s.arg(driver.text(u"messageText"_s)));
-    driver.key(Qt::Key_Return);
+    driver.click(u"okButton"_s);
     driver.await(u"the message is gone"_s, [&] { return !driver.find(u"messageText"_s); });
     driver.check(!driver.window()->close() && driver.window()->isVisible(),
                  u"the window does not close during a batch"_s);
@@ -48,7 +49,8 @@ void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &ste
     const QString outcome = QCoreApplication::translate("BatchReport", "%n 台设备成功", "", devices);
     driver.check(driver.text(u"selectedCount"_s).endsWith(outcome) && !driver.find(u"footWarning"_s),
                  u"every device is reported: %1"_s.arg(driver.text(u"selectedCount"_s)));
-    for (const sdk::demo::RecordedRequest &login : site.requests().of(u"NetLoginSecure"_s))
+    const QList<sdk::demo::RecordedRequest> logins = site.requests().of(u"NetLoginSecure"_s);
+    for (const sdk::demo::RecordedRequest &login : logins)
         driver.check(login.request.value("passwordMatches"_L1).toBool(),
                      u"%1 gets its own password"_s.arg(login.mac));
     driver.report(step, driver.text(u"selectedCount"_s));
@@ -58,7 +60,8 @@ void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &ste
 
 void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
 {
-    for (const sdk::demo::SceneDevice &device : site.devices())
+    const QList<sdk::demo::SceneDevice> scene = site.devices();
+    for (const sdk::demo::SceneDevice &device : scene)
         site.changeDevice(device.mac, [](sdk::demo::SceneDevice &changed, const auto &) {
             changed.latency = std::chrono::milliseconds(40); // a batch takes seconds, not minutes
         });
@@ -66,7 +69,8 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
     driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
     driver.click(u"tab3"_s);
     driver.click(u"allDevicesBox"_s);
-    const int devices = driver.text(u"selectedCount"_s).section(u' ', 0, 0).toInt();
+    const QString selected = driver.text(u"selectedCount"_s);
+    const int devices = QRegularExpression(u"^\\d+"_s).match(selected).captured().toInt();
     driver.check(devices > 150, u"the devices of the fleet are ticked: %1"_s.arg(devices));
 
     driver.click(u"systemTab4"_s);

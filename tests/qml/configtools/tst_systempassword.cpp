@@ -98,6 +98,9 @@ private Q_SLOTS:
         m_page = item("page");
         m_tree = m_page->findChild<OVTreeModel *>();
         m_time = m_page->findChild<QObject *>("passwordTime");
+        m_window->requestActivate(); // keys reach shortcuts of the active window only
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTRY_COMPARE(m_tree->rowCount(), 1);
         m_tree->setAllChecked(true);
         QCOMPARE(results(), Results(4, OVTreeModel::NoResult));
         checkOldPassword();
@@ -146,8 +149,10 @@ private Q_SLOTS:
                     QTest::keyClick(m_window.get(), Qt::Key_Escape);
                 else if (event == "cancel")
                     m_site->factory->systemConfig("dh", "cancelLogin", {}, {});
-                else if (event == "time")
+                else if (event == "time") {
                     m_time->setProperty("second", 1);
+                    m_time->setProperty("secondsLeft", 1);
+                }
             });
         sendNewPassword();
         QTRY_VERIFY(!isRunning());
