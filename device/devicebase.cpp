@@ -126,6 +126,8 @@ int CDeviceBase::upgradeDocumentSuccesses()
     return 0;
 }
 
+void CDeviceBase::refreshDevices(const QStringList &) {}
+
 void CDeviceBase::factoryEnds() {}
 
 void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool) {}

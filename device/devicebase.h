@@ -132,6 +132,10 @@ public:
     /// Whether the current session is with the device at this address: it goes on when the row is gone.
     virtual bool isInSession(const QString &ipport);
 
+    /// Queries the devices of these IPv4 rows again, after work that changed what the rows show. Returns at
+    /// once; signalCDeviceAddSingleDeviceToTable tells of rows that have changed.
+    virtual void refreshDevices(const QStringList &macs);
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

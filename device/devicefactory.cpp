@@ -520,6 +520,11 @@ void CDeviceFactory::stopOpeningSession(const QString &family)
     forward(family, &CDeviceBase::stopOpeningSession);
 }
 
+void CDeviceFactory::refreshDevices(const QString &family, const QStringList &macs)
+{
+    forward(family, &CDeviceBase::refreshDevices, macs);
+}
+
 void CDeviceFactory::checkSession(const QString &family)
 {
     forward(family, &CDeviceBase::checkSession);

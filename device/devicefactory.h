@@ -166,6 +166,10 @@ public:
     /// Asks, without holding up the scene, whether the device answers in the current session.
     Q_INVOKABLE void checkSession(const QString &family);
 
+    /// Queries the devices of these rows again in the background. signalAddSingleDeviceToTable tells of rows
+    /// that have changed.
+    Q_INVOKABLE void refreshDevices(const QString &family, const QStringList &macs);
+
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,

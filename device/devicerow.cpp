@@ -6,11 +6,6 @@
 
 namespace {
 
-bool isInitialised(const sdk::SearchDeviceInformation &device)
-{
-    return sdk::initialisationBits(device.initialisationState) != sdk::InitialisationBits::Uninitialised;
-}
-
 /// Writes what rows of both lists take from an answer.
 void fillIn(QJsonObject &row, const sdk::SearchAnswer &answer)
 {
@@ -51,6 +46,11 @@ bool hasIPv4Address(const sdk::SearchAnswer &answer)
     return answer.device.ipVersion == 4 && sdk::blockText(answer.device.address) != "0.0.0.0";
 }
 
+bool isInitialised(const sdk::SearchDeviceInformation &device)
+{
+    return sdk::initialisationBits(device.initialisationState) != sdk::InitialisationBits::Uninitialised;
+}
+
 QString macText(const sdk::SearchAnswer &answer)
 {
     return fieldText(answer.device.mac);
@@ -72,6 +72,18 @@ QString rowName(const QJsonObject &row)
     const QString ipport = row.value(DeviceRowKey::ipport).toString();
     const int duplicate = row.value(DeviceRowKey::duplicate).toInt();
     return duplicate > 0 ? ipport + QLatin1Char('#') + QString::number(duplicate) : ipport;
+}
+
+QString rowName(const sdk::SearchAnswer &answer)
+{
+    const QString mac = macText(answer);
+    return mac.isEmpty() ? addressAndPort(answer) : mac;
+}
+
+QString rowAddress(const QJsonObject &row)
+{
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
+    return ipport.left(ipport.lastIndexOf(QLatin1Char(':')));
 }
 
 QJsonObject ipv4Row(const sdk::SearchAnswer &answer)

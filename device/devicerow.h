@@ -8,7 +8,8 @@
 
 namespace sdk {
 struct SearchAnswer;
-}
+struct SearchDeviceInformation;
+} // namespace sdk
 
 /// Keys of a device row.
 namespace DeviceRowKey {
@@ -65,6 +66,9 @@ template<std::size_t size>
 /// True when the answer belongs into the list of IPv4 devices: its version is 4 and its address is set.
 [[nodiscard]] bool hasIPv4Address(const sdk::SearchAnswer &answer);
 
+/// True for a device that has its first password, and for one that does not report whether it has.
+[[nodiscard]] bool isInitialised(const sdk::SearchDeviceInformation &device);
+
 /// MAC of the device that answered: its identity.
 [[nodiscard]] QString macText(const sdk::SearchAnswer &answer);
 
@@ -75,6 +79,13 @@ template<std::size_t size>
 /// Identifies a row in its list: the MAC, or the address and port of a row without one, followed by "#" and
 /// a number if rows of the same address were found before. Empty for an empty row.
 [[nodiscard]] QString rowName(const QJsonObject &row);
+
+/// The name of the row of an IPv4 answer: the MAC, or address and port of a device that does not report its
+/// MAC.
+[[nodiscard]] QString rowName(const sdk::SearchAnswer &answer);
+
+/// The address of an IPv4 row without its port.
+[[nodiscard]] QString rowAddress(const QJsonObject &row);
 
 /// Row of an IPv4 answer, with all 17 keys.
 [[nodiscard]] QJsonObject ipv4Row(const sdk::SearchAnswer &answer);

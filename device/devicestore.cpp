@@ -107,6 +107,27 @@ int DeviceStore::leftOut() const
     return m_leftOut;
 }
 
+bool DeviceStore::updateRow(const sdk::SearchAnswer &answer, const QString &address)
+{
+    const QString name = rowName(answer);
+    const QJsonObject now = ipv4Row(answer);
+    const std::scoped_lock lock(m_mutex);
+    QJsonObject row = m_ipv4.row(name);
+    if (row.isEmpty() || rowAddress(row) != address)
+        return false;
+    for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::model, DeviceRowKey::vision}) {
+        if (!now.value(key).toString().isEmpty())
+            row.insert(key, now.value(key));
+    }
+    row.insert(DeviceRowKey::state, now.value(DeviceRowKey::state));
+    row.insert(DeviceRowKey::ipport, now.value(DeviceRowKey::ipport));
+    if (!row.value(DeviceRowKey::https).toBool()) // a response holds the port of the plain web page only
+        row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
+    m_ipv4.replace(name, row);
+    m_records.insert(name, bytesOf(answer));
+    return true;
+}
+
 void DeviceStore::clear()
 {
     const std::scoped_lock lock(m_mutex);

@@ -52,6 +52,12 @@ public:
     /// Answers of further devices that were dropped since clear(), because maximumFound rows had been found.
     [[nodiscard]] int leftOut() const;
 
+    /// Takes over what a listed device reports now: state, name, model, version, address and ports, and the
+    /// search record. What else the row holds stays, and so do texts that the device does not report any
+    /// more. Does nothing, and returns false, unless there is an IPv4 row of the device that still shows
+    /// `address`: a response may arrive after the row has got another one.
+    bool updateRow(const sdk::SearchAnswer &answer, const QString &address);
+
     /// Removes every row and record, as a search begins.
     void clear();
 

@@ -26,8 +26,9 @@ constexpr int maximumSessionThreads = 4;
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits)
     : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
-      m_search(std::make_unique<DeviceSearch>(std::move(store), m_libraries)), m_keptLogins(m_libraries.net),
-      m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
+      m_search(std::make_unique<DeviceSearch>(store, m_libraries)),
+      m_refresh(std::make_unique<DeviceRefresh>(std::move(store), m_libraries)),
+      m_keptLogins(m_libraries.net), m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
       m_camera(std::make_unique<CameraConfig>(m_tables, m_channels)),
       m_upgrades(std::make_unique<UpgradeRunner>(
           m_libraries, upgradeLimits,
@@ -52,6 +53,8 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
             Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::done, this, &CDeviceBase::signalCDeviceSearchDone,
             Qt::DirectConnection);
+    connect(m_refresh.get(), &DeviceRefresh::rowsChanged, this, &CDeviceDH::noteChangedRows,
+            Qt::DirectConnection);
 
     const std::lock_guard lock(agentListenerMutex);
     agentListener = this;
@@ -65,6 +68,7 @@ CDeviceDH::~CDeviceDH()
             agentListener = nullptr;
     }
     m_search->requestStop();
+    m_refresh->requestStop();
     m_snapshots.reset();
     m_upgrades->end();
     m_sessionThreads.clear();
@@ -74,6 +78,7 @@ CDeviceDH::~CDeviceDH()
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_sessionThreads.waitForDone();
     m_search.reset();
+    m_refresh.reset();
 }
 
 void CDeviceDH::factoryEnds()

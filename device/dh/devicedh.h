@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/devicebase.h"
+#include "device/devicerefresh.h"
 #include "device/devicesearch.h"
 #include "device/dh/channelchoice.h"
 #include "device/dh/channelnames.h"
@@ -59,6 +60,7 @@ public:
     void setSearchByIPInfo(quint32 beginip, quint32 endip) override;
     QVariantList filterData(const QString &filtertype, const QString &searchtext) override;
     QVariantList filterDataIPV6(const QString &filtertype, const QString &searchtext) override;
+    void refreshDevices(const QStringList &macs) override;
 
     // Rows and their logins: devicedhrows.cpp
     int getLoginDevice(const QString &address, const QString &account, const QString &password,
@@ -216,9 +218,8 @@ private:
     void noteSchedule();
     void noteUpgradeDocuments();
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
-    /// Says once, however often it is called before, that rows have begun or ended to be upgraded. On any
-    /// thread.
-    void noteHeldRows();
+    /// Emits signalCDeviceAddSingleDeviceToTable once, however often it is called before. On any thread.
+    void noteChangedRows();
     void noteUpgradeRoundEnd();
     [[nodiscard]] QVariantList sessionConnections() const;
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
@@ -240,6 +241,7 @@ private:
     const sdk::SdkLibraries m_libraries;
     const std::function<SearchSettings()> m_searchSettings;
     std::unique_ptr<DeviceSearch> m_search;
+    std::unique_ptr<DeviceRefresh> m_refresh;
     Session m_session;
     QThreadPool m_sessionThreads;                ///< of openSession()
     std::atomic<int> m_sessionRequest = 0;       ///< the number of the last openSession() that counts
@@ -253,7 +255,7 @@ private:
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
     UpgradeDocuments m_upgradeDocuments;
     QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row
-    std::atomic<bool> m_heldRowsNoted = false;
+    std::atomic<bool> m_changedRowsNoted = false;
     std::atomic<bool> m_scheduleNoted = false;
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
     QString m_defaultAccount;

@@ -12,6 +12,11 @@ void CDeviceDH::setSearchByIPInfo(quint32 beginip, quint32 endip)
     m_search->setRange({.begin = beginip, .end = endip});
 }
 
+void CDeviceDH::refreshDevices(const QStringList &macs)
+{
+    m_refresh->start(macs);
+}
+
 QVariantList CDeviceDH::filterData(const QString &filtertype, const QString &searchtext)
 {
     return filteredRows(store().ipv4Rows(), filtertype, searchtext, RowFamily::IPv4);

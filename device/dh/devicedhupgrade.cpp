@@ -58,7 +58,7 @@ void CDeviceDH::startUpgrade(const QStringList &macs)
         else
             m_upgrades->start(upgradeOrder(row));
     }
-    noteHeldRows();
+    noteChangedRows();
 }
 
 QStringList CDeviceDH::upgradesToRetry()
@@ -83,13 +83,13 @@ bool CDeviceDH::isUpgradingAt(const QString &ipport) const
            (m_upgrades->isUpgrading(ipport) || m_upgrades->isUpgrading(rowName(store().rowAt(ipport))));
 }
 
-void CDeviceDH::noteHeldRows()
+void CDeviceDH::noteChangedRows()
 {
-    if (!m_heldRowsNoted.exchange(true))
+    if (!m_changedRowsNoted.exchange(true))
         QMetaObject::invokeMethod(
             this,
             [this] {
-                m_heldRowsNoted = false;
+                m_changedRowsNoted = false;
                 Q_EMIT signalCDeviceAddSingleDeviceToTable();
             },
             Qt::QueuedConnection);
@@ -209,7 +209,7 @@ void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
         }
     }
     noteUpgradeDocuments();
-    noteHeldRows();
+    noteChangedRows();
     if (!hasDeviceUpgrading()) // no line could be upgraded
         QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeRoundEnd, Qt::QueuedConnection);
 }
@@ -242,7 +242,7 @@ void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state
     m_upgradeDocuments.note(order.key, state.result, state.percent, state.text);
     noteSchedule();
     if (!UpgradeTools::isRunning(state.result))
-        noteHeldRows();
+        noteChangedRows();
 }
 
 void CDeviceDH::noteSchedule()

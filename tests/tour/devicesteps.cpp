@@ -76,8 +76,23 @@ void walkFirstPasswords(Driver &driver)
     offerPassword(driver, QStringLiteral("Tour-2024"), QStringLiteral("Tour-2024"));
     awaitClosed(driver, QStringLiteral("firstPasswordField"));
     driver.await(QStringLiteral("three results are there"), [&] { return rows.countOf("res", 0) == 3; });
+    driver.await(QStringLiteral("the rows show the new state without a search"),
+                 [&] { return rows.countOf("state", false) == 0; });
     driver.report(QStringLiteral("initialised"), QStringLiteral("three devices are initialised"));
 
+    // The address can be changed at once.
+    driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.type(QStringLiteral("192.168.1.110"));
+    driver.await(QStringLiteral("one row is left"), [&] { return rows.count() == 1; });
+    driver.click(QStringLiteral("edit0"));
+    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.111"));
+    driver.key(Qt::Key_Return);
+    driver.key(Qt::Key_F, Qt::ControlModifier);
+    driver.key(Qt::Key_Delete);
+    driver.await(QStringLiteral("a device has another address right after its first password"), [&] {
+        const int row = rows.rowOf("ipport", QStringLiteral("192.168.1.111:8800"));
+        return row >= 0 && rows.value(row, "res").toInt() == 0;
+    });
     searchAgain(driver);
     driver.check(rows.countOf("state", false) == 0,
                  QStringLiteral("the next search finds no factory-new device"));

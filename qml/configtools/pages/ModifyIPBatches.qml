@@ -73,6 +73,8 @@ Item {
             for (const row of rows.slice(done))
                 deviceFactory.updataDeviceInfo("dh", "res", BatchReport.NotDone, row.identity, row.ipport);
             deviceTable.refresh();
+            // What the rows show of these devices has changed: their state, or the address that they respond at.
+            deviceFactory.refreshDevices("dh", rows.slice(0, done).map(row => row.identity));
             if (done < rows.length)
                 said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
             if (failed > 0)

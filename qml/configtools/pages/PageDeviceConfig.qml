@@ -74,6 +74,14 @@ FocusScope {
         shown: page.visible
         onReadingRequested: page.refresh()
     }
+    Connections {
+        target: page.deviceFactory
+
+        function onSignalSetChannelNameFinished() {
+            const mac = page.deviceFactory.getDeviceInfo("dh", session.device).mac ?? "";
+            page.deviceFactory.refreshDevices("dh", [mac]);  // its row may show the name
+        }
+    }
 
     ConfigSession {
         id: session

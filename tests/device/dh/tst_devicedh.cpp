@@ -250,6 +250,37 @@ private Q_SLOTS:
         QVERIFY(row(camera).value("res").toInt() > 0);
     }
 
+    void workIsSeenWithoutASearch()
+    {
+        search();
+        m_factory->setInitAccount("dh", newCamera, "admin", "first-1");
+        m_factory->modifyIP("dh", newCamera, "192.168.1.78", "255.255.255.0", "192.168.1.1", false);
+        QCOMPARE(row(newCamera).value("res").toInt(), 7); // the row still says that it has no password
+        m_factory->updataDeviceInfo("dh", "username", "installer", newCamera, "");
+        m_site->changeDevice(newCamera, [](auto &device, const auto &) { device.name = "West gate"; });
+        // Another device has the address of one that is gone: its response does not pass for that one's.
+        const QJsonObject lost = row(camera);
+        const QJsonObject other = row(recorder);
+        m_site->removeDevice(camera);
+        m_site->changeDevice(recorder, [](auto &device, const auto &) { device.address = "192.168.1.10"; });
+
+        const QSignalSpy changed(m_factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        m_factory->refreshDevices("dh", {newCamera, camera, "02:1a:c5:ff:ff:ff"});
+        QTRY_VERIFY(row(newCamera).value("state").toBool());
+        QTRY_VERIFY(!changed.isEmpty());
+        QCOMPARE(row(newCamera).value("name").toString(), "West gate");
+        QCOMPARE(row(newCamera).value("username").toString(), "installer");
+        QCOMPARE(row(newCamera).value("res").toInt(), 7);
+        m_factory->modifyIP("dh", newCamera, "192.168.1.78", "255.255.255.0", "192.168.1.1", false);
+        QCOMPARE(row(newCamera).value("res").toInt(), 0);
+        QVERIFY(m_site->requests().waitFor("NetSearchDevicesByIPsEx", 2));
+        m_factory->refreshDevices("dh", {newCamera}); // ends after the rest of the first one
+        QVERIFY(m_site->requests().waitFor("NetSearchDevicesByIPs", 3));
+        QCOMPARE(row(newCamera).value("ipport").toString(), "192.168.1.78:37777");
+        QCOMPARE(row(camera), lost);
+        QCOMPARE(row(recorder), other); // it was not asked
+    }
+
     void theSessionIsReplacedByTheNext()
     {
         QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);

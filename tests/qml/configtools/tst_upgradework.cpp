@@ -47,6 +47,7 @@ class UpgradeFactory : public QObject
     Q_OBJECT
 public:
     QStringList started;
+    QStringList refreshed;
     QVariantMap results; ///< by identity
     int successes = 0;   ///< of a document
 
@@ -54,6 +55,7 @@ public:
     Q_INVOKABLE void startUpgrade(const QString &, const QStringList &names) { started += names; }
     Q_INVOKABLE void startUpgradeByDocument(const QString &, const QStringList &) {}
     Q_INVOKABLE bool hasDeviceUpgrading() { return false; }
+    Q_INVOKABLE void refreshDevices(const QString &, const QStringList &names) { refreshed += names; }
     Q_INVOKABLE QStringList upgradesToRetry(const QString &) { return {"a", "b"}; }
     Q_INVOKABLE QString upgradeDocumentResult(const QString &) { return "upgrades.xlsx"; }
     Q_INVOKABLE QVariantMap upgradeDocumentProgress(const QString &) { return {{"done", 1}, {"total", 2}}; }
@@ -85,6 +87,7 @@ private Q_SLOTS:
     void init()
     {
         m_factory.started.clear();
+        m_factory.refreshed.clear();
         m_factory.results.clear();
         m_window->setProperty("said", QString());
     }
@@ -96,6 +99,7 @@ private Q_SLOTS:
         run({"b"}); // while a is at it
         Q_EMIT m_factory.signalShowUpgradeFinishTip();
         QCOMPARE(said(), QStringLiteral("2 台设备升级成功"));
+        QCOMPARE(m_factory.refreshed, QStringList({"a", "b"}));
     }
 
     void aRetryReachesRowsThatAreHidden()

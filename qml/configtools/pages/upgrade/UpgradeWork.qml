@@ -119,6 +119,7 @@ Item {
             said(qsTr("%n 台设备未升级成功，请查看结果", "", failed), OVToast.Error);
         else if (results.length > 0)
             said(qsTr("%n 台设备升级成功", "", results.length), OVToast.Success);
+        deviceFactory.refreshDevices("dh", followed.concat(ofDocument));
         followed = [];
         ofDocument = [];
         followsAll = false;

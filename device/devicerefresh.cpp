@@ -1,0 +1,152 @@
+#include "device/devicerefresh.h"
+
+#include "device/devicerow.h"
+#include "device/devicestore.h"
+#include "sdk/blocktext.h"
+#include "sdk/netlibrary.h"
+
+#include <QScopeGuard>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include <functional>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto addressesWait = 3000ms;
+constexpr const char *anyLocalAddress = "0.0.0.0";
+
+/// Devices restart their network after a new address, and a datagram may get lost. Both kinds of request are
+/// made twice.
+constexpr int attempts = 4;
+
+/// The devices of one start() whose rows are not up to date yet. Thread-safe.
+class WaitingDevices
+{
+public:
+    /// `addresses` by the name of the row.
+    explicit WaitingDevices(const QHash<QString, QString> &addresses) : m_addresses(addresses) {}
+
+    [[nodiscard]] std::vector<sdk::SearchByAddressesRequest> requests() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        std::vector<sdk::SearchByAddressesRequest> requests;
+        for (const QString &address : m_addresses) {
+            if (requests.empty() || requests.back().count == sdk::maximumSearchAddresses)
+                requests.push_back(
+                    {.size = sizeof(sdk::SearchByAddressesRequest), .count = 0, .addresses = {}});
+            sdk::SearchByAddressesRequest &request = requests.back();
+            sdk::setBlockText(request.addresses[static_cast<std::size_t>(request.count++)],
+                              address.toLocal8Bit().toStdString());
+        }
+        return requests;
+    }
+
+    /// The address at which the device is waited for; empty when it is not.
+    [[nodiscard]] QString addressOf(const QString &name) const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_addresses.value(name);
+    }
+
+    void remove(const QString &name)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_addresses.remove(name);
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    QHash<QString, QString> m_addresses;
+};
+
+struct ResponseReceiver
+{
+    DeviceStore &store;
+    WaitingDevices &waiting;
+    std::function<void()> rowChanged;
+
+    static void handle(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+    {
+        if (answer && answer->size == sizeof(*answer))
+            static_cast<const ResponseReceiver *>(user)->take(*answer);
+    }
+
+    void take(const sdk::SearchAnswer &answer) const
+    {
+        if (!hasIPv4Address(answer))
+            return;
+        const QString name = rowName(answer);
+        const QString address = waiting.addressOf(name);
+        if (address.isEmpty() || !store.updateRow(answer, address))
+            return;
+        // After a first password some devices report the old state for a moment.
+        if (isInitialised(answer.device))
+            waiting.remove(name);
+        rowChanged();
+    }
+};
+
+} // namespace
+
+DeviceRefresh::DeviceRefresh(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries)
+    : m_store(std::move(store)), m_libraries(std::move(libraries))
+{
+}
+
+DeviceRefresh::~DeviceRefresh()
+{
+    requestStop();
+    for (QFuture<void> &task : m_tasks)
+        task.waitForFinished();
+}
+
+void DeviceRefresh::requestStop()
+{
+    m_stop.request_stop();
+}
+
+void DeviceRefresh::start(const QStringList &names)
+{
+    QHash<QString, QString> devices;
+    for (const QString &name : names) {
+        const QJsonObject row = m_store->rowNamed(name);
+        const QString address = rowAddress(row);
+        if (!address.isEmpty() && row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
+            devices.insert(name, address);
+    }
+    if (devices.isEmpty() || !m_libraries.net)
+        return;
+    m_tasks.removeIf([](const QFuture<void> &task) { return task.isFinished(); });
+    m_tasks.append(QtConcurrent::run([this, devices, stop = m_stop.get_token()] { run(devices, stop); }));
+}
+
+void DeviceRefresh::run(const QHash<QString, QString> &devices, const std::stop_token &stop)
+{
+    // The task mostly waits: its thread must not count against those that the pool keeps for work.
+    QThreadPool::globalInstance()->releaseThread();
+    const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
+
+    sdk::NetLibrary &net = *m_libraries.net;
+    WaitingDevices waiting(devices);
+    ResponseReceiver receiver{.store = *m_store, .waiting = waiting, .rowChanged = [this] {
+                                  Q_EMIT rowsChanged();
+                              }};
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        for (const sdk::SearchByAddressesRequest &request : waiting.requests()) {
+            if (stop.stop_requested())
+                return;
+            if (attempt % 2 == 0)
+                net.NetSearchDevicesByIPs(request, &ResponseReceiver::handle, &receiver, anyLocalAddress,
+                                          addressesWait);
+            else
+                net.NetSearchDevicesByIPsEx(request, &ResponseReceiver::handle, &receiver, anyLocalAddress,
+                                            addressesWait);
+        }
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "sdk/sdklibraries.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+#include <stop_token>
+
+class DeviceStore;
+template<typename T>
+class QFuture;
+
+/// Queries listed devices again, each at the address of its row, after work that changed what the row shows.
+/// Only the response of the device itself counts; its row and search record take over what it reports. Ticks
+/// and results of work stay.
+///
+/// Lives on the scene's thread. Each start is one task on the process-wide worker pool.
+class DeviceRefresh : public QObject
+{
+    Q_OBJECT
+public:
+    DeviceRefresh(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
+
+    /// Waits for the running tasks, which it ends.
+    ~DeviceRefresh() override;
+
+    /// Makes running tasks end at their next step, without waiting for them.
+    void requestStop();
+
+    /// `names` are the names of IPv4 rows (MAC, or address and port). Devices behind a tunnel are left out:
+    /// no search reaches them. A device that does not respond, or is not initialised yet, is queried again up
+    /// to three times, within 12 s. Returns at once.
+    void start(const QStringList &names);
+
+Q_SIGNALS:
+    void rowsChanged(); ///< from threads of the network library, once for each response
+
+private:
+    void run(const QHash<QString, QString> &devices, const std::stop_token &stop);
+
+    const std::shared_ptr<DeviceStore> m_store;
+    const sdk::SdkLibraries m_libraries;
+    std::stop_source m_stop;
+    QList<QFuture<void>> m_tasks;
+};
