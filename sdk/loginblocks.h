@@ -7,6 +7,9 @@
 
 namespace sdk {
 
+/// Handle of a session with a device: above 0, or 0 for none.
+using LLONG = std::int64_t;
+
 /// What a device tells about itself when it accepts a login.
 struct LoginDeviceInformation
 {

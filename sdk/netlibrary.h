@@ -74,37 +74,37 @@ public:
 
     /// Opens a session and blocks until the device has answered. Returns its handle; a value below 1 is
     /// failure.
-    virtual std::int64_t NetLogin(const char *address, std::int32_t port, const char *account,
-                                  const char *password, std::int32_t unused1, void *unused2,
-                                  LoginDeviceInformation &device, std::int32_t &error) = 0;
+    virtual LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
+                           std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
+                           std::int32_t &error) = 0;
 
     /// The newer kind of login. Returns the handle of the session; a value below 1 is failure.
-    virtual std::int64_t NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) = 0;
+    virtual LLONG NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) = 0;
 
     /// Ends a session. Returns false for a handle that is no session.
-    virtual bool NetLogout(std::int64_t loginHandle) = 0;
+    virtual bool NetLogout(LLONG loginHandle) = 0;
 
     /// Reads a block of the device by command number into `buffer` of `bufferSize` bytes; `returnedSize` is
     /// set to the bytes that were filled, never more than `bufferSize`.
-    virtual bool NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel,
-                                void *buffer, std::uint32_t bufferSize, std::uint32_t &returnedSize,
+    virtual bool NetQueryConfig(LLONG loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
+                                std::uint32_t bufferSize, std::uint32_t &returnedSize,
                                 std::chrono::milliseconds wait) = 0;
 
     /// Reads the configuration text `name` of a channel (-1 for the whole device) into `text` of `textSize`
     /// bytes, ended by a zero. A text that does not fit is a failure.
-    virtual bool NetGetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel, char *text,
+    virtual bool NetGetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, char *text,
                                  std::uint32_t textSize, std::int32_t &error,
                                  std::chrono::milliseconds wait) = 0;
 
     /// Asks what a device can do. `input` and `output` are the blocks of `query`, each with its size in it;
     /// the output is filled up to its size. Blocks until the device has answered, up to `wait`. Returns
     /// false, with the output unchanged, when the device refuses, is away, or `loginHandle` is no session.
-    virtual bool NetQueryCapabilities(std::int64_t loginHandle, CapabilityQuery query, const void *input,
+    virtual bool NetQueryCapabilities(LLONG loginHandle, CapabilityQuery query, const void *input,
                                       void *output, std::chrono::milliseconds wait) = 0;
 
     /// Reads the block of an item by its number. `block` begins with its own size, and holds the stream or
     /// mode that is asked for where the item has one. Waits and fails as NetQueryCapabilities() does.
-    virtual bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
+    virtual bool NetGetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, void *block,
                             std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
 
     /// Gives a factory-new device its first account. `localAddress` is the address to send from, empty for
@@ -120,29 +120,29 @@ public:
     // when the device refuses, is away, or `loginHandle` is no session.
 
     /// Writes the block of a setting: `blockSize` bytes of `block`. `channel` is -1 for the whole device.
-    virtual bool NetSetDeviceSetting(std::int64_t loginHandle, DeviceSetting setting, std::int32_t channel,
+    virtual bool NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setting, std::int32_t channel,
                                      const void *block, std::uint32_t blockSize,
                                      std::chrono::milliseconds wait) = 0;
 
     /// Writes the block of an item by its number. `block` begins with its own size.
-    virtual bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel,
-                            const void *block, std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
+    virtual bool NetSetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
+                            std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
 
     /// Writes the configuration text `name`: `text` is `textSize` bytes, ended by a zero among them. A device
     /// takes what the text holds and leaves the rest as it was. `error` is set as NetGetLastError() is.
-    virtual bool NetSetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel,
-                                 const char *text, std::uint32_t textSize, std::int32_t &error,
+    virtual bool NetSetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, const char *text,
+                                 std::uint32_t textSize, std::int32_t &error,
                                  std::chrono::milliseconds wait) = 0;
 
     /// Asks the device to reboot. It is away for a while then, and its sessions have ended.
-    virtual bool NetRebootDevice(std::int64_t loginHandle, std::chrono::milliseconds wait) = 0;
+    virtual bool NetRebootDevice(LLONG loginHandle, std::chrono::milliseconds wait) = 0;
 
     /// Asks the device to become as it left the factory: it reboots and waits for its first password.
-    virtual bool NetResetSystem(std::int64_t loginHandle, const ResetSystemInput &input,
-                                ResetSystemOutput &output, std::chrono::milliseconds wait) = 0;
+    virtual bool NetResetSystem(LLONG loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
+                                std::chrono::milliseconds wait) = 0;
 
     /// Changes the password of an account. The session goes on.
-    virtual bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
+    virtual bool NetModifyPassword(LLONG loginHandle, const ModifyPasswordInput &input,
                                    std::chrono::milliseconds wait) = 0;
 
     // Live streams
@@ -150,8 +150,8 @@ public:
     /// Asks for a live stream of a channel (from 0). `window` is where to show it: always 0. Blocks until the
     /// device has answered, up to 5 s. Returns the handle of the stream, 0 when the device refuses, is away,
     /// or `loginHandle` is no session. A session that ends takes its streams along.
-    virtual std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel,
-                                            std::uintptr_t window, LiveStreamKind kind) = 0;
+    virtual std::int64_t NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t window,
+                                            LiveStreamKind kind) = 0;
 
     /// Sets or, by null, removes what gets the stream's data, on a thread of the library, from the stream's
     /// beginning on when it is the first. After it has returned, the handler that was set before runs no
@@ -170,7 +170,7 @@ public:
     virtual bool NetStopRealStream(std::int64_t streamHandle) = 0;
 
     /// Asks which channels of the device have a camera. Waits and fails as NetQueryCapabilities() does.
-    virtual bool NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,
+    virtual bool NetQueryChannelStates(LLONG loginHandle, ChannelStates &states,
                                        std::chrono::milliseconds wait) = 0;
 
     // Firmware
@@ -181,7 +181,7 @@ public:
     /// the file cannot be read, when the device refuses or is away, or when `loginHandle` is no session. A
     /// session that ends takes its upgrades along: a file on its way is dropped, a device that is writing
     /// goes on unheard.
-    virtual std::int64_t NetStartUpgrade(std::int64_t loginHandle, const char *fileName,
+    virtual std::int64_t NetStartUpgrade(LLONG loginHandle, const char *fileName,
                                          UpgradeProgressHandler handler, void *user,
                                          std::chrono::milliseconds wait) = 0;
 

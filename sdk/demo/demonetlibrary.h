@@ -56,24 +56,24 @@ public:
                              std::chrono::milliseconds wait) override;
 
     // Sessions
-    std::int64_t NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
-                          std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
-                          std::int32_t &error) override;
-    std::int64_t NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) override;
-    bool NetLogout(std::int64_t loginHandle) override;
+    LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
+                   std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
+                   std::int32_t &error) override;
+    LLONG NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) override;
+    bool NetLogout(LLONG loginHandle) override;
 
     // Queries and configuration
-    bool NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
+    bool NetQueryConfig(LLONG loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
                         std::uint32_t bufferSize, std::uint32_t &returnedSize,
                         std::chrono::milliseconds wait) override;
-    bool NetGetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel, char *text,
+    bool NetGetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, char *text,
                          std::uint32_t textSize, std::int32_t &error,
                          std::chrono::milliseconds wait) override;
 
     // Items and capabilities: demonetconfiguration.cpp
-    bool NetQueryCapabilities(std::int64_t loginHandle, CapabilityQuery query, const void *input,
-                              void *output, std::chrono::milliseconds wait) override;
-    bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
+    bool NetQueryCapabilities(LLONG loginHandle, CapabilityQuery query, const void *input, void *output,
+                              std::chrono::milliseconds wait) override;
+    bool NetGetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override;
 
     // Requests to devices without a login
@@ -83,34 +83,33 @@ public:
                                  std::chrono::milliseconds wait) override;
 
     // Maintenance
-    bool NetSetDeviceSetting(std::int64_t loginHandle, DeviceSetting setting, std::int32_t channel,
+    bool NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setting, std::int32_t channel,
                              const void *block, std::uint32_t blockSize,
                              std::chrono::milliseconds wait) override;
-    bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
+    bool NetSetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override;
-    bool NetSetNewConfig(std::int64_t loginHandle, const char *name, std::int32_t channel, const char *text,
+    bool NetSetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, const char *text,
                          std::uint32_t textSize, std::int32_t &error,
                          std::chrono::milliseconds wait) override;
-    bool NetRebootDevice(std::int64_t loginHandle, std::chrono::milliseconds wait) override;
-    bool NetResetSystem(std::int64_t loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
+    bool NetRebootDevice(LLONG loginHandle, std::chrono::milliseconds wait) override;
+    bool NetResetSystem(LLONG loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
                         std::chrono::milliseconds wait) override;
-    bool NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
+    bool NetModifyPassword(LLONG loginHandle, const ModifyPasswordInput &input,
                            std::chrono::milliseconds wait) override;
 
     // Live streams: demonetstreams.cpp
-    std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel, std::uintptr_t window,
+    std::int64_t NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t window,
                                     LiveStreamKind kind) override;
     bool NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
                                 std::uint32_t flag) override;
     bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel, std::uint32_t reserved) override;
     bool NetStopRealStream(std::int64_t streamHandle) override;
-    bool NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,
+    bool NetQueryChannelStates(LLONG loginHandle, ChannelStates &states,
                                std::chrono::milliseconds wait) override;
 
     // Firmware: demonetupgrade.cpp
-    std::int64_t NetStartUpgrade(std::int64_t loginHandle, const char *fileName,
-                                 UpgradeProgressHandler handler, void *user,
-                                 std::chrono::milliseconds wait) override;
+    std::int64_t NetStartUpgrade(LLONG loginHandle, const char *fileName, UpgradeProgressHandler handler,
+                                 void *user, std::chrono::milliseconds wait) override;
     bool NetStopUpgrade(std::int64_t upgradeHandle) override;
 
 private:
@@ -153,15 +152,15 @@ private:
     bool fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
                      const QString &name, std::int32_t channel, char *text, std::uint32_t textSize,
                      std::chrono::milliseconds wait);
-    bool setItemOfChannel(const CallGate::Call &call, std::int64_t loginHandle,
+    bool setItemOfChannel(const CallGate::Call &call, LLONG loginHandle,
                           const std::optional<DemoSession> &session, std::uint32_t item, std::int32_t channel,
                           const void *block, std::uint32_t blockSize, std::chrono::milliseconds wait);
-    bool queryEncode(const CallGate::Call &call, std::int64_t loginHandle,
-                     const std::optional<DemoSession> &session, const EncodeCapabilityInput *input,
-                     EncodeCapabilities *output, std::chrono::milliseconds wait);
-    bool queryCamera(const CallGate::Call &call, std::int64_t loginHandle,
-                     const std::optional<DemoSession> &session, const CameraCapabilityInput *input,
-                     CameraCapabilities *output, std::chrono::milliseconds wait);
+    bool queryEncode(const CallGate::Call &call, LLONG loginHandle, const std::optional<DemoSession> &session,
+                     const EncodeCapabilityInput *input, EncodeCapabilities *output,
+                     std::chrono::milliseconds wait);
+    bool queryCamera(const CallGate::Call &call, LLONG loginHandle, const std::optional<DemoSession> &session,
+                     const CameraCapabilityInput *input, CameraCapabilities *output,
+                     std::chrono::milliseconds wait);
 
     /// Whether a request without a login may go to `mac`; with the error left when not.
     bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
