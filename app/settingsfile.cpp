@@ -53,7 +53,7 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     QTemporaryFile draft(m_path + QStringLiteral(".XXXXXX"));
     if (!draft.open())
         return draft.errorString();
-    const QString failure = copyText(m_path, draft.fileName());
+    QString failure = copyText(m_path, draft.fileName());
     if (!failure.isEmpty())
         return failure;
     QSettings settings(draft.fileName(), QSettings::IniFormat);
@@ -72,7 +72,7 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     if (valuesOf(QSettings(written, QSettings::IniFormat)) != valuesOf(settings))
         return QStringLiteral("the draft is incomplete, the disk may be full");
     const QDateTime before = QFileInfo(m_path).lastModified();
-    const QString outcome = replaceFile(m_path, text.readAll());
+    QString outcome = replaceFile(m_path, text.readAll());
     if (outcome.isEmpty())
         makeNewer(m_path, before);
     return outcome;

@@ -24,7 +24,7 @@ QString failureOf(const HttpOutcome &outcome)
 /// The same for the second exchange: the device may have changed its mind, and sends a page that says so.
 QString secondFailureOf(const HttpOutcome &outcome)
 {
-    const QString failure = failureOf(outcome);
+    QString failure = failureOf(outcome);
     if (!failure.isEmpty() || outcome.status == accepted)
         return failure;
     return CgiProcedure::tr("服务器连接失败") + QStringLiteral(" (HTTP %1)").arg(outcome.status);

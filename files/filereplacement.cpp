@@ -35,7 +35,7 @@ QString replaceFile(const QString &path, const QByteArray &contents)
     // Not through a buffer: the toolkit does not notice when only a part of that could be written.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeCompletely(file, contents))
         return file.errorString();
-    const QString failure = storeOnDisk(file);
+    QString failure = storeOnDisk(file);
     if (!failure.isEmpty())
         return failure;
     return file.commit() ? QString() : file.errorString();
