@@ -241,14 +241,25 @@ private Q_SLOTS:
         QCOMPARE(lines, QStringList({"10.0.0.3:1", "10.0.0.1:1"}));
     }
 
-    void aRunningCommandCanBeStoppedByAClick()
+    void aRunningCommandCanBeStopped_data()
     {
+        QTest::addColumn<QString>("clicked"); // empty: the window is to close
+        QTest::newRow("by the button") << "stopButton";
+        QTest::newRow("by closing the window") << "";
+    }
+
+    void aRunningCommandCanBeStopped()
+    {
+        QFETCH(QString, clicked);
         m_program->device = {{"ipport", "10.0.0.1:1"}, {"identity", "02:00"}, {"url", "/cgi-bin/a"}};
         QObject *sender = m_window->findChild<QObject *>("sender");
         m_program->whileSending = [&] {
             QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, QPoint(500, 200)); // beside the button
             m_program->asked.append("beside");
-            QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, place("stopButton").center().toPoint());
+            if (clicked.isEmpty())
+                m_window->close();
+            else
+                QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, place(clicked).center().toPoint());
         };
         QVERIFY(QMetaObject::invokeMethod(sender, "send", Q_ARG(QVariant, 0)));
         QTRY_VERIFY(!sender->property("running").toBool());

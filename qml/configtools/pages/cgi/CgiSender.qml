@@ -108,6 +108,15 @@ Item {
 
     visible: false
 
+    // The window refuses to close while a command runs, and a recording may take hours.
+    Connections {
+        enabled: batch.running
+        target: root.Window.window
+
+        function onClosing() {
+            batch.stopping = true;
+        }
+    }
     OVBatch {
         id: batch
         onStoppingChanged: if (stopping) root.cgiManager.stop()

@@ -50,6 +50,15 @@ Item {
             root.current = command;
         }
     }
+    // The window refuses to close while a workbook runs, and a recording may take hours.
+    Connections {
+        enabled: root.running
+        target: root.Window.window
+
+        function onClosing() {
+            root.cgiManager.stop();
+        }
+    }
     OVInputHold {
         id: hold
         onEscapePressed: root.cgiManager.stop()
