@@ -89,18 +89,18 @@ Item {
             if (answer.startsWith("Error:"))
                 failures.push({ipport: rows[i].ipport, result: answer});
         }, i => rows[i].ipport, done => {
+            const refused = failures.length;
             for (const row of rows.slice(done)) {
                 deviceFactory.updataDeviceInfo("dh", "result", qsTr("未执行"), row.identity, row.ipport);
                 deviceTable.refreshDevice(row.identity);
+                failures.push({ipport: row.ipport, result: qsTr("未执行")});
             }
             if (done < rows.length)
                 said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
             else
                 said(qsTr("批量配置CGI命令已完成"), OVToast.Success);
-            if (failures.length > 0)
-                said(qsTr("%n 台设备未成功，请查看结果", "", failures.length), OVToast.Error);
-            for (const row of rows.slice(done))
-                failures.push({ipport: row.ipport, result: qsTr("未执行")});
+            if (refused > 0)
+                said(qsTr("%n 台设备未成功，请查看结果", "", refused), OVToast.Error);
             if (failures.length > 0)
                 failed(cgiManager.sortList(failures, "result", Qt.AscendingOrder));
         });
