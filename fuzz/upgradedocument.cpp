@@ -9,9 +9,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     // past the check sums.
     const QByteArray bytes = fuzz::bytesOf(data, size);
     const qsizetype end = bytes.indexOf('\0');
+    const QByteArray rows = end < 0 ? bytes : bytes.left(end);
     const QByteArray strings = end < 0 ? QByteArray() : bytes.mid(end + 1);
     const fuzz::InputFile file(QStringLiteral("upgrades.xlsx"), {});
-    if (!writeArchive(file.path(), smallWorkbook(bytes.left(end), strings)))
+    if (!writeArchive(file.path(), smallWorkbook(rows, strings)))
         qFatal("cannot pack the document");
 
     UpgradeDocument document;

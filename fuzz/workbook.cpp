@@ -42,7 +42,7 @@ void useParts(const QByteArray &bytes)
     const qsizetype end = bytes.indexOf('\0');
     if (end >= 0 && !strings.load(bytes.mid(end + 1)))
         return;
-    if (!sheet.load(bytes.left(end)))
+    if (!sheet.load(end < 0 ? bytes : bytes.left(end)))
         return;
     const int first = std::clamp(sheet.usedRows().first, 1, sheets::maximumRows - rows);
     for (int row = first; row < first + rows; ++row) {
