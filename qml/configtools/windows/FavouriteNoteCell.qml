@@ -5,7 +5,7 @@ import configtools
 OVTableCell {
     id: root
 
-    required property var wholeNote  // a function that returns the note, of which the table may show a part
+    required property string wholeNote  // of which the table may show a part
     property bool editable: true
     signal edited(string note)
 
@@ -15,9 +15,8 @@ OVTableCell {
     readonly property int longest: 50  // letters that can be typed; a longer note from elsewhere is not cut
 
     function begin() {
-        const note = wholeNote();
-        field.maximumLength = Math.max(longest, note.length);
-        field.text = note;
+        field.maximumLength = Math.max(longest, wholeNote.length);
+        field.text = wholeNote;
         before = field.text;
         editing = true;
         field.forceActiveFocus();
