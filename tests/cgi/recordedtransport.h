@@ -14,6 +14,8 @@ public:
     };
     QStringList urls;        ///< of the commands, in their order
     QStringList credentials; ///< of each of them
+    QStringList limits;      ///< of each exchange: milliseconds, least bytes a second, seconds below that
+    QByteArray headers = "Content-Type: text/plain\r\n";
 
     void setProxy(const QString &) override {}
 
@@ -21,28 +23,35 @@ public:
     {
         urls.append(QString::fromUtf8(request.url()));
         credentials.append(QString::fromUtf8(request.userPassword()));
-        return std::make_unique<Conversation>(answer(request.url()));
+        return std::make_unique<Conversation>(*this, answer(request.url()));
     }
 
 private:
     class Conversation : public HttpConversation
     {
     public:
-        explicit Conversation(const QByteArray &body) : m_body(body) {}
+        Conversation(RecordedTransport &transport, const QByteArray &body)
+            : m_transport(transport), m_body(body)
+        {
+        }
 
         void useBasic() override {}
-        HttpOutcome perform(const HttpLimits &, const BodySink &sink, const ExchangeWatch &) override
+        HttpOutcome perform(const HttpLimits &limits, const BodySink &sink, const ExchangeWatch &) override
         {
-            constexpr long accepted = 200;
-            if (sink)
-                sink(m_body);
+            m_transport.limits.append(QStringLiteral("%1 %2 %3")
+                                          .arg(limits.total.count())
+                                          .arg(limits.slowestRate)
+                                          .arg(limits.slowTime.count()));
             HttpOutcome outcome;
-            outcome.status = accepted;
+            outcome.status = 200;
+            if (sink && !sink(m_body))
+                outcome.failure = QStringLiteral("ended");
             return outcome;
         }
-        [[nodiscard]] QByteArray headerText() const override { return "Content-Type: text/plain\r\n"; }
+        [[nodiscard]] QByteArray headerText() const override { return m_transport.headers; }
 
     private:
+        RecordedTransport &m_transport;
         const QByteArray m_body;
     };
 };

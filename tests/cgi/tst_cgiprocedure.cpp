@@ -3,11 +3,16 @@
 #include "cgi/curltransport.h"
 #include "tests/cgi/apacheserver.h"
 #include "tests/cgi/rawserver.h"
+#include "tests/cgi/recordedtransport.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTest>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 using namespace std::chrono_literals;
 
@@ -297,6 +302,57 @@ private Q_SLOTS:
 
     /// The first exchange has its limit and throws its body away, the second takes a recording for as long
     /// as it comes.
+    void eachKindOfAnswerHasItsLimits_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<qsizetype>("largest"); // in bytes; 0 for any
+        constexpr qsizetype mebibyte = 1024 * 1024;
+        QTest::newRow("text") << QByteArray("text/plain") << "30000 0 0" << 8 * mebibyte;
+        QTest::newRow("picture") << QByteArray("image/png") << "10000 0 0" << 64 * mebibyte;
+        QTest::newRow("recording") << QByteArray("application/octet-stream") << "0 1024 10" << qsizetype(0);
+    }
+
+    void eachKindOfAnswerHasItsLimits()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(QString, second);
+        QFETCH(qsizetype, largest);
+        const auto transport = std::make_shared<RecordedTransport>();
+        transport->headers = "Content-Type: " + type + "\r\n";
+        m_surroundings.transport = transport;
+        qsizetype size = largest;
+        transport->answer = [&size](const QByteArray &) {
+            return QByteArray(size, 'x');
+        };
+        QVERIFY(!run("http://127.0.0.1/a").startsWith("Error:"));
+        QCOMPARE(transport->limits, QStringList({"3000 0 0", second}));
+        ++size;
+        QCOMPARE(run("http://127.0.0.1/a").startsWith("Error:"), largest > 0);
+    }
+
+    void aConnectionMayTakeFiveSeconds()
+    {
+        const int listener = socket(AF_INET, SOCK_STREAM, 0);
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t size = sizeof(address);
+        auto *any = reinterpret_cast<sockaddr *>(&address);
+        QVERIFY(bind(listener, any, size) == 0 && listen(listener, 0) == 0);
+        QCOMPARE(getsockname(listener, any, &size), 0);
+        const int first = socket(AF_INET, SOCK_STREAM, 0); // fills the queue: the next one gets no answer
+        QCOMPARE(::connect(first, any, size), 0);
+        const CgiRequest request(QStringLiteral("http://127.0.0.1:%1/").arg(ntohs(address.sin_port)), user,
+                                 password);
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!CurlTransport().open(request)->perform({}, {}, {}).failure.isEmpty());
+        QVERIFY2(time.elapsed() > 4900 && time.elapsed() < 8000, qPrintable(QString::number(time.elapsed())));
+        close(first);
+        close(listener);
+    }
+
     void aLongRecordingOutlivesTheFirstLimit()
     {
         RawServer server([](const RawExchange &exchange) {
