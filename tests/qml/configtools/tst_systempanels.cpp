@@ -1,0 +1,131 @@
+// What the fields of the system page send to a device.
+#include "tests/device/dh/configsite.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+#include <QTest>
+
+namespace {
+
+const char *const scene =
+    "import QtQuick\n"
+    "import QtQuick.Templates as T\n"
+    "import configtools\n"
+    "T.ApplicationWindow {\n"
+    "    width: 900; height: 700; visible: true\n"
+    "    SystemPanels {\n"
+    "        anchors.fill: parent\n"
+    "        objectName: 'panels'\n"
+    "        available: true; held: false; upgradingCount: 0; timeZone: 'UTC+08:00'\n"
+    "        passwordTime: SystemPasswordTime { deviceFactory: factory; changing: false }\n"
+    "        deviceFactory: factory\n"
+    "        onActionRequested: (command, title, dataOf) =>\n"
+    "            factory.systemConfig('dh', command, dataOf(), ['192.168.1.1:37777'])\n"
+    "    }\n"
+    "}\n";
+
+/// "field=value" of a request's configuration text, in alphabetical order.
+QString fieldsOf(const QJsonObject &fields)
+{
+    QStringList texts;
+    for (auto field = fields.begin(); field != fields.end(); ++field)
+        texts.append(field.key() + '=' + field.value().toVariant().toString());
+    return texts.join(' ');
+}
+
+} // namespace
+
+class TestSystemPanels : public QObject
+{
+    Q_OBJECT
+private:
+    ConfigSite m_site{{configDevice(1, "IPC", 1)}};
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_window = openScene(m_engine, scene, {{"factory", m_site.factory.get()}});
+        QVERIFY(m_window && QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void cleanupTestCase() { m_window.reset(); }
+
+    void fieldsAreSentAsTheyStand_data()
+    {
+        QTest::addColumn<int>("panel");
+        QTest::addColumn<QVariantMap>("fields"); // property of "field" by its name
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("sent");
+        const QVariantMap points = {{"dstEnableBox.checked", true},    {"startMonthBox.currentIndex", 3},
+                                    {"startWeekBox.currentIndex", 1},  {"startWeekDayBox.currentIndex", 5},
+                                    {"startDayBox.currentIndex", 11},  {"startTimeField.text", "01:15"},
+                                    {"endMonthBox.currentIndex", 10},  {"endWeekBox.currentIndex", 4},
+                                    {"endWeekDayBox.currentIndex", 6}, {"endDayBox.currentIndex", 29},
+                                    {"endTimeField.text", "04:45"}};
+        QVariantMap byDate = points;
+        byDate.insert("dstByDate.checked", true);
+        QVariantMap byWeek = points;
+        byWeek.insert("dstByWeek.checked", true);
+        QTest::newRow("daylight saving by week")
+            << 1 << byWeek << "dstApplyButton"
+            << "beginDay=5 beginHour=1 beginMinute=15 beginMonth=4 beginWeek=2 daylightSaving=true endDay=6 "
+               "endHour=4 endMinute=45 endMonth=11 endWeek=-1";
+        QTest::newRow("daylight saving by date")
+            << 1 << byDate << "dstApplyButton"
+            << "beginDay=12 beginHour=1 beginMinute=15 beginMonth=4 beginWeek=0 daylightSaving=true "
+               "endDay=30 endHour=4 endMinute=45 endMonth=11 endWeek=0";
+        QTest::newRow("zone and NTP")
+            << 1
+            << QVariantMap{{"timeZoneBox.currentIndex", 12},
+                           {"ntpSetBox.checked", true},
+                           {"ntpServerField.text", " time.example "},
+                           {"ntpPortField.text", "1123"},
+                           {"updatePeriodField.text", "77"}}
+            << "ntpApplyButton"
+            << "address=time.example enabled=true port=1123 timeZone=12 updatePeriod=77";
+        const QVariantMap maintenance = {{"autoRebootBox.checked", true},
+                                         {"maintenanceDayBox.currentIndex", 3},
+                                         {"maintenanceTimeField.text", "05:40"}};
+        QTest::newRow("maintenance") << 2 << maintenance << "autoMaintainButton"
+                                     << "rebootDay=3 rebootEnabled=true rebootHour=5 rebootMinute=40";
+        QTest::newRow("no maintenance")
+            << 2 << QVariantMap{{"autoRebootBox.checked", false}} << "autoMaintainButton"
+            << "rebootDay=-1 rebootEnabled=false rebootHour=5 rebootMinute=40";
+        for (int standard = 1; standard <= 2; ++standard) {
+            QTest::addRow("video standard %d", standard)
+                << 5 << QVariantMap{{"videoStandardBox.currentIndex", standard - 1}} << "videoStandardButton"
+                << QStringLiteral("standard=%1").arg(standard);
+        }
+    }
+
+    void fieldsAreSentAsTheyStand()
+    {
+        QFETCH(int, panel);
+        QFETCH(QVariantMap, fields);
+        QFETCH(QString, button);
+        QObject *panels = m_window->findChild<QObject *>("panels");
+        QVERIFY(panels->setProperty("currentPanel", panel));
+        for (auto field = fields.cbegin(); field != fields.cend(); ++field) {
+            QObject *found = m_window->findChild<QObject *>(field.key().section('.', 0, 0));
+            QVERIFY2(found, qPrintable(field.key()));
+            QVERIFY(found->setProperty(field.key().section('.', 1).toLatin1().constData(), field.value()));
+        }
+        m_site.site->requests().clear();
+        QVERIFY(QMetaObject::invokeMethod(m_window->findChild<QObject *>(button), "press"));
+        QJsonObject sent;
+        if (panel == 5) {
+            QCOMPARE(m_site.asked("NetSetItem").size(), 1);
+            sent = {{"standard", m_site.asked("NetSetItem").first().value("standard")}};
+        } else {
+            QCOMPARE(m_site.asked("NetSetNewConfig").size(), 1);
+            sent =
+                m_site.asked("NetSetNewConfig").first().value("text").toObject().begin().value().toObject();
+            sent.remove("timeFormat");
+        }
+        QTEST(fieldsOf(sent), "sent");
+    }
+};
+
+QTEST_MAIN(TestSystemPanels)
+#include "tst_systempanels.moc"
