@@ -40,6 +40,7 @@ public:
             QStringList{"port", family, id, account, password, port, QString::number(wish)}.join(' '));
         return nextPort > 0 ? nextPort++ : 0;
     }
+    Q_INVOKABLE QString p2pFault() const { return QStringLiteral("p2p/trans"); }
     Q_INVOKABLE void addP2PPort(int port, int webPort)
     {
         asked.append(QStringLiteral("pair %1 %2").arg(port).arg(webPort));
