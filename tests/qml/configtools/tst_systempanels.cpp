@@ -59,9 +59,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("sent");
         const QVariantMap points = {{"dstEnableBox.checked", true},    {"startMonthBox.currentIndex", 3},
                                     {"startWeekBox.currentIndex", 1},  {"startWeekDayBox.currentIndex", 5},
-                                    {"startDayBox.currentIndex", 11},  {"startTimeField.text", "01:15"},
+                                    {"startDayBox.kept", 11},          {"startTimeField.text", "01:15"},
                                     {"endMonthBox.currentIndex", 10},  {"endWeekBox.currentIndex", 4},
-                                    {"endWeekDayBox.currentIndex", 6}, {"endDayBox.currentIndex", 29},
+                                    {"endWeekDayBox.currentIndex", 6}, {"endDayBox.kept", 29},
                                     {"endTimeField.text", "04:45"}};
         QVariantMap byDate = points;
         byDate.insert("dstByDate.checked", true);
@@ -90,7 +90,8 @@ private Q_SLOTS:
         QTest::newRow("maintenance") << 2 << maintenance << "autoMaintainButton"
                                      << "rebootDay=3 rebootEnabled=true rebootHour=5 rebootMinute=40";
         QTest::newRow("no maintenance")
-            << 2 << QVariantMap{{"autoRebootBox.checked", false}} << "autoMaintainButton"
+            << 2 << QVariantMap{{"autoRebootBox.checked", false}, {"maintenanceTimeField.text", "05:40"}}
+            << "autoMaintainButton"
             << "rebootDay=-1 rebootEnabled=false rebootHour=5 rebootMinute=40";
         for (int standard = 1; standard <= 2; ++standard) {
             QTest::addRow("video standard %d", standard)
