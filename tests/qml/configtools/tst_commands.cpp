@@ -15,6 +15,7 @@ const char *const scene =
     "import configtools\n"
     "T.ApplicationWindow {\n"
     "    width: 1000; height: 400; visible: true\n"
+    "    onClosing: close => close.accepted = false\n"
     "    CgiCommands { id: known; cgiManager: program }\n"
     "    CgiSender {\n"
     "        objectName: 'sender'; commands: known; cgiManager: program; stopper: foot.stopButton\n"
