@@ -213,6 +213,8 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     QList<Group> groups;
     for (const QVariant &row : rows) {
         const QJsonObject values = row.toJsonObject();
+        if (rowAddress(values).isEmpty()) // waits for an address by DHCP: no login reaches it
+            continue;
         QString typeText = values.value(DeviceRowKey::type).toString();
         if (typeText.isEmpty())
             typeText = otherDeviceType();

@@ -3244,6 +3244,13 @@ File path: </translation>
             <numerusform>Time is up: the passwords of %n devices are unchanged</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>已开始其他操作，%n 台设备的密码没有修改</source>
+        <translation>
+            <numerusform>Other work has started: the password of %n device is unchanged</numerusform>
+            <numerusform>Other work has started: the passwords of %n devices are unchanged</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -3204,6 +3204,12 @@
             <numerusform>时间已到，%n 台设备的密码没有修改</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>已开始其他操作，%n 台设备的密码没有修改</source>
+        <translation>
+            <numerusform>已开始其他操作，%n 台设备的密码没有修改</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

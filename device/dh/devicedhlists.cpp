@@ -125,8 +125,14 @@ void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSumm
         // this object, which its caller holds.
         if (!isLast)
             QCoreApplication::processEvents();
-        if (m_stopsImport)
+        if (m_stopsImport) {
+            for (std::size_t place = summary.total; place < lines.size(); ++place)
+                m_importFailures.append(failureMap(
+                    lines[place], {LoginResult::NotDone, resultName(resultCode(LoginResult::NotDone))}));
+            summary.errcount += total - summary.total;
+            summary.total = total;
             return;
+        }
         sincePaint.start();
     }
 }

@@ -34,7 +34,7 @@ bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, c
     const auto write = [&](QJsonObject &row) {
         row.insert(key, QJsonValue::fromVariant(newValue));
     };
-    return (!mac.isEmpty() && store().changeRow(mac, write)) || store().changeRowAt(ipport, write);
+    return (!mac.isEmpty() && store().changeRowNamed(mac, write)) || store().changeRowAt(ipport, write);
 }
 
 QVariantMap CDeviceDH::getDeviceInfo(const QString &ipport)

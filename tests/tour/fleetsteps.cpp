@@ -68,10 +68,14 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
     driver.activate();
     driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
     driver.click(u"tab3"_s);
+    driver.await(u"the tree has devices"_s, [&] { return driver.require(u"allDevicesBox"_s)->isEnabled(); });
     driver.click(u"allDevicesBox"_s);
-    const QString selected = driver.text(u"selectedCount"_s);
-    const int devices = QRegularExpression(u"^\\d+"_s).match(selected).captured().toInt();
-    driver.check(devices > 150, u"the devices of the fleet are ticked: %1"_s.arg(devices));
+    int devices = 0;
+    driver.await(u"the devices of the fleet are ticked"_s, [&] {
+        const QString selected = driver.text(u"selectedCount"_s);
+        devices = QRegularExpression(u"^\\d+"_s).match(selected).captured().toInt();
+        return devices > 150;
+    });
 
     driver.click(u"systemTab4"_s);
     driver.fill(u"oldPasswordField"_s, u"Installer-2024"_s);

@@ -143,6 +143,8 @@ std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::
         for (int number = 0; number < listColumnCount; ++number) {
             const auto column = static_cast<ListColumn>(number);
             const QString &text = lines.at(place)[column];
+            if (lost.size() == maximumUnreadableTexts)
+                return lost;
             if (!text.isEmpty() && !comesBack(format, column, text))
                 lost.push_back(
                     {.line = place, .column = column, .character = lostCharacter(format, column, text)});

@@ -18,7 +18,9 @@ struct UnreadableText
     QString character; ///< the first that is lost or breaks the file; empty when the text is too long
 };
 
-/// The texts that would not come back from a file of that name. The lines are taken through the reader of the
+constexpr std::size_t maximumUnreadableTexts = 1000;
+
+/// The texts that would not come back from a file of that name, at most maximumUnreadableTexts. The lines are taken through the reader of the
 /// format, once as a whole, and one by one when the whole does not come back.
 [[nodiscard]] std::vector<UnreadableText> unreadableTexts(const QString &fileName,
                                                           const std::vector<DeviceListLine> &lines);

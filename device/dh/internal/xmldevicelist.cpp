@@ -41,6 +41,9 @@ bool isXmlCharacter(char32_t character)
 std::optional<qsizetype> strangeByte(QByteArrayView text)
 {
     constexpr qsizetype piece = 4096;
+    // A sequence that the end of the text cuts off is no error to the decoder.
+    if (!text.isEmpty() && (text.back() & 0x80) != 0 && !text.isValidUtf8())
+        return text.size();
     QStringDecoder decoder(QStringDecoder::Utf8);
     for (qsizetype start = 0; start < text.size(); start += piece) {
         const QString decoded =

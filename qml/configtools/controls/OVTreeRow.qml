@@ -46,6 +46,8 @@ Rectangle {
     Accessible.checkable: true
     Accessible.checked: tick === Qt.Checked
 
+    ListView.onPooled: pressedIdentity = ""  // a press whose release went elsewhere
+
     HoverHandler {
         id: pointer
     }

@@ -8,6 +8,7 @@ QtObject {
     required property var deviceFactory
     required property bool shown
     property bool outdated: true  // the page lacks what has changed since it read
+    property bool complete: false  // before, what the page reads with may not be set yet
     signal readingRequested
 
     /// The list has changed.
@@ -18,14 +19,17 @@ QtObject {
 
     /// Reads now, when the page is shown and lacks something.
     function read() {
-        if (!shown || !outdated)
+        if (!complete || !shown || !outdated)
             return;
         outdated = false;
         readingRequested();
     }
 
     onShownChanged: read()
-    Component.onCompleted: read()
+    Component.onCompleted: {
+        complete = true;
+        read();
+    }
 
     // The end of a search is told as a change, too.
     readonly property Connections reports: Connections {

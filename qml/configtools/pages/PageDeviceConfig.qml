@@ -78,8 +78,8 @@ FocusScope {
         target: page.deviceFactory
 
         function onSignalSetChannelNameFinished() {
-            const mac = page.deviceFactory.getDeviceInfo("dh", session.device).mac ?? "";
-            page.deviceFactory.refreshDevices("dh", [mac]);  // its row may show the name
+            const mac = page.deviceFactory.getDeviceInfo("dh", session.device).mac;
+            page.deviceFactory.refreshDevices("dh", [mac || session.device]);  // its row may show the name
         }
     }
 

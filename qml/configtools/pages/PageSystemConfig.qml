@@ -64,6 +64,8 @@ FocusScope {
     }
 
     function runOnTicked(command, title, dataOf) {
+        if (passwordTime.open)
+            passwordTime.close(SystemPasswordTime.OtherWork);
         run(command, title, Array.from(devices.checkedDevices), dataOf);  // a copy: the list itself follows the ticks
     }
 
@@ -72,6 +74,9 @@ FocusScope {
             askForNewPassword();
         else if (batch.command === "modifyPassword")
             takeChangedPasswords();
+        else if (batch.command === "resetSystem")
+            deviceFactory.refreshDevices("dh", batch.report.devicesWith(BatchReport.Succeeded).map(
+                ipport => deviceFactory.getDeviceInfo("dh", ipport).mac || ipport));
     }
 
     /// Runs a command that takes no data, once the user has said yes to `words`.
@@ -126,6 +131,8 @@ FocusScope {
             batch.giveUpWaiting(qsTr("修改密码"));
             if (ending === SystemPasswordTime.TimeOver)
                 page.said(qsTr("时间已到，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
+            else if (ending === SystemPasswordTime.OtherWork)
+                page.said(qsTr("已开始其他操作，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
         }
     }
 

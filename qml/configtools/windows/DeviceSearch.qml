@@ -45,15 +45,16 @@ QtObject {
     readonly property Connections works: Connections {
         target: root.busyState
 
+        // Later: the work that ends reads its rows once more.
         function onChanged() {
-            root.startNext();
+            Qt.callLater(root.startNext);
         }
     }
     readonly property Connections reports: Connections {
         target: root.deviceFactory
 
         function onSignalShowUpgradeFinishTip() {
-            root.startNext();
+            Qt.callLater(root.startNext);
         }
         function onSignalSearchCount(devCount) {
             root.count = devCount;

@@ -32,6 +32,7 @@ std::span<const std::uint8_t> InputQueue::next(const std::stop_token &stop)
 {
     std::unique_lock lock(m_mutex);
     m_waiting -= std::exchange(m_inUse, 0);
+    forgetArrivals();
     if (m_place == m_reading.size()) {
         m_reading.clear();
         m_place = 0;
@@ -59,10 +60,15 @@ bool InputQueue::hasNext() const
 std::int64_t InputQueue::arrival()
 {
     const std::lock_guard lock(m_mutex);
+    forgetArrivals();
+    return m_arrivals.empty() ? 0 : m_arrivals.front().time;
+}
+
+void InputQueue::forgetArrivals()
+{
     // The last one stays: what arrives later counts from its end.
     while (m_arrivals.size() > 1 && m_arrivals.front().end <= m_used)
         m_arrivals.pop_front();
-    return m_arrivals.empty() ? 0 : m_arrivals.front().time;
 }
 
 void InputQueue::hold(std::size_t count)

@@ -41,6 +41,8 @@ public:
     void hold(std::size_t count);
 
 private:
+    void forgetArrivals(); // with the lock held
+
     /// The bytes up to `end`, counted from the first one that was put in, arrived at `time`.
     struct Arrival
     {

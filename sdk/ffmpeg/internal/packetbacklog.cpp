@@ -13,6 +13,7 @@ void PacketBacklog::add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t
     m_bytes += m_pieces.back().bytes();
     if (!m_pieces.back().isKeyPicture())
         return;
+    m_waitedInVain = false;
     if (m_lastKeyArrival)
         m_keyInterval = arrival - *m_lastKeyArrival;
     m_lastKeyArrival = arrival;
@@ -31,15 +32,21 @@ PacketBacklog::Skip PacketBacklog::skip(std::int64_t now)
         const int pictures = dropBefore(std::prev(newestKey.base()));
         return {pictures, std::exchange(m_waitsForKey, false) || pictures > 0};
     }
+    if (m_waitsForKey && now - m_waitBegin > std::max(longestWait, 2 * m_keyInterval)) {
+        m_waitsForKey = false;
+        m_waitedInVain = true;
+        return {0, true};
+    }
     if (m_waitsForKey)
         return {dropPictures(), true};
     // A key picture is shown however late it is: where nothing is in time, the picture still moves on.
-    if (m_pieces.empty() || m_pieces.front().isKeyPicture())
+    if (m_pieces.empty() || m_pieces.front().isKeyPicture() || m_waitedInVain)
         return {};
     const std::int64_t late = delay(now);
     if (late <= longDelay || (late <= longestDelay && !isKeyPictureExpected(now)))
         return {};
     m_waitsForKey = true;
+    m_waitBegin = now;
     return {dropBefore(m_pieces.end()), true};
 }
 

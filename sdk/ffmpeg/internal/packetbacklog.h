@@ -26,8 +26,13 @@ public:
     static constexpr std::int64_t longDelay = 400;
     static constexpr std::int64_t shortWait = 700;
 
-    /// Beyond this, everything is left out up to the next key picture, whenever that comes.
+    /// Beyond this, everything is left out up to the next key picture.
     static constexpr std::int64_t longestDelay = 3000;
+
+    /// A key picture is not waited for longer than this, or than twice the time between the last two. A
+    /// stream may have none after its first: it is then shown late, and not skipped until a key picture
+    /// comes.
+    static constexpr std::int64_t longestWait = 5000;
 
     /// Takes a piece that arrived at `arrival`.
     void add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t arrival);
@@ -75,7 +80,9 @@ private:
 
     Pieces m_pieces;
     std::size_t m_bytes = 0;
-    bool m_waitsForKey = false; // pictures before the next key picture are left out
+    bool m_waitsForKey = false;   // pictures before the next key picture are left out
+    std::int64_t m_waitBegin = 0; // of the wait for a key picture
+    bool m_waitedInVain = false;  // no key picture has come since
     std::optional<std::int64_t> m_lastKeyArrival;
     std::int64_t m_keyInterval = 2000; // between the last two key pictures; until then what is usual
 };

@@ -143,7 +143,8 @@ void StreamDecoder::deliverPicture(const AVFrame &frame)
         return;
     if (m_liveClock) {
         const std::int64_t now = m_liveClock->now();
-        if (m_isHurried && !m_backlog.isEmpty() && now - m_delivery < hurriedPeriod) {
+        const std::int64_t pause = now - m_delivery; // negative after the clock was set back
+        if (m_isHurried && !m_backlog.isEmpty() && pause >= 0 && pause < hurriedPeriod) {
             m_observer.skipped(1);
             return;
         }

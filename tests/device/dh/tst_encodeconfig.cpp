@@ -179,6 +179,7 @@ private Q_SLOTS:
         m_site->set("curChannel", 16);
         m_site->set("curChannel", -1);
         m_site->set("curStreamType", 3);
+        QCOMPARE(read(), 0);
         for (const char *key : {"quality", "frameRate", "curBitStream", "curResolution", "curEncodeMode",
                                 "curSamplingFrequency", "bitstreamControl"})
             m_site->set(key, "nonsense");

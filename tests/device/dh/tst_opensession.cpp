@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->login(m_recorder), 0);
         const qint64 handle = m_site->get("loginHandle").toLongLong();
         m_site->site->setFault(m_recorder.mac, {.fault = Fault::RebootTakes, .number = 1, .text = {}});
-        QVERIFY(m_site->site->libraries().net->NetRebootDevice(handle, std::chrono::seconds(1)));
+        QVERIFY(m_site->net->NetRebootDevice(handle, std::chrono::seconds(1)));
         QVERIFY(QTest::qWaitFor([&] {
             open(ipportOf(m_recorder), "secret1", false);
             return m_opened->wait() && m_opened->last().at(1).toInt() == 0;

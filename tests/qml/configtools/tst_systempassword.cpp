@@ -141,8 +141,9 @@ private Q_SLOTS:
                     return;
                 QVERIFY(busy.refusal(BusyState::Search).contains(QStringLiteral("修改密码")));
                 if (event == "refuse")
-                    m_site->site->setFault("02:1a:c5:00:00:03",
-                                           {.fault = sdk::demo::Fault::RefusesPasswordChange});
+                    m_site->site->setFault(
+                        m_tree->index(2, 0, m_tree->index(0, 0)).data(OVTreeModel::IdentityRole).toString(),
+                        {.fault = sdk::demo::Fault::RefusesPasswordChange});
                 if (event == "leave" || event == "refuse")
                     leave();
                 else if (event == "stop")

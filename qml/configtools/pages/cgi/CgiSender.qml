@@ -21,13 +21,34 @@ Item {
 
     readonly property string prefix: "/cgi-bin/"
     readonly property int kept: 4000  // letters of an answer
-    readonly property var whole: ({})  // longer answers, by the identities of their devices
+    readonly property var whole: ({})  // longer answers, by the identities of their devices, the oldest first
+    readonly property int wholeLimit: 32000000  // letters of them together
+    property int wholeLength: 0
 
     /// The answer of a row, however long.
     function answerOf(row) {
         const values = deviceTable.get(row);
         const answer = whole[values.identity];
         return answer !== undefined && answer.startsWith(values.result) ? answer : values.result;
+    }
+
+    function forgetWhole(identity) {
+        wholeLength -= whole[identity]?.length ?? 0;
+        delete whole[identity];
+    }
+
+    /// A row is read often: it keeps the beginning of a long answer, and the whole one is kept here while there is room.
+    function keepWhole(identity, answer) {
+        forgetWhole(identity);
+        if (answer.length <= kept)
+            return;
+        for (const other of Object.keys(whole)) {
+            if (wholeLength + answer.length <= wholeLimit)
+                break;
+            forgetWhole(other);
+        }
+        whole[identity] = answer;
+        wholeLength += answer.length;
     }
 
     /// What is wrong with a command, "" for nothing.
@@ -56,8 +77,7 @@ Item {
             : cgiManager.singleCGIConfig(address, localConfig.getSearchConfigUsrename(),
                                          localConfig.getSearchConfigPass(), row.ipport);
         deviceFactory.updataDeviceInfo("dh", "url", command, row.identity, row.ipport);
-        // A row is read often: it keeps the beginning of a long answer.
-        whole[row.identity] = answer.length > kept ? answer : undefined;
+        keepWhole(row.identity, answer);
         deviceFactory.updataDeviceInfo("dh", "result", answer.slice(0, kept), row.identity, row.ipport);
         deviceTable.refreshDevice(row.identity);
         return answer;

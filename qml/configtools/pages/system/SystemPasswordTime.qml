@@ -17,7 +17,7 @@ QtObject {
     property bool endsLater: false
     signal ended
 
-    enum Ending { Regular, TimeOver, OtherTicks }
+    enum Ending { Regular, TimeOver, OtherTicks, OtherWork }
 
     function begin(waiting) {
         devices = waiting;
