@@ -57,7 +57,7 @@ QStringList BatchReport::devicesNotSucceeded() const
 
 QStringList BatchReport::giveUpWaiting()
 {
-    const QStringList devices = devicesWith(Waiting);
+    QStringList devices = devicesWith(Waiting);
     for (qsizetype place = 0; place < m_entries.size(); ++place) {
         if (m_entries.at(place).result == Waiting)
             setResult(place, NotDone);

@@ -66,7 +66,7 @@ QString addressAndPort(const sdk::SearchAnswer &answer)
 
 QString rowName(const QJsonObject &row)
 {
-    const QString mac = row.value(DeviceRowKey::mac).toString();
+    QString mac = row.value(DeviceRowKey::mac).toString();
     if (!mac.isEmpty())
         return mac;
     const QString ipport = row.value(DeviceRowKey::ipport).toString();

@@ -15,7 +15,7 @@
 namespace {
 
 /// Bytes of a large picture as a file.
-constexpr qsizetype pictureFileSize = 1024 * 1024;
+constexpr qsizetype pictureFileSize = qsizetype{1024} * 1024;
 
 /// Makes the folder. Returns why that failed, or an empty text.
 QString folderProblem(const QString &folder)
@@ -112,7 +112,7 @@ SnapThread::Outcome SnapThread::takeOne(const SnapTask &task, const SnapChannel 
 
 QString SnapThread::savePicture(const SnapTask &task, int channel, const QString &file)
 {
-    const QString failed = QCoreApplication::translate("SnapThread", "抓图失败");
+    QString failed = QCoreApplication::translate("SnapThread", "抓图失败");
     VideoItem view;
     view.setChannelId(channel);
     for (int attempt = 0; attempt < maximumTries && !m_stop.stop_requested(); ++attempt) {

@@ -101,7 +101,7 @@ void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
         EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
         if (isUpgradingAt(ipport)) {
             outcome.result = resultCode(LoginResult::Upgrading);
-        } else if (state && state->unreadItems().size() < 2 * itemsOfStream) {
+        } else if (state && state->unreadItems().size() < qsizetype{2} * itemsOfStream) {
             const Credentials known = credentialsOf(ipport);
             const SecureLogin login =
                 secureLogin(m_libraries.net.get(), ipport, known.account, known.password);

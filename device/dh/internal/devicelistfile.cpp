@@ -94,7 +94,7 @@ bool comesBack(ListFormat format, ListColumn column, const QString &text)
 QString lostCharacter(ListFormat format, ListColumn column, const QString &text)
 {
     for (const char32_t code : text.toUcs4()) {
-        const QString character = QString::fromUcs4(&code, 1);
+        QString character = QString::fromUcs4(&code, 1);
         if (!comesBack(format, column, QLatin1Char('0') + character + QLatin1Char('0')))
             return character;
     }

@@ -20,8 +20,8 @@ struct UnreadableText
 
 constexpr std::size_t maximumUnreadableTexts = 1000;
 
-/// The texts that would not come back from a file of that name, at most maximumUnreadableTexts. The lines are taken through the reader of the
-/// format, once as a whole, and one by one when the whole does not come back.
+/// The texts that would not come back from a file of that name, at most maximumUnreadableTexts. The lines are
+/// taken through the reader of the format, once as a whole, and one by one when the whole does not come back.
 [[nodiscard]] std::vector<UnreadableText> unreadableTexts(const QString &fileName,
                                                           const std::vector<DeviceListLine> &lines);
 

@@ -66,7 +66,7 @@ QString faultOf(const DeviceListLine &line)
     if (line.hasTooManyFields)
         return QCoreApplication::translate("DeviceList", "字段比表头多");
     for (const QString &value : line.values) {
-        if (const QString fault = faultOfText(value); !fault.isEmpty())
+        if (QString fault = faultOfText(value); !fault.isEmpty())
             return fault;
     }
     const QString &mode = line[ListColumn::AddMode];

@@ -14,7 +14,7 @@ QtObject {
     /// The list has changed.
     function note() {
         outdated = true;
-        Qt.callLater(read);
+        turn.start();
     }
 
     /// Reads now, when the page is shown and lacks something.
@@ -29,6 +29,11 @@ QtObject {
     Component.onCompleted: {
         complete = true;
         read();
+    }
+
+    readonly property Timer turn: Timer {
+        interval: 0
+        onTriggered: root.read()
     }
 
     // The end of a search is told as a change, too.

@@ -75,7 +75,7 @@ FocusScope {
         else if (batch.command === "modifyPassword")
             takeChangedPasswords();
         else if (batch.command === "resetSystem")
-            deviceFactory.refreshDevices("dh", batch.report.devicesWith(BatchReport.Succeeded).map(
+            deviceFactory.refreshDevices("dh", Array.from(batch.report.devicesWith(BatchReport.Succeeded)).map(
                 ipport => deviceFactory.getDeviceInfo("dh", ipport).mac || ipport));
     }
 

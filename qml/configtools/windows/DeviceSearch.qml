@@ -42,19 +42,23 @@ QtObject {
         start(settings);
     }
 
+    readonly property Timer later: Timer {
+        interval: 0
+        onTriggered: root.startNext()
+    }
     readonly property Connections works: Connections {
         target: root.busyState
 
         // Later: the work that ends reads its rows once more.
         function onChanged() {
-            Qt.callLater(root.startNext);
+            root.later.start();
         }
     }
     readonly property Connections reports: Connections {
         target: root.deviceFactory
 
         function onSignalShowUpgradeFinishTip() {
-            Qt.callLater(root.startNext);
+            root.later.start();
         }
         function onSignalSearchCount(devCount) {
             root.count = devCount;

@@ -19,7 +19,7 @@ OVDialog {
         plan.markedCount;  // read so that this follows the plan
         if (batch || dhcp)
             return "";  // the preview has the marks of a batch
-        switch (plan.get(0).mark) {
+        switch (Object.assign({}, plan.get(0)).mark) {
         case AddressPlan.NotInitialised:
             return qsTr("设备未初始化，不会修改");
         case AddressPlan.TakenByOther:

@@ -58,7 +58,7 @@ bool PacketBacklog::isKeyPictureExpected(std::int64_t now) const
     return std::abs(wait) <= shortWait; // one that is overdue for longer may not come soon either
 }
 
-int PacketBacklog::dropBefore(Pieces::iterator end)
+int PacketBacklog::dropBefore(const Pieces::iterator &end)
 {
     const auto pictures =
         std::count_if(m_pieces.begin(), end, [](const Piece &piece) { return piece.isPicture; });

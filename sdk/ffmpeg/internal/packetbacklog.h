@@ -75,7 +75,7 @@ private:
     [[nodiscard]] bool isKeyPictureExpected(std::int64_t now) const;
 
     // They return how many pictures were left out.
-    int dropBefore(Pieces::iterator end);
+    int dropBefore(const Pieces::iterator &end);
     int dropPictures();
 
     Pieces m_pieces;

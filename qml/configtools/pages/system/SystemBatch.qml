@@ -43,7 +43,8 @@ QtObject {
         const given = report.giveUpWaiting();
         if (given.length > 0)
             root.title = title;
-        given.forEach(ipport => resulted(ipport, BatchReport.NotDone));
+        for (const ipport of given)
+            resulted(ipport, BatchReport.NotDone);
     }
 
     function step() {
