@@ -86,10 +86,11 @@ CDeviceFactory::CDeviceFactory(const BackEndCreators &creators, const P2PAgent &
 {
     for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
         const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
-        // First: who hears of these signals from the factory finds the ports released.
-        for (const auto signal :
-             {&CDeviceBase::signalCDeviceAddDeviceToTable, &CDeviceBase::signalCDeviceSearchDone})
-            connect(backEnd.get(), signal, this, &CDeviceFactory::releaseUnneededP2PPorts);
+        // Before the relay: a receiver of the factory's signals finds the ports released.
+        connect(backEnd.get(), &CDeviceBase::signalCDeviceAddDeviceToTable, this,
+                &CDeviceFactory::releaseUnneededP2PPorts);
+        connect(backEnd.get(), &CDeviceBase::signalCDeviceSearchDone, this,
+                &CDeviceFactory::releaseUnneededP2PPorts);
         connect(backEnd.get(), &CDeviceBase::signalCDeviceHighLevelLoginRet, this,
                 &CDeviceFactory::releaseUnneededP2PPorts);
         relaySignals(*backEnd);

@@ -66,8 +66,9 @@ void DeviceRowList::addAddress(const QJsonObject &row, qsizetype place)
 
 void DeviceRowList::removeAddress(const QJsonObject &row, qsizetype place)
 {
-    const auto places = m_placesByAddress.find(row.value(DeviceRowKey::ipport).toString());
-    places->erase(std::lower_bound(places->cbegin(), places->cend(), place));
-    if (places->isEmpty())
-        m_placesByAddress.erase(places);
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
+    QList<qsizetype> &places = m_placesByAddress[ipport];
+    places.erase(std::lower_bound(places.cbegin(), places.cend(), place));
+    if (places.isEmpty())
+        m_placesByAddress.remove(ipport);
 }

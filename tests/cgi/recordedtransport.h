@@ -12,9 +12,9 @@ public:
     std::function<QByteArray(const QByteArray &url)> answer = [](const QByteArray &) {
         return QByteArray("OK");
     };
-    QStringList urls;        ///< of the commands, in their order
-    QStringList credentials; ///< of each of them
-    QStringList limits;      ///< of each exchange: milliseconds, least bytes a second, seconds below that
+    QStringList urls;           ///< of the commands, in their order
+    QStringList credentials;    ///< of each of them
+    QStringList exchangeLimits; ///< of each exchange: milliseconds, least bytes a second, seconds below that
     QByteArray headers = "Content-Type: text/plain\r\n";
 
     void setProxy(const QString &) override {}
@@ -38,10 +38,10 @@ private:
         void useBasic() override {}
         HttpOutcome perform(const HttpLimits &limits, const BodySink &sink, const ExchangeWatch &) override
         {
-            m_transport.limits.append(QStringLiteral("%1 %2 %3")
-                                          .arg(limits.total.count())
-                                          .arg(limits.slowestRate)
-                                          .arg(limits.slowTime.count()));
+            m_transport.exchangeLimits.append(QStringLiteral("%1 %2 %3")
+                                                  .arg(limits.total.count())
+                                                  .arg(limits.slowestRate)
+                                                  .arg(limits.slowTime.count()));
             HttpOutcome outcome;
             outcome.status = 200;
             if (sink && !sink(m_body))

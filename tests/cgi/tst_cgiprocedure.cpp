@@ -326,7 +326,7 @@ private Q_SLOTS:
             return QByteArray(size, 'x');
         };
         QVERIFY(!run("http://127.0.0.1/a").startsWith("Error:"));
-        QCOMPARE(transport->limits, QStringList({"3000 0 0", second}));
+        QCOMPARE(transport->exchangeLimits, QStringList({"3000 0 0", second}));
         ++size;
         QCOMPARE(run("http://127.0.0.1/a").startsWith("Error:"), largest > 0);
     }

@@ -66,7 +66,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("file"); // null: there is none
         QTest::addColumn<QString>("started");
-        QTest::addColumn<QString>("fault"); // the setting that the user is told of
+        QTest::addColumn<QString>("fault"); // the setting that is reported
         QTest::newRow("no file")
             << QByteArray()
             << "init tunnel.kelda.example 7885 relay.kelda.example 443 tamsvelorink kelda "

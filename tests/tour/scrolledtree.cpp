@@ -18,8 +18,8 @@ QQuickItem *ScrolledTree::lowest(bool isGroup) const
 {
     QQuickItem *row = nullptr;
     for (qreal y = m_tree->height() - 2; y > 0 && !row; y -= 4) {
-        QMetaObject::invokeMethod(m_tree, "itemAt", Q_RETURN_ARG(QQuickItem *, row), Q_ARG(qreal, 1),
-                                  Q_ARG(qreal, m_tree->property("contentY").toReal() + y));
+        QMetaObject::invokeMethod(m_tree, "itemAt", QReturnArgument<QQuickItem *>("QQuickItem*", row),
+                                  Q_ARG(qreal, 1), Q_ARG(qreal, m_tree->property("contentY").toReal() + y));
         if (row && row->property("isGroup").toBool() != isGroup)
             row = nullptr;
     }

@@ -36,7 +36,7 @@ QtObject {
         onTriggered: root.read()
     }
 
-    // The end of a search is told as a change, too.
+    // The end of a search is reported as a change, too.
     readonly property Connections reports: Connections {
         target: root.deviceFactory
 

@@ -15,7 +15,7 @@ Item {
     property string runningText
     signal said(string message, int kind)
 
-    /// Whether devices may be changed now; otherwise the user is told which work is in the way.
+    /// Whether devices may be changed now; otherwise a notice names the running work.
     function mayBegin() {
         const refusal = busyState.refusal(BusyState.ChangeAddress);
         if (refusal !== "")

@@ -5,6 +5,7 @@ import configtools
 Item {
     id: root
 
+    required property BusyState busyState
     required property var deviceFactory
     required property var fileDialogs
     required property var deviceTable  // a DeviceTableModel
@@ -64,6 +65,12 @@ Item {
     function startImport() {
         fileDialogs.chooseFile(qsTr("打开excel文件"),
                                ["Excel Files (*.xlsx)", "CSV Files (*.csv)", "XML Files (*.xml)"], path => {
+            // An imported device takes the place of its row, with another account and address.
+            const refusal = busyState.refusal(BusyState.ChangeAddress);
+            if (refusal !== "") {
+                said(refusal, OVToast.Error);
+                return;
+            }
             importing = true;
             done = total = 0;
             hold.open();

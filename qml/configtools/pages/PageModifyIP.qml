@@ -74,6 +74,7 @@ FocusScope {
 
     ModifyIPFiles {
         id: files
+        busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
         fileDialogs: page.fileDialogs

@@ -107,6 +107,11 @@ private Q_SLOTS:
         QVERIFY(!first.isNull());
         QVERIFY(first != QImage(pathOf("rec", 2))); // each channel has a picture of its own
         QVERIFY(!QFile::exists(pathOf("rec", 1)));
+
+        // A quality of 50 quantises as the example table of the standard (ITU-T T.81, K.1) says.
+        QFile file(pathOf("rec", 0));
+        QVERIFY(file.open(QFile::ReadOnly));
+        QVERIFY(file.readAll().contains(QByteArray::fromHex("ffdb004300100b0c0e0c0a100e0d0e1211101318")));
     }
 
     void aChannelIsTakenAgainIntoTheSameFile()
