@@ -7,6 +7,7 @@
 #include "sheets/qexcel.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
+#include "tests/files/filesizelimit.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -16,10 +17,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-
-#include <csignal>
-
-#include <sys/resource.h>
 
 using namespace std::chrono_literals;
 
@@ -38,30 +35,6 @@ const QByteArray headers =
 const QByteArray cameraLine =
     "Encoder,IPC,General,IpAddress,东门,192.168.1.10,37777,,127.0.0.1,admin,secret1,"
     "B-2230-IR,02:1a:c5:00:00:01,S1,2.840.1,255.255.255.0,192.168.1.1,INITIALIZED,\n";
-
-/// While it is there, no file of this process grows beyond `size` bytes: as on a disk that is full then, a
-/// write stores a part of its bytes and the next one fails.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(rlim_t size)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit small = {.rlim_cur = size, .rlim_max = m_limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    SmallDisk(const SmallDisk &) = delete;
-    SmallDisk &operator=(const SmallDisk &) = delete;
-
-private:
-    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
-    rlimit m_limit{};
-};
 
 } // namespace
 
@@ -280,7 +253,7 @@ private Q_SLOTS:
         QVERIFY(!write(name, "as it was").isEmpty());
         bool isWritten = true;
         {
-            const SmallDisk disk(200);
+            const FileSizeLimit limit(200);
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot (begin|write).*"));
             isWritten = exported({camera}, name);
         }

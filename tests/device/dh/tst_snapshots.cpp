@@ -6,6 +6,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "tests/device/dh/scenedevices.h"
+#include "tests/files/filesizelimit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -15,8 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-#include <sys/resource.h>
+#include <optional>
 
 namespace {
 
@@ -179,15 +179,11 @@ private Q_SLOTS:
         QFile file(isFull ? "snap/rec/0.jpg" : "snap/rec");
         QVERIFY(file.open(QFile::WriteOnly) && file.write("kept") > 0);
         file.close();
-        // As on a full disk: no file may have more than 100 bytes.
-        const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-        const rlimit small{isFull ? 100 : limit.rlim_cur, limit.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        std::optional<FileSizeLimit> limit;
+        if (isFull)
+            limit.emplace(100);
         const QList<Capture> captures = take("liveCapture", 0, "rec", 3);
-        setrlimit(RLIMIT_FSIZE, &limit);
-        std::signal(SIGXFSZ, oldHandler);
+        limit.reset();
         const QString reason = isFull ? "File too large" : "Not a directory";
         const Capture failed = {0, {}, QStringLiteral("抓图失败，图片无法写入：") + reason};
         QCOMPARE(captures.value(0), failed);

@@ -1,5 +1,6 @@
 // Pictures as files.
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "tests/files/filesizelimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,9 +8,6 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace sdk;
 using namespace sdk::ffmpeg;
@@ -164,16 +162,12 @@ void SavedFrameTest::replacesWholeOrNotAtAll()
     const QByteArray written = contents(path);
     QCOMPARE(QImage::fromData(written).size(), QSize(640, 360));
 
-    // As on a full disk: no file may have more than 100 bytes.
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlimit small{100, limit.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
-    const bool saved = save(first, 64, 36, path);
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, oldHandler);
+    bool saved = true;
+    {
+        const FileSizeLimit limit(100);
+        saved = save(first, 64, 36, path);
+    }
     QVERIFY(!saved);
     QCOMPARE(contents(path), written);
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("0.jpg")});
