@@ -72,7 +72,7 @@ void AudioOutput::look()
         close();
         m_output.clear();
     }
-    if (!m_lastLook.isValid() || !m_lastLook.hasExpired(lookInterval))
+    if (m_isClosing || !m_lastLook.isValid() || !m_lastLook.hasExpired(lookInterval))
         return;
     m_lastLook.start();
     if (QMediaDevices::defaultAudioOutput().id() != m_output)
@@ -85,7 +85,7 @@ void AudioOutput::reopen()
         const QMutexLocker lock(&m_mutex);
         m_fill = 0;
     }
-    if (!m_devices)
+    if (!m_devices || m_isClosing)
         return;
     QAudioFormat format;
     format.setSampleFormat(QAudioFormat::Int16);
@@ -121,8 +121,12 @@ void AudioOutput::close()
 {
     if (!m_sink)
         return;
-    m_sink->stop();
-    m_sink.reset();
+    // The sink's destructor runs an event loop, in which sound arrives and outputs change.
+    m_isClosing = true;
     m_device = nullptr;
+    std::unique_ptr<QAudioSink> sink = std::move(m_sink);
+    sink->stop();
+    sink.reset();
+    m_isClosing = false;
     lastClosed.start();
 }

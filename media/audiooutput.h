@@ -69,6 +69,7 @@ private:
     std::atomic<std::int32_t> m_sampleRate = 0;
     std::unique_ptr<QAudioSink> m_sink;
     QIODevice *m_device = nullptr; ///< the sink's
+    bool m_isClosing = false;      ///< nothing is opened then; look() finds a changed output later
     QByteArray m_output;           ///< identity of the output that was opened last; empty for none
     QElapsedTimer m_lastLook;
 };

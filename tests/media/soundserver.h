@@ -1,7 +1,6 @@
 // A sound server whose one output a test listens to.
 #pragma once
 
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -31,7 +30,8 @@ public:
                         "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-level=error",
                         "--load=module-null-sink " + sink,
                         "--load=module-native-protocol-unix socket=" + socket + " auth-anonymous=1"});
-        return m_server.waitForStarted() && QTest::qWaitFor([&] { return QFile::exists(socket); }, 10000);
+        // The socket's file is there before the server accepts connections. The toolkit connects only once.
+        return m_server.waitForStarted() && QTest::qWaitFor([&] { return control({"info"}); }, 10000);
     }
 
     /// Takes the output away or brings it back.
@@ -56,7 +56,14 @@ public:
     }
 
 private:
-    static bool control(const QStringList &arguments) { return QProcess::execute("pactl", arguments) == 0; }
+    static bool control(const QStringList &arguments)
+    {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start("pactl", arguments);
+        return process.waitForFinished(10000) && process.exitStatus() == QProcess::NormalExit &&
+               process.exitCode() == 0;
+    }
 
     static void end(QProcess &process)
     {

@@ -93,6 +93,7 @@ private Q_SLOTS:
 
     void init()
     {
+        cleanup(); // it does not run when this function fails
         m_fake = std::make_unique<FakeLibraries>();
         VideoItem::registerLibraries(m_fake->libraries());
         m_item = std::make_unique<VideoItem>();
