@@ -2,6 +2,7 @@
 #include "sdk/demo/fault.h"
 #include "sdk/encodeblocks.h"
 #include "tests/tour/driver.h"
+#include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
 
@@ -24,16 +25,6 @@ const QString last = u"192.168.1.104:8800"_s;
 const QString recorder = u"192.168.1.120:8800"_s;
 const QString twoLamps = u"192.168.1.103:8800"_s;
 const QString password = u"Office-2024"_s;
-
-QString macOf(const sdk::demo::DemoSite &site, const QString &ipport)
-{
-    QString mac;
-    site.visitDevices([&](const sdk::demo::SceneDevice &device) {
-        if (u"%1:%2"_s.arg(device.address).arg(device.port) == ipport)
-            mac = device.mac;
-    });
-    return mac;
-}
 
 int numberOf(const Driver &driver, const QString &slider)
 {

@@ -109,6 +109,10 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
 {
     QQuickItem *item = require(name);
     atRest();
+    await(QStringLiteral("\"%1\" takes clicks").arg(name), [&] {
+        const QQuickItem *hold = find(QStringLiteral("inputHold"));
+        return !hold || hold->property("stopper").value<QQuickItem *>() == item;
+    });
     QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(item));
 }
 

@@ -23,7 +23,7 @@ void walkLists(Driver &driver, const QString &folder);
 /// Adding devices by hand and from favourites.
 void walkAdding(Driver &driver);
 /// The maintenance of three devices, one of which is away for a while.
-void walkSystem(Driver &driver);
+void walkSystem(Driver &driver, sdk::demo::DemoSite &site);
 /// Encode and image settings of single devices, and copying them to others, of which one can do less.
 void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site);
 /// The names of a recorder's channels, and the panel with everything that is known of a device, which is

@@ -1,4 +1,7 @@
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/fault.h"
 #include "tests/tour/driver.h"
+#include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
 
@@ -114,7 +117,7 @@ void walkZone(Driver &driver)
     apply(driver, QStringLiteral("ntpApplyButton"), {0, 0, 0});
 }
 
-void walkReboot(Driver &driver)
+void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
 {
     driver.click(QStringLiteral("systemTab2"));
     driver.click(QStringLiteral("autoRebootBox"));
@@ -131,10 +134,13 @@ void walkReboot(Driver &driver)
     driver.click(QStringLiteral("rebootButton"));
     apply(driver, QStringLiteral("okButton"), {0, noResult, noResult});
 
-    // The first is away now.
+    // The first is away now, and stays so for as long as this takes.
+    const QString mac = macOf(site, first);
+    site.setFault(mac, {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}});
     tick(driver, second);
     tick(driver, third);
     apply(driver, QStringLiteral("autoMaintainButton"), {unreachable, 0, 0});
+    site.clearFault(mac, sdk::demo::Fault::NoAnswer);
     driver.report(QStringLiteral("system-unreachable"), driver.text(QStringLiteral("footWarning")));
     tick(driver, first);
 }
@@ -209,11 +215,11 @@ void walkTree(Driver &driver)
 
 } // namespace
 
-void walkSystem(Driver &driver)
+void walkSystem(Driver &driver, sdk::demo::DemoSite &site)
 {
     walkTime(driver);
     walkZone(driver);
-    walkReboot(driver);
+    walkReboot(driver, site);
     walkPassword(driver);
     walkVideoAndReset(driver);
     walkTree(driver);

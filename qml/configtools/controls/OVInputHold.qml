@@ -34,6 +34,8 @@ T.Popup {
 
     contentItem: MouseArea {
         id: sheet
+        objectName: "inputHold"
+        readonly property Item stopper: root.stopper
         readonly property point pointer: Qt.point(mouseX, mouseY)
         readonly property bool overStopper: containsMouse && root.stopper !== null && root.stopper.visible
             && root.stopper.contains(sheet.mapToItem(root.stopper, pointer))

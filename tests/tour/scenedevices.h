@@ -1,0 +1,17 @@
+// The devices of the simulated site, as the steps name them.
+#pragma once
+
+#include "sdk/demo/demosite.h"
+
+#include <QString>
+
+/// MAC of the device that has this address and port ("192.168.1.101:8800"); empty when there is none.
+inline QString macOf(const sdk::demo::DemoSite &site, const QString &ipport)
+{
+    QString mac;
+    site.visitDevices([&](const sdk::demo::SceneDevice &device) {
+        if (QStringLiteral("%1:%2").arg(device.address).arg(device.port) == ipport)
+            mac = device.mac;
+    });
+    return mac;
+}
