@@ -5,8 +5,6 @@
 #include "app/timezonetext.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/devicefactory.h"
-#include "media/videoitem.h"
-#include "qml/configtools/datetimevalidator.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
@@ -14,9 +12,6 @@
 
 void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
 {
-    qmlRegisterType<DateTimeValidator>("DateTimeValidator", 1, 0, "DateTimeValidator");
-    qmlRegisterType<VideoItem>("VideoItem", 1, 0, "VideoItem");
-
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());

@@ -29,6 +29,8 @@
 #include <utility>
 
 Q_IMPORT_QML_PLUGIN(AuthorPlugin)
+Q_IMPORT_QML_PLUGIN(DateTimeValidatorPlugin)
+Q_IMPORT_QML_PLUGIN(VideoItemPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {

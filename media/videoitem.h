@@ -14,6 +14,7 @@
 #include <QString>
 #include <QTimer>
 #include <QVariantMap>
+#include <QtQml/qqmlregistration.h>
 
 #include <atomic>
 #include <cstdint>
@@ -30,6 +31,7 @@ class CDHDecoder;
 class VideoItem : public QQuickFramebufferObject, public VideoDataObserver
 {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(bool isAudioOutput READ isAudioOutput WRITE setIsAudioOutput NOTIFY isAudioOutputChanged)
     Q_PROPERTY(qint64 loginHandle READ loginHandle NOTIFY isLoginHandleChanged)
     Q_PROPERTY(FillModeType fillMode READ fillMode WRITE setFillMode NOTIFY fillModeChanged)

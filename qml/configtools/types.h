@@ -19,7 +19,6 @@
 #include "device/treerows.h"
 #include "device/upgradetools.h"
 #include "favourites/favouritelistmodel.h"
-#include "media/videoitem.h"
 
 #include <QtQml/qqml.h>
 
@@ -159,11 +158,4 @@ struct EncodeFormForeign
     Q_GADGET
     QML_FOREIGN(EncodeForm)
     QML_NAMED_ELEMENT(EncodeForm)
-};
-
-struct VideoItemForeign
-{
-    Q_GADGET
-    QML_FOREIGN(VideoItem)
-    QML_NAMED_ELEMENT(VideoItem)
 };

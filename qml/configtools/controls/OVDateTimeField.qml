@@ -1,5 +1,6 @@
 // A field for a date and time, or for a time alone, which says when its text is none.
 import QtQuick
+import DateTimeValidator 1.0
 import configtools
 
 OVTextField {

@@ -1,6 +1,7 @@
 // What a live stream is like: its size and codec, its pictures a second, its bit rate, the data that waits, and the
 // pictures that were left out because the computer could not keep up.
 import QtQuick
+import VideoItem 1.0
 import configtools
 
 Rectangle {

@@ -1,6 +1,7 @@
 // One channel's live picture with what is to be said about it. A stream that fails or breaks is tried again, after
 // pauses that grow.
 import QtQuick
+import VideoItem 1.0
 import configtools
 
 FocusScope {

@@ -12,6 +12,8 @@
 #include <memory>
 
 Q_IMPORT_QML_PLUGIN(AuthorPlugin)
+Q_IMPORT_QML_PLUGIN(DateTimeValidatorPlugin)
+Q_IMPORT_QML_PLUGIN(VideoItemPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 /// Opens the window that `source` describes, drawn without OpenGL. The scene reads `objects`, which are not

@@ -1,4 +1,4 @@
-#include "qml/configtools/datetimevalidator.h"
+#include "qml/datetimevalidator/datetimevalidator.h"
 
 #include <QTest>
 
