@@ -26,6 +26,7 @@ const QString startIpKey = QStringLiteral("/searchConfig/startIP");
 const QString endIpKey = QStringLiteral("/searchConfig/endIP");
 const QString usernameKey = QStringLiteral("/searchConfig/username");
 const QString passKey = QStringLiteral("/searchConfig/pass");
+const QString devicesAtOnceKey = QStringLiteral("/batchConfig/atOnce");
 const QString upgradesAtOnceKey = QStringLiteral("/upgradeConfig/atOnce");
 
 const QString lockKey = QStringLiteral("OrvoConfigTools");
@@ -163,6 +164,14 @@ int CLocalConfig::getSearchConfigOtherDomain() const
 void CLocalConfig::setSearchConfigOtherDomain(int check)
 {
     setValue(otherDomainKey, QString::number(check));
+}
+
+int CLocalConfig::devicesAtOnce() const
+{
+    constexpr int usual = 8;
+    constexpr int most = 32;
+    const int wanted = number(devicesAtOnceKey);
+    return wanted >= 1 && wanted <= most ? wanted : usual;
 }
 
 int CLocalConfig::upgradesAtOnce() const

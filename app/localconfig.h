@@ -58,6 +58,10 @@ public:
     Q_INVOKABLE [[nodiscard]] QVariantList getRemoveLanguageList() const;
     Q_INVOKABLE [[nodiscard]] QPoint cursorPos() const;
 
+    /// How many devices a batch works on at the same time: 1 to 32, and 8 when the file says nothing else, or
+    /// nothing that makes sense.
+    [[nodiscard]] int devicesAtOnce() const;
+
     /// How many devices may be upgraded at the same time: 1 to 16, and 4 when the file says nothing else, or
     /// something that is no such number. Nobody but the user writes it.
     [[nodiscard]] int upgradesAtOnce() const;

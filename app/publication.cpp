@@ -4,17 +4,22 @@
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
 #include "cgi/cgiconfigmanage.h"
+#include "device/batch/batches.h"
 #include "device/devicefactory.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 
-void publishToScene(QQmlApplicationEngine &engine, bool deviceLibraryInstalled)
+void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, bool deviceLibraryInstalled)
 {
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
+    context->setContextProperty(QStringLiteral("BatchesApi"),
+                                new Batches(
+                                    *CDeviceFactory::getinstance(), batchEngine,
+                                    [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine));
     context->setContextProperty(QStringLiteral("BusyStateApi"), CDeviceFactory::getinstance()->busyState());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());

@@ -7,6 +7,7 @@
 #include "app/publication.h"
 #include "app/translationfile.h"
 #include "cgi/cgiconfigmanage.h"
+#include "device/batch/batchengine.h"
 #include "device/devicefactory.h"
 #include "device/devicehik.h"
 #include "device/deviceol.h"
@@ -128,14 +129,16 @@ bool Shell::chooseLibraries()
 void Shell::registerBackEnds()
 {
     const auto store = std::make_shared<DeviceStore>(m_libraries.clock);
-    CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [store, libraries = m_libraries] {
-        const auto searchSettings = [] {
-            return SearchSettings{.localDomain =
-                                      CLocalConfig::getinstance()->getSearchConfigLocalDomain() != 0};
-        };
-        const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
-        return std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits);
-    });
+    m_batchEngine = std::make_shared<BatchEngine>(m_libraries.clock);
+    CDeviceFactory::registerBackEnd(
+        QStringLiteral("dh"), [store, libraries = m_libraries, engine = m_batchEngine] {
+            const auto searchSettings = [] {
+                return SearchSettings{.localDomain =
+                                          CLocalConfig::getinstance()->getSearchConfigLocalDomain() != 0};
+            };
+            const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
+            return std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits, engine);
+        });
     CDeviceFactory::registerP2PAgent({.library = m_libraries.p2pAgent, .handler = &CDeviceDH::agentMessage});
     CDeviceFactory::registerBackEnd(QStringLiteral("hik"),
                                     [store] { return std::make_shared<CDeviceHik>(store); });
@@ -148,7 +151,7 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, m_libraries.net != nullptr);
+    publishToScene(*m_engine, *m_batchEngine, m_libraries.net != nullptr);
     m_engine->load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml")));
     if (auto *window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0))) {
         const auto noteFirst = [] {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+class BatchEngine;
 class QQmlApplicationEngine;
 
 /// Start-up and clean-up around the event loop, given an application object. Everything on the main thread.
@@ -49,5 +50,6 @@ private:
     QTranslator m_fallbackTranslator; ///< English, for texts that the chosen language lacks
     QTranslator m_mainTranslator;
     sdk::SdkLibraries m_libraries;
+    std::shared_ptr<BatchEngine> m_batchEngine;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };

@@ -3,6 +3,7 @@
 #include "app/localconfig.h"
 #include "app/publication.h"
 #include "cgi/cgiconfigmanage.h"
+#include "device/batch/batchengine.h"
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
@@ -94,9 +95,10 @@ QList<Figure> measureFlood()
     qint64 longestTurn = 0;
     {
         QQuickStyle::setStyle(QStringLiteral("Basic"));
+        BatchEngine batchEngine(libraries.clock);
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        publishToScene(engine, true);
+        publishToScene(engine, batchEngine, true);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
         QTest::qWait(500);                                                     // the first picture

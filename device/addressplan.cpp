@@ -148,6 +148,22 @@ QString AddressPlan::addressOf(int row) const
     return m_planned && row >= 0 && row < rowCount() ? ipv4Text(m_rows.at(row).address) : QString();
 }
 
+QStringList AddressPlan::identities() const
+{
+    QStringList identities;
+    for (const Row &row : m_rows)
+        identities.append(identityOf(row.values));
+    return identities;
+}
+
+QStringList AddressPlan::addresses() const
+{
+    QStringList addresses;
+    for (int row = 0; row < rowCount(); ++row)
+        addresses.append(addressOf(row));
+    return addresses;
+}
+
 QString AddressPlan::otherDeviceAt(int row) const
 {
     return m_planned && row >= 0 && row < rowCount() ? m_taken.value(m_rows.at(row).address) : QString();

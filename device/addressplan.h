@@ -70,6 +70,10 @@ public:
     /// What the device in this place gets; empty when there is no such place or no start address.
     Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
 
+    /// Names of the rows of the devices, and what each gets (see addressOf()), in their order.
+    Q_INVOKABLE [[nodiscard]] QStringList identities() const;
+    Q_INVOKABLE [[nodiscard]] QStringList addresses() const;
+
     /// The device that has the address of this place, as the user knows it: model and MAC, or its address and
     /// port when it reports neither. Empty when no other device has it.
     Q_INVOKABLE [[nodiscard]] QString otherDeviceAt(int row) const;

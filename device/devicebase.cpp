@@ -186,3 +186,40 @@ QString CDeviceBase::importError()
 {
     return {};
 }
+
+namespace {
+
+DeviceStep unsupportedStep()
+{
+    return [](const StepControl &) {
+        return StepOutcome{.result = resultCode(LoginResult::NotSupported), .text = {}};
+    };
+}
+
+} // namespace
+
+DeviceStep CDeviceBase::systemStep(const QString &, const QVariantMap &, const QString &)
+{
+    return unsupportedStep();
+}
+
+DeviceStep CDeviceBase::initialisationStep(const QString &, const QString &, const QString &)
+{
+    return unsupportedStep();
+}
+
+DeviceStep CDeviceBase::addressStep(const QString &, const QString &, const QString &, const QString &, bool)
+{
+    return unsupportedStep();
+}
+
+DeviceStep CDeviceBase::copyStep(const QString &)
+{
+    return unsupportedStep();
+}
+
+DeviceStep CDeviceBase::loginStep(const QString &, const QString &, const QString &, const QString &, int,
+                                  const QString &)
+{
+    return unsupportedStep();
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/devicestep.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -19,8 +21,9 @@ struct ImportSummary
 /// The back end of one family of devices, speaking to them through its own library. The factory picks one by
 /// family name, forwards each operation of the scene to it and relays its signals.
 ///
-/// Operations are called on the scene's thread; signals may come from any. An operation that a family does
-/// not override does nothing and returns an empty value. The row lists are shared by all back ends.
+/// Operations are called on the scene's thread, unless they say otherwise; signals may come from any. An
+/// operation that a family does not override does nothing and returns an empty value. The row lists are
+/// shared by all back ends.
 class CDeviceBase : public QObject
 {
     Q_OBJECT
@@ -135,6 +138,25 @@ public:
     /// Queries the devices of these IPv4 rows again, after work that changed what the rows show. Returns at
     /// once; signalCDeviceAddSingleDeviceToTable tells of rows that have changed.
     virtual void refreshDevices(const QStringList &macs);
+
+    // The work that an operation does with one device, to be run on any other thread: the operation itself
+    // does the same on the caller's thread. A step may be run until the back end ends. Of a family that does
+    // not have the operation it is one that does nothing and ends with LoginResult::NotSupported.
+
+    /// Of systemConfig(). With "timeOfRequest" in `data`, "time" is that of the device's own request.
+    virtual DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport);
+    /// Of setInitAccount().
+    virtual DeviceStep initialisationStep(const QString &mac, const QString &account,
+                                          const QString &password);
+    /// Of modifyIP().
+    virtual DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
+                                   const QString &newgateway, bool dhcpON);
+    /// Of copyConfigToDevice(). What is copied is what the current session has read when the step is made.
+    /// The text of the outcome names what the device has skipped.
+    virtual DeviceStep copyStep(const QString &ipport);
+    /// Of getLoginDevice().
+    virtual DeviceStep loginStep(const QString &address, const QString &account, const QString &password,
+                                 const QString &port, int loginType, const QString &devicePort);
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

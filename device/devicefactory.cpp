@@ -521,6 +521,36 @@ void CDeviceFactory::stopOpeningSession(const QString &family)
     forward(family, &CDeviceBase::stopOpeningSession);
 }
 
+DeviceStep CDeviceFactory::systemStep(const QString &family, const QString &command, const QVariantMap &data,
+                                      const QString &ipport)
+{
+    return forward(family, &CDeviceBase::systemStep, command, data, ipport);
+}
+
+DeviceStep CDeviceFactory::initialisationStep(const QString &family, const QString &mac,
+                                              const QString &account, const QString &password)
+{
+    return forward(family, &CDeviceBase::initialisationStep, mac, account, password);
+}
+
+DeviceStep CDeviceFactory::addressStep(const QString &family, const QString &mac, const QString &newip,
+                                       const QString &newsubmask, const QString &newgateway, bool dhcpON)
+{
+    return forward(family, &CDeviceBase::addressStep, mac, newip, newsubmask, newgateway, dhcpON);
+}
+
+DeviceStep CDeviceFactory::copyStep(const QString &family, const QString &ipport)
+{
+    return forward(family, &CDeviceBase::copyStep, ipport);
+}
+
+DeviceStep CDeviceFactory::loginStep(const QString &family, const QString &address, const QString &account,
+                                     const QString &password, const QString &port, int loginType,
+                                     const QString &devicePort)
+{
+    return forward(family, &CDeviceBase::loginStep, address, account, password, port, loginType, devicePort);
+}
+
 void CDeviceFactory::refreshDevices(const QString &family, const QStringList &macs)
 {
     forward(family, &CDeviceBase::refreshDevices, macs);

@@ -170,6 +170,20 @@ public:
     /// that have changed.
     Q_INVOKABLE void refreshDevices(const QString &family, const QStringList &macs);
 
+    // The work that an operation does with one device, for another thread. Each may be run until the factory
+    // ends. For an unknown family it is null.
+
+    [[nodiscard]] DeviceStep systemStep(const QString &family, const QString &command,
+                                        const QVariantMap &data, const QString &ipport);
+    [[nodiscard]] DeviceStep initialisationStep(const QString &family, const QString &mac,
+                                                const QString &account, const QString &password);
+    [[nodiscard]] DeviceStep addressStep(const QString &family, const QString &mac, const QString &newip,
+                                         const QString &newsubmask, const QString &newgateway, bool dhcpON);
+    [[nodiscard]] DeviceStep copyStep(const QString &family, const QString &ipport);
+    [[nodiscard]] DeviceStep loginStep(const QString &family, const QString &address, const QString &account,
+                                       const QString &password, const QString &port, int loginType,
+                                       const QString &devicePort);
+
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,

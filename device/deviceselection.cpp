@@ -57,12 +57,12 @@ QVariantMap DeviceSelection::valuesOf(int row) const
     return values;
 }
 
-QVariantList DeviceSelection::checkedRows() const
+QStringList DeviceSelection::checkedIdentities() const
 {
-    QVariantList rows;
+    QStringList identities;
     for (const Row &row : m_rows) {
         if (row.checked)
-            rows.append(row.values);
+            identities.append(identityOf(row.values));
     }
-    return rows;
+    return identities;
 }

@@ -28,8 +28,8 @@ public:
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// The ticked rows in their order.
-    Q_INVOKABLE [[nodiscard]] QVariantList checkedRows() const;
+    /// Names of the ticked rows in their order.
+    Q_INVOKABLE [[nodiscard]] QStringList checkedIdentities() const;
 
 Q_SIGNALS:
     void rowsChanged();

@@ -269,6 +269,12 @@ void DeviceTableModel::refreshDevice(const QString &mac)
     Q_EMIT dataChanged(index(place), index(place));
 }
 
+void DeviceTableModel::refreshDevices(const QStringList &macs)
+{
+    for (const QString &mac : macs)
+        refreshDevice(mac);
+}
+
 void DeviceTableModel::toggleSort(const QString &key)
 {
     if (m_sortKey != key) {

@@ -74,6 +74,7 @@ public:
     /// Reads one IPv4 device's row again, in its place: while a batch runs, reading all of them for each
     /// result would take longer than the batch. Conflicts stay as they were until refresh().
     Q_INVOKABLE void refreshDevice(const QString &mac);
+    Q_INVOKABLE void refreshDevices(const QStringList &macs);
 
     /// Orders by a key: first ascending, then descending, then in the order of the list again. Addresses are
     /// compared as numbers, texts by the user's language.

@@ -165,6 +165,12 @@ void OVTreeModel::setResult(const QString &ipport, int result)
         writeResult(index(place->second, 0, index(place->first, 0)), result);
 }
 
+void OVTreeModel::setResults(const QStringList &ipports, const QList<int> &results)
+{
+    for (qsizetype place = 0; place < std::min(ipports.size(), results.size()); ++place)
+        setResult(ipports.at(place), results.at(place));
+}
+
 void OVTreeModel::clearResults()
 {
     for (Device &device : m_remembered)

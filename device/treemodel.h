@@ -79,6 +79,9 @@ public:
     /// when the tree has none.
     Q_INVOKABLE void setResult(const QString &ipport, int result);
 
+    /// The same for many devices, each with the result at its place.
+    Q_INVOKABLE void setResults(const QStringList &ipports, const QList<int> &results);
+
     /// Takes every result back, also of devices that a search text hides.
     Q_INVOKABLE void clearResults();
 

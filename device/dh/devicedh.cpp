@@ -1,5 +1,6 @@
 #include "device/dh/devicedh.h"
 
+#include "device/batch/batchengine.h"
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/dh/cameraconfig.h"
@@ -24,8 +25,10 @@ constexpr int maximumSessionThreads = 4;
 } // namespace
 
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
-                     std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits)
+                     std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits,
+                     std::shared_ptr<BatchEngine> engine)
     : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
+      m_engine(engine ? std::move(engine) : std::make_shared<BatchEngine>(m_libraries.clock)),
       m_search(std::make_unique<DeviceSearch>(store, m_libraries)),
       m_refresh(std::make_unique<DeviceRefresh>(std::move(store), m_libraries)),
       m_keptLogins(m_libraries.net), m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
@@ -67,6 +70,7 @@ CDeviceDH::~CDeviceDH()
         if (agentListener == this)
             agentListener = nullptr;
     }
+    m_engine->requestEnd();
     m_search->requestStop();
     m_refresh->requestStop();
     m_snapshots.reset();
@@ -76,6 +80,7 @@ CDeviceDH::~CDeviceDH()
     m_keptLogins.letAllGo();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
+    m_engine->end();
     m_sessionThreads.waitForDone();
     m_search.reset();
     m_refresh.reset();
@@ -83,6 +88,7 @@ CDeviceDH::~CDeviceDH()
 
 void CDeviceDH::factoryEnds()
 {
+    m_engine->requestEnd();
     m_snapshots.reset();
     m_upgrades->end();
     noteUpgradeDocuments();

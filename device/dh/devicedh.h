@@ -20,6 +20,7 @@
 #include <memory>
 #include <vector>
 
+class BatchEngine;
 class CameraConfig;
 class EncodeConfig;
 class SnapThread;
@@ -28,6 +29,8 @@ struct SecureLogin;
 struct SessionOffer;
 struct SessionOrder;
 struct DeviceListLine;
+struct EncodeCopyOutcome;
+struct EncodeState;
 
 /// What a search reads from the local configuration.
 struct SearchSettings
@@ -40,10 +43,12 @@ class CDeviceDH : public CDeviceBase
 {
     Q_OBJECT
 public:
-    /// `searchSettings` is called on the scene's thread at each start of a search.
+    /// `searchSettings` is called on the scene's thread at each start of a search. `engine` runs the steps of
+    /// this back end and ends with it; null for one of its own.
     CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
               std::function<SearchSettings()> searchSettings,
-              const UpgradeLimits &upgradeLimits = UpgradeLimits());
+              const UpgradeLimits &upgradeLimits = UpgradeLimits(),
+              std::shared_ptr<BatchEngine> engine = nullptr);
 
     /// Ends running searches and the session, and releases the network library.
     ~CDeviceDH() override;
@@ -92,6 +97,10 @@ public:
     /// A device that is being upgraded is not asked; "res" says so.
     void modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                   const QString &newgateway, bool dhcpON) override;
+    DeviceStep initialisationStep(const QString &mac, const QString &account,
+                                  const QString &password) override;
+    DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
+                           const QString &newgateway, bool dhcpON) override;
 
     // Device lists: devicedhlists.cpp
 
@@ -115,6 +124,7 @@ public:
     /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`. A device that is being
     /// upgraded is left alone: LoginResult::Upgrading.
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
+    DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport) override;
 
     // The configuration pages, of the current session's device: devicedhencode.cpp
     void getEncodeCaps() override;
@@ -134,6 +144,7 @@ public:
     /// The settings of the current channel go to the channel of the same number of each device. What a device
     /// cannot do is skipped, and named in its row's "result".
     void copyConfigToDevice(const QStringList &devlist) override;
+    DeviceStep copyStep(const QString &ipport) override;
 
     // The camera image page: devicedhcamera.cpp
     /// What the camera can do and its configurations; the values come with getVideoIn().
@@ -228,10 +239,19 @@ private:
     void writeChannelName(const QString &name, const QString &channel);
     void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
 
-    void performOn(const QStringList &ipports, const QString &command, const QVariantMap &data);
-    int performOn(const QString &ipport, const SystemAction &action);
-    void checkPasswords(const QStringList &ipports, const QString &password);
-    void modifyPasswords(const QStringList &ipports, const QString &newPassword);
+    [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const Credentials &credentials,
+                                           const EncodeState &state, const ChannelChoice &channels,
+                                           const StepControl &control);
+    StepOutcome changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
+                              const QString &newgateway, bool dhcpON);
+    /// Writes "res" of the device's row.
+    StepOutcome noteResult(const QString &mac, LoginResult result);
+
+    // On any thread, and block it for the waits of the library. Return a result.
+    int performOn(const QString &ipport, const Credentials &credentials, const QString &command,
+                  const QVariantMap &data, const StepControl &control);
+    int checkPassword(const QString &ipport, const QString &account, const QString &password);
+    int modifyPassword(const QString &ipport, const QString &newPassword);
 
     /// Of the device's row; the default account for what the row does not have.
     [[nodiscard]] Credentials credentialsOf(const QString &ipport) const;
@@ -240,6 +260,7 @@ private:
     const ValueTables m_tables;
     const sdk::SdkLibraries m_libraries;
     const std::function<SearchSettings()> m_searchSettings;
+    const std::shared_ptr<BatchEngine> m_engine;
     std::unique_ptr<DeviceSearch> m_search;
     std::unique_ptr<DeviceRefresh> m_refresh;
     Session m_session;

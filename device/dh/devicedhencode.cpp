@@ -94,27 +94,44 @@ void CDeviceDH::confirmConfigData()
 
 void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
 {
-    // A copy: the page may change its channel while a signal is being looked at.
-    const std::optional<EncodeState> state = m_encode->state();
-    const ChannelChoice channels = m_channels;
-    for (const QString &ipport : devlist) {
+    // All of them are made before the first one runs: the page may change its channel while a signal is being
+    // looked at.
+    QList<DeviceStep> steps;
+    for (const QString &ipport : devlist)
+        steps.append(copyStep(ipport));
+    for (qsizetype place = 0; place < steps.size(); ++place)
+        Q_EMIT signalCDeviceRetToCopyConfig(devlist.at(place), steps.at(place)(StepControl()).result);
+}
+
+DeviceStep CDeviceDH::copyStep(const QString &ipport)
+{
+    const auto state = std::make_shared<const std::optional<EncodeState>>(m_encode->state());
+    return [this, ipport, state, channels = m_channels,
+            credentials = credentialsOf(ipport)](const StepControl &control) {
         EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
-        if (isUpgradingAt(ipport)) {
+        if (isUpgradingAt(ipport))
             outcome.result = resultCode(LoginResult::Upgrading);
-        } else if (state && state->unreadItems().size() < qsizetype{2} * itemsOfStream) {
-            const Credentials known = credentialsOf(ipport);
-            const SecureLogin login =
-                secureLogin(m_libraries.net.get(), ipport, known.account, known.password);
-            outcome.result = resultCode(login.result);
-            if (login.result == LoginResult::Success) {
-                outcome =
-                    copyEncodeSettings(m_tables, *state, channels, ConfigSession(m_libraries, login.handle));
-                m_libraries.net->NetLogout(login.handle);
-            }
-        }
+        else if (*state && (*state)->unreadItems().size() < qsizetype{2} * itemsOfStream)
+            outcome = copyTo(ipport, credentials, **state, channels, control);
         const QString skipped =
             outcome.skipped.isEmpty() ? QString() : tr("未复制：%1").arg(outcome.skipped.join(tr("、")));
         store().changeRowAt(ipport, [&](QJsonObject &row) { row.insert(DeviceRowKey::result, skipped); });
-        Q_EMIT signalCDeviceRetToCopyConfig(ipport, outcome.result);
-    }
+        return StepOutcome{.result = outcome.result, .text = skipped};
+    };
+}
+
+EncodeCopyOutcome CDeviceDH::copyTo(const QString &ipport, const Credentials &credentials,
+                                    const EncodeState &state, const ChannelChoice &channels,
+                                    const StepControl &control)
+{
+    const SecureLogin login =
+        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
+    if (login.result != LoginResult::Success)
+        return {.result = resultCode(login.result), .skipped = {}};
+    const EncodeCopyOutcome outcome =
+        control.shouldEnd()
+            ? EncodeCopyOutcome{.result = resultCode(LoginResult::NotDone), .skipped = {}}
+            : copyEncodeSettings(m_tables, state, channels, ConfigSession(m_libraries, login.handle));
+    m_libraries.net->NetLogout(login.handle);
+    return outcome;
 }

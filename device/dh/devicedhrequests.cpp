@@ -22,40 +22,54 @@ void setText(auto &field, const QString &text)
 
 void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const QString &password)
 {
-    LoginResult result = LoginResult::Success;
-    const std::optional<sdk::SearchAnswer> record = store().record(mac);
-    if (record && m_libraries.net) {
-        sdk::InitDeviceAccountInput input{};
-        input.size = sizeof(input);
-        input.mac = record->device.mac;
-        setText(input.account, account);
-        setText(input.password, password);
-        input.passwordResetWay = record->device.passwordResetWay;
-        sdk::DeviceRequestOutput output{.size = sizeof(output)};
-        if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
-            result = loginResultOf(m_libraries.net->NetGetLastError());
-    }
-    store().changeRow(mac, [result](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(result)); });
+    initialisationStep(mac, account, password)(StepControl());
+}
+
+DeviceStep CDeviceDH::initialisationStep(const QString &mac, const QString &account, const QString &password)
+{
+    return [this, mac, account, password](const StepControl &) {
+        LoginResult result = LoginResult::Success;
+        const std::optional<sdk::SearchAnswer> record = store().record(mac);
+        if (record && m_libraries.net) {
+            sdk::InitDeviceAccountInput input{};
+            input.size = sizeof(input);
+            input.mac = record->device.mac;
+            setText(input.account, account);
+            setText(input.password, password);
+            input.passwordResetWay = record->device.passwordResetWay;
+            sdk::DeviceRequestOutput output{.size = sizeof(output)};
+            if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
+                result = loginResultOf(m_libraries.net->NetGetLastError());
+        }
+        return noteResult(mac, result);
+    };
 }
 
 void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                          const QString &newgateway, bool dhcpON)
 {
-    if (m_upgrades->isUpgrading(mac)) {
-        store().changeRow(
-            mac, [](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(LoginResult::Upgrading)); });
-        return;
-    }
+    addressStep(mac, newip, newsubmask, newgateway, dhcpON)(StepControl());
+}
+
+DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
+                                  const QString &newgateway, bool dhcpON)
+{
+    return [=, this](const StepControl &) {
+        if (m_upgrades->isUpgrading(mac))
+            return noteResult(mac, LoginResult::Upgrading);
+        return changeAddress(mac, newip, newsubmask, newgateway, dhcpON);
+    };
+}
+
+StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
+                                     const QString &newgateway, bool dhcpON)
+{
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;
     if (record && m_libraries.net) {
         if (sdk::initialisationBits(record->device.initialisationState) ==
-            sdk::InitialisationBits::Uninitialised) {
-            store().changeRow(mac, [](QJsonObject &row) {
-                row.insert(DeviceRowKey::res, resultCode(LoginResult::NotInitialised));
-            });
-            return;
-        }
+            sdk::InitialisationBits::Uninitialised)
+            return noteResult(mac, LoginResult::NotInitialised);
         sdk::ModifyDeviceInput input{};
         input.size = sizeof(input);
         input.device = record->device;
@@ -74,7 +88,6 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
     // shows the true address. With DHCP the address is not known until then: the row has none.
     const QString address = dhcpON ? QString() : newip;
     store().changeRow(mac, [&](QJsonObject &row) {
-        row.insert(DeviceRowKey::res, resultCode(result));
         const QStringList parts = row.value(DeviceRowKey::ipport).toString().split(QLatin1Char(':'));
         if (parts.size() == 2)
             row.insert(DeviceRowKey::ipport, QStringLiteral("%1:%2").arg(address, parts.at(1)));
@@ -83,4 +96,11 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
         setText(record->device.address, address);
         store().putRecord(*record);
     }
+    return noteResult(mac, result);
+}
+
+StepOutcome CDeviceDH::noteResult(const QString &mac, LoginResult result)
+{
+    store().changeRow(mac, [result](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(result)); });
+    return {.result = resultCode(result), .text = {}};
 }

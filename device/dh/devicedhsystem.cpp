@@ -8,6 +8,8 @@
 #include "sdk/blocktext.h"
 #include "sdk/netlibrary.h"
 
+#include <QDateTime>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -37,89 +39,93 @@ bool changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString 
 
 void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
 {
-    const QString password = data.value(QStringLiteral("password")).toString();
-    if (command == QLatin1String("cancelLogin"))
+    if (command == QLatin1String("cancelLogin")) {
         m_keptLogins.letAllGo();
-    else if (command == QLatin1String("loginCheck"))
-        checkPasswords(ipports, password);
-    else if (command == QLatin1String("modifyPassword"))
-        modifyPasswords(ipports, password);
-    else
-        performOn(ipports, command, data);
-}
-
-void CDeviceDH::performOn(const QStringList &ipports, const QString &command, const QVariantMap &data)
-{
-    const std::optional<SystemAction> action = systemAction(m_libraries, command, data);
-    if (!action)
-        qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
-    // What no device could accept is not sent, but a device that cannot be logged in to still says so.
-    const SystemAction perform = action.value_or([](std::int64_t) { return false; });
-    for (const QString &ipport : ipports) {
-        // Nothing comes between a device and its firmware.
-        const int result =
-            isUpgradingAt(ipport) ? resultCode(LoginResult::Upgrading) : performOn(ipport, perform);
-        Q_EMIT signalCDeviceRetToSystemConfig(ipport, result);
+        return;
     }
-}
-
-int CDeviceDH::performOn(const QString &ipport, const SystemAction &action)
-{
-    const Credentials credentials = credentialsOf(ipport);
-    const SecureLogin login =
-        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
-    if (login.result != LoginResult::Success)
-        return resultCode(login.result);
-    const bool isAccepted = action(login.handle);
-    m_libraries.net->NetLogout(login.handle);
-    return isAccepted ? resultCode(LoginResult::Success) : refusedByDevice;
-}
-
-void CDeviceDH::checkPasswords(const QStringList &ipports, const QString &password)
-{
     bool hasPassed = false;
     for (const QString &ipport : ipports) {
-        m_keptLogins.letGo(ipport);
-        if (isUpgradingAt(ipport)) {
-            Q_EMIT signalCDeviceRetToSystemConfig(ipport, resultCode(LoginResult::Upgrading));
+        if (command == QLatin1String("modifyPassword") && !m_keptLogins.find(ipport))
             continue;
-        }
-        const QString account = credentialsOf(ipport).account;
-        const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
-        if (login.result == LoginResult::Success) {
-            m_keptLogins.keep(ipport,
-                              {.loginHandle = login.handle, .account = account, .password = password});
-            hasPassed = true;
-            Q_EMIT signalCDeviceRetToSystemConfig(ipport, waitsForNewPassword);
-        } else {
-            Q_EMIT signalCDeviceRetToSystemConfig(ipport, resultCode(login.result));
-        }
+        const int result = systemStep(command, data, ipport)(StepControl()).result;
+        hasPassed = hasPassed || result == waitsForNewPassword;
+        Q_EMIT signalCDeviceRetToSystemConfig(ipport, result);
     }
     if (hasPassed)
         Q_EMIT signalCDeviceSystemConfigEnablePassword();
 }
 
-void CDeviceDH::modifyPasswords(const QStringList &ipports, const QString &newPassword)
+DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data, const QString &ipport)
 {
-    for (const QString &ipport : ipports) {
-        KeptLogin *login = m_keptLogins.find(ipport);
-        if (!login)
-            continue;
-        if (isUpgradingAt(ipport)) { // it is logged in to again when it comes back
-            Q_EMIT signalCDeviceRetToSystemConfig(ipport, resultCode(LoginResult::Upgrading));
-            continue;
-        }
-        const bool isChanged = changePassword(*m_libraries.net, *login, newPassword);
-        if (isChanged) {
-            login->password = newPassword;
-            store().changeRowAt(ipport, [login](QJsonObject &row) {
-                row.insert(DeviceRowKey::username, login->account);
-                row.insert(DeviceRowKey::password, login->password);
-            });
-        }
-        Q_EMIT signalCDeviceRetToSystemConfig(ipport,
-                                              isChanged ? resultCode(LoginResult::Success) : refusedByDevice);
+    const QString password = data.value(QStringLiteral("password")).toString();
+    const Credentials credentials = credentialsOf(ipport);
+    std::function<int(const StepControl &control)> perform;
+    if (command == QLatin1String("loginCheck"))
+        perform = [this, ipport, account = credentials.account, password](const StepControl &) {
+            return checkPassword(ipport, account, password);
+        };
+    else if (command == QLatin1String("modifyPassword"))
+        perform = [this, ipport, password](const StepControl &) {
+            return modifyPassword(ipport, password);
+        };
+    else
+        perform = [this, command, data, ipport, credentials](const StepControl &control) {
+            return performOn(ipport, credentials, command, data, control);
+        };
+    return [this, ipport, perform](const StepControl &control) {
+        // Nothing comes between a device and its firmware.
+        return StepOutcome{.result =
+                               isUpgradingAt(ipport) ? resultCode(LoginResult::Upgrading) : perform(control),
+                           .text = {}};
+    };
+}
+
+int CDeviceDH::performOn(const QString &ipport, const Credentials &credentials, const QString &command,
+                         const QVariantMap &data, const StepControl &control)
+{
+    const SecureLogin login =
+        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
+    if (login.result != LoginResult::Success)
+        return resultCode(login.result);
+    int result = resultCode(LoginResult::NotDone);
+    if (!control.shouldEnd()) {
+        QVariantMap values = data;
+        if (data.value(QStringLiteral("timeOfRequest")).toBool())
+            values.insert(QStringLiteral("time"),
+                          QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+        // What no device could accept is not sent, but a device that cannot be logged in to still says so.
+        const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
+        if (!action)
+            qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
+        result = action && (*action)(login.handle) ? resultCode(LoginResult::Success) : refusedByDevice;
     }
+    m_libraries.net->NetLogout(login.handle);
+    return result;
+}
+
+int CDeviceDH::checkPassword(const QString &ipport, const QString &account, const QString &password)
+{
+    m_keptLogins.letGo(ipport);
+    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
+    if (login.result != LoginResult::Success)
+        return resultCode(login.result);
+    m_keptLogins.keep(ipport, {.loginHandle = login.handle, .account = account, .password = password});
+    return waitsForNewPassword;
+}
+
+int CDeviceDH::modifyPassword(const QString &ipport, const QString &newPassword)
+{
+    const std::optional<KeptLogin> login = m_keptLogins.find(ipport);
+    if (!login)
+        return resultCode(LoginResult::NotDone);
+    if (!changePassword(*m_libraries.net, *login, newPassword))
+        return refusedByDevice;
+    m_keptLogins.setPassword(ipport, newPassword);
+    store().changeRowAt(ipport, [&](QJsonObject &row) {
+        row.insert(DeviceRowKey::username, login->account);
+        row.insert(DeviceRowKey::password, newPassword);
+    });
+    return resultCode(LoginResult::Success);
 }
 
 CDeviceDH::Credentials CDeviceDH::credentialsOf(const QString &ipport) const

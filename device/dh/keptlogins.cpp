@@ -14,25 +14,45 @@ KeptLogins::~KeptLogins()
 void KeptLogins::keep(const QString &ipport, const KeptLogin &login)
 {
     letGo(ipport);
+    const std::lock_guard lock(m_mutex);
     m_logins.insert(ipport, login);
 }
 
-KeptLogin *KeptLogins::find(const QString &ipport)
+std::optional<KeptLogin> KeptLogins::find(const QString &ipport) const
 {
+    const std::lock_guard lock(m_mutex);
+    const auto found = m_logins.constFind(ipport);
+    return found == m_logins.cend() ? std::nullopt : std::optional(*found);
+}
+
+void KeptLogins::setPassword(const QString &ipport, const QString &password)
+{
+    const std::lock_guard lock(m_mutex);
     const auto found = m_logins.find(ipport);
-    return found == m_logins.end() ? nullptr : &found.value();
+    if (found != m_logins.end())
+        found->password = password;
 }
 
 void KeptLogins::letGo(const QString &ipport)
 {
-    const KeptLogin login = m_logins.take(ipport);
+    KeptLogin login;
+    {
+        const std::lock_guard lock(m_mutex);
+        login = m_logins.take(ipport);
+    }
     if (login.loginHandle != 0 && m_net)
         m_net->NetLogout(login.loginHandle);
 }
 
 void KeptLogins::letAllGo()
 {
-    const QStringList devices = m_logins.keys();
-    for (const QString &ipport : devices)
-        letGo(ipport);
+    QMap<QString, KeptLogin> logins;
+    {
+        const std::lock_guard lock(m_mutex);
+        logins.swap(m_logins);
+    }
+    for (const KeptLogin &login : std::as_const(logins)) {
+        if (m_net)
+            m_net->NetLogout(login.loginHandle);
+    }
 }

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
+#include <optional>
 
 namespace sdk {
 class NetLibrary;
@@ -19,6 +21,7 @@ struct KeptLogin
 };
 
 /// One login for each device, by its "address:port". Every login is logged out when it is let go.
+/// Thread-safe.
 class KeptLogins
 {
 public:
@@ -31,13 +34,17 @@ public:
     /// Keeps a login in place of any other to that device.
     void keep(const QString &ipport, const KeptLogin &login);
 
-    /// The login to a device, null when none is kept.
-    [[nodiscard]] KeptLogin *find(const QString &ipport);
+    /// The login to a device, if one is kept.
+    [[nodiscard]] std::optional<KeptLogin> find(const QString &ipport) const;
+
+    /// The account of a kept login has another password now.
+    void setPassword(const QString &ipport, const QString &password);
 
     void letGo(const QString &ipport);
     void letAllGo();
 
 private:
     const std::shared_ptr<sdk::NetLibrary> m_net;
+    mutable std::mutex m_mutex;
     QMap<QString, KeptLogin> m_logins;
 };

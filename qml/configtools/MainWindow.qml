@@ -11,6 +11,7 @@ T.ApplicationWindow {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var localConfig: LocalConfigApi
     readonly property BusyState busyState: BusyStateApi
+    readonly property Batches batches: BatchesApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     // qmllint enable unqualified
 
@@ -129,6 +130,11 @@ T.ApplicationWindow {
     LanguageList {
         id: languageList
     }
+    Shortcut {
+        enabled: window.batches.running
+        sequence: "Escape"
+        onActivated: window.batches.current.stop()
+    }
     WindowShortcuts {
         currentTab: window.currentTab
         tabCount: tabBar.tabs.length
@@ -189,6 +195,7 @@ T.ApplicationWindow {
 
             PageModifyIP {
                 id: modifyIpPage
+                batches: window.batches
                 busyState: window.busyState
                 libraryInstalled: window.libraryInstalled
                 searching: window.searching
@@ -218,6 +225,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageDeviceConfig {
+                        batches: window.batches
                         busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
@@ -233,7 +241,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageSystemConfig {
-                        busyState: window.busyState
+                        batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
                         onSaid: (message, kind) => popups.say(message, kind)

@@ -3,6 +3,7 @@
 
 #include "device/addressplan.h"
 #include "device/addresstools.h"
+#include "device/batch/batches.h"
 #include "device/batchreport.h"
 #include "device/busyreport.h"
 #include "device/bytetext.h"
@@ -84,6 +85,22 @@ struct FavouriteListModelForeign
     Q_GADGET
     QML_FOREIGN(FavouriteListModel)
     QML_NAMED_ELEMENT(FavouriteListModel)
+};
+
+struct BatchForeign
+{
+    Q_GADGET
+    QML_FOREIGN(Batch)
+    QML_NAMED_ELEMENT(Batch)
+    QML_UNCREATABLE("Batches starts it")
+};
+
+struct BatchesForeign
+{
+    Q_GADGET
+    QML_FOREIGN(Batches)
+    QML_NAMED_ELEMENT(Batches)
+    QML_UNCREATABLE("there is one for the whole program")
 };
 
 struct BatchReportForeign

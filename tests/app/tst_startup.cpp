@@ -5,6 +5,7 @@
 #include "app/shell.h"
 #include "app/timezonetext.h"
 #include "cgi/cgiconfigmanage.h"
+#include "device/batch/batchengine.h"
 #include "device/devicefactory.h"
 
 #include <QApplication>
@@ -141,9 +142,10 @@ private Q_SLOTS:
     void documentsFindTheNativeTypes()
     {
         QFETCH(QByteArray, document);
+        BatchEngine batchEngine(nullptr);
         QQmlApplicationEngine engine;
         engine.addImportPath("qrc:/qt/qml");
-        publishToScene(engine, false);
+        publishToScene(engine, batchEngine, false);
         QQmlComponent component(&engine);
         component.setData(document, QUrl("qrc:/test.qml"));
         const std::unique_ptr<QObject> object(component.create());

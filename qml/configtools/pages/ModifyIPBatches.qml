@@ -8,10 +8,11 @@ Item {
     required property BusyState busyState
     required property var deviceFactory
     required property var deviceTable  // a DeviceTableModel
-    readonly property alias running: batch.running
-    readonly property alias progress: batch.progress
-    readonly property alias current: batch.current
-    property string title  // of the batch
+    required property Batches batches
+    property Batch batch: null
+    readonly property bool running: batch?.running ?? false
+    readonly property double progress: batch?.progress ?? -1
+    readonly property string current: running ? batch.device : ""
     property string runningText
     signal said(string message, int kind)
 
@@ -61,55 +62,42 @@ Item {
         dialog.open();
     }
 
-    /// Calls `request` for each row, shows its result as it comes, and reads the whole table at the end.
-    function run(rows, title, text, request) {
-        root.title = title;
-        runningText = rows.length > 1 ? text + qsTr("（按Esc停止）") : text;
-        batch.start(rows.length, i => {
-            request(rows[i], i);
-            deviceTable.refreshDevice(rows[i].identity);
-        }, i => rows[i].ipport, done => {
-            const failed = rows.slice(0, done).filter(row => deviceFactory.getDeviceDetail("dh", row.identity).res !== 0).length;
-            for (const row of rows.slice(done))
-                deviceFactory.updataDeviceInfo("dh", "res", BatchReport.NotDone, row.identity, row.ipport);
-            deviceTable.refresh();
-            // What the rows show of these devices has changed: their state, or the address that they respond at.
-            deviceFactory.refreshDevices("dh", rows.slice(0, done).map(row => row.identity));
-            if (done < rows.length)
-                said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
-            if (failed > 0)
-                //: Of the devices of a batch, those whose result is a failure.
-                said(qsTr("%n 台设备未成功，请查看修改结果", "", failed), OVToast.Error);
-            else if (done === rows.length)
-                said(qsTr("%n 台设备已完成", "", done), OVToast.Success);
-        });
-    }
-
-    function sendFirstPasswords(rows, account, password) {
-        run(rows, qsTr("初始化"), qsTr("正在初始化设备…"),
-            row => deviceFactory.setInitAccount("dh", row.identity, account, password));
+    function sendFirstPasswords(identities, account, password) {
+        runningText = qsTr("正在初始化设备…");
+        batch = batches.setFirstPasswords("dh", qsTr("初始化"), identities, account, password);
     }
 
     function sendAddresses(dialog) {
-        const rows = dialog.rows;
-        const dhcp = dialog.dhcp;
-        const mask = dialog.mask;
-        const gateway = dialog.gateway;
-        const addresses = rows.map((_, i) => dialog.plan.addressOf(i));
-        run(rows, qsTr("修改IP地址"), qsTr("正在修改IP地址…"), (row, i) => {
-            if (dhcp)
-                deviceFactory.modifyIP("dh", row.identity, "", "", "", true);
-            else
-                deviceFactory.modifyIP("dh", row.identity, addresses[i], mask, gateway, false);
-        });
+        runningText = qsTr("正在修改IP地址…");
+        batch = batches.changeAddresses("dh", qsTr("修改IP地址"), dialog.plan.identities(), dialog.plan.addresses(),
+                                        dialog.mask, dialog.gateway, dialog.dhcp);
+    }
+
+    /// Says how it went, and reads the whole table.
+    function tellEnd() {
+        const report = batch.report;
+        deviceTable.refresh();
+        if (report.notDone > 0)
+            said(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
+        if (report.failed > 0)
+            //: Of the devices of a batch, those whose result is a failure.
+            said(qsTr("%n 台设备未成功，请查看修改结果", "", report.failed), OVToast.Error);
+        else if (report.notDone === 0)
+            said(qsTr("%n 台设备已完成", "", report.total), OVToast.Success);
     }
 
     visible: false
 
-    OVBatch {
-        id: batch
-    }
+    Connections {
+        target: root.batch
 
+        function onResulted(identities) {
+            root.deviceTable.refreshDevices(identities);
+        }
+        function onFinished() {
+            root.tellEnd();
+        }
+    }
     // qmllint disable unqualified
     OVOnDemand {
         id: initialising
@@ -132,12 +120,12 @@ Item {
             deviceFactory: root.deviceFactory
             onConfirmed: {
                 const list = initialising.wanted();
-                const rows = list.chosen();
+                const identities = list.chosen();
                 const name = account.account;
                 const word = account.password;
                 account.close();
                 list.close();
-                root.sendFirstPasswords(rows, name, word);
+                root.sendFirstPasswords(identities, name, word);
             }
             onRefused: message => root.said(message, OVToast.Error)
         }

@@ -6,6 +6,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property Batches batches
     required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
@@ -91,18 +92,19 @@ FocusScope {
         onSaid: (message, kind, stay) => page.said(message, kind, stay)
     }
     BusyReport {
-        active: copying.running
-        state: page.busyState
-        title: qsTr("复制编码配置")
-    }
-    BusyReport {
         active: session.busy || session.names.running
         need: BusyState.Program
         state: page.busyState
         title: qsTr("设备配置")
     }
+    OVBatchRefusals {
+        batches: page.batches
+        shown: page.visible
+        onSaid: (message, kind) => page.said(message, kind, Theme.errorToastStay)
+    }
     ConfigCopy {
         id: copying
+        batches: page.batches
         deviceFactory: page.deviceFactory
         devices: devices
         onSaid: (message, kind, stay) => page.said(message, kind, stay)

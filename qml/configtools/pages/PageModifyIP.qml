@@ -5,6 +5,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property Batches batches
     required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
@@ -18,7 +19,7 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    readonly property var work: batches.running ? batches : files.running ? files : null
+    readonly property var work: changes.running ? changes : files.running ? files : null
 
     function focusSearch() {
         toolBar.focusSearch();
@@ -39,7 +40,7 @@ FocusScope {
     }
 
     DeviceListChanges {
-        id: changes
+        id: list
         deviceFactory: page.deviceFactory
         shown: page.visible
         onReadingRequested: devices.refresh()
@@ -48,7 +49,7 @@ FocusScope {
         target: page.deviceFactory
 
         function onSignalTunnelBroken(deviceId) {
-            changes.note();
+            list.note();
             page.said(deviceId === "" ? qsTr("P2P服务已断开，P2P设备暂时无法访问")
                 : qsTr("到P2P设备 %1 的连接已断开，请删除后重新添加").arg(deviceId), OVToast.Error);
         }
@@ -59,13 +60,19 @@ FocusScope {
     }
 
     BusyReport {
-        active: page.work !== null
+        active: files.running
         state: page.busyState
-        title: page.work?.title ?? ""
+        title: files.title
+    }
+    OVBatchRefusals {
+        batches: page.batches
+        shown: page.visible
+        onSaid: (message, kind) => page.said(message, kind)
     }
 
     ModifyIPBatches {
-        id: batches
+        id: changes
+        batches: page.batches
         busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
@@ -117,10 +124,10 @@ FocusScope {
         onDeleteRequested: actions.removeChecked()
         onExportRequested: files.startExport()
         onImportRequested: files.startImport()
-        onInitialiseRequested: batches.initialise()
+        onInitialiseRequested: changes.initialise()
         onInitialisedToggled: shown => devices.showInitialised = shown
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
-        onModifyRequested: batches.modifyChecked()
+        onModifyRequested: changes.modifyChecked()
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }
 
@@ -141,10 +148,10 @@ FocusScope {
         onAllToggled: checked => devices.setAllChecked(checked)
         onCopyRequested: row => clipboard.put(devices.textOf([row]))
         onDetailRequested: row => actions.showDetail(row)
-        onEditRequested: row => batches.modifyRow(row)
+        onEditRequested: row => changes.modifyRow(row)
         onLiveRequested: row => page.liveRequested(devices.get(row).ipport)
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onRowOpened: row => devices.ipv6 ? actions.showDetail(row) : batches.modifyRow(row)
+        onRowOpened: row => devices.ipv6 ? actions.showDetail(row) : changes.modifyRow(row)
         onSortRequested: key => devices.toggleSort(key)
         onWebRequested: row => actions.openWebPage(row)
 

@@ -5,7 +5,7 @@ import configtools
 FocusScope {
     id: page
 
-    required property BusyState busyState
+    required property Batches batches
     required property bool searching
     required property bool libraryInstalled
     signal searchRequested
@@ -17,6 +17,7 @@ FocusScope {
     // qmllint enable unqualified
 
     property string passwordTicks  // the ticked devices when the old password was checked
+    property var checkedWhenAsked: []  // the devices of the last command
 
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
@@ -36,7 +37,7 @@ FocusScope {
         passwordTime.begin(batch.report.devicesWith(BatchReport.Waiting));
         if (!visible)
             disablePasswordEditor();
-        else if (passwordTicks !== String(batch.devices))
+        else if (passwordTicks !== String(checkedWhenAsked))
             passwordTime.close(SystemPasswordTime.OtherTicks);
     }
 
@@ -58,15 +59,17 @@ FocusScope {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
-    function run(command, title, targets, dataOf) {
+    function run(command, title, targets, data) {
+        if (!batch.run(command, title, targets, data))
+            return;
+        checkedWhenAsked = targets;
         devices.clearResults();
-        batch.run(command, title, targets, dataOf);
     }
 
-    function runOnTicked(command, title, dataOf) {
+    function runOnTicked(command, title, data) {
         if (passwordTime.open)
             passwordTime.close(SystemPasswordTime.OtherWork);
-        run(command, title, Array.from(devices.checkedDevices), dataOf);  // a copy: the list itself follows the ticks
+        run(command, title, Array.from(devices.checkedDevices), data);  // a copy: the list itself follows the ticks
     }
 
     function takeEnd() {
@@ -74,9 +77,6 @@ FocusScope {
             askForNewPassword();
         else if (batch.command === "modifyPassword")
             takeChangedPasswords();
-        else if (batch.command === "resetSystem")
-            deviceFactory.refreshDevices("dh", Array.from(batch.report.devicesWith(BatchReport.Succeeded)).map(
-                ipport => deviceFactory.getDeviceInfo("dh", ipport).mac || ipport));
     }
 
     /// Runs a command that takes no data, once the user has said yes to `words`.
@@ -106,21 +106,15 @@ FocusScope {
 
     SystemBatch {
         id: batch
-        deviceFactory: page.deviceFactory
+        batches: page.batches
         onFinished: page.takeEnd()
-        onResulted: (ipport, result) => devices.setResult(ipport,
-            result === -1 ? OVTreeModel.WaitsForPassword : result)
+        onResulted: (ipports, results) => devices.setResults(ipports, results.map(
+            result => result === BatchReport.Waiting ? OVTreeModel.WaitsForPassword : result))
     }
-
-    BusyReport {
-        active: batch.running
-        state: page.busyState
-        title: batch.title
-    }
-    Shortcut {
-        enabled: batch.running && page.visible
-        sequence: "Escape"
-        onActivated: batch.stop()
+    OVBatchRefusals {
+        batches: page.batches
+        shown: page.visible
+        onSaid: (message, kind) => page.said(message, kind)
     }
     SystemPasswordTime {
         id: passwordTime
@@ -144,7 +138,7 @@ FocusScope {
             property var action: null
 
             objectName: "questionBox"
-            onAccepted: page.runOnTicked(action.command, action.title, () => ({}))
+            onAccepted: page.runOnTicked(action.command, action.title, {})
         }
     }
     // qmllint enable unqualified
@@ -177,12 +171,12 @@ FocusScope {
         passwordTime: passwordTime
         timeZone: page.timeZone
         upgradingCount: devices.checkedUpgradingCount
-        onActionRequested: (command, title, dataOf) => page.runOnTicked(command, title, dataOf)
+        onActionRequested: (command, title, data) => page.runOnTicked(command, title, data)
         onPasswordChangeRequested: password => page.run("modifyPassword", qsTr("修改密码"), passwordTime.devices,
-                                                        () => ({password: password}))
+                                                        {password: password})
         onPasswordCheckRequested: password => {
             passwordTime.close(SystemPasswordTime.Regular);
-            page.runOnTicked("loginCheck", qsTr("验证旧密码"), () => ({password: password}));
+            page.runOnTicked("loginCheck", qsTr("验证旧密码"), {password: password});
         }
         onRebootRequested: page.ask(qsTr("确定要重启选中的 %n 台设备吗？", "", devices.checkedCount), qsTr("重启"),
                                     "rebootDevice", qsTr("重启设备"))
@@ -198,10 +192,10 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        progress: batch.devices.length > 0 ? batch.done / batch.devices.length : 0
+        progress: batch.batch?.progress ?? 0
         running: batch.running
         runningDevice: batch.device
-        runningText: batch.title + " " + Math.min(batch.done + 1, batch.devices.length) + " / " + batch.devices.length
+        runningText: batch.title + " " + batch.done + " / " + batch.total
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
             + (batch.outcome !== "" && !incomplete ? "  ·  " + batch.outcome : "")

@@ -13,9 +13,9 @@ OVDialog {
         devices.setRows(rows);
     }
 
-    /// The ticked rows.
+    /// Names of the ticked rows.
     function chosen() {
-        return devices.checkedRows();
+        return devices.checkedIdentities();
     }
 
     width: Theme.initialiseWidth

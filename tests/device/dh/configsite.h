@@ -11,6 +11,9 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QSemaphore>
+
+#include <atomic>
 
 /// A device of kind `type` at 192.168.1.`number`, with one account.
 inline sdk::demo::SceneDevice configDevice(int number, const QString &type, int channels)
@@ -31,13 +34,26 @@ inline QString ipportOf(const sdk::demo::SceneDevice &device)
     return QStringLiteral("%1:%2").arg(device.address).arg(device.port);
 }
 
-/// The site's library, with devices that do not respond to a request to read one item.
+/// The site's library, with devices that do not respond to a request to read one item, and a gate that
+/// requests for a new password wait at.
 class SilentNetLibrary : public sdk::demo::DemoNetLibrary
 {
 public:
     using DemoNetLibrary::DemoNetLibrary;
 
     int silentItem = 0; ///< 0 for none
+    std::unique_ptr<QSemaphore>
+        passwordGate; ///< lets one request through for each of its resources; null for all
+    std::atomic<int> passwordsAtGate = 0; ///< requests that have come to it
+
+    bool NetModifyPassword(std::int64_t loginHandle, const sdk::ModifyPasswordInput &input,
+                           std::chrono::milliseconds wait) override
+    {
+        ++passwordsAtGate;
+        if (passwordGate)
+            passwordGate->acquire();
+        return DemoNetLibrary::NetModifyPassword(loginHandle, input, wait);
+    }
 
     bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override

@@ -1,3 +1,4 @@
+#include "device/batch/batches.h"
 #include "device/treemodel.h"
 #include "sdk/demo/demosite.h"
 #include "tests/device/dh/configsite.h"
@@ -15,7 +16,7 @@ const char *const scene = "import QtQuick\n"
                           "    width: 1280; height: 720; visible: true\n"
                           "    PageSystemConfig {\n"
                           "        objectName: 'page'; anchors.fill: parent\n"
-                          "        busyState: busy; libraryInstalled: true; searching: false\n"
+                          "        batches: works; libraryInstalled: true; searching: false\n"
                           "    }\n"
                           "}\n";
 
@@ -30,7 +31,9 @@ class TestSystemPassword : public QObject
 {
     Q_OBJECT
 private:
+    std::unique_ptr<BatchEngine> m_threads;
     std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<Batches> m_batches;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QQuickItem *m_page = nullptr;
@@ -85,21 +88,20 @@ private Q_SLOTS:
         QList<sdk::demo::SceneDevice> devices;
         for (int number = 1; number <= 4; ++number)
             devices.append(configDevice(number, "IPC", 1));
+        m_threads = std::make_unique<BatchEngine>(nullptr);
         m_site = std::make_unique<ConfigSite>(devices);
+        m_batches = std::make_unique<Batches>(*m_site->factory, *m_threads, [] { return 1; });
         const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
         m_site->factory->startSearch("dh");
         QTRY_VERIFY(!found.isEmpty());
         m_engine = std::make_unique<QQmlEngine>();
         m_engine->rootContext()->setContextProperty("systemTimeZone", QStringLiteral("UTC+08:00"));
-        m_window =
-            openScene(*m_engine, scene,
-                      {{"CDeviceFactoryApi", m_site->factory.get()}, {"busy", m_site->factory->busyState()}});
+        m_window = openScene(*m_engine, scene,
+                             {{"CDeviceFactoryApi", m_site->factory.get()}, {"works", m_batches.get()}});
         QVERIFY(m_window);
         m_page = item("page");
         m_tree = m_page->findChild<OVTreeModel *>();
         m_time = m_page->findChild<QObject *>("passwordTime");
-        m_window->requestActivate(); // keys reach shortcuts of the active window only
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTRY_COMPARE(m_tree->rowCount(), 1);
         m_tree->setAllChecked(true);
         QCOMPARE(results(), Results(4, OVTreeModel::NoResult));
@@ -110,21 +112,25 @@ private Q_SLOTS:
     {
         m_window.reset();
         m_engine.reset();
+        m_site->net->passwordGate.reset();
+        m_threads->end();
+        m_batches.reset();
         m_site.reset();
+        m_threads.reset();
     }
 
     void everyDeviceIsAccountedFor_data()
     {
-        QTest::addColumn<QString>("event"); // after the first device
+        QTest::addColumn<QString>("event"); // while the second device is asked
         QTest::addColumn<Results>("expected");
         QTest::addColumn<QString>("said");
         QTest::newRow("nothing") << "" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
         QTest::newRow("another tab") << "leave" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
         QTest::newRow("time over") << "time" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
-        QTest::newRow("stopped") << "stop" << Results{0, notDone, notDone, notDone}
-                                 << "修改密码：1 台设备成功，3 台设备未执行";
-        QTest::newRow("without logins")
-            << "cancel" << Results{0, notDone, notDone, notDone} << "修改密码：1 台设备成功，3 台设备未执行";
+        QTest::newRow("stopped") << "stop" << Results{0, 0, notDone, notDone}
+                                 << "修改密码：2 台设备成功，2 台设备未执行";
+        QTest::newRow("without logins") << "cancel" << Results{0, 999, notDone, notDone}
+                                        << "修改密码：1 台设备成功，1 台设备失败，2 台设备未执行";
         QTest::newRow("refused, on another tab")
             << "refuse" << Results{0, 0, 999, 0} << "修改密码：3 台设备成功，1 台设备失败";
     }
@@ -135,29 +141,27 @@ private Q_SLOTS:
         QFETCH(Results, expected);
         QFETCH(QString, said);
         const BusyState &busy = *m_site->factory->busyState();
-        const auto afterFirst =
-            QObject::connect(m_site->factory.get(), &CDeviceFactory::signalRetToSystemConfig, m_page, [&] {
-                if (m_site->asked("NetModifyPassword").size() > 1)
-                    return;
-                QVERIFY(busy.refusal(BusyState::Search).contains(QStringLiteral("修改密码")));
-                if (event == "refuse")
-                    m_site->site->setFault(
-                        m_tree->index(2, 0, m_tree->index(0, 0)).data(OVTreeModel::IdentityRole).toString(),
-                        {.fault = sdk::demo::Fault::RefusesPasswordChange});
-                if (event == "leave" || event == "refuse")
-                    leave();
-                else if (event == "stop")
-                    QTest::keyClick(m_window.get(), Qt::Key_Escape);
-                else if (event == "cancel")
-                    m_site->factory->systemConfig("dh", "cancelLogin", {}, {});
-                else if (event == "time") {
-                    m_time->setProperty("second", 1);
-                    m_time->setProperty("secondsLeft", 1);
-                }
-            });
+        m_site->net->passwordsAtGate = 0;
+        m_site->net->passwordGate = std::make_unique<QSemaphore>(1);
         sendNewPassword();
+        QTRY_COMPARE(m_site->net->passwordsAtGate, 2);
+        QVERIFY(busy.refusal(BusyState::Search).contains(QStringLiteral("修改密码")));
+        if (event == "refuse")
+            m_site->site->setFault(
+                m_tree->index(2, 0, m_tree->index(0, 0)).data(OVTreeModel::IdentityRole).toString(),
+                {.fault = sdk::demo::Fault::RefusesPasswordChange});
+        if (event == "leave" || event == "refuse")
+            leave();
+        else if (event == "stop")
+            m_batches->current()->stop();
+        else if (event == "cancel")
+            m_site->factory->systemConfig("dh", "cancelLogin", {}, {});
+        else if (event == "time") {
+            m_time->setProperty("second", 1);
+            m_time->setProperty("secondsLeft", 1);
+        }
+        m_site->net->passwordGate->release(4);
         QTRY_VERIFY(!isRunning());
-        QObject::disconnect(afterFirst);
         QCOMPARE(results(), expected);
         QVERIFY(QString(text("selectedCount") + text("footWarning")).endsWith(said));
         const bool isComplete = !expected.contains(notDone) && !expected.contains(999);

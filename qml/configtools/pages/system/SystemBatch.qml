@@ -1,77 +1,52 @@
-// Runs a command on devices one after another. Each is a call that takes its time on this thread, so there is a
-// picture between two.
+// A command that many devices get: the batch, and what the page shows of it.
 import QtQuick
 import configtools
 
 QtObject {
     id: root
 
-    required property var deviceFactory
+    required property Batches batches
+    property Batch batch: null
     property string command
     property string title
-    property var devices: []
-    property var dataOf: () => ({})
-    property bool running: false
-    property bool stopping: false
-    property int done: 0
-    readonly property BatchReport report: BatchReport {}
+    readonly property BatchReport report: batch?.report ?? none
+    readonly property bool running: batch?.running ?? false
+    readonly property int done: batch?.done ?? 0
+    readonly property int total: batch?.total ?? 0
+    readonly property string device: batch?.device ?? ""
     readonly property string outcome: running || report.summary === "" ? "" : title + qsTr("：") + report.summary
-    readonly property string device: running ? devices[done] ?? "" : ""
-    signal resulted(string ipport, int result)
+    signal resulted(list<string> devices, list<int> results)
     signal finished
 
-    /// `dataOf` makes the data of the command for each device anew: a time is that of its sending.
-    function run(command, title, devices, dataOf) {
+    /// Returns false when it cannot begin.
+    function run(command, title, devices, data) {
+        const begun = batches.configureSystem("dh", command, title, data, devices);
+        if (begun === null)
+            return false;
         root.command = command;
         root.title = title;
-        root.devices = devices;
-        root.dataOf = dataOf;
-        report.begin(devices);
-        done = 0;
-        stopping = false;
-        running = true;
-        next.start();
-    }
-
-    /// Leaves out what follows the device that is being asked.
-    function stop() {
-        stopping = true;
+        batch = begun;
+        return true;
     }
 
     /// The devices that wait for the next step get none: `title` names it.
     function giveUpWaiting(title) {
         const given = report.giveUpWaiting();
-        if (given.length > 0)
-            root.title = title;
-        for (const ipport of given)
-            resulted(ipport, BatchReport.NotDone);
+        if (given.length === 0)
+            return;
+        root.title = title;
+        resulted(given, Array(given.length).fill(BatchReport.NotDone));
     }
 
-    function step() {
-        if (done < devices.length && !stopping) {
-            deviceFactory.systemConfig("dh", command, dataOf(), [devices[done]]);
-            ++done;
-            next.start();
-        } else {
-            // Also a device that was asked and brought no result.
-            report.devicesWith(BatchReport.NotDone).forEach(ipport => resulted(ipport, BatchReport.NotDone));
-            running = false;
-            finished();
+    readonly property BatchReport none: BatchReport {}
+    readonly property Connections news: Connections {
+        target: root.batch
+
+        function onResulted(devices, results) {
+            root.resulted(devices, results);
         }
-    }
-
-    readonly property Timer next: Timer {
-        interval: Theme.frame
-        onTriggered: root.step()
-    }
-
-    readonly property Connections results: Connections {
-        enabled: root.running
-        target: root.deviceFactory
-
-        function onSignalRetToSystemConfig(ipport, result) {
-            root.report.note(ipport, result);
-            root.resulted(ipport, result);
+        function onFinished() {
+            root.finished();
         }
     }
 }

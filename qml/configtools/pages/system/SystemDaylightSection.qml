@@ -7,7 +7,7 @@ OVSection {
 
     required property bool available
     required property var deviceFactory
-    signal actionRequested(string command, string title, var dataOf)
+    signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
     title: qsTr("夏令时")
@@ -84,7 +84,7 @@ OVSection {
                 }
                 const data = Object.assign({dstEnable: enabledBox.checked, dstMode: byWeek.checked ? 1 : 0},
                                            begin.values(), end.values());
-                root.actionRequested("dstConfig", root.title, () => data);
+                root.actionRequested("dstConfig", root.title, data);
             }
         }
     }

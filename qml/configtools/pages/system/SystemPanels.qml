@@ -13,7 +13,7 @@ Rectangle {
     required property var deviceFactory
     required property SystemPasswordTime passwordTime
     property int currentPanel: 0
-    signal actionRequested(string command, string title, var dataOf)
+    signal actionRequested(string command, string title, var data)
     signal rebootRequested
     signal resetRequested
     signal passwordCheckRequested(string password)
@@ -69,7 +69,7 @@ Rectangle {
                 width: stack.width
                 available: root.available
                 timeZone: root.timeZone
-                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 onRefused: message => root.refused(message)
                 visible: root.currentPanel === 0
             }
@@ -78,14 +78,14 @@ Rectangle {
                 available: root.available
                 deviceFactory: root.deviceFactory
                 timeZone: root.timeZone
-                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 onRefused: message => root.refused(message)
                 visible: root.currentPanel === 1
             }
             SystemRebootPanel {
                 width: stack.width
                 available: root.available
-                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 upgradingCount: root.upgradingCount
                 onRebootRequested: root.rebootRequested()
                 onRefused: message => root.refused(message)
@@ -112,7 +112,7 @@ Rectangle {
             SystemVideoPanel {
                 width: stack.width
                 available: root.available
-                onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+                onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 visible: root.currentPanel === 5
             }
         }

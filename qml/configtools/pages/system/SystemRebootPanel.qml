@@ -7,7 +7,7 @@ Column {
 
     required property bool available
     required property int upgradingCount  // of the ticked devices
-    signal actionRequested(string command, string title, var dataOf)
+    signal actionRequested(string command, string title, var data)
     signal rebootRequested
     signal refused(string message)
 
@@ -68,7 +68,7 @@ Column {
                         return;
                     }
                     const data = {week: dayBox.currentIndex, time: timeField.text, autoReboot: autoBox.checked};
-                    root.actionRequested("autoMaintain", qsTr("自动维护"), () => data);
+                    root.actionRequested("autoMaintain", qsTr("自动维护"), data);
                 }
             }
         }

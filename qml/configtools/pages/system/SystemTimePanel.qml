@@ -7,7 +7,7 @@ Column {
 
     required property bool available
     required property string timeZone
-    signal actionRequested(string command, string title, var dataOf)
+    signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
     spacing: Theme.pageMargin * 1.5
@@ -46,8 +46,7 @@ Column {
                 objectName: "setTimeByPCButton"
                 text: qsTr("同步电脑时间")
                 toolTip: root.available ? qsTr("每台设备得到发送时刻的电脑时间") : qsTr("请先在左侧勾选设备")
-                onClicked: root.actionRequested("setTimeByPC", qsTr("同步电脑时间"),
-                                                () => ({time: SystemTools.timeOfThisComputer()}))
+                onClicked: root.actionRequested("setTimeByPC", qsTr("同步电脑时间"), {})
             }
         }
     }
@@ -94,7 +93,7 @@ Column {
     function applyByHand() {
         const time = field.text;
         if (field.acceptable)
-            actionRequested("setTimeByManual", qsTr("手动校时"), () => ({time: time}));
+            actionRequested("setTimeByManual", qsTr("手动校时"), {time: time});
         else
             refused(field.complaint);
     }

@@ -6,7 +6,7 @@ OVSection {
     id: root
 
     required property bool available
-    signal actionRequested(string command, string title, var dataOf)
+    signal actionRequested(string command, string title, var data)
 
     title: qsTr("视频制式")
 
@@ -40,7 +40,7 @@ OVSection {
             toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
             onClicked: {
                 const standard = standardBox.currentIndex + 1;
-                root.actionRequested("videoStandard", root.title, () => ({videoStandard: standard}));
+                root.actionRequested("videoStandard", root.title, {videoStandard: standard});
             }
         }
     }

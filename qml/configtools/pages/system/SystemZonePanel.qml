@@ -8,7 +8,7 @@ Column {
     required property bool available
     required property string timeZone
     required property var deviceFactory
-    signal actionRequested(string command, string title, var dataOf)
+    signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
     readonly property string zoneComplaint: zoneBox.currentIndex >= 0 ? ""
@@ -22,7 +22,7 @@ Column {
         width: parent.width
         available: root.available
         deviceFactory: root.deviceFactory
-        onActionRequested: (command, title, dataOf) => root.actionRequested(command, title, dataOf)
+        onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
         onRefused: message => root.refused(message)
     }
     OVSection {
@@ -125,7 +125,7 @@ Column {
                         timeZone: zoneBox.currentIndex, ntpSet: ntpBox.checked, ntpServer: serverField.text.trim(),
                         ntpPort: Number(portField.text), updatePeriod: Number(periodField.text)
                     };
-                    root.actionRequested("ntpConfig", qsTr("时区和NTP"), () => data);
+                    root.actionRequested("ntpConfig", qsTr("时区和NTP"), data);
                 }
             }
         }

@@ -1,0 +1,211 @@
+#include "device/batch/batch.h"
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+
+namespace {
+
+constexpr int frame = 16; // milliseconds
+
+} // namespace
+
+/// Gathers what the engine's threads report until the scene's thread takes it.
+class Batch::Mailbox : public BatchWatcher
+{
+public:
+    struct Finished
+    {
+        qsizetype place = 0;
+        StepOutcome outcome;
+        QDateTime time;
+    };
+
+    struct News
+    {
+        QList<qsizetype> started;
+        QList<Finished> finished;
+        bool isHeld = false;
+        bool hasEnded = false;
+    };
+
+    explicit Mailbox(Batch *batch) : m_batch(batch) {}
+
+    void started(std::size_t place) override
+    {
+        note([place](News &news) { news.started.append(static_cast<qsizetype>(place)); });
+    }
+
+    void finished(std::size_t place, const StepOutcome &outcome) override
+    {
+        note([&](News &news) {
+            news.finished.append({.place = static_cast<qsizetype>(place),
+                                  .outcome = outcome,
+                                  .time = QDateTime::currentDateTime()});
+        });
+    }
+
+    void held() override
+    {
+        note([](News &news) { news.isHeld = true; });
+    }
+
+    void ended() override
+    {
+        note([](News &news) { news.hasEnded = true; });
+    }
+
+    [[nodiscard]] News take()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isPosted = false;
+        return std::exchange(m_news, {});
+    }
+
+    /// The batch goes: nothing is posted to it any more.
+    void close()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_batch = nullptr;
+    }
+
+private:
+    void note(const std::function<void(News &news)> &add)
+    {
+        const std::lock_guard lock(m_mutex);
+        add(m_news);
+        if (m_batch && !std::exchange(m_isPosted, true))
+            QMetaObject::invokeMethod(&m_batch->m_frame, qOverload<>(&QTimer::start), Qt::QueuedConnection);
+    }
+
+    std::mutex m_mutex;
+    Batch *m_batch;
+    News m_news;
+    bool m_isPosted = false;
+};
+
+Batch::Batch(BatchEngine &engine, BatchPlan plan, QObject *parent)
+    : QObject(parent), m_engine(engine), m_plan(std::move(plan)), m_mailbox(std::make_shared<Mailbox>(this))
+{
+    m_frame.setSingleShot(true);
+    m_frame.setInterval(frame);
+    connect(&m_frame, &QTimer::timeout, this, &Batch::takeNews);
+
+    QStringList names;
+    for (const BatchDevice &device : std::as_const(m_plan.devices)) {
+        m_places.insert(device.name, m_entries.size());
+        m_entries.append(
+            {.device = device, .outcome = {.result = BatchReport::NotDone, .text = {}}, .time = {}});
+        names.append(device.name);
+    }
+    m_report.begin(names);
+}
+
+Batch::~Batch()
+{
+    m_mailbox->close();
+    m_engine.stop(m_number);
+}
+
+bool Batch::start()
+{
+    std::vector<BatchItem> items;
+    items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
+    for (const BatchDevice &device : std::as_const(m_plan.devices))
+        items.push_back({.device = device.identity, .step = m_plan.stepOf(device)});
+    m_began = QDateTime::currentDateTime();
+    m_isRunning = true;
+    m_number = m_engine.start(std::move(items), m_plan.policy, m_mailbox);
+    m_isRunning = m_number != 0;
+    Q_EMIT changed();
+    return m_isRunning;
+}
+
+QString Batch::device() const
+{
+    return m_running.isEmpty() ? QString() : m_entries.at(m_running.constFirst()).device.name;
+}
+
+int Batch::secondsLeft() const
+{
+    constexpr qint64 earliest = 2000; // milliseconds
+    const qint64 elapsed = m_began.msecsTo(QDateTime::currentDateTime());
+    if (!m_isRunning || m_done == 0 || elapsed < earliest)
+        return -1;
+    return static_cast<int>(elapsed * (total() - m_done) / m_done / 1000);
+}
+
+void Batch::stop()
+{
+    if (!m_isRunning || std::exchange(m_isStopping, true))
+        return;
+    Q_EMIT changed();
+    m_engine.stop(m_number);
+}
+
+void Batch::resume()
+{
+    if (!std::exchange(m_isHeld, false))
+        return;
+    Q_EMIT changed();
+    m_engine.resume(m_number);
+}
+
+QStringList Batch::failedDevices() const
+{
+    return m_report.devicesNotSucceeded();
+}
+
+QStringList Batch::retryableDevices() const
+{
+    QStringList names;
+    for (const Entry &entry : m_entries) {
+        if (entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome.result) &&
+            m_plan.stepOf)
+            names.append(entry.device.name);
+    }
+    return names;
+}
+
+QString Batch::textOf(const QString &device) const
+{
+    const auto place = m_places.constFind(device);
+    return place == m_places.cend() ? QString() : m_entries.at(*place).outcome.text;
+}
+
+void Batch::takeNews()
+{
+    const Mailbox::News news = m_mailbox->take();
+    m_running.append(news.started);
+    QStringList devices;
+    QList<int> results;
+    for (const Mailbox::Finished &finished : news.finished) {
+        Entry &entry = m_entries[finished.place];
+        entry.outcome = finished.outcome;
+        entry.time = finished.time;
+        m_report.note(entry.device.name, entry.outcome.result);
+        m_running.removeOne(finished.place);
+        ++m_done;
+        devices.append(entry.device.name);
+        results.append(entry.outcome.result);
+    }
+    m_isHeld = m_isHeld || news.isHeld;
+    if (!devices.isEmpty())
+        Q_EMIT resulted(devices, results);
+    if (news.hasEnded)
+        finish();
+    else
+        Q_EMIT changed();
+}
+
+void Batch::finish()
+{
+    m_isRunning = false;
+    m_isHeld = false;
+    m_ended = QDateTime::currentDateTime();
+    const QStringList notDone = m_report.devicesWith(BatchReport::NotDone);
+    if (!notDone.isEmpty())
+        Q_EMIT resulted(notDone, QList<int>(notDone.size(), BatchReport::NotDone));
+    Q_EMIT changed();
+    Q_EMIT finished();
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "device/batch/batchplan.h"
+#include "device/batchreport.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+/// One batch of the session, for the scene: how far it is and what has come of each device. What its steps
+/// report on the engine's threads arrives here in groups, one for each painted frame at most.
+///
+/// Lives on the scene's thread.
+class Batch : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(int total READ total CONSTANT)
+    Q_PROPERTY(int done READ done NOTIFY changed)
+    Q_PROPERTY(double progress READ progress NOTIFY changed)
+    Q_PROPERTY(QString device READ device NOTIFY changed)
+    Q_PROPERTY(bool running READ isRunning NOTIFY changed)
+    Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
+    Q_PROPERTY(bool held READ isHeld NOTIFY changed)
+    Q_PROPERTY(int secondsLeft READ secondsLeft NOTIFY changed)
+    Q_PROPERTY(BatchReport *report READ report CONSTANT)
+    Q_PROPERTY(bool changesAddresses READ changesAddresses CONSTANT)
+    Q_PROPERTY(QDateTime began READ began CONSTANT)
+    Q_PROPERTY(QDateTime ended READ ended NOTIFY changed)
+public:
+    /// What has come of a device.
+    struct Entry
+    {
+        BatchDevice device;
+        StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
+        QDateTime time; ///< of the outcome; invalid when nothing was done
+    };
+
+    /// `engine` lives longer than this.
+    Batch(BatchEngine &engine, BatchPlan plan, QObject *parent = nullptr);
+    ~Batch() override;
+
+    /// To be called once. Returns false when the engine does not take the batch.
+    bool start();
+
+    [[nodiscard]] const QString &title() const { return m_plan.title; }
+    [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
+    [[nodiscard]] int done() const { return m_done; }
+    [[nodiscard]] double progress() const { return total() > 0 ? static_cast<double>(m_done) / total() : 0; }
+
+    /// Name of a device that is being worked on; empty when there is none.
+    [[nodiscard]] QString device() const;
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
+    [[nodiscard]] bool isStopping() const { return m_isRunning && m_isStopping; }
+
+    /// Too many devices in a row have refused the password: the user decides whether it goes on.
+    [[nodiscard]] bool isHeld() const { return m_isRunning && m_isHeld && !m_isStopping; }
+
+    /// Estimated, -1 while there is nothing to estimate from.
+    [[nodiscard]] int secondsLeft() const;
+    [[nodiscard]] BatchReport *report() { return &m_report; }
+    /// Whether Batches::putAddressesBack() can undo it.
+    [[nodiscard]] bool changesAddresses() const { return !m_plan.addressesBefore.isEmpty(); }
+    [[nodiscard]] const QDateTime &began() const { return m_began; }
+    [[nodiscard]] const QDateTime &ended() const { return m_ended; }
+    [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
+    [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
+
+    /// What its steps were made from, such as a password, is kept only as long as it may be retried.
+    void forgetSteps() { m_plan.stepOf = nullptr; }
+
+    /// Leaves out what was not begun. Running steps end at their next safe point.
+    Q_INVOKABLE void stop();
+
+    /// Goes on after isHeld().
+    Q_INVOKABLE void resume();
+
+    /// Names of the devices that failed or were not done, and of those of them that may succeed in a retry.
+    Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
+    Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
+
+    /// What a device's outcome says beside its code; empty when there is nothing.
+    Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
+
+Q_SIGNALS:
+    void changed();
+
+    /// Names of devices and their results, in the order in which they came. At the end of the batch also
+    /// those of the devices that were not done.
+    void resulted(const QStringList &devices, const QList<int> &results);
+
+    void finished(); ///< once, the last one
+
+private:
+    class Mailbox;
+
+    void takeNews();
+    void finish();
+
+    BatchEngine &m_engine;
+    BatchPlan m_plan;
+    BatchReport m_report;
+    QList<Entry> m_entries;
+    QHash<QString, qsizetype> m_places; ///< in m_entries, by the device's name
+    const std::shared_ptr<Mailbox> m_mailbox;
+    QTimer m_frame;
+    QList<qsizetype> m_running; ///< places of running steps, in the order of their start
+    QDateTime m_began;
+    QDateTime m_ended;
+    int m_number = 0; ///< in the engine
+    int m_done = 0;
+    bool m_isRunning = false;
+    bool m_isStopping = false;
+    bool m_isHeld = false;
+};

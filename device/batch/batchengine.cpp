@@ -1,0 +1,266 @@
+#include "device/batch/batchengine.h"
+
+#include "device/logging.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+/// Whether another try with the same account may lock it.
+bool isRefusal(int result)
+{
+    return result == resultCode(LoginResult::NoSuchAccount) ||
+           result == resultCode(LoginResult::WrongPassword) ||
+           result == resultCode(LoginResult::AccountLocked);
+}
+
+} // namespace
+
+BatchEngine::BatchEngine(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
+
+BatchEngine::~BatchEngine()
+{
+    end();
+}
+
+int BatchEngine::start(std::vector<BatchItem> items, const BatchPolicy &policy,
+                       std::shared_ptr<BatchWatcher> watcher)
+{
+    const auto batch = std::make_shared<Batch>();
+    batch->items = std::move(items);
+    batch->policy = policy;
+    batch->policy.atOnce = std::max(policy.atOnce, 1);
+    batch->watcher = std::move(watcher);
+
+    QHash<QString, std::size_t> firsts;
+    for (std::size_t place = batch->items.size(); place-- > 0;)
+        firsts.insert(batch->items[place].device, place);
+    for (std::size_t place = batch->items.size(); place-- > 0;)
+        batch->waiting[firsts.value(batch->items[place].device)].push_back(place);
+
+    int number = 0;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_hasEnded)
+            return 0;
+        number = ++m_lastNumber;
+        if (!batch->items.empty()) {
+            m_batches.emplace(number, batch);
+            addThreadsLocked();
+            if (m_threads.empty()) {
+                m_batches.erase(number);
+                return 0;
+            }
+        }
+    }
+    if (batch->items.empty())
+        batch->watcher->ended();
+    m_changed.notify_all();
+    return number;
+}
+
+void BatchEngine::addThreadsLocked()
+{
+    std::size_t wanted = 0;
+    for (const auto &[number, batch] : m_batches)
+        wanted += std::min(static_cast<std::size_t>(batch->policy.atOnce - batch->placesTaken),
+                           batch->waiting.size());
+    wanted = std::min(wanted, maximumThreads - m_threads.size() + m_idleThreads);
+    try {
+        for (std::size_t idle = m_idleThreads; idle < wanted; ++idle) {
+            m_threads.emplace_back([this](const std::stop_token &stop) { work(stop); });
+            ++m_idleThreads;
+        }
+    } catch (const std::system_error &error) {
+        qCWarning(logDevice) << "No further thread for a batch:" << error.what();
+    }
+}
+
+BatchEngine::Taken BatchEngine::takeLocked()
+{
+    for (const auto &[number, batch] : m_batches) {
+        if (batch->isHeld || batch->placesTaken >= batch->policy.atOnce)
+            continue;
+        for (auto it = batch->waiting.begin(); it != batch->waiting.end(); ++it) {
+            const std::size_t place = it->second.back();
+            if (m_busyDevices.contains(batch->items[place].device))
+                continue;
+            Taken taken{.batch = batch, .number = number, .place = place, .rest = std::move(it->second)};
+            taken.rest.pop_back();
+            batch->waiting.erase(it);
+            m_busyDevices.insert(batch->items[place].device);
+            ++batch->running;
+            ++batch->placesTaken;
+            return taken;
+        }
+    }
+    return {};
+}
+
+bool BatchEngine::hasWorkLocked() const
+{
+    return std::any_of(m_batches.begin(), m_batches.end(), [this](const auto &entry) {
+        const Batch &batch = *entry.second;
+        return !batch.isHeld && batch.placesTaken < batch.policy.atOnce &&
+               std::any_of(batch.waiting.begin(), batch.waiting.end(), [&](const auto &waiting) {
+                   return !m_busyDevices.contains(batch.items[waiting.second.back()].device);
+               });
+    });
+}
+
+void BatchEngine::work(const std::stop_token &stop)
+{
+    for (;;) {
+        Taken taken;
+        {
+            std::unique_lock lock(m_mutex);
+            if (!m_changed.wait(lock, stop, [this] { return hasWorkLocked(); }) || stop.stop_requested())
+                return;
+            taken = takeLocked();
+            --m_idleThreads;
+        }
+        run(std::move(taken));
+        const std::lock_guard lock(m_mutex);
+        ++m_idleThreads;
+    }
+}
+
+void BatchEngine::run(Taken taken)
+{
+    Batch &batch = *taken.batch;
+    const QString device = batch.items[taken.place].device;
+    bool holdsPlace = true;
+    const StepOutcome outcome = perform(batch, taken.place, holdsPlace);
+    batch.watcher->finished(taken.place, outcome);
+
+    bool isHeldNow = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        isHeldNow = noteLocked(batch, taken, outcome);
+        m_busyDevices.remove(device);
+        if (std::exchange(holdsPlace, false))
+            --batch.placesTaken;
+        if (!taken.rest.empty() && !batch.isStopped)
+            batch.waiting.emplace(taken.rest.back(), std::move(taken.rest));
+    }
+    if (isHeldNow)
+        batch.watcher->held();
+    bool hasEnded = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        --batch.running;
+        hasEnded = batch.running == 0 && batch.waiting.empty();
+        if (hasEnded)
+            m_batches.erase(taken.number);
+    }
+    if (hasEnded)
+        batch.watcher->ended();
+    m_changed.notify_all();
+}
+
+StepOutcome BatchEngine::perform(Batch &batch, std::size_t place, bool &holdsPlace)
+{
+    const BatchItem &item = batch.items[place];
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto refusal = batch.refusals.constFind(item.device);
+        if (refusal != batch.refusals.cend())
+            return *refusal;
+    }
+    batch.watcher->started(place);
+    const std::int64_t deadline = batch.policy.deadline.count() > 0
+                                      ? m_clock->now() + batch.policy.deadline.count()
+                                      : StepControl::noDeadline;
+    return item.step(StepControl(batch.stop.get_token(), m_clock, deadline,
+                                 [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); }));
+}
+
+void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
+{
+    const std::lock_guard lock(m_mutex);
+    // Each step that waits occupies a thread: beyond this number, it keeps its place.
+    if (!holdsPlace || (m_threads.size() >= maximumThreads && m_idleThreads == 0))
+        return;
+    holdsPlace = false;
+    --batch.placesTaken;
+    addThreadsLocked();
+    m_changed.notify_all();
+}
+
+bool BatchEngine::noteLocked(Batch &batch, const Taken &taken, const StepOutcome &outcome)
+{
+    const QString device = batch.items[taken.place].device;
+    if (isRefusal(outcome.result) && !batch.refusals.contains(device)) {
+        batch.refusals.insert(device, outcome);
+        ++batch.wrongPasswords;
+    } else if (outcome.result == resultCode(LoginResult::Success)) {
+        batch.wrongPasswords = 0;
+    }
+    const bool isTooOften =
+        batch.policy.wrongPasswordsInARow > 0 && batch.wrongPasswords >= batch.policy.wrongPasswordsInARow;
+    const bool hasMore = !batch.waiting.empty() || !taken.rest.empty();
+    return isTooOften && hasMore && !batch.isStopped && !std::exchange(batch.isHeld, true);
+}
+
+void BatchEngine::stop(int number)
+{
+    std::shared_ptr<Batch> batch;
+    bool hasEnded = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_batches.find(number);
+        if (found == m_batches.end())
+            return;
+        batch = found->second;
+        batch->isStopped = true;
+        batch->waiting.clear();
+        hasEnded = batch->running == 0;
+        if (hasEnded)
+            m_batches.erase(found);
+    }
+    batch->stop.request_stop(); // runs what the steps have registered
+    if (hasEnded)
+        batch->watcher->ended();
+}
+
+void BatchEngine::resume(int number)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_batches.find(number);
+        if (found == m_batches.end())
+            return;
+        found->second->isHeld = false;
+        found->second->wrongPasswords = 0;
+        addThreadsLocked();
+    }
+    m_changed.notify_all();
+}
+
+void BatchEngine::requestEnd()
+{
+    std::vector<int> numbers;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_hasEnded = true;
+        for (const auto &[number, batch] : m_batches)
+            numbers.push_back(number);
+    }
+    for (const int number : numbers)
+        stop(number);
+}
+
+void BatchEngine::end()
+{
+    requestEnd();
+    std::vector<std::jthread> threads;
+    {
+        const std::lock_guard lock(m_mutex);
+        threads.swap(m_threads);
+    }
+    for (std::jthread &thread : threads)
+        thread.request_stop();
+    threads.clear(); // joins them
+}

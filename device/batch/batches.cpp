@@ -1,0 +1,190 @@
+#include "device/batch/batches.h"
+
+#include "device/batch/addressorder.h"
+#include "device/devicefactory.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int wrongPasswordsInARow = 5;
+
+} // namespace
+
+Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
+    : QObject(parent), m_factory(factory), m_engine(engine), m_atOnce(std::move(atOnce))
+{
+}
+
+BatchPolicy Batches::usualPolicy() const
+{
+    return {.atOnce = m_atOnce(),
+            .deadline = std::chrono::milliseconds(0),
+            .wrongPasswordsInARow = wrongPasswordsInARow};
+}
+
+Batch *Batches::configureSystem(const QString &family, const QString &command, const QString &title,
+                                const QVariantMap &data, const QStringList &ipports)
+{
+    QVariantMap values = data;
+    if (command == QLatin1String("setTimeByPC"))
+        values.insert(QStringLiteral("timeOfRequest"), true);
+    return start({.family = family,
+                  .title = title,
+                  .devices = batchDevices(m_factory, family, ipports),
+                  .policy = usualPolicy(),
+                  .stepOf =
+                      [this, family, command, values](const BatchDevice &device) {
+                          return m_factory.systemStep(family, command, values, device.ipport);
+                      },
+                  .changesRows = command == QLatin1String("resetSystem")});
+}
+
+Batch *Batches::setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
+                                  const QString &account, const QString &password)
+{
+    return start({.family = family,
+                  .title = title,
+                  .devices = batchDevices(m_factory, family, macs),
+                  .policy = {.atOnce = 1},
+                  .stepOf =
+                      [this, family, account, password](const BatchDevice &device) {
+                          return m_factory.initialisationStep(family, device.name, account, password);
+                      },
+                  .changesRows = true,
+                  .notesResults = true});
+}
+
+Batch *Batches::changeAddresses(const QString &family, const QString &title, const QStringList &macs,
+                                const QStringList &addresses, const QString &mask, const QString &gateway,
+                                bool dhcp)
+{
+    BatchPlan plan;
+    plan.family = family;
+    plan.title = title;
+    plan.devices = batchDevices(m_factory, family, macs);
+    QHash<QString, AddressSettings> targets;
+    for (qsizetype place = 0; place < plan.devices.size(); ++place) {
+        if (dhcp)
+            targets.insert(plan.devices.at(place).identity,
+                           {.address = {}, .mask = {}, .gateway = {}, .dhcp = true});
+        else
+            targets.insert(
+                plan.devices.at(place).identity,
+                {.address = addresses.value(place), .mask = mask, .gateway = gateway, .dhcp = false});
+    }
+    return startAddresses(std::move(plan), targets);
+}
+
+Batch *Batches::putAddressesBack(Batch *batch, const QString &title)
+{
+    if (!batch || batch->isRunning())
+        return nullptr;
+    BatchPlan plan;
+    plan.family = batch->plan().family;
+    plan.title = title;
+    for (const Batch::Entry &entry : batch->entries()) {
+        if (entry.outcome.result == BatchReport::Succeeded)
+            plan.devices.append(batchDevice(m_factory, plan.family, entry.device.name));
+    }
+    return plan.devices.isEmpty() ? nullptr : startAddresses(std::move(plan), batch->plan().addressesBefore);
+}
+
+Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets)
+{
+    QList<AddressChange> changes;
+    for (const BatchDevice &device : std::as_const(plan.devices)) {
+        const QVariantMap detail = m_factory.getDeviceDetail(plan.family, device.name);
+        const AddressSettings before = {.address = device.ipport.section(QLatin1Char(':'), 0, 0),
+                                        .mask = detail.value(QStringLiteral("submask")).toString(),
+                                        .gateway = detail.value(QStringLiteral("gateway")).toString(),
+                                        .dhcp = detail.value(QStringLiteral("dhcp")).toBool()};
+        plan.addressesBefore.insert(device.identity, before);
+        changes.append({.oldAddress = before.address, .newAddress = targets.value(device.identity).address});
+    }
+    const AddressOrder order = addressOrder(changes);
+    if (!order.circle.isEmpty()) {
+        const AddressChange &first = changes.at(order.circle.constFirst());
+        Q_EMIT refused(tr("设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。")
+                           .arg(first.oldAddress, first.newAddress));
+        return nullptr;
+    }
+    QList<BatchDevice> ordered;
+    for (const qsizetype place : order.order)
+        ordered.append(plan.devices.at(place));
+    plan.devices = ordered;
+    plan.policy = {.atOnce = 1};
+    plan.stepOf = [this, family = plan.family, targets](const BatchDevice &device) {
+        const AddressSettings target = targets.value(device.identity);
+        return target.dhcp ? m_factory.addressStep(family, device.name, {}, {}, {}, true)
+                           : m_factory.addressStep(family, device.name, target.address, target.mask,
+                                                   target.gateway, false);
+    };
+    plan.changesRows = true;
+    plan.notesResults = true;
+    return start(std::move(plan));
+}
+
+Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, const QStringList &ipports)
+{
+    return start({.family = family,
+                  .title = title,
+                  .devices = batchDevices(m_factory, family, ipports),
+                  .policy = usualPolicy(),
+                  .stepOf = [this, family](const BatchDevice &device) {
+                      return m_factory.copyStep(family, device.ipport);
+                  }});
+}
+
+Batch *Batches::retry(Batch *batch)
+{
+    if (!batch || batch->isRunning())
+        return nullptr;
+    const QStringList retryable = batch->retryableDevices();
+    const QSet<QString> names(retryable.cbegin(), retryable.cend());
+    BatchPlan plan = batch->plan();
+    plan.devices.removeIf([&](const BatchDevice &device) { return !names.contains(device.name); });
+    return plan.devices.isEmpty() ? nullptr : start(std::move(plan));
+}
+
+Batch *Batches::start(BatchPlan plan)
+{
+    if (isRunning()) {
+        Q_EMIT refused(tr("“%1”正在进行，请等待其完成").arg(current()->title()));
+        return nullptr;
+    }
+    auto *batch = new Batch(m_engine, std::move(plan), this);
+    const int work = m_factory.busyState()->begin(batch->title(), BusyState::Rows);
+    connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });
+    if (!batch->start()) {
+        m_factory.busyState()->end(work);
+        delete batch;
+        Q_EMIT refused(tr("系统资源不足，无法开始"));
+        return nullptr;
+    }
+    for (Batch *earlier : std::as_const(m_kept))
+        earlier->forgetSteps();
+    m_kept.append(batch);
+    if (m_kept.size() > maximumKept)
+        m_kept.takeFirst()->deleteLater();
+    Q_EMIT currentChanged();
+    Q_EMIT runningChanged();
+    return batch;
+}
+
+void Batches::finish(Batch *batch, int work)
+{
+    const BatchPlan &plan = batch->plan();
+    QStringList reached;
+    for (const Batch::Entry &entry : batch->entries()) {
+        if (plan.notesResults && entry.outcome.result == BatchReport::NotDone)
+            m_factory.updataDeviceInfo(plan.family, QStringLiteral("res"), BatchReport::NotDone,
+                                       entry.device.identity, entry.device.ipport);
+        else if (entry.outcome.result != BatchReport::NotDone)
+            reached.append(entry.device.identity);
+    }
+    if (plan.changesRows)
+        m_factory.refreshDevices(plan.family, reached);
+    m_factory.busyState()->end(work);
+    Q_EMIT runningChanged();
+}

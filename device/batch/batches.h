@@ -1,0 +1,79 @@
+#pragma once
+
+#include "device/batch/batch.h"
+
+#include <QVariantMap>
+
+class CDeviceFactory;
+
+/// The batches of the session, and the place where the scene starts one. One batch runs at a time; another
+/// one is refused until it has ended. While it runs, the busy state knows it.
+///
+/// Lives on the scene's thread.
+class Batches : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(Batch *current READ current NOTIFY currentChanged)
+    Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
+public:
+    /// Batches that are kept, the running one included.
+    static constexpr int maximumKept = 50;
+
+    /// `factory` and `engine` live longer than this. `atOnce` tells how many devices are worked on at the
+    /// same time.
+    Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce,
+            QObject *parent = nullptr);
+
+    /// The last one that was started; null before the first.
+    [[nodiscard]] Batch *current() const { return m_kept.isEmpty() ? nullptr : m_kept.constLast(); }
+    [[nodiscard]] bool isRunning() const { return current() && current()->isRunning(); }
+    [[nodiscard]] const QList<Batch *> &kept() const { return m_kept; }
+
+    // Each starts a batch and returns it, or null after refused(). The scene does not own it.
+
+    /// A command of systemConfig(), for devices by address and port. For "setTimeByPC" each device gets the
+    /// time of its own request.
+    Q_INVOKABLE Batch *configureSystem(const QString &family, const QString &command, const QString &title,
+                                       const QVariantMap &data, const QStringList &ipports);
+
+    /// First passwords for factory-new devices, one after another in the order of the list.
+    Q_INVOKABLE Batch *setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
+                                         const QString &account, const QString &password);
+
+    /// A new address for each device, at its place in `addresses`; none with DHCP. One after another in the
+    /// order of the list, but a device that gets the address of another one comes after it. Refused when
+    /// there is no such order.
+    Q_INVOKABLE Batch *changeAddresses(const QString &family, const QString &title, const QStringList &macs,
+                                       const QStringList &addresses, const QString &mask,
+                                       const QString &gateway, bool dhcp);
+
+    /// The settings that the changed devices of an ended changeAddresses() had before.
+    Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title);
+
+    /// The encode settings of the current session's channel, for devices by address and port.
+    Q_INVOKABLE Batch *copyEncodeSettings(const QString &family, const QString &title,
+                                          const QStringList &ipports);
+
+    /// The devices of an ended batch again that may succeed in another try.
+    Q_INVOKABLE Batch *retry(Batch *batch);
+
+    /// How many devices are worked on at the same time, unless the work says otherwise.
+    [[nodiscard]] BatchPolicy usualPolicy() const;
+
+    Batch *start(BatchPlan plan);
+
+Q_SIGNALS:
+    void currentChanged();
+    void runningChanged();
+    void refused(const QString &message);
+
+private:
+    /// `targets` hold what each device gets, by identity.
+    Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets);
+    void finish(Batch *batch, int work);
+
+    CDeviceFactory &m_factory;
+    BatchEngine &m_engine;
+    const std::function<int()> m_atOnce;
+    QList<Batch *> m_kept; ///< owned, oldest first
+};

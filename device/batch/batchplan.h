@@ -1,0 +1,58 @@
+// What a batch is to do.
+#pragma once
+
+#include "device/batch/batchengine.h"
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+class CDeviceFactory;
+
+/// What a device had before its address was changed.
+struct AddressSettings
+{
+    QString address;
+    QString mask;
+    QString gateway;
+    bool dhcp = false;
+};
+
+/// A device of a batch.
+struct BatchDevice
+{
+    QString name;     ///< as the page names it that asks for the batch: its address and port, or its MAC
+    QString identity; ///< its MAC, or its address and port where it has none
+    QString ipport;   ///< as of the start of the batch
+    QString title;    ///< its name and model, for the user
+};
+
+struct BatchPlan
+{
+    QString family; ///< of the devices
+    QString title;  ///< of the work, for the user
+    QList<BatchDevice> devices = {};
+    BatchPolicy policy = {};
+
+    /// Makes the step of a device. Called on the scene's thread, at the start and at each retry.
+    std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
+
+    /// Whether the devices that were reached are queried again at the end, since what their rows show
+    /// changes.
+    bool changesRows = false;
+
+    /// Whether the rows hold the results, in "res". A step writes its own; the batch writes those of devices
+    /// that were not done.
+    bool notesResults = false;
+
+    QHash<QString, AddressSettings> addressesBefore = {}; ///< by identity; of a batch that changes addresses
+};
+
+/// The device that a page names by address and port or by MAC.
+[[nodiscard]] BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name);
+[[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
+                                              const QStringList &names);
+
+/// Whether another try with the same data may succeed.
+[[nodiscard]] bool maySucceedLater(int result);

@@ -1,0 +1,62 @@
+// The work of an operation with one device. It is made on the scene's thread and runs on any other.
+#pragma once
+
+#include "device/loginresult.h"
+#include "sdk/clock.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <stop_token>
+
+/// What has come of a step.
+struct StepOutcome
+{
+    int result = resultCode(LoginResult::Success); ///< a LoginResult, or another code of the operation
+    QString text;                                  ///< in the user's language; empty when the code says all
+
+    bool operator==(const StepOutcome &) const = default;
+};
+
+/// What a running step asks at its safe points: between two requests, and in its waits.
+class StepControl
+{
+public:
+    static constexpr std::int64_t noDeadline = std::numeric_limits<std::int64_t>::max();
+
+    /// Of a step that nothing ends early.
+    StepControl() = default;
+
+    /// `deadline` is a time of `clock`. `releasePlace` may be empty.
+    StepControl(std::stop_token stop, std::shared_ptr<const sdk::Clock> clock, std::int64_t deadline,
+                std::function<void()> releasePlace)
+        : m_stop(std::move(stop)), m_clock(std::move(clock)), m_deadline(deadline),
+          m_releasePlace(std::move(releasePlace))
+    {
+    }
+
+    [[nodiscard]] bool isStopped() const { return m_stop.stop_requested(); }
+    [[nodiscard]] bool isLate() const { return m_clock && m_clock->now() >= m_deadline; }
+    [[nodiscard]] bool shouldEnd() const { return isStopped() || isLate(); }
+    [[nodiscard]] const std::stop_token &stopToken() const { return m_stop; }
+
+    /// The step only waits for its device from now on: another device may take its place among those that are
+    /// worked on at the same time.
+    void releasePlace() const
+    {
+        if (m_releasePlace)
+            m_releasePlace();
+    }
+
+private:
+    std::stop_token m_stop;
+    std::shared_ptr<const sdk::Clock> m_clock;
+    std::int64_t m_deadline = noDeadline;
+    std::function<void()> m_releasePlace;
+};
+
+/// Runs once, and blocks its thread for the waits of the library.
+using DeviceStep = std::function<StepOutcome(const StepControl &control)>;

@@ -1,0 +1,261 @@
+#include "device/batch/batchengine.h"
+#include "sdk/demo/steppableclock.h"
+
+#include <QSemaphore>
+#include <QTest>
+
+#include <algorithm>
+#include <atomic>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int wrongPassword = resultCode(LoginResult::WrongPassword);
+constexpr int success = resultCode(LoginResult::Success);
+constexpr int longest = 10000; // milliseconds, of a test that fails
+
+/// What a batch has reported, and gates that its steps wait at.
+class Record : public BatchWatcher
+{
+public:
+    void started(std::size_t place) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_started.append(static_cast<int>(place));
+    }
+    void finished(std::size_t place, const StepOutcome &outcome) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_finished.append({static_cast<int>(place), outcome.result});
+    }
+    void held() override { ++holds; }
+    void ended() override { ++ends; }
+
+    [[nodiscard]] QList<int> startedPlaces() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_started;
+    }
+    [[nodiscard]] QList<std::pair<int, int>> results() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_finished;
+    }
+
+    std::atomic<int> holds = 0;
+    std::atomic<int> ends = 0;
+
+private:
+    mutable std::mutex m_mutex;
+    QList<int> m_started;
+    QList<std::pair<int, int>> m_finished;
+};
+
+} // namespace
+
+class TestBatchEngine : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
+    std::unique_ptr<BatchEngine> m_engine;
+    std::shared_ptr<Record> m_record;
+    QSemaphore m_gate; ///< a step that waits takes one
+    std::atomic<int> m_runs = 0;
+
+    /// A step that ends when the gate lets it, or when it is stopped.
+    BatchItem waiting(const QString &device)
+    {
+        return {.device = device, .step = [this](const StepControl &control) {
+                    ++m_runs;
+                    while (!m_gate.tryAcquire(1, 1)) {
+                        if (control.isStopped())
+                            return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
+                    }
+                    return StepOutcome();
+                }};
+    }
+    BatchItem ending(const QString &device, int result = success)
+    {
+        return {.device = device, .step = [this, result](const StepControl &) {
+                    ++m_runs;
+                    return StepOutcome{.result = result, .text = {}};
+                }};
+    }
+    [[nodiscard]] std::vector<BatchItem> many(int count)
+    {
+        std::vector<BatchItem> items;
+        for (int number = 0; number < count; ++number)
+            items.push_back(waiting(QString::number(number)));
+        return items;
+    }
+    int start(std::vector<BatchItem> items, const BatchPolicy &policy)
+    {
+        return m_engine->start(std::move(items), policy, m_record);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        m_engine = std::make_unique<BatchEngine>(m_clock);
+        m_record = std::make_shared<Record>();
+        m_runs = 0;
+        while (m_gate.tryAcquire())
+            ;
+    }
+
+    void cleanup()
+    {
+        m_gate.release(1000);
+        m_engine.reset();
+    }
+
+    void worksOnAFewAtATime_data()
+    {
+        QTest::addColumn<int>("atOnce");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("one") << 1 << 1;
+        QTest::newRow("three") << 3 << 3;
+        QTest::newRow("more than there are") << 20 << 6;
+    }
+
+    void worksOnAFewAtATime()
+    {
+        QFETCH(int, atOnce);
+        QFETCH(int, expected);
+        QVERIFY(start(many(6), {.atOnce = atOnce}) > 0);
+        QTRY_COMPARE(m_runs, expected);
+        for (int ended = 1; ended <= 6; ++ended) {
+            m_gate.release();
+            QTRY_COMPARE(m_runs, std::min(expected + ended, 6));
+            QTRY_COMPARE(m_record->results().size(), ended);
+        }
+        QTRY_COMPARE(m_record->ends, 1);
+        QList<int> places = m_record->startedPlaces();
+        if (expected > 1)
+            std::sort(places.begin(), places.end());
+        QCOMPARE(places, (QList<int>{0, 1, 2, 3, 4, 5}));
+    }
+
+    /// Whichever batches the steps are of, and in the order in which they were asked for.
+    void oneStepOfADeviceAtATime()
+    {
+        const auto other = std::make_shared<Record>();
+        start({waiting("a"), waiting("a"), waiting("b")}, {.atOnce = 8});
+        QTRY_COMPARE(m_record->startedPlaces().size(), 2);
+        m_engine->start({waiting("a"), waiting("c")}, {.atOnce = 8}, other);
+        QTRY_COMPARE(other->startedPlaces(), QList<int>{1});
+        QVERIFY(!m_record->startedPlaces().contains(1));
+        m_gate.release(5);
+        QTRY_COMPARE(m_record->ends + other->ends, 2);
+        QCOMPARE(m_runs, 5);
+    }
+
+    void aRefusedAccountIsNotTriedAgain_data()
+    {
+        QTest::addColumn<int>("result");
+        QTest::addColumn<int>("expectedRuns");
+        QTest::newRow("wrong password") << wrongPassword << 1;
+        QTest::newRow("locked") << resultCode(LoginResult::AccountLocked) << 1;
+        QTest::newRow("no answer") << resultCode(LoginResult::NetworkFailure) << 3;
+    }
+
+    void aRefusedAccountIsNotTriedAgain()
+    {
+        QFETCH(int, result);
+        QFETCH(int, expectedRuns);
+        start({ending("a", result), ending("a", result), ending("a", result)}, {.atOnce = 8});
+        QTRY_COMPARE(m_record->ends, 1);
+        QCOMPARE(m_runs, expectedRuns);
+        QCOMPARE(m_record->results(), (QList<std::pair<int, int>>{{0, result}, {1, result}, {2, result}}));
+    }
+
+    void wrongPasswordsInARowHoldABatch()
+    {
+        std::vector<BatchItem> items = {ending("a", wrongPassword), ending("b"), ending("c", wrongPassword),
+                                        ending("d", wrongPassword), ending("e"), ending("f")};
+        const int batch = start(std::move(items), {.atOnce = 1, .wrongPasswordsInARow = 2});
+        QTRY_COMPARE(m_record->holds, 1);
+        QCOMPARE(m_runs, 4);
+        m_engine->resume(batch);
+        QTRY_COMPARE(m_record->ends, 1);
+        QCOMPARE(m_runs, 6);
+        QCOMPARE(m_record->holds, 1);
+    }
+
+    void stopSkipsWhatWaitsAndReachesWhatRuns()
+    {
+        const int batch = start(many(100), {.atOnce = 4});
+        QTRY_COMPARE(m_runs, 4);
+        m_engine->stop(batch);
+        QTRY_COMPARE(m_record->ends, 1);
+        QCOMPARE(m_runs, 4);
+        QCOMPARE(m_record->results().size(), 4);
+        m_engine->stop(batch);
+        QCOMPARE(m_record->ends, 1);
+    }
+
+    void aHeldBatchCanBeStopped()
+    {
+        const int batch =
+            start({ending("a", wrongPassword), ending("b")}, {.atOnce = 1, .wrongPasswordsInARow = 1});
+        QTRY_COMPARE(m_record->holds, 1);
+        m_engine->stop(batch);
+        QTRY_COMPARE(m_record->ends, 1);
+        QCOMPARE(m_runs, 1);
+    }
+
+    void aStepThatWaitsForItsDeviceGivesItsPlaceAway()
+    {
+        std::vector<BatchItem> items;
+        for (int number = 0; number < 5; ++number) {
+            items.push_back({.device = QString::number(number), .step = [this](const StepControl &control) {
+                                 control.releasePlace();
+                                 ++m_runs;
+                                 m_gate.acquire();
+                                 return StepOutcome();
+                             }});
+        }
+        start(std::move(items), {.atOnce = 1});
+        QTRY_COMPARE(m_runs, 5);
+        m_gate.release(5);
+        QTRY_COMPARE(m_record->ends, 1);
+    }
+
+    void aStepLearnsOfItsDeadline()
+    {
+        std::atomic<bool> wasLate = true;
+        start({{.device = "a",
+                .step =
+                    [&](const StepControl &control) {
+                        wasLate = control.isLate();
+                        m_gate.acquire();
+                        return StepOutcome{.result = control.shouldEnd() ? 1 : 0, .text = {}};
+                    }}},
+              {.atOnce = 1, .deadline = 5s});
+        QTRY_VERIFY(!wasLate);
+        m_clock->advance(5s);
+        m_gate.release();
+        QTRY_COMPARE(m_record->results(), (QList<std::pair<int, int>>{{0, 1}}));
+    }
+
+    void nothingStartsAfterTheEnd()
+    {
+        start(many(50), {.atOnce = 2});
+        QTRY_COMPARE(m_runs, 2);
+        m_engine->end();
+        QCOMPARE(m_record->ends, 1);
+        QCOMPARE(start(many(1), {}), 0);
+    }
+
+    void anEmptyBatchEndsAtOnce()
+    {
+        QVERIFY(start({}, {}) > 0);
+        QCOMPARE(m_record->ends, 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBatchEngine)
+#include "tst_batchengine.moc"

@@ -1,0 +1,202 @@
+#include "device/batch/addressorder.h"
+#include "device/batch/batches.h"
+#include "tests/device/dh/configsite.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr int notDone = BatchReport::NotDone;
+constexpr int networkFailure = 5;
+
+QStringList ipportsOf(const QList<sdk::demo::SceneDevice> &devices)
+{
+    QStringList names;
+    for (const sdk::demo::SceneDevice &device : devices)
+        names.append(ipportOf(device));
+    return names;
+}
+
+} // namespace
+
+/// Batches on a simulated site, as the scene starts and follows them.
+class TestBatches : public QObject
+{
+    Q_OBJECT
+private:
+    QList<sdk::demo::SceneDevice> m_devices;
+    std::unique_ptr<BatchEngine> m_engine;
+    std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<Batches> m_batches;
+
+    Batch *setStandard(const QStringList &ipports) const
+    {
+        return m_batches->configureSystem("dh", "videoStandard", "Standard", {{"videoStandard", 1}}, ipports);
+    }
+    [[nodiscard]] QStringList macs() const
+    {
+        QStringList macs;
+        for (const sdk::demo::SceneDevice &device : m_devices)
+            macs.append(device.mac);
+        return macs;
+    }
+    [[nodiscard]] QStringList addresses() const
+    {
+        QStringList addresses;
+        for (const sdk::demo::SceneDevice &device : m_site->site->devices())
+            addresses.append(device.address);
+        return addresses;
+    }
+    [[nodiscard]] QStringList askedMacs(const QString &operation) const
+    {
+        QStringList asked;
+        for (const sdk::demo::RecordedRequest &request : m_site->site->requests().of(operation))
+            asked.append(request.mac);
+        return asked;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_devices.clear();
+        for (int number = 1; number <= 4; ++number)
+            m_devices.append(configDevice(number, "IPC", 1));
+        m_engine = std::make_unique<BatchEngine>(nullptr);
+        m_site = std::make_unique<ConfigSite>(m_devices);
+        m_batches = std::make_unique<Batches>(*m_site->factory, *m_engine, [] { return 2; });
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY(!found.isEmpty());
+        m_site->site->requests().clear();
+    }
+
+    void cleanup()
+    {
+        m_site->net->passwordGate.reset();
+        m_engine->end();
+        m_batches.reset();
+        m_site.reset();
+        m_engine.reset();
+    }
+
+    void everyDeviceIsReported()
+    {
+        m_site->site->setFault(m_devices.at(1).mac, {.fault = sdk::demo::Fault::NoAnswer});
+        m_site->site->setFault(m_devices.at(2).mac, {.fault = sdk::demo::Fault::WrongPassword});
+        Batch *batch = setStandard(ipportsOf(m_devices));
+        QVERIFY(batch);
+        QHash<QString, int> results;
+        QObject::connect(batch, &Batch::resulted, this,
+                         [&](const QStringList &devices, const QList<int> &values) {
+                             for (qsizetype place = 0; place < devices.size(); ++place)
+                                 results.insert(devices.at(place), values.at(place));
+                         });
+        QVERIFY(m_site->factory->busyState()->refusal(BusyState::Search).contains("Standard"));
+        QTRY_VERIFY(!batch->isRunning());
+        QVERIFY(m_site->factory->busyState()->refusal(BusyState::Search).isEmpty());
+        QCOMPARE(results, (QHash<QString, int>{{ipportOf(m_devices.at(0)), 0},
+                                               {ipportOf(m_devices.at(1)), networkFailure},
+                                               {ipportOf(m_devices.at(2)), 2},
+                                               {ipportOf(m_devices.at(3)), 0}}));
+        QCOMPARE(batch->done(), 4);
+        QCOMPARE(batch->failedDevices(), (QStringList{ipportOf(m_devices.at(1)), ipportOf(m_devices.at(2))}));
+        // Another try with the same password may lock the account.
+        QCOMPARE(batch->retryableDevices(), QStringList{ipportOf(m_devices.at(1))});
+
+        m_site->site->clearFault(m_devices.at(1).mac, sdk::demo::Fault::NoAnswer);
+        Batch *again = m_batches->retry(batch);
+        QVERIFY(again);
+        QTRY_VERIFY(!again->isRunning());
+        QCOMPARE(again->report()->succeeded(), 1);
+        QCOMPARE(m_batches->retry(again), nullptr);
+        QCOMPARE(m_batches->kept().size(), 2);
+    }
+
+    void anotherBatchWaitsAndAStoppedOneNamesTheRest()
+    {
+        m_site->factory->systemConfig("dh", "loginCheck", {{"password", "secret1"}}, ipportsOf(m_devices));
+        m_site->net->passwordGate = std::make_unique<QSemaphore>();
+        m_site->net->passwordsAtGate = 0;
+        Batch *batch = m_batches->configureSystem("dh", "modifyPassword", "Passwords",
+                                                  {{"password", "Better-2025"}}, ipportsOf(m_devices));
+        QTRY_COMPARE(m_site->net->passwordsAtGate, 2); // two at a time
+        const QSignalSpy refused(m_batches.get(), &Batches::refused);
+        QCOMPARE(setStandard(ipportsOf(m_devices)), nullptr);
+        QVERIFY(refused.first().first().toString().contains("Passwords"));
+        batch->stop();
+        m_site->net->passwordGate->release(4);
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->report()->succeeded(), 2);
+        QCOMPARE(batch->report()->devicesWith(notDone), ipportsOf(m_devices).mid(2));
+        QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
+    }
+
+    void addressesArePutBack()
+    {
+        const QStringList before = addresses();
+        // Each device gets the address of the next one: the last one has to leave first.
+        const QStringList wanted = {"192.168.1.2", "192.168.1.3", "192.168.1.4", "192.168.1.5"};
+        Batch *batch = m_batches->changeAddresses("dh", "Addresses", macs(), wanted, "255.255.255.0",
+                                                  "192.168.1.1", false);
+        QVERIFY(batch);
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->report()->succeeded(), 4);
+        QCOMPARE(addresses(), wanted);
+        QStringList backwards = macs();
+        std::reverse(backwards.begin(), backwards.end());
+        QCOMPARE(askedMacs("NetModifyDeviceBySearch"), backwards);
+
+        Batch *back = m_batches->putAddressesBack(batch, "Back");
+        QVERIFY(back);
+        QTRY_VERIFY(!back->isRunning());
+        QCOMPARE(back->report()->succeeded(), 4);
+        QCOMPARE(addresses(), before);
+    }
+
+    void devicesDoNotExchangeAddresses()
+    {
+        const QSignalSpy refused(m_batches.get(), &Batches::refused);
+        QCOMPARE(m_batches->changeAddresses("dh", "Addresses", macs().first(2),
+                                            {"192.168.1.2", "192.168.1.1"}, "255.255.255.0", "192.168.1.254",
+                                            false),
+                 nullptr);
+        QVERIFY(refused.first().first().toString().contains("192.168.1.2"));
+        QVERIFY(askedMacs("NetModifyDeviceBySearch").isEmpty());
+    }
+
+    void addressesAreOrdered_data()
+    {
+        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<QStringList>("after");
+        QTest::addColumn<QList<qsizetype>>("order");
+        QTest::addColumn<QList<qsizetype>>("circle");
+        using Places = QList<qsizetype>;
+        QTest::newRow("nothing shared")
+            << QStringList{"a", "b"} << QStringList{"x", "y"} << Places{0, 1} << Places{};
+        QTest::newRow("upwards") << QStringList{"a", "b", "c"} << QStringList{"b", "c", "d"}
+                                 << Places{2, 1, 0} << Places{};
+        QTest::newRow("keeps its own")
+            << QStringList{"a", "b"} << QStringList{"a", "c"} << Places{0, 1} << Places{};
+        QTest::newRow("dhcp") << QStringList{"a", "b"} << QStringList{"", ""} << Places{0, 1} << Places{};
+        QTest::newRow("two of one address")
+            << QStringList{"a", "b", "b"} << QStringList{"b", "c", "d"} << Places{1, 2, 0} << Places{};
+        QTest::newRow("circle") << QStringList{"a", "b", "c"} << QStringList{"b", "a", "z"} << Places{2}
+                                << Places{0, 1};
+    }
+
+    void addressesAreOrdered()
+    {
+        QFETCH(QStringList, before);
+        QFETCH(QStringList, after);
+        QList<AddressChange> changes;
+        for (qsizetype place = 0; place < before.size(); ++place)
+            changes.append({.oldAddress = before.at(place), .newAddress = after.at(place)});
+        const AddressOrder order = addressOrder(changes);
+        QTEST(order.order, "order");
+        QTEST(order.circle, "circle");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBatches)
+#include "tst_batches.moc"
