@@ -254,6 +254,7 @@ private Q_SLOTS:
         deliver({64, 36, 60, 128, 128, sdk::PictureColour::Bt601Full});
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), QColor(60, 60, 60)));
         m_delivered.last().bytes.assign(m_delivered.last().bytes.size(), 128); // the decoder's next picture
+        m_item->update();
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90),
                        QColor(60, 60, 60))); // a paint reads none again
         deliver({128, 72, 150, 128, 128, sdk::PictureColour::Bt601Full});
