@@ -124,6 +124,7 @@ private Q_SLOTS:
                                                     {"encodeMode", QStringList()},
                                                     {"resolution", QStringList()},
                                                     {"bitStream", QStringList()}};
+        QTest::newRow("a list without a value") << QVariantMap{{"encodeMode", QStringList("H.265")}};
         QTest::newRow("other kinds") << QVariantMap{
             {"channelNum", 3},        {"encodeMode", QVariantMap{{"a", 1}}},
             {"curBitStream", "none"}, {"frameRateMax", "many"},
@@ -143,7 +144,8 @@ private Q_SLOTS:
                 QCOMPARE(setting.toMap().keys(), QStringList({"changed", "choices", "index", "key", "maximum",
                                                               "minimum", "usable", "value"}));
             QCOMPARE(of(stream, "encodeMode", "index").toInt(), -1);
-            for (const char *unknown : {"frameRate", "quality", "control", "audioEnable", "bitRate"})
+            for (const char *unknown :
+                 {"encodeMode", "frameRate", "quality", "control", "audioEnable", "bitRate"})
                 QVERIFY2(!of(stream, unknown, "usable").toBool(), unknown);
             QCOMPARE(of(stream, "control", "value").toInt(), -1);
             QCOMPARE(of(stream, "bitRate", "index").toInt(), -1);

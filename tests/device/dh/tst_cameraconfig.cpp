@@ -356,6 +356,7 @@ private Q_SLOTS:
         QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
         m_site->site->setFault(device.mac, {Fault::NoAnswer, 0, {}});
         m_site->set("curSwitchMode", 1);
+        QVERIFY(supported().isEmpty()); // the items are those of the mode before
         m_site->factory->getVideoIn("dh");
         QCOMPARE(m_site->asked("NetGetItem").size(), 1); // every further one would wait
         QCOMPARE(result.size(), 1);

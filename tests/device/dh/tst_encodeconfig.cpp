@@ -396,6 +396,10 @@ private Q_SLOTS:
         QFETCH(QString, writes);
         const SceneDevice device = recorder();
         QCOMPARE(open(device), 0);
+        m_site->set("curStreamType", 1);
+        QVERIFY(confirm().contains("没有读到")); // these would be the settings of the first stream
+        m_site->set("curStreamType", 0);
+        QCOMPARE(read(), 0);
         m_site->set("curChannel", 2);
         QVERIFY(confirm().contains("没有读到")); // these would be the settings of the first channel
         QVERIFY(m_site->asked("NetSetItem").isEmpty());
