@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
 namespace {
 
 void write(const QString &path, const QByteArray &content = "x")
@@ -98,6 +100,16 @@ private Q_SLOTS:
             config.setLanguage(language);
             QCOMPARE(config.getLanguage(), language);
         }
+    }
+
+    /// So that a program that ends while it writes leaves the old file, which has another name here.
+    void aChangeReplacesTheFile()
+    {
+        CLocalConfig config(m_directory->path());
+        QCOMPARE(::link(qPrintable(path("LocalConfig.ini")), qPrintable(path("old"))), 0);
+        config.setLanguage("de_DE");
+        QCOMPARE(QSettings(path("old"), QSettings::IniFormat).value("language/name").toString(), "");
+        QCOMPARE(config.getLanguage(), "de_DE");
     }
 
     void anExistingFileIsNeverCompleted()
