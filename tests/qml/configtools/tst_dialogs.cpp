@@ -1,5 +1,6 @@
+// Boxes over the window: how they are answered, and what they show.
 #include "tests/qml/configtools/qmlscene.h"
-// Boxes over the window, answered from the keyboard.
+
 #include <QSignalSpy>
 #include <QTest>
 
@@ -11,6 +12,15 @@ const char *const scene = "import QtQuick\n"
                           "T.ApplicationWindow {\n"
                           "    width: 1280; height: 720; visible: true\n"
                           "    OVMessageBox { objectName: 'question' }\n"
+                          "    ModifyIPFiles {\n"
+                          "        objectName: 'files'\n"
+                          "        busyState: null; deviceTable: null; fileDialogs: null\n"
+                          "        deviceFactory: QtObject {\n"
+                          "            property var faults: []\n"
+                          "            signal signalImportProgress(int done, int total)\n"
+                          "            function exportFaults(family) { return faults; }\n"
+                          "        }\n"
+                          "    }\n"
                           "    OVTitleDragArea {\n"
                           "        width: 1280; height: 40\n"
                           "        cursor: QtObject {\n"
@@ -89,6 +99,26 @@ private Q_SLOTS:
         QTest::keyClick(m_window.get(), Qt::Key_Return);
         QTRY_COMPARE(accepted.count(), 1);
         QTRY_VERIFY(!m_box->property("visible").toBool());
+    }
+
+    void anExportShowsWhatDoesNotComeBack()
+    {
+        QObject *files = m_window->findChild<QObject *>("files");
+        const QSignalSpy said(files, SIGNAL(said(QString, int)));
+        const auto report = [files] {
+            return QMetaObject::invokeMethod(files, "reportExport", Q_ARG(QVariant, "exported"));
+        };
+        QVERIFY(report());
+        QCOMPARE(said.count(), 1);
+        const QVariantMap fault = {
+            {"address", "10.0.0.1:1"}, {"name", "A,B"}, {"column", "Name"}, {"reason", ", (U+002C)"}};
+        files->property("deviceFactory").value<QObject *>()->setProperty("faults", QVariantList{fault});
+        QVERIFY(report());
+        QCOMPARE(said.count(), 1);
+        QObject *table = m_window->findChild<QObject *>("reportTable");
+        QVERIFY(table);
+        QCOMPARE(table->property("count").toInt(), 1);
+        QTest::keyClick(m_window.get(), Qt::Key_Return);
     }
 
 private:
