@@ -61,6 +61,22 @@ int BatchEngine::start(std::vector<BatchItem> items, const BatchPolicy &policy,
     return number;
 }
 
+bool BatchEngine::append(int number, BatchItem item)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_batches.find(number);
+        if (found == m_batches.end() || found->second->isStopped)
+            return false;
+        Batch &batch = *found->second;
+        batch.waiting.emplace(batch.items.size(), Waiting{batch.items.size()});
+        batch.items.push_back(std::move(item));
+        addThreadsLocked();
+    }
+    m_changed.notify_all();
+    return true;
+}
+
 void BatchEngine::addThreadsLocked()
 {
     std::size_t wanted = 0;
@@ -87,10 +103,15 @@ BatchEngine::Taken BatchEngine::takeLocked()
             const std::size_t place = it->second.back();
             if (m_busyDevices.contains(batch->items[place].device))
                 continue;
-            Taken taken{.batch = batch, .number = number, .place = place, .rest = std::move(it->second)};
+            Taken taken{.batch = batch,
+                        .number = number,
+                        .place = place,
+                        .item = std::move(batch->items[place]),
+                        .rest = std::move(it->second)};
+            batch->items[place].device = taken.item.device;
             taken.rest.pop_back();
             batch->waiting.erase(it);
-            m_busyDevices.insert(batch->items[place].device);
+            m_busyDevices.insert(taken.item.device);
             ++batch->running;
             ++batch->placesTaken;
             return taken;
@@ -130,16 +151,15 @@ void BatchEngine::work(const std::stop_token &stop)
 void BatchEngine::run(Taken taken)
 {
     Batch &batch = *taken.batch;
-    const QString device = batch.items[taken.place].device;
     bool holdsPlace = true;
-    const StepOutcome outcome = perform(batch, taken.place, holdsPlace);
+    const StepOutcome outcome = perform(taken, holdsPlace);
     batch.watcher->finished(taken.place, outcome);
 
     bool isHeldNow = false;
     {
         const std::lock_guard lock(m_mutex);
-        isHeldNow = noteLocked(batch, taken, outcome);
-        m_busyDevices.remove(device);
+        isHeldNow = noteLocked(taken, outcome);
+        m_busyDevices.remove(taken.item.device);
         if (std::exchange(holdsPlace, false))
             --batch.placesTaken;
         if (!taken.rest.empty() && !batch.isStopped)
@@ -160,21 +180,21 @@ void BatchEngine::run(Taken taken)
     m_changed.notify_all();
 }
 
-StepOutcome BatchEngine::perform(Batch &batch, std::size_t place, bool &holdsPlace)
+StepOutcome BatchEngine::perform(const Taken &taken, bool &holdsPlace)
 {
-    const BatchItem &item = batch.items[place];
+    Batch &batch = *taken.batch;
     {
         const std::lock_guard lock(m_mutex);
-        const auto refusal = batch.refusals.constFind(item.device);
+        const auto refusal = batch.refusals.constFind(taken.item.device);
         if (refusal != batch.refusals.cend())
             return *refusal;
     }
-    batch.watcher->started(place);
+    batch.watcher->started(taken.place);
     const std::int64_t deadline = batch.policy.deadline.count() > 0
                                       ? m_clock->now() + batch.policy.deadline.count()
                                       : StepControl::noDeadline;
-    return item.step(StepControl(batch.stop.get_token(), m_clock, deadline,
-                                 [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); }));
+    return taken.item.step(StepControl(batch.stop.get_token(), m_clock, deadline,
+                                       [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); }));
 }
 
 void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
@@ -189,9 +209,10 @@ void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
     m_changed.notify_all();
 }
 
-bool BatchEngine::noteLocked(Batch &batch, const Taken &taken, const StepOutcome &outcome)
+bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
 {
-    const QString device = batch.items[taken.place].device;
+    Batch &batch = *taken.batch;
+    const QString &device = taken.item.device;
     if (isRefusal(outcome.result) && !batch.refusals.contains(device)) {
         batch.refusals.insert(device, outcome);
         ++batch.wrongPasswords;

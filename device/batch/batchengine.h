@@ -67,6 +67,9 @@ public:
     /// batch ends at once, in this call. The engine keeps the watcher until ended() has returned.
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);
 
+    /// Adds a step behind the others. Returns false when the batch has ended, or is stopped.
+    bool append(int batch, BatchItem item);
+
     /// Starts nothing new of a batch and asks its running steps to end. Does nothing for one that has ended.
     void stop(int batch);
 
@@ -85,7 +88,7 @@ private:
 
     struct Batch
     {
-        std::vector<BatchItem> items;
+        std::vector<BatchItem> items; ///< append() moves them
         BatchPolicy policy;
         std::shared_ptr<BatchWatcher> watcher;
         std::map<std::size_t, Waiting> waiting; ///< by the first index; the last one of each is the next
@@ -104,6 +107,7 @@ private:
         std::shared_ptr<Batch> batch; ///< null: there is none
         int number = 0;
         std::size_t place = 0;
+        BatchItem item;
         Waiting rest; ///< further steps of the device
     };
 
@@ -112,10 +116,10 @@ private:
     void addThreadsLocked();
     void work(const std::stop_token &stop);
     void run(Taken taken);
-    [[nodiscard]] StepOutcome perform(Batch &batch, std::size_t place, bool &holdsPlace);
+    [[nodiscard]] StepOutcome perform(const Taken &taken, bool &holdsPlace);
     void releasePlace(Batch &batch, bool &holdsPlace);
     /// Returns true when the batch is held from now on.
-    [[nodiscard]] static bool noteLocked(Batch &batch, const Taken &taken, const StepOutcome &outcome);
+    [[nodiscard]] static bool noteLocked(const Taken &taken, const StepOutcome &outcome);
 
     const std::shared_ptr<const sdk::Clock> m_clock;
     std::mutex m_mutex;

@@ -1,13 +1,30 @@
 #include "device/dh/upgraderunner.h"
 
-#include "device/logging.h"
-
-#include <algorithm>
-#include <system_error>
 #include <utility>
 
-UpgradeRunner::UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits, Watchers watchers)
-    : m_libraries(std::move(libraries)), m_limits(limits), m_watchers(std::move(watchers))
+namespace {
+
+/// The engine's batch of upgrades tells nothing that the runner does not know.
+class NoWatcher : public BatchWatcher
+{
+public:
+    void started(std::size_t) override {}
+    void finished(std::size_t, const StepOutcome &) override {}
+    void held() override {}
+    void ended() override {}
+};
+
+UpgradeState endOf(UpgradeTools::Result result)
+{
+    return {.result = result, .percent = 0, .text = UpgradeTools::text(result), .version = {}};
+}
+
+} // namespace
+
+UpgradeRunner::UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits,
+                             std::shared_ptr<BatchEngine> engine, Watchers watchers)
+    : m_libraries(std::move(libraries)), m_limits(limits), m_engine(std::move(engine)),
+      m_watchers(std::move(watchers))
 {
 }
 
@@ -29,7 +46,7 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
         }
         const auto known = m_round.constFind(order.key);
         const bool isRunning = known != m_round.cend() && UpgradeTools::isRunning((*known)->state.result);
-        if (m_hasEnded || isRunning || !makeThreadLocked())
+        if (m_hasEnded || isRunning)
             return false;
         if (known != m_round.cend())
             m_percentSum -= shareOf((*known)->state);
@@ -38,42 +55,52 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
         ++m_unfinished;
     }
     m_watchers.changed(upgrade->order, upgrade->state); // before a thread has news of it
-    const std::lock_guard lock(m_mutex);
-    upgrade->isWaiting = true;
-    m_waiting.push_back(upgrade);
-    m_added.notify_one();
+    if (!submit(upgrade) && takeWaiting(*upgrade))
+        finish(upgrade, endOf(UpgradeTools::Cut));
     return true;
 }
 
-bool UpgradeRunner::makeThreadLocked()
+bool UpgradeRunner::submit(const std::shared_ptr<Upgrade> &upgrade)
 {
-    if (m_threads.size() >= static_cast<std::size_t>(std::max(m_limits.atOnce, 1)))
+    const BatchItem item = {.device = upgrade->order.key,
+                            .step = [this, upgrade](const StepControl &control) {
+                                return perform(upgrade, control);
+                            }};
+    const std::lock_guard lock(m_submitting);
+    if (m_engine->append(m_batch, item))
         return true;
-    try {
-        m_threads.emplace_back([this](const std::stop_token &stop) { work(stop); });
-    } catch (const std::system_error &error) {
-        qCWarning(logDevice) << "No further thread for upgrades:" << error.what();
-    }
-    return !m_threads.empty();
+    m_batch = m_engine->start({item}, {.atOnce = m_limits.atOnce}, std::make_shared<NoWatcher>());
+    return m_batch != 0;
+}
+
+StepOutcome UpgradeRunner::perform(const std::shared_ptr<Upgrade> &upgrade, const StepControl &control)
+{
+    if (!takeWaiting(*upgrade)) // it was stopped
+        return {.result = resultCode(LoginResult::NotDone), .text = {}};
+    UpgradeWork device(m_libraries, m_limits, upgrade->order, upgrade->stopAsked,
+                       [&](const UpgradeState &state) { change(*upgrade, state); });
+    finish(upgrade, device.run(control));
+    return {};
+}
+
+bool UpgradeRunner::takeWaiting(Upgrade &upgrade)
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(upgrade.isWaiting, false);
 }
 
 void UpgradeRunner::stop(const QString &key)
 {
     std::shared_ptr<Upgrade> upgrade;
-    bool wasWaiting = false;
     {
         const std::lock_guard lock(m_mutex);
         upgrade = m_round.value(key);
         if (!upgrade)
             return;
         upgrade->stopAsked = true;
-        wasWaiting = std::exchange(upgrade->isWaiting, false);
     }
-    if (wasWaiting)
-        finish(upgrade, {.result = UpgradeTools::Stopped,
-                         .percent = 0,
-                         .text = UpgradeTools::text(UpgradeTools::Stopped),
-                         .version = {}});
+    if (takeWaiting(*upgrade))
+        finish(upgrade, endOf(UpgradeTools::Stopped));
 }
 
 bool UpgradeRunner::isUpgrading() const
@@ -102,45 +129,22 @@ int UpgradeRunner::percent() const
 
 void UpgradeRunner::end()
 {
-    std::vector<std::jthread> threads;
-    std::deque<std::shared_ptr<Upgrade>> waiting;
+    QList<std::shared_ptr<Upgrade>> round;
     {
         const std::lock_guard lock(m_mutex);
         m_hasEnded = true;
-        threads.swap(m_threads);
-        waiting.swap(m_waiting);
-        std::erase_if(waiting, [](const std::shared_ptr<Upgrade> &upgrade) {
-            return !std::exchange(upgrade->isWaiting, false);
-        });
+        round = m_round.values();
     }
-    for (std::jthread &thread : threads)
-        thread.request_stop();
-    for (std::jthread &thread : threads)
-        thread.join();
-    for (const std::shared_ptr<Upgrade> &upgrade : waiting)
-        finish(upgrade, {.result = UpgradeTools::Cut,
-                         .percent = 0,
-                         .text = UpgradeTools::text(UpgradeTools::Cut),
-                         .version = {}});
-}
-
-void UpgradeRunner::work(const std::stop_token &stop)
-{
-    for (;;) {
-        std::shared_ptr<Upgrade> upgrade;
-        {
-            std::unique_lock lock(m_mutex);
-            if (!m_added.wait(lock, stop, [this] { return !m_waiting.empty(); }) || stop.stop_requested())
-                return;
-            upgrade = m_waiting.front();
-            m_waiting.pop_front();
-            if (!std::exchange(upgrade->isWaiting, false)) // it was stopped
-                continue;
-        }
-        UpgradeWork device(m_libraries, m_limits, upgrade->order, upgrade->stopAsked,
-                           [&](const UpgradeState &state) { change(*upgrade, state); });
-        finish(upgrade, device.run(stop));
+    {
+        const std::lock_guard lock(m_submitting);
+        m_engine->stop(m_batch);
     }
+    for (const std::shared_ptr<Upgrade> &upgrade : std::as_const(round)) {
+        if (takeWaiting(*upgrade))
+            finish(upgrade, endOf(UpgradeTools::Cut));
+    }
+    std::unique_lock lock(m_mutex);
+    m_finished.wait(lock, [this] { return m_unfinished == 0 && m_telling == 0; });
 }
 
 void UpgradeRunner::change(Upgrade &upgrade, const UpgradeState &state)
@@ -160,7 +164,11 @@ void UpgradeRunner::finish(const std::shared_ptr<Upgrade> &upgrade, const Upgrad
     {
         const std::lock_guard lock(m_mutex);
         isLast = --m_unfinished == 0;
+        ++m_telling;
     }
     if (isLast)
         m_watchers.roundEnded();
+    const std::lock_guard lock(m_mutex);
+    --m_telling;
+    m_finished.notify_all();
 }

@@ -1,31 +1,32 @@
 // Upgrades of many devices, a few at a time.
 #pragma once
 
+#include "device/batch/batchengine.h"
 #include "device/dh/upgradework.h"
 
 #include <QHash>
 #include <QList>
 
 #include <condition_variable>
-#include <deque>
 #include <memory>
 #include <mutex>
-#include <thread>
-#include <vector>
 
-/// Runs upgrades on threads of its own, in the order of their start. Thread-safe. A round begins with the
-/// first upgrade and ends when none is left.
+/// Runs upgrades in the order of their start. Thread-safe. A round begins with the first upgrade and ends
+/// when none is left.
 class UpgradeRunner
 {
 public:
-    /// Are called on threads of the runner, or inside stop(); must not call end().
+    /// Are called on threads of the engine, or inside stop(); must not call end().
     struct Watchers
     {
         std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed;
         std::function<void()> roundEnded;
     };
 
-    UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits, Watchers watchers);
+    /// `engine` runs the upgrades. A device that restarts gives its place among those that are upgraded at
+    /// the same time away.
+    UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits,
+                  std::shared_ptr<BatchEngine> engine, Watchers watchers);
 
     /// Ends.
     ~UpgradeRunner();
@@ -54,25 +55,29 @@ private:
         UpgradeOrder order;
         UpgradeState state;
         std::atomic<bool> stopAsked = false;
-        bool isWaiting = false; ///< for a thread
+        bool isWaiting = true; ///< for its turn
     };
 
     /// What an upgrade adds to the percent of its round.
     [[nodiscard]] static int shareOf(const UpgradeState &state);
-    [[nodiscard]] bool makeThreadLocked();
-    void work(const std::stop_token &stop);
+    /// Returns true when the upgrade has waited for its turn until now.
+    [[nodiscard]] bool takeWaiting(Upgrade &upgrade);
+    [[nodiscard]] bool submit(const std::shared_ptr<Upgrade> &upgrade);
+    [[nodiscard]] StepOutcome perform(const std::shared_ptr<Upgrade> &upgrade, const StepControl &control);
     void change(Upgrade &upgrade, const UpgradeState &state);
     void finish(const std::shared_ptr<Upgrade> &upgrade, const UpgradeState &state);
 
     const sdk::SdkLibraries m_libraries;
     const UpgradeLimits m_limits;
+    const std::shared_ptr<BatchEngine> m_engine;
     const Watchers m_watchers;
     mutable std::mutex m_mutex;
-    std::condition_variable_any m_added;
+    std::condition_variable m_finished;
     bool m_hasEnded = false;
     std::size_t m_unfinished = 0;
-    std::deque<std::shared_ptr<Upgrade>> m_waiting;   ///< also those that were stopped since
+    int m_telling = 0; ///< threads that tell the end of an upgrade
+    std::mutex m_submitting;
+    int m_batch = 0;                                  ///< in the engine; guarded by m_submitting
     QHash<QString, std::shared_ptr<Upgrade>> m_round; ///< by key
     qsizetype m_percentSum = 0;                       ///< of the shares of the round
-    std::vector<std::jthread> m_threads;
 };

@@ -138,8 +138,9 @@ UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits
 {
 }
 
-UpgradeState UpgradeWork::run(const std::stop_token &stop)
+UpgradeState UpgradeWork::run(const StepControl &control)
 {
+    const std::stop_token &stop = control.stopToken();
     tell(UpgradeTools::Preparing, 0);
     const FirmwareFile file = firmwareFile(m_order.file);
     if (file.refusal != UpgradeTools::None)
@@ -155,7 +156,10 @@ UpgradeState UpgradeWork::run(const std::stop_token &stop)
     News news;
     const UpgradeState state = send(login.handle, file, news, stop);
     m_libraries.net->NetLogout(login.handle); // no news from here on, also of what cannot be stopped
-    return state.result == UpgradeTools::Restarting ? waitForReturn(file, stop) : state;
+    if (state.result != UpgradeTools::Restarting)
+        return state;
+    control.releasePlace();
+    return waitForReturn(file, stop);
 }
 
 UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &file, News &news,

@@ -1,6 +1,7 @@
 // The upgrade of one device, from the look at the file to the answer with the new version.
 #pragma once
 
+#include "device/devicestep.h"
 #include "device/dh/firmwarefile.h"
 #include "device/loginresult.h"
 #include "sdk/sdklibraries.h"
@@ -52,8 +53,8 @@ public:
     UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
                 const std::atomic<bool> &stopAsked, Tell tell);
 
-    /// Returns the end. A stop of `stop` cuts the waits short: the program ends.
-    [[nodiscard]] UpgradeState run(const std::stop_token &stop);
+    /// Returns the end. A stop cuts the waits short: the program ends.
+    [[nodiscard]] UpgradeState run(const StepControl &control);
 
 private:
     struct Identity

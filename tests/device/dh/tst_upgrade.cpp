@@ -27,15 +27,20 @@ private Q_SLOTS:
         QFETCH(int, atOnce);
         const UpgradeSite test(6, {.atOnce = atOnce});
         int most = 0;
+        int mostRestarting = 0;
         bool hasWaited = false;
         const auto count = [&] {
             int running = 0;
+            int restarting = 0;
             for (int place = 0; place < 6; ++place) {
+                restarting += test.result(place) == UpgradeTools::Restarting;
                 running += UpgradeTools::isRunning(test.result(place)) &&
+                           test.result(place) != UpgradeTools::Restarting &&
                            test.result(place) != UpgradeTools::Waiting;
                 hasWaited |= test.text(place) == u"等待升级"_s;
             }
             most = std::max(most, running);
+            mostRestarting = std::max(mostRestarting, restarting);
             return !test.ends->isEmpty();
         };
         QVERIFY(!test.factory->hasDeviceUpgrading());
@@ -44,6 +49,7 @@ private Q_SLOTS:
         test.start({0, 1}, u"/another/file"_s); // changes nothing while they are upgraded
         QVERIFY(test.passUntil(count));
         QCOMPARE(most, atOnce);
+        QVERIFY(mostRestarting > atOnce || atOnce > 1); // they hold up no other device
         QVERIFY(hasWaited);
         QVERIFY(!test.factory->hasDeviceUpgrading());
         QCOMPARE(test.ends->size(), 1);
