@@ -28,6 +28,7 @@ QList<Subject> subjects()
              [] {
                  return QList<Figure>{measureCgiRequests()};
              }},
+            {QStringLiteral("batch"), measureBatches},
             {QStringLiteral("decoding"), measureDecoding},
             {QStringLiteral("live"), measureLiveView},
             {QStringLiteral("nine"), measureLivePorts},

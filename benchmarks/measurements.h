@@ -15,6 +15,9 @@
 /// Live pictures on the screen, and what 100 live views leave behind.
 [[nodiscard]] QList<Figure> measureLiveView();
 
+/// A command to many devices at once, against the same to one after another.
+[[nodiscard]] QList<Figure> measureBatches();
+
 /// Live streams into pictures, against the decoder's own program on one thread.
 [[nodiscard]] QList<Figure> measureDecoding();
 

@@ -1,0 +1,108 @@
+#include "benchmarks/measurements.h"
+
+#include "device/batch/batches.h"
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "device/treemodel.h"
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int devices = 200;
+constexpr int deadDevices = 10;
+constexpr auto latency = 200ms;
+
+/// Cameras that answer slowly, some of them not at all.
+QList<sdk::demo::SceneDevice> scene()
+{
+    QList<sdk::demo::SceneDevice> all;
+    for (int number = 0; number < devices; ++number) {
+        sdk::demo::SceneDevice device;
+        device.mac = QStringLiteral("02:1a:c5:00:01:%1").arg(number, 2, 16, QLatin1Char('0'));
+        device.address = QStringLiteral("192.168.1.%1").arg(number + 1);
+        device.port = 37777;
+        device.type = QStringLiteral("IPC");
+        device.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
+        device.channels.resize(1);
+        device.latency = latency;
+        all.append(device);
+    }
+    return all;
+}
+
+} // namespace
+
+QList<Figure> measureBatches()
+{
+    const QString family = QStringLiteral("dh");
+    const auto clock = std::make_shared<sdk::SystemClock>();
+    sdk::demo::Scene devicesOfScene;
+    devicesOfScene.devices = scene();
+    const auto site = sdk::demo::DemoSite::create(devicesOfScene, clock);
+    const auto store = std::make_shared<DeviceStore>(clock);
+    BatchEngine engine(clock);
+    CDeviceFactory factory({{family, [&] {
+                                 return std::make_shared<CDeviceDH>(store, site->libraries(),
+                                                                    [] { return SearchSettings(); });
+                             }}});
+    factory.setDefaultAccount(family, QStringLiteral("admin"), QStringLiteral("secret1"));
+    QEventLoop loop;
+    QObject::connect(&factory, &CDeviceFactory::signalSearchDone, &loop, &QEventLoop::quit);
+    factory.startSearch(family);
+    loop.exec();
+    for (int number = 0; number < deadDevices; ++number)
+        site->setFault(devicesOfScene.devices.at(number * devices / deadDevices).mac,
+                       {.fault = sdk::demo::Fault::NoAnswer});
+
+    OVTreeModel tree;
+    tree.setDeviceFactory(&factory);
+    tree.resetItems(QStringLiteral("removeuninit"), {});
+    tree.setAllChecked(true);
+    const QStringList ipports = tree.checkedDevices();
+    const QString command = QStringLiteral("videoStandard");
+    const QVariantMap data = {{QStringLiteral("videoStandard"), 1}};
+
+    Batches batches(factory, engine, [] { return 8; });
+    QElapsedTimer time;
+    time.start();
+    Batch *batch = batches.configureSystem(family, command, command, data, ipports);
+    QObject::connect(batch, &Batch::resulted, &tree, &OVTreeModel::setResults);
+    QObject::connect(batch, &Batch::finished, &loop, &QEventLoop::quit);
+    QElapsedTimer sinceTurn;
+    qint64 longestTurn = 0;
+    QTimer turns;
+    QObject::connect(&turns, &QTimer::timeout, &turns, [&] {
+        longestTurn = std::max(longestTurn, sinceTurn.isValid() ? sinceTurn.elapsed() : 0);
+        sinceTurn.start();
+    });
+    turns.start(5ms);
+    loop.exec();
+    turns.stop();
+    const double atOnce = static_cast<double>(time.elapsed()) / 1000;
+
+    time.start();
+    factory.systemConfig(family, command, data, ipports);
+    const double oneAfterAnother = static_cast<double>(time.elapsed()) / 1000;
+    return {{.subject = QStringLiteral("command to 200 devices, 10 of them dead"),
+             .value = atOnce,
+             .unit = QStringLiteral("s"),
+             .budget = oneAfterAnother / 6,
+             .peer = oneAfterAnother,
+             .largestRatio = 1.0 / 6,
+             .peerName = QStringLiteral("one after another")},
+            {.subject = QStringLiteral("longest turn of the event loop meanwhile"),
+             .value = static_cast<double>(longestTurn),
+             .unit = QStringLiteral("ms"),
+             .budget = 50,
+             .peer = {},
+             .largestRatio = {},
+             .peerName = {}}};
+}
