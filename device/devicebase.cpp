@@ -128,6 +128,8 @@ int CDeviceBase::upgradeDocumentSuccesses()
 
 void CDeviceBase::refreshDevices(const QStringList &) {}
 
+void CDeviceBase::stopSearch() {}
+
 void CDeviceBase::factoryEnds() {}
 
 void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool) {}

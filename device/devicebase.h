@@ -139,6 +139,9 @@ public:
     /// once; signalCDeviceAddSingleDeviceToTable tells of rows that have changed.
     virtual void refreshDevices(const QStringList &macs);
 
+    /// Ends the search that runs: what it has found stays, and signalCDeviceSearchDone tells the end.
+    virtual void stopSearch();
+
     // The work that an operation does with one device, to be run on any other thread: the operation itself
     // does the same on the caller's thread. A step may be run until the back end ends. Of a family that does
     // not have the operation it is one that does nothing and ends with LoginResult::NotSupported.
@@ -192,6 +195,7 @@ Q_SIGNALS:
     void signalCDeviceSessionChecked(bool answers); ///< false also when there is none
     /// A search that ends found more devices than it lists: `leftOut` answers came after so many `rows`.
     void signalCDeviceSearchLimited(int rows, int leftOut);
+    void signalCDeviceSearchProgress(int percent); ///< of a search that runs, 0 to 100
 
 protected:
     [[nodiscard]] DeviceStore &store() const { return *m_store; }

@@ -521,6 +521,11 @@ void CDeviceFactory::stopOpeningSession(const QString &family)
     forward(family, &CDeviceBase::stopOpeningSession);
 }
 
+void CDeviceFactory::stopSearch(const QString &family)
+{
+    forward(family, &CDeviceBase::stopSearch);
+}
+
 DeviceStep CDeviceFactory::systemStep(const QString &family, const QString &command, const QVariantMap &data,
                                       const QString &ipport)
 {

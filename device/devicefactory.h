@@ -170,6 +170,9 @@ public:
     /// that have changed.
     Q_INVOKABLE void refreshDevices(const QString &family, const QStringList &macs);
 
+    /// Ends the search that runs: what it has found stays, and signalSearchDone tells the end.
+    Q_INVOKABLE void stopSearch(const QString &family);
+
     // The work that an operation does with one device, for another thread. Each may be run until the factory
     // ends. For an unknown family it is null.
 
@@ -217,6 +220,7 @@ Q_SIGNALS:
     void signalSessionOpened(const QString &ipport, int result, const QVariantList &channels);
     void signalSessionChecked(bool answers);
     void signalSearchLimited(int rows, int leftOut);
+    void signalSearchProgress(int percent);
 
 private:
     void relaySignals(const CDeviceBase &backEnd);

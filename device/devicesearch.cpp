@@ -23,10 +23,31 @@ constexpr auto startWait = 4ms;
 constexpr auto pauseBetweenRequests = 1000ms;
 constexpr auto listeningTime = 3000ms;
 
+constexpr auto localTime = 2 * pauseBetweenRequests + listeningTime;
+
 constexpr auto addressesWait = 3000ms;
 constexpr const char *anyLocalAddress = "0.0.0.0";
 
 } // namespace
+
+/// How far a search is, by the time of its waits.
+class DeviceSearch::Progress
+{
+public:
+    Progress(DeviceSearch &search, std::chrono::milliseconds whole) : m_search(search), m_whole(whole) {}
+
+    void add(std::chrono::milliseconds passed)
+    {
+        m_passed += passed;
+        if (!m_search.m_isEnding)
+            Q_EMIT m_search.progressed(static_cast<int>(100 * m_passed / m_whole));
+    }
+
+private:
+    DeviceSearch &m_search;
+    const std::chrono::milliseconds m_whole;
+    std::chrono::milliseconds m_passed{0};
+};
 
 DeviceSearch::DeviceSearch(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries)
     : m_store(std::move(store)), m_libraries(std::move(libraries))
@@ -40,9 +61,15 @@ DeviceSearch::~DeviceSearch()
         search.waitForFinished();
 }
 
-void DeviceSearch::requestStop()
+void DeviceSearch::stop()
 {
     m_stop.request_stop();
+}
+
+void DeviceSearch::requestStop()
+{
+    m_isEnding = true;
+    stop();
 }
 
 void DeviceSearch::setRange(SearchRange range)
@@ -52,6 +79,8 @@ void DeviceSearch::setRange(SearchRange range)
 
 void DeviceSearch::start(bool localSegment)
 {
+    if (m_stop.stop_requested() && !m_isEnding)
+        m_stop = std::stop_source();
     m_searches.removeIf([](const QFuture<void> &search) { return search.isFinished(); });
     // The range is taken here, so that one that is set while another search runs belongs to the next one
     // alone.
@@ -69,13 +98,15 @@ void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::s
     Q_EMIT rowsAdded();
 
     if (m_libraries.net) {
+        const auto addresses = 2 * addressesWait * static_cast<int>(searchRequests(range).size());
+        Progress progress(*this, (localSegment ? localTime : 0ms) + addresses);
         if (localSegment)
-            searchLocalSegment(stop);
-        searchRange(range, stop);
+            searchLocalSegment(stop, progress);
+        searchRange(range, stop, progress);
     }
 
-    if (stop.stop_requested())
-        return; // the receivers are being destroyed
+    if (m_isEnding)
+        return;
     if (const int leftOut = m_store->leftOut(); leftOut > 0)
         Q_EMIT limited(DeviceStore::maximumFound, leftOut);
     Q_EMIT rowsAdded();
@@ -83,7 +114,7 @@ void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::s
     Q_EMIT done();
 }
 
-void DeviceSearch::searchLocalSegment(const std::stop_token &stop)
+void DeviceSearch::searchLocalSegment(const std::stop_token &stop, Progress &progress)
 {
     sdk::SearchParameter parameter{};
     parameter.size = sizeof(parameter);
@@ -99,16 +130,19 @@ void DeviceSearch::searchLocalSegment(const std::stop_token &stop)
     sdk::Clock &clock = *m_libraries.clock;
     keepHandle(net.NetStartSearchDevices(parameter, startWait));
     if (clock.wait(pauseBetweenRequests, stop)) {
+        progress.add(pauseBetweenRequests);
         keepHandle(net.NetStartSearchDevices(parameter, startWait));
         if (clock.wait(pauseBetweenRequests, stop)) {
+            progress.add(pauseBetweenRequests);
             keepHandle(net.NetStartSearchDevicesEx(parameterEx, startWait));
             clock.wait(listeningTime, stop);
+            progress.add(listeningTime);
         }
     }
     stopHandles();
 }
 
-void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_token &stop)
+void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_token &stop, Progress &progress)
 {
     sdk::NetLibrary &net = *m_libraries.net;
     for (const sdk::SearchByAddressesRequest &request : searchRequests(addresses)) {
@@ -116,10 +150,12 @@ void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_tok
             return;
         net.NetSearchDevicesByIPs(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
                                   addressesWait);
+        progress.add(addressesWait);
         if (stop.stop_requested())
             return;
         net.NetSearchDevicesByIPsEx(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
                                     addressesWait);
+        progress.add(addressesWait);
     }
 }
 

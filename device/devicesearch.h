@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <stop_token>
@@ -27,7 +28,11 @@ public:
     /// Waits for the tasks of running searches, which it ends.
     ~DeviceSearch() override;
 
-    /// Makes running searches end at their next step, without waiting for them.
+    /// Ends running searches at their next step, without waiting for them: what was found stays, and done()
+    /// is emitted. The wait for a list of addresses, up to 3 s, is not cut short.
+    void stop();
+
+    /// The same, but nothing is emitted any more.
     void requestStop();
 
     /// The range of the next search that is started, and of that one only.
@@ -41,12 +46,15 @@ Q_SIGNALS:
     void rowsAdded();
     void counted(int ipv4Rows);
     void limited(int rows, int leftOut); ///< at the end: `leftOut` answers came after so many rows
+    void progressed(int percent);        ///< of the time that a search takes, 0 to 100
     void done();
 
 private:
+    class Progress;
+
     void run(bool localSegment, const SearchRange &range, const std::stop_token &stop);
-    void searchLocalSegment(const std::stop_token &stop);
-    void searchRange(const SearchRange &addresses, const std::stop_token &stop);
+    void searchLocalSegment(const std::stop_token &stop, Progress &progress);
+    void searchRange(const SearchRange &addresses, const std::stop_token &stop, Progress &progress);
     void keepHandle(std::int64_t handle);
     void stopHandles();
     void handleAnswer(const sdk::SearchAnswer &answer);
@@ -54,7 +62,8 @@ private:
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;
-    std::stop_source m_stop;
+    std::atomic<bool> m_isEnding = false; ///< the receivers of the signals are being destroyed
+    std::stop_source m_stop;              ///< of the searches that run
     QList<QFuture<void>> m_searches;
     SearchRange m_range; ///< of the next search
 

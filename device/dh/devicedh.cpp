@@ -34,7 +34,7 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_keptLogins(m_libraries.net), m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
       m_camera(std::make_unique<CameraConfig>(m_tables, m_channels)),
       m_upgrades(std::make_unique<UpgradeRunner>(
-          m_libraries, upgradeLimits,
+          m_libraries, upgradeLimits, m_engine,
           UpgradeRunner::Watchers{.changed = [this](const UpgradeOrder &order,
                                                     const UpgradeState &state) { noteUpgrade(order, state); },
                                   .roundEnded =
@@ -53,6 +53,8 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
     connect(m_search.get(), &DeviceSearch::counted, this, &CDeviceBase::signalCDeviceSearchCount,
             Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::limited, this, &CDeviceBase::signalCDeviceSearchLimited,
+            Qt::DirectConnection);
+    connect(m_search.get(), &DeviceSearch::progressed, this, &CDeviceBase::signalCDeviceSearchProgress,
             Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::done, this, &CDeviceBase::signalCDeviceSearchDone,
             Qt::DirectConnection);

@@ -66,6 +66,7 @@ public:
     QVariantList filterData(const QString &filtertype, const QString &searchtext) override;
     QVariantList filterDataIPV6(const QString &filtertype, const QString &searchtext) override;
     void refreshDevices(const QStringList &macs) override;
+    void stopSearch() override;
 
     // Rows and their logins: devicedhrows.cpp
     int getLoginDevice(const QString &address, const QString &account, const QString &password,

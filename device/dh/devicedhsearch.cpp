@@ -12,6 +12,11 @@ void CDeviceDH::setSearchByIPInfo(quint32 beginip, quint32 endip)
     m_search->setRange({.begin = beginip, .end = endip});
 }
 
+void CDeviceDH::stopSearch()
+{
+    m_search->stop();
+}
+
 void CDeviceDH::refreshDevices(const QStringList &macs)
 {
     m_refresh->start(macs);

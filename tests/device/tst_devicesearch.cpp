@@ -82,6 +82,29 @@ private Q_SLOTS:
         QVERIFY(m_site->requests().of("NetStopSearchDevices").at(0).time - second.at(0).time >= 3000);
     }
 
+    void aStoppedSearchKeepsWhatItFound()
+    {
+        openSite("office");
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        QSignalSpy progress(m_factory.get(), &CDeviceFactory::signalSearchProgress);
+        m_factory->setSearchByIPInfo("dh", 0xC0A80101, 0xC0A81101); // 17 segments
+        m_factory->startSearch("dh");
+        stepUntil(progress, 2);
+        const int percent = progress.last().first().toInt();
+        QVERIFY(percent > 0 && percent < 10);
+        const qsizetype found = m_factory->filterData("dh", "nofilter").size();
+        QVERIFY(found > 0);
+        m_factory->stopSearch("dh");
+        QTRY_COMPARE(done.size(), 1); // the clock stands still
+        QVERIFY(m_factory->filterData("dh", "nofilter").size() >= found);
+        QVERIFY(!operations().contains("NetSearchDevicesByIPs"));
+        QCOMPARE(operations().count("NetStopSearchDevices"), operations().count("NetStartSearchDevices"));
+
+        m_factory->startSearch("dh"); // the next one is not stopped
+        stepUntil(done, 2);
+        QCOMPARE(progress.last().first().toInt(), 100);
+    }
+
     void everyReachableDeviceBecomesOneRow()
     {
         openSite("office");

@@ -10,6 +10,8 @@ QtObject {
     property int count: 0
     property bool running: false
     property bool searchedNothing: false  // the settings named nothing to search
+    property int percent: 0  // of a search that runs
+    property bool stopping: false
     /// The settings of a search that is to follow the running one, null when none is to.
     property var next: null
 
@@ -20,7 +22,8 @@ QtObject {
             next = settings;
             return;
         }
-        count = 0;
+        count = percent = 0;
+        stopping = false;
         running = true;
         searchedNothing = !settings.localDomain && !settings.otherDomain;
         deviceFactory.setDefaultAccount("dh", settings.userName, settings.password);
@@ -28,6 +31,14 @@ QtObject {
             deviceFactory.setSearchByIPInfo("dh", AddressTools.toNumber(settings.startIP),
                                             AddressTools.toNumber(settings.endIP));
         deviceFactory.startSearch("dh");
+    }
+
+    /// Ends the search: what it has found stays.
+    function stop() {
+        if (!running)
+            return;
+        stopping = true;
+        deviceFactory.stopSearch("dh");
     }
 
     /// The search that ends now has listed `rows` devices and left out `leftOut` answers of further ones.
@@ -62,6 +73,9 @@ QtObject {
         }
         function onSignalSearchCount(devCount) {
             root.count = devCount;
+        }
+        function onSignalSearchProgress(percent) {
+            root.percent = percent;
         }
         function onSignalSearchLimited(rows, leftOut) {
             root.limited(rows, leftOut);
