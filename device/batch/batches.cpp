@@ -2,6 +2,7 @@
 
 #include "device/batch/addressorder.h"
 #include "device/devicefactory.h"
+#include "device/logging.h"
 
 #include <utility>
 
@@ -145,6 +146,20 @@ Batch *Batches::retry(Batch *batch)
     BatchPlan plan = batch->plan();
     plan.devices.removeIf([&](const BatchDevice &device) { return !names.contains(device.name); });
     return plan.devices.isEmpty() ? nullptr : start(std::move(plan));
+}
+
+void Batches::giveUp()
+{
+    if (!isRunning())
+        return;
+    current()->stop();
+    QStringList notDone;
+    for (const Batch::Entry &entry : current()->entries()) {
+        if (!entry.time.isValid())
+            notDone.append(entry.device.ipport);
+    }
+    qCWarning(logDevice).noquote() << "The program ends during" << current()->title()
+                                   << "- not done:" << notDone.join(QStringLiteral(", "));
 }
 
 Batch *Batches::start(BatchPlan plan)

@@ -54,6 +54,10 @@ public:
     Q_INVOKABLE Batch *copyEncodeSettings(const QString &family, const QString &title,
                                           const QStringList &ipports);
 
+    /// The program ends during the batch that runs: it is stopped, and the log names the devices that are not
+    /// done.
+    Q_INVOKABLE void giveUp();
+
     /// The devices of an ended batch again that may succeed in another try.
     Q_INVOKABLE Batch *retry(Batch *batch);
 

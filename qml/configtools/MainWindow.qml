@@ -73,16 +73,22 @@ T.ApplicationWindow {
 
     /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
     function requestEnd() {
+        if (batches.running && !deviceFactory.hasDeviceUpgrading()) {
+            popups.askToEnd(batches.current.title);
+            return false;
+        }
         if (!mayBegin(BusyState.Close))
             return false;
         if (searching) {
             popups.say(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
             return false;
         }
-        return !leavePage(() => {
-            popups.closeLive();
-            deviceFactory.exitProgram();
-        });
+        return !leavePage(end);
+    }
+
+    function end() {
+        popups.closeLive();
+        deviceFactory.exitProgram();
     }
 
     width: minimumWidth
@@ -292,6 +298,10 @@ T.ApplicationWindow {
         logoName: window.title
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
+        onEndConfirmed: {
+            window.batches.giveUp();
+            window.end();
+        }
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()

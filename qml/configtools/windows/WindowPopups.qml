@@ -18,6 +18,7 @@ Item {
     signal languageChosen(string code)
     signal restartRequested
     signal settingsAccepted(var values)
+    signal endConfirmed  // although a batch runs
 
     function openMenu(button) {
         const mainMenu = menu.wanted();
@@ -45,6 +46,13 @@ Item {
     /// A message that is to be confirmed.
     function tell(message) {
         messageBox.wanted().show(message, OVMessageBox.Information);
+    }
+
+    /// Whether the program is to end during a batch.
+    function askToEnd(title) {
+        const box = endQuestion.wanted();
+        box.okText = qsTr("停止并退出");
+        box.show(qsTr("“%1”正在进行。退出后，尚未完成的设备将不再处理。").arg(title), OVMessageBox.DangerQuestion);
     }
 
     /// A message that goes by itself.
@@ -109,6 +117,14 @@ Item {
         visible: false
         sourceComponent: OVMessageBox {
             objectName: "messageBox"
+        }
+    }
+    OVOnDemand {
+        id: endQuestion
+        visible: false
+        sourceComponent: OVMessageBox {
+            objectName: "endQuestion"
+            onAccepted: root.endConfirmed()
         }
     }
     OVOnDemand {

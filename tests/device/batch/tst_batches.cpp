@@ -60,8 +60,11 @@ private Q_SLOTS:
     void init()
     {
         m_devices.clear();
-        for (int number = 1; number <= 4; ++number)
+        for (int number = 1; number <= 4; ++number) {
             m_devices.append(configDevice(number, "IPC", 1));
+            m_devices.last().mask = "255.255.255.0";
+            m_devices.last().gateway = "192.168.1.1";
+        }
         m_engine = std::make_unique<BatchEngine>(nullptr);
         m_site = std::make_unique<ConfigSite>(m_devices);
         m_batches = std::make_unique<Batches>(*m_site->factory, *m_engine, [] { return 2; });

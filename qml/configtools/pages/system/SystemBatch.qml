@@ -15,7 +15,7 @@ QtObject {
     readonly property int total: batch?.total ?? 0
     readonly property string device: batch?.device ?? ""
     readonly property string outcome: running || report.summary === "" ? "" : title + qsTr("：") + report.summary
-    signal resulted(list<string> devices, list<int> results)
+    signal resulted(var devices, var results)
     signal finished
 
     /// Returns false when it cannot begin.
