@@ -81,9 +81,9 @@ struct ResponseReceiver
     {
         if (!hasIPv4Address(answer))
             return;
-        const QString name = rowName(answer);
+        const QString name = store.nameOf(answer);
         const QString address = waiting.addressOf(name);
-        if (address.isEmpty() || !store.updateRow(answer, address))
+        if (address.isEmpty() || !store.updateRow(name, answer, address))
             return;
         // After a first password some devices report the old state for a moment.
         if (isInitialised(answer.device))

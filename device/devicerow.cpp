@@ -66,18 +66,14 @@ QString addressAndPort(const sdk::SearchAnswer &answer)
 
 QString rowName(const QJsonObject &row)
 {
-    QString mac = row.value(DeviceRowKey::mac).toString();
-    if (!mac.isEmpty())
-        return mac;
+    for (const QLatin1StringView key : {DeviceRowKey::identity, DeviceRowKey::mac}) {
+        QString name = row.value(key).toString();
+        if (!name.isEmpty())
+            return name;
+    }
     const QString ipport = row.value(DeviceRowKey::ipport).toString();
     const int duplicate = row.value(DeviceRowKey::duplicate).toInt();
     return duplicate > 0 ? ipport + QLatin1Char('#') + QString::number(duplicate) : ipport;
-}
-
-QString rowName(const sdk::SearchAnswer &answer)
-{
-    const QString mac = macText(answer);
-    return mac.isEmpty() ? addressAndPort(answer) : mac;
 }
 
 QString rowAddress(const QJsonObject &row)

@@ -42,9 +42,12 @@ inline constexpr QLatin1StringView loginType("loginType");   ///< text: "IP" or 
 inline constexpr QLatin1StringView devp2pPort("devp2pPort"); ///< text: the device's own port behind a tunnel
 inline constexpr QLatin1StringView https("https");           ///< bool: the HTTP port is an encrypted one
 
-/// Int, from 1: rows of the same address and port that were found before. Only IPv6 rows have it, and only
+/// Int, from 1: rows whose name was this address and port before. Only rows without a MAC have it, and only
 /// when there were any.
 inline constexpr QLatin1StringView duplicate("duplicate");
+
+/// Text: the name of a row whose values have changed so that they would give another one. Other rows lack it.
+inline constexpr QLatin1StringView identity("identity");
 } // namespace DeviceRowKey
 
 /// Text of a block field, decoded as local 8-bit text. Bytes that are no text become replacement characters,
@@ -76,13 +79,9 @@ template<std::size_t size>
 /// colons are written beside a port (RFC 3986).
 [[nodiscard]] QString addressAndPort(const sdk::SearchAnswer &answer);
 
-/// Identifies a row in its list: the MAC, or the address and port of a row without one, followed by "#" and
-/// a number if rows of the same address were found before. Empty for an empty row.
+/// Identifies a row in its list: the MAC, or the address and port that a row without one had at first,
+/// followed by "#" and a number if there were rows of the same name before. Empty for an empty row.
 [[nodiscard]] QString rowName(const QJsonObject &row);
-
-/// The name of the row of an IPv4 answer: the MAC, or address and port of a device that does not report its
-/// MAC.
-[[nodiscard]] QString rowName(const sdk::SearchAnswer &answer);
 
 /// The address of an IPv4 row without its port.
 [[nodiscard]] QString rowAddress(const QJsonObject &row);

@@ -35,8 +35,20 @@ std::optional<QString> DeviceRowList::nameAt(const QString &ipport) const
                                               : std::optional(m_names.at(places->first() - m_placeOfFront));
 }
 
-void DeviceRowList::replace(const QString &name, const QJsonObject &row)
+QStringList DeviceRowList::namesAt(const QString &ipport) const
 {
+    QStringList names;
+    const QList<qsizetype> places = m_placesByAddress.value(ipport);
+    for (const qsizetype place : places)
+        names.append(m_names.at(place - m_placeOfFront));
+    return names;
+}
+
+void DeviceRowList::replace(const QString &name, QJsonObject row)
+{
+    // Work that began before goes on to name the row as it was.
+    if (rowName(row) != name)
+        row.insert(DeviceRowKey::identity, name);
     const qsizetype place = m_places.value(name);
     QVariant &stored = m_rows[place - m_placeOfFront];
     const QJsonObject before = stored.toJsonObject();

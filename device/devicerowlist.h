@@ -25,9 +25,12 @@ public:
     /// Name of the first row with this "ipport". Constant time.
     [[nodiscard]] std::optional<QString> nameAt(const QString &ipport) const;
 
-    /// Puts a row in the place of the one of this name, which must exist. Constant time, unless many rows
-    /// share the address that it had or gets.
-    void replace(const QString &name, const QJsonObject &row);
+    /// Names of the rows with this "ipport", in their order.
+    [[nodiscard]] QStringList namesAt(const QString &ipport) const;
+
+    /// Puts a row in the place of the one of this name, which must exist and which the row keeps. Constant
+    /// time, unless many rows share the address that it had or gets.
+    void replace(const QString &name, QJsonObject row);
 
     /// Removes rows, in one pass however many.
     void remove(const QSet<QString> &names);

@@ -107,9 +107,22 @@ int DeviceStore::leftOut() const
     return m_leftOut;
 }
 
-bool DeviceStore::updateRow(const sdk::SearchAnswer &answer, const QString &address)
+QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
 {
-    const QString name = rowName(answer);
+    const QString mac = macText(answer);
+    const std::scoped_lock lock(m_mutex);
+    if (!mac.isEmpty())
+        return m_ipv4.contains(mac) ? mac : QString();
+    const QStringList names = m_ipv4.namesAt(addressAndPort(answer));
+    const auto lacksMac = [this](const QString &name) {
+        return m_ipv4.row(name).value(DeviceRowKey::mac).toString().isEmpty();
+    };
+    const auto name = std::find_if(names.cbegin(), names.cend(), lacksMac);
+    return name == names.cend() ? QString() : *name;
+}
+
+bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address)
+{
     const QJsonObject now = ipv4Row(answer);
     const std::scoped_lock lock(m_mutex);
     QJsonObject row = m_ipv4.row(name);
@@ -158,17 +171,17 @@ int DeviceStore::ipv4Count() const
     return static_cast<int>(m_ipv4.rows().size());
 }
 
-std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &mac) const
+std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &name) const
 {
     const std::scoped_lock lock(m_mutex);
-    const auto record = m_records.constFind(mac);
+    const auto record = m_records.constFind(name);
     return record == m_records.cend() ? std::nullopt : std::optional(answerOf(*record));
 }
 
-void DeviceStore::putRecord(const sdk::SearchAnswer &answer)
+void DeviceStore::putRecord(const QString &name, const sdk::SearchAnswer &answer)
 {
     const std::scoped_lock lock(m_mutex);
-    m_records.insert(macText(answer), bytesOf(answer));
+    m_records.insert(name, bytesOf(answer));
 }
 
 QJsonObject DeviceStore::row(const QString &mac) const
@@ -182,6 +195,12 @@ QJsonObject DeviceStore::rowAt(const QString &ipport) const
     const std::scoped_lock lock(m_mutex);
     const std::optional<QString> name = m_ipv4.nameAt(ipport);
     return name ? m_ipv4.row(*name) : QJsonObject();
+}
+
+QStringList DeviceStore::namesAt(const QString &ipport) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.namesAt(ipport) + m_ipv6.namesAt(ipport);
 }
 
 QJsonObject DeviceStore::rowNamed(const QString &name) const
@@ -244,10 +263,20 @@ bool DeviceStore::changeFound(const Finder &find, const Change &change)
     }
 }
 
-void DeviceStore::putRow(const QJsonObject &row)
+void DeviceStore::putRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer)
 {
-    const QString name = rowName(row);
     const std::scoped_lock lock(m_mutex);
+    // The name of an address stays with the device that was there first, wherever that is now.
+    const auto isOfOther = [this, &row] {
+        const QJsonObject kept = m_ipv4.row(rowName(row));
+        return row.value(DeviceRowKey::mac).toString().isEmpty() && !kept.isEmpty() &&
+               kept.value(DeviceRowKey::ipport) != row.value(DeviceRowKey::ipport);
+    };
+    for (int before = 1; isOfOther(); ++before)
+        row.insert(DeviceRowKey::duplicate, before);
+    const QString name = rowName(row);
+    if (answer)
+        m_records.insert(name, bytesOf(*answer));
     if (m_ipv4.contains(name))
         m_ipv4.replace(name, row);
     else

@@ -52,11 +52,15 @@ public:
     /// Answers of further devices that were dropped since clear(), because maximumFound rows had been found.
     [[nodiscard]] int leftOut() const;
 
-    /// Takes over what a listed device reports now: state, name, model, version, address and ports, and the
-    /// search record. What else the row holds stays, and so do texts that the device does not report any
-    /// more. Does nothing, and returns false, unless there is an IPv4 row of the device that still shows
+    /// The name of the IPv4 row of the device that answered: of its MAC, or of its address and port when it
+    /// does not report its MAC. Empty when there is none.
+    [[nodiscard]] QString nameOf(const sdk::SearchAnswer &answer) const;
+
+    /// Takes over what the listed device `name` reports now: state, name, model, version, address and ports,
+    /// and the search record. What else the row holds stays, and so do texts that the device does not report
+    /// any more. Does nothing, and returns false, unless there is an IPv4 row of this name that still shows
     /// `address`: a response may arrive after the row has got another one.
-    bool updateRow(const sdk::SearchAnswer &answer, const QString &address);
+    bool updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address);
 
     /// Removes every row and record, as a search begins.
     void clear();
@@ -68,6 +72,9 @@ public:
     /// The IPv4 row of a device, or the first one of an address and port; empty when there is none.
     [[nodiscard]] QJsonObject row(const QString &mac) const;
     [[nodiscard]] QJsonObject rowAt(const QString &ipport) const;
+
+    /// The names of the rows of an address and port, of either list.
+    [[nodiscard]] QStringList namesAt(const QString &ipport) const;
 
     /// The row of a name, of either list; empty when there is none.
     [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
@@ -82,19 +89,20 @@ public:
     /// Changes the first row of an address and port: of the IPv4 list, otherwise of the IPv6 list.
     bool changeRowAt(const QString &ipport, const Change &change);
 
-    /// Adds a row that does not come from a search: in the place of the device's row, or at the end.
-    void putRow(const QJsonObject &row);
+    /// Adds a row that does not come from a search, with the answer of its device if it gave one: in the
+    /// place of the device's row, or at the end.
+    void putRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer = {});
 
     /// Removes IPv4 rows with their search records, or IPv6 rows, by name. A running search does not bring
     /// them back.
     void removeRows(const QSet<QString> &names);
     void removeIPv6Rows(const QSet<QString> &names);
 
-    /// The raw search answer of the device, if one is kept.
-    [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &mac) const;
+    /// The raw search answer of the device of a row, if one is kept.
+    [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &name) const;
 
-    /// Keeps an answer as the device's record, in place of any other.
-    void putRecord(const sdk::SearchAnswer &answer);
+    /// Keeps an answer as the record of a row, in place of any other.
+    void putRecord(const QString &name, const sdk::SearchAnswer &answer);
 
 private:
     struct Place
@@ -113,7 +121,7 @@ private:
     mutable std::mutex m_mutex;
     DeviceRowList m_ipv4;
     DeviceRowList m_ipv6;
-    QHash<QString, QByteArray> m_records; ///< by MAC: the bytes of the answer without the zeros at its end
+    QHash<QString, QByteArray> m_records; ///< by name: the bytes of the answer without the zeros at its end
     QSet<QString> m_settled;         ///< devices found or removed since clear(): further answers are dropped
     QHash<QString, int> m_ipv6Found; ///< IPv6 rows found since clear(), by address and port
     int m_found = 0;                 ///< rows found since clear()

@@ -94,7 +94,7 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
     });
     if (record) {
         setText(record->device.address, address);
-        store().putRecord(*record);
+        store().putRecord(mac, *record);
     }
     return noteResult(mac, result);
 }

@@ -60,7 +60,7 @@ QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
 
 QVariantMap CDeviceDH::getDeviceDetailByAddress(const QString &ipport)
 {
-    return getDeviceDetail(store().rowAt(ipport).value(DeviceRowKey::mac).toString());
+    return getDeviceDetail(rowName(store().rowAt(ipport)));
 }
 
 void CDeviceDH::setDeleteDevice(const QString &mac, const QString &ipvision)

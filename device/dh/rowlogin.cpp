@@ -229,7 +229,5 @@ void keepRow(DeviceStore &store, const RowLoginOutcome &outcome)
 {
     QJsonObject row = outcome.row;
     row.insert(DeviceRowKey::num, QString::number(store.ipv4Count() + 1));
-    if (outcome.record)
-        store.putRecord(*outcome.record);
-    store.putRow(row);
+    store.putRow(row, outcome.record);
 }

@@ -213,6 +213,25 @@ private Q_SLOTS:
         QVERIFY(m_store->rowAt("192.168.1.1:37777").isEmpty());
     }
 
+    void aRowWithoutAMacKeepsItsName()
+    {
+        const QString name = "192.168.1.64:37777";
+        m_store->addAnswer(searchAnswer({.mac = ""}));
+        QVERIFY(
+            m_store->changeRow(name, [](QJsonObject &row) { row.insert("ipport", "192.168.1.65:37777"); }));
+        const sdk::SearchAnswer moved = searchAnswer({.address = "192.168.1.65", .mac = "", .name = "gate"});
+        QCOMPARE(m_store->nameOf(moved), name);
+        QVERIFY(m_store->updateRow(name, moved, "192.168.1.65"));
+        QCOMPARE(rowName(m_store->ipv4Rows().value(0).toJsonObject()), name);
+        QCOMPARE(m_store->row(name).value("name").toString(), "gate");
+        QCOMPARE(sdk::blockText(m_store->record(name)->device.address), "192.168.1.65");
+        // Another one at the old address is not taken for it, and is found again itself.
+        for (int time = 0; time < 2; ++time)
+            m_store->putRow({{"ipport", name}}, searchAnswer({.mac = ""}));
+        QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::name), QStringList({"gate", ""}));
+        QCOMPARE(sdk::blockText(m_store->record(name + "#1")->device.address), "192.168.1.64");
+    }
+
     void aChangeKeepsWhatAnotherOneWritesMeanwhile()
     {
         const QString mac = "02:1a:c5:00:40:17";
