@@ -7,6 +7,8 @@
 #include "device/dh/upgraderunner.h"
 #include "device/logging.h"
 
+#include <algorithm>
+
 namespace {
 
 UpgradeTools::Result refusalOf(const FirmwareFile &file, const QString &model)
@@ -79,8 +81,12 @@ void CDeviceDH::stopUpgrade(const QString &mac)
 
 bool CDeviceDH::isUpgradingAt(const QString &ipport) const
 {
-    return m_upgrades->isUpgrading() && // else there is no need to look for the row
-           (m_upgrades->isUpgrading(ipport) || m_upgrades->isUpgrading(rowName(store().rowAt(ipport))));
+    if (!m_upgrades->isUpgrading()) // there is no need to look for the rows
+        return false;
+    // Several devices may have one address. Which of them answers at it is not known.
+    const QStringList names = QStringList(ipport) + store().namesAt(ipport);
+    return std::any_of(names.cbegin(), names.cend(),
+                       [this](const QString &name) { return m_upgrades->isUpgrading(name); });
 }
 
 void CDeviceDH::noteChangedRows()

@@ -441,6 +441,16 @@ private Q_SLOTS:
         QVERIFY(test.store->row(test.mac(0)).isEmpty());
     }
 
+    void theUpgradedDeviceMayShareItsAddress()
+    {
+        const UpgradeSite test(2);
+        test.store->changeRow(test.mac(0),
+                              [&](QJsonObject &row) { row.insert(DeviceRowKey::ipport, test.ipport(1)); });
+        test.start({1}, test.file());
+        QCOMPARE(test.factory->checkLogin(test.family, test.ipport(1), u"admin"_s, u"secret1"_s),
+                 resultCode(LoginResult::Upgrading));
+    }
+
     void devicesThatLeaveTheTable()
     {
         const UpgradeSite test(1);
