@@ -93,6 +93,20 @@ QStringList takeAudio(const EncodeChoices &choices, const EncodeItems &from, boo
     return {};
 }
 
+/// The places of the items that cannot be copied from `from`.
+QList<int> itemsLeftOut(const EncodeState &from)
+{
+    QList<int> places = from.unreadItems();
+    constexpr int compression = static_cast<int>(EncodePlace::AudioCompression);
+    constexpr int format = static_cast<int>(EncodePlace::AudioFormat);
+    for (const int stream : {0, itemsOfStream}) {
+        // A sampling frequency belongs to its compression.
+        if (places.contains(stream + compression) && !places.contains(stream + format))
+            places.append(stream + format);
+    }
+    return places;
+}
+
 /// Puts compression and size of `items` into the record that capabilities are asked for with.
 void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
 {
@@ -143,14 +157,14 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     if (hasSub)
         outcome.skipped += takeRates(sub, from.sub, true, to.sub);
     outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
-    const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, from.unreadItems());
+    const QList<int> leftOut = itemsLeftOut(from);
+    const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, leftOut);
     if (writing.isDeviceAway)
         outcome.result = resultCode(LoginResult::NetworkFailure);
     else if (!writing.notTaken.isEmpty())
         outcome.result = refusedByDevice;
     for (int place = 0; place < 2 * itemsOfStream; ++place) {
-        if (from.unreadItems().contains(place) || to.unreadItems().contains(place) ||
-            writing.notTaken.contains(place))
+        if (leftOut.contains(place) || to.unreadItems().contains(place) || writing.notTaken.contains(place))
             outcome.skipped.append(EncodeConfig::itemNames().at(place));
     }
     return outcome;
