@@ -33,6 +33,15 @@ QList<int> itemsOf(const QString &key)
     return {videoFormat};
 }
 
+QList<int> placesOf(const QVariant &list)
+{
+    QList<int> places;
+    const QVariantList values = list.toList();
+    for (const QVariant &place : values)
+        places.append(place.toInt());
+    return places;
+}
+
 QVariantMap setting(const QString &key, bool isChanged)
 {
     return {{QStringLiteral("key"), key},
@@ -107,10 +116,8 @@ void EncodeForm::set(const QString &key, const QVariant &value)
 void EncodeForm::fetch()
 {
     m_changedCount = 0;
-    m_takenItems.clear();
-    const QVariantList taken = value(QStringLiteral("takenItems")).toList();
-    for (const QVariant &place : taken)
-        m_takenItems.append(place.toInt());
+    m_takenItems = placesOf(value(QStringLiteral("takenItems")));
+    m_unreadPlaces = placesOf(value(QStringLiteral("unreadPlaces")));
     m_channels = value(QStringLiteral("channelNum")).toStringList();
     if (m_channels.isEmpty()) // a device that tells of no channels has one
         m_channels.append(QStringLiteral("1"));
@@ -135,9 +142,13 @@ bool EncodeForm::isTaken(const QString &key) const
 {
     constexpr int itemsOfStream = 4;
     const bool isSub = key.startsWith(QLatin1String("sub"));
-    const QList<int> items = itemsOf(key);
-    return std::all_of(items.begin(), items.end(),
-                       [&](int item) { return m_takenItems.contains(isSub ? item + itemsOfStream : item); });
+    QList<int> places = itemsOf(key);
+    for (int &place : places)
+        place += isSub ? itemsOfStream : 0;
+    // An item that was not read is not written, so nothing is waited for.
+    places.removeIf([this](int place) { return m_unreadPlaces.contains(place); });
+    return !places.isEmpty() && std::all_of(places.begin(), places.end(),
+                                            [this](int place) { return m_takenItems.contains(place); });
 }
 
 bool EncodeForm::noteChange(const QString &key, const QVariant &value)

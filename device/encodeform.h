@@ -36,6 +36,8 @@ class EncodeForm : public QObject
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     /// Whether the device told what it can do.
     Q_PROPERTY(bool complete READ isComplete NOTIFY changed)
+    /// Whether the device took anything at the last writing, if it has not been read since.
+    Q_PROPERTY(bool taken READ isTaken NOTIFY changed)
     /// The names of the items that were not read, and are therefore not written.
     Q_PROPERTY(QStringList unreadItems READ unreadItems NOTIFY changed)
 public:
@@ -53,6 +55,7 @@ public:
     [[nodiscard]] QVariantMap subStream() const { return m_sub; }
     [[nodiscard]] int changedCount() const { return m_changedCount; }
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
+    [[nodiscard]] bool isTaken() const { return !m_takenItems.isEmpty(); }
     [[nodiscard]] QStringList unreadItems() const { return m_unreadItems; }
 
     /// Takes the back end's values as those that the device has: nothing counts as changed.
@@ -97,7 +100,8 @@ private:
     QVariantMap m_sub;
     QHash<QString, QVariant> m_read; ///< values as they were read, by key
     bool m_isReading = false;
-    QList<int> m_takenItems; ///< the places of those that the device took at the last writing
+    QList<int> m_takenItems;   ///< the places of those that the device took at the last writing
+    QList<int> m_unreadPlaces; ///< of the items that were not read
     int m_changedCount = 0;
     bool m_isComplete = false;
     QStringList m_unreadItems;

@@ -71,11 +71,14 @@ QVariant EncodeConfig::value(const QString &key) const
     if (key == takenItemsKey)
         return m_takenItems;
     const EncodeState &state = m_state ? *m_state : nothing();
-    if (key == unreadItemsKey) {
+    if (key == unreadItemsKey || key == unreadPlacesKey) {
         QStringList names;
-        for (const int place : state.unreadItems())
+        QVariantList places;
+        for (const int place : state.unreadItems()) {
             names.append(itemNames().at(place));
-        return names;
+            places.append(place);
+        }
+        return key == unreadItemsKey ? QVariant(names) : QVariant(places);
     }
     return m_values.value(key, state, m_channels.curStreamType);
 }

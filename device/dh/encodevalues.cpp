@@ -128,7 +128,7 @@ QStringList samplingFrequencies(const ValueTables &tables, int current)
 bool EncodeValues::isKey(const QString &key)
 {
     return key == QLatin1String("subVideoEnable") || key == takenItemsKey || key == unreadItemsKey ||
-           streamFields().contains(parted(key).field);
+           key == unreadPlacesKey || streamFields().contains(parted(key).field);
 }
 
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const

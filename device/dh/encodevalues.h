@@ -7,8 +7,9 @@
 #include <QVariant>
 
 /// Keys that are not values of a state: the places of the items that the device took at the last write, and
-/// the names of the items that were not read.
+/// the places and names of the items that were not read.
 inline constexpr QLatin1StringView takenItemsKey("takenItems");
+inline constexpr QLatin1StringView unreadPlacesKey("unreadPlaces");
 inline constexpr QLatin1StringView unreadItemsKey("unreadItems");
 
 /// Keys of the sub stream begin with "sub"; the rest of the key is that of the main stream.

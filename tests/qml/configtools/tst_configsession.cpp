@@ -100,6 +100,16 @@ private Q_SLOTS:
         QCOMPARE(m_site->login(m_recorder), 0);
         QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
     }
+
+    void aDeviceThatTakesPartOfASaveIsThereAgain()
+    {
+        m_site->site->setFault(m_recorder.mac, {sdk::demo::Fault::RefusesItem, 1105});
+        call("lose");
+        call("saveEncoding");
+        QTRY_VERIFY(!isBusy());
+        QVERIFY(writes() > 0);
+        QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
+    }
 };
 
 QTEST_MAIN(TestConfigSession)

@@ -110,6 +110,8 @@ Item {
                 root.session.work(qsTr("正在读取编码配置…"), () => root.deviceFactory.getEncodeInfo("dh"));
             } else {
                 encodeForm.takeSaved();
+                if (root.session.lost && encodeForm.taken)  // that it has gone again meanwhile is told after this
+                    root.session.regain();
                 root.unsavedItems = unsaved;
                 root.session.said(unsaved + qsTr("保存失败"), OVToast.Error, root.session.longStay);
             }
