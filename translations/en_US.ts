@@ -1183,6 +1183,10 @@ A right click copies the result</translation>
         <translation>Line %1 is not valid XML</translation>
     </message>
     <message>
+        <source>不支持的编码：%1</source>
+        <translation>The encoding %1 is not supported</translation>
+    </message>
+    <message>
         <source>表格超过 %1 行</source>
         <translation>The sheet has more than %1 rows</translation>
     </message>

@@ -1167,6 +1167,10 @@
         <translation>第 %1 行不是有效的XML</translation>
     </message>
     <message>
+        <source>不支持的编码：%1</source>
+        <translation>不支持的编码：%1</translation>
+    </message>
+    <message>
         <source>表格超过 %1 行</source>
         <translation>表格超过 %1 行</translation>
     </message>

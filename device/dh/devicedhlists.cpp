@@ -42,7 +42,8 @@ QVariantMap faultMap(const DeviceListLine &line, const UnreadableText &fault)
             {QStringLiteral("name"), line[ListColumn::DeviceName].left(maximumListText)},
             {QStringLiteral("column"), QStringLiteral("%1 (%2)").arg(name.header, name.element)},
             {QStringLiteral("reason"),
-             fault.character.isEmpty()
+             line[fault.column].isEmpty() ? QCoreApplication::translate("DeviceList", "设备地址无效")
+             : fault.character.isEmpty()
                  ? QCoreApplication::translate("DeviceList", "字段过长")
                  : QCoreApplication::translate("DeviceList", "字符 %1 在此格式中无法读回")
                        .arg(namedCharacter(fault.character))}};

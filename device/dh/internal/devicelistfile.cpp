@@ -135,10 +135,11 @@ std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::
 {
     const ListFormat format = formatOf(fileName);
     std::vector<UnreadableText> lost;
-    if (comesBack(format, lines))
-        return lost;
-    for (std::size_t place = 0; place < lines.size(); ++place) {
-        if (comesBack(format, {lines.at(place)}))
+    const bool allComeBack = comesBack(format, lines);
+    for (std::size_t place = 0; place < lines.size() && lost.size() < maximumUnreadableTexts; ++place) {
+        if (lines.at(place)[ListColumn::IPAddress].isEmpty())
+            lost.push_back({.line = place, .column = ListColumn::IPAddress, .character = {}});
+        if (allComeBack || comesBack(format, {lines.at(place)}))
             continue;
         for (int number = 0; number < listColumnCount; ++number) {
             const auto column = static_cast<ListColumn>(number);
@@ -169,7 +170,10 @@ DeviceListContents readDeviceList(const QString &path)
     case ListFormat::Csv:
         return readCsv(file);
     case ListFormat::Xml:
-        return readXml(file);
+        break;
     }
-    return {};
+    DeviceListContents contents = readXml(file);
+    if (!contents.detail.isEmpty())
+        qCWarning(logDevice).noquote() << contents.detail;
+    return contents;
 }

@@ -15,13 +15,16 @@ struct UnreadableText
 {
     std::size_t line = 0; ///< the place of its line in the list
     ListColumn column = ListColumn::DeviceCategory;
-    QString character; ///< the first that is lost or breaks the file; empty when the text is too long
+    QString character; ///< the first that is lost or breaks the file; empty when the text is too long,
+                       ///< or is the address and missing
 };
 
 constexpr std::size_t maximumUnreadableTexts = 1000;
 
-/// The texts that would not come back from a file of that name, at most maximumUnreadableTexts. The lines are
-/// taken through the reader of the format, once as a whole, and one by one when the whole does not come back.
+/// The texts that would not come back from a file of that name, at most maximumUnreadableTexts. An address
+/// that is missing, as while DHCP has given none, counts as one: the import would not take the line. The
+/// lines are taken through the reader of the format, once as a whole, and one by one when the whole does not
+/// come back.
 [[nodiscard]] std::vector<UnreadableText> unreadableTexts(const QString &fileName,
                                                           const std::vector<DeviceListLine> &lines);
 

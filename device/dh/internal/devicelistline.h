@@ -84,6 +84,7 @@ struct DeviceListContents
 
     std::vector<DeviceListLine> lines;
     QString refusal; ///< why the file cannot be used, in the user's language; empty when it can
+    QString detail;  ///< what a log should say of that; may be empty
 
     /// Takes the next line. Returns false, with a refusal, when there are too many.
     bool add(DeviceListLine line);

@@ -1,10 +1,10 @@
 #include "device/dh/internal/xmldevicelist.h"
 
-#include "device/logging.h"
 #include "sheets/xmlbounds.h"
 
 #include <QCoreApplication>
 #include <QIODevice>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <pugixml.hpp>
@@ -55,6 +55,19 @@ std::optional<qsizetype> strangeByte(QByteArrayView text)
             return start;
     }
     return std::nullopt;
+}
+
+/// The encoding that an XML declaration names, unless it is one of Unicode: where the declaration can be read
+/// byte by byte that is UTF-8, whatever it says. Empty otherwise.
+QByteArray declaredEncoding(const QByteArray &text)
+{
+    constexpr qsizetype longestDeclaration = 256;
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(^<\?xml\s(?:[^>]*\s)?encoding\s*=\s*["']([A-Za-z][A-Za-z0-9._-]*)["'])"));
+    const auto match =
+        pattern.match(QString::fromLatin1(text.first(std::min(longestDeclaration, text.size()))));
+    const QByteArray name = match.captured(1).toLatin1();
+    return name.toUpper().startsWith("UTF") ? QByteArray() : name;
 }
 
 /// The character that a reference stands for, given without "&" and ";"; nothing when it stands for none.
@@ -131,9 +144,8 @@ public:
 private:
     bool parse()
     {
-        if (const auto encoding = QStringConverter::encodingForData(m_text, u'<');
-            encoding && encoding != QStringConverter::Utf8)
-            m_text = QString(QStringDecoder(*encoding).decode(m_text)).toUtf8();
+        if (!decode())
+            return false;
         if (const auto at = strangeByte(m_text))
             return refuse(*at, "a character that is none of UTF-8 or XML");
         if (sheets::neededXmlMemory(m_text) > maximumMemory)
@@ -142,6 +154,26 @@ private:
         const auto result = m_document.load_buffer(m_text.constData(), std::size_t(m_text.size()), parseFlags,
                                                    pugi::encoding_utf8);
         return result || refuse(result.offset, result.description());
+    }
+
+    /// Makes UTF-8 of the text.
+    bool decode()
+    {
+        const auto byMark = QStringConverter::encodingForData(m_text, u'<');
+        const QByteArray declared = byMark ? QByteArray() : declaredEncoding(m_text);
+        if (byMark == QStringConverter::Utf8 || (!byMark && declared.isEmpty()))
+            return true;
+        QStringDecoder decoder = byMark ? QStringDecoder(*byMark) : QStringDecoder(declared.constData());
+        if (!decoder.isValid()) {
+            const QString name = QString::fromLatin1(declared);
+            m_contents.detail = QStringLiteral("Failed to parse XML file: unknown encoding ") + name;
+            return m_contents.refuse(QCoreApplication::translate("DeviceList", "不支持的编码：%1").arg(name));
+        }
+        const QString text = decoder.decode(m_text);
+        if (decoder.hasError())
+            return refuse(0, "a character that is none of the encoding");
+        m_text = text.toUtf8();
+        return true;
     }
 
     /// One root element of the right name, no document type, and nothing too deep.
@@ -155,7 +187,7 @@ private:
         if (root.name() != rootName) {
             constexpr qsizetype shownLength = 64;
             const QString name = QString::fromUtf8(root.name()).left(shownLength);
-            qCWarning(logDevice).noquote().nospace() << "Root element is not 'deviceList': " << name;
+            m_contents.detail = QStringLiteral("Root element is not 'deviceList': ") + name;
             return m_contents.refuse(
                 QCoreApplication::translate("DeviceList", "根元素不是 deviceList：%1").arg(name));
         }
@@ -201,7 +233,8 @@ private:
     bool refuse(std::ptrdiff_t place, const char *reason)
     {
         const int line = lineAt(place);
-        qCWarning(logDevice).noquote() << "Failed to parse XML file:" << reason << "in line" << line;
+        m_contents.detail =
+            QStringLiteral("Failed to parse XML file: %1 in line %2").arg(QLatin1String(reason)).arg(line);
         return m_contents.refuse(
             QCoreApplication::translate("DeviceList", "第 %1 行不是有效的XML").arg(line));
     }

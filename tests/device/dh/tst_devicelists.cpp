@@ -217,6 +217,7 @@ private Q_SLOTS:
         QFETCH(QString, reason);
         search();
         m_factory->updataDeviceInfo("dh", "name", name, plateCamera, "");
+        QTest::failOnWarning(QRegularExpression(".*")); // the file is fine: a log of trials would not be
         QVERIFY(exported({camera, plateCamera}, "device." + format));
         const QVariantList faults = m_factory->exportFaults("dh");
         QCOMPARE(faults.size(), reason.isEmpty() ? 0 : 1);
@@ -226,6 +227,17 @@ private Q_SLOTS:
             QCOMPARE(fault.value("address").toString(), "192.168.1.11");
             QCOMPARE(fault.value("column").toString(), "设备名称 (DeviceName)");
         }
+    }
+
+    void namesADeviceThatWaitsForItsAddress()
+    {
+        search();
+        m_factory->updataDeviceInfo("dh", "ipport", ":37777", plateCamera, "");
+        QVERIFY(exported({camera, plateCamera}, "device.xml"));
+        const QVariantList faults = m_factory->exportFaults("dh");
+        QCOMPARE(faults.size(), 1);
+        QVERIFY(faults.first().toMap().value("column").toString().contains("IPAddress"));
+        QCOMPARE(faults.first().toMap().value("reason").toString(), "设备地址无效");
     }
 
     void leavesOutDevicesThatAreGone()
@@ -394,6 +406,11 @@ private Q_SLOTS:
                                          << "<deviceList><device" + attributes +
                                                 "><Username>admin</Username><Password>secret1</Password>"
                                                 "<IPAddress>192.168.1.10</IPAddress></device></deviceList>";
+        QTest::newRow("declared encoding")
+            << "a.xml"
+            << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><deviceList><device><Username>admin"
+                          "</Username><Password>secret1</Password><IPAddress>192.168.1.10</IPAddress>"
+                          "<DeviceName>T\xFCr</DeviceName></device></deviceList>");
         QTest::newRow("other elements")
             << "a.xml"
             << QByteArray("\xEF\xBB\xBF<?xml version='1.0'?><!-- by hand --><deviceList><info><a/></info>"
@@ -443,6 +460,9 @@ private Q_SLOTS:
         QTest::newRow("reference to no character") << "a.xml" << named("&#xFFFE;") << unparsed;
         QTest::newRow("no character") << "a.xml" << named("\xEF\xBF\xBE") << unparsed;
         QTest::newRow("XML not in UTF-8") << "a.xml" << named("\xB6\xAB") << unparsed;
+        QTest::newRow("unknown encoding")
+            << "a.xml" << QByteArray("<?xml version='1.0' encoding='x-none'?><deviceList/>")
+            << unparsed + " unknown encoding x-none$";
         QTest::newRow("element in a text") << "a.xml" << named("<b>x</b>") << unparsed;
         QTest::newRow("two roots") << "a.xml" << QByteArray("<deviceList/><deviceList/>") << unparsed;
         QTest::newRow("cut off") << "a.xml" << QByteArray("<deviceList><device>") << unparsed;
