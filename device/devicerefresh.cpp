@@ -9,8 +9,11 @@
 #include <QThreadPool>
 #include <QtConcurrent>
 
+#include <algorithm>
+#include <atomic>
 #include <functional>
 #include <mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -24,6 +27,9 @@ constexpr const char *anyLocalAddress = "0.0.0.0";
 /// Devices restart their network after a new address, and a datagram may get lost. Both kinds of request are
 /// made twice.
 constexpr int attempts = 4;
+
+/// Requests that are made side by side, each of which waits for its whole time.
+constexpr std::size_t requestsAtOnce = 16;
 
 /// The devices of one start() whose rows are not up to date yet. Thread-safe.
 class WaitingDevices
@@ -115,9 +121,10 @@ void DeviceRefresh::start(const QStringList &names)
 {
     QHash<QString, QString> devices;
     for (const QString &name : names) {
-        const QJsonObject row = m_store->rowNamed(name);
+        const QJsonObject row = m_store->row(name);
         const QString address = rowAddress(row);
-        if (!address.isEmpty() && row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
+        const bool isIPv4 = !address.isEmpty() && !address.contains(QLatin1Char(':'));
+        if (isIPv4 && row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
             devices.insert(name, address);
     }
     if (devices.isEmpty() || !m_libraries.net)
@@ -138,15 +145,22 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, const std::stop_
                                   Q_EMIT rowsChanged();
                               }};
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        for (const sdk::SearchByAddressesRequest &request : waiting.requests()) {
-            if (stop.stop_requested())
-                return;
-            if (attempt % 2 == 0)
-                net.NetSearchDevicesByIPs(request, &ResponseReceiver::handle, &receiver, anyLocalAddress,
-                                          addressesWait);
-            else
-                net.NetSearchDevicesByIPsEx(request, &ResponseReceiver::handle, &receiver, anyLocalAddress,
-                                            addressesWait);
-        }
+        const std::vector<sdk::SearchByAddressesRequest> requests = waiting.requests();
+        std::atomic<std::size_t> next = 0;
+        const auto askInTurn = [&] {
+            for (std::size_t place = next++; place < requests.size() && !stop.stop_requested();
+                 place = next++) {
+                if (attempt % 2 == 0)
+                    net.NetSearchDevicesByIPs(requests[place], &ResponseReceiver::handle, &receiver,
+                                              anyLocalAddress, addressesWait);
+                else
+                    net.NetSearchDevicesByIPsEx(requests[place], &ResponseReceiver::handle, &receiver,
+                                                anyLocalAddress, addressesWait);
+            }
+        };
+        std::vector<std::jthread> others; // they end before the attempt does
+        for (std::size_t count = 1; count < std::min(requests.size(), requestsAtOnce); ++count)
+            others.emplace_back(askInTurn);
+        askInTurn();
     }
 }

@@ -31,9 +31,9 @@ public:
     /// Makes running tasks end at their next step, without waiting for them.
     void requestStop();
 
-    /// `names` are the names of IPv4 rows (MAC, or address and port). Devices behind a tunnel are left out:
-    /// no search reaches them. A device that does not respond, or is not initialised yet, is queried again up
-    /// to three times, within 12 s. Returns at once.
+    /// `names` are the names of rows. Devices behind a tunnel and those with an IPv6 address are left out: no
+    /// search by address reaches them. A device that does not respond, or is not initialised yet, is queried
+    /// again up to three times, within 12 s for up to 4096 devices. Returns at once.
     void start(const QStringList &names);
 
 Q_SIGNALS:

@@ -1,4 +1,5 @@
 #include "device/devicefactory.h"
+#include "device/devicerefresh.h"
 #include "device/devicestore.h"
 #include "device/devicetablemodel.h"
 #include "device/dh/devicedh.h"
@@ -7,8 +8,10 @@
 #include "sdk/demo/steppableclock.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
+#include "tests/device/searchanswers.h"
 #include "tests/media/quietnetlibrary.h"
 
+#include <QJsonArray>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -279,6 +282,31 @@ private Q_SLOTS:
         QCOMPARE(row(newCamera).value("ipport").toString(), "192.168.1.78:37777");
         QCOMPARE(row(camera), lost);
         QCOMPARE(row(recorder), other); // it was not asked
+    }
+
+    void manyDevicesAreQueriedSideBySide()
+    {
+        const auto store = std::make_shared<DeviceStore>(m_clock);
+        QStringList names = {"[fe80::1]:37777", "by hand"};
+        store->addAnswer(searchAnswer({.address = "fe80::1", .ipVersion = 6}));
+        store->putRow({{"mac", names.last()}, {"ipport", "[fe80::2]:37777"}});
+        for (int number = 0; number < 600; ++number) {
+            names.append(QString::number(number));
+            store->putRow({{"mac", names.last()},
+                           {"ipport", QString("10.0.%1.%2:37777").arg(number / 250).arg(number % 250)}});
+        }
+        search();       // begins with the library
+        m_time.reset(); // a request ends no more
+        DeviceRefresh refresh(store, m_site->libraries());
+        refresh.start(names);
+        const bool areAsked = m_site->requests().waitFor("NetSearchDevicesByIPs", 3);
+        refresh.requestStop();
+        m_time = std::make_unique<FlowingClock>(*m_clock);
+        QVERIFY(areAsked);
+        for (const auto &asked : m_site->requests().of("NetSearchDevicesByIPs")) {
+            for (const QJsonValue &address : asked.request.value("addresses").toArray())
+                QVERIFY(!address.toString().contains("fe80"));
+        }
     }
 
     void theSessionIsReplacedByTheNext()
