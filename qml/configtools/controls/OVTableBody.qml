@@ -39,6 +39,14 @@ ListView {
         currentIdentity = (itemAtIndex(row) as OVTableRow)?.identity ?? "";
     }
 
+    /// Makes the row with this identity the current one, unless it is gone.
+    function pick(identity, modifiers) {
+        takePointerFocus();
+        const row = model.rowOf(identity);
+        if (row >= 0)
+            move(row, modifiers & Qt.ShiftModifier);
+    }
+
     function toggle(row, modifiers) {
         const extend = modifiers & Qt.ShiftModifier;
         if (!extend)
@@ -114,15 +122,18 @@ ListView {
             root.revision;
             return root.model.get(index);
         }
-        onPicked: modifiers => {
+        onPicked: (identity, modifiers) => root.pick(identity, modifiers)
+        onTickToggled: (identity, modifiers) => {
             root.takePointerFocus();
-            root.move(index, modifiers & Qt.ShiftModifier);
+            const row = root.model.rowOf(identity);
+            if (row >= 0)
+                root.toggle(row, modifiers);
         }
-        onTickToggled: modifiers => {
-            root.takePointerFocus();
-            root.toggle(index, modifiers);
+        onOpened: identity => {
+            const row = root.model.rowOf(identity);
+            if (row >= 0)
+                root.rowOpened(row);
         }
-        onOpened: root.rowOpened(index)
     }
     // qmllint enable unqualified
 

@@ -15,9 +15,18 @@ Rectangle {
     required property bool checkable
     required property int checkWidth
     required property bool current
-    signal picked(int modifiers)
-    signal tickToggled(int modifiers)
-    signal opened
+    property string pressedIdentity
+    signal picked(string identity, int modifiers)
+    signal tickToggled(string identity, int modifiers)
+    signal opened(string identity)
+
+    /// A click acts on what was under the pointer when the button went down: this item may show another row since.
+    /// A screen reader clicks without a press.
+    function takePressed() {
+        const identity = pressedIdentity !== "" ? pressedIdentity : root.identity;
+        pressedIdentity = "";
+        return identity;
+    }
 
     height: Theme.rowHeight
     color: current ? Theme.colours.rowSelected
@@ -31,6 +40,8 @@ Rectangle {
     Accessible.checkable: checkable
     Accessible.checked: checked
 
+    ListView.onPooled: pressedIdentity = ""  // a press whose release went elsewhere
+
     HoverHandler {
         id: pointer
     }
@@ -43,8 +54,9 @@ Rectangle {
 
     MouseArea {
         anchors.fill: parent
-        onClicked: mouse => root.picked(mouse.modifiers)
-        onDoubleClicked: root.opened()
+        onPressed: root.pressedIdentity = root.identity
+        onClicked: mouse => root.picked(root.takePressed(), mouse.modifiers)
+        onDoubleClicked: root.opened(root.takePressed())
     }
 
     // A part of the row's surface, not a control of its own: a click counts anywhere in its column.
@@ -53,7 +65,8 @@ Rectangle {
         height: parent.height
         objectName: "check" + root.index
         visible: root.checkable
-        onClicked: mouse => root.tickToggled(mouse.modifiers)
+        onPressed: root.pressedIdentity = root.identity
+        onClicked: mouse => root.tickToggled(root.takePressed(), mouse.modifiers)
 
         OVCheckBox {
             anchors.centerIn: parent
@@ -67,7 +80,8 @@ Rectangle {
             // The model owns the tick; the area under the box takes the click.
             MouseArea {
                 anchors.fill: parent
-                onClicked: mouse => root.tickToggled(mouse.modifiers)
+                onPressed: root.pressedIdentity = root.identity
+                onClicked: mouse => root.tickToggled(root.takePressed(), mouse.modifiers)
             }
         }
     }

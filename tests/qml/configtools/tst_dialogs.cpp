@@ -1,8 +1,11 @@
 // Boxes over the window: how they are answered, and what they show.
 #include "tests/qml/configtools/qmlscene.h"
 
+#include <QAbstractListModel>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -21,6 +24,10 @@ const char *const scene = "import QtQuick\n"
                           "            function exportFaults(family) { return faults; }\n"
                           "        }\n"
                           "    }\n"
+                          "    OVTable {\n"
+                          "        y: 100; width: 400; height: 300; objectName: 'table'; model: devices\n"
+                          "        columns: [{key: 'mac', title: 'MAC', width: 200}]\n"
+                          "    }\n"
                           "    OVTitleDragArea {\n"
                           "        width: 1280; height: 40\n"
                           "        cursor: QtObject {\n"
@@ -33,16 +40,57 @@ const char *const scene = "import QtQuick\n"
 
 } // namespace
 
+/// Rows that change their places without new ones.
+class Devices : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    int rowCount(const QModelIndex & = {}) const override { return static_cast<int>(m_macs.size()); }
+    QHash<int, QByteArray> roleNames() const override
+    {
+        return {{0, "checked"}, {1, "conflict"}, {2, "identity"}};
+    }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        return role == 2 ? QVariant(m_macs.at(index.row())) : QVariant(false);
+    }
+    Q_INVOKABLE QVariantMap get(int row) const { return {{"mac", m_macs.value(row)}}; }
+    Q_INVOKABLE int rowOf(const QString &identity) const
+    {
+        return static_cast<int>(m_macs.indexOf(identity));
+    }
+    void reverse()
+    {
+        std::reverse(m_macs.begin(), m_macs.end());
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    }
+
+private:
+    QStringList m_macs = {"a", "b", "c"};
+};
+
 class TestDialogs : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase()
     {
-        m_window = openScene(m_engine, scene);
+        m_window = openScene(m_engine, scene, {{"devices", &m_devices}});
         QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_box = m_window->findChild<QObject *>("question");
+    }
+
+    void aClickIsMeantForTheRowThatWasPressed()
+    {
+        auto *table = m_window->findChild<QQuickItem *>("table");
+        const QQuickItem *row = findBelow(table, "row0", Sight::Visible);
+        QVERIFY(row);
+        const QPoint place = row->mapToScene({100, row->height() / 2}).toPoint();
+        QTest::mousePress(m_window.get(), Qt::LeftButton, {}, place);
+        m_devices.reverse();
+        QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, place);
+        QCOMPARE(table->property("currentIndex").toInt(), 2);
     }
 
     /// No window system moves a window here.
@@ -133,6 +181,7 @@ private:
         return m_window->activeFocusItem() ? m_window->activeFocusItem()->objectName() : QString();
     }
 
+    Devices m_devices; // outlives the engine
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QObject *m_box = nullptr;
