@@ -118,18 +118,21 @@ void StreamDecoder::skipLatePictures()
     if (skip.isInterrupted)
         m_pictures->restart();
     m_pictures->setHurried(m_isHurried);
+    reportLeftOut();
+}
+
+void StreamDecoder::reportLeftOut()
+{
+    if (const int pictures = m_pictures->takeLeftOut(); pictures > 0)
+        m_observer.skipped(pictures);
 }
 
 bool StreamDecoder::decode(const AVPacket &packet)
 {
     if (m_pictures && packet.stream_index == m_pictures->track()) {
-        bool hasCome = false;
-        const bool isWhole = m_pictures->decode(packet, [&](const AVFrame &frame) {
-            hasCome = true;
-            deliverPicture(frame);
-        });
-        if (m_isHurried && isWhole && !hasCome)
-            m_observer.skipped(1);
+        const bool isWhole =
+            m_pictures->decode(packet, [this](const AVFrame &frame) { deliverPicture(frame); });
+        reportLeftOut();
         return isWhole;
     }
     if (m_sound && packet.stream_index == m_sound->track())

@@ -57,6 +57,7 @@ private:
     [[nodiscard]] bool fillBacklog();
     [[nodiscard]] bool readPiece();
     void skipLatePictures();
+    void reportLeftOut();
     [[nodiscard]] bool decode(const AVPacket &packet);
     void deliverPicture(const AVFrame &frame);
     void deliverSound(const AVFrame &frame);

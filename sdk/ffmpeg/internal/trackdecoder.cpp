@@ -1,5 +1,6 @@
 #include "sdk/ffmpeg/internal/trackdecoder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -36,12 +37,20 @@ bool TrackDecoder::decode(const AVPacket &packet, const FrameHandler &handler)
         return true;
     m_waitsForKey = false;
     const bool isTaken = avcodec_send_packet(m_context.get(), &packet) == 0;
-    return takeFrames(handler) && isTaken;
+    ++m_held;
+    const bool isWhole = takeFrames(handler) && isTaken;
+    // The decoder says only how many frames it holds back to order them. What is beyond that does not come.
+    const int held = std::clamp(m_held, 0, std::max(0, m_context->has_b_frames));
+    if (isWhole && m_context->skip_frame == AVDISCARD_NONREF)
+        m_leftOut += std::max(0, m_held - held);
+    m_held = held;
+    return isWhole;
 }
 
 void TrackDecoder::restart()
 {
     avcodec_flush_buffers(m_context.get());
+    m_leftOut += std::exchange(m_held, 0);
 }
 
 void TrackDecoder::setHurried(bool isHurried)
@@ -60,6 +69,7 @@ bool TrackDecoder::takeFrames(const FrameHandler &handler)
     bool isWhole = true;
     int result = 0;
     while ((result = avcodec_receive_frame(m_context.get(), m_frame.get())) == 0) {
+        --m_held;
         if (m_frame->decode_error_flags == 0 && (m_frame->flags & AV_FRAME_FLAG_CORRUPT) == 0)
             handler(*m_frame);
         else

@@ -4,6 +4,7 @@
 #include "sdk/ffmpeg/internal/avpointers.h"
 
 #include <functional>
+#include <utility>
 
 namespace sdk::ffmpeg {
 
@@ -31,7 +32,8 @@ public:
     /// Decodes a piece of the track. Returns false when it was damaged.
     [[nodiscard]] bool decode(const AVPacket &packet, const FrameHandler &handler);
 
-    /// The next piece does not follow on the last one; it is a frame that needs no earlier one.
+    /// The next piece does not follow on the last one; it is a frame that needs no earlier one. Frames that
+    /// wait for others to come before them are left out.
     void restart();
 
     /// While it is hurried, it leaves out frames that no other one needs.
@@ -39,6 +41,9 @@ public:
 
     /// Brings the frames that wait for others to come before them. Nothing can be decoded after that.
     void finish(const FrameHandler &handler);
+
+    /// The frames that were left out since the last call, without those of damaged pieces.
+    [[nodiscard]] int takeLeftOut() { return std::exchange(m_leftOut, 0); }
 
     [[nodiscard]] int track() const { return m_track; }
     [[nodiscard]] AVCodecID codec() const { return m_context->codec_id; }
@@ -55,6 +60,8 @@ private:
     const int m_track;
     const AVRational m_containerRate;
     bool m_waitsForKey;
+    int m_held = 0; ///< frames that wait for others to come before them
+    int m_leftOut = 0;
 };
 
 } // namespace sdk::ffmpeg

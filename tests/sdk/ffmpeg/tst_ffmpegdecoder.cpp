@@ -55,6 +55,7 @@ private Q_SLOTS:
     void skipsOtherTracks();
     void leavesOutWhatIsLate_data();
     void leavesOutWhatIsLate();
+    void whatWaitsForItsTurnIsNotLeftOut();
 };
 
 void FfmpegDecoderTest::pictures_data()
@@ -363,6 +364,29 @@ void FfmpegDecoderTest::leavesOutWhatIsLate()
     QCOMPARE(numbers, shown);
     QCOMPARE(port.status().skippedPictures, static_cast<std::uint32_t>(late + 4 - shown.size()));
     QCOMPARE(port.status().damages, 0U);
+}
+
+/// It comes when others have come before it.
+void FfmpegDecoderTest::whatWaitsForItsTurnIsNotLeftOut()
+{
+    LiveStream stream(PictureFormat{.keyEvery = 50, .options = "bf=2"});
+    const QByteArray bytes = stream.head() + stream.pictures(20);
+    const auto pushed = bytes.count("\x1F\x43\xB6\x75"); // the clusters, one for each picture
+    const auto clock = std::make_shared<StandingClock>();
+    Receiver receiver;
+    FfmpegDecoderLibrary library(clock);
+    std::int32_t port = -1;
+    QVERIFY(library.DecoderAllocPort(port) && library.DecoderSetStreamMode(port, 0));
+    QVERIFY(library.DecoderOpenStream(port, reinterpret_cast<const std::uint8_t *>(bytes.constData()),
+                                      static_cast<std::uint32_t>(bytes.size()), usualBuffer));
+    QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
+    clock->advance(200); // it is late from its first picture on
+    QVERIFY(library.DecoderPlay(port, 0));
+    DecoderStatus status{};
+    QTRY_VERIFY(library.DecoderGetStatus(port, status) && status.waitingBytes == 0 &&
+                status.skippedPictures > 0);
+    library.DecoderFreePort(port);
+    QCOMPARE_LT(status.skippedPictures + receiver.pictures().size(), pushed);
 }
 
 QTEST_GUILESS_MAIN(FfmpegDecoderTest)
