@@ -9,12 +9,11 @@ BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QS
     QVariantMap row = factory.getDeviceDetail(family, name);
     if (row.isEmpty())
         row = factory.getDeviceInfo(family, name);
-    const QString mac = row.value(DeviceRowKey::mac).toString();
     const QString ipport = row.value(DeviceRowKey::ipport, name).toString();
     QStringList words = {row.value(DeviceRowKey::name).toString(), row.value(DeviceRowKey::model).toString()};
     words.removeAll(QString());
     return {.name = name,
-            .identity = mac.isEmpty() ? ipport : mac,
+            .identity = row.isEmpty() ? name : rowName(QJsonObject::fromVariantMap(row)),
             .ipport = ipport,
             .title = words.join(QStringLiteral(" · "))};
 }

@@ -23,7 +23,7 @@ struct AddressSettings
 struct BatchDevice
 {
     QString name;     ///< as the page names it that asks for the batch: its address and port, or its MAC
-    QString identity; ///< its MAC, or its address and port where it has none
+    QString identity; ///< the name of its row
     QString ipport;   ///< as of the start of the batch
     QString title;    ///< its name and model, for the user
 };
