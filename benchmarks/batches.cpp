@@ -18,7 +18,7 @@ namespace {
 
 constexpr int devices = 200;
 constexpr int deadDevices = 10;
-constexpr auto latency = 200ms;
+constexpr int answerTime = 200; // milliseconds
 
 /// Cameras that answer slowly, some of them not at all.
 QList<sdk::demo::SceneDevice> scene()
@@ -32,7 +32,7 @@ QList<sdk::demo::SceneDevice> scene()
         device.type = QStringLiteral("IPC");
         device.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
         device.channels.resize(1);
-        device.latency = latency;
+        device.faults = {{.fault = sdk::demo::Fault::SlowAnswers, .number = answerTime, .text = {}}};
         all.append(device);
     }
     return all;

@@ -162,6 +162,10 @@ private:
                      const CameraCapabilityInput *input, CameraCapabilities *output,
                      std::chrono::milliseconds wait);
 
+    /// Lets the time pass that a slow device takes. False when that is longer than `wait`.
+    bool passAnswerTime(const CallGate::Call &call, const SceneDevice &device,
+                        std::chrono::milliseconds wait) const;
+
     /// Whether a request without a login may go to `mac`; with the error left when not.
     bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
                     std::chrono::milliseconds wait);

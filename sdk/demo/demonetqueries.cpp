@@ -5,6 +5,7 @@
 #include "sdk/demo/internal/deviceanswers.h"
 #include "sdk/demo/internal/devicereach.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace sdk::demo {
@@ -27,8 +28,21 @@ std::optional<SceneDevice> DemoNetLibrary::askedDevice(const CallGate::Call &cal
     if (!device) {
         m_site.clock().wait(bounded(wait), call.stop());
         m_error.fail(NetError::NetworkFailure);
+    } else if (!passAnswerTime(call, *device, wait)) {
+        m_error.fail(NetError::ConnectTimeout);
+        device.reset();
     }
     return device;
+}
+
+bool DemoNetLibrary::passAnswerTime(const CallGate::Call &call, const SceneDevice &device,
+                                    std::chrono::milliseconds wait) const
+{
+    const std::optional<FaultSetting> slow = device.fault(Fault::SlowAnswers);
+    if (!slow)
+        return true;
+    const std::chrono::milliseconds time(slow->number);
+    return m_site.clock().wait(std::min(time, bounded(wait)), call.stop()) && time <= bounded(wait);
 }
 
 bool DemoNetLibrary::NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel,

@@ -16,7 +16,7 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
     const std::optional<SceneDevice> device = m_site.device(mac);
     if (device && !device->isRemote && (fromOtherSegment || !device->inOtherSegment) &&
         device->isListening(m_site.clock().now()))
-        return true;
+        return passAnswerTime(call, *device, wait) || m_error.fail(NetError::ConnectTimeout);
     const bool isFullWait = m_site.clock().wait(bounded(wait), call.stop());
     return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
 }

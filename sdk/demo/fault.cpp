@@ -50,6 +50,7 @@ constexpr std::array entries = {
     FaultEntry{Fault::UpgradeNeverReturns, "upgradeNeverReturns", FaultValue::None},
     FaultEntry{Fault::UpgradeTakes, "upgradeTakes", FaultValue::Number},
     FaultEntry{Fault::RefusesUpgradeStop, "refusesUpgradeStop", FaultValue::None},
+    FaultEntry{Fault::SlowAnswers, "slowAnswers", FaultValue::Number},
     FaultEntry{Fault::HttpLate, "httpLate", FaultValue::Number},
     FaultEntry{Fault::HttpSlow, "httpSlow", FaultValue::Number},
     FaultEntry{Fault::HttpBroken, "httpBroken", FaultValue::None},

@@ -44,6 +44,7 @@ enum class Fault
     UpgradeNeverReturns,   ///< does not come back from an upgrade
     UpgradeTakes,          ///< a firmware file takes `number` s to be sent
     RefusesUpgradeStop,    ///< does not stop an upgrade, although nothing is written yet
+    SlowAnswers,           ///< logins and requests are answered `number` ms late
     // Answers over HTTP to a right password:
     HttpLate,         ///< come `number` ms late
     HttpSlow,         ///< come at one byte a second for `number` s

@@ -1,4 +1,5 @@
 #include "sdk/demo/demosite.h"
+#include "sdk/demo/fault.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
@@ -63,9 +64,7 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QList<sdk::demo::SceneDevice> scene = site.devices();
     for (const sdk::demo::SceneDevice &device : scene)
-        site.changeDevice(device.mac, [](sdk::demo::SceneDevice &changed, const auto &) {
-            changed.latency = std::chrono::milliseconds(500); // a batch takes some seconds
-        });
+        site.setFault(device.mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 400, .text = {}});
     driver.activate();
     driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
     driver.click(u"tab3"_s);
