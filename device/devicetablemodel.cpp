@@ -316,6 +316,14 @@ void DeviceTableModel::setAllChecked(bool checked)
     setRangeChecked(0, rowCount() - 1, checked);
 }
 
+void DeviceTableModel::setCheckedDevices(const QStringList &identities)
+{
+    checkedIdentities() = QSet<QString>(identities.cbegin(), identities.cend());
+    if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {CheckedRole});
+    countChecked();
+}
+
 void DeviceTableModel::countChecked()
 {
     m_checkedCount = 0;

@@ -84,6 +84,9 @@ public:
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 
+    /// Ticks the devices with these identities and no others, also where the filter hides them.
+    Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
+
     /// The row as the scene sees it, with its keys; empty when `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 

@@ -5,6 +5,7 @@
 #include "device/upgradetools.h"
 
 #include <QJsonObject>
+#include <QSet>
 
 #include <algorithm>
 #include <numeric>
@@ -148,6 +149,22 @@ void OVTreeModel::setAllChecked(bool checked)
 {
     for (int group = 0; group < m_groups.size(); ++group)
         checkGroup(index(group, 0), checked);
+    Q_EMIT checkedDevicesChanged();
+}
+
+void OVTreeModel::setCheckedDevices(const QStringList &identities)
+{
+    QSet<QString> hidden(identities.cbegin(), identities.cend());
+    for (int group = 0; group < m_groups.size(); ++group) {
+        const QModelIndex parent = index(group, 0);
+        for (int row = 0; row < rowCount(parent); ++row)
+            setDeviceChecked(index(row, 0, parent),
+                             hidden.remove(m_groups.at(group).devices.at(row).identity));
+    }
+    for (Device &device : m_remembered)
+        device.checked = hidden.remove(device.identity);
+    for (const QString &identity : std::as_const(hidden))
+        m_remembered.insert(identity, {.identity = identity, .ipport = {}, .checked = true});
     Q_EMIT checkedDevicesChanged();
 }
 

@@ -75,6 +75,9 @@ public:
     [[nodiscard]] Qt::CheckState checkState() const;
     Q_INVOKABLE void setAllChecked(bool checked);
 
+    /// Ticks the devices with these identities and no others, also those that a search text hides.
+    Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
+
     /// Writes "copyRet" of the device that `ipport` names, and of any that shares its address; does nothing
     /// when the tree has none.
     Q_INVOKABLE void setResult(const QString &ipport, int result);
