@@ -4,20 +4,48 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QRegularExpression>
 #include <QWindow>
-
-#include <utility>
 
 FileDialogs::FileDialogs(QObject *parent) : QObject(parent), m_folder(QDir::homePath()) {}
 
 void FileDialogs::chooseFile(const QString &title, const QStringList &nameFilters, const QJSValue &chosen)
 {
-    open(title, nameFilters, false, chosen);
+    if (m_open)
+        return;
+    QFileDialog *dialog = newDialog(title);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(nameFilters);
+    open(dialog, chosen);
+}
+
+void FileDialogs::chooseNewFile(const QString &title, const QStringList &nameFilters, const QString &name,
+                                const QJSValue &chosen)
+{
+    if (m_open)
+        return;
+    QFileDialog *dialog = newDialog(title);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilters(nameFilters);
+    const auto useSuffix = [dialog](const QString &filter) {
+        static const QRegularExpression suffix(QStringLiteral("\\*\\.(\\w+)"));
+        dialog->setDefaultSuffix(suffix.match(filter).captured(1));
+    };
+    connect(dialog, &QFileDialog::filterSelected, dialog, useSuffix);
+    useSuffix(nameFilters.value(0));
+    dialog->selectFile(name);
+    open(dialog, chosen);
 }
 
 void FileDialogs::chooseFolder(const QString &title, const QJSValue &chosen)
 {
-    open(title, {}, true, chosen);
+    if (m_open)
+        return;
+    QFileDialog *dialog = newDialog(title);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    open(dialog, chosen);
 }
 
 bool FileDialogs::exists(const QString &path) const
@@ -25,18 +53,17 @@ bool FileDialogs::exists(const QString &path) const
     return QFileInfo::exists(path);
 }
 
-void FileDialogs::open(const QString &title, const QStringList &nameFilters, bool folder,
-                       const QJSValue &chosen)
+QFileDialog *FileDialogs::newDialog(const QString &title) const
 {
-    if (std::exchange(m_open, true))
-        return;
     auto *dialog = new QFileDialog(nullptr, title, m_folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
-    dialog->setFileMode(folder ? QFileDialog::Directory : QFileDialog::ExistingFile);
-    dialog->setOption(QFileDialog::ShowDirsOnly, folder);
-    if (!nameFilters.isEmpty())
-        dialog->setNameFilters(nameFilters);
+    return dialog;
+}
+
+void FileDialogs::open(QFileDialog *dialog, const QJSValue &chosen)
+{
+    m_open = true;
     if (QWindow *window = QGuiApplication::focusWindow()) {
         dialog->winId(); // makes its window
         dialog->windowHandle()->setTransientParent(window);
