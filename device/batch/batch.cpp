@@ -85,7 +85,8 @@ private:
 };
 
 Batch::Batch(BatchEngine &engine, BatchPlan plan, QObject *parent)
-    : QObject(parent), m_engine(engine), m_plan(std::move(plan)), m_mailbox(std::make_shared<Mailbox>(this))
+    : QObject(parent), m_engine(engine), m_plan(std::move(plan)), m_title(m_plan.title),
+      m_mailbox(std::make_shared<Mailbox>(this))
 {
     m_frame.setSingleShot(true);
     m_frame.setInterval(frame);
@@ -151,6 +152,30 @@ void Batch::resume()
     m_engine.resume(m_number);
 }
 
+void Batch::giveUpWaiting(const QString &title)
+{
+    const QStringList given = m_report.giveUpWaiting();
+    if (given.isEmpty())
+        return;
+    m_title = title;
+    for (Entry &entry : m_entries) {
+        if (entry.outcome.result == BatchReport::Waiting)
+            entry.outcome.result = BatchReport::NotDone;
+    }
+    Q_EMIT resulted(given, QList<int>(given.size(), BatchReport::NotDone));
+    Q_EMIT changed();
+}
+
+QStringList Batch::failedIdentities() const
+{
+    QStringList identities;
+    for (const Entry &entry : m_entries) {
+        if (entry.outcome.result != BatchReport::Succeeded && entry.outcome.result != BatchReport::Waiting)
+            identities.append(entry.device.identity);
+    }
+    return identities;
+}
+
 QStringList Batch::failedDevices() const
 {
     return m_report.devicesNotSucceeded();
@@ -170,7 +195,9 @@ QStringList Batch::retryableDevices() const
 QString Batch::textOf(const QString &device) const
 {
     const auto place = m_places.constFind(device);
-    return place == m_places.cend() ? QString() : m_entries.at(*place).outcome.text;
+    if (place != m_places.cend())
+        return m_entries.at(*place).outcome.text;
+    return m_retryOf ? m_retryOf->textOf(device) : QString();
 }
 
 void Batch::takeNews()

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
@@ -16,7 +17,7 @@
 class Batch : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(int total READ total CONSTANT)
     Q_PROPERTY(int done READ done NOTIFY changed)
     Q_PROPERTY(double progress READ progress NOTIFY changed)
@@ -45,7 +46,8 @@ public:
     /// To be called once. Returns false when the engine does not take the batch.
     bool start();
 
-    [[nodiscard]] const QString &title() const { return m_plan.title; }
+    /// Name of the work, or of the step that its devices wait for and are not given.
+    [[nodiscard]] const QString &title() const { return m_title; }
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int done() const { return m_done; }
     [[nodiscard]] double progress() const { return total() > 0 ? static_cast<double>(m_done) / total() : 0; }
@@ -77,11 +79,21 @@ public:
     /// Goes on after isHeld().
     Q_INVOKABLE void resume();
 
+    /// The devices that wait for the next step, which is named `title`, do not get it: they are not done.
+    Q_INVOKABLE void giveUpWaiting(const QString &title);
+
+    /// The batch whose devices this one tries again.
+    void setRetryOf(Batch *earlier) { m_retryOf = earlier; }
+
+    /// Identities of the devices that failed or were not done, by which pages tick their rows.
+    Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
+
     /// Names of the devices that failed or were not done, and of those of them that may succeed in a retry.
     Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
 
-    /// What a device's outcome says beside its code; empty when there is nothing.
+    /// What a device's outcome says beside its code, here or else in the batch that this one retries; empty
+    /// when there is nothing.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
 
 Q_SIGNALS:
@@ -101,7 +113,9 @@ private:
 
     BatchEngine &m_engine;
     BatchPlan m_plan;
+    QString m_title;
     BatchReport m_report;
+    QPointer<Batch> m_retryOf; ///< not owned
     QList<Entry> m_entries;
     QHash<QString, qsizetype> m_places; ///< in m_entries, by the device's name
     const std::shared_ptr<Mailbox> m_mailbox;

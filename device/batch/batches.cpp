@@ -1,6 +1,7 @@
 #include "device/batch/batches.h"
 
 #include "device/batch/addressorder.h"
+#include "device/batch/batchresultsfile.h"
 #include "device/devicefactory.h"
 #include "device/logging.h"
 
@@ -79,7 +80,7 @@ Batch *Batches::changeAddresses(const QString &family, const QString &title, con
 
 Batch *Batches::putAddressesBack(Batch *batch, const QString &title)
 {
-    if (!batch || batch->isRunning())
+    if (!batch || batch->isRunning() || !mayChangeAddresses())
         return nullptr;
     BatchPlan plan;
     plan.family = batch->plan().family;
@@ -139,13 +140,31 @@ Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, 
 
 Batch *Batches::retry(Batch *batch)
 {
-    if (!batch || batch->isRunning())
+    if (!batch || batch->isRunning() || (batch->changesAddresses() && !mayChangeAddresses()))
         return nullptr;
     const QStringList retryable = batch->retryableDevices();
     const QSet<QString> names(retryable.cbegin(), retryable.cend());
     BatchPlan plan = batch->plan();
     plan.devices.removeIf([&](const BatchDevice &device) { return !names.contains(device.name); });
-    return plan.devices.isEmpty() ? nullptr : start(std::move(plan));
+    Batch *again = plan.devices.isEmpty() ? nullptr : start(std::move(plan));
+    if (again) {
+        again->setRetryOf(batch);
+        Q_EMIT retried(batch, again);
+    }
+    return again;
+}
+
+QString Batches::saveResults(Batch *batch, const QString &path) const
+{
+    return batch ? saveBatchResults(*batch, path) : QString();
+}
+
+bool Batches::mayChangeAddresses()
+{
+    const QString refusal = m_factory.busyState()->refusal(BusyState::ChangeAddress);
+    if (!refusal.isEmpty())
+        Q_EMIT refused(refusal);
+    return refusal.isEmpty();
 }
 
 void Batches::giveUp()

@@ -61,6 +61,11 @@ public:
     /// The devices of an ended batch again that may succeed in another try.
     Q_INVOKABLE Batch *retry(Batch *batch);
 
+    /// Writes what has come of each device to a file: a workbook, or comma-separated text for a name that
+    /// ends in ".csv". Returns the reason when it could not be written, in the words of the system; the file
+    /// is then as it was. Empty on success.
+    Q_INVOKABLE [[nodiscard]] QString saveResults(Batch *batch, const QString &path) const;
+
     /// How many devices are worked on at the same time, unless the work says otherwise.
     [[nodiscard]] BatchPolicy usualPolicy() const;
 
@@ -71,10 +76,14 @@ Q_SIGNALS:
     void runningChanged();
     void refused(const QString &message);
 
+    void retried(Batch *earlier, Batch *again); ///< before the first result of `again`
+
 private:
     /// `targets` hold what each device gets, by identity.
     Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets);
     void finish(Batch *batch, int work);
+    /// Whether addresses may be changed now; otherwise refused() says why not.
+    [[nodiscard]] bool mayChangeAddresses();
 
     CDeviceFactory &m_factory;
     BatchEngine &m_engine;

@@ -1,7 +1,10 @@
 #include "device/batch/batchplan.h"
 
+#include "device/batchreport.h"
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
+
+#include <QCoreApplication>
 
 BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name)
 {
@@ -25,6 +28,23 @@ QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, 
     for (const QString &name : names)
         devices.append(batchDevice(factory, family, name));
     return devices;
+}
+
+QString macOf(const BatchDevice &device)
+{
+    // A row without a MAC is named by the address that it was found with.
+    const bool isAddress = device.identity == device.ipport || device.identity.contains(QLatin1Char('.'));
+    return isAddress ? QString() : device.identity;
+}
+
+QString outcomeText(const StepOutcome &outcome)
+{
+    const QString result = outcome.result == BatchReport::Waiting
+                               ? QCoreApplication::translate("BatchResult", "旧密码正确")
+                               : resultName(outcome.result);
+    return outcome.text.isEmpty()
+               ? result
+               : QCoreApplication::translate("BatchResult", "%1：%2").arg(result, outcome.text);
 }
 
 bool maySucceedLater(int result)

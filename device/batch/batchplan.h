@@ -54,5 +54,11 @@ struct BatchPlan
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
 
+/// Empty for a device that has none.
+[[nodiscard]] QString macOf(const BatchDevice &device);
+
+/// What has come of a device, in the user's language.
+[[nodiscard]] QString outcomeText(const StepOutcome &outcome);
+
 /// Whether another try with the same data may succeed.
 [[nodiscard]] bool maySucceedLater(int result);

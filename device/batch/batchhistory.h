@@ -1,0 +1,39 @@
+#pragma once
+
+#include "device/batch/batches.h"
+#include "device/dialogrows.h"
+
+#include <QPointer>
+
+/// The batches of the session for a table, the newest first. Keys of a row: "title", "time" (of its start),
+/// "counts" (how many devices are done of all, at the end how many of them did not fail), "running" and
+/// "complete" (it has ended, and no device has failed or was left out). Lives on the scene's thread.
+class BatchHistory : public DialogRows
+{
+    Q_OBJECT
+    Q_PROPERTY(Batches *batches READ batches WRITE setBatches NOTIFY batchesChanged)
+public:
+    explicit BatchHistory(QObject *parent = nullptr);
+
+    [[nodiscard]] Batches *batches() const { return m_batches; }
+    void setBatches(Batches *batches);
+
+    /// The batch of a row, null when `row` is out of range.
+    Q_INVOKABLE [[nodiscard]] Batch *batchAt(int row) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+
+Q_SIGNALS:
+    void batchesChanged();
+
+protected:
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
+
+private:
+    void show(Batch *batch);
+    void takeNewest();
+    void refresh(const Batch *batch);
+
+    QPointer<Batches> m_batches; ///< not owned
+    QList<Batch *> m_shown;      ///< owned by m_batches
+};

@@ -1,0 +1,102 @@
+#include "device/batch/batchresultmodel.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int reloadPause = 250; // milliseconds
+
+BatchResultModel::State stateOf(const Batch &batch, qsizetype place)
+{
+    switch (batch.entries().at(place).outcome.result) {
+    case BatchReport::Succeeded:
+        return BatchResultModel::Succeeded;
+    case BatchReport::Waiting:
+        return BatchResultModel::Waiting;
+    case BatchReport::NotDone:
+        return batch.isRunning() ? BatchResultModel::ToCome : BatchResultModel::NotDone;
+    default:
+        return BatchResultModel::Failed;
+    }
+}
+
+} // namespace
+
+BatchResultModel::BatchResultModel(QObject *parent) : DialogRows(parent)
+{
+    m_reloading.setSingleShot(true);
+    m_reloading.setInterval(reloadPause);
+    connect(&m_reloading, &QTimer::timeout, this, &BatchResultModel::reload);
+}
+
+void BatchResultModel::setBatch(Batch *batch)
+{
+    if (m_batch == batch)
+        return;
+    if (m_batch)
+        m_batch->disconnect(this);
+    m_batch = batch;
+    if (m_batch) {
+        connect(m_batch, &Batch::resulted, this, [this] {
+            if (!m_reloading.isActive())
+                m_reloading.start();
+        });
+        connect(m_batch, &Batch::finished, this, &BatchResultModel::reload);
+        connect(m_batch, &QObject::destroyed, this, [this] {
+            reload();
+            Q_EMIT batchChanged();
+        });
+    }
+    reload();
+    Q_EMIT batchChanged();
+}
+
+void BatchResultModel::setOnlyFailed(bool only)
+{
+    if (std::exchange(m_onlyFailed, only) == only)
+        return;
+    reload();
+    Q_EMIT onlyFailedChanged();
+}
+
+int BatchResultModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() || !m_batch ? 0 : static_cast<int>(m_places.size());
+}
+
+void BatchResultModel::reload()
+{
+    m_reloading.stop();
+    beginResetModel();
+    m_places.clear();
+    if (m_batch) {
+        const auto stateAt = [this](qsizetype place) {
+            return stateOf(*m_batch, place);
+        };
+        for (qsizetype place = 0; place < m_batch->total(); ++place) {
+            if (!m_onlyFailed || stateAt(place) <= NotDone)
+                m_places.append(place);
+        }
+        std::stable_sort(m_places.begin(), m_places.end(), [&stateAt](qsizetype left, qsizetype right) {
+            return stateAt(left) < stateAt(right);
+        });
+    }
+    endResetModel();
+}
+
+QVariantMap BatchResultModel::valuesOf(int row) const
+{
+    const qsizetype place = m_places.at(row);
+    const Batch::Entry &entry = m_batch->entries().at(place);
+    const State state = stateOf(*m_batch, place);
+    return {
+        {QStringLiteral("identity"), QString::number(place)},
+        {QStringLiteral("device"), entry.device.ipport},
+        {QStringLiteral("mac"), macOf(entry.device)},
+        {QStringLiteral("name"), entry.device.title},
+        {QStringLiteral("result"), state == ToCome ? QString() : outcomeText(entry.outcome)},
+        {QStringLiteral("time"), entry.time.toString(QStringLiteral("HH:mm:ss"))},
+        {QStringLiteral("state"), state},
+    };
+}

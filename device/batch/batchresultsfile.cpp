@@ -1,0 +1,80 @@
+#include "device/batch/batchresultsfile.h"
+
+#include "device/batch/batch.h"
+#include "files/filereplacement.h"
+#include "sheets/qexcel.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF"); // tells spreadsheet applications the encoding
+
+QStringList titles()
+{
+    const auto text = [](const char *source) {
+        return QCoreApplication::translate("BatchResult", source);
+    };
+    return {text(QT_TRANSLATE_NOOP("BatchResult", "设备")), QStringLiteral("MAC"),
+            text(QT_TRANSLATE_NOOP("BatchResult", "名称")), text(QT_TRANSLATE_NOOP("BatchResult", "步骤")),
+            text(QT_TRANSLATE_NOOP("BatchResult", "结果")), text(QT_TRANSLATE_NOOP("BatchResult", "时间"))};
+}
+
+QStringList lineOf(const Batch &batch, const Batch::Entry &entry)
+{
+    return {entry.device.ipport,        macOf(entry.device),
+            entry.device.title,         batch.title(),
+            outcomeText(entry.outcome), entry.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))};
+}
+
+/// Always in quotes. A name comes from a device: a spreadsheet application must not take it for a formula.
+QByteArray csvField(const QString &text)
+{
+    QString field = text;
+    if (!field.isEmpty() && QStringView(u"=+-@\t\r").contains(field.front()))
+        field.prepend(QLatin1Char('\''));
+    return '"' + field.replace(QLatin1Char('"'), QLatin1String("\"\"")).toUtf8() + '"';
+}
+
+QByteArray csvLine(const QStringList &fields)
+{
+    QByteArray line;
+    for (const QString &field : fields)
+        line += csvField(field) + ',';
+    line.chop(1);
+    return line + "\r\n";
+}
+
+bool writeRow(QExcel &workbook, int row, const QStringList &cells)
+{
+    int column = 0;
+    for (const QString &cell : cells) {
+        if (!workbook.setCellText(row, ++column, cell))
+            return false;
+    }
+    return true;
+}
+
+QString saveWorkbook(const Batch &batch, const QString &path)
+{
+    QExcel workbook;
+    const QStringList head = titles();
+    const sheets::CellRange headCells = {{1, 1}, {1, static_cast<int>(head.size())}};
+    bool done = workbook.createWorkbook() && writeRow(workbook, 1, head) && workbook.setBold(headCells, true);
+    int row = 1;
+    for (const Batch::Entry &entry : batch.entries())
+        done = done && writeRow(workbook, ++row, lineOf(batch, entry));
+    return done && workbook.saveAs(path) ? QString() : workbook.errorText();
+}
+
+} // namespace
+
+QString saveBatchResults(const Batch &batch, const QString &path)
+{
+    if (!path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+        return saveWorkbook(batch, path);
+    QByteArray text = byteOrderMark.toByteArray() + csvLine(titles());
+    for (const Batch::Entry &entry : batch.entries())
+        text += csvLine(lineOf(batch, entry));
+    return replaceFile(path, text);
+}

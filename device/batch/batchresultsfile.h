@@ -1,0 +1,11 @@
+// The results of a batch as a file of the user.
+#pragma once
+
+#include <QString>
+
+class Batch;
+
+/// Writes a line for each device: its address, MAC, name and model, the title of the batch, the result in
+/// words and its time. As a workbook, or as comma-separated text in UTF-8 for a path that ends in ".csv".
+/// Returns the reason when the file could not be written, and leaves it as it was; empty on success.
+[[nodiscard]] QString saveBatchResults(const Batch &batch, const QString &path);
