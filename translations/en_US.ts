@@ -220,6 +220,96 @@
     </message>
 </context>
 <context>
+    <name>BatchPanel</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>Batches</translation>
+    </message>
+    <message>
+        <source>重试失败</source>
+        <translation>Retry failed</translation>
+    </message>
+    <message>
+        <source>对失败和未执行的设备再试一次</source>
+        <translation>Tries the failed devices and those not done again</translation>
+    </message>
+    <message>
+        <source>只有最近一次批处理可以重试</source>
+        <translation>Only the last batch can be retried, if another try may succeed</translation>
+    </message>
+    <message>
+        <source>恢复地址</source>
+        <translation>Put addresses back</translation>
+    </message>
+    <message>
+        <source>将修改成功的设备恢复为修改前的IP地址</source>
+        <translation>Gives the changed devices the IP addresses that they had before</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将 %n 台设备恢复为修改前的IP地址吗？</source>
+        <translation>
+            <numerusform>Give %n device the IP address that it had before?</numerusform>
+            <numerusform>Give %n devices the IP addresses that they had before?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>Save results</translation>
+    </message>
+    <message>
+        <source>批处理</source>
+        <translation>Batch</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>Began</translation>
+    </message>
+    <message>
+        <source>成功 / 全部</source>
+        <translation>OK / all</translation>
+    </message>
+    <message>
+        <source>只看失败</source>
+        <translation>Only failed</translation>
+    </message>
+    <message>
+        <source>包括未执行的设备</source>
+        <translation>Including devices not done</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>还没有批处理</source>
+        <translation>No batches yet</translation>
+    </message>
+    <message>
+        <source>没有失败的设备</source>
+        <translation>No device failed</translation>
+    </message>
+    <message>
+        <source>恢复IP地址</source>
+        <translation>Put IP addresses back</translation>
+    </message>
+</context>
+<context>
     <name>BatchReport</name>
     <message numerus="yes">
         <source>%n 台设备成功</source>
@@ -255,6 +345,54 @@
     </message>
 </context>
 <context>
+    <name>BatchResult</name>
+    <message>
+        <source>旧密码正确</source>
+        <translation>Old password correct</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>步骤</source>
+        <translation>Step</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+</context>
+<context>
+    <name>BatchResults</name>
+    <message>
+        <source>保存结果</source>
+        <translation>Save results</translation>
+    </message>
+    <message>
+        <source>结果已保存到 %1</source>
+        <translation>Results saved to %1</translation>
+    </message>
+    <message>
+        <source>结果无法保存，可以另选位置重试。
+%1</source>
+        <translation>The results could not be saved. You can try another place.
+%1</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
@@ -275,6 +413,21 @@
     <message>
         <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
         <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Batches</name>
+    <message>
+        <source>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</source>
+        <translation>Devices exchange addresses, such as %1 and %2, which cannot be done directly. Give one of them another address first.</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1” is running. Wait for it to finish.</translation>
+    </message>
+    <message>
+        <source>系统资源不足，无法开始</source>
+        <translation>Not enough system resources to begin</translation>
     </message>
 </context>
 <context>
@@ -855,6 +1008,10 @@ A right click copies the result</translation>
             <numerusform>%n device not done</numerusform>
             <numerusform>%n devices not done</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>Copy encode settings</translation>
     </message>
 </context>
 <context>
@@ -2401,18 +2558,6 @@ A right click copies the result</translation>
         </translation>
     </message>
     <message>
-        <source>正在初始化设备…</source>
-        <translation>Initialising devices…</translation>
-    </message>
-    <message>
-        <source>正在修改IP地址…</source>
-        <translation>Changing addresses…</translation>
-    </message>
-    <message>
-        <source>（按Esc停止）</source>
-        <translation> (Esc stops)</translation>
-    </message>
-    <message>
         <source>已停止，完成 %1 / %2</source>
         <translation>Stopped: %1 of %2 done</translation>
     </message>
@@ -2887,6 +3032,70 @@ File path: </translation>
         <source>停止</source>
         <translation>Stop</translation>
     </message>
+    <message>
+        <source>：</source>
+        <translation>: </translation>
+    </message>
+    <message>
+        <source>剩余不到 1 分钟</source>
+        <extracomment>How long a batch still takes.</extracomment>
+        <translation>less than 1 min left</translation>
+    </message>
+    <message numerus="yes">
+        <source>剩余约 %n 分钟</source>
+        <translation>
+            <numerusform>about %n min left</numerusform>
+            <numerusform>about %n min left</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
+        <translation>%1: several devices in a row refused the password. Going on may lock accounts. Go on?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台失败</source>
+        <extracomment>Of the devices of a batch that runs.</extracomment>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Go on</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>停止（Esc）</source>
+        <translation>Stop (Esc)</translation>
+    </message>
+    <message>
+        <source>重试失败</source>
+        <translation>Retry failed</translation>
+    </message>
+    <message>
+        <source>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
+        <translation>Tries the failed devices and those not done again, except where another try cannot succeed, as after a wrong password</translation>
+    </message>
+    <message>
+        <source>选中失败</source>
+        <translation>Select failed</translation>
+    </message>
+    <message>
+        <source>在本页只勾选失败和未执行的设备</source>
+        <translation>Ticks only the failed devices and those not done on this page</translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>Save results</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>Batches</translation>
+    </message>
 </context>
 <context>
     <name>OVMessageBox</name>
@@ -3114,10 +3323,6 @@ File path: </translation>
         <source>其中包括尚未保存的修改。</source>
         <translation>This includes changes that are not saved.</translation>
     </message>
-    <message>
-        <source>正在复制编码配置…</source>
-        <translation>Copying encode settings…</translation>
-    </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
         <extracomment>At the foot of a page.</extracomment>
@@ -3133,10 +3338,6 @@ File path: </translation>
     <message>
         <source>（按Esc停止）</source>
         <translation> (Esc stops)</translation>
-    </message>
-    <message>
-        <source>复制编码配置</source>
-        <translation>Copy encode settings</translation>
     </message>
     <message>
         <source>设备配置</source>
@@ -3493,13 +3694,6 @@ File path: </translation>
     <message>
         <source>成功 %1</source>
         <translation>%1 taken</translation>
-    </message>
-</context>
-<context>
-    <name>SystemBatch</name>
-    <message>
-        <source>：</source>
-        <translation>: </translation>
     </message>
 </context>
 <context>
@@ -4801,6 +4995,14 @@ File path: </translation>
     <message>
         <source>已复制到剪贴板</source>
         <translation>Copied to the clipboard</translation>
+    </message>
+    <message>
+        <source>停止并退出</source>
+        <translation>Stop and exit</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
+        <translation>“%1” is running. If you exit, the devices that are left will not be done.</translation>
     </message>
 </context>
 </TS>

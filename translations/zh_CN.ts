@@ -218,6 +218,95 @@
     </message>
 </context>
 <context>
+    <name>BatchPanel</name>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>批处理记录</translation>
+    </message>
+    <message>
+        <source>重试失败</source>
+        <translation>重试失败</translation>
+    </message>
+    <message>
+        <source>对失败和未执行的设备再试一次</source>
+        <translation>对失败和未执行的设备再试一次</translation>
+    </message>
+    <message>
+        <source>只有最近一次批处理可以重试</source>
+        <translation>只有最近一次批处理可以重试</translation>
+    </message>
+    <message>
+        <source>恢复地址</source>
+        <translation>恢复地址</translation>
+    </message>
+    <message>
+        <source>将修改成功的设备恢复为修改前的IP地址</source>
+        <translation>将修改成功的设备恢复为修改前的IP地址</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将 %n 台设备恢复为修改前的IP地址吗？</source>
+        <translation>
+            <numerusform>确定要将 %n 台设备恢复为修改前的IP地址吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>保存结果</translation>
+    </message>
+    <message>
+        <source>批处理</source>
+        <translation>批处理</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>成功 / 全部</source>
+        <translation>成功 / 全部</translation>
+    </message>
+    <message>
+        <source>只看失败</source>
+        <translation>只看失败</translation>
+    </message>
+    <message>
+        <source>包括未执行的设备</source>
+        <translation>包括未执行的设备</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>还没有批处理</source>
+        <translation>还没有批处理</translation>
+    </message>
+    <message>
+        <source>没有失败的设备</source>
+        <translation>没有失败的设备</translation>
+    </message>
+    <message>
+        <source>恢复IP地址</source>
+        <translation>恢复IP地址</translation>
+    </message>
+</context>
+<context>
     <name>BatchReport</name>
     <message numerus="yes">
         <source>%n 台设备成功</source>
@@ -249,6 +338,54 @@
     </message>
 </context>
 <context>
+    <name>BatchResult</name>
+    <message>
+        <source>旧密码正确</source>
+        <translation>旧密码正确</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>步骤</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>时间</translation>
+    </message>
+</context>
+<context>
+    <name>BatchResults</name>
+    <message>
+        <source>保存结果</source>
+        <translation>保存结果</translation>
+    </message>
+    <message>
+        <source>结果已保存到 %1</source>
+        <translation>结果已保存到 %1</translation>
+    </message>
+    <message>
+        <source>结果无法保存，可以另选位置重试。
+%1</source>
+        <translation>结果无法保存，可以另选位置重试。
+%1</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
@@ -269,6 +406,21 @@
     <message>
         <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
         <translation>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Batches</name>
+    <message>
+        <source>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</source>
+        <translation>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1”正在进行，请等待其完成</translation>
+    </message>
+    <message>
+        <source>系统资源不足，无法开始</source>
+        <translation>系统资源不足，无法开始</translation>
     </message>
 </context>
 <context>
@@ -839,6 +991,10 @@
         <translation>
             <numerusform>%n 台设备未执行</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>复制编码配置</translation>
     </message>
 </context>
 <context>
@@ -2379,18 +2535,6 @@
         </translation>
     </message>
     <message>
-        <source>正在初始化设备…</source>
-        <translation>正在初始化设备…</translation>
-    </message>
-    <message>
-        <source>正在修改IP地址…</source>
-        <translation>正在修改IP地址…</translation>
-    </message>
-    <message>
-        <source>（按Esc停止）</source>
-        <translation>（按Esc停止）</translation>
-    </message>
-    <message>
         <source>已停止，完成 %1 / %2</source>
         <translation>已停止，完成 %1 / %2</translation>
     </message>
@@ -2860,6 +3004,68 @@
         <source>停止</source>
         <translation>停止</translation>
     </message>
+    <message>
+        <source>：</source>
+        <translation>：</translation>
+    </message>
+    <message>
+        <source>剩余不到 1 分钟</source>
+        <extracomment>How long a batch still takes.</extracomment>
+        <translation>剩余不到 1 分钟</translation>
+    </message>
+    <message numerus="yes">
+        <source>剩余约 %n 分钟</source>
+        <translation>
+            <numerusform>剩余约 %n 分钟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
+        <translation>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台失败</source>
+        <extracomment>Of the devices of a batch that runs.</extracomment>
+        <translation>
+            <numerusform>%n 台失败</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>正在停止…</translation>
+    </message>
+    <message>
+        <source>停止（Esc）</source>
+        <translation>停止（Esc）</translation>
+    </message>
+    <message>
+        <source>重试失败</source>
+        <translation>重试失败</translation>
+    </message>
+    <message>
+        <source>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
+        <translation>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</translation>
+    </message>
+    <message>
+        <source>选中失败</source>
+        <translation>选中失败</translation>
+    </message>
+    <message>
+        <source>在本页只勾选失败和未执行的设备</source>
+        <translation>在本页只勾选失败和未执行的设备</translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>保存结果</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>批处理记录</translation>
+    </message>
 </context>
 <context>
     <name>OVMessageBox</name>
@@ -3082,10 +3288,6 @@
         <source>其中包括尚未保存的修改。</source>
         <translation>其中包括尚未保存的修改。</translation>
     </message>
-    <message>
-        <source>正在复制编码配置…</source>
-        <translation>正在复制编码配置…</translation>
-    </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
         <extracomment>At the foot of a page.</extracomment>
@@ -3100,10 +3302,6 @@
     <message>
         <source>（按Esc停止）</source>
         <translation>（按Esc停止）</translation>
-    </message>
-    <message>
-        <source>复制编码配置</source>
-        <translation>复制编码配置</translation>
     </message>
     <message>
         <source>设备配置</source>
@@ -3452,13 +3650,6 @@
     <message>
         <source>成功 %1</source>
         <translation>成功 %1</translation>
-    </message>
-</context>
-<context>
-    <name>SystemBatch</name>
-    <message>
-        <source>：</source>
-        <translation>：</translation>
     </message>
 </context>
 <context>
@@ -4749,6 +4940,14 @@
     <message>
         <source>已复制到剪贴板</source>
         <translation>已复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>停止并退出</source>
+        <translation>停止并退出</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
+        <translation>“%1”正在进行。退出后，尚未完成的设备将不再处理。</translation>
     </message>
 </context>
 </TS>

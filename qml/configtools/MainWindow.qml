@@ -217,6 +217,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageDeviceUpgrade {
+                        batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
                         onSaid: (message, kind) => popups.say(message, kind)
@@ -262,6 +263,7 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageCGIConfig {
+                        batches: window.batches
                         busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching

@@ -64,6 +64,10 @@ QtObject {
     readonly property int portFieldWidth: 112
     readonly property int favouritesWidth: 1080
     readonly property int favouritesHeight: 560
+    readonly property int batchPanelWidth: 1180
+    readonly property int batchPanelHeight: 600
+    readonly property int batchListWidth: 360
+    readonly property int batchBarWidth: 120
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
@@ -126,6 +130,7 @@ QtObject {
     readonly property int columnPort: 72
     readonly property int columnBytes: 84
     readonly property int columnAccount: 96
+    readonly property int columnTime: 76
     readonly property int columnOutcome: 236
     readonly property int columnAnswer: 240
     readonly property int columnCommand: 320

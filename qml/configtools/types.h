@@ -4,6 +4,8 @@
 #include "device/addressplan.h"
 #include "device/addresstools.h"
 #include "device/batch/batches.h"
+#include "device/batch/batchhistory.h"
+#include "device/batch/batchresultmodel.h"
 #include "device/batchreport.h"
 #include "device/busyreport.h"
 #include "device/bytetext.h"
@@ -101,6 +103,20 @@ struct BatchesForeign
     QML_FOREIGN(Batches)
     QML_NAMED_ELEMENT(Batches)
     QML_UNCREATABLE("there is one for the whole program")
+};
+
+struct BatchHistoryForeign
+{
+    Q_GADGET
+    QML_FOREIGN(BatchHistory)
+    QML_NAMED_ELEMENT(BatchHistory)
+};
+
+struct BatchResultModelForeign
+{
+    Q_GADGET
+    QML_FOREIGN(BatchResultModel)
+    QML_NAMED_ELEMENT(BatchResultModel)
 };
 
 struct BatchReportForeign

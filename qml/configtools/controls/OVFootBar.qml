@@ -1,4 +1,5 @@
-// The foot of a page: what is selected on the left and what needs a look, what is running on the right.
+// The foot of a page: what is selected on the left, with how the last batch went and what needs a look; what is running
+// on the right. Whichever page began it, every page shows the batch. Work of the page itself goes before it.
 import QtQuick
 import configtools
 
@@ -13,24 +14,47 @@ Item {
     property bool stoppable: false  // by the button, while it is running
     readonly property alias stopButton: stop
     property real progress: -1  // 0 to 1; below 0 there is no known end
+    property Batches batches: null
+    signal tickRequested(var identities)  // of the devices that are to be the ticked ones
+    signal said(string message, int kind)
+
+    readonly property Batch batch: batches?.current ?? null
+    readonly property bool showsBatch: !running && (batch?.running ?? false)
+    readonly property bool held: showsBatch && batch.held
+    readonly property bool ended: batch !== null && !batch.running
+    readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone > 0
+    readonly property string outcome: ended && batch.report.summary !== ""
+        ? batch.title + qsTr("：") + batch.report.summary : ""
+
+    /// How long a batch still takes, in words; empty while that is not known.
+    function timeLeft(seconds) {
+        if (seconds < 0)
+            return "";
+        //: How long a batch still takes.
+        return seconds < 60 ? qsTr("剩余不到 1 分钟") : qsTr("剩余约 %n 分钟", "", Math.round(seconds / 60));
+    }
 
     implicitHeight: Theme.footHeight
 
     Row {
+        id: state
+        readonly property real room: actions.x - Theme.pageMargin
+
         height: parent.height
         spacing: Theme.pageMargin
 
         OVLabel {
             id: selected
+            width: Math.max(0, Math.min(implicitWidth, state.room))
             height: parent.height
             color: Theme.colours.sub
             objectName: "selectedCount"
-            text: root.text
+            text: root.text + (root.outcome !== "" && !root.incomplete ? "  ·  " + root.outcome : "")
         }
         Row {
             height: parent.height
             spacing: Theme.signGap
-            visible: root.warning !== ""
+            visible: words.text !== ""
 
             OVIcon {
                 id: sign
@@ -40,47 +64,132 @@ Item {
                 size: Theme.smallIconSize
             }
             OVLabel {
-                readonly property real room: root.width - selected.width - sign.width - Theme.signGap
-                    - (work.visible ? work.width + Theme.pageMargin : 0) - Theme.pageMargin
+                id: words
+                readonly property real room: state.room - selected.width - sign.width - Theme.signGap
+                    - Theme.pageMargin
                 width: Math.max(0, Math.min(implicitWidth, room))
                 height: parent.height
                 color: Theme.colours.warnInk
                 objectName: "footWarning"
-                text: root.warning
+                text: Array.from([root.warning, root.incomplete ? root.outcome : ""]).filter(part => part !== "")
+                    .join("  ·  ")
             }
         }
     }
     Row {
-        id: work
+        id: actions
         anchors.right: parent.right
         height: parent.height
         spacing: Theme.pageMargin
-        visible: root.running
 
+        Row {
+            height: parent.height
+            spacing: Theme.signGap
+            visible: root.running || root.showsBatch
+
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.colours.warn
+                name: "alert"
+                size: Theme.smallIconSize
+                visible: root.held
+            }
+            OVLabel {
+                height: parent.height
+                color: root.held ? Theme.colours.warnInk : Theme.colours.sub
+                objectName: "runningText"
+                text: root.held ? qsTr("%1：连续多台设备密码错误，继续可能锁定账户。是否继续？").arg(root.batch.title)
+                    : root.showsBatch ? root.batch.title + " " + root.batch.done + " / " + root.batch.total
+                    : root.runningText
+            }
+        }
+        OVLabel {
+            height: parent.height
+            color: Theme.colours.bad
+            objectName: "runningFailed"
+            //: Of the devices of a batch that runs.
+            text: qsTr("%n 台失败", "", root.batch?.report.failed ?? 0)
+            visible: root.showsBatch && !root.held && root.batch.report.failed > 0
+        }
+        OVProgressBar {
+            width: root.showsBatch ? Theme.batchBarWidth : implicitWidth
+            anchors.verticalCenter: parent.verticalCenter
+            indeterminate: !root.showsBatch && root.progress < 0
+            value: root.showsBatch ? root.batch.progress : Math.max(0, root.progress)
+            visible: root.running || (root.showsBatch && !root.held)
+        }
         OVLabel {
             height: parent.height
             color: Theme.colours.sub
-            objectName: "runningText"
-            text: root.runningText
-        }
-        OVProgressBar {
-            anchors.verticalCenter: parent.verticalCenter
-            indeterminate: root.progress < 0
-            value: Math.max(0, root.progress)
+            objectName: "timeLeft"
+            text: root.showsBatch ? root.timeLeft(root.batch.secondsLeft) : ""
+            visible: text !== "" && !root.held
         }
         OVLabel {
             height: parent.height
             color: Theme.colours.sub
             font: Theme.figureFont
-            text: root.runningDevice
-            visible: text !== ""
+            text: root.showsBatch ? root.batch.device : root.runningDevice
+            visible: text !== "" && (root.running || (root.showsBatch && !root.held))
+        }
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "continueButton"
+            text: qsTr("继续")
+            visible: root.held
+            onClicked: root.batch.resume()
         }
         OVLinkButton {
             id: stop
             anchors.verticalCenter: parent.verticalCenter
+            enabled: !root.showsBatch || !root.batch.stopping
             objectName: "stopButton"
-            text: qsTr("停止")
-            visible: root.stoppable
+            text: enabled ? qsTr("停止") : qsTr("正在停止…")
+            toolTip: root.showsBatch ? qsTr("停止（Esc）") : ""
+            visible: root.running ? root.stoppable : root.showsBatch
+            onClicked: if (root.showsBatch) root.batch.stop()
+        }
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "retryFailedButton"
+            text: qsTr("重试失败")
+            toolTip: qsTr("对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外")
+            visible: root.incomplete && !root.running && root.batch.report.waiting === 0
+                && root.batch.retryableDevices().length > 0
+            onClicked: root.batches.retry(root.batch)
+        }
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "selectFailedButton"
+            text: qsTr("选中失败")
+            toolTip: qsTr("在本页只勾选失败和未执行的设备")
+            visible: root.incomplete && !root.running
+            onClicked: root.tickRequested(root.batch.failedIdentities())
+        }
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "saveResultsButton"
+            text: qsTr("保存结果")
+            visible: root.ended && !root.running
+            onClicked: results.wanted().save(root.batch)
+        }
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "batchPanelButton"
+            text: qsTr("批处理记录")
+            visible: root.batch !== null && !root.running
+            onClicked: results.wanted().show()
         }
     }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: results
+        visible: false
+        sourceComponent: BatchResults {
+            batches: root.batches
+            onSaid: (message, kind) => root.said(message, kind)
+        }
+    }
+    // qmllint enable unqualified
 }

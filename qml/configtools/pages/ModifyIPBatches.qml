@@ -10,10 +10,6 @@ Item {
     required property var deviceTable  // a DeviceTableModel
     required property Batches batches
     property Batch batch: null
-    readonly property bool running: batch?.running ?? false
-    readonly property double progress: batch?.progress ?? -1
-    readonly property string current: running ? batch.device : ""
-    property string runningText
     signal said(string message, int kind)
 
     /// Whether devices may be changed now; otherwise a notice names the running work.
@@ -63,12 +59,10 @@ Item {
     }
 
     function sendFirstPasswords(identities, account, password) {
-        runningText = qsTr("正在初始化设备…");
         batch = batches.setFirstPasswords("dh", qsTr("初始化"), identities, account, password);
     }
 
     function sendAddresses(dialog) {
-        runningText = qsTr("正在修改IP地址…");
         batch = batches.changeAddresses("dh", qsTr("修改IP地址"), dialog.plan.identities(), dialog.plan.addresses(),
                                         dialog.mask, dialog.gateway, dialog.dhcp);
     }
@@ -96,6 +90,19 @@ Item {
         }
         function onFinished() {
             root.tellEnd();
+        }
+    }
+    Connections {
+        target: root.batches
+
+        function onRetried(earlier, again) {
+            if (earlier === root.batch)
+                root.batch = again;
+        }
+        function onCurrentChanged() {
+            // Addresses are also put back from the panel of batches.
+            if (root.batches.current.changesAddresses)
+                root.batch = root.batches.current;
         }
     }
     // qmllint disable unqualified

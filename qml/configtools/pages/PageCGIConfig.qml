@@ -6,6 +6,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property Batches batches
     required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
@@ -49,6 +50,11 @@ FocusScope {
         active: page.work !== null
         state: page.busyState
         title: workbook.running ? qsTr("批量表单操作") : qsTr("批量配置CGI")
+    }
+    OVBatchRefusals {
+        batches: page.batches
+        shown: page.visible
+        onSaid: (message, kind) => page.said(message, kind)
     }
     CgiCommands {
         id: cgiCommands
@@ -180,6 +186,7 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * x
+        batches: page.batches
         progress: page.work?.progress ?? -1
         running: page.work !== null
         runningDevice: page.work?.current ?? ""
@@ -187,5 +194,7 @@ FocusScope {
         stoppable: true
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
+        onSaid: (message, kind) => page.said(message, kind)
+        onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

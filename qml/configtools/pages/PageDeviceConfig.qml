@@ -164,12 +164,15 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        progress: session.names.running ? session.names.progress : copying.progress
-        running: copying.running || session.names.running
-        runningDevice: session.names.running ? session.names.current : copying.current
-        runningText: session.names.running ? qsTr("正在保存通道名称…") + qsTr("（按Esc停止）")
-                                           : qsTr("正在复制编码配置…")
+        batches: page.batches
+        progress: session.names.progress
+        running: session.names.running
+        runningDevice: session.names.current
+        runningText: qsTr("正在保存通道名称…") + qsTr("（按Esc停止）")
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
+        onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
+                                                                                   : Theme.toastStay)
+        onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

@@ -5,6 +5,7 @@ import configtools
 FocusScope {
     id: page
 
+    required property Batches batches
     required property bool searching
     required property bool libraryInstalled
     signal searchRequested
@@ -31,6 +32,11 @@ FocusScope {
         deviceFactory: page.deviceFactory
         shown: page.visible
         onReadingRequested: devices.refresh()
+    }
+    OVBatchRefusals {
+        batches: page.batches
+        shown: page.visible
+        onSaid: (message, kind) => page.said(message, kind)
     }
     UpgradeWork {
         id: work
@@ -111,11 +117,14 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * x
+        batches: page.batches
         progress: work.percent / 100
-        running: work.running
+        running: work.running && !page.batches.running
         runningDevice: work.percent + "%"
         runningText: qsTr("正在升级设备，请勿断电…")
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
+        onSaid: (message, kind) => page.said(message, kind)
+        onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

@@ -19,7 +19,6 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    readonly property var work: changes.running ? changes : files.running ? files : null
 
     function focusSearch() {
         toolBar.focusSearch();
@@ -172,13 +171,16 @@ FocusScope {
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        progress: page.work?.progress ?? -1
-        running: page.searching || page.work !== null
-        runningDevice: page.work?.current ?? ""
-        runningText: page.work?.runningText ?? qsTr("正在搜索设备…")
+        batches: page.batches
+        progress: files.running ? files.progress : -1
+        running: page.searching || files.running
+        runningDevice: files.running ? files.current : ""
+        runningText: files.running ? files.runningText : qsTr("正在搜索设备…")
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
         //: Each of the devices has the address of another one.
         warning: devices.conflictCount > 0 ? qsTr("%n 台设备IP地址冲突", "", devices.conflictCount) : ""
+        onSaid: (message, kind) => page.said(message, kind)
+        onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

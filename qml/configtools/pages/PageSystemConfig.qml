@@ -108,6 +108,7 @@ FocusScope {
         id: batch
         batches: page.batches
         onFinished: page.takeEnd()
+        onRetried: page.checkedWhenAsked = Array.from(devices.checkedDevices)
         onResulted: (ipports, results) => devices.setResults(ipports, results.map(
             result => result === BatchReport.Waiting ? OVTreeModel.WaitsForPassword : result))
     }
@@ -187,18 +188,13 @@ FocusScope {
 
     OVFootBar {
         id: foot
-        readonly property bool incomplete: batch.report.failed + batch.report.notDone > 0
-
         x: Theme.pageMargin
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
-        progress: batch.batch?.progress ?? 0
-        running: batch.running
-        runningDevice: batch.device
-        runningText: batch.title + " " + batch.done + " / " + batch.total
+        batches: page.batches
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
-            + (batch.outcome !== "" && !incomplete ? "  ·  " + batch.outcome : "")
-        warning: incomplete ? batch.outcome : ""
+        onSaid: (message, kind) => page.said(message, kind)
+        onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

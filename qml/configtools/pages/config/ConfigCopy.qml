@@ -10,7 +10,6 @@ Item {
     required property OVTreeModel devices
     property Batch batch: null
     readonly property bool running: batch?.running ?? false
-    readonly property double progress: batch?.progress ?? 0
     readonly property string current: running ? batch.device : ""
     signal said(string message, int kind, int stay)
 
@@ -50,6 +49,17 @@ Item {
     }
 
     visible: false
+
+    Connections {
+        target: root.batches
+
+        function onRetried(earlier, again) {
+            if (earlier !== root.batch)
+                return;
+            root.incomplete = 0;
+            root.batch = again;
+        }
+    }
 
     Connections {
         target: root.batch

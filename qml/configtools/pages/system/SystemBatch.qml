@@ -1,4 +1,4 @@
-// A command that many devices get: the batch, and what the page shows of it.
+// A command that many devices get, and the batch that brings it to them.
 import QtQuick
 import configtools
 
@@ -8,14 +8,11 @@ QtObject {
     required property Batches batches
     property Batch batch: null
     property string command
-    property string title
     readonly property BatchReport report: batch?.report ?? none
     readonly property bool running: batch?.running ?? false
-    readonly property int done: batch?.done ?? 0
-    readonly property int total: batch?.total ?? 0
     readonly property string device: batch?.device ?? ""
-    readonly property string outcome: running || report.summary === "" ? "" : title + qsTr("：") + report.summary
     signal resulted(var devices, var results)
+    signal retried
     signal finished
 
     /// Returns false when it cannot begin.
@@ -24,18 +21,13 @@ QtObject {
         if (begun === null)
             return false;
         root.command = command;
-        root.title = title;
         batch = begun;
         return true;
     }
 
     /// The devices that wait for the next step get none: `title` names it.
     function giveUpWaiting(title) {
-        const given = report.giveUpWaiting();
-        if (given.length === 0)
-            return;
-        root.title = title;
-        resulted(given, Array(given.length).fill(BatchReport.NotDone));
+        batch?.giveUpWaiting(title);
     }
 
     readonly property BatchReport none: BatchReport {}
@@ -47,6 +39,16 @@ QtObject {
         }
         function onFinished() {
             root.finished();
+        }
+    }
+    readonly property Connections retries: Connections {
+        target: root.batches
+
+        function onRetried(earlier, again) {
+            if (earlier !== root.batch)
+                return;
+            root.batch = again;
+            root.retried();
         }
     }
 }

@@ -1,0 +1,147 @@
+// The batches of the session, and what has come of each device of the chosen one.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property Batches batches
+    readonly property Batch batch: results.batch
+    readonly property bool idle: batch !== null && !batches.running
+    signal saveRequested(Batch batch)
+
+    function show() {
+        list.show(0);
+        open();
+    }
+
+    function showNewest(begun) {
+        if (begun !== null)
+            list.show(0);
+    }
+
+    width: Math.min(Theme.batchPanelWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
+    height: Math.min(Theme.batchPanelHeight, (parent?.height ?? 0) - 4 * Theme.pageMargin)
+    hasCancel: false
+    objectName: "batchPanel"
+    okText: qsTr("关闭")
+    title: qsTr("批处理记录")
+    onAccepted: close()
+    onOpened: list.forceActiveFocus()
+
+    BatchHistory {
+        id: history
+        batches: root.batches
+    }
+    BatchResultModel {
+        id: results
+        batch: history.batchAt(list.currentIndex)
+        onlyFailed: onlyFailedBox.checked
+    }
+
+    footContent: OVActionRow {
+        anchors.verticalCenter: parent.verticalCenter
+
+        OVButton {
+            enabled: root.idle && root.batch.report.waiting === 0 && root.batch.retryableDevices().length > 0
+            objectName: "panelRetryButton"
+            text: qsTr("重试失败")
+            toolTip: enabled ? qsTr("对失败和未执行的设备再试一次") : qsTr("只有最近一次批处理可以重试")
+            onClicked: root.showNewest(root.batches.retry(root.batch))
+        }
+        OVButton {
+            enabled: root.idle && root.batch.report.succeeded > 0
+            objectName: "putBackButton"
+            text: qsTr("恢复地址")
+            toolTip: qsTr("将修改成功的设备恢复为修改前的IP地址")
+            visible: root.batch?.changesAddresses ?? false
+            onClicked: question.show(
+                qsTr("确定要将 %n 台设备恢复为修改前的IP地址吗？", "", root.batch.report.succeeded), OVMessageBox.Question)
+        }
+        OVButton {
+            enabled: root.batch !== null && !root.batch.running
+            objectName: "panelSaveButton"
+            text: qsTr("保存结果")
+            onClicked: root.saveRequested(root.batch)
+        }
+    }
+
+    OVTable {
+        id: list
+        width: Theme.batchListWidth
+        height: parent.height
+        checkable: false
+        columns: [
+            {key: "title", title: qsTr("批处理"), width: Theme.columnType, stretch: 1},
+            {key: "time", title: qsTr("开始时间"), width: Theme.columnTime, cell: figureCell},
+            {key: "counts", title: qsTr("成功 / 全部"), width: Theme.columnAccount, cell: countCell}
+        ]
+        focus: true
+        model: history
+        objectName: "batchList"
+    }
+    OVLabel {
+        id: summary
+        anchors.left: table.left
+        anchors.right: onlyFailedBox.left
+        anchors.rightMargin: Theme.pageMargin
+        height: onlyFailedBox.height
+        color: Theme.colours.sub
+        objectName: "batchSummary"
+        text: root.batch?.report.summary ?? ""
+    }
+    OVCheckBox {
+        id: onlyFailedBox
+        anchors.right: parent.right
+        objectName: "onlyFailedBox"
+        text: qsTr("只看失败")
+        toolTip: qsTr("包括未执行的设备")
+    }
+    OVTable {
+        id: table
+        x: list.width + Theme.pageMargin
+        y: onlyFailedBox.height + Theme.unit
+        width: parent.width - x
+        height: parent.height - y
+        checkable: false
+        columns: [
+            {key: "device", title: qsTr("设备"), width: Theme.columnAddress, cell: figureCell},
+            {key: "mac", title: "MAC", width: Theme.columnMac, cell: figureCell},
+            {key: "name", title: qsTr("名称"), width: Theme.columnModel, stretch: 1},
+            {key: "result", title: qsTr("结果"), width: Theme.columnModel, stretch: 2, cell: resultCell},
+            {key: "time", title: qsTr("时间"), width: Theme.columnTime, cell: figureCell}
+        ]
+        model: results
+        objectName: "batchResults"
+
+        OVEmptyState {
+            anchors.fill: parent
+            iconName: root.batch === null ? "history" : "ok"
+            title: root.batch === null ? qsTr("还没有批处理") : qsTr("没有失败的设备")
+        }
+    }
+    Component {
+        id: figureCell
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
+    }
+    Component {
+        id: countCell
+        BatchResultCell {
+            outcome: row?.running ? BatchResultModel.ToCome : row?.complete ? BatchResultModel.Succeeded
+                                                                          : BatchResultModel.Failed
+        }
+    }
+    Component {
+        id: resultCell
+        BatchResultCell {
+            outcome: row?.state ?? BatchResultModel.ToCome
+        }
+    }
+    OVMessageBox {
+        id: question
+        objectName: "putBackQuestion"
+        onAccepted: root.showNewest(root.batches.putAddressesBack(root.batch, qsTr("恢复IP地址")))
+    }
+}

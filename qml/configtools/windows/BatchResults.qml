@@ -1,0 +1,39 @@
+// What has come of batches: their panel, and saving results to a file.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property Batches batches
+    readonly property var fileDialogs: FileDialogsApi  // qmllint disable unqualified
+    signal said(string message, int kind)
+
+    function show() {
+        panel.wanted().show();
+    }
+
+    function save(batch) {
+        const name = batch.title + batch.began.toLocaleString(Qt.locale("C"), " yyyy-MM-dd HH-mm-ss");
+        fileDialogs.chooseNewFile(qsTr("保存结果"), ["Excel Files (*.xlsx)", "CSV Files (*.csv)"], name, path => {
+            const reason = batches.saveResults(batch, path);
+            if (reason === "")
+                said(qsTr("结果已保存到 %1").arg(path), OVToast.Success);
+            else
+                said(qsTr("结果无法保存，可以另选位置重试。\n%1").arg(reason), OVToast.Error);
+        });
+    }
+
+    visible: false
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: panel
+        visible: false
+        sourceComponent: BatchPanel {
+            batches: root.batches
+            onSaveRequested: batch => root.save(batch)
+        }
+    }
+    // qmllint enable unqualified
+}
