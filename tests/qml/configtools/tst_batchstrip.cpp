@@ -1,0 +1,326 @@
+// The foot of a page over the batches of the session: what it says and offers while one runs, while it is
+// held and after its end, and the file of its results.
+#include "device/batch/batches.h"
+#include "device/batch/batchhistory.h"
+#include "device/batch/batchresultmodel.h"
+#include "device/devicetablemodel.h"
+#include "device/treemodel.h"
+#include "sheets/qexcel.h"
+#include "tests/device/rowsbackend.h"
+#include "tests/files/filesizelimit.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJSValue>
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const char *const scene = "import QtQuick\n"
+                          "import QtQuick.Templates as T\n"
+                          "import configtools\n"
+                          "T.ApplicationWindow {\n"
+                          "    width: 1280; height: 720; visible: true\n"
+                          "    OVFootBar {\n"
+                          "        objectName: 'foot'; width: 1248; text: 'Ticked'; batches: works\n"
+                          "        onTickRequested: identities => {\n"
+                          "            deviceTable.setCheckedDevices(identities);\n"
+                          "            deviceTree.setCheckedDevices(identities);\n"
+                          "        }\n"
+                          "    }\n"
+                          "}\n";
+
+constexpr int wrongPassword = 2;
+constexpr int networkFailure = 5;
+const QString header = QStringLiteral("设备,MAC,名称,步骤,结果,时间");
+
+using Results = QList<int>;
+
+} // namespace
+
+/// The box in which the user names a file: answers at once with the test's path.
+class ChosenFile : public QObject
+{
+    Q_OBJECT
+public:
+    QString path;
+
+    Q_INVOKABLE void chooseNewFile(const QString & /*title*/, const QStringList & /*nameFilters*/,
+                                   const QString & /*name*/, const QJSValue &chosen) const
+    {
+        chosen.call({path});
+    }
+};
+
+class TestBatchStrip : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<BatchEngine> m_threads;
+    std::unique_ptr<RowsFactory> m_site;
+    std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<DeviceTableModel> m_table;
+    std::unique_ptr<OVTreeModel> m_tree;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    ChosenFile m_file;
+    QSemaphore m_gate; ///< lets one step end for each of its resources
+
+    [[nodiscard]] QQuickItem *find(const QByteArray &name) const
+    {
+        return findBelow(m_window->contentItem(), QString::fromLatin1(name), Sight::Visible);
+    }
+    [[nodiscard]] QString text(const QByteArray &name) const
+    {
+        const QQuickItem *item = find(name);
+        return item ? item->property("text").toString() : QString();
+    }
+    void press(const QByteArray &button) const
+    {
+        QVERIFY2(find(button) && find(button)->isEnabled(), button.constData());
+        QVERIFY(QMetaObject::invokeMethod(find(button), "clicked"));
+    }
+    /// The controls that can be seen, of those that depend on the batch.
+    [[nodiscard]] QStringList shown() const
+    {
+        QStringList names = {"continueButton",     "stopButton",        "retryFailedButton",
+                             "selectFailedButton", "saveResultsButton", "batchPanelButton"};
+        names.removeIf([this](const QString &name) { return !find(name.toLatin1()); });
+        return names;
+    }
+
+    /// A device for each result, one after another. Each succeeds in another try.
+    Batch *start(const Results &results)
+    {
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 1, .wrongPasswordsInARow = 2}};
+        for (qsizetype place = 0; place < results.size(); ++place) {
+            const QString ipport = QStringLiteral("10.0.0.%1:37777").arg(place + 1);
+            plan.devices.append({.name = ipport,
+                                 .identity = QStringLiteral("m%1").arg(place + 1),
+                                 .ipport = ipport,
+                                 .title = QStringLiteral("=门,\"%1\"").arg(place + 1)});
+        }
+        plan.stepOf = [this, results](const BatchDevice &device) {
+            const int place = device.identity.mid(1).toInt() - 1;
+            const int result = m_batches->kept().isEmpty() ? results.at(place) : 0;
+            return [this, result](const StepControl & /*control*/) {
+                m_gate.acquire();
+                return StepOutcome{.result = result, .text = {}};
+            };
+        };
+        return m_batches->start(std::move(plan));
+    }
+    Batch *run(const Results &results)
+    {
+        m_gate.release(static_cast<int>(results.size()));
+        Batch *batch = start(results);
+        [batch] {
+            QTRY_VERIFY(batch && !batch->isRunning());
+        }();
+        return batch;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_threads = std::make_unique<BatchEngine>(nullptr);
+        m_site = std::make_unique<RowsFactory>();
+        m_site->rows->add({.address = "10.0.0.1", .mac = "m1", .type = "IPC"});
+        m_site->rows->add({.address = "10.0.0.2", .mac = "m2", .type = "IPC"});
+        m_site->rows->add({.address = "10.0.0.3", .mac = "m3", .type = "IPC"});
+        m_batches = std::make_unique<Batches>(m_site->factory, *m_threads, [] { return 1; });
+        m_table = std::make_unique<DeviceTableModel>();
+        m_table->setDeviceFactory(&m_site->factory);
+        m_tree = std::make_unique<OVTreeModel>();
+        m_tree->setDeviceFactory(&m_site->factory);
+        m_tree->resetItems("removeuninit", "");
+        m_engine = std::make_unique<QQmlEngine>();
+        m_window = openScene(*m_engine, scene,
+                             {{"works", m_batches.get()},
+                              {"FileDialogsApi", &m_file},
+                              {"deviceTable", m_table.get()},
+                              {"deviceTree", m_tree.get()}});
+        QVERIFY(m_window && QTest::qWaitForWindowExposed(m_window.get()));
+        QVERIFY(shown().isEmpty());
+    }
+
+    void cleanup()
+    {
+        m_gate.release(100);
+        m_threads->end();
+        m_window.reset();
+        m_engine.reset();
+        m_tree.reset();
+        m_table.reset();
+        m_batches.reset();
+        m_site.reset();
+        m_threads.reset();
+        m_gate.acquire(m_gate.available());
+    }
+
+    void aRunningBatchIsShownAndStopped()
+    {
+        m_gate.release();
+        start({networkFailure, 0, 0});
+        QTRY_COMPARE(text("runningText"), "Work 1 / 3");
+        QCOMPARE(text("runningFailed"), QStringLiteral("1 台失败"));
+        QCOMPARE(shown(), (QStringList{"stopButton", "batchPanelButton"}));
+        press("stopButton");
+        QVERIFY(!find("stopButton")->isEnabled());
+        m_gate.release();
+        QTRY_COMPARE(text("footWarning"), QStringLiteral("Work：1 台设备成功，1 台设备失败，1 台设备未执行"));
+        QVERIFY(!find("runningText"));
+    }
+
+    void aHeldBatchAsks_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<QString>("outcome");
+        QTest::newRow("go on") << QByteArray("continueButton")
+                               << QStringLiteral("Work：1 台设备成功，2 台设备失败");
+        QTest::newRow("stop") << QByteArray("stopButton")
+                              << QStringLiteral("Work：2 台设备失败，1 台设备未执行");
+    }
+    void aHeldBatchAsks()
+    {
+        QFETCH(QByteArray, button);
+        QFETCH(QString, outcome);
+        m_gate.release(3);
+        start({wrongPassword, wrongPassword, 0});
+        QTRY_VERIFY(find("continueButton"));
+        QVERIFY(text("runningText").contains(QStringLiteral("密码错误")));
+        QCOMPARE(shown(), (QStringList{"continueButton", "stopButton", "batchPanelButton"}));
+        press(button);
+        QTRY_COMPARE(text("footWarning"), outcome);
+    }
+
+    void theEndOffersWhatHelps_data()
+    {
+        QTest::addColumn<Results>("results");
+        QTest::addColumn<QStringList>("offered");
+        const QStringList always = {"saveResultsButton", "batchPanelButton"};
+        QTest::newRow("all well") << Results{0, 0, 0} << always;
+        QTest::newRow("password") << Results{0, wrongPassword, 0}
+                                  << QStringList("selectFailedButton") + always;
+        QTest::newRow("network") << Results{0, networkFailure, 0}
+                                 << QStringList{"retryFailedButton", "selectFailedButton"} + always;
+        QTest::newRow("next step to come")
+            << Results{-1, networkFailure, 0} << QStringList("selectFailedButton") + always;
+    }
+    void theEndOffersWhatHelps()
+    {
+        QFETCH(Results, results);
+        QFETCH(QStringList, offered);
+        run(results);
+        QTRY_COMPARE(shown(), offered);
+    }
+
+    void failedDevicesAreTickedAndTriedAgain()
+    {
+        m_table->setAllChecked(true);
+        m_tree->setAllChecked(true);
+        m_tree->resetItems("search", "10.0.0.1"); // hides the others
+        Batch *batch = run({0, networkFailure, 0});
+        press("selectFailedButton");
+        QCOMPARE(m_table->checkedMacs(), QStringList("m2"));
+        QCOMPARE(m_tree->checkedCount(), 0);
+        m_tree->resetItems("removeuninit", "");
+        QCOMPARE(m_tree->checkedDevices(), QStringList("10.0.0.2:37777"));
+
+        const QSignalSpy retried(m_batches.get(), &Batches::retried);
+        m_gate.release();
+        press("retryFailedButton");
+        QTRY_COMPARE(text("selectedCount"), QStringLiteral("Ticked  ·  Work：1 台设备成功"));
+        QVERIFY(!find("footWarning"));
+        QCOMPARE(retried.first().first().value<Batch *>(), batch);
+    }
+
+    void resultsAreSaved_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("workbook") << "results.xlsx";
+        QTest::newRow("text") << "results.csv";
+    }
+    void resultsAreSaved()
+    {
+        QFETCH(QString, file);
+        const QTemporaryDir folder;
+        m_file.path = folder.filePath(file);
+        Batch *batch = run({0, networkFailure, 0});
+        QSignalSpy said(find("foot"), SIGNAL(said(QString, int)));
+        press("saveResultsButton");
+        QVERIFY(said.takeFirst().first().toString().contains(m_file.path));
+        const QString time = batch->entries().at(1).time.toString("yyyy-MM-dd HH:mm:ss");
+        const QStringList line = {"10.0.0.2:37777",           "m2", "=门,\"2\"", "Work",
+                                  resultName(networkFailure), time};
+        if (file.endsWith(".csv")) {
+            QFile saved(m_file.path);
+            QVERIFY(saved.open(QIODevice::ReadOnly));
+            const QStringList lines = QString::fromUtf8(saved.readAll()).split("\r\n");
+            QCOMPARE(lines.size(), 5);
+            QCOMPARE(lines.at(0), "\"" + header.split(',').join("\",\"") + "\"");
+            // A name is no formula.
+            QCOMPARE(lines.at(2),
+                     QStringLiteral("\"10.0.0.2:37777\",\"m2\",\"'=门,\"\"2\"\"\",\"Work\",\"%1\",\"%2\"")
+                         .arg(line.at(4), time));
+        } else {
+            QExcel workbook;
+            QVERIFY(workbook.open(m_file.path));
+            for (int column = 1; column <= line.size(); ++column) {
+                QCOMPARE(workbook.cellText(1, column), header.split(',').at(column - 1));
+                QCOMPARE(workbook.cellText(3, column), line.at(column - 1));
+            }
+            QCOMPARE(workbook.usedRowCount(), 4);
+        }
+
+        // On a full disk the file stays as it was, and the user learns why.
+        QFile saved(m_file.path);
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        const QByteArray before = saved.readAll();
+        {
+            const FileSizeLimit limit(16);
+            press("saveResultsButton");
+        }
+        QCOMPARE(said.takeFirst().at(1).toInt(), 2);
+        saved.seek(0);
+        QCOMPARE(saved.readAll(), before);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+    }
+
+    void thePanelHasEveryBatch()
+    {
+        BatchHistory history;
+        history.setBatches(m_batches.get());
+        Batch *first = run({0, networkFailure, notDone});
+        QCOMPARE(history.get(0).value("counts"), "1 / 3");
+        QCOMPARE(history.get(0).value("complete"), false);
+        BatchResultModel results;
+        results.setBatch(first);
+        QCOMPARE(results.get(0).value("device"), "10.0.0.2:37777");
+        QCOMPARE(results.get(2).value("device"), "10.0.0.1:37777");
+        results.setOnlyFailed(true);
+        QCOMPARE(results.rowCount(), 2);
+
+        press("batchPanelButton");
+        QTRY_COMPARE(text("batchSummary"), first->report()->summary());
+        m_gate.release(2);
+        press("panelRetryButton");
+        QTRY_COMPARE(text("batchSummary"), QStringLiteral("2 台设备成功"));
+        QCOMPARE(history.rowCount(), 2);
+        QCOMPARE(history.batchAt(1), first);
+        QCOMPARE(history.get(0).value("complete"), true);
+        QVERIFY(!find("panelRetryButton")->isEnabled());
+        results.setBatch(history.batchAt(0));
+        QCOMPARE(results.rowCount(), 0);
+    }
+
+private:
+    static constexpr int notDone = BatchReport::NotDone;
+};
+
+QTEST_MAIN(TestBatchStrip)
+#include "tst_batchstrip.moc"
