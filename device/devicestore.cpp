@@ -3,9 +3,12 @@
 #include "device/devicerow.h"
 #include "sdk/clock.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -15,22 +18,46 @@ constexpr std::int64_t notificationInterval = 1000;
 
 constexpr QLatin1StringView loopbackAddress("127.0.0.1");
 
-// Four fifths of an answer are reserved bytes, nearly always zero: a list of 10,000 devices would hold 25 MB
-// of them.
+// Most of an answer is zeros: reserved bytes, and what texts leave of their fields. A list of 10,000 devices
+// would hold 30 MB of them, so an answer is kept as the pieces between longer runs of zeros.
 
-QByteArray bytesOf(const sdk::SearchAnswer &answer)
+/// Stands in front of each piece.
+struct PieceHead
 {
-    const char *bytes = reinterpret_cast<const char *>(&answer);
-    qsizetype size = sizeof(answer);
-    while (size > 0 && bytes[size - 1] == 0)
-        --size;
-    return QByteArray(bytes, size);
+    std::uint16_t zeros; ///< before the piece
+    std::uint16_t size;  ///< of the piece, in bytes
+};
+static_assert(sizeof(sdk::SearchAnswer) <= std::numeric_limits<std::uint16_t>::max());
+
+QByteArray packed(const sdk::SearchAnswer &answer)
+{
+    constexpr std::string_view run("\0\0\0\0", sizeof(PieceHead)); // a shorter one costs less than a head
+    const std::string_view bytes(reinterpret_cast<const char *>(&answer), sizeof(answer));
+    QVarLengthArray<char, sizeof(answer)> pieces;
+    std::size_t end = 0;
+    for (std::size_t begin = bytes.find_first_not_of('\0'); begin != std::string_view::npos;
+         begin = bytes.find_first_not_of('\0', end)) {
+        const std::size_t zeros = begin - end;
+        end = std::min(bytes.find(run, begin), bytes.size());
+        const std::string_view piece = bytes.substr(begin, end - begin);
+        const PieceHead head = {static_cast<std::uint16_t>(zeros), static_cast<std::uint16_t>(piece.size())};
+        pieces.append(reinterpret_cast<const char *>(&head), sizeof(head));
+        pieces.append(piece.data(), static_cast<qsizetype>(piece.size()));
+    }
+    return QByteArray(pieces.constData(), pieces.size());
 }
 
-sdk::SearchAnswer answerOf(const QByteArray &bytes)
+sdk::SearchAnswer unpacked(const QByteArray &pieces)
 {
     sdk::SearchAnswer answer{};
-    std::memcpy(&answer, bytes.constData(), std::min(static_cast<std::size_t>(bytes.size()), sizeof(answer)));
+    char *next = reinterpret_cast<char *>(&answer);
+    const char *piece = pieces.cbegin();
+    while (piece != pieces.cend()) {
+        PieceHead head;
+        std::memcpy(&head, piece, sizeof(head));
+        next = std::copy_n(piece + sizeof(head), head.size, next + head.zeros);
+        piece += sizeof(head) + head.size;
+    }
     return answer;
 }
 
@@ -58,7 +85,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
     const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
                        row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
-    const QByteArray record = bytesOf(answer);
+    const QByteArray record = packed(answer);
 
     const std::scoped_lock lock(m_mutex);
     if (dropsLocked(identity))
@@ -137,7 +164,7 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
     if (!row.value(DeviceRowKey::https).toBool()) // a response holds the port of the plain web page only
         row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
     m_ipv4.replace(name, row);
-    m_records.insert(name, bytesOf(answer));
+    m_records.insert(name, packed(answer));
     return true;
 }
 
@@ -175,13 +202,13 @@ std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &name) const
 {
     const std::scoped_lock lock(m_mutex);
     const auto record = m_records.constFind(name);
-    return record == m_records.cend() ? std::nullopt : std::optional(answerOf(*record));
+    return record == m_records.cend() ? std::nullopt : std::optional(unpacked(*record));
 }
 
 void DeviceStore::putRecord(const QString &name, const sdk::SearchAnswer &answer)
 {
     const std::scoped_lock lock(m_mutex);
-    m_records.insert(name, bytesOf(answer));
+    m_records.insert(name, packed(answer));
 }
 
 QJsonObject DeviceStore::row(const QString &mac) const

@@ -121,7 +121,7 @@ private:
     mutable std::mutex m_mutex;
     DeviceRowList m_ipv4;
     DeviceRowList m_ipv6;
-    QHash<QString, QByteArray> m_records; ///< by name: the bytes of the answer without the zeros at its end
+    QHash<QString, QByteArray> m_records; ///< by name: the answers, packed
     QSet<QString> m_settled;         ///< devices found or removed since clear(): further answers are dropped
     QHash<QString, int> m_ipv6Found; ///< IPv6 rows found since clear(), by address and port
     int m_found = 0;                 ///< rows found since clear()

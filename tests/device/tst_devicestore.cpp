@@ -7,6 +7,7 @@
 
 #include <array>
 #include <atomic>
+#include <cstring>
 #include <thread>
 #include <utility>
 
@@ -254,6 +255,31 @@ private Q_SLOTS:
         m_store->addAnswer(searchAnswer({.address = "192.168.1.64"}));
         m_store->addAnswer(searchAnswer({.address = "fe80::2", .ipVersion = 6}));
         QCOMPARE(sdk::blockText(m_store->record("02:1a:c5:00:40:17")->device.address), "192.168.1.64");
+    }
+
+    void aRecordIsGivenBackByteForByte_data()
+    {
+        QTest::addColumn<QByteArray>("filling"); // of the answer, again and again
+        QTest::newRow("no zeros") << QByteArray(1, 'x');
+        QTest::newRow("zeros only") << QByteArray(1, '\0');
+        QByteArray runs;
+        for (int zeros = 0; zeros < 12; ++zeros)
+            runs += 'x' + QByteArray(zeros, '\0');
+        QTest::newRow("zeros between, and at the end") << runs;
+        QTest::newRow("a byte in front") << QByteArray(sizeof(sdk::SearchAnswer), '\0').replace(0, 1, "x");
+        QTest::newRow("a byte at the end") << QByteArray(sizeof(sdk::SearchAnswer) - 1, '\0') + 'x';
+    }
+
+    void aRecordIsGivenBackByteForByte()
+    {
+        QFETCH(QByteArray, filling);
+        const QByteArray bytes = filling.repeated(sizeof(sdk::SearchAnswer) / filling.size() + 1);
+        sdk::SearchAnswer answer;
+        std::memcpy(&answer, bytes.constData(), sizeof(answer));
+        m_store->putRecord(answer);
+        const std::optional<sdk::SearchAnswer> record = m_store->record(macText(answer));
+        QVERIFY(record);
+        QCOMPARE(std::memcmp(&*record, &answer, sizeof(answer)), 0);
     }
 
     void aLoopbackDeviceHeadsTheList()
