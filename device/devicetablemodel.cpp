@@ -154,20 +154,24 @@ QList<DeviceTableModel::Row> DeviceTableModel::readRows()
     QHash<QString, int> rowsOfAddress;
     rowsOfAddress.reserve(list.size());
     QList<Row> shown;
+    QStringList addresses; // of the shown rows
     shown.reserve(list.size());
+    addresses.reserve(list.size());
     for (const QVariant &value : list) {
-        Row row{.values = value.toJsonObject(), .identity = {}, .ipport = {}};
-        row.ipport = row.values.value(DeviceRowKey::ipport).toString();
-        ++rowsOfAddress[row.ipport];
-        if (isShown(row.values)) {
-            row.identity = rowName(row.values);
-            shown.append(std::move(row));
+        const QJsonObject values = value.toJsonObject();
+        const QString ipport = values.value(DeviceRowKey::ipport).toString();
+        ++rowsOfAddress[ipport];
+        if (isShown(values)) {
+            shown.append({.values = values, .identity = rowName(values)});
+            addresses.append(ipport);
         }
     }
     m_conflictCount = 0;
-    for (Row &row : shown) {
+    for (qsizetype place = 0; place < shown.size(); ++place) {
+        Row &row = shown[place];
         // Devices that wait for an address by DHCP have none to share.
-        row.conflict = !row.ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(row.ipport) > 1;
+        const QString &ipport = addresses.at(place);
+        row.conflict = !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > 1;
         m_conflictCount += row.conflict ? 1 : 0;
     }
     return shown;
@@ -265,7 +269,6 @@ void DeviceTableModel::refreshDevice(const QString &mac)
         if (value.isValid())
             row.values.insert(key, QJsonValue::fromVariant(value));
     }
-    row.ipport = row.values.value(DeviceRowKey::ipport).toString();
     Q_EMIT dataChanged(index(place), index(place));
 }
 

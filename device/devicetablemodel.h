@@ -115,7 +115,6 @@ private:
     {
         QJsonObject values;
         QString identity;
-        QString ipport;
         bool conflict = false;
     };
 
