@@ -97,6 +97,7 @@ DemoSite::DemoSite(const Scene &scene, std::shared_ptr<Clock> clock)
       m_portAgent(std::make_unique<DemoP2PAgentLibrary>(*this)),
       m_net(std::make_unique<DemoNetLibrary>(*this))
 {
+    m_devices.reserve(scene.devices.size());
     for (const SceneDevice &device : scene.devices)
         setDevice(device);
 }

@@ -1,5 +1,6 @@
 #include "sdk/demo/fleetgenerator.h"
 
+#include <QHash>
 #include <QRandomGenerator>
 
 #include <array>
@@ -82,7 +83,26 @@ InitialisationBits randomState(Dice &dice)
     return state <= 20 ? InitialisationBits::NotReported : InitialisationBits::Initialised;
 }
 
-SceneDevice deviceAt(int place, Dice &dice)
+/// The lists of channels and accounts that devices have in common, which share their memory until one is
+/// changed.
+class SharedLists
+{
+public:
+    QList<SceneChannel> channels(int count)
+    {
+        QList<SceneChannel> &list = m_channels[count];
+        if (list.isEmpty())
+            list.resize(count);
+        return list;
+    }
+    const QList<SceneAccount> &accounts() const { return m_accounts; }
+
+private:
+    QHash<int, QList<SceneChannel>> m_channels; // by their number
+    const QList<SceneAccount> m_accounts = {{u"admin"_s, u"Installer-2024"_s}};
+};
+
+SceneDevice deviceAt(int place, Dice &dice, SharedLists &lists)
 {
     const Kind &kind = randomKind(dice);
     SceneDevice device;
@@ -101,9 +121,9 @@ SceneDevice deviceAt(int place, Dice &dice)
         u"%1%2"_s.arg(dice.number(0x10000, 0xFFFFF), 5, 16).arg(place, 7, 10, QLatin1Char('0')).toUpper();
     device.initialisation = randomState(dice);
     device.resetWay = static_cast<std::uint8_t>(dice.number(0, 3));
-    device.channels.resize(kind.mostChannels == 1 ? 1 : 4 * dice.number(1, kind.mostChannels / 4));
+    device.channels = lists.channels(kind.mostChannels == 1 ? 1 : 4 * dice.number(1, kind.mostChannels / 4));
     if (device.initialisation != InitialisationBits::Uninitialised)
-        device.accounts = {{u"admin"_s, u"Installer-2024"_s}};
+        device.accounts = lists.accounts();
     device.latency = std::chrono::milliseconds(dice.number(shortestLatency, longestLatency));
     device.knowsFirstSearch = !dice.oncein(10);
     return device;
@@ -119,8 +139,9 @@ Scene FleetGenerator::generate(int count)
     scene.localAddress = u"10.0.0.2"_s;
     scene.devices.reserve(count);
     Dice dice;
+    SharedLists lists;
     for (int place = 0; place < count; ++place)
-        scene.devices.append(deviceAt(place, dice));
+        scene.devices.append(deviceAt(place, dice, lists));
     return scene;
 }
 
