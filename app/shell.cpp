@@ -152,6 +152,9 @@ void Shell::loadScene()
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     publishToScene(*m_engine, *m_batchEngine, m_libraries.net != nullptr);
+    // What the answers of a search were read with is freed in pieces between the rows.
+    QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
+                     CDeviceFactory::getinstance(), &returnFreedMemory);
     m_engine->load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml")));
     if (auto *window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0))) {
         const auto noteFirst = [] {

@@ -6,8 +6,6 @@
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 
-#include <QThreadPool>
-
 #include <utility>
 
 namespace {
@@ -62,7 +60,7 @@ bool CDHDecoder::Stop()
     m_library->DecoderCloseStream(port);
     m_library->DecoderFreePort(port);
     if (--openPorts == 0)
-        QThreadPool::globalInstance()->start(&returnFreedMemory); // the scene does not wait for it
+        returnFreedMemory();
     return true;
 }
 

@@ -1,5 +1,11 @@
 #include "media/freedmemory.h"
 
+#include <QCoreApplication>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <atomic>
+#include <chrono>
 #include <cstdlib> // tells which C library it is
 
 #ifdef __GLIBC__
@@ -21,6 +27,13 @@ void limitFreedMemory()
 void returnFreedMemory()
 {
 #ifdef __GLIBC__
-    malloc_trim(0);
+    using namespace std::chrono_literals;
+    static std::atomic<bool> isDue = false;
+    if (!QCoreApplication::instance() || isDue.exchange(true))
+        return;
+    QTimer::singleShot(2s, QCoreApplication::instance(), [] {
+        isDue = false;
+        QThreadPool::globalInstance()->start([] { malloc_trim(0); }); // takes some milliseconds
+    });
 #endif
 }

@@ -9,6 +9,7 @@
 /// each thread: after a few live views hundreds of megabytes that are free stay with the process.
 void limitFreedMemory();
 
-/// Gives back what the allocator keeps for later. It takes some milliseconds, on the thread that calls.
-/// Without effect where the C library is not glibc.
+/// Gives back what the allocator keeps for later, a moment after the call, on a thread of its own: what the
+/// caller and other threads are giving up by then goes along. Calls within that moment count as one. May be
+/// called on any thread; does nothing without an application object or where the C library is not glibc.
 void returnFreedMemory();
