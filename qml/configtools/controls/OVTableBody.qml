@@ -72,7 +72,7 @@ ListView {
 
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: Theme.rowHeight * 10
+    cacheBuffer: Theme.rowHeight * 3  // a turn of the wheel; each row is half a megabyte of objects
     clip: true
     contentWidth: Math.max(width, rowWidth)
     currentIndex: -1
