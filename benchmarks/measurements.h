@@ -3,6 +3,8 @@
 
 #include "benchmarks/figures.h"
 
+class NumberedStream;
+
 /// Search answers into rows, the text filter over them, and the device tree.
 [[nodiscard]] QList<Figure> measureDeviceLists();
 
@@ -21,8 +23,11 @@
 /// Live streams into pictures, against the decoder's own program on one thread.
 [[nodiscard]] QList<Figure> measureDecoding();
 
-/// Nine live streams into pictures at once, at the pace of their cameras: how late they are.
-[[nodiscard]] QList<Figure> measureLivePorts();
+/// Nine live streams at the pace of their cameras: how late their pictures are where they are decoded.
+[[nodiscard]] QList<Figure> measureLivePorts(const NumberedStream &stream);
+
+/// The same on the screen.
+[[nodiscard]] QList<Figure> measureLiveWindow(const NumberedStream &stream);
 
 /// Start of the program against an empty window of the toolkit.
 [[nodiscard]] Figure measureStart();
