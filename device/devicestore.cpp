@@ -303,7 +303,7 @@ void DeviceStore::putRow(QJsonObject row, const std::optional<sdk::SearchAnswer>
         row.insert(DeviceRowKey::duplicate, before);
     const QString name = rowName(row);
     if (answer)
-        m_records.insert(name, bytesOf(*answer));
+        m_records.insert(name, packed(*answer));
     if (m_ipv4.contains(name))
         m_ipv4.replace(name, row);
     else
