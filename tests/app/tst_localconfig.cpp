@@ -1,5 +1,7 @@
 #include "app/languages.h"
 #include "app/localconfig.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDesktopServices>
@@ -7,7 +9,6 @@
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <unistd.h>
 
@@ -16,9 +17,7 @@ namespace {
 void write(const QString &path, const QByteArray &content = "x")
 {
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QFile::WriteOnly));
-    file.write(content);
+    QVERIFY(writeFile(path, content));
 }
 
 } // namespace
@@ -31,6 +30,17 @@ private:
     QStringList m_opened; ///< documents that the desktop was asked to open
 
     QString path(const QString &name) const { return m_directory->path() + '/' + name; }
+
+    /// All settings, with bars between them.
+    static QString settingsOf(const CLocalConfig &config)
+    {
+        return QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
+            .arg(config.getLanguage())
+            .arg(config.getSearchConfigLocalDomain())
+            .arg(config.getSearchConfigOtherDomain())
+            .arg(config.getSearchConfigStartIP(), config.getSearchConfigEndIP(),
+                 config.getSearchConfigUsrename(), config.getSearchConfigPass());
+    }
 
 public Q_SLOTS:
     void openDocument(const QUrl &url)
@@ -57,13 +67,7 @@ private Q_SLOTS:
         QCOMPARE(keys, QStringList({"language/name", "searchConfig/endIP", "searchConfig/localDomain",
                                     "searchConfig/otherDomain", "searchConfig/pass", "searchConfig/startIP",
                                     "searchConfig/username"}));
-        QCOMPARE(config.getLanguage(), "");
-        QCOMPARE(config.getSearchConfigLocalDomain(), 1);
-        QCOMPARE(config.getSearchConfigOtherDomain(), 0);
-        QCOMPARE(config.getSearchConfigStartIP(), "192.168.1.1");
-        QCOMPARE(config.getSearchConfigEndIP(), "192.168.1.255");
-        QCOMPARE(config.getSearchConfigUsrename(), "admin");
-        QCOMPARE(config.getSearchConfigPass(), "739164");
+        QCOMPARE(settingsOf(config), "|1|0|192.168.1.1|192.168.1.255|admin|739164");
     }
 
     void settingsAreOnDiskAtOnceAndReadAfresh()
@@ -79,12 +83,7 @@ private Q_SLOTS:
         config.setLanguage("de_DE");
 
         CLocalConfig other(m_directory->path());
-        QCOMPARE(other.getSearchConfigPass(), password);
-        QCOMPARE(other.getSearchConfigStartIP(), "10.0.0.1");
-        QCOMPARE(other.getSearchConfigEndIP(), "10.0.0.9");
-        QCOMPARE(other.getSearchConfigUsrename(), "root");
-        QCOMPARE(other.getSearchConfigLocalDomain(), 0);
-        QCOMPARE(other.getSearchConfigOtherDomain(), 1);
+        QCOMPARE(settingsOf(other), "de_DE|0|1|10.0.0.1|10.0.0.9|root|" + password);
         other.setLanguage("fr_FR");
         QCOMPARE(config.getLanguage(), "fr_FR");
     }
@@ -116,24 +115,18 @@ private Q_SLOTS:
     {
         write(path("LocalConfig.ini"), "[searchConfig]\nendIP=10.0.0.9\n");
         const CLocalConfig config(m_directory->path());
-        QCOMPARE(config.getSearchConfigStartIP(), "");
-        QCOMPARE(config.getSearchConfigLocalDomain(), 0);
-        QCOMPARE(config.getSearchConfigEndIP(), "10.0.0.9");
-        QFile file(path("LocalConfig.ini"));
-        QVERIFY(file.open(QFile::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("[searchConfig]\nendIP=10.0.0.9\n"));
+        QCOMPARE(settingsOf(config), "|0|0||10.0.0.9||");
+        QCOMPARE(fileContents(path("LocalConfig.ini")), "[searchConfig]\nendIP=10.0.0.9\n");
     }
 
     void badSettingsReadAsEmptyAndLoseNoOther_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("junk around a key")
-            << QByteArray("\x00\xFF]]junk\n[searchConfig]\n=\nendIP=10.0.0.9\n%%", 44);
-        QTest::newRow("wrong types") << QByteArray(
-            "[searchConfig]\nlocalDomain=yes\nstartIP=@Invalid()\n"
-            "otherDomain=1e9\nendIP=10.0.0.9\n[language]\nname=@Size(1 2)\n");
-        QTest::newRow("numbers out of range") << QByteArray("[searchConfig]\nlocalDomain=99999999999999\n"
-                                                            "endIP=10.0.0.9\n");
+        const auto row = dataTable<QByteArray>({"content"});
+        row("junk around a key", QByteArray("\x00\xFF]]junk\n[searchConfig]\n=\nendIP=10.0.0.9\n%%", 44));
+        row("wrong types", QByteArray("[searchConfig]\nlocalDomain=yes\nstartIP=@Invalid()\n"
+                                      "otherDomain=1e9\nendIP=10.0.0.9\n[language]\nname=@Size(1 2)\n"));
+        row("numbers out of range", QByteArray("[searchConfig]\nlocalDomain=99999999999999\n"
+                                               "endIP=10.0.0.9\n"));
     }
 
     void badSettingsReadAsEmptyAndLoseNoOther()
@@ -141,29 +134,24 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         write(path("LocalConfig.ini"), content);
         CLocalConfig config(m_directory->path());
-        QCOMPARE(config.getSearchConfigLocalDomain(), 0);
-        QCOMPARE(config.getSearchConfigOtherDomain(), 0);
-        QCOMPARE(config.getSearchConfigStartIP(), "");
-        QCOMPARE(config.getLanguage(), "");
+        QCOMPARE(settingsOf(config), "|0|0||10.0.0.9||");
         config.setLanguage("en_US");
-        QCOMPARE(config.getLanguage(), "en_US");
-        QCOMPARE(config.getSearchConfigEndIP(), "10.0.0.9");
+        QCOMPARE(settingsOf(config), "en_US|0|0||10.0.0.9||");
     }
 
     void upgradesAtOnceAreBounded_data()
     {
-        QTest::addColumn<QByteArray>("value");
-        QTest::addColumn<int>("atOnce");
-        QTest::newRow("least") << QByteArray("1") << 1;
-        QTest::newRow("most") << QByteArray("16") << 16;
-        QTest::newRow("quoted") << QByteArray("\"8\"") << 8;
-        QTest::newRow("none") << QByteArray("") << 4;
-        QTest::newRow("zero") << QByteArray("0") << 4;
-        QTest::newRow("negative") << QByteArray("-1") << 4;
-        QTest::newRow("too many") << QByteArray("17") << 4;
-        QTest::newRow("does not fit") << QByteArray("4294967297") << 4;
-        QTest::newRow("text") << QByteArray("many") << 4;
-        QTest::newRow("list") << QByteArray("2, 3") << 4;
+        const auto row = dataTable<QByteArray, int>({"value", "atOnce"});
+        row("least", QByteArray("1"), 1);
+        row("most", QByteArray("16"), 16);
+        row("quoted", QByteArray("\"8\""), 8);
+        row("none", QByteArray(""), 4);
+        row("zero", QByteArray("0"), 4);
+        row("negative", QByteArray("-1"), 4);
+        row("too many", QByteArray("17"), 4);
+        row("does not fit", QByteArray("4294967297"), 4);
+        row("text", QByteArray("many"), 4);
+        row("list", QByteArray("2, 3"), 4);
     }
 
     void upgradesAtOnceAreBounded()
@@ -189,31 +177,24 @@ private Q_SLOTS:
     {
         CLocalConfig config(m_directory->path());
         config.setLanguage("de_DE");
-        const auto contents = [this] {
-            QFile file(path("LocalConfig.ini"));
-            return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-        };
-        const QByteArray before = contents();
+        const QByteArray before = fileContents(path("LocalConfig.ini"));
         {
             const FileSizeLimit limit(static_cast<rlim_t>(before.size()) + 10);
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write .* the draft is incomplete"));
             config.setSearchConfigPass(QString(100, 'p'));
         }
-        QCOMPARE(contents(), before);
+        QCOMPARE(fileContents(path("LocalConfig.ini")), before);
         QCOMPARE(config.getSearchConfigPass(), "739164");
         QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList("LocalConfig.ini"));
     }
 
     void languagesWithoutAFileAreRemoved_data()
     {
-        QTest::addColumn<QStringList>("present");
-        QTest::addColumn<QVariantList>("removed");
-        QTest::newRow("Chinese and English")
-            << QStringList{"zh_CN", "en_US"} << QVariantList{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
-        QTest::newRow("odd codes") << QStringList{"JP_US", "sv_SV"}
-                                   << QVariantList{0, 1, 2, 4, 5, 6, 7, 8, 9, 10, 12, 13};
-        QTest::newRow("no folder") << QStringList()
-                                   << QVariantList{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
+        const auto row = dataTable<QStringList, QVariantList>({"present", "removed"});
+        row("Chinese and English", QStringList{"zh_CN", "en_US"},
+            QVariantList{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13});
+        row("odd codes", QStringList{"JP_US", "sv_SV"}, QVariantList{0, 1, 2, 4, 5, 6, 7, 8, 9, 10, 12, 13});
+        row("no folder", QStringList(), QVariantList{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13});
     }
 
     void languagesWithoutAFileAreRemoved()
@@ -233,19 +214,17 @@ private Q_SLOTS:
 
     void aFirstStartTakesTheSystemsLanguage_data()
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QLocale::Language>("system");
-        QTest::addColumn<QString>("code");
-        QTest::newRow("Chinese") << "" << QLocale::Chinese << "zh_CN";
-        QTest::newRow("Japanese") << "" << QLocale::Japanese << "JP_US";
-        QTest::newRow("Swedish") << "" << QLocale::Swedish << "sv_SV";
-        QTest::newRow("Norwegian") << "" << QLocale::NorwegianBokmal << "no_NO";
-        QTest::newRow("Catalan is a choice of the user only") << "" << QLocale::Catalan << "en_US";
-        QTest::newRow("Galician is a choice of the user only") << "" << QLocale::Galician << "en_US";
-        QTest::newRow("unknown") << "" << QLocale::Zulu << "en_US";
-        QTest::newRow("no translation file") << "" << QLocale::German << "en_US";
-        QTest::newRow("stored") << "fr_FR" << QLocale::Chinese << "fr_FR";
-        QTest::newRow("stored, its file lost") << "de_DE" << QLocale::Chinese << "de_DE";
+        const auto row = dataTable<QString, QLocale::Language, QString>({"stored", "system", "code"});
+        row("Chinese", "", QLocale::Chinese, "zh_CN");
+        row("Japanese", "", QLocale::Japanese, "JP_US");
+        row("Swedish", "", QLocale::Swedish, "sv_SV");
+        row("Norwegian", "", QLocale::NorwegianBokmal, "no_NO");
+        row("Catalan is a choice of the user only", "", QLocale::Catalan, "en_US");
+        row("Galician is a choice of the user only", "", QLocale::Galician, "en_US");
+        row("unknown", "", QLocale::Zulu, "en_US");
+        row("no translation file", "", QLocale::German, "en_US");
+        row("stored", "fr_FR", QLocale::Chinese, "fr_FR");
+        row("stored, its file lost", "de_DE", QLocale::Chinese, "de_DE");
     }
 
     void aFirstStartTakesTheSystemsLanguage()

@@ -1,6 +1,6 @@
 #include "app/translationfile.h"
+#include "tests/files/filecontents.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,9 +16,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        QFile file(TRANSLATION);
-        QVERIFY(file.open(QFile::ReadOnly));
-        m_sound = file.readAll();
+        m_sound = fileContents(TRANSLATION);
         QVERIFY(m_sound.size() > 1000);
     }
 
@@ -73,12 +71,10 @@ private Q_SLOTS:
         const QTemporaryDir directory;
         QTranslator translator;
         QVERIFY(!loadTranslation(translator, directory.filePath("none.qm")));
-        QFile file(directory.filePath("damaged.qm"));
-        QVERIFY(file.open(QFile::WriteOnly));
-        file.write(m_sound.left(m_sound.size() / 2));
-        file.close();
+        const QString damaged = directory.filePath("damaged.qm");
+        QVERIFY(writeFile(damaged, m_sound.left(m_sound.size() / 2)));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is damaged"));
-        QVERIFY(!loadTranslation(translator, file.fileName()));
+        QVERIFY(!loadTranslation(translator, damaged));
         QVERIFY(translator.isEmpty());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read"));
         QVERIFY(!loadTranslation(translator, directory.path()));

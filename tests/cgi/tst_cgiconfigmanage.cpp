@@ -3,17 +3,16 @@
 #include "cgi/commandworkbook.h"
 #include "sheets/qexcel.h"
 #include "tests/cgi/recordedtransport.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "tests/sheets/workbookfiles.h"
 
-#include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QJSEngine>
 #include <QJsonObject>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QTranslator>
 #include <QUrl>
@@ -90,13 +89,12 @@ private Q_SLOTS:
 
     void filesThatAreNoneAreRefused_data()
     {
-        QTest::addColumn<QList<Row>>("rows");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("no file") << QList<Row>() << "文件打开失败";
-        QTest::newRow("a title is missing") << QList<Row>{titles.mid(0, 4), deviceRow(1)} << "文件格式错误";
-        QTest::newRow("titles in another row") << QList<Row>{{}, titles, deviceRow(1)} << "文件格式错误";
-        QTest::newRow("titles in another order")
-            << QList<Row>{{"IP", "端口", "密码", "用户名", "CGI配置命令"}, deviceRow(1)} << "文件格式错误";
+        const auto row = dataTable<QList<Row>, QString>({"rows", "text"});
+        row("no file", QList<Row>(), "文件打开失败");
+        row("a title is missing", QList<Row>{titles.mid(0, 4), deviceRow(1)}, "文件格式错误");
+        row("titles in another row", QList<Row>{{}, titles, deviceRow(1)}, "文件格式错误");
+        row("titles in another order",
+            QList<Row>{{"IP", "端口", "密码", "用户名", "CGI配置命令"}, deviceRow(1)}, "文件格式错误");
     }
 
     void filesThatAreNoneAreRefused()
@@ -275,20 +273,17 @@ private Q_SLOTS:
 
     void aMemoryThatIsNoneIsEmpty_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("cut off") << QByteArray("{\"recent\": [\"/a");
-        QTest::newRow("array") << QByteArray("[1, 2]");
-        QTest::newRow("other types") << QByteArray(
-            "{\"recent\": {\"a\": 1}, \"favourites\": [1, null, \"\"]}");
+        const auto row = dataTable<QByteArray>({"text"});
+        row("cut off", QByteArray("{\"recent\": [\"/a"));
+        row("array", QByteArray("[1, 2]"));
+        row("other types", QByteArray("{\"recent\": {\"a\": 1}, \"favourites\": [1, null, \"\"]}"));
     }
 
     void aMemoryThatIsNoneIsEmpty()
     {
         QFETCH(QByteArray, text);
         const QString place = m_folder->filePath("memory.json");
-        QFile file(place);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-        file.close();
+        QVERIFY(writeFile(place, text));
         const CommandMemory memory(place);
         QCOMPARE(memory.recent(), QStringList());
         QCOMPARE(memory.favourites(), QStringList());
@@ -297,12 +292,9 @@ private Q_SLOTS:
     /// The template of each language is a workbook of commands there, under the name that the page opens.
     void templatesCanBeUsed_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("Chinese") << "zh_CN"
-                                 << "批量操作CGI模板.xlsx";
-        QTest::newRow("English") << "en_US"
-                                 << "CGI batch template.xlsx";
+        const auto row = dataTable<QString, QString>({"language", "name"});
+        row("Chinese", "zh_CN", "批量操作CGI模板.xlsx");
+        row("English", "en_US", "CGI batch template.xlsx");
     }
 
     void templatesCanBeUsed()
@@ -325,16 +317,14 @@ private Q_SLOTS:
 
     void aLongTextIsCutIntoLines_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("lines");
+        const auto row = dataTable<QString, QStringList>({"text", "lines"});
         const QString key = QString::fromUtf8("🔑");
-        QTest::newRow("line ends") << "a\r\n\nb\n" << QStringList{"a", "", "b"};
-        QTest::newRow("long line") << QString(500, 'x') + "\n" + QString(501, 'y')
-                                   << QStringList{QString(500, 'x'), QString(500, 'y'), "y"};
-        QTest::newRow("letter of two parts")
-            << QString(499, 'x') + key << QStringList{QString(499, 'x'), key};
-        QTest::newRow("too many lines") << QString("\n").repeated(100'001)
-                                        << QStringList(100'000, "") + QStringList("…（内容过长，已截断）");
+        row("line ends", "a\r\n\nb\n", QStringList{"a", "", "b"});
+        row("long line", QString(500, 'x') + "\n" + QString(501, 'y'),
+            QStringList{QString(500, 'x'), QString(500, 'y'), "y"});
+        row("letter of two parts", QString(499, 'x') + key, QStringList{QString(499, 'x'), key});
+        row("too many lines", QString("\n").repeated(100'001),
+            QStringList(100'000, "") + QStringList("…（内容过长，已截断）"));
     }
 
     void aLongTextIsCutIntoLines()
@@ -347,16 +337,9 @@ private Q_SLOTS:
     {
         const QString first = m_manager->saveText(m_folder->path(), "东").value("path").toString();
         const QString second = m_manager->saveText(m_folder->path(), "b").value("path").toString();
-        QFile file(first);
-        QVERIFY(first != second && file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("东"));
+        QVERIFY(first != second);
+        QCOMPARE(fileContents(first), QByteArray("东"));
         QVERIFY(!m_manager->saveText(m_folder->filePath("none"), "b").value("failure").toString().isEmpty());
-    }
-
-    void copiesToTheClipboard()
-    {
-        m_manager->copyText("结果");
-        QCOMPARE(QGuiApplication::clipboard()->text(), "结果");
     }
 };
 

@@ -4,11 +4,12 @@
 #include "tests/cgi/apacheserver.h"
 #include "tests/cgi/rawserver.h"
 #include "tests/cgi/recordedtransport.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QTest>
 
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -52,12 +53,6 @@ class TestCgiProcedure : public QObject
 
     [[nodiscard]] QStringList savedFiles() const { return QDir(m_folder.path()).entryList(QDir::Files); }
 
-    [[nodiscard]] static QByteArray contents(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
 private Q_SLOTS:
     void init()
     {
@@ -76,30 +71,18 @@ private Q_SLOTS:
 
     void takesAnswersOfARealServer_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("result");
-        QTest::addColumn<QStringList>("requests");
-        QTest::newRow("digest") << "/digest/text?action=get"
-                                << "OK 东门\r\n"
-                                << QStringList{"401 GET /digest/text?action=get",
-                                               "200 GET /digest/text?action=get",
-                                               "200 GET /digest/text?action=get"};
-        QTest::newRow("basic, asked again")
-            << "/basic/text"
-            << "OK 东门\r\n"
-            << QStringList{"401 GET /basic/text", "200 GET /basic/text", "200 GET /basic/text"};
-        QTest::newRow("open") << "/open/text"
-                              << "OK 东门\r\n"
-                              << QStringList{"200 GET /open/text", "200 GET /open/text"};
-        QTest::newRow("fragment is kept back") << "/open/text#part"
-                                               << "OK 东门\r\n"
-                                               << QStringList{"200 GET /open/text", "200 GET /open/text"};
-        QTest::newRow("missing") << "/open/missing"
-                                 << "Error:服务器连接失败" << QStringList{"404 GET /open/missing"};
-        QTest::newRow("digest without its query")
-            << "/strict/text?action=get"
-            << "Error:服务器连接失败"
-            << QStringList{"401 GET /strict/text?action=get", "400 GET /strict/text?action=get"};
+        const auto row = dataTable<QString, QString, QStringList>({"path", "result", "requests"});
+        row("digest", "/digest/text?action=get", "OK 东门\r\n",
+            QStringList{"401 GET /digest/text?action=get", "200 GET /digest/text?action=get",
+                        "200 GET /digest/text?action=get"});
+        row("basic, asked again", "/basic/text", "OK 东门\r\n",
+            QStringList{"401 GET /basic/text", "200 GET /basic/text", "200 GET /basic/text"});
+        row("open", "/open/text", "OK 东门\r\n", QStringList{"200 GET /open/text", "200 GET /open/text"});
+        row("fragment is kept back", "/open/text#part", "OK 东门\r\n",
+            QStringList{"200 GET /open/text", "200 GET /open/text"});
+        row("missing", "/open/missing", "Error:服务器连接失败", QStringList{"404 GET /open/missing"});
+        row("digest without its query", "/strict/text?action=get", "Error:服务器连接失败",
+            QStringList{"401 GET /strict/text?action=get", "400 GET /strict/text?action=get"});
     }
 
     void takesAnswersOfARealServer()
@@ -119,15 +102,15 @@ private Q_SLOTS:
         QVERIFY2(server.failure().isEmpty(), qPrintable(server.failure()));
         const QString picture = m_folder.filePath("20260309070501.jpg");
         QCOMPARE(run(server.url("/digest/picture.jpg")), picture);
-        QCOMPARE(contents(picture), QByteArray("\xFF\xD8picture\0of", 12));
+        QCOMPARE(fileContents(picture), QByteArray("\xFF\xD8picture\0of", 12));
         QCOMPARE(run(server.url("/basic/picture.svg")), m_folder.filePath("20260309070501.svg"));
         const QString recording = m_folder.filePath("20260309070501.dav");
         QCOMPARE(run(server.url("/digest/recording.dav")), recording);
-        QCOMPARE(contents(recording), QByteArray(300'000, 'd'));
+        QCOMPARE(fileContents(recording), QByteArray(300'000, 'd'));
         QCOMPARE(savedFiles().size(), 3);
         // Another account, and a file that is there already: nothing of it changes.
         QCOMPARE(run(server.url("/digest/picture.jpg"), {}, "guest"), "Error:服务器连接失败");
-        QCOMPARE(contents(picture), QByteArray("\xFF\xD8picture\0of", 12));
+        QCOMPARE(fileContents(picture), QByteArray("\xFF\xD8picture\0of", 12));
     }
 
     void forbiddenCommandsAreNotSent()
@@ -163,78 +146,40 @@ private Q_SLOTS:
 
     void oddAnswersEndInATextThatSaysSo_data()
     {
-        QTest::addColumn<RawServer::Handler>("handler");
-        QTest::addColumn<QString>("result"); // that it begins with
-        const auto row = [](const QByteArray &name, const RawServer::Handler &handler,
-                            const QString &result) {
-            QTest::newRow(name.constData()) << handler << result;
+        // result: that it begins with
+        const auto row = dataTable<RawServer::Handler, QString>({"handler", "result"});
+        const auto sending = [](const QByteArray &bytes) {
+            return [bytes](const RawExchange &exchange) {
+                exchange.send(bytes);
+            };
         };
-        row(
-            "no status line",
-            [](const RawExchange &exchange) { exchange.send("hello\r\n\r\nwhat is HTTP?"); }, "Error:");
-        row(
-            "nothing", [](const RawExchange &) {}, "Error:");
-        row(
-            "endless headers",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\n");
-                const QByteArray line = "X-More: " + QByteArray(4000, 'x') + "\r\n";
-                while (exchange.send(line)) {
-                }
-            },
-            "Error:应答头过大。");
-        row(
-            "body cut short",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nbeginning");
-            },
-            "Error:");
-        row(
-            "length that lies",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: -7\r\n\r\nbody");
-            },
-            "Error:");
-        row(
-            "more than it said",
-            [](const RawExchange &exchange) {
-                exchange.send(
-                    "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 4\r\n\r\nbody and more");
-            },
-            "body");
-        row(
-            "redirection",
-            [](const RawExchange &exchange) {
-                exchange.answer("302 Found", "Location: /elsewhere\r\n", "moved");
-            },
+        const QByteArray ok = "HTTP/1.1 200 OK\r\n";
+        row("no status line", sending("hello\r\n\r\nwhat is HTTP?"), "Error:");
+        row("nothing", sending(""), "Error:");
+        row("body cut short", sending(ok + "Content-Length: 1000\r\n\r\nbeginning"), "Error:");
+        row("length that lies", sending(ok + "Content-Length: -7\r\n\r\nbody"), "Error:");
+        const QByteArray four = "Connection: close\r\nContent-Length: 4\r\n\r\n";
+        row("more than it said", sending(ok + four + "body and more"), "body");
+        row("redirection", sending("HTTP/1.1 302 Found\r\nLocation: /elsewhere\r\n" + four + "gone"),
             "Error:服务器连接失败");
-        row(
-            "large text",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 104857600\r\n\r\n");
-                const QByteArray piece(64 * 1024, 't');
-                for (int sent = 0; sent < 1600 && exchange.send(piece); ++sent) {
+        const auto repeating = [ok](const QByteArray &head, const QByteArray &piece, int pause) {
+            return [=](const RawExchange &exchange) {
+                exchange.send(ok + head);
+                while (exchange.send(piece) && (pause == 0 || exchange.pause(pause))) {
                 }
-            },
+            };
+        };
+        row("endless headers", repeating("", "X-More: " + QByteArray(4000, 'x') + "\r\n", 0),
+            "Error:应答头过大。");
+        row("large text", repeating("Content-Length: 104857600\r\n\r\n", QByteArray(64 * 1024, 't'), 0),
             "Error:应答内容过大。");
-        row(
-            "slow drip",
-            [](const RawExchange &exchange) {
-                exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n");
-                while (exchange.send("x") && exchange.pause(50)) {
-                }
-            },
-            "Error:");
+        row("slow drip", repeating("Content-Length: 1000\r\n\r\n", "x", 50), "Error:");
         for (const QByteArray &type : {QByteArray("Content-Type: image/png\r\n"), recordingType, textType}) {
-            row(
-                "becomes a page: " + type.trimmed(),
-                [type](const RawExchange &exchange) {
-                    if (exchange.number() == 1)
-                        exchange.answer("200 OK", type, "first");
-                    else
-                        exchange.answer("404 Not Found", textType, "not any more");
-                },
-                "Error:服务器连接失败 (HTTP 404)");
+            const auto handler = [type](const RawExchange &exchange) {
+                const bool isFirst = exchange.number() == 1;
+                exchange.answer(isFirst ? "200 OK" : "404 Not Found", isFirst ? type : textType, "body");
+            };
+            row("becomes a page: " + type.trimmed(), handler, "Error:服务器连接失败 (HTTP 404)");
         }
     }
 
@@ -252,11 +197,12 @@ private Q_SLOTS:
 
     void aRecordingThatBreaksOffIsKept_data()
     {
-        QTest::addColumn<bool>("staysOpen"); // the connection of the device
-        QTest::addColumn<bool>("isStopped"); // by the user, as soon as something is in the file
-        QTest::newRow("cut short") << false << false;
-        QTest::newRow("too slow") << true << false;
-        QTest::newRow("stopped") << true << true;
+        // staysOpen: the connection of the device
+        // isStopped: by the user, as soon as something is in the file
+        const auto row = dataTable<bool, bool>({"staysOpen", "isStopped"});
+        row("cut short", false, false);
+        row("too slow", true, false);
+        row("stopped", true, true);
     }
 
     void aRecordingThatBreaksOffIsKept()
@@ -270,7 +216,7 @@ private Q_SLOTS:
         });
         const QString partial = m_folder.filePath("20260309070501.partial.dav");
         m_surroundings.watch = [&] {
-            return !isStopped || contents(partial).isEmpty();
+            return !isStopped || fileContents(partial).isEmpty();
         };
         CgiLimits limits = shortLimits();
         if (isStopped)
@@ -279,7 +225,7 @@ private Q_SLOTS:
         QVERIFY2(result.startsWith("Error:") && result.endsWith("：" + partial), qPrintable(result));
         QCOMPARE(result.startsWith("Error:操作已停止。"), isStopped);
         QCOMPARE(savedFiles(), QStringList(QFileInfo(partial).fileName()));
-        QCOMPARE(contents(partial), "begin");
+        QCOMPARE(fileContents(partial), "begin");
     }
 
     void aStopEndsARequestAtOnce()
@@ -304,13 +250,12 @@ private Q_SLOTS:
     /// as it comes.
     void eachKindOfAnswerHasItsLimits_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<qsizetype>("largest"); // in bytes; 0 for any
+        // largest: in bytes; 0 for any
+        const auto row = dataTable<QByteArray, QString, qsizetype>({"type", "second", "largest"});
         constexpr qsizetype mebibyte = 1024 * 1024;
-        QTest::newRow("text") << QByteArray("text/plain") << "30000 0 0" << 8 * mebibyte;
-        QTest::newRow("picture") << QByteArray("image/png") << "10000 0 0" << 64 * mebibyte;
-        QTest::newRow("recording") << QByteArray("application/octet-stream") << "0 1024 10" << qsizetype(0);
+        row("text", QByteArray("text/plain"), "30000 0 0", 8 * mebibyte);
+        row("picture", QByteArray("image/png"), "10000 0 0", 64 * mebibyte);
+        row("recording", QByteArray("application/octet-stream"), "0 1024 10", qsizetype(0));
     }
 
     void eachKindOfAnswerHasItsLimits()
@@ -363,7 +308,7 @@ private Q_SLOTS:
         });
         const QString path = run(server.url("/cgi-bin/a"), shortLimits());
         QCOMPARE(path, m_folder.filePath("20260309070501.dav"));
-        QCOMPARE(contents(path).size(), 100000);
+        QCOMPARE(fileContents(path).size(), 100000);
         QCOMPARE(server.requests().size(), 2);
     }
 

@@ -2,9 +2,9 @@
 #include "cgi/answerkind.h"
 #include "cgi/cgiprocedure.h"
 #include "cgi/cgirequest.h"
+#include "tests/datatable.h"
 
 #include <QStringEncoder>
-#include <QTest>
 
 class TestCgiRequest : public QObject
 {
@@ -12,47 +12,35 @@ class TestCgiRequest : public QObject
 private Q_SLOTS:
     void encodesAddresses_data()
     {
-        QTest::addColumn<QString>("url");
-        QTest::addColumn<QByteArray>("encoded");
-        QTest::newRow("plain") << "http://10.0.0.2:80/cgi-bin/a.cgi?action=read&name=time"
-                               << QByteArray("http://10.0.0.2:80/cgi-bin/a.cgi?action=read&name=time");
-        QTest::newRow("index in brackets") << "http://10.0.0.2/cgi-bin/a?item[0].name=x"
-                                           << QByteArray("http://10.0.0.2/cgi-bin/a?item[0].name=x");
-        QTest::newRow("blank") << "http://10.0.0.2/cgi-bin/a b?c=d e"
-                               << QByteArray("http://10.0.0.2/cgi-bin/a%20b?c=d%20e");
-        QTest::newRow("Chinese") << QStringLiteral("http://10.0.0.2/cgi-bin/a?n=东")
-                                 << QByteArray("http://10.0.0.2/cgi-bin/a?n=%E4%B8%9C");
-        QTest::newRow("encoded already")
-            << "http://10.0.0.2/cgi-bin/a?n=50%25" << QByteArray("http://10.0.0.2/cgi-bin/a?n=50%25");
-        QTest::newRow("lone percent sign") // it says that nothing was encoded yet
-            << "http://10.0.0.2/cgi-bin/a?n=50%&m=%41"
-            << QByteArray("http://10.0.0.2/cgi-bin/a?n=50%25&m=%2541");
-        QTest::newRow("line breaks") << "http://10.0.0.2/cgi-bin/a?b=c\r\nX-Smuggled: 1"
-                                     << QByteArray("http://10.0.0.2/cgi-bin/a?b=c%0D%0AX-Smuggled:%201");
-        QTest::newRow("no address") << "http://[10.0.0.2/cgi-bin/a" << QByteArray();
+        // path: behind the address
+        const auto row = dataTable<QString, QByteArray>({"path", "encoded"});
+        row("plain", ":80/cgi-bin/a.cgi?action=read&name=time", ":80/cgi-bin/a.cgi?action=read&name=time");
+        row("index in brackets", "/cgi-bin/a?item[0].name=x", "/cgi-bin/a?item[0].name=x");
+        row("blank", "/cgi-bin/a b?c=d e", "/cgi-bin/a%20b?c=d%20e");
+        row("Chinese", "/cgi-bin/a?n=东", "/cgi-bin/a?n=%E4%B8%9C");
+        row("encoded already", "/cgi-bin/a?n=50%25", "/cgi-bin/a?n=50%25");
+        // It says that nothing was encoded yet.
+        row("lone percent sign", "/cgi-bin/a?n=50%&m=%41", "/cgi-bin/a?n=50%25&m=%2541");
+        row("line breaks", "/cgi-bin/a?b=c\r\nX-Smuggled: 1", "/cgi-bin/a?b=c%0D%0AX-Smuggled:%201");
     }
 
     void encodesAddresses()
     {
-        QFETCH(QString, url);
-        QTEST(CgiRequest(url, {}, {}).url(), "encoded");
+        QFETCH(QString, path);
+        QFETCH(QByteArray, encoded);
+        QCOMPARE(CgiRequest("http://10.0.0.2" + path, {}, {}).url(), "http://10.0.0.2" + encoded);
+        QCOMPARE(CgiRequest("http://[10.0.0.2" + path, {}, {}).url(), QByteArray());
     }
 
     void refusesWhatWouldBecomeOthersCredentials_data()
     {
-        QTest::addColumn<QString>("user");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<bool>("isRefused");
-        QTest::newRow("usual") << "admin"
-                               << "secret1" << false;
-        QTest::newRow("colon in the password") << "admin"
-                                               << "a:b@c" << false;
-        QTest::newRow("others") << QStringLiteral("管理员@site") << QStringLiteral("密码%\r\n") << false;
-        QTest::newRow("colon in the name") << "ad:min"
-                                           << "x" << true;
-        QTest::newRow("line break in the name") << "admin\"\r\nX-Smuggled: 1"
-                                                << "x" << true;
-        QTest::newRow("zero in the password") << "admin" << QStringLiteral("a") + QChar(QChar::Null) << true;
+        const auto row = dataTable<QString, QString, bool>({"user", "password", "isRefused"});
+        row("usual", "admin", "secret1", false);
+        row("colon in the password", "admin", "a:b@c", false);
+        row("others", QStringLiteral("管理员@site"), QStringLiteral("密码%\r\n"), false);
+        row("colon in the name", "ad:min", "x", true);
+        row("line break in the name", "admin\"\r\nX-Smuggled: 1", "x", true);
+        row("zero in the password", "admin", QStringLiteral("a") + QChar(QChar::Null), true);
     }
 
     void refusesWhatWouldBecomeOthersCredentials()
@@ -65,12 +53,9 @@ private Q_SLOTS:
 
     void choosesTheFileByTheHeaders_data()
     {
-        QTest::addColumn<QByteArray>("headers");
-        QTest::addColumn<AnswerKind>("kind");
-        QTest::addColumn<QString>("ending");
-        const auto row = [](const char *type, AnswerKind kind, const char *ending) {
-            QTest::newRow(type) << QByteArray("HTTP/1.1 200 OK\r\nContent-Type: ") + type + "\r\n\r\n"
-                                << kind << ending;
+        const auto addRow = dataTable<QByteArray, AnswerKind, QString>({"headers", "kind", "ending"});
+        const auto row = [&addRow](const char *type, AnswerKind kind, const char *ending) {
+            addRow(type, QByteArray("HTTP/1.1 200 OK\r\nContent-Type: ") + type + "\r\n\r\n", kind, ending);
         };
         row("text/plain;charset=utf-8", AnswerKind::Text, "");
         row("image/jpeg", AnswerKind::Picture, ".jpg");
@@ -94,13 +79,8 @@ private Q_SLOTS:
 
     void readsTextsInTheirEncoding_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QByteArray>("body");
-        QTest::addColumn<QString>("text");
+        const auto row = dataTable<QByteArray, QByteArray, QString>({"type", "body", "text"});
         const QString text = "name=北门\r\n";
-        const auto row = [](const char *name, const char *type, const QByteArray &body, const QString &read) {
-            QTest::newRow(name) << QByteArray(type) << body << read;
-        };
         const QByteArray gbk("name=\xB1\xB1\xC3\xC5\r\n");
         const QByteArray utf16 = QStringEncoder(QStringEncoder::Utf16LE).encode(text);
         row("UTF-8", "text/plain", text.toUtf8(), text);
@@ -132,27 +112,19 @@ private Q_SLOTS:
         QTEST(answerText(headers, body), "text");
     }
 
-    void namesFilesByTheClock()
-    {
-        const QDateTime time(QDate(2026, 3, 9), QTime(7, 5, 1));
-        QCOMPARE(answerFilePath(QStringLiteral("/tool"), time, QStringLiteral(".dav")),
-                 "/tool/20260309070501.dav");
-    }
-
     void loginsForbidCommands_data()
     {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("refusal");
-        QTest::newRow("unknown to the back end") << -1 << "";
-        QTest::newRow("success") << 0 << "";
-        QTest::newRow("no such account") << 1 << "账号或密码错误。";
-        QTest::newRow("wrong password") << 2 << "账号或密码错误。";
-        QTest::newRow("locked") << 3 << "设备被锁定。";
-        QTest::newRow("logged in already") << 4 << "";
-        QTest::newRow("network") << 5 << "网络连接失败。";
-        QTest::newRow("not initialised") << 7 << "设备未初始化。";
-        QTest::newRow("not supported") << 12 << "";
-        QTest::newRow("unknown error") << 99 << "未知错误。";
+        const auto row = dataTable<int, QString>({"code", "refusal"});
+        row("unknown to the back end", -1, "");
+        row("success", 0, "");
+        row("no such account", 1, "账号或密码错误。");
+        row("wrong password", 2, "账号或密码错误。");
+        row("locked", 3, "设备被锁定。");
+        row("logged in already", 4, "");
+        row("network", 5, "网络连接失败。");
+        row("not initialised", 7, "设备未初始化。");
+        row("not supported", 12, "");
+        row("unknown error", 99, "未知错误。");
     }
 
     void loginsForbidCommands()

@@ -1,10 +1,10 @@
 #include "device/addressplan.h"
 #include "device/addresstools.h"
 #include "device/deviceselection.h"
+#include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 
 #include <QAbstractItemModelTester>
-#include <QTest>
 
 class TestAddressPlan : public QObject
 {
@@ -25,17 +25,15 @@ private:
 private Q_SLOTS:
     void givesAndMarksAddresses_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<bool>("same");
-        QTest::addColumn<QString>("mask");
-        QTest::addColumn<QString>("addresses");
-        QTest::addColumn<QList<int>>("marks"); // of the first two; the third device waits for its password
+        // marks: of the first two; the third device waits for its password
+        const auto addRow = dataTable<QString, bool, QString, QString, QList<int>>(
+            {"start", "same", "mask", "addresses", "marks"});
         constexpr int fine = AddressPlan::Fine;
         constexpr int taken = AddressPlan::TakenByOther;
         constexpr int noDevice = AddressPlan::NoDeviceAddress;
-        const auto row = [](const char *name, const QString &start, const QString &mask,
-                            const QString &addresses, const QList<int> &marks) {
-            QTest::newRow(name) << start << (addresses.count(start) == 3) << mask << addresses << marks;
+        const auto row = [&addRow](const char *name, const QString &start, const QString &mask,
+                                   const QString &addresses, const QList<int> &marks) {
+            addRow(name, start, (addresses.count(start) == 3), mask, addresses, marks);
         };
         const QString mask = "255.255.255.0";
         row("over an octet", "192.168.1.254", mask, "192.168.1.254 192.168.1.255 192.168.2.0",
@@ -107,14 +105,8 @@ private Q_SLOTS:
 
     void copiesEditsIntoTheGateway_data()
     {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<QString>("gateway");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, const QString &before, const QString &after,
-                            const QString &gateway, const QString &expected) {
-            QTest::newRow(name) << before << after << gateway << expected;
-        };
+        const auto row =
+            dataTable<QString, QString, QString, QString>({"before", "after", "gateway", "expected"});
         row("first octet", "", "192", "", "192");
         row("last octet", "192.168.1.", "192.168.1.6", "192.168.1.", "192.168.1.1");
         row("third octet, the gateway's own end stays", "192.168.1.64", "192.168.2.64", "192.168.1.254",
@@ -135,11 +127,11 @@ private Q_SLOTS:
 
     void knowsMasks_data()
     {
-        QTest::addColumn<bool>("legal");
+        const auto row = dataTable<bool>({"legal"});
         for (const char *mask : {"255.255.255.0", "128.0.0.0", "255.255.255.254", "255.255.252.0"})
-            QTest::newRow(mask) << true;
+            row(mask, true);
         for (const char *mask : {"0.0.0.0", "255.255.255.255", "255.0.255.0", "255.255.255.1", "24", ""})
-            QTest::newRow(mask) << false;
+            row(mask, false);
     }
 
     void knowsMasks()
@@ -149,18 +141,16 @@ private Q_SLOTS:
 
     void namesWebPages_data()
     {
-        QTest::addColumn<QString>("ipport");
-        QTest::addColumn<int>("port");
-        QTest::addColumn<QString>("page");
-        QTest::newRow("plain") << "192.168.1.9:37777" << 80 << "http://192.168.1.9";
-        QTest::newRow("another port") << "127.0.0.1:20000" << 20001 << "http://127.0.0.1:20001";
-        QTest::newRow("encrypted") << "192.168.1.9:37777" << 443 << "https://192.168.1.9";
-        QTest::newRow("encrypted on another port") << "127.0.0.1:20000" << 8443 << "https://127.0.0.1:8443";
-        QTest::newRow("IPv6") << "[fe80::17]:37777" << 8080 << "http://[fe80::17]:8080";
-        QTest::newRow("no port") << "192.168.1.9:37777" << 0 << "";
-        QTest::newRow("a name") << "elsewhere.example:37777" << 80 << "";
-        QTest::newRow("markup") << "[::1]/<b>:37777" << 80 << "";
-        QTest::newRow("nothing") << "" << 80 << "";
+        const auto row = dataTable<QString, int, QString>({"ipport", "port", "page"});
+        row("plain", "192.168.1.9:37777", 80, "http://192.168.1.9");
+        row("another port", "127.0.0.1:20000", 20001, "http://127.0.0.1:20001");
+        row("encrypted", "192.168.1.9:37777", 443, "https://192.168.1.9");
+        row("encrypted on another port", "127.0.0.1:20000", 8443, "https://127.0.0.1:8443");
+        row("IPv6", "[fe80::17]:37777", 8080, "http://[fe80::17]:8080");
+        row("no port", "192.168.1.9:37777", 0, "");
+        row("a name", "elsewhere.example:37777", 80, "");
+        row("markup", "[::1]/<b>:37777", 80, "");
+        row("nothing", "", 80, "");
     }
 
     void namesWebPages()

@@ -1,9 +1,9 @@
 #include "device/batchreport.h"
 #include "device/busyreport.h"
+#include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -19,15 +19,15 @@ class TestBusyState : public QObject
 private Q_SLOTS:
     void aRefusalNamesTheWorksInTheWay_data()
     {
-        QTest::addColumn<BusyState::Action>("action");
-        QTest::addColumn<QStringList>("named");      // while one work needs rows, the other the program
-        QTest::addColumn<QStringList>("namedLater"); // when only the latter is left
-        QTest::addColumn<bool>("waitsForUpgrades");
-        QTest::newRow("search") << BusyState::Search << copying << nothing << true;
-        QTest::newRow("delete") << BusyState::Delete << copying << nothing << false;
-        QTest::newRow("change an address") << BusyState::ChangeAddress << copying << nothing << false;
-        QTest::newRow("close") << BusyState::Close << both << both.sliced(1) << true;
-        QTest::newRow("restart") << BusyState::Restart << both << both.sliced(1) << true;
+        // named: while one work needs rows, the other the program
+        // namedLater: when only the latter is left
+        const auto row = dataTable<BusyState::Action, QStringList, QStringList, bool>(
+            {"action", "named", "namedLater", "waitsForUpgrades"});
+        row("search", BusyState::Search, copying, nothing, true);
+        row("delete", BusyState::Delete, copying, nothing, false);
+        row("change an address", BusyState::ChangeAddress, copying, nothing, false);
+        row("close", BusyState::Close, both, both.sliced(1), true);
+        row("restart", BusyState::Restart, both, both.sliced(1), true);
     }
     void aRefusalNamesTheWorksInTheWay()
     {

@@ -3,8 +3,7 @@
 #include "device/devicebase.h"
 #include "device/devicefactory.h"
 #include "device/encodeform.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 namespace {
 
@@ -121,17 +120,19 @@ private Q_SLOTS:
 
     void badValuesLeaveAWholeForm_data()
     {
-        QTest::addColumn<QVariantMap>("values");
-        QTest::newRow("nothing") << QVariantMap();
-        QTest::newRow("empty lists") << QVariantMap{{"channelNum", QStringList()},
-                                                    {"encodeMode", QStringList()},
-                                                    {"resolution", QStringList()},
-                                                    {"bitStream", QStringList()}};
-        QTest::newRow("a list without a value") << QVariantMap{{"encodeMode", QStringList("H.265")}};
-        QTest::newRow("other kinds") << QVariantMap{
-            {"channelNum", 3},        {"encodeMode", QVariantMap{{"a", 1}}},
-            {"curBitStream", "none"}, {"frameRateMax", "many"},
-            {"picture", 7},           {"curSwitchMode", QStringList()}};
+        const auto row = dataTable<QVariantMap>({"values"});
+        row("nothing", QVariantMap());
+        row("empty lists", QVariantMap{{"channelNum", QStringList()},
+                                       {"encodeMode", QStringList()},
+                                       {"resolution", QStringList()},
+                                       {"bitStream", QStringList()}});
+        row("a list without a value", QVariantMap{{"encodeMode", QStringList("H.265")}});
+        row("other kinds", QVariantMap{{"channelNum", 3},
+                                       {"encodeMode", QVariantMap{{"a", 1}}},
+                                       {"curBitStream", "none"},
+                                       {"frameRateMax", "many"},
+                                       {"picture", 7},
+                                       {"curSwitchMode", QStringList()}});
     }
     void badValuesLeaveAWholeForm()
     {
@@ -162,16 +163,14 @@ private Q_SLOTS:
 
     void shutters_data()
     {
-        QTest::addColumn<double>("shortest");
-        QTest::addColumn<double>("longest");
-        QTest::addColumn<int>("place");
-        QTest::newRow("shortest") << 0.01 << 0.01 << 0;
-        QTest::newRow("as devices keep it")
-            << static_cast<double>(1000.0F / 30000) << static_cast<double>(1000.0F / 30000) << 1;
-        QTest::newRow("longest") << 40.0 << 40.0 << 9;
-        QTest::newRow("a range") << 0.0 << 40.0 << -1;
-        QTest::newRow("a time that is not listed") << 25.0 << 25.0 << -1;
-        QTest::newRow("nothing") << 0.0 << 0.0 << -1;
+        const auto row = dataTable<double, double, int>({"shortest", "longest", "place"});
+        row("shortest", 0.01, 0.01, 0);
+        row("as devices keep it", static_cast<double>(1000.0F / 30000), static_cast<double>(1000.0F / 30000),
+            1);
+        row("longest", 40.0, 40.0, 9);
+        row("a range", 0.0, 40.0, -1);
+        row("a time that is not listed", 25.0, 25.0, -1);
+        row("nothing", 0.0, 0.0, -1);
     }
     void shutters()
     {
@@ -197,14 +196,6 @@ private Q_SLOTS:
         QCOMPARE(EncodeForm::failureName(static_cast<int>(0x80000013)), "设备不支持此操作");
         QCOMPARE(EncodeForm::failureName(static_cast<int>(0x80000017)), "设备拒绝了此操作（错误 80000017）");
         QCOMPARE(EncodeForm::failureName(14), "设备正在升级");
-    }
-
-    void shutterTimesArePartsOfASecond()
-    {
-        const CameraForm form;
-        QCOMPARE(form.shutterTimes().size(), 10);
-        QCOMPARE(form.shutterMilliseconds(form.shutterTimes().indexOf("1/250")), 4.0);
-        QCOMPARE(form.shutterMilliseconds(10), 0.0);
     }
 };
 

@@ -1,11 +1,11 @@
 #include "device/devicefactory.h"
 #include "device/devicehik.h"
 #include "device/deviceol.h"
+#include "tests/datatable.h"
 
 #include <QJSEngine>
 #include <QMetaMethod>
 #include <QSignalSpy>
-#include <QTest>
 #include <QThread>
 
 #include <array>
@@ -23,6 +23,12 @@ int slotOf(Function function)
     static_assert(sizeof(function) == sizeof(words));
     std::memcpy(words.data(), &function, sizeof(words));
     return static_cast<int>((words[0] - 1) / std::ptrdiff_t(sizeof(void *)));
+}
+
+template<typename... Functions>
+auto slotsOf(Functions... functions)
+{
+    return std::array{slotOf(functions)...};
 }
 
 /// A back end that notes what it was called with.
@@ -86,45 +92,22 @@ private Q_SLOTS:
     void theOperationsOfABackEndKeepTheirSlots()
     {
         constexpr int slotsOfQObject = 12;
-        const std::array slots = {
-            slotOf(&CDeviceBase::startSearch),
-            slotOf(&CDeviceBase::setSearchByIPInfo),
-            slotOf(&CDeviceBase::filterData),
-            slotOf(&CDeviceBase::filterDataIPV6),
-            slotOf(&CDeviceBase::modifyIP),
-            slotOf(&CDeviceBase::setDefaultAccount),
-            slotOf(&CDeviceBase::setInitAccount),
-            slotOf(&CDeviceBase::setDeleteDevice),
-            slotOf(&CDeviceBase::setBatchDeleteDevice),
-            slotOf(&CDeviceBase::getDeviceInfo),
-            slotOf(&CDeviceBase::getDeviceDetail),
-            slotOf(&CDeviceBase::getDeviceDetailByAddress),
-            slotOf(&CDeviceBase::getLoginDevice),
-            slotOf(&CDeviceBase::setUpgradeFilePath),
-            slotOf(&CDeviceBase::startUpgrade),
-            slotOf(&CDeviceBase::startUpgradeByDocument),
-            slotOf(&CDeviceBase::stopUpgrade),
-            slotOf(&CDeviceBase::importUpgradeDocument),
-            slotOf(&CDeviceBase::findAndLoginDevice),
-            slotOf(&CDeviceBase::updataDeviceInfo),
-            slotOf(&CDeviceBase::getCameraConfig),
-            slotOf(&CDeviceBase::getEncodeCaps),
-            slotOf(&CDeviceBase::getConfigData),
-            slotOf(&CDeviceBase::setConfigData),
-            slotOf(&CDeviceBase::getDeviceChannelData),
-            slotOf(&CDeviceBase::confirmConfigData),
-            slotOf(&CDeviceBase::getVideoIn),
-            slotOf(&CDeviceBase::getVideoInByChangeChannel),
-            slotOf(&CDeviceBase::copyConfigToDevice),
-            slotOf(&CDeviceBase::getEncodeInfo),
-            slotOf(&CDeviceBase::unusedOperation),
-            slotOf(&CDeviceBase::systemConfig),
-            slotOf(&CDeviceBase::snapPictureToFile),
-            slotOf(&CDeviceBase::hasDeviceUpgrading),
-            slotOf(&CDeviceBase::importDevice),
-            slotOf(&CDeviceBase::exportDevice),
-            slotOf(&CDeviceBase::unusedListOperation),
-        };
+        const std::array slots = slotsOf(
+            &CDeviceBase::startSearch, &CDeviceBase::setSearchByIPInfo, &CDeviceBase::filterData,
+            &CDeviceBase::filterDataIPV6, &CDeviceBase::modifyIP, &CDeviceBase::setDefaultAccount,
+            &CDeviceBase::setInitAccount, &CDeviceBase::setDeleteDevice, &CDeviceBase::setBatchDeleteDevice,
+            &CDeviceBase::getDeviceInfo, &CDeviceBase::getDeviceDetail,
+            &CDeviceBase::getDeviceDetailByAddress, &CDeviceBase::getLoginDevice,
+            &CDeviceBase::setUpgradeFilePath, &CDeviceBase::startUpgrade,
+            &CDeviceBase::startUpgradeByDocument, &CDeviceBase::stopUpgrade,
+            &CDeviceBase::importUpgradeDocument, &CDeviceBase::findAndLoginDevice,
+            &CDeviceBase::updataDeviceInfo, &CDeviceBase::getCameraConfig, &CDeviceBase::getEncodeCaps,
+            &CDeviceBase::getConfigData, &CDeviceBase::setConfigData, &CDeviceBase::getDeviceChannelData,
+            &CDeviceBase::confirmConfigData, &CDeviceBase::getVideoIn,
+            &CDeviceBase::getVideoInByChangeChannel, &CDeviceBase::copyConfigToDevice,
+            &CDeviceBase::getEncodeInfo, &CDeviceBase::unusedOperation, &CDeviceBase::systemConfig,
+            &CDeviceBase::snapPictureToFile, &CDeviceBase::hasDeviceUpgrading, &CDeviceBase::importDevice,
+            &CDeviceBase::exportDevice, &CDeviceBase::unusedListOperation);
         for (std::size_t place = 0; place < slots.size(); ++place)
             QCOMPARE(slots[place], slotsOfQObject + static_cast<int>(place));
     }
@@ -224,9 +207,9 @@ private Q_SLOTS:
 
     void anUnknownOrEmptyFamilyGivesEmptyValues_data()
     {
-        QTest::addColumn<QString>("family");
+        const auto row = dataTable<QString>({"family"});
         for (const char *family : {"hik", "ol", "nobody", ""})
-            QTest::newRow(family) << QString(family);
+            row(family, QString(family));
     }
 
     /// Every operation that takes a family, with arguments of the right types, however many.

@@ -1,40 +1,24 @@
 #include "device/devicefilter.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 class TestDeviceFilter : public QObject
 {
     Q_OBJECT
 private:
-    const QVariantList m_rows = {
-        QJsonObject{{"state", true},
-                    {"type", "IPC"},
-                    {"model", "B-1"},
-                    {"ipport", "10.0.0.1:37777"},
-                    {"mac", "02:aa"},
-                    {"vision", "v3"},
-                    {"name", "大厅"},
-                    {"result", "hidden"}},
-        QJsonObject{{"state", false},
-                    {"type", "NVR"},
-                    {"model", "B-2"},
-                    {"ipport", "10.0.0.2:37777"},
-                    {"mac", "02:bb"},
-                    {"vision", "v4"},
-                    {"name", "Yard 1"}},
-        QJsonObject{{"state", true}, {"type", "SD"}, {"model", "B-3"}, {"ipport", "10.0.0.1:37777"}},
-    };
+    static QJsonObject row(bool state, const QString &type, const QString &model, const QString &ipport,
+                           const QString &mac = {}, const QString &vision = {}, const QString &name = {})
+    {
+        return {{"state", state}, {"type", type},     {"model", model}, {"ipport", ipport},
+                {"mac", mac},     {"vision", vision}, {"name", name},   {"result", "hidden"}};
+    }
+    const QVariantList m_rows = {row(true, "IPC", "B-1", "10.0.0.1:37777", "02:aa", "v3", "大厅"),
+                                 row(false, "NVR", "B-2", "10.0.0.2:37777", "02:bb", "v4", "Yard 1"),
+                                 row(true, "SD", "B-3", "10.0.0.1:37777")};
 
 private Q_SLOTS:
     void keepsTheRowsOfItsWord_data()
     {
-        QTest::addColumn<QString>("filtertype");
-        QTest::addColumn<QString>("searchtext");
-        QTest::addColumn<QList<int>>("kept");
-        const auto row = [](const char *name, const QString &filtertype, const QString &searchtext,
-                            const QList<int> &kept) {
-            QTest::newRow(name) << filtertype << searchtext << kept;
-        };
+        const auto row = dataTable<QString, QString, QList<int>>({"filtertype", "searchtext", "kept"});
         row("nofilter", "nofilter", "", QList{0, 1, 2});
         row("removeall", "removeall", "", QList<int>());
         row("removeinit", "removeinit", "", QList{1});

@@ -4,10 +4,10 @@
 #include "device/ipv4address.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "tests/datatable.h"
 #include "tests/device/searchanswers.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QThread>
 
 using namespace std::chrono_literals;
@@ -246,9 +246,9 @@ private Q_SLOTS:
 
     void closingInTheMiddleEndsCleanly_data()
     {
-        QTest::addColumn<bool>("local");
-        QTest::newRow("local search") << true;
-        QTest::newRow("range search") << false;
+        const auto row = dataTable<bool>({"local"});
+        row("local search", true);
+        row("range search", false);
     }
 
     void closingInTheMiddleEndsCleanly()

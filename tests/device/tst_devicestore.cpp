@@ -1,9 +1,8 @@
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "sdk/demo/steppableclock.h"
+#include "tests/datatable.h"
 #include "tests/device/searchanswers.h"
-
-#include <QTest>
 
 #include <array>
 #include <atomic>
@@ -42,25 +41,23 @@ private Q_SLOTS:
     void anIPv4RowHoldsEveryKey()
     {
         QVERIFY(m_store->addAnswer(searchAnswer({})).added);
-        const QJsonObject expected = {
-            {"checked", false},
-            {"num", ""},
-            {"state", true},
-            {"name", "东门"},
-            {"type", "IPC"},
-            {"model", "B-2230-IR"},
-            {"ipport", "192.168.1.64:37777"},
-            {"mac", "02:1a:c5:00:40:17"},
-            {"vision", "v2.840.1"},
-            {"res", -1},
-            {"operate", ""},
-            {"filepath", ""},
-            {"upgrade", 0},
-            {"upgraderes", -1},
-            {"url", ""},
-            {"result", ""},
-            {"httpport", 80},
-        };
+        const QJsonObject expected = {{"checked", false},
+                                      {"num", ""},
+                                      {"state", true},
+                                      {"name", "东门"},
+                                      {"type", "IPC"},
+                                      {"model", "B-2230-IR"},
+                                      {"ipport", "192.168.1.64:37777"},
+                                      {"mac", "02:1a:c5:00:40:17"},
+                                      {"vision", "v2.840.1"},
+                                      {"res", -1},
+                                      {"operate", ""},
+                                      {"filepath", ""},
+                                      {"upgrade", 0},
+                                      {"upgraderes", -1},
+                                      {"url", ""},
+                                      {"result", ""},
+                                      {"httpport", 80}};
         QCOMPARE(m_store->ipv4Rows().value(0).toJsonObject(), expected);
     }
 
@@ -77,13 +74,11 @@ private Q_SLOTS:
 
     void anAnswerGoesToItsList_data()
     {
-        QTest::addColumn<int>("ipVersion");
-        QTest::addColumn<QByteArray>("address");
-        QTest::addColumn<bool>("ipv4");
-        QTest::newRow("IPv4") << 4 << QByteArray("192.168.1.64") << true;
-        QTest::newRow("unset IPv4") << 4 << QByteArray("0.0.0.0") << false;
-        QTest::newRow("IPv6") << 6 << QByteArray("fe80::1") << false;
-        QTest::newRow("no version at all") << 0 << QByteArray("192.168.1.64") << false;
+        const auto row = dataTable<int, QByteArray, bool>({"ipVersion", "address", "ipv4"});
+        row("IPv4", 4, QByteArray("192.168.1.64"), true);
+        row("unset IPv4", 4, QByteArray("0.0.0.0"), false);
+        row("IPv6", 6, QByteArray("fe80::1"), false);
+        row("no version at all", 0, QByteArray("192.168.1.64"), false);
     }
 
     void anAnswerGoesToItsList()
@@ -99,13 +94,12 @@ private Q_SLOTS:
 
     void stateComesFromTheLowTwoBits_data()
     {
-        QTest::addColumn<int>("byte");
-        QTest::addColumn<bool>("initialised");
-        QTest::newRow("not reported") << 0 << true;
-        QTest::newRow("uninitialised") << 1 << false;
-        QTest::newRow("initialised") << 2 << true;
-        QTest::newRow("both bits") << 3 << true;
-        QTest::newRow("uninitialised, other bits set") << 0xFD << false;
+        const auto row = dataTable<int, bool>({"byte", "initialised"});
+        row("not reported", 0, true);
+        row("uninitialised", 1, false);
+        row("initialised", 2, true);
+        row("both bits", 3, true);
+        row("uninitialised, other bits set", 0xFD, false);
     }
 
     void stateComesFromTheLowTwoBits()

@@ -1,9 +1,9 @@
 #include "device/devicetablemodel.h"
+#include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QTest>
 
 class TestDeviceTableModel : public QObject
 {
@@ -54,16 +54,14 @@ private Q_SLOTS:
 
     void showsTheRowsThatItsFiltersLeave_data()
     {
-        QTest::addColumn<bool>("initialised");
-        QTest::addColumn<bool>("uninitialised");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("identities");
-        QTest::newRow("all") << true << true << "" << QStringList{"m0", "m1", "m2", "m3", "m4"};
-        QTest::newRow("initialised") << true << false << "" << QStringList{"m0", "m2", "m3", "m4"};
-        QTest::newRow("uninitialised") << false << true << "" << QStringList{"m1"};
-        QTest::newRow("neither") << false << false << "" << QStringList();
-        QTest::newRow("text") << true << true << "cam 1" << QStringList{"m0", "m2"};
-        QTest::newRow("text among the initialised") << true << false << "168" << QStringList{"m0"};
+        const auto row = dataTable<bool, bool, QString, QStringList>(
+            {"initialised", "uninitialised", "text", "identities"});
+        row("all", true, true, "", QStringList{"m0", "m1", "m2", "m3", "m4"});
+        row("initialised", true, false, "", QStringList{"m0", "m2", "m3", "m4"});
+        row("uninitialised", false, true, "", QStringList{"m1"});
+        row("neither", false, false, "", QStringList());
+        row("text", true, true, "cam 1", QStringList{"m0", "m2"});
+        row("text among the initialised", true, false, "168", QStringList{"m0"});
     }
 
     void showsTheRowsThatItsFiltersLeave()
@@ -120,14 +118,12 @@ private Q_SLOTS:
 
     void sortsByValue_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QStringList>("ascending");
-        QTest::addColumn<QStringList>("descending");
+        const auto row = dataTable<QString, QStringList, QStringList>({"key", "ascending", "descending"});
         // Rows of one value keep the order of the list in both directions.
-        QTest::newRow("flags") << "state" << QStringList{"m1", "m0", "m2", "m3", "m4"}
-                               << QStringList{"m0", "m2", "m3", "m4", "m1"};
-        QTest::newRow("texts") << "type" << QStringList{"m1", "m2", "m3", "m4", "m0"}
-                               << QStringList{"m0", "m1", "m2", "m3", "m4"};
+        row("flags", "state", QStringList{"m1", "m0", "m2", "m3", "m4"},
+            QStringList{"m0", "m2", "m3", "m4", "m1"});
+        row("texts", "type", QStringList{"m1", "m2", "m3", "m4", "m0"},
+            QStringList{"m0", "m1", "m2", "m3", "m4"});
     }
 
     void sortsByValue()
@@ -146,23 +142,19 @@ private Q_SLOTS:
 
     void ordersTheValuesOfAColumn_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QStringList>("ordered");
-        QTest::newRow("MACs") << "mac"
-                              << QStringList{"02:08:9c:00:00:01", "02:0B:00:00:00:00", "02:2d:00:00:00:00",
-                                             "02:9c:00:00:00:00", "02:aa:00:00:00:00", "unknown"};
-        QTest::newRow("addresses") << "ipport" << QStringList{"9.0.0.1:80",        "10.0.0.1:80",
-                                                              "10.0.0.1:37777",    "[::1]:80",
-                                                              "[::10.0.0.1]:80",   "[::1:0:0:1]:80",
-                                                              "[fe80::9%eth0]:80", "[fe80::10]:80",
-                                                              "[fe80::10]:443",    "[fe80:0:0:0:1::]:80",
-                                                              "[fe80:::1]:80",     "camera:80"};
-        QTest::newRow("versions") << "vision" << QStringList{"",           "v1.9.10",         "v2.40",
-                                                             "v2.840.0.1", "v2.840-0000.2.R", "v2.840.0.10",
-                                                             "v10.1"};
-        QTest::newRow("numbers in names") << "name" << QStringList{"", "cam 1", "Cam 2", "cam 10", "Door"};
-        QTest::newRow("files") << "filepath" << QStringList{"/a/fw2.bin", "/a/fw10.bin", "/b/fw1.bin"};
-        QTest::newRow("results") << "upgraderes" << QStringList{"-1", "0", "2", "10"};
+        const auto row = dataTable<QString, QStringList>({"key", "ordered"});
+        row("MACs", "mac",
+            QStringList{"02:08:9c:00:00:01", "02:0B:00:00:00:00", "02:2d:00:00:00:00", "02:9c:00:00:00:00",
+                        "02:aa:00:00:00:00", "unknown"});
+        row("addresses", "ipport",
+            QStringList{"9.0.0.1:80", "10.0.0.1:80", "10.0.0.1:37777", "[::1]:80", "[::10.0.0.1]:80",
+                        "[::1:0:0:1]:80", "[fe80::9%eth0]:80", "[fe80::10]:80", "[fe80::10]:443",
+                        "[fe80:0:0:0:1::]:80", "[fe80:::1]:80", "camera:80"});
+        row("versions", "vision",
+            QStringList{"", "v1.9.10", "v2.40", "v2.840.0.1", "v2.840-0000.2.R", "v2.840.0.10", "v10.1"});
+        row("numbers in names", "name", QStringList{"", "cam 1", "Cam 2", "cam 10", "Door"});
+        row("files", "filepath", QStringList{"/a/fw2.bin", "/a/fw10.bin", "/b/fw1.bin"});
+        row("results", "upgraderes", QStringList{"-1", "0", "2", "10"});
     }
 
     void ordersTheValuesOfAColumn()

@@ -1,8 +1,8 @@
 #include "device/loginresult.h"
 #include "device/passwordstrength.h"
+#include "tests/datatable.h"
 
 #include <QMap>
-#include <QTest>
 
 class TestLoginResult : public QObject
 {
@@ -10,11 +10,7 @@ class TestLoginResult : public QObject
 private Q_SLOTS:
     void mapsErrorsOfTheLibrary_data()
     {
-        QTest::addColumn<quint32>("error");
-        QTest::addColumn<int>("result");
-        const auto row = [](quint32 error, int result) {
-            QTest::addRow("%08x", error) << error << result;
-        };
+        const auto row = namedTable<quint32, int>({"error", "result"});
         row(0x80000003, 6);
         row(0x80000064, 2);
         row(0x80000096, 2);
@@ -53,11 +49,7 @@ private Q_SLOTS:
 
     void gradesPasswords_data()
     {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<int>("grade");
-        const auto row = [](const char *password, int grade) {
-            QTest::newRow(password) << QString(password) << grade;
-        };
+        const auto row = namedTable<QString, int>({"password", "grade"});
         row("", 0);
         row("_", 0);
         row("abcdefgh", 1);

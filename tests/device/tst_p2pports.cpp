@@ -1,10 +1,10 @@
 #include "device/devicefactory.h"
 #include "device/p2pports.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -64,32 +64,27 @@ class TestP2PPorts : public QObject
 private Q_SLOTS:
     void readsItsSettings_data()
     {
-        QTest::addColumn<QByteArray>("file"); // null: there is none
-        QTest::addColumn<QString>("started");
-        QTest::addColumn<QString>("fault"); // the setting that is reported
-        QTest::newRow("no file")
-            << QByteArray()
-            << "init tunnel.kelda.example 7885 relay.kelda.example 443 tamsvelorink kelda "
-               "https://api.kelda.example video.kelda.example 8300"
-            << QString();
-        QTest::newRow("every key from the file")
-            << QByteArray("[p2p]\ntunnel=t.example\ntunnel_port=1\ntrans=r.example\ntrans_port=2\ndomain=d\n"
-                          "saas=https://s.example\nmnserver=m.example\nmnport=3\n")
-            << "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3" << QString();
+        // file: null: there is none
+        // fault: the setting that is reported
+        const auto row = dataTable<QByteArray, QString, QString>({"file", "started", "fault"});
+        row("no file", QByteArray(),
+            "init tunnel.kelda.example 7885 relay.kelda.example 443 tamsvelorink kelda "
+            "https://api.kelda.example video.kelda.example 8300",
+            QString());
+        row("every key from the file",
+            QByteArray("[p2p]\ntunnel=t.example\ntunnel_port=1\ntrans=r.example\ntrans_port=2\ndomain=d\n"
+                       "saas=https://s.example\nmnserver=m.example\nmnport=3\n"),
+            "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3", QString());
         const QByteArray whole = "[p2p]\ntunnel=t\ntunnel_port=1\ntrans=r\ntrans_port=2\ndomain=d\nsaas=s\n"
                                  "mnserver=m\nmnport=3\n";
-        QTest::newRow("no host") << QByteArray(whole).replace("trans=r", "trans= ")
-                                 << "init t 1  2 tamsvelorink d s m 3"
-                                 << "p2p/trans";
-        QTest::newRow("missing keys")
-            << QByteArray("[p2p]\ntunnel=t\ntunnel_port=1\n") << "init t 1  0 tamsvelorink    0"
-            << "p2p/trans";
-        QTest::newRow("no number") << QByteArray(whole).replace("port=1", "port=ninety")
-                                   << "init t 0 r 2 tamsvelorink d s m 3"
-                                   << "p2p/tunnel_port";
-        QTest::newRow("no port") << QByteArray(whole).replace("port=3", "port=70000")
-                                 << "init t 1 r 2 tamsvelorink d s m 70000"
-                                 << "p2p/mnport";
+        row("no host", QByteArray(whole).replace("trans=r", "trans= "), "init t 1  2 tamsvelorink d s m 3",
+            "p2p/trans");
+        row("missing keys", QByteArray("[p2p]\ntunnel=t\ntunnel_port=1\n"), "init t 1  0 tamsvelorink    0",
+            "p2p/trans");
+        row("no number", QByteArray(whole).replace("port=1", "port=ninety"),
+            "init t 0 r 2 tamsvelorink d s m 3", "p2p/tunnel_port");
+        row("no port", QByteArray(whole).replace("port=3", "port=70000"),
+            "init t 1 r 2 tamsvelorink d s m 70000", "p2p/mnport");
     }
 
     void readsItsSettings()
@@ -98,11 +93,7 @@ private Q_SLOTS:
         QFETCH(QString, fault);
         const QTemporaryDir directory;
         QDir::setCurrent(directory.path());
-        if (!file.isNull()) {
-            QFile written("p2p.ini");
-            QVERIFY(written.open(QFile::WriteOnly));
-            written.write(file);
-        }
+        QVERIFY(file.isNull() || writeFile("p2p.ini", file));
         const auto agent = std::make_shared<NotingAgent>();
         {
             CDeviceFactory factory(CDeviceFactory::BackEndCreators(),
@@ -117,21 +108,17 @@ private Q_SLOTS:
 
     void handsOutPorts_data()
     {
-        QTest::addColumn<QList<int>>("existing");
-        QTest::addColumn<int>("wish");
-        QTest::addColumn<int>("port");
-        QTest::addColumn<QString>("asked");
-        QTest::newRow("none there") << QList<int>() << 0 << 50001 << "add ID 37777 0 0";
-        QTest::newRow("none there, wished") << QList<int>() << 37777 << 50001 << "add ID 37777 0 0";
-        QTest::newRow("a wish for another port") << QList{50005} << 37778 << 0 << QString();
-        QTest::newRow("one there") << QList{50005} << 0 << 50005 << QString();
-        QTest::newRow("one there, the device's wished")
-            << QList{50005} << 37777 << 37777 << "add ID 37777 37777 0";
-        QTest::newRow("the device's there") << QList{37777} << 0 << 50001 << "add ID 37777 0 0";
-        QTest::newRow("the device's there and wished") << QList{37777} << 37777 << 37777 << QString();
-        QTest::newRow("more there") << QList{37777, 50006, 50007} << 0 << 50006 << QString();
-        QTest::newRow("more there, all the device's") << QList{37777, 37777} << 0 << 0 << QString();
-        QTest::newRow("more than fit") << QList<int>(12, 50008) << 0 << 50008 << QString();
+        const auto row = dataTable<QList<int>, int, int, QString>({"existing", "wish", "port", "asked"});
+        row("none there", QList<int>(), 0, 50001, "add ID 37777 0 0");
+        row("none there, wished", QList<int>(), 37777, 50001, "add ID 37777 0 0");
+        row("a wish for another port", QList{50005}, 37778, 0, QString());
+        row("one there", QList{50005}, 0, 50005, QString());
+        row("one there, the device's wished", QList{50005}, 37777, 37777, "add ID 37777 37777 0");
+        row("the device's there", QList{37777}, 0, 50001, "add ID 37777 0 0");
+        row("the device's there and wished", QList{37777}, 37777, 37777, QString());
+        row("more there", QList{37777, 50006, 50007}, 0, 50006, QString());
+        row("more there, all the device's", QList{37777, 37777}, 0, 0, QString());
+        row("more than fit", QList<int>(12, 50008), 0, 50008, QString());
     }
 
     void handsOutPorts()

@@ -2,8 +2,7 @@
 #include "device/ipv4address.h"
 #include "device/searchrange.h"
 #include "sdk/blocktext.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 class TestSearchRange : public QObject
 {
@@ -11,16 +10,16 @@ class TestSearchRange : public QObject
 private Q_SLOTS:
     void readsAddresses_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("number"); // -1: no address
-        QTest::newRow("lowest") << "0.0.0.0" << 0.0;
-        QTest::newRow("highest") << "255.255.255.255" << 4294967295.0;
-        QTest::newRow("octets in order") << "1.2.3.4" << 16909060.0;
-        QTest::newRow("leading zeros") << "010.001.000.009" << 167837705.0;
+        // number: -1: no address
+        const auto row = dataTable<QString, double>({"text", "number"});
+        row("lowest", "0.0.0.0", 0.0);
+        row("highest", "255.255.255.255", 4294967295.0);
+        row("octets in order", "1.2.3.4", 16909060.0);
+        row("leading zeros", "010.001.000.009", 167837705.0);
         for (const char *text :
              {"", "1.2.3", "1.2.3.4.5", "1.2.3.", ".1.2.3", "256.1.1.1", "1.2.3.4 ", "+1.2.3.4", "1.2.3.-4",
               "1.2.3.0x4", "1.2.3.0004", "a.b.c.d", "１.2.3.4", "fe80::1"})
-            QTest::newRow(qPrintable(QString("no address: %1").arg(text))) << QString(text) << -1.0;
+            row(qPrintable(QString("no address: %1").arg(text)), QString(text), -1.0);
     }
 
     void readsAddresses()
@@ -34,12 +33,7 @@ private Q_SLOTS:
 
     void checksARange_data()
     {
-        QTest::addColumn<QString>("begin");
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<int>("fault");
-        const auto row = [](const char *name, const QString &begin, const QString &end, int fault) {
-            QTest::newRow(name) << begin << end << fault;
-        };
+        const auto row = dataTable<QString, QString, int>({"begin", "end", "fault"});
         row("one address", "10.0.1.1", "10.0.1.1", 0);
         row("sixteen apart", "10.0.1.1", "10.0.17.1", 0);
         row("seventeen apart", "10.0.1.1", "10.0.18.1", 2);
@@ -61,12 +55,8 @@ private Q_SLOTS:
 
     void coversARangeByBlocks_data()
     {
-        QTest::addColumn<QString>("begin");
-        QTest::addColumn<QString>("end");
-        QTest::addColumn<QStringList>("blocks"); // "first last" of each
-        const auto row = [](const char *begin, const char *end, const QStringList &blocks) {
-            QTest::addRow("%s to %s", begin, end) << QString(begin) << QString(end) << blocks;
-        };
+        // blocks: "first last" of each
+        const auto row = namedTable<QString, QString, QStringList>({"begin", "end", "blocks"});
         row("192.168.1.10", "192.168.3.20",
             {"192.168.1.10 192.168.1.255", "192.168.2.0 192.168.2.255", "192.168.3.0 192.168.3.20"});
         row("192.168.1.5", "192.168.1.5", {"192.168.1.5 192.168.1.5"});

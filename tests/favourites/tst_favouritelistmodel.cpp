@@ -1,8 +1,8 @@
 #include "favourites/favouritelistmodel.h"
+#include "tests/datatable.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -35,22 +35,15 @@ class TestFavouriteListModel : public QObject
 private Q_SLOTS:
     void listsFiles_data()
     {
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("mode");
-        QTest::newRow("IP") << favourite("0", "10.0.0.1", "n") << "IP"
-                            << "IP\t10.0.0.1\t37777\tadmin\tn" << 0;
-        QTest::newRow("P2P") << favourite("1", "OV7") << "P2P"
-                             << "P2P\tOV7\t37777\tadmin\t" << 1;
-        QTest::newRow("no type") << favourite("", "OV7") << "P2P"
-                                 << "P2P\tOV7\t37777\tadmin\t" << 1;
-        QTest::newRow("several lines") << favourite("0", "10.0.0.1", "a\n\tb") << "IP"
-                                       << "IP\t10.0.0.1\t37777\tadmin\ta b" << 0;
-        QTest::newRow("endless") << favourite("0", "a", QString(100000, 'x')) << "IP"
-                                 << "IP\ta\t37777\tadmin\t" + QString(200, 'x') << 0;
-        QTest::newRow("nothing") << QStringList() << "P2P"
-                                 << "P2P\t\t\t\t" << 1;
+        const auto row = dataTable<QStringList, QString, QString, int>({"values", "type", "text", "mode"});
+        row("IP", favourite("0", "10.0.0.1", "n"), "IP", "IP\t10.0.0.1\t37777\tadmin\tn", 0);
+        row("P2P", favourite("1", "OV7"), "P2P", "P2P\tOV7\t37777\tadmin\t", 1);
+        row("no type", favourite("", "OV7"), "P2P", "P2P\tOV7\t37777\tadmin\t", 1);
+        row("several lines", favourite("0", "10.0.0.1", "a\n\tb"), "IP", "IP\t10.0.0.1\t37777\tadmin\ta b",
+            0);
+        row("endless", favourite("0", "a", QString(100000, 'x')), "IP",
+            "IP\ta\t37777\tadmin\t" + QString(200, 'x'), 0);
+        row("nothing", QStringList(), "P2P", "P2P\t\t\t\t", 1);
     }
 
     void listsFiles()
@@ -84,14 +77,13 @@ private Q_SLOTS:
 
     void filters_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("rows");
-        QTest::newRow("all") << "" << QStringList{"1 10.0.0.1", "2 OV7QK2M4", "3 10.0.0.2"};
-        QTest::newRow("address") << "10.0" << QStringList{"1 10.0.0.1", "3 10.0.0.2"};
-        QTest::newRow("other case, blanks around") << " ov7 " << QStringList{"2 OV7QK2M4"};
-        QTest::newRow("note") << QString::fromUtf8("仓") << QStringList{"3 10.0.0.2"};
-        QTest::newRow("type") << "p2p" << QStringList{"2 OV7QK2M4"};
-        QTest::newRow("not by password") << "cipher" << QStringList();
+        const auto row = dataTable<QString, QStringList>({"text", "rows"});
+        row("all", "", QStringList{"1 10.0.0.1", "2 OV7QK2M4", "3 10.0.0.2"});
+        row("address", "10.0", QStringList{"1 10.0.0.1", "3 10.0.0.2"});
+        row("other case, blanks around", " ov7 ", QStringList{"2 OV7QK2M4"});
+        row("note", QString::fromUtf8("仓"), QStringList{"3 10.0.0.2"});
+        row("type", "p2p", QStringList{"2 OV7QK2M4"});
+        row("not by password", "cipher", QStringList());
     }
 
     void filters()

@@ -1,4 +1,5 @@
 #include "files/filereplacement.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDir>
@@ -9,12 +10,6 @@
 #include <unistd.h>
 
 namespace {
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
 
 } // namespace
 
@@ -44,7 +39,7 @@ private Q_SLOTS:
             int status = 0;
             QCOMPARE(waitpid(child, &status, 0), child);
             QVERIFY(WIFSIGNALED(status));
-            const QByteArray left = contents(path);
+            const QByteArray left = fileContents(path);
             QVERIFY2(left == first || left == second, qPrintable(QString::number(left.size())));
         }
     }
@@ -58,7 +53,7 @@ private Q_SLOTS:
             const FileSizeLimit limit(1000);
             QCOMPARE(replaceFile(path, QByteArray(1001, 'n')), "File too large");
         }
-        QCOMPARE(contents(path), "old");
+        QCOMPARE(fileContents(path), "old");
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), before);
     }
 
@@ -71,7 +66,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(path, link));
         QCOMPARE(replaceFile(link, "new"), "");
         QVERIFY(QFileInfo(link).isSymbolicLink());
-        QCOMPARE(contents(path), "new");
+        QCOMPARE(fileContents(path), "new");
         QVERIFY(!QFile::permissions(path).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
 
         QVERIFY(!replaceFile(m_folder.path(), "x").isEmpty());

@@ -1,9 +1,9 @@
 #include "media/audiooutput.h"
 #include "media/videoitem.h"
+#include "tests/datatable.h"
 #include "tests/media/fakelibraries.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <thread>
 
@@ -29,15 +29,13 @@ private Q_SLOTS:
 
     void dropsWhatHasNoRoom_data()
     {
-        QTest::addColumn<QList<int>>("pieces");
-        QTest::addColumn<int>("fill");
-        QTest::addColumn<int>("drops");
-        QTest::newRow("one byte below the limit") << QList<int>{102399} << 102399 << 0;
-        QTest::newRow("exactly the limit") << QList<int>{102400} << 0 << 1;
-        QTest::newRow("reaches the limit exactly") << QList<int>{102000, 400} << 102000 << 1;
-        QTest::newRow("a smaller one behind a dropped one") << QList<int>{102000, 400, 399} << 102399 << 1;
-        QTest::newRow("beyond 32 bits") << QList<int>{1000, 0x7fffffff} << 1000 << 1;
-        QTest::newRow("negative") << QList<int>{1000, -1000} << 1000 << 1;
+        const auto row = dataTable<QList<int>, int, int>({"pieces", "fill", "drops"});
+        row("one byte below the limit", QList<int>{102399}, 102399, 0);
+        row("exactly the limit", QList<int>{102400}, 0, 1);
+        row("reaches the limit exactly", QList<int>{102000, 400}, 102000, 1);
+        row("a smaller one behind a dropped one", QList<int>{102000, 400, 399}, 102399, 1);
+        row("beyond 32 bits", QList<int>{1000, 0x7fffffff}, 1000, 1);
+        row("negative", QList<int>{1000, -1000}, 1000, 1);
     }
 
     void dropsWhatHasNoRoom()

@@ -1,8 +1,7 @@
 #include "media/dhdecoder.h"
 #include "media/videodataobserver.h"
+#include "tests/datatable.h"
 #include "tests/media/fakelibraries.h"
-
-#include <QTest>
 
 #include <atomic>
 #include <thread>
@@ -49,15 +48,13 @@ class TestDHDecoder : public QObject
 private Q_SLOTS:
     void startsStepByStep_data()
     {
-        QTest::addColumn<QString>("failing");
-        QTest::addColumn<QStringList>("calls");
-        QTest::newRow("all well") << "" << played;
-        QTest::newRow("no port") << "DecoderAllocPort" << opened.mid(0, 1);
-        QTest::newRow("stream mode refused") << "DecoderSetStreamMode" << played;
-        QTest::newRow("not opened") << "DecoderOpenStream" << opened + QStringList{"DecoderFreePort(3)"};
-        QTest::newRow("handler refused") << "DecoderSetDecodeCallback" << played;
-        QTest::newRow("not played") << "DecoderPlay"
-                                    << played + QStringList{"DecoderCloseStream(3)", "DecoderFreePort(3)"};
+        const auto row = dataTable<QString, QStringList>({"failing", "calls"});
+        row("all well", "", played);
+        row("no port", "DecoderAllocPort", opened.mid(0, 1));
+        row("stream mode refused", "DecoderSetStreamMode", played);
+        row("not opened", "DecoderOpenStream", opened + QStringList{"DecoderFreePort(3)"});
+        row("handler refused", "DecoderSetDecodeCallback", played);
+        row("not played", "DecoderPlay", played + QStringList{"DecoderCloseStream(3)", "DecoderFreePort(3)"});
     }
 
     void startsStepByStep()

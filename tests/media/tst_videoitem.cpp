@@ -1,10 +1,10 @@
 #include "media/dhdecoder.h"
 #include "media/videoitem.h"
+#include "tests/datatable.h"
 #include "tests/media/fakelibraries.h"
 
 #include <QMetaMethod>
 #include <QSignalSpy>
-#include <QTest>
 #include <QThread>
 
 #include <thread>
@@ -80,46 +80,32 @@ private Q_SLOTS:
         QStringList names;
         for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
             names.append(QString::fromLatin1(meta.method(index).name()));
-        const QStringList wanted = {"isAudioOutputChanged", "isLoginHandleChanged", "videoInfoChangedSig",
-                                    "fillModeChanged",      "channelIdChanged",     "videoErrorSig",
-                                    "urlChanged",           "sigVideoDataChanged",  "sigAudioDataChanged",
-                                    "textChanged",          "sigSampleRateChanged"};
-        QCOMPARE(names.mid(0, wanted.size()), wanted);
-        const QStringList slotNames = {"start",
-                                       "stop",
-                                       "onSigVideoDataChanged",
-                                       "onSizeChanged",
-                                       "onSigAudioDataChanged",
-                                       "onAudioFormatChanged",
-                                       "changeScale",
-                                       "drag"};
-        QCOMPARE(names.mid(names.indexOf("start"), slotNames.size()), slotNames);
+        QCOMPARE(
+            names.mid(0, 11).join(' '),
+            "isAudioOutputChanged isLoginHandleChanged videoInfoChangedSig fillModeChanged channelIdChanged "
+            "videoErrorSig urlChanged sigVideoDataChanged sigAudioDataChanged textChanged "
+            "sigSampleRateChanged");
+        QCOMPARE(names.mid(names.indexOf("start"), 8).join(' '),
+                 "start stop onSigVideoDataChanged onSizeChanged onSigAudioDataChanged onAudioFormatChanged "
+                 "changeScale drag");
     }
 
     void startsAndStopsStepByStep_data()
     {
-        QTest::addColumn<QString>("failing");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("started"); // calls behind those that start the decoder
-        QTest::addColumn<QStringList>("stopped");
-        QTest::addColumn<QStringList>("log");
-        QTest::newRow("all well") << ""
-                                  << "" << QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}
-                                  << streamStopped + decoderStopped
-                                  << QStringList{"m_lRealHandle 77", "lRealHandle 77"};
-        QTest::newRow("stream refused")
-            << "NetStartRealStream"
-            << "播放失败" << (QStringList{streamAsked} + decoderStopped) << QStringList()
-            << QStringList{"m_lRealHandle 0", "open stream fail"};
+        // started: calls behind those that start the decoder
+        const auto row = dataTable<QString, QString, QStringList, QStringList, QStringList>(
+            {"failing", "text", "started", "stopped", "log"});
+        row("all well", "", "", QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"},
+            streamStopped + decoderStopped, QStringList{"m_lRealHandle 77", "lRealHandle 77"});
+        row("stream refused", "NetStartRealStream", "播放失败", (QStringList{streamAsked} + decoderStopped),
+            QStringList(), QStringList{"m_lRealHandle 0", "open stream fail"});
         // The stream that was opened is closed by stop().
-        QTest::newRow("handler refused")
-            << "NetSetRealDataCallback"
-            << "播放失败" << (QStringList{streamAsked, handlerSet} + decoderStopped) << streamStopped
-            << QStringList{"m_lRealHandle 77", "lRealHandle 77", "open failed"};
-        QTest::newRow("follow-up refused")
-            << "NetStreamFollowUp"
-            << "" << QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}
-            << streamStopped + decoderStopped << QStringList{"m_lRealHandle 77", "lRealHandle 77"};
+        row("handler refused", "NetSetRealDataCallback", "播放失败",
+            (QStringList{streamAsked, handlerSet} + decoderStopped), streamStopped,
+            QStringList{"m_lRealHandle 77", "lRealHandle 77", "open failed"});
+        row("follow-up refused", "NetStreamFollowUp", "",
+            QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"},
+            streamStopped + decoderStopped, QStringList{"m_lRealHandle 77", "lRealHandle 77"});
     }
 
     void startsAndStopsStepByStep()
@@ -162,11 +148,10 @@ private Q_SLOTS:
 
     void withoutALibraryAStartFails_data()
     {
-        QTest::addColumn<bool>("hasNet");
-        QTest::addColumn<bool>("hasDecoder");
-        QTest::newRow("no network library") << false << true;
-        QTest::newRow("no decoder library") << true << false;
-        QTest::newRow("none") << false << false;
+        const auto row = dataTable<bool, bool>({"hasNet", "hasDecoder"});
+        row("no network library", false, true);
+        row("no decoder library", true, false);
+        row("none", false, false);
     }
 
     void withoutALibraryAStartFails()
@@ -242,14 +227,12 @@ private Q_SLOTS:
 
     void believesNoSize_data()
     {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<int>("bytes");
-        QTest::newRow("a byte short") << 5 << 3 << 15 + 2 * 6 - 1;
-        QTest::newRow("negative") << -4 << -2 << 12;
-        QTest::newRow("no height") << 4 << 0 << 12;
-        QTest::newRow("overflowing") << 65536 << 65536 << 12;
-        QTest::newRow("huge") << 0x7fffffff << 0x7fffffff << 12;
+        const auto row = dataTable<int, int, int>({"width", "height", "bytes"});
+        row("a byte short", 5, 3, 15 + 2 * 6 - 1);
+        row("negative", -4, -2, 12);
+        row("no height", 4, 0, 12);
+        row("overflowing", 65536, 65536, 12);
+        row("huge", 0x7fffffff, 0x7fffffff, 12);
     }
 
     void believesNoSize()

@@ -1,4 +1,5 @@
 #include "media/videoitem.h"
+#include "tests/datatable.h"
 #include "tests/media/fakelibraries.h"
 
 #include <QDir>
@@ -8,7 +9,6 @@
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QSurfaceFormat>
-#include <QTest>
 
 #include <cmath>
 #include <thread>
@@ -134,14 +134,11 @@ private Q_SLOTS:
 
     void showsColours_data()
     {
-        QTest::addColumn<int>("colour");
-        QTest::addColumn<int>("y");
-        QTest::addColumn<int>("u");
-        QTest::addColumn<int>("v");
+        const auto addRow = dataTable<int, int, int, int>({"colour", "y", "u", "v"});
         const QList<QByteArray> names = {"BT.601 limited", "BT.601 full", "BT.709 limited", "BT.709 full"};
         for (int colour = 0; colour < names.size(); ++colour) {
             const auto row = [&](const char *name, int y, int u, int v) {
-                QTest::addRow("%s %s", names.at(colour).constData(), name) << colour << y << u << v;
+                addRow((names.at(colour) + ' ' + name).constData(), colour, y, u, v);
             };
             row("black", 16, 128, 128);
             row("white", 235, 128, 128);
@@ -171,12 +168,12 @@ private Q_SLOTS:
     /// edges. The last column of U and V has a colour of its own and must stay at the edge.
     void showsOddSizes_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("odd both ways") << QSize(33, 17);
-        QTest::newRow("odd width") << QSize(35, 18);
-        QTest::newRow("width of 2 beyond 4") << QSize(34, 18);
-        QTest::newRow("narrow") << QSize(3, 3);
-        QTest::newRow("one pixel") << QSize(1, 1);
+        const auto row = dataTable<QSize>({"size"});
+        row("odd both ways", QSize(33, 17));
+        row("odd width", QSize(35, 18));
+        row("width of 2 beyond 4", QSize(34, 18));
+        row("narrow", QSize(3, 3));
+        row("one pixel", QSize(1, 1));
     }
 
     void showsOddSizes()
@@ -300,9 +297,9 @@ private Q_SLOTS:
 
     void findsShadersBesideTheProgram_data()
     {
-        QTest::addColumn<bool>("areThere");
-        QTest::newRow("missing") << false;
-        QTest::newRow("beside the program") << true;
+        const auto row = dataTable<bool>({"areThere"});
+        row("missing", false);
+        row("beside the program", true);
     }
 
     void findsShadersBesideTheProgram()

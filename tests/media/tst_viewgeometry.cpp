@@ -1,6 +1,5 @@
 #include "media/viewgeometry.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 #include <cmath>
 
@@ -28,16 +27,15 @@ class TestViewGeometry : public QObject
 private Q_SLOTS:
     void levelsEndAtTheirLimits_data()
     {
-        QTest::addColumn<QList<double>>("steps");
-        QTest::addColumn<int>("level");
-        QTest::newRow("one notch") << QList<double>{1} << 1;
-        QTest::newRow("a part of a notch") << QList<double>{0.1} << 1;
-        QTest::newRow("three notches at once") << QList<double>{3} << 3;
-        QTest::newRow("there and back") << QList<double>{2, -1} << 1;
-        QTest::newRow("none") << QList<double>{2, 0, std::nan("")} << 2;
-        QTest::newRow("below the lowest") << QList<double>{1, -5} << 0;
-        QTest::newRow("above the highest") << QList<double>{15, 15} << 20;
-        QTest::newRow("far out of range") << QList<double>{1e300, -1e300, INFINITY} << 20;
+        const auto row = dataTable<QList<double>, int>({"steps", "level"});
+        row("one notch", QList<double>{1}, 1);
+        row("a part of a notch", QList<double>{0.1}, 1);
+        row("three notches at once", QList<double>{3}, 3);
+        row("there and back", QList<double>{2, -1}, 1);
+        row("none", QList<double>{2, 0, std::nan("")}, 2);
+        row("below the lowest", QList<double>{1, -5}, 0);
+        row("above the highest", QList<double>{15, 15}, 20);
+        row("far out of range", QList<double>{1e300, -1e300, INFINITY}, 20);
     }
 
     void levelsEndAtTheirLimits()
@@ -67,16 +65,14 @@ private Q_SLOTS:
 
     void theWindowStaysInside_data()
     {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<QPointF>("drag");
-        QTest::addColumn<QPointF>("centre");
+        const auto row = dataTable<int, QPointF, QPointF>({"level", "drag", "centre"});
         const double half = 0.5 / std::pow(1.2, 4);
-        QTest::newRow("whole, pinned") << 0 << QPointF(50, -50) << QPointF(0.5, 0.5);
-        QTest::newRow("a little right and down")
-            << 4 << QPointF(64, 36) << QPointF(0.5 - 0.1 * 2 * half, 0.5 - 0.1 * 2 * half);
-        QTest::newRow("far right and up") << 4 << QPointF(5000, -5000) << QPointF(half, 1 - half);
-        QTest::newRow("far left and down") << 4 << QPointF(-5000, 5000) << QPointF(1 - half, half);
-        QTest::newRow("no number") << 4 << QPointF(std::nan(""), 10) << QPointF(0.5, 0.5);
+        row("whole, pinned", 0, QPointF(50, -50), QPointF(0.5, 0.5));
+        row("a little right and down", 4, QPointF(64, 36),
+            QPointF(0.5 - 0.1 * 2 * half, 0.5 - 0.1 * 2 * half));
+        row("far right and up", 4, QPointF(5000, -5000), QPointF(half, 1 - half));
+        row("far left and down", 4, QPointF(-5000, 5000), QPointF(1 - half, half));
+        row("no number", 4, QPointF(std::nan(""), 10), QPointF(0.5, 0.5));
     }
 
     void theWindowStaysInside()
@@ -113,14 +109,12 @@ private Q_SLOTS:
 
     void fillsTheView_data()
     {
-        QTest::addColumn<bool>("stretch");
-        QTest::addColumn<QSizeF>("picture");
-        QTest::addColumn<QSizeF>("filled");
-        QTest::newRow("same shape") << false << QSizeF(1920, 1080) << QSizeF(1, 1);
-        QTest::newRow("narrower") << false << QSizeF(360, 360) << QSizeF(0.5625, 1);
-        QTest::newRow("wider") << false << QSizeF(1280, 360) << QSizeF(1, 0.5);
-        QTest::newRow("stretched") << true << QSizeF(360, 360) << QSizeF(1, 1);
-        QTest::newRow("empty") << false << QSizeF(0, 0) << QSizeF(1, 1);
+        const auto row = dataTable<bool, QSizeF, QSizeF>({"stretch", "picture", "filled"});
+        row("same shape", false, QSizeF(1920, 1080), QSizeF(1, 1));
+        row("narrower", false, QSizeF(360, 360), QSizeF(0.5625, 1));
+        row("wider", false, QSizeF(1280, 360), QSizeF(1, 0.5));
+        row("stretched", true, QSizeF(360, 360), QSizeF(1, 1));
+        row("empty", false, QSizeF(0, 0), QSizeF(1, 1));
     }
 
     void fillsTheView()

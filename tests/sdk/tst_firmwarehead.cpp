@@ -1,7 +1,6 @@
 // Heads and names of firmware files, also of files that others have made.
 #include "sdk/firmwarehead.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 using namespace sdk;
 using Kind = FirmwareHeadReading::Kind;
@@ -30,13 +29,11 @@ class FirmwareHeadTest : public QObject
 private Q_SLOTS:
     void heads_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QByteArray>("models");
-        QTest::addColumn<QByteArray>("version");
-        const auto row = [](const char *title, const QByteArray &bytes, Kind kind,
-                            const QByteArray &models = {}, const QByteArray &version = {}) {
-            QTest::newRow(title) << bytes << kind << models << version;
+        const auto addRow =
+            dataTable<QByteArray, Kind, QByteArray, QByteArray>({"bytes", "kind", "models", "version"});
+        const auto row = [&addRow](const char *title, const QByteArray &bytes, Kind kind,
+                                   const QByteArray &models = {}, const QByteArray &version = {}) {
+            addRow(title, bytes, kind, models, version);
         };
         const QByteArray first = "BRELM-FIRMWARE 1\n";
         const QByteArray version = "version=2.900.0\n";
@@ -83,11 +80,8 @@ private Q_SLOTS:
 
     void names_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("told"); // "models version", empty for nothing
-        const auto row = [](const QByteArray &name, const QByteArray &told) {
-            QTest::newRow(name.constData()) << name << told;
-        };
+        // told: "models version", empty for nothing
+        const auto row = namedTable<QByteArray, QByteArray>({"name", "told"});
         row("B-2230-IR_2.900.0.bin", "B-2230-IR 2.900.0");
         row("A-1,B-2_v2.900.0_20240506.img", "A-1,B-2 2.900.0");
         row("A-1_V1.2", "A-1 1.2");
@@ -112,12 +106,7 @@ private Q_SLOTS:
 
     void versions_data()
     {
-        QTest::addColumn<QByteArray>("one");
-        QTest::addColumn<QByteArray>("other");
-        QTest::addColumn<bool>("isSame");
-        const auto row = [](const QByteArray &one, const QByteArray &other, bool isSame) {
-            QTest::newRow((one + " and " + other).constData()) << one << other << isSame;
-        };
+        const auto row = namedTable<QByteArray, QByteArray, bool>({"one", "other", "isSame"});
         row("3.000.1", "v3.000.1 ", true);
         row("3.000.1", "3.000.1.R", true);
         row("3.000.1", "3.000.1.", true);

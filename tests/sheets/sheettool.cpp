@@ -1,30 +1,14 @@
-// Makes, prints and changes workbooks for the exchange with another library.
+// Prints and changes workbooks for the exchange with another library.
 //
-//   sheettool make FILE             writes a workbook with the texts of standard input, a row a line, tabs
-//   between sheettool print FILE            prints the cells of the first sheet in the same way, line ends as
-//   "\n" sheettool change FILE R C TEXT  writes a text into a cell of the first sheet and saves the file
+//   sheettool print FILE            prints the cells of the first sheet: a row a line, tabs between, "\n" for
+//                                   line ends
+//   sheettool change FILE R C TEXT  writes a text into a cell of the first sheet and saves the file
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
 
-#include <QFile>
 #include <QTextStream>
 
 namespace {
-
-bool make(QExcel &excel, const QString &path)
-{
-    QTextStream input(stdin);
-    bool isDone = excel.createWorkbook();
-    QString line;
-    for (int row = 1; isDone && input.readLineInto(&line); ++row) {
-        const QStringList texts = line.split('\t');
-        for (int column = 0; isDone && column < texts.size(); ++column)
-            isDone = excel.setCellText(row, column + 1, QString(texts[column]).replace("\\n", "\n"));
-    }
-    return isDone && excel.mergeCells({{1, 1}, {1, 3}}) && excel.setWrapText({{1, 1}, {1, 3}}, true) &&
-           excel.setRowHeight(1, 60.5) && excel.setBold({{2, 1}, {2, 3}}, true) &&
-           excel.setFontSize({{2, 1}, {2, 3}}, 12.5) && excel.saveAs(path);
-}
 
 bool print(QExcel &excel, const QString &path)
 {
@@ -50,9 +34,7 @@ int main(int argc, char **argv)
         arguments += QString::fromLocal8Bit(argv[i]);
     QExcel excel(std::make_unique<sheets::FileSheetEngine>());
     bool isDone = false;
-    if (arguments.size() == 2 && arguments[0] == QLatin1String("make"))
-        isDone = make(excel, arguments[1]);
-    else if (arguments.size() == 2 && arguments[0] == QLatin1String("print"))
+    if (arguments.size() == 2 && arguments[0] == QLatin1String("print"))
         isDone = print(excel, arguments[1]);
     else if (arguments.size() == 5 && arguments[0] == QLatin1String("change"))
         isDone = excel.open(arguments[1]) &&

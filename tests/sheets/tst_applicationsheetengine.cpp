@@ -2,11 +2,11 @@
 #include "automation/axdouble.h"
 #include "sheets/applicationsheetengine.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QTemporaryFile>
-#include <QTest>
 
 using sheets::ApplicationSheetEngine;
 using sheets::CellRange;
@@ -18,10 +18,11 @@ const QString book = app + ".ActiveWorkBook";
 const QString sheet = book + ".ActiveSheet";
 const QString firstSheet = book + ".WorkSheets.Item(int) 1";
 
-/// The calls since the last time.
-QStringList takeCalls()
+/// The calls since the last time that change something.
+QStringList takeChanges()
 {
-    return std::exchange(AxRecord::instance().calls, {});
+    static const QRegularExpression change(QStringLiteral(" = |\\.(Add$|Open|Quit|Merge|Save|SetValue)"));
+    return std::exchange(AxRecord::instance().calls, {}).filter(change);
 }
 
 } // namespace
@@ -35,31 +36,26 @@ private Q_SLOTS:
     void makesAWorkbook()
     {
         QExcel excel(std::make_unique<ApplicationSheetEngine>());
-        QCOMPARE(takeCalls(), QStringList(app + ".DisplayAlerts = false"));
         QVERIFY(excel.createWorkbook());
-        QCOMPARE(takeCalls(), (QStringList{app + ".Workbooks", app + ".Workbooks.Add", book,
-                                           book + ".WorkSheets", sheet}));
         QVERIFY(excel.setCellText(3, 2, "007"));
-        const QString cell = sheet + ".Cells(int,int) 3 2";
-        QCOMPARE(takeCalls(),
-                 (QStringList{cell, cell + ".NumberFormat = @", cell + ".SetValue(const QString&) 007"}));
         QVERIFY(excel.mergeCells({{1, 1}, {1, 19}}));
         QVERIFY(excel.setWrapText({{1, 1}, {1, 19}}, true));
-        const QString range = sheet + ".Range(QVariant,QVariant) A1 S1";
-        QCOMPARE(takeCalls(), (QStringList{range, range + ".Merge()", range, range + ".WrapText = true"}));
         QVERIFY(excel.setFontSize(CellRange::cell(2, 1), 12));
         QVERIFY(excel.setBold(CellRange::cell(2, 1), true));
-        const QString single = sheet + ".Range(QVariant,QVariant) A2 A2";
-        QCOMPARE(takeCalls(), (QStringList{single, single + ".Font", single + ".Font.Size = 12", single,
-                                           single + ".Font", single + ".Font.Bold = true"}));
         QVERIFY(excel.setRowHeight(1, 160));
-        QCOMPARE(takeCalls(), (QStringList{sheet + ".Rows(int) 1", sheet + ".Rows(int) 1.RowHeight = 160"}));
         QVERIFY(excel.saveAs("/folder/device.xlsx"));
         QVERIFY(excel.save());
-        const QString path = QDir::toNativeSeparators(QFileInfo("/folder/device.xlsx").absoluteFilePath());
-        QCOMPARE(takeCalls(), (QStringList{book + ".SaveAs(const QString&) " + path, book + ".Save()"}));
         excel.quit();
-        QCOMPARE(takeCalls(), QStringList(app + ".Quit()"));
+        const QString cell = sheet + ".Cells(int,int) 3 2";
+        const QString range = sheet + ".Range(QVariant,QVariant) A1 S1";
+        const QString font = sheet + ".Range(QVariant,QVariant) A2 A2.Font";
+        const QString path = QDir::toNativeSeparators(QFileInfo("/folder/device.xlsx").absoluteFilePath());
+        QCOMPARE(takeChanges(),
+                 (QStringList{app + ".DisplayAlerts = false", app + ".Workbooks.Add",
+                              cell + ".NumberFormat = @", cell + ".SetValue(const QString&) 007",
+                              range + ".Merge()", range + ".WrapText = true", font + ".Size = 12",
+                              font + ".Bold = true", sheet + ".Rows(int) 1.RowHeight = 160",
+                              book + ".SaveAs(const QString&) " + path, book + ".Save()", app + ".Quit()"}));
         QCOMPARE(AxRecord::instance().alive, 0); // or the application would stay in memory
         QVERIFY(excel.createWorkbook());         // it is started anew
     }
@@ -71,12 +67,9 @@ private Q_SLOTS:
         auto &record = AxRecord::instance();
         record.answers = {{firstSheet + ".UsedRange.Row", 2}, {firstSheet + ".UsedRange.Rows.Count", 40}};
         QExcel excel(std::make_unique<ApplicationSheetEngine>());
-        takeCalls();
         QVERIFY(excel.open(file.fileName()));
-        QCOMPARE(takeCalls(), (QStringList{app + ".Workbooks",
-                                           app + ".Workbooks.Open(const QString&) " +
-                                               QDir::toNativeSeparators(file.fileName()),
-                                           book, book + ".WorkSheets", sheet, firstSheet}));
+        QCOMPARE(takeChanges().last(),
+                 app + ".Workbooks.Open(const QString&) " + QDir::toNativeSeparators(file.fileName()));
         QCOMPARE(excel.usedRowCount(), 40);
         QCOMPARE(excel.firstUsedRow(), 2);
         const QList<std::pair<QVariant, QString>> values = {
@@ -93,16 +86,15 @@ private Q_SLOTS:
 
     void reportsRefusals_data()
     {
-        QTest::addColumn<QString>("refused");
-        QTest::addColumn<QString>("missing");
+        const auto row = dataTable<QString, QString>({"refused", "missing"});
         const QString cell = sheet + ".Cells(int,int) 1 1";
         for (const QString &call :
              {app + ".Workbooks.Add", cell, cell + ".NumberFormat = @", cell + ".SetValue(const QString&) x",
               book + ".SaveAs(const QString&) /x.xlsx"})
-            QTest::newRow(qPrintable(call)) << call << QString();
+            row(qPrintable(call), call, QString());
         for (const char *name :
              {"Workbooks", "ActiveWorkBook", "WorkSheets", "ActiveSheet", "Cells(int,int)"})
-            QTest::newRow(name) << QString() << QString(name);
+            row(name, QString(), QString(name));
     }
 
     void reportsRefusals()

@@ -1,11 +1,12 @@
 // A workbook that is opened and changed keeps everything else as it was.
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "workbookfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 
 using sheets::CellRange;
 
@@ -54,34 +55,29 @@ class TestChangeWorkbook : public QObject
 private Q_SLOTS:
     void writesTexts_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QByteArray>("rows");
+        const auto row = dataTable<int, int, QByteArray>({"row", "column", "rows"});
         const QByteArray text = "t=\"inlineStr\"><is><t>n&lt;w</t></is></c>";
         const QByteArray plainText =
             QByteArray(text).insert(text.indexOf('>'), " s=\"3\""); // had no look before
-        QTest::newRow("over a number") << 2 << 2
-                                       << "<row r='2' spans='2:4'><c r='B2' s='2' " + text +
-                                              "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>";
-        QTest::newRow("before all rows")
-            << 1 << 1
-            << "<row r='1'><c r='A1' " + plainText +
-                   "</row><row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
-                   "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>";
-        QTest::newRow("after all rows")
-            << 9 << 2
-            << "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c><c r='D2' t='b'>"
-               "<v>1</v></c></row><row><c><v>5</v></c></row><row r='9'><c r='B9' s='3' " +
-                   text + "</row>";
-        QTest::newRow("between cells") << 2 << 3
-                                       << "<row r='2'><c r='B2' s='2'><v>4</v></c><c r='C2' " + plainText +
-                                              "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>";
-        QTest::newRow("after a cell without a place")
-            << 3 << 2
-            << "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
-               "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c>"
-               "<c r='B3' s='3' " +
-                   text + "</row>";
+        row("over a number", 2, 2,
+            "<row r='2' spans='2:4'><c r='B2' s='2' " + text +
+                "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>");
+        row("before all rows", 1, 1,
+            "<row r='1'><c r='A1' " + plainText +
+                "</row><row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
+                "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>");
+        row("after all rows", 9, 2,
+            "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c><c r='D2' t='b'>"
+            "<v>1</v></c></row><row><c><v>5</v></c></row><row r='9'><c r='B9' s='3' " +
+                text + "</row>");
+        row("between cells", 2, 3,
+            "<row r='2'><c r='B2' s='2'><v>4</v></c><c r='C2' " + plainText +
+                "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>");
+        row("after a cell without a place", 3, 2,
+            "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
+            "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c>"
+            "<c r='B3' s='3' " +
+                text + "</row>");
     }
 
     void writesTexts()
@@ -135,11 +131,8 @@ private Q_SLOTS:
         QVERIFY(excel.open(m_path));
         const QString copy = m_folder.filePath("copy.xlsx");
         QVERIFY(excel.saveAs(copy));
-        QFile first(m_path);
-        QFile second(copy);
-        QVERIFY(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
-        QCOMPARE(second.readAll(), first.readAll());
-        QVERIFY(second.remove());
+        QCOMPARE(fileContents(copy), fileContents(m_path));
+        QVERIFY(QFile::remove(copy));
     }
 
     void changesLooks()

@@ -1,11 +1,11 @@
 // A workbook that took work to fill is kept somewhere, whatever became of its file.
 #include "sheets/keptworkbook.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 class TestKeptWorkbook : public QObject
 {
@@ -13,13 +13,12 @@ class TestKeptWorkbook : public QObject
 private Q_SLOTS:
     void keeps_data()
     {
-        QTest::addColumn<bool>("isFolderGone");
-        QTest::addColumn<bool>("isFolderInTheWay"); // a folder has taken the name of the file
-        QTest::addColumn<QString>("kept");          // below the home folder
-        QTest::newRow("in its file") << false << false << "work/list.xlsx";
-        QTest::newRow("beside it") << false << true << "work/list_Result.xlsx";
-        QTest::newRow("among the documents, which were not there")
-            << true << false << "Documents/list_Result.xlsx";
+        // isFolderInTheWay: a folder has taken the name of the file
+        // kept: below the home folder
+        const auto row = dataTable<bool, bool, QString>({"isFolderGone", "isFolderInTheWay", "kept"});
+        row("in its file", false, false, "work/list.xlsx");
+        row("beside it", false, true, "work/list_Result.xlsx");
+        row("among the documents, which were not there", true, false, "Documents/list_Result.xlsx");
     }
 
     void keeps()

@@ -1,11 +1,11 @@
 // A workbook that is begun, filled and saved is read back as it was meant.
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
 #include "workbookfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
@@ -30,10 +30,10 @@ class TestNewWorkbook : public QObject
 private Q_SLOTS:
     void keepsTexts_data()
     {
-        QTest::addColumn<int>("lastMergedRow");
-        QTest::newRow("nothing merged") << 0;
-        QTest::newRow("merged in one row") << 1;
-        QTest::newRow("merged across rows") << 2;
+        const auto row = dataTable<int>({"lastMergedRow"});
+        row("nothing merged", 0);
+        row("merged in one row", 1);
+        row("merged across rows", 2);
     }
 
     void keepsTexts()

@@ -1,10 +1,10 @@
 // What other programs write is read: every kind of cell, and the freedoms of the format.
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
 #include "workbookfiles.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 class TestReadWorkbook : public QObject
 {
@@ -15,11 +15,7 @@ class TestReadWorkbook : public QObject
 private Q_SLOTS:
     void readsCells_data()
     {
-        QTest::addColumn<QByteArray>("cell");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const char *cell, const char *text) {
-            QTest::newRow(name) << QByteArray(cell) << QString(text);
-        };
+        const auto row = dataTable<QByteArray, QString>({"cell", "text"});
         row("empty", "<c r='A1' s='3'/>", "");
         row("shared", "<c r='A1' t='s'><v>0</v></c>", "plain & simple");
         row("shared, rich, without its phonetic hint", "<c r='A1' t='s'><v>1</v></c>", "two runs");
@@ -63,21 +59,20 @@ private Q_SLOTS:
 
     void findsCellsInAnyDress_data()
     {
-        QTest::addColumn<QString>("change"); // of the small workbook's parts: "part|from|to"
-        QTest::newRow("as usual") << "||";
-        QTest::newRow("rows and cells without numbers") << "xl/worksheets/sheet1.xml| r='[A-Z]*[0-9]+'|";
-        QTest::newRow("a prefix") << "xl/worksheets/sheet1.xml|<(/?)(?=[a-z])|<\\1x:";
-        QTest::newRow("white space and a comment") << "xl/worksheets/sheet1.xml|(<row|<c)|<!-- c -->\n \\1";
-        QTest::newRow("a document type") << "xl/worksheets/sheet1.xml|^|<!DOCTYPE x [<!ENTITY own 'y'>]>";
-        QTest::newRow("the strict dialect")
-            << "xl/_rels/workbook.xml.rels|http://schemas.openxmlformats.org/"
-               "officeDocument/2006|http://purl.oclc.org/ooxml/officeDocument";
-        QTest::newRow("absolute target") << "xl/_rels/workbook.xml.rels|\"worksheets/|\"/xl/worksheets/";
-        QTest::newRow("target with steps")
-            << "xl/_rels/workbook.xml.rels|\"worksheets/|\"../xl/./worksheets/";
-        QTest::newRow("other capitals") << "xl/_rels/workbook.xml.rels|sheet1|Sheet1";
-        QTest::newRow("another prefix of relations") << "xl/workbook.xml|([ :])r([:=])|\\1rel\\2";
-        QTest::newRow("a chart before it") << "xl/workbook.xml|<sheets>|<sheets><sheet name='C' r:id='r8'/>";
+        // change: of the small workbook's parts: "part|from|to"
+        const auto row = dataTable<QString>({"change"});
+        row("as usual", "||");
+        row("rows and cells without numbers", "xl/worksheets/sheet1.xml| r='[A-Z]*[0-9]+'|");
+        row("a prefix", "xl/worksheets/sheet1.xml|<(/?)(?=[a-z])|<\\1x:");
+        row("white space and a comment", "xl/worksheets/sheet1.xml|(<row|<c)|<!-- c -->\n \\1");
+        row("a document type", "xl/worksheets/sheet1.xml|^|<!DOCTYPE x [<!ENTITY own 'y'>]>");
+        row("the strict dialect", "xl/_rels/workbook.xml.rels|http://schemas.openxmlformats.org/"
+                                  "officeDocument/2006|http://purl.oclc.org/ooxml/officeDocument");
+        row("absolute target", "xl/_rels/workbook.xml.rels|\"worksheets/|\"/xl/worksheets/");
+        row("target with steps", "xl/_rels/workbook.xml.rels|\"worksheets/|\"../xl/./worksheets/");
+        row("other capitals", "xl/_rels/workbook.xml.rels|sheet1|Sheet1");
+        row("another prefix of relations", "xl/workbook.xml|([ :])r([:=])|\\1rel\\2");
+        row("a chart before it", "xl/workbook.xml|<sheets>|<sheets><sheet name='C' r:id='r8'/>");
     }
 
     void findsCellsInAnyDress()

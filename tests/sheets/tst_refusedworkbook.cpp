@@ -1,29 +1,17 @@
 // Files that are damaged, encrypted or made to exhaust memory are refused with a reason.
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "workbookfiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <functional>
 
 namespace {
 
 const QString sheetPart = QStringLiteral("xl/worksheets/sheet1.xml");
-
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 Parts ordinary()
 {
@@ -64,26 +52,24 @@ class TestRefusedWorkbook : public QObject
 private Q_SLOTS:
     void refusesParts_data()
     {
-        QTest::addColumn<Parts>("parts");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("no parts of a workbook") << Parts{{"hello.txt", "hello"}} << "_rels/.rels";
-        QTest::newRow("no workbook") << without("xl/workbook.xml") << "xl/workbook.xml";
-        QTest::newRow("no sheet") << without(sheetPart) << sheetPart;
-        QTest::newRow("no shared strings") << without("xl/sharedStrings.xml") << "sharedStrings";
-        QTest::newRow("no rows") << with(sheetPart, "<worksheet/>") << "no rows";
-        QTest::newRow("not XML") << with(sheetPart, "<worksheet><sheetData>") << sheetPart;
-        QTest::newRow("empty part") << with(sheetPart, "") << sheetPart;
-        QTest::newRow("another document") << with(sheetPart, "<html/>") << "html";
-        QTest::newRow("row beyond the last") << smallWorkbook("<row r='1048577'/>") << "1048577";
-        QTest::newRow("row before the first") << smallWorkbook("<row r='0'/>") << "0";
-        QTest::newRow("cell beyond the last") << smallWorkbook("<row r='1'><c r='XFE1'/></row>") << "XFE1";
-        QTest::newRow("more cells than columns")
-            << smallWorkbook("<row>" + QByteArray("<c/>").repeated(16'385) + "</row>") << "row 1";
-        QTest::newRow("deep") << smallWorkbook(QByteArray("<row>").repeated(100'000) +
-                                               QByteArray("</row>").repeated(100'000))
-                              << "nested";
-        QTest::newRow("packed zeros")
-            << with("xl/media/image1.png", QByteArray(40'000'000, '\0')) << "tightly";
+        const auto row = dataTable<Parts, QString>({"parts", "word"});
+        row("no parts of a workbook", Parts{{"hello.txt", "hello"}}, "_rels/.rels");
+        row("no workbook", without("xl/workbook.xml"), "xl/workbook.xml");
+        row("no sheet", without(sheetPart), sheetPart);
+        row("no shared strings", without("xl/sharedStrings.xml"), "sharedStrings");
+        row("no rows", with(sheetPart, "<worksheet/>"), "no rows");
+        row("not XML", with(sheetPart, "<worksheet><sheetData>"), sheetPart);
+        row("empty part", with(sheetPart, ""), sheetPart);
+        row("another document", with(sheetPart, "<html/>"), "html");
+        row("row beyond the last", smallWorkbook("<row r='1048577'/>"), "1048577");
+        row("row before the first", smallWorkbook("<row r='0'/>"), "0");
+        row("cell beyond the last", smallWorkbook("<row r='1'><c r='XFE1'/></row>"), "XFE1");
+        row("more cells than columns",
+            smallWorkbook("<row>" + QByteArray("<c/>").repeated(16'385) + "</row>"), "row 1");
+        row("deep",
+            smallWorkbook(QByteArray("<row>").repeated(100'000) + QByteArray("</row>").repeated(100'000)),
+            "nested");
+        row("packed zeros", with("xl/media/image1.png", QByteArray(40'000'000, '\0')), "tightly");
     }
 
     void refusesParts()
@@ -96,10 +82,10 @@ private Q_SLOTS:
 
     void refusesWhatTakesTooMuchMemory_data()
     {
-        QTest::addColumn<int>("repetitions"); // of a short element
-        QTest::addColumn<QString>("word");
-        QTest::newRow("large part") << 51'000'000 << "too large";
-        QTest::newRow("many elements") << 17'000'000 << "too many elements";
+        // repetitions: of a short element
+        const auto row = dataTable<int, QString>({"repetitions", "word"});
+        row("large part", 51'000'000, "too large");
+        row("many elements", 17'000'000, "too many elements");
     }
 
     void refusesWhatTakesTooMuchMemory()
@@ -113,32 +99,31 @@ private Q_SLOTS:
 
     void refusesFiles_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("word");
+        const auto row = dataTable<QByteArray, QString>({"bytes", "word"});
         QVERIFY(writeArchive(m_path, ordinary()));
-        const QByteArray good = fileBytes(m_path);
-        QTest::newRow("empty") << QByteArray() << "_rels/.rels";
-        QTest::newRow("text") << QByteArray("a,b,c\n") << "not a workbook";
-        QTest::newRow("cut at the end") << good.chopped(1) << "damaged";
-        QTest::newRow("cut in the middle") << good.first(good.size() / 2) << "damaged";
+        const QByteArray good = fileContents(m_path);
+        row("empty", QByteArray(), "_rels/.rels");
+        row("text", QByteArray("a,b,c\n"), "not a workbook");
+        row("cut at the end", good.chopped(1), "damaged");
+        row("cut in the middle", good.first(good.size() / 2), "damaged");
         const QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
-        QTest::newRow("older format") << compound + QByteArray(504, '\0') << "not a workbook of the format";
+        row("older format", compound + QByteArray(504, '\0'), "not a workbook of the format");
         const char16_t stream[] = u"EncryptedPackage";
         const QByteArray name(reinterpret_cast<const char *>(stream), 32);
-        QTest::newRow("password") << compound + QByteArray(504, '\0') + name << "encrypted";
+        row("password", compound + QByteArray(504, '\0') + name, "encrypted");
         QByteArray flipped = good;
         const qsizetype at = flipped.indexOf("sheet1.xml") + 12;
         flipped[at] = char(flipped[at] ^ 0x55);
-        QTest::newRow("damaged part") << flipped << sheetPart;
+        row("damaged part", flipped, sheetPart);
         QVERIFY(writeArchive(m_path, ordinary(), Packing::Encrypted));
-        QTest::newRow("encrypted parts") << fileBytes(m_path) << "encrypted";
+        row("encrypted parts", fileContents(m_path), "encrypted");
     }
 
     void refusesFiles()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QString, word);
-        QVERIFY(writeBytes(m_path, bytes));
+        QVERIFY(writeFile(m_path, bytes));
         verifyRefused(word);
     }
 
@@ -146,12 +131,12 @@ private Q_SLOTS:
     void survivesAnyDamage()
     {
         QVERIFY(writeArchive(m_path, ordinary()));
-        const QByteArray good = fileBytes(m_path);
+        const QByteArray good = fileContents(m_path);
         for (qsizetype at = 0; at < good.size(); at += 3) {
             QByteArray bytes = at % 2 ? good.first(at) : good;
             if (at % 2 == 0)
                 bytes[at] = char(~bytes[at]);
-            QVERIFY(writeBytes(m_path, bytes));
+            QVERIFY(writeFile(m_path, bytes));
             QExcel excel(std::make_unique<sheets::FileSheetEngine>());
             if (excel.open(m_path)) {
                 (void)excel.cellText(1, 1);

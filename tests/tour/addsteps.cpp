@@ -1,182 +1,167 @@
 #include "device/devicefactory.h"
-#include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QQuickItem>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString password = QStringLiteral("Office-2024");
-const QString branchAddress =
-    QStringLiteral("192.168.2.21"); // a search of the local segment does not find it
-const QString remoteId = QStringLiteral("OV7QK2M4X9T3HD58");
+const QString password = u"Office-2024"_s;
+const QString branchAddress = u"192.168.2.21"_s; // a search of the local segment does not find it
+const QString remoteId = u"OV7QK2M4X9T3HD58"_s;
 
 QVariantMap deviceAt(const QString &ipport)
 {
-    return CDeviceFactory::getinstance()->getDeviceInfo(QStringLiteral("dh"), ipport);
+    return CDeviceFactory::getinstance()->getDeviceInfo(u"dh"_s, ipport);
 }
 
 int rows(const Driver &driver)
 {
-    return driver.require(QStringLiteral("deviceTable"))->property("count").toInt();
+    return driver.require(u"deviceTable"_s)->property("count").toInt();
 }
 
 int favourites(const Driver &driver)
 {
-    return driver.require(QStringLiteral("favouriteTable"))->property("count").toInt();
-}
-
-void expectToast(const Driver &driver, const QString &text)
-{
-    driver.await(QStringLiteral("\"%1\" is said").arg(text),
-                 [&] { return driver.texts(QStringLiteral("toastText")).contains(text); });
+    return driver.require(u"favouriteTable"_s)->property("count").toInt();
 }
 
 /// The dialog stays open and says, as a message and under the field, why it does not go on.
 void expectRefusal(const Driver &driver, const char *message)
 {
-    const QString text = QCoreApplication::translate("AddDeviceDialog", message);
-    driver.click(QStringLiteral("okButton"));
+    const QString text = translated("AddDeviceDialog", message);
+    driver.click(u"okButton"_s);
     expectToast(driver, text);
-    driver.check(driver.find(QStringLiteral("portField")) != nullptr,
-                 QStringLiteral("the dialog stays open"));
+    driver.check(driver.find(u"portField"_s) != nullptr, u"the dialog stays open"_s);
 }
 
 /// Fills the fields that both kinds of device have, and asks for the device.
 void confirm(const Driver &driver, const QString &port, const QString &withPassword)
 {
-    driver.fill(QStringLiteral("portField"), port);
-    driver.fill(QStringLiteral("devicePasswordField"), withPassword);
-    driver.click(QStringLiteral("okButton"));
+    driver.fill(u"portField"_s, port);
+    driver.fill(u"devicePasswordField"_s, withPassword);
+    driver.click(u"okButton"_s);
 }
 
 void markAsFavourite(const Driver &driver, const QString &note)
 {
-    driver.click(QStringLiteral("favouriteBox"));
-    driver.fill(QStringLiteral("noteField"), note);
+    driver.click(u"favouriteBox"_s);
+    driver.fill(u"noteField"_s, note);
 }
 
 void awaitEndOfDialog(const Driver &driver)
 {
-    driver.await(QStringLiteral("the dialog closes"),
-                 [&] { return !driver.find(QStringLiteral("portField")); });
+    driver.await(u"the dialog closes"_s, [&] { return !driver.find(u"portField"_s); });
 }
 
 void walkAddingByAddress(Driver &driver)
 {
-    driver.click(QStringLiteral("addButton"));
-    driver.report(QStringLiteral("add-menu"), QStringLiteral("the ways to add a device"));
-    driver.click(QStringLiteral("addIpItem"));
-    driver.require(QStringLiteral("portField"));
-    driver.report(QStringLiteral("add-ip"), QStringLiteral("a device by its address"));
+    driver.click(u"addButton"_s);
+    driver.report(u"add-menu"_s, u"the ways to add a device"_s);
+    driver.click(u"addIpItem"_s);
+    driver.require(u"portField"_s);
+    driver.report(u"add-ip"_s, u"a device by its address"_s);
     expectRefusal(driver, "请输入正确的IP");
-    driver.report(QStringLiteral("add-ip-no-address"), QStringLiteral("no address"));
-    driver.fill(QStringLiteral("addressField"), QStringLiteral("192.168.1.101"));
+    driver.report(u"add-ip-no-address"_s, u"no address"_s);
+    driver.fill(u"addressField"_s, u"192.168.1.101"_s);
     expectRefusal(driver, "请输入密码");
-    driver.fill(QStringLiteral("portField"), QString());
-    driver.fill(QStringLiteral("devicePasswordField"), password);
+    driver.fill(u"portField"_s, QString());
+    driver.fill(u"devicePasswordField"_s, password);
     expectRefusal(driver, "请输入端口");
 
-    confirm(driver, QStringLiteral("8800"), password);
-    expectToast(driver, QCoreApplication::translate("ResultNames", "设备已存在"));
-    driver.fill(QStringLiteral("addressField"), branchAddress);
-    confirm(driver, QStringLiteral("8800"), QStringLiteral("wrong"));
-    expectToast(driver, QCoreApplication::translate("ResultNames", "密码错误"));
-    driver.report(QStringLiteral("add-ip-wrong-password"), QStringLiteral("the wrong password"));
+    confirm(driver, u"8800"_s, password);
+    expectToast(driver, translated("ResultNames", "设备已存在"));
+    driver.fill(u"addressField"_s, branchAddress);
+    confirm(driver, u"8800"_s, u"wrong"_s);
+    expectToast(driver, translated("ResultNames", "密码错误"));
+    driver.report(u"add-ip-wrong-password"_s, u"the wrong password"_s);
 
     const int before = rows(driver);
-    markAsFavourite(driver, QStringLiteral("分店 till 1"));
-    driver.report(QStringLiteral("add-ip-favourite"), QStringLiteral("with a note for the favourites"));
-    confirm(driver, QStringLiteral("8800"), password);
+    markAsFavourite(driver, u"分店 till 1"_s);
+    driver.report(u"add-ip-favourite"_s, u"with a note for the favourites"_s);
+    confirm(driver, u"8800"_s, password);
     awaitEndOfDialog(driver);
-    driver.check(rows(driver) == before + 1 && !deviceAt(branchAddress + QStringLiteral(":8800")).isEmpty(),
-                 QStringLiteral("the device is in the list"));
-    driver.report(QStringLiteral("added-ip"), driver.texts(QStringLiteral("toastText")).last());
+    driver.check(rows(driver) == before + 1 && !deviceAt(branchAddress + u":8800"_s).isEmpty(),
+                 u"the device is in the list"_s);
+    driver.report(u"added-ip"_s, driver.texts(u"toastText"_s).last());
 }
 
 void walkAddingByP2p(Driver &driver)
 {
-    driver.click(QStringLiteral("addButton"));
-    driver.click(QStringLiteral("addP2pItem"));
+    driver.click(u"addButton"_s);
+    driver.click(u"addP2pItem"_s);
     expectRefusal(driver, "请输入P2P ID");
-    driver.fill(QStringLiteral("p2pIdField"), QStringLiteral("OV00NOSUCHDEVICE"));
-    confirm(driver, QStringLiteral("8800"), password);
-    driver.await(QStringLiteral("the dialog stays open and can be used again"),
-                 [&] { return driver.require(QStringLiteral("p2pIdField"))->isEnabled(); });
-    driver.report(QStringLiteral("add-p2p-unknown"), QStringLiteral("no port leads to an unknown ID"));
+    driver.fill(u"p2pIdField"_s, u"OV00NOSUCHDEVICE"_s);
+    confirm(driver, u"8800"_s, password);
+    driver.await(u"the dialog stays open and can be used again"_s,
+                 [&] { return driver.require(u"p2pIdField"_s)->isEnabled(); });
+    driver.report(u"add-p2p-unknown"_s, u"no port leads to an unknown ID"_s);
 
     const int before = rows(driver);
-    driver.fill(QStringLiteral("p2pIdField"), remoteId);
-    markAsFavourite(driver, QStringLiteral("Construction site"));
-    confirm(driver, QStringLiteral("8800"), password);
+    driver.fill(u"p2pIdField"_s, remoteId);
+    markAsFavourite(driver, u"Construction site"_s);
+    confirm(driver, u"8800"_s, password);
     awaitEndOfDialog(driver);
-    driver.check(rows(driver) == before + 1, QStringLiteral("the remote device is in the list"));
-    driver.report(QStringLiteral("added-p2p"), driver.texts(QStringLiteral("toastText")).last());
+    driver.check(rows(driver) == before + 1, u"the remote device is in the list"_s);
+    driver.report(u"added-p2p"_s, driver.texts(u"toastText"_s).last());
 }
 
 void walkAddingFavourites(Driver &driver)
 {
-    driver.click(QStringLiteral("addButton"));
-    driver.click(QStringLiteral("addFavouriteItem"));
-    driver.require(QStringLiteral("favouriteTable"));
-    driver.check(favourites(driver) == 2, QStringLiteral("two favourites are listed"));
-    driver.report(QStringLiteral("favourites"), QStringLiteral("what was saved"));
+    driver.click(u"addButton"_s);
+    driver.click(u"addFavouriteItem"_s);
+    driver.require(u"favouriteTable"_s);
+    driver.check(favourites(driver) == 2, u"two favourites are listed"_s);
+    driver.report(u"favourites"_s, u"what was saved"_s);
 
     // The device at the address is in the list already; the remote one is only logged in to again.
-    driver.click(QStringLiteral("note0"));
+    driver.click(u"note0"_s);
     driver.key(Qt::Key_A, Qt::ControlModifier);
-    driver.click(QStringLiteral("okButton"));
-    const QString added = QCoreApplication::translate("AddDevicesByFavoritesWindow", "已添加");
-    driver.await(QStringLiteral("each row says how it went"), [&] {
-        return driver.text(QStringLiteral("addResult0")) ==
-                   QCoreApplication::translate("ResultNames", "设备已存在") &&
-               driver.text(QStringLiteral("addResult1")) == added;
+    driver.click(u"okButton"_s);
+    const QString added = translated("AddDevicesByFavoritesWindow", "已添加");
+    driver.await(u"each row says how it went"_s, [&] {
+        return driver.text(u"addResult0"_s) == translated("ResultNames", "设备已存在") &&
+               driver.text(u"addResult1"_s) == added;
     });
-    driver.report(QStringLiteral("favourites-added"), driver.texts(QStringLiteral("addResult0")).last());
+    driver.report(u"favourites-added"_s, driver.texts(u"addResult0"_s).last());
 
-    const QString ipport = branchAddress + QStringLiteral(":8800");
-    CDeviceFactory::getinstance()->setDeleteDevice(QStringLiteral("dh"),
-                                                   deviceAt(ipport).value(QStringLiteral("mac")).toString(),
-                                                   QStringLiteral("IPV4"));
-    driver.doubleClick(QStringLiteral("note0"));
-    driver.await(QStringLiteral("a device that was deleted is added by a double click"), [&] {
-        return driver.text(QStringLiteral("addResult0")) == added && !deviceAt(ipport).isEmpty();
-    });
+    const QString ipport = branchAddress + u":8800"_s;
+    CDeviceFactory::getinstance()->setDeleteDevice(u"dh"_s, deviceAt(ipport).value(u"mac"_s).toString(),
+                                                   u"IPV4"_s);
+    driver.doubleClick(u"note0"_s);
+    driver.await(u"a device that was deleted is added by a double click"_s,
+                 [&] { return driver.text(u"addResult0"_s) == added && !deviceAt(ipport).isEmpty(); });
 }
 
 void walkChangingFavourites(Driver &driver)
 {
-    driver.click(QStringLiteral("editNote0"));
-    driver.fill(QStringLiteral("noteEditor"), QStringLiteral("收银台 till 2"));
-    driver.report(QStringLiteral("favourite-note"), QStringLiteral("a note is edited in its place"));
+    driver.click(u"editNote0"_s);
+    driver.fill(u"noteEditor"_s, u"收银台 till 2"_s);
+    driver.report(u"favourite-note"_s, u"a note is edited in its place"_s);
     driver.key(Qt::Key_Return);
-    driver.await(QStringLiteral("the note is changed"),
-                 [&] { return driver.text(QStringLiteral("note0")) == QStringLiteral("收银台 till 2"); });
-    driver.fill(QStringLiteral("favouriteFilter"), QStringLiteral("TILL 2"));
-    driver.check(favourites(driver) == 1, QStringLiteral("the filter leaves one favourite"));
-    driver.fill(QStringLiteral("favouriteFilter"), QStringLiteral("no such note"));
-    driver.report(QStringLiteral("favourites-filtered"), driver.texts(QStringLiteral("emptyTitle")).last());
-    driver.click(QStringLiteral("emptyActionButton"));
+    driver.await(u"the note is changed"_s, [&] { return driver.text(u"note0"_s) == u"收银台 till 2"_s; });
+    driver.fill(u"favouriteFilter"_s, u"TILL 2"_s);
+    driver.check(favourites(driver) == 1, u"the filter leaves one favourite"_s);
+    driver.fill(u"favouriteFilter"_s, u"no such note"_s);
+    driver.report(u"favourites-filtered"_s, driver.texts(u"emptyTitle"_s).last());
+    driver.click(u"emptyActionButton"_s);
 
-    driver.click(QStringLiteral("deleteFavourite0"));
-    driver.report(QStringLiteral("favourite-delete"), driver.text(QStringLiteral("messageText")));
+    driver.click(u"deleteFavourite0"_s);
+    driver.report(u"favourite-delete"_s, driver.text(u"messageText"_s));
     driver.key(Qt::Key_Escape);
-    driver.check(favourites(driver) == 2, QStringLiteral("nothing is deleted unconfirmed"));
+    driver.check(favourites(driver) == 2, u"nothing is deleted unconfirmed"_s);
     for (int left = 1; left >= 0; --left) {
-        driver.click(QStringLiteral("deleteFavourite0"));
-        driver.require(QStringLiteral("messageText"));
-        driver.click(QStringLiteral("okButton"));
-        driver.await(QStringLiteral("%1 favourites are left").arg(left),
-                     [&] { return favourites(driver) == left; });
+        driver.click(u"deleteFavourite0"_s);
+        driver.require(u"messageText"_s);
+        driver.click(u"okButton"_s);
+        driver.await(u"%1 favourites are left"_s.arg(left), [&] { return favourites(driver) == left; });
     }
-    driver.report(QStringLiteral("favourites-empty"), driver.texts(QStringLiteral("emptyTitle")).last());
+    driver.report(u"favourites-empty"_s, driver.texts(u"emptyTitle"_s).last());
     driver.key(Qt::Key_Escape);
-    driver.await(QStringLiteral("the favourites close"),
-                 [&] { return !driver.find(QStringLiteral("favouriteTable")); });
-    const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/fav"));
-    driver.check(folder.exists() && folder.isEmpty(), QStringLiteral("no file is left in the folder"));
+    driver.await(u"the favourites close"_s, [&] { return !driver.find(u"favouriteTable"_s); });
+    const QDir folder(QCoreApplication::applicationDirPath() + u"/fav"_s);
+    driver.check(folder.exists() && folder.isEmpty(), u"no file is left in the folder"_s);
 }
 
 } // namespace

@@ -1,17 +1,15 @@
 #include "cgi/cgiconfigmanage.h"
 #include "sheets/qexcel.h"
-#include "tests/tour/driver.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
-#include <QQuickItem>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -19,11 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString camera = u"192.168.1.106:8800"_s;
-
-QString translated(const char *context, const char *text)
-{
-    return QCoreApplication::translate(context, text);
-}
 
 QString answerOf(const Driver &driver, int row)
 {
@@ -47,11 +40,6 @@ QString send(const Driver &driver, const QString &command)
     });
     awaitIdle(driver);
     return answerOf(driver, 0);
-}
-
-void expectToast(const Driver &driver, const QString &text)
-{
-    driver.await(u"\"%1\" is said"_s.arg(text), [&] { return driver.texts(u"toastText"_s).contains(text); });
 }
 
 /// Reads the window of an answer, if it is open, and closes it.

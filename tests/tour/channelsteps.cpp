@@ -2,13 +2,13 @@
 #include "sdk/camerablocks.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
-#include "tests/tour/driver.h"
+#include "tests/files/filecontents.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
 #include <QClipboard>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QJsonObject>
 
@@ -33,11 +33,6 @@ QString nameOf(const Driver &driver, int row)
 bool hasKeyboard(const Driver &driver, int row)
 {
     return driver.require(u"channelName%1"_s.arg(row))->hasActiveFocus();
-}
-
-QString translated(const char *context, const char *text)
-{
-    return QCoreApplication::translate(context, text);
 }
 
 void awaitLogin(const Driver &driver)
@@ -132,12 +127,6 @@ void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"tab0"_s);
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The open panel's text as a file, which is not written over unasked.
 void exportDetails(Driver &driver, const QString &folder)
 {
@@ -149,15 +138,13 @@ void exportDetails(Driver &driver, const QString &folder)
     driver.click(u"detailExportButton"_s);
     driver.answerFileBox(folder);
     driver.await(u"the details are written"_s, saidToast);
-    const QByteArray written = contentOf(path);
+    const QByteArray written = fileContents(path);
     driver.check(written.contains(recorderMac.toLatin1()) && written.contains("554"),
                  u"the file holds what the search and the login have told"_s);
     driver.check(!written.contains("Office-2024"), u"and no password"_s);
     driver.report(u"detail-exported"_s, QFileInfo(path).fileName());
 
-    QFile file(path);
-    driver.check(file.open(QFile::WriteOnly) && file.write("kept") == 4, u"the file is another one"_s);
-    file.close();
+    driver.check(writeFile(path, "kept"), u"the file is another one"_s);
     driver.click(u"detailExportButton"_s);
     driver.answerFileBox(folder);
     driver.await(u"the user is asked"_s, [&] { return driver.text(u"messageText"_s).contains(path); });
@@ -167,7 +154,7 @@ void exportDetails(Driver &driver, const QString &folder)
     });
     driver.key(Qt::Key_Escape);
     driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
-    driver.check(contentOf(path) == "kept", u"a file is not written over unasked"_s);
+    driver.check(fileContents(path) == "kept", u"a file is not written over unasked"_s);
 }
 
 /// What the search told, then what a login adds; searched, copied and exported.

@@ -1,15 +1,13 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
 #include "sdk/encodeblocks.h"
-#include "tests/tour/driver.h"
 #include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QQuickItem>
 
 using namespace Qt::StringLiterals;
 
@@ -92,16 +90,6 @@ void chooseRecorder(const Driver &driver)
     driver.await(u"the cameras are there again"_s, [&] { return tree->property("count").toInt() == rows; });
 }
 
-QString translated(const char *context, const char *text)
-{
-    return QCoreApplication::translate(context, text);
-}
-
-void expectToast(const Driver &driver, const QString &text)
-{
-    driver.await(u"\"%1\" is said"_s.arg(text), [&] { return driver.texts(u"toastText"_s).contains(text); });
-}
-
 /// A login that is refused asks for the account, and goes on with it.
 void walkLogin(Driver &driver)
 {
@@ -129,17 +117,6 @@ void walkLogin(Driver &driver)
     driver.require(u"encodeSaveButton"_s);
     awaitIdle(driver);
     driver.report(u"config-encode"_s, driver.text(u"configDevice"_s));
-}
-
-/// The account that found devices are logged in to with.
-void setDefaultPassword(const Driver &driver)
-{
-    driver.click(u"searchSettingsButton"_s);
-    driver.fill(u"passwordField"_s, password);
-    driver.click(u"okButton"_s);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
 }
 
 void walkStreams(Driver &driver)
@@ -407,7 +384,7 @@ void walkOddDevices(Driver &driver, sdk::demo::DemoSite &site)
 void walkConfiguration(Driver &driver, sdk::demo::DemoSite &site)
 {
     walkLogin(driver);
-    setDefaultPassword(driver);
+    setDefaultPassword(driver, password);
     walkStreams(driver);
     walkLeaving(driver);
     walkSaving(driver, site);

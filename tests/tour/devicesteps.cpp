@@ -1,137 +1,128 @@
-#include "tests/tour/driver.h"
 #include "tests/tour/openedaddresses.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QGuiApplication>
-#include <QQuickItem>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 void expectMessage(const Driver &driver, const char *context, const char *message)
 {
-    const QString expected = QCoreApplication::translate(context, message);
-    driver.await(QStringLiteral("\"%1\" is said").arg(expected),
-                 [&] { return driver.texts(QStringLiteral("toastText")).contains(expected); });
+    expectToast(driver, translated(context, message));
 }
 
 void untickAll(const Driver &driver)
 {
     const Rows rows(driver);
     while (rows.countOf("checked", true) > 0)
-        driver.click(QStringLiteral("checkAllBox"));
+        driver.click(u"checkAllBox"_s);
 }
 
 void searchAgain(const Driver &driver)
 {
     driver.key(Qt::Key_F5);
-    driver.await(QStringLiteral("a search runs"),
-                 [&] { return driver.window()->property("searching").toBool(); });
+    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
     driver.await(
-        QStringLiteral("the search ends"), [&] { return !driver.window()->property("searching").toBool(); },
-        30);
+        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
 }
 
 /// Types a password twice and presses "OK".
 void offerPassword(const Driver &driver, const QString &password, const QString &confirmation)
 {
-    driver.fill(QStringLiteral("firstPasswordField"), password);
-    driver.fill(QStringLiteral("confirmationField"), confirmation);
-    driver.click(QStringLiteral("okButton"));
+    driver.fill(u"firstPasswordField"_s, password);
+    driver.fill(u"confirmationField"_s, confirmation);
+    driver.click(u"okButton"_s);
 }
 
 void awaitClosed(const Driver &driver, const QString &name)
 {
-    driver.await(QStringLiteral("\"%1\" is closed").arg(name), [&] { return !driver.find(name); });
+    driver.await(u"\"%1\" is closed"_s.arg(name), [&] { return !driver.find(name); });
 }
 
 void walkFirstPasswords(Driver &driver)
 {
     const Rows rows(driver);
-    driver.click(QStringLiteral("initialiseButton"));
+    driver.click(u"initialiseButton"_s);
     expectMessage(driver, "ModifyIPBatches", "请选择一台未初始化的设备");
-    driver.click(QStringLiteral("checkAllBox"));
-    driver.click(QStringLiteral("initialiseButton"));
-    driver.await(QStringLiteral("the factory-new devices are listed"), [&] {
-        return driver.find(QStringLiteral("initialiseTable")) &&
-               Rows(driver, QStringLiteral("initialiseTable")).count() == 3;
+    driver.click(u"checkAllBox"_s);
+    driver.click(u"initialiseButton"_s);
+    driver.await(u"the factory-new devices are listed"_s, [&] {
+        return driver.find(u"initialiseTable"_s) && Rows(driver, u"initialiseTable"_s).count() == 3;
     });
-    driver.report(QStringLiteral("initialise"), QStringLiteral("three devices to be initialised"));
-    driver.click(QStringLiteral("okButton"));
-    driver.report(QStringLiteral("first-password"), driver.text(QStringLiteral("uninitialisedCount")));
+    driver.report(u"initialise"_s, u"three devices to be initialised"_s);
+    driver.click(u"okButton"_s);
+    driver.report(u"first-password"_s, driver.text(u"uninitialisedCount"_s));
 
-    offerPassword(driver, QStringLiteral("abcdefgh"), QStringLiteral("abcdefgh"));
+    offerPassword(driver, u"abcdefgh"_s, u"abcdefgh"_s);
     expectMessage(driver, "FirstPasswordDialog",
                   "请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。");
-    driver.report(QStringLiteral("first-password-weak"), QStringLiteral("a weak password is refused"));
-    offerPassword(driver, QStringLiteral("tour2024"), QStringLiteral("tour2025"));
+    driver.report(u"first-password-weak"_s, u"a weak password is refused"_s);
+    offerPassword(driver, u"tour2024"_s, u"tour2025"_s);
     expectMessage(driver, "FirstPasswordDialog", "请输入相同的密码");
-    driver.report(QStringLiteral("first-password-differs"),
-                  QStringLiteral("of medium strength, and mistyped"));
-    offerPassword(driver, QStringLiteral("Ab1!"), QStringLiteral("Ab1!"));
+    driver.report(u"first-password-differs"_s, u"of medium strength, and mistyped"_s);
+    offerPassword(driver, u"Ab1!"_s, u"Ab1!"_s);
     expectMessage(driver, "FirstPasswordDialog", "密码长度应当在8到32个字符范围内");
-    driver.report(QStringLiteral("first-password-short"), QStringLiteral("strong, but too short"));
-    offerPassword(driver, QStringLiteral("Tour-2024"), QStringLiteral("Tour-2024"));
-    awaitClosed(driver, QStringLiteral("firstPasswordField"));
-    driver.await(QStringLiteral("three results are there"), [&] { return rows.countOf("res", 0) == 3; });
-    driver.await(QStringLiteral("the rows show the new state without a search"),
+    driver.report(u"first-password-short"_s, u"strong, but too short"_s);
+    offerPassword(driver, u"Tour-2024"_s, u"Tour-2024"_s);
+    awaitClosed(driver, u"firstPasswordField"_s);
+    driver.await(u"three results are there"_s, [&] { return rows.countOf("res", 0) == 3; });
+    driver.await(u"the rows show the new state without a search"_s,
                  [&] { return rows.countOf("state", false) == 0; });
-    driver.report(QStringLiteral("initialised"), QStringLiteral("three devices are initialised"));
+    driver.report(u"initialised"_s, u"three devices are initialised"_s);
 
     // The address can be changed at once.
     driver.key(Qt::Key_F, Qt::ControlModifier);
-    driver.type(QStringLiteral("192.168.1.110"));
-    driver.await(QStringLiteral("one row is left"), [&] { return rows.count() == 1; });
-    driver.click(QStringLiteral("edit0"));
-    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.111"));
+    driver.type(u"192.168.1.110"_s);
+    driver.await(u"one row is left"_s, [&] { return rows.count() == 1; });
+    driver.click(u"edit0"_s);
+    driver.fill(u"newStartField"_s, u"192.168.1.111"_s);
     driver.key(Qt::Key_Return);
-    driver.await(QStringLiteral("the row is found under its old address no more"),
-                 [&] { return rows.count() == 0 && !driver.find(QStringLiteral("runningText")); });
-    driver.click(QStringLiteral("emptyActionButton"));
-    driver.await(QStringLiteral("a device has another address right after its first password"), [&] {
-        const int row = rows.rowOf("ipport", QStringLiteral("192.168.1.111:8800"));
+    driver.await(u"the row is found under its old address no more"_s,
+                 [&] { return rows.count() == 0 && !driver.find(u"runningText"_s); });
+    driver.click(u"emptyActionButton"_s);
+    driver.await(u"a device has another address right after its first password"_s, [&] {
+        const int row = rows.rowOf("ipport", u"192.168.1.111:8800"_s);
         return row >= 0 && rows.value(row, "res").toInt() == 0;
     });
     searchAgain(driver);
-    driver.check(rows.countOf("state", false) == 0,
-                 QStringLiteral("the next search finds no factory-new device"));
+    driver.check(rows.countOf("state", false) == 0, u"the next search finds no factory-new device"_s);
 }
 
 void walkBatchAcrossOctet(Driver &driver)
 {
     const Rows rows(driver);
     untickAll(driver);
-    driver.click(QStringLiteral("batchModifyButton"));
+    driver.click(u"batchModifyButton"_s);
     expectMessage(driver, "ModifyIPBatches", "请选择一台设备");
     QStringList macs;
     for (int row = 0; row < 3; ++row) {
-        driver.click(QStringLiteral("check%1").arg(row));
+        driver.click(u"check%1"_s.arg(row));
         macs.append(rows.value(row, "mac").toString());
     }
-    driver.click(QStringLiteral("batchModifyButton"));
-    driver.report(QStringLiteral("modify-batch"), driver.text(QStringLiteral("batchCount")));
-    driver.click(QStringLiteral("okButton"));
+    driver.click(u"batchModifyButton"_s);
+    driver.report(u"modify-batch"_s, driver.text(u"batchCount"_s));
+    driver.click(u"okButton"_s);
     expectMessage(driver, "ModifyIPDialog", "请输入正确的起始IP");
-    driver.report(QStringLiteral("modify-batch-refused"), QStringLiteral("no start address"));
-    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.254"));
-    driver.check(driver.text(QStringLiteral("newGatewayField")) == QLatin1String("192.168.1.1"),
-                 QStringLiteral("the gateway follows the address"));
-    driver.click(QStringLiteral("planButton"));
-    driver.report(QStringLiteral("modify-batch-plan"),
-                  QStringLiteral("%1 addresses are marked").arg(driver.text(QStringLiteral("planWarning"))));
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("three results are there"), [&] { return rows.countOf("res", 0) == 3; });
-    driver.report(QStringLiteral("modified-batch"), QStringLiteral("three devices have new addresses"));
+    driver.report(u"modify-batch-refused"_s, u"no start address"_s);
+    driver.fill(u"newStartField"_s, u"192.168.1.254"_s);
+    driver.check(driver.text(u"newGatewayField"_s) == QLatin1String("192.168.1.1"),
+                 u"the gateway follows the address"_s);
+    driver.click(u"planButton"_s);
+    driver.report(u"modify-batch-plan"_s, u"%1 addresses are marked"_s.arg(driver.text(u"planWarning"_s)));
+    driver.click(u"okButton"_s);
+    driver.await(u"three results are there"_s, [&] { return rows.countOf("res", 0) == 3; });
+    driver.report(u"modified-batch"_s, u"three devices have new addresses"_s);
 
     searchAgain(driver);
-    const QStringList expected = {QStringLiteral("192.168.1.254"), QStringLiteral("192.168.1.255"),
-                                  QStringLiteral("192.168.2.0")};
+    const QStringList expected = {u"192.168.1.254"_s, u"192.168.1.255"_s, u"192.168.2.0"_s};
     for (int place = 0; place < 3; ++place) {
         const QString found = rows.value(rows.rowOf("mac", macs.at(place)), "ipport").toString();
         driver.check(found.section(QLatin1Char(':'), 0, 0) == expected.at(place),
-                     QStringLiteral("the device answers at %1 (%2)").arg(expected.at(place), found));
+                     u"the device answers at %1 (%2)"_s.arg(expected.at(place), found));
     }
 }
 
@@ -140,17 +131,17 @@ void walkCollision(Driver &driver)
     const Rows rows(driver);
     untickAll(driver);
     const int before = rows.countOf("conflict", true);
-    driver.click(QStringLiteral("check6"));
-    driver.click(QStringLiteral("check5"));
-    driver.click(QStringLiteral("batchModifyButton"));
-    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.230"));
-    driver.click(QStringLiteral("sameAddressBox"));
-    driver.click(QStringLiteral("planButton"));
-    driver.report(QStringLiteral("modify-same-plan"), QStringLiteral("two devices of one address"));
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("the two rows are in conflict"),
+    driver.click(u"check6"_s);
+    driver.click(u"check5"_s);
+    driver.click(u"batchModifyButton"_s);
+    driver.fill(u"newStartField"_s, u"192.168.1.230"_s);
+    driver.click(u"sameAddressBox"_s);
+    driver.click(u"planButton"_s);
+    driver.report(u"modify-same-plan"_s, u"two devices of one address"_s);
+    driver.click(u"okButton"_s);
+    driver.await(u"the two rows are in conflict"_s,
                  [&] { return rows.countOf("conflict", true) == before + 2; });
-    driver.report(QStringLiteral("collided"), QStringLiteral("two more rows are marked"));
+    driver.report(u"collided"_s, u"two more rows are marked"_s);
 }
 
 void walkSingle(Driver &driver)
@@ -158,35 +149,33 @@ void walkSingle(Driver &driver)
     const Rows rows(driver);
     untickAll(driver);
     const QString mac = rows.value(0, "mac").toString();
-    driver.click(QStringLiteral("edit0"));
-    driver.report(QStringLiteral("modify-one"), QStringLiteral("one device"));
-    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.231"));
-    driver.fill(QStringLiteral("newMaskField"), QStringLiteral("255.0.255.0"));
-    driver.click(QStringLiteral("okButton"));
+    driver.click(u"edit0"_s);
+    driver.report(u"modify-one"_s, u"one device"_s);
+    driver.fill(u"newStartField"_s, u"192.168.1.231"_s);
+    driver.fill(u"newMaskField"_s, u"255.0.255.0"_s);
+    driver.click(u"okButton"_s);
     expectMessage(driver, "ModifyIPDialog", "请输入正确的子网掩码");
-    driver.click(QStringLiteral("dhcpButton"));
-    driver.report(QStringLiteral("modify-dhcp"), QStringLiteral("DHCP needs no address"));
-    driver.click(QStringLiteral("staticButton"));
-    driver.fill(QStringLiteral("newMaskField"), QStringLiteral("255.255.255.0"));
-    driver.fill(QStringLiteral("newStartField"),
-                rows.value(1, "ipport").toString().section(QLatin1Char(':'), 0, 0));
-    driver.fill(QStringLiteral("newGatewayField"), QStringLiteral("10.0.0.1"));
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("both warnings are given, and the other device is named"), [&] {
-        const QStringList warnings = driver.texts(QStringLiteral("fieldMessage"));
+    driver.click(u"dhcpButton"_s);
+    driver.report(u"modify-dhcp"_s, u"DHCP needs no address"_s);
+    driver.click(u"staticButton"_s);
+    driver.fill(u"newMaskField"_s, u"255.255.255.0"_s);
+    driver.fill(u"newStartField"_s, rows.value(1, "ipport").toString().section(QLatin1Char(':'), 0, 0));
+    driver.fill(u"newGatewayField"_s, u"10.0.0.1"_s);
+    driver.click(u"okButton"_s);
+    driver.await(u"both warnings are given, and the other device is named"_s, [&] {
+        const QStringList warnings = driver.texts(u"fieldMessage"_s);
         return warnings.size() == 2 && warnings.first().contains(rows.value(1, "mac").toString());
     });
-    driver.report(QStringLiteral("modify-warned"), driver.text(QStringLiteral("fieldMessage")));
-    driver.fill(QStringLiteral("newStartField"), QStringLiteral("192.168.1.231"));
-    driver.fill(QStringLiteral("newGatewayField"), QStringLiteral("10.0.0.1")); // it has followed the address
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("other warnings are asked about again"), [&] {
-        return driver.texts(QStringLiteral("fieldMessage")).size() == 1 &&
-               driver.text(QStringLiteral("okButton")) ==
-                   QCoreApplication::translate("ModifyIPDialog", "仍然修改");
+    driver.report(u"modify-warned"_s, driver.text(u"fieldMessage"_s));
+    driver.fill(u"newStartField"_s, u"192.168.1.231"_s);
+    driver.fill(u"newGatewayField"_s, u"10.0.0.1"_s); // it has followed the address
+    driver.click(u"okButton"_s);
+    driver.await(u"other warnings are asked about again"_s, [&] {
+        return driver.texts(u"fieldMessage"_s).size() == 1 &&
+               driver.text(u"okButton"_s) == QCoreApplication::translate("ModifyIPDialog", "仍然修改");
     });
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("the row has the new address"), [&] {
+    driver.click(u"okButton"_s);
+    driver.await(u"the row has the new address"_s, [&] {
         return rows.value(rows.rowOf("mac", mac), "ipport")
             .toString()
             .startsWith(QLatin1String("192.168.1.231:"));
@@ -196,19 +185,19 @@ void walkSingle(Driver &driver)
 void walkDetails(Driver &driver)
 {
     const Rows rows(driver);
-    driver.click(QStringLiteral("detail1"));
-    driver.report(QStringLiteral("detail"), QStringLiteral("what is known of a device"));
-    driver.click(QStringLiteral("okButton"));
+    driver.click(u"detail1"_s);
+    driver.report(u"detail"_s, u"what is known of a device"_s);
+    driver.click(u"okButton"_s);
     driver.check(QGuiApplication::clipboard()->text().contains(rows.value(1, "mac").toString()),
-                 QStringLiteral("the details can be copied"));
+                 u"the details can be copied"_s);
     driver.key(Qt::Key_Escape);
-    awaitClosed(driver, QStringLiteral("detailList"));
+    awaitClosed(driver, u"detailList"_s);
 
-    const OpenedAddresses pages(QStringLiteral("http"));
-    driver.click(QStringLiteral("web1"));
+    const OpenedAddresses pages(u"http"_s);
+    driver.click(u"web1"_s);
     const QString address = rows.value(1, "ipport").toString().section(QLatin1Char(':'), 0, 0);
     driver.check(pages.last().toString().startsWith(QLatin1String("http://") + address),
-                 QStringLiteral("the web page is opened: %1").arg(pages.last().toString()));
+                 u"the web page is opened: %1"_s.arg(pages.last().toString()));
 }
 
 void walkDeleting(Driver &driver)
@@ -216,16 +205,16 @@ void walkDeleting(Driver &driver)
     const Rows rows(driver);
     untickAll(driver);
     const int before = rows.count();
-    driver.click(QStringLiteral("check0"));
-    driver.click(QStringLiteral("check2"));
-    driver.click(QStringLiteral("deleteButton"));
-    driver.report(QStringLiteral("delete"), driver.text(QStringLiteral("messageText")));
-    driver.click(QStringLiteral("cancelButton"));
-    driver.check(rows.count() == before, QStringLiteral("nothing is deleted without a yes"));
-    driver.click(QStringLiteral("deleteButton"));
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("two rows are gone"), [&] { return rows.count() == before - 2; });
-    driver.report(QStringLiteral("deleted"), QStringLiteral("%1 devices are left").arg(rows.count()));
+    driver.click(u"check0"_s);
+    driver.click(u"check2"_s);
+    driver.click(u"deleteButton"_s);
+    driver.report(u"delete"_s, driver.text(u"messageText"_s));
+    driver.click(u"cancelButton"_s);
+    driver.check(rows.count() == before, u"nothing is deleted without a yes"_s);
+    driver.click(u"deleteButton"_s);
+    driver.click(u"okButton"_s);
+    driver.await(u"two rows are gone"_s, [&] { return rows.count() == before - 2; });
+    driver.report(u"deleted"_s, u"%1 devices are left"_s.arg(rows.count()));
 }
 
 } // namespace

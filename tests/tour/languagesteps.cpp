@@ -1,19 +1,20 @@
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
+using namespace Qt::StringLiterals;
+
 void walkLanguageChange(Driver &driver, const QString &otherLanguage)
 {
-    driver.click(QStringLiteral("menuButton"));
-    driver.click(QStringLiteral("languageMenuItem"));
-    driver.click(QStringLiteral("language_") + otherLanguage);
-    driver.require(QStringLiteral("okButton"));
-    driver.report(QStringLiteral("restart-prompt"), QStringLiteral("the change takes a restart"));
-    driver.click(QStringLiteral("cancelButton"));
-    driver.await(QStringLiteral("the prompt closes"),
-                 [&] { return !driver.find(QStringLiteral("okButton")); });
+    driver.click(u"menuButton"_s);
+    driver.click(u"languageMenuItem"_s);
+    driver.click(u"language_"_s + otherLanguage);
+    driver.require(u"okButton"_s);
+    driver.report(u"restart-prompt"_s, u"the change takes a restart"_s);
+    driver.click(u"cancelButton"_s);
+    driver.await(u"the prompt closes"_s, [&] { return !driver.find(u"okButton"_s); });
 
-    driver.click(QStringLiteral("menuButton"));
-    driver.click(QStringLiteral("languageMenuItem"));
-    driver.click(QStringLiteral("language_") + otherLanguage);
-    driver.click(QStringLiteral("okButton"));
+    driver.click(u"menuButton"_s);
+    driver.click(u"languageMenuItem"_s);
+    driver.click(u"language_"_s + otherLanguage);
+    driver.click(u"okButton"_s);
 }

@@ -8,12 +8,14 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void expectMessage(const Driver &driver, const QString &expected)
 {
-    driver.await(QStringLiteral("\"%1\" is said").arg(expected), [&] {
-        const QStringList texts = driver.texts(QStringLiteral("toastText"));
+    driver.await(u"\"%1\" is said"_s.arg(expected), [&] {
+        const QStringList texts = driver.texts(u"toastText"_s);
         return std::any_of(texts.cbegin(), texts.cend(),
                            [&](const QString &text) { return text.startsWith(expected); });
     });
@@ -26,20 +28,18 @@ QString translated(const char *message)
 
 void writeList(Driver &driver, const QString &format, const QString &folder)
 {
-    driver.click(QStringLiteral("exportButton"));
-    driver.click(QStringLiteral("format") + format);
-    driver.report(QStringLiteral("export") + format, QStringLiteral("the format is chosen"));
-    driver.click(QStringLiteral("okButton"));
+    driver.click(u"exportButton"_s);
+    driver.click(u"format"_s + format);
+    driver.report(u"export"_s + format, u"the format is chosen"_s);
+    driver.click(u"okButton"_s);
     driver.answerFileBox(folder);
-    expectMessage(driver,
-                  translated("导出设备成功\n文件路径:") + folder + QStringLiteral("/device") + format);
-    driver.check(QFile::exists(folder + QStringLiteral("/device") + format),
-                 QStringLiteral("the list is written"));
+    expectMessage(driver, translated("导出设备成功\n文件路径:") + folder + u"/device"_s + format);
+    driver.check(QFile::exists(folder + u"/device"_s + format), u"the list is written"_s);
 }
 
 void readList(const Driver &driver, const QString &path)
 {
-    driver.click(QStringLiteral("importButton"));
+    driver.click(u"importButton"_s);
     driver.answerFileBox(path);
 }
 
@@ -47,7 +47,7 @@ void readList(const Driver &driver, const QString &path)
 void fillAccounts(const Driver &driver, const QString &path, const QString &wrongFor)
 {
     QFile file(path);
-    driver.check(file.open(QFile::ReadOnly), QStringLiteral("the list can be read"));
+    driver.check(file.open(QFile::ReadOnly), u"the list can be read"_s);
     QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
     file.close();
     constexpr int userColumn = 9;
@@ -56,19 +56,18 @@ void fillAccounts(const Driver &driver, const QString &path, const QString &wron
         QStringList cells = line.split(QLatin1Char(','));
         if (cells.size() <= macColumn || cells.at(macColumn) == QLatin1String("MAC"))
             continue;
-        cells[userColumn] = QStringLiteral("admin");
-        cells[userColumn + 1] =
-            cells.at(macColumn) == wrongFor ? QStringLiteral("wrong") : QStringLiteral("Office-2024");
+        cells[userColumn] = u"admin"_s;
+        cells[userColumn + 1] = cells.at(macColumn) == wrongFor ? u"wrong"_s : u"Office-2024"_s;
         line = cells.join(QLatin1Char(','));
     }
     driver.check(file.open(QFile::WriteOnly) && file.write(lines.join(QLatin1Char('\n')).toUtf8()) > 0,
-                 QStringLiteral("the list is filled in"));
+                 u"the list is filled in"_s);
 }
 
 void deleteTicked(const Driver &driver)
 {
-    driver.click(QStringLiteral("deleteButton"));
-    driver.click(QStringLiteral("okButton"));
+    driver.click(u"deleteButton"_s);
+    driver.click(u"okButton"_s);
 }
 
 } // namespace
@@ -78,32 +77,30 @@ void walkLists(Driver &driver, const QString &folder)
     const Rows rows(driver);
     const int before = rows.count();
     while (rows.countOf("checked", true) > 0)
-        driver.click(QStringLiteral("checkAllBox"));
+        driver.click(u"checkAllBox"_s);
     // Devices whose address and password nothing has changed before.
-    const QStringList macs = {QStringLiteral("02:1a:c5:00:40:72"), QStringLiteral("02:1a:c5:00:40:97"),
-                              QStringLiteral("02:1a:c5:00:40:bc")};
+    const QStringList macs = {u"02:1a:c5:00:40:72"_s, u"02:1a:c5:00:40:97"_s, u"02:1a:c5:00:40:bc"_s};
     for (const QString &mac : macs)
-        driver.click(QStringLiteral("check%1").arg(rows.rowOf("mac", mac)));
+        driver.click(u"check%1"_s.arg(rows.rowOf("mac", mac)));
     QDir().mkpath(folder);
     for (const char *format : {".xlsx", ".csv", ".xml"})
         writeList(driver, QString::fromLatin1(format), folder);
 
-    fillAccounts(driver, folder + QStringLiteral("/device.csv"), macs.first());
+    fillAccounts(driver, folder + u"/device.csv"_s, macs.first());
     deleteTicked(driver);
-    driver.await(QStringLiteral("three devices are deleted"), [&] { return rows.count() == before - 3; });
-    readList(driver, folder + QStringLiteral("/device.csv"));
-    driver.await(QStringLiteral("what failed is listed"),
-                 [&] { return driver.find(QStringLiteral("reportTable")) != nullptr; });
-    driver.report(QStringLiteral("import-report"), driver.text(QStringLiteral("messageText")));
-    driver.click(QStringLiteral("okButton"));
-    driver.check(rows.count() == before - 1, QStringLiteral("two of three devices are back"));
+    driver.await(u"three devices are deleted"_s, [&] { return rows.count() == before - 3; });
+    readList(driver, folder + u"/device.csv"_s);
+    driver.await(u"what failed is listed"_s, [&] { return driver.find(u"reportTable"_s) != nullptr; });
+    driver.report(u"import-report"_s, driver.text(u"messageText"_s));
+    driver.click(u"okButton"_s);
+    driver.check(rows.count() == before - 1, u"two of three devices are back"_s);
 
-    QFile noList(folder + QStringLiteral("/no-list.xml"));
+    QFile noList(folder + u"/no-list.xml"_s);
     driver.check(noList.open(QFile::WriteOnly) && noList.write("<cameras/>") > 0,
-                 QStringLiteral("a file that is no list is written"));
+                 u"a file that is no list is written"_s);
     noList.close();
     readList(driver, noList.fileName());
     expectMessage(driver,
                   translated("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！"));
-    driver.report(QStringLiteral("import-refused"), QStringLiteral("a file that is no list is refused"));
+    driver.report(u"import-refused"_s, u"a file that is no list is refused"_s);
 }

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
-#include <QQuickItem>
 #include <QSize>
 #include <QTest>
 #include <QVariantMap>

@@ -7,6 +7,7 @@
 #include "app/messagebox.h"
 #include "app/shell.h"
 #include "sdk/demo/demonetlibrary.h"
+#include "tests/files/filecontents.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/steps.h"
 
@@ -21,6 +22,8 @@
 #include <QTimer>
 
 #include <cstdlib>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,43 +51,31 @@ void countWarnings(QtMsgType type, const QMessageLogContext &context, const QStr
 
 QString otherLanguage(const QString &language)
 {
-    return language == QLatin1String("zh_CN") ? QStringLiteral("en_US") : QStringLiteral("zh_CN");
+    return language == QLatin1String("zh_CN") ? u"en_US"_s : u"zh_CN"_s;
 }
 
 /// Written by the last process, for the one that watches.
 QString resultFile(const QString &folder)
 {
-    return folder + QStringLiteral("/result.txt");
+    return folder + u"/result.txt"_s;
 }
 
 QString restartFile(const QString &folder)
 {
-    return folder + QStringLiteral("/restarted.txt");
-}
-
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QFile::WriteOnly) && file.write(content) == content.size();
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    return folder + u"/restarted.txt"_s;
 }
 
 /// Starts the program as if for the first time and waits for its end.
 bool runStage(const QString &stage, const QString &language, const QString &folder)
 {
-    QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/LocalConfig.ini"));
-    QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/fav")).removeRecursively();
-    QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/snap")).removeRecursively();
-    QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/cgicommands.json"));
+    QFile::remove(QCoreApplication::applicationDirPath() + u"/LocalConfig.ini"_s);
+    QDir(QCoreApplication::applicationDirPath() + u"/fav"_s).removeRecursively();
+    QDir(QCoreApplication::applicationDirPath() + u"/snap"_s).removeRecursively();
+    QFile::remove(QCoreApplication::applicationDirPath() + u"/cgicommands.json"_s);
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
     if (stage == QLatin1String("fleet"))
-        localConfig.setSearchConfigPass(QStringLiteral("Installer-2024"));
+        localConfig.setSearchConfigPass(u"Installer-2024"_s);
 
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -101,14 +92,13 @@ int watch(const QString &language, const QString &folder)
 {
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
-    if (!runStage(QStringLiteral("fleet"), language, folder + QStringLiteral("/fleet")) ||
-        !runStage(QStringLiteral("program"), language, folder)) {
+    if (!runStage(u"fleet"_s, language, folder + u"/fleet"_s) || !runStage(u"program"_s, language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
     }
     const bool restarted = QTest::qWaitFor([&] { return QFile::exists(resultFile(folder)); }, minutes);
     const QByteArray result =
-        restarted ? readFile(resultFile(folder)) : "FAILED: the program did not start again";
+        restarted ? fileContents(resultFile(folder)) : "FAILED: the program did not start again";
     QTextStream(stdout) << result << Qt::endl;
     QFile::remove(restartFile(folder));
     QFile::remove(resultFile(folder));
@@ -123,9 +113,9 @@ void answerMessageBox(const QString &folder)
         auto *box = qobject_cast<OMessageBox *>(QApplication::activeModalWidget());
         if (!box)
             return;
-        QTextStream(stdout) << box->windowTitle() << ": "
-                            << box->findChild<QLabel *>(QStringLiteral("text"))->text() << Qt::endl;
-        box->grab().save(folder + QStringLiteral("/second-start-box.png"));
+        QTextStream(stdout) << box->windowTitle() << ": " << box->findChild<QLabel *>(u"text"_s)->text()
+                            << Qt::endl;
+        box->grab().save(folder + u"/second-start-box.png"_s);
         QTest::mouseClick(box->findChild<QPushButton *>(), Qt::LeftButton);
     });
     closer->start(100);
@@ -137,26 +127,26 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkTable(driver);
     walkWindow(driver);
     walkConfiguration(driver, site);
-    walkChannelNames(driver, site, folder + QStringLiteral("/details"));
-    walkLive(driver, site, folder + QStringLiteral("/live"));
-    walkCommands(driver, folder + QStringLiteral("/commands"));
+    walkChannelNames(driver, site, folder + u"/details"_s);
+    walkLive(driver, site, folder + u"/live"_s);
+    walkCommands(driver, folder + u"/commands"_s);
     walkAdding(driver);
     walkSearchSettings(driver);
     walkDevices(driver);
-    walkLists(driver, folder + QStringLiteral("/lists"));
-    walkUpgrade(driver, site, folder + QStringLiteral("/upgrade"));
+    walkLists(driver, folder + u"/lists"_s);
+    walkUpgrade(driver, site, folder + u"/upgrade"_s);
     walkSystem(driver, site);
     walkSecondStart(driver, folder);
-    driver.check(warnings == 0, QStringLiteral("no warning was given"));
-    driver.check(writeFile(restartFile(folder), "restarted"), QStringLiteral("the restart is noted"));
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.check(writeFile(restartFile(folder), "restarted"), u"the restart is noted"_s);
     walkLanguageChange(driver, otherLanguage(language));
 }
 
 void driveFleet(Driver &driver, sdk::demo::DemoSite &site)
 {
     walkFleet(driver, site);
-    driver.check(warnings == 0, QStringLiteral("no warning was given"));
-    driver.click(QStringLiteral("closeButton"));
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
 }
 
 /// The program after its restart: it has another language, and closes as any program does. Returns what it
@@ -164,13 +154,12 @@ void driveFleet(Driver &driver, sdk::demo::DemoSite &site)
 QByteArray driveRestarted(Driver &driver, const QString &language, const QString &folder)
 {
     const bool changed = CLocalConfig::getinstance()->getLanguage() == otherLanguage(language);
-    driver.await(QStringLiteral("the search of the restarted program ends"),
+    driver.await(u"the search of the restarted program ends"_s,
                  [&] { return !driver.window()->property("searching").toBool(); });
-    driver.window()->grabWindow().save(folder + QStringLiteral("/restarted.png"));
-    const QString counter = driver.text(QStringLiteral("counterText"));
-    const bool translated =
-        counter.contains(QStringLiteral("台设备")) == (language != QLatin1String("zh_CN"));
-    driver.click(QStringLiteral("closeButton"));
+    driver.window()->grabWindow().save(folder + u"/restarted.png"_s);
+    const QString counter = driver.text(u"counterText"_s);
+    const bool translated = counter.contains(u"台设备"_s) == (language != QLatin1String("zh_CN"));
+    driver.click(u"closeButton"_s);
     return changed && translated
                ? "restarted.png: after the restart \"" + counter.toUtf8() + '"'
                : "FAILED: the restarted program is not in the other language: " + counter.toUtf8();
@@ -181,9 +170,7 @@ QByteArray driveRestarted(Driver &driver, const QString &language, const QString
 int runProgram(const QString &language, const QString &folder, QByteArray &result)
 {
     const bool isFleet = qgetenv(stageVariable) == "fleet";
-    Shell shell(
-        CommandLine::parse({QStringLiteral("ConfigTools"),
-                            isFleet ? QStringLiteral("--demo=fleet:200") : QStringLiteral("--demo")}));
+    Shell shell(CommandLine::parse({u"ConfigTools"_s, isFleet ? u"--demo=fleet:200"_s : u"--demo"_s}));
     if (const std::optional<int> exitCode = shell.begin())
         return *exitCode;
     auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));

@@ -1,12 +1,11 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
-#include "tests/tour/driver.h"
 #include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
-#include <QCoreApplication>
-#include <QQuickItem>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,202 +14,182 @@ constexpr int waitsForPassword = -2;
 constexpr int wrongPassword = 2;
 constexpr int unreachable = 5;
 
-const QString first = QStringLiteral("192.168.1.104:8800");
-const QString second = QStringLiteral("192.168.2.0:8800");
-const QString third = QStringLiteral("192.168.1.105:8800");
-const QString password = QStringLiteral("Office-2024");
+const QString first = u"192.168.1.104:8800"_s;
+const QString second = u"192.168.2.0:8800"_s;
+const QString third = u"192.168.1.105:8800"_s;
+const QString password = u"Office-2024"_s;
 
 int resultOf(const Driver &driver, const QString &device)
 {
-    return driver.require(QStringLiteral("device_") + device)->property("result").toInt();
+    return driver.require(u"device_"_s + device)->property("result").toInt();
 }
 
 void tick(const Driver &driver, const QString &device)
 {
-    driver.click(QStringLiteral("tick_") + device);
+    driver.click(u"tick_"_s + device);
 }
 
 /// Presses a button and waits for the results of the three devices.
 void apply(const Driver &driver, const QString &button, const QList<int> &expected)
 {
     driver.click(button);
-    driver.await(QStringLiteral("%1: the devices' results are as they should").arg(button), [&] {
+    driver.await(u"%1: the devices' results are as they should"_s.arg(button), [&] {
         return QList<int>{resultOf(driver, first), resultOf(driver, second), resultOf(driver, third)} ==
                expected;
     });
-    driver.await(QStringLiteral("%1: the run ends").arg(button),
-                 [&] { return driver.find(QStringLiteral("runningText")) == nullptr; });
+    driver.await(u"%1: the run ends"_s.arg(button), [&] { return driver.find(u"runningText"_s) == nullptr; });
 }
 
 void expectRefusal(const Driver &driver, const QString &button, const char *context, const char *message)
 {
     driver.click(button);
-    const QString expected = QCoreApplication::translate(context, message);
-    driver.await(QStringLiteral("\"%1\" is said").arg(expected),
-                 [&] { return driver.texts(QStringLiteral("toastText")).contains(expected); });
-}
-
-/// The account that found devices are logged in to with.
-void setDefaultPassword(const Driver &driver, const QString &word)
-{
-    driver.click(QStringLiteral("searchSettingsButton"));
-    driver.fill(QStringLiteral("passwordField"), word);
-    driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("a search runs"),
-                 [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        QStringLiteral("the search ends"), [&] { return !driver.window()->property("searching").toBool(); },
-        30);
+    expectToast(driver, translated(context, message));
 }
 
 void walkTime(Driver &driver)
 {
-    setDefaultPassword(driver, QStringLiteral("not the password"));
-    driver.click(QStringLiteral("tab3"));
+    setDefaultPassword(driver, u"not the password"_s);
+    driver.click(u"tab3"_s);
     {
         // The first click is one into a tree that has not had the keyboard yet.
         const ScrolledTree tree(driver);
         tree.tickGroup();
         tree.tickDevice();
         (void)tree.clickDevice();
-        driver.turnWheel(driver.require(QStringLiteral("deviceTree"))->mapToScene({1, 1}), 100);
+        driver.turnWheel(driver.require(u"deviceTree"_s)->mapToScene({1, 1}), 100);
     }
     for (const QString &device : {first, second, third})
         tick(driver, device);
-    driver.report(QStringLiteral("system-time"), driver.text(QStringLiteral("computerTime")));
-    apply(driver, QStringLiteral("setTimeByPCButton"), {wrongPassword, wrongPassword, wrongPassword});
-    driver.hover(QStringLiteral("resultSign"));
-    driver.report(QStringLiteral("system-wrong-password"), driver.text(QStringLiteral("toolTip")));
+    driver.report(u"system-time"_s, driver.text(u"computerTime"_s));
+    apply(driver, u"setTimeByPCButton"_s, {wrongPassword, wrongPassword, wrongPassword});
+    driver.hover(u"resultSign"_s);
+    driver.report(u"system-wrong-password"_s, driver.text(u"toolTip"_s));
     setDefaultPassword(driver, password);
-    apply(driver, QStringLiteral("setTimeByPCButton"), {0, 0, 0});
-    driver.report(QStringLiteral("system-time-by-pc"), QStringLiteral("three clocks are set"));
+    apply(driver, u"setTimeByPCButton"_s, {0, 0, 0});
+    driver.report(u"system-time-by-pc"_s, u"three clocks are set"_s);
 
-    driver.fill(QStringLiteral("manualTimeField"), QStringLiteral("2024-02-30 10:00:00"));
-    expectRefusal(driver, QStringLiteral("setTimeByManualButton"), "OVDateTimeField", "请输入正确的时间");
-    driver.report(QStringLiteral("system-no-time"), QStringLiteral("a day that there is not"));
-    driver.fill(QStringLiteral("manualTimeField"), QStringLiteral("2024-02-29 10:00:00"));
-    apply(driver, QStringLiteral("setTimeByManualButton"), {0, 0, 0});
+    driver.fill(u"manualTimeField"_s, u"2024-02-30 10:00:00"_s);
+    expectRefusal(driver, u"setTimeByManualButton"_s, "OVDateTimeField", "请输入正确的时间");
+    driver.report(u"system-no-time"_s, u"a day that there is not"_s);
+    driver.fill(u"manualTimeField"_s, u"2024-02-29 10:00:00"_s);
+    apply(driver, u"setTimeByManualButton"_s, {0, 0, 0});
 }
 
 void walkZone(Driver &driver)
 {
-    driver.click(QStringLiteral("systemTab1"));
-    driver.click(QStringLiteral("dstEnableBox"));
-    driver.click(QStringLiteral("startWeekBox"));
-    driver.report(QStringLiteral("system-weeks"), driver.texts(QStringLiteral("chosenText")).join(u' '));
-    driver.click(QStringLiteral("choice4")); // the last one
-    apply(driver, QStringLiteral("dstApplyButton"), {0, 0, 0});
-    driver.click(QStringLiteral("dstByDate"));
-    driver.require(QStringLiteral("startDayBox"));
-    driver.report(QStringLiteral("system-zone"), driver.texts(QStringLiteral("chosenText")).join(u' '));
+    driver.click(u"systemTab1"_s);
+    driver.click(u"dstEnableBox"_s);
+    driver.click(u"startWeekBox"_s);
+    driver.report(u"system-weeks"_s, driver.texts(u"chosenText"_s).join(u' '));
+    driver.click(u"choice4"_s); // the last one
+    apply(driver, u"dstApplyButton"_s, {0, 0, 0});
+    driver.click(u"dstByDate"_s);
+    driver.require(u"startDayBox"_s);
+    driver.report(u"system-zone"_s, driver.texts(u"chosenText"_s).join(u' '));
 
-    driver.click(QStringLiteral("ntpSetBox"));
-    expectRefusal(driver, QStringLiteral("ntpApplyButton"), "SystemZonePanel", "请输入NTP服务器");
-    driver.fill(QStringLiteral("ntpServerField"), QStringLiteral("192.168.1.1"));
-    driver.fill(QStringLiteral("ntpPortField"), QStringLiteral("70000"));
-    driver.check(driver.text(QStringLiteral("ntpPortField")) == QStringLiteral("65535"),
-                 QStringLiteral("a port that is too large becomes the largest"));
-    driver.fill(QStringLiteral("ntpPortField"), QStringLiteral("123"));
-    driver.click(QStringLiteral("timeZoneBox"));
-    driver.report(QStringLiteral("system-time-zones"), QStringLiteral("the zones of devices"));
-    driver.click(QStringLiteral("choice1"));
-    apply(driver, QStringLiteral("ntpApplyButton"), {0, 0, 0});
+    driver.click(u"ntpSetBox"_s);
+    expectRefusal(driver, u"ntpApplyButton"_s, "SystemZonePanel", "请输入NTP服务器");
+    driver.fill(u"ntpServerField"_s, u"192.168.1.1"_s);
+    driver.fill(u"ntpPortField"_s, u"70000"_s);
+    driver.check(driver.text(u"ntpPortField"_s) == u"65535"_s,
+                 u"a port that is too large becomes the largest"_s);
+    driver.fill(u"ntpPortField"_s, u"123"_s);
+    driver.click(u"timeZoneBox"_s);
+    driver.report(u"system-time-zones"_s, u"the zones of devices"_s);
+    driver.click(u"choice1"_s);
+    apply(driver, u"ntpApplyButton"_s, {0, 0, 0});
 }
 
 void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
 {
-    driver.click(QStringLiteral("systemTab2"));
-    driver.click(QStringLiteral("autoRebootBox"));
-    driver.report(QStringLiteral("system-reboot"),
-                  QStringLiteral("reboots at regular times, and one at once"));
+    driver.click(u"systemTab2"_s);
+    driver.click(u"autoRebootBox"_s);
+    driver.report(u"system-reboot"_s, u"reboots at regular times, and one at once"_s);
     tick(driver, second);
     tick(driver, third);
-    driver.click(QStringLiteral("rebootButton"));
-    driver.require(QStringLiteral("messageText"));
-    driver.report(QStringLiteral("system-reboot-question"), driver.text(QStringLiteral("messageText")));
-    driver.click(QStringLiteral("cancelButton"));
-    driver.await(QStringLiteral("the question is gone"),
-                 [&] { return !driver.find(QStringLiteral("messageText")); });
-    driver.click(QStringLiteral("rebootButton"));
-    apply(driver, QStringLiteral("okButton"), {0, noResult, noResult});
+    driver.click(u"rebootButton"_s);
+    driver.require(u"messageText"_s);
+    driver.report(u"system-reboot-question"_s, driver.text(u"messageText"_s));
+    driver.click(u"cancelButton"_s);
+    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.click(u"rebootButton"_s);
+    apply(driver, u"okButton"_s, {0, noResult, noResult});
 
     // The first is away now, and stays so for as long as this takes.
     const QString mac = macOf(site, first);
     site.setFault(mac, {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}});
     tick(driver, second);
     tick(driver, third);
-    apply(driver, QStringLiteral("autoMaintainButton"), {unreachable, 0, 0});
+    apply(driver, u"autoMaintainButton"_s, {unreachable, 0, 0});
     site.clearFault(mac, sdk::demo::Fault::NoAnswer);
-    driver.report(QStringLiteral("system-unreachable"), driver.text(QStringLiteral("footWarning")));
+    driver.report(u"system-unreachable"_s, driver.text(u"footWarning"_s));
     tick(driver, first);
 }
 
 void walkPassword(Driver &driver)
 {
-    driver.click(QStringLiteral("systemTab4"));
-    driver.fill(QStringLiteral("oldPasswordField"), QStringLiteral("not-the-one"));
-    apply(driver, QStringLiteral("loginCheckButton"), {noResult, wrongPassword, wrongPassword});
-    driver.fill(QStringLiteral("oldPasswordField"), password);
-    apply(driver, QStringLiteral("loginCheckButton"), {noResult, waitsForPassword, waitsForPassword});
-    driver.await(QStringLiteral("the new password is asked for"),
-                 [&] { return driver.require(QStringLiteral("newPasswordField"))->isEnabled(); });
-    const QString countdown = driver.text(QStringLiteral("countdownText"));
-    driver.await(QStringLiteral("the seconds go by"),
-                 [&] { return driver.text(QStringLiteral("countdownText")) != countdown; });
+    driver.click(u"systemTab4"_s);
+    driver.fill(u"oldPasswordField"_s, u"not-the-one"_s);
+    apply(driver, u"loginCheckButton"_s, {noResult, wrongPassword, wrongPassword});
+    driver.fill(u"oldPasswordField"_s, password);
+    apply(driver, u"loginCheckButton"_s, {noResult, waitsForPassword, waitsForPassword});
+    driver.await(u"the new password is asked for"_s,
+                 [&] { return driver.require(u"newPasswordField"_s)->isEnabled(); });
+    const QString countdown = driver.text(u"countdownText"_s);
+    driver.await(u"the seconds go by"_s, [&] { return driver.text(u"countdownText"_s) != countdown; });
     tick(driver, third);
-    driver.await(QStringLiteral("another tick closes the editor"),
-                 [&] { return !driver.require(QStringLiteral("newPasswordField"))->isEnabled(); });
+    driver.await(u"another tick closes the editor"_s,
+                 [&] { return !driver.require(u"newPasswordField"_s)->isEnabled(); });
     tick(driver, third);
 
-    apply(driver, QStringLiteral("loginCheckButton"), {noResult, waitsForPassword, waitsForPassword});
-    driver.fill(QStringLiteral("newPasswordField"), QStringLiteral("onlyletters"));
-    expectRefusal(driver, QStringLiteral("modifyPasswordButton"), "SystemPasswordPanel",
+    apply(driver, u"loginCheckButton"_s, {noResult, waitsForPassword, waitsForPassword});
+    driver.fill(u"newPasswordField"_s, u"onlyletters"_s);
+    expectRefusal(driver, u"modifyPasswordButton"_s, "SystemPasswordPanel",
                   "请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。");
-    driver.fill(QStringLiteral("newPasswordField"), QStringLiteral("Tour-2025"));
-    driver.fill(QStringLiteral("confirmPasswordField"), QStringLiteral("Tour-2025"));
-    driver.report(QStringLiteral("system-password"), driver.text(QStringLiteral("countdownText")));
-    apply(driver, QStringLiteral("modifyPasswordButton"), {noResult, 0, 0});
-    driver.check(!driver.require(QStringLiteral("newPasswordField"))->isEnabled(),
-                 QStringLiteral("a password that is changed is done with"));
-    driver.report(QStringLiteral("system-password-changed"), driver.text(QStringLiteral("selectedCount")));
+    driver.fill(u"newPasswordField"_s, u"Tour-2025"_s);
+    driver.fill(u"confirmPasswordField"_s, u"Tour-2025"_s);
+    driver.report(u"system-password"_s, driver.text(u"countdownText"_s));
+    apply(driver, u"modifyPasswordButton"_s, {noResult, 0, 0});
+    driver.check(!driver.require(u"newPasswordField"_s)->isEnabled(),
+                 u"a password that is changed is done with"_s);
+    driver.report(u"system-password-changed"_s, driver.text(u"selectedCount"_s));
 }
 
 void walkVideoAndReset(Driver &driver)
 {
-    driver.click(QStringLiteral("systemTab5"));
-    driver.click(QStringLiteral("videoStandardBox"));
-    driver.click(QStringLiteral("choice1"));
-    apply(driver, QStringLiteral("videoStandardButton"), {noResult, 0, 0}); // with the new password
-    driver.report(QStringLiteral("system-video"), driver.texts(QStringLiteral("chosenText")).join(u' '));
+    driver.click(u"systemTab5"_s);
+    driver.click(u"videoStandardBox"_s);
+    driver.click(u"choice1"_s);
+    apply(driver, u"videoStandardButton"_s, {noResult, 0, 0}); // with the new password
+    driver.report(u"system-video"_s, driver.texts(u"chosenText"_s).join(u' '));
 
-    driver.click(QStringLiteral("systemTab3"));
-    driver.report(QStringLiteral("system-reset"), QStringLiteral("what a reset takes away"));
+    driver.click(u"systemTab3"_s);
+    driver.report(u"system-reset"_s, u"what a reset takes away"_s);
     tick(driver, second);
-    driver.click(QStringLiteral("resetButton"));
-    driver.require(QStringLiteral("messageText"));
-    driver.report(QStringLiteral("system-reset-question"), driver.text(QStringLiteral("messageText")));
-    apply(driver, QStringLiteral("okButton"), {noResult, noResult, 0});
+    driver.click(u"resetButton"_s);
+    driver.require(u"messageText"_s);
+    driver.report(u"system-reset-question"_s, driver.text(u"messageText"_s));
+    apply(driver, u"okButton"_s, {noResult, noResult, 0});
 }
 
 void walkTree(Driver &driver)
 {
     const auto rows = [&driver] {
-        return driver.require(QStringLiteral("deviceTree"))->property("count").toInt();
+        return driver.require(u"deviceTree"_s)->property("count").toInt();
     };
     const int all = rows();
-    driver.click(QStringLiteral("open_IPC"));
-    driver.await(QStringLiteral("a closed group hides its devices"), [&] { return rows() < all; });
-    driver.click(QStringLiteral("open_IPC"));
+    driver.click(u"open_IPC"_s);
+    driver.await(u"a closed group hides its devices"_s, [&] { return rows() < all; });
+    driver.click(u"open_IPC"_s);
     driver.key(Qt::Key_F, Qt::ControlModifier);
-    driver.type(QStringLiteral("no such device"));
-    driver.await(QStringLiteral("nothing matches"),
-                 [&] { return driver.find(QStringLiteral("emptyTitle")); });
-    driver.report(QStringLiteral("system-empty"), driver.text(QStringLiteral("emptyTitle")));
-    driver.click(QStringLiteral("emptyActionButton"));
-    driver.require(QStringLiteral("device_") + first);
-    driver.click(QStringLiteral("allDevicesBox"));
-    driver.report(QStringLiteral("system-all"), driver.text(QStringLiteral("selectedCount")));
-    driver.click(QStringLiteral("tab0"));
+    driver.type(u"no such device"_s);
+    driver.await(u"nothing matches"_s, [&] { return driver.find(u"emptyTitle"_s); });
+    driver.report(u"system-empty"_s, driver.text(u"emptyTitle"_s));
+    driver.click(u"emptyActionButton"_s);
+    driver.require(u"device_"_s + first);
+    driver.click(u"allDevicesBox"_s);
+    driver.report(u"system-all"_s, driver.text(u"selectedCount"_s));
+    driver.click(u"tab0"_s);
 }
 
 } // namespace

@@ -2,13 +2,13 @@
 #include "device/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sheets/qexcel.h"
+#include "tests/files/filecontents.h"
 #include "tests/tour/openedaddresses.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/words.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 
 #include <algorithm>
 
@@ -20,22 +20,6 @@ namespace {
 const QString password = u"Office-2024"_s;
 const QString newVersion = u"3.000.1"_s;
 const QString firmwareName = u"cameras_"_s + newVersion + u".bin"_s;
-
-QString said(const char *context, const char *message)
-{
-    return QCoreApplication::translate(context, message);
-}
-
-/// The account that found devices are logged in to with.
-void setDefaultPassword(const Driver &driver)
-{
-    driver.click(u"searchSettingsButton"_s);
-    driver.fill(u"passwordField"_s, password);
-    driver.click(u"okButton"_s);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
-}
 
 bool letsIn(const sdk::demo::DemoSite &site, const QString &mac)
 {
@@ -60,11 +44,9 @@ QList<int> usableRows(const Driver &driver, const Rows &rows, const sdk::demo::D
 void writeFirmware(const Driver &driver, const QString &path, const QStringList &models)
 {
     QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
     const QByteArray content = "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
                                "\nversion=" + newVersion.toLatin1() + "\n\n" + QByteArray(100000, '\1');
-    driver.check(file.open(QFile::WriteOnly) && file.write(content) == content.size(),
-                 u"the firmware is written"_s);
+    driver.check(writeFile(path, content), u"the firmware is written"_s);
 }
 
 /// Six devices that are quick, but for what is wrong with some.
@@ -97,14 +79,13 @@ void expectHold(const Driver &driver)
 {
     driver.click(u"searchButton"_s);
     driver.await(u"a search is refused"_s, [&] {
-        return driver.text(u"messageText"_s) == said("BusyState", "当前有设备正在升级中，请勿刷新设备！");
+        return driver.text(u"messageText"_s) ==
+               translated("BusyState", "当前有设备正在升级中，请勿刷新设备！");
     });
     driver.click(u"okButton"_s);
     driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
     driver.click(u"closeButton"_s);
-    driver.await(u"closing is refused"_s, [&] {
-        return driver.texts(u"toastText"_s).contains(said("BusyState", "当前有设备正在升级中，请稍候再关闭"));
-    });
+    expectToast(driver, translated("BusyState", "当前有设备正在升级中，请稍候再关闭"));
 }
 
 /// The main page leaves a device alone that is upgraded.
@@ -117,7 +98,8 @@ void expectRowHeldBack(const Driver &driver, const QString &mac)
     driver.check(!driver.require(edit)->isEnabled(), u"its address cannot be changed"_s);
     driver.hover(edit);
     driver.await(u"it is said why"_s, [&] {
-        return driver.texts(u"toolTip"_s).contains(said("ModifyIPActions", "设备正在升级，不能修改IP地址"));
+        return driver.texts(u"toolTip"_s)
+            .contains(translated("ModifyIPActions", "设备正在升级，不能修改IP地址"));
     });
     const QString box = u"check%1"_s.arg(row);
     driver.click(box);
@@ -142,11 +124,9 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     };
 
     driver.click(u"upgradeStartButton"_s);
-    driver.await(u"ticks are missing"_s, [&] {
-        return driver.texts(u"toastText"_s).contains(said("UpgradeWork", "请选择一台设备"));
-    });
+    expectToast(driver, translated("UpgradeWork", "请选择一台设备"));
     const QString emptyFile = firmware + u".empty"_s;
-    driver.check(QFile(emptyFile).open(QFile::WriteOnly), u"there is an empty file"_s);
+    driver.check(writeFile(emptyFile, {}), u"there is an empty file"_s);
     driver.click(u"upgradeFile%1"_s.arg(places.at(0)));
     driver.answerFileBox(emptyFile);
     driver.await(u"the empty file is refused"_s, [&] { return result(0) == UpgradeTools::FileEmpty; });
@@ -242,7 +222,7 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
     driver.require(u"upgradeReportTable"_s);
     driver.report(u"upgrade-document"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
-    const QString twoOfThree = said("UpgradeDocumentBar", "升级文档 %1：已完成 %2 / %3 行")
+    const QString twoOfThree = translated("UpgradeDocumentBar", "升级文档 %1：已完成 %2 / %3 行")
                                    .arg(QFileInfo(path).fileName())
                                    .arg(2)
                                    .arg(3);
@@ -269,7 +249,7 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
 
 void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
-    setDefaultPassword(driver);
+    setDefaultPassword(driver, password);
     driver.click(u"tab1"_s);
     driver.fill(u"upgradeSearchField"_s, u"B-2"_s);
     driver.require(u"check5"_s);

@@ -6,71 +6,66 @@
 #include <QGuiApplication>
 #include <QProcess>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void walkTabs(Driver &driver)
 {
-    driver.click(QStringLiteral("tab1"));
-    driver.report(QStringLiteral("tab1"), driver.text(QStringLiteral("upgradeStartButton")));
+    driver.click(u"tab1"_s);
+    driver.report(u"tab1"_s, driver.text(u"upgradeStartButton"_s));
     driver.key(Qt::Key_5, Qt::ControlModifier);
-    driver.report(QStringLiteral("tab4"), driver.text(QStringLiteral("batchCgiButton")));
+    driver.report(u"tab4"_s, driver.text(u"batchCgiButton"_s));
     driver.key(Qt::Key_Tab, Qt::ControlModifier);
-    driver.await(QStringLiteral("the tabs go round"),
-                 [&] { return driver.find(QStringLiteral("deviceTable")) != nullptr; });
+    driver.await(u"the tabs go round"_s, [&] { return driver.find(u"deviceTable"_s) != nullptr; });
 }
 
 void walkMenus(Driver &driver)
 {
-    driver.click(QStringLiteral("menuButton"));
-    driver.report(QStringLiteral("menu"), QStringLiteral("the menu"));
-    driver.click(QStringLiteral("languageMenuItem"));
-    driver.require(QStringLiteral("language_zh_CN"));
+    driver.click(u"menuButton"_s);
+    driver.report(u"menu"_s, u"the menu"_s);
+    driver.click(u"languageMenuItem"_s);
+    driver.require(u"language_zh_CN"_s);
     const CLocalConfig &localConfig = *CLocalConfig::getinstance();
     for (const QString code : languageCodes) {
-        const bool offered = driver.find(QStringLiteral("language_") + code) != nullptr;
+        const bool offered = driver.find(u"language_"_s + code) != nullptr;
         driver.check(offered == localConfig.hasTranslation(code),
-                     QStringLiteral("languages are offered that have a translation: %1").arg(code));
+                     u"languages are offered that have a translation: %1"_s.arg(code));
     }
-    driver.report(QStringLiteral("languages"), QStringLiteral("the languages that are there"));
+    driver.report(u"languages"_s, u"the languages that are there"_s);
     driver.key(Qt::Key_Escape);
     driver.key(Qt::Key_Escape);
 
-    driver.click(QStringLiteral("menuButton"));
-    driver.click(QStringLiteral("aboutItem"));
-    driver.check(
-        driver.text(QStringLiteral("versionText")).contains(CLocalConfig::getinstance()->getVersion()),
-        QStringLiteral("the about box tells the version"));
-    driver.report(QStringLiteral("about"), driver.text(QStringLiteral("versionText")));
+    driver.click(u"menuButton"_s);
+    driver.click(u"aboutItem"_s);
+    driver.check(driver.text(u"versionText"_s).contains(CLocalConfig::getinstance()->getVersion()),
+                 u"the about box tells the version"_s);
+    driver.report(u"about"_s, driver.text(u"versionText"_s));
     driver.key(Qt::Key_Escape);
 }
 
 void walkOperationsOfIPv6(Driver &driver)
 {
-    driver.click(QStringLiteral("ipv6Choice"));
-    for (const QString &button : {QStringLiteral("initialiseButton"), QStringLiteral("batchModifyButton"),
-                                  QStringLiteral("importButton"), QStringLiteral("exportButton"),
-                                  QStringLiteral("addButton"), QStringLiteral("edit0")}) {
+    driver.click(u"ipv6Choice"_s);
+    for (const QString &button : {u"initialiseButton"_s, u"batchModifyButton"_s, u"importButton"_s,
+                                  u"exportButton"_s, u"addButton"_s, u"edit0"_s}) {
         driver.check(!driver.require(button)->isEnabled(),
-                     QStringLiteral("\"%1\" is disabled for IPv6 devices").arg(button));
+                     u"\"%1\" is disabled for IPv6 devices"_s.arg(button));
     }
-    driver.check(driver.require(QStringLiteral("deleteButton"))->isEnabled(),
-                 QStringLiteral("IPv6 devices can be deleted"));
-    driver.hover(QStringLiteral("batchModifyButton"));
-    driver.report(QStringLiteral("tool-tip"), driver.text(QStringLiteral("toolTip")));
-    driver.click(QStringLiteral("ipv4Choice"));
+    driver.check(driver.require(u"deleteButton"_s)->isEnabled(), u"IPv6 devices can be deleted"_s);
+    driver.hover(u"batchModifyButton"_s);
+    driver.report(u"tool-tip"_s, driver.text(u"toolTip"_s));
+    driver.click(u"ipv4Choice"_s);
 }
 
 void walkSize(Driver &driver)
 {
     const QSize normal = driver.window()->size();
-    driver.click(QStringLiteral("maximiseButton"));
-    driver.await(QStringLiteral("the window is maximised"),
-                 [&] { return driver.window()->width() > normal.width(); });
-    driver.report(QStringLiteral("maximised"),
-                  QStringLiteral("%1 × %2").arg(driver.window()->width()).arg(driver.window()->height()));
-    driver.doubleClick(QStringLiteral("titleDragArea"));
-    driver.await(QStringLiteral("the window has its size again"),
-                 [&] { return driver.window()->size() == normal; });
+    driver.click(u"maximiseButton"_s);
+    driver.await(u"the window is maximised"_s, [&] { return driver.window()->width() > normal.width(); });
+    driver.report(u"maximised"_s, u"%1 × %2"_s.arg(driver.window()->width()).arg(driver.window()->height()));
+    driver.doubleClick(u"titleDragArea"_s);
+    driver.await(u"the window has its size again"_s, [&] { return driver.window()->size() == normal; });
 }
 
 } // namespace
@@ -87,16 +82,16 @@ void walkSecondStart(Driver &driver, const QString &pictureFolder)
 {
     QProcess second;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CONFIGTOOLS_TOUR_STAGE"), QStringLiteral("second"));
+    environment.insert(u"CONFIGTOOLS_TOUR_STAGE"_s, u"second"_s);
     second.setProcessEnvironment(environment);
     second.start(QCoreApplication::applicationFilePath(),
                  {CLocalConfig::getinstance()->getLanguage(), pictureFolder});
     driver.await(
-        QStringLiteral("a second start ends"), [&] { return second.state() == QProcess::NotRunning; }, 30);
+        u"a second start ends"_s, [&] { return second.state() == QProcess::NotRunning; }, 30);
     driver.check(second.exitStatus() == QProcess::NormalExit && second.exitCode() == 0,
-                 QStringLiteral("a second start ends with 0"));
+                 u"a second start ends with 0"_s);
     const QString said = QString::fromUtf8(second.readAllStandardOutput()).trimmed();
     driver.check(said.contains(QObject::tr("应用程序已经运行!")),
-                 QStringLiteral("a second start says that the program runs: \"%1\"").arg(said));
-    driver.report(QStringLiteral("second-start"), said);
+                 u"a second start says that the program runs: \"%1\""_s.arg(said));
+    driver.report(u"second-start"_s, said);
 }

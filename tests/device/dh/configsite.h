@@ -8,10 +8,11 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/neterror.h"
 #include "tests/device/dh/flowingclock.h"
+#include "tests/values.h"
 
 #include <QJsonArray>
-#include <QJsonObject>
 #include <QSemaphore>
+#include <QSignalSpy>
 
 #include <atomic>
 
@@ -103,6 +104,14 @@ public:
     [[nodiscard]] QVariant get(const QString &key) const
     {
         return factory->getConfigData(QStringLiteral("dh"), key);
+    }
+    /// What the page shows for several keys.
+    [[nodiscard]] QString shown(const QString &keys) const
+    {
+        QVariantMap values;
+        for (const QString &key : keys.split(' '))
+            values.insert(key, get(key));
+        return valuesOf(values, keys);
     }
     void set(const QString &key, const QVariant &value, const QString &subKey = QString()) const
     {

@@ -1,11 +1,8 @@
 // The camera image page on a simulated site: every change is one request of its own.
 #include "device/dh/camerachanges.h"
 #include "device/encodeform.h"
-#include "sdk/neterror.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
-
-#include <QSignalSpy>
-#include <QTest>
 
 using sdk::demo::Fault;
 using sdk::demo::FaultSetting;
@@ -97,15 +94,14 @@ private Q_SLOTS:
 
     void aChangeIsWrittenAtOnce_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("subKey");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QStringList>("writes");   // of items
-        QTest::addColumn<QVariantMap>("lastItem"); // some of its fields
-        const auto row = [](const char *key, const char *subKey, const QVariant &value, const char *write,
-                            const QVariantMap &lastItem) {
-            QTest::addRow("%s %s", key, subKey)
-                << key << subKey << value << QString(write).split(',') << lastItem;
+        // writes: of items
+        // lastItem: some of its fields
+        const auto addRow = dataTable<QString, QString, QVariant, QStringList, QVariantMap>(
+            {"key", "subKey", "value", "writes", "lastItem"});
+        const auto row = [&addRow](const char *key, const char *subKey, const QVariant &value,
+                                   const char *write, const QVariantMap &lastItem) {
+            addRow(qPrintable(QString(key) + ' ' + subKey), key, subKey, value, QString(write).split(','),
+                   lastItem);
         };
         const char *picture = "1301/0@1 64 5000";
         row("picture", "brightnessSlider", 70, picture, {{"brightness", 70}});
@@ -200,16 +196,9 @@ private Q_SLOTS:
 
     void configurationsAreWritten_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("subKey");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<int>("items"); // written beside it
-        const auto row = [](const char *title, const QString &key, const QString &subKey, int value,
-                            const QString &name, const QString &field, int items) {
-            QTest::newRow(title) << key << subKey << value << name << field << items;
-        };
+        // items: written beside it
+        const auto row = dataTable<QString, QString, int, QString, QString, int>(
+            {"key", "subKey", "value", "name", "field", "items"});
         row("brightness", "curBrightness", "", 77, "VideoColor", "brightness", 0);
         row("contrast", "curContrast", "", 78, "VideoColor", "contrast", 0);
         row("saturation", "curSaturation", "", 79, "VideoColor", "saturation", 0);
@@ -231,9 +220,7 @@ private Q_SLOTS:
         m_site->set(key, value, subKey);
         QCOMPARE(m_site->asked("NetSetNewConfig").size(), 1);
         const QJsonObject request = m_site->asked("NetSetNewConfig").first();
-        QCOMPARE(request.value("name").toString(), name);
-        QCOMPARE(request.value("textSize").toInt(), 4096);
-        QCOMPARE(request.value("wait").toInt(), 3000);
+        QCOMPARE(valuesOf(request, "name textSize wait"), name + "|4096|3000");
         const QJsonObject text = request.value("text").toObject().value(name).toObject();
         QCOMPARE(text.value("night").toObject().value(field).toInt(), value);
         QVERIFY(text.value("day").toObject().value(field).toInt() != value || key == "setDefault");
@@ -249,16 +236,13 @@ private Q_SLOTS:
         m_site->set("dayNight", 9, "SwitchDelay");
         m_site->set("curDayNightMode", 1); // the night gets what the day has
         m_site->set("dayNight", 3, "Sensitivity");
-        QCOMPARE(m_site->get("curDayNightMode").toInt(), 1);
-        QCOMPARE(m_site->get("curBackLightMode").toInt(), 2);
+        QCOMPARE(m_site->shown("curDayNightMode curBackLightMode"), "1|2");
         const QList<QJsonObject> writes = m_site->asked("NetSetItem");
         QCOMPARE(writes.size(), 6);
         QCOMPARE(writes.at(1).value("wideDynamic").toInt(), 20);
-        QCOMPARE(writes.at(2).value("wideDynamic").toInt(), 20);
-        QCOMPARE(writes.at(2).value("backMode").toInt(), 2);
+        QCOMPARE(valuesOf(writes.at(2), "wideDynamic backMode"), "20|2");
         QCOMPARE(writes.at(4).value("switchDelay").toInt(), 9);
-        QCOMPARE(writes.at(5).value("mode").toInt(), 0); // the page still shows the day
-        QCOMPARE(writes.at(5).value("switchDelay").toInt(), 9);
+        QCOMPARE(valuesOf(writes.at(5), "mode switchDelay"), "0|9"); // the page still shows the day
     }
 
     void modesAndChannelsAreRead()
@@ -295,9 +279,7 @@ private Q_SLOTS:
         QCOMPARE(result.first().first().toInt(), 0);
         QCOMPARE(m_site->get("curBrightness").toInt(), 91);
         const QJsonObject text = m_site->asked("NetGetNewConfig").last();
-        QCOMPARE(text.value("name").toString(), "VideoColor");
-        QCOMPARE(text.value("textSize").toInt(), 4096);
-        QCOMPARE(text.value("wait").toInt(), 3000);
+        QCOMPARE(valuesOf(text, "name textSize wait"), "VideoColor|4096|3000");
     }
 
     void theColoursOfOneChannelAreNotWrittenToAnother()

@@ -1,11 +1,8 @@
 // The names of channels on a simulated recorder: read, edited and written, each channel for itself.
 #include "device/bytetext.h"
 #include "device/channelnameform.h"
-#include "sdk/neterror.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
-
-#include <QSignalSpy>
-#include <QTest>
 
 using sdk::demo::Fault;
 using sdk::demo::SceneDevice;
@@ -160,16 +157,14 @@ private Q_SLOTS:
 
     void textsAreCutByBytesBetweenLetters_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("bytes");
-        QTest::addColumn<QString>("cut");
-        QTest::newRow("fits") << "大门" << 6 << "大门";
-        QTest::newRow("inside a letter") << "大门" << 5 << "大";
-        QTest::newRow("nothing fits") << "大门" << 2 << "";
-        QTest::newRow("Latin") << "Süden" << 3 << "Sü";
-        QTest::newRow("accent of its own") << "ae\u0301" << 2 << "a";
-        QTest::newRow("beyond the base plane") << "a😀b" << 4 << "a";
-        QTest::newRow("joined signs") << "a👨‍👩‍👧" << 12 << "a";
+        const auto row = dataTable<QString, int, QString>({"text", "bytes", "cut"});
+        row("fits", "大门", 6, "大门");
+        row("inside a letter", "大门", 5, "大");
+        row("nothing fits", "大门", 2, "");
+        row("Latin", "Süden", 3, "Sü");
+        row("accent of its own", "ae\u0301", 2, "a");
+        row("beyond the base plane", "a😀b", 4, "a");
+        row("joined signs", "a👨‍👩‍👧", 12, "a");
     }
 
     void textsAreCutByBytesBetweenLetters()

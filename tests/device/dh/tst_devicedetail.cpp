@@ -1,10 +1,10 @@
 // What is known of a device: by a search, and by a login that leaves the current session alone.
 #include "device/devicedetailmodel.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
+#include "tests/files/filecontents.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using sdk::demo::Fault;
 using sdk::demo::SceneDevice;
@@ -68,17 +68,11 @@ private Q_SLOTS:
 
     void whatADeviceWithholdsIsLeftOut_data()
     {
-        QTest::addColumn<Fault>("fault");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("missing");
-        QTest::newRow("channel states") << Fault::RefusesChannelStates << ""
-                                        << "connectedCount";
-        QTest::newRow("network") << Fault::RefusesConfiguration << "Network"
-                                 << "submask";
-        QTest::newRow("nonsense") << Fault::OddConfiguration << "Network"
-                                  << "submask";
-        QTest::newRow("too much") << Fault::OverLongConfiguration << "DVRIP"
-                                  << "servicePort";
+        const auto row = dataTable<Fault, QString, QString>({"fault", "text", "missing"});
+        row("channel states", Fault::RefusesChannelStates, "", "connectedCount");
+        row("network", Fault::RefusesConfiguration, "Network", "submask");
+        row("nonsense", Fault::OddConfiguration, "Network", "submask");
+        row("too much", Fault::OverLongConfiguration, "DVRIP", "servicePort");
     }
 
     void whatADeviceWithholdsIsLeftOut()
@@ -128,9 +122,7 @@ private Q_SLOTS:
         model.setSearchText("nothing"); // the file holds all of it nevertheless
         QCOMPARE(model.fileName(), "_fe80__1_2__37777.txt");
         QVERIFY(model.write(folder.filePath("a.txt")));
-        QFile file(folder.filePath("a.txt"));
-        QVERIFY(file.open(QFile::ReadOnly));
-        QCOMPARE(QString::fromUtf8(file.readAll()), model.text());
+        QCOMPARE(QString::fromUtf8(fileContents(folder.filePath("a.txt"))), model.text());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write.*"));
         QVERIFY(!model.write(folder.filePath("no/a.txt")));
     }

@@ -2,10 +2,11 @@
 #include "device/devicerefresh.h"
 #include "device/devicestore.h"
 #include "device/devicetablemodel.h"
-#include "device/dh/devicedh.h"
 #include "device/dh/rowlogin.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "tests/datatable.h"
+#include "tests/device/dh/factorysite.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
 #include "tests/device/searchanswers.h"
@@ -42,62 +43,22 @@ private:
 } // namespace
 
 /// What the scene asks of devices, on a simulated site.
-class TestDeviceDH : public QObject
+class TestDeviceDH : public QObject, private FactorySite
 {
     Q_OBJECT
-private:
-    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
-    std::shared_ptr<sdk::demo::DemoSite> m_site;
-    std::unique_ptr<CDeviceFactory> m_factory;
-    std::unique_ptr<FlowingClock> m_time;
-
-    void search()
-    {
-        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
-        m_factory->startSearch("dh");
-        QVERIFY(done.wait(20000));
-    }
-
-    QJsonObject row(const QString &mac) const
-    {
-        for (const QVariant &value : m_factory->filterData("dh", "nofilter")) {
-            if (value.toJsonObject().value("mac").toString() == mac)
-                return value.toJsonObject();
-        }
-        return {};
-    }
-
-    void makeFactory()
-    {
-        const auto store = std::make_shared<DeviceStore>(m_clock);
-        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {"dh", [this, store] {
-                 return std::make_shared<CDeviceDH>(store, m_site->libraries(),
-                                                    [] { return SearchSettings(); });
-             }}});
-    }
-
 private Q_SLOTS:
     void init()
     {
-        sdk::demo::Scene scene;
-        scene.devices = {sceneDevice(camera, "192.168.1.10"), sceneDevice(newCamera, "192.168.1.11"),
-                         sceneDevice(recorder, "192.168.1.12")};
-        scene.devices[1].initialisation = sdk::InitialisationBits::Uninitialised;
-        scene.devices[1].accounts.clear();
-        scene.devices[1].resetWay = 3;
-        scene.devices[2].type = "NVR";
-        m_clock = std::make_shared<sdk::demo::SteppableClock>();
-        m_site = sdk::demo::DemoSite::create(scene, m_clock);
-        makeFactory();
-        m_time = std::make_unique<FlowingClock>(*m_clock);
+        QList<sdk::demo::SceneDevice> devices = {sceneDevice(camera, "192.168.1.10"),
+                                                 sceneDevice(newCamera, "192.168.1.11"),
+                                                 sceneDevice(recorder, "192.168.1.12", "NVR")};
+        devices[1].initialisation = sdk::InitialisationBits::Uninitialised;
+        devices[1].accounts.clear();
+        devices[1].resetWay = 3;
+        openSite(devices);
     }
 
-    void cleanup()
-    {
-        m_factory.reset();
-        m_time.reset();
-    }
+    void cleanup() { closeSite(); }
 
     void aLoginMakesARow()
     {
@@ -105,18 +66,10 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.12", "admin", "secret1", "37777"), 0);
         QCOMPARE(added.size(), 1);
         const QJsonObject made = row(recorder);
-        QCOMPARE(made.value("username").toString(), "admin");
-        QCOMPARE(made.value("password").toString(), "secret1");
-        QCOMPARE(made.value("loginType").toString(), "IP");
-        QCOMPARE(made.value("type").toString(), "NVR");
-        QCOMPARE(made.value("ipport").toString(), "192.168.1.12:37777");
-        QCOMPARE(made.value("name").toString(), "东门");
-        QCOMPARE(made.value("vision").toString(), "v2.840.1");
-        QCOMPARE(made.value("num").toString(), "1");
-        QCOMPARE(made.value("res").toInt(), -1);
-        QCOMPARE(made.value("httpport").toInt(), 8080);
+        QCOMPARE(valuesOf(made, "username password loginType type ipport name vision num res httpport"),
+                 "admin|secret1|IP|NVR|192.168.1.12:37777|东门|v2.840.1|1|-1|8080");
         QVERIFY(made.value("state").toBool());
-        QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QCOMPARE(asked("NetLogout"), 1);
         QCOMPARE(m_factory->getDeviceDetail("dh", recorder).value("submask").toString(), "255.255.255.0");
     }
 
@@ -135,13 +88,11 @@ private Q_SLOTS:
 
     void theWebPortFollowsHttps_data()
     {
-        QTest::addColumn<QJsonObject>("https");
-        QTest::addColumn<int>("httpPort");
-        QTest::addColumn<int>("webPort");
-        QTest::newRow("without") << QJsonObject{{"enabled", false}, {"port", 8443}} << 8080 << 8080;
-        QTest::newRow("without, no port") << QJsonObject{{"enabled", false}, {"port", 8443}} << 0 << 80;
-        QTest::newRow("with") << QJsonObject{{"enabled", true}, {"port", 8443}} << 8080 << 8443;
-        QTest::newRow("with, no port") << QJsonObject{{"enabled", true}, {"port", 0}} << 8080 << 80;
+        const auto row = dataTable<QJsonObject, int, int>({"https", "httpPort", "webPort"});
+        row("without", QJsonObject{{"enabled", false}, {"port", 8443}}, 8080, 8080);
+        row("without, no port", QJsonObject{{"enabled", false}, {"port", 8443}}, 0, 80);
+        row("with", QJsonObject{{"enabled", true}, {"port", 8443}}, 8080, 8443);
+        row("with, no port", QJsonObject{{"enabled", true}, {"port", 0}}, 8080, 80);
     }
 
     void theWebPortFollowsHttps()
@@ -158,14 +109,8 @@ private Q_SLOTS:
 
     void aLoginThatFailsSaysWhyAndAddsNothing_data()
     {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<int>("result");
-        const auto row = [](const char *name, const QString &address, const QString &account,
-                            const QString &password, int result) {
-            QTest::newRow(name) << address << account << password << result;
-        };
+        const auto row =
+            dataTable<QString, QString, QString, int>({"address", "account", "password", "result"});
         row("no account", "192.168.1.10", "root", "secret1", 1);
         row("wrong password", "192.168.1.10", "admin", "secret2", 2);
         row("nobody there", "192.168.1.99", "admin", "secret1", 5);
@@ -179,7 +124,7 @@ private Q_SLOTS:
         QFETCH(QString, password);
         QTEST(m_factory->getLoginDevice("dh", address, account, password, "37777"), "result");
         QVERIFY(m_factory->filterData("dh", "nofilter").isEmpty());
-        QVERIFY(m_site->requests().of("NetQueryConfig").isEmpty());
+        QCOMPARE(asked("NetQueryConfig"), 0);
     }
 
     void aNewAddressIsWhereTheDeviceAnswersNext()
@@ -204,23 +149,22 @@ private Q_SLOTS:
         QCOMPARE(row(newCamera).value("res").toInt(), 7);
         QCOMPARE(row(newCamera).value("ipport").toString(), "192.168.1.11:37777");
         m_factory->modifyIP("dh", "02:1a:c5:ff:ff:ff", "192.168.1.79", "", "", false);
-        QVERIFY(m_site->requests().of("NetModifyDeviceBySearch").isEmpty());
+        QCOMPARE(asked("NetModifyDeviceBySearch"), 0);
 
         m_factory->modifyIP("dh", camera, "192.168.1.79", "255.255.255.0", "192.168.1.1", false);
         m_factory->modifyIP("dh", recorder, "", "", "", true);
         m_factory->modifyIP("dh", camera, "not an address", "", "", true); // DHCP ignores the addresses
         QCOMPARE(row(camera).value("res").toInt(), 0);
         QCOMPARE(row(camera).value("ipport").toString(), ":37777");
-        const auto asked = m_site->requests().of("NetModifyDeviceBySearch");
-        QCOMPARE(asked.last().request.value("address").toString(),
-                 "192.168.1.79"); // as the device has it now
+        const auto changes = m_site->requests().of("NetModifyDeviceBySearch");
+        QCOMPARE(changes.last().request.value("address"), "192.168.1.79"); // as the device has it now
         QVERIFY(m_site->device(camera)->dhcp);
         // Until they are found again they are known by their MACs alone, and share no address.
         DeviceTableModel table;
         table.setDeviceFactory(m_factory.get());
         QCOMPARE(table.conflictCount(), 0);
         QCOMPARE(m_factory->findAndLoginDevice("dh", ":37777", "admin", "secret1"), 5);
-        QVERIFY(m_site->requests().of("NetLoginSecure").isEmpty());
+        QCOMPARE(asked("NetLoginSecure"), 0);
         m_factory->modifyIP("dh", camera, "192.168.1.77", "255.255.255.0", "192.168.1.1", false);
         QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
         search();
@@ -321,13 +265,13 @@ private Q_SLOTS:
         QVERIFY(first.toLongLong() > 0);
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "wrong"), 2);
         QCOMPARE(handle(), first);
-        QCOMPARE(m_site->requests().of("NetLogout").size(), 0); // the session that was there stays
+        QCOMPARE(asked("NetLogout"), 0); // the session that was there stays
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "secret1"), 0);
-        QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QCOMPARE(asked("NetLogout"), 1);
         QVERIFY(handle().toLongLong() > 0 && handle() != first);
         QCOMPARE(result.size(), 3);
         m_factory.reset();
-        QCOMPARE(m_site->requests().of("NetLogout").size(), 2);
+        QCOMPARE(asked("NetLogout"), 2);
     }
 
     void aLoginThroughATunnelIsOfAKindOfItsOwn()
@@ -345,24 +289,22 @@ private Q_SLOTS:
         QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1"), 0);
         QCOMPARE(m_factory->checkLogin("dh", "192.168.1.12:37777", "admin", "wrong"), 2);
-        QCOMPARE(m_site->requests().of("NetLogout").size(), 0);
+        QCOMPARE(asked("NetLogout"), 0);
         QCOMPARE(m_factory->checkLogin("dh", "192.168.1.12:37777", "admin", "secret1"), 0);
-        QCOMPARE(m_site->requests().of("NetLogout").size(), 1);
+        QCOMPARE(asked("NetLogout"), 1);
         QCOMPARE(result.size(), 1);
         QCOMPARE(m_factory->checkLogin("none", "192.168.1.12:37777", "admin", "wrong"), 0);
     }
 
     void faultsEndInRowsAndResults_data()
     {
-        QTest::addColumn<QString>("mac");
-        QTest::addColumn<int>("login");
-        QTest::addColumn<int>("modification");
-        QTest::addColumn<QString>("name"); // of the result that is no success
-        QTest::newRow("wrong password") << "02:1a:c5:00:4c:7c" << 2 << 0 << "密码错误";
-        QTest::newRow("account locked") << "02:1a:c5:00:4c:a1" << 3 << 0 << "账号被锁定";
-        QTest::newRow("account logged in") << "02:1a:c5:00:4d:38" << 4 << 0 << "账号已登录";
-        QTest::newRow("not initialised") << "02:1a:c5:00:4c:c6" << 12 << 7 << "设备未初始化";
-        QTest::newRow("refuses a new address") << "02:1a:c5:00:4d:82" << 0 << 5 << "网络异常";
+        // name: of the result that is no success
+        const auto row = dataTable<QString, int, int, QString>({"mac", "login", "modification", "name"});
+        row("wrong password", "02:1a:c5:00:4c:7c", 2, 0, "密码错误");
+        row("account locked", "02:1a:c5:00:4c:a1", 3, 0, "账号被锁定");
+        row("account logged in", "02:1a:c5:00:4d:38", 4, 0, "账号已登录");
+        row("not initialised", "02:1a:c5:00:4c:c6", 12, 7, "设备未初始化");
+        row("refuses a new address", "02:1a:c5:00:4d:82", 0, 5, "网络异常");
     }
 
     /// Each fault of a login and of a modification, by its code and by the name that the user reads.
@@ -371,9 +313,7 @@ private Q_SLOTS:
         QFETCH(QString, mac);
         QFETCH(int, login);
         QFETCH(int, modification);
-        m_factory.reset();
-        m_site = sdk::demo::DemoSite::open("faulty", m_clock, nullptr);
-        makeFactory();
+        openSite("faulty");
         search();
         const QString address = row(mac).value("ipport").toString().section(':', 0, 0);
         const QString port = row(mac).value("ipport").toString().section(':', 1);
@@ -392,14 +332,6 @@ private Q_SLOTS:
         m_factory->modifyIP("dh", mac, "192.168.1.250", "255.255.255.0", "192.168.1.1", false);
         QCOMPARE(row(mac).value("res").toInt(), modification);
         QTEST(m_factory->getErrorName(modification != 0 ? modification : login), "name");
-    }
-
-    void aRefusedFirstPasswordIsShownWithItsResult()
-    {
-        m_factory.reset();
-        m_site = sdk::demo::DemoSite::open("faulty", m_clock, nullptr);
-        makeFactory();
-        search();
         const QString refuses = QStringLiteral("02:1a:c5:00:4d:5d");
         m_factory->setInitAccount("dh", refuses, "admin", "first-1");
         QCOMPARE(row(refuses).value("res").toInt(), 5);
@@ -421,18 +353,18 @@ private Q_SLOTS:
         CDeviceDH::agentMessage(sdk::P2PAgentEvent::TunnelBroken, "OV1", 20001, nullptr); // nobody listens
     }
 
-    void rowsAreChangedAndDeleted()
+    void theDevicesOwnPortIsKept()
     {
-        search();
-        QVERIFY(m_factory->updataDeviceInfo("dh", "password", "p", camera, ""));
-        QVERIFY(m_factory->updataDeviceInfo("dh", "username", "u", "", "192.168.1.10:37777"));
-        QVERIFY(!m_factory->updataDeviceInfo("dh", "password", "p", "02:1a:c5:ff:ff:ff", "10.0.0.1:1"));
-        QCOMPARE(row(camera).value("password").toString(), "p");
-        QCOMPARE(m_factory->getDeviceInfo("dh", "192.168.1.10:37777").value("username").toString(), "u");
-        m_factory->setBatchDeleteDevice("dh", {{camera, true}, {recorder, true}}, "IPV4");
-        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), 1);
-        m_factory->setDeleteDevice("dh", newCamera, "IPV4");
-        QVERIFY(m_factory->filterData("dh", "nofilter").isEmpty());
+        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.10", "admin", "secret1", "37777"), 0);
+        m_factory->setPluginPort("dh", camera, 8800);
+        QCOMPARE(m_factory->getDeviceDetail("dh", camera).value("devp2pPort").toString(), "8800");
+    }
+
+    void theProgramEndsWithSuccess()
+    {
+        QMetaObject::invokeMethod(
+            this, [this] { m_factory->exitProgram(); }, Qt::QueuedConnection);
+        QCOMPARE(QCoreApplication::exec(), 0);
     }
 };
 

@@ -1,24 +1,15 @@
-#include "device/devicefactory.h"
-#include "device/devicestore.h"
-#include "device/dh/devicedh.h"
 #include "sdk/demo/demop2pagentlibrary.h"
-#include "sdk/demo/demosite.h"
-#include "sdk/demo/steppableclock.h"
 #include "sheets/qexcel.h"
-#include "tests/device/dh/flowingclock.h"
-#include "tests/device/dh/scenedevices.h"
+#include "tests/datatable.h"
+#include "tests/device/dh/factorysite.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QJSEngine>
 #include <QProcess>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -39,25 +30,14 @@ const QByteArray cameraLine =
 } // namespace
 
 /// Device lists against a simulated site.
-class TestDeviceLists : public QObject
+class TestDeviceLists : public QObject, private FactorySite
 {
     Q_OBJECT
 private:
-    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
-    std::shared_ptr<sdk::demo::DemoSite> m_site;
-    std::unique_ptr<CDeviceFactory> m_factory;
-    std::unique_ptr<FlowingClock> m_time;
     std::unique_ptr<QTemporaryDir> m_folder;
     QJSEngine m_engine;
     int m_total = 0;
     int m_failed = 0;
-
-    void search()
-    {
-        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
-        m_factory->startSearch("dh");
-        QVERIFY(done.wait(20000));
-    }
 
     bool import(const QString &path)
     {
@@ -70,69 +50,38 @@ private:
 
     QString write(const QString &name, const QByteArray &text) const
     {
-        QFile file(m_folder->filePath(name));
-        return file.open(QFile::WriteOnly) && file.write(text) == text.size() ? file.fileName() : QString();
+        const QString path = m_folder->filePath(name);
+        return writeFile(path, text) ? path : QString();
     }
-
-    QByteArray read(const QString &name) const
-    {
-        QFile file(m_folder->filePath(name));
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read(const QString &name) const { return fileContents(m_folder->filePath(name)); }
 
     bool exported(const QStringList &macs, const QString &name) const
     {
         return m_factory->exportDevice("dh", m_folder->path(), macs, name);
     }
 
-    QJsonObject row(const QString &mac) const
-    {
-        const QVariantList rows = m_factory->filterData("dh", "nofilter");
-        for (const QVariant &value : rows) {
-            if (value.toJsonObject().value("mac").toString() == mac)
-                return value.toJsonObject();
-        }
-        return {};
-    }
-
-    qsizetype logins() const { return m_site->requests().of("NetLogin").size(); }
+    qsizetype logins() const { return asked("NetLogin"); }
     qsizetype rowCount() const { return m_factory->filterData("dh", "nofilter").size(); }
 
 private Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
-        sdk::demo::Scene scene;
-        scene.devices = {
+        QList<sdk::demo::SceneDevice> devices = {
             sceneDevice(camera, "192.168.1.10", "IPC"), sceneDevice(plateCamera, "192.168.1.11", "ITC"),
             sceneDevice(videoWall, "192.168.1.12", "Matrix"), sceneDevice(remote, "10.9.9.9", "NVR"),
             sceneDevice(newCamera, "192.168.1.13", "IPC")};
-        scene.devices[0].p2pId = "OV3CAMERA"; // reached both ways
-        scene.devices[3].isRemote = true;
-        scene.devices[3].p2pId = remoteId;
-        scene.devices[3].port = 8800;
-        scene.devices[4].initialisation = sdk::InitialisationBits::Uninitialised;
-        scene.devices[4].accounts.clear();
-        m_clock = std::make_shared<sdk::demo::SteppableClock>();
-        m_site = sdk::demo::DemoSite::create(scene, m_clock);
-        const auto store = std::make_shared<DeviceStore>(m_clock);
-        m_factory = std::make_unique<CDeviceFactory>(
-            CDeviceFactory::BackEndCreators{{"dh",
-                                             [this, store] {
-                                                 return std::make_shared<CDeviceDH>(
-                                                     store, m_site->libraries(),
-                                                     [] { return SearchSettings(); });
-                                             }}},
-            CDeviceFactory::P2PAgent{m_site->libraries().p2pAgent, &CDeviceDH::agentMessage});
-        m_time = std::make_unique<FlowingClock>(*m_clock);
+        devices[0].p2pId = "OV3CAMERA"; // reached both ways
+        devices[3].isRemote = true;
+        devices[3].p2pId = remoteId;
+        devices[3].port = 8800;
+        devices[4].initialisation = sdk::InitialisationBits::Uninitialised;
+        devices[4].accounts.clear();
+        openSite(devices);
         m_factory->setDefaultAccount("dh", "admin", "secret1");
     }
 
-    void cleanup()
-    {
-        m_factory.reset();
-        m_time.reset();
-    }
+    void cleanup() { closeSite(); }
 
     void writesTextByteForByte()
     {
@@ -178,36 +127,19 @@ private Q_SLOTS:
 
     void namesWhatTheFileDoesNotGiveBack_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("reason"); // a part of it; empty when the name comes back
+        // reason: a part of it; empty when the name comes back
+        const auto row = dataTable<QString, QString, QString>({"format", "name", "reason"});
         const QString noCharacter(QChar(0xFFFE));
-        QTest::newRow("comma") << "csv"
-                               << "东,门"
-                               << ", (U+002C)";
-        QTest::newRow("line end") << "csv"
-                                  << "东\r门"
-                                  << "U+000D";
-        QTest::newRow("blank at the end") << "csv"
-                                          << "东门 "
-                                          << "U+0020";
-        QTest::newRow("other signs") << "csv"
-                                     << "A<&\"; 门 😀" << QString();
-        QTest::newRow("bracket") << "xml"
-                                 << "A<B"
-                                 << "< (U+003C)";
-        QTest::newRow("reference") << "xml"
-                                   << "A&amp;B"
-                                   << "& (U+0026)";
-        QTest::newRow("no character") << "xml" << noCharacter << "U+FFFE";
-        QTest::newRow("too long") << "xml" << QString(257, u'x') << "字段过长";
-        QTest::newRow("no trouble") << "xml"
-                                    << "A, B > \"C\" 😀" << QString();
-        QTest::newRow("any character of a cell") << "xlsx"
-                                                 << "A,<&_x0041_" + noCharacter << QString();
-        QTest::newRow("control character") << "xlsx"
-                                           << "\x01"
-                                           << "U+0001";
+        row("comma", "csv", "东,门", ", (U+002C)");
+        row("line end", "csv", "东\r门", "U+000D");
+        row("blank at the end", "csv", "东门 ", "U+0020");
+        row("other signs", "csv", "A<&\"; 门 😀", QString());
+        row("bracket", "xml", "A<B", "< (U+003C)");
+        row("reference", "xml", "A&amp;B", "& (U+0026)");
+        row("no character", "xml", noCharacter, "U+FFFE");
+        row("too long", "xml", QString(257, u'x'), "字段过长");
+        row("any character of a cell", "xlsx", "A,<&_x0041_" + noCharacter, QString());
+        row("control character", "xlsx", "\x01", "U+0001");
     }
 
     void namesWhatTheFileDoesNotGiveBack()
@@ -224,8 +156,7 @@ private Q_SLOTS:
         const QVariantMap fault = faults.value(0).toMap();
         QVERIFY(fault.value("reason").toString().contains(reason));
         if (!reason.isEmpty()) {
-            QCOMPARE(fault.value("address").toString(), "192.168.1.11");
-            QCOMPARE(fault.value("column").toString(), "设备名称 (DeviceName)");
+            QCOMPARE(valuesOf(fault, "address column"), "192.168.1.11|设备名称 (DeviceName)");
         }
     }
 
@@ -253,9 +184,9 @@ private Q_SLOTS:
 
     void aFullDiskLeavesTheListAsItWas_data()
     {
-        QTest::addColumn<QString>("name");
+        const auto row = dataTable<QString>({"name"});
         for (const char *name : {"device.xlsx", "device.csv", "device.xml"})
-            QTest::newRow(name) << name;
+            row(name, name);
     }
 
     void aFullDiskLeavesTheListAsItWas()
@@ -274,12 +205,7 @@ private Q_SLOTS:
         QVERIFY(exported({camera}, name));
     }
 
-    void comesBackFromEveryFormat_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char *name : {"device.xlsx", "device.csv", "device.xml"})
-            QTest::newRow(name) << name;
-    }
+    void comesBackFromEveryFormat_data() { aFullDiskLeavesTheListAsItWas_data(); }
 
     void comesBackFromEveryFormat()
     {
@@ -304,12 +230,10 @@ private Q_SLOTS:
         QCOMPARE(progress.last(), QVariantList({4, 4}));
         QVERIFY(!added.isEmpty());
         QCOMPARE(rowCount(), 5);
-        QCOMPARE(row(camera).value("name").toString(), "东门");
-        QCOMPARE(row(camera).value("password").toString(), "secret1");
+        QCOMPARE(valuesOf(row(camera), "name password"), "东门|secret1");
         QCOMPARE(row(plateCamera).value("type").toString(), "ITC");
         QCOMPARE(row(videoWall).value("type").toString(), "Matrix");
-        QCOMPARE(row(remote).value("name").toString(), remoteId);
-        QCOMPARE(row(remote).value("devp2pPort").toString(), "8800");
+        QCOMPARE(valuesOf(row(remote), "name devp2pPort"), remoteId + "|8800");
         QVERIFY(row(remote).value("ipport").toString().startsWith("127.0.0.1:"));
 
         // What was imported is exported as before.
@@ -388,35 +312,30 @@ private Q_SLOTS:
 
     void readsWhatOthersHaveChanged_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("text");
+        const auto row = dataTable<QString, QByteArray>({"name", "text"});
         const QByteArray crlf = QByteArray(headers + cameraLine).replace("\n", "\r\n");
-        QTest::newRow("byte order mark and CRLF") << "a.csv"
-                                                  << "\xEF\xBB\xBF" + crlf;
-        QTest::newRow("carriage returns") << "a.csv" << QByteArray(headers + cameraLine).replace('\n', '\r');
-        QTest::newRow("no line end") << "a.CSV" << (headers + cameraLine).chopped(1);
-        QTest::newRow("other order, missing and other columns, blanks")
-            << "a.csv"
-            << QByteArray("\n密码,备注, *用户名 ,IP地址/域名/注册ID/设备序列号\n,,,\nsecret1,x, admin "
-                          ",192.168.1.10\n");
+        row("byte order mark and CRLF", "a.csv", "\xEF\xBB\xBF" + crlf);
+        row("carriage returns", "a.csv", QByteArray(headers + cameraLine).replace('\n', '\r'));
+        row("no line end", "a.CSV", (headers + cameraLine).chopped(1));
+        row("other order, missing and other columns, blanks", "a.csv",
+            QByteArray("\n密码,备注, *用户名 ,IP地址/域名/注册ID/设备序列号\n,,,\nsecret1,x, admin "
+                       ",192.168.1.10\n"));
         QByteArray attributes;
         for (int number = 0; number < 200'000; ++number)
             attributes += " a" + QByteArray::number(number) + "=''";
-        QTest::newRow("many attributes") << "a.xml"
-                                         << "<deviceList><device" + attributes +
-                                                "><Username>admin</Username><Password>secret1</Password>"
-                                                "<IPAddress>192.168.1.10</IPAddress></device></deviceList>";
-        QTest::newRow("declared encoding")
-            << "a.xml"
-            << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><deviceList><device><Username>admin"
-                          "</Username><Password>secret1</Password><IPAddress>192.168.1.10</IPAddress>"
-                          "<DeviceName>T\xFCr</DeviceName></device></deviceList>");
-        QTest::newRow("other elements")
-            << "a.xml"
-            << QByteArray("\xEF\xBB\xBF<?xml version='1.0'?><!-- by hand --><deviceList><info><a/></info>"
-                          "<device><Note><b>x</b></Note><Username>ad<!-- -->m<![CDATA[in]]></Username>"
-                          "<Password>secret&#49;</Password>"
-                          "<IPAddress>\n192.168.1.10 </IPAddress></device></deviceList>");
+        row("many attributes", "a.xml",
+            "<deviceList><device" + attributes +
+                "><Username>admin</Username><Password>secret1</Password>"
+                "<IPAddress>192.168.1.10</IPAddress></device></deviceList>");
+        row("declared encoding", "a.xml",
+            QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><deviceList><device><Username>admin"
+                       "</Username><Password>secret1</Password><IPAddress>192.168.1.10</IPAddress>"
+                       "<DeviceName>T\xFCr</DeviceName></device></deviceList>"));
+        row("other elements", "a.xml",
+            QByteArray("\xEF\xBB\xBF<?xml version='1.0'?><!-- by hand --><deviceList><info><a/></info>"
+                       "<device><Note><b>x</b></Note><Username>ad<!-- -->m<![CDATA[in]]></Username>"
+                       "<Password>secret&#49;</Password>"
+                       "<IPAddress>\n192.168.1.10 </IPAddress></device></deviceList>"));
     }
 
     void readsWhatOthersHaveChanged()
@@ -434,52 +353,42 @@ private Q_SLOTS:
 
     void refusesAFileAsAWhole_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("logged");
+        const auto row = dataTable<QString, QByteArray, QString>({"name", "text", "logged"});
         const QString unopened = QStringLiteral("^Failed to open file: .*/");
         const QString unparsed = QStringLiteral("^Failed to parse XML file:");
-        QTest::newRow("no file") << "missing.csv" << QByteArray() << unopened;
-        QTest::newRow("no workbook") << "a.xlsx" << QByteArray("PK") << unopened;
-        QTest::newRow("same MAC")
-            << "a.csv"
-            << headers + cameraLine + QByteArray(cameraLine).replace(".10,", ".11,").replace("02:1a", "02:1A")
-            << QString();
-        QTest::newRow("no headers") << "a.csv" << cameraLine << QString();
-        QTest::newRow("empty") << "a.csv" << QByteArray("") << QString();
-        QTest::newRow("not UTF-8") << "a.csv" << headers + "\xB6\xAB,\n" << QString();
-        QTest::newRow("line too long") << "a.csv" << headers + QByteArray(70000, 'x') << QString();
-        QTest::newRow("too many lines")
-            << "a.csv"
-            << "IP地址/域名/注册ID/设备序列号\n" + QByteArray("a\n").repeated(100001) << QString();
-        QTest::newRow("empty XML") << "a.xml" << QByteArray("") << unparsed;
+        row("no file", "missing.csv", QByteArray(), unopened);
+        row("no workbook", "a.xlsx", QByteArray("PK"), unopened);
+        row("same MAC", "a.csv",
+            headers + cameraLine + QByteArray(cameraLine).replace(".10,", ".11,").replace("02:1a", "02:1A"),
+            QString());
+        row("no headers", "a.csv", cameraLine, QString());
+        row("empty", "a.csv", QByteArray(""), QString());
+        row("not UTF-8", "a.csv", headers + "\xB6\xAB,\n", QString());
+        row("line too long", "a.csv", headers + QByteArray(70000, 'x'), QString());
+        row("too many lines", "a.csv", "IP地址/域名/注册ID/设备序列号\n" + QByteArray("a\n").repeated(100001),
+            QString());
+        row("empty XML", "a.xml", QByteArray(""), unparsed);
         const auto named = [](const QByteArray &name) {
             return "<deviceList>\n<device>\n<DeviceName>" + name + "</DeviceName></device></deviceList>";
         };
-        QTest::newRow("unescaped") << "a.xml" << named("a&b") << unparsed + ".* in line 3";
-        QTest::newRow("reference to no character") << "a.xml" << named("&#xFFFE;") << unparsed;
-        QTest::newRow("no character") << "a.xml" << named("\xEF\xBF\xBE") << unparsed;
-        QTest::newRow("XML not in UTF-8") << "a.xml" << named("\xB6\xAB") << unparsed;
-        QTest::newRow("unknown encoding")
-            << "a.xml" << QByteArray("<?xml version='1.0' encoding='x-none'?><deviceList/>")
-            << unparsed + " unknown encoding x-none$";
-        QTest::newRow("element in a text") << "a.xml" << named("<b>x</b>") << unparsed;
-        QTest::newRow("two roots") << "a.xml" << QByteArray("<deviceList/><deviceList/>") << unparsed;
-        QTest::newRow("cut off") << "a.xml" << QByteArray("<deviceList><device>") << unparsed;
-        QTest::newRow("document type")
-            << "a.xml"
-            << QByteArray("<!DOCTYPE d [<!ENTITY e 'x'>]><deviceList><device><IPAddress>&e;</IPAddress>"
-                          "</device></deviceList>")
-            << unparsed;
-        QTest::newRow("too deep") << "a.xml"
-                                  << "<deviceList>" + QByteArray("<a>").repeated(100000) +
-                                         QByteArray("</a>").repeated(100000) + "</deviceList>"
-                                  << unparsed;
-        QTest::newRow("too many elements")
-            << "a.xml"
-            << "<deviceList>" + QByteArray("<a/>").repeated(10'000'000) + "</deviceList>" << unparsed;
-        QTest::newRow("another root")
-            << "a.xml" << QByteArray("<devices/>") << "^Root element is not 'deviceList': devices$";
+        row("unescaped", "a.xml", named("a&b"), unparsed + ".* in line 3");
+        row("reference to no character", "a.xml", named("&#xFFFE;"), unparsed);
+        row("XML not in UTF-8", "a.xml", named("\xB6\xAB"), unparsed);
+        row("unknown encoding", "a.xml",
+            QByteArray("<?xml version='1.0' encoding='x-none'?><deviceList/>"),
+            unparsed + " unknown encoding x-none$");
+        row("element in a text", "a.xml", named("<b>x</b>"), unparsed);
+        row("document type", "a.xml",
+            QByteArray("<!DOCTYPE d [<!ENTITY e 'x'>]><deviceList><device><IPAddress>&e;</IPAddress>"
+                       "</device></deviceList>"),
+            unparsed);
+        row("too deep", "a.xml",
+            "<deviceList>" + QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000) +
+                "</deviceList>",
+            unparsed);
+        row("too many elements", "a.xml",
+            "<deviceList>" + QByteArray("<a/>").repeated(10'000'000) + "</deviceList>", unparsed);
+        row("another root", "a.xml", QByteArray("<devices/>"), "^Root element is not 'deviceList': devices$");
     }
 
     void refusesAFileAsAWhole()
@@ -501,21 +410,20 @@ private Q_SLOTS:
 
     void saysWhyALineFailed_data()
     {
-        QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<int>("code");
+        const auto row = dataTable<QByteArray, int>({"line", "code"});
         const auto changed = [](const char *from, const QByteArray &to) {
             return QByteArray(cameraLine).replace(from, to);
         };
-        QTest::newRow("nobody there") << changed("192.168.1.10", "192.168.1.99") << 5;
-        QTest::newRow("wrong password") << changed("secret1", "secret2") << 2;
-        QTest::newRow("no password") << changed("secret1", "") << -1;
-        QTest::newRow("no address") << changed("192.168.1.10", "") << -1;
-        QTest::newRow("strange address") << changed("192.168.1.10", "10.0.0.1/x?") << -1;
-        QTest::newRow("strange port") << changed("37777", "70000") << -1;
-        QTest::newRow("other way") << changed("IpAddress", "Register") << -1;
-        QTest::newRow("comma in a name") << changed("东门", "东,门") << -1;
-        QTest::newRow("long name") << changed("东门", QByteArray(300, 'x')) << -1;
-        QTest::newRow("control character") << changed("secret1", "a\x1b[2J") << -1;
+        row("nobody there", changed("192.168.1.10", "192.168.1.99"), 5);
+        row("wrong password", changed("secret1", "secret2"), 2);
+        row("no password", changed("secret1", ""), -1);
+        row("no address", changed("192.168.1.10", ""), -1);
+        row("strange address", changed("192.168.1.10", "10.0.0.1/x?"), -1);
+        row("strange port", changed("37777", "70000"), -1);
+        row("other way", changed("IpAddress", "Register"), -1);
+        row("comma in a name", changed("东门", "东,门"), -1);
+        row("long name", changed("东门", QByteArray(300, 'x')), -1);
+        row("control character", changed("secret1", "a\x1b[2J"), -1);
     }
 
     void saysWhyALineFailed()
@@ -549,8 +457,7 @@ private Q_SLOTS:
         QVERIFY(import(write("a.csv", headers + cameraLine + unnamed)));
         QCOMPARE(m_failed, 1);
         const QVariantMap failure = m_factory->importFailures("dh").value(0).toMap();
-        QCOMPARE(failure.value("line").toInt(), 3);
-        QCOMPARE(failure.value("code").toInt(), 13);
+        QCOMPARE(valuesOf(failure, "line code"), "3|13");
         QCOMPARE(rowCount(), 1);
         QCOMPARE(row(camera).value("password").toString(), "secret1");
     }
@@ -591,6 +498,20 @@ private Q_SLOTS:
         QVERIFY(python.waitForFinished());
         QCOMPARE(QString::fromUtf8(python.readAllStandardOutput()),
                  "1、带“*”必须填写； 9\nA1:S1 True True\n" + QString::fromUtf8(headers + cameraLine));
+    }
+
+    void anImportThatIsStoppedEndsEarly()
+    {
+        constexpr int devices = 50;
+        QByteArray list = "添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,密码,序列号\n";
+        for (int device = 0; device < devices; ++device)
+            list += "P2P,NOBODY" + QByteArray::number(device) + ",8800,admin,secret1,\n";
+        const QSignalSpy progress(m_factory.get(), &CDeviceFactory::signalImportProgress);
+        connect(m_factory.get(), &CDeviceFactory::signalImportProgress, this,
+                [this] { m_factory->stopImport("dh"); });
+        QVERIFY(import(write("nobody.csv", list)));
+        const int last = progress.isEmpty() ? 0 : progress.last().first().toInt();
+        QVERIFY(last > 0 && last < devices);
     }
 
     void letsThePagePaintAndSurvivesWhatItDoes()

@@ -1,10 +1,8 @@
 // Sessions that are opened while the scene goes on: the present one where it is alive, else a new login.
 #include "device/dh/channelnames.h"
 #include "sdk/netlibrary.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
-
-#include <QSignalSpy>
-#include <QTest>
 
 using sdk::demo::Fault;
 using sdk::demo::SceneDevice;
@@ -113,12 +111,9 @@ private Q_SLOTS:
 
     void refusalsAreTold_data()
     {
-        QTest::addColumn<QString>("ipport");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<int>("result");
-        QTest::newRow("wrong password") << ipportOf(m_recorder) << "wrong" << 2;
-        QTest::newRow("nobody there") << "192.168.1.77:37777"
-                                      << "secret1" << 5;
+        const auto row = dataTable<QString, QString, int>({"ipport", "password", "result"});
+        row("wrong password", ipportOf(m_recorder), "wrong", 2);
+        row("nobody there", "192.168.1.77:37777", "secret1", 5);
     }
 
     void refusalsAreTold()
@@ -202,12 +197,10 @@ private Q_SLOTS:
 
     void channelsBeyondReasonAreLeftOut_data()
     {
-        QTest::addColumn<int>("told");
-        QTest::addColumn<int>("kept");
-        QTest::newRow("none") << 0 << 1;
-        QTest::newRow("as many as are kept")
-            << ChannelNames::maximumChannels << ChannelNames::maximumChannels;
-        QTest::newRow("too many") << 1500 << ChannelNames::maximumChannels;
+        const auto row = dataTable<int, int>({"told", "kept"});
+        row("none", 0, 1);
+        row("as many as are kept", ChannelNames::maximumChannels, ChannelNames::maximumChannels);
+        row("too many", 1500, ChannelNames::maximumChannels);
     }
 
     void channelsBeyondReasonAreLeftOut()

@@ -5,16 +5,16 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/scenedevices.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <optional>
 
@@ -109,9 +109,8 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(pathOf("rec", 1)));
 
         // A quality of 50 quantises as the example table of the standard (ITU-T T.81, K.1) says.
-        QFile file(pathOf("rec", 0));
-        QVERIFY(file.open(QFile::ReadOnly));
-        QVERIFY(file.readAll().contains(QByteArray::fromHex("ffdb004300100b0c0e0c0a100e0d0e1211101318")));
+        const QByteArray quantisation = QByteArray::fromHex("ffdb004300100b0c0e0c0a100e0d0e1211101318");
+        QVERIFY(fileContents(pathOf("rec", 0)).contains(quantisation));
     }
 
     void aChannelIsTakenAgainIntoTheSameFile()
@@ -119,31 +118,19 @@ private Q_SLOTS:
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 1200}));
         const QString path = pathOf("rec", 2);
         QDir().mkpath(QFileInfo(path).path());
-        QFile before(path);
-        QVERIFY(before.open(QFile::WriteOnly) && before.write("an older picture") > 0);
-        before.close();
+        QVERIFY(writeFile(path, "an older picture"));
         QCOMPARE(take("againCapture", 2, "rec", 1), (QList<Capture>{{2, "file:///" + path, {}}}));
         QVERIFY(!QImage(path).isNull());
         QCOMPARE(QDir(QStringLiteral("snap/rec")).entryList(QDir::Files).size(), 1);
     }
 
-    void anotherKindDoesNothing()
-    {
-        QSignalSpy all(factory(), &CDeviceFactory::signalSnapPictureToFile);
-        QSignalSpy again(factory(), &CDeviceFactory::signalSnapPictureToFileAgain);
-        factory()->snapPictureToFile("dh", "capture", 0, "rec");
-        QCOMPARE(take("againCapture", 1, "rec", 1).size(), 1); // what is asked for later is done later
-        QCOMPARE(all.size(), 0);
-        QCOMPARE(again.size(), 1);
-    }
-
     void aDeviceCannotLeadOutOfTheFolder_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("up") << QStringLiteral("../../rec");
-        QTest::newRow("absolute") << QStringLiteral("/rec");
-        QTest::newRow("dots") << QStringLiteral("..");
-        QTest::newRow("empty") << QString();
+        const auto row = dataTable<QString>({"name"});
+        row("up", QStringLiteral("../../rec"));
+        row("absolute", QStringLiteral("/rec"));
+        row("dots", QStringLiteral(".."));
+        row("empty", QString());
     }
 
     void aDeviceCannotLeadOutOfTheFolder()
@@ -167,18 +154,18 @@ private Q_SLOTS:
 
     void aFileThatCannotBeWrittenIsReportedWithTheReason_data()
     {
-        QTest::addColumn<bool>("isFull"); // the disk; else the folder's name is that of a file
-        QTest::newRow("no folder") << false;
-        QTest::newRow("full") << true;
+        // isFull: the disk; else the folder's name is that of a file
+        const auto row = dataTable<bool>({"isFull"});
+        row("no folder", false);
+        row("full", true);
     }
 
     void aFileThatCannotBeWrittenIsReportedWithTheReason()
     {
         QFETCH(bool, isFull);
         QVERIFY(QDir().mkpath(isFull ? "snap/rec" : "snap"));
-        QFile file(isFull ? "snap/rec/0.jpg" : "snap/rec");
-        QVERIFY(file.open(QFile::WriteOnly) && file.write("kept") > 0);
-        file.close();
+        const QString file = isFull ? "snap/rec/0.jpg" : "snap/rec";
+        QVERIFY(writeFile(file, "kept"));
         std::optional<FileSizeLimit> limit;
         if (isFull)
             limit.emplace(100);
@@ -189,8 +176,7 @@ private Q_SLOTS:
         QCOMPARE(captures.value(0), failed);
         QCOMPARE(captures.value(2).message, failed.message);
         QCOMPARE(m_site->requests().of("NetStartRealStream").size(), isFull ? 2 : 0);
-        QVERIFY(file.open(QFile::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("kept"));
+        QCOMPARE(fileContents(file), QByteArray("kept"));
     }
 
     void withoutChannelStatesEveryChannelCountsAsConnected()

@@ -1,15 +1,7 @@
 // System configuration: what devices are asked, what becomes of them, and what their rows are told.
-#include "device/devicefactory.h"
-#include "device/devicestore.h"
-#include "device/dh/devicedh.h"
-#include "sdk/demo/demosite.h"
-#include "sdk/demo/steppableclock.h"
 #include "sdk/netlibrary.h"
-#include "tests/device/dh/flowingclock.h"
-#include "tests/device/dh/scenedevices.h"
-
-#include <QSignalSpy>
-#include <QTest>
+#include "tests/datatable.h"
+#include "tests/device/dh/factorysite.h"
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -61,15 +53,10 @@ QVariantMap without(QVariantMap data, const QString &key)
 
 } // namespace
 
-class TestSystemConfig : public QObject
+class TestSystemConfig : public QObject, private FactorySite
 {
     Q_OBJECT
 private:
-    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
-    std::shared_ptr<sdk::demo::DemoSite> m_site;
-    std::shared_ptr<DeviceStore> m_store;
-    std::unique_ptr<CDeviceFactory> m_factory;
-    std::unique_ptr<FlowingClock> m_time;
     std::unique_ptr<QSignalSpy> m_results;
     std::unique_ptr<QSignalSpy> m_enabled;
 
@@ -88,8 +75,6 @@ private:
                          arguments.at(1).toString());
         return lines;
     }
-
-    qsizetype asked(const char *operation) const { return m_site->requests().of(operation).size(); }
 
     /// The last request of a kind, without the handle.
     QJsonObject lastRequest(const char *operation) const
@@ -110,17 +95,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        sdk::demo::Scene scene;
-        scene.devices = {sceneDevice(cameraMac, "192.168.1.10"), sceneDevice(recorderMac, "192.168.1.11")};
-        m_clock = std::make_shared<sdk::demo::SteppableClock>();
-        m_site = sdk::demo::DemoSite::create(scene, m_clock);
-        m_store = std::make_shared<DeviceStore>(m_clock);
-        m_factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {"dh", [this] {
-                 return std::make_shared<CDeviceDH>(m_store, m_site->libraries(),
-                                                    [] { return SearchSettings(); });
-             }}});
-        m_time = std::make_unique<FlowingClock>(*m_clock);
+        openSite({sceneDevice(cameraMac, "192.168.1.10"), sceneDevice(recorderMac, "192.168.1.11")});
         m_results = std::make_unique<QSignalSpy>(m_factory.get(), &CDeviceFactory::signalRetToSystemConfig);
         m_enabled =
             std::make_unique<QSignalSpy>(m_factory.get(), &CDeviceFactory::signalSystemConfigEnablePassword);
@@ -134,8 +109,7 @@ private Q_SLOTS:
     {
         m_results.reset();
         m_enabled.reset();
-        m_factory.reset();
-        m_time.reset();
+        closeSite();
     }
 
     void everyDeviceGetsItsOwnResult()
@@ -152,20 +126,15 @@ private Q_SLOTS:
 
     void aRefusalIsNamed_data()
     {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QVariantMap>("data");
-        QTest::addColumn<QString>("fault");
-        QTest::addColumn<int>("number");
-        QTest::addColumn<QString>("text");
+        const auto row = dataTable<QString, QVariantMap, QString, int, QString>(
+            {"command", "data", "fault", "number", "text"});
         const QVariantMap noon = {{"time", "2024-02-29 12:00:00"}};
-        QTest::newRow("time") << "setTimeByPC" << noon << "refusesSetting" << 8 << "";
-        QTest::newRow("locales") << "dstConfig" << daylightSaving() << "refusesConfiguration" << 0
-                                 << "Locales";
-        QTest::newRow("ntp") << "ntpConfig" << ntp() << "refusesConfiguration" << 0 << "NTP";
-        QTest::newRow("video") << "videoStandard" << QVariantMap{{"videoStandard", 2}} << "refusesItem" << 11
-                               << "";
-        QTest::newRow("reboot") << "rebootDevice" << QVariantMap() << "refusesReboot" << 0 << "";
-        QTest::newRow("reset") << "resetSystem" << QVariantMap() << "refusesReset" << 0 << "";
+        row("time", "setTimeByPC", noon, "refusesSetting", 8, "");
+        row("locales", "dstConfig", daylightSaving(), "refusesConfiguration", 0, "Locales");
+        row("ntp", "ntpConfig", ntp(), "refusesConfiguration", 0, "NTP");
+        row("video", "videoStandard", QVariantMap{{"videoStandard", 2}}, "refusesItem", 11, "");
+        row("reboot", "rebootDevice", QVariantMap(), "refusesReboot", 0, "");
+        row("reset", "resetSystem", QVariantMap(), "refusesReset", 0, "");
     }
 
     void aRefusalIsNamed()
@@ -183,9 +152,9 @@ private Q_SLOTS:
 
     void theClockThatWasSetRunsOn_data()
     {
-        QTest::addColumn<QString>("command");
-        QTest::newRow("by PC") << "setTimeByPC";
-        QTest::newRow("by hand") << "setTimeByManual";
+        const auto row = dataTable<QString>({"command"});
+        row("by PC", "setTimeByPC");
+        row("by hand", "setTimeByManual");
     }
 
     void theClockThatWasSetRunsOn()
@@ -194,11 +163,8 @@ private Q_SLOTS:
         m_time.reset(); // the clock stands still
         run(command, {{"time", "2031-12-31 23:59:50"}});
         QCOMPARE(results(), QStringList("10 0"));
-        QCOMPARE(lastRequest("NetSetDeviceSetting"), QJsonObject({{"setting", 8},
-                                                                  {"channel", -1},
-                                                                  {"blockSize", 24},
-                                                                  {"wait", 3000},
-                                                                  {"time", "2031-12-31 23:59:50"}}));
+        QCOMPARE(valuesOf(lastRequest("NetSetDeviceSetting"), "setting channel blockSize wait time"),
+                 "8|-1|24|3000|2031-12-31 23:59:50");
         m_clock->advance(15s);
         const auto net = m_site->libraries().net;
         sdk::LoginDeviceInformation information;
@@ -208,76 +174,46 @@ private Q_SLOTS:
         sdk::TimeRecord time{};
         std::uint32_t returned = 0;
         QVERIFY(net->NetQueryConfig(handle, sdk::QueryCommand::Time, -1, &time, sizeof(time), returned, 1s));
-        QCOMPARE(time.year, 2032u);
-        QCOMPARE(time.month * 100 + time.day, 101u);
-        QCOMPARE(time.hour * 10000 + time.minute * 100 + time.second, 5u);
+        QCOMPARE(QDate(time.year, time.month, time.day), QDate(2032, 1, 1));
+        QCOMPARE(QTime(time.hour, time.minute, time.second), QTime(0, 0, 5));
     }
 
     void daylightSavingIsARuleByWeekOrByDate()
     {
         run("dstConfig", daylightSaving());
         QCOMPARE(results(), QStringList("10 0"));
-        const QJsonObject fetched = lastRequest("NetGetNewConfig");
-        QCOMPARE(fetched.value("name").toString(), "Locales");
-        QCOMPARE(fetched.value("channel").toInt(), -1);
+        QCOMPARE(valuesOf(lastRequest("NetGetNewConfig"), "name channel"), "Locales|-1");
         const QJsonObject written = lastRequest("NetSetNewConfig");
         QCOMPARE(written.value("channel").toInt(), -1);
         const QJsonObject byWeek = written.value("text").toObject().value("Locales").toObject();
-        QCOMPARE(byWeek, QJsonObject({{"daylightSaving", true},
-                                      {"beginMonth", 3},
-                                      {"beginWeek", -1},
-                                      {"beginDay", 0},
-                                      {"beginHour", 2},
-                                      {"beginMinute", 30},
-                                      {"endMonth", 10},
-                                      {"endWeek", 1},
-                                      {"endDay", 6},
-                                      {"endHour", 3},
-                                      {"endMinute", 0},
-                                      {"timeFormat", "yyyy-MM-dd HH:mm:ss"}}));
-        run("dstConfig", with(daylightSaving(), "dstMode", 0));
-        const QJsonObject byDate = configuration("Locales");
-        QCOMPARE(byDate.value("beginWeek").toInt(), 0);
-        QCOMPARE(byDate.value("beginDay").toInt(), 1);
-        QCOMPARE(byDate.value("endDay").toInt(), 31);
-    }
-
-    void whatDaylightSavingDoesNotChangeStays()
-    {
+        QCOMPARE(byWeek.size(), 12);
+        QCOMPARE(valuesOf(byWeek, "beginMonth beginWeek beginDay beginHour beginMinute"), "3|-1|0|2|30");
+        QCOMPARE(valuesOf(byWeek, "endMonth endWeek endDay endHour endMinute"), "10|1|6|3|0");
+        QCOMPARE(valuesOf(byWeek, "daylightSaving timeFormat"), "true|yyyy-MM-dd HH:mm:ss");
         m_site->changeDevice(cameraMac, [](sdk::demo::SceneDevice &changed, const auto &) {
             changed.configuration.insert("Locales", QJsonObject{{"timeFormat", "dd.MM.yyyy"}});
         });
-        run("dstConfig", with(daylightSaving(), "dstEnable", false));
-        QCOMPARE(configuration("Locales").value("timeFormat").toString(), "dd.MM.yyyy");
-        QCOMPARE(configuration("Locales").value("daylightSaving").toBool(true), false);
+        run("dstConfig", with(with(daylightSaving(), "dstMode", 0), "dstEnable", false));
+        QCOMPARE(valuesOf(configuration("Locales"), "beginWeek beginDay endDay daylightSaving timeFormat"),
+                 "0|1|31|false|dd.MM.yyyy"); // what it does not change stays
     }
 
     void configurationsAreKept()
     {
         run("ntpConfig", ntp());
         QCOMPARE(results(), QStringList("10 0"));
-        QCOMPARE(configuration("NTP"), QJsonObject({{"enabled", true},
-                                                    {"address", "time.example"},
-                                                    {"port", 123},
-                                                    {"updatePeriod", 65535},
-                                                    {"timeZone", 39}}));
+        QCOMPARE(valuesOf(configuration("NTP"), "enabled address port updatePeriod timeZone"),
+                 "true|time.example|123|65535|39");
         QVariantMap weekly = {{"week", 7}, {"time", "23:45"}, {"autoReboot", true}};
         run("autoMaintain", weekly);
-        QCOMPARE(lastRequest("NetSetNewConfig").value("textSize").toInt(), 4096);
-        QCOMPARE(lastRequest("NetSetNewConfig").value("channel").toInt(), -1);
-        QCOMPARE(configuration("AutoMaintain"),
-                 QJsonObject(
-                     {{"rebootDay", 7}, {"rebootHour", 23}, {"rebootMinute", 45}, {"rebootEnabled", true}}));
+        QCOMPARE(valuesOf(lastRequest("NetSetNewConfig"), "textSize channel"), "4096|-1");
+        const QString reboot = "rebootDay rebootHour rebootMinute rebootEnabled";
+        QCOMPARE(valuesOf(configuration("AutoMaintain"), reboot), "7|23|45|true");
         run("autoMaintain", with(weekly, "autoReboot", false));
-        QCOMPARE(configuration("AutoMaintain").value("rebootDay").toInt(), -1);
-        QCOMPARE(configuration("AutoMaintain").value("rebootEnabled").toBool(true), false);
+        QCOMPARE(valuesOf(configuration("AutoMaintain"), reboot), "-1|23|45|false");
         run("videoStandard", {{"videoStandard", 2}});
-        QCOMPARE(lastRequest("NetSetItem"), QJsonObject({{"item", 11},
-                                                         {"channel", -1},
-                                                         {"blockSize", 8},
-                                                         {"size", 8},
-                                                         {"standard", 2},
-                                                         {"wait", 5000}}));
+        QCOMPARE(valuesOf(lastRequest("NetSetItem"), "item channel blockSize size standard wait"),
+                 "11|-1|8|8|2|5000");
         QCOMPARE(m_site->device(cameraMac)->maintenance.videoStandard, sdk::VideoStandard::Ntsc);
     }
 
@@ -311,10 +247,9 @@ private Q_SLOTS:
 
     void dataThatMakeNoSenseAreSentToNobody_data()
     {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QVariantMap>("data");
-        const auto row = [](const char *title, const QString &command, const QVariantMap &data = {}) {
-            QTest::newRow(title) << command << data;
+        const auto addRow = dataTable<QString, QVariantMap>({"command", "data"});
+        const auto row = [&addRow](const char *title, const QString &command, const QVariantMap &data = {}) {
+            addRow(title, command, data);
         };
         row("unknown command", "format");
         row("empty command", "");
@@ -412,7 +347,7 @@ private Q_SLOTS:
         m_enabled.reset();
         m_factory.reset();
         QCOMPARE(asked("NetLogout"), 3);
-        QCOMPARE(m_site->requests().all().last().operation, "NetCleanup");
+        QCOMPARE(m_site->requests().of("NetCleanup").size(), 1);
     }
 
     void daysOfAMonth()

@@ -1,5 +1,6 @@
 // Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
 #include "device/loginresult.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/upgradesite.h"
 #include "tests/device/searchanswers.h"
 
@@ -16,10 +17,10 @@ class TestUpgrade : public QObject
 private Q_SLOTS:
     void aFewAtATime_data()
     {
-        QTest::addColumn<int>("atOnce");
-        QTest::newRow("as usual") << UpgradeLimits().atOnce;
-        QTest::newRow("one after another") << 1;
-        QTest::newRow("five") << 5;
+        const auto row = dataTable<int>({"atOnce"});
+        row("as usual", UpgradeLimits().atOnce);
+        row("one after another", 1);
+        row("five", 5);
     }
 
     void aFewAtATime()
@@ -105,14 +106,8 @@ private Q_SLOTS:
 
     void whatDevicesDo_data()
     {
-        QTest::addColumn<FaultSetting>("fault");
-        QTest::addColumn<UpgradeTools::Result>("result");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("canTryAgain");
-        const auto row = [](const char *title, const FaultSetting &fault, UpgradeTools::Result result,
-                            const QString &text, bool canTryAgain) {
-            QTest::newRow(title) << fault << result << text << canTryAgain;
-        };
+        const auto row = dataTable<FaultSetting, UpgradeTools::Result, QString, bool>(
+            {"fault", "result", "text", "canTryAgain"});
         row("fails", {Fault::UpgradeFailsAt, 50}, UpgradeTools::Failed, u"设备中断了升级（34%）"_s, true);
         row("fails in the writing", {Fault::UpgradeFailsAt, 100}, UpgradeTools::Failed,
             u"设备中断了升级（70%）"_s, true);
@@ -163,15 +158,9 @@ private Q_SLOTS:
 
     void whatVersionsProve_data()
     {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("inFile");
-        QTest::addColumn<QString>("after"); // the file's when it is null
-        QTest::addColumn<UpgradeTools::Result>("result");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *title, const QString &before, const QString &inFile,
-                            const QString &after, UpgradeTools::Result result, const QString &text) {
-            QTest::newRow(title) << before << inFile << after << result << text;
-        };
+        // after: the file's when it is null
+        const auto row = dataTable<QString, QString, QString, UpgradeTools::Result, QString>(
+            {"before", "inFile", "after", "result", "text"});
         row("letters behind it", u"2.900.0.R, build 2026-01-01"_s, u"3.000.1"_s,
             u"3.000.1.R, build 2026-02-01"_s, UpgradeTools::Success,
             u"升级成功：2.900.0.R, build 2026-01-01 → 3.000.1.R, build 2026-02-01"_s);
@@ -215,19 +204,15 @@ private Q_SLOTS:
 
     void filesThatAreNotSent_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<UpgradeTools::Result>("result");
-        QTest::newRow("none") << QByteArray() << QString() << UpgradeTools::NoFile;
-        QTest::newRow("missing") << QByteArray() << u"missing"_s << UpgradeTools::FileMissing;
-        QTest::newRow("folder") << QByteArray() << u"."_s << UpgradeTools::FileUnreadable;
-        QTest::newRow("empty") << QByteArray("") << u"empty.bin"_s << UpgradeTools::FileEmpty;
-        QTest::newRow("damaged") << QByteArray("BRELM-FIRMWARE 1\nversion") << u"damaged.bin"_s
-                                 << UpgradeTools::FileDamaged;
-        QTest::newRow("other model") << QByteArray("BRELM-FIRMWARE 1\nmodel=C-1\nversion=2.9\n\n")
-                                     << u"B-2230-IR_2.9.bin"_s << UpgradeTools::WrongModel;
-        QTest::newRow("other model by name")
-            << QByteArray("bytes") << u"C-1,C-2_2.9.bin"_s << UpgradeTools::WrongModel;
+        const auto row = dataTable<QByteArray, QString, UpgradeTools::Result>({"content", "name", "result"});
+        row("none", QByteArray(), QString(), UpgradeTools::NoFile);
+        row("missing", QByteArray(), u"missing"_s, UpgradeTools::FileMissing);
+        row("folder", QByteArray(), u"."_s, UpgradeTools::FileUnreadable);
+        row("empty", QByteArray(""), u"empty.bin"_s, UpgradeTools::FileEmpty);
+        row("damaged", QByteArray("BRELM-FIRMWARE 1\nversion"), u"damaged.bin"_s, UpgradeTools::FileDamaged);
+        row("other model", QByteArray("BRELM-FIRMWARE 1\nmodel=C-1\nversion=2.9\n\n"), u"B-2230-IR_2.9.bin"_s,
+            UpgradeTools::WrongModel);
+        row("other model by name", QByteArray("bytes"), u"C-1,C-2_2.9.bin"_s, UpgradeTools::WrongModel);
     }
 
     void filesThatAreNotSent()
@@ -312,17 +297,6 @@ private Q_SLOTS:
         QVERIFY(test.passUntil([&] { return test.text(1) == u"固件已写入，设备正在重启，无法停止"_s; }));
         QVERIFY(test.passUntilEnd());
         QCOMPARE(test.result(1), UpgradeTools::Success);
-    }
-
-    void aDeviceThatRestartsSaysWhyItGoesOn()
-    {
-        const UpgradeSite test(1);
-        test.start({0}, test.file());
-        QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Restarting; }));
-        test.factory->stopUpgrade(test.family, test.mac(0));
-        QVERIFY(test.passUntil([&] { return test.text(0) == u"固件已写入，设备正在重启，无法停止"_s; }));
-        QVERIFY(test.passUntilEnd());
-        QCOMPARE(test.result(0), UpgradeTools::Success);
     }
 
     void onlyWhatMayGoWellIsTriedAgain()

@@ -1,7 +1,6 @@
 // The tables between codes and texts, and what a capability block lets a page offer.
 #include "device/dh/encodechoices.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 #include <memory>
 
@@ -81,18 +80,15 @@ private Q_SLOTS:
 
     void compressionsFollowMaskAndProfiles_data()
     {
-        QTest::addColumn<quint32>("mask");
-        QTest::addColumn<quint32>("count");
-        QTest::addColumn<QList<int>>("profiles");
-        QTest::addColumn<QStringList>("offered");
+        const auto row =
+            dataTable<quint32, quint32, QList<int>, QStringList>({"mask", "count", "profiles", "offered"});
         const quint32 h264 = 1u << 7;
-        QTest::newRow("no profiles") << (h264 | 1u) << 0u << QList<int>() << QStringList({"MPEG4", "H264"});
-        QTest::newRow("profiles in the device's order") << (h264 | 1u << 8) << 3u << QList<int>({4, 0, 1})
-                                                        << QStringList({"H.264 H", "H.264 B", "H.265"});
-        QTest::newRow("unknown profiles") << h264 << 2u << QList<int>({7, -3}) << QStringList();
-        QTest::newRow("unknown bits") << 0xFFFFFC00u << 0u << QList<int>() << QStringList();
-        QTest::newRow("count beyond its bound")
-            << h264 << 0xFFFFFFFFu << QList<int>({1}) << QStringList({"H.264 B"});
+        row("no profiles", (h264 | 1u), 0u, QList<int>(), QStringList({"MPEG4", "H264"}));
+        row("profiles in the device's order", (h264 | 1u << 8), 3u, QList<int>({4, 0, 1}),
+            QStringList({"H.264 H", "H.264 B", "H.265"}));
+        row("unknown profiles", h264, 2u, QList<int>({7, -3}), QStringList());
+        row("unknown bits", 0xFFFFFC00u, 0u, QList<int>(), QStringList());
+        row("count beyond its bound", h264, 0xFFFFFFFFu, QList<int>({1}), QStringList({"H.264 B"}));
     }
 
     void compressionsFollowMaskAndProfiles()
@@ -130,24 +126,15 @@ private Q_SLOTS:
 
     void bitRatesRunBetweenTheBounds_data()
     {
-        QTest::addColumn<int>("minimum");
-        QTest::addColumn<int>("maximum");
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("last");
-        QTest::addColumn<int>("count");
-        QTest::newRow("all") << 32 << 30000 << "32"
-                             << "18432" << 32;
-        QTest::newRow("between steps") << 50 << 100 << "64"
-                                       << "96" << 3;
-        QTest::newRow("one step") << 64 << 64 << "64"
-                                  << "64" << 1;
-        QTest::newRow("none between") << 50 << 60 << QString() << QString() << 0;
-        QTest::newRow("minimum above every step") << 20000 << 128 << "32"
-                                                  << "128" << 6;
-        QTest::newRow("maximum below every step") << 10240 << 0 << "10240"
-                                                  << "18432" << 5;
-        QTest::newRow("negative") << -5 << -1 << "32"
-                                  << "18432" << 32;
+        const auto row =
+            dataTable<int, int, QString, QString, int>({"minimum", "maximum", "first", "last", "count"});
+        row("all", 32, 30000, "32", "18432", 32);
+        row("between steps", 50, 100, "64", "96", 3);
+        row("one step", 64, 64, "64", "64", 1);
+        row("none between", 50, 60, QString(), QString(), 0);
+        row("minimum above every step", 20000, 128, "32", "128", 6);
+        row("maximum below every step", 10240, 0, "10240", "18432", 5);
+        row("negative", -5, -1, "32", "18432", 32);
     }
 
     void bitRatesRunBetweenTheBounds()

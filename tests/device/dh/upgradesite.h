@@ -10,8 +10,8 @@
 #include "sdk/demo/steppableclock.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
+#include "tests/files/filecontents.h"
 
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -62,9 +62,8 @@ public:
     [[nodiscard]] QString file(const QByteArray &content = firmware,
                                const QString &name = QStringLiteral("firmware.bin")) const
     {
-        QFile written(folder.filePath(name));
-        return written.open(QFile::WriteOnly) && written.write(content) == content.size() ? written.fileName()
-                                                                                          : QString();
+        const QString path = folder.filePath(name);
+        return writeFile(path, content) ? path : QString();
     }
 
     /// Starts the upgrade of the devices of these places.

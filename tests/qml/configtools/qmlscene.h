@@ -7,6 +7,8 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
 
 #include <memory>
@@ -16,9 +18,9 @@ Q_IMPORT_QML_PLUGIN(DateTimeValidatorPlugin)
 Q_IMPORT_QML_PLUGIN(VideoItemPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
-/// Opens the window that `source` describes, drawn without OpenGL. The scene reads `objects`, which are not
-/// taken over, by their names. Null on failure, with a warning that says why.
-inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const char *source,
+/// Opens a window with `content`, drawn without OpenGL. The scene reads `objects`, which are not taken over,
+/// by their names. Null on failure, with a warning that says why.
+inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const QByteArray &content,
                                                const QHash<QString, QObject *> &objects = {})
 {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
@@ -26,7 +28,10 @@ inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const char *s
     for (auto object = objects.cbegin(); object != objects.cend(); ++object)
         engine.rootContext()->setContextProperty(object.key(), object.value());
     QQmlComponent component(&engine);
-    component.setData(source, QUrl(QStringLiteral("qrc:/test.qml")));
+    component.setData("import QtQuick\nimport QtQuick.Templates as T\nimport configtools\n"
+                      "T.ApplicationWindow {\n" +
+                          content + "}\n",
+                      QUrl(QStringLiteral("qrc:/test.qml")));
     std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow *>(component.create()));
     if (!window)
         qWarning().noquote() << component.errorString();

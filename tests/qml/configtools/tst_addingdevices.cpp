@@ -1,23 +1,17 @@
 #include "device/busystate.h"
 #include "favourites/author.h"
+#include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 #include "tests/qml/configtools/recordingfactory.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
 const char *const scene =
-    "import QtQuick\n"
-    "import QtQuick.Templates as T\n"
-    "import configtools\n"
-    "T.ApplicationWindow {\n"
     "    width: 1280; height: 720; visible: true\n"
     "    ModifyIPAdding { objectName: 'adding'; busyState: busy; deviceFactory: factory }\n"
-    "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n"
-    "}\n";
+    "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n";
 
 QStringList argumentsOf(const QSignalSpy &spy)
 {
@@ -61,13 +55,8 @@ private Q_SLOTS:
 
     void refusesWhatIsMissing_data()
     {
-        QTest::addColumn<QString>("opener");
-        QTest::addColumn<QStringList>("fields"); // name, text, name, text, ...
-        QTest::addColumn<QString>("message");
-        const auto row = [](const char *name, const char *opener, const QStringList &fields,
-                            const char *message) {
-            QTest::newRow(name) << opener << fields << message;
-        };
+        // fields: name, text, name, text, ...
+        const auto row = dataTable<QString, QStringList, QString>({"opener", "fields", "message"});
         const QStringList nothing = {"accountField", "", "portField", ""};
         row("no ID", "openP2p", nothing, "请输入P2P ID");
         row("no address", "openIp", nothing, "请输入正确的IP");
@@ -97,18 +86,11 @@ private Q_SLOTS:
 
     void addsByHand_data()
     {
-        QTest::addColumn<QString>("opener");
-        QTest::addColumn<int>("loginResult");
-        QTest::addColumn<int>("port");
-        QTest::addColumn<QStringList>("asked");
-        QTest::addColumn<QString>("said");
+        const auto row = dataTable<QString, int, int, QStringList, QString>(
+            {"opener", "loginResult", "port", "asked", "said"});
         const QString login = "login dh 10.0.0.1 admin secret 37777 0";
         const QString tunnel = "port dh OV7 admin secret 37777 0";
         const QString tunnelLogin = "login dh OV7 admin secret 5000 1 37777";
-        const auto row = [](const char *name, const char *opener, int result, int port,
-                            const QStringList &asked, const QString &said) {
-            QTest::newRow(name) << opener << result << port << asked << said;
-        };
         row("address", "openIp", 0, 0, {login, "pair 0 0"}, "设备已添加/1");
         row("address, wrong password", "openIp", 2, 0, {login, "release 0", "release 0"}, "result 2/2");
         row("address, not supported", "openIp", 12, 0, {login, "release 0", "release 0"}, "");
@@ -157,11 +139,9 @@ private Q_SLOTS:
 
     void savesFavourites_data()
     {
-        QTest::addColumn<bool>("writable");
-        QTest::addColumn<QString>("said");
-        QTest::newRow("saved") << true << "设备已添加，并保存到收藏夹/1";
-        QTest::newRow("cannot be saved")
-            << false << "设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限/2";
+        const auto row = dataTable<bool, QString>({"writable", "said"});
+        row("saved", true, "设备已添加，并保存到收藏夹/1");
+        row("cannot be saved", false, "设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限/2");
     }
 
     void savesFavourites()
@@ -249,14 +229,12 @@ private Q_SLOTS:
 
     void asksForTheAccountAgain_data()
     {
-        QTest::addColumn<bool>("takesChanges");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QStringList>("asked");
-        QTest::addColumn<QString>("answer");
+        const auto row =
+            dataTable<bool, QString, QStringList, QString>({"takesChanges", "button", "asked", "answer"});
         const QStringList change = {"change dh password new m1 10.0.0.1:80"};
-        QTest::newRow("confirmed") << true << "accept" << change << "user/new";
-        QTest::newRow("the row is gone") << false << "accept" << change << "/";
-        QTest::newRow("cancelled") << true << "reject" << QStringList() << "/";
+        row("confirmed", true, "accept", change, "user/new");
+        row("the row is gone", false, "accept", change, "/");
+        row("cancelled", true, "reject", QStringList(), "/");
     }
 
     void asksForTheAccountAgain()

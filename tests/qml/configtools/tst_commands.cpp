@@ -1,19 +1,14 @@
-#include "cgi/cgiconfigmanage.h"
-#include "tests/qml/configtools/qmlscene.h"
 // The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
 // answer, and the window that shows a long one.
+#include "cgi/cgiconfigmanage.h"
+#include "tests/datatable.h"
+#include "tests/qml/configtools/qmlscene.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QSignalSpy>
-#include <QTest>
-
 namespace {
 
 const char *const scene =
-    "import QtQuick\n"
-    "import QtQuick.Templates as T\n"
-    "import configtools\n"
-    "T.ApplicationWindow {\n"
     "    width: 1000; height: 400; visible: true\n"
     "    onClosing: close => close.accepted = false\n"
     "    CgiCommands { id: known; cgiManager: program }\n"
@@ -33,8 +28,7 @@ const char *const scene =
     "            shown: parent.words !== ''; text: parent.words; footnote: 'footnote'\n"
     "            widest: Theme.answerTipWidth\n"
     "        }\n"
-    "    }\n"
-    "}\n";
+    "    }\n";
 
 } // namespace
 
@@ -142,11 +136,11 @@ private Q_SLOTS:
     /// The field of a row that is scrolled is offered something in one place and then in another.
     void offersStandBesideTheField_data()
     {
-        QTest::addColumn<QList<int>>("places");
-        QTest::newRow("at the head") << QList<int>{10};
-        QTest::newRow("at the foot") << QList<int>{360};
-        QTest::newRow("scrolled to the foot") << QList<int>{10, 360};
-        QTest::newRow("scrolled to the head") << QList<int>{360, 10};
+        const auto row = dataTable<QList<int>>({"places"});
+        row("at the head", QList<int>{10});
+        row("at the foot", QList<int>{360});
+        row("scrolled to the foot", QList<int>{10, 360});
+        row("scrolled to the head", QList<int>{360, 10});
     }
 
     void offersStandBesideTheField()
@@ -179,15 +173,13 @@ private Q_SLOTS:
 
     void sendsTheCommandOfARow_data()
     {
-        QTest::addColumn<QString>("ipport");
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("url"); // empty: nothing is sent
-        QTest::addColumn<QString>("said");
-        QTest::addColumn<int>("webPort");
-        const auto row = [](const char *name, const char *ipport, const char *command, const char *answer,
-                            const char *url, const char *said, int webPort = 8080) {
-            QTest::newRow(name) << ipport << command << answer << url << said << webPort;
+        // url: empty: nothing is sent
+        const auto addRow = dataTable<QString, QString, QString, QString, QString, int>(
+            {"ipport", "command", "answer", "url", "said", "webPort"});
+        const auto row = [&addRow](const char *name, const char *ipport, const char *command,
+                                   const char *answer, const char *url, const char *said,
+                                   int webPort = 8080) {
+            addRow(name, ipport, command, answer, url, said, webPort);
         };
         row("no web port", "10.0.0.1:37777", "/cgi-bin/a", "OK", "http://10.0.0.1:80/cgi-bin/a", "", 0);
         row("web port", "10.0.0.1:37777", " /cgi-bin/a ", "OK", "http://10.0.0.1:8080/cgi-bin/a", "");
@@ -244,9 +236,10 @@ private Q_SLOTS:
 
     void aRunningCommandCanBeStopped_data()
     {
-        QTest::addColumn<QString>("clicked"); // empty: the window is to close
-        QTest::newRow("by the button") << "stopButton";
-        QTest::newRow("by closing the window") << "";
+        // clicked: empty: the window is to close
+        const auto row = dataTable<QString>({"clicked"});
+        row("by the button", "stopButton");
+        row("by closing the window", "");
     }
 
     void aRunningCommandCanBeStopped()
@@ -285,13 +278,12 @@ private Q_SLOTS:
 
     void aLongAnswerEndsInTheWindow_data()
     {
-        QTest::addColumn<QString>("words");
-        QTest::newRow("short") << "OK";
-        QTest::newRow("many lines") << QString("line\n").repeated(2'000);
-        QTest::newRow("one line") << QString(3'000, 'w');
-        QTest::newRow("wide letters") << QString(3'000, u'东');
-        QTest::newRow("line breaks of other kinds")
-            << QString("a\u2028b\u000Bc\u000Cd\u0085e\rf").repeated(300);
+        const auto row = dataTable<QString>({"words"});
+        row("short", "OK");
+        row("many lines", QString("line\n").repeated(2'000));
+        row("one line", QString(3'000, 'w'));
+        row("wide letters", QString(3'000, u'东'));
+        row("line breaks of other kinds", QString("a\u2028b\u000Bc\u000Cd\u0085e\rf").repeated(300));
     }
 
     void aLongAnswerEndsInTheWindow()

@@ -1,17 +1,11 @@
 #include "sdk/demo/demosite.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 #include "tests/qml/configtools/qmlscene.h"
-
-#include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
 const char *const scene =
-    "import QtQuick\n"
-    "import QtQuick.Templates as T\n"
-    "import configtools\n"
-    "T.ApplicationWindow {\n"
     "    visible: true\n"
     "    ConfigSession {\n"
     "        objectName: 'session'; deviceFactory: factory\n"
@@ -24,8 +18,7 @@ const char *const scene =
     "        }\n"
     "        function saveEncoding() { encoding.save(); }\n"
     "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
-    "    }\n"
-    "}\n";
+    "    }\n";
 
 } // namespace
 
@@ -69,10 +62,10 @@ private Q_SLOTS:
 
     void whatIsMeantForOneDeviceDoesNotReachAnother_data()
     {
-        QTest::addColumn<QByteArray>("save");
-        QTest::newRow("names") << QByteArray("saveNames");
-        QTest::newRow("encoding") << QByteArray("saveEncoding");
-        QTest::newRow("image") << QByteArray("setImage");
+        const auto row = dataTable<QByteArray>({"save"});
+        row("names", QByteArray("saveNames"));
+        row("encoding", QByteArray("saveEncoding"));
+        row("image", QByteArray("setImage"));
     }
 
     /// A live view's login comes between the wish and the work.

@@ -1,6 +1,5 @@
 #include "qml/datetimevalidator/datetimevalidator.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 class TestDateTimeValidator : public QObject
 {
@@ -8,13 +7,8 @@ class TestDateTimeValidator : public QObject
 private Q_SLOTS:
     void textsAreTold_data()
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("state");
+        const auto row = namedTable<QString, QString, int>({"format", "text", "state"});
         const QString moment = "yyyy-MM-dd hh:mm:ss";
-        const auto row = [](const QString &format, const QString &text, QValidator::State state) {
-            QTest::newRow(qPrintable(format + " \"" + text + '"')) << format << text << int(state);
-        };
         row(moment, "2024-02-29 23:59:59", QValidator::Acceptable);
         row(moment, "2024-03-31 02:30:00", QValidator::Acceptable); // left out by some daylight savings
         row(moment, "", QValidator::Intermediate);

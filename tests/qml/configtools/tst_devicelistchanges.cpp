@@ -1,21 +1,15 @@
 #include "device/devicefactory.h"
 #include "tests/qml/configtools/qmlscene.h"
 
-#include <QTest>
-
 namespace {
 
-const char *const scene = "import QtQuick.Templates as T\n"
-                          "import configtools\n"
-                          "T.ApplicationWindow {\n"
-                          "    id: window\n"
+const char *const scene = "    id: window\n"
                           "    property bool shown: true\n"
                           "    property int readings: 0\n"
                           "    DeviceListChanges {\n"
                           "        deviceFactory: factory; shown: window.shown\n"
                           "        onReadingRequested: ++window.readings\n"
-                          "    }\n"
-                          "}\n";
+                          "    }\n";
 
 } // namespace
 

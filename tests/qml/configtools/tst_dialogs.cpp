@@ -1,4 +1,5 @@
 // Boxes over the window: how they are answered, and what they show.
+#include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
 #include <QAbstractListModel>
@@ -9,11 +10,7 @@
 
 namespace {
 
-const char *const scene = "import QtQuick\n"
-                          "import QtQuick.Templates as T\n"
-                          "import configtools\n"
-                          "T.ApplicationWindow {\n"
-                          "    width: 1280; height: 720; visible: true\n"
+const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    OVMessageBox { objectName: 'question' }\n"
                           "    ModifyIPFiles {\n"
                           "        objectName: 'files'\n"
@@ -35,8 +32,7 @@ const char *const scene = "import QtQuick\n"
                           "            objectName: 'cursor'\n"
                           "            function cursorPos() { return place; }\n"
                           "        }\n"
-                          "    }\n"
-                          "}\n";
+                          "    }\n";
 
 } // namespace
 
@@ -113,10 +109,10 @@ private Q_SLOTS:
 
     void enterAnswers_data()
     {
-        QTest::addColumn<int>("kind"); // OVMessageBox's
-        QTest::addColumn<bool>("isYes");
-        QTest::newRow("a question: yes") << 2 << true;
-        QTest::newRow("a dangerous question: no") << 3 << false;
+        // kind: OVMessageBox's
+        const auto row = dataTable<int, bool>({"kind", "isYes"});
+        row("a question: yes", 2, true);
+        row("a dangerous question: no", 3, false);
     }
 
     void enterAnswers()

@@ -1,7 +1,6 @@
+#include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
-#include <QSignalSpy>
-#include <QTest>
 #include <QVariantMap>
 
 namespace {
@@ -10,16 +9,11 @@ const QString device = QStringLiteral("192.168.1.20:37777");
 const QString other = QStringLiteral("192.168.1.21:37777");
 
 const char *const scene =
-    "import QtQuick\n"
-    "import QtQuick.Templates as T\n"
-    "import configtools\n"
-    "T.ApplicationWindow {\n"
     "    visible: true\n"
     "    LiveDevice {\n"
     "        objectName: 'live'; deviceFactory: factory\n"
     "        localConfig: ({getSearchConfigUsrename: () => 'usual', getSearchConfigPass: () => 'usual-1'})\n"
-    "    }\n"
-    "}\n";
+    "    }\n";
 
 } // namespace
 
@@ -131,13 +125,13 @@ private Q_SLOTS:
 
     void whatTimeDoesNotMendIsNotTriedAgain_data()
     {
-        QTest::addColumn<int>("result");
-        QTest::newRow("no such account") << 1;
-        QTest::newRow("wrong password") << 2;
-        QTest::newRow("account locked") << 3;
-        QTest::newRow("account logged in") << 4;
-        QTest::newRow("another protocol") << 6;
-        QTest::newRow("not initialised") << 7;
+        const auto row = dataTable<int>({"result"});
+        row("no such account", 1);
+        row("wrong password", 2);
+        row("account locked", 3);
+        row("account logged in", 4);
+        row("another protocol", 6);
+        row("not initialised", 7);
     }
 
     void whatTimeDoesNotMendIsNotTriedAgain()

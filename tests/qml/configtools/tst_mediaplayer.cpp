@@ -1,27 +1,13 @@
 #include "media/videoitem.h"
 #include "tests/media/fakelibraries.h"
-
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickWindow>
-#include <QSignalSpy>
-#include <QTest>
-#include <QtQml/QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(VideoItemPlugin)
-Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
+#include "tests/qml/configtools/qmlscene.h"
 
 namespace {
 
-const char *const scene = "import QtQuick\n"
-                          "import QtQuick.Templates as T\n"
-                          "import configtools\n"
-                          "T.ApplicationWindow {\n"
-                          "    OV_MediaPlayer {\n"
+const char *const scene = "    OV_MediaPlayer {\n"
                           "        objectName: 'player'; active: false; channel: 2; channelName: 'gate'\n"
                           "        connected: true\n"
-                          "    }\n"
-                          "}\n";
+                          "    }\n";
 
 /// Refuses streams of some kinds.
 class PickyNet : public FakeNet
@@ -80,7 +66,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         CDeviceFactory::registerBackEnd("dh", [] { return std::make_shared<SessionBackEnd>(); });
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     }
     void cleanupTestCase() { CDeviceFactory::deleteInstance(); }
 
@@ -92,11 +77,8 @@ private Q_SLOTS:
         libraries.net = m_net;
         VideoItem::registerLibraries(libraries);
         m_engine = std::make_unique<QQmlEngine>();
-        m_engine->addImportPath("qrc:/qt/qml");
-        QQmlComponent component(m_engine.get());
-        component.setData(scene, QUrl("qrc:/test.qml"));
-        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
-        QVERIFY2(m_window, qPrintable(component.errorString()));
+        m_window = openScene(*m_engine, scene);
+        QVERIFY(m_window);
         m_player = m_window->findChild<QObject *>("player");
         m_asked = std::make_unique<QSignalSpy>(m_player, SIGNAL(asked()));
     }

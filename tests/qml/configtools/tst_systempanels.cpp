@@ -1,16 +1,11 @@
 // What the fields of the system page send to a device.
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 #include "tests/qml/configtools/qmlscene.h"
-
-#include <QTest>
 
 namespace {
 
 const char *const scene =
-    "import QtQuick\n"
-    "import QtQuick.Templates as T\n"
-    "import configtools\n"
-    "T.ApplicationWindow {\n"
     "    width: 900; height: 700; visible: true\n"
     "    SystemPanels {\n"
     "        anchors.fill: parent\n"
@@ -20,8 +15,7 @@ const char *const scene =
     "        deviceFactory: factory\n"
     "        onActionRequested: (command, title, dataOf) =>\n"
     "            factory.systemConfig('dh', command, dataOf(), ['192.168.1.1:37777'])\n"
-    "    }\n"
-    "}\n";
+    "    }\n";
 
 /// "field=value" of a request's configuration text, in alphabetical order.
 QString fieldsOf(const QJsonObject &fields)
@@ -53,10 +47,8 @@ private Q_SLOTS:
 
     void fieldsAreSentAsTheyStand_data()
     {
-        QTest::addColumn<int>("panel");
-        QTest::addColumn<QVariantMap>("fields"); // property of "field" by its name
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<QString>("sent");
+        // fields: property of "field" by its name
+        const auto row = dataTable<int, QVariantMap, QString, QString>({"panel", "fields", "button", "sent"});
         const QVariantMap points = {{"dstEnableBox.checked", true},    {"startMonthBox.currentIndex", 3},
                                     {"startWeekBox.currentIndex", 1},  {"startWeekDayBox.currentIndex", 5},
                                     {"startDayBox.kept", 11},          {"startTimeField.text", "01:15"},
@@ -67,37 +59,30 @@ private Q_SLOTS:
         byDate.insert("dstByDate.checked", true);
         QVariantMap byWeek = points;
         byWeek.insert("dstByWeek.checked", true);
-        QTest::newRow("daylight saving by week")
-            << 1 << byWeek << "dstApplyButton"
-            << "beginDay=5 beginHour=1 beginMinute=15 beginMonth=4 beginWeek=2 daylightSaving=true endDay=6 "
-               "endHour=4 endMinute=45 endMonth=11 endWeek=-1";
-        QTest::newRow("daylight saving by date")
-            << 1 << byDate << "dstApplyButton"
-            << "beginDay=12 beginHour=1 beginMinute=15 beginMonth=4 beginWeek=0 daylightSaving=true "
-               "endDay=30 endHour=4 endMinute=45 endMonth=11 endWeek=0";
-        QTest::newRow("zone and NTP")
-            << 1
-            << QVariantMap{{"timeZoneBox.currentIndex", 12},
-                           {"ntpSetBox.checked", true},
-                           {"ntpServerField.text", " time.example "},
-                           {"ntpPortField.text", "1123"},
-                           {"updatePeriodField.text", "77"}}
-            << "ntpApplyButton"
-            << "address=time.example enabled=true port=1123 timeZone=12 updatePeriod=77";
+        row("daylight saving by week", 1, byWeek, "dstApplyButton",
+            "beginDay=5 beginHour=1 beginMinute=15 beginMonth=4 beginWeek=2 daylightSaving=true endDay=6 "
+            "endHour=4 endMinute=45 endMonth=11 endWeek=-1");
+        row("daylight saving by date", 1, byDate, "dstApplyButton",
+            "beginDay=12 beginHour=1 beginMinute=15 beginMonth=4 beginWeek=0 daylightSaving=true "
+            "endDay=30 endHour=4 endMinute=45 endMonth=11 endWeek=0");
+        row("zone and NTP", 1,
+            QVariantMap{{"timeZoneBox.currentIndex", 12},
+                        {"ntpSetBox.checked", true},
+                        {"ntpServerField.text", " time.example "},
+                        {"ntpPortField.text", "1123"},
+                        {"updatePeriodField.text", "77"}},
+            "ntpApplyButton", "address=time.example enabled=true port=1123 timeZone=12 updatePeriod=77");
         const QVariantMap maintenance = {{"autoRebootBox.checked", true},
                                          {"maintenanceDayBox.currentIndex", 3},
                                          {"maintenanceTimeField.text", "05:40"}};
-        QTest::newRow("maintenance") << 2 << maintenance << "autoMaintainButton"
-                                     << "rebootDay=3 rebootEnabled=true rebootHour=5 rebootMinute=40";
-        QTest::newRow("no maintenance")
-            << 2 << QVariantMap{{"autoRebootBox.checked", false}, {"maintenanceTimeField.text", "05:40"}}
-            << "autoMaintainButton"
-            << "rebootDay=-1 rebootEnabled=false rebootHour=5 rebootMinute=40";
-        for (int standard = 1; standard <= 2; ++standard) {
-            QTest::addRow("video standard %d", standard)
-                << 5 << QVariantMap{{"videoStandardBox.currentIndex", standard - 1}} << "videoStandardButton"
-                << QStringLiteral("standard=%1").arg(standard);
-        }
+        row("maintenance", 2, maintenance, "autoMaintainButton",
+            "rebootDay=3 rebootEnabled=true rebootHour=5 rebootMinute=40");
+        row("no maintenance", 2,
+            QVariantMap{{"autoRebootBox.checked", false}, {"maintenanceTimeField.text", "05:40"}},
+            "autoMaintainButton", "rebootDay=-1 rebootEnabled=false rebootHour=5 rebootMinute=40");
+        const char *standard = "videoStandardBox.currentIndex";
+        row("video standard 1", 5, {{standard, 0}}, "videoStandardButton", "standard=1");
+        row("video standard 2", 5, {{standard, 1}}, "videoStandardButton", "standard=2");
     }
 
     void fieldsAreSentAsTheyStand()

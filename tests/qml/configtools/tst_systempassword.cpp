@@ -1,24 +1,17 @@
 #include "device/batch/batches.h"
 #include "device/treemodel.h"
 #include "sdk/demo/demosite.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 #include "tests/qml/configtools/qmlscene.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
 namespace {
 
-const char *const scene = "import QtQuick\n"
-                          "import QtQuick.Templates as T\n"
-                          "import configtools\n"
-                          "T.ApplicationWindow {\n"
-                          "    width: 1280; height: 720; visible: true\n"
+const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    PageSystemConfig {\n"
                           "        objectName: 'page'; anchors.fill: parent\n"
                           "        batches: works; libraryInstalled: true; searching: false\n"
-                          "    }\n"
-                          "}\n";
+                          "    }\n";
 
 constexpr int notDone = 15;
 
@@ -121,18 +114,16 @@ private Q_SLOTS:
 
     void everyDeviceIsAccountedFor_data()
     {
-        QTest::addColumn<QString>("event"); // while the second device is asked
-        QTest::addColumn<Results>("expected");
-        QTest::addColumn<QString>("said");
-        QTest::newRow("nothing") << "" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
-        QTest::newRow("another tab") << "leave" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
-        QTest::newRow("time over") << "time" << Results{0, 0, 0, 0} << "修改密码：4 台设备成功";
-        QTest::newRow("stopped") << "stop" << Results{0, 0, notDone, notDone}
-                                 << "修改密码：2 台设备成功，2 台设备未执行";
-        QTest::newRow("without logins") << "cancel" << Results{0, 999, notDone, notDone}
-                                        << "修改密码：1 台设备成功，1 台设备失败，2 台设备未执行";
-        QTest::newRow("refused, on another tab")
-            << "refuse" << Results{0, 0, 999, 0} << "修改密码：3 台设备成功，1 台设备失败";
+        // event: while the second device is asked
+        const auto row = dataTable<QString, Results, QString>({"event", "expected", "said"});
+        row("nothing", "", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
+        row("another tab", "leave", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
+        row("time over", "time", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
+        row("stopped", "stop", Results{0, 0, notDone, notDone}, "修改密码：2 台设备成功，2 台设备未执行");
+        row("without logins", "cancel", Results{0, 999, notDone, notDone},
+            "修改密码：1 台设备成功，1 台设备失败，2 台设备未执行");
+        row("refused, on another tab", "refuse", Results{0, 0, 999, 0},
+            "修改密码：3 台设备成功，1 台设备失败");
     }
 
     void everyDeviceIsAccountedFor()

@@ -1,46 +1,30 @@
-#include "tests/qml/configtools/qmlscene.h"
 // What the upgrade page does with its devices, with a factory that does nothing but remember.
-#include <QSignalSpy>
-#include <QTest>
-#include <QTranslator>
+#include "tests/qml/configtools/qmlscene.h"
 
 namespace {
 
-const char *const scene =
-    "import QtQuick\n"
-    "import QtQuick.Templates as T\n"
-    "import configtools\n"
-    "T.ApplicationWindow {\n"
-    "    id: window\n"
-    "    width: 1280; height: 720; visible: true\n"
-    "    property string said\n"
-    "    property bool ipv6: false\n"
-    "    property QtObject table: QtObject {\n"
-    "        readonly property int count: 0\n"
-    "        readonly property int checkedCount: 1\n"
-    "        function checkedMacs() { return ['a', 'b']; }\n"
-    "        function refreshDevice(identity) {}\n"
-    "    }\n"
-    "    property QtObject dialogs: QtObject {\n"
-    "        function chooseFile(title, filters, then) { then('/firmware.bin'); }\n"
-    "    }\n"
-    "    UpgradeWork {\n"
-    "        objectName: 'work'\n"
-    "        deviceFactory: factory; deviceTable: window.table\n"
-    "        fileDialogs: window.dialogs; shown: true\n"
-    "        onSaid: (message, kind) => window.said = message\n"
-    "    }\n"
-    "    UpgradeWorkbook {\n"
-    "        objectName: 'workbook'\n"
-    "        deviceFactory: factory; fileDialogs: window.dialogs\n"
-    "    }\n"
-    "    UpgradeToolBar {\n"
-    "        objectName: 'toolBar'\n"
-    "        x: Theme.pageMargin; width: window.width - 2 * x; height: Theme.toolBarHeight\n"
-    "        running: false; ipv6: window.ipv6\n"
-    "        onIpv6Chosen: ipv6 => window.ipv6 = ipv6\n"
-    "    }\n"
-    "}\n";
+const char *const scene = "    id: window\n"
+                          "    width: 1280; height: 720; visible: true\n"
+                          "    property string said\n"
+                          "    property QtObject table: QtObject {\n"
+                          "        readonly property int count: 0\n"
+                          "        readonly property int checkedCount: 1\n"
+                          "        function checkedMacs() { return ['a', 'b']; }\n"
+                          "        function refreshDevice(identity) {}\n"
+                          "    }\n"
+                          "    property QtObject dialogs: QtObject {\n"
+                          "        function chooseFile(title, filters, then) { then('/firmware.bin'); }\n"
+                          "    }\n"
+                          "    UpgradeWork {\n"
+                          "        objectName: 'work'\n"
+                          "        deviceFactory: factory; deviceTable: window.table\n"
+                          "        fileDialogs: window.dialogs; shown: true\n"
+                          "        onSaid: (message, kind) => window.said = message\n"
+                          "    }\n"
+                          "    UpgradeWorkbook {\n"
+                          "        objectName: 'workbook'\n"
+                          "        deviceFactory: factory; fileDialogs: window.dialogs\n"
+                          "    }\n";
 
 class UpgradeFactory : public QObject
 {
@@ -135,54 +119,9 @@ private Q_SLOTS:
         }
     }
 
-    void theListOfIpv6Devices_data()
-    {
-        QTest::addColumn<QString>("language");
-        for (const char *language : {"zh_CN", "en_US"})
-            QTest::newRow(language) << QString(language);
-    }
-
-    void theListOfIpv6Devices()
-    {
-        QFETCH(QString, language);
-        QTranslator translator;
-        QVERIFY(translator.load(QStringLiteral(LANGUAGE_FOLDER "/%1.qm").arg(language)));
-        QVERIFY(QCoreApplication::installTranslator(&translator));
-        m_engine.retranslate();
-        m_window->setProperty("ipv6", false);
-        auto *choice = item("upgradeIpv6Choice");
-        auto *search = item("upgradeSearchField");
-        const auto end = [](const QQuickItem *of) {
-            return of->mapToScene(QPointF(of->width(), 0)).x();
-        };
-        QTRY_COMPARE(item("upgradeTemplateButton")->property("text").toString(),
-                     QCoreApplication::translate("UpgradeToolBar", "打开模板"));
-        const auto *toolBar = item("toolBar");
-        QTRY_VERIFY(end(search) <= end(toolBar)); // the layout has settled
-        QVERIFY(end(item("upgradeTemplateButton")) < item("upgradeIpv4Choice")->mapToScene(QPointF()).x());
-        QVERIFY(end(choice) < search->mapToScene(QPointF()).x());
-        const QPointF middle(choice->width() / 2, choice->height() / 2);
-        QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, choice->mapToScene(middle).toPoint());
-        QTRY_VERIFY(m_window->property("ipv6").toBool());
-        QCoreApplication::removeTranslator(&translator);
-        m_engine.retranslate();
-    }
-
 private:
     [[nodiscard]] QObject *object(const QString &name) const { return m_window->findChild<QObject *>(name); }
     [[nodiscard]] QString said() const { return m_window->property("said").toString(); }
-
-    [[nodiscard]] QQuickItem *item(const QString &name) const
-    {
-        QList<QQuickItem *> items = {m_window->contentItem()};
-        while (!items.isEmpty()) {
-            QQuickItem *next = items.takeLast();
-            if (next->objectName() == name)
-                return next;
-            items += next->childItems();
-        }
-        return nullptr;
-    }
 
     void run(const QStringList &names) const
     {

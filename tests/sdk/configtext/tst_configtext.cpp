@@ -6,8 +6,7 @@
 #include "sdk/configtext/configtextlibrary.h"
 #include "sdk/encodeblocks.h"
 #include "sdk/systemrecords.h"
-
-#include <QTest>
+#include "tests/datatable.h"
 
 #include <cstring>
 
@@ -28,175 +27,164 @@ class ConfigTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unpacksWhatThereIs();
-    void cutsTextsBetweenLetters_data();
-    void cutsTextsBetweenLetters();
-    void refusesAndLeavesTheRecord_data();
-    void refusesAndLeavesTheRecord();
-    void packedTextUnpacksToTheSame();
-    void refusesToPackBadRecords();
+    void unpacksWhatThereIs()
+    {
+        ConfigTextLibrary library;
+        NetworkRecord record = {};
+        setBlockText(record.gateway, "10.0.0.1");
+        record.reserved.fill(7);
+        std::uint32_t filled = 0;
+        QVERIFY(library.ConfigParseData(
+            "Network", R"({"Network":{"dhcp":true,"address":"10.0.0.9","later":[1]},"Https":3})", &record,
+            sizeof(record) + 100, filled));
+        QCOMPARE(filled, sizeof(NetworkRecord));
+        QCOMPARE(record.size, sizeof(NetworkRecord));
+        QCOMPARE(record.dhcpEnabled, 1);
+        QVERIFY(blockText(record.address) == "10.0.0.9" && blockText(record.gateway) == "10.0.0.1");
+        QCOMPARE(record.reserved.back(), 7);
+    }
+
+    void cutsTextsBetweenLetters_data()
+    {
+        const auto row = dataTable<QString, QByteArray>({"name", "kept"});
+        const QByteArray letters(60, 'a');
+        row("fits to the last byte", QString::fromUtf8(letters + "bcd"), letters + "bcd");
+        row("one byte too long", QString::fromUtf8(letters + "bcde"), letters + "bcd");
+        row("letter of three bytes fits", QString::fromUtf8(letters + "门"), letters + "门");
+        row("letter of three bytes ends outside", QString::fromUtf8(letters + "b门"), letters + "b");
+        row("zero inside", u"a\\u0000b"_s, QByteArray("a"));
+    }
+
+    void cutsTextsBetweenLetters()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, kept);
+        NetworkRecord record = {};
+        record.hostName.fill('x');
+        const QByteArray text = u"{\"Network\":{\"hostName\":\"%1\"}}"_s.arg(name).toUtf8();
+        QVERIFY(unpackConfigText("Network", viewOf(text), &record, sizeof(record)));
+        const QByteArray field(record.hostName.data(), record.hostName.size());
+        QCOMPARE(field, kept.leftJustified(field.size(), '\0'));
+    }
+
+    void refusesAndLeavesTheRecord_data()
+    {
+        const auto addRow = dataTable<QByteArray, QByteArray, quint32>({"name", "text", "recordSize"});
+        const auto row = [&addRow](const char *title, const QByteArray &text,
+                                   const QByteArray &name = "Https",
+                                   quint32 recordSize = sizeof(HttpsRecord)) {
+            addRow(title, name, text, recordSize);
+        };
+        const auto ports = [&row](const char *title, const QByteArray &port) {
+            row(title, "{\"Https\":{\"enabled\":true,\"port\":" + port + "}}");
+        };
+        const QByteArray good = R"({"Https":{"enabled":true,"port":443}})";
+        row("unknown name", R"({"Smoke":{"enabled":true}})", "Smoke");
+        row("empty name", good, "");
+        row("record too small", good, "Https", sizeof(HttpsRecord) - 1);
+        row("another configuration", R"({"DVRIP":{"tcpPort":1}})");
+        row("empty", "");
+        row("cut off", good.chopped(2));
+        row("more behind it", good + '\0' + good);
+        row("list", "[" + good + "]");
+        row("no object inside", R"({"Https":[443]})");
+        row("deeply nested", QByteArray("{\"Https\":").repeated(5000));
+        row("invalid UTF-8", "{\"Https\":{\"enabled\":true,\"\xff\xfe\":1}}");
+        row("too long", good + QByteArray(512 * 1024, ' '));
+        row("flag as number", R"({"Https":{"port":443,"enabled":1}})");
+        row("text as number", R"({"Network":{"dhcp":true,"address":5}})", "Network", sizeof(NetworkRecord));
+        const auto streams = [&row](const char *title, const QByteArray &stream) {
+            row(title, "{\"Encode\":{\"mainNormal\":{\"width\":1},\"sub\":" + stream + "}}", "Encode",
+                sizeof(EncodeRecord));
+        };
+        streams("no object inside a record", "[1]");
+        streams("bad number in an inner object", R"({"width":70000})");
+        streams("bad flag in an inner object", R"({"videoEnabled":1})");
+        ports("number as text", "\"443\"");
+        ports("null", "null");
+        ports("negative", "-1");
+        ports("too high", "65536");
+        ports("huge", "1e300");
+        ports("beyond a double", "1e999");
+        ports("fraction", "443.5");
+    }
+
+    void refusesAndLeavesTheRecord()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, text);
+        QFETCH(quint32, recordSize);
+        QByteArray record(sizeof(EncodeRecord), 'r');
+        ConfigTextLibrary library;
+        std::uint32_t filled = 99;
+        QVERIFY(!library.ConfigParseData(viewOf(name), viewOf(text), record.data(), recordSize, filled));
+        QCOMPARE(filled, 0u);
+        QCOMPARE(record, QByteArray(record.size(), 'r'));
+    }
+
+    void packedTextUnpacksToTheSame()
+    {
+        const auto goesRound = [](const char *name, auto record) {
+            record.size = sizeof(record);
+            const std::optional<QByteArray> text = packConfigText(name, &record, sizeof(record));
+            QVERIFY(text);
+            auto back = decltype(record)();
+            QCOMPARE(unpackConfigText(name, viewOf(*text), &back, sizeof(back)), sizeof(record));
+            QVERIFY2(std::memcmp(&back, &record, sizeof(record)) == 0, text->constData());
+        };
+        NetworkRecord network = {};
+        network.dhcpEnabled = 1;
+        setBlockText(network.hostName, "大门 \"<b>\\");
+        setBlockText(network.mac, "02:1a:c5:00:40:17");
+        setBlockText(network.address, "fd00::9");
+        setBlockText(network.subnetMask, "64");
+        setBlockText(network.gateway, "10.0.0.1");
+        goesRound("Network", network);
+        goesRound("DVRIP", ServiceRecord{0, 65535, 2147483647, {}});
+        goesRound("Https", HttpsRecord{0, 1, 8443, 0});
+        EncodeRecord encode = {};
+        encode.streams[3] = {1, 8, 4, 704, 576, 1, 512, 25, 6, 1, 5, 16000, {}};
+        goesRound("Encode", encode);
+        VideoColorRecord color = {};
+        color.pictures[2] = {0, 0, 3, 1, 2, 3, 4, 100, {}};
+        goesRound("VideoColor", color);
+        goesRound("Locales", LocalesRecord{0, 1, {3, -1, 0, 2, 0}, {10, 0, 31, 23, 59}, {"HH:mm"}, {}});
+        goesRound("AutoMaintain", AutoMaintainRecord{0, -1, 23, 59, {}, 1, {}});
+        goesRound("NTP", NtpRecord{0, 1, {"time.example"}, 65535, 65535, 39, {}});
+    }
+
+    void refusesToPackBadRecords()
+    {
+        HttpsRecord record = {sizeof(HttpsRecord), 1, 443, 0};
+        QVERIFY(packConfigText("Https", &record, sizeof(record)));
+        QVERIFY(!packConfigText("Https", &record, sizeof(record) - 1));
+        QVERIFY(!packConfigText("Smoke", &record, sizeof(record)));
+        record.port = 65536;
+        QVERIFY(!packConfigText("Https", &record, sizeof(record)));
+        EncodeRecord encode = {};
+        encode.streams[1].quality = 7; // in an inner object
+        QVERIFY(!packConfigText("Encode", &encode, sizeof(encode)));
+        record = {sizeof(HttpsRecord), 2, 443, 0};
+        QVERIFY(!packConfigText("Https", &record, sizeof(record)));
+        const AutoMaintainRecord byteOutOfRange{sizeof(AutoMaintainRecord), 0, 0, 0, {}, 2, {}};
+        QVERIFY(!packConfigText("AutoMaintain", &byteOutOfRange, sizeof(byteOutOfRange)));
+
+        // A text that does not fit with its zero leaves the buffer as it was.
+        record.enabled = 1;
+        const qsizetype length = packConfigText("Https", &record, sizeof(record))->size();
+        QByteArray buffer(length + 1, 'x');
+        ConfigTextLibrary library;
+        QVERIFY(!library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length)));
+        QCOMPARE(buffer, QByteArray(length + 1, 'x'));
+        QVERIFY(library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length) + 1));
+        QCOMPARE(buffer.back(), '\0');
+
+        NetworkRecord broken = {};
+        broken.hostName.fill('\xe5'); // half letters to the last byte
+        const std::optional<QByteArray> text = packConfigText("Network", &broken, sizeof(broken));
+        QVERIFY(text && QString::fromUtf8(*text).contains(QChar::ReplacementCharacter));
+    }
 };
-
-void ConfigTextTest::unpacksWhatThereIs()
-{
-    ConfigTextLibrary library;
-    NetworkRecord record = {};
-    setBlockText(record.gateway, "10.0.0.1");
-    record.reserved.fill(7);
-    std::uint32_t filled = 0;
-    QVERIFY(library.ConfigParseData("Network",
-                                    R"({"Network":{"dhcp":true,"address":"10.0.0.9","later":[1]},"Https":3})",
-                                    &record, sizeof(record) + 100, filled));
-    QCOMPARE(filled, sizeof(NetworkRecord));
-    QCOMPARE(record.size, sizeof(NetworkRecord));
-    QCOMPARE(record.dhcpEnabled, 1);
-    QVERIFY(blockText(record.address) == "10.0.0.9" && blockText(record.gateway) == "10.0.0.1");
-    QCOMPARE(record.reserved.back(), 7);
-}
-
-void ConfigTextTest::cutsTextsBetweenLetters_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("kept");
-    const QByteArray letters(60, 'a');
-    QTest::newRow("fits to the last byte") << QString::fromUtf8(letters + "bcd") << letters + "bcd";
-    QTest::newRow("one byte too long") << QString::fromUtf8(letters + "bcde") << letters + "bcd";
-    QTest::newRow("letter of three bytes fits") << QString::fromUtf8(letters + "门") << letters + "门";
-    QTest::newRow("letter of three bytes ends outside")
-        << QString::fromUtf8(letters + "b门") << letters + "b";
-    QTest::newRow("zero inside") << u"a\\u0000b"_s << QByteArray("a");
-}
-
-void ConfigTextTest::cutsTextsBetweenLetters()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, kept);
-    NetworkRecord record = {};
-    record.hostName.fill('x');
-    const QByteArray text = u"{\"Network\":{\"hostName\":\"%1\"}}"_s.arg(name).toUtf8();
-    QVERIFY(unpackConfigText("Network", viewOf(text), &record, sizeof(record)));
-    const QByteArray field(record.hostName.data(), record.hostName.size());
-    QCOMPARE(field, kept.leftJustified(field.size(), '\0'));
-}
-
-void ConfigTextTest::refusesAndLeavesTheRecord_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<quint32>("recordSize");
-    const auto row = [](const char *title, const QByteArray &text, const QByteArray &name = "Https",
-                        quint32 recordSize = sizeof(HttpsRecord)) {
-        QTest::newRow(title) << name << text << recordSize;
-    };
-    const auto ports = [&row](const char *title, const QByteArray &port) {
-        row(title, "{\"Https\":{\"enabled\":true,\"port\":" + port + "}}");
-    };
-    const QByteArray good = R"({"Https":{"enabled":true,"port":443}})";
-    row("unknown name", R"({"Smoke":{"enabled":true}})", "Smoke");
-    row("empty name", good, "");
-    row("record too small", good, "Https", sizeof(HttpsRecord) - 1);
-    row("another configuration", R"({"DVRIP":{"tcpPort":1}})");
-    row("empty", "");
-    row("cut off", good.chopped(2));
-    row("more behind it", good + '\0' + good);
-    row("list", "[" + good + "]");
-    row("no object inside", R"({"Https":[443]})");
-    row("deeply nested", QByteArray("{\"Https\":").repeated(5000));
-    row("invalid UTF-8", "{\"Https\":{\"enabled\":true,\"\xff\xfe\":1}}");
-    row("too long", good + QByteArray(512 * 1024, ' '));
-    row("flag as number", R"({"Https":{"port":443,"enabled":1}})");
-    row("text as number", R"({"Network":{"dhcp":true,"address":5}})", "Network", sizeof(NetworkRecord));
-    const auto streams = [&row](const char *title, const QByteArray &stream) {
-        row(title, "{\"Encode\":{\"mainNormal\":{\"width\":1},\"sub\":" + stream + "}}", "Encode",
-            sizeof(EncodeRecord));
-    };
-    streams("no object inside a record", "[1]");
-    streams("bad number in an inner object", R"({"width":70000})");
-    streams("bad flag in an inner object", R"({"videoEnabled":1})");
-    ports("number as text", "\"443\"");
-    ports("null", "null");
-    ports("negative", "-1");
-    ports("too high", "65536");
-    ports("huge", "1e300");
-    ports("beyond a double", "1e999");
-    ports("fraction", "443.5");
-}
-
-void ConfigTextTest::refusesAndLeavesTheRecord()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QByteArray, text);
-    QFETCH(quint32, recordSize);
-    QByteArray record(sizeof(EncodeRecord), 'r');
-    ConfigTextLibrary library;
-    std::uint32_t filled = 99;
-    QVERIFY(!library.ConfigParseData(viewOf(name), viewOf(text), record.data(), recordSize, filled));
-    QCOMPARE(filled, 0u);
-    QCOMPARE(record, QByteArray(record.size(), 'r'));
-}
-
-void ConfigTextTest::packedTextUnpacksToTheSame()
-{
-    const auto goesRound = [](const char *name, auto record) {
-        record.size = sizeof(record);
-        const std::optional<QByteArray> text = packConfigText(name, &record, sizeof(record));
-        QVERIFY(text);
-        auto back = decltype(record)();
-        QCOMPARE(unpackConfigText(name, viewOf(*text), &back, sizeof(back)), sizeof(record));
-        QVERIFY2(std::memcmp(&back, &record, sizeof(record)) == 0, text->constData());
-    };
-    NetworkRecord network = {};
-    network.dhcpEnabled = 1;
-    setBlockText(network.hostName, "大门 \"<b>\\");
-    setBlockText(network.mac, "02:1a:c5:00:40:17");
-    setBlockText(network.address, "fd00::9");
-    setBlockText(network.subnetMask, "64");
-    setBlockText(network.gateway, "10.0.0.1");
-    goesRound("Network", network);
-    goesRound("DVRIP", ServiceRecord{0, 65535, 2147483647, {}});
-    goesRound("Https", HttpsRecord{0, 1, 8443, 0});
-    EncodeRecord encode = {};
-    encode.streams[3] = {1, 8, 4, 704, 576, 1, 512, 25, 6, 1, 5, 16000, {}};
-    goesRound("Encode", encode);
-    VideoColorRecord color = {};
-    color.pictures[2] = {0, 0, 3, 1, 2, 3, 4, 100, {}};
-    goesRound("VideoColor", color);
-    goesRound("Locales", LocalesRecord{0, 1, {3, -1, 0, 2, 0}, {10, 0, 31, 23, 59}, {"HH:mm"}, {}});
-    goesRound("AutoMaintain", AutoMaintainRecord{0, -1, 23, 59, {}, 1, {}});
-    goesRound("NTP", NtpRecord{0, 1, {"time.example"}, 65535, 65535, 39, {}});
-}
-
-void ConfigTextTest::refusesToPackBadRecords()
-{
-    HttpsRecord record = {sizeof(HttpsRecord), 1, 443, 0};
-    QVERIFY(packConfigText("Https", &record, sizeof(record)));
-    QVERIFY(!packConfigText("Https", &record, sizeof(record) - 1));
-    QVERIFY(!packConfigText("Smoke", &record, sizeof(record)));
-    record.port = 65536;
-    QVERIFY(!packConfigText("Https", &record, sizeof(record)));
-    EncodeRecord encode = {};
-    encode.streams[1].quality = 7; // in an inner object
-    QVERIFY(!packConfigText("Encode", &encode, sizeof(encode)));
-    record = {sizeof(HttpsRecord), 2, 443, 0};
-    QVERIFY(!packConfigText("Https", &record, sizeof(record)));
-    const AutoMaintainRecord byteOutOfRange{sizeof(AutoMaintainRecord), 0, 0, 0, {}, 2, {}};
-    QVERIFY(!packConfigText("AutoMaintain", &byteOutOfRange, sizeof(byteOutOfRange)));
-
-    // A text that does not fit with its zero leaves the buffer as it was.
-    record.enabled = 1;
-    const qsizetype length = packConfigText("Https", &record, sizeof(record))->size();
-    QByteArray buffer(length + 1, 'x');
-    ConfigTextLibrary library;
-    QVERIFY(!library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length)));
-    QCOMPARE(buffer, QByteArray(length + 1, 'x'));
-    QVERIFY(library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length) + 1));
-    QCOMPARE(buffer.back(), '\0');
-
-    NetworkRecord broken = {};
-    broken.hostName.fill('\xe5'); // half letters to the last byte
-    const std::optional<QByteArray> text = packConfigText("Network", &broken, sizeof(broken));
-    QVERIFY(text && QString::fromUtf8(*text).contains(QChar::ReplacementCharacter));
-}
 
 QTEST_GUILESS_MAIN(ConfigTextTest)
 #include "tst_configtext.moc"

@@ -63,7 +63,6 @@ public:
         }
         return true;
     }
-    void endSending() const { ::shutdown(m_socket, SHUT_WR); }
 
     /// Up to `size` bytes, fewer at the end of the connection.
     QByteArray read(qsizetype size)

@@ -22,8 +22,6 @@ struct DecodedPicture
     QSize size;
     bool isKey = false;
     QByteArray luma;
-    QByteArray blue; ///< the two planes of colours
-    QByteArray red;
 };
 
 /// A stream from one header to the next.
@@ -116,12 +114,8 @@ private:
         if (decoder.codec_type == AVMEDIA_TYPE_VIDEO) {
             stream.colours = frame.colorspace;
             stream.range = frame.color_range;
-            stream.pictures.append({frame.pts,
-                                    {frame.width, frame.height},
-                                    frame.key_frame == 1,
-                                    plane(frame, 0, frame.width, frame.height),
-                                    plane(frame, 1, frame.width / 2, frame.height / 2),
-                                    plane(frame, 2, frame.width / 2, frame.height / 2)});
+            stream.pictures.append(
+                {frame.pts, {frame.width, frame.height}, frame.key_frame == 1, luma(frame)});
             return;
         }
         constexpr float loudest = 32768;
@@ -133,12 +127,12 @@ private:
         }
     }
 
-    static QByteArray plane(const AVFrame &frame, std::size_t number, int width, int height)
+    static QByteArray luma(const AVFrame &frame)
     {
         QByteArray bytes;
-        for (int line = 0; line < height; ++line)
-            bytes.append(reinterpret_cast<const char *>(frame.data[number]) + line * frame.linesize[number],
-                         width);
+        for (int line = 0; line < frame.height; ++line)
+            bytes.append(reinterpret_cast<const char *>(frame.data[0]) + line * frame.linesize[0],
+                         frame.width);
         return bytes;
     }
 

@@ -10,9 +10,7 @@
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
 #include <functional>
-#include <mutex>
 
 namespace sdk::demo {
 
@@ -24,14 +22,11 @@ public:
                        std::uint32_t size, std::int64_t /*parameter*/, void *user)
     {
         auto *watcher = static_cast<Watcher *>(user);
-        if (watcher->onData)
-            watcher->onData();
         const std::lock_guard lock(watcher->m_mutex);
         watcher->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
         watcher->m_largestPiece = std::max(watcher->m_largestPiece, size);
         watcher->m_handles.insert(streamHandle);
         watcher->m_isPlain = watcher->m_isPlain && dataType == 0 && size > 0;
-        watcher->m_came.notify_all();
     }
 
     [[nodiscard]] QByteArray bytes() const
@@ -44,19 +39,8 @@ public:
     [[nodiscard]] QSet<std::int64_t> handles() const { return m_handles; }
     [[nodiscard]] bool isPlain() const { return m_isPlain; }
 
-    /// Blocks until there is more than `size`.
-    [[nodiscard]] bool waitForMore(qsizetype size) const
-    {
-        constexpr std::chrono::seconds timeout(20);
-        std::unique_lock lock(m_mutex);
-        return m_came.wait_for(lock, timeout, [this, size] { return m_bytes.size() > size; });
-    }
-
-    std::function<void()> onData; ///< runs first in every handler
-
 private:
     mutable std::mutex m_mutex;
-    mutable std::condition_variable m_came;
     QByteArray m_bytes;
     std::uint32_t m_largestPiece = 0;
     QSet<std::int64_t> m_handles;

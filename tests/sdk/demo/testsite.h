@@ -72,11 +72,6 @@ inline SearchParameter parameterFor(Collector &collector)
     return {sizeof(SearchParameter), 0, &Collector::handle, &collector};
 }
 
-inline SearchParameterEx parameterExFor(Collector &collector)
-{
-    return {sizeof(SearchParameterEx), 0, &Collector::handle, &collector, {}};
-}
-
 inline SearchByAddressesRequest requestFor(const QStringList &addresses)
 {
     SearchByAddressesRequest request = {};

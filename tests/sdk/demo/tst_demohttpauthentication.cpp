@@ -1,5 +1,6 @@
 // Who the web services of simulated devices let in.
 #include "sdk/demo/internal/httpauthentication.h"
+#include "tests/datatable.h"
 #include "tests/sdk/demo/httpclient.h"
 
 #include <QProcess>
@@ -47,157 +48,112 @@ class HttpAuthenticationTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void letsInByRightCredentialsOnly_data();
-    void letsInByRightCredentialsOnly();
-    void curlIsLetIn_data();
-    void curlIsLetIn();
-    void noncesBecomeTooOld();
-    void aChangedPasswordIsThePassword();
-    void recordsRequestsWithoutPasswords();
-};
-
-void HttpAuthenticationTest::letsInByRightCredentialsOnly_data()
-{
-    QTest::addColumn<int>("device"); // 1 asks for Digest, 2 for Basic, 3 waits for its first password
-    QTest::addColumn<QByteArray>("authorization"); // empty for Digest as below
-    QTest::addColumn<QByteArray>("uri");
-    QTest::addColumn<QByteArray>("password");
-    QTest::addColumn<int>("status");
-    const auto digestRow = [](const char *title, int device, const char *uri, const char *password,
-                              int status) {
-        QTest::newRow(title) << device << QByteArray() << QByteArray(uri) << QByteArray(password) << status;
-    };
-    const auto basicRow = [](const char *title, int device, const QByteArray &header, int status) {
-        QTest::newRow(title) << device << header << QByteArray() << QByteArray() << status;
-    };
-    digestRow("digest", 1, nameCommand, "Pass-1", 200);
-    digestRow("digest in the older form of browsers", 1, "/cgi-bin/device", "Pass-1", 200);
-    digestRow("digest of another query", 1, "/cgi-bin/device?get=serial", "Pass-1", 401);
-    digestRow("digest of another path", 1, "/cgi-bin/", "Pass-1", 401);
-    digestRow("digest with a wrong password", 1, nameCommand, "pass-1", 401);
-    digestRow("digest with no password", 1, nameCommand, "", 401);
-    digestRow("digest to an old device", 2, nameCommand, "Pass-1", 401);
-    digestRow("digest to a factory-new device", 3, nameCommand, "Pass-1", 401);
-    basicRow("basic", 2, basic("admin", "Pass-1"), 200);
-    basicRow("basic with a wrong password", 2, basic("admin", "Pass-1 "), 401);
-    basicRow("basic with an unknown user", 2, basic("Admin", "Pass-1"), 401);
-    basicRow("basic without a colon", 2, "Basic " + QByteArray("adminPass-1").toBase64(), 401);
-    basicRow("basic that is not base64", 2, "Basic {}", 401);
-    basicRow("basic to a device that wants digest", 1, basic("admin", "Pass-1"), 401);
-    basicRow("digest of nothing", 1, "Digest ", 401);
-    basicRow("digest with an open quotation mark", 1, "Digest username=\"admin\\", 401);
-    basicRow("digest of equals signs", 1, "Digest =,=,\"=\"", 401);
-    basicRow("another scheme", 1, "Bearer admin", 401);
-}
-
-void HttpAuthenticationTest::letsInByRightCredentialsOnly()
-{
-    QFETCH(int, device);
-    QFETCH(QByteArray, authorization);
-    QFETCH(QByteArray, uri);
-    QFETCH(QByteArray, password);
-    const HttpSite test({camera(1, 0ms), oldCamera(2), newCamera(3)});
-    const QByteArray target = "http://192.168.1." + QByteArray::number(device) + ":80" + nameCommand;
-    HttpClient client(test.port);
-    client.send(request(target));
-    const QByteArray challenge = client.answer().field("WWW-Authenticate");
-    QCOMPARE(challenge.startsWith("Basic "), device == 2);
-    client.send(
-        request(target, authorization.isEmpty() ? digest(challenge, uri, "admin", password) : authorization));
-    const HttpAnswer answer = client.answer();
-    QTEST(answer.status, "status");
-    QCOMPARE(answer.body.contains("大门"), answer.status == 200);
-    QCOMPARE(answer.field("WWW-Authenticate").isEmpty(), answer.status == 200);
-}
-
-void HttpAuthenticationTest::curlIsLetIn_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<int>("device");
-    QTest::newRow("digest") << u"--digest"_s << 1;
-    QTest::newRow("basic") << u"--basic"_s << 2;
-    QTest::newRow("whatever is asked for") << u"--anyauth"_s << 1;
-}
-
-void HttpAuthenticationTest::curlIsLetIn()
-{
-#ifdef __SANITIZE_THREAD__
-    QSKIP("the thread sanitizer ends a process with threads that starts a program");
-#endif
-    QFETCH(QString, option);
-    QFETCH(int, device);
-    const HttpSite test({camera(1, 0ms), oldCamera(2)});
-    for (const QString &mac : {camera(1, 0ms).mac, camera(2, 0ms).mac}) {
-        test.site->changeDevice(mac, [](SceneDevice &changed, const QList<SceneDevice> &) {
-            changed.accounts.append({u"值班 \"1\""_s, u"口令:@\\ %25"_s});
-        });
+    void letsInByRightCredentialsOnly_data()
+    {
+        // device: 1 asks for Digest, 2 for Basic, 3 waits for its first password
+        // authorization: empty for Digest as below
+        const auto row = dataTable<int, QByteArray, QByteArray, QByteArray, int>(
+            {"device", "authorization", "uri", "password", "status"});
+        const auto digestRow = [&row](const char *title, int device, const char *uri, const char *password,
+                                      int status) {
+            row(title, device, QByteArray(), QByteArray(uri), QByteArray(password), status);
+        };
+        const auto basicRow = [&row](const char *title, int device, const QByteArray &header, int status) {
+            row(title, device, header, QByteArray(), QByteArray(), status);
+        };
+        digestRow("digest", 1, nameCommand, "Pass-1", 200);
+        digestRow("digest in the older form of browsers", 1, "/cgi-bin/device", "Pass-1", 200);
+        digestRow("digest of another query", 1, "/cgi-bin/device?get=serial", "Pass-1", 401);
+        digestRow("digest of another path", 1, "/cgi-bin/", "Pass-1", 401);
+        digestRow("digest with a wrong password", 1, nameCommand, "pass-1", 401);
+        digestRow("digest with no password", 1, nameCommand, "", 401);
+        digestRow("digest to an old device", 2, nameCommand, "Pass-1", 401);
+        digestRow("digest to a factory-new device", 3, nameCommand, "Pass-1", 401);
+        basicRow("basic", 2, basic("admin", "Pass-1"), 200);
+        basicRow("basic with a wrong password", 2, basic("admin", "Pass-1 "), 401);
+        basicRow("basic with an unknown user", 2, basic("Admin", "Pass-1"), 401);
+        basicRow("basic without a colon", 2, "Basic " + QByteArray("adminPass-1").toBase64(), 401);
+        basicRow("basic that is not base64", 2, "Basic {}", 401);
+        basicRow("basic to a device that wants digest", 1, basic("admin", "Pass-1"), 401);
+        basicRow("digest of nothing", 1, "Digest ", 401);
+        basicRow("digest with an open quotation mark", 1, "Digest username=\"admin\\", 401);
+        basicRow("digest of equals signs", 1, "Digest =,=,\"=\"", 401);
+        basicRow("another scheme", 1, "Bearer admin", 401);
     }
-    const QString url = u"http://192.168.1.%1:80/cgi-bin/device?get=serial"_s.arg(device);
-    const QByteArray expected = u"serial=S%1\n200"_s.arg(device).toUtf8();
-    QCOMPARE(curl(test, {option, u"--user"_s, u"admin:Pass-1"_s, url}), expected);
-    QCOMPARE(curl(test, {option, u"--user"_s, u"值班 \"1\":口令:@\\ %25"_s, url}), expected);
-    QVERIFY(curl(test, {option, u"--user"_s, u"admin:wrong"_s, url}).endsWith("401"));
-    // The same connection serves both.
-    QCOMPARE(curl(test, {option, u"--user"_s, u"admin:Pass-1"_s, url, url}), expected + expected);
-}
 
-void HttpAuthenticationTest::noncesBecomeTooOld()
-{
-    const HttpSite test;
-    const QByteArray target = QByteArray("http://192.168.1.1:80") + nameCommand;
-    HttpClient client(test.port);
-    client.send(request(target));
-    const QByteArray challenge = client.answer().field("WWW-Authenticate");
-    const auto statusOf = [&](const QByteArray &nonceOf, const QByteArray &where) {
-        client.send(request(where, digest(nonceOf, nameCommand, "admin", "Pass-1")));
-        return client.answer();
-    };
-    QCOMPARE(statusOf(challenge, target).status, 200);
-    QCOMPARE(statusOf(challenge, QByteArray("http://192.168.1.2:80") + nameCommand).status, 401);
-    QByteArray foreign = challenge;
-    foreign.replace("nonce=\"0", "nonce=\"1");
-    QCOMPARE(statusOf(foreign, target).status, 401);
-    test.clock->advance(HttpAuthentication::nonceLife + 1ms);
-    const HttpAnswer late = statusOf(challenge, target);
-    QCOMPARE(late.status, 401);
-    QVERIFY(late.field("WWW-Authenticate").contains("stale=true"));
-    QCOMPARE(statusOf(late.field("WWW-Authenticate"), target).status, 200);
-}
+    void letsInByRightCredentialsOnly()
+    {
+        QFETCH(int, device);
+        QFETCH(QByteArray, authorization);
+        QFETCH(QByteArray, uri);
+        QFETCH(QByteArray, password);
+        const HttpSite test({camera(1, 0ms), oldCamera(2), newCamera(3)});
+        const QByteArray target = "http://192.168.1." + QByteArray::number(device) + ":80" + nameCommand;
+        HttpClient client(test.port);
+        client.send(request(target));
+        const QByteArray challenge = client.answer().field("WWW-Authenticate");
+        QCOMPARE(challenge.startsWith("Basic "), device == 2);
+        client.send(request(target, authorization.isEmpty() ? digest(challenge, uri, "admin", password)
+                                                            : authorization));
+        const HttpAnswer answer = client.answer();
+        QTEST(answer.status, "status");
+        QCOMPARE(answer.body.contains("大门"), answer.status == 200);
+        QCOMPARE(answer.field("WWW-Authenticate").isEmpty(), answer.status == 200);
+    }
 
-void HttpAuthenticationTest::aChangedPasswordIsThePassword()
-{
-    const HttpSite test;
-    const Login login(*test.net, u"192.168.1.1"_s, 8800);
-    ModifyPasswordInput input = {};
-    input.size = sizeof(input);
-    setBlockText(input.account, "admin");
-    setBlockText(input.oldPassword, "Pass-1");
-    setBlockText(input.newPassword, "Pass-2");
-    QVERIFY(test.net->NetModifyPassword(login.handle, input, 10ms));
-    QCOMPARE(test.ask(nameCommand).status, 401);
-    QCOMPARE(test.ask(nameCommand, 1, "Pass-2").status, 200);
-    test.site->setFault(camera(1, 0ms).mac, {Fault::WrongPassword});
-    QCOMPARE(test.ask(nameCommand, 1, "Pass-2").status, 401);
-}
+    void curlIsLetIn_data()
+    {
+        const auto row = dataTable<QString, int>({"option", "device"});
+        row("digest", u"--digest"_s, 1);
+        row("basic", u"--basic"_s, 2);
+        row("whatever is asked for", u"--anyauth"_s, 1);
+    }
 
-void HttpAuthenticationTest::recordsRequestsWithoutPasswords()
-{
-    const HttpSite test({camera(1, 0ms), oldCamera(2)});
-    for (const int device : {1, 2})
-        QCOMPARE(test.ask("/cgi-bin/time?set=2024-05-06T07:08:09", device).status, 200);
-    const QList<RecordedRequest> requests = test.site->requests().of(u"HTTP"_s);
-    QCOMPARE(requests.size(), 4);
-    QCOMPARE(requests.at(1).mac, camera(1, 0ms).mac);
-    QCOMPARE(requests.at(1).request, QJsonObject({{u"method"_s, u"GET"_s},
-                                                  {u"host"_s, u"192.168.1.1"_s},
-                                                  {u"path"_s, u"/cgi-bin/time"_s},
-                                                  {u"query"_s, u"set=2024-05-06T07:08:09"_s},
-                                                  {u"authentication"_s, u"digest"_s},
-                                                  {u"user"_s, u"admin"_s},
-                                                  {u"status"_s, 200}}));
-    QCOMPARE(requests.at(2).request.value(u"authentication").toString(), u"none"_s);
-    QCOMPARE(requests.at(3).request.value(u"authentication").toString(), u"basic"_s);
-}
+    void curlIsLetIn()
+    {
+#ifdef __SANITIZE_THREAD__
+        QSKIP("the thread sanitizer ends a process with threads that starts a program");
+#endif
+        QFETCH(QString, option);
+        QFETCH(int, device);
+        const HttpSite test({camera(1, 0ms), oldCamera(2)});
+        for (const QString &mac : {camera(1, 0ms).mac, camera(2, 0ms).mac}) {
+            test.site->changeDevice(mac, [](SceneDevice &changed, const QList<SceneDevice> &) {
+                changed.accounts.append({u"值班 \"1\""_s, u"口令:@\\ %25"_s});
+            });
+        }
+        const QString url = u"http://192.168.1.%1:80/cgi-bin/device?get=serial"_s.arg(device);
+        const QByteArray expected = u"serial=S%1\n200"_s.arg(device).toUtf8();
+        QCOMPARE(curl(test, {option, u"--user"_s, u"admin:Pass-1"_s, url}), expected);
+        QCOMPARE(curl(test, {option, u"--user"_s, u"值班 \"1\":口令:@\\ %25"_s, url}), expected);
+        QVERIFY(curl(test, {option, u"--user"_s, u"admin:wrong"_s, url}).endsWith("401"));
+        // The same connection serves both.
+        QCOMPARE(curl(test, {option, u"--user"_s, u"admin:Pass-1"_s, url, url}), expected + expected);
+    }
+
+    void noncesBecomeTooOld()
+    {
+        const HttpSite test;
+        const QByteArray target = QByteArray("http://192.168.1.1:80") + nameCommand;
+        HttpClient client(test.port);
+        client.send(request(target));
+        const QByteArray challenge = client.answer().field("WWW-Authenticate");
+        const auto statusOf = [&](const QByteArray &nonceOf, const QByteArray &where) {
+            client.send(request(where, digest(nonceOf, nameCommand, "admin", "Pass-1")));
+            return client.answer();
+        };
+        QCOMPARE(statusOf(challenge, target).status, 200);
+        QCOMPARE(statusOf(challenge, QByteArray("http://192.168.1.2:80") + nameCommand).status, 401);
+        QByteArray foreign = challenge;
+        foreign.replace("nonce=\"0", "nonce=\"1");
+        QCOMPARE(statusOf(foreign, target).status, 401);
+        test.clock->advance(HttpAuthentication::nonceLife + 1ms);
+        const HttpAnswer late = statusOf(challenge, target);
+        QCOMPARE(late.status, 401);
+        QVERIFY(late.field("WWW-Authenticate").contains("stale=true"));
+        QCOMPARE(statusOf(late.field("WWW-Authenticate"), target).status, 200);
+    }
+};
 
 QTEST_GUILESS_MAIN(HttpAuthenticationTest)
 #include "tst_demohttpauthentication.moc"

@@ -118,134 +118,58 @@ class P2PAgentTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void mapsRealPorts();
-    void loginGoesThroughTheTunnel();
-    void tellsItsEventsInOrder();
-    void releaseEndsEverything();
-    void manyThreadsMapAtOnce();
-};
+    void mapsRealPorts()
+    {
+        const AgentSite site;
+        QCOMPARE(site.localPorts(8800), QList<int>());
+        const int first = site.add(8800);
+        const int second = site.add(8800);
+        const int web = site.add(80);
+        QVERIFY(first > 0 && second > 0 && web > 0);
+        QCOMPARE(site.localPorts(8800), QList<int>({first, second}));
+        QCOMPARE(site.localPorts(8800, 1), QList<int>({first}));
+        QCOMPARE(site.localPorts(80), QList<int>({web}));
+        QVERIFY(isListening(first) && isListening(web) && isListening(first));
 
-void P2PAgentTest::mapsRealPorts()
-{
-    const AgentSite site;
-    QCOMPARE(site.localPorts(8800), QList<int>());
-    const int first = site.add(8800);
-    const int second = site.add(8800);
-    const int web = site.add(80);
-    QVERIFY(first > 0 && second > 0 && web > 0);
-    QCOMPARE(site.localPorts(8800), QList<int>({first, second}));
-    QCOMPARE(site.localPorts(8800, 1), QList<int>({first}));
-    QCOMPARE(site.localPorts(80), QList<int>({web}));
-    QVERIFY(isListening(first) && isListening(web) && isListening(first));
-
-    QCOMPARE(site.add(554, first), 0); // taken
-    QVERIFY(site.agent->OAgent_ClientDelPort(first));
-    QVERIFY(!isListening(first));
-    QVERIFY(!site.agent->OAgent_ClientDelPort(first));
-    QCOMPARE(site.localPorts(8800), QList<int>({second}));
-    QCOMPARE(site.add(554, first), first); // free again, though connections of before linger
-}
-
-void P2PAgentTest::loginGoesThroughTheTunnel()
-{
-    const AgentSite site;
-    const int service = site.add(8800);
-    const int web = site.add(80);
-    const auto login = [&site](int port) {
-        return Login(*site.net, u"127.0.0.1"_s, port);
-    };
-    const Login session = login(service);
-    QVERIFY(session.handle > 0);
-    QCOMPARE(session.device.loginKind, 1);
-    QCOMPARE(site.site->requests().of(u"NetLogin"_s).last().mac, camera(1, 0ms).mac);
-    QCOMPARE(login(web).netError(), NetError::ConnectFailed);
-
-    const auto query = [&] {
-        NetworkServices services = {};
-        std::uint32_t size = 0;
-        return site.net->NetQueryConfig(session.handle, QueryCommand::NetworkServices, 0, &services,
-                                        sizeof(services), size, 0ms);
-    };
-    QVERIFY(query());
-    QVERIFY(site.site->portAgent().breakTunnel(service));
-    QVERIFY(!query());
-    QCOMPARE(netError(*site.net), NetError::NetworkFailure);
-    QCOMPARE(site.localPorts(8800), QList<int>()); // leads nowhere now, but the local port is there
-    QVERIFY(isListening(service));
-    std::future<NetError> silent = std::async(std::launch::async, [&] { return login(service).netError(); });
-    QVERIFY(site.site->requests().waitFor(u"NetLogin"_s, 3));
-    site.net->NetCleanup();
-    QVERIFY(silent.get() != NetError::None);
-}
-
-void P2PAgentTest::tellsItsEventsInOrder()
-{
-    AgentSite site;
-    const int port = site.add(8800);
-    QVERIFY(site.clock->waitForWaiters(1));
-    QCOMPARE(site.events.lines(0), QStringList());
-    site.clock->advance(100ms);
-    QStringList expected = {u"1  0"_s, u"3 OV1 %1"_s.arg(port)};
-    QCOMPARE(site.events.lines(2), expected);
-    QVERIFY(site.site->portAgent().breakTunnel(port));
-    QVERIFY(!site.site->portAgent().breakTunnel(port));
-    expected.append(u"4 OV1 %1"_s.arg(port));
-    QCOMPARE(site.events.lines(3), expected);
-}
-
-void P2PAgentTest::releaseEndsEverything()
-{
-    AgentSite site;
-    const int port = site.add(8800);
-    std::latch handlerRuns(1);
-    std::latch handlerMayEnd(1);
-    site.events.onEvent = [&] {
-        if (!handlerRuns.try_wait())
-            handlerRuns.count_down();
-        handlerMayEnd.wait();
-    };
-    site.clock->advance(100ms);
-    handlerRuns.wait();
-    std::future<void> release =
-        std::async(std::launch::async, [&site] { site.agent->OAgent_ClientRelease(); });
-    QVERIFY(site.site->requests().waitFor(u"OAgent_ClientRelease"_s, 1));
-    QCOMPARE(release.wait_for(0ms), std::future_status::timeout);
-    handlerMayEnd.count_down();
-    release.get();
-    const QStringList told = site.events.lines(0);
-    QVERIFY(!isListening(port));
-    QCOMPARE(site.add(8800), 0);
-    QCOMPARE(site.localPorts(8800), QList<int>({-1}));
-    QVERIFY(site.agent->OAgent_ClientInit(AgentSite::services));
-    QVERIFY(site.add(8800, port) == port);
-    QCOMPARE(site.events.lines(0), told); // nothing is told before the service is connected again
-    const QList<RecordedRequest> starts = site.site->requests().of(u"OAgent_ClientInit"_s);
-    QCOMPARE(starts.last().request.value(u"tunnelPort"_s).toInt(), 7885);
-    QVERIFY(!QJsonDocument(starts.last().request).toJson().contains("se-cret"));
-}
-
-void P2PAgentTest::manyThreadsMapAtOnce()
-{
-    const AgentSite site;
-    site.clock->advance(100ms);
-    std::vector<std::jthread> threads;
-    constexpr int count = 4;
-    threads.reserve(count);
-    for (int thread = 0; thread < count; ++thread) {
-        threads.emplace_back([&site] {
-            for (int round = 0; round < 20; ++round) {
-                const int port = site.add(8800);
-                Login(*site.net, u"127.0.0.1"_s, port);
-                site.site->portAgent().breakTunnel(port);
-                site.agent->OAgent_ClientDelPort(port);
-            }
-        });
+        QCOMPARE(site.add(554, first), 0); // taken
+        QVERIFY(site.agent->OAgent_ClientDelPort(first));
+        QVERIFY(!isListening(first));
+        QVERIFY(!site.agent->OAgent_ClientDelPort(first));
+        QCOMPARE(site.localPorts(8800), QList<int>({second}));
+        QCOMPARE(site.add(554, first), first); // free again, though connections of before linger
     }
-    QVERIFY(site.site->requests().waitFor(u"OAgent_ClientDelPort"_s, count));
-    site.agent->OAgent_ClientRelease(); // in the middle
-    threads.clear();
-    QCOMPARE(site.localPorts(8800), QList<int>({-1}));
-}
+
+    void releaseEndsEverything()
+    {
+        AgentSite site;
+        const int port = site.add(8800);
+        std::latch handlerRuns(1);
+        std::latch handlerMayEnd(1);
+        site.events.onEvent = [&] {
+            if (!handlerRuns.try_wait())
+                handlerRuns.count_down();
+            handlerMayEnd.wait();
+        };
+        site.clock->advance(100ms);
+        handlerRuns.wait();
+        std::future<void> release =
+            std::async(std::launch::async, [&site] { site.agent->OAgent_ClientRelease(); });
+        QVERIFY(site.site->requests().waitFor(u"OAgent_ClientRelease"_s, 1));
+        QCOMPARE(release.wait_for(0ms), std::future_status::timeout);
+        handlerMayEnd.count_down();
+        release.get();
+        const QStringList told = site.events.lines(0);
+        QVERIFY(!isListening(port));
+        QCOMPARE(site.add(8800), 0);
+        QCOMPARE(site.localPorts(8800), QList<int>({-1}));
+        QVERIFY(site.agent->OAgent_ClientInit(AgentSite::services));
+        QVERIFY(site.add(8800, port) == port);
+        QCOMPARE(site.events.lines(0), told); // nothing is told before the service is connected again
+        const QList<RecordedRequest> starts = site.site->requests().of(u"OAgent_ClientInit"_s);
+        QCOMPARE(starts.last().request.value(u"tunnelPort"_s).toInt(), 7885);
+        QVERIFY(!QJsonDocument(starts.last().request).toJson().contains("se-cret"));
+    }
+};
 
 QTEST_GUILESS_MAIN(P2PAgentTest)
 #include "tst_demop2pagent.moc"

@@ -3,12 +3,13 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fleetgenerator.h"
 #include "sdk/demo/scenereader.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 #include <array>
@@ -46,96 +47,87 @@ class ScenesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesWithClearError_data();
-    void refusesWithClearError();
-    void readsEveryKey();
-    void opensFilesAndNamesMistakes();
-    void fleetIsTheSameEveryTime();
-    void fleetIsUniqueAndMixed();
-};
+    void refusesWithClearError_data()
+    {
+        // words: that the complaint must hold
+        const auto row = dataTable<QByteArray, QStringList>({"json", "words"});
 
-void ScenesTest::refusesWithClearError_data()
-{
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QStringList>("words"); // that the complaint must hold
+        const auto deviceRow = [&row](const char *title, const QString &key, const QJsonValue &value,
+                                      const QStringList &words) {
+            row(title, sceneWith({{key, value}}), words + QStringList{u"device 1"_s, u'"' + key + u'"'});
+        };
+        row("empty file", "", {u"not JSON"_s});
+        row("broken JSON", "{\n \"devices\": [\n {]", {u"not JSON"_s, u"line 3"_s});
+        row("list", "[]", {u"must be a JSON object"_s});
+        row("no devices", "{}", {u"\"devices\" is missing"_s});
+        row("device of wrong type", R"({"devices": [7]})", {u"device 1"_s, u"an object"_s, u"7"_s});
+        row("unknown scene key", R"({"devices": [], "tittle": "x"})", {u"\"tittle\""_s, u"title"_s});
 
-    const auto row = [](const char *title, const QByteArray &json, const QStringList &words) {
-        QTest::newRow(title) << json << words;
-    };
-    const auto deviceRow = [&row](const char *title, const QString &key, const QJsonValue &value,
-                                  const QStringList &words) {
-        row(title, sceneWith({{key, value}}), words + QStringList{u"device 1"_s, u'"' + key + u'"'});
-    };
-    row("empty file", "", {u"not JSON"_s});
-    row("broken JSON", "{\n \"devices\": [\n {]", {u"not JSON"_s, u"line 3"_s});
-    row("list", "[]", {u"must be a JSON object"_s});
-    row("no devices", "{}", {u"\"devices\" is missing"_s});
-    row("device of wrong type", R"({"devices": [7]})", {u"device 1"_s, u"an object"_s, u"7"_s});
-    row("unknown scene key", R"({"devices": [], "tittle": "x"})", {u"\"tittle\""_s, u"title"_s});
+        deviceRow("no MAC", u"mac"_s, QJsonValue::Null, {u"missing"_s});
+        deviceRow("MAC with dashes", u"mac"_s, u"02-1a-c5-00-00-01"_s, {u"six pairs"_s});
+        deviceRow("no address at all", u"address"_s, QJsonValue::Null, {u"ipv6"_s});
+        deviceRow("bad address", u"address"_s, u"192.168.1.256"_s, {u"192.168.1.256"_s, u"IPv4"_s});
+        deviceRow("bad IPv6", u"ipv6"_s, u"fd00::1::2"_s, {u"IPv6"_s});
+        deviceRow("IPv6 prefix too long", u"ipv6"_s, u"fd00::1/129"_s, {u"prefix"_s});
+        deviceRow("mask with a hole", u"mask"_s, u"255.0.255.0"_s, {u"mask"_s});
+        deviceRow("no port", u"port"_s, QJsonValue::Null, {u"missing"_s, u"65535"_s});
+        deviceRow("port 0", u"port"_s, 0, {u"from 1 to 65535"_s, u"but is 0"_s});
+        deviceRow("port too high", u"port"_s, 65536, {u"from 1 to 65535"_s, u"65536"_s});
+        deviceRow("huge port", u"port"_s, 1e300, {u"from 1 to 65535"_s});
+        deviceRow("port with fraction", u"port"_s, 80.5, {u"whole number"_s});
+        deviceRow("port as text", u"port"_s, u"80"_s, {u"whole number"_s, u"\"80\""_s});
+        deviceRow("empty type", u"type"_s, u""_s, {u"not empty"_s});
+        deviceRow("unknown state", u"initialised"_s, u"maybe"_s, {u"unreported"_s, u"maybe"_s});
+        deviceRow("state as boolean", u"initialised"_s, true, {u"\"yes\""_s, u"but is true"_s});
+        deviceRow("unknown authentication", u"httpAuthentication"_s, u"none"_s, {u"digest"_s, u"basic"_s});
+        deviceRow("negative latency", u"latency"_s, -5, {u"from 0"_s});
+        deviceRow("too many channels", u"channels"_s, 1e9, {u"1024"_s});
+        row("remote without P2P ID", sceneWith({{u"segment"_s, u"remote"_s}}),
+            {u"\"p2pId\" is missing"_s, u"device 1"_s});
+        deviceRow("slip in a key", u"adress"_s, u"1.2.3.4"_s, {u"not a known key"_s, u"address"_s});
 
-    deviceRow("no MAC", u"mac"_s, QJsonValue::Null, {u"missing"_s});
-    deviceRow("MAC with dashes", u"mac"_s, u"02-1a-c5-00-00-01"_s, {u"six pairs"_s});
-    deviceRow("no address at all", u"address"_s, QJsonValue::Null, {u"ipv6"_s});
-    deviceRow("bad address", u"address"_s, u"192.168.1.256"_s, {u"192.168.1.256"_s, u"IPv4"_s});
-    deviceRow("bad IPv6", u"ipv6"_s, u"fd00::1::2"_s, {u"IPv6"_s});
-    deviceRow("IPv6 prefix too long", u"ipv6"_s, u"fd00::1/129"_s, {u"prefix"_s});
-    deviceRow("mask with a hole", u"mask"_s, u"255.0.255.0"_s, {u"mask"_s});
-    deviceRow("no port", u"port"_s, QJsonValue::Null, {u"missing"_s, u"65535"_s});
-    deviceRow("port 0", u"port"_s, 0, {u"from 1 to 65535"_s, u"but is 0"_s});
-    deviceRow("port too high", u"port"_s, 65536, {u"from 1 to 65535"_s, u"65536"_s});
-    deviceRow("huge port", u"port"_s, 1e300, {u"from 1 to 65535"_s});
-    deviceRow("port with fraction", u"port"_s, 80.5, {u"whole number"_s});
-    deviceRow("port as text", u"port"_s, u"80"_s, {u"whole number"_s, u"\"80\""_s});
-    deviceRow("empty type", u"type"_s, u""_s, {u"not empty"_s});
-    deviceRow("unknown state", u"initialised"_s, u"maybe"_s, {u"unreported"_s, u"maybe"_s});
-    deviceRow("state as boolean", u"initialised"_s, true, {u"\"yes\""_s, u"but is true"_s});
-    deviceRow("unknown authentication", u"httpAuthentication"_s, u"none"_s, {u"digest"_s, u"basic"_s});
-    deviceRow("negative latency", u"latency"_s, -5, {u"from 0"_s});
-    deviceRow("too many channels", u"channels"_s, 1e9, {u"1024"_s});
-    row("remote without P2P ID", sceneWith({{u"segment"_s, u"remote"_s}}),
-        {u"\"p2pId\" is missing"_s, u"device 1"_s});
-    deviceRow("slip in a key", u"adress"_s, u"1.2.3.4"_s, {u"not a known key"_s, u"address"_s});
+        const auto entryRow = [&row](const char *title, const QString &key, const QJsonValue &entry,
+                                     const QStringList &words) {
+            row(title, sceneWith({{key, QJsonArray{entry}}}), words + QStringList{u"device 1"_s});
+        };
+        entryRow("channel of wrong type", u"channels"_s, true, {u"channel 1"_s, u"an object"_s});
+        entryRow("unknown fault", u"faults"_s, u"burns"_s,
+                 {u"\"burns\""_s, u"noAnswer"_s, u"overLongTexts"_s});
+        entryRow("fault of wrong type", u"faults"_s, 3, {u"fault 1"_s, u"but is 3"_s});
+        entryRow("fault without its number", u"faults"_s, u"lateAnswer"_s, {u"\"value\" is missing"_s});
+        entryRow("fault with a needless value", u"faults"_s,
+                 QJsonObject{{u"name"_s, u"noAnswer"_s}, {u"value"_s, 1}}, {u"\"value\""_s});
+        entryRow("fault with too large a number", u"faults"_s,
+                 QJsonObject{{u"name"_s, u"upgradeFailsAt"_s}, {u"value"_s, 101}}, {u"from 0 to 100"_s});
+        row("fault twice", sceneWith({{u"faults"_s, QJsonArray{u"noAnswer"_s, u"noAnswer"_s}}}),
+            {u"twice"_s});
 
-    const auto entryRow = [&row](const char *title, const QString &key, const QJsonValue &entry,
-                                 const QStringList &words) {
-        row(title, sceneWith({{key, QJsonArray{entry}}}), words + QStringList{u"device 1"_s});
-    };
-    entryRow("channel of wrong type", u"channels"_s, true, {u"channel 1"_s, u"an object"_s});
-    entryRow("unknown fault", u"faults"_s, u"burns"_s, {u"\"burns\""_s, u"noAnswer"_s, u"overLongTexts"_s});
-    entryRow("fault of wrong type", u"faults"_s, 3, {u"fault 1"_s, u"but is 3"_s});
-    entryRow("fault without its number", u"faults"_s, u"lateAnswer"_s, {u"\"value\" is missing"_s});
-    entryRow("fault with a needless value", u"faults"_s,
-             QJsonObject{{u"name"_s, u"noAnswer"_s}, {u"value"_s, 1}}, {u"\"value\""_s});
-    entryRow("fault with too large a number", u"faults"_s,
-             QJsonObject{{u"name"_s, u"upgradeFailsAt"_s}, {u"value"_s, 101}}, {u"from 0 to 100"_s});
-    row("fault twice", sceneWith({{u"faults"_s, QJsonArray{u"noAnswer"_s, u"noAnswer"_s}}}), {u"twice"_s});
-
-    row("MAC twice", R"({"devices": [
+        row("MAC twice", R"({"devices": [
         {"mac": "02:1a:c5:00:00:aa", "address": "10.0.0.1", "type": "IPC", "port": 1},
         {"mac": "02:1A:C5:00:00:AA", "address": "10.0.0.2", "type": "IPC", "port": 1}]})",
-        {u"device 2 (02:1A:C5:00:00:AA)"_s, u"device 1"_s, u"unique"_s});
-    QJsonArray tooMany;
-    for (int place = 0; place <= maximumSceneDevices; ++place)
-        tooMany.append(QJsonObject());
-    row("too many devices", QJsonDocument(QJsonObject{{u"devices"_s, tooMany}}).toJson(),
-        {u"20001"_s, u"20000"_s});
-}
+            {u"device 2 (02:1A:C5:00:00:AA)"_s, u"device 1"_s, u"unique"_s});
+        QJsonArray tooMany;
+        for (int place = 0; place <= maximumSceneDevices; ++place)
+            tooMany.append(QJsonObject());
+        row("too many devices", QJsonDocument(QJsonObject{{u"devices"_s, tooMany}}).toJson(),
+            {u"20001"_s, u"20000"_s});
+    }
 
-void ScenesTest::refusesWithClearError()
-{
-    QFETCH(QByteArray, json);
-    QFETCH(QStringList, words);
-    QString error;
-    QVERIFY(!SceneReader::read(json, &error));
-    for (const QString &word : words)
-        QVERIFY2(error.contains(word), qPrintable(u"%1 | lacks: %2"_s.arg(error, word)));
-    QVERIFY(!SceneReader::read(json, nullptr));
-}
+    void refusesWithClearError()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QStringList, words);
+        QString error;
+        QVERIFY(!SceneReader::read(json, &error));
+        for (const QString &word : words)
+            QVERIFY2(error.contains(word), qPrintable(u"%1 | lacks: %2"_s.arg(error, word)));
+        QVERIFY(!SceneReader::read(json, nullptr));
+    }
 
-void ScenesTest::readsEveryKey()
-{
-    QString error;
-    const std::optional<Scene> scene = SceneReader::read(R"({"title": "T", "description": "D",
+    void readsEveryKey()
+    {
+        QString error;
+        const std::optional<Scene> scene = SceneReader::read(R"({"title": "T", "description": "D",
         "localAddress": "10.1.1.1", "localIpv6": "fe80:0::1",
         "devices": [{"mac": "02:1A:C5:00:40:17", "address": "10.0.0.9", "ipv6": "FD00:0:0::9/56",
         "mask": "255.255.0.0", "gateway": "10.0.0.1", "dhcp": true, "p2pId": "OV1", "port": 65535, "httpPort": 0,
@@ -147,120 +139,113 @@ void ScenesTest::readsEveryKey()
         "faults": ["oddBytes", {"name": "lateAnswer", "value": 70}]},
         {"mac": "02:1a:c5:00:40:18", "ipv6": "fd00::a", "type": "IPC", "port": 1, "channels": 3,
          "segment": "remote", "p2pId": "OV2"}]})",
-                                                         &error);
-    QVERIFY2(scene.has_value(), qPrintable(error));
-    QCOMPARE(scene->title + scene->description + scene->localAddress + scene->localIpv6,
-             u"TD10.1.1.1fe80::1"_s);
-    QCOMPARE(scene->devices.size(), 2);
+                                                             &error);
+        QVERIFY2(scene.has_value(), qPrintable(error));
+        QCOMPARE(scene->title + scene->description + scene->localAddress + scene->localIpv6,
+                 u"TD10.1.1.1fe80::1"_s);
+        QCOMPARE(scene->devices.size(), 2);
 
-    const SceneDevice &full = scene->devices.first();
-    QCOMPARE(
-        QStringList({full.mac, full.address, full.ipv6, full.mask, full.gateway}),
-        QStringList({u"02:1a:c5:00:40:17"_s, u"10.0.0.9"_s, u"fd00::9"_s, u"255.255.0.0"_s, u"10.0.0.1"_s}));
-    QCOMPARE(QStringList({full.name, full.type, full.model, full.version, full.serial}),
-             QStringList({u"大门"_s, u"NVR"_s, u"R-1"_s, u"2.1"_s, u"S1"_s}));
-    QCOMPARE(QList<int>({full.ipv6PrefixLength, full.port, full.httpPort, full.resetWay}),
-             QList<int>({56, 65535, 0, 2}));
-    QCOMPARE(full.httpAuthentication, HttpAuthenticationKind::Basic);
-    QVERIFY(full.dhcp && full.inOtherSegment && !full.isRemote && !full.knowsFirstSearch);
-    QCOMPARE(full.initialisation, sdk::InitialisationBits::NotReported);
-    QCOMPARE(full.latency.count(), 0);
-    QCOMPARE(full.accounts.first().user + full.accounts.first().password, u"adminp"_s);
-    QVERIFY(!full.channels.at(0).connected && full.channels.at(1).connected);
-    QCOMPARE(full.capabilities.value(u"a").toInt() + full.configuration.value(u"b").toInt(), 3);
-    QVERIFY(full.hasFault(Fault::OddBytes) && !full.hasFault(Fault::NoAnswer));
-    QCOMPARE(full.fault(Fault::LateAnswer)->number, 70);
+        const SceneDevice &full = scene->devices.first();
+        QCOMPARE(QStringList({full.mac, full.address, full.ipv6, full.mask, full.gateway}),
+                 QStringList(
+                     {u"02:1a:c5:00:40:17"_s, u"10.0.0.9"_s, u"fd00::9"_s, u"255.255.0.0"_s, u"10.0.0.1"_s}));
+        QCOMPARE(QStringList({full.name, full.type, full.model, full.version, full.serial}),
+                 QStringList({u"大门"_s, u"NVR"_s, u"R-1"_s, u"2.1"_s, u"S1"_s}));
+        QCOMPARE(QList<int>({full.ipv6PrefixLength, full.port, full.httpPort, full.resetWay}),
+                 QList<int>({56, 65535, 0, 2}));
+        QCOMPARE(full.httpAuthentication, HttpAuthenticationKind::Basic);
+        QVERIFY(full.dhcp && full.inOtherSegment && !full.isRemote && !full.knowsFirstSearch);
+        QCOMPARE(full.initialisation, sdk::InitialisationBits::NotReported);
+        QCOMPARE(full.latency.count(), 0);
+        QCOMPARE(full.accounts.first().user + full.accounts.first().password, u"adminp"_s);
+        QVERIFY(!full.channels.at(0).connected && full.channels.at(1).connected);
+        QCOMPARE(full.capabilities.value(u"a").toInt() + full.configuration.value(u"b").toInt(), 3);
+        QVERIFY(full.hasFault(Fault::OddBytes) && !full.hasFault(Fault::NoAnswer));
+        QCOMPARE(full.fault(Fault::LateAnswer)->number, 70);
 
-    const SceneDevice &sparse = scene->devices.last();
-    QVERIFY(sparse.address.isEmpty() && !sparse.dhcp && sparse.isRemote && sparse.knowsFirstSearch);
-    QVERIFY(sparse.inOtherSegment); // out of reach of local searches as well
-    QCOMPARE(full.p2pId + sparse.p2pId, u"OV1OV2"_s);
-    QCOMPARE(sparse.initialisation, sdk::InitialisationBits::Initialised);
-    QCOMPARE(sparse.channels.size(), 3);
-}
-
-void ScenesTest::opensFilesAndNamesMistakes()
-{
-    QTemporaryDir directory;
-    QFile file(directory.filePath(u"mine.json"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(sceneWith({{u"name"_s, u"Mine"_s}}));
-    file.close();
-    QString error = u"old"_s;
-    const std::shared_ptr<DemoSite> site = openSite(file.fileName(), &error);
-    QVERIFY2(site != nullptr, qPrintable(error));
-    QVERIFY(error.isEmpty());
-    QCOMPARE(site->device(u"02:1A:C5:00:00:01"_s)->name, u"Mine"_s);
-    QVERIFY(!site->device(u"02:1a:c5:00:00:02"_s));
-
-    const QList<std::pair<QString, QStringList>> mistakes = {
-        {u"ofice"_s, {u"\"ofice\""_s, u"office"_s, u"factory"_s, u"faulty"_s, u"fleet:N"_s}},
-        {u""_s, {u"office"_s}},
-        {u"fleet:0"_s, {u"1 to 20000"_s}},
-        {u"fleet:20001"_s, {u"1 to 20000"_s}},
-        {u"fleet:many"_s, {u"\"fleet:many\""_s, u"1 to 20000"_s}},
-        {directory.filePath(u"none.json"_s), {u"none.json"_s, u"cannot be read"_s}},
-        {directory.path(), {directory.path(), u"is no file"_s}},
-        {u"/dev/zero"_s, {u"/dev/zero"_s, u"is no file"_s}},
-        {u"fleet:%1"_s, {u"\"fleet:%1\""_s, u"1 to 20000"_s}},
-    };
-    for (const auto &[name, words] : mistakes) {
-        QVERIFY(!openSite(name, &error));
-        for (const QString &word : words)
-            QVERIFY2(error.contains(word), qPrintable(u"%1 | lacks: %2"_s.arg(error, word)));
-        QVERIFY(!openSite(name, nullptr));
+        const SceneDevice &sparse = scene->devices.last();
+        QVERIFY(sparse.address.isEmpty() && !sparse.dhcp && sparse.isRemote && sparse.knowsFirstSearch);
+        QVERIFY(sparse.inOtherSegment); // out of reach of local searches as well
+        QCOMPARE(full.p2pId + sparse.p2pId, u"OV1OV2"_s);
+        QCOMPARE(sparse.initialisation, sdk::InitialisationBits::Initialised);
+        QCOMPARE(sparse.channels.size(), 3);
     }
-}
 
-void ScenesTest::fleetIsTheSameEveryTime()
-{
-    const auto text = [](const SceneDevice &device) {
-        return QStringList{device.mac,
-                           device.address,
-                           device.name,
-                           device.type,
-                           device.model,
-                           device.version,
-                           device.serial,
-                           QString::number(device.latency.count()),
-                           QString::number(static_cast<int>(device.initialisation))};
-    };
-    const Scene small = FleetGenerator::generate(200);
-    const Scene again = FleetGenerator::generate(200);
-    const Scene large = FleetGenerator::generate(1000);
-    QCOMPARE(small.devices.size(), 200);
-    for (qsizetype place = 0; place < small.devices.size(); ++place) {
-        QCOMPARE(text(again.devices.at(place)), text(small.devices.at(place)));
-        QCOMPARE(text(large.devices.at(place)), text(small.devices.at(place)));
-    }
-}
+    void opensFilesAndNamesMistakes()
+    {
+        QTemporaryDir directory;
+        const QString path = directory.filePath(u"mine.json"_s);
+        QVERIFY(writeFile(path, sceneWith({{u"name"_s, u"Mine"_s}})));
+        QString error = u"old"_s;
+        const std::shared_ptr<DemoSite> site = openSite(path, &error);
+        QVERIFY2(site != nullptr, qPrintable(error));
+        QVERIFY(error.isEmpty());
+        QCOMPARE(site->device(u"02:1A:C5:00:00:01"_s)->name, u"Mine"_s);
+        QVERIFY(!site->device(u"02:1a:c5:00:00:02"_s));
 
-void ScenesTest::fleetIsUniqueAndMixed()
-{
-    QString error;
-    const std::shared_ptr<DemoSite> site = openSite(u"fleet:20000"_s, &error);
-    QVERIFY2(site != nullptr, qPrintable(error));
-    QSet<QString> macs;
-    QSet<QString> addresses;
-    QSet<QString> types;
-    int uninitialised = 0;
-    std::array<int, 5> answersOfHalfSecond = {};
-    for (const SceneDevice &device : site->devices()) {
-        macs.insert(device.mac);
-        addresses.insert(device.address);
-        types.insert(device.type);
-        QVERIFY(device.address.startsWith(u"10."));
-        uninitialised += device.initialisation == sdk::InitialisationBits::Uninitialised ? 1 : 0;
-        ++answersOfHalfSecond[static_cast<std::size_t>(
-            std::clamp<qint64>(device.latency.count() / 500, 0, 4))];
+        const QList<std::pair<QString, QStringList>> mistakes = {
+            {u"ofice"_s, {u"\"ofice\""_s, u"office"_s, u"factory"_s, u"faulty"_s, u"fleet:N"_s}},
+            {u""_s, {u"office"_s}},
+            {u"fleet:0"_s, {u"1 to 20000"_s}},
+            {u"fleet:20001"_s, {u"1 to 20000"_s}},
+            {u"fleet:many"_s, {u"\"fleet:many\""_s, u"1 to 20000"_s}},
+            {directory.filePath(u"none.json"_s), {u"none.json"_s, u"cannot be read"_s}},
+            {directory.path(), {directory.path(), u"is no file"_s}},
+            {u"/dev/zero"_s, {u"/dev/zero"_s, u"is no file"_s}},
+            {u"fleet:%1"_s, {u"\"fleet:%1\""_s, u"1 to 20000"_s}},
+        };
+        for (const auto &[name, words] : mistakes) {
+            QVERIFY(!openSite(name, &error));
+            for (const QString &word : words)
+                QVERIFY2(error.contains(word), qPrintable(u"%1 | lacks: %2"_s.arg(error, word)));
+            QVERIFY(!openSite(name, nullptr));
+        }
     }
-    QCOMPARE(macs.size(), maximumSceneDevices);
-    QCOMPARE(addresses.size(), maximumSceneDevices);
-    QCOMPARE(types.size(), 8);
-    QVERIFY2(uninitialised > 2000 && uninitialised < 4000, qPrintable(QString::number(uninitialised)));
-    for (const int answers : answersOfHalfSecond)
-        QVERIFY2(answers > 3000, qPrintable(QString::number(answers)));
-}
+
+    void fleetIsTheSameEveryTime()
+    {
+        const auto text = [](const SceneDevice &device) {
+            return device.mac + device.address + device.name + device.type + device.model + device.version +
+                   device.serial + QString::number(device.latency.count()) +
+                   QString::number(static_cast<int>(device.initialisation));
+        };
+        const Scene small = FleetGenerator::generate(200);
+        const Scene again = FleetGenerator::generate(200);
+        const Scene large = FleetGenerator::generate(1000);
+        QCOMPARE(small.devices.size(), 200);
+        for (qsizetype place = 0; place < small.devices.size(); ++place) {
+            QCOMPARE(text(again.devices.at(place)), text(small.devices.at(place)));
+            QCOMPARE(text(large.devices.at(place)), text(small.devices.at(place)));
+        }
+    }
+
+    void fleetIsUniqueAndMixed()
+    {
+        QString error;
+        const std::shared_ptr<DemoSite> site = openSite(u"fleet:20000"_s, &error);
+        QVERIFY2(site != nullptr, qPrintable(error));
+        QSet<QString> macs;
+        QSet<QString> addresses;
+        QSet<QString> types;
+        int uninitialised = 0;
+        std::array<int, 5> answersOfHalfSecond = {};
+        for (const SceneDevice &device : site->devices()) {
+            macs.insert(device.mac);
+            addresses.insert(device.address);
+            types.insert(device.type);
+            QVERIFY(device.address.startsWith(u"10."));
+            uninitialised += device.initialisation == sdk::InitialisationBits::Uninitialised ? 1 : 0;
+            ++answersOfHalfSecond[static_cast<std::size_t>(
+                std::clamp<qint64>(device.latency.count() / 500, 0, 4))];
+        }
+        QCOMPARE(macs.size(), maximumSceneDevices);
+        QCOMPARE(addresses.size(), maximumSceneDevices);
+        QCOMPARE(types.size(), 8);
+        QVERIFY2(uninitialised > 2000 && uninitialised < 4000, qPrintable(QString::number(uninitialised)));
+        for (const int answers : answersOfHalfSecond)
+            QVERIFY2(answers > 3000, qPrintable(QString::number(answers)));
+    }
+};
 
 QTEST_GUILESS_MAIN(ScenesTest)
 #include "tst_demoscenes.moc"

@@ -1,6 +1,11 @@
-// What simulated channels stream, as a decoder sees it.
+// What simulated channels stream, as a decoder sees it, and how streams end.
+#include "tests/datatable.h"
 #include "tests/sdk/demo/streamreader.h"
 #include "tests/sdk/demo/streamsite.h"
+
+#include <atomic>
+#include <future>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -19,6 +24,27 @@ double pitchOf(const DecodedStream &stream)
            static_cast<double>(stream.samples.size());
 }
 
+/// Says whether a handler ran that had been promised not to run.
+struct PromiseWatcher
+{
+    static void handle(std::int64_t, std::uint32_t, const std::uint8_t *, std::uint32_t, std::int64_t,
+                       void *user)
+    {
+        auto *watcher = static_cast<PromiseWatcher *>(user);
+        if (!watcher->mayRun)
+            watcher->wasBroken = true;
+        ++watcher->calls;
+        watcher->calls.notify_all();
+        std::this_thread::yield();
+        if (!watcher->mayRun)
+            watcher->wasBroken = true;
+    }
+
+    std::atomic<bool> mayRun = false;
+    std::atomic<bool> wasBroken = false;
+    std::atomic<int> calls = 0;
+};
+
 } // namespace
 
 class StreamsTest : public QObject
@@ -28,25 +54,17 @@ class StreamsTest : public QObject
 private Q_SLOTS:
     void aStreamIsAsItIsSet_data()
     {
-        QTest::addColumn<int>("compression");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("codec");
-        QTest::addColumn<int>("colours");
-        QTest::addColumn<int>("range");
+        const auto row =
+            dataTable<int, QSize, int, int, int>({"compression", "size", "codec", "colours", "range"});
         const QSize small(352, 288);
         const QSize large(1280, 720);
-        QTest::newRow("H.264") << 7 << small << int(AV_CODEC_ID_H264) << int(AVCOL_SPC_SMPTE170M)
-                               << int(AVCOL_RANGE_MPEG);
-        QTest::newRow("H.264, large")
-            << 7 << large << int(AV_CODEC_ID_H264) << int(AVCOL_SPC_BT709) << int(AVCOL_RANGE_MPEG);
-        QTest::newRow("H.265") << 8 << small << int(AV_CODEC_ID_HEVC) << int(AVCOL_SPC_SMPTE170M)
-                               << int(AVCOL_RANGE_MPEG);
-        QTest::newRow("H.265, large")
-            << 8 << large << int(AV_CODEC_ID_HEVC) << int(AVCOL_SPC_BT709) << int(AVCOL_RANGE_MPEG);
-        QTest::newRow("MJPEG") << 5 << large << int(AV_CODEC_ID_MJPEG) << int(AVCOL_SPC_BT470BG)
-                               << int(AVCOL_RANGE_JPEG);
-        QTest::newRow("a codec of old devices")
-            << 0 << small << int(AV_CODEC_ID_H264) << int(AVCOL_SPC_SMPTE170M) << int(AVCOL_RANGE_MPEG);
+        row("H.264", 7, small, int(AV_CODEC_ID_H264), int(AVCOL_SPC_SMPTE170M), int(AVCOL_RANGE_MPEG));
+        row("H.264, large", 7, large, int(AV_CODEC_ID_H264), int(AVCOL_SPC_BT709), int(AVCOL_RANGE_MPEG));
+        row("H.265", 8, small, int(AV_CODEC_ID_HEVC), int(AVCOL_SPC_SMPTE170M), int(AVCOL_RANGE_MPEG));
+        row("H.265, large", 8, large, int(AV_CODEC_ID_HEVC), int(AVCOL_SPC_BT709), int(AVCOL_RANGE_MPEG));
+        row("MJPEG", 5, large, int(AV_CODEC_ID_MJPEG), int(AVCOL_SPC_BT470BG), int(AVCOL_RANGE_JPEG));
+        row("a codec of old devices", 0, small, int(AV_CODEC_ID_H264), int(AVCOL_SPC_SMPTE170M),
+            int(AVCOL_RANGE_MPEG));
     }
 
     void aStreamIsAsItIsSet()
@@ -108,15 +126,14 @@ private Q_SLOTS:
 
     void soundIsAsItIsSet_data()
     {
-        QTest::addColumn<int>("format"); // as configurations number it; 0 for none
-        QTest::addColumn<int>("frequency");
-        QTest::addColumn<int>("codec");
-        QTest::newRow("G.711A") << 1 << 8000 << int(AV_CODEC_ID_PCM_ALAW);
-        QTest::newRow("PCM") << 2 << 8000 << int(AV_CODEC_ID_PCM_S16LE);
-        QTest::newRow("G.711Mu") << 3 << 16000 << int(AV_CODEC_ID_PCM_MULAW);
-        QTest::newRow("AAC") << 5 << 16000 << int(AV_CODEC_ID_AAC);
-        QTest::newRow("AAC, slow") << 5 << 8000 << int(AV_CODEC_ID_AAC);
-        QTest::newRow("off") << 0 << 8000 << int(AV_CODEC_ID_NONE);
+        // format: as configurations number it; 0 for none
+        const auto row = dataTable<int, int, int>({"format", "frequency", "codec"});
+        row("G.711A", 1, 8000, int(AV_CODEC_ID_PCM_ALAW));
+        row("PCM", 2, 8000, int(AV_CODEC_ID_PCM_S16LE));
+        row("G.711Mu", 3, 16000, int(AV_CODEC_ID_PCM_MULAW));
+        row("AAC", 5, 16000, int(AV_CODEC_ID_AAC));
+        row("AAC, slow", 5, 8000, int(AV_CODEC_ID_AAC));
+        row("off", 0, 8000, int(AV_CODEC_ID_NONE));
     }
 
     void soundIsAsItIsSet()
@@ -150,23 +167,6 @@ private Q_SLOTS:
         QVERIFY(pitchOf(decodedStreams(neighbour.bytes()).value(0)) > 235);
     }
 
-    void channelsCanBeToldApart()
-    {
-        const StreamSite site(smallCamera(3));
-        std::array<Watcher, 3> watchers;
-        std::array<DecodedPicture, 3> pictures;
-        for (std::size_t channel = 0; channel < watchers.size(); ++channel)
-            QVERIFY(site.watch(watchers[channel], static_cast<std::int32_t>(channel)) != 0);
-        site.step(1, 3);
-        for (std::size_t channel = 0; channel < watchers.size(); ++channel)
-            pictures[channel] = decodedStreams(watchers[channel].bytes()).value(0).pictures.value(0);
-        for (const auto &[one, other] : {std::pair(0U, 1U), std::pair(1U, 2U), std::pair(0U, 2U)}) {
-            const double colours = difference(pictures[one].blue, pictures[other].blue) +
-                                   difference(pictures[one].red, pictures[other].red);
-            QVERIFY2(colours > 10, qPrintable(QString::number(colours)));
-        }
-    }
-
     void aChangeOfSettingsChangesTheRunningStream()
     {
         const StreamSite site(smallCamera(1));
@@ -191,36 +191,99 @@ private Q_SLOTS:
         QCOMPARE(streams[1].pictures.last().time, 4 * 80);
     }
 
-    void watchersShareAnEncoder()
+    void streamsEndWithWhatTheyComeFrom_data()
     {
-        const StreamSite site(smallCamera(1));
-        Watcher first;
-        Watcher second;
-        Watcher sub;
-        QVERIFY(site.watch(first) != 0);
-        site.step(10);
-        const std::int64_t handle = site.watch(second);
-        QVERIFY(handle != 0);
-        site.step(10);
-        QVERIFY(site.watch(sub, 0, LiveStreamKind::Sub) != 0); // has an encoder of its own
-        site.step(5, 2);
-        QVERIFY(site.net->NetStreamFollowUp(handle, 0, 0));
-        site.step(5, 2);
-        const DecodedStream all = decodedStreams(first.bytes()).value(0);
-        const DecodedStream late = decodedStreams(second.bytes()).value(0);
-        QCOMPARE(all.pictures.size(), 31);
-        QCOMPARE(late.pictures.size(), 20);
-        QCOMPARE(decodedStreams(sub.bytes()).value(0).pictures.size(), 11);
-        QList<qsizetype> keys;
-        for (qsizetype place = 0; place < all.pictures.size(); ++place) {
-            if (all.pictures[place].isKey)
-                keys.append(place);
-            // Two encoders would not come to the same bytes.
-            if (place >= 11)
-                QVERIFY(late.pictures[place - 11].luma == all.pictures[place].luma);
-        }
-        QCOMPARE(keys, QList<qsizetype>({0, 11, 26}));
-        QCOMPARE(late.pictures.first().time, 0);
+        using End = std::function<void(const StreamSite &)>;
+        const auto row = dataTable<End, bool>({"end", "handleStays"});
+        const QString mac = smallCamera(3).mac;
+        const auto faultRow = [&](const char *title, const FaultSetting &fault) {
+            row(
+                title, [mac, fault](const StreamSite &site) { site.site->setFault(mac, fault); }, true);
+        };
+        faultRow("no answer", {Fault::NoAnswer});
+        faultRow("not initialised", {Fault::NotInitialised});
+        faultRow("dropped", {Fault::DropsStreamAfter, 2});
+        row(
+            "removal", [mac](const StreamSite &site) { site.site->removeDevice(mac); }, true);
+        row(
+            "logout", [](const StreamSite &site) { site.net->NetLogout(site.login.handle); }, false);
+        row(
+            "reboot", [](const StreamSite &site) { site.net->NetRebootDevice(site.login.handle, 1s); }, true);
+        const auto reset = [](const StreamSite &site) {
+            const ResetSystemInput input = {sizeof(input)};
+            ResetSystemOutput output = {sizeof(output)};
+            site.net->NetResetSystem(site.login.handle, input, output, 1s);
+        };
+        row("reset", reset, true);
+        const auto unplug = [mac](const StreamSite &site) {
+            site.site->changeDevice(mac,
+                                    [](auto &device, const auto &) { device.channels[0].connected = false; });
+        };
+        row("unplugged", unplug, true);
+    }
+
+    void streamsEndWithWhatTheyComeFrom()
+    {
+        QFETCH(std::function<void(const StreamSite &)>, end);
+        QFETCH(bool, handleStays);
+        const StreamSite site(smallCamera(3));
+        Watcher watcher;
+        const std::int64_t handle = site.watch(watcher);
+        site.step(1);
+        const QByteArray before = watcher.bytes();
+        QCOMPARE(decodedStreams(before).value(0).pictures.size(), 2);
+        end(site);
+        site.clock->advance(30s);                       // beyond a reboot as well
+        QVERIFY(!site.clock->waitForWaiters(1, 100ms)); // nothing runs any more
+        QCOMPARE(watcher.bytes(), before);
+        QCOMPARE(site.net->NetStopRealStream(handle), handleStays);
+        QVERIFY(!site.net->NetStopRealStream(handle));
+        QCOMPARE(lastError(*site.net), DemoError::UnknownHandle);
+    }
+
+    void handlersRunNoMoreAfterTheirEnd()
+    {
+        Scene scene;
+        scene.devices = {smallCamera(3)};
+        const auto site = DemoSite::create(scene, std::make_shared<SystemClock>());
+        const std::shared_ptr<NetLibrary> net = site->libraries().net;
+        net->NetInit();
+        const Login login(*net, smallCamera(3).address, 8800);
+        // Two threads, each starting and stopping on its own; they share the source.
+        const auto startAndStop = [&](int rounds) {
+            PromiseWatcher watcher;
+            for (int round = 0; round < rounds; ++round) {
+                const std::int64_t handle = net->NetStartRealStream(login.handle, 0, 0, LiveStreamKind::Main);
+                watcher.mayRun = true;
+                const int before = watcher.calls;
+                net->NetSetRealDataCallback(handle, &PromiseWatcher::handle, &watcher, 1);
+                if (round % 3 != 0)
+                    watcher.calls.wait(before);
+                if (round % 2 == 0)
+                    net->NetSetRealDataCallback(handle, nullptr, nullptr, 1);
+                else
+                    net->NetStopRealStream(handle);
+                watcher.mayRun = false;
+                net->NetStopRealStream(handle);
+            }
+            return !watcher.wasBroken && watcher.calls > 0;
+        };
+        constexpr int rounds = 25;
+        auto other = std::async(std::launch::async, startAndStop, rounds);
+        QVERIFY(startAndStop(rounds));
+        QVERIFY(other.get());
+        QCOMPARE(site->requests().of(u"NetStartRealStream"_s).size(), 2 * rounds);
+
+        PromiseWatcher last;
+        last.mayRun = true;
+        const std::int64_t handle = net->NetStartRealStream(login.handle, 1, 0, LiveStreamKind::Sub);
+        QVERIFY(net->NetSetRealDataCallback(handle, &PromiseWatcher::handle, &last, 1));
+        last.calls.wait(0);
+        net->NetCleanup();
+        last.mayRun = false;
+        QVERIFY(!net->NetStopRealStream(handle));
+        QCOMPARE(net->NetStartRealStream(login.handle, 0, 0, LiveStreamKind::Main), 0);
+        QVERIFY(!last.wasBroken);
     }
 };
 

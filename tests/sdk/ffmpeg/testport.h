@@ -3,6 +3,7 @@
 
 #include "sdk/blocktext.h"
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "tests/files/filecontents.h"
 #include "tests/sdk/ffmpeg/livestream.h"
 
 #include <QList>
@@ -127,6 +128,16 @@ private:
         return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     }
 };
+
+/// A line of what the system knows of this process' memory.
+inline double processMegabytes(const QByteArray &name)
+{
+    for (const QByteArray &line : fileContents(QStringLiteral("/proc/self/status")).split('\n')) {
+        if (line.startsWith(name))
+            return line.simplified().split(' ').value(1).toDouble() / 1024;
+    }
+    return 0;
+}
 
 /// The largest mean difference of a plane of a picture to what it is to show: about 1 is the encoder's.
 /// A picture without the right number of bytes is far from everything.

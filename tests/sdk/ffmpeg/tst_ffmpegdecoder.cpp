@@ -1,4 +1,5 @@
 // Pictures and sound of whole streams.
+#include "tests/datatable.h"
 #include "tests/sdk/ffmpeg/testport.h"
 
 #include <cmath>
@@ -40,354 +41,322 @@ class FfmpegDecoderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pictures_data();
-    void pictures();
-    void colours_data();
-    void colours();
-    void convertsRgb();
-    void sound_data();
-    void sound();
-    void takesAnyCut_data();
-    void takesAnyCut();
-    void firstPictureWaitsForNothing_data();
-    void firstPictureWaitsForNothing();
-    void ordersPictures();
-    void skipsOtherTracks();
-    void leavesOutWhatIsLate_data();
-    void leavesOutWhatIsLate();
-    void whatWaitsForItsTurnIsNotLeftOut();
+    void pictures_data()
+    {
+        const auto row = dataTable<PictureFormat, QString>({"format", "codec"});
+        row("H.264", {.encoder = "libx264"}, "H.264");
+        row("H.264, cut to 1080 lines", {.encoder = "libx264", .width = 192, .height = 1080, .rate = 12},
+            "H.264");
+        row("H.264, 4:4:4", {.encoder = "libx264", .pixels = AV_PIX_FMT_YUV444P}, "H.264");
+        row("H.264, 4:2:2 of 10 bits", {.encoder = "libx264", .pixels = AV_PIX_FMT_YUV422P10}, "H.264");
+        row("H.265", {.encoder = "libx265", .width = 98, .height = 70, .rate = 30}, "H.265");
+        row("H.265, 10 bits",
+            {.encoder = "libx265", .width = 98, .height = 70, .pixels = AV_PIX_FMT_YUV420P10}, "H.265");
+        row("MJPEG, odd size",
+            {.encoder = "mjpeg", .width = 65, .height = 33, .pixels = AV_PIX_FMT_YUVJ420P, .rate = 5},
+            "MJPEG");
+        row("MJPEG, 4:2:2, odd size",
+            {.encoder = "mjpeg", .width = 65, .height = 33, .pixels = AV_PIX_FMT_YUVJ422P}, "MJPEG");
+        row("MJPEG, 4:4:4, narrow",
+            {.encoder = "mjpeg", .width = 17, .height = 121, .pixels = AV_PIX_FMT_YUVJ444P}, "MJPEG");
+    }
+
+    void pictures()
+    {
+        QFETCH(PictureFormat, format);
+        QFETCH(QString, codec);
+        constexpr int count = 7; // the ring goes round twice
+        LiveStream stream(format);
+        TestPort port;
+        QVERIFY(port.push(stream.head() + stream.pictures(count)));
+        QTRY_COMPARE(port.receiver.pictures().size(), count);
+        const QList<Delivered> pictures = port.receiver.pictures();
+        for (int number = 0; number < count; ++number) {
+            const Delivered &picture = pictures.at(number);
+            QCOMPARE(picture.information.width, format.width);
+            QCOMPARE(picture.information.height, format.height);
+            QCOMPARE(picture.information.rate, format.rate);
+            QVERIFY2(distance(picture, Patches::numbered(number)) < nearEnough,
+                     qPrintable(QStringLiteral("picture %1 is off by %2")
+                                    .arg(number)
+                                    .arg(distance(picture, Patches::numbered(number)))));
+            QVERIFY(picture.thread == pictures.first().thread &&
+                    picture.thread != std::this_thread::get_id());
+        }
+        QCOMPARE(port.videoCodec(), codec);
+        QCOMPARE(port.audioCodec(), QString());
+        QCOMPARE(port.status().damages, 0U);
+    }
+
+    void colours_data()
+    {
+        const auto addRow = dataTable<PictureFormat, int>({"format", "colour"});
+        const auto row = [&addRow](const char *name, const PictureFormat &format, PictureColour colour) {
+            addRow(name, format, static_cast<int>(colour));
+        };
+        row("says nothing, small", {}, PictureColour::Bt601Limited);
+        row("says nothing, 720 lines", {.width = 64, .height = 720}, PictureColour::Bt709Limited);
+        row("says BT.709, small", {.colourSpace = AVCOL_SPC_BT709}, PictureColour::Bt709Limited);
+        row("says BT.709, full", {.colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
+            PictureColour::Bt709Full);
+        row("says BT.601, 720 lines", {.width = 64, .height = 720, .colourSpace = AVCOL_SPC_SMPTE170M},
+            PictureColour::Bt601Limited);
+        row("says full", {.range = AVCOL_RANGE_JPEG}, PictureColour::Bt601Full);
+        row("H.265, full", {.encoder = "libx265", .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
+            PictureColour::Bt709Full);
+        row("MJPEG, 720 lines",
+            {.encoder = "mjpeg",
+             .width = 64,
+             .height = 720,
+             .pixels = AV_PIX_FMT_YUVJ420P,
+             .range = AVCOL_RANGE_JPEG},
+            PictureColour::Bt601Full);
+        row("converted, full",
+            {.pixels = AV_PIX_FMT_YUV444P, .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
+            PictureColour::Bt709Full);
+    }
+
+    void colours()
+    {
+        QFETCH(PictureFormat, format);
+        QFETCH(int, colour);
+        LiveStream stream(format);
+        TestPort port;
+        QVERIFY(port.push(stream.head() + stream.pictures(1)));
+        QTRY_COMPARE(port.receiver.pictures().size(), 1);
+        const Delivered picture = port.receiver.pictures().first();
+        QCOMPARE(static_cast<int>(picture.information.colour), colour);
+        QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are the stream's
+    }
+
+    void convertsRgb()
+    {
+        LiveStream stream(PictureFormat{.encoder = "libx264rgb", .pixels = AV_PIX_FMT_RGB24});
+        TestPort port;
+        const Patches rgb{{{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 255}}}};
+        const Patches bt601{{{{82, 90, 240}, {145, 54, 34}, {41, 240, 110}, {235, 128, 128}}}};
+        QVERIFY(port.push(stream.head() + stream.picture(rgb)));
+        QTRY_COMPARE(port.receiver.pictures().size(), 1);
+        QCOMPARE(port.receiver.pictures().first().information.colour, PictureColour::Bt601Limited);
+        const double off = distance(port.receiver.pictures().first(), bt601);
+        QVERIFY2(off < nearEnough, qPrintable(QString::number(off)));
+    }
+
+    void sound_data()
+    {
+        const auto row = dataTable<SoundFormat, QString>({"format", "codec"});
+        row("A-law", {.encoder = "pcm_alaw"}, "G.711A");
+        row("mu-law", {.encoder = "pcm_mulaw", .rate = 16000}, "G.711Mu");
+        row("PCM", {.encoder = "pcm_s16le", .rate = 44100}, "PCM");
+        row("PCM, two channels", {.encoder = "pcm_s16le", .rate = 8000, .channels = 2}, "PCM");
+        row("AAC", {.encoder = "aac", .rate = 16000}, "AAC");
+        row("AAC, two channels", {.encoder = "aac", .rate = 48000, .channels = 2}, "AAC");
+    }
+
+    void sound()
+    {
+        QFETCH(SoundFormat, format);
+        QFETCH(QString, codec);
+        LiveStream stream({.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P}, format);
+        TestPort port;
+        QVERIFY(port.push(stream.head() + stream.pictures(1)));
+        for (int piece = 0; piece < 10; ++piece)
+            QVERIFY(port.push(stream.tone(format.rate / 10)));
+        const int enough = format.rate * 9 / 10; // an encoder keeps its last piece
+        QTRY_VERIFY(port.receiver.sampleCount() >= enough);
+        QCOMPARE(port.receiver.pictures().size(), 1);
+
+        QList<std::int16_t> samples;
+        for (const Delivered &sound : port.receiver.sounds()) {
+            QCOMPARE(sound.information.rate, format.rate);
+            QCOMPARE(sound.information.width, 0);
+            const auto *values = reinterpret_cast<const std::int16_t *>(sound.bytes.constData());
+            samples.append(QList<std::int16_t>(values, values + sound.bytes.size() / 2));
+        }
+        // The middle, where an encoder has swung in: a tone of 500 Hz and its loudness.
+        samples = samples.mid(format.rate / 4, format.rate / 2);
+        int risings = 0;
+        double squares = 0;
+        for (qsizetype place = 1; place < samples.size(); ++place) {
+            risings += samples.at(place - 1) < 0 && samples.at(place) >= 0 ? 1 : 0;
+            squares += std::pow(samples.at(place), 2);
+        }
+        QVERIFY2(std::abs(risings - 250) <= 2, qPrintable(QString::number(risings)));
+        const double loudness = std::sqrt(squares / static_cast<double>(samples.size()));
+        QVERIFY2(std::abs(loudness - 5792) < 400, qPrintable(QString::number(loudness)));
+        QCOMPARE(port.audioCodec(), codec);
+        QCOMPARE(port.status().damages, 0U);
+    }
+
+    void takesAnyCut_data()
+    {
+        const auto row = dataTable<int>({"pieceSize"});
+        row("bytes", 1);
+        row("three", 3);
+        row("odd", 1021);
+        row("whole", 10000000);
+    }
+
+    void takesAnyCut()
+    {
+        QFETCH(int, pieceSize);
+        LiveStream first({.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
+        LiveStream second(PictureFormat{.encoder = "libx265", .width = 96, .height = 64});
+        QByteArray bytes = first.head();
+        for (int number = 0; number < 4; ++number)
+            bytes += first.pictures(1, number) + first.tone(640);
+        bytes += second.head() + second.pictures(4, 4);
+        TestPort port;
+        QVERIFY(port.push(bytes, pieceSize));
+        QTRY_COMPARE(port.receiver.pictures().size(), 8);
+        const QList<Delivered> pictures = port.receiver.pictures();
+        for (int number = 0; number < 8; ++number)
+            QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
+        QCOMPARE(pictures.at(3).information.width, 64);
+        QCOMPARE(pictures.at(4).information.width, 96);
+        QVERIFY(port.receiver.sampleCount() > 1000);
+        QCOMPARE(port.videoCodec(), QStringLiteral("H.265"));
+        QCOMPARE(port.status().damages, 0U);
+    }
+
+    void firstPictureWaitsForNothing_data()
+    {
+        const auto row = dataTable<PictureFormat>({"format"});
+        row("H.264", {.encoder = "libx264"});
+        row("H.265", {.encoder = "libx265"});
+        row("MJPEG", {.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+    }
+
+    void firstPictureWaitsForNothing()
+    {
+        QFETCH(PictureFormat, format);
+        LiveStream stream(format,
+                          SoundFormat{}); // sound that was announced and does not come holds nothing back
+        TestPort port;
+        QVERIFY(port.push(stream.head()));
+        for (int number = 0; number < 4; ++number) {
+            QVERIFY(port.push(stream.pictures(1, number)));
+            QTRY_COMPARE(port.receiver.pictures().size(), number + 1);
+        }
+    }
+
+    void ordersPictures()
+    {
+        // Two pictures between those that they refer to, which are sent first.
+        PictureFormat format;
+        format.keyEvery = 30;
+        format.options = "tune=film:bf=2:b_strategy=0:rc-lookahead=0:x264-params=scenecut=0";
+        LiveStream stream(format);
+        LiveStream next(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+        TestPort port;
+        QVERIFY(port.push(stream.head() + stream.pictures(12)));
+        QVERIFY(port.push(next.head() + next.pictures(1))); // what waits for others comes out at the end
+        QTRY_COMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
+        QTRY_COMPARE(port.receiver.pictures().last().information.colour, PictureColour::Bt601Full);
+        // The last one is what those that the encoder kept back would have come before.
+        const QList<Delivered> pictures = port.receiver.pictures();
+        QVERIFY(pictures.size() > 8);
+        for (int number = 0; number < pictures.size() - 2; ++number) {
+            const double off = distance(pictures.at(number), Patches::numbered(number));
+            QVERIFY2(off < nearEnough,
+                     qPrintable(QStringLiteral("picture %1 is off by %2").arg(number).arg(off)));
+        }
+    }
+
+    void skipsOtherTracks()
+    {
+        LiveStream stream({.encoder = "mpeg4", .options = "flags=+qscale"},
+                          SoundFormat{.encoder = "pcm_mulaw"});
+        TestPort port;
+        QVERIFY(port.push(stream.head() + stream.pictures(3) + stream.tone(8000)));
+        QTRY_COMPARE(port.receiver.sampleCount(), 8000);
+        QCOMPARE(port.receiver.pictures().size(), 0);
+        QCOMPARE(port.videoCodec(), QString());
+        QCOMPARE(port.audioCodec(), QStringLiteral("G.711Mu"));
+    }
+
+    void leavesOutWhatIsLate_data()
+    {
+        // format: every fifth picture needs no earlier one
+        // late: pictures after the first one, which is held up
+        // period: between them
+        // shown: with three that follow in time
+        const auto row = dataTable<PictureFormat, bool, int, int, QList<int>>(
+            {"format", "isLive", "late", "period", "shown"});
+        const PictureFormat h264{.encoder = "libx264"};
+        const PictureFormat h265{.encoder = "libx265"};
+        const PictureFormat jpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
+        row("in time", h264, true, 6, 10, QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+        row("no live stream", h264, false, 6, 500, QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+        row("on from the newest key picture", h264, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
+        row("H.265", h265, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
+        row("key pictures only", jpeg, true, 12, 120, QList<int>{0, 12, 13, 14, 15});
+        row("somewhat late, no key picture", h264, true, 3, 120, QList<int>{0, 1, 3, 4, 5, 6});
+        row("late, a key picture is near", h264, true, 3, 450, QList<int>{0, 5, 6});
+        row("late, a key picture is far", h264, true, 3, 250, QList<int>{0, 1, 3, 4, 5, 6});
+        row("too late", h264, true, 3, 5000, QList<int>{0, 5, 6});
+    }
+
+    void leavesOutWhatIsLate()
+    {
+        QFETCH(PictureFormat, format);
+        QFETCH(bool, isLive);
+        QFETCH(int, late);
+        QFETCH(int, period);
+        QFETCH(QList<int>, shown);
+        LiveStream stream(format);
+        const auto clock = std::make_shared<StandingClock>();
+        std::promise<void> entered;
+        std::promise<void> leave;
+        TestPort port(usualBuffer, isLive ? clock : nullptr);
+        port.receiver.onDelivery = [&, isFirst = true]() mutable {
+            if (!std::exchange(isFirst, false))
+                return;
+            entered.set_value();
+            leave.get_future().wait();
+        };
+        QVERIFY(port.push(stream.head() + stream.picture(greyOf(0))));
+        entered.get_future().wait();
+        for (int number = 1; number <= late; ++number) {
+            clock->advance(period);
+            QVERIFY(port.push(stream.picture(greyOf(number))));
+        }
+        leave.set_value();
+        QTRY_VERIFY(port.isIdle());
+        for (int number = late + 1; number <= late + 3; ++number)
+            QVERIFY(port.push(stream.picture(greyOf(number))));
+        QTRY_VERIFY(port.isIdle());
+
+        QList<int> numbers;
+        for (const Delivered &picture : port.receiver.pictures())
+            numbers.append(qRound((static_cast<std::uint8_t>(picture.bytes.at(0)) - 20) / 10.0));
+        QCOMPARE(numbers, shown);
+        QCOMPARE(port.status().skippedPictures, static_cast<std::uint32_t>(late + 4 - shown.size()));
+        QCOMPARE(port.status().damages, 0U);
+    }
+
+    void whatWaitsForItsTurnIsNotLeftOut()
+    {
+        LiveStream stream(PictureFormat{.keyEvery = 50, .options = "bf=2"});
+        const QByteArray bytes = stream.head() + stream.pictures(20);
+        const auto pushed = bytes.count("\x1F\x43\xB6\x75"); // the clusters, one for each picture
+        const auto clock = std::make_shared<StandingClock>();
+        Receiver receiver;
+        FfmpegDecoderLibrary library(clock);
+        std::int32_t port = -1;
+        QVERIFY(library.DecoderAllocPort(port) && library.DecoderSetStreamMode(port, 0));
+        QVERIFY(library.DecoderOpenStream(port, reinterpret_cast<const std::uint8_t *>(bytes.constData()),
+                                          static_cast<std::uint32_t>(bytes.size()), usualBuffer));
+        QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
+        clock->advance(200); // it is late from its first picture on
+        QVERIFY(library.DecoderPlay(port, 0));
+        DecoderStatus status{};
+        QTRY_VERIFY(library.DecoderGetStatus(port, status) && status.waitingBytes == 0 &&
+                    status.skippedPictures > 0);
+        library.DecoderFreePort(port);
+        QCOMPARE_LT(status.skippedPictures + receiver.pictures().size(), pushed);
+    }
 };
-
-void FfmpegDecoderTest::pictures_data()
-{
-    QTest::addColumn<PictureFormat>("format");
-    QTest::addColumn<QString>("codec");
-    QTest::newRow("H.264") << PictureFormat{.encoder = "libx264"} << "H.264";
-    QTest::newRow("H.264, cut to 1080 lines")
-        << PictureFormat{.encoder = "libx264", .width = 192, .height = 1080, .rate = 12} << "H.264";
-    QTest::newRow("H.264, 4:4:4") << PictureFormat{.encoder = "libx264", .pixels = AV_PIX_FMT_YUV444P}
-                                  << "H.264";
-    QTest::newRow("H.264, 4:2:2 of 10 bits")
-        << PictureFormat{.encoder = "libx264", .pixels = AV_PIX_FMT_YUV422P10} << "H.264";
-    QTest::newRow("H.265") << PictureFormat{.encoder = "libx265", .width = 98, .height = 70, .rate = 30}
-                           << "H.265";
-    QTest::newRow("H.265, 10 bits") << PictureFormat{.encoder = "libx265",
-                                                     .width = 98,
-                                                     .height = 70,
-                                                     .pixels = AV_PIX_FMT_YUV420P10}
-                                    << "H.265";
-    QTest::newRow("MJPEG, odd size") << PictureFormat{.encoder = "mjpeg",
-                                                      .width = 65,
-                                                      .height = 33,
-                                                      .pixels = AV_PIX_FMT_YUVJ420P,
-                                                      .rate = 5}
-                                     << "MJPEG";
-    QTest::newRow("MJPEG, 4:2:2, odd size")
-        << PictureFormat{.encoder = "mjpeg", .width = 65, .height = 33, .pixels = AV_PIX_FMT_YUVJ422P}
-        << "MJPEG";
-    QTest::newRow("MJPEG, 4:4:4, narrow")
-        << PictureFormat{.encoder = "mjpeg", .width = 17, .height = 121, .pixels = AV_PIX_FMT_YUVJ444P}
-        << "MJPEG";
-}
-
-void FfmpegDecoderTest::pictures()
-{
-    QFETCH(PictureFormat, format);
-    QFETCH(QString, codec);
-    constexpr int count = 7; // the ring goes round twice
-    LiveStream stream(format);
-    TestPort port;
-    QVERIFY(port.push(stream.head() + stream.pictures(count)));
-    QTRY_COMPARE(port.receiver.pictures().size(), count);
-    const QList<Delivered> pictures = port.receiver.pictures();
-    for (int number = 0; number < count; ++number) {
-        const Delivered &picture = pictures.at(number);
-        QCOMPARE(picture.information.width, format.width);
-        QCOMPARE(picture.information.height, format.height);
-        QCOMPARE(picture.information.rate, format.rate);
-        QVERIFY2(distance(picture, Patches::numbered(number)) < nearEnough,
-                 qPrintable(QStringLiteral("picture %1 is off by %2")
-                                .arg(number)
-                                .arg(distance(picture, Patches::numbered(number)))));
-        QVERIFY(picture.thread == pictures.first().thread && picture.thread != std::this_thread::get_id());
-    }
-    QCOMPARE(port.videoCodec(), codec);
-    QCOMPARE(port.audioCodec(), QString());
-    QCOMPARE(port.status().damages, 0U);
-}
-
-void FfmpegDecoderTest::colours_data()
-{
-    QTest::addColumn<PictureFormat>("format");
-    QTest::addColumn<int>("colour");
-    const auto row = [](const char *name, const PictureFormat &format, PictureColour colour) {
-        QTest::newRow(name) << format << static_cast<int>(colour);
-    };
-    row("says nothing, small", {}, PictureColour::Bt601Limited);
-    row("says nothing, 720 lines", {.width = 64, .height = 720}, PictureColour::Bt709Limited);
-    row("says BT.709, small", {.colourSpace = AVCOL_SPC_BT709}, PictureColour::Bt709Limited);
-    row("says BT.709, full", {.colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
-        PictureColour::Bt709Full);
-    row("says BT.601, 720 lines", {.width = 64, .height = 720, .colourSpace = AVCOL_SPC_SMPTE170M},
-        PictureColour::Bt601Limited);
-    row("says full", {.range = AVCOL_RANGE_JPEG}, PictureColour::Bt601Full);
-    row("H.265, full", {.encoder = "libx265", .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
-        PictureColour::Bt709Full);
-    row("MJPEG, 720 lines",
-        {.encoder = "mjpeg",
-         .width = 64,
-         .height = 720,
-         .pixels = AV_PIX_FMT_YUVJ420P,
-         .range = AVCOL_RANGE_JPEG},
-        PictureColour::Bt601Full);
-    row("converted, full",
-        {.pixels = AV_PIX_FMT_YUV444P, .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
-        PictureColour::Bt709Full);
-}
-
-void FfmpegDecoderTest::colours()
-{
-    QFETCH(PictureFormat, format);
-    QFETCH(int, colour);
-    LiveStream stream(format);
-    TestPort port;
-    QVERIFY(port.push(stream.head() + stream.pictures(1)));
-    QTRY_COMPARE(port.receiver.pictures().size(), 1);
-    const Delivered picture = port.receiver.pictures().first();
-    QCOMPARE(static_cast<int>(picture.information.colour), colour);
-    QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are the stream's
-}
-
-void FfmpegDecoderTest::convertsRgb()
-{
-    LiveStream stream(PictureFormat{.encoder = "libx264rgb", .pixels = AV_PIX_FMT_RGB24});
-    TestPort port;
-    const Patches rgb{{{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 255}}}};
-    const Patches bt601{{{{82, 90, 240}, {145, 54, 34}, {41, 240, 110}, {235, 128, 128}}}};
-    QVERIFY(port.push(stream.head() + stream.picture(rgb)));
-    QTRY_COMPARE(port.receiver.pictures().size(), 1);
-    QCOMPARE(port.receiver.pictures().first().information.colour, PictureColour::Bt601Limited);
-    const double off = distance(port.receiver.pictures().first(), bt601);
-    QVERIFY2(off < nearEnough, qPrintable(QString::number(off)));
-}
-
-void FfmpegDecoderTest::sound_data()
-{
-    QTest::addColumn<SoundFormat>("format");
-    QTest::addColumn<QString>("codec");
-    QTest::newRow("A-law") << SoundFormat{.encoder = "pcm_alaw"} << "G.711A";
-    QTest::newRow("mu-law") << SoundFormat{.encoder = "pcm_mulaw", .rate = 16000} << "G.711Mu";
-    QTest::newRow("PCM") << SoundFormat{.encoder = "pcm_s16le", .rate = 44100} << "PCM";
-    QTest::newRow("PCM, two channels")
-        << SoundFormat{.encoder = "pcm_s16le", .rate = 8000, .channels = 2} << "PCM";
-    QTest::newRow("AAC") << SoundFormat{.encoder = "aac", .rate = 16000} << "AAC";
-    QTest::newRow("AAC, two channels")
-        << SoundFormat{.encoder = "aac", .rate = 48000, .channels = 2} << "AAC";
-}
-
-void FfmpegDecoderTest::sound()
-{
-    QFETCH(SoundFormat, format);
-    QFETCH(QString, codec);
-    LiveStream stream({.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P}, format);
-    TestPort port;
-    QVERIFY(port.push(stream.head() + stream.pictures(1)));
-    for (int piece = 0; piece < 10; ++piece)
-        QVERIFY(port.push(stream.tone(format.rate / 10)));
-    const int enough = format.rate * 9 / 10; // an encoder keeps its last piece
-    QTRY_VERIFY(port.receiver.sampleCount() >= enough);
-    QCOMPARE(port.receiver.pictures().size(), 1);
-
-    QList<std::int16_t> samples;
-    for (const Delivered &sound : port.receiver.sounds()) {
-        QCOMPARE(sound.information.rate, format.rate);
-        QCOMPARE(sound.information.width, 0);
-        const auto *values = reinterpret_cast<const std::int16_t *>(sound.bytes.constData());
-        samples.append(QList<std::int16_t>(values, values + sound.bytes.size() / 2));
-    }
-    // The middle, where an encoder has swung in: a tone of 500 Hz and its loudness.
-    samples = samples.mid(format.rate / 4, format.rate / 2);
-    int risings = 0;
-    double squares = 0;
-    for (qsizetype place = 1; place < samples.size(); ++place) {
-        risings += samples.at(place - 1) < 0 && samples.at(place) >= 0 ? 1 : 0;
-        squares += std::pow(samples.at(place), 2);
-    }
-    QVERIFY2(std::abs(risings - 250) <= 2, qPrintable(QString::number(risings)));
-    const double loudness = std::sqrt(squares / static_cast<double>(samples.size()));
-    QVERIFY2(std::abs(loudness - 5792) < 400, qPrintable(QString::number(loudness)));
-    QCOMPARE(port.audioCodec(), codec);
-    QCOMPARE(port.status().damages, 0U);
-}
-
-void FfmpegDecoderTest::takesAnyCut_data()
-{
-    QTest::addColumn<int>("pieceSize");
-    QTest::newRow("bytes") << 1;
-    QTest::newRow("three") << 3;
-    QTest::newRow("odd") << 1021;
-    QTest::newRow("whole") << 10000000;
-}
-
-void FfmpegDecoderTest::takesAnyCut()
-{
-    QFETCH(int, pieceSize);
-    LiveStream first({.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
-    LiveStream second(PictureFormat{.encoder = "libx265", .width = 96, .height = 64});
-    QByteArray bytes = first.head();
-    for (int number = 0; number < 4; ++number)
-        bytes += first.pictures(1, number) + first.tone(640);
-    bytes += second.head() + second.pictures(4, 4);
-    TestPort port;
-    QVERIFY(port.push(bytes, pieceSize));
-    QTRY_COMPARE(port.receiver.pictures().size(), 8);
-    const QList<Delivered> pictures = port.receiver.pictures();
-    for (int number = 0; number < 8; ++number)
-        QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
-    QCOMPARE(pictures.at(3).information.width, 64);
-    QCOMPARE(pictures.at(4).information.width, 96);
-    QVERIFY(port.receiver.sampleCount() > 1000);
-    QCOMPARE(port.videoCodec(), QStringLiteral("H.265"));
-    QCOMPARE(port.status().damages, 0U);
-}
-
-void FfmpegDecoderTest::firstPictureWaitsForNothing_data()
-{
-    QTest::addColumn<PictureFormat>("format");
-    QTest::newRow("H.264") << PictureFormat{.encoder = "libx264"};
-    QTest::newRow("H.265") << PictureFormat{.encoder = "libx265"};
-    QTest::newRow("MJPEG") << PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
-}
-
-void FfmpegDecoderTest::firstPictureWaitsForNothing()
-{
-    QFETCH(PictureFormat, format);
-    LiveStream stream(format, SoundFormat{}); // sound that was announced and does not come holds nothing back
-    TestPort port;
-    QVERIFY(port.push(stream.head()));
-    for (int number = 0; number < 4; ++number) {
-        QVERIFY(port.push(stream.pictures(1, number)));
-        QTRY_COMPARE(port.receiver.pictures().size(), number + 1);
-    }
-}
-
-void FfmpegDecoderTest::ordersPictures()
-{
-    // Two pictures between those that they refer to, which are sent first.
-    PictureFormat format;
-    format.keyEvery = 30;
-    format.options = "tune=film:bf=2:b_strategy=0:rc-lookahead=0:x264-params=scenecut=0";
-    LiveStream stream(format);
-    LiveStream next(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
-    TestPort port;
-    QVERIFY(port.push(stream.head() + stream.pictures(12)));
-    QVERIFY(port.push(next.head() + next.pictures(1))); // what waits for others comes out at the end
-    QTRY_COMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
-    QTRY_COMPARE(port.receiver.pictures().last().information.colour, PictureColour::Bt601Full);
-    // The last one is what those that the encoder kept back would have come before.
-    const QList<Delivered> pictures = port.receiver.pictures();
-    QVERIFY(pictures.size() > 8);
-    for (int number = 0; number < pictures.size() - 2; ++number) {
-        const double off = distance(pictures.at(number), Patches::numbered(number));
-        QVERIFY2(off < nearEnough,
-                 qPrintable(QStringLiteral("picture %1 is off by %2").arg(number).arg(off)));
-    }
-}
-
-void FfmpegDecoderTest::skipsOtherTracks()
-{
-    LiveStream stream({.encoder = "mpeg4", .options = "flags=+qscale"}, SoundFormat{.encoder = "pcm_mulaw"});
-    TestPort port;
-    QVERIFY(port.push(stream.head() + stream.pictures(3) + stream.tone(8000)));
-    QTRY_COMPARE(port.receiver.sampleCount(), 8000);
-    QCOMPARE(port.receiver.pictures().size(), 0);
-    QCOMPARE(port.videoCodec(), QString());
-    QCOMPARE(port.audioCodec(), QStringLiteral("G.711Mu"));
-}
-
-void FfmpegDecoderTest::leavesOutWhatIsLate_data()
-{
-    QTest::addColumn<PictureFormat>("format"); // every fifth picture needs no earlier one
-    QTest::addColumn<bool>("isLive");
-    QTest::addColumn<int>("late");         // pictures after the first one, which is held up
-    QTest::addColumn<int>("period");       // between them
-    QTest::addColumn<QList<int>>("shown"); // with three that follow in time
-    const PictureFormat h264{.encoder = "libx264"};
-    const PictureFormat h265{.encoder = "libx265"};
-    const PictureFormat jpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
-    QTest::newRow("in time") << h264 << true << 6 << 10 << QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-    QTest::newRow("no live stream") << h264 << false << 6 << 500 << QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-    QTest::newRow("on from the newest key picture")
-        << h264 << true << 12 << 120 << QList<int>{0, 10, 12, 13, 14, 15};
-    QTest::newRow("H.265") << h265 << true << 12 << 120 << QList<int>{0, 10, 12, 13, 14, 15};
-    QTest::newRow("key pictures only") << jpeg << true << 12 << 120 << QList<int>{0, 12, 13, 14, 15};
-    QTest::newRow("somewhat late, no key picture")
-        << h264 << true << 3 << 120 << QList<int>{0, 1, 3, 4, 5, 6};
-    QTest::newRow("late, a key picture is near") << h264 << true << 3 << 450 << QList<int>{0, 5, 6};
-    QTest::newRow("late, a key picture is far") << h264 << true << 3 << 250 << QList<int>{0, 1, 3, 4, 5, 6};
-    QTest::newRow("too late") << h264 << true << 3 << 5000 << QList<int>{0, 5, 6};
-}
-
-void FfmpegDecoderTest::leavesOutWhatIsLate()
-{
-    QFETCH(PictureFormat, format);
-    QFETCH(bool, isLive);
-    QFETCH(int, late);
-    QFETCH(int, period);
-    QFETCH(QList<int>, shown);
-    LiveStream stream(format);
-    const auto clock = std::make_shared<StandingClock>();
-    std::promise<void> entered;
-    std::promise<void> leave;
-    TestPort port(usualBuffer, isLive ? clock : nullptr);
-    port.receiver.onDelivery = [&, isFirst = true]() mutable {
-        if (!std::exchange(isFirst, false))
-            return;
-        entered.set_value();
-        leave.get_future().wait();
-    };
-    QVERIFY(port.push(stream.head() + stream.picture(greyOf(0))));
-    entered.get_future().wait();
-    for (int number = 1; number <= late; ++number) {
-        clock->advance(period);
-        QVERIFY(port.push(stream.picture(greyOf(number))));
-    }
-    leave.set_value();
-    QTRY_VERIFY(port.isIdle());
-    for (int number = late + 1; number <= late + 3; ++number)
-        QVERIFY(port.push(stream.picture(greyOf(number))));
-    QTRY_VERIFY(port.isIdle());
-
-    QList<int> numbers;
-    for (const Delivered &picture : port.receiver.pictures())
-        numbers.append(qRound((static_cast<std::uint8_t>(picture.bytes.at(0)) - 20) / 10.0));
-    QCOMPARE(numbers, shown);
-    QCOMPARE(port.status().skippedPictures, static_cast<std::uint32_t>(late + 4 - shown.size()));
-    QCOMPARE(port.status().damages, 0U);
-}
-
-/// It comes when others have come before it.
-void FfmpegDecoderTest::whatWaitsForItsTurnIsNotLeftOut()
-{
-    LiveStream stream(PictureFormat{.keyEvery = 50, .options = "bf=2"});
-    const QByteArray bytes = stream.head() + stream.pictures(20);
-    const auto pushed = bytes.count("\x1F\x43\xB6\x75"); // the clusters, one for each picture
-    const auto clock = std::make_shared<StandingClock>();
-    Receiver receiver;
-    FfmpegDecoderLibrary library(clock);
-    std::int32_t port = -1;
-    QVERIFY(library.DecoderAllocPort(port) && library.DecoderSetStreamMode(port, 0));
-    QVERIFY(library.DecoderOpenStream(port, reinterpret_cast<const std::uint8_t *>(bytes.constData()),
-                                      static_cast<std::uint32_t>(bytes.size()), usualBuffer));
-    QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
-    clock->advance(200); // it is late from its first picture on
-    QVERIFY(library.DecoderPlay(port, 0));
-    DecoderStatus status{};
-    QTRY_VERIFY(library.DecoderGetStatus(port, status) && status.waitingBytes == 0 &&
-                status.skippedPictures > 0);
-    library.DecoderFreePort(port);
-    QCOMPARE_LT(status.skippedPictures + receiver.pictures().size(), pushed);
-}
 
 QTEST_GUILESS_MAIN(FfmpegDecoderTest)
 

@@ -2,7 +2,6 @@
 #include "tests/sdk/ffmpeg/testport.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <atomic>
 #include <future>
@@ -20,18 +19,6 @@ qsizetype threads()
     return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
 }
 
-double residentMegabytes()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QFile::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').value(1).toDouble() / 1024;
-    }
-    return 0;
-}
-
 const std::uint8_t *bytesOf(const QByteArray &bytes)
 {
     return reinterpret_cast<const std::uint8_t *>(bytes.constData());
@@ -44,179 +31,156 @@ class FfmpegPortsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void bufferTakesWhatFits();
-    void headerComesWithTheOpening();
-    void removedHandlerRunsNoMore();
-    void stopsInTheMiddle();
-    void lastTwoPicturesStay();
-    void hundredStartsLeaveNothing();
-};
-
-void FfmpegPortsTest::bufferTakesWhatFits()
-{
-    LiveStream stream(mjpeg);
-    const QByteArray bytes = stream.head() + stream.pictures(3);
-    const auto size = static_cast<std::uint32_t>(bytes.size());
-    FfmpegDecoderLibrary library;
-    Receiver receiver;
-    std::int32_t port = -1;
-    DecoderStatus status{};
-    QVERIFY(library.DecoderAllocPort(port));
-    QVERIFY(library.DecoderOpenStream(port, nullptr, 0, size));
-    QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
-    QVERIFY(library.DecoderInputData(port, bytesOf(bytes), size - 1));
-    QVERIFY(!library.DecoderInputData(port, bytesOf(bytes), 2));
-    QVERIFY(library.DecoderInputData(port, bytesOf(bytes) + size - 1, 1));
-    QVERIFY(!library.DecoderInputData(port, bytesOf(bytes), 1));
-    QVERIFY(library.DecoderGetStatus(port, status));
-    QCOMPARE(status.waitingBytes, size);
-
-    QVERIFY(library.DecoderPlay(port, 0)); // what was refused has left nothing behind
-    QTRY_COMPARE(receiver.pictures().size(), 3);
-    const auto waiting = [&] {
-        library.DecoderGetStatus(port, status);
-        return status.waitingBytes;
-    };
-    QTRY_COMPARE(waiting(), 0U);
-    QCOMPARE(status.damages, 0U);
-    QVERIFY(library.DecoderInputData(port, bytesOf(bytes), size));
-    QVERIFY(library.DecoderFreePort(port));
-}
-
-void FfmpegPortsTest::headerComesWithTheOpening()
-{
-    LiveStream stream(mjpeg);
-    FfmpegDecoderLibrary library;
-    Receiver receiver;
-    std::int32_t port = -1;
-    QVERIFY(library.DecoderAllocPort(port));
-    QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
-    const QByteArray head = stream.head();
-    const auto headSize = static_cast<std::uint32_t>(head.size());
-    QVERIFY(!library.DecoderOpenStream(port, bytesOf(head), headSize, headSize - 1));
-    QVERIFY(library.DecoderOpenStream(port, bytesOf(head), headSize, usualBuffer));
-    QVERIFY(library.DecoderPlay(port, 0));
-    const QByteArray picture = stream.pictures(1);
-    QVERIFY(library.DecoderInputData(port, bytesOf(picture), static_cast<std::uint32_t>(picture.size())));
-    QTRY_COMPARE(receiver.pictures().size(), 1);
-    QVERIFY(library.DecoderFreePort(port));
-}
-
-void FfmpegPortsTest::removedHandlerRunsNoMore()
-{
-    LiveStream stream(mjpeg);
-    TestPort port;
-    std::promise<void> entered;
-    std::promise<void> leave;
-    std::atomic<int> calls = 0;
-    port.receiver.onDelivery = [&] {
-        if (++calls == 1) {
-            entered.set_value();
-            leave.get_future().wait();
-        }
-    };
-    QVERIFY(port.push(stream.head() + stream.pictures(3)));
-    entered.get_future().wait();
-    std::future<bool> removal = std::async(std::launch::async, [&] {
-        return port.library.DecoderSetDecodeCallback(port.number, nullptr, nullptr);
-    });
-    QCOMPARE(removal.wait_for(50ms), std::future_status::timeout); // the handler runs
-    QCOMPARE(port.receiver.pictures().size(), 0);
-    leave.set_value();
-    QVERIFY(removal.get());
-    // One more may have begun before the removal got its turn, but none after it.
-    const int before = calls;
-    QCOMPARE(port.receiver.pictures().size(), before);
-    QVERIFY(port.push(stream.pictures(3)));
-    QTRY_VERIFY(port.isIdle());
-    QCOMPARE(calls, before);
-
-    Receiver other;
-    QVERIFY(port.library.DecoderSetDecodeCallback(port.number, &Receiver::handle, &other));
-    QVERIFY(port.push(stream.pictures(1)));
-    QTRY_COMPARE(other.pictures().size(), 1);
-    QCOMPARE(calls, before);
-    QVERIFY(port.library.DecoderStop(port.number));
-}
-
-void FfmpegPortsTest::stopsInTheMiddle()
-{
-    LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360});
-    const QByteArray bytes = stream.head() + stream.pictures(30);
-    TestPort port;
-    std::atomic<bool> mayRun = true;
-    std::atomic<bool> ranAfterStop = false;
-    port.receiver.onDelivery = [&] {
-        if (!mayRun)
-            ranAfterStop = true;
-    };
-    std::jthread pusher([&](const std::stop_token &stop) { // as a device does, through the stop and after it
-        while (!stop.stop_requested())
-            port.push(bytes, 5000);
-    });
-    QTRY_VERIFY(port.receiver.pictures().size() >= 2);
-    QVERIFY(port.library.DecoderStop(port.number));
-    mayRun = false;
-    QVERIFY(port.library.DecoderCloseStream(port.number));
-    QVERIFY(port.library.DecoderFreePort(port.number));
-    pusher.request_stop();
-    pusher.join();
-    QVERIFY(!ranAfterStop);
-}
-
-void FfmpegPortsTest::lastTwoPicturesStay()
-{
-    LiveStream small(mjpeg);
-    LiveStream large(
-        PictureFormat{.encoder = "mjpeg", .width = 128, .height = 96, .pixels = AV_PIX_FMT_YUVJ420P});
-    TestPort port;
-    std::atomic<int> gone = 0;
-    port.receiver.onDelivery = [&] {
-        const QList<Delivered> before = port.receiver.pictures();
-        for (qsizetype place = std::max<qsizetype>(0, before.size() - 2); place < before.size(); ++place) {
-            const QByteArray &copy = before.at(place).bytes;
-            if (std::memcmp(before.at(place).place, copy.constData(),
-                            static_cast<std::size_t>(copy.size())) != 0)
-                ++gone;
-        }
-    };
-    QVERIFY(port.push(small.head() + small.pictures(5) + large.head() + large.pictures(5)));
-    QTRY_COMPARE(port.receiver.pictures().size(), 10);
-    QVERIFY(port.library.DecoderStop(port.number)); // and CloseStream: they end with the port
-    QVERIFY(port.library.DecoderCloseStream(port.number));
-    port.receiver.onDelivery();
-    QCOMPARE(gone, 0);
-}
-
-void FfmpegPortsTest::hundredStartsLeaveNothing()
-{
-    LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360},
-                      SoundFormat{.encoder = "aac", .rate = 16000});
-    QByteArray bytes = stream.head() + stream.pictures(3) + stream.tone(4096);
-    bytes.chop(500); // ends in the middle of a piece
-    FfmpegDecoderLibrary library;
-    const qsizetype threadsBefore = threads();
-    [[maybe_unused]] double memory = 0;
-    for (int start = 0; start < 100; ++start) {
+    void bufferTakesWhatFits()
+    {
+        LiveStream stream(mjpeg);
+        const QByteArray bytes = stream.head() + stream.pictures(3);
+        const auto size = static_cast<std::uint32_t>(bytes.size());
+        FfmpegDecoderLibrary library;
         Receiver receiver;
         std::int32_t port = -1;
+        DecoderStatus status{};
         QVERIFY(library.DecoderAllocPort(port));
-        QCOMPARE(port, 0);
-        QVERIFY(library.DecoderOpenStream(port, nullptr, 0, usualBuffer));
+        QVERIFY(library.DecoderOpenStream(port, nullptr, 0, size));
         QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
-        QVERIFY(library.DecoderPlay(port, 0));
-        QVERIFY(library.DecoderInputData(port, bytesOf(bytes), static_cast<std::uint32_t>(bytes.size())));
-        if (start % 3 == 0) // the others stop at once
-            QTRY_VERIFY_WITH_TIMEOUT(receiver.pictures().size() >= start % 4, 5000);
+        QVERIFY(library.DecoderInputData(port, bytesOf(bytes), size - 1));
+        QVERIFY(!library.DecoderInputData(port, bytesOf(bytes), 2));
+        QVERIFY(library.DecoderInputData(port, bytesOf(bytes) + size - 1, 1));
+        QVERIFY(!library.DecoderInputData(port, bytesOf(bytes), 1));
+        QVERIFY(library.DecoderGetStatus(port, status));
+        QCOMPARE(status.waitingBytes, size);
+
+        QVERIFY(library.DecoderPlay(port, 0)); // what was refused has left nothing behind
+        QTRY_COMPARE(receiver.pictures().size(), 3);
+        const auto waiting = [&] {
+            library.DecoderGetStatus(port, status);
+            return status.waitingBytes;
+        };
+        QTRY_COMPARE(waiting(), 0U);
+        QCOMPARE(status.damages, 0U);
+        QVERIFY(library.DecoderInputData(port, bytesOf(bytes), size));
         QVERIFY(library.DecoderFreePort(port));
-        if (start == 10)
-            memory = residentMegabytes();
     }
-    QCOMPARE(threads(), threadsBefore);
+
+    void removedHandlerRunsNoMore()
+    {
+        LiveStream stream(mjpeg);
+        TestPort port;
+        std::promise<void> entered;
+        std::promise<void> leave;
+        std::atomic<int> calls = 0;
+        port.receiver.onDelivery = [&] {
+            if (++calls == 1) {
+                entered.set_value();
+                leave.get_future().wait();
+            }
+        };
+        QVERIFY(port.push(stream.head() + stream.pictures(3)));
+        entered.get_future().wait();
+        std::future<bool> removal = std::async(std::launch::async, [&] {
+            return port.library.DecoderSetDecodeCallback(port.number, nullptr, nullptr);
+        });
+        QCOMPARE(removal.wait_for(50ms), std::future_status::timeout); // the handler runs
+        QCOMPARE(port.receiver.pictures().size(), 0);
+        leave.set_value();
+        QVERIFY(removal.get());
+        // One more may have begun before the removal got its turn, but none after it.
+        const int before = calls;
+        QCOMPARE(port.receiver.pictures().size(), before);
+        QVERIFY(port.push(stream.pictures(3)));
+        QTRY_VERIFY(port.isIdle());
+        QCOMPARE(calls, before);
+
+        Receiver other;
+        QVERIFY(port.library.DecoderSetDecodeCallback(port.number, &Receiver::handle, &other));
+        QVERIFY(port.push(stream.pictures(1)));
+        QTRY_COMPARE(other.pictures().size(), 1);
+        QCOMPARE(calls, before);
+        QVERIFY(port.library.DecoderStop(port.number));
+    }
+
+    void stopsInTheMiddle()
+    {
+        LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360});
+        const QByteArray bytes = stream.head() + stream.pictures(30);
+        TestPort port;
+        std::atomic<bool> mayRun = true;
+        std::atomic<bool> ranAfterStop = false;
+        port.receiver.onDelivery = [&] {
+            if (!mayRun)
+                ranAfterStop = true;
+        };
+        std::jthread pusher(
+            [&](const std::stop_token &stop) { // as a device does, through the stop and after it
+                while (!stop.stop_requested())
+                    port.push(bytes, 5000);
+            });
+        QTRY_VERIFY(port.receiver.pictures().size() >= 2);
+        QVERIFY(port.library.DecoderStop(port.number));
+        mayRun = false;
+        QVERIFY(port.library.DecoderCloseStream(port.number));
+        QVERIFY(port.library.DecoderFreePort(port.number));
+        pusher.request_stop();
+        pusher.join();
+        QVERIFY(!ranAfterStop);
+    }
+
+    void lastTwoPicturesStay()
+    {
+        LiveStream small(mjpeg);
+        LiveStream large(
+            PictureFormat{.encoder = "mjpeg", .width = 128, .height = 96, .pixels = AV_PIX_FMT_YUVJ420P});
+        TestPort port;
+        std::atomic<int> gone = 0;
+        port.receiver.onDelivery = [&] {
+            const QList<Delivered> before = port.receiver.pictures();
+            for (qsizetype place = std::max<qsizetype>(0, before.size() - 2); place < before.size();
+                 ++place) {
+                const QByteArray &copy = before.at(place).bytes;
+                if (std::memcmp(before.at(place).place, copy.constData(),
+                                static_cast<std::size_t>(copy.size())) != 0)
+                    ++gone;
+            }
+        };
+        QVERIFY(port.push(small.head() + small.pictures(5) + large.head() + large.pictures(5)));
+        QTRY_COMPARE(port.receiver.pictures().size(), 10);
+        QVERIFY(port.library.DecoderStop(port.number)); // and CloseStream: they end with the port
+        QVERIFY(port.library.DecoderCloseStream(port.number));
+        port.receiver.onDelivery();
+        QCOMPARE(gone, 0);
+    }
+
+    void hundredStartsLeaveNothing()
+    {
+        LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360},
+                          SoundFormat{.encoder = "aac", .rate = 16000});
+        QByteArray bytes = stream.head() + stream.pictures(3) + stream.tone(4096);
+        bytes.chop(500); // ends in the middle of a piece
+        FfmpegDecoderLibrary library;
+        const qsizetype threadsBefore = threads();
+        [[maybe_unused]] double memory = 0;
+        for (int start = 0; start < 100; ++start) {
+            Receiver receiver;
+            std::int32_t port = -1;
+            QVERIFY(library.DecoderAllocPort(port));
+            QCOMPARE(port, 0);
+            QVERIFY(library.DecoderOpenStream(port, nullptr, 0, usualBuffer));
+            QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
+            QVERIFY(library.DecoderPlay(port, 0));
+            QVERIFY(library.DecoderInputData(port, bytesOf(bytes), static_cast<std::uint32_t>(bytes.size())));
+            if (start % 3 == 0) // the others stop at once
+                QTRY_VERIFY_WITH_TIMEOUT(receiver.pictures().size() >= start % 4, 5000);
+            QVERIFY(library.DecoderFreePort(port));
+            if (start == 10)
+                memory = processMegabytes("VmRSS:");
+        }
+        QCOMPARE(threads(), threadsBefore);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // they keep what was freed
-    QVERIFY2(residentMegabytes() - memory < 8, qPrintable(QString::number(residentMegabytes() - memory)));
+        QVERIFY2(processMegabytes("VmRSS:") - memory < 8,
+                 qPrintable(QString::number(processMegabytes("VmRSS:") - memory)));
 #endif
-}
+    }
+};
 
 QTEST_GUILESS_MAIN(FfmpegPortsTest)
 

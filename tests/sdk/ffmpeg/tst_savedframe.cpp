@@ -1,13 +1,13 @@
 // Pictures as files.
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace sdk;
 using namespace sdk::ffmpeg;
@@ -47,12 +47,6 @@ bool isNear(QRgb value, QRgb wanted, int tolerance = 10)
            std::abs(qBlue(value) - qBlue(wanted)) < tolerance;
 }
 
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class SavedFrameTest : public QObject
@@ -60,118 +54,97 @@ class SavedFrameTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheColours_data();
-    void showsTheColours();
-    void qualityCounts();
-    void refusesWhatIsNoPicture();
-    void replacesWholeOrNotAtAll();
+    void showsTheColours_data()
+    {
+        // red: as Y, U and V
+        // greys: as Y: what is shown as 14, 64 and 237
+        const auto row = dataTable<int, int, PictureColour, QList<int>, QList<int>>(
+            {"width", "height", "colour", "red", "greys"});
+        const QList<int> limited = {28, 71, 220};
+        const QList<int> full = {14, 64, 237};
+        const QList<int> red601 = {82, 90, 240};
+        const QList<int> red709 = {63, 102, 240};
+        row("small", 64, 36, PictureColour::Bt601Limited, red601, limited);
+        row("odd", 67, 33, PictureColour::Bt601Limited, red601, limited);
+        row("one pixel", 1, 1, PictureColour::Bt601Limited, red601, limited);
+        row("small, BT.709", 64, 36, PictureColour::Bt709Limited, red709, limited);
+        row("1080 lines", 1920, 1080, PictureColour::Bt709Limited, red709, limited);
+        row("1080 lines, BT.601", 1920, 1080, PictureColour::Bt601Limited, red601, limited);
+        row("full", 64, 36, PictureColour::Bt601Full, QList<int>{76, 85, 255}, full);
+        row("1080 lines, full", 1920, 1080, PictureColour::Bt709Full, QList<int>{54, 99, 255}, full);
+    }
+
+    void showsTheColours()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(PictureColour, colour);
+        QFETCH(QList<int>, red);
+        QFETCH(QList<int>, greys);
+        constexpr std::array shown = {14, 64, 237};
+        for (std::size_t place = 0; place < shown.size(); ++place) {
+            const int grey = greys.at(static_cast<qsizetype>(place));
+            const QByteArray picture = twoColours(width, height, {red[0], red[1], red[2]}, {grey, 128, 128});
+            const QString path = m_folder.filePath(QStringLiteral("图 1.jpg"));
+            QVERIFY(save(picture, width, height, path, 50, colour));
+            const QImage image(path, "JPG");
+            QCOMPARE(image.size(), QSize(width, height));
+            QVERIFY(isNear(image.pixel(width / 4, height / 2), qRgb(254, 0, 0)));
+            const int level = shown.at(place);
+            if (width > 1)
+                QVERIFY(isNear(image.pixel(width - 1 - width / 4, height - 1), qRgb(level, level, level), 4));
+        }
+    }
+
+    void refusesWhatIsNoPicture()
+    {
+        FfmpegDecoderLibrary library;
+        const QByteArray picture(200, '\0');
+        const auto *bytes = reinterpret_cast<const std::uint8_t *>(picture.constData());
+        const QByteArray name = QFile::encodeName(m_folder.filePath(QStringLiteral("refused.jpg")));
+        const auto isSaved = [&](const std::uint8_t *data, int width, int height, int quality = 50,
+                                 SavedPictureType type = SavedPictureType::Jpeg) {
+            return library.DecoderSaveFrame(data, width, height, type, quality, name.constData(), {});
+        };
+        QVERIFY(!isSaved(nullptr, 8, 8));
+        QVERIFY(!isSaved(bytes, 0, 8));
+        QVERIFY(!isSaved(bytes, 8, -1)); // as before the first picture
+        QVERIFY(!isSaved(bytes, 2000000000, 2000000000));
+        QVERIFY(!isSaved(bytes, 8, 8, 50, static_cast<SavedPictureType>(2)));
+        QVERIFY(!isSaved(bytes, 8, 8, 0));
+        QVERIFY(!isSaved(bytes, 8, 8, 101));
+        QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, SavedPictureType::Jpeg, 50, nullptr, {}));
+        QVERIFY(!QFile::exists(QFile::decodeName(name)));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
+        QVERIFY(!save(picture, 8, 8, m_folder.filePath(QStringLiteral("no folder/a.jpg"))));
+    }
+
+    void replacesWholeOrNotAtAll()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("0.jpg"));
+        const QByteArray first = twoColours(64, 36, {60, 100, 200}, {200, 140, 90});
+        const QByteArray second = twoColours(640, 360, {90, 200, 100}, {30, 90, 200});
+        QVERIFY(save(first, 64, 36, path));
+        QVERIFY(save(second, 640, 360, path));
+        const QByteArray written = fileContents(path);
+        QCOMPARE(QImage::fromData(written).size(), QSize(640, 360));
+
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
+        bool saved = true;
+        {
+            const FileSizeLimit limit(100);
+            saved = save(first, 64, 36, path);
+        }
+        QVERIFY(!saved);
+        QCOMPARE(fileContents(path), written);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{QStringLiteral("0.jpg")});
+    }
 
 private:
     QTemporaryDir m_folder;
 };
-
-void SavedFrameTest::showsTheColours_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<PictureColour>("colour");
-    QTest::addColumn<QList<int>>("red");   // as Y, U and V
-    QTest::addColumn<QList<int>>("greys"); // as Y: what is shown as 14, 64 and 237
-    const QList<int> limited = {28, 71, 220};
-    const QList<int> full = {14, 64, 237};
-    const QList<int> red601 = {82, 90, 240};
-    const QList<int> red709 = {63, 102, 240};
-    QTest::newRow("small") << 64 << 36 << PictureColour::Bt601Limited << red601 << limited;
-    QTest::newRow("odd") << 67 << 33 << PictureColour::Bt601Limited << red601 << limited;
-    QTest::newRow("one pixel") << 1 << 1 << PictureColour::Bt601Limited << red601 << limited;
-    QTest::newRow("small, BT.709") << 64 << 36 << PictureColour::Bt709Limited << red709 << limited;
-    QTest::newRow("1080 lines") << 1920 << 1080 << PictureColour::Bt709Limited << red709 << limited;
-    QTest::newRow("1080 lines, BT.601") << 1920 << 1080 << PictureColour::Bt601Limited << red601 << limited;
-    QTest::newRow("full") << 64 << 36 << PictureColour::Bt601Full << QList<int>{76, 85, 255} << full;
-    QTest::newRow("1080 lines, full")
-        << 1920 << 1080 << PictureColour::Bt709Full << QList<int>{54, 99, 255} << full;
-}
-
-void SavedFrameTest::showsTheColours()
-{
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(PictureColour, colour);
-    QFETCH(QList<int>, red);
-    QFETCH(QList<int>, greys);
-    constexpr std::array shown = {14, 64, 237};
-    for (std::size_t place = 0; place < shown.size(); ++place) {
-        const int grey = greys.at(static_cast<qsizetype>(place));
-        const QByteArray picture = twoColours(width, height, {red[0], red[1], red[2]}, {grey, 128, 128});
-        const QString path = m_folder.filePath(QStringLiteral("图 1.jpg"));
-        QVERIFY(save(picture, width, height, path, 50, colour));
-        const QImage image(path, "JPG");
-        QCOMPARE(image.size(), QSize(width, height));
-        QVERIFY(isNear(image.pixel(width / 4, height / 2), qRgb(254, 0, 0)));
-        const int level = shown.at(place);
-        if (width > 1)
-            QVERIFY(isNear(image.pixel(width - 1 - width / 4, height - 1), qRgb(level, level, level), 4));
-    }
-}
-
-void SavedFrameTest::qualityCounts()
-{
-    QByteArray picture = twoColours(320, 240, {60, 100, 200}, {200, 140, 90});
-    for (qsizetype place = 0; place < 320 * 240; ++place) // something to lose
-        picture[place] = static_cast<char>(16 + place * place % 219);
-    const auto sizeAt = [&](int quality) {
-        const QString path = m_folder.filePath(QStringLiteral("quality.jpg"));
-        return save(picture, 320, 240, path, quality) ? contents(path).size() : -1;
-    };
-    QVERIFY(sizeAt(1) > 0);
-    QVERIFY(sizeAt(1) < sizeAt(50));
-    QVERIFY(sizeAt(50) < sizeAt(100));
-}
-
-void SavedFrameTest::refusesWhatIsNoPicture()
-{
-    FfmpegDecoderLibrary library;
-    const QByteArray picture(200, '\0');
-    const auto *bytes = reinterpret_cast<const std::uint8_t *>(picture.constData());
-    const QByteArray name = QFile::encodeName(m_folder.filePath(QStringLiteral("refused.jpg")));
-    const auto isSaved = [&](const std::uint8_t *data, int width, int height, int quality = 50,
-                             SavedPictureType type = SavedPictureType::Jpeg) {
-        return library.DecoderSaveFrame(data, width, height, type, quality, name.constData(), {});
-    };
-    QVERIFY(!isSaved(nullptr, 8, 8));
-    QVERIFY(!isSaved(bytes, 0, 8));
-    QVERIFY(!isSaved(bytes, 8, -1)); // as before the first picture
-    QVERIFY(!isSaved(bytes, 2000000000, 2000000000));
-    QVERIFY(!isSaved(bytes, 8, 8, 50, static_cast<SavedPictureType>(2)));
-    QVERIFY(!isSaved(bytes, 8, 8, 0));
-    QVERIFY(!isSaved(bytes, 8, 8, 101));
-    QVERIFY(!library.DecoderSaveFrame(bytes, 8, 8, SavedPictureType::Jpeg, 50, nullptr, {}));
-    QVERIFY(!QFile::exists(QFile::decodeName(name)));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
-    QVERIFY(!save(picture, 8, 8, m_folder.filePath(QStringLiteral("no folder/a.jpg"))));
-}
-
-void SavedFrameTest::replacesWholeOrNotAtAll()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("0.jpg"));
-    const QByteArray first = twoColours(64, 36, {60, 100, 200}, {200, 140, 90});
-    const QByteArray second = twoColours(640, 360, {90, 200, 100}, {30, 90, 200});
-    QVERIFY(save(first, 64, 36, path));
-    QVERIFY(save(second, 640, 360, path));
-    const QByteArray written = contents(path);
-    QCOMPARE(QImage::fromData(written).size(), QSize(640, 360));
-
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot write the picture")));
-    bool saved = true;
-    {
-        const FileSizeLimit limit(100);
-        saved = save(first, 64, 36, path);
-    }
-    QVERIFY(!saved);
-    QCOMPARE(contents(path), written);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("0.jpg")});
-}
 
 QTEST_GUILESS_MAIN(SavedFrameTest)
 

@@ -1,0 +1,81 @@
+// What the tests of the factory on a simulated site keep.
+#pragma once
+
+#include "device/devicefactory.h"
+#include "device/devicestore.h"
+#include "device/dh/devicedh.h"
+#include "sdk/demo/demosite.h"
+#include "tests/device/dh/flowingclock.h"
+#include "tests/device/dh/scenedevices.h"
+#include "tests/values.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+/// A base of test classes. Time passes on the site whenever somebody waits for it.
+class FactorySite
+{
+protected:
+    void openSite(const QList<sdk::demo::SceneDevice> &devices)
+    {
+        sdk::demo::Scene scene;
+        scene.devices = devices;
+        closeSite();
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        m_site = sdk::demo::DemoSite::create(scene, m_clock);
+        makeFactory();
+    }
+    void openSite(const QString &sceneName)
+    {
+        closeSite();
+        m_clock = std::make_shared<sdk::demo::SteppableClock>();
+        m_site = sdk::demo::DemoSite::open(sceneName, m_clock, nullptr);
+        makeFactory();
+    }
+    /// The factory ends while time passes, so that nobody waits any more.
+    void closeSite()
+    {
+        m_factory.reset();
+        m_time.reset();
+    }
+
+    void search() const
+    {
+        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
+        m_factory->startSearch("dh");
+        QVERIFY(done.wait(20000));
+    }
+
+    /// The row of a device as the pages see it.
+    [[nodiscard]] QJsonObject row(const QString &mac) const
+    {
+        for (const QVariant &value : m_factory->filterData("dh", "nofilter")) {
+            if (value.toJsonObject().value("mac").toString() == mac)
+                return value.toJsonObject();
+        }
+        return {};
+    }
+    [[nodiscard]] qsizetype asked(const char *operation) const
+    {
+        return m_site->requests().of(operation).size();
+    }
+
+    std::shared_ptr<sdk::demo::SteppableClock> m_clock;
+    std::shared_ptr<sdk::demo::DemoSite> m_site;
+    std::shared_ptr<DeviceStore> m_store;
+    std::unique_ptr<CDeviceFactory> m_factory;
+    std::unique_ptr<FlowingClock> m_time;
+
+private:
+    void makeFactory()
+    {
+        m_store = std::make_shared<DeviceStore>(m_clock);
+        const auto backEnd = [this] {
+            return std::make_shared<CDeviceDH>(m_store, m_site->libraries(), [] { return SearchSettings(); });
+        };
+        m_factory = std::make_unique<CDeviceFactory>(
+            CDeviceFactory::BackEndCreators{{"dh", backEnd}},
+            CDeviceFactory::P2PAgent{m_site->libraries().p2pAgent, &CDeviceDH::agentMessage});
+        m_time = std::make_unique<FlowingClock>(*m_clock);
+    }
+};

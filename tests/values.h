@@ -1,0 +1,23 @@
+// Several values of an object in one comparison.
+#pragma once
+
+#include <QJsonObject>
+#include <QStringList>
+#include <QVariantMap>
+
+/// The texts of the values of `keys`, which stand between blanks. Bars part them, commas part entries of a
+/// list.
+inline QString valuesOf(const QVariantMap &object, const QString &keys)
+{
+    QStringList texts;
+    for (const QString &key : keys.split(' ')) {
+        const QStringList list = object.value(key).toStringList();
+        texts.append(list.isEmpty() ? object.value(key).toString() : list.join(','));
+    }
+    return texts.join('|');
+}
+
+inline QString valuesOf(const QJsonObject &object, const QString &keys)
+{
+    return valuesOf(object.toVariantMap(), keys);
+}
