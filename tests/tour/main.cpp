@@ -142,9 +142,10 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkLanguageChange(driver, otherLanguage(language));
 }
 
-void driveFleet(Driver &driver, sdk::demo::DemoSite &site)
+void driveFleet(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
     walkFleet(driver, site);
+    walkBatches(driver, site, folder);
     driver.check(warnings == 0, u"no warning was given"_s);
     driver.click(u"closeButton"_s);
 }
@@ -182,7 +183,7 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
     QTimer::singleShot(0, window, [&] {
         auto &site = dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site();
         if (isFleet)
-            driveFleet(driver, site);
+            driveFleet(driver, site, folder);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else

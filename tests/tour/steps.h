@@ -38,6 +38,9 @@ void walkCommands(Driver &driver, const QString &folder);
 void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// Batches over the devices of a fleet, which are left alone, searched for and closed meanwhile.
 void walkFleet(Driver &driver, sdk::demo::DemoSite &site);
+/// On the page that walkFleet() leaves: a batch is stopped and its rest retried, its results are saved into
+/// `folder`, and changed addresses are put back.
+void walkBatches(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

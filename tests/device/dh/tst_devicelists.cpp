@@ -374,8 +374,7 @@ private Q_SLOTS:
         row("unescaped", "a.xml", named("a&b"), unparsed + ".* in line 3");
         row("reference to no character", "a.xml", named("&#xFFFE;"), unparsed);
         row("XML not in UTF-8", "a.xml", named("\xB6\xAB"), unparsed);
-        row("unknown encoding", "a.xml",
-            QByteArray("<?xml version='1.0' encoding='x-none'?><deviceList/>"),
+        row("unknown encoding", "a.xml", QByteArray("<?xml version='1.0' encoding='x-none'?><deviceList/>"),
             unparsed + " unknown encoding x-none$");
         row("element in a text", "a.xml", named("<b>x</b>"), unparsed);
         row("document type", "a.xml",

@@ -20,19 +20,14 @@
 
 namespace {
 
-const char *const scene = "import QtQuick\n"
-                          "import QtQuick.Templates as T\n"
-                          "import configtools\n"
-                          "T.ApplicationWindow {\n"
-                          "    width: 1280; height: 720; visible: true\n"
+const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    OVFootBar {\n"
                           "        objectName: 'foot'; width: 1248; text: 'Ticked'; batches: works\n"
                           "        onTickRequested: identities => {\n"
                           "            deviceTable.setCheckedDevices(identities);\n"
                           "            deviceTree.setCheckedDevices(identities);\n"
                           "        }\n"
-                          "    }\n"
-                          "}\n";
+                          "    }\n";
 
 constexpr int wrongPassword = 2;
 constexpr int networkFailure = 5;
