@@ -127,9 +127,11 @@ private Q_SLOTS:
         const QSignalSpy refused(m_batches.get(), &Batches::refused);
         QCOMPARE(setStandard(ipportsOf(m_devices)), nullptr);
         QVERIFY(refused.first().first().toString().contains("Passwords"));
+        const QSignalSpy resulted(batch, &Batch::resulted);
         batch->stop();
         m_site->net->passwordGate->release(4);
         QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(resulted.last().first().toStringList(), ipportsOf(m_devices).mid(2));
         QCOMPARE(batch->report()->succeeded(), 2);
         QCOMPARE(batch->report()->devicesWith(notDone), ipportsOf(m_devices).mid(2));
         QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
