@@ -270,8 +270,8 @@ private Q_SLOTS:
         const QByteArray bytes = filling.repeated(sizeof(sdk::SearchAnswer) / filling.size() + 1);
         sdk::SearchAnswer answer;
         std::memcpy(&answer, bytes.constData(), sizeof(answer));
-        m_store->putRecord(answer);
-        const std::optional<sdk::SearchAnswer> record = m_store->record(macText(answer));
+        m_store->putRecord("device", answer);
+        const std::optional<sdk::SearchAnswer> record = m_store->record("device");
         QVERIFY(record);
         QCOMPARE(std::memcmp(&*record, &answer, sizeof(answer)), 0);
     }

@@ -6,6 +6,7 @@
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
 
+#include <QStringList>
 #include <QTextStream>
 
 namespace {
