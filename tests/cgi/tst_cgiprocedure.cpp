@@ -165,7 +165,10 @@ private Q_SLOTS:
         const auto repeating = [ok](const QByteArray &head, const QByteArray &piece, int pause) {
             return [=](const RawExchange &exchange) {
                 exchange.send(ok + head);
-                while (exchange.send(piece) && (pause == 0 || exchange.pause(pause))) {
+                // Not more than it has said: the rest would begin the next answer of the connection.
+                for (int sent = 0; sent < 1600; ++sent) {
+                    if (!exchange.send(piece) || (pause > 0 && !exchange.pause(pause)))
+                        break;
                 }
             };
         };

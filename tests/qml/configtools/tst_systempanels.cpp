@@ -13,8 +13,8 @@ const char *const scene =
     "        available: true; held: false; upgradingCount: 0; timeZone: 'UTC+08:00'\n"
     "        passwordTime: SystemPasswordTime { deviceFactory: factory; changing: false }\n"
     "        deviceFactory: factory\n"
-    "        onActionRequested: (command, title, dataOf) =>\n"
-    "            factory.systemConfig('dh', command, dataOf(), ['192.168.1.1:37777'])\n"
+    "        onActionRequested: (command, title, data) =>\n"
+    "            factory.systemConfig('dh', command, data, ['192.168.1.1:37777'])\n"
     "    }\n";
 
 /// "field=value" of a request's configuration text, in alphabetical order.
