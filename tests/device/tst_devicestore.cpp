@@ -253,15 +253,16 @@ private Q_SLOTS:
 
     void aRecordIsGivenBackByteForByte_data()
     {
-        QTest::addColumn<QByteArray>("filling"); // of the answer, again and again
-        QTest::newRow("no zeros") << QByteArray(1, 'x');
-        QTest::newRow("zeros only") << QByteArray(1, '\0');
+        // filling: of the answer, again and again
+        const auto row = dataTable<QByteArray>({"filling"});
+        row("no zeros", QByteArray(1, 'x'));
+        row("zeros only", QByteArray(1, '\0'));
         QByteArray runs;
         for (int zeros = 0; zeros < 12; ++zeros)
             runs += 'x' + QByteArray(zeros, '\0');
-        QTest::newRow("zeros between, and at the end") << runs;
-        QTest::newRow("a byte in front") << QByteArray(sizeof(sdk::SearchAnswer), '\0').replace(0, 1, "x");
-        QTest::newRow("a byte at the end") << QByteArray(sizeof(sdk::SearchAnswer) - 1, '\0') + 'x';
+        row("zeros between, and at the end", runs);
+        row("a byte in front", QByteArray(sizeof(sdk::SearchAnswer), '\0').replace(0, 1, "x"));
+        row("a byte at the end", QByteArray(sizeof(sdk::SearchAnswer) - 1, '\0') + 'x');
     }
 
     void aRecordIsGivenBackByteForByte()

@@ -1,8 +1,6 @@
 #include "device/systemtools.h"
 #include "tests/datatable.h"
 
-#include <QDateTime>
-
 class TestSystemTools : public QObject
 {
     Q_OBJECT
@@ -44,12 +42,6 @@ private Q_SLOTS:
         QFETCH(QString, password);
         QFETCH(QString, confirmation);
         QTEST(int(m_tools.newPasswordFault(password, confirmation)), "fault");
-    }
-
-    void timeIsThatOfThisComputer()
-    {
-        const QDateTime time = QDateTime::fromString(m_tools.timeOfThisComputer(), "yyyy-MM-dd HH:mm:ss");
-        QVERIFY(qAbs(time.secsTo(QDateTime::currentDateTime())) < 5);
     }
 };
 

@@ -81,24 +81,6 @@ private Q_SLOTS:
         QCOMPARE(fake.calls.take(), QStringList());
     }
 
-    void doesNothingWithoutALibrary()
-    {
-        RecordingObserver observer;
-        CDHDecoder decoder(&observer, nullptr, std::make_shared<sdk::SystemClock>());
-        QVERIFY(!decoder.Start());
-        QVERIFY(!decoder.inputData(bytesOf("x"), 1));
-        QVERIFY(decoder.Stop());
-        QCOMPARE(decoder.figures().videoCodec, QString());
-    }
-
-    void aDecoderThatGoesClosesItsPort()
-    {
-        FakeLibraries fake;
-        RecordingObserver observer;
-        std::make_unique<CDHDecoder>(&observer, fake.decoder, fake.clock)->Start();
-        QCOMPARE(fake.calls.take(), played + stopped);
-    }
-
     void passesDataAndPictures()
     {
         FakeLibraries fake;

@@ -295,21 +295,6 @@ private Q_SLOTS:
                  (QStringList{"started", "none yet", "saved", "DecoderSaveFrame(50, 6x4, 3, 50, x.jpg, 3)"}));
         QCOMPARE(m_fake->calls.take(), streamStopped + decoderStopped);
     }
-
-    void zoomsAndDragsInItsOwnSize()
-    {
-        m_item->setSize({640, 360});
-        m_item->changeScale(2, {640, 0}); // towards the upper right corner
-        QCOMPARE(m_item->zoomLevel(), 2);
-        const double half = 0.5 / 1.44;
-        QVERIFY(std::abs(m_item->geometry().centre().x() - (1 - half)) < 1e-5);
-        m_item->drag(64, -36);
-        QVERIFY(std::abs(m_item->geometry().centre().x() - (1 - half - 0.1 / 1.44)) < 1e-5);
-        m_item->setWidth(800); // zoom and part stay
-        QCOMPARE(m_item->zoomLevel(), 2);
-        m_item->changeScale(-100, {0, 0});
-        QCOMPARE(m_item->geometry().centre(), QPointF(0.5, 0.5));
-    }
 };
 
 QTEST_MAIN(TestVideoItem)

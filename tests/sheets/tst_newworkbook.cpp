@@ -97,20 +97,6 @@ private Q_SLOTS:
         QVERIFY(parts["xl/worksheets/sheet1.xml"].contains("ht=\"160.25\" customHeight=\"1\""));
     }
 
-    void savesAgainAfterMoreChanges()
-    {
-        QExcel excel(fileEngine());
-        QVERIFY(excel.createWorkbook());
-        QVERIFY(!excel.save()); // there is no path yet
-        QVERIFY(excel.setCellText(1, 1, "one"));
-        QVERIFY(excel.saveAs(m_path));
-        QVERIFY(excel.setCellText(1, 1, "two"));
-        QVERIFY(excel.save());
-        QExcel reader(fileEngine());
-        QVERIFY(reader.open(m_path));
-        QCOMPARE(reader.cellText(1, 1), "two");
-    }
-
     void refusesWhatNoSheetHas()
     {
         QExcel excel(fileEngine());

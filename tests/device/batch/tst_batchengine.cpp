@@ -1,8 +1,8 @@
 #include "device/batch/batchengine.h"
 #include "sdk/demo/steppableclock.h"
+#include "tests/datatable.h"
 
 #include <QSemaphore>
-#include <QTest>
 
 #include <algorithm>
 #include <atomic>
@@ -114,11 +114,10 @@ private Q_SLOTS:
 
     void worksOnAFewAtATime_data()
     {
-        QTest::addColumn<int>("atOnce");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("one") << 1 << 1;
-        QTest::newRow("three") << 3 << 3;
-        QTest::newRow("more than there are") << 20 << 6;
+        const auto row = dataTable<int, int>({"atOnce", "expected"});
+        row("one", 1, 1);
+        row("three", 3, 3);
+        row("more than there are", 20, 6);
     }
 
     void worksOnAFewAtATime()
@@ -155,11 +154,10 @@ private Q_SLOTS:
 
     void aRefusedAccountIsNotTriedAgain_data()
     {
-        QTest::addColumn<int>("result");
-        QTest::addColumn<int>("expectedRuns");
-        QTest::newRow("wrong password") << wrongPassword << 1;
-        QTest::newRow("locked") << resultCode(LoginResult::AccountLocked) << 1;
-        QTest::newRow("no answer") << resultCode(LoginResult::NetworkFailure) << 3;
+        const auto row = dataTable<int, int>({"result", "expectedRuns"});
+        row("wrong password", wrongPassword, 1);
+        row("locked", resultCode(LoginResult::AccountLocked), 1);
+        row("no answer", resultCode(LoginResult::NetworkFailure), 3);
     }
 
     void aRefusedAccountIsNotTriedAgain()

@@ -1,9 +1,7 @@
 #include "device/batch/addressorder.h"
 #include "device/batch/batches.h"
+#include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
-
-#include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -172,22 +170,16 @@ private Q_SLOTS:
 
     void addressesAreOrdered_data()
     {
-        QTest::addColumn<QStringList>("before");
-        QTest::addColumn<QStringList>("after");
-        QTest::addColumn<QList<qsizetype>>("order");
-        QTest::addColumn<QList<qsizetype>>("circle");
+        const auto row = dataTable<QStringList, QStringList, QList<qsizetype>, QList<qsizetype>>(
+            {"before", "after", "order", "circle"});
         using Places = QList<qsizetype>;
-        QTest::newRow("nothing shared")
-            << QStringList{"a", "b"} << QStringList{"x", "y"} << Places{0, 1} << Places{};
-        QTest::newRow("upwards") << QStringList{"a", "b", "c"} << QStringList{"b", "c", "d"}
-                                 << Places{2, 1, 0} << Places{};
-        QTest::newRow("keeps its own")
-            << QStringList{"a", "b"} << QStringList{"a", "c"} << Places{0, 1} << Places{};
-        QTest::newRow("dhcp") << QStringList{"a", "b"} << QStringList{"", ""} << Places{0, 1} << Places{};
-        QTest::newRow("two of one address")
-            << QStringList{"a", "b", "b"} << QStringList{"b", "c", "d"} << Places{1, 2, 0} << Places{};
-        QTest::newRow("circle") << QStringList{"a", "b", "c"} << QStringList{"b", "a", "z"} << Places{2}
-                                << Places{0, 1};
+        row("nothing shared", QStringList{"a", "b"}, QStringList{"x", "y"}, Places{0, 1}, Places{});
+        row("upwards", QStringList{"a", "b", "c"}, QStringList{"b", "c", "d"}, Places{2, 1, 0}, Places{});
+        row("keeps its own", QStringList{"a", "b"}, QStringList{"a", "c"}, Places{0, 1}, Places{});
+        row("dhcp", QStringList{"a", "b"}, QStringList{"", ""}, Places{0, 1}, Places{});
+        row("two of one address", QStringList{"a", "b", "b"}, QStringList{"b", "c", "d"}, Places{1, 2, 0},
+            Places{});
+        row("circle", QStringList{"a", "b", "c"}, QStringList{"b", "a", "z"}, Places{2}, Places{0, 1});
     }
 
     void addressesAreOrdered()

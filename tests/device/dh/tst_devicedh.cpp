@@ -1,22 +1,12 @@
-#include "device/devicefactory.h"
 #include "device/devicerefresh.h"
-#include "device/devicestore.h"
 #include "device/devicetablemodel.h"
 #include "device/dh/rowlogin.h"
-#include "sdk/demo/demosite.h"
-#include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
-#include "tests/device/dh/flowingclock.h"
-#include "tests/device/dh/scenedevices.h"
 #include "tests/device/searchanswers.h"
 #include "tests/media/quietnetlibrary.h"
 
 #include <QJsonArray>
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace std::chrono_literals;
 
 namespace {
 

@@ -6,17 +6,16 @@
 #include "device/devicetablemodel.h"
 #include "device/treemodel.h"
 #include "sheets/qexcel.h"
+#include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
+#include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 #include "tests/qml/configtools/qmlscene.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJSValue>
 #include <QSemaphore>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -173,12 +172,9 @@ private Q_SLOTS:
 
     void aHeldBatchAsks_data()
     {
-        QTest::addColumn<QByteArray>("button");
-        QTest::addColumn<QString>("outcome");
-        QTest::newRow("go on") << QByteArray("continueButton")
-                               << QStringLiteral("Work：1 台设备成功，2 台设备失败");
-        QTest::newRow("stop") << QByteArray("stopButton")
-                              << QStringLiteral("Work：2 台设备失败，1 台设备未执行");
+        const auto row = dataTable<QByteArray, QString>({"button", "outcome"});
+        row("go on", QByteArray("continueButton"), QStringLiteral("Work：1 台设备成功，2 台设备失败"));
+        row("stop", QByteArray("stopButton"), QStringLiteral("Work：2 台设备失败，1 台设备未执行"));
     }
     void aHeldBatchAsks()
     {
@@ -195,16 +191,13 @@ private Q_SLOTS:
 
     void theEndOffersWhatHelps_data()
     {
-        QTest::addColumn<Results>("results");
-        QTest::addColumn<QStringList>("offered");
+        const auto row = dataTable<Results, QStringList>({"results", "offered"});
         const QStringList always = {"saveResultsButton", "batchPanelButton"};
-        QTest::newRow("all well") << Results{0, 0, 0} << always;
-        QTest::newRow("password") << Results{0, wrongPassword, 0}
-                                  << QStringList("selectFailedButton") + always;
-        QTest::newRow("network") << Results{0, networkFailure, 0}
-                                 << QStringList{"retryFailedButton", "selectFailedButton"} + always;
-        QTest::newRow("next step to come")
-            << Results{-1, networkFailure, 0} << QStringList("selectFailedButton") + always;
+        row("all well", Results{0, 0, 0}, always);
+        row("password", Results{0, wrongPassword, 0}, QStringList("selectFailedButton") + always);
+        row("network", Results{0, networkFailure, 0},
+            QStringList{"retryFailedButton", "selectFailedButton"} + always);
+        row("next step to come", Results{-1, networkFailure, 0}, QStringList("selectFailedButton") + always);
     }
     void theEndOffersWhatHelps()
     {
@@ -236,9 +229,9 @@ private Q_SLOTS:
 
     void resultsAreSaved_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::newRow("workbook") << "results.xlsx";
-        QTest::newRow("text") << "results.csv";
+        const auto row = dataTable<QString>({"file"});
+        row("workbook", "results.xlsx");
+        row("text", "results.csv");
     }
     void resultsAreSaved()
     {
@@ -253,9 +246,7 @@ private Q_SLOTS:
         const QStringList line = {"10.0.0.2:37777",           "m2", "=门,\"2\"", "Work",
                                   resultName(networkFailure), time};
         if (file.endsWith(".csv")) {
-            QFile saved(m_file.path);
-            QVERIFY(saved.open(QIODevice::ReadOnly));
-            const QStringList lines = QString::fromUtf8(saved.readAll()).split("\r\n");
+            const QStringList lines = QString::fromUtf8(fileContents(m_file.path)).split("\r\n");
             QCOMPARE(lines.size(), 5);
             QCOMPARE(lines.at(0), "\"" + header.split(',').join("\",\"") + "\"");
             // A name is no formula.
@@ -273,16 +264,13 @@ private Q_SLOTS:
         }
 
         // On a full disk the file stays as it was, and the user learns why.
-        QFile saved(m_file.path);
-        QVERIFY(saved.open(QIODevice::ReadOnly));
-        const QByteArray before = saved.readAll();
+        const QByteArray before = fileContents(m_file.path);
         {
             const FileSizeLimit limit(16);
             press("saveResultsButton");
         }
         QCOMPARE(said.takeFirst().at(1).toInt(), 2);
-        saved.seek(0);
-        QCOMPARE(saved.readAll(), before);
+        QCOMPARE(fileContents(m_file.path), before);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     }
 

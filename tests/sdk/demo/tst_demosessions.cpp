@@ -22,13 +22,6 @@ LoginSecureInput secureInput(const QString &address, int port, const QString &ac
     return input;
 }
 
-LoginSecureOutput secureOutput()
-{
-    LoginSecureOutput output = {};
-    output.size = sizeof(output);
-    return output;
-}
-
 } // namespace
 
 class SessionsTest : public QObject
@@ -97,7 +90,8 @@ private Q_SLOTS:
         const Login first(*site.net, address, port, account, password);
         QCOMPARE(first.netError(), error);
         QCOMPARE(first.handle > 0, error == NetError::None);
-        LoginSecureOutput output = secureOutput();
+        LoginSecureOutput output = {};
+        output.size = sizeof(output);
         const std::int64_t secure =
             site.net->NetLoginSecure(secureInput(address, port, account, password), output);
         QCOMPARE(static_cast<NetError>(output.error), secureError);
