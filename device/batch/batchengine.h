@@ -68,13 +68,13 @@ public:
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);
 
     /// Adds a step behind the others. Returns false when the batch has ended, or is stopped.
-    bool append(int batch, BatchItem item);
+    bool append(int number, BatchItem item);
 
     /// Starts nothing new of a batch and asks its running steps to end. Does nothing for one that has ended.
-    void stop(int batch);
+    void stop(int number);
 
     /// Goes on with a batch that is held.
-    void resume(int batch);
+    void resume(int number);
 
     /// Stops every batch, and starts none any more. Does not wait for the steps that run.
     void requestEnd();

@@ -167,7 +167,7 @@ bool Batches::mayChangeAddresses()
     return refusal.isEmpty();
 }
 
-void Batches::giveUp()
+void Batches::giveUp() const
 {
     if (!isRunning())
         return;

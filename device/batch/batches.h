@@ -56,7 +56,7 @@ public:
 
     /// The program ends during the batch that runs: it is stopped, and the log names the devices that are not
     /// done.
-    Q_INVOKABLE void giveUp();
+    Q_INVOKABLE void giveUp() const;
 
     /// The devices of an ended batch again that may succeed in another try.
     Q_INVOKABLE Batch *retry(Batch *batch);
