@@ -128,7 +128,7 @@ EncodeCopyOutcome CDeviceDH::copyTo(const QString &ipport, const Credentials &cr
         secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
     if (login.result != LoginResult::Success)
         return {.result = resultCode(login.result), .skipped = {}};
-    const EncodeCopyOutcome outcome =
+    EncodeCopyOutcome outcome =
         control.shouldEnd()
             ? EncodeCopyOutcome{.result = resultCode(LoginResult::NotDone), .skipped = {}}
             : copyEncodeSettings(m_tables, state, channels, ConfigSession(m_libraries, login.handle));

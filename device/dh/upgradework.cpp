@@ -154,7 +154,7 @@ UpgradeState UpgradeWork::run(const StepControl &control)
     if (login.result != LoginResult::Success)
         return ended(resultOfLogin(login.result));
     News news;
-    const UpgradeState state = send(login.handle, file, news, stop);
+    UpgradeState state = send(login.handle, file, news, stop);
     m_libraries.net->NetLogout(login.handle); // no news from here on, also of what cannot be stopped
     if (state.result != UpgradeTools::Restarting)
         return state;

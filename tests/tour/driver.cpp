@@ -109,11 +109,27 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
 {
     QQuickItem *item = require(name);
     atRest();
-    await(QStringLiteral("\"%1\" takes clicks").arg(name), [&] {
-        const QQuickItem *hold = find(QStringLiteral("inputHold"));
-        return !hold || hold->property("stopper").value<QQuickItem *>() == item;
-    });
+    await(
+        QStringLiteral("\"%1\" takes clicks").arg(name),
+        [&] {
+            const QQuickItem *hold = find(QStringLiteral("inputHold"));
+            const bool isHeld = hold && hold->property("stopper").value<QQuickItem *>() != item;
+            return !isHeld && !isUnderNotice(middleOf(item));
+        },
+        30);
     QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(item));
+}
+
+bool Driver::isUnderNotice(QPoint place) const
+{
+    constexpr int margin = 60; // of the notice around its text
+    const QQuickItem *text = find(QStringLiteral("toastText"));
+    if (!text || !text->mapRectToScene(text->boundingRect())
+                      .adjusted(-margin, -margin, margin, margin)
+                      .contains(place))
+        return false;
+    QTest::mouseMove(m_window, QPoint(1, 1)); // a notice stays while the pointer is on it
+    return true;
 }
 
 void Driver::hover(const QString &name) const

@@ -61,6 +61,7 @@ public:
     void report(const QString &step, const QString &seen);
 
 private:
+    [[nodiscard]] bool isUnderNotice(QPoint place) const;
     void atRest() const;
     void checkNames(QQuickItem *item) const;
 
