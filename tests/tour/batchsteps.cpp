@@ -78,6 +78,8 @@ void walkPutBack(Driver &driver, const sdk::demo::DemoSite &site)
     driver.click(u"batchPanelButton"_s);
     driver.require(u"putBackButton"_s);
     driver.report(u"batch-panel"_s, driver.text(u"batchSummary"_s));
+    driver.await(
+        u"no notice fades over the buttons"_s, [&] { return !driver.find(u"toastText"_s); }, 30);
     driver.click(u"putBackButton"_s);
     driver.require(u"messageText"_s);
     driver.click(u"okButton"_s);
