@@ -13,7 +13,6 @@ namespace {
 
 constexpr int wrongPassword = resultCode(LoginResult::WrongPassword);
 constexpr int success = resultCode(LoginResult::Success);
-constexpr int longest = 10000; // milliseconds, of a test that fails
 
 /// What a batch has reported, and gates that its steps wait at.
 class Record : public BatchWatcher

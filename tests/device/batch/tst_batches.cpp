@@ -87,15 +87,17 @@ private Q_SLOTS:
         m_site->site->setFault(m_devices.at(2).mac, {.fault = sdk::demo::Fault::WrongPassword});
         Batch *batch = setStandard(ipportsOf(m_devices));
         QVERIFY(batch);
-        QHash<QString, int> results;
-        QObject::connect(batch, &Batch::resulted, this,
-                         [&](const QStringList &devices, const QList<int> &values) {
-                             for (qsizetype place = 0; place < devices.size(); ++place)
-                                 results.insert(devices.at(place), values.at(place));
-                         });
+        const QSignalSpy resulted(batch, &Batch::resulted);
         QVERIFY(m_site->factory->busyState()->refusal(BusyState::Search).contains("Standard"));
         QTRY_VERIFY(!batch->isRunning());
         QVERIFY(m_site->factory->busyState()->refusal(BusyState::Search).isEmpty());
+        QHash<QString, int> results;
+        for (const QVariantList &group : resulted) {
+            const QStringList devices = group.at(0).toStringList();
+            const auto values = group.at(1).value<QList<int>>();
+            for (qsizetype place = 0; place < devices.size(); ++place)
+                results.insert(devices.at(place), values.at(place));
+        }
         QCOMPARE(results, (QHash<QString, int>{{ipportOf(m_devices.at(0)), 0},
                                                {ipportOf(m_devices.at(1)), networkFailure},
                                                {ipportOf(m_devices.at(2)), 2},

@@ -99,7 +99,7 @@ private:
                                  .title = QStringLiteral("=门,\"%1\"").arg(place + 1)});
         }
         plan.stepOf = [this, results](const BatchDevice &device) {
-            const int place = device.identity.mid(1).toInt() - 1;
+            const int place = QStringView(device.identity).mid(1).toInt() - 1;
             const int result = m_batches->kept().isEmpty() ? results.at(place) : 0;
             return [this, result](const StepControl & /*control*/) {
                 m_gate.acquire();
