@@ -68,7 +68,7 @@ private Q_SLOTS:
         m_batches = std::make_unique<Batches>(*m_site->factory, *m_engine, [] { return 2; });
         const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
         m_site->factory->startSearch("dh");
-        QTRY_VERIFY(!found.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
         m_site->site->requests().clear();
     }
 

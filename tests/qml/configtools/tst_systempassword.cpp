@@ -86,7 +86,7 @@ private Q_SLOTS:
         m_batches = std::make_unique<Batches>(*m_site->factory, *m_threads, [] { return 1; });
         const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
         m_site->factory->startSearch("dh");
-        QTRY_VERIFY(!found.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
         m_engine = std::make_unique<QQmlEngine>();
         m_engine->rootContext()->setContextProperty("systemTimeZone", QStringLiteral("UTC+08:00"));
         m_window = openScene(*m_engine, scene,
