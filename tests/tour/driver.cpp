@@ -11,6 +11,7 @@
 #include <QTextStream>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -31,15 +32,15 @@ QQuickItem *findBelow(QQuickItem *item, const QString &name)
     return nullptr;
 }
 
-void collectTexts(QQuickItem *item, const QString &name, QStringList &texts)
+void collectBelow(QQuickItem *item, const QString &name, QList<const QQuickItem *> &found)
 {
     if (!item->isVisible())
         return;
     if (item->objectName() == name)
-        texts.append(item->property("text").toString());
+        found.append(item);
     const QList<QQuickItem *> children = item->childItems();
     for (QQuickItem *child : children)
-        collectTexts(child, name, texts);
+        collectBelow(child, name, found);
 }
 
 QPoint middleOf(const QQuickItem *item)
@@ -100,8 +101,11 @@ QString Driver::text(const QString &name) const
 
 QStringList Driver::texts(const QString &name) const
 {
+    QList<const QQuickItem *> items;
+    collectBelow(m_window->contentItem(), name, items);
     QStringList texts;
-    collectTexts(m_window->contentItem(), name, texts);
+    for (const QQuickItem *item : std::as_const(items))
+        texts.append(item->property("text").toString());
     return texts;
 }
 
@@ -123,10 +127,13 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
 bool Driver::isUnderNotice(QPoint place) const
 {
     constexpr int margin = 60; // of the notice around its text
-    const QQuickItem *text = find(QStringLiteral("toastText"));
-    if (!text || !text->mapRectToScene(text->boundingRect())
-                      .adjusted(-margin, -margin, margin, margin)
-                      .contains(place))
+    QList<const QQuickItem *> notices;
+    collectBelow(m_window->contentItem(), QStringLiteral("toastText"), notices);
+    if (std::ranges::none_of(notices, [&](const QQuickItem *text) {
+            return text->mapRectToScene(text->boundingRect())
+                .adjusted(-margin, -margin, margin, margin)
+                .contains(place);
+        }))
         return false;
     QTest::mouseMove(m_window, QPoint(1, 1)); // a notice stays while the pointer is on it
     return true;
