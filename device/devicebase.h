@@ -93,7 +93,8 @@ public:
     virtual void stopImport();
 
     /// Asks the device whether it lets this account in, and logs out again at once: the current session of
-    /// findAndLoginDevice() stays as it is. Returns a LoginResult.
+    /// findAndLoginDevice() stays as it is. Returns a LoginResult. May be called
+    /// on any thread, which it blocks.
     virtual int checkLogin(const QString &ipport, const QString &account, const QString &password);
 
     /// Logs in to the device as checkLogin() does and asks it for everything that it tells of itself. Holds

@@ -500,6 +500,15 @@ int CDeviceFactory::checkLogin(const QString &family, const QString &ipport, con
     return forward(family, &CDeviceBase::checkLogin, ipport, account, password);
 }
 
+CDeviceFactory::LoginCheck CDeviceFactory::loginCheck(const QString &family) const
+{
+    // The back end waits at its end for the threads that ask it; one that held it would end it.
+    return [backEnd = m_backEnds.value(family).get()](const QString &ipport, const QString &account,
+                                                      const QString &password) {
+        return backEnd ? backEnd->checkLogin(ipport, account, password) : resultCode(LoginResult::Success);
+    };
+}
+
 QVariantMap CDeviceFactory::readDeviceDetail(const QString &family, const QString &ipport)
 {
     return forward(family, &CDeviceBase::readDeviceDetail, ipport);

@@ -187,6 +187,11 @@ public:
                                        const QString &password, const QString &port, int loginType,
                                        const QString &devicePort);
 
+    /// Asks as checkLogin() does, on any thread, until the factory ends.
+    using LoginCheck =
+        std::function<int(const QString &ipport, const QString &account, const QString &password)>;
+    [[nodiscard]] LoginCheck loginCheck(const QString &family) const;
+
     /// Whether the device at `ipport` lets the account in, as a LoginResult. Blocks as a login does; the
     /// session of findAndLoginDevice() stays as it is.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,

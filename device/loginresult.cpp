@@ -18,8 +18,9 @@ constexpr std::uint32_t highBit = 0x80000000;
 
 QString ResultNames::of(int code)
 {
-    // Configuration operations have two codes of their own.
+    // Operations have codes of their own.
     constexpr int capabilitiesUnknown = 10;
+    constexpr int commandFailed = 998; // over HTTP
     constexpr int refusedByDevice = 999;
     switch (code) {
     case resultCode(LoginResult::Success):
@@ -50,6 +51,8 @@ QString ResultNames::of(int code)
         return tr("未执行");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
+    case commandFailed:
+        return tr("命令失败");
     case refusedByDevice:
         return tr("设备拒绝了此操作");
     default:

@@ -113,7 +113,7 @@ bool Batch::start()
     std::vector<BatchItem> items;
     items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
     for (const BatchDevice &device : std::as_const(m_plan.devices))
-        items.push_back({.device = device.identity, .step = m_plan.stepOf(device)});
+        items.push_back({.device = device.identity, .login = device.login, .step = m_plan.stepOf(device)});
     m_began = QDateTime::currentDateTime();
     m_isRunning = true;
     m_number = m_engine.start(std::move(items), m_plan.policy, m_mailbox);
@@ -186,7 +186,7 @@ QStringList Batch::retryableDevices() const
     QStringList names;
     for (const Entry &entry : m_entries) {
         if (entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome.result) &&
-            m_plan.stepOf)
+            m_plan.stepOf && m_plan.canBeRetried)
             names.append(entry.device.name);
     }
     return names;
@@ -211,6 +211,8 @@ void Batch::takeNews()
         entry.outcome = finished.outcome;
         entry.time = finished.time;
         m_report.note(entry.device.name, entry.outcome.result);
+        if (m_plan.takeOutcome)
+            m_plan.takeOutcome(entry.device, entry.outcome);
         m_running.removeOne(finished.place);
         ++m_done;
         devices.append(entry.device.name);
@@ -230,6 +232,10 @@ void Batch::finish()
     m_isRunning = false;
     m_isHeld = false;
     m_ended = QDateTime::currentDateTime();
+    for (const Entry &entry : std::as_const(m_entries)) {
+        if (m_plan.takeOutcome && !entry.time.isValid())
+            m_plan.takeOutcome(entry.device, entry.outcome);
+    }
     const QStringList notDone = m_report.devicesWith(BatchReport::NotDone);
     if (!notDone.isEmpty())
         Q_EMIT resulted(notDone, QList<int>(notDone.size(), BatchReport::NotDone));

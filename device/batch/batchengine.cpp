@@ -185,7 +185,7 @@ StepOutcome BatchEngine::perform(const Taken &taken, bool &holdsPlace)
     Batch &batch = *taken.batch;
     {
         const std::lock_guard lock(m_mutex);
-        const auto refusal = batch.refusals.constFind(taken.item.device);
+        const auto refusal = batch.refusals.constFind({taken.item.device, taken.item.login});
         if (refusal != batch.refusals.cend())
             return *refusal;
     }
@@ -212,9 +212,9 @@ void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
 bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
 {
     Batch &batch = *taken.batch;
-    const QString &device = taken.item.device;
-    if (isRefusal(outcome.result) && !batch.refusals.contains(device)) {
-        batch.refusals.insert(device, outcome);
+    const std::pair login(taken.item.device, taken.item.login);
+    if (isRefusal(outcome.result) && !batch.refusals.contains(login)) {
+        batch.refusals.insert(login, outcome);
         ++batch.wrongPasswords;
     } else if (outcome.result == resultCode(LoginResult::Success)) {
         batch.wrongPasswords = 0;

@@ -13,12 +13,14 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 /// One step of a batch.
 struct BatchItem
 {
-    QString device; ///< two steps of one device never run at the same time, whichever batches they are of
+    QString device;     ///< two steps of one device never run at the same time, whichever batches they are of
+    QString login = {}; ///< tells apart the accounts that the steps of one device use; empty for one
     DeviceStep step;
 };
 
@@ -49,8 +51,8 @@ public:
 };
 
 /// Thread-safe. Steps of one device keep their order. After a device has refused an account, or is locked,
-/// its further steps in the batch end with the same outcome and are not run: each try counts towards its
-/// lock.
+/// its further steps with that account in the batch end with the same outcome and are not run: each try
+/// counts towards its lock.
 class BatchEngine
 {
 public:
@@ -92,7 +94,7 @@ private:
         BatchPolicy policy;
         std::shared_ptr<BatchWatcher> watcher;
         std::map<std::size_t, Waiting> waiting; ///< by the first index; the last one of each is the next
-        QHash<QString, StepOutcome> refusals;   ///< by device
+        QHash<std::pair<QString, QString>, StepOutcome> refusals; ///< by device and login
         std::stop_source stop;
         std::size_t running = 0; ///< steps
         int placesTaken = 0;     ///< of policy.atOnce

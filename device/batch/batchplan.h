@@ -22,10 +22,11 @@ struct AddressSettings
 /// A device of a batch.
 struct BatchDevice
 {
-    QString name;     ///< as the page names it that asks for the batch: its address and port, or its MAC
-    QString identity; ///< the name of its row
-    QString ipport;   ///< as of the start of the batch
-    QString title;    ///< its name and model, for the user
+    QString name;       ///< as the page names it that asks for the batch: its address and port, or its MAC
+    QString identity;   ///< the name of its row
+    QString ipport;     ///< as of the start of the batch
+    QString title;      ///< its name and model, for the user
+    QString login = {}; ///< as BatchItem has it
 };
 
 struct BatchPlan
@@ -37,6 +38,13 @@ struct BatchPlan
 
     /// Makes the step of a device. Called on the scene's thread, at the start and at each retry.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
+
+    /// Takes what has come of each device, in the order in which it came, and at the end of the batch that of
+    /// the devices that it did not come to. Called on the scene's thread; may be empty.
+    std::function<void(const BatchDevice &device, const StepOutcome &outcome)> takeOutcome = {};
+
+    /// Whether another batch may do it for some of the devices again.
+    bool canBeRetried = true;
 
     /// Whether the devices that were reached are queried again at the end, since what their rows show
     /// changes.
