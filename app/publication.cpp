@@ -3,6 +3,7 @@
 #include "app/filedialogs.h"
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
+#include "cgi/cgibatches.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/batch/batches.h"
 #include "device/devicefactory.h"
@@ -16,10 +17,18 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, boo
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
-    context->setContextProperty(QStringLiteral("BatchesApi"),
-                                new Batches(
-                                    *CDeviceFactory::getinstance(), batchEngine,
-                                    [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine));
+    auto *batches = new Batches(
+        *CDeviceFactory::getinstance(), batchEngine,
+        [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine);
+    const auto cgiAccount = [] {
+        return CgiAccount{.user = CLocalConfig::getinstance()->getSearchConfigUsrename(),
+                          .password = CLocalConfig::getinstance()->getSearchConfigPass()};
+    };
+    context->setContextProperty(QStringLiteral("BatchesApi"), batches);
+    context->setContextProperty(QStringLiteral("CgiBatchesApi"),
+                                new CgiBatches(*CDeviceFactory::getinstance(), *batches,
+                                               CGIConfigManage::getinstance()->surroundings(), cgiAccount,
+                                               batches));
     context->setContextProperty(QStringLiteral("BusyStateApi"), CDeviceFactory::getinstance()->busyState());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());

@@ -3,7 +3,7 @@
 #include "cgi/answerkind.h"
 #include "cgi/commandworkbook.h"
 #include "cgi/curltransport.h"
-#include "cgi/internal/batchrun.h"
+#include "cgi/internal/workbookresults.h"
 #include "device/devicefactory.h"
 #include "files/filereplacement.h"
 
@@ -24,12 +24,6 @@ std::unique_ptr<CGIConfigManage> &instance()
 {
     static std::unique_ptr<CGIConfigManage> object;
     return object;
-}
-
-QString localPath(const QString &path)
-{
-    const QUrl url(path);
-    return url.isLocalFile() ? url.toLocalFile() : path;
 }
 
 QString fieldText(const QVariant &row, const QString &key)
@@ -128,18 +122,21 @@ QString CGIConfigManage::batchCGIConfig(const QString &path)
         return tr("正在执行另一个文件中的CGI命令。");
     const Run run(*this);
     CommandWorkbook workbook;
-    QString refusal = workbook.open(localPath(path));
+    QString refusal = workbook.open(CommandWorkbook::localPath(path));
     if (!refusal.isEmpty())
         return refusal;
 
-    BatchRun batch(workbook, m_procedure);
-    while (batch.hasNext() && !m_isStopped) {
-        const QString command = batch.sendNext();
-        Q_EMIT signalBatchProgress(batch.done(), batch.total(), command);
-        if (batch.hasNext())
-            static_cast<void>(passEvents());
+    WorkbookResults results(workbook);
+    for (const WorkbookCommand &command : results.commands()) {
+        if (command.refusal.isEmpty())
+            results.take(command,
+                         m_procedure.run(command.url, command.user, command.password, command.ipport));
+        else
+            results.take(command, failedResult + command.refusal);
+        if (!passEvents())
+            break;
     }
-    return batch.finish();
+    return results.finish();
 }
 
 void CGIConfigManage::stop()

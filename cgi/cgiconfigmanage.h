@@ -11,9 +11,9 @@
 /// Commands to devices over HTTP, for the scene: one, or those of a workbook, whose results are written into
 /// it; and the small services that the page of commands needs.
 ///
-/// Everything runs on the scene's thread and blocks it until it is done. While a request waits and between
-/// two rows of a workbook the event loop runs, so that the scene can paint and call stop(). The scene keeps
-/// other input away meanwhile, and the owner of this object keeps it until the call has returned.
+/// Everything runs on the scene's thread and blocks it until it is done; the scene itself sends its commands
+/// with CgiBatches. While a request waits and between two rows of a workbook the event loop runs, so that
+/// stop() can be called. The owner of this object keeps it until the call has returned.
 class CGIConfigManage : public QObject
 {
     Q_OBJECT
@@ -30,6 +30,9 @@ public:
 
     /// The factory's login check, HTTP through the library, the program's folder and the machine's clock.
     [[nodiscard]] static CgiSurroundings programSurroundings();
+
+    /// What its commands are sent with.
+    [[nodiscard]] const CgiSurroundings &surroundings() const { return m_surroundings; }
 
     /// Where requests to other machines go from now on, as "http://host:port"; empty: to the devices.
     void setProxy(const QString &proxy);
@@ -76,10 +79,6 @@ public:
     Q_INVOKABLE void rememberCommand(const QString &command);
     Q_INVOKABLE QStringList favouriteCommands() const;
     Q_INVOKABLE void setFavouriteCommand(const QString &command, bool favourite);
-
-Q_SIGNALS:
-    /// Commands of the running workbook that were sent, of all that it holds, and the one sent last.
-    void signalBatchProgress(int done, int total, const QString &command);
 
 private:
     class Run;

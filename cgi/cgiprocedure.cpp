@@ -83,6 +83,11 @@ QString CgiProcedure::run(const QString &url, const QString &user, const QString
     const QString refusal = loginRefusal(m_surroundings.checkLogin(ipport, user, password));
     if (!refusal.isEmpty())
         return failedResult + refusal;
+    return send(url, user, password);
+}
+
+QString CgiProcedure::send(const QString &url, const QString &user, const QString &password) const
+{
     const CgiRequest request(url, user, password);
     if (!request.refusal().isEmpty())
         return failedResult + request.refusal();
@@ -118,9 +123,12 @@ HttpOutcome CgiProcedure::perform(HttpConversation &conversation, const HttpLimi
 CgiProcedure::Taken CgiProcedure::take(HttpConversation &conversation, const HttpOutcome &first) const
 {
     const QByteArray headers = conversation.headerText();
-    const QString path =
+    const AnswerKind kind = answerKind(headers);
+    QString path =
         answerFilePath(m_surroundings.folder, m_surroundings.localTime(), answerFileEnding(headers));
-    switch (answerKind(headers)) {
+    if (kind != AnswerKind::Text && m_surroundings.ownPath)
+        path = m_surroundings.ownPath(path);
+    switch (kind) {
     case AnswerKind::Text:
         break;
     case AnswerKind::Picture:

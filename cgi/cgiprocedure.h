@@ -18,6 +18,10 @@ struct CgiSurroundings
     QString folder;                       ///< where pictures and recordings are saved
     std::function<QDateTime()> localTime; ///< which names them
     ExchangeWatch watch = {};             ///< ends a request at once; may be empty
+
+    /// Makes a path of the answer's own out of the one that the time gives; empty where a later answer may
+    /// replace one of the same second.
+    std::function<QString(const QString &path)> ownPath = {};
 };
 
 /// The limits of the exchanges that a command may take.
@@ -48,6 +52,9 @@ public:
     /// file that the result names.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
+
+    /// The same for a device that has let the account in.
+    [[nodiscard]] QString send(const QString &url, const QString &user, const QString &password) const;
 
     /// Why a login with this result forbids the command, in the user's language; empty when it does not.
     [[nodiscard]] static QString loginRefusal(int loginResult);

@@ -5,6 +5,7 @@
 #include "sheets/tablecells.h"
 
 #include <QRegularExpression>
+#include <QUrl>
 
 namespace {
 
@@ -42,6 +43,12 @@ CommandWorkbook::CommandWorkbook(std::unique_ptr<sheets::SheetEngine> engine) : 
 QStringList CommandWorkbook::requiredTitles()
 {
     return {tr("IP"), tr("端口"), tr("用户名"), tr("密码"), tr("CGI配置命令")};
+}
+
+QString CommandWorkbook::localPath(const QString &path)
+{
+    const QUrl url(path);
+    return url.isLocalFile() ? url.toLocalFile() : path;
 }
 
 QString CommandWorkbook::open(const QString &path)
@@ -92,9 +99,8 @@ WorkbookCommand CommandWorkbook::command(int row)
 
 void CommandWorkbook::setResult(int row, const QString &result)
 {
-    constexpr qsizetype longest = 32'000; // a cell takes a little more
     const QString text =
-        result.size() > longest ? result.left(longest) + tr("…（内容过长，已截断）") : result;
+        result.size() > longestResult ? result.left(longestResult) + tr("…（内容过长，已截断）") : result;
     if (!m_excel.setCellText(row, ResultColumn, text))
         qCWarning(logCgi).noquote() << "cannot write the result of row" << row << "-" << m_excel.errorText();
 }

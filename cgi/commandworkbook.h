@@ -25,12 +25,17 @@ class CommandWorkbook
 {
     Q_DECLARE_TR_FUNCTIONS(CommandWorkbook)
 public:
+    static constexpr qsizetype longestResult = 32'000; ///< letters; a cell takes a little more
+
     /// With the engine that fits this machine.
     CommandWorkbook() = default;
     explicit CommandWorkbook(std::unique_ptr<sheets::SheetEngine> engine);
 
     /// What the first five cells of the first row say, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();
+
+    /// The path of what may be a "file:///" address.
+    [[nodiscard]] static QString localPath(const QString &path);
 
     /// Opens the file. Returns why it cannot be used, in the user's language; an empty text when it can.
     [[nodiscard]] QString open(const QString &path);

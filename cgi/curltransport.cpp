@@ -149,6 +149,7 @@ CurlTransport::CurlTransport(std::chrono::seconds connectLimit) : m_connectLimit
 
 void CurlTransport::setProxy(const QString &proxy)
 {
+    const std::lock_guard lock(m_mutex);
     m_proxy = proxy.toUtf8();
 }
 
@@ -161,6 +162,7 @@ std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
     MultiHandle multi(curl_multi_init());
     if (!handle || !multi)
         return nullptr;
+    const std::lock_guard lock(m_mutex);
     return std::make_unique<CurlConversation>(std::move(handle), std::move(multi), request, m_connectLimit,
                                               m_proxy);
 }

@@ -2,6 +2,8 @@
 
 #include "cgi/httptransport.h"
 
+#include <mutex>
+
 /// Requests through libcurl, each with an easy handle of its own. Only HTTP and HTTPS.
 class CurlTransport : public HttpTransport
 {
@@ -16,5 +18,6 @@ private:
     static constexpr std::chrono::seconds defaultConnectLimit{5};
 
     const std::chrono::seconds m_connectLimit;
+    std::mutex m_mutex; ///< of the proxy
     QByteArray m_proxy;
 };

@@ -55,6 +55,7 @@ public:
     [[nodiscard]] virtual QByteArray headerText() const = 0;
 };
 
+/// Thread-safe.
 class HttpTransport
 {
 public:

@@ -212,10 +212,10 @@
         <translation>Batch CGI</translation>
     </message>
     <message numerus="yes">
-        <source>向选中的 %n 台设备依次发送同一条命令：</source>
+        <source>向选中的 %n 台设备发送同一条命令：</source>
         <translation>
             <numerusform>One command goes to the selected device:</numerusform>
-            <numerusform>One command goes to each of the %n selected devices in turn:</numerusform>
+            <numerusform>One command goes to each of the %n selected devices:</numerusform>
         </translation>
     </message>
 </context>
@@ -393,7 +393,7 @@
     </message>
 </context>
 <context>
-    <name>BatchRun</name>
+    <name>WorkbookResults</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
         <translation>Stopped: %1 rows succeeded, %2 failed, %3 were not sent.</translation>
@@ -606,6 +606,25 @@
     </message>
 </context>
 <context>
+    <name>CgiBatches</name>
+    <message>
+        <source>没有通往设备网页端口的隧道。</source>
+        <translation>There is no tunnel to the web port of the device.</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>Not sent</translation>
+    </message>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>The CGI commands of another file are running.</translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>Row %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CgiProcedure</name>
     <message>
         <source>应答头过大。</source>
@@ -670,12 +689,12 @@
 <context>
     <name>CgiSender</name>
     <message>
-        <source>正在发送CGI命令…</source>
-        <translation>Sending CGI commands…</translation>
+        <source>发送CGI命令</source>
+        <translation>Sending a CGI command</translation>
     </message>
     <message>
-        <source>（按Esc停止）</source>
-        <translation> (Esc stops)</translation>
+        <source>批量配置CGI</source>
+        <translation>Batch CGI</translation>
     </message>
     <message>
         <source>请填写CGI命令的具体内容。</source>
@@ -703,14 +722,6 @@
     <message>
         <source>命令已执行，没有可显示的结果。</source>
         <translation>The command was carried out. There is no result to show.</translation>
-    </message>
-    <message>
-        <source>没有通往设备网页端口的隧道。</source>
-        <translation>There is no tunnel to the web port of the device.</translation>
-    </message>
-    <message>
-        <source>未执行</source>
-        <translation>Not sent</translation>
     </message>
 </context>
 <context>
@@ -757,12 +768,8 @@ A right click copies the result</translation>
 <context>
     <name>CgiWorkbook</name>
     <message>
-        <source>正在执行文件中的CGI命令…</source>
-        <translation>Running the commands of the file…</translation>
-    </message>
-    <message>
-        <source>（按Esc停止）</source>
-        <translation> (Esc stops)</translation>
+        <source>批量表单操作</source>
+        <translation>Run a workbook</translation>
     </message>
     <message>
         <source>打开</source>
@@ -3254,7 +3261,7 @@ File path: </translation>
         <translation>Batch CGI</translation>
     </message>
     <message>
-        <source>向勾选的设备依次发送同一条命令</source>
+        <source>向勾选的设备发送同一条命令</source>
         <translation>Send one command to each of the ticked devices</translation>
     </message>
     <message>
@@ -3512,6 +3519,10 @@ File path: </translation>
 </context>
 <context>
     <name>ResultNames</name>
+    <message>
+        <source>命令失败</source>
+        <translation>The command failed</translation>
+    </message>
     <message>
         <source>成功</source>
         <translation>Success</translation>

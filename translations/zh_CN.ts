@@ -211,9 +211,9 @@
         <translation>批量配置CGI</translation>
     </message>
     <message numerus="yes">
-        <source>向选中的 %n 台设备依次发送同一条命令：</source>
+        <source>向选中的 %n 台设备发送同一条命令：</source>
         <translation>
-            <numerusform>向选中的 %n 台设备依次发送同一条命令：</numerusform>
+            <numerusform>向选中的 %n 台设备发送同一条命令：</numerusform>
         </translation>
     </message>
 </context>
@@ -386,7 +386,7 @@
     </message>
 </context>
 <context>
-    <name>BatchRun</name>
+    <name>WorkbookResults</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
         <translation>已停止执行：成功%1行，失败%2行，未执行%3行。</translation>
@@ -599,6 +599,25 @@
     </message>
 </context>
 <context>
+    <name>CgiBatches</name>
+    <message>
+        <source>没有通往设备网页端口的隧道。</source>
+        <translation>没有通往设备网页端口的隧道。</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未执行</translation>
+    </message>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>正在执行另一个文件中的CGI命令。</translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>第%1行 %2</translation>
+    </message>
+</context>
+<context>
     <name>CgiProcedure</name>
     <message>
         <source>应答头过大。</source>
@@ -663,12 +682,12 @@
 <context>
     <name>CgiSender</name>
     <message>
-        <source>正在发送CGI命令…</source>
-        <translation>正在发送CGI命令…</translation>
+        <source>发送CGI命令</source>
+        <translation>发送CGI命令</translation>
     </message>
     <message>
-        <source>（按Esc停止）</source>
-        <translation>（按Esc停止）</translation>
+        <source>批量配置CGI</source>
+        <translation>批量配置CGI</translation>
     </message>
     <message>
         <source>请填写CGI命令的具体内容。</source>
@@ -695,14 +714,6 @@
     <message>
         <source>命令已执行，没有可显示的结果。</source>
         <translation>命令已执行，没有可显示的结果。</translation>
-    </message>
-    <message>
-        <source>没有通往设备网页端口的隧道。</source>
-        <translation>没有通往设备网页端口的隧道。</translation>
-    </message>
-    <message>
-        <source>未执行</source>
-        <translation>未执行</translation>
     </message>
 </context>
 <context>
@@ -749,12 +760,8 @@
 <context>
     <name>CgiWorkbook</name>
     <message>
-        <source>正在执行文件中的CGI命令…</source>
-        <translation>正在执行文件中的CGI命令…</translation>
-    </message>
-    <message>
-        <source>（按Esc停止）</source>
-        <translation>（按Esc停止）</translation>
+        <source>批量表单操作</source>
+        <translation>批量表单操作</translation>
     </message>
     <message>
         <source>打开</source>
@@ -3222,8 +3229,8 @@
         <translation>批量配置CGI</translation>
     </message>
     <message>
-        <source>向勾选的设备依次发送同一条命令</source>
-        <translation>向勾选的设备依次发送同一条命令</translation>
+        <source>向勾选的设备发送同一条命令</source>
+        <translation>向勾选的设备发送同一条命令</translation>
     </message>
     <message>
         <source>批量表单操作</source>
@@ -3468,6 +3475,10 @@
 </context>
 <context>
     <name>ResultNames</name>
+    <message>
+        <source>命令失败</source>
+        <translation>命令失败</translation>
+    </message>
     <message>
         <source>成功</source>
         <translation>成功</translation>

@@ -264,7 +264,6 @@ T.ApplicationWindow {
                 sourceComponent: Component {
                     PageCGIConfig {
                         batches: window.batches
-                        busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         searching: window.searching
                         onSaid: (message, kind) => popups.say(message, kind)

@@ -1,9 +1,13 @@
-// A transport that answers from memory and notes what it was asked.
+// A transport that answers from memory and notes what it was asked, on any thread.
 #pragma once
 
 #include "cgi/httptransport.h"
 
+#include <QSemaphore>
 #include <QStringList>
+
+#include <atomic>
+#include <mutex>
 
 class RecordedTransport : public HttpTransport
 {
@@ -12,15 +16,19 @@ public:
     std::function<QByteArray(const QByteArray &url)> answer = [](const QByteArray &) {
         return QByteArray("OK");
     };
+    // What commands asked for may be read when none runs.
     QStringList urls;           ///< of the commands, in their order
     QStringList credentials;    ///< of each of them
     QStringList exchangeLimits; ///< of each exchange: milliseconds, least bytes a second, seconds below that
     QByteArray headers = "Content-Type: text/plain\r\n";
+    std::unique_ptr<QSemaphore> gate; ///< lets an exchange through for each of its resources; null for all
+    std::atomic<int> atGate = 0;      ///< exchanges that have come to it
 
     void setProxy(const QString &) override {}
 
     [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &request) override
     {
+        const std::lock_guard lock(m_mutex);
         urls.append(QString::fromUtf8(request.url()));
         credentials.append(QString::fromUtf8(request.userPassword()));
         return std::make_unique<Conversation>(*this, answer(request.url()));
@@ -36,13 +44,16 @@ private:
         }
 
         void useBasic() override {}
-        HttpOutcome perform(const HttpLimits &limits, const BodySink &sink, const ExchangeWatch &) override
+        HttpOutcome perform(const HttpLimits &limits, const BodySink &sink,
+                            const ExchangeWatch &watch) override
         {
-            m_transport.exchangeLimits.append(QStringLiteral("%1 %2 %3")
-                                                  .arg(limits.total.count())
-                                                  .arg(limits.slowestRate)
-                                                  .arg(limits.slowTime.count()));
             HttpOutcome outcome;
+            if (!m_transport.passGate(watch)) {
+                outcome.isStopped = true;
+                outcome.failure = QStringLiteral("stopped");
+                return outcome;
+            }
+            m_transport.note(limits);
             outcome.status = 200;
             if (sink && !sink(m_body))
                 outcome.failure = QStringLiteral("ended");
@@ -54,4 +65,28 @@ private:
         RecordedTransport &m_transport;
         const QByteArray m_body;
     };
+
+    bool passGate(const ExchangeWatch &watch)
+    {
+        constexpr int watchInterval = 5; // ms
+        if (!gate)
+            return true;
+        ++atGate;
+        while (!gate->tryAcquire(1, watchInterval)) {
+            if (watch && !watch())
+                return false;
+        }
+        return true;
+    }
+
+    void note(const HttpLimits &limits)
+    {
+        const std::lock_guard lock(m_mutex);
+        exchangeLimits.append(QStringLiteral("%1 %2 %3")
+                                  .arg(limits.total.count())
+                                  .arg(limits.slowestRate)
+                                  .arg(limits.slowTime.count()));
+    }
+
+    std::mutex m_mutex;
 };

@@ -1,7 +1,7 @@
 // Commands of workbooks, and the services for the page.
 #include "cgi/cgiconfigmanage.h"
 #include "cgi/commandworkbook.h"
-#include "sheets/qexcel.h"
+#include "tests/cgi/commandworkbooks.h"
 #include "tests/cgi/recordedtransport.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
@@ -11,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QJSEngine>
 #include <QJsonObject>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
@@ -19,12 +18,7 @@
 
 namespace {
 
-constexpr int resultColumn = 7;
-
 using Row = QStringList;
-
-const Row titles = {QStringLiteral("IP"), QStringLiteral("端口"), QStringLiteral("用户名"),
-                    QStringLiteral("密码"), QStringLiteral("CGI配置命令")};
 
 Row deviceRow(int number)
 {
@@ -45,30 +39,7 @@ class TestCGIConfigManage : public QObject
 
     [[nodiscard]] QString path() const { return m_folder->filePath("commands.xlsx"); }
 
-    /// Writes the workbook, with empty cells left out.
-    [[nodiscard]] bool writeWorkbook(const QList<Row> &rows) const
-    {
-        QExcel excel;
-        bool isWritten = excel.createWorkbook();
-        for (int row = 0; row < rows.size(); ++row) {
-            for (int column = 0; column < rows.at(row).size(); ++column) {
-                if (!rows.at(row).at(column).isEmpty())
-                    isWritten = isWritten && excel.setCellText(row + 1, column + 1, rows.at(row).at(column));
-            }
-        }
-        return isWritten && excel.saveAs(path());
-    }
-
-    [[nodiscard]] static QStringList results(const QString &workbook, int rows)
-    {
-        QExcel excel;
-        QStringList texts;
-        if (!excel.open(workbook))
-            return {excel.errorText()};
-        for (int row = 2; row < rows + 2; ++row)
-            texts.append(excel.cellText(row, resultColumn).value_or(QStringLiteral("none")));
-        return texts;
-    }
+    [[nodiscard]] bool writeWorkbook(const QList<Row> &rows) const { return writeRows(path(), rows); }
 
 private Q_SLOTS:
     void init()
@@ -91,8 +62,8 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QList<Row>, QString>({"rows", "text"});
         row("no file", QList<Row>(), "文件打开失败");
-        row("a title is missing", QList<Row>{titles.mid(0, 4), deviceRow(1)}, "文件格式错误");
-        row("titles in another row", QList<Row>{{}, titles, deviceRow(1)}, "文件格式错误");
+        row("a title is missing", QList<Row>{commandTitles.mid(0, 4), deviceRow(1)}, "文件格式错误");
+        row("titles in another row", QList<Row>{{}, commandTitles, deviceRow(1)}, "文件格式错误");
         row("titles in another order",
             QList<Row>{{"IP", "端口", "密码", "用户名", "CGI配置命令"}, deviceRow(1)}, "文件格式错误");
     }
@@ -107,7 +78,7 @@ private Q_SLOTS:
 
     void eachRowGetsItsResult()
     {
-        QVERIFY(writeWorkbook({titles,
+        QVERIFY(writeWorkbook({commandTitles,
                                {"10.0.0.1", "37777", "admin", "secret1", "/cgi-bin/a?b=c d", "0"},
                                {},
                                {"10.0.0.2:8443", "80.0", "admin", "a:b", "/cgi-bin/b", "1"},
@@ -121,7 +92,6 @@ private Q_SLOTS:
         m_transport->answer = [](const QByteArray &url) {
             return "answer of " + url;
         };
-        QSignalSpy progress(m_manager.get(), &CGIConfigManage::signalBatchProgress);
         const QString text = m_manager->batchCGIConfig(QUrl::fromLocalFile(path()).toString());
         QCOMPARE(text,
                  "执行完成：成功3行，失败5行。\n执行结果已保存到文件：" + QDir::toNativeSeparators(path()));
@@ -135,20 +105,18 @@ private Q_SLOTS:
                                       "Error:URL格式错误。",
                                       "",
                                       "answer of http://[fe80::1]/cgi-bin/%E4%B8%9C"};
-        QCOMPARE(results(path(), 10), expected);
+        QCOMPARE(commandResults(path(), 10), expected);
         QCOMPARE(m_logins, QStringList({"10.0.0.1:37777", "10.0.0.2:80", "10.0.0.3:80", "[fe80::1]:37777"}));
         QCOMPARE(m_transport->credentials, QStringList({"admin:secret1", "admin:a:b", "管理员:"}));
-        QCOMPARE(progress.size(), 8);
-        QCOMPARE(progress.at(1), QVariantList({2, 8, "/cgi-bin/b"}));
     }
 
     /// Cells as a spreadsheet program stores them, not as this one does.
     void numbersAndFormulasAreRead()
     {
         QByteArray header;
-        for (int column = 0; column < titles.size(); ++column) {
+        for (int column = 0; column < commandTitles.size(); ++column) {
             header += "<c r=\"" + QByteArray(1, static_cast<char>('A' + column)) +
-                      "1\" t=\"inlineStr\"><is><t>" + titles.at(column).toUtf8() + "</t></is></c>";
+                      "1\" t=\"inlineStr\"><is><t>" + commandTitles.at(column).toUtf8() + "</t></is></c>";
         }
         const QByteArray rows =
             "<row r=\"1\">" + header +
@@ -161,22 +129,22 @@ private Q_SLOTS:
         QCOMPARE(m_logins, QStringList("10.0.0.7:37777"));
         QCOMPARE(m_transport->urls, QStringList("https://10.0.0.7/cgi-bin/a"));
         QCOMPARE(m_transport->credentials, QStringList("admin:123456"));
-        QCOMPARE(results(path(), 2), QStringList({"", "OK"}));
+        QCOMPARE(commandResults(path(), 2), QStringList({"", "OK"}));
     }
 
     void aLongResultIsCutOff()
     {
-        QVERIFY(writeWorkbook({titles, deviceRow(1)}));
+        QVERIFY(writeWorkbook({commandTitles, deviceRow(1)}));
         m_transport->answer = [](const QByteArray &) {
             return QByteArray(100'000, 'x');
         };
         QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功1行"));
-        QVERIFY(results(path(), 1).first().endsWith("xxx…（内容过长，已截断）"));
+        QVERIFY(commandResults(path(), 1).first().endsWith("xxx…（内容过长，已截断）"));
     }
 
     void theUserCanStopAndTheResultsStay()
     {
-        QList<Row> rows = {titles};
+        QList<Row> rows = {commandTitles};
         for (int number = 0; number < 200; ++number)
             rows.append(deviceRow(number));
         QVERIFY(writeWorkbook(rows));
@@ -192,14 +160,14 @@ private Q_SLOTS:
         QCOMPARE(second, "正在执行另一个文件中的CGI命令。");
         QCOMPARE(third, "Error:正在发送另一条CGI命令。");
         QCOMPARE(text.section('\n', 0, 0), "已停止执行：成功1行，失败0行，未执行199行。");
-        QCOMPARE(results(path(), 3), QStringList({"OK", "", ""}));
+        QCOMPARE(commandResults(path(), 3), QStringList({"OK", "", ""}));
         // The next one is not stopped.
         QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功200行"));
     }
 
     void resultsOfAFileThatCannotBeWrittenGoBesideIt()
     {
-        QVERIFY(writeWorkbook({titles, deviceRow(1), deviceRow(2)}));
+        QVERIFY(writeWorkbook({commandTitles, deviceRow(1), deviceRow(2)}));
         const QString other = m_folder->filePath("commands_结果2.xlsx");
         QVERIFY(QFile::copy(path(), m_folder->filePath("commands_结果.xlsx"))); // not to be overwritten
         m_transport->answer = [this](const QByteArray &) {
@@ -209,14 +177,14 @@ private Q_SLOTS:
         };
         const QString text = m_manager->batchCGIConfig(path());
         QVERIFY2(text.endsWith("执行结果已另存为：" + QDir::toNativeSeparators(other)), qPrintable(text));
-        QCOMPARE(results(other, 2), QStringList({"OK", "OK"}));
-        QCOMPARE(results(m_folder->filePath("commands_结果.xlsx"), 2), QStringList({"", ""}));
+        QCOMPARE(commandResults(other, 2), QStringList({"OK", "OK"}));
+        QCOMPARE(commandResults(m_folder->filePath("commands_结果.xlsx"), 2), QStringList({"", ""}));
     }
 
     void fiveThousandRows()
     {
         constexpr int count = 5000;
-        QList<Row> rows = {titles};
+        QList<Row> rows = {commandTitles};
         for (int number = 0; number < count; ++number)
             rows.append(deviceRow(number));
         QVERIFY(writeWorkbook(rows));
@@ -225,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(m_manager->batchCGIConfig(path()).startsWith("执行完成：成功5000行，失败0行。"));
         constexpr qint64 patience = 20000; // about half a second
         QVERIFY(timer.elapsed() < patience);
-        QCOMPARE(results(path(), count), QStringList(count, "OK"));
+        QCOMPARE(commandResults(path(), count), QStringList(count, "OK"));
         QCOMPARE(m_transport->urls.last(), "http://10.0.19.250/cgi-bin/set?number=4999");
     }
 

@@ -7,7 +7,6 @@ FocusScope {
     id: page
 
     required property Batches batches
-    required property BusyState busyState
     required property bool searching
     required property bool libraryInstalled
     signal searchRequested
@@ -15,11 +14,10 @@ FocusScope {
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
-    readonly property var localConfig: LocalConfigApi
     readonly property var cgiManager: CGIConfigManageApi
+    readonly property var cgiBatches: CgiBatchesApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    readonly property var work: cgiSender.running ? cgiSender : workbook.running ? workbook : null
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
@@ -46,11 +44,6 @@ FocusScope {
         shown: page.visible
         onReadingRequested: devices.refresh()
     }
-    BusyReport {
-        active: page.work !== null
-        state: page.busyState
-        title: workbook.running ? qsTr("批量表单操作") : qsTr("批量配置CGI")
-    }
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible
@@ -62,23 +55,23 @@ FocusScope {
     }
     CgiSender {
         id: cgiSender
-        cgiManager: page.cgiManager
+        batches: page.batches
+        cgiBatches: page.cgiBatches
         commands: cgiCommands
-        deviceFactory: page.deviceFactory
         deviceTable: devices
-        localConfig: page.localConfig
-        stopper: foot.stopButton
-        onFailed: devices => {
-            const lines = devices.map(device => device.ipport + "  " + device.result.replace(/\s+/g, " "));
-            answerWindow.wanted().show(qsTr("未成功的设备"), lines.join("\n"));
+        objectName: "cgiSender"
+        onFailed: lines => {
+            if (page.visible)
+                answerWindow.wanted().show(qsTr("未成功的设备"), lines.join("\n"));
         }
         onSaid: (message, kind) => page.said(message, kind)
     }
     CgiWorkbook {
         id: workbook
+        cgiBatches: page.cgiBatches
         cgiManager: page.cgiManager
         fileDialogs: page.fileDialogs
-        stopper: foot.stopButton
+        shown: page.visible
         onSaid: (message, kind) => page.said(message, kind)
     }
     // qmllint disable unqualified
@@ -88,7 +81,7 @@ FocusScope {
         sourceComponent: BatchCGIWindow {
             commands: cgiCommands
             sender: cgiSender
-            onConfirmed: command => cgiSender.sendToAll(devices.checkedRows(), command)
+            onConfirmed: command => cgiSender.sendToAll(devices.checkedMacs(), command)
             onRefused: message => page.said(message, OVToast.Error)
         }
     }
@@ -115,7 +108,7 @@ FocusScope {
                 kind: OVButton.Primary
                 objectName: "batchCgiButton"
                 text: qsTr("批量配置CGI")
-                toolTip: qsTr("向勾选的设备依次发送同一条命令")
+                toolTip: qsTr("向勾选的设备发送同一条命令")
                 onClicked: page.askForAll()
             }
             OVButton {
@@ -187,11 +180,6 @@ FocusScope {
         y: parent.height - height
         width: parent.width - 2 * x
         batches: page.batches
-        progress: page.work?.progress ?? -1
-        running: page.work !== null
-        runningDevice: page.work?.current ?? ""
-        runningText: page.work?.runningText ?? ""
-        stoppable: true
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
         onSaid: (message, kind) => page.said(message, kind)

@@ -1,22 +1,24 @@
 // The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
 // answer, and the window that shows a long one.
 #include "cgi/cgiconfigmanage.h"
+#include "device/devicetablemodel.h"
+#include "tests/cgi/commandsite.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+
 namespace {
 
 const char *const scene =
     "    width: 1000; height: 400; visible: true\n"
-    "    onClosing: close => close.accepted = false\n"
     "    CgiCommands { id: known; cgiManager: program }\n"
+    "    DeviceTableModel { id: devices; deviceFactory: factory; Component.onCompleted: refresh() }\n"
     "    CgiSender {\n"
-    "        objectName: 'sender'; commands: known; cgiManager: program; stopper: foot.stopButton\n"
-    "        deviceFactory: program; deviceTable: program; localConfig: program\n"
+    "        objectName: 'sender'; commands: known; batches: batchList\n"
+    "        cgiBatches: works; deviceTable: devices\n"
     "    }\n"
-    "    OVFootBar { id: foot; y: 360; width: 400; text: ''; running: true; stoppable: true }\n"
     "    CgiAnswerWindow {\n"
     "        objectName: 'whole'; cgiManager: program; fileDialogs: null\n"
     "    }\n"
@@ -30,23 +32,20 @@ const char *const scene =
     "        }\n"
     "    }\n";
 
+const char *const page = "    width: 1280; height: 720; visible: true\n"
+                         "    PageCGIConfig {\n"
+                         "        objectName: 'page'; anchors.fill: parent\n"
+                         "        batches: batchList; libraryInstalled: true; searching: false\n"
+                         "    }\n";
+
 } // namespace
 
-/// Stands for what the page works with: a list of one device, and the object that sends commands and
-/// remembers them.
+/// Stands for the object that remembers commands.
 class Program : public QObject
 {
     Q_OBJECT
 public:
-    QVariantMap device;
-    int tunnelPort = 0;
-    QString answer;
-    QStringList sent;
     QString copied;
-    QStringList asked;
-    std::function<void()> whileSending = [] {
-    };
-    QHash<QString, QString> answers; ///< by address, instead of `answer`
 
     Q_INVOKABLE [[nodiscard]] static QStringList recentCommands()
     {
@@ -57,37 +56,11 @@ public:
     }
     Q_INVOKABLE [[nodiscard]] static QStringList favouriteCommands() { return {}; }
     Q_INVOKABLE static void rememberCommand(const QString &) {}
-    Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &password,
-                                        const QString &ipport)
-    {
-        sent = QStringList{url, user, password, ipport};
-        whileSending();
-        return answers.value(ipport, answer);
-    }
-    Q_INVOKABLE QVariantList sortList(const QVariantList &list, const QString &key, Qt::SortOrder order)
-    {
-        return m_manager.sortList(list, key, order);
-    }
     Q_INVOKABLE [[nodiscard]] QStringList linesOf(const QString &text) const
     {
         return m_manager.linesOf(text);
     }
-    Q_INVOKABLE void stop() { asked.append("stop"); }
     Q_INVOKABLE void copyText(const QString &text) { copied = text; }
-    Q_INVOKABLE [[nodiscard]] static QString getSearchConfigUsrename() { return "admin"; }
-    Q_INVOKABLE [[nodiscard]] static QString getSearchConfigPass() { return "secret1"; }
-    Q_INVOKABLE [[nodiscard]] QVariantMap get(int) const { return device; }
-    Q_INVOKABLE [[nodiscard]] QVariantMap getDeviceInfo(const QString &, const QString &) const
-    {
-        return device;
-    }
-    Q_INVOKABLE [[nodiscard]] int getP2PWebPort(int) const { return tunnelPort; }
-    Q_INVOKABLE void updataDeviceInfo(const QString &, const QString &key, const QVariant &value,
-                                      const QString &, const QString &)
-    {
-        device.insert(key, value);
-    }
-    Q_INVOKABLE static void refreshDevice(const QString &) {}
 
 private:
     CGIConfigManage m_manager{CgiSurroundings{}};
@@ -97,8 +70,27 @@ class TestCommands : public QObject
 {
     Q_OBJECT
     std::unique_ptr<Program> m_program;
+    std::unique_ptr<CommandSite> m_site;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
+
+    void open(const char *source)
+    {
+        m_window.reset();
+        m_engine = std::make_unique<QQmlEngine>();
+        m_window = openScene(*m_engine, source,
+                             {{"program", m_program.get()},
+                              {"factory", &m_site->factory},
+                              {"works", &m_site->commands},
+                              {"batchList", &m_site->batches},
+                              {"CDeviceFactoryApi", &m_site->factory},
+                              {"CGIConfigManageApi", m_program.get()},
+                              {"CgiBatchesApi", &m_site->commands},
+                              {"FileDialogsApi", m_program.get()}});
+        QVERIFY(m_window);
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
 
     [[nodiscard]] QQuickItem *find(const QString &name) const
     {
@@ -120,17 +112,17 @@ private Q_SLOTS:
     void init()
     {
         m_program = std::make_unique<Program>();
-        m_engine = std::make_unique<QQmlEngine>();
-        m_window = openScene(*m_engine, scene, {{"program", m_program.get()}});
-        QVERIFY(m_window);
-        m_window->requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_site = std::make_unique<CommandSite>(1);
+        for (const char *name : {"a", "b", "c"})
+            m_site->devices->add(name, QStringLiteral("10.0.0.%1:1").arg(name), 8080);
+        open(scene);
     }
 
     void cleanup()
     {
         m_window.reset();
         m_engine.reset();
+        m_site.reset();
     }
 
     /// The field of a row that is scrolled is offered something in one place and then in another.
@@ -174,90 +166,82 @@ private Q_SLOTS:
     void sendsTheCommandOfARow_data()
     {
         // url: empty: nothing is sent
-        const auto addRow = dataTable<QString, QString, QString, QString, QString, int>(
-            {"ipport", "command", "answer", "url", "said", "webPort"});
-        const auto row = [&addRow](const char *name, const char *ipport, const char *command,
-                                   const char *answer, const char *url, const char *said,
-                                   int webPort = 8080) {
-            addRow(name, ipport, command, answer, url, said, webPort);
-        };
-        row("no web port", "10.0.0.1:37777", "/cgi-bin/a", "OK", "http://10.0.0.1:80/cgi-bin/a", "", 0);
-        row("web port", "10.0.0.1:37777", " /cgi-bin/a ", "OK", "http://10.0.0.1:8080/cgi-bin/a", "");
-        row("tunnel", "127.0.0.1:5000", "/cgi-bin/a", "OK", "http://127.0.0.1:5001/cgi-bin/a", "");
-        row("no tunnel", "127.0.0.1:0", "/cgi-bin/a", "Error:没有通往设备网页端口的隧道。", "", "");
-        row("failure", "10.0.0.1:37777", "/cgi-bin/a", "Error:", "http://10.0.0.1:8080/cgi-bin/a", "");
-        row("no text", "10.0.0.1:37777", "/cgi-bin/a", "", "http://10.0.0.1:8080/cgi-bin/a",
-            "命令已执行，没有可显示的结果。");
-        row("no command", "10.0.0.1:37777", "  ", "OK", "", "请填写CGI命令的具体内容。");
-        row("no slash", "10.0.0.1:37777", "cgi-bin/a", "OK", "", "URL格式错误。");
-        row("with a host", "10.0.0.1:37777", "http://10.0.0.1/cgi-bin/a", "OK", "", "URL格式错误。");
+        const auto row =
+            dataTable<QString, QByteArray, QString, QString>({"command", "answer", "url", "said"});
+        row("blanks around", " /cgi-bin/a ", "OK", "http://10.0.0.a:8080/cgi-bin/a", "");
+        row("failure", "/cgi-bin/a", "Error:", "http://10.0.0.a:8080/cgi-bin/a", "");
+        row("no text", "/cgi-bin/a", "", "http://10.0.0.a:8080/cgi-bin/a", "命令已执行，没有可显示的结果。");
+        row("no command", "  ", "OK", "", "请填写CGI命令的具体内容。");
+        row("no slash", "cgi-bin/a", "OK", "", "URL格式错误。");
+        row("with a host", "http://10.0.0.1/cgi-bin/a", "OK", "", "URL格式错误。");
     }
 
     void sendsTheCommandOfARow()
     {
-        QFETCH(QString, ipport);
         QFETCH(QString, command);
-        QFETCH(QString, answer);
+        QFETCH(QByteArray, answer);
         QFETCH(QString, url);
-        QFETCH(int, webPort);
-        m_program->device = {
-            {"ipport", ipport}, {"identity", "02:00"}, {"httpport", webPort}, {"url", command}};
-        m_program->tunnelPort = ipport.endsWith(":0") ? 0 : 5001;
-        m_program->answer = answer;
+        m_site->devices->rows["a"].insert("url", command);
+        m_site->transport->answer = [answer](const QByteArray &) {
+            return answer;
+        };
+        auto *devices = m_window->findChild<DeviceTableModel *>();
+        devices->refresh();
         QObject *sender = m_window->findChild<QObject *>("sender");
-        QSignalSpy said(sender, SIGNAL(said(QString, int)));
+        const QSignalSpy said(sender, SIGNAL(said(QString, int)));
         QVERIFY(QMetaObject::invokeMethod(sender, "send", Q_ARG(QVariant, 0)));
-        QTRY_VERIFY(!sender->property("running").toBool());
-        QCOMPARE(m_program->sent,
-                 url.isEmpty() ? QStringList() : QStringList({url, "admin", "secret1", ipport}));
-        QCOMPARE(m_program->device.value("result").toString(),
-                 url.isEmpty() && said.count() > 0 ? QString() : answer);
+        QTRY_VERIFY(!m_site->batches.isRunning());
+        QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
         QTEST(said.value(0).value(0).toString(), "said");
+        if (!url.isEmpty()) // the table shows what the row has
+            QCOMPARE(devices->get(0).value("result").toString(), QString(answer));
     }
 
     /// Those with the same reason stand together.
     void aBatchNamesTheDevicesThatAreNotDone()
     {
-        m_program->answers = {{"10.0.0.1:1", "Error:b"}, {"10.0.0.2:1", "OK"}, {"10.0.0.3:1", "Error:a"}};
-        QVariantList rows;
-        for (const char *ipport : {"10.0.0.1:1", "10.0.0.2:1", "10.0.0.3:1"})
-            rows.append(QVariantMap{{"ipport", ipport}, {"identity", ipport}});
+        m_site->transport->answer = [](const QByteArray &url) {
+            return QByteArray(url.contains("0.a:") ? "Error:b" : url.contains("0.b:") ? "OK" : "Error:a");
+        };
         QObject *sender = m_window->findChild<QObject *>("sender");
         QSignalSpy failed(sender, SIGNAL(failed(QVariant)));
-        QVERIFY(QMetaObject::invokeMethod(sender, "sendToAll", Q_ARG(QVariant, rows),
+        const QSignalSpy said(sender, SIGNAL(said(QString, int)));
+        QVERIFY(QMetaObject::invokeMethod(sender, "sendToAll", Q_ARG(QVariant, QStringList({"a", "b", "c"})),
                                           Q_ARG(QVariant, "/cgi-bin/a")));
         QVERIFY(failed.count() == 1 || failed.wait());
-        QStringList lines;
-        const QVariantList devices = failed.first().first().toList();
-        for (const QVariant &device : devices)
-            lines.append(device.toMap().value("ipport").toString());
-        QCOMPARE(lines, QStringList({"10.0.0.3:1", "10.0.0.1:1"}));
+        QCOMPARE(failed.first().first().toStringList(),
+                 QStringList({"10.0.0.c:1  Error:a", "10.0.0.a:1  Error:b"}));
+        QVERIFY(said.value(1).value(0).toString().startsWith("2 "));
     }
 
-    void aRunningCommandCanBeStopped_data()
+    void aRunningCommandIsStoppedByTheButton()
     {
-        // clicked: empty: the window is to close
-        const auto row = dataTable<QString>({"clicked"});
-        row("by the button", "stopButton");
-        row("by closing the window", "");
+        m_site->transport->gate = std::make_unique<QSemaphore>();
+        open(page);
+        QObject *sender = m_window->findChild<QObject *>("cgiSender");
+        QVERIFY(QMetaObject::invokeMethod(sender, "sendToAll", Q_ARG(QVariant, QStringList({"a", "b"})),
+                                          Q_ARG(QVariant, "/cgi-bin/a")));
+        QTRY_COMPARE(m_site->transport->atGate, 1);
+        QTRY_VERIFY(find("stopButton"));
+        QVERIFY(QMetaObject::invokeMethod(find("stopButton"), "clicked"));
+        QTRY_VERIFY(!m_site->batches.isRunning());
+        QCOMPARE(m_site->result("b"), "未执行");
+        QTRY_VERIFY(find("cgiAnswerLines")); // names them
     }
 
-    void aRunningCommandCanBeStopped()
+    /// While another page is shown, no window opens over it.
+    void theEndOfAWorkbookWaitsForThePage()
     {
-        QFETCH(QString, clicked);
-        m_program->device = {{"ipport", "10.0.0.1:1"}, {"identity", "02:00"}, {"url", "/cgi-bin/a"}};
-        QObject *sender = m_window->findChild<QObject *>("sender");
-        m_program->whileSending = [&] {
-            QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, QPoint(500, 200)); // beside the button
-            m_program->asked.append("beside");
-            if (clicked.isEmpty())
-                m_window->close();
-            else
-                QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, place(clicked).center().toPoint());
-        };
-        QVERIFY(QMetaObject::invokeMethod(sender, "send", Q_ARG(QVariant, 0)));
-        QTRY_VERIFY(!sender->property("running").toBool());
-        QCOMPARE(m_program->asked, QStringList({"beside", "stop"}));
+        open(page);
+        QQuickItem *item = find("page");
+        const QSignalSpy said(item, SIGNAL(said(QString, int)));
+        item->setVisible(false);
+        Q_EMIT m_site->commands.workbookEnded("first\nsecond");
+        QCOMPARE(said.value(0).value(0).toString(), "first");
+        QVERIFY(!find("messageText"));
+        item->setVisible(true);
+        QTRY_VERIFY(find("messageText"));
+        QCOMPARE(find("messageText")->property("text").toString(), "first\nsecond");
     }
 
     void aLongAnswerCanBeReadToItsEnd()

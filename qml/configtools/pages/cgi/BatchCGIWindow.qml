@@ -41,7 +41,7 @@ OVDialog {
         OVParagraph {
             width: parent.width
             color: Theme.colours.sub
-            text: qsTr("向选中的 %n 台设备依次发送同一条命令：", "", root.deviceCount)
+            text: qsTr("向选中的 %n 台设备发送同一条命令：", "", root.deviceCount)
         }
         CgiCommandField {
             id: command

@@ -1,54 +1,26 @@
-// Sends commands to devices, one after another, and keeps each answer in the device's row.
+// Sends a command to devices, whose rows get the answers, and says how it has gone.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
-    required property var localConfig
-    required property var cgiManager
+    required property Batches batches
+    required property var cgiBatches
     required property var deviceTable  // a DeviceTableModel
     required property CgiCommands commands
-    readonly property alias running: batch.running
-    readonly property alias progress: batch.progress
-    readonly property alias current: batch.current
-    property alias stopper: batch.stopper
-    readonly property string runningText: qsTr("正在发送CGI命令…") + qsTr("（按Esc停止）")
+    property Batch batch: null
+    property bool single: false  // the command of one row
     signal said(string message, int kind)
-    /// A batch has ended with devices that were not done: "ipport" and "result" of each, by their results.
-    signal failed(var devices)
+    /// A batch has ended with devices that failed or were not done: a line for each, by their results.
+    signal failed(var lines)
 
     readonly property string prefix: "/cgi-bin/"
-    readonly property int kept: 4000  // letters of an answer
-    readonly property var whole: ({})  // longer answers, by the identities of their devices, the oldest first
-    readonly property int wholeLimit: 32000000  // letters of them together
-    property int wholeLength: 0
 
     /// The answer of a row, however long.
     function answerOf(row) {
         const values = deviceTable.get(row);
-        const answer = whole[values.identity];
-        return answer !== undefined && answer.startsWith(values.result) ? answer : values.result;
-    }
-
-    function forgetWhole(identity) {
-        wholeLength -= whole[identity]?.length ?? 0;
-        delete whole[identity];
-    }
-
-    /// A row is read often: it keeps the beginning of a long answer, and the whole one is kept here while there is room.
-    function keepWhole(identity, answer) {
-        forgetWhole(identity);
-        if (answer.length <= kept)
-            return;
-        for (const other of Object.keys(whole)) {
-            if (wholeLength + answer.length <= wholeLimit)
-                break;
-            forgetWhole(other);
-        }
-        whole[identity] = answer;
-        wholeLength += answer.length;
+        return cgiBatches.answerOf(values.identity, values.result ?? "");
     }
 
     /// What is wrong with a command, "" for nothing.
@@ -58,87 +30,72 @@ Item {
         return command.startsWith(prefix) ? "" : qsTr("URL格式错误。");
     }
 
-    /// Where a command goes. A device behind a tunnel has its web page on a port of its own; "" when there is none, since
-    /// the usual one would be that of this computer. A device that reports no web port has the usual one.
-    function addressOf(ipport, command) {
-        const colon = ipport.lastIndexOf(":");
-        const ip = ipport.slice(0, colon);
-        const webPort = ip === "127.0.0.1" ? deviceFactory.getP2PWebPort(Number(ipport.slice(colon + 1)))
-                                           : deviceFactory.getDeviceInfo("dh", ipport).httpport;
-        if (ip === "127.0.0.1" && !webPort)
-            return "";
-        return "http://" + ip + ":" + (webPort || 80) + command;
-    }
-
-    /// Returns the answer.
-    function sendOne(row, command) {
-        const address = addressOf(row.ipport, command);
-        const answer = address === "" ? "Error:" + qsTr("没有通往设备网页端口的隧道。")
-            : cgiManager.singleCGIConfig(address, localConfig.getSearchConfigUsrename(),
-                                         localConfig.getSearchConfigPass(), row.ipport);
-        deviceFactory.updataDeviceInfo("dh", "url", command, row.identity, row.ipport);
-        keepWhole(row.identity, answer);
-        deviceFactory.updataDeviceInfo("dh", "result", answer.slice(0, kept), row.identity, row.ipport);
-        deviceTable.refreshDevice(row.identity);
-        return answer;
-    }
-
     /// Sends the command of one row.
     function send(row) {
         const values = deviceTable.get(row);
         const command = (values.url ?? "").trim();
         const fault = faultOf(command);
-        if (fault !== "") {
+        if (fault !== "")
             said(fault, OVToast.Error);
-            return;
-        }
-        let answer = "";
-        commands.remember(command);
-        batch.start(1, () => answer = sendOne(values, command), () => values.ipport, () => {
-            if (answer === "")
-                said(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
-        });
+        else
+            begin(qsTr("发送CGI命令"), [values.identity], command, true);
     }
 
-    /// Sends one command to each of these rows.
-    function sendToAll(rows, command) {
-        const failures = [];
+    /// Sends one command to the devices of these identities.
+    function sendToAll(identities, command) {
+        begin(qsTr("批量配置CGI"), identities, command, false);
+    }
+
+    function begin(title, identities, command, isSingle) {
         commands.remember(command);
-        batch.start(rows.length, i => {
-            const answer = sendOne(rows[i], command);
-            if (answer.startsWith("Error:"))
-                failures.push({ipport: rows[i].ipport, result: answer});
-        }, i => rows[i].ipport, done => {
-            const refused = failures.length;
-            for (const row of rows.slice(done)) {
-                deviceFactory.updataDeviceInfo("dh", "result", qsTr("未执行"), row.identity, row.ipport);
-                deviceTable.refreshDevice(row.identity);
-                failures.push({ipport: row.ipport, result: qsTr("未执行")});
-            }
-            if (done < rows.length)
-                said(qsTr("已停止，完成 %1 / %2").arg(done).arg(rows.length), OVToast.Information);
-            else
-                said(qsTr("批量配置CGI命令已完成"), OVToast.Success);
-            if (refused > 0)
-                said(qsTr("%n 台设备未成功，请查看结果", "", refused), OVToast.Error);
-            if (failures.length > 0)
-                failed(cgiManager.sortList(failures, "result", Qt.AscendingOrder));
-        });
+        const begun = cgiBatches.send(title, identities, command);
+        if (begun === null)
+            return;
+        single = isSingle;
+        batch = begun;
+        deviceTable.refreshDevices(identities);
+    }
+
+    function tellEnd() {
+        const report = batch.report;
+        if (single) {
+            if (report.succeeded === 1 && batch.textOf(report.devicesWith(BatchReport.Succeeded)[0]) === "")
+                said(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
+            return;
+        }
+        if (report.notDone > 0)
+            said(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
+        else
+            said(qsTr("批量配置CGI命令已完成"), OVToast.Success);
+        if (report.failed > 0)
+            said(qsTr("%n 台设备未成功，请查看结果", "", report.failed), OVToast.Error);
+        const lines = cgiBatches.failuresOf(batch);
+        if (lines.length > 0)
+            failed(lines);
     }
 
     visible: false
 
-    // The window refuses to close while a command runs, and a recording may take hours.
     Connections {
-        enabled: batch.running
-        target: root.Window.window
+        target: root.cgiBatches
 
-        function onClosing() {
-            batch.stopping = true;
+        function onAnswered(identity) {
+            root.deviceTable.refreshDevice(identity);
         }
     }
-    OVBatch {
-        id: batch
-        onStoppingChanged: if (stopping) root.cgiManager.stop()
+    Connections {
+        target: root.batches
+
+        function onRetried(earlier, again) {
+            if (earlier === root.batch)
+                root.batch = again;
+        }
+    }
+    Connections {
+        target: root.batch
+
+        function onFinished() {
+            root.tellEnd();
+        }
     }
 }

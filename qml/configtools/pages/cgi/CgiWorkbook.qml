@@ -5,15 +5,11 @@ import configtools
 Item {
     id: root
 
+    required property var cgiBatches
     required property var cgiManager
     required property var fileDialogs
-    property bool running: false
-    property int done: 0
-    property int total: 0
-    readonly property real progress: total > 0 ? done / total : -1
-    property string current
-    property alias stopper: hold.stopper
-    readonly property string runningText: qsTr("正在执行文件中的CGI命令…") + qsTr("（按Esc停止）")
+    required property bool shown  // the page is
+    property string untold  // what has come of a workbook, until the page is shown
     signal said(string message, int kind)
 
     function choose() {
@@ -30,48 +26,32 @@ Item {
     }
 
     function run(path) {
-        running = true;
-        done = total = 0;
-        current = "";
-        hold.open();
-        beginning.path = path;
-        beginning.start();
+        cgiBatches.runWorkbook(qsTr("批量表单操作"), path);
+    }
+
+    /// On another page the user is at something else: only the first line is said there.
+    function tellEnd(text) {
+        untold = text;
+        if (shown)
+            tellUntold();
+        else
+            said(text.split("\n")[0], OVToast.Information);
+    }
+
+    function tellUntold() {
+        if (untold !== "")
+            outcome.wanted().show(untold, OVMessageBox.Information);
+        untold = "";
     }
 
     visible: false
+    onShownChanged: if (shown) tellUntold()
 
     Connections {
-        enabled: root.running
-        target: root.cgiManager
+        target: root.cgiBatches
 
-        function onSignalBatchProgress(done, total, command) {
-            root.done = done;
-            root.total = total;
-            root.current = command;
-        }
-    }
-    // The window refuses to close while a workbook runs, and a recording may take hours.
-    Connections {
-        enabled: root.running
-        target: root.Window.window
-
-        function onClosing() {
-            root.cgiManager.stop();
-        }
-    }
-    OVInputHold {
-        id: hold
-        onEscapePressed: root.cgiManager.stop()
-    }
-    Timer {
-        id: beginning
-        property string path
-        interval: 2 * Theme.paintEvery  // the page shows that work has begun
-        onTriggered: {
-            const said = root.cgiManager.batchCGIConfig(path);
-            root.running = false;
-            hold.release();
-            outcome.wanted().show(said, OVMessageBox.Information);
+        function onWorkbookEnded(text) {
+            root.tellEnd(text);
         }
     }
     // qmllint disable unqualified

@@ -1,0 +1,37 @@
+#include "cgi/internal/longanswers.h"
+
+void LongAnswers::keep(const QString &key, const QString &answer)
+{
+    const std::lock_guard lock(m_mutex);
+    forgetLocked(key);
+    if (answer.size() <= longestBeginning || answer.size() > room)
+        return;
+    while (m_length + answer.size() > room)
+        forgetLocked(QString(m_keys.constFirst()));
+    m_answers.insert(key, answer);
+    m_keys.append(key);
+    m_length += answer.size();
+}
+
+void LongAnswers::forget(const QString &key)
+{
+    const std::lock_guard lock(m_mutex);
+    forgetLocked(key);
+}
+
+QString LongAnswers::whole(const QString &key, const QString &beginning) const
+{
+    const std::lock_guard lock(m_mutex);
+    const auto answer = m_answers.constFind(key);
+    return answer != m_answers.cend() && answer->startsWith(beginning) ? *answer : beginning;
+}
+
+void LongAnswers::forgetLocked(const QString &key)
+{
+    const auto answer = m_answers.constFind(key);
+    if (answer == m_answers.cend())
+        return;
+    m_length -= answer->size();
+    m_answers.erase(answer);
+    m_keys.removeOne(key);
+}

@@ -1,0 +1,98 @@
+// Devices that commands are sent to in batches, without any network.
+#pragma once
+
+#include "cgi/cgibatches.h"
+#include "device/devicefactory.h"
+#include "tests/cgi/recordedtransport.h"
+
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+/// Rows by their identities. A device lets every password in but "wrong".
+class CommandBackEnd : public CDeviceBase
+{
+public:
+    CommandBackEnd() : CDeviceBase(nullptr) {}
+
+    QMap<QString, QVariantMap> rows;
+    QStringList logins; ///< "account password", in their order; may be read when no command runs
+
+    void add(const QString &identity, const QString &ipport, int webPort)
+    {
+        rows.insert(identity, {{QStringLiteral("mac"), identity},
+                               {QStringLiteral("ipport"), ipport},
+                               {QStringLiteral("httpport"), webPort},
+                               {QStringLiteral("state"), true},
+                               {QStringLiteral("url"), QString()},
+                               {QStringLiteral("result"), QString()}});
+    }
+
+    QVariantList filterData(const QString &, const QString &) override
+    {
+        QVariantList list;
+        for (const QVariantMap &row : std::as_const(rows))
+            list.append(QJsonObject::fromVariantMap(row));
+        return list;
+    }
+    QVariantMap getDeviceInfo(const QString &ipport) override
+    {
+        for (const QVariantMap &row : std::as_const(rows)) {
+            if (row.value(QStringLiteral("ipport")) == ipport)
+                return row;
+        }
+        return {};
+    }
+    QVariantMap getDeviceDetail(const QString &mac) override { return rows.value(mac); }
+    bool updataDeviceInfo(const QString &key, const QVariant &value, const QString &mac,
+                          const QString &) override
+    {
+        rows[mac].insert(key, value);
+        return true;
+    }
+    int checkLogin(const QString &, const QString &account, const QString &password) override
+    {
+        const std::lock_guard lock(m_mutex);
+        logins.append(account + QLatin1Char(' ') + password);
+        return password == QLatin1String("wrong") ? resultCode(LoginResult::WrongPassword) : 0;
+    }
+
+private:
+    std::mutex m_mutex;
+};
+
+struct CommandSite
+{
+    explicit CommandSite(int atOnce)
+        : batches(
+              factory, engine, [atOnce] { return atOnce; }, nullptr),
+          commands(factory, batches,
+                   {.checkLogin = {},
+                    .transport = transport,
+                    .folder = folder.path(),
+                    .localTime =
+                        [] {
+                            return QDateTime(QDate(2026, 3, 9), QTime(7, 5, 1));
+                        }},
+                   [this] { return account; })
+    {
+    }
+    ~CommandSite() { engine.end(); }
+    CommandSite(const CommandSite &) = delete;
+    CommandSite &operator=(const CommandSite &) = delete;
+
+    [[nodiscard]] QString result(const QString &identity) const
+    {
+        return devices->rows.value(identity).value(QStringLiteral("result")).toString();
+    }
+
+    QTemporaryDir folder;
+    CgiAccount account = {.user = QStringLiteral("admin"), .password = QStringLiteral("secret1")};
+    std::shared_ptr<CommandBackEnd> devices = std::make_shared<CommandBackEnd>();
+    std::shared_ptr<RecordedTransport> transport = std::make_shared<RecordedTransport>();
+    CDeviceFactory factory{{{QStringLiteral("dh"), [this] {
+                                 return devices;
+                             }}}};
+    BatchEngine engine{nullptr};
+    Batches batches;
+    CgiBatches commands;
+};

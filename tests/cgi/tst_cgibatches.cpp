@@ -1,0 +1,208 @@
+// Commands as batches: to listed devices, and from a workbook.
+#include "cgi/cgistep.h"
+#include "cgi/internal/longanswers.h"
+#include "tests/cgi/commandsite.h"
+#include "tests/cgi/commandworkbooks.h"
+#include "tests/datatable.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
+namespace {
+
+constexpr int wrongPassword = 2;
+constexpr int notDone = 15;
+
+} // namespace
+
+class TestCgiBatches : public QObject
+{
+    Q_OBJECT
+    std::unique_ptr<CommandSite> m_site;
+
+    [[nodiscard]] QString path() const { return m_site->folder.filePath("commands.xlsx"); }
+
+    Batch *send(const QString &command, const QStringList &identities) const
+    {
+        return m_site->commands.send("Title", identities, command);
+    }
+
+    /// Three devices on a site that works on so many at once.
+    void makeSite(int atOnce)
+    {
+        m_site = std::make_unique<CommandSite>(atOnce);
+        for (const char *name : {"a", "b", "c"})
+            m_site->devices->add(name, QStringLiteral("10.0.0.%1:37777").arg(name), 80);
+    }
+
+private Q_SLOTS:
+    void init() { makeSite(8); }
+    void cleanup() { m_site.reset(); }
+
+    void aRowGetsItsAnswer_data()
+    {
+        // url: empty: nothing is sent
+        const auto row = dataTable<QString, int, QString, QByteArray, QString, QString, int>(
+            {"ipport", "webPort", "password", "answer", "url", "result", "code"});
+        const char *away = "Error:没有通往设备网页端口的隧道。";
+        row("web port", "10.0.0.1:1", 8080, "s", "OK", "http://10.0.0.1:8080/cgi-bin/a", "OK", 0);
+        row("none reported", "10.0.0.1:1", 0, "s", "OK", "http://10.0.0.1:80/cgi-bin/a", "OK", 0);
+        row("tunnel", "127.0.0.1:5000", 80, "s", "OK", "http://127.0.0.1:5001/cgi-bin/a", "OK", 0);
+        row("no tunnel", "127.0.0.1:6000", 80, "s", "OK", "", away, commandFailed);
+        row("failed", "10.0.0.1:1", 80, "s", "Error:x", "http://10.0.0.1:80/cgi-bin/a", "Error:x",
+            commandFailed);
+        row("password", "10.0.0.1:1", 80, "wrong", "OK", "", "Error:账号或密码错误。", wrongPassword);
+    }
+
+    void aRowGetsItsAnswer()
+    {
+        QFETCH(QString, ipport);
+        QFETCH(int, webPort);
+        QFETCH(QString, password);
+        QFETCH(QByteArray, answer);
+        QFETCH(QString, url);
+        QFETCH(int, code);
+        m_site->devices->add("d", ipport, webPort);
+        m_site->factory.addP2PPort(5000, 5001);
+        m_site->account.password = password;
+        m_site->transport->answer = [answer](const QByteArray &) {
+            return answer;
+        };
+        Batch *batch = send("/cgi-bin/a", {"d"});
+        QVERIFY(batch);
+        QCOMPARE(m_site->devices->rows.value("d").value("url").toString(), "/cgi-bin/a");
+        QTRY_VERIFY(!batch->isRunning());
+        QTEST(m_site->result("d"), "result");
+        QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
+        QCOMPARE(batch->entries().first().outcome.result, code);
+    }
+
+    /// A stop ends a transfer that has no end of its own.
+    void theRestOfAStoppedBatchIsNamed()
+    {
+        makeSite(1);
+        m_site->transport->gate = std::make_unique<QSemaphore>(2); // the first device
+        const QSignalSpy answered(&m_site->commands, &CgiBatches::answered);
+        Batch *batch = send("/cgi-bin/a", {"a", "b", "c"});
+        QTRY_COMPARE(m_site->transport->atGate, 3);
+        batch->stop();
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(m_site->result("a"), "OK");
+        QCOMPARE(m_site->result("b"), "Error:操作已停止。");
+        QCOMPARE(m_site->result("c"), "未执行");
+        QCOMPARE(batch->report()->devicesWith(notDone), QStringList("10.0.0.c:37777"));
+        QCOMPARE(m_site->commands.failuresOf(batch),
+                 QStringList({"10.0.0.b:37777  Error:操作已停止。", "10.0.0.c:37777  未执行"}));
+        // Those that were not done get the same command in a retry, and their answers into their rows.
+        m_site->transport->gate.reset();
+        Batch *again = m_site->batches.retry(batch);
+        QVERIFY(again);
+        QTRY_VERIFY(!again->isRunning());
+        QCOMPARE(m_site->result("c"), "OK");
+        QCOMPARE(answered.size(), 4);
+    }
+
+    void theWholeOfALongAnswerIsKept()
+    {
+        const QString answer(10'000, 'x');
+        m_site->transport->answer = [answer](const QByteArray &) {
+            return answer.toUtf8();
+        };
+        Batch *batch = send("/cgi-bin/a", {"a"});
+        QTRY_VERIFY(!batch->isRunning());
+        QVERIFY(m_site->result("a").size() < answer.size());
+        QCOMPARE(batch->textOf("10.0.0.a:37777"), m_site->result("a"));
+        QCOMPARE(m_site->commands.answerOf("a", m_site->result("a")), answer);
+        QCOMPARE(m_site->commands.answerOf("a", "other"), "other");
+    }
+
+    void longAnswersMakeRoomForNewerOnes()
+    {
+        LongAnswers answers;
+        constexpr qsizetype third = LongAnswers::room / 3 + 1;
+        for (const char *key : {"a", "b", "a", "c"})
+            answers.keep(key, QString(third, key[0]));
+        QCOMPARE(answers.whole("b", "b"), "b");
+        QCOMPARE(answers.whole("a", "a").size(), third);
+        QCOMPARE(answers.whole("c", "c").size(), third);
+        answers.keep("a", "short");
+        QCOMPARE(answers.whole("a", "a"), "a");
+    }
+
+    void picturesOfTheSameSecondHaveTheirOwnFiles()
+    {
+        m_site->transport->headers = "Content-Type: image/png\r\n";
+        m_site->transport->answer = [](const QByteArray &url) {
+            return url;
+        };
+        Batch *batch = send("/cgi-bin/a", {"a", "b", "c"});
+        QTRY_VERIFY(!batch->isRunning());
+        for (const char *name : {"a", "b", "c"}) {
+            QFile file(m_site->result(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), QStringLiteral("http://10.0.0.%1:80/cgi-bin/a").arg(name).toUtf8());
+        }
+        QVERIFY(QFile::exists(m_site->folder.filePath("20260309070501.png")));
+    }
+
+    void aWorkbookGetsItsResults()
+    {
+        QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"},
+                                              {"10.0.0.a", "37777", "admin", "wrong", "/cgi-bin/2"},
+                                              {"10.0.0.b", "37777", "admin", "s", "cgi-bin/3"},
+                                              {"10.0.0.a:8080", "37777", "admin", "wrong", "/cgi-bin/4"},
+                                              {"10.0.0.a", "37777", "admin", "s", "/cgi-bin/5", "1"}}));
+        m_site->transport->answer = [](const QByteArray &url) {
+            return url.endsWith('5') ? QByteArray(100'000, 'x') : url;
+        };
+        const QSignalSpy ended(&m_site->commands, &CgiBatches::workbookEnded);
+        Batch *batch = m_site->commands.runWorkbook("Title", QUrl::fromLocalFile(path()).toString());
+        QVERIFY(batch);
+        QTRY_VERIFY(!ended.isEmpty());
+        QCOMPARE(ended.first().first().toString(),
+                 "执行完成：成功2行，失败3行。\n执行结果已保存到文件：" + QDir::toNativeSeparators(path()));
+        const QStringList results = commandResults(path(), 5);
+        QCOMPARE(results.first(4), QStringList({"http://10.0.0.a/cgi-bin/1", "Error:账号或密码错误。",
+                                                "Error:URL格式错误。", "Error:账号或密码错误。"}));
+        QVERIFY(results.last().startsWith("xxx") && results.last().endsWith("…（内容过长，已截断）"));
+        // Lines of one device keep their order, and one that refuses an account is not asked again with it.
+        QCOMPARE(m_site->transport->urls,
+                 QStringList({"http://10.0.0.a/cgi-bin/1", "https://10.0.0.a/cgi-bin/5"}));
+        QCOMPARE(m_site->devices->logins, QStringList({"admin s", "admin wrong", "admin s"}));
+        QCOMPARE(m_site->result("a"), QString()); // its row belongs to the page
+    }
+
+    void aWorkbookThatIsStoppedKeepsItsResults()
+    {
+        makeSite(1);
+        QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"},
+                                              {"10.0.0.b", "37777", "admin", "s", "/cgi-bin/2"},
+                                              {"10.0.0.a", "37777", "admin", "s", "/cgi-bin/3"}}));
+        m_site->transport->gate = std::make_unique<QSemaphore>(2);
+        QSignalSpy ended(&m_site->commands, &CgiBatches::workbookEnded);
+        Batch *batch = m_site->commands.runWorkbook("Title", path());
+        QTRY_COMPARE(m_site->transport->atGate, 3);
+        QCOMPARE(m_site->commands.runWorkbook("Title", path()), nullptr);
+        QCOMPARE(ended.takeFirst().first().toString(), "正在执行另一个文件中的CGI命令。");
+        batch->stop();
+        QTRY_VERIFY(!ended.isEmpty());
+        QVERIFY(ended.first().first().toString().startsWith("已停止执行：成功1行，失败1行，未执行1行。"));
+        QCOMPARE(commandResults(path(), 3).count(""), 1);
+        // The file is the user's again.
+        QCOMPARE(m_site->batches.retry(batch), nullptr);
+        m_site->transport->gate.reset();
+        QVERIFY(m_site->commands.runWorkbook("Title", path()));
+        QTRY_COMPARE(ended.size(), 2);
+        QVERIFY(ended.last().first().toString().startsWith("执行完成：成功3行"));
+    }
+
+    void aFileThatIsNoneIsRefused()
+    {
+        const QSignalSpy ended(&m_site->commands, &CgiBatches::workbookEnded);
+        QCOMPARE(m_site->commands.runWorkbook("Title", path()), nullptr);
+        QCOMPARE(ended.first().first().toString(), "文件打开失败");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCgiBatches)
+#include "tst_cgibatches.moc"
