@@ -393,29 +393,6 @@
     </message>
 </context>
 <context>
-    <name>WorkbookResults</name>
-    <message>
-        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
-        <translation>Stopped: %1 rows succeeded, %2 failed, %3 were not sent.</translation>
-    </message>
-    <message>
-        <source>执行完成：成功%1行，失败%2行。</source>
-        <translation>Finished: %1 rows succeeded, %2 failed.</translation>
-    </message>
-    <message>
-        <source>执行结果无法保存：%1</source>
-        <translation>The results cannot be saved: %1</translation>
-    </message>
-    <message>
-        <source>执行结果已保存到文件：%1</source>
-        <translation>The results are in the file: %1</translation>
-    </message>
-    <message>
-        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
-        <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as: %1</translation>
-    </message>
-</context>
-<context>
     <name>Batches</name>
     <message>
         <source>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</source>
@@ -591,21 +568,6 @@
     </message>
 </context>
 <context>
-    <name>CgiCommandField</name>
-    <message>
-        <source>CGI命令</source>
-        <translation>CGI command</translation>
-    </message>
-    <message>
-        <source>从常用命令中移除</source>
-        <translation>Remove from the favourites</translation>
-    </message>
-    <message>
-        <source>保存为常用命令</source>
-        <translation>Keep as a favourite</translation>
-    </message>
-</context>
-<context>
     <name>CgiBatches</name>
     <message>
         <source>没有通往设备网页端口的隧道。</source>
@@ -622,6 +584,21 @@
     <message>
         <source>第%1行 %2</source>
         <translation>Row %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CgiCommandField</name>
+    <message>
+        <source>CGI命令</source>
+        <translation>CGI command</translation>
+    </message>
+    <message>
+        <source>从常用命令中移除</source>
+        <translation>Remove from the favourites</translation>
+    </message>
+    <message>
+        <source>保存为常用命令</source>
+        <translation>Keep as a favourite</translation>
     </message>
 </context>
 <context>
@@ -2449,10 +2426,6 @@ A right click copies the result</translation>
 <context>
     <name>MainWindow</name>
     <message>
-        <source>正在搜索，请稍候再关闭</source>
-        <translation>A search is running. Close the window once it has ended.</translation>
-    </message>
-    <message>
         <source>修改IP</source>
         <translation>Modify IP</translation>
     </message>
@@ -2483,6 +2456,10 @@ A right click copies the result</translation>
     <message>
         <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
         <translation>The search found more than %1 devices. %2 answers of further devices were left out of the list. Search a smaller range.</translation>
+    </message>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>A search is running. Stop it with Esc, or close the window once it has ended.</translation>
     </message>
 </context>
 <context>
@@ -3103,6 +3080,10 @@ File path: </translation>
         <source>批处理记录</source>
         <translation>Batches</translation>
     </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>Searching for devices…</translation>
+    </message>
 </context>
 <context>
     <name>OVMessageBox</name>
@@ -3368,10 +3349,6 @@ File path: </translation>
 </context>
 <context>
     <name>PageModifyIP</name>
-    <message>
-        <source>正在搜索设备…</source>
-        <translation>Searching for devices…</translation>
-    </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
         <extracomment>At the foot of a page.</extracomment>
@@ -5014,6 +4991,29 @@ File path: </translation>
     <message>
         <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
         <translation>“%1” is running. If you exit, the devices that are left will not be done.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbookResults</name>
+    <message>
+        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
+        <translation>Stopped: %1 rows succeeded, %2 failed, %3 were not sent.</translation>
+    </message>
+    <message>
+        <source>执行完成：成功%1行，失败%2行。</source>
+        <translation>Finished: %1 rows succeeded, %2 failed.</translation>
+    </message>
+    <message>
+        <source>执行结果无法保存：%1</source>
+        <translation>The results cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>执行结果已保存到文件：%1</source>
+        <translation>The results are in the file: %1</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
+        <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as: %1</translation>
     </message>
 </context>
 </TS>

@@ -386,29 +386,6 @@
     </message>
 </context>
 <context>
-    <name>WorkbookResults</name>
-    <message>
-        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
-        <translation>已停止执行：成功%1行，失败%2行，未执行%3行。</translation>
-    </message>
-    <message>
-        <source>执行完成：成功%1行，失败%2行。</source>
-        <translation>执行完成：成功%1行，失败%2行。</translation>
-    </message>
-    <message>
-        <source>执行结果无法保存：%1</source>
-        <translation>执行结果无法保存：%1</translation>
-    </message>
-    <message>
-        <source>执行结果已保存到文件：%1</source>
-        <translation>执行结果已保存到文件：%1</translation>
-    </message>
-    <message>
-        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
-        <translation>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</translation>
-    </message>
-</context>
-<context>
     <name>Batches</name>
     <message>
         <source>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</source>
@@ -584,21 +561,6 @@
     </message>
 </context>
 <context>
-    <name>CgiCommandField</name>
-    <message>
-        <source>CGI命令</source>
-        <translation>CGI命令</translation>
-    </message>
-    <message>
-        <source>从常用命令中移除</source>
-        <translation>从常用命令中移除</translation>
-    </message>
-    <message>
-        <source>保存为常用命令</source>
-        <translation>保存为常用命令</translation>
-    </message>
-</context>
-<context>
     <name>CgiBatches</name>
     <message>
         <source>没有通往设备网页端口的隧道。</source>
@@ -615,6 +577,21 @@
     <message>
         <source>第%1行 %2</source>
         <translation>第%1行 %2</translation>
+    </message>
+</context>
+<context>
+    <name>CgiCommandField</name>
+    <message>
+        <source>CGI命令</source>
+        <translation>CGI命令</translation>
+    </message>
+    <message>
+        <source>从常用命令中移除</source>
+        <translation>从常用命令中移除</translation>
+    </message>
+    <message>
+        <source>保存为常用命令</source>
+        <translation>保存为常用命令</translation>
     </message>
 </context>
 <context>
@@ -2428,10 +2405,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>正在搜索，请稍候再关闭</source>
-        <translation>正在搜索，请稍候再关闭</translation>
-    </message>
-    <message>
         <source>修改IP</source>
         <translation>修改IP</translation>
     </message>
@@ -2462,6 +2435,10 @@
     <message>
         <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
         <translation>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</translation>
+    </message>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>正在搜索，请先停止搜索（Esc）或稍候再关闭</translation>
     </message>
 </context>
 <context>
@@ -3073,6 +3050,10 @@
         <source>批处理记录</source>
         <translation>批处理记录</translation>
     </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>正在搜索设备…</translation>
+    </message>
 </context>
 <context>
     <name>OVMessageBox</name>
@@ -3331,10 +3312,6 @@
 </context>
 <context>
     <name>PageModifyIP</name>
-    <message>
-        <source>正在搜索设备…</source>
-        <translation>正在搜索设备…</translation>
-    </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
         <extracomment>At the foot of a page.</extracomment>
@@ -4959,6 +4936,29 @@
     <message>
         <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
         <translation>“%1”正在进行。退出后，尚未完成的设备将不再处理。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbookResults</name>
+    <message>
+        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
+        <translation>已停止执行：成功%1行，失败%2行，未执行%3行。</translation>
+    </message>
+    <message>
+        <source>执行完成：成功%1行，失败%2行。</source>
+        <translation>执行完成：成功%1行，失败%2行。</translation>
+    </message>
+    <message>
+        <source>执行结果无法保存：%1</source>
+        <translation>执行结果无法保存：%1</translation>
+    </message>
+    <message>
+        <source>执行结果已保存到文件：%1</source>
+        <translation>执行结果已保存到文件：%1</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
+        <translation>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</translation>
     </message>
 </context>
 </TS>

@@ -16,6 +16,7 @@ T.ApplicationWindow {
     // qmllint enable unqualified
 
     readonly property alias count: search.count
+    readonly property alias deviceSearch: search
     readonly property alias searching: search.running
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
@@ -80,7 +81,7 @@ T.ApplicationWindow {
         if (!mayBegin(BusyState.Close))
             return false;
         if (searching) {
-            popups.say(qsTr("正在搜索，请稍候再关闭"), OVToast.Information);
+            popups.say(qsTr("正在搜索，请先停止搜索（Esc）或稍候再关闭"), OVToast.Information);
             return false;
         }
         return !leavePage(end);
@@ -137,9 +138,14 @@ T.ApplicationWindow {
         id: languageList
     }
     Shortcut {
-        enabled: window.batches.running
+        enabled: window.batches.running || search.running
         sequence: "Escape"
-        onActivated: window.batches.current.stop()
+        onActivated: {
+            if (window.batches.running)
+                window.batches.current.stop();
+            else
+                search.stop();
+        }
     }
     WindowShortcuts {
         currentTab: window.currentTab
@@ -204,8 +210,7 @@ T.ApplicationWindow {
                 batches: window.batches
                 busyState: window.busyState
                 libraryInstalled: window.libraryInstalled
-                searching: window.searching
-                searchesNothing: search.searchedNothing
+                search: window.deviceSearch
                 onLiveRequested: ipport => popups.openLive(ipport)
                 onSaid: (message, kind) => popups.say(message, kind)
                 onSearchRequested: window.requestSearch()
@@ -219,7 +224,7 @@ T.ApplicationWindow {
                     PageDeviceUpgrade {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
-                        searching: window.searching
+                        search: window.deviceSearch
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
                     }
@@ -235,7 +240,7 @@ T.ApplicationWindow {
                         batches: window.batches
                         busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
-                        searching: window.searching
+                        search: window.deviceSearch
                         onSaid: (message, kind, stay) => popups.say(message, kind, stay)
                         onSearchRequested: window.requestSearch()
                     }
@@ -250,7 +255,7 @@ T.ApplicationWindow {
                     PageSystemConfig {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
-                        searching: window.searching
+                        search: window.deviceSearch
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
                     }
@@ -265,7 +270,7 @@ T.ApplicationWindow {
                     PageCGIConfig {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
-                        searching: window.searching
+                        search: window.deviceSearch
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
                     }

@@ -1,5 +1,6 @@
 // The foot of a page: what is selected on the left, with how the last batch went and what needs a look; what is running
-// on the right. Whichever page began it, every page shows the batch. Work of the page itself goes before it.
+// on the right. Whichever page began it, every page shows the batch and the search. Work of the page itself goes before
+// them.
 import QtQuick
 import configtools
 
@@ -11,15 +12,15 @@ Item {
     property string runningText
     property string runningDevice
     property bool running: false
-    property bool stoppable: false  // by the button, while it is running
-    readonly property alias stopButton: stop
     property real progress: -1  // 0 to 1; below 0 there is no known end
     property Batches batches: null
+    property DeviceSearch search: null
     signal tickRequested(var identities)  // of the devices that are to be the ticked ones
     signal said(string message, int kind)
 
     readonly property Batch batch: batches?.current ?? null
     readonly property bool showsBatch: !running && (batch?.running ?? false)
+    readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool held: showsBatch && batch.held
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone > 0
@@ -85,7 +86,7 @@ Item {
         Row {
             height: parent.height
             spacing: Theme.signGap
-            visible: root.running || root.showsBatch
+            visible: root.running || root.showsBatch || root.showsSearch
 
             OVIcon {
                 anchors.verticalCenter: parent.verticalCenter
@@ -100,7 +101,7 @@ Item {
                 objectName: "runningText"
                 text: root.held ? qsTr("%1：连续多台设备密码错误，继续可能锁定账户。是否继续？").arg(root.batch.title)
                     : root.showsBatch ? root.batch.title + " " + root.batch.done + " / " + root.batch.total
-                    : root.runningText
+                    : root.showsSearch ? qsTr("正在搜索设备…") : root.runningText
             }
         }
         OVLabel {
@@ -114,9 +115,10 @@ Item {
         OVProgressBar {
             width: root.showsBatch ? Theme.batchBarWidth : implicitWidth
             anchors.verticalCenter: parent.verticalCenter
-            indeterminate: !root.showsBatch && root.progress < 0
-            value: root.showsBatch ? root.batch.progress : Math.max(0, root.progress)
-            visible: root.running || (root.showsBatch && !root.held)
+            indeterminate: root.running && root.progress < 0
+            value: root.showsBatch ? root.batch.progress
+                : root.showsSearch ? root.search.percent / 100 : Math.max(0, root.progress)
+            visible: root.running || root.showsSearch || (root.showsBatch && !root.held)
         }
         OVLabel {
             height: parent.height
@@ -129,8 +131,8 @@ Item {
             height: parent.height
             color: Theme.colours.sub
             font: Theme.figureFont
-            text: root.showsBatch ? root.batch.device : root.runningDevice
-            visible: text !== "" && (root.running || (root.showsBatch && !root.held))
+            text: root.showsBatch ? root.batch.device : root.showsSearch ? root.search.percent + "%" : root.runningDevice
+            visible: text !== "" && (root.running || root.showsSearch || (root.showsBatch && !root.held))
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
@@ -140,14 +142,20 @@ Item {
             onClicked: root.batch.resume()
         }
         OVLinkButton {
-            id: stop
+            readonly property bool stopping: root.showsBatch ? root.batch.stopping : root.search?.stopping ?? false
+
             anchors.verticalCenter: parent.verticalCenter
-            enabled: !root.showsBatch || !root.batch.stopping
+            enabled: !stopping
             objectName: "stopButton"
             text: enabled ? qsTr("停止") : qsTr("正在停止…")
-            toolTip: root.showsBatch ? qsTr("停止（Esc）") : ""
-            visible: root.running ? root.stoppable : root.showsBatch
-            onClicked: if (root.showsBatch) root.batch.stop()
+            toolTip: qsTr("停止（Esc）")
+            visible: root.showsBatch || root.showsSearch
+            onClicked: {
+                if (root.showsBatch)
+                    root.batch.stop();
+                else
+                    root.search.stop();
+            }
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter

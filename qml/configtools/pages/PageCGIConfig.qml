@@ -7,7 +7,8 @@ FocusScope {
     id: page
 
     required property Batches batches
-    required property bool searching
+    property DeviceSearch search: null
+    readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
     signal said(string message, int kind)
@@ -180,6 +181,7 @@ FocusScope {
         y: parent.height - height
         width: parent.width - 2 * x
         batches: page.batches
+        search: page.search
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
         onSaid: (message, kind) => page.said(message, kind)

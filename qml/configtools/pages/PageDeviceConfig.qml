@@ -8,7 +8,8 @@ FocusScope {
 
     required property Batches batches
     required property BusyState busyState
-    required property bool searching
+    property DeviceSearch search: null
+    readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
     signal said(string message, int kind, int stay)
@@ -165,6 +166,7 @@ FocusScope {
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
         batches: page.batches
+        search: page.search
         progress: session.names.progress
         running: session.names.running
         runningDevice: session.names.current

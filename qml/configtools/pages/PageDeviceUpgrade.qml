@@ -6,7 +6,8 @@ FocusScope {
     id: page
 
     required property Batches batches
-    required property bool searching
+    property DeviceSearch search: null
+    readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
     signal said(string message, int kind)
@@ -118,6 +119,7 @@ FocusScope {
         y: parent.height - height
         width: parent.width - 2 * x
         batches: page.batches
+        search: page.search
         progress: work.percent / 100
         running: work.running && !page.batches.running
         runningDevice: work.percent + "%"

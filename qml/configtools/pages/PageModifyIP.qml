@@ -7,9 +7,8 @@ FocusScope {
 
     required property Batches batches
     required property BusyState busyState
-    required property bool searching
+    required property DeviceSearch search
     required property bool libraryInstalled
-    required property bool searchesNothing
     signal searchRequested
     signal settingsRequested
     signal liveRequested(string ipport)
@@ -158,8 +157,8 @@ FocusScope {
             anchors.fill: parent
             hiddenCount: devices.totalCount
             libraryInstalled: page.libraryInstalled
-            searching: page.searching
-            searchesNothing: page.searchesNothing
+            searching: page.search.running
+            searchesNothing: page.search.searchedNothing
             onFiltersCleared: page.clearFilters()
             onSearchRequested: page.searchRequested()
             onSettingsRequested: page.settingsRequested()
@@ -172,10 +171,11 @@ FocusScope {
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
         batches: page.batches
-        progress: files.running ? files.progress : -1
-        running: page.searching || files.running
-        runningDevice: files.running ? files.current : ""
-        runningText: files.running ? files.runningText : qsTr("正在搜索设备…")
+        progress: files.progress
+        running: files.running
+        runningDevice: files.current
+        runningText: files.runningText
+        search: page.search
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
         //: Each of the devices has the address of another one.

@@ -15,11 +15,12 @@ QtObject {
     /// The settings of a search that is to follow the running one, null when none is to.
     property var next: null
 
-    /// Starts a search, or, while one runs, notes that another is to follow it: two at once would fill the same
-    /// list, and the first to end would pass for both.
+    /// Starts a search. One that runs is ended first: two at once would fill the same list, and the first to end
+    /// would pass for both.
     function start(settings) {
         if (running) {
             next = settings;
+            end();
             return;
         }
         count = percent = 0;
@@ -33,9 +34,14 @@ QtObject {
         deviceFactory.startSearch("dh");
     }
 
-    /// Ends the search: what it has found stays.
+    /// Ends the search: what it has found stays, and no other one follows.
     function stop() {
-        if (!running)
+        next = null;
+        end();
+    }
+
+    function end() {
+        if (!running || stopping)
             return;
         stopping = true;
         deviceFactory.stopSearch("dh");

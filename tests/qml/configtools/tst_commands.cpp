@@ -35,7 +35,7 @@ const char *const scene =
 const char *const page = "    width: 1280; height: 720; visible: true\n"
                          "    PageCGIConfig {\n"
                          "        objectName: 'page'; anchors.fill: parent\n"
-                         "        batches: batchList; libraryInstalled: true; searching: false\n"
+                         "        batches: batchList; libraryInstalled: true\n"
                          "    }\n";
 
 } // namespace

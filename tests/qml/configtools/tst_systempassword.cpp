@@ -10,7 +10,7 @@ namespace {
 const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    PageSystemConfig {\n"
                           "        objectName: 'page'; anchors.fill: parent\n"
-                          "        batches: works; libraryInstalled: true; searching: false\n"
+                          "        batches: works; libraryInstalled: true\n"
                           "    }\n";
 
 constexpr int notDone = 15;
