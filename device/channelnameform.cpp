@@ -5,14 +5,24 @@
 #include "device/loginresult.h"
 
 #include <algorithm>
+#include <chrono>
+#include <utility>
 
 namespace {
 
 const QString family = QStringLiteral("dh");
 
+/// The page shows that a saving has begun before the first request blocks it.
+constexpr std::chrono::milliseconds firstTurn{32};
+constexpr std::chrono::milliseconds nextTurn{1};
+
 } // namespace
 
-ChannelNameForm::ChannelNameForm(QObject *parent) : DialogRows(parent) {}
+ChannelNameForm::ChannelNameForm(QObject *parent) : DialogRows(parent)
+{
+    m_turn.setSingleShot(true);
+    connect(&m_turn, &QTimer::timeout, this, &ChannelNameForm::saveNext);
+}
 
 CDeviceFactory *ChannelNameForm::deviceFactory() const
 {
@@ -54,6 +64,7 @@ void ChannelNameForm::read()
 {
     if (!m_deviceFactory)
         return;
+    stopSaving();
     const QVariantList names =
         m_deviceFactory->getDeviceChannelData(family, QStringLiteral("channelNames"), 0);
     const QVariantList connected =
@@ -97,16 +108,6 @@ void ChannelNameForm::cut(int row)
         change(row, ByteText::cutTo(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
 }
 
-QList<int> ChannelNameForm::changedRows() const
-{
-    QList<int> rows;
-    for (int row = 0; row < rowCount(); ++row) {
-        if (m_rows.at(row).isChanged())
-            rows.append(row);
-    }
-    return rows;
-}
-
 int ChannelNameForm::firstFaulty() const
 {
     const auto found = std::find_if(m_rows.cbegin(), m_rows.cend(),
@@ -137,7 +138,67 @@ ChannelNameForm::Trouble ChannelNameForm::write(int row)
     return written.lastWrite;
 }
 
-void ChannelNameForm::endSaving()
+void ChannelNameForm::save()
+{
+    if (isSaving())
+        return;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (m_rows.at(row).isChanged())
+            m_rowsToSave.append(row);
+    }
+    if (!isSaving())
+        return;
+    m_saveTurns = 0;
+    Q_EMIT savingChanged();
+    m_turn.start(firstTurn);
+}
+
+void ChannelNameForm::saveNext()
+{
+    const Trouble trouble = write(m_rowsToSave.at(m_saveTurns++));
+    // A request may run events in which the saving is stopped.
+    if (!isSaving())
+        return;
+    if (trouble == Unanswered || trouble == Upgrading || m_saveTurns == m_rowsToSave.size()) {
+        finishSaving();
+        return;
+    }
+    Q_EMIT savingChanged();
+    m_turn.start(nextTurn);
+}
+
+void ChannelNameForm::stopSaving()
+{
+    if (isSaving())
+        finishSaving();
+}
+
+void ChannelNameForm::finishSaving()
+{
+    m_turn.stop();
+    const QList<int> rows = std::exchange(m_rowsToSave, {});
+    const auto tried = rows.first(m_saveTurns);
+    const auto isWritten = [this](int row) {
+        return !hasFailed(m_rows.at(row).lastWrite);
+    };
+    const auto failed = std::find_if_not(tried.cbegin(), tried.cend(), isWritten);
+    Q_EMIT savingChanged();
+    Q_EMIT saved(static_cast<int>(rows.size()),
+                 static_cast<int>(std::count_if(tried.cbegin(), tried.cend(), isWritten)),
+                 failed == tried.cend() ? -1 : *failed);
+}
+
+int ChannelNameForm::savingRow() const
+{
+    return m_rowsToSave.value(m_saveTurns, -1);
+}
+
+double ChannelNameForm::savingProgress() const
+{
+    return isSaving() ? static_cast<double>(m_saveTurns) / static_cast<double>(m_rowsToSave.size()) : 0;
+}
+
+void ChannelNameForm::reportSaving()
 {
     if (m_deviceFactory)
         m_deviceFactory->setConfigData(family, QStringLiteral("channelNamesSaved"), true);

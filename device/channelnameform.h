@@ -5,12 +5,14 @@
 
 #include <QList>
 #include <QPointer>
+#include <QTimer>
 
 class CDeviceFactory;
 
 /// One row for each channel. What the user types stays here until it is written, each channel for itself.
-/// Roles are those of DialogRows; "identity" is the channel's number. Reading and writing ask the device and
-/// block for the waits of the library. Lives on the scene's thread.
+/// Roles are those of DialogRows; "identity" is the channel's number. Reading and writing send requests and
+/// block for the waits of the library; a saving writes one name in each turn of the event loop. Lives on the
+/// scene's thread.
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT
@@ -20,6 +22,9 @@ class ChannelNameForm : public DialogRows
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY changed) ///< rows whose last write failed
     Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< cameras whose name is not known
+    Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
+    Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< that is written next; -1 for none
+    Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1
 public:
     /// What a row is to be told apart by.
     enum Trouble
@@ -58,9 +63,6 @@ public:
     /// Leaves as much of a name as the device can hold.
     Q_INVOKABLE void cut(int row);
 
-    /// The rows to write, in their order.
-    Q_INVOKABLE [[nodiscard]] QList<int> changedRows() const;
-
     /// The first changed row that cannot be written as it is, -1 when there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
 
@@ -68,12 +70,29 @@ public:
     /// Upgrading or Different.
     Q_INVOKABLE ChannelNameForm::Trouble write(int row);
 
-    /// Ends a saving, of which the factory's signalSetChannelNameFinished tells.
-    Q_INVOKABLE void endSaving();
+    /// Writes the changed names, in the order of their channels. Ends early when the device is away or is
+    /// being upgraded: the others would end the same. Does nothing during a saving, or when nothing is
+    /// changed.
+    Q_INVOKABLE void save();
+
+    /// Leaves out the names that are not written yet.
+    Q_INVOKABLE void stopSaving();
+
+    [[nodiscard]] bool isSaving() const { return !m_rowsToSave.isEmpty(); }
+    [[nodiscard]] int savingRow() const;
+    [[nodiscard]] double savingProgress() const;
+
+    /// Reports a saving that has ended: the factory's signalSetChannelNameFinished follows.
+    Q_INVOKABLE void reportSaving();
 
 Q_SIGNALS:
     void deviceFactoryChanged();
     void changed();
+    void savingChanged();
+
+    /// `rows` are those that were to be written. Of them `written` were taken by the device, and `failedRow`
+    /// is the first whose write failed, -1 when none has.
+    void saved(int rows, int written, int failedRow);
 
 protected:
     /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble"
@@ -101,7 +120,12 @@ private:
     [[nodiscard]] Trouble troubleOf(const Row &row) const;
     void change(int row, const QString &name);
     void tellOf(int row);
+    void saveNext();
+    void finishSaving();
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     QList<Row> m_rows;                        ///< by channel
+    QTimer m_turn;                            ///< to the next name of a saving
+    QList<int> m_rowsToSave;                  ///< of the saving that runs
+    qsizetype m_saveTurns = 0;                ///< rows that were come to
 };

@@ -54,6 +54,15 @@ private:
         return form;
     }
 
+    /// Saves new names of three channels and returns the arguments of saved().
+    static QVariantList savingOf(ChannelNameForm &form, const QString &name)
+    {
+        for (const int row : {3, 4, 5})
+            form.set(row, name + QString::number(row));
+        QSignalSpy saved(&form, &ChannelNameForm::saved);
+        form.save();
+        return saved.wait() ? saved.takeFirst() : QVariantList();
+    }
     static ChannelNameForm::Trouble troubleOf(const ChannelNameForm &form, int row)
     {
         return static_cast<ChannelNameForm::Trouble>(form.get(row).value("trouble").toInt());
@@ -125,23 +134,41 @@ private Q_SLOTS:
             return m_site->get("channelNamesResult").toInt();
         };
         const auto names = form();
-        names->endSaving(); // of nothing
+        names->reportSaving(); // of nothing
         QCOMPARE(finished.size(), 0);
         QCOMPARE(result(), -1);
-        const auto save = [&](const QString &name) {
-            for (const int row : {3, 4, 5}) {
-                names->set(row, name + QString::number(row));
-                names->write(row);
-            }
-            names->endSaving();
-        };
-        save("Hof ");
+        QCOMPARE(savingOf(*names, "Hof "), QVariantList({3, 3, -1}));
+        names->reportSaving();
         QCOMPARE(finished.size(), 1);
         QCOMPARE(result(), 0);
         setFault(Fault::RefusesItem, 1108);
-        save("Tor ");
+        QCOMPARE(savingOf(*names, "Tor "), QVariantList({3, 0, 3}));
+        names->reportSaving();
         QCOMPARE(finished.size(), 2);
         QCOMPARE(result(), 999);
+    }
+
+    void aSavingEndsEarly_data()
+    {
+        const auto row = dataTable<bool, QVariantList, int>({"isAway", "outcome", "requests"});
+        row("the device is away", true, QVariantList({3, 0, 3}), 1);
+        row("the user stops it", false, QVariantList({3, 1, -1}), 1);
+    }
+
+    void aSavingEndsEarly()
+    {
+        QFETCH(const bool, isAway);
+        open(recorder());
+        const auto names = form();
+        if (isAway)
+            setFault(Fault::NoAnswer);
+        connect(names.get(), &ChannelNameForm::savingChanged, names.get(), [form = names.get()] {
+            if (form->savingRow() == 4)
+                form->stopSaving();
+        });
+        QTEST(savingOf(*names, "Hof "), "outcome");
+        QTEST(static_cast<int>(m_site->asked("NetSetItem").size()), "requests");
+        QVERIFY(!names->isSaving());
     }
 
     void aFailureOutlastsWhatGoesWellAfterIt()
@@ -212,13 +239,13 @@ private Q_SLOTS:
         QCOMPARE(names->changedCount(), 3);
         QCOMPARE(troubleOf(*names, 1), ChannelNameForm::Empty);
         names->takeBack(1);
-        QCOMPARE(names->changedRows(), QList<int>({0, 3}));
+        QCOMPARE(names->changedCount(), 2);
 
         QCOMPARE(names->write(0), ChannelNameForm::None);
         QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the blanks
         setFault(Fault::RefusesItem, 1108);
         QCOMPARE(names->write(3), ChannelNameForm::Refused);
-        QCOMPARE(names->changedRows(), QList<int>({3})); // can be tried again
+        QCOMPARE(names->changedCount(), 1); // can be tried again
         QCOMPARE(names->failedCount(), 1);
         setFault(Fault::NoAnswer);
         QCOMPARE(names->write(3), ChannelNameForm::Unanswered);

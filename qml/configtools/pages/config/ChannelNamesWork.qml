@@ -8,12 +8,11 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
-    property var saving: []    // rows of the form that are being written
-    property int written: 0    // of them
+    property var saved: null   // how a saving ended that is still to be told of
     readonly property alias form: nameForm
-    readonly property alias running: batch.running
-    readonly property alias progress: batch.progress
-    readonly property alias current: batch.current
+    readonly property alias running: nameForm.saving
+    readonly property alias progress: nameForm.savingProgress
+    readonly property string current: running ? qsTr("通道 %1").arg(nameForm.savingRow + 1) : ""
     readonly property int unsaved: read ? nameForm.changedCount : 0
     signal rowWanted(int row)  // something is wrong in that row
 
@@ -41,38 +40,27 @@ Item {
             rowWanted(faulty);
             return;
         }
-        const rows = Array.from(nameForm.changedRows());
-        saving = rows;
-        written = 0;
-        batch.start(rows.length, i => write(rows[i]), i => qsTr("通道 %1").arg(rows[i] + 1), endSaving);
+        nameForm.save();
+        if (running)
+            hold.open();
     }
 
-    function endSaving() {
+    function endSaving(rows, written, failedRow) {
+        hold.release();
+        saved = {rows: rows, written: written, failedRow: failedRow};
         if (session.overtaken)
-            tell();  // of the saving in the login before, nothing more is heard
+            tell();  // the session of the saving has ended, and its signal does not come
         else
-            nameForm.endSaving();
+            nameForm.reportSaving();
         session.settle();
     }
 
-    function write(row) {
-        if (session.overtaken) {
-            batch.stopping = true;
-            return;
-        }
-        const trouble = nameForm.write(row);
-        if (trouble === ChannelNameForm.None || trouble === ChannelNameForm.Different)
-            ++written;
-        else if (trouble === ChannelNameForm.Unanswered || trouble === ChannelNameForm.Upgrading)
-            batch.stopping = true;  // the others would only wait, or end the same
-    }
-
     function tell() {
-        const rows = saving;
-        saving = [];
+        const {rows, written, failedRow} = saved;
+        saved = null;
         if (written > 0)
             session.image.forget();  // it shows the name of its channel, too
-        const left = rows.length - written;
+        const left = rows - written;
         if (left === 0) {
             session.said(qsTr("%n 个通道名称已保存", "", written), OVToast.Success, session.shortStay);
             return;
@@ -80,16 +68,15 @@ Item {
         const parts = Array.from([written > 0 ? qsTr("%n 个通道名称已保存", "", written) : "",
                                   qsTr("%n 个通道名称未保存", "", left)]).filter(part => part !== "");
         session.said(parts.join(qsTr("，")), OVToast.Error, session.longStay);
-        const failed = rows.find(row => nameForm.get(row).trouble !== ChannelNameForm.None);
-        if (failed !== undefined)
-            rowWanted(failed);
+        if (failedRow >= 0)
+            rowWanted(failedRow);
     }
 
     visible: false
 
     Connections {
         target: root.deviceFactory
-        enabled: root.saving.length > 0  // else the image page has written a name
+        enabled: root.saved !== null  // else the image page has written a name
 
         function onSignalSetChannelNameFinished() {
             root.tell();
@@ -98,8 +85,18 @@ Item {
     ChannelNameForm {
         id: nameForm
         deviceFactory: root.deviceFactory
+        onSaved: (rows, written, failedRow) => root.endSaving(rows, written, failedRow)
     }
-    OVBatch {
-        id: batch
+    Connections {
+        target: root.session
+
+        function onOvertakenChanged() {
+            if (root.session.overtaken)
+                nameForm.stopSaving();
+        }
+    }
+    OVInputHold {
+        id: hold
+        onEscapePressed: nameForm.stopSaving()
     }
 }
