@@ -220,6 +220,11 @@ DeviceStep CDeviceBase::copyStep(const QString &)
     return unsupportedStep();
 }
 
+DeviceStep CDeviceBase::locationStep(const QStringList &)
+{
+    return unsupportedStep();
+}
+
 DeviceStep CDeviceBase::loginStep(const QString &, const QString &, const QString &, const QString &, int,
                                   const QString &)
 {

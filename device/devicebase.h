@@ -162,6 +162,10 @@ public:
     virtual DeviceStep loginStep(const QString &address, const QString &account, const QString &password,
                                  const QString &port, int loginType, const QString &devicePort);
 
+    /// Of refreshDevices(), with one query at the addresses of the rows, before devices are searched by their
+    /// MACs. Blocks up to 6 s.
+    virtual DeviceStep locationStep(const QStringList &macs);
+
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.
     void setP2PPorts(P2PPorts *ports) { m_p2pPorts = ports; }

@@ -558,6 +558,11 @@ DeviceStep CDeviceFactory::copyStep(const QString &family, const QString &ipport
     return forward(family, &CDeviceBase::copyStep, ipport);
 }
 
+DeviceStep CDeviceFactory::locationStep(const QString &family, const QStringList &macs)
+{
+    return forward(family, &CDeviceBase::locationStep, macs);
+}
+
 DeviceStep CDeviceFactory::loginStep(const QString &family, const QString &address, const QString &account,
                                      const QString &password, const QString &port, int loginType,
                                      const QString &devicePort)

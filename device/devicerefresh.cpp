@@ -3,6 +3,7 @@
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "sdk/blocktext.h"
+#include "sdk/clock.h"
 #include "sdk/netlibrary.h"
 
 #include <QScopeGuard>
@@ -13,6 +14,7 @@
 #include <atomic>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -26,7 +28,9 @@ constexpr const char *anyLocalAddress = "0.0.0.0";
 
 /// Devices restart their network after a new address, and a datagram may get lost. Both kinds of request are
 /// made twice.
-constexpr int attempts = 4;
+constexpr int usualAttempts = 4;
+constexpr auto startWait = 1000ms;
+constexpr auto listeningTime = 3000ms;
 
 /// Requests that are made side by side, each of which waits for its whole time.
 constexpr std::size_t requestsAtOnce = 16;
@@ -43,6 +47,8 @@ public:
         const std::scoped_lock lock(m_mutex);
         std::vector<sdk::SearchByAddressesRequest> requests;
         for (const QString &address : m_addresses) {
+            if (address.isEmpty())
+                continue;
             if (requests.empty() || requests.back().count == sdk::maximumSearchAddresses)
                 requests.push_back(
                     {.size = sizeof(sdk::SearchByAddressesRequest), .count = 0, .addresses = {}});
@@ -53,11 +59,18 @@ public:
         return requests;
     }
 
-    /// The address at which the device is waited for; empty when it is not.
-    [[nodiscard]] QString addressOf(const QString &name) const
+    /// The address that the row of a device has that is waited for: empty when it is not known.
+    [[nodiscard]] std::optional<QString> addressOf(const QString &name) const
     {
         const std::scoped_lock lock(m_mutex);
-        return m_addresses.value(name);
+        const auto found = m_addresses.constFind(name);
+        return found == m_addresses.cend() ? std::nullopt : std::optional(*found);
+    }
+
+    [[nodiscard]] bool isEmpty() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_addresses.isEmpty();
     }
 
     void remove(const QString &name)
@@ -88,8 +101,8 @@ struct ResponseReceiver
         if (!hasIPv4Address(answer))
             return;
         const QString name = store.nameOf(answer);
-        const QString address = waiting.addressOf(name);
-        if (address.isEmpty() || !store.updateRow(name, answer, address))
+        const std::optional<QString> address = waiting.addressOf(name);
+        if (!address || !store.updateRow(name, answer, *address))
             return;
         // After a first password some devices report the old state for a moment.
         if (isInitialised(answer.device))
@@ -117,28 +130,42 @@ void DeviceRefresh::requestStop()
     m_stop.request_stop();
 }
 
-void DeviceRefresh::start(const QStringList &names)
+QHash<QString, QString> DeviceRefresh::addressesOf(const QStringList &names) const
 {
     QHash<QString, QString> devices;
     for (const QString &name : names) {
         const QJsonObject row = m_store->row(name);
         const QString address = rowAddress(row);
-        const bool isIPv4 = !address.isEmpty() && !address.contains(QLatin1Char(':'));
+        const bool isIPv4 = !row.isEmpty() && !address.contains(QLatin1Char(':'));
         if (isIPv4 && row.value(DeviceRowKey::loginType).toString() != QLatin1String("P2P"))
             devices.insert(name, address);
     }
+    return devices;
+}
+
+void DeviceRefresh::locate(const QStringList &names, const std::stop_token &stop)
+{
+    const QHash<QString, QString> devices = addressesOf(names);
+    if (!devices.isEmpty() && m_libraries.net)
+        run(devices, 1, stop);
+}
+
+void DeviceRefresh::start(const QStringList &names)
+{
+    const QHash<QString, QString> devices = addressesOf(names);
     if (devices.isEmpty() || !m_libraries.net)
         return;
     m_tasks.removeIf([](const QFuture<void> &task) { return task.isFinished(); });
-    m_tasks.append(QtConcurrent::run([this, devices, stop = m_stop.get_token()] { run(devices, stop); }));
+    m_tasks.append(QtConcurrent::run([this, devices, stop = m_stop.get_token()] {
+        // The task mostly waits: its thread must not count against those that the pool keeps for work.
+        QThreadPool::globalInstance()->releaseThread();
+        const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
+        run(devices, usualAttempts, stop);
+    }));
 }
 
-void DeviceRefresh::run(const QHash<QString, QString> &devices, const std::stop_token &stop)
+void DeviceRefresh::run(const QHash<QString, QString> &devices, int attempts, const std::stop_token &stop)
 {
-    // The task mostly waits: its thread must not count against those that the pool keeps for work.
-    QThreadPool::globalInstance()->releaseThread();
-    const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
-
     sdk::NetLibrary &net = *m_libraries.net;
     WaitingDevices waiting(devices);
     ResponseReceiver receiver{.store = *m_store, .waiting = waiting, .rowChanged = [this] {
@@ -163,4 +190,16 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, const std::stop_
             others.emplace_back(askInTurn);
         askInTurn();
     }
+    if (waiting.isEmpty() || stop.stop_requested())
+        return;
+
+    sdk::SearchParameter local{};
+    local.size = sizeof(local);
+    local.handler = &ResponseReceiver::handle;
+    local.user = &receiver;
+    const std::int64_t search = net.NetStartSearchDevices(local, startWait);
+    if (search == 0)
+        return;
+    m_libraries.clock->wait(listeningTime, stop);
+    net.NetStopSearchDevices(search);
 }

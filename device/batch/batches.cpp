@@ -5,6 +5,7 @@
 #include "device/devicefactory.h"
 #include "device/logging.h"
 
+#include <memory>
 #include <utility>
 
 namespace {
@@ -89,10 +90,13 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title)
         if (entry.outcome.result == BatchReport::Succeeded)
             plan.devices.append(batchDevice(m_factory, plan.family, entry.device.name));
     }
-    return plan.devices.isEmpty() ? nullptr : startAddresses(std::move(plan), batch->plan().addressesBefore);
+    return plan.devices.isEmpty()
+               ? nullptr
+               : startAddresses(std::move(plan), batch->plan().addressesBefore, Locating::Before);
 }
 
-Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets)
+Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
+                               Locating locating)
 {
     QList<AddressChange> changes;
     for (const BatchDevice &device : std::as_const(plan.devices)) {
@@ -122,6 +126,21 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
                            : m_factory.addressStep(family, device.name, target.address, target.mask,
                                                    target.gateway, false);
     };
+    if (locating == Locating::Before) {
+        QStringList names;
+        for (const BatchDevice &device : std::as_const(plan.devices))
+            names.append(device.name);
+        // One after another: the step of the first device locates them all.
+        plan.stepOf = [locate = m_factory.locationStep(plan.family, names), stepOf = plan.stepOf,
+                       located = std::make_shared<bool>(false)](const BatchDevice &device) -> DeviceStep {
+            return [=, step = stepOf(device)](const StepControl &control) {
+                if (!std::exchange(*located, true))
+                    locate(control);
+                return control.isStopped() ? StepOutcome{.result = BatchReport::NotDone, .text = {}}
+                                           : step(control);
+            };
+        };
+    }
     plan.changesRows = true;
     plan.notesResults = true;
     return start(std::move(plan));

@@ -47,7 +47,8 @@ public:
                                        const QStringList &addresses, const QString &mask,
                                        const QString &gateway, bool dhcp);
 
-    /// The settings that the changed devices of an ended changeAddresses() had before.
+    /// The settings that the changed devices of an ended changeAddresses() had before. Devices that do not
+    /// respond at the addresses of their rows are searched by their MACs first.
     Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title);
 
     /// The encode settings of the current session's channel, for devices by address and port.
@@ -79,8 +80,16 @@ Q_SIGNALS:
     void retried(Batch *earlier, Batch *again); ///< before the first result of `again`
 
 private:
+    /// Whether the addresses of the devices are looked up before they are changed.
+    enum class Locating
+    {
+        None,
+        Before,
+    };
+
     /// `targets` hold what each device gets, by identity.
-    Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets);
+    Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
+                          Locating locating = Locating::None);
     void finish(Batch *batch, int work);
     /// Whether addresses may be changed now; otherwise refused() says why not.
     [[nodiscard]] bool mayChangeAddresses();

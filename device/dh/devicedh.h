@@ -146,6 +146,7 @@ public:
     /// cannot do is skipped, and named in its row's "result".
     void copyConfigToDevice(const QStringList &devlist) override;
     DeviceStep copyStep(const QString &ipport) override;
+    DeviceStep locationStep(const QStringList &macs) override;
 
     // The camera image page: devicedhcamera.cpp
     /// What the camera can do and its configurations; the values come with getVideoIn().

@@ -22,6 +22,14 @@ void CDeviceDH::refreshDevices(const QStringList &macs)
     m_refresh->start(macs);
 }
 
+DeviceStep CDeviceDH::locationStep(const QStringList &macs)
+{
+    return [this, macs](const StepControl &control) {
+        m_refresh->locate(macs, control.stopToken());
+        return StepOutcome();
+    };
+}
+
 QVariantList CDeviceDH::filterData(const QString &filtertype, const QString &searchtext)
 {
     return filteredRows(store().ipv4Rows(), filtertype, searchtext, RowFamily::IPv4);

@@ -152,9 +152,18 @@ private Q_SLOTS:
         std::reverse(backwards.begin(), backwards.end());
         QCOMPARE(askedMacs("NetModifyDeviceBySearch"), backwards);
 
+        m_site->site->changeDevice(m_devices.at(2).mac, [](auto &device, const auto &) {
+            device.address = "192.168.1.77"; // it does not respond where it was put
+        });
+        m_site->site->requests().clear();
         Batch *back = m_batches->putAddressesBack(batch, "Back");
         QVERIFY(back);
         QTRY_VERIFY(!back->isRunning());
+        QStringList asked;
+        for (const sdk::demo::RecordedRequest &request : m_site->site->requests().all())
+            asked.append(request.operation);
+        QVERIFY(asked.contains("NetStartSearchDevices"));
+        QVERIFY(asked.indexOf("NetStartSearchDevices") < asked.indexOf("NetModifyDeviceBySearch"));
         QCOMPARE(back->report()->succeeded(), 4);
         QCOMPARE(addresses(), before);
     }
