@@ -25,6 +25,20 @@ enum class CapabilityQuery : std::uint32_t
 
 /// Operations may be called from any thread, several at a time. A failed one leaves its error code for the
 /// calling thread, to be fetched with NetGetLastError.
+///
+/// - One session serves several threads at the same time. A provider that can send only one request of a
+/// session
+///   at a time lets the others wait, each within its own `wait`. The requests of one thread reach the device
+///   in the order of their calls.
+/// - NetLogout may be called while other operations of its session run. These end as if they had come first,
+/// or
+///   fail; after they have ended, nothing uses the session any more.
+/// - The operations of one stream, one upgrade or one local search are called by one thread at a time, those
+/// of
+///   different handles by any.
+/// - A handler must not block: it delays what else its thread delivers. What must not be called from a
+/// handler
+///   says so.
 class NetLibrary
 {
 public:

@@ -49,7 +49,7 @@ bool DemoNetLibrary::maintain(const CallGate::Call &call, const std::optional<De
         return false;
     NetError error = NetError::NetworkFailure;
     m_site.changeDevice(session->mac,
-                        [&](SceneDevice &device, const QList<SceneDevice> &) { error = change(device); });
+                        [&](SceneDevice &device, const DeviceAddresses &) { error = change(device); });
     return error == NetError::None || m_error.fail(error);
 }
 

@@ -12,7 +12,7 @@
 
 #include <QFileInfo>
 
-#include <array>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -124,7 +124,7 @@ QList<SceneDevice> DemoSite::devices() const
 std::optional<SceneDevice> DemoSite::device(const QString &mac) const
 {
     const std::lock_guard lock(m_mutex);
-    const qsizetype place = m_placeOfMac.value(mac.toLower(), -1);
+    const qsizetype place = placeLocked(mac);
     return place < 0 ? std::nullopt : std::optional(m_devices.at(place));
 }
 
@@ -135,25 +135,42 @@ void DemoSite::visitDevices(const std::function<void(const SceneDevice &)> &visi
         visitor(device);
 }
 
+void DemoSite::visitDevicesAt(const QStringList &addresses,
+                              const std::function<void(const SceneDevice &)> &visitor) const
+{
+    const std::lock_guard lock(m_mutex);
+    std::set<qsizetype> places;
+    for (const QString &address : addresses) {
+        for (const QString &mac : m_addresses.macsAt(address))
+            places.insert(placeLocked(mac));
+    }
+    for (const qsizetype place : places)
+        visitor(m_devices.at(place));
+}
+
 void DemoSite::setDevice(const SceneDevice &device)
 {
     const std::lock_guard lock(m_mutex);
     SceneDevice lowerCase = device;
     lowerCase.mac = device.mac.toLower();
-    if (SceneDevice *known = findLocked(lowerCase.mac)) {
-        *known = lowerCase;
-        return;
+    const qsizetype place = placeLocked(lowerCase.mac);
+    if (place >= 0) {
+        m_addresses.remove(m_devices.at(place));
+        m_devices[place] = lowerCase;
+    } else {
+        m_placeOfMac.insert(lowerCase.mac, m_devices.size());
+        m_devices.append(lowerCase);
     }
-    m_placeOfMac.insert(lowerCase.mac, m_devices.size());
-    m_devices.append(lowerCase);
+    m_addresses.add(lowerCase);
 }
 
 bool DemoSite::removeDevice(const QString &mac)
 {
     const std::lock_guard lock(m_mutex);
-    const qsizetype place = m_placeOfMac.value(mac.toLower(), -1);
+    const qsizetype place = placeLocked(mac);
     if (place < 0)
         return false;
+    m_addresses.remove(m_devices.at(place));
     m_devices.removeAt(place);
     m_placeOfMac.remove(mac.toLower());
     for (qsizetype later = place; later < m_devices.size(); ++later)
@@ -162,19 +179,26 @@ bool DemoSite::removeDevice(const QString &mac)
 }
 
 bool DemoSite::changeDevice(
-    const QString &mac, const std::function<void(SceneDevice &device, const QList<SceneDevice> &all)> &change)
+    const QString &mac,
+    const std::function<void(SceneDevice &device, const DeviceAddresses &addresses)> &change)
 {
     const std::lock_guard lock(m_mutex);
-    SceneDevice *device = findLocked(mac);
-    if (!device)
+    const qsizetype place = placeLocked(mac);
+    if (place < 0)
         return false;
-    change(*device, m_devices);
+    SceneDevice &device = m_devices[place];
+    const SceneDevice before = device;
+    change(device, m_addresses);
+    if (device.address != before.address || device.ipv6 != before.ipv6) {
+        m_addresses.remove(before);
+        m_addresses.add(device);
+    }
     return true;
 }
 
 bool DemoSite::setFault(const QString &mac, const FaultSetting &setting)
 {
-    return changeDevice(mac, [&setting](SceneDevice &device, const QList<SceneDevice> &) {
+    return changeDevice(mac, [&setting](SceneDevice &device, const DeviceAddresses &) {
         device.faults.removeIf(
             [&setting](const FaultSetting &other) { return other.fault == setting.fault; });
         device.faults.append(setting);
@@ -183,8 +207,8 @@ bool DemoSite::setFault(const QString &mac, const FaultSetting &setting)
 
 bool DemoSite::clearFault(const QString &mac, Fault fault)
 {
-    return changeDevice(
-        mac, [fault](SceneDevice &device, const QList<SceneDevice> &) { device.clearFault(fault); });
+    return changeDevice(mac,
+                        [fault](SceneDevice &device, const DeviceAddresses &) { device.clearFault(fault); });
 }
 
 QString DemoSite::httpProxy()
@@ -202,10 +226,9 @@ QString DemoSite::localAddressFor(const SceneDevice &device, int ipVersion) cons
     return device.address.startsWith(u"127.") ? u"127.0.0.1"_s : m_localAddress;
 }
 
-SceneDevice *DemoSite::findLocked(const QString &mac)
+qsizetype DemoSite::placeLocked(const QString &mac) const
 {
-    const qsizetype place = m_placeOfMac.value(mac.toLower(), -1);
-    return place < 0 ? nullptr : &m_devices[place];
+    return m_placeOfMac.value(mac.toLower(), -1);
 }
 
 } // namespace sdk::demo

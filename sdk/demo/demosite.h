@@ -1,6 +1,7 @@
 // A whole simulated site in this process: try the tool, train, reproduce a fault.
 #pragma once
 
+#include "sdk/demo/deviceaddresses.h"
 #include "sdk/demo/requestrecord.h"
 #include "sdk/demo/scene.h"
 #include "sdk/sdklibraries.h"
@@ -57,14 +58,20 @@ public:
     /// call it.
     void visitDevices(const std::function<void(const SceneDevice &)> &visitor) const;
 
+    /// The same for those that have one of the addresses (IPv4, or IPv6 as canonicalIpv6Address() writes it),
+    /// in the order of the scene. Its time does not depend on the number of devices.
+    void visitDevicesAt(const QStringList &addresses,
+                        const std::function<void(const SceneDevice &)> &visitor) const;
+
     /// Changes the device of the same MAC, or brings a new one to the site.
     void setDevice(const SceneDevice &device);
 
-    /// Lets `change` change a device (its MAC stays) while nobody else changes the site; `all` are the
-    /// devices of the site. The site is locked meanwhile: `change` must not call it. This and the following
+    /// Lets `change` change a device (its MAC stays) while nobody else changes the site; `addresses` tells
+    /// who has which address. The site is locked meanwhile: `change` must not call it. This and the following
     /// return false when the site has no such device.
-    bool changeDevice(const QString &mac,
-                      const std::function<void(SceneDevice &device, const QList<SceneDevice> &all)> &change);
+    bool
+    changeDevice(const QString &mac,
+                 const std::function<void(SceneDevice &device, const DeviceAddresses &addresses)> &change);
     bool removeDevice(const QString &mac);
     bool setFault(const QString &mac, const FaultSetting &setting);
     bool clearFault(const QString &mac, Fault fault);
@@ -87,7 +94,7 @@ public:
 
 private:
     DemoSite(const Scene &scene, std::shared_ptr<Clock> clock);
-    [[nodiscard]] SceneDevice *findLocked(const QString &mac);
+    [[nodiscard]] qsizetype placeLocked(const QString &mac) const;
 
     const QString m_title;
     const QString m_description;
@@ -98,6 +105,7 @@ private:
     mutable std::mutex m_mutex;
     QList<SceneDevice> m_devices;
     QHash<QString, qsizetype> m_placeOfMac;
+    DeviceAddresses m_addresses; ///< of m_devices
     const std::shared_ptr<ConfigLibrary> m_config;
     const std::unique_ptr<HttpResponder> m_httpResponder;
     // Last, the agent before those that look at its ports: threads end before what they use.

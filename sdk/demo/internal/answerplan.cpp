@@ -54,7 +54,7 @@ std::vector<PlannedAnswer> planAddressSearch(const DemoSite &site, SearchKind ki
                                              std::int64_t end)
 {
     std::vector<PlannedAnswer> answers;
-    site.visitDevices([&](const SceneDevice &device) {
+    site.visitDevicesAt(addresses.values(), [&](const SceneDevice &device) {
         if (!answersKind(device, kind, start))
             return;
         // Nothing can be sent to a device that has no address yet.

@@ -17,7 +17,7 @@ bool isUnset(const QString &address)
     return address == QLatin1String("0.0.0.0");
 }
 
-void takeLease(SceneDevice &device, const QList<SceneDevice> &all, const QString &localAddress)
+void takeLease(SceneDevice &device, const DeviceAddresses &addresses, const QString &localAddress)
 {
     if (device.dhcp && !isUnset(device.address))
         return;
@@ -29,12 +29,7 @@ void takeLease(SceneDevice &device, const QList<SceneDevice> &all, const QString
     device.gateway = segment + u'1';
     for (int number = firstLease; number <= lastLease; ++number) {
         const QString address = segment + QString::number(number);
-        const bool isTaken =
-            address == localAddress ||
-            std::any_of(all.begin(), all.end(), [&address, &device](const SceneDevice &other) {
-                return other.address == address && other.mac != device.mac;
-            });
-        if (!isTaken) {
+        if (address != localAddress && !addresses.isTaken(address, device)) {
             device.address = address;
             return;
         }
@@ -42,7 +37,7 @@ void takeLease(SceneDevice &device, const QList<SceneDevice> &all, const QString
     device.address = QStringLiteral("0.0.0.0");
 }
 
-NetError changeAddress(SceneDevice &device, const QList<SceneDevice> &all,
+NetError changeAddress(SceneDevice &device, const DeviceAddresses &addresses,
                        const SearchDeviceInformation &wanted, const QString &localAddress)
 {
     if (device.hasFault(Fault::RefusesAddressChange))
@@ -50,7 +45,7 @@ NetError changeAddress(SceneDevice &device, const QList<SceneDevice> &all,
     if (device.isUninitialised() || device.address.isEmpty() || wanted.ipVersion != 4)
         return NetError::NotSupported;
     if (wanted.dhcpEnabled != 0) {
-        takeLease(device, all, localAddress);
+        takeLease(device, addresses, localAddress);
         return NetError::None;
     }
     const QString address = textOf(wanted.address);
@@ -71,7 +66,7 @@ NetError changeAddress(SceneDevice &device, const QList<SceneDevice> &all,
 NetError giveFirstAccount(DemoSite &site, const QString &mac, const SceneAccount &account)
 {
     NetError error = NetError::ConnectTimeout;
-    site.changeDevice(mac, [&](SceneDevice &device, const QList<SceneDevice> &) {
+    site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &) {
         if (device.hasFault(Fault::RefusesInitialisation)) {
             error = NetError::ConnectFailed;
         } else if (!device.isUninitialised() || account.user.isEmpty() || account.password.isEmpty()) {
@@ -90,8 +85,8 @@ NetError giveAddress(DemoSite &site, const QString &mac, const SearchDeviceInfor
 {
     NetError error = NetError::ConnectTimeout;
     const QString localAddress = site.localAddress();
-    site.changeDevice(mac, [&](SceneDevice &device, const QList<SceneDevice> &all) {
-        error = changeAddress(device, all, wanted, localAddress);
+    site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &addresses) {
+        error = changeAddress(device, addresses, wanted, localAddress);
     });
     return error;
 }

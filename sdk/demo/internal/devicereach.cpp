@@ -40,10 +40,11 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port, Device
     if (isLoopback)
         found.kind = DeviceReach::Kind::Refuses; // this computer is always there
     const std::int64_t now = site.clock().now();
-    site.visitDevices([&](const SceneDevice &device) {
-        const bool isHere = ipv6.isEmpty() ? isIpv4 && device.address == address : device.ipv6 == ipv6;
-        if (!isHere || device.isRemote || !device.isListening(now) ||
-            found.kind == DeviceReach::Kind::Answers)
+    const QString &wanted = ipv6.isEmpty() ? address : ipv6;
+    if (ipv6.isEmpty() && !isIpv4)
+        return found;
+    site.visitDevicesAt({wanted}, [&](const SceneDevice &device) {
+        if (device.isRemote || !device.isListening(now) || found.kind == DeviceReach::Kind::Answers)
             return;
         if (port != 0 && portOf(device, kind) == port)
             found = {DeviceReach::Kind::Answers, {device.mac, 0}};

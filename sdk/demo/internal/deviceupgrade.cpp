@@ -109,7 +109,7 @@ bool DeviceUpgrade::beginWriting()
 
 void DeviceUpgrade::finish()
 {
-    m_site.changeDevice(m_order.session.mac, [this](SceneDevice &device, const QList<SceneDevice> &) {
+    m_site.changeDevice(m_order.session.mac, [this](SceneDevice &device, const DeviceAddresses &) {
         installFirmware(device, *m_order.firmware, m_site.clock().now());
     });
     m_sessions.breakSessionsTo(m_order.session.mac);

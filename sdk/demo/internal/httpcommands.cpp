@@ -132,7 +132,7 @@ bool Command::change(const std::function<NetError(SceneDevice &device)> &change)
 {
     NetError error = NetError::ConnectFailed; // of a device that has left the site meanwhile
     m_site.changeDevice(m_device.mac,
-                        [&](SceneDevice &device, const QList<SceneDevice> &) { error = change(device); });
+                        [&](SceneDevice &device, const DeviceAddresses &) { error = change(device); });
     return error == NetError::None;
 }
 

@@ -118,7 +118,7 @@ private Q_SLOTS:
         QFETCH(int, device);
         const HttpSite test({camera(1, 0ms), oldCamera(2)});
         for (const QString &mac : {camera(1, 0ms).mac, camera(2, 0ms).mac}) {
-            test.site->changeDevice(mac, [](SceneDevice &changed, const QList<SceneDevice> &) {
+            test.site->changeDevice(mac, [](SceneDevice &changed, const DeviceAddresses &) {
                 changed.accounts.append({u"值班 \"1\""_s, u"口令:@\\ %25"_s});
             });
         }

@@ -3,6 +3,10 @@
 #include "tests/datatable.h"
 #include "tests/sdk/demo/testsite.h"
 
+#include <array>
+#include <atomic>
+#include <thread>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace sdk;
@@ -98,6 +102,31 @@ private Q_SLOTS:
         QCOMPARE(secure > 0, secureError == NetError::None);
         if (error != NetError::None)
             QCOMPARE(netError(*site.net), secureError);
+    }
+
+    void aSessionServesSeveralThreads()
+    {
+        const TestSite test({camera(1, 100ms)});
+        const std::int64_t handle = Login(*test.net, u"192.168.1.1"_s, 8800).handle;
+        test.site->setFault(camera(1, 0ms).mac, {.fault = Fault::SlowAnswers, .number = 1000, .text = {}});
+        std::atomic<int> answered = 0;
+        const auto ask = [&] {
+            DeviceAttributes attributes = {};
+            std::uint32_t size = 0;
+            if (test.net->NetQueryConfig(handle, QueryCommand::DeviceAttributes, -1, &attributes,
+                                         sizeof(attributes), size, 5000ms))
+                ++answered;
+        };
+        {
+            const std::array<std::jthread, 4> threads = {std::jthread(ask), std::jthread(ask),
+                                                         std::jthread(ask), std::jthread(ask)};
+            QVERIFY(test.clock->waitForWaiters(4)); // none waits for another one
+            QVERIFY(test.net->NetLogout(handle));
+            test.clock->advance(1000ms);
+        }
+        QCOMPARE(answered, 4); // they came before the logout
+        ask();
+        QCOMPARE(lastError(*test.net), DemoError::UnknownHandle);
     }
 
     void anOldDeviceHasItsFirstPasswordAgainAfterAReset()
