@@ -220,6 +220,11 @@ DeviceStep CDeviceBase::copyStep(const QString &)
     return unsupportedStep();
 }
 
+QList<DeviceStep> CDeviceBase::snapshotSteps(const QString &)
+{
+    return {};
+}
+
 DeviceStep CDeviceBase::locationStep(const QStringList &)
 {
     return unsupportedStep();

@@ -158,6 +158,10 @@ public:
     /// Of copyConfigToDevice(). What is copied is what the current session has read when the step is made.
     /// The text of the outcome names what the device has skipped.
     virtual DeviceStep copyStep(const QString &ipport);
+    /// Of snapPictureToFile() with "liveCapture": a step for each channel of the current session, in their
+    /// order. Each reports its channel by signalSnapPictureToFile, on the thread that it runs on. Empty
+    /// without a session.
+    virtual QList<DeviceStep> snapshotSteps(const QString &address);
     /// Of getLoginDevice().
     virtual DeviceStep loginStep(const QString &address, const QString &account, const QString &password,
                                  const QString &port, int loginType, const QString &devicePort);

@@ -558,6 +558,11 @@ DeviceStep CDeviceFactory::copyStep(const QString &family, const QString &ipport
     return forward(family, &CDeviceBase::copyStep, ipport);
 }
 
+QList<DeviceStep> CDeviceFactory::snapshotSteps(const QString &family, const QString &address)
+{
+    return forward(family, &CDeviceBase::snapshotSteps, address);
+}
+
 DeviceStep CDeviceFactory::locationStep(const QString &family, const QStringList &macs)
 {
     return forward(family, &CDeviceBase::locationStep, macs);

@@ -183,6 +183,7 @@ public:
     [[nodiscard]] DeviceStep addressStep(const QString &family, const QString &mac, const QString &newip,
                                          const QString &newsubmask, const QString &newgateway, bool dhcpON);
     [[nodiscard]] DeviceStep copyStep(const QString &family, const QString &ipport);
+    [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &family, const QString &address);
     [[nodiscard]] DeviceStep locationStep(const QString &family, const QStringList &macs);
     [[nodiscard]] DeviceStep loginStep(const QString &family, const QString &address, const QString &account,
                                        const QString &password, const QString &port, int loginType,

@@ -51,6 +51,8 @@ QString ResultNames::of(int code)
         return tr("未执行");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
+    case snapshotFailed:
+        return tr("抓图失败");
     case commandFailed:
         return tr("命令失败");
     case refusedByDevice:

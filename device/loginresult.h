@@ -37,6 +37,9 @@ enum class LoginResult : int
     return static_cast<int>(result);
 }
 
+/// The result of a snapshot whose channel has no camera, or whose file cannot be written.
+inline constexpr int snapshotFailed = 997;
+
 /// What a result code means, in the user's language. Codes that nobody has given a meaning are named by
 /// number.
 [[nodiscard]] QString resultName(int code);

@@ -406,6 +406,10 @@
         <source>系统资源不足，无法开始</source>
         <translation>Not enough system resources to begin</translation>
     </message>
+    <message>
+        <source>%1 通道 %2</source>
+        <translation>%1 channel %2</translation>
+    </message>
 </context>
 <context>
     <name>BusyState</name>
@@ -2361,6 +2365,10 @@ A right click copies the result</translation>
         <source>全屏</source>
         <translation>Full screen</translation>
     </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1” is running. Wait for it to finish.</translation>
+    </message>
 </context>
 <context>
     <name>LiveWindow</name>
@@ -3564,6 +3572,10 @@ File path: </translation>
         <source>未执行</source>
         <translation>Not done</translation>
     </message>
+    <message>
+        <source>抓图失败</source>
+        <translation>Snapshot failed</translation>
+    </message>
 </context>
 <context>
     <name>SearchSettingsDialog</name>
@@ -3682,6 +3694,25 @@ File path: </translation>
     <message>
         <source>成功 %1</source>
         <translation>%1 taken</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>Stopping…</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshots</name>
+    <message>
+        <source>抓图</source>
+        <translation>Snapshots</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>Not done</translation>
     </message>
 </context>
 <context>

@@ -399,6 +399,10 @@
         <source>系统资源不足，无法开始</source>
         <translation>系统资源不足，无法开始</translation>
     </message>
+    <message>
+        <source>%1 通道 %2</source>
+        <translation>%1 通道 %2</translation>
+    </message>
 </context>
 <context>
     <name>BusyState</name>
@@ -2341,6 +2345,10 @@
         <source>全屏</source>
         <translation>全屏</translation>
     </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1”正在进行，请等待其完成</translation>
+    </message>
 </context>
 <context>
     <name>LiveWindow</name>
@@ -3520,6 +3528,10 @@
         <source>未执行</source>
         <translation>未执行</translation>
     </message>
+    <message>
+        <source>抓图失败</source>
+        <translation>抓图失败</translation>
+    </message>
 </context>
 <context>
     <name>SearchSettingsDialog</name>
@@ -3638,6 +3650,25 @@
     <message>
         <source>成功 %1</source>
         <translation>成功 %1</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>正在停止…</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshots</name>
+    <message>
+        <source>抓图</source>
+        <translation>抓图</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未执行</translation>
     </message>
 </context>
 <context>

@@ -190,7 +190,7 @@ StepOutcome BatchEngine::perform(const Taken &taken, bool &holdsPlace)
             return *refusal;
     }
     batch.watcher->started(taken.place);
-    const std::int64_t deadline = batch.policy.deadline.count() > 0
+    const std::int64_t deadline = m_clock && batch.policy.deadline.count() > 0
                                       ? m_clock->now() + batch.policy.deadline.count()
                                       : StepControl::noDeadline;
     return taken.item.step(StepControl(batch.stop.get_token(), m_clock, deadline,

@@ -58,6 +58,7 @@ class BatchEngine
 public:
     static constexpr std::size_t maximumThreads = 80;
 
+    /// Deadlines are times of `clock`. Without one (null) steps have none.
     explicit BatchEngine(std::shared_ptr<const sdk::Clock> clock);
 
     /// Ends.

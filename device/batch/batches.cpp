@@ -12,6 +12,9 @@ namespace {
 
 constexpr int wrongPasswordsInARow = 5;
 
+/// Of the requests that a step makes, each has a time of its own, up to 5 s.
+constexpr std::chrono::milliseconds stepDeadline = std::chrono::seconds(60);
+
 } // namespace
 
 Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
@@ -21,9 +24,7 @@ Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int
 
 BatchPolicy Batches::usualPolicy() const
 {
-    return {.atOnce = m_atOnce(),
-            .deadline = std::chrono::milliseconds(0),
-            .wrongPasswordsInARow = wrongPasswordsInARow};
+    return {.atOnce = m_atOnce(), .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
 }
 
 Batch *Batches::configureSystem(const QString &family, const QString &command, const QString &title,
@@ -49,7 +50,7 @@ Batch *Batches::setFirstPasswords(const QString &family, const QString &title, c
     return start({.family = family,
                   .title = title,
                   .devices = batchDevices(m_factory, family, macs),
-                  .policy = {.atOnce = 1},
+                  .policy = {.atOnce = 1, .deadline = stepDeadline},
                   .stepOf =
                       [this, family, account, password](const BatchDevice &device) {
                           return m_factory.initialisationStep(family, device.name, account, password);
@@ -119,7 +120,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     for (const qsizetype place : order.order)
         ordered.append(plan.devices.at(place));
     plan.devices = ordered;
-    plan.policy = {.atOnce = 1};
+    plan.policy = {.atOnce = 1, .deadline = stepDeadline};
     plan.stepOf = [this, family = plan.family, targets](const BatchDevice &device) {
         const AddressSettings target = targets.value(device.identity);
         return target.dhcp ? m_factory.addressStep(family, device.name, {}, {}, {}, true)
@@ -155,6 +156,31 @@ Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, 
                   .stepOf = [this, family](const BatchDevice &device) {
                       return m_factory.copyStep(family, device.ipport);
                   }});
+}
+
+Batch *Batches::takeSnapshots(const QString &family, const QString &title, const QString &ipport,
+                              const QStringList &channelNames, const QString &folder)
+{
+    const QList<DeviceStep> steps = m_factory.snapshotSteps(family, folder);
+    const BatchDevice device = batchDevice(m_factory, family, ipport);
+    QList<BatchDevice> channels;
+    QHash<QString, DeviceStep> stepOfChannel;
+    for (qsizetype channel = 0; channel < steps.size(); ++channel) {
+        BatchDevice entry = device;
+        entry.name = tr("%1 通道 %2").arg(ipport).arg(channel + 1);
+        entry.title = channelNames.value(channel);
+        stepOfChannel.insert(entry.name, steps.at(channel));
+        channels.append(entry);
+    }
+    if (channels.isEmpty())
+        return nullptr;
+    return start(
+        {.family = family,
+         .title = title,
+         .devices = channels,
+         .policy = {.atOnce = 1, .deadline = stepDeadline},
+         .stepOf = [stepOfChannel](const BatchDevice &channel) { return stepOfChannel.value(channel.name); },
+         .canBeRetried = false}); // the dialog of the snapshots takes single channels again
 }
 
 Batch *Batches::retry(Batch *batch)

@@ -55,6 +55,11 @@ public:
     Q_INVOKABLE Batch *copyEncodeSettings(const QString &family, const QString &title,
                                           const QStringList &ipports);
 
+    /// Snapshots of all channels of the current session, one after another. `ipport` names its device,
+    /// `channelNames` its channels, `folder` the folder of the pictures.
+    Q_INVOKABLE Batch *takeSnapshots(const QString &family, const QString &title, const QString &ipport,
+                                     const QStringList &channelNames, const QString &folder);
+
     /// The program ends during the batch that runs: it is stopped, and the log names the devices that are not
     /// done.
     Q_INVOKABLE void giveUp() const;
@@ -67,7 +72,8 @@ public:
     /// is then as it was. Empty on success.
     Q_INVOKABLE [[nodiscard]] QString saveResults(Batch *batch, const QString &path) const;
 
-    /// How many devices are worked on at the same time, unless the work says otherwise.
+    /// How many devices are worked on at the same time, and how long a step may take, unless the work says
+    /// otherwise.
     [[nodiscard]] BatchPolicy usualPolicy() const;
 
     Batch *start(BatchPlan plan);

@@ -24,6 +24,7 @@ class BatchEngine;
 class CameraConfig;
 class EncodeConfig;
 class SnapThread;
+struct SnapTask;
 class UpgradeRunner;
 struct SecureLogin;
 struct SessionOffer;
@@ -146,6 +147,7 @@ public:
     /// cannot do is skipped, and named in its row's "result".
     void copyConfigToDevice(const QStringList &devlist) override;
     DeviceStep copyStep(const QString &ipport) override;
+    QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep locationStep(const QStringList &macs) override;
 
     // The camera image page: devicedhcamera.cpp
@@ -235,6 +237,9 @@ private:
     void noteChangedRows();
     void noteUpgradeRoundEnd();
     [[nodiscard]] QVariantList sessionConnections() const;
+    /// Of one channel, or of all for -1.
+    [[nodiscard]] SnapTask snapTask(const QString &kind, int onlyChannel, const QString &address) const;
+    /// Any thread.
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
     /// Channels of the session's device that are asked for.
     [[nodiscard]] int askedChannels(int wanted) const;

@@ -1,9 +1,12 @@
 // Live view and snapshots of the current session's device.
 #include "device/dh/devicedh.h"
 #include "device/dh/livechannels.h"
+#include "device/loginresult.h"
 #include "media/snapthread.h"
 
 #include <algorithm>
+#include <memory>
+#include <mutex>
 
 namespace {
 
@@ -21,6 +24,18 @@ QString folderName(const QString &text)
     const bool isOnlyDots =
         std::all_of(name.cbegin(), name.cend(), [](QChar letter) { return letter == u'.'; });
     return isOnlyDots ? QStringLiteral("device") : name;
+}
+
+int snapResult(SnapProblem problem)
+{
+    switch (problem) {
+    case SnapProblem::None:
+        return resultCode(LoginResult::Success);
+    case SnapProblem::NoPicture:
+        return resultCode(LoginResult::NetworkFailure);
+    default:
+        return snapshotFailed;
+    }
 }
 
 } // namespace
@@ -44,25 +59,55 @@ void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNu
         m_snapshots = std::make_unique<SnapThread>();
         connect(m_snapshots.get(), &SnapThread::captured, this, &CDeviceDH::noteSnapshot);
     }
-    const int channelCount = m_channels.channelCount;
-    const int onlyChannel = kind == oneChannel ? channelNum.toInt() : -1;
-    m_snapshots->take(
-        {.kind = kind,
-         .folder = folderName(address),
-         .isDeviceCurrent =
-             [this, generation = m_deviceGeneration.load()] { return m_deviceGeneration == generation; },
-         .sessionHandle = [this] { return m_loginHandle.load(); },
-         .channels =
-             [libraries = m_libraries, handle = m_session.handle, channelCount, onlyChannel] {
-                 const QList<bool> connected =
-                     connectedChannels(ConfigSession(libraries, handle), channelCount);
-                 if (onlyChannel >= 0)
-                     return QList<SnapChannel>{{onlyChannel, connected.value(onlyChannel, true)}};
-                 QList<SnapChannel> channels;
-                 for (int channel = 0; channel < connected.size(); ++channel)
-                     channels.append({channel, connected.at(channel)});
-                 return channels;
-             }});
+    m_snapshots->take(snapTask(kind, kind == oneChannel ? channelNum.toInt() : -1, address));
+}
+
+SnapTask CDeviceDH::snapTask(const QString &kind, int onlyChannel, const QString &address) const
+{
+    return {.kind = kind,
+            .folder = folderName(address),
+            .isDeviceCurrent =
+                [this, generation = m_deviceGeneration.load()] { return m_deviceGeneration == generation; },
+            .sessionHandle = [this] { return m_loginHandle.load(); },
+            .channels =
+                [libraries = m_libraries, handle = m_session.handle, channelCount = m_channels.channelCount,
+                 onlyChannel] {
+                    const QList<bool> connected =
+                        connectedChannels(ConfigSession(libraries, handle), channelCount);
+                    if (onlyChannel >= 0)
+                        return QList<SnapChannel>{{onlyChannel, connected.value(onlyChannel, true)}};
+                    QList<SnapChannel> channels;
+                    for (int channel = 0; channel < connected.size(); ++channel)
+                        channels.append({channel, connected.at(channel)});
+                    return channels;
+                }};
+}
+
+QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
+{
+    if (m_session.handle == 0)
+        return {};
+    // The device is asked once which channels have a camera, by the first step.
+    struct Channels
+    {
+        std::once_flag asked;
+        QList<SnapChannel> list;
+    };
+    const auto channels = std::make_shared<Channels>();
+    QList<DeviceStep> steps;
+    for (int number = 0; number < m_channels.channelCount; ++number) {
+        steps.append(
+            [this, channels, number, task = snapTask(allChannels, -1, address)](const StepControl &control) {
+                std::call_once(channels->asked, [&] { channels->list = task.channels(); });
+                const SnapOutcome outcome =
+                    takeSnapshot(task, channels->list.value(number, {.number = number}), control.stopToken());
+                if (outcome.problem == SnapProblem::NoPicture && control.shouldEnd())
+                    return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
+                noteSnapshot(allChannels, number, outcome.path, outcome.message);
+                return StepOutcome{.result = snapResult(outcome.problem), .text = outcome.reason};
+            });
+    }
+    return steps;
 }
 
 void CDeviceDH::noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message)

@@ -296,6 +296,7 @@ T.ApplicationWindow {
 
     WindowPopups {
         id: popups
+        batches: window.batches
         busyState: window.busyState
         currentLanguage: window.chosenLanguage
         deviceFactory: window.deviceFactory

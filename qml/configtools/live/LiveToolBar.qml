@@ -9,6 +9,7 @@ Rectangle {
     required property bool fullScreen
     required property bool canSnap
     required property bool snapping
+    required property string otherBatch  // that runs; "" for none
     signal fullScreenRequested
     signal snapRequested
     signal snapAllRequested
@@ -123,10 +124,11 @@ Rectangle {
             onClicked: root.snapRequested()
         }
         BarButton {
-            enabled: root.canSnap && !root.snapping
+            enabled: root.canSnap && !root.snapping && root.otherBatch === ""
             iconName: root.snapping ? "spinner" : "snapshots"
             objectName: "liveSnapAllButton"
-            toolTip: root.snapping ? qsTr("正在抓图…") : qsTr("抓取全部通道")
+            toolTip: root.snapping ? qsTr("正在抓图…")
+                : root.otherBatch !== "" ? qsTr("“%1”正在进行，请等待其完成").arg(root.otherBatch) : qsTr("抓取全部通道")
             turning: root.snapping
             onClicked: root.snapAllRequested()
         }

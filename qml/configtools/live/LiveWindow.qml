@@ -6,6 +6,7 @@ import configtools
 T.ApplicationWindow {
     id: window
 
+    required property Batches batches
     required property BusyState busyState
     required property var deviceFactory
     required property var localConfig
@@ -51,8 +52,8 @@ T.ApplicationWindow {
     }
 
     function snapAll() {
-        taking.takeAll(device.ipport, device.channels);
-        results.wanted().open();
+        if (taking.takeAll(device.ipport, device.channels))
+            results.wanted().open();
     }
 
     width: Math.min(Theme.liveWidth, Screen.desktopAvailableWidth)
@@ -65,6 +66,7 @@ T.ApplicationWindow {
     title: device.name !== "" ? device.name : device.ipport
     onClosing: {
         results.item?.close();
+        taking.stop();
         device.close();
     }
 
@@ -82,10 +84,11 @@ T.ApplicationWindow {
     }
     Snapshots {
         id: taking
+        batches: window.batches
         deviceFactory: window.deviceFactory
     }
     BusyReport {
-        active: taking.busy && window.visible
+        active: taking.busy && !taking.batch && window.visible
         need: BusyState.Program
         state: window.busyState
         title: qsTr("抓图")
@@ -142,6 +145,7 @@ T.ApplicationWindow {
         canSnap: device.loggedIn && device.channels.length > 0
         fullScreen: window.fullScreen
         grid: grid
+        otherBatch: window.batches.running && !taking.batch ? window.batches.current.title : ""
         snapping: taking.busy
         onFullScreenRequested: window.toggleFullScreen()
         onSnapAllRequested: window.snapAll()

@@ -22,7 +22,15 @@ OVDialog {
     title: qsTr("抓图")
     onAccepted: folderRequested()
 
-    footContent: OVLabel {
+    footContent: [OVLinkButton {
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        enabled: !(root.snapshots.batch?.stopping ?? false)
+        objectName: "snapshotStopButton"
+        text: enabled ? qsTr("停止") : qsTr("正在停止…")
+        visible: root.snapshots.batch !== null
+        onClicked: root.snapshots.stop()
+    }, OVLabel {
         anchors.fill: parent
         color: root.failures > 0 && !root.snapshots.busy ? Theme.colours.bad : Theme.colours.sub
         objectName: "snapshotSummary"
@@ -32,7 +40,7 @@ OVDialog {
             : root.failures > 0 ? qsTr("成功 %1，失败 %2").arg(root.snapshots.results.length - root.failures)
                                                           .arg(root.failures)
             : qsTr("成功 %1").arg(root.snapshots.results.length)
-    }
+    }]
 
     GridView {
         id: view

@@ -1,11 +1,13 @@
-// Takes snapshots of a device's channels and keeps what came of them.
+// Takes snapshots of a device's channels and keeps what came of them. All channels are a batch, a single one is not.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
+    required property Batches batches
     required property var deviceFactory
+    property Batch batch: null        // of all channels, while it runs
     property string folder            // of the device, below the folder of all snapshots
     property var results: []          // maps of "channel", "name", "state", "picture", "message", "revision"
     property int running: 0           // channels that are still to be reported
@@ -20,14 +22,32 @@ Item {
         return ipport.replace(/[^0-9A-Za-z._-]+/g, "_");
     }
 
+    /// Returns false when the batch is refused.
     function takeAll(ipport, channels) {
-        folder = folderOf(ipport);
+        const wanted = folderOf(ipport);
+        batch = batches.takeSnapshots("dh", qsTr("抓图"), ipport, channels.map(entry => entry.name), wanted);
+        if (!batch)
+            return false;
+        folder = wanted;
         results = channels.map((entry, place) => ({
             channel: entry.channel, name: entry.name, picture: "", message: "",
             state: place === 0 ? Snapshots.Taking : Snapshots.Waiting
         }));
         running = results.length;
-        deviceFactory.startSnap("dh", 0, folder);
+        return true;
+    }
+
+    /// Leaves out the channels that are not taken yet.
+    function stop() {
+        if (batch)
+            batch.stop();
+    }
+
+    function endBatch() {
+        batch = null;
+        running = 0;
+        results = results.map(entry => entry.state === Snapshots.Waiting || entry.state === Snapshots.Taking
+            ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("未执行")}) : entry);
     }
 
     /// Takes one channel, anew when it was taken before.
@@ -60,6 +80,13 @@ Item {
 
     visible: false
 
+    Connections {
+        target: root.batch
+
+        function onFinished() {
+            root.endBatch();
+        }
+    }
     Connections {
         target: root.deviceFactory
 

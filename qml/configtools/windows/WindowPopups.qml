@@ -5,6 +5,7 @@ import configtools
 Item {
     id: root
 
+    required property Batches batches
     required property BusyState busyState
     required property var deviceFactory
     required property var localConfig
@@ -106,6 +107,7 @@ Item {
         id: live
         visible: false
         sourceComponent: LiveWindow {
+            batches: root.batches
             busyState: root.busyState
             deviceFactory: root.deviceFactory
             localConfig: root.localConfig

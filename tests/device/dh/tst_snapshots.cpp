@@ -1,3 +1,4 @@
+#include "device/batch/batches.h"
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
@@ -25,6 +26,7 @@ const QString other = QStringLiteral("02:1a:c5:00:00:04");
 const QString recorderPort = QStringLiteral("192.168.1.12:37777");
 const QString otherPort = QStringLiteral("192.168.1.13:37777");
 constexpr int longWait = 30000;
+constexpr int notDone = 15;
 
 struct Capture
 {
@@ -212,6 +214,39 @@ private Q_SLOTS:
         QCOMPARE(taken.at(0).at(2).toString(), QString());
         QCOMPARE(taken.at(2).at(2).toString(), QString());
         QVERIFY(!QImage(pathOf("rec", 0)).isNull());
+    }
+
+    void allChannelsAreABatch_data()
+    {
+        const auto row = dataTable<bool, QList<int>, int>({"isStopped", "results", "reported"});
+        row("whole", false, QList<int>{0, snapshotFailed, 0}, 3);
+        row("stopped in the first channel", true, QList<int>{notDone, notDone, notDone}, 0);
+    }
+
+    void allChannelsAreABatch()
+    {
+        QFETCH(bool, isStopped);
+        if (isStopped)
+            QVERIFY(
+                m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
+        BatchEngine engine(nullptr);
+        Batches batches(*factory(), engine, [] { return 8; });
+        const QSignalSpy taken(factory(), &CDeviceFactory::signalSnapPictureToFile);
+        Batch *batch = batches.takeSnapshots("dh", "Snapshots", recorderPort, {"A", "B", "C"}, "rec");
+        QVERIFY(batch);
+        if (isStopped) {
+            QVERIFY(m_site->requests().waitFor("NetStartRealStream", 1));
+            batch->stop();
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(!batch->isRunning(), longWait);
+        QList<int> results;
+        for (const Batch::Entry &entry : batch->entries())
+            results.append(entry.outcome.result);
+        QTEST(results, "results");
+        QTEST(static_cast<int>(taken.size()), "reported");
+        QCOMPARE(QFile::exists(pathOf("rec", 2)), !isStopped);
+        QCOMPARE(m_site->requests().of("NetQueryChannelStates").size(), 1);
+        QCOMPARE(batch->entries().at(1).device.title, "B");
     }
 
     void theEndOfTheProgramGivesThemUp()
