@@ -39,7 +39,10 @@ QList<Subject> subjects()
              [] {
                  return QList<Figure>{measureCgiRequests()};
              }},
-            {QStringLiteral("batch"), measureBatches},
+            {QStringLiteral("batch"),
+             [] {
+                 return measureBatches() + measureBatchFrames();
+             }},
             {QStringLiteral("decoding"), measureDecoding},
             {QStringLiteral("live"), measureLiveView},
             {QStringLiteral("nine"), measureNineStreams},

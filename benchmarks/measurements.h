@@ -20,6 +20,9 @@ class NumberedStream;
 /// A command to many devices at once, against the same to one after another.
 [[nodiscard]] QList<Figure> measureBatches();
 
+/// The window while batches of each kind run on 200 devices.
+[[nodiscard]] QList<Figure> measureBatchFrames();
+
 /// Live streams into pictures, against the decoder's own program on one thread.
 [[nodiscard]] QList<Figure> measureDecoding();
 

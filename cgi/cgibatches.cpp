@@ -38,6 +38,15 @@ void nameByAddress(QList<BatchDevice> &devices)
     }
 }
 
+/// A command has limits of its own for each kind of answer: a recording takes as long as its transfer goes
+/// on.
+BatchPolicy commandPolicy(const Batches &batches)
+{
+    BatchPolicy policy = batches.usualPolicy();
+    policy.deadline = {};
+    return policy;
+}
+
 } // namespace
 
 /// The workbook that runs.
@@ -105,7 +114,7 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
     BatchPlan plan = {.family = family,
                       .title = title,
                       .devices = batchDevices(m_factory, family, identities),
-                      .policy = m_batches.usualPolicy()};
+                      .policy = commandPolicy(m_batches)};
     nameByAddress(plan.devices);
     const QList<BatchDevice> devices = plan.devices;
     plan.stepOf = [this, command, account = m_account()](const BatchDevice &device) {
@@ -166,7 +175,7 @@ Batch *CgiBatches::runWorkbook(const QString &title, const QString &path)
         return nullptr;
     }
     BatchPlan plan = {
-        .family = family, .title = title, .devices = linesOf(*workbook), .policy = m_batches.usualPolicy()};
+        .family = family, .title = title, .devices = linesOf(*workbook), .policy = commandPolicy(m_batches)};
     plan.stepOf = [this](const BatchDevice &line) {
         return lineStep(line);
     };
