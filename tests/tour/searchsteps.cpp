@@ -66,7 +66,7 @@ void walkNothingToSearch(Driver &driver)
 }
 
 /// A search of 17 segments takes two minutes. What it has found when it is stopped stays.
-void walkStop(const Driver &driver)
+void walkStop(Driver &driver)
 {
     driver.await(u"a device of the other segment is found"_s, [&] { return counter(driver) > 0; });
     driver.click(u"closeButton"_s);
