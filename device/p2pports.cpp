@@ -132,6 +132,7 @@ int P2PPorts::portFor(const QString &deviceId, int devicePort, int wish)
     if (!m_library)
         return 0;
 
+    const std::lock_guard lock(m_requestMutex);
     std::array<std::int32_t, sdk::maximumLocalPorts> ports{};
     std::int32_t count = 0;
     if (!m_library->OAgent_ClientGetDeviceLocalPort(deviceId.toLocal8Bit().constData(), devicePort,
@@ -172,26 +173,49 @@ void P2PPorts::release(int localPort)
 
 void P2PPorts::note(int loginPort)
 {
-    if (loginPort > 0 && !isKnown(loginPort))
+    const std::lock_guard lock(m_mutex);
+    if (loginPort > 0 && !m_webPorts.contains(loginPort))
         m_webPorts.insert(loginPort, 0);
+}
+
+bool P2PPorts::isKnown(int loginPort) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_webPorts.contains(loginPort);
 }
 
 void P2PPorts::pair(int loginPort, int webPort)
 {
+    const std::lock_guard lock(m_mutex);
     if (loginPort > 0)
         m_webPorts.insert(loginPort, webPort);
 }
 
+int P2PPorts::webPortOf(int loginPort) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_webPorts.value(loginPort);
+}
+
 void P2PPorts::releaseDevice(int loginPort)
 {
+    int webPort = 0;
+    {
+        const std::lock_guard lock(m_mutex);
+        webPort = m_webPorts.take(loginPort);
+    }
     release(loginPort);
-    release(m_webPorts.take(loginPort));
+    release(webPort);
 }
 
 void P2PPorts::releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded)
 {
-    const QList<int> known = m_webPorts.keys();
-    for (const int loginPort : known) {
+    QList<int> known;
+    {
+        const std::lock_guard lock(m_mutex);
+        known = m_webPorts.keys();
+    }
+    for (const int loginPort : std::as_const(known)) {
         if (!isNeeded(loginPort))
             releaseDevice(loginPort);
     }

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 
 /// Where the services of the port agent are.
@@ -30,7 +31,7 @@ struct P2PSettings
 };
 
 /// The local ports that lead to devices behind NAT: starts the agent, hands ports out, knows which belong
-/// together, and stops the agent when it is destroyed. Scene's thread only.
+/// together, and stops the agent when it is destroyed. Thread-safe: devices are added on several threads.
 class P2PPorts
 {
 public:
@@ -42,7 +43,8 @@ public:
     P2PPorts &operator=(const P2PPorts &) = delete;
 
     /// A local port that leads to `devicePort` of the device, 0 on failure. A wished port is honoured only
-    /// when it equals the device port; 0 wishes for none.
+    /// when it equals the device port; 0 wishes for none. Blocks for the agent; requests wait for each other,
+    /// so that two for the same device get the same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
 
     /// Why a request for a port may fail whatever the device: a setting that is missing or wrong, or an agent
@@ -56,13 +58,13 @@ public:
     void note(int loginPort);
 
     /// True for a login port of note() or pair() that was not released since.
-    [[nodiscard]] bool isKnown(int loginPort) const { return m_webPorts.contains(loginPort); }
+    [[nodiscard]] bool isKnown(int loginPort) const;
 
     /// Remembers that a device's web page is reached by `webPort` while its service is by `loginPort`.
     void pair(int loginPort, int webPort);
 
     /// The web port that belongs to a login port, 0 when there is none.
-    [[nodiscard]] int webPortOf(int loginPort) const { return m_webPorts.value(loginPort); }
+    [[nodiscard]] int webPortOf(int loginPort) const;
 
     /// Releases the two ports of a device.
     void releaseDevice(int loginPort);
@@ -75,5 +77,7 @@ private:
 
     const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null when the agent could not be started
     const QString m_settingFault; ///< the key of the setting that is missing or wrong; empty for none
+    std::mutex m_requestMutex;    ///< of portFor(): one request at a time
+    mutable std::mutex m_mutex;   ///< of m_webPorts; not held while the agent is asked
     QHash<int, int> m_webPorts;   ///< by login port; 0 for a device whose web page has no port
 };
