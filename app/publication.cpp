@@ -5,6 +5,7 @@
 #include "app/timezonetext.h"
 #include "cgi/cgibatches.h"
 #include "cgi/cgiconfigmanage.h"
+#include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
 #include "device/devicefactory.h"
 
@@ -25,6 +26,8 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, boo
                           .password = CLocalConfig::getinstance()->getSearchConfigPass()};
     };
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
+    context->setContextProperty(QStringLiteral("AddingBatchesApi"),
+                                new AddingBatches(*CDeviceFactory::getinstance(), *batches, batches));
     context->setContextProperty(QStringLiteral("CgiBatchesApi"),
                                 new CgiBatches(*CDeviceFactory::getinstance(), *batches,
                                                CGIConfigManage::getinstance()->surroundings(), cgiAccount,

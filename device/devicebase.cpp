@@ -162,8 +162,6 @@ QVariantList CDeviceBase::importFailures()
     return {};
 }
 
-void CDeviceBase::stopImport() {}
-
 int CDeviceBase::checkLogin(const QString &, const QString &, const QString &)
 {
     return 0;
@@ -230,8 +228,12 @@ DeviceStep CDeviceBase::locationStep(const QStringList &)
     return unsupportedStep();
 }
 
-DeviceStep CDeviceBase::loginStep(const QString &, const QString &, const QString &, const QString &, int,
-                                  const QString &)
+DeviceStep CDeviceBase::addingStep(const DeviceToAdd &)
 {
     return unsupportedStep();
+}
+
+ImportPlan CDeviceBase::importPlan(const QString &)
+{
+    return {};
 }

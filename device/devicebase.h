@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/devicestep.h"
+#include "device/deviceimport.h"
 
 #include <QObject>
 #include <QStringList>
@@ -89,8 +89,6 @@ public:
     virtual QVariantList importFailures();
     /// Why the last list was refused as a whole, in the user's language; empty when it was not.
     virtual QString importError();
-    /// Leaves out what an import has not come to yet. Called while importDevice() lets the event loop run.
-    virtual void stopImport();
 
     /// Asks the device whether it lets this account in, and logs out again at once: the current session of
     /// findAndLoginDevice() stays as it is. Returns a LoginResult. May be called
@@ -162,9 +160,12 @@ public:
     /// order. Each reports its channel by signalSnapPictureToFile, on the thread that it runs on. Empty
     /// without a session.
     virtual QList<DeviceStep> snapshotSteps(const QString &address);
-    /// Of getLoginDevice().
-    virtual DeviceStep loginStep(const QString &address, const QString &account, const QString &password,
-                                 const QString &port, int loginType, const QString &devicePort);
+    /// Logs in to a device and adds its row, as getLoginDevice() does, and opens and closes the local ports
+    /// that lead to it. LoginResult::AlreadyListed for an address and port that a row has.
+    virtual DeviceStep addingStep(const DeviceToAdd &device);
+
+    /// Reads a device list for importDevice(). May be called on any thread, which it blocks for the file.
+    virtual ImportPlan importPlan(const QString &path);
 
     /// Of refreshDevices(), with one query at the addresses of the rows, before devices are searched by their
     /// MACs. Blocks up to 6 s.

@@ -11,7 +11,6 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QMetaMethod>
-#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -135,10 +134,8 @@ bool CDeviceFactory::importDevice(const QString &family, const QString &path, QJ
     const std::shared_ptr<CDeviceBase> backEnd = m_backEnds.value(family);
     if (!backEnd)
         return false;
-    const QPointer<CDeviceFactory> self(this);
     const bool imported = backEnd->importDevice(path, summary);
-    if (self)                      // it may end while the import lets the event loop run
-        releaseUnneededP2PPorts(); // of rows that lines have replaced
+    releaseUnneededP2PPorts(); // of rows that lines have replaced
     if (msg.isCallable()) {
         msg.call({summary.total, summary.errcount});
     } else if (msg.isObject()) {
@@ -474,11 +471,6 @@ QVariantList CDeviceFactory::importFailures(const QString &family)
     return forward(family, &CDeviceBase::importFailures);
 }
 
-void CDeviceFactory::stopImport(const QString &family)
-{
-    forward(family, &CDeviceBase::stopImport);
-}
-
 QString CDeviceFactory::upgradeDocumentResult(const QString &family)
 {
     return forward(family, &CDeviceBase::upgradeDocumentResult);
@@ -568,11 +560,14 @@ DeviceStep CDeviceFactory::locationStep(const QString &family, const QStringList
     return forward(family, &CDeviceBase::locationStep, macs);
 }
 
-DeviceStep CDeviceFactory::loginStep(const QString &family, const QString &address, const QString &account,
-                                     const QString &password, const QString &port, int loginType,
-                                     const QString &devicePort)
+DeviceStep CDeviceFactory::addingStep(const QString &family, const DeviceToAdd &device)
 {
-    return forward(family, &CDeviceBase::loginStep, address, account, password, port, loginType, devicePort);
+    return forward(family, &CDeviceBase::addingStep, device);
+}
+
+ImportPlan CDeviceFactory::importPlan(const QString &family, const QString &path)
+{
+    return forward(family, &CDeviceBase::importPlan, path);
 }
 
 void CDeviceFactory::refreshDevices(const QString &family, const QStringList &macs)

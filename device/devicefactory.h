@@ -138,8 +138,6 @@ public:
     Q_INVOKABLE QVariantList importFailures(const QString &family);
     /// Why importDevice() refused the last list as a whole.
     Q_INVOKABLE QString importError(const QString &family);
-    /// Leaves out what a running import has not come to yet.
-    Q_INVOKABLE void stopImport(const QString &family);
     /// Logs in to a device with its row's account, else the default one, and asks it for everything that it
     /// tells of itself. Holds "loginResult" (0 for success) and keys as getDeviceDetail() has, never a
     /// password. Blocks for the waits of the library; the session of findAndLoginDevice() stays as it is.
@@ -185,9 +183,14 @@ public:
     [[nodiscard]] DeviceStep copyStep(const QString &family, const QString &ipport);
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &family, const QString &address);
     [[nodiscard]] DeviceStep locationStep(const QString &family, const QStringList &macs);
-    [[nodiscard]] DeviceStep loginStep(const QString &family, const QString &address, const QString &account,
-                                       const QString &password, const QString &port, int loginType,
-                                       const QString &devicePort);
+    [[nodiscard]] DeviceStep addingStep(const QString &family, const DeviceToAdd &device);
+
+    /// Reads a device list, on any thread.
+    [[nodiscard]] ImportPlan importPlan(const QString &family, const QString &path);
+
+    /// Releases the ports of devices that have left the list, but for those of a current session: they go
+    /// when it ends. To be called when steps have replaced rows.
+    void releaseUnneededP2PPorts();
 
     /// Asks as checkLogin() does, on any thread, until the factory ends.
     using LoginCheck =
@@ -247,9 +250,6 @@ private:
     void noteP2PPortsOf(const QVariantMap &row);
     /// Releases the ports of those of the rows, by name, that were deleted.
     void releaseP2PPortsOf(const QString &family, const QVariantMap &rows);
-    /// Releases the ports of devices that have left the list, but for those of a current session: they go
-    /// when it ends.
-    void releaseUnneededP2PPorts();
     [[nodiscard]] bool isListedAt(int p2pPort) const;
     [[nodiscard]] bool isInUse(int p2pPort) const;
 

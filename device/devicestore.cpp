@@ -304,6 +304,7 @@ void DeviceStore::putRow(QJsonObject row, const std::optional<sdk::SearchAnswer>
     const QString name = rowName(row);
     if (answer)
         m_records.insert(name, packed(*answer));
+    row.insert(DeviceRowKey::num, QString::number(m_ipv4.rows().size() + 1));
     if (m_ipv4.contains(name))
         m_ipv4.replace(name, row);
     else

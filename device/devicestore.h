@@ -90,7 +90,7 @@ public:
     bool changeRowAt(const QString &ipport, const Change &change);
 
     /// Adds a row that does not come from a search, with the answer of its device if it gave one: in the
-    /// place of the device's row, or at the end.
+    /// place of the device's row, or at the end. The row gets the number behind the last one.
     void putRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer = {});
 
     /// Removes IPv4 rows with their search records, or IPv6 rows, by name. A running search does not bring

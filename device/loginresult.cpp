@@ -20,6 +20,7 @@ QString ResultNames::of(int code)
 {
     // Operations have codes of their own.
     constexpr int capabilitiesUnknown = 10;
+    constexpr int unusableLine = 997;  // of a device list
     constexpr int commandFailed = 998; // over HTTP
     constexpr int refusedByDevice = 999;
     switch (code) {
@@ -53,6 +54,8 @@ QString ResultNames::of(int code)
         return tr("获取设备能力失败");
     case snapshotFailed:
         return tr("抓图失败");
+    case unusableLine:
+        return tr("数据无效");
     case commandFailed:
         return tr("命令失败");
     case refusedByDevice:

@@ -181,6 +181,12 @@ void FavouriteListModel::setProgress(const QString &identity, Progress progress,
     Q_EMIT checkedCountChanged();
 }
 
+void FavouriteListModel::setRunning(const QStringList &identities, const QString &words)
+{
+    for (const QString &identity : identities)
+        setProgress(identity, Running, words);
+}
+
 void FavouriteListModel::forgetProgress()
 {
     for (Favourite &favourite : m_favourites) {

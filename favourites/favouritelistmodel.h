@@ -50,6 +50,9 @@ public:
     Q_INVOKABLE void setProgress(const QString &identity, FavouriteListModel::Progress progress,
                                  const QString &words);
 
+    /// These favourites are being added.
+    Q_INVOKABLE void setRunning(const QStringList &identities, const QString &words);
+
     /// Forgets how adding went.
     Q_INVOKABLE void forgetProgress();
 

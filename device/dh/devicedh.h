@@ -29,7 +29,6 @@ class UpgradeRunner;
 struct SecureLogin;
 struct SessionOffer;
 struct SessionOrder;
-struct DeviceListLine;
 struct EncodeCopyOutcome;
 struct EncodeState;
 
@@ -72,6 +71,7 @@ public:
     // Rows and their logins: devicedhrows.cpp
     int getLoginDevice(const QString &address, const QString &account, const QString &password,
                        const QString &port, int loginType, const QString &devicePort) override;
+    DeviceStep addingStep(const DeviceToAdd &device) override;
     void setDefaultAccount(const QString &account, const QString &password) override;
     bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
                           const QString &ipport) override;
@@ -110,15 +110,12 @@ public:
     /// not in the table any more is left out; false when none is left, or when the file cannot be written.
     bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName) override;
 
-    /// Blocks until every device of the list was asked, or stopImport() was called; between two devices the
-    /// event loop runs at times: whoever calls holds this object, as the factory does. `path` may be a
-    /// "file:///" address. False when the list was refused as a whole, and when another one is being
-    /// imported.
+    /// Blocks until every device of the list was asked.
     bool importDevice(const QString &path, ImportSummary &summary) override;
     QVariantList exportFaults() override;
     QVariantList importFailures() override;
     QString importError() override;
-    void stopImport() override;
+    ImportPlan importPlan(const QString &path) override;
 
     // System configuration: devicedhsystem.cpp
     /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
@@ -222,7 +219,6 @@ private:
     void takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer);
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
-    void importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary);
     [[nodiscard]] UpgradeOrder upgradeOrder(const QJsonObject &row) const;
     [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line, const QJsonObject &row) const;
     /// The account of a document again, unless the device has refused it or the user has given another since.
@@ -288,8 +284,6 @@ private:
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
     QString m_defaultAccount;
     QString m_defaultPassword;
-    bool m_isImporting = false;
-    bool m_stopsImport = false;
     QVariantList m_exportFaults;
     QVariantList m_importFailures;
     QString m_importError;

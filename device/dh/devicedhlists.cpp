@@ -7,23 +7,10 @@
 #include "device/logging.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QScopeGuard>
 
 #include <utility>
 
 namespace {
-
-/// How long the scene may stand still between two devices that answer quickly, in milliseconds.
-constexpr qint64 paintInterval = 50;
-
-QVariantMap failureMap(const DeviceListLine &line, const ImportFailure &failure)
-{
-    return {{QStringLiteral("line"), line.number},
-            {QStringLiteral("address"), line[ListColumn::IPAddress].left(maximumListText)},
-            {QStringLiteral("code"), resultCode(failure.result)},
-            {QStringLiteral("reason"), failure.reason}};
-}
 
 /// A character for the user, who may not see it otherwise.
 QString namedCharacter(const QString &character)
@@ -79,73 +66,45 @@ QVariantList CDeviceDH::exportFaults()
     return m_exportFaults;
 }
 
+ImportPlan CDeviceDH::importPlan(const QString &path)
+{
+    DeviceListContents contents = readDeviceList(localPath(path));
+    const QString refusal =
+        contents.refusal.isEmpty() ? DeviceListImport::refusalOf(contents.lines) : contents.refusal;
+    if (!refusal.isEmpty())
+        return {.refusal = refusal, .lines = {}};
+    return {.refusal = {},
+            .lines = DeviceListImport::plan(std::make_shared<DeviceListImport>(
+                RowAdding(store(), m_libraries, p2pPorts()), std::move(contents.lines)))};
+}
+
 bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)
 {
     summary = {};
-    // The scene's timers run between two devices and could call again.
-    if (m_isImporting) {
-        qCWarning(logDevice) << "CDeviceDH::importDevice: a list is being imported";
-        return false;
-    }
     m_importFailures.clear();
-    const DeviceListContents contents = readDeviceList(localPath(path));
-    m_importError =
-        contents.refusal.isEmpty() ? DeviceListImport::refusalOf(contents.lines) : contents.refusal;
+    const ImportPlan plan = importPlan(path);
+    m_importError = plan.refusal;
     if (!m_importError.isEmpty())
         return false;
-    importLines(contents.lines, summary);
-    return true;
-}
-
-void CDeviceDH::importLines(const std::vector<DeviceListLine> &lines, ImportSummary &summary)
-{
-    m_isImporting = true;
-    m_stopsImport = false;
-    const auto end = qScopeGuard([this] { m_isImporting = false; });
-    const int total = static_cast<int>(lines.size());
-    bool hasNewRows = false;
-    QElapsedTimer sincePaint; // not started: the first device is shown at once
-    DeviceListImport import(store(), m_libraries);
-    for (const DeviceListLine &line : lines) {
-        if (const std::optional<ImportFailure> failure = import.add(line, p2pPorts())) {
-            ++summary.errcount;
-            m_importFailures.append(failureMap(line, *failure));
-        } else {
-            hasNewRows = true;
-        }
+    const int total = static_cast<int>(plan.lines.size());
+    for (const ImportLine &line : plan.lines) {
+        const StepOutcome outcome = line.step(StepControl());
         ++summary.total;
-        Q_EMIT signalCDeviceImportProgress(summary.total, total);
-        const bool isLast = summary.total == total;
-        if (!isLast && sincePaint.isValid() && sincePaint.elapsed() < paintInterval)
-            continue;
-        // Told together: the page reads the whole table again each time.
-        if (std::exchange(hasNewRows, false))
-            Q_EMIT signalCDeviceAddSingleDeviceToTable();
-        // The scene has no other chance to paint what has come so far, and the user none to end it; the scene
-        // keeps all other input away. What runs here may end the factory and take the ports away, but not
-        // this object, which its caller holds.
-        if (!isLast)
-            QCoreApplication::processEvents();
-        if (m_stopsImport) {
-            for (std::size_t place = summary.total; place < lines.size(); ++place)
-                m_importFailures.append(failureMap(
-                    lines[place], {LoginResult::NotDone, resultName(resultCode(LoginResult::NotDone))}));
-            summary.errcount += total - summary.total;
-            summary.total = total;
-            return;
+        if (outcome.result != resultCode(LoginResult::Success)) {
+            ++summary.errcount;
+            m_importFailures.append(importFailure(line.place, outcome));
         }
-        sincePaint.start();
+        Q_EMIT signalCDeviceImportProgress(summary.total, total);
     }
+    // Told together: a page reads the whole table again each time.
+    if (summary.errcount < total)
+        Q_EMIT signalCDeviceAddSingleDeviceToTable();
+    return true;
 }
 
 QVariantList CDeviceDH::importFailures()
 {
     return m_importFailures;
-}
-
-void CDeviceDH::stopImport()
-{
-    m_stopsImport = true;
 }
 
 QString CDeviceDH::importError()

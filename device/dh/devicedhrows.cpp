@@ -2,7 +2,7 @@
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/rowlogin.h"
+#include "device/dh/rowadding.h"
 #include "device/dh/upgraderunner.h"
 
 int CDeviceDH::getLoginDevice(const QString &address, const QString &account, const QString &password,
@@ -16,10 +16,17 @@ int CDeviceDH::getLoginDevice(const QString &address, const QString &account, co
                                      .devicePort = devicePort};
     const RowLoginOutcome outcome = loginForRow(m_libraries, request);
     if (outcome.result == LoginResult::Success) {
-        keepRow(store(), outcome);
+        store().putRow(outcome.row, outcome.record);
         Q_EMIT signalCDeviceAddSingleDeviceToTable();
     }
     return resultCode(outcome.result);
+}
+
+DeviceStep CDeviceDH::addingStep(const DeviceToAdd &device)
+{
+    return [adding = RowAdding(store(), m_libraries, p2pPorts()), device](const StepControl &control) {
+        return adding.addNew(device, control);
+    };
 }
 
 void CDeviceDH::setDefaultAccount(const QString &account, const QString &password)

@@ -1,7 +1,6 @@
 #include "device/dh/rowlogin.h"
 
 #include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/configlibrary.h"
 #include "sdk/configrecords.h"
@@ -86,17 +85,24 @@ void readConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, 
                                       returned);
 }
 
-Answers askDevice(const sdk::SdkLibraries &libraries, std::int64_t handle)
+/// Nothing when `control` ended it between two queries.
+std::optional<Answers> askDevice(const sdk::SdkLibraries &libraries, std::int64_t handle,
+                                 const StepControl &control)
 {
     Answers answers;
     std::uint32_t returned = 0;
     libraries.net->NetQueryConfig(handle, sdk::QueryCommand::DeviceAttributes, 0, &answers.attributes,
                                   sizeof(answers.attributes), returned, attributesWait);
-    readConfiguration(libraries, handle, "Network", 0, configurationTextSize, configurationWait,
-                      answers.network);
-    readConfiguration(libraries, handle, "DVRIP", 0, configurationTextSize, configurationWait,
-                      answers.service);
-    readConfiguration(libraries, handle, "Https", -1, httpsTextSize, httpsWait, answers.https);
+    const auto read = [&](const char *name, int channel, std::uint32_t size, std::chrono::milliseconds wait,
+                          auto &record) {
+        if (!control.shouldEnd())
+            readConfiguration(libraries, handle, name, channel, size, wait, record);
+    };
+    read("Network", 0, configurationTextSize, configurationWait, answers.network);
+    read("DVRIP", 0, configurationTextSize, configurationWait, answers.service);
+    read("Https", -1, httpsTextSize, httpsWait, answers.https);
+    if (control.shouldEnd())
+        return std::nullopt;
     libraries.net->NetQueryConfig(handle, sdk::QueryCommand::NetworkServices, 0, &answers.services,
                                   sizeof(answers.services), returned, configurationWait);
     return answers;
@@ -197,7 +203,8 @@ void completeFrom(QJsonObject &row, const sdk::SearchAnswer &answer)
 
 } // namespace
 
-RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request)
+RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request,
+                            const StepControl &control)
 {
     if (!libraries.net)
         return {.result = LoginResult::NetworkFailure, .row = {}, .record = {}};
@@ -213,21 +220,14 @@ RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRe
     if (handle < 1)
         return {.result = loginResultOf(net.NetGetLastError()), .row = {}, .record = {}};
 
-    RowLoginOutcome outcome{.result = LoginResult::Success,
-                            .row = rowOf(request, device, askDevice(libraries, handle)),
-                            .record = {}};
-    if (!p2p) {
+    RowLoginOutcome outcome{.result = LoginResult::NotDone, .row = {}, .record = {}};
+    if (const std::optional<Answers> answers = askDevice(libraries, handle, control))
+        outcome = {.result = LoginResult::Success, .row = rowOf(request, device, *answers), .record = {}};
+    if (!p2p && outcome.result == LoginResult::Success && !control.shouldEnd()) {
         outcome.record = searchAddress(net, request.address);
         if (outcome.record)
             completeFrom(outcome.row, *outcome.record);
     }
     net.NetLogout(handle);
     return outcome;
-}
-
-void keepRow(DeviceStore &store, const RowLoginOutcome &outcome)
-{
-    QJsonObject row = outcome.row;
-    row.insert(DeviceRowKey::num, QString::number(store.ipv4Count() + 1));
-    store.putRow(row, outcome.record);
 }

@@ -1,6 +1,7 @@
 // Logging in to a device by hand, to make its row.
 #pragma once
 
+#include "device/devicestep.h"
 #include "device/loginresult.h"
 #include "sdk/sdklibraries.h"
 #include "sdk/searchblocks.h"
@@ -9,8 +10,6 @@
 #include <QString>
 
 #include <optional>
-
-class DeviceStore;
 
 /// How a device is reached.
 enum class ReachedBy : int
@@ -34,14 +33,12 @@ struct RowLoginRequest
 struct RowLoginOutcome
 {
     LoginResult result = LoginResult::Unknown;
-    QJsonObject row;                         ///< of a successful login; its "num" is left to the caller
+    QJsonObject row;                         ///< of a successful login; its "num" is left to the store
     std::optional<sdk::SearchAnswer> record; ///< what the device answered to a search of its address alone
 };
 
 /// Logs in, reads what a row tells about the device, and logs out again. Blocks for the waits of the library,
-/// up to 5 s for each query. Queries that fail leave their part of the row empty.
-[[nodiscard]] RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request);
-
-/// Puts the row of a successful login into the table, with the number behind the last one, and keeps its
-/// record.
-void keepRow(DeviceStore &store, const RowLoginOutcome &outcome);
+/// up to 5 s for each query. Queries that fail leave their part of the row empty. NotDone when `control`
+/// ended it between two requests.
+[[nodiscard]] RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request,
+                                          const StepControl &control = StepControl());

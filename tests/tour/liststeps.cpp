@@ -94,6 +94,8 @@ void walkLists(Driver &driver, const QString &folder)
     driver.report(u"import-report"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
     driver.check(rows.count() == before - 1, u"two of three devices are back"_s);
+    driver.check(!driver.find(u"retryFailedButton"_s), u"a wrong password is not tried again"_s);
+    driver.report(u"import-foot"_s, driver.text(u"footWarning"_s));
 
     QFile noList(folder + u"/no-list.xml"_s);
     driver.check(noList.open(QFile::WriteOnly) && noList.write("<cameras/>") > 0,

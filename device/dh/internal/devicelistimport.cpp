@@ -3,24 +3,12 @@
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/dh/internal/devicelistvalues.h"
-#include "device/dh/rowlogin.h"
-#include "device/p2pports.h"
 
 #include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
 #include <utility>
-
-/// Where a line says that its device is.
-struct DeviceListImport::Target
-{
-    QString address; ///< or the P2P ID
-    int port = 0;    ///< the device's own
-    ReachedBy reachedBy = ReachedBy::Address;
-
-    [[nodiscard]] QString way() const { return address + QLatin1Char(':') + QString::number(port); }
-};
 
 namespace {
 
@@ -84,15 +72,40 @@ QString faultOf(const DeviceListLine &line)
     return {};
 }
 
-ImportFailure failureOf(LoginResult result)
+/// What the line of a device says that can be asked for.
+DeviceToAdd deviceOf(const DeviceListLine &line)
 {
-    return {.result = result, .reason = resultName(resultCode(result))};
+    // Device software on this computer is listed as P2P too, by its loopback address; no ID looks like that.
+    const QString &address = line[ListColumn::IPAddress];
+    return {.address = address,
+            .port = portOf(line).value_or(defaultPort),
+            .account = line[ListColumn::Username],
+            .password = line[ListColumn::Password],
+            .p2p = line[ListColumn::AddMode] == ListWord::byP2P && !isLoopback(address)};
+}
+
+QString wayTo(const DeviceToAdd &device)
+{
+    return device.address + QLatin1Char(':') + QString::number(device.port);
+}
+
+QString titleOf(const DeviceListLine &line)
+{
+    QStringList words = {line[ListColumn::DeviceName].left(maximumListText),
+                         line[ListColumn::Model].left(maximumListText)};
+    words.removeAll(QString());
+    return words.join(QStringLiteral(" · "));
+}
+
+StepOutcome alreadyListed()
+{
+    return {.result = resultCode(LoginResult::AlreadyListed), .text = {}};
 }
 
 } // namespace
 
-DeviceListImport::DeviceListImport(DeviceStore &store, sdk::SdkLibraries libraries)
-    : m_store(store), m_libraries(std::move(libraries))
+DeviceListImport::DeviceListImport(RowAdding adding, std::vector<DeviceListLine> lines)
+    : m_adding(std::move(adding)), m_lines(std::move(lines))
 {
 }
 
@@ -114,65 +127,62 @@ QString DeviceListImport::refusalOf(const std::vector<DeviceListLine> &lines)
     return {};
 }
 
-std::optional<ImportFailure> DeviceListImport::add(const DeviceListLine &line, P2PPorts *ports)
+std::vector<ImportLine> DeviceListImport::plan(const std::shared_ptr<DeviceListImport> &import)
 {
-    if (const QString fault = faultOf(line); !fault.isEmpty())
-        return ImportFailure{.result = LoginResult::Unknown, .reason = fault};
-
-    // Device software on this computer is listed as P2P too, by its loopback address; no ID looks like that.
-    const QString &address = line[ListColumn::IPAddress];
-    const bool p2p = line[ListColumn::AddMode] == ListWord::byP2P && !isLoopback(address);
-    const Target target = {.address = address,
-                           .port = portOf(line).value_or(defaultPort),
-                           .reachedBy = p2p ? ReachedBy::P2P : ReachedBy::Address};
-    if (m_ways.contains(target.way()))
-        return failureOf(LoginResult::AlreadyListed);
-    int webPort = 0;
-    if (!p2p)
-        return logIn(line, target, target.port, webPort);
-
-    const int localPort = ports ? ports->portFor(target.address, target.port, 0) : 0;
-    if (localPort <= 0) {
-        const QString fault = ports ? ports->faultText() : QString();
-        const QString reason = QCoreApplication::translate("DeviceList", "无法建立P2P通道");
-        return ImportFailure{.result = LoginResult::NetworkFailure,
-                             .reason = fault.isEmpty() ? reason : reason + QStringLiteral(": ") + fault};
+    std::vector<ImportLine> plan;
+    plan.reserve(import->m_lines.size());
+    QHash<std::pair<QString, QString>, qsizetype> accounts; // a number stands for each: it is no secret
+    for (std::size_t place = 0; place < import->m_lines.size(); ++place) {
+        const DeviceListLine &line = import->m_lines[place];
+        const DeviceToAdd device = deviceOf(line);
+        const QJsonObject row = import->m_adding.store().rowAt(wayTo(device));
+        const std::pair account(device.account, device.password);
+        const qsizetype login = accounts.value(account, accounts.size());
+        accounts.insert(account, login);
+        plan.push_back({.place = {.number = line.number, .address = device.address.left(maximumListText)},
+                        .device = row.isEmpty() ? wayTo(device) : rowName(row),
+                        .title = titleOf(line),
+                        .login = QString::number(login),
+                        .step = [import, place](const StepControl &control) {
+                            return import->add(place, control);
+                        }});
     }
-    // The port of a device that the table has already, or that is worked with, stays whatever comes of this.
-    const bool inUse =
-        ports->isKnown(localPort) || !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty();
-    std::optional<ImportFailure> failure = logIn(line, target, localPort, webPort);
-    if (failure && !inUse)
-        ports->release(localPort);
-    else if (!failure)
-        ports->pair(localPort, ports->portFor(target.address, webPort, 0));
-    return failure;
+    return plan;
 }
 
-/// Logs in at `port`, which with P2P is the local end of the tunnel. Sets the port of the device's web page.
-std::optional<ImportFailure> DeviceListImport::logIn(const DeviceListLine &line, const Target &target,
-                                                     int port, int &webPort)
+StepOutcome DeviceListImport::add(std::size_t place, const StepControl &control)
 {
-    RowLoginOutcome outcome = loginForRow(m_libraries, {.address = target.address,
-                                                        .account = line[ListColumn::Username],
-                                                        .password = line[ListColumn::Password],
-                                                        .port = port,
-                                                        .reachedBy = target.reachedBy,
-                                                        .devicePort = QString::number(target.port)});
-    if (outcome.result != LoginResult::Success)
-        return failureOf(outcome.result);
-    // Two lines may lead to one device: the list may have said nothing of the MAC, or something else.
-    const QString mac = spelled(outcome.row.value(DeviceRowKey::mac).toString());
-    if (!mac.isEmpty() && m_macs.contains(mac))
-        return failureOf(LoginResult::AlreadyListed);
+    const DeviceListLine &line = m_lines[place];
+    if (const QString fault = faultOf(line); !fault.isEmpty())
+        return {.result = unusableLine, .text = fault};
+    const DeviceToAdd device = deviceOf(line);
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_ways.contains(wayTo(device)))
+            return alreadyListed();
+    }
+    const StepOutcome outcome =
+        m_adding.add(device, control, [this, &line](RowLoginOutcome &login) { return review(line, login); });
+    if (outcome.result == resultCode(LoginResult::Success)) {
+        const std::lock_guard lock(m_mutex);
+        m_ways.insert(wayTo(device));
+    }
+    return outcome;
+}
 
-    completeFrom(outcome.row, line, outcome.record.has_value());
+std::optional<StepOutcome> DeviceListImport::review(const DeviceListLine &line, RowLoginOutcome &login)
+{
+    // Two lines may lead to one device: the list may have said nothing of the MAC, or something else.
+    const QString mac = spelled(login.row.value(DeviceRowKey::mac).toString());
+    if (!mac.isEmpty()) {
+        const std::lock_guard lock(m_mutex);
+        if (m_macs.contains(mac))
+            return alreadyListed();
+        m_macs.insert(mac);
+    }
+    completeFrom(login.row, line, login.record.has_value());
     // A device that tells no MAC does not take the row of the one that the list names.
-    if (mac.isEmpty() && !m_store.row(outcome.row.value(DeviceRowKey::mac).toString()).isEmpty())
-        outcome.row.insert(DeviceRowKey::mac, QString());
-    webPort = outcome.row.value(DeviceRowKey::httpport).toInt();
-    m_ways.insert(target.way());
-    m_macs.insert(mac);
-    keepRow(m_store, outcome);
+    if (mac.isEmpty() && !m_adding.store().row(login.row.value(DeviceRowKey::mac).toString()).isEmpty())
+        login.row.insert(DeviceRowKey::mac, QString());
     return std::nullopt;
 }

@@ -12,6 +12,7 @@ Item {
     property string runningText
     property string runningDevice
     property bool running: false
+    property bool compact: false  // beside the buttons of a dialog: what can be done without is left out
     property real progress: -1  // 0 to 1; below 0 there is no known end
     property Batches batches: null
     property DeviceSearch search: null
@@ -125,14 +126,14 @@ Item {
             color: Theme.colours.sub
             objectName: "timeLeft"
             text: root.showsBatch ? root.timeLeft(root.batch.secondsLeft) : ""
-            visible: text !== "" && !root.held
+            visible: text !== "" && !root.held && !root.compact
         }
         OVLabel {
             height: parent.height
             color: Theme.colours.sub
             font: Theme.figureFont
             text: root.showsBatch ? root.batch.device : root.showsSearch ? root.search.percent + "%" : root.runningDevice
-            visible: text !== "" && (root.running || root.showsSearch || (root.showsBatch && !root.held))
+            visible: text !== "" && !root.compact && (root.running || root.showsSearch || (root.showsBatch && !root.held))
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
@@ -148,7 +149,7 @@ Item {
             enabled: !stopping
             objectName: "stopButton"
             text: enabled ? qsTr("停止") : qsTr("正在停止…")
-            toolTip: qsTr("停止（Esc）")
+            toolTip: root.compact ? "" : qsTr("停止（Esc）")
             visible: root.showsBatch || root.showsSearch
             onClicked: {
                 if (root.showsBatch)
@@ -171,21 +172,21 @@ Item {
             objectName: "selectFailedButton"
             text: qsTr("选中失败")
             toolTip: qsTr("在本页只勾选失败和未执行的设备")
-            visible: root.incomplete && !root.running
+            visible: root.incomplete && !root.running && !root.compact
             onClicked: root.tickRequested(root.batch.failedIdentities())
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "saveResultsButton"
             text: qsTr("保存结果")
-            visible: root.ended && !root.running
+            visible: root.ended && !root.running && !root.compact
             onClicked: results.wanted().save(root.batch)
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "batchPanelButton"
             text: qsTr("批处理记录")
-            visible: root.batch !== null && !root.running
+            visible: root.batch !== null && !root.running && !root.compact
             onClicked: results.wanted().show()
         }
     }

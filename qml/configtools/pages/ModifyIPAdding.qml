@@ -5,6 +5,8 @@ import configtools
 Item {
     id: root
 
+    required property var addingBatches
+    required property Batches batches
     required property BusyState busyState
     required property var deviceFactory
     property bool asking: false  // a device is being logged in to
@@ -24,6 +26,12 @@ Item {
 
     /// Tries to add what the dialog holds, once the dialog shows that it is busy.
     function tryDevice(dialog, device, isFavourite) {
+        // The device takes the place of its row, with another account and address.
+        const refusal = busyState.refusal(BusyState.ChangeAddress);
+        if (refusal !== "") {
+            said(refusal, OVToast.Error);
+            return;
+        }
         dialog.busy = asking = true;
         afterPaint.run(() => {
             const code = deviceAdding.add(device);
@@ -79,10 +87,9 @@ Item {
         id: fromFavourites
         visible: false
         sourceComponent: AddDevicesByFavoritesWindow {
-            adding: deviceAdding
-            busyState: root.busyState
+            addingBatches: root.addingBatches
+            batches: root.batches
             favourites: savedDevices
-            onAdded: root.added()
             onSaid: (message, kind) => root.said(message, kind)
             onByHandRequested: root.openIp()
         }

@@ -5,18 +5,18 @@ import configtools
 Item {
     id: root
 
+    required property var addingBatches
+    required property Batches batches
     required property BusyState busyState
     required property var deviceFactory
     required property var fileDialogs
     required property var deviceTable  // a DeviceTableModel
-    readonly property bool running: importing || batch.running
-    readonly property real progress: importing && total > 0 ? done / total : -1
-    readonly property string current: importing && total > 0 ? done + " / " + total : ""
-    readonly property string title: importing ? qsTr("导入") : qsTr("导出")
-    readonly property string runningText: importing ? qsTr("正在导入设备…") + qsTr("（按Esc停止）") : qsTr("正在导出设备…")
-    property bool importing: false
-    property int done: 0
-    property int total: 0
+    required property bool shown  // the page is
+    readonly property bool running: addingBatches.reading || writing
+    readonly property alias writing: writer.running
+    readonly property string runningText: addingBatches.reading ? qsTr("正在读取设备列表…") : qsTr("正在导出设备…")
+    property Batch batch: null  // the last import
+    property bool untold: false  // the lines of it that failed are still to be shown
     signal said(string message, int kind)
 
     function startExport() {
@@ -41,7 +41,7 @@ Item {
     function writeList(folder, fileName) {
         const macs = deviceTable.checkedMacs();
         let written = false;
-        batch.start(1, () => written = deviceFactory.exportDevice("dh", folder, macs, fileName),
+        writer.start(1, () => written = deviceFactory.exportDevice("dh", folder, macs, fileName),
                     () => fileName, () => {
             if (written)
                 reportExport(qsTr("导出设备成功\n文件路径:") + folder + "/" + fileName);
@@ -71,60 +71,65 @@ Item {
                 said(refusal, OVToast.Error);
                 return;
             }
-            importing = true;
-            done = total = 0;
-            hold.open();
-            beginning.path = path;
-            beginning.start();
+            addingBatches.importList(qsTr("导入"), path);
         });
     }
 
-    function readList(path) {
-        const counts = {total: 0, errcount: 0};
-        const read = deviceFactory.importDevice("dh", path, counts);
-        importing = false;
-        hold.release();
-        deviceTable.refresh();
-        if (!read) {
-            const reason = deviceFactory.importError("dh");
-            said(qsTr("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！")
-                 + (reason !== "" ? "\n" + reason : ""), OVToast.Error);
+    function summary() {
+        const report = batch.report;
+        return qsTr("批量导入设备：") + report.succeeded + "/" + report.total + " " + qsTr("台已完成");
+    }
+
+    /// On another page the user is at something else: what failed is shown when he comes back.
+    function tellEnd() {
+        const report = batch.report;
+        untold = report.succeeded < report.total;
+        if (!untold)
+            said(summary(), report.total > 0 ? OVToast.Success : OVToast.Information);
+        else if (!shown)
+            said(summary(), OVToast.Information);
+        tellUntold();
+    }
+
+    function tellUntold() {
+        if (!untold || !shown || batch.running)
             return;
-        }
-        const summary = qsTr("批量导入设备：") + (counts.total - counts.errcount) + "/" + counts.total + " "
-            + qsTr("台已完成");
-        if (counts.errcount === 0) {
-            said(summary, counts.total > 0 ? OVToast.Success : OVToast.Information);
-            return;
-        }
+        untold = false;
         const dialog = importReport.wanted();
-        dialog.load(summary, deviceFactory.importFailures("dh"));
+        dialog.load(summary(), addingBatches.importFailures(batch));
         dialog.open();
     }
 
     visible: false
+    onShownChanged: tellUntold()
 
     Connections {
-        target: root.deviceFactory
+        target: root.addingBatches
 
-        function onSignalImportProgress(done, total) {
-            root.done = done;
-            root.total = total;
+        function onImportBegan(batch) {
+            root.batch = batch;
+        }
+        function onImportRefused(reason) {
+            root.said(qsTr("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！") + "\n" + reason, OVToast.Error);
         }
     }
+    Connections {
+        target: root.batches
 
+        function onRetried(earlier, again) {
+            if (earlier === root.batch)
+                root.batch = again;
+        }
+    }
+    Connections {
+        target: root.batch
+
+        function onFinished() {
+            root.tellEnd();
+        }
+    }
     OVBatch {
-        id: batch
-    }
-    OVInputHold {
-        id: hold
-        onEscapePressed: root.deviceFactory.stopImport("dh")
-    }
-    Timer {
-        id: beginning
-        property string path
-        interval: 2 * Theme.paintEvery  // the page shows that work has begun
-        onTriggered: root.readList(path)
+        id: writer
     }
 
     // qmllint disable unqualified

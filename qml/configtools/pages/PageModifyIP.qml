@@ -15,6 +15,7 @@ FocusScope {
     signal said(string message, int kind)
 
     // qmllint disable unqualified
+    readonly property var addingBatches: AddingBatchesApi
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
@@ -58,9 +59,9 @@ FocusScope {
     }
 
     BusyReport {
-        active: files.running
+        active: files.writing
         state: page.busyState
-        title: files.title
+        title: qsTr("导出")
     }
     OVBatchRefusals {
         batches: page.batches
@@ -79,10 +80,13 @@ FocusScope {
 
     ModifyIPFiles {
         id: files
+        addingBatches: page.addingBatches
+        batches: page.batches
         busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
         fileDialogs: page.fileDialogs
+        shown: page.visible
         onSaid: (message, kind) => page.said(message, kind)
     }
 
@@ -101,6 +105,8 @@ FocusScope {
 
     ModifyIPAdding {
         id: adding
+        addingBatches: page.addingBatches
+        batches: page.batches
         busyState: page.busyState
         deviceFactory: page.deviceFactory
         onAdded: devices.refresh()
@@ -171,9 +177,7 @@ FocusScope {
         y: parent.height - height
         width: parent.width - 2 * Theme.pageMargin
         batches: page.batches
-        progress: files.progress
         running: files.running
-        runningDevice: files.current
         runningText: files.runningText
         search: page.search
         //: At the foot of a page.

@@ -1,78 +1,38 @@
-// The favourites: adds them to the device list, one after another with the results as they come, and looks after
-// their notes.
+// The favourites: adds them to the device list in a batch, which goes on when the window is closed, with the results as
+// they come, and looks after their notes.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property DeviceAdding adding
-    required property BusyState busyState
+    required property var addingBatches
+    required property Batches batches
     required property Favourites favourites
-    signal added  // the device list has changed
+    readonly property bool running: batch?.running ?? false
+    property Batch batch: null  // the last one that was begun here
     signal said(string message, int kind)
     signal byHandRequested
 
-    property bool running: false
-    property bool stopping: false
-    property var waiting: []  // identities of the favourites that are still to be added
-    property int done: 0
-    property int all: 0
-
     function begin() {
         filter.text = "";
-        saved.forgetProgress();
-        saved.setAllChecked(false);
+        if (!running) {
+            saved.forgetProgress();
+            saved.setAllChecked(false);
+        }
         saved.load(favourites.list());
         open();
-    }
-
-    /// Closes the window. While devices are added it stops after the one that is under way.
-    function reject() {
-        if (running) {
-            stopping = true;
-        } else {
-            close();
-            rejected();
-        }
     }
 
     function addThese(identities) {
         if (running || identities.length === 0)
             return;
-        waiting = identities;
-        done = 0;
-        all = identities.length;
-        stopping = false;
-        running = true;
-        addNext();
-    }
-
-    function addNext() {
-        if (stopping || waiting.length === 0) {
-            waiting.forEach(identity => saved.setProgress(identity, FavouriteListModel.Failed, qsTr("未执行")));
-            running = false;
+        const begun = addingBatches.addDevices(qsTr("添加收藏设备"), identities.map(identity =>
+            Object.assign({identity: identity}, favourites.deviceOf(saved.device(identity)))));
+        if (begun === null)
             return;
-        }
-        const identity = waiting[0];
-        waiting = waiting.slice(1);
-        done += 1;
-        saved.setProgress(identity, FavouriteListModel.Running, qsTr("正在添加…"));
-        table.show(saved.rowOf(identity));
-        afterPaint.run(() => {
-            addOne(identity);
-            addNext();
-        });
-    }
-
-    function addOne(identity) {
-        const code = adding.add(favourites.deviceOf(saved.device(identity)));
-        if (code === DeviceAdding.Added) {
-            saved.setProgress(identity, FavouriteListModel.Added, qsTr("已添加"));
-            added();
-        } else {
-            saved.setProgress(identity, FavouriteListModel.Failed, adding.errorText(code) || adding.quietText(code));
-        }
+        batch = begun;
+        saved.setRunning(identities, qsTr("正在添加…"));
     }
 
     function changeNote(identity, note) {
@@ -96,7 +56,7 @@ OVDialog {
 
     width: Math.min(Theme.favouritesWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
     height: Math.min(Theme.favouritesHeight, (parent?.height ?? 0) - 4 * Theme.pageMargin)
-    cancelText: running ? qsTr("停止") : qsTr("关闭")
+    cancelText: qsTr("关闭")
     objectName: "favouritesWindow"
     okEnabled: saved.checkedCount > 0 && !running
     okText: qsTr("添加")
@@ -104,10 +64,23 @@ OVDialog {
     onAccepted: addThese(saved.checkedIdentities())
     onOpened: filter.forceActiveFocus()
 
-    BusyReport {
-        active: root.running
-        state: root.busyState
-        title: root.title
+    Connections {
+        target: root.addingBatches
+
+        function onTried(identity, result, words) {
+            if (result === BatchReport.Succeeded)
+                saved.setProgress(identity, FavouriteListModel.Added, qsTr("已添加"));
+            else
+                saved.setProgress(identity, FavouriteListModel.Failed, words);
+        }
+    }
+    Connections {
+        target: root.batches
+
+        function onRetried(earlier, again) {
+            if (earlier === root.batch)
+                root.batch = again;
+        }
     }
     FavouriteListModel {
         id: saved
@@ -116,9 +89,8 @@ OVDialog {
 
     footContent: OVFootBar {
         anchors.fill: parent
-        progress: root.all > 0 ? (root.done - 1) / root.all : 0
-        running: root.running
-        runningText: root.stopping ? qsTr("正在停止…") : qsTr("正在添加 %1 / %2").arg(root.done).arg(root.all)
+        batches: root.batch !== null && root.batches.current === root.batch ? root.batches : null
+        compact: true
         //: Follows a number, as in "3 favourites selected".
         text: saved.checkedCount + " " + qsTr("个收藏已选中", "", saved.checkedCount)
     }
@@ -180,9 +152,6 @@ OVDialog {
     }
     OVClipboard {
         id: clipboard
-    }
-    OVAfterPaint {
-        id: afterPaint
     }
     OVMessageBox {
         id: confirmation

@@ -1,16 +1,21 @@
-#include "device/busystate.h"
+#include "device/batch/addingbatches.h"
+#include "device/devicefactory.h"
 #include "favourites/author.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 #include "tests/qml/configtools/recordingfactory.h"
 
+#include <QSemaphore>
 #include <QTemporaryDir>
 
 namespace {
 
 const char *const scene =
     "    width: 1280; height: 720; visible: true\n"
-    "    ModifyIPAdding { objectName: 'adding'; busyState: busy; deviceFactory: factory }\n"
+    "    ModifyIPAdding {\n"
+    "        objectName: 'adding'; addingBatches: addings; batches: works; busyState: busy\n"
+    "        deviceFactory: factory\n"
+    "    }\n"
     "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n";
 
 QStringList argumentsOf(const QSignalSpy &spy)
@@ -25,6 +30,25 @@ QStringList argumentsOf(const QSignalSpy &spy)
     return texts;
 }
 
+/// Devices that are added when a test lets them.
+class GatedDevices : public CDeviceBase
+{
+public:
+    GatedDevices() : CDeviceBase(nullptr) {}
+
+    QStringList asked; ///< "address password"
+    QSemaphore gate;   ///< lets one device be added for each of its resources
+
+    DeviceStep addingStep(const DeviceToAdd &device) override
+    {
+        asked.append(device.address + ' ' + device.password);
+        return [this, isWrong = device.password == QLatin1String("wrong")](const StepControl &) {
+            gate.acquire();
+            return StepOutcome{.result = isWrong ? 2 : 0, .text = {}};
+        };
+    }
+};
+
 } // namespace
 
 class TestAddingDevices : public QObject
@@ -36,7 +60,18 @@ private Q_SLOTS:
         m_factory = std::make_unique<RecordingFactory>();
         m_folder = std::make_unique<QTemporaryDir>();
         m_engine = std::make_unique<QQmlEngine>();
-        m_window = openScene(*m_engine, scene, {{"factory", m_factory.get()}, {"busy", &m_busy}});
+        m_devices = std::make_shared<GatedDevices>();
+        m_site = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{{"dh", [this] {
+                                                                                       return m_devices;
+                                                                                   }}});
+        m_threads = std::make_unique<BatchEngine>(nullptr);
+        m_batches = std::make_unique<Batches>(*m_site, *m_threads, [] { return 1; });
+        m_addings = std::make_unique<AddingBatches>(*m_site, *m_batches);
+        m_window = openScene(*m_engine, scene,
+                             {{"factory", m_factory.get()},
+                              {"busy", m_site->busyState()},
+                              {"works", m_batches.get()},
+                              {"addings", m_addings.get()}});
         QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_adding = m_window->findChild<QObject *>("adding");
@@ -47,10 +82,16 @@ private Q_SLOTS:
 
     void cleanup()
     {
+        m_devices->gate.release(100);
+        m_threads->end();
         m_said.reset();
         m_added.reset();
         m_window.reset();
         m_engine.reset();
+        m_addings.reset();
+        m_batches.reset();
+        m_site.reset();
+        m_threads.reset();
     }
 
     void refusesWhatIsMissing_data()
@@ -113,7 +154,7 @@ private Q_SLOTS:
         open(opener, filled());
         const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
         m_factory->login = [&] { // blocks: the busy dialog has to be on the screen by now
-            QVERIFY(dialog()->property("busy").toBool() && m_busy.areRowsHeld());
+            QVERIFY(dialog()->property("busy").toBool() && m_site->busyState()->areRowsHeld());
             QVERIFY(!painted.isEmpty());
         };
         press("accept");
@@ -165,41 +206,46 @@ private Q_SLOTS:
                                       QString(50, 'n')}));
     }
 
-    /// One after another, with the window alive between them; stopping leaves the rest alone.
+    /// They go on when the window is closed, and the window shows the results when it is opened again.
     void addsFavourites()
     {
         const CAuthor author;
-        for (const char *id : {"OV1", "OV2", "OV3"})
-            author.saveTextAsJson(favouritesFolder(), "1", id, "8800", "admin", author.AesEncrypt(id), "");
+        for (const auto &[id, password] : {std::pair("OV1", "wrong"), {"OV2", "p"}, {"OV3", "p"}})
+            author.saveTextAsJson(favouritesFolder(), "1", id, "8800", "admin", author.AesEncrypt(password),
+                                  "");
         QMetaObject::invokeMethod(m_adding, "openFavourites");
-        QQuickItem *table = item("favouriteTable");
-        auto *model = table->property("model").value<QAbstractItemModel *>();
-        QCOMPARE(model->rowCount(), 3);
+        auto *model = item("favouriteTable")->property("model").value<QAbstractItemModel *>();
+        const auto words = [model] {
+            QStringList texts;
+            for (int row = 0; row < model->rowCount(); ++row)
+                texts.append(model->data(model->index(row, 0), model->roleNames().key("words")).toString());
+            return texts;
+        };
         QMetaObject::invokeMethod(model, "setAllChecked", Q_ARG(bool, true));
-
-        m_factory->nextPort = 5000;
-        m_factory->loginResult = 2;
         QObject *window = m_window->findChild<QObject *>("favouritesWindow");
-        m_factory->login = [&] {
-            QVERIFY(m_busy.areRowsHeld());
-            if (m_factory->asked.filter("login").size() == 2) {
-                m_factory->loginResult = 0;
-                QMetaObject::invokeMethod(window, "reject");
-            }
-        };
         QMetaObject::invokeMethod(window, "accept");
-        QTRY_VERIFY(!window->property("running").toBool());
-        QCOMPARE(m_factory->asked.filter("login"),
-                 (QStringList{"login dh OV1 admin OV1 5000 1 8800", "login dh OV2 admin OV2 5001 1 8800"}));
-        QVERIFY(window->property("visible").toBool());
-        const auto words = [&](int row) {
-            QVariantMap values;
-            QMetaObject::invokeMethod(model, "get", Q_RETURN_ARG(QVariantMap, values), Q_ARG(int, row));
-            return values.value("words").toString();
-        };
-        QCOMPARE((QStringList{words(0), words(1), words(2)}), (QStringList{"result 2", "已添加", "未执行"}));
-        QVERIFY(!m_busy.areRowsHeld());
-        QCOMPARE(m_added->count(), 1);
+        QCOMPARE(m_devices->asked, QStringList({"OV1 wrong", "OV2 p", "OV3 p"}));
+        const QString running = "正在添加…";
+        QCOMPARE(words(), QStringList({running, running, running}));
+
+        m_devices->gate.release();
+        QTRY_COMPARE(words(), QStringList({"密码错误", running, running}));
+        QMetaObject::invokeMethod(window, "reject");
+        QTRY_VERIFY(!window->property("visible").toBool());
+        // A device that is added by hand would come between them.
+        open("openIp", filled());
+        press("accept");
+        QVERIFY(argumentsOf(*m_said).join(',').contains("添加收藏设备"));
+        QCOMPARE(m_factory->asked, QStringList());
+        press("reject");
+
+        QMetaObject::invokeMethod(m_adding, "openFavourites");
+        QCOMPARE(words().first(), "密码错误");
+        QTRY_VERIFY(item("stopButton")->isVisible());
+        QMetaObject::invokeMethod(item("stopButton"), "clicked");
+        m_devices->gate.release();
+        QTRY_COMPARE(words(), QStringList({"密码错误", "已添加", "未执行"}));
+        QVERIFY(!m_site->busyState()->areRowsHeld());
     }
 
     /// What may be typed into a note is limited; a note that came from elsewhere is not.
@@ -282,8 +328,12 @@ private:
     }
     void press(const char *button) const { QMetaObject::invokeMethod(dialog(), button); }
 
-    BusyState m_busy{{}};
-    std::unique_ptr<RecordingFactory> m_factory;
+    std::unique_ptr<RecordingFactory> m_factory; ///< for devices that are added by hand
+    std::shared_ptr<GatedDevices> m_devices;
+    std::unique_ptr<CDeviceFactory> m_site;
+    std::unique_ptr<BatchEngine> m_threads;
+    std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<AddingBatches> m_addings;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;

@@ -1,0 +1,155 @@
+#include "device/batch/addingbatches.h"
+
+#include "device/devicefactory.h"
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+const QString family = QStringLiteral("dh");
+
+/// A page reads the whole list when it learns of new rows.
+constexpr int newsInterval = 1000; // milliseconds
+
+bool isSuccess(const StepOutcome &outcome)
+{
+    return outcome.result == resultCode(LoginResult::Success);
+}
+
+/// A device as the scene names it.
+DeviceToAdd deviceOf(const QVariantMap &values)
+{
+    return {.address = values.value(QStringLiteral("address")).toString(),
+            .port = values.value(QStringLiteral("port")).toInt(),
+            .account = values.value(QStringLiteral("account")).toString(),
+            .password = values.value(QStringLiteral("password")).toString(),
+            .p2p = values.value(QStringLiteral("mode")).toInt() != 0};
+}
+
+} // namespace
+
+AddingBatches::AddingBatches(CDeviceFactory &factory, Batches &batches, QObject *parent)
+    : QObject(parent), m_factory(factory), m_batches(batches)
+{
+    m_readers.setMaxThreadCount(1);
+    m_news.setSingleShot(true);
+    m_news.setInterval(newsInterval);
+    connect(&m_news, &QTimer::timeout, &m_factory, &CDeviceFactory::signalAddSingleDeviceToTable);
+    connect(&m_batches, &Batches::runningChanged, this, &AddingBatches::noteEnd);
+}
+
+AddingBatches::~AddingBatches()
+{
+    m_readers.waitForDone();
+}
+
+void AddingBatches::importList(const QString &title, const QString &path)
+{
+    if (isReading())
+        return;
+    m_work = m_factory.busyState()->begin(title, BusyState::Rows);
+    Q_EMIT readingChanged();
+    m_readers.start([this, title, path] {
+        const auto list = std::make_shared<const ImportPlan>(m_factory.importPlan(family, path));
+        QMetaObject::invokeMethod(
+            this, [this, title, list] { takeList(title, *list); }, Qt::QueuedConnection);
+    });
+}
+
+void AddingBatches::takeList(const QString &title, const ImportPlan &list)
+{
+    m_factory.busyState()->end(std::exchange(m_work, 0));
+    Q_EMIT readingChanged();
+    if (!list.refusal.isEmpty()) {
+        Q_EMIT importRefused(list.refusal);
+        return;
+    }
+    QHash<QString, ImportPlace> places;
+    QHash<QString, DeviceStep> steps;
+    BatchPlan plan = {.family = family, .title = title, .policy = m_batches.usualPolicy()};
+    for (const ImportLine &line : list.lines) {
+        const QString name = tr("第%1行 %2").arg(line.place.number).arg(line.place.address);
+        places.insert(name, line.place);
+        steps.insert(name, line.step);
+        plan.devices.append({.name = name,
+                             .identity = line.device,
+                             .ipport = line.place.address,
+                             .title = line.title,
+                             .login = line.login});
+    }
+    plan.stepOf = [steps](const BatchDevice &device) {
+        return steps.value(device.name);
+    };
+    plan.takeOutcome = [this](const BatchDevice &, const StepOutcome &outcome) {
+        if (isSuccess(outcome))
+            noteRow();
+    };
+    Batch *batch = m_batches.start(std::move(plan));
+    if (!batch)
+        return;
+    m_places = std::move(places);
+    Q_EMIT importBegan(batch);
+}
+
+QVariantList AddingBatches::importFailures(Batch *batch) const
+{
+    QVariantList failures;
+    if (!batch)
+        return failures;
+    for (const Batch::Entry &entry : batch->entries()) {
+        if (!isSuccess(entry.outcome))
+            failures.append(importFailure(m_places.value(entry.device.name), entry.outcome));
+    }
+    return failures;
+}
+
+Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devices)
+{
+    BatchPlan plan = {.family = family, .title = title, .policy = m_batches.usualPolicy()};
+    QHash<QString, DeviceToAdd> targets; // by the names in the batch
+    QHash<QString, QString> identities;
+    QHash<std::pair<QString, QString>, qsizetype> accounts; // a number stands for each: it is no secret
+    for (const QVariant &value : devices) {
+        const QVariantMap values = value.toMap();
+        const DeviceToAdd target = deviceOf(values);
+        BatchDevice device =
+            batchDevice(m_factory, family, QStringLiteral("%1:%2").arg(target.address).arg(target.port));
+        const QString identity = values.value(QStringLiteral("identity")).toString();
+        if (targets.contains(device.name))
+            device.name += QStringLiteral(" (%1)").arg(identity);
+        const std::pair account(target.account, target.password);
+        const qsizetype login = accounts.value(account, accounts.size());
+        accounts.insert(account, login);
+        device.login = QString::number(login);
+        targets.insert(device.name, target);
+        identities.insert(device.name, identity);
+        plan.devices.append(device);
+    }
+    plan.stepOf = [this, targets](const BatchDevice &device) {
+        return m_factory.addingStep(family, targets.value(device.name));
+    };
+    plan.takeOutcome = [this, identities](const BatchDevice &device, const StepOutcome &outcome) {
+        if (isSuccess(outcome))
+            noteRow();
+        Q_EMIT tried(identities.value(device.name), outcome.result,
+                     outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text);
+    };
+    return m_batches.start(std::move(plan));
+}
+
+void AddingBatches::noteRow()
+{
+    m_hasNewRows = true;
+    if (!m_news.isActive())
+        m_news.start();
+}
+
+void AddingBatches::noteEnd()
+{
+    if (m_batches.isRunning() || !std::exchange(m_hasNewRows, false))
+        return;
+    m_news.stop();
+    m_factory.releaseUnneededP2PPorts();
+    Q_EMIT m_factory.signalAddSingleDeviceToTable();
+}
