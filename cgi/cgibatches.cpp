@@ -113,6 +113,7 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
 {
     BatchPlan plan = {.family = family,
                       .title = title,
+                      .work = QStringLiteral("cgi ") + command,
                       .devices = batchDevices(m_factory, family, identities),
                       .policy = commandPolicy(m_batches)};
     nameByAddress(plan.devices);

@@ -4,6 +4,7 @@
 #include "device/devicefilter.h"
 #include "device/deviceorder.h"
 #include "device/devicerow.h"
+#include "device/failedmarks.h"
 #include "device/upgradetools.h"
 
 #include <QHash>
@@ -136,6 +137,40 @@ void DeviceTableModel::setSearchText(const QString &searchText)
         applyFilter();
 }
 
+FailedMarks *DeviceTableModel::failedMarks() const
+{
+    return m_failedMarks;
+}
+
+void DeviceTableModel::setFailedMarks(FailedMarks *marks)
+{
+    if (m_failedMarks == marks)
+        return;
+    if (m_failedMarks)
+        m_failedMarks->disconnect(this);
+    m_failedMarks = marks;
+    if (m_failedMarks)
+        connect(m_failedMarks, &FailedMarks::changed, this, &DeviceTableModel::takeMarks);
+    Q_EMIT failedMarksChanged();
+    takeMarks();
+}
+
+void DeviceTableModel::setOnlyFailed(bool only)
+{
+    if (std::exchange(m_onlyFailed, only) != only)
+        applyFilter();
+}
+
+void DeviceTableModel::takeMarks()
+{
+    if (m_onlyFailed && (!m_failedMarks || m_failedMarks->count() == 0))
+        setOnlyFailed(false);
+    else if (m_onlyFailed)
+        refresh();
+    else if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
 void DeviceTableModel::applyFilter()
 {
     Q_EMIT filterChanged();
@@ -162,7 +197,12 @@ QList<DeviceTableModel::Row> DeviceTableModel::readRows()
         const QString ipport = values.value(DeviceRowKey::ipport).toString();
         ++rowsOfAddress[ipport];
         if (isShown(values)) {
-            shown.append({.values = values, .identity = rowName(values)});
+            const QString identity = rowName(values);
+            const QString reason =
+                m_onlyFailed && m_failedMarks ? m_failedMarks->reasonOf(identity) : QString();
+            if (m_onlyFailed && reason.isEmpty())
+                continue;
+            shown.append({.values = values, .identity = identity, .reason = reason});
             addresses.append(ipport);
         }
     }
@@ -198,10 +238,12 @@ void DeviceTableModel::forgetLostTicks(const QVariantList &list)
 
 void DeviceTableModel::sortRows(QList<Row> &rows) const
 {
-    if (m_sortKey.isEmpty())
+    const bool isByReason = m_sortKey.isEmpty() && m_onlyFailed;
+    if (m_sortKey.isEmpty() && !isByReason)
         return;
-    const DeviceOrder order(m_sortKey, m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero
-                                                           : DeviceOrder::OddAddresses::Behind);
+    const DeviceOrder order(isByReason ? QString(DeviceRowKey::ipport) : m_sortKey,
+                            m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero
+                                                : DeviceOrder::OddAddresses::Behind);
     std::vector<DeviceOrder::SortKey> keys;
     keys.reserve(rows.size());
     for (const Row &row : std::as_const(rows))
@@ -211,7 +253,8 @@ void DeviceTableModel::sortRows(QList<Row> &rows) const
     std::iota(places.begin(), places.end(), 0);
     const int direction = m_sortOrder == Qt::AscendingOrder ? 1 : -1;
     std::stable_sort(places.begin(), places.end(), [&](qsizetype left, qsizetype right) {
-        return direction * DeviceOrder::compare(keys[left], keys[right]) < 0;
+        const int reasons = isByReason ? rows.at(left).reason.compare(rows.at(right).reason) : 0;
+        return reasons != 0 ? reasons < 0 : direction * DeviceOrder::compare(keys[left], keys[right]) < 0;
     });
 
     QList<Row> sorted;
@@ -358,6 +401,8 @@ QVariantMap DeviceTableModel::get(int row) const
     values.insert(DeviceRowKey::checked, checkedIdentities().contains(m_rows.at(row).identity));
     values.insert(DeviceRowKey::num, QString::number(row + 1));
     values.insert(QStringLiteral("identity"), m_rows.at(row).identity);
+    values.insert(QStringLiteral("failure"),
+                  m_failedMarks ? m_failedMarks->wordsOf(m_rows.at(row).identity) : QString());
     return values;
 }
 

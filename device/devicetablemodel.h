@@ -8,10 +8,11 @@
 #include <QSet>
 
 class CDeviceFactory;
+class FailedMarks;
 
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
-/// rowName()).
+/// rowName()). get() also gives "failure": what batches failed with the device, see FailedMarks::wordsOf().
 ///
 /// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
 /// filter are of the same moment, and keeps the user's ticks, selection and order over a refresh. Lives on
@@ -22,12 +23,17 @@ class CDeviceFactory;
 class DeviceTableModel : public QAbstractListModel
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("device/failedmarks.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(bool showInitialised READ showInitialised WRITE setShowInitialised NOTIFY filterChanged)
     Q_PROPERTY(bool showUninitialised READ showUninitialised WRITE setShowUninitialised NOTIFY filterChanged)
     Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
+    Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
+    /// Whether only marked devices are shown, by their reasons and then by address unless the user has chosen
+    /// another order. It ends with the last mark.
+    Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
     /// Whether texts that are no IPv4 address are ordered as the address 0 and not behind the others.
     Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
@@ -56,6 +62,10 @@ public:
     void setIpv6(bool ipv6);
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
+    [[nodiscard]] FailedMarks *failedMarks() const;
+    void setFailedMarks(FailedMarks *marks);
+    [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
+    void setOnlyFailed(bool only);
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
@@ -105,6 +115,7 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void filterChanged();
+    void failedMarksChanged();
     void sortChanged();
     void countChanged();
     void checkedCountChanged();
@@ -116,10 +127,12 @@ private:
         QJsonObject values;
         QString identity;
         bool conflict = false;
+        QString reason = {}; ///< of the mark, while only failed devices are shown
     };
 
     [[nodiscard]] QList<Row> readRows();
     [[nodiscard]] bool isShown(const QJsonObject &row) const;
+    void takeMarks();
     void sortRows(QList<Row> &rows) const;
     void forgetLostTicks(const QVariantList &list);
     [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
@@ -136,6 +149,8 @@ private:
     bool m_showUninitialised = true;
     bool m_ipv6 = false;
     QString m_searchText;
+    QPointer<FailedMarks> m_failedMarks; ///< not owned
+    bool m_onlyFailed = false;
     bool m_oddAddressesFirst = false;
     QString m_sortKey; ///< empty: the order of the list
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;

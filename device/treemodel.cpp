@@ -1,7 +1,9 @@
 #include "device/treemodel.h"
 
 #include "device/devicefactory.h"
+#include "device/deviceorder.h"
 #include "device/devicerow.h"
+#include "device/failedmarks.h"
 #include "device/upgradetools.h"
 
 #include <QJsonObject>
@@ -10,6 +12,7 @@
 #include <algorithm>
 #include <numeric>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -98,6 +101,8 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
         return device.copyRet;
     case IdentityRole:
         return device.identity;
+    case FailureRole:
+        return m_failedMarks ? m_failedMarks->wordsOf(device.identity) : QString();
     case Qt::ToolTipRole:
         return device.detail;
     default:
@@ -216,12 +221,73 @@ void OVTreeModel::setDeviceFactory(CDeviceFactory *deviceFactory)
         Q_EMIT deviceFactoryChanged();
 }
 
-void OVTreeModel::resetItems(const QString &type, const QString &searchText)
+FailedMarks *OVTreeModel::failedMarks() const
 {
-    if (!m_deviceFactory)
-        return;
-    const QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), type, searchText);
+    return m_failedMarks;
+}
 
+void OVTreeModel::setFailedMarks(FailedMarks *marks)
+{
+    if (m_failedMarks == marks)
+        return;
+    if (m_failedMarks)
+        m_failedMarks->disconnect(this);
+    m_failedMarks = marks;
+    if (m_failedMarks)
+        connect(m_failedMarks, &FailedMarks::changed, this, &OVTreeModel::takeMarks);
+    Q_EMIT failedMarksChanged();
+    takeMarks();
+}
+
+void OVTreeModel::setOnlyFailed(bool only)
+{
+    if (std::exchange(m_onlyFailed, only) == only)
+        return;
+    Q_EMIT onlyFailedChanged();
+    resetItems(m_filterType, m_searchText);
+}
+
+void OVTreeModel::takeMarks()
+{
+    if (m_onlyFailed && (!m_failedMarks || m_failedMarks->count() == 0))
+        return setOnlyFailed(false);
+    if (m_onlyFailed)
+        return resetItems(m_filterType, m_searchText);
+    for (int group = 0; group < m_groups.size(); ++group) {
+        const QModelIndex parent = index(group, 0);
+        Q_EMIT dataChanged(index(0, 0, parent), index(rowCount(parent) - 1, 0, parent), {FailureRole});
+    }
+}
+
+QVariantList OVTreeModel::readRows() const
+{
+    QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText);
+    if (!m_onlyFailed)
+        return rows;
+    const DeviceOrder order{QString(DeviceRowKey::ipport)};
+    std::vector<std::pair<DeviceOrder::SortKey, QVariant>> keyed;
+    keyed.reserve(rows.size());
+    for (const QVariant &row : std::as_const(rows))
+        keyed.emplace_back(order.sortKey(row.toJsonObject()), row);
+    std::stable_sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) {
+        return DeviceOrder::compare(left.first, right.first) < 0;
+    });
+    rows.clear();
+    for (const auto &[key, row] : keyed)
+        rows.append(row);
+    return rows;
+}
+
+QString OVTreeModel::groupNameOf(const QJsonObject &row, const QString &identity) const
+{
+    if (m_onlyFailed)
+        return m_failedMarks ? m_failedMarks->reasonOf(identity) : QString();
+    const QString type = row.value(DeviceRowKey::type).toString();
+    return type.isEmpty() ? otherDeviceType() : type;
+}
+
+void OVTreeModel::rememberDevices()
+{
     for (const Group &group : std::as_const(m_groups)) {
         for (const Device &device : group.devices) {
             if (device.checked || device.copyRet != NoResult)
@@ -230,6 +296,16 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
                 m_remembered.remove(device.identity);
         }
     }
+}
+
+void OVTreeModel::resetItems(const QString &type, const QString &searchText)
+{
+    if (!m_deviceFactory)
+        return;
+    m_filterType = type;
+    m_searchText = searchText;
+    const QVariantList rows = readRows();
+    rememberDevices();
 
     QHash<QString, qsizetype> places;
     QHash<QString, int> withoutMac; // rows by address
@@ -238,21 +314,21 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
         const QJsonObject values = row.toJsonObject();
         if (rowAddress(values).isEmpty()) // waits for an address by DHCP: no login reaches it
             continue;
-        QString typeText = values.value(DeviceRowKey::type).toString();
-        if (typeText.isEmpty())
-            typeText = otherDeviceType();
-        const auto place = places.constFind(typeText);
-        const qsizetype position = place == places.cend() ? groups.size() : *place;
-        if (place == places.cend()) {
-            places.insert(typeText, position);
-            groups.append({.type = typeText, .devices = {}});
-        }
         QString identity = values.value(DeviceRowKey::mac).toString();
         if (identity.isEmpty()) {
             identity = values.value(DeviceRowKey::ipport).toString();
             const int before = withoutMac[identity]++;
             if (before > 0)
                 identity += QLatin1Char('#') + QString::number(before);
+        }
+        const QString name = groupNameOf(values, identity);
+        if (name.isEmpty())
+            continue;
+        const auto place = places.constFind(name);
+        const qsizetype position = place == places.cend() ? groups.size() : *place;
+        if (place == places.cend()) {
+            places.insert(name, position);
+            groups.append({.type = name, .devices = {}});
         }
         const Device device = deviceOf(identity, values);
         groups[position].devices.append(device);

@@ -9,6 +9,7 @@
 #include <utility>
 
 class CDeviceFactory;
+class FailedMarks;
 
 /// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named by their
 /// "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
@@ -17,11 +18,18 @@ class CDeviceFactory;
 /// results outlive a rebuild. They belong to the device, which its MAC identifies (its "ipport" if it reports
 /// none): a device that gets another address keeps its tick, and one that gets that address does not inherit
 /// it.
+///
+/// While only the devices that batches failed with are shown, the groups are the reasons, in alphabetical
+/// order, and the devices of each stand in the order of their addresses.
 class OVTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("device/failedmarks.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
+    /// It ends with the last mark.
+    Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY onlyFailedChanged)
     Q_PROPERTY(QStringList checkedDevices READ checkedDevices NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedDevicesChanged)
@@ -43,6 +51,7 @@ public:
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
         CopyRetRole,  ///< "copyRet": result of what was last done with the device, NoResult at first
         IdentityRole, ///< not for the scene: unique text of a device or of a group among its kind
+        FailureRole,  ///< not for the scene: what batches failed with the device, empty when they did not
     };
 
     explicit OVTreeModel(QObject *parent = nullptr);
@@ -60,6 +69,10 @@ public:
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
+    [[nodiscard]] FailedMarks *failedMarks() const;
+    void setFailedMarks(FailedMarks *marks);
+    [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
+    void setOnlyFailed(bool only);
 
     /// Rebuilds the tree from the IPv4 rows. `type` is "search" (devices that hold `searchText`) or
     /// "removeuninit" (initialised devices only); other filters of the rows are taken as well.
@@ -90,6 +103,8 @@ public:
 
 Q_SIGNALS:
     void deviceFactoryChanged();
+    void failedMarksChanged();
+    void onlyFailedChanged();
     void checkedDevicesChanged();
 
 private:
@@ -112,6 +127,11 @@ private:
     [[nodiscard]] static bool isGroup(const QModelIndex &index) { return index.internalId() == 0; }
     [[nodiscard]] const Group &groupOf(const QModelIndex &device) const;
     [[nodiscard]] Device deviceOf(const QString &identity, const QJsonObject &row) const;
+    void takeMarks();
+    [[nodiscard]] QVariantList readRows() const;
+    /// Name of the group that a row stands in; empty when it is not shown.
+    [[nodiscard]] QString groupNameOf(const QJsonObject &row, const QString &identity) const;
+    void rememberDevices();
     void notePlaces();
     void checkGroup(const QModelIndex &group, bool checked);
     void writeResult(const QModelIndex &device, int result);
@@ -120,6 +140,10 @@ private:
     void setDeviceChecked(const QModelIndex &device, bool checked);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<FailedMarks> m_failedMarks;      ///< not owned
+    bool m_onlyFailed = false;
+    QString m_filterType; ///< of the last resetItems(), empty before it
+    QString m_searchText;
     QList<Group> m_groups;
     QMultiHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
     QHash<QString, Device>

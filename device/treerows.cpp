@@ -89,6 +89,8 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
     case IdentityRole: // a device may report the type of a group as its MAC
         return (isGroup ? QStringLiteral("group ") : QStringLiteral("device ")) +
                fromTree(OVTreeModel::IdentityRole).toString();
+    case FailureRole:
+        return isGroup ? QString() : fromTree(OVTreeModel::FailureRole);
     default:
         return {};
     }
@@ -96,9 +98,9 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> DeviceTreeRows::roleNames() const
 {
-    return {{TitleRole, "title"},       {DetailRole, "detail"},    {TickRole, "tick"},
-            {ResultRole, "result"},     {IsGroupRole, "isGroup"},  {IsOpenRole, "isOpen"},
-            {CountRole, "deviceCount"}, {IdentityRole, "identity"}};
+    return {{TitleRole, "title"},       {DetailRole, "detail"},     {TickRole, "tick"},
+            {ResultRole, "result"},     {IsGroupRole, "isGroup"},   {IsOpenRole, "isOpen"},
+            {CountRole, "deviceCount"}, {IdentityRole, "identity"}, {FailureRole, "failure"}};
 }
 
 void DeviceTreeRows::setOpen(int row, bool open)

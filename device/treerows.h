@@ -27,6 +27,7 @@ public:
         IsOpenRole,               ///< "isOpen": of a group
         CountRole,                ///< "deviceCount": of a group
         IdentityRole,             ///< "identity": text by which rowOf() finds the row again
+        FailureRole,              ///< "failure": what batches failed with a device, see OVTreeModel
     };
 
     explicit DeviceTreeRows(QObject *parent = nullptr) : QAbstractListModel(parent) {}

@@ -1672,6 +1672,13 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
+    <name>FailedMarks</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FavouriteNoteCell</name>
     <message>
         <source>编辑备注</source>
@@ -3019,6 +3026,26 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>OVFailedFilter</name>
+    <message>
+        <source>仅失败 %1</source>
+        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
+        <translation>Failed only %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
+        <translation>Shows only devices that failed or were not done, by reason. Devices that are no longer listed are in the batch panel.</translation>
+    </message>
+    <message>
+        <source>清除标记</source>
+        <translation>Clear marks</translation>
+    </message>
+    <message>
+        <source>不再标记失败和未执行的设备</source>
+        <translation>Devices that failed or were not done are no longer marked</translation>
+    </message>
+</context>
+<context>
     <name>OVFootBar</name>
     <message>
         <source>停止</source>
@@ -3830,6 +3857,14 @@ File path: </translation>
     <message>
         <source>未安装设备库</source>
         <translation>No device library is installed</translation>
+    </message>
+    <message>
+        <source>显示全部</source>
+        <translation>Show all</translation>
+    </message>
+    <message>
+        <source>失败的设备不在列表中，见批处理记录。</source>
+        <translation>The failed devices are not in the list; see the batch panel.</translation>
     </message>
 </context>
 <context>

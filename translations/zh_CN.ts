@@ -1653,6 +1653,13 @@
     </message>
 </context>
 <context>
+    <name>FailedMarks</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>FavouriteNoteCell</name>
     <message>
         <source>编辑备注</source>
@@ -2991,6 +2998,26 @@
     </message>
 </context>
 <context>
+    <name>OVFailedFilter</name>
+    <message>
+        <source>仅失败 %1</source>
+        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
+        <translation>仅失败 %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
+        <translation>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</translation>
+    </message>
+    <message>
+        <source>清除标记</source>
+        <translation>清除标记</translation>
+    </message>
+    <message>
+        <source>不再标记失败和未执行的设备</source>
+        <translation>不再标记失败和未执行的设备</translation>
+    </message>
+</context>
+<context>
     <name>OVFootBar</name>
     <message>
         <source>停止</source>
@@ -3786,6 +3813,14 @@
     <message>
         <source>未安装设备库</source>
         <translation>未安装设备库</translation>
+    </message>
+    <message>
+        <source>显示全部</source>
+        <translation>显示全部</translation>
+    </message>
+    <message>
+        <source>失败的设备不在列表中，见批处理记录。</source>
+        <translation>失败的设备不在列表中，见批处理记录。</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,15 @@ constexpr int wrongPasswordsInARow = 5;
 /// Of the requests that a step makes, each has a time of its own, up to 5 s.
 constexpr std::chrono::milliseconds stepDeadline = std::chrono::seconds(60);
 
+/// Which system commands do the same work: a clock that was not set by this computer may be set by hand, and
+/// the change of a password has two steps.
+QString workOf(const QString &command)
+{
+    if (command == QLatin1String("setTimeByPC") || command == QLatin1String("setTimeByManual"))
+        return QStringLiteral("setTime");
+    return command == QLatin1String("loginCheck") ? QStringLiteral("modifyPassword") : command;
+}
+
 } // namespace
 
 Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
@@ -35,6 +44,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
         values.insert(QStringLiteral("timeOfRequest"), true);
     return start({.family = family,
                   .title = title,
+                  .work = workOf(command),
                   .devices = batchDevices(m_factory, family, ipports),
                   .policy = usualPolicy(),
                   .stepOf =
@@ -142,6 +152,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
             };
         };
     }
+    plan.work = QStringLiteral("changeAddress");
     plan.changesRows = true;
     plan.notesResults = true;
     return start(std::move(plan));
@@ -235,6 +246,10 @@ Batch *Batches::start(BatchPlan plan)
     auto *batch = new Batch(m_engine, std::move(plan), this);
     const int work = m_factory.busyState()->begin(batch->title(), BusyState::Rows);
     connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });
+    connect(batch, &Batch::resulted, this, [this, batch] {
+        if (!batch->isRunning()) // devices that waited for the next step do not get it
+            markFailed(*batch);
+    });
     if (!batch->start()) {
         m_factory.busyState()->end(work);
         delete batch;
@@ -265,5 +280,18 @@ void Batches::finish(Batch *batch, int work)
     if (plan.changesRows)
         m_factory.refreshDevices(plan.family, reached);
     m_factory.busyState()->end(work);
+    markFailed(*batch);
     Q_EMIT runningChanged();
+}
+
+void Batches::markFailed(const Batch &batch)
+{
+    QList<FailedMarks::Outcome> outcomes;
+    outcomes.reserve(batch.entries().size());
+    for (const Batch::Entry &entry : batch.entries())
+        outcomes.append({.identity = entry.device.identity,
+                         .result = entry.outcome.result,
+                         .words = outcomeText(entry.outcome)});
+    m_failedMarks.note(batch.plan().work.isEmpty() ? batch.title() : batch.plan().work, batch.title(),
+                       outcomes);
 }

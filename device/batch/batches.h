@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/batch/batch.h"
+#include "device/failedmarks.h"
 
 #include <QVariantMap>
 
@@ -15,6 +16,7 @@ class Batches : public QObject
     Q_OBJECT
     Q_PROPERTY(Batch *current READ current NOTIFY currentChanged)
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
+    Q_PROPERTY(FailedMarks *failedMarks READ failedMarks CONSTANT)
 public:
     /// Batches that are kept, the running one included.
     static constexpr int maximumKept = 50;
@@ -28,6 +30,9 @@ public:
     [[nodiscard]] Batch *current() const { return m_kept.isEmpty() ? nullptr : m_kept.constLast(); }
     [[nodiscard]] bool isRunning() const { return current() && current()->isRunning(); }
     [[nodiscard]] const QList<Batch *> &kept() const { return m_kept; }
+
+    /// The devices that the batches of the session failed with or did not come to.
+    [[nodiscard]] FailedMarks *failedMarks() { return &m_failedMarks; }
 
     // Each starts a batch and returns it, or null after refused(). The scene does not own it.
 
@@ -97,6 +102,7 @@ private:
     Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
                           Locating locating = Locating::None);
     void finish(Batch *batch, int work);
+    void markFailed(const Batch &batch);
     /// Whether addresses may be changed now; otherwise refused() says why not.
     [[nodiscard]] bool mayChangeAddresses();
 
@@ -104,4 +110,5 @@ private:
     BatchEngine &m_engine;
     const std::function<int()> m_atOnce;
     QList<Batch *> m_kept; ///< owned, oldest first
+    FailedMarks m_failedMarks;
 };

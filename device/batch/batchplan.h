@@ -33,6 +33,11 @@ struct BatchPlan
 {
     QString family; ///< of the devices
     QString title;  ///< of the work, for the user
+
+    /// Tells which batches do the same work: one that succeeds with a device makes up for one that failed.
+    /// Empty: those of the same title.
+    QString work = {};
+
     QList<BatchDevice> devices = {};
     BatchPolicy policy = {};
 

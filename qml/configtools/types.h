@@ -17,6 +17,7 @@
 #include "device/devicetablemodel.h"
 #include "device/dialogrows.h"
 #include "device/encodeform.h"
+#include "device/failedmarks.h"
 #include "device/systemtools.h"
 #include "device/treemodel.h"
 #include "device/treerows.h"
@@ -124,6 +125,13 @@ struct BatchReportForeign
     Q_GADGET
     QML_FOREIGN(BatchReport)
     QML_NAMED_ELEMENT(BatchReport)
+};
+
+struct FailedMarksForeign
+{
+    Q_GADGET
+    QML_FOREIGN(FailedMarks)
+    QML_NAMED_ELEMENT(FailedMarks)
 };
 
 struct BusyStateForeign

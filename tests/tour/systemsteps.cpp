@@ -1,5 +1,6 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
+#include "tests/tour/rows.h"
 #include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
@@ -46,10 +47,31 @@ void expectRefusal(const Driver &driver, const QString &button, const char *cont
     expectToast(driver, translated(context, message));
 }
 
+/// The three devices stay marked through the search that the new settings begin, and can be shown alone.
+void walkFailed(Driver &driver)
+{
+    const auto areAlone = [](int rows) {
+        return rows == 3;
+    };
+    driver.click(u"tab0"_s);
+    driver.click(u"failedFilter"_s);
+    const Rows rows(driver);
+    driver.await(u"the table has only the failed devices"_s, [&] { return areAlone(rows.count()); });
+    driver.hover(u"failedSign"_s);
+    driver.report(u"failed-only"_s, driver.text(u"toolTip"_s));
+    driver.click(u"tab3"_s);
+    driver.click(u"failedFilter"_s);
+    driver.await(u"the tree has only the failed devices, under their reason"_s,
+                 [&] { return areAlone(driver.require(u"deviceTree"_s)->property("count").toInt() - 1); });
+    driver.report(u"system-failed-only"_s, driver.text(u"failedFilter"_s));
+}
+
 void walkTime(Driver &driver)
 {
     setDefaultPassword(driver, u"not the password"_s);
     driver.click(u"tab3"_s);
+    if (driver.find(u"clearMarksButton"_s)) // of what other pages failed with
+        driver.click(u"clearMarksButton"_s);
     {
         // The first click is one into a tree that has not had the keyboard yet.
         const ScrolledTree tree(driver);
@@ -65,7 +87,9 @@ void walkTime(Driver &driver)
     driver.hover(u"resultSign"_s);
     driver.report(u"system-wrong-password"_s, driver.text(u"toolTip"_s));
     setDefaultPassword(driver, password);
+    walkFailed(driver);
     apply(driver, u"setTimeByPCButton"_s, {0, 0, 0});
+    driver.check(!driver.find(u"failedFilter"_s), u"devices that succeed lose their marks"_s);
     driver.report(u"system-time-by-pc"_s, u"three clocks are set"_s);
 
     driver.fill(u"manualTimeField"_s, u"2024-02-30 10:00:00"_s);

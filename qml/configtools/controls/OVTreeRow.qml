@@ -14,6 +14,7 @@ Rectangle {
     required property bool isGroup
     required property bool isOpen
     required property int deviceCount
+    required property string failure
     property var describer
     property bool current: false
     property bool busy: false
@@ -34,6 +35,10 @@ Rectangle {
 
     readonly property bool hasResult: !isGroup && result !== OVTreeModel.NoResult
     readonly property bool waits: result === OVTreeModel.WaitsForPassword
+    // A result that is a failure is the sign of the mark, too.
+    readonly property bool marked: failure !== "" && !busy && !(hasResult && result > 0)
+    readonly property int signsWidth: (busy || hasResult ? Theme.boxSize + Theme.unit : 0)
+        + (marked ? Theme.boxSize + Theme.unit : 0)
 
     height: Theme.controlHeight
     color: chosen || (current && !choosing) ? Theme.colours.rowSelected
@@ -103,7 +108,7 @@ Rectangle {
             id: words
             x: parent.width
             width: Math.min(implicitWidth, root.width - parent.x - x - Theme.pageMargin
-                - (sign.visible || spinner.visible ? Theme.boxSize + Theme.unit : 0))
+                - root.signsWidth)
             height: parent.height
             font: root.isGroup ? Theme.titleFont : Theme.figureFont
             text: root.title
@@ -111,7 +116,7 @@ Rectangle {
         OVLabel {
             x: words.x + words.width + Theme.unit
             width: Math.max(0, root.width - parent.x - x - Theme.pageMargin
-                - (sign.visible || spinner.visible ? Theme.boxSize + Theme.unit : 0))
+                - root.signsWidth)
             height: parent.height
             color: Theme.colours.faint
             font: root.isGroup ? Theme.figureFont : Theme.hintFont
@@ -146,5 +151,11 @@ Rectangle {
             shown: signPointer.hovered
             text: signPointer.hovered ? root.describer.wordOfResult(root.result, root.title) : ""
         }
+    }
+    OVFailedSign {
+        anchors.right: sign.visible ? sign.left : parent.right
+        anchors.rightMargin: sign.visible ? Theme.unit : Theme.pageMargin
+        anchors.verticalCenter: parent.verticalCenter
+        failure: root.marked ? root.failure : ""
     }
 }

@@ -124,7 +124,15 @@ OVTable {
         OVTableCell {
             id: result
 
+            // A result that is a failure is the sign of the mark, too.
+            OVFailedSign {
+                anchors.left: sign.right
+                anchors.leftMargin: Theme.unit
+                anchors.verticalCenter: parent.verticalCenter
+                failure: (result.value ?? -1) > 0 ? "" : result.row?.failure ?? ""
+            }
             OVIcon {
+                id: sign
                 x: 2 * Theme.unit
                 anchors.verticalCenter: parent.verticalCenter
                 color: result.value === 0 ? Theme.colours.ok

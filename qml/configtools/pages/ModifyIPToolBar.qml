@@ -9,11 +9,14 @@ RowLayout {
     required property bool showInitialised
     required property bool showUninitialised
     required property bool ipv6
+    required property FailedMarks marks
+    required property bool onlyFailed
     required property int upgradingCount  // of the ticked devices
     property alias searchText: searchField.text
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
     signal ipv6Chosen(bool ipv6)
+    signal onlyFailedToggled(bool only)
     signal initialiseRequested
     signal modifyRequested
     signal importRequested
@@ -112,6 +115,11 @@ RowLayout {
         Layout.fillWidth: true
     }
 
+    OVFailedFilter {
+        marks: root.marks
+        on: root.onlyFailed
+        onToggled: on => root.onlyFailedToggled(on)
+    }
     Row {
         spacing: Theme.controlGap
 

@@ -69,6 +69,7 @@ FocusScope {
     OVTreeModel {
         id: devices
         deviceFactory: page.deviceFactory
+        failedMarks: page.batches.failedMarks
     }
 
     DeviceListChanges {

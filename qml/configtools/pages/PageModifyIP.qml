@@ -27,6 +27,7 @@ FocusScope {
     function clearFilters() {
         devices.showInitialised = true;
         devices.showUninitialised = true;
+        devices.onlyFailed = false;
         toolBar.searchText = "";
     }
 
@@ -35,6 +36,7 @@ FocusScope {
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
+        failedMarks: page.batches.failedMarks
         searchText: toolBar.searchText.trim()
     }
 
@@ -119,6 +121,8 @@ FocusScope {
         width: parent.width - 2 * Theme.pageMargin
         height: Theme.toolBarHeight
         ipv6: devices.ipv6
+        marks: devices.failedMarks
+        onlyFailed: devices.onlyFailed
         showInitialised: devices.showInitialised
         showUninitialised: devices.showUninitialised
         upgradingCount: devices.checkedUpgradingCount
@@ -132,6 +136,7 @@ FocusScope {
         onInitialisedToggled: shown => devices.showInitialised = shown
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
         onModifyRequested: changes.modifyChecked()
+        onOnlyFailedToggled: only => devices.onlyFailed = only
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }
 

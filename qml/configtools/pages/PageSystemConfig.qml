@@ -33,12 +33,17 @@ FocusScope {
         panels.forgetNewPassword();
     }
 
+    /// The same text for the same devices: their order in the tree may change.
+    function namesOf(ipports) {
+        return String(Array.from(ipports).sort());
+    }
+
     function askForNewPassword() {
-        passwordTicks = String(devices.checkedDevices);
+        passwordTicks = namesOf(devices.checkedDevices);
         passwordTime.begin(batch.report.devicesWith(BatchReport.Waiting));
         if (!visible)
             disablePasswordEditor();
-        else if (passwordTicks !== String(checkedWhenAsked))
+        else if (passwordTicks !== namesOf(checkedWhenAsked))
             passwordTime.close(SystemPasswordTime.OtherTicks);
     }
 
@@ -93,8 +98,9 @@ FocusScope {
     OVTreeModel {
         id: devices
         deviceFactory: page.deviceFactory
+        failedMarks: page.batches.failedMarks
         onCheckedDevicesChanged: {
-            if (passwordTime.open && String(checkedDevices) !== page.passwordTicks)
+            if (passwordTime.open && page.namesOf(checkedDevices) !== page.passwordTicks)
                 passwordTime.close(SystemPasswordTime.OtherTicks);
         }
     }

@@ -213,6 +213,7 @@ private Q_SLOTS:
         m_tree->setCheckedDevices({"m1", "m3"});
         m_tree->resetItems("search", "10.0.0.1"); // hides the others
         Batch *batch = run({0, networkFailure, 0});
+        QVERIFY(m_batches->failedMarks()->contains("m2") && m_batches->failedMarks()->count() == 1);
         press("selectFailedButton");
         QCOMPARE(m_table->checkedMacs(), QStringList("m2"));
         QCOMPARE(m_tree->checkedCount(), 0);
@@ -223,7 +224,7 @@ private Q_SLOTS:
         m_gate.release();
         press("retryFailedButton");
         QTRY_COMPARE(text("selectedCount"), QStringLiteral("Ticked  ·  Work：1 台设备成功"));
-        QVERIFY(!find("footWarning"));
+        QVERIFY(!find("footWarning") && m_batches->failedMarks()->count() == 0);
         QCOMPARE(retried.first().first().value<Batch *>(), batch);
     }
 

@@ -65,6 +65,15 @@ Rectangle {
             font: Theme.figureFont
             text: root.devices.deviceCount
         }
+        OVFailedFilter {
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.controlGap
+            anchors.verticalCenter: parent.verticalCenter
+            enabled: !root.held
+            marks: root.devices.failedMarks
+            on: root.devices.onlyFailed
+            onToggled: on => root.devices.onlyFailed = on
+        }
         Rectangle {
             anchors.bottom: parent.bottom
             width: parent.width
@@ -104,20 +113,30 @@ Rectangle {
         shown: tree.activeFocus && !tree.byPointer
     }
     OVEmptyState {
+        readonly property bool filtered: root.searchText !== "" || root.devices.onlyFailed
+
         anchors.fill: tree
-        actionText: root.searchText !== "" ? qsTr("清除搜索")
+        actionText: root.searchText !== "" ? qsTr("清除搜索") : root.devices.onlyFailed ? qsTr("显示全部")
             : root.searching || !root.libraryInstalled ? "" : qsTr("重新搜索")
-        busy: root.searching && root.searchText === ""
+        busy: root.searching && !filtered
         hint: root.searchText !== "" ? qsTr("没有设备的名称、类型、型号或地址包含这些文字。")
+            : root.devices.onlyFailed ? qsTr("失败的设备不在列表中，见批处理记录。")
             : root.searching ? qsTr("找到的设备会陆续显示在这里。")
             : !root.libraryInstalled ? qsTr("以 --demo 参数启动可演示模拟站点。")
             : qsTr("只列出已初始化的IPv4设备。")
-        iconName: root.searchText !== "" ? "filtered" : root.libraryInstalled ? "nothing" : "unplugged"
+        iconName: filtered ? "filtered" : root.libraryInstalled ? "nothing" : "unplugged"
         objectName: "treeEmptyState"
-        title: root.searchText !== "" ? qsTr("没有匹配的设备")
+        title: filtered ? qsTr("没有匹配的设备")
             : root.searching ? qsTr("正在搜索设备…")
             : root.libraryInstalled ? qsTr("没有可配置的设备") : qsTr("未安装设备库")
         visible: root.devices.deviceCount === 0
-        onActivated: root.searchText !== "" ? searchField.wipe() : root.searchRequested()
+        onActivated: {
+            if (root.searchText !== "")
+                searchField.wipe();
+            else if (root.devices.onlyFailed)
+                root.devices.onlyFailed = false;
+            else
+                root.searchRequested();
+        }
     }
 }

@@ -1,0 +1,156 @@
+// Marks of failed devices, and the table and the tree that show only these.
+#include "device/devicetablemodel.h"
+#include "device/failedmarks.h"
+#include "device/loginresult.h"
+#include "device/treemodel.h"
+#include "device/treerows.h"
+#include "tests/datatable.h"
+#include "tests/device/rowsbackend.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+namespace {
+
+constexpr int succeeded = 0;
+constexpr int waits = resultCode(LoginResult::Unknown);
+constexpr int wrongPassword = resultCode(LoginResult::WrongPassword);
+constexpr int away = resultCode(LoginResult::NetworkFailure);
+
+using Batches = QList<std::pair<QString, QList<int>>>; ///< work, and results of the device
+
+} // namespace
+
+Q_DECLARE_METATYPE(Batches)
+
+class TestFailedMarks : public QObject
+{
+    Q_OBJECT
+private:
+    static void note(FailedMarks &marks, const QString &work, const QHash<QString, int> &results)
+    {
+        QList<FailedMarks::Outcome> outcomes;
+        for (auto result = results.cbegin(); result != results.cend(); ++result)
+            outcomes.append(
+                {.identity = result.key(), .result = result.value(), .words = resultName(result.value())});
+        marks.note(work, "title of " + work, outcomes);
+    }
+
+    /// A site of four devices, two of them with one reason, and a mark of one that is not found.
+    static void fill(RowsBackEnd &rows, FailedMarks &marks)
+    {
+        rows.add({.address = "10.0.0.10", .mac = "m10", .type = "IPC"});
+        rows.add({.address = "10.0.0.9", .mac = "m9", .type = "NVR"});
+        rows.add({.address = "10.0.0.3", .mac = "m3", .type = "IPC"});
+        rows.add({.address = "10.0.0.1", .mac = "m1", .type = "IPC"});
+        note(
+            marks, "reboot",
+            {{"m10", wrongPassword}, {"m9", wrongPassword}, {"m3", away}, {"m1", succeeded}, {"gone", away}});
+    }
+
+    static QStringList shown(const DeviceTableModel &table)
+    {
+        QStringList macs;
+        for (int row = 0; row < table.rowCount(); ++row)
+            macs.append(table.get(row).value("mac").toString());
+        return macs;
+    }
+
+private Q_SLOTS:
+    void aMarkLivesUntilTheSameWorkSucceeds_data()
+    {
+        const auto row = dataTable<Batches, QString>({"batches", "words"});
+        const QString password = resultName(wrongPassword);
+        row("failed", {{"reboot", {wrongPassword}}}, QStringLiteral("title of reboot：") + password);
+        row("succeeded later", {{"reboot", {wrongPassword}}, {"reboot", {succeeded}}}, "");
+        row("failed in another way", {{"reboot", {away}}, {"reboot", {wrongPassword}}},
+            QStringLiteral("title of reboot：") + password);
+        row("another work succeeds", {{"reboot", {wrongPassword}}, {"copy", {succeeded}}},
+            QStringLiteral("title of reboot：") + password);
+        row("two works", {{"copy", {away}}, {"reboot", {wrongPassword}}, {"reboot", {succeeded}}},
+            QStringLiteral("title of copy：") + resultName(away));
+        row("waits for the next step", {{"password", {wrongPassword}}, {"password", {waits}}},
+            QStringLiteral("title of password：") + password);
+        row("only waits", {{"password", {waits}}}, "");
+        row("named twice in a batch", {{"lines", {wrongPassword, succeeded}}},
+            QStringLiteral("title of lines：") + password);
+    }
+
+    void aMarkLivesUntilTheSameWorkSucceeds()
+    {
+        QFETCH(Batches, batches);
+        FailedMarks marks;
+        for (const auto &[work, results] : std::as_const(batches)) {
+            QList<FailedMarks::Outcome> outcomes;
+            for (const int result : results)
+                outcomes.append({.identity = "m1", .result = result, .words = resultName(result)});
+            marks.note(work, "title of " + work, outcomes);
+        }
+        QTEST(marks.wordsOf("m1"), "words");
+        QCOMPARE(marks.count(), marks.wordsOf("m1").isEmpty() ? 0 : 1);
+    }
+
+    void theTableShowsOnlyFailedDevices()
+    {
+        RowsFactory site;
+        FailedMarks marks;
+        DeviceTableModel table;
+        const QAbstractItemModelTester tester(&table);
+        table.setFailedMarks(&marks);
+        fill(*site.rows, marks);
+        table.setDeviceFactory(&site.factory);
+        QCOMPARE(table.get(table.rowOf("m3")).value("failure").toString(), marks.wordsOf("m3"));
+        table.setOnlyFailed(true);
+        const bool passwordFirst = resultName(wrongPassword) < resultName(away);
+        QCOMPARE(shown(table),
+                 passwordFirst ? (QStringList{"m9", "m10", "m3"}) : (QStringList{"m3", "m9", "m10"}));
+
+        // The next search finds a device at another address.
+        site.rows->ipv4.clear();
+        table.refresh();
+        QCOMPARE(table.rowCount(), 0);
+        site.rows->add({.address = "10.0.7.7", .mac = "m3", .type = "IPC"});
+        table.refresh();
+        QCOMPARE(shown(table), QStringList("m3"));
+
+        note(marks, "reboot", {{"m3", succeeded}});
+        QCOMPARE(table.rowCount(), 0);
+        marks.clear();
+        QVERIFY(!table.onlyFailed());
+        QCOMPARE(shown(table), QStringList("m3"));
+    }
+
+    void theTreeGroupsFailedDevicesByReason()
+    {
+        RowsFactory site;
+        FailedMarks marks;
+        OVTreeModel tree;
+        const QAbstractItemModelTester tester(&tree);
+        tree.setDeviceFactory(&site.factory);
+        tree.setFailedMarks(&marks);
+        fill(*site.rows, marks);
+        tree.resetItems("removeuninit", "");
+        tree.setCheckedDevices({"m1", "m9"});
+        tree.setOnlyFailed(true);
+        DeviceTreeRows rows;
+        rows.setTree(&tree);
+        QStringList lines;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            lines.append(rows.index(row).data(DeviceTreeRows::TitleRole).toString());
+        const QStringList password = {resultName(wrongPassword), "10.0.0.9:37777", "10.0.0.10:37777"};
+        const QStringList network = {resultName(away), "10.0.0.3:37777"};
+        QCOMPARE(lines, password.first() < network.first() ? password + network : network + password);
+        QCOMPARE(rows.index(1).data(DeviceTreeRows::FailureRole).toString().isEmpty(), false);
+        QCOMPARE(tree.checkedDevices(), QStringList("10.0.0.9:37777"));
+
+        tree.resetItems("search", "10.0.0.10");
+        QCOMPARE(tree.deviceCount(), 1);
+        marks.clear();
+        QVERIFY(!tree.onlyFailed());
+        tree.resetItems("removeuninit", "");
+        QCOMPARE(tree.checkedCount(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFailedMarks)
+#include "tst_failedmarks.moc"
