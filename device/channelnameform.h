@@ -16,6 +16,7 @@ class CDeviceFactory;
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY changed)

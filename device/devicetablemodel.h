@@ -23,6 +23,7 @@ class FailedMarks;
 class DeviceTableModel : public QAbstractListModel
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
     Q_MOC_INCLUDE("device/failedmarks.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)

@@ -15,6 +15,7 @@ class CDeviceFactory;
 class EncodeForm : public QObject
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(QStringList channels READ channels NOTIFY changed) ///< never empty

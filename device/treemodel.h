@@ -24,6 +24,7 @@ class FailedMarks;
 class OVTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
     Q_MOC_INCLUDE("device/failedmarks.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)

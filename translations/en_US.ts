@@ -163,18 +163,22 @@
     </message>
 </context>
 <context>
-    <name>AddressPlanTable</name>
+    <name>AddressPlan</name>
     <message>
-        <source>未初始化，不会修改</source>
-        <translation>Not initialised, will refuse</translation>
+        <source>没有MAC，不会修改</source>
+        <translation>No MAC; left out</translation>
     </message>
     <message>
         <source>与其他设备冲突</source>
-        <translation>Taken by another device</translation>
+        <translation>Another device has it</translation>
     </message>
     <message>
         <source>与本批设备冲突</source>
         <translation>Twice in this batch</translation>
+    </message>
+    <message>
+        <source>与网关地址相同</source>
+        <translation>Address of the gateway</translation>
     </message>
     <message>
         <source>超出起始IP的网段</source>
@@ -183,26 +187,6 @@
     <message>
         <source>网络地址或广播地址</source>
         <translation>Network or broadcast address</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>No.</translation>
-    </message>
-    <message>
-        <source>名称</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>原地址</source>
-        <translation>Old address</translation>
-    </message>
-    <message>
-        <source>新地址</source>
-        <translation>New address</translation>
-    </message>
-    <message>
-        <source>提示</source>
-        <translation>Note</translation>
     </message>
 </context>
 <context>
@@ -310,6 +294,98 @@
     </message>
 </context>
 <context>
+    <name>BatchPreview</name>
+    <message>
+        <source>未初始化，不会执行</source>
+        <translation>Not initialised; left out</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>Being upgraded; left out</translation>
+    </message>
+    <message>
+        <source>IP地址冲突，可能作用于另一台设备</source>
+        <translation>Address conflict: may affect the other device</translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewCounts</name>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <translation>
+            <numerusform>%n device selected</numerusform>
+            <numerusform>%n devices selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个警告，请查看提示</source>
+        <translation>
+            <numerusform>%n warning: see the notes</numerusform>
+            <numerusform>%n warnings: see the notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不会执行，请查看提示</source>
+        <translation>
+            <numerusform>%n device is left out: see the notes</numerusform>
+            <numerusform>%n devices are left out: see the notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewDialog</name>
+    <message>
+        <source>提示</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
+    </message>
+    <message>
+        <source>收起列表</source>
+        <translation>Hide list</translation>
+    </message>
+    <message numerus="yes">
+        <source>查看 %n 台设备</source>
+        <translation>
+            <numerusform>Show %n device</numerusform>
+            <numerusform>Show %n devices</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>名称和型号</source>
+        <translation>Name and model</translation>
+    </message>
+    <message>
+        <source>原地址</source>
+        <translation>Old address</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>新地址</source>
+        <translation>New address</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>What happens</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
     <name>BatchReport</name>
     <message numerus="yes">
         <source>%n 台设备成功</source>
@@ -390,6 +466,20 @@
 %1</source>
         <translation>The results could not be saved. You can try another place.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>BatchWarningQuestion</name>
+    <message>
+        <source>继续</source>
+        <translation>Continue</translation>
+    </message>
+    <message numerus="yes">
+        <source>有 %n 个警告，仍要继续吗？</source>
+        <translation>
+            <numerusform>There is %n warning. Continue anyway?</numerusform>
+            <numerusform>There are %n warnings. Continue anyway?</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2247,6 +2337,14 @@ A right click copies the result</translation>
         <source>列表只显示本局域网设备,初始化不支持跨局域网</source>
         <translation>Only devices of this LAN are listed: initialisation does not work across LANs.</translation>
     </message>
+    <message numerus="yes">
+        <source>另有 %n 台已初始化，不会执行</source>
+        <extracomment>Of the ticked devices; they get no first password.</extracomment>
+        <translation>
+            <numerusform>%n more is initialised and left out</numerusform>
+            <numerusform>%n more are initialised and left out</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>LiveChannelList</name>
@@ -2633,13 +2731,6 @@ A right click copies the result</translation>
         <source>修改IP</source>
         <translation>Modify IP</translation>
     </message>
-    <message numerus="yes">
-        <source>%n台设备已选中</source>
-        <translation>
-            <numerusform>%n device selected</numerusform>
-            <numerusform>%n devices selected</numerusform>
-        </translation>
-    </message>
     <message>
         <source>收起预览</source>
         <translation>Hide preview</translation>
@@ -2676,17 +2767,6 @@ A right click copies the result</translation>
         <source>网关</source>
         <translation>Gateway</translation>
     </message>
-    <message numerus="yes">
-        <source>%n 台设备的新地址有问题，请查看预览</source>
-        <translation>
-            <numerusform>The new address of %n device needs a look: see the preview</numerusform>
-            <numerusform>The new addresses of %n devices need a look: see the preview</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>设备未初始化，不会修改</source>
-        <translation>The device is not initialised and keeps its address</translation>
-    </message>
     <message>
         <source>该地址已被 %1 使用</source>
         <translation>%1 has this address</translation>
@@ -2706,6 +2786,14 @@ A right click copies the result</translation>
     <message>
         <source>确定</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>这是网关的地址</source>
+        <translation>This is the address of the gateway</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
     </message>
 </context>
 <context>
@@ -3366,6 +3454,11 @@ File path: </translation>
         <source>设备配置</source>
         <translation>Device configuration</translation>
     </message>
+    <message>
+        <source>写入通道 %1 的编码配置</source>
+        <extracomment>What happens to a device; %1 is a channel&apos;s number.</extracomment>
+        <translation>Encode settings of channel %1</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -3427,27 +3520,9 @@ File path: </translation>
         <source>验证旧密码</source>
         <translation>Check old password</translation>
     </message>
-    <message numerus="yes">
-        <source>确定要重启选中的 %n 台设备吗？</source>
-        <translation>
-            <numerusform>Reboot the selected device?</numerusform>
-            <numerusform>Reboot the %n selected devices?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>重启</source>
-        <translation>Reboot</translation>
-    </message>
     <message>
         <source>重启设备</source>
         <translation>Reboot devices</translation>
-    </message>
-    <message numerus="yes">
-        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
-        <translation>
-            <numerusform>Restore the factory settings of the selected device?</numerusform>
-            <numerusform>Restore the factory settings of the %n selected devices?</numerusform>
-        </translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
@@ -4127,6 +4202,63 @@ File path: </translation>
     <message>
         <source>修改密码</source>
         <translation>Change password</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPreview</name>
+    <message>
+        <source>启用夏令时</source>
+        <translation>Daylight saving</translation>
+    </message>
+    <message>
+        <source>停用夏令时</source>
+        <translation>No daylight saving</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>停用NTP</source>
+        <translation>no NTP</translation>
+    </message>
+    <message>
+        <source>%1 %2 重启</source>
+        <extracomment>When a device reboots: a day of the week or every day, and a time.</extracomment>
+        <translation>Reboot %1 %2</translation>
+    </message>
+    <message>
+        <source>停用定时重启</source>
+        <translation>No regular reboots</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要重启选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>Reboot the selected device?</numerusform>
+            <numerusform>Reboot the %n selected devices?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reboot</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
+        <translation>
+            <numerusform>Restore the factory settings of the selected device?</numerusform>
+            <numerusform>Restore the factory settings of the %n selected devices?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>将对 %n 台设备执行“%1”。</source>
+        <translation>
+            <numerusform>“%1” will be done on %n device.</numerusform>
+            <numerusform>“%1” will be done on %n devices.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>Go</translation>
     </message>
 </context>
 <context>

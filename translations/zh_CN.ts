@@ -162,10 +162,10 @@
     </message>
 </context>
 <context>
-    <name>AddressPlanTable</name>
+    <name>AddressPlan</name>
     <message>
-        <source>未初始化，不会修改</source>
-        <translation>未初始化，不会修改</translation>
+        <source>没有MAC，不会修改</source>
+        <translation>没有MAC，不会修改</translation>
     </message>
     <message>
         <source>与其他设备冲突</source>
@@ -176,32 +176,16 @@
         <translation>与本批设备冲突</translation>
     </message>
     <message>
+        <source>与网关地址相同</source>
+        <translation>与网关地址相同</translation>
+    </message>
+    <message>
         <source>超出起始IP的网段</source>
         <translation>超出起始IP的网段</translation>
     </message>
     <message>
         <source>网络地址或广播地址</source>
         <translation>网络地址或广播地址</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>No.</translation>
-    </message>
-    <message>
-        <source>名称</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>原地址</source>
-        <translation>原地址</translation>
-    </message>
-    <message>
-        <source>新地址</source>
-        <translation>新地址</translation>
-    </message>
-    <message>
-        <source>提示</source>
-        <translation>提示</translation>
     </message>
 </context>
 <context>
@@ -307,6 +291,94 @@
     </message>
 </context>
 <context>
+    <name>BatchPreview</name>
+    <message>
+        <source>未初始化，不会执行</source>
+        <translation>未初始化，不会执行</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>正在升级，不会执行</translation>
+    </message>
+    <message>
+        <source>IP地址冲突，可能作用于另一台设备</source>
+        <translation>IP地址冲突，可能作用于另一台设备</translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewCounts</name>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <translation>
+            <numerusform>%n台设备已选中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个警告，请查看提示</source>
+        <translation>
+            <numerusform>%n 个警告，请查看提示</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不会执行，请查看提示</source>
+        <translation>
+            <numerusform>%n 台设备不会执行，请查看提示</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewDialog</name>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
+    </message>
+    <message>
+        <source>收起列表</source>
+        <translation>收起列表</translation>
+    </message>
+    <message numerus="yes">
+        <source>查看 %n 台设备</source>
+        <translation>
+            <numerusform>查看 %n 台设备</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>名称和型号</source>
+        <translation>名称和型号</translation>
+    </message>
+    <message>
+        <source>原地址</source>
+        <translation>原地址</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>新地址</source>
+        <translation>新地址</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
+    </message>
+</context>
+<context>
     <name>BatchReport</name>
     <message numerus="yes">
         <source>%n 台设备成功</source>
@@ -383,6 +455,19 @@
 %1</source>
         <translation>结果无法保存，可以另选位置重试。
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>BatchWarningQuestion</name>
+    <message>
+        <source>继续</source>
+        <translation>继续</translation>
+    </message>
+    <message numerus="yes">
+        <source>有 %n 个警告，仍要继续吗？</source>
+        <translation>
+            <numerusform>有 %n 个警告，仍要继续吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2227,6 +2312,13 @@
         <source>列表只显示本局域网设备,初始化不支持跨局域网</source>
         <translation>列表只显示本局域网设备,初始化不支持跨局域网</translation>
     </message>
+    <message numerus="yes">
+        <source>另有 %n 台已初始化，不会执行</source>
+        <extracomment>Of the ticked devices; they get no first password.</extracomment>
+        <translation>
+            <numerusform>另有 %n 台已初始化，不会执行</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>LiveChannelList</name>
@@ -2609,12 +2701,6 @@
         <source>修改IP</source>
         <translation>修改IP</translation>
     </message>
-    <message numerus="yes">
-        <source>%n台设备已选中</source>
-        <translation>
-            <numerusform>%n台设备已选中</numerusform>
-        </translation>
-    </message>
     <message>
         <source>收起预览</source>
         <translation>收起预览</translation>
@@ -2651,16 +2737,6 @@
         <source>网关</source>
         <translation>网关</translation>
     </message>
-    <message numerus="yes">
-        <source>%n 台设备的新地址有问题，请查看预览</source>
-        <translation>
-            <numerusform>%n 台设备的新地址有问题，请查看预览</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>设备未初始化，不会修改</source>
-        <translation>设备未初始化，不会修改</translation>
-    </message>
     <message>
         <source>该地址已被 %1 使用</source>
         <translation>该地址已被 %1 使用</translation>
@@ -2680,6 +2756,14 @@
     <message>
         <source>确定</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>这是网关的地址</source>
+        <translation>这是网关的地址</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
     </message>
 </context>
 <context>
@@ -3330,6 +3414,11 @@
         <source>设备配置</source>
         <translation>设备配置</translation>
     </message>
+    <message>
+        <source>写入通道 %1 的编码配置</source>
+        <extracomment>What happens to a device; %1 is a channel&apos;s number.</extracomment>
+        <translation>写入通道 %1 的编码配置</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -3388,25 +3477,9 @@
         <source>验证旧密码</source>
         <translation>验证旧密码</translation>
     </message>
-    <message numerus="yes">
-        <source>确定要重启选中的 %n 台设备吗？</source>
-        <translation>
-            <numerusform>确定要重启选中的 %n 台设备吗？</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>重启</source>
-        <translation>重启</translation>
-    </message>
     <message>
         <source>重启设备</source>
         <translation>重启设备</translation>
-    </message>
-    <message numerus="yes">
-        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
-        <translation>
-            <numerusform>确定要将选中的 %n 台设备恢复出厂设置吗？</numerusform>
-        </translation>
     </message>
     <message>
         <source>恢复出厂设置</source>
@@ -4081,6 +4154,60 @@
     <message>
         <source>修改密码</source>
         <translation>修改密码</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPreview</name>
+    <message>
+        <source>启用夏令时</source>
+        <translation>启用夏令时</translation>
+    </message>
+    <message>
+        <source>停用夏令时</source>
+        <translation>停用夏令时</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>停用NTP</source>
+        <translation>停用NTP</translation>
+    </message>
+    <message>
+        <source>%1 %2 重启</source>
+        <extracomment>When a device reboots: a day of the week or every day, and a time.</extracomment>
+        <translation>%1 %2 重启</translation>
+    </message>
+    <message>
+        <source>停用定时重启</source>
+        <translation>停用定时重启</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要重启选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>确定要重启选中的 %n 台设备吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>重启</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
+        <translation>
+            <numerusform>确定要将选中的 %n 台设备恢复出厂设置吗？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>将对 %n 台设备执行“%1”。</source>
+        <translation>
+            <numerusform>将对 %n 台设备执行“%1”。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>执行</translation>
     </message>
 </context>
 <context>

@@ -51,8 +51,8 @@ QtObject {
     readonly property int restartHeight: 200
     readonly property int modifyIpWidth: 415
     readonly property int modifyIpHeight: 250
-    readonly property int addressPlanWidth: 720
-    readonly property int addressPlanHeight: 240
+    readonly property int batchPreviewWidth: 1000
+    readonly property int batchPreviewHeight: 240
     readonly property int initialiseWidth: 860
     readonly property int initialiseListHeight: 300
     readonly property int firstPasswordWidth: 440
@@ -125,6 +125,7 @@ QtObject {
     readonly property int columnResult: 92
     readonly property int columnActions: 168
     readonly property int columnPlanAddress: 128
+    readonly property int columnPlanAction: 184
     readonly property int columnPlanMark: 208
     readonly property int columnShortActions: 72
     readonly property int columnPort: 72

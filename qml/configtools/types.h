@@ -1,10 +1,11 @@
 // Types of other folders under their names in the scene.
 #pragma once
 
-#include "device/addressplan.h"
 #include "device/addresstools.h"
+#include "device/batch/addressplan.h"
 #include "device/batch/batches.h"
 #include "device/batch/batchhistory.h"
+#include "device/batch/batchpreview.h"
 #include "device/batch/batchresultmodel.h"
 #include "device/batchreport.h"
 #include "device/busyreport.h"
@@ -59,6 +60,13 @@ struct DeviceSelectionForeign
     Q_GADGET
     QML_FOREIGN(DeviceSelection)
     QML_NAMED_ELEMENT(DeviceSelection)
+};
+
+struct BatchPreviewForeign
+{
+    Q_GADGET
+    QML_FOREIGN(BatchPreview)
+    QML_NAMED_ELEMENT(BatchPreview)
 };
 
 struct AddressPlanForeign

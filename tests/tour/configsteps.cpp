@@ -221,6 +221,9 @@ void walkCopying(Driver &driver)
         driver.click(u"tick_"_s + device);
     driver.click(u"copyButton"_s);
     driver.report(u"config-copy"_s, driver.text(u"messageText"_s));
+    driver.click(u"previewButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.report(u"config-copy-list"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
     driver.await(u"each device has its result"_s, [&] {
         return resultOf(driver, second) == copiedWhole && resultOf(driver, old) == copiedPartly &&

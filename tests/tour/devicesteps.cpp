@@ -111,8 +111,11 @@ void walkBatchAcrossOctet(Driver &driver)
     driver.fill(u"newStartField"_s, u"192.168.1.254"_s);
     driver.check(driver.text(u"newGatewayField"_s) == QLatin1String("192.168.1.1"),
                  u"the gateway follows the address"_s);
-    driver.click(u"planButton"_s);
+    driver.require(u"planTable"_s);
     driver.report(u"modify-batch-plan"_s, u"%1 addresses are marked"_s.arg(driver.text(u"planWarning"_s)));
+    driver.click(u"okButton"_s);
+    driver.require(u"messageText"_s);
+    driver.report(u"modify-batch-warned"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
     driver.await(u"three results are there"_s, [&] { return rows.countOf("res", 0) == 3; });
     driver.report(u"modified-batch"_s, u"three devices have new addresses"_s);
@@ -136,8 +139,10 @@ void walkCollision(Driver &driver)
     driver.click(u"batchModifyButton"_s);
     driver.fill(u"newStartField"_s, u"192.168.1.230"_s);
     driver.click(u"sameAddressBox"_s);
-    driver.click(u"planButton"_s);
+    driver.require(u"planTable"_s);
     driver.report(u"modify-same-plan"_s, u"two devices of one address"_s);
+    driver.click(u"okButton"_s);
+    driver.require(u"messageText"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the two rows are in conflict"_s,
                  [&] { return rows.countOf("conflict", true) == before + 2; });

@@ -41,6 +41,14 @@ void apply(const Driver &driver, const QString &button, const QList<int> &expect
     driver.await(u"%1: the run ends"_s.arg(button), [&] { return driver.find(u"runningText"_s) == nullptr; });
 }
 
+/// The same for a button that shows first what will happen to which device.
+void applyListed(const Driver &driver, const QString &button, const QList<int> &expected)
+{
+    driver.click(button);
+    driver.require(u"previewTable"_s);
+    apply(driver, u"okButton"_s, expected);
+}
+
 void expectRefusal(const Driver &driver, const QString &button, const char *context, const char *message)
 {
     driver.click(button);
@@ -106,7 +114,7 @@ void walkZone(Driver &driver)
     driver.click(u"startWeekBox"_s);
     driver.report(u"system-weeks"_s, driver.texts(u"chosenText"_s).join(u' '));
     driver.click(u"choice4"_s); // the last one
-    apply(driver, u"dstApplyButton"_s, {0, 0, 0});
+    applyListed(driver, u"dstApplyButton"_s, {0, 0, 0});
     driver.click(u"dstByDate"_s);
     driver.require(u"startDayBox"_s);
     driver.report(u"system-zone"_s, driver.texts(u"chosenText"_s).join(u' '));
@@ -121,7 +129,11 @@ void walkZone(Driver &driver)
     driver.click(u"timeZoneBox"_s);
     driver.report(u"system-time-zones"_s, u"the zones of devices"_s);
     driver.click(u"choice1"_s);
-    apply(driver, u"ntpApplyButton"_s, {0, 0, 0});
+    driver.click(u"ntpApplyButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.click(u"check2"_s);
+    driver.report(u"system-preview"_s, driver.text(u"batchCount"_s));
+    apply(driver, u"okButton"_s, {0, 0, noResult}); // not that of a device that was taken out
 }
 
 void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
@@ -137,6 +149,9 @@ void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"cancelButton"_s);
     driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
     driver.click(u"rebootButton"_s);
+    driver.click(u"previewButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.report(u"system-reboot-list"_s, driver.text(u"batchCount"_s));
     apply(driver, u"okButton"_s, {0, noResult, noResult});
 
     // The first is away now, and stays so for as long as this takes.
@@ -144,7 +159,7 @@ void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
     site.setFault(mac, {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}});
     tick(driver, second);
     tick(driver, third);
-    apply(driver, u"autoMaintainButton"_s, {unreachable, 0, 0});
+    applyListed(driver, u"autoMaintainButton"_s, {unreachable, 0, 0});
     site.clearFault(mac, sdk::demo::Fault::NoAnswer);
     driver.report(u"system-unreachable"_s, driver.text(u"footWarning"_s));
     tick(driver, first);
@@ -173,7 +188,7 @@ void walkPassword(Driver &driver)
     driver.fill(u"newPasswordField"_s, u"Tour-2025"_s);
     driver.fill(u"confirmPasswordField"_s, u"Tour-2025"_s);
     driver.report(u"system-password"_s, driver.text(u"countdownText"_s));
-    apply(driver, u"modifyPasswordButton"_s, {noResult, 0, 0});
+    applyListed(driver, u"modifyPasswordButton"_s, {noResult, 0, 0});
     driver.check(!driver.require(u"newPasswordField"_s)->isEnabled(),
                  u"a password that is changed is done with"_s);
     driver.report(u"system-password-changed"_s, driver.text(u"selectedCount"_s));
@@ -184,7 +199,7 @@ void walkVideoAndReset(Driver &driver)
     driver.click(u"systemTab5"_s);
     driver.click(u"videoStandardBox"_s);
     driver.click(u"choice1"_s);
-    apply(driver, u"videoStandardButton"_s, {noResult, 0, 0}); // with the new password
+    applyListed(driver, u"videoStandardButton"_s, {noResult, 0, 0}); // with the new password
     driver.report(u"system-video"_s, driver.texts(u"chosenText"_s).join(u' '));
 
     driver.click(u"systemTab3"_s);

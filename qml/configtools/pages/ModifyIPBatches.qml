@@ -23,13 +23,14 @@ Item {
     function initialise() {
         if (!mayBegin())
             return;
-        const rows = deviceTable.checkedRows().filter(row => !row.state);
+        const ticked = deviceTable.checkedRows();
+        const rows = ticked.filter(row => !row.state);
         if (rows.length === 0) {
             said(qsTr("请选择一台未初始化的设备"), OVToast.Error);
             return;
         }
         const dialog = initialising.wanted();
-        dialog.load(rows);
+        dialog.load(rows, ticked.filter(row => row.state));
         dialog.open();
     }
 
@@ -63,8 +64,8 @@ Item {
     }
 
     function sendAddresses(dialog) {
-        batch = batches.changeAddresses("dh", qsTr("修改IP地址"), dialog.plan.identities(), dialog.plan.addresses(),
-                                        dialog.mask, dialog.gateway, dialog.dhcp);
+        batch = batches.changeAddresses("dh", qsTr("修改IP地址"), dialog.plan.checkedIdentities(),
+                                        dialog.plan.addresses(), dialog.mask, dialog.gateway, dialog.dhcp);
     }
 
     /// Says how it went, and reads the whole table.

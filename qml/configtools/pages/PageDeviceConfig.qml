@@ -53,14 +53,14 @@ FocusScope {
     }
 
     function copy() {
-        const chosen = page.targets;
-        const box = question.wanted();
-        box.action = () => copying.start(chosen);
-        box.okText = qsTr("复制");
+        const number = session.encoding.form.channel + 1;
         //: %1 is a channel's number.
-        box.show(qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", chosen.length)
-                     .arg(session.encoding.form.channel + 1)
-                 + (session.encoding.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : ""), OVMessageBox.Question);
+        const words = qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", targets.length).arg(number)
+            + (session.encoding.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : "");
+        //: What happens to a device; %1 is a channel's number.
+        preview.wanted().ask(words, qsTr("写入通道 %1 的编码配置").arg(number), Array.from(targets), {
+            okText: qsTr("复制"), action: chosen => copying.start(chosen)
+        });
     }
 
     objectName: "pageDeviceConfig"
@@ -124,6 +124,17 @@ FocusScope {
                 const wanted = action;
                 wanted();
             }
+        }
+    }
+    // qmllint enable unqualified
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: preview
+        visible: false
+        sourceComponent: BatchPreviewDialog {
+            deviceFactory: page.deviceFactory
+            onRefused: message => page.said(message, OVToast.Error, Theme.errorToastStay)
         }
     }
     // qmllint enable unqualified

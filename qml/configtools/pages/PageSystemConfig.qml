@@ -19,6 +19,7 @@ FocusScope {
 
     property string passwordTicks  // the ticked devices when the old password was checked
     property var checkedWhenAsked: []  // the devices of the last command
+    property var leftOut: []  // of the last change of passwords
 
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
@@ -48,7 +49,7 @@ FocusScope {
     }
 
     function takeChangedPasswords() {
-        const left = batch.report.devicesNotSucceeded();
+        const left = Array.from(batch.report.devicesNotSucceeded()).concat(leftOut);
         passwordTime.takeResults(left);
         if (left.length > 0)
             return;
@@ -73,9 +74,22 @@ FocusScope {
     }
 
     function runOnTicked(command, title, data) {
-        if (passwordTime.open)
-            passwordTime.close(SystemPasswordTime.OtherWork);
-        run(command, title, Array.from(devices.checkedDevices), data);  // a copy: the list itself follows the ticks
+        const ticked = Array.from(devices.checkedDevices);  // a copy: the list itself follows the ticks
+        preview.ask(command, title, data, ticked, chosen => {
+            if (passwordTime.open)
+                passwordTime.close(SystemPasswordTime.OtherWork);
+            run(command, title, chosen, data);
+        });
+    }
+
+    /// The devices that the user takes out keep waiting for their new password.
+    function changePasswords(password) {
+        const waiting = Array.from(passwordTime.devices);
+        preview.ask("modifyPassword", qsTr("修改密码"), {}, waiting, chosen => {
+            leftOut = waiting.filter(device => !chosen.includes(device));
+            run("modifyPassword", qsTr("修改密码"), chosen, {password: password});
+            devices.setResults(leftOut, leftOut.map(() => OVTreeModel.WaitsForPassword));
+        });
     }
 
     function takeEnd() {
@@ -83,14 +97,6 @@ FocusScope {
             askForNewPassword();
         else if (batch.command === "modifyPassword")
             takeChangedPasswords();
-    }
-
-    /// Runs a command that takes no data, once the user has said yes to `words`.
-    function ask(words, okText, command, title) {
-        const box = question.wanted();
-        box.okText = okText;
-        box.action = {command: command, title: title};
-        box.show(words, OVMessageBox.DangerQuestion);
     }
 
     objectName: "pageSystemConfig"
@@ -127,6 +133,7 @@ FocusScope {
     SystemPasswordTime {
         id: passwordTime
         changing: batch.running && batch.command === "modifyPassword"
+        onOpenChanged: if (!open) preview.withdraw("modifyPassword")
         deviceFactory: page.deviceFactory
         objectName: "passwordTime"
         onEnded: {
@@ -138,18 +145,11 @@ FocusScope {
         }
     }
 
-    // qmllint disable unqualified
-    OVOnDemand {
-        id: question
-        visible: false
-        sourceComponent: OVMessageBox {
-            property var action: null
-
-            objectName: "questionBox"
-            onAccepted: page.runOnTicked(action.command, action.title, {})
-        }
+    SystemPreview {
+        id: preview
+        deviceFactory: page.deviceFactory
+        onRefused: message => page.said(message, OVToast.Error)
     }
-    // qmllint enable unqualified
 
     SystemDeviceTree {
         id: deviceTree
@@ -180,17 +180,14 @@ FocusScope {
         timeZone: page.timeZone
         upgradingCount: devices.checkedUpgradingCount
         onActionRequested: (command, title, data) => page.runOnTicked(command, title, data)
-        onPasswordChangeRequested: password => page.run("modifyPassword", qsTr("修改密码"), passwordTime.devices,
-                                                        {password: password})
+        onPasswordChangeRequested: password => page.changePasswords(password)
         onPasswordCheckRequested: password => {
             passwordTime.close(SystemPasswordTime.Regular);
             page.runOnTicked("loginCheck", qsTr("验证旧密码"), {password: password});
         }
-        onRebootRequested: page.ask(qsTr("确定要重启选中的 %n 台设备吗？", "", devices.checkedCount), qsTr("重启"),
-                                    "rebootDevice", qsTr("重启设备"))
+        onRebootRequested: page.runOnTicked("rebootDevice", qsTr("重启设备"), {})
         onRefused: message => page.said(message, OVToast.Error)
-        onResetRequested: page.ask(qsTr("确定要将选中的 %n 台设备恢复出厂设置吗？", "", devices.checkedCount),
-                                   qsTr("恢复出厂设置"), "resetSystem", qsTr("恢复出厂设置"))
+        onResetRequested: page.runOnTicked("resetSystem", qsTr("恢复出厂设置"), {})
     }
 
     OVFootBar {

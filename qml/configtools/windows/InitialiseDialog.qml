@@ -6,11 +6,13 @@ OVDialog {
     id: root
 
     readonly property alias count: devices.checkedCount
+    property var skipped: []  // rows of the other devices that the user has ticked
     signal refused(string message)
     signal confirmed
 
-    function load(rows) {
+    function load(rows, others) {
         devices.setRows(rows);
+        skipped = others;
     }
 
     /// Names of the ticked rows.
@@ -27,6 +29,35 @@ OVDialog {
 
     DeviceSelection {
         id: devices
+    }
+
+    footContent: Row {
+        height: parent.height
+        spacing: Theme.signGap
+        visible: root.skipped.length > 0
+
+        OVIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.colours.sub
+            name: "mixed"
+            size: Theme.smallIconSize
+        }
+        OVLabel {
+            height: parent.height
+            color: Theme.colours.sub
+            objectName: "skippedCount"
+            //: Of the ticked devices; they get no first password.
+            text: qsTr("另有 %n 台已初始化，不会执行", "", root.skipped.length)
+
+            HoverHandler {
+                id: pointer
+            }
+            OVToolTip {
+                shown: pointer.hovered
+                text: root.skipped.slice(0, 12).map(row => row.ipport).concat(root.skipped.length > 12 ? ["…"] : [])
+                    .join("\n")
+            }
+        }
     }
 
     Column {

@@ -1,5 +1,5 @@
-// New addresses for one device or for a batch. Before a batch is sent, the dialog opens out to show who will
-// get what.
+// New addresses for one device or for a batch. As soon as it is known who of a batch will get what, the dialog opens
+// out to show it.
 import QtQuick
 import configtools
 
@@ -9,21 +9,25 @@ OVDialog {
     required property var deviceFactory
     property bool batch: false
     property bool openedOut: false
-    property var rows: []  // the devices, in the order of the plan
     readonly property alias plan: plan
+    readonly property int formWidth: Theme.modifyIpWidth - 2 * Theme.pageMargin  // also when it is opened out
     readonly property alias dhcp: dhcpButton.checked
     readonly property string mask: AddressTools.plainAddress(maskField.text)
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
     property bool tried: false  // what is wrong is said under a field once "确定" was pressed
+    readonly property bool planned: dhcp || startField.acceptable
     readonly property string addressWarning: {
-        plan.markedCount;  // read so that this follows the plan
+        plan.warningCount + plan.skippedCount;  // read so that this follows the plan
         if (batch || dhcp)
-            return "";  // the preview has the marks of a batch
-        switch (Object.assign({}, plan.get(0)).mark) {
-        case AddressPlan.NotInitialised:
-            return qsTr("设备未初始化，不会修改");
+            return "";  // the preview has the notes of a batch
+        const device = Object.assign({}, plan.get(0));
+        switch (device.mark) {
+        case AddressPlan.NotChanged:
+            return device.note;
         case AddressPlan.TakenByOther:
             return qsTr("该地址已被 %1 使用").arg(plan.otherDeviceAt(0));
+        case AddressPlan.IsGateway:
+            return qsTr("这是网关的地址");
         case AddressPlan.NoDeviceAddress:
             return qsTr("这是网络地址或广播地址");
         default:
@@ -47,7 +51,6 @@ OVDialog {
         startField.text = startField.before = "";
         maskField.text = "255.255.255.0";
         gatewayField.text = "";
-        rows = devices;
         plan.setDevices(devices);
     }
 
@@ -61,27 +64,45 @@ OVDialog {
         return gatewayField.acceptable ? "" : qsTr("请输入正确的网关");
     }
 
-    width: openedOut ? Theme.addressPlanWidth : Theme.modifyIpWidth
+    /// Warnings of a batch are asked about once they are all in view.
+    function startBatch() {
+        const count = plan.warningCount + (gatewayWarning === "" ? 0 : 1);
+        warned = warnings;
+        if (plan.checkedCount === 0) {
+            refused(qsTr("请选择一台设备"));
+        } else if (count > 0) {
+            openedOut = true;
+            question.ask(count);
+        } else {
+            confirmed();
+        }
+    }
+
+    width: openedOut ? Theme.batchPreviewWidth : Theme.modifyIpWidth
     height: Math.max(Theme.modifyIpHeight, implicitHeight)
     dense: true
     objectName: "modifyIpDialog"
-    okText: warned !== "" && warned === warnings ? qsTr("仍然修改") : qsTr("确定")
+    okText: !batch && warned !== "" && warned === warnings ? qsTr("仍然修改") : qsTr("确定")
     title: qsTr("修改IP")
     onAccepted: {
         tried = true;
         const message = fault();
         if (message !== "")
             refused(message);
+        else if (batch)
+            startBatch();
         else if (warned !== warnings && warnings !== "")
             warned = warnings;
         else
             confirmed();
     }
     onOpened: startField.forceActiveFocus()
+    onPlannedChanged: if (planned && batch) openedOut = true
 
     AddressPlan {
         id: plan
         deviceFactory: root.deviceFactory
+        dhcp: root.dhcp
         gateway: gatewayField.text
         mask: maskField.text
         sameAddress: root.batch && sameBox.checked
@@ -93,12 +114,9 @@ OVDialog {
         spacing: Theme.controlGap
         visible: root.batch
 
-        OVLabel {
-            id: selectedText
+        BatchPreviewCounts {
             height: parent.height
-            color: Theme.colours.sub
-            objectName: "batchCount"
-            text: qsTr("%n台设备已选中", "", plan.count)
+            preview: plan
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
@@ -106,32 +124,6 @@ OVDialog {
             text: root.openedOut ? qsTr("收起预览") : qsTr("预览")
             toolTip: qsTr("显示每台设备将得到的地址")
             onClicked: root.openedOut = !root.openedOut
-        }
-        Row {
-            height: parent.height
-            spacing: Theme.signGap
-            visible: plan.markedCount > 0 && !root.dhcp
-
-            OVIcon {
-                anchors.verticalCenter: parent.verticalCenter
-                color: Theme.colours.warn
-                name: "alert"
-                size: Theme.smallIconSize
-            }
-            OVLabel {
-                height: parent.height
-                color: Theme.colours.warnInk
-                objectName: "planWarning"
-                text: plan.markedCount
-
-                HoverHandler {
-                    id: warningPointer
-                }
-                OVToolTip {
-                    shown: warningPointer.hovered
-                    text: qsTr("%n 台设备的新地址有问题，请查看预览", "", plan.markedCount)
-                }
-            }
         }
     }
 
@@ -164,7 +156,7 @@ OVDialog {
             }
         }
         OVFormRow {
-            width: parent.width
+            width: root.formWidth
             enabled: !root.dhcp
             label: qsTr("起始IP")
 
@@ -195,7 +187,7 @@ OVDialog {
             }
         }
         OVFormRow {
-            width: parent.width
+            width: root.formWidth
             enabled: !root.dhcp
             label: qsTr("子网掩码")
 
@@ -208,7 +200,7 @@ OVDialog {
             }
         }
         OVFormRow {
-            width: parent.width
+            width: root.formWidth
             enabled: !root.dhcp
             label: qsTr("网关")
 
@@ -221,12 +213,17 @@ OVDialog {
                 warningText: root.warned === "" ? "" : root.gatewayWarning
             }
         }
-        AddressPlanTable {
+        BatchPreviewTable {
             width: parent.width
-            height: Theme.addressPlanHeight
-            dhcp: root.dhcp
-            model: plan
+            height: Theme.batchPreviewHeight
+            givesAddresses: true
+            objectName: "planTable"
+            preview: plan
             visible: root.openedOut
         }
+    }
+    BatchWarningQuestion {
+        id: question
+        onAccepted: root.confirmed()
     }
 }

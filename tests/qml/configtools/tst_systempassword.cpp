@@ -1,4 +1,5 @@
 #include "device/batch/batches.h"
+#include "device/batch/batchpreview.h"
 #include "device/treemodel.h"
 #include "sdk/demo/demosite.h"
 #include "tests/datatable.h"
@@ -67,6 +68,7 @@ private:
         type("newPasswordField", "Better-2025");
         type("confirmPasswordField", "Better-2025");
         press("modifyPasswordButton");
+        press("okButton"); // of the list of what will happen
         QVERIFY(isRunning());
     }
     void leave() const
@@ -110,6 +112,19 @@ private Q_SLOTS:
         m_batches.reset();
         m_site.reset();
         m_threads.reset();
+    }
+
+    void aDeviceThatIsTakenOutKeepsItsTime()
+    {
+        type("newPasswordField", "Better-2025");
+        type("confirmPasswordField", "Better-2025");
+        press("modifyPasswordButton");
+        item("previewTable")->property("preview").value<BatchPreview *>()->setRangeChecked(3, 3, false);
+        press("okButton");
+        QTRY_VERIFY(!isRunning());
+        QCOMPARE(m_site->site->requests().of("NetModifyPassword").size(), 3);
+        QVERIFY(item("newPasswordField")->isEnabled());
+        QCOMPARE(m_time->property("devices").toStringList().size(), 1);
     }
 
     void everyDeviceIsAccountedFor_data()

@@ -1,8 +1,8 @@
-#include "device/addressplan.h"
 #include "device/addresstools.h"
-#include "device/deviceselection.h"
+#include "device/batch/addressplan.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
+#include "tests/values.h"
 
 #include <QAbstractItemModelTester>
 
@@ -40,6 +40,8 @@ private Q_SLOTS:
             {fine, noDevice});
         row("over the highest address", "255.255.255.254", mask, "255.255.255.254 255.255.255.255 0.0.0.0",
             {fine, noDevice});
+        row("onto the gateway", "192.168.1.5", mask, "192.168.1.5 192.168.1.6 192.168.1.7",
+            {fine, AddressPlan::IsGateway});
         row("out of a small subnet", "10.0.0.6", "255.255.255.248", "10.0.0.6 10.0.0.7 10.0.0.8",
             {fine, noDevice});
         row("into the next subnet", "10.0.0.7", "255.255.255.248", "10.0.0.7 10.0.0.8 10.0.0.9",
@@ -70,6 +72,7 @@ private Q_SLOTS:
         plan.setDeviceFactory(&site.factory);
         plan.setDevices(rowsOf(site, {"m0", "m1", "m2"}));
         plan.setMask(mask);
+        plan.setGateway("192.168.1.6");
         plan.setSameAddress(same);
         plan.setStartAddress(start);
         QStringList addresses;
@@ -84,11 +87,12 @@ private Q_SLOTS:
                 QCOMPARE(plan.otherDeviceAt(row), "");
         }
         QTEST(addresses.join(' '), "addresses");
-        QCOMPARE(plan.markedCount(), marks.size() - marks.count(AddressPlan::Fine));
-        QCOMPARE(marks.takeLast(), int(AddressPlan::NotInitialised));
+        QCOMPARE(plan.skippedCount(), 1);
+        QCOMPARE(plan.warningCount(), marks.size() - 1 - marks.count(AddressPlan::Fine));
+        QCOMPARE(marks.takeLast(), int(AddressPlan::NotChanged));
         QTEST(marks, "marks");
         plan.setStartAddress("192.168.1");
-        QVERIFY(plan.addressOf(0).isEmpty() && plan.markedCount() == 0);
+        QVERIFY(plan.addressOf(0).isEmpty() && plan.warningCount() == 0);
     }
 
     void knowsGatewaysOfTheSubnet()
@@ -101,6 +105,50 @@ private Q_SLOTS:
             plan.setGateway(gateway);
             QCOMPARE(plan.isGatewayOutside(), outside);
         }
+    }
+
+    void anUntickedDeviceKeepsItsAddress()
+    {
+        RowsFactory site;
+        for (const char *number : {"1", "2", "3"})
+            site.rows->add({.address = std::string("10.0.0.") + number, .mac = std::string("m") + number});
+        AddressPlan plan;
+        plan.setDeviceFactory(&site.factory);
+        plan.setDevices(rowsOf(site, {"m1", "m2", "m3"}));
+        plan.setStartAddress("10.0.0.2");
+        QCOMPARE(plan.warningCount(), 0);
+        plan.setRangeChecked(1, 1, false);
+        QCOMPARE(plan.checkedIdentities(), (QStringList{"m1", "m3"}));
+        QCOMPARE(plan.addresses(), (QStringList{"10.0.0.2", "10.0.0.3"}));
+        QCOMPARE(plan.get(0).value("mark").toInt(), int(AddressPlan::TakenByOther));
+        plan.setDhcp(true);
+        QCOMPARE(valuesOf(plan.get(0), "action kind"), "DHCP|0");
+        QCOMPARE(valuesOf(plan.get(1), "action kind"), "|0");
+    }
+
+    void previewsWhatWillHappen()
+    {
+        RowsFactory site;
+        site.rows->add({.address = "10.0.0.1", .mac = "m1", .name = "Door"});
+        site.rows->add({.address = "10.0.0.2", .mac = "m2", .state = sdk::InitialisationBits::Uninitialised});
+        site.rows->add({.address = "10.0.0.3", .mac = "m3"});
+        site.rows->add({.address = "10.0.0.4", .mac = "m4"});
+        site.rows->add({.address = "10.0.0.4", .mac = "m5"});
+        site.rows->setUpgrade(2, UpgradeTools::Writing);
+        BatchPreview preview;
+        const QAbstractItemModelTester tester(&preview);
+        preview.setDeviceFactory(&site.factory);
+        preview.setAction("Reboot");
+        preview.setAddresses({"10.0.0.1:37777", "10.0.0.2:37777", "10.0.0.3:37777", "10.0.0.4:37777"});
+        QStringList kinds;
+        for (int row = 0; row < preview.rowCount(); ++row)
+            kinds.append(valuesOf(preview.get(row), "mac action kind"));
+        QCOMPARE(kinds, (QStringList{"m1|Reboot|0", "m2||2", "m3||2", "m4|Reboot|1"}));
+        QCOMPARE(preview.get(0).value("title").toString().section(' ', 0, 0), "Door");
+        QCOMPARE(preview.warningCount(), 1);
+        preview.setRangeChecked(1, 3, false);
+        QCOMPARE(preview.checkedAddresses(), QStringList("10.0.0.1:37777"));
+        QCOMPARE(preview.warningCount() + preview.skippedCount(), 0);
     }
 
     void copiesEditsIntoTheGateway_data()

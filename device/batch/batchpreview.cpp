@@ -1,0 +1,177 @@
+#include "device/batch/batchpreview.h"
+
+#include "device/devicefactory.h"
+#include "device/devicerow.h"
+#include "device/upgradetools.h"
+
+#include <utility>
+
+namespace {
+
+const QString family = QStringLiteral("dh");
+
+QString titleOf(const QVariantMap &device)
+{
+    QStringList words = {device.value(DeviceRowKey::name).toString(),
+                         device.value(DeviceRowKey::model).toString()};
+    words.removeAll(QString());
+    return words.join(QStringLiteral(" · "));
+}
+
+} // namespace
+
+BatchPreview::BatchPreview(QObject *parent) : DeviceSelection(parent)
+{
+    connect(this, &DeviceSelection::checkedCountChanged, this, &BatchPreview::rejudge);
+}
+
+CDeviceFactory *BatchPreview::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void BatchPreview::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    m_deviceFactory = deviceFactory;
+    Q_EMIT factoryChanged();
+}
+
+void BatchPreview::setAction(const QString &action)
+{
+    if (std::exchange(m_action, action) != action)
+        rejudge();
+}
+
+void BatchPreview::setDevices(const QVariantList &rows)
+{
+    readList();
+    QVariantList devices;
+    for (const QVariant &value : rows) {
+        const QVariantMap device = value.toMap();
+        QVariantMap shown = {{QStringLiteral("identity"), identityOf(device)},
+                             {QStringLiteral("title"), titleOf(device)}};
+        for (const QLatin1StringView key :
+             {DeviceRowKey::mac, DeviceRowKey::ipport, DeviceRowKey::state, DeviceRowKey::upgraderes}) {
+            if (device.contains(key))
+                shown.insert(key, device.value(key));
+        }
+        devices.append(shown);
+    }
+    setRows(devices);
+}
+
+void BatchPreview::setAddresses(const QStringList &ipports)
+{
+    QHash<QString, QVariantMap> listed; // the first one of each address, as operations find it
+    const QVariantList all = listedRows();
+    for (const QVariant &value : all) {
+        const QJsonObject row = value.toJsonObject();
+        const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        if (listed.contains(ipport))
+            continue;
+        QVariantMap device = row.toVariantMap();
+        device.insert(QStringLiteral("identity"), rowName(row));
+        listed.insert(ipport, device);
+    }
+    QVariantList rows;
+    for (const QString &ipport : ipports) {
+        QVariantMap device = listed.value(ipport);
+        device.insert(DeviceRowKey::ipport, ipport);
+        rows.append(device);
+    }
+    setDevices(rows);
+}
+
+QVariantList BatchPreview::listedRows() const
+{
+    return m_deviceFactory ? m_deviceFactory->filterData(family, QStringLiteral("nofilter")) : QVariantList();
+}
+
+void BatchPreview::readList()
+{
+    m_listed.clear();
+    m_devicesAt.clear();
+    const QVariantList all = listedRows();
+    m_listed.reserve(all.size());
+    for (const QVariant &value : all) {
+        const QJsonObject row = value.toJsonObject();
+        const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        const QString words = QString(row.value(DeviceRowKey::model).toString() + QLatin1Char(' ') +
+                                      row.value(DeviceRowKey::mac).toString())
+                                  .trimmed();
+        m_listed.append(
+            {.identity = rowName(row), .ipport = ipport, .words = words.isEmpty() ? ipport : words});
+        ++m_devicesAt[ipport];
+    }
+}
+
+QStringList BatchPreview::checkedAddresses() const
+{
+    QStringList ipports;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isChecked(row))
+            ipports.append(addressAndPortOf(row));
+    }
+    return ipports;
+}
+
+QString BatchPreview::addressAndPortOf(int row) const
+{
+    return DeviceSelection::valuesOf(row).value(DeviceRowKey::ipport).toString();
+}
+
+QString BatchPreview::hindranceOf(int row) const
+{
+    const QVariantMap device = DeviceSelection::valuesOf(row);
+    if (!device.value(DeviceRowKey::state, true).toBool())
+        return tr("未初始化，不会执行");
+    if (UpgradeTools::isRunning(device.value(DeviceRowKey::upgraderes, int(UpgradeTools::None)).toInt()))
+        return tr("正在升级，不会执行");
+    return {};
+}
+
+BatchPreview::Judgement BatchPreview::judgementOf(int row) const
+{
+    const QString hindrance = hindranceOf(row);
+    if (!hindrance.isEmpty())
+        return {.kind = Skipped, .note = hindrance};
+    if (m_devicesAt.value(addressAndPortOf(row)) > 1)
+        return {.kind = Warned,
+                .action = m_action,
+                .note = tr("IP地址冲突，可能作用于另一台设备"),
+                .isConflict = true};
+    return {.action = m_action};
+}
+
+void BatchPreview::rejudge()
+{
+    prepare();
+    m_judgements.clear();
+    m_judgements.reserve(rowCount());
+    m_warningCount = 0;
+    m_skippedCount = 0;
+    for (int row = 0; row < rowCount(); ++row) {
+        m_judgements.append(isChecked(row) ? judgementOf(row) : Judgement());
+        m_warningCount += m_judgements.constLast().kind == Warned ? 1 : 0;
+        m_skippedCount += m_judgements.constLast().kind == Skipped ? 1 : 0;
+    }
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    Q_EMIT judged();
+}
+
+QVariantMap BatchPreview::valuesOf(int row) const
+{
+    QVariantMap values = DeviceSelection::valuesOf(row);
+    const Judgement judgement = m_judgements.value(row); // none yet in the middle of setRows()
+    values.insert(DeviceRowKey::num, row + 1);
+    values.insert(QStringLiteral("action"), judgement.action);
+    values.insert(QStringLiteral("note"), judgement.note);
+    values.insert(QStringLiteral("kind"), judgement.kind);
+    return values;
+}
+
+bool BatchPreview::isInConflict(int row) const
+{
+    return m_judgements.value(row).isConflict;
+}

@@ -1,0 +1,105 @@
+// What a batch will do with each of its devices.
+#pragma once
+
+#include "device/deviceselection.h"
+
+#include <QList>
+#include <QPointer>
+
+class CDeviceFactory;
+
+/// The devices of a batch that is about to begin, with what will happen to each. A note warns of what may go
+/// wrong, or says why the batch will not do anything with the device. A device that the user unticks takes no
+/// part in the batch, and has no note.
+///
+/// Keys of a row: "num", "title" (name and model), "mac", "ipport", "identity", "checked", "action" (what
+/// happens; empty when nothing does), "note" and "kind".
+class BatchPreview : public DeviceSelection
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
+    Q_PROPERTY(CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY factoryChanged)
+    Q_PROPERTY(QString action READ action WRITE setAction NOTIFY judged)
+    Q_PROPERTY(int warningCount READ warningCount NOTIFY judged)
+    Q_PROPERTY(int skippedCount READ skippedCount NOTIFY judged)
+public:
+    enum Kind
+    {
+        Planned,
+        Warned,
+        Skipped, ///< the batch will report it, but do nothing with it
+    };
+    Q_ENUM(Kind)
+
+    explicit BatchPreview(QObject *parent = nullptr);
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+
+    /// What happens to each device, in words.
+    [[nodiscard]] QString action() const { return m_action; }
+    void setAction(const QString &action);
+
+    [[nodiscard]] int warningCount() const { return m_warningCount; } ///< of ticked rows
+    [[nodiscard]] int skippedCount() const { return m_skippedCount; }
+
+    /// Takes device rows, as a DeviceTableModel has them, all of them ticked.
+    Q_INVOKABLE void setDevices(const QVariantList &rows);
+
+    /// Takes the devices that have these addresses and ports.
+    Q_INVOKABLE void setAddresses(const QStringList &ipports);
+
+    /// "ipport" of the ticked rows in their order.
+    Q_INVOKABLE [[nodiscard]] QStringList checkedAddresses() const;
+
+Q_SIGNALS:
+    void factoryChanged();
+    void judged();
+
+protected:
+    /// What will come of a device.
+    struct Judgement
+    {
+        Kind kind = Planned;
+        QString action = {};
+        QString note = {};
+        bool isConflict = false; ///< the row stands out
+    };
+
+    /// The devices of the list, as they were when the devices of the batch were taken.
+    struct ListedDevice
+    {
+        QString identity;
+        QString ipport;
+        QString words; ///< model and MAC, or the address and port when it reports neither
+    };
+
+    /// Of a ticked row.
+    [[nodiscard]] virtual Judgement judgementOf(int row) const;
+
+    /// Before judgementOf() is asked for each row, when the ticks have changed or rejudge() was called.
+    virtual void prepare() {}
+
+    void rejudge();
+
+    /// Why nothing can be done with the device of a row; empty when it can.
+    [[nodiscard]] virtual QString hindranceOf(int row) const;
+    [[nodiscard]] const QList<ListedDevice> &listedDevices() const { return m_listed; }
+    [[nodiscard]] const Judgement &judgementAt(int row) const { return m_judgements.at(row); }
+    [[nodiscard]] QString addressAndPortOf(int row) const;
+
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
+    [[nodiscard]] bool isInConflict(int row) const override;
+
+private:
+    [[nodiscard]] QVariantList listedRows() const;
+    void readList();
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QString m_action;
+    QList<ListedDevice> m_listed;
+    QHash<QString, int> m_devicesAt; ///< devices of the list by address and port
+    QList<Judgement> m_judgements;   ///< by row; empty ones of unticked rows
+    int m_warningCount = 0;
+    int m_skippedCount = 0;
+};

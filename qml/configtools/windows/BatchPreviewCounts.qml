@@ -1,0 +1,70 @@
+// How many devices of a batch take part, how many of them have a warning, and how many it will leave out.
+import QtQuick
+import configtools
+
+Row {
+    id: root
+
+    required property BatchPreview preview
+
+    spacing: Theme.controlGap
+
+    OVLabel {
+        height: parent.height
+        color: Theme.colours.sub
+        objectName: "batchCount"
+        text: qsTr("%n台设备已选中", "", root.preview.checkedCount)
+    }
+    Row {
+        height: parent.height
+        spacing: Theme.signGap
+        visible: root.preview.warningCount > 0
+
+        OVIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.colours.warn
+            name: "alert"
+            size: Theme.smallIconSize
+        }
+        OVLabel {
+            height: parent.height
+            color: Theme.colours.warnInk
+            objectName: "planWarning"
+            text: root.preview.warningCount
+
+            HoverHandler {
+                id: warningPointer
+            }
+            OVToolTip {
+                shown: warningPointer.hovered
+                text: qsTr("%n 个警告，请查看提示", "", root.preview.warningCount)
+            }
+        }
+    }
+    Row {
+        height: parent.height
+        spacing: Theme.signGap
+        visible: root.preview.skippedCount > 0
+
+        OVIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.colours.sub
+            name: "mixed"
+            size: Theme.smallIconSize
+        }
+        OVLabel {
+            height: parent.height
+            color: Theme.colours.sub
+            objectName: "planSkipped"
+            text: root.preview.skippedCount
+
+            HoverHandler {
+                id: skippedPointer
+            }
+            OVToolTip {
+                shown: skippedPointer.hovered
+                text: qsTr("%n 台设备不会执行，请查看提示", "", root.preview.skippedCount)
+            }
+        }
+    }
+}

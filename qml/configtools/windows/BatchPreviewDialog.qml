@@ -1,0 +1,100 @@
+// Asks before a batch changes devices, and lists what will happen to which of them.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property var deviceFactory
+    property string message
+    property bool danger: false
+    property bool openedOut: false
+    property var action: null  // gets the addresses of the devices that take part
+    property string subject    // what withdraw() names it by
+    signal refused(string message)
+
+    /// `words` ask or say what will be done, `happens` names it in the row of each device. `choices` has "okText" and
+    /// "action", and if wanted "danger", "listed" (the list is open although nothing is noted in it), "quick" (one device
+    /// without a note needs no question) and "subject", by which withdraw() knows it.
+    function ask(words, happens, ipports, choices) {
+        preview.action = happens;
+        preview.setAddresses(ipports);
+        const noted = preview.warningCount + preview.skippedCount > 0;
+        if (choices.quick && ipports.length === 1 && !noted) {
+            choices.action(ipports);
+            return;
+        }
+        message = words;
+        danger = choices.danger ?? false;
+        okText = choices.okText;
+        subject = choices.subject ?? "";
+        action = choices.action;
+        openedOut = noted || (choices.listed ?? false);
+        open();
+    }
+
+    /// Closes the question about this subject, whose time is over.
+    function withdraw(about) {
+        if (subject === about)
+            close();
+    }
+
+    function start() {
+        close();
+        action(preview.checkedAddresses());
+    }
+
+    width: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth
+    okKind: danger ? OVButton.DangerPrimary : OVButton.Primary
+    objectName: "batchPreviewDialog"
+    title: qsTr("提示")
+    onAccepted: {
+        if (preview.checkedCount === 0)
+            refused(qsTr("请选择一台设备"));
+        else if (preview.warningCount > 0)
+            warned.ask(preview.warningCount);
+        else
+            start();
+    }
+    onOpened: if (danger) focusCancel()  // Enter twice is not yet a yes
+
+    BatchPreview {
+        id: preview
+        deviceFactory: root.deviceFactory
+    }
+
+    footContent: BatchPreviewCounts {
+        height: parent.height
+        preview: preview
+        visible: root.openedOut
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVNotice {
+            width: parent.width
+            iconColor: root.danger ? Theme.colours.bad : Theme.colours.warn
+            iconName: "alert"
+            text: root.message
+        }
+        OVLinkButton {
+            x: Theme.iconSize + Theme.controlGap
+            objectName: "previewButton"
+            text: root.openedOut ? qsTr("收起列表") : qsTr("查看 %n 台设备", "", preview.count)
+            onClicked: root.openedOut = !root.openedOut
+        }
+        BatchPreviewTable {
+            width: parent.width
+            height: Theme.batchPreviewHeight
+            objectName: "previewTable"
+            preview: preview
+            visible: root.openedOut
+        }
+    }
+    BatchWarningQuestion {
+        id: warned
+        onAccepted: root.start()
+    }
+}

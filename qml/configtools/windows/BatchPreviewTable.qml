@@ -1,0 +1,93 @@
+// What will happen to which device, and what may go wrong with it. A device that is unticked takes no part.
+import QtQuick
+import configtools
+
+OVTable {
+    id: root
+
+    required property BatchPreview preview
+    property bool givesAddresses: false  // what happens to a device is its new address
+
+    checkState: preview.checkState
+    columns: [
+        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: figures},
+        {key: "title", title: qsTr("名称和型号"), width: Theme.columnModel, stretch: 1},
+        {
+            key: "ipport", title: givesAddresses ? qsTr("原地址") : qsTr("IP:端口"),
+            width: givesAddresses ? Theme.columnPlanAddress : Theme.columnAddress, cell: address
+        },
+        {key: "mac", title: "MAC", width: Theme.columnMac, cell: quietFigures},
+        {
+            key: "action", title: givesAddresses ? qsTr("新地址") : qsTr("操作"),
+            width: givesAddresses ? Theme.columnPlanAddress : Theme.columnPlanAction, cell: actionCell
+        },
+        {key: "note", title: qsTr("提示"), width: Theme.columnPlanMark, cell: noteCell}
+    ]
+    model: preview
+    onAllToggled: checked => preview.setAllChecked(checked)
+    onRangeToggled: (first, last, checked) => preview.setRangeChecked(first, last, checked)
+
+    Component {
+        id: figures
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
+    }
+    Component {
+        id: quietFigures
+        OVTableTextCell {
+            color: Theme.colours.sub
+            font: Theme.figureFont
+        }
+    }
+
+    // qmllint disable unqualified
+    Component {
+        id: address
+        OVTableTextCell {
+            color: Theme.colours.sub
+            font: Theme.figureFont
+            // The port stays as it is, whatever the new address.
+            text: root.givesAddresses ? (value ?? "").replace(/:\d*$/, "") : value ?? ""
+        }
+    }
+    Component {
+        id: actionCell
+        OVTableTextCell {
+            font: root.givesAddresses ? Theme.figureFont : Theme.bodyFont
+        }
+    }
+    // qmllint enable unqualified
+    Component {
+        id: noteCell
+        OVTableCell {
+            id: note
+            readonly property bool skipped: row?.kind === BatchPreview.Skipped
+
+            OVIcon {
+                id: sign
+                anchors.verticalCenter: parent.verticalCenter
+                color: note.conflict ? Theme.colours.bad : note.skipped ? Theme.colours.sub : Theme.colours.warn
+                name: note.skipped ? "mixed" : "alert"
+                size: Theme.smallIconSize
+                visible: words.text !== ""
+            }
+            OVLabel {
+                id: words
+                anchors.left: sign.right
+                anchors.leftMargin: Theme.signGap
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.unit
+                height: parent.height
+                text: note.value ?? ""
+            }
+            HoverHandler {
+                id: pointer
+            }
+            OVToolTip {
+                shown: pointer.hovered && words.truncated
+                text: words.text
+            }
+        }
+    }
+}
