@@ -87,6 +87,9 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
     driver.fill(u"confirmPasswordField"_s, newPassword);
     site.requests().clear();
     driver.click(u"modifyPasswordButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.report(u"fleet-preview"_s, driver.text(u"batchCount"_s));
+    driver.click(u"okButton"_s);
     awaitRequests(driver, site, u"NetModifyPassword"_s, 3);
     driver.key(Qt::Key_2, Qt::ControlModifier); // the page is left
     driver.key(Qt::Key_4, Qt::ControlModifier);
