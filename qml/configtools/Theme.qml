@@ -51,6 +51,7 @@ QtObject {
     readonly property int restartHeight: 200
     readonly property int modifyIpWidth: 415
     readonly property int modifyIpHeight: 250
+    readonly property int reportWidth: 720
     readonly property int batchPreviewWidth: 1000
     readonly property int batchPreviewHeight: 240
     readonly property int initialiseWidth: 860

@@ -8,6 +8,7 @@ OVDialog {
     required property var deviceFactory
     property string message
     property bool danger: false
+    property bool listed: false
     property bool openedOut: false
     property var action: null  // gets the addresses of the devices that take part
     property string subject    // what withdraw() names it by
@@ -29,7 +30,8 @@ OVDialog {
         okText = choices.okText;
         subject = choices.subject ?? "";
         action = choices.action;
-        openedOut = noted || (choices.listed ?? false);
+        listed = choices.listed ?? false;
+        openedOut = listed || noted;
         open();
     }
 
@@ -40,8 +42,9 @@ OVDialog {
     }
 
     function start() {
+        const wanted = action;
         close();
-        action(preview.checkedAddresses());
+        wanted(preview.checkedAddresses());
     }
 
     width: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth
@@ -56,6 +59,7 @@ OVDialog {
         else
             start();
     }
+    onClosed: action = null  // it may hold a password
     onOpened: if (danger) focusCancel()  // Enter twice is not yet a yes
 
     BatchPreview {
@@ -75,14 +79,15 @@ OVDialog {
 
         OVNotice {
             width: parent.width
-            iconColor: root.danger ? Theme.colours.bad : Theme.colours.warn
-            iconName: "alert"
+            iconColor: root.danger ? Theme.colours.bad : root.listed ? Theme.colours.accent : Theme.colours.warn
+            iconName: root.listed ? "about" : "alert"
             text: root.message
         }
         OVLinkButton {
             x: Theme.iconSize + Theme.controlGap
             objectName: "previewButton"
             text: root.openedOut ? qsTr("收起列表") : qsTr("查看 %n 台设备", "", preview.count)
+            visible: !root.listed
             onClicked: root.openedOut = !root.openedOut
         }
         BatchPreviewTable {

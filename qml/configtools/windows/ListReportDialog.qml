@@ -15,7 +15,7 @@ OVDialog {
         entries.setRows(list.map((entry, place) => Object.assign({mac: String(place)}, entry)));
     }
 
-    width: Theme.addressPlanWidth
+    width: Theme.reportWidth
     hasCancel: false
     onAccepted: close()
     onOpened: table.forceActiveFocus()

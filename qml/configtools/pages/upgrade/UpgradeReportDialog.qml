@@ -19,7 +19,7 @@ OVDialog {
         lines.setRows(report.map(line => Object.assign({}, line, {mac: String(line.line)})));
     }
 
-    width: Theme.addressPlanWidth
+    width: Theme.reportWidth
     objectName: "upgradeReport"
     okEnabled: good > 0
     okText: qsTr("开始升级")
