@@ -90,10 +90,6 @@
         <translation>The favourite cannot be deleted. Check whether the program&apos;s folder can be written to.</translation>
     </message>
     <message>
-        <source>停止</source>
-        <translation>Stop</translation>
-    </message>
-    <message>
         <source>关闭</source>
         <translation>Close</translation>
     </message>
@@ -104,14 +100,6 @@
     <message>
         <source>收藏夹</source>
         <translation>Favourites</translation>
-    </message>
-    <message>
-        <source>正在停止…</source>
-        <translation>Stopping…</translation>
-    </message>
-    <message>
-        <source>正在添加 %1 / %2</source>
-        <translation>Adding %1 / %2</translation>
     </message>
     <message numerus="yes">
         <source>个收藏已选中</source>
@@ -158,8 +146,15 @@
         <translation>Delete %1 from the favourites?</translation>
     </message>
     <message>
-        <source>未执行</source>
-        <translation>Not done</translation>
+        <source>添加收藏设备</source>
+        <translation>Add favourites</translation>
+    </message>
+</context>
+<context>
+    <name>AddingBatches</name>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>Row %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1392,10 +1387,6 @@ A right click copies the result</translation>
     <message>
         <source>第 %1 行与第 %2 行的MAC地址相同：%3</source>
         <translation>Lines %1 and %2 have the same MAC address: %3</translation>
-    </message>
-    <message>
-        <source>无法建立P2P通道</source>
-        <translation>No P2P tunnel to the device could be opened</translation>
     </message>
     <message>
         <source>文件内的设备超过 %1 台</source>
@@ -2854,10 +2845,6 @@ A right click copies the result</translation>
 <context>
     <name>ModifyIPFiles</name>
     <message>
-        <source>正在导入设备…</source>
-        <translation>Importing devices…</translation>
-    </message>
-    <message>
         <source>正在导出设备…</source>
         <translation>Exporting devices…</translation>
     </message>
@@ -2900,16 +2887,8 @@ File path: </translation>
         <translation>Select a folder</translation>
     </message>
     <message>
-        <source>（按Esc停止）</source>
-        <translation> (Esc stops)</translation>
-    </message>
-    <message>
         <source>导入</source>
         <translation>Import</translation>
-    </message>
-    <message>
-        <source>导出</source>
-        <translation>Export</translation>
     </message>
     <message>
         <source>以下内容无法从该文件正确导入：</source>
@@ -2942,6 +2921,10 @@ File path: </translation>
     <message>
         <source>导出结果</source>
         <translation>Export result</translation>
+    </message>
+    <message>
+        <source>正在读取设备列表…</source>
+        <translation>Reading the device list…</translation>
     </message>
 </context>
 <context>
@@ -3505,6 +3488,10 @@ File path: </translation>
         <source>P2P服务已断开，P2P设备暂时无法访问</source>
         <translation>The P2P service is gone: devices behind NAT cannot be reached for now</translation>
     </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -3677,6 +3664,10 @@ File path: </translation>
     <message>
         <source>抓图失败</source>
         <translation>Snapshot failed</translation>
+    </message>
+    <message>
+        <source>数据无效</source>
+        <translation>Not usable</translation>
     </message>
 </context>
 <context>

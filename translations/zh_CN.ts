@@ -90,10 +90,6 @@
         <translation>收藏无法删除，请检查程序所在文件夹的写入权限</translation>
     </message>
     <message>
-        <source>停止</source>
-        <translation>停止</translation>
-    </message>
-    <message>
         <source>关闭</source>
         <translation>关闭</translation>
     </message>
@@ -104,14 +100,6 @@
     <message>
         <source>收藏夹</source>
         <translation>收藏夹</translation>
-    </message>
-    <message>
-        <source>正在停止…</source>
-        <translation>正在停止…</translation>
-    </message>
-    <message>
-        <source>正在添加 %1 / %2</source>
-        <translation>正在添加 %1 / %2</translation>
     </message>
     <message numerus="yes">
         <source>个收藏已选中</source>
@@ -157,8 +145,15 @@
         <translation>请确认是否要从收藏夹中删除 %1</translation>
     </message>
     <message>
-        <source>未执行</source>
-        <translation>未执行</translation>
+        <source>添加收藏设备</source>
+        <translation>添加收藏设备</translation>
+    </message>
+</context>
+<context>
+    <name>AddingBatches</name>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>第%1行 %2</translation>
     </message>
 </context>
 <context>
@@ -1370,10 +1365,6 @@
     <message>
         <source>第 %1 行与第 %2 行的MAC地址相同：%3</source>
         <translation>第 %1 行与第 %2 行的MAC地址相同：%3</translation>
-    </message>
-    <message>
-        <source>无法建立P2P通道</source>
-        <translation>无法建立P2P通道</translation>
     </message>
     <message>
         <source>文件内的设备超过 %1 台</source>
@@ -2824,10 +2815,6 @@
 <context>
     <name>ModifyIPFiles</name>
     <message>
-        <source>正在导入设备…</source>
-        <translation>正在导入设备…</translation>
-    </message>
-    <message>
         <source>正在导出设备…</source>
         <translation>正在导出设备…</translation>
     </message>
@@ -2870,16 +2857,8 @@
         <translation>请选择文件夹</translation>
     </message>
     <message>
-        <source>（按Esc停止）</source>
-        <translation>（按Esc停止）</translation>
-    </message>
-    <message>
         <source>导入</source>
         <translation>导入</translation>
-    </message>
-    <message>
-        <source>导出</source>
-        <translation>导出</translation>
     </message>
     <message>
         <source>以下内容无法从该文件正确导入：</source>
@@ -2912,6 +2891,10 @@
     <message>
         <source>导出结果</source>
         <translation>导出结果</translation>
+    </message>
+    <message>
+        <source>正在读取设备列表…</source>
+        <translation>正在读取设备列表…</translation>
     </message>
 </context>
 <context>
@@ -3462,6 +3445,10 @@
         <source>P2P服务已断开，P2P设备暂时无法访问</source>
         <translation>P2P服务已断开，P2P设备暂时无法访问</translation>
     </message>
+    <message>
+        <source>导出</source>
+        <translation>导出</translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -3631,6 +3618,10 @@
     <message>
         <source>抓图失败</source>
         <translation>抓图失败</translation>
+    </message>
+    <message>
+        <source>数据无效</source>
+        <translation>数据无效</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@ Item {
     required property var deviceTable  // a DeviceTableModel
     required property bool shown  // the page is
     readonly property bool running: addingBatches.reading || writing
-    readonly property alias writing: writer.running
+    property bool writing: false
     readonly property string runningText: addingBatches.reading ? qsTr("正在读取设备列表…") : qsTr("正在导出设备…")
     property Batch batch: null  // the last import
     property bool untold: false  // the lines of it that failed are still to be shown
@@ -40,9 +40,12 @@ Item {
 
     function writeList(folder, fileName) {
         const macs = deviceTable.checkedMacs();
-        let written = false;
-        writer.start(1, () => written = deviceFactory.exportDevice("dh", folder, macs, fileName),
-                    () => fileName, () => {
+        writing = true;
+        hold.open();
+        paint.run(() => {
+            const written = deviceFactory.exportDevice("dh", folder, macs, fileName);
+            writing = false;
+            hold.release();
             if (written)
                 reportExport(qsTr("导出设备成功\n文件路径:") + folder + "/" + fileName);
             else
@@ -128,8 +131,11 @@ Item {
             root.tellEnd();
         }
     }
-    OVBatch {
-        id: writer
+    OVAfterPaint {
+        id: paint
+    }
+    OVInputHold {
+        id: hold
     }
 
     // qmllint disable unqualified
