@@ -38,7 +38,7 @@ enum class LoginResult : int
 }
 
 /// The result of a snapshot whose channel has no camera, or whose file cannot be written.
-inline constexpr int snapshotFailed = 997;
+inline constexpr int snapshotFailed = 996;
 
 /// What a result code means, in the user's language. Codes that nobody has given a meaning are named by
 /// number.
