@@ -3109,7 +3109,7 @@ File path: </translation>
     </message>
     <message>
         <source>清除标记</source>
-        <translation>Clear marks</translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>不再标记失败和未执行的设备</source>
