@@ -51,13 +51,35 @@ void AddingBatches::importList(const QString &title, const QString &path)
     m_work = m_factory.busyState()->begin(title, BusyState::Rows);
     Q_EMIT readingChanged();
     m_readers.start([this, title, path] {
-        const auto list = std::make_shared<const ImportPlan>(m_factory.importPlan(family, path));
+        const auto list = std::make_shared<List>(readList(title, path));
         QMetaObject::invokeMethod(
-            this, [this, title, list] { takeList(title, *list); }, Qt::QueuedConnection);
+            this, [this, list] { takeList(*list); }, Qt::QueuedConnection);
     });
 }
 
-void AddingBatches::takeList(const QString &title, const ImportPlan &list)
+AddingBatches::List AddingBatches::readList(const QString &title, const QString &path) const
+{
+    const ImportPlan read = m_factory.importPlan(family, path);
+    List list = {.refusal = read.refusal, .plan = {.family = family, .title = title}, .places = {}};
+    QHash<QString, DeviceStep> steps; // by the names of the lines
+    list.plan.devices.reserve(static_cast<qsizetype>(read.lines.size()));
+    for (const ImportLine &line : read.lines) {
+        const QString name = tr("第%1行 %2").arg(line.place.number).arg(line.place.address);
+        list.places.insert(name, line.place);
+        steps.insert(name, line.step);
+        list.plan.devices.append({.name = name,
+                                  .identity = line.device,
+                                  .ipport = line.place.address,
+                                  .title = line.title,
+                                  .login = line.login});
+    }
+    list.plan.stepOf = [steps](const BatchDevice &device) {
+        return steps.value(device.name);
+    };
+    return list;
+}
+
+void AddingBatches::takeList(List &list)
 {
     m_factory.busyState()->end(std::exchange(m_work, 0));
     Q_EMIT readingChanged();
@@ -65,30 +87,15 @@ void AddingBatches::takeList(const QString &title, const ImportPlan &list)
         Q_EMIT importRefused(list.refusal);
         return;
     }
-    QHash<QString, ImportPlace> places;
-    QHash<QString, DeviceStep> steps;
-    BatchPlan plan = {.family = family, .title = title, .policy = m_batches.usualPolicy()};
-    for (const ImportLine &line : list.lines) {
-        const QString name = tr("第%1行 %2").arg(line.place.number).arg(line.place.address);
-        places.insert(name, line.place);
-        steps.insert(name, line.step);
-        plan.devices.append({.name = name,
-                             .identity = line.device,
-                             .ipport = line.place.address,
-                             .title = line.title,
-                             .login = line.login});
-    }
-    plan.stepOf = [steps](const BatchDevice &device) {
-        return steps.value(device.name);
-    };
-    plan.takeOutcome = [this](const BatchDevice &, const StepOutcome &outcome) {
+    list.plan.policy = m_batches.usualPolicy();
+    list.plan.takeOutcome = [this](const BatchDevice &, const StepOutcome &outcome) {
         if (isSuccess(outcome))
             noteRow();
     };
-    Batch *batch = m_batches.start(std::move(plan));
+    Batch *batch = m_batches.start(std::move(list.plan));
     if (!batch)
         return;
-    m_places = std::move(places);
+    m_places = std::move(list.places);
     Q_EMIT importBegan(batch);
 }
 

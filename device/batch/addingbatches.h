@@ -47,7 +47,16 @@ Q_SIGNALS:
     void tried(const QString &identity, int result, const QString &words);
 
 private:
-    void takeList(const QString &title, const ImportPlan &list);
+    /// A list that was read, as a batch.
+    struct List
+    {
+        QString refusal; ///< why there is none, in the user's language
+        BatchPlan plan;
+        QHash<QString, ImportPlace> places; ///< by the names of the lines
+    };
+
+    [[nodiscard]] List readList(const QString &title, const QString &path) const; ///< on any thread
+    void takeList(List &list);
     void noteRow();
     /// Tells the pages of new rows at the end of a batch, whichever began it: it may be a retry.
     void noteEnd();
