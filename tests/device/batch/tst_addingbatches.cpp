@@ -152,6 +152,7 @@ private Q_SLOTS:
         QCOMPARE(failuresOf(*m_adding, batch),
                  (QStringList{"2|2", "3|2", "5|13", "6|-1", "7|5", "8|2", "10|5"}));
         QCOMPARE(batch->report()->succeeded(), 2);
+        QCOMPARE(batch->report()->failed(), 7);
         QCOMPARE(loginsOf(camera), 2);
         QCOMPARE(row(camera).value("password").toString(), "secret1");
         const int port = row(recorder).value("ipport").toString().section(':', 1).toInt();
