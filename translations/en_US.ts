@@ -300,7 +300,7 @@
     </message>
     <message>
         <source>IP地址冲突，可能作用于另一台设备</source>
-        <translation>Address conflict: may affect the other device</translation>
+        <translation>Address shared with another device</translation>
     </message>
 </context>
 <context>
@@ -331,7 +331,7 @@
     <name>BatchPreviewDialog</name>
     <message>
         <source>提示</source>
-        <translation>Note</translation>
+        <translation>Notice</translation>
     </message>
     <message>
         <source>请选择一台设备</source>
@@ -4240,16 +4240,13 @@ File path: </translation>
             <numerusform>Restore the factory settings of the %n selected devices?</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>将对 %n 台设备执行“%1”。</source>
-        <translation>
-            <numerusform>“%1” will be done on %n device.</numerusform>
-            <numerusform>“%1” will be done on %n devices.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>执行</source>
         <translation>Go</translation>
+    </message>
+    <message>
+        <source>将对下列设备执行“%1”：</source>
+        <translation>“%1” will be applied to these devices:</translation>
     </message>
 </context>
 <context>

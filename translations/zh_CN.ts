@@ -4190,15 +4190,13 @@
             <numerusform>确定要将选中的 %n 台设备恢复出厂设置吗？</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>将对 %n 台设备执行“%1”。</source>
-        <translation>
-            <numerusform>将对 %n 台设备执行“%1”。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>执行</source>
         <translation>执行</translation>
+    </message>
+    <message>
+        <source>将对下列设备执行“%1”：</source>
+        <translation>将对下列设备执行“%1”：</translation>
     </message>
 </context>
 <context>

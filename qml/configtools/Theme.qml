@@ -52,7 +52,7 @@ QtObject {
     readonly property int modifyIpWidth: 415
     readonly property int modifyIpHeight: 250
     readonly property int reportWidth: 720
-    readonly property int batchPreviewWidth: 1000
+    readonly property int batchPreviewWidth: 1080
     readonly property int batchPreviewHeight: 240
     readonly property int initialiseWidth: 860
     readonly property int initialiseListHeight: 300
@@ -127,7 +127,7 @@ QtObject {
     readonly property int columnActions: 168
     readonly property int columnPlanAddress: 128
     readonly property int columnPlanAction: 184
-    readonly property int columnPlanMark: 208
+    readonly property int columnPlanMark: 256
     readonly property int columnShortActions: 72
     readonly property int columnPort: 72
     readonly property int columnBytes: 84

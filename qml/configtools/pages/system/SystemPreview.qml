@@ -45,7 +45,7 @@ Item {
             dialog.wanted().ask(qsTr("确定要将选中的 %n 台设备恢复出厂设置吗？", "", ipports.length), what, ipports,
                                 {okText: title, danger: true, action: send});
         else
-            dialog.wanted().ask(qsTr("将对 %n 台设备执行“%1”。", "", ipports.length).arg(title), what, ipports,
+            dialog.wanted().ask(qsTr("将对下列设备执行“%1”：").arg(title), what, ipports,
                                 {okText: qsTr("执行"), listed: true, quick: true, subject: command, action: send});
     }
 
