@@ -55,7 +55,7 @@ void AddressPlan::prepare()
         // A device that refuses keeps the address that it has.
         if (hindranceOf(row).isEmpty()) {
             ++m_timesGiven[*m_numbers.constLast()];
-            leaving.insert(identityOf(DeviceSelection::valuesOf(row)));
+            leaving.insert(identityOf(deviceAt(row)));
         }
     }
     m_taken.clear();
@@ -72,7 +72,7 @@ QString AddressPlan::hindranceOf(int row) const
 {
     // The request goes to a MAC that the device itself has reported.
     const QString hindrance = BatchPreview::hindranceOf(row);
-    const bool isNameless = DeviceSelection::valuesOf(row).value(DeviceRowKey::mac).toString().isEmpty();
+    const bool isNameless = deviceAt(row).value(DeviceRowKey::mac).toString().isEmpty();
     return hindrance.isEmpty() && isNameless ? tr("没有MAC，不会修改") : hindrance;
 }
 

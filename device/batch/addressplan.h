@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 /// The addresses of a batch: the k-th ticked device gets the start address plus k, as a 32-bit number, or all
 /// get the start address, or each gets one by DHCP. A mark says what will be wrong with an address; it

@@ -117,12 +117,12 @@ QStringList BatchPreview::checkedAddresses() const
 
 QString BatchPreview::addressAndPortOf(int row) const
 {
-    return DeviceSelection::valuesOf(row).value(DeviceRowKey::ipport).toString();
+    return deviceAt(row).value(DeviceRowKey::ipport).toString();
 }
 
 QString BatchPreview::hindranceOf(int row) const
 {
-    const QVariantMap device = DeviceSelection::valuesOf(row);
+    const QVariantMap device = deviceAt(row);
     if (!device.value(DeviceRowKey::state, true).toBool())
         return tr("未初始化，不会执行");
     if (UpgradeTools::isRunning(device.value(DeviceRowKey::upgraderes, int(UpgradeTools::None)).toInt()))

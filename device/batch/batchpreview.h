@@ -85,7 +85,7 @@ protected:
     /// Why nothing can be done with the device of a row; empty when it can.
     [[nodiscard]] virtual QString hindranceOf(int row) const;
     [[nodiscard]] const QList<ListedDevice> &listedDevices() const { return m_listed; }
-    [[nodiscard]] const Judgement &judgementAt(int row) const { return m_judgements.at(row); }
+    [[nodiscard]] QVariantMap deviceAt(int row) const { return DeviceSelection::valuesOf(row); }
     [[nodiscard]] QString addressAndPortOf(int row) const;
 
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
