@@ -9,6 +9,8 @@ void BatchReport::begin(const QStringList &devices)
 {
     m_entries.clear();
     m_places.clear();
+    m_entries.reserve(devices.size());
+    m_places.reserve(devices.size());
     for (const QString &device : devices) {
         m_places[device].append(m_entries.size());
         m_entries.append({.device = device});

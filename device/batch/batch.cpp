@@ -93,6 +93,9 @@ Batch::Batch(BatchEngine &engine, BatchPlan plan, QObject *parent)
     connect(&m_frame, &QTimer::timeout, this, &Batch::takeNews);
 
     QStringList names;
+    names.reserve(m_plan.devices.size());
+    m_entries.reserve(m_plan.devices.size());
+    m_places.reserve(m_plan.devices.size());
     for (const BatchDevice &device : std::as_const(m_plan.devices)) {
         m_places.insert(device.name, m_entries.size());
         m_entries.append(

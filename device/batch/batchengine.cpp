@@ -35,6 +35,7 @@ int BatchEngine::start(std::vector<BatchItem> items, const BatchPolicy &policy,
     batch->watcher = std::move(watcher);
 
     QHash<QString, std::size_t> firsts;
+    firsts.reserve(static_cast<qsizetype>(batch->items.size()));
     for (std::size_t place = batch->items.size(); place-- > 0;)
         firsts.insert(batch->items[place].device, place);
     for (std::size_t place = batch->items.size(); place-- > 0;)
