@@ -59,9 +59,11 @@ Shell::Shell(CommandLine commandLine) : m_commandLine(std::move(commandLine)) {}
 
 Shell::~Shell()
 {
-    // The scene's windows go first: their bindings must not see the objects vanish that they read.
+    // The scene's windows go first: their bindings must not see the objects vanish that they read. The
+    // batches, which the engine owns, use the factory until they go.
     if (m_engine)
         qDeleteAll(m_engine->rootObjects());
+    m_engine.reset();
     AudioOutput::letGo();
     CLocalConfig::deleteInstance();
     CGIConfigManage::deleteInstance(); // asks the factory

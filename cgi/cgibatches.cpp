@@ -113,9 +113,10 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
 {
     BatchPlan plan = {.family = family,
                       .title = title,
-                      .work = QStringLiteral("cgi ") + command,
+                      .work = QStringLiteral("cgi %1").arg(qHash(command)), // it may hold a password
                       .devices = batchDevices(m_factory, family, identities),
                       .policy = commandPolicy(m_batches)};
+    plan.isByAddress = true;
     nameByAddress(plan.devices);
     const QList<BatchDevice> devices = plan.devices;
     plan.stepOf = [this, command, account = m_account()](const BatchDevice &device) {

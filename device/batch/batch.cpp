@@ -8,6 +8,15 @@ namespace {
 
 constexpr int frame = 16; // milliseconds
 
+/// The engine would hold the refusal of a device back until its upgrade has ended: the upgrade is a step of
+/// it.
+const QString upgradingMark = QStringLiteral(" upgrade");
+
+StepOutcome refuseForUpgrade(const StepControl & /*control*/)
+{
+    return {.result = resultCode(LoginResult::Upgrading), .text = {}};
+}
+
 } // namespace
 
 /// Gathers what the engine's threads report until the scene's thread takes it.
@@ -115,8 +124,16 @@ bool Batch::start()
 {
     std::vector<BatchItem> items;
     items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
-    for (const BatchDevice &device : std::as_const(m_plan.devices))
-        items.push_back({.device = device.identity, .login = device.login, .step = m_plan.stepOf(device)});
+    QHash<QString, QString> deviceAt; // rows that share an address are one device to the engine
+    for (const BatchDevice &device : std::as_const(m_plan.devices)) {
+        const auto known = deviceAt.constFind(device.ipport);
+        const QString key = m_plan.isByAddress && known != deviceAt.cend() ? *known : device.identity;
+        deviceAt.insert(device.ipport, key);
+        if (device.isUpgrading)
+            items.push_back({.device = key + upgradingMark, .login = {}, .step = &refuseForUpgrade});
+        else
+            items.push_back({.device = key, .login = device.login, .step = m_plan.stepOf(device)});
+    }
     m_began = QDateTime::currentDateTime();
     m_isRunning = true;
     m_number = m_engine.start(std::move(items), m_plan.policy, m_mailbox);

@@ -16,6 +16,23 @@ bool isRefusal(int result)
            result == resultCode(LoginResult::AccountLocked);
 }
 
+/// Whether the device has let the account in, whatever came of the request that followed.
+bool wasLoggedIn(int result)
+{
+    switch (static_cast<LoginResult>(result)) {
+    case LoginResult::NetworkFailure:
+    case LoginResult::ProtocolMismatch:
+    case LoginResult::AccountLoggedIn:
+    case LoginResult::NotInitialised:
+    case LoginResult::NotSupported:
+    case LoginResult::Upgrading:
+    case LoginResult::NotDone:
+        return false;
+    default:
+        return !isRefusal(result);
+    }
+}
+
 } // namespace
 
 BatchEngine::BatchEngine(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
@@ -102,8 +119,11 @@ BatchEngine::Taken BatchEngine::takeLocked()
             continue;
         for (auto it = batch->waiting.begin(); it != batch->waiting.end(); ++it) {
             const std::size_t place = it->second.back();
-            if (m_busyDevices.contains(batch->items[place].device))
+            if (m_busyDevices.contains(batch->items[place].device)) {
+                if (batch->policy.atOnce == 1)
+                    break; // nothing overtakes in the order of the list
                 continue;
+            }
             Taken taken{.batch = batch,
                         .number = number,
                         .place = place,
@@ -125,10 +145,13 @@ bool BatchEngine::hasWorkLocked() const
 {
     return std::any_of(m_batches.begin(), m_batches.end(), [this](const auto &entry) {
         const Batch &batch = *entry.second;
-        return !batch.isHeld && batch.placesTaken < batch.policy.atOnce &&
-               std::any_of(batch.waiting.begin(), batch.waiting.end(), [&](const auto &waiting) {
-                   return !m_busyDevices.contains(batch.items[waiting.second.back()].device);
-               });
+        const auto isFree = [&](const auto &waiting) {
+            return !m_busyDevices.contains(batch.items[waiting.second.back()].device);
+        };
+        if (batch.isHeld || batch.waiting.empty() || batch.placesTaken >= batch.policy.atOnce)
+            return false;
+        return batch.policy.atOnce == 1 ? isFree(*batch.waiting.begin())
+                                        : std::any_of(batch.waiting.begin(), batch.waiting.end(), isFree);
     });
 }
 
@@ -217,7 +240,7 @@ bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
     if (isRefusal(outcome.result) && !batch.refusals.contains(login)) {
         batch.refusals.insert(login, outcome);
         ++batch.wrongPasswords;
-    } else if (outcome.result == resultCode(LoginResult::Success)) {
+    } else if (wasLoggedIn(outcome.result)) {
         batch.wrongPasswords = 0;
     }
     const bool isTooOften =

@@ -3,7 +3,9 @@
 #include "device/batch/addressorder.h"
 #include "device/batch/batchresultsfile.h"
 #include "device/devicefactory.h"
+#include "device/devicerow.h"
 #include "device/logging.h"
+#include "device/upgradetools.h"
 
 #include <memory>
 #include <utility>
@@ -22,6 +24,44 @@ QString workOf(const QString &command)
     if (command == QLatin1String("setTimeByPC") || command == QLatin1String("setTimeByManual"))
         return QStringLiteral("setTime");
     return command == QLatin1String("loginCheck") ? QStringLiteral("modifyPassword") : command;
+}
+
+/// The addresses that devices of a batch have until they have got another one. The steps that use it run one
+/// after another.
+class OccupiedAddresses
+{
+public:
+    explicit OccupiedAddresses(const QList<BatchDevice> &devices)
+    {
+        for (const BatchDevice &device : devices)
+            m_devices.insert(device.ipport.section(QLatin1Char(':'), 0, 0), device);
+    }
+
+    /// The title or MAC of a device other than `identity` that still has `address`; empty when there is none.
+    [[nodiscard]] QString holderOf(const QString &address, const QString &identity) const
+    {
+        if (address.isEmpty())
+            return {};
+        for (const BatchDevice &device : m_devices.values(address)) {
+            if (device.identity != identity)
+                return device.title.isEmpty() ? device.identity : device.title;
+        }
+        return {};
+    }
+
+    void leave(const QString &identity)
+    {
+        m_devices.removeIf([&](const auto &entry) { return entry.value().identity == identity; });
+    }
+
+private:
+    QMultiHash<QString, BatchDevice> m_devices; ///< by address
+};
+
+bool isBeingUpgraded(CDeviceFactory &factory, const QString &family, const BatchDevice &device)
+{
+    const QVariantMap row = factory.getDeviceDetail(family, device.identity);
+    return UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes, UpgradeTools::None).toInt());
 }
 
 } // namespace
@@ -51,6 +91,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
                       [this, family, command, values](const BatchDevice &device) {
                           return m_factory.systemStep(family, command, values, device.ipport);
                       },
+                  .isByAddress = true,
                   .changesRows = command == QLatin1String("resetSystem")});
 }
 
@@ -131,11 +172,22 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         ordered.append(plan.devices.at(place));
     plan.devices = ordered;
     plan.policy = {.atOnce = 1, .deadline = stepDeadline};
-    plan.stepOf = [this, family = plan.family, targets](const BatchDevice &device) {
+    const auto occupied = std::make_shared<OccupiedAddresses>(plan.devices);
+    plan.stepOf = [this, family = plan.family, targets, occupied](const BatchDevice &device) -> DeviceStep {
         const AddressSettings target = targets.value(device.identity);
-        return target.dhcp ? m_factory.addressStep(family, device.name, {}, {}, {}, true)
-                           : m_factory.addressStep(family, device.name, target.address, target.mask,
-                                                   target.gateway, false);
+        const DeviceStep step = target.dhcp ? m_factory.addressStep(family, device.name, {}, {}, {}, true)
+                                            : m_factory.addressStep(family, device.name, target.address,
+                                                                    target.mask, target.gateway, false);
+        return [=](const StepControl &control) {
+            const QString holder = occupied->holderOf(target.address, device.identity);
+            if (!holder.isEmpty())
+                return StepOutcome{.result = BatchReport::NotDone,
+                                   .text = tr("地址 %1 仍由设备 %2 使用").arg(target.address, holder)};
+            const StepOutcome outcome = step(control);
+            if (outcome.result == BatchReport::Succeeded)
+                occupied->leave(device.identity);
+            return outcome;
+        };
     };
     if (locating == Locating::Before) {
         QStringList names;
@@ -160,13 +212,14 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
 
 Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, const QStringList &ipports)
 {
-    return start({.family = family,
-                  .title = title,
-                  .devices = batchDevices(m_factory, family, ipports),
-                  .policy = usualPolicy(),
-                  .stepOf = [this, family](const BatchDevice &device) {
-                      return m_factory.copyStep(family, device.ipport);
-                  }});
+    return start(
+        {.family = family,
+         .title = title,
+         .devices = batchDevices(m_factory, family, ipports),
+         .policy = usualPolicy(),
+         .stepOf = [this,
+                    family](const BatchDevice &device) { return m_factory.copyStep(family, device.ipport); },
+         .isByAddress = true});
 }
 
 Batch *Batches::takeSnapshots(const QString &family, const QString &title, const QString &ipport,
@@ -243,6 +296,8 @@ Batch *Batches::start(BatchPlan plan)
         Q_EMIT refused(tr("“%1”正在进行，请等待其完成").arg(current()->title()));
         return nullptr;
     }
+    for (BatchDevice &device : plan.devices)
+        device.isUpgrading = isBeingUpgraded(m_factory, plan.family, device);
     auto *batch = new Batch(m_engine, std::move(plan), this);
     const int work = m_factory.busyState()->begin(batch->title(), BusyState::Rows);
     connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });
@@ -271,16 +326,20 @@ void Batches::finish(Batch *batch, int work)
     const BatchPlan &plan = batch->plan();
     QStringList reached;
     for (const Batch::Entry &entry : batch->entries()) {
-        if (plan.notesResults && entry.outcome.result == BatchReport::NotDone)
-            m_factory.updataDeviceInfo(plan.family, QStringLiteral("res"), BatchReport::NotDone,
-                                       entry.device.identity, entry.device.ipport);
-        else if (entry.outcome.result != BatchReport::NotDone)
+        const int result = entry.outcome.result;
+        const bool isReached = result != BatchReport::NotDone && !entry.device.isUpgrading;
+        if (isReached)
             reached.append(entry.device.identity);
+        else if (plan.notesResults)
+            m_factory.updataDeviceInfo(plan.family, QStringLiteral("res"), result, entry.device.identity,
+                                       entry.device.ipport);
     }
     if (plan.changesRows)
         m_factory.refreshDevices(plan.family, reached);
     m_factory.busyState()->end(work);
     markFailed(*batch);
+    if (batch->retryableDevices().isEmpty())
+        batch->forgetSteps(); // they may hold a password
     Q_EMIT runningChanged();
 }
 

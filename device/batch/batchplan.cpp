@@ -25,7 +25,9 @@ QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, 
 {
     QList<BatchDevice> devices;
     devices.reserve(names.size());
-    for (const QString &name : names)
+    QStringList different = names; // one that is named twice is asked once
+    different.removeDuplicates();
+    for (const QString &name : std::as_const(different))
         devices.append(batchDevice(factory, family, name));
     return devices;
 }

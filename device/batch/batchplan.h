@@ -27,6 +27,7 @@ struct BatchDevice
     QString ipport;     ///< as of the start of the batch
     QString title;      ///< its name and model, for the user
     QString login = {}; ///< as BatchItem has it
+    bool isUpgrading = false; ///< its firmware is being upgraded when the batch starts: it is not asked
 };
 
 struct BatchPlan
@@ -47,6 +48,10 @@ struct BatchPlan
     /// Takes what has come of each device, in the order in which it came, and at the end of the batch that of
     /// the devices that it did not come to. Called on the scene's thread; may be empty.
     std::function<void(const BatchDevice &device, const StepOutcome &outcome)> takeOutcome = {};
+
+    /// Whether the steps log in at the addresses of the devices: of two rows with one address, the same
+    /// device responds.
+    bool isByAddress = false;
 
     /// Whether another batch may do it for some of the devices again.
     bool canBeRetried = true;

@@ -245,6 +245,10 @@ private:
     [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const Credentials &credentials,
                                            const EncodeState &state, const ChannelChoice &channels,
                                            const StepControl &control);
+    StepOutcome giveFirstPassword(const QString &mac, const QString &account, const QString &password);
+    /// Whether a search has told how the device is reached without a login.
+    [[nodiscard]] bool isFound(const QString &mac) const;
+    StepOutcome noteNotFound(const QString &mac);
     StepOutcome changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                               const QString &newgateway, bool dhcpON);
     /// Writes "res" of the device's row.

@@ -129,9 +129,9 @@ EncodeCopyOutcome CDeviceDH::copyTo(const QString &ipport, const Credentials &cr
     if (login.result != LoginResult::Success)
         return {.result = resultCode(login.result), .skipped = {}};
     EncodeCopyOutcome outcome =
-        control.shouldEnd()
-            ? EncodeCopyOutcome{.result = resultCode(LoginResult::NotDone), .skipped = {}}
-            : copyEncodeSettings(m_tables, state, channels, ConfigSession(m_libraries, login.handle));
+        control.shouldEnd() ? EncodeCopyOutcome{.result = resultCode(LoginResult::NotDone), .skipped = {}}
+                            : copyEncodeSettings(m_tables, state, channels,
+                                                 ConfigSession(m_libraries, login.handle), control);
     m_libraries.net->NetLogout(login.handle);
     return outcome;
 }

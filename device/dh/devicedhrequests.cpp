@@ -22,33 +22,54 @@ void setText(auto &field, const QString &text)
 
 void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const QString &password)
 {
-    initialisationStep(mac, account, password)(StepControl());
+    giveFirstPassword(mac, account, password);
 }
 
 DeviceStep CDeviceDH::initialisationStep(const QString &mac, const QString &account, const QString &password)
 {
     return [this, mac, account, password](const StepControl &) {
-        LoginResult result = LoginResult::Success;
-        const std::optional<sdk::SearchAnswer> record = store().record(mac);
-        if (record && m_libraries.net) {
-            sdk::InitDeviceAccountInput input{};
-            input.size = sizeof(input);
-            input.mac = record->device.mac;
-            setText(input.account, account);
-            setText(input.password, password);
-            input.passwordResetWay = record->device.passwordResetWay;
-            sdk::DeviceRequestOutput output{.size = sizeof(output)};
-            if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
-                result = loginResultOf(m_libraries.net->NetGetLastError());
-        }
-        return noteResult(mac, result);
+        return isFound(mac) ? giveFirstPassword(mac, account, password) : noteNotFound(mac);
     };
+}
+
+StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &account, const QString &password)
+{
+    LoginResult result = LoginResult::Success;
+    const std::optional<sdk::SearchAnswer> record = store().record(mac);
+    if (record && m_libraries.net) {
+        sdk::InitDeviceAccountInput input{};
+        input.size = sizeof(input);
+        input.mac = record->device.mac;
+        setText(input.account, account);
+        setText(input.password, password);
+        input.passwordResetWay = record->device.passwordResetWay;
+        sdk::DeviceRequestOutput output{.size = sizeof(output)};
+        if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
+            result = loginResultOf(m_libraries.net->NetGetLastError());
+    }
+    return noteResult(mac, result);
+}
+
+bool CDeviceDH::isFound(const QString &mac) const
+{
+    const std::optional<sdk::SearchAnswer> record = store().record(mac);
+    return record && !sdk::blockText(record->device.mac).empty();
+}
+
+StepOutcome CDeviceDH::noteNotFound(const QString &mac)
+{
+    StepOutcome outcome = noteResult(mac, LoginResult::NotSupported);
+    outcome.text = tr("没有该设备的搜索应答，或应答中没有MAC地址");
+    return outcome;
 }
 
 void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                          const QString &newgateway, bool dhcpON)
 {
-    addressStep(mac, newip, newsubmask, newgateway, dhcpON)(StepControl());
+    if (m_upgrades->isUpgrading(mac))
+        noteResult(mac, LoginResult::Upgrading);
+    else
+        changeAddress(mac, newip, newsubmask, newgateway, dhcpON);
 }
 
 DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
@@ -57,6 +78,8 @@ DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, cons
     return [=, this](const StepControl &) {
         if (m_upgrades->isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);
+        if (!isFound(mac))
+            return noteNotFound(mac);
         return changeAddress(mac, newip, newsubmask, newgateway, dhcpON);
     };
 }

@@ -128,7 +128,8 @@ int rowResult(const EncodeReading &reading)
 } // namespace
 
 EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
-                                     const ChannelChoice &channels, const ConfigSession &session)
+                                     const ChannelChoice &channels, const ConfigSession &session,
+                                     const StepControl &control)
 {
     EncodeState to;
     const EncodeReading reading = readEncodeState(session, channels.curChannel, channels.curStreamType, to);
@@ -158,6 +159,8 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
         outcome.skipped += takeRates(sub, from.sub, true, to.sub);
     outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
     const QList<int> leftOut = itemsLeftOut(from);
+    if (control.shouldEnd())
+        return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
     const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, leftOut);
     if (writing.isDeviceAway)
         outcome.result = resultCode(LoginResult::NetworkFailure);

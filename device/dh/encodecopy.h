@@ -1,6 +1,7 @@
 // Taking the encode settings of one device over to another.
 #pragma once
 
+#include "device/devicestep.h"
 #include "device/dh/channelchoice.h"
 #include "device/dh/encodestate.h"
 #include "device/dh/valuetables.h"
@@ -15,7 +16,7 @@ struct EncodeCopyOutcome
 
 /// Copies `from` to the channel of the same number of the device of `session`. What the device tells that it
 /// cannot do is left as it is there; the items are written whole, but for those that were not read of either
-/// device, and 999 says that it refused one of them.
+/// device, and 999 says that it refused one of them. Nothing is written when `control` ends the step before.
 [[nodiscard]] EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
                                                    const ChannelChoice &channels,
-                                                   const ConfigSession &session);
+                                                   const ConfigSession &session, const StepControl &control);

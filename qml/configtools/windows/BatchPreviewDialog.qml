@@ -37,12 +37,16 @@ OVDialog {
 
     /// Closes the question about this subject, whose time is over.
     function withdraw(about) {
-        if (subject === about)
-            close();
+        if (subject !== about)
+            return;
+        warned.close();
+        close();
     }
 
     function start() {
         const wanted = action;
+        if (wanted === null)
+            return;
         close();
         wanted(preview.checkedAddresses());
     }
