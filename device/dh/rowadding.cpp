@@ -55,8 +55,8 @@ StepOutcome RowAdding::addThroughTunnel(const DeviceToAdd &device, const StepCon
     const bool inUse = m_ports->isKnown(localPort) ||
                        !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty();
     int webPort = 0;
-    const StepOutcome outcome = control.shouldEnd() ? outcomeOf(LoginResult::NotDone)
-                                                    : logIn(device, localPort, control, review, webPort);
+    StepOutcome outcome = control.shouldEnd() ? outcomeOf(LoginResult::NotDone)
+                                              : logIn(device, localPort, control, review, webPort);
     if (outcome.result == resultCode(LoginResult::Success))
         m_ports->pair(localPort, m_ports->portFor(device.address, webPort, 0));
     else if (!inUse)

@@ -161,7 +161,7 @@ StepOutcome DeviceListImport::add(std::size_t place, const StepControl &control)
         if (m_ways.contains(wayTo(device)))
             return alreadyListed();
     }
-    const StepOutcome outcome =
+    StepOutcome outcome =
         m_adding.add(device, control, [this, &line](RowLoginOutcome &login) { return review(line, login); });
     if (outcome.result == resultCode(LoginResult::Success)) {
         const std::lock_guard lock(m_mutex);
