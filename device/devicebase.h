@@ -209,7 +209,8 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] DeviceStore &store() const { return *m_store; }
-    /// Null when there are none. Not to be kept beyond a call: the factory may take them away.
+    /// Null when there are none. Steps keep them: the ports live longer than the back end. Anything else asks
+    /// again with each call, since the factory may take them away.
     [[nodiscard]] P2PPorts *p2pPorts() const { return m_p2pPorts; }
 
 private:
