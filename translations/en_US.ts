@@ -495,6 +495,10 @@
         <source>%1 通道 %2</source>
         <translation>%1 channel %2</translation>
     </message>
+    <message>
+        <source>地址 %1 仍由设备 %2 使用</source>
+        <translation>The device %2 still has the address %1</translation>
+    </message>
 </context>
 <context>
     <name>BusyState</name>
@@ -541,6 +545,10 @@
     <message>
         <source>、</source>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>没有该设备的搜索应答，或应答中没有MAC地址</source>
+        <translation>No search answer of this device, or none with its MAC</translation>
     </message>
 </context>
 <context>

@@ -483,6 +483,10 @@
         <source>%1 通道 %2</source>
         <translation>%1 通道 %2</translation>
     </message>
+    <message>
+        <source>地址 %1 仍由设备 %2 使用</source>
+        <translation>地址 %1 仍由设备 %2 使用</translation>
+    </message>
 </context>
 <context>
     <name>BusyState</name>
@@ -529,6 +533,10 @@
     <message>
         <source>、</source>
         <translation>、</translation>
+    </message>
+    <message>
+        <source>没有该设备的搜索应答，或应答中没有MAC地址</source>
+        <translation>没有该设备的搜索应答，或应答中没有MAC地址</translation>
     </message>
 </context>
 <context>

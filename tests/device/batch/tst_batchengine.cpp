@@ -169,17 +169,42 @@ private Q_SLOTS:
         QCOMPARE(m_record->results(), (QList<std::pair<int, int>>{{0, result}, {1, result}, {2, result}}));
     }
 
+    void wrongPasswordsInARowHoldABatch_data()
+    {
+        // between: the result of the second of six devices; the others but the last two have a wrong password
+        const auto row = dataTable<int, int>({"between", "runsUntilHeld"});
+        row("done", success, 4);
+        row("right password, next step to come", resultCode(LoginResult::Unknown), 4);
+        row("logged in, request refused", 999, 4);
+        row("no answer tells nothing", resultCode(LoginResult::NetworkFailure), 3);
+    }
+
     void wrongPasswordsInARowHoldABatch()
     {
-        std::vector<BatchItem> items = {ending("a", wrongPassword), ending("b"), ending("c", wrongPassword),
-                                        ending("d", wrongPassword), ending("e"), ending("f")};
+        QFETCH(int, between);
+        std::vector<BatchItem> items = {
+            ending("a", wrongPassword), ending("b", between), ending("c", wrongPassword),
+            ending("d", wrongPassword), ending("e"),          ending("f")};
         const int batch = start(std::move(items), {.atOnce = 1, .wrongPasswordsInARow = 2});
         QTRY_COMPARE(m_record->holds, 1);
-        QCOMPARE(m_runs, 4);
+        QTEST(m_runs.load(), "runsUntilHeld");
         m_engine->resume(batch);
+        m_engine->stop(batch);
         QTRY_COMPARE(m_record->ends, 1);
-        QCOMPARE(m_runs, 6);
-        QCOMPARE(m_record->holds, 1);
+    }
+
+    void nothingOvertakesInTheOrderOfTheList()
+    {
+        start({waiting("a")}, {.atOnce = 1});
+        QTRY_COMPARE(m_runs, 1);
+        const auto second = std::make_shared<Record>();
+        const auto third = std::make_shared<Record>();
+        m_engine->start({ending("a"), ending("b")}, {.atOnce = 1}, second);
+        m_engine->start({ending("c")}, {.atOnce = 1}, third);
+        QTRY_COMPARE(third->ends, 1);
+        m_gate.release();
+        QTRY_COMPARE(second->ends, 1);
+        QCOMPARE(second->startedPlaces(), QList<int>({0, 1}));
     }
 
     void stopSkipsWhatWaitsAndReachesWhatRuns()

@@ -1,5 +1,6 @@
 #include "device/batch/addressorder.h"
 #include "device/batch/batches.h"
+#include "device/upgradetools.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 
@@ -15,6 +16,15 @@ QStringList ipportsOf(const QList<sdk::demo::SceneDevice> &devices)
         names.append(ipportOf(device));
     return names;
 }
+
+class NoWatcher : public BatchWatcher
+{
+public:
+    void started(std::size_t /*place*/) override {}
+    void finished(std::size_t /*place*/, const StepOutcome & /*outcome*/) override {}
+    void held() override {}
+    void ended() override {}
+};
 
 } // namespace
 
@@ -166,6 +176,67 @@ private Q_SLOTS:
         QVERIFY(asked.indexOf("NetStartSearchDevices") < asked.indexOf("NetModifyDeviceBySearch"));
         QCOMPARE(back->report()->succeeded(), 4);
         QCOMPARE(addresses(), before);
+    }
+
+    void noDeviceGetsAnAddressThatIsStillUsed()
+    {
+        m_site->site->setFault(m_devices.at(3).mac, {.fault = sdk::demo::Fault::RefusesAddressChange});
+        Batch *batch = m_batches->changeAddresses(
+            "dh", "Addresses", macs(), {"192.168.1.2", "192.168.1.3", "192.168.1.4", "192.168.1.5"},
+            "255.255.255.0", "192.168.1.1", false);
+        QVERIFY(batch);
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(askedMacs("NetModifyDeviceBySearch"), QStringList(m_devices.at(3).mac));
+        QCOMPARE(batch->report()->notDone(), 3);
+        QVERIFY(batch->textOf(m_devices.at(2).mac).contains("192.168.1.4"));
+    }
+
+    void aRowOfAnUpgradingDeviceIsRefusedAtOnce()
+    {
+        const QString mac = m_devices.at(0).mac;
+        m_site->factory->updataDeviceInfo("dh", "upgraderes", UpgradeTools::Sending, mac, "");
+        QSemaphore upgrade;
+        m_engine->start({{.device = mac,
+                          .step =
+                              [&](const StepControl &) {
+                                  upgrade.acquire();
+                                  return StepOutcome();
+                              }}},
+                        {.atOnce = 1}, std::make_shared<NoWatcher>());
+        Batch *batch = setStandard(ipportsOf(m_devices));
+        QVERIFY(batch);
+        QTRY_COMPARE(batch->done(), 4); // the upgrade still runs
+        upgrade.release();
+        QCOMPARE(batch->report()->devicesWith(resultCode(LoginResult::Upgrading)),
+                 QStringList(ipportOf(m_devices.at(0))));
+        QTRY_VERIFY(!batch->isRunning());
+    }
+
+    void rowsOfOneAddressAreOneDevice_data()
+    {
+        const auto row = dataTable<bool, int>({"isByAddress", "tries"});
+        row("reached by address", true, 1);
+        row("reached by MAC", false, 2);
+    }
+
+    void rowsOfOneAddressAreOneDevice()
+    {
+        QFETCH(const bool, isByAddress);
+        std::atomic<int> tries = 0;
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 8}};
+        plan.devices = {{.name = "a", .identity = "a", .ipport = "10.0.0.1:80", .title = {}},
+                        {.name = "b", .identity = "b", .ipport = "10.0.0.1:80", .title = {}}};
+        plan.stepOf = [&tries](const BatchDevice &) {
+            return [&tries](const StepControl &) {
+                ++tries;
+                return StepOutcome{.result = resultCode(LoginResult::WrongPassword), .text = {}};
+            };
+        };
+        plan.isByAddress = isByAddress;
+        Batch *batch = m_batches->start(std::move(plan));
+        QTRY_VERIFY(!batch->isRunning());
+        QTEST(tries.load(), "tries"); // the second one would count towards the lock
+        QCOMPARE(batch->report()->failed(), 2);
     }
 
     void devicesDoNotExchangeAddresses()
