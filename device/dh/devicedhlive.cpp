@@ -4,6 +4,8 @@
 #include "device/loginresult.h"
 #include "media/snapthread.h"
 
+#include <QThread>
+
 #include <algorithm>
 #include <memory>
 #include <mutex>
@@ -36,6 +38,18 @@ int snapResult(SnapProblem problem)
     default:
         return snapshotFailed;
     }
+}
+
+/// A hidden live view starts timers, which the toolkit allows on its own threads only. Those of the engine
+/// are not.
+SnapOutcome snapshotOnThread(const SnapTask &task, const SnapChannel &channel, const std::stop_token &stop)
+{
+    SnapOutcome outcome;
+    const std::unique_ptr<QThread> thread(
+        QThread::create([&] { outcome = takeSnapshot(task, channel, stop); }));
+    thread->start();
+    thread->wait();
+    return outcome;
 }
 
 } // namespace
@@ -96,16 +110,16 @@ QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
     const auto channels = std::make_shared<Channels>();
     QList<DeviceStep> steps;
     for (int number = 0; number < m_channels.channelCount; ++number) {
-        steps.append(
-            [this, channels, number, task = snapTask(allChannels, -1, address)](const StepControl &control) {
-                std::call_once(channels->asked, [&] { channels->list = task.channels(); });
-                const SnapOutcome outcome =
-                    takeSnapshot(task, channels->list.value(number, {.number = number}), control.stopToken());
-                if (outcome.problem == SnapProblem::NoPicture && control.shouldEnd())
-                    return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
-                noteSnapshot(allChannels, number, outcome.path, outcome.message);
-                return StepOutcome{.result = snapResult(outcome.problem), .text = outcome.reason};
-            });
+        steps.append([this, channels, number,
+                      task = snapTask(allChannels, -1, address)](const StepControl &control) {
+            std::call_once(channels->asked, [&] { channels->list = task.channels(); });
+            const SnapOutcome outcome =
+                snapshotOnThread(task, channels->list.value(number, {.number = number}), control.stopToken());
+            if (outcome.problem == SnapProblem::NoPicture && control.shouldEnd())
+                return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
+            noteSnapshot(allChannels, number, outcome.path, outcome.message);
+            return StepOutcome{.result = snapResult(outcome.problem), .text = outcome.reason};
+        });
     }
     return steps;
 }
