@@ -183,7 +183,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
             if (!holder.isEmpty())
                 return StepOutcome{.result = BatchReport::NotDone,
                                    .text = tr("地址 %1 仍由设备 %2 使用").arg(target.address, holder)};
-            const StepOutcome outcome = step(control);
+            StepOutcome outcome = step(control);
             if (outcome.result == BatchReport::Succeeded)
                 occupied->leave(device.identity);
             return outcome;
