@@ -70,17 +70,14 @@ public:
     }
 
     /// Milliseconds between two painted frames at the most, from the start of a batch to its end, on a page.
-    [[nodiscard]] double longestPause(int page, const std::function<Batch *()> &start) const
+    [[nodiscard]] double longestPause(int page, const std::function<Batch *()> &start)
     {
         window()->setProperty("currentTab", page);
         QTest::qWait(settlingTime);
-        QElapsedTimer sinceFrame;
-        qint64 longest = 0;
-        const auto painted = QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [&] {
-            longest = std::max(longest, sinceFrame.isValid() ? sinceFrame.nsecsElapsed() : 0);
-            sinceFrame.start();
-            window()->update();
-        });
+        m_longest = 0;
+        m_sinceFrame.invalidate();
+        const auto painted =
+            QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [this] { notePainted(); });
         window()->update();
         Batch *batch = start();
         const bool hasEnded = batch && QTest::qWaitFor([batch] { return !batch->isRunning(); }, longestBatch);
@@ -89,10 +86,17 @@ public:
         if (!hasEnded)
             qWarning("a batch did not end");
         constexpr double nanoseconds = 1e6;
-        return static_cast<double>(longest) / nanoseconds;
+        return static_cast<double>(m_longest) / nanoseconds;
     }
 
 private:
+    void notePainted()
+    {
+        m_longest = std::max(m_longest, m_sinceFrame.isValid() ? m_sinceFrame.nsecsElapsed() : 0);
+        m_sinceFrame.start();
+        window()->update();
+    }
+
     static constexpr int settlingTime = 1000; // milliseconds: the page has been made and painted
 
     template<typename Type>
@@ -111,13 +115,15 @@ private:
     QStringList m_initialised;
     QStringList m_factoryNew;
     QStringList m_ipports;
+    QElapsedTimer m_sinceFrame;
+    qint64 m_longest = 0; ///< between two frames, nanoseconds
 };
 
 } // namespace
 
 QList<Figure> measureBatchFrames()
 {
-    const PaintedProgram program;
+    PaintedProgram program;
     if (!program.isOpen())
         return {};
     QStringList addresses;
