@@ -20,7 +20,7 @@ void DeviceAddresses::remove(const SceneDevice &device)
             continue;
         found->removeOne(device.mac);
         if (found->isEmpty())
-            m_macs.erase(found);
+            m_macs.remove(address);
     }
 }
 

@@ -162,8 +162,8 @@ private Q_SLOTS:
         const auto names = form();
         if (isAway)
             setFault(Fault::NoAnswer);
-        connect(names.get(), &ChannelNameForm::savingChanged, names.get(), [form = names.get()] {
-            if (form->savingRow() == 4)
+        connect(names.get(), &ChannelNameForm::savingChanged, names.get(), [form = names.get(), isAway] {
+            if (!isAway && form->savingRow() == 4)
                 form->stopSaving();
         });
         QTEST(savingOf(*names, "Hof "), "outcome");
