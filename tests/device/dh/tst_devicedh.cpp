@@ -234,9 +234,11 @@ private Q_SLOTS:
     {
         search();
         m_factory->modifyIP("dh", recorder, {}, {}, {}, true); // the row has no address now
-        for (const auto &[mac, address] :
-             {std::pair(camera, "192.168.1.66"), std::pair(recorder, "192.168.1.67")})
-            m_site->changeDevice(mac, [address](auto &device, const auto &) { device.address = address; });
+        const auto move = [this](const QString &mac, const QString &address) {
+            m_site->changeDevice(mac, [&address](auto &device, const auto &) { device.address = address; });
+        };
+        move(camera, "192.168.1.66");
+        move(recorder, "192.168.1.67");
         m_factory->refreshDevices("dh", {camera, recorder});
         QTRY_COMPARE(row(camera).value("ipport").toString(), "192.168.1.66:37777");
         QTRY_COMPARE(row(recorder).value("ipport").toString().section(':', 0, 0), "192.168.1.67");
