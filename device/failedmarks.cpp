@@ -44,7 +44,7 @@ bool FailedMarks::forget(const QString &identity, const QString &work)
     const bool wasThere =
         failures->removeIf([&](const Failure &failure) { return failure.work == work; }) > 0;
     if (failures->isEmpty())
-        m_failures.erase(failures);
+        m_failures.remove(identity);
     return wasThere;
 }
 
