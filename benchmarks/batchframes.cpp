@@ -1,5 +1,6 @@
 #include "benchmarks/measurements.h"
 
+#include "app/localconfig.h"
 #include "app/shell.h"
 #include "cgi/cgibatches.h"
 #include "device/batch/batches.h"
@@ -39,9 +40,10 @@ public:
     {
         if (!m_isOpen)
             return;
-        factory().setDefaultAccount(family, account, password);
         QSignalSpy found(&factory(), &CDeviceFactory::signalSearchDone);
         found.wait(longestBatch);
+        CLocalConfig::getinstance()->setSearchConfigPass(password); // which CGI commands use
+        factory().setDefaultAccount(family, account, password);
         const QVariantList rows = factory().filterData(family, u"nofilter"_s);
         for (const QVariant &entry : rows) {
             const QVariantMap row = entry.toMap();
@@ -84,7 +86,8 @@ public:
         QTest::qWait(settlingTime); // the rows are queried again
         QObject::disconnect(painted);
         if (!hasEnded)
-            qWarning("a batch did not end");
+            qWarning("a batch did not end: %d of %d devices%s", batch ? batch->done() : 0,
+                     batch ? batch->total() : 0, batch && batch->isHeld() ? ", held" : "");
         constexpr double nanoseconds = 1e6;
         return static_cast<double>(m_longest) / nanoseconds;
     }

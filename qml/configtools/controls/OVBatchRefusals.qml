@@ -1,18 +1,20 @@
 // Tells the user of the page that is shown why a batch does not begin.
-import QtQuick
+import QtQml
 import configtools
 
-Connections {
+QtObject {
     id: root
 
     required property Batches batches
     required property bool shown
     signal said(string message, int kind)
 
-    enabled: shown
-    target: batches
+    readonly property Connections reports: Connections {
+        enabled: root.shown
+        target: root.batches
 
-    function onRefused(message) {
-        root.said(message, OVToast.Error);
+        function onRefused(message) {
+            root.said(message, OVToast.Error);
+        }
     }
 }
