@@ -42,8 +42,8 @@ public:
     P2PPorts(const P2PPorts &) = delete;
     P2PPorts &operator=(const P2PPorts &) = delete;
 
-    /// A local port that leads to `devicePort` of the device, 0 on failure. A wished port is honoured only
-    /// when it equals the device port; 0 wishes for none. Blocks for the agent; requests wait for each other,
+    /// A local port that leads to `devicePort` of the device, 0 on failure. A requested port is given only
+    /// when it equals the device port; 0 requests none. Blocks for the agent; requests wait for each other,
     /// so that two for the same device get the same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
 

@@ -5,7 +5,7 @@
 
 #include <mutex>
 
-/// Sees to it that no two answers of the same second get the same file. Thread-safe.
+/// Gives answers of the same second different files. Thread-safe.
 class AnswerPaths
 {
 public:

@@ -65,7 +65,7 @@ private:
     Batches &m_batches;
     QThreadPool m_readers;                ///< one thread
     int m_work = 0;                       ///< of the reading, in the busy state; 0 for none
-    QTimer m_news;                        ///< runs from a new row until the pages are told
+    QTimer m_news;                        ///< runs from a new row until the pages are notified
     bool m_hasNewRows = false;            ///< since the end of the last batch
     QHash<QString, ImportPlace> m_places; ///< of the last list that was read, by the names of its lines
 };
