@@ -24,7 +24,12 @@ bool isNotDone(const StepOutcome &outcome)
 
 QString resultText(const StepOutcome &outcome)
 {
-    return isNotDone(outcome) ? CgiBatches::tr("未执行") : outcome.text;
+    if (isNotDone(outcome))
+        return CgiBatches::tr("未执行");
+    const bool isFailure = outcome.result != resultCode(LoginResult::Success);
+    if (isFailure)
+        return outcome.text.isEmpty() ? failedResult + resultName(outcome.result) : outcome.text;
+    return outcome.answer;
 }
 
 /// Commands go to addresses. Where two devices have the same one, only one of them is named so.
@@ -122,10 +127,14 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
     plan.stepOf = [this, command, account = m_account()](const BatchDevice &device) {
         return deviceStep(device, command, account);
     };
-    plan.takeOutcome = [this](const BatchDevice &device, const StepOutcome &outcome) {
-        m_factory.updataDeviceInfo(family, DeviceRowKey::result, resultText(outcome), device.identity,
-                                   device.ipport);
-        Q_EMIT answered(device.identity);
+    plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
+        QStringList changed;
+        for (const auto &[device, outcome] : outcomes) {
+            m_factory.updataDeviceInfo(family, DeviceRowKey::result, resultText(outcome), device.identity,
+                                       device.ipport);
+            changed.append(device.identity);
+        }
+        Q_EMIT answered(changed);
     };
     Batch *batch = m_batches.start(std::move(plan));
     if (!batch)
@@ -181,8 +190,8 @@ Batch *CgiBatches::runWorkbook(const QString &title, const QString &path)
     plan.stepOf = [this](const BatchDevice &line) {
         return lineStep(line);
     };
-    plan.takeOutcome = [this](const BatchDevice &line, const StepOutcome &outcome) {
-        takeLine(line, outcome);
+    plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
+        takeLines(outcomes);
     };
     plan.canBeRetried = false; // the file is the user's again at the end
     m_workbook = std::move(workbook);
@@ -223,10 +232,12 @@ DeviceStep CgiBatches::lineStep(const BatchDevice &line)
         m_workbook->sinkOf(line.name));
 }
 
-void CgiBatches::takeLine(const BatchDevice &line, const StepOutcome &outcome)
+void CgiBatches::takeLines(const QList<BatchOutcome> &outcomes)
 {
-    if (!isNotDone(outcome))
-        m_workbook->take(line.name, outcome.text);
+    for (const auto &[line, outcome] : outcomes) {
+        if (!isNotDone(outcome))
+            m_workbook->take(line.name, resultText(outcome));
+    }
 }
 
 void CgiBatches::finishWorkbook()

@@ -45,8 +45,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QStringList failuresOf(Batch *batch) const;
 
 Q_SIGNALS:
-    /// The row of a listed device has got a result, also in a retry of a batch.
-    void answered(const QString &identity);
+    /// The rows of listed devices have got results, also in a retry of a batch.
+    void answered(const QStringList &identities);
 
     /// As CGIConfigManage::batchCGIConfig() returns it.
     void workbookEnded(const QString &text);
@@ -59,7 +59,7 @@ private:
     [[nodiscard]] DeviceStep lineStep(const BatchDevice &line);
     [[nodiscard]] QString addressOf(const QString &ipport, const QString &command);
     [[nodiscard]] QList<BatchDevice> linesOf(Workbook &workbook);
-    void takeLine(const BatchDevice &line, const StepOutcome &outcome);
+    void takeLines(const QList<BatchOutcome> &outcomes);
     void finishWorkbook();
 
     CDeviceFactory &m_factory;

@@ -18,9 +18,10 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
         const QString answer = CgiProcedure(watched, {}).send(command.url, command.user, command.password);
         if (sink)
             sink(answer);
-        return StepOutcome{.result = answer.startsWith(failedResult) ? commandFailed
-                                                                     : resultCode(LoginResult::Success),
-                           .text = answer.left(LongAnswers::longestBeginning)};
+        const QString beginning = answer.left(LongAnswers::longestBeginning);
+        if (answer.startsWith(failedResult))
+            return StepOutcome{.result = commandFailed, .text = beginning};
+        return StepOutcome{.result = resultCode(LoginResult::Success), .text = {}, .answer = beginning};
     };
 }
 

@@ -21,14 +21,29 @@ void BatchReport::begin(const QStringList &devices)
 
 void BatchReport::note(const QString &device, int result)
 {
+    if (take(device, result))
+        Q_EMIT changed();
+}
+
+void BatchReport::note(const QStringList &devices, const QList<int> &results)
+{
+    bool isChanged = false;
+    for (qsizetype place = 0; place < devices.size(); ++place)
+        isChanged = take(devices.at(place), results.at(place)) || isChanged;
+    if (isChanged)
+        Q_EMIT changed();
+}
+
+bool BatchReport::take(const QString &device, int result)
+{
     const QList<qsizetype> places = m_places.value(device);
     const auto place = std::find_if(places.cbegin(), places.cend(), [this](qsizetype other) {
         return m_entries.at(other).result == NotDone || m_entries.at(other).result == Waiting;
     });
     if (place == places.cend())
-        return;
+        return false;
     setResult(*place, result);
-    Q_EMIT changed();
+    return true;
 }
 
 void BatchReport::setResult(qsizetype place, int result)

@@ -35,7 +35,10 @@ public:
 
     /// Notes the result of a device, the first of that name that is not done or waits. Does nothing for a
     /// device that the batch was not asked for.
-    Q_INVOKABLE void note(const QString &device, int result);
+    void note(const QString &device, int result);
+
+    /// The same for several devices, with one changed() for all of them. Both lists have the same length.
+    void note(const QStringList &devices, const QList<int> &results);
 
     /// In the order of the batch.
     Q_INVOKABLE [[nodiscard]] QStringList devicesWith(int result) const;
@@ -63,6 +66,7 @@ private:
         int result = NotDone;
     };
 
+    [[nodiscard]] bool take(const QString &device, int result); ///< false: it is not of the batch
     void setResult(qsizetype place, int result);
 
     QList<Entry> m_entries;

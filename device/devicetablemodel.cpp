@@ -1,19 +1,13 @@
 #include "device/devicetablemodel.h"
 
 #include "device/devicefactory.h"
-#include "device/devicefilter.h"
-#include "device/deviceorder.h"
 #include "device/devicerow.h"
 #include "device/failedmarks.h"
 #include "device/upgradetools.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -47,6 +41,15 @@ QVariant valueOf(const QJsonObject &row, QLatin1StringView key)
     return key == DeviceRowKey::upgrade ? QVariant(0) : QVariant(QString());
 }
 
+void takeDetail(QJsonObject &row, const QVariantMap &detail)
+{
+    for (const QLatin1StringView key : rowKeys) {
+        const QVariant value = detail.value(key);
+        if (value.isValid())
+            row.insert(key, QJsonValue::fromVariant(value));
+    }
+}
+
 } // namespace
 
 DeviceTableModel::DeviceTableModel(QObject *parent) : QAbstractListModel(parent) {}
@@ -60,7 +63,7 @@ QVariant DeviceTableModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Row &row = m_rows.at(index.row());
+    const DeviceTableRow &row = m_rows.at(index.row());
     switch (role) {
     case CheckedRole:
         return checkedIdentities().contains(row.identity);
@@ -177,7 +180,7 @@ void DeviceTableModel::applyFilter()
     refresh();
 }
 
-QList<DeviceTableModel::Row> DeviceTableModel::readRows()
+QList<DeviceTableRow> DeviceTableModel::readRows()
 {
     // Everything comes from one list: rows may be added or changed between two.
     const QString all = QStringLiteral("nofilter");
@@ -185,42 +188,19 @@ QList<DeviceTableModel::Row> DeviceTableModel::readRows()
         m_ipv6 ? m_deviceFactory->filterDataIPV6(family, all) : m_deviceFactory->filterData(family, all);
     m_totalCount = static_cast<int>(list.size());
     forgetLostTicks(list);
-
-    QHash<QString, int> rowsOfAddress;
-    rowsOfAddress.reserve(list.size());
-    QList<Row> shown;
-    QStringList addresses; // of the shown rows
-    shown.reserve(list.size());
-    addresses.reserve(list.size());
-    for (const QVariant &value : list) {
-        const QJsonObject values = value.toJsonObject();
-        const QString ipport = values.value(DeviceRowKey::ipport).toString();
-        ++rowsOfAddress[ipport];
-        if (isShown(values)) {
-            const QString identity = rowName(values);
-            const QString reason =
-                m_onlyFailed && m_failedMarks ? m_failedMarks->reasonOf(identity) : QString();
-            if (m_onlyFailed && reason.isEmpty())
-                continue;
-            shown.append({.values = values, .identity = identity, .reason = reason});
-            addresses.append(ipport);
-        }
-    }
-    m_conflictCount = 0;
-    for (qsizetype place = 0; place < shown.size(); ++place) {
-        Row &row = shown[place];
-        // Devices that wait for an address by DHCP have none to share.
-        const QString &ipport = addresses.at(place);
-        row.conflict = !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > 1;
-        m_conflictCount += row.conflict ? 1 : 0;
-    }
-    return shown;
-}
-
-bool DeviceTableModel::isShown(const QJsonObject &row) const
-{
-    const bool isWanted = row.value(DeviceRowKey::state).toBool() ? m_showInitialised : m_showUninitialised;
-    return isWanted && (m_searchText.isEmpty() || holdsText(row, m_searchText));
+    QList<DeviceTableRow> rows =
+        deviceTableRows(list,
+                        {.showInitialised = m_showInitialised,
+                         .showUninitialised = m_showUninitialised,
+                         .searchText = m_searchText,
+                         .onlyThose = m_onlyFailed ? m_failedMarks.get() : nullptr},
+                        {.key = m_sortKey,
+                         .direction = m_sortOrder,
+                         .oddAddresses = m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero
+                                                             : DeviceOrder::OddAddresses::Behind});
+    m_conflictCount = static_cast<int>(
+        std::count_if(rows.cbegin(), rows.cend(), [](const DeviceTableRow &row) { return row.conflict; }));
+    return rows;
 }
 
 void DeviceTableModel::forgetLostTicks(const QVariantList &list)
@@ -236,55 +216,27 @@ void DeviceTableModel::forgetLostTicks(const QVariantList &list)
     checkedIdentities().swap(left);
 }
 
-void DeviceTableModel::sortRows(QList<Row> &rows) const
-{
-    const bool isByReason = m_sortKey.isEmpty() && m_onlyFailed;
-    if (m_sortKey.isEmpty() && !isByReason)
-        return;
-    const DeviceOrder order(isByReason ? QString(DeviceRowKey::ipport) : m_sortKey,
-                            m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero
-                                                : DeviceOrder::OddAddresses::Behind);
-    std::vector<DeviceOrder::SortKey> keys;
-    keys.reserve(rows.size());
-    for (const Row &row : std::as_const(rows))
-        keys.push_back(order.sortKey(row.values));
-
-    std::vector<qsizetype> places(rows.size());
-    std::iota(places.begin(), places.end(), 0);
-    const int direction = m_sortOrder == Qt::AscendingOrder ? 1 : -1;
-    std::stable_sort(places.begin(), places.end(), [&](qsizetype left, qsizetype right) {
-        const int reasons = isByReason ? rows.at(left).reason.compare(rows.at(right).reason) : 0;
-        return reasons != 0 ? reasons < 0 : direction * DeviceOrder::compare(keys[left], keys[right]) < 0;
-    });
-
-    QList<Row> sorted;
-    sorted.reserve(rows.size());
-    for (const qsizetype place : places)
-        sorted.append(std::move(rows[place]));
-    rows = std::move(sorted);
-}
-
 void DeviceTableModel::refresh()
 {
     if (!m_deviceFactory)
         return;
-    QList<Row> rows = readRows();
-    sortRows(rows);
-    takeRows(std::move(rows));
+    takeRows(readRows());
     countChecked();
     Q_EMIT countChanged();
 }
 
-void DeviceTableModel::takeRows(QList<Row> rows)
+void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
 {
     const qsizetype shown = m_rows.size();
-    const bool grown = rows.size() >= shown && std::equal(m_rows.cbegin(), m_rows.cend(), rows.cbegin(),
-                                                          [](const Row &before, const Row &now) {
-                                                              return before.identity == now.identity;
-                                                          });
+    const bool grown =
+        rows.size() >= shown && std::equal(m_rows.cbegin(), m_rows.cend(), rows.cbegin(),
+                                           [](const DeviceTableRow &before, const DeviceTableRow &now) {
+                                               return before.identity == now.identity;
+                                           });
     if (!grown) {
         beginResetModel();
         m_rows = std::move(rows);
+        notePlaces(0);
         endResetModel();
         return;
     }
@@ -292,6 +244,7 @@ void DeviceTableModel::takeRows(QList<Row> rows)
     if (rows.size() > shown) {
         beginInsertRows(QModelIndex(), static_cast<int>(shown), static_cast<int>(rows.size() - 1));
         m_rows = std::move(rows);
+        notePlaces(shown);
         endInsertRows();
     } else {
         m_rows = std::move(rows);
@@ -300,25 +253,34 @@ void DeviceTableModel::takeRows(QList<Row> rows)
         Q_EMIT dataChanged(index(0), index(static_cast<int>(shown - 1)));
 }
 
+void DeviceTableModel::notePlaces(qsizetype first)
+{
+    if (first == 0)
+        m_places.clear();
+    m_places.reserve(m_rows.size());
+    for (qsizetype place = first; place < m_rows.size(); ++place)
+        m_places.insert(m_rows.at(place).identity, static_cast<int>(place));
+}
+
 void DeviceTableModel::refreshDevice(const QString &mac)
 {
-    const int place = rowOf(mac);
-    if (!m_deviceFactory || place < 0)
-        return;
-    const QVariantMap detail = m_deviceFactory->getDeviceDetail(family, mac);
-    Row &row = m_rows[place];
-    for (const QLatin1StringView key : rowKeys) {
-        const QVariant value = detail.value(key);
-        if (value.isValid())
-            row.values.insert(key, QJsonValue::fromVariant(value));
-    }
-    Q_EMIT dataChanged(index(place), index(place));
+    refreshDevices({mac});
 }
 
 void DeviceTableModel::refreshDevices(const QStringList &macs)
 {
-    for (const QString &mac : macs)
-        refreshDevice(mac);
+    int first = rowCount();
+    int last = -1;
+    for (const QString &mac : macs) {
+        const int place = rowOf(mac);
+        if (place < 0 || !m_deviceFactory)
+            continue;
+        takeDetail(m_rows[place].values, m_deviceFactory->getDeviceDetail(family, mac));
+        first = std::min(first, place);
+        last = std::max(last, place);
+    }
+    if (last >= 0)
+        Q_EMIT dataChanged(index(first), index(last)); // a view looks at the shown ones of them once
 }
 
 void DeviceTableModel::toggleSort(const QString &key)
@@ -375,7 +337,7 @@ void DeviceTableModel::countChecked()
     m_checkedCount = 0;
     m_checkedUpgradingCount = 0;
     if (!checkedIdentities().isEmpty()) {
-        for (const Row &row : std::as_const(m_rows)) {
+        for (const DeviceTableRow &row : std::as_const(m_rows)) {
             if (!checkedIdentities().contains(row.identity))
                 continue;
             ++m_checkedCount;
@@ -408,16 +370,13 @@ QVariantMap DeviceTableModel::get(int row) const
 
 int DeviceTableModel::rowOf(const QString &identity) const
 {
-    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [&identity](const Row &candidate) {
-        return candidate.identity == identity;
-    });
-    return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
+    return m_places.value(identity, -1);
 }
 
 QStringList DeviceTableModel::checkedMacs() const
 {
     QStringList macs;
-    for (const Row &row : m_rows) {
+    for (const DeviceTableRow &row : m_rows) {
         if (checkedIdentities().contains(row.identity))
             macs.append(row.identity);
     }

@@ -1,8 +1,10 @@
 // The device table of a page: the rows that its filters leave, as an item model.
 #pragma once
 
+#include "device/devicetablerows.h"
+
 #include <QAbstractListModel>
-#include <QJsonObject>
+#include <QHash>
 #include <QList>
 #include <QPointer>
 #include <QSet>
@@ -122,26 +124,16 @@ Q_SIGNALS:
     void checkedCountChanged();
 
 private:
-    /// A shown row with what is computed from it once, at refresh.
-    struct Row
-    {
-        QJsonObject values;
-        QString identity;
-        bool conflict = false;
-        QString reason = {}; ///< of the mark, while only failed devices are shown
-    };
-
-    [[nodiscard]] QList<Row> readRows();
-    [[nodiscard]] bool isShown(const QJsonObject &row) const;
+    [[nodiscard]] QList<DeviceTableRow> readRows();
     void takeMarks();
-    void sortRows(QList<Row> &rows) const;
     void forgetLostTicks(const QVariantList &list);
     [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
     [[nodiscard]] const QSet<QString> &checkedIdentities() const
     {
         return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4;
     }
-    void takeRows(QList<Row> rows);
+    void takeRows(QList<DeviceTableRow> rows);
+    void notePlaces(qsizetype first); ///< of the rows from this one on
     void applyFilter();
     void countChecked();
 
@@ -156,7 +148,8 @@ private:
     QString m_sortKey; ///< empty: the order of the list
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 
-    QList<Row> m_rows;
+    QList<DeviceTableRow> m_rows;
+    QHash<QString, int> m_places; ///< in m_rows, by identity
     // Identities of ticked rows, also of those that a filter hides.
     QSet<QString> m_checkedIPv4;
     QSet<QString> m_checkedIPv6;

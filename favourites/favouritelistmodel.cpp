@@ -1,9 +1,8 @@
 #include "favourites/favouritelistmodel.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <array>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -166,25 +165,39 @@ void FavouriteListModel::setAllChecked(bool checked)
     setRangeChecked(0, rowCount() - 1, checked);
 }
 
-void FavouriteListModel::setProgress(const QString &identity, Progress progress, const QString &words)
+void FavouriteListModel::takeResults(const QVariantList &results, const QString &wordsOfSuccess)
 {
-    const qsizetype place = placeOf(identity);
-    if (place < 0)
-        return;
-    Favourite &favourite = m_favourites[place];
-    favourite.progress = progress;
-    favourite.words = words;
-    if (progress == Added)
-        favourite.checked = false;
-    if (const int row = rowOf(identity); row >= 0)
-        Q_EMIT dataChanged(index(row), index(row));
-    Q_EMIT checkedCountChanged();
+    QHash<QString, std::pair<Progress, QString>> progressOf;
+    for (const QVariant &value : results) {
+        const QVariantMap result = value.toMap();
+        const bool isAdded = result.value(QStringLiteral("result")).toInt() == 0;
+        progressOf.insert(result.value(QStringLiteral("identity")).toString(),
+                          {isAdded ? Added : Failed,
+                           isAdded ? wordsOfSuccess : result.value(QStringLiteral("words")).toString()});
+    }
+    noteProgress(progressOf);
 }
 
 void FavouriteListModel::setRunning(const QStringList &identities, const QString &words)
 {
+    QHash<QString, std::pair<Progress, QString>> progressOf;
     for (const QString &identity : identities)
-        setProgress(identity, Running, words);
+        progressOf.insert(identity, {Running, words});
+    noteProgress(progressOf);
+}
+
+void FavouriteListModel::noteProgress(const QHash<QString, std::pair<Progress, QString>> &progressOf)
+{
+    for (Favourite &favourite : m_favourites) {
+        const auto noted = progressOf.constFind(favourite.fileName);
+        if (noted == progressOf.cend())
+            continue;
+        std::tie(favourite.progress, favourite.words) = *noted;
+        favourite.checked = favourite.checked && favourite.progress != Added;
+    }
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    Q_EMIT checkedCountChanged();
 }
 
 void FavouriteListModel::forgetProgress()

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QHash>
 #include <QList>
 #include <QVariantMap>
+
+#include <utility>
 
 /// Favourites of a folder with what the user does to them: ticks, the text filter, and how adding each one
 /// went. Roles are "checked", "conflict" (always false: a favourite stands in no other's way), "identity"
@@ -46,9 +49,9 @@ public:
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Notes how adding a favourite went, with the words for it. Takes a tick away from one that was added.
-    Q_INVOKABLE void setProgress(const QString &identity, FavouriteListModel::Progress progress,
-                                 const QString &words);
+    /// Notes how adding favourites went: maps of "identity", "result" (0 for a favourite that was added) and
+    /// "words" for a failure. Takes the ticks away from those that were added.
+    Q_INVOKABLE void takeResults(const QVariantList &results, const QString &wordsOfSuccess);
 
     /// These favourites are being added.
     Q_INVOKABLE void setRunning(const QStringList &identities, const QString &words);
@@ -97,6 +100,7 @@ private:
     [[nodiscard]] static Favourite favouriteOf(const QString &fileName, const QStringList &values);
     [[nodiscard]] bool isShown(const Favourite &favourite) const;
     [[nodiscard]] const Favourite &at(int row) const { return m_favourites.at(m_shown.at(row)); }
+    void noteProgress(const QHash<QString, std::pair<Progress, QString>> &progressOf); ///< and the words
     [[nodiscard]] qsizetype placeOf(const QString &identity) const;
     void show();
 

@@ -2,6 +2,7 @@
 
 #include "device/devicefactory.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -88,9 +89,8 @@ void AddingBatches::takeList(List &list)
         return;
     }
     list.plan.policy = m_batches.usualPolicy();
-    list.plan.takeOutcome = [this](const BatchDevice &, const StepOutcome &outcome) {
-        if (isSuccess(outcome))
-            noteRow();
+    list.plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
+        noteRows(outcomes);
     };
     Batch *batch = m_batches.start(std::move(list.plan));
     if (!batch)
@@ -136,17 +136,25 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
     plan.stepOf = [this, targets](const BatchDevice &device) {
         return m_factory.addingStep(family, targets.value(device.name));
     };
-    plan.takeOutcome = [this, identities](const BatchDevice &device, const StepOutcome &outcome) {
-        if (isSuccess(outcome))
-            noteRow();
-        Q_EMIT tried(identities.value(device.name), outcome.result,
-                     outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text);
+    plan.takeOutcomes = [this, identities](const QList<BatchOutcome> &outcomes) {
+        noteRows(outcomes);
+        QVariantList results;
+        for (const auto &[device, outcome] : outcomes)
+            results.append(QVariantMap{
+                {QStringLiteral("identity"), identities.value(device.name)},
+                {QStringLiteral("result"), outcome.result},
+                {QStringLiteral("words"), outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text},
+            });
+        Q_EMIT tried(results);
     };
     return m_batches.start(std::move(plan));
 }
 
-void AddingBatches::noteRow()
+void AddingBatches::noteRows(const QList<BatchOutcome> &outcomes)
 {
+    if (std::none_of(outcomes.cbegin(), outcomes.cend(),
+                     [](const BatchOutcome &entry) { return isSuccess(entry.outcome); }))
+        return;
     m_hasNewRows = true;
     if (!m_news.isActive())
         m_news.start();

@@ -43,8 +43,9 @@ Q_SIGNALS:
     void importBegan(Batch *batch);
     void importRefused(const QString &reason);
 
-    /// What has come of a device of addDevices(), also in a retry. `words` are in the user's language.
-    void tried(const QString &identity, int result, const QString &words);
+    /// What has come of devices of addDevices(), also in a retry: maps of "identity", "result" and "words" in
+    /// the user's language.
+    void tried(const QVariantList &results);
 
 private:
     /// A list that was read, as a batch.
@@ -57,7 +58,7 @@ private:
 
     [[nodiscard]] List readList(const QString &title, const QString &path) const; ///< on any thread
     void takeList(List &list);
-    void noteRow();
+    void noteRows(const QList<BatchOutcome> &outcomes);
     /// Tells the pages of new rows at the end of a batch, whichever began it: it may be a retry.
     void noteEnd();
 

@@ -224,20 +224,22 @@ void Batch::takeNews()
 {
     const Mailbox::News news = m_mailbox->take();
     m_running.append(news.started);
+    QList<BatchOutcome> outcomes;
     QStringList devices;
     QList<int> results;
     for (const Mailbox::Finished &finished : news.finished) {
         Entry &entry = m_entries[finished.place];
+        outcomes.append({.device = entry.device, .outcome = finished.outcome});
         entry.outcome = finished.outcome;
+        entry.outcome.answer.clear();
         entry.time = finished.time;
-        m_report.note(entry.device.name, entry.outcome.result);
-        if (m_plan.takeOutcome)
-            m_plan.takeOutcome(entry.device, entry.outcome);
         m_running.removeOne(finished.place);
         ++m_done;
         devices.append(entry.device.name);
         results.append(entry.outcome.result);
     }
+    m_report.note(devices, results);
+    tell(outcomes);
     m_isHeld = m_isHeld || news.isHeld;
     if (!devices.isEmpty())
         Q_EMIT resulted(devices, results);
@@ -247,15 +249,23 @@ void Batch::takeNews()
         Q_EMIT changed();
 }
 
+void Batch::tell(const QList<BatchOutcome> &outcomes) const
+{
+    if (m_plan.takeOutcomes && !outcomes.isEmpty())
+        m_plan.takeOutcomes(outcomes);
+}
+
 void Batch::finish()
 {
     m_isRunning = false;
     m_isHeld = false;
     m_ended = QDateTime::currentDateTime();
+    QList<BatchOutcome> outcomes;
     for (const Entry &entry : std::as_const(m_entries)) {
-        if (m_plan.takeOutcome && !entry.time.isValid())
-            m_plan.takeOutcome(entry.device, entry.outcome);
+        if (!entry.time.isValid())
+            outcomes.append({.device = entry.device, .outcome = entry.outcome});
     }
+    tell(outcomes);
     const QStringList notDone = m_report.devicesWith(BatchReport::NotDone);
     if (!notDone.isEmpty())
         Q_EMIT resulted(notDone, QList<int>(notDone.size(), BatchReport::NotDone));

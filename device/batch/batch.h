@@ -109,6 +109,7 @@ private:
     class Mailbox;
 
     void takeNews();
+    void tell(const QList<BatchOutcome> &outcomes) const;
     void finish();
 
     BatchEngine &m_engine;

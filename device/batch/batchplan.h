@@ -30,6 +30,13 @@ struct BatchDevice
     bool isUpgrading = false; ///< its firmware is being upgraded when the batch starts: it is not asked
 };
 
+/// What has come of a device of a batch.
+struct BatchOutcome
+{
+    BatchDevice device;
+    StepOutcome outcome;
+};
+
 struct BatchPlan
 {
     QString family; ///< of the devices
@@ -45,9 +52,10 @@ struct BatchPlan
     /// Makes the step of a device. Called on the scene's thread, at the start and at each retry.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
 
-    /// Takes what has come of each device, in the order in which it came, and at the end of the batch that of
-    /// the devices that it did not come to. Called on the scene's thread; may be empty.
-    std::function<void(const BatchDevice &device, const StepOutcome &outcome)> takeOutcome = {};
+    /// Takes what has come of devices, in the order in which it came, once for each painted frame at most,
+    /// and at the end of the batch that of the devices that it did not come to. Called on the scene's thread;
+    /// may be empty.
+    std::function<void(const QList<BatchOutcome> &outcomes)> takeOutcomes = {};
 
     /// Whether the steps log in at the addresses of the devices: of two rows with one address, the same
     /// device responds.

@@ -99,7 +99,10 @@ private Q_SLOTS:
         QVERIFY(again);
         QTRY_VERIFY(!again->isRunning());
         QCOMPARE(m_site->result("c"), "OK");
-        QCOMPARE(answered.size(), 4);
+        QStringList identities;
+        for (const QList<QVariant> &news : answered)
+            identities += news.first().toStringList();
+        QCOMPARE(identities, QStringList({"a", "b", "c", "c"}));
     }
 
     void theWholeOfALongAnswerIsKept()
@@ -111,7 +114,7 @@ private Q_SLOTS:
         Batch *batch = send("/cgi-bin/a", {"a"});
         QTRY_VERIFY(!batch->isRunning());
         QVERIFY(m_site->result("a").size() < answer.size());
-        QCOMPARE(batch->textOf("10.0.0.a:37777"), m_site->result("a"));
+        QCOMPARE(batch->textOf("10.0.0.a:37777"), ""); // it may hold a secret
         QCOMPARE(m_site->commands.answerOf("a", m_site->result("a")), answer);
         QCOMPARE(m_site->commands.answerOf("a", "other"), "other");
     }

@@ -124,8 +124,9 @@ private Q_SLOTS:
         FavouriteListModel model;
         model.load(threeFiles());
         model.setAllChecked(true);
-        model.setProgress("a.json", FavouriteListModel::Added, "added");
-        model.setProgress("c.json", FavouriteListModel::Failed, "wrong password");
+        model.takeResults({QVariantMap{{"identity", "a.json"}, {"result", 0}},
+                           QVariantMap{{"identity", "c.json"}, {"result", 2}, {"words", "wrong password"}}},
+                          "added");
         QCOMPARE(model.checkedIdentities(), (QStringList{"b.json", "c.json"}));
 
         QVariantMap files = threeFiles();
@@ -141,7 +142,7 @@ private Q_SLOTS:
 
         model.forgetProgress();
         QCOMPARE(model.get(1).value("progress").toInt(), int(FavouriteListModel::Untried));
-        model.setProgress("a.json", FavouriteListModel::Added, "gone meanwhile");
+        model.takeResults({QVariantMap{{"identity", "a.json"}, {"result", 0}}}, "gone meanwhile");
     }
 };
 

@@ -59,6 +59,7 @@ FocusScope {
         batches: page.batches
         cgiBatches: page.cgiBatches
         commands: cgiCommands
+        deviceFactory: page.deviceFactory
         deviceTable: devices
         objectName: "cgiSender"
         onFailed: lines => {

@@ -67,11 +67,8 @@ OVDialog {
     Connections {
         target: root.addingBatches
 
-        function onTried(identity, result, words) {
-            if (result === BatchReport.Succeeded)
-                saved.setProgress(identity, FavouriteListModel.Added, qsTr("已添加"));
-            else
-                saved.setProgress(identity, FavouriteListModel.Failed, words);
+        function onTried(results) {
+            saved.takeResults(results, qsTr("已添加"));
         }
     }
     Connections {

@@ -238,11 +238,12 @@ private Q_SLOTS:
         QVERIFY(m_adding->addDevices("Favourites", {device}));
         QCOMPARE(m_adding->addDevices("Favourites", {device}), nullptr); // one at a time
         QTRY_VERIFY(!m_batches->isRunning());
-        const QVariantList told = tried.takeFirst();
-        QCOMPARE(told.at(0).toString(), "file");
-        QTEST(told.at(1).toInt(), "result");
-        QVERIFY(told.at(2).toString().contains(words));
-        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), told.at(1).toInt() == 0 ? 2 : 1);
+        QCOMPARE(tried.size(), 1);
+        const QVariantMap told = tried.first().first().toList().first().toMap();
+        QCOMPARE(told.value("identity").toString(), "file");
+        QTEST(told.value("result").toInt(), "result");
+        QVERIFY(told.value("words").toString().contains(words));
+        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), told.value("result").toInt() == 0 ? 2 : 1);
     }
 };
 

@@ -7,10 +7,11 @@ Item {
 
     required property Batches batches
     required property var cgiBatches
+    required property var deviceFactory
     required property var deviceTable  // a DeviceTableModel
     required property CgiCommands commands
     property Batch batch: null
-    property bool single: false  // the command of one row
+    property string singleRow  // identity of the row whose command it is; "" for that of several
     signal said(string message, int kind)
     /// A batch has ended with devices that failed or were not done: a line for each, by their results.
     signal failed(var lines)
@@ -38,28 +39,28 @@ Item {
         if (fault !== "")
             said(fault, OVToast.Error);
         else
-            begin(qsTr("发送CGI命令"), [values.identity], command, true);
+            begin(qsTr("发送CGI命令"), [values.identity], command, values.identity);
     }
 
     /// Sends one command to the devices of these identities.
     function sendToAll(identities, command) {
-        begin(qsTr("批量配置CGI"), identities, command, false);
+        begin(qsTr("批量配置CGI"), identities, command, "");
     }
 
-    function begin(title, identities, command, isSingle) {
+    function begin(title, identities, command, row) {
         commands.remember(command);
         const begun = cgiBatches.send(title, identities, command);
         if (begun === null)
             return;
-        single = isSingle;
+        singleRow = row;
         batch = begun;
         deviceTable.refreshDevices(identities);
     }
 
     function tellEnd() {
         const report = batch.report;
-        if (single) {
-            if (report.succeeded === 1 && batch.textOf(report.devicesWith(BatchReport.Succeeded)[0]) === "")
+        if (singleRow !== "") {
+            if (report.succeeded === 1 && deviceFactory.getDeviceDetail("dh", singleRow).result === "")
                 said(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
             return;
         }
@@ -79,8 +80,8 @@ Item {
     Connections {
         target: root.cgiBatches
 
-        function onAnswered(identity) {
-            root.deviceTable.refreshDevice(identity);
+        function onAnswered(identities) {
+            root.deviceTable.refreshDevices(identities);
         }
     }
     Connections {

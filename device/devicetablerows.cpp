@@ -1,0 +1,77 @@
+#include "device/devicetablerows.h"
+
+#include "device/devicefilter.h"
+#include "device/devicerow.h"
+#include "device/failedmarks.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+namespace {
+
+bool isShown(const QJsonObject &row, const DeviceTableFilter &filter)
+{
+    const bool isWanted =
+        row.value(DeviceRowKey::state).toBool() ? filter.showInitialised : filter.showUninitialised;
+    return isWanted && (filter.searchText.isEmpty() || holdsText(row, filter.searchText));
+}
+
+QList<DeviceTableRow> ordered(QList<DeviceTableRow> rows, const DeviceTableOrder &wanted, bool isByReason)
+{
+    const DeviceOrder order(isByReason ? QString(DeviceRowKey::ipport) : wanted.key, wanted.oddAddresses);
+    std::vector<DeviceOrder::SortKey> keys;
+    keys.reserve(rows.size());
+    for (const DeviceTableRow &row : std::as_const(rows))
+        keys.push_back(order.sortKey(row.values));
+
+    std::vector<qsizetype> places(rows.size());
+    std::iota(places.begin(), places.end(), 0);
+    const int direction = wanted.direction == Qt::AscendingOrder ? 1 : -1;
+    std::stable_sort(places.begin(), places.end(), [&](qsizetype left, qsizetype right) {
+        const int reasons = isByReason ? rows.at(left).reason.compare(rows.at(right).reason) : 0;
+        return reasons != 0 ? reasons < 0 : direction * DeviceOrder::compare(keys[left], keys[right]) < 0;
+    });
+
+    QList<DeviceTableRow> sorted;
+    sorted.reserve(rows.size());
+    for (const qsizetype place : places)
+        sorted.append(std::move(rows[place]));
+    return sorted;
+}
+
+} // namespace
+
+QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTableFilter &filter,
+                                      const DeviceTableOrder &order)
+{
+    QHash<QString, int> rowsOfAddress;
+    rowsOfAddress.reserve(list.size());
+    QList<DeviceTableRow> shown;
+    QStringList addresses; // of the shown rows
+    shown.reserve(list.size());
+    addresses.reserve(list.size());
+    for (const QVariant &value : list) {
+        const QJsonObject values = value.toJsonObject();
+        const QString ipport = values.value(DeviceRowKey::ipport).toString();
+        ++rowsOfAddress[ipport];
+        if (!isShown(values, filter))
+            continue;
+        const QString identity = rowName(values);
+        const QString reason = filter.onlyThose ? filter.onlyThose->reasonOf(identity) : QString();
+        if (filter.onlyThose && reason.isEmpty())
+            continue;
+        shown.append({.values = values, .identity = identity, .reason = reason});
+        addresses.append(ipport);
+    }
+    for (qsizetype place = 0; place < shown.size(); ++place) {
+        // Devices that wait for an address by DHCP have none to share.
+        const QString &ipport = addresses.at(place);
+        shown[place].conflict = !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > 1;
+    }
+    const bool isByReason = order.key.isEmpty() && filter.onlyThose;
+    return order.key.isEmpty() && !isByReason ? shown : ordered(std::move(shown), order, isByReason);
+}
