@@ -213,9 +213,16 @@ DeviceStep CDeviceBase::addressStep(const QString &, const QString &, const QStr
     return unsupportedStep();
 }
 
-DeviceStep CDeviceBase::copyStep(const QString &)
+DeviceStepMaker CDeviceBase::encodeCopy()
 {
-    return unsupportedStep();
+    return [](const QString &) {
+        return unsupportedStep();
+    };
+}
+
+QJsonObject CDeviceBase::deviceRow(const QString &name)
+{
+    return QJsonObject::fromVariantMap(getDeviceDetail(name));
 }
 
 QList<DeviceStep> CDeviceBase::snapshotSteps(const QString &)

@@ -153,9 +153,9 @@ public:
     /// Of modifyIP().
     virtual DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                    const QString &newgateway, bool dhcpON);
-    /// Of copyConfigToDevice(). What is copied is what the current session has read when the step is made.
-    /// The text of the outcome names what the device has skipped.
-    virtual DeviceStep copyStep(const QString &ipport);
+    /// Of copyConfigToDevice(). What is copied is what the current session has read now, also by a step that
+    /// is made later. The text of the outcome names what the device has skipped.
+    virtual DeviceStepMaker encodeCopy();
     /// Of snapPictureToFile() with "liveCapture": a step for each channel of the current session, in their
     /// order. Each reports its channel by signalSnapPictureToFile, on the thread that it runs on. Empty
     /// without a session.
@@ -166,6 +166,9 @@ public:
 
     /// Reads a device list for importDevice(). May be called on any thread, which it blocks for the file.
     virtual ImportPlan importPlan(const QString &path);
+
+    /// The row of a device as it is in the list, of either list; empty when there is none.
+    virtual QJsonObject deviceRow(const QString &name);
 
     /// Of refreshDevices(), with one query at the addresses of the rows, before devices are searched by their
     /// MACs. Blocks up to 6 s.

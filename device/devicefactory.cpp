@@ -545,9 +545,15 @@ DeviceStep CDeviceFactory::addressStep(const QString &family, const QString &mac
     return forward(family, &CDeviceBase::addressStep, mac, newip, newsubmask, newgateway, dhcpON);
 }
 
-DeviceStep CDeviceFactory::copyStep(const QString &family, const QString &ipport)
+DeviceStepMaker CDeviceFactory::encodeCopy(const QString &family)
 {
-    return forward(family, &CDeviceBase::copyStep, ipport);
+    const DeviceStepMaker maker = forward(family, &CDeviceBase::encodeCopy);
+    return maker ? maker : DeviceStepMaker([](const QString &) { return DeviceStep(); });
+}
+
+QJsonObject CDeviceFactory::deviceRow(const QString &family, const QString &name)
+{
+    return forward(family, &CDeviceBase::deviceRow, name);
 }
 
 QList<DeviceStep> CDeviceFactory::snapshotSteps(const QString &family, const QString &address)

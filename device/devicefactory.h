@@ -180,7 +180,8 @@ public:
                                                 const QString &account, const QString &password);
     [[nodiscard]] DeviceStep addressStep(const QString &family, const QString &mac, const QString &newip,
                                          const QString &newsubmask, const QString &newgateway, bool dhcpON);
-    [[nodiscard]] DeviceStep copyStep(const QString &family, const QString &ipport);
+    [[nodiscard]] DeviceStepMaker encodeCopy(const QString &family);
+    [[nodiscard]] QJsonObject deviceRow(const QString &family, const QString &name);
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &family, const QString &address);
     [[nodiscard]] DeviceStep locationStep(const QString &family, const QStringList &macs);
     [[nodiscard]] DeviceStep addingStep(const QString &family, const DeviceToAdd &device);

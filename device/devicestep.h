@@ -61,3 +61,6 @@ private:
 
 /// Runs once, and blocks its thread for the waits of the library.
 using DeviceStep = std::function<StepOutcome(const StepControl &control)>;
+
+/// Makes the steps of one work for devices by address and port. Is called on the scene's thread.
+using DeviceStepMaker = std::function<DeviceStep(const QString &ipport)>;

@@ -41,15 +41,6 @@ QVariant valueOf(const QJsonObject &row, QLatin1StringView key)
     return key == DeviceRowKey::upgrade ? QVariant(0) : QVariant(QString());
 }
 
-void takeDetail(QJsonObject &row, const QVariantMap &detail)
-{
-    for (const QLatin1StringView key : rowKeys) {
-        const QVariant value = detail.value(key);
-        if (value.isValid())
-            row.insert(key, QJsonValue::fromVariant(value));
-    }
-}
-
 } // namespace
 
 DeviceTableModel::DeviceTableModel(QObject *parent) : QAbstractListModel(parent) {}
@@ -275,7 +266,9 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
         const int place = rowOf(mac);
         if (place < 0 || !m_deviceFactory)
             continue;
-        takeDetail(m_rows[place].values, m_deviceFactory->getDeviceDetail(family, mac));
+        const QJsonObject values = m_deviceFactory->deviceRow(family, mac);
+        if (!values.isEmpty()) // else it was deleted, which a refresh will show
+            m_rows[place].values = values;
         first = std::min(first, place);
         last = std::max(last, place);
     }

@@ -60,8 +60,8 @@ private:
 
 bool isBeingUpgraded(CDeviceFactory &factory, const QString &family, const BatchDevice &device)
 {
-    const QVariantMap row = factory.getDeviceDetail(family, device.identity);
-    return UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes, UpgradeTools::None).toInt());
+    const QJsonObject row = factory.deviceRow(family, device.identity);
+    return UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None));
 }
 
 } // namespace
@@ -212,14 +212,13 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
 
 Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, const QStringList &ipports)
 {
-    return start(
-        {.family = family,
-         .title = title,
-         .devices = batchDevices(m_factory, family, ipports),
-         .policy = usualPolicy(),
-         .stepOf = [this,
-                    family](const BatchDevice &device) { return m_factory.copyStep(family, device.ipport); },
-         .isByAddress = true});
+    return start({.family = family,
+                  .title = title,
+                  .devices = batchDevices(m_factory, family, ipports),
+                  .policy = usualPolicy(),
+                  .stepOf = [copyTo = m_factory.encodeCopy(family)](
+                                const BatchDevice &device) { return copyTo(device.ipport); },
+                  .isByAddress = true});
 }
 
 Batch *Batches::takeSnapshots(const QString &family, const QString &title, const QString &ipport,

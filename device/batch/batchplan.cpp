@@ -9,14 +9,14 @@
 BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name)
 {
     // Rows are found by MAC or by address; a MAC has more than one colon, or none.
-    QVariantMap row = factory.getDeviceDetail(family, name);
+    QJsonObject row = factory.deviceRow(family, name);
     if (row.isEmpty())
-        row = factory.getDeviceInfo(family, name);
-    const QString ipport = row.value(DeviceRowKey::ipport, name).toString();
+        row = QJsonObject::fromVariantMap(factory.getDeviceInfo(family, name));
+    const QString ipport = row.value(DeviceRowKey::ipport).toString(name);
     QStringList words = {row.value(DeviceRowKey::name).toString(), row.value(DeviceRowKey::model).toString()};
     words.removeAll(QString());
     return {.name = name,
-            .identity = row.isEmpty() ? name : rowName(QJsonObject::fromVariantMap(row)),
+            .identity = row.isEmpty() ? name : rowName(row),
             .ipport = ipport,
             .title = words.join(QStringLiteral(" · "))};
 }

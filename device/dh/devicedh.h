@@ -143,7 +143,8 @@ public:
     /// The settings of the current channel go to the channel of the same number of each device. What a device
     /// cannot do is skipped, and named in its row's "result".
     void copyConfigToDevice(const QStringList &devlist) override;
-    DeviceStep copyStep(const QString &ipport) override;
+    DeviceStepMaker encodeCopy() override;
+    QJsonObject deviceRow(const QString &name) override;
     QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep locationStep(const QStringList &macs) override;
 

@@ -96,27 +96,31 @@ void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
 {
     // All of them are made before the first one runs: the page may change its channel while a signal is being
     // looked at.
+    const DeviceStepMaker copyTo = encodeCopy();
     QList<DeviceStep> steps;
     for (const QString &ipport : devlist)
-        steps.append(copyStep(ipport));
+        steps.append(copyTo(ipport));
     for (qsizetype place = 0; place < steps.size(); ++place)
         Q_EMIT signalCDeviceRetToCopyConfig(devlist.at(place), steps.at(place)(StepControl()).result);
 }
 
-DeviceStep CDeviceDH::copyStep(const QString &ipport)
+DeviceStepMaker CDeviceDH::encodeCopy()
 {
+    // All steps share what is copied, which is large.
     const auto state = std::make_shared<const std::optional<EncodeState>>(m_encode->state());
-    return [this, ipport, state, channels = m_channels,
-            credentials = credentialsOf(ipport)](const StepControl &control) {
-        EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
-        if (isUpgradingAt(ipport))
-            outcome.result = resultCode(LoginResult::Upgrading);
-        else if (*state && (*state)->unreadItems().size() < qsizetype{2} * itemsOfStream)
-            outcome = copyTo(ipport, credentials, **state, channels, control);
-        const QString skipped =
-            outcome.skipped.isEmpty() ? QString() : tr("未复制：%1").arg(outcome.skipped.join(tr("、")));
-        store().changeRowAt(ipport, [&](QJsonObject &row) { row.insert(DeviceRowKey::result, skipped); });
-        return StepOutcome{.result = outcome.result, .text = skipped};
+    return [this, state, channels = m_channels](const QString &ipport) -> DeviceStep {
+        return [this, ipport, state, channels,
+                credentials = credentialsOf(ipport)](const StepControl &control) {
+            EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
+            if (isUpgradingAt(ipport))
+                outcome.result = resultCode(LoginResult::Upgrading);
+            else if (*state && (*state)->unreadItems().size() < qsizetype{2} * itemsOfStream)
+                outcome = copyTo(ipport, credentials, **state, channels, control);
+            const QString skipped =
+                outcome.skipped.isEmpty() ? QString() : tr("未复制：%1").arg(outcome.skipped.join(tr("、")));
+            store().changeRowAt(ipport, [&](QJsonObject &row) { row.insert(DeviceRowKey::result, skipped); });
+            return StepOutcome{.result = outcome.result, .text = skipped};
+        };
     };
 }
 

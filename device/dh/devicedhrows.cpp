@@ -65,6 +65,11 @@ QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
     return detail;
 }
 
+QJsonObject CDeviceDH::deviceRow(const QString &name)
+{
+    return store().rowNamed(name);
+}
+
 QVariantMap CDeviceDH::getDeviceDetailByAddress(const QString &ipport)
 {
     return getDeviceDetail(rowName(store().rowAt(ipport)));
