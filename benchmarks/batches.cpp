@@ -74,7 +74,10 @@ QList<Figure> measureBatches()
     QElapsedTimer time;
     time.start();
     Batch *batch = batches.configureSystem(family, command, command, data, ipports);
-    QObject::connect(batch, &Batch::resulted, &tree, &OVTreeModel::setResults);
+    QObject::connect(batch, &Batch::resulted, &tree,
+                     [&tree](const QStringList &devices, const QList<int> &results) {
+                         tree.takeResults(devices, results, {});
+                     });
     QObject::connect(batch, &Batch::finished, &loop, &QEventLoop::quit);
     QElapsedTimer sinceTurn;
     qint64 longestTurn = 0;

@@ -3,14 +3,19 @@
 #include "app/localconfig.h"
 #include "app/shell.h"
 #include "cgi/cgibatches.h"
+#include "cgi/cgiconfigmanage.h"
+#include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
 #include "device/devicefactory.h"
+#include "sheets/qexcel.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickWindow>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -58,6 +63,7 @@ public:
     [[nodiscard]] static CDeviceFactory &factory() { return *CDeviceFactory::getinstance(); }
     [[nodiscard]] Batches &batches() const { return *published<Batches>("BatchesApi"); }
     [[nodiscard]] CgiBatches &commands() const { return *published<CgiBatches>("CgiBatchesApi"); }
+    [[nodiscard]] AddingBatches &adding() const { return *published<AddingBatches>("AddingBatchesApi"); }
     [[nodiscard]] const QStringList &initialised() const { return m_initialised; } ///< MACs
     [[nodiscard]] const QStringList &factoryNew() const { return m_factoryNew; }   ///< MACs
     [[nodiscard]] const QStringList &ipports() const { return m_ipports; } ///< of the initialised ones
@@ -122,6 +128,63 @@ private:
     qint64 m_longest = 0; ///< between two frames, nanoseconds
 };
 
+/// A list of the devices, as the user exports it.
+QString writeList(const QString &path, const QStringList &ipports)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write("添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,密码,设备名称\n");
+    for (const QString &ipport : ipports)
+        file.write(u"0,%1,%2,%3,%4,Name\n"_s
+                       .arg(ipport.section(u':', 0, 0), ipport.section(u':', 1), account, password)
+                       .toUtf8());
+    return path;
+}
+
+/// A workbook with a command for each device.
+QString writeWorkbook(const QString &path, const QStringList &ipports)
+{
+    QExcel workbook;
+    if (!workbook.open(CGIConfigManage::getinstance()->templateFile()))
+        return {};
+    int row = 2;
+    for (const QString &ipport : ipports) {
+        const QStringList cells = {ipport.section(u':', 0, 0),
+                                   ipport.section(u':', 1),
+                                   account,
+                                   password,
+                                   u"/cgi-bin/device?get=name"_s,
+                                   u"0"_s};
+        for (int column = 0; column < cells.size(); ++column)
+            workbook.setCellText(row, column + 1, cells.at(column));
+        ++row;
+    }
+    return workbook.saveAs(path) ? path : QString();
+}
+
+/// All rows are deleted, so that devices can be added again.
+void deleteRows(const PaintedProgram &program)
+{
+    QVariantMap rows;
+    for (const QString &mac : program.initialised())
+        rows.insert(mac, true);
+    PaintedProgram::factory().setBatchDeleteDevice(family, rows, u"IPV4"_s);
+}
+
+QVariantList devicesToAdd(const QStringList &ipports)
+{
+    QVariantList devices;
+    for (const QString &ipport : ipports)
+        devices.append(QVariantMap{{u"identity"_s, ipport},
+                                   {u"mode"_s, 0},
+                                   {u"address"_s, ipport.section(u':', 0, 0)},
+                                   {u"port"_s, ipport.section(u':', 1).toInt()},
+                                   {u"account"_s, account},
+                                   {u"password"_s, password}});
+    return devices;
+}
+
 } // namespace
 
 QList<Figure> measureBatchFrames()
@@ -151,7 +214,22 @@ QList<Figure> measureBatchFrames()
         return program.commands().send(u"Command"_s, program.initialised(),
                                        u"/cgi-bin/magicBox.cgi?action=getDeviceType"_s);
     });
+    const QTemporaryDir folder;
+    measure(u"workbook of commands"_s, commandPage, [&] {
+        CgiWorkbooks &workbooks = *program.commands().workbooks();
+        QSignalSpy wasRead(&workbooks, &CgiWorkbooks::wasRead);
+        workbooks.read(writeWorkbook(folder.filePath(u"commands.xlsx"_s), program.ipports()));
+        wasRead.wait(longestBatch);
+        QStringList lines;
+        for (const QVariant &line : wasRead.value(0).value(0).toList())
+            lines.append(line.toMap().value(u"name"_s).toString());
+        return workbooks.run(u"Workbook"_s, lines);
+    });
     program.openSession();
+    measure(u"snapshots"_s, commandPage, [&] {
+        return program.batches().takeSnapshots(family, u"Snapshots"_s, program.ipports().constFirst(), {},
+                                               folder.path());
+    });
     measure(u"copy of encode settings"_s, configurationPage,
             [&] { return program.batches().copyEncodeSettings(family, u"Copy"_s, program.ipports()); });
     measure(u"first passwords"_s, addressPage, [&] {
@@ -161,6 +239,21 @@ QList<Figure> measureBatchFrames()
     measure(u"addresses"_s, addressPage, [&] {
         return program.batches().changeAddresses(family, u"Addresses"_s, program.initialised(), addresses,
                                                  u"255.255.0.0"_s, u"10.1.0.254"_s, false);
+    });
+    measure(u"addresses put back"_s, addressPage, [&] {
+        return program.batches().putAddressesBack(program.batches().current(), u"Back"_s,
+                                                  program.initialised());
+    });
+    deleteRows(program);
+    measure(u"favourites"_s, addressPage,
+            [&] { return program.adding().addDevices(u"Favourites"_s, devicesToAdd(program.ipports())); });
+    deleteRows(program);
+    measure(u"import of a list"_s, addressPage, [&] {
+        QSignalSpy began(&program.adding(), &AddingBatches::importBegan);
+        program.adding().importList(u"Import"_s,
+                                    writeList(folder.filePath(u"list.csv"_s), program.ipports()));
+        began.wait(longestBatch);
+        return program.batches().current();
     });
     return figures;
 }

@@ -83,17 +83,17 @@ QString CgiProcedure::run(const QString &url, const QString &user, const QString
     const QString refusal = loginRefusal(m_surroundings.checkLogin(ipport, user, password));
     if (!refusal.isEmpty())
         return failedResult + refusal;
-    return send(url, user, password);
+    return exchange(url, user, password).text;
 }
 
-QString CgiProcedure::send(const QString &url, const QString &user, const QString &password) const
+CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const QString &password) const
 {
     const CgiRequest request(url, user, password);
     if (!request.refusal().isEmpty())
-        return failedResult + request.refusal();
+        return {.text = failedResult + request.refusal()};
     const std::unique_ptr<HttpConversation> conversation = m_surroundings.transport->open(request);
     if (!conversation)
-        return failedResult + tr("未知错误。");
+        return {.text = failedResult + tr("未知错误。")};
 
     HttpOutcome first = perform(*conversation, m_limits.first, {});
     if (first.status == credentialsWanted && !first.isStopped) {
@@ -106,10 +106,11 @@ QString CgiProcedure::send(const QString &url, const QString &user, const QStrin
         noteResult(taken.text);
     }
     if (!taken.failure.isEmpty())
-        return failedResult + taken.failure;
+        return {.text = failedResult + taken.failure,
+                .isUnanswered = first.status == 0 && !first.isStopped && !first.hasTooLongHeaders};
     if (first.status != accepted)
-        return failedResult + tr("服务器连接失败");
-    return taken.text;
+        return {.text = failedResult + tr("服务器连接失败")};
+    return {.text = taken.text};
 }
 
 HttpOutcome CgiProcedure::perform(HttpConversation &conversation, const HttpLimits &limits,

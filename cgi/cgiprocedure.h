@@ -38,6 +38,13 @@ struct CgiLimits
 /// Begins the result of a command that failed.
 inline const QString failedResult = QStringLiteral("Error:");
 
+/// What has come of a command.
+struct CgiAnswer
+{
+    QString text;              ///< see CgiProcedure::run()
+    bool isUnanswered = false; ///< the device has not answered the first request: another try may succeed
+};
+
 /// The login is checked first, so that a wrong password is told in the device's own terms. Then the command
 /// is sent to see what the answer will be, and, when it is accepted, once more to take the answer in the
 /// right way: a command that changes something reaches the device twice.
@@ -54,7 +61,7 @@ public:
                               const QString &ipport) const;
 
     /// The same for a device that has let the account in.
-    [[nodiscard]] QString send(const QString &url, const QString &user, const QString &password) const;
+    [[nodiscard]] CgiAnswer exchange(const QString &url, const QString &user, const QString &password) const;
 
     /// Why a login with this result forbids the command, in the user's language; empty when it does not.
     [[nodiscard]] static QString loginRefusal(int loginResult);

@@ -1,5 +1,6 @@
 #include "cgi/cgistep.h"
 
+#include "cgi/cgibatches.h"
 #include "cgi/internal/longanswers.h"
 
 DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command, const AnswerSink &sink)
@@ -15,12 +16,14 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
         watched.watch = [&control] {
             return !control.shouldEnd();
         };
-        const QString answer = CgiProcedure(watched, {}).send(command.url, command.user, command.password);
+        const CgiAnswer answer =
+            CgiProcedure(watched, {}).exchange(command.url, command.user, command.password);
         if (sink)
-            sink(answer);
-        const QString beginning = answer.left(LongAnswers::longestBeginning);
-        if (answer.startsWith(failedResult))
-            return StepOutcome{.result = commandFailed, .text = beginning};
+            sink(answer.text);
+        const QString beginning = answer.text.left(LongAnswers::longestBeginning);
+        if (answer.text.startsWith(failedResult))
+            return StepOutcome{
+                .result = commandFailed, .text = beginning, .isUnanswered = answer.isUnanswered};
         return StepOutcome{.result = resultCode(LoginResult::Success), .text = {}, .answer = beginning};
     };
 }
@@ -30,4 +33,25 @@ DeviceStep refusedCgiStep(const QString &reason)
     return [reason](const StepControl &) {
         return StepOutcome{.result = commandFailed, .text = failedResult + reason};
     };
+}
+
+BatchPolicy commandPolicy(const Batches &batches)
+{
+    BatchPolicy policy = batches.usualPolicy();
+    policy.deadline = {};
+    return policy;
+}
+
+bool isNotDone(const StepOutcome &outcome)
+{
+    return outcome.result == resultCode(LoginResult::NotDone);
+}
+
+QString cgiResultText(const StepOutcome &outcome)
+{
+    if (isNotDone(outcome))
+        return CgiBatches::tr("未执行");
+    if (outcome.result == resultCode(LoginResult::Success))
+        return outcome.answer;
+    return outcome.text.isEmpty() ? failedResult + resultName(outcome.result) : outcome.text;
 }

@@ -18,6 +18,7 @@ struct StepOutcome
     int result = resultCode(LoginResult::Success); ///< a LoginResult, or another code of the operation
     QString text;                                  ///< in the user's language; empty when the code says all
     QString answer = {}; ///< what the device has sent, for the one who began the work; no batch keeps it
+    bool isUnanswered = false; ///< the device was reached and has not answered: another try may succeed
 
     bool operator==(const StepOutcome &) const = default;
 };

@@ -386,6 +386,30 @@ QVariantList DeviceTableModel::checkedRows() const
     return rows;
 }
 
+QVariantList DeviceTableModel::checkedRowsWith(bool initialised) const
+{
+    QVariantList rows = checkedRows();
+    rows.removeIf([initialised](const QVariant &row) {
+        return row.toMap().value(DeviceRowKey::state).toBool() != initialised;
+    });
+    return rows;
+}
+
+int DeviceTableModel::deleteChecked()
+{
+    const QStringList names = checkedMacs();
+    if (!m_deviceFactory)
+        return 0;
+    QVariantMap deleted;
+    for (const QString &name : names)
+        deleted.insert(name, true);
+    m_deviceFactory->setBatchDeleteDevice(family, deleted,
+                                          m_ipv6 ? QStringLiteral("IPV6") : QStringLiteral("IPV4"));
+    refresh();
+    return static_cast<int>(std::count_if(names.cbegin(), names.cend(),
+                                          [this](const QString &name) { return rowOf(name) >= 0; }));
+}
+
 QString DeviceTableModel::textOf(const QList<int> &rows) const
 {
     constexpr std::array copiedKeys = {DeviceRowKey::name,   DeviceRowKey::type, DeviceRowKey::model,

@@ -112,6 +112,13 @@ public:
     /// The checked rows as get() returns them, in the order shown.
     Q_INVOKABLE [[nodiscard]] QVariantList checkedRows() const;
 
+    /// The checked rows whose devices have a password, or those that have none yet.
+    Q_INVOKABLE [[nodiscard]] QVariantList checkedRowsWith(bool initialised) const;
+
+    /// Deletes the devices of the checked rows from the list. Returns how many are still there: they are
+    /// being upgraded.
+    Q_INVOKABLE int deleteChecked();
+
     /// The texts of the given rows as lines with tab-separated columns, for the clipboard.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;
 

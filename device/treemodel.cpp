@@ -4,6 +4,7 @@
 #include "device/deviceorder.h"
 #include "device/devicerow.h"
 #include "device/failedmarks.h"
+#include "device/loginresult.h"
 #include "device/upgradetools.h"
 
 #include <QJsonObject>
@@ -187,10 +188,22 @@ void OVTreeModel::setResult(const QString &ipport, int result)
         writeResult(index(place->second, 0, index(place->first, 0)), result);
 }
 
-void OVTreeModel::setResults(const QStringList &ipports, const QList<int> &results)
+void OVTreeModel::setResultOfAll(const QStringList &ipports, int result)
 {
-    for (qsizetype place = 0; place < std::min(ipports.size(), results.size()); ++place)
-        setResult(ipports.at(place), results.at(place));
+    for (const QString &ipport : ipports)
+        setResult(ipport, result);
+}
+
+void OVTreeModel::takeResults(const QStringList &ipports, const QList<int> &results, const QStringList &texts)
+{
+    for (qsizetype place = 0; place < std::min(ipports.size(), results.size()); ++place) {
+        int result = results.at(place);
+        if (result == resultCode(LoginResult::Unknown))
+            result = WaitsForPassword;
+        else if (result == resultCode(LoginResult::Success) && !texts.value(place).isEmpty())
+            result = PartlyDone;
+        setResult(ipports.at(place), result);
+    }
 }
 
 void OVTreeModel::clearResults()
@@ -308,19 +321,12 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     rememberDevices();
 
     QHash<QString, qsizetype> places;
-    QHash<QString, int> withoutMac; // rows by address
     QList<Group> groups;
     for (const QVariant &row : rows) {
         const QJsonObject values = row.toJsonObject();
         if (rowAddress(values).isEmpty()) // waits for an address by DHCP: no login reaches it
             continue;
-        QString identity = values.value(DeviceRowKey::mac).toString();
-        if (identity.isEmpty()) {
-            identity = values.value(DeviceRowKey::ipport).toString();
-            const int before = withoutMac[identity]++;
-            if (before > 0)
-                identity += QLatin1Char('#') + QString::number(before);
-        }
+        const QString identity = rowName(values);
         const QString name = groupNameOf(values, identity);
         if (name.isEmpty())
             continue;

@@ -15,9 +15,8 @@ class FailedMarks;
 /// "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
 /// order with "PC-NVR" and then "Other" at the end, since they are no device hardware; devices in the order
 /// of the list. The tick of a group covers its devices and is partial when some of them are ticked. Ticks and
-/// results outlive a rebuild. They belong to the device, which its MAC identifies (its "ipport" if it reports
-/// none): a device that gets another address keeps its tick, and one that gets that address does not inherit
-/// it.
+/// results outlive a rebuild. They belong to the name of the row (see rowName()): a device that gets another
+/// address keeps its tick, and one that gets that address does not inherit it.
 ///
 /// While only the devices that batches failed with are shown, the groups are the reasons, in alphabetical
 /// order, and the devices of each stand in the order of their addresses.
@@ -96,8 +95,13 @@ public:
     /// when the tree has none.
     Q_INVOKABLE void setResult(const QString &ipport, int result);
 
-    /// The same for many devices, each with the result at its place.
-    Q_INVOKABLE void setResults(const QStringList &ipports, const QList<int> &results);
+    /// The same for many devices, and one result for all of them.
+    Q_INVOKABLE void setResultOfAll(const QStringList &ipports, int result);
+
+    /// Writes what a batch has done with many devices, each with the result and the text at its place: -1 is
+    /// shown as WaitsForPassword, and a success with a text as PartlyDone.
+    Q_INVOKABLE void takeResults(const QStringList &ipports, const QList<int> &results,
+                                 const QStringList &texts);
 
     /// Takes every result back, also of devices that a search text hides.
     Q_INVOKABLE void clearResults();

@@ -1,5 +1,7 @@
 #include "favourites/favouritelistmodel.h"
 
+#include "favourites/author.h"
+
 #include <algorithm>
 #include <array>
 #include <tuple>
@@ -240,6 +242,20 @@ QVariantMap FavouriteListModel::device(const QString &identity) const
         {"mode", favourite.p2p ? 1 : 0}, {"address", favourite.address}, {"port", favourite.port},
         {"account", favourite.account},  {"cipher", favourite.cipher},   {"note", favourite.note},
     };
+}
+
+QVariantList FavouriteListModel::devicesToAdd(const QStringList &identities) const
+{
+    const CAuthor author;
+    QVariantList devices;
+    for (const QString &identity : identities) {
+        QVariantMap favourite = device(identity);
+        favourite.insert(QStringLiteral("identity"), identity);
+        favourite.insert(QStringLiteral("password"),
+                         author.AesDecrypt(favourite.take(QStringLiteral("cipher")).toString()));
+        devices.append(favourite);
+    }
+    return devices;
 }
 
 int FavouriteListModel::rowOf(const QString &identity) const

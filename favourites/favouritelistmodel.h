@@ -68,6 +68,10 @@ public:
     /// "account", "cipher" (its enciphered password) and "note". Empty when there is none.
     Q_INVOKABLE [[nodiscard]] QVariantMap device(const QString &identity) const;
 
+    /// Favourites to be added, as AddingBatches::addDevices() takes them: with "identity" and the deciphered
+    /// "password" in place of "cipher".
+    Q_INVOKABLE [[nodiscard]] QVariantList devicesToAdd(const QStringList &identities) const;
+
     /// Position of the row with this identity, -1 when it is not shown.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 

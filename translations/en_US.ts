@@ -550,6 +550,10 @@
         <source>没有该设备的搜索应答，或应答中没有MAC地址</source>
         <translation>No search answer of this device, or none with its MAC</translation>
     </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>The device did not respond</translation>
+    </message>
 </context>
 <context>
     <name>CGIConfigManage</name>
@@ -673,14 +677,6 @@
     <message>
         <source>未执行</source>
         <translation>Not sent</translation>
-    </message>
-    <message>
-        <source>正在执行另一个文件中的CGI命令。</source>
-        <translation>The CGI commands of another file are running.</translation>
-    </message>
-    <message>
-        <source>第%1行 %2</source>
-        <translation>Row %1: %2</translation>
     </message>
 </context>
 <context>
@@ -856,6 +852,37 @@ A right click copies the result</translation>
     <message>
         <source>打开模板文件失败。</source>
         <translation>The template cannot be opened.</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>Go</translation>
+    </message>
+</context>
+<context>
+    <name>CgiWorkbooks</name>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>The CGI commands of another file are being executed.</translation>
+    </message>
+    <message>
+        <source>读取表格文件</source>
+        <translation>reading the workbook</translation>
+    </message>
+    <message>
+        <source>第%1行</source>
+        <translation>Line %1</translation>
+    </message>
+    <message>
+        <source>文件已被修改，请重新打开。</source>
+        <translation>The file was changed. Open it again.</translation>
+    </message>
+    <message>
+        <source>保存表格文件</source>
+        <translation>saving the workbook</translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>Line %1 %2</translation>
     </message>
 </context>
 <context>
@@ -3394,6 +3421,14 @@ File path: </translation>
     <message>
         <source>未成功的设备</source>
         <translation>Devices that were not done</translation>
+    </message>
+    <message>
+        <source>将向下列设备发送命令：</source>
+        <translation>The command is sent to these devices:</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>Go</translation>
     </message>
 </context>
 <context>

@@ -538,6 +538,10 @@
         <source>没有该设备的搜索应答，或应答中没有MAC地址</source>
         <translation>没有该设备的搜索应答，或应答中没有MAC地址</translation>
     </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>设备没有应答</translation>
+    </message>
 </context>
 <context>
     <name>CGIConfigManage</name>
@@ -661,14 +665,6 @@
     <message>
         <source>未执行</source>
         <translation>未执行</translation>
-    </message>
-    <message>
-        <source>正在执行另一个文件中的CGI命令。</source>
-        <translation>正在执行另一个文件中的CGI命令。</translation>
-    </message>
-    <message>
-        <source>第%1行 %2</source>
-        <translation>第%1行 %2</translation>
     </message>
 </context>
 <context>
@@ -843,6 +839,37 @@
     <message>
         <source>打开模板文件失败。</source>
         <translation>打开模板文件失败。</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>执行</translation>
+    </message>
+</context>
+<context>
+    <name>CgiWorkbooks</name>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>正在执行另一个文件中的CGI命令。</translation>
+    </message>
+    <message>
+        <source>读取表格文件</source>
+        <translation>读取表格文件</translation>
+    </message>
+    <message>
+        <source>第%1行</source>
+        <translation>第%1行</translation>
+    </message>
+    <message>
+        <source>文件已被修改，请重新打开。</source>
+        <translation>文件已被修改，请重新打开。</translation>
+    </message>
+    <message>
+        <source>保存表格文件</source>
+        <translation>保存表格文件</translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>第%1行 %2</translation>
     </message>
 </context>
 <context>
@@ -3357,6 +3384,14 @@
     <message>
         <source>未成功的设备</source>
         <translation>未成功的设备</translation>
+    </message>
+    <message>
+        <source>将向下列设备发送命令：</source>
+        <translation>将向下列设备发送命令：</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>执行</translation>
     </message>
 </context>
 <context>

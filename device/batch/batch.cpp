@@ -205,7 +205,7 @@ QStringList Batch::retryableDevices() const
 {
     QStringList names;
     for (const Entry &entry : m_entries) {
-        if (entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome.result) &&
+        if (entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome) &&
             m_plan.stepOf && m_plan.canBeRetried)
             names.append(entry.device.name);
     }
@@ -218,6 +218,22 @@ QString Batch::textOf(const QString &device) const
     if (place != m_places.cend())
         return m_entries.at(*place).outcome.text;
     return m_retryOf ? m_retryOf->textOf(device) : QString();
+}
+
+QStringList Batch::textsOf(const QStringList &devices) const
+{
+    QStringList texts;
+    texts.reserve(devices.size());
+    for (const QString &device : devices)
+        texts.append(textOf(device));
+    return texts;
+}
+
+int Batch::partlyDone() const
+{
+    return static_cast<int>(std::count_if(m_entries.cbegin(), m_entries.cend(), [](const Entry &entry) {
+        return entry.outcome.result == BatchReport::Succeeded && !entry.outcome.text.isEmpty();
+    }));
 }
 
 void Batch::takeNews()

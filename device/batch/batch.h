@@ -95,6 +95,10 @@ public:
     /// What a device's outcome says beside its code, here or else in the batch that this one retries; empty
     /// when there is nothing.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
+    Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
+
+    /// Devices that succeeded but whose outcome says something: they could not take everything.
+    Q_INVOKABLE [[nodiscard]] int partlyDone() const;
 
 Q_SIGNALS:
     void changed();

@@ -7,6 +7,7 @@
 #include "device/logging.h"
 #include "device/upgradetools.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -131,7 +132,28 @@ Batch *Batches::changeAddresses(const QString &family, const QString &title, con
     return startAddresses(std::move(plan), targets);
 }
 
-Batch *Batches::putAddressesBack(Batch *batch, const QString &title)
+QVariantList Batches::addressesToPutBack(Batch *batch) const
+{
+    QVariantList entries;
+    if (!batch)
+        return entries;
+    for (const Batch::Entry &entry : batch->entries()) {
+        const bool mayBeChanged = entry.outcome.result == BatchReport::Succeeded ||
+                                  entry.outcome.result == resultCode(LoginResult::NetworkFailure);
+        if (!mayBeChanged)
+            continue;
+        const QString &identity = entry.device.identity;
+        const AddressSettings before = batch->plan().addressesBefore.value(identity);
+        const BatchDevice now = batchDevice(m_factory, batch->plan().family, identity);
+        entries.append(
+            QVariantMap{{QStringLiteral("name"), identity},
+                        {QStringLiteral("ipport"), now.ipport},
+                        {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address}});
+    }
+    return entries;
+}
+
+Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStringList &identities)
 {
     if (!batch || batch->isRunning() || !mayChangeAddresses())
         return nullptr;
@@ -139,12 +161,31 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title)
     plan.family = batch->plan().family;
     plan.title = title;
     for (const Batch::Entry &entry : batch->entries()) {
-        if (entry.outcome.result == BatchReport::Succeeded)
+        if (identities.contains(entry.device.identity))
             plan.devices.append(batchDevice(m_factory, plan.family, entry.device.name));
     }
     return plan.devices.isEmpty()
                ? nullptr
                : startAddresses(std::move(plan), batch->plan().addressesBefore, Locating::Before);
+}
+
+std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &identity) const
+{
+    const int result = m_factory.deviceRow(QStringLiteral("dh"), identity).value(DeviceRowKey::res).toInt(-1);
+    for (auto batch = m_kept.crbegin(); batch != m_kept.crend(); ++batch) {
+        const auto before = (*batch)->plan().addressesBefore.constFind(identity);
+        if (before == (*batch)->plan().addressesBefore.cend())
+            continue;
+        const QList<Batch::Entry> &entries = (*batch)->entries();
+        const auto entry = std::find_if(entries.cbegin(), entries.cend(), [&](const Batch::Entry &candidate) {
+            return candidate.device.identity == identity;
+        });
+        const bool hasFailed = entry != entries.cend() && entry->time.isValid() &&
+                               entry->outcome.result != BatchReport::Succeeded &&
+                               entry->outcome.result == result; // else the device was found again meanwhile
+        return hasFailed ? std::optional(*before) : std::nullopt;
+    }
+    return std::nullopt;
 }
 
 Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
@@ -153,10 +194,11 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     QList<AddressChange> changes;
     for (const BatchDevice &device : std::as_const(plan.devices)) {
         const QVariantMap detail = m_factory.getDeviceDetail(plan.family, device.name);
-        const AddressSettings before = {.address = device.ipport.section(QLatin1Char(':'), 0, 0),
-                                        .mask = detail.value(QStringLiteral("submask")).toString(),
-                                        .gateway = detail.value(QStringLiteral("gateway")).toString(),
-                                        .dhcp = detail.value(QStringLiteral("dhcp")).toBool()};
+        const AddressSettings shown = {.address = device.ipport.section(QLatin1Char(':'), 0, 0),
+                                       .mask = detail.value(QStringLiteral("submask")).toString(),
+                                       .gateway = detail.value(QStringLiteral("gateway")).toString(),
+                                       .dhcp = detail.value(QStringLiteral("dhcp")).toBool()};
+        const AddressSettings before = settingsBeforeFailure(device.identity).value_or(shown);
         plan.addressesBefore.insert(device.identity, before);
         changes.append({.oldAddress = before.address, .newAddress = targets.value(device.identity).address});
     }
@@ -184,8 +226,10 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
                 return StepOutcome{.result = BatchReport::NotDone,
                                    .text = tr("地址 %1 仍由设备 %2 使用").arg(target.address, holder)};
             StepOutcome outcome = step(control);
-            if (outcome.result == BatchReport::Succeeded)
+            if (outcome.result == BatchReport::Succeeded) {
                 occupied->leave(device.identity);
+                outcome.text = target.dhcp ? QStringLiteral("DHCP") : target.address; // for the record
+            }
             return outcome;
         };
     };

@@ -5,6 +5,8 @@
 
 #include <QVariantMap>
 
+#include <optional>
+
 class CDeviceFactory;
 
 /// The batches of the session, and the place where the scene starts one. One batch runs at a time; another
@@ -52,9 +54,14 @@ public:
                                        const QStringList &addresses, const QString &mask,
                                        const QString &gateway, bool dhcp);
 
-    /// The settings that the changed devices of an ended changeAddresses() had before. Devices that do not
-    /// respond at the addresses of their rows are searched by their MACs first.
-    Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title);
+    /// What putAddressesBack() gives to which device, as BatchPreview::setEntries() takes it: the settings
+    /// that the changed devices of an ended changeAddresses() had before. A device that has not answered is
+    /// one of them: it may have changed its address nevertheless.
+    Q_INVOKABLE [[nodiscard]] QVariantList addressesToPutBack(Batch *batch) const;
+
+    /// Puts the addresses of these devices of the batch back, by identity. Devices that do not respond at the
+    /// addresses of their rows are searched by their MACs first.
+    Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title, const QStringList &identities);
 
     /// The encode settings of the current session's channel, for devices by address and port.
     Q_INVOKABLE Batch *copyEncodeSettings(const QString &family, const QString &title,
@@ -101,6 +108,9 @@ private:
     /// `targets` hold what each device gets, by identity.
     Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
                           Locating locating = Locating::None);
+    /// What a device had before the last change of its address, if that failed: its row shows since then what
+    /// it was asked for.
+    [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;
     void finish(Batch *batch, int work);
     void markFailed(const Batch &batch);
     /// Whether addresses may be changed now; otherwise refused() says why not.

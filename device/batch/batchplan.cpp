@@ -49,15 +49,15 @@ QString outcomeText(const StepOutcome &outcome)
                : QCoreApplication::translate("BatchResult", "%1：%2").arg(result, outcome.text);
 }
 
-bool maySucceedLater(int result)
+bool maySucceedLater(const StepOutcome &outcome)
 {
-    switch (static_cast<LoginResult>(result)) {
+    switch (static_cast<LoginResult>(outcome.result)) {
     case LoginResult::AccountLoggedIn:
     case LoginResult::NetworkFailure:
     case LoginResult::Upgrading:
     case LoginResult::NotDone:
         return true;
     default:
-        return false;
+        return outcome.isUnanswered;
     }
 }

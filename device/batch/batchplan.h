@@ -87,4 +87,4 @@ struct BatchPlan
 [[nodiscard]] QString outcomeText(const StepOutcome &outcome);
 
 /// Whether another try with the same data may succeed.
-[[nodiscard]] bool maySucceedLater(int result);
+[[nodiscard]] bool maySucceedLater(const StepOutcome &outcome);

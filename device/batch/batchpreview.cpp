@@ -10,12 +10,28 @@ namespace {
 
 const QString family = QStringLiteral("dh");
 
+// Of an entry that brings them.
+const QString actionKey = QStringLiteral("action");
+const QString hindranceKey = QStringLiteral("hindrance");
+
 QString titleOf(const QVariantMap &device)
 {
     QStringList words = {device.value(DeviceRowKey::name).toString(),
                          device.value(DeviceRowKey::model).toString()};
     words.removeAll(QString());
     return words.join(QStringLiteral(" · "));
+}
+
+/// What a preview keeps of a device.
+QVariantMap shownOf(const QVariantMap &device, const QString &identity)
+{
+    QVariantMap shown = {{QStringLiteral("identity"), identity}, {QStringLiteral("title"), titleOf(device)}};
+    for (const QLatin1StringView key :
+         {DeviceRowKey::mac, DeviceRowKey::ipport, DeviceRowKey::state, DeviceRowKey::upgraderes}) {
+        if (device.contains(key))
+            shown.insert(key, device.value(key));
+    }
+    return shown;
 }
 
 } // namespace
@@ -48,31 +64,14 @@ void BatchPreview::setDevices(const QVariantList &rows)
     QVariantList devices;
     for (const QVariant &value : rows) {
         const QVariantMap device = value.toMap();
-        QVariantMap shown = {{QStringLiteral("identity"), identityOf(device)},
-                             {QStringLiteral("title"), titleOf(device)}};
-        for (const QLatin1StringView key :
-             {DeviceRowKey::mac, DeviceRowKey::ipport, DeviceRowKey::state, DeviceRowKey::upgraderes}) {
-            if (device.contains(key))
-                shown.insert(key, device.value(key));
-        }
-        devices.append(shown);
+        devices.append(shownOf(device, identityOf(device)));
     }
     setRows(devices);
 }
 
 void BatchPreview::setAddresses(const QStringList &ipports)
 {
-    QHash<QString, QVariantMap> listed; // the first one of each address, as operations find it
-    const QVariantList all = listedRows();
-    for (const QVariant &value : all) {
-        const QJsonObject row = value.toJsonObject();
-        const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        if (listed.contains(ipport))
-            continue;
-        QVariantMap device = row.toVariantMap();
-        device.insert(QStringLiteral("identity"), rowName(row));
-        listed.insert(ipport, device);
-    }
+    const QHash<QString, QVariantMap> listed = devicesByName();
     QVariantList rows;
     for (const QString &ipport : ipports) {
         QVariantMap device = listed.value(ipport);
@@ -80,6 +79,46 @@ void BatchPreview::setAddresses(const QStringList &ipports)
         rows.append(device);
     }
     setDevices(rows);
+}
+
+void BatchPreview::setEntries(const QVariantList &entries)
+{
+    readList();
+    const QHash<QString, QVariantMap> listed = devicesByName();
+    QVariantList rows;
+    rows.reserve(entries.size());
+    for (const QVariant &value : entries) {
+        const QVariantMap entry = value.toMap();
+        const QString name = entry.value(QStringLiteral("name")).toString();
+        const QVariant ipport = entry.value(DeviceRowKey::ipport);
+        QVariantMap row = shownOf(listed.value(listed.contains(name) ? name : ipport.toString()), name);
+        QStringList titles = {entry.value(QStringLiteral("title")).toString(),
+                              row.value(QStringLiteral("title")).toString()};
+        titles.removeAll(QString());
+        row.insert(QStringLiteral("title"), titles.join(QStringLiteral(" · ")));
+        row.insert(DeviceRowKey::ipport, ipport);
+        row.insert(actionKey, entry.value(actionKey));
+        row.insert(hindranceKey, entry.value(hindranceKey));
+        rows.append(row);
+    }
+    setRows(rows);
+}
+
+QHash<QString, QVariantMap> BatchPreview::devicesByName() const
+{
+    QHash<QString, QVariantMap> devices;
+    const QVariantList all = listedRows();
+    devices.reserve(2 * all.size());
+    for (const QVariant &value : all) {
+        const QJsonObject row = value.toJsonObject();
+        const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        QVariantMap device = row.toVariantMap();
+        device.insert(QStringLiteral("identity"), rowName(row));
+        devices.insert(rowName(row), device);
+        if (!devices.contains(ipport)) // as operations find it
+            devices.insert(ipport, device);
+    }
+    return devices;
 }
 
 QVariantList BatchPreview::listedRows() const
@@ -105,11 +144,11 @@ void BatchPreview::readList()
     }
 }
 
-QStringList BatchPreview::checkedAddresses() const
+QStringList BatchPreview::addressesOf(bool checked) const
 {
     QStringList ipports;
     for (int row = 0; row < rowCount(); ++row) {
-        if (isChecked(row))
+        if (isChecked(row) == checked)
             ipports.append(addressAndPortOf(row));
     }
     return ipports;
@@ -123,6 +162,9 @@ QString BatchPreview::addressAndPortOf(int row) const
 QString BatchPreview::hindranceOf(int row) const
 {
     const QVariantMap device = deviceAt(row);
+    const QString own = device.value(hindranceKey).toString();
+    if (!own.isEmpty())
+        return own;
     if (!device.value(DeviceRowKey::state, true).toBool())
         return tr("未初始化，不会执行");
     if (UpgradeTools::isRunning(device.value(DeviceRowKey::upgraderes, int(UpgradeTools::None)).toInt()))
@@ -135,12 +177,14 @@ BatchPreview::Judgement BatchPreview::judgementOf(int row) const
     const QString hindrance = hindranceOf(row);
     if (!hindrance.isEmpty())
         return {.kind = Skipped, .note = hindrance};
+    const QVariantMap device = deviceAt(row);
+    const QString action = device.value(actionKey, m_action).toString();
     if (m_devicesAt.value(addressAndPortOf(row)) > 1)
         return {.kind = Warned,
-                .action = m_action,
+                .action = action,
                 .note = tr("IP地址冲突，可能作用于另一台设备"),
                 .isConflict = true};
-    return {.action = m_action};
+    return {.action = action};
 }
 
 void BatchPreview::rejudge()

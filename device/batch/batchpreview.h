@@ -49,8 +49,14 @@ public:
     /// Takes the devices that have these addresses and ports.
     Q_INVOKABLE void setAddresses(const QStringList &ipports);
 
-    /// "ipport" of the ticked rows in their order.
-    Q_INVOKABLE [[nodiscard]] QStringList checkedAddresses() const;
+    /// Takes what is planned: maps of "name", by which checkedIdentities() names the entry, "ipport",
+    /// "action" and, if wanted, "title" (before that of the device) and "hindrance" (why nothing happens to
+    /// it). The device is the one of that name, or else the first one of that address and port.
+    Q_INVOKABLE void setEntries(const QVariantList &entries);
+
+    /// "ipport" of the ticked rows, and of the others, in their order.
+    Q_INVOKABLE [[nodiscard]] QStringList checkedAddresses() const { return addressesOf(true); }
+    Q_INVOKABLE [[nodiscard]] QStringList uncheckedAddresses() const { return addressesOf(false); }
 
 Q_SIGNALS:
     void factoryChanged();
@@ -92,7 +98,10 @@ protected:
     [[nodiscard]] bool isInConflict(int row) const override;
 
 private:
+    [[nodiscard]] QStringList addressesOf(bool checked) const;
     [[nodiscard]] QVariantList listedRows() const;
+    /// The devices of the list by name, and the first one of each address by that.
+    [[nodiscard]] QHash<QString, QVariantMap> devicesByName() const;
     void readList();
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is

@@ -59,14 +59,14 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
 {
     const QString password = data.value(QStringLiteral("password")).toString();
     const Credentials credentials = credentialsOf(ipport);
-    std::function<int(const StepControl &control)> perform;
+    DeviceStep perform;
     if (command == QLatin1String("loginCheck"))
         perform = [this, ipport, account = credentials.account, password](const StepControl &) {
-            return checkPassword(ipport, account, password);
+            return StepOutcome{.result = checkPassword(ipport, account, password), .text = {}};
         };
     else if (command == QLatin1String("modifyPassword"))
         perform = [this, ipport, password](const StepControl &) {
-            return modifyPassword(ipport, password);
+            return StepOutcome{.result = modifyPassword(ipport, password), .text = {}};
         };
     else
         perform = [this, command, data, ipport, credentials](const StepControl &control) {
@@ -74,20 +74,21 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
         };
     return [this, ipport, perform](const StepControl &control) {
         // Nothing comes between a device and its firmware.
-        return StepOutcome{.result =
-                               isUpgradingAt(ipport) ? resultCode(LoginResult::Upgrading) : perform(control),
-                           .text = {}};
+        if (isUpgradingAt(ipport))
+            return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
+        return perform(control);
     };
 }
 
-int CDeviceDH::performOn(const QString &ipport, const Credentials &credentials, const QString &command,
-                         const QVariantMap &data, const StepControl &control)
+StepOutcome CDeviceDH::performOn(const QString &ipport, const Credentials &credentials,
+                                 const QString &command, const QVariantMap &data, const StepControl &control)
 {
     const SecureLogin login =
         secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
+    StepOutcome outcome = {.result = resultCode(login.result), .text = {}};
     if (login.result != LoginResult::Success)
-        return resultCode(login.result);
-    int result = resultCode(LoginResult::NotDone);
+        return outcome;
+    outcome.result = resultCode(LoginResult::NotDone);
     if (!control.shouldEnd()) {
         QVariantMap values = data;
         if (data.value(QStringLiteral("timeOfRequest")).toBool())
@@ -97,10 +98,14 @@ int CDeviceDH::performOn(const QString &ipport, const Credentials &credentials, 
         const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
         if (!action)
             qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
-        result = action && (*action)(login.handle) ? resultCode(LoginResult::Success) : refusedByDevice;
+        const bool isDone = action && (*action)(login.handle);
+        outcome.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice;
+        outcome.isUnanswered = action && !isDone && isDeviceAway(m_libraries.net->NetGetLastError());
+        if (outcome.isUnanswered)
+            outcome.text = tr("设备没有应答");
     }
     m_libraries.net->NetLogout(login.handle);
-    return result;
+    return outcome;
 }
 
 int CDeviceDH::checkPassword(const QString &ipport, const QString &account, const QString &password)

@@ -27,6 +27,20 @@ class TestCgiBatches : public QObject
         return m_site->commands.send("Title", identities, command);
     }
 
+    /// Runs the lines of a workbook but those that `leftOut` names the beginning of.
+    Batch *runWorkbook(const QString &file, const QString &leftOut = "none") const
+    {
+        QSignalSpy wasRead(m_site->commands.workbooks(), &CgiWorkbooks::wasRead);
+        m_site->commands.workbooks()->read(file);
+        if (!QTest::qWaitFor([&] { return !wasRead.isEmpty(); }))
+            return nullptr;
+        QStringList lines;
+        for (const QVariant &line : wasRead.first().first().toList())
+            lines.append(line.toMap().value("name").toString());
+        lines.removeIf([&](const QString &line) { return line.startsWith(leftOut); });
+        return m_site->commands.workbooks()->run("Title", lines);
+    }
+
     /// Three devices on a site that works on so many at once.
     void makeSite(int atOnce)
     {
@@ -158,8 +172,8 @@ private Q_SLOTS:
         m_site->transport->answer = [](const QByteArray &url) {
             return url.endsWith('5') ? QByteArray(100'000, 'x') : url;
         };
-        const QSignalSpy ended(&m_site->commands, &CgiBatches::workbookEnded);
-        Batch *batch = m_site->commands.runWorkbook("Title", QUrl::fromLocalFile(path()).toString());
+        const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
+        Batch *batch = runWorkbook(QUrl::fromLocalFile(path()).toString());
         QVERIFY(batch);
         QTRY_VERIFY(!ended.isEmpty());
         QCOMPARE(ended.first().first().toString(),
@@ -182,10 +196,10 @@ private Q_SLOTS:
                                               {"10.0.0.b", "37777", "admin", "s", "/cgi-bin/2"},
                                               {"10.0.0.a", "37777", "admin", "s", "/cgi-bin/3"}}));
         m_site->transport->gate = std::make_unique<QSemaphore>(2);
-        QSignalSpy ended(&m_site->commands, &CgiBatches::workbookEnded);
-        Batch *batch = m_site->commands.runWorkbook("Title", path());
+        QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
+        Batch *batch = runWorkbook(path());
         QTRY_COMPARE(m_site->transport->atGate, 3);
-        QCOMPARE(m_site->commands.runWorkbook("Title", path()), nullptr);
+        m_site->commands.workbooks()->read(path());
         QCOMPARE(ended.takeFirst().first().toString(), "正在执行另一个文件中的CGI命令。");
         batch->stop();
         QTRY_VERIFY(!ended.isEmpty());
@@ -194,15 +208,45 @@ private Q_SLOTS:
         // The file is the user's again.
         QCOMPARE(m_site->batches.retry(batch), nullptr);
         m_site->transport->gate.reset();
-        QVERIFY(m_site->commands.runWorkbook("Title", path()));
+        QVERIFY(runWorkbook(path()));
         QTRY_COMPARE(ended.size(), 2);
         QVERIFY(ended.last().first().toString().startsWith("执行完成：成功3行"));
     }
 
+    /// A line that the user has taken out is not sent, and its cell stays as it is.
+    void onlyTheChosenLinesOfAWorkbookAreSent()
+    {
+        QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"},
+                                              {"10.0.0.b", "37777", "admin", "s", "/cgi-bin/2"}}));
+        const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
+        QVERIFY(runWorkbook(path(), "第2行"));
+        QTRY_COMPARE(ended.size(), 1);
+        QCOMPARE(commandResults(path(), 2), QStringList({"", "OK"}));
+        QCOMPARE(m_site->transport->urls, QStringList("http://10.0.0.b/cgi-bin/2"));
+    }
+
+    /// The results would take the place of what somebody has written meanwhile.
+    void aWorkbookThatWasChangedSinceItWasReadIsNotRun()
+    {
+        QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"}}));
+        QSignalSpy wasRead(m_site->commands.workbooks(), &CgiWorkbooks::wasRead);
+        const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
+        m_site->commands.workbooks()->read(path());
+        QTRY_COMPARE(wasRead.size(), 1);
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(QDateTime::currentDateTime().addSecs(60),
+                                                                    QFileDevice::FileModificationTime));
+        file.close();
+        QCOMPARE(m_site->commands.workbooks()->run("Title", {"第2行 10.0.0.a:37777"}), nullptr);
+        QCOMPARE(ended.size(), 1);
+        QVERIFY(m_site->transport->urls.isEmpty());
+    }
+
     void aFileThatIsNoneIsRefused()
     {
-        const QSignalSpy ended(&m_site->commands, &CgiBatches::workbookEnded);
-        QCOMPARE(m_site->commands.runWorkbook("Title", path()), nullptr);
+        const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
+        m_site->commands.workbooks()->read(path());
+        QTRY_COMPARE(ended.size(), 1);
         QCOMPARE(ended.first().first().toString(), "文件打开失败");
     }
 };

@@ -118,6 +118,9 @@ private Q_SLOTS:
     {
         for (int device = 0; device < 2; ++device)
             m_site->rows->add({.address = "10.0.0.7", .mac = "", .type = "SD"});
+        QJsonObject second = m_site->rows->ipv4.constLast().toJsonObject();
+        second.insert("duplicate", 1); // as the store tells them apart
+        m_site->rows->ipv4.last() = second;
         m_model->resetItems("removeuninit", "");
         const QModelIndex group = m_model->index(1, 0);
         m_model->setData(m_model->index(2, 0, group), true, OVTreeModel::IsCheckedRole);

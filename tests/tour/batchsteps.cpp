@@ -81,7 +81,8 @@ void walkPutBack(Driver &driver, const sdk::demo::DemoSite &site)
     driver.await(
         u"no notice fades over the buttons"_s, [&] { return !driver.find(u"toastText"_s); }, 30);
     driver.click(u"putBackButton"_s);
-    driver.require(u"messageText"_s);
+    driver.require(u"previewTable"_s);
+    driver.report(u"batch-put-back-preview"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
     driver.await(u"the devices have their old addresses again"_s, areBack);
     awaitEnd(driver);

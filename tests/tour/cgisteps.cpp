@@ -109,6 +109,9 @@ void walkBatch(Driver &driver)
     driver.fill(u"batchCgiCommand"_s, u"/cgi-bin/device?get=name"_s);
     driver.report(u"cgi-batch"_s, u"one command for three devices"_s);
     driver.click(u"okButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.report(u"cgi-batch-preview"_s, driver.text(u"batchCount"_s));
+    driver.click(u"okButton"_s);
     expectToast(driver, translated("CgiSender", "批量配置CGI命令已完成"));
     awaitIdle(driver);
     readAnswerWindow(driver, u"cgi-batch-failures"_s); // opens when a device was not done
@@ -156,11 +159,10 @@ void walkWorkbook(Driver &driver, const QString &folder)
     writeWorkbook(driver, path);
     driver.click(u"workbookCgiButton"_s);
     driver.answerFileBox(path);
-    driver.report(u"cgi-workbook"_s, driver.text(u"messageText"_s));
+    driver.require(u"previewTable"_s);
+    driver.report(u"cgi-workbook"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    const QString question = translated("CgiWorkbook", "即将执行文件中的CGI命令，执行结果将记录在文件中");
-    driver.await(u"the workbook is run"_s,
-                 [&] { return driver.find(u"messageText"_s) && driver.text(u"messageText"_s) != question; });
+    driver.await(u"the workbook is run"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
     driver.report(u"cgi-workbook-done"_s, driver.text(u"messageText"_s).replace(u'\n', u' '));
     driver.click(u"okButton"_s);
 

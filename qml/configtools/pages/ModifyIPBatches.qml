@@ -23,14 +23,13 @@ Item {
     function initialise() {
         if (!mayBegin())
             return;
-        const ticked = deviceTable.checkedRows();
-        const rows = ticked.filter(row => !row.state);
+        const rows = deviceTable.checkedRowsWith(false);
         if (rows.length === 0) {
             said(qsTr("请选择一台未初始化的设备"), OVToast.Error);
             return;
         }
         const dialog = initialising.wanted();
-        dialog.load(rows, ticked.filter(row => row.state));
+        dialog.load(rows, deviceTable.checkedRowsWith(true));
         dialog.open();
     }
 

@@ -63,12 +63,7 @@ Item {
     }
 
     function removeNow() {
-        const names = {};
-        for (const row of deviceTable.checkedRows())
-            names[row.identity] = true;
-        deviceFactory.setBatchDeleteDevice("dh", names, deviceTable.ipv6 ? "IPV6" : "IPV4");
-        deviceTable.refresh();
-        const kept = Object.keys(names).filter(name => deviceTable.rowOf(name) >= 0).length;
+        const kept = deviceTable.deleteChecked();
         if (kept > 0)
             said(qsTr("%n 台设备正在升级，没有删除", "", kept), OVToast.Error);
     }

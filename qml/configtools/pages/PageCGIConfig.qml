@@ -32,11 +32,19 @@ FocusScope {
             batchWindow.wanted().ask(devices.checkedCount);
     }
 
+    function askToSend(command) {
+        preview.wanted().askRows(qsTr("将向下列设备发送命令："), command, devices.checkedRows(), {
+            okText: qsTr("执行"), listed: true, quick: true,
+            action: identities => cgiSender.sendToAll(identities, command)
+        });
+    }
+
     objectName: "pageCGIConfig"
 
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
+        failedMarks: page.batches.failedMarks
         oddAddressesFirst: true
         searchText: searchField.text.trim()
     }
@@ -70,7 +78,8 @@ FocusScope {
     }
     CgiWorkbook {
         id: workbook
-        cgiBatches: page.cgiBatches
+        deviceFactory: page.deviceFactory
+        workbooks: page.cgiBatches.workbooks
         cgiManager: page.cgiManager
         fileDialogs: page.fileDialogs
         shown: page.visible
@@ -83,7 +92,15 @@ FocusScope {
         sourceComponent: BatchCGIWindow {
             commands: cgiCommands
             sender: cgiSender
-            onConfirmed: command => cgiSender.sendToAll(devices.checkedMacs(), command)
+            onConfirmed: command => page.askToSend(command)
+            onRefused: message => page.said(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: preview
+        visible: false
+        sourceComponent: BatchPreviewDialog {
+            deviceFactory: page.deviceFactory
             onRefused: message => page.said(message, OVToast.Error)
         }
     }
@@ -129,6 +146,11 @@ FocusScope {
         Item {
             Layout.fillWidth: true
         }
+        OVFailedFilter {
+            marks: devices.failedMarks
+            on: devices.onlyFailed
+            onToggled: on => devices.onlyFailed = on
+        }
         OVTextField {
             id: searchField
             Layout.maximumWidth: Theme.searchFieldWidth
@@ -172,7 +194,10 @@ FocusScope {
             libraryInstalled: page.libraryInstalled
             searching: page.searching
             searchesNothing: false
-            onFiltersCleared: searchField.text = ""
+            onFiltersCleared: {
+                devices.onlyFailed = false;
+                searchField.text = "";
+            }
             onSearchRequested: page.searchRequested()
         }
     }

@@ -85,10 +85,10 @@ FocusScope {
     /// The devices that the user takes out keep waiting for their new password.
     function changePasswords(password) {
         const waiting = Array.from(passwordTime.devices);
-        preview.ask("modifyPassword", qsTr("修改密码"), {}, waiting, chosen => {
-            leftOut = waiting.filter(device => !chosen.includes(device));
+        preview.ask("modifyPassword", qsTr("修改密码"), {}, waiting, (chosen, others) => {
+            leftOut = Array.from(others);
             run("modifyPassword", qsTr("修改密码"), chosen, {password: password});
-            devices.setResults(leftOut, leftOut.map(() => OVTreeModel.WaitsForPassword));
+            devices.setResultOfAll(leftOut, OVTreeModel.WaitsForPassword);
         });
     }
 
@@ -122,8 +122,7 @@ FocusScope {
         batches: page.batches
         onFinished: page.takeEnd()
         onRetried: page.checkedWhenAsked = Array.from(devices.checkedDevices)
-        onResulted: (ipports, results) => devices.setResults(ipports, results.map(
-            result => result === BatchReport.Waiting ? OVTreeModel.WaitsForPassword : result))
+        onResulted: (ipports, results) => devices.takeResults(ipports, results, [])
     }
     OVBatchRefusals {
         batches: page.batches

@@ -27,8 +27,7 @@ OVDialog {
     function addThese(identities) {
         if (running || identities.length === 0)
             return;
-        const begun = addingBatches.addDevices(qsTr("添加收藏设备"), identities.map(identity =>
-            Object.assign({identity: identity}, favourites.deviceOf(saved.device(identity)))));
+        const begun = addingBatches.addDevices(qsTr("添加收藏设备"), saved.devicesToAdd(identities));
         if (begun === null)
             return;
         batch = begun;

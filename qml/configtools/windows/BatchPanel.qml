@@ -6,9 +6,11 @@ OVDialog {
     id: root
 
     required property Batches batches
+    required property var deviceFactory
     readonly property Batch batch: results.batch
     readonly property bool idle: batch !== null && !batches.running
     signal saveRequested(Batch batch)
+    signal refused(string message)
 
     function show() {
         list.show(0);
@@ -18,6 +20,15 @@ OVDialog {
     function showNewest(begun) {
         if (begun !== null)
             list.show(0);
+    }
+
+    function askToPutBack(changed) {
+        const entries = batches.addressesToPutBack(changed);
+        preview.wanted().askEntries(
+            qsTr("确定要将 %n 台设备恢复为修改前的IP地址吗？", "", entries.length), entries, {
+                okText: qsTr("恢复地址"), listed: true,
+                action: identities => showNewest(batches.putAddressesBack(changed, qsTr("恢复IP地址"), identities))
+            });
     }
 
     width: Math.min(Theme.batchPanelWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
@@ -50,13 +61,12 @@ OVDialog {
             onClicked: root.showNewest(root.batches.retry(root.batch))
         }
         OVButton {
-            enabled: root.idle && root.batch.report.succeeded > 0
+            enabled: root.idle && root.batches.addressesToPutBack(root.batch).length > 0
             objectName: "putBackButton"
             text: qsTr("恢复地址")
             toolTip: qsTr("将修改成功的设备恢复为修改前的IP地址")
             visible: root.batch?.changesAddresses ?? false
-            onClicked: question.show(
-                qsTr("确定要将 %n 台设备恢复为修改前的IP地址吗？", "", root.batch.report.succeeded), OVMessageBox.Question)
+            onClicked: root.askToPutBack(root.batch)
         }
         OVButton {
             enabled: root.batch !== null && !root.batch.running
@@ -139,9 +149,14 @@ OVDialog {
             outcome: row?.state ?? BatchResultModel.ToCome
         }
     }
-    OVMessageBox {
-        id: question
-        objectName: "putBackQuestion"
-        onAccepted: root.showNewest(root.batches.putAddressesBack(root.batch, qsTr("恢复IP地址")))
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: preview
+        visible: false
+        sourceComponent: BatchPreviewDialog {
+            deviceFactory: root.deviceFactory
+            onRefused: message => root.refused(message)
+        }
     }
+    // qmllint enable unqualified
 }

@@ -10,7 +10,8 @@ OVDialog {
     property bool danger: false
     property bool listed: false
     property bool openedOut: false
-    property var action: null  // gets the addresses of the devices that take part
+    property var action: null  // gets the devices that take part, and those that the user has taken out
+    property bool byAddress: true  // it takes their addresses and ports, else their identities
     property string subject    // what withdraw() names it by
     signal refused(string message)
 
@@ -20,9 +21,30 @@ OVDialog {
     function ask(words, happens, ipports, choices) {
         preview.action = happens;
         preview.setAddresses(ipports);
+        byAddress = true;
+        begin(words, choices);
+    }
+
+    /// The same for rows of a DeviceTableModel. The action gets their identities.
+    function askRows(words, happens, rows, choices) {
+        preview.action = happens;
+        preview.setDevices(rows);
+        byAddress = false;
+        begin(words, choices);
+    }
+
+    /// The same for entries of BatchPreview.setEntries(). The action gets their names.
+    function askEntries(words, entries, choices) {
+        preview.action = "";
+        preview.setEntries(entries);
+        byAddress = false;
+        begin(words, choices);
+    }
+
+    function begin(words, choices) {
         const noted = preview.warningCount + preview.skippedCount > 0;
-        if (choices.quick && ipports.length === 1 && !noted) {
-            choices.action(ipports);
+        if (choices.quick && preview.count === 1 && !noted) {
+            choices.action(chosen(), []);
             return;
         }
         message = words;
@@ -47,8 +69,14 @@ OVDialog {
         const wanted = action;
         if (wanted === null)
             return;
+        const devices = chosen();
+        const others = preview.uncheckedAddresses();
         close();
-        wanted(preview.checkedAddresses());
+        wanted(devices, others);
+    }
+
+    function chosen() {
+        return byAddress ? preview.checkedAddresses() : preview.checkedIdentities();
     }
 
     width: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth

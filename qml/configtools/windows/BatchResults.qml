@@ -6,7 +6,10 @@ Item {
     id: root
 
     required property Batches batches
-    readonly property var fileDialogs: FileDialogsApi  // qmllint disable unqualified
+    // qmllint disable unqualified
+    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var fileDialogs: FileDialogsApi
+    // qmllint enable unqualified
     signal said(string message, int kind)
 
     function show() {
@@ -32,6 +35,8 @@ Item {
         visible: false
         sourceComponent: BatchPanel {
             batches: root.batches
+            deviceFactory: root.deviceFactory
+            onRefused: message => root.said(message, OVToast.Error)
             onSaveRequested: batch => root.save(batch)
         }
     }

@@ -166,7 +166,11 @@ private Q_SLOTS:
             device.address = "192.168.1.77"; // it does not respond where it was put
         });
         m_site->site->requests().clear();
-        Batch *back = m_batches->putAddressesBack(batch, "Back");
+        QStringList wantedBack;
+        for (const QVariant &entry : m_batches->addressesToPutBack(batch))
+            wantedBack.append(entry.toMap().value("action").toString());
+        QCOMPARE(wantedBack, QStringList({"192.168.1.4", "192.168.1.3", "192.168.1.2", "192.168.1.1"}));
+        Batch *back = m_batches->putAddressesBack(batch, "Back", macs());
         QVERIFY(back);
         QTRY_VERIFY(!back->isRunning());
         QStringList asked;
@@ -176,6 +180,71 @@ private Q_SLOTS:
         QVERIFY(asked.indexOf("NetStartSearchDevices") < asked.indexOf("NetModifyDeviceBySearch"));
         QCOMPARE(back->report()->succeeded(), 4);
         QCOMPARE(addresses(), before);
+    }
+
+    /// Its row shows since then the address that it was asked for.
+    void aDeviceIsPutBackToWhatItHadBeforeAChangeThatFailed()
+    {
+        const QStringList mac(m_devices.at(0).mac);
+        const auto change = [&](const QString &address) {
+            Batch *batch =
+                m_batches->changeAddresses("dh", "Addresses", mac, {address}, "255.255.255.0", "", false);
+            return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
+        };
+        const auto wanted = [&](Batch *batch) {
+            const QVariantList entries = m_batches->addressesToPutBack(batch);
+            return entries.value(0).toMap().value("action").toString();
+        };
+        m_site->site->setFault(mac.first(), {.fault = sdk::demo::Fault::NoAnswer});
+        Batch *failed = change("192.168.1.50");
+        QCOMPARE(failed->report()->failed(), 1);
+        QCOMPARE(wanted(failed), "192.168.1.1"); // the change may have come through
+        m_site->site->clearFault(mac.first(), sdk::demo::Fault::NoAnswer);
+        Batch *done = change("192.168.1.60");
+        QCOMPARE(done->report()->succeeded(), 1);
+        QCOMPARE(wanted(done), "192.168.1.1");
+        QCOMPARE(wanted(change("192.168.1.70")), "192.168.1.60");
+    }
+
+    /// It was reached: nothing says that its next try fails as well.
+    void aDeviceThatGoesAfterItsLoginMayBeTriedAgain()
+    {
+        const QString mac = m_devices.at(0).mac;
+        m_site->net->beforeWriting = [&] {
+            m_site->site->setFault(mac, {.fault = sdk::demo::Fault::NoAnswer});
+        };
+        Batch *batch = setStandard(ipportsOf(m_devices).first(1));
+        QTRY_VERIFY(!batch->isRunning());
+        m_site->net->beforeWriting = nullptr;
+        QCOMPARE(batch->entries().first().outcome.result, 999);
+        QVERIFY(!batch->textOf(ipportOf(m_devices.at(0))).isEmpty());
+        QCOMPARE(batch->retryableDevices(), ipportsOf(m_devices).first(1));
+        m_site->site->clearFault(mac, sdk::demo::Fault::NoAnswer);
+        m_site->site->setFault(mac, {.fault = sdk::demo::Fault::RefusesItem,
+                                     .number = static_cast<int>(sdk::videoStandardItem)});
+        Batch *refused = m_batches->retry(batch);
+        QVERIFY(refused);
+        QTRY_VERIFY(!refused->isRunning());
+        QCOMPARE(refused->entries().first().outcome.result, 999);
+        QCOMPARE(refused->retryableDevices(), QStringList()); // it has said no
+    }
+
+    /// The program does not wait for the devices, and the log names those that got nothing.
+    void anEndInTheMiddleOfABatchNamesTheRest()
+    {
+        m_site->factory->systemConfig("dh", "loginCheck", {{"password", "secret1"}}, ipportsOf(m_devices));
+        m_site->net->passwordGate = std::make_unique<QSemaphore>();
+        m_site->net->passwordsAtGate = 0;
+        const Batch *batch = m_batches->configureSystem("dh", "modifyPassword", "Passwords",
+                                                        {{"password", "Better-2025"}}, ipportsOf(m_devices));
+        QTRY_COMPARE(m_site->net->passwordsAtGate, 2);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("Passwords.*not done: " + ipportsOf(m_devices).join(", ")));
+        m_batches->giveUp();
+        QVERIFY(batch->isStopping());
+        m_site->net->passwordGate->release(2);
+        m_engine->end();
+        QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
     }
 
     void noDeviceGetsAnAddressThatIsStillUsed()

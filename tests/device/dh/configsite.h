@@ -56,6 +56,16 @@ public:
         return DemoNetLibrary::NetModifyPassword(loginHandle, input, wait);
     }
 
+    std::function<void()> beforeWriting; ///< of an item; null for nothing
+
+    bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
+                    std::uint32_t blockSize, std::chrono::milliseconds wait) override
+    {
+        if (beforeWriting)
+            beforeWriting();
+        return DemoNetLibrary::NetSetItem(loginHandle, item, channel, block, blockSize, wait);
+    }
+
     bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override
     {

@@ -136,6 +136,7 @@ private Q_SLOTS:
         m_window = openScene(*m_engine, scene,
                              {{"works", m_batches.get()},
                               {"FileDialogsApi", &m_file},
+                              {"CDeviceFactoryApi", &m_site->factory},
                               {"deviceTable", m_table.get()},
                               {"deviceTree", m_tree.get()}});
         QVERIFY(m_window && QTest::qWaitForWindowExposed(m_window.get()));

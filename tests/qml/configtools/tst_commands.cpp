@@ -17,7 +17,7 @@ const char *const scene =
     "    DeviceTableModel { id: devices; deviceFactory: factory; Component.onCompleted: refresh() }\n"
     "    CgiSender {\n"
     "        objectName: 'sender'; commands: known; batches: batchList\n"
-    "        cgiBatches: works; deviceTable: devices\n"
+    "        cgiBatches: works; deviceFactory: factory; deviceTable: devices\n"
     "    }\n"
     "    CgiAnswerWindow {\n"
     "        objectName: 'whole'; cgiManager: program; fileDialogs: null\n"
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QQuickItem *item = find("page");
         const QSignalSpy said(item, SIGNAL(said(QString, int)));
         item->setVisible(false);
-        Q_EMIT m_site->commands.workbookEnded("first\nsecond");
+        Q_EMIT m_site->commands.workbooks()->ended("first\nsecond");
         QCOMPARE(said.value(0).value(0).toString(), "first");
         QVERIFY(!find("messageText"));
         item->setVisible(true);

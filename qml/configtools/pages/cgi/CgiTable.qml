@@ -26,7 +26,7 @@ OVTable {
 
     columns: [
         {key: "num", title: "No.", width: Theme.columnNumber, cell: numberCell},
-        {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true},
+        {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true, cell: modelCell},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, sortable: true, cell: addressCell},
         {key: "result", title: " ", width: Theme.columnAnswer, stretch: 4, cell: answerCell},
         {key: "url", title: qsTr("Url路径"), width: Theme.columnCommand, stretch: 5, cell: commandCell},
@@ -38,6 +38,24 @@ OVTable {
         OVTableTextCell {
             font: Theme.figureFont
             text: rowIndex + 1
+        }
+    }
+    Component {
+        id: modelCell
+        OVTableCell {
+            id: model
+
+            OVFailedSign {
+                id: sign
+                anchors.verticalCenter: parent.verticalCenter
+                failure: model.row?.failure ?? ""
+            }
+            OVLabel {
+                x: sign.visible ? sign.width + Theme.signGap : 0
+                width: parent.width - x - Theme.unit
+                height: parent.height
+                text: model.value ?? ""
+            }
         }
     }
     Component {

@@ -5,7 +5,8 @@ import configtools
 Item {
     id: root
 
-    required property var cgiBatches
+    required property var deviceFactory
+    required property var workbooks  // CgiWorkbooks
     required property var cgiManager
     required property var fileDialogs
     required property bool shown  // the page is
@@ -13,11 +14,7 @@ Item {
     signal said(string message, int kind)
 
     function choose() {
-        fileDialogs.chooseFile(qsTr("打开"), ["Excel Files (*.xlsx)"], path => {
-            const box = question.wanted();
-            box.path = path;
-            box.show(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), OVMessageBox.Question);
-        });
+        fileDialogs.chooseFile(qsTr("打开"), ["Excel Files (*.xlsx)"], path => workbooks.read(path));
     }
 
     function openTemplate() {
@@ -25,8 +22,10 @@ Item {
             said(qsTr("打开模板文件失败。"), OVToast.Error);
     }
 
-    function run(path) {
-        cgiBatches.runWorkbook(qsTr("批量表单操作"), path);
+    function ask(lines) {
+        question.wanted().askEntries(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), lines, {
+            okText: qsTr("执行"), listed: true, action: names => workbooks.run(qsTr("批量表单操作"), names)
+        });
     }
 
     /// On another page the user is at something else: only the first line is said there.
@@ -48,9 +47,12 @@ Item {
     onShownChanged: if (shown) tellUntold()
 
     Connections {
-        target: root.cgiBatches
+        target: root.workbooks
 
-        function onWorkbookEnded(text) {
+        function onWasRead(lines) {
+            root.ask(lines);
+        }
+        function onEnded(text) {
             root.tellEnd(text);
         }
     }
@@ -58,10 +60,9 @@ Item {
     OVOnDemand {
         id: question
         visible: false
-        sourceComponent: OVMessageBox {
-            property string path
-            objectName: "workbookQuestion"
-            onAccepted: root.run(path)
+        sourceComponent: BatchPreviewDialog {
+            deviceFactory: root.deviceFactory
+            onRefused: message => root.said(message, OVToast.Error)
         }
     }
     OVOnDemand {

@@ -13,13 +13,10 @@ Item {
     readonly property string current: running ? batch.device : ""
     signal said(string message, int kind, int stay)
 
-    property int incomplete: 0  // devices that could not take everything
-
     function start(targets) {
         const begun = batches.copyEncodeSettings("dh", qsTr("复制编码配置"), targets);
         if (begun === null)
             return;
-        incomplete = 0;
         devices.clearResults();
         batch = begun;
     }
@@ -37,6 +34,7 @@ Item {
         const report = batch.report;
         const failed = report.failed;
         const notDone = report.notDone;
+        const incomplete = batch.partlyDone();  // devices that could not take everything
         const complete = report.succeeded - incomplete;
         const parts = Array.from([
             complete > 0 ? qsTr("%n 台设备已复制", "", complete) : "",
@@ -54,10 +52,8 @@ Item {
         target: root.batches
 
         function onRetried(earlier, again) {
-            if (earlier !== root.batch)
-                return;
-            root.incomplete = 0;
-            root.batch = again;
+            if (earlier === root.batch)
+                root.batch = again;
         }
     }
 
@@ -65,10 +61,7 @@ Item {
         target: root.batch
 
         function onResulted(ipports, results) {
-            const shown = Array.from(results).map((result, i) => result === BatchReport.Succeeded
-                && root.batch.textOf(ipports[i]) !== "" ? OVTreeModel.PartlyDone : result);
-            root.incomplete += shown.filter(result => result === OVTreeModel.PartlyDone).length;
-            root.devices.setResults(ipports, shown);
+            root.devices.takeResults(ipports, results, root.batch.textsOf(ipports));
         }
         function onFinished() {
             root.tell();

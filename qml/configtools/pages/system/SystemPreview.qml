@@ -31,10 +31,11 @@ Item {
         }
     }
 
-    /// Calls `send` with the devices that are to get the command: at once when it needs no question.
+    /// Calls `send` with the devices that are to get the command, and with those that the user has taken out: at once
+    /// when it needs no question.
     function ask(command, title, data, ipports, send) {
         if (harmless.includes(command)) {
-            send(ipports);
+            send(ipports, []);
             return;
         }
         const what = happens(command, title, data);
