@@ -162,7 +162,9 @@ void walkWorkbook(Driver &driver, const QString &folder)
     driver.require(u"previewTable"_s);
     driver.report(u"cgi-workbook"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"the workbook is run"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
+    const QString question = translated("CgiWorkbook", "即将执行文件中的CGI命令，执行结果将记录在文件中");
+    driver.await(u"the workbook is run"_s,
+                 [&] { return driver.find(u"messageText"_s) && driver.text(u"messageText"_s) != question; });
     driver.report(u"cgi-workbook-done"_s, driver.text(u"messageText"_s).replace(u'\n', u' '));
     driver.click(u"okButton"_s);
 

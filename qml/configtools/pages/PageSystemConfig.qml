@@ -76,7 +76,7 @@ FocusScope {
     function runOnTicked(command, title, data) {
         const ticked = Array.from(devices.checkedDevices);  // a copy: the list itself follows the ticks
         preview.ask(command, title, data, ticked, chosen => {
-            if (passwordTime.open)
+            if (passwordTime.open && !batches.running)  // else the command is refused
                 passwordTime.close(SystemPasswordTime.OtherWork);
             run(command, title, chosen, data);
         });
