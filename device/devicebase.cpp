@@ -240,6 +240,33 @@ DeviceStep CDeviceBase::addingStep(const DeviceToAdd &)
     return unsupportedStep();
 }
 
+SceneStep CDeviceBase::loginStep(const QString &, const QString &, const QString &)
+{
+    return [](const StepControl &) {
+        return SceneOutcome{.value = resultCode(LoginResult::NotSupported), .take = {}};
+    };
+}
+
+SceneStep CDeviceBase::sessionStep(const SessionJob &)
+{
+    return [](const StepControl &) {
+        return SceneOutcome();
+    };
+}
+
+SceneStep CDeviceBase::detailStep(const QString &)
+{
+    return [](const StepControl &) {
+        return SceneOutcome();
+    };
+}
+
+void CDeviceBase::runForScene(const SceneStep &step, const std::stop_token &,
+                              const std::function<void(const SceneOutcome &outcome)> &ended)
+{
+    ended(step(StepControl())); // a family that has no threads does not wait for devices either
+}
+
 ImportPlan CDeviceBase::importPlan(const QString &)
 {
     return {};

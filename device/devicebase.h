@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/deviceimport.h"
+#include "device/scenestep.h"
 
 #include <QObject>
 #include <QStringList>
@@ -173,6 +174,23 @@ public:
     /// Of refreshDevices(), with one query at the addresses of the rows, before devices are searched by their
     /// MACs. Blocks up to 6 s.
     virtual DeviceStep locationStep(const QStringList &macs);
+
+    // Work that a page waits for while the scene goes on. Steps are made on the scene's thread.
+
+    /// Of findAndLoginDevice(). The value is its result.
+    virtual SceneStep loginStep(const QString &ipport, const QString &account, const QString &password);
+    /// Of operations in the current session, as it is when the step is made. When there is another session
+    /// before the outcome is taken, nothing is put in place. What is set meanwhile on the scene's thread is
+    /// lost: the page keeps the user from it.
+    virtual SceneStep sessionStep(const SessionJob &job);
+    /// Of readDeviceDetail(). The value is what that returns.
+    virtual SceneStep detailStep(const QString &ipport);
+
+    /// Runs a step on a thread of the back end, which it ends with, and returns at once. `ended` is called on
+    /// the scene's thread, with the outcome to be taken, unless `stop` was requested before: what is under
+    /// way then goes on to its next safe point and is dropped.
+    virtual void runForScene(const SceneStep &step, const std::stop_token &stop,
+                             const std::function<void(const SceneOutcome &outcome)> &ended);
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

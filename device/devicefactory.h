@@ -189,6 +189,16 @@ public:
     /// Reads a device list, on any thread.
     [[nodiscard]] ImportPlan importPlan(const QString &family, const QString &path);
 
+    // Work that a page waits for while the scene goes on, by DeviceWork. See the same operations of
+    // CDeviceBase.
+
+    [[nodiscard]] SceneStep loginStep(const QString &family, const QString &ipport, const QString &account,
+                                      const QString &password);
+    [[nodiscard]] SceneStep sessionStep(const QString &family, const SessionJob &job);
+    [[nodiscard]] SceneStep detailStep(const QString &family, const QString &ipport);
+    void runForScene(const QString &family, const SceneStep &step, const std::stop_token &stop,
+                     const std::function<void(const SceneOutcome &outcome)> &ended);
+
     /// Releases the ports of devices that have left the list, but for those of a current session: they go
     /// when it ends. To be called when steps have replaced rows.
     void releaseUnneededP2PPorts();

@@ -4,10 +4,7 @@
 #include "device/dh/encodestate.h"
 #include "device/logging.h"
 
-CameraConfig::CameraConfig(const ValueTables &tables, const ChannelChoice &channels)
-    : m_tables(tables), m_channels(channels)
-{
-}
+CameraConfig::CameraConfig(const ValueTables &tables) : m_tables(tables) {}
 
 void CameraConfig::begin(const ConfigSession &session)
 {
@@ -26,10 +23,10 @@ void CameraConfig::readColor(int channel)
     readVideoColor(m_session, channel, m_state);
 }
 
-int CameraConfig::readCapabilities()
+int CameraConfig::readCapabilities(int channel)
 {
     int result = 0;
-    switch (readCameraCapabilities(m_session, m_channels.curVideoChannel, m_state)) {
+    switch (readCameraCapabilities(m_session, channel, m_state)) {
     case CameraReading::Done:
         break;
     case CameraReading::Refused:
@@ -46,9 +43,9 @@ int CameraConfig::readCapabilities()
     return result;
 }
 
-int CameraConfig::readItems()
+int CameraConfig::readItems(int channel)
 {
-    return readCameraItems(m_session, m_channels.curVideoChannel, m_state) ? 0 : deviceAway;
+    return readCameraItems(m_session, channel, m_state) ? 0 : deviceAway;
 }
 
 QVariant CameraConfig::value(const QString &key) const
@@ -67,13 +64,13 @@ void CameraConfig::chooseMode(const QVariant &place)
     m_state.unreadGroups = CameraState::allGroups; // the items are those of the mode before
 }
 
-CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant &value, const QString &subKey)
+CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant &value, const QString &subKey,
+                                             int channel)
 {
     if (key == QLatin1String("curSwitchMode")) {
         chooseMode(value); // the page reads the items of the mode itself
         return Outcome::Taken;
     }
-    const int channel = m_channels.curVideoChannel;
     CameraState changed = m_state;
     // Others change it too, so it is read before it is written.
     if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "device/dh/camerastate.h"
-#include "device/dh/channelchoice.h"
 #include "device/dh/valuetables.h"
 
 #include <QVariant>
 
-/// The camera of one channel of the current session's device. Every change goes to the device at once. Blocks
-/// for the waits of the library. One thread.
+/// The camera of one channel of the current session's device. Every change goes to the device at once. A
+/// value; a copy works on the same device. Blocks for the waits of the library. One thread at a time.
 class CameraConfig
 {
 public:
@@ -21,8 +20,8 @@ public:
         Unanswered, ///< the device is away; the values are those that it had
     };
 
-    /// `tables` and `channels` must outlive this object.
-    CameraConfig(const ValueTables &tables, const ChannelChoice &channels);
+    /// `tables` must outlive this object and its copies.
+    explicit CameraConfig(const ValueTables &tables);
 
     /// Turns to a new session; nothing is known of its device yet.
     void begin(const ConfigSession &session);
@@ -34,15 +33,15 @@ public:
     /// Reads the configuration "VideoColor" of a channel.
     void readColor(int channel);
 
-    /// Reads what the chosen channel's camera can do, and its configurations. Returns 0; otherwise every
+    /// Reads what the camera of a channel can do, and its configurations. Returns 0; otherwise every
     /// group says that it is not supported, and the result is that of a device that is away, or 10.
-    [[nodiscard]] int readCapabilities();
+    [[nodiscard]] int readCapabilities(int channel);
 
-    /// Reads the values of the chosen channel and mode. Returns 0, or the result of a device that is away.
-    [[nodiscard]] int readItems();
+    /// Reads the values of a channel and the chosen mode. Returns 0, or the result of a device that is away.
+    [[nodiscard]] int readItems(int channel);
 
     [[nodiscard]] QVariant value(const QString &key) const;
-    Outcome setValue(const QString &key, const QVariant &value, const QString &subKey);
+    Outcome setValue(const QString &key, const QVariant &value, const QString &subKey, int channel);
 
     /// The library's error of the last change that was refused or not answered.
     [[nodiscard]] int lastError() const { return m_lastError; }
@@ -53,7 +52,6 @@ private:
     void chooseMode(const QVariant &place);
 
     const ValueTables &m_tables;
-    const ChannelChoice &m_channels;
     ConfigSession m_session;
     CameraState m_state;
     int m_lastError = 0;

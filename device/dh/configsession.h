@@ -23,6 +23,10 @@ public:
     /// `handle` is 0 for no login. The login stays its owner's.
     ConfigSession(const sdk::SdkLibraries &libraries, std::int64_t handle);
 
+    /// Whether there is a login.
+    [[nodiscard]] bool isOpen() const { return m_handle != 0; }
+    [[nodiscard]] std::int64_t handle() const { return m_handle; }
+
     /// Wait of requests that have none of their own.
     static constexpr std::chrono::milliseconds usualWait{5000};
 

@@ -3,8 +3,6 @@
 #include "device/batch/batchengine.h"
 #include "device/devicerow.h"
 #include "device/devicestore.h"
-#include "device/dh/cameraconfig.h"
-#include "device/dh/encodeconfig.h"
 #include "device/dh/upgraderunner.h"
 #include "device/logging.h"
 #include "device/loginresult.h"
@@ -20,7 +18,7 @@ namespace {
 std::mutex agentListenerMutex;
 CDeviceDH *agentListener = nullptr;
 
-constexpr int maximumSessionThreads = 4;
+constexpr int maximumSessionThreads = 16;
 
 } // namespace
 
@@ -31,8 +29,7 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_engine(engine ? std::move(engine) : std::make_shared<BatchEngine>(m_libraries.clock)),
       m_search(std::make_unique<DeviceSearch>(store, m_libraries)),
       m_refresh(std::make_unique<DeviceRefresh>(std::move(store), m_libraries)),
-      m_keptLogins(m_libraries.net), m_encode(std::make_unique<EncodeConfig>(m_tables, m_channels)),
-      m_camera(std::make_unique<CameraConfig>(m_tables, m_channels)),
+      m_keptLogins(m_libraries.net), m_state(std::make_shared<SessionState>(m_tables)),
       m_upgrades(std::make_unique<UpgradeRunner>(
           m_libraries, upgradeLimits, m_engine,
           UpgradeRunner::Watchers{.changed = [this](const UpgradeOrder &order,

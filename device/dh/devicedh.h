@@ -3,9 +3,9 @@
 #include "device/devicebase.h"
 #include "device/devicerefresh.h"
 #include "device/devicesearch.h"
-#include "device/dh/channelchoice.h"
-#include "device/dh/channelnames.h"
 #include "device/dh/keptlogins.h"
+#include "device/dh/sessionrun.h"
+#include "device/dh/sessionstate.h"
 #include "device/dh/systemaction.h"
 #include "device/dh/upgradedocuments.h"
 #include "device/dh/upgradework.h"
@@ -21,8 +21,6 @@
 #include <vector>
 
 class BatchEngine;
-class CameraConfig;
-class EncodeConfig;
 class SnapThread;
 struct SnapTask;
 class UpgradeRunner;
@@ -93,6 +91,10 @@ public:
     void stopOpeningSession() override;
     void checkSession() override;
     bool isInSession(const QString &ipport) override;
+    SceneStep loginStep(const QString &ipport, const QString &account, const QString &password) override;
+    SceneStep detailStep(const QString &ipport) override;
+    void runForScene(const SceneStep &step, const std::stop_token &stop,
+                     const std::function<void(const SceneOutcome &outcome)> &ended) override;
 
     // Requests to devices that a search has found: devicedhrequests.cpp
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;
@@ -118,6 +120,7 @@ public:
     ImportPlan importPlan(const QString &path) override;
 
     // System configuration: devicedhsystem.cpp
+    /// "cancelLogin" forgets the logins at once and does not wait for their end.
     /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
     /// when it refuses, also for an unknown command and for data that make no sense. `loginCheck` keeps
     /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`. A device that is being
@@ -125,7 +128,7 @@ public:
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
     DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport) override;
 
-    // The configuration pages, of the current session's device: devicedhencode.cpp
+    // The configuration pages, of the current session's device: devicedhconfig.cpp, devicedhencode.cpp
     void getEncodeCaps() override;
     void getEncodeInfo() override;
     /// The key "loginHandle", the current session's handle or 0, may be read on any thread.
@@ -140,6 +143,7 @@ public:
     /// device, of all of them for 0 or less. Blocks for a request per name, while the device is there.
     QVariantList getDeviceChannelData(const QString &key, int channelNum) override;
     void confirmConfigData() override;
+    SceneStep sessionStep(const SessionJob &job) override;
     /// The settings of the current channel go to the channel of the same number of each device. What a device
     /// cannot do is skipped, and named in its row's "result".
     void copyConfigToDevice(const QStringList &devlist) override;
@@ -147,8 +151,6 @@ public:
     QJsonObject deviceRow(const QString &name) override;
     QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep locationStep(const QStringList &macs) override;
-
-    // The camera image page: devicedhcamera.cpp
     /// What the camera can do and its configurations; the values come with getVideoIn().
     void getCameraConfig() override;
     void getVideoIn() override;
@@ -217,6 +219,8 @@ private:
     void beginSession(const QString &ipport, const QString &account, const QString &password,
                       const SecureLogin &login);
     void endSession();
+    /// Logs out on another thread, which the waits of the library may hold up.
+    void logOutLater(const QList<std::int64_t> &handles);
     void takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer);
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
@@ -233,15 +237,14 @@ private:
     /// Emits signalCDeviceAddSingleDeviceToTable once, however often it is called before. On any thread.
     void noteChangedRows();
     void noteUpgradeRoundEnd();
-    [[nodiscard]] QVariantList sessionConnections() const;
     /// Of one channel, or of all for -1.
     [[nodiscard]] SnapTask snapTask(const QString &kind, int onlyChannel, const QString &address) const;
     /// Any thread.
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
-    /// Channels of the session's device that are asked for.
-    [[nodiscard]] int askedChannels(int wanted) const;
-    void writeChannelName(const QString &name, const QString &channel);
-    void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
+    /// Does operations of the configuration pages on this thread.
+    void perform(const std::function<void(SessionRun &run)> &operations);
+    void tell(const std::vector<SessionRun::News> &news);
+    [[nodiscard]] std::function<bool()> upgradeCheck(const QString &ipport) const;
 
     [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const Credentials &credentials,
                                            const EncodeState &state, const ChannelChoice &channels,
@@ -272,15 +275,12 @@ private:
     std::unique_ptr<DeviceSearch> m_search;
     std::unique_ptr<DeviceRefresh> m_refresh;
     Session m_session;
-    QThreadPool m_sessionThreads;                ///< of openSession()
+    QThreadPool m_sessionThreads;                ///< of openSession(), runForScene() and logouts
     std::atomic<int> m_sessionRequest = 0;       ///< the number of the last openSession() that counts
     std::atomic<int> m_deviceGeneration = 0;     ///< rises when another device is logged in to
     std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
     KeptLogins m_keptLogins;
-    ChannelChoice m_channels;    ///< of the session's device
-    ChannelNames m_channelNames; ///< of the same device
-    std::unique_ptr<EncodeConfig> m_encode;
-    std::unique_ptr<CameraConfig> m_camera;
+    std::shared_ptr<SessionState> m_state;   ///< never null; on the scene's thread
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
     UpgradeDocuments m_upgradeDocuments;
     QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row

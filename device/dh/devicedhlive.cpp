@@ -54,17 +54,6 @@ SnapOutcome snapshotOnThread(const SnapTask &task, const SnapChannel &channel, c
 
 } // namespace
 
-QVariantList CDeviceDH::sessionConnections() const
-{
-    QVariantList connected;
-    if (m_session.handle != 0) {
-        const ConfigSession session(m_libraries, m_session.handle);
-        for (const bool isConnected : connectedChannels(session, m_channels.channelCount))
-            connected.append(isConnected);
-    }
-    return connected;
-}
-
 void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address)
 {
     if (kind != allChannels && kind != oneChannel)
@@ -84,8 +73,8 @@ SnapTask CDeviceDH::snapTask(const QString &kind, int onlyChannel, const QString
                 [this, generation = m_deviceGeneration.load()] { return m_deviceGeneration == generation; },
             .sessionHandle = [this] { return m_loginHandle.load(); },
             .channels =
-                [libraries = m_libraries, handle = m_session.handle, channelCount = m_channels.channelCount,
-                 onlyChannel] {
+                [libraries = m_libraries, handle = m_session.handle,
+                 channelCount = m_state->channels.channelCount, onlyChannel] {
                     const QList<bool> connected =
                         connectedChannels(ConfigSession(libraries, handle), channelCount);
                     if (onlyChannel >= 0)
@@ -109,7 +98,7 @@ QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
     };
     const auto channels = std::make_shared<Channels>();
     QList<DeviceStep> steps;
-    for (int number = 0; number < m_channels.channelCount; ++number) {
+    for (int number = 0; number < m_state->channels.channelCount; ++number) {
         steps.append([this, channels, number,
                       task = snapTask(allChannels, -1, address)](const StepControl &control) {
             std::call_once(channels->asked, [&] { channels->list = task.channels(); });

@@ -1,9 +1,7 @@
 // The current session.
 #include "device/devicerow.h"
 #include "device/devicestore.h"
-#include "device/dh/cameraconfig.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/encodeconfig.h"
 #include "device/dh/logindetail.h"
 #include "device/dh/securelogin.h"
 #include "device/dh/sessionoffer.h"
@@ -13,11 +11,38 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
 {
     if (!m_libraries.net)
         return resultCode(LoginResult::NetworkFailure);
-    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
-    if (login.result == LoginResult::Success)
-        beginSession(ipport, account, password, login);
-    Q_EMIT signalCDeviceHighLevelLoginRet(resultCode(login.result));
-    return resultCode(login.result);
+    const SceneOutcome outcome = loginStep(ipport, account, password)(StepControl());
+    outcome.take();
+    return outcome.value.toInt();
+}
+
+SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
+{
+    return [this, ipport, account, password](const StepControl &) {
+        const auto login = std::make_shared<UntakenLogin>(
+            m_libraries.net, secureLogin(m_libraries.net.get(), ipport, account, password));
+        const int result = resultCode(login->result());
+        return SceneOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
+                                if (login->result() == LoginResult::Success)
+                                    beginSession(ipport, account, password, login->take());
+                                Q_EMIT signalCDeviceHighLevelLoginRet(result);
+                            }};
+    };
+}
+
+void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
+                            const std::function<void(const SceneOutcome &outcome)> &ended)
+{
+    m_sessionThreads.start([this, step, stop, ended] {
+        if (stop.stop_requested())
+            return;
+        const SceneOutcome outcome = step(StepControl(stop, nullptr, StepControl::noDeadline, {}));
+        if (stop.stop_requested())
+            return;
+        // Behind the signals that the step has emitted on this thread. Dropped with this object.
+        QMetaObject::invokeMethod(
+            this, [ended, outcome] { ended(outcome); }, Qt::QueuedConnection);
+    });
 }
 
 int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const QString &password)
@@ -37,15 +62,22 @@ int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const Q
 
 QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
 {
-    const Credentials known = credentialsOf(ipport);
-    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, known.account, known.password);
-    QVariantMap detail;
-    if (login.handle != 0) {
-        detail = loginDetail(ConfigSession(m_libraries, login.handle));
-        m_libraries.net->NetLogout(login.handle);
-    }
-    detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
-    return detail;
+    return detailStep(ipport)(StepControl()).value.toMap();
+}
+
+SceneStep CDeviceDH::detailStep(const QString &ipport)
+{
+    return [libraries = m_libraries, ipport, known = credentialsOf(ipport)](const StepControl &control) {
+        const SecureLogin login = secureLogin(libraries.net.get(), ipport, known.account, known.password);
+        QVariantMap detail;
+        if (login.handle != 0) {
+            if (!control.shouldEnd())
+                detail = loginDetail(ConfigSession(libraries, login.handle));
+            libraries.net->NetLogout(login.handle);
+        }
+        detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
+        return SceneOutcome{.value = detail, .take = {}};
+    };
 }
 
 void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,
@@ -56,7 +88,7 @@ void CDeviceDH::openSession(const QString &ipport, const QString &account, const
                                 .account = account,
                                 .password = password,
                                 .handle = isCurrent ? m_session.handle : 0,
-                                .channelCount = isCurrent ? m_channels.channelCount : 0,
+                                .channelCount = isCurrent ? m_state->channels.channelCount : 0,
                                 .readsChannels = readsChannels};
     const SessionRequest request = {.number = ++m_sessionRequest, .sessionBefore = m_session.handle};
     m_sessionThreads.start([this, order, request, libraries = m_libraries] {
@@ -119,14 +151,17 @@ void CDeviceDH::beginSession(const QString &ipport, const QString &account, cons
                  .account = account,
                  .password = password};
     m_loginHandle = login.handle; // before the other is logged out: snapshots go on in the new session
-    m_channels = {};
-    m_channels.channelCount = login.channelCount;
-    const ConfigSession session(m_libraries, login.handle);
-    m_channelNames.begin(session);
-    m_encode->begin(session);
-    m_camera->begin(session);
+    m_state->begin(ConfigSession(m_libraries, login.handle), ipport, login.channelCount);
     if (before != 0)
-        m_libraries.net->NetLogout(before);
+        logOutLater({before});
+}
+
+void CDeviceDH::logOutLater(const QList<std::int64_t> &handles)
+{
+    m_sessionThreads.start([net = m_libraries.net, handles] {
+        for (const std::int64_t handle : handles)
+            net->NetLogout(handle);
+    });
 }
 
 void CDeviceDH::endSession()
@@ -135,8 +170,5 @@ void CDeviceDH::endSession()
     if (m_session.handle != 0 && m_libraries.net)
         m_libraries.net->NetLogout(m_session.handle);
     m_session = {};
-    m_channels = {};
-    m_channelNames.begin(ConfigSession());
-    m_encode->begin(ConfigSession());
-    m_camera->begin(ConfigSession());
+    m_state->begin(ConfigSession(), {}, 0);
 }

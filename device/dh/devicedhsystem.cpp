@@ -40,7 +40,7 @@ bool changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString 
 void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
 {
     if (command == QLatin1String("cancelLogin")) {
-        m_keptLogins.letAllGo();
+        logOutLater(m_keptLogins.takeAll());
         return;
     }
     bool hasPassed = false;

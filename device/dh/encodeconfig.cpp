@@ -34,10 +34,7 @@ const EncodeState &nothing()
 
 } // namespace
 
-EncodeConfig::EncodeConfig(const ValueTables &tables, const ChannelChoice &channels)
-    : m_values(tables), m_tables(tables), m_channels(channels)
-{
-}
+EncodeConfig::EncodeConfig(const ValueTables &tables) : m_values(tables), m_tables(tables) {}
 
 void EncodeConfig::begin(const ConfigSession &session)
 {
@@ -46,12 +43,12 @@ void EncodeConfig::begin(const ConfigSession &session)
     m_takenItems.clear();
 }
 
-int EncodeConfig::read()
+int EncodeConfig::read(const ChannelChoice &channels)
 {
     m_takenItems.clear();
     EncodeState state = m_state.value_or(EncodeState());
     const EncodeReading reading =
-        readEncodeState(m_session, m_channels.curChannel, m_channels.curStreamType, state);
+        readEncodeState(m_session, channels.curChannel, channels.curStreamType, state);
     if (reading.isFetched && reading.isAsked)
         m_state = state;
     else if (reading.isFetched)
@@ -66,7 +63,7 @@ void EncodeConfig::forgetItems()
         m_state->main = m_state->sub = {};
 }
 
-QVariant EncodeConfig::value(const QString &key) const
+QVariant EncodeConfig::value(const QString &key, const ChannelChoice &channels) const
 {
     if (key == takenItemsKey)
         return m_takenItems;
@@ -80,7 +77,7 @@ QVariant EncodeConfig::value(const QString &key) const
         }
         return key == unreadItemsKey ? QVariant(names) : QVariant(places);
     }
-    return m_values.value(key, state, m_channels.curStreamType);
+    return m_values.value(key, state, channels.curStreamType);
 }
 
 QString EncodeConfig::linesOf(const QList<int> &items) const
@@ -95,7 +92,8 @@ QString EncodeConfig::linesOf(const QList<int> &items) const
     return lines;
 }
 
-EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant &value)
+EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant &value,
+                                             const ChannelChoice &channels)
 {
     m_takenItems.clear();
     if (!m_state || !m_values.setValue(key, value, *m_state)) {
@@ -105,27 +103,26 @@ EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant 
     if (key != QLatin1String("subCurResolution"))
         return {};
     Outcome outcome;
-    if (!writeSubResolution()) {
+    // To the channel of the other page: that is the one that devices are set up with here.
+    if (!writeSubResolution(channels.curVideoChannel)) {
         outcome.notWritten = linesOf({subVideoFormat});
         if (m_session.isDeviceAway()) { // to read would only wait again
             outcome.result = static_cast<int>(m_session.lastError());
             return outcome;
         }
-    } else if (m_channels.curVideoChannel == m_channels.curChannel) {
+    } else if (channels.curVideoChannel == channels.curChannel) {
         m_takenItems.append(subVideoFormat);
     }
-    outcome.result = readEncodeCapabilities(m_session, m_channels.curChannel, *m_state).result;
+    outcome.result = readEncodeCapabilities(m_session, channels.curChannel, *m_state).result;
     return outcome;
 }
 
-bool EncodeConfig::writeSubResolution()
+bool EncodeConfig::writeSubResolution(int channel)
 {
     sdk::VideoFormatItem &item = m_state->sub.videoFormat;
     const std::int32_t wantedBitRate = item.bitRate;
-    const auto isTaken = [this, &item] {
-        // To the channel of the other page: that is the one that devices are set up with here.
-        return m_session.writeItem(static_cast<std::uint32_t>(sdk::EncodeItem::VideoFormat),
-                                   m_channels.curVideoChannel, item);
+    const auto isTaken = [this, &item, channel] {
+        return m_session.writeItem(static_cast<std::uint32_t>(sdk::EncodeItem::VideoFormat), channel, item);
     };
     if (isTaken())
         return true;
@@ -144,11 +141,11 @@ bool EncodeConfig::writeSubResolution()
     return false;
 }
 
-EncodeConfig::Outcome EncodeConfig::confirm()
+EncodeConfig::Outcome EncodeConfig::confirm(const ChannelChoice &channels)
 {
     EncodeWriting writing;
     if (m_state)
-        writing = writeEncodeItems(m_session, m_channels.curChannel, *m_state);
+        writing = writeEncodeItems(m_session, channels.curChannel, *m_state);
     const int error = writing.isDeviceAway ? static_cast<int>(m_session.lastError()) : 0;
     const QList<int> unread = (m_state ? *m_state : nothing()).unreadItems();
     QList<int> notWritten;

@@ -46,13 +46,19 @@ void KeptLogins::letGo(const QString &ipport)
 
 void KeptLogins::letAllGo()
 {
-    QMap<QString, KeptLogin> logins;
-    {
-        const std::lock_guard lock(m_mutex);
-        logins.swap(m_logins);
-    }
-    for (const KeptLogin &login : std::as_const(logins)) {
+    const QList<std::int64_t> handles = takeAll();
+    for (const std::int64_t handle : handles) {
         if (m_net)
-            m_net->NetLogout(login.loginHandle);
+            m_net->NetLogout(handle);
     }
+}
+
+QList<std::int64_t> KeptLogins::takeAll()
+{
+    const std::lock_guard lock(m_mutex);
+    QList<std::int64_t> handles;
+    for (const KeptLogin &login : std::as_const(m_logins))
+        handles.append(login.loginHandle);
+    m_logins.clear();
+    return handles;
 }

@@ -1,6 +1,7 @@
 // Logins that are kept open between the check of an old password and the new one.
 #pragma once
 
+#include <QList>
 #include <QMap>
 #include <QString>
 
@@ -42,6 +43,9 @@ public:
 
     void letGo(const QString &ipport);
     void letAllGo();
+
+    /// Forgets all logins. Their handles are the caller's from now on.
+    [[nodiscard]] QList<std::int64_t> takeAll();
 
 private:
     const std::shared_ptr<sdk::NetLibrary> m_net;

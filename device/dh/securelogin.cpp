@@ -3,6 +3,8 @@
 #include "sdk/blocktext.h"
 #include "sdk/netlibrary.h"
 
+#include <utility>
+
 SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
                         const QString &password)
 {
@@ -36,4 +38,22 @@ SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QStri
             .handle = handle,
             .loginKind = output.device.loginKind,
             .channelCount = output.device.channelCount};
+}
+
+UntakenLogin::UntakenLogin(std::shared_ptr<sdk::NetLibrary> net, const SecureLogin &login)
+    : m_net(std::move(net)), m_login(login)
+{
+}
+
+UntakenLogin::~UntakenLogin()
+{
+    if (m_login.handle != 0)
+        m_net->NetLogout(m_login.handle);
+}
+
+SecureLogin UntakenLogin::take()
+{
+    SecureLogin login = m_login;
+    m_login.handle = 0;
+    return login;
 }

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <memory>
 
 namespace sdk {
 class NetLibrary;
@@ -23,3 +24,23 @@ struct SecureLogin
 /// has answered or the library has given it up. Fails as a network failure without a library (`net` is null).
 [[nodiscard]] SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
                                       const QString &password);
+
+/// A login that waits to be taken over. It is logged out when nobody does.
+class UntakenLogin
+{
+public:
+    /// `net` may be null when there is no handle.
+    UntakenLogin(std::shared_ptr<sdk::NetLibrary> net, const SecureLogin &login);
+    ~UntakenLogin();
+    UntakenLogin(const UntakenLogin &) = delete;
+    UntakenLogin &operator=(const UntakenLogin &) = delete;
+
+    [[nodiscard]] LoginResult result() const { return m_login.result; }
+
+    /// The handle is the caller's from now on.
+    [[nodiscard]] SecureLogin take();
+
+private:
+    const std::shared_ptr<sdk::NetLibrary> m_net;
+    SecureLogin m_login;
+};

@@ -103,6 +103,11 @@ public:
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
     }
 
+    /// Stops the time: who waits for a device waits until it goes on.
+    void stopTime() { m_time.reset(); }
+    void letTimePass() { m_time = std::make_unique<FlowingClock>(*m_clock); }
+    [[nodiscard]] sdk::demo::SteppableClock &clock() const { return *m_clock; }
+
     int login(const sdk::demo::SceneDevice &device) const
     {
         const int result = factory->findAndLoginDevice(QStringLiteral("dh"), ipportOf(device),
@@ -164,5 +169,6 @@ public:
     std::unique_ptr<CDeviceFactory> factory;
 
 private:
-    FlowingClock m_time{*m_clock}; // ends first: then nobody waits any more
+    std::unique_ptr<FlowingClock> m_time =
+        std::make_unique<FlowingClock>(*m_clock); // ends first: then nobody waits any more
 };

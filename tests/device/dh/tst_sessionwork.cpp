@@ -1,0 +1,263 @@
+// Work that the configuration page waits for, while the scene goes on.
+#include "device/sessionwork.h"
+#include "tests/datatable.h"
+#include "tests/device/dh/configsite.h"
+
+using sdk::demo::Fault;
+using sdk::demo::SceneDevice;
+
+namespace {
+
+using Begin = std::function<void(SessionWork &work)>;
+
+} // namespace
+Q_DECLARE_METATYPE(Begin)
+
+class TestSessionWork : public QObject
+{
+    Q_OBJECT
+private:
+    const SceneDevice m_recorder = configDevice(1, "NVR", 2);
+    const SceneDevice m_camera = configDevice(2, "IPC", 1);
+    std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<SessionWork> m_work;
+    static constexpr int slowness = 300; ///< milliseconds
+    QStringList m_told;                  ///< signals of the factory and of the work, in their order
+
+    void setFault(const SceneDevice &device, Fault fault, int number = 0) const
+    {
+        m_site->site->setFault(device.mac, {.fault = fault, .number = number, .text = {}});
+    }
+    void login(const SceneDevice &device) const { m_work->login(ipportOf(device), "admin", "secret1"); }
+    /// Every login but `open` ones was logged out.
+    [[nodiscard]] bool loginsAreOpen(qsizetype open) const
+    {
+        return m_site->asked("NetLoginSecure").size() == m_site->asked("NetLogout").size() + open;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{m_recorder, m_camera});
+        m_work = std::make_unique<SessionWork>();
+        m_work->setDeviceFactory(m_site->factory.get());
+        m_told.clear();
+        const CDeviceFactory *factory = m_site->factory.get();
+        connect(factory, &CDeviceFactory::signalHighLevelLoginRet, m_work.get(),
+                [this](int result) { m_told.append("login " + QString::number(result)); });
+        connect(factory, &CDeviceFactory::signalGetDeviceCapRet, m_work.get(), [this](int result) {
+            m_told.append(isDeviceAway(static_cast<std::uint32_t>(result))
+                              ? QString("away")
+                              : "cap " + QString::number(result));
+        });
+        connect(factory, &CDeviceFactory::signalChangeEncodeChannel, m_work.get(),
+                [this] { m_told.append("encode channel"); });
+        connect(factory, &CDeviceFactory::signalChangeVideoChannel, m_work.get(),
+                [this] { m_told.append("video channel"); });
+        connect(factory, &CDeviceFactory::signalChangeVideoType, m_work.get(),
+                [this] { m_told.append("video type"); });
+        connect(factory, &CDeviceFactory::signalConfirmEncodeConfig, m_work.get(),
+                [this](const QString &text) { m_told.append(text.isEmpty() ? "saved" : "not saved"); });
+        connect(m_work.get(), &DeviceWork::ended, m_work.get(), [this] { m_told.append("ended"); });
+        connect(m_work.get(), &SessionWork::otherLogin, m_work.get(), [this] { m_told.append("other"); });
+    }
+
+    void cleanup()
+    {
+        m_work.reset();
+        m_site.reset();
+    }
+
+    void theSceneGoesOnAndIsToldInOrder_data()
+    {
+        const auto row = dataTable<bool, Begin, QStringList>({"isDead", "begin", "told"});
+        const QString ipport = ipportOf(m_recorder);
+        const Begin logIn = [ipport](SessionWork &work) {
+            work.login(ipport, "admin", "secret1");
+        };
+        const Begin detail = [ipport](SessionWork &work) {
+            work.readDetail(ipport);
+        };
+        const Begin read = &SessionWork::readEncoding;
+        const Begin choose = [](SessionWork &work) {
+            work.chooseEncoding("curChannel", 1);
+        };
+        const Begin write = [](SessionWork &work) {
+            work.writeEncodeValue("subCurResolution", "CIF");
+        };
+        const Begin save = &SessionWork::saveEncoding;
+        const Begin image = [](SessionWork &work) {
+            work.readImage(1);
+        };
+        const Begin changeImage = [](SessionWork &work) {
+            work.writeImage("curChannelName", {QVariant(QVariantList{"", "west"})});
+        };
+        const Begin names = &SessionWork::readNames;
+        const Begin name = [](SessionWork &work) {
+            work.writeName(1, "east");
+        };
+        row("login", false, logIn, {"login 0", "ended"});
+        row("login, dead", true, logIn, {"login 5", "ended"});
+        row("detail", false, detail, {"ended"});
+        row("encoding", false, read, {"cap 0", "ended"});
+        row("encoding, dead", true, read, {"away", "ended"});
+        row("channel", false, choose, {"encode channel", "cap 0", "ended"});
+        row("size, dead", true, write, {"not saved", "away", "ended"});
+        row("save", false, save, {"saved", "ended"});
+        row("save, dead", true, save, {"not saved", "away", "ended"});
+        row("image", false, image, {"video channel", "ended"});
+        row("image, dead", true, image, {"away", "ended"}); // nothing is asked after that
+        row("image write, dead", true, changeImage, {"video type", "away", "ended"});
+        row("names", false, names, {"ended"});
+        row("names, dead", true, names, {"away", "ended"});
+        row("name, dead", true, name, {"away", "ended"});
+    }
+
+    /// A device that dies between the login and the request, and one that answers.
+    void theSceneGoesOnAndIsToldInOrder()
+    {
+        QFETCH(bool, isDead);
+        QFETCH(Begin, begin);
+        QCOMPARE(m_site->login(m_recorder), 0);
+        m_site->factory->getEncodeCaps("dh");
+        m_site->factory->getCameraConfig("dh");
+        m_site->factory->getVideoIn("dh");
+        if (isDead)
+            setFault(m_recorder, Fault::NoAnswer);
+        else
+            setFault(m_recorder, Fault::SlowAnswers, slowness);
+        m_told.clear();
+        m_site->stopTime();
+        begin(*m_work);
+        QTRY_VERIFY(m_site->clock().waiters() > 0); // the device is being waited for, and events are handled
+        QVERIFY(m_work->isRunning());
+        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_recorder));
+        QCOMPARE(m_site->shown("curChannel curVideoChannel"), "0|0");
+        QVERIFY(!m_site->get("encodeMode").toStringList().isEmpty());
+        QCOMPARE(m_told, QStringList());
+        m_site->letTimePass();
+        QTRY_VERIFY(!m_work->isRunning());
+        QTEST(m_told, "told");
+    }
+
+    void theLastWishCounts()
+    {
+        setFault(m_recorder, Fault::NoAnswer);
+        setFault(m_camera, Fault::SlowAnswers, slowness);
+        m_site->stopTime();
+        const std::int64_t begin = m_site->clock().now();
+        login(m_recorder);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        login(m_camera);
+        QTRY_COMPARE(m_site->clock().waiters(), 2); // it does not queue behind the dead one
+        m_site->clock().advance(std::chrono::milliseconds(slowness));
+        QTRY_COMPARE(m_told, QStringList({"login 0", "ended"}));
+        QCOMPARE(m_site->clock().now() - begin, slowness);
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->clock().waiters(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_told, QStringList({"login 0", "ended"}));
+        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
+    }
+
+    void aLoginThatComesTooLateIsLoggedOut()
+    {
+        setFault(m_recorder, Fault::SlowAnswers, slowness);
+        m_site->stopTime();
+        login(m_recorder);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        m_work->cancel();
+        QVERIFY(!m_work->isRunning());
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->asked("NetLogout").size(), 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_told, QStringList());
+        QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
+    }
+
+    void aLoginThatNobodyTakesIsLoggedOut()
+    {
+        login(m_recorder);
+        QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
+        m_work.reset(); // the page goes
+        QTRY_VERIFY(loginsAreOpen(0));
+        QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
+    }
+
+    void theLoginBeforeIsLoggedOut()
+    {
+        for (const SceneDevice &device : {m_recorder, m_camera, m_recorder}) {
+            login(device);
+            QTRY_VERIFY(!m_work->isRunning());
+            QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(device));
+            QTRY_VERIFY(loginsAreOpen(1));
+        }
+    }
+
+    /// The live view works with the same session.
+    void anotherPagesLoginDropsTheWork()
+    {
+        QCOMPARE(m_site->login(m_recorder), 0);
+        setFault(m_recorder, Fault::NoAnswer);
+        setFault(m_camera, Fault::SlowAnswers, slowness);
+        m_told.clear();
+        m_site->stopTime();
+        m_work->chooseEncoding("curChannel", 1);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        m_site->factory->openSession("dh", ipportOf(m_camera), "admin", "secret1", false);
+        QTRY_COMPARE(m_site->clock().waiters(), 2);
+        QVERIFY(QTest::qWaitFor([this] {
+            if (m_site->clock().waiters() == 2)
+                m_site->clock().advance(std::chrono::milliseconds(slowness));
+            return m_told.contains("other");
+        }));
+        QVERIFY(!m_work->isRunning());
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->clock().waiters(), 0);
+        QCoreApplication::processEvents();
+        QVERIFY(!m_told.contains("ended") && !m_told.contains("encode channel"));
+        QCOMPARE(m_site->shown("sessionDevice curChannel"), ipportOf(m_camera) + "|0");
+    }
+
+    void aDeviceIsAddedUnlessItIsCancelled_data()
+    {
+        const auto row = dataTable<bool>({"isCancelled"});
+        row("added", false);
+        row("cancelled", true);
+    }
+
+    void aDeviceIsAddedUnlessItIsCancelled()
+    {
+        QFETCH(bool, isCancelled);
+        QSignalSpy listed(m_site->factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        setFault(m_recorder, Fault::SlowAnswers, slowness);
+        m_site->stopTime();
+        m_work->addDevice({{"mode", 0},
+                           {"address", m_recorder.address},
+                           {"port", "37777"},
+                           {"account", "admin"},
+                           {"password", "secret1"}});
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        if (isCancelled)
+            m_work->cancel();
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->asked("NetLogout").size(), 1);
+        QTRY_COMPARE(m_told, isCancelled ? QStringList() : QStringList("ended"));
+        QCOMPARE(listed.isEmpty(), isCancelled);
+        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_recorder)).isEmpty(), isCancelled);
+    }
+
+    void theEndCutsTheWait()
+    {
+        setFault(m_recorder, Fault::NoAnswer);
+        m_site->stopTime();
+        login(m_recorder);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        m_site->factory.reset(); // the time stands still: it would never end
+        QCoreApplication::processEvents();
+        QCOMPARE(m_told, QStringList());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSessionWork)
+#include "tst_sessionwork.moc"
