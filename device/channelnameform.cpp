@@ -1,41 +1,10 @@
 #include "device/channelnameform.h"
 
 #include "device/bytetext.h"
-#include "device/devicefactory.h"
 #include "device/loginresult.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
-
-namespace {
-
-const QString family = QStringLiteral("dh");
-
-/// The page shows that a saving has begun before the first request blocks it.
-constexpr std::chrono::milliseconds firstTurn{32};
-constexpr std::chrono::milliseconds nextTurn{1};
-
-} // namespace
-
-ChannelNameForm::ChannelNameForm(QObject *parent) : DialogRows(parent)
-{
-    m_turn.setSingleShot(true);
-    connect(&m_turn, &QTimer::timeout, this, &ChannelNameForm::saveNext);
-}
-
-CDeviceFactory *ChannelNameForm::deviceFactory() const
-{
-    return m_deviceFactory;
-}
-
-void ChannelNameForm::setDeviceFactory(CDeviceFactory *deviceFactory)
-{
-    if (m_deviceFactory == deviceFactory)
-        return;
-    m_deviceFactory = deviceFactory;
-    Q_EMIT deviceFactoryChanged();
-}
 
 int ChannelNameForm::rowCount(const QModelIndex &parent) const
 {
@@ -60,15 +29,9 @@ int ChannelNameForm::untoldCount() const
                                           [](const Row &row) { return row.isConnected && !row.isTold; }));
 }
 
-void ChannelNameForm::read()
+void ChannelNameForm::load(const QVariantList &names, const QVariantList &connected)
 {
-    if (!m_deviceFactory)
-        return;
-    stopSaving();
-    const QVariantList names =
-        m_deviceFactory->getDeviceChannelData(family, QStringLiteral("channelNames"), 0);
-    const QVariantList connected =
-        m_deviceFactory->getDeviceChannelData(family, QStringLiteral("channelsConnected"), 0);
+    dropSaving();
     beginResetModel();
     m_rows.clear();
     for (qsizetype channel = 0; channel < names.size(); ++channel) {
@@ -115,29 +78,6 @@ int ChannelNameForm::firstFaulty() const
     return found == m_rows.cend() ? -1 : static_cast<int>(found - m_rows.cbegin());
 }
 
-ChannelNameForm::Trouble ChannelNameForm::write(int row)
-{
-    if (!m_deviceFactory || row < 0 || row >= m_rows.size())
-        return None;
-    const QString name = m_rows.at(row).name.trimmed();
-    m_deviceFactory->setConfigData(family, QStringLiteral("channelName"), name, QString::number(row));
-    const int result =
-        m_deviceFactory->getConfigData(family, QStringLiteral("channelNameResult"), row).toInt();
-    Row &written = m_rows[row];
-    if (result == resultCode(LoginResult::Success)) {
-        const QVariant told = m_deviceFactory->getConfigData(family, QStringLiteral("channelName"), row);
-        written.saved = written.name = told.isValid() ? told.toString() : name;
-        written.isTold = true;
-        written.lastWrite = written.saved == name ? None : Different;
-    } else if (result == resultCode(LoginResult::Upgrading)) {
-        written.lastWrite = Upgrading;
-    } else {
-        written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? Unanswered : Refused;
-    }
-    tellOf(row);
-    return written.lastWrite;
-}
-
 void ChannelNameForm::save()
 {
     if (isSaving())
@@ -149,25 +89,54 @@ void ChannelNameForm::save()
     if (!isSaving())
         return;
     m_saveTurns = 0;
-    Q_EMIT savingChanged();
-    m_turn.start(firstTurn);
+    requestNext();
 }
 
-void ChannelNameForm::saveNext()
+void ChannelNameForm::requestNext()
 {
-    const Trouble trouble = write(m_rowsToSave.at(m_saveTurns++));
-    // A request may run events in which the saving is stopped.
-    if (!isSaving())
-        return;
-    if (trouble == Unanswered || trouble == Upgrading || m_saveTurns == m_rowsToSave.size()) {
-        finishSaving();
-        return;
-    }
+    const int row = savingRow();
     Q_EMIT savingChanged();
-    m_turn.start(nextTurn);
+    if (row != savingRow()) // it was stopped
+        return;
+    m_isWriting = true;
+    Q_EMIT writeRequested(row, m_rows.at(row).name.trimmed());
+}
+
+void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
+{
+    if (row < 0 || row >= m_rows.size())
+        return;
+    Row &written = m_rows[row];
+    if (result == resultCode(LoginResult::Success)) {
+        const QString wanted = written.name.trimmed();
+        written.saved = written.name = name.isValid() ? name.toString() : wanted;
+        written.isTold = true;
+        written.lastWrite = written.saved == wanted ? None : Different;
+    } else if (result == resultCode(LoginResult::Upgrading)) {
+        written.lastWrite = Upgrading;
+    } else {
+        written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? Unanswered : Refused;
+    }
+    const Trouble trouble = written.lastWrite;
+    tellOf(row);
+    if (row != savingRow())
+        return;
+    m_isWriting = false;
+    ++m_saveTurns;
+    if (m_isStopping || trouble == Unanswered || trouble == Upgrading || m_saveTurns == m_rowsToSave.size())
+        finishSaving();
+    else
+        requestNext();
 }
 
 void ChannelNameForm::stopSaving()
+{
+    m_isStopping = m_isWriting;
+    if (!m_isWriting)
+        dropSaving();
+}
+
+void ChannelNameForm::dropSaving()
 {
     if (isSaving())
         finishSaving();
@@ -175,7 +144,7 @@ void ChannelNameForm::stopSaving()
 
 void ChannelNameForm::finishSaving()
 {
-    m_turn.stop();
+    m_isWriting = m_isStopping = false;
     const QList<int> rows = std::exchange(m_rowsToSave, {});
     const auto tried = rows.first(m_saveTurns);
     const auto isWritten = [this](int row) {
@@ -196,12 +165,6 @@ int ChannelNameForm::savingRow() const
 double ChannelNameForm::savingProgress() const
 {
     return isSaving() ? static_cast<double>(m_saveTurns) / static_cast<double>(m_rowsToSave.size()) : 0;
-}
-
-void ChannelNameForm::reportSaving()
-{
-    if (m_deviceFactory)
-        m_deviceFactory->setConfigData(family, QStringLiteral("channelNamesSaved"), true);
 }
 
 ChannelNameForm::Trouble ChannelNameForm::troubleOf(const Row &row) const

@@ -4,27 +4,20 @@
 #include "device/dialogrows.h"
 
 #include <QList>
-#include <QPointer>
-#include <QTimer>
-
-class CDeviceFactory;
+#include <QVariantList>
 
 /// One row for each channel. What the user types stays here until it is written, each channel for itself.
-/// Roles are those of DialogRows; "identity" is the channel's number. Reading and writing send requests and
-/// block for the waits of the library; a saving writes one name in each turn of the event loop. Lives on the
-/// scene's thread.
+/// Roles are those of DialogRows; "identity" is the channel's number. Asks no device: the page does what
+/// writeRequested() asks for and tells what came of it. Lives on the scene's thread.
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT
-    Q_MOC_INCLUDE("device/devicefactory.h")
-    Q_PROPERTY(
-        CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY changed) ///< rows whose last write failed
     Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< cameras whose name is not known
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
-    Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< that is written next; -1 for none
+    Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< that is being written; -1 for none
     Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1
 public:
     /// What a row is to be told apart by.
@@ -41,18 +34,16 @@ public:
     };
     Q_ENUM(Trouble)
 
-    explicit ChannelNameForm(QObject *parent = nullptr);
-
-    [[nodiscard]] CDeviceFactory *deviceFactory() const;
-    void setDeviceFactory(CDeviceFactory *deviceFactory);
+    explicit ChannelNameForm(QObject *parent = nullptr) : DialogRows(parent) {}
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] int changedCount() const;
     [[nodiscard]] int failedCount() const;
     [[nodiscard]] int untoldCount() const;
 
-    /// Reads all names anew; what was changed and not written is gone.
-    Q_INVOKABLE void read();
+    /// Takes the names as they were read, null for one that the device does not tell, and which channels have
+    /// a camera. What was changed and not written is gone.
+    Q_INVOKABLE void load(const QVariantList &names, const QVariantList &connected);
 
     /// Takes what the user has typed for a row, without what cannot be seen and breaks lines or turns letters
     /// around.
@@ -67,29 +58,32 @@ public:
     /// The first changed row that cannot be written as it is, -1 when there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
 
-    /// Writes the name of a row and reads it back. Returns how that ended: None, Refused, Unanswered,
-    /// Upgrading or Different.
-    Q_INVOKABLE ChannelNameForm::Trouble write(int row);
-
-    /// Writes the changed names, in the order of their channels. Ends early when the device is away or is
-    /// being upgraded: the others would end the same. Does nothing during a saving, or when nothing is
-    /// changed.
+    /// Asks for the writing of the changed names, one after another in the order of their channels. Ends
+    /// early when the device is away or is being upgraded: the others would end the same. Does nothing during
+    /// a saving, or when nothing is changed.
     Q_INVOKABLE void save();
 
-    /// Leaves out the names that are not written yet.
+    /// What has come of the writing of a row's name: `result` is 0, a LoginResult, or another code of a
+    /// refusal. `name` is what the device has now, null when it does not tell. A saving goes on with the next
+    /// row.
+    Q_INVOKABLE void takeWritten(int row, int result, const QVariant &name);
+
+    /// Leaves out the names that are not written yet. The saving ends with the name that is being written.
     Q_INVOKABLE void stopSaving();
+
+    /// Ends the saving at once: nothing comes any more of the name that is being written.
+    Q_INVOKABLE void dropSaving();
 
     [[nodiscard]] bool isSaving() const { return !m_rowsToSave.isEmpty(); }
     [[nodiscard]] int savingRow() const;
     [[nodiscard]] double savingProgress() const;
 
-    /// Reports a saving that has ended: the factory's signalSetChannelNameFinished follows.
-    Q_INVOKABLE void reportSaving();
-
 Q_SIGNALS:
-    void deviceFactoryChanged();
     void changed();
     void savingChanged();
+
+    /// The name of a row is to be written; takeWritten() is to follow.
+    void writeRequested(int row, const QString &name);
 
     /// `rows` are those that were to be written. Of them `written` were taken by the device, and `failedRow`
     /// is the first whose write failed, -1 when none has.
@@ -121,12 +115,12 @@ private:
     [[nodiscard]] Trouble troubleOf(const Row &row) const;
     void change(int row, const QString &name);
     void tellOf(int row);
-    void saveNext();
+    void requestNext();
     void finishSaving();
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
-    QList<Row> m_rows;                        ///< by channel
-    QTimer m_turn;                            ///< to the next name of a saving
-    QList<int> m_rowsToSave;                  ///< of the saving that runs
-    qsizetype m_saveTurns = 0;                ///< rows that were come to
+    QList<Row> m_rows;         ///< by channel
+    QList<int> m_rowsToSave;   ///< of the saving that runs
+    qsizetype m_saveTurns = 0; ///< rows that were come to
+    bool m_isWriting = false;  ///< takeWritten() is awaited by the saving
+    bool m_isStopping = false; ///< with it the saving ends
 };

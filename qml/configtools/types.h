@@ -16,9 +16,11 @@
 #include "device/devicefactory.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
+#include "device/devicework.h"
 #include "device/dialogrows.h"
 #include "device/encodeform.h"
 #include "device/failedmarks.h"
+#include "device/sessionwork.h"
 #include "device/systemtools.h"
 #include "device/treemodel.h"
 #include "device/treerows.h"
@@ -207,4 +209,18 @@ struct EncodeFormForeign
     Q_GADGET
     QML_FOREIGN(EncodeForm)
     QML_NAMED_ELEMENT(EncodeForm)
+};
+
+struct DeviceWorkForeign
+{
+    Q_GADGET
+    QML_FOREIGN(DeviceWork)
+    QML_NAMED_ELEMENT(DeviceWork)
+};
+
+struct SessionWorkForeign
+{
+    Q_GADGET
+    QML_FOREIGN(SessionWork)
+    QML_NAMED_ELEMENT(SessionWork)
 };

@@ -118,7 +118,9 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
         [&] {
             const QQuickItem *hold = find(QStringLiteral("inputHold"));
             const bool isHeld = hold && hold->property("stopper").value<QQuickItem *>() != item;
-            return !isHeld && !isUnderNotice(middleOf(item));
+            const QQuickItem *sheet = find(QStringLiteral("workHold"));
+            const bool isUnderSheet = sheet && sheet->contains(sheet->mapFromScene(QPointF(middleOf(item))));
+            return !isHeld && !isUnderSheet && !isUnderNotice(middleOf(item));
         },
         30);
     QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(item));

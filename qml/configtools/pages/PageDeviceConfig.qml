@@ -48,8 +48,8 @@ FocusScope {
     }
 
     function choose(ipport) {
-        if (ipport !== session.device || !session.loggedIn)
-            leave(() => session.open(ipport));
+        if (ipport !== session.device || !session.loggedIn && !session.busy)
+            session.work.afterWriting(() => leave(() => session.open(ipport)));
     }
 
     function copy() {
@@ -94,7 +94,7 @@ FocusScope {
         onSaid: (message, kind, stay) => page.said(message, kind, stay)
     }
     BusyReport {
-        active: session.busy || session.names.running
+        active: session.writing  // what is only read is given up
         need: BusyState.Program
         state: page.busyState
         title: qsTr("设备配置")

@@ -1,6 +1,7 @@
 // The names of channels on a simulated recorder: read, edited and written, each channel for itself.
 #include "device/bytetext.h"
 #include "device/channelnameform.h"
+#include "device/sessionwork.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 
@@ -49,9 +50,25 @@ private:
     std::unique_ptr<ChannelNameForm> form() const
     {
         auto form = std::make_unique<ChannelNameForm>();
-        form->setDeviceFactory(m_site->factory.get());
-        form->read();
+        form->load(names(0), m_site->factory->getDeviceChannelData("dh", "channelsConnected", 0));
+        auto *work = new SessionWork(form.get());
+        work->setDeviceFactory(m_site->factory.get());
+        connect(form.get(), &ChannelNameForm::writeRequested, work, &SessionWork::writeName);
+        connect(work, &SessionWork::ended, form.get(), [form = form.get()](const QVariant &value) {
+            form->takeWritten(form->savingRow(), value.toMap().value("result").toInt(),
+                              value.toMap().value("name"));
+        });
         return form;
+    }
+
+    void reportSaving() const { m_site->set("channelNamesSaved", true); }
+
+    /// Saves what was changed and returns how that ended for a row.
+    static ChannelNameForm::Trouble saved(ChannelNameForm &form, int row)
+    {
+        QSignalSpy saved(&form, &ChannelNameForm::saved);
+        form.save();
+        return saved.wait() ? troubleOf(form, row) : ChannelNameForm::Unknown;
     }
 
     /// Saves new names of three channels and returns the arguments of saved().
@@ -134,16 +151,16 @@ private Q_SLOTS:
             return m_site->get("channelNamesResult").toInt();
         };
         const auto names = form();
-        names->reportSaving(); // of nothing
+        reportSaving(); // of nothing
         QCOMPARE(finished.size(), 0);
         QCOMPARE(result(), -1);
         QCOMPARE(savingOf(*names, "Hof "), QVariantList({3, 3, -1}));
-        names->reportSaving();
+        reportSaving();
         QCOMPARE(finished.size(), 1);
         QCOMPARE(result(), 0);
         setFault(Fault::RefusesItem, 1108);
         QCOMPARE(savingOf(*names, "Tor "), QVariantList({3, 0, 3}));
-        names->reportSaving();
+        reportSaving();
         QCOMPARE(finished.size(), 2);
         QCOMPARE(result(), 999);
     }
@@ -213,7 +230,7 @@ private Q_SLOTS:
         QCOMPARE(names->firstFaulty(), 0);
         names->cut(0);
         QCOMPARE(names->get(0).value("name").toString(), QString(85, u'门'));
-        QCOMPARE(names->write(0), ChannelNameForm::None);
+        QCOMPARE(saved(*names, 0), ChannelNameForm::None);
         QCOMPARE(this->names(1).value(0).toString(), QString(85, u'门'));
     }
 
@@ -241,14 +258,16 @@ private Q_SLOTS:
         names->takeBack(1);
         QCOMPARE(names->changedCount(), 2);
 
-        QCOMPARE(names->write(0), ChannelNameForm::None);
+        names->takeBack(3);
+        QCOMPARE(saved(*names, 0), ChannelNameForm::None);
         QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the blanks
+        names->set(3, "Hof");
         setFault(Fault::RefusesItem, 1108);
-        QCOMPARE(names->write(3), ChannelNameForm::Refused);
+        QCOMPARE(saved(*names, 3), ChannelNameForm::Refused);
         QCOMPARE(names->changedCount(), 1); // can be tried again
         QCOMPARE(names->failedCount(), 1);
         setFault(Fault::NoAnswer);
-        QCOMPARE(names->write(3), ChannelNameForm::Unanswered);
+        QCOMPARE(saved(*names, 3), ChannelNameForm::Unanswered);
         names->set(3, "Hof 1");
         QCOMPARE(troubleOf(*names, 3), ChannelNameForm::None);
     }
@@ -262,7 +281,7 @@ private Q_SLOTS:
         QCOMPARE(names->changedCount(), 0);
         QCOMPARE(troubleOf(*names, 0), ChannelNameForm::Unknown);
         names->set(0, "Hof");
-        QCOMPARE(names->write(0), ChannelNameForm::None);
+        QCOMPARE(saved(*names, 0), ChannelNameForm::None);
         QCOMPARE(names->changedCount(), 0);
     }
 };

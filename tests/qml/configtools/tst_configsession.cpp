@@ -3,6 +3,8 @@
 #include "tests/device/dh/configsite.h"
 #include "tests/qml/configtools/qmlscene.h"
 
+#include <algorithm>
+
 namespace {
 
 const char *const scene =
@@ -10,6 +12,7 @@ const char *const scene =
     "    ConfigSession {\n"
     "        objectName: 'session'; deviceFactory: factory\n"
     "        localConfig: ({getSearchConfigUsrename: () => 'admin', getSearchConfigPass: () => 'secret1'})\n"
+    "        function choose(ipport) { work.afterWriting(() => open(ipport)); }\n"
     "        function readNames() { names.load(); }\n"
     "        function saveNames() {\n"
     "            names.form.set(0, 'west');\n"
@@ -36,9 +39,16 @@ private:
 
     void call(const char *function) const { QVERIFY(QMetaObject::invokeMethod(m_session, function)); }
     [[nodiscard]] bool isBusy() const { return m_session->property("busy").toBool(); }
-    [[nodiscard]] qsizetype writes() const
+    [[nodiscard]] qsizetype writesTo(const sdk::demo::SceneDevice &device) const
     {
-        return m_site->asked("NetSetItem").size() + m_site->asked("NetSetNewConfig").size();
+        const QList<sdk::demo::RecordedRequest> requests = m_site->site->requests().all();
+        return std::ranges::count_if(requests, [&device](const sdk::demo::RecordedRequest &request) {
+            return request.mac == device.mac && request.operation.startsWith("NetSet");
+        });
+    }
+    void choose(const sdk::demo::SceneDevice &device) const
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_session, "choose", Q_ARG(QVariant, ipportOf(device))));
     }
 
 private Q_SLOTS:
@@ -68,7 +78,7 @@ private Q_SLOTS:
         row("image", QByteArray("setImage"));
     }
 
-    /// A live view's login comes between the wish and the work.
+    /// A live view's login comes in the midst of the work.
     void whatIsMeantForOneDeviceDoesNotReachAnother()
     {
         QFETCH(QByteArray, save);
@@ -76,14 +86,67 @@ private Q_SLOTS:
         QTRY_VERIFY(!isBusy());
         m_site->site->requests().clear();
         const QSignalSpy said(m_session, SIGNAL(said(QString, int, int)));
+        m_site->site->setFault(m_recorder.mac,
+                               {.fault = sdk::demo::Fault::SlowAnswers, .number = 500, .text = {}});
+        m_site->stopTime();
         call(save.constData());
-        QCOMPARE(writes(), 0);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        const qsizetype before = writesTo(m_recorder);
         QCOMPARE(m_site->factory->findAndLoginDevice("dh", ipportOf(m_other), "admin", "secret1"), 0);
-        QTRY_VERIFY(m_session->property("taken").toBool());
+        QVERIFY(m_session->property("taken").toBool());
         QVERIFY(!isBusy() && !m_session->property("loggedIn").toBool());
-        QCOMPARE(writes(), 0);
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->clock().waiters(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(writesTo(m_other), 0);
+        QCOMPARE(writesTo(m_recorder), before); // the session has ended
         QVERIFY(!said.isEmpty());
         QCOMPARE(said.last().at(0).toString(), QStringLiteral("设备已重新登录，尚未保存的修改已丢失"));
+    }
+
+    /// A login of a dead device holds up neither the window nor another device.
+    void anotherDeviceIsChosenDuringALogin()
+    {
+        const sdk::demo::FaultSetting noAnswer = {
+            .fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}};
+        m_site->site->setFault(m_recorder.mac, noAnswer);
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_site->stopTime();
+        choose(m_recorder);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        QVERIFY(isBusy());
+        const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
+        for (qsizetype frames = 0; frames < 10; ++frames) {
+            m_window->update();
+            QTRY_VERIFY(painted.size() > frames);
+        }
+        choose(m_other);
+        QTRY_VERIFY(m_session->property("loggedIn").toBool() &&
+                    !isBusy()); // the dead one is waited for still
+        QCOMPARE(m_site->clock().waiters(), 1);
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->clock().waiters(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_session->property("device").toString(), ipportOf(m_other));
+        QVERIFY(m_session->property("loggedIn").toBool());
+    }
+
+    /// What is being written is not given up half-way.
+    void anotherDeviceIsChosenDuringASaving()
+    {
+        m_site->site->setFault(m_recorder.mac,
+                               {.fault = sdk::demo::Fault::SlowAnswers, .number = 500, .text = {}});
+        m_site->site->requests().clear();
+        m_site->stopTime();
+        call("saveEncoding");
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        choose(m_other);
+        QCOMPARE(m_session->property("device").toString(), ipportOf(m_recorder));
+        m_site->letTimePass();
+        QTRY_COMPARE(m_session->property("device").toString(), ipportOf(m_other));
+        QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
+        QCOMPARE(writesTo(m_recorder), 8);
+        QCOMPARE(writesTo(m_other), 0);
     }
 
     void aLostLoginComesBackWithTheLiveView()
@@ -100,7 +163,7 @@ private Q_SLOTS:
         call("lose");
         call("saveEncoding");
         QTRY_VERIFY(!isBusy());
-        QVERIFY(writes() > 0);
+        QVERIFY(writesTo(m_recorder) > 0);
         QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
     }
 };

@@ -17,7 +17,13 @@ Item {
     signal rowWanted(int row)  // something is wrong in that row
 
     function forget() {
+        nameForm.dropSaving();
         read = false;
+    }
+
+    /// The saving ends with the name that is being written.
+    function stop() {
+        nameForm.stopSaving();
     }
 
     /// In a login that is lost it begins with another one.
@@ -26,8 +32,8 @@ Item {
             session.tryAgain();
             return;
         }
-        session.work(qsTr("正在读取通道名称…"), () => {
-            nameForm.read();
+        session.work.run(qsTr("正在读取通道名称…"), () => session.work.readNames(), told => {
+            nameForm.load(told.names, told.connected);
             read = session.loggedIn;
         });
     }
@@ -41,18 +47,18 @@ Item {
             return;
         }
         nameForm.save();
-        if (running)
-            hold.open();
+    }
+
+    function write(row, name) {
+        session.work.run("", () => session.work.writeName(row, name),
+                         told => nameForm.takeWritten(row, told.result, told.name));
     }
 
     function endSaving(rows, written, failedRow) {
-        hold.release();
         saved = {rows: rows, written: written, failedRow: failedRow};
-        if (session.overtaken)
+        deviceFactory.setConfigData("dh", "channelNamesSaved", true);
+        if (saved !== null)
             tell();  // the session of the saving has ended, and its signal does not come
-        else
-            nameForm.reportSaving();
-        session.settle();
     }
 
     function tell() {
@@ -84,19 +90,7 @@ Item {
     }
     ChannelNameForm {
         id: nameForm
-        deviceFactory: root.deviceFactory
         onSaved: (rows, written, failedRow) => root.endSaving(rows, written, failedRow)
-    }
-    Connections {
-        target: root.session
-
-        function onOvertakenChanged() {
-            if (root.session.overtaken)
-                nameForm.stopSaving();
-        }
-    }
-    OVInputHold {
-        id: hold
-        onEscapePressed: nameForm.stopSaving()
+        onWriteRequested: (row, name) => root.write(row, name)
     }
 }

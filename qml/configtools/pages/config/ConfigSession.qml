@@ -1,5 +1,5 @@
-// The device whose configuration is shown: its login, and the reading and writing of it. Each of these holds the
-// window up for as long as the device takes, so the page paints what is being done before it begins.
+// The device whose configuration is shown: its login, and the reading and writing of it, on another thread. One piece
+// of work runs at a time.
 import QtQuick
 import configtools
 
@@ -20,12 +20,12 @@ Item {
     property int loginResult: 0
     property bool taken: false       // another device is logged in to, since its live picture is watched
     property bool lost: false        // the login was there, but the device no longer answers
-    property bool overtaken: false   // another login was made in the midst of work, which is left out for that
-    property bool changeLost: false  // it was to write something
     property bool upgrading: false   // the device takes new firmware, and no settings until that has ended
     property string failure          // why there was no login
-    property string busyText
-    readonly property bool busy: busyText !== ""
+    readonly property alias work: sessionWork
+    readonly property alias busy: sessionWork.busy
+    readonly property alias busyText: sessionWork.text
+    readonly property bool writing: sessionWork.writing || namesWork.running
     readonly property alias encoding: encodeWork
     readonly property alias image: imageWork
     readonly property alias names: namesWork
@@ -36,30 +36,7 @@ Item {
     readonly property int shortStay: 3000
     readonly property int longStay: 5000
 
-    /// Does `job` once the page shows `text`, unless the login is another one by then: it was meant for the device
-    /// of this one. A job may end with asking for the next one.
-    function work(text, job, writes = false) {
-        busyText = text;
-        hold.open();
-        paint.run(() => {
-            if (!overtaken)
-                job();
-            else if (writes)
-                changeLost = true;
-            if (paint.work !== null)
-                return;
-            busyText = "";
-            hold.close();
-            settle();
-        });
-    }
-
-    /// Work has ended: what came about the login meanwhile is noted.
-    function settle() {
-        if (overtaken)
-            noteOtherLogin();
-    }
-
+    /// Logs in to a device. A login or reading that runs is given up.
     function open(ipport) {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         device = ipport;
@@ -85,17 +62,17 @@ Item {
     }
 
     function login(account, password) {
-        loggedIn = taken = lost = overtaken = changeLost = false;
+        loggedIn = taken = lost = false;
         failure = "";
         forget();
-        work(qsTr("正在登录…"), () => {
-            loginResult = deviceFactory.findAndLoginDevice("dh", device, account, password);
-            loggedIn = loginResult === 0;
+        work.run(qsTr("正在登录…"), () => work.login(device, account, password), result => {
+            loginResult = result;
+            loggedIn = result === 0;
             if (loggedIn) {
                 readShown();
                 return;
             }
-            failure = deviceFactory.getErrorName(loginResult);
+            failure = deviceFactory.getErrorName(result);
             if (canLoginAgain())
                 askAgain(account);
         });
@@ -116,12 +93,10 @@ Item {
         loggedIn = true;
     }
 
-    /// Whether another account or password may help.
+    /// Whether another account or password may help: there is no such account, its password is another one, or it is
+    /// logged in elsewhere.
     function canLoginAgain() {
-        const noSuchAccount = 1;
-        const wrongPassword = 2;
-        const alreadyLoggedIn = 4;
-        return loginResult === noSuchAccount || loginResult === wrongPassword || loginResult === alreadyLoggedIn;
+        return [1, 2, 4].includes(loginResult);
     }
 
     function askAgain(account) {
@@ -139,27 +114,33 @@ Item {
 
     /// Reads what is in front, unless that was done already.
     function readShown() {
-        if (!loggedIn)
-            return;
         const shown = [encodeWork, imageWork, namesWork][tab];
-        if (!shown.read)
+        if (loggedIn && !busy && !shown.read)
             shown.load();
     }
 
-    /// The live view works with the same login, and has just made it anew.
+    /// The live view works with the same login, and has just made it anew. What ran was meant for the one before.
     function noteOtherLogin() {
-        if (unsaved > 0 || changeLost)
-            said(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longStay);
-        overtaken = changeLost = lost = false;
+        const isChangeLost = unsaved > 0 || writing;
+        lost = false;
         forget();
+        if (isChangeLost)
+            said(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longStay);
         taken = deviceFactory.getConfigData("dh", "sessionDevice") !== device;
         loggedIn = !taken;
+        work.forget();
         renewed();
     }
 
     visible: false
     onTabChanged: readShown()
 
+    ConfigWork {
+        id: sessionWork
+        deviceFactory: root.deviceFactory
+        savingNames: namesWork.running
+        onOtherLogin: if (root.loggedIn || root.lost || root.busy) root.noteOtherLogin()
+    }
     EncodeWork {
         id: encodeWork
         deviceFactory: root.deviceFactory
@@ -184,19 +165,6 @@ Item {
         }
     }
     Connections {
-        enabled: root.loggedIn || root.lost  // its own login is awaited in neither
-        target: root.deviceFactory
-
-        function onSignalHighLevelLoginRet(result) {
-            if (result !== 0)
-                return;
-            if (root.busy || namesWork.running)
-                root.overtaken = true;
-            else
-                root.noteOtherLogin();
-        }
-    }
-    Connections {
         enabled: root.busy || namesWork.running  // other pages ask devices, too
         target: root.deviceFactory
 
@@ -210,13 +178,6 @@ Item {
             else if (root.lost && result === 0)
                 root.regain();
         }
-    }
-
-    OVAfterPaint {
-        id: paint
-    }
-    OVInputHold {
-        id: hold
     }
 
     // qmllint disable unqualified

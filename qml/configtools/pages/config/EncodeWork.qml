@@ -8,7 +8,6 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
-    property bool writing: false
     property int result: 0     // of the last reading: 0, or one of the following, or an error of the device
     readonly property int configurationUnreadable: 1
     readonly property int abilitiesUnknown: 10
@@ -37,8 +36,7 @@ Item {
             return;
         }
         unsavedItems = "";
-        session.work(qsTr("正在读取编码配置…"), () => {
-            deviceFactory.getEncodeCaps("dh");
+        session.work.run(qsTr("正在读取编码配置…"), () => session.work.readEncoding(), () => {
             encodeForm.read();
             read = true;
         });
@@ -47,22 +45,15 @@ Item {
     /// `key` is "curChannel" or "curStreamType".
     function choose(key, index) {
         unsavedItems = "";
-        session.work(qsTr("正在读取编码配置…"), () => {
-            deviceFactory.setConfigData("dh", key, index);
-            deviceFactory.getEncodeInfo("dh");
-            read = true;
-        });
+        session.work.run(qsTr("正在读取编码配置…"), () => session.work.chooseEncoding(key, index), () => read = true);
     }
 
     function set(key, value) {
         unsavedItems = "";
         // Only this one goes to the device at once.
         if (key === "subCurResolution")
-            session.work(qsTr("正在写入辅码流分辨率…"), () => {
-                writing = true;
-                encodeForm.set(key, value);
-                writing = false;
-            }, true);
+            session.work.write(qsTr("正在写入辅码流分辨率…"), () => session.work.writeEncodeValue(key, value),
+                               () => encodeForm.takeSaved());
         else
             encodeForm.set(key, value);
         // The compression is one for both streams, and only its profile is each one's own.
@@ -74,11 +65,10 @@ Item {
 
     function save() {
         unsavedItems = "";
-        session.work(qsTr("正在保存编码配置…"), () => {
-            writing = true;
-            deviceFactory.confirmConfigData("dh");
-            writing = false;
-        }, true);
+        session.work.write(qsTr("正在保存编码配置…"), () => session.work.saveEncoding(), () => {
+            if (unsavedItems === "")
+                session.work.run(qsTr("正在读取编码配置…"), () => session.work.readEncodeChannel(), null);
+        });
     }
 
     visible: false
@@ -95,9 +85,9 @@ Item {
         function onSignalGetDeviceCapRet(result) {
             const failure = root.isFailure(result);
             // After a write the form stays: what was changed and not saved would be out of reach.
-            if (!failure || !root.writing)
+            if (!failure || !root.session.writing)
                 root.result = result;
-            if (failure && !root.writing)
+            if (failure && !root.session.writing)
                 root.session.said(qsTr("读取配置失败：%1").arg(encodeForm.failureName(result)), OVToast.Error,
                                   root.session.longStay);
         }
@@ -107,7 +97,6 @@ Item {
         function onSignalConfirmEncodeConfig(unsaved) {
             if (unsaved === "") {
                 root.session.said(qsTr("保存成功"), OVToast.Success, root.session.shortStay);
-                root.session.work(qsTr("正在读取编码配置…"), () => root.deviceFactory.getEncodeInfo("dh"));
             } else {
                 encodeForm.takeSaved();
                 if (root.session.lost && encodeForm.taken)  // that it has gone again meanwhile is told after this

@@ -17,39 +17,29 @@ Item {
     }
 
     function load() {
-        session.work(qsTr("正在读取图像配置…"), () => {
-            deviceFactory.getCameraConfig("dh");
-            if (session.loggedIn)  // else the values would only be waited for again
-                deviceFactory.getVideoInByChangeChannel("dh");
-            else
-                cameraForm.read();
-            read = session.loggedIn;
-            if (read)
-                connectedChannels = deviceFactory.getConfigData("dh", "connectedChannels");
-        });
+        chooseChannel(-1);
     }
 
+    /// `index` is -1 for the channel that was chosen before.
     function chooseChannel(index) {
-        deviceFactory.setConfigData("dh", "curVideoChannel", index);
-        load();
+        session.work.run(qsTr("正在读取图像配置…"), () => session.work.readImage(index), connected => {
+            read = session.loggedIn;
+            if (read)
+                connectedChannels = connected;
+            else
+                cameraForm.read();
+        });
     }
 
     function chooseMode(index) {
-        session.work(qsTr("正在读取图像配置…"), () => {
-            deviceFactory.setConfigData("dh", "curSwitchMode", index);
-            deviceFactory.getVideoIn("dh");
-            read = session.loggedIn;
-        });
+        session.work.run(qsTr("正在读取图像配置…"), () => session.work.chooseImageMode(index),
+                         () => read = session.loggedIn);
     }
 
     /// Writes values of a group, each as [sub-key, value].
     function set(key, values) {
-        session.work(qsTr("正在写入图像配置…"), () => {
-            refusal = 0;
-            for (const [subKey, value] of values) {
-                if (session.loggedIn)
-                    deviceFactory.setConfigData("dh", key, value, subKey);
-            }
+        refusal = 0;
+        session.work.write(qsTr("正在写入图像配置…"), () => session.work.writeImage(key, values), () => {
             if (key === "curChannelName")
                 session.names.forget();
             cameraForm.read();
@@ -59,7 +49,7 @@ Item {
             else if (refusal !== 0)
                 session.said(qsTr("没有修改：%1。显示的是设备现有的值")
                              .arg(session.encoding.form.failureName(refusal)), OVToast.Error, session.longStay);
-        }, true);
+        });
     }
 
     visible: false

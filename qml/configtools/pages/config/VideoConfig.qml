@@ -100,4 +100,9 @@ Rectangle {
             onActivated: root.session.tryAgain()
         }
     }
+
+    OVWorkHold {
+        active: root.session.busy || root.session.names.running
+        onEscapePressed: root.session.names.stop()
+    }
 }
