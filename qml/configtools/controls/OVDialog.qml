@@ -16,6 +16,7 @@ T.Popup {
     property bool closable: true
     property bool dense: false  // for a small box: its head, its foot and the room around its content are lower
     property bool busy: false  // at what was accepted: the primary button turns, and nothing can be done meanwhile
+    property bool cancellable: false  // also while it is busy
     property alias footContent: footSlot.data  // beside the buttons
     default property alias content: body.data
     signal accepted
@@ -34,7 +35,7 @@ T.Popup {
             accepted();
     }
     function reject() {
-        if (busy || leaving)
+        if (leaving || busy && !cancellable)
             return;
         close();
         rejected();
@@ -170,7 +171,7 @@ T.Popup {
                 }
                 OVButton {
                     id: cancel
-                    enabled: !root.busy
+                    enabled: !root.busy || root.cancellable
                     objectName: "cancelButton"
                     text: root.cancelText
                     visible: root.hasCancel

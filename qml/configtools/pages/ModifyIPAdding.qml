@@ -9,7 +9,7 @@ Item {
     required property Batches batches
     required property BusyState busyState
     required property var deviceFactory
-    property bool asking: false  // a device is being logged in to
+    property var wish: null  // what is being added: "dialog", "device" and "isFavourite"
     property alias favouritesFolder: savedDevices.folder
     signal said(string message, int kind)
     signal added  // the list has changed
@@ -24,7 +24,7 @@ Item {
         fromFavourites.wanted().begin();
     }
 
-    /// Tries to add what the dialog holds, once the dialog shows that it is busy.
+    /// Tries to add what the dialog holds. The dialog is busy meanwhile, and may be cancelled.
     function tryDevice(dialog, device, isFavourite) {
         // The device takes the place of its row, with another account and address.
         const refusal = busyState.refusal(BusyState.ChangeAddress);
@@ -32,19 +32,18 @@ Item {
             said(refusal, OVToast.Error);
             return;
         }
-        dialog.busy = asking = true;
-        afterPaint.run(() => {
-            const code = deviceAdding.add(device);
-            // Clicks that have queued up meanwhile meet a dialog that is busy still.
-            afterPaint.run(() => showOutcome(dialog, device, isFavourite, code));
-        });
+        dialog.busy = true;
+        wish = {dialog: dialog, device: device, isFavourite: isFavourite};
+        deviceAdding.addDevice(device);
     }
 
-    function showOutcome(dialog, device, isFavourite, code) {
-        dialog.busy = asking = false;
-        if (code !== DeviceAdding.Added) {
-            const error = deviceAdding.errorText(code);
-            dialog.showResult(code, error);
+    function showOutcome(outcome) {
+        const {dialog, device, isFavourite} = wish;
+        wish = null;
+        dialog.busy = false;
+        if (outcome.result !== DeviceAdding.Added) {
+            const error = deviceAdding.errorText(outcome);
+            dialog.showResult(outcome.result, error);
             if (error !== "")
                 said(error, OVToast.Error);
             return;
@@ -60,17 +59,15 @@ Item {
     DeviceAdding {
         id: deviceAdding
         deviceFactory: root.deviceFactory
+        onEnded: outcome => root.showOutcome(outcome)
     }
     Favourites {
         id: savedDevices
     }
     BusyReport {
-        active: root.asking
+        active: deviceAdding.running
         state: root.busyState
         title: qsTr("手动添加")
-    }
-    OVAfterPaint {
-        id: afterPaint
     }
 
     // qmllint disable unqualified
@@ -79,6 +76,7 @@ Item {
         visible: false
         sourceComponent: AddDeviceDialog {
             id: dialog
+            onAboutToHide: deviceAdding.cancel()
             onConfirmed: (device, isFavourite) => root.tryDevice(dialog, device, isFavourite)
             onRefused: message => root.said(message, OVToast.Error)
         }

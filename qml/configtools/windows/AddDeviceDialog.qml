@@ -1,5 +1,5 @@
 // A device to be added by hand: by its IP address or by its P2P ID. The owner logs in while the dialog is busy, and
-// closes it or tells how it went.
+// closes it or tells how it went; the user may close it before.
 import QtQuick
 import configtools
 
@@ -65,6 +65,7 @@ OVDialog {
             note("port", qsTr("端口范围为1到65535"), portField);
     }
 
+    cancellable: true
     width: Theme.addDeviceWidth
     height: Math.max(Theme.addDeviceHeight, implicitHeight)
     objectName: "addDeviceDialog"

@@ -9,13 +9,14 @@ OVDialog {
 
     required property var deviceFactory
     property string ipport
-    property bool asking: false
+    readonly property alias asking: work.running
     property string trouble        // of the last login
     signal copyRequested(string text)
     signal exportRequested(string fileName)
 
     /// Takes the values of a row and what else is known, by their keys.
     function load(detail) {
+        work.cancel();
         trouble = "";
         ipport = detail.ipport ?? "";
         searchField.text = "";
@@ -27,18 +28,15 @@ OVDialog {
     }
 
     function ask() {
-        asking = true;
         trouble = "";
-        hold.open();
-        paint.run(() => {
-            const told = deviceFactory.readDeviceDetail("dh", ipport);
-            asking = false;
-            hold.release();
-            if (told.loginResult === 0)
-                lines.add(told);
-            else
-                trouble = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(told.loginResult ?? -1));
-        });
+        work.readDetail(ipport);
+    }
+
+    function add(told) {
+        if (told.loginResult === 0)
+            lines.add(told);
+        else
+            trouble = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(told.loginResult ?? -1));
     }
 
     width: Theme.detailWidth
@@ -47,6 +45,7 @@ OVDialog {
     cancelText: qsTr("关闭")
     title: qsTr("设备详情")
     onAccepted: copyRequested(lines.text)
+    onAboutToHide: work.cancel()
     onOpened: list.forceActiveFocus()
 
     footContent: Row {
@@ -73,11 +72,10 @@ OVDialog {
         id: lines
         searchText: searchField.text
     }
-    OVAfterPaint {
-        id: paint
-    }
-    OVInputHold {
-        id: hold
+    DeviceWork {
+        id: work
+        deviceFactory: root.deviceFactory
+        onEnded: told => root.add(told)
     }
 
     Column {

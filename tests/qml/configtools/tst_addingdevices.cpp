@@ -7,6 +7,7 @@
 
 #include <QSemaphore>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 namespace {
 
@@ -14,7 +15,7 @@ const char *const scene =
     "    width: 1280; height: 720; visible: true\n"
     "    ModifyIPAdding {\n"
     "        objectName: 'adding'; addingBatches: addings; batches: works; busyState: busy\n"
-    "        deviceFactory: factory\n"
+    "        deviceFactory: site\n"
     "    }\n"
     "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n";
 
@@ -37,19 +38,34 @@ public:
     GatedDevices() : CDeviceBase(nullptr) {}
 
     QStringList asked; ///< "address password"
-    QSemaphore gate;   ///< lets one device be added for each of its resources
+    DeviceToAdd last;
+    StepOutcome outcome; ///< of a device whose password is not "wrong"
+    QSemaphore gate;     ///< lets one device be added for each of its resources
+    QThreadPool threads;
 
     DeviceStep addingStep(const DeviceToAdd &device) override
     {
         asked.append(device.address + ' ' + device.password);
+        last = device;
         return [this, isWrong = device.password == QLatin1String("wrong")](const StepControl &) {
             gate.acquire();
-            return StepOutcome{.result = isWrong ? 2 : 0, .text = {}};
+            return isWrong ? StepOutcome{.result = 2, .text = {}} : outcome;
         };
+    }
+
+    void runForScene(const SceneStep &step, const std::stop_token &,
+                     const std::function<void(const SceneOutcome &outcome)> &ended) override
+    {
+        threads.start([this, step, ended] {
+            const SceneOutcome of = step(StepControl());
+            QMetaObject::invokeMethod(
+                this, [ended, of] { ended(of); }, Qt::QueuedConnection);
+        });
     }
 };
 
 } // namespace
+Q_DECLARE_METATYPE(StepOutcome)
 
 class TestAddingDevices : public QObject
 {
@@ -69,6 +85,7 @@ private Q_SLOTS:
         m_addings = std::make_unique<AddingBatches>(*m_site, *m_batches);
         m_window = openScene(*m_engine, scene,
                              {{"factory", m_factory.get()},
+                              {"site", m_site.get()},
                               {"busy", m_site->busyState()},
                               {"works", m_batches.get()},
                               {"addings", m_addings.get()}});
@@ -83,6 +100,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_devices->gate.release(100);
+        m_devices->threads.waitForDone();
         m_threads->end();
         m_said.reset();
         m_added.reset();
@@ -122,46 +140,42 @@ private Q_SLOTS:
         QCOMPARE(argumentsOf(*m_said), QStringList(message + "/2"));
         QCOMPARE(dialog()->property("fault").toString(), message);
         QVERIFY(dialog()->property("visible").toBool());
-        QCOMPARE(m_factory->asked, QStringList());
+        QCOMPARE(m_devices->asked, QStringList());
     }
 
     void addsByHand_data()
     {
-        const auto row = dataTable<QString, int, int, QStringList, QString>(
-            {"opener", "loginResult", "port", "asked", "said"});
-        const QString login = "login dh 10.0.0.1 admin secret 37777 0";
-        const QString tunnel = "port dh OV7 admin secret 37777 0";
-        const QString tunnelLogin = "login dh OV7 admin secret 5000 1 37777";
-        row("address", "openIp", 0, 0, {login, "pair 0 0"}, "设备已添加/1");
-        row("address, wrong password", "openIp", 2, 0, {login, "release 0", "release 0"}, "result 2/2");
-        row("address, not supported", "openIp", 12, 0, {login, "release 0", "release 0"}, "");
-        row("ID", "openP2p", 0, 5000,
-            {tunnel, tunnelLogin, "port dh OV7 admin secret 8080 0", "pair 5000 5001"}, "设备已添加/1");
-        row("ID, wrong password", "openP2p", 2, 5000, {tunnel, tunnelLogin, "release 5000", "release 0"},
-            "result 2/2");
-        row("ID, no port", "openP2p", 0, 0, {tunnel}, "");
-        row("ID, not supported", "openP2p", 12, 5000, {tunnel, tunnelLogin, "release 5000", "release 0"}, "");
+        const auto row = dataTable<QString, StepOutcome, QString>({"opener", "outcome", "said"});
+        row("address", "openIp", {}, "设备已添加/1");
+        row("listed already", "openIp", {.result = 13, .text = {}}, "设备已存在/2");
+        row("wrong password", "openIp", {.result = 2, .text = {}}, "密码错误/2");
+        row("not supported", "openIp", {.result = 12, .text = {}}, "");
+        row("ID", "openP2p", {}, "设备已添加/1");
+        row("ID, locked", "openP2p", {.result = 3, .text = {}}, "账号被锁定/2");
+        row("ID, no port", "openP2p", {.result = 5, .text = "no port"}, "");
     }
 
     void addsByHand()
     {
         QFETCH(QString, opener);
         QFETCH(QString, said);
-        QFETCH(int, loginResult);
-        QFETCH(int, port);
-        m_factory->loginResult = loginResult;
-        m_factory->nextPort = port;
+        QFETCH(StepOutcome, outcome);
+        m_devices->outcome = outcome;
         open(opener, filled());
-        const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
-        m_factory->login = [&] { // blocks: the busy dialog has to be on the screen by now
-            QVERIFY(dialog()->property("busy").toBool() && m_site->busyState()->areRowsHeld());
-            QVERIFY(!painted.isEmpty());
-        };
         press("accept");
         press("accept"); // more of them do nothing
-        press("reject");
+        const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
+        for (qsizetype frames = 0; frames < 5; ++frames) { // the window goes on
+            m_window->update();
+            QTRY_VERIFY(painted.size() > frames);
+        }
+        QVERIFY(dialog()->property("busy").toBool() && m_site->busyState()->areRowsHeld());
+        m_devices->gate.release();
         QTRY_VERIFY(!dialog()->property("busy").toBool());
-        QTEST(m_factory->asked, "asked");
+        QCOMPARE(m_devices->asked, QStringList(opener == "openIp" ? "10.0.0.1 secret" : "OV7 secret"));
+        QCOMPARE(m_devices->last.p2p, opener == "openP2p");
+        QCOMPARE(m_devices->last.port, 37777);
+        QCOMPARE(m_devices->last.account, "admin");
         QCOMPARE(argumentsOf(*m_said).join(','), said);
         const bool done = said.startsWith("设备已添加");
         QCOMPARE(m_added->count(), done ? 1 : 0);
@@ -169,13 +183,22 @@ private Q_SLOTS:
         QCOMPARE(CAuthor().readJsonFilesFromFolder(favouritesFolder()), QVariantMap());
     }
 
-    void addsNoListedAddress()
+    void addingIsCancelled()
     {
-        m_factory->listed.insert("10.0.0.1:37777", QVariantMap{{"mac", "any"}});
         open("openIp", filled());
         press("accept");
-        QTRY_COMPARE(argumentsOf(*m_said), QStringList("result 13/2"));
-        QCOMPARE(m_factory->asked, QStringList());
+        QTRY_COMPARE(m_devices->asked.size(), 1);
+        press("reject");
+        QTRY_VERIFY(!dialog()->property("visible").toBool());
+        QVERIFY(!m_site->busyState()->areRowsHeld());
+        m_devices->gate.release();
+        m_devices->threads.waitForDone();
+        QCoreApplication::processEvents();
+        QVERIFY(m_said->isEmpty() && m_added->isEmpty());
+        open("openIp", filled()); // and another one can be added
+        press("accept");
+        m_devices->gate.release();
+        QTRY_COMPARE(argumentsOf(*m_said), QStringList("设备已添加/1"));
     }
 
     void savesFavourites_data()
@@ -195,6 +218,7 @@ private Q_SLOTS:
         open("openIp", filled() + QStringList{"noteField", QString(60, 'n')});
         item("favouriteBox")->setProperty("checked", true);
         press("accept");
+        m_devices->gate.release();
         QTRY_COMPARE(m_said->count(), 1);
         QTEST(argumentsOf(*m_said).first(), "said");
         if (!writable)
@@ -236,7 +260,7 @@ private Q_SLOTS:
         open("openIp", filled());
         press("accept");
         QVERIFY(argumentsOf(*m_said).join(',').contains("添加收藏设备"));
-        QCOMPARE(m_factory->asked, QStringList());
+        QCOMPARE(m_devices->asked.size(), 3);
         press("reject");
 
         QMetaObject::invokeMethod(m_adding, "openFavourites");
@@ -328,7 +352,7 @@ private:
     }
     void press(const char *button) const { QMetaObject::invokeMethod(dialog(), button); }
 
-    std::unique_ptr<RecordingFactory> m_factory; ///< for devices that are added by hand
+    std::unique_ptr<RecordingFactory> m_factory; ///< for accounts that are asked for
     std::shared_ptr<GatedDevices> m_devices;
     std::unique_ptr<CDeviceFactory> m_site;
     std::unique_ptr<BatchEngine> m_threads;
