@@ -158,6 +158,8 @@ void CDeviceDH::beginSession(const QString &ipport, const QString &account, cons
 
 void CDeviceDH::logOutLater(const QList<std::int64_t> &handles)
 {
+    if (handles.isEmpty())
+        return;
     m_sessionThreads.start([net = m_libraries.net, handles] {
         for (const std::int64_t handle : handles)
             net->NetLogout(handle);
