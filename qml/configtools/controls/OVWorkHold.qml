@@ -8,7 +8,6 @@ MouseArea {
     property bool active: false
     property Item back: null  // what had the keyboard
     readonly property Item focused: Window.activeFocusItem
-    signal escapePressed
 
     function isCovered(item) {
         let above = item;
@@ -40,9 +39,5 @@ MouseArea {
     }
     onFocusedChanged: takeKeyboard()
     onWheel: wheel => wheel.accepted = true
-    Keys.onPressed: event => {
-        event.accepted = true;
-        if (event.key === Qt.Key_Escape)
-            root.escapePressed();
-    }
+    Keys.onPressed: event => event.accepted = true
 }

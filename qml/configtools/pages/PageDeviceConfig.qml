@@ -90,8 +90,14 @@ FocusScope {
         id: session
         deviceFactory: page.deviceFactory
         localConfig: page.localConfig
+        shown: page.visible
         onRenewed: if (page.visible) readShown()
         onSaid: (message, kind, stay) => page.said(message, kind, stay)
+    }
+    Shortcut {
+        enabled: page.visible && session.names.running && !page.batches.running && !page.searching
+        sequence: "Escape"
+        onActivated: session.names.stop()
     }
     BusyReport {
         active: session.writing  // what is only read is given up

@@ -8,6 +8,7 @@ Item {
 
     required property var deviceFactory
     required property var localConfig
+    property bool shown: true        // its page is in front: questions of a login are asked
     property int tab: 0              // that is in front: the encode settings, the image, the channels' names
     readonly property bool encodeShown: tab === 0
     readonly property bool imageShown: tab === 1
@@ -68,12 +69,10 @@ Item {
         work.run(qsTr("正在登录…"), () => work.login(device, account, password), result => {
             loginResult = result;
             loggedIn = result === 0;
-            if (loggedIn) {
+            failure = loggedIn ? "" : deviceFactory.getErrorName(result);
+            if (loggedIn)
                 readShown();
-                return;
-            }
-            failure = deviceFactory.getErrorName(result);
-            if (canLoginAgain())
+            else if (canLoginAgain() && shown)
                 askAgain(account);
         });
     }
@@ -87,7 +86,7 @@ Item {
         loggedIn = false;
     }
 
-    /// It was only slow: it answered in the same login.
+    /// It answered in the same login.
     function regain() {
         lost = false;
         loggedIn = true;

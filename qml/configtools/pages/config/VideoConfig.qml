@@ -103,6 +103,5 @@ Rectangle {
 
     OVWorkHold {
         active: root.session.busy || root.session.names.running
-        onEscapePressed: root.session.names.stop()
     }
 }
