@@ -80,6 +80,33 @@ public:
     /// Milliseconds between two painted frames at the most, from the start of a batch to its end, on a page.
     [[nodiscard]] double longestPause(int page, const std::function<Batch *()> &start)
     {
+        return longestPauseOf(page, [&] {
+            Batch *batch = start();
+            const bool hasEnded =
+                batch && QTest::qWaitFor([batch] { return !batch->isRunning(); }, longestBatch);
+            if (!hasEnded)
+                qWarning("a batch did not end: %d of %d devices%s", batch ? batch->done() : 0,
+                         batch ? batch->total() : 0, batch && batch->isHeld() ? ", held" : "");
+        });
+    }
+
+    /// The same while the configuration page logs in to a device that is not there.
+    [[nodiscard]] double longestPauseOfDeadLogin()
+    {
+        return longestPauseOf(configurationPage, [this] {
+            const QSignalSpy loggedIn(&factory(), &CDeviceFactory::signalHighLevelLoginRet);
+            QObject *page = window()->findChild<QObject *>("pageDeviceConfig");
+            const bool isAsked =
+                page && QMetaObject::invokeMethod(page, "choose", Q_ARG(QVariant, u"10.250.250.250:37777"_s));
+            if (!isAsked || !QTest::qWaitFor([&] { return !loggedIn.isEmpty(); }, longestBatch))
+                qWarning("the login did not end");
+        });
+    }
+
+private:
+    /// `work` returns when it has ended, and lets the window be painted meanwhile.
+    [[nodiscard]] double longestPauseOf(int page, const std::function<void()> &work)
+    {
         window()->setProperty("currentTab", page);
         QTest::qWait(settlingTime);
         m_longest = 0;
@@ -87,18 +114,13 @@ public:
         const auto painted =
             QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [this] { notePainted(); });
         window()->update();
-        Batch *batch = start();
-        const bool hasEnded = batch && QTest::qWaitFor([batch] { return !batch->isRunning(); }, longestBatch);
+        work();
         QTest::qWait(settlingTime); // the rows are queried again
         QObject::disconnect(painted);
-        if (!hasEnded)
-            qWarning("a batch did not end: %d of %d devices%s", batch ? batch->done() : 0,
-                     batch ? batch->total() : 0, batch && batch->isHeld() ? ", held" : "");
         constexpr double nanoseconds = 1e6;
         return static_cast<double>(m_longest) / nanoseconds;
     }
 
-private:
     void notePainted()
     {
         m_longest = std::max(m_longest, m_sinceFrame.isValid() ? m_sinceFrame.nsecsElapsed() : 0);
@@ -197,15 +219,19 @@ QList<Figure> measureBatchFrames()
         addresses.append(u"10.1.0.%1"_s.arg(number + 1));
 
     QList<Figure> figures;
-    const auto measure = [&](const QString &kind, int page, const std::function<Batch *()> &start) {
+    const auto add = [&](const QString &kind, double pause) {
         figures.append({.subject = u"longest pause between two frames: %1"_s.arg(kind),
-                        .value = program.longestPause(page, start),
+                        .value = pause,
                         .unit = u"ms"_s,
                         .budget = 50,
                         .peer = {},
                         .largestRatio = {},
                         .peerName = {}});
     };
+    const auto measure = [&](const QString &kind, int page, const std::function<Batch *()> &start) {
+        add(kind, program.longestPause(page, start));
+    };
+    add(u"login of a dead device"_s, program.longestPauseOfDeadLogin());
     measure(u"system command"_s, systemPage, [&] {
         return program.batches().configureSystem(family, u"videoStandard"_s, u"Standard"_s,
                                                  {{u"videoStandard"_s, 1}}, program.ipports());
