@@ -7,7 +7,6 @@ MouseArea {
 
     property bool active: false
     property Item back: null  // what had the keyboard
-    readonly property Item focused: Window.activeFocusItem
 
     function isCovered(item) {
         let above = item;
@@ -17,27 +16,41 @@ MouseArea {
     }
 
     function takeKeyboard() {
-        if (!active || !isCovered(focused))
+        const item = Window.activeFocusItem;
+        if (!active || !visible || !isCovered(item))
             return;
-        back = focused;
+        back = item;
         forceActiveFocus();
+    }
+
+    function giveBack() {
+        if (activeFocus && back !== null)
+            back.forceActiveFocus(back.focusReason ?? Qt.OtherFocusReason);
+        back = null;
     }
 
     anchors.fill: parent
     cursorShape: Qt.BusyCursor
     hoverEnabled: true
     objectName: "workHold"
-    visible: active
+    visible: false
     z: 1
     onActiveChanged: {
-        if (active)
-            takeKeyboard();
-        else if (activeFocus && back !== null)
-            back.forceActiveFocus(back.focusReason ?? Qt.OtherFocusReason);
         if (!active)
-            back = null;
+            giveBack();
+        visible = active;
+        takeKeyboard();
     }
-    onFocusedChanged: takeKeyboard()
     onWheel: wheel => wheel.accepted = true
     Keys.onPressed: event => event.accepted = true
+
+    // A list that closes gives the keyboard back to what it belongs to.
+    Connections {
+        enabled: root.active
+        target: root.Window.window
+
+        function onActiveFocusItemChanged() {
+            Qt.callLater(root.takeKeyboard);
+        }
+    }
 }

@@ -23,6 +23,14 @@ const char *const scene =
     "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
     "    }\n";
 
+const char *const heldScene = "    visible: true; width: 400; height: 100\n"
+                              "    Item {\n"
+                              "        width: 200; height: 100\n"
+                              "        TextInput { objectName: 'inner'; width: 200; height: 100 }\n"
+                              "        OVWorkHold { active: false }\n"
+                              "    }\n"
+                              "    TextInput { objectName: 'outer'; x: 200; width: 200; height: 100 }\n";
+
 } // namespace
 
 /// The login of the configuration page while other pages log in, too.
@@ -155,6 +163,30 @@ private Q_SLOTS:
         QVERIFY(!m_session->property("loggedIn").toBool());
         QCOMPARE(m_site->login(m_recorder), 0);
         QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
+    }
+
+    void inputIsHeldWhereTheWorkIs()
+    {
+        const std::unique_ptr<QQuickWindow> window = openScene(*m_engine, heldScene);
+        QVERIFY(window && QTest::qWaitForWindowExposed(window.get()));
+        QQuickItem *inner = findBelow(window->contentItem(), "inner", Sight::Any);
+        QQuickItem *outer = findBelow(window->contentItem(), "outer", Sight::Any);
+        QQuickItem *sheet = findBelow(window->contentItem(), "workHold", Sight::Any);
+        inner->forceActiveFocus();
+        for (const bool isTakenElsewhere : {false, true}) {
+            sheet->setProperty("active", true);
+            QTest::keyClick(window.get(), Qt::Key_A);
+            inner->forceActiveFocus(); // as a list that closes does
+            QTRY_COMPARE(window->activeFocusItem(), sheet);
+            QTest::keyClick(window.get(), Qt::Key_A);
+            QTest::mouseClick(window.get(), Qt::LeftButton, {}, QPoint(100, 50));
+            QTest::keyClick(window.get(), Qt::Key_A);
+            QCOMPARE(inner->property("text").toString(), "");
+            if (isTakenElsewhere)
+                QTest::mouseClick(window.get(), Qt::LeftButton, {}, QPoint(300, 50));
+            sheet->setProperty("active", false);
+            QCOMPARE(window->activeFocusItem(), isTakenElsewhere ? outer : inner);
+        }
     }
 
     void aDeviceThatTakesPartOfASaveIsThereAgain()
