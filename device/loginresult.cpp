@@ -22,7 +22,6 @@ QString ResultNames::of(int code)
     constexpr int capabilitiesUnknown = 10;
     constexpr int unusableLine = 997;  // of a device list
     constexpr int commandFailed = 998; // over HTTP
-    constexpr int refusedByDevice = 999;
     switch (code) {
     case resultCode(LoginResult::Success):
         return tr("成功");
@@ -52,6 +51,14 @@ QString ResultNames::of(int code)
         return tr("未执行");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
+    case upgradeFileUnusable:
+        return tr("升级文件不可用");
+    case upgradeFailed:
+        return tr("升级未完成");
+    case upgradeUnconfirmed:
+        return tr("升级结果未确认");
+    case deviceBusy:
+        return tr("设备忙，请稍后重试");
     case snapshotFailed:
         return tr("抓图失败");
     case unusableLine:

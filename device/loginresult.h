@@ -37,8 +37,18 @@ enum class LoginResult : int
     return static_cast<int>(result);
 }
 
+// Results of operations that have more to say than a login.
+
+inline constexpr int upgradeFileUnusable = 992; ///< nothing was sent
+inline constexpr int upgradeFailed = 993;       ///< the device gave it up, has not come back, or is as before
+inline constexpr int upgradeUnconfirmed = 994;  ///< the device is back, and its version does not tell
+inline constexpr int deviceBusy = 995;
+
 /// The result of a snapshot whose channel has no camera, or whose file cannot be written.
 inline constexpr int snapshotFailed = 996;
+
+/// The result of a request that the device has understood and does not fulfil.
+inline constexpr int refusedByDevice = 999;
 
 /// What a result code means, in the user's language. Codes that nobody has given a meaning are named by
 /// number.

@@ -1,5 +1,7 @@
 #include "device/upgradetools.h"
 
+#include "device/deviceimport.h"
+
 QString UpgradeTools::text(int result)
 {
     switch (static_cast<Result>(result)) {
@@ -67,6 +69,50 @@ QString UpgradeTools::text(int result)
         return tr("设备已恢复，但无法确认版本");
     }
     return tr("未知错误 %1").arg(result);
+}
+
+int UpgradeTools::batchResult(Result result)
+{
+    switch (result) {
+    case Success:
+        return resultCode(LoginResult::Success);
+    case NoFile:
+    case FileMissing:
+    case FileUnreadable:
+    case FileEmpty:
+    case FileTooLarge:
+    case FileDamaged:
+    case WrongModel:
+        return upgradeFileUnusable;
+    case FirmwareRefused:
+        return refusedByDevice;
+    case WrongPassword:
+        return resultCode(LoginResult::WrongPassword);
+    case NoSuchAccount:
+        return resultCode(LoginResult::NoSuchAccount);
+    case AccountLocked:
+        return resultCode(LoginResult::AccountLocked);
+    case NotInitialised:
+        return resultCode(LoginResult::NotInitialised);
+    case NotSupported:
+        return resultCode(LoginResult::NotSupported);
+    case LineUnusable:
+    case ListedTwice:
+        return unusableLine;
+    case NoAnswer:
+        return resultCode(LoginResult::NetworkFailure);
+    case DeviceBusy:
+        return deviceBusy;
+    case Failed:
+    case Stuck:
+    case NotBack:
+    case KeptVersion:
+        return upgradeFailed;
+    case VersionUnknown:
+        return upgradeUnconfirmed;
+    default: // stopped before the device has changed, or not begun
+        return resultCode(LoginResult::NotDone);
+    }
 }
 
 QString UpgradeTools::templateFileName()

@@ -67,6 +67,10 @@ public:
     /// In the user's language; empty for None. Thread-safe.
     Q_INVOKABLE [[nodiscard]] static QString text(int result);
 
+    /// The result as batches have it, whose codes are those of a login and some more: a wrong password is one
+    /// to them, whatever was to be done. What is on the way is not done yet.
+    [[nodiscard]] static int batchResult(Result result);
+
     /// Of the workbook that upgrades by document begin from, in the user's language.
     [[nodiscard]] static QString templateFileName();
 };

@@ -51,11 +51,14 @@ QString outcomeText(const StepOutcome &outcome)
 
 bool maySucceedLater(const StepOutcome &outcome)
 {
-    switch (static_cast<LoginResult>(outcome.result)) {
-    case LoginResult::AccountLoggedIn:
-    case LoginResult::NetworkFailure:
-    case LoginResult::Upgrading:
-    case LoginResult::NotDone:
+    switch (outcome.result) {
+    case resultCode(LoginResult::AccountLoggedIn):
+    case resultCode(LoginResult::NetworkFailure):
+    case resultCode(LoginResult::Upgrading):
+    case resultCode(LoginResult::NotDone):
+    case deviceBusy:
+    case upgradeFailed:
+    case upgradeUnconfirmed:
         return true;
     default:
         return outcome.isUnanswered;

@@ -14,7 +14,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int refusedByDevice = 999;
 constexpr int waitsForNewPassword = -1; ///< the old password was right
 constexpr auto passwordWait = 10000ms;
 

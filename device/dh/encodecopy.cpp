@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int refusedByDevice = 999;
-
 class SettingNames
 {
     Q_DECLARE_TR_FUNCTIONS(EncodeCopy)
