@@ -147,13 +147,25 @@ QString Batch::device() const
     return m_running.isEmpty() ? QString() : m_entries.at(m_running.constFirst()).device.name;
 }
 
+double Batch::progress() const
+{
+    return total() > 0 ? std::max(static_cast<double>(m_done) / total(), m_progress) : 0;
+}
+
+void Batch::noteProgress(double progress)
+{
+    m_progress = std::clamp(progress, 0.0, 1.0);
+    Q_EMIT changed();
+}
+
 int Batch::secondsLeft() const
 {
     constexpr qint64 earliest = 2000; // milliseconds
+    const double done = progress();
     const qint64 elapsed = m_began.msecsTo(QDateTime::currentDateTime());
-    if (!m_isRunning || m_done == 0 || elapsed < earliest)
+    if (!m_isRunning || done <= 0 || elapsed < earliest)
         return -1;
-    return static_cast<int>(elapsed * (total() - m_done) / m_done / 1000);
+    return static_cast<int>(static_cast<double>(elapsed) * (1 - done) / done / 1000);
 }
 
 void Batch::stop()

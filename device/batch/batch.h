@@ -50,7 +50,10 @@ public:
     [[nodiscard]] const QString &title() const { return m_title; }
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int done() const { return m_done; }
-    [[nodiscard]] double progress() const { return total() > 0 ? static_cast<double>(m_done) / total() : 0; }
+    /// From 0 to 1. Devices count when they are done, unless noteProgress() knows more.
+    [[nodiscard]] double progress() const;
+    /// How far the devices are that are not done, with the others: for steps that take long.
+    void noteProgress(double progress);
 
     /// Name of a device that is being worked on; empty when there is none.
     [[nodiscard]] QString device() const;
@@ -130,6 +133,7 @@ private:
     QDateTime m_ended;
     int m_number = 0; ///< in the engine
     int m_done = 0;
+    double m_progress = 0; ///< as noted
     bool m_isRunning = false;
     bool m_isStopping = false;
     bool m_isHeld = false;

@@ -29,7 +29,7 @@ bool wasLoggedIn(int result)
     case LoginResult::NotDone:
         return false;
     default:
-        return !isRefusal(result);
+        return !isRefusal(result) && result != upgradeFileUnusable;
     }
 }
 
@@ -252,6 +252,7 @@ bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
 void BatchEngine::stop(int number)
 {
     std::shared_ptr<Batch> batch;
+    std::vector<DeviceStep> notBegun; // may do something when they go: not under the lock
     bool hasEnded = false;
     {
         const std::lock_guard lock(m_mutex);
@@ -260,6 +261,10 @@ void BatchEngine::stop(int number)
             return;
         batch = found->second;
         batch->isStopped = true;
+        for (const auto &[first, places] : batch->waiting) {
+            for (const std::size_t place : places)
+                notBegun.push_back(std::exchange(batch->items[place].step, {}));
+        }
         batch->waiting.clear();
         hasEnded = batch->running == 0;
         if (hasEnded)

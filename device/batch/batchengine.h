@@ -73,7 +73,8 @@ public:
     /// Adds a step behind the others. Returns false when the batch has ended, or is stopped.
     bool append(int number, BatchItem item);
 
-    /// Starts nothing new of a batch and asks its running steps to end. Does nothing for one that has ended.
+    /// Starts nothing new of a batch, lets those of its steps go and asks the running ones to end. Does
+    /// nothing for one that has ended.
     void stop(int number);
 
     /// Goes on with a batch that is held.

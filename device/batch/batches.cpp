@@ -333,14 +333,19 @@ void Batches::giveUp() const
                                    << "- not done:" << notDone.join(QStringLiteral(", "));
 }
 
+bool Batches::mayStart()
+{
+    if (isRunning())
+        Q_EMIT refused(tr("“%1”正在进行，请等待其完成").arg(current()->title()));
+    return !isRunning();
+}
+
 Batch *Batches::start(BatchPlan plan)
 {
-    if (isRunning()) {
-        Q_EMIT refused(tr("“%1”正在进行，请等待其完成").arg(current()->title()));
+    if (!mayStart())
         return nullptr;
-    }
     for (BatchDevice &device : plan.devices)
-        device.isUpgrading = isBeingUpgraded(m_factory, plan.family, device);
+        device.isUpgrading = !plan.rowsShowIt && isBeingUpgraded(m_factory, plan.family, device);
     auto *batch = new Batch(m_engine, std::move(plan), this);
     const int work = m_factory.busyState()->begin(batch->title(), BusyState::Rows);
     connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });

@@ -88,6 +88,9 @@ public:
     /// otherwise.
     [[nodiscard]] BatchPolicy usualPolicy() const;
 
+    /// Whether a batch may start now; otherwise refused() says why not.
+    Q_INVOKABLE [[nodiscard]] bool mayStart();
+
     Batch *start(BatchPlan plan);
 
 Q_SIGNALS:

@@ -72,6 +72,9 @@ struct BatchPlan
     /// that were not done.
     bool notesResults = false;
 
+    /// Whether the rows say already that their devices are being upgraded, by this batch.
+    bool rowsShowIt = false;
+
     QHash<QString, AddressSettings> addressesBefore = {}; ///< by identity; of a batch that changes addresses
 };
 
