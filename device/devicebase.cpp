@@ -271,3 +271,28 @@ ImportPlan CDeviceBase::importPlan(const QString &)
 {
     return {};
 }
+
+DeviceStep CDeviceBase::upgradeStep(const QString &)
+{
+    return unsupportedStep();
+}
+
+QList<UpgradeDocumentStep> CDeviceBase::upgradeDocumentSteps(const QString &, const QList<int> &)
+{
+    return {};
+}
+
+QList<PlannedUpgrade> CDeviceBase::plannedUpgrades(const QStringList &macs)
+{
+    return QList<PlannedUpgrade>(macs.size());
+}
+
+QList<int> CDeviceBase::setUpgradeFiles(const QStringList &macs, const QString &)
+{
+    return QList<int>(macs.size(), UpgradeTools::NotSupported);
+}
+
+QStringList CDeviceBase::takeChangedUpgrades()
+{
+    return {};
+}

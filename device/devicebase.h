@@ -2,6 +2,7 @@
 
 #include "device/deviceimport.h"
 #include "device/scenestep.h"
+#include "device/upgradeplan.h"
 
 #include <QObject>
 #include <QStringList>
@@ -191,6 +192,22 @@ public:
     /// way then goes on to its next safe point and is dropped.
     virtual void runForScene(const SceneStep &step, const std::stop_token &stop,
                              const std::function<void(const SceneOutcome &outcome)> &ended);
+
+    // Upgrades. Rows are named by MAC, or by address and port where they have none.
+
+    /// Of startUpgrade(). The row tells from now on that it waits, and then how far the upgrade is; one that
+    /// stopUpgrade() stops, or whose step goes without having been run, is stopped.
+    virtual DeviceStep upgradeStep(const QString &mac);
+    /// Of startUpgradeByDocument(), for those of the document's lines that have these numbers. A line that
+    /// cannot be upgraded has a step that says so. Empty for a document that is refused.
+    virtual QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines);
+    /// What upgradeStep() would do with each of these rows, by what the rows and their files tell.
+    virtual QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs);
+    /// setUpgradeFilePath() for many rows, which looks at the file once. Returns what speaks against the
+    /// upgrade of each, an UpgradeTools::Result.
+    virtual QList<int> setUpgradeFiles(const QStringList &macs, const QString &path);
+    /// The names of the rows in which upgrades have changed something since the last call.
+    virtual QStringList takeChangedUpgrades();
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

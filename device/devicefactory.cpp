@@ -571,6 +571,33 @@ DeviceStep CDeviceFactory::addingStep(const QString &family, const DeviceToAdd &
     return forward(family, &CDeviceBase::addingStep, device);
 }
 
+DeviceStep CDeviceFactory::upgradeStep(const QString &family, const QString &mac)
+{
+    return forward(family, &CDeviceBase::upgradeStep, mac);
+}
+
+QList<UpgradeDocumentStep> CDeviceFactory::upgradeDocumentSteps(const QString &family, const QString &path,
+                                                                const QList<int> &lines)
+{
+    return forward(family, &CDeviceBase::upgradeDocumentSteps, path, lines);
+}
+
+QList<PlannedUpgrade> CDeviceFactory::plannedUpgrades(const QString &family, const QStringList &macs)
+{
+    return forward(family, &CDeviceBase::plannedUpgrades, macs);
+}
+
+QList<int> CDeviceFactory::setUpgradeFiles(const QString &family, const QStringList &macs,
+                                           const QString &path)
+{
+    return forward(family, &CDeviceBase::setUpgradeFiles, macs, path);
+}
+
+QStringList CDeviceFactory::takeChangedUpgrades(const QString &family)
+{
+    return forward(family, &CDeviceBase::takeChangedUpgrades);
+}
+
 ImportPlan CDeviceFactory::importPlan(const QString &family, const QString &path)
 {
     return forward(family, &CDeviceBase::importPlan, path);

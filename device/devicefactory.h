@@ -185,6 +185,13 @@ public:
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &family, const QString &address);
     [[nodiscard]] DeviceStep locationStep(const QString &family, const QStringList &macs);
     [[nodiscard]] DeviceStep addingStep(const QString &family, const DeviceToAdd &device);
+    [[nodiscard]] DeviceStep upgradeStep(const QString &family, const QString &mac);
+    [[nodiscard]] QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &family, const QString &path,
+                                                                  const QList<int> &lines);
+
+    [[nodiscard]] QList<PlannedUpgrade> plannedUpgrades(const QString &family, const QStringList &macs);
+    QList<int> setUpgradeFiles(const QString &family, const QStringList &macs, const QString &path);
+    QStringList takeChangedUpgrades(const QString &family);
 
     /// Reads a device list, on any thread.
     [[nodiscard]] ImportPlan importPlan(const QString &family, const QString &path);

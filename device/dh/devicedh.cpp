@@ -69,6 +69,7 @@ CDeviceDH::~CDeviceDH()
         if (agentListener == this)
             agentListener = nullptr;
     }
+    m_upgrades->requestEnd(); // before their batches: nothing stops that the user has not stopped
     m_engine->requestEnd();
     m_search->requestStop();
     m_refresh->requestStop();
@@ -87,6 +88,7 @@ CDeviceDH::~CDeviceDH()
 
 void CDeviceDH::factoryEnds()
 {
+    m_upgrades->requestEnd();
     m_engine->requestEnd();
     m_snapshots.reset();
     m_upgrades->end();

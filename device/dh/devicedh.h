@@ -18,9 +18,12 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 class BatchEngine;
+class FirmwareFiles;
+struct FirmwareFile;
 class SnapThread;
 struct SnapTask;
 class UpgradeRunner;
@@ -173,6 +176,11 @@ public:
     /// Returns at once; the rows tell how far each device is and what has come of it: "upgrade" in percent,
     /// "upgraderes" an UpgradeTools::Result, "upgradetext" in words, and "vision" at the end.
     void startUpgrade(const QStringList &macs) override;
+    DeviceStep upgradeStep(const QString &mac) override;
+    QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines) override;
+    QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs) override;
+    QList<int> setUpgradeFiles(const QStringList &macs, const QString &path) override;
+    QStringList takeChangedUpgrades() override;
     void stopUpgrade(const QString &mac) override;
     QStringList upgradesToRetry() override;
     bool hasDeviceUpgrading() override;
@@ -229,6 +237,16 @@ private:
     /// The account of a document again, unless the device has refused it or the user has given another since.
     [[nodiscard]] Credentials upgradeCredentials(const QJsonObject &row) const;
     [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress() const;
+    /// Returns what speaks against the upgrade of the row's device.
+    UpgradeTools::Result setUpgradeFile(const QString &mac, const QString &file,
+                                        const FirmwareFile &firmware);
+    /// Opens a document, whose lines are followed then; null when it is refused.
+    [[nodiscard]] UpgradeDocument *addUpgradeDocument(const QString &path);
+    /// Follows a line of the document that was added last. Returns why it is not upgraded, None when it is.
+    [[nodiscard]] UpgradeTools::Result followLine(const UpgradeDocumentLine &line, const UpgradeOrder &order,
+                                                  const QJsonObject &row, FirmwareFiles &files);
+    /// What is to be told when the lines of documents have begun.
+    void noteDocumentsBegun();
     void noteUpgrade(const UpgradeOrder &order, const UpgradeState &state);
     /// Says how far the upgrades are, once however often it is called before. On any thread.
     void noteSchedule();
@@ -284,6 +302,9 @@ private:
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
     UpgradeDocuments m_upgradeDocuments;
     QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row
+    QHash<QString, UpgradeOrder> m_rowlessOrders;       ///< of lines without a row, by address and port
+    QSet<QString> m_changedUpgrades;                    ///< names of rows; any thread
+    std::mutex m_changedUpgradesMutex;
     std::atomic<bool> m_changedRowsNoted = false;
     std::atomic<bool> m_scheduleNoted = false;
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents

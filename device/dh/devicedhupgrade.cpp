@@ -11,44 +11,53 @@
 
 namespace {
 
-UpgradeTools::Result refusalOf(const FirmwareFile &file, const QString &model)
+/// What a line lacks, and what its file is; None when it can be upgraded.
+UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const UpgradeOrder &order,
+                               FirmwareFiles &files)
 {
-    return file.refusal == UpgradeTools::None && !file.fits(model) ? UpgradeTools::WrongModel : file.refusal;
+    return line.refusal != UpgradeTools::None ? line.refusal : files.at(order.file).refusalFor(order.model);
 }
 
-/// Looks at files, at each of them once.
-class FirmwareFiles
+/// Of what is not upgraded.
+DeviceStep refusedStep(UpgradeTools::Result refusal)
 {
-public:
-    /// What a line lacks, and what its file is; None when it can be upgraded.
-    [[nodiscard]] UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const UpgradeOrder &order)
-    {
-        if (line.refusal != UpgradeTools::None)
-            return line.refusal;
-        if (!m_files.contains(order.file))
-            m_files.insert(order.file, firmwareFile(order.file));
-        return ::refusalOf(m_files.value(order.file), order.model);
-    }
-
-private:
-    QHash<QString, FirmwareFile> m_files;
-};
+    return [refusal](const StepControl &) {
+        return StepOutcome{.result = UpgradeTools::batchResult(refusal), .text = UpgradeTools::text(refusal)};
+    };
+}
 
 } // namespace
 
 void CDeviceDH::setUpgradeFilePath(const QString &mac, const QString &path)
 {
-    if (m_upgrades->isUpgrading(mac))
-        return;
+    setUpgradeFiles({mac}, path);
+}
+
+QList<int> CDeviceDH::setUpgradeFiles(const QStringList &macs, const QString &path)
+{
     const QString file = localPath(path);
     const FirmwareFile firmware = file.isEmpty() ? FirmwareFile() : firmwareFile(file);
+    QList<int> refusals;
+    refusals.reserve(macs.size());
+    for (const QString &mac : macs)
+        refusals.append(setUpgradeFile(mac, file, firmware));
+    return refusals;
+}
+
+UpgradeTools::Result CDeviceDH::setUpgradeFile(const QString &mac, const QString &file,
+                                               const FirmwareFile &firmware)
+{
+    if (m_upgrades->isUpgrading(mac))
+        return UpgradeTools::DeviceBusy;
+    UpgradeTools::Result refusal = UpgradeTools::None;
     store().changeRowNamed(mac, [&](QJsonObject &row) {
-        const UpgradeTools::Result refusal = refusalOf(firmware, row.value(DeviceRowKey::model).toString());
+        refusal = firmware.refusalFor(row.value(DeviceRowKey::model).toString());
         row.insert(DeviceRowKey::filepath, file);
         row.insert(DeviceRowKey::upgrade, 0);
         row.insert(DeviceRowKey::upgraderes, refusal);
         row.insert(DeviceRowKey::upgradetext, UpgradeTools::text(refusal));
     });
+    return refusal;
 }
 
 void CDeviceDH::startUpgrade(const QStringList &macs)
@@ -61,6 +70,34 @@ void CDeviceDH::startUpgrade(const QStringList &macs)
             m_upgrades->start(upgradeOrder(row));
     }
     noteChangedRows();
+}
+
+DeviceStep CDeviceDH::upgradeStep(const QString &mac)
+{
+    const QJsonObject row = store().rowNamed(mac);
+    if (row.isEmpty() && !m_rowlessOrders.contains(mac)) {
+        return [words = tr("设备已不在列表中")](const StepControl &) {
+            return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = words};
+        };
+    }
+    noteChangedRows();
+    return m_upgrades->step(row.isEmpty() ? m_rowlessOrders.value(mac) : upgradeOrder(row));
+}
+
+QList<PlannedUpgrade> CDeviceDH::plannedUpgrades(const QStringList &macs)
+{
+    QList<PlannedUpgrade> plans;
+    plans.reserve(macs.size());
+    FirmwareFiles files;
+    for (const QString &mac : macs) {
+        const QJsonObject row = store().rowNamed(mac);
+        const QString path = row.value(DeviceRowKey::filepath).toString();
+        const FirmwareFile &file = files.at(path);
+        plans.append({.refusal = file.refusalFor(row.value(DeviceRowKey::model).toString()),
+                      .file = path,
+                      .version = file.head ? QString::fromStdString(file.head->version) : QString()});
+    }
+    return plans;
 }
 
 QStringList CDeviceDH::upgradesToRetry()
@@ -166,15 +203,53 @@ QVariantList CDeviceDH::importUpgradeDocument(const QString &file)
     FirmwareFiles files;
     for (const UpgradeDocumentLine &line : document.lines()) {
         const UpgradeOrder order = upgradeOrder(line, rows.value(line.ipport));
-        const UpgradeTools::Result refusal = files.refusalOf(line, order);
-        report.append(QVariantMap{{QStringLiteral("line"), line.row},
-                                  {QStringLiteral("address"), line.ipport},
-                                  {QStringLiteral("mac"), order.row},
-                                  {QStringLiteral("file"), line.file},
-                                  {QStringLiteral("code"), static_cast<int>(refusal)},
-                                  {QStringLiteral("reason"), UpgradeTools::text(refusal)}});
+        const UpgradeTools::Result refusal = refusalOf(line, order, files);
+        const FirmwareFile &firmware = files.at(line.file);
+        report.append(
+            QVariantMap{{QStringLiteral("line"), line.row},
+                        {QStringLiteral("address"), line.ipport},
+                        {QStringLiteral("mac"), order.row},
+                        {QStringLiteral("file"), line.file},
+                        {QStringLiteral("version"),
+                         firmware.head ? QString::fromStdString(firmware.head->version) : QString()},
+                        {QStringLiteral("code"), static_cast<int>(refusal)},
+                        {QStringLiteral("reason"), UpgradeTools::text(refusal)}});
     }
     return report;
+}
+
+UpgradeDocument *CDeviceDH::addUpgradeDocument(const QString &path)
+{
+    auto document = std::make_unique<UpgradeDocument>();
+    const QString refusal = document->open(localPath(path));
+    if (!refusal.isEmpty()) {
+        m_upgradeDocuments.addRefused(path, refusal);
+        return nullptr;
+    }
+    UpgradeDocument *added = document.get();
+    m_upgradeDocuments.add(path, std::move(document));
+    return added;
+}
+
+UpgradeTools::Result CDeviceDH::followLine(const UpgradeDocumentLine &line, const UpgradeOrder &order,
+                                           const QJsonObject &row, FirmwareFiles &files)
+{
+    UpgradeTools::Result refusal = refusalOf(line, order, files);
+    if (refusal == UpgradeTools::None && m_upgrades->isUpgrading(order.key)) // from another document
+        refusal = UpgradeTools::DeviceBusy;
+    if (refusal != UpgradeTools::None) {
+        m_upgradeDocuments.refuse(line.row, UpgradeTools::text(refusal));
+        return refusal;
+    }
+    m_upgradeDocuments.follow(order.key, line.row);
+    if (order.row.isEmpty())
+        m_rowlessOrders.insert(order.key, order);
+    else
+        m_documentAccounts.insert(order.row,
+                                  {.used = {order.account, order.password}, .usual = credentialsOf(row)});
+    store().changeRowNamed(
+        order.row, [&order](QJsonObject &changed) { changed.insert(DeviceRowKey::filepath, order.file); });
+    return UpgradeTools::None;
 }
 
 void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
@@ -184,36 +259,49 @@ void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
     const QHash<QString, QJsonObject> rows = rowsByAddress();
     FirmwareFiles files;
     for (const QString &path : paths) {
-        auto document = std::make_unique<UpgradeDocument>();
-        const QString refusal = document->open(localPath(path));
-        if (!refusal.isEmpty()) {
-            m_upgradeDocuments.addRefused(path, refusal);
-            continue;
-        }
-        const std::vector<UpgradeDocumentLine> lines = document->lines();
-        m_upgradeDocuments.add(path, std::move(document));
+        UpgradeDocument *document = addUpgradeDocument(path);
+        const std::vector<UpgradeDocumentLine> lines =
+            document ? document->lines() : std::vector<UpgradeDocumentLine>();
         for (const UpgradeDocumentLine &line : lines) {
             const QJsonObject row = rows.value(line.ipport);
             const UpgradeOrder order = upgradeOrder(line, row);
-            const UpgradeTools::Result lineRefusal = files.refusalOf(line, order);
-            if (lineRefusal != UpgradeTools::None) {
-                m_upgradeDocuments.refuse(line.row, UpgradeTools::text(lineRefusal));
-            } else if (m_upgrades->isUpgrading(order.key)) { // from another document, or from the table
-                m_upgradeDocuments.refuse(line.row, UpgradeTools::text(UpgradeTools::DeviceBusy));
-            } else {
-                m_upgradeDocuments.follow(order.key, line.row);
-                if (!order.row.isEmpty())
-                    m_documentAccounts.insert(
-                        order.row, {.used = {order.account, order.password}, .usual = credentialsOf(row)});
-                store().changeRowNamed(order.row, [&order](QJsonObject &changed) {
-                    changed.insert(DeviceRowKey::filepath, order.file);
-                });
-                if (!m_upgrades->start(order))
-                    m_upgradeDocuments.note(order.key, UpgradeTools::Cut, 0,
-                                            UpgradeTools::text(UpgradeTools::Cut));
-            }
+            if (followLine(line, order, row, files) == UpgradeTools::None && !m_upgrades->start(order))
+                m_upgradeDocuments.note(order.key, UpgradeTools::Cut, 0,
+                                        UpgradeTools::text(UpgradeTools::Cut));
         }
     }
+    noteDocumentsBegun();
+}
+
+QList<UpgradeDocumentStep> CDeviceDH::upgradeDocumentSteps(const QString &path, const QList<int> &lines)
+{
+    if (!m_upgradeDocuments.hasOpen())
+        m_upgradeDocuments.begin();
+    QList<UpgradeDocumentStep> steps;
+    const QSet<int> wanted(lines.cbegin(), lines.cend());
+    const QHash<QString, QJsonObject> rows = rowsByAddress();
+    FirmwareFiles files;
+    UpgradeDocument *document = addUpgradeDocument(path);
+    const std::vector<UpgradeDocumentLine> all =
+        document ? document->lines() : std::vector<UpgradeDocumentLine>();
+    for (const UpgradeDocumentLine &line : all) {
+        if (!wanted.contains(line.row))
+            continue;
+        const QJsonObject row = rows.value(line.ipport);
+        const UpgradeOrder order = upgradeOrder(line, row);
+        const UpgradeTools::Result refusal = followLine(line, order, row, files);
+        steps.append(
+            {.line = line.row,
+             .device = order.key,
+             .ipport = line.ipport,
+             .step = refusal == UpgradeTools::None ? m_upgrades->step(order) : refusedStep(refusal)});
+    }
+    noteDocumentsBegun();
+    return steps;
+}
+
+void CDeviceDH::noteDocumentsBegun()
+{
     noteUpgradeDocuments();
     noteChangedRows();
     if (!hasDeviceUpgrading()) // no line could be upgraded
@@ -246,9 +334,21 @@ void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state
             row.insert(DeviceRowKey::vision, versionText(state.version));
     });
     m_upgradeDocuments.note(order.key, state.result, state.percent, state.text);
+    if (!order.row.isEmpty()) {
+        const std::lock_guard lock(m_changedUpgradesMutex);
+        m_changedUpgrades.insert(order.row);
+    }
     noteSchedule();
     if (!UpgradeTools::isRunning(state.result))
         noteChangedRows();
+}
+
+QStringList CDeviceDH::takeChangedUpgrades()
+{
+    const std::lock_guard lock(m_changedUpgradesMutex);
+    const QStringList names = m_changedUpgrades.values();
+    m_changedUpgrades.clear();
+    return names;
 }
 
 void CDeviceDH::noteSchedule()

@@ -8,6 +8,19 @@ bool FirmwareFile::fits(const QString &model) const
     return !head || head->fits(model.toStdString());
 }
 
+UpgradeTools::Result FirmwareFile::refusalFor(const QString &model) const
+{
+    return refusal == UpgradeTools::None && !fits(model) ? UpgradeTools::WrongModel : refusal;
+}
+
+const FirmwareFile &FirmwareFiles::at(const QString &path)
+{
+    auto file = m_files.find(path);
+    if (file == m_files.end())
+        file = m_files.insert(path, firmwareFile(path));
+    return *file;
+}
+
 FirmwareFile firmwareFile(const QString &path)
 {
     using Kind = sdk::FirmwareHeadReading::Kind;

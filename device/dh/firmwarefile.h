@@ -4,6 +4,7 @@
 #include "device/upgradetools.h"
 #include "sdk/firmwarehead.h"
 
+#include <QHash>
 #include <QString>
 
 #include <optional>
@@ -18,6 +19,19 @@ struct FirmwareFile
 
     /// Whether a device with this model may get it; also when one of both does not tell.
     [[nodiscard]] bool fits(const QString &model) const;
+
+    /// Why a device with this model does not get it; None when it does.
+    [[nodiscard]] UpgradeTools::Result refusalFor(const QString &model) const;
 };
 
 [[nodiscard]] FirmwareFile firmwareFile(const QString &path);
+
+/// Looks at files, at each of them once.
+class FirmwareFiles
+{
+public:
+    [[nodiscard]] const FirmwareFile &at(const QString &path);
+
+private:
+    QHash<QString, FirmwareFile> m_files; ///< by path
+};

@@ -4,6 +4,9 @@
 
 namespace {
 
+/// How long a device may take to let go of what it is asked.
+constexpr std::chrono::milliseconds endWait(500);
+
 /// The engine's batch of upgrades tells nothing that the runner does not know.
 class NoWatcher : public BatchWatcher
 {
@@ -16,7 +19,18 @@ public:
 
 UpgradeState endOf(UpgradeTools::Result result)
 {
-    return {.result = result, .percent = 0, .text = UpgradeTools::text(result), .version = {}};
+    return {
+        .result = result, .percent = 0, .text = UpgradeTools::text(result), .version = {}, .versions = {}};
+}
+
+StepOutcome outcomeOf(const UpgradeState &state)
+{
+    StepOutcome outcome = {.result = UpgradeTools::batchResult(state.result), .text = state.text};
+    if (state.result == UpgradeTools::Success)
+        outcome.text = state.versions;
+    else if (outcome.text == resultName(outcome.result))
+        outcome.text.clear();
+    return outcome;
 }
 
 } // namespace
@@ -33,7 +47,29 @@ UpgradeRunner::~UpgradeRunner()
     end();
 }
 
+DeviceStep UpgradeRunner::step(const UpgradeOrder &order)
+{
+    const std::shared_ptr<Upgrade> upgrade = enter(order);
+    if (upgrade)
+        return stepOf(upgrade);
+    return [](const StepControl &) {
+        return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
+    };
+}
+
 bool UpgradeRunner::start(const UpgradeOrder &order)
+{
+    const std::shared_ptr<Upgrade> upgrade = enter(order);
+    if (!upgrade)
+        return false;
+    const BatchItem item = {.device = order.key, .step = stepOf(upgrade)};
+    const std::lock_guard lock(m_submitting);
+    if (!m_engine->append(m_batch, item))
+        m_batch = m_engine->start({item}, {.atOnce = m_limits.atOnce}, std::make_shared<NoWatcher>());
+    return true;
+}
+
+std::shared_ptr<UpgradeRunner::Upgrade> UpgradeRunner::enter(const UpgradeOrder &order)
 {
     const auto upgrade = std::make_shared<Upgrade>();
     upgrade->order = order;
@@ -46,8 +82,8 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
         }
         const auto known = m_round.constFind(order.key);
         const bool isRunning = known != m_round.cend() && UpgradeTools::isRunning((*known)->state.result);
-        if (m_hasEnded || isRunning)
-            return false;
+        if (m_end.stop_requested() || isRunning)
+            return nullptr;
         if (known != m_round.cend())
             m_percentSum -= shareOf((*known)->state);
         m_round.insert(order.key, upgrade);
@@ -55,38 +91,36 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
         ++m_unfinished;
     }
     m_watchers.changed(upgrade->order, upgrade->state); // before a thread has news of it
-    if (!submit(upgrade) && takeWaiting(*upgrade))
-        finish(upgrade, endOf(UpgradeTools::Cut));
-    return true;
+    return upgrade;
 }
 
-bool UpgradeRunner::submit(const std::shared_ptr<Upgrade> &upgrade)
+DeviceStep UpgradeRunner::stepOf(const std::shared_ptr<Upgrade> &upgrade)
 {
-    const BatchItem item = {.device = upgrade->order.key,
-                            .step = [this, upgrade](const StepControl &control) {
-                                return perform(upgrade, control);
-                            }};
-    const std::lock_guard lock(m_submitting);
-    if (m_engine->append(m_batch, item))
-        return true;
-    m_batch = m_engine->start({item}, {.atOnce = m_limits.atOnce}, std::make_shared<NoWatcher>());
-    return m_batch != 0;
+    // Goes with the last copy of the step.
+    const std::shared_ptr<Upgrade> entered(upgrade.get(), [this, upgrade](Upgrade *notRun) {
+        giveUpWaiting(*notRun, UpgradeTools::Stopped);
+    });
+    return [this, entered](const StepControl &control) {
+        return perform(*entered, control);
+    };
 }
 
-StepOutcome UpgradeRunner::perform(const std::shared_ptr<Upgrade> &upgrade, const StepControl &control)
+StepOutcome UpgradeRunner::perform(Upgrade &upgrade, const StepControl &control)
 {
-    if (!takeWaiting(*upgrade)) // it was stopped
-        return {.result = resultCode(LoginResult::NotDone), .text = {}};
-    UpgradeWork device(m_libraries, m_limits, upgrade->order, upgrade->stopAsked,
-                       [&](const UpgradeState &state) { change(*upgrade, state); });
-    finish(upgrade, device.run(control));
-    return {};
-}
-
-bool UpgradeRunner::takeWaiting(Upgrade &upgrade)
-{
+    if (upgrade.isWaiting.exchange(false)) {
+        UpgradeWork device(m_libraries, m_limits, upgrade.order,
+                           {.end = m_end.get_token(), .isAsked = upgrade.stopAsked},
+                           [&](const UpgradeState &state) { change(upgrade, state); });
+        finish(upgrade, device.run(control));
+    }
     const std::lock_guard lock(m_mutex);
-    return std::exchange(upgrade.isWaiting, false);
+    return outcomeOf(upgrade.state);
+}
+
+void UpgradeRunner::giveUpWaiting(Upgrade &upgrade, UpgradeTools::Result result)
+{
+    if (upgrade.isWaiting.exchange(false)) // else the runner may be gone already
+        finish(upgrade, endOf(result));
 }
 
 void UpgradeRunner::stop(const QString &key)
@@ -99,8 +133,7 @@ void UpgradeRunner::stop(const QString &key)
             return;
         upgrade->stopAsked = true;
     }
-    if (takeWaiting(*upgrade))
-        finish(upgrade, endOf(UpgradeTools::Stopped));
+    giveUpWaiting(*upgrade, UpgradeTools::Stopped);
 }
 
 bool UpgradeRunner::isUpgrading() const
@@ -127,44 +160,61 @@ int UpgradeRunner::percent() const
     return m_round.isEmpty() ? 100 : static_cast<int>(m_percentSum / m_round.size());
 }
 
-void UpgradeRunner::end()
+void UpgradeRunner::requestEnd()
 {
     QList<std::shared_ptr<Upgrade>> round;
     {
         const std::lock_guard lock(m_mutex);
-        m_hasEnded = true;
+        m_end.request_stop();
         round = m_round.values();
     }
+    for (const std::shared_ptr<Upgrade> &upgrade : std::as_const(round))
+        giveUpWaiting(*upgrade, UpgradeTools::Cut);
+    const std::lock_guard lock(m_submitting);
+    m_engine->stop(m_batch);
+}
+
+void UpgradeRunner::end()
+{
+    requestEnd();
+    QList<std::shared_ptr<Upgrade>> round;
     {
-        const std::lock_guard lock(m_submitting);
-        m_engine->stop(m_batch);
+        std::unique_lock lock(m_mutex);
+        m_finished.wait_for(lock, endWait, [this] { return m_unfinished == 0 && m_telling == 0; });
+        round = m_round.values();
     }
-    for (const std::shared_ptr<Upgrade> &upgrade : std::as_const(round)) {
-        if (takeWaiting(*upgrade))
-            finish(upgrade, endOf(UpgradeTools::Cut));
-    }
-    std::unique_lock lock(m_mutex);
-    m_finished.wait(lock, [this] { return m_unfinished == 0 && m_telling == 0; });
+    // The library cuts the wait of the rest when it is released. Nothing that they tell then counts.
+    for (const std::shared_ptr<Upgrade> &upgrade : std::as_const(round))
+        finish(*upgrade, endOf(UpgradeTools::Cut));
 }
 
 void UpgradeRunner::change(Upgrade &upgrade, const UpgradeState &state)
 {
     {
         const std::lock_guard lock(m_mutex);
+        if (!UpgradeTools::isRunning(upgrade.state.result))
+            return;
         m_percentSum += shareOf(state) - shareOf(upgrade.state);
         upgrade.state = state;
     }
     m_watchers.changed(upgrade.order, state);
 }
 
-void UpgradeRunner::finish(const std::shared_ptr<Upgrade> &upgrade, const UpgradeState &state)
+void UpgradeRunner::finish(Upgrade &upgrade, const UpgradeState &state)
 {
-    change(*upgrade, state);
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!UpgradeTools::isRunning(upgrade.state.result))
+            return;
+        m_percentSum += shareOf(state) - shareOf(upgrade.state);
+        upgrade.state = state;
+        ++m_telling;
+    }
+    m_watchers.changed(upgrade.order, state);
     bool isLast = false;
     {
         const std::lock_guard lock(m_mutex);
         isLast = --m_unfinished == 0;
-        ++m_telling;
     }
     if (isLast)
         m_watchers.roundEnded();

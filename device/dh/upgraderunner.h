@@ -11,20 +11,20 @@
 #include <memory>
 #include <mutex>
 
-/// Runs upgrades in the order of their start. Thread-safe. A round begins with the first upgrade and ends
-/// when none is left.
+/// Makes upgrades into steps of batches, and knows of a round of them how far each is. Thread-safe. A round
+/// begins with the first upgrade and ends when none is left.
 class UpgradeRunner
 {
 public:
-    /// Are called on threads of the engine, or inside stop(); must not call end().
+    /// Are called on threads of the engine, inside stop(), or where a step goes; must not call end().
     struct Watchers
     {
         std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed;
         std::function<void()> roundEnded;
     };
 
-    /// `engine` runs the upgrades. A device that restarts gives its place among those that are upgraded at
-    /// the same time away.
+    /// `engine` runs what start() takes. A device that restarts gives its place among those that are upgraded
+    /// at the same time away.
     UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits,
                   std::shared_ptr<BatchEngine> engine, Watchers watchers);
 
@@ -33,8 +33,13 @@ public:
     UpgradeRunner(const UpgradeRunner &) = delete;
     UpgradeRunner &operator=(const UpgradeRunner &) = delete;
 
-    /// Takes what is to be upgraded. Returns false, and takes nothing, when that device is upgraded already
-    /// or when the runner has ended.
+    /// An upgrade as a step of a batch. It waits from now on, until the step is run, stop() is called, or the
+    /// step goes without having been run: then it is stopped. For a device that is upgraded already, and when
+    /// the runner has ended, the step does nothing. The outcome is as UpgradeTools::batchResult() has it.
+    [[nodiscard]] DeviceStep step(const UpgradeOrder &order);
+
+    /// The same on the engine, behind those that were started so before. Returns false, and takes nothing,
+    /// for what step() makes nothing of.
     bool start(const UpgradeOrder &order);
 
     /// Asks an upgrade to stop, which it does until the device writes.
@@ -46,7 +51,11 @@ public:
     /// Of the round, 100 when it has ended.
     [[nodiscard]] int percent() const;
 
-    /// Gives up what is not done and waits for the threads. The devices that write go on by themselves.
+    /// Nothing begins any more, and what is not done is given up. Does not wait for it.
+    void requestEnd();
+
+    /// The same, and waits for what is given up, but not for a device that does not answer. The devices that
+    /// write go on by themselves.
     void end();
 
 private:
@@ -55,17 +64,20 @@ private:
         UpgradeOrder order;
         UpgradeState state;
         std::atomic<bool> stopAsked = false;
-        bool isWaiting = true; ///< for its turn
+        std::atomic<bool> isWaiting = true; ///< for its turn
     };
 
     /// What an upgrade adds to the percent of its round.
     [[nodiscard]] static int shareOf(const UpgradeState &state);
-    /// Returns true when the upgrade has waited for its turn until now.
-    [[nodiscard]] bool takeWaiting(Upgrade &upgrade);
-    [[nodiscard]] bool submit(const std::shared_ptr<Upgrade> &upgrade);
-    [[nodiscard]] StepOutcome perform(const std::shared_ptr<Upgrade> &upgrade, const StepControl &control);
+    /// Null for what is not taken.
+    [[nodiscard]] std::shared_ptr<Upgrade> enter(const UpgradeOrder &order);
+    [[nodiscard]] DeviceStep stepOf(const std::shared_ptr<Upgrade> &upgrade);
+    [[nodiscard]] StepOutcome perform(Upgrade &upgrade, const StepControl &control);
+    /// Ends an upgrade that still waits for its turn.
+    void giveUpWaiting(Upgrade &upgrade, UpgradeTools::Result result);
     void change(Upgrade &upgrade, const UpgradeState &state);
-    void finish(const std::shared_ptr<Upgrade> &upgrade, const UpgradeState &state);
+    /// Does nothing for one that has ended.
+    void finish(Upgrade &upgrade, const UpgradeState &state);
 
     const sdk::SdkLibraries m_libraries;
     const UpgradeLimits m_limits;
@@ -73,7 +85,7 @@ private:
     const Watchers m_watchers;
     mutable std::mutex m_mutex;
     std::condition_variable m_finished;
-    bool m_hasEnded = false;
+    std::stop_source m_end;
     std::size_t m_unfinished = 0;
     int m_telling = 0; ///< threads that tell the end of an upgrade
     std::mutex m_submitting;

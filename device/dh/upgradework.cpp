@@ -35,10 +35,11 @@ public:
     static QString cannotStop() { return tr("已开始写入，无法停止"); }
     static QString stopFails() { return tr("尚未停止，正在重试"); }
     static QString restarts() { return tr("固件已写入，设备正在重启，无法停止"); }
-    static QString done(const QString &before, const QString &now)
+    static QString versions(const QString &before, const QString &now)
     {
-        return before.isEmpty() ? tr("升级成功：%1").arg(now) : tr("升级成功：%1 → %2").arg(before, now);
+        return before.isEmpty() ? now : QStringLiteral("%1 → %2").arg(before, now);
     }
+    static QString done(const QString &versions) { return tr("升级成功：%1").arg(versions); }
     static QString noVersion(const QString &reason) { return tr("%1：未读到版本号").arg(reason); }
     static QString nothingToCompare(const QString &reason, const QString &now)
     {
@@ -132,45 +133,50 @@ private:
 };
 
 UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits,
-                         const UpgradeOrder &order, const std::atomic<bool> &stopAsked, Tell tell)
-    : m_libraries(libraries), m_limits(limits), m_order(order), m_stopAsked(stopAsked),
+                         const UpgradeOrder &order, UpgradeStop stop, Tell tell)
+    : m_libraries(libraries), m_limits(limits), m_order(order), m_stop(std::move(stop)),
       m_tell(std::move(tell))
 {
 }
 
+bool UpgradeWork::shouldStop(const StepControl &control) const
+{
+    // The end of the program stops batches, too.
+    return (m_stop.isAsked || control.isStopped()) && !m_stop.end.stop_requested();
+}
+
 UpgradeState UpgradeWork::run(const StepControl &control)
 {
-    const std::stop_token &stop = control.stopToken();
     tell(UpgradeTools::Preparing, 0);
     const FirmwareFile file = firmwareFile(m_order.file);
     if (file.refusal != UpgradeTools::None)
         return ended(file.refusal);
     if (!file.fits(m_order.model))
         return ended(UpgradeTools::WrongModel);
-    if (m_stopAsked)
+    if (shouldStop(control))
         return ended(UpgradeTools::Stopped);
     const SecureLogin login =
         secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
     if (login.result != LoginResult::Success)
         return ended(resultOfLogin(login.result));
     News news;
-    UpgradeState state = send(login.handle, file, news, stop);
+    UpgradeState state = send(login.handle, file, news, control);
     m_libraries.net->NetLogout(login.handle); // no news from here on, also of what cannot be stopped
     if (state.result != UpgradeTools::Restarting)
         return state;
     control.releasePlace();
-    return waitForReturn(file, stop);
+    return waitForReturn(file, control);
 }
 
 UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
-                               const std::stop_token &stop)
+                               const StepControl &control)
 {
     const Identity device = identity(loginHandle);
     if (!file.fits(device.model))
         return ended(UpgradeTools::WrongModel);
-    if (stop.stop_requested())
+    if (m_stop.end.stop_requested())
         return ended(UpgradeTools::Cut);
-    if (m_stopAsked)
+    if (shouldStop(control))
         return ended(UpgradeTools::Stopped);
     m_oldVersion = device.version;
     const std::int64_t handle = m_libraries.net->NetStartUpgrade(
@@ -181,20 +187,20 @@ UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &fil
                              << error;
         return ended(resultOfError(error));
     }
-    UpgradeState state = follow(handle, news, stop);
+    UpgradeState state = follow(handle, news, control);
     if (state.result != UpgradeTools::Stopped) // else it is stopped already
         m_libraries.net->NetStopUpgrade(handle);
     return state;
 }
 
-UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, const std::stop_token &stop)
+UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, const StepControl &control)
 {
     sdk::Clock &clock = *m_libraries.clock;
     const std::int64_t start = clock.now();
     std::int64_t lastChange = start;
     sdk::UpgradeProgress seen = news.last();
     tell(UpgradeTools::Sending, 0);
-    while (clock.wait(lookInterval, stop)) {
+    while (clock.wait(lookInterval, m_stop.end)) {
         const sdk::UpgradeProgress now = news.last();
         if (now.phase == sdk::UpgradePhase::Done) {
             tell(UpgradeTools::Restarting, restartingFrom);
@@ -207,7 +213,7 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, c
         if (now.phase != seen.phase || now.percent != seen.percent)
             lastChange = clock.now();
         seen = now;
-        if (m_stopAsked && !m_stopRefused) {
+        if (!m_stopRefused && shouldStop(control)) {
             if (m_libraries.net->NetStopUpgrade(upgradeHandle))
                 return ended(UpgradeTools::Stopped);
             // A device that is written goes on; of one that is not yet the stop may go well next time.
@@ -223,14 +229,14 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, c
     return ended(UpgradeTools::Cut);
 }
 
-UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const std::stop_token &stop)
+UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepControl &control)
 {
     sdk::Clock &clock = *m_libraries.clock;
     const std::int64_t start = clock.now();
     bool wasAway = false;
     std::optional<std::int64_t> letInAt; // after the reboot
-    while (clock.wait(returnInterval, stop)) {
-        if (m_stopAsked)
+    while (clock.wait(returnInterval, m_stop.end)) {
+        if (shouldStop(control))
             tell(UpgradeTools::Restarting, restartingFrom, UpgradeTexts::restarts());
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
@@ -310,7 +316,8 @@ UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const
     state.text = UpgradeTools::text(result);
     if (result == UpgradeTools::Success) {
         state.percent = 100;
-        state.text = UpgradeTexts::done(m_oldVersion, state.version);
+        state.versions = UpgradeTexts::versions(m_oldVersion, state.version);
+        state.text = UpgradeTexts::done(state.versions);
     } else if (result == UpgradeTools::VersionUnknown) {
         state.text = state.version.isEmpty() ? UpgradeTexts::noVersion(state.text)
                                              : UpgradeTexts::nothingToCompare(state.text, state.version);

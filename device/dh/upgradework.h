@@ -27,9 +27,17 @@ struct UpgradeOrder
 struct UpgradeState
 {
     UpgradeTools::Result result = UpgradeTools::Waiting;
-    int percent = 0; ///< of the whole upgrade
-    QString text;    ///< in the user's language
-    QString version; ///< that the device has answered with at the end
+    int percent = 0;  ///< of the whole upgrade
+    QString text;     ///< in the user's language
+    QString version;  ///< that the device has answered with at the end
+    QString versions; ///< before and now, for the user, of a success
+};
+
+/// What ends an upgrade early.
+struct UpgradeStop
+{
+    std::stop_token end;              ///< of the program: waits are cut short
+    const std::atomic<bool> &isAsked; ///< the user wants it to stop
 };
 
 /// How long is waited for a device.
@@ -49,11 +57,12 @@ class UpgradeWork
 public:
     using Tell = std::function<void(const UpgradeState &state)>;
 
-    /// `tell` gets each change on the way. `stopAsked` is set when the user wants it to stop.
+    /// `tell` gets each change on the way.
     UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
-                const std::atomic<bool> &stopAsked, Tell tell);
+                UpgradeStop stop, Tell tell);
 
-    /// Returns the end. A stop cuts the waits short: the program ends.
+    /// Returns the end. The stop of its batch counts as one that the user asks for: a device that writes is
+    /// followed to its end.
     [[nodiscard]] UpgradeState run(const StepControl &control);
 
 private:
@@ -66,10 +75,11 @@ private:
     class News;
 
     [[nodiscard]] UpgradeState send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
-                                    const std::stop_token &stop);
+                                    const StepControl &control);
     [[nodiscard]] UpgradeState follow(std::int64_t upgradeHandle, const News &news,
-                                      const std::stop_token &stop);
-    [[nodiscard]] UpgradeState waitForReturn(const FirmwareFile &file, const std::stop_token &stop);
+                                      const StepControl &control);
+    [[nodiscard]] UpgradeState waitForReturn(const FirmwareFile &file, const StepControl &control);
+    [[nodiscard]] bool shouldStop(const StepControl &control) const;
     /// What it means that a device tells this version, which is not empty, after its reboot.
     [[nodiscard]] UpgradeTools::Result outcomeOf(const FirmwareFile &file, const QString &version) const;
     [[nodiscard]] Identity identity(std::int64_t loginHandle) const;
@@ -80,7 +90,7 @@ private:
     const sdk::SdkLibraries &m_libraries;
     const UpgradeLimits &m_limits;
     const UpgradeOrder &m_order;
-    const std::atomic<bool> &m_stopAsked;
+    const UpgradeStop m_stop;
     const Tell m_tell;
     QString m_oldVersion;
     UpgradeState m_state;

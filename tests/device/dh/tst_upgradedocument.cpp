@@ -1,5 +1,4 @@
 // Upgrades by document: the report before, the results in the workbook after.
-#include "sheets/qexcel.h"
 #include "tests/device/dh/upgradesite.h"
 
 #include <QDir>
@@ -9,51 +8,24 @@ using namespace Qt::StringLiterals;
 class TestUpgradeDocument : public QObject
 {
     Q_OBJECT
-private:
-    /// Writes a workbook of these rows and returns its path.
-    static QString workbook(const UpgradeSite &test, const QList<QStringList> &rows,
-                            const QString &name = u"upgrades.xlsx"_s)
-    {
-        QExcel excel;
-        bool isWritten = excel.createWorkbook();
-        const QStringList titles = {u"IP"_s, u"端口"_s, u"用户名"_s, u"密码"_s, u"升级文件"_s, u"结果"_s};
-        for (int row = 0; row <= rows.size(); ++row) {
-            const QStringList cells = row == 0 ? titles : rows.at(row - 1);
-            for (int column = 0; column < cells.size(); ++column)
-                isWritten &= excel.setCellText(row + 1, column + 1, cells.at(column));
-        }
-        const QString path = test.folder.filePath(name);
-        return isWritten && excel.saveAs(path) ? path : QString();
-    }
-
-    static QStringList results(const QString &path, int rows)
-    {
-        QExcel excel;
-        QStringList texts;
-        const bool isOpen = excel.open(path);
-        for (int row = 2; isOpen && row <= rows + 1; ++row)
-            texts.append(excel.cellText(row, 6).value_or(QString()));
-        return texts;
-    }
-
 private Q_SLOTS:
     void theReport()
     {
         const UpgradeSite test(2);
-        const QString path = workbook(test, {{test.address(0), u"37777.0"_s, {}, {}, test.file()},
-                                             {u"192.168.1.77"_s, {}, {}, {}, u"./firmware.bin"_s},
-                                             {},
-                                             {u"192.168.1"_s, {}, {}, {}, u"firmware.bin"_s},
-                                             {u"host/../"_s, {}, {}, {}, u"firmware.bin"_s},
-                                             {test.address(1), u"70000"_s, {}, {}, u"firmware.bin"_s},
-                                             {test.address(1), u"37777"_s, {}, {}, u"missing.bin"_s},
-                                             {test.address(0), {}, {}, {}, u"firmware.bin"_s},
-                                             {u"fe80::1"_s, u"1"_s, {}, {}, {}},
-                                             {{}, {}, {}, {}, u"firmware.bin"_s},
-                                             {u"192.168.001.11"_s, {}, {}, {}, u"firmware.bin"_s},
-                                             {u"192.168.001.012"_s, u"37778"_s, {}, {}, {}},
-                                             {u"::ffff:192.168.1.11"_s, {}, {}, {}, u"firmware.bin"_s},
-                                             {test.address(1), u"37777.9"_s, {}, {}, u"firmware.bin"_s}});
+        const QString path = test.workbook({{test.address(0), u"37777.0"_s, {}, {}, test.file()},
+                                            {u"192.168.1.77"_s, {}, {}, {}, u"./firmware.bin"_s},
+                                            {},
+                                            {u"192.168.1"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {u"host/../"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {test.address(1), u"70000"_s, {}, {}, u"firmware.bin"_s},
+                                            {test.address(1), u"37777"_s, {}, {}, u"missing.bin"_s},
+                                            {test.address(0), {}, {}, {}, u"firmware.bin"_s},
+                                            {u"fe80::1"_s, u"1"_s, {}, {}, {}},
+                                            {{}, {}, {}, {}, u"firmware.bin"_s},
+                                            {u"192.168.001.11"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {u"192.168.001.012"_s, u"37778"_s, {}, {}, {}},
+                                            {u"::ffff:192.168.1.11"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {test.address(1), u"37777.9"_s, {}, {}, u"firmware.bin"_s}});
         QStringList lines;
         const QVariantList report = test.factory->importUpgradeDocument(test.family, path);
         for (const QVariant &entry : report) {
@@ -97,10 +69,10 @@ private Q_SLOTS:
     {
         const UpgradeSite test(1);
         QList<QStringList> rows(UpgradeDocument::mostLines, {test.address(0)});
-        const QString whole = workbook(test, rows, u"whole.xlsx"_s);
+        const QString whole = test.workbook(rows, u"whole.xlsx"_s);
         rows.insert(5, QStringList()); // does not count
         rows.append({{}, {}, {}, {}, u"firmware.bin"_s});
-        const QString longer = workbook(test, rows);
+        const QString longer = test.workbook(rows);
         QCOMPARE(test.factory->importUpgradeDocument(test.family, whole).size(), UpgradeDocument::mostLines);
         QVERIFY(test.factory->importUpgradeDocument(test.family, longer).isEmpty());
         QCOMPARE(test.factory->importError(test.family), u"文档中的设备超过 10000 行，请分成多个文档"_s);
@@ -117,7 +89,7 @@ private Q_SLOTS:
         QList<QStringList> rows;
         for (int place = 0; place < count; ++place)
             rows.append({u"10.0.%1.%2"_s.arg(place / 100).arg(place % 100), {}, {}, {}, test.file()});
-        const QString path = workbook(test, rows);
+        const QString path = test.workbook(rows);
         QSignalSpy documents(test.factory.get(), &CDeviceFactory::signalUpdateScheduleUpgradeByDocument);
         QSignalSpy held(test.factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
         test.factory->startUpgradeByDocument(test.family, {path});
@@ -133,7 +105,8 @@ private Q_SLOTS:
         QCOMPARE(test.schedule->last().first().toInt(), 100);
         QCOMPARE(documents.last(), QVariantList({path, 100}));
         // The first ones may have found out that nobody answers.
-        QVERIFY(results(path, count).count(u"已停止，设备未改动"_s) >= count - UpgradeLimits().atOnce);
+        QVERIFY(UpgradeSite::resultsOf(path, count).count(u"已停止，设备未改动"_s) >=
+                count - UpgradeLimits().atOnce);
         QCOMPARE(test.factory->upgradeDocumentSuccesses(test.family), 0);
     }
 
@@ -143,8 +116,8 @@ private Q_SLOTS:
         test.factory->setDefaultAccount(test.family, u"admin"_s, u"other"_s);
         for (const int place : {0, 1})
             test.site->setFault(test.mac(place), {sdk::demo::Fault::UpgradeFailsAt, 50});
-        const QString path = workbook(test, {{test.address(0), {}, u"admin"_s, u"secret1"_s, test.file()},
-                                             {test.address(1), {}, u"admin"_s, u"wrong"_s, test.file()}});
+        const QString path = test.workbook({{test.address(0), {}, u"admin"_s, u"secret1"_s, test.file()},
+                                            {test.address(1), {}, u"admin"_s, u"wrong"_s, test.file()}});
         const auto tryAgain = [&test] {
             test.ends->clear();
             test.factory->startUpgrade(test.family, {test.mac(0), test.mac(1)});
@@ -172,12 +145,12 @@ private Q_SLOTS:
         test.store->removeRows({test.mac(1)}); // a document may name devices that are not in the table
         test.site->setFault(test.mac(2), {sdk::demo::Fault::UpgradeFailsAt, 50});
         const QString file = test.file();
-        const QString first = workbook(test, {{test.address(0), {}, u"admin"_s, u"secret1"_s, file},
-                                              {test.address(1), {}, u"admin"_s, u"secret1"_s, file},
-                                              {test.address(2), {}, {}, {}, file},
-                                              {test.address(3), {}, u"admin"_s, u"wrong"_s, file},
-                                              {u"nowhere"_s, {}, {}, {}, file}});
-        const QString second = workbook(test, {{test.address(0), {}, {}, {}, file}}, u"second.xlsx"_s);
+        const QString first = test.workbook({{test.address(0), {}, u"admin"_s, u"secret1"_s, file},
+                                             {test.address(1), {}, u"admin"_s, u"secret1"_s, file},
+                                             {test.address(2), {}, {}, {}, file},
+                                             {test.address(3), {}, u"admin"_s, u"wrong"_s, file},
+                                             {u"nowhere"_s, {}, {}, {}, file}});
+        const QString second = test.workbook({{test.address(0), {}, {}, {}, file}}, u"second.xlsx"_s);
         const QString url = QUrl::fromLocalFile(first).toString();
         test.factory->startUpgradeByDocument(test.family, {url, second});
         QVERIFY(test.factory->hasDeviceUpgrading());
@@ -190,13 +163,13 @@ private Q_SLOTS:
         QVERIFY(test.passUntilEnd());
         QCOMPARE(lines(u"done"_s), 6);
         QCOMPARE(lines(u"total"_s), 6);
-        const QStringList written = results(first, 5);
+        const QStringList written = UpgradeSite::resultsOf(first, 5);
         QCOMPARE(written.at(0), u"升级成功：2.840.1 → 2.900.0"_s);
         QCOMPARE(written.at(1), u"升级成功：2.840.1 → 2.900.0"_s);
         QVERIFY(written.at(2).startsWith(u"设备中断了升级"_s));
         QCOMPARE(written.at(3), u"密码错误"_s);
         QCOMPARE(written.at(4), u"IP或端口填写错误"_s);
-        QCOMPARE(results(second, 1), QStringList(u"设备忙，请稍后重试"_s));
+        QCOMPARE(UpgradeSite::resultsOf(second, 1), QStringList(u"设备忙，请稍后重试"_s));
         QCOMPARE(test.result(0), UpgradeTools::Success);
         QCOMPARE(test.value(0, DeviceRowKey::filepath).toString(), file);
         QVERIFY(schedule.contains(QVariantList({second, 100})));
@@ -211,13 +184,13 @@ private Q_SLOTS:
     void aWorkbookThatCannotBeWrittenLosesNothing()
     {
         const UpgradeSite test(1);
-        const QString path = workbook(test, {{test.address(0), {}, {}, {}, test.file()}});
+        const QString path = test.workbook({{test.address(0), {}, {}, {}, test.file()}});
         test.factory->startUpgradeByDocument(test.family, {path});
         // A folder in its place: nothing can be written there, whoever the user is.
         QVERIFY(QFile::remove(path) && QDir().mkpath(path + u"/full"_s));
         QVERIFY(test.passUntilEnd());
         const QString other = test.folder.filePath(u"upgrades_结果.xlsx"_s);
-        QCOMPARE(results(other, 1), QStringList(u"升级成功：2.840.1 → 2.900.0"_s));
+        QCOMPARE(UpgradeSite::resultsOf(other, 1), QStringList(u"升级成功：2.840.1 → 2.900.0"_s));
         const QString told = test.factory->upgradeDocumentResult(test.family);
         QVERIFY2(told.contains(QDir::toNativeSeparators(other)), qPrintable(told));
     }
@@ -227,23 +200,23 @@ private Q_SLOTS:
         const UpgradeSite test(1);
         test.store->removeRows({test.mac(0)});
         test.site->setFault(test.mac(0), {sdk::demo::Fault::UpgradeTakes, 60});
-        const QString path = workbook(test, {{test.address(0), {}, {}, {}, test.file()}});
+        const QString path = test.workbook({{test.address(0), {}, {}, {}, test.file()}});
         test.factory->startUpgradeByDocument(test.family, {path});
         QVERIFY(test.passUntil(
             [&] { return !test.schedule->isEmpty() && test.schedule->last().first().toInt() > 1; }));
         test.factory->stopUpgrade(test.family, test.ipport(0));
         QVERIFY(test.passUntilEnd());
-        QCOMPARE(results(path, 1), QStringList(u"已停止，设备未改动"_s));
+        QCOMPARE(UpgradeSite::resultsOf(path, 1), QStringList(u"已停止，设备未改动"_s));
     }
 
     void theEndOfTheProgramIsWritten()
     {
         UpgradeSite test(1);
-        const QString path = workbook(test, {{test.address(0), {}, {}, {}, test.file()}});
+        const QString path = test.workbook({{test.address(0), {}, {}, {}, test.file()}});
         test.factory->startUpgradeByDocument(test.family, {path});
         QVERIFY(test.passUntil([&] { return test.percent(0) > 10; }));
         test.endFactory();
-        QCOMPARE(results(path, 1), QStringList(u"程序退出，升级中断"_s));
+        QCOMPARE(UpgradeSite::resultsOf(path, 1), QStringList(u"程序退出，升级中断"_s));
     }
 };
 

@@ -1,6 +1,7 @@
 // A simulated site with the factory on it, and firmware files, for the tests of upgrades.
 #pragma once
 
+#include "device/batch/batchengine.h"
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
 #include "device/devicestore.h"
@@ -8,6 +9,7 @@
 #include "device/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "sheets/qexcel.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"
 #include "tests/files/filecontents.h"
@@ -29,7 +31,7 @@ public:
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
             {family, [this, limits] {
                  return std::make_shared<CDeviceDH>(
-                     store, site->libraries(), [] { return SearchSettings(); }, limits);
+                     store, site->libraries(), [] { return SearchSettings(); }, limits, engine);
              }}});
         for (int place = 0; place < count; ++place)
             store->putRow({{DeviceRowKey::mac, mac(place)},
@@ -66,15 +68,48 @@ public:
         return writeFile(path, content) ? path : QString();
     }
 
+    [[nodiscard]] static QStringList macs(const QList<int> &places)
+    {
+        QStringList macs;
+        for (const int place : places)
+            macs.append(mac(place));
+        return macs;
+    }
+
     /// Starts the upgrade of the devices of these places.
     void start(const QList<int> &places, const QString &path) const
     {
-        QStringList macs;
-        for (const int place : places) {
-            factory->setUpgradeFilePath(family, mac(place), path);
-            macs.append(mac(place));
+        factory->setUpgradeFiles(family, macs(places), path);
+        factory->startUpgrade(family, macs(places));
+    }
+
+    /// Writes a workbook of these rows and returns its path.
+    [[nodiscard]] QString workbook(const QList<QStringList> &rows,
+                                   const QString &name = QStringLiteral("upgrades.xlsx")) const
+    {
+        QExcel excel;
+        bool isWritten = excel.createWorkbook();
+        const QStringList titles = {QStringLiteral("IP"),       QStringLiteral("端口"),
+                                    QStringLiteral("用户名"),   QStringLiteral("密码"),
+                                    QStringLiteral("升级文件"), QStringLiteral("结果")};
+        for (int row = 0; row <= rows.size(); ++row) {
+            const QStringList cells = row == 0 ? titles : rows.at(row - 1);
+            for (int column = 0; column < cells.size(); ++column)
+                isWritten &= excel.setCellText(row + 1, column + 1, cells.at(column));
         }
-        factory->startUpgrade(family, macs);
+        const QString path = folder.filePath(name);
+        return isWritten && excel.saveAs(path) ? path : QString();
+    }
+
+    /// What a workbook has for its first rows.
+    [[nodiscard]] static QStringList resultsOf(const QString &path, int rows)
+    {
+        QExcel excel;
+        QStringList texts;
+        const bool isOpen = excel.open(path);
+        for (int row = 2; isOpen && row <= rows + 1; ++row)
+            texts.append(excel.cellText(row, 6).value_or(QString()));
+        return texts;
     }
 
     [[nodiscard]] QJsonValue value(int place, QLatin1StringView key) const
@@ -108,6 +143,7 @@ public:
     static inline const QString family = QStringLiteral("dh");
     QTemporaryDir folder;
     std::shared_ptr<sdk::demo::SteppableClock> clock = std::make_shared<sdk::demo::SteppableClock>();
+    std::shared_ptr<BatchEngine> engine = std::make_shared<BatchEngine>(clock);
     std::shared_ptr<sdk::demo::DemoSite> site;
     std::shared_ptr<DeviceStore> store = std::make_shared<DeviceStore>(clock);
     std::unique_ptr<CDeviceFactory> factory;
