@@ -1,0 +1,158 @@
+#include "device/batch/upgradebatches.h"
+
+#include "device/devicefactory.h"
+#include "device/upgradetools.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const QString family = QStringLiteral("dh");
+
+constexpr int newsInterval = 250;  // milliseconds
+constexpr qsizetype fewRows = 500; // more are read with the whole list
+
+/// The steps of a document's lines, as long as they are to be run. Another try has none: it is made of the
+/// row, or of what the back end remembers of the line.
+class DocumentSteps
+{
+public:
+    explicit DocumentSteps(CDeviceFactory &factory) : m_factory(factory) {}
+
+    void add(const BatchDevice &device, const DeviceStep &step) { m_steps.insert(device.name, step); }
+    [[nodiscard]] DeviceStep take(const BatchDevice &device)
+    {
+        const DeviceStep step = m_steps.take(device.name);
+        return step ? step : m_factory.upgradeStep(family, device.identity);
+    }
+
+private:
+    CDeviceFactory &m_factory;
+    QHash<QString, DeviceStep> m_steps; ///< by the names of the lines
+};
+
+} // namespace
+
+UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> atOnce,
+                               QObject *parent)
+    : QObject(parent), m_factory(factory), m_batches(batches), m_atOnce(std::move(atOnce))
+{
+    m_news.setSingleShot(true);
+    m_news.setInterval(newsInterval);
+    connect(&m_news, &QTimer::timeout, this, &UpgradeBatches::tellRows);
+    connect(&m_factory, &CDeviceFactory::signalUpdateSchedule, this, &UpgradeBatches::noteProgress);
+    connect(&m_factory, &CDeviceFactory::signalShowUpgradeFinishTip, this, &UpgradeBatches::noteRoundEnd);
+    connect(&m_batches, &Batches::retried, this, [this](const Batch *earlier, Batch *again) {
+        if (earlier == m_batch)
+            follow(again, Source::List);
+    });
+}
+
+QString UpgradeBatches::chooseFile(const QStringList &identities, const QString &path)
+{
+    const QList<int> refusals = m_factory.setUpgradeFiles(family, identities, path);
+    const auto refused = std::count_if(refusals.cbegin(), refusals.cend(), &UpgradeTools::isFailure);
+    if (refused == 0)
+        return {};
+    const int reason = refusals.constFirst();
+    if (refusals.count(reason) == refusals.size())
+        return tr("%1：%2").arg(QFileInfo(path).fileName(), UpgradeTools::text(reason));
+    //: Of the devices that a file was chosen for.
+    return tr("%n 台设备不能用此文件升级，请查看结果", "", static_cast<int>(refused));
+}
+
+BatchPlan UpgradeBatches::usualPlan(const QString &title) const
+{
+    BatchPlan plan = {.family = family, .title = title, .work = QStringLiteral("upgrade")};
+    plan.policy = m_batches.usualPolicy();
+    plan.policy.atOnce = m_atOnce();
+    plan.policy.deadline = {}; // an upgrade has limits of its own
+    plan.changesRows = true;
+    return plan;
+}
+
+Batch *UpgradeBatches::start(const QString &title, const QStringList &identities)
+{
+    BatchPlan plan = usualPlan(title);
+    plan.devices = batchDevices(m_factory, family, identities);
+    plan.isByAddress = true;
+    plan.stepOf = [this](const BatchDevice &device) {
+        return m_factory.upgradeStep(family, device.identity);
+    };
+    return begin(std::move(plan), Source::List);
+}
+
+Batch *UpgradeBatches::startDocument(const QString &title, const QString &path, const QStringList &lines)
+{
+    if (!m_batches.mayStart()) // before the document is opened
+        return nullptr;
+    QList<int> numbers;
+    for (const QString &line : lines)
+        numbers.append(line.toInt());
+    BatchPlan plan = usualPlan(title);
+    const auto steps = std::make_shared<DocumentSteps>(m_factory);
+    const QList<UpgradeDocumentStep> upgrades = m_factory.upgradeDocumentSteps(family, path, numbers);
+    for (const UpgradeDocumentStep &line : upgrades) {
+        BatchDevice device = batchDevice(m_factory, family, line.device);
+        device.name = tr("第%1行 %2").arg(line.line).arg(line.ipport);
+        device.ipport = line.ipport;
+        steps->add(device, line.step);
+        plan.devices.append(device);
+    }
+    plan.rowsShowIt = true;
+    plan.stepOf = [steps](const BatchDevice &device) {
+        return steps->take(device);
+    };
+    m_isDocumentOpen = true; // also of one that is refused
+    return begin(std::move(plan), Source::Document);
+}
+
+Batch *UpgradeBatches::begin(BatchPlan plan, Source source)
+{
+    Batch *batch = m_batches.start(std::move(plan));
+    if (batch)
+        follow(batch, source);
+    return batch;
+}
+
+void UpgradeBatches::follow(Batch *batch, Source source)
+{
+    m_batch = batch;
+    connect(batch, &Batch::finished, this, [this, batch, source] {
+        tellRows();
+        const BatchReport &report = *batch->report();
+        if (source == Source::List)
+            Q_EMIT ended(report.succeeded(), report.total() - report.succeeded());
+    });
+    tellRows();
+}
+
+void UpgradeBatches::noteProgress(int percent)
+{
+    if (m_batch && m_batch->isRunning())
+        m_batch->noteProgress(percent / 100.0);
+    if (!m_news.isActive())
+        m_news.start();
+}
+
+void UpgradeBatches::tellRows()
+{
+    m_news.stop();
+    const QStringList names = m_factory.takeChangedUpgrades(family);
+    if (names.size() > fewRows)
+        Q_EMIT listChanged();
+    else if (!names.isEmpty())
+        Q_EMIT rowsChanged(names);
+}
+
+void UpgradeBatches::noteRoundEnd()
+{
+    const QString text = m_isDocumentOpen ? m_factory.upgradeDocumentResult(family) : QString();
+    if (text.isEmpty()) // it is still worked on
+        return;
+    m_isDocumentOpen = false;
+    Q_EMIT documentEnded(text, m_factory.upgradeDocumentSuccesses(family) > 0);
+}

@@ -1,0 +1,97 @@
+#include "device/batch/upgradepreview.h"
+
+#include "device/devicefactory.h"
+#include "device/devicerow.h"
+#include "sdk/firmwarehead.h"
+
+#include <QFileInfo>
+
+namespace {
+
+const QString family = QStringLiteral("dh");
+const QString identityKey = QStringLiteral("identity");
+
+} // namespace
+
+QVariantMap UpgradePreview::deviceOf(const QString &identity) const
+{
+    return deviceFactory() ? deviceFactory()->getDeviceDetail(family, identity) : QVariantMap();
+}
+
+void UpgradePreview::setIdentities(const QStringList &identities)
+{
+    m_upgrades.clear();
+    QVariantList devices;
+    const QList<PlannedUpgrade> plans =
+        deviceFactory() ? deviceFactory()->plannedUpgrades(family, identities) : QList<PlannedUpgrade>();
+    for (qsizetype place = 0; place < plans.size(); ++place) {
+        QVariantMap device = deviceOf(identities.at(place));
+        device.insert(identityKey, identities.at(place));
+        m_upgrades.insert(identities.at(place), {.device = device.value(DeviceRowKey::vision).toString(),
+                                                 .file = QFileInfo(plans.at(place).file).fileName(),
+                                                 .version = plans.at(place).version,
+                                                 .refusal = plans.at(place).refusal});
+        devices.append(device);
+    }
+    setDevices(devices);
+}
+
+QString UpgradePreview::setDocument(const QString &path)
+{
+    m_upgrades.clear();
+    QVariantList devices;
+    const QVariantList lines =
+        deviceFactory() ? deviceFactory()->importUpgradeDocument(family, path) : QVariantList();
+    for (const QVariant &value : lines) {
+        const QVariantMap line = value.toMap();
+        const int number = line.value(QStringLiteral("line")).toInt();
+        const QString row = line.value(DeviceRowKey::mac).toString();
+        QVariantMap device = row.isEmpty() ? QVariantMap() : deviceOf(row);
+        device.insert(identityKey, QString::number(number));
+        device.insert(DeviceRowKey::ipport, line.value(QStringLiteral("address")));
+        m_upgrades.insert(QString::number(number),
+                          {.device = device.value(DeviceRowKey::vision).toString(),
+                           .file = QFileInfo(line.value(QStringLiteral("file")).toString()).fileName(),
+                           .version = line.value(QStringLiteral("version")).toString(),
+                           .refusal = line.value(QStringLiteral("code")).toInt(),
+                           .line = number});
+        devices.append(device);
+    }
+    setDevices(devices);
+    const QString refusal = deviceFactory() ? deviceFactory()->importError(family) : QString();
+    return refusal.isEmpty() && lines.isEmpty() ? tr("文档中没有设备") : refusal;
+}
+
+QString UpgradePreview::identityAt(int row) const
+{
+    return deviceAt(row).value(identityKey).toString();
+}
+
+BatchPreview::Judgement UpgradePreview::judgementOf(int row) const
+{
+    const Upgrade upgrade = m_upgrades.value(identityAt(row));
+    Judgement judgement = BatchPreview::judgementOf(row);
+    if (judgement.kind == Skipped)
+        return judgement;
+    if (upgrade.refusal != UpgradeTools::None)
+        return {.kind = Skipped, .note = tr("%1，不会执行").arg(UpgradeTools::text(upgrade.refusal))};
+    //: The name of a file, and the version of the firmware in it.
+    judgement.action =
+        upgrade.version.isEmpty() ? upgrade.file : tr("%1（%2）").arg(upgrade.file, upgrade.version);
+    const bool isSame = sdk::isSameVersion(upgrade.device.toStdString(), upgrade.version.toStdString());
+    if (judgement.kind == Planned && isSame) {
+        judgement.kind = Warned;
+        judgement.note = tr("设备已是此版本");
+    }
+    return judgement;
+}
+
+QVariantMap UpgradePreview::valuesOf(int row) const
+{
+    QVariantMap values = BatchPreview::valuesOf(row);
+    const Upgrade upgrade = m_upgrades.value(identityAt(row));
+    values.insert(DeviceRowKey::vision, upgrade.device);
+    if (upgrade.line > 0)
+        values.insert(DeviceRowKey::num, upgrade.line);
+    return values;
+}

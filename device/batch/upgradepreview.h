@@ -1,0 +1,46 @@
+// What upgrades will do with each of their devices.
+#pragma once
+
+#include "device/batch/batchpreview.h"
+#include "device/upgradetools.h"
+
+/// The devices that are about to be upgraded: those of rows, or those of a document's lines. A row's "action"
+/// is the file that the device gets, with its version. A row also has "vision", the version of the device;
+/// its "num" is the number of the line, and its "identity" too, when it is one of a document.
+class UpgradePreview : public BatchPreview
+{
+    Q_OBJECT
+    Q_PROPERTY(int upgradeCount READ upgradeCount NOTIFY judged)
+public:
+    explicit UpgradePreview(QObject *parent = nullptr) : BatchPreview(parent) {}
+
+    /// Ticked devices that can be upgraded.
+    [[nodiscard]] int upgradeCount() const { return checkedCount() - skippedCount(); }
+
+    /// Takes the devices of these rows with the files that they have.
+    Q_INVOKABLE void setIdentities(const QStringList &identities);
+
+    /// Takes the lines of a document. Returns why there are none, in the user's language; empty when there
+    /// are some.
+    Q_INVOKABLE [[nodiscard]] QString setDocument(const QString &path);
+
+protected:
+    [[nodiscard]] Judgement judgementOf(int row) const override;
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
+
+private:
+    /// What a device has, and what it gets.
+    struct Upgrade
+    {
+        QString device;  ///< its version
+        QString file;    ///< without the folder
+        QString version; ///< of the file; empty when that does not tell
+        int refusal = UpgradeTools::None;
+        int line = 0; ///< of a document
+    };
+
+    [[nodiscard]] QVariantMap deviceOf(const QString &identity) const;
+    [[nodiscard]] QString identityAt(int row) const;
+
+    QHash<QString, Upgrade> m_upgrades; ///< by the identities of the rows
+};

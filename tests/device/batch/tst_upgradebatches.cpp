@@ -1,0 +1,341 @@
+// Upgrades as batches: what the panel, the rows and the documents say, what stops them, and what their
+// preview tells before.
+#include "device/batch/batchresultmodel.h"
+#include "device/batch/upgradebatches.h"
+#include "device/batch/upgradepreview.h"
+#include "tests/datatable.h"
+#include "tests/device/dh/upgradesite.h"
+#include "tests/values.h"
+
+#include <QElapsedTimer>
+#include <QMetaEnum>
+
+using namespace std::chrono_literals;
+using sdk::demo::Fault;
+
+namespace {
+
+/// A site whose upgrades are batches.
+class BatchSite : public UpgradeSite
+{
+public:
+    explicit BatchSite(int count, int atOnce = 4) : UpgradeSite(count), m_atOnce(atOnce) {}
+
+    /// Gives the devices of these places a file and upgrades them.
+    Batch *begin(const QList<int> &places)
+    {
+        factory->setUpgradeFiles(family, macs(places), file());
+        return upgrades.start("Upgrade", macs(places));
+    }
+    [[nodiscard]] bool passUntilDone() const
+    {
+        return passUntil([this] { return !batches.isRunning() && !factory->hasDeviceUpgrading(); });
+    }
+    /// What the panel says of the devices of the last batch, the failed ones first.
+    [[nodiscard]] QStringList panel() const
+    {
+        BatchResultModel model;
+        model.setBatch(batches.current());
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(); ++row)
+            rows.append(valuesOf(model.get(row), "device result"));
+        return rows;
+    }
+
+private:
+    int m_atOnce;
+
+public:
+    Batches batches{*factory, *engine, [] {
+                        return 8;
+                    }};
+    UpgradeBatches upgrades{*factory, batches, [this] {
+                                return m_atOnce;
+                            }};
+};
+
+/// What a preview shows of each device.
+QStringList rowsOf(const UpgradePreview &preview)
+{
+    QStringList rows;
+    for (int row = 0; row < preview.rowCount(); ++row)
+        rows.append(valuesOf(preview.get(row), "num ipport vision action note"));
+    return rows;
+}
+
+} // namespace
+
+class TestUpgradeBatches : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    /// A retry of the batch is offered for what the page's own retry takes, too.
+    void resultsKeepTheirMeaning()
+    {
+        const auto results = QMetaEnum::fromType<UpgradeTools::Result>();
+        for (int place = 0; place < results.keyCount(); ++place) {
+            const auto result = static_cast<UpgradeTools::Result>(results.value(place));
+            if (UpgradeTools::isFailure(result))
+                QVERIFY2(maySucceedLater(UpgradeTools::batchResult(result)) ==
+                             UpgradeTools::canTryAgain(result),
+                         results.key(place));
+        }
+    }
+
+    void everyDeviceHasItsResult()
+    {
+        BatchSite test(6);
+        const QSignalSpy ended(&test.upgrades, &UpgradeBatches::ended);
+        test.site->setFault(test.mac(1), {Fault::UpgradeFailsAt, 50});
+        test.site->setFault(test.mac(2), {Fault::WrongPassword});
+        test.site->setFault(test.mac(3), {Fault::UpgradeBusy});
+        const auto listed = QList<int>{0, 1, 2, 3, 4, 5};
+        test.factory->setUpgradeFiles(test.family, test.macs(listed), test.file());
+        test.factory->setUpgradeFilePath(test.family, test.mac(4), {});
+        test.factory->setUpgradeFilePath(test.family, test.mac(5), test.file("bytes", "C-1_2.9.bin"));
+        Batch *batch = test.upgrades.start("Upgrade", test.macs(listed));
+        QVERIFY(batch);
+        QCOMPARE(test.text(0), "等待升级");
+        QCOMPARE(test.upgrades.start("Upgrade", test.macs({0})), nullptr); // one at a time
+        QVERIFY(test.passUntil([&] { return batch->done() == 5; }));
+        QCOMPARE_GT(batch->progress(), 5.0 / 6); // the last one is on its way
+        QCOMPARE_LT(batch->progress(), 1);
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(test.panel(),
+                 QStringList({"192.168.1.12:37777|升级未完成：设备中断了升级（34%）",
+                              "192.168.1.13:37777|密码错误", "192.168.1.14:37777|设备忙，请稍后重试",
+                              "192.168.1.15:37777|升级文件不可用：未选择升级文件",
+                              "192.168.1.16:37777|升级文件不可用：升级文件不适用于此型号",
+                              "192.168.1.11:37777|成功：2.840.1 → 2.900.0"}));
+        QCOMPARE(test.text(0), "升级成功：2.840.1 → 2.900.0");
+        QCOMPARE(test.text(4), "未选择升级文件");
+        QCOMPARE(ended.last(), QVariantList({1, 5}));
+        QCOMPARE(test.batches.failedMarks()->count(), 5);
+
+        test.site->clearFault(test.mac(1), Fault::UpgradeFailsAt);
+        test.site->clearFault(test.mac(3), Fault::UpgradeBusy);
+        test.site->requests().clear();
+        Batch *again = test.batches.retry(batch);
+        QVERIFY(again);
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(test.panel(), QStringList({"192.168.1.12:37777|成功：2.840.1 → 2.900.0",
+                                            "192.168.1.14:37777|成功：2.840.1 → 2.900.0"}));
+        QCOMPARE(ended.last(), QVariantList({2, 0}));
+        QCOMPARE(test.site->requests().of("NetStartUpgrade").size(), 2);
+        QCOMPARE(test.batches.failedMarks()->count(), 3);
+    }
+
+    void aStopLeavesDevicesThatWrite()
+    {
+        BatchSite test(5, 3);
+        for (const int place : {1, 2})
+            test.site->setFault(test.mac(place), {Fault::UpgradeTakes, 60});
+        Batch *batch = test.begin({0, 1, 2, 3, 4});
+        QVERIFY(batch);
+        QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Writing; }));
+        test.factory->stopUpgrade(test.family, test.mac(1)); // one alone
+        QVERIFY(test.passUntil([&] { return batch->done() == 1; }));
+        QVERIFY(test.passUntil([&] { return test.result(3) == UpgradeTools::Sending; })); // in its place
+        batch->stop();
+        QCOMPARE(test.text(4), "已停止，设备未改动"); // at once
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(test.panel(),
+                 QStringList({"192.168.1.12:37777|未执行：已停止，设备未改动",
+                              "192.168.1.13:37777|未执行：已停止，设备未改动",
+                              "192.168.1.14:37777|未执行：已停止，设备未改动", "192.168.1.15:37777|未执行",
+                              "192.168.1.11:37777|成功：2.840.1 → 2.900.0"}));
+        QCOMPARE(batch->report()->notDone(), 4);
+        QCOMPARE(test.site->requests().of("NetStartUpgrade").size(), 4);
+        for (const int place : {1, 2, 3, 4}) {
+            QCOMPARE(test.result(place), UpgradeTools::Stopped);
+            QCOMPARE(test.site->device(test.mac(place))->version, "2.840.1");
+        }
+    }
+
+    void wrongPasswordsHoldABatch()
+    {
+        BatchSite test(8, 1);
+        for (int place = 0; place < 6; ++place)
+            test.site->setFault(test.mac(place), {Fault::WrongPassword});
+        const QList<int> all = {0, 1, 2, 3, 4, 5, 6, 7};
+        test.factory->setUpgradeFiles(test.family, test.macs(all), test.file());
+        test.factory->setUpgradeFilePath(test.family, test.mac(2), {}); // says nothing about the password
+        Batch *batch = test.upgrades.start("Upgrade", test.macs(all));
+        QVERIFY(batch);
+        QVERIFY(test.passUntil([&] { return batch->isHeld(); }));
+        QCOMPARE(batch->done(), 6);
+        QCOMPARE(test.text(6), "等待升级");
+        batch->resume();
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(batch->report()->succeeded(), 2);
+    }
+
+    void rowsOfOneAddressAreUpgradedOneAfterAnother()
+    {
+        BatchSite test(2);
+        test.store->changeRow(test.mac(0),
+                              [&](QJsonObject &row) { row.insert(DeviceRowKey::ipport, test.ipport(1)); });
+        test.site->setFault(test.mac(1), {Fault::WrongPassword});
+        QVERIFY(test.begin({0, 1}));
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(test.batches.current()->report()->devicesWith(resultCode(LoginResult::WrongPassword)),
+                 test.macs({0, 1}));
+        QCOMPARE(test.site->requests().of("NetLoginSecure").size(), 1); // a second try could lock the account
+        QCOMPARE(test.result(1), UpgradeTools::Stopped);
+    }
+
+    void aDocumentsChosenLinesAreUpgraded()
+    {
+        BatchSite test(4);
+        test.store->removeRows({test.mac(1)}); // a document may name devices that are not in the list
+        test.factory->setDefaultAccount(test.family, "admin", "other");
+        const QString file = test.file();
+        const QString path = test.workbook({{test.address(0), {}, "admin", "secret1", file},
+                                            {test.address(1), {}, "admin", "secret1", file},
+                                            {test.address(2), {}, "admin", "wrong", file},
+                                            {test.address(3), {}, "admin", "secret1", file, "old"},
+                                            {"nowhere", {}, {}, {}, file}});
+        test.site->setFault(test.mac(1), {Fault::UpgradeFailsAt, 50});
+        const QSignalSpy ended(&test.upgrades, &UpgradeBatches::documentEnded);
+        Batch *batch = test.upgrades.startDocument("Document", path, {"2", "3", "4", "6"});
+        QVERIFY(batch);
+        QCOMPARE(test.upgrades.startDocument("Document", path, {"5"}), nullptr);
+        QVERIFY(test.passUntilDone());
+        QTRY_COMPARE(ended.size(), 1);
+        QVERIFY(ended.last().first().toString().contains("upgrades.xlsx：成功1台，失败3台"));
+        QCOMPARE(test.resultsOf(path, 5), QStringList({"升级成功：2.840.1 → 2.900.0", "设备中断了升级（34%）",
+                                                       "密码错误", "old", "IP或端口填写错误"}));
+        QCOMPARE(test.panel(),
+                 QStringList({"192.168.1.12:37777|升级未完成：设备中断了升级（34%）",
+                              "192.168.1.13:37777|密码错误", "nowhere:37777|数据无效：IP或端口填写错误",
+                              "192.168.1.11:37777|成功：2.840.1 → 2.900.0"}));
+
+        // A retry has the account of the document, also where the list does not have the device.
+        test.site->clearFault(test.mac(1), Fault::UpgradeFailsAt);
+        QVERIFY(test.batches.retry(batch));
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(test.panel(), QStringList("192.168.1.12:37777|成功：2.840.1 → 2.900.0"));
+        QCOMPARE(test.site->device(test.mac(3))->version, "2.840.1");
+        QCOMPARE(ended.size(), 1);
+    }
+
+    void aDocumentThatIsStoppedIsWritten()
+    {
+        BatchSite test(2, 1);
+        const QString path = test.workbook(
+            {{test.address(0), {}, {}, {}, test.file()}, {test.address(1), {}, {}, {}, test.file()}});
+        const QSignalSpy ended(&test.upgrades, &UpgradeBatches::documentEnded);
+        Batch *batch = test.upgrades.startDocument("Document", path, {"2", "3"});
+        QVERIFY(test.passUntil([&] { return test.percent(0) > 0; }));
+        batch->stop();
+        QVERIFY(test.passUntilDone());
+        QTRY_COMPARE(ended.size(), 1);
+        QCOMPARE(ended.last().last().toBool(), false);
+        QCOMPARE(test.resultsOf(path, 2), QStringList(2, "已停止，设备未改动"));
+    }
+
+    void rowsAreToldOfTogether()
+    {
+        BatchSite test(1);
+        QStringList names;
+        for (int place = 0; place < 600; ++place) {
+            names.append(QStringLiteral("02:%1").arg(place));
+            test.store->putRow({{DeviceRowKey::mac, names.last()},
+                                {DeviceRowKey::ipport, QStringLiteral("10.0.0.1:%1").arg(1000 + place)},
+                                {DeviceRowKey::filepath, test.file()}});
+        }
+        QSignalSpy lists(&test.upgrades, &UpgradeBatches::listChanged);
+        QSignalSpy rows(&test.upgrades, &UpgradeBatches::rowsChanged);
+        QVERIFY(test.upgrades.start("Upgrade", names));
+        QCOMPARE(lists.size(), 1);
+        QVERIFY(test.passUntil([&] { return !rows.isEmpty(); }));
+        QVERIFY(rows.first().first().toStringList().size() < 100); // those that have run
+        test.batches.current()->stop();
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(lists.size(), 2);
+    }
+
+    void aFileIsLookedAtOnceForAll_data()
+    {
+        const auto row = dataTable<QByteArray, QString, QString>({"content", "name", "told"});
+        row("good", UpgradeSite::firmware, "good.bin", QString());
+        row("damaged", "BRELM-FIRMWARE 1\nversion", "damaged.bin", "damaged.bin：升级文件已损坏");
+        row("fits none", "bytes", "C-1_2.9.bin", "C-1_2.9.bin：升级文件不适用于此型号");
+        row("fits one", "bytes", "D-1_2.9.bin", "1 台设备不能用此文件升级，请查看结果");
+    }
+
+    void aFileIsLookedAtOnceForAll()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, name);
+        BatchSite test(2);
+        if (name.startsWith("D-1"))
+            test.store->changeRow(test.mac(1),
+                                  [](QJsonObject &row) { row.insert(DeviceRowKey::model, "D-1"); });
+        QTEST(test.upgrades.chooseFile(test.macs({0, 1}), test.file(content, name)), "told");
+    }
+
+    void thePreviewSaysWhatHappens()
+    {
+        BatchSite test(6);
+        const auto change = [&](int place, QLatin1StringView key, const QJsonValue &value) {
+            test.store->changeRow(test.mac(place), [&](QJsonObject &row) { row.insert(key, value); });
+        };
+        test.factory->setUpgradeFiles(test.family, test.macs({0, 1, 2, 3, 5}), test.file());
+        test.factory->setUpgradeFilePath(test.family, test.mac(5), test.file("bytes", "C-1_2.9.bin"));
+        change(0, DeviceRowKey::vision, "v2.840.1");
+        change(1, DeviceRowKey::vision, "v2.900.0");
+        change(2, DeviceRowKey::state, false);
+        change(3, DeviceRowKey::upgraderes, UpgradeTools::Sending);
+        UpgradePreview preview;
+        preview.setDeviceFactory(test.factory.get());
+        preview.setIdentities(test.macs({0, 1, 2, 3, 4, 5}));
+        QCOMPARE(rowsOf(preview),
+                 QStringList({"1|192.168.1.11:37777|v2.840.1|firmware.bin（2.900.0）|",
+                              "2|192.168.1.12:37777|v2.900.0|firmware.bin（2.900.0）|设备已是此版本",
+                              "3|192.168.1.13:37777|||未初始化，不会执行",
+                              "4|192.168.1.14:37777|||正在升级，不会执行",
+                              "5|192.168.1.15:37777|||未选择升级文件，不会执行",
+                              "6|192.168.1.16:37777|||升级文件不适用于此型号，不会执行"}));
+        QCOMPARE(preview.warningCount(), 1);
+        QCOMPARE(preview.upgradeCount(), 2);
+        preview.setRangeChecked(0, 0, false);
+        QCOMPARE(preview.upgradeCount(), 1);
+
+        const QString path = test.workbook({{test.address(1), {}, {}, {}, test.file()},
+                                            {test.address(1), {}, {}, {}, test.file()},
+                                            {"192.168.1.77", {}, {}, {}, test.file()}});
+        QCOMPARE(preview.setDocument(path), QString());
+        QCOMPARE(rowsOf(preview),
+                 QStringList({"2|192.168.1.12:37777|v2.900.0|firmware.bin（2.900.0）|设备已是此版本",
+                              "3|192.168.1.12:37777|v2.900.0||与前面的行是同一设备，不会执行",
+                              "4|192.168.1.77:37777||firmware.bin（2.900.0）|"}));
+        QCOMPARE(preview.checkedIdentities(), QStringList({"2", "3", "4"}));
+        QCOMPARE(preview.setDocument(test.workbook({}, "empty.xlsx")), "文档中没有设备");
+        QCOMPARE(preview.setDocument(test.file()), "文件打开失败");
+    }
+
+    /// Also when a device does not answer.
+    void theProgramEndsWithinASecond()
+    {
+        BatchSite test(4, 3);
+        test.site->setFault(test.mac(0), {Fault::UpgradeTakes, 60});
+        test.site->setFault(test.mac(3), {Fault::NoAnswer});
+        QVERIFY(test.begin({0, 1, 2, 3}));
+        QVERIFY(test.passUntil([&] { return test.result(2) == UpgradeTools::Writing; }));
+        test.factory->stopUpgrade(test.family, test.mac(0));
+        QVERIFY(test.passUntil([&] { return test.result(3) == UpgradeTools::Preparing; })); // logs in
+        QVERIFY(test.factory->busyState()->refusal(BusyState::Delete).contains("Upgrade"));
+        QElapsedTimer time;
+        time.start();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^The program ends during Upgrade"));
+        test.batches.giveUp();
+        test.factory.reset();
+        QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
+        for (int place = 0; place < 4; ++place)
+            QVERIFY(!UpgradeTools::isRunning(test.result(place)));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestUpgradeBatches)
+#include "tst_upgradebatches.moc"
