@@ -7,6 +7,7 @@
 #include "cgi/cgiconfigmanage.h"
 #include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
+#include "device/batch/upgradebatches.h"
 #include "device/devicefactory.h"
 
 #include <QCoreApplication>
@@ -32,6 +33,10 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, boo
                                 new CgiBatches(*CDeviceFactory::getinstance(), *batches,
                                                CGIConfigManage::getinstance()->surroundings(), cgiAccount,
                                                batches));
+    context->setContextProperty(QStringLiteral("UpgradeBatchesApi"),
+                                new UpgradeBatches(
+                                    *CDeviceFactory::getinstance(), *batches,
+                                    [] { return CLocalConfig::getinstance()->upgradesAtOnce(); }, batches));
     context->setContextProperty(QStringLiteral("BusyStateApi"), CDeviceFactory::getinstance()->busyState());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());

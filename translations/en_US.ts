@@ -379,6 +379,14 @@
         <source>提示</source>
         <translation>Note</translation>
     </message>
+    <message>
+        <source>版本号</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>Firmware file</translation>
+    </message>
 </context>
 <context>
     <name>BatchReport</name>
@@ -553,6 +561,10 @@
     <message>
         <source>设备没有应答</source>
         <translation>The device did not respond</translation>
+    </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>The device is no longer in the list</translation>
     </message>
 </context>
 <context>
@@ -3488,10 +3500,6 @@ File path: </translation>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
-    <message>
-        <source>正在升级设备，请勿断电…</source>
-        <translation>Upgrading. Do not switch the devices off…</translation>
-    </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
         <extracomment>At the foot of a page.</extracomment>
@@ -3711,6 +3719,22 @@ File path: </translation>
     <message>
         <source>数据无效</source>
         <translation>Not usable</translation>
+    </message>
+    <message>
+        <source>升级文件不可用</source>
+        <translation>Firmware file not usable</translation>
+    </message>
+    <message>
+        <source>升级未完成</source>
+        <translation>Not upgraded</translation>
+    </message>
+    <message>
+        <source>升级结果未确认</source>
+        <translation>Upgrade not confirmed</translation>
+    </message>
+    <message>
+        <source>设备忙，请稍后重试</source>
+        <translation>The device is busy, try later</translation>
     </message>
 </context>
 <context>
@@ -4533,6 +4557,25 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>UpgradeBatches</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不能用此文件升级，请查看结果</source>
+        <extracomment>Of the devices that a file was chosen for.</extracomment>
+        <translation>
+            <numerusform>%n device cannot be upgraded with this file, see its result</numerusform>
+            <numerusform>%n devices cannot be upgraded with this file, see their results</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>Row %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>UpgradeDocument</name>
     <message>
         <source>IP</source>
@@ -4584,22 +4627,6 @@ File path: </translation>
     </message>
 </context>
 <context>
-    <name>UpgradeDocumentBar</name>
-    <message>
-        <source>升级文档 %1：已完成 %2 / %3 行</source>
-        <extracomment>%1 is a file, %2 of %3 its lines.</extracomment>
-        <translation>Document %1: %2 of %3 lines done</translation>
-    </message>
-    <message>
-        <source>停止文档升级</source>
-        <translation>Stop the document</translation>
-    </message>
-    <message>
-        <source>停止此文档中尚未开始写入的设备</source>
-        <translation>Stop the devices of this document that have not begun to write</translation>
-    </message>
-</context>
-<context>
     <name>UpgradeDocuments</name>
     <message>
         <source>%1：%2</source>
@@ -4611,52 +4638,49 @@ File path: </translation>
     </message>
 </context>
 <context>
-    <name>UpgradeReportDialog</name>
+    <name>UpgradePreview</name>
+    <message>
+        <source>文档中没有设备</source>
+        <translation>The document holds no devices</translation>
+    </message>
+    <message>
+        <source>%1，不会执行</source>
+        <translation>%1: left out</translation>
+    </message>
+    <message>
+        <source>%1（%2）</source>
+        <extracomment>The name of a file, and the version of the firmware in it.</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>设备已是此版本</source>
+        <translation>The device has this version already</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePreviewDialog</name>
     <message>
         <source>开始升级</source>
         <translation>Start upgrade</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>Device upgrade</translation>
     </message>
     <message>
         <source>升级文档</source>
         <translation>Upgrade document</translation>
     </message>
     <message numerus="yes">
-        <source>%n 台设备可以升级</source>
+        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
         <translation>
-            <numerusform>%n device can be upgraded</numerusform>
-            <numerusform>%n devices can be upgraded</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>，%n 台不能升级</source>
-        <translation>
-            <numerusform>, %n cannot</numerusform>
-            <numerusform>, %n cannot</numerusform>
+            <numerusform>%n device will be upgraded. It restarts meanwhile: do not switch it off.</numerusform>
+            <numerusform>%n devices will be upgraded. They restart meanwhile: do not switch them off.</numerusform>
         </translation>
     </message>
     <message>
-        <source>。升级期间设备会重启，请勿断电；结果将写入文档。</source>
-        <translation>. Devices restart during the upgrade: do not switch them off. The results are written into the document.</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Line</translation>
-    </message>
-    <message>
-        <source>地址</source>
-        <translation>Address</translation>
-    </message>
-    <message>
-        <source>升级文件</source>
-        <translation>Firmware file</translation>
-    </message>
-    <message>
-        <source>检查结果</source>
-        <translation>Check</translation>
-    </message>
-    <message>
-        <source>可以升级</source>
-        <translation>Can be upgraded</translation>
+        <source>结果将写入文档。</source>
+        <translation> The results are written into the document.</translation>
     </message>
 </context>
 <context>
@@ -4808,10 +4832,6 @@ File path: </translation>
         <translation>Already being written, cannot be stopped</translation>
     </message>
     <message>
-        <source>升级成功：%1 → %2</source>
-        <translation>Upgraded: %1 → %2</translation>
-    </message>
-    <message>
         <source>%1（%2%）</source>
         <translation>%1 (%2%)</translation>
     </message>
@@ -4853,14 +4873,6 @@ File path: </translation>
     <message>
         <source>为勾选的设备选择同一个升级文件</source>
         <translation>Choose one firmware file for the ticked devices</translation>
-    </message>
-    <message>
-        <source>全部停止</source>
-        <translation>Stop all</translation>
-    </message>
-    <message>
-        <source>停止尚未开始写入的设备</source>
-        <translation>Stop the devices that have not begun to write</translation>
     </message>
     <message>
         <source>重试失败项</source>
@@ -5045,21 +5057,6 @@ File path: </translation>
         <translation>There is nothing to retry</translation>
     </message>
     <message numerus="yes">
-        <source>%n 台设备未选择升级文件</source>
-        <extracomment>Of the devices that are to be upgraded.</extracomment>
-        <translation>
-            <numerusform>%n device has no firmware file</numerusform>
-            <numerusform>%n devices have no firmware file</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
-        <translation>
-            <numerusform>%n device will be upgraded. It restarts meanwhile: do not switch it off.</numerusform>
-            <numerusform>%n devices will be upgraded. They restart meanwhile: do not switch them off.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n 台设备未升级成功，请查看结果</source>
         <extracomment>Of the devices that were upgraded.</extracomment>
         <translation>
@@ -5074,32 +5071,21 @@ File path: </translation>
             <numerusform>%n devices were upgraded</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n 台设备不能用此文件升级，请查看结果</source>
-        <extracomment>Of the devices that a file was chosen for.</extracomment>
-        <translation>
-            <numerusform>%n device cannot be upgraded with this file, see its result</numerusform>
-            <numerusform>%n devices cannot be upgraded with this file, see their results</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>UpgradeWorkbook</name>
-    <message>
-        <source>正在按另一个文档升级</source>
-        <translation>Another document is being worked on</translation>
-    </message>
     <message>
         <source>打开</source>
         <translation>Open</translation>
     </message>
     <message>
-        <source>文档中没有设备</source>
-        <translation>The document holds no devices</translation>
-    </message>
-    <message>
         <source>打开模板文件失败。</source>
         <translation>The template cannot be opened.</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>Device upgrade</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>Upgrade document</translation>
     </message>
 </context>
 <context>
@@ -5220,6 +5206,10 @@ File path: </translation>
     <message>
         <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
         <translation>“%1” is running. If you exit, the devices that are left will not be done.</translation>
+    </message>
+    <message>
+        <source>已开始写入的设备会自行完成升级，请勿断电。</source>
+        <translation> Devices that are being written go on by themselves: do not switch them off.</translation>
     </message>
 </context>
 <context>

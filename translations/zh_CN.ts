@@ -372,6 +372,14 @@
         <source>提示</source>
         <translation>提示</translation>
     </message>
+    <message>
+        <source>版本号</source>
+        <translation>版本号</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>升级文件</translation>
+    </message>
 </context>
 <context>
     <name>BatchReport</name>
@@ -541,6 +549,10 @@
     <message>
         <source>设备没有应答</source>
         <translation>设备没有应答</translation>
+    </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>设备已不在列表中</translation>
     </message>
 </context>
 <context>
@@ -3448,10 +3460,6 @@
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
-    <message>
-        <source>正在升级设备，请勿断电…</source>
-        <translation>正在升级设备，请勿断电…</translation>
-    </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
         <extracomment>At the foot of a page.</extracomment>
@@ -3665,6 +3673,22 @@
     <message>
         <source>数据无效</source>
         <translation>数据无效</translation>
+    </message>
+    <message>
+        <source>升级文件不可用</source>
+        <translation>升级文件不可用</translation>
+    </message>
+    <message>
+        <source>升级未完成</source>
+        <translation>升级未完成</translation>
+    </message>
+    <message>
+        <source>升级结果未确认</source>
+        <translation>升级结果未确认</translation>
+    </message>
+    <message>
+        <source>设备忙，请稍后重试</source>
+        <translation>设备忙，请稍后重试</translation>
     </message>
 </context>
 <context>
@@ -4481,6 +4505,24 @@
     </message>
 </context>
 <context>
+    <name>UpgradeBatches</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不能用此文件升级，请查看结果</source>
+        <extracomment>Of the devices that a file was chosen for.</extracomment>
+        <translation>
+            <numerusform>%n 台设备不能用此文件升级，请查看结果</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>第%1行 %2</translation>
+    </message>
+</context>
+<context>
     <name>UpgradeDocument</name>
     <message>
         <source>IP</source>
@@ -4532,22 +4574,6 @@
     </message>
 </context>
 <context>
-    <name>UpgradeDocumentBar</name>
-    <message>
-        <source>升级文档 %1：已完成 %2 / %3 行</source>
-        <extracomment>%1 is a file, %2 of %3 its lines.</extracomment>
-        <translation>升级文档 %1：已完成 %2 / %3 行</translation>
-    </message>
-    <message>
-        <source>停止文档升级</source>
-        <translation>停止文档升级</translation>
-    </message>
-    <message>
-        <source>停止此文档中尚未开始写入的设备</source>
-        <translation>停止此文档中尚未开始写入的设备</translation>
-    </message>
-</context>
-<context>
     <name>UpgradeDocuments</name>
     <message>
         <source>%1：%2</source>
@@ -4559,50 +4585,48 @@
     </message>
 </context>
 <context>
-    <name>UpgradeReportDialog</name>
+    <name>UpgradePreview</name>
+    <message>
+        <source>文档中没有设备</source>
+        <translation>文档中没有设备</translation>
+    </message>
+    <message>
+        <source>%1，不会执行</source>
+        <translation>%1，不会执行</translation>
+    </message>
+    <message>
+        <source>%1（%2）</source>
+        <extracomment>The name of a file, and the version of the firmware in it.</extracomment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>设备已是此版本</source>
+        <translation>设备已是此版本</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePreviewDialog</name>
     <message>
         <source>开始升级</source>
         <translation>开始升级</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>设备升级</translation>
     </message>
     <message>
         <source>升级文档</source>
         <translation>升级文档</translation>
     </message>
     <message numerus="yes">
-        <source>%n 台设备可以升级</source>
+        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
         <translation>
-            <numerusform>%n 台设备可以升级</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>，%n 台不能升级</source>
-        <translation>
-            <numerusform>，%n 台不能升级</numerusform>
+            <numerusform>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</numerusform>
         </translation>
     </message>
     <message>
-        <source>。升级期间设备会重启，请勿断电；结果将写入文档。</source>
-        <translation>。升级期间设备会重启，请勿断电；结果将写入文档。</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>行</translation>
-    </message>
-    <message>
-        <source>地址</source>
-        <translation>地址</translation>
-    </message>
-    <message>
-        <source>升级文件</source>
-        <translation>升级文件</translation>
-    </message>
-    <message>
-        <source>检查结果</source>
-        <translation>检查结果</translation>
-    </message>
-    <message>
-        <source>可以升级</source>
-        <translation>可以升级</translation>
+        <source>结果将写入文档。</source>
+        <translation>结果将写入文档。</translation>
     </message>
 </context>
 <context>
@@ -4754,10 +4778,6 @@
         <translation>已开始写入，无法停止</translation>
     </message>
     <message>
-        <source>升级成功：%1 → %2</source>
-        <translation>升级成功：%1 → %2</translation>
-    </message>
-    <message>
         <source>%1（%2%）</source>
         <translation>%1（%2%）</translation>
     </message>
@@ -4799,14 +4819,6 @@
     <message>
         <source>为勾选的设备选择同一个升级文件</source>
         <translation>为勾选的设备选择同一个升级文件</translation>
-    </message>
-    <message>
-        <source>全部停止</source>
-        <translation>全部停止</translation>
-    </message>
-    <message>
-        <source>停止尚未开始写入的设备</source>
-        <translation>停止尚未开始写入的设备</translation>
     </message>
     <message>
         <source>重试失败项</source>
@@ -4991,19 +5003,6 @@
         <translation>没有可以重试的设备</translation>
     </message>
     <message numerus="yes">
-        <source>%n 台设备未选择升级文件</source>
-        <extracomment>Of the devices that are to be upgraded.</extracomment>
-        <translation>
-            <numerusform>%n 台设备未选择升级文件</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
-        <translation>
-            <numerusform>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n 台设备未升级成功，请查看结果</source>
         <extracomment>Of the devices that were upgraded.</extracomment>
         <translation>
@@ -5016,31 +5015,21 @@
             <numerusform>%n 台设备升级成功</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n 台设备不能用此文件升级，请查看结果</source>
-        <extracomment>Of the devices that a file was chosen for.</extracomment>
-        <translation>
-            <numerusform>%n 台设备不能用此文件升级，请查看结果</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>UpgradeWorkbook</name>
-    <message>
-        <source>正在按另一个文档升级</source>
-        <translation>正在按另一个文档升级</translation>
-    </message>
     <message>
         <source>打开</source>
         <translation>打开</translation>
     </message>
     <message>
-        <source>文档中没有设备</source>
-        <translation>文档中没有设备</translation>
-    </message>
-    <message>
         <source>打开模板文件失败。</source>
         <translation>打开模板文件失败。</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>设备升级</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>升级文档</translation>
     </message>
 </context>
 <context>
@@ -5161,6 +5150,10 @@
     <message>
         <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
         <translation>“%1”正在进行。退出后，尚未完成的设备将不再处理。</translation>
+    </message>
+    <message>
+        <source>已开始写入的设备会自行完成升级，请勿断电。</source>
+        <translation>已开始写入的设备会自行完成升级，请勿断电。</translation>
     </message>
 </context>
 <context>

@@ -74,8 +74,8 @@ T.ApplicationWindow {
 
     /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
     function requestEnd() {
-        if (batches.running && !deviceFactory.hasDeviceUpgrading()) {
-            popups.askToEnd(batches.current.title);
+        if (batches.running) {
+            popups.askToEnd(batches.current.title, deviceFactory.hasDeviceUpgrading());
             return false;
         }
         if (!mayBegin(BusyState.Close))

@@ -7,6 +7,7 @@
 #include "device/batch/batchhistory.h"
 #include "device/batch/batchpreview.h"
 #include "device/batch/batchresultmodel.h"
+#include "device/batch/upgradepreview.h"
 #include "device/batchreport.h"
 #include "device/busyreport.h"
 #include "device/bytetext.h"
@@ -69,6 +70,13 @@ struct BatchPreviewForeign
     Q_GADGET
     QML_FOREIGN(BatchPreview)
     QML_NAMED_ELEMENT(BatchPreview)
+};
+
+struct UpgradePreviewForeign
+{
+    Q_GADGET
+    QML_FOREIGN(UpgradePreview)
+    QML_NAMED_ELEMENT(UpgradePreview)
 };
 
 struct AddressPlanForeign

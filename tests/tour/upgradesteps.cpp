@@ -19,7 +19,12 @@ namespace {
 
 const QString password = u"Office-2024"_s;
 const QString newVersion = u"3.000.1"_s;
-const QString firmwareName = u"cameras_"_s + newVersion + u".bin"_s;
+const QString newestVersion = u"3.000.2"_s; // of the document
+
+QString firmwareName(const QString &version)
+{
+    return u"cameras_%1.bin"_s.arg(version);
+}
 
 bool letsIn(const sdk::demo::DemoSite &site, const QString &mac)
 {
@@ -41,12 +46,16 @@ QList<int> usableRows(const Driver &driver, const Rows &rows, const sdk::demo::D
     return found;
 }
 
-void writeFirmware(const Driver &driver, const QString &path, const QStringList &models)
+/// Returns the path.
+QString writeFirmware(const Driver &driver, const QString &folder, const QString &version,
+                      const QStringList &models)
 {
-    QDir().mkpath(QFileInfo(path).path());
+    QDir().mkpath(folder);
     const QByteArray content = "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
-                               "\nversion=" + newVersion.toLatin1() + "\n\n" + QByteArray(100000, '\1');
+                               "\nversion=" + version.toLatin1() + "\n\n" + QByteArray(100000, '\1');
+    const QString path = folder + u'/' + firmwareName(version);
     driver.check(writeFile(path, content), u"the firmware is written"_s);
+    return path;
 }
 
 /// Six devices that are quick, but for what is wrong with some.
@@ -67,17 +76,24 @@ void prepareDevices(const Rows &rows, const QList<int> &places, sdk::demo::DemoS
                   {Fault::UpgradeTakes, 20}); // it still writes when the tour has looked at the others
 }
 
-void answerQuestion(Driver &driver, const QString &picture)
+/// In the list of what will happen.
+void beginUpgrades(Driver &driver, const QString &picture)
 {
-    driver.require(u"messageText"_s);
+    driver.require(u"upgradePreviewTable"_s);
     if (!picture.isEmpty())
-        driver.report(picture, driver.text(u"messageText"_s));
+        driver.report(picture, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"the question is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+    driver.await(u"the list is gone"_s, [&] { return !driver.find(u"upgradePreviewTable"_s); });
 }
 
-/// Nothing disturbs devices that are upgraded.
-void expectHold(const Driver &driver)
+void awaitEnd(const Driver &driver)
+{
+    driver.await(
+        u"the upgrades end"_s, [&] { return driver.find(u"runningText"_s) == nullptr; }, 60);
+}
+
+/// Nothing disturbs devices that are upgraded, and the program does not end without a question.
+void expectHold(Driver &driver)
 {
     driver.click(u"searchButton"_s);
     driver.await(u"a search is refused"_s, [&] {
@@ -87,7 +103,12 @@ void expectHold(const Driver &driver)
     driver.click(u"okButton"_s);
     driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
     driver.click(u"closeButton"_s);
-    expectToast(driver, translated("BusyState", "当前有设备正在升级中，请稍候再关闭"));
+    driver.check(driver.text(u"messageText"_s)
+                     .endsWith(translated("WindowPopups", "已开始写入的设备会自行完成升级，请勿断电。")),
+                 u"it is said what becomes of devices that write"_s);
+    driver.report(u"upgrade-closing"_s, driver.text(u"messageText"_s));
+    driver.click(u"cancelButton"_s);
+    driver.await(u"the question is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
 }
 
 /// The main page leaves a device alone that is upgraded.
@@ -111,7 +132,59 @@ void expectRowHeldBack(const Driver &driver, const QString &mac)
     driver.click(u"tab1"_s);
 }
 
-void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &firmware)
+/// The devices that were not upgraded: they are shown alone, tried again, stopped, and upgraded at last.
+void walkFailedUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QStringList &macs,
+                        const QString &folder)
+{
+    const Rows rows(driver, u"upgradeTable"_s);
+    const auto allHave = [&](UpgradeTools::Result result) {
+        return std::all_of(macs.cbegin(), macs.cend(), [&](const QString &mac) {
+            return rows.value(rows.rowOf("mac", mac), "upgraderes").toInt() == result;
+        });
+    };
+    for (const QString &mac : macs) {
+        site.clearFault(mac, Fault::UpgradeFailsAt);
+        site.clearFault(mac, Fault::UpgradeHangsAt);
+        site.setFault(mac, {Fault::UpgradeTakes, 60});
+    }
+    const int all = rows.count();
+    driver.click(u"failedFilter"_s);
+    driver.await(u"only those that failed are shown"_s, [&] {
+        return rows.count() < all && std::all_of(macs.cbegin(), macs.cend(), [&](const QString &mac) {
+                   return rows.rowOf("mac", mac) >= 0;
+               });
+    });
+    driver.report(u"upgrade-failed"_s, driver.text(u"failedFilter"_s));
+    driver.click(u"failedFilter"_s);
+    driver.await(u"all are shown"_s, [&] { return rows.count() == all; });
+
+    driver.click(u"upgradeRetryButton"_s);
+    beginUpgrades(driver, {});
+    driver.await(u"they get the file"_s, [&] { return allHave(UpgradeTools::Sending); });
+    driver.key(Qt::Key_Escape);
+    driver.await(u"they are stopped"_s, [&] { return allHave(UpgradeTools::Stopped); });
+    awaitEnd(driver);
+    driver.report(u"upgrade-stopped"_s, driver.text(u"footWarning"_s));
+
+    for (const QString &mac : macs)
+        site.setFault(mac, {Fault::UpgradeTakes, 1});
+    driver.click(u"retryFailedButton"_s);
+    driver.await(
+        u"they go well, too"_s, [&] { return allHave(UpgradeTools::Success); }, 30);
+    awaitEnd(driver);
+    const QString path = folder + u"/results.csv"_s;
+    driver.click(u"saveResultsButton"_s);
+    driver.answerFileBox(path);
+    driver.await(u"the results are saved"_s,
+                 [&] { return fileContents(path).count(newVersion.toLatin1()) == macs.size(); });
+    driver.click(u"batchPanelButton"_s);
+    driver.require(u"batchResults"_s);
+    driver.report(u"upgrade-panel"_s, driver.text(u"batchSummary"_s));
+    driver.click(u"okButton"_s);
+    driver.await(u"the panel is closed"_s, [&] { return !driver.find(u"batchResults"_s); });
+}
+
+void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
     const Rows rows(driver, u"upgradeTable"_s);
     const QList<int> places = usableRows(driver, rows, site, 6);
@@ -120,7 +193,8 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     for (const int row : places)
         models.append(rows.value(row, "model").toString());
     models.removeDuplicates();
-    writeFirmware(driver, firmware, models);
+    writeFirmware(driver, folder, newestVersion, models);
+    const QString firmware = writeFirmware(driver, folder, newVersion, models);
     const auto result = [&](int place) {
         return rows.value(places.at(place), "upgraderes").toInt();
     };
@@ -143,7 +217,7 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     });
     driver.report(u"upgrade-files"_s, u"one file for six devices"_s);
     driver.click(u"upgradeStartButton"_s);
-    answerQuestion(driver, u"upgrade-question"_s);
+    beginUpgrades(driver, u"upgrade-preview"_s);
     driver.await(u"four at a time"_s, [&] {
         return result(0) == UpgradeTools::Sending && result(4) == UpgradeTools::Waiting &&
                rows.value(places.at(0), "upgrade").toInt() > 20;
@@ -156,8 +230,7 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     driver.await(
         u"one writes"_s, [&] { return result(5) == UpgradeTools::Writing; }, 60);
     driver.report(u"upgrade-writing"_s, u"one cannot be stopped any more"_s);
-    driver.await(
-        u"all have ended"_s, [&] { return driver.find(u"runningText"_s) == nullptr; }, 60);
+    awaitEnd(driver);
     const QList<int> expected = {UpgradeTools::Success, UpgradeTools::Failed,  UpgradeTools::Stuck,
                                  UpgradeTools::Stopped, UpgradeTools::Success, UpgradeTools::Success};
     for (int place = 0; place < 6; ++place)
@@ -167,21 +240,10 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
                  u"the new version is shown"_s);
     driver.report(u"upgrade-results"_s, driver.texts(u"upgradeResult%1"_s.arg(places.at(2))).join(QString()));
 
-    for (int place = 1; place < 4; ++place) {
-        const QString mac = rows.value(places.at(place), "mac").toString();
-        site.clearFault(mac, Fault::UpgradeFailsAt);
-        site.clearFault(mac, Fault::UpgradeHangsAt);
-        site.setFault(mac, {Fault::UpgradeTakes, 1});
-    }
-    driver.click(u"upgradeRetryButton"_s);
-    answerQuestion(driver, {});
-    driver.await(
-        u"the others go well too"_s,
-        [&] {
-            return result(1) == UpgradeTools::Success && result(2) == UpgradeTools::Success &&
-                   result(3) == UpgradeTools::Success;
-        },
-        30);
+    QStringList failed;
+    for (const int place : {1, 2, 3})
+        failed.append(rows.value(places.at(place), "mac").toString());
+    walkFailedUpgrades(driver, site, failed, folder);
 }
 
 /// The template, filled with three devices.
@@ -190,7 +252,8 @@ QString writeDocument(const Driver &driver, const QStringList &addresses, const 
     QExcel excel;
     bool isWritten = excel.open(QCoreApplication::applicationDirPath() + u"/template/"_s +
                                 UpgradeTools::templateFileName());
-    const QStringList files = {firmwareName, firmwareName, u"missing.bin"_s};
+    const QString firmware = firmwareName(newestVersion);
+    const QStringList files = {firmware, firmware, u"missing.bin"_s};
     for (int place = 0; place < addresses.size(); ++place) {
         const int row = place + 2;
         isWritten &= excel.setCellText(row, 1, addresses.at(place).section(u':', 0, 0)) &&
@@ -219,18 +282,13 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
                  u"the template is opened: %1"_s.arg(opened));
     driver.click(u"upgradeDocumentButton"_s);
     driver.answerFileBox(path);
-    driver.require(u"upgradeReportTable"_s);
-    driver.report(u"upgrade-document"_s, driver.text(u"messageText"_s));
-    driver.click(u"okButton"_s);
-    const QString twoOfThree = translated("UpgradeDocumentBar", "升级文档 %1：已完成 %2 / %3 行")
-                                   .arg(QFileInfo(path).fileName())
-                                   .arg(2)
-                                   .arg(3);
+    beginUpgrades(driver, u"upgrade-document"_s);
+    const QString twoOfThree = translated("UpgradeWork", "升级文档") + u" 2 / 3"_s;
     driver.await(u"two of three lines are done"_s, [&] {
-        const QQuickItem *told = driver.find(u"upgradeDocumentText"_s);
+        const QQuickItem *told = driver.find(u"runningText"_s);
         return told && told->property("text").toString() == twoOfThree;
     });
-    driver.report(u"upgrade-document-running"_s, driver.text(u"upgradeDocumentText"_s));
+    driver.report(u"upgrade-document-running"_s, driver.text(u"runningText"_s));
     driver.await(
         u"what has come of it is told"_s,
         [&] { return driver.text(u"messageText"_s).contains(QDir::toNativeSeparators(path)); }, 40);
@@ -239,7 +297,7 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
     driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
     QExcel excel;
     driver.check(excel.open(path), u"the document can be read"_s);
-    driver.check(excel.cellText(2, 6).value_or(QString()).contains(newVersion) &&
+    driver.check(excel.cellText(2, 6).value_or(QString()).contains(newestVersion) &&
                      excel.cellText(3, 6) == UpgradeTools::text(UpgradeTools::WrongPassword) &&
                      excel.cellText(4, 6) == UpgradeTools::text(UpgradeTools::FileMissing),
                  u"the results are in the document"_s);
@@ -253,7 +311,7 @@ void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
     driver.click(u"tab1"_s);
     driver.fill(u"upgradeSearchField"_s, u"B-2"_s);
     driver.require(u"check5"_s);
-    walkTableUpgrade(driver, site, folder + u'/' + firmwareName);
+    walkTableUpgrade(driver, site, folder);
     walkDocumentUpgrade(driver, site, folder);
     driver.fill(u"upgradeSearchField"_s, u"nothing of this kind"_s);
     driver.require(u"emptyTitle"_s);

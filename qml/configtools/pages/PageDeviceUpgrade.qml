@@ -15,6 +15,7 @@ FocusScope {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
+    readonly property var upgradeBatches: UpgradeBatchesApi
     // qmllint enable unqualified
 
     function focusSearch() {
@@ -26,6 +27,7 @@ FocusScope {
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
+        failedMarks: page.batches.failedMarks
         searchText: toolBar.searchText.trim()
     }
     DeviceListChanges {
@@ -41,19 +43,14 @@ FocusScope {
     }
     UpgradeWork {
         id: work
+        batches: page.batches
         deviceFactory: page.deviceFactory
         deviceTable: devices
         fileDialogs: page.fileDialogs
         shown: page.visible
+        upgradeBatches: page.upgradeBatches
         onChanged: changes.note()
         onSaid: (message, kind) => page.said(message, kind)
-    }
-    UpgradeWorkbook {
-        id: document
-        deviceFactory: page.deviceFactory
-        fileDialogs: page.fileDialogs
-        onSaid: (message, kind) => page.said(message, kind)
-        onStarted: identities => work.followDocument(identities)
     }
 
     UpgradeToolBar {
@@ -62,31 +59,19 @@ FocusScope {
         width: parent.width - 2 * x
         height: Theme.toolBarHeight
         ipv6: devices.ipv6
-        running: work.running
-        onDocumentRequested: document.choose()
+        marks: devices.failedMarks
+        onlyFailed: devices.onlyFailed
+        onDocumentRequested: work.chooseDocument()
         onFileRequested: work.chooseFileForChecked()
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
+        onOnlyFailedToggled: only => devices.onlyFailed = only
         onRetryRequested: work.retry()
         onStartRequested: work.startChecked()
-        onStopRequested: work.stopAll()
-        onTemplateRequested: document.openTemplate()
-    }
-    UpgradeDocumentBar {
-        id: documentBar
-        x: Theme.pageMargin
-        y: toolBar.height
-        width: parent.width - 2 * x
-        height: visible ? implicitHeight : 0
-        done: document.lines.done
-        name: document.name
-        percent: document.percent
-        total: document.lines.total
-        visible: document.running
-        onStopRequested: document.stop()
+        onTemplateRequested: work.openTemplate()
     }
     UpgradeTable {
         x: Theme.pageMargin
-        y: documentBar.y + documentBar.height
+        y: toolBar.height
         width: parent.width - 2 * x
         height: foot.y - y
         checkState: devices.checkState
@@ -100,8 +85,8 @@ FocusScope {
         onFileRequested: row => work.chooseFile([devices.get(row).identity])
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onSortRequested: key => devices.toggleSort(key)
-        onStartRequested: row => work.start([devices.get(row)])
-        onStopRequested: row => work.stop(devices.get(row).identity)
+        onStartRequested: row => work.start([devices.get(row).identity])
+        onStopRequested: row => page.deviceFactory.stopUpgrade("dh", devices.get(row).identity)
 
         ModifyIPEmptyState {
             anchors.fill: parent
@@ -109,7 +94,10 @@ FocusScope {
             libraryInstalled: page.libraryInstalled
             searching: page.searching
             searchesNothing: false
-            onFiltersCleared: toolBar.searchText = ""
+            onFiltersCleared: {
+                devices.onlyFailed = false;
+                toolBar.searchText = "";
+            }
             onSearchRequested: page.searchRequested()
         }
     }
@@ -120,10 +108,6 @@ FocusScope {
         width: parent.width - 2 * x
         batches: page.batches
         search: page.search
-        progress: work.percent / 100
-        running: work.running && !page.batches.running
-        runningDevice: work.percent + "%"
-        runningText: qsTr("正在升级设备，请勿断电…")
         //: At the foot of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
         onSaid: (message, kind) => page.said(message, kind)

@@ -7,6 +7,7 @@ OVTable {
 
     required property BatchPreview preview
     property bool givesAddresses: false  // what happens to a device is its new address
+    property bool givesFirmware: false   // or its new firmware
 
     checkState: preview.checkState
     columns: [
@@ -16,10 +17,12 @@ OVTable {
             key: "ipport", title: givesAddresses ? qsTr("原地址") : qsTr("IP:端口"),
             width: givesAddresses ? Theme.columnPlanAddress : Theme.columnAddress, cell: address
         },
-        {key: "mac", title: "MAC", width: Theme.columnMac, cell: quietFigures},
+        givesFirmware ? {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, cell: quietFigures}
+            : {key: "mac", title: "MAC", width: Theme.columnMac, cell: quietFigures},
         {
-            key: "action", title: givesAddresses ? qsTr("新地址") : qsTr("操作"),
-            width: givesAddresses ? Theme.columnPlanAddress : Theme.columnPlanAction, cell: actionCell
+            key: "action", title: givesAddresses ? qsTr("新地址") : givesFirmware ? qsTr("升级文件") : qsTr("操作"),
+            width: givesAddresses ? Theme.columnPlanAddress : Theme.columnPlanAction,
+            stretch: givesFirmware ? 1 : 0, cell: actionCell
         },
         {key: "note", title: qsTr("提示"), width: Theme.columnPlanMark, cell: noteCell}
     ]

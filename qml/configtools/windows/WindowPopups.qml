@@ -49,11 +49,12 @@ Item {
         messageBox.wanted().show(message, OVMessageBox.Information);
     }
 
-    /// Whether the program is to end during a batch.
-    function askToEnd(title) {
+    /// Whether the program is to end during a batch, which may write firmware.
+    function askToEnd(title, upgrades) {
         const box = endQuestion.wanted();
         box.okText = qsTr("停止并退出");
-        box.show(qsTr("“%1”正在进行。退出后，尚未完成的设备将不再处理。").arg(title), OVMessageBox.DangerQuestion);
+        box.show(qsTr("“%1”正在进行。退出后，尚未完成的设备将不再处理。").arg(title)
+            + (upgrades ? qsTr("已开始写入的设备会自行完成升级，请勿断电。") : ""), OVMessageBox.DangerQuestion);
     }
 
     /// A message that goes by itself.

@@ -1,136 +1,157 @@
-// What the upgrade page does with its devices, with a factory that does nothing but remember.
+// What the upgrade page does with its devices: the file, the question, and what is told at the end.
+#include "device/batch/upgradebatches.h"
+#include "device/devicetablemodel.h"
+#include "tests/device/dh/upgradesite.h"
 #include "tests/qml/configtools/qmlscene.h"
+
+#include <QJSValue>
+
+using sdk::demo::Fault;
 
 namespace {
 
 const char *const scene = "    id: window\n"
                           "    width: 1280; height: 720; visible: true\n"
-                          "    property string said\n"
-                          "    property QtObject table: QtObject {\n"
-                          "        readonly property int count: 0\n"
-                          "        readonly property int checkedCount: 1\n"
-                          "        function checkedMacs() { return ['a', 'b']; }\n"
-                          "        function refreshDevice(identity) {}\n"
-                          "    }\n"
-                          "    property QtObject dialogs: QtObject {\n"
-                          "        function chooseFile(title, filters, then) { then('/firmware.bin'); }\n"
-                          "    }\n"
+                          "    property var said: []\n"
                           "    UpgradeWork {\n"
                           "        objectName: 'work'\n"
-                          "        deviceFactory: factory; deviceTable: window.table\n"
-                          "        fileDialogs: window.dialogs; shown: true\n"
-                          "        onSaid: (message, kind) => window.said = message\n"
-                          "    }\n"
-                          "    UpgradeWorkbook {\n"
-                          "        objectName: 'workbook'\n"
-                          "        deviceFactory: factory; fileDialogs: window.dialogs\n"
+                          "        batches: works; deviceFactory: factory; deviceTable: table\n"
+                          "        fileDialogs: files; upgradeBatches: upgrades; shown: true\n"
+                          "        onChanged: table.refresh()\n"
+                          "        onSaid: (message, kind) => window.said = window.said.concat([message])\n"
                           "    }\n";
 
-class UpgradeFactory : public QObject
+} // namespace
+
+/// The box in which the user names a file: answers at once with the test's path.
+class ChosenFile : public QObject
 {
     Q_OBJECT
 public:
-    QStringList started;
-    QStringList refreshed;
-    QVariantMap results; ///< by identity
-    int successes = 0;   ///< of a document
+    QString path;
 
-    Q_INVOKABLE void setUpgradeFilePath(const QString &, const QString &, const QString &) {}
-    Q_INVOKABLE void startUpgrade(const QString &, const QStringList &names) { started += names; }
-    Q_INVOKABLE void startUpgradeByDocument(const QString &, const QStringList &) {}
-    Q_INVOKABLE bool hasDeviceUpgrading() { return false; }
-    Q_INVOKABLE void refreshDevices(const QString &, const QStringList &names) { refreshed += names; }
-    Q_INVOKABLE QStringList upgradesToRetry(const QString &) { return {"a", "b"}; }
-    Q_INVOKABLE QString upgradeDocumentResult(const QString &) { return "upgrades.xlsx"; }
-    Q_INVOKABLE QVariantMap upgradeDocumentProgress(const QString &) { return {{"done", 1}, {"total", 2}}; }
-    Q_INVOKABLE int upgradeDocumentSuccesses(const QString &) { return successes; }
-    Q_INVOKABLE QVariantMap getDeviceDetail(const QString &, const QString &identity)
+    Q_INVOKABLE void chooseFile(const QString & /*title*/, const QStringList & /*nameFilters*/,
+                                const QJSValue &chosen) const
     {
-        return {{"upgraderes", results.value(identity, -1)}, {"filepath", "/firmware.bin"}};
+        chosen.call({path});
     }
-
-Q_SIGNALS:
-    void signalUpdateSchedule(int value);
-    void signalUpdateScheduleUpgradeByDocument(const QString &fileName, int value);
-    void signalShowUpgradeFinishTip();
 };
-
-} // namespace
 
 class TestUpgradeWork : public QObject
 {
     Q_OBJECT
-private Q_SLOTS:
-    void initTestCase()
+private:
+    std::unique_ptr<UpgradeSite> m_site;
+    std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<UpgradeBatches> m_upgrades;
+    std::unique_ptr<DeviceTableModel> m_table;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    ChosenFile m_file;
+
+    [[nodiscard]] QObject *object(const QString &name) const { return m_window->findChild<QObject *>(name); }
+    [[nodiscard]] QStringList said() const { return m_window->property("said").toStringList(); }
+    void call(const char *function) const { QMetaObject::invokeMethod(object("work"), function); }
+    void awaitOpened(const QString &dialog) const
     {
-        m_window = openScene(m_engine, scene, {{"factory", &m_factory}});
+        QTRY_VERIFY(object(dialog) && object(dialog)->property("opened").toBool());
+    }
+    void accept(const QString &dialog) const
+    {
+        awaitOpened(dialog);
+        QVERIFY(QMetaObject::invokeMethod(object(dialog), "accept"));
+    }
+    void passUntilEnd() const
+    {
+        QVERIFY(m_site->passUntil(
+            [this] { return !m_batches->isRunning() && !m_site->factory->hasDeviceUpgrading(); }));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_site = std::make_unique<UpgradeSite>(3);
+        m_batches = std::make_unique<Batches>(*m_site->factory, *m_site->engine, [] { return 8; });
+        m_upgrades = std::make_unique<UpgradeBatches>(*m_site->factory, *m_batches, [] { return 4; });
+        m_table = std::make_unique<DeviceTableModel>();
+        m_table->setDeviceFactory(m_site->factory.get());
+        m_table->refresh();
+        m_engine = std::make_unique<QQmlEngine>();
+        m_window = openScene(*m_engine, scene,
+                             {{"factory", m_site->factory.get()},
+                              {"works", m_batches.get()},
+                              {"upgrades", m_upgrades.get()},
+                              {"table", m_table.get()},
+                              {"files", &m_file}});
         QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
 
-    void init()
+    void cleanup()
     {
-        m_factory.started.clear();
-        m_factory.refreshed.clear();
-        m_factory.results.clear();
-        m_window->setProperty("said", QString());
+        m_window.reset();
+        m_engine.reset();
+        m_table.reset();
+        m_upgrades.reset();
+        m_batches.reset();
+        m_site.reset();
     }
 
-    void aDeviceThatIsTriedAgainCountsOnce()
+    void tickedDevicesAreUpgraded()
     {
-        m_factory.results = {{"a", 0}, {"b", 0}};
-        run({"a", "b"});
-        run({"b"}); // while a is at it
-        Q_EMIT m_factory.signalShowUpgradeFinishTip();
-        QCOMPARE(said(), QStringLiteral("2 台设备升级成功"));
-        QCOMPARE(m_factory.refreshed, QStringList({"a", "b"}));
+        m_site->site->setFault(m_site->mac(1), {Fault::UpgradeFailsAt, 50});
+        call("startChecked");
+        QCOMPARE(said(), QStringList("请选择一台设备"));
+        m_table->setAllChecked(true);
+        m_file.path = m_site->file();
+        call("chooseFileForChecked");
+        call("startChecked");
+        awaitOpened("upgradePreview");
+        m_table->setAllChecked(false); // what was asked about counts
+        accept("upgradePreview");
+        QTRY_VERIFY(m_batches->isRunning());
+        QVERIFY(m_site->passUntil([this] { return m_table->get(0).value("upgrade").toInt() > 0; }));
+        passUntilEnd();
+        QCOMPARE(said().last(), "1 台设备未升级成功，请查看结果");
+        QCOMPARE(m_table->get(0).value("upgradetext").toString(), "升级成功：2.840.1 → 2.900.0");
+
+        // Rows that the filter hides are tried again, too.
+        m_site->site->clearFault(m_site->mac(1), Fault::UpgradeFailsAt);
+        m_table->setSearchText("nothing");
+        call("retry");
+        accept("upgradePreview");
+        QTRY_VERIFY(m_batches->isRunning());
+        passUntilEnd();
+        QCOMPARE(said().last(), "1 台设备升级成功");
+        call("retry");
+        QCOMPARE(said().last(), "没有可以重试的设备");
     }
 
-    void aRetryReachesRowsThatAreHidden()
+    void nothingBeginsWithDevicesThatGetNoFile()
     {
-        m_factory.results = {{"a", 22}, {"b", 22}};
-        QMetaObject::invokeMethod(object("work"), "retry");
-        QTRY_VERIFY(object("upgradeQuestion") && object("upgradeQuestion")->property("opened").toBool());
-        QTest::keyClick(m_window.get(), Qt::Key_Return);
-        QTRY_COMPARE(m_factory.started, QStringList({"a", "b"}));
-        QTRY_VERIFY(!object("upgradeQuestion")->property("visible").toBool());
+        m_table->setAllChecked(true);
+        m_file.path = m_site->file("BRELM-FIRMWARE 1\nversion");
+        call("chooseFileForChecked");
+        QCOMPARE(said(), QStringList("firmware.bin：升级文件已损坏"));
+        call("startChecked");
+        awaitOpened("upgradePreview");
+        QVERIFY(!object("upgradePreview")->property("okEnabled").toBool());
     }
 
-    void aFileThatIsOfNoUseIsToldAtOnce()
+    void aDocumentTellsItsEnd()
     {
-        QMetaObject::invokeMethod(object("work"), "chooseFileForChecked");
-        QCOMPARE(said(), QString());
-        m_factory.results = {{"b", 6}};
-        QMetaObject::invokeMethod(object("work"), "chooseFileForChecked");
-        QCOMPARE(said(), QStringLiteral("1 台设备不能用此文件升级，请查看结果"));
+        m_file.path = m_site->workbook(
+            {{"192.168.1.99", {}, {}, {}, m_site->file()}, {m_site->address(1), {}, {}, {}, "firmware.bin"}});
+        call("chooseDocument");
+        accept("upgradePreview");
+        QTRY_VERIFY(m_batches->isRunning());
+        call("chooseDocument"); // refused
+        QTRY_VERIFY(!object("upgradePreview")->property("visible").toBool());
+        passUntilEnd();
+        awaitOpened("upgradeOutcome");
+        QCOMPARE(object("upgradeOutcome")->property("kind").toInt(), 0);
+        QVERIFY(said().isEmpty());
     }
-
-    void aDocumentWithoutASuccessIsAnError()
-    {
-        for (const int successes : {0, 1}) {
-            m_factory.successes = successes;
-            QMetaObject::invokeMethod(object("workbook"), "start", Q_ARG(QVariant, "x"),
-                                      Q_ARG(QVariant, QVariantList()));
-            Q_EMIT m_factory.signalShowUpgradeFinishTip();
-            QTRY_VERIFY(object("upgradeOutcome") && object("upgradeOutcome")->property("opened").toBool());
-            QCOMPARE(object("upgradeOutcome")->property("kind").toInt(), successes == 0 ? 1 : 0);
-            QTest::keyClick(m_window.get(), Qt::Key_Return);
-            QTRY_VERIFY(!object("upgradeOutcome")->property("visible").toBool());
-        }
-    }
-
-private:
-    [[nodiscard]] QObject *object(const QString &name) const { return m_window->findChild<QObject *>(name); }
-    [[nodiscard]] QString said() const { return m_window->property("said").toString(); }
-
-    void run(const QStringList &names) const
-    {
-        QMetaObject::invokeMethod(object("work"), "run", Q_ARG(QVariant, names));
-    }
-
-    UpgradeFactory m_factory;
-    QQmlEngine m_engine;
-    std::unique_ptr<QQuickWindow> m_window;
 };
 
 QTEST_MAIN(TestUpgradeWork)

@@ -113,6 +113,15 @@ OVTable {
             readonly property string words: UpgradeTools.isRunning(code) ? (told === meaning ? "" : told)
                 : told !== "" ? told : meaning
 
+            // A result that is a failure is the sign of the mark, too.
+            OVFailedSign {
+                id: mark
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.half
+                anchors.verticalCenter: parent.verticalCenter
+                failure: result.failed ? "" : result.row?.failure ?? ""
+                size: Theme.smallIconSize
+            }
             OVIcon {
                 id: sign
                 anchors.verticalCenter: parent.verticalCenter
@@ -131,7 +140,7 @@ OVTable {
             }
             OVLabel {
                 x: result.signed ? sign.width + Theme.signGap : 0
-                width: parent.width - x - Theme.unit
+                width: (mark.visible ? mark.x : parent.width) - x - Theme.unit
                 height: parent.height
                 color: !result.failed ? Theme.colours.ink : result.mayGoWell ? Theme.colours.warnInk : Theme.colours.bad
                 objectName: "upgradeResult" + result.rowIndex

@@ -6,13 +6,14 @@ import configtools
 RowLayout {
     id: root
 
-    required property bool running
     required property bool ipv6
+    required property FailedMarks marks
+    required property bool onlyFailed
     property alias searchText: searchField.text
     signal ipv6Chosen(bool ipv6)
     signal fileRequested
     signal startRequested
-    signal stopRequested
+    signal onlyFailedToggled(bool only)
     signal retryRequested
     signal documentRequested
     signal templateRequested
@@ -39,13 +40,6 @@ RowLayout {
             onClicked: root.fileRequested()
         }
         OVButton {
-            enabled: root.running
-            objectName: "upgradeStopButton"
-            text: qsTr("全部停止")
-            toolTip: qsTr("停止尚未开始写入的设备")
-            onClicked: root.stopRequested()
-        }
-        OVButton {
             objectName: "upgradeRetryButton"
             text: qsTr("重试失败项")
             toolTip: qsTr("再次升级重试可能成功的设备，例如无应答的设备")
@@ -66,6 +60,11 @@ RowLayout {
     }
     Item {
         Layout.fillWidth: true
+    }
+    OVFailedFilter {
+        marks: root.marks
+        on: root.onlyFailed
+        onToggled: on => root.onlyFailedToggled(on)
     }
     OVSegmentedChoice {
         currentIndex: root.ipv6 ? 1 : 0

@@ -1,0 +1,84 @@
+// Asks before devices are upgraded, with a list of which device gets which firmware, and which ones get none and why.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property var deviceFactory
+    property string path  // of the document; "" for devices of the table
+    signal confirmed(var identities)
+    signal documentConfirmed(string path, var lines)
+
+    /// Devices of the table.
+    function ask(identities) {
+        path = "";
+        preview.setIdentities(identities);
+        open();
+    }
+
+    /// Devices of a document. Returns why there are none; "" when it asks.
+    function askDocument(file) {
+        path = file;
+        const refusal = preview.setDocument(file);
+        if (refusal === "")
+            open();
+        return refusal;
+    }
+
+    function start() {
+        close();
+        if (path === "")
+            confirmed(preview.checkedIdentities());
+        else
+            documentConfirmed(path, preview.checkedIdentities());
+    }
+
+    width: Theme.batchPreviewWidth
+    objectName: "upgradePreview"
+    okEnabled: preview.upgradeCount > 0
+    okText: qsTr("开始升级")
+    title: path === "" ? qsTr("设备升级") : qsTr("升级文档")
+    onAccepted: {
+        if (preview.warningCount > 0)
+            warned.ask(preview.warningCount);
+        else
+            start();
+    }
+    onOpened: table.forceActiveFocus()
+
+    UpgradePreview {
+        id: preview
+        deviceFactory: root.deviceFactory
+    }
+
+    footContent: BatchPreviewCounts {
+        height: parent.height
+        preview: preview
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVNotice {
+            width: parent.width
+            iconColor: preview.skippedCount > 0 ? Theme.colours.warn : Theme.colours.accent
+            iconName: preview.skippedCount > 0 ? "alert" : "about"
+            text: qsTr("即将升级 %n 台设备。升级期间设备会重启，请勿断电。", "", preview.upgradeCount)
+                + (root.path !== "" ? qsTr("结果将写入文档。") : "")
+        }
+        BatchPreviewTable {
+            id: table
+            width: parent.width
+            height: Theme.batchPreviewHeight
+            givesFirmware: true
+            objectName: "upgradePreviewTable"
+            preview: preview
+        }
+    }
+    BatchWarningQuestion {
+        id: warned
+        onAccepted: root.start()
+    }
+}
