@@ -116,8 +116,7 @@ OVTable {
             // A result that is a failure is the sign of the mark, too.
             OVFailedSign {
                 id: mark
-                anchors.right: parent.right
-                anchors.rightMargin: Theme.half
+                x: result.signed ? sign.width + Theme.signGap : 0
                 anchors.verticalCenter: parent.verticalCenter
                 failure: result.failed ? "" : result.row?.failure ?? ""
                 size: Theme.smallIconSize
@@ -139,8 +138,8 @@ OVTable {
                 }
             }
             OVLabel {
-                x: result.signed ? sign.width + Theme.signGap : 0
-                width: (mark.visible ? mark.x : parent.width) - x - Theme.unit
+                x: mark.x + (mark.visible ? mark.width + Theme.signGap : 0)
+                width: parent.width - x - Theme.unit
                 height: parent.height
                 color: !result.failed ? Theme.colours.ink : result.mayGoWell ? Theme.colours.warnInk : Theme.colours.bad
                 objectName: "upgradeResult" + result.rowIndex
