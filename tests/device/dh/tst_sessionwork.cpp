@@ -10,6 +10,30 @@ namespace {
 
 using Begin = std::function<void(SessionWork &work)>;
 
+/// Work that ends when the test says so, whether it is wanted still or not.
+class HeldBackEnd : public CDeviceBase
+{
+public:
+    HeldBackEnd() : CDeviceBase(nullptr) {}
+
+    int taken = 0;
+    QList<std::function<void()>> ends; ///< of the works, in their order
+
+    SceneStep loginStep(const QString &, const QString &, const QString &) override
+    {
+        return [this](const StepControl &) {
+            return SceneOutcome{.value = 0, .take = [this] {
+                                    ++taken;
+                                }};
+        };
+    }
+    void runForScene(const SceneStep &step, const std::stop_token &,
+                     const std::function<void(const SceneOutcome &outcome)> &ended) override
+    {
+        ends.append([step, ended] { ended(step(StepControl())); });
+    }
+};
+
 } // namespace
 Q_DECLARE_METATYPE(Begin)
 
@@ -138,6 +162,24 @@ private Q_SLOTS:
         m_site->letTimePass();
         QTRY_VERIFY(!m_work->isRunning());
         QTEST(m_told, "told");
+    }
+
+    void anOutcomeThatIsOnItsWayIsDroppedToo()
+    {
+        const auto backEnd = std::make_shared<HeldBackEnd>();
+        CDeviceFactory factory({{"dh", [backEnd] {
+                                     return backEnd;
+                                 }}});
+        m_work->setDeviceFactory(&factory);
+        login(m_recorder);
+        login(m_camera);
+        backEnd->ends.at(0)();
+        QCOMPARE(backEnd->taken, 0);
+        QVERIFY(m_work->isRunning());
+        backEnd->ends.at(1)();
+        QCOMPARE(backEnd->taken, 1);
+        QCOMPARE(m_told, QStringList("ended"));
+        m_work->setDeviceFactory(nullptr);
     }
 
     void theLastWishCounts()
