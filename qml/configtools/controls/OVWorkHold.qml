@@ -6,7 +6,7 @@ MouseArea {
     id: root
 
     property bool active: false
-    property Item back: null  // what had the keyboard
+    property var back: null  // the item that had the keyboard
 
     function isCovered(item) {
         let above = item;
@@ -44,13 +44,18 @@ MouseArea {
     onWheel: wheel => wheel.accepted = true
     Keys.onPressed: event => event.accepted = true
 
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: root.takeKeyboard()
+    }
     // A list that closes gives the keyboard back to what it belongs to.
     Connections {
         enabled: root.active
         target: root.Window.window
 
         function onActiveFocusItemChanged() {
-            Qt.callLater(root.takeKeyboard);
+            later.start();
         }
     }
 }

@@ -59,6 +59,7 @@ Item {
         deviceFactory.setConfigData("dh", "channelNamesSaved", true);
         if (saved !== null)
             tell();  // the session of the saving has ended, and its signal does not come
+        session.work.settle();
     }
 
     function tell() {

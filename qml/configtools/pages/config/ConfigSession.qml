@@ -95,7 +95,7 @@ Item {
     /// Whether another account or password may help: there is no such account, its password is another one, or it is
     /// logged in elsewhere.
     function canLoginAgain() {
-        return [1, 2, 4].includes(loginResult);
+        return loginResult === 1 || loginResult === 2 || loginResult === 4;
     }
 
     function askAgain(account) {

@@ -56,6 +56,4 @@ SessionWork {
     }
 
     onEnded: value => finish(value)
-    // When all of the saving has been told.
-    onSavingNamesChanged: Qt.callLater(root.settle)
 }
