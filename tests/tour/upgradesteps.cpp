@@ -72,8 +72,8 @@ void prepareDevices(const Rows &rows, const QList<int> &places, sdk::demo::DemoS
     site.setFault(mac(1), {Fault::UpgradeFailsAt, 47});
     site.setFault(mac(2), {Fault::UpgradeHangsAt, 63});
     site.setFault(mac(3), {Fault::UpgradeTakes, 60});
-    site.setFault(mac(5),
-                  {Fault::UpgradeTakes, 20}); // it still writes when the tour has looked at the others
+    // It still writes when the tour has looked at the others.
+    site.setFault(mac(5), {Fault::UpgradeTakes, 45});
 }
 
 /// In the list of what will happen.
@@ -89,7 +89,7 @@ void beginUpgrades(Driver &driver, const QString &picture)
 void awaitEnd(const Driver &driver)
 {
     driver.await(
-        u"the upgrades end"_s, [&] { return driver.find(u"runningText"_s) == nullptr; }, 60);
+        u"the upgrades end"_s, [&] { return driver.find(u"runningText"_s) == nullptr; }, 120);
 }
 
 /// Nothing disturbs devices that are upgraded, and the program does not end without a question.
@@ -223,10 +223,10 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
                rows.value(places.at(0), "upgrade").toInt() > 20;
     });
     driver.report(u"upgrade-running"_s, driver.text(u"runningText"_s));
+    expectRowHeldBack(driver, rows.value(places.at(3), "mac").toString()); // takes long
+    expectHold(driver);
     driver.click(u"upgradeStop%1"_s.arg(places.at(3)));
     driver.await(u"one is stopped"_s, [&] { return result(3) == UpgradeTools::Stopped; });
-    expectHold(driver);
-    expectRowHeldBack(driver, rows.value(places.at(2), "mac").toString()); // stands still for long
     driver.await(
         u"one writes"_s, [&] { return result(5) == UpgradeTools::Writing; }, 60);
     driver.report(u"upgrade-writing"_s, u"one cannot be stopped any more"_s);
