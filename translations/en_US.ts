@@ -5087,6 +5087,10 @@ File path: </translation>
         <source>升级文档</source>
         <translation>Upgrade document</translation>
     </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>Stopped, %1 of %2 done</translation>
+    </message>
 </context>
 <context>
     <name>ValueTables</name>

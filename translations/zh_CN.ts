@@ -5031,6 +5031,10 @@
         <source>升级文档</source>
         <translation>升级文档</translation>
     </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>已停止，完成 %1 / %2</translation>
+    </message>
 </context>
 <context>
     <name>ValueTables</name>

@@ -125,7 +125,7 @@ void UpgradeBatches::follow(Batch *batch, Source source)
         tellRows();
         const BatchReport &report = *batch->report();
         if (source == Source::List)
-            Q_EMIT ended(report.succeeded(), report.total() - report.succeeded());
+            Q_EMIT ended(report.succeeded(), report.failed(), report.notDone());
     });
     tellRows();
 }

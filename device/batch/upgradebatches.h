@@ -37,8 +37,8 @@ Q_SIGNALS:
     /// The same for so many rows that the page does better to read the list.
     void listChanged();
 
-    /// Of a batch of listed devices, or a retry: how many were upgraded, and how many were not.
-    void ended(int upgraded, int others);
+    /// Of a batch of listed devices, or a retry: how many were upgraded, failed, or were stopped before.
+    void ended(int upgraded, int failed, int notDone);
 
     /// The results of the document are in its file. `text` tells the user so.
     void documentEnded(const QString &text, bool hasSuccess);

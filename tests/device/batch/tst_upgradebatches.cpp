@@ -109,7 +109,7 @@ private Q_SLOTS:
                               "192.168.1.11:37777|成功：2.840.1 → 2.900.0"}));
         QCOMPARE(test.text(0), "升级成功：2.840.1 → 2.900.0");
         QCOMPARE(test.text(4), "未选择升级文件");
-        QCOMPARE(ended.last(), QVariantList({1, 5}));
+        QCOMPARE(ended.last(), QVariantList({1, 5, 0}));
         QCOMPARE(test.batches.failedMarks()->count(), 5);
 
         test.site->clearFault(test.mac(1), Fault::UpgradeFailsAt);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QVERIFY(test.passUntilDone());
         QCOMPARE(test.panel(), QStringList({"192.168.1.12:37777|成功：2.840.1 → 2.900.0",
                                             "192.168.1.14:37777|成功：2.840.1 → 2.900.0"}));
-        QCOMPARE(ended.last(), QVariantList({2, 0}));
+        QCOMPARE(ended.last(), QVariantList({2, 0, 0}));
         QCOMPARE(test.site->requests().of("NetStartUpgrade").size(), 2);
         QCOMPARE(test.batches.failedMarks()->count(), 3);
     }

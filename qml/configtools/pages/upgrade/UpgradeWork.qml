@@ -82,11 +82,14 @@ Item {
         function onListChanged() {
             root.changed();
         }
-        function onEnded(upgraded, others) {
-            if (others > 0)
+        function onEnded(upgraded, failed, notDone) {
+            if (notDone > 0)
+                root.said(qsTr("已停止，完成 %1 / %2").arg(upgraded + failed).arg(upgraded + failed + notDone),
+                          OVToast.Information);
+            if (failed > 0)
                 //: Of the devices that were upgraded.
-                root.said(qsTr("%n 台设备未升级成功，请查看结果", "", others), OVToast.Error);
-            else
+                root.said(qsTr("%n 台设备未升级成功，请查看结果", "", failed), OVToast.Error);
+            else if (notDone === 0)
                 root.said(qsTr("%n 台设备升级成功", "", upgraded), OVToast.Success);
         }
         function onDocumentEnded(text, hasSuccess) {
