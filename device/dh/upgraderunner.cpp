@@ -97,9 +97,8 @@ std::shared_ptr<UpgradeRunner::Upgrade> UpgradeRunner::enter(const UpgradeOrder 
 DeviceStep UpgradeRunner::stepOf(const std::shared_ptr<Upgrade> &upgrade)
 {
     // Goes with the last copy of the step.
-    const std::shared_ptr<Upgrade> entered(upgrade.get(), [this, upgrade](Upgrade *notRun) {
-        giveUpWaiting(*notRun, UpgradeTools::Stopped);
-    });
+    const std::shared_ptr<Upgrade> entered(
+        upgrade.get(), [this, upgrade](Upgrade *notRun) { giveUpWaiting(*notRun, UpgradeTools::Stopped); });
     return [this, entered](const StepControl &control) {
         return perform(*entered, control);
     };

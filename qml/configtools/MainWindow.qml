@@ -305,10 +305,10 @@ T.ApplicationWindow {
         logoName: window.title
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
-        onEndConfirmed: {
+        onEndConfirmed: window.leavePage(() => {
             window.batches.giveUp();
             window.end();
-        }
+        })
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()

@@ -4,6 +4,9 @@
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 
+#include <QRegularExpression>
+#include <QThreadPool>
+
 namespace {
 
 constexpr int notDone = BatchReport::NotDone;
@@ -162,6 +165,7 @@ private Q_SLOTS:
         std::reverse(backwards.begin(), backwards.end());
         QCOMPARE(askedMacs("NetModifyDeviceBySearch"), backwards);
 
+        QVERIFY(QThreadPool::globalInstance()->waitForDone(30000)); // the rows have been queried again
         m_site->site->changeDevice(m_devices.at(2).mac, [](auto &device, const auto &) {
             device.address = "192.168.1.77"; // it does not respond where it was put
         });

@@ -76,7 +76,7 @@ private Q_SLOTS:
         for (int place = 0; place < results.keyCount(); ++place) {
             const auto result = static_cast<UpgradeTools::Result>(results.value(place));
             if (UpgradeTools::isFailure(result))
-                QVERIFY2(maySucceedLater(UpgradeTools::batchResult(result)) ==
+                QVERIFY2(maySucceedLater({.result = UpgradeTools::batchResult(result), .text = {}}) ==
                              UpgradeTools::canTryAgain(result),
                          results.key(place));
         }
