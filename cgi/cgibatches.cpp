@@ -76,7 +76,7 @@ DeviceStep CgiBatches::deviceStep(const BatchDevice &device, const QString &comm
 {
     const QString address = addressOf(device.ipport, command);
     if (address.isEmpty())
-        return refusedCgiStep(tr("没有通往设备网页端口的隧道。"));
+        return refusedCgiStep(resultCode(LoginResult::NetworkFailure), tr("没有通往设备网页端口的隧道。"));
     return cgiStep(
         m_surroundings,
         {.url = address, .user = account.user, .password = account.password, .ipport = device.ipport},

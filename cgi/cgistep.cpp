@@ -28,10 +28,10 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
     };
 }
 
-DeviceStep refusedCgiStep(const QString &reason)
+DeviceStep refusedCgiStep(int result, const QString &reason)
 {
-    return [reason](const StepControl &) {
-        return StepOutcome{.result = commandFailed, .text = failedResult + reason};
+    return [result, reason](const StepControl &) {
+        return StepOutcome{.result = result, .text = failedResult + reason};
     };
 }
 

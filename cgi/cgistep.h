@@ -27,8 +27,8 @@ using AnswerSink = std::function<void(const QString &answer)>;
 [[nodiscard]] DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command,
                                  const AnswerSink &sink = {});
 
-/// Of a command that cannot be sent; `reason` is in the user's language.
-[[nodiscard]] DeviceStep refusedCgiStep(const QString &reason);
+/// Of a command that cannot be sent, for which nothing is asked; `reason` is in the user's language.
+[[nodiscard]] DeviceStep refusedCgiStep(int result, const QString &reason);
 
 /// Commands have no deadline: they have limits of their own for each kind of answer, and a recording takes as
 /// long as its transfer goes on.

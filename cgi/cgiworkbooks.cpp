@@ -5,6 +5,7 @@
 #include "cgi/internal/workbookresults.h"
 #include "cgi/logging.h"
 #include "device/devicefactory.h"
+#include "device/deviceimport.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -172,7 +173,7 @@ DeviceStep CgiWorkbooks::lineStep(const BatchDevice &line) const
 {
     const WorkbookCommand &command = m_workbook->command(line.name);
     if (!command.refusal.isEmpty())
-        return refusedCgiStep(command.refusal);
+        return refusedCgiStep(unusableLine, command.refusal);
     return cgiStep(
         m_surroundings,
         {.url = command.url, .user = command.user, .password = command.password, .ipport = command.ipport},

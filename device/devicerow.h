@@ -45,6 +45,8 @@ inline constexpr QLatin1StringView https("https");           ///< bool: the HTTP
 /// Int, from 1: rows whose name was this address and port before. Only rows without a MAC have it, and only
 /// when there were any.
 inline constexpr QLatin1StringView duplicate("duplicate");
+/// A bool: the address is what a change that failed asked for, and the device has not been found since.
+inline constexpr QLatin1StringView unconfirmed("unconfirmed");
 
 /// Text: the name of a row whose values have changed so that they would give another one. Other rows lack it.
 inline constexpr QLatin1StringView identity("identity");

@@ -161,6 +161,7 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
     }
     row.insert(DeviceRowKey::state, now.value(DeviceRowKey::state));
     row.insert(DeviceRowKey::ipport, now.value(DeviceRowKey::ipport));
+    row.insert(DeviceRowKey::unconfirmed, false);
     if (!row.value(DeviceRowKey::https).toBool()) // a response holds the port of the plain web page only
         row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
     m_ipv4.replace(name, row);

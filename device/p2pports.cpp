@@ -131,8 +131,33 @@ int P2PPorts::portFor(const QString &deviceId, int devicePort, int wish)
         return 0;
     if (!m_library)
         return 0;
-
     const std::lock_guard lock(m_requestMutex);
+    return portForLocked(deviceId, devicePort, wish);
+}
+
+int P2PPorts::claim(const QString &deviceId, int devicePort)
+{
+    if (!m_library)
+        return 0;
+    const std::lock_guard lock(m_requestMutex);
+    const int port = portForLocked(deviceId, devicePort, 0);
+    if (port > 0)
+        ++m_claims[port];
+    return port;
+}
+
+void P2PPorts::giveBack(int localPort, const std::function<bool()> &isListed)
+{
+    const std::lock_guard lock(m_requestMutex);
+    if (--m_claims[localPort] > 0)
+        return;
+    m_claims.remove(localPort);
+    if (!isKnown(localPort) && !isListed())
+        release(localPort);
+}
+
+int P2PPorts::portForLocked(const QString &deviceId, int devicePort, int wish)
+{
     std::array<std::int32_t, sdk::maximumLocalPorts> ports{};
     std::int32_t count = 0;
     if (!m_library->OAgent_ClientGetDeviceLocalPort(deviceId.toLocal8Bit().constData(), devicePort,

@@ -47,6 +47,13 @@ public:
     /// so that two for the same device get the same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
 
+    /// The same without a wish, for a caller that works with the port until it gives it back.
+    [[nodiscard]] int claim(const QString &deviceId, int devicePort);
+
+    /// Removes the mapping of a port that was claimed, unless another caller has claimed it too, a device is
+    /// known by it, or `isListed` says that a row has it.
+    void giveBack(int localPort, const std::function<bool()> &isListed);
+
     /// Why a request for a port may fail whatever the device: a setting that is missing or wrong, or an agent
     /// that did not start. In the user's language; empty when neither is so.
     [[nodiscard]] QString faultText() const;
@@ -73,11 +80,13 @@ public:
     void releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded);
 
 private:
+    [[nodiscard]] int portForLocked(const QString &deviceId, int devicePort, int wish);
     [[nodiscard]] int addPort(const QString &deviceId, int devicePort, int localPort);
 
     const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null when the agent could not be started
     const QString m_settingFault; ///< the key of the setting that is missing or wrong; empty for none
-    std::mutex m_requestMutex;    ///< of portFor(): one request at a time
+    std::mutex m_requestMutex;    ///< of m_claims and of what asks the agent: one request at a time
+    QHash<int, int> m_claims;     ///< callers that work with a local port
     mutable std::mutex m_mutex;   ///< of m_webPorts; not held while the agent is asked
     QHash<int, int> m_webPorts;   ///< by login port; 0 for a device whose web page has no port
 };

@@ -415,3 +415,10 @@ QStringList OVTreeModel::checkedDevices() const
     }
     return devices;
 }
+
+QStringList OVTreeModel::without(const QStringList &devices, const QString &device)
+{
+    QStringList others = devices;
+    others.removeAll(device);
+    return others;
+}

@@ -84,6 +84,8 @@ public:
     [[nodiscard]] int checkedUpgradingCount() const; ///< of the ticked ones, as of the last rebuild
     [[nodiscard]] int deviceCount() const;
 
+    Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
+
     /// The tick of the whole tree, as that of a group.
     [[nodiscard]] Qt::CheckState checkState() const;
     Q_INVOKABLE void setAllChecked(bool checked);

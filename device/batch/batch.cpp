@@ -120,10 +120,22 @@ Batch::~Batch()
     m_engine.stop(m_number);
 }
 
+DeviceStep Batch::preparedStep(const BatchDevice &device, const std::shared_ptr<std::once_flag> &flag) const
+{
+    const DeviceStep step = m_plan.stepOf(device);
+    if (!m_plan.preparation)
+        return step;
+    return [step, flag, prepare = m_plan.preparation](const StepControl &control) {
+        std::call_once(*flag, [&] { prepare(control); });
+        return control.isStopped() ? StepOutcome{.result = BatchReport::NotDone, .text = {}} : step(control);
+    };
+}
+
 bool Batch::start()
 {
     std::vector<BatchItem> items;
     items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
+    const auto isPrepared = std::make_shared<std::once_flag>();
     QHash<QString, QString> deviceAt; // rows that share an address are one device to the engine
     for (const BatchDevice &device : std::as_const(m_plan.devices)) {
         const auto known = deviceAt.constFind(device.ipport);
@@ -132,7 +144,7 @@ bool Batch::start()
         if (device.isUpgrading)
             items.push_back({.device = key + upgradingMark, .login = {}, .step = &refuseForUpgrade});
         else
-            items.push_back({.device = key, .login = device.login, .step = m_plan.stepOf(device)});
+            items.push_back({.device = key, .login = device.login, .step = preparedStep(device, isPrepared)});
     }
     m_began = QDateTime::currentDateTime();
     m_isRunning = true;

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <mutex>
 
 /// One batch of the session, for the scene: how far it is and what has come of each device. What its steps
 /// report on the engine's threads arrives here in groups, one for each painted frame at most.
@@ -115,6 +116,9 @@ Q_SIGNALS:
 private:
     class Mailbox;
 
+    /// The first of the batch's steps that runs does the preparation before.
+    [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
+                                          const std::shared_ptr<std::once_flag> &flag) const;
     void takeNews();
     void tell(const QList<BatchOutcome> &outcomes) const;
     void finish();

@@ -1,5 +1,6 @@
 #include "device/batch/batchengine.h"
 
+#include "device/deviceimport.h"
 #include "device/logging.h"
 
 #include <algorithm>
@@ -25,11 +26,12 @@ bool wasLoggedIn(int result)
     case LoginResult::AccountLoggedIn:
     case LoginResult::NotInitialised:
     case LoginResult::NotSupported:
+    case LoginResult::AlreadyListed:
     case LoginResult::Upgrading:
     case LoginResult::NotDone:
         return false;
     default:
-        return !isRefusal(result) && result != upgradeFileUnusable;
+        return !isRefusal(result) && result != upgradeFileUnusable && result != unusableLine;
     }
 }
 
@@ -204,14 +206,16 @@ void BatchEngine::run(Taken taken)
     m_changed.notify_all();
 }
 
-StepOutcome BatchEngine::perform(const Taken &taken, bool &holdsPlace)
+StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
 {
     Batch &batch = *taken.batch;
     {
         const std::lock_guard lock(m_mutex);
         const auto refusal = batch.refusals.constFind({taken.item.device, taken.item.login});
-        if (refusal != batch.refusals.cend())
+        if (refusal != batch.refusals.cend()) {
+            taken.item.step = nullptr; // what its end leaves behind comes before the outcome is told
             return *refusal;
+        }
     }
     batch.watcher->started(taken.place);
     const std::int64_t deadline = m_clock && batch.policy.deadline.count() > 0

@@ -120,7 +120,7 @@ private:
     void addThreadsLocked();
     void work(const std::stop_token &stop);
     void run(Taken taken);
-    [[nodiscard]] StepOutcome perform(const Taken &taken, bool &holdsPlace);
+    [[nodiscard]] StepOutcome perform(Taken &taken, bool &holdsPlace);
     void releasePlace(Batch &batch, bool &holdsPlace);
     /// Returns true when the batch is held from now on.
     [[nodiscard]] static bool noteLocked(const Taken &taken, const StepOutcome &outcome);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <ranges>
 #include <utility>
 
 namespace {
@@ -32,10 +33,13 @@ QString workOf(const QString &command)
 class OccupiedAddresses
 {
 public:
-    explicit OccupiedAddresses(const QList<BatchDevice> &devices)
+    /// A device may have the address of its row, or still the one that it had before changes that failed.
+    explicit OccupiedAddresses(const BatchPlan &plan)
     {
-        for (const BatchDevice &device : devices)
+        for (const BatchDevice &device : plan.devices) {
             m_devices.insert(device.ipport.section(QLatin1Char(':'), 0, 0), device);
+            m_devices.insert(plan.addressesBefore.value(device.identity).address, device);
+        }
     }
 
     /// The title or MAC of a device other than `identity` that still has `address`; empty when there is none.
@@ -171,19 +175,13 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
 
 std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &identity) const
 {
-    const int result = m_factory.deviceRow(QStringLiteral("dh"), identity).value(DeviceRowKey::res).toInt(-1);
-    for (auto batch = m_kept.crbegin(); batch != m_kept.crend(); ++batch) {
-        const auto before = (*batch)->plan().addressesBefore.constFind(identity);
-        if (before == (*batch)->plan().addressesBefore.cend())
-            continue;
-        const QList<Batch::Entry> &entries = (*batch)->entries();
-        const auto entry = std::find_if(entries.cbegin(), entries.cend(), [&](const Batch::Entry &candidate) {
-            return candidate.device.identity == identity;
-        });
-        const bool hasFailed = entry != entries.cend() && entry->time.isValid() &&
-                               entry->outcome.result != BatchReport::Succeeded &&
-                               entry->outcome.result == result; // else the device was found again meanwhile
-        return hasFailed ? std::optional(*before) : std::nullopt;
+    const QJsonObject row = m_factory.deviceRow(QStringLiteral("dh"), identity);
+    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // it was found again meanwhile
+        return std::nullopt;
+    for (const Batch *batch : std::ranges::reverse_view(m_kept)) { // the last one first
+        const auto before = batch->plan().addressesBefore.constFind(identity);
+        if (before != batch->plan().addressesBefore.cend())
+            return *before;
     }
     return std::nullopt;
 }
@@ -214,7 +212,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         ordered.append(plan.devices.at(place));
     plan.devices = ordered;
     plan.policy = {.atOnce = 1, .deadline = stepDeadline};
-    const auto occupied = std::make_shared<OccupiedAddresses>(plan.devices);
+    const auto occupied = std::make_shared<OccupiedAddresses>(plan);
     plan.stepOf = [this, family = plan.family, targets, occupied](const BatchDevice &device) -> DeviceStep {
         const AddressSettings target = targets.value(device.identity);
         const DeviceStep step = target.dhcp ? m_factory.addressStep(family, device.name, {}, {}, {}, true)
@@ -237,16 +235,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         QStringList names;
         for (const BatchDevice &device : std::as_const(plan.devices))
             names.append(device.name);
-        // One after another: the step of the first device locates them all.
-        plan.stepOf = [locate = m_factory.locationStep(plan.family, names), stepOf = plan.stepOf,
-                       located = std::make_shared<bool>(false)](const BatchDevice &device) -> DeviceStep {
-            return [=, step = stepOf(device)](const StepControl &control) {
-                if (!std::exchange(*located, true))
-                    locate(control);
-                return control.isStopped() ? StepOutcome{.result = BatchReport::NotDone, .text = {}}
-                                           : step(control);
-            };
-        };
+        plan.preparation = m_factory.locationStep(plan.family, names);
     }
     plan.work = QStringLiteral("changeAddress");
     plan.changesRows = true;

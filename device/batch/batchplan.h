@@ -52,6 +52,10 @@ struct BatchPlan
     /// Makes the step of a device. Called on the scene's thread, at the start and at each retry.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
 
+    /// Runs once in each batch, also in a retry, on the thread of its first step and before that; may be
+    /// empty.
+    DeviceStep preparation = {};
+
     /// Takes what has come of devices, in the order in which it came, once for each painted frame at most,
     /// and at the end of the batch that of the devices that it did not come to. Called on the scene's thread;
     /// may be empty.

@@ -162,7 +162,7 @@ QString BatchPreview::addressAndPortOf(int row) const
 QString BatchPreview::hindranceOf(int row) const
 {
     const QVariantMap device = deviceAt(row);
-    const QString own = device.value(hindranceKey).toString();
+    QString own = device.value(hindranceKey).toString();
     if (!own.isEmpty())
         return own;
     if (!device.value(DeviceRowKey::state, true).toBool())

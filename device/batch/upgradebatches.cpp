@@ -1,6 +1,7 @@
 #include "device/batch/upgradebatches.h"
 
 #include "device/devicefactory.h"
+#include "device/devicerow.h"
 #include "device/upgradetools.h"
 
 #include <QFileInfo>
@@ -64,13 +65,16 @@ QString UpgradeBatches::chooseFile(const QStringList &identities, const QString 
     return tr("%n 台设备不能用此文件升级，请查看结果", "", static_cast<int>(refused));
 }
 
-BatchPlan UpgradeBatches::usualPlan(const QString &title) const
+BatchPlan UpgradeBatches::usualPlan(const QString &title)
 {
     BatchPlan plan = {.family = family, .title = title, .work = QStringLiteral("upgrade")};
     plan.policy = m_batches.usualPolicy();
     plan.policy.atOnce = m_atOnce();
     plan.policy.deadline = {}; // an upgrade has limits of its own
     plan.changesRows = true;
+    plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
+        noteRefusals(outcomes);
+    };
     return plan;
 }
 
@@ -128,6 +132,24 @@ void UpgradeBatches::follow(Batch *batch, Source source)
             Q_EMIT ended(report.succeeded(), report.failed(), report.notDone());
     });
     tellRows();
+}
+
+void UpgradeBatches::noteRefusals(const QList<BatchOutcome> &outcomes)
+{
+    for (const auto &[device, outcome] : outcomes) {
+        const QJsonObject row = m_factory.deviceRow(family, device.identity);
+        const bool wasAsked =
+            row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None) != UpgradeTools::Stopped;
+        for (const UpgradeTools::Result refusal :
+             {UpgradeTools::WrongPassword, UpgradeTools::NoSuchAccount, UpgradeTools::AccountLocked}) {
+            if (wasAsked || UpgradeTools::batchResult(refusal) != outcome.result)
+                continue;
+            m_factory.updataDeviceInfo(family, DeviceRowKey::upgraderes, refusal, device.identity,
+                                       device.ipport);
+            m_factory.updataDeviceInfo(family, DeviceRowKey::upgradetext, UpgradeTools::text(refusal),
+                                       device.identity, device.ipport);
+        }
+    }
 }
 
 void UpgradeBatches::noteProgress(int percent)

@@ -50,9 +50,11 @@ private:
         Document,
     };
 
-    [[nodiscard]] BatchPlan usualPlan(const QString &title) const;
+    [[nodiscard]] BatchPlan usualPlan(const QString &title);
     Batch *begin(BatchPlan plan, Source source);
     void follow(Batch *batch, Source source);
+    /// A device was not asked, since one at the same address had refused the account: its row says so, too.
+    void noteRefusals(const QList<BatchOutcome> &outcomes);
     void noteProgress(int percent);
     void tellRows();
     void noteRoundEnd();

@@ -89,11 +89,11 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
 {
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;
+    sdk::ModifyDeviceInput input{};
     if (record && m_libraries.net) {
         if (sdk::initialisationBits(record->device.initialisationState) ==
             sdk::InitialisationBits::Uninitialised)
             return noteResult(mac, LoginResult::NotInitialised);
-        sdk::ModifyDeviceInput input{};
         input.size = sizeof(input);
         input.device = record->device;
         input.device.dhcpEnabled = dhcpON ? 1 : 0;
@@ -114,8 +114,11 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
         const QStringList parts = row.value(DeviceRowKey::ipport).toString().split(QLatin1Char(':'));
         if (parts.size() == 2)
             row.insert(DeviceRowKey::ipport, QStringLiteral("%1:%2").arg(address, parts.at(1)));
+        row.insert(DeviceRowKey::unconfirmed, result != LoginResult::Success);
     });
     if (record) {
+        if (result == LoginResult::Success && input.size != 0)
+            record->device = input.device; // with its mask, its gateway and how it gets its address
         setText(record->device.address, address);
         store().putRecord(mac, *record);
     }

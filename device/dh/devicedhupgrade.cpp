@@ -346,7 +346,7 @@ void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state
 QStringList CDeviceDH::takeChangedUpgrades()
 {
     const std::lock_guard lock(m_changedUpgradesMutex);
-    const QStringList names = m_changedUpgrades.values();
+    QStringList names = m_changedUpgrades.values();
     m_changedUpgrades.clear();
     return names;
 }

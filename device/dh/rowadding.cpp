@@ -48,19 +48,17 @@ StepOutcome RowAdding::addNew(const DeviceToAdd &device, const StepControl &cont
 StepOutcome RowAdding::addThroughTunnel(const DeviceToAdd &device, const StepControl &control,
                                         const Review &review) const
 {
-    const int localPort = m_ports ? m_ports->portFor(device.address, device.port, 0) : 0;
+    const int localPort = m_ports ? m_ports->claim(device.address, device.port) : 0;
     if (localPort <= 0)
         return noTunnel(m_ports ? m_ports->faultText() : QString());
-    // The port of a device that the table has already, or that is worked with, stays whatever comes of this.
-    const bool inUse = m_ports->isKnown(localPort) ||
-                       !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty();
     int webPort = 0;
     StepOutcome outcome = control.shouldEnd() ? outcomeOf(LoginResult::NotDone)
                                               : logIn(device, localPort, control, review, webPort);
     if (outcome.result == resultCode(LoginResult::Success))
         m_ports->pair(localPort, m_ports->portFor(device.address, webPort, 0));
-    else if (!inUse)
-        m_ports->release(localPort);
+    // The port of a device that the table has, or that others work with, stays whatever came of this.
+    m_ports->giveBack(
+        localPort, [&] { return !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty(); });
     return outcome;
 }
 

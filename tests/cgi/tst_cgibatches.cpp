@@ -62,7 +62,7 @@ private Q_SLOTS:
         row("web port", "10.0.0.1:1", 8080, "s", "OK", "http://10.0.0.1:8080/cgi-bin/a", "OK", 0);
         row("none reported", "10.0.0.1:1", 0, "s", "OK", "http://10.0.0.1:80/cgi-bin/a", "OK", 0);
         row("tunnel", "127.0.0.1:5000", 80, "s", "OK", "http://127.0.0.1:5001/cgi-bin/a", "OK", 0);
-        row("no tunnel", "127.0.0.1:6000", 80, "s", "OK", "", away, commandFailed);
+        row("no tunnel", "127.0.0.1:6000", 80, "s", "OK", "", away, 5);
         row("failed", "10.0.0.1:1", 80, "s", "Error:x", "http://10.0.0.1:80/cgi-bin/a", "Error:x",
             commandFailed);
         row("password", "10.0.0.1:1", 80, "wrong", "OK", "", "Error:账号或密码错误。", wrongPassword);

@@ -148,6 +148,36 @@ private Q_SLOTS:
         QCOMPARE(ports.webPortOf(50001), 0);
     }
 
+    /// Two callers that add the same device get the same port: the first one to fail does not take it away.
+    void aPortThatIsNeededStays_data()
+    {
+        const auto row = dataTable<bool, bool, bool, bool>({"others", "isKnown", "isListed", "stays"});
+        row("nobody needs it", false, false, false, false);
+        row("another caller", true, false, false, true);
+        row("a known device", false, true, false, true);
+        row("a row", false, false, true, true);
+    }
+
+    void aPortThatIsNeededStays()
+    {
+        QFETCH(bool, others);
+        QFETCH(bool, isKnown);
+        QFETCH(bool, isListed);
+        const auto agent = std::make_shared<NotingAgent>();
+        P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
+        const int port = ports.claim("ID", 37777);
+        QVERIFY(port > 0);
+        if (others)
+            agent->existing = {port};
+        if (others)
+            QCOMPARE(ports.claim("ID", 37777), port);
+        if (isKnown)
+            ports.note(port);
+        agent->calls.clear();
+        ports.giveBack(port, [&] { return isListed; });
+        QTEST(agent->calls.isEmpty(), "stays");
+    }
+
     void anAgentThatFailsGivesNoPorts()
     {
         const auto agent = std::make_shared<NotingAgent>();

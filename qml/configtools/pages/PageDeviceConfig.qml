@@ -20,7 +20,7 @@ FocusScope {
     // qmllint enable unqualified
 
     /// Devices to copy to: the ticked ones but for that whose settings are copied.
-    readonly property var targets: Array.from(devices.checkedDevices).filter(device => device !== session.device)
+    readonly property var targets: devices.without(devices.checkedDevices, session.device)
 
     function focusSearch() {
         deviceTree.focusSearch();

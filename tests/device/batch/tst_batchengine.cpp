@@ -1,4 +1,5 @@
 #include "device/batch/batchengine.h"
+#include "device/deviceimport.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
 
@@ -177,6 +178,8 @@ private Q_SLOTS:
         row("right password, next step to come", resultCode(LoginResult::Unknown), 4);
         row("logged in, request refused", 999, 4);
         row("no answer tells nothing", resultCode(LoginResult::NetworkFailure), 3);
+        row("nothing was asked", resultCode(LoginResult::AlreadyListed), 3);
+        row("nothing could be asked", unusableLine, 3);
     }
 
     void wrongPasswordsInARowHoldABatch()

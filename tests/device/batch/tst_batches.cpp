@@ -210,6 +210,24 @@ private Q_SLOTS:
         QCOMPARE(wanted(change("192.168.1.70")), "192.168.1.60");
     }
 
+    /// Also before the device has been queried again.
+    void theWholeOfAChangeIsPutBack()
+    {
+        const QStringList mac(m_devices.at(0).mac);
+        const auto change = [&](const QString &address, const QString &mask, const QString &gateway) {
+            Batch *batch =
+                m_batches->changeAddresses("dh", "Addresses", mac, {address}, mask, gateway, false);
+            return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
+        };
+        change("192.168.5.9", "255.255.0.0", "192.168.0.1");
+        Batch *second = change("192.168.5.10", "255.255.255.0", "192.168.5.1");
+        Batch *back = m_batches->putAddressesBack(second, "Back", mac);
+        QTRY_VERIFY(!back->isRunning());
+        const auto device = m_site->site->device(mac.first());
+        QCOMPARE(QStringList({device->address, device->mask, device->gateway}),
+                 QStringList({"192.168.5.9", "255.255.0.0", "192.168.0.1"}));
+    }
+
     /// It was reached: nothing says that its next try fails as well.
     void aDeviceThatGoesAfterItsLoginMayBeTriedAgain()
     {
