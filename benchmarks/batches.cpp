@@ -75,8 +75,8 @@ QList<Figure> measureBatches()
     time.start();
     Batch *batch = batches.configureSystem(family, command, command, data, ipports);
     QObject::connect(batch, &Batch::resulted, &tree,
-                     [&tree](const QStringList &devices, const QList<int> &results) {
-                         tree.takeResults(devices, results, {});
+                     [&tree](const QStringList &done, const QList<int> &results) {
+                         tree.takeResults(done, results, {});
                      });
     QObject::connect(batch, &Batch::finished, &loop, &QEventLoop::quit);
     QElapsedTimer sinceTurn;

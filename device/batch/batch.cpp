@@ -122,7 +122,7 @@ Batch::~Batch()
 
 DeviceStep Batch::preparedStep(const BatchDevice &device, const std::shared_ptr<std::once_flag> &flag) const
 {
-    const DeviceStep step = m_plan.stepOf(device);
+    DeviceStep step = m_plan.stepOf(device);
     if (!m_plan.preparation)
         return step;
     return [step, flag, prepare = m_plan.preparation](const StepControl &control) {

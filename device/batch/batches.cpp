@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <ranges>
 #include <utility>
 
 namespace {
@@ -178,12 +177,11 @@ std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &ide
     const QJsonObject row = m_factory.deviceRow(QStringLiteral("dh"), identity);
     if (!row.value(DeviceRowKey::unconfirmed).toBool()) // it was found again meanwhile
         return std::nullopt;
-    for (const Batch *batch : std::ranges::reverse_view(m_kept)) { // the last one first
-        const auto before = batch->plan().addressesBefore.constFind(identity);
-        if (before != batch->plan().addressesBefore.cend())
-            return *before;
-    }
-    return std::nullopt;
+    const auto last = std::find_if(m_kept.crbegin(), m_kept.crend(), [&identity](const Batch *batch) {
+        return batch->plan().addressesBefore.contains(identity);
+    });
+    return last == m_kept.crend() ? std::nullopt
+                                  : std::optional((*last)->plan().addressesBefore.value(identity));
 }
 
 Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,

@@ -205,7 +205,7 @@ QVariantList SessionRun::getDeviceChannelData(const QString &key, int channelNum
     if (count == 0)
         return {};
     if (key == QLatin1String("channelNames")) {
-        const QVariantList names = m_state.names.names(count);
+        QVariantList names = m_state.names.names(count);
         if (m_state.names.isDeviceAway())
             noteResult(deviceAway);
         return names;
