@@ -74,10 +74,9 @@ QList<Figure> measureBatches()
     QElapsedTimer time;
     time.start();
     Batch *batch = batches.configureSystem(family, command, command, data, ipports);
-    QObject::connect(batch, &Batch::resulted, &tree,
-                     [&tree](const QStringList &done, const QList<int> &results) {
-                         tree.takeResults(done, results, {});
-                     });
+    QObject::connect(
+        batch, &Batch::resulted, &tree,
+        [&tree](const QStringList &done, const QList<int> &results) { tree.takeResults(done, results, {}); });
     QObject::connect(batch, &Batch::finished, &loop, &QEventLoop::quit);
     QElapsedTimer sinceTurn;
     qint64 longestTurn = 0;
