@@ -71,7 +71,7 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
 
 std::shared_ptr<UpgradeRunner::Upgrade> UpgradeRunner::enter(const UpgradeOrder &order)
 {
-    const auto upgrade = std::make_shared<Upgrade>();
+    auto upgrade = std::make_shared<Upgrade>();
     upgrade->order = order;
     upgrade->state.text = UpgradeTools::text(UpgradeTools::Waiting);
     {
