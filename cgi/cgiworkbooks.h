@@ -25,8 +25,8 @@ public:
     Q_INVOKABLE void read(const QString &path);
 
     /// Sends the commands of the workbook that was read, of the lines with these names; those for one device
-    /// in their order. Returns the batch, or null when it does not begin. The scene does not own it. What is
-    /// to be told to the user comes by ended(), when the results are in the file.
+    /// in their order. Returns the batch, or null when it does not begin. The scene does not own it. When the
+    /// results are in the file, ended() follows with a message for the user.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:

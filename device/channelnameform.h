@@ -8,7 +8,7 @@
 
 /// One row for each channel. What the user types stays here until it is written, each channel for itself.
 /// Roles are those of DialogRows; "identity" is the channel's number. Asks no device: the page does what
-/// writeRequested() asks for and tells what came of it. Lives on the scene's thread.
+/// writeRequested() asks for and reports the result. Lives on the scene's thread.
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     enum Trouble
     {
         None,
-        Unknown,    ///< the device does not tell the name
+        Unknown,    ///< the device does not report the name
         Empty,      ///< a name is needed
         TooLong,    ///< in bytes
         Refused,    ///< by the device, at the last write
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] int failedCount() const;
     [[nodiscard]] int untoldCount() const;
 
-    /// Takes the names as they were read, null for one that the device does not tell, and which channels have
+    /// Takes the names as they were read, null for one that is not reported, and which channels have
     /// a camera. What was changed and not written is gone.
     Q_INVOKABLE void load(const QVariantList &names, const QVariantList &connected);
 
@@ -64,8 +64,8 @@ public:
     Q_INVOKABLE void save();
 
     /// What has come of the writing of a row's name: `result` is 0, a LoginResult, or another code of a
-    /// refusal. `name` is what the device has now, null when it does not tell. A saving goes on with the next
-    /// row.
+    /// refusal. `name` is what the device has now, null when it is not reported. A saving goes on with the
+    /// next row.
     Q_INVOKABLE void takeWritten(int row, int result, const QVariant &name);
 
     /// Leaves out the names that are not written yet. The saving ends with the name that is being written.

@@ -195,13 +195,13 @@ public:
 
     // Upgrades. Rows are named by MAC, or by address and port where they have none.
 
-    /// Of startUpgrade(). The row tells from now on that it waits, and then how far the upgrade is; one that
+    /// Of startUpgrade(). The row shows from now on that it waits, and then how far the upgrade is; one that
     /// stopUpgrade() stops, or whose step goes without having been run, is stopped.
     virtual DeviceStep upgradeStep(const QString &mac);
     /// Of startUpgradeByDocument(), for those of the document's lines that have these numbers. A line that
     /// cannot be upgraded has a step that says so. Empty for a document that is refused.
     virtual QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines);
-    /// What upgradeStep() would do with each of these rows, by what the rows and their files tell.
+    /// What upgradeStep() would do with each of these rows, by what the rows and their files contain.
     virtual QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs);
     /// setUpgradeFilePath() for many rows, which looks at the file once. Returns what speaks against the
     /// upgrade of each, an UpgradeTools::Result.

@@ -8,3 +8,12 @@ QVariantMap importFailure(const ImportPlace &place, const StepOutcome &outcome)
             {QStringLiteral("code"), code},
             {QStringLiteral("reason"), outcome.text.isEmpty() ? resultName(code) : outcome.text}};
 }
+
+DeviceToAdd deviceToAdd(const QVariantMap &values)
+{
+    return {.address = values.value(QStringLiteral("address")).toString(),
+            .port = values.value(QStringLiteral("port")).toInt(),
+            .account = values.value(QStringLiteral("account")).toString(),
+            .password = values.value(QStringLiteral("password")).toString(),
+            .p2p = values.value(QStringLiteral("mode")).toInt() != 0};
+}

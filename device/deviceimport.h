@@ -18,6 +18,10 @@ struct DeviceToAdd
     bool p2p = false;
 };
 
+/// The device that a map of the scene describes: "mode" (0 by address, 1 by P2P ID), "address", "port",
+/// "account" and "password".
+[[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
+
 /// Where a line of a device list stands and leads, for the user.
 struct ImportPlace
 {

@@ -6,15 +6,6 @@ namespace {
 
 const QString family = QStringLiteral("dh");
 
-DeviceToAdd deviceOf(const QVariantMap &values)
-{
-    return {.address = values.value(QStringLiteral("address")).toString(),
-            .port = values.value(QStringLiteral("port")).toInt(),
-            .account = values.value(QStringLiteral("account")).toString(),
-            .password = values.value(QStringLiteral("password")).toString(),
-            .p2p = values.value(QStringLiteral("mode")).toInt() != 0};
-}
-
 } // namespace
 
 DeviceWork::~DeviceWork()
@@ -51,19 +42,19 @@ void DeviceWork::addDevice(const QVariantMap &device)
     if (!m_deviceFactory)
         return;
     CDeviceFactory *factory = m_deviceFactory; // outlives the threads of its back ends
-    begin(
-        [factory, step = m_deviceFactory->addingStep(family, deviceOf(device))](const StepControl &control) {
-            const StepOutcome outcome = step(control);
-            if (outcome.result == resultCode(LoginResult::Success)) {
-                QMetaObject::invokeMethod(factory, &CDeviceFactory::releaseUnneededP2PPorts,
-                                          Qt::QueuedConnection);
-                QMetaObject::invokeMethod(factory, &CDeviceFactory::signalAddSingleDeviceToTable,
-                                          Qt::QueuedConnection);
-            }
-            return SceneOutcome{.value = QVariantMap{{QStringLiteral("result"), outcome.result},
-                                                     {QStringLiteral("text"), outcome.text}},
-                                .take = {}};
-        });
+    begin([factory,
+           step = m_deviceFactory->addingStep(family, deviceToAdd(device))](const StepControl &control) {
+        const StepOutcome outcome = step(control);
+        if (outcome.result == resultCode(LoginResult::Success)) {
+            QMetaObject::invokeMethod(factory, &CDeviceFactory::releaseUnneededP2PPorts,
+                                      Qt::QueuedConnection);
+            QMetaObject::invokeMethod(factory, &CDeviceFactory::signalAddSingleDeviceToTable,
+                                      Qt::QueuedConnection);
+        }
+        return SceneOutcome{.value = QVariantMap{{QStringLiteral("result"), outcome.result},
+                                                 {QStringLiteral("text"), outcome.text}},
+                            .take = {}};
+    });
 }
 
 void DeviceWork::begin(const SceneStep &step)
@@ -87,7 +78,7 @@ void DeviceWork::end(int number, const SceneOutcome &outcome)
     if (outcome.take)
         outcome.take();
     m_isTaking = false;
-    if (number != m_number) // what was told has led to other work
+    if (number != m_number) // a handler of the signals has begun other work
         return;
     setRunning(false);
     Q_EMIT ended(outcome.value);

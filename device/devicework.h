@@ -16,10 +16,10 @@ class CDeviceFactory;
 /// without anybody waiting for it; its results are dropped, and a login that it has made is logged out.
 ///
 /// Nothing here blocks its caller, and no lock is held over a request. Work on the current session uses a
-/// copy of what is known of the device. Until its end the factory's getters tell what was known before; then,
-/// in one turn of the event loop, the results take their place, the factory emits all signals of the work in
-/// their order, and ended() follows. Work for one page that is to be done in a row is begun in a handler of
-/// ended().
+/// copy of what is known of the device. Until its end the factory's getters return what was known before;
+/// then, in one turn of the event loop, the results take their place, the factory emits all signals of the
+/// work in their order, and ended() follows. Work for one page that is to be done in a row is begun in a
+/// handler of ended().
 ///
 /// Lives on the scene's thread.
 class DeviceWork : public QObject
@@ -37,13 +37,14 @@ public:
     void setDeviceFactory(CDeviceFactory *deviceFactory);
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// Logs in to a device and asks it for everything that it tells of itself; the value is what the
+    /// Logs in to a device and requests everything that it reports of itself; the value is what the
     /// factory's readDeviceDetail() returns.
     Q_INVOKABLE void readDetail(const QString &ipport);
 
     /// Logs in to a device and adds its row: "mode" (0 by address, 1 by P2P ID), "address", "port", "account"
     /// and "password". The value is a map of "result" (a LoginResult) and "text", in the user's language,
-    /// where there is more to say. A row that was added although the work was cancelled is told as any other.
+    /// where there is more to say. A row that was added before the cancellation took effect is reported like
+    /// any other new row.
     Q_INVOKABLE void addDevice(const QVariantMap &device);
 
     /// Drops what runs: ended() does not come.

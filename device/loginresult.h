@@ -41,7 +41,7 @@ enum class LoginResult : int
 
 inline constexpr int upgradeFileUnusable = 992; ///< nothing was sent
 inline constexpr int upgradeFailed = 993;       ///< the device gave it up, has not come back, or is as before
-inline constexpr int upgradeUnconfirmed = 994;  ///< the device is back, and its version does not tell
+inline constexpr int upgradeUnconfirmed = 994;  ///< the device is back, and its version proves nothing
 inline constexpr int deviceBusy = 995;
 
 /// The result of a snapshot whose channel has no camera, or whose file cannot be written.

@@ -132,7 +132,7 @@ int P2PPorts::portFor(const QString &deviceId, int devicePort, int wish)
     if (!m_library)
         return 0;
     const std::lock_guard lock(m_requestMutex);
-    return portForLocked(deviceId, devicePort, wish);
+    return findOrAddPort(deviceId, devicePort, wish);
 }
 
 int P2PPorts::claim(const QString &deviceId, int devicePort)
@@ -140,7 +140,7 @@ int P2PPorts::claim(const QString &deviceId, int devicePort)
     if (!m_library)
         return 0;
     const std::lock_guard lock(m_requestMutex);
-    const int port = portForLocked(deviceId, devicePort, 0);
+    const int port = findOrAddPort(deviceId, devicePort, 0);
     if (port > 0)
         ++m_claims[port];
     return port;
@@ -156,7 +156,7 @@ void P2PPorts::giveBack(int localPort, const std::function<bool()> &isListed)
         release(localPort);
 }
 
-int P2PPorts::portForLocked(const QString &deviceId, int devicePort, int wish)
+int P2PPorts::findOrAddPort(const QString &deviceId, int devicePort, int wish)
 {
     std::array<std::int32_t, sdk::maximumLocalPorts> ports{};
     std::int32_t count = 0;

@@ -47,7 +47,8 @@ public:
     /// so that two for the same device get the same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
 
-    /// The same without a wish, for a caller that works with the port until it gives it back.
+    /// A local port as portFor() gives it when none is requested. It stays until each caller has given it
+    /// back.
     [[nodiscard]] int claim(const QString &deviceId, int devicePort);
 
     /// Removes the mapping of a port that was claimed, unless another caller has claimed it too, a device is
@@ -80,7 +81,8 @@ public:
     void releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded);
 
 private:
-    [[nodiscard]] int portForLocked(const QString &deviceId, int devicePort, int wish);
+    /// Of portFor(), with m_requestMutex held.
+    [[nodiscard]] int findOrAddPort(const QString &deviceId, int devicePort, int wish);
     [[nodiscard]] int addPort(const QString &deviceId, int devicePort, int localPort);
 
     const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null when the agent could not be started

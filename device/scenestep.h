@@ -24,7 +24,7 @@ using SceneStep = std::function<SceneOutcome(const StepControl &control)>;
 
 /// The operations of the back end on the current session, for work on any thread. Each does the requests of
 /// the operation of its name. They work on a copy of what is known of the device, which takes its place when
-/// the outcome is taken; what they are to tell is told then.
+/// the outcome is taken; their signals are emitted then.
 class SessionOperations
 {
 public:

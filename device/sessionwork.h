@@ -3,7 +3,7 @@
 #include "device/devicework.h"
 
 /// Work of the configuration page on the current session. Each piece does the factory's operations of the
-/// same requests; what they tell is told by the factory before ended().
+/// same requests; the factory emits their signals before ended().
 class SessionWork : public DeviceWork
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     Q_INVOKABLE void writeEncodeValue(const QString &key, const QVariant &value);
     Q_INVOKABLE void saveEncoding();
 
-    /// `channel` is -1 for the one that was chosen before. The value tells for each channel whether it has a
+    /// `channel` is -1 for the one that was chosen before. The value holds for each channel whether it has a
     /// camera; empty when the device did not answer.
     Q_INVOKABLE void readImage(int channel);
     Q_INVOKABLE void chooseImageMode(int place);
@@ -31,7 +31,7 @@ public:
     /// The value is a map of "names" and "connected", as getDeviceChannelData() gives them.
     Q_INVOKABLE void readNames();
     /// Writes the name of a channel (from 0) and reads it back. The value is a map of "result" and "name",
-    /// which is null when the device does not tell it.
+    /// which is null when the device does not report it.
     Q_INVOKABLE void writeName(int channel, const QString &name);
 
 Q_SIGNALS:

@@ -11,7 +11,7 @@ struct PlannedUpgrade
 {
     UpgradeTools::Result refusal = UpgradeTools::NoFile; ///< why it will do nothing; None when it will
     QString file;                                        ///< of the row
-    QString version;                                     ///< of the file; empty when that does not tell
+    QString version;                                     ///< of the file; empty when it is not known
 };
 
 /// A line of an upgrade document, and the upgrade of its device.

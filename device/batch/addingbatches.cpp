@@ -18,16 +18,6 @@ bool isSuccess(const StepOutcome &outcome)
     return outcome.result == resultCode(LoginResult::Success);
 }
 
-/// A device as the scene names it.
-DeviceToAdd deviceOf(const QVariantMap &values)
-{
-    return {.address = values.value(QStringLiteral("address")).toString(),
-            .port = values.value(QStringLiteral("port")).toInt(),
-            .account = values.value(QStringLiteral("account")).toString(),
-            .password = values.value(QStringLiteral("password")).toString(),
-            .p2p = values.value(QStringLiteral("mode")).toInt() != 0};
-}
-
 } // namespace
 
 AddingBatches::AddingBatches(CDeviceFactory &factory, Batches &batches, QObject *parent)
@@ -119,7 +109,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
     QHash<std::pair<QString, QString>, qsizetype> accounts; // a number stands for each: it is no secret
     for (const QVariant &value : devices) {
         const QVariantMap values = value.toMap();
-        const DeviceToAdd target = deviceOf(values);
+        const DeviceToAdd target = deviceToAdd(values);
         BatchDevice device =
             batchDevice(m_factory, family, QStringLiteral("%1:%2").arg(target.address).arg(target.port));
         const QString identity = values.value(QStringLiteral("identity")).toString();

@@ -279,7 +279,7 @@ void Batch::takeNews()
         results.append(entry.outcome.result);
     }
     m_report.note(devices, results);
-    tell(outcomes);
+    deliver(outcomes);
     m_isHeld = m_isHeld || news.isHeld;
     if (!devices.isEmpty())
         Q_EMIT resulted(devices, results);
@@ -289,7 +289,7 @@ void Batch::takeNews()
         Q_EMIT changed();
 }
 
-void Batch::tell(const QList<BatchOutcome> &outcomes) const
+void Batch::deliver(const QList<BatchOutcome> &outcomes) const
 {
     if (m_plan.takeOutcomes && !outcomes.isEmpty())
         m_plan.takeOutcomes(outcomes);
@@ -305,7 +305,7 @@ void Batch::finish()
         if (!entry.time.isValid())
             outcomes.append({.device = entry.device, .outcome = entry.outcome});
     }
-    tell(outcomes);
+    deliver(outcomes);
     const QStringList notDone = m_report.devicesWith(BatchReport::NotDone);
     if (!notDone.isEmpty())
         Q_EMIT resulted(notDone, QList<int>(notDone.size(), BatchReport::NotDone));

@@ -120,7 +120,7 @@ private:
     [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
                                           const std::shared_ptr<std::once_flag> &flag) const;
     void takeNews();
-    void tell(const QList<BatchOutcome> &outcomes) const;
+    void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
     void finish();
 
     BatchEngine &m_engine;

@@ -213,7 +213,7 @@ StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
         const std::lock_guard lock(m_mutex);
         const auto refusal = batch.refusals.constFind({taken.item.device, taken.item.login});
         if (refusal != batch.refusals.cend()) {
-            taken.item.step = nullptr; // what its end leaves behind comes before the outcome is told
+            taken.item.step = nullptr; // its destruction writes the row, which comes before finished()
             return *refusal;
         }
     }

@@ -11,12 +11,12 @@ class UpgradeBatches : public QObject
 {
     Q_OBJECT
 public:
-    /// `factory` and `batches` live longer than this. `atOnce` tells how many devices are upgraded at the
+    /// `factory` and `batches` live longer than this. `atOnce` returns how many devices are upgraded at the
     /// same time.
     UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> atOnce,
                    QObject *parent = nullptr);
 
-    /// Gives the devices of these rows a file. Returns what is to be told to the user, in his language; empty
+    /// Gives the devices of these rows a file. Returns a message for the user, in the user's language; empty
     /// when all of them can be upgraded with it.
     Q_INVOKABLE [[nodiscard]] QString chooseFile(const QStringList &identities, const QString &path);
 
@@ -40,7 +40,7 @@ Q_SIGNALS:
     /// Of a batch of listed devices, or a retry: how many were upgraded, failed, or were stopped before.
     void ended(int upgraded, int failed, int notDone);
 
-    /// The results of the document are in its file. `text` tells the user so.
+    /// The results of the document are in its file. `text` is a message for the user.
     void documentEnded(const QString &text, bool hasSuccess);
 
 private:
@@ -64,5 +64,5 @@ private:
     const std::function<int()> m_atOnce;
     QPointer<Batch> m_batch;       ///< the last one
     bool m_isDocumentOpen = false; ///< its results are to come
-    QTimer m_news;                 ///< runs from a change of a row until the pages are told
+    QTimer m_news;                 ///< runs from a change of a row until rowsChanged()
 };

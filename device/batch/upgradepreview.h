@@ -34,7 +34,7 @@ private:
     {
         QString device;  ///< its version
         QString file;    ///< without the folder
-        QString version; ///< of the file; empty when that does not tell
+        QString version; ///< of the file; empty when it is not known
         int refusal = UpgradeTools::None;
         int line = 0; ///< of a document
     };

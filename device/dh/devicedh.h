@@ -245,7 +245,7 @@ private:
     /// Follows a line of the document that was added last. Returns why it is not upgraded, None when it is.
     [[nodiscard]] UpgradeTools::Result followLine(const UpgradeDocumentLine &line, const UpgradeOrder &order,
                                                   const QJsonObject &row, FirmwareFiles &files);
-    /// What is to be told when the lines of documents have begun.
+    /// Emits the signals that follow the begin of a document's lines.
     void noteDocumentsBegun();
     void noteUpgrade(const UpgradeOrder &order, const UpgradeState &state);
     /// Says how far the upgrades are, once however often it is called before. On any thread.

@@ -136,7 +136,7 @@ void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
         noteResult(outcome.result);
 }
 
-// The camera image page. Failures are told after what the page is to show.
+// The camera image page. Failures are reported after the values that the page shows.
 
 void SessionRun::getCameraConfig()
 {
@@ -194,7 +194,7 @@ int SessionRun::askedChannels(int wanted) const
 {
     if (!m_state.session.isOpen())
         return 0;
-    // One that tells of no channels has one.
+    // A device that reports no channels has one.
     const int all = std::clamp(m_state.channels.channelCount, 1, ChannelNames::maximumChannels);
     return wanted > 0 ? std::min(wanted, all) : all;
 }

@@ -9,13 +9,13 @@
 
 class CDeviceBase;
 
-/// Does the operations on one state, on any thread, and collects what they are to tell. Blocks for the waits
+/// Does the operations on one state, on any thread, and collects their signals. Blocks for the waits
 /// of the library.
 class SessionRun final : public SessionOperations
 {
 public:
-    /// `isUpgrading` tells, on any thread, whether the firmware of the device is being upgraded. `state` must
-    /// outlive this object.
+    /// `isUpgrading` returns, on any thread, whether the firmware of the device is being upgraded. `state`
+    /// must outlive this object.
     SessionRun(SessionState &state, std::function<bool()> isUpgrading);
 
     void getEncodeCaps() override;
@@ -33,12 +33,12 @@ public:
     /// A signal of a back end, with its arguments.
     using News = std::function<void(CDeviceBase &backEnd)>;
 
-    /// What the operations are to tell, in their order. They are forgotten.
+    /// The signals of the operations in their order. They are returned once.
     [[nodiscard]] std::vector<News> takeNews();
 
 private:
     void note(const News &news);
-    /// A result as signalCDeviceGetDeviceCapRet tells it.
+    /// A result as signalCDeviceGetDeviceCapRet reports it.
     void noteResult(int result);
     void noteUpgrading();
     void setEncodeValue(const QString &key, const QVariant &value);

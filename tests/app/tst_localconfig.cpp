@@ -93,7 +93,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir memory("/dev/shm/localconfig-XXXXXX");
         if (!memory.isValid())
-            QSKIP("there is no file system in memory");
+            QSKIP("there is no file system in memory"); // only there do two writes get the same time
         CLocalConfig config(memory.path());
         for (const char *language : {"fr_FR", "de_DE", "es_ES", "it_IT", "nl_NL"}) {
             config.setLanguage(language);

@@ -1,4 +1,4 @@
-// What the upgrade page does with its devices: the file, the question, and what is told at the end.
+// What the upgrade page does with its devices: the file, the question, and the notices at the end.
 #include "device/batch/upgradebatches.h"
 #include "device/devicetablemodel.h"
 #include "tests/device/dh/upgradesite.h"
