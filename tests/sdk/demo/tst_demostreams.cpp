@@ -1,9 +1,12 @@
-// What simulated channels stream, as a decoder sees it, and how streams end.
+// How the streams of simulated channels end.
+#include "sdk/streamblocks.h"
 #include "tests/datatable.h"
-#include "tests/sdk/demo/streamreader.h"
-#include "tests/sdk/demo/streamsite.h"
+#include "tests/sdk/demo/testsite.h"
+
+#include <QJsonArray>
 
 #include <atomic>
+#include <functional>
 #include <future>
 #include <thread>
 
@@ -14,15 +17,63 @@ using namespace sdk::demo;
 
 namespace {
 
-/// How often samples cross zero upwards, in a second.
-double pitchOf(const DecodedStream &stream)
+/// Keeps the data that it gets, on any thread.
+class Watcher
 {
-    int crossings = 0;
-    for (qsizetype place = 1; place < stream.samples.size(); ++place)
-        crossings += stream.samples[place - 1] < 0 && stream.samples[place] >= 0 ? 1 : 0;
-    return crossings * static_cast<double>(stream.samplingFrequency) /
-           static_cast<double>(stream.samples.size());
+public:
+    static void handle(std::int64_t, std::uint32_t, const std::uint8_t *data, std::uint32_t size,
+                       std::int64_t /*parameter*/, void *user)
+    {
+        auto *watcher = static_cast<Watcher *>(user);
+        const std::lock_guard lock(watcher->m_mutex);
+        watcher->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    }
+
+    [[nodiscard]] QByteArray bytes() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_bytes;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    QByteArray m_bytes;
+};
+
+/// A camera whose streams are small, so that they are quickly encoded.
+SceneDevice smallCamera(int channels)
+{
+    SceneDevice device = camera(1, 0ms);
+    device.channels.resize(channels);
+    const QJsonObject small = {{u"sizes"_s, QJsonArray{u"352*288"_s}}};
+    device.capabilities = {{u"encode"_s, QJsonObject{{u"main"_s, small}, {u"sub"_s, small}}}};
+    return device;
 }
+
+/// A site with a session to a small camera, whose pictures come by steps of the clock.
+struct StreamSite : TestSite
+{
+    explicit StreamSite(const SceneDevice &device)
+        : TestSite({device}), login(*net, device.address, device.port)
+    {
+    }
+
+    std::int64_t watch(Watcher &watcher) const
+    {
+        const std::int64_t handle = net->NetStartRealStream(login.handle, 0, 0, LiveStreamKind::Main);
+        return handle != 0 && net->NetSetRealDataCallback(handle, &Watcher::handle, &watcher, 1) ? handle : 0;
+    }
+
+    /// Lets the next picture come.
+    void step() const
+    {
+        QVERIFY(clock->waitForWaiters(1));
+        clock->advance(40ms);
+        QVERIFY(clock->waitForWaiters(1));
+    }
+
+    Login login;
+};
 
 /// Says whether a handler ran that had been promised not to run.
 struct PromiseWatcher
@@ -52,145 +103,6 @@ class StreamsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aStreamIsAsItIsSet_data()
-    {
-        const auto row =
-            dataTable<int, QSize, int, int, int>({"compression", "size", "codec", "colours", "range"});
-        const QSize small(352, 288);
-        const QSize large(1280, 720);
-        row("H.264", 7, small, int(AV_CODEC_ID_H264), int(AVCOL_SPC_SMPTE170M), int(AVCOL_RANGE_MPEG));
-        row("H.264, large", 7, large, int(AV_CODEC_ID_H264), int(AVCOL_SPC_BT709), int(AVCOL_RANGE_MPEG));
-        row("H.265", 8, small, int(AV_CODEC_ID_HEVC), int(AVCOL_SPC_SMPTE170M), int(AVCOL_RANGE_MPEG));
-        row("H.265, large", 8, large, int(AV_CODEC_ID_HEVC), int(AVCOL_SPC_BT709), int(AVCOL_RANGE_MPEG));
-        row("MJPEG", 5, large, int(AV_CODEC_ID_MJPEG), int(AVCOL_SPC_BT470BG), int(AVCOL_RANGE_JPEG));
-        row("a codec of old devices", 0, small, int(AV_CODEC_ID_H264), int(AVCOL_SPC_SMPTE170M),
-            int(AVCOL_RANGE_MPEG));
-    }
-
-    void aStreamIsAsItIsSet()
-    {
-        QFETCH(int, compression);
-        QFETCH(QSize, size);
-        QFETCH(int, codec);
-        QFETCH(int, colours);
-        QFETCH(int, range);
-        const StreamSite site(smallCamera(1));
-        site.change<VideoFormatItem>(EncodeItem::VideoFormat, [&](VideoFormatItem &item) {
-            item.compression = compression;
-            item.width = size.width();
-            item.height = size.height();
-            item.bitRate = 1024;
-            item.frameRate = 25;
-        });
-        Watcher watcher;
-        const std::int64_t handle = site.watch(watcher);
-        QVERIFY(handle != 0);
-        constexpr int pictures = 60;
-        site.step(pictures);
-        QVERIFY(site.net->NetStopRealStream(handle));
-        QVERIFY(watcher.isPlain());
-        QCOMPARE(watcher.handles(), QSet<std::int64_t>{handle});
-        QVERIFY(watcher.largestPiece() <= 16384);
-
-        const QList<DecodedStream> streams = decodedStreams(watcher.bytes());
-        QCOMPARE(streams.size(), 1);
-        const DecodedStream &stream = streams.first();
-        QCOMPARE(int(stream.pictureCodec), codec);
-        QCOMPARE(int(stream.colours), colours);
-        QCOMPARE(int(stream.range), range);
-        QCOMPARE(stream.pictures.size(), pictures + 1); // the first one came without a step
-        QVERIFY(stream.pictures.first().isKey);
-        QVERIFY(stream.pictures.at(50).isKey);
-        for (qsizetype place = 0; place < stream.pictures.size(); ++place) {
-            QCOMPARE(stream.pictures.at(place).size, size);
-            QCOMPARE(stream.pictures.at(place).time, place * pictureTime.count());
-            if (place > 0)
-                QVERIFY(stream.pictures.at(place).luma != stream.pictures.at(place - 1).luma);
-        }
-        const double limit =
-            codec == AV_CODEC_ID_MJPEG ? 12000 : 1200; // JPEG cannot get below a certain size
-        const double kilobits = stream.pictureBytes * 8.0 / pictures * 25 / 1000;
-        QVERIFY2(kilobits < limit, qPrintable(QString::number(kilobits)));
-        QVERIFY(difference(stream.pictures.first().luma, stream.pictures.last().luma) < 20);
-        constexpr int greys = 11; // in a row below the bars of colours
-        for (int grey = 0; grey < greys; ++grey) {
-            const int x = size.width() * (150 + 700 * (2 * grey + 1) / (2 * greys)) / 1000;
-            const int y = size.height() * 285 / 1000;
-            const double value = 255.0 * grey / (greys - 1);
-            const double level = range == AVCOL_RANGE_JPEG ? value : 16 + value * 219 / 255;
-            const auto shown =
-                static_cast<std::uint8_t>(stream.pictures.last().luma.at(y * size.width() + x));
-            QVERIFY2(std::abs(shown - level) < 6, qPrintable(QStringLiteral("%1: %2").arg(level).arg(shown)));
-        }
-    }
-
-    void soundIsAsItIsSet_data()
-    {
-        // format: as configurations number it; 0 for none
-        const auto row = dataTable<int, int, int>({"format", "frequency", "codec"});
-        row("G.711A", 1, 8000, int(AV_CODEC_ID_PCM_ALAW));
-        row("PCM", 2, 8000, int(AV_CODEC_ID_PCM_S16LE));
-        row("G.711Mu", 3, 16000, int(AV_CODEC_ID_PCM_MULAW));
-        row("AAC", 5, 16000, int(AV_CODEC_ID_AAC));
-        row("AAC, slow", 5, 8000, int(AV_CODEC_ID_AAC));
-        row("off", 0, 8000, int(AV_CODEC_ID_NONE));
-    }
-
-    void soundIsAsItIsSet()
-    {
-        QFETCH(int, format);
-        QFETCH(int, frequency);
-        QFETCH(int, codec);
-        const StreamSite site(smallCamera(2));
-        site.change<AudioCompressionItem>(EncodeItem::AudioCompression, [&](AudioCompressionItem &item) {
-            item.audioEnable = format > 0 ? 1 : 0;
-            item.format = format > 0 ? format : item.format;
-        });
-        site.change<AudioFormatItem>(EncodeItem::AudioFormat,
-                                     [&](AudioFormatItem &item) { item.samplingFrequency = frequency; });
-        Watcher watcher;
-        Watcher neighbour;
-        QVERIFY(site.watch(watcher) != 0 && site.watch(neighbour, 1) != 0);
-        constexpr int pictures = 50;
-        site.step(pictures, 2);
-        const DecodedStream stream = decodedStreams(watcher.bytes()).value(0);
-        QCOMPARE(int(stream.soundCodec), codec);
-        QCOMPARE(stream.pictures.size(), pictures + 1);
-        if (codec == AV_CODEC_ID_NONE)
-            return;
-        QCOMPARE(stream.samplingFrequency, frequency);
-        const qsizetype missing = frequency * 2 - stream.samples.size();
-        QVERIFY2(missing >= 0 && missing < 3 * 1024, qPrintable(QString::number(missing)));
-        const double loudest = *std::max_element(stream.samples.begin(), stream.samples.end());
-        QVERIFY2(loudest > 0.03 && loudest < 0.3, qPrintable(QString::number(loudest)));
-        QVERIFY2(std::abs(pitchOf(stream) - 220) < 10, qPrintable(QString::number(pitchOf(stream))));
-        QVERIFY(pitchOf(decodedStreams(neighbour.bytes()).value(0)) > 235);
-    }
-
-    void aChangeOfSettingsChangesTheRunningStream()
-    {
-        const StreamSite site(smallCamera(1));
-        Watcher watcher;
-        QVERIFY(site.watch(watcher) != 0);
-        site.step(9);
-        site.change<VideoFormatItem>(EncodeItem::VideoFormat, [](VideoFormatItem &item) {
-            item.compression = 8;
-            item.width = 640;
-            item.height = 480;
-            item.frameRate = 12.5F;
-        });
-        site.step(10); // five pictures of the new rate
-        const QList<DecodedStream> streams = decodedStreams(watcher.bytes());
-        QCOMPARE(streams.size(), 2);
-        QCOMPARE(streams[0].pictures.size(), 10);
-        QCOMPARE(streams[0].pictures.last().size, QSize(352, 288));
-        QCOMPARE(streams[1].pictureCodec, AV_CODEC_ID_HEVC);
-        QCOMPARE(streams[1].pictures.size(), 5);
-        QCOMPARE(streams[1].pictures.first().size, QSize(640, 480));
-        QVERIFY(streams[1].pictures.first().isKey);
-        QCOMPARE(streams[1].pictures.last().time, 4 * 80);
-    }
-
     void streamsEndWithWhatTheyComeFrom_data()
     {
         using End = std::function<void(const StreamSite &)>;
@@ -229,9 +141,10 @@ private Q_SLOTS:
         const StreamSite site(smallCamera(3));
         Watcher watcher;
         const std::int64_t handle = site.watch(watcher);
-        site.step(1);
+        const qsizetype first = watcher.bytes().size();
+        site.step();
         const QByteArray before = watcher.bytes();
-        QCOMPARE(decodedStreams(before).value(0).pictures.size(), 2);
+        QVERIFY(before.size() > first);
         end(site);
         site.clock->advance(30s);                       // beyond a reboot as well
         QVERIFY(!site.clock->waitForWaiters(1, 100ms)); // nothing runs any more

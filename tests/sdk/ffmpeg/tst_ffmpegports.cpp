@@ -1,8 +1,6 @@
 // Ports: their states, their buffers, and when handlers run.
 #include "tests/sdk/ffmpeg/testport.h"
 
-#include <QDir>
-
 #include <atomic>
 #include <future>
 
@@ -13,11 +11,6 @@ using namespace std::chrono_literals;
 namespace {
 
 const PictureFormat mjpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
-
-qsizetype threads()
-{
-    return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
-}
 
 const std::uint8_t *bytesOf(const QByteArray &bytes)
 {
@@ -148,37 +141,6 @@ private Q_SLOTS:
         QVERIFY(port.library.DecoderCloseStream(port.number));
         port.receiver.onDelivery();
         QCOMPARE(gone, 0);
-    }
-
-    void hundredStartsLeaveNothing()
-    {
-        LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360},
-                          SoundFormat{.encoder = "aac", .rate = 16000});
-        QByteArray bytes = stream.head() + stream.pictures(3) + stream.tone(4096);
-        bytes.chop(500); // ends in the middle of a piece
-        FfmpegDecoderLibrary library;
-        const qsizetype threadsBefore = threads();
-        [[maybe_unused]] double memory = 0;
-        for (int start = 0; start < 100; ++start) {
-            Receiver receiver;
-            std::int32_t port = -1;
-            QVERIFY(library.DecoderAllocPort(port));
-            QCOMPARE(port, 0);
-            QVERIFY(library.DecoderOpenStream(port, nullptr, 0, usualBuffer));
-            QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
-            QVERIFY(library.DecoderPlay(port, 0));
-            QVERIFY(library.DecoderInputData(port, bytesOf(bytes), static_cast<std::uint32_t>(bytes.size())));
-            if (start % 3 == 0) // the others stop at once
-                QTRY_VERIFY_WITH_TIMEOUT(receiver.pictures().size() >= start % 4, 5000);
-            QVERIFY(library.DecoderFreePort(port));
-            if (start == 10)
-                memory = processMegabytes("VmRSS:");
-        }
-        QCOMPARE(threads(), threadsBefore);
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // they keep what was freed
-        QVERIFY2(processMegabytes("VmRSS:") - memory < 8,
-                 qPrintable(QString::number(processMegabytes("VmRSS:") - memory)));
-#endif
     }
 };
 
