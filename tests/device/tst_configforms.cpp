@@ -126,7 +126,6 @@ private Q_SLOTS:
                                        {"encodeMode", QStringList()},
                                        {"resolution", QStringList()},
                                        {"bitStream", QStringList()}});
-        row("a list without a value", QVariantMap{{"encodeMode", QStringList("H.265")}});
         row("other kinds", QVariantMap{{"channelNum", 3},
                                        {"encodeMode", QVariantMap{{"a", 1}}},
                                        {"curBitStream", "none"},
@@ -178,24 +177,6 @@ private Q_SLOTS:
         QFETCH(double, longest);
         const CameraForm form;
         QTEST(form.shutterPlace(shortest, longest), "place");
-    }
-
-    void aRangeOfTheShutterIsNeverEmpty()
-    {
-        const CameraForm form;
-        const auto first = [&form](double longestNow) {
-            return form.shutterWrites(longestNow, 20, 40).first().toList();
-        };
-        QCOMPARE(first(10), QVariantList({"dbExposureValue2", 40.0}));
-        QCOMPARE(first(30), QVariantList({"dbExposureValue1", 20.0}));
-    }
-
-    void failuresHaveNames()
-    {
-        QCOMPARE(EncodeForm::failureName(static_cast<int>(0x8000006B)), "设备没有应答");
-        QCOMPARE(EncodeForm::failureName(static_cast<int>(0x80000013)), "设备不支持此操作");
-        QCOMPARE(EncodeForm::failureName(static_cast<int>(0x80000017)), "设备拒绝了此操作（错误 80000017）");
-        QCOMPARE(EncodeForm::failureName(14), "设备正在升级");
     }
 };
 

@@ -52,7 +52,6 @@ public:
         summary = {.total = 7, .errcount = 2};
         return true;
     }
-    bool hasDeviceUpgrading() override { return upgrading; }
     QVariantMap getDeviceDetail(const QString &) override { return {{"mac", "02:aa"}, {"name", "大厅"}}; }
 
     QStringList calls;
@@ -156,22 +155,6 @@ private Q_SLOTS:
         QCOMPARE(unrelayed, 0);
     }
 
-    void aSignalOfAnotherThreadArrivesOnTheFactorysThread()
-    {
-        // Shared, because the connection stays when this function is left early.
-        const auto receiver = std::make_shared<QThread *>(nullptr);
-        connect(&m_factory, &CDeviceFactory::signalSearchDone, this,
-                [receiver] { *receiver = QThread::currentThread(); });
-        QSignalSpy done(&m_factory, &CDeviceFactory::signalSearchDone);
-        const std::unique_ptr<QThread> thread(
-            QThread::create([this] { Q_EMIT m_backEnd->signalCDeviceSearchDone(); }));
-        thread->start();
-        thread->wait();
-        QCOMPARE(done.size(), 0);
-        QVERIFY(done.wait());
-        QCOMPARE(*receiver, QThread::currentThread());
-    }
-
     void forwardsToTheFamilyThatIsNamed()
     {
         m_factory.setDefaultAccount("hik", "admin", "1");
@@ -181,13 +164,6 @@ private Q_SLOTS:
                  QStringList({"setDefaultAccount root 2", "snapPictureToFile liveCapture 3 10.0.0.1:37777"}));
         QCOMPARE(m_factory.getDeviceDetailString("dh", "02:aa"),
                  "标识\n名称: 大厅\n\n网络\nMAC: 02:aa\n\n添加与账号\n添加方式: 搜索\n");
-    }
-
-    void anyFamilyMayBeUpgrading()
-    {
-        QVERIFY(!m_factory.hasDeviceUpgrading());
-        m_backEnd->upgrading = true;
-        QVERIFY(m_factory.hasDeviceUpgrading());
     }
 
     void importFillsAnObjectOrCallsAFunction()

@@ -183,68 +183,6 @@ private Q_SLOTS:
         QCOMPARE(limited.size(), 1);
     }
 
-    void aRangeSetDuringASearchBelongsToTheNext()
-    {
-        openSite("factory");
-        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
-        m_localDomain = false;
-        m_factory->setSearchByIPInfo("dh", *ipv4Number(u"10.0.1.1"), *ipv4Number(u"10.0.1.9"));
-        m_factory->startSearch("dh");
-        QVERIFY(m_site->requests().waitFor("NetSearchDevicesByIPs", 1));
-        m_localDomain = true; // the second search comes to its range after the first has ended
-        m_factory->setSearchByIPInfo("dh", *ipv4Number(u"10.0.2.1"), *ipv4Number(u"10.0.2.9"));
-        m_factory->startSearch("dh");
-        stepUntil(done, 2);
-        QStringList first;
-        for (const auto &request : m_site->requests().of("NetSearchDevicesByIPs"))
-            first.append(request.request.value("addresses").toArray().at(0).toString());
-        QCOMPARE(first, QStringList({"10.0.1.1", "10.0.2.1"}));
-    }
-
-    void nothingToSearchEndsAtOnce()
-    {
-        m_localDomain = false;
-        openSite("office");
-        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
-        QSignalSpy count(m_factory.get(), &CDeviceFactory::signalSearchCount);
-        m_factory->startSearch("dh");
-        QVERIFY(done.wait()); // without a step of the clock
-        QCOMPARE(count.size(), 1);
-        QCOMPARE(count.at(0).at(0).toInt(), 0);
-    }
-
-    void twoSearchesFillTheSameLists()
-    {
-        openSite("fleet:300");
-        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
-        m_factory->startSearch("dh");
-        QVERIFY(m_site->requests().waitFor("NetStartSearchDevices", 1));
-        m_factory->startSearch("dh");
-        QVERIFY(m_site->requests().waitFor("NetStartSearchDevices", 2));
-        stepUntil(done, 2);
-        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), 300);
-        // Every handle was stopped, whichever of the two stopped it.
-        QCOMPARE(m_site->requests().of("NetStopSearchDevices").size(), 6);
-    }
-
-    void aSearchThatIsStartedAgainBeginsEmpty()
-    {
-        openSite("factory");
-        QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
-        m_factory->startSearch("dh");
-        stepUntil(done, 1);
-        const qsizetype rows = m_factory->filterData("dh", "nofilter").size();
-        QVERIFY(rows > 0);
-        QCOMPARE(m_factory->filterData("dh", "removeuninit").size(), 0);
-
-        QSignalSpy added(m_factory.get(), &CDeviceFactory::signalAddDeviceToTable);
-        m_factory->startSearch("dh");
-        QVERIFY(added.wait());
-        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), 0);
-        stepUntil(done, 2);
-        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), rows);
-    }
-
     void closingInTheMiddleEndsCleanly_data()
     {
         const auto row = dataTable<bool>({"local"});

@@ -63,15 +63,12 @@ private Q_SLOTS:
         const QString password = resultName(wrongPassword);
         row("failed", {{"reboot", {wrongPassword}}}, QStringLiteral("title of reboot：") + password);
         row("succeeded later", {{"reboot", {wrongPassword}}, {"reboot", {succeeded}}}, "");
-        row("failed in another way", {{"reboot", {away}}, {"reboot", {wrongPassword}}},
-            QStringLiteral("title of reboot：") + password);
         row("another work succeeds", {{"reboot", {wrongPassword}}, {"copy", {succeeded}}},
             QStringLiteral("title of reboot：") + password);
         row("two works", {{"copy", {away}}, {"reboot", {wrongPassword}}, {"reboot", {succeeded}}},
             QStringLiteral("title of copy：") + resultName(away));
         row("waits for the next step", {{"password", {wrongPassword}}, {"password", {waits}}},
             QStringLiteral("title of password：") + password);
-        row("only waits", {{"password", {waits}}}, "");
         row("named twice in a batch", {{"lines", {wrongPassword, succeeded}}},
             QStringLiteral("title of lines：") + password);
     }

@@ -77,14 +77,10 @@ private Q_SLOTS:
             "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3", QString());
         const QByteArray whole = "[p2p]\ntunnel=t\ntunnel_port=1\ntrans=r\ntrans_port=2\ndomain=d\nsaas=s\n"
                                  "mnserver=m\nmnport=3\n";
-        row("no host", QByteArray(whole).replace("trans=r", "trans= "), "init t 1  2 tamsvelorink d s m 3",
-            "p2p/trans");
         row("missing keys", QByteArray("[p2p]\ntunnel=t\ntunnel_port=1\n"), "init t 1  0 tamsvelorink    0",
             "p2p/trans");
         row("no number", QByteArray(whole).replace("port=1", "port=ninety"),
             "init t 0 r 2 tamsvelorink d s m 3", "p2p/tunnel_port");
-        row("no port", QByteArray(whole).replace("port=3", "port=70000"),
-            "init t 1 r 2 tamsvelorink d s m 70000", "p2p/mnport");
     }
 
     void readsItsSettings()
@@ -110,14 +106,12 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QList<int>, int, int, QString>({"existing", "wish", "port", "asked"});
         row("none there", QList<int>(), 0, 50001, "add ID 37777 0 0");
-        row("none there, wished", QList<int>(), 37777, 50001, "add ID 37777 0 0");
         row("a wish for another port", QList{50005}, 37778, 0, QString());
         row("one there", QList{50005}, 0, 50005, QString());
         row("one there, the device's wished", QList{50005}, 37777, 37777, "add ID 37777 37777 0");
         row("the device's there", QList{37777}, 0, 50001, "add ID 37777 0 0");
         row("the device's there and wished", QList{37777}, 37777, 37777, QString());
         row("more there", QList{37777, 50006, 50007}, 0, 50006, QString());
-        row("more there, all the device's", QList{37777, 37777}, 0, 0, QString());
         row("more than fit", QList<int>(12, 50008), 0, 50008, QString());
     }
 
@@ -132,20 +126,6 @@ private Q_SLOTS:
         agent->existing = existing;
         QTEST(ports.portFor("ID", 37777, wish), "port");
         QCOMPARE(agent->calls.join('\n'), asked);
-    }
-
-    void releasesBothPortsOfADevice()
-    {
-        const auto agent = std::make_shared<NotingAgent>();
-        P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
-        agent->calls.clear();
-        ports.pair(50001, 50002);
-        ports.pair(0, 50003); // a device that was added by address has no ports
-        QCOMPARE(ports.webPortOf(50001), 50002);
-        ports.releaseDevice(50001);
-        ports.release(0);
-        QCOMPARE(agent->calls, QStringList({"delete 50001", "delete 50002"}));
-        QCOMPARE(ports.webPortOf(50001), 0);
     }
 
     /// Two callers that add the same device get the same port: the first one to fail does not take it away.

@@ -35,13 +35,10 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QString, QString, int>({"begin", "end", "fault"});
         row("one address", "10.0.1.1", "10.0.1.1", 0);
-        row("sixteen apart", "10.0.1.1", "10.0.17.1", 0);
         row("seventeen apart", "10.0.1.1", "10.0.18.1", 2);
         row("other second octet", "10.0.1.1", "10.1.1.1", 2);
-        row("other first octet", "10.0.1.1", "11.0.1.1", 2);
         row("begin above end", "10.0.2.1", "10.0.1.1", 1);
         row("begin above end by the last octet", "10.0.1.9", "10.0.1.8", 1);
-        row("begin above end in the highest octet", "200.0.0.1", "100.0.0.1", 1);
         row("begin no address", "10.0.1", "10.0.1.1", 3);
         row("end no address", "10.0.1.1", "printer", 4);
     }

@@ -1,3 +1,5 @@
+#include "device/loginresult.h"
+#include "device/passwordstrength.h"
 #include "device/systemtools.h"
 #include "tests/datatable.h"
 
@@ -25,7 +27,6 @@ private Q_SLOTS:
     {
         const auto row = namedTable<QString, QString, int>({"password", "confirmation", "fault"});
         row("", "", SystemTools::TooWeak);
-        row("abcdefgh", "", SystemTools::TooWeak);
         row("________1", "________1", SystemTools::TooWeak);
         row("abc_def12", "", SystemTools::NoConfirmation);
         row("abc_def12", "abc_def13", SystemTools::NotTheSame);
@@ -42,6 +43,33 @@ private Q_SLOTS:
         QFETCH(QString, password);
         QFETCH(QString, confirmation);
         QTEST(int(m_tools.newPasswordFault(password, confirmation)), "fault");
+    }
+
+    void gradesPasswords_data()
+    {
+        const auto row = namedTable<QString, int>({"password", "grade"});
+        row("_", 0);
+        row("ABCdefgh", 1);
+        row("!!", 1);
+        row("abc def", 2);
+        row("Ab1!", 3);
+        row("1-密码a", 3);
+    }
+
+    void gradesPasswords()
+    {
+        QFETCH(QString, password);
+        QTEST(passwordStrength(password), "grade");
+    }
+
+    void resultsAreNamed()
+    {
+        const std::array names = {std::pair(1, "账号不存在"), std::pair(2, "密码错误"),
+                                  std::pair(3, "账号被锁定"), std::pair(5, "网络异常"),
+                                  std::pair(6, "协议不匹配"), std::pair(13, "设备已存在"),
+                                  std::pair(998, "命令失败"), std::pair(4711, "未知错误 4711")};
+        for (const auto &[result, name] : names)
+            QCOMPARE(resultName(result), name);
     }
 };
 

@@ -68,14 +68,6 @@ private Q_SLOTS:
         QCOMPARE(m_model->roleNames().values().size(), 3);
     }
 
-    void searchesTheRows()
-    {
-        m_model->resetItems("search", "大厅");
-        QCOMPARE(texts(), QStringList("IPC: 10.0.0.3:37777"));
-        m_model->resetItems("search", "no such device");
-        QCOMPARE(texts(), QStringList());
-    }
-
     void aGroupsTickCoversItsDevices()
     {
         QSignalSpy changed(m_model.get(), &OVTreeModel::checkedDevicesChanged);
@@ -146,30 +138,6 @@ private Q_SLOTS:
         m_model->resetItems("removeuninit", "");
         QCOMPARE(m_model->index(1, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole),
                  int(OVTreeModel::NoResult));
-    }
-
-    void countsTickedDevicesThatAreUpgraded()
-    {
-        m_site->rows->setUpgrade(0, UpgradeTools::Sending);
-        m_model->resetItems("nofilter", "");
-        QCOMPARE(m_model->checkedUpgradingCount(), 0);
-        m_model->setAllChecked(true);
-        QCOMPARE(m_model->checkedUpgradingCount(), 1);
-        m_site->rows->setUpgrade(0, UpgradeTools::Success);
-        m_model->resetItems("nofilter", "");
-        QCOMPARE(m_model->checkedUpgradingCount(), 0);
-    }
-
-    void theWholeTreeIsTicked()
-    {
-        m_model->setAllChecked(true);
-        QCOMPARE(m_model->checkedCount(), 6);
-        QCOMPARE(m_model->checkState(), Qt::Checked);
-        m_model->setData(m_model->index(0, 0, m_model->index(1, 0)), false, OVTreeModel::IsCheckedRole);
-        QCOMPARE(m_model->checkState(), Qt::PartiallyChecked);
-        m_model->setAllChecked(false);
-        QCOMPARE(m_model->checkedDevices(), QStringList());
-        QCOMPARE(m_model->checkState(), Qt::Unchecked);
     }
 
     void rowsOfClosedGroupsAreHidden()

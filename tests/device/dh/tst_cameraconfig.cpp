@@ -201,8 +201,6 @@ private Q_SLOTS:
             {"key", "subKey", "value", "name", "field", "items"});
         row("brightness", "curBrightness", "", 77, "VideoColor", "brightness", 0);
         row("contrast", "curContrast", "", 78, "VideoColor", "contrast", 0);
-        row("saturation", "curSaturation", "", 79, "VideoColor", "saturation", 0);
-        row("gamma", "curGamma", "", 80, "VideoColor", "gamma", 0);
         row("defaults", "setDefault", "", 50, "VideoColor", "hue", 1);
         row("lights", "lightControlEx", "Delay", 81, "Lighting_V2", "delay", 1);
     }
@@ -267,19 +265,6 @@ private Q_SLOTS:
         QCOMPARE(value("picture", "hue").toInt(), 50);
         QCOMPARE(m_site->get("curChannelName").toString(), "东门 2");
         QCOMPARE(byChannel.size(), 1);
-    }
-
-    void theEncodePageReadsTheColours()
-    {
-        open(camera());
-        m_site->set("curBrightness", 91);
-        QCOMPARE(m_site->login(camera()), 0);
-        QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
-        m_site->factory->getEncodeCaps("dh");
-        QCOMPARE(result.first().first().toInt(), 0);
-        QCOMPARE(m_site->get("curBrightness").toInt(), 91);
-        const QJsonObject text = m_site->asked("NetGetNewConfig").last();
-        QCOMPARE(valuesOf(text, "name textSize wait"), "VideoColor|4096|3000");
     }
 
     void theColoursOfOneChannelAreNotWrittenToAnother()
@@ -364,23 +349,6 @@ private Q_SLOTS:
         QVERIFY(!m_site->get("curChannelName").isValid());
     }
 
-    void anExposureWithoutNoiseReductionIsShown()
-    {
-        SceneDevice device = camera();
-        device.faults = {{Fault::WithholdsItem, 1320}};
-        open(device);
-        QCOMPARE(supported(), groups);
-        QCOMPARE(value("exposure", "noiseReductionSupport").toBool(), false);
-        m_site->set("exposure", 1, "3D");
-        QVERIFY(m_site->asked("NetSetItem").isEmpty());
-        m_site->set("exposure", 7, "GainMin");
-        QCOMPARE(m_site->askedItems("NetSetItem"), QStringList({"1306/0@0 64 5000"}));
-        m_site->site->setFault(device.mac, {Fault::WithholdsItem, 1306, {}});
-        read();
-        QVERIFY(value("exposure", "unread").toBool() && !value("exposure", "support").toBool());
-        QVERIFY(!value("stable", "unread").toBool());
-    }
-
     void nonsenseIsNotSent()
     {
         open(camera());
@@ -397,17 +365,6 @@ private Q_SLOTS:
         m_site->set("curChannelName", QString::fromUtf8("\u200F "));
         m_site->set("noSuchKey", 1);
         QVERIFY(m_site->site->requests().all().isEmpty());
-    }
-
-    void theWidestRangeHasAMiddle()
-    {
-        CameraState state;
-        state.capabilities.groups = 1u << static_cast<std::uint32_t>(sdk::CameraGroup::Picture);
-        state.unreadGroups = 0;
-        state.capabilities.picture = {std::numeric_limits<std::int32_t>::min(),
-                                      std::numeric_limits<std::int32_t>::max()};
-        QCOMPARE(changeCamera("setDefault", "", "", ValueTables(), state).size(), 1);
-        QCOMPARE(state.picture.gamma, -1);
     }
 
     void oddCapabilitiesGiveAUsablePage()

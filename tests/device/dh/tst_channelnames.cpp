@@ -88,37 +88,6 @@ private:
 private Q_SLOTS:
     void cleanup() { m_site.reset(); }
 
-    void namesComeInTheirOrder()
-    {
-        open(recorder());
-        QCOMPARE(names(2), QVariantList({"大门", "Lagerhalle Süd"}));
-        QCOMPARE(m_site->askedItems("NetGetItem"), QStringList({"1108/0@0 260 5000", "1108/0@1 260 5000"}));
-        QCOMPARE(names(0).size(), 16);
-        QCOMPARE(names(-3).size(), 16);
-        QCOMPARE(names(900).size(), 16);
-        QVERIFY(m_site->factory->getDeviceChannelData("dh", "others", 2).isEmpty());
-        QVERIFY(m_site->factory->getDeviceChannelData("other", "channelNames", 2).isEmpty());
-    }
-
-    void aDeviceThatIsAwayIsAskedOnce()
-    {
-        open(recorder());
-        setFault(Fault::NoAnswer);
-        QSignalSpy away(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
-        QCOMPARE(names(0), QVariantList(16));
-        QCOMPARE(m_site->asked("NetGetItem").size(), 1);
-        QCOMPARE(away, QList<QVariantList>({{static_cast<int>(sdk::NetError::NetworkFailure)}}));
-    }
-
-    void withoutALoginThereIsNothing()
-    {
-        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{recorder()});
-        QVERIFY(names(0).isEmpty());
-        QTest::ignoreMessage(QtWarningMsg, "there is no channel \"0\" to name");
-        m_site->set("channelName", "x", "0");
-        QVERIFY(m_site->asked("NetSetItem").isEmpty());
-    }
-
     void aWriteIsOneRequestWithItsResult()
     {
         open(recorder());
@@ -188,24 +157,10 @@ private Q_SLOTS:
         QVERIFY(!names->isSaving());
     }
 
-    void aFailureOutlastsWhatGoesWellAfterIt()
-    {
-        open(recorder());
-        setFault(Fault::RefusesItem, 1108);
-        m_site->set("channelName", "x", "0");
-        m_site->site->clearFault(m_device.mac, Fault::RefusesItem);
-        m_site->set("channelName", "y", "1");
-        m_site->set("channelNamesSaved", true);
-        QCOMPARE(m_site->get("channelNamesResult").toInt(), 999);
-    }
-
     void textsAreCutByBytesBetweenLetters_data()
     {
         const auto row = dataTable<QString, int, QString>({"text", "bytes", "cut"});
-        row("fits", "大门", 6, "大门");
         row("inside a letter", "大门", 5, "大");
-        row("nothing fits", "大门", 2, "");
-        row("Latin", "Süden", 3, "Sü");
         row("accent of its own", "ae\u0301", 2, "a");
         row("beyond the base plane", "a😀b", 4, "a");
         row("joined signs", "a👨‍👩‍👧", 12, "a");
@@ -232,15 +187,6 @@ private Q_SLOTS:
         QCOMPARE(names->get(0).value("name").toString(), QString(85, u'门'));
         QCOMPARE(saved(*names, 0), ChannelNameForm::None);
         QCOMPARE(this->names(1).value(0).toString(), QString(85, u'门'));
-    }
-
-    void whatCannotBeSeenIsNotTyped()
-    {
-        open(recorder());
-        const auto names = form();
-        names->set(0, QStringLiteral(u"门\u0001\u202E口\n 👩\u200D🔧"));
-        QCOMPARE(names->get(0).value("name").toString(),
-                 QStringLiteral(u"门口 👩\u200D🔧")); // joined signs stay joined
     }
 
     void changesCountUntilTheyAreWrittenOrTakenBack()

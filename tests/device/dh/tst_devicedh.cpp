@@ -80,7 +80,6 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QJsonObject, int, int>({"https", "httpPort", "webPort"});
         row("without", QJsonObject{{"enabled", false}, {"port", 8443}}, 8080, 8080);
-        row("without, no port", QJsonObject{{"enabled", false}, {"port", 8443}}, 0, 80);
         row("with", QJsonObject{{"enabled", true}, {"port", 8443}}, 8080, 8443);
         row("with, no port", QJsonObject{{"enabled", true}, {"port", 0}}, 8080, 80);
     }
@@ -104,7 +103,6 @@ private Q_SLOTS:
         row("no account", "192.168.1.10", "root", "secret1", 1);
         row("wrong password", "192.168.1.10", "admin", "secret2", 2);
         row("nobody there", "192.168.1.99", "admin", "secret1", 5);
-        row("no address", "", "admin", "secret1", 5);
     }
 
     void aLoginThatFailsSaysWhyAndAddsNothing()
@@ -244,31 +242,6 @@ private Q_SLOTS:
         QTRY_COMPARE(row(recorder).value("ipport").toString().section(':', 0, 0), "192.168.1.67");
     }
 
-    void manyDevicesAreQueriedSideBySide()
-    {
-        const auto store = std::make_shared<DeviceStore>(m_clock);
-        QStringList names = {"[fe80::1]:37777", "by hand"};
-        store->addAnswer(searchAnswer({.address = "fe80::1", .ipVersion = 6}));
-        store->putRow({{"mac", names.last()}, {"ipport", "[fe80::2]:37777"}});
-        for (int number = 0; number < 600; ++number) {
-            names.append(QString::number(number));
-            store->putRow({{"mac", names.last()},
-                           {"ipport", QString("10.0.%1.%2:37777").arg(number / 250).arg(number % 250)}});
-        }
-        search();       // begins with the library
-        m_time.reset(); // a request ends no more
-        DeviceRefresh refresh(store, m_site->libraries());
-        refresh.start(names);
-        const bool areAsked = m_site->requests().waitFor("NetSearchDevicesByIPs", 3);
-        refresh.requestStop();
-        m_time = std::make_unique<FlowingClock>(*m_clock);
-        QVERIFY(areAsked);
-        for (const auto &asked : m_site->requests().of("NetSearchDevicesByIPs")) {
-            for (const QJsonValue &address : asked.request.value("addresses").toArray())
-                QVERIFY(!address.toString().contains("fe80"));
-        }
-    }
-
     void theSessionIsReplacedByTheNext()
     {
         QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
@@ -367,20 +340,6 @@ private Q_SLOTS:
         QCOMPARE(row(recorder).value("res").toInt(), 5);
         m_factory.reset();
         CDeviceDH::agentMessage(sdk::P2PAgentEvent::TunnelBroken, "OV1", 20001, nullptr); // nobody listens
-    }
-
-    void theDevicesOwnPortIsKept()
-    {
-        QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.10", "admin", "secret1", "37777"), 0);
-        m_factory->setPluginPort("dh", camera, 8800);
-        QCOMPARE(m_factory->getDeviceDetail("dh", camera).value("devp2pPort").toString(), "8800");
-    }
-
-    void theProgramEndsWithSuccess()
-    {
-        QMetaObject::invokeMethod(
-            this, [this] { m_factory->exitProgram(); }, Qt::QueuedConnection);
-        QCOMPARE(QCoreApplication::exec(), 0);
     }
 };
 

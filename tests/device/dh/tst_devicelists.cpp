@@ -130,12 +130,9 @@ private Q_SLOTS:
         const auto row = dataTable<QString, QString, QString>({"format", "name", "reason"});
         const QString noCharacter(QChar(0xFFFE));
         row("comma", "csv", "东,门", ", (U+002C)");
-        row("line end", "csv", "东\r门", "U+000D");
         row("blank at the end", "csv", "东门 ", "U+0020");
         row("other signs", "csv", "A<&\"; 门 😀", QString());
         row("bracket", "xml", "A<B", "< (U+003C)");
-        row("reference", "xml", "A&amp;B", "& (U+0026)");
-        row("no character", "xml", noCharacter, "U+FFFE");
         row("too long", "xml", QString(257, u'x'), "字段过长");
         row("any character of a cell", "xlsx", "A,<&_x0041_" + noCharacter, QString());
         row("control character", "xlsx", "\x01", "U+0001");
@@ -244,33 +241,6 @@ private Q_SLOTS:
         QVERIFY(read("again.csv").contains("Encoder," + QByteArray(32, 'T') + ",General"));
     }
 
-    void opensTunnelsForP2P()
-    {
-        const QString list =
-            write("p2p.csv", "添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,密码,序列号\n"
-                             "P2P,OV7QK2M4,8800,admin,wrong,S9\n"
-                             "P2P,NOBODY,8800,admin,secret1,\n"
-                             "P2P,OV7QK2M4,8800,admin,secret1,S9\n"
-                             "P2P,OV7QK2M4,8800,admin,secret1,S9\n");
-        QVERIFY(import(list));
-        QCOMPARE(m_total, 4);
-        QCOMPARE(m_failed, 3);
-        QList<int> codes;
-        const QVariantList failures = m_factory->importFailures("dh");
-        for (const QVariant &failure : failures)
-            codes.append(failure.toMap().value("code").toInt());
-        QCOMPARE(codes, QList({2, 5, 13}));
-        QCOMPARE(m_site->requests().of("OAgent_ClientDelPort").size(), 1); // of the login that failed
-
-        const int port = row(remote).value("ipport").toString().section(':', 1).toInt();
-        const int webPort = m_factory->getP2PWebPort(port);
-        QCOMPARE(m_site->portAgent().tunnel(port)->devicePort, 8800);
-        QCOMPARE(m_site->portAgent().tunnel(webPort)->devicePort, 8080);
-        QCOMPARE(m_factory->getDeviceDetail("dh", remote).value("serial").toString(), "S9");
-        m_factory->setDeleteDevice("dh", remote, "IPV4");
-        QVERIFY(!m_site->portAgent().tunnel(port) && !m_site->portAgent().tunnel(webPort));
-    }
-
     void aTunnelStaysAsLongAsItIsNeeded()
     {
         int port = 0;
@@ -314,8 +284,6 @@ private Q_SLOTS:
         const auto row = dataTable<QString, QByteArray>({"name", "text"});
         const QByteArray crlf = QByteArray(headers + cameraLine).replace("\n", "\r\n");
         row("byte order mark and CRLF", "a.csv", "\xEF\xBB\xBF" + crlf);
-        row("carriage returns", "a.csv", QByteArray(headers + cameraLine).replace('\n', '\r'));
-        row("no line end", "a.CSV", (headers + cameraLine).chopped(1));
         row("other order, missing and other columns, blanks", "a.csv",
             QByteArray("\n密码,备注, *用户名 ,IP地址/域名/注册ID/设备序列号\n,,,\nsecret1,x, admin "
                        ",192.168.1.10\n"));
@@ -356,26 +324,17 @@ private Q_SLOTS:
         const QString unopened = QStringLiteral("^Failed to open file: .*/");
         const QString unparsed = QStringLiteral("^Failed to parse XML file:");
         row("no file", "missing.csv", QByteArray(), unopened);
-        row("no workbook", "a.xlsx", QByteArray("PK"), unopened);
         row("same MAC", "a.csv",
             headers + cameraLine + QByteArray(cameraLine).replace(".10,", ".11,").replace("02:1a", "02:1A"),
             QString());
-        row("no headers", "a.csv", cameraLine, QString());
-        row("empty", "a.csv", QByteArray(""), QString());
         row("not UTF-8", "a.csv", headers + "\xB6\xAB,\n", QString());
-        row("line too long", "a.csv", headers + QByteArray(70000, 'x'), QString());
         row("too many lines", "a.csv", "IP地址/域名/注册ID/设备序列号\n" + QByteArray("a\n").repeated(100001),
             QString());
-        row("empty XML", "a.xml", QByteArray(""), unparsed);
         const auto named = [](const QByteArray &name) {
             return "<deviceList>\n<device>\n<DeviceName>" + name + "</DeviceName></device></deviceList>";
         };
         row("unescaped", "a.xml", named("a&b"), unparsed + ".* in line 3");
         row("reference to no character", "a.xml", named("&#xFFFE;"), unparsed);
-        row("XML not in UTF-8", "a.xml", named("\xB6\xAB"), unparsed);
-        row("unknown encoding", "a.xml", QByteArray("<?xml version='1.0' encoding='x-none'?><deviceList/>"),
-            unparsed + " unknown encoding x-none$");
-        row("element in a text", "a.xml", named("<b>x</b>"), unparsed);
         row("document type", "a.xml",
             QByteArray("<!DOCTYPE d [<!ENTITY e 'x'>]><deviceList><device><IPAddress>&e;</IPAddress>"
                        "</device></deviceList>"),
@@ -384,8 +343,6 @@ private Q_SLOTS:
             "<deviceList>" + QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000) +
                 "</deviceList>",
             unparsed);
-        row("too many elements", "a.xml",
-            "<deviceList>" + QByteArray("<a/>").repeated(10'000'000) + "</deviceList>", unparsed);
         row("another root", "a.xml", QByteArray("<devices/>"), "^Root element is not 'deviceList': devices$");
     }
 
@@ -414,13 +371,10 @@ private Q_SLOTS:
         };
         row("nobody there", changed("192.168.1.10", "192.168.1.99"), 5);
         row("wrong password", changed("secret1", "secret2"), 2);
-        row("no password", changed("secret1", ""), -1);
         row("no address", changed("192.168.1.10", ""), -1);
-        row("strange address", changed("192.168.1.10", "10.0.0.1/x?"), -1);
         row("strange port", changed("37777", "70000"), -1);
         row("other way", changed("IpAddress", "Register"), -1);
         row("comma in a name", changed("东门", "东,门"), -1);
-        row("long name", changed("东门", QByteArray(300, 'x')), -1);
         row("control character", changed("secret1", "a\x1b[2J"), -1);
     }
 

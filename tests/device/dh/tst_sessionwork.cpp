@@ -182,41 +182,6 @@ private Q_SLOTS:
         m_work->setDeviceFactory(nullptr);
     }
 
-    void theLastWishCounts()
-    {
-        setFault(m_recorder, Fault::NoAnswer);
-        setFault(m_camera, Fault::SlowAnswers, slowness);
-        m_site->stopTime();
-        const std::int64_t begin = m_site->clock().now();
-        login(m_recorder);
-        QTRY_COMPARE(m_site->clock().waiters(), 1);
-        login(m_camera);
-        QTRY_COMPARE(m_site->clock().waiters(), 2); // it does not queue behind the dead one
-        m_site->clock().advance(std::chrono::milliseconds(slowness));
-        QTRY_COMPARE(m_told, QStringList({"login 0", "ended"}));
-        QCOMPARE(m_site->clock().now() - begin, slowness);
-        m_site->letTimePass();
-        QTRY_COMPARE(m_site->clock().waiters(), 0);
-        QCoreApplication::processEvents();
-        QCOMPARE(m_told, QStringList({"login 0", "ended"}));
-        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
-    }
-
-    void aLoginThatComesTooLateIsLoggedOut()
-    {
-        setFault(m_recorder, Fault::SlowAnswers, slowness);
-        m_site->stopTime();
-        login(m_recorder);
-        QTRY_COMPARE(m_site->clock().waiters(), 1);
-        m_work->cancel();
-        QVERIFY(!m_work->isRunning());
-        m_site->letTimePass();
-        QTRY_COMPARE(m_site->asked("NetLogout").size(), 1);
-        QCoreApplication::processEvents();
-        QCOMPARE(m_told, QStringList());
-        QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
-    }
-
     void aLoginThatNobodyTakesIsLoggedOut()
     {
         login(m_recorder);
@@ -224,41 +189,6 @@ private Q_SLOTS:
         m_work.reset(); // the page goes
         QTRY_VERIFY(loginsAreOpen(0));
         QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
-    }
-
-    void theLoginBeforeIsLoggedOut()
-    {
-        for (const SceneDevice &device : {m_recorder, m_camera, m_recorder}) {
-            login(device);
-            QTRY_VERIFY(!m_work->isRunning());
-            QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(device));
-            QTRY_VERIFY(loginsAreOpen(1));
-        }
-    }
-
-    /// The live view works with the same session.
-    void anotherPagesLoginDropsTheWork()
-    {
-        QCOMPARE(m_site->login(m_recorder), 0);
-        setFault(m_recorder, Fault::NoAnswer);
-        setFault(m_camera, Fault::SlowAnswers, slowness);
-        m_told.clear();
-        m_site->stopTime();
-        m_work->chooseEncoding("curChannel", 1);
-        QTRY_COMPARE(m_site->clock().waiters(), 1);
-        m_site->factory->openSession("dh", ipportOf(m_camera), "admin", "secret1", false);
-        QTRY_COMPARE(m_site->clock().waiters(), 2);
-        QVERIFY(QTest::qWaitFor([this] {
-            if (m_site->clock().waiters() == 2)
-                m_site->clock().advance(std::chrono::milliseconds(slowness));
-            return m_told.contains("other");
-        }));
-        QVERIFY(!m_work->isRunning());
-        m_site->letTimePass();
-        QTRY_COMPARE(m_site->clock().waiters(), 0);
-        QCoreApplication::processEvents();
-        QVERIFY(!m_told.contains("ended") && !m_told.contains("encode channel"));
-        QCOMPARE(m_site->shown("sessionDevice curChannel"), ipportOf(m_camera) + "|0");
     }
 
     void aDeviceIsAddedUnlessItIsCancelled_data()

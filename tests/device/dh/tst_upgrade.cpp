@@ -19,7 +19,6 @@ private Q_SLOTS:
     {
         const auto row = dataTable<int>({"atOnce"});
         row("as usual", UpgradeLimits().atOnce);
-        row("one after another", 1);
         row("five", 5);
     }
 
@@ -66,65 +65,19 @@ private Q_SLOTS:
         QCOMPARE(test.site->requests().of("NetLogout").size(), 12); // one login before, one after
     }
 
-    void rowsTellThePhases()
-    {
-        const UpgradeSite test(1);
-        QStringList seen;
-        int highest = 0;
-        const auto look = [&] {
-            if (seen.isEmpty() || seen.last() != test.text(0))
-                seen.append(test.text(0));
-            const bool grows = test.percent(0) >= highest;
-            highest = std::max(highest, test.percent(0));
-            return !test.ends->isEmpty() || !grows;
-        };
-        test.start({0}, test.file());
-        QVERIFY(test.passUntil(look));
-        look();
-        QCOMPARE(highest, 100);
-        for (const QString &text : {u"正在发送文件"_s, u"正在写入，请勿断电"_s, u"等待设备重启"_s,
-                                    u"升级成功：2.840.1 → 2.900.0"_s})
-            QVERIFY2(seen.contains(text), qPrintable(seen.join(u'|')));
-    }
-
-    void anotherPagesResultStays()
-    {
-        const UpgradeSite test(1);
-        const auto answer = [&] {
-            return test.value(0, DeviceRowKey::result).toString();
-        };
-        test.factory->updataDeviceInfo(test.family, DeviceRowKey::result, u"name=Hof"_s, test.mac(0),
-                                       test.ipport(0));
-        test.start({0}, test.file());
-        QCOMPARE(answer(), u"name=Hof"_s);
-        test.factory->updataDeviceInfo(test.family, DeviceRowKey::result, u"OK"_s, test.mac(0),
-                                       test.ipport(0));
-        QVERIFY(test.passUntilEnd());
-        QCOMPARE(answer(), u"OK"_s);
-        QCOMPARE(test.text(0), u"升级成功：2.840.1 → 2.900.0"_s);
-    }
-
     void whatDevicesDo_data()
     {
         const auto row = dataTable<FaultSetting, UpgradeTools::Result, QString, bool>(
             {"fault", "result", "text", "canTryAgain"});
         row("fails", {Fault::UpgradeFailsAt, 50}, UpgradeTools::Failed, u"设备中断了升级（34%）"_s, true);
-        row("fails in the writing", {Fault::UpgradeFailsAt, 100}, UpgradeTools::Failed,
-            u"设备中断了升级（70%）"_s, true);
         row("hangs", {Fault::UpgradeHangsAt, 30}, UpgradeTools::Stuck, u"升级长时间没有进展（20%）"_s, true);
-        row("hangs in the writing", {Fault::UpgradeHangsAt, 100}, UpgradeTools::Stuck,
-            u"升级长时间没有进展（70%）"_s, true);
         row("keeps its version", {Fault::UpgradeKeepsVersion}, UpgradeTools::KeptVersion,
             u"重启后仍是原版本"_s, true);
         row("never returns", {Fault::UpgradeNeverReturns}, UpgradeTools::NotBack, u"设备重启后未恢复"_s,
             true);
         row("is busy", {Fault::UpgradeBusy}, UpgradeTools::DeviceBusy, u"设备忙，请稍后重试"_s, true);
         row("is away", {Fault::NoAnswer}, UpgradeTools::NoAnswer, u"设备无应答"_s, true);
-        row("has a session", {Fault::AccountLoggedIn}, UpgradeTools::DeviceBusy, u"设备忙，请稍后重试"_s,
-            true);
         row("wrong password", {Fault::WrongPassword}, UpgradeTools::WrongPassword, u"密码错误"_s, false);
-        row("has no password", {Fault::NotInitialised}, UpgradeTools::NotSupported,
-            u"设备不支持升级，或未初始化"_s, false);
     }
 
     void whatDevicesDo()
@@ -166,14 +119,10 @@ private Q_SLOTS:
             u"升级成功：2.900.0.R, build 2026-01-01 → 3.000.1.R, build 2026-02-01"_s);
         row("the same firmware again", u"3.000.1.R"_s, u"3.000.1"_s, u"3.000.1.R"_s, UpgradeTools::Success,
             u"升级成功：3.000.1.R → 3.000.1.R"_s);
-        row("another than the file's", u"2.9"_s, u"3.000.1"_s, u"3.0-b"_s, UpgradeTools::Success,
-            u"升级成功：2.9 → 3.0-b"_s);
         row("the file's after none", QString(), u"3.000.1"_s, QString(), UpgradeTools::Success,
             u"升级成功：3.000.1"_s);
         row("another after none", QString(), u"3.000.1"_s, u"2.9"_s, UpgradeTools::VersionUnknown,
             u"设备已恢复，但无法确认版本：现为 2.9，升级前的版本未知"_s);
-        row("none", u"2.9"_s, u"3.000.1"_s, u""_s, UpgradeTools::VersionUnknown,
-            u"设备已恢复，但无法确认版本：未读到版本号"_s);
     }
 
     void whatVersionsProve()
@@ -207,12 +156,9 @@ private Q_SLOTS:
         const auto row = dataTable<QByteArray, QString, UpgradeTools::Result>({"content", "name", "result"});
         row("none", QByteArray(), QString(), UpgradeTools::NoFile);
         row("missing", QByteArray(), u"missing"_s, UpgradeTools::FileMissing);
-        row("folder", QByteArray(), u"."_s, UpgradeTools::FileUnreadable);
-        row("empty", QByteArray(""), u"empty.bin"_s, UpgradeTools::FileEmpty);
         row("damaged", QByteArray("BRELM-FIRMWARE 1\nversion"), u"damaged.bin"_s, UpgradeTools::FileDamaged);
         row("other model", QByteArray("BRELM-FIRMWARE 1\nmodel=C-1\nversion=2.9\n\n"), u"B-2230-IR_2.9.bin"_s,
             UpgradeTools::WrongModel);
-        row("other model by name", QByteArray("bytes"), u"C-1,C-2_2.9.bin"_s, UpgradeTools::WrongModel);
     }
 
     void filesThatAreNotSent()
@@ -237,50 +183,6 @@ private Q_SLOTS:
         QVERIFY(test.site->requests().all().isEmpty());
     }
 
-    void aDeviceKnowsItsModelBetterThanItsRow()
-    {
-        const UpgradeSite test(1);
-        test.store->changeRow(test.mac(0),
-                              [](QJsonObject &row) { row.insert(DeviceRowKey::model, QString()); });
-        test.start({0}, test.file("bytes", u"C-1_2.9.bin"_s));
-        QVERIFY(test.passUntilEnd());
-        QCOMPARE(test.result(0), UpgradeTools::WrongModel);
-        QVERIFY(test.site->requests().of("NetStartUpgrade").isEmpty());
-    }
-
-    void anUnknownFileIsLeftToTheDevice()
-    {
-        const UpgradeSite test(1);
-        test.start({0}, QUrl::fromLocalFile(test.file("bytes")).toString());
-        QVERIFY(test.passUntilEnd());
-        QCOMPARE(test.result(0), UpgradeTools::FirmwareRefused);
-    }
-
-    void stops()
-    {
-        const UpgradeSite test(6);
-        test.site->setFault(test.mac(1), {Fault::UpgradeTakes, 60});
-        test.site->setFault(test.mac(2), {Fault::UpgradeTakes, 60});
-        test.site->setFault(test.mac(3), {Fault::UpgradeTakes, 60});
-        test.start({0, 1, 2, 3, 4}, test.file());
-        test.factory->stopUpgrade(test.family, test.mac(4)); // has not begun
-        QCOMPARE(test.result(4), UpgradeTools::Stopped);
-        QVERIFY(
-            test.passUntil([&] { return test.percent(1) > 0 && test.result(0) == UpgradeTools::Writing; }));
-        for (int place = 0; place < 4; ++place)
-            test.factory->stopUpgrade(test.family, test.mac(place));
-        test.factory->stopUpgrade(test.family, test.mac(5));
-        QVERIFY(test.passUntil([&] { return test.text(0) == u"已开始写入，无法停止"_s; }));
-        QVERIFY(test.passUntilEnd());
-        QCOMPARE(test.result(0), UpgradeTools::Success);
-        for (int place = 1; place < 5; ++place) {
-            QCOMPARE(test.result(place), UpgradeTools::Stopped);
-            QCOMPARE(test.text(place), u"已停止，设备未改动"_s);
-            QCOMPARE(test.site->device(test.mac(place))->version, u"2.840.1"_s);
-        }
-        QCOMPARE(test.result(5), UpgradeTools::None);
-    }
-
     void aStopIsTriedUntilTheDeviceWrites()
     {
         const UpgradeSite test(2);
@@ -297,17 +199,6 @@ private Q_SLOTS:
         QVERIFY(test.passUntil([&] { return test.text(1) == u"固件已写入，设备正在重启，无法停止"_s; }));
         QVERIFY(test.passUntilEnd());
         QCOMPARE(test.result(1), UpgradeTools::Success);
-    }
-
-    void onlyWhatMayGoWellIsTriedAgain()
-    {
-        const UpgradeSite test(4);
-        test.site->setFault(test.mac(0), {Fault::UpgradeFailsAt, 10});
-        test.site->setFault(test.mac(1), {Fault::WrongPassword});
-        test.site->setFault(test.mac(2), {Fault::UpgradeBusy});
-        test.start({0, 1, 2, 3}, test.file());
-        QVERIFY(test.passUntilEnd());
-        QCOMPARE(test.factory->upgradesToRetry(test.family), QStringList({test.mac(0), test.mac(2)}));
     }
 
     void devicesWithAnIpv6AddressAlone()
@@ -345,22 +236,6 @@ private Q_SLOTS:
                     .added);
         test.factory->setUpgradeFilePath(test.family, unset, path);
         QCOMPARE(test.store->rowNamed(unset).value(DeviceRowKey::filepath).toString(), path);
-    }
-
-    void theEndOfTheProgram()
-    {
-        UpgradeSite test(6);
-        test.site->setFault(test.mac(0), {Fault::NoAnswer});
-        test.site->setFault(test.mac(2), {Fault::UpgradeTakes, 60});
-        test.start({0, 1, 2, 3, 4, 5}, test.file());
-        QVERIFY(test.passUntil([&] { return test.result(1) == UpgradeTools::Writing; }));
-        test.endFactory();
-        QCOMPARE(test.clock->waiters(), 0);
-        QCOMPARE(test.result(2), UpgradeTools::Cut);
-        QCOMPARE(test.site->device(test.mac(2))->version, u"2.840.1"_s);
-        for (int place = 0; place < 6; ++place)
-            QVERIFY(!UpgradeTools::isRunning(test.result(place)));
-        QCOMPARE(test.site->requests().all().last().operation, u"NetCleanup"_s);
     }
 
     void nothingDisturbsADeviceThatIsUpgraded()
@@ -415,25 +290,64 @@ private Q_SLOTS:
         QVERIFY(test.store->row(test.mac(0)).isEmpty());
     }
 
-    void theUpgradedDeviceMayShareItsAddress()
+    void aDocumentIsReported()
     {
         const UpgradeSite test(2);
-        test.store->changeRow(test.mac(0),
-                              [&](QJsonObject &row) { row.insert(DeviceRowKey::ipport, test.ipport(1)); });
-        test.start({1}, test.file());
-        QCOMPARE(test.factory->checkLogin(test.family, test.ipport(1), u"admin"_s, u"secret1"_s),
-                 resultCode(LoginResult::Upgrading));
+        const QString path = test.workbook({{test.address(0), u"37777.0"_s, {}, {}, test.file()},
+                                            {u"192.168.1.77"_s, {}, {}, {}, u"./firmware.bin"_s},
+                                            {},
+                                            {u"192.168.1"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {u"host/../"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {test.address(1), u"70000"_s, {}, {}, u"firmware.bin"_s},
+                                            {test.address(1), u"37777"_s, {}, {}, u"missing.bin"_s},
+                                            {test.address(0), {}, {}, {}, u"firmware.bin"_s},
+                                            {u"fe80::1"_s, u"1"_s, {}, {}, {}},
+                                            {{}, {}, {}, {}, u"firmware.bin"_s},
+                                            {u"192.168.001.11"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {u"192.168.001.012"_s, u"37778"_s, {}, {}, {}},
+                                            {u"::ffff:192.168.1.11"_s, {}, {}, {}, u"firmware.bin"_s},
+                                            {test.address(1), u"37777.9"_s, {}, {}, u"firmware.bin"_s}});
+        QStringList lines;
+        const QVariantList report = test.factory->importUpgradeDocument(test.family, path);
+        for (const QVariant &entry : report) {
+            const QVariantMap line = entry.toMap();
+            lines.append(u"%1 %2 %3 %4"_s.arg(line.value(u"line"_s).toInt())
+                             .arg(line.value(u"address"_s).toString(), line.value(u"mac"_s).toString())
+                             .arg(line.value(u"code"_s).toInt()));
+        }
+        QCOMPARE(lines,
+                 QStringList({u"2 192.168.1.11:37777 02:1a:c5:00:00:01 -1"_s, u"3 192.168.1.77:37777  -1"_s,
+                              u"5 192.168.1:37777  14"_s, u"6 host/../:37777  14"_s,
+                              u"7 192.168.1.12:0  14"_s, u"8 192.168.1.12:37777 02:1a:c5:00:00:02 2"_s,
+                              u"9 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s, u"10 [fe80::1]:1  1"_s,
+                              u"11 :37777  14"_s, u"12 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s,
+                              u"13 192.168.001.012:37778  14"_s,
+                              u"14 192.168.1.11:37777 02:1a:c5:00:00:01 15"_s, u"15 192.168.1.12:0  14"_s}));
+        QCOMPARE(report.at(5).toMap().value(u"reason"_s).toString(), u"升级文件不存在"_s);
+        QCOMPARE(report.at(1).toMap().value(u"file"_s).toString(), test.file());
+        QCOMPARE(test.factory->importError(test.family), QString());
+        QVERIFY(!test.factory->hasDeviceUpgrading());
     }
 
-    void devicesThatLeaveTheTable()
+    void documentsThatAreRefused()
     {
         const UpgradeSite test(1);
-        test.start({0}, test.file());
-        test.store->removeRows({test.mac(0)}); // as a search does
-        test.factory->startUpgrade(test.family, {test.mac(0), u"nobody"_s});
-        QVERIFY(test.passUntilEnd());
-        QVERIFY(test.store->row(test.mac(0)).isEmpty());
-        QCOMPARE(test.site->device(test.mac(0))->version, u"2.900.0"_s);
+        QVERIFY(test.factory->importUpgradeDocument(test.family, test.file()).isEmpty());
+        QCOMPARE(test.factory->importError(test.family), u"文件打开失败"_s);
+        QExcel excel;
+        QVERIFY(excel.createWorkbook() && excel.setCellText(1, 1, u"IP"_s));
+        const QString path = test.folder.filePath(u"other.xlsx"_s);
+        QVERIFY(excel.saveAs(path));
+        QVERIFY(test.factory->importUpgradeDocument(test.family, path).isEmpty());
+        QCOMPARE(test.factory->importError(test.family), u"文件格式错误"_s);
+
+        QList<QStringList> rows(UpgradeDocument::mostLines, {test.address(0)});
+        const QString whole = test.workbook(rows, u"whole.xlsx"_s);
+        rows.insert(5, QStringList()); // does not count
+        rows.append({{}, {}, {}, {}, u"firmware.bin"_s});
+        QCOMPARE(test.factory->importUpgradeDocument(test.family, whole).size(), UpgradeDocument::mostLines);
+        QVERIFY(test.factory->importUpgradeDocument(test.family, test.workbook(rows)).isEmpty());
+        QCOMPARE(test.factory->importError(test.family), u"文档中的设备超过 10000 行，请分成多个文档"_s);
     }
 };
 
