@@ -47,13 +47,9 @@ private Q_SLOTS:
         const auto row = dataTable<int, QString>({"seconds", "text"});
         row("zero", 0, "UTC+00:00");
         row("+8", 28800, "UTC+08:00");
-        row("+5:30", 19800, "UTC+05:30");
         row("+5:45", 20700, "UTC+05:45");
-        row("+14", 50400, "UTC+14:00");
         row("-4", -14400, "UTC-4:00");
-        row("-5", -18000, "UTC-5:00");
         row("-3:30", -12600, "UTC-3:30");
-        row("-10", -36000, "UTC-10:00");
     }
 
     void textOfATimeZone()
@@ -67,9 +63,7 @@ private Q_SLOTS:
         const auto row =
             dataTable<QStringList, bool, QString, bool>({"arguments", "demo", "scene", "understood"});
         row("nothing", QStringList(), false, "office", true);
-        row("demo", QStringList{"--demo"}, true, "office", true);
         row("scene", QStringList{"--demo", "fleet:20"}, true, "fleet:20", true);
-        row("scene after =", QStringList{"--demo=a b.json"}, true, "a b.json", true);
         row("option behind demo", QStringList{"--demo", "--help"}, true, "office", true);
         row("unknown option", QStringList{"--frobnicate"}, false, "office", false);
         row("stray word", QStringList{"office"}, false, "office", false);

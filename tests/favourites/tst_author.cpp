@@ -56,7 +56,6 @@ private Q_SLOTS:
         // cipherText: by another implementation of the cipher
         const auto row = dataTable<QString, QString>({"password", "cipherText"});
         row("short", "admin123", "2de7rNKbNWdLWHtGrPU4tw==");
-        row("empty", "", "LtSmAzuJo5Hd13PbBmat+Q==");
         row("beyond Latin", "pässwörd密码🔑", "km188VPRkWndZfhWHFSTDtY1o0uiZPO59tX/QJVO1xw=");
         row("whole block", "0123456789abcdef", "Gnk6Ka91S3eEiAjqho6ZCC7UpgM7iaOR3ddz2wZmrfk=");
     }
@@ -107,12 +106,9 @@ private Q_SLOTS:
         const auto row = dataTable<QString, QString, QString>({"input", "cleaned", "folder"});
         row("folder", "%1", "%1", ".");
         row("file of the folder", "%1/file", "%1/file", ".");
-        row("missing, without slash", "%1/new", "%1/new", ".");
         row("missing, with slash", "%1/new/", "%1/new/", "new");
-        row("several missing", "%1/new/er/", "%1/new/er/", "new/er");
         row("URL", "file://%1", "%1", ".");
         row("URL of a missing folder", "file://%1/a%20b/", "%1/a b/", "a b");
-        row("path with a percent sign", "%1/a%20b/", "%1/a%20b/", "a%20b");
     }
 
     void choosesTheFolder()
@@ -142,10 +138,7 @@ private Q_SLOTS:
         row("IPv6", "fe80::1%eth0", "80", "fe80::1%eth0_80.json");
         row("way up", "../up", "80", "%2E.%2Fup_80.json");
         row("way up in the port", "a", "/../../up", "a_%2F..%2F..%2Fup.json");
-        row("from the root", "/tmp/up", "80", "%2Ftmp%2Fup_80.json");
-        row("backslashes", "..\\up", "80", "%2E.%5Cup_80.json");
         row("hidden", ".id", "80", "%2Eid_80.json");
-        row("null character", QString("a") + QChar(), "80", "a%00_80.json");
         row("empty", "", "", "_.json");
     }
 
@@ -168,7 +161,6 @@ private Q_SLOTS:
         // input: "%1" is the test's folder
         const auto row = dataTable<QString, QString>({"input", "warning"});
         row("folder below a file", "%1/file/below/", "无法创建目录: \"%1/file/below\"");
-        row("no folder named", "", "无法创建目录: \"\"");
         row("a folder of the file's name", "%1/taken",
             "无法打开文件: \"%1/taken/10.0.0.1_80.json\" - \"Not a regular file\"");
         row("disk full", "%1/full", "无法打开文件: \"%1/full/10.0.0.1_80.json\" - \"File too large\"");
@@ -201,11 +193,8 @@ private Q_SLOTS:
             QString(), QStringList{"", "", "", "", "", "n"});
         row("too long", longest + " ", "文件过大: \"a.json\"", QStringList());
         row("empty", QByteArray(), "文件为空: \"a.json\"", QStringList());
-        row("array", QByteArray("[{}]"), "JSON根元素不是对象: \"a.json\"", QStringList());
         row("cut off", QByteArray(R"({"password": "geheim")"),
             "JSON解析错误 ( \"a.json\" ): \"unterminated string\" at offset 21", QStringList());
-        row("bytes", QByteArray("\xff\x00{}", 4),
-            "JSON解析错误 ( \"a.json\" ): \"illegal value\" at offset 1", QStringList());
         row("deep", QByteArray(100000, '['),
             "JSON解析错误 ( \"a.json\" ): \"too deeply nested document\" at offset 1025", QStringList());
     }
@@ -240,31 +229,6 @@ private Q_SLOTS:
 
         QVERIFY(m_author.deleteFile(path("linked.json")));
         QCOMPARE(read("other.txt"), QByteArray("{}"));
-    }
-
-    void saysWhenThereIsNothingToList()
-    {
-        write("other.txt", "{}");
-        for (const QString &input : {path("missing"), path("other.txt"), QString()}) {
-            logged.clear();
-            QCOMPARE(m_author.readJsonFilesFromFolder(input), QVariantMap());
-            QCOMPARE(logged, QStringList(QString("warning 文件夹不存在: \"%1\"").arg(input)));
-        }
-        logged.clear();
-        QCOMPARE(m_author.readJsonFilesFromFolder(path()), QVariantMap());
-        QCOMPARE(logged, QStringList(QString("debug 文件夹中没有找到JSON文件: \"%1\"").arg(path())));
-    }
-
-    void deletes()
-    {
-        write("a.json", "{}");
-        QVERIFY(m_author.deleteFile(path("a.json")));
-        QVERIFY(!QFile::exists(path("a.json")));
-        QCOMPARE(logged, QStringList("debug 删除"));
-        QVERIFY(!m_author.deleteFile(path("a.json")));
-        QVERIFY(!m_author.deleteFile(path()));
-        QVERIFY(!m_author.deleteFile(QString()));
-        QVERIFY(QFile::exists(path()));
     }
 
 private:

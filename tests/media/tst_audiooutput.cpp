@@ -56,19 +56,6 @@ private Q_SLOTS:
         QCOMPARE(audio.fill(), 0);
     }
 
-    void withoutADeviceNothingPlays()
-    {
-        QObject owner;
-        AudioOutput audio(&owner, [] {});
-        QVERIFY(audio.noteSampleRate(8000));
-        QVERIFY(!audio.noteSampleRate(8000));
-        const std::vector<std::uint8_t> sound(320);
-        audio.push(sound.data(), 320, [] {});
-        audio.reopen();
-        QVERIFY(!audio.isOpen());
-        QCOMPARE(audio.fill(), 0);
-    }
-
     void onlyAViewWithSoundListens()
     {
         FakeLibraries fake;

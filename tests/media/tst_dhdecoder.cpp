@@ -81,41 +81,6 @@ private Q_SLOTS:
         QCOMPARE(fake.calls.take(), QStringList());
     }
 
-    void passesDataAndPictures()
-    {
-        FakeLibraries fake;
-        RecordingObserver observer;
-        CDHDecoder decoder(&observer, fake.decoder, fake.clock);
-        observer.decoder = &decoder;
-        QVERIFY(decoder.Start());
-        fake.calls.take();
-        CDHDecoder::realDataCallback(77, 2, bytesOf("stream"), 6, 9, &decoder); // of whatever type
-        QCOMPARE(fake.calls.take(), QStringList{"DecoderInputData(3, stream)"});
-        fake.calls.failOnly("DecoderInputData"); // no room
-        QVERIFY(!decoder.inputData(bytesOf("more"), 4));
-
-        QVERIFY(fake.decoder->deliver(std::vector<std::uint8_t>(12, 7),
-                                      {.width = 4,
-                                       .height = 2,
-                                       .reserved = 99,
-                                       .type = sdk::DecodedFrameType::Picture,
-                                       .rate = 25,
-                                       .colour = sdk::PictureColour::Bt709Full}));
-        QCOMPARE(observer.last, QString("7 12 4 2 3 25 0"));
-        QCOMPARE(observer.colour, sdk::PictureColour::Bt709Full);
-        fake.decoder->deliver({1, 2}, {.width = 0,
-                                       .height = 0,
-                                       .reserved = 0,
-                                       .type = sdk::DecodedFrameType::Sound,
-                                       .rate = 8000,
-                                       .colour = {}});
-        QCOMPARE(observer.last, QString("1 2 0 0 101 8000 0"));
-
-        const sdk::DecodedFrameInformation information = {};
-        CDHDecoder::decodeCallback(3, bytesOf("x"), 1, &information, nullptr);
-        QCOMPARE(observer.count, 2);
-    }
-
     void countsTheLastSecond()
     {
         FakeLibraries fake;

@@ -154,23 +154,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!QMediaDevices::defaultAudioOutput().isNull());
         QVERIFY(hears(440));
     }
-
-    /// What the output has no room for is lost; what comes after it is heard.
-    void tooMuchAtOnceIsWrittenAllTheSame()
-    {
-        QObject owner;
-        AudioOutput audio(&owner, [] {});
-        audio.noteSampleRate(8000);
-        audio.reopen();
-        QVERIFY(audio.isOpen());
-        MessageLog log;
-        const std::vector<std::uint8_t> sound(102000);
-        audio.push(sound.data(), int(sound.size()), [] {});
-        audio.drain();
-        QCOMPARE(audio.fill(), 0);
-        QCOMPARE(log.take(), QStringList{"RealplayManager::onSlotAudioFrameUpdate m_audioSink->bytesFree() < "
-                                         "m_audioBufferCurSize"});
-    }
 };
 
 QTEST_MAIN(TestSound)

@@ -137,38 +137,19 @@ private Q_SLOTS:
         QCOMPARE(m_item->text(), QString());
     }
 
-    void aDecoderThatDoesNotStartIsNotReported()
-    {
-        m_fake->calls.failOnly("DecoderAllocPort");
-        QVERIFY(m_item->start());
-        QVERIFY(m_fake->net->deliver("dropped"));
-        m_item->stop();
-        QVERIFY(m_fake->calls.take().endsWith("NetStopRealStream(77)"));
-    }
-
-    void withoutALibraryAStartFails_data()
-    {
-        const auto row = dataTable<bool, bool>({"hasNet", "hasDecoder"});
-        row("no network library", false, true);
-        row("no decoder library", true, false);
-        row("none", false, false);
-    }
-
     void withoutALibraryAStartFails()
     {
-        QFETCH(bool, hasNet);
-        QFETCH(bool, hasDecoder);
-        sdk::SdkLibraries libraries;
-        if (hasNet)
-            libraries.net = m_fake->net;
-        if (hasDecoder)
-            libraries.decoder = m_fake->decoder;
-        VideoItem::registerLibraries(libraries);
-        VideoItem item;
-        QVERIFY(!item.start());
-        QCOMPARE(item.text(), QString("播放失败"));
-        QVERIFY(!item.savePicture("x.jpg", 50));
-        item.stop();
+        sdk::SdkLibraries onlyNet;
+        onlyNet.net = m_fake->net;
+        sdk::SdkLibraries onlyDecoder;
+        onlyDecoder.decoder = m_fake->decoder;
+        for (const sdk::SdkLibraries &libraries : {onlyNet, onlyDecoder}) {
+            VideoItem::registerLibraries(libraries);
+            VideoItem item;
+            QVERIFY(!item.start());
+            QCOMPARE(item.text(), QString("播放失败"));
+            QVERIFY(!item.savePicture("x.jpg", 50));
+        }
     }
 
     void theSubStreamAndAnotherStart()
@@ -230,9 +211,7 @@ private Q_SLOTS:
         const auto row = dataTable<int, int, int>({"width", "height", "bytes"});
         row("a byte short", 5, 3, 15 + 2 * 6 - 1);
         row("negative", -4, -2, 12);
-        row("no height", 4, 0, 12);
         row("overflowing", 65536, 65536, 12);
-        row("huge", 0x7fffffff, 0x7fffffff, 12);
     }
 
     void believesNoSize()

@@ -62,10 +62,6 @@ private Q_SLOTS:
         row("over a number", 2, 2,
             "<row r='2' spans='2:4'><c r='B2' s='2' " + text +
                 "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>");
-        row("before all rows", 1, 1,
-            "<row r='1'><c r='A1' " + plainText +
-                "</row><row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
-                "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>");
         row("after all rows", 9, 2,
             "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c><c r='D2' t='b'>"
             "<v>1</v></c></row><row><c><v>5</v></c></row><row r='9'><c r='B9' s='3' " +
@@ -121,54 +117,6 @@ private Q_SLOTS:
         QCOMPARE(after.removeIf(isSheet), 1);
         QCOMPARE(after, before);
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList("changed.xlsx"));
-    }
-
-    void savesAFileThatWasOnlyRead()
-    {
-        const Parts parts = styledWorkbook("<row><c><v>1</v></c></row>");
-        QVERIFY(writeArchive(m_path, parts));
-        QExcel excel(std::make_unique<sheets::FileSheetEngine>());
-        QVERIFY(excel.open(m_path));
-        const QString copy = m_folder.filePath("copy.xlsx");
-        QVERIFY(excel.saveAs(copy));
-        QCOMPARE(fileContents(copy), fileContents(m_path));
-        QVERIFY(QFile::remove(copy));
-    }
-
-    void changesLooks()
-    {
-        Parts after =
-            changed(styledWorkbook("<row r=\"1\"><c r=\"A1\" s=\"1\"><v>1</v></c></row>"), [](QExcel &excel) {
-                return excel.setBold(CellRange::cell(1, 1), true) && // is so already
-                       excel.setFontSize({{1, 1}, {1, 2}}, 12.5) &&
-                       excel.setWrapText({{1, 1}, {1, 2}}, true) &&
-                       excel.setBold(CellRange::cell(1, 1), false) && excel.setRowHeight(1, 30.5) &&
-                       excel.setRowHeight(3, 15);
-            });
-        QCOMPARE(
-            after[sheetPart].mid(after[sheetPart].indexOf("<sheetData>")),
-            "<sheetData><row r=\"1\" ht=\"30.5\" customHeight=\"1\"><c r=\"A1\" s=\"7\"><v>1</v></c>"
-            "<c r=\"B1\" s=\"6\"/></row><row r=\"3\" ht=\"15\" customHeight=\"1\"/></sheetData></worksheet>");
-        const QByteArray styles = after[stylesPart];
-        QVERIFY2(styles.contains("<fonts count=\"5\">") && styles.contains("<cellXfs count=\"8\">"),
-                 styles.constData());
-        QVERIFY2(styles.contains("<font><sz val=\"12.5\"/><name val=\"Arial\"/></font></fonts>"),
-                 styles.constData());
-        QVERIFY2(styles.endsWith(
-                     "<xf numFmtId=\"0\" fontId=\"4\" applyFont=\"1\" applyAlignment=\"1\">"
-                     "<alignment wrapText=\"1\"/><protection locked=\"0\"/></xf></cellXfs></styleSheet>"),
-                 styles.constData());
-    }
-
-    void beginsAStyleSheet()
-    {
-        Parts after =
-            changed(smallWorkbook(""), [](QExcel &excel) { return excel.setCellText(1, 1, "007"); });
-        QVERIFY(after[stylesPart].contains("numFmtId=\"49\""));
-        QVERIFY(after["[Content_Types].xml"].contains("\"/xl/styles.xml\""));
-        const QByteArray relations = after["xl/_rels/workbook.xml.rels"];
-        QVERIFY2(relations.contains("relationships/styles\" Target=\"styles.xml\""), relations.constData());
-        QCOMPARE(relations.count("Id=\"rId1\""), 1);
     }
 
     void mergesAtTheRightPlace()

@@ -33,7 +33,6 @@ private Q_SLOTS:
         const auto row = dataTable<int>({"lastMergedRow"});
         row("nothing merged", 0);
         row("merged in one row", 1);
-        row("merged across rows", 2);
     }
 
     void keepsTexts()
@@ -120,19 +119,6 @@ private Q_SLOTS:
         QVERIFY(!excel.errorText().isEmpty());
         excel.quit();
         QVERIFY(!excel.setCellText(1, 1, "x"));
-    }
-
-    void mergesNoCellTwice()
-    {
-        QExcel excel(fileEngine());
-        QVERIFY(excel.createWorkbook());
-        QVERIFY(excel.mergeCells({{1, 1}, {3, 3}}));
-        QVERIFY(excel.mergeCells({{1, 1}, {3, 3}})); // the same once more changes nothing
-        QVERIFY(!excel.mergeCells({{3, 3}, {4, 4}}));
-        QVERIFY(excel.mergeCells(CellRange::cell(2, 2)));
-        QVERIFY(excel.mergeCells({{4, 1}, {4, 3}}));
-        QVERIFY2(excel.saveAs(m_path), qPrintable(excel.errorText()));
-        QCOMPARE(readArchive(m_path)["xl/worksheets/sheet1.xml"].count("<mergeCell "), 2);
     }
 
     void leavesTheFileWhenItCannotBeWritten()

@@ -119,13 +119,10 @@ private Q_SLOTS:
         const QStringList nothing = {"accountField", "", "portField", ""};
         row("no ID", "openP2p", nothing, "请输入P2P ID");
         row("no address", "openIp", nothing, "请输入正确的IP");
-        row("part of an address", "openIp", {"addressField", "10.0.0"}, "请输入正确的IP");
         row("no account", "openP2p", QStringList{"p2pIdField", "OV7"} + nothing, "请输入账号");
         row("no password", "openIp", {"addressField", "10.0.0.1", "portField", ""}, "请输入密码");
         row("no port", "openP2p", {"p2pIdField", "OV7", "devicePasswordField", "p", "portField", ""},
             "请输入端口");
-        row("port 0", "openP2p", {"p2pIdField", "OV7", "devicePasswordField", "p", "portField", "0"},
-            "端口范围为1到65535");
         row("port 65536", "openP2p", {"p2pIdField", "OV7", "devicePasswordField", "p", "portField", "65536"},
             "端口范围为1到65535");
     }
@@ -149,9 +146,7 @@ private Q_SLOTS:
         row("address", "openIp", {}, "设备已添加/1");
         row("listed already", "openIp", {.result = 13, .text = {}}, "设备已存在/2");
         row("wrong password", "openIp", {.result = 2, .text = {}}, "密码错误/2");
-        row("not supported", "openIp", {.result = 12, .text = {}}, "");
         row("ID", "openP2p", {}, "设备已添加/1");
-        row("ID, locked", "openP2p", {.result = 3, .text = {}}, "账号被锁定/2");
         row("ID, no port", "openP2p", {.result = 5, .text = "no port"}, "");
     }
 

@@ -126,11 +126,8 @@ private Q_SLOTS:
     void whatTimeDoesNotMendIsNotTriedAgain_data()
     {
         const auto row = dataTable<int>({"result"});
-        row("no such account", 1);
         row("wrong password", 2);
         row("account locked", 3);
-        row("account logged in", 4);
-        row("another protocol", 6);
         row("not initialised", 7);
     }
 

@@ -145,21 +145,6 @@ private Q_SLOTS:
         QVERIFY(!get("connecting").toBool());
         QCOMPARE(m_net->started.size(), 1);
     }
-
-    void quickStartsAndStopsLeaveNothing()
-    {
-        m_fake->calls.take();
-        for (int round = 0; round < 100; ++round) {
-            set("active", true);
-            if (round % 2 == 0)
-                answer(true);
-            set("active", false);
-        }
-        const QStringList calls = m_fake->calls.take();
-        QCOMPARE(m_net->started.size(), 50);
-        QCOMPARE(calls.count("NetStopRealStream(77)"), 50);
-        QCOMPARE(calls.filter("DecoderFreePort").size(), 50);
-    }
 };
 
 QTEST_MAIN(TestMediaPlayer)
