@@ -156,16 +156,6 @@ private Q_SLOTS:
         const AutoMaintainRecord byteOutOfRange{sizeof(AutoMaintainRecord), 0, 0, 0, {}, 2, {}};
         QVERIFY(!packConfigText("AutoMaintain", &byteOutOfRange, sizeof(byteOutOfRange)));
 
-        // A text that does not fit with its zero leaves the buffer as it was.
-        record.enabled = 1;
-        const qsizetype length = packConfigText("Https", &record, sizeof(record))->size();
-        QByteArray buffer(length + 1, 'x');
-        ConfigTextLibrary library;
-        QVERIFY(!library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length)));
-        QCOMPARE(buffer, QByteArray(length + 1, 'x'));
-        QVERIFY(library.ConfigPackData("Https", &record, sizeof(record), buffer.data(), quint32(length) + 1));
-        QCOMPARE(buffer.back(), '\0');
-
         NetworkRecord broken = {};
         broken.hostName.fill('\xe5'); // half letters to the last byte
         const std::optional<QByteArray> text = packConfigText("Network", &broken, sizeof(broken));

@@ -1,18 +1,13 @@
-// Scenes: reading them, what the built-in ones promise, and fleets.
+// Scenes: what is said of mistakes in their files and names.
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fleetgenerator.h"
 #include "sdk/demo/scenereader.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSet>
 #include <QTemporaryDir>
-
-#include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 using namespace sdk::demo;
@@ -101,53 +96,6 @@ private Q_SLOTS:
         QVERIFY(!SceneReader::read(json, nullptr));
     }
 
-    void readsEveryKey()
-    {
-        QString error;
-        const std::optional<Scene> scene = SceneReader::read(R"({"title": "T", "description": "D",
-        "localAddress": "10.1.1.1", "localIpv6": "fe80:0::1",
-        "devices": [{"mac": "02:1A:C5:00:40:17", "address": "10.0.0.9", "ipv6": "FD00:0:0::9/56",
-        "mask": "255.255.0.0", "gateway": "10.0.0.1", "dhcp": true, "p2pId": "OV1", "port": 65535, "httpPort": 0,
-        "httpAuthentication": "basic",
-        "name": "大门", "type": "NVR", "model": "R-1", "version": "2.1", "serial": "S1",
-        "initialised": "unreported", "resetWay": "mail", "accounts": [{"user": "admin", "password": "p"}],
-        "channels": [{"connected": false}, {"name": "C2"}], "capabilities": {"a": 1}, "configuration": {"b": 2},
-        "latency": 0, "segment": "other", "knowsFirstSearch": false,
-        "faults": ["oddBytes", {"name": "lateAnswer", "value": 70}]},
-        {"mac": "02:1a:c5:00:40:18", "ipv6": "fd00::a", "type": "IPC", "port": 1, "channels": 3,
-         "segment": "remote", "p2pId": "OV2"}]})",
-                                                             &error);
-        QVERIFY2(scene.has_value(), qPrintable(error));
-        QCOMPARE(scene->title + scene->description + scene->localAddress + scene->localIpv6,
-                 u"TD10.1.1.1fe80::1"_s);
-        QCOMPARE(scene->devices.size(), 2);
-
-        const SceneDevice &full = scene->devices.first();
-        QCOMPARE(QStringList({full.mac, full.address, full.ipv6, full.mask, full.gateway}),
-                 QStringList(
-                     {u"02:1a:c5:00:40:17"_s, u"10.0.0.9"_s, u"fd00::9"_s, u"255.255.0.0"_s, u"10.0.0.1"_s}));
-        QCOMPARE(QStringList({full.name, full.type, full.model, full.version, full.serial}),
-                 QStringList({u"大门"_s, u"NVR"_s, u"R-1"_s, u"2.1"_s, u"S1"_s}));
-        QCOMPARE(QList<int>({full.ipv6PrefixLength, full.port, full.httpPort, full.resetWay}),
-                 QList<int>({56, 65535, 0, 2}));
-        QCOMPARE(full.httpAuthentication, HttpAuthenticationKind::Basic);
-        QVERIFY(full.dhcp && full.inOtherSegment && !full.isRemote && !full.knowsFirstSearch);
-        QCOMPARE(full.initialisation, sdk::InitialisationBits::NotReported);
-        QCOMPARE(full.latency.count(), 0);
-        QCOMPARE(full.accounts.first().user + full.accounts.first().password, u"adminp"_s);
-        QVERIFY(!full.channels.at(0).connected && full.channels.at(1).connected);
-        QCOMPARE(full.capabilities.value(u"a").toInt() + full.configuration.value(u"b").toInt(), 3);
-        QVERIFY(full.hasFault(Fault::OddBytes) && !full.hasFault(Fault::NoAnswer));
-        QCOMPARE(full.fault(Fault::LateAnswer)->number, 70);
-
-        const SceneDevice &sparse = scene->devices.last();
-        QVERIFY(sparse.address.isEmpty() && !sparse.dhcp && sparse.isRemote && sparse.knowsFirstSearch);
-        QVERIFY(sparse.inOtherSegment); // out of reach of local searches as well
-        QCOMPARE(full.p2pId + sparse.p2pId, u"OV1OV2"_s);
-        QCOMPARE(sparse.initialisation, sdk::InitialisationBits::Initialised);
-        QCOMPARE(sparse.channels.size(), 3);
-    }
-
     void opensFilesAndNamesMistakes()
     {
         QTemporaryDir directory;
@@ -177,33 +125,6 @@ private Q_SLOTS:
                 QVERIFY2(error.contains(word), qPrintable(u"%1 | lacks: %2"_s.arg(error, word)));
             QVERIFY(!openSite(name, nullptr));
         }
-    }
-
-    void fleetIsUniqueAndMixed()
-    {
-        QString error;
-        const std::shared_ptr<DemoSite> site = openSite(u"fleet:20000"_s, &error);
-        QVERIFY2(site != nullptr, qPrintable(error));
-        QSet<QString> macs;
-        QSet<QString> addresses;
-        QSet<QString> types;
-        int uninitialised = 0;
-        std::array<int, 5> answersOfHalfSecond = {};
-        for (const SceneDevice &device : site->devices()) {
-            macs.insert(device.mac);
-            addresses.insert(device.address);
-            types.insert(device.type);
-            QVERIFY(device.address.startsWith(u"10."));
-            uninitialised += device.initialisation == sdk::InitialisationBits::Uninitialised ? 1 : 0;
-            ++answersOfHalfSecond[static_cast<std::size_t>(
-                std::clamp<qint64>(device.latency.count() / 500, 0, 4))];
-        }
-        QCOMPARE(macs.size(), maximumSceneDevices);
-        QCOMPARE(addresses.size(), maximumSceneDevices);
-        QCOMPARE(types.size(), 8);
-        QVERIFY2(uninitialised > 2000 && uninitialised < 4000, qPrintable(QString::number(uninitialised)));
-        for (const int answers : answersOfHalfSecond)
-            QVERIFY2(answers > 3000, qPrintable(QString::number(answers)));
     }
 };
 

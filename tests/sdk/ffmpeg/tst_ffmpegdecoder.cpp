@@ -125,19 +125,6 @@ private Q_SLOTS:
         QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are the stream's
     }
 
-    void convertsRgb()
-    {
-        LiveStream stream(PictureFormat{.encoder = "libx264rgb", .pixels = AV_PIX_FMT_RGB24});
-        TestPort port;
-        const Patches rgb{{{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 255}}}};
-        const Patches bt601{{{{82, 90, 240}, {145, 54, 34}, {41, 240, 110}, {235, 128, 128}}}};
-        QVERIFY(port.push(stream.head() + stream.picture(rgb)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 1);
-        QCOMPARE(port.receiver.pictures().first().information.colour, PictureColour::Bt601Limited);
-        const double off = distance(port.receiver.pictures().first(), bt601);
-        QVERIFY2(off < nearEnough, qPrintable(QString::number(off)));
-    }
-
     void sound_data()
     {
         const auto row = dataTable<SoundFormat, QString>({"format", "codec"});
