@@ -58,18 +58,6 @@ private Q_SLOTS:
 
     void cleanup() { QDesktopServices::unsetUrlHandler("file"); }
 
-    void aFirstStartWritesTheDefaults()
-    {
-        const CLocalConfig config(m_directory->path());
-        QSettings settings(path("LocalConfig.ini"), QSettings::IniFormat);
-        QStringList keys = settings.allKeys();
-        keys.sort();
-        QCOMPARE(keys, QStringList({"language/name", "searchConfig/endIP", "searchConfig/localDomain",
-                                    "searchConfig/otherDomain", "searchConfig/pass", "searchConfig/startIP",
-                                    "searchConfig/username"}));
-        QCOMPARE(settingsOf(config), "|1|0|192.168.1.1|192.168.1.255|admin|739164");
-    }
-
     void settingsAreOnDiskAtOnceAndReadAfresh()
     {
         CLocalConfig config(m_directory->path());
@@ -156,16 +144,6 @@ private Q_SLOTS:
         QTEST(CLocalConfig(m_directory->path()).upgradesAtOnce(), "atOnce");
     }
 
-    void aFolderInPlaceOfTheFileLosesWritesOnly()
-    {
-        QVERIFY(QDir().mkpath(path("LocalConfig.ini")));
-        CLocalConfig config(m_directory->path());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write"));
-        config.setLanguage("en_US");
-        QCOMPARE(config.getLanguage(), "");
-        QVERIFY(QFileInfo(path("LocalConfig.ini")).isDir());
-    }
-
     /// The old settings fit on the disk, the new ones do not.
     void aFullDiskLosesWritesOnly()
     {
@@ -230,19 +208,6 @@ private Q_SLOTS:
         config.setLanguage(stored);
         QCOMPARE(resolveLanguage(config, system), code);
         QCOMPARE(config.getLanguage(), code);
-    }
-
-    void helpOpensTheDocumentOfTheLanguage()
-    {
-        CLocalConfig config(m_directory->path());
-        write(path("documents/manual_zh_CN.pdf"));
-        config.setCurrentLanguage("zh_CN");
-        config.OpenHelpFile();
-        config.OpenQAFile(); // is not there: English is opened without a test
-        config.setCurrentLanguage("fr_FR");
-        config.OpenHelpFile();
-        QCOMPARE(m_opened, QStringList({"documents/manual_zh_CN.pdf", "documents/QA_en_US.pdf",
-                                        "documents/manual_en_US.pdf"}));
     }
 
     void theLockIsHeldByOneLivingProcess()

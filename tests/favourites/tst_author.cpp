@@ -6,7 +6,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -86,18 +85,6 @@ private Q_SLOTS:
         QCOMPARE(logged, (QStringList{QString("debug 文件已保存到: \"%1\"").arg(path("10.0.0.1_37777.json")),
                                       QString("debug 原始输入路径: \"%1\"").arg(path()),
                                       QString("debug 清理后路径: \"%1\"").arg(path())}));
-    }
-
-    void overwritesTheSameDevice()
-    {
-        m_author.saveTextAsJson(path(), "0", "10.0.0.1", "80", "admin", "first", QString(500, 'n'));
-        m_author.saveTextAsJson(path(), "1", "10.0.0.1", "80", "root", "second", "");
-        m_author.saveTextAsJson(path(), "0", "10.0.0.1", "81", "admin", "third", "");
-        const QVariantMap expected = {
-            {"10.0.0.1_80.json", QStringList{"1", "10.0.0.1", "80", "root", "second", ""}},
-            {"10.0.0.1_81.json", QStringList{"0", "10.0.0.1", "81", "admin", "third", ""}},
-        };
-        QCOMPARE(m_author.readJsonFilesFromFolder(path()), expected);
     }
 
     void choosesTheFolder_data()

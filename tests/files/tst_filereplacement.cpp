@@ -9,10 +9,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace {
-
-} // namespace
-
 class TestFileReplacement : public QObject
 {
     Q_OBJECT

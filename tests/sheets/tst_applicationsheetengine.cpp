@@ -84,33 +84,6 @@ private Q_SLOTS:
         QCOMPARE(record.alive, alive); // no object is left over for each cell
     }
 
-    void reportsRefusals_data()
-    {
-        const auto row = dataTable<QString, QString>({"refused", "missing"});
-        const QString cell = sheet + ".Cells(int,int) 1 1";
-        for (const QString &call :
-             {app + ".Workbooks.Add", cell, cell + ".NumberFormat = @", cell + ".SetValue(const QString&) x",
-              book + ".SaveAs(const QString&) /x.xlsx"})
-            row(qPrintable(call), call, QString());
-        for (const char *name :
-             {"Workbooks", "ActiveWorkBook", "WorkSheets", "ActiveSheet", "Cells(int,int)"})
-            row(name, QString(), QString(name));
-    }
-
-    void reportsRefusals()
-    {
-        QFETCH(QString, refused);
-        QFETCH(QString, missing);
-        AxRecord::instance().refused = refused;
-        AxRecord::instance().missing = missing;
-        QExcel excel(std::make_unique<ApplicationSheetEngine>());
-        QVERIFY(!(excel.createWorkbook() && excel.setCellText(1, 1, "x") && excel.saveAs("/x.xlsx")));
-        QVERIFY2(excel.errorText().contains(missing.isEmpty() ? QString("no room") : missing),
-                 qPrintable(excel.errorText()));
-        excel.quit();
-        QCOMPARE(AxRecord::instance().alive, 0);
-    }
-
     void noticesThatThereIsNoApplication()
     {
         AxRecord::instance().isInstalled = false;

@@ -2,7 +2,6 @@
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
 #include "tests/datatable.h"
-#include "tests/files/filecontents.h"
 #include "workbookfiles.h"
 
 #include <QDir>
@@ -119,23 +118,6 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList("changed.xlsx"));
     }
 
-    void mergesAtTheRightPlace()
-    {
-        Parts parts =
-            smallWorkbook("<row r=\"1\"><c r=\"A1\"><v>1</v></c><c r=\"B1\" s=\"0\"><v>2</v></c></row>");
-        parts[sheetPart].replace("</sheetData>",
-                                 "</sheetData><autoFilter ref=\"A1:B1\"/><pageMargins left=\"1\"/>");
-        Parts after = changed(parts, [](QExcel &excel) {
-            return excel.mergeCells({{1, 1}, {1, 3}}) && excel.mergeCells({{5, 1}, {6, 1}}) &&
-                   !excel.mergeCells({{1, 3}, {2, 3}});
-        });
-        QVERIFY2(
-            after[sheetPart].contains(
-                "<c r=\"A1\"><v>1</v></c><c r=\"B1\" s=\"0\"/></row></sheetData><autoFilter ref=\"A1:B1\"/>"
-                "<mergeCells count=\"2\"><mergeCell ref=\"A1:C1\"/><mergeCell ref=\"A5:A6\"/></mergeCells>"),
-            after[sheetPart].constData());
-    }
-
     void takesFormulasOutOfTheCalculationChain()
     {
         Parts parts = styledWorkbook(
@@ -176,26 +158,6 @@ private Q_SLOTS:
                 "y</x:t></x:is></x:c>"
                 "</x:row><x:row r=\"3\"><x:c r=\"A3\" s=\"1\"/></x:row></x:sheetData>"
                 "<x:mergeCells count=\"1\"><x:mergeCell ref=\"A4:B4\"/></x:mergeCells></x:worksheet>");
-    }
-
-    void changesEverySheet()
-    {
-        Parts parts = styledWorkbook("<row><c><v>1</v></c></row>");
-        parts["xl/worksheets/sheet2.xml"] = parts[sheetPart];
-        parts["xl/workbook.xml"].replace("<sheets>",
-                                         "<sheets><sheet name=\"Two\" sheetId=\"2\" r:id=\"r9\"/>");
-        parts["xl/_rels/workbook.xml.rels"].replace(
-            "<Relationship Id=\"r7\"",
-            "<Relationship Id=\"r9\" Type=\"x/worksheet\" Target=\"worksheets/sheet2.xml\"/>"
-            "<Relationship Id=\"r7\"");
-        Parts after = changed(parts, [](QExcel &excel) {
-            return excel.setCellText(1, 1, "first") && excel.selectSheet(2) && excel.cellText(1, 1) == "1" &&
-                   excel.setCellText(1, 1, "second") && !excel.selectSheet(3) && !excel.selectSheet(0) &&
-                   excel.cellText(1, 1) == "second" && excel.selectSheet(1) &&
-                   excel.cellText(1, 1) == "first";
-        });
-        QVERIFY(after["xl/worksheets/sheet2.xml"].contains(">first<")); // the order is that of the workbook
-        QVERIFY(after[sheetPart].contains(">second<"));
     }
 };
 

@@ -1,5 +1,6 @@
 // A workbook that is begun, filled and saved is read back as it was meant.
 #include "sheets/filesheetengine.h"
+#include "sheets/keptworkbook.h"
 #include "sheets/qexcel.h"
 #include "tests/datatable.h"
 #include "workbookfiles.h"
@@ -7,7 +8,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <cmath>
 #include <limits>
 
 using sheets::CellRange;
@@ -131,6 +131,42 @@ private Q_SLOTS:
         QVERIFY(!excel.save()); // a path that failed is not kept
         QVERIFY(excel.saveAs(m_path));
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), 1); // nothing is left beside it
+    }
+
+    /// A workbook that took work to fill is kept somewhere, whatever became of its file.
+    void aFilledWorkbookIsKept_data()
+    {
+        // isFolderInTheWay: a folder has taken the name of the file
+        // kept: below the home folder
+        const auto row = dataTable<bool, bool, QString>({"isFolderGone", "isFolderInTheWay", "kept"});
+        row("in its file", false, false, "work/list.xlsx");
+        row("beside it", false, true, "work/list_Result.xlsx");
+        row("among the documents, which were not there", true, false, "Documents/list_Result.xlsx");
+    }
+
+    void aFilledWorkbookIsKept()
+    {
+        QFETCH(const bool, isFolderGone);
+        QFETCH(const bool, isFolderInTheWay);
+        QFETCH(const QString, kept);
+        const QTemporaryDir home;
+        qputenv("HOME", home.path().toUtf8());
+        const QDir folder(home.filePath("work"));
+        QVERIFY(QDir().mkpath(folder.path()));
+        QString path = folder.filePath("list.xlsx");
+        QExcel workbook;
+        QVERIFY(workbook.createWorkbook() && workbook.saveAs(path));
+        QVERIFY(workbook.setCellText(1, 1, "done"));
+        if (isFolderGone)
+            QVERIFY(QDir(folder).removeRecursively());
+        if (isFolderInTheWay)
+            QVERIFY(QFile::remove(path) && QDir().mkpath(path + "/x"));
+
+        QVERIFY2(keepWorkbook(workbook, path, "Result"), qPrintable(workbook.errorText()));
+        QCOMPARE(path, home.filePath(kept));
+        QExcel reader;
+        QVERIFY(reader.open(path));
+        QCOMPARE(reader.cellText(1, 1), "done");
     }
 };
 

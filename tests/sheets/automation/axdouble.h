@@ -11,8 +11,6 @@ struct AxRecord
 {
     QStringList calls;                ///< "path what arguments", in order
     QHash<QString, QVariant> answers; ///< values of properties by "path.name"
-    QString refused;                  ///< the call, by the same text, that ends in an exception
-    QString missing;                  ///< the name of an object that there is none of
     bool isInstalled = true;
     int alive = 0; ///< objects that are held
 
@@ -37,7 +35,7 @@ public:
     {
         const QString label = labelOf(name, first, second);
         note(label);
-        return AxRecord::instance().missing == name ? nullptr : new QAxObject(m_path + '.' + label, this);
+        return new QAxObject(m_path + '.' + label, this);
     }
 
     QVariant dynamicCall(const char *function, const QVariant &first = {}, const QVariant &second = {})
@@ -62,8 +60,7 @@ Q_SIGNALS:
     void exception(int code, const QString &source, const QString &description, const QString &help);
 
 private:
-    QAxObject(const QString &path, QAxObject *owner)
-        : QObject(owner), m_path(path), m_application(owner ? owner->m_application : this)
+    QAxObject(const QString &path, QAxObject *owner) : QObject(owner), m_path(path)
     {
         ++AxRecord::instance().alive;
     }
@@ -78,14 +75,7 @@ private:
         return label;
     }
 
-    void note(const QString &what)
-    {
-        const QString call = m_path + '.' + what;
-        AxRecord::instance().calls += call;
-        if (call == AxRecord::instance().refused)
-            Q_EMIT m_application->exception(7, "application", "no room", QString());
-    }
+    void note(const QString &what) { AxRecord::instance().calls += m_path + '.' + what; }
 
     const QString m_path;
-    QAxObject *const m_application;
 };
