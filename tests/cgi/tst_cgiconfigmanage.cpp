@@ -8,11 +8,7 @@
 #include "tests/sheets/workbookfiles.h"
 
 #include <QDir>
-#include <QElapsedTimer>
-#include <QJSEngine>
-#include <QJsonObject>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTranslator>
 #include <QUrl>
 
@@ -150,24 +146,6 @@ private Q_SLOTS:
         QCOMPARE(next.favourites(), QStringList("/cgi-bin/东"));
         QCOMPARE(m_manager->recentCommands(), next.recent());
         QCOMPARE(m_manager->favouriteCommands(), next.favourites());
-    }
-
-    void aMemoryThatIsNoneIsEmpty_data()
-    {
-        const auto row = dataTable<QByteArray>({"text"});
-        row("cut off", QByteArray("{\"recent\": [\"/a"));
-        row("array", QByteArray("[1, 2]"));
-        row("other types", QByteArray("{\"recent\": {\"a\": 1}, \"favourites\": [1, null, \"\"]}"));
-    }
-
-    void aMemoryThatIsNoneIsEmpty()
-    {
-        QFETCH(QByteArray, text);
-        const QString place = m_folder->filePath("memory.json");
-        QVERIFY(writeFile(place, text));
-        const CommandMemory memory(place);
-        QCOMPARE(memory.recent(), QStringList());
-        QCOMPARE(memory.favourites(), QStringList());
     }
 
     /// The template of each language is a workbook of commands there, under the name that the page opens.

@@ -366,16 +366,6 @@ private Q_SLOTS:
         QCOMPARE(savedFiles(), QStringList("20260309070501.partial.dav"));
     }
 
-    void aDeviceThatIsNotThereIsToldSoon()
-    {
-        QString url;
-        {
-            RawServer server([](const RawExchange &) {});
-            url = server.url("/cgi-bin/a");
-        }
-        QVERIFY(run(url).startsWith("Error:"));
-    }
-
     /// Devices are asked directly, unless the program itself names a proxy. A tunnel is, even then.
     void onlyTheProgramsOwnProxyIsUsed()
     {

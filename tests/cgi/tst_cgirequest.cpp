@@ -1,6 +1,5 @@
 // What a command becomes on its way out, and what its answer's headers say.
 #include "cgi/answerkind.h"
-#include "cgi/cgiprocedure.h"
 #include "cgi/cgirequest.h"
 #include "tests/datatable.h"
 
@@ -102,23 +101,6 @@ private Q_SLOTS:
             "HTTP/1.1 200 OK\r\nContent-Type: " +
             type + "\r\nX-Other: charset=Big5\r\n\r\n";
         QTEST(answerText(headers, body), "text");
-    }
-
-    void loginsForbidCommands_data()
-    {
-        const auto row = dataTable<int, QString>({"code", "refusal"});
-        row("unknown to the back end", -1, "");
-        row("wrong password", 2, "账号或密码错误。");
-        row("locked", 3, "设备被锁定。");
-        row("network", 5, "网络连接失败。");
-        row("not initialised", 7, "设备未初始化。");
-        row("unknown error", 99, "未知错误。");
-    }
-
-    void loginsForbidCommands()
-    {
-        QFETCH(int, code);
-        QTEST(CgiProcedure::loginRefusal(code), "refusal");
     }
 };
 

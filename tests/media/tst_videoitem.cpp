@@ -3,7 +3,6 @@
 #include "tests/datatable.h"
 #include "tests/media/fakelibraries.h"
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QThread>
 
@@ -72,23 +71,6 @@ private Q_SLOTS:
     }
 
     void cleanupTestCase() { CDeviceFactory::deleteInstance(); }
-
-    /// The scene and other programs may connect by index.
-    void signalsAndSlotsKeepTheirOrder()
-    {
-        const QMetaObject &meta = VideoItem::staticMetaObject;
-        QStringList names;
-        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
-            names.append(QString::fromLatin1(meta.method(index).name()));
-        QCOMPARE(
-            names.mid(0, 11).join(' '),
-            "isAudioOutputChanged isLoginHandleChanged videoInfoChangedSig fillModeChanged channelIdChanged "
-            "videoErrorSig urlChanged sigVideoDataChanged sigAudioDataChanged textChanged "
-            "sigSampleRateChanged");
-        QCOMPARE(names.mid(names.indexOf("start"), 8).join(' '),
-                 "start stop onSigVideoDataChanged onSizeChanged onSigAudioDataChanged onAudioFormatChanged "
-                 "changeScale drag");
-    }
 
     void startsAndStopsStepByStep_data()
     {
@@ -227,31 +209,6 @@ private Q_SLOTS:
         deliver(picture);
         m_item->currentPicture().lookAt([](const DecodedPicture &held) { QVERIFY(!held.isWhole()); });
         QVERIFY(!m_item->savePicture("x.jpg", 50));
-    }
-
-    void saysWhenNoPictureComes()
-    {
-        QSignalSpy errors(m_item.get(), &VideoItem::videoErrorSig);
-        const auto passes = [this](std::chrono::milliseconds time) {
-            m_fake->clock->advance(time);
-            const int looks = m_fake->clock->looks;
-            QTRY_VERIFY(m_fake->clock->looks >= looks + 2);
-        };
-        QVERIFY(m_item->start());
-        passes(7900ms);
-        QCOMPARE(errors.size(), 0);
-        passes(200ms);
-        QCOMPARE(errors.size(), 1);
-        passes(60s); // said once
-        QCOMPARE(errors.size(), 1);
-        deliver({6, 4, 50, 128, 128});
-        passes(3900ms);
-        QCOMPARE(errors.size(), 1);
-        passes(200ms);
-        QCOMPARE(errors.size(), 2);
-        QVERIFY(m_item->start()); // the silence of before does not count
-        passes(7900ms);
-        QCOMPARE(errors.size(), 2);
     }
 
     /// A view that is never shown, on a thread that sleeps between its tries, as snapshots need it.

@@ -7,7 +7,6 @@
 #include <QImage>
 #include <QOpenGLContext>
 #include <QQuickWindow>
-#include <QSignalSpy>
 #include <QSurfaceFormat>
 
 #include <cmath>
@@ -221,27 +220,6 @@ private Q_SLOTS:
         m_seen = m_window->grabWindow();
         QCOMPARE(instead(0.01, 0.1, QColor(60, 60, 60)), QString());
         QCOMPARE(instead(0.99, 0.9, QColor(180, 180, 180)), QString());
-    }
-
-    void zoomsAndPans()
-    {
-        deliver(cells(160, 90, 2, 2));
-        for (int notch = 0; notch < 8; ++notch)
-            m_item->changeScale(1, {0.75 * viewSize.width(), 0.25 * viewSize.height()});
-        m_seen = m_window->grabWindow();
-        // The middle of the upper right cell stayed under the pointer and fills all but the edges.
-        QCOMPARE(instead(0.75, 0.25, QColor(100, 100, 100)), QString());
-        QCOMPARE(instead(0.99, 0.9, QColor(100, 100, 100)), QString());
-        m_item->drag(10'000, 0);
-        m_seen = m_window->grabWindow();
-        QCOMPARE(instead(0.75, 0.25, QColor(60, 60, 60)), QString()); // the left edge, no further
-        QCOMPARE(instead(0.01, 0.25, QColor(60, 60, 60)), QString());
-        m_item->drag(0, -10'000);
-        m_seen = m_window->grabWindow();
-        QCOMPARE(instead(0.5, 0.5, QColor(140, 140, 140)), QString());
-        m_item->changeScale(-20, {0, 0});
-        m_seen = m_window->grabWindow();
-        QCOMPARE(instead(0.99, 0.99, QColor(180, 180, 180)), QString());
     }
 
     void takesANewSizeInMidStream()

@@ -83,17 +83,6 @@ private Q_SLOTS:
         QVERIFY2(isNear(geometry.centre(), centre),
                  qPrintable(QString("%1 %2").arg(geometry.centre().x()).arg(geometry.centre().y())));
     }
-
-    void zoomingOutComesBackInside()
-    {
-        ViewGeometry geometry;
-        geometry.zoomTo(20, {0, 0}, view); // into the corner
-        geometry.zoomTo(1, {640, 360}, view);
-        const double half = 0.5 / 1.2;
-        QVERIFY(geometry.centre().x() > half - 1e-6 && geometry.centre().y() > half - 1e-6);
-        geometry.zoomTo(0, {640, 360}, view);
-        QCOMPARE(geometry.centre(), QPointF(0.5, 0.5));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestViewGeometry)
