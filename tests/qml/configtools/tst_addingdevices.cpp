@@ -3,7 +3,6 @@
 #include "favourites/author.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
-#include "tests/qml/configtools/recordingfactory.h"
 
 #include <QSemaphore>
 #include <QTemporaryDir>
@@ -16,8 +15,7 @@ const char *const scene =
     "    ModifyIPAdding {\n"
     "        objectName: 'adding'; addingBatches: addings; batches: works; busyState: busy\n"
     "        deviceFactory: site\n"
-    "    }\n"
-    "    ReloginDialog { objectName: 'relogin'; deviceFactory: factory }\n";
+    "    }\n";
 
 QStringList argumentsOf(const QSignalSpy &spy)
 {
@@ -73,7 +71,6 @@ class TestAddingDevices : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_factory = std::make_unique<RecordingFactory>();
         m_folder = std::make_unique<QTemporaryDir>();
         m_engine = std::make_unique<QQmlEngine>();
         m_devices = std::make_shared<GatedDevices>();
@@ -84,8 +81,7 @@ private Q_SLOTS:
         m_batches = std::make_unique<Batches>(*m_site, *m_threads, [] { return 1; });
         m_addings = std::make_unique<AddingBatches>(*m_site, *m_batches);
         m_window = openScene(*m_engine, scene,
-                             {{"factory", m_factory.get()},
-                              {"site", m_site.get()},
+                             {{"site", m_site.get()},
                               {"busy", m_site->busyState()},
                               {"works", m_batches.get()},
                               {"addings", m_addings.get()}});
@@ -292,42 +288,6 @@ private Q_SLOTS:
         QTRY_COMPARE(stored(), note.chopped(1));
     }
 
-    void asksForTheAccountAgain_data()
-    {
-        const auto row =
-            dataTable<bool, QString, QStringList, QString>({"takesChanges", "button", "asked", "answer"});
-        const QStringList change = {"change dh password new m1 10.0.0.1:80"};
-        row("confirmed", true, "accept", change, "user/new");
-        row("the row is gone", false, "accept", change, "/");
-        row("cancelled", true, "reject", QStringList(), "/");
-    }
-
-    void asksForTheAccountAgain()
-    {
-        QFETCH(bool, takesChanges);
-        QFETCH(QString, button);
-        QFETCH(QString, answer);
-        QObject *relogin = m_window->findChild<QObject *>("relogin");
-        const QSignalSpy answered(relogin, SIGNAL(answered(QString, QString)));
-        const QSignalSpy refused(relogin, SIGNAL(refused(QString)));
-        const auto ask = [&](const QString &mac) {
-            QMetaObject::invokeMethod(relogin, "ask", Q_ARG(QVariant, mac),
-                                      Q_ARG(QVariant, QStringLiteral("10.0.0.1:80")),
-                                      Q_ARG(QVariant, QStringLiteral("user")));
-        };
-        ask("m0");
-        ask("m1"); // the first one is given up
-        QCOMPARE(argumentsOf(answered), QStringList("/"));
-        QMetaObject::invokeMethod(relogin, "accept");
-        QCOMPARE(argumentsOf(refused), QStringList("请输入密码"));
-        item("devicePasswordField")->setProperty("text", "new");
-        m_factory->takesChanges = takesChanges;
-        QMetaObject::invokeMethod(relogin, button.toLatin1().constData());
-        QTEST(m_factory->asked, "asked");
-        QCOMPARE(argumentsOf(answered), (QStringList{"/", answer}));
-        QTRY_VERIFY(!relogin->property("visible").toBool());
-    }
-
 private:
     [[nodiscard]] QString favouritesFolder() const { return m_folder->path() + "/fav/"; }
     [[nodiscard]] QObject *dialog() const { return m_window->findChild<QObject *>("addDeviceDialog"); }
@@ -347,7 +307,6 @@ private:
     }
     void press(const char *button) const { QMetaObject::invokeMethod(dialog(), button); }
 
-    std::unique_ptr<RecordingFactory> m_factory; ///< for accounts that are asked for
     std::shared_ptr<GatedDevices> m_devices;
     std::unique_ptr<CDeviceFactory> m_site;
     std::unique_ptr<BatchEngine> m_threads;

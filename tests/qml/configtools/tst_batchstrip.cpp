@@ -1,8 +1,6 @@
 // The foot of a page over the batches of the session: what it says and offers while one runs, while it is
 // held and after its end, and the file of its results.
 #include "device/batch/batches.h"
-#include "device/batch/batchhistory.h"
-#include "device/batch/batchresultmodel.h"
 #include "device/devicetablemodel.h"
 #include "device/treemodel.h"
 #include "sheets/qexcel.h"
@@ -157,20 +155,6 @@ private Q_SLOTS:
         m_gate.acquire(m_gate.available());
     }
 
-    void aRunningBatchIsShownAndStopped()
-    {
-        m_gate.release();
-        start({networkFailure, 0, 0});
-        QTRY_COMPARE(text("runningText"), "Work 1 / 3");
-        QCOMPARE(text("runningFailed"), QStringLiteral("1 台失败"));
-        QCOMPARE(shown(), (QStringList{"stopButton", "batchPanelButton"}));
-        press("stopButton");
-        QVERIFY(!find("stopButton")->isEnabled());
-        m_gate.release();
-        QTRY_COMPARE(text("footWarning"), QStringLiteral("Work：1 台设备成功，1 台设备失败，1 台设备未执行"));
-        QVERIFY(!find("runningText"));
-    }
-
     void aHeldBatchAsks_data()
     {
         const auto row = dataTable<QByteArray, QString>({"button", "outcome"});
@@ -275,36 +259,6 @@ private Q_SLOTS:
         QCOMPARE(fileContents(m_file.path), before);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     }
-
-    void thePanelHasEveryBatch()
-    {
-        BatchHistory history;
-        history.setBatches(m_batches.get());
-        Batch *first = run({0, networkFailure, notDone});
-        QCOMPARE(history.get(0).value("counts"), "1 / 3");
-        QCOMPARE(history.get(0).value("complete"), false);
-        BatchResultModel results;
-        results.setBatch(first);
-        QCOMPARE(results.get(0).value("device"), "10.0.0.2:37777");
-        QCOMPARE(results.get(2).value("device"), "10.0.0.1:37777");
-        results.setOnlyFailed(true);
-        QCOMPARE(results.rowCount(), 2);
-
-        press("batchPanelButton");
-        QTRY_COMPARE(text("batchSummary"), first->report()->summary());
-        m_gate.release(2);
-        press("panelRetryButton");
-        QTRY_COMPARE(text("batchSummary"), QStringLiteral("2 台设备成功"));
-        QCOMPARE(history.rowCount(), 2);
-        QCOMPARE(history.batchAt(1), first);
-        QCOMPARE(history.get(0).value("complete"), true);
-        QVERIFY(!find("panelRetryButton")->isEnabled());
-        results.setBatch(history.batchAt(0));
-        QCOMPARE(results.rowCount(), 0);
-    }
-
-private:
-    static constexpr int notDone = BatchReport::NotDone;
 };
 
 QTEST_MAIN(TestBatchStrip)

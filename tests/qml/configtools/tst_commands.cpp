@@ -1,13 +1,9 @@
 // The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
-// answer, and the window that shows a long one.
-#include "cgi/cgiconfigmanage.h"
+// answer.
 #include "device/devicetablemodel.h"
 #include "tests/cgi/commandsite.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
-
-#include <QClipboard>
-#include <QGuiApplication>
 
 namespace {
 
@@ -18,9 +14,6 @@ const char *const scene =
     "    CgiSender {\n"
     "        objectName: 'sender'; commands: known; batches: batchList\n"
     "        cgiBatches: works; deviceFactory: factory; deviceTable: devices\n"
-    "    }\n"
-    "    CgiAnswerWindow {\n"
-    "        objectName: 'whole'; cgiManager: program; fileDialogs: null\n"
     "    }\n"
     "    CgiCommandField { objectName: 'command'; x: 500; commands: known }\n"
     "    Item {\n"
@@ -45,8 +38,6 @@ class Program : public QObject
 {
     Q_OBJECT
 public:
-    QString copied;
-
     Q_INVOKABLE [[nodiscard]] static QStringList recentCommands()
     {
         QStringList commands;
@@ -56,14 +47,6 @@ public:
     }
     Q_INVOKABLE [[nodiscard]] static QStringList favouriteCommands() { return {}; }
     Q_INVOKABLE static void rememberCommand(const QString &) {}
-    Q_INVOKABLE [[nodiscard]] QStringList linesOf(const QString &text) const
-    {
-        return m_manager.linesOf(text);
-    }
-    Q_INVOKABLE void copyText(const QString &text) { copied = text; }
-
-private:
-    CGIConfigManage m_manager{CgiSurroundings{}};
 };
 
 class TestCommands : public QObject
@@ -200,21 +183,6 @@ private Q_SLOTS:
         QVERIFY(said.value(1).value(0).toString().startsWith("2 "));
     }
 
-    void aRunningCommandIsStoppedByTheButton()
-    {
-        m_site->transport->gate = std::make_unique<QSemaphore>();
-        open(page);
-        QObject *sender = m_window->findChild<QObject *>("cgiSender");
-        QVERIFY(QMetaObject::invokeMethod(sender, "sendToAll", Q_ARG(QVariant, QStringList({"a", "b"})),
-                                          Q_ARG(QVariant, "/cgi-bin/a")));
-        QTRY_COMPARE(m_site->transport->atGate, 1);
-        QTRY_VERIFY(find("stopButton"));
-        QVERIFY(QMetaObject::invokeMethod(find("stopButton"), "clicked"));
-        QTRY_VERIFY(!m_site->batches.isRunning());
-        QCOMPARE(m_site->result("b"), "未执行");
-        QTRY_VERIFY(find("cgiAnswerLines")); // names them
-    }
-
     /// While another page is shown, no window opens over it.
     void theEndOfAWorkbookWaitsForThePage()
     {
@@ -228,22 +196,6 @@ private Q_SLOTS:
         item->setVisible(true);
         QTRY_VERIFY(find("messageText"));
         QCOMPARE(find("messageText")->property("text").toString(), "first\nsecond");
-    }
-
-    void aLongAnswerCanBeReadToItsEnd()
-    {
-        const QString text = QString("line\n").repeated(5'000) + "end";
-        QObject *window = m_window->findChild<QObject *>("whole");
-        QMetaObject::invokeMethod(window, "show", Q_ARG(QVariant, "10.0.0.1:1"), Q_ARG(QVariant, text));
-        QTRY_VERIFY(find("cgiAnswerLines") && find("cgiAnswerLines")->hasActiveFocus());
-        QQuickItem *lines = find("cgiAnswerLines");
-        QCOMPARE(lines->property("count").toInt(), 5'001);
-        QTest::keyClick(m_window.get(), Qt::Key_End);
-        QTRY_VERIFY(lines->property("atYEnd").toBool());
-        QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(m_program->copied, "end");
-        QMetaObject::invokeMethod(window, "accept");
-        QCOMPARE(m_program->copied, text);
     }
 
     void aLongAnswerEndsInTheWindow_data()

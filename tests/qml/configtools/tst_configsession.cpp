@@ -157,14 +157,6 @@ private Q_SLOTS:
         QCOMPARE(writesTo(m_other), 0);
     }
 
-    void aLostLoginComesBackWithTheLiveView()
-    {
-        call("lose");
-        QVERIFY(!m_session->property("loggedIn").toBool());
-        QCOMPARE(m_site->login(m_recorder), 0);
-        QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
-    }
-
     void inputIsHeldWhereTheWorkIs()
     {
         const std::unique_ptr<QQuickWindow> window = openScene(*m_engine, heldScene);
@@ -187,16 +179,6 @@ private Q_SLOTS:
             sheet->setProperty("active", false);
             QCOMPARE(window->activeFocusItem(), isTakenElsewhere ? outer : inner);
         }
-    }
-
-    void aDeviceThatTakesPartOfASaveIsThereAgain()
-    {
-        m_site->site->setFault(m_recorder.mac, {sdk::demo::Fault::RefusesItem, 1105});
-        call("lose");
-        call("saveEncoding");
-        QTRY_VERIFY(!isBusy());
-        QVERIFY(writesTo(m_recorder) > 0);
-        QVERIFY(m_session->property("loggedIn").toBool() && !m_session->property("lost").toBool());
     }
 };
 

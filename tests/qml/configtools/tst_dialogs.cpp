@@ -29,14 +29,6 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    OVTable {\n"
                           "        y: 100; width: 400; height: 300; objectName: 'table'; model: devices\n"
                           "        columns: [{key: 'mac', title: 'MAC', width: 200}]\n"
-                          "    }\n"
-                          "    OVTitleDragArea {\n"
-                          "        width: 1280; height: 40\n"
-                          "        cursor: QtObject {\n"
-                          "            property point place\n"
-                          "            objectName: 'cursor'\n"
-                          "            function cursorPos() { return place; }\n"
-                          "        }\n"
                           "    }\n";
 
 } // namespace
@@ -92,24 +84,6 @@ private Q_SLOTS:
         m_devices.reverse();
         QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, place);
         QCOMPARE(table->property("currentIndex").toInt(), 2);
-    }
-
-    /// No window system moves a window here.
-    void theWindowFollowsThePointer()
-    {
-        QObject *cursor = m_window->findChild<QObject *>("cursor");
-        const QPoint corner = m_window->position();
-        const auto dragTo = [&](const QPoint &place) {
-            cursor->setProperty("place", QPointF(place));
-            QTest::mouseMove(m_window.get(), place);
-        };
-        cursor->setProperty("place", QPointF(100, 20));
-        QTest::mousePress(m_window.get(), Qt::LeftButton, {}, {100, 20});
-        dragTo({102, 20}); // the hand is not still
-        QCOMPARE(m_window->position(), corner);
-        dragTo({140, 30});
-        QTRY_COMPARE(m_window->position(), corner + QPoint(40, 10));
-        QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, {140, 30});
     }
 
     void enterAnswers_data()

@@ -150,20 +150,6 @@ private Q_SLOTS:
         QCOMPARE(m_factory->asked.size(), 3);
     }
 
-    void theEndOfTheWindowEndsTheTries()
-    {
-        open();
-        m_factory->answer(5);
-        call("close");
-        QVERIFY(!get("resting").toBool());
-        QCOMPARE(m_factory->given, 0);
-        open();
-        call("close");
-        QCOMPARE(m_factory->given, 1);
-        m_factory->answer(0); // too late
-        QVERIFY(!get("loggedIn").toBool());
-    }
-
     void streamsAreAnsweredForTheDevice()
     {
         open();

@@ -133,14 +133,6 @@ private Q_SLOTS:
         QCOMPARE(m_time->property("devices").toStringList().size(), 1);
     }
 
-    void aRefusedBatchIsExplained()
-    {
-        const QSignalSpy said(m_page, SIGNAL(said(QString, int)));
-        Q_EMIT m_batches->refused("why");
-        QCOMPARE(said.count(), 1);
-        QCOMPARE(said.first().first().toString(), QStringLiteral("why"));
-    }
-
     void everyDeviceIsAccountedFor_data()
     {
         // event: while the second device is asked

@@ -137,21 +137,6 @@ private Q_SLOTS:
         awaitOpened("upgradePreview");
         QVERIFY(!object("upgradePreview")->property("okEnabled").toBool());
     }
-
-    void aDocumentTellsItsEnd()
-    {
-        m_file.path = m_site->workbook(
-            {{"192.168.1.99", {}, {}, {}, m_site->file()}, {m_site->address(1), {}, {}, {}, "firmware.bin"}});
-        call("chooseDocument");
-        accept("upgradePreview");
-        QTRY_VERIFY(m_batches->isRunning());
-        call("chooseDocument"); // refused
-        QTRY_VERIFY(!object("upgradePreview")->property("visible").toBool());
-        passUntilEnd();
-        awaitOpened("upgradeOutcome");
-        QCOMPARE(object("upgradeOutcome")->property("kind").toInt(), 0);
-        QVERIFY(said().isEmpty());
-    }
 };
 
 QTEST_MAIN(TestUpgradeWork)
