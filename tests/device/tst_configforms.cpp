@@ -57,24 +57,6 @@ private Q_SLOTS:
                              {"bitRate", 2048}};
     }
 
-    void changesCountUntilTheyAreTakenBackOrRead()
-    {
-        EncodeForm form;
-        form.setDeviceFactory(&m_factory);
-        QCOMPARE(form.channel(), 1);
-        QCOMPARE(form.changedCount(), 0);
-        form.set("curEncodeMode", "H.264 B");
-        form.set("frameRate", 10);
-        QCOMPARE(form.changedCount(), 2);
-        QVERIFY(of(form.mainStream(), "encodeMode", "changed").toBool());
-        QCOMPARE(of(form.mainStream(), "encodeMode", "index").toInt(), 0);
-        QVERIFY(!of(form.mainStream(), "resolution", "changed").toBool());
-        form.set("frameRate", 20);
-        QCOMPARE(form.changedCount(), 1);
-        form.read();
-        QCOMPARE(form.changedCount(), 0);
-    }
-
     void whatWasTakenAtASavingNoLongerCounts()
     {
         EncodeForm form;

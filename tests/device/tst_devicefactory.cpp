@@ -3,10 +3,8 @@
 #include "device/deviceol.h"
 #include "tests/datatable.h"
 
-#include <QJSEngine>
 #include <QMetaMethod>
 #include <QSignalSpy>
-#include <QThread>
 
 #include <array>
 #include <cstring>
@@ -45,12 +43,6 @@ public:
     void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override
     {
         calls.append("snapPictureToFile " + kind + ' ' + channelNum.toString() + ' ' + address);
-    }
-    bool importDevice(const QString &path, ImportSummary &summary) override
-    {
-        calls.append("importDevice " + path);
-        summary = {.total = 7, .errcount = 2};
-        return true;
     }
     QVariantMap getDeviceDetail(const QString &) override { return {{"mac", "02:aa"}, {"name", "大厅"}}; }
 
@@ -164,21 +156,6 @@ private Q_SLOTS:
                  QStringList({"setDefaultAccount root 2", "snapPictureToFile liveCapture 3 10.0.0.1:37777"}));
         QCOMPARE(m_factory.getDeviceDetailString("dh", "02:aa"),
                  "标识\n名称: 大厅\n\n网络\nMAC: 02:aa\n\n添加与账号\n添加方式: 搜索\n");
-    }
-
-    void importFillsAnObjectOrCallsAFunction()
-    {
-        QJSEngine engine;
-        QJSValue object = engine.newObject();
-        QVERIFY(m_factory.importDevice("dh", "list.csv", object));
-        QCOMPARE(object.property("total").toInt(), 7);
-        QCOMPARE(object.property("errcount").toInt(), 2);
-
-        const QJSValue function =
-            engine.evaluate("(function(total, errcount) { seen = total + '/' + errcount })");
-        QVERIFY(m_factory.importDevice("dh", "list.csv", function));
-        QCOMPARE(engine.globalObject().property("seen").toString(), "7/2");
-        QVERIFY(m_factory.importDevice("dh", "list.csv", QJSValue()));
     }
 
     void anUnknownOrEmptyFamilyGivesEmptyValues_data()

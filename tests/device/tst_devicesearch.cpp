@@ -201,23 +201,6 @@ private Q_SLOTS:
         QVERIFY(m_site->requests().waitFor(local ? "NetStartSearchDevices" : "NetSearchDevicesByIPs", 1));
         m_factory.reset(); // without a step of the clock: nothing may wait for it
     }
-
-    void withoutALibraryASearchEndsAtOnce()
-    {
-        const auto clock = std::make_shared<sdk::demo::SteppableClock>();
-        const auto store = std::make_shared<DeviceStore>(clock);
-        sdk::SdkLibraries libraries;
-        libraries.clock = clock;
-        CDeviceDH backEnd(store, libraries, [] { return SearchSettings(); });
-        // The signal comes from a thread of the pool, perhaps before anybody waits for it.
-        bool done = false;
-        const QObject here;
-        connect(
-            &backEnd, &CDeviceBase::signalCDeviceSearchDone, &here, [&done] { done = true; },
-            Qt::QueuedConnection);
-        backEnd.startSearch();
-        QTRY_VERIFY(done);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestDeviceSearch)

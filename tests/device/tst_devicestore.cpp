@@ -38,49 +38,6 @@ private Q_SLOTS:
         m_store = std::make_unique<DeviceStore>(m_clock);
     }
 
-    void anIPv4RowHoldsEveryKey()
-    {
-        QVERIFY(m_store->addAnswer(searchAnswer({})).added);
-        const QJsonObject expected = {{"checked", false},
-                                      {"num", ""},
-                                      {"state", true},
-                                      {"name", "东门"},
-                                      {"type", "IPC"},
-                                      {"model", "B-2230-IR"},
-                                      {"ipport", "192.168.1.64:37777"},
-                                      {"mac", "02:1a:c5:00:40:17"},
-                                      {"vision", "v2.840.1"},
-                                      {"res", -1},
-                                      {"operate", ""},
-                                      {"filepath", ""},
-                                      {"upgrade", 0},
-                                      {"upgraderes", -1},
-                                      {"url", ""},
-                                      {"result", ""},
-                                      {"httpport", 80}};
-        QCOMPARE(m_store->ipv4Rows().value(0).toJsonObject(), expected);
-    }
-
-    void anAnswerGoesToItsList_data()
-    {
-        const auto row = dataTable<int, QByteArray, bool>({"ipVersion", "address", "ipv4"});
-        row("IPv4", 4, QByteArray("192.168.1.64"), true);
-        row("unset IPv4", 4, QByteArray("0.0.0.0"), false);
-        row("IPv6", 6, QByteArray("fe80::1"), false);
-        row("no version at all", 0, QByteArray("192.168.1.64"), false);
-    }
-
-    void anAnswerGoesToItsList()
-    {
-        QFETCH(int, ipVersion);
-        QFETCH(QByteArray, address);
-        QFETCH(bool, ipv4);
-        m_store->addAnswer(searchAnswer({.address = address.toStdString(), .ipVersion = ipVersion}));
-        QCOMPARE(m_store->ipv4Rows().size(), ipv4 ? 1 : 0);
-        QCOMPARE(m_store->ipv6Rows().size(), ipv4 ? 0 : 1);
-        QCOMPARE(m_store->ipv4Count(), ipv4 ? 1 : 0);
-    }
-
     void stateComesFromTheLowTwoBits_data()
     {
         const auto row = dataTable<int, bool>({"byte", "initialised"});

@@ -109,30 +109,6 @@ private Q_SLOTS:
         QCOMPARE(m_model->conflictCount(), 0);
     }
 
-    void sortsByValue_data()
-    {
-        const auto row = dataTable<QString, QStringList, QStringList>({"key", "ascending", "descending"});
-        // Rows of one value keep the order of the list in both directions.
-        row("flags", "state", QStringList{"m1", "m0", "m2", "m3", "m4"},
-            QStringList{"m0", "m2", "m3", "m4", "m1"});
-        row("texts", "type", QStringList{"m1", "m2", "m3", "m4", "m0"},
-            QStringList{"m0", "m1", "m2", "m3", "m4"});
-    }
-
-    void sortsByValue()
-    {
-        QFETCH(QString, key);
-        m_model->toggleSort(key);
-        QTEST(column("identity"), "ascending");
-        QCOMPARE(column("num"), QStringList({"1", "2", "3", "4", "5"}));
-        m_model->toggleSort(key);
-        QCOMPARE(m_model->sortOrder(), Qt::DescendingOrder);
-        QTEST(column("identity"), "descending");
-        m_model->toggleSort(key);
-        QCOMPARE(m_model->sortKey(), QString());
-        QCOMPARE(column("identity"), QStringList({"m0", "m1", "m2", "m3", "m4"}));
-    }
-
     void ordersTheValuesOfAColumn_data()
     {
         const auto row = dataTable<QString, QStringList>({"key", "ordered"});
@@ -229,15 +205,6 @@ private Q_SLOTS:
         m_model->refresh();
         QCOMPARE(reset.size(), 1);
         QCOMPARE(column("identity").first(), "m1");
-    }
-
-    void copiesRowsAsLines()
-    {
-        m_site->rows->add({.mac = "m9", .name = "two\nlines\tand tabs"});
-        m_model->refresh();
-        QCOMPARE(m_model->textOf({2, 5, 77}),
-                 "cam 1\tIPC\tB-2230-IR\t10.0.0.1:80\tm2\tv2.840.1\n"
-                 "two lines and tabs\tIPC\tB-2230-IR\t192.168.1.64:37777\tm9\tv2.840.1");
     }
 };
 

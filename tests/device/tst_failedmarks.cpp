@@ -8,7 +8,6 @@
 #include "tests/device/rowsbackend.h"
 
 #include <QAbstractItemModelTester>
-#include <QSignalSpy>
 
 namespace {
 

@@ -75,12 +75,8 @@ private Q_SLOTS:
             QByteArray("[p2p]\ntunnel=t.example\ntunnel_port=1\ntrans=r.example\ntrans_port=2\ndomain=d\n"
                        "saas=https://s.example\nmnserver=m.example\nmnport=3\n"),
             "init t.example 1 r.example 2 tamsvelorink d https://s.example m.example 3", QString());
-        const QByteArray whole = "[p2p]\ntunnel=t\ntunnel_port=1\ntrans=r\ntrans_port=2\ndomain=d\nsaas=s\n"
-                                 "mnserver=m\nmnport=3\n";
         row("missing keys", QByteArray("[p2p]\ntunnel=t\ntunnel_port=1\n"), "init t 1  0 tamsvelorink    0",
             "p2p/trans");
-        row("no number", QByteArray(whole).replace("port=1", "port=ninety"),
-            "init t 0 r 2 tamsvelorink d s m 3", "p2p/tunnel_port");
     }
 
     void readsItsSettings()
@@ -107,12 +103,10 @@ private Q_SLOTS:
         const auto row = dataTable<QList<int>, int, int, QString>({"existing", "wish", "port", "asked"});
         row("none there", QList<int>(), 0, 50001, "add ID 37777 0 0");
         row("a wish for another port", QList{50005}, 37778, 0, QString());
-        row("one there", QList{50005}, 0, 50005, QString());
         row("one there, the device's wished", QList{50005}, 37777, 37777, "add ID 37777 37777 0");
         row("the device's there", QList{37777}, 0, 50001, "add ID 37777 0 0");
         row("the device's there and wished", QList{37777}, 37777, 37777, QString());
         row("more there", QList{37777, 50006, 50007}, 0, 50006, QString());
-        row("more than fit", QList<int>(12, 50008), 0, 50008, QString());
     }
 
     void handsOutPorts()

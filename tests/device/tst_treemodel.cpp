@@ -68,23 +68,6 @@ private Q_SLOTS:
         QCOMPARE(m_model->roleNames().values().size(), 3);
     }
 
-    void aGroupsTickCoversItsDevices()
-    {
-        QSignalSpy changed(m_model.get(), &OVTreeModel::checkedDevicesChanged);
-        const QModelIndex ipc = m_model->index(0, 0);
-        QVERIFY(m_model->setData(m_model->index(1, 0, ipc), true, OVTreeModel::IsCheckedRole));
-        QCOMPARE(state(0), Qt::PartiallyChecked);
-        QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.5:37777"));
-        QVERIFY(m_model->setData(ipc, Qt::Checked, OVTreeModel::IsCheckedRole));
-        QCOMPARE(state(0), Qt::Checked);
-        QCOMPARE(state(0, 0), Qt::Checked);
-        QVERIFY(m_model->setData(m_model->index(0, 0, ipc), Qt::Unchecked, OVTreeModel::IsCheckedRole));
-        QVERIFY(m_model->setData(m_model->index(1, 0, ipc), Qt::Unchecked, OVTreeModel::IsCheckedRole));
-        QCOMPARE(state(0), Qt::Unchecked);
-        QCOMPARE(changed.size(), 4);
-        QVERIFY(!m_model->setData(ipc, 3, OVTreeModel::CopyRetRole));
-    }
-
     void ticksAndResultsOutliveARebuild()
     {
         const QModelIndex device = m_model->index(0, 0, m_model->index(0, 0));

@@ -167,20 +167,6 @@ private Q_SLOTS:
         QTEST(AddressTools().gatewayAfterEdit(before, after, gateway), "expected");
     }
 
-    void knowsMasks_data()
-    {
-        const auto row = dataTable<bool>({"legal"});
-        for (const char *mask : {"255.255.255.0", "128.0.0.0", "255.255.255.254", "255.255.252.0"})
-            row(mask, true);
-        for (const char *mask : {"0.0.0.0", "255.255.255.255", "255.0.255.0", "255.255.255.1", "24", ""})
-            row(mask, false);
-    }
-
-    void knowsMasks()
-    {
-        QTEST(AddressTools().isLegalMask(QString::fromLatin1(QTest::currentDataTag())), "legal");
-    }
-
     void namesWebPages_data()
     {
         const auto row = dataTable<QString, int, QString>({"ipport", "port", "page"});

@@ -85,7 +85,7 @@ private:
 class ConfigSite
 {
 public:
-    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices, bool hasConfigLibrary = true)
+    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices)
     {
         sdk::demo::Scene scene;
         scene.devices = devices;
@@ -93,11 +93,9 @@ public:
         net = std::make_shared<SilentNetLibrary>(*site);
         const auto store = std::make_shared<DeviceStore>(m_clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {QStringLiteral("dh"), [this, store, hasConfigLibrary] {
+            {QStringLiteral("dh"), [this, store] {
                  sdk::SdkLibraries libraries = site->libraries();
                  libraries.net = net;
-                 if (!hasConfigLibrary)
-                     libraries.config = nullptr;
                  return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
              }}});
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));

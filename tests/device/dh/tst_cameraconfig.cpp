@@ -1,5 +1,4 @@
 // The camera image page on a simulated site: every change is one request of its own.
-#include "device/dh/camerachanges.h"
 #include "device/encodeform.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -225,24 +224,6 @@ private Q_SLOTS:
         QTEST(static_cast<int>(m_site->asked("NetSetItem").size()), "items");
     }
 
-    void bothWaysToTheSameItemKnowOfEachOther()
-    {
-        open(camera());
-        m_site->set("backMode", 20, "WideDynamic");
-        m_site->set("curBackLightMode", 2);
-        m_site->set("backMode", 30, "GlareInhibition");
-        m_site->set("dayNight", 9, "SwitchDelay");
-        m_site->set("curDayNightMode", 1); // the night gets what the day has
-        m_site->set("dayNight", 3, "Sensitivity");
-        QCOMPARE(m_site->shown("curDayNightMode curBackLightMode"), "1|2");
-        const QList<QJsonObject> writes = m_site->asked("NetSetItem");
-        QCOMPARE(writes.size(), 6);
-        QCOMPARE(writes.at(1).value("wideDynamic").toInt(), 20);
-        QCOMPARE(valuesOf(writes.at(2), "wideDynamic backMode"), "20|2");
-        QCOMPARE(writes.at(4).value("switchDelay").toInt(), 9);
-        QCOMPARE(valuesOf(writes.at(5), "mode switchDelay"), "0|9"); // the page still shows the day
-    }
-
     void modesAndChannelsAreRead()
     {
         open(camera());
@@ -365,28 +346,6 @@ private Q_SLOTS:
         m_site->set("curChannelName", QString::fromUtf8("\u200F "));
         m_site->set("noSuchKey", 1);
         QVERIFY(m_site->site->requests().all().isEmpty());
-    }
-
-    void oddCapabilitiesGiveAUsablePage()
-    {
-        SceneDevice device = camera();
-        device.faults = {{Fault::OddCapabilities}};
-        open(device);
-        QCOMPARE(value("exposure", "allExposureType").toStringList().size(), 4);
-        const QVariantMap range = value("picture", "ranges").toMap().value("hue").toMap();
-        QVERIFY(range.value("min").toInt() < range.value("max").toInt());
-        m_site->set("picture", 60, "hue");
-        QCOMPARE(value("picture", "hue").toInt(), 60);
-        for (const FaultSetting &fault : {FaultSetting{Fault::OddConfiguration, 0, "VideoColor"},
-                                          FaultSetting{Fault::OverLongConfiguration, 0, "VideoColor"}}) {
-            m_site->site->setFault(device.mac, fault);
-            read();
-            // What is not known is not written back in part.
-            m_site->set("curBrightness", 70);
-            m_site->set("setDefault", "");
-            QVERIFY(m_site->asked("NetSetNewConfig").isEmpty());
-            QCOMPARE(value("picture", "brightnessSlider").toInt(), 50);
-        }
     }
 };
 

@@ -112,28 +112,6 @@ private Q_SLOTS:
         QCOMPARE(m_site->asked("NetSetItem").size(), 2);
     }
 
-    void aSavingIsToldOnce()
-    {
-        open(recorder());
-        QSignalSpy finished(m_site->factory.get(), &CDeviceFactory::signalSetChannelNameFinished);
-        const auto result = [this] {
-            return m_site->get("channelNamesResult").toInt();
-        };
-        const auto names = form();
-        reportSaving(); // of nothing
-        QCOMPARE(finished.size(), 0);
-        QCOMPARE(result(), -1);
-        QCOMPARE(savingOf(*names, "Hof "), QVariantList({3, 3, -1}));
-        reportSaving();
-        QCOMPARE(finished.size(), 1);
-        QCOMPARE(result(), 0);
-        setFault(Fault::RefusesItem, 1108);
-        QCOMPARE(savingOf(*names, "Tor "), QVariantList({3, 0, 3}));
-        reportSaving();
-        QCOMPARE(finished.size(), 2);
-        QCOMPARE(result(), 999);
-    }
-
     void aSavingEndsEarly_data()
     {
         const auto row = dataTable<bool, QVariantList, int>({"isAway", "outcome", "requests"});
@@ -171,22 +149,6 @@ private Q_SLOTS:
         QFETCH(const QString, text);
         QFETCH(const int, bytes);
         QTEST(ByteText::cutTo(text, bytes), "cut");
-    }
-
-    void theLimitCountsBytes()
-    {
-        open(recorder());
-        const auto names = form();
-        names->set(0, QString(85, u'门'));
-        QCOMPARE(names->get(0).value("bytes").toInt(), 255);
-        QCOMPARE(names->firstFaulty(), -1);
-        names->set(0, QString(85, u'门') + "x");
-        QCOMPARE(troubleOf(*names, 0), ChannelNameForm::TooLong);
-        QCOMPARE(names->firstFaulty(), 0);
-        names->cut(0);
-        QCOMPARE(names->get(0).value("name").toString(), QString(85, u'门'));
-        QCOMPARE(saved(*names, 0), ChannelNameForm::None);
-        QCOMPARE(this->names(1).value(0).toString(), QString(85, u'门'));
     }
 
     void changesCountUntilTheyAreWrittenOrTakenBack()

@@ -2,9 +2,6 @@
 #include "device/devicedetailmodel.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
-#include "tests/files/filecontents.h"
-
-#include <QTemporaryDir>
 
 using sdk::demo::Fault;
 using sdk::demo::SceneDevice;
@@ -66,27 +63,6 @@ private Q_SLOTS:
         QCOMPARE(m_site->factory->getDeviceChannelData("dh", "channelNames", 0).size(), 4);
     }
 
-    void whatADeviceWithholdsIsLeftOut_data()
-    {
-        const auto row = dataTable<Fault, QString, QString>({"fault", "text", "missing"});
-        row("channel states", Fault::RefusesChannelStates, "", "connectedCount");
-        row("network", Fault::RefusesConfiguration, "Network", "submask");
-        row("nonsense", Fault::OddConfiguration, "Network", "submask");
-        row("too much", Fault::OverLongConfiguration, "DVRIP", "servicePort");
-    }
-
-    void whatADeviceWithholdsIsLeftOut()
-    {
-        QFETCH(const Fault, fault);
-        QFETCH(const QString, text);
-        QFETCH(const QString, missing);
-        QVERIFY(read().contains(missing));
-        m_site->site->setFault(m_device.mac, {.fault = fault, .number = 0, .text = text});
-        const QVariantMap detail = read();
-        QVERIFY(!detail.contains(missing));
-        QVERIFY(detail.contains("rtspPort"));
-    }
-
     void aLoginThatFailsSaysWhy()
     {
         m_site->site->setFault(m_device.mac, {.fault = Fault::WrongPassword, .number = 0, .text = {}});
@@ -112,19 +88,6 @@ private Q_SLOTS:
         QCOMPARE(model.lineText(0), "");
         model.load({});
         QCOMPARE(model.totalCount(), 0);
-    }
-
-    void allLinesGoIntoAFile()
-    {
-        const QTemporaryDir folder;
-        DeviceDetailModel model;
-        model.load({{"ipport", "[fe80::1%2]:37777"}, {"name", "大厅"}});
-        model.setSearchText("nothing"); // the file holds all of it nevertheless
-        QCOMPARE(model.fileName(), "_fe80__1_2__37777.txt");
-        QVERIFY(model.write(folder.filePath("a.txt")));
-        QCOMPARE(QString::fromUtf8(fileContents(folder.filePath("a.txt"))), model.text());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write.*"));
-        QVERIFY(!model.write(folder.filePath("no/a.txt")));
     }
 };
 

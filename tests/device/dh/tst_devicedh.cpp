@@ -1,12 +1,8 @@
-#include "device/devicerefresh.h"
 #include "device/devicetablemodel.h"
 #include "device/dh/rowlogin.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
-#include "tests/device/searchanswers.h"
 #include "tests/media/quietnetlibrary.h"
-
-#include <QJsonArray>
 
 namespace {
 
@@ -96,25 +92,6 @@ private Q_SLOTS:
         QTEST(row(recorder).value("httpport").toInt(), "webPort");
     }
 
-    void aLoginThatFailsSaysWhyAndAddsNothing_data()
-    {
-        const auto row =
-            dataTable<QString, QString, QString, int>({"address", "account", "password", "result"});
-        row("no account", "192.168.1.10", "root", "secret1", 1);
-        row("wrong password", "192.168.1.10", "admin", "secret2", 2);
-        row("nobody there", "192.168.1.99", "admin", "secret1", 5);
-    }
-
-    void aLoginThatFailsSaysWhyAndAddsNothing()
-    {
-        QFETCH(QString, address);
-        QFETCH(QString, account);
-        QFETCH(QString, password);
-        QTEST(m_factory->getLoginDevice("dh", address, account, password, "37777"), "result");
-        QVERIFY(m_factory->filterData("dh", "nofilter").isEmpty());
-        QCOMPARE(asked("NetQueryConfig"), 0);
-    }
-
     void aNewAddressIsWhereTheDeviceAnswersNext()
     {
         m_site->changeDevice(camera,
@@ -158,15 +135,6 @@ private Q_SLOTS:
         search();
         QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.77:37777");
         QCOMPARE(row(recorder).value("ipport").toString(), m_site->device(recorder)->address + ":37777");
-    }
-
-    void aRefusedAddressIsShownWithItsResult()
-    {
-        search();
-        m_site->removeDevice(camera); // it has gone since
-        m_factory->modifyIP("dh", camera, "192.168.1.80", "255.255.255.0", "192.168.1.1", false);
-        QCOMPARE(row(camera).value("res").toInt(), 5);
-        QCOMPARE(row(camera).value("ipport").toString(), "192.168.1.80:37777");
     }
 
     void aFirstPasswordIsThePassword()
@@ -240,27 +208,6 @@ private Q_SLOTS:
         m_factory->refreshDevices("dh", {camera, recorder});
         QTRY_COMPARE(row(camera).value("ipport").toString(), "192.168.1.66:37777");
         QTRY_COMPARE(row(recorder).value("ipport").toString().section(':', 0, 0), "192.168.1.67");
-    }
-
-    void theSessionIsReplacedByTheNext()
-    {
-        QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
-        const auto handle = [this] {
-            return m_factory->getConfigData("dh", "loginHandle");
-        };
-        QCOMPARE(handle(), QVariant(qint64(0)));
-        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1"), 0);
-        const QVariant first = handle();
-        QVERIFY(first.toLongLong() > 0);
-        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "wrong"), 2);
-        QCOMPARE(handle(), first);
-        QCOMPARE(asked("NetLogout"), 0); // the session that was there stays
-        QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.12:37777", "admin", "secret1"), 0);
-        QTRY_COMPARE(asked("NetLogout"), 1);
-        QVERIFY(handle().toLongLong() > 0 && handle() != first);
-        QCOMPARE(result.size(), 3);
-        m_factory.reset();
-        QCOMPARE(asked("NetLogout"), 2);
     }
 
     void aLoginThroughATunnelIsOfAKindOfItsOwn()

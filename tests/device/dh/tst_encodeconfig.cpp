@@ -104,23 +104,6 @@ private:
 private Q_SLOTS:
     void cleanup() { m_site.reset(); }
 
-    void thePageShowsTheDevice()
-    {
-        QCOMPARE(open(modernCamera()), 0);
-        QCOMPARE(m_site->shown("channelNum allStreamType subAllStreamType"), "1|普通,动检,报警|普通");
-        QCOMPARE(m_site->shown("encodeMode curEncodeMode"), "MJPG,H.264 B,H.264  ,H.264 H,H.265|H.264  ");
-        QCOMPARE(m_site->shown("resolution curResolution"), "2688*1520,1080P,720P|2688*1520");
-        QCOMPARE(m_site->shown("subResolution subCurResolution"), "D1,VGA,CIF|D1");
-        const QStringList bitRates = m_site->get("bitStream").toStringList();
-        QCOMPARE(bitRates.last(), "自定义");
-        QCOMPARE(bitRates.value(m_site->get("curBitStream").toInt()), "4096");
-        QCOMPARE(m_site->shown("bitRate frameRateMax frameRate quality bitstreamControl subVideoEnable"),
-                 "4096|25|25|4|1|1");
-        QCOMPARE(m_site->shown("audioCompression subCurAudioCompression samplingFrequency"),
-                 "G711a,G711u,AAC|G711a|8000");
-        QVERIFY(!m_site->get("noSuchKey").isValid());
-    }
-
     void confirmWritesTheEightItems()
     {
         QCOMPARE(open(recorder()), 0);
@@ -157,45 +140,6 @@ private Q_SLOTS:
         QCOMPARE(read(), 0);
         QCOMPARE(m_site->shown("curEncodeMode curResolution curBitStream"), "H.264 H|1080P|-1"); // no step
         QCOMPARE(m_site->shown("subCurSamplingFrequency subSamplingFrequency"), "16000|8000,16000");
-    }
-
-    void theSubStreamsCompressionIsTheMainStreams()
-    {
-        QCOMPARE(open(modernCamera()), 0);
-        m_site->set("curEncodeMode", "H.264 B");
-        m_site->set("subCurEncodeMode", "H.265");
-        QCOMPARE(m_site->shown("curEncodeMode subCurEncodeMode"), "H.265|H.264  ");
-        m_site->set("subCurEncodeMode", "H.264 H");
-        QCOMPARE(confirm(), "");
-        for (const int stream : {1, 4}) {
-            QCOMPARE(written(1100, stream).value("compression").toInt(), 7);
-            QCOMPARE(written(1103, stream).value("profile").toInt(), stream);
-        }
-    }
-
-    void whatIsRefusedIsNamed_data()
-    {
-        const auto row = dataTable<int, QString, QVariant, QString>({"item", "key", "value", "text"});
-        row("one item of the sub stream", 0, "subCurSamplingFrequency", QVariant("44100"),
-            "辅码流编码音频格式配置\n");
-        row("one item of the main stream", 0, "curBitStream", QVariant("100000"), "主码流编码视频格式属性\n");
-        row("the item of both", 1104, "quality", QVariant(5),
-            "主码流编码音频压缩格式\n辅码流编码音频压缩格式\n");
-    }
-
-    void whatIsRefusedIsNamed()
-    {
-        QFETCH(int, item);
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        QCOMPARE(open(modernCamera(), {{Fault::RefusesItem, item}}), 0);
-        m_site->set(key, value);
-        QTEST(confirm(), "text");
-        QCOMPARE(m_site->asked("NetSetItem").size(), 8);
-        const auto refused = QTest::currentDataTag() == QLatin1String("the item of both") ? 2 : 1;
-        QCOMPARE(m_site->get("takenItems").toList().size(), 8 - refused);
-        m_site->set("frameRate", 10);
-        QVERIFY(m_site->get("takenItems").toList().isEmpty());
     }
 
     void theSubStreamsSizeIsWrittenAtOnce_data()
@@ -325,17 +269,6 @@ private Q_SLOTS:
         QCOMPARE(unsaved.count("（没有读到，未写入）\n"), unread);
         QVERIFY(unsaved.contains("主码流编码音频压缩格式（"));
         QCOMPARE(m_site->get("unreadItems").toStringList().size(), unread);
-    }
-
-    void aSourceWithoutAudioIsCopiedWhole()
-    {
-        SceneDevice source = modernCamera();
-        const QJsonObject silent = {{"audioFormats", list({})}};
-        source.capabilities = {{"encode", QJsonObject{{"main", silent}, {"sub", silent}}}};
-        const SceneDevice target = configDevice(6, "IPC", 1);
-        const QString skipped = copy(source, target);
-        QCOMPARE(skipped, "");
-        QCOMPARE(written(1104, 1).value("audioEnable").toInt(), 1); // its own stays
     }
 
     void anItemThatOneOfTheDevicesDoesNotTellIsLeftAsItIs_data()

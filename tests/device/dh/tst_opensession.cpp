@@ -1,5 +1,4 @@
 // Sessions that are opened while the scene goes on: the present one where it is alive, else a new login.
-#include "device/dh/channelnames.h"
 #include "sdk/netlibrary.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -109,36 +108,6 @@ private Q_SLOTS:
         QCOMPARE(m_opened->last().at(2).toList().size(), 3);
     }
 
-    void refusalsAreTold_data()
-    {
-        const auto row = dataTable<QString, QString, int>({"ipport", "password", "result"});
-        row("wrong password", ipportOf(m_recorder), "wrong", 2);
-        row("nobody there", "192.168.1.77:37777", "secret1", 5);
-    }
-
-    void refusalsAreTold()
-    {
-        QFETCH(QString, ipport);
-        QFETCH(QString, password);
-        QCOMPARE(m_site->login(m_camera), 0);
-        const QVariant handle = m_site->get("loginHandle");
-        open(ipport, password);
-        QVERIFY(m_opened->wait());
-        QTEST(m_opened->first().at(1).toInt(), "result");
-        QCOMPARE(m_site->asked("NetLoginSecure").size(), 1);
-        QCOMPARE(m_site->get("loginHandle"), handle); // the session that was there stays
-    }
-
-    void anotherDevicesLoginIsTheNewerWish()
-    {
-        open(ipportOf(m_recorder));
-        QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
-        QCOMPARE(m_site->factory->findAndLoginDevice("dh", ipportOf(m_camera), "admin", "secret1"), 0);
-        QVERIFY(QTest::qWaitFor([this] { return m_site->asked("NetLogout").size() == 1; }));
-        QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
-        QCOMPARE(m_opened->size(), 0);
-    }
-
     void whatIsGivenUpLeavesNothing()
     {
         open(ipportOf(m_recorder));
@@ -164,23 +133,6 @@ private Q_SLOTS:
         m_site->factory.reset();
         QCoreApplication::processEvents();
         QCOMPARE(m_opened->size(), 0);
-    }
-
-    void channelsBeyondReasonAreLeftOut_data()
-    {
-        const auto row = dataTable<int, int>({"told", "kept"});
-        row("too many", 1500, ChannelNames::maximumChannels);
-    }
-
-    void channelsBeyondReasonAreLeftOut()
-    {
-        QFETCH(int, told);
-        SceneDevice device = configDevice(3, "NVR", told);
-        device.latency = {};
-        makeSite({device});
-        open(ipportOf(device));
-        QVERIFY(QTest::qWaitFor([this] { return m_opened->size() == 1; }, 60000));
-        QTEST(static_cast<int>(m_opened->first().at(2).toList().size()), "kept");
     }
 };
 

@@ -190,45 +190,6 @@ private Q_SLOTS:
         QTRY_VERIFY(loginsAreOpen(0));
         QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
     }
-
-    void aDeviceIsAddedUnlessItIsCancelled_data()
-    {
-        const auto row = dataTable<bool>({"isCancelled"});
-        row("added", false);
-        row("cancelled", true);
-    }
-
-    void aDeviceIsAddedUnlessItIsCancelled()
-    {
-        QFETCH(bool, isCancelled);
-        QSignalSpy listed(m_site->factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
-        setFault(m_recorder, Fault::SlowAnswers, slowness);
-        m_site->stopTime();
-        m_work->addDevice({{"mode", 0},
-                           {"address", m_recorder.address},
-                           {"port", "37777"},
-                           {"account", "admin"},
-                           {"password", "secret1"}});
-        QTRY_COMPARE(m_site->clock().waiters(), 1);
-        if (isCancelled)
-            m_work->cancel();
-        m_site->letTimePass();
-        QTRY_COMPARE(m_site->asked("NetLogout").size(), 1);
-        QTRY_COMPARE(m_told, isCancelled ? QStringList() : QStringList("ended"));
-        QCOMPARE(listed.isEmpty(), isCancelled);
-        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_recorder)).isEmpty(), isCancelled);
-    }
-
-    void theEndCutsTheWait()
-    {
-        setFault(m_recorder, Fault::NoAnswer);
-        m_site->stopTime();
-        login(m_recorder);
-        QTRY_COMPARE(m_site->clock().waiters(), 1);
-        m_site->factory.reset(); // the time stands still: it would never end
-        QCoreApplication::processEvents();
-        QCOMPARE(m_told, QStringList());
-    }
 };
 
 QTEST_GUILESS_MAIN(TestSessionWork)

@@ -147,12 +147,6 @@ private Q_SLOTS:
         QCOMPARE(QDir::cleanPath(path.mid(8)), path.mid(8));
     }
 
-    void aPictureThatComesTooLateIsAFailure()
-    {
-        QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
-        QCOMPARE(take("againCapture", 0, "rec", 1), (QList<Capture>{{0, {}, QStringLiteral("抓图失败")}}));
-    }
-
     void aFileThatCannotBeWrittenIsReportedWithTheReason_data()
     {
         // isFull: the disk; else the folder's name is that of a file

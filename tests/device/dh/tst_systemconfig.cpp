@@ -180,25 +180,6 @@ private Q_SLOTS:
                  "0|1|31|false|dd.MM.yyyy"); // what it does not change stays
     }
 
-    void configurationsAreKept()
-    {
-        run("ntpConfig", ntp());
-        QCOMPARE(results(), QStringList("10 0"));
-        QCOMPARE(valuesOf(configuration("NTP"), "enabled address port updatePeriod timeZone"),
-                 "true|time.example|123|65535|39");
-        QVariantMap weekly = {{"week", 7}, {"time", "23:45"}, {"autoReboot", true}};
-        run("autoMaintain", weekly);
-        QCOMPARE(valuesOf(lastRequest("NetSetNewConfig"), "textSize channel"), "4096|-1");
-        const QString reboot = "rebootDay rebootHour rebootMinute rebootEnabled";
-        QCOMPARE(valuesOf(configuration("AutoMaintain"), reboot), "7|23|45|true");
-        run("autoMaintain", with(weekly, "autoReboot", false));
-        QCOMPARE(valuesOf(configuration("AutoMaintain"), reboot), "-1|23|45|false");
-        run("videoStandard", {{"videoStandard", 2}});
-        QCOMPARE(valuesOf(lastRequest("NetSetItem"), "item channel blockSize size standard wait"),
-                 "11|-1|8|8|2|5000");
-        QCOMPARE(m_site->device(cameraMac)->maintenance.videoStandard, sdk::VideoStandard::Ntsc);
-    }
-
     void aResetMakesTheDeviceFactoryNew()
     {
         run("ntpConfig", ntp());

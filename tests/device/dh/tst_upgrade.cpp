@@ -15,56 +15,6 @@ class TestUpgrade : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void aFewAtATime_data()
-    {
-        const auto row = dataTable<int>({"atOnce"});
-        row("as usual", UpgradeLimits().atOnce);
-        row("five", 5);
-    }
-
-    void aFewAtATime()
-    {
-        QFETCH(int, atOnce);
-        const UpgradeSite test(6, {.atOnce = atOnce});
-        int most = 0;
-        int mostRestarting = 0;
-        bool hasWaited = false;
-        const auto count = [&] {
-            int running = 0;
-            int restarting = 0;
-            for (int place = 0; place < 6; ++place) {
-                restarting += test.result(place) == UpgradeTools::Restarting;
-                running += UpgradeTools::isRunning(test.result(place)) &&
-                           test.result(place) != UpgradeTools::Restarting &&
-                           test.result(place) != UpgradeTools::Waiting;
-                hasWaited |= test.text(place) == u"等待升级"_s;
-            }
-            most = std::max(most, running);
-            mostRestarting = std::max(mostRestarting, restarting);
-            return !test.ends->isEmpty();
-        };
-        QVERIFY(!test.factory->hasDeviceUpgrading());
-        test.start({0, 1, 2, 3, 4, 5}, test.file());
-        QVERIFY(test.factory->hasDeviceUpgrading());
-        test.start({0, 1}, u"/another/file"_s); // changes nothing while they are upgraded
-        QVERIFY(test.passUntil(count));
-        QCOMPARE(most, atOnce);
-        QVERIFY(mostRestarting > atOnce || atOnce > 1); // they hold up no other device
-        QVERIFY(hasWaited);
-        QVERIFY(!test.factory->hasDeviceUpgrading());
-        QCOMPARE(test.ends->size(), 1);
-        QCOMPARE(test.schedule->last().first().toInt(), 100);
-        for (int place = 0; place < 6; ++place) {
-            QCOMPARE(test.result(place), UpgradeTools::Success);
-            QCOMPARE(test.percent(place), 100);
-            QCOMPARE(test.text(place), u"升级成功：2.840.1 → 2.900.0"_s);
-            QCOMPARE(test.value(place, DeviceRowKey::vision).toString(), u"v2.900.0"_s);
-            QCOMPARE(test.value(place, DeviceRowKey::filepath).toString(), test.file());
-        }
-        QCOMPARE(test.site->requests().of("NetStartUpgrade").size(), 6);
-        QCOMPARE(test.site->requests().of("NetLogout").size(), 12); // one login before, one after
-    }
-
     void whatDevicesDo_data()
     {
         const auto row = dataTable<FaultSetting, UpgradeTools::Result, QString, bool>(

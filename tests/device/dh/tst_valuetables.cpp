@@ -2,8 +2,6 @@
 #include "device/dh/encodechoices.h"
 #include "tests/datatable.h"
 
-#include <memory>
-
 namespace {
 
 sdk::EncodeCapabilityBlock filledBlock()
@@ -145,14 +143,6 @@ private Q_SLOTS:
         QTEST(static_cast<int>(offered.size()), "count");
         QTEST(offered.value(0), "first");
         QTEST(offered.value(offered.size() - 1), "last");
-    }
-
-    void audioOffersNamedCodes()
-    {
-        sdk::EncodeCapabilityBlock block = filledBlock();
-        block.audioFormats = {22, 15, 0, 2, -1, 23, 1000};
-        block.audioFormatCount = 1000;
-        QCOMPARE(EncodeChoices(m_tables, block).audioCompressions(), QStringList({"MP3", "G711a"}));
     }
 
     void chosenTextsBecomeCodes()
