@@ -6,6 +6,7 @@
 #include "cgi/cgiconfigmanage.h"
 #include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
+#include "device/batch/upgradebatches.h"
 #include "device/devicefactory.h"
 #include "sheets/qexcel.h"
 
@@ -32,9 +33,28 @@ constexpr int longestBatch = 120000;          // milliseconds
 
 /// Pages of the window.
 constexpr int addressPage = 0;
+constexpr int upgradePage = 1;
 constexpr int configurationPage = 2;
 constexpr int systemPage = 3;
 constexpr int commandPage = 4;
+
+/// Milliseconds between two painted frames, in ascending order.
+struct Pauses
+{
+    QList<double> during;  ///< while something runs
+    QList<double> without; ///< on the same page for the same time, while nothing runs: the machine's own
+};
+
+double longest(const QList<double> &pauses)
+{
+    return pauses.isEmpty() ? 0 : pauses.constLast();
+}
+
+/// 99 of 100 pauses are not longer.
+double usuallyLongest(const QList<double> &pauses)
+{
+    return pauses.isEmpty() ? 0 : pauses.at((pauses.size() - 1) * 99 / 100);
+}
 
 /// The program's window with 200 devices, painted as often as it can be.
 class PaintedProgram
@@ -64,6 +84,10 @@ public:
     [[nodiscard]] Batches &batches() const { return *published<Batches>("BatchesApi"); }
     [[nodiscard]] CgiBatches &commands() const { return *published<CgiBatches>("CgiBatchesApi"); }
     [[nodiscard]] AddingBatches &adding() const { return *published<AddingBatches>("AddingBatchesApi"); }
+    [[nodiscard]] UpgradeBatches &upgrading() const
+    {
+        return *published<UpgradeBatches>("UpgradeBatchesApi");
+    }
     [[nodiscard]] const QStringList &initialised() const { return m_initialised; } ///< MACs
     [[nodiscard]] const QStringList &factoryNew() const { return m_factoryNew; }   ///< MACs
     [[nodiscard]] const QStringList &ipports() const { return m_ipports; } ///< of the initialised ones
@@ -71,16 +95,16 @@ public:
     /// The encode settings of a device are what a copy takes.
     void openSession() const
     {
-        QSignalSpy loggedIn(&factory(), &CDeviceFactory::signalHighLevelLoginRet);
+        QSignalSpy opened(&factory(), &CDeviceFactory::signalSessionOpened);
         factory().openSession(family, m_ipports.constFirst(), account, password, true);
-        loggedIn.wait(longestBatch);
+        opened.wait(longestBatch);
         factory().getEncodeInfo(family);
     }
 
-    /// Milliseconds between two painted frames at the most, from the start of a batch to its end, on a page.
-    [[nodiscard]] double longestPause(int page, const std::function<Batch *()> &start)
+    /// From the start of a batch to its end, on a page.
+    [[nodiscard]] Pauses pauses(int page, const std::function<Batch *()> &start)
     {
-        return longestPauseOf(page, [&] {
+        return pausesDuring(page, [&] {
             Batch *batch = start();
             const bool hasEnded =
                 batch && QTest::qWaitFor([batch] { return !batch->isRunning(); }, longestBatch);
@@ -90,42 +114,52 @@ public:
         });
     }
 
-    /// The same while the configuration page logs in to a device that is not there.
-    [[nodiscard]] double longestPauseOfDeadLogin()
+    /// While the configuration page logs in to a device and reads what it shows of it.
+    [[nodiscard]] Pauses pausesOfLogin(const QString &ipport)
     {
-        return longestPauseOf(configurationPage, [this] {
+        return pausesDuring(configurationPage, [&] {
             const QSignalSpy loggedIn(&factory(), &CDeviceFactory::signalHighLevelLoginRet);
             QObject *page = window()->findChild<QObject *>("pageDeviceConfig");
-            const bool isAsked =
-                page && QMetaObject::invokeMethod(page, "choose", Q_ARG(QVariant, u"10.250.250.250:37777"_s));
+            const bool isAsked = page && QMetaObject::invokeMethod(page, "choose", Q_ARG(QVariant, ipport));
             if (!isAsked || !QTest::qWaitFor([&] { return !loggedIn.isEmpty(); }, longestBatch))
                 qWarning("the login did not end");
         });
     }
 
 private:
-    /// `work` returns when it has ended, and lets the window be painted meanwhile.
-    [[nodiscard]] double longestPauseOf(int page, const std::function<void()> &work)
+    /// `work` returns when it has ended, and lets the window be painted meanwhile. Then the window is painted
+    /// for the same time on the same page without it.
+    [[nodiscard]] Pauses pausesDuring(int page, const std::function<void()> &work)
     {
         window()->setProperty("currentTab", page);
         QTest::qWait(settlingTime);
-        m_longest = 0;
-        m_sinceFrame.invalidate();
-        const auto painted =
-            QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [this] { notePainted(); });
+        QElapsedTimer duration;
+        duration.start();
+        const QList<double> meanwhile = painted(work);
+        const int time = static_cast<int>(duration.elapsed()) - settlingTime;
+        QTest::qWait(settlingTime);
+        return {.during = meanwhile, .without = painted([time] { QTest::qWait(time); })};
+    }
+
+    /// Milliseconds between the frames that are painted during `work`, and until the page has settled.
+    [[nodiscard]] QList<double> painted(const std::function<void()> &work)
+    {
+        QList<double> pauses;
+        QElapsedTimer sinceFrame;
+        const auto connection =
+            QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [&pauses, &sinceFrame, this] {
+                constexpr double nanoseconds = 1e6;
+                if (sinceFrame.isValid())
+                    pauses.append(static_cast<double>(sinceFrame.nsecsElapsed()) / nanoseconds);
+                sinceFrame.start();
+                window()->update();
+            });
         window()->update();
         work();
         QTest::qWait(settlingTime); // the rows are queried again
-        QObject::disconnect(painted);
-        constexpr double nanoseconds = 1e6;
-        return static_cast<double>(m_longest) / nanoseconds;
-    }
-
-    void notePainted()
-    {
-        m_longest = std::max(m_longest, m_sinceFrame.isValid() ? m_sinceFrame.nsecsElapsed() : 0);
-        m_sinceFrame.start();
-        window()->update();
+        QObject::disconnect(connection);
+        std::sort(pauses.begin(), pauses.end());
+        return pauses;
     }
 
     static constexpr int settlingTime = 1000; // milliseconds: the page has been made and painted
@@ -146,8 +180,6 @@ private:
     QStringList m_initialised;
     QStringList m_factoryNew;
     QStringList m_ipports;
-    QElapsedTimer m_sinceFrame;
-    qint64 m_longest = 0; ///< between two frames, nanoseconds
 };
 
 /// A list of the devices, as the user exports it.
@@ -207,79 +239,197 @@ QVariantList devicesToAdd(const QStringList &ipports)
     return devices;
 }
 
-} // namespace
-
-QList<Figure> measureBatchFrames()
+/// A firmware file that fits every device, small enough to be sent at once.
+QString writeFirmware(const QString &path)
 {
-    PaintedProgram program;
-    if (!program.isOpen())
-        return {};
-    QStringList addresses;
-    for (qsizetype number = 0; number < program.initialised().size(); ++number)
-        addresses.append(u"10.1.0.%1"_s.arg(number + 1));
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write("firmware") > 0 ? path : QString();
+}
 
-    QList<Figure> figures;
-    const auto add = [&](const QString &kind, double pause) {
-        figures.append({.subject = u"longest pause between two frames: %1"_s.arg(kind),
-                        .value = pause,
-                        .unit = u"ms"_s,
-                        .budget = 50,
-                        .peer = {},
-                        .largestRatio = {},
-                        .peerName = {}});
+/// Medians of some runs.
+QList<Figure> figuresOf(const QString &kind, const QList<Pauses> &runs)
+{
+    using Measure = double (*)(const QList<double> &pauses);
+    const auto figure = [&](const QString &measured, Measure measure) {
+        QList<double> during;
+        QList<double> without;
+        for (const Pauses &run : runs) {
+            during.append(measure(run.during));
+            without.append(measure(run.without));
+        }
+        return Figure{.subject = u"%1 between frames: %2"_s.arg(measured, kind),
+                      .value = median(during),
+                      .unit = u"ms"_s,
+                      .budget = 50,
+                      .peer = median(without),
+                      .largestRatio = {},
+                      .peerName = u"no batch"_s};
     };
-    const auto measure = [&](const QString &kind, int page, const std::function<Batch *()> &start) {
-        add(kind, program.longestPause(page, start));
-    };
-    add(u"login of a dead device"_s, program.longestPauseOfDeadLogin());
-    measure(u"system command"_s, systemPage, [&] {
-        return program.batches().configureSystem(family, u"videoStandard"_s, u"Standard"_s,
-                                                 {{u"videoStandard"_s, 1}}, program.ipports());
-    });
-    measure(u"CGI command"_s, commandPage, [&] {
-        return program.commands().send(u"Command"_s, program.initialised(),
-                                       u"/cgi-bin/magicBox.cgi?action=getDeviceType"_s);
-    });
-    const QTemporaryDir folder;
-    measure(u"workbook of commands"_s, commandPage, [&] {
-        CgiWorkbooks &workbooks = *program.commands().workbooks();
+    return {figure(u"longest pause"_s, &longest), figure(u"99 % of pauses"_s, &usuallyLongest)};
+}
+
+/// Each kind of batch some times, with the window on the page that begins it.
+class FrameMeasurement
+{
+public:
+    explicit FrameMeasurement(PaintedProgram &program) : m_program(program) {}
+
+    [[nodiscard]] QList<Figure> figures()
+    {
+        logins();
+        commands();
+        snapshotsAndCopies();
+        changes();
+        upgrades();
+        additions();
+        return m_figures;
+    }
+
+private:
+    /// `prepare` comes before each run and is not measured.
+    void measure(const QString &kind, int page, const std::function<Batch *()> &start, int runs = usualRuns,
+                 const std::function<void()> &prepare = {})
+    {
+        QList<Pauses> pauses;
+        for (int run = 0; run < runs; ++run) {
+            if (prepare)
+                prepare();
+            pauses.append(m_program.pauses(page, start));
+        }
+        m_figures += figuresOf(kind, pauses);
+    }
+
+    void logins()
+    {
+        QList<Pauses> dead;
+        QList<Pauses> alive;
+        for (int run = 0; run < usualRuns; ++run) {
+            dead.append(m_program.pausesOfLogin(u"10.250.250.25%1:37777"_s.arg(run)));
+            alive.append(m_program.pausesOfLogin(m_program.ipports().at(run)));
+        }
+        m_figures += figuresOf(u"login of a dead device"_s, dead);
+        m_figures += figuresOf(u"login and reading of a device"_s, alive);
+    }
+
+    void commands()
+    {
+        measure(u"system command"_s, systemPage, [this] {
+            return m_program.batches().configureSystem(family, u"videoStandard"_s, u"Standard"_s,
+                                                       {{u"videoStandard"_s, 1}}, m_program.ipports());
+        });
+        measure(u"CGI command"_s, commandPage, [this] {
+            return m_program.commands().send(u"Command"_s, m_program.initialised(),
+                                             u"/cgi-bin/magicBox.cgi?action=getDeviceType"_s);
+        });
+        QString workbook;
+        measure(
+            u"workbook of commands"_s, commandPage, [&] { return runWorkbook(workbook); }, usualRuns,
+            [&] { workbook = writeWorkbook(m_folder.filePath(u"commands.xlsx"_s), m_program.ipports()); });
+    }
+
+    Batch *runWorkbook(const QString &path)
+    {
+        CgiWorkbooks &workbooks = *m_program.commands().workbooks();
         QSignalSpy wasRead(&workbooks, &CgiWorkbooks::wasRead);
-        workbooks.read(writeWorkbook(folder.filePath(u"commands.xlsx"_s), program.ipports()));
+        workbooks.read(path);
         wasRead.wait(longestBatch);
         QStringList lines;
         for (const QVariant &line : wasRead.value(0).value(0).toList())
             lines.append(line.toMap().value(u"name"_s).toString());
         return workbooks.run(u"Workbook"_s, lines);
-    });
-    program.openSession();
-    measure(u"snapshots"_s, commandPage, [&] {
-        return program.batches().takeSnapshots(family, u"Snapshots"_s, program.ipports().constFirst(), {},
-                                               folder.path());
-    });
-    measure(u"copy of encode settings"_s, configurationPage,
-            [&] { return program.batches().copyEncodeSettings(family, u"Copy"_s, program.ipports()); });
-    measure(u"first passwords"_s, addressPage, [&] {
-        return program.batches().setFirstPasswords(family, u"Passwords"_s, program.factoryNew(), account,
-                                                   password);
-    });
-    measure(u"addresses"_s, addressPage, [&] {
-        return program.batches().changeAddresses(family, u"Addresses"_s, program.initialised(), addresses,
-                                                 u"255.255.0.0"_s, u"10.1.0.254"_s, false);
-    });
-    measure(u"addresses put back"_s, addressPage, [&] {
-        return program.batches().putAddressesBack(program.batches().current(), u"Back"_s,
-                                                  program.initialised());
-    });
-    deleteRows(program);
-    measure(u"favourites"_s, addressPage,
-            [&] { return program.adding().addDevices(u"Favourites"_s, devicesToAdd(program.ipports())); });
-    deleteRows(program);
-    measure(u"import of a list"_s, addressPage, [&] {
-        QSignalSpy began(&program.adding(), &AddingBatches::importBegan);
-        program.adding().importList(u"Import"_s,
-                                    writeList(folder.filePath(u"list.csv"_s), program.ipports()));
-        began.wait(longestBatch);
-        return program.batches().current();
-    });
-    return figures;
+    }
+
+    void snapshotsAndCopies()
+    {
+        m_program.openSession();
+        measure(u"snapshots"_s, commandPage, [this] {
+            return m_program.batches().takeSnapshots(family, u"Snapshots"_s, m_program.ipports().constFirst(),
+                                                     {}, m_folder.path());
+        });
+        measure(u"copy of encode settings"_s, configurationPage, [this] {
+            return m_program.batches().copyEncodeSettings(family, u"Copy"_s, m_program.ipports());
+        });
+    }
+
+    void changes()
+    {
+        constexpr int once = 1; // a device has a first password only once
+        measure(
+            u"first passwords"_s, addressPage,
+            [this] {
+                return m_program.batches().setFirstPasswords(family, u"Passwords"_s, m_program.factoryNew(),
+                                                             account, password);
+            },
+            once);
+        QStringList addresses;
+        for (qsizetype number = 0; number < m_program.initialised().size(); ++number)
+            addresses.append(u"10.1.0.%1"_s.arg(number + 1));
+        const auto change = [&] {
+            return m_program.batches().changeAddresses(family, u"Addresses"_s, m_program.initialised(),
+                                                       addresses, u"255.255.0.0"_s, u"10.1.0.254"_s, false);
+        };
+        const auto putBack = [this] {
+            return m_program.batches().putAddressesBack(m_program.batches().current(), u"Back"_s,
+                                                        m_program.initialised());
+        };
+        QList<Pauses> changed;
+        QList<Pauses> back;
+        for (int run = 0; run < usualRuns; ++run) {
+            changed.append(m_program.pauses(addressPage, change));
+            back.append(m_program.pauses(addressPage, putBack));
+        }
+        m_figures += figuresOf(u"addresses"_s, changed);
+        m_figures += figuresOf(u"addresses put back"_s, back);
+    }
+
+    void upgrades()
+    {
+        constexpr int devices = 12; // each is away for a while
+        const QStringList names = m_program.initialised().first(devices);
+        measure(
+            u"upgrades"_s, upgradePage, [&] { return m_program.upgrading().start(u"Upgrades"_s, names); }, 1,
+            [&] {
+                const QString path = writeFirmware(m_folder.filePath(u"firmware.bin"_s));
+                const QString refusal = m_program.upgrading().chooseFile(names, path);
+                if (!refusal.isEmpty())
+                    qWarning("the firmware is refused: %s", qUtf8Printable(refusal));
+            });
+    }
+
+    void additions()
+    {
+        const auto empty = [this] {
+            deleteRows(m_program);
+        };
+        measure(
+            u"favourites"_s, addressPage,
+            [this] {
+                return m_program.adding().addDevices(u"Favourites"_s, devicesToAdd(m_program.ipports()));
+            },
+            usualRuns, empty);
+        measure(
+            u"import of a list"_s, addressPage,
+            [this] {
+                QSignalSpy began(&m_program.adding(), &AddingBatches::importBegan);
+                m_program.adding().importList(
+                    u"Import"_s, writeList(m_folder.filePath(u"list.csv"_s), m_program.ipports()));
+                began.wait(longestBatch);
+                return m_program.batches().current();
+            },
+            usualRuns, empty);
+    }
+
+    static constexpr int usualRuns = 3;
+
+    PaintedProgram &m_program;
+    const QTemporaryDir m_folder;
+    QList<Figure> m_figures;
+};
+
+} // namespace
+
+QList<Figure> measureBatchFrames()
+{
+    PaintedProgram program;
+    return program.isOpen() ? FrameMeasurement(program).figures() : QList<Figure>();
 }
