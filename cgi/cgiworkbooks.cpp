@@ -6,6 +6,7 @@
 #include "cgi/logging.h"
 #include "device/devicefactory.h"
 #include "device/deviceimport.h"
+#include "sdk/threadpriority.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -97,6 +98,7 @@ void CgiWorkbooks::read(const QString &path)
     }
     m_work = m_factory.busyState()->begin(tr("读取表格文件"), BusyState::Rows);
     m_files.start([this, path] {
+        sdk::giveWayToWindow();
         const auto workbook = std::make_shared<Workbook>();
         const QString refusal = workbook->open(path);
         QMetaObject::invokeMethod(
@@ -183,6 +185,7 @@ DeviceStep CgiWorkbooks::lineStep(const BatchDevice &line) const
 void CgiWorkbooks::takeLines(const QList<BatchOutcome> &outcomes)
 {
     m_files.start([workbook = m_workbook, outcomes] {
+        sdk::giveWayToWindow();
         for (const auto &[line, outcome] : outcomes) {
             if (!isNotDone(outcome))
                 workbook->take(line.name, cgiResultText(outcome));
@@ -194,6 +197,7 @@ void CgiWorkbooks::finish()
 {
     m_work = m_factory.busyState()->begin(tr("保存表格文件"), BusyState::Rows);
     m_files.start([this, workbook = m_workbook] {
+        sdk::giveWayToWindow();
         const QString text = workbook->finish();
         QMetaObject::invokeMethod(
             this, [this, text] { tellEnd(text); }, Qt::QueuedConnection);

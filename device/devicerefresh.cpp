@@ -5,6 +5,7 @@
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 #include "sdk/netlibrary.h"
+#include "sdk/threadpriority.h"
 
 #include <QScopeGuard>
 #include <QThreadPool>
@@ -157,6 +158,7 @@ void DeviceRefresh::start(const QStringList &names)
         return;
     m_tasks.removeIf([](const QFuture<void> &task) { return task.isFinished(); });
     m_tasks.append(QtConcurrent::run([this, devices, stop = m_stop.get_token()] {
+        sdk::giveWayToWindow();
         // The task mostly waits: its thread must not count against those that the pool keeps for work.
         QThreadPool::globalInstance()->releaseThread();
         const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });

@@ -4,6 +4,7 @@
 #include "device/logging.h"
 #include "sdk/clock.h"
 #include "sdk/netlibrary.h"
+#include "sdk/threadpriority.h"
 
 #include <QScopeGuard>
 #include <QThreadPool>
@@ -93,6 +94,7 @@ void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::s
     // A search mostly waits: its thread must not count against those that the pool keeps for work.
     QThreadPool::globalInstance()->releaseThread();
     const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
+    sdk::giveWayToWindow();
 
     m_store->clear();
     Q_EMIT rowsAdded();

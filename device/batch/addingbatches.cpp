@@ -1,6 +1,7 @@
 #include "device/batch/addingbatches.h"
 
 #include "device/devicefactory.h"
+#include "sdk/threadpriority.h"
 
 #include <algorithm>
 #include <memory>
@@ -42,6 +43,7 @@ void AddingBatches::importList(const QString &title, const QString &path)
     m_work = m_factory.busyState()->begin(title, BusyState::Rows);
     Q_EMIT readingChanged();
     m_readers.start([this, title, path] {
+        sdk::giveWayToWindow();
         const auto list = std::make_shared<List>(readList(title, path));
         QMetaObject::invokeMethod(
             this, [this, list] { takeList(*list); }, Qt::QueuedConnection);

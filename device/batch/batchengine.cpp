@@ -2,6 +2,7 @@
 
 #include "device/deviceimport.h"
 #include "device/logging.h"
+#include "sdk/threadpriority.h"
 
 #include <algorithm>
 #include <system_error>
@@ -159,6 +160,7 @@ bool BatchEngine::hasWorkLocked() const
 
 void BatchEngine::work(const std::stop_token &stop)
 {
+    sdk::giveWayToWindow(); // a batch begins with as many steps as it may have at the same time
     for (;;) {
         Taken taken;
         {

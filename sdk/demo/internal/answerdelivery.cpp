@@ -4,6 +4,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/logging.h"
 #include "sdk/demo/internal/searchanswers.h"
+#include "sdk/threadpriority.h"
 
 #include <algorithm>
 #include <system_error>
@@ -78,6 +79,7 @@ bool AnswerDelivery::isInsideHandler()
 
 void AnswerDelivery::deliverShare(std::size_t firstPlace, std::size_t step, const std::stop_token &stop)
 {
+    giveWayToWindow();
     for (std::size_t place = firstPlace; place < m_plan.size(); place += step) {
         const PlannedAnswer &planned = m_plan[place];
         m_site.clock().waitUntil(planned.time, stop);

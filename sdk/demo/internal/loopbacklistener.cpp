@@ -1,6 +1,7 @@
 #include "sdk/demo/internal/loopbacklistener.h"
 
 #include "sdk/demo/internal/logging.h"
+#include "sdk/threadpriority.h"
 
 #include <array>
 #include <cerrno>
@@ -73,6 +74,7 @@ LoopbackListener::~LoopbackListener()
 
 void LoopbackListener::acceptConnections() const
 {
+    giveWayToWindow(); // also the threads of the connections
     std::array watched = {pollfd{m_socket, POLLIN, 0}, pollfd{m_wakeUp, POLLIN, 0}};
     for (;;) {
         if (poll(watched.data(), watched.size(), -1) < 0 && errno != EINTR)
