@@ -12,6 +12,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickWindow>
@@ -144,22 +145,26 @@ private:
     /// Milliseconds between the frames that are painted during `work`, and until the page has settled.
     [[nodiscard]] QList<double> painted(const std::function<void()> &work)
     {
-        QList<double> pauses;
-        QElapsedTimer sinceFrame;
+        m_pauses.clear();
+        m_sinceFrame.invalidate();
         const auto connection =
-            QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [&pauses, &sinceFrame, this] {
-                constexpr double nanoseconds = 1e6;
-                if (sinceFrame.isValid())
-                    pauses.append(static_cast<double>(sinceFrame.nsecsElapsed()) / nanoseconds);
-                sinceFrame.start();
-                window()->update();
-            });
+            QObject::connect(window(), &QQuickWindow::frameSwapped, window(), [this] { notePainted(); });
         window()->update();
         work();
         QTest::qWait(settlingTime); // the rows are queried again
         QObject::disconnect(connection);
+        QList<double> pauses = m_pauses;
         std::sort(pauses.begin(), pauses.end());
         return pauses;
+    }
+
+    void notePainted()
+    {
+        constexpr double nanoseconds = 1e6;
+        if (m_sinceFrame.isValid())
+            m_pauses.append(static_cast<double>(m_sinceFrame.nsecsElapsed()) / nanoseconds);
+        m_sinceFrame.start();
+        window()->update();
     }
 
     static constexpr int settlingTime = 1000; // milliseconds: the page has been made and painted
@@ -180,6 +185,8 @@ private:
     QStringList m_initialised;
     QStringList m_factoryNew;
     QStringList m_ipports;
+    QElapsedTimer m_sinceFrame;
+    QList<double> m_pauses; ///< milliseconds between frames
 };
 
 /// A list of the devices, as the user exports it.
@@ -200,8 +207,11 @@ QString writeList(const QString &path, const QStringList &ipports)
 QString writeWorkbook(const QString &path, const QStringList &ipports)
 {
     QExcel workbook;
-    if (!workbook.open(CGIConfigManage::getinstance()->templateFile()))
+    const QString templates = QFileInfo(QStringLiteral(CONFIGTOOLS_PROGRAM)).path() + u"/template/"_s;
+    if (!workbook.open(templates + CGIConfigManage::templateFileName())) {
+        qWarning("%s", qUtf8Printable(workbook.errorText()));
         return {};
+    }
     int row = 2;
     for (const QString &ipport : ipports) {
         const QStringList cells = {ipport.section(u':', 0, 0),
@@ -333,8 +343,10 @@ private:
         QSignalSpy wasRead(&workbooks, &CgiWorkbooks::wasRead);
         workbooks.read(path);
         wasRead.wait(longestBatch);
+        if (wasRead.isEmpty())
+            return nullptr;
         QStringList lines;
-        for (const QVariant &line : wasRead.value(0).value(0).toList())
+        for (const QVariant &line : wasRead.constFirst().constFirst().toList())
             lines.append(line.toMap().value(u"name"_s).toString());
         return workbooks.run(u"Workbook"_s, lines);
     }
