@@ -2,6 +2,7 @@
 
 #include "device/batch/addressorder.h"
 #include "device/batch/batchresultsfile.h"
+#include "device/batch/occupiedaddresses.h"
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
 #include "device/logging.h"
@@ -27,45 +28,11 @@ QString workOf(const QString &command)
     return command == QLatin1String("loginCheck") ? QStringLiteral("modifyPassword") : command;
 }
 
-/// The addresses that devices of a batch have until they have got another one. The steps that use it run one
-/// after another.
-class OccupiedAddresses
-{
-public:
-    /// A device may have the address of its row, or still the one that it had before changes that failed.
-    explicit OccupiedAddresses(const BatchPlan &plan)
-    {
-        for (const BatchDevice &device : plan.devices) {
-            m_devices.insert(device.ipport.section(QLatin1Char(':'), 0, 0), device);
-            m_devices.insert(plan.addressesBefore.value(device.identity).address, device);
-        }
-    }
-
-    /// The title or MAC of a device other than `identity` that still has `address`; empty when there is none.
-    [[nodiscard]] QString holderOf(const QString &address, const QString &identity) const
-    {
-        if (address.isEmpty())
-            return {};
-        for (const BatchDevice &device : m_devices.values(address)) {
-            if (device.identity != identity)
-                return device.title.isEmpty() ? device.identity : device.title;
-        }
-        return {};
-    }
-
-    void leave(const QString &identity)
-    {
-        m_devices.removeIf([&](const auto &entry) { return entry.value().identity == identity; });
-    }
-
-private:
-    QMultiHash<QString, BatchDevice> m_devices; ///< by address
-};
-
-bool isBeingUpgraded(CDeviceFactory &factory, const QString &family, const BatchDevice &device)
+/// How far the upgrade of a device is, as its row shows it: an UpgradeTools::Result.
+int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice &device)
 {
     const QJsonObject row = factory.deviceRow(family, device.identity);
-    return UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None));
+    return row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None);
 }
 
 } // namespace
@@ -312,12 +279,19 @@ void Batches::giveUp() const
         return;
     current()->stop();
     QStringList notDone;
+    QStringList writing; // these go on without the program
     for (const Batch::Entry &entry : current()->entries()) {
+        const int upgrade = upgradeOf(m_factory, current()->plan().family, entry.device);
+        const bool isWriting = UpgradeTools::isRunning(upgrade) && !UpgradeTools::canStop(upgrade);
         if (!entry.time.isValid())
-            notDone.append(entry.device.ipport);
+            (isWriting ? writing : notDone).append(entry.device.ipport);
     }
-    qCWarning(logDevice).noquote() << "The program ends during" << current()->title()
-                                   << "- not done:" << notDone.join(QStringLiteral(", "));
+    QString words = QStringLiteral("The program ends during %1").arg(current()->title());
+    if (!notDone.isEmpty())
+        words += QStringLiteral(" - not done: ") + notDone.join(QStringLiteral(", "));
+    if (!writing.isEmpty())
+        words += QStringLiteral(" - go on writing their firmware: ") + writing.join(QStringLiteral(", "));
+    qCWarning(logDevice).noquote() << words;
 }
 
 bool Batches::mayStart()
@@ -332,9 +306,11 @@ Batch *Batches::start(BatchPlan plan)
     if (!mayStart())
         return nullptr;
     for (BatchDevice &device : plan.devices)
-        device.isUpgrading = !plan.rowsShowIt && isBeingUpgraded(m_factory, plan.family, device);
+        device.isUpgrading =
+            !plan.rowsShowIt && UpgradeTools::isRunning(upgradeOf(m_factory, plan.family, device));
     auto *batch = new Batch(m_engine, std::move(plan), this);
-    const int work = m_factory.busyState()->begin(batch->title(), BusyState::Rows);
+    const int work = m_factory.busyState()->begin(
+        batch->title(), batch->plan().holdsRows ? BusyState::Rows : BusyState::Program);
     connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });
     connect(batch, &Batch::resulted, this, [this, batch] {
         if (!batch->isRunning()) // devices that waited for the next step do not get it

@@ -72,6 +72,7 @@ BatchPlan UpgradeBatches::usualPlan(const QString &title)
     plan.policy.atOnce = m_atOnce();
     plan.policy.deadline = {}; // an upgrade has limits of its own
     plan.changesRows = true;
+    plan.holdsRows = false;
     plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
         noteRefusals(outcomes);
     };

@@ -325,10 +325,14 @@ private Q_SLOTS:
         QVERIFY(test.passUntil([&] { return test.result(2) == UpgradeTools::Writing; }));
         test.factory->stopUpgrade(test.family, test.mac(0));
         QVERIFY(test.passUntil([&] { return test.result(3) == UpgradeTools::Preparing; })); // logs in
-        QVERIFY(test.factory->busyState()->refusal(BusyState::Delete).contains("Upgrade"));
+        QVERIFY(test.factory->busyState()->refusal(BusyState::Close) != QString());
+        QCOMPARE(test.factory->busyState()->refusal(BusyState::Delete), QString()); // of other rows
         QElapsedTimer time;
         time.start();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^The program ends during Upgrade"));
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            QRegularExpression("^The program ends during Upgrade - not done: .*192.168.1.14:37777 "
+                               "- go on writing their firmware: 192.168.1.12:37777, 192.168.1.13:37777$"));
         test.batches.giveUp();
         test.factory.reset();
         QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
