@@ -94,9 +94,18 @@ private Q_SLOTS:
         m_engine.reset();
     }
 
+    void everyDeviceIsReported_data()
+    {
+        const auto row = dataTable<sdk::demo::Fault, int>({"fault", "number"});
+        row("one does not answer", sdk::demo::Fault::NoAnswer, 0);
+        row("one answers after its deadline", sdk::demo::Fault::SlowAnswers, 60000);
+    }
+
     void everyDeviceIsReported()
     {
-        m_site->site->setFault(m_devices.at(1).mac, {.fault = sdk::demo::Fault::NoAnswer});
+        QFETCH(const sdk::demo::Fault, fault);
+        QFETCH(const int, number);
+        m_site->site->setFault(m_devices.at(1).mac, {.fault = fault, .number = number});
         m_site->site->setFault(m_devices.at(2).mac, {.fault = sdk::demo::Fault::WrongPassword});
         Batch *batch = setStandard(ipportsOf(m_devices));
         QVERIFY(batch);
@@ -120,7 +129,7 @@ private Q_SLOTS:
         // Another try with the same password may lock the account.
         QCOMPARE(batch->retryableDevices(), QStringList{ipportOf(m_devices.at(1))});
 
-        m_site->site->clearFault(m_devices.at(1).mac, sdk::demo::Fault::NoAnswer);
+        m_site->site->clearFault(m_devices.at(1).mac, fault);
         Batch *again = m_batches->retry(batch);
         QVERIFY(again);
         QTRY_VERIFY(!again->isRunning());
@@ -150,8 +159,18 @@ private Q_SLOTS:
         QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
     }
 
+    void addressesArePutBack_data()
+    {
+        const auto row = dataTable<bool>({"areAnswersDoubled"});
+        row("devices answer a search once", false);
+        row("devices answer a search twice", true);
+    }
+
     void addressesArePutBack()
     {
+        QFETCH(const bool, areAnswersDoubled);
+        for (const QString &mac : areAnswersDoubled ? macs() : QStringList())
+            m_site->site->setFault(mac, {.fault = sdk::demo::Fault::AnswerTwice});
         const QStringList before = addresses();
         // Each device gets the address of the next one: the last one has to leave first.
         const QStringList wanted = {"192.168.1.2", "192.168.1.3", "192.168.1.4", "192.168.1.5"};
@@ -182,6 +201,7 @@ private Q_SLOTS:
             asked.append(request.operation);
         QVERIFY(asked.contains("NetStartSearchDevices"));
         QVERIFY(asked.indexOf("NetStartSearchDevices") < asked.indexOf("NetModifyDeviceBySearch"));
+        QCOMPARE(askedMacs("NetModifyDeviceBySearch").size(), 4);
         QCOMPARE(back->report()->succeeded(), 4);
         QCOMPARE(addresses(), before);
     }
