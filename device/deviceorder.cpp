@@ -8,6 +8,7 @@
 #include <cctype>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -22,6 +23,14 @@ void appendNumber(QByteArray &bytes, std::uint32_t number, int size)
 {
     for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
         bytes.append(static_cast<char>(number >> shift));
+}
+
+/// Where a group stands: ordinary types first, then these two.
+int groupRank(const QString &type)
+{
+    if (type == otherDeviceType())
+        return 2;
+    return type == QLatin1String("PC-NVR") ? 1 : 0;
 }
 
 /// The bytes of a MAC with or without separators; empty for other texts.
@@ -128,4 +137,25 @@ int DeviceOrder::compare(const SortKey &left, const SortKey &right)
     if (const int bytes = left.bytes.compare(right.bytes); bytes != 0)
         return bytes;
     return left.text.compare(right.text);
+}
+
+QVariantList DeviceOrder::ordered(const QVariantList &rows) const
+{
+    std::vector<std::pair<SortKey, QVariant>> keyed;
+    keyed.reserve(static_cast<std::size_t>(rows.size()));
+    for (const QVariant &row : rows)
+        keyed.emplace_back(sortKey(row.toJsonObject()), row);
+    std::stable_sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) {
+        return compare(left.first, right.first) < 0;
+    });
+    QVariantList sorted;
+    sorted.reserve(rows.size());
+    for (const auto &[key, row] : keyed)
+        sorted.append(row);
+    return sorted;
+}
+
+bool DeviceOrder::isGroupBefore(const QString &left, const QString &right)
+{
+    return std::pair(groupRank(left), left) < std::pair(groupRank(right), right);
 }

@@ -5,6 +5,7 @@
 #include <QCollator>
 #include <QJsonObject>
 #include <QString>
+#include <QVariantList>
 
 /// Compares rows by one key: "ipport" by the bytes of the address and then the port, IPv4 before IPv6; "mac"
 /// by its bytes; "vision" by its numbers in their order; other texts by the user's language, with numbers
@@ -34,6 +35,13 @@ public:
 
     /// Negative, zero or positive, as `left` stands before, beside or behind `right`.
     [[nodiscard]] static int compare(const SortKey &left, const SortKey &right);
+
+    /// Rows (JSON objects) in this order; equal ones keep theirs.
+    [[nodiscard]] QVariantList ordered(const QVariantList &rows) const;
+
+    /// Whether a group of devices of the type `left` stands before one of `right`: by the alphabet, with
+    /// "PC-NVR" and then "Other" at the end, since they are no device hardware.
+    [[nodiscard]] static bool isGroupBefore(const QString &left, const QString &right);
 
 private:
     void placeAddress(SortKey &key, const QString &ipport) const;

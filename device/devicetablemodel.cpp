@@ -2,7 +2,6 @@
 
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
-#include "device/failedmarks.h"
 #include "device/upgradetools.h"
 
 #include <algorithm>
@@ -29,17 +28,6 @@ constexpr std::array rowKeys = {
     DeviceRowKey::operate, DeviceRowKey::filepath, DeviceRowKey::upgrade,  DeviceRowKey::upgraderes,
     DeviceRowKey::url,     DeviceRowKey::result,   DeviceRowKey::httpport, DeviceRowKey::upgradetext,
 };
-
-/// The value of a key; rows that lack it (IPv6 rows lack some) have the value that new rows begin with.
-QVariant valueOf(const QJsonObject &row, QLatin1StringView key)
-{
-    const QJsonValue value = row.value(key);
-    if (!value.isUndefined())
-        return value.toVariant();
-    if (key == DeviceRowKey::res || key == DeviceRowKey::upgraderes)
-        return -1;
-    return key == DeviceRowKey::upgrade ? QVariant(0) : QVariant(QString());
-}
 
 } // namespace
 
@@ -68,7 +56,7 @@ QVariant DeviceTableModel::data(const QModelIndex &index, int role) const
         break;
     }
     const int key = role - FirstKeyRole;
-    return key >= 0 && key < int(rowKeys.size()) ? valueOf(row.values, rowKeys[key]) : QVariant();
+    return key >= 0 && key < int(rowKeys.size()) ? row.value(rowKeys[key]) : QVariant();
 }
 
 bool DeviceTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
@@ -131,20 +119,10 @@ void DeviceTableModel::setSearchText(const QString &searchText)
         applyFilter();
 }
 
-FailedMarks *DeviceTableModel::failedMarks() const
-{
-    return m_failedMarks;
-}
-
 void DeviceTableModel::setFailedMarks(FailedMarks *marks)
 {
-    if (m_failedMarks == marks)
+    if (!m_failedMarks.follow(marks, this, &DeviceTableModel::takeMarks))
         return;
-    if (m_failedMarks)
-        m_failedMarks->disconnect(this);
-    m_failedMarks = marks;
-    if (m_failedMarks)
-        connect(m_failedMarks, &FailedMarks::changed, this, &DeviceTableModel::takeMarks);
     Q_EMIT failedMarksChanged();
     takeMarks();
 }
@@ -157,7 +135,7 @@ void DeviceTableModel::setOnlyFailed(bool only)
 
 void DeviceTableModel::takeMarks()
 {
-    if (m_onlyFailed && (!m_failedMarks || m_failedMarks->count() == 0))
+    if (m_onlyFailed && m_failedMarks.isEmpty())
         setOnlyFailed(false);
     else if (m_onlyFailed)
         refresh();
@@ -198,13 +176,7 @@ void DeviceTableModel::forgetLostTicks(const QVariantList &list)
 {
     if (checkedIdentities().isEmpty())
         return;
-    QSet<QString> left;
-    for (const QVariant &row : list) {
-        const QString identity = rowName(row.toJsonObject());
-        if (checkedIdentities().contains(identity))
-            left.insert(identity);
-    }
-    checkedIdentities().swap(left);
+    checkedIdentities() = namesOf(list).intersect(checkedIdentities());
 }
 
 void DeviceTableModel::refresh()
@@ -334,7 +306,7 @@ void DeviceTableModel::countChecked()
             if (!checkedIdentities().contains(row.identity))
                 continue;
             ++m_checkedCount;
-            const int upgrade = valueOf(row.values, DeviceRowKey::upgraderes).toInt();
+            const int upgrade = row.value(DeviceRowKey::upgraderes).toInt();
             m_checkedUpgradingCount += UpgradeTools::isRunning(upgrade) ? 1 : 0;
         }
     }
@@ -356,8 +328,7 @@ QVariantMap DeviceTableModel::get(int row) const
     values.insert(DeviceRowKey::checked, checkedIdentities().contains(m_rows.at(row).identity));
     values.insert(DeviceRowKey::num, QString::number(row + 1));
     values.insert(QStringLiteral("identity"), m_rows.at(row).identity);
-    values.insert(QStringLiteral("failure"),
-                  m_failedMarks ? m_failedMarks->wordsOf(m_rows.at(row).identity) : QString());
+    values.insert(QStringLiteral("failure"), m_failedMarks.wordsOf(m_rows.at(row).identity));
     return values;
 }
 
@@ -412,16 +383,10 @@ int DeviceTableModel::deleteChecked()
 
 QString DeviceTableModel::textOf(const QList<int> &rows) const
 {
-    constexpr std::array copiedKeys = {DeviceRowKey::name,   DeviceRowKey::type, DeviceRowKey::model,
-                                       DeviceRowKey::ipport, DeviceRowKey::mac,  DeviceRowKey::vision};
     QStringList lines;
     for (const int row : rows) {
-        if (row < 0 || row >= rowCount())
-            continue;
-        QStringList cells;
-        for (const QLatin1StringView key : copiedKeys)
-            cells.append(m_rows.at(row).values.value(key).toString().simplified());
-        lines.append(cells.join(QLatin1Char('\t')));
+        if (row >= 0 && row < rowCount())
+            lines.append(m_rows.at(row).text());
     }
     return lines.join(QLatin1Char('\n'));
 }

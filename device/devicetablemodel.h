@@ -2,6 +2,7 @@
 #pragma once
 
 #include "device/devicetablerows.h"
+#include "device/followedmarks.h"
 
 #include <QAbstractListModel>
 #include <QHash>
@@ -10,7 +11,6 @@
 #include <QSet>
 
 class CDeviceFactory;
-class FailedMarks;
 
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
@@ -26,7 +26,6 @@ class DeviceTableModel : public QAbstractListModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/devicefactory.h")
-    Q_MOC_INCLUDE("device/failedmarks.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(bool showInitialised READ showInitialised WRITE setShowInitialised NOTIFY filterChanged)
@@ -65,7 +64,7 @@ public:
     void setIpv6(bool ipv6);
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
-    [[nodiscard]] FailedMarks *failedMarks() const;
+    [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }
     void setFailedMarks(FailedMarks *marks);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     void setOnlyFailed(bool only);
@@ -149,7 +148,7 @@ private:
     bool m_showUninitialised = true;
     bool m_ipv6 = false;
     QString m_searchText;
-    QPointer<FailedMarks> m_failedMarks; ///< not owned
+    FollowedMarks m_failedMarks;
     bool m_onlyFailed = false;
     bool m_oddAddressesFirst = false;
     QString m_sortKey; ///< empty: the order of the list

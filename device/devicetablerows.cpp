@@ -45,6 +45,34 @@ QList<DeviceTableRow> ordered(QList<DeviceTableRow> rows, const DeviceTableOrder
 
 } // namespace
 
+QVariant DeviceTableRow::value(QLatin1StringView key) const
+{
+    const QJsonValue value = values.value(key);
+    if (!value.isUndefined())
+        return value.toVariant();
+    if (key == DeviceRowKey::res || key == DeviceRowKey::upgraderes)
+        return -1;
+    return key == DeviceRowKey::upgrade ? QVariant(0) : QVariant(QString());
+}
+
+QString DeviceTableRow::text() const
+{
+    QStringList cells;
+    for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::type, DeviceRowKey::model,
+                                        DeviceRowKey::ipport, DeviceRowKey::mac, DeviceRowKey::vision})
+        cells.append(values.value(key).toString().simplified());
+    return cells.join(QLatin1Char('\t'));
+}
+
+QSet<QString> namesOf(const QVariantList &list)
+{
+    QSet<QString> names;
+    names.reserve(list.size());
+    for (const QVariant &row : list)
+        names.insert(rowName(row.toJsonObject()));
+    return names;
+}
+
 QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTableFilter &filter,
                                       const DeviceTableOrder &order)
 {

@@ -5,6 +5,7 @@
 
 #include <QJsonObject>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QVariantList>
 
@@ -17,6 +18,12 @@ struct DeviceTableRow
     QString identity;      ///< see rowName()
     bool conflict = false; ///< another row of the list, shown or not, has the same "ipport"
     QString reason = {};   ///< of the mark, while only failed devices are shown
+
+    /// The value of a key; for one that the row lacks, as IPv6 rows do, the value that new rows begin with.
+    [[nodiscard]] QVariant value(QLatin1StringView key) const;
+
+    /// Its texts in tab-separated columns, for the clipboard.
+    [[nodiscard]] QString text() const;
 };
 
 /// Which rows of a list are shown.
@@ -36,6 +43,9 @@ struct DeviceTableOrder
     Qt::SortOrder direction = Qt::AscendingOrder;
     DeviceOrder::OddAddresses oddAddresses = DeviceOrder::OddAddresses::Behind;
 };
+
+/// The names of all rows of `list`, see rowName().
+[[nodiscard]] QSet<QString> namesOf(const QVariantList &list);
 
 /// The rows of `list` (JSON objects, as the factory's filterData gives them) that a table shows.
 [[nodiscard]] QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTableFilter &filter,

@@ -3,7 +3,6 @@
 #include "device/devicefactory.h"
 #include "device/deviceorder.h"
 #include "device/devicerow.h"
-#include "device/failedmarks.h"
 #include "device/loginresult.h"
 #include "device/upgradetools.h"
 
@@ -13,19 +12,6 @@
 #include <algorithm>
 #include <numeric>
 #include <utility>
-#include <vector>
-
-namespace {
-
-/// Where a group stands: ordinary types first, then these two.
-int groupRank(const QString &type)
-{
-    if (type == otherDeviceType())
-        return 2;
-    return type == QLatin1String("PC-NVR") ? 1 : 0;
-}
-
-} // namespace
 
 OVTreeModel::OVTreeModel(QObject *parent) : QAbstractItemModel(parent) {}
 
@@ -103,7 +89,7 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
     case IdentityRole:
         return device.identity;
     case FailureRole:
-        return m_failedMarks ? m_failedMarks->wordsOf(device.identity) : QString();
+        return m_failedMarks.wordsOf(device.identity);
     case Qt::ToolTipRole:
         return device.detail;
     default:
@@ -234,20 +220,10 @@ void OVTreeModel::setDeviceFactory(CDeviceFactory *deviceFactory)
         Q_EMIT deviceFactoryChanged();
 }
 
-FailedMarks *OVTreeModel::failedMarks() const
-{
-    return m_failedMarks;
-}
-
 void OVTreeModel::setFailedMarks(FailedMarks *marks)
 {
-    if (m_failedMarks == marks)
+    if (!m_failedMarks.follow(marks, this, &OVTreeModel::takeMarks))
         return;
-    if (m_failedMarks)
-        m_failedMarks->disconnect(this);
-    m_failedMarks = marks;
-    if (m_failedMarks)
-        connect(m_failedMarks, &FailedMarks::changed, this, &OVTreeModel::takeMarks);
     Q_EMIT failedMarksChanged();
     takeMarks();
 }
@@ -262,7 +238,7 @@ void OVTreeModel::setOnlyFailed(bool only)
 
 void OVTreeModel::takeMarks()
 {
-    if (m_onlyFailed && (!m_failedMarks || m_failedMarks->count() == 0))
+    if (m_onlyFailed && m_failedMarks.isEmpty())
         return setOnlyFailed(false);
     if (m_onlyFailed)
         return resetItems(m_filterType, m_searchText);
@@ -274,27 +250,14 @@ void OVTreeModel::takeMarks()
 
 QVariantList OVTreeModel::readRows() const
 {
-    QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText);
-    if (!m_onlyFailed)
-        return rows;
-    const DeviceOrder order{QString(DeviceRowKey::ipport)};
-    std::vector<std::pair<DeviceOrder::SortKey, QVariant>> keyed;
-    keyed.reserve(rows.size());
-    for (const QVariant &row : std::as_const(rows))
-        keyed.emplace_back(order.sortKey(row.toJsonObject()), row);
-    std::stable_sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) {
-        return DeviceOrder::compare(left.first, right.first) < 0;
-    });
-    rows.clear();
-    for (const auto &[key, row] : keyed)
-        rows.append(row);
-    return rows;
+    const QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText);
+    return m_onlyFailed ? DeviceOrder(DeviceRowKey::ipport).ordered(rows) : rows;
 }
 
 QString OVTreeModel::groupNameOf(const QJsonObject &row, const QString &identity) const
 {
     if (m_onlyFailed)
-        return m_failedMarks ? m_failedMarks->reasonOf(identity) : QString();
+        return m_failedMarks.reasonOf(identity);
     const QString type = row.value(DeviceRowKey::type).toString();
     return type.isEmpty() ? otherDeviceType() : type;
 }
@@ -341,7 +304,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
         groups[position].checkedCount += device.checked ? 1 : 0;
     }
     std::sort(groups.begin(), groups.end(), [](const Group &left, const Group &right) {
-        return std::pair(groupRank(left.type), left.type) < std::pair(groupRank(right.type), right.type);
+        return DeviceOrder::isGroupBefore(left.type, right.type);
     });
 
     beginResetModel();

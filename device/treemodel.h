@@ -1,6 +1,8 @@
 // Devices as a tree, grouped by type, for the configuration pages.
 #pragma once
 
+#include "device/followedmarks.h"
+
 #include <QAbstractItemModel>
 #include <QHash>
 #include <QList>
@@ -9,7 +11,6 @@
 #include <utility>
 
 class CDeviceFactory;
-class FailedMarks;
 
 /// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named by their
 /// "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
@@ -24,7 +25,6 @@ class OVTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/devicefactory.h")
-    Q_MOC_INCLUDE("device/failedmarks.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
@@ -69,7 +69,7 @@ public:
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
-    [[nodiscard]] FailedMarks *failedMarks() const;
+    [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }
     void setFailedMarks(FailedMarks *marks);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     void setOnlyFailed(bool only);
@@ -147,7 +147,7 @@ private:
     void setDeviceChecked(const QModelIndex &device, bool checked);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
-    QPointer<FailedMarks> m_failedMarks;      ///< not owned
+    FollowedMarks m_failedMarks;
     bool m_onlyFailed = false;
     QString m_filterType; ///< of the last resetItems(), empty before it
     QString m_searchText;
