@@ -500,6 +500,10 @@
         <translation>Not enough system resources to begin</translation>
     </message>
     <message>
+        <source>保存结果</source>
+        <translation>Save results</translation>
+    </message>
+    <message>
         <source>%1 通道 %2</source>
         <translation>%1 channel %2</translation>
     </message>

@@ -488,6 +488,10 @@
         <translation>系统资源不足，无法开始</translation>
     </message>
     <message>
+        <source>保存结果</source>
+        <translation>保存结果</translation>
+    </message>
+    <message>
         <source>%1 通道 %2</source>
         <translation>%1 通道 %2</translation>
     </message>

@@ -7,6 +7,7 @@
 #include "device/devicerow.h"
 #include "device/logging.h"
 #include "device/upgradetools.h"
+#include "sdk/threadpriority.h"
 
 #include <algorithm>
 #include <memory>
@@ -40,6 +41,12 @@ int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice 
 Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
     : QObject(parent), m_factory(factory), m_engine(engine), m_atOnce(std::move(atOnce))
 {
+    m_files.setMaxThreadCount(1);
+}
+
+Batches::~Batches()
+{
+    m_files.waitForDone();
 }
 
 BatchPolicy Batches::usualPolicy() const
@@ -260,9 +267,22 @@ Batch *Batches::retry(Batch *batch)
     return again;
 }
 
-QString Batches::saveResults(Batch *batch, const QString &path) const
+void Batches::saveResults(Batch *batch, const QString &path)
 {
-    return batch ? saveBatchResults(*batch, path) : QString();
+    if (!batch)
+        return;
+    const int work = m_factory.busyState()->begin(tr("保存结果"), BusyState::Program);
+    m_files.start([this, path, work, lines = batchResultLines(*batch)] {
+        sdk::giveWayToWindow();
+        const QString reason = saveBatchResults(lines, path);
+        QMetaObject::invokeMethod(
+            this,
+            [this, path, work, reason] {
+                m_factory.busyState()->end(work);
+                Q_EMIT resultsSaved(path, reason);
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 bool Batches::mayChangeAddresses()

@@ -3,6 +3,7 @@
 #include "device/batch/batch.h"
 #include "device/failedmarks.h"
 
+#include <QThreadPool>
 #include <QVariantMap>
 
 #include <optional>
@@ -27,6 +28,9 @@ public:
     /// same time.
     Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce,
             QObject *parent = nullptr);
+
+    /// Waits for results that are being written.
+    ~Batches() override;
 
     /// The last one that was started; null before the first.
     [[nodiscard]] Batch *current() const { return m_kept.isEmpty() ? nullptr : m_kept.constLast(); }
@@ -79,10 +83,9 @@ public:
     /// The devices of an ended batch again that may succeed in another try.
     Q_INVOKABLE Batch *retry(Batch *batch);
 
-    /// Writes what has come of each device to a file: a workbook, or comma-separated text for a name that
-    /// ends in ".csv". Returns the reason when it could not be written, in the words of the system; the file
-    /// is then as it was. Empty on success.
-    Q_INVOKABLE [[nodiscard]] QString saveResults(Batch *batch, const QString &path) const;
+    /// Writes what has come of each device until now to a file, on a thread of its own: a workbook, or
+    /// comma-separated text for a name that ends in ".csv". resultsSaved() follows.
+    Q_INVOKABLE void saveResults(Batch *batch, const QString &path);
 
     /// How many devices are worked on at the same time, and how long a step may take, unless the work says
     /// otherwise.
@@ -99,6 +102,10 @@ Q_SIGNALS:
     void refused(const QString &message);
 
     void retried(Batch *earlier, Batch *again); ///< before the first result of `again`
+
+    /// `reason` tells why the file could not be written, in the words of the system; the file is then as it
+    /// was. Empty on success.
+    void resultsSaved(const QString &path, const QString &reason);
 
 private:
     /// Whether the addresses of the devices are looked up before they are changed.
@@ -124,4 +131,5 @@ private:
     const std::function<int()> m_atOnce;
     QList<Batch *> m_kept; ///< owned, oldest first
     FailedMarks m_failedMarks;
+    QThreadPool m_files; ///< one thread, which writes results
 };

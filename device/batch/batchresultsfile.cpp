@@ -55,26 +55,34 @@ bool writeRow(QExcel &workbook, int row, const QStringList &cells)
     return true;
 }
 
-QString saveWorkbook(const Batch &batch, const QString &path)
+QString saveWorkbook(const QList<QStringList> &lines, const QString &path)
 {
     QExcel workbook;
-    const QStringList head = titles();
-    const sheets::CellRange headCells = {{1, 1}, {1, static_cast<int>(head.size())}};
-    bool done = workbook.createWorkbook() && writeRow(workbook, 1, head) && workbook.setBold(headCells, true);
-    int row = 1;
-    for (const Batch::Entry &entry : batch.entries())
-        done = done && writeRow(workbook, ++row, lineOf(batch, entry));
-    return done && workbook.saveAs(path) ? QString() : workbook.errorText();
+    const sheets::CellRange head = {{1, 1}, {1, static_cast<int>(lines.constFirst().size())}};
+    bool done = workbook.createWorkbook();
+    int row = 0;
+    for (const QStringList &line : lines)
+        done = done && writeRow(workbook, ++row, line);
+    return done && workbook.setBold(head, true) && workbook.saveAs(path) ? QString() : workbook.errorText();
 }
 
 } // namespace
 
-QString saveBatchResults(const Batch &batch, const QString &path)
+QList<QStringList> batchResultLines(const Batch &batch)
+{
+    QList<QStringList> lines = {titles()};
+    lines.reserve(batch.entries().size() + 1);
+    for (const Batch::Entry &entry : batch.entries())
+        lines.append(lineOf(batch, entry));
+    return lines;
+}
+
+QString saveBatchResults(const QList<QStringList> &lines, const QString &path)
 {
     if (!path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        return saveWorkbook(batch, path);
-    QByteArray text = byteOrderMark.toByteArray() + csvLine(titles());
-    for (const Batch::Entry &entry : batch.entries())
-        text += csvLine(lineOf(batch, entry));
+        return saveWorkbook(lines, path);
+    QByteArray text = byteOrderMark.toByteArray();
+    for (const QStringList &line : lines)
+        text += csvLine(line);
     return replaceFile(path, text);
 }

@@ -10,6 +10,7 @@ Item {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
+    property string writtenPath  // the file that is being written; "" for none
     signal said(string message, int kind)
 
     function show() {
@@ -19,16 +20,26 @@ Item {
     function save(batch) {
         const name = batch.title + batch.began.toLocaleString(Qt.locale("C"), " yyyy-MM-dd HH-mm-ss");
         fileDialogs.chooseNewFile(qsTr("保存结果"), ["Excel Files (*.xlsx)", "CSV Files (*.csv)"], name, path => {
-            const reason = batches.saveResults(batch, path);
-            if (reason === "")
-                said(qsTr("结果已保存到 %1").arg(path), OVToast.Success);
-            else
-                said(qsTr("结果无法保存，可以另选位置重试。\n%1").arg(reason), OVToast.Error);
+            writtenPath = path;
+            batches.saveResults(batch, path);
         });
     }
 
     visible: false
 
+    Connections {
+        target: root.batches
+
+        function onResultsSaved(path, reason) {
+            if (path !== root.writtenPath)  // another page's
+                return;
+            root.writtenPath = "";
+            if (reason === "")
+                root.said(qsTr("结果已保存到 %1").arg(path), OVToast.Success);
+            else
+                root.said(qsTr("结果无法保存，可以另选位置重试。\n%1").arg(reason), OVToast.Error);
+        }
+    }
     // qmllint disable unqualified
     OVOnDemand {
         id: panel

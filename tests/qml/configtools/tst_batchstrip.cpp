@@ -227,6 +227,7 @@ private Q_SLOTS:
         Batch *batch = run({0, networkFailure, 0});
         QSignalSpy said(find("foot"), SIGNAL(said(QString, int)));
         press("saveResultsButton");
+        QTRY_COMPARE(said.size(), 1);
         QVERIFY(said.takeFirst().first().toString().contains(m_file.path));
         const QString time = batch->entries().at(1).time.toString("yyyy-MM-dd HH:mm:ss");
         const QStringList line = {"10.0.0.2:37777",           "m2", "=门,\"2\"", "Work",
@@ -254,6 +255,7 @@ private Q_SLOTS:
         {
             const FileSizeLimit limit(16);
             press("saveResultsButton");
+            QTRY_COMPARE(said.size(), 1);
         }
         QCOMPARE(said.takeFirst().at(1).toInt(), 2);
         QCOMPARE(fileContents(m_file.path), before);
