@@ -277,6 +277,11 @@ DeviceStep CDeviceBase::upgradeStep(const QString &)
     return unsupportedStep();
 }
 
+DeviceStep CDeviceBase::repeatedDocumentStep(const QString &)
+{
+    return unsupportedStep();
+}
+
 QList<UpgradeDocumentStep> CDeviceBase::upgradeDocumentSteps(const QString &, const QList<int> &)
 {
     return {};

@@ -201,6 +201,9 @@ public:
     /// Of startUpgradeByDocument(), for those of the document's lines that have these numbers. A line that
     /// cannot be upgraded has a step that says so. Empty for a document that is refused.
     virtual QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines);
+    /// upgradeStep() for a device whose line of a document was upgraded before: the result goes into the file
+    /// as well, when the other lines that are upgraded again are done.
+    virtual DeviceStep repeatedDocumentStep(const QString &mac);
     /// What upgradeStep() would do with each of these rows, by what the rows and their files contain.
     virtual QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs);
     /// setUpgradeFilePath() for many rows, which looks at the file once. Returns what speaks against the

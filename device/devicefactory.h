@@ -186,6 +186,7 @@ public:
     [[nodiscard]] DeviceStep locationStep(const QString &family, const QStringList &macs);
     [[nodiscard]] DeviceStep addingStep(const QString &family, const DeviceToAdd &device);
     [[nodiscard]] DeviceStep upgradeStep(const QString &family, const QString &mac);
+    [[nodiscard]] DeviceStep repeatedDocumentStep(const QString &family, const QString &mac);
     [[nodiscard]] QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &family, const QString &path,
                                                                   const QList<int> &lines);
 

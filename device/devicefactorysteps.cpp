@@ -52,6 +52,11 @@ DeviceStep CDeviceFactory::upgradeStep(const QString &family, const QString &mac
     return forward(family, &CDeviceBase::upgradeStep, mac);
 }
 
+DeviceStep CDeviceFactory::repeatedDocumentStep(const QString &family, const QString &mac)
+{
+    return forward(family, &CDeviceBase::repeatedDocumentStep, mac);
+}
+
 QList<UpgradeDocumentStep> CDeviceFactory::upgradeDocumentSteps(const QString &family, const QString &path,
                                                                 const QList<int> &lines)
 {

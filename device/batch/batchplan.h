@@ -72,8 +72,8 @@ struct BatchPlan
     /// changes.
     bool changesRows = false;
 
-    /// Whether no row of the list may be removed meanwhile. The back end keeps the row of a device that is being
-    /// upgraded by itself.
+    /// Whether no row of the list may be removed meanwhile. The back end keeps the row of a device that is
+    /// being upgraded by itself.
     bool holdsRows = true;
 
     /// Whether the rows hold the results, in "res". A step writes its own; the batch writes those of devices

@@ -27,7 +27,7 @@ public:
     [[nodiscard]] DeviceStep take(const BatchDevice &device)
     {
         const DeviceStep step = m_steps.take(device.name);
-        return step ? step : m_factory.upgradeStep(family, device.identity);
+        return step ? step : m_factory.repeatedDocumentStep(family, device.identity);
     }
 
 private:
@@ -47,8 +47,10 @@ UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::f
     connect(&m_factory, &CDeviceFactory::signalUpdateSchedule, this, &UpgradeBatches::noteProgress);
     connect(&m_factory, &CDeviceFactory::signalShowUpgradeFinishTip, this, &UpgradeBatches::noteRoundEnd);
     connect(&m_batches, &Batches::retried, this, [this](const Batch *earlier, Batch *again) {
-        if (earlier == m_batch)
-            follow(again, Source::List);
+        if (earlier != m_batch)
+            return;
+        m_isDocumentOpen = m_source == Source::Document;
+        follow(again, m_source);
     });
 }
 
@@ -126,6 +128,7 @@ Batch *UpgradeBatches::begin(BatchPlan plan, Source source)
 void UpgradeBatches::follow(Batch *batch, Source source)
 {
     m_batch = batch;
+    m_source = source;
     connect(batch, &Batch::finished, this, [this, batch, source] {
         tellRows();
         const BatchReport &report = *batch->report();

@@ -26,7 +26,7 @@ public:
     Q_INVOKABLE Batch *start(const QString &title, const QStringList &identities);
 
     /// Upgrades devices of a document: those of the lines with these numbers. documentEnded() follows, also
-    /// when the document is refused. What comes of another try is not written into it.
+    /// when the document is refused, and after a retry, whose results are written into it as well.
     Q_INVOKABLE Batch *startDocument(const QString &title, const QString &path, const QStringList &lines);
 
 Q_SIGNALS:
@@ -37,7 +37,7 @@ Q_SIGNALS:
     /// The same for so many rows that the page does better to read the list.
     void listChanged();
 
-    /// Of a batch of listed devices, or a retry: how many were upgraded, failed, or were stopped before.
+    /// Of a batch of listed devices: how many were upgraded, failed, or were stopped before.
     void ended(int upgraded, int failed, int notDone);
 
     /// The results of the document are in its file. `text` is a message for the user.
@@ -62,7 +62,8 @@ private:
     CDeviceFactory &m_factory;
     Batches &m_batches;
     const std::function<int()> m_atOnce;
-    QPointer<Batch> m_batch;       ///< the last one
-    bool m_isDocumentOpen = false; ///< its results are to come
-    QTimer m_news;                 ///< runs from a change of a row until rowsChanged()
+    QPointer<Batch> m_batch;        ///< the last one
+    Source m_source = Source::List; ///< its
+    bool m_isDocumentOpen = false;  ///< its results are to come
+    QTimer m_news;                  ///< runs from a change of a row until rowsChanged()
 };

@@ -42,6 +42,7 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
 {
     // One that does not answer keeps none that does waiting.
     m_sessionThreads.setMaxThreadCount(maximumSessionThreads);
+    m_documentFiles.setMaxThreadCount(1);
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
 
@@ -82,6 +83,7 @@ CDeviceDH::~CDeviceDH()
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_engine->end();
     m_sessionThreads.waitForDone();
+    m_documentFiles.waitForDone();
     m_search.reset();
     m_refresh.reset();
 }
@@ -93,6 +95,7 @@ void CDeviceDH::factoryEnds()
     m_snapshots.reset();
     m_upgrades->end();
     noteUpgradeDocuments();
+    m_documentFiles.waitForDone();
 }
 
 void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort, void *)

@@ -177,6 +177,7 @@ public:
     /// "upgraderes" an UpgradeTools::Result, "upgradetext" in words, and "vision" at the end.
     void startUpgrade(const QStringList &macs) override;
     DeviceStep upgradeStep(const QString &mac) override;
+    DeviceStep repeatedDocumentStep(const QString &mac) override;
     QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines) override;
     QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs) override;
     QList<int> setUpgradeFiles(const QStringList &macs, const QString &path) override;
@@ -255,6 +256,8 @@ private:
     /// Emits signalCDeviceAddSingleDeviceToTable once, however often it is called before. On any thread.
     void noteChangedRows();
     void noteUpgradeRoundEnd();
+    /// Writes a document of upgrades, see UpgradeDocuments::Writer.
+    void writeDocument(const std::function<void()> &write, const std::function<void()> &written);
     /// Of one channel, or of all for -1.
     [[nodiscard]] SnapTask snapTask(const QString &kind, int onlyChannel, const QString &address) const;
     /// Any thread.
@@ -300,7 +303,12 @@ private:
     KeptLogins m_keptLogins;
     std::shared_ptr<SessionState> m_state;   ///< never null; on the scene's thread
     std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
-    UpgradeDocuments m_upgradeDocuments;
+    QThreadPool m_documentFiles;             ///< one thread, which writes documents of upgrades
+    UpgradeDocuments m_upgradeDocuments{
+        [this](const std::function<void()> &write, const std::function<void()> &written) {
+            writeDocument(write, written);
+        }};
+    bool m_isRoundEndUntold = false;                    ///< documents of the round are still written
     QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row
     QHash<QString, UpgradeOrder> m_rowlessOrders;       ///< of lines without a row, by address and port
     QSet<QString> m_changedUpgrades;                    ///< names of rows; any thread

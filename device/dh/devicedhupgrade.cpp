@@ -6,6 +6,7 @@
 #include "device/dh/internal/devicelistfile.h"
 #include "device/dh/upgraderunner.h"
 #include "device/logging.h"
+#include "sdk/threadpriority.h"
 
 #include <algorithm>
 
@@ -82,6 +83,14 @@ DeviceStep CDeviceDH::upgradeStep(const QString &mac)
     }
     noteChangedRows();
     return m_upgrades->step(row.isEmpty() ? m_rowlessOrders.value(mac) : upgradeOrder(row));
+}
+
+DeviceStep CDeviceDH::repeatedDocumentStep(const QString &mac)
+{
+    const bool isKnown = !store().rowNamed(mac).isEmpty() || m_rowlessOrders.contains(mac);
+    if (isKnown && !m_upgrades->isUpgrading(mac))
+        m_upgradeDocuments.repeat(mac);
+    return upgradeStep(mac);
 }
 
 QList<PlannedUpgrade> CDeviceDH::plannedUpgrades(const QStringList &macs)
@@ -241,7 +250,7 @@ UpgradeTools::Result CDeviceDH::followLine(const UpgradeDocumentLine &line, cons
         m_upgradeDocuments.refuse(line.row, UpgradeTools::text(refusal));
         return refusal;
     }
-    m_upgradeDocuments.follow(order.key, line.row);
+    m_upgradeDocuments.follow(order.key, line);
     if (order.row.isEmpty())
         m_rowlessOrders.insert(order.key, order);
     else
@@ -304,7 +313,7 @@ void CDeviceDH::noteDocumentsBegun()
 {
     noteUpgradeDocuments();
     noteChangedRows();
-    if (!hasDeviceUpgrading()) // no line could be upgraded
+    if (!m_upgrades->isUpgrading()) // no line could be upgraded
         QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeRoundEnd, Qt::QueuedConnection);
 }
 
@@ -373,6 +382,27 @@ void CDeviceDH::noteUpgradeDocuments()
 void CDeviceDH::noteUpgradeRoundEnd()
 {
     noteUpgradeDocuments();
-    if (!m_upgrades->isUpgrading()) // else another round has begun
+    if (m_upgrades->isUpgrading()) // another round has begun
+        return;
+    m_isRoundEndUntold = m_upgradeDocuments.hasOpen();
+    if (!m_isRoundEndUntold)
         Q_EMIT signalCDeviceShowUpgradeFinishTip();
+}
+
+void CDeviceDH::writeDocument(const std::function<void()> &write, const std::function<void()> &written)
+{
+    m_documentFiles.start([this, write, written] {
+        sdk::giveWayToWindow();
+        write();
+        QMetaObject::invokeMethod(
+            this,
+            [this, written] {
+                written();
+                if (m_isRoundEndUntold)
+                    noteUpgradeRoundEnd();
+                else
+                    noteUpgradeDocuments();
+            },
+            Qt::QueuedConnection);
+    });
 }

@@ -139,7 +139,8 @@ void UpgradeDocument::setResult(int row, const QString &result)
 QString UpgradeDocument::keep()
 {
     const QString original = m_path;
-    if (!keepWorkbook(m_excel, m_path, tr("结果")))
+    m_isKept = keepWorkbook(m_excel, m_path, tr("结果"));
+    if (!m_isKept)
         return tr("升级结果无法保存：%1").arg(m_excel.errorText());
     const QString path = QDir::toNativeSeparators(m_path);
     return m_path == original ? tr("升级结果已保存到文件：%1").arg(path)

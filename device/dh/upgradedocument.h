@@ -39,10 +39,16 @@ public:
     /// refused.
     [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
 
+    /// The file that was opened, or that the results are in.
+    [[nodiscard]] const QString &path() const { return m_path; }
+
     void setResult(int row, const QString &result);
 
     /// Writes the results into the file, or else into one beside it. What is to be told to the user.
     [[nodiscard]] QString keep();
+
+    /// Whether keep() has written them.
+    [[nodiscard]] bool isKept() const { return m_isKept; }
 
 private:
     [[nodiscard]] QString text(int row, int column);
@@ -52,4 +58,5 @@ private:
 
     QExcel m_excel;
     QString m_path;
+    bool m_isKept = false;
 };

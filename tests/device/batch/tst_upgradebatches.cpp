@@ -216,7 +216,11 @@ private Q_SLOTS:
         QVERIFY(test.passUntilDone());
         QCOMPARE(test.panel(), QStringList("192.168.1.12:37777|成功：2.840.1 → 2.900.0"));
         QCOMPARE(test.site->device(test.mac(3))->version, "2.840.1");
-        QCOMPARE(ended.size(), 1);
+        QTRY_COMPARE(ended.size(), 2);
+        QVERIFY(ended.last().first().toString().contains("upgrades.xlsx：成功2台，失败2台"));
+        QCOMPARE(test.resultsOf(path, 5),
+                 QStringList({"升级成功：2.840.1 → 2.900.0", "升级成功：2.840.1 → 2.900.0", "密码错误", "old",
+                              "IP或端口填写错误"}));
     }
 
     void aDocumentThatIsStoppedIsWritten()
