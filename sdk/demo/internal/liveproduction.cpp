@@ -1,5 +1,7 @@
 #include "sdk/demo/internal/liveproduction.h"
 
+#include "sdk/demo/internal/logging.h"
+
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -53,9 +55,13 @@ std::unique_ptr<LiveProduction> LiveProduction::begin(const SceneDevice &device,
     return production;
 }
 
-std::unique_ptr<MatroskaWriter> LiveProduction::openWriter() const
+std::unique_ptr<streams::MatroskaWriter> LiveProduction::openWriter() const
 {
-    return MatroskaWriter::open(m_encoder->context(), m_sound ? &m_sound->context() : nullptr);
+    auto writer =
+        streams::MatroskaWriter::open(m_encoder->context(), m_sound ? &m_sound->context() : nullptr);
+    if (!writer)
+        qCWarning(demoLog, "The container of a live stream cannot be written");
+    return writer;
 }
 
 bool LiveProduction::makePicture(std::int64_t number, std::int64_t deviceTime, bool isKey,

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "sdk/demo/internal/cardpicture.h"
-#include "sdk/demo/internal/matroskawriter.h"
 #include "sdk/demo/internal/pictureencoder.h"
 #include "sdk/demo/internal/streamsettings.h"
 #include "sdk/demo/internal/testcard.h"
 #include "sdk/demo/internal/toneencoder.h"
+#include "sdk/streams/matroskawriter.h"
 
 namespace sdk::demo {
 
@@ -25,8 +25,8 @@ public:
 
     [[nodiscard]] const StreamSettings &settings() const { return m_settings; }
 
-    /// The container of a watcher. Null on failure.
-    [[nodiscard]] std::unique_ptr<MatroskaWriter> openWriter() const;
+    /// The container of a watcher. Null on failure, which the log tells.
+    [[nodiscard]] std::unique_ptr<streams::MatroskaWriter> openWriter() const;
 
     /// Makes the picture of that number, counted by the time that passes, and the sound that goes before it.
     /// `deviceTime` is what the device's own clock shows. With `isKey` the picture needs no earlier one.

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "sdk/demo/internal/avpointers.h"
-#include "sdk/demo/internal/matroskawriter.h"
 #include "sdk/streamblocks.h"
+#include "sdk/streams/matroskawriter.h"
 
 #include <QString>
 
@@ -83,7 +83,7 @@ private:
     std::int64_t m_beginning = 0; // counts the handlers that follow on none
 
     // Of the source's thread
-    std::unique_ptr<MatroskaWriter> m_writer;
+    std::unique_ptr<streams::MatroskaWriter> m_writer;
     std::int64_t m_sentBeginning = 0; // that m_writer writes for
     int m_pictures = 0;
 };

@@ -1,35 +1,10 @@
-// FFmpeg's headers, and owners of what its functions allocate.
+// Owners of what FFmpeg's functions allocate.
 #pragma once
 
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-#include <libavutil/imgutils.h>
-#include <libavutil/pixdesc.h>
-#include <libswresample/swresample.h>
-#include <libswscale/swscale.h>
-}
-
-#include <memory>
+#include "sdk/streams/avpointers.h"
 
 namespace sdk::ffmpeg {
 
-struct AvDelete
-{
-    void operator()(AVFrame *frame) const { av_frame_free(&frame); }
-    void operator()(AVPacket *packet) const { av_packet_free(&packet); }
-    void operator()(AVCodecContext *context) const { avcodec_free_context(&context); }
-    void operator()(AVFormatContext *context) const { avformat_close_input(&context); }
-    void operator()(AVIOContext *context) const
-    {
-        av_freep(&context->buffer); // not always the one that it was made with
-        avio_context_free(&context);
-    }
-    void operator()(SwsContext *context) const { sws_freeContext(context); }
-    void operator()(SwrContext *context) const { swr_free(&context); }
-};
-
-template<typename Object>
-using AvPointer = std::unique_ptr<Object, AvDelete>;
+using streams::AvPointer;
 
 } // namespace sdk::ffmpeg

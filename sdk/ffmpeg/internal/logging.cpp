@@ -1,11 +1,11 @@
 #include "sdk/ffmpeg/internal/logging.h"
 
 #include "sdk/ffmpeg/internal/avpointers.h"
+#include "sdk/streams/librarylog.h"
 
 #include <array>
 #include <cstdarg>
 #include <cstring>
-#include <mutex>
 
 namespace sdk::ffmpeg {
 
@@ -34,8 +34,7 @@ void writeLine(void *source, int level, const char *format, va_list arguments)
 
 void routeLog()
 {
-    static std::once_flag done;
-    std::call_once(done, [] { av_log_set_callback(&writeLine); });
+    streams::setLibraryLogHandler(&writeLine);
 }
 
 unsigned errorLines()

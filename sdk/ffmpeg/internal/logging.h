@@ -8,7 +8,7 @@ namespace sdk::ffmpeg {
 /// for.
 Q_DECLARE_LOGGING_CATEGORY(ffmpegLog)
 
-/// Takes FFmpeg's lines to ffmpegLog, instead of to standard error. For the whole process, once.
+/// Takes FFmpeg's lines to ffmpegLog, instead of to standard error. For the whole process, once is enough.
 void routeLog();
 
 /// How many errors FFmpeg has told of on the calling thread: its container readers go on after damage, and

@@ -1,27 +1,45 @@
-#include "sdk/demo/internal/matroskawriter.h"
+#include "sdk/streams/matroskawriter.h"
 
-#include "sdk/demo/internal/logging.h"
+#include <algorithm>
 
-namespace sdk::demo {
+namespace sdk::streams {
 
 namespace {
 
 constexpr int bufferSize = 16384;
 constexpr AVRational microsecond = {1, 1000000};
+constexpr AVRational millisecond = {1, 1000}; // what the container counts in
+
+AvPointer<AVCodecParameters> parametersOf(const AVCodecContext &encoder)
+{
+    AvPointer<AVCodecParameters> parameters(avcodec_parameters_alloc());
+    if (!parameters || avcodec_parameters_from_context(parameters.get(), &encoder) < 0)
+        return nullptr;
+    return parameters;
+}
 
 } // namespace
 
-std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const AVCodecContext &picture,
-                                                     const AVCodecContext *sound)
+std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const Track &picture, const Track *sound)
 {
     // Not make_unique: the constructor is private.
     std::unique_ptr<MatroskaWriter> writer(new MatroskaWriter);
     if (!writer->openContainer() || !writer->addTrack(picture) || (sound && !writer->addTrack(*sound)) ||
         !writer->writeHeader()) {
-        qCWarning(demoLog, "The container of a live stream cannot be written");
         return nullptr;
     }
     return writer;
+}
+
+std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const AVCodecContext &picture,
+                                                     const AVCodecContext *sound)
+{
+    const AvPointer<AVCodecParameters> pictureParameters = parametersOf(picture);
+    const AvPointer<AVCodecParameters> soundParameters = sound ? parametersOf(*sound) : nullptr;
+    if (!pictureParameters || (sound && !soundParameters))
+        return nullptr;
+    const Track soundOne = {soundParameters.get()};
+    return open({pictureParameters.get(), picture.framerate}, sound ? &soundOne : nullptr);
 }
 
 MatroskaWriter::~MatroskaWriter()
@@ -48,18 +66,21 @@ bool MatroskaWriter::openContainer()
         return false;
     }
     m_container->pb->seekable = 0;
+    // Times of decoding, which the container does not hold, begin below 0.
+    m_container->avoid_negative_ts = AVFMT_AVOID_NEG_TS_DISABLED;
     return true;
 }
 
-bool MatroskaWriter::addTrack(const AVCodecContext &encoder)
+bool MatroskaWriter::addTrack(const Track &track)
 {
-    AVStream *track = avformat_new_stream(m_container, nullptr);
-    if (!track || avcodec_parameters_from_context(track->codecpar, &encoder) < 0)
+    AVStream *stream = avformat_new_stream(m_container, nullptr);
+    if (!stream || avcodec_parameters_copy(stream->codecpar, track.codec) < 0)
         return false;
-    track->time_base = encoder.time_base;
-    track->avg_frame_rate = encoder.framerate;
+    stream->codecpar->codec_tag = 0; // the container has its own
+    stream->time_base = millisecond;
+    stream->avg_frame_rate = track.pictureRate;
     // The samples that an encoder begins with are left out with the rest of what comes before the picture.
-    track->codecpar->initial_padding = 0;
+    stream->codecpar->initial_padding = 0;
     return true;
 }
 
@@ -85,10 +106,13 @@ bool MatroskaWriter::write(const AVPacket &packet)
     const std::int64_t begin = av_rescale_q(m_begin, microsecond, packet.time_base);
     if (packet.pts < begin)
         return true;
-    shifted->pts -= begin;
-    shifted->dts = shifted->pts;
-    av_packet_rescale_ts(shifted.get(), packet.time_base,
-                         m_container->streams[packet.stream_index]->time_base);
+    const AVRational timeBase = m_container->streams[packet.stream_index]->time_base;
+    std::int64_t &decoding = m_decoding.at(static_cast<std::size_t>(packet.stream_index));
+    const std::int64_t time = av_rescale_q(packet.pts - begin, packet.time_base, timeBase);
+    decoding = std::max(decoding, time - longestReordering);
+    shifted->pts = std::max(time, decoding);
+    shifted->dts = decoding;
+    shifted->duration = av_rescale_q(packet.duration, packet.time_base, timeBase);
     // The second call ends the cluster, which would otherwise wait for more.
     return av_write_frame(m_container, shifted.get()) >= 0 && av_write_frame(m_container, nullptr) >= 0;
 }
@@ -100,4 +124,4 @@ int MatroskaWriter::append(void *writer, std::uint8_t *bytes, int size)
     return size;
 }
 
-} // namespace sdk::demo
+} // namespace sdk::streams

@@ -1,0 +1,46 @@
+// FFmpeg's headers, and owners of what its functions allocate.
+#pragma once
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavutil/imgutils.h>
+#include <libavutil/pixdesc.h>
+#include <libswresample/swresample.h>
+#include <libswscale/swscale.h>
+}
+
+#include <memory>
+#include <string>
+
+namespace sdk::streams {
+
+struct AvDelete
+{
+    void operator()(AVFrame *frame) const { av_frame_free(&frame); }
+    void operator()(AVPacket *packet) const { av_packet_free(&packet); }
+    void operator()(AVCodecContext *context) const { avcodec_free_context(&context); }
+    void operator()(AVCodecParameters *parameters) const { avcodec_parameters_free(&parameters); }
+    void operator()(AVCodecParserContext *parser) const { av_parser_close(parser); }
+    void operator()(AVFormatContext *context) const { avformat_close_input(&context); }
+    void operator()(AVIOContext *context) const
+    {
+        av_freep(&context->buffer); // not always the one that it was made with
+        avio_context_free(&context);
+    }
+    void operator()(SwsContext *context) const { sws_freeContext(context); }
+    void operator()(SwrContext *context) const { swr_free(&context); }
+};
+
+template<typename Object>
+using AvPointer = std::unique_ptr<Object, AvDelete>;
+
+/// What a failed call of the libraries returned, in words.
+[[nodiscard]] inline std::string avErrorText(int error)
+{
+    std::string text(AV_ERROR_MAX_STRING_SIZE, '\0');
+    av_strerror(error, text.data(), text.size());
+    return text.c_str();
+}
+
+} // namespace sdk::streams
