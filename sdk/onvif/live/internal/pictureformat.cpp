@@ -1,0 +1,137 @@
+#include "sdk/onvif/live/internal/pictureformat.h"
+
+#include "sdk/onvif/live/internal/streamunit.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace sdk::onvif {
+
+using streams::AvPointer;
+
+namespace {
+
+/// The units that come before the first slice, and of these the parameter sets.
+std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture, AVCodecID codec)
+{
+    std::vector<std::uint8_t> sets;
+    bool hasSequence = false;
+    bool hasPicture = false;
+    std::optional<StreamUnit> unit = firstUnit(picture, codec);
+    while (unit && !unit->isSlice) {
+        picture = picture.subspan(unit->place);
+        const std::optional<StreamUnit> next = firstUnit(picture.subspan(unit->headSize), codec);
+        const std::size_t size = next ? unit->headSize + next->place : picture.size();
+        if (unit->parameterSet != ParameterSet::None)
+            sets.insert(sets.end(), picture.begin(), picture.begin() + static_cast<std::ptrdiff_t>(size));
+        hasSequence = hasSequence || unit->parameterSet == ParameterSet::Sequence;
+        hasPicture = hasPicture || unit->parameterSet == ParameterSet::Picture;
+        picture = picture.subspan(unit->headSize);
+        unit = next;
+    }
+    if (!hasSequence || !hasPicture)
+        sets.clear();
+    return sets;
+}
+
+} // namespace
+
+std::unique_ptr<PictureFormat> PictureFormat::of(const AVCodecParameters &track)
+{
+    if (track.codec_id != AV_CODEC_ID_H264 && track.codec_id != AV_CODEC_ID_HEVC &&
+        track.codec_id != AV_CODEC_ID_MJPEG) {
+        return nullptr;
+    }
+    // Not make_unique: the constructor is private.
+    std::unique_ptr<PictureFormat> format(new PictureFormat);
+    format->m_track.reset(avcodec_parameters_alloc());
+    if (!format->m_track || avcodec_parameters_copy(format->m_track.get(), &track) < 0)
+        return nullptr;
+    if (track.codec_id == AV_CODEC_ID_MJPEG)
+        return format;
+    format->m_context.reset(avcodec_alloc_context3(nullptr));
+    format->m_parser.reset(av_parser_init(track.codec_id));
+    if (!format->m_context || !format->m_parser ||
+        avcodec_parameters_to_context(format->m_context.get(), &track) < 0) {
+        return nullptr;
+    }
+    format->m_parser->flags |= PARSER_FLAG_COMPLETE_FRAMES;
+    if (track.extradata_size > 0)
+        format->m_parameterSets.assign(track.extradata, track.extradata + track.extradata_size);
+    return format;
+}
+
+bool PictureFormat::examine(std::span<const std::uint8_t> picture)
+{
+    if (m_track->codec_id == AV_CODEC_ID_MJPEG)
+        return examineJpeg(picture);
+    std::uint8_t *output = nullptr;
+    int outputSize = 0;
+    av_parser_parse2(m_parser.get(), m_context.get(), &output, &outputSize, picture.data(),
+                     static_cast<int>(picture.size()), AV_NOPTS_VALUE, AV_NOPTS_VALUE, 0);
+    if (m_parser->key_frame != 1 || m_parser->width <= 0 || m_parser->height <= 0)
+        return false;
+    m_width = m_parser->width;
+    m_height = m_parser->height;
+    takeParameterSets(picture);
+    return !m_parameterSets.empty();
+}
+
+void PictureFormat::takeParameterSets(std::span<const std::uint8_t> picture)
+{
+    std::vector<std::uint8_t> sets = parameterSetsOf(picture, m_track->codec_id);
+    if (!sets.empty())
+        m_parameterSets = std::move(sets);
+}
+
+bool PictureFormat::examineJpeg(std::span<const std::uint8_t> picture)
+{
+    constexpr std::uint8_t marker = 0xff;
+    constexpr std::uint8_t firstFrameMarker = 0xc0; // the baseline kind and two rarer ones
+    constexpr std::uint8_t lastFrameMarker = 0xc2;
+    constexpr std::size_t headSize = 9; // marker, length, precision, height, width
+    const auto number = [&picture](std::size_t place) {
+        constexpr int byte = 8;
+        return picture[place] << byte | picture[place + 1];
+    };
+    std::size_t place = 2; // after the mark of the begin
+    while (place + headSize <= picture.size() && picture[place] == marker) {
+        const std::uint8_t kind = picture[place + 1];
+        if (kind >= firstFrameMarker && kind <= lastFrameMarker) {
+            m_height = number(place + 5);
+            m_width = number(place + 7);
+            return m_width > 0 && m_height > 0;
+        }
+        place += 2 + static_cast<std::size_t>(number(place + 2));
+    }
+    return false;
+}
+
+AvPointer<AVCodecParameters> PictureFormat::parameters() const
+{
+    AvPointer<AVCodecParameters> result(avcodec_parameters_alloc());
+    if (!result || avcodec_parameters_copy(result.get(), m_track.get()) < 0)
+        return nullptr;
+    av_freep(&result->extradata);
+    result->extradata_size = 0;
+    result->width = m_width;
+    result->height = m_height;
+    if (!m_parameterSets.empty()) {
+        const std::size_t size = m_parameterSets.size();
+        result->extradata = static_cast<std::uint8_t *>(av_mallocz(size + AV_INPUT_BUFFER_PADDING_SIZE));
+        if (!result->extradata)
+            return nullptr;
+        std::memcpy(result->extradata, m_parameterSets.data(), size);
+        result->extradata_size = static_cast<int>(size);
+    }
+    return result;
+}
+
+bool PictureFormat::isSame(const AVCodecParameters &other) const
+{
+    const std::span<const std::uint8_t> sets(other.extradata, static_cast<std::size_t>(other.extradata_size));
+    return other.width == m_width && other.height == m_height &&
+           std::equal(sets.begin(), sets.end(), m_parameterSets.begin(), m_parameterSets.end());
+}
+
+} // namespace sdk::onvif

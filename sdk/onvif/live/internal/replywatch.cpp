@@ -1,0 +1,127 @@
+#include "sdk/onvif/live/internal/replywatch.h"
+
+#include "sdk/onvif/live/internal/rtspurl.h"
+
+#include <cstdlib>
+#include <utility>
+
+extern "C" {
+#include <libavutil/avstring.h>
+}
+
+namespace sdk::onvif {
+
+namespace {
+
+// As FFmpeg writes them.
+constexpr std::string_view replyFormat = "line='%s'\n";
+constexpr std::string_view descriptionFormat = "sdp: %c='%s'\n";
+
+constexpr int firstRedirection = 300;
+constexpr int lastRedirection = 399;
+constexpr int decimal = 10;
+
+/// The value of `name` in `name=value` or `name="value"`; empty without it.
+std::string_view parameter(std::string_view text, const char *name)
+{
+    const std::string copy(text);
+    const char *found = av_stristr(copy.c_str(), name);
+    if (!found)
+        return {};
+    text.remove_prefix(static_cast<std::size_t>(found - copy.c_str()) + std::string_view(name).size());
+    if (text.starts_with('"'))
+        text.remove_prefix(1);
+    return text.substr(0, text.find_first_of(",;\" "));
+}
+
+} // namespace
+
+ReplyWatch::ReplyWatch(std::string host)
+    : m_host(std::move(host)),
+      m_log([this](int, const char *format, va_list arguments) { read(format, arguments); })
+{
+}
+
+void ReplyWatch::read(const char *format, va_list arguments)
+{
+    if (format == replyFormat) {
+        readReplyLine(va_arg(arguments, const char *));
+    } else if (format == descriptionFormat && va_arg(arguments, int) == 'm' && ++m_tracks > mostTracks) {
+        object(StreamEnd::Oversized, "the device lists more than " + std::to_string(mostTracks) + " tracks");
+    }
+}
+
+void ReplyWatch::readReplyLine(const char *line)
+{
+    const char *value = nullptr;
+    if (av_stristart(line, "RTSP/", nullptr)) {
+        readStatus(line);
+    } else if (*line == '\0') {
+        endHeader();
+    } else if (++m_headerLines > mostHeaderLines) {
+        object(StreamEnd::Oversized, "an answer has more than " + std::to_string(mostHeaderLines) + " lines");
+    } else if (av_stristart(line, "Content-Length:", &value)) {
+        const long length = std::strtol(value, nullptr, decimal);
+        if (length < 0 || length > mostContentBytes)
+            object(StreamEnd::Oversized, "an answer announces " + std::to_string(length) + " bytes");
+    } else if (av_stristart(line, "WWW-Authenticate:", &value)) {
+        readChallenge(value);
+    } else if (av_stristart(line, "Transport:", &value)) {
+        readTransport(value);
+    }
+}
+
+void ReplyWatch::readStatus(const char *line)
+{
+    const std::string_view text(line);
+    const std::size_t blank = text.find(' ');
+    m_status = blank == std::string_view::npos
+                   ? 0
+                   : static_cast<int>(std::strtol(text.substr(blank).data(), nullptr, decimal));
+    m_headerLines = 0;
+    m_offersPlainPassword = false;
+    m_offersDigest = false;
+    if (m_status >= firstRedirection && m_status <= lastRedirection)
+        object(StreamEnd::Redirected, "the device sends elsewhere (" + std::to_string(m_status) + ")");
+}
+
+void ReplyWatch::readChallenge(std::string_view challenge)
+{
+    const std::size_t begin = challenge.find_first_not_of(' ');
+    const std::string text(begin == std::string_view::npos ? std::string_view() : challenge.substr(begin));
+    if (av_stristart(text.c_str(), "Basic", nullptr)) {
+        m_offersPlainPassword = true;
+    } else if (av_stristart(text.c_str(), "Digest ", nullptr)) {
+        // Of several ones FFmpeg takes the last.
+        const std::string algorithm(parameter(text, "algorithm="));
+        m_offersDigest = true;
+        m_isDigestKnown = algorithm.empty() || av_strcasecmp(algorithm.c_str(), "MD5") == 0 ||
+                          av_strcasecmp(algorithm.c_str(), "MD5-sess") == 0;
+    }
+}
+
+void ReplyWatch::readTransport(std::string_view transport)
+{
+    // Over the connection of the session nothing is sent to that address.
+    const std::string source(parameter(transport, "source="));
+    if (!source.empty() && transport.find("/TCP") == std::string_view::npos && !isSameAddress(source, m_host))
+        object(StreamEnd::Redirected, "the device names another address for its data");
+}
+
+void ReplyWatch::endHeader()
+{
+    if (m_offersPlainPassword && !m_offersDigest)
+        object(StreamEnd::Unsupported, "the device wants the password as plain text");
+    else if (m_offersDigest && !m_isDigestKnown)
+        object(StreamEnd::Unsupported, "the device wants a login of an unknown kind");
+}
+
+void ReplyWatch::object(StreamEnd end, std::string text)
+{
+    if (m_objection)
+        return;
+    m_objection = end;
+    m_text = std::move(text);
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,33 @@
+// The units that streams of H.264 and H.265 consist of.
+#pragma once
+
+#include "sdk/streams/avpointers.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace sdk::onvif {
+
+enum class ParameterSet
+{
+    None,
+    Video,
+    Sequence,
+    Picture,
+};
+
+/// The beginning of a unit.
+struct StreamUnit
+{
+    std::size_t place = 0;    ///< of its start code
+    std::size_t headSize = 0; ///< of start code and header
+    ParameterSet parameterSet = ParameterSet::None;
+    bool isSlice = false;
+    bool beginsPicture = false; ///< after a slice it belongs to the next picture
+};
+
+/// The first unit in `bytes` that begins with a start code and has a header; nothing without one.
+[[nodiscard]] std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodecID codec);
+
+} // namespace sdk::onvif

@@ -1,0 +1,48 @@
+#include "sdk/onvif/live/streamend.h"
+
+namespace sdk::onvif {
+
+std::string_view streamEndName(StreamEnd end)
+{
+    switch (end) {
+    case StreamEnd::Stopped:
+        return "stopped";
+    case StreamEnd::BadUrl:
+        return "bad URL";
+    case StreamEnd::BadAccount:
+        return "account cannot be sent";
+    case StreamEnd::Refused:
+        return "refused";
+    case StreamEnd::NotFound:
+        return "not found";
+    case StreamEnd::Busy:
+        return "busy";
+    case StreamEnd::Rejected:
+        return "rejected";
+    case StreamEnd::ConnectionRefused:
+        return "connection refused";
+    case StreamEnd::Unreachable:
+        return "unreachable";
+    case StreamEnd::NoAnswer:
+        return "no answer";
+    case StreamEnd::Redirected:
+        return "redirected";
+    case StreamEnd::Oversized:
+        return "oversized answer";
+    case StreamEnd::Malformed:
+        return "malformed answer";
+    case StreamEnd::Unsupported:
+        return "unsupported";
+    case StreamEnd::NoKeyPicture:
+        return "no key picture";
+    case StreamEnd::NoData:
+        return "no data";
+    case StreamEnd::Ended:
+        return "ended by the device";
+    case StreamEnd::Failed:
+        return "failed";
+    }
+    return {};
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,28 @@
+// What devices send in a session, made for tests.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+namespace sdk::onvif {
+
+struct RtpPacket
+{
+    int channel = 0; ///< of the session: two for each track, the second one for its control
+    QByteArray bytes;
+};
+
+/// A live stream in packets, and its description.
+struct RtpSource
+{
+    QByteArray description;
+    QList<RtpPacket> packets;
+
+    /// Of Matroska: a head and what follows on it.
+    [[nodiscard]] static RtpSource of(const QByteArray &container);
+
+    /// The description without lines that hold `text`.
+    [[nodiscard]] QByteArray descriptionWithout(const QByteArray &text) const;
+};
+
+} // namespace sdk::onvif

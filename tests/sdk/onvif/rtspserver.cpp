@@ -1,0 +1,260 @@
+#include "tests/sdk/onvif/rtspserver.h"
+
+#include <QCryptographicHash>
+#include <QRegularExpression>
+
+#include <arpa/inet.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <utility>
+
+namespace sdk::onvif {
+
+namespace {
+
+sockaddr_in loopback(int port)
+{
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return address;
+}
+
+/// A socket of a port of its own.
+int boundSocket(int type, int &port)
+{
+    const int descriptor = socket(AF_INET, type | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    sockaddr_in address = loopback(0);
+    socklen_t size = sizeof address;
+    if (bind(descriptor, reinterpret_cast<sockaddr *>(&address), size) != 0 ||
+        getsockname(descriptor, reinterpret_cast<sockaddr *>(&address), &size) != 0) {
+        qFatal("no socket for a test");
+    }
+    port = ntohs(address.sin_port);
+    return descriptor;
+}
+
+QByteArray captured(const QByteArray &text, const char *pattern)
+{
+    const QRegularExpression expression(QString::fromLatin1(pattern),
+                                        QRegularExpression::CaseInsensitiveOption);
+    return expression.match(QString::fromUtf8(text)).captured(1).toUtf8();
+}
+
+QByteArray md5(const QByteArray &text)
+{
+    return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();
+}
+
+} // namespace
+
+RtspServer::RtspServer(RtspScript script)
+    : m_script(std::move(script)), m_listener(boundSocket(SOCK_STREAM, m_port)),
+      m_wake(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+{
+    constexpr int backlog = 8;
+    listen(m_listener, backlog);
+    m_thread = std::jthread([this](const std::stop_token &stop) { run(stop); });
+}
+
+RtspServer::~RtspServer()
+{
+    m_thread.request_stop();
+    eventfd_write(m_wake, 1);
+    m_thread.join();
+    for (const int descriptor : {m_listener, m_wake, m_datagrams}) {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
+}
+
+QList<QByteArray> RtspServer::requests() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_requests;
+}
+
+qsizetype RtspServer::requestsOf(const QByteArray &text) const
+{
+    const QList<QByteArray> all = requests();
+    return std::count_if(all.begin(), all.end(),
+                         [&](const QByteArray &request) { return request.contains(text); });
+}
+
+int RtspServer::connections() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_connections;
+}
+
+bool RtspServer::waitFor(int descriptor, short events, const std::stop_token &stop) const
+{
+    std::array<pollfd, 2> wanted = {{{descriptor, events, 0}, {m_wake, POLLIN, 0}}};
+    poll(wanted.data(), wanted.size(), -1);
+    return !stop.stop_requested();
+}
+
+void RtspServer::run(const std::stop_token &stop)
+{
+    while (waitFor(m_listener, POLLIN, stop)) {
+        const int connection = accept4(m_listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        if (connection < 0)
+            continue;
+        {
+            const std::lock_guard lock(m_mutex);
+            ++m_connections;
+        }
+        serve(connection, stop);
+        close(connection);
+    }
+}
+
+void RtspServer::serve(int connection, const std::stop_token &stop)
+{
+    QByteArray received;
+    std::array<char, 4096> buffer{};
+    while (waitFor(connection, POLLIN, stop)) {
+        const ssize_t size = recv(connection, buffer.data(), buffer.size(), 0);
+        if (size <= 0)
+            return;
+        received.append(buffer.data(), size);
+        for (;;) {
+            if (received.startsWith('$')) { // a report of the client
+                if (received.size() < 4)
+                    break;
+                const int length = static_cast<quint8>(received[2]) << 8 | static_cast<quint8>(received[3]);
+                if (received.size() < 4 + length)
+                    break;
+                received.remove(0, 4 + length);
+                continue;
+            }
+            const qsizetype end = received.indexOf("\r\n\r\n");
+            if (end < 0)
+                break;
+            const QByteArray request = received.first(end + 4);
+            received.remove(0, end + 4);
+            if (!answer(connection, request, stop))
+                return;
+        }
+    }
+}
+
+bool RtspServer::answer(int connection, const QByteArray &request, const std::stop_token &stop)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_requests.append(request);
+    }
+    const QByteArray method = request.first(request.indexOf(' '));
+    const QByteArray number = captured(request, "CSeq: *([0-9]+)");
+    if (const auto own = m_script.answers.find(method); own != m_script.answers.end()) {
+        if (!send(connection, QByteArray(*own).replace("CSEQ", number), stop))
+            return false;
+        while (!m_script.endless.isEmpty()) {
+            if (!send(connection, m_script.endless, stop))
+                return false;
+        }
+        return true;
+    }
+    const QByteArray text = regularAnswer(method, request).replace("CSEQ", number);
+    if (!send(connection, text, stop))
+        return false;
+    return method != "PLAY" || !text.startsWith("RTSP/1.0 200") || play(connection, stop);
+}
+
+QByteArray RtspServer::regularAnswer(const QByteArray &method, const QByteArray &request)
+{
+    const QByteArray head = "RTSP/1.0 200 OK\r\nCSeq: CSEQ\r\n";
+    if (method == "OPTIONS")
+        return head + "Public: OPTIONS, DESCRIBE, SETUP, PLAY, GET_PARAMETER, TEARDOWN\r\n\r\n";
+    if (!isAuthorised(method, request)) {
+        return "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\n"
+               "WWW-Authenticate: Digest realm=\"camera\", nonce=\"47\"\r\n"
+               "WWW-Authenticate: Basic realm=\"camera\"\r\n\r\n";
+    }
+    if (method == "DESCRIBE") {
+        return head + "Content-Type: application/sdp\r\nContent-Length: " +
+               QByteArray::number(m_script.description.size()) + "\r\n\r\n" + m_script.description;
+    }
+    if (method == "SETUP")
+        return setUp(request);
+    return head + "Session: 12\r\n\r\n";
+}
+
+QByteArray RtspServer::setUp(const QByteArray &request)
+{
+    QByteArray transport = captured(request, "Transport: *([^\r\n]*)");
+    if (m_script.onlyDatagrams == transport.contains("TCP"))
+        return "RTSP/1.0 461 Unsupported Transport\r\nCSeq: CSEQ\r\n\r\n";
+    if (m_script.onlyDatagrams) {
+        int port = 0;
+        if (m_datagrams < 0)
+            m_datagrams = boundSocket(SOCK_DGRAM, port);
+        const int first = captured(transport, "client_port=([0-9]+)").toInt();
+        const int channel = static_cast<int>(m_dataPorts.size());
+        m_dataPorts[channel] = first;
+        m_dataPorts[channel + 1] = first + 1;
+        const QByteArray own = QByteArray::number(port);
+        transport += ";server_port=" + own + '-' + own;
+        if (!m_script.dataSource.isEmpty())
+            transport += ";source=" + m_script.dataSource;
+    }
+    return "RTSP/1.0 200 OK\r\nCSeq: CSEQ\r\nSession: 12;timeout=" +
+           QByteArray::number(m_script.sessionTimeout) + "\r\nTransport: " + transport + "\r\n\r\n";
+}
+
+bool RtspServer::isAuthorised(const QByteArray &method, const QByteArray &request) const
+{
+    if (m_script.account.isEmpty())
+        return true;
+    const QByteArray uri = captured(request, R"re(uri="([^"]*)")re");
+    const QByteArray expected =
+        md5(md5(m_script.account + ":camera:" + m_script.password) + ":47:" + md5(method + ':' + uri));
+    return captured(request, R"re(response="([^"]*)")re") == expected &&
+           captured(request, R"re(username="([^"]*)")re") == m_script.account;
+}
+
+bool RtspServer::play(int connection, const std::stop_token &stop)
+{
+    for (const RtpPacket &packet : m_script.packets) {
+        if (m_script.onlyDatagrams) {
+            const sockaddr_in address = loopback(m_dataPorts.value(packet.channel));
+            sendto(m_datagrams, packet.bytes.constData(), static_cast<std::size_t>(packet.bytes.size()), 0,
+                   reinterpret_cast<const sockaddr *>(&address), sizeof address);
+            continue;
+        }
+        const auto size = static_cast<quint16>(packet.bytes.size());
+        QByteArray framed(1, '$');
+        framed += static_cast<char>(packet.channel);
+        framed += static_cast<char>(size >> 8);
+        framed += static_cast<char>(size);
+        if (!send(connection, framed + packet.bytes, stop))
+            return false;
+    }
+    while (!m_script.endless.isEmpty()) {
+        if (!send(connection, m_script.endless, stop))
+            return false;
+    }
+    return !m_script.closesAtEnd;
+}
+
+bool RtspServer::send(int connection, const QByteArray &bytes, const std::stop_token &stop) const
+{
+    for (qsizetype place = 0; place < bytes.size();) {
+        if (!waitFor(connection, POLLOUT, stop))
+            return false;
+        const ssize_t size = ::send(connection, bytes.constData() + place,
+                                    static_cast<std::size_t>(bytes.size() - place), MSG_NOSIGNAL);
+        if (size < 0 && errno != EAGAIN)
+            return false;
+        place += std::max<ssize_t>(size, 0);
+    }
+    return true;
+}
+
+} // namespace sdk::onvif

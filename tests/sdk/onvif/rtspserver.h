@@ -1,0 +1,74 @@
+// A device that serves one live stream over RTSP, as well or as badly as a test wants.
+#pragma once
+
+#include "tests/sdk/onvif/rtpsource.h"
+
+#include <QHash>
+
+#include <mutex>
+#include <thread>
+
+namespace sdk::onvif {
+
+struct RtspScript
+{
+    QByteArray description;
+    QList<RtpPacket> packets; ///< sent after PLAY
+    bool closesAtEnd = false; ///< the connection, after the packets
+
+    QByteArray account; ///< empty: no login
+    QByteArray password;
+
+    /// Methods that are answered in another way: by these bytes as they are, in which CSEQ stands for the
+    /// number of the request, or by nothing at all.
+    QHash<QByteArray, QByteArray> answers = {};
+    /// Sent again and again after one of `answers`, or after the packets.
+    QByteArray endless;
+
+    bool onlyDatagrams = false;
+    QByteArray dataSource;   ///< the address that a device names for its datagrams
+    int sessionTimeout = 60; ///< seconds
+};
+
+/// Listens at a port of 127.0.0.1 on a thread of its own, for one connection after the other, until it is
+/// destroyed.
+class RtspServer
+{
+public:
+    explicit RtspServer(RtspScript script);
+    ~RtspServer();
+    RtspServer(const RtspServer &) = delete;
+    RtspServer &operator=(const RtspServer &) = delete;
+
+    [[nodiscard]] int port() const { return m_port; }
+    [[nodiscard]] std::string url() const { return "rtsp://127.0.0.1:" + std::to_string(m_port) + "/live"; }
+
+    /// Heads of the requests so far.
+    [[nodiscard]] QList<QByteArray> requests() const;
+    [[nodiscard]] qsizetype requestsOf(const QByteArray &text) const;
+    [[nodiscard]] int connections() const;
+
+private:
+    void run(const std::stop_token &stop);
+    void serve(int connection, const std::stop_token &stop);
+    [[nodiscard]] bool answer(int connection, const QByteArray &request, const std::stop_token &stop);
+    [[nodiscard]] QByteArray regularAnswer(const QByteArray &method, const QByteArray &request);
+    [[nodiscard]] QByteArray setUp(const QByteArray &request);
+    [[nodiscard]] bool isAuthorised(const QByteArray &method, const QByteArray &request) const;
+    [[nodiscard]] bool play(int connection, const std::stop_token &stop);
+    [[nodiscard]] bool send(int connection, const QByteArray &bytes, const std::stop_token &stop) const;
+    [[nodiscard]] bool waitFor(int descriptor, short events, const std::stop_token &stop) const;
+
+    const RtspScript m_script;
+    int m_port = 0; // before the socket that finds it
+    int m_listener = -1;
+    int m_wake = -1;             ///< becomes readable at the end
+    int m_datagrams = -1;        ///< socket that sends them
+    QHash<int, int> m_dataPorts; ///< of the client, by channel
+    mutable std::mutex m_mutex;
+    QList<QByteArray> m_requests; // with m_mutex
+    int m_connections = 0;        // with m_mutex
+    std::jthread m_thread;
+};
+
+} // namespace sdk::onvif

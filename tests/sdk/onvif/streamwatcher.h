@@ -1,0 +1,80 @@
+// What a stream of a device brings.
+#pragma once
+
+#include "sdk/onvif/live/rtspstream.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <atomic>
+#include <mutex>
+
+namespace sdk::onvif {
+
+/// Opens a stream and keeps what comes. Thread-safe.
+class StreamWatcher
+{
+public:
+    /// `sink` gets the bytes as well, on the stream's thread.
+    explicit StreamWatcher(RtspOrder order, std::function<void(const QByteArray &)> sink = {})
+        : m_sink(std::move(sink)),
+          m_stream(
+              std::move(order), [this](std::span<const std::uint8_t> bytes) { take(bytes); },
+              [this](StreamEnd end, const std::string &text) { takeEnd(end, text); })
+    {
+    }
+
+    [[nodiscard]] QByteArray bytes() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_bytes;
+    }
+
+    /// The name of the end, empty before it.
+    [[nodiscard]] QString end() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_end;
+    }
+    [[nodiscard]] QString endText() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_endText;
+    }
+
+    /// How many times a handler was called.
+    [[nodiscard]] int calls() const { return m_calls; }
+
+    [[nodiscard]] RtspStream &stream() { return m_stream; }
+
+private:
+    void take(std::span<const std::uint8_t> bytes)
+    {
+        const QByteArray piece(reinterpret_cast<const char *>(bytes.data()),
+                               static_cast<qsizetype>(bytes.size()));
+        ++m_calls;
+        if (m_sink)
+            m_sink(piece);
+        const std::lock_guard lock(m_mutex);
+        m_bytes.append(piece);
+    }
+
+    void takeEnd(StreamEnd end, const std::string &text)
+    {
+        ++m_calls;
+        const std::string_view name = streamEndName(end);
+        const std::lock_guard lock(m_mutex);
+        m_end = QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+        m_endText = QString::fromStdString(text);
+    }
+
+    const std::function<void(const QByteArray &)> m_sink;
+    std::atomic<int> m_calls = 0;
+    mutable std::mutex m_mutex;
+    QByteArray m_bytes;
+    QString m_end;
+    QString m_endText;
+    RtspStream m_stream; // last: it calls until it ends
+};
+
+} // namespace sdk::onvif
