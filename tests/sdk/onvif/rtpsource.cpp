@@ -37,6 +37,10 @@ public:
         AVStream *stream = avformat_new_stream(m_format, nullptr);
         avcodec_parameters_copy(stream->codecpar, track.codecpar);
         stream->codecpar->codec_tag = 0;
+        if (track.codecpar->codec_id == AV_CODEC_ID_MJPEG) { // Matroska does not say it
+            stream->codecpar->format = AV_PIX_FMT_YUVJ420P;
+            stream->codecpar->color_range = AVCOL_RANGE_JPEG;
+        }
         stream->time_base = track.time_base;
         require(avformat_write_header(m_format, nullptr) >= 0, "header");
     }

@@ -53,6 +53,16 @@ QByteArray md5(const QByteArray &text)
 
 } // namespace
 
+QByteArray framed(const RtpPacket &packet)
+{
+    const auto size = static_cast<quint16>(packet.bytes.size());
+    QByteArray bytes(1, '$');
+    bytes += static_cast<char>(packet.channel);
+    bytes += static_cast<char>(size >> 8);
+    bytes += static_cast<char>(size);
+    return bytes + packet.bytes;
+}
+
 RtspServer::RtspServer(RtspScript script)
     : m_script(std::move(script)), m_listener(boundSocket(SOCK_STREAM, m_port)),
       m_wake(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
@@ -92,16 +102,16 @@ int RtspServer::connections() const
     return m_connections;
 }
 
-bool RtspServer::waitFor(int descriptor, short events, const std::stop_token &stop) const
+int RtspServer::waitFor(int descriptor, int events, const std::stop_token &stop) const
 {
-    std::array<pollfd, 2> wanted = {{{descriptor, events, 0}, {m_wake, POLLIN, 0}}};
+    std::array<pollfd, 2> wanted = {{{descriptor, static_cast<short>(events), 0}, {m_wake, POLLIN, 0}}};
     poll(wanted.data(), wanted.size(), -1);
-    return !stop.stop_requested();
+    return stop.stop_requested() ? 0 : wanted[0].revents;
 }
 
 void RtspServer::run(const std::stop_token &stop)
 {
-    while (waitFor(m_listener, POLLIN, stop)) {
+    while (waitFor(m_listener, POLLIN, stop) != 0) {
         const int connection = accept4(m_listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
         if (connection < 0)
             continue;
@@ -116,36 +126,49 @@ void RtspServer::run(const std::stop_token &stop)
 
 void RtspServer::serve(int connection, const std::stop_token &stop)
 {
+    m_isFlooding = false;
     QByteArray received;
     std::array<char, 4096> buffer{};
-    while (waitFor(connection, POLLIN, stop)) {
+    while (const int possible = waitFor(connection, m_isFlooding ? POLLIN | POLLOUT : POLLIN, stop)) {
+        if ((possible & POLLOUT) != 0 && !send(connection, m_script.endless, stop))
+            return;
+        if ((possible & ~POLLOUT) == 0)
+            continue;
         const ssize_t size = recv(connection, buffer.data(), buffer.size(), 0);
         if (size <= 0)
             return;
         received.append(buffer.data(), size);
-        for (;;) {
-            if (received.startsWith('$')) { // a report of the client
-                if (received.size() < 4)
-                    break;
-                const int length = static_cast<quint8>(received[2]) << 8 | static_cast<quint8>(received[3]);
-                if (received.size() < 4 + length)
-                    break;
-                received.remove(0, 4 + length);
-                continue;
-            }
-            const qsizetype end = received.indexOf("\r\n\r\n");
-            if (end < 0)
-                break;
-            const QByteArray request = received.first(end + 4);
-            received.remove(0, end + 4);
-            if (!answer(connection, request, stop))
-                return;
-        }
+        if (!answerAll(connection, received, stop))
+            return;
     }
+}
+
+bool RtspServer::answerAll(int connection, QByteArray &received, const std::stop_token &stop)
+{
+    constexpr qsizetype headSize = 4; // of what is framed by '$', and of the end of a request
+    while (received.size() >= headSize) {
+        if (received.startsWith('$')) { // a report of the client
+            const qsizetype length = static_cast<quint8>(received[2]) << 8 | static_cast<quint8>(received[3]);
+            if (received.size() < headSize + length)
+                break;
+            received.remove(0, headSize + length);
+            continue;
+        }
+        const qsizetype end = received.indexOf("\r\n\r\n");
+        if (end < 0)
+            break;
+        const QByteArray request = received.first(end + headSize);
+        received.remove(0, end + headSize);
+        if (!answer(connection, request, stop))
+            return false;
+    }
+    return true;
 }
 
 bool RtspServer::answer(int connection, const QByteArray &request, const std::stop_token &stop)
 {
+    if (request.startsWith("RTSP/")) // the client answers
+        return true;
     {
         const std::lock_guard lock(m_mutex);
         m_requests.append(request);
@@ -153,13 +176,8 @@ bool RtspServer::answer(int connection, const QByteArray &request, const std::st
     const QByteArray method = request.first(request.indexOf(' '));
     const QByteArray number = captured(request, "CSeq: *([0-9]+)");
     if (const auto own = m_script.answers.find(method); own != m_script.answers.end()) {
-        if (!send(connection, QByteArray(*own).replace("CSEQ", number), stop))
-            return false;
-        while (!m_script.endless.isEmpty()) {
-            if (!send(connection, m_script.endless, stop))
-                return false;
-        }
-        return true;
+        m_isFlooding = !m_script.endless.isEmpty();
+        return send(connection, QByteArray(*own).replace("CSEQ", number), stop);
     }
     const QByteArray text = regularAnswer(method, request).replace("CSEQ", number);
     if (!send(connection, text, stop))
@@ -228,25 +246,17 @@ bool RtspServer::play(int connection, const std::stop_token &stop)
                    reinterpret_cast<const sockaddr *>(&address), sizeof address);
             continue;
         }
-        const auto size = static_cast<quint16>(packet.bytes.size());
-        QByteArray framed(1, '$');
-        framed += static_cast<char>(packet.channel);
-        framed += static_cast<char>(size >> 8);
-        framed += static_cast<char>(size);
-        if (!send(connection, framed + packet.bytes, stop))
+        if (!send(connection, framed(packet), stop))
             return false;
     }
-    while (!m_script.endless.isEmpty()) {
-        if (!send(connection, m_script.endless, stop))
-            return false;
-    }
+    m_isFlooding = !m_script.endless.isEmpty();
     return !m_script.closesAtEnd;
 }
 
 bool RtspServer::send(int connection, const QByteArray &bytes, const std::stop_token &stop) const
 {
     for (qsizetype place = 0; place < bytes.size();) {
-        if (!waitFor(connection, POLLOUT, stop))
+        if (waitFor(connection, POLLOUT, stop) == 0)
             return false;
         const ssize_t size = ::send(connection, bytes.constData() + place,
                                     static_cast<std::size_t>(bytes.size() - place), MSG_NOSIGNAL);

@@ -10,6 +10,9 @@
 
 namespace sdk::onvif {
 
+/// A packet as it goes over the connection of a session.
+[[nodiscard]] QByteArray framed(const RtpPacket &packet);
+
 struct RtspScript
 {
     QByteArray description;
@@ -22,8 +25,7 @@ struct RtspScript
     /// Methods that are answered in another way: by these bytes as they are, in which CSEQ stands for the
     /// number of the request, or by nothing at all.
     QHash<QByteArray, QByteArray> answers = {};
-    /// Sent again and again after one of `answers`, or after the packets.
-    QByteArray endless;
+    QByteArray endless; ///< sent again and again after one of `answers`, or after the packets
 
     bool onlyDatagrams = false;
     QByteArray dataSource;   ///< the address that a device names for its datagrams
@@ -52,12 +54,14 @@ private:
     void run(const std::stop_token &stop);
     void serve(int connection, const std::stop_token &stop);
     [[nodiscard]] bool answer(int connection, const QByteArray &request, const std::stop_token &stop);
+    [[nodiscard]] bool answerAll(int connection, QByteArray &received, const std::stop_token &stop);
     [[nodiscard]] QByteArray regularAnswer(const QByteArray &method, const QByteArray &request);
     [[nodiscard]] QByteArray setUp(const QByteArray &request);
     [[nodiscard]] bool isAuthorised(const QByteArray &method, const QByteArray &request) const;
     [[nodiscard]] bool play(int connection, const std::stop_token &stop);
     [[nodiscard]] bool send(int connection, const QByteArray &bytes, const std::stop_token &stop) const;
-    [[nodiscard]] bool waitFor(int descriptor, short events, const std::stop_token &stop) const;
+    /// Returns what is possible of `events`; 0 at the end.
+    [[nodiscard]] int waitFor(int descriptor, int events, const std::stop_token &stop) const;
 
     const RtspScript m_script;
     int m_port = 0; // before the socket that finds it
@@ -68,6 +72,7 @@ private:
     mutable std::mutex m_mutex;
     QList<QByteArray> m_requests; // with m_mutex
     int m_connections = 0;        // with m_mutex
+    bool m_isFlooding = false;
     std::jthread m_thread;
 };
 
