@@ -108,7 +108,7 @@ private Q_SLOTS:
     void stopEndsAtOnce_data();
     void stopEndsAtOnce();
     void sessionIsKeptAlive();
-    void pictureWithoutAnEndIsLeftOut();
+    void piecesBecomePictures();
 };
 
 void TestRtspFaults::faultEndsTheStream_data()
@@ -344,20 +344,31 @@ void TestRtspFaults::sessionIsKeptAlive()
     QCOMPARE(watcher.end(), QString());
 }
 
-void TestRtspFaults::pictureWithoutAnEndIsLeftOut()
+/// Some devices repeat the parameters before each slice, some send fragments without end.
+void TestRtspFaults::piecesBecomePictures()
 {
     QList<std::size_t> sizes;
     PictureAssembler assembler(AV_CODEC_ID_H264, [&sizes](std::span<const std::uint8_t> bytes, std::int64_t) {
         sizes.append(bytes.size());
     });
-    const std::array<std::uint8_t, 8> slice = {0, 0, 0, 1, 0x65, 0x88, 0x80, 0x10};
+    const std::vector<std::uint8_t> parameters = {0, 0, 0, 1, 0x67, 0x42, 0, 0, 1, 0x68, 0xce};
+    const std::vector<std::uint8_t> first = {0, 0, 0, 1, 0x65, 0x88, 0x80, 0x10};
+    const std::vector<std::uint8_t> further = {0, 0, 0, 1, 0x65, 0x08};
+    for (int picture = 0; picture < 2; ++picture) {
+        for (const std::vector<std::uint8_t> &piece : {parameters, first, parameters, further})
+            assembler.add(piece, picture);
+    }
+    const std::size_t whole = parameters.size() + first.size() + further.size();
+    QCOMPARE(sizes, QList<std::size_t>{whole});
+
     const std::vector<std::uint8_t> fragment(50000, 0x55);
-    assembler.add(slice, 0);
     for (std::size_t size = 0; size < 2 * PictureAssembler::mostBytes; size += fragment.size())
         assembler.add(fragment, 0);
-    assembler.add(slice, 1);
-    assembler.add(slice, 2);
-    QCOMPARE(sizes, QList<std::size_t>{slice.size()});
+    assembler.add(first, 1);
+    assembler.finish();
+    assembler.add(fragment, 1);
+    assembler.finish();
+    QCOMPARE(sizes, (QList<std::size_t>{whole, first.size()}));
 }
 
 } // namespace sdk::onvif

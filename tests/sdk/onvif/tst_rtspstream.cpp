@@ -84,6 +84,7 @@ private Q_SLOTS:
     void picturesAndSoundArrive_data();
     void picturesAndSoundArrive();
     void anotherSizeBeginsAnew();
+    void beginsAnewWhenAsked();
 };
 
 void TestRtspStream::picturesAndSoundArrive_data()
@@ -157,6 +158,28 @@ void TestRtspStream::anotherSizeBeginsAnew()
     QTRY_COMPARE(widths(), QStringLiteral("128 192"));
     QTRY_VERIFY(numbersOf(port.receiver.pictures()).endsWith(QStringLiteral("0 1 2 3 4 0 1")));
     QCOMPARE(port.status().damages, 0U);
+}
+
+/// The first picture asks for it, so the next key picture brings a header.
+void TestRtspStream::beginsAnewWhenAsked()
+{
+    const QByteArray header = QByteArray::fromHex("1a45dfa3");
+    RtspScript script;
+    const RtpSource source = Sending().source();
+    script.description = source.description;
+    script.packets = source.packets;
+    const RtspServer server(script);
+    std::atomic<RtspStream *> stream = nullptr;
+    std::atomic<bool> isFirst = true;
+    StreamWatcher watcher(orderOf(server), [&](const QByteArray &) {
+        if (isFirst.exchange(false)) {
+            stream.wait(nullptr);
+            stream.load()->beginAnew();
+        }
+    });
+    stream = &watcher.stream();
+    stream.notify_all();
+    QTRY_COMPARE(watcher.bytes().count(header), 2);
 }
 
 } // namespace sdk::onvif

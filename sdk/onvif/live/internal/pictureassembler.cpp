@@ -1,59 +1,75 @@
 #include "sdk/onvif/live/internal/pictureassembler.h"
 
-#include "sdk/onvif/live/internal/streamunit.h"
-
 namespace sdk::onvif {
 
 void PictureAssembler::add(std::span<const std::uint8_t> piece, std::int64_t time)
 {
     if (m_codec != AV_CODEC_ID_H264 && m_codec != AV_CODEC_ID_HEVC) {
+        m_picture.assign(piece.begin(), piece.end());
         m_time = time;
-        m_hasSlices = true;
-        append(piece);
-        finish();
+        deliver();
         return;
     }
-    std::optional<StreamUnit> unit = firstUnit(piece, m_codec);
-    if (!unit || unit->place > 0) { // a fragment that goes on
-        if (m_isOpen)
-            append(piece);
+    const std::optional<StreamUnit> unit = firstUnit(piece, m_codec);
+    if (unit && unit->place == 0)
+        addUnits(piece, *unit, time);
+    else
+        append(piece); // a fragment that goes on
+}
+
+void PictureAssembler::addUnits(std::span<const std::uint8_t> units, const StreamUnit &first,
+                                std::int64_t time)
+{
+    const std::optional<StreamUnit> slice = firstSlice(units, m_codec);
+    const bool isNext = m_hasSlices && (first.beginsPicture || !m_held.empty());
+    if (isNext && !slice) {
+        if (m_held.empty())
+            m_heldTime = time;
+        m_place = Place::Held;
+        append(units);
         return;
     }
-    if (m_hasSlices && unit->beginsPicture)
+    if (isNext && slice->beginsPicture)
         finish();
-    if (m_bytes.empty())
+    m_held.clear();
+    if (m_picture.empty())
         m_time = time;
-    m_isOpen = true;
-    for (std::span<const std::uint8_t> rest = piece; unit && !m_hasSlices; unit = firstUnit(rest, m_codec)) {
-        m_hasSlices = unit->isSlice;
-        rest = rest.subspan(unit->place + unit->headSize);
-    }
-    append(piece);
+    m_hasSlices = m_hasSlices || slice;
+    m_place = Place::Picture;
+    append(units);
 }
 
 void PictureAssembler::finish()
 {
-    if (m_hasSlices) {
-        const std::size_t size = m_bytes.size();
-        m_bytes.resize(size + AV_INPUT_BUFFER_PADDING_SIZE);
-        m_handler({m_bytes.data(), size}, m_time);
-    }
-    clear();
-}
-
-void PictureAssembler::append(std::span<const std::uint8_t> piece)
-{
-    if (m_bytes.size() + piece.size() > mostBytes)
-        clear();
-    else
-        m_bytes.insert(m_bytes.end(), piece.begin(), piece.end());
-}
-
-void PictureAssembler::clear()
-{
-    m_bytes.clear();
+    if (m_hasSlices)
+        deliver();
+    m_picture = std::exchange(m_held, {});
+    m_time = m_heldTime;
     m_hasSlices = false;
-    m_isOpen = false;
+    m_place = m_place == Place::Held ? Place::Picture : Place::Nowhere;
+}
+
+void PictureAssembler::append(std::span<const std::uint8_t> bytes)
+{
+    if (m_place == Place::Nowhere)
+        return;
+    if (m_picture.size() + m_held.size() + bytes.size() > mostBytes) {
+        m_picture.clear();
+        m_held.clear();
+        m_hasSlices = false;
+        m_place = Place::Nowhere;
+        return;
+    }
+    std::vector<std::uint8_t> &end = m_place == Place::Held ? m_held : m_picture;
+    end.insert(end.end(), bytes.begin(), bytes.end());
+}
+
+void PictureAssembler::deliver()
+{
+    const std::size_t size = m_picture.size();
+    m_picture.resize(size + AV_INPUT_BUFFER_PADDING_SIZE);
+    m_handler({m_picture.data(), size}, m_time);
+    m_picture.clear();
 }
 
 } // namespace sdk::onvif

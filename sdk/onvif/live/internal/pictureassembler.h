@@ -1,18 +1,19 @@
 // Pictures of the pieces in which they arrive.
 #pragma once
 
+#include "sdk/onvif/live/internal/streamunit.h"
 #include "sdk/streams/avpointers.h"
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace sdk::onvif {
 
 /// FFmpeg's readers of RTP deliver H.264 and H.265 as units of the stream, cut into fragments. A picture is
-/// whole when the first unit of the next one comes, or when its owner says so. Pictures of other codecs come
+/// whole when the first slice of the next one comes, or when its owner says so. Pictures of other codecs come
 /// whole. Belongs to one thread.
 class PictureAssembler
 {
@@ -36,15 +37,29 @@ public:
     void finish();
 
 private:
-    void append(std::span<const std::uint8_t> piece);
-    void clear();
+    /// Where the next fragment belongs to.
+    enum class Place
+    {
+        Nowhere, ///< the beginning of its unit is missing
+        Picture,
+        Held,
+    };
+
+    void addUnits(std::span<const std::uint8_t> units, const StreamUnit &first, std::int64_t time);
+    void append(std::span<const std::uint8_t> bytes);
+    void deliver();
 
     const AVCodecID m_codec;
     const Handler m_handler;
-    std::vector<std::uint8_t> m_bytes;
+    std::vector<std::uint8_t> m_picture;
     std::int64_t m_time = 0;
     bool m_hasSlices = false;
-    bool m_isOpen = false; ///< whether fragments go on with what is there
+
+    /// Units after a slice that belong to the next picture, as a rule. Some devices repeat their parameters
+    /// before each slice: then the next slice is not the first one of a picture, and these are left out.
+    std::vector<std::uint8_t> m_held;
+    std::int64_t m_heldTime = 0;
+    Place m_place = Place::Nowhere;
 };
 
 } // namespace sdk::onvif

@@ -3,6 +3,7 @@
 #include "sdk/onvif/live/internal/streamunit.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace sdk::onvif {
@@ -11,9 +12,10 @@ using streams::AvPointer;
 
 namespace {
 
-/// The units that come before the first slice, and of these the parameter sets.
+/// The parameter sets before the first slice, each once; empty without one of each kind that is needed.
 std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture, AVCodecID codec)
 {
+    constexpr std::array<std::uint8_t, 4> startCode = {0, 0, 0, 1};
     std::vector<std::uint8_t> sets;
     bool hasSequence = false;
     bool hasPicture = false;
@@ -22,8 +24,14 @@ std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture,
         picture = picture.subspan(unit->place);
         const std::optional<StreamUnit> next = firstUnit(picture.subspan(unit->headSize), codec);
         const std::size_t size = next ? unit->headSize + next->place : picture.size();
-        if (unit->parameterSet != ParameterSet::None)
-            sets.insert(sets.end(), picture.begin(), picture.begin() + static_cast<std::ptrdiff_t>(size));
+        if (unit->parameterSet != ParameterSet::None) {
+            // Start codes are of two lengths.
+            std::vector<std::uint8_t> one(startCode.begin(), startCode.end());
+            const std::span<const std::uint8_t> body = picture.first(size).subspan(unit->codeSize);
+            one.insert(one.end(), body.begin(), body.end());
+            if (std::search(sets.begin(), sets.end(), one.begin(), one.end()) == sets.end())
+                sets.insert(sets.end(), one.begin(), one.end());
+        }
         hasSequence = hasSequence || unit->parameterSet == ParameterSet::Sequence;
         hasPicture = hasPicture || unit->parameterSet == ParameterSet::Picture;
         picture = picture.subspan(unit->headSize);
@@ -56,8 +64,7 @@ std::unique_ptr<PictureFormat> PictureFormat::of(const AVCodecParameters &track)
         return nullptr;
     }
     format->m_parser->flags |= PARSER_FLAG_COMPLETE_FRAMES;
-    if (track.extradata_size > 0)
-        format->m_parameterSets.assign(track.extradata, track.extradata + track.extradata_size);
+    format->takeParameterSets({track.extradata, static_cast<std::size_t>(track.extradata_size)});
     return format;
 }
 

@@ -77,12 +77,26 @@ std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodec
         return std::nullopt;
     StreamUnit unit;
     unit.place = code > 0 && bytes[code - 1] == 0 ? code - 1 : code; // a fourth byte of the code
-    unit.headSize = code - unit.place + startCode.size() + headerSize;
+    unit.codeSize = code - unit.place + startCode.size();
+    unit.headSize = unit.codeSize + headerSize;
     const std::span<const std::uint8_t> rest = bytes.subspan(code + startCode.size());
     if (codec == AV_CODEC_ID_H264)
         readH264(rest, unit);
     else
         readH265(rest, unit);
+    return unit;
+}
+
+std::optional<StreamUnit> firstSlice(std::span<const std::uint8_t> bytes, AVCodecID codec)
+{
+    std::size_t place = 0;
+    std::optional<StreamUnit> unit = firstUnit(bytes, codec);
+    while (unit && !unit->isSlice) {
+        place += unit->place + unit->headSize;
+        unit = firstUnit(bytes.subspan(place), codec);
+    }
+    if (unit)
+        unit->place += place;
     return unit;
 }
 

@@ -21,13 +21,18 @@ enum class ParameterSet
 struct StreamUnit
 {
     std::size_t place = 0;    ///< of its start code
+    std::size_t codeSize = 0; ///< of the start code
     std::size_t headSize = 0; ///< of start code and header
     ParameterSet parameterSet = ParameterSet::None;
     bool isSlice = false;
-    bool beginsPicture = false; ///< after a slice it belongs to the next picture
+    /// After a slice it belongs to the next picture; for a slice: it is the first one of its picture.
+    bool beginsPicture = false;
 };
 
 /// The first unit in `bytes` that begins with a start code and has a header; nothing without one.
 [[nodiscard]] std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodecID codec);
+
+/// The first slice among the units of `bytes`.
+[[nodiscard]] std::optional<StreamUnit> firstSlice(std::span<const std::uint8_t> bytes, AVCodecID codec);
 
 } // namespace sdk::onvif
