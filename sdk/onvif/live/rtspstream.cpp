@@ -81,6 +81,8 @@ RtspStream::Outcome RtspStream::receive(const std::stop_token &stop)
     }
     if (!packet || remuxer->hasFailed())
         return {StreamEnd::Failed, "the container cannot be written"};
+    if (session.end() != StreamEnd::Stopped)
+        remuxer->finish();
     return {session.end(), session.text()};
 }
 

@@ -38,6 +38,9 @@ public:
     /// To be called now and then while nothing arrives.
     void deliverWaiting();
 
+    /// To be called when nothing arrives any more.
+    void finish() { m_assembler.finish(); }
+
     /// Whether a picture that needs no earlier one has come.
     [[nodiscard]] bool hasBegun() const { return m_writer != nullptr; }
 
