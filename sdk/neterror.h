@@ -25,6 +25,9 @@ enum class NetError : std::uint32_t
     DeviceBusy = 0x800000A0,      ///< the device is at something that it cannot leave
     FirmwareRefused = 0x800000A1, ///< the device does not take this firmware
     UpgradeFailed = 0x800000A2,   ///< the device gave its upgrade up
+    Refused = 0x800000A3,         ///< the device understands the request and does not fulfil it
+    InvalidValue = 0x800000A4,    ///< the device does not take a value of the request
+    SessionEnded = 0x800000A5,    ///< the device no longer accepts the login of the session
 };
 
 } // namespace sdk

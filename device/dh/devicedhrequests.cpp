@@ -43,6 +43,8 @@ StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &acco
         setText(input.account, account);
         setText(input.password, password);
         input.passwordResetWay = record->device.passwordResetWay;
+        input.address = record->device.address;
+        input.port = static_cast<std::uint16_t>(record->device.port);
         sdk::DeviceRequestOutput output{.size = sizeof(output)};
         if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
             result = loginResultOf(m_libraries.net->NetGetLastError());
@@ -69,23 +71,25 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
     if (m_upgrades->isUpgrading(mac))
         noteResult(mac, LoginResult::Upgrading);
     else
-        changeAddress(mac, newip, newsubmask, newgateway, dhcpON);
+        changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentialsOf(store().row(mac)));
 }
 
 DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                   const QString &newgateway, bool dhcpON)
 {
+    const Credentials credentials = credentialsOf(store().row(mac));
     return [=, this](const StepControl &) {
         if (m_upgrades->isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);
         if (!isFound(mac))
             return noteNotFound(mac);
-        return changeAddress(mac, newip, newsubmask, newgateway, dhcpON);
+        return changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentials);
     };
 }
 
 StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                                     const QString &newgateway, bool dhcpON)
+                                     const QString &newgateway, bool dhcpON,
+                                     const Credentials &credentials)
 {
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;
@@ -102,8 +106,12 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
             setText(input.device.subnetMask, newsubmask);
             setText(input.device.gateway, newgateway);
         }
+        sdk::ModifyDeviceInput request = input; // only this one has the password: `input` is kept
+        request.device.currentAddress = record->device.address;
+        setText(request.device.account, credentials.account);
+        setText(request.device.password, credentials.password);
         sdk::DeviceRequestOutput output{.size = sizeof(output)};
-        if (!m_libraries.net->NetModifyDeviceBySearch(input, output, requestWait))
+        if (!m_libraries.net->NetModifyDeviceBySearch(request, output, requestWait))
             result = loginResultOf(m_libraries.net->NetGetLastError());
     }
 

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "sdk/demo/internal/answerdelivery.h"
-#include "sdk/demo/internal/callgate.h"
+#include "sdk/callgate.h"
+#include "sdk/demo/demoerror.h"
 #include "sdk/demo/internal/demosessions.h"
 #include "sdk/demo/internal/devicelogin.h"
 #include "sdk/demo/internal/deviceupgrades.h"
 #include "sdk/demo/internal/livestreams.h"
-#include "sdk/demo/internal/threaderror.h"
+#include "sdk/threaderror.h"
 #include "sdk/netlibrary.h"
 
 #include <QJsonObject>

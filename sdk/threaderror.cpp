@@ -1,9 +1,9 @@
-#include "sdk/demo/internal/threaderror.h"
+#include "sdk/threaderror.h"
 
 #include <atomic>
 #include <unordered_map>
 
-namespace sdk::demo {
+namespace sdk {
 
 namespace {
 
@@ -21,7 +21,7 @@ ThreadError::ThreadError()
     m_key = ++lastKey;
 }
 
-bool ThreadError::fail(std::uint32_t code) const
+bool ThreadError::failWith(std::uint32_t code) const
 {
     errorsOfThisThread()[m_key] = code;
     return false;
@@ -34,4 +34,4 @@ std::uint32_t ThreadError::last() const
     return found == errors.end() ? 0 : found->second;
 }
 
-} // namespace sdk::demo
+} // namespace sdk

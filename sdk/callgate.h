@@ -5,7 +5,7 @@
 #include <mutex>
 #include <stop_token>
 
-namespace sdk::demo {
+namespace sdk {
 
 /// Thread-safe.
 class CallGate
@@ -45,4 +45,4 @@ private:
     std::stop_source m_stop; // of the calls that began since the last open()
 };
 
-} // namespace sdk::demo
+} // namespace sdk

@@ -1,6 +1,6 @@
-#include "sdk/demo/internal/callgate.h"
+#include "sdk/callgate.h"
 
-namespace sdk::demo {
+namespace sdk {
 
 CallGate::Call::Call(CallGate &gate) : m_gate(gate)
 {
@@ -37,4 +37,4 @@ void CallGate::close()
     m_callEnded.wait(lock, [this] { return m_runningCalls == 0; });
 }
 
-} // namespace sdk::demo
+} // namespace sdk

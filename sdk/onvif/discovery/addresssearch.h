@@ -1,0 +1,51 @@
+// The search of a list of addresses.
+#pragma once
+
+#include "sdk/onvif/discovery/discoverysockets.h"
+#include "sdk/onvif/discovery/founddevice.h"
+
+#include <QThreadPool>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace sdk::onvif {
+
+class HttpClient;
+
+/// One search: a probe to each address, then a request over HTTP where none was answered.
+class AddressSearch
+{
+public:
+    /// Called on any thread, one call at a time.
+    using Reporter = std::function<void(const FoundDevice &device)>;
+
+    /// `isCancelled` must outlive the search.
+    AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, const std::atomic_bool &isCancelled);
+
+    /// Blocks until every address was asked in both ways, `wait` has passed or the search is cancelled. Each
+    /// address is reported at most once.
+    void run(const std::vector<std::string> &addresses, std::chrono::milliseconds wait);
+
+private:
+    using Time = std::chrono::steady_clock::time_point;
+
+    void probe(const std::vector<std::string> &addresses, Time end);
+    void askByHttp(const std::vector<std::string> &addresses, Time end);
+    void inspect(FoundDevice device, bool mustAnswer, Time end);
+
+    const std::shared_ptr<HttpClient> m_http;
+    const Reporter m_reporter;
+    const std::atomic_bool &m_isCancelled;
+    QThreadPool m_inspections;
+    std::set<std::string> m_answered; ///< by probe; of the searching thread
+    std::mutex m_mutex;               ///< of the reporter
+};
+
+} // namespace sdk::onvif

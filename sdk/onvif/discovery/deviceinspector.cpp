@@ -1,0 +1,62 @@
+#include "sdk/onvif/discovery/deviceinspector.h"
+
+#include "sdk/onvif/discovery/neighbourtable.h"
+#include "sdk/onvif/services/deviceservice.h"
+
+namespace sdk::onvif {
+
+namespace {
+
+/// On a device without an administrator, everything is answered without a login.
+void askOpenDevice(FoundDevice &device, DeviceService &service)
+{
+    if (const auto information = service.information(); information.isOk()) {
+        device.model = information.value.model;
+        device.firmwareVersion = information.value.firmwareVersion;
+        device.serialNumber = information.value.serialNumber;
+    }
+    if (const auto interfaces = service.interfaces(); interfaces.isOk()) {
+        for (const DeviceInterface &interface : interfaces.value) {
+            if (interface.address != device.address)
+                continue;
+            device.dhcp = interface.dhcp;
+            device.mask = maskOf(interface.prefixLength);
+            if (device.mac.empty())
+                device.mac = interface.mac;
+        }
+    }
+    if (const auto gateway = service.defaultGateway(); gateway.isOk())
+        device.gateway = gateway.value;
+}
+
+std::string macOfNeighbour(const std::string &address)
+{
+    const auto table = neighbourTable();
+    const auto entry = table.find(address);
+    return entry == table.end() ? std::string() : entry->second;
+}
+
+} // namespace
+
+bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http, std::chrono::milliseconds wait)
+{
+    SoapClient client(HttpLogin{}, http);
+    DeviceService service(client, device.service, std::chrono::steady_clock::now() + wait);
+    const ServiceResult<std::vector<DeviceUser>> users = service.usersOpenly();
+    device.mac = macOfNeighbour(device.address);
+    switch (users.error) {
+    case NetError::None:
+        device.state = InitialisationBits::Uninitialised;
+        askOpenDevice(device, service);
+        return true;
+    case NetError::WrongPassword:
+    case NetError::Refused:
+    case NetError::NotSupported:
+        device.state = InitialisationBits::Initialised;
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,69 @@
+#include "sdk/onvif/discovery/founddevice.h"
+
+#include "sdk/blocktext.h"
+
+#include <arpa/inet.h>
+
+#include <array>
+#include <bit>
+
+namespace sdk::onvif {
+
+ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address)
+{
+    for (const ServiceAddress &service : announcement.services) {
+        if (service.host == address)
+            return service;
+    }
+    ServiceAddress service;
+    if (!announcement.services.empty())
+        service = announcement.services.front();
+    service.host = address;
+    return service;
+}
+
+SearchAnswer searchAnswerOf(const FoundDevice &device)
+{
+    SearchAnswer answer{};
+    answer.size = sizeof(answer);
+    setBlockText(answer.localAddress, device.localAddress);
+    SearchDeviceInformation &information = answer.device;
+    information.ipVersion = device.address.find(':') == std::string::npos ? 4 : 6;
+    information.port = device.service.port;
+    setBlockText(information.address, device.address);
+    setBlockText(information.subnetMask, device.mask);
+    setBlockText(information.gateway, device.gateway);
+    setBlockText(information.mac, device.mac.empty() ? device.announcement.mac : device.mac);
+    setBlockText(information.deviceType, device.announcement.isRecorder ? "NVR" : "IPC");
+    setBlockText(information.detailModel, device.model.empty() ? device.announcement.model : device.model);
+    setBlockText(information.deviceName, device.announcement.name);
+    setBlockText(information.softwareVersion, device.firmwareVersion);
+    setBlockText(information.serialNumber, device.serialNumber);
+    if (!device.service.isSecure && device.service.port <= 65535)
+        information.httpPort = static_cast<std::uint16_t>(device.service.port);
+    information.dhcpEnabled = device.dhcp ? 1 : 0;
+    information.initialisationState = static_cast<std::uint8_t>(device.state);
+    return answer;
+}
+
+std::string maskOf(int prefixLength)
+{
+    if (prefixLength < 1 || prefixLength > 32)
+        return {};
+    const in_addr mask = {.s_addr = htonl(0xFFFFFFFFU << (32 - prefixLength))};
+    std::array<char, INET_ADDRSTRLEN> text{};
+    return ::inet_ntop(AF_INET, &mask, text.data(), text.size()) ? text.data() : std::string();
+}
+
+std::optional<int> prefixLengthOf(std::string_view mask)
+{
+    in_addr address{};
+    if (::inet_pton(AF_INET, std::string(mask).c_str(), &address) != 1)
+        return std::nullopt;
+    const std::uint32_t bits = ntohl(address.s_addr);
+    const int length = std::countl_one(bits);
+    const bool isContiguous = length == 32 || (bits << length) == 0;
+    return isContiguous && length > 0 ? std::optional(length) : std::nullopt;
+}
+
+} // namespace sdk::onvif

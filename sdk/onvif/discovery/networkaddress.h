@@ -1,0 +1,42 @@
+// Addresses of the network and the interfaces of this computer, as text.
+#pragma once
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sdk::onvif {
+
+/// An address with its port for the socket functions.
+struct SocketAddress
+{
+    sockaddr_storage storage{};
+    socklen_t length = 0;
+};
+
+/// Reads an IPv4 address, or an IPv6 address with the name or number of its interface behind "%". Nothing for
+/// host names: a search asks addresses only.
+[[nodiscard]] std::optional<SocketAddress> socketAddress(const std::string &address, int port);
+
+/// The text of the address, with the interface of a link-local one; without brackets and port.
+[[nodiscard]] std::string addressText(const SocketAddress &address);
+
+/// An interface of this computer that takes part in the network, with one of its addresses.
+struct NetworkInterface
+{
+    std::string name = {};
+    unsigned int index = 0;
+    bool isIPv4 = true;
+    std::string address = {};
+    bool isLoopback = false;
+};
+
+/// The interfaces that are up and can send to groups: one entry for each IPv4 address, and one for each
+/// interface with a link-local IPv6 address. Loopback interfaces are included; the caller decides.
+[[nodiscard]] std::vector<NetworkInterface> networkInterfaces();
+
+} // namespace sdk::onvif

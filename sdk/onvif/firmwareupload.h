@@ -1,0 +1,47 @@
+// The sending of firmware files to devices.
+#pragma once
+
+#include "sdk/loginblocks.h"
+#include "sdk/onvif/services/deviceservice.h"
+#include "sdk/upgradeblocks.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace sdk::onvif {
+
+class FirmwareTransfer;
+
+/// The uploads that run. Thread-safe.
+///
+/// A device answers the upload when it has the whole file; what it does then it does not report. So the phase
+/// Writing begins with the last byte and ends with the answer.
+class FirmwareUploads
+{
+public:
+    FirmwareUploads();
+    ~FirmwareUploads();
+
+    [[nodiscard]] static bool isReadable(const std::string &fileName);
+
+    /// Starts to send the file, after the delay that the device has asked for. Returns the handle, 0 when the
+    /// computer gives no thread.
+    [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
+                                    const std::string &fileName, UpgradeProgressHandler handler, void *user);
+
+    /// Ends an upload and frees its handle. NotSupported while the device has the whole file and has not
+    /// answered; InvalidValue for a handle that is none.
+    [[nodiscard]] NetError close(std::int64_t handle);
+    void closeAllOf(LLONG loginHandle);
+    void closeAll();
+
+private:
+    std::mutex m_mutex;
+    std::int64_t m_lastHandle = 0;
+    std::map<std::int64_t, std::shared_ptr<FirmwareTransfer>> m_transfers;
+};
+
+} // namespace sdk::onvif

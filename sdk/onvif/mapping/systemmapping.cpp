@@ -1,0 +1,228 @@
+#include "sdk/onvif/mapping/systemmapping.h"
+
+#include "sdk/blocktext.h"
+#include "sdk/configrecords.h"
+#include "sdk/configtext/configtext.h"
+#include "sdk/onvif/discovery/founddevice.h"
+#include "sdk/onvif/mapping/timezonenumbers.h"
+#include "sdk/onvif/session/clocktime.h"
+#include "sdk/onvif/session/posixtimezone.h"
+#include "sdk/systemrecords.h"
+
+#include <algorithm>
+
+namespace sdk::onvif {
+
+namespace {
+
+using Deadline = OnvifSession::Deadline;
+
+constexpr int ntpPort = 123;
+constexpr int dayInMinutes = 1440;
+constexpr int daylightSavingMinutes = 60;
+
+template<typename Record>
+std::string packed(std::string_view name, Record record)
+{
+    record.size = sizeof(record);
+    const std::optional<QByteArray> text = packConfigText(name, &record, sizeof(record));
+    return text ? text->toStdString() : std::string();
+}
+
+template<typename Record>
+std::optional<Record> unpacked(std::string_view name, std::string_view text)
+{
+    Record record{};
+    if (!unpackConfigText(name, text, &record, sizeof(record)))
+        return std::nullopt;
+    return record;
+}
+
+std::string networkText(OnvifSession &session, Deadline deadline, NetError &error)
+{
+    DeviceService device = session.device(deadline);
+    const auto interfaces = device.interfaces();
+    error = interfaces.error;
+    const DeviceInterface *interface = interfaceInUse(interfaces.value, session.service().host);
+    if (!interface)
+        return {};
+    NetworkRecord record{};
+    record.dhcpEnabled = interface->dhcp ? 1 : 0;
+    setBlockText(record.mac, interface->mac);
+    setBlockText(record.address, interface->address);
+    setBlockText(record.subnetMask, maskOf(interface->prefixLength));
+    setBlockText(record.gateway, device.defaultGateway().value);
+    setBlockText(record.hostName, device.hostName().value);
+    return packed("Network", record);
+}
+
+std::string httpsText(OnvifSession &session, Deadline deadline, NetError &error)
+{
+    const auto protocols = session.device(deadline).protocols();
+    error = protocols.error;
+    const int port = portOf(protocols.value, "HTTPS");
+    return packed("Https", HttpsRecord{.size = 0, .enabled = port > 0 ? 1 : 0, .port = port, .reserved = 0});
+}
+
+std::string serviceText(const OnvifSession &session)
+{
+    ServiceRecord record{};
+    record.tcpPort = session.service().port;
+    return packed("DVRIP", record);
+}
+
+std::string ntpText(OnvifSession &session, Deadline deadline, NetError &error)
+{
+    DeviceService device = session.device(deadline);
+    const auto clock = device.clock();
+    error = clock.error;
+    if (!clock.isOk())
+        return {};
+    NtpRecord record{};
+    record.enabled = clock.value.followsNtp ? 1 : 0;
+    setBlockText(record.address, device.ntp().value.server);
+    record.port = ntpPort;
+    record.updatePeriod = dayInMinutes;
+    const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.value.timeZone);
+    record.timeZone = std::max(timeZoneNumber(zone ? zone->offset : 0), 0);
+    return packed("NTP", record);
+}
+
+std::string localesText(OnvifSession &session, Deadline deadline, NetError &error)
+{
+    const auto clock = session.device(deadline).clock();
+    error = clock.error;
+    if (!clock.isOk())
+        return {};
+    LocalesRecord record{};
+    if (const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.value.timeZone)) {
+        record.daylightSavingEnabled = clock.value.daylightSaving && zone->hasDaylightSaving() ? 1 : 0;
+        record.begin = zone->begin;
+        record.end = zone->end;
+    }
+    setBlockText(record.timeFormat, "yyyy-MM-dd HH:mm:ss");
+    return packed("Locales", record);
+}
+
+NetError setNtp(OnvifSession &session, const NtpRecord &record, Deadline deadline)
+{
+    DeviceService device = session.device(deadline);
+    const auto clock = device.clock();
+    if (!clock.isOk())
+        return clock.error;
+    if (record.enabled != 0) {
+        const NtpSettings settings = {.fromDhcp = false, .server = std::string(blockText(record.address))};
+        if (const ServiceOutcome outcome = device.setNtp(settings); !outcome.isOk())
+            return outcome.error;
+    }
+    DeviceClock changed = clock.value;
+    changed.followsNtp = record.enabled != 0;
+    PosixTimeZone zone = readPosixTimeZone(clock.value.timeZone).value_or(PosixTimeZone{.name = "UTC"});
+    const int offset = timeZoneOffset(record.timeZone);
+    if (zone.offset != offset) {
+        zone.daylightOffset += offset - zone.offset;
+        zone.offset = offset;
+        zone.name = offset == 0 ? "UTC" : "TZONE"; // the name of the old offset would be a wrong one
+    }
+    changed.timeZone = zone.text();
+    return device.setClock(changed).error;
+}
+
+NetError setLocales(OnvifSession &session, const LocalesRecord &record, Deadline deadline)
+{
+    DeviceService device = session.device(deadline);
+    const auto clock = device.clock();
+    if (!clock.isOk())
+        return clock.error;
+    DeviceClock changed = clock.value;
+    PosixTimeZone zone = readPosixTimeZone(clock.value.timeZone).value_or(PosixTimeZone{.name = "UTC"});
+    changed.daylightSaving = record.daylightSavingEnabled != 0;
+    if (changed.daylightSaving) {
+        if (zone.daylightName.empty()) {
+            zone.daylightName = "DST";
+            zone.daylightOffset = zone.offset + daylightSavingMinutes;
+        }
+        zone.begin = record.begin;
+        zone.end = record.end;
+    } else {
+        // Some devices follow the rule in the text, whatever the switch says.
+        zone.daylightName.clear();
+    }
+    changed.timeZone = zone.text();
+    return device.setClock(changed).error;
+}
+
+} // namespace
+
+const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interfaces, std::string_view address)
+{
+    const DeviceInterface *first = nullptr;
+    for (const DeviceInterface &interface : interfaces) {
+        const bool hasAddress = interface.address == address ||
+                                std::find(interface.ipv6Addresses.begin(), interface.ipv6Addresses.end(),
+                                          address.substr(0, address.find('%'))) != interface.ipv6Addresses.end();
+        if (hasAddress)
+            return &interface;
+        if (!first && interface.isEnabled && interface.hasIPv4)
+            first = &interface;
+    }
+    return first;
+}
+
+int portOf(const std::vector<DeviceProtocol> &protocols, std::string_view name)
+{
+    const auto found = std::find_if(protocols.begin(), protocols.end(), [name](const DeviceProtocol &protocol) {
+        return protocol.isEnabled && protocol.name == name;
+    });
+    return found == protocols.end() ? 0 : found->port;
+}
+
+std::string systemConfiguration(OnvifSession &session, std::string_view name, Deadline deadline, NetError &error)
+{
+    std::string text;
+    error = NetError::None;
+    if (name == "Network")
+        text = networkText(session, deadline, error);
+    else if (name == "DVRIP")
+        text = serviceText(session);
+    else if (name == "Https")
+        text = httpsText(session, deadline, error);
+    else if (name == "NTP")
+        text = ntpText(session, deadline, error);
+    else if (name == "Locales")
+        text = localesText(session, deadline, error);
+    if (text.empty() && error == NetError::None)
+        error = NetError::NotSupported;
+    return error == NetError::None ? text : std::string();
+}
+
+NetError setSystemConfiguration(OnvifSession &session, std::string_view name, std::string_view text,
+                                Deadline deadline)
+{
+    if (name == "NTP") {
+        const std::optional<NtpRecord> record = unpacked<NtpRecord>(name, text);
+        return record ? setNtp(session, *record, deadline) : NetError::InvalidValue;
+    }
+    if (name == "Locales") {
+        const std::optional<LocalesRecord> record = unpacked<LocalesRecord>(name, text);
+        return record ? setLocales(session, *record, deadline) : NetError::InvalidValue;
+    }
+    return NetError::NotSupported;
+}
+
+NetError setDeviceTime(OnvifSession &session, const TimeRecord &time, Deadline deadline)
+{
+    DeviceService device = session.device(deadline);
+    const auto clock = device.clock();
+    if (!clock.isOk())
+        return clock.error;
+    const DateTime shown = dateTimeOf(time);
+    if (!shown.isValid())
+        return NetError::InvalidValue;
+    DeviceClock changed = clock.value;
+    changed.followsNtp = false;
+    changed.utc = utcOfShown(shown, clock.value);
+    return device.setClock(changed).error;
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,120 @@
+// Begin and end of the library, and searches.
+#include "sdk/onvif/onvifnetlibrary.h"
+
+#include "sdk/blocktext.h"
+
+#include <string>
+#include <utility>
+
+namespace sdk::onvif {
+
+OnvifNetLibrary::OnvifNetLibrary() = default;
+
+OnvifNetLibrary::~OnvifNetLibrary()
+{
+    NetCleanup();
+}
+
+bool OnvifNetLibrary::NetInit()
+{
+    if (!m_discovery)
+        m_discovery = std::make_unique<DeviceDiscovery>();
+    m_gate.open();
+    return true;
+}
+
+void OnvifNetLibrary::NetCleanup()
+{
+    // Running calls end at once: what they wait for is cancelled.
+    if (m_discovery)
+        m_discovery->cancel();
+    std::map<LLONG, std::shared_ptr<OnvifSession>> sessions;
+    {
+        const std::scoped_lock lock(m_mutex);
+        sessions.swap(m_sessions);
+    }
+    for (const auto &[handle, session] : sessions)
+        session->cancel();
+    m_streams.closeAll();
+    m_uploads.closeAll();
+    m_gate.close();
+    m_discovery.reset();
+}
+
+std::uint32_t OnvifNetLibrary::NetGetLastError() const
+{
+    return m_error.last();
+}
+
+std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &parameter, std::chrono::milliseconds)
+{
+    const CallGate::Call call(m_gate);
+    if (!call.isAllowed() || parameter.size != sizeof(parameter)) {
+        m_error.fail(NetError::InvalidValue);
+        return 0;
+    }
+    const std::int64_t handle = m_discovery->start(parameter.handler, parameter.user);
+    if (handle == 0)
+        m_error.fail(NetError::NetworkFailure);
+    return handle;
+}
+
+std::int64_t OnvifNetLibrary::NetStartSearchDevicesEx(const SearchParameterEx &parameter,
+                                                      std::chrono::milliseconds wait)
+{
+    const CallGate::Call call(m_gate);
+    if (parameter.size != sizeof(parameter)) {
+        m_error.fail(NetError::InvalidValue);
+        return 0;
+    }
+    // There is one kind of search: the second request repeats the first.
+    return NetStartSearchDevices({.size = sizeof(SearchParameter),
+                                  .reserved = 0,
+                                  .handler = parameter.handler,
+                                  .user = parameter.user},
+                                 wait);
+}
+
+bool OnvifNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
+{
+    const CallGate::Call call(m_gate);
+    return (call.isAllowed() && m_discovery->stop(searchHandle)) || m_error.fail(NetError::InvalidValue);
+}
+
+bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                                        void *user, std::chrono::milliseconds wait)
+{
+    const CallGate::Call call(m_gate);
+    if (!call.isAllowed() || request.size != sizeof(request) || request.count < 0 ||
+        request.count > maximumSearchAddresses)
+        return m_error.fail(NetError::InvalidValue);
+    std::vector<std::string> addresses;
+    for (std::size_t place = 0; place < static_cast<std::size_t>(request.count); ++place)
+        addresses.emplace_back(blockText(request.addresses[place]));
+    m_discovery->searchAddresses(addresses, handler, user, wait);
+    return true;
+}
+
+bool OnvifNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                                            void *user, const char *, std::chrono::milliseconds wait)
+{
+    return searchByAddresses(request, handler, user, wait);
+}
+
+bool OnvifNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler,
+                                              void *, const char *, std::chrono::milliseconds)
+{
+    // The same devices would answer once more.
+    const CallGate::Call call(m_gate);
+    const bool isSound = call.isAllowed() && request.size == sizeof(request) && request.count >= 0 &&
+                         request.count <= maximumSearchAddresses;
+    return isSound || m_error.fail(NetError::InvalidValue);
+}
+
+void OnvifNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                                          void *user, std::chrono::milliseconds wait)
+{
+    searchByAddresses(request, handler, user, wait);
+}
+
+} // namespace sdk::onvif

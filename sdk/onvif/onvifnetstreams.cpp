@@ -1,0 +1,133 @@
+// Live streams and firmware.
+#include "sdk/onvif/onvifnetlibrary.h"
+#include "sdk/onvif/soap/logging.h"
+
+#include <algorithm>
+
+namespace sdk::onvif {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto startWait = 5s;
+constexpr auto keyPictureWait = 2s;
+
+/// The profile of a stream of a channel; empty if there is none.
+std::string profileOf(const OnvifSession &session, std::int32_t channel, LiveStreamKind kind)
+{
+    if (channel < 0 || static_cast<std::size_t>(channel) >= session.channels().size())
+        return {};
+    const MediaChannel &found = session.channels()[static_cast<std::size_t>(channel)];
+    return kind == LiveStreamKind::Sub ? found.subProfile : found.mainProfile;
+}
+
+/// The URL at the address that was reached, without an account: a device names itself by its own view.
+std::string reachedUrl(const std::string &url, const ServiceAddress &reached)
+{
+    constexpr std::string_view scheme = "rtsp://";
+    if (!url.starts_with(scheme))
+        return {};
+    const std::size_t authorityEnd = std::min(url.find_first_of("/?", scheme.size()), url.size());
+    std::string authority = url.substr(scheme.size(), authorityEnd - scheme.size());
+    if (const std::size_t account = authority.rfind('@'); account != std::string::npos)
+        authority.erase(0, account + 1);
+    const std::size_t bracket = authority.find(']');
+    const std::size_t colon = authority.find(':', bracket == std::string::npos ? 0 : bracket);
+    const std::string port = colon == std::string::npos ? std::string() : authority.substr(colon);
+    return std::string(scheme) + bracketed(reached.host) + port + url.substr(authorityEnd);
+}
+
+} // namespace
+
+std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t,
+                                                 LiveStreamKind kind)
+{
+    std::int64_t handle = 0;
+    onSession(loginHandle, startWait, [&](OnvifSession &session, Deadline deadline) {
+        const std::string profile = profileOf(session, channel, kind);
+        std::optional<MediaService> media = session.media(deadline);
+        if (profile.empty() || !media)
+            return NetError::NotSupported;
+        const ServiceResult<std::string> url = media->streamUrl(profile);
+        if (!url.isOk())
+            return url.error;
+        if (session.client().isRefused())
+            return NetError::SessionEnded;
+        const HttpLogin login = session.client().login();
+        RtspOrder order;
+        order.url = reachedUrl(url.value, session.service());
+        order.account = login.account;
+        order.password = login.password;
+        order.timeouts.answer = std::chrono::duration_cast<std::chrono::milliseconds>(
+            deadline - std::chrono::steady_clock::now());
+        NetError error = NetError::None;
+        handle = m_streams.open(loginHandle, profile, order, error);
+        if (error == NetError::WrongPassword)
+            session.client().setRefused(); // no other way sends it again
+        return error;
+    });
+    return handle;
+}
+
+bool OnvifNetLibrary::NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
+                                             std::uint32_t)
+{
+    const CallGate::Call call(m_gate);
+    const std::shared_ptr<LiveStream> stream = m_streams.stream(streamHandle);
+    if (!call.isAllowed() || !stream)
+        return m_error.fail(NetError::InvalidValue);
+    stream->setHandler(handler, user);
+    return true;
+}
+
+bool OnvifNetLibrary::NetStreamFollowUp(std::int64_t streamHandle, std::int32_t, std::uint32_t)
+{
+    const CallGate::Call call(m_gate);
+    const std::shared_ptr<LiveStream> stream = m_streams.stream(streamHandle);
+    if (!call.isAllowed() || !stream)
+        return m_error.fail(NetError::InvalidValue);
+    stream->beginAnew();
+    // The request for a key picture is not waited for: without it the next regular one serves.
+    if (const std::shared_ptr<OnvifSession> session = this->session(stream->loginHandle())) {
+        m_keyPictureRequests.start([session, profile = stream->profile()] {
+            if (auto media = session->media(std::chrono::steady_clock::now() + keyPictureWait))
+                (void)media->requestKeyPicture(profile);
+        });
+    }
+    return true;
+}
+
+bool OnvifNetLibrary::NetStopRealStream(std::int64_t streamHandle)
+{
+    const CallGate::Call call(m_gate);
+    return (call.isAllowed() && m_streams.close(streamHandle)) || m_error.fail(NetError::InvalidValue);
+}
+
+std::int64_t OnvifNetLibrary::NetStartUpgrade(LLONG loginHandle, const char *fileName,
+                                              UpgradeProgressHandler handler, void *user,
+                                              std::chrono::milliseconds wait)
+{
+    std::int64_t handle = 0;
+    onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
+        if (!FirmwareUploads::isReadable(fileName))
+            return NetError::UnusableFile;
+        const auto upload = session.device(deadline).startFirmwareUpgrade();
+        if (!upload.isOk())
+            return upload.error;
+        handle = m_uploads.open(loginHandle, upload.value, session.client().login(), fileName, handler, user);
+        return handle > 0 ? NetError::None : NetError::NetworkFailure;
+    });
+    return handle;
+}
+
+bool OnvifNetLibrary::NetStopUpgrade(std::int64_t upgradeHandle)
+{
+    const CallGate::Call call(m_gate);
+    if (!call.isAllowed())
+        return m_error.fail(NetError::InvalidValue);
+    const NetError error = m_uploads.close(upgradeHandle);
+    return error == NetError::None || m_error.fail(error);
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,138 @@
+// The device service (ONVIF Core, chapter 8): identity, network, users, clock and maintenance of a device.
+#pragma once
+
+#include "sdk/onvif/services/serviceresult.h"
+
+#include <chrono>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sdk::onvif {
+
+struct DeviceInformation
+{
+    std::string manufacturer = {};
+    std::string model = {};
+    std::string firmwareVersion = {};
+    std::string serialNumber = {};
+    std::string hardwareId = {};
+};
+
+/// A date and time without a zone.
+struct DateTime
+{
+    int year = 0;
+    int month = 0; ///< 1 to 12
+    int day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+
+    [[nodiscard]] bool isValid() const;
+};
+
+struct DeviceClock
+{
+    bool followsNtp = false;
+    bool daylightSaving = false; ///< the zone's rule is applied
+    std::string timeZone = {};        ///< POSIX 1003.1 text, empty if the device does not say
+    std::optional<DateTime> utc = {};
+    std::optional<DateTime> local = {};
+};
+
+/// One network interface of a device.
+struct DeviceInterface
+{
+    std::string token = {};
+    bool isEnabled = true;
+    std::string mac = {}; ///< as canonicalMac() writes it
+    bool hasIPv4 = false;
+    bool dhcp = false;
+    std::string address = {}; ///< the one in use
+    int prefixLength = 0;
+    std::vector<std::string> ipv6Addresses = {};
+};
+
+struct DeviceProtocol
+{
+    std::string name = {}; ///< "HTTP", "HTTPS", "RTSP"
+    bool isEnabled = false;
+    int port = 0;
+};
+
+struct DeviceUser
+{
+    std::string name = {};
+    std::string level = {}; ///< "Administrator", "Operator", "User", "Anonymous", "Extended"
+};
+
+struct NtpSettings
+{
+    bool fromDhcp = false;
+    std::string server = {}; ///< the first one: an address or a name
+};
+
+/// How to send a firmware file.
+struct FirmwareUpload
+{
+    ServiceAddress address = {};
+    std::chrono::seconds delay{0};    ///< to wait before sending
+    std::chrono::seconds downTime{0}; ///< how long the device is away afterwards, 0 if it does not say
+};
+
+/// Operations of one device. Each blocks until the answer has arrived or `deadline` has passed. Used by one
+/// thread; the client may serve several.
+class DeviceService
+{
+public:
+    using Deadline = SoapClient::Deadline;
+
+    /// Both must outlive the object.
+    DeviceService(SoapClient &client, const ServiceAddress &address, Deadline deadline);
+
+    // Without the login.
+
+    [[nodiscard]] ServiceResult<DeviceClock> clockOpenly();
+    /// Succeeds only on a device that has no administrator yet.
+    [[nodiscard]] ServiceResult<std::vector<DeviceUser>> usersOpenly();
+    [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name, const std::string &password);
+
+    // With the login.
+
+    [[nodiscard]] ServiceResult<DeviceInformation> information();
+    [[nodiscard]] ServiceResult<DeviceClock> clock();
+    [[nodiscard]] ServiceOutcome setClock(const DeviceClock &clock);
+    /// URLs of the services by their namespace. A device without the newer operation is asked by the older.
+    [[nodiscard]] ServiceResult<std::map<std::string, std::string>> services();
+    [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfaces();
+    [[nodiscard]] ServiceResult<std::string> defaultGateway();
+    [[nodiscard]] ServiceResult<std::vector<DeviceProtocol>> protocols();
+    [[nodiscard]] ServiceResult<std::vector<DeviceUser>> users();
+    [[nodiscard]] ServiceOutcome setPassword(const DeviceUser &user, const std::string &password);
+    [[nodiscard]] ServiceResult<NtpSettings> ntp();
+    [[nodiscard]] ServiceOutcome setNtp(const NtpSettings &settings);
+    [[nodiscard]] ServiceResult<std::string> hostName();
+
+    /// Returns whether the device must be rebooted before the addresses are in use.
+    [[nodiscard]] ServiceResult<bool> setAddress(const DeviceInterface &interface);
+    [[nodiscard]] ServiceOutcome setDefaultGateway(const std::string &address);
+    [[nodiscard]] ServiceOutcome reboot();
+    /// To the state of delivery, with the network settings.
+    [[nodiscard]] ServiceOutcome resetCompletely();
+    [[nodiscard]] ServiceResult<FirmwareUpload> startFirmwareUpgrade();
+
+private:
+    [[nodiscard]] SoapAnswer call(const SoapRequest &request);
+    [[nodiscard]] ServiceOutcome callPlain(const SoapRequest &request, std::string_view response);
+
+    SoapClient &m_client;
+    const ServiceAddress &m_address;
+    const Deadline m_deadline;
+};
+
+/// A duration of XML Schema in whole seconds ("PT5S", "PT1M30S"); 0 for a text that is none, at most a day.
+[[nodiscard]] std::chrono::seconds xmlDuration(std::string_view text);
+
+} // namespace sdk::onvif

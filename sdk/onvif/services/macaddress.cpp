@@ -1,0 +1,24 @@
+#include "sdk/onvif/services/macaddress.h"
+
+namespace sdk::onvif {
+
+std::string canonicalMac(std::string_view text)
+{
+    constexpr std::size_t digits = 12;
+    std::string hex;
+    for (char letter : text) {
+        if (letter >= 'A' && letter <= 'F')
+            letter = static_cast<char>(letter - 'A' + 'a');
+        if ((letter >= '0' && letter <= '9') || (letter >= 'a' && letter <= 'f'))
+            hex += letter;
+        else if (letter != ':' && letter != '-' && letter != '.')
+            return {};
+    }
+    if (hex.size() != digits || hex.find_first_not_of('0') == std::string::npos)
+        return {};
+    for (std::size_t place = digits - 2; place > 0; place -= 2)
+        hex.insert(place, ":");
+    return hex;
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,142 @@
+#include "sdk/onvif/session/onvifsession.h"
+
+#include "sdk/onvif/session/clocktime.h"
+#include "sdk/onvif/soap/onvifnamespaces.h"
+
+#include <algorithm>
+#include <map>
+
+namespace sdk::onvif {
+
+namespace {
+
+constexpr std::string_view administrator = "Administrator";
+
+std::int64_t pictureArea(const MediaProfile &profile)
+{
+    return profile.video ? static_cast<std::int64_t>(profile.video->width) * profile.video->height : 0;
+}
+
+} // namespace
+
+std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles)
+{
+    std::vector<std::string> order;
+    std::map<std::string, std::vector<const MediaProfile *>> bySource;
+    for (const MediaProfile &profile : profiles) {
+        if (profile.sourceToken.empty() || !profile.video)
+            continue;
+        std::vector<const MediaProfile *> &ofSource = bySource[profile.sourceToken];
+        if (ofSource.empty())
+            order.push_back(profile.sourceToken);
+        ofSource.push_back(&profile);
+    }
+    std::vector<MediaChannel> channels;
+    for (const std::string &source : order) {
+        std::vector<const MediaProfile *> &ofSource = bySource[source];
+        // Profiles of one encoder are one stream: the first of them stands for it.
+        std::stable_sort(ofSource.begin(), ofSource.end(), [](const MediaProfile *left, const MediaProfile *right) {
+            return pictureArea(*left) > pictureArea(*right);
+        });
+        const MediaProfile *main = ofSource.front();
+        const auto sub = std::find_if(ofSource.begin(), ofSource.end(), [main](const MediaProfile *profile) {
+            return profile->video->token != main->video->token;
+        });
+        channels.push_back({.sourceToken = source,
+                            .mainProfile = main->token,
+                            .subProfile = sub == ofSource.end() ? std::string() : (*sub)->token});
+        if (channels.size() == OnvifSession::maximumChannels)
+            break;
+    }
+    return channels;
+}
+
+OnvifSession::OnvifSession(const ServiceAddress &service, std::unique_ptr<SoapClient> client)
+    : m_service(service), m_client(std::move(client))
+{
+}
+
+std::shared_ptr<OnvifSession> OnvifSession::open(const ServiceAddress &service, const HttpLogin &login,
+                                                 const std::shared_ptr<HttpClient> &http, Deadline deadline,
+                                                 NetError &error)
+{
+    auto session = std::make_shared<OnvifSession>(service, std::make_unique<SoapClient>(login, http));
+    error = session->logIn(deadline);
+    if (error != NetError::None)
+        return nullptr;
+    session->learnServices(deadline);
+    session->learnChannels(deadline);
+    return session;
+}
+
+NetError OnvifSession::logIn(Deadline deadline)
+{
+    DeviceService service = device(deadline);
+    const ServiceResult<DeviceClock> clock = service.clockOpenly();
+    if (clock.isOk() && clock.value.utc)
+        m_client->setClockOffset(clockOffset(*clock.value.utc));
+    else if (clock.error == NetError::ConnectTimeout || clock.error == NetError::ConnectFailed ||
+             clock.error == NetError::NetworkFailure)
+        return clock.error;
+    ServiceResult<DeviceInformation> information = service.information();
+    if (!information.isOk())
+        return information.error;
+    m_information = std::move(information.value);
+    return m_client->isConfirmed() ? NetError::None : confirmPassword(deadline);
+}
+
+NetError OnvifSession::confirmPassword(Deadline deadline)
+{
+    DeviceService service = device(deadline);
+    const auto users = service.usersOpenly();
+    if (users.isOk()) {
+        const bool hasAdministrator = std::any_of(users.value.begin(), users.value.end(), [](const auto &user) {
+            return user.level == administrator;
+        });
+        return hasAdministrator ? NetError::None : NetError::NotSupported;
+    }
+    const auto interfaces = service.interfaces(); // every kind of account may read them
+    return interfaces.error == NetError::WrongPassword ? NetError::WrongPassword : NetError::None;
+}
+
+void OnvifSession::learnServices(Deadline deadline)
+{
+    const auto services = device(deadline).services();
+    const auto find = [&](std::string_view uri) -> std::optional<ServiceAddress> {
+        const auto service = services.value.find(std::string(uri));
+        return service == services.value.end() ? std::nullopt : serviceAt(m_service, service->second);
+    };
+    m_media = find(ns::media);
+    m_media2 = find(ns::media2);
+    m_imaging = find(ns::imaging);
+    m_deviceIo = find(ns::deviceIo);
+}
+
+void OnvifSession::learnChannels(Deadline deadline)
+{
+    ServiceResult<std::vector<MediaProfile>> found = profiles(deadline);
+    if (!found.isOk() && m_media2 && m_media) {
+        m_media2.reset(); // named, and not there: the older service is
+        found = profiles(deadline);
+    }
+    m_channels = channelsOf(found.value);
+}
+
+std::optional<MediaService> OnvifSession::media(Deadline deadline)
+{
+    if (m_media2)
+        return MediaService(*m_client, *m_media2, MediaVersion::Second, deadline);
+    if (m_media)
+        return MediaService(*m_client, *m_media, MediaVersion::First, deadline);
+    return std::nullopt;
+}
+
+ServiceResult<std::vector<MediaProfile>> OnvifSession::profiles(Deadline deadline)
+{
+    std::optional<MediaService> service = media(deadline);
+    if (!service)
+        return {.error = NetError::NotSupported};
+    return service->profiles();
+}
+
+} // namespace sdk::onvif

@@ -1,0 +1,79 @@
+// A session with a device: the login, and what was learnt of the device at its begin.
+#pragma once
+
+#include "sdk/loginblocks.h"
+#include "sdk/onvif/services/deviceservice.h"
+#include "sdk/onvif/services/mediaservice.h"
+#include "sdk/onvif/soap/soapclient.h"
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sdk::onvif {
+
+/// The profiles of one video source.
+struct MediaChannel
+{
+    std::string sourceToken = {};
+    std::string mainProfile = {}; ///< token; never empty
+    std::string subProfile = {};  ///< token; empty if the source has one profile only
+};
+
+/// Thread-safe. Operations on one device need no order: each is a request of its own.
+class OnvifSession
+{
+public:
+    using Deadline = SoapClient::Deadline;
+
+    /// Logs in. On failure `error` is set and the result is null. A device that has no administrator yet
+    /// takes no login: NotSupported.
+    [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service, const HttpLogin &login,
+                                                            const std::shared_ptr<HttpClient> &http,
+                                                            Deadline deadline, NetError &error);
+
+    OnvifSession(const ServiceAddress &service, std::unique_ptr<SoapClient> client);
+
+    [[nodiscard]] SoapClient &client() { return *m_client; }
+    [[nodiscard]] DeviceService device(Deadline deadline) { return {*m_client, m_service, deadline}; }
+
+    /// Nothing if the device has no such service.
+    [[nodiscard]] std::optional<MediaService> media(Deadline deadline);
+    [[nodiscard]] std::optional<ServiceAddress> imagingService() const { return m_imaging; }
+    [[nodiscard]] std::optional<ServiceAddress> deviceIoService() const { return m_deviceIo; }
+
+    [[nodiscard]] const ServiceAddress &service() const { return m_service; }
+    [[nodiscard]] const DeviceInformation &information() const { return m_information; }
+
+    /// The video sources in the order of the device, at most `maximumChannels`, as they were at the login.
+    static constexpr std::size_t maximumChannels = 1024;
+    [[nodiscard]] const std::vector<MediaChannel> &channels() const { return m_channels; }
+
+    /// The profiles as the device has them now.
+    [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles(Deadline deadline);
+
+    /// Ends every call.
+    void cancel() { m_client->http().cancel(); }
+
+private:
+    [[nodiscard]] NetError logIn(Deadline deadline);
+    [[nodiscard]] NetError confirmPassword(Deadline deadline);
+    void learnServices(Deadline deadline);
+    void learnChannels(Deadline deadline);
+
+    const ServiceAddress m_service;
+    const std::unique_ptr<SoapClient> m_client;
+    DeviceInformation m_information;
+    std::optional<ServiceAddress> m_media;
+    std::optional<ServiceAddress> m_media2;
+    std::optional<ServiceAddress> m_imaging;
+    std::optional<ServiceAddress> m_deviceIo;
+    std::vector<MediaChannel> m_channels;
+};
+
+/// The video sources of `profiles`: of each, the profile of the largest picture and the next one.
+[[nodiscard]] std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles);
+
+} // namespace sdk::onvif

@@ -1,0 +1,298 @@
+#include "sdk/onvif/soap/httpclient.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <filesystem>
+
+namespace sdk::onvif {
+
+namespace {
+
+constexpr std::chrono::milliseconds connectLimit{3000};
+constexpr long watchInterval = 20; // milliseconds between two looks at the cancellation
+constexpr std::size_t idleConnections = 8;
+constexpr std::size_t longestHeaders = 64 * 1024;
+
+struct HandleDeleter
+{
+    void operator()(CURL *handle) const { curl_easy_cleanup(handle); }
+};
+
+struct MultiHandleDeleter
+{
+    void operator()(CURLM *handle) const { curl_multi_cleanup(handle); }
+};
+
+struct ListDeleter
+{
+    void operator()(curl_slist *list) const { curl_slist_free_all(list); }
+};
+
+struct FileDeleter
+{
+    void operator()(std::FILE *file) const { std::fclose(file); }
+};
+
+HttpEnd endOf(CURLcode code, bool isConnected)
+{
+    switch (code) {
+    case CURLE_OK:
+        return HttpEnd::Answered;
+    case CURLE_ABORTED_BY_CALLBACK:
+        return HttpEnd::Cancelled;
+    case CURLE_COULDNT_CONNECT:
+        return HttpEnd::NotAccepted;
+    case CURLE_COULDNT_RESOLVE_HOST:
+        return HttpEnd::NotReached;
+    case CURLE_OPERATION_TIMEDOUT:
+        return isConnected ? HttpEnd::NoAnswer : HttpEnd::NotReached;
+    case CURLE_WRITE_ERROR:
+    case CURLE_FILESIZE_EXCEEDED:
+        return HttpEnd::TooLarge;
+    default:
+        return HttpEnd::Broken;
+    }
+}
+
+bool isDigestChallenge(std::string_view line)
+{
+    constexpr std::string_view start = "www-authenticate: digest";
+    return line.size() >= start.size() &&
+           std::equal(start.begin(), start.end(), line.begin(), [](char expected, char letter) {
+               return expected == static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+           });
+}
+
+long millisecondsUntil(std::chrono::steady_clock::time_point deadline)
+{
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+        deadline - std::chrono::steady_clock::now());
+    return static_cast<long>(left.count());
+}
+
+} // namespace
+
+/// A handle of libcurl with the connections that it keeps.
+struct HttpClient::Connection
+{
+    std::unique_ptr<CURLM, MultiHandleDeleter> multi{curl_multi_init()};
+    std::unique_ptr<CURL, HandleDeleter> easy{curl_easy_init()};
+    std::unique_ptr<curl_slist, ListDeleter> headers;
+    std::unique_ptr<std::FILE, FileDeleter> file;
+
+    [[nodiscard]] bool isUsable() const { return multi && easy; }
+
+    template<typename Value>
+    void set(CURLoption option, Value value)
+    {
+        // Fails only for want of memory; the exchange fails then, too.
+        curl_easy_setopt(easy.get(), option, value);
+    }
+
+    void addHeader(const std::string &header)
+    {
+        if (curl_slist *longer = curl_slist_append(headers.get(), header.c_str())) {
+            (void)headers.release();
+            headers.reset(longer);
+        }
+    }
+
+    CURLcode run(const std::atomic_bool &isCancelled)
+    {
+        int running = 1;
+        CURLMcode code = curl_multi_add_handle(multi.get(), easy.get());
+        while (code == CURLM_OK && running > 0 && !isCancelled) {
+            code = curl_multi_perform(multi.get(), &running);
+            if (code == CURLM_OK && running > 0)
+                code = curl_multi_poll(multi.get(), nullptr, 0, watchInterval, nullptr);
+        }
+        CURLcode result = running > 0 && isCancelled ? CURLE_ABORTED_BY_CALLBACK : CURLE_OUT_OF_MEMORY;
+        int left = 0;
+        while (const CURLMsg *message = curl_multi_info_read(multi.get(), &left)) {
+            if (message->msg == CURLMSG_DONE)
+                result = message->data.result;
+        }
+        curl_multi_remove_handle(multi.get(), easy.get());
+        return result;
+    }
+};
+
+/// What arrives during one exchange.
+struct HttpClient::Exchange
+{
+    HttpAnswer answer;
+    std::size_t headerLength = 0;
+    const std::function<void(std::int64_t)> *progress = nullptr;
+
+    static std::size_t takeHeader(const char *data, std::size_t size, std::size_t count, void *user)
+    {
+        auto *self = static_cast<Exchange *>(user);
+        const std::string_view line(data, size * count);
+        self->headerLength += line.size();
+        if (self->headerLength > longestHeaders)
+            return 0;
+        if (line.starts_with("HTTP/")) // the headers of the next answer: the one to the login follows a challenge
+            self->answer.offersDigest = false;
+        if (isDigestChallenge(line))
+            self->answer.offersDigest = true;
+        return line.size();
+    }
+
+    static std::size_t takeBody(const char *data, std::size_t size, std::size_t count, void *user)
+    {
+        auto *self = static_cast<Exchange *>(user);
+        const std::size_t length = size * count;
+        if (self->answer.body.size() + length > largestAnswer)
+            return 0;
+        self->answer.body.append(data, length);
+        return length;
+    }
+
+    static int takeProgress(void *user, curl_off_t, curl_off_t, curl_off_t, curl_off_t sent)
+    {
+        const auto *self = static_cast<Exchange *>(user);
+        (*self->progress)(sent);
+        return 0;
+    }
+};
+
+HttpClient::HttpClient()
+{
+    // Once for the process, and safe to repeat; it must have happened before handles are made by threads.
+    static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
+    (void)initialised;
+}
+
+HttpClient::~HttpClient() = default;
+
+void HttpClient::cancel()
+{
+    m_isCancelled = true;
+}
+
+std::unique_ptr<HttpClient::Connection> HttpClient::takeConnection()
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_idle.empty())
+        return std::make_unique<Connection>();
+    std::unique_ptr<Connection> connection = std::move(m_idle.back());
+    m_idle.pop_back();
+    return connection;
+}
+
+void HttpClient::giveBack(std::unique_ptr<Connection> connection)
+{
+    connection->headers.reset();
+    connection->file.reset();
+    const std::scoped_lock lock(m_mutex);
+    if (m_idle.size() < idleConnections)
+        m_idle.push_back(std::move(connection));
+}
+
+HttpAnswer HttpClient::post(const ServiceAddress &address, const std::string &body,
+                            const std::string &contentType, const HttpLogin *login,
+                            std::chrono::steady_clock::time_point deadline)
+{
+    std::unique_ptr<Connection> connection = takeConnection();
+    if (!connection->isUsable())
+        return {.end = HttpEnd::Broken};
+    curl_easy_reset(connection->easy.get());
+    connection->addHeader("Content-Type: " + contentType);
+    connection->addHeader("Expect:"); // small servers do not know "100-continue"
+    connection->set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
+    connection->set(CURLOPT_POSTFIELDS, body.c_str());
+    HttpAnswer answer = exchange(*connection, address, login, {}, deadline);
+    giveBack(std::move(connection));
+    return answer;
+}
+
+HttpAnswer HttpClient::get(const ServiceAddress &address, const HttpLogin *login,
+                           std::chrono::steady_clock::time_point deadline)
+{
+    std::unique_ptr<Connection> connection = takeConnection();
+    if (!connection->isUsable())
+        return {.end = HttpEnd::Broken};
+    curl_easy_reset(connection->easy.get());
+    connection->set(CURLOPT_HTTPGET, 1L);
+    HttpAnswer answer = exchange(*connection, address, login, {}, deadline);
+    giveBack(std::move(connection));
+    return answer;
+}
+
+HttpAnswer HttpClient::postFile(const ServiceAddress &address, const std::string &fileName,
+                                const HttpLogin *login, const std::function<void(std::int64_t)> &progress,
+                                std::chrono::steady_clock::time_point deadline)
+{
+    std::unique_ptr<Connection> connection = takeConnection();
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(fileName, error);
+    connection->file.reset(std::fopen(fileName.c_str(), "rb"));
+    if (!connection->isUsable() || !connection->file || error)
+        return {.end = HttpEnd::Broken};
+    curl_easy_reset(connection->easy.get());
+    connection->addHeader("Content-Type: application/octet-stream");
+    connection->addHeader("Expect:");
+    connection->set(CURLOPT_POST, 1L);
+    connection->set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(size));
+    connection->set(CURLOPT_READDATA, static_cast<void *>(connection->file.get()));
+    // Sends the file again from its beginning when the device asks for a login only at its end.
+    connection->set(CURLOPT_SEEKDATA, static_cast<void *>(connection->file.get()));
+    connection->set(CURLOPT_SEEKFUNCTION,
+                    static_cast<int (*)(void *, curl_off_t, int)>([](void *file, curl_off_t offset, int origin) {
+                        return std::fseek(static_cast<std::FILE *>(file), static_cast<long>(offset), origin) == 0
+                                   ? CURL_SEEKFUNC_OK
+                                   : CURL_SEEKFUNC_FAIL;
+                    }));
+    HttpAnswer answer = exchange(*connection, address, login, progress, deadline);
+    giveBack(std::move(connection));
+    return answer;
+}
+
+HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &address, const HttpLogin *login,
+                                const std::function<void(std::int64_t)> &progress,
+                                std::chrono::steady_clock::time_point deadline)
+{
+    const long left = millisecondsUntil(deadline);
+    if (left <= 0)
+        return {.end = HttpEnd::NoAnswer};
+    Exchange exchange;
+    exchange.progress = &progress;
+    const std::string url = address.url();
+    connection.set(CURLOPT_URL, url.c_str());
+    connection.set(CURLOPT_HTTPHEADER, connection.headers.get());
+#if LIBCURL_VERSION_NUM >= 0x075500
+    connection.set(CURLOPT_PROTOCOLS_STR, "http,https");
+#else
+    connection.set(CURLOPT_PROTOCOLS, static_cast<long>(CURLPROTO_HTTP | CURLPROTO_HTTPS));
+#endif
+    connection.set(CURLOPT_PROXY, ""); // a device of the local network is never behind the environment's proxy
+    connection.set(CURLOPT_NOSIGNAL, 1L); // the process has other threads
+    connection.set(CURLOPT_CONNECTTIMEOUT_MS, std::min(left, static_cast<long>(connectLimit.count())));
+    connection.set(CURLOPT_TIMEOUT_MS, left);
+    connection.set(CURLOPT_HEADERFUNCTION, &Exchange::takeHeader);
+    connection.set(CURLOPT_HEADERDATA, static_cast<void *>(&exchange));
+    connection.set(CURLOPT_WRITEFUNCTION, &Exchange::takeBody);
+    connection.set(CURLOPT_WRITEDATA, static_cast<void *>(&exchange));
+    if (login) {
+        // "Only" makes the library send the whole request first, and answer a challenge by nothing but Digest.
+        connection.set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_ONLY | CURLAUTH_DIGEST));
+        connection.set(CURLOPT_USERNAME, login->account.c_str());
+        connection.set(CURLOPT_PASSWORD, login->password.c_str());
+    }
+    if (progress) {
+        connection.set(CURLOPT_NOPROGRESS, 0L);
+        connection.set(CURLOPT_XFERINFOFUNCTION, &Exchange::takeProgress);
+        connection.set(CURLOPT_XFERINFODATA, static_cast<void *>(&exchange));
+    }
+    const CURLcode code = connection.run(m_isCancelled);
+    curl_off_t connectTime = 0;
+    curl_easy_getinfo(connection.easy.get(), CURLINFO_CONNECT_TIME_T, &connectTime);
+    curl_easy_getinfo(connection.easy.get(), CURLINFO_RESPONSE_CODE, &exchange.answer.status);
+    exchange.answer.end = endOf(code, connectTime > 0);
+    return std::move(exchange.answer);
+}
+
+} // namespace sdk::onvif

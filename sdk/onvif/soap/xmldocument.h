@@ -1,0 +1,74 @@
+// Reading of XML that comes from a device: by namespace, bounded in size and shape.
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sdk::onvif {
+
+/// An element of an XmlDocument, which must outlive it. Elements are found by the URI of their namespace,
+/// whatever prefix a device writes. An element that does not exist is empty: what is asked of it is empty
+/// too.
+class XmlElement
+{
+public:
+    XmlElement() = default;
+    explicit XmlElement(pugi::xml_node node) : m_node(node) {}
+
+    [[nodiscard]] bool exists() const { return static_cast<bool>(m_node); }
+    [[nodiscard]] bool is(std::string_view uri, std::string_view name) const;
+    /// Without its prefix.
+    [[nodiscard]] std::string_view name() const;
+
+    [[nodiscard]] XmlElement child(std::string_view uri, std::string_view name) const;
+    /// The child of the ONVIF schema's namespace, in which nearly all contents are.
+    [[nodiscard]] XmlElement child(std::string_view name) const;
+    [[nodiscard]] std::vector<XmlElement> children(std::string_view uri, std::string_view name) const;
+    [[nodiscard]] std::vector<XmlElement> children(std::string_view name) const;
+    [[nodiscard]] XmlElement firstChild() const;
+    /// What lies at the end of a path of children of the schema's namespace.
+    [[nodiscard]] XmlElement at(std::initializer_list<std::string_view> path) const;
+
+    /// The text without blanks at its ends.
+    [[nodiscard]] std::string_view text() const;
+    /// The text behind the prefix of a qualified name in the text: "NotAuthorized" of "ter:NotAuthorized".
+    [[nodiscard]] std::string_view localText() const;
+    /// Nothing if the text is not a whole number in the range of the type.
+    [[nodiscard]] std::optional<int> integer() const;
+    [[nodiscard]] std::optional<double> number() const;
+    /// "true" and "1" are true, "false" and "0" are false.
+    [[nodiscard]] std::optional<bool> boolean() const;
+    /// The attribute of that local name, empty if there is none.
+    [[nodiscard]] std::string_view attribute(std::string_view name) const;
+
+private:
+    [[nodiscard]] std::string_view uri() const;
+
+    pugi::xml_node m_node;
+};
+
+/// A whole document.
+class XmlDocument
+{
+public:
+    static constexpr std::size_t maximumSize = 4 * 1024 * 1024;
+    static constexpr int maximumDepth = 64;
+    static constexpr int maximumAttributes = 64; ///< of one element
+    static constexpr std::size_t maximumElements = 200'000;
+
+    /// Nothing if the text is no XML, is larger or deeper than the bounds, or contains a document type. A
+    /// document type could define entities that multiply; SOAP forbids it.
+    [[nodiscard]] static std::optional<XmlDocument> read(std::string_view text);
+
+    [[nodiscard]] XmlElement root() const { return XmlElement(m_document.document_element()); }
+
+private:
+    pugi::xml_document m_document;
+};
+
+} // namespace sdk::onvif
