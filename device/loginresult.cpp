@@ -49,6 +49,10 @@ QString ResultNames::of(int code)
         return tr("设备正在升级");
     case resultCode(LoginResult::NotDone):
         return tr("未执行");
+    case resultCode(LoginResult::SessionEnded):
+        return tr("登录已失效，请重新登录");
+    case resultCode(LoginResult::InvalidValue):
+        return tr("设备不接受该值");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
     case upgradeFileUnusable:
@@ -92,6 +96,12 @@ LoginResult loginResultOf(std::uint32_t libraryError)
         return LoginResult::AccountLocked;
     case sdk::NetError::NotSupported:
         return LoginResult::NotSupported;
+    case sdk::NetError::SessionEnded:
+        return LoginResult::SessionEnded;
+    case sdk::NetError::InvalidValue:
+        return LoginResult::InvalidValue;
+    case sdk::NetError::Refused:
+        return LoginResult::Refused;
     default:
         return LoginResult::NetworkFailure;
     }

@@ -21,6 +21,9 @@ enum class LoginResult : int
     AlreadyListed = 13,
     Upgrading = 14, ///< nothing was asked: the device's firmware is being upgraded
     NotDone = 15,   ///< nothing was asked: the batch ended before it came to the device
+    SessionEnded = 16, ///< the device no longer accepts the login that the request was sent with
+    InvalidValue = 17, ///< the device does not take a value of the request
+    Refused = 999,     ///< the device has understood the request and does not fulfil it
 };
 
 /// The result for a failed operation of the network library, whose last error is `libraryError`, with or
@@ -48,7 +51,7 @@ inline constexpr int deviceBusy = 995;
 inline constexpr int snapshotFailed = 996;
 
 /// The result of a request that the device has understood and does not fulfil.
-inline constexpr int refusedByDevice = 999;
+inline constexpr int refusedByDevice = resultCode(LoginResult::Refused);
 
 /// What a result code means, in the user's language. Codes that nobody has given a meaning are named by
 /// number.

@@ -246,6 +246,30 @@ struct ValueRange
 };
 static_assert(sizeof(ValueRange) == 8);
 
+/// Single values of a group that a camera may lack. Bits of CameraCapabilities::missingValues.
+enum class CameraValue : std::uint32_t
+{
+    Brightness = 0,
+    Contrast,
+    Saturation,
+    Hue,
+    Gamma,
+    ColorStyle,
+    AntiFlicker,
+    ShutterTimes,
+    Gain,
+    Compensation,
+    IrisAutomatic,
+    NoiseReduction,
+    WideDynamicLevel,
+    GlareInhibition,
+    BacklightRegion,
+    WhiteBalanceGains,
+    DayNightSensitivity,
+    DayNightDelay,
+    DefogIntensity,
+};
+
 /// Output of CapabilityQuery::Camera. In a mask bit N says that the camera knows value N.
 struct CameraCapabilities
 {
@@ -262,7 +286,7 @@ struct CameraCapabilities
     std::uint32_t defogMask;
     std::uint32_t lightControlMask;
     std::uint32_t mixedLightMask;
-    std::uint32_t reserved1;
+    std::uint32_t missingValues; ///< CameraValue: bit N says that the camera lacks the value; 0 for none
     ValueRange picture; ///< brightness, contrast, saturation, hue, gamma
     ValueRange sharpness;
     ValueRange gain;

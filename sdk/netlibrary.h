@@ -6,6 +6,7 @@
 #include "sdk/encodeblocks.h"
 #include "sdk/loginblocks.h"
 #include "sdk/neterror.h"
+#include "sdk/providerblocks.h"
 #include "sdk/searchblocks.h"
 #include "sdk/streamblocks.h"
 #include "sdk/systemblocks.h"
@@ -53,6 +54,9 @@ public:
 
     /// Error code of the last failed operation of the calling thread, 0 when none has failed.
     [[nodiscard]] virtual std::uint32_t NetGetLastError() const = 0;
+
+    /// What this library is. May be called before NetInit; sends nothing.
+    virtual void NetGetProviderInformation(ProviderInformation &information) const = 0;
 
     /// Starts a search of the local segment and returns at once. Answers reach `parameter.handler` on threads
     /// of the library until NetStopSearchDevices. `wait` bounds the sending of the request. Returns the

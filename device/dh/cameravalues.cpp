@@ -4,6 +4,8 @@
 
 #include <QHash>
 
+#include <array>
+
 namespace {
 
 using Group = sdk::CameraGroup;
@@ -245,6 +247,61 @@ const QHash<QString, ValueOf> &values()
     return table;
 }
 
+/// Settings of groups that a camera may lack, by the keys of the values.
+struct LackableSetting
+{
+    QLatin1StringView group;
+    QLatin1StringView setting;
+    sdk::CameraValue value;
+};
+
+constexpr std::array lackableSettings = {
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("colorStyle"), sdk::CameraValue::ColorStyle},
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("brightnessSlider"),
+                    sdk::CameraValue::Brightness},
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("contrastSlider"),
+                    sdk::CameraValue::Contrast},
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("saturationSlider"),
+                    sdk::CameraValue::Saturation},
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("hue"), sdk::CameraValue::Hue},
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("gamma"), sdk::CameraValue::Gamma},
+    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("antiFlicker"),
+                    sdk::CameraValue::AntiFlicker},
+    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("shutter"), sdk::CameraValue::ShutterTimes},
+    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("gain"), sdk::CameraValue::Gain},
+    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("Compensation"),
+                    sdk::CameraValue::Compensation},
+    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("irisAuto"),
+                    sdk::CameraValue::IrisAutomatic},
+    LackableSetting{QLatin1StringView("backMode"), QLatin1StringView("backlightmode"),
+                    sdk::CameraValue::BacklightRegion},
+    LackableSetting{QLatin1StringView("backMode"), QLatin1StringView("WideDynamic"),
+                    sdk::CameraValue::WideDynamicLevel},
+    LackableSetting{QLatin1StringView("backMode"), QLatin1StringView("GlareInhibition"),
+                    sdk::CameraValue::GlareInhibition},
+    LackableSetting{QLatin1StringView("whiteBalance"), QLatin1StringView("GainBlue"),
+                    sdk::CameraValue::WhiteBalanceGains},
+    LackableSetting{QLatin1StringView("whiteBalance"), QLatin1StringView("GainRed"),
+                    sdk::CameraValue::WhiteBalanceGains},
+    LackableSetting{QLatin1StringView("dayNight"), QLatin1StringView("Sensitivity"),
+                    sdk::CameraValue::DayNightSensitivity},
+    LackableSetting{QLatin1StringView("dayNight"), QLatin1StringView("SwitchDelay"),
+                    sdk::CameraValue::DayNightDelay},
+    LackableSetting{QLatin1StringView("inDefog"), QLatin1StringView("Intensity"),
+                    sdk::CameraValue::DefogIntensity},
+};
+
+/// The settings of a group that the camera lacks.
+QStringList missingSettings(const QString &group, std::uint32_t missingValues)
+{
+    QStringList missing;
+    for (const LackableSetting &lackable : lackableSettings) {
+        if (lackable.group == group && (missingValues >> static_cast<std::uint32_t>(lackable.value) & 1) != 0)
+            missing.append(lackable.setting);
+    }
+    return missing;
+}
+
 } // namespace
 
 CameraLists::CameraLists(const ValueTables &tables, const sdk::CameraCapabilities &capabilities)
@@ -269,5 +326,13 @@ sdk::ValueRange usableRange(sdk::ValueRange told)
 QVariant cameraValue(const QString &key, const CameraState &state, const ValueTables &tables)
 {
     const ValueOf valueOf = values().value(key, nullptr);
-    return valueOf ? valueOf(state, CameraLists(tables, state.capabilities)) : QVariant();
+    if (!valueOf)
+        return {};
+    const QVariant value = valueOf(state, CameraLists(tables, state.capabilities));
+    const QStringList missing = missingSettings(key, state.capabilities.missingValues);
+    if (missing.isEmpty())
+        return value;
+    QVariantMap map = value.toMap();
+    map.insert(QStringLiteral("missing"), missing);
+    return map;
 }

@@ -285,6 +285,9 @@ private:
     int checkPassword(const QString &ipport, const QString &account, const QString &password);
     int modifyPassword(const QString &ipport, const QString &newPassword);
 
+    /// What the network library can do at all: getConfigData("library").
+    [[nodiscard]] QVariantMap libraryValues() const;
+
     /// Of the device's row; the default account for what the row does not have.
     [[nodiscard]] Credentials credentialsOf(const QString &ipport) const;
     [[nodiscard]] Credentials credentialsOf(const QJsonObject &row) const;

@@ -51,7 +51,24 @@ QVariant CDeviceDH::getConfigData(const QString &key, const QVariant &channel)
         return QVariant::fromValue<qint64>(m_loginHandle);
     if (key == QLatin1String("sessionDevice"))
         return m_session.ipport;
+    if (key == QLatin1String("library"))
+        return libraryValues();
     return SessionRun(*m_state, {}).getConfigData(key, channel);
+}
+
+QVariantMap CDeviceDH::libraryValues() const
+{
+    sdk::ProviderInformation information{};
+    information.size = sizeof(information);
+    if (m_libraries.net)
+        m_libraries.net->NetGetProviderInformation(information);
+    const auto has = [&information](sdk::ProviderFunction function) {
+        return (information.missingFunctions >> static_cast<std::uint32_t>(function) & 1) == 0;
+    };
+    return {{QStringLiteral("defaultPort"), information.defaultPort},
+            {QStringLiteral("videoStandard"), has(sdk::ProviderFunction::VideoStandard)},
+            {QStringLiteral("automaticMaintenance"), has(sdk::ProviderFunction::AutomaticMaintenance)},
+            {QStringLiteral("timeServerDetails"), has(sdk::ProviderFunction::TimeServerDetails)}};
 }
 
 void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const QString &otype)

@@ -34,6 +34,15 @@ bool changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString 
     return fits && !newPassword.isEmpty() && net.NetModifyPassword(login.loginHandle, input, passwordWait);
 }
 
+/// Why a device has refused a request, where it says more than that it did; empty otherwise.
+QString reasonOf(std::uint32_t libraryError)
+{
+    const LoginResult result = loginResultOf(libraryError);
+    const bool saysMore = result == LoginResult::NotSupported || result == LoginResult::InvalidValue ||
+                          result == LoginResult::SessionEnded;
+    return saysMore ? resultName(resultCode(result)) : QString();
+}
+
 } // namespace
 
 void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
@@ -102,6 +111,8 @@ StepOutcome CDeviceDH::performOn(const QString &ipport, const Credentials &crede
         outcome.isUnanswered = action && !isDone && isDeviceAway(m_libraries.net->NetGetLastError());
         if (outcome.isUnanswered)
             outcome.text = tr("设备没有应答");
+        else if (action && !isDone)
+            outcome.text = reasonOf(m_libraries.net->NetGetLastError());
     }
     m_libraries.net->NetLogout(login.handle);
     return outcome;

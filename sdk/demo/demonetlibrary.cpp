@@ -76,6 +76,12 @@ void DemoNetLibrary::endEverything()
     searches.swap(m_searches);
 }
 
+void DemoNetLibrary::NetGetProviderInformation(ProviderInformation &information) const
+{
+    constexpr std::int32_t servicePort = 37777;
+    information = {.size = sizeof(information), .defaultPort = servicePort, .missingFunctions = 0, .reserved = 0};
+}
+
 std::uint32_t DemoNetLibrary::NetGetLastError() const
 {
     return m_error.last();

@@ -41,6 +41,7 @@ public:
     bool NetInit() override;
     void NetCleanup() override;
     [[nodiscard]] std::uint32_t NetGetLastError() const override;
+    void NetGetProviderInformation(ProviderInformation &information) const override;
 
     // Searches
     std::int64_t NetStartSearchDevices(const SearchParameter &parameter,

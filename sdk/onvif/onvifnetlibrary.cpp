@@ -46,6 +46,19 @@ std::uint32_t OnvifNetLibrary::NetGetLastError() const
     return m_error.last();
 }
 
+void OnvifNetLibrary::NetGetProviderInformation(ProviderInformation &information) const
+{
+    constexpr auto bit = [](ProviderFunction function) {
+        return 1U << static_cast<std::uint32_t>(function);
+    };
+    information = {.size = sizeof(information),
+                   .defaultPort = httpPort,
+                   .missingFunctions = bit(ProviderFunction::VideoStandard) |
+                                       bit(ProviderFunction::AutomaticMaintenance) |
+                                       bit(ProviderFunction::TimeServerDetails),
+                   .reserved = 0};
+}
+
 std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &parameter, std::chrono::milliseconds)
 {
     const CallGate::Call call(m_gate);

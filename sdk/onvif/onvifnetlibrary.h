@@ -28,6 +28,7 @@ public:
     bool NetInit() override;
     void NetCleanup() override;
     [[nodiscard]] std::uint32_t NetGetLastError() const override;
+    void NetGetProviderInformation(ProviderInformation &information) const override;
 
     std::int64_t NetStartSearchDevices(const SearchParameter &parameter, std::chrono::milliseconds wait) override;
     std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,

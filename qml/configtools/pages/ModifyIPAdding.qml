@@ -76,6 +76,7 @@ Item {
         visible: false
         sourceComponent: AddDeviceDialog {
             id: dialog
+            defaultPort: root.deviceFactory.getConfigData("dh", "library", 0).defaultPort
             onAboutToHide: deviceAdding.cancel()
             onConfirmed: (device, isFavourite) => root.tryDevice(dialog, device, isFavourite)
             onRefused: message => root.said(message, OVToast.Error)

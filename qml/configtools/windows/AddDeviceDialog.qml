@@ -7,6 +7,7 @@ OVDialog {
     id: root
 
     property int mode: DeviceAdding.IP
+    required property int defaultPort
     readonly property bool p2p: mode === DeviceAdding.P2P
     signal refused(string message)
     signal confirmed(var device, bool isFavourite)
@@ -21,7 +22,7 @@ OVDialog {
         idField.text = "";
         accountField.text = "admin";
         passwordField.text = "";
-        portField.text = "37777";
+        portField.text = defaultPort;
         favouriteBox.checked = false;
         noteField.text = "";
         forget();

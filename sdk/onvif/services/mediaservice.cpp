@@ -102,8 +102,10 @@ MediaProfile MediaService::readProfile(const XmlElement &element) const
     const auto part = [&](std::string_view second, std::string_view first) {
         return isSecond ? parts.child(ns::media2, second) : parts.child(first);
     };
-    profile.sourceToken =
-        textOf(part("VideoSource", "VideoSourceConfiguration").child("SourceToken").text());
+    const XmlElement source = part("VideoSource", "VideoSourceConfiguration");
+    profile.sourceToken = textOf(source.child("SourceToken").text());
+    profile.sourceConfiguration = textOf(source.attribute("token"));
+    profile.sourceName = textOf(source.child("Name").text());
     if (const XmlElement video = part("VideoEncoder", "VideoEncoderConfiguration"); video.exists())
         profile.video = readVideoEncoder(video);
     if (const XmlElement audio = part("AudioEncoder", "AudioEncoderConfiguration"); audio.exists())

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace sdk::onvif {
@@ -39,6 +40,8 @@ struct MediaProfile
     std::string token = {};
     std::string name = {};
     std::string sourceToken = {}; ///< of the video source, empty for a profile without video
+    std::string sourceConfiguration = {}; ///< token of the source's settings
+    std::string sourceName = {};          ///< the name of these settings, which users give
     std::optional<VideoEncoder> video = {};
     std::optional<AudioEncoder> audio = {};
 };
@@ -48,6 +51,30 @@ enum class MediaVersion
 {
     First,
     Second, ///< has everything that the first has, and H.265
+};
+
+/// What a video encoder can do with one encoding. Numbers that the device does not give are 0.
+struct VideoEncodingOptions
+{
+    std::string encoding = {};
+    std::vector<std::pair<int, int>> sizes = {}; ///< width, height
+    int minimumBitRate = 0;                      ///< kbit/s
+    int maximumBitRate = 0;
+    double maximumFrameRate = 0;
+    int minimumKeyInterval = 0;
+    int maximumKeyInterval = 0;
+    double minimumQuality = 0;
+    double maximumQuality = 0;
+    std::vector<std::string> profiles = {};
+    bool offersConstantBitRate = false;
+};
+
+/// What an audio encoder can do with one encoding.
+struct AudioEncodingOptions
+{
+    std::string encoding = {};
+    std::vector<int> bitRates = {};    ///< kbit/s
+    std::vector<int> sampleRates = {}; ///< kHz
 };
 
 /// Operations of a media service. Used by one thread; the client may serve several.
@@ -70,6 +97,20 @@ public:
     /// The stream goes on with a picture that needs no earlier one.
     [[nodiscard]] ServiceOutcome requestKeyPicture(const std::string &profileToken);
 
+    // Encoders. `profileToken` is the profile that the encoder belongs to.
+
+    [[nodiscard]] ServiceResult<std::vector<VideoEncodingOptions>> videoOptions(const std::string &encoderToken,
+                                                                                const std::string &profileToken);
+    [[nodiscard]] ServiceResult<std::vector<AudioEncodingOptions>> audioOptions(const std::string &encoderToken,
+                                                                                const std::string &profileToken);
+
+    /// Reads the encoder's settings, changes those that differ from `encoder`, and writes them back; what the
+    /// device has beside them stays.
+    [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
+    [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);
+
+    [[nodiscard]] ServiceOutcome setSourceName(const std::string &configurationToken, const std::string &name);
+
     [[nodiscard]] MediaVersion version() const { return m_version; }
 
 private:
@@ -77,6 +118,10 @@ private:
     [[nodiscard]] SoapRequest request(std::string_view operation) const;
     [[nodiscard]] SoapAnswer call(const SoapRequest &request);
     [[nodiscard]] MediaProfile readProfile(const XmlElement &element) const;
+    [[nodiscard]] SoapAnswer readConfiguration(std::string_view kind, const std::string &token,
+                                               XmlElement &configuration);
+    [[nodiscard]] SoapAnswer readOptions(std::string_view operation, const std::string &encoderToken,
+                                         const std::string &profileToken);
 
     SoapClient &m_client;
     const ServiceAddress &m_address;

@@ -102,7 +102,35 @@ pugi::xml_node appendBoolean(pugi::xml_node parent, std::string_view name, bool 
 
 void setAttribute(pugi::xml_node element, std::string_view name, std::string_view value)
 {
-    element.append_attribute(std::string(name).c_str()).set_value(std::string(value).c_str());
+    const std::string attributeName(name);
+    pugi::xml_attribute attribute = element.attribute(attributeName.c_str());
+    if (!attribute)
+        attribute = element.append_attribute(attributeName.c_str());
+    attribute.set_value(std::string(value).c_str());
+}
+
+pugi::xml_node appendCopy(pugi::xml_node parent, std::string_view name, const XmlElement &element)
+{
+    pugi::xml_node copy = append(parent, name, element.firstChild().exists() ? std::string_view() : element.text());
+    for (const pugi::xml_attribute &attribute : element.node().attributes()) {
+        const std::string_view attributeName = attribute.name();
+        if (attributeName.find(':') == std::string_view::npos && attributeName != "xmlns")
+            setAttribute(copy, attributeName, attribute.value());
+    }
+    for (const pugi::xml_node &child : element.node().children()) {
+        const XmlElement inner(child);
+        if (child.type() == pugi::node_element && inner.uri() == ns::schema)
+            appendCopy(copy, "tt:" + std::string(inner.name()), inner);
+    }
+    return copy;
+}
+
+bool setChild(pugi::xml_node parent, std::string_view name, std::string_view text)
+{
+    pugi::xml_node child = parent.child(("tt:" + std::string(name)).c_str());
+    if (child)
+        child.text().set(std::string(text).c_str());
+    return static_cast<bool>(child);
 }
 
 } // namespace sdk::onvif

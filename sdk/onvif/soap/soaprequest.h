@@ -1,6 +1,8 @@
 // Building of requests.
 #pragma once
 
+#include "sdk/onvif/soap/xmldocument.h"
+
 #include <pugixml.hpp>
 
 #include <string>
@@ -35,6 +37,15 @@ pugi::xml_node append(pugi::xml_node parent, std::string_view name, std::string_
 pugi::xml_node append(pugi::xml_node parent, std::string_view name, int number);
 pugi::xml_node append(pugi::xml_node parent, std::string_view name, double number);
 pugi::xml_node appendBoolean(pugi::xml_node parent, std::string_view name, bool value);
+/// Sets an attribute, in the place of one of that name.
 void setAttribute(pugi::xml_node element, std::string_view name, std::string_view value);
+
+/// Appends what a device has sent as `name`: its attributes and its content, as far as it belongs to the
+/// schema. What a device adds in namespaces of its own is left out; so a request stays valid.
+pugi::xml_node appendCopy(pugi::xml_node parent, std::string_view name, const XmlElement &element);
+
+/// Sets the text of the child `name` (of the schema, with the prefix "tt:"), if there is one. Returns whether
+/// there is.
+bool setChild(pugi::xml_node parent, std::string_view name, std::string_view text);
 
 } // namespace sdk::onvif

@@ -46,9 +46,11 @@ public:
     /// The attribute of that local name, empty if there is none.
     [[nodiscard]] std::string_view attribute(std::string_view name) const;
 
-private:
+    /// For copying. Names in it carry the device's prefixes.
+    [[nodiscard]] pugi::xml_node node() const { return m_node; }
     [[nodiscard]] std::string_view uri() const;
 
+private:
     pugi::xml_node m_node;
 };
 

@@ -12,6 +12,7 @@ OVFormRow {
     property var numbers: []  // what the choices stand for, where they are no run of numbers
 
     labelWidth: Theme.imageLabelWidth
+    visible: group.offers(subKey)
     width: parent?.width ?? 0
 
     OVChoice {

@@ -35,6 +35,7 @@ Column {
             width: parent.width
             label: qsTr("增益")
             labelWidth: Theme.imageLabelWidth
+            visible: exposure.offers("gain")
 
             ImageNumber {
                 accessibleName: qsTr("增益")
@@ -48,6 +49,7 @@ Column {
             width: parent.width
             label: qsTr("增益范围")
             labelWidth: Theme.imageLabelWidth
+            visible: exposure.offers("gain")
 
             Row {
                 spacing: Theme.unit
@@ -118,7 +120,7 @@ Column {
         }
         ImageRegion {
             group: backMode
-            visible: backMode.number("backlightmode") === 1
+            visible: backMode.offers("backlightmode") && backMode.number("backlightmode") === 1
         }
         ImageSlider {
             group: backMode

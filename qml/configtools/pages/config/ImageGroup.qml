@@ -22,6 +22,11 @@ OVSection {
         return values[name] ?? [];
     }
 
+    /// Whether the camera has the setting.
+    function offers(setting) {
+        return !list("missing").includes(setting);
+    }
+
     function least(subKey) {
         return values.ranges?.[subKey]?.min ?? 0;
     }

@@ -37,6 +37,7 @@ Column {
     }
 
     spacing: Theme.controlGap
+    visible: group.offers("shutter")
     width: parent?.width ?? 0
     onLongestChanged: follow()
     onShortestChanged: follow()

@@ -10,6 +10,7 @@ OVFormRow {
     property bool asNumber: false  // the device knows it as 0 and 1
 
     labelWidth: Theme.imageLabelWidth
+    visible: group.offers(subKey)
     width: parent?.width ?? 0
 
     OVSwitch {

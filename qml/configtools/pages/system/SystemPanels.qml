@@ -13,6 +13,9 @@ Rectangle {
     required property var deviceFactory
     required property SystemPasswordTime passwordTime
     property int currentPanel: 0
+
+    // What the network library can do at all.
+    readonly property var functions: deviceFactory.getConfigData("dh", "library", 0)
     signal actionRequested(string command, string title, var data)
     signal rebootRequested
     signal resetRequested
@@ -77,6 +80,7 @@ Rectangle {
                 width: stack.width
                 available: root.available
                 deviceFactory: root.deviceFactory
+                hasServerDetails: root.functions.timeServerDetails
                 timeZone: root.timeZone
                 onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 onRefused: message => root.refused(message)
@@ -85,6 +89,7 @@ Rectangle {
             SystemRebootPanel {
                 width: stack.width
                 available: root.available
+                hasMaintenance: root.functions.automaticMaintenance
                 onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 upgradingCount: root.upgradingCount
                 onRebootRequested: root.rebootRequested()
@@ -112,6 +117,7 @@ Rectangle {
             SystemVideoPanel {
                 width: stack.width
                 available: root.available
+                supported: root.functions.videoStandard
                 onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 visible: root.currentPanel === 5
             }

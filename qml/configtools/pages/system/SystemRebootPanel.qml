@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property bool hasMaintenance
     required property int upgradingCount  // of the ticked devices
     signal actionRequested(string command, string title, var data)
     signal rebootRequested
@@ -20,6 +21,7 @@ Column {
     OVSection {
         width: parent.width
         title: qsTr("自动维护")
+        visible: root.hasMaintenance
 
         OVCheckBox {
             id: autoBox

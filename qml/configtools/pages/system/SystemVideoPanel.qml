@@ -6,6 +6,7 @@ OVSection {
     id: root
 
     required property bool available
+    required property bool supported
     signal actionRequested(string command, string title, var data)
 
     title: qsTr("视频制式")
@@ -18,6 +19,7 @@ OVSection {
         OVComboBox {
             id: standardBox
             accessibleName: qsTr("制式")
+            enabled: root.supported
             model: ["PAL", "NTSC"]
             objectName: "videoStandardBox"
         }
@@ -33,11 +35,11 @@ OVSection {
         x: Theme.panelLabelWidth + Theme.unit
 
         OVButton {
-            enabled: root.available
+            enabled: root.available && root.supported
             kind: OVButton.Primary
             objectName: "videoStandardButton"
             text: qsTr("应用")
-            toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+            toolTip: !root.supported ? qsTr("设备的接口没有此功能") : root.available ? "" : qsTr("请先在左侧勾选设备")
             onClicked: {
                 const standard = standardBox.currentIndex + 1;
                 root.actionRequested("videoStandard", root.title, {videoStandard: standard});

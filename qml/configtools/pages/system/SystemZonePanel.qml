@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property bool hasServerDetails  // the port and the period can be set
     required property string timeZone
     required property var deviceFactory
     signal actionRequested(string command, string title, var data)
@@ -79,6 +80,7 @@ Column {
         }
         Row {
             spacing: Theme.pageMargin
+            visible: root.hasServerDetails
 
             OVFormRow {
                 width: Theme.panelLabelWidth + Theme.unit + Theme.choiceWidth

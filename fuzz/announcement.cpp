@@ -1,0 +1,25 @@
+#include "fuzz/input.h"
+#include "sdk/onvif/discovery/founddevice.h"
+#include "sdk/onvif/discovery/probemessage.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    fuzz::beQuiet();
+    const std::string_view datagram(reinterpret_cast<const char *>(data), size);
+    const std::string address = "192.0.2.7";
+    const auto announcements = sdk::onvif::readAnnouncements(datagram);
+    if (announcements.size() > sdk::onvif::maximumMatches)
+        qFatal("more devices than the limit");
+    for (const sdk::onvif::DeviceAnnouncement &announcement : announcements) {
+        sdk::onvif::FoundDevice device;
+        device.address = address;
+        device.announcement = announcement;
+        device.service = sdk::onvif::serviceOf(announcement, address);
+        if (device.service.host != address)
+            qFatal("a device is asked at an address that it has not answered from");
+        if (device.service.port < 1 || device.service.port > 65535)
+            qFatal("a port that is none");
+        static_cast<void>(sdk::onvif::searchAnswerOf(device));
+    }
+    return 0;
+}

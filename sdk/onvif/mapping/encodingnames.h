@@ -1,0 +1,23 @@
+// Numbers of codecs and formats, and their names in the standard.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace sdk::onvif {
+
+/// The compression code of an encoding ("H264"); -1 for one without a code.
+[[nodiscard]] int compressionOf(std::string_view encoding);
+/// The encoding of a compression code; empty for one that the standard does not have.
+[[nodiscard]] std::string encodingOf(int compression);
+
+/// 1 to 4 for the profiles of H.264; 0 for any other text.
+[[nodiscard]] int profileNumber(std::string_view profile);
+[[nodiscard]] std::string profileName(int number);
+
+/// The audio format as configurations number it, and as capabilities do; 0 for an encoding without a number.
+[[nodiscard]] int audioFormatOf(std::string_view encoding);
+[[nodiscard]] int audioCapabilityOf(std::string_view encoding);
+
+} // namespace sdk::onvif

@@ -1,0 +1,26 @@
+// What a provider of the network library is, before any device is asked.
+#pragma once
+
+#include <cstdint>
+
+namespace sdk {
+
+/// Functions that a provider may lack for every device. Bits of ProviderInformation::missingFunctions.
+enum class ProviderFunction : std::uint32_t
+{
+    VideoStandard = 0,   ///< VideoStandardItem
+    AutomaticMaintenance, ///< the configuration "AutoMaintain"
+    TimeServerDetails,   ///< the port of the time server, and the period of its requests
+};
+
+/// Filled by NetGetProviderInformation.
+struct ProviderInformation
+{
+    std::uint32_t size;       ///< sizeof(ProviderInformation), set by the caller
+    std::int32_t defaultPort; ///< of a device's service
+    std::uint32_t missingFunctions;
+    std::uint32_t reserved;
+};
+static_assert(sizeof(ProviderInformation) == 16);
+
+} // namespace sdk
