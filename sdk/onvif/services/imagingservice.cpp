@@ -59,13 +59,16 @@ std::optional<WhiteBalanceSettings> readWhiteBalance(const XmlElement &element)
                                 .blueGain = element.child("CbGain").number()};
 }
 
-// Later versions of the standard have added settings in extensions of extensions.
-constexpr std::initializer_list<std::string_view> secondExtension = {"Extension", "Extension", "Extension"};
+/// Later versions of the standard have added settings in extensions of extensions.
+XmlElement lateExtension(const XmlElement &element)
+{
+    return element.at({"Extension", "Extension", "Extension"});
+}
 
 ImagingSettings readSettings(const XmlElement &response)
 {
     const XmlElement element = response.child(ns::imaging, "ImagingSettings");
-    const XmlElement later = element.at(secondExtension);
+    const XmlElement later = lateExtension(element);
     ImagingSettings settings;
     settings.brightness = element.child("Brightness").number();
     settings.contrast = element.child("Contrast").number();
@@ -86,7 +89,7 @@ ImagingOptions readOptions(const XmlElement &response)
 {
     const XmlElement element = response.child(ns::imaging, "ImagingOptions");
     const XmlElement exposure = element.child("Exposure");
-    const XmlElement later = element.at(secondExtension);
+    const XmlElement later = lateExtension(element);
     ImagingOptions options;
     options.brightness = readRange(element.child("Brightness"));
     options.contrast = readRange(element.child("Contrast"));

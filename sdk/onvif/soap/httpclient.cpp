@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 
@@ -36,7 +37,8 @@ struct FileDeleter
     void operator()(std::FILE *file) const { std::fclose(file); }
 };
 
-HttpEnd endOf(CURLcode code, bool isConnected)
+/// `systemError` is that of the failed connection.
+HttpEnd endOf(CURLcode code, bool isConnected, long systemError)
 {
     switch (code) {
     case CURLE_OK:
@@ -44,7 +46,7 @@ HttpEnd endOf(CURLcode code, bool isConnected)
     case CURLE_ABORTED_BY_CALLBACK:
         return HttpEnd::Cancelled;
     case CURLE_COULDNT_CONNECT:
-        return HttpEnd::NotAccepted;
+        return systemError == ECONNREFUSED ? HttpEnd::NotAccepted : HttpEnd::NotReached;
     case CURLE_COULDNT_RESOLVE_HOST:
         return HttpEnd::NotReached;
     case CURLE_OPERATION_TIMEDOUT:
@@ -291,7 +293,9 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
     curl_off_t connectTime = 0;
     curl_easy_getinfo(connection.easy.get(), CURLINFO_CONNECT_TIME_T, &connectTime);
     curl_easy_getinfo(connection.easy.get(), CURLINFO_RESPONSE_CODE, &exchange.answer.status);
-    exchange.answer.end = endOf(code, connectTime > 0);
+    long systemError = 0;
+    curl_easy_getinfo(connection.easy.get(), CURLINFO_OS_ERRNO, &systemError);
+    exchange.answer.end = endOf(code, connectTime > 0, systemError);
     return std::move(exchange.answer);
 }
 
