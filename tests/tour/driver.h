@@ -18,6 +18,7 @@ public:
     Driver(QQuickWindow *window, QString pictureFolder);
 
     [[nodiscard]] QQuickWindow *window() const { return m_window; }
+    [[nodiscard]] const QString &pictureFolder() const { return m_pictureFolder; }
 
     /// Makes the window the active one, which gets the keys.
     void activate() const;

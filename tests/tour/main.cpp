@@ -1,4 +1,5 @@
-// ConfigTools LANGUAGE FOLDER: plays the tour in a language and saves its pictures in a folder.
+// ConfigTools LANGUAGE FOLDER [lab]: plays the tour in a language and saves its pictures in a folder. With "lab" it
+// plays the main job on the devices of the network that it runs in (scripts/lab), without the simulated site.
 //
 // Several processes take part: one that watches, the program that is driven, a second start of it beside the
 // first, and the one that the program starts in its place when its language was changed.
@@ -150,6 +151,13 @@ void driveFleet(Driver &driver, sdk::demo::DemoSite &site, const QString &folder
     driver.click(u"closeButton"_s);
 }
 
+void driveLab(Driver &driver)
+{
+    walkLab(driver);
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
+}
+
 /// The program after its restart: it has another language, and closes as any program does. Returns what it
 /// saw.
 QByteArray driveRestarted(Driver &driver, const QString &language, const QString &folder)
@@ -171,7 +179,11 @@ QByteArray driveRestarted(Driver &driver, const QString &language, const QString
 int runProgram(const QString &language, const QString &folder, QByteArray &result)
 {
     const bool isFleet = qgetenv(stageVariable) == "fleet";
-    Shell shell(CommandLine::parse({u"ConfigTools"_s, isFleet ? u"--demo=fleet:200"_s : u"--demo"_s}));
+    const bool isLab = qgetenv(stageVariable) == "lab";
+    QStringList arguments = {u"ConfigTools"_s};
+    if (!isLab)
+        arguments.append(isFleet ? u"--demo=fleet:200"_s : u"--demo"_s);
+    Shell shell(CommandLine::parse(arguments));
     if (const std::optional<int> exitCode = shell.begin())
         return *exitCode;
     auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
@@ -181,6 +193,10 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
     }
     Driver driver(window, folder);
     QTimer::singleShot(0, window, [&] {
+        if (isLab) {
+            driveLab(driver);
+            return;
+        }
         auto &site = dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site();
         if (isFleet)
             driveFleet(driver, site, folder);
@@ -200,13 +216,16 @@ int main(int argc, char *argv[])
     Shell::prepareApplication();
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3) {
-        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER\n";
+    const bool isLab = arguments.size() == 4 && arguments.at(3) == u"lab";
+    if (arguments.size() != 3 && !isLab) {
+        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER [lab]\n";
         return 2;
     }
     const QString &language = arguments.at(1);
     const QString folder = QDir(arguments.at(2)).absolutePath();
     const QByteArray stage = qgetenv(stageVariable);
+    if (stage.isEmpty() && isLab)
+        return QDir().mkpath(folder) && runStage(u"lab"_s, language, folder) ? EXIT_SUCCESS : EXIT_FAILURE;
     if (stage.isEmpty())
         return watch(language, folder);
     if (stage == "second")

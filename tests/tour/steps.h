@@ -41,6 +41,8 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site);
 /// On the page that walkFleet() leaves: a batch is stopped and its rest retried, its results are saved into
 /// `folder`, and changed addresses are put back.
 void walkBatches(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+/// The main job on devices of a site on real sockets (scripts/lab).
+void walkLab(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.
