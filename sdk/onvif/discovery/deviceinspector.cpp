@@ -3,9 +3,17 @@
 #include "sdk/onvif/discovery/neighbourtable.h"
 #include "sdk/onvif/services/deviceservice.h"
 
+#include <algorithm>
+
 namespace sdk::onvif {
 
 namespace {
+
+bool hasAdministrator(const std::vector<DeviceUser> &users)
+{
+    return std::any_of(users.begin(), users.end(),
+                       [](const DeviceUser &user) { return user.level == "Administrator"; });
+}
 
 /// On a device without an administrator, everything is answered without a login.
 void askOpenDevice(FoundDevice &device, DeviceService &service)
@@ -46,6 +54,11 @@ bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
     device.mac = macOfNeighbour(device.address);
     switch (users.error) {
     case NetError::None:
+        // Some devices list their users to anybody. One that has an administrator must answer more than that.
+        if (hasAdministrator(users.value) && !service.interfaces().isOk()) {
+            device.state = InitialisationBits::Initialised;
+            return true;
+        }
         device.state = InitialisationBits::Uninitialised;
         askOpenDevice(device, service);
         return true;

@@ -1,5 +1,6 @@
 #include "sdk/onvif/soap/soapclient.h"
 
+#include "sdk/onvif/soap/logging.h"
 #include "sdk/onvif/soap/onvifnamespaces.h"
 #include "sdk/onvif/soap/passwordtoken.h"
 
@@ -201,7 +202,11 @@ SoapAnswer SoapClient::send(const ServiceAddress &service, const SoapRequest &re
     const HttpAnswer answer = m_http->post(service, request.text(header), "application/soap+xml; charset=utf-8",
                                            method == LoginMethod::Digest ? &login : nullptr, deadline);
     offered = answer.offersDigest ? LoginMethod::Digest : LoginMethod::Token;
-    return readSoapAnswer(answer);
+    SoapAnswer read = readSoapAnswer(answer);
+    if (!read.isOk())
+        qCDebug(logOnvif) << service.url().c_str() << request.operation().name() << "status" << answer.status
+                          << "error" << Qt::hex << static_cast<std::uint32_t>(read.error) << read.reason.c_str();
+    return read;
 }
 
 } // namespace sdk::onvif
