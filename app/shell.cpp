@@ -17,8 +17,10 @@
 #include "media/freedmemory.h"
 #include "media/videoitem.h"
 #include "sdk/clock.h"
+#include "sdk/configtext/configtextlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "sdk/onvif/onvifnetlibrary.h"
 
 #include <QApplication>
 #include <QFile>
@@ -105,8 +107,12 @@ void Shell::loadTranslators()
 bool Shell::chooseLibraries()
 {
     m_libraries.clock = std::make_shared<sdk::SystemClock>();
-    if (!m_commandLine.demo)
+    m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
+    if (!m_commandLine.demo) {
+        m_libraries.net = std::make_shared<sdk::onvif::OnvifNetLibrary>();
+        m_libraries.config = std::make_shared<sdk::ConfigTextLibrary>();
         return true;
+    }
     QString error;
     const std::shared_ptr<sdk::demo::DemoSite> site =
         sdk::demo::DemoSite::open(m_commandLine.scene, m_libraries.clock, &error);
@@ -120,8 +126,9 @@ bool Shell::chooseLibraries()
         OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + error);
         return false;
     }
+    const std::shared_ptr<sdk::DecoderLibrary> decoder = std::move(m_libraries.decoder);
     m_libraries = site->libraries();
-    m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
+    m_libraries.decoder = decoder;
     // Without a port of its own the site is still the only one that may be asked: no real address is.
     const QString proxy = site->httpProxy();
     CGIConfigManage::getinstance()->setProxy(proxy.isEmpty() ? QStringLiteral("http://127.0.0.1:9") : proxy);
