@@ -22,12 +22,14 @@ constexpr std::array phrases = {
     Phrase{HttpStatus::Found, "Found"},
     Phrase{HttpStatus::BadRequest, "Bad Request"},
     Phrase{HttpStatus::Unauthorized, "Unauthorized"},
+    Phrase{HttpStatus::Forbidden, "Forbidden"},
     Phrase{HttpStatus::NotFound, "Not Found"},
     Phrase{HttpStatus::MethodNotAllowed, "Method Not Allowed"},
     Phrase{HttpStatus::RequestTimeout, "Request Timeout"},
     Phrase{HttpStatus::BodyTooLong, "Content Too Large"},
     Phrase{HttpStatus::TargetTooLong, "URI Too Long"},
     Phrase{HttpStatus::HeadTooLong, "Request Header Fields Too Large"},
+    Phrase{HttpStatus::InternalServerError, "Internal Server Error"},
     Phrase{HttpStatus::NotImplemented, "Not Implemented"},
     Phrase{HttpStatus::BadGateway, "Bad Gateway"},
     Phrase{HttpStatus::GatewayTimeout, "Gateway Timeout"},
@@ -75,7 +77,7 @@ HttpStatus readRequestLine(const QByteArray &line, HttpRequest &request)
     return HttpStatus::Ok;
 }
 
-HttpStatus readFraming(HttpRequest &request)
+HttpStatus readFraming(HttpRequest &request, qint64 longestBody)
 {
     bool hasLength = false;
     for (const auto &[name, value] : std::as_const(request.fields)) {
@@ -88,7 +90,7 @@ HttpStatus readFraming(HttpRequest &request)
                 return HttpStatus::BadRequest;
             bool fits = false;
             request.bodyLength = value.toLongLong(&fits);
-            if (!fits || request.bodyLength > longestHttpBody)
+            if (!fits || request.bodyLength > longestBody)
                 return HttpStatus::BodyTooLong;
             hasLength = true;
         } else if (name == "transfer-encoding") {
@@ -133,7 +135,7 @@ qsizetype httpHeadLength(const QByteArray &received)
     }
 }
 
-HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request)
+HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request, qint64 longestBody)
 {
     QByteArrayList lines = head.split('\n');
     for (QByteArray &line : lines) {
@@ -153,7 +155,7 @@ HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request)
             return HttpStatus::BadRequest;
         request.fields.append({name.toLower(), value});
     }
-    return readFraming(request);
+    return readFraming(request, longestBody);
 }
 
 HttpTarget readHttpTarget(const QByteArray &target)

@@ -21,12 +21,14 @@ enum class HttpStatus
     Found = 302,
     BadRequest = 400,
     Unauthorized = 401,
+    Forbidden = 403,
     NotFound = 404,
     MethodNotAllowed = 405,
     RequestTimeout = 408,
     BodyTooLong = 413,
     TargetTooLong = 414,
     HeadTooLong = 431,
+    InternalServerError = 500,
     NotImplemented = 501,
     BadGateway = 502,
     GatewayTimeout = 504,
@@ -50,8 +52,9 @@ struct HttpRequest
 };
 
 /// Reads a request line and headers, up to and with the empty line. Returns Ok, or the status to refuse it
-/// with.
-[[nodiscard]] HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request);
+/// with. A body may be as long as `longestBody`.
+[[nodiscard]] HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request,
+                                      qint64 longestBody = longestHttpBody);
 
 /// The length of the head at the begin of `received`, 0 while it is not complete.
 [[nodiscard]] qsizetype httpHeadLength(const QByteArray &received);

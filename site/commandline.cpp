@@ -1,0 +1,108 @@
+#include "site/commandline.h"
+
+#include <QMap>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace site {
+
+namespace {
+
+/// Sets `choice` to the value of that name. Returns false for a name that is not among them.
+template<typename Choice>
+bool choose(Choice &choice, const QString &name, const QMap<QString, Choice> &choices)
+{
+    choice = choices.value(name, choice);
+    return choices.contains(name);
+}
+
+bool takeNumber(int &number, const QString &text)
+{
+    bool isNumber = false;
+    number = text.toInt(&isNumber);
+    return isNumber && number > 0;
+}
+
+bool takeText(QString &destination, const QString &text)
+{
+    destination = text;
+    return !text.isEmpty();
+}
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList &arguments)
+{
+    CommandLine line;
+    const QMap<QString, std::function<bool(const QString &)>> options = {
+        {u"--scene"_s,
+         [&](const QString &value) {
+             return takeText(line.scene, value);
+         }},
+        {u"--interface"_s,
+         [&](const QString &value) {
+             return takeText(line.interface, value);
+         }},
+        {u"--record"_s,
+         [&](const QString &value) {
+             return takeText(line.options.recordFolder, value);
+         }},
+        {u"--devices"_s,
+         [&](const QString &value) {
+             return takeNumber(line.mostDevices, value);
+         }},
+        {u"--login"_s,
+         [&](const QString &value) {
+             return choose(line.options.login, value,
+                           {{u"token"_s, LoginChoice::Token},
+                            {u"digest"_s, LoginChoice::Digest},
+                            {u"both"_s, LoginChoice::Both}});
+         }},
+        {u"--digest"_s,
+         [&](const QString &value) {
+             return choose(line.options.digest, value,
+                           {{u"md5"_s, DigestChoice::Md5},
+                            {u"sha256"_s, DigestChoice::Sha256},
+                            {u"both"_s, DigestChoice::Both}});
+         }},
+    };
+    for (qsizetype place = 1; place < arguments.size() && line.error.isEmpty(); ++place) {
+        const QString &argument = arguments.at(place);
+        const QString name = argument.section(u'=', 0, 0);
+        if (argument == u"--help" || argument == u"-h") {
+            line.help = true;
+        } else if (argument == u"--list") {
+            line.lists = true;
+        } else if (!options.contains(name)) {
+            line.error = u"unknown argument \"%1\""_s.arg(argument);
+        } else {
+            const QString value =
+                argument.contains(u'=') ? argument.section(u'=', 1) : arguments.value(++place);
+            if (!options.value(name)(value))
+                line.error = u"%1 cannot be \"%2\""_s.arg(name, value);
+        }
+    }
+    return line;
+}
+
+QString CommandLine::usage()
+{
+    return u"Usage: ConfigToolsSite [--scene SCENE] [--interface NAME] [OPTION...]\n"
+           "\n"
+           "Serves a simulated site on a network: each device has a MAC and an address of its own.\n"
+           "It needs the right to make network namespaces and interfaces; scripts/lab starts it in\n"
+           "a network that leads nowhere else.\n"
+           "\n"
+           "  --scene SCENE      office (the default), factory, faulty, fleet:N, or a scene file\n"
+           "  --interface NAME   where the devices are to be (eth0)\n"
+           "  --devices N        only the first N devices of the scene\n"
+           "  --list             print the devices and their accounts and end\n"
+           "  --record FOLDER    keep every message of a service as a file\n"
+           "  --login KIND       token, digest or both for all devices, instead of each in its manner\n"
+           "  --digest KIND      md5, sha256 or both, the same\n"
+           "  --help             print this text and end\n"_s;
+}
+
+} // namespace site

@@ -1,0 +1,65 @@
+// Digest authentication of HTTP and RTSP.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace site {
+
+/// What a client sends to prove that it knows a password.
+struct DigestResponse
+{
+    QString user;
+    QByteArray realm;
+    QByteArray nonce;
+    QByteArray uri;
+    QByteArray response;
+    QByteArray algorithm; ///< lower case; empty stands for MD5
+    QByteArray quality;   ///< "auth", or empty
+    QByteArray clientNonce;
+    QByteArray nonceCount;
+};
+
+/// Reads the header "Authorization". Nothing for one of another kind.
+[[nodiscard]] std::optional<DigestResponse> readDigestResponse(const QByteArray &header);
+
+/// Whether the response was made with that password for a request of that method.
+[[nodiscard]] bool provesPassword(const DigestResponse &response, const QString &password,
+                                  const QByteArray &method);
+
+/// Nonces that say themselves when they were made, and for which device. Thread-safe.
+class DigestNonces
+{
+public:
+    enum class State
+    {
+        Foreign,
+        Old,
+        Good,
+    };
+
+    DigestNonces();
+
+    /// `now` is in ms since 1970.
+    [[nodiscard]] QByteArray make(const QString &mac, std::int64_t now) const;
+    [[nodiscard]] State check(const QByteArray &nonce, const QString &mac, std::int64_t now) const;
+
+private:
+    const QByteArray m_secret;
+};
+
+enum class DigestAlgorithm
+{
+    Md5,
+    Sha256,
+};
+
+/// The value of a header "WWW-Authenticate".
+[[nodiscard]] QByteArray digestChallenge(const QByteArray &realm, const QByteArray &nonce,
+                                         DigestAlgorithm algorithm, bool isStale);
+
+} // namespace site

@@ -1,0 +1,72 @@
+#include "site/http/httpserver.h"
+
+#include "site/http/serverconnection.h"
+#include "site/network/sockettext.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include <sys/socket.h>
+
+namespace site {
+
+HttpServer::~HttpServer()
+{
+    close([](const Connection &) { return true; });
+}
+
+void HttpServer::accept(int listener, const QString &mac)
+{
+    FileDescriptor socket(accept4(listener, nullptr, nullptr, SOCK_CLOEXEC));
+    if (!socket.isOpen())
+        return;
+    close([](const Connection &connection) { return connection.isOver; });
+    const SocketAddress own = ownAddress(socket.number());
+    const std::lock_guard lock(m_mutex);
+    const auto count =
+        std::count_if(m_connections.begin(), m_connections.end(),
+                      [&mac](const Connection &connection) { return connection.receiver.mac == mac; });
+    if (count >= mostConnectionsOfDevice)
+        return;
+    m_connections.push_back({std::move(socket), {mac, own.address, own.port, {}}});
+    Connection &connection = m_connections.back();
+    connection.receiver.stop = connection.stop.get_token();
+    try {
+        connection.thread = std::thread([this, &connection] { serve(connection); });
+    } catch (const std::system_error &) {
+        m_connections.pop_back(); // the computer gives no more threads
+    }
+}
+
+void HttpServer::serve(Connection &connection)
+{
+    ServerConnection(m_service, m_clock, connection.socket.number(), connection.receiver).serve();
+    const std::lock_guard lock(m_mutex);
+    shutdown(connection.socket.number(), SHUT_RDWR);
+    connection.isOver = true;
+}
+
+void HttpServer::closeAllOf(const QString &mac)
+{
+    close([&mac](const Connection &connection) { return connection.receiver.mac == mac; });
+}
+
+void HttpServer::close(const std::function<bool(const Connection &)> &isMeant)
+{
+    std::list<Connection> closed;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (auto next = m_connections.begin(); next != m_connections.end();) {
+            const auto connection = next++;
+            if (!isMeant(*connection))
+                continue;
+            connection->stop.request_stop();
+            shutdown(connection->socket.number(), SHUT_RDWR);
+            closed.splice(closed.end(), m_connections, connection);
+        }
+    }
+    for (Connection &connection : closed)
+        connection.thread.join();
+}
+
+} // namespace site

@@ -1,0 +1,56 @@
+// The connections to the web services of all devices.
+#pragma once
+
+#include "site/http/httpexchange.h"
+#include "site/network/filedescriptor.h"
+
+#include <list>
+#include <mutex>
+#include <stop_token>
+#include <thread>
+
+namespace sdk {
+class Clock;
+}
+
+namespace site {
+
+/// Serves each connection on a thread of its own. Thread-safe. The destructor ends the connections.
+class HttpServer
+{
+public:
+    /// Further clients of one device are turned away.
+    static constexpr int mostConnectionsOfDevice = 16;
+
+    /// Both must outlive the server.
+    HttpServer(HttpService &service, sdk::Clock &clock) : m_service(service), m_clock(clock) {}
+    ~HttpServer();
+    HttpServer(const HttpServer &) = delete;
+    HttpServer &operator=(const HttpServer &) = delete;
+
+    /// Accepts the connection that waits at `listener`, which belongs to the device.
+    void accept(int listener, const QString &mac);
+
+    /// Ends the connections to the device, in the middle of an answer too, and waits for their threads.
+    void closeAllOf(const QString &mac);
+
+private:
+    struct Connection
+    {
+        FileDescriptor socket;
+        HttpReceiver receiver;
+        std::stop_source stop = {};
+        bool isOver = false; // its thread returns at once
+        std::thread thread = {};
+    };
+
+    void serve(Connection &connection);
+    void close(const std::function<bool(const Connection &)> &isMeant);
+
+    HttpService &m_service;
+    sdk::Clock &m_clock;
+    std::mutex m_mutex;
+    std::list<Connection> m_connections;
+};
+
+} // namespace site

@@ -1,0 +1,180 @@
+#include "site/http/serverconnection.h"
+
+#include "sdk/clock.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+
+using namespace sdk::demo;
+using namespace std::chrono_literals;
+
+namespace site {
+
+namespace {
+
+/// For a client that reads nothing: how long a piece of an answer may wait.
+constexpr timeval sendTime = {15, 0};
+
+HttpReply plainReply(HttpStatus status)
+{
+    return HttpReply::line(status, QString::fromLatin1(reasonPhrase(status)));
+}
+
+} // namespace
+
+ServerConnection::ServerConnection(HttpService &service, sdk::Clock &clock, int socket, HttpReceiver receiver)
+    : m_service(service), m_clock(clock), m_socket(socket), m_receiver(std::move(receiver))
+{
+    const int on = 1;
+    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &sendTime, sizeof(sendTime));
+    setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+}
+
+void ServerConnection::serve()
+{
+    for (;;) {
+        HttpRequest head;
+        QByteArray body;
+        HttpStatus status = receiveHead(head);
+        if (status == HttpStatus::Ok)
+            status = receiveBody(head, body);
+        if (status == HttpStatus::None)
+            return;
+        if (status != HttpStatus::Ok) {
+            if (sendReply(plainReply(status), true, false))
+                linger();
+            return;
+        }
+        const HttpReply reply = m_service.answer(m_receiver, head, body);
+        if (reply.status == HttpStatus::None)
+            return;
+        const bool hasBody = head.method != "HEAD";
+        const bool keeps = head.keepsConnection && hasBody;
+        if (!sendReply(reply, hasBody, keeps))
+            return;
+        if (!keeps) {
+            linger();
+            return;
+        }
+    }
+}
+
+HttpStatus ServerConnection::receiveHead(HttpRequest &head)
+{
+    const auto deadline = std::chrono::steady_clock::now() + requestTime;
+    qsizetype length = 0;
+    for (;;) {
+        while (m_received.startsWith('\r') || m_received.startsWith('\n'))
+            m_received.remove(0, 1);
+        length = httpHeadLength(m_received);
+        if (length > 0)
+            break;
+        if (m_received.size() > longestHttpHead)
+            return HttpStatus::HeadTooLong;
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left <= 0ms || !receiveMore(left))
+            return m_received.isEmpty() ? HttpStatus::None : HttpStatus::RequestTimeout;
+    }
+    if (length > longestHttpHead)
+        return HttpStatus::HeadTooLong;
+    const HttpStatus status = readHttpHead(m_received.left(length), head, longestBody);
+    m_received.remove(0, length);
+    return status;
+}
+
+HttpStatus ServerConnection::receiveBody(const HttpRequest &head, QByteArray &body)
+{
+    const BodyTaker taker = m_service.bodyTaker(m_receiver, head);
+    if (!taker && head.bodyLength > longestKeptBody)
+        return HttpStatus::BodyTooLong;
+    if (head.waitsForContinue && !send("HTTP/1.1 100 Continue\r\n\r\n"))
+        return HttpStatus::None;
+    for (qsizetype left = head.bodyLength; left > 0;) {
+        if (m_received.isEmpty() && !receiveMore(requestTime))
+            return HttpStatus::RequestTimeout;
+        const QByteArray piece = m_received.left(left);
+        m_received.remove(0, piece.size());
+        left -= piece.size();
+        if (!taker)
+            body += piece;
+        else if (!taker(piece))
+            return HttpStatus::None;
+    }
+    return HttpStatus::Ok;
+}
+
+bool ServerConnection::receiveMore(std::chrono::milliseconds patience)
+{
+    pollfd watched = {m_socket, POLLIN, 0};
+    if (poll(&watched, 1, static_cast<int>(patience.count())) <= 0)
+        return false;
+    constexpr std::size_t pieceSize = std::size_t{64} * 1024;
+    std::array<char, pieceSize> piece;
+    const ssize_t count = recv(m_socket, piece.data(), piece.size(), 0);
+    if (count <= 0)
+        return false;
+    m_received.append(piece.data(), count);
+    return true;
+}
+
+bool ServerConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const
+{
+    if (reply.lateness > 0ms && !m_clock.wait(reply.lateness, m_receiver.stop))
+        return false;
+    if (!reply.hasNoHead && !send(httpHead(reply, keepsConnection)))
+        return false;
+    return !hasBody || (sendBody(reply) && !reply.isBroken && !reply.hasNoHead);
+}
+
+bool ServerConnection::sendBody(const HttpReply &reply) const
+{
+    const qint64 end = reply.isBroken ? reply.fullLength() / 2 : reply.fullLength();
+    const QByteArrayView block = reply.body;
+    qint64 sent = 0;
+    for (std::chrono::seconds slow = reply.slowness; slow > 0s && sent < end; slow -= 1s, ++sent) {
+        if (!send(block.sliced(sent % block.size(), 1)) || !m_clock.wait(1s, m_receiver.stop))
+            return false;
+    }
+    while (sent < end && !block.isEmpty()) {
+        const qint64 place = sent % block.size();
+        const qint64 count = std::min<qint64>(block.size() - place, end - sent);
+        if (!send(block.sliced(place, count)))
+            return false;
+        sent += count;
+    }
+    return true;
+}
+
+bool ServerConnection::send(QByteArrayView bytes) const
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t count =
+            ::send(m_socket, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        bytes = bytes.sliced(count);
+    }
+    return true;
+}
+
+void ServerConnection::linger()
+{
+    shutdown(m_socket, SHUT_WR);
+    constexpr qsizetype most = qsizetype{1024} * 1024;
+    qsizetype taken = 0;
+    do {
+        taken += m_received.size();
+        m_received.clear();
+    } while (taken < most && receiveMore(1s));
+}
+
+} // namespace site

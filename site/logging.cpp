@@ -1,0 +1,7 @@
+#include "site/logging.h"
+
+namespace site {
+
+Q_LOGGING_CATEGORY(siteLog, "configtools.site")
+
+} // namespace site

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+namespace site {
+
+Q_DECLARE_LOGGING_CATEGORY(siteLog)
+
+} // namespace site

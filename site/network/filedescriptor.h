@@ -1,0 +1,39 @@
+#pragma once
+
+#include <utility>
+
+#include <unistd.h>
+
+namespace site {
+
+/// Owns the number of an open file or socket; -1 for none.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int number) : m_number(number) {}
+    ~FileDescriptor() { reset(); }
+    FileDescriptor(FileDescriptor &&other) noexcept : m_number(other.release()) {}
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept
+    {
+        reset(other.release());
+        return *this;
+    }
+    FileDescriptor(const FileDescriptor &) = delete;
+    FileDescriptor &operator=(const FileDescriptor &) = delete;
+
+    [[nodiscard]] bool isOpen() const { return m_number >= 0; }
+    [[nodiscard]] int number() const { return m_number; }
+    [[nodiscard]] int release() { return std::exchange(m_number, -1); }
+    void reset(int number = -1)
+    {
+        if (m_number >= 0)
+            close(m_number);
+        m_number = number;
+    }
+
+private:
+    int m_number = -1;
+};
+
+} // namespace site

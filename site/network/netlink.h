@@ -1,0 +1,50 @@
+// Requests to the kernel about interfaces, addresses and routes.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string_view>
+
+namespace site {
+
+/// One request, built up attribute by attribute. Its size is bounded: what does not fit is a fault of this
+/// program, and send() refuses it.
+class NetlinkRequest
+{
+public:
+    template<typename Body>
+    NetlinkRequest(std::uint16_t type, std::uint16_t flags, const Body &body)
+    {
+        begin(type, flags, {reinterpret_cast<const std::byte *>(&body), sizeof(body)});
+    }
+
+    void add(std::uint16_t attribute, std::span<const std::byte> value);
+    void add(std::uint16_t attribute, std::string_view text);
+    template<typename Number>
+    void addNumber(std::uint16_t attribute, Number number)
+    {
+        add(attribute, std::span(reinterpret_cast<const std::byte *>(&number), sizeof(number)));
+    }
+
+    /// What is added until endNested() is the value of `attribute`. Returns what endNested() takes.
+    [[nodiscard]] std::size_t beginNested(std::uint16_t attribute);
+    void endNested(std::size_t nested);
+
+    /// Asks the kernel in the network namespace of the calling thread. Returns 0, or the number of the error.
+    [[nodiscard]] int send();
+
+private:
+    static constexpr std::size_t largest = 1024;
+
+    void begin(std::uint16_t type, std::uint16_t flags, std::span<const std::byte> body);
+    void append(std::span<const std::byte> bytes);
+
+    alignas(4) std::array<std::byte, largest> m_bytes = {};
+    std::size_t m_size = 0;
+    bool m_fits = true;
+};
+
+} // namespace site

@@ -1,0 +1,55 @@
+// Network namespaces: each device of the site has one of its own.
+#pragma once
+
+#include "site/network/filedescriptor.h"
+
+#include <optional>
+
+namespace site {
+
+/// A network namespace. It lives as long as it is held here, a socket is open in it or a thread is inside.
+class NetworkSpace
+{
+public:
+    /// The one of the calling thread.
+    [[nodiscard]] static std::optional<NetworkSpace> current();
+
+    /// A new one that has nothing but a loopback interface, which is down. Nothing, with errno set, when the
+    /// program may not make one.
+    [[nodiscard]] static std::optional<NetworkSpace> create();
+
+    [[nodiscard]] int number() const { return m_file.number(); }
+
+    /// Moves the calling thread into the namespace. Returns false, with errno set, on failure.
+    bool enter() const;
+
+private:
+    explicit NetworkSpace(FileDescriptor file) : m_file(std::move(file)) {}
+
+    FileDescriptor m_file;
+};
+
+/// Keeps the calling thread in a namespace until the end of a block.
+class InsideNetworkSpace
+{
+public:
+    explicit InsideNetworkSpace(const NetworkSpace &space)
+        : m_before(NetworkSpace::current()), m_isInside(m_before && space.enter())
+    {
+    }
+    ~InsideNetworkSpace()
+    {
+        if (m_isInside)
+            m_before->enter();
+    }
+    InsideNetworkSpace(const InsideNetworkSpace &) = delete;
+    InsideNetworkSpace &operator=(const InsideNetworkSpace &) = delete;
+
+    [[nodiscard]] bool isInside() const { return m_isInside; }
+
+private:
+    std::optional<NetworkSpace> m_before;
+    bool m_isInside;
+};
+
+} // namespace site

@@ -1,0 +1,98 @@
+#include "site/serveddevice.h"
+
+#include "site/deviceidentity.h"
+#include "site/http/httpserver.h"
+#include "site/logging.h"
+#include "site/network/poller.h"
+#include "site/services/devicenetwork.h"
+
+namespace site {
+
+namespace {
+
+/// How long a device keeps its address after it was given another one.
+constexpr std::int64_t moment = 500;
+
+} // namespace
+
+ServedDevice::ServedDevice(const Parts &parts, QString mac, std::unique_ptr<DeviceInterface> interface)
+    : m_parts(parts), m_mac(std::move(mac)), m_interface(std::move(interface))
+{
+}
+
+ServedDevice::~ServedDevice()
+{
+    disappear();
+}
+
+ServedDevice::Shape ServedDevice::shapeOf(const sdk::demo::SceneDevice &device)
+{
+    const bool isUnset = device.address == QLatin1String("0.0.0.0");
+    return {{isUnset ? QString() : device.address, prefixLengthOf(device.mask), device.ipv6,
+             device.ipv6PrefixLength},
+            servicePortOf(device)};
+}
+
+void ServedDevice::follow(const sdk::demo::SceneDevice &device, std::int64_t now)
+{
+    const Shape shape = shapeOf(device);
+    if (shape != m_wanted) {
+        m_wanted = shape;
+        m_wantedSince = now;
+    }
+    if (!device.isListening(now)) {
+        if (m_shape)
+            leave();
+    } else if (!m_shape) {
+        appear(shape);
+    } else if (*m_shape != shape && now - m_wantedSince >= moment) {
+        disappear();
+        appear(shape);
+    }
+}
+
+void ServedDevice::leave()
+{
+    if (m_discovery)
+        m_discovery->sayBye();
+    disappear();
+}
+
+void ServedDevice::appear(const Shape &shape)
+{
+    m_shape = shape; // also when it fails: the next try comes with the next change
+    QString error;
+    if (!m_interface->bringUp(shape.network, &error)) {
+        qCWarning(siteLog, "%ls", qUtf16Printable(error));
+        return;
+    }
+    m_httpListener = m_interface->openListener(shape.httpPort);
+    if (m_httpListener.isOpen()) {
+        const int listener = m_httpListener.number();
+        m_parts.poller.watch(listener, [this, listener] { m_parts.http.accept(listener, m_mac); });
+    } else {
+        qCWarning(siteLog, "%ls cannot listen at port %d", qUtf16Printable(m_mac), shape.httpPort);
+    }
+    m_discovery =
+        std::make_unique<DiscoveryPort>(m_parts.site, m_parts.poller, m_parts.options, m_mac, *m_interface);
+    if (m_discovery->isOpen())
+        m_discovery->sayHello();
+    else
+        qCWarning(siteLog, "%ls cannot be found: port %d is taken", qUtf16Printable(m_mac),
+                  DiscoveryPort::port);
+}
+
+void ServedDevice::disappear()
+{
+    if (!m_shape)
+        return;
+    m_shape.reset();
+    m_discovery.reset();
+    if (m_httpListener.isOpen())
+        m_parts.poller.remove(m_httpListener.number());
+    m_httpListener.reset();
+    m_interface->bringDown();
+    m_parts.http.closeAllOf(m_mac);
+}
+
+} // namespace site

@@ -1,0 +1,67 @@
+// One device of the site on the network.
+#pragma once
+
+#include "site/discovery/discoveryport.h"
+#include "site/network/deviceinterface.h"
+#include "site/siteoptions.h"
+
+#include "sdk/demo/scene.h"
+
+#include <memory>
+
+namespace site {
+
+class HttpServer;
+class Poller;
+
+/// Follows its device: what changes there, changes the interface and the sockets. Belongs to one thread.
+class ServedDevice
+{
+public:
+    /// The parts of the program that all devices share; they must outlive the devices.
+    struct Parts
+    {
+        sdk::demo::DemoSite &site;
+        const SiteOptions &options;
+        Poller &poller;
+        HttpServer &http;
+    };
+
+    ServedDevice(const Parts &parts, QString mac, std::unique_ptr<DeviceInterface> interface);
+    ~ServedDevice();
+    ServedDevice(const ServedDevice &) = delete;
+    ServedDevice &operator=(const ServedDevice &) = delete;
+
+    [[nodiscard]] const QString &mac() const { return m_mac; }
+
+    /// Brings the network in line with the device. `now` is the time on the site's clock; a new address
+    /// holds a moment after it was set, so that the answer to whoever has set it goes out before.
+    void follow(const sdk::demo::SceneDevice &device, std::int64_t now);
+
+    /// Takes the device off the network; it says so before, if it can.
+    void leave();
+
+private:
+    /// What the network of the device is made from.
+    struct Shape
+    {
+        DeviceNetwork network;
+        int httpPort = 0;
+        bool operator==(const Shape &) const = default;
+    };
+    [[nodiscard]] static Shape shapeOf(const sdk::demo::SceneDevice &device);
+
+    void appear(const Shape &shape);
+    void disappear();
+
+    const Parts m_parts;
+    const QString m_mac;
+    const std::unique_ptr<DeviceInterface> m_interface;
+    std::optional<Shape> m_shape; // as it is on the network; nothing while it is away
+    Shape m_wanted;               // as the device is
+    std::int64_t m_wantedSince = 0;
+    std::unique_ptr<DiscoveryPort> m_discovery;
+    FileDescriptor m_httpListener;
+};
+
+} // namespace site

@@ -1,0 +1,16 @@
+// What a device tells of itself.
+#pragma once
+
+#include "site/services/servicecall.h"
+
+namespace site {
+
+ServiceResult getDeviceInformation(ServiceCall &call);
+ServiceResult getServices(ServiceCall &call);
+ServiceResult getCapabilities(ServiceCall &call);
+ServiceResult getDeviceServiceCapabilities(ServiceCall &call);
+ServiceResult getWsdlUrl(ServiceCall &call);
+ServiceResult getScopes(ServiceCall &call);
+ServiceResult setScopes(ServiceCall &call);
+
+} // namespace site

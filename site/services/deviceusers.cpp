@@ -1,0 +1,199 @@
+#include "site/services/deviceusers.h"
+
+#include "sdk/demo/internal/devicechanges.h"
+#include "sdk/demo/internal/maintenance.h"
+#include "site/services/servicestate.h"
+
+#include <array>
+#include <set>
+
+using namespace sdk::demo;
+using namespace Qt::StringLiterals;
+
+namespace site {
+
+namespace {
+
+constexpr qsizetype mostUsers = 20;
+constexpr qsizetype longestText = 63; // of a name or a password
+
+struct LevelName
+{
+    UserLevel level;
+    const char *name;
+};
+constexpr std::array levelNames = {
+    LevelName{UserLevel::Administrator, "Administrator"},
+    LevelName{UserLevel::Operator, "Operator"},
+    LevelName{UserLevel::User, "User"},
+};
+
+const char *nameOf(UserLevel level)
+{
+    for (const LevelName &known : levelNames) {
+        if (known.level == level)
+            return known.name;
+    }
+    return "Anonymous";
+}
+
+std::optional<UserLevel> levelNamed(const QString &name)
+{
+    for (const LevelName &known : levelNames) {
+        if (name == QLatin1String(known.name))
+            return known.level;
+    }
+    return std::nullopt;
+}
+
+struct WantedUser
+{
+    SceneAccount account;
+    std::optional<UserLevel> level;
+};
+
+WantedUser readUser(pugi::xml_node element)
+{
+    return {{textAt(element, "tt:Username").value_or(QString()),
+             textAt(element, "tt:Password").value_or(QString())},
+            levelNamed(textAt(element, "tt:UserLevel").value_or(QString()))};
+}
+
+std::vector<WantedUser> readUsers(pugi::xml_node request)
+{
+    std::vector<WantedUser> users;
+    for (const pugi::xml_node element : request.children()) {
+        if (isNamed(element, "tds:User"))
+            users.push_back(readUser(element));
+    }
+    return users;
+}
+
+void keepLevel(SceneDevice &device, const QString &user, UserLevel level)
+{
+    QJsonObject levels = serviceState(device, u"levels"_s).toObject();
+    levels.insert(user, QString::fromLatin1(nameOf(level)));
+    setServiceState(device, u"levels"_s, levels);
+}
+
+ServiceResult objectionTo(const WantedUser &user)
+{
+    if (user.account.user.isEmpty() || user.account.user.size() > longestText)
+        return SoapFault::invalid("ter:UsernameTooLong", u"The name of the user cannot be used"_s);
+    if (user.account.password.size() > longestText)
+        return SoapFault::invalid("ter:PasswordTooLong", u"The password is too long"_s);
+    if (user.account.password.isEmpty())
+        return SoapFault::invalid("ter:PasswordTooWeak", u"A user needs a password"_s);
+    return std::nullopt;
+}
+
+ServiceResult createFirstUser(const ServiceCall &call, const WantedUser &user)
+{
+    if (user.level != UserLevel::Administrator)
+        return SoapFault::invalid("ter:AnonymousNotAllowed", u"The first user must be an administrator"_s);
+    const sdk::NetError error = giveFirstAccount(call.context.site, call.device.mac, user.account);
+    return resultOf(error, SoapFault::prohibited(u"The device refuses its first user"_s));
+}
+
+} // namespace
+
+UserLevel userLevelOf(const SceneDevice &device, const QString &user)
+{
+    const QJsonObject levels = serviceState(device, u"levels"_s).toObject();
+    return levelNamed(levels.value(user).toString()).value_or(UserLevel::Administrator);
+}
+
+ServiceResult getUsers(ServiceCall &call)
+{
+    if (call.device.isUninitialised())
+        return std::nullopt;
+    for (const SceneAccount &account : call.device.accounts) {
+        XmlElement user = call.response.add("tds:User");
+        user.add("tt:Username", account.user);
+        user.add("tt:UserLevel", nameOf(userLevelOf(call.device, account.user)));
+    }
+    return std::nullopt;
+}
+
+ServiceResult createUsers(ServiceCall &call)
+{
+    const std::vector<WantedUser> users = readUsers(call.request);
+    std::set<QString> names;
+    for (const SceneAccount &account : call.device.accounts)
+        names.insert(account.user);
+    for (const WantedUser &user : users) {
+        if (const ServiceResult objection = objectionTo(user))
+            return objection;
+        if (!user.level)
+            return SoapFault::invalid("ter:AnonymousNotAllowed", u"There is no such level of users"_s);
+        if (!names.insert(user.account.user).second && !call.device.isUninitialised())
+            return SoapFault{true, "ter:OperationProhibited", "ter:UsernameClash",
+                             u"The user is there already"_s};
+    }
+    if (users.empty())
+        return SoapFault::invalid("ter:UsernameMissing", u"No user is named"_s);
+    if (static_cast<qsizetype>(names.size()) > mostUsers)
+        return SoapFault{false, "ter:Action", "ter:TooManyUsers", u"The device has no room for more users"_s};
+    std::size_t first = 0;
+    if (call.device.isUninitialised()) {
+        if (const ServiceResult objection = createFirstUser(call, users.front()))
+            return objection;
+        first = 1;
+    }
+    const sdk::NetError error = call.change([&](SceneDevice &device) {
+        for (const WantedUser &user : users) {
+            if (&user - users.data() >= static_cast<std::ptrdiff_t>(first))
+                device.accounts.append(user.account);
+            keepLevel(device, user.account.user, *user.level);
+        }
+        return sdk::NetError::None;
+    });
+    return resultOf(error, SoapFault::failed(u"The users cannot be created"_s));
+}
+
+ServiceResult setUser(ServiceCall &call)
+{
+    const std::vector<WantedUser> users = readUsers(call.request);
+    for (const WantedUser &user : users) {
+        const SceneAccount *account = accountOf(call.device, user.account.user);
+        if (!account)
+            return SoapFault::invalid("ter:UsernameMissing", u"There is no such user"_s);
+        // Without a password, the user keeps the one that it has.
+        const bool hasPassword = !user.account.password.isEmpty();
+        if (const ServiceResult objection = hasPassword ? objectionTo(user) : std::nullopt)
+            return objection;
+        const sdk::NetError error = call.change([&](SceneDevice &device) {
+            const sdk::NetError changed =
+                hasPassword ? changePassword(device, account->user, account->password, user.account.password)
+                            : sdk::NetError::None;
+            if (changed == sdk::NetError::None && user.level)
+                keepLevel(device, account->user, *user.level);
+            return changed;
+        });
+        if (error != sdk::NetError::None)
+            return SoapFault::prohibited(u"The device refuses the new password"_s);
+    }
+    return std::nullopt;
+}
+
+ServiceResult deleteUsers(ServiceCall &call)
+{
+    QStringList names;
+    for (const pugi::xml_node element : call.request.children()) {
+        if (isNamed(element, "tds:Username"))
+            names.append(textOf(element).trimmed());
+    }
+    for (const QString &name : std::as_const(names)) {
+        if (!accountOf(call.device, name))
+            return SoapFault::invalid("ter:UsernameMissing", u"There is no such user"_s);
+        if (name == call.login.user)
+            return SoapFault{true, "ter:InvalidArgVal", "ter:FixedUser", u"The user is logged in"_s};
+    }
+    const sdk::NetError error = call.change([&](SceneDevice &device) {
+        device.accounts.removeIf([&](const SceneAccount &account) { return names.contains(account.user); });
+        return sdk::NetError::None;
+    });
+    return resultOf(error, SoapFault::failed(u"The users cannot be deleted"_s));
+}
+
+} // namespace site

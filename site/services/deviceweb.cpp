@@ -1,0 +1,36 @@
+#include "site/services/deviceweb.h"
+
+#include "sdk/demo/internal/httpresponder.h"
+#include "site/deviceidentity.h"
+#include "site/services/services.h"
+
+using namespace sdk::demo;
+using namespace Qt::StringLiterals;
+
+namespace site {
+
+BodyTaker DeviceWeb::bodyTaker(const HttpReceiver &, const HttpRequest &)
+{
+    return {};
+}
+
+HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
+{
+    const HttpTarget target = readHttpTarget(head.target);
+    if (isServicePath(target.path)) {
+        if (head.method == "POST")
+            return m_soap.answer(receiver, head, body);
+        HttpReply reply = HttpReply::line(HttpStatus::MethodNotAllowed, u"Services take POST only"_s);
+        reply.fields.append("Allow: POST");
+        return reply;
+    }
+    const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
+    if (!device || device->httpPort == 0)
+        return HttpReply::line(HttpStatus::NotFound, u"The device has no web page"_s);
+    // The site's own web service finds the device by its address, as a proxy does.
+    HttpRequest request = head;
+    request.target = serviceRoot(receiver.address, receiver.port).toLatin1() + head.target;
+    return m_context.site.httpResponder().answer(HttpResponder::proxy, request);
+}
+
+} // namespace site

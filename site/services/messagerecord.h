@@ -1,0 +1,12 @@
+// Keeps the messages of services as files, to be looked at or checked later.
+#pragma once
+
+#include "site/http/httpexchange.h"
+
+namespace site {
+
+/// Writes "00000001-02-1a-c5-00-40-25-request.xml" and "...-response.xml" into `folder`. Thread-safe.
+void recordExchange(const QString &folder, const HttpReceiver &receiver, const QByteArray &request,
+                    const QByteArray &response);
+
+} // namespace site

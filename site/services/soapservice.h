@@ -1,0 +1,38 @@
+// Brings requests to the operations of services.
+#pragma once
+
+#include "site/services/servicecall.h"
+
+namespace site {
+
+/// Thread-safe.
+class SoapService
+{
+public:
+    /// `context` must outlive the service.
+    explicit SoapService(ServiceContext &context) : m_context(context) {}
+
+    [[nodiscard]] sdk::demo::HttpReply answer(const HttpReceiver &receiver,
+                                              const sdk::demo::HttpRequest &head, const QByteArray &body);
+
+private:
+    struct Outcome
+    {
+        std::optional<SoapFault> fault;
+        sdk::demo::HttpStatus status = sdk::demo::HttpStatus::Ok;
+        bool isChallenge = false;
+        bool isStale = false;
+    };
+    [[nodiscard]] Outcome run(const HttpReceiver &receiver, const sdk::demo::SceneDevice &device,
+                              const sdk::demo::HttpRequest &head, const SoapRequest &request,
+                              SoapMessage &message);
+    [[nodiscard]] LoginOutcome login(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
+                                     const sdk::demo::HttpRequest &head, const SoapRequest &request,
+                                     std::int64_t now);
+    void record(const sdk::demo::SceneDevice &device, const SoapRequest &request, const LoginOutcome &login,
+                const Outcome &outcome);
+
+    ServiceContext &m_context;
+};
+
+} // namespace site
