@@ -55,7 +55,7 @@ bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
     switch (users.error) {
     case NetError::None:
         // Some devices list their users to anybody. One that has an administrator must answer more than that.
-        if (hasAdministrator(users.value) && !service.interfaces().isOk()) {
+        if (hasAdministrator(users.value) && !service.information().isOk()) {
             device.state = InitialisationBits::Initialised;
             return true;
         }
