@@ -21,6 +21,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "sdk/onvif/onvifnetlibrary.h"
+#include "sdk/threadpriority.h"
 
 #include <QApplication>
 #include <QFile>
@@ -51,6 +52,7 @@ QString translationPath(const QString &code)
 void Shell::prepareApplication()
 {
     limitFreedMemory();
+    sdk::expectWindow();
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED // without effect in this toolkit version, which always scales
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);

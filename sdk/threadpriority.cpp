@@ -1,5 +1,7 @@
 #include "sdk/threadpriority.h"
 
+#include <atomic>
+
 #ifdef __linux__
 #include <sys/resource.h>
 #include <unistd.h>
@@ -7,8 +9,21 @@
 
 namespace sdk {
 
+namespace {
+
+std::atomic<bool> hasWindow = false;
+
+} // namespace
+
+void expectWindow() noexcept
+{
+    hasWindow = true;
+}
+
 void giveWayToWindow() noexcept
 {
+    if (!hasWindow)
+        return;
 #ifdef __linux__
     // A thread of this niceness gets about a tenth of the time of a usual one beside it. It is counted from
     // the first thread of the process, so that it does not rise from thread to thread.
