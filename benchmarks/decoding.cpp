@@ -1,3 +1,4 @@
+#include "benchmarks/madestream.h"
 #include "benchmarks/measurements.h"
 
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
@@ -8,8 +9,6 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <condition_variable>
-#include <mutex>
 #include <thread>
 
 namespace {
@@ -19,31 +18,6 @@ constexpr int runs = 5;
 constexpr int patience = 120000;
 constexpr std::uint32_t bufferSize = 8388608;
 constexpr std::uint32_t pieceSize = 65536;
-
-/// Counts pictures on the port's thread, and lets another thread wait for them.
-class PictureCount
-{
-public:
-    static void handle(std::int32_t, const std::uint8_t *, std::int32_t, const sdk::DecodedFrameInformation *,
-                       void *user)
-    {
-        auto *count = static_cast<PictureCount *>(user);
-        const std::lock_guard lock(count->m_mutex);
-        ++count->m_count;
-        count->m_changed.notify_one();
-    }
-
-    void waitFor(int wanted)
-    {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait_for(lock, std::chrono::milliseconds(patience), [&] { return m_count >= wanted; });
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    int m_count = 0;
-};
 
 /// Pushes a stream into a port of its own and waits for so many pictures.
 void decode(const QByteArray &stream, int wanted)
@@ -63,36 +37,6 @@ void decode(const QByteArray &stream, int wanted)
     }
     count.waitFor(wanted);
     library.DecoderFreePort(port);
-}
-
-/// A live stream of 1080p H.264 as a file. False when it cannot be made here.
-bool makeStream(const QString &path)
-{
-    QProcess maker;
-    maker.start(QStringLiteral("ffmpeg"), {QStringLiteral("-v"),
-                                           QStringLiteral("error"),
-                                           QStringLiteral("-f"),
-                                           QStringLiteral("lavfi"),
-                                           QStringLiteral("-i"),
-                                           QStringLiteral("testsrc2=size=1920x1080:rate=25"),
-                                           QStringLiteral("-frames:v"),
-                                           QString::number(pictures),
-                                           QStringLiteral("-c:v"),
-                                           QStringLiteral("libx264"),
-                                           QStringLiteral("-preset"),
-                                           QStringLiteral("veryfast"),
-                                           QStringLiteral("-tune"),
-                                           QStringLiteral("zerolatency"),
-                                           QStringLiteral("-g"),
-                                           QStringLiteral("50"),
-                                           QStringLiteral("-b:v"),
-                                           QStringLiteral("4M"),
-                                           QStringLiteral("-f"),
-                                           QStringLiteral("matroska"),
-                                           QStringLiteral("-live"),
-                                           QStringLiteral("1"),
-                                           path});
-    return maker.waitForFinished(patience) && maker.exitCode() == 0;
 }
 
 /// What the peer says that it took, without its start; nothing when it does not work here.
@@ -118,7 +62,7 @@ QList<Figure> measureDecoding()
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("stream.mkv"));
     QFile file(path);
-    if (!makeStream(path) || !file.open(QFile::ReadOnly))
+    if (!makeStream(path, pictures) || !file.open(QFile::ReadOnly))
         return {};
     const QByteArray stream = file.readAll();
     QList<double> own;

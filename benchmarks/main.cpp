@@ -44,7 +44,10 @@ QList<Subject> subjects()
                  return measureBatches() + measureBatchFrames();
              }},
             {QStringLiteral("decoding"), measureDecoding},
-            {QStringLiteral("live"), measureLiveView},
+            {QStringLiteral("live"),
+             [] {
+                 return measureLiveView() + measureRtspStream();
+             }},
             {QStringLiteral("nine"), measureNineStreams},
             {QStringLiteral("flood"), measureFlood},
             {QStringLiteral("start"),

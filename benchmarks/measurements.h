@@ -17,6 +17,9 @@ class NumberedStream;
 /// Live pictures on the screen, and what 100 live views leave behind.
 [[nodiscard]] QList<Figure> measureLiveView();
 
+/// A live stream of a device over RTSP, against the decoder's own program.
+[[nodiscard]] QList<Figure> measureRtspStream();
+
 /// A command to many devices at once, against the same to one after another.
 [[nodiscard]] QList<Figure> measureBatches();
 

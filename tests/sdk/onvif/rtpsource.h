@@ -4,12 +4,15 @@
 #include <QByteArray>
 #include <QList>
 
+#include <chrono>
+
 namespace sdk::onvif {
 
 struct RtpPacket
 {
     int channel = 0; ///< of the session: two for each track, the second one for its control
     QByteArray bytes;
+    std::chrono::milliseconds due{0}; ///< from the beginning of the playing on
 };
 
 /// A live stream in packets, and its description.

@@ -5,6 +5,7 @@
 
 #include <arpa/inet.h>
 #include <poll.h>
+#include <pthread.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -100,6 +101,26 @@ int RtspServer::connections() const
 {
     const std::lock_guard lock(m_mutex);
     return m_connections;
+}
+
+std::chrono::nanoseconds RtspServer::computingTime() const
+{
+    clockid_t clock{};
+    timespec time{};
+    if (pthread_getcpuclockid(const_cast<std::jthread &>(m_thread).native_handle(), &clock) != 0 ||
+        clock_gettime(clock, &time) != 0) {
+        qFatal("no clock of a thread");
+    }
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+void RtspServer::waitUntil(std::chrono::steady_clock::time_point time) const
+{
+    using namespace std::chrono;
+    const auto wait = duration_cast<milliseconds>(time - steady_clock::now());
+    pollfd wake = {m_wake, POLLIN, 0};
+    if (wait.count() > 0)
+        poll(&wake, 1, static_cast<int>(wait.count()));
 }
 
 int RtspServer::waitFor(int descriptor, int events, const std::stop_token &stop) const
@@ -239,7 +260,9 @@ bool RtspServer::isAuthorised(const QByteArray &method, const QByteArray &reques
 
 bool RtspServer::play(int connection, const std::stop_token &stop)
 {
+    const auto begin = std::chrono::steady_clock::now();
     for (const RtpPacket &packet : m_script.packets) {
+        waitUntil(begin + packet.due);
         if (m_script.onlyDatagrams) {
             const sockaddr_in address = loopback(m_dataPorts.value(packet.channel));
             sendto(m_datagrams, packet.bytes.constData(), static_cast<std::size_t>(packet.bytes.size()), 0,

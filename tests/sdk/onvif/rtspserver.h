@@ -5,6 +5,7 @@
 
 #include <QHash>
 
+#include <chrono>
 #include <mutex>
 #include <thread>
 
@@ -50,6 +51,9 @@ public:
     [[nodiscard]] qsizetype requestsOf(const QByteArray &text) const;
     [[nodiscard]] int connections() const;
 
+    /// Time that the server's own thread has spent computing.
+    [[nodiscard]] std::chrono::nanoseconds computingTime() const;
+
 private:
     void run(const std::stop_token &stop);
     void serve(int connection, const std::stop_token &stop);
@@ -62,6 +66,8 @@ private:
     [[nodiscard]] bool send(int connection, const QByteArray &bytes, const std::stop_token &stop) const;
     /// Returns what is possible of `events`; 0 at the end.
     [[nodiscard]] int waitFor(int descriptor, int events, const std::stop_token &stop) const;
+
+    void waitUntil(std::chrono::steady_clock::time_point time) const;
 
     const RtspScript m_script;
     int m_port = 0; // before the socket that finds it

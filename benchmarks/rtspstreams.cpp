@@ -1,0 +1,164 @@
+#include "benchmarks/madestream.h"
+#include "benchmarks/measurements.h"
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+#include "sdk/onvif/live/rtspstream.h"
+#include "tests/sdk/onvif/rtspserver.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <ctime>
+#include <thread>
+
+namespace {
+
+constexpr int pictures = 300;
+constexpr int runs = 5;
+constexpr int patience = 120000;
+constexpr std::uint32_t bufferSize = 8388608;
+constexpr double millisecondsPerSecond = 1000;
+constexpr std::chrono::milliseconds period{40};
+
+double processMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    constexpr double nanosecondsPerMillisecond = 1e6;
+    return static_cast<double>(time.tv_sec) * millisecondsPerSecond +
+           static_cast<double>(time.tv_nsec) / nanosecondsPerMillisecond;
+}
+
+/// A stream as a device sends it, as fast as it is taken.
+sdk::onvif::RtspScript scriptOf(const QByteArray &container)
+{
+    const sdk::onvif::RtpSource source = sdk::onvif::RtpSource::of(container);
+    sdk::onvif::RtspScript script;
+    script.description = source.description;
+    script.packets = source.packets;
+    script.closesAtEnd = true;
+    return script;
+}
+
+/// The same at the pace of its pictures.
+sdk::onvif::RtspScript paced(sdk::onvif::RtspScript script)
+{
+    constexpr qsizetype timePlace = 4;
+    constexpr qsizetype timeSize = 4;
+    QByteArray last;
+    std::chrono::milliseconds due{-period};
+    for (sdk::onvif::RtpPacket &packet : script.packets) {
+        if (packet.channel == 0 && packet.bytes.mid(timePlace, timeSize) != last) {
+            last = packet.bytes.mid(timePlace, timeSize);
+            due += period;
+        }
+        packet.due = std::max(due, std::chrono::milliseconds(0));
+    }
+    return script;
+}
+
+/// Receives and decodes until so many pictures have come.
+void watch(const sdk::onvif::RtspServer &server, int wanted)
+{
+    sdk::ffmpeg::FfmpegDecoderLibrary library;
+    PictureCount count;
+    std::int32_t port = -1;
+    library.DecoderAllocPort(port);
+    library.DecoderOpenStream(port, nullptr, 0, bufferSize);
+    library.DecoderSetDecodeCallback(port, &PictureCount::handle, &count);
+    library.DecoderPlay(port, 0);
+    sdk::onvif::RtspOrder order;
+    order.url = server.url();
+    sdk::onvif::RtspStream stream(
+        order,
+        [&](std::span<const std::uint8_t> bytes) {
+            while (!library.DecoderInputData(port, bytes.data(), static_cast<std::uint32_t>(bytes.size())))
+                std::this_thread::sleep_for(std::chrono::milliseconds(1)); // its buffer is full
+        },
+        [](sdk::onvif::StreamEnd, const std::string &) {});
+    count.waitFor(wanted);
+    stream.stop();
+    library.DecoderFreePort(port);
+}
+
+/// Runs the decoder's own program on a stream. Returns what it said, empty when it does not work here.
+QString peerOutput(const sdk::onvif::RtspServer &server, const QStringList &options)
+{
+    QProcess peer;
+    peer.setProcessChannelMode(QProcess::MergedChannels);
+    peer.start(QStringLiteral("ffmpeg"),
+               QStringList{QStringLiteral("-benchmark"), QStringLiteral("-threads"), QStringLiteral("1"),
+                           QStringLiteral("-rtsp_transport"), QStringLiteral("tcp"), QStringLiteral("-i"),
+                           QString::fromStdString(server.url())} +
+                   options + QStringList{QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")});
+    peer.waitForFinished(patience);
+    return QString::fromUtf8(peer.readAll());
+}
+
+std::optional<double> peerComputing(const sdk::onvif::RtspServer &server)
+{
+    static const QRegularExpression said(QStringLiteral("bench: utime=([0-9.]+)s stime=([0-9.]+)s"));
+    const QRegularExpressionMatch match = said.match(peerOutput(server, {}));
+    if (!match.hasMatch())
+        return std::nullopt;
+    return (match.captured(1).toDouble() + match.captured(2).toDouble()) * millisecondsPerSecond;
+}
+
+Figure measureComputing(const sdk::onvif::RtspScript &script)
+{
+    QList<double> own;
+    QList<double> peer;
+    for (int run = 0; run < runs; ++run) { // in turn, so that both feel the same unrest
+        const sdk::onvif::RtspServer server(script);
+        const double before = processMilliseconds();
+        watch(server, pictures);
+        const std::chrono::duration<double, std::milli> serving = server.computingTime();
+        own.append(processMilliseconds() - before - serving.count());
+        if (const std::optional<double> time = peerComputing(server))
+            peer.append(*time);
+    }
+    return {.subject = QStringLiteral("computing for %1 pictures of 1080p H.264 over RTSP").arg(pictures),
+            .value = median(own),
+            .unit = QStringLiteral("ms"),
+            .budget = 4000,
+            .peer = peer.isEmpty() ? std::nullopt : std::optional(median(peer)),
+            .largestRatio = 1.2,
+            .peerName = QStringLiteral("ffmpeg -f null")};
+}
+
+Figure measureFirstPicture(const sdk::onvif::RtspScript &script)
+{
+    const sdk::onvif::RtspServer server(script);
+    QList<double> own;
+    QList<double> peer;
+    for (int run = 0; run < runs; ++run) {
+        own.append(medianMilliseconds(1, [&] { watch(server, 1); }));
+        peer.append(medianMilliseconds(1, [&] {
+            peerOutput(server, {QStringLiteral("-frames:v"), QStringLiteral("1")});
+        }));
+    }
+    return {.subject = QStringLiteral("from the start of a stream over RTSP to its first picture, 1080p"),
+            .value = median(own),
+            .unit = QStringLiteral("ms"),
+            .budget = 500,
+            .peer = median(peer),
+            .largestRatio = 1,
+            .peerName = QStringLiteral("ffmpeg -f null")};
+}
+
+} // namespace
+
+QList<Figure> measureRtspStream()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("stream.mkv"));
+    QFile file(path);
+    if (!makeStream(path, pictures) || !file.open(QFile::ReadOnly)) {
+        qWarning("a live stream cannot be made here");
+        return {};
+    }
+    const sdk::onvif::RtspScript script = scriptOf(file.readAll());
+    return {measureComputing(script), measureFirstPicture(paced(script))};
+}
