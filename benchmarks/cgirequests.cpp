@@ -1,8 +1,8 @@
+#include "benchmarks/apacheserver.h"
 #include "benchmarks/measurements.h"
 
 #include "cgi/cgiprocedure.h"
 #include "cgi/curltransport.h"
-#include "tests/cgi/apacheserver.h"
 
 #include <QLoggingCategory>
 #include <QProcess>
