@@ -3740,6 +3740,14 @@ File path: </translation>
         <source>设备忙，请稍后重试</source>
         <translation>The device is busy, try later</translation>
     </message>
+    <message>
+        <source>登录已失效，请重新登录</source>
+        <translation>The login is no longer valid, log in again</translation>
+    </message>
+    <message>
+        <source>设备不接受该值</source>
+        <translation>The device does not accept this value</translation>
+    </message>
 </context>
 <context>
     <name>SearchSettingsDialog</name>
@@ -4444,6 +4452,10 @@ File path: </translation>
     <message>
         <source>请先在左侧勾选设备</source>
         <translation>First tick devices on the left</translation>
+    </message>
+    <message>
+        <source>设备的接口没有此功能</source>
+        <translation>The interface of the devices does not have this function</translation>
     </message>
 </context>
 <context>

@@ -3694,6 +3694,14 @@
         <source>设备忙，请稍后重试</source>
         <translation>设备忙，请稍后重试</translation>
     </message>
+    <message>
+        <source>登录已失效，请重新登录</source>
+        <translation>登录已失效，请重新登录</translation>
+    </message>
+    <message>
+        <source>设备不接受该值</source>
+        <translation>设备不接受该值</translation>
+    </message>
 </context>
 <context>
     <name>SearchSettingsDialog</name>
@@ -4392,6 +4400,10 @@
     <message>
         <source>请先在左侧勾选设备</source>
         <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message>
+        <source>设备的接口没有此功能</source>
+        <translation>设备的接口没有此功能</translation>
     </message>
 </context>
 <context>
