@@ -15,8 +15,9 @@ using ffmpeg::TestPort;
 namespace {
 
 constexpr int pictures = 12;
-constexpr int keyEvery = 5;   // as many as look different
-constexpr int samples = 1024; // for each picture
+constexpr int keyEvery = 5;                                // as many as look different
+constexpr int samples = 1024;                              // for each picture
+const QByteArray header = QByteArray::fromHex("1a45dfa3"); // begins the container
 
 /// What a device encodes and sends.
 struct Sending
@@ -158,12 +159,12 @@ void TestRtspStream::anotherSizeBeginsAnew()
     QTRY_COMPARE(widths(), QStringLiteral("128 192"));
     QTRY_VERIFY(numbersOf(port.receiver.pictures()).endsWith(QStringLiteral("0 1 2 3 4 0 1")));
     QCOMPARE(port.status().damages, 0U);
+    QCOMPARE(watcher.bytes().count(header), 2);
 }
 
 /// The first picture asks for it, so the next key picture brings a header.
 void TestRtspStream::beginsAnewWhenAsked()
 {
-    const QByteArray header = QByteArray::fromHex("1a45dfa3");
     RtspScript script;
     const RtpSource source = Sending().source();
     script.description = source.description;
