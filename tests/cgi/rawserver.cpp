@@ -93,6 +93,21 @@ QList<QByteArray> RawServer::requests() const
     return m_requests;
 }
 
+/// Whether the headers are there, and as much of a body as they promise.
+static bool isWhole(const QByteArray &request)
+{
+    const qsizetype headers = request.indexOf("\r\n\r\n");
+    if (headers < 0)
+        return false;
+    const QByteArray name = "\r\ncontent-length:";
+    const qsizetype field = request.left(headers).toLower().indexOf(name);
+    if (field < 0)
+        return true;
+    const qsizetype value = field + name.size();
+    const int length = request.mid(value, request.indexOf("\r\n", value) - value).trimmed().toInt();
+    return request.size() >= headers + 4 + length;
+}
+
 void RawServer::serve()
 {
     while (!m_ends) {
@@ -110,7 +125,7 @@ void RawServer::serve()
 void RawServer::serveConnection(int socket)
 {
     QByteArray request;
-    while (!m_ends && !request.endsWith("\r\n\r\n")) {
+    while (!m_ends && !isWhole(request)) {
         if (!isReady(socket, POLLIN, wakeUpInterval))
             continue;
         char buffer[4096];

@@ -18,7 +18,7 @@ public:
     {
     }
 
-    /// The request's line and headers.
+    /// The request's line and headers, and its body.
     [[nodiscard]] const QByteArray &request() const { return m_request; }
     /// Counted from 1 over the life of the server.
     [[nodiscard]] int number() const { return m_number; }

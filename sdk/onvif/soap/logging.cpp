@@ -1,3 +1,3 @@
 #include "sdk/onvif/soap/logging.h"
 
-Q_LOGGING_CATEGORY(logOnvif, "configtools.sdk.onvif")
+Q_LOGGING_CATEGORY(logOnvif, "configtools.sdk.onvif", QtInfoMsg)

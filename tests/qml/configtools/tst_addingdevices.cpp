@@ -41,6 +41,11 @@ public:
     QSemaphore gate;     ///< lets one device be added for each of its resources
     QThreadPool threads;
 
+    QVariant getConfigData(const QString &, const QVariant &) override
+    {
+        return QVariantMap{{"defaultPort", 37777}};
+    }
+
     DeviceStep addingStep(const DeviceToAdd &device) override
     {
         asked.append(device.address + ' ' + device.password);
