@@ -20,21 +20,21 @@ OVTableCell {
 
         OVLinkButton {
             enabled: root.editable && !root.upgrading
-            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "edit" + root.rowIndex
             text: qsTr("编辑")
             toolTip: root.upgrading ? qsTr("设备正在升级，不能修改IP地址") : qsTr("修改这台设备的IP地址")
             onClicked: root.editRequested(root.rowIndex)
         }
         OVLinkButton {
-            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "detail" + root.rowIndex
             text: qsTr("详情")
             toolTip: qsTr("显示这台设备的全部信息")
             onClicked: root.detailRequested(root.rowIndex)
         }
         OVLinkButton {
-            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "web" + root.rowIndex
             text: "web"
             toolTip: qsTr("在浏览器中打开设备网页")
@@ -42,7 +42,7 @@ OVTableCell {
         }
         OVLinkButton {
             enabled: root.initialised
-            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "live" + root.rowIndex
             text: "live"
             toolTip: root.initialised ? qsTr("查看实时画面") : qsTr("未初始化的设备没有实时画面")

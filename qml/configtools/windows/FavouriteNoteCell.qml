@@ -51,7 +51,7 @@ OVTableCell {
         anchors.verticalCenter: parent.verticalCenter
         implicitWidth: Theme.unit * 3
         implicitHeight: Theme.unit * 3
-        focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+        focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
         iconName: "note"
         iconSize: Theme.smallIconSize
         objectName: "editNote" + root.rowIndex

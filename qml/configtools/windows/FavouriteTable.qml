@@ -50,7 +50,7 @@ OVTable {
             OVLinkButton {
                 anchors.verticalCenter: parent.verticalCenter
                 enabled: root.editable
-                focusPolicy: actions.current ? Qt.StrongFocus : Qt.NoFocus
+                focusPolicy: actions.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 ink: Theme.colours.bad
                 objectName: "deleteFavourite" + actions.rowIndex
                 text: qsTr("删除")

@@ -57,7 +57,7 @@ OVTableCell {
         OVLinkButton {
             id: way
             anchors.verticalCenter: parent.verticalCenter
-            focusPolicy: root.current ? Qt.StrongFocus : Qt.NoFocus
+            focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "nameWay" + root.rowIndex
             text: root.trouble === ChannelNameForm.TooLong ? qsTr("截短") : qsTr("撤销")
             toolTip: root.trouble === ChannelNameForm.TooLong ? qsTr("保留设备能存下的部分") : qsTr("恢复设备现有的名称")
