@@ -16,7 +16,8 @@ constexpr std::int64_t moment = 500;
 } // namespace
 
 ServedDevice::ServedDevice(const Parts &parts, QString mac, std::unique_ptr<DeviceInterface> interface)
-    : m_parts(parts), m_mac(std::move(mac)), m_interface(std::move(interface))
+    : m_parts(parts), m_mac(std::move(mac)), m_interface(std::move(interface)),
+      m_rtsp(parts.rtsp, m_mac, m_interface->space())
 {
 }
 
@@ -66,13 +67,8 @@ void ServedDevice::appear(const Shape &shape)
         qCWarning(siteLog, "%ls", qUtf16Printable(error));
         return;
     }
-    m_httpListener = m_interface->openListener(shape.httpPort);
-    if (m_httpListener.isOpen()) {
-        const int listener = m_httpListener.number();
-        m_parts.poller.watch(listener, [this, listener] { m_parts.http.accept(listener, m_mac); });
-    } else {
-        qCWarning(siteLog, "%ls cannot listen at port %d", qUtf16Printable(m_mac), shape.httpPort);
-    }
+    listen(m_httpListener, shape.httpPort, [this](int listener) { m_parts.http.accept(listener, m_mac); });
+    listen(m_rtspListener, rtspPort, [this](int listener) { m_rtsp.accept(listener); });
     m_discovery =
         std::make_unique<DiscoveryPort>(m_parts.site, m_parts.poller, m_parts.options, m_mac, *m_interface);
     if (m_discovery->isOpen())
@@ -82,17 +78,34 @@ void ServedDevice::appear(const Shape &shape)
                   DiscoveryPort::port);
 }
 
+void ServedDevice::listen(FileDescriptor &listener, int port, std::function<void(int listener)> accept)
+{
+    listener = m_interface->openListener(port);
+    const int number = listener.number();
+    if (listener.isOpen())
+        m_parts.poller.watch(number, [number, accept = std::move(accept)] { accept(number); });
+    else
+        qCWarning(siteLog, "%ls cannot listen at port %d", qUtf16Printable(m_mac), port);
+}
+
+void ServedDevice::stopListening(FileDescriptor &listener)
+{
+    if (listener.isOpen())
+        m_parts.poller.remove(listener.number());
+    listener.reset();
+}
+
 void ServedDevice::disappear()
 {
     if (!m_shape)
         return;
     m_shape.reset();
     m_discovery.reset();
-    if (m_httpListener.isOpen())
-        m_parts.poller.remove(m_httpListener.number());
-    m_httpListener.reset();
+    stopListening(m_httpListener);
+    stopListening(m_rtspListener);
     m_interface->bringDown();
     m_parts.http.closeAllOf(m_mac);
+    m_rtsp.closeClients();
 }
 
 } // namespace site

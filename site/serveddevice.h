@@ -3,6 +3,7 @@
 
 #include "site/discovery/discoveryport.h"
 #include "site/network/deviceinterface.h"
+#include "site/rtsp/rtspport.h"
 #include "site/siteoptions.h"
 
 #include "sdk/demo/scene.h"
@@ -25,6 +26,7 @@ public:
         const SiteOptions &options;
         Poller &poller;
         HttpServer &http;
+        RtspContext &rtsp;
     };
 
     ServedDevice(const Parts &parts, QString mac, std::unique_ptr<DeviceInterface> interface);
@@ -52,6 +54,8 @@ private:
     [[nodiscard]] static Shape shapeOf(const sdk::demo::SceneDevice &device);
 
     void appear(const Shape &shape);
+    void listen(FileDescriptor &listener, int port, std::function<void(int listener)> accept);
+    void stopListening(FileDescriptor &listener);
     void disappear();
 
     const Parts m_parts;
@@ -61,7 +65,9 @@ private:
     Shape m_wanted;               // as the device is
     std::int64_t m_wantedSince = 0;
     std::unique_ptr<DiscoveryPort> m_discovery;
+    RtspPort m_rtsp;
     FileDescriptor m_httpListener;
+    FileDescriptor m_rtspListener;
 };
 
 } // namespace site

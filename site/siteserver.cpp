@@ -14,8 +14,9 @@ using namespace Qt::StringLiterals;
 namespace site {
 
 SiteServer::SiteServer(DemoSite &site, const SiteOptions &options)
-    : m_site(site), m_options(options), m_context{site, options, m_logins}, m_web(m_context),
-      m_http(m_web, site.clock())
+    : m_site(site), m_options(options),
+      m_uploads(site, m_poller), m_context{site, options, m_logins, m_keyPictures, m_uploads},
+      m_web(m_context), m_http(m_web, site.clock()), m_rtsp{site, options, m_logins, m_keyPictures, m_poller}
 {
 }
 
@@ -23,6 +24,10 @@ SiteServer::~SiteServer()
 {
     for (const std::unique_ptr<ServedDevice> &device : m_devices)
         device->leave();
+    // Nothing accepts connections any more, and what the poller's thread still does must end before its
+    // parts.
+    m_devices.clear();
+    m_poller.stop();
 }
 
 QString SiteServer::objectionTo(const SceneDevice &device)
@@ -42,7 +47,7 @@ bool SiteServer::start(const QString &interfaceName, QString *error)
             interfaceName, QString::fromLocal8Bit(std::strerror(errno)));
         return false;
     }
-    const ServedDevice::Parts parts = {m_site, m_options, m_poller, m_http};
+    const ServedDevice::Parts parts = {m_site, m_options, m_poller, m_http, m_rtsp};
     const QList<SceneDevice> devices = m_site.devices();
     for (const SceneDevice &device : devices) {
         if (!objectionTo(device).isEmpty())

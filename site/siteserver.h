@@ -3,8 +3,10 @@
 
 #include "site/http/httpserver.h"
 #include "site/network/poller.h"
+#include "site/rtsp/keypictures.h"
 #include "site/serveddevice.h"
 #include "site/services/deviceweb.h"
+#include "site/services/firmwareuploads.h"
 
 #include <QStringList>
 
@@ -44,10 +46,13 @@ private:
     sdk::demo::DemoSite &m_site;
     const SiteOptions &m_options;
     DeviceLogins m_logins;
+    KeyPictures m_keyPictures;
+    Poller m_poller;
+    FirmwareUploads m_uploads;
     ServiceContext m_context;
     DeviceWeb m_web;
     HttpServer m_http;
-    Poller m_poller; // its handlers use what is above
+    RtspContext m_rtsp;
     std::vector<std::unique_ptr<ServedDevice>> m_devices;
 };
 

@@ -20,8 +20,15 @@ Poller::Poller()
 
 Poller::~Poller()
 {
+    stop();
+}
+
+void Poller::stop()
+{
     m_thread.request_stop();
     wake();
+    if (m_thread.joinable())
+        m_thread.join();
 }
 
 void Poller::watch(int socket, Handler readable)

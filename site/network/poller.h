@@ -25,6 +25,9 @@ public:
     Poller(const Poller &) = delete;
     Poller &operator=(const Poller &) = delete;
 
+    /// Ends the thread: no handler runs any more after the return.
+    void stop();
+
     /// Calls `readable` whenever there is something to read, until remove().
     void watch(int socket, Handler readable);
 

@@ -1,6 +1,7 @@
 // The operations of the device service.
 #include "site/services/devicedescription.h"
 #include "site/services/devicenetwork.h"
+#include "site/services/devicesystem.h"
 #include "site/services/devicetime.h"
 #include "site/services/deviceusers.h"
 #include "site/services/services.h"
@@ -33,6 +34,9 @@ ServiceOperations deviceOperations()
         ServiceOperation{"GetNetworkDefaultGateway", Access::ReadSystem, getNetworkDefaultGateway},
         ServiceOperation{"SetNetworkDefaultGateway", Access::WriteSystem, setNetworkDefaultGateway},
         ServiceOperation{"GetNetworkProtocols", Access::ReadSystem, getNetworkProtocols},
+        ServiceOperation{"SystemReboot", Access::WriteSystem, systemReboot},
+        ServiceOperation{"SetSystemFactoryDefault", Access::WriteSystem, setSystemFactoryDefault},
+        ServiceOperation{"StartFirmwareUpgrade", Access::WriteSystem, startFirmwareUpgrade},
         ServiceOperation{"GetDNS", Access::ReadSystem, getDns},
     };
     return operations;

@@ -2,6 +2,7 @@
 
 #include "sdk/demo/internal/httpresponder.h"
 #include "site/deviceidentity.h"
+#include "site/services/firmwareuploads.h"
 #include "site/services/services.h"
 
 using namespace sdk::demo;
@@ -9,9 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace site {
 
-BodyTaker DeviceWeb::bodyTaker(const HttpReceiver &, const HttpRequest &)
+BodyTaker DeviceWeb::bodyTaker(const HttpReceiver &receiver, const HttpRequest &head)
 {
-    return {};
+    const QByteArray path = readHttpTarget(head.target).path;
+    if (head.method != "POST" || !FirmwareUploads::isUploadPath(path))
+        return {};
+    return m_context.uploads.taker(receiver, path, head.bodyLength);
 }
 
 HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
@@ -24,6 +28,8 @@ HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &hea
         reply.fields.append("Allow: POST");
         return reply;
     }
+    if (head.method == "POST" && FirmwareUploads::isUploadPath(target.path))
+        return m_context.uploads.finish(receiver, target.path);
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     if (!device || device->httpPort == 0)
         return HttpReply::line(HttpStatus::NotFound, u"The device has no web page"_s);

@@ -16,12 +16,17 @@
 
 namespace site {
 
+class FirmwareUploads;
+class KeyPictures;
+
 /// What the services of all devices work with.
 struct ServiceContext
 {
     sdk::demo::DemoSite &site;
     const SiteOptions &options;
     DeviceLogins &logins;
+    KeyPictures &keyPictures;
+    FirmwareUploads &uploads;
 };
 
 /// One request to one device, which has been let in.

@@ -34,10 +34,18 @@ bool isServicePath(const QByteArray &path)
                        [&path](const ServiceDescription &service) { return path == service.path; });
 }
 
-ServiceOperations operationsOf(std::string_view prefix, const DeviceManner &)
+ServiceOperations operationsOf(std::string_view prefix, const DeviceManner &manner)
 {
     if (prefix == "tds")
         return deviceOperations();
+    if (prefix == "trt")
+        return mediaOperations();
+    if (prefix == "tr2" && manner.hasMedia2)
+        return media2Operations();
+    if (prefix == "timg")
+        return imagingOperations();
+    if (prefix == "tmd")
+        return deviceIoOperations();
     return {};
 }
 

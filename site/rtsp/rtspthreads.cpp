@@ -1,0 +1,47 @@
+#include "site/rtsp/rtspclasses.h"
+
+namespace {
+
+struct SiteRtspThreads
+{
+    GstRTSPThreadPool parent;
+    const site::NetworkSpace *space;
+};
+
+struct SiteRtspThreadsClass
+{
+    GstRTSPThreadPoolClass parent_class;
+};
+
+/// Sockets that the thread opens belong to the device then. Every thread of these pools comes through here
+/// before it does anything.
+void enterThread(GstRTSPThreadPool *pool, GstRTSPThread *)
+{
+    reinterpret_cast<SiteRtspThreads *>(pool)->space->enter();
+}
+
+void initialiseClass(gpointer type, gpointer)
+{
+    static_cast<SiteRtspThreadsClass *>(type)->parent_class.thread_enter = enterThread;
+}
+
+GType siteRtspThreadsType()
+{
+    static const GType type = g_type_register_static_simple(GST_TYPE_RTSP_THREAD_POOL, "SiteRtspThreads",
+                                                            sizeof(SiteRtspThreadsClass), initialiseClass,
+                                                            sizeof(SiteRtspThreads), nullptr, GTypeFlags());
+    return type;
+}
+
+} // namespace
+
+namespace site {
+
+GstRTSPThreadPool *newThreadPool(RtspDevice &device)
+{
+    auto *made = static_cast<SiteRtspThreads *>(g_object_new(siteRtspThreadsType(), nullptr));
+    made->space = &device.space;
+    return GST_RTSP_THREAD_POOL(made);
+}
+
+} // namespace site

@@ -1,0 +1,175 @@
+#include "site/rtsp/streamfeeder.h"
+
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/demo/internal/liveproduction.h"
+#include "site/logging.h"
+#include "site/rtsp/keypictures.h"
+#include "site/rtsp/pipelinetext.h"
+
+#include <cmath>
+
+using namespace sdk::demo;
+
+namespace site {
+
+namespace {
+
+constexpr double millisecondsOfSecond = 1000;
+
+void setCaps(GstAppSrc *source, const QByteArray &text)
+{
+    GstCaps *caps = gst_caps_from_string(text.constData());
+    gst_app_src_set_caps(source, caps);
+    gst_caps_unref(caps);
+}
+
+/// Whether a pipeline goes on when the settings change in that way.
+bool isSameKind(const StreamSettings &one, const StreamSettings &other)
+{
+    return one.codec == other.codec && one.sound == other.sound &&
+           one.samplingFrequency == other.samplingFrequency;
+}
+
+} // namespace
+
+StreamFeeder::StreamFeeder(DemoSite &site, KeyPictures &keyPictures, Order order)
+    : m_site(site), m_keyPictures(keyPictures), m_order(std::move(order))
+{
+    gst_object_ref(m_order.pictures);
+    if (m_order.sound)
+        gst_object_ref(m_order.sound);
+    m_thread = std::jthread([this](const std::stop_token &stop) { run(stop); });
+}
+
+StreamFeeder::~StreamFeeder()
+{
+    stop();
+    gst_object_unref(m_order.pictures);
+    if (m_order.sound)
+        gst_object_unref(m_order.sound);
+}
+
+void StreamFeeder::stop()
+{
+    m_thread.request_stop();
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void StreamFeeder::run(const std::stop_token &stop)
+{
+    const int asked = m_keyPictures.count(m_order.mac, m_order.stream);
+    const std::optional<SceneDevice> device = m_site.device(m_order.mac);
+    std::unique_ptr<LiveProduction> production =
+        device ? LiveProduction::begin(*device, m_order.stream.channel, m_order.stream.kind, m_order.settings)
+               : nullptr;
+    if (production && feedBeginning(*production)) {
+        m_keyPictures.waitAfter(asked, m_order.mac, m_order.stream, stop);
+        feedWhilePlayed(std::move(production), stop);
+    }
+    if (!stop.stop_requested())
+        endStreams();
+}
+
+bool StreamFeeder::feedBeginning(LiveProduction &production)
+{
+    setCaps(m_order.pictures, pictureCaps(production.settings()));
+    if (m_order.sound)
+        setCaps(m_order.sound, soundCaps(production.settings(), production.soundHead()));
+    // A frame of sound can take the time of some pictures.
+    constexpr int mostPictures = 50;
+    for (; m_picture == 0 || (m_order.sound && !m_hasSound && m_picture < mostPictures); ++m_picture) {
+        EncodedPackets packets;
+        if (!production.makePicture(m_picture, deviceTime(), m_picture == 0, packets) ||
+            !feed(production, packets))
+            return false;
+    }
+    return true;
+}
+
+void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, const std::stop_token &stop)
+{
+    int asked = -1; // the first picture for whoever plays needs no earlier one
+    int pictures = 0;
+    std::int64_t begin = m_site.clock().now();
+    std::int64_t beginPicture = m_picture;
+    while (!stop.stop_requested()) {
+        const double rate = production->settings().frameRate;
+        const auto due =
+            begin + std::llround(static_cast<double>(m_picture - beginPicture) * millisecondsOfSecond / rate);
+        if (!m_site.clock().waitUntil(due, stop))
+            return;
+        const std::optional<SceneDevice> device = m_site.device(m_order.mac);
+        if (!device || !device->isListening(m_site.clock().now()) || device->isUninitialised())
+            return;
+        if (const auto drop = device->fault(Fault::DropsStreamAfter); drop && pictures >= drop->number) {
+            m_order.dropped();
+            return;
+        }
+        const auto settings = streamSettings(*device, m_order.stream.channel, m_order.stream.kind);
+        if (!settings || !isSameKind(*settings, m_order.settings))
+            return;
+        if (*settings != production->settings()) {
+            production =
+                LiveProduction::begin(*device, m_order.stream.channel, m_order.stream.kind, *settings);
+            if (!production)
+                return;
+            setCaps(m_order.pictures, pictureCaps(*settings));
+            begin = due;
+            beginPicture = m_picture = 0;
+            asked = -1;
+        }
+        const int count = m_keyPictures.count(m_order.mac, m_order.stream);
+        EncodedPackets packets;
+        if (!production->makePicture(m_picture, deviceTime(), count != asked, packets) ||
+            !feed(*production, packets))
+            return;
+        asked = count;
+        ++pictures;
+        // What the computer cannot make in time is left out.
+        const double late = static_cast<double>(m_site.clock().now() - due) * rate / millisecondsOfSecond;
+        m_picture += 1 + (late > rate / 4 ? static_cast<std::int64_t>(late) : 0);
+    }
+}
+
+bool StreamFeeder::feed(const LiveProduction &production, const EncodedPackets &packets)
+{
+    for (const AvPointer<AVPacket> &packet : packets) {
+        if (packet->stream_index == pictureTrack) {
+            const bool isKey = (packet->flags & AV_PKT_FLAG_KEY) != 0;
+            if (!push(m_order.pictures, *packet, isKey ? production.pictureHead() : QByteArray()))
+                return false;
+        } else if (m_order.sound) {
+            m_hasSound = true;
+            if (!push(m_order.sound, *packet, {}))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool StreamFeeder::push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before)
+{
+    const auto headSize = static_cast<gsize>(before.size());
+    const auto size = static_cast<gsize>(packet.size);
+    GstBuffer *buffer = gst_buffer_new_allocate(nullptr, headSize + size, nullptr);
+    gst_buffer_fill(buffer, 0, before.constData(), headSize);
+    gst_buffer_fill(buffer, headSize, packet.data, size);
+    return gst_app_src_push_buffer(destination, buffer) == GST_FLOW_OK;
+}
+
+std::int64_t StreamFeeder::deviceTime() const
+{
+    const std::optional<SceneDevice> device = m_site.device(m_order.mac);
+    return m_site.clock().now() + (device ? device->maintenance.clockAhead.count() : 0);
+}
+
+void StreamFeeder::endStreams()
+{
+    gst_app_src_end_of_stream(m_order.pictures);
+    if (m_order.sound)
+        gst_app_src_end_of_stream(m_order.sound);
+}
+
+} // namespace site

@@ -1,0 +1,88 @@
+// The operations of the imaging service.
+#include "site/services/imagesettings.h"
+#include "site/services/services.h"
+
+#include <array>
+
+using namespace sdk::demo;
+using namespace Qt::StringLiterals;
+
+namespace site {
+
+namespace {
+
+ServiceResult noSuchSource()
+{
+    return SoapFault::invalid("ter:NoSource", u"There is no such video source"_s);
+}
+
+/// Nothing, with an objection, for a source that is not there or not connected.
+std::optional<ImageSettings> askedSettings(const ServiceCall &call, int &channel, ServiceResult &objection)
+{
+    const std::optional<int> asked =
+        channelOf(call.device, textAt(call.request, "timg:VideoSourceToken").value_or(QString()));
+    std::optional<ImageSettings> settings = asked ? imageSettings(call.device, *asked) : std::nullopt;
+    if (settings)
+        channel = *asked;
+    else
+        objection = asked ? ServiceResult(SoapFault{false, "ter:ActionNotSupported", "ter:NoImagingForSource",
+                                                    u"The picture of this source cannot be set"_s})
+                          : noSuchSource();
+    return settings;
+}
+
+ServiceResult getServiceCapabilities(ServiceCall &call)
+{
+    call.response.add("timg:Capabilities").attribute("ImageStabilization", false).attribute("Presets", false);
+    return std::nullopt;
+}
+
+ServiceResult getImagingSettings(ServiceCall &call)
+{
+    int channel = 0;
+    ServiceResult objection;
+    if (const std::optional<ImageSettings> settings = askedSettings(call, channel, objection))
+        writeImageSettings(call.response.add("timg:ImagingSettings"), *settings);
+    return objection;
+}
+
+ServiceResult setImagingSettings(ServiceCall &call)
+{
+    int channel = 0;
+    ServiceResult objection;
+    std::optional<ImageSettings> settings = askedSettings(call, channel, objection);
+    if (!settings)
+        return objection;
+    if (!readImageSettings(childNamed(call.request, "timg:ImagingSettings"), *settings))
+        return SoapFault::invalid("ter:SettingsInvalid", u"The device does not know such settings"_s);
+    return resultOf(takeImageSettings(call, channel, *settings),
+                    SoapFault::invalid("ter:SettingsInvalid", u"The device refuses these settings"_s));
+}
+
+ServiceResult getOptions(ServiceCall &call)
+{
+    int channel = 0;
+    ServiceResult objection;
+    const std::optional<ImageSettings> settings = askedSettings(call, channel, objection);
+    if (!settings)
+        return objection;
+    if (call.device.hasFault(Fault::RefusesCapabilities))
+        return SoapFault::failed(u"The device does not tell what it can do"_s);
+    writeImageOptions(call.response.add("timg:ImagingOptions"), call.device, *settings);
+    return std::nullopt;
+}
+
+} // namespace
+
+ServiceOperations imagingOperations()
+{
+    static constexpr std::array operations = {
+        ServiceOperation{"GetServiceCapabilities", Access::BeforeLogin, getServiceCapabilities},
+        ServiceOperation{"GetImagingSettings", Access::ReadMedia, getImagingSettings},
+        ServiceOperation{"SetImagingSettings", Access::Actuate, setImagingSettings},
+        ServiceOperation{"GetOptions", Access::ReadMedia, getOptions},
+    };
+    return operations;
+}
+
+} // namespace site

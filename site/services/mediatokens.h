@@ -1,0 +1,61 @@
+// How services call the streams of a device.
+#pragma once
+
+#include "sdk/demo/scene.h"
+#include "sdk/encodeblocks.h"
+#include "sdk/streamblocks.h"
+
+#include <QList>
+
+#include <compare>
+#include <optional>
+
+namespace site {
+
+/// One stream of one channel.
+struct MediaStream
+{
+    int channel = 0; ///< from 0
+    sdk::LiveStreamKind kind = sdk::LiveStreamKind::Main;
+
+    auto operator<=>(const MediaStream &) const = default;
+
+    [[nodiscard]] sdk::StreamKind encodeKind() const
+    {
+        return kind == sdk::LiveStreamKind::Sub ? sdk::StreamKind::Sub : sdk::StreamKind::MainNormal;
+    }
+};
+
+/// What a token names.
+enum class MediaObject
+{
+    Profile,
+    VideoEncoder,
+    AudioEncoder,
+};
+
+[[nodiscard]] QString tokenOf(MediaObject object, const MediaStream &stream);
+[[nodiscard]] QString videoSourceToken(int channel);
+[[nodiscard]] QString videoSourceConfigurationToken(int channel);
+[[nodiscard]] QString audioSourceToken(int channel);
+[[nodiscard]] QString audioSourceConfigurationToken(int channel);
+
+/// "/channel1/main": where RTSP has the stream.
+[[nodiscard]] QString pathOf(const MediaStream &stream);
+
+/// Number of the channels that a device has, connected or not; one that tells of none has one.
+[[nodiscard]] int channelCount(const sdk::demo::SceneDevice &device);
+[[nodiscard]] bool isConnected(const sdk::demo::SceneDevice &device, int channel);
+
+/// The streams of all channels that have a camera.
+[[nodiscard]] QList<MediaStream> streamsOf(const sdk::demo::SceneDevice &device);
+
+// Nothing for an unknown token.
+[[nodiscard]] std::optional<MediaStream> streamOf(const sdk::demo::SceneDevice &device, MediaObject object,
+                                                  const QString &token);
+[[nodiscard]] std::optional<MediaStream> streamOfPath(const sdk::demo::SceneDevice &device,
+                                                      const QString &path);
+/// The channel of a video source.
+[[nodiscard]] std::optional<int> channelOf(const sdk::demo::SceneDevice &device, const QString &token);
+
+} // namespace site
