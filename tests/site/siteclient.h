@@ -1,0 +1,183 @@
+// A client of site devices that sends just what a test tells it to.
+#pragma once
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QHostAddress>
+#include <QRegularExpression>
+#include <QTcpSocket>
+#include <QThread>
+#include <QUdpSocket>
+
+#include <functional>
+
+namespace site {
+
+struct Answer
+{
+    int status = 0; ///< 0 when no answer came
+    QByteArray head;
+    QByteArray body;
+
+    /// All values of a header.
+    [[nodiscard]] QByteArrayList fields(const QByteArray &name) const
+    {
+        QByteArrayList values;
+        for (const QByteArray &line : head.split('\n')) {
+            if (line.toLower().startsWith(name.toLower() + ":"))
+                values.append(line.mid(name.size() + 1).trimmed());
+        }
+        return values;
+    }
+
+    /// The texts of all elements of that name, whatever their prefixes.
+    [[nodiscard]] QStringList texts(const QString &name) const
+    {
+        const QRegularExpression element(QStringLiteral("<(?:[\\w-]+:)?%1(?:\\s[^>]*)?>([^<]*)<").arg(name));
+        QStringList found;
+        QRegularExpressionMatchIterator matches = element.globalMatch(QString::fromUtf8(body));
+        while (matches.hasNext())
+            found.append(matches.next().captured(1));
+        return found;
+    }
+    [[nodiscard]] QString text(const QString &name) const { return texts(name).value(0); }
+
+    /// "400 NotAuthorized": status and the innermost code of a fault, without its prefix.
+    [[nodiscard]] QString outcome() const
+    {
+        const QStringList codes = body.contains("Fault>") ? texts(QStringLiteral("Value")) : QStringList();
+        const QString code = codes.isEmpty() ? QString() : u' ' + codes.last().section(u':', -1);
+        return QString::number(status) + code;
+    }
+};
+
+/// One request on a connection of its own; the connection is closed after the answer.
+inline Answer exchange(const QString &address, int port, const QByteArray &bytes, int patience = 10000)
+{
+    QTcpSocket socket;
+    socket.connectToHost(address, static_cast<quint16>(port));
+    if (!socket.waitForConnected(patience))
+        return {};
+    socket.write(bytes);
+    QByteArray received;
+    Answer answer;
+    for (;;) {
+        const qsizetype headEnd = received.indexOf("\r\n\r\n");
+        if (headEnd >= 0) {
+            answer.head = received.left(headEnd);
+            answer.body = received.mid(headEnd + 4);
+            const QByteArray length = answer.fields("Content-Length").value(0, "0");
+            if (answer.body.size() >= length.toLongLong())
+                break;
+        }
+        if (!socket.waitForReadyRead(patience))
+            return {};
+        received += socket.readAll();
+    }
+    answer.status = answer.head.split(' ').value(1).toInt();
+    return answer;
+}
+
+struct Login
+{
+    enum class Kind
+    {
+        None,
+        Token,
+        Digest,
+    };
+    Kind kind = Kind::None;
+    QString password;
+    int minutesOff = 0; ///< how wrong the clock of the client is
+};
+
+inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
+{
+    return QCryptographicHash::hash(text, algorithm == "SHA-256" ? QCryptographicHash::Sha256
+                                                                 : QCryptographicHash::Md5)
+        .toHex();
+}
+
+/// What answers the first challenge of `refusal` for the user "admin".
+inline QByteArray digestHeader(const Answer &refusal, const QString &password, const QByteArray &method,
+                               const QByteArray &uri)
+{
+    const QByteArray challenge = refusal.fields("WWW-Authenticate").value(0);
+    const auto parameter = [&challenge](const char *name) {
+        const QRegularExpression pattern(QStringLiteral("%1=\"?([^\",]*)").arg(QLatin1String(name)));
+        return pattern.match(QString::fromLatin1(challenge)).captured(1).toLatin1();
+    };
+    const QByteArray algorithm = parameter("algorithm");
+    const QByteArray who = hashed("admin:" + parameter("realm") + ':' + password.toUtf8(), algorithm);
+    const QByteArray what = hashed(method + ':' + uri, algorithm);
+    const QByteArray proof =
+        hashed(who + ':' + parameter("nonce") + ":00000001:client:auth:" + what, algorithm);
+    return "Authorization: Digest username=\"admin\", realm=\"" + parameter("realm") + "\", nonce=\"" +
+           parameter("nonce") + "\", uri=\"" + uri +
+           "\", qop=auth, nc=00000001, cnonce=\"client\", algorithm=" + algorithm + ", response=\"" + proof +
+           "\"\r\n";
+}
+
+inline QByteArray tokenHeader(const Login &login)
+{
+    const QByteArray created =
+        QDateTime::currentDateTimeUtc().addSecs(login.minutesOff * 60).toString(Qt::ISODate).toLatin1();
+    const QByteArray nonce = "0123456789abcdef";
+    const QByteArray proof =
+        QCryptographicHash::hash(nonce + created + login.password.toUtf8(), QCryptographicHash::Sha1)
+            .toBase64();
+    const QByteArray base = "http://docs.oasis-open.org/wss/2004/01/oasis-200401-wss-";
+    return "<e:Header><Security xmlns=\"" + base +
+           "wssecurity-secext-1.0.xsd\"><UsernameToken><Username>admin</Username><Password Type=\"" + base +
+           "username-token-profile-1.0#PasswordDigest\">" + proof + "</Password><Nonce>" + nonce.toBase64() +
+           "</Nonce><c:Created xmlns:c=\"" + base + "wssecurity-utility-1.0.xsd\">" + created +
+           "</c:Created></UsernameToken></Security></e:Header>";
+}
+
+/// Asks a service: `operation` is the element with the default namespace of its service, and "tt" bound.
+inline Answer ask(const QString &address, const QByteArray &operation, const Login &login = {},
+                  const QByteArray &service = "device", int port = 80)
+{
+    const QByteArray path = "/onvif/" + service + "_service";
+    const QByteArray body = "<e:Envelope xmlns:e=\"http://www.w3.org/2003/05/soap-envelope\" "
+                            "xmlns:tt=\"http://www.onvif.org/ver10/schema\">" +
+                            (login.kind == Login::Kind::Token ? tokenHeader(login) : QByteArray()) +
+                            "<e:Body>" + operation + "</e:Body></e:Envelope>";
+    const auto request = [&](const QByteArray &fields) {
+        return "POST " + path + " HTTP/1.1\r\nHost: device\r\nConnection: close\r\n" + fields +
+               "Content-Type: application/soap+xml\r\nContent-Length: " + QByteArray::number(body.size()) +
+               "\r\n\r\n" + body;
+    };
+    const Answer answer = exchange(address, port, request({}));
+    if (login.kind != Login::Kind::Digest || answer.status != 401)
+        return answer;
+    return exchange(address, port, request(digestHeader(answer, login.password, "POST", path)));
+}
+
+/// An operation of the device service.
+inline QByteArray deviceOperation(const QByteArray &name, const QByteArray &content = {})
+{
+    return "<" + name + " xmlns=\"http://www.onvif.org/ver10/device/wsdl\">" + content + "</" + name + ">";
+}
+
+inline QByteArray mediaOperation(const QByteArray &name, const QByteArray &content = {})
+{
+    return "<" + name + " xmlns=\"http://www.onvif.org/ver20/media/wsdl\">" + content + "</" + name + ">";
+}
+
+/// Asks again and again until `isRight`; false when it is not within `seconds`.
+inline bool becomes(const std::function<bool()> &isRight, int seconds = 20)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!isRight()) {
+        if (timer.elapsed() > seconds * 1000)
+            return false;
+        QThread::msleep(50); // between two looks, not a wait for an event
+    }
+    return true;
+}
+
+} // namespace site
