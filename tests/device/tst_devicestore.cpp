@@ -3,6 +3,7 @@
 #include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
 #include "tests/device/searchanswers.h"
+#include "tests/values.h"
 
 #include <array>
 #include <atomic>
@@ -59,6 +60,9 @@ private Q_SLOTS:
     void theFirstAnswerOfADeviceWins()
     {
         m_store->addAnswer(searchAnswer({.address = "192.168.1.64"}));
+        QCOMPARE(valuesOf(m_store->row("02:1a:c5:00:40:17"),
+                          "name type model ipport vision res upgrade upgraderes httpport"),
+                 "东门|IPC|B-2230-IR|192.168.1.64:37777|v2.840.1|-1|0|-1|80");
         const DeviceStore::Addition second = m_store->addAnswer(searchAnswer({.address = "192.168.1.99"}));
         QVERIFY(!second.added);
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::ipport), QStringList("192.168.1.64:37777"));
