@@ -30,6 +30,12 @@ TestCardTexts textsOf(const SceneDevice &device, std::int32_t channel, LiveStrea
                              QString::number(settings.width), QString::number(settings.height), codec)};
 }
 
+/// What the encoder puts before its packets.
+QByteArray headOf(const AVCodecContext &context)
+{
+    return {reinterpret_cast<const char *>(context.extradata), context.extradata_size};
+}
+
 } // namespace
 
 TestCard testCardOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
@@ -53,6 +59,16 @@ std::unique_ptr<LiveProduction> LiveProduction::begin(const SceneDevice &device,
     if (settings.sound != SoundCodec::None)
         production->m_sound = ToneEncoder::open(settings, ToneEncoder::pitchOf(channel));
     return production;
+}
+
+QByteArray LiveProduction::pictureHead() const
+{
+    return headOf(m_encoder->context());
+}
+
+QByteArray LiveProduction::soundHead() const
+{
+    return m_sound ? headOf(m_sound->context()) : QByteArray();
 }
 
 std::unique_ptr<streams::MatroskaWriter> LiveProduction::openWriter() const

@@ -25,6 +25,11 @@ public:
 
     [[nodiscard]] const StreamSettings &settings() const { return m_settings; }
 
+    // What decoders need to know before the first packet: parameter sets and the like. Empty for a codec
+    // without.
+    [[nodiscard]] QByteArray pictureHead() const;
+    [[nodiscard]] QByteArray soundHead() const;
+
     /// The container of a watcher. Null on failure, which the log tells.
     [[nodiscard]] std::unique_ptr<streams::MatroskaWriter> openWriter() const;
 
