@@ -19,8 +19,8 @@ enum class LoginResult : int
     NotInitialised = 7,
     NotSupported = 12, ///< the one failure that the add-device dialog says nothing about
     AlreadyListed = 13,
-    Upgrading = 14, ///< nothing was asked: the device's firmware is being upgraded
-    NotDone = 15,   ///< nothing was asked: the batch ended before it came to the device
+    Upgrading = 14,    ///< nothing was asked: the device's firmware is being upgraded
+    NotDone = 15,      ///< nothing was asked: the batch ended before it came to the device
     SessionEnded = 16, ///< the device no longer accepts the login that the request was sent with
     InvalidValue = 17, ///< the device does not take a value of the request
     Refused = 999,     ///< the device has understood the request and does not fulfil it

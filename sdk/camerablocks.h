@@ -287,7 +287,7 @@ struct CameraCapabilities
     std::uint32_t lightControlMask;
     std::uint32_t mixedLightMask;
     std::uint32_t missingValues; ///< CameraValue: bit N says that the camera lacks the value; 0 for none
-    ValueRange picture; ///< brightness, contrast, saturation, hue, gamma
+    ValueRange picture;          ///< brightness, contrast, saturation, hue, gamma
     ValueRange sharpness;
     ValueRange gain;
     ValueRange compensation;

@@ -18,8 +18,8 @@ struct InitDeviceAccountInput
     std::array<char, 128> account;
     std::array<char, 128> password;
     std::uint8_t passwordResetWay; ///< as in the device's search answer
-    std::array<char, 64> address; ///< where the device answers
-    std::uint16_t port;           ///< of its service, 0 if it is not known
+    std::array<char, 64> address;  ///< where the device answers
+    std::uint16_t port;            ///< of its service, 0 if it is not known
     std::array<std::uint8_t, 32> reserved;
 };
 static_assert(sizeof(InitDeviceAccountInput) == 400);

@@ -8,9 +8,9 @@ namespace sdk {
 /// Functions that a provider may lack for every device. Bits of ProviderInformation::missingFunctions.
 enum class ProviderFunction : std::uint32_t
 {
-    VideoStandard = 0,   ///< VideoStandardItem
+    VideoStandard = 0,    ///< VideoStandardItem
     AutomaticMaintenance, ///< the configuration "AutoMaintain"
-    TimeServerDetails,   ///< the port of the time server, and the period of its requests
+    TimeServerDetails,    ///< the port of the time server, and the period of its requests
 };
 
 /// Filled by NetGetProviderInformation.

@@ -24,13 +24,13 @@ struct SearchDeviceInformation
     std::array<char, 64> deviceName;       ///< given by the administrator
     std::array<char, 128> softwareVersion; ///< digits and points, without a leading letter
     std::array<char, 48> serialNumber;
-    std::uint16_t httpPort;                  ///< port of the device's web page, 0 when it has none
-    std::uint8_t dhcpEnabled;                ///< 0 or 1
-    std::uint8_t initialisationState;        ///< low two bits: see initialisationBits()
-    std::uint8_t passwordResetWay; ///< bit 0 telephone, bit 1 mail: contacts for a lost password
-    std::array<char, 64> currentAddress;     ///< in a request: where the device answers now, empty in an answer
-    std::array<char, 64> account;            ///< in a request: the account that may change the address
-    std::array<char, 64> password;           ///< in a request: of that account
+    std::uint16_t httpPort;              ///< port of the device's web page, 0 when it has none
+    std::uint8_t dhcpEnabled;            ///< 0 or 1
+    std::uint8_t initialisationState;    ///< low two bits: see initialisationBits()
+    std::uint8_t passwordResetWay;       ///< bit 0 telephone, bit 1 mail: contacts for a lost password
+    std::array<char, 64> currentAddress; ///< in a request: where the device answers now, empty in an answer
+    std::array<char, 64> account;        ///< in a request: the account that may change the address
+    std::array<char, 64> password;       ///< in a request: of that account
     std::array<std::uint8_t, 2491> reserved; ///< 0
 };
 static_assert(sizeof(SearchDeviceInformation) == 3232);

@@ -14,11 +14,8 @@ public:
 
     /// Sets the code of the calling thread. Always returns false, for `return m_error.fail(...)`.
     template<typename Error>
-        requires std::is_enum_v<Error>
-    bool fail(Error error) const
-    {
-        return failWith(static_cast<std::uint32_t>(error));
-    }
+    requires std::is_enum_v<Error>
+    bool fail(Error error) const { return failWith(static_cast<std::uint32_t>(error)); }
 
     /// The code of the calling thread, 0 when nothing has failed on it.
     [[nodiscard]] std::uint32_t last() const;

@@ -256,7 +256,8 @@ struct LackableSetting
 };
 
 constexpr std::array lackableSettings = {
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("colorStyle"), sdk::CameraValue::ColorStyle},
+    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("colorStyle"),
+                    sdk::CameraValue::ColorStyle},
     LackableSetting{QLatin1StringView("picture"), QLatin1StringView("brightnessSlider"),
                     sdk::CameraValue::Brightness},
     LackableSetting{QLatin1StringView("picture"), QLatin1StringView("contrastSlider"),
@@ -267,7 +268,8 @@ constexpr std::array lackableSettings = {
     LackableSetting{QLatin1StringView("picture"), QLatin1StringView("gamma"), sdk::CameraValue::Gamma},
     LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("antiFlicker"),
                     sdk::CameraValue::AntiFlicker},
-    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("shutter"), sdk::CameraValue::ShutterTimes},
+    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("shutter"),
+                    sdk::CameraValue::ShutterTimes},
     LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("gain"), sdk::CameraValue::Gain},
     LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("Compensation"),
                     sdk::CameraValue::Compensation},

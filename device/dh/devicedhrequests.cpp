@@ -88,8 +88,7 @@ DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, cons
 }
 
 StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                                     const QString &newgateway, bool dhcpON,
-                                     const Credentials &credentials)
+                                     const QString &newgateway, bool dhcpON, const Credentials &credentials)
 {
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;

@@ -79,7 +79,8 @@ void DemoNetLibrary::endEverything()
 void DemoNetLibrary::NetGetProviderInformation(ProviderInformation &information) const
 {
     constexpr std::int32_t servicePort = 37777;
-    information = {.size = sizeof(information), .defaultPort = servicePort, .missingFunctions = 0, .reserved = 0};
+    information = {
+        .size = sizeof(information), .defaultPort = servicePort, .missingFunctions = 0, .reserved = 0};
 }
 
 std::uint32_t DemoNetLibrary::NetGetLastError() const

@@ -1,15 +1,15 @@
 // The network library's roles on a simulated site.
 #pragma once
 
-#include "sdk/demo/internal/answerdelivery.h"
 #include "sdk/callgate.h"
 #include "sdk/demo/demoerror.h"
+#include "sdk/demo/internal/answerdelivery.h"
 #include "sdk/demo/internal/demosessions.h"
 #include "sdk/demo/internal/devicelogin.h"
 #include "sdk/demo/internal/deviceupgrades.h"
 #include "sdk/demo/internal/livestreams.h"
-#include "sdk/threaderror.h"
 #include "sdk/netlibrary.h"
+#include "sdk/threaderror.h"
 
 #include <QJsonObject>
 

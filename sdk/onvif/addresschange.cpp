@@ -41,9 +41,10 @@ bool answersAt(OnvifSession &session, const std::string &address, SoapClient::De
 const DeviceInterface *interfaceOf(const std::vector<DeviceInterface> &interfaces, const std::string &mac,
                                    const std::string &address)
 {
-    const auto same = std::find_if(interfaces.begin(), interfaces.end(), [&mac](const DeviceInterface &interface) {
-        return !mac.empty() && interface.mac == mac;
-    });
+    const auto same =
+        std::find_if(interfaces.begin(), interfaces.end(), [&mac](const DeviceInterface &interface) {
+            return !mac.empty() && interface.mac == mac;
+        });
     return same != interfaces.end() ? &*same : interfaceInUse(interfaces, address);
 }
 
@@ -83,7 +84,8 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
     if (isThere && !hasGateway) {
         ServiceAddress moved = service;
         moved.host = order.address;
-        hasGateway = DeviceService(session->client(), moved, deadline).setDefaultGateway(order.gateway).isOk();
+        hasGateway =
+            DeviceService(session->client(), moved, deadline).setDefaultGateway(order.gateway).isOk();
     }
     if (!isThere)
         return result.isOk() ? NetError::None : NetError::ConnectTimeout;

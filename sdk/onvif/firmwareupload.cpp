@@ -150,9 +150,10 @@ std::int64_t FirmwareUploads::open(LLONG loginHandle, const FirmwareUpload &uplo
     const std::scoped_lock lock(m_mutex);
     const std::int64_t handle = ++m_lastHandle;
     try {
-        m_transfers.emplace(handle, std::make_shared<FirmwareTransfer>(
-                                        loginHandle, upload, login, fileName,
-                                        FirmwareTransfer::Receiver{.handle = handle, .handler = handler, .user = user}));
+        m_transfers.emplace(
+            handle, std::make_shared<FirmwareTransfer>(
+                        loginHandle, upload, login, fileName,
+                        FirmwareTransfer::Receiver{.handle = handle, .handler = handler, .user = user}));
     } catch (const std::system_error &) {
         return 0;
     }

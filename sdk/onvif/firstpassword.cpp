@@ -17,13 +17,13 @@ NetError giveFirstPassword(const ServiceAddress &service, const std::shared_ptr<
     if (!users.isOk())
         return users.error;
     // Some devices are delivered with the account and without its password.
-    const auto same = std::find_if(users.value.begin(), users.value.end(), [&account](const DeviceUser &user) {
-        return user.name == account.account;
-    });
-    const ServiceOutcome outcome = same == users.value.end()
-                                       ? device.createAdministratorOpenly(account.account, account.password)
-                                       : device.setPassword({.name = same->name, .level = "Administrator"},
-                                                            account.password);
+    const auto same =
+        std::find_if(users.value.begin(), users.value.end(),
+                     [&account](const DeviceUser &user) { return user.name == account.account; });
+    const ServiceOutcome outcome =
+        same == users.value.end()
+            ? device.createAdministratorOpenly(account.account, account.password)
+            : device.setPassword({.name = same->name, .level = "Administrator"}, account.password);
     if (!outcome.isOk())
         return outcome.error == NetError::WrongPassword ? NetError::NotSupported : outcome.error;
     const auto after = device.usersOpenly();

@@ -59,7 +59,8 @@ void OnvifNetLibrary::NetGetProviderInformation(ProviderInformation &information
                    .reserved = 0};
 }
 
-std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &parameter, std::chrono::milliseconds)
+std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &parameter,
+                                                    std::chrono::milliseconds)
 {
     const CallGate::Call call(m_gate);
     if (!call.isAllowed() || parameter.size != sizeof(parameter)) {
@@ -108,8 +109,9 @@ bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request,
     return true;
 }
 
-bool OnvifNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
-                                            void *user, const char *, std::chrono::milliseconds wait)
+bool OnvifNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &request,
+                                            SearchAnswerHandler handler, void *user, const char *,
+                                            std::chrono::milliseconds wait)
 {
     return searchByAddresses(request, handler, user, wait);
 }
@@ -124,8 +126,9 @@ bool OnvifNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &re
     return isSound || m_error.fail(NetError::InvalidValue);
 }
 
-void OnvifNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
-                                          void *user, std::chrono::milliseconds wait)
+void OnvifNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request,
+                                          SearchAnswerHandler handler, void *user,
+                                          std::chrono::milliseconds wait)
 {
     searchByAddresses(request, handler, user, wait);
 }

@@ -30,13 +30,15 @@ public:
     [[nodiscard]] std::uint32_t NetGetLastError() const override;
     void NetGetProviderInformation(ProviderInformation &information) const override;
 
-    std::int64_t NetStartSearchDevices(const SearchParameter &parameter, std::chrono::milliseconds wait) override;
+    std::int64_t NetStartSearchDevices(const SearchParameter &parameter,
+                                       std::chrono::milliseconds wait) override;
     std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,
                                          std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
-                               const char *localAddress, std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
-                                 const char *localAddress, std::chrono::milliseconds wait) override;
+    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                               void *user, const char *localAddress, std::chrono::milliseconds wait) override;
+    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+                                 void *user, const char *localAddress,
+                                 std::chrono::milliseconds wait) override;
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
     void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
                              std::chrono::milliseconds wait) override;
@@ -51,7 +53,8 @@ public:
                         std::uint32_t bufferSize, std::uint32_t &returnedSize,
                         std::chrono::milliseconds wait) override;
     bool NetGetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, char *text,
-                         std::uint32_t textSize, std::int32_t &error, std::chrono::milliseconds wait) override;
+                         std::uint32_t textSize, std::int32_t &error,
+                         std::chrono::milliseconds wait) override;
     bool NetQueryCapabilities(LLONG loginHandle, CapabilityQuery query, const void *input, void *output,
                               std::chrono::milliseconds wait) override;
     bool NetGetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, void *block,
@@ -62,12 +65,14 @@ public:
     bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
                                  std::chrono::milliseconds wait) override;
 
-    bool NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setting, std::int32_t channel, const void *block,
-                             std::uint32_t blockSize, std::chrono::milliseconds wait) override;
+    bool NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setting, std::int32_t channel,
+                             const void *block, std::uint32_t blockSize,
+                             std::chrono::milliseconds wait) override;
     bool NetSetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override;
     bool NetSetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, const char *text,
-                         std::uint32_t textSize, std::int32_t &error, std::chrono::milliseconds wait) override;
+                         std::uint32_t textSize, std::int32_t &error,
+                         std::chrono::milliseconds wait) override;
     bool NetRebootDevice(LLONG loginHandle, std::chrono::milliseconds wait) override;
     bool NetResetSystem(LLONG loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
                         std::chrono::milliseconds wait) override;
@@ -80,7 +85,8 @@ public:
                                 std::uint32_t flag) override;
     bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel, std::uint32_t reserved) override;
     bool NetStopRealStream(std::int64_t streamHandle) override;
-    bool NetQueryChannelStates(LLONG loginHandle, ChannelStates &states, std::chrono::milliseconds wait) override;
+    bool NetQueryChannelStates(LLONG loginHandle, ChannelStates &states,
+                               std::chrono::milliseconds wait) override;
 
     std::int64_t NetStartUpgrade(LLONG loginHandle, const char *fileName, UpgradeProgressHandler handler,
                                  void *user, std::chrono::milliseconds wait) override;

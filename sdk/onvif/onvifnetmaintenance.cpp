@@ -10,8 +10,9 @@
 
 namespace sdk::onvif {
 
-bool OnvifNetLibrary::NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setting, std::int32_t, const void *block,
-                                          std::uint32_t blockSize, std::chrono::milliseconds wait)
+bool OnvifNetLibrary::NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setting, std::int32_t,
+                                          const void *block, std::uint32_t blockSize,
+                                          std::chrono::milliseconds wait)
 {
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         if (setting != DeviceSetting::Time)
@@ -31,8 +32,8 @@ bool OnvifNetLibrary::NetRebootDevice(LLONG loginHandle, std::chrono::millisecon
     });
 }
 
-bool OnvifNetLibrary::NetResetSystem(LLONG loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
-                                     std::chrono::milliseconds wait)
+bool OnvifNetLibrary::NetResetSystem(LLONG loginHandle, const ResetSystemInput &input,
+                                     ResetSystemOutput &output, std::chrono::milliseconds wait)
 {
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         if (input.size != sizeof(input) || output.size != sizeof(output))
@@ -56,9 +57,8 @@ bool OnvifNetLibrary::NetModifyPassword(LLONG loginHandle, const ModifyPasswordI
         const auto users = device.users();
         if (!users.isOk())
             return users.error;
-        const auto user = std::find_if(users.value.begin(), users.value.end(), [&account](const DeviceUser &known) {
-            return known.name == account;
-        });
+        const auto user = std::find_if(users.value.begin(), users.value.end(),
+                                       [&account](const DeviceUser &known) { return known.name == account; });
         if (user == users.value.end())
             return NetError::NoSuchAccount;
         const std::string password(blockText(input.newPassword));
@@ -77,10 +77,11 @@ bool OnvifNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, 
         return m_error.fail(NetError::InvalidValue);
     const auto http = std::make_shared<HttpClient>();
     const std::stop_callback cancelOnCleanup(call.stop(), [http] { http->cancel(); });
-    const NetError error = giveFirstPassword(
-        m_discovery->serviceAt(std::string(blockText(input.address)), input.port), http,
-        {.account = std::string(blockText(input.account)), .password = std::string(blockText(input.password))},
-        std::chrono::steady_clock::now() + wait);
+    const NetError error =
+        giveFirstPassword(m_discovery->serviceAt(std::string(blockText(input.address)), input.port), http,
+                          {.account = std::string(blockText(input.account)),
+                           .password = std::string(blockText(input.password))},
+                          std::chrono::steady_clock::now() + wait);
     return error == NetError::None || m_error.fail(error);
 }
 

@@ -86,7 +86,8 @@ LLONG OnvifNetLibrary::NetLogin(const char *address, std::int32_t port, const ch
     const CallGate::Call call(m_gate);
     LLONG handle = 0;
     if (call.isAllowed())
-        handle = login(m_discovery->serviceAt(address, port), {.account = account, .password = password}, device);
+        handle =
+            login(m_discovery->serviceAt(address, port), {.account = account, .password = password}, device);
     else
         m_error.fail(NetError::InvalidValue);
     error = handle > 0 ? 0 : static_cast<std::int32_t>(m_error.last());
@@ -248,8 +249,8 @@ bool OnvifNetLibrary::NetGetItem(LLONG loginHandle, std::uint32_t item, std::int
     });
 }
 
-bool OnvifNetLibrary::NetSetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
-                                 std::uint32_t blockSize, std::chrono::milliseconds wait)
+bool OnvifNetLibrary::NetSetItem(LLONG loginHandle, std::uint32_t item, std::int32_t channel,
+                                 const void *block, std::uint32_t blockSize, std::chrono::milliseconds wait)
 {
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         return isEncodeItem(item) ? setEncodeItem(session, item, channel, block, blockSize, deadline)
@@ -257,7 +258,8 @@ bool OnvifNetLibrary::NetSetItem(LLONG loginHandle, std::uint32_t item, std::int
     });
 }
 
-bool OnvifNetLibrary::NetQueryChannelStates(LLONG loginHandle, ChannelStates &states, std::chrono::milliseconds wait)
+bool OnvifNetLibrary::NetQueryChannelStates(LLONG loginHandle, ChannelStates &states,
+                                            std::chrono::milliseconds wait)
 {
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline) {
         if (states.size != sizeof(states))

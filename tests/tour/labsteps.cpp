@@ -82,8 +82,8 @@ void walkAddress(Driver &driver)
     driver.fill(u"newStartField"_s, u"192.168.1.208"_s);
     driver.key(Qt::Key_Return);
     driver.await(
-        u"the address was changed"_s,
-        [&] { return rows.count() == 0 && !driver.find(u"runningText"_s); }, 40);
+        u"the address was changed"_s, [&] { return rows.count() == 0 && !driver.find(u"runningText"_s); },
+        40);
     driver.click(u"emptyActionButton"_s);
     driver.await(
         u"the row has the new address"_s,
@@ -101,7 +101,8 @@ void walkSettings(Driver &driver)
     driver.click(u"tab2"_s);
     driver.click(u"device_"_s + camera);
     driver.await(
-        u"the encode settings are shown"_s, [&] { return driver.find(u"encodeSaveButton"_s) != nullptr; }, 30);
+        u"the encode settings are shown"_s, [&] { return driver.find(u"encodeSaveButton"_s) != nullptr; },
+        30);
     awaitIdle(driver);
     driver.report(u"encode"_s, driver.text(u"configDevice"_s));
     QQuickItem *slider = driver.require(u"mainFrameRateSlider"_s);
@@ -124,8 +125,9 @@ void walkSettings(Driver &driver)
     const int before = brightness->property("value").toInt();
     brightness->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
     driver.key(before > 50 ? Qt::Key_PageDown : Qt::Key_PageUp);
-    driver.await(u"the brightness is changed"_s,
-                 [&] { return driver.require(u"picture_brightnessSlider"_s)->property("value").toInt() != before; });
+    driver.await(u"the brightness is changed"_s, [&] {
+        return driver.require(u"picture_brightnessSlider"_s)->property("value").toInt() != before;
+    });
     awaitIdle(driver);
     driver.report(u"image"_s, u"brightness %1"_s.arg(brightness->property("value").toInt()));
 }

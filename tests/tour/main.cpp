@@ -1,5 +1,6 @@
-// ConfigTools LANGUAGE FOLDER [lab]: plays the tour in a language and saves its pictures in a folder. With "lab" it
-// plays the main job on the devices of the network that it runs in (scripts/lab), without the simulated site.
+// ConfigTools LANGUAGE FOLDER [lab]: plays the tour in a language and saves its pictures in a folder. With
+// "lab" it plays the main job on the devices of the network that it runs in (scripts/lab), without the
+// simulated site.
 //
 // Several processes take part: one that watches, the program that is driven, a second start of it beside the
 // first, and the one that the program starts in its place when its language was changed.
@@ -225,7 +226,10 @@ int main(int argc, char *argv[])
     const QString folder = QDir(arguments.at(2)).absolutePath();
     const QByteArray stage = qgetenv(stageVariable);
     if (stage.isEmpty() && isLab)
-        return QDir().mkpath(folder) && runStage(u"lab"_s, language, folder) ? EXIT_SUCCESS : EXIT_FAILURE;
+        return QDir(folder).removeRecursively() && QDir().mkpath(folder) &&
+                       runStage(u"lab"_s, language, folder)
+                   ? EXIT_SUCCESS
+                   : EXIT_FAILURE;
     if (stage.isEmpty())
         return watch(language, folder);
     if (stage == "second")

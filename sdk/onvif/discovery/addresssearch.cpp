@@ -50,7 +50,8 @@ std::vector<std::string> acceptingAddresses(const std::vector<std::string> &addr
             ::socket(target->storage.ss_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
         if (descriptor < 0)
             continue;
-        if (::connect(descriptor, reinterpret_cast<const sockaddr *>(&target->storage), target->length) != 0 &&
+        if (::connect(descriptor, reinterpret_cast<const sockaddr *>(&target->storage), target->length) !=
+                0 &&
             errno != EINPROGRESS) {
             ::close(descriptor);
             continue;

@@ -2,8 +2,8 @@
 
 #include "sdk/onvif/discovery/addresssearch.h"
 #include "sdk/onvif/discovery/deviceinspector.h"
-#include "sdk/onvif/soap/logging.h"
 #include "sdk/onvif/soap/httpclient.h"
+#include "sdk/onvif/soap/logging.h"
 
 #include <utility>
 
@@ -119,10 +119,9 @@ void DeviceDiscovery::run(const std::stop_token &stop)
             sendProbes();
             wait = static_cast<int>(std::chrono::milliseconds(repetitionDelay).count());
         }
-        m_sockets->receive(wait, [this](std::string_view datagram, const SocketAddress &sender,
-                                        const std::string &localAddress) {
-            take(datagram, sender, localAddress);
-        });
+        m_sockets->receive(wait,
+                           [this](std::string_view datagram, const SocketAddress &sender,
+                                  const std::string &localAddress) { take(datagram, sender, localAddress); });
     }
 }
 
@@ -134,7 +133,8 @@ void DeviceDiscovery::sendProbes()
     }
 }
 
-void DeviceDiscovery::take(std::string_view datagram, const SocketAddress &sender, const std::string &localAddress)
+void DeviceDiscovery::take(std::string_view datagram, const SocketAddress &sender,
+                           const std::string &localAddress)
 {
     for (DeviceAnnouncement &announcement : readAnnouncements(datagram)) {
         if (announcement.isLeaving)

@@ -83,9 +83,9 @@ private:
 
     mutable std::mutex m_mutex; ///< of what follows
     std::int64_t m_lastHandle = 0;
-    std::set<std::string> m_seen;               ///< devices of the running searches, by address and port
-    std::map<std::string, int> m_seenAt;        ///< how many of them have this address
-    std::vector<SearchAnswer> m_answers;        ///< of the running searches
+    std::set<std::string> m_seen;        ///< devices of the running searches, by address and port
+    std::map<std::string, int> m_seenAt; ///< how many of them have this address
+    std::vector<SearchAnswer> m_answers; ///< of the running searches
     std::map<std::string, ServiceAddress> m_services; ///< by address and port, of all searches
 
     std::mutex m_handlerMutex; ///< held while handlers run

@@ -46,7 +46,8 @@ std::string macOfNeighbour(const std::string &address)
 
 } // namespace
 
-bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http, std::chrono::milliseconds wait)
+bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
+                   std::chrono::milliseconds wait)
 {
     SoapClient client(HttpLogin{}, http);
     DeviceService service(client, device.service, std::chrono::steady_clock::now() + wait);

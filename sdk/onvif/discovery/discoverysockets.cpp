@@ -59,8 +59,8 @@ std::size_t DiscoverySockets::open()
     const std::vector<NetworkInterface> interfaces = networkInterfaces();
     for (const NetworkInterface &networkInterface : interfaces)
         addInterface(networkInterface);
-    const auto searched = static_cast<std::size_t>(
-        std::count_if(m_sockets.begin(), m_sockets.end(), [](const Socket &socket) { return socket.sendsToGroup; }));
+    const auto searched = static_cast<std::size_t>(std::count_if(
+        m_sockets.begin(), m_sockets.end(), [](const Socket &socket) { return socket.sendsToGroup; }));
     addListener(true, interfaces);
     addListener(false, interfaces);
     return searched;

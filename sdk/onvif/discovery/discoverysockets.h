@@ -17,8 +17,8 @@ class DiscoverySockets
 {
 public:
     /// Called with a datagram. `localAddress` is that of the interface it came through, or empty.
-    using Receiver =
-        std::function<void(std::string_view datagram, const SocketAddress &sender, const std::string &localAddress)>;
+    using Receiver = std::function<void(std::string_view datagram, const SocketAddress &sender,
+                                        const std::string &localAddress)>;
 
     DiscoverySockets();
     ~DiscoverySockets();

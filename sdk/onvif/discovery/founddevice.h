@@ -11,7 +11,7 @@ namespace sdk::onvif {
 /// A device that has answered from its own address.
 struct FoundDevice
 {
-    std::string address = {}; ///< where its answer came from; with the interface for a link-local one
+    std::string address = {};      ///< where its answer came from; with the interface for a link-local one
     std::string localAddress = {}; ///< of this computer
     ServiceAddress service = {};
     DeviceAnnouncement announcement = {};

@@ -96,8 +96,8 @@ void addNeighbour(const nlmsghdr &header, std::unordered_map<std::string, std::s
     std::string address;
     std::string mac;
     auto length = static_cast<int>(header.nlmsg_len - NLMSG_LENGTH(sizeof(ndmsg)));
-    const auto *attribute = reinterpret_cast<const rtattr *>(
-        reinterpret_cast<const char *>(&neighbour) + NLMSG_ALIGN(sizeof(ndmsg)));
+    const auto *attribute = reinterpret_cast<const rtattr *>(reinterpret_cast<const char *>(&neighbour) +
+                                                             NLMSG_ALIGN(sizeof(ndmsg)));
     for (; RTA_OK(attribute, length); attribute = RTA_NEXT(attribute, length)) {
         if (attribute->rta_type == NDA_DST)
             address = neighbourAddress(neighbour, RTA_DATA(attribute), RTA_PAYLOAD(attribute));

@@ -29,7 +29,7 @@ enum class ProbeKind
 struct DeviceAnnouncement
 {
     bool isLeaving = false; ///< it is a Bye message
-    std::string uuid = {};       ///< the number of the device, without "urn:uuid:", in lower case; may be empty
+    std::string uuid = {};  ///< the number of the device, without "urn:uuid:", in lower case; may be empty
     std::vector<ServiceAddress> services = {}; ///< where its device service is, by its own view
     std::string name = {};
     std::string model = {};

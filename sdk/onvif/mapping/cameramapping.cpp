@@ -89,7 +89,8 @@ ServiceResult<Source> readSource(OnvifSession &session, int channel, Deadline de
     auto options = imaging.options(token);
     if (!options.isOk())
         return {.error = options.error, .reason = options.reason};
-    return {.value = {.token = token, .settings = std::move(settings.value), .options = std::move(options.value)}};
+    return {.value = {
+                .token = token, .settings = std::move(settings.value), .options = std::move(options.value)}};
 }
 
 NetError writeSettings(OnvifSession &session, const Source &source, const ImagingSettings &settings,
@@ -154,7 +155,9 @@ std::optional<ImagingSettings> change(const StableItem &item, const Source &sour
     ModeAndLevel wanted = source.settings.stabilisation.value_or(ModeAndLevel());
     const bool isOn = !wanted.mode.empty() && wanted.mode != "OFF";
     if (isOn != (item.stable != 0))
-        wanted.mode = item.stable == 0 ? "OFF" : offers(source.options.stabilisationModes, "ON") ? "ON" : "AUTO";
+        wanted.mode = item.stable == 0                                  ? "OFF"
+                      : offers(source.options.stabilisationModes, "ON") ? "ON"
+                                                                        : "AUTO";
     return ImagingSettings{.stabilisation = wanted};
 }
 
@@ -350,8 +353,8 @@ std::uint32_t missingValuesOf(const ImagingOptions &options)
     add(CameraValue::DefogIntensity, options.hasDefoggingLevel);
     for (const CameraValue value :
          {CameraValue::Hue, CameraValue::Gamma, CameraValue::ColorStyle, CameraValue::AntiFlicker,
-          CameraValue::Compensation, CameraValue::IrisAutomatic, CameraValue::GlareInhibition, CameraValue::BacklightRegion,
-          CameraValue::DayNightSensitivity, CameraValue::DayNightDelay})
+          CameraValue::Compensation, CameraValue::IrisAutomatic, CameraValue::GlareInhibition,
+          CameraValue::BacklightRegion, CameraValue::DayNightSensitivity, CameraValue::DayNightDelay})
         add(value, false); // the standard does not have them
     return missing;
 }
@@ -374,7 +377,8 @@ CameraCapabilities capabilitiesOf(const ImagingOptions &options)
     add(capabilities.whiteBalanceMask, whiteBalanceAutomatic, offers(options.whiteBalanceModes, "AUTO"));
     add(capabilities.whiteBalanceMask, whiteBalanceManual, offers(options.whiteBalanceModes, "MANUAL"));
     for (int number = 0; number < static_cast<int>(dayNightModes.size()); ++number) {
-        add(capabilities.dayNightMask, number, offers(options.irCutFilterModes, modeOf(number, dayNightModes)));
+        add(capabilities.dayNightMask, number,
+            offers(options.irCutFilterModes, modeOf(number, dayNightModes)));
         add(capabilities.defogMask, number, offers(options.defoggingModes, modeOf(number, defogModes)));
     }
     capabilities.picture = capabilities.sharpness = capabilities.gain = percentRange;
@@ -447,9 +451,10 @@ NetError readName(OnvifSession &session, int channel, void *block, std::uint32_t
         return NetError::InvalidValue;
     const auto profiles = session.profiles(deadline);
     const std::string token = sourceToken(session, channel);
-    const auto profile = std::find_if(profiles.value.begin(), profiles.value.end(), [&token](const auto &candidate) {
-        return !token.empty() && candidate.sourceToken == token;
-    });
+    const auto profile =
+        std::find_if(profiles.value.begin(), profiles.value.end(), [&token](const auto &candidate) {
+            return !token.empty() && candidate.sourceToken == token;
+        });
     if (profile == profiles.value.end())
         return profiles.isOk() ? NetError::NotSupported : profiles.error;
     item.size = sizeof(item);
@@ -458,7 +463,8 @@ NetError readName(OnvifSession &session, int channel, void *block, std::uint32_t
     return NetError::None;
 }
 
-NetError writeName(OnvifSession &session, int channel, const void *block, std::uint32_t size, Deadline deadline)
+NetError writeName(OnvifSession &session, int channel, const void *block, std::uint32_t size,
+                   Deadline deadline)
 {
     ChannelNameItem item{};
     if (!block || size != sizeof(item))
@@ -466,9 +472,10 @@ NetError writeName(OnvifSession &session, int channel, const void *block, std::u
     std::memcpy(&item, block, sizeof(item));
     const auto profiles = session.profiles(deadline);
     const std::string token = sourceToken(session, channel);
-    const auto profile = std::find_if(profiles.value.begin(), profiles.value.end(), [&token](const auto &candidate) {
-        return !token.empty() && candidate.sourceToken == token;
-    });
+    const auto profile =
+        std::find_if(profiles.value.begin(), profiles.value.end(), [&token](const auto &candidate) {
+            return !token.empty() && candidate.sourceToken == token;
+        });
     std::optional<MediaService> media = session.media(deadline);
     if (profile == profiles.value.end() || !media)
         return profiles.isOk() ? NetError::NotSupported : profiles.error;
@@ -563,8 +570,8 @@ NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel, c
     });
 }
 
-NetError cameraCapabilities(OnvifSession &session, const CameraCapabilityInput &input, CameraCapabilities &output,
-                            Deadline deadline)
+NetError cameraCapabilities(OnvifSession &session, const CameraCapabilityInput &input,
+                            CameraCapabilities &output, Deadline deadline)
 {
     if (input.size != sizeof(input) || output.size != sizeof(output))
         return NetError::InvalidValue;

@@ -10,8 +10,8 @@
 namespace sdk::onvif {
 
 /// The text "VideoColor" of a channel. On failure `error` is set and the text is empty.
-[[nodiscard]] std::string colorConfiguration(OnvifSession &session, int channel, OnvifSession::Deadline deadline,
-                                             NetError &error);
+[[nodiscard]] std::string colorConfiguration(OnvifSession &session, int channel,
+                                             OnvifSession::Deadline deadline, NetError &error);
 [[nodiscard]] NetError setColorConfiguration(OnvifSession &session, int channel, std::string_view text,
                                              OnvifSession::Deadline deadline);
 
@@ -19,8 +19,8 @@ namespace sdk::onvif {
 /// one, its mode.
 [[nodiscard]] NetError cameraItem(OnvifSession &session, std::uint32_t item, int channel, void *block,
                                   std::uint32_t size, OnvifSession::Deadline deadline);
-[[nodiscard]] NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel, const void *block,
-                                     std::uint32_t size, OnvifSession::Deadline deadline);
+[[nodiscard]] NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel,
+                                     const void *block, std::uint32_t size, OnvifSession::Deadline deadline);
 
 /// Fills `output` from the options that the device gives for the source.
 [[nodiscard]] NetError cameraCapabilities(OnvifSession &session, const CameraCapabilityInput &input,

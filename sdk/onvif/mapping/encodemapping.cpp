@@ -69,9 +69,8 @@ NetError readOptions(OnvifSession &session, Stream &stream, Deadline deadline)
 
 const VideoEncodingOptions *optionsOf(const Stream &stream, std::string_view encoding)
 {
-    const auto found = std::find_if(stream.options.begin(), stream.options.end(), [encoding](const auto &options) {
-        return options.encoding == encoding;
-    });
+    const auto found = std::find_if(stream.options.begin(), stream.options.end(),
+                                    [encoding](const auto &options) { return options.encoding == encoding; });
     return found == stream.options.end() ? nullptr : &*found;
 }
 
@@ -152,7 +151,8 @@ NetError writeVideo(OnvifSession &session, const VideoEncoder &video, Deadline d
 
 /// The settings of a stream's audio with another format or rate. Its bit rate is the device's first one for
 /// that format, since each has its own.
-NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int sampleRate, Deadline deadline)
+NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int sampleRate,
+                    Deadline deadline)
 {
     std::optional<MediaService> media = session.media(deadline);
     if (!media || !stream.profile.audio)
@@ -162,9 +162,10 @@ NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int
     if (changesFormat || (sampleRate > 0 && sampleRate != audio.sampleRate)) {
         const auto options = media->audioOptions(audio.token, stream.profile.token);
         const int wanted = changesFormat ? format : audioFormatOf(audio.encoding);
-        const auto found = std::find_if(options.value.begin(), options.value.end(), [wanted](const auto &candidate) {
-            return audioFormatOf(candidate.encoding) == wanted;
-        });
+        const auto found =
+            std::find_if(options.value.begin(), options.value.end(), [wanted](const auto &candidate) {
+                return audioFormatOf(candidate.encoding) == wanted;
+            });
         if (found == options.value.end())
             return options.isOk() ? NetError::InvalidValue : options.error;
         audio.encoding = found->encoding;
@@ -200,8 +201,8 @@ void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
         if (options.minimumBitRate > 0)
             block.minimumBitRate = options.minimumBitRate;
         block.maximumBitRate = std::max(block.maximumBitRate, options.maximumBitRate);
-        block.maximumFrameRate =
-            std::max(block.maximumFrameRate, static_cast<std::int32_t>(std::lround(options.maximumFrameRate)));
+        block.maximumFrameRate = std::max(block.maximumFrameRate,
+                                          static_cast<std::int32_t>(std::lround(options.maximumFrameRate)));
         for (const std::string &profile : options.profiles) {
             const int number = options.encoding == "H264" ? profileNumber(profile) : 0;
             if (number > 0 && block.profileCount < block.profiles.size())
@@ -218,7 +219,8 @@ void fillAudio(EncodeCapabilityBlock &block, MediaService &media, const MediaPro
 {
     if (!profile.audio)
         return;
-    for (const AudioEncodingOptions &options : media.audioOptions(profile.audio->token, profile.token).value) {
+    for (const AudioEncodingOptions &options :
+         media.audioOptions(profile.audio->token, profile.token).value) {
         const int code = audioCapabilityOf(options.encoding);
         const auto used = block.audioFormats.begin() + block.audioFormatCount;
         if (code > 0 && block.audioFormatCount < block.audioFormats.size() &&
@@ -400,8 +402,8 @@ NetError setEncodeItem(OnvifSession &session, std::uint32_t item, int channel, c
     return NetError::NotSupported;
 }
 
-NetError encodeCapabilities(OnvifSession &session, const EncodeCapabilityInput &input, EncodeCapabilities &output,
-                            Deadline deadline)
+NetError encodeCapabilities(OnvifSession &session, const EncodeCapabilityInput &input,
+                            EncodeCapabilities &output, Deadline deadline)
 {
     if (input.size != sizeof(input) || output.size != sizeof(output))
         return NetError::InvalidValue;

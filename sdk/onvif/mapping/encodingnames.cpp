@@ -32,15 +32,15 @@ struct AudioFormat
 
 /// The older service's G711 is the kind that its texts call u-law.
 constexpr std::array audioFormats = {
-    AudioFormat{"G711", 3, 4}, AudioFormat{"PCMU", 3, 4},      AudioFormat{"PCMA", 1, 2}, AudioFormat{"G726", 6, 5},
-    AudioFormat{"AAC", 5, 8},  AudioFormat{"MP4A-LATM", 5, 8},
+    AudioFormat{"G711", 3, 4}, AudioFormat{"PCMU", 3, 4}, AudioFormat{"PCMA", 1, 2},
+    AudioFormat{"G726", 6, 5}, AudioFormat{"AAC", 5, 8},  AudioFormat{"MP4A-LATM", 5, 8},
 };
 
 const AudioFormat *audioFormat(std::string_view encoding)
 {
-    const auto *const found = std::find_if(audioFormats.begin(), audioFormats.end(), [encoding](const auto &entry) {
-        return entry.encoding == encoding;
-    });
+    const auto *const found =
+        std::find_if(audioFormats.begin(), audioFormats.end(),
+                     [encoding](const auto &entry) { return entry.encoding == encoding; });
     return found == audioFormats.end() ? nullptr : found;
 }
 
@@ -48,17 +48,17 @@ const AudioFormat *audioFormat(std::string_view encoding)
 
 int compressionOf(std::string_view encoding)
 {
-    const auto *const found = std::find_if(compressions.begin(), compressions.end(), [encoding](const auto &entry) {
-        return entry.encoding == encoding;
-    });
+    const auto *const found =
+        std::find_if(compressions.begin(), compressions.end(),
+                     [encoding](const auto &entry) { return entry.encoding == encoding; });
     return found == compressions.end() ? -1 : found->code;
 }
 
 std::string encodingOf(int compression)
 {
-    const auto *const found = std::find_if(compressions.begin(), compressions.end(), [compression](const auto &entry) {
-        return entry.code == compression;
-    });
+    const auto *const found =
+        std::find_if(compressions.begin(), compressions.end(),
+                     [compression](const auto &entry) { return entry.code == compression; });
     return found == compressions.end() ? std::string() : std::string(found->encoding);
 }
 

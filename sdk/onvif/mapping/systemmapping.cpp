@@ -154,13 +154,15 @@ NetError setLocales(OnvifSession &session, const LocalesRecord &record, Deadline
 
 } // namespace
 
-const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interfaces, std::string_view address)
+const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interfaces,
+                                      std::string_view address)
 {
     const DeviceInterface *first = nullptr;
     for (const DeviceInterface &interface : interfaces) {
-        const bool hasAddress = interface.address == address ||
-                                std::find(interface.ipv6Addresses.begin(), interface.ipv6Addresses.end(),
-                                          address.substr(0, address.find('%'))) != interface.ipv6Addresses.end();
+        const bool hasAddress =
+            interface.address == address ||
+            std::find(interface.ipv6Addresses.begin(), interface.ipv6Addresses.end(),
+                      address.substr(0, address.find('%'))) != interface.ipv6Addresses.end();
         if (hasAddress)
             return &interface;
         if (!first && interface.isEnabled && interface.hasIPv4)
@@ -171,13 +173,15 @@ const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interf
 
 int portOf(const std::vector<DeviceProtocol> &protocols, std::string_view name)
 {
-    const auto found = std::find_if(protocols.begin(), protocols.end(), [name](const DeviceProtocol &protocol) {
-        return protocol.isEnabled && protocol.name == name;
-    });
+    const auto found =
+        std::find_if(protocols.begin(), protocols.end(), [name](const DeviceProtocol &protocol) {
+            return protocol.isEnabled && protocol.name == name;
+        });
     return found == protocols.end() ? 0 : found->port;
 }
 
-std::string systemConfiguration(OnvifSession &session, std::string_view name, Deadline deadline, NetError &error)
+std::string systemConfiguration(OnvifSession &session, std::string_view name, Deadline deadline,
+                                NetError &error)
 {
     std::string text;
     error = NetError::None;

@@ -16,8 +16,8 @@ namespace sdk::onvif {
 
 /// Writes "NTP" or "Locales". The port of the time server and the period of its requests have no counterpart
 /// in the standard and are not sent.
-[[nodiscard]] NetError setSystemConfiguration(OnvifSession &session, std::string_view name, std::string_view text,
-                                              OnvifSession::Deadline deadline);
+[[nodiscard]] NetError setSystemConfiguration(OnvifSession &session, std::string_view name,
+                                              std::string_view text, OnvifSession::Deadline deadline);
 
 /// Sets the clock by hand. `time` is what the device shall show in its own zone.
 [[nodiscard]] NetError setDeviceTime(OnvifSession &session, const TimeRecord &time,

@@ -163,7 +163,7 @@ std::chrono::seconds xmlDuration(std::string_view text)
             return std::chrono::seconds(0);
         const char unit = *end;
         text.remove_prefix(static_cast<std::size_t>(end - text.data()) + 1);
-        const double factor = unit == 'D' && !isTime   ? 24.0 * 3600
+        const double factor = unit == 'D' && !isTime  ? 24.0 * 3600
                               : unit == 'H' && isTime ? 3600
                               : unit == 'M' && isTime ? 60
                               : unit == 'S' && isTime ? 1
@@ -297,18 +297,18 @@ ServiceResult<std::string> DeviceService::defaultGateway()
 
 ServiceResult<std::vector<DeviceProtocol>> DeviceService::protocols()
 {
-    return resultOf(call(SoapRequest("tds:GetNetworkProtocols")), ns::device, "GetNetworkProtocolsResponse",
-                    [](const XmlElement &response) {
-                        std::vector<DeviceProtocol> protocols;
-                        for (const XmlElement &element :
-                             bounded(response.children(ns::device, "NetworkProtocols"))) {
-                            const int port = element.child("Port").integer().value_or(0);
-                            protocols.push_back({.name = textOf(element.child("Name")),
-                                                 .isEnabled = element.child("Enabled").boolean().value_or(false),
-                                                 .port = port > 0 && port <= 65535 ? port : 0});
-                        }
-                        return protocols;
-                    });
+    return resultOf(
+        call(SoapRequest("tds:GetNetworkProtocols")), ns::device, "GetNetworkProtocolsResponse",
+        [](const XmlElement &response) {
+            std::vector<DeviceProtocol> protocols;
+            for (const XmlElement &element : bounded(response.children(ns::device, "NetworkProtocols"))) {
+                const int port = element.child("Port").integer().value_or(0);
+                protocols.push_back({.name = textOf(element.child("Name")),
+                                     .isEnabled = element.child("Enabled").boolean().value_or(false),
+                                     .port = port > 0 && port <= 65535 ? port : 0});
+            }
+            return protocols;
+        });
 }
 
 ServiceResult<NtpSettings> DeviceService::ntp()
@@ -355,9 +355,10 @@ ServiceResult<bool> DeviceService::setAddress(const DeviceInterface &interface)
         append(manual, "tt:PrefixLength", interface.prefixLength);
     }
     appendBoolean(ipv4, "tt:DHCP", interface.dhcp);
-    return resultOf(call(request), ns::device, "SetNetworkInterfacesResponse", [](const XmlElement &response) {
-        return response.child(ns::device, "RebootNeeded").boolean().value_or(false);
-    });
+    return resultOf(call(request), ns::device, "SetNetworkInterfacesResponse",
+                    [](const XmlElement &response) {
+                        return response.child(ns::device, "RebootNeeded").boolean().value_or(false);
+                    });
 }
 
 ServiceOutcome DeviceService::setDefaultGateway(const std::string &address)

@@ -37,7 +37,7 @@ struct DeviceClock
 {
     bool followsNtp = false;
     bool daylightSaving = false; ///< the zone's rule is applied
-    std::string timeZone = {};        ///< POSIX 1003.1 text, empty if the device does not say
+    std::string timeZone = {};   ///< POSIX 1003.1 text, empty if the device does not say
     std::optional<DateTime> utc = {};
     std::optional<DateTime> local = {};
 };
@@ -97,7 +97,8 @@ public:
     [[nodiscard]] ServiceResult<DeviceClock> clockOpenly();
     /// Succeeds only on a device that has no administrator yet.
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> usersOpenly();
-    [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name, const std::string &password);
+    [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name,
+                                                           const std::string &password);
 
     // With the login.
 

@@ -195,7 +195,8 @@ ServiceResult<ImagingOptions> ImagingService::options(const std::string &sourceT
 {
     const SoapRequest request("timg:GetOptions");
     append(request.operation(), "timg:VideoSourceToken", sourceToken);
-    return resultOf(m_client.call(m_address, request, m_deadline), ns::imaging, "GetOptionsResponse", readOptions);
+    return resultOf(m_client.call(m_address, request, m_deadline), ns::imaging, "GetOptionsResponse",
+                    readOptions);
 }
 
 ServiceOutcome ImagingService::setSettings(const std::string &sourceToken, const ImagingSettings &settings)

@@ -27,13 +27,13 @@ struct ModeAndLevel
 
 struct ExposureSettings
 {
-    std::string mode = {};                      ///< "AUTO" or "MANUAL"
-    std::optional<double> minimumTime = {};     ///< microseconds, of AUTO
-    std::optional<double> maximumTime = {};     ///< microseconds, of AUTO
-    std::optional<double> minimumGain = {};     ///< dB, of AUTO
-    std::optional<double> maximumGain = {};     ///< dB, of AUTO
-    std::optional<double> time = {};            ///< microseconds, of MANUAL
-    std::optional<double> gain = {};            ///< dB, of MANUAL
+    std::string mode = {};                  ///< "AUTO" or "MANUAL"
+    std::optional<double> minimumTime = {}; ///< microseconds, of AUTO
+    std::optional<double> maximumTime = {}; ///< microseconds, of AUTO
+    std::optional<double> minimumGain = {}; ///< dB, of AUTO
+    std::optional<double> maximumGain = {}; ///< dB, of AUTO
+    std::optional<double> time = {};        ///< microseconds, of MANUAL
+    std::optional<double> gain = {};        ///< dB, of MANUAL
 };
 
 struct WhiteBalanceSettings

@@ -31,7 +31,7 @@ double boundedDecimal(const XmlElement &element)
 std::string encodingOf(std::string_view text)
 {
     return text == "JPEG" || text == "H264" || text == "H265" || text == "MPEG4" ? std::string(text)
-                                                                                : textOf(text);
+                                                                                 : textOf(text);
 }
 
 } // namespace
@@ -54,7 +54,8 @@ VideoEncoder readVideoEncoder(const XmlElement &element)
         if (!settings.exists())
             continue;
         encoder.keyInterval = boundedNumber(settings.child("GovLength"));
-        encoder.profile = textOf(settings.child(std::string(codec == "H264" ? "H264Profile" : "Mpeg4Profile")).text());
+        encoder.profile =
+            textOf(settings.child(std::string(codec == "H264" ? "H264Profile" : "Mpeg4Profile")).text());
     }
     if (const std::string_view interval = element.attribute("GovLength"); !interval.empty())
         encoder.keyInterval = std::clamp(std::atoi(std::string(interval).c_str()), 0, largestNumber);
@@ -152,11 +153,12 @@ ServiceResult<std::string> MediaService::snapshotUrl(const std::string &profileT
     const SoapRequest uriRequest = request("GetSnapshotUri");
     const bool isSecond = m_version == MediaVersion::Second;
     append(uriRequest.operation(), isSecond ? "tr2:ProfileToken" : "trt:ProfileToken", profileToken);
-    return resultOf(call(uriRequest), uri(), "GetSnapshotUriResponse", [isSecond](const XmlElement &response) {
-        const XmlElement address =
-            isSecond ? response.child(ns::media2, "Uri") : response.child(ns::media, "MediaUri").child("Uri");
-        return std::string(address.text().substr(0, longestUrl));
-    });
+    return resultOf(
+        call(uriRequest), uri(), "GetSnapshotUriResponse", [isSecond](const XmlElement &response) {
+            const XmlElement address = isSecond ? response.child(ns::media2, "Uri")
+                                                : response.child(ns::media, "MediaUri").child("Uri");
+            return std::string(address.text().substr(0, longestUrl));
+        });
 }
 
 ServiceOutcome MediaService::requestKeyPicture(const std::string &profileToken)

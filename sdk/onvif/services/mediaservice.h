@@ -1,4 +1,5 @@
-// The media services (ONVIF Media and Media 2): profiles of video sources, and the addresses of their streams.
+// The media services (ONVIF Media and Media 2): profiles of video sources, and the addresses of their
+// streams.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"
@@ -21,7 +22,7 @@ struct VideoEncoder
     int bitRate = 0;      ///< kbit/s
     int keyInterval = 0;  ///< pictures from one key picture to the next
     double quality = 0;
-    std::string profile = {};    ///< "Baseline", "Main", "Extended", "High", ...
+    std::string profile = {}; ///< "Baseline", "Main", "Extended", "High", ...
     bool constantBitRate = false;
 };
 
@@ -29,9 +30,10 @@ struct VideoEncoder
 struct AudioEncoder
 {
     std::string token = {};
-    std::string encoding = {}; ///< "G711", "G726", "AAC" of the older service; "PCMU", "G726", "MP4A-LATM" of the newer
-    int bitRate = 0;      ///< kbit/s
-    int sampleRate = 0;   ///< kHz
+    std::string encoding =
+        {};          ///< "G711", "G726", "AAC" of the older service; "PCMU", "G726", "MP4A-LATM" of the newer
+    int bitRate = 0; ///< kbit/s
+    int sampleRate = 0; ///< kHz
 };
 
 /// A set of settings that a stream is made of.
@@ -39,7 +41,7 @@ struct MediaProfile
 {
     std::string token = {};
     std::string name = {};
-    std::string sourceToken = {}; ///< of the video source, empty for a profile without video
+    std::string sourceToken = {};         ///< of the video source, empty for a profile without video
     std::string sourceConfiguration = {}; ///< token of the source's settings
     std::string sourceName = {};          ///< the name of these settings, which users give
     std::optional<VideoEncoder> video = {};
@@ -99,17 +101,18 @@ public:
 
     // Encoders. `profileToken` is the profile that the encoder belongs to.
 
-    [[nodiscard]] ServiceResult<std::vector<VideoEncodingOptions>> videoOptions(const std::string &encoderToken,
-                                                                                const std::string &profileToken);
-    [[nodiscard]] ServiceResult<std::vector<AudioEncodingOptions>> audioOptions(const std::string &encoderToken,
-                                                                                const std::string &profileToken);
+    [[nodiscard]] ServiceResult<std::vector<VideoEncodingOptions>>
+    videoOptions(const std::string &encoderToken, const std::string &profileToken);
+    [[nodiscard]] ServiceResult<std::vector<AudioEncodingOptions>>
+    audioOptions(const std::string &encoderToken, const std::string &profileToken);
 
     /// Reads the encoder's settings, changes those that differ from `encoder`, and writes them back; what the
     /// device has beside them stays.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);
 
-    [[nodiscard]] ServiceOutcome setSourceName(const std::string &configurationToken, const std::string &name);
+    [[nodiscard]] ServiceOutcome setSourceName(const std::string &configurationToken,
+                                               const std::string &name);
 
     [[nodiscard]] MediaVersion version() const { return m_version; }
 

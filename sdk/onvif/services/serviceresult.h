@@ -29,8 +29,8 @@ using ServiceOutcome = ServiceResult<Nothing>;
 /// Takes the error of an answer, or the value that `read` makes of its content. An answer of another
 /// operation counts as a mismatch of the protocol.
 template<typename Read>
-[[nodiscard]] auto resultOf(const SoapAnswer &answer, std::string_view uri, std::string_view expected, Read read)
-    -> ServiceResult<decltype(read(answer.content))>
+[[nodiscard]] auto resultOf(const SoapAnswer &answer, std::string_view uri, std::string_view expected,
+                            Read read) -> ServiceResult<decltype(read(answer.content))>
 {
     if (!answer.isOk())
         return {.error = answer.error, .reason = answer.reason};

@@ -10,8 +10,8 @@ namespace {
 
 QDateTime toQt(const DateTime &time)
 {
-    return QDateTime(QDate(time.year, time.month, time.day), QTime(time.hour, time.minute, qMin(time.second, 59)),
-                     Qt::UTC);
+    return QDateTime(QDate(time.year, time.month, time.day),
+                     QTime(time.hour, time.minute, qMin(time.second, 59)), Qt::UTC);
 }
 
 DateTime fromQt(const QDateTime &time)

@@ -35,9 +35,10 @@ std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles)
     for (const std::string &source : order) {
         std::vector<const MediaProfile *> &ofSource = bySource[source];
         // Profiles of one encoder are one stream: the first of them stands for it.
-        std::stable_sort(ofSource.begin(), ofSource.end(), [](const MediaProfile *left, const MediaProfile *right) {
-            return pictureArea(*left) > pictureArea(*right);
-        });
+        std::stable_sort(ofSource.begin(), ofSource.end(),
+                         [](const MediaProfile *left, const MediaProfile *right) {
+                             return pictureArea(*left) > pictureArea(*right);
+                         });
         const MediaProfile *main = ofSource.front();
         const auto sub = std::find_if(ofSource.begin(), ofSource.end(), [main](const MediaProfile *profile) {
             return profile->video->token != main->video->token;
@@ -90,9 +91,9 @@ NetError OnvifSession::confirmPassword(Deadline deadline)
     DeviceService service = device(deadline);
     const auto users = service.usersOpenly();
     if (users.isOk()) {
-        const bool hasAdministrator = std::any_of(users.value.begin(), users.value.end(), [](const auto &user) {
-            return user.level == administrator;
-        });
+        const bool hasAdministrator =
+            std::any_of(users.value.begin(), users.value.end(),
+                        [](const auto &user) { return user.level == administrator; });
         return hasAdministrator ? NetError::None : NetError::NotSupported;
     }
     const auto interfaces = service.interfaces(); // every kind of account may read them

@@ -30,7 +30,8 @@ public:
 
     /// Logs in. On failure `error` is set and the result is null. A device that has no administrator yet
     /// takes no login: NotSupported.
-    [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service, const HttpLogin &login,
+    [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
+                                                            const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,
                                                             Deadline deadline, NetError &error);
 

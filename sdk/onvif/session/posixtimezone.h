@@ -13,9 +13,9 @@ namespace sdk::onvif {
 /// A zone by IEEE Std 1003.1, section 8.3.
 struct PosixTimeZone
 {
-    std::string name = {};               ///< of standard time
+    std::string name = {};          ///< of standard time
     int offset = 0;                 ///< minutes that local standard time is ahead of UTC
-    std::string daylightName = {};       ///< empty for a zone without daylight saving
+    std::string daylightName = {};  ///< empty for a zone without daylight saving
     int daylightOffset = 0;         ///< minutes ahead of UTC
     DaylightSavingPoint begin = {}; ///< in standard time
     DaylightSavingPoint end = {};   ///< in daylight saving time

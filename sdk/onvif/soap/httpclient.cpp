@@ -70,8 +70,8 @@ bool isDigestChallenge(std::string_view line)
 
 long millisecondsUntil(std::chrono::steady_clock::time_point deadline)
 {
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
-        deadline - std::chrono::steady_clock::now());
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
     return static_cast<long>(left.count());
 }
 
@@ -136,7 +136,8 @@ struct HttpClient::Exchange
         self->headerLength += line.size();
         if (self->headerLength > longestHeaders)
             return 0;
-        if (line.starts_with("HTTP/")) // the headers of the next answer: the one to the login follows a challenge
+        if (line.starts_with(
+                "HTTP/")) // the headers of the next answer: the one to the login follows a challenge
             self->answer.offersDigest = false;
         if (isDigestChallenge(line))
             self->answer.offersDigest = true;
@@ -242,12 +243,13 @@ HttpAnswer HttpClient::postFile(const ServiceAddress &address, const std::string
     connection->set(CURLOPT_READDATA, static_cast<void *>(connection->file.get()));
     // Sends the file again from its beginning when the device asks for a login only at its end.
     connection->set(CURLOPT_SEEKDATA, static_cast<void *>(connection->file.get()));
-    connection->set(CURLOPT_SEEKFUNCTION,
-                    static_cast<int (*)(void *, curl_off_t, int)>([](void *file, curl_off_t offset, int origin) {
-                        return std::fseek(static_cast<std::FILE *>(file), static_cast<long>(offset), origin) == 0
-                                   ? CURL_SEEKFUNC_OK
-                                   : CURL_SEEKFUNC_FAIL;
-                    }));
+    connection->set(
+        CURLOPT_SEEKFUNCTION,
+        static_cast<int (*)(void *, curl_off_t, int)>([](void *file, curl_off_t offset, int origin) {
+            return std::fseek(static_cast<std::FILE *>(file), static_cast<long>(offset), origin) == 0
+                       ? CURL_SEEKFUNC_OK
+                       : CURL_SEEKFUNC_FAIL;
+        }));
     HttpAnswer answer = exchange(*connection, address, login, progress, deadline);
     giveBack(std::move(connection));
     return answer;
@@ -270,7 +272,8 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
 #else
     connection.set(CURLOPT_PROTOCOLS, static_cast<long>(CURLPROTO_HTTP | CURLPROTO_HTTPS));
 #endif
-    connection.set(CURLOPT_PROXY, ""); // a device of the local network is never behind the environment's proxy
+    connection.set(CURLOPT_PROXY,
+                   ""); // a device of the local network is never behind the environment's proxy
     connection.set(CURLOPT_NOSIGNAL, 1L); // the process has other threads
     connection.set(CURLOPT_CONNECTTIMEOUT_MS, std::min(left, static_cast<long>(connectLimit.count())));
     connection.set(CURLOPT_TIMEOUT_MS, left);
@@ -279,7 +282,8 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
     connection.set(CURLOPT_WRITEFUNCTION, &Exchange::takeBody);
     connection.set(CURLOPT_WRITEDATA, static_cast<void *>(&exchange));
     if (login) {
-        // "Only" makes the library send the whole request first, and answer a challenge by nothing but Digest.
+        // "Only" makes the library send the whole request first, and answer a challenge by nothing but
+        // Digest.
         connection.set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_ONLY | CURLAUTH_DIGEST));
         connection.set(CURLOPT_USERNAME, login->account.c_str());
         connection.set(CURLOPT_PASSWORD, login->password.c_str());

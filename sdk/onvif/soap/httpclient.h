@@ -5,9 +5,9 @@
 
 #include <atomic>
 #include <chrono>
-#include <memory>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -82,7 +82,8 @@ private:
     [[nodiscard]] std::unique_ptr<Connection> takeConnection();
     void giveBack(std::unique_ptr<Connection> connection);
     [[nodiscard]] HttpAnswer exchange(Connection &connection, const ServiceAddress &address,
-                                      const HttpLogin *login, const std::function<void(std::int64_t)> &progress,
+                                      const HttpLogin *login,
+                                      const std::function<void(std::int64_t)> &progress,
                                       std::chrono::steady_clock::time_point deadline);
 
     std::atomic_bool m_isCancelled = false;

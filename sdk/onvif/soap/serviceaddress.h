@@ -11,7 +11,7 @@ namespace sdk::onvif {
 struct ServiceAddress
 {
     bool isSecure = false; ///< HTTPS
-    std::string host = {};      ///< an address without brackets
+    std::string host = {}; ///< an address without brackets
     int port = 80;
     std::string path = "/onvif/device_service"; ///< with its query
 

@@ -40,9 +40,9 @@ constexpr std::array meanings = {
 
 NetError errorOfSubcode(std::string_view subcode)
 {
-    const auto *const meaning = std::find_if(meanings.begin(), meanings.end(), [subcode](const auto &candidate) {
-        return candidate.subcode == subcode;
-    });
+    const auto *const meaning =
+        std::find_if(meanings.begin(), meanings.end(),
+                     [subcode](const auto &candidate) { return candidate.subcode == subcode; });
     return meaning == meanings.end() ? NetError::None : meaning->error;
 }
 
@@ -57,7 +57,8 @@ NetError errorOfFault(const XmlElement &fault)
             return error;
         code = code.child(ns::envelope, "Subcode");
     }
-    for (const XmlElement &older : {fault.child({}, "faultcode"), fault.child(ns::olderEnvelope, "faultcode")}) {
+    for (const XmlElement &older :
+         {fault.child({}, "faultcode"), fault.child(ns::olderEnvelope, "faultcode")}) {
         if (const NetError error = errorOfSubcode(older.localText()); error != NetError::None)
             return error;
     }
@@ -162,7 +163,8 @@ NetError SoapClient::refusal() const
     return m_isConfirmed ? NetError::SessionEnded : NetError::WrongPassword;
 }
 
-SoapAnswer SoapClient::callOpenly(const ServiceAddress &service, const SoapRequest &request, Deadline deadline)
+SoapAnswer SoapClient::callOpenly(const ServiceAddress &service, const SoapRequest &request,
+                                  Deadline deadline)
 {
     LoginMethod offered = LoginMethod::Unknown;
     return send(service, request, LoginMethod::Unknown, deadline, offered);
@@ -199,13 +201,15 @@ SoapAnswer SoapClient::send(const ServiceAddress &service, const SoapRequest &re
             std::chrono::system_clock::now() + std::chrono::milliseconds(m_clockOffset.load());
         header = passwordToken(login.account, login.password, deviceTime);
     }
-    const HttpAnswer answer = m_http->post(service, request.text(header), "application/soap+xml; charset=utf-8",
-                                           method == LoginMethod::Digest ? &login : nullptr, deadline);
+    const HttpAnswer answer =
+        m_http->post(service, request.text(header), "application/soap+xml; charset=utf-8",
+                     method == LoginMethod::Digest ? &login : nullptr, deadline);
     offered = answer.offersDigest ? LoginMethod::Digest : LoginMethod::Token;
     SoapAnswer read = readSoapAnswer(answer);
     if (!read.isOk())
         qCDebug(logOnvif) << service.url().c_str() << request.operation().name() << "status" << answer.status
-                          << "error" << Qt::hex << static_cast<std::uint32_t>(read.error) << read.reason.c_str();
+                          << "error" << Qt::hex << static_cast<std::uint32_t>(read.error)
+                          << read.reason.c_str();
     return read;
 }
 

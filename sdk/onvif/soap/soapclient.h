@@ -48,7 +48,8 @@ public:
     SoapClient(HttpLogin login, std::shared_ptr<HttpClient> http);
 
     /// A call with the login, where the device needs one.
-    [[nodiscard]] SoapAnswer call(const ServiceAddress &service, const SoapRequest &request, Deadline deadline);
+    [[nodiscard]] SoapAnswer call(const ServiceAddress &service, const SoapRequest &request,
+                                  Deadline deadline);
 
     /// A call that never sends the login.
     [[nodiscard]] SoapAnswer callOpenly(const ServiceAddress &service, const SoapRequest &request,
@@ -69,8 +70,8 @@ public:
     [[nodiscard]] HttpClient &http() { return *m_http; }
 
 private:
-    [[nodiscard]] SoapAnswer send(const ServiceAddress &service, const SoapRequest &request, LoginMethod method,
-                                  Deadline deadline, LoginMethod &offered);
+    [[nodiscard]] SoapAnswer send(const ServiceAddress &service, const SoapRequest &request,
+                                  LoginMethod method, Deadline deadline, LoginMethod &offered);
     [[nodiscard]] NetError refusal() const;
 
     const std::shared_ptr<HttpClient> m_http;

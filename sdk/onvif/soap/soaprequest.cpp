@@ -111,7 +111,8 @@ void setAttribute(pugi::xml_node element, std::string_view name, std::string_vie
 
 pugi::xml_node appendCopy(pugi::xml_node parent, std::string_view name, const XmlElement &element)
 {
-    pugi::xml_node copy = append(parent, name, element.firstChild().exists() ? std::string_view() : element.text());
+    pugi::xml_node copy =
+        append(parent, name, element.firstChild().exists() ? std::string_view() : element.text());
     for (const pugi::xml_attribute &attribute : element.node().attributes()) {
         const std::string_view attributeName = attribute.name();
         if (attributeName.find(':') == std::string_view::npos && attributeName != "xmlns")

@@ -197,10 +197,7 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(m_net.NetInit());
-    }
+    void initTestCase() { QVERIFY(m_net.NetInit()); }
 
     void cleanupTestCase() { m_net.NetCleanup(); }
 
@@ -258,8 +255,8 @@ private Q_SLOTS:
         QVERIFY2(handle > 0, lastError());
         DeviceAttributes attributes{};
         std::uint32_t returned = 0;
-        QVERIFY(m_net.NetQueryConfig(handle, QueryCommand::DeviceAttributes, 0, &attributes, sizeof(attributes),
-                                     returned, 3000ms));
+        QVERIFY(m_net.NetQueryConfig(handle, QueryCommand::DeviceAttributes, 0, &attributes,
+                                     sizeof(attributes), returned, 3000ms));
         QCOMPARE(Answers::textOf(attributes.mac), u"02:1a:c5:00:40:25"_s);
         QCOMPARE(attributes.videoInputs, 1);
         const auto network = configuration<NetworkRecord>(handle, "Network");
@@ -292,7 +289,8 @@ private Q_SLOTS:
         QVERIFY(setConfiguration(handle, "Locales", locales));
         const auto rule = configuration<LocalesRecord>(handle, "Locales");
         QVERIFY(rule && rule->daylightSavingEnabled == 1 && rule->begin.month == 3 && rule->begin.week == 2 &&
-                rule->begin.minute == 30 && rule->end.week == DaylightSavingPoint::lastWeek && rule->end.day == 6);
+                rule->begin.minute == 30 && rule->end.week == DaylightSavingPoint::lastWeek &&
+                rule->end.day == 6);
 
         const TimeRecord wanted = {.year = 2031, .month = 5, .day = 6, .hour = 7, .minute = 8, .second = 9};
         QVERIFY(m_net.NetSetDeviceSetting(handle, DeviceSetting::Time, -1, &wanted, sizeof(wanted), 3000ms));
@@ -438,8 +436,7 @@ private Q_SLOTS:
         setBlockText(input.account, account);
         setBlockText(input.password, password);
         DeviceRequestOutput output{.size = sizeof(output)};
-        QVERIFY2(m_net.NetInitDeviceAccount(input, output, 5000ms, ""),
-                 lastError());
+        QVERIFY2(m_net.NetInitDeviceAccount(input, output, 5000ms, ""), lastError());
         QVERIFY(!m_net.NetInitDeviceAccount(input, output, 5000ms, ""));
         QCOMPARE(m_net.NetGetLastError(), code(NetError::NotSupported));
         const LLONG handle = login("192.168.1.109");
@@ -460,8 +457,7 @@ private Q_SLOTS:
         setBlockText(input.device.account, account);
         setBlockText(input.device.password, password);
         DeviceRequestOutput output{.size = sizeof(output)};
-        QVERIFY2(m_net.NetModifyDeviceBySearch(input, output, 8000ms),
-                 lastError());
+        QVERIFY2(m_net.NetModifyDeviceBySearch(input, output, 8000ms), lastError());
         LLONG handle = 0;
         QTRY_VERIFY_WITH_TIMEOUT((handle = login("192.168.1.230")) > 0, 30000);
         const auto network = configuration<NetworkRecord>(handle, "Network");

@@ -23,7 +23,7 @@ QString textOf(const DateTime &time)
 DateTime timeOf(const QString &text)
 {
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
-    return {time.date().year(),   time.date().month(),    time.date().day(),
+    return {time.date().year(), time.date().month(),  time.date().day(),
             time.time().hour(), time.time().minute(), time.time().second()};
 }
 
@@ -116,14 +116,15 @@ private Q_SLOTS:
 
     void readsAnAnnouncement()
     {
-        const QByteArray datagram = match(
-            "<a:EndpointReference xmlns:a=\"http://schemas.xmlsoap.org/ws/2004/08/addressing\">"
-            "<a:Address>urn:uuid:5F5A69C2-E0AE-504F-829B-00000000000B</a:Address></a:EndpointReference>"
-            "<q:Types>n:NetworkVideoTransmitter tds:Device</q:Types>"
-            "<q:Scopes>onvif://www.onvif.org/name/T%C3%BCr%20A  ONVIF://www.onvif.org/hardware/SC-200\n"
-            "onvif://www.onvif.org/name/second onvif://www.onvif.org/MAC/02-1A-C5-00-40-17"
-            "  odd://www.onvif.org/location/x</q:Scopes>"
-            "<q:XAddrs>ftp://192.0.2.7/ http://user@192.0.2.7/ http://192.0.2.9/a http://192.0.2.7:8000/b</q:XAddrs>");
+        const QByteArray datagram =
+            match("<a:EndpointReference xmlns:a=\"http://schemas.xmlsoap.org/ws/2004/08/addressing\">"
+                  "<a:Address>urn:uuid:5F5A69C2-E0AE-504F-829B-00000000000B</a:Address></a:EndpointReference>"
+                  "<q:Types>n:NetworkVideoTransmitter tds:Device</q:Types>"
+                  "<q:Scopes>onvif://www.onvif.org/name/T%C3%BCr%20A  ONVIF://www.onvif.org/hardware/SC-200\n"
+                  "onvif://www.onvif.org/name/second onvif://www.onvif.org/MAC/02-1A-C5-00-40-17"
+                  "  odd://www.onvif.org/location/x</q:Scopes>"
+                  "<q:XAddrs>ftp://192.0.2.7/ http://user@192.0.2.7/ http://192.0.2.9/a "
+                  "http://192.0.2.7:8000/b</q:XAddrs>");
         const auto found = readAnnouncements(datagram.toStdString());
         QCOMPARE(found.size(), 1U);
         FoundDevice device;
@@ -170,8 +171,10 @@ private Q_SLOTS:
     void keepsToTheDevice_data()
     {
         const auto row = dataTable<QString, QString>({"named", "asked"});
-        row("its own port", u"http://192.0.2.7:8080/onvif/media?x=1#y"_s, u"http://192.0.2.7:8080/onvif/media?x=1"_s);
-        row("another host", u"https://198.51.100.1:444/onvif/media"_s, u"http://192.0.2.7:8000/onvif/media"_s);
+        row("its own port", u"http://192.0.2.7:8080/onvif/media?x=1#y"_s,
+            u"http://192.0.2.7:8080/onvif/media?x=1"_s);
+        row("another host", u"https://198.51.100.1:444/onvif/media"_s,
+            u"http://192.0.2.7:8000/onvif/media"_s);
         row("no path", u"http://192.0.2.7"_s, u"http://192.0.2.7:80/"_s);
         row("IPv6", u"http://[fe80::1]/m"_s, u"http://192.0.2.7:8000/m"_s);
         row("a file", u"file:///etc/passwd"_s, {});

@@ -9,7 +9,15 @@ using namespace std::chrono_literals;
 
 namespace {
 
-enum Manner { Silent, Endless, Closing, Redirecting, Digest, DigestRefusing };
+enum Manner
+{
+    Silent,
+    Endless,
+    Closing,
+    Redirecting,
+    Digest,
+    DigestRefusing
+};
 
 const QByteArray answerText =
     R"(<x:Envelope xmlns:x="http://www.w3.org/2003/05/soap-envelope"><x:Body><a xmlns="u"/></x:Body></x:Envelope>)";

@@ -29,7 +29,7 @@ OVSection {
         width: parent.width - x
         color: Theme.colours.faint
         font: Theme.hintFont
-        text: qsTr("PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。")
+        text: !root.supported ? qsTr("设备的接口没有此功能") : qsTr("PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。")
     }
     OVActionRow {
         x: Theme.panelLabelWidth + Theme.unit
@@ -39,7 +39,7 @@ OVSection {
             kind: OVButton.Primary
             objectName: "videoStandardButton"
             text: qsTr("应用")
-            toolTip: !root.supported ? qsTr("设备的接口没有此功能") : root.available ? "" : qsTr("请先在左侧勾选设备")
+            toolTip: !root.supported || root.available ? "" : qsTr("请先在左侧勾选设备")
             onClicked: {
                 const standard = standardBox.currentIndex + 1;
                 root.actionRequested("videoStandard", root.title, {videoStandard: standard});
