@@ -10,7 +10,7 @@ namespace {
 QByteArray source(const QByteArray &name)
 {
     return "appsrc name=" + name +
-           " is-live=true do-timestamp=true format=time max-buffers=200 "
+           " is-live=true format=time max-buffers=200 "
            "max-bytes=0 max-time=0 leaky-type=downstream ";
 }
 

@@ -35,7 +35,10 @@ gboolean checkLogin(const site::RtspDevice &device, GstRTSPContext *context)
     const std::optional<SceneDevice> asked = parts.site.device(device.mac);
     if (!asked)
         return FALSE;
-    const site::DeviceManner manner = parts.options.mannerOf(*asked);
+    // Players know MD5 alone, so that devices that ask for more elsewhere offer it here.
+    site::DeviceManner manner = parts.options.mannerOf(*asked);
+    manner.offersMd5 = true;
+    manner.offersSha256 = false;
     const std::int64_t now = parts.site.clock().now();
     gchar *header = nullptr;
     gst_rtsp_message_get_header(context->request, GST_RTSP_HDR_AUTHORIZATION, &header, 0);

@@ -16,6 +16,7 @@ namespace site {
 namespace {
 
 constexpr double millisecondsOfSecond = 1000;
+constexpr int nanosecondsOfSecond = 1000000000;
 
 void setCaps(GstAppSrc *source, const QByteArray &text)
 {
@@ -94,6 +95,7 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
     int pictures = 0;
     std::int64_t begin = m_site.clock().now();
     std::int64_t beginPicture = m_picture;
+    takePipelineTime(production->settings().frameRate);
     while (!stop.stop_requested()) {
         const double rate = production->settings().frameRate;
         const auto due =
@@ -118,6 +120,7 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
             setCaps(m_order.pictures, pictureCaps(*settings));
             begin = due;
             beginPicture = m_picture = 0;
+            takePipelineTime(settings->frameRate);
             asked = -1;
         }
         const int count = m_keyPictures.count(m_order.mac, m_order.stream);
@@ -156,7 +159,16 @@ bool StreamFeeder::push(GstAppSrc *destination, const AVPacket &packet, const QB
     GstBuffer *buffer = gst_buffer_new_allocate(nullptr, headSize + size, nullptr);
     gst_buffer_fill(buffer, 0, before.constData(), headSize);
     gst_buffer_fill(buffer, headSize, packet.data, size);
+    const std::int64_t time = av_rescale_q(packet.pts, packet.time_base, {1, nanosecondsOfSecond});
+    GST_BUFFER_PTS(buffer) = static_cast<GstClockTime>(std::max<std::int64_t>(m_offset + time, 0));
     return gst_app_src_push_buffer(destination, buffer) == GST_FLOW_OK;
+}
+
+void StreamFeeder::takePipelineTime(double frameRate)
+{
+    const GstClockTime time = gst_element_get_current_running_time(GST_ELEMENT(m_order.pictures));
+    const auto made = std::llround(static_cast<double>(m_picture) * nanosecondsOfSecond / frameRate);
+    m_offset = (GST_CLOCK_TIME_IS_VALID(time) ? static_cast<std::int64_t>(time) : 0) - made;
 }
 
 std::int64_t StreamFeeder::deviceTime() const

@@ -52,15 +52,18 @@ private:
     [[nodiscard]] bool feed(const sdk::demo::LiveProduction &production,
                             const sdk::demo::EncodedPackets &packets);
     [[nodiscard]] bool push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before);
+    /// Lets the picture that comes next have the time that the pipeline has now.
+    void takePipelineTime(double frameRate);
     [[nodiscard]] std::int64_t deviceTime() const;
     void endStreams();
 
     sdk::demo::DemoSite &m_site;
     KeyPictures &m_keyPictures;
     const Order m_order;
-    std::int64_t m_picture = 0;
-    bool m_hasSound = false; ///< some has been fed
-    std::jthread m_thread;   // last: it uses all of them
+    std::int64_t m_picture = 0; ///< the next one
+    std::int64_t m_offset = 0;  ///< in ns: of the pipeline's time from that of the production
+    bool m_hasSound = false;    ///< some has been fed
+    std::jthread m_thread;      // last: it uses all of them
 };
 
 } // namespace site

@@ -28,8 +28,9 @@ std::optional<QString> FirmwareUploads::begin(const SceneDevice &device)
 {
     const std::lock_guard lock(m_mutex);
     const UploadPointer before = m_uploads.value(device.mac);
-    if (device.hasFault(Fault::UpgradeBusy) || (before && (before->isWriting || before->received > 0)))
+    if (device.hasFault(Fault::UpgradeBusy) || (before && before->isWriting))
         return std::nullopt;
+    // Of a file that was on its way, its sender may be gone: whoever asks last is heard.
     auto upload = std::make_shared<Upload>();
     upload->path = pathBegin.toByteArray() + QByteArray::number(++m_last);
     m_uploads.insert(device.mac, upload);

@@ -26,7 +26,8 @@ public:
     /// `site` and `poller` must outlive the uploads.
     FirmwareUploads(sdk::demo::DemoSite &site, Poller &poller) : m_site(site), m_poller(poller) {}
 
-    /// The path that a file is to be sent to; nothing while the device is busy.
+    /// The path that a file is to be sent to, in the place of the one before; nothing while the device
+    /// writes.
     [[nodiscard]] std::optional<QString> begin(const sdk::demo::SceneDevice &device);
 
     [[nodiscard]] static bool isUploadPath(const QByteArray &path);
