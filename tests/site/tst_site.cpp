@@ -2,6 +2,7 @@
 #include "tests/site/siteclient.h"
 
 #include <QFile>
+#include <QNetworkDatagram>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
