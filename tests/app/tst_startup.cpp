@@ -67,7 +67,6 @@ private Q_SLOTS:
         row("option behind demo", QStringList{"--demo", "--help"}, true, "office", true);
         row("unknown option", QStringList{"--frobnicate"}, false, "office", false);
         row("stray word", QStringList{"office"}, false, "office", false);
-        row("two scenes", QStringList{"--demo", "a", "b"}, true, "a", false);
     }
 
     void readsTheCommandLine()

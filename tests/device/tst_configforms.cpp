@@ -108,6 +108,7 @@ private Q_SLOTS:
                                        {"encodeMode", QStringList()},
                                        {"resolution", QStringList()},
                                        {"bitStream", QStringList()}});
+        row("a list without a value", QVariantMap{{"encodeMode", QStringList("H.265")}});
         row("other kinds", QVariantMap{{"channelNum", 3},
                                        {"encodeMode", QVariantMap{{"a", 1}}},
                                        {"curBitStream", "none"},

@@ -121,18 +121,6 @@ private Q_SLOTS:
         QVERIFY(!excel.setCellText(1, 1, "x"));
     }
 
-    void leavesTheFileWhenItCannotBeWritten()
-    {
-        QExcel excel(fileEngine());
-        QVERIFY(excel.createWorkbook());
-        QVERIFY(!excel.saveAs(m_folder.filePath("no/such/folder.xlsx")));
-        QVERIFY(!excel.saveAs(m_folder.path()));
-        QVERIFY(!excel.saveAs(QString()));
-        QVERIFY(!excel.save()); // a path that failed is not kept
-        QVERIFY(excel.saveAs(m_path));
-        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files).size(), 1); // nothing is left beside it
-    }
-
     /// A workbook that took work to fill is kept somewhere, whatever became of its file.
     void aFilledWorkbookIsKept_data()
     {

@@ -190,6 +190,31 @@ private Q_SLOTS:
         QTRY_VERIFY(loginsAreOpen(0));
         QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
     }
+
+    /// The live view works with the same session.
+    void anotherPagesLoginDropsTheWork()
+    {
+        QCOMPARE(m_site->login(m_recorder), 0);
+        setFault(m_recorder, Fault::NoAnswer);
+        setFault(m_camera, Fault::SlowAnswers, slowness);
+        m_told.clear();
+        m_site->stopTime();
+        m_work->chooseEncoding("curChannel", 1);
+        QTRY_COMPARE(m_site->clock().waiters(), 1);
+        m_site->factory->openSession("dh", ipportOf(m_camera), "admin", "secret1", false);
+        QTRY_COMPARE(m_site->clock().waiters(), 2);
+        QVERIFY(QTest::qWaitFor([this] {
+            if (m_site->clock().waiters() == 2)
+                m_site->clock().advance(std::chrono::milliseconds(slowness));
+            return m_told.contains("other");
+        }));
+        QVERIFY(!m_work->isRunning());
+        m_site->letTimePass();
+        QTRY_COMPARE(m_site->clock().waiters(), 0);
+        QCoreApplication::processEvents();
+        QVERIFY(!m_told.contains("ended") && !m_told.contains("encode channel"));
+        QCOMPARE(m_site->shown("sessionDevice curChannel"), ipportOf(m_camera) + "|0");
+    }
 };
 
 QTEST_GUILESS_MAIN(TestSessionWork)
