@@ -152,7 +152,7 @@ bool StreamFeeder::feed(const LiveProduction &production, const EncodedPackets &
     return true;
 }
 
-bool StreamFeeder::push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before)
+bool StreamFeeder::push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before) const
 {
     const auto headSize = static_cast<gsize>(before.size());
     const auto size = static_cast<gsize>(packet.size);
@@ -177,7 +177,7 @@ std::int64_t StreamFeeder::deviceTime() const
     return m_site.clock().now() + (device ? device->maintenance.clockAhead.count() : 0);
 }
 
-void StreamFeeder::endStreams()
+void StreamFeeder::endStreams() const
 {
     gst_app_src_end_of_stream(m_order.pictures);
     if (m_order.sound)

@@ -51,11 +51,11 @@ private:
     void feedWhilePlayed(std::unique_ptr<sdk::demo::LiveProduction> production, const std::stop_token &stop);
     [[nodiscard]] bool feed(const sdk::demo::LiveProduction &production,
                             const sdk::demo::EncodedPackets &packets);
-    [[nodiscard]] bool push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before);
+    [[nodiscard]] bool push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before) const;
     /// Lets the picture that comes next have the time that the pipeline has now.
     void takePipelineTime(double frameRate);
     [[nodiscard]] std::int64_t deviceTime() const;
-    void endStreams();
+    void endStreams() const;
 
     sdk::demo::DemoSite &m_site;
     KeyPictures &m_keyPictures;

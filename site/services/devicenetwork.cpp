@@ -161,7 +161,7 @@ ServiceResult setNetworkInterfaces(ServiceCall &call)
     bool needsReboot = false;
     if (ipv4) {
         Ipv4Settings settings = pendingOf(call.device);
-        if (const ServiceResult objection = readIpv4(ipv4, settings))
+        if (ServiceResult objection = readIpv4(ipv4, settings))
             return objection;
         if (take(call, settings, needsReboot) != sdk::NetError::None)
             return SoapFault::prohibited(u"The device refuses the new address"_s);

@@ -122,7 +122,7 @@ ServiceResult createUsers(ServiceCall &call)
     for (const SceneAccount &account : call.device.accounts)
         names.insert(account.user);
     for (const WantedUser &user : users) {
-        if (const ServiceResult objection = objectionTo(user))
+        if (ServiceResult objection = objectionTo(user))
             return objection;
         if (!user.level)
             return SoapFault::invalid("ter:AnonymousNotAllowed", u"There is no such level of users"_s);
@@ -136,7 +136,7 @@ ServiceResult createUsers(ServiceCall &call)
         return SoapFault{false, "ter:Action", "ter:TooManyUsers", u"The device has no room for more users"_s};
     std::size_t first = 0;
     if (call.device.isUninitialised()) {
-        if (const ServiceResult objection = createFirstUser(call, users.front()))
+        if (ServiceResult objection = createFirstUser(call, users.front()))
             return objection;
         first = 1;
     }
@@ -160,7 +160,7 @@ ServiceResult setUser(ServiceCall &call)
             return SoapFault::invalid("ter:UsernameMissing", u"There is no such user"_s);
         // Without a password, the user keeps the one that it has.
         const bool hasPassword = !user.account.password.isEmpty();
-        if (const ServiceResult objection = hasPassword ? objectionTo(user) : std::nullopt)
+        if (ServiceResult objection = hasPassword ? objectionTo(user) : std::nullopt)
             return objection;
         const sdk::NetError error = call.change([&](SceneDevice &device) {
             const sdk::NetError changed =

@@ -44,8 +44,14 @@ bool isLetIn(const QByteArray &request, const QByteArray &challenge, const QByte
     if (!challenge.startsWith("Digest"))
         return challenge.isEmpty() || request.contains("\nAuthorization: Basic " + account.toBase64());
     const auto part = [&request](const QString &name) {
-        const QRegularExpression pattern(QStringLiteral("[ ,]%1=\"?([^\",\r]*)").arg(name));
-        return pattern.match(QString::fromUtf8(request)).captured(1).toUtf8();
+        static const QRegularExpression parts(QStringLiteral("[ ,](\\w+)=\"?([^\",\r]*)"));
+        auto match = parts.globalMatch(QString::fromUtf8(request));
+        while (match.hasNext()) {
+            const QRegularExpressionMatch found = match.next();
+            if (found.captured(1) == name)
+                return found.captured(2).toUtf8();
+        }
+        return QByteArray();
     };
     const auto hash = [](const QByteArray &text) {
         return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();

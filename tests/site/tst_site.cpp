@@ -314,7 +314,5 @@ void TestSite::resetMakesFactoryNew()
 
 } // namespace site
 
-Q_DECLARE_METATYPE(site::Login)
-
 QTEST_GUILESS_MAIN(site::TestSite)
 #include "tst_site.moc"

@@ -178,7 +178,7 @@ void DiscoverySockets::receive(int milliseconds, const Receiver &receiver)
         (void)!::read(m_wakeDescriptor, &count, sizeof(count));
 }
 
-void DiscoverySockets::wake()
+void DiscoverySockets::wake() const
 {
     const std::uint64_t one = 1;
     (void)!::write(m_wakeDescriptor, &one, sizeof(one));

@@ -39,7 +39,7 @@ public:
     void receive(int milliseconds, const Receiver &receiver);
 
     /// Ends a wait in receive().
-    void wake();
+    void wake() const;
 
 private:
     static constexpr int maximumDatagrams = 1000;

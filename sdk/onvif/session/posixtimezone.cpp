@@ -168,7 +168,7 @@ qint64 minutesInYear(int year, const DaylightSavingPoint &point)
             day = day.addDays(-daysOfWeek);
     }
     constexpr qint64 minutesOfDay = 24LL * minutesOfHour;
-    return QDate(year, 1, 1).daysTo(day) * minutesOfDay + point.hour * minutesOfHour + point.minute;
+    return QDate(year, 1, 1).daysTo(day) * minutesOfDay + qint64(point.hour) * minutesOfHour + point.minute;
 }
 
 } // namespace
@@ -191,7 +191,7 @@ int PosixTimeZone::offsetAt(const DateTime &standardTime) const
     constexpr qint64 minutesOfDay = 24LL * minutesOfHour;
     const QDate date(standardTime.year, standardTime.month, standardTime.day);
     const qint64 now = QDate(standardTime.year, 1, 1).daysTo(date) * minutesOfDay +
-                       standardTime.hour * minutesOfHour + standardTime.minute;
+                       qint64(standardTime.hour) * minutesOfHour + standardTime.minute;
     const qint64 from = minutesInYear(standardTime.year, begin);
     const qint64 to = minutesInYear(standardTime.year, end) - (daylightOffset - offset);
     // In the south daylight saving lasts over the turn of the year.

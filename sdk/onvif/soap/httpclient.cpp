@@ -15,7 +15,7 @@ namespace {
 constexpr std::chrono::milliseconds connectLimit{3000};
 constexpr long watchInterval = 20; // milliseconds between two looks at the cancellation
 constexpr std::size_t idleConnections = 8;
-constexpr std::size_t longestHeaders = 64 * 1024;
+constexpr std::size_t longestHeaders = std::size_t(64) * 1024;
 
 struct HandleDeleter
 {
@@ -102,7 +102,7 @@ struct HttpClient::Connection
         }
     }
 
-    CURLcode run(const std::atomic_bool &isCancelled)
+    CURLcode run(const std::atomic_bool &isCancelled) const
     {
         int running = 1;
         CURLMcode code = curl_multi_add_handle(multi.get(), easy.get());

@@ -46,7 +46,7 @@ struct HttpLogin
 class HttpClient
 {
 public:
-    static constexpr std::size_t largestAnswer = 4 * 1024 * 1024;
+    static constexpr std::size_t largestAnswer = std::size_t(4) * 1024 * 1024;
 
     HttpClient();
     ~HttpClient();

@@ -58,7 +58,7 @@ private:
 class XmlDocument
 {
 public:
-    static constexpr std::size_t maximumSize = 4 * 1024 * 1024;
+    static constexpr std::size_t maximumSize = std::size_t(4) * 1024 * 1024;
     static constexpr int maximumDepth = 64;
     static constexpr int maximumAttributes = 64; ///< of one element
     static constexpr std::size_t maximumElements = 200'000;

@@ -233,7 +233,7 @@ private Q_SLOTS:
 
     void tellsWhyALoginFails_data()
     {
-        const auto row = dataTable<QByteArray, QByteArray, quint32>({"address", "password", "error"});
+        const auto row = dataTable<QByteArray, QByteArray, quint32>({"address", "secret", "error"});
         row("wrong password", "192.168.1.103", "wrong", code(NetError::WrongPassword));
         row("wrong password, other login", "192.168.1.104", "wrong", code(NetError::WrongPassword));
         row("factory-new", "192.168.1.108", password, code(NetError::NotSupported));
@@ -243,9 +243,9 @@ private Q_SLOTS:
     void tellsWhyALoginFails()
     {
         QFETCH(QByteArray, address);
-        QFETCH(QByteArray, password);
+        QFETCH(QByteArray, secret);
         QFETCH(quint32, error);
-        QCOMPARE(login(address.constData(), password.constData()), 0);
+        QCOMPARE(login(address.constData(), secret.constData()), 0);
         QCOMPARE(m_net.NetGetLastError(), error);
     }
 
