@@ -35,11 +35,15 @@ struct Answer
     /// The texts of all elements of that name, whatever their prefixes.
     [[nodiscard]] QStringList texts(const QString &name) const
     {
-        const QRegularExpression element(QStringLiteral("<(?:[\\w-]+:)?%1(?:\\s[^>]*)?>([^<]*)<").arg(name));
+        static const QRegularExpression element(
+            QStringLiteral("<(?:[\\w-]+:)?([\\w-]+)(?:\\s[^>]*)?>([^<]*)(?=<)"));
         QStringList found;
         QRegularExpressionMatchIterator matches = element.globalMatch(QString::fromUtf8(body));
-        while (matches.hasNext())
-            found.append(matches.next().captured(1));
+        while (matches.hasNext()) {
+            const QRegularExpressionMatch match = matches.next();
+            if (match.captured(1) == name)
+                found.append(match.captured(2));
+        }
         return found;
     }
     [[nodiscard]] QString text(const QString &name) const { return texts(name).value(0); }
@@ -106,8 +110,14 @@ inline QByteArray digestHeader(const Answer &refusal, const QString &password, c
 {
     const QByteArray challenge = refusal.fields("WWW-Authenticate").value(0);
     const auto parameter = [&challenge](const char *name) {
-        const QRegularExpression pattern(QStringLiteral("%1=\"?([^\",]*)").arg(QLatin1String(name)));
-        return pattern.match(QString::fromLatin1(challenge)).captured(1).toLatin1();
+        static const QRegularExpression pattern(QStringLiteral("(\\w+)=\"?([^\",]*)"));
+        QRegularExpressionMatchIterator matches = pattern.globalMatch(QString::fromLatin1(challenge));
+        while (matches.hasNext()) {
+            const QRegularExpressionMatch match = matches.next();
+            if (match.captured(1) == QLatin1String(name))
+                return match.captured(2).toLatin1();
+        }
+        return QByteArray();
     };
     const QByteArray algorithm = parameter("algorithm");
     const QByteArray who = hashed("admin:" + parameter("realm") + ':' + password.toUtf8(), algorithm);
