@@ -16,7 +16,7 @@ enum class LiveStreamKind : std::int32_t
 
 /// Called with a piece of a live stream: `size` bytes at `data`, which end with the call. Pieces come in
 /// their order, cut anywhere, one at a time for each stream. `dataType` is 0 for the bytes of the stream:
-/// Matroska without an end, as streams::MatroskaWriter makes it. It begins anew with another header where it
+/// Matroska without an end, as streams::MatroskaWriter makes it. It starts again with another header where it
 /// must; `parameter` belongs to the library.
 using RealDataHandler = void (*)(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
                                  std::uint32_t size, std::int64_t parameter, void *user);

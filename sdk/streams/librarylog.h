@@ -12,7 +12,7 @@ namespace sdk::streams {
 using LibraryLogHandler = void (*)(void *source, int level, const char *format, va_list arguments);
 
 /// Sets what gets the lines of all threads without a ThreadLog. The libraries have one handler for the
-/// process, so whoever wants one sets it here. Thread-safe.
+/// process, so it is set here by each part that needs one. Thread-safe.
 void setLibraryLogHandler(LibraryLogHandler handler);
 
 /// Takes the lines of the calling thread for as long as it lives: nobody else gets them. To be destroyed on

@@ -176,11 +176,11 @@ int DeviceInterface::setUp(bool isUp) const
     body.ifi_change = IFF_UP;
     NetlinkRequest request(RTM_NEWLINK, 0, body);
     // No address but those that the device has: it makes itself none.
-    const std::size_t specification = request.beginNested(IFLA_AF_SPEC);
+    const std::size_t familySettings = request.beginNested(IFLA_AF_SPEC);
     const std::size_t family = request.beginNested(AF_INET6);
     request.addNumber<std::uint8_t>(IFLA_INET6_ADDR_GEN_MODE, IN6_ADDR_GEN_MODE_NONE);
     request.endNested(family);
-    request.endNested(specification);
+    request.endNested(familySettings);
     const int code = request.send();
     if (code != EAFNOSUPPORT && code != EOPNOTSUPP)
         return code;

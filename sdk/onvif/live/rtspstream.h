@@ -38,7 +38,7 @@ struct RtspOrder
 
 /// One live stream with a thread of its own, on which both handlers run. Pictures in H.264, H.265 or MJPEG
 /// and sound in G.711, AAC or PCM are put into the container of streams::MatroskaWriter as they are; other
-/// tracks are left out. A stream begins with a picture that needs no earlier one; it begins anew, with
+/// tracks are left out. A stream begins with a picture that needs no earlier one; it starts again, with
 /// another header, when the size or the parameters of its pictures change.
 ///
 /// A password that is refused is not sent again. The data come over the connection of the session, or by UDP
@@ -66,7 +66,7 @@ public:
     /// than RtspTimeouts::answer. For any thread, but not for a handler.
     [[nodiscard]] std::optional<StreamEnd> waitForAnswer();
 
-    /// Makes the container begin anew, with its header, at the next picture that needs no earlier one. For
+    /// Makes the container start again, with its header, at the next picture that needs no earlier one. For
     /// any thread.
     void beginAnew() { m_mustBeginAnew = true; }
 
