@@ -125,14 +125,14 @@ QString P2PPorts::faultText() const
     return m_library ? QString() : QCoreApplication::translate("P2PPorts", "P2P端口代理没有启动");
 }
 
-int P2PPorts::portFor(const QString &deviceId, int devicePort, int wish)
+int P2PPorts::portFor(const QString &deviceId, int devicePort, int requestedPort)
 {
-    if (wish > 0 && wish != devicePort)
+    if (requestedPort > 0 && requestedPort != devicePort)
         return 0;
     if (!m_library)
         return 0;
     const std::lock_guard lock(m_requestMutex);
-    return findOrAddPort(deviceId, devicePort, wish);
+    return findOrAddPort(deviceId, devicePort, requestedPort);
 }
 
 int P2PPorts::claim(const QString &deviceId, int devicePort)
@@ -156,7 +156,7 @@ void P2PPorts::giveBack(int localPort, const std::function<bool()> &isListed)
         release(localPort);
 }
 
-int P2PPorts::findOrAddPort(const QString &deviceId, int devicePort, int wish)
+int P2PPorts::findOrAddPort(const QString &deviceId, int devicePort, int requestedPort)
 {
     std::array<std::int32_t, sdk::maximumLocalPorts> ports{};
     std::int32_t count = 0;
@@ -169,11 +169,11 @@ int P2PPorts::findOrAddPort(const QString &deviceId, int devicePort, int wish)
     if (count == 0)
         return addPort(deviceId, devicePort, 0);
     if (count == 1) {
-        // A mapping onto the device's own port number is kept for those who wish for it.
+        // A mapping onto the device's own port number is kept for callers that request it.
         const bool sameNumber = ports[0] == devicePort;
         if (sameNumber)
-            return wish == 0 ? addPort(deviceId, devicePort, 0) : ports[0];
-        return wish == 0 ? ports[0] : addPort(deviceId, devicePort, wish);
+            return requestedPort == 0 ? addPort(deviceId, devicePort, 0) : ports[0];
+        return requestedPort == 0 ? ports[0] : addPort(deviceId, devicePort, requestedPort);
     }
     const auto end = ports.begin() + count;
     const auto other =

@@ -45,7 +45,7 @@ public:
     /// A local port that leads to `devicePort` of the device, 0 on failure. A requested port is given only
     /// when it equals the device port; 0 requests none. Blocks for the agent; requests wait for each other,
     /// so that two for the same device get the same port.
-    [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int wish);
+    [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int requestedPort);
 
     /// A local port as portFor() gives it when none is requested. It stays until each caller has given it
     /// back.
@@ -82,7 +82,7 @@ public:
 
 private:
     /// Of portFor(), with m_requestMutex held.
-    [[nodiscard]] int findOrAddPort(const QString &deviceId, int devicePort, int wish);
+    [[nodiscard]] int findOrAddPort(const QString &deviceId, int devicePort, int requestedPort);
     [[nodiscard]] int addPort(const QString &deviceId, int devicePort, int localPort);
 
     const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null when the agent could not be started

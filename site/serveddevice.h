@@ -37,7 +37,7 @@ public:
     [[nodiscard]] const QString &mac() const { return m_mac; }
 
     /// Brings the network in line with the device. `now` is the time on the site's clock; a new address
-    /// holds a moment after it was set, so that the answer to whoever has set it goes out before.
+    /// holds a moment after it was set, so that the response to the request that set it is sent before.
     void follow(const sdk::demo::SceneDevice &device, std::int64_t now);
 
     /// Takes the device off the network; it says so before, if it can.

@@ -1,4 +1,4 @@
-// Wishes for pictures that need no earlier one.
+// Requests for pictures that need no earlier one.
 #pragma once
 
 #include "site/services/mediatokens.h"

@@ -36,7 +36,7 @@ GstRTSPStatusCode beforePlay(GstRTSPClient *, GstRTSPContext *, gpointer data)
     return GST_RTSP_STS_OK;
 }
 
-/// Whoever begins to play sees a whole picture first.
+/// A client that begins to play gets a key picture first.
 void afterPlay(GstRTSPClient *, GstRTSPContext *context, gpointer data)
 {
     const RtspDevice &device = *static_cast<RtspDevice *>(data);

@@ -91,7 +91,7 @@ bool StreamFeeder::feedBeginning(LiveProduction &production)
 
 void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, const std::stop_token &stop)
 {
-    int asked = -1; // the first picture for whoever plays needs no earlier one
+    int asked = -1; // the first picture of a client needs no earlier one
     int pictures = 0;
     std::int64_t begin = m_site.clock().now();
     std::int64_t beginPicture = m_picture;

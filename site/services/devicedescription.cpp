@@ -106,12 +106,13 @@ ServiceResult getDeviceInformation(ServiceCall &call)
 
 ServiceResult getServices(ServiceCall &call)
 {
-    const QString wish = textAt(call.request, "tds:IncludeCapability").value_or(QString());
+    const QString includesCapability = textAt(call.request, "tds:IncludeCapability").value_or(QString());
     for (const ServiceDescription &service : servicesOf(call.manner)) {
         XmlElement element = call.response.add("tds:Service");
         element.add("tds:Namespace", namespaceUri(service.prefix));
         element.add("tds:XAddr", call.root() + QLatin1String(service.path));
-        if ((wish == u"true" || wish == u"1") && std::string_view(service.prefix) == "tds")
+        if ((includesCapability == u"true" || includesCapability == u"1") &&
+            std::string_view(service.prefix) == "tds")
             writeDeviceServiceCapabilities(element.add("tds:Capabilities").add("tds:Capabilities"), call);
         XmlElement version = element.add("tds:Version");
         version.add("tt:Major", service.majorVersion);
