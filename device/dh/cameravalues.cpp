@@ -330,7 +330,7 @@ QVariant cameraValue(const QString &key, const CameraState &state, const ValueTa
     const ValueOf valueOf = values().value(key, nullptr);
     if (!valueOf)
         return {};
-    const QVariant value = valueOf(state, CameraLists(tables, state.capabilities));
+    QVariant value = valueOf(state, CameraLists(tables, state.capabilities));
     const QStringList missing = missingSettings(key, state.capabilities.missingValues);
     if (missing.isEmpty())
         return value;
