@@ -53,6 +53,12 @@ QString ResultNames::of(int code)
         return tr("登录已失效，请重新登录");
     case resultCode(LoginResult::InvalidValue):
         return tr("设备不接受该值");
+    case resultCode(LoginResult::UnknownCertificate):
+        return tr("设备证书未确认");
+    case resultCode(LoginResult::ChangedCertificate):
+        return tr("设备证书已改变");
+    case resultCode(LoginResult::Cancelled):
+        return tr("已取消");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
     case upgradeFileUnusable:
@@ -102,6 +108,12 @@ LoginResult loginResultOf(std::uint32_t libraryError)
         return LoginResult::InvalidValue;
     case sdk::NetError::Refused:
         return LoginResult::Refused;
+    case sdk::NetError::UnknownCertificate:
+        return LoginResult::UnknownCertificate;
+    case sdk::NetError::ChangedCertificate:
+        return LoginResult::ChangedCertificate;
+    case sdk::NetError::Cancelled:
+        return LoginResult::Cancelled;
     default:
         return LoginResult::NetworkFailure;
     }

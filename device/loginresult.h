@@ -19,11 +19,14 @@ enum class LoginResult : int
     NotInitialised = 7,
     NotSupported = 12, ///< the one failure that the add-device dialog says nothing about
     AlreadyListed = 13,
-    Upgrading = 14,    ///< nothing was asked: the device's firmware is being upgraded
-    NotDone = 15,      ///< nothing was asked: the batch ended before it came to the device
-    SessionEnded = 16, ///< the device no longer accepts the login that the request was sent with
-    InvalidValue = 17, ///< the device does not take a value of the request
-    Refused = 999,     ///< the device has understood the request and does not fulfil it
+    Upgrading = 14,          ///< nothing was asked: the device's firmware is being upgraded
+    NotDone = 15,            ///< nothing was asked: the batch ended before it came to the device
+    SessionEnded = 16,       ///< the device no longer accepts the login that the request was sent with
+    InvalidValue = 17,       ///< the device does not take a value of the request
+    UnknownCertificate = 18, ///< nothing was sent: the user has not agreed to the device's certificate
+    ChangedCertificate = 19, ///< nothing was sent: the device shows another certificate than the stored one
+    Cancelled = 20,          ///< the request was cancelled
+    Refused = 999,           ///< the device has understood the request and does not fulfil it
 };
 
 /// The result for a failed operation of the network library, whose last error is `libraryError`, with or

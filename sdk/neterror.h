@@ -28,6 +28,10 @@ enum class NetError : std::uint32_t
     Refused = 0x800000A3,         ///< the device understands the request and does not fulfil it
     InvalidValue = 0x800000A4,    ///< the device does not take a value of the request
     SessionEnded = 0x800000A5,    ///< the device no longer accepts the login of the session
+    UnknownCertificate =
+        0x800000A6, ///< nobody has agreed to the key of the device's certificate; nothing was sent
+    ChangedCertificate = 0x800000A7, ///< the device shows another key than the stored one; nothing was sent
+    Cancelled = 0x800000A8,          ///< NetCancelCalls has ended the call
 };
 
 } // namespace sdk

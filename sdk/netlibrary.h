@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/camerablocks.h"
+#include "sdk/certificateblocks.h"
 #include "sdk/devicerequestblocks.h"
 #include "sdk/encodeblocks.h"
 #include "sdk/loginblocks.h"
@@ -17,6 +18,8 @@
 
 namespace sdk {
 
+struct SearchReport;
+
 /// What NetQueryCapabilities asks for.
 enum class CapabilityQuery : std::uint32_t
 {
@@ -28,15 +31,12 @@ enum class CapabilityQuery : std::uint32_t
 /// calling thread, to be fetched with NetGetLastError.
 ///
 /// - One session serves several threads at the same time. A provider that can send only one request of a
-/// session
-///   at a time lets the others wait, each within its own `wait`. The requests of one thread reach the device
-///   in the order of their calls.
+///   session at a time lets the others wait, each within its own `wait`. The requests of one thread reach the
+///   device in the order of their calls.
 /// - NetLogout may be called while other operations of its session run. These end as if they had come first,
-/// or
-///   fail; after they have ended, nothing uses the session any more.
+///   or fail; after they have ended, nothing uses the session any more.
 /// - The operations of one stream, one upgrade or one local search are called by one thread at a time, those
-/// of
-///   different handles by any.
+///   of different handles by any.
 /// - A handler must not block: it delays what else its thread delivers. What must not be called from a
 /// handler
 ///   says so.
@@ -57,6 +57,11 @@ public:
 
     /// What this library is. May be called before NetInit; sends nothing.
     virtual void NetGetProviderInformation(ProviderInformation &information) const = 0;
+
+    /// Sets what decides about the certificates of devices; null for none: then no device is asked over TLS.
+    /// To be called before requests are sent. A refused certificate ends a request with UnknownCertificate or
+    /// ChangedCertificate, and neither account nor password has been sent.
+    virtual void NetSetCertificateHandler(CertificateHandler handler, void *user) = 0;
 
     /// Starts a search of the local segment and returns at once. Answers reach `parameter.handler` on threads
     /// of the library until NetStopSearchDevices. `wait` bounds the sending of the request. Returns the
@@ -90,6 +95,10 @@ public:
     virtual void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
                                      void *user, std::chrono::milliseconds wait) = 0;
 
+    /// What the searches since NetInit, or since the local search that was started last when no other ran,
+    /// have sent and received. False, with NotSupported, if the library keeps no account of it.
+    virtual bool NetGetSearchReport(SearchReport &report) = 0;
+
     /// Opens a session and blocks until the device has answered. Returns its handle; a value below 1 is
     /// failure.
     virtual LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
@@ -101,6 +110,14 @@ public:
 
     /// Ends a session. Returns false for a handle that is no session.
     virtual bool NetLogout(LLONG loginHandle) = 0;
+
+    /// Ends the calls of a session that run now: each fails, and the session can be used further. Streams and
+    /// upgrades go on. Returns false for a handle that is no session.
+    virtual bool NetCancelCalls(LLONG loginHandle) = 0;
+
+    /// Whether the device still responds and accepts the session's login: one small request, which blocks up
+    /// to `wait`. Otherwise false with the error: that of a device that is offline, or SessionEnded.
+    virtual bool NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait) = 0;
 
     /// Reads a block of the device by command number into `buffer` of `bufferSize` bytes; `returnedSize` is
     /// set to the bytes that were filled, never more than `bufferSize`.

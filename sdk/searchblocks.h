@@ -31,13 +31,15 @@ struct SearchDeviceInformation
     std::array<char, 64> currentAddress; ///< in a request: where the device answers now, empty in an answer
     std::array<char, 64> account;        ///< in a request: the account that may change the address
     std::array<char, 64> password;       ///< in a request: of that account
-    std::array<std::uint8_t, 2491> reserved; ///< 0
+    std::array<char, 48> uuid; ///< number that the device gives itself, lower case; empty if it has none
+    std::array<std::uint8_t, 2443> reserved; ///< 0
 };
 static_assert(sizeof(SearchDeviceInformation) == 3232);
 static_assert(offsetof(SearchDeviceInformation, address) == 8);
 static_assert(offsetof(SearchDeviceInformation, httpPort) == 544);
 static_assert(offsetof(SearchDeviceInformation, currentAddress) == 549);
-static_assert(offsetof(SearchDeviceInformation, reserved) == 741);
+static_assert(offsetof(SearchDeviceInformation, uuid) == 741);
+static_assert(offsetof(SearchDeviceInformation, reserved) == 789);
 
 /// Meaning of the low two bits of SearchDeviceInformation::initialisationState.
 enum class InitialisationBits : std::uint8_t

@@ -83,6 +83,16 @@ void DemoNetLibrary::NetGetProviderInformation(ProviderInformation &information)
         .size = sizeof(information), .defaultPort = servicePort, .missingFunctions = 0, .reserved = 0};
 }
 
+void DemoNetLibrary::NetSetCertificateHandler(CertificateHandler, void *)
+{
+    // Simulated devices are reached over TLS only by HTTP, which this library has no part in.
+}
+
+bool DemoNetLibrary::NetGetSearchReport(SearchReport &)
+{
+    return m_error.fail(NetError::NotSupported);
+}
+
 std::uint32_t DemoNetLibrary::NetGetLastError() const
 {
     return m_error.last();

@@ -42,6 +42,7 @@ public:
     void NetCleanup() override;
     [[nodiscard]] std::uint32_t NetGetLastError() const override;
     void NetGetProviderInformation(ProviderInformation &information) const override;
+    void NetSetCertificateHandler(CertificateHandler handler, void *user) override;
 
     // Searches
     std::int64_t NetStartSearchDevices(const SearchParameter &parameter,
@@ -56,6 +57,7 @@ public:
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
     void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
                              std::chrono::milliseconds wait) override;
+    bool NetGetSearchReport(SearchReport &report) override;
 
     // Sessions
     LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
@@ -63,6 +65,8 @@ public:
                    std::int32_t &error) override;
     LLONG NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) override;
     bool NetLogout(LLONG loginHandle) override;
+    bool NetCancelCalls(LLONG loginHandle) override;
+    bool NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait) override;
 
     // Queries and configuration
     bool NetQueryConfig(LLONG loginHandle, QueryCommand command, std::int32_t channel, void *buffer,

@@ -86,4 +86,20 @@ bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
     return true;
 }
 
+bool DemoNetLibrary::NetCancelCalls(LLONG)
+{
+    return m_error.fail(NetError::NotSupported);
+}
+
+bool DemoNetLibrary::NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait)
+{
+    const CallGate::Call call(m_gate);
+    const std::optional<DemoSession> session = m_sessions.session(loginHandle);
+    record("NetIsDeviceAlive",
+           {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
+            {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
+           session.value_or(DemoSession()).mac);
+    return askedDevice(call, session, wait).has_value();
+}
+
 } // namespace sdk::demo

@@ -59,6 +59,13 @@ void OnvifNetLibrary::NetGetProviderInformation(ProviderInformation &information
                    .reserved = 0};
 }
 
+void OnvifNetLibrary::NetSetCertificateHandler(CertificateHandler, void *) {}
+
+bool OnvifNetLibrary::NetGetSearchReport(SearchReport &)
+{
+    return m_error.fail(NetError::NotSupported);
+}
+
 std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &parameter,
                                                     std::chrono::milliseconds)
 {

@@ -29,6 +29,7 @@ public:
     void NetCleanup() override;
     [[nodiscard]] std::uint32_t NetGetLastError() const override;
     void NetGetProviderInformation(ProviderInformation &information) const override;
+    void NetSetCertificateHandler(CertificateHandler handler, void *user) override;
 
     std::int64_t NetStartSearchDevices(const SearchParameter &parameter,
                                        std::chrono::milliseconds wait) override;
@@ -42,12 +43,15 @@ public:
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
     void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
                              std::chrono::milliseconds wait) override;
+    bool NetGetSearchReport(SearchReport &report) override;
 
     LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
                    std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
                    std::int32_t &error) override;
     LLONG NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) override;
     bool NetLogout(LLONG loginHandle) override;
+    bool NetCancelCalls(LLONG loginHandle) override;
+    bool NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait) override;
 
     bool NetQueryConfig(LLONG loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
                         std::uint32_t bufferSize, std::uint32_t &returnedSize,

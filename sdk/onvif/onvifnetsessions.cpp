@@ -127,6 +127,18 @@ bool OnvifNetLibrary::NetLogout(LLONG loginHandle)
     return true;
 }
 
+bool OnvifNetLibrary::NetCancelCalls(LLONG)
+{
+    return m_error.fail(NetError::NotSupported);
+}
+
+bool OnvifNetLibrary::NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait)
+{
+    return onSession(loginHandle, wait, [](OnvifSession &session, Deadline deadline) {
+        return session.device(deadline).information().error;
+    });
+}
+
 std::shared_ptr<OnvifSession> OnvifNetLibrary::session(LLONG loginHandle) const
 {
     const std::scoped_lock lock(m_mutex);
