@@ -16,9 +16,14 @@ std::string canonicalMac(std::string_view text)
     }
     if (hex.size() != digits || hex.find_first_not_of('0') == std::string::npos)
         return {};
-    for (std::size_t place = digits - 2; place > 0; place -= 2)
-        hex.insert(place, ":");
-    return hex;
+    std::string mac;
+    for (std::size_t place = 0; place < digits; place += 2) {
+        if (place > 0)
+            mac += ':';
+        mac += hex[place];
+        mac += hex[place + 1];
+    }
+    return mac;
 }
 
 } // namespace sdk::onvif
