@@ -282,6 +282,13 @@ DeviceStep CDeviceBase::repeatedDocumentStep(const QString &)
     return unsupportedStep();
 }
 
+SceneStep CDeviceBase::upgradeDocumentReading(const QString &)
+{
+    return [](const StepControl &) {
+        return SceneOutcome();
+    };
+}
+
 QList<UpgradeDocumentStep> CDeviceBase::upgradeDocumentSteps(const QString &, const QList<int> &)
 {
     return {};

@@ -198,8 +198,12 @@ public:
     /// Of startUpgrade(). The row shows from now on that it waits, and then how far the upgrade is; one that
     /// stopUpgrade() stops, or whose step goes without having been run, is stopped.
     virtual DeviceStep upgradeStep(const QString &mac);
+    /// Of importUpgradeDocument(). The value is a map of "refusal", why the document cannot be used in the
+    /// user's language, and "lines", what importUpgradeDocument() returns, each with its row as "device".
+    virtual SceneStep upgradeDocumentReading(const QString &path);
     /// Of startUpgradeByDocument(), for those of the document's lines that have these numbers. A line that
-    /// cannot be upgraded has a step that says so. Empty for a document that is refused.
+    /// cannot be upgraded has a step that says so. Empty for a document that is refused. A document whose
+    /// reading was taken and whose file is unchanged is not read again.
     virtual QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines);
     /// upgradeStep() for a device whose line of a document was upgraded before: the result goes into the file
     /// as well, when the other lines that are upgraded again are done.

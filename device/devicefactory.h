@@ -187,6 +187,7 @@ public:
     [[nodiscard]] DeviceStep addingStep(const QString &family, const DeviceToAdd &device);
     [[nodiscard]] DeviceStep upgradeStep(const QString &family, const QString &mac);
     [[nodiscard]] DeviceStep repeatedDocumentStep(const QString &family, const QString &mac);
+    [[nodiscard]] SceneStep upgradeDocumentReading(const QString &family, const QString &path);
     [[nodiscard]] QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &family, const QString &path,
                                                                   const QList<int> &lines);
 

@@ -57,6 +57,11 @@ DeviceStep CDeviceFactory::repeatedDocumentStep(const QString &family, const QSt
     return forward(family, &CDeviceBase::repeatedDocumentStep, mac);
 }
 
+SceneStep CDeviceFactory::upgradeDocumentReading(const QString &family, const QString &path)
+{
+    return forward(family, &CDeviceBase::upgradeDocumentReading, path);
+}
+
 QList<UpgradeDocumentStep> CDeviceFactory::upgradeDocumentSteps(const QString &family, const QString &path,
                                                                 const QList<int> &lines)
 {

@@ -1,10 +1,13 @@
 #include "device/batch/upgradepreview.h"
 
+#include "device/busystate.h"
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
 #include "sdk/firmwarehead.h"
 
 #include <QFileInfo>
+
+#include <utility>
 
 namespace {
 
@@ -13,19 +16,20 @@ const QString identityKey = QStringLiteral("identity");
 
 } // namespace
 
-QVariantMap UpgradePreview::deviceOf(const QString &identity) const
+UpgradePreview::~UpgradePreview()
 {
-    return deviceFactory() ? deviceFactory()->getDeviceDetail(family, identity) : QVariantMap();
+    endReading();
 }
 
 void UpgradePreview::setIdentities(const QStringList &identities)
 {
+    endReading();
     m_upgrades.clear();
     QVariantList devices;
     const QList<PlannedUpgrade> plans =
         deviceFactory() ? deviceFactory()->plannedUpgrades(family, identities) : QList<PlannedUpgrade>();
     for (qsizetype place = 0; place < plans.size(); ++place) {
-        QVariantMap device = deviceOf(identities.at(place));
+        QVariantMap device = deviceFactory()->getDeviceDetail(family, identities.at(place));
         device.insert(identityKey, identities.at(place));
         m_upgrades.insert(identities.at(place), {.device = device.value(DeviceRowKey::vision).toString(),
                                                  .file = QFileInfo(plans.at(place).file).fileName(),
@@ -36,17 +40,41 @@ void UpgradePreview::setIdentities(const QStringList &identities)
     setDevices(devices);
 }
 
-QString UpgradePreview::setDocument(const QString &path)
+void UpgradePreview::readDocument(const QString &path)
 {
+    endReading();
+    if (!deviceFactory())
+        return;
+    m_reading = {};
+    m_work = deviceFactory()->busyState()->begin(tr("读取升级文档"), BusyState::Rows);
+    deviceFactory()->runForScene(
+        family, deviceFactory()->upgradeDocumentReading(family, path), m_reading.get_token(),
+        [self = QPointer(this), reading = m_reading.get_token()](const SceneOutcome &outcome) {
+            if (!self || reading.stop_requested())
+                return;
+            if (outcome.take)
+                outcome.take();
+            self->takeDocument(outcome.value.toMap());
+        });
+}
+
+void UpgradePreview::endReading()
+{
+    m_reading.request_stop();
+    if (const int work = std::exchange(m_work, 0); work != 0 && deviceFactory())
+        deviceFactory()->busyState()->end(work);
+}
+
+void UpgradePreview::takeDocument(const QVariantMap &document)
+{
+    endReading();
     m_upgrades.clear();
     QVariantList devices;
-    const QVariantList lines =
-        deviceFactory() ? deviceFactory()->importUpgradeDocument(family, path) : QVariantList();
+    const QVariantList lines = document.value(QStringLiteral("lines")).toList();
     for (const QVariant &value : lines) {
         const QVariantMap line = value.toMap();
         const int number = line.value(QStringLiteral("line")).toInt();
-        const QString row = line.value(DeviceRowKey::mac).toString();
-        QVariantMap device = row.isEmpty() ? QVariantMap() : deviceOf(row);
+        QVariantMap device = line.value(QStringLiteral("device")).toMap();
         device.insert(identityKey, QString::number(number));
         device.insert(DeviceRowKey::ipport, line.value(QStringLiteral("address")));
         m_upgrades.insert(QString::number(number),
@@ -58,8 +86,8 @@ QString UpgradePreview::setDocument(const QString &path)
         devices.append(device);
     }
     setDevices(devices);
-    const QString refusal = deviceFactory() ? deviceFactory()->importError(family) : QString();
-    return refusal.isEmpty() && lines.isEmpty() ? tr("文档中没有设备") : refusal;
+    const QString refusal = document.value(QStringLiteral("refusal")).toString();
+    Q_EMIT documentRead(refusal.isEmpty() && lines.isEmpty() ? tr("文档中没有设备") : refusal);
 }
 
 QString UpgradePreview::identityAt(int row) const

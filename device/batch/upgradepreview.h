@@ -4,6 +4,8 @@
 #include "device/batch/batchpreview.h"
 #include "device/upgradetools.h"
 
+#include <stop_token>
+
 /// The devices that are about to be upgraded: those of rows, or those of a document's lines. A row's "action"
 /// is the file that the device gets, with its version. A row also has "vision", the version of the device;
 /// its "num" is the number of the line, and its "identity" too, when it is one of a document.
@@ -13,6 +15,7 @@ class UpgradePreview : public BatchPreview
     Q_PROPERTY(int upgradeCount READ upgradeCount NOTIFY judged)
 public:
     explicit UpgradePreview(QObject *parent = nullptr) : BatchPreview(parent) {}
+    ~UpgradePreview() override;
 
     /// Ticked devices that can be upgraded.
     [[nodiscard]] int upgradeCount() const { return checkedCount() - skippedCount(); }
@@ -20,9 +23,13 @@ public:
     /// Takes the devices of these rows with the files that they have.
     Q_INVOKABLE void setIdentities(const QStringList &identities);
 
-    /// Takes the lines of a document. Returns why there are none, in the user's language; empty when there
-    /// are some.
-    Q_INVOKABLE [[nodiscard]] QString setDocument(const QString &path);
+    /// Reads a document on a thread of the back end, and takes its lines. documentRead() follows, unless
+    /// another one is read meanwhile.
+    Q_INVOKABLE void readDocument(const QString &path);
+
+Q_SIGNALS:
+    /// `refusal` says why there are no lines, in the user's language; it is empty when there are some.
+    void documentRead(const QString &refusal);
 
 protected:
     [[nodiscard]] Judgement judgementOf(int row) const override;
@@ -39,8 +46,11 @@ private:
         int line = 0; ///< of a document
     };
 
-    [[nodiscard]] QVariantMap deviceOf(const QString &identity) const;
+    void takeDocument(const QVariantMap &document);
+    void endReading();
     [[nodiscard]] QString identityAt(int row) const;
 
     QHash<QString, Upgrade> m_upgrades; ///< by the identities of the rows
+    std::stop_source m_reading;         ///< of the document that is read
+    int m_work = 0;                     ///< the reading in the busy state; 0 for none
 };

@@ -178,6 +178,7 @@ public:
     void startUpgrade(const QStringList &macs) override;
     DeviceStep upgradeStep(const QString &mac) override;
     DeviceStep repeatedDocumentStep(const QString &mac) override;
+    SceneStep upgradeDocumentReading(const QString &path) override;
     QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines) override;
     QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs) override;
     QList<int> setUpgradeFiles(const QStringList &macs, const QString &path) override;
@@ -241,8 +242,8 @@ private:
     /// Returns what speaks against the upgrade of the row's device.
     UpgradeTools::Result setUpgradeFile(const QString &mac, const QString &file,
                                         const FirmwareFile &firmware);
-    /// Opens a document, whose lines are followed then; null when it is refused.
-    [[nodiscard]] UpgradeDocument *addUpgradeDocument(const QString &path);
+    /// Adds a document, and returns its lines, which are followed then; none if it is refused.
+    [[nodiscard]] std::vector<UpgradeDocumentLine> addUpgradeDocument(const QString &path);
     /// Follows a line of the document that was added last. Returns why it is not upgraded, None when it is.
     [[nodiscard]] UpgradeTools::Result followLine(const UpgradeDocumentLine &line, const UpgradeOrder &order,
                                                   const QJsonObject &row, FirmwareFiles &files);
@@ -311,10 +312,11 @@ private:
         [this](const std::function<void()> &write, const std::function<void()> &written) {
             writeDocument(write, written);
         }};
-    bool m_isRoundEndUntold = false;                    ///< documents of the round are still written
-    QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row
-    QHash<QString, UpgradeOrder> m_rowlessOrders;       ///< of lines without a row, by address and port
-    QSet<QString> m_changedUpgrades;                    ///< names of rows; any thread
+    std::shared_ptr<OpenedUpgradeDocument> m_openedDocument; ///< read and not upgraded; may be null
+    bool m_isRoundEndUntold = false;                         ///< documents of the round are still written
+    QHash<QString, DocumentAccount> m_documentAccounts;      ///< by the name of the row
+    QHash<QString, UpgradeOrder> m_rowlessOrders;            ///< of lines without a row, by address and port
+    QSet<QString> m_changedUpgrades;                         ///< names of rows; any thread
     std::mutex m_changedUpgradesMutex;
     std::atomic<bool> m_changedRowsNoted = false;
     std::atomic<bool> m_scheduleNoted = false;

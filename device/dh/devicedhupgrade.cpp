@@ -13,10 +13,24 @@
 namespace {
 
 /// What a line lacks, and what its file is; None when it can be upgraded.
-UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const UpgradeOrder &order,
-                               FirmwareFiles &files)
+UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const QString &model, FirmwareFiles &files)
 {
-    return line.refusal != UpgradeTools::None ? line.refusal : files.at(order.file).refusalFor(order.model);
+    return line.refusal != UpgradeTools::None ? line.refusal : files.at(line.file).refusalFor(model);
+}
+
+/// What importUpgradeDocument() returns of a line. `row` is empty if no device of the list has its address.
+QVariantMap reportOf(const UpgradeDocumentLine &line, const QJsonObject &row, FirmwareFiles &files)
+{
+    const UpgradeTools::Result refusal = refusalOf(line, row.value(DeviceRowKey::model).toString(), files);
+    const FirmwareFile &firmware = files.at(line.file);
+    return {{QStringLiteral("line"), line.row},
+            {QStringLiteral("address"), line.ipport},
+            {QStringLiteral("mac"), rowName(row)},
+            {QStringLiteral("file"), line.file},
+            {QStringLiteral("version"),
+             firmware.head ? QString::fromStdString(firmware.head->version) : QString()},
+            {QStringLiteral("code"), static_cast<int>(refusal)},
+            {QStringLiteral("reason"), UpgradeTools::text(refusal)}};
 }
 
 /// Of what is not upgraded.
@@ -203,47 +217,54 @@ UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line, const QJso
 
 QVariantList CDeviceDH::importUpgradeDocument(const QString &file)
 {
-    UpgradeDocument document;
-    m_importError = document.open(localPath(file));
-    QVariantList report;
-    if (!m_importError.isEmpty())
-        return report;
+    const OpenedUpgradeDocument opened = openUpgradeDocument(localPath(file));
+    m_importError = opened.refusal;
     const QHash<QString, QJsonObject> rows = rowsByAddress();
     FirmwareFiles files;
-    for (const UpgradeDocumentLine &line : document.lines()) {
-        const UpgradeOrder order = upgradeOrder(line, rows.value(line.ipport));
-        const UpgradeTools::Result refusal = refusalOf(line, order, files);
-        const FirmwareFile &firmware = files.at(line.file);
-        report.append(
-            QVariantMap{{QStringLiteral("line"), line.row},
-                        {QStringLiteral("address"), line.ipport},
-                        {QStringLiteral("mac"), order.row},
-                        {QStringLiteral("file"), line.file},
-                        {QStringLiteral("version"),
-                         firmware.head ? QString::fromStdString(firmware.head->version) : QString()},
-                        {QStringLiteral("code"), static_cast<int>(refusal)},
-                        {QStringLiteral("reason"), UpgradeTools::text(refusal)}});
-    }
+    QVariantList report;
+    for (const UpgradeDocumentLine &line : opened.lines)
+        report.append(reportOf(line, rows.value(line.ipport), files));
     return report;
 }
 
-UpgradeDocument *CDeviceDH::addUpgradeDocument(const QString &path)
+SceneStep CDeviceDH::upgradeDocumentReading(const QString &path)
 {
-    auto document = std::make_unique<UpgradeDocument>();
-    const QString refusal = document->open(localPath(path));
-    if (!refusal.isEmpty()) {
-        m_upgradeDocuments.addRefused(path, refusal);
-        return nullptr;
-    }
-    UpgradeDocument *added = document.get();
-    m_upgradeDocuments.add(path, std::move(document));
-    return added;
+    return [this, path](const StepControl &) {
+        const auto opened = std::make_shared<OpenedUpgradeDocument>(openUpgradeDocument(localPath(path)));
+        const QHash<QString, QJsonObject> rows = rowsByAddress();
+        FirmwareFiles files;
+        QVariantList lines;
+        for (const UpgradeDocumentLine &line : opened->lines) {
+            const QJsonObject row = rows.value(line.ipport);
+            QVariantMap report = reportOf(line, row, files);
+            report.insert(QStringLiteral("device"), row.toVariantMap());
+            lines.append(report);
+        }
+        return SceneOutcome{.value = QVariantMap{{QStringLiteral("refusal"), opened->refusal},
+                                                 {QStringLiteral("lines"), lines}},
+                            .take = [this, opened] {
+                                m_openedDocument = opened;
+                            }};
+    };
+}
+
+std::vector<UpgradeDocumentLine> CDeviceDH::addUpgradeDocument(const QString &path)
+{
+    const QString file = localPath(path);
+    std::shared_ptr<OpenedUpgradeDocument> opened = std::move(m_openedDocument);
+    if (!opened || !opened->isCurrent(file))
+        opened = std::make_shared<OpenedUpgradeDocument>(openUpgradeDocument(file));
+    if (opened->document)
+        m_upgradeDocuments.add(path, std::move(opened->document));
+    else
+        m_upgradeDocuments.addRefused(path, opened->refusal);
+    return std::move(opened->lines);
 }
 
 UpgradeTools::Result CDeviceDH::followLine(const UpgradeDocumentLine &line, const UpgradeOrder &order,
                                            const QJsonObject &row, FirmwareFiles &files)
 {
-    UpgradeTools::Result refusal = refusalOf(line, order, files);
+    UpgradeTools::Result refusal = refusalOf(line, order.model, files);
     if (refusal == UpgradeTools::None && m_upgrades->isUpgrading(order.key)) // from another document
         refusal = UpgradeTools::DeviceBusy;
     if (refusal != UpgradeTools::None) {
@@ -268,9 +289,7 @@ void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
     const QHash<QString, QJsonObject> rows = rowsByAddress();
     FirmwareFiles files;
     for (const QString &path : paths) {
-        UpgradeDocument *document = addUpgradeDocument(path);
-        const std::vector<UpgradeDocumentLine> lines =
-            document ? document->lines() : std::vector<UpgradeDocumentLine>();
+        const std::vector<UpgradeDocumentLine> lines = addUpgradeDocument(path);
         for (const UpgradeDocumentLine &line : lines) {
             const QJsonObject row = rows.value(line.ipport);
             const UpgradeOrder order = upgradeOrder(line, row);
@@ -290,9 +309,7 @@ QList<UpgradeDocumentStep> CDeviceDH::upgradeDocumentSteps(const QString &path, 
     const QSet<int> wanted(lines.cbegin(), lines.cend());
     const QHash<QString, QJsonObject> rows = rowsByAddress();
     FirmwareFiles files;
-    UpgradeDocument *document = addUpgradeDocument(path);
-    const std::vector<UpgradeDocumentLine> all =
-        document ? document->lines() : std::vector<UpgradeDocumentLine>();
+    const std::vector<UpgradeDocumentLine> all = addUpgradeDocument(path);
     for (const UpgradeDocumentLine &line : all) {
         if (!wanted.contains(line.row))
             continue;

@@ -151,3 +151,21 @@ QString UpgradeDocument::text(int row, int column)
 {
     return sheets::trimmedCellText(m_excel, row, column);
 }
+
+bool OpenedUpgradeDocument::isCurrent(const QString &localPath) const
+{
+    return document && path == localPath && changed == QFileInfo(localPath).lastModified();
+}
+
+OpenedUpgradeDocument openUpgradeDocument(const QString &localPath)
+{
+    OpenedUpgradeDocument opened = {.path = localPath};
+    opened.changed = QFileInfo(localPath).lastModified();
+    auto document = std::make_unique<UpgradeDocument>();
+    opened.refusal = document->open(localPath);
+    if (opened.refusal.isEmpty()) {
+        opened.lines = document->lines();
+        opened.document = std::move(document);
+    }
+    return opened;
+}

@@ -4,8 +4,10 @@
 #include "sheets/qexcel.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 /// A line of a document of upgrades.
@@ -60,3 +62,19 @@ private:
     QString m_path;
     bool m_isKept = false;
 };
+
+/// A document as its file was when it was opened.
+struct OpenedUpgradeDocument
+{
+    QString path;                                   ///< local
+    QString refusal = {};                           ///< why it cannot be used, in the user's language
+    QDateTime changed = {};                         ///< its file
+    std::unique_ptr<UpgradeDocument> document = {}; ///< null if it is refused
+    std::vector<UpgradeDocumentLine> lines = {};
+
+    /// Whether this is the file at `localPath`, and nobody has written it since.
+    [[nodiscard]] bool isCurrent(const QString &localPath) const;
+};
+
+/// Opens a document and reads its lines, on any thread.
+[[nodiscard]] OpenedUpgradeDocument openUpgradeDocument(const QString &localPath);

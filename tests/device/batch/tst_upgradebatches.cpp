@@ -63,6 +63,14 @@ QStringList rowsOf(const UpgradePreview &preview)
     return rows;
 }
 
+/// Why a document cannot be used, when it has been read.
+QString refusalOf(UpgradePreview &preview, const QString &path)
+{
+    QSignalSpy read(&preview, &UpgradePreview::documentRead);
+    preview.readDocument(path);
+    return read.wait() ? read.constLast().constFirst().toString() : QString("not read");
+}
+
 } // namespace
 
 class TestUpgradeBatches : public QObject
@@ -309,14 +317,21 @@ private Q_SLOTS:
         const QString path = test.workbook({{test.address(1), {}, {}, {}, test.file()},
                                             {test.address(1), {}, {}, {}, test.file()},
                                             {"192.168.1.77", {}, {}, {}, test.file()}});
-        QCOMPARE(preview.setDocument(path), QString());
+        QCOMPARE(refusalOf(preview, path), QString());
         QCOMPARE(rowsOf(preview),
                  QStringList({"2|192.168.1.12:37777|v2.900.0|firmware.bin（2.900.0）|设备已是此版本",
                               "3|192.168.1.12:37777|v2.900.0||与前面的行是同一设备，不会执行",
                               "4|192.168.1.77:37777||firmware.bin（2.900.0）|"}));
         QCOMPARE(preview.checkedIdentities(), QStringList({"2", "3", "4"}));
-        QCOMPARE(preview.setDocument(test.workbook({}, "empty.xlsx")), "文档中没有设备");
-        QCOMPARE(preview.setDocument(test.file()), "文件打开失败");
+        QCOMPARE(refusalOf(preview, test.workbook({}, "empty.xlsx")), "文档中没有设备");
+        QCOMPARE(refusalOf(preview, test.file()), "文件打开失败");
+
+        // Of two documents that are read at the same time only the later one counts.
+        const QSignalSpy read(&preview, &UpgradePreview::documentRead);
+        preview.readDocument(test.file());
+        QCOMPARE(refusalOf(preview, path), QString());
+        QCOMPARE(read.size(), 1);
+        QVERIFY(!test.factory->busyState()->areRowsHeld());
     }
 
     /// Also when a device does not answer.

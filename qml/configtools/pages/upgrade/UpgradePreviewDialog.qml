@@ -9,6 +9,7 @@ OVDialog {
     property string path  // of the document; "" for devices of the table
     signal confirmed(var identities)
     signal documentConfirmed(string path, var lines)
+    signal documentRefused(string reason)
 
     /// Devices of the table.
     function ask(identities) {
@@ -17,13 +18,10 @@ OVDialog {
         open();
     }
 
-    /// Devices of a document. Returns why there are none; "" when it asks.
+    /// Devices of a document, when it has been read.
     function askDocument(file) {
         path = file;
-        const refusal = preview.setDocument(file);
-        if (refusal === "")
-            open();
-        return refusal;
+        preview.readDocument(file);
     }
 
     function start() {
@@ -50,6 +48,12 @@ OVDialog {
     UpgradePreview {
         id: preview
         deviceFactory: root.deviceFactory
+        onDocumentRead: refusal => {
+            if (refusal === "")
+                root.open();
+            else
+                root.documentRefused(refusal);
+        }
     }
 
     footContent: BatchPreviewCounts {

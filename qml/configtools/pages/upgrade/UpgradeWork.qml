@@ -53,9 +53,7 @@ Item {
     }
 
     function startDocument(path) {
-        const refusal = question.wanted().askDocument(path);
-        if (refusal !== "")
-            said(refusal, OVToast.Error);
+        question.wanted().askDocument(path);
     }
 
     function chooseDocument() {
@@ -103,6 +101,7 @@ Item {
         sourceComponent: UpgradePreviewDialog {
             deviceFactory: root.deviceFactory
             onConfirmed: identities => root.upgradeBatches.start(qsTr("设备升级"), identities)
+            onDocumentRefused: reason => root.said(reason, OVToast.Error)
             onDocumentConfirmed: (path, lines) => root.upgradeBatches.startDocument(qsTr("升级文档"), path, lines)
         }
     }
