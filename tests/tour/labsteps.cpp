@@ -1,10 +1,9 @@
 // The main job on devices that are reached by open standards, over real sockets.
 #include "tests/tour/driver.h"
+#include "tests/tour/livewindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 #include "tests/tour/words.h"
-
-#include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -31,16 +30,6 @@ void awaitSearch(const Driver &driver)
         u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 60);
 }
 
-void findRow(const Driver &driver, const QString &ipport)
-{
-    driver.click(u"tab0"_s);
-    driver.fill(u"searchField"_s, ipport.section(u':', 0, 0));
-    driver.await(u"the device is the first of the table"_s, [&] {
-        const QQuickItem *row = driver.find(u"row0"_s);
-        return row && row->property("values").toMap().value(u"ipport"_s) == ipport;
-    });
-}
-
 void walkFound(Driver &driver)
 {
     awaitSearch(driver);
@@ -56,7 +45,7 @@ void walkFound(Driver &driver)
 void walkFirstPassword(Driver &driver)
 {
     const Rows rows(driver);
-    findRow(driver, factoryNew);
+    findDevice(driver, factoryNew);
     driver.check(!rows.value(0, "state").toBool(), u"a factory-new device is recognised"_s);
     driver.click(u"check0"_s);
     driver.click(u"initialiseButton"_s);
@@ -77,7 +66,7 @@ void walkAddress(Driver &driver)
     const Rows rows(driver);
     const QString mac = rows.value(0, "mac").toString();
     setDefaultPassword(driver, password); // a device changes its address for its administrator only
-    findRow(driver, factoryNew);
+    findDevice(driver, factoryNew);
     driver.click(u"edit0"_s);
     driver.fill(u"newStartField"_s, u"192.168.1.208"_s);
     driver.key(Qt::Key_Return);
@@ -134,17 +123,7 @@ void walkSettings(Driver &driver)
 
 void walkLivePicture(Driver &driver)
 {
-    findRow(driver, camera);
-    driver.click(u"live0"_s);
-    QQuickWindow *window = nullptr;
-    driver.await(u"the live window opens"_s, [&] {
-        for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
-            if (candidate->objectName() == u"liveWindow" && candidate->isVisible())
-                window = qobject_cast<QQuickWindow *>(candidate);
-        }
-        return window && window->isExposed();
-    });
-    Driver live(window, driver.pictureFolder() + u"/live"_s);
+    Driver live(openLive(driver, camera), driver.pictureFolder() + u"/live"_s);
     live.await(
         u"a live picture is there"_s,
         [&] {
@@ -154,8 +133,7 @@ void walkLivePicture(Driver &driver)
         },
         40);
     live.report(u"live"_s, u"a live picture"_s);
-    live.click(u"liveCloseButton"_s);
-    driver.await(u"the live window is closed"_s, [&] { return !window->isVisible(); });
+    closeLive(driver, live);
 }
 
 void walkSystemTime(Driver &driver)

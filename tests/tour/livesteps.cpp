@@ -4,10 +4,10 @@
 #include "sdk/demo/fault.h"
 #include "sdk/netlibrary.h"
 #include "tests/tour/driver.h"
+#include "tests/tour/livewindow.h"
 #include "tests/tour/steps.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QImage>
 #include <QSize>
 #include <QTest>
@@ -21,34 +21,6 @@ const QString camera = u"192.168.1.101:8800"_s;
 const QString cameraMac = u"02:1a:c5:00:40:25"_s;
 const QString recorder = u"192.168.1.120:8800"_s;
 const QString recorderMac = u"02:1a:c5:00:40:72"_s;
-
-/// Looks a device up in the main window and asks for its live picture.
-QQuickWindow *openLive(Driver &driver, const QString &ipport)
-{
-    driver.activate(); // a live window may be before it
-    driver.click(u"tab0"_s);
-    driver.fill(u"searchField"_s, ipport.section(u':', 0, 0));
-    driver.await(u"the device is the first of the table"_s, [&] {
-        const QQuickItem *row = driver.find(u"row0"_s);
-        return row && row->property("values").toMap().value(u"ipport"_s) == ipport;
-    });
-    driver.click(u"live0"_s);
-    QQuickWindow *window = nullptr;
-    driver.await(u"the live window opens"_s, [&] {
-        for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
-            if (candidate->objectName() == u"liveWindow" && candidate->isVisible())
-                window = qobject_cast<QQuickWindow *>(candidate);
-        }
-        return window && window->isExposed();
-    });
-    return window;
-}
-
-void closeLive(const Driver &driver, const Driver &live)
-{
-    live.click(u"liveCloseButton"_s);
-    driver.await(u"the live window is closed"_s, [&] { return !live.window()->isVisible(); });
-}
 
 QQuickItem *videoIn(const Driver &live, int place)
 {

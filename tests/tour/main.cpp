@@ -155,6 +155,7 @@ void driveFleet(Driver &driver, sdk::demo::DemoSite &site, const QString &folder
 void driveLab(Driver &driver)
 {
     walkLab(driver);
+    walkLabBatches(driver);
     driver.check(warnings == 0, u"no warning was given"_s);
     driver.click(u"closeButton"_s);
 }

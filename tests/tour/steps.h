@@ -43,6 +43,8 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site);
 void walkBatches(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// The main job on devices of a site on real sockets (scripts/lab).
 void walkLab(Driver &driver);
+/// On the same devices: work on several of them at the same time.
+void walkLabBatches(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.
