@@ -1,7 +1,6 @@
+#include "benchmarks/decodingport.h"
 #include "benchmarks/madestream.h"
 #include "benchmarks/measurements.h"
-
-#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -9,34 +8,24 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include <thread>
+#include <algorithm>
 
 namespace {
 
 constexpr int pictures = 300;
 constexpr int runs = 5;
 constexpr int patience = 120000;
-constexpr std::uint32_t bufferSize = 8388608;
 constexpr std::uint32_t pieceSize = 65536;
 
 /// Pushes a stream into a port of its own and waits for so many pictures.
 void decode(const QByteArray &stream, int wanted)
 {
-    sdk::ffmpeg::FfmpegDecoderLibrary library;
-    PictureCount count;
-    std::int32_t port = -1;
-    library.DecoderAllocPort(port);
-    library.DecoderOpenStream(port, nullptr, 0, bufferSize);
-    library.DecoderSetDecodeCallback(port, &PictureCount::handle, &count);
-    library.DecoderPlay(port, 0);
+    DecodingPort port;
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(stream.constData());
     const auto size = static_cast<std::uint32_t>(stream.size());
-    for (std::uint32_t place = 0; place < size; place += pieceSize) {
-        while (!library.DecoderInputData(port, bytes + place, std::min(pieceSize, size - place)))
-            std::this_thread::sleep_for(std::chrono::milliseconds(1)); // its buffer is full
-    }
-    count.waitFor(wanted);
-    library.DecoderFreePort(port);
+    for (std::uint32_t place = 0; place < size; place += pieceSize)
+        port.push({bytes + place, std::min(pieceSize, size - place)});
+    port.waitFor(wanted);
 }
 
 /// What the peer says that it took, without its start; nothing when it does not work here.

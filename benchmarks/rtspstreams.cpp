@@ -1,6 +1,6 @@
+#include "benchmarks/decodingport.h"
 #include "benchmarks/madestream.h"
 #include "benchmarks/measurements.h"
-#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "sdk/onvif/live/rtspstream.h"
 #include "tests/sdk/onvif/rtspserver.h"
 
@@ -11,14 +11,12 @@
 #include <QTemporaryDir>
 
 #include <ctime>
-#include <thread>
 
 namespace {
 
 constexpr int pictures = 300;
 constexpr int runs = 5;
 constexpr int patience = 120000;
-constexpr std::uint32_t bufferSize = 8388608;
 constexpr double millisecondsPerSecond = 1000;
 constexpr std::chrono::milliseconds period{40};
 
@@ -62,25 +60,14 @@ sdk::onvif::RtspScript paced(sdk::onvif::RtspScript script)
 /// Receives and decodes until so many pictures have come.
 void watch(const sdk::onvif::RtspServer &server, int wanted)
 {
-    sdk::ffmpeg::FfmpegDecoderLibrary library;
-    PictureCount count;
-    std::int32_t port = -1;
-    library.DecoderAllocPort(port);
-    library.DecoderOpenStream(port, nullptr, 0, bufferSize);
-    library.DecoderSetDecodeCallback(port, &PictureCount::handle, &count);
-    library.DecoderPlay(port, 0);
+    DecodingPort port;
     sdk::onvif::RtspOrder order;
     order.url = server.url();
     sdk::onvif::RtspStream stream(
-        order,
-        [&](std::span<const std::uint8_t> bytes) {
-            while (!library.DecoderInputData(port, bytes.data(), static_cast<std::uint32_t>(bytes.size())))
-                std::this_thread::sleep_for(std::chrono::milliseconds(1)); // its buffer is full
-        },
+        order, [&](std::span<const std::uint8_t> bytes) { port.push(bytes); },
         [](sdk::onvif::StreamEnd, const std::string &) {});
-    count.waitFor(wanted);
+    port.waitFor(wanted);
     stream.stop();
-    library.DecoderFreePort(port);
 }
 
 /// Runs the decoder's own program on a stream. Returns what it said, empty when it does not work here.

@@ -1,0 +1,35 @@
+// A port of the decoder that counts its frames.
+#pragma once
+
+#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
+
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+#include <span>
+
+/// Opens a port of a separate decoder library, and frees it in the end.
+class DecodingPort
+{
+public:
+    DecodingPort();
+    ~DecodingPort();
+    DecodingPort(const DecodingPort &) = delete;
+    DecodingPort &operator=(const DecodingPort &) = delete;
+
+    /// Blocks while the port's buffer is full.
+    void push(std::span<const std::uint8_t> bytes);
+
+    /// Blocks until so many frames were delivered, two minutes at most.
+    void waitFor(int frames);
+
+private:
+    static void count(std::int32_t port, const std::uint8_t *data, std::int32_t size,
+                      const sdk::DecodedFrameInformation *information, void *user);
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_frames = 0;
+    sdk::ffmpeg::FfmpegDecoderLibrary m_library;
+    std::int32_t m_port = -1;
+};
