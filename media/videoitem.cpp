@@ -59,20 +59,30 @@ VideoItem::~VideoItem()
 
 bool VideoItem::start()
 {
-    qCDebug(logMedia) << "VideoItem::start()";
-    if (m_streamHandle != 0)
-        stop();
-    if (!open())
-        return false;
-    m_repaint = connect(this, &VideoItem::sigVideoDataChanged, this, &VideoItem::onSigVideoDataChanged);
-    m_watchTimer.start();
-    setIsStreaming(true);
-    update(); // a picture may have come before the connection
-    return true;
+    return prepare() &&
+           take(m_libraries.net && m_libraries.decoder
+                    ? m_libraries.net->NetStartRealStream(m_loginHandle, m_channelId, 0,
+                                                          static_cast<sdk::LiveStreamKind>(m_streamKind))
+                    : 0);
 }
 
-bool VideoItem::open()
+void VideoItem::startInBackground()
 {
+    if (!prepare())
+        return;
+    const StreamOpening::Order order = {.loginHandle = m_loginHandle,
+                                        .channel = m_channelId,
+                                        .kind = static_cast<sdk::LiveStreamKind>(m_streamKind)};
+    m_opening =
+        std::make_unique<StreamOpening>(m_libraries.decoder ? m_libraries.net : nullptr, order, this,
+                                        [this](std::int64_t handle) { Q_EMIT startEnded(take(handle)); });
+}
+
+bool VideoItem::prepare()
+{
+    qCDebug(logMedia) << "VideoItem::start()";
+    if (m_streamHandle != 0 || m_opening)
+        stop();
     CDeviceFactory *factory = CDeviceFactory::getinstance();
     if (!factory) {
         qCDebug(logMedia) << "CDeviceFactory::getinstance() fail";
@@ -85,25 +95,30 @@ bool VideoItem::open()
         Q_EMIT isLoginHandleChanged();
     }
     qCDebug(logMedia) << "m_loginHandle" << m_loginHandle;
-
-    m_watch.begin(m_libraries.clock->now());
     m_decoder->Start(); // without it the stream runs all the same, and its data are dropped
-    const bool hasLibraries = m_libraries.net && m_libraries.decoder;
-    m_streamHandle = hasLibraries
-                         ? m_libraries.net->NetStartRealStream(m_loginHandle, m_channelId, 0,
-                                                               static_cast<sdk::LiveStreamKind>(m_streamKind))
-                         : 0;
+    return true;
+}
+
+bool VideoItem::take(std::int64_t streamHandle)
+{
+    m_opening.reset();
+    m_streamHandle = streamHandle;
     qCDebug(logMedia) << "m_lRealHandle" << m_streamHandle;
     if (m_streamHandle == 0)
         return failToOpen("open stream fail");
 
     qCDebug(logMedia) << "lRealHandle" << m_streamHandle;
+    m_watch.begin(m_libraries.clock->now());
     if (!m_libraries.net->NetSetRealDataCallback(m_streamHandle, &CDHDecoder::realDataCallback,
                                                  m_decoder.get(), streamAsSent)) {
         return failToOpen("open failed"); // the next stop() closes the stream
     }
     setText(QString());
     m_libraries.net->NetStreamFollowUp(m_streamHandle, m_channelId, 0);
+    m_repaint = connect(this, &VideoItem::sigVideoDataChanged, this, &VideoItem::onSigVideoDataChanged);
+    m_watchTimer.start();
+    setIsStreaming(true);
+    update(); // a picture may have come before the connection
     return true;
 }
 
@@ -128,6 +143,7 @@ void VideoItem::closeStream()
 {
     qCDebug(logMedia) << "VideoItem::stop()";
     m_watchTimer.stop();
+    m_opening.reset();
     m_picture.clearSize();
     if (m_streamHandle != 0) {
         m_libraries.net->NetSetRealDataCallback(m_streamHandle, nullptr, nullptr, streamAsSent);

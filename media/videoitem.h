@@ -3,6 +3,7 @@
 #include "media/audiooutput.h"
 #include "media/currentpicture.h"
 #include "media/pictureproblem.h"
+#include "media/streamopening.h"
 #include "media/streamwatch.h"
 #include "media/videodataobserver.h"
 #include "media/viewgeometry.h"
@@ -134,6 +135,7 @@ Q_SIGNALS:
     void zoomLevelChanged();
     void isStreamingChanged();
     void problemTextChanged();
+    void startEnded(bool isStreaming); ///< of startInBackground()
 
 public Q_SLOTS:
     // The order is kept as well.
@@ -157,10 +159,15 @@ public Q_SLOTS:
     /// Moves the picture by so many pixels of the item.
     void drag(double deltx, double delty);
 
+    /// As start(), but returns at once; startEnded() follows when the device has answered, unless stop() or
+    /// another start comes first. On the thread of the application's window only.
+    void startInBackground();
+
 private:
     static constexpr int watchInterval = 250; // milliseconds
 
-    bool open();
+    bool prepare();
+    bool take(std::int64_t streamHandle);
     bool failToOpen(const char *reason);
     void closeStream();
     void watch();
@@ -179,7 +186,8 @@ private:
     QTimer m_watchTimer;
     QMetaObject::Connection m_repaint; ///< while the stream runs
     qint64 m_loginHandle = 0;
-    std::int64_t m_streamHandle = 0; ///< 0 for none
+    std::int64_t m_streamHandle = 0;          ///< 0 for none
+    std::unique_ptr<StreamOpening> m_opening; ///< null unless a device is asked in the background
     FillModeType m_fillMode = PreserveAspectFit;
     StreamKind m_streamKind = Main;
     int m_channelId = -1;

@@ -148,6 +148,7 @@ public:
     std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel, std::uintptr_t window,
                                     sdk::LiveStreamKind kind) override
     {
+        const std::lock_guard answers(mutexOfAnswers);
         const QString arguments = QString("%1, %2, %3, %4").arg(loginHandle).arg(channel);
         return m_calls.add("NetStartRealStream", arguments.arg(window).arg(int(kind))) ? stream : 0;
     }
@@ -169,6 +170,8 @@ public:
     {
         return m_calls.add("NetStopRealStream", QString::number(streamHandle));
     }
+
+    std::mutex mutexOfAnswers; ///< while it is held, the device does not answer a request for a stream
 
     bool deliver(const QByteArray &bytes)
     {

@@ -119,6 +119,56 @@ private Q_SLOTS:
         QCOMPARE(m_item->text(), QString());
     }
 
+    void startsInTheBackground()
+    {
+        QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
+        {
+            const std::lock_guard noAnswer(m_fake->net->mutexOfAnswers);
+            m_item->startInBackground(); // returns all the same
+            QCOMPARE(m_fake->calls.take(), decoderStarted);
+            QVERIFY(!m_item->isStreaming());
+        }
+        QVERIFY(ended.wait());
+        QCOMPARE(ended.takeFirst(), QVariantList{true});
+        QVERIFY(m_item->isStreaming());
+        QCOMPARE(m_fake->calls.take(), (QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}));
+        m_item->stop();
+        m_fake->calls.take();
+
+        m_fake->calls.failOnly("NetStartRealStream");
+        m_item->startInBackground();
+        QVERIFY(ended.wait());
+        QCOMPARE(ended.takeFirst(), QVariantList{false});
+        QCOMPARE(m_item->text(), "播放失败");
+    }
+
+    /// The stream that is there in the end belongs to nobody and is closed.
+    void aStopOrTheEndOfTheViewComesBeforeTheAnswer_data()
+    {
+        const auto row = dataTable<bool>({"isStopped"});
+        row("stopped", true);
+        row("destroyed", false);
+    }
+
+    void aStopOrTheEndOfTheViewComesBeforeTheAnswer()
+    {
+        QFETCH(bool, isStopped);
+        QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
+        {
+            const std::lock_guard noAnswer(m_fake->net->mutexOfAnswers);
+            m_item->startInBackground();
+            if (isStopped)
+                m_item->stop();
+            else
+                m_item.reset();
+        }
+        QStringList calls;
+        QTRY_VERIFY(
+            (calls += m_fake->calls.take()).contains(QString("NetStopRealStream(%1)").arg(FakeNet::stream)));
+        QVERIFY(!calls.contains(handlerSet));
+        QVERIFY(ended.isEmpty());
+    }
+
     void withoutALibraryAStartFails()
     {
         sdk::SdkLibraries onlyNet;

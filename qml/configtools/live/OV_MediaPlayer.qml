@@ -21,7 +21,7 @@ FocusScope {
     readonly property bool playing: video.hasPicture
     readonly property bool resting: retry.failures > 0 && !connecting && !playing  // until the next try
     readonly property alias video: video
-    signal asked  // before a start, which would hold the window up if the device were away: answer() is awaited
+    signal asked  // before a start: answer() is awaited, so that a device that is away is asked once for all views
     signal chosen
     signal enlargeRequested
     signal failed
@@ -47,20 +47,21 @@ FocusScope {
             return;
         asking = false;
         if (isThere)
-            start();
+            video.startInBackground();
         else
             fail();
     }
 
-    function start() {
-        if (video.start())
+    /// After the request for the stream.
+    function takeStart(isStreaming) {
+        if (isStreaming)
             return;
         if (!mainStream && !subRefused) {
             subRefused = true;
-            if (video.start())
-                return;
-            subRefused = false;
+            video.startInBackground();
+            return;
         }
+        subRefused = false;
         fail();
     }
 
@@ -122,6 +123,7 @@ FocusScope {
                 retry.settle();
             }
         }
+        onStartEnded: isStreaming => root.takeStart(isStreaming)
         onVideoErrorSig: root.fail()
     }
     // Once what changes together has changed: the channel, the kind of stream, whether it is wanted.

@@ -1,0 +1,73 @@
+#include "media/streamopening.h"
+
+#include "sdk/netlibrary.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThreadPool>
+
+#include <mutex>
+#include <utility>
+
+namespace {
+
+QThreadPool &openingThreads()
+{
+    constexpr int mostStreams = 16; // of a live window
+    static QPointer<QThreadPool> pool;
+    if (!pool) {
+        pool = new QThreadPool(QCoreApplication::instance());
+        pool->setMaxThreadCount(mostStreams);
+    }
+    return *pool;
+}
+
+} // namespace
+
+struct StreamOpening::State
+{
+    std::shared_ptr<sdk::NetLibrary> net;
+    std::mutex mutex; ///< of what follows
+    bool isWanted = true;
+    std::int64_t handle = 0; ///< opened and not taken yet
+};
+
+StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &order, QObject *context,
+                             Opened opened)
+    : m_state(std::make_shared<State>())
+{
+    m_state->net = std::move(net);
+    openingThreads().start([state = m_state, order, context, opened = std::move(opened)] {
+        const std::int64_t handle =
+            state->net ? state->net->NetStartRealStream(order.loginHandle, order.channel, 0, order.kind) : 0;
+        {
+            // While it is wanted, the context exists.
+            const std::lock_guard lock(state->mutex);
+            if (state->isWanted) {
+                state->handle = handle;
+                QMetaObject::invokeMethod(
+                    context,
+                    [state, opened] {
+                        std::unique_lock lock(state->mutex);
+                        if (!std::exchange(state->isWanted, false))
+                            return;
+                        const std::int64_t taken = std::exchange(state->handle, 0);
+                        lock.unlock();
+                        opened(taken);
+                    },
+                    Qt::QueuedConnection);
+                return;
+            }
+        }
+        if (handle != 0)
+            state->net->NetStopRealStream(handle);
+    });
+}
+
+StreamOpening::~StreamOpening()
+{
+    const std::lock_guard lock(m_state->mutex);
+    m_state->isWanted = false;
+    if (const std::int64_t handle = std::exchange(m_state->handle, 0); handle != 0)
+        openingThreads().start([net = m_state->net, handle] { net->NetStopRealStream(handle); });
+}
