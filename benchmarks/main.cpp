@@ -44,6 +44,7 @@ QList<Subject> subjects()
                  return measureBatches() + measureBatchFrames();
              }},
             {QStringLiteral("decoding"), measureDecoding},
+            {QStringLiteral("discovery"), measureDiscovery},
             {QStringLiteral("live"),
              [] {
                  return measureLiveView() + measureRtspStream();

@@ -20,6 +20,9 @@ class NumberedStream;
 /// A live stream of a device over RTSP, against the decoder's own program.
 [[nodiscard]] QList<Figure> measureRtspStream();
 
+/// A search of a site of 200 devices on real sockets, until all of them are rows.
+[[nodiscard]] QList<Figure> measureDiscovery();
+
 /// A command to many devices at once, against the same to one after another.
 [[nodiscard]] QList<Figure> measureBatches();
 

@@ -1,0 +1,72 @@
+#include "benchmarks/measurements.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int devices = 200;
+constexpr int patience = 300000; // milliseconds
+
+/// Runs a command in the network of a simulated site of `devices` devices. Returns what it printed.
+QByteArray inSite(const QStringList &command)
+{
+    QProcess lab;
+    lab.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    lab.start(QStringLiteral(CONFIGTOOLS_LAB_SCRIPT),
+              QStringList{u"run"_s, u"fleet"_s, QString::number(devices), u"--"_s} + command);
+    if (!lab.waitForFinished(patience))
+        lab.kill();
+    return lab.readAllStandardOutput();
+}
+
+/// A client of the distribution: how many devices it lists, and after how long.
+QString peerText()
+{
+    const QString count =
+        QString::fromLatin1(
+            inSite({u"sh"_s, u"-c"_s,
+                    u"begin=$(date +%s%N); n=$(onvif-util -a 2>/dev/null | grep -c '^[0-9]\\|http'); "
+                    "echo \"$n $(( ($(date +%s%N) - begin) / 1000000 ))\""_s}))
+            .trimmed();
+    return u"onvif-util -a: %1 devices after %2 ms"_s.arg(count.section(u' ', 0, 0), count.section(u' ', 1));
+}
+
+} // namespace
+
+QList<Figure> measureDiscovery()
+{
+    QList<double> rows;
+    QList<double> behind;
+    QList<double> answers;
+    const QByteArrayList lines =
+        inSite({QStringLiteral(CONFIGTOOLS_DISCOVERY_TIME), QString::number(devices)}).split('\n');
+    for (const QByteArray &line : lines) {
+        const QByteArrayList times = line.split(' ');
+        if (times.size() != 2 || times.at(0).toDouble() < 0 || times.at(1).toDouble() < 0)
+            continue;
+        rows.append(times.at(0).toDouble());
+        answers.append(times.at(1).toDouble());
+        behind.append(rows.constLast() - answers.constLast());
+    }
+    if (rows.isEmpty()) {
+        qWarning("the devices of the site were not all found");
+        return {};
+    }
+    return {{.subject = u"%1 devices on real sockets into rows (%2)"_s.arg(devices).arg(peerText()),
+             .value = median(rows),
+             .unit = u"ms"_s,
+             .budget = 5000,
+             .peer = median(answers),
+             .largestRatio = {},
+             .peerName = u"answers to a probe"_s},
+            {.subject = u"rows after the last answer"_s,
+             .value = median(behind),
+             .unit = u"ms"_s,
+             .budget = 1000,
+             .peer = {},
+             .largestRatio = {},
+             .peerName = {}}};
+}
