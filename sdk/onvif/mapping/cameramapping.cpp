@@ -449,7 +449,7 @@ NetError readName(OnvifSession &session, int channel, void *block, std::uint32_t
     ChannelNameItem item{};
     if (!block || size != sizeof(item))
         return NetError::InvalidValue;
-    const auto profiles = session.profiles(deadline);
+    const auto profiles = session.recentProfiles(deadline);
     const std::string token = sourceToken(session, channel);
     const auto profile =
         std::find_if(profiles.value.begin(), profiles.value.end(), [&token](const auto &candidate) {
@@ -479,7 +479,10 @@ NetError writeName(OnvifSession &session, int channel, const void *block, std::u
     std::optional<MediaService> media = session.media(deadline);
     if (profile == profiles.value.end() || !media)
         return profiles.isOk() ? NetError::NotSupported : profiles.error;
-    return media->setSourceName(profile->sourceConfiguration, std::string(blockText(item.name))).error;
+    const NetError error =
+        media->setSourceName(profile->sourceConfiguration, std::string(blockText(item.name))).error;
+    session.forgetProfiles();
+    return error;
 }
 
 template<typename Work>

@@ -42,12 +42,21 @@ std::string profileToken(const OnvifSession &session, int channel, StreamKind ki
     }
 }
 
-ServiceResult<Stream> readStream(OnvifSession &session, int channel, StreamKind kind, Deadline deadline)
+/// What a stream is read for.
+enum class Purpose
+{
+    Show,
+    Change, ///< it is written back with what was changed
+};
+
+ServiceResult<Stream> readStream(OnvifSession &session, int channel, StreamKind kind, Purpose purpose,
+                                 Deadline deadline)
 {
     const std::string token = profileToken(session, channel, kind);
     if (token.empty())
         return {.error = NetError::NotSupported};
-    auto profiles = session.profiles(deadline);
+    auto profiles =
+        purpose == Purpose::Change ? session.profiles(deadline) : session.recentProfiles(deadline);
     if (!profiles.isOk())
         return {.error = profiles.error, .reason = profiles.reason};
     const auto found = std::find_if(profiles.value.begin(), profiles.value.end(),
@@ -146,7 +155,11 @@ bool take(const VideoFormatItem &item, const Stream &stream, VideoEncoder &video
 NetError writeVideo(OnvifSession &session, const VideoEncoder &video, Deadline deadline)
 {
     std::optional<MediaService> media = session.media(deadline);
-    return media ? media->setVideoEncoder(video).error : NetError::NotSupported;
+    if (!media)
+        return NetError::NotSupported;
+    const NetError error = media->setVideoEncoder(video).error;
+    session.forgetProfiles();
+    return error;
 }
 
 /// The settings of a stream's audio with another format or rate. Its bit rate is the device's first one for
@@ -179,7 +192,9 @@ NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int
         else if (!found->sampleRates.empty() && !offers(found->sampleRates, audio.sampleRate))
             audio.sampleRate = found->sampleRates.front();
     }
-    return media->setAudioEncoder(audio).error;
+    const NetError error = media->setAudioEncoder(audio).error;
+    session.forgetProfiles();
+    return error;
 }
 
 void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
@@ -259,7 +274,7 @@ std::string encodeConfiguration(OnvifSession &session, int channel, Deadline dea
     EncodeRecord record{};
     record.size = sizeof(record);
     for (const StreamKind kind : servedKinds) {
-        ServiceResult<Stream> stream = readStream(session, channel, kind, deadline);
+        ServiceResult<Stream> stream = readStream(session, channel, kind, Purpose::Show, deadline);
         if (!stream.isOk()) {
             if (kind == StreamKind::MainNormal || stream.error != NetError::NotSupported) {
                 error = stream.error;
@@ -284,7 +299,7 @@ NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_
         const EncodeStreamRecord &wanted = record.streams[static_cast<std::size_t>(kind)];
         if (wanted.videoEnabled == 0)
             continue;
-        ServiceResult<Stream> stream = readStream(session, channel, kind, deadline);
+        ServiceResult<Stream> stream = readStream(session, channel, kind, Purpose::Change, deadline);
         if (!stream.isOk())
             return stream.error;
         if (const NetError error = readOptions(session, stream.value, deadline); error != NetError::None)
@@ -322,7 +337,8 @@ NetError encodeItem(OnvifSession &session, std::uint32_t item, int channel, void
         std::memcpy(&whole, block, sizeof(whole));
         if (whole.size != static_cast<std::int32_t>(sizeof(whole)) || !isStreamNumber(whole.stream))
             return NetError::InvalidValue;
-        ServiceResult<Stream> stream = readStream(session, channel, kindOf(whole.stream), deadline);
+        ServiceResult<Stream> stream =
+            readStream(session, channel, kindOf(whole.stream), Purpose::Show, deadline);
         if (!stream.isOk())
             return stream.error;
         const NetError error = fillIn(whole, stream.value);
@@ -367,7 +383,8 @@ NetError setEncodeItem(OnvifSession &session, std::uint32_t item, int channel, c
         std::memcpy(&whole, block, sizeof(whole));
         if (whole.size != static_cast<std::int32_t>(sizeof(whole)) || !isStreamNumber(whole.stream))
             return NetError::InvalidValue;
-        ServiceResult<Stream> stream = readStream(session, channel, kindOf(whole.stream), deadline);
+        ServiceResult<Stream> stream =
+            readStream(session, channel, kindOf(whole.stream), Purpose::Change, deadline);
         return stream.isOk() ? apply(whole, stream.value) : stream.error;
     };
     switch (static_cast<EncodeItem>(item)) {
@@ -412,7 +429,7 @@ NetError encodeCapabilities(OnvifSession &session, const EncodeCapabilityInput &
     for (EncodeCapabilityBlock &block : filled.blocks)
         block.size = sizeof(block);
     for (const StreamKind kind : servedKinds) {
-        ServiceResult<Stream> stream = readStream(session, input.channel, kind, deadline);
+        ServiceResult<Stream> stream = readStream(session, input.channel, kind, Purpose::Show, deadline);
         NetError error = stream.error;
         if (error == NetError::None)
             error = readOptions(session, stream.value, deadline);

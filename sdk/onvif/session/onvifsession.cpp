@@ -137,7 +137,36 @@ ServiceResult<std::vector<MediaProfile>> OnvifSession::profiles(Deadline deadlin
     std::optional<MediaService> service = media(deadline);
     if (!service)
         return {.error = NetError::NotSupported};
-    return service->profiles();
+    const auto time = std::chrono::steady_clock::now();
+    int changes = 0;
+    {
+        const std::scoped_lock lock(m_profilesMutex);
+        changes = m_profileChanges;
+    }
+    ServiceResult<std::vector<MediaProfile>> read = service->profiles();
+    const std::scoped_lock lock(m_profilesMutex);
+    if (read.isOk() && changes == m_profileChanges) { // else a change may be missing in them
+        m_profiles = read.value;
+        m_profilesTime = time;
+    }
+    return read;
+}
+
+ServiceResult<std::vector<MediaProfile>> OnvifSession::recentProfiles(Deadline deadline)
+{
+    {
+        const std::scoped_lock lock(m_profilesMutex);
+        if (!m_profiles.empty() && std::chrono::steady_clock::now() - m_profilesTime < recently)
+            return {.value = m_profiles};
+    }
+    return profiles(deadline);
+}
+
+void OnvifSession::forgetProfiles()
+{
+    const std::scoped_lock lock(m_profilesMutex);
+    m_profiles.clear();
+    ++m_profileChanges;
 }
 
 } // namespace sdk::onvif

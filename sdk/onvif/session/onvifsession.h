@@ -55,6 +55,14 @@ public:
     /// The profiles as the device has them now.
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles(Deadline deadline);
 
+    /// The profiles as they were at most `recently` ago: the items of a page, and the names of all channels,
+    /// are read one after another, each from all profiles.
+    static constexpr std::chrono::seconds recently{2};
+    [[nodiscard]] ServiceResult<std::vector<MediaProfile>> recentProfiles(Deadline deadline);
+
+    /// A setting of a profile has been written.
+    void forgetProfiles();
+
     /// Ends every call.
     void cancel() { m_client->http().cancel(); }
 
@@ -72,6 +80,11 @@ private:
     std::optional<ServiceAddress> m_imaging;
     std::optional<ServiceAddress> m_deviceIo;
     std::vector<MediaChannel> m_channels;
+
+    std::mutex m_profilesMutex;           ///< of what follows; not held over a request
+    std::vector<MediaProfile> m_profiles; ///< empty if none were read
+    std::chrono::steady_clock::time_point m_profilesTime;
+    int m_profileChanges = 0; ///< calls of forgetProfiles()
 };
 
 /// The video sources of `profiles`: of each, the profile of the largest picture and the next one.
