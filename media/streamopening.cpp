@@ -48,11 +48,13 @@ StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &
                 QMetaObject::invokeMethod(
                     context,
                     [state, opened] {
-                        std::unique_lock lock(state->mutex);
-                        if (!std::exchange(state->isWanted, false))
-                            return;
-                        const std::int64_t taken = std::exchange(state->handle, 0);
-                        lock.unlock();
+                        std::int64_t taken = 0;
+                        {
+                            const std::lock_guard taking(state->mutex);
+                            if (!std::exchange(state->isWanted, false))
+                                return;
+                            taken = std::exchange(state->handle, 0);
+                        }
                         opened(taken);
                     },
                     Qt::QueuedConnection);
