@@ -109,7 +109,8 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
         return {.text = failedResult + taken.failure,
                 .isUnanswered = first.status == 0 && !first.isStopped && !first.hasTooLongHeaders};
     if (first.status != accepted)
-        return {.text = failedResult + tr("服务器连接失败")};
+        return {.text = failedResult + tr("服务器连接失败"),
+                .isLoginRefused = first.status == credentialsWanted};
     return {.text = taken.text};
 }
 

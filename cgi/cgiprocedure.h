@@ -41,8 +41,9 @@ inline const QString failedResult = QStringLiteral("Error:");
 /// What has come of a command.
 struct CgiAnswer
 {
-    QString text;              ///< see CgiProcedure::run()
-    bool isUnanswered = false; ///< the device has not answered the first request: another try may succeed
+    QString text;                ///< see CgiProcedure::run()
+    bool isUnanswered = false;   ///< the device has not answered the first request: another try may succeed
+    bool isLoginRefused = false; ///< the web service does not accept the account, or not its password
 };
 
 /// The login is checked first, so that a wrong password is told in the device's own terms. Then the command

@@ -21,6 +21,9 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
         if (sink)
             sink(answer.text);
         const QString beginning = answer.text.left(LongAnswers::longestBeginning);
+        if (answer
+                .isLoginRefused) // further commands of the device would count towards the lock of the account
+            return StepOutcome{.result = resultCode(LoginResult::WrongPassword), .text = beginning};
         if (answer.text.startsWith(failedResult))
             return StepOutcome{
                 .result = commandFailed, .text = beginning, .isUnanswered = answer.isUnanswered};

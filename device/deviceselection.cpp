@@ -31,6 +31,18 @@ void DeviceSelection::setRows(const QVariantList &rows)
     Q_EMIT checkedCountChanged();
 }
 
+void DeviceSelection::setNumberedRows(const QVariantList &rows)
+{
+    QVariantList numbered;
+    numbered.reserve(rows.size());
+    for (const QVariant &row : rows) {
+        QVariantMap values = row.toMap();
+        values.insert(QStringLiteral("mac"), QString::number(numbered.size()));
+        numbered.append(values);
+    }
+    setRows(numbered);
+}
+
 void DeviceSelection::setRangeChecked(int first, int last, bool checked)
 {
     first = std::max(first, 0);

@@ -25,6 +25,9 @@ public:
     /// Takes the rows, all of them ticked.
     Q_INVOKABLE void setRows(const QVariantList &rows);
 
+    /// The same for rows that have no names: each is named by its index.
+    Q_INVOKABLE void setNumberedRows(const QVariantList &rows);
+
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 

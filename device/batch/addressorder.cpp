@@ -16,8 +16,9 @@ AddressOrder addressOrder(const QList<AddressChange> &changes)
     QList<QList<qsizetype>> followers(changes.size());
     for (qsizetype index = 0; index < changes.size(); ++index) {
         const QString &wanted = changes.at(index).newAddress;
-        if (wanted.isEmpty() || wanted == changes.at(index).oldAddress)
+        if (wanted.isEmpty())
             continue;
+        // Also for a device that keeps its address: others with the same one leave it first.
         const QList<qsizetype> before = owners.values(wanted);
         for (const qsizetype owner : before) {
             followers[owner].append(index);

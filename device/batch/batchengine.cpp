@@ -115,6 +115,11 @@ void BatchEngine::addThreadsLocked()
     }
 }
 
+bool BatchEngine::isInUse(const QString &device) const
+{
+    return m_busyDevices.contains(device) || m_heldDevices.contains(device);
+}
+
 BatchEngine::Taken BatchEngine::takeLocked()
 {
     for (const auto &[number, batch] : m_batches) {
@@ -122,7 +127,7 @@ BatchEngine::Taken BatchEngine::takeLocked()
             continue;
         for (auto it = batch->waiting.begin(); it != batch->waiting.end(); ++it) {
             const std::size_t place = it->second.back();
-            if (m_busyDevices.contains(batch->items[place].device)) {
+            if (isInUse(batch->items[place].device)) {
                 if (batch->policy.atOnce == 1)
                     break; // nothing overtakes in the order of the list
                 continue;
@@ -149,7 +154,7 @@ bool BatchEngine::hasWorkLocked() const
     return std::any_of(m_batches.begin(), m_batches.end(), [this](const auto &entry) {
         const Batch &batch = *entry.second;
         const auto isFree = [&](const auto &waiting) {
-            return !m_busyDevices.contains(batch.items[waiting.second.back()].device);
+            return !isInUse(batch.items[waiting.second.back()].device);
         };
         if (batch.isHeld || batch.waiting.empty() || batch.placesTaken >= batch.policy.atOnce)
             return false;
@@ -295,6 +300,35 @@ void BatchEngine::resume(int number)
     m_changed.notify_all();
 }
 
+BatchEngine::Hold::Hold(Hold &&other) noexcept
+    : m_engine(std::exchange(other.m_engine, nullptr)), m_device(std::move(other.m_device))
+{
+}
+
+BatchEngine::Hold::~Hold()
+{
+    if (!m_engine)
+        return;
+    {
+        const std::lock_guard lock(m_engine->m_mutex);
+        const auto holds = m_engine->m_heldDevices.find(m_device);
+        if (--*holds == 0)
+            m_engine->m_heldDevices.erase(holds);
+    }
+    m_engine->m_changed.notify_all();
+}
+
+BatchEngine::Hold BatchEngine::hold(const QString &device, const std::stop_token &stop)
+{
+    std::unique_lock lock(m_mutex);
+    const bool isFree =
+        m_changed.wait(lock, stop, [&] { return m_hasEnded || !m_busyDevices.contains(device); });
+    if (!isFree || m_hasEnded)
+        return {};
+    ++m_heldDevices[device];
+    return {*this, device};
+}
+
 void BatchEngine::requestEnd()
 {
     std::vector<int> numbers;
@@ -304,6 +338,7 @@ void BatchEngine::requestEnd()
         for (const auto &[number, batch] : m_batches)
             numbers.push_back(number);
     }
+    m_changed.notify_all(); // who waits for a device
     for (const int number : numbers)
         stop(number);
 }

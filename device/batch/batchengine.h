@@ -80,6 +80,27 @@ public:
     /// Goes on with a batch that is held.
     void resume(int number);
 
+    /// Keeps the steps of a device from beginning as long as it exists. The engine outlives it.
+    class Hold
+    {
+    public:
+        Hold() = default;
+        Hold(Hold &&other) noexcept;
+        Hold &operator=(Hold &&) = delete;
+        ~Hold();
+
+    private:
+        friend BatchEngine;
+        Hold(BatchEngine &engine, QString device) : m_engine(&engine), m_device(std::move(device)) {}
+
+        BatchEngine *m_engine = nullptr;
+        QString m_device;
+    };
+
+    /// For work on a device that is no step: blocks until no step of it runs, `stop` is requested or the
+    /// engine ends. Several may hold a device at the same time.
+    [[nodiscard]] Hold hold(const QString &device, const std::stop_token &stop);
+
     /// Stops every batch, and starts none any more. Does not wait for the steps that run.
     void requestEnd();
 
@@ -115,6 +136,7 @@ private:
         Waiting rest; ///< further steps of the device
     };
 
+    [[nodiscard]] bool isInUse(const QString &device) const; ///< with the lock
     [[nodiscard]] Taken takeLocked();
     [[nodiscard]] bool hasWorkLocked() const;
     void addThreadsLocked();
@@ -130,6 +152,7 @@ private:
     std::condition_variable_any m_changed;
     std::map<int, std::shared_ptr<Batch>> m_batches; ///< that have not ended, by number
     QSet<QString> m_busyDevices;                     ///< devices with a running step
+    QHash<QString, int> m_heldDevices;               ///< how many hold a device
     int m_lastNumber = 0;
     std::size_t m_idleThreads = 0;
     bool m_hasEnded = false;

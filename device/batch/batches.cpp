@@ -125,7 +125,8 @@ QVariantList Batches::addressesToPutBack(Batch *batch) const
         entries.append(
             QVariantMap{{QStringLiteral("name"), identity},
                         {QStringLiteral("ipport"), now.ipport},
-                        {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address}});
+                        {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address},
+                        {QStringLiteral("newAddress"), before.dhcp ? QString() : before.address}});
     }
     return entries;
 }
@@ -183,7 +184,9 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     for (const qsizetype place : order.order)
         ordered.append(plan.devices.at(place));
     plan.devices = ordered;
-    plan.policy = {.atOnce = 1, .deadline = stepDeadline};
+    plan.policy = {.atOnce = 1, .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
+    // Of two rows with one address, the same device may refuse the account.
+    plan.isByAddress = true;
     const auto occupied = std::make_shared<OccupiedAddresses>(plan);
     plan.stepOf = [this, family = plan.family, targets, occupied](const BatchDevice &device) -> DeviceStep {
         const AddressSettings target = targets.value(device.identity);

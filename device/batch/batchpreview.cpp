@@ -4,6 +4,7 @@
 #include "device/devicerow.h"
 #include "device/upgradetools.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -13,6 +14,7 @@ const QString family = QStringLiteral("dh");
 // Of an entry that brings them.
 const QString actionKey = QStringLiteral("action");
 const QString hindranceKey = QStringLiteral("hindrance");
+const QString newAddressKey = QStringLiteral("newAddress");
 
 QString titleOf(const QVariantMap &device)
 {
@@ -99,6 +101,7 @@ void BatchPreview::setEntries(const QVariantList &entries)
         row.insert(DeviceRowKey::ipport, ipport);
         row.insert(actionKey, entry.value(actionKey));
         row.insert(hindranceKey, entry.value(hindranceKey));
+        row.insert(newAddressKey, entry.value(newAddressKey));
         rows.append(row);
     }
     setRows(rows);
@@ -130,6 +133,7 @@ void BatchPreview::readList()
 {
     m_listed.clear();
     m_devicesAt.clear();
+    m_identitiesAt.clear();
     const QVariantList all = listedRows();
     m_listed.reserve(all.size());
     for (const QVariant &value : all) {
@@ -141,6 +145,7 @@ void BatchPreview::readList()
         m_listed.append(
             {.identity = rowName(row), .ipport = ipport, .words = words.isEmpty() ? ipport : words});
         ++m_devicesAt[ipport];
+        m_identitiesAt.insert(ipport.left(ipport.lastIndexOf(QLatin1Char(':'))), rowName(row));
     }
 }
 
@@ -172,6 +177,15 @@ QString BatchPreview::hindranceOf(int row) const
     return {};
 }
 
+bool BatchPreview::isTaken(const QString &address, const QString &identity) const
+{
+    const auto isStaying = [&](const QString &holder) {
+        return holder != identity && !m_readdressed.contains(holder);
+    };
+    const QStringList holders = m_identitiesAt.values(address);
+    return !address.isEmpty() && std::any_of(holders.cbegin(), holders.cend(), isStaying);
+}
+
 BatchPreview::Judgement BatchPreview::judgementOf(int row) const
 {
     const QString hindrance = hindranceOf(row);
@@ -179,6 +193,8 @@ BatchPreview::Judgement BatchPreview::judgementOf(int row) const
         return {.kind = Skipped, .note = hindrance};
     const QVariantMap device = deviceAt(row);
     const QString action = device.value(actionKey, m_action).toString();
+    if (isTaken(device.value(newAddressKey).toString(), identityOf(device)))
+        return {.kind = Warned, .action = action, .note = tr("与其他设备冲突"), .isConflict = true};
     if (m_devicesAt.value(addressAndPortOf(row)) > 1)
         return {.kind = Warned,
                 .action = action,
@@ -190,6 +206,12 @@ BatchPreview::Judgement BatchPreview::judgementOf(int row) const
 void BatchPreview::rejudge()
 {
     prepare();
+    m_readdressed.clear();
+    for (int row = 0; row < rowCount(); ++row) {
+        const QVariantMap device = deviceAt(row);
+        if (isChecked(row) && !device.value(newAddressKey).toString().isEmpty() && hindranceOf(row).isEmpty())
+            m_readdressed.insert(identityOf(device));
+    }
     m_judgements.clear();
     m_judgements.reserve(rowCount());
     m_warningCount = 0;

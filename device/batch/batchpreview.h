@@ -50,8 +50,9 @@ public:
     Q_INVOKABLE void setAddresses(const QStringList &ipports);
 
     /// Takes what is planned: maps of "name", by which checkedIdentities() names the entry, "ipport",
-    /// "action" and, if wanted, "title" (before that of the device) and "hindrance" (why nothing happens to
-    /// it). The device is the one of that name, or else the first one of that address and port.
+    /// "action" and, if wanted, "title" (before that of the device), "hindrance" (why nothing happens to it)
+    /// and "newAddress" (that it gets). The device is the one of that name, or else the first one of that
+    /// address and port.
     Q_INVOKABLE void setEntries(const QVariantList &entries);
 
     /// "ipport" of the ticked rows, and of the others, in their order.
@@ -103,12 +104,16 @@ private:
     /// The devices of the list by name, and the first one of each address by that.
     [[nodiscard]] QHash<QString, QVariantMap> devicesByName() const;
     void readList();
+    /// Whether a device of the list other than `identity` has `address`, and keeps it.
+    [[nodiscard]] bool isTaken(const QString &address, const QString &identity) const;
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     QString m_action;
     QList<ListedDevice> m_listed;
-    QHash<QString, int> m_devicesAt; ///< devices of the list by address and port
-    QList<Judgement> m_judgements;   ///< by row; empty ones of unticked rows
+    QHash<QString, int> m_devicesAt;             ///< devices of the list by address and port
+    QMultiHash<QString, QString> m_identitiesAt; ///< of the list, by address
+    QSet<QString> m_readdressed;                 ///< identities of ticked rows with a new address
+    QList<Judgement> m_judgements;               ///< by row; empty ones of unticked rows
     int m_warningCount = 0;
     int m_skippedCount = 0;
 };

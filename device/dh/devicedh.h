@@ -289,6 +289,10 @@ private:
     /// What the network library can do at all: getConfigData("library").
     [[nodiscard]] QVariantMap libraryValues() const;
 
+    /// Keeps the steps of batches away from a device that a page works with. On any thread but the scene's:
+    /// it waits for the step that runs.
+    [[nodiscard]] BatchEngine::Hold holdDevice(const QString &ipport, const StepControl &control) const;
+
     /// Of the device's row; the default account for what the row does not have.
     [[nodiscard]] Credentials credentialsOf(const QString &ipport) const;
     [[nodiscard]] Credentials credentialsOf(const QJsonObject &row) const;

@@ -24,6 +24,9 @@ std::function<bool()> CDeviceDH::upgradeCheck(const QString &ipport) const
 SceneStep CDeviceDH::sessionStep(const SessionJob &job)
 {
     return [this, job, state = std::make_shared<SessionState>(*m_state)](const StepControl &control) {
+        const BatchEngine::Hold hold = holdDevice(state->ipport, control);
+        if (control.isStopped())
+            return SceneOutcome();
         SessionRun run(*state, upgradeCheck(state->ipport));
         const QVariant value = job(run, control);
         return SceneOutcome{.value = value, .take = [this, state, news = run.takeNews()] {

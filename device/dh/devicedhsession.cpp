@@ -18,7 +18,10 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
 
 SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
-    return [this, ipport, account, password](const StepControl &) {
+    return [this, ipport, account, password](const StepControl &control) {
+        const BatchEngine::Hold hold = holdDevice(ipport, control);
+        if (control.isStopped())
+            return SceneOutcome();
         const auto login = std::make_shared<UntakenLogin>(
             m_libraries.net, secureLogin(m_libraries.net.get(), ipport, account, password));
         const int result = resultCode(login->result());
@@ -28,6 +31,15 @@ SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, co
                                 Q_EMIT signalCDeviceHighLevelLoginRet(result);
                             }};
     };
+}
+
+BatchEngine::Hold CDeviceDH::holdDevice(const QString &ipport, const StepControl &control) const
+{
+    // The step of an upgrade takes minutes. What would disturb it is refused instead.
+    if (isUpgradingAt(ipport))
+        return {};
+    const QString name = rowName(store().rowAt(ipport));
+    return m_engine->hold(name.isEmpty() ? ipport : name, control.stopToken());
 }
 
 void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
@@ -67,17 +79,21 @@ QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
 
 SceneStep CDeviceDH::detailStep(const QString &ipport)
 {
-    return [libraries = m_libraries, ipport, known = credentialsOf(ipport)](const StepControl &control) {
-        const SecureLogin login = secureLogin(libraries.net.get(), ipport, known.account, known.password);
-        QVariantMap detail;
-        if (login.handle != 0) {
-            if (!control.shouldEnd())
-                detail = loginDetail(ConfigSession(libraries, login.handle));
-            libraries.net->NetLogout(login.handle);
-        }
-        detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
-        return SceneOutcome{.value = detail, .take = {}};
-    };
+    return
+        [this, libraries = m_libraries, ipport, known = credentialsOf(ipport)](const StepControl &control) {
+            const BatchEngine::Hold hold = holdDevice(ipport, control);
+            if (control.isStopped())
+                return SceneOutcome();
+            const SecureLogin login = secureLogin(libraries.net.get(), ipport, known.account, known.password);
+            QVariantMap detail;
+            if (login.handle != 0) {
+                if (!control.shouldEnd())
+                    detail = loginDetail(ConfigSession(libraries, login.handle));
+                libraries.net->NetLogout(login.handle);
+            }
+            detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
+            return SceneOutcome{.value = detail, .take = {}};
+        };
 }
 
 void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,

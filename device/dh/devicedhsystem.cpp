@@ -74,7 +74,15 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
         };
     else if (command == QLatin1String("modifyPassword"))
         perform = [this, ipport, password](const StepControl &) {
-            return StepOutcome{.result = modifyPassword(ipport, password), .text = {}};
+            if (!m_keptLogins.find(
+                    ipport)) // the time for the new password is over: another try has none either
+                return StepOutcome{.result = resultCode(LoginResult::SessionEnded), .text = {}};
+            StepOutcome outcome = {.result = modifyPassword(ipport, password), .text = {}};
+            outcome.isUnanswered =
+                outcome.result == refusedByDevice && isDeviceAway(m_libraries.net->NetGetLastError());
+            if (outcome.isUnanswered)
+                outcome.text = tr("设备没有应答，密码可能已修改");
+            return outcome;
         };
     else
         perform = [this, command, data, ipport, credentials](const StepControl &control) {

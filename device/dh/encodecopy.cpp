@@ -130,7 +130,10 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
                                      const StepControl &control)
 {
     EncodeState to;
-    const EncodeReading reading = readEncodeState(session, channels.curChannel, channels.curStreamType, to);
+    const EncodeReading reading =
+        readEncodeState(session, channels.curChannel, channels.curStreamType, to, control);
+    if (control.shouldEnd())
+        return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
     if (reading.result != 0)
         return {.result = rowResult(reading), .skipped = {}};
     EncodeCopyOutcome outcome;
@@ -159,8 +162,10 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     const QList<int> leftOut = itemsLeftOut(from);
     if (control.shouldEnd())
         return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
-    const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, leftOut);
-    if (writing.isDeviceAway)
+    const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, leftOut, control);
+    if (control.shouldEnd() && !writing.notTaken.isEmpty())
+        outcome.result = resultCode(LoginResult::NotDone); // the others have been written
+    else if (writing.isDeviceAway)
         outcome.result = resultCode(LoginResult::NetworkFailure);
     else if (!writing.notTaken.isEmpty())
         outcome.result = refusedByDevice;

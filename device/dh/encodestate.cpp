@@ -23,14 +23,16 @@ bool readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int ch
 }
 
 /// Returns false when the device stops answering: what follows was not asked for.
-bool readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items)
+bool readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items,
+               const StepControl &control)
 {
     items = {};
     bool isAway = false;
     std::size_t place = 0;
     const auto read = [&](sdk::EncodeItem number, auto &item) {
-        const bool isRead = !isAway && readStreamItem(session, number, channel, stream, item);
-        isAway = isAway || (!isRead && session.isDeviceAway());
+        const bool isRead =
+            !isAway && !control.shouldEnd() && readStreamItem(session, number, channel, stream, item);
+        isAway = isAway || (!isRead && !control.shouldEnd() && session.isDeviceAway());
         items.isRead[place++] = isRead;
     };
     read(sdk::EncodeItem::VideoFormat, items.videoFormat);
@@ -98,7 +100,8 @@ bool refreshEncodeCapabilities(const ConfigSession &session, int channel, Encode
     return true;
 }
 
-EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state)
+EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType, EncodeState &state,
+                              const StepControl &control)
 {
     EncodeReading reading = readEncodeCapabilities(session, channel, state);
     if (!reading.isAsked)
@@ -106,14 +109,14 @@ EncodeReading readEncodeState(const ConfigSession &session, int channel, int str
     state.main = state.sub = {};
     if (isLibraryError(reading.result))
         return reading;
-    if (!readItems(session, channel, streamType + 1, state.main) ||
-        !readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub))
+    if (!readItems(session, channel, streamType + 1, state.main, control) ||
+        !readItems(session, channel, sdk::streamNumber(sdk::StreamKind::Sub), state.sub, control))
         reading.result = static_cast<int>(session.lastError());
     return reading;
 }
 
 EncodeWriting writeEncodeItems(const ConfigSession &session, int channel, const EncodeState &state,
-                               const QList<int> &unwanted)
+                               const QList<int> &unwanted, const StepControl &control)
 {
     EncodeWriting writing;
     const QList<int> left = unwanted + state.unreadItems();
@@ -122,10 +125,11 @@ EncodeWriting writeEncodeItems(const ConfigSession &session, int channel, const 
         const int here = place++;
         if (left.contains(here))
             return;
-        if (!writing.isDeviceAway && session.writeItem(static_cast<std::uint32_t>(number), channel, item))
+        const bool isSent = !writing.isDeviceAway && !control.shouldEnd();
+        if (isSent && session.writeItem(static_cast<std::uint32_t>(number), channel, item))
             return;
         writing.notTaken.append(here);
-        if (writing.isDeviceAway)
+        if (!isSent)
             return;
         qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << item.stream
                              << "was not written, error" << session.lastError();

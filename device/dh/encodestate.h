@@ -1,6 +1,7 @@
 // What is known about the encoder of one channel, and how it is read and written.
 #pragma once
 
+#include "device/devicestep.h"
 #include "device/dh/configsession.h"
 #include "sdk/encodeblocks.h"
 
@@ -79,9 +80,9 @@ bool refreshEncodeCapabilities(const ConfigSession &session, int channel, Encode
 
 /// Reads as readEncodeCapabilities() does, and then the items of the chosen main stream and of the sub
 /// stream. An item that is refused counts as not read. When the device stops answering, the rest is not asked
-/// for and the result is the library's error.
+/// for and the result is the library's error. When `control` ends the step, the rest counts as not read.
 [[nodiscard]] EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType,
-                                            EncodeState &state);
+                                            EncodeState &state, const StepControl &control = {});
 
 struct EncodeWriting
 {
@@ -91,6 +92,8 @@ struct EncodeWriting
 
 /// Writes the items that were read: the places 0 to 3 are the main stream's video format, video profile,
 /// audio compression and audio format, 4 to 7 the sub stream's. `unwanted` names places to leave out. A
-/// refusal does not keep the others from being written; a device that does not answer gets no further item.
+/// refusal does not keep the others from being written; a device that does not answer gets no further item,
+/// and none gets one when `control` ends the step.
 [[nodiscard]] EncodeWriting writeEncodeItems(const ConfigSession &session, int channel,
-                                             const EncodeState &state, const QList<int> &unwanted = {});
+                                             const EncodeState &state, const QList<int> &unwanted = {},
+                                             const StepControl &control = {});

@@ -68,7 +68,7 @@ T.ApplicationWindow {
     }
 
     function requestRestart() {
-        if (mayBegin(BusyState.Restart))
+        if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
             leavePage(() => localConfig.reboot());
     }
 
@@ -80,11 +80,13 @@ T.ApplicationWindow {
         }
         if (!mayBegin(BusyState.Close))
             return false;
-        if (searching) {
+        return !refusesDuringSearch() && !leavePage(end);
+    }
+
+    function refusesDuringSearch() {
+        if (searching)
             popups.say(qsTr("正在搜索，请先停止搜索（Esc）或稍候再关闭"), OVToast.Information);
-            return false;
-        }
-        return !leavePage(end);
+        return searching;
     }
 
     function end() {

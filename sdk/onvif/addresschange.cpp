@@ -38,6 +38,17 @@ bool answersAt(OnvifSession &session, const std::string &address, SoapClient::De
     return false;
 }
 
+/// Whether the device reports the MACs of its interfaces, and `mac` is none of them.
+bool isOtherDevice(const std::vector<DeviceInterface> &interfaces, const std::string &mac)
+{
+    const auto hasMac = [](const DeviceInterface &interface) {
+        return !interface.mac.empty();
+    };
+    return !mac.empty() && !interfaces.empty() && std::all_of(interfaces.begin(), interfaces.end(), hasMac) &&
+           std::none_of(interfaces.begin(), interfaces.end(),
+                        [&mac](const DeviceInterface &interface) { return interface.mac == mac; });
+}
+
 const DeviceInterface *interfaceOf(const std::vector<DeviceInterface> &interfaces, const std::string &mac,
                                    const std::string &address)
 {
@@ -62,6 +73,10 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
         return error;
     DeviceService device = session->device(deadline);
     const auto interfaces = device.interfaces();
+    // Several factory-new devices may have one address: the one that answers need not be the one that is
+    // meant.
+    if (interfaces.isOk() && isOtherDevice(interfaces.value, order.mac))
+        return NetError::Refused;
     const DeviceInterface *interface = interfaceOf(interfaces.value, order.mac, service.host);
     if (!interfaces.isOk() || !interface)
         return interfaces.isOk() ? NetError::NotSupported : interfaces.error;

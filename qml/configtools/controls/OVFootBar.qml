@@ -1,6 +1,6 @@
 // The foot of a page: what is selected on the left, with how the last batch went and what needs a look; what is running
-// on the right. Whichever page began it, every page shows the batch and the search. Work of the page itself goes before
-// them.
+// on the right. Whichever page began it, every page shows the batch, which can be stopped there; else work of the page
+// itself, else the search.
 import QtQuick
 import configtools
 
@@ -20,7 +20,7 @@ Item {
     signal said(string message, int kind)
 
     readonly property Batch batch: batches?.current ?? null
-    readonly property bool showsBatch: !running && (batch?.running ?? false)
+    readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool held: showsBatch && batch.held
     readonly property bool ended: batch !== null && !batch.running
@@ -116,7 +116,7 @@ Item {
         OVProgressBar {
             width: root.showsBatch ? Theme.batchBarWidth : implicitWidth
             anchors.verticalCenter: parent.verticalCenter
-            indeterminate: root.running && root.progress < 0
+            indeterminate: root.running && !root.showsBatch && root.progress < 0
             value: root.showsBatch ? root.batch.progress
                 : root.showsSearch ? root.search.percent / 100 : Math.max(0, root.progress)
             visible: root.running || root.showsSearch || (root.showsBatch && !root.held)

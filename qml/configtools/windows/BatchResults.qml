@@ -10,7 +10,7 @@ Item {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    property string writtenPath  // the file that is being written; "" for none
+    property var writtenPaths: []  // of the files that are being written
     signal said(string message, int kind)
 
     function show() {
@@ -20,7 +20,7 @@ Item {
     function save(batch) {
         const name = batch.title + batch.began.toLocaleString(Qt.locale("C"), " yyyy-MM-dd HH-mm-ss");
         fileDialogs.chooseNewFile(qsTr("保存结果"), ["Excel Files (*.xlsx)", "CSV Files (*.csv)"], name, path => {
-            writtenPath = path;
+            writtenPaths = writtenPaths.concat(path);
             batches.saveResults(batch, path);
         });
     }
@@ -31,9 +31,10 @@ Item {
         target: root.batches
 
         function onResultsSaved(path, reason) {
-            if (path !== root.writtenPath)  // another page's
+            const index = root.writtenPaths.indexOf(path);
+            if (index < 0)  // another page's
                 return;
-            root.writtenPath = "";
+            root.writtenPaths = root.writtenPaths.filter((other, at) => at !== index);
             if (reason === "")
                 root.said(qsTr("结果已保存到 %1").arg(path), OVToast.Success);
             else

@@ -11,8 +11,7 @@ OVDialog {
     /// `list` holds maps with the keys of the columns.
     function load(text, list) {
         summary = text;
-        // Entries have no MAC that could tell one from the others: their place does.
-        entries.setRows(list.map((entry, place) => Object.assign({mac: String(place)}, entry)));
+        entries.setNumberedRows(list);
     }
 
     width: Theme.reportWidth

@@ -152,6 +152,34 @@ private Q_SLOTS:
         QCOMPARE(m_runs, 5);
     }
 
+    /// It waits for the step that runs, and the next step waits for it.
+    void otherWorkHoldsADevice()
+    {
+        start({waiting("a")}, {.atOnce = 8});
+        QTRY_COMPARE(m_runs, 1);
+        QSemaphore release;
+        std::atomic<qsizetype> finishedBefore = -1;
+        const std::jthread worker([&] {
+            const BatchEngine::Hold hold = m_engine->hold("a", {});
+            finishedBefore = m_record->results().size();
+            release.acquire();
+        });
+        std::stop_source stop;
+        stop.request_stop();
+        (void)m_engine->hold("a", stop.get_token()); // does not wait
+        m_gate.release();
+        QTRY_COMPARE(finishedBefore, 1);
+
+        const auto other = std::make_shared<Record>();
+        m_engine->start({waiting("a"), waiting("b")}, {.atOnce = 8}, other);
+        QTRY_COMPARE(other->startedPlaces(), QList<int>{1});
+        m_gate.release(2);
+        QTRY_COMPARE(other->results().size(), 1);
+        QCOMPARE(other->startedPlaces(), QList<int>{1});
+        release.release();
+        QTRY_COMPARE(other->ends, 1);
+    }
+
     void aRefusedAccountIsNotTriedAgain_data()
     {
         const auto row = dataTable<int, int>({"result", "expectedRuns"});

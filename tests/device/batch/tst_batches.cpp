@@ -1,5 +1,6 @@
 #include "device/batch/addressorder.h"
 #include "device/batch/batches.h"
+#include "device/batch/batchpreview.h"
 #include "device/upgradetools.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -206,6 +207,23 @@ private Q_SLOTS:
         QCOMPARE(addresses(), before);
     }
 
+    void anAddressThatAnotherDeviceHasTakenIsNotPutBackUnnoticed()
+    {
+        const auto change = [&](int device, const QString &address) {
+            Batch *batch = m_batches->changeAddresses("dh", "Addresses", {m_devices.at(device).mac},
+                                                      {address}, "255.255.255.0", "", false);
+            return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
+        };
+        Batch *first = change(0, "192.168.1.50");
+        BatchPreview preview;
+        preview.setDeviceFactory(m_site->factory.get());
+        preview.setEntries(m_batches->addressesToPutBack(first));
+        QCOMPARE(preview.warningCount(), 0);
+        change(1, "192.168.1.1");
+        preview.setEntries(m_batches->addressesToPutBack(first));
+        QCOMPARE(preview.warningCount(), 1);
+    }
+
     /// Its row shows since then the address that it was asked for.
     void aDeviceIsPutBackToWhatItHadBeforeAChangeThatFailed()
     {
@@ -269,6 +287,27 @@ private Q_SLOTS:
         QTRY_VERIFY(!refused->isRunning());
         QCOMPARE(refused->entries().first().outcome.result, 999);
         QCOMPARE(refused->retryableDevices(), QStringList()); // it has said no
+    }
+
+    /// The password may have changed: the user learns that the device has not answered.
+    void aDeviceThatGoesBeforeItsNewPasswordSaysSo()
+    {
+        m_site->factory->systemConfig("dh", "loginCheck", {{"password", "secret1"}}, ipportsOf(m_devices));
+        m_site->site->setFault(m_devices.at(0).mac, {.fault = sdk::demo::Fault::NoAnswer});
+        const auto changePasswords = [this] {
+            return m_batches->configureSystem("dh", "modifyPassword", "Passwords",
+                                              {{"password", "Better-2025"}}, ipportsOf(m_devices).first(1));
+        };
+        Batch *batch = changePasswords();
+        QTRY_VERIFY(!batch->isRunning());
+        QVERIFY(!batch->textOf(ipportOf(m_devices.at(0))).isEmpty());
+        QCOMPARE(batch->retryableDevices(), ipportsOf(m_devices).first(1));
+
+        // Another try has no login any more.
+        m_site->factory->systemConfig("dh", "cancelLogin", {}, {});
+        Batch *late = m_batches->retry(batch);
+        QTRY_VERIFY(!late->isRunning());
+        QCOMPARE(late->retryableDevices(), QStringList());
     }
 
     /// The program does not wait for the devices, and the log names those that got nothing.
@@ -369,6 +408,8 @@ private Q_SLOTS:
         row("nothing shared", QStringList{"a", "b"}, QStringList{"x", "y"}, Places{0, 1}, Places{});
         row("upwards", QStringList{"a", "b", "c"}, QStringList{"b", "c", "d"}, Places{2, 1, 0}, Places{});
         row("keeps its own", QStringList{"a", "b"}, QStringList{"a", "c"}, Places{0, 1}, Places{});
+        row("keeps what another one leaves", QStringList{"a", "a"}, QStringList{"a", "b"}, Places{1, 0},
+            Places{});
         row("dhcp", QStringList{"a", "b"}, QStringList{"", ""}, Places{0, 1}, Places{});
         row("two of one address", QStringList{"a", "b", "b"}, QStringList{"b", "c", "d"}, Places{1, 2, 0},
             Places{});
