@@ -139,7 +139,7 @@ void DeviceTableModel::takeMarks()
         setOnlyFailed(false);
     else if (m_onlyFailed)
         refresh();
-    else if (!m_rows.isEmpty())
+    if (!m_rows.isEmpty())
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
@@ -204,6 +204,14 @@ void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
         return;
     }
     // The usual case during a search. Views keep their place and their delegates.
+    int firstChanged = static_cast<int>(shown);
+    int lastChanged = -1;
+    for (int place = 0; place < static_cast<int>(shown); ++place) {
+        if (m_rows.at(place) == rows.at(place))
+            continue;
+        firstChanged = std::min(firstChanged, place);
+        lastChanged = place;
+    }
     if (rows.size() > shown) {
         beginInsertRows(QModelIndex(), static_cast<int>(shown), static_cast<int>(rows.size() - 1));
         m_rows = std::move(rows);
@@ -212,8 +220,8 @@ void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
     } else {
         m_rows = std::move(rows);
     }
-    if (shown > 0)
-        Q_EMIT dataChanged(index(0), index(static_cast<int>(shown - 1)));
+    if (lastChanged >= firstChanged)
+        Q_EMIT dataChanged(index(firstChanged), index(lastChanged));
 }
 
 void DeviceTableModel::notePlaces(qsizetype first)

@@ -24,6 +24,8 @@ struct DeviceTableRow
 
     /// Its texts in tab-separated columns, for the clipboard.
     [[nodiscard]] QString text() const;
+
+    bool operator==(const DeviceTableRow &) const = default;
 };
 
 /// Which rows of a list are shown.

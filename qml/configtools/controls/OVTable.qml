@@ -88,7 +88,7 @@ FocusScope {
         x: Theme.line
         y: head.y + head.height
         width: root.width - 2 * Theme.line
-        height: root.height - y - Theme.controlRadius
+        room: root.height - y - Theme.controlRadius
         checkWidth: root.checkWidth
         checkable: root.checkable
         columnWidths: root.columnWidths
@@ -103,7 +103,10 @@ FocusScope {
 
     Item {
         id: emptySlot
-        anchors.fill: body
+        x: body.x
+        y: body.y
+        width: body.width
+        height: body.room
         visible: body.count === 0
     }
 }

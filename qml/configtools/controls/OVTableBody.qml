@@ -15,7 +15,10 @@ ListView {
     property int tickAnchor: -1
     property string currentIdentity
     property real keptY: 0
-    property int revision: 0  // rises when values of rows may have changed
+    required property real room  // for the rows; an empty table is filled over some frames
+    property int filled: rowsAFrame  // rows that may be shown
+    property var changedRows: []  // indices of rows whose values are to be read again
+    readonly property int rowsAFrame: 5  // that are made or read again between two frames
     signal allToggled(bool checked)
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
@@ -70,6 +73,17 @@ ListView {
         contentY = Math.max(0, Math.min(contentHeight - height, keptY));
     }
 
+    /// Rows out of reach are read when they come into view.
+    function noteChanged(first, last) {
+        const from = Math.max(first, Math.floor((contentY - cacheBuffer) / Theme.rowHeight) - 1);
+        const to = Math.min(last, Math.ceil((contentY + room + cacheBuffer) / Theme.rowHeight) + 1);
+        const rows = new Set(changedRows);
+        for (let row = from; row <= to; ++row)
+            rows.add(row);
+        changedRows = Array.from(rows);
+    }
+
+    height: Math.min(room, filled * Theme.rowHeight)
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: Theme.rowHeight * 3  // a turn of the wheel; each row is half a megabyte of objects
@@ -86,6 +100,21 @@ ListView {
     Accessible.name: columns.map(column => column.title.trim()).filter(title => title !== "").join(", ")
 
     onActiveFocusChanged: byPointer = false
+    onCountChanged: if (count === 0) filled = rowsAFrame
+
+    FrameAnimation {
+        running: root.count > 0 && root.height < root.room
+        onTriggered: root.filled += root.rowsAFrame
+    }
+    FrameAnimation {
+        running: root.changedRows.length > 0
+        onTriggered: {
+            const rows = root.changedRows.slice(0, root.rowsAFrame);
+            root.changedRows = root.changedRows.slice(root.rowsAFrame);
+            for (const row of rows)
+                (root.itemAtIndex(row) as OVTableRow)?.read();
+        }
+    }
 
     Keys.onPressed: event => {
         const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1);
@@ -119,7 +148,7 @@ ListView {
         columns: root.columns
         current: index === root.currentIndex
         values: {
-            root.revision;
+            readings;
             return root.model.get(index);
         }
         onPicked: (identity, modifiers) => root.pick(identity, modifiers)
@@ -159,11 +188,7 @@ ListView {
         ignoreUnknownSignals: true
 
         function onDataChanged(topLeft, bottomRight) {
-            // A batch changes thousands of rows one by one. Those out of reach are read anew when they come.
-            const first = Math.floor((root.contentY - root.cacheBuffer) / Theme.rowHeight) - 1;
-            const last = Math.ceil((root.contentY + root.height + root.cacheBuffer) / Theme.rowHeight) + 1;
-            if (topLeft.row <= last && bottomRight.row >= first)
-                ++root.revision;
+            root.noteChanged(topLeft.row, bottomRight.row);  // of a batch, thousands of rows one by one
         }
         function onRowsInserted() {
             // A search empties the table and fills it again: the current row may be back.
@@ -174,7 +199,7 @@ ListView {
             root.keptY = root.contentY;
         }
         function onModelReset() {
-            ++root.revision;
+            root.changedRows = [];
             restoring.start();
         }
     }

@@ -16,6 +16,8 @@ Rectangle {
     required property int checkWidth
     required property bool current
     property string pressedIdentity
+    property int readings: 0  // of the values
+    property int pooledIndex: -1
     signal picked(string identity, int modifiers)
     signal tickToggled(string identity, int modifiers)
     signal opened(string identity)
@@ -26,6 +28,10 @@ Rectangle {
         const identity = pressedIdentity !== "" ? pressedIdentity : root.identity;
         pressedIdentity = "";
         return identity;
+    }
+
+    function read() {
+        ++readings;
     }
 
     height: Theme.rowHeight
@@ -40,7 +46,11 @@ Rectangle {
     Accessible.checkable: checkable
     Accessible.checked: checked
 
-    ListView.onPooled: pressedIdentity = ""  // a press whose release went elsewhere
+    ListView.onPooled: {
+        pressedIdentity = "";  // a press whose release went elsewhere
+        pooledIndex = index;
+    }
+    ListView.onReused: if (index === pooledIndex) read()  // what the index shows may have changed meanwhile
 
     HoverHandler {
         id: pointer
