@@ -123,6 +123,9 @@ void EncodeForm::fetch()
         m_channels.append(QStringLiteral("1"));
     m_channel = value(QStringLiteral("curChannel")).toInt();
     m_streamTypes = value(QStringLiteral("allStreamType")).toStringList();
+    const QVariant offeredTypes = value(QStringLiteral("offeredStreamTypes"));
+    if (offeredTypes.isValid())
+        m_streamTypes.resize(std::min(m_streamTypes.size(), offeredTypes.value<qsizetype>()));
     m_streamType = value(QStringLiteral("curStreamType")).toInt();
     m_isComplete = !value(QStringLiteral("encodeMode")).toStringList().isEmpty() &&
                    !value(QStringLiteral("resolution")).toStringList().isEmpty();

@@ -62,6 +62,18 @@ const QSet<QString> &streamFields()
     return fields;
 }
 
+constexpr QLatin1StringView offeredTypesKey("offeredStreamTypes");
+
+/// How many kinds of main streams the device has, from the normal one on. All, if it reports none.
+int offeredTypes(const EncodeState &state)
+{
+    constexpr int all = 3;
+    int offered = 0;
+    while (offered < all && state.mainBlock(offered).compressionMask != 0)
+        ++offered;
+    return offered > 0 ? offered : all;
+}
+
 /// The item of its stream that a value is in; nothing for a list.
 std::optional<EncodePlace> placeOf(const QString &field)
 {
@@ -127,8 +139,8 @@ QStringList samplingFrequencies(const ValueTables &tables, int current)
 
 bool EncodeValues::isKey(const QString &key)
 {
-    return key == QLatin1String("subVideoEnable") || key == takenItemsKey || key == unreadItemsKey ||
-           key == unreadPlacesKey || streamFields().contains(parted(key).field);
+    return key == QLatin1String("subVideoEnable") || key == offeredTypesKey || key == takenItemsKey ||
+           key == unreadItemsKey || key == unreadPlacesKey || streamFields().contains(parted(key).field);
 }
 
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const
@@ -137,6 +149,8 @@ QVariant EncodeValues::value(const QString &key, const EncodeState &state, int s
     const std::optional<EncodePlace> place = placeOf(parts.field);
     if (place && !(parts.isSub ? state.sub : state.main).knows(*place))
         return {};
+    if (key == offeredTypesKey)
+        return offeredTypes(state);
     if (key == QLatin1String("subVideoEnable"))
         return state.sub.videoFormat.videoEnable != 0 ? 1 : 0;
     return parts.isSub ? streamValue(parts.field, true, state.sub, state.subBlock())

@@ -94,6 +94,8 @@ void walkSettings(Driver &driver)
         30);
     awaitIdle(driver);
     driver.report(u"encode"_s, driver.text(u"configDevice"_s));
+    driver.check(!driver.require(u"mainStreamTypeChoice"_s)->isEnabled(),
+                 u"kinds of streams that the device does not have are not offered"_s);
     QQuickItem *slider = driver.require(u"mainFrameRateSlider"_s);
     slider->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
     driver.key(Qt::Key_Left);
