@@ -3,26 +3,20 @@
 #include "sdk/onvif/discovery/neighbourtable.h"
 #include "sdk/onvif/services/deviceservice.h"
 
-#include <algorithm>
-
 namespace sdk::onvif {
 
 namespace {
 
-bool hasAdministrator(const std::vector<DeviceUser> &users)
+/// Requests without a login what a device without an administrator reports to anybody. False if it is
+/// refused.
+bool askOpenDevice(FoundDevice &device, DeviceService &service)
 {
-    return std::any_of(users.begin(), users.end(),
-                       [](const DeviceUser &user) { return user.level == "Administrator"; });
-}
-
-/// On a device without an administrator, everything is answered without a login.
-void askOpenDevice(FoundDevice &device, DeviceService &service)
-{
-    if (const auto information = service.information(); information.isOk()) {
-        device.model = information.value.model;
-        device.firmwareVersion = information.value.firmwareVersion;
-        device.serialNumber = information.value.serialNumber;
-    }
+    const auto information = service.information();
+    if (!information.isOk())
+        return false;
+    device.model = information.value.model;
+    device.firmwareVersion = information.value.firmwareVersion;
+    device.serialNumber = information.value.serialNumber;
     if (const auto interfaces = service.interfaces(); interfaces.isOk()) {
         for (const DeviceInterface &interface : interfaces.value) {
             if (interface.address != device.address)
@@ -35,6 +29,7 @@ void askOpenDevice(FoundDevice &device, DeviceService &service)
     }
     if (const auto gateway = service.defaultGateway(); gateway.isOk())
         device.gateway = gateway.value;
+    return true;
 }
 
 std::string macOfNeighbour(const std::string &address)
@@ -55,13 +50,9 @@ bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
     device.mac = macOfNeighbour(device.address);
     switch (users.error) {
     case NetError::None:
-        // Some devices list their users to anybody. One that has an administrator must answer more than that.
-        if (hasAdministrator(users.value) && !service.information().isOk()) {
-            device.state = InitialisationBits::Initialised;
-            return true;
-        }
-        device.state = InitialisationBits::Uninitialised;
-        askOpenDevice(device, service);
+        // Some devices answer this one request to anybody, with all their users or with none.
+        device.state = askOpenDevice(device, service) ? InitialisationBits::Uninitialised
+                                                      : InitialisationBits::Initialised;
         return true;
     case NetError::WrongPassword:
     case NetError::Refused:
