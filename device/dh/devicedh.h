@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/batch/batchengine.h"
 #include "device/devicebase.h"
 #include "device/devicerefresh.h"
 #include "device/devicesearch.h"
@@ -21,7 +22,6 @@
 #include <mutex>
 #include <vector>
 
-class BatchEngine;
 class FirmwareFiles;
 struct FirmwareFile;
 class SnapThread;
