@@ -1,6 +1,7 @@
 #include "sdk/onvif/livestreams.h"
 
 #include "sdk/onvif/soap/logging.h"
+#include "sdk/onvif/soap/runningcall.h"
 
 #include <string_view>
 #include <system_error>
@@ -12,6 +13,8 @@ namespace {
 
 /// Half a second of the largest streams. What is beyond it would be too late anyway.
 constexpr std::size_t longestWaiting = std::size_t(4) * 1024 * 1024;
+
+constexpr auto streamBytes = static_cast<std::uint32_t>(RealDataType::Stream);
 
 NetError errorOf(StreamEnd end)
 {
@@ -42,6 +45,37 @@ NetError errorOf(StreamEnd end)
     }
 }
 
+StreamEndReason reasonOf(StreamEnd end)
+{
+    switch (end) {
+    case StreamEnd::Refused:
+        return StreamEndReason::Refused;
+    case StreamEnd::ConnectionRefused:
+    case StreamEnd::Unreachable:
+    case StreamEnd::NoAnswer:
+    case StreamEnd::NoData:
+        return StreamEndReason::ConnectionLost;
+    case StreamEnd::NoKeyPicture:
+    case StreamEnd::Unsupported:
+        return StreamEndReason::NoFrames;
+    case StreamEnd::BadUrl:
+    case StreamEnd::Redirected:
+    case StreamEnd::Oversized:
+    case StreamEnd::Malformed:
+        return StreamEndReason::Malformed;
+    case StreamEnd::NotFound:
+    case StreamEnd::Busy:
+    case StreamEnd::Rejected:
+    case StreamEnd::Ended:
+        return StreamEndReason::EndedByDevice;
+    case StreamEnd::Stopped:
+    case StreamEnd::BadAccount:
+    case StreamEnd::Failed:
+        break;
+    }
+    return StreamEndReason::Failed;
+}
+
 } // namespace
 
 LiveStream::LiveStream(std::int64_t handle, LLONG loginHandle, std::string profile)
@@ -54,17 +88,19 @@ NetError LiveStream::start(const RtspOrder &order)
     const auto onData = [this](std::span<const std::uint8_t> bytes) {
         take(bytes);
     };
-    const auto onEnd = [](StreamEnd end, const std::string &text) {
+    const auto onEnd = [this](StreamEnd end, const std::string &text) {
         const std::string_view name = streamEndName(end);
         qCInfo(logOnvif).noquote() << "A live stream has ended:"
                                    << QLatin1StringView(name.data(), static_cast<qsizetype>(name.size()))
                                    << QString::fromStdString(text);
+        reportEnd(end);
     };
     try {
         m_stream = std::make_unique<RtspStream>(order, onData, onEnd);
     } catch (const std::system_error &) {
         return NetError::NetworkFailure; // the computer gives no more threads
     }
+    const std::stop_callback onCancel(RunningCall::stopOfThisThread(), [this] { m_stream->requestStop(); });
     const std::optional<StreamEnd> end = m_stream->waitForAnswer();
     return end ? errorOf(*end) : NetError::None;
 }
@@ -73,7 +109,7 @@ void LiveStream::take(std::span<const std::uint8_t> bytes)
 {
     const std::scoped_lock lock(m_mutex);
     if (m_handler)
-        m_handler(m_handle, 0, bytes.data(), static_cast<std::uint32_t>(bytes.size()), 0, m_user);
+        m_handler(m_handle, streamBytes, bytes.data(), static_cast<std::uint32_t>(bytes.size()), 0, m_user);
     else if (!m_hadHandler && m_waiting.size() + bytes.size() <= longestWaiting)
         m_waiting.insert(m_waiting.end(), bytes.begin(), bytes.end());
 }
@@ -87,8 +123,17 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
         return;
     m_hadHandler = true;
     if (!m_waiting.empty())
-        handler(m_handle, 0, m_waiting.data(), static_cast<std::uint32_t>(m_waiting.size()), 0, user);
+        handler(m_handle, streamBytes, m_waiting.data(), static_cast<std::uint32_t>(m_waiting.size()), 0,
+                user);
     m_waiting = {};
+}
+
+void LiveStream::reportEnd(StreamEnd end)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (end != StreamEnd::Stopped && m_handler)
+        m_handler(m_handle, static_cast<std::uint32_t>(RealDataType::End), nullptr, 0,
+                  static_cast<std::int64_t>(reasonOf(end)), m_user);
 }
 
 void LiveStream::beginAnew()

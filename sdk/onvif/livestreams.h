@@ -20,7 +20,7 @@ class LiveStream
 public:
     LiveStream(std::int64_t handle, LLONG loginHandle, std::string profile);
 
-    /// Starts, and blocks until the device plays or has refused.
+    /// Starts, and blocks until the device plays or has refused, or the thread's RunningCall is stopped.
     [[nodiscard]] NetError start(const RtspOrder &order);
 
     /// What came before the first handler is kept for it, up to a bound. After the call the handler before
@@ -35,6 +35,7 @@ public:
 
 private:
     void take(std::span<const std::uint8_t> bytes);
+    void reportEnd(StreamEnd end);
 
     const std::int64_t m_handle;
     const LLONG m_loginHandle;

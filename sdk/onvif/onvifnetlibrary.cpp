@@ -70,7 +70,7 @@ std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &param
                                                     std::chrono::milliseconds)
 {
     const CallGate::Call call(m_gate);
-    if (!call.isAllowed() || parameter.size != sizeof(parameter)) {
+    if (!call.isAllowed() || parameter.size != sizeof(parameter) || !parameter.handler) {
         m_error.fail(NetError::InvalidValue);
         return 0;
     }
@@ -106,7 +106,7 @@ bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request,
                                         void *user, std::chrono::milliseconds wait)
 {
     const CallGate::Call call(m_gate);
-    if (!call.isAllowed() || request.size != sizeof(request) || request.count < 0 ||
+    if (!call.isAllowed() || request.size != sizeof(request) || !handler || request.count < 0 ||
         request.count > maximumSearchAddresses)
         return m_error.fail(NetError::InvalidValue);
     std::vector<std::string> addresses;

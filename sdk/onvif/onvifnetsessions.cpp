@@ -33,18 +33,21 @@ LoginDeviceInformation loginInformation(const OnvifSession &session)
     return device;
 }
 
-DeviceAttributes attributesOf(OnvifSession &session, OnvifSession::Deadline deadline)
+/// Devices without the operation, or that keep their interfaces to themselves, are without a MAC.
+NetError readAttributes(OnvifSession &session, DeviceAttributes &attributes, OnvifSession::Deadline deadline)
 {
-    DeviceAttributes attributes{};
     attributes.size = sizeof(attributes);
     setBlockText(attributes.serialNumber, session.information().serialNumber);
     setBlockText(attributes.softwareVersion, session.information().firmwareVersion);
     setBlockText(attributes.detailModel, session.information().model);
     const auto interfaces = session.device(deadline).interfaces();
+    if (!interfaces.isOk() && interfaces.error != NetError::NotSupported &&
+        interfaces.error != NetError::Refused)
+        return interfaces.error;
     if (const DeviceInterface *interface = interfaceInUse(interfaces.value, session.service().host))
         setBlockText(attributes.mac, interface->mac);
     attributes.videoInputs = static_cast<std::int32_t>(session.channels().size());
-    return attributes;
+    return NetError::None;
 }
 
 bool isEncodeItem(std::uint32_t item)
@@ -127,9 +130,14 @@ bool OnvifNetLibrary::NetLogout(LLONG loginHandle)
     return true;
 }
 
-bool OnvifNetLibrary::NetCancelCalls(LLONG)
+bool OnvifNetLibrary::NetCancelCalls(LLONG loginHandle)
 {
-    return m_error.fail(NetError::NotSupported);
+    const CallGate::Call call(m_gate);
+    const std::shared_ptr<OnvifSession> session = this->session(loginHandle);
+    if (!call.isAllowed() || !session)
+        return m_error.fail(NetError::SessionEnded);
+    session->calls().cancel();
+    return true;
 }
 
 bool OnvifNetLibrary::NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait)
@@ -152,7 +160,14 @@ bool OnvifNetLibrary::onSession(LLONG loginHandle, std::chrono::milliseconds wai
     const std::shared_ptr<OnvifSession> session = this->session(loginHandle);
     if (!call.isAllowed() || !session)
         return m_error.fail(NetError::SessionEnded);
-    const NetError error = work(*session, deadlineAfter(wait));
+    const std::stop_token stop = session->calls().stop();
+    NetError error = NetError::None;
+    {
+        const RunningCall running(stop);
+        error = work(*session, deadlineAfter(wait));
+    }
+    if (stop.stop_requested())
+        error = this->session(loginHandle) ? NetError::Cancelled : NetError::SessionEnded;
     return error == NetError::None || m_error.fail(error);
 }
 
@@ -170,8 +185,11 @@ bool OnvifNetLibrary::NetQueryConfig(LLONG loginHandle, QueryCommand command, st
     };
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         switch (command) {
-        case QueryCommand::DeviceAttributes:
-            return answer(attributesOf(session, deadline));
+        case QueryCommand::DeviceAttributes: {
+            DeviceAttributes attributes{};
+            const NetError error = readAttributes(session, attributes, deadline);
+            return error == NetError::None ? answer(attributes) : error;
+        }
         case QueryCommand::Time: {
             const auto clock = session.device(deadline).clock();
             const std::optional<DateTime> shown = shownTime(clock.value);
@@ -240,6 +258,8 @@ bool OnvifNetLibrary::NetQueryCapabilities(LLONG loginHandle, CapabilityQuery qu
                                            void *output, std::chrono::milliseconds wait)
 {
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
+        if (!input || !output)
+            return NetError::InvalidValue;
         switch (query) {
         case CapabilityQuery::Encode:
             return encodeCapabilities(session, *static_cast<const EncodeCapabilityInput *>(input),
@@ -273,13 +293,24 @@ bool OnvifNetLibrary::NetSetItem(LLONG loginHandle, std::uint32_t item, std::int
 bool OnvifNetLibrary::NetQueryChannelStates(LLONG loginHandle, ChannelStates &states,
                                             std::chrono::milliseconds wait)
 {
-    return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline) {
+    return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         if (states.size != sizeof(states))
             return NetError::InvalidValue;
+        const auto profiles = session.profiles(deadline);
+        if (!profiles.isOk() && !session.channels().empty())
+            return profiles.error;
+        const std::vector<MediaChannel> present = channelsOf(profiles.value);
         states.count = static_cast<std::uint32_t>(session.channels().size());
-        for (std::uint32_t channel = 0; channel < states.count; ++channel)
+        for (std::uint32_t channel = 0; channel < states.count; ++channel) {
+            const std::string &source = session.channels()[channel].sourceToken;
+            const bool isPresent =
+                std::any_of(present.begin(), present.end(), [&source](const MediaChannel &candidate) {
+                    return candidate.sourceToken == source;
+                });
             states.states[channel] = {.channel = static_cast<std::int32_t>(channel),
-                                      .connection = ChannelConnection::Connected};
+                                      .connection = isPresent ? ChannelConnection::Connected
+                                                              : ChannelConnection::NotConnected};
+        }
         return NetError::None;
     });
 }

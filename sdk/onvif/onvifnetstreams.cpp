@@ -44,7 +44,7 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
                                                  LiveStreamKind kind)
 {
     std::int64_t handle = 0;
-    onSession(loginHandle, startWait, [&](OnvifSession &session, Deadline deadline) {
+    const bool isStarted = onSession(loginHandle, startWait, [&](OnvifSession &session, Deadline deadline) {
         const std::string profile = profileOf(session, channel, kind);
         std::optional<MediaService> media = session.media(deadline);
         if (profile.empty() || !media)
@@ -63,11 +63,15 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
             deadline - std::chrono::steady_clock::now());
         NetError error = NetError::None;
         handle = m_streams.open(loginHandle, profile, order, error);
-        if (error == NetError::WrongPassword)
+        if (error == NetError::WrongPassword) {
             session.client().setRefused(); // no other way sends it again
+            return NetError::SessionEnded;
+        }
         return error;
     });
-    return handle;
+    if (!isStarted)
+        m_streams.close(handle); // ended while it started
+    return isStarted ? handle : 0;
 }
 
 bool OnvifNetLibrary::NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
@@ -109,7 +113,7 @@ std::int64_t OnvifNetLibrary::NetStartUpgrade(LLONG loginHandle, const char *fil
                                               std::chrono::milliseconds wait)
 {
     std::int64_t handle = 0;
-    onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
+    const bool isStarted = onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         if (!FirmwareUploads::isReadable(fileName))
             return NetError::UnusableFile;
         const auto upload = session.device(deadline).startFirmwareUpgrade();
@@ -118,7 +122,9 @@ std::int64_t OnvifNetLibrary::NetStartUpgrade(LLONG loginHandle, const char *fil
         handle = m_uploads.open(loginHandle, upload.value, session.client().login(), fileName, handler, user);
         return handle > 0 ? NetError::None : NetError::NetworkFailure;
     });
-    return handle;
+    if (!isStarted && handle > 0)
+        (void)m_uploads.close(handle); // ended while it started
+    return isStarted ? handle : 0;
 }
 
 bool OnvifNetLibrary::NetStopUpgrade(std::int64_t upgradeHandle)

@@ -70,6 +70,9 @@ public:
     /// any thread.
     void beginAnew() { m_mustBeginAnew = true; }
 
+    /// Lets the stream end as stop() does, and returns at once. For any thread.
+    void requestStop() { m_thread.request_stop(); }
+
     /// Ends the stream, if it has not ended by itself, with StreamEnd::Stopped, and returns within a fraction
     /// of a second. No handler runs any more then. For one thread at a time, but not for a handler.
     void stop();

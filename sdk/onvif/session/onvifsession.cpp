@@ -70,6 +70,12 @@ std::shared_ptr<OnvifSession> OnvifSession::open(const ServiceAddress &service, 
     return session;
 }
 
+void OnvifSession::cancel()
+{
+    m_client->http().cancel();
+    m_calls.cancel();
+}
+
 NetError OnvifSession::logIn(Deadline deadline)
 {
     DeviceService service = device(deadline);

@@ -4,6 +4,7 @@
 #include "sdk/loginblocks.h"
 #include "sdk/onvif/services/deviceservice.h"
 #include "sdk/onvif/services/mediaservice.h"
+#include "sdk/onvif/soap/runningcall.h"
 #include "sdk/onvif/soap/soapclient.h"
 
 #include <memory>
@@ -63,8 +64,11 @@ public:
     /// A setting of a profile has been written.
     void forgetProfiles();
 
-    /// Ends every call.
-    void cancel() { m_client->http().cancel(); }
+    /// The calls that run on the session.
+    [[nodiscard]] RunningCalls &calls() { return m_calls; }
+
+    /// Ends every call, and later ones as well.
+    void cancel();
 
 private:
     [[nodiscard]] NetError logIn(Deadline deadline);
@@ -74,6 +78,7 @@ private:
 
     const ServiceAddress m_service;
     const std::unique_ptr<SoapClient> m_client;
+    RunningCalls m_calls;
     DeviceInformation m_information;
     std::optional<ServiceAddress> m_media;
     std::optional<ServiceAddress> m_media2;

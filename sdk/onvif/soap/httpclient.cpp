@@ -1,5 +1,7 @@
 #include "sdk/onvif/soap/httpclient.h"
 
+#include "sdk/onvif/soap/runningcall.h"
+
 #include <curl/curl.h>
 
 #include <algorithm>
@@ -105,13 +107,15 @@ struct HttpClient::Connection
     CURLcode run(const std::atomic_bool &isCancelled) const
     {
         int running = 1;
+        const std::stop_token stop = RunningCall::stopOfThisThread();
         CURLMcode code = curl_multi_add_handle(multi.get(), easy.get());
-        while (code == CURLM_OK && running > 0 && !isCancelled) {
+        while (code == CURLM_OK && running > 0 && !isCancelled && !stop.stop_requested()) {
             code = curl_multi_perform(multi.get(), &running);
             if (code == CURLM_OK && running > 0)
                 code = curl_multi_poll(multi.get(), nullptr, 0, watchInterval, nullptr);
         }
-        CURLcode result = running > 0 && isCancelled ? CURLE_ABORTED_BY_CALLBACK : CURLE_OUT_OF_MEMORY;
+        CURLcode result = running > 0 && (isCancelled || stop.stop_requested()) ? CURLE_ABORTED_BY_CALLBACK
+                                                                                : CURLE_OUT_OF_MEMORY;
         int left = 0;
         while (const CURLMsg *message = curl_multi_info_read(multi.get(), &left)) {
             if (message->msg == CURLMSG_DONE)

@@ -53,7 +53,8 @@ public:
     HttpClient(const HttpClient &) = delete;
     HttpClient &operator=(const HttpClient &) = delete;
 
-    /// Blocks until the answer has arrived, `deadline` has passed or cancel() is called. With `login` the
+    /// Blocks until the answer has arrived, `deadline` has passed, cancel() is called or the thread's
+    /// RunningCall is stopped. With `login` the
     /// request is answered by HTTP Digest (RFC 7616) when the device asks for that, once; never by Basic,
     /// which would send the password.
     [[nodiscard]] HttpAnswer post(const ServiceAddress &address, const std::string &body,

@@ -79,10 +79,10 @@ NetError errorOfEnd(HttpEnd end)
     case HttpEnd::Answered:
         return NetError::None;
     case HttpEnd::NotReached:
+    case HttpEnd::NoAnswer: // over a connection that was kept, or through a router
         return NetError::ConnectTimeout;
     case HttpEnd::NotAccepted:
         return NetError::ConnectFailed;
-    case HttpEnd::NoAnswer:
     case HttpEnd::Broken:
     case HttpEnd::Cancelled:
         return NetError::NetworkFailure;

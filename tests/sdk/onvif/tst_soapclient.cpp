@@ -70,7 +70,7 @@ private Q_SLOTS:
     void anOddServerEndsACall_data()
     {
         const auto row = dataTable<int, quint32>({"manner", "error"});
-        row("never answers", Silent, static_cast<quint32>(sdk::NetError::NetworkFailure));
+        row("never answers", Silent, static_cast<quint32>(sdk::NetError::ConnectTimeout));
         row("never stops", Endless, static_cast<quint32>(sdk::NetError::ProtocolMismatch));
         row("closes in the middle", Closing, static_cast<quint32>(sdk::NetError::NetworkFailure));
         row("redirects", Redirecting, static_cast<quint32>(sdk::NetError::ProtocolMismatch));
