@@ -17,12 +17,15 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
+#include <stop_token>
 
 namespace sdk::demo {
 
 /// Error codes are those of DemoError for misuse, and of NetError for what devices answer. Every request,
 /// malformed ones too, goes to the site's record. Reachable devices answer logins, queries and requests at
-/// once; the others take their time on the site's clock, which NetCleanup cuts short.
+/// once; the others take their time on the site's clock, which NetCleanup, NetLogout and NetCancelCalls cut
+/// short.
 class DemoNetLibrary : public NetLibrary
 {
 public:
@@ -168,9 +171,16 @@ private:
                      const CameraCapabilityInput *input, CameraCapabilities *output,
                      std::chrono::milliseconds wait);
 
-    /// Lets the time pass that a slow device takes. False when that is longer than `wait`.
-    bool passAnswerTime(const CallGate::Call &call, const SceneDevice &device,
+    /// Waits until the device of a session answers, and sets `device`. Otherwise returns why it does not.
+    NetError waitForDevice(const CallGate::Call &call, const DemoSession &session,
+                           std::chrono::milliseconds wait, std::optional<SceneDevice> &device);
+
+    /// Lets the time pass that a slow device takes. False when that is longer than `wait`, or on a stop.
+    bool passAnswerTime(const std::stop_token &stop, const SceneDevice &device,
                         std::chrono::milliseconds wait) const;
+
+    /// A request has come with the right password.
+    void noteRequest(const SceneDevice &device);
 
     /// Whether a request without a login may go to `mac`; with the error left when not.
     bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,

@@ -181,9 +181,12 @@ bool DemoNetLibrary::NetModifyPassword(std::int64_t loginHandle, const ModifyPas
     record("NetModifyPassword", request, macOf(session));
     if (input.size != sizeof(input))
         return m_error.fail(DemoError::WrongSize);
-    return maintain(call, session, wait, [&](SceneDevice &device) {
+    const bool isChanged = maintain(call, session, wait, [&](SceneDevice &device) {
         return changePassword(device, account, textOf(input.oldPassword), newPassword);
     });
+    if (isChanged && session->account == account)
+        m_sessions.setPassword(loginHandle, newPassword);
+    return isChanged;
 }
 
 } // namespace sdk::demo

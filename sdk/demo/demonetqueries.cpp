@@ -4,6 +4,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/deviceanswers.h"
 #include "sdk/demo/internal/devicereach.h"
+#include "sdk/demo/internal/maintenance.h"
 
 #include <algorithm>
 #include <cstring>
@@ -23,26 +24,55 @@ std::optional<SceneDevice> DemoNetLibrary::askedDevice(const CallGate::Call &cal
         return std::nullopt;
     }
     std::optional<SceneDevice> device;
-    if (isReachable(m_site, *session))
-        device = m_site.device(session->mac);
-    if (!device) {
-        m_site.clock().wait(bounded(wait), call.stop());
-        m_error.fail(NetError::NetworkFailure);
-    } else if (!passAnswerTime(call, *device, wait)) {
-        m_error.fail(NetError::ConnectTimeout);
+    const NetError error = waitForDevice(call, *session, wait, device);
+    if (error != NetError::None) {
+        m_error.fail(error);
         device.reset();
     }
     return device;
 }
 
-bool DemoNetLibrary::passAnswerTime(const CallGate::Call &call, const SceneDevice &device,
+NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSession &session,
+                                       std::chrono::milliseconds wait, std::optional<SceneDevice> &device)
+{
+    std::stop_source stop; // the end of the library, of the session, or of its calls
+    const std::stop_callback onCleanup(call.stop(), [&stop] { stop.request_stop(); });
+    const std::stop_callback onCancel(session.calls, [&stop] { stop.request_stop(); });
+    if (isReachable(m_site, session))
+        device = m_site.device(session.mac);
+    if (device && device->hasFault(Fault::RefusesConnections))
+        return NetError::ConnectFailed;
+    const bool hasAnswer = device && passAnswerTime(stop.get_token(), *device, wait);
+    if (!device)
+        m_site.clock().wait(bounded(wait), stop.get_token());
+    if (call.stop().stop_requested())
+        return NetError::NetworkFailure;
+    if (session.calls.stop_requested())
+        return m_sessions.session(session.handle) ? NetError::Cancelled : NetError::SessionEnded;
+    if (!hasAnswer)
+        return NetError::ConnectTimeout;
+    const SceneAccount *account = accountOf(*device, session.account);
+    if (!account || account->password != session.password)
+        return NetError::SessionEnded;
+    noteRequest(*device);
+    return NetError::None;
+}
+
+bool DemoNetLibrary::passAnswerTime(const std::stop_token &stop, const SceneDevice &device,
                                     std::chrono::milliseconds wait) const
 {
     const std::optional<FaultSetting> slow = device.fault(Fault::SlowAnswers);
     if (!slow)
         return true;
     const std::chrono::milliseconds time(slow->number);
-    return m_site.clock().wait(std::min(time, bounded(wait)), call.stop()) && time <= bounded(wait);
+    return m_site.clock().wait(std::min(time, bounded(wait)), stop) && time <= bounded(wait);
+}
+
+void DemoNetLibrary::noteRequest(const SceneDevice &device)
+{
+    if (device.hasFault(Fault::PasswordChangesAfter))
+        m_site.changeDevice(device.mac,
+                            [](SceneDevice &changed, const DeviceAddresses &) { noteLogin(changed); });
 }
 
 bool DemoNetLibrary::NetQueryConfig(std::int64_t loginHandle, QueryCommand command, std::int32_t channel,

@@ -15,8 +15,11 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
         return m_error.fail(DemoError::NotPrepared);
     const std::optional<SceneDevice> device = m_site.device(mac);
     if (device && !device->isRemote && (fromOtherSegment || !device->inOtherSegment) &&
-        device->isListening(m_site.clock().now()))
-        return passAnswerTime(call, *device, wait) || m_error.fail(NetError::ConnectTimeout);
+        device->isListening(m_site.clock().now())) {
+        if (device->hasFault(Fault::RefusesConnections))
+            return m_error.fail(NetError::ConnectFailed);
+        return passAnswerTime(call.stop(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
+    }
     const bool isFullWait = m_site.clock().wait(bounded(wait), call.stop());
     return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
 }

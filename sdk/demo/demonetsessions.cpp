@@ -60,13 +60,17 @@ std::int64_t DemoNetLibrary::login(const char *operation, QJsonObject decoded, c
         const bool isFullWait = m_site.clock().wait(connectTime, call.stop());
         return fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
     }
-    if (!passAnswerTime(call, *found, connectTime))
+    if (!passAnswerTime(call.stop(), *found, connectTime))
         return fail(NetError::ConnectTimeout);
     const NetError error = m_loginGuard.check(*found, request.account, request.password, request.kind);
     if (error != NetError::None)
         return fail(error);
+    noteRequest(*found);
     device = loginInformation(*found, reached.session.localPort != 0);
-    return m_sessions.open(reached.session);
+    DemoSession session = reached.session;
+    session.account = request.account;
+    session.password = request.password;
+    return m_sessions.open(session);
 }
 
 bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
@@ -86,9 +90,14 @@ bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
     return true;
 }
 
-bool DemoNetLibrary::NetCancelCalls(LLONG)
+bool DemoNetLibrary::NetCancelCalls(LLONG loginHandle)
 {
-    return m_error.fail(NetError::NotSupported);
+    const CallGate::Call call(m_gate);
+    record("NetCancelCalls", {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)}},
+           m_sessions.session(loginHandle).value_or(DemoSession()).mac);
+    if (!call.isAllowed())
+        return m_error.fail(DemoError::NotPrepared);
+    return m_sessions.cancelCalls(loginHandle) || m_error.fail(DemoError::UnknownHandle);
 }
 
 bool DemoNetLibrary::NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait)

@@ -51,6 +51,8 @@ constexpr std::array entries = {
     FaultEntry{Fault::UpgradeTakes, "upgradeTakes", FaultValue::Number},
     FaultEntry{Fault::RefusesUpgradeStop, "refusesUpgradeStop", FaultValue::None},
     FaultEntry{Fault::SlowAnswers, "slowAnswers", FaultValue::Number},
+    FaultEntry{Fault::RefusesConnections, "refusesConnections", FaultValue::None},
+    FaultEntry{Fault::PasswordChangesAfter, "passwordChangesAfter", FaultValue::Number},
     FaultEntry{Fault::HttpLate, "httpLate", FaultValue::Number},
     FaultEntry{Fault::HttpSlow, "httpSlow", FaultValue::Number},
     FaultEntry{Fault::HttpBroken, "httpBroken", FaultValue::None},

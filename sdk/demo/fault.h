@@ -45,6 +45,8 @@ enum class Fault
     UpgradeTakes,          ///< a firmware file takes `number` s to be sent
     RefusesUpgradeStop,    ///< does not stop an upgrade, although nothing is written yet
     SlowAnswers,           ///< logins and requests are answered `number` ms late
+    RefusesConnections,    ///< nothing listens at the device's ports; searches are answered
+    PasswordChangesAfter,  ///< takes a password `number` times, then has other ones
     // Answers over HTTP to a right password:
     HttpLate,         ///< come `number` ms late
     HttpSlow,         ///< come at one byte a second for `number` s

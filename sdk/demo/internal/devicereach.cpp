@@ -20,7 +20,7 @@ DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int l
     const std::optional<SceneDevice> device = site.device(tunnel.mac);
     if (tunnel.isBroken || !device || !device->isListening(site.clock().now()))
         return {};
-    if (tunnel.devicePort != portOf(*device, kind))
+    if (tunnel.devicePort != portOf(*device, kind) || device->hasFault(Fault::RefusesConnections))
         return {DeviceReach::Kind::Refuses};
     return {DeviceReach::Kind::Answers, {tunnel.mac, localPort}};
 }
@@ -46,7 +46,7 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port, Device
     site.visitDevicesAt({wanted}, [&](const SceneDevice &device) {
         if (device.isRemote || !device.isListening(now) || found.kind == DeviceReach::Kind::Answers)
             return;
-        if (port != 0 && portOf(device, kind) == port)
+        if (port != 0 && portOf(device, kind) == port && !device.hasFault(Fault::RefusesConnections))
             found = {DeviceReach::Kind::Answers, {device.mac, 0}};
         else
             found.kind = DeviceReach::Kind::Refuses;

@@ -106,7 +106,7 @@ bool LiveSource::makeDue(std::unique_ptr<LiveProduction> &production, Schedule &
     if (canGoOn && (streams.empty() || makePicture(*production, schedule, *device, streams)))
         return true;
     for (const std::shared_ptr<LiveStream> &stream : sent)
-        stream->end();
+        stream->end(settings ? StreamEndReason::Failed : StreamEndReason::EndedByDevice);
     return false;
 }
 
@@ -132,20 +132,25 @@ LiveSource::Streams LiveSource::servedStreams(const SceneDevice *device) const
     Streams streams = allStreams();
     std::erase_if(streams, [](const std::shared_ptr<LiveStream> &stream) { return !stream->isWatched(); });
     std::erase_if(streams, [this, device](const std::shared_ptr<LiveStream> &stream) {
-        if (device && isServed(*stream, *device))
-            return false;
-        stream->end();
-        return true;
+        const std::optional<StreamEndReason> end = endOf(*stream, device);
+        if (end)
+            stream->end(*end);
+        return end.has_value();
     });
     return streams;
 }
 
-bool LiveSource::isServed(const LiveStream &stream, const SceneDevice &device) const
+std::optional<StreamEndReason> LiveSource::endOf(const LiveStream &stream, const SceneDevice *device) const
 {
     const std::optional<DemoSession> session = m_sessions.session(stream.order().loginHandle);
-    const std::optional<FaultSetting> drop = device.fault(Fault::DropsStreamAfter);
-    return session && isReachable(m_site, *session) && !device.isUninitialised() &&
-           (!drop || stream.pictures() < drop->number);
+    if (!device || !session || !isReachable(m_site, *session))
+        return StreamEndReason::ConnectionLost;
+    if (device->isUninitialised())
+        return StreamEndReason::Refused;
+    const std::optional<FaultSetting> drop = device->fault(Fault::DropsStreamAfter);
+    if (drop && stream.pictures() >= drop->number)
+        return StreamEndReason::EndedByDevice;
+    return std::nullopt;
 }
 
 LiveSource::Streams LiveSource::allStreams() const

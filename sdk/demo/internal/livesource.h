@@ -7,6 +7,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -65,7 +66,9 @@ private:
 
     /// Those that get data or would, without those that the device does not send to any more: they end.
     [[nodiscard]] Streams servedStreams(const SceneDevice *device) const;
-    [[nodiscard]] bool isServed(const LiveStream &stream, const SceneDevice &device) const;
+    /// Why the device does not send to a stream any more; nothing while it does.
+    [[nodiscard]] std::optional<StreamEndReason> endOf(const LiveStream &stream,
+                                                       const SceneDevice *device) const;
     [[nodiscard]] Streams allStreams() const;
 
     DemoSite &m_site;

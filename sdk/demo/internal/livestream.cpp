@@ -50,19 +50,31 @@ void LiveStream::send(const EncodedPackets &packets)
     deliver(m_writer->takeBytes());
 }
 
+void LiveStream::end(StreamEndReason reason)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_hasEnded.exchange(true) && m_handler)
+        call(RealDataType::End, {}, static_cast<std::int64_t>(reason));
+}
+
 void LiveStream::deliver(std::span<const std::uint8_t> bytes)
 {
-    constexpr std::uint32_t streamBytes = 0; // the kind of the data
     while (!bytes.empty()) {
         const std::span<const std::uint8_t> piece = bytes.first(std::min(bytes.size(), largestPiece));
         bytes = bytes.subspan(piece.size());
         const std::lock_guard lock(m_mutex);
         if (!m_handler || m_beginning != m_sentBeginning)
             return;
-        insideHandler = true;
-        m_handler(m_handle, streamBytes, piece.data(), static_cast<std::uint32_t>(piece.size()), 0, m_user);
-        insideHandler = false;
+        call(RealDataType::Stream, piece, 0);
     }
+}
+
+void LiveStream::call(RealDataType type, std::span<const std::uint8_t> bytes, std::int64_t parameter) const
+{
+    insideHandler = true;
+    m_handler(m_handle, static_cast<std::uint32_t>(type), bytes.data(),
+              static_cast<std::uint32_t>(bytes.size()), parameter, m_user);
+    insideHandler = false;
 }
 
 } // namespace sdk::demo

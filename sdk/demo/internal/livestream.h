@@ -48,8 +48,8 @@ public:
     /// Whether the calling thread is inside a handler of any stream of this process.
     [[nodiscard]] static bool isInsideHandler();
 
-    /// The device sends no more. The handle stays until it is closed.
-    void end() { m_hasEnded = true; }
+    /// Nothing is sent any more.
+    void close() { m_hasEnded = true; }
 
     void askForKeyPicture() { m_wantsKeyPicture = true; }
 
@@ -68,8 +68,13 @@ public:
     /// Forgets the beginning that was sent: the next picture begins anew.
     void beginAnew() { m_writer.reset(); }
 
+    /// The device sends no more, which the handler is called with. The handle stays until it is closed.
+    void end(StreamEndReason reason);
+
 private:
     void deliver(std::span<const std::uint8_t> bytes);
+    /// Calls the handler. With the mutex.
+    void call(RealDataType type, std::span<const std::uint8_t> bytes, std::int64_t parameter) const;
 
     const std::int64_t m_handle;
     const LiveStreamOrder m_order;

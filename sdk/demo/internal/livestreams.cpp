@@ -112,7 +112,7 @@ void LiveStreams::closeAll()
 void LiveStreams::close(const Entries &entries)
 {
     for (const auto &[handle, entry] : entries) {
-        entry.stream->end();
+        entry.stream->close();
         entry.stream->setHandler(nullptr, nullptr);
         entry.source->remove(entry.stream);
     }

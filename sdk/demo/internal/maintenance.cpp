@@ -129,4 +129,17 @@ NetError changePassword(SceneDevice &device, const QString &user, const QString 
     return NetError::None;
 }
 
+void noteLogin(SceneDevice &device)
+{
+    const auto change =
+        std::find_if(device.faults.begin(), device.faults.end(), [](const FaultSetting &setting) {
+            return setting.fault == Fault::PasswordChangesAfter;
+        });
+    if (change == device.faults.end() || --change->number > 0)
+        return;
+    device.faults.erase(change);
+    for (SceneAccount &account : device.accounts)
+        account.password += QStringLiteral("-2");
+}
+
 } // namespace sdk::demo

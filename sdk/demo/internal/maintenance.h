@@ -39,4 +39,8 @@ void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int
 [[nodiscard]] NetError changePassword(SceneDevice &device, const QString &user, const QString &oldPassword,
                                       const QString &newPassword);
 
+/// The device has taken a password for a login or a request. With Fault::PasswordChangesAfter this may have
+/// been the last time: from then on its passwords end with "-2".
+void noteLogin(SceneDevice &device);
+
 } // namespace sdk::demo

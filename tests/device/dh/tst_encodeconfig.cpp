@@ -190,7 +190,7 @@ private Q_SLOTS:
         row("refused", Fault::RefusesConfiguration, "", static_cast<int>(sdk::NetError::NotSupported));
         row("no JSON", Fault::OddConfiguration, "", 1);
         row("no capabilities", Fault::RefusesCapabilities, "", 10);
-        row("away", Fault::NoAnswer, "", static_cast<int>(sdk::NetError::NetworkFailure));
+        row("away", Fault::NoAnswer, "", static_cast<int>(sdk::NetError::ConnectTimeout));
         row("number out of range", {}, "70000", 1);
     }
 

@@ -21,12 +21,15 @@ namespace {
 class Watcher
 {
 public:
-    static void handle(std::int64_t, std::uint32_t, const std::uint8_t *data, std::uint32_t size,
-                       std::int64_t /*parameter*/, void *user)
+    static void handle(std::int64_t, std::uint32_t dataType, const std::uint8_t *data, std::uint32_t size,
+                       std::int64_t parameter, void *user)
     {
         auto *watcher = static_cast<Watcher *>(user);
         const std::lock_guard lock(watcher->m_mutex);
-        watcher->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+        if (dataType == static_cast<std::uint32_t>(RealDataType::End))
+            watcher->m_ends.append(static_cast<int>(parameter));
+        else
+            watcher->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     }
 
     [[nodiscard]] QByteArray bytes() const
@@ -35,9 +38,17 @@ public:
         return m_bytes;
     }
 
+    /// The reasons of what was reported as the stream's end.
+    [[nodiscard]] QList<int> ends() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_ends;
+    }
+
 private:
     mutable std::mutex m_mutex;
     QByteArray m_bytes;
+    QList<int> m_ends;
 };
 
 /// A camera whose streams are small, so that they are quickly encoded.
@@ -100,38 +111,44 @@ private Q_SLOTS:
     void streamsEndWithWhatTheyComeFrom_data()
     {
         using End = std::function<void(const StreamSite &)>;
-        const auto row = dataTable<End, bool>({"end", "handleStays"});
+        // reason: 0 for an end that its caller has made
+        const auto row = dataTable<End, bool, int>({"end", "handleStays", "reason"});
+        const auto lost = static_cast<int>(StreamEndReason::ConnectionLost);
+        const auto byDevice = static_cast<int>(StreamEndReason::EndedByDevice);
         const QString mac = smallCamera().mac;
-        const auto faultRow = [&](const char *title, const FaultSetting &fault) {
+        const auto faultRow = [&](const char *title, const FaultSetting &fault, StreamEndReason reason) {
             row(
-                title, [mac, fault](const StreamSite &site) { site.site->setFault(mac, fault); }, true);
+                title, [mac, fault](const StreamSite &site) { site.site->setFault(mac, fault); }, true,
+                static_cast<int>(reason));
         };
-        faultRow("no answer", {Fault::NoAnswer});
-        faultRow("not initialised", {Fault::NotInitialised});
-        faultRow("dropped", {Fault::DropsStreamAfter, 2});
+        faultRow("no answer", {Fault::NoAnswer}, StreamEndReason::ConnectionLost);
+        faultRow("not initialised", {Fault::NotInitialised}, StreamEndReason::Refused);
+        faultRow("dropped", {Fault::DropsStreamAfter, 2}, StreamEndReason::EndedByDevice);
         row(
-            "removal", [mac](const StreamSite &site) { site.site->removeDevice(mac); }, true);
+            "removal", [mac](const StreamSite &site) { site.site->removeDevice(mac); }, true, lost);
         row(
-            "logout", [](const StreamSite &site) { site.net->NetLogout(site.session); }, false);
+            "logout", [](const StreamSite &site) { site.net->NetLogout(site.session); }, false, 0);
         row(
-            "reboot", [](const StreamSite &site) { site.net->NetRebootDevice(site.session, 1s); }, true);
+            "reboot", [](const StreamSite &site) { site.net->NetRebootDevice(site.session, 1s); }, true,
+            lost);
         const auto reset = [](const StreamSite &site) {
             const ResetSystemInput input = {sizeof(input)};
             ResetSystemOutput output = {sizeof(output)};
             site.net->NetResetSystem(site.session, input, output, 1s);
         };
-        row("reset", reset, true);
+        row("reset", reset, true, lost);
         const auto unplug = [mac](const StreamSite &site) {
             site.site->changeDevice(mac,
                                     [](auto &device, const auto &) { device.channels[0].connected = false; });
         };
-        row("unplugged", unplug, true);
+        row("unplugged", unplug, true, byDevice);
     }
 
     void streamsEndWithWhatTheyComeFrom()
     {
         QFETCH(std::function<void(const StreamSite &)>, end);
         QFETCH(bool, handleStays);
+        QFETCH(int, reason);
         const StreamSite site;
         Watcher watcher;
         const std::int64_t handle = site.watch(watcher);
@@ -143,6 +160,7 @@ private Q_SLOTS:
         site.clock->advance(30s);                       // beyond a reboot as well
         QVERIFY(!site.clock->waitForWaiters(1, 100ms)); // nothing runs any more
         QCOMPARE(watcher.bytes(), before);
+        QCOMPARE(watcher.ends(), reason == 0 ? QList<int>() : QList<int>{reason});
         QCOMPARE(site.net->NetStopRealStream(handle), handleStays);
         QVERIFY(!site.net->NetStopRealStream(handle));
     }
