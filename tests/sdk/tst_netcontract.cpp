@@ -1,0 +1,435 @@
+// What every provider of the network library does. Runs on the demo site, and in the network of a simulated
+// site (scripts/lab) on devices that are asked by open standards.
+#include "sdk/blocktext.h"
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
+#include "sdk/onvif/onvifnetlibrary.h"
+#include "tests/datatable.h"
+#include "tests/sdk/netoperations.h"
+
+#include <QTemporaryFile>
+
+#include <algorithm>
+#include <atomic>
+#include <future>
+#include <mutex>
+
+using namespace sdk;
+using namespace std::chrono_literals;
+
+namespace {
+
+const char *const good = "192.168.1.10";
+const char *const slow = "192.168.1.11";
+const char *const refusing = "192.168.1.12";
+const char *const changingPassword = "192.168.1.13";
+const char *const dropping = "192.168.1.14";
+const char *const leaving = "192.168.1.15";
+const char *const nobody = "192.168.1.99";
+
+constexpr auto slowness = 600ms; // of the slow device
+constexpr auto usualWait = 5000ms;
+
+QString nameOf(std::uint32_t error)
+{
+    return QString::number(error, 16);
+}
+
+QString nameOf(NetError error)
+{
+    return nameOf(static_cast<std::uint32_t>(error));
+}
+
+/// Counts the answers of a search.
+struct SearchCounter
+{
+    static void take(std::int64_t, const SearchAnswer *, void *user)
+    {
+        auto *counter = static_cast<SearchCounter *>(user);
+        ++counter->count;
+        if (counter->hasEnded)
+            ++counter->late;
+    }
+
+    std::atomic<int> count = 0;
+    std::atomic<int> late = 0; ///< after the end
+    std::atomic<bool> hasEnded = false;
+};
+
+/// What a stream has delivered.
+class StreamWatcher
+{
+public:
+    static void take(std::int64_t, std::uint32_t type, const std::uint8_t *data, std::uint32_t size,
+                     std::int64_t parameter, void *user)
+    {
+        auto *watcher = static_cast<StreamWatcher *>(user);
+        const std::scoped_lock lock(watcher->m_mutex);
+        watcher->m_calls += 1;
+        watcher->m_isAfterEnd = watcher->m_isAfterEnd || !watcher->m_ends.isEmpty();
+        if (static_cast<RealDataType>(type) == RealDataType::End)
+            watcher->m_ends.append(static_cast<int>(parameter));
+        else if (watcher->m_begin.size() < 4)
+            watcher->m_begin.append(reinterpret_cast<const char *>(data), std::min<qsizetype>(size, 4));
+    }
+
+    [[nodiscard]] int calls() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_calls;
+    }
+    [[nodiscard]] QByteArray begin() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_begin;
+    }
+    [[nodiscard]] QList<int> ends() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_ends;
+    }
+    [[nodiscard]] bool isAfterEnd() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_isAfterEnd;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    int m_calls = 0;
+    QByteArray m_begin;
+    QList<int> m_ends;
+    bool m_isAfterEnd = false;
+};
+
+} // namespace
+
+class NetContractTest : public QObject
+{
+    Q_OBJECT
+private:
+    std::shared_ptr<demo::DemoSite> m_site; ///< null on real sockets
+    std::shared_ptr<NetLibrary> m_net;
+    QTemporaryFile m_firmware;
+    QList<NetOperation> m_operations;
+
+    LLONG login(const char *address, const char *account = "admin", const char *password = "Contract-1")
+    {
+        LoginSecureInput input{};
+        input.size = sizeof(input);
+        input.port = 80;
+        setBlockText(input.address, address);
+        setBlockText(input.account, account);
+        setBlockText(input.password, password);
+        LoginSecureOutput output{};
+        output.size = sizeof(output);
+        const LLONG session = m_net->NetLoginSecure(input, output);
+        return session > 0 || output.error == m_net->NetGetLastError() ? session : -1;
+    }
+
+    /// The outcome of an operation: its error, "done" for none.
+    QString outcome(const NetOperation &operation, LLONG session, std::chrono::milliseconds wait)
+    {
+        return operation.run(*m_net, session, wait) ? QString("done") : nameOf(m_net->NetGetLastError());
+    }
+
+    /// The outcomes of all operations that are not `expected`, with the names of the operations.
+    QStringList otherOutcomes(LLONG session, std::chrono::milliseconds wait, const QString &expected)
+    {
+        QStringList others;
+        for (const NetOperation &operation : std::as_const(m_operations)) {
+            const QString seen = outcome(operation, session, wait);
+            if (seen != expected)
+                others.append(QString("%1: %2").arg(operation.name, seen));
+        }
+        return others;
+    }
+
+    /// Runs an operation on another thread.
+    std::future<QString> begin(const char *name, LLONG session)
+    {
+        const auto operation =
+            std::find_if(m_operations.begin(), m_operations.end(),
+                         [name](const NetOperation &known) { return qstrcmp(known.name, name) == 0; });
+        return std::async(std::launch::async, [this, chosen = *operation, session] {
+            return outcome(chosen, session, usualWait);
+        });
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (qEnvironmentVariableIsSet("CONFIGTOOLS_CONTRACT_ON_SOCKETS")) {
+            m_net = std::make_shared<onvif::OnvifNetLibrary>();
+        } else {
+            QString error;
+            m_site = demo::DemoSite::open(SCENE, std::make_shared<SystemClock>(), &error);
+            QVERIFY2(m_site, qPrintable(error));
+            m_net = m_site->libraries().net;
+        }
+        QVERIFY(m_firmware.open());
+        m_firmware.write("BRELM-FIRMWARE 1\nmodel=X\nversion=9\n\n");
+        m_firmware.flush();
+        m_operations = netOperations(m_firmware.fileName().toLocal8Bit());
+    }
+
+    void init() { QVERIFY(m_net->NetInit()); }
+    void cleanup() { m_net->NetCleanup(); }
+
+    void worksFromInitToCleanup()
+    {
+        const LLONG session = login(good);
+        QVERIFY(session > 0);
+        m_net->NetCleanup();
+        SearchCounter counter;
+        const SearchParameter parameter = {
+            .size = sizeof(parameter), .reserved = 0, .handler = &SearchCounter::take, .user = &counter};
+        QCOMPARE(m_net->NetStartSearchDevices(parameter, 4ms), 0);
+        QVERIFY(login(good) < 1);
+        for (const NetOperation &operation : std::as_const(m_operations))
+            QVERIFY2(!operation.run(*m_net, session, usualWait), operation.name);
+        QVERIFY(m_net->NetInit());
+        QVERIFY(!m_net->NetIsDeviceAlive(session, usualWait)); // it has ended
+        QVERIFY(login(good) > 0);
+    }
+
+    void logsIn_data()
+    {
+        const auto row = dataTable<QByteArray, QByteArray, QByteArray, QStringList>(
+            {"address", "account", "password", "errors"});
+        const QStringList wrong = {nameOf(NetError::WrongPassword), nameOf(NetError::WrongPasswordSecure),
+                                   nameOf(NetError::NoSuchAccount)};
+        row("right", good, "admin", "Contract-1", {"done"});
+        row("wrong password", good, "admin", "Contract-9", wrong);
+        row("unknown account", good, "someone", "Contract-1", wrong);
+        row("nobody", nobody, "admin", "Contract-1", {nameOf(NetError::ConnectTimeout)});
+        row("refused", refusing, "admin", "Contract-1", {nameOf(NetError::ConnectFailed)});
+    }
+
+    void logsIn()
+    {
+        QFETCH(const QByteArray, address);
+        QFETCH(const QByteArray, account);
+        QFETCH(const QByteArray, password);
+        QFETCH(const QStringList, errors);
+        const LLONG session = login(address.constData(), account.constData(), password.constData());
+        const QString seen = session > 0 ? QString("done") : nameOf(m_net->NetGetLastError());
+        QVERIFY2(errors.contains(seen) && session >= 0, qPrintable(seen));
+        QCOMPARE(m_net->NetLogout(session), session > 0);
+        QVERIFY(!m_net->NetLogout(session));
+    }
+
+    void refusesHandlesThatAreNone()
+    {
+        const LLONG session = login(good);
+        QVERIFY(m_net->NetLogout(session));
+        for (const LLONG none : {LLONG(0), LLONG(-1), session}) {
+            for (const NetOperation &operation : std::as_const(m_operations))
+                QVERIFY2(!operation.run(*m_net, none, usualWait), operation.name);
+            QVERIFY(!m_net->NetLogout(none) && !m_net->NetCancelCalls(none));
+            QVERIFY(!m_net->NetStopRealStream(none) && !m_net->NetStreamFollowUp(none, 0, 0));
+            QVERIFY(!m_net->NetSetRealDataCallback(none, nullptr, nullptr, 1));
+            QVERIFY(!m_net->NetStopUpgrade(none) && !m_net->NetStopSearchDevices(none));
+            QVERIFY(m_net->NetGetLastError() != 0);
+        }
+    }
+
+    void namesWhatIsNotSupported()
+    {
+        const LLONG session = login(good);
+        std::array<char, 1000> block{};
+        std::uint32_t returned = 0;
+        std::int32_t error = 0;
+        const QString expected = nameOf(NetError::NotSupported);
+        QVERIFY(!m_net->NetQueryConfig(session, static_cast<QueryCommand>(9999), 0, block.data(),
+                                       block.size(), returned, usualWait));
+        QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
+        QVERIFY(
+            !m_net->NetGetNewConfig(session, "Nothing", -1, block.data(), block.size(), error, usualWait));
+        QCOMPARE(nameOf(static_cast<std::uint32_t>(error)), expected);
+        QVERIFY(!m_net->NetGetItem(session, 9999, 0, block.data(), block.size(), usualWait));
+        QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
+        QVERIFY(!m_net->NetSetDeviceSetting(session, static_cast<DeviceSetting>(9999), -1, block.data(),
+                                            block.size(), usualWait));
+        QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
+        QCOMPARE(m_net->NetStartRealStream(session, 7, 0, LiveStreamKind::Main), 0);
+        QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
+    }
+
+    void servesTwoThreadsOnOneSession()
+    {
+        const LLONG session = login(good);
+        QVERIFY(session > 0);
+        const auto readAll = [this, session] {
+            QStringList failures;
+            for (const NetOperation &operation : std::as_const(m_operations)) {
+                const QString seen = operation.isHarmless ? outcome(operation, session, usualWait) : "done";
+                if (seen != "done")
+                    failures.append(QString("%1: %2").arg(operation.name, seen));
+            }
+            return failures;
+        };
+        auto other = std::async(std::launch::async, readAll);
+        QCOMPARE(readAll().join(", "), QString());
+        QCOMPARE(other.get().join(", "), QString());
+    }
+
+    void aSlowAnswerIsAwaitedForItsTime()
+    {
+        const LLONG session = login(slow);
+        QVERIFY(session > 0);
+        QVERIFY(!m_net->NetIsDeviceAlive(session, slowness / 3));
+        QCOMPARE(nameOf(m_net->NetGetLastError()), nameOf(NetError::ConnectTimeout));
+        QVERIFY(m_net->NetIsDeviceAlive(session, usualWait));
+    }
+
+    void callsAreCancelled_data()
+    {
+        const auto row = dataTable<QByteArray>({"operation"});
+        for (const char *operation : {"alive", "attributes", "network", "capabilities of encoders", "stream"})
+            row(operation, operation);
+    }
+
+    void callsAreCancelled()
+    {
+        QFETCH(const QByteArray, operation);
+        const LLONG session = login(slow);
+        QVERIFY(session > 0);
+        std::future<QString> call = begin(operation.constData(), session);
+        QElapsedTimer timer;
+        timer.start();
+        do {
+            QVERIFY(m_net->NetCancelCalls(session)); // again, since the call may not have begun
+        } while (call.wait_for(5ms) != std::future_status::ready);
+        QVERIFY2(timer.elapsed() < slowness.count() / 2, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(call.get(), nameOf(NetError::Cancelled));
+        QVERIFY(m_net->NetIsDeviceAlive(session, usualWait));
+    }
+
+    void aLogoutEndsCalls()
+    {
+        const LLONG session = login(slow);
+        QVERIFY(session > 0);
+        std::future<QString> call = begin("attributes", session);
+        QVERIFY(m_net->NetLogout(session));
+        QVERIFY(call.wait_for(slowness / 2) == std::future_status::ready);
+        QVERIFY(call.get() != "done");
+    }
+
+    void aCleanupEndsCalls()
+    {
+        const LLONG session = login(slow);
+        QVERIFY(session > 0);
+        std::future<QString> call = begin("attributes", session);
+        m_net->NetCleanup();
+        QVERIFY(call.wait_for(slowness / 2) == std::future_status::ready);
+        QVERIFY(call.get() != "done");
+    }
+
+    void aDeviceThatIsOfflineIsNamedByEveryOperation()
+    {
+        const LLONG session = login(leaving);
+        QVERIFY(session > 0 && m_net->NetIsDeviceAlive(session, usualWait));
+        QVERIFY(m_net->NetRebootDevice(session, usualWait));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_net->NetIsDeviceAlive(session, 500ms), 20000);
+        const QString offline = nameOf(NetError::ConnectTimeout);
+        QCOMPARE(otherOutcomes(session, 300ms, offline).join(", "), QString());
+
+        InitDeviceAccountInput first{};
+        first.size = sizeof(first);
+        first.port = 80;
+        setBlockText(first.mac, "02:1a:c5:00:0c:99");
+        setBlockText(first.address, nobody);
+        setBlockText(first.account, "admin");
+        setBlockText(first.password, "Contract-1");
+        DeviceRequestOutput output = {.size = sizeof(output)};
+        QVERIFY(!m_net->NetInitDeviceAccount(first, output, 300ms, ""));
+        QCOMPARE(nameOf(m_net->NetGetLastError()), offline);
+        ModifyDeviceInput change{};
+        change.size = sizeof(change);
+        change.device.ipVersion = 4;
+        change.device.port = 80;
+        setBlockText(change.device.mac, "02:1a:c5:00:0c:99");
+        setBlockText(change.device.currentAddress, nobody);
+        setBlockText(change.device.address, "192.168.1.98");
+        setBlockText(change.device.subnetMask, "255.255.255.0");
+        QVERIFY(!m_net->NetModifyDeviceBySearch(change, output, 300ms));
+        QCOMPARE(nameOf(m_net->NetGetLastError()), offline);
+    }
+
+    void anotherPasswordEndsTheSession()
+    {
+        const LLONG session = login(changingPassword);
+        QVERIFY(session > 0);
+        QTRY_VERIFY(!m_net->NetIsDeviceAlive(session, usualWait));
+        QCOMPARE(otherOutcomes(session, usualWait, nameOf(NetError::SessionEnded)).join(", "), QString());
+        QVERIFY(m_net->NetLogout(session));
+        QVERIFY(login(changingPassword, "admin", "Contract-1-2") > 0);
+    }
+
+    void streamsFromItsBeginToItsStop()
+    {
+        const LLONG session = login(good);
+        const std::int64_t stream = m_net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
+        QVERIFY(stream > 0);
+        StreamWatcher watcher;
+        QVERIFY(m_net->NetSetRealDataCallback(stream, &StreamWatcher::take, &watcher, 1));
+        QVERIFY(m_net->NetStreamFollowUp(stream, 0, 0));
+        QTRY_VERIFY_WITH_TIMEOUT(watcher.calls() > 5, 20000);
+        QCOMPARE(watcher.begin(), QByteArray("\x1a\x45\xdf\xa3")); // the container's
+        QVERIFY(m_net->NetStopRealStream(stream));
+        const int calls = watcher.calls();
+        QVERIFY(!m_net->NetStopRealStream(stream));
+        QVERIFY(m_net->NetIsDeviceAlive(session, usualWait));
+        QCOMPARE(watcher.calls(), calls);
+        QCOMPARE(watcher.ends(), QList<int>());
+    }
+
+    void saysWhyAStreamHasEnded()
+    {
+        const LLONG session = login(dropping);
+        const std::int64_t stream = m_net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
+        QVERIFY(stream > 0);
+        StreamWatcher watcher;
+        QVERIFY(m_net->NetSetRealDataCallback(stream, &StreamWatcher::take, &watcher, 1));
+        QTRY_COMPARE_WITH_TIMEOUT(watcher.ends(), QList{static_cast<int>(StreamEndReason::EndedByDevice)},
+                                  20000);
+        QVERIFY(m_net->NetIsDeviceAlive(session, usualWait));
+        QVERIFY(watcher.calls() > 1 && !watcher.isAfterEnd());
+        QVERIFY(m_net->NetStopRealStream(stream)); // its handle stays until then
+        QCOMPARE(watcher.ends().size(), 1);
+    }
+
+    void noAnswerComesAfterASearch()
+    {
+        SearchCounter first;
+        SearchCounter second;
+        const auto start = [this](SearchCounter &counter) {
+            const SearchParameter parameter = {
+                .size = sizeof(parameter), .reserved = 0, .handler = &SearchCounter::take, .user = &counter};
+            return m_net->NetStartSearchDevices(parameter, 4ms);
+        };
+        const std::int64_t search = start(first);
+        QVERIFY(search > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(first.count > 0, 10000);
+        QVERIFY(m_net->NetStopSearchDevices(search));
+        first.hasEnded = true;
+        QVERIFY(start(second) > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(second.count > 0, 10000);
+        m_net->NetCleanup();
+        second.hasEnded = true;
+
+        SearchCounter single;
+        SearchByAddressesRequest request{};
+        request.size = sizeof(request);
+        request.count = 1;
+        setBlockText(request.addresses[0], good);
+        QVERIFY(m_net->NetInit());
+        m_net->NetSearchDeviceByIp(request, &SearchCounter::take, &single, 3000ms);
+        QCOMPARE(single.count.load(), 1);
+        QCOMPARE(first.late + second.late, 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(NetContractTest)
+#include "tst_netcontract.moc"
