@@ -1,0 +1,26 @@
+// Why closed libraries cannot be bound.
+#pragma once
+
+#include <string>
+
+namespace sdk::binding {
+
+struct BindingProblem
+{
+    enum class Kind
+    {
+        FileUnreadable,  ///< `file` is the binding file
+        LineUnusable,    ///< `name` is the line of the binding file that is neither a section nor an entry
+        SectionMissing,  ///< `name` is the section
+        FunctionMissing, ///< the section of the library `file` does not list the function `name`
+        FunctionUnknown, ///< the section of the library `file` lists `name`, which is none of its functions
+        LibraryUnusable, ///< the library `file` is missing or cannot be loaded; `name` is the system's reason
+        EntryMissing,    ///< the library `file` has no entry `name`
+    };
+
+    Kind kind = Kind::FileUnreadable;
+    std::string file = {};
+    std::string name = {};
+};
+
+} // namespace sdk::binding

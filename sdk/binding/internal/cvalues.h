@@ -1,0 +1,26 @@
+// Values as the C functions of entrypoints.h take them.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+namespace sdk::binding {
+
+/// Longer times are cut.
+[[nodiscard]] inline std::int32_t cValue(std::chrono::milliseconds time)
+{
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(time.count(), 0, std::numeric_limits<std::int32_t>::max()));
+}
+
+template<typename Enumeration>
+requires std::is_enum_v<Enumeration>
+[[nodiscard]] constexpr auto cValue(Enumeration value)
+{
+    return static_cast<std::underlying_type_t<Enumeration>>(value);
+}
+
+} // namespace sdk::binding

@@ -1,0 +1,43 @@
+// Binding files for the library of fakelibrary.cpp.
+#pragma once
+
+#include "sdk/binding/entrypoints.h"
+
+#include <fstream>
+#include <functional>
+#include <map>
+#include <string>
+
+/// Entries that do more than to note their call.
+inline const std::map<std::string, std::string> &livelyEntries()
+{
+    static const std::map<std::string, std::string> entries = {{"NetLoginSecure", "echoLogin"},
+                                                               {"NetIsDeviceAlive", "echoWait"},
+                                                               {"ConfigParseData", "echoText"},
+                                                               {"DecoderAllocPort", "thirdPort"},
+                                                               {"OAgent_ClientAddPort", "nextPort"}};
+    return entries;
+}
+
+/// The text of a binding file. `entryOf` gives the name or the ordinal of a function's entry.
+inline std::string bindingText(const std::string &library,
+                               const std::function<std::string(const std::string &function)> &entryOf)
+{
+    using namespace sdk::binding;
+    std::string text = "# every role in one library\n";
+    const auto add = [&](const char *section, const std::vector<EntryPoint> &functions) {
+        text += "\n[" + std::string(section) + "]\nfile = " + library + "\n";
+        for (const EntryPoint &function : functions)
+            text += std::string(function.name) + " = " + entryOf(function.name) + "\n";
+    };
+    add("network", NetworkEntryPoints().all());
+    add("configuration", ConfigurationEntryPoints().all());
+    add("decoder", DecoderEntryPoints().all());
+    add("agent", AgentEntryPoints().all());
+    return text;
+}
+
+inline void writeText(const std::string &fileName, const std::string &text)
+{
+    std::ofstream(fileName, std::ios::binary) << text;
+}
