@@ -108,12 +108,20 @@ void CDHDecoder::decodeCallback(std::int32_t /*port*/, const std::uint8_t *data,
         static_cast<CDHDecoder *>(user)->handOn(data, size, *information);
 }
 
-void CDHDecoder::realDataCallback(std::int64_t /*streamHandle*/, std::uint32_t /*dataType*/,
-                                  const std::uint8_t *data, std::uint32_t size, std::int64_t /*parameter*/,
-                                  void *user)
+void CDHDecoder::realDataCallback(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
+                                  std::uint32_t size, std::int64_t parameter, void *user)
 {
-    if (user)
-        static_cast<CDHDecoder *>(user)->inputData(data, size);
+    auto *decoder = static_cast<CDHDecoder *>(user);
+    if (!decoder)
+        return;
+    switch (static_cast<sdk::RealDataType>(dataType)) {
+    case sdk::RealDataType::Stream:
+        decoder->inputData(data, size);
+        break;
+    case sdk::RealDataType::End:
+        Q_EMIT decoder->streamEnded(streamHandle, static_cast<sdk::StreamEndReason>(parameter));
+        break;
+    }
 }
 
 void CDHDecoder::handOn(const std::uint8_t *data, std::int32_t size,

@@ -65,6 +65,10 @@ public:
     static void realDataCallback(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
                                  std::uint32_t size, std::int64_t parameter, void *user);
 
+Q_SIGNALS:
+    /// A stream has ended by itself. On a thread of the network library.
+    void streamEnded(qint64 streamHandle, sdk::StreamEndReason reason);
+
 private:
     static constexpr std::int32_t noPort = -1;
 

@@ -46,6 +46,7 @@ VideoItem::VideoItem(QQuickItem *parent)
     connect(this, &VideoItem::sigAudioDataChanged, this, &VideoItem::onSigAudioDataChanged,
             Qt::QueuedConnection);
     connect(this, &VideoItem::sigSampleRateChanged, this, &VideoItem::onAudioFormatChanged);
+    connect(m_decoder.get(), &CDHDecoder::streamEnded, this, &VideoItem::noteEnd, Qt::QueuedConnection);
     setMirrorVertically(true); // OpenGL's lines go upward
     m_watchTimer.setInterval(watchInterval);
     connect(&m_watchTimer, &QTimer::timeout, this, &VideoItem::watch);
@@ -128,6 +129,31 @@ bool VideoItem::failToOpen(const char *reason)
     setText(tr("播放失败"));
     qCDebug(logMedia) << reason;
     return false;
+}
+
+void VideoItem::noteEnd(qint64 streamHandle, sdk::StreamEndReason reason)
+{
+    if (streamHandle == m_streamHandle) // else it was replaced since
+        setText(endText(reason));
+}
+
+QString VideoItem::endText(sdk::StreamEndReason reason)
+{
+    switch (reason) {
+    case sdk::StreamEndReason::ConnectionLost:
+        return tr("与设备的连接已中断");
+    case sdk::StreamEndReason::EndedByDevice:
+        return tr("设备结束了视频流");
+    case sdk::StreamEndReason::NoFrames:
+        return tr("设备没有发送可显示的画面");
+    case sdk::StreamEndReason::Refused:
+        return tr("设备不再接受登录");
+    case sdk::StreamEndReason::Malformed:
+        return tr("设备发送的数据不是视频流");
+    case sdk::StreamEndReason::Failed:
+        break;
+    }
+    return tr("本机无法处理视频流");
 }
 
 void VideoItem::stop()

@@ -82,7 +82,7 @@ public:
     /// Free for the scene.
     [[nodiscard]] QString url() const { return m_url; }
     void setUrl(const QString &url);
-    /// What there is to say to the user: that the last start failed, or nothing.
+    /// What there is to say to the user: that the last start failed, why the stream has ended, or nothing.
     [[nodiscard]] QString text() const { return m_text; }
     /// Which stream of the channel the next start() shows.
     [[nodiscard]] StreamKind streamKind() const { return m_streamKind; }
@@ -169,6 +169,8 @@ private:
     bool prepare();
     bool take(std::int64_t streamHandle);
     bool failToOpen(const char *reason);
+    [[nodiscard]] static QString endText(sdk::StreamEndReason reason);
+    void noteEnd(qint64 streamHandle, sdk::StreamEndReason reason);
     void closeStream();
     void watch();
     void tellPictureSize();

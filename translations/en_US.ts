@@ -5205,6 +5205,30 @@ File path: </translation>
         <translation>Playback failed</translation>
     </message>
     <message>
+        <source>与设备的连接已中断</source>
+        <translation>The connection to the device was lost</translation>
+    </message>
+    <message>
+        <source>设备结束了视频流</source>
+        <translation>The device has ended the stream</translation>
+    </message>
+    <message>
+        <source>设备没有发送可显示的画面</source>
+        <translation>The device sends no picture that can be shown</translation>
+    </message>
+    <message>
+        <source>设备不再接受登录</source>
+        <translation>The device no longer accepts the login</translation>
+    </message>
+    <message>
+        <source>设备发送的数据不是视频流</source>
+        <translation>What the device sends is no video stream</translation>
+    </message>
+    <message>
+        <source>本机无法处理视频流</source>
+        <translation>This computer cannot process the stream</translation>
+    </message>
+    <message>
         <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
         <translation>The picture cannot be shown: files in the folder Shaders are missing or unusable</translation>
     </message>

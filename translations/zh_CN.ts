@@ -5149,6 +5149,30 @@
         <translation>播放失败</translation>
     </message>
     <message>
+        <source>与设备的连接已中断</source>
+        <translation>与设备的连接已中断</translation>
+    </message>
+    <message>
+        <source>设备结束了视频流</source>
+        <translation>设备结束了视频流</translation>
+    </message>
+    <message>
+        <source>设备没有发送可显示的画面</source>
+        <translation>设备没有发送可显示的画面</translation>
+    </message>
+    <message>
+        <source>设备不再接受登录</source>
+        <translation>设备不再接受登录</translation>
+    </message>
+    <message>
+        <source>设备发送的数据不是视频流</source>
+        <translation>设备发送的数据不是视频流</translation>
+    </message>
+    <message>
+        <source>本机无法处理视频流</source>
+        <translation>本机无法处理视频流</translation>
+    </message>
+    <message>
         <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
         <translation>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</translation>
     </message>

@@ -182,6 +182,12 @@ public:
         return m_handler != nullptr;
     }
 
+    void endStream(sdk::StreamEndReason reason)
+    {
+        const std::lock_guard lock(m_handlerMutex);
+        m_handler(stream, std::uint32_t(sdk::RealDataType::End), nullptr, 0, std::int64_t(reason), m_user);
+    }
+
 private:
     LibraryCalls &m_calls;
     std::mutex m_handlerMutex;

@@ -195,6 +195,25 @@ private Q_SLOTS:
         QCOMPARE(m_fake->calls.take(), streamStopped + decoderStopped);
     }
 
+    /// Whether the item tries again is the scene's affair.
+    void saysWhyAStreamHasEnded()
+    {
+        QVERIFY(m_item->start());
+        QSignalSpy failures(m_item.get(), &VideoItem::videoErrorSig);
+        onAnotherThread([this] { m_fake->net->endStream(sdk::StreamEndReason::EndedByDevice); });
+        QTRY_COMPARE(m_item->text(), QString("设备结束了视频流"));
+        QVERIFY(m_item->isStreaming());
+        QCOMPARE(failures.size(), 0);
+        m_item->stop();
+        QCOMPARE(m_item->text(), QString("设备结束了视频流"));
+
+        QVERIFY(m_item->start()); // a good start takes it back
+        onAnotherThread([this] { m_fake->net->endStream(sdk::StreamEndReason::Refused); });
+        m_item->stop(); // before the item has heard of it
+        QCoreApplication::processEvents();
+        QCOMPARE(m_item->text(), QString());
+    }
+
     void tellsThePicture()
     {
         QSignalSpy info(m_item.get(), &VideoItem::videoInfoChangedSig);
