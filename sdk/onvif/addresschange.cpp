@@ -31,8 +31,11 @@ bool answersAt(OnvifSession &session, const std::string &address, SoapClient::De
         const auto information = device.information();
         if (information.isOk())
             return information.value.serialNumber == session.information().serialNumber;
-        if (information.error == NetError::SessionEnded)
-            return false; // another device, which does not know the account
+        // Another device, which does not know the account, or has not the key of this one.
+        if (information.error == NetError::SessionEnded ||
+            information.error == NetError::UnknownCertificate ||
+            information.error == NetError::ChangedCertificate)
+            return false;
         std::this_thread::sleep_for(pause);
     }
     return false;

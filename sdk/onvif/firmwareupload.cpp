@@ -26,6 +26,10 @@ NetError errorOf(const HttpAnswer &answer)
 {
     if (answer.end == HttpEnd::NotReached || answer.end == HttpEnd::NoAnswer)
         return NetError::ConnectTimeout;
+    if (answer.end == HttpEnd::UnknownCertificate)
+        return NetError::UnknownCertificate;
+    if (answer.end == HttpEnd::ChangedCertificate)
+        return NetError::ChangedCertificate;
     if (answer.end != HttpEnd::Answered)
         return NetError::NetworkFailure;
     if (answer.status >= 200 && answer.status < 300)
@@ -47,9 +51,9 @@ public:
     };
 
     FirmwareTransfer(LLONG loginHandle, FirmwareUpload upload, HttpLogin login, std::string fileName,
-                     Receiver receiver)
+                     Receiver receiver, std::shared_ptr<const CertificateDecision> decision)
         : m_loginHandle(loginHandle), m_upload(std::move(upload)), m_login(std::move(login)),
-          m_fileName(std::move(fileName)), m_receiver(receiver)
+          m_fileName(std::move(fileName)), m_receiver(receiver), m_http(std::move(decision))
     {
         m_thread = std::jthread([this](const std::stop_token &stop) { run(stop); });
     }
@@ -128,7 +132,10 @@ private:
     std::jthread m_thread; ///< last: it uses the rest
 };
 
-FirmwareUploads::FirmwareUploads() = default;
+FirmwareUploads::FirmwareUploads(std::shared_ptr<const CertificateDecision> decision)
+    : m_decision(std::move(decision))
+{
+}
 
 FirmwareUploads::~FirmwareUploads()
 {
@@ -151,9 +158,10 @@ std::int64_t FirmwareUploads::open(LLONG loginHandle, const FirmwareUpload &uplo
     const std::int64_t handle = ++m_lastHandle;
     try {
         m_transfers.emplace(
-            handle, std::make_shared<FirmwareTransfer>(
-                        loginHandle, upload, login, fileName,
-                        FirmwareTransfer::Receiver{.handle = handle, .handler = handler, .user = user}));
+            handle,
+            std::make_shared<FirmwareTransfer>(
+                loginHandle, upload, login, fileName,
+                FirmwareTransfer::Receiver{.handle = handle, .handler = handler, .user = user}, m_decision));
     } catch (const std::system_error &) {
         return 0;
     }

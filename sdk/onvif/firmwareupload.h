@@ -1,6 +1,7 @@
 // The sending of firmware files to devices.
 #pragma once
 
+#include "sdk/certificates/certificatedecision.h"
 #include "sdk/loginblocks.h"
 #include "sdk/onvif/services/deviceservice.h"
 #include "sdk/upgradeblocks.h"
@@ -22,7 +23,7 @@ class FirmwareTransfer;
 class FirmwareUploads
 {
 public:
-    FirmwareUploads();
+    explicit FirmwareUploads(std::shared_ptr<const CertificateDecision> decision);
     ~FirmwareUploads();
 
     [[nodiscard]] static bool isReadable(const std::string &fileName);
@@ -39,6 +40,7 @@ public:
     void closeAll();
 
 private:
+    const std::shared_ptr<const CertificateDecision> m_decision;
     std::mutex m_mutex;
     std::int64_t m_lastHandle = 0;
     std::map<std::int64_t, std::shared_ptr<FirmwareTransfer>> m_transfers;

@@ -18,7 +18,7 @@ OnvifNetLibrary::~OnvifNetLibrary()
 bool OnvifNetLibrary::NetInit()
 {
     if (!m_discovery)
-        m_discovery = std::make_unique<DeviceDiscovery>();
+        m_discovery = std::make_unique<DeviceDiscovery>(m_certificates);
     m_gate.open();
     return true;
 }
@@ -59,7 +59,10 @@ void OnvifNetLibrary::NetGetProviderInformation(ProviderInformation &information
                    .reserved = 0};
 }
 
-void OnvifNetLibrary::NetSetCertificateHandler(CertificateHandler, void *) {}
+void OnvifNetLibrary::NetSetCertificateHandler(CertificateHandler handler, void *user)
+{
+    m_certificates->setHandler(handler, user);
+}
 
 bool OnvifNetLibrary::NetGetSearchReport(SearchReport &)
 {

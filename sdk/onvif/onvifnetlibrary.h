@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/callgate.h"
+#include "sdk/certificates/certificatedecision.h"
 #include "sdk/netlibrary.h"
 #include "sdk/onvif/discovery/devicediscovery.h"
 #include "sdk/onvif/firmwareupload.h"
@@ -108,6 +109,7 @@ private:
     bool searchByAddresses(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
                            std::chrono::milliseconds wait);
 
+    const std::shared_ptr<CertificateDecision> m_certificates = std::make_shared<CertificateDecision>();
     CallGate m_gate;
     ThreadError m_error;
     std::unique_ptr<DeviceDiscovery> m_discovery; ///< from NetInit to NetCleanup
@@ -117,7 +119,7 @@ private:
     LLONG m_lastHandle = 0;
 
     LiveStreams m_streams;
-    FirmwareUploads m_uploads;
+    FirmwareUploads m_uploads{m_certificates};
     QThreadPool m_keyPictureRequests;
 };
 

@@ -75,7 +75,7 @@ bool OnvifNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, 
     const CallGate::Call call(m_gate);
     if (!call.isAllowed() || input.size != sizeof(input) || output.size != sizeof(output))
         return m_error.fail(NetError::InvalidValue);
-    const auto http = std::make_shared<HttpClient>();
+    const auto http = std::make_shared<HttpClient>(m_certificates);
     const std::stop_callback cancelOnCleanup(call.stop(), [http] { http->cancel(); });
     const NetError error =
         giveFirstPassword(m_discovery->serviceAt(std::string(blockText(input.address)), input.port), http,
@@ -92,7 +92,7 @@ bool OnvifNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, De
     if (!call.isAllowed() || input.size != sizeof(input) || output.size != sizeof(output))
         return m_error.fail(NetError::InvalidValue);
     const SearchDeviceInformation &device = input.device;
-    const auto http = std::make_shared<HttpClient>();
+    const auto http = std::make_shared<HttpClient>(m_certificates);
     const std::stop_callback cancelOnCleanup(call.stop(), [http] { http->cancel(); });
     const AddressOrder order = {.address = std::string(blockText(device.address)),
                                 .mask = std::string(blockText(device.subnetMask)),

@@ -67,7 +67,7 @@ LLONG OnvifNetLibrary::login(const ServiceAddress &service, const HttpLogin &log
         return 0;
     }
     NetError error = NetError::None;
-    const auto http = std::make_shared<HttpClient>();
+    const auto http = std::make_shared<HttpClient>(m_certificates);
     const std::stop_callback cancelOnCleanup(call.stop(), [http] { http->cancel(); });
     std::shared_ptr<OnvifSession> session =
         OnvifSession::open(service, login, http, deadlineAfter(loginWait), error);

@@ -28,7 +28,8 @@ std::string keyOf(const std::string &address, int port)
 
 } // namespace
 
-DeviceDiscovery::DeviceDiscovery() : m_http(std::make_shared<HttpClient>())
+DeviceDiscovery::DeviceDiscovery(std::shared_ptr<const CertificateDecision> decision)
+    : m_http(std::make_shared<HttpClient>(std::move(decision)))
 {
     m_inspections.setMaxThreadCount(inspectionsAtOnce);
 }
@@ -220,7 +221,10 @@ ServiceAddress DeviceDiscovery::serviceAt(const std::string &address, int port) 
     ServiceAddress service;
     service.host = address;
     service.port = port;
-    service.isSecure = port == httpsPort;
+    service.isSecure = isHttpsPort(port);
+    const auto atAddress = m_services.lower_bound(address + ' ');
+    if (atAddress != m_services.end() && atAddress->second.host == address)
+        service.identity = atAddress->second.identity;
     return service;
 }
 

@@ -18,6 +18,10 @@
 #include <thread>
 #include <vector>
 
+namespace sdk {
+class CertificateDecision;
+}
+
 namespace sdk::onvif {
 
 class HttpClient;
@@ -30,7 +34,8 @@ class HttpClient;
 class DeviceDiscovery
 {
 public:
-    DeviceDiscovery();
+    /// `decision` is asked for the certificates of devices that are asked over HTTPS.
+    explicit DeviceDiscovery(std::shared_ptr<const CertificateDecision> decision);
     ~DeviceDiscovery();
     DeviceDiscovery(const DeviceDiscovery &) = delete;
     DeviceDiscovery &operator=(const DeviceDiscovery &) = delete;
@@ -47,7 +52,8 @@ public:
     void searchAddresses(const std::vector<std::string> &addresses, SearchAnswerHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
-    /// The device service that a search has found at an address and port; else the standard's path there.
+    /// The device service that a search has found at an address and port. At another port it has the
+    /// standard's path, and the identity of a device that was found at the address.
     [[nodiscard]] ServiceAddress serviceAt(const std::string &address, int port) const;
 
     /// A device has got another address: its service is found there from now on.

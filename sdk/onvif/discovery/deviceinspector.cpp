@@ -39,15 +39,20 @@ std::string macOfNeighbour(const std::string &address)
     return entry == table.end() ? std::string() : entry->second;
 }
 
-} // namespace
+/// The address is in the table at the latest when the device has been asked.
+void noteNeighbour(FoundDevice &device)
+{
+    if (device.mac.empty())
+        device.mac = macOfNeighbour(device.address);
+    device.service.identity = identityOf(device);
+}
 
-bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
-                   std::chrono::milliseconds wait)
+bool askOpenly(FoundDevice &device, const std::shared_ptr<HttpClient> &http, std::chrono::milliseconds wait)
 {
     SoapClient client(HttpLogin{}, http);
     DeviceService service(client, device.service, std::chrono::steady_clock::now() + wait);
     const ServiceResult<std::vector<DeviceUser>> users = service.usersOpenly();
-    device.mac = macOfNeighbour(device.address);
+    noteNeighbour(device);
     switch (users.error) {
     case NetError::None:
         // Some devices answer this one request to anybody, with all their users or with none.
@@ -62,6 +67,17 @@ bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
     default:
         return false;
     }
+}
+
+} // namespace
+
+bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
+                   std::chrono::milliseconds wait)
+{
+    noteNeighbour(device);
+    const bool hasAnswered = askOpenly(device, http, wait);
+    device.service.identity = identityOf(device);
+    return hasAnswered;
 }
 
 } // namespace sdk::onvif

@@ -11,15 +11,23 @@ namespace sdk::onvif {
 
 ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address)
 {
-    for (const ServiceAddress &service : announcement.services) {
-        if (service.host == address)
-            return service;
+    for (const bool isSecure : {false, true}) {
+        for (const ServiceAddress &service : announcement.services) {
+            if (service.host == address && service.isSecure == isSecure)
+                return service;
+        }
     }
     ServiceAddress service;
     if (!announcement.services.empty())
         service = announcement.services.front();
     service.host = address;
     return service;
+}
+
+std::string identityOf(const FoundDevice &device)
+{
+    const std::string &mac = device.mac.empty() ? device.announcement.mac : device.mac;
+    return mac.empty() ? device.announcement.uuid : mac;
 }
 
 SearchAnswer searchAnswerOf(const FoundDevice &device)

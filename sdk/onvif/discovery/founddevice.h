@@ -27,9 +27,13 @@ struct FoundDevice
     bool dhcp = false;
 };
 
-/// The device service of an announcement that came from `address`: the one that names this address, else the
-/// first one's port and path at this address. Never another host: a message can name any.
+/// The device service of an announcement that came from `address`: the one that names this address, one over
+/// HTTP before one over HTTPS, else the first one's port and path at this address. Never another host: a
+/// message can name any.
 [[nodiscard]] ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address);
+
+/// The MAC, else the UUID; empty if neither is known.
+[[nodiscard]] std::string identityOf(const FoundDevice &device);
 
 /// The answer as the library delivers it.
 [[nodiscard]] SearchAnswer searchAnswerOf(const FoundDevice &device);

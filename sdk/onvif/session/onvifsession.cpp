@@ -83,7 +83,8 @@ NetError OnvifSession::logIn(Deadline deadline)
     if (clock.isOk() && clock.value.utc)
         m_client->setClockOffset(clockOffset(*clock.value.utc));
     else if (clock.error == NetError::ConnectTimeout || clock.error == NetError::ConnectFailed ||
-             clock.error == NetError::NetworkFailure)
+             clock.error == NetError::NetworkFailure || clock.error == NetError::UnknownCertificate ||
+             clock.error == NetError::ChangedCertificate)
         return clock.error;
     ServiceResult<DeviceInformation> information = service.information();
     if (!information.isOk())

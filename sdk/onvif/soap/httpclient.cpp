@@ -1,5 +1,6 @@
 #include "sdk/onvif/soap/httpclient.h"
 
+#include "sdk/certificates/certificatecheck.h"
 #include "sdk/onvif/soap/runningcall.h"
 
 #include <curl/curl.h>
@@ -9,6 +10,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
+#include <utility>
 
 namespace sdk::onvif {
 
@@ -166,7 +169,7 @@ struct HttpClient::Exchange
     }
 };
 
-HttpClient::HttpClient()
+HttpClient::HttpClient(std::shared_ptr<const CertificateDecision> decision) : m_decision(std::move(decision))
 {
     // Once for the process, and safe to repeat; it must have happened before handles are made by threads.
     static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
@@ -297,6 +300,12 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
         connection.set(CURLOPT_XFERINFOFUNCTION, &Exchange::takeProgress);
         connection.set(CURLOPT_XFERINFODATA, static_cast<void *>(&exchange));
     }
+    std::optional<CertificateCheck> check;
+    if (address.isSecure) {
+        check.emplace(m_decision.get(),
+                      TlsPeer{.address = address.host, .port = address.port, .identity = address.identity});
+        check->attachTo(connection.easy.get());
+    }
     const CURLcode code = connection.run(m_isCancelled);
     curl_off_t connectTime = 0;
     curl_easy_getinfo(connection.easy.get(), CURLINFO_CONNECT_TIME_T, &connectTime);
@@ -304,6 +313,9 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
     long systemError = 0;
     curl_easy_getinfo(connection.easy.get(), CURLINFO_OS_ERRNO, &systemError);
     exchange.answer.end = endOf(code, connectTime > 0, systemError);
+    if (check && check->refusal())
+        exchange.answer.end = check->refusal() == CertificateVerdict::Changed ? HttpEnd::ChangedCertificate
+                                                                              : HttpEnd::UnknownCertificate;
     return std::move(exchange.answer);
 }
 

@@ -1,6 +1,7 @@
 // Requests to a device over HTTP, with connections that are kept.
 #pragma once
 
+#include "sdk/certificates/certificatedecision.h"
 #include "sdk/onvif/soap/serviceaddress.h"
 
 #include <atomic>
@@ -25,6 +26,8 @@ enum class HttpEnd
     TooLarge,    ///< the answer exceeds HttpClient::largestAnswer
     Broken,      ///< the connection ended early, or what came is no HTTP
     Cancelled,
+    UnknownCertificate, ///< over HTTPS: nobody has agreed to the key of the certificate; nothing was sent
+    ChangedCertificate, ///< the same for a device of which another key is stored
 };
 
 struct HttpAnswer
@@ -48,7 +51,8 @@ class HttpClient
 public:
     static constexpr std::size_t largestAnswer = std::size_t(4) * 1024 * 1024;
 
-    HttpClient();
+    /// `decision` is asked for the certificates of HTTPS; without one all are refused.
+    explicit HttpClient(std::shared_ptr<const CertificateDecision> decision = {});
     ~HttpClient();
     HttpClient(const HttpClient &) = delete;
     HttpClient &operator=(const HttpClient &) = delete;
@@ -87,6 +91,7 @@ private:
                                       const std::function<void(std::int64_t)> &progress,
                                       std::chrono::steady_clock::time_point deadline);
 
+    const std::shared_ptr<const CertificateDecision> m_decision;
     std::atomic_bool m_isCancelled = false;
     std::mutex m_mutex; ///< of the idle connections
     std::vector<std::unique_ptr<Connection>> m_idle;

@@ -99,6 +99,11 @@ std::optional<ServiceAddress> serviceAt(const ServiceAddress &reached, std::stri
         address->port = reached.port;
         address->isSecure = reached.isSecure;
     }
+    if (reached.isSecure && !address->isSecure) {
+        address->port = reached.port;
+        address->isSecure = true;
+    }
+    address->identity = reached.identity;
     return address;
 }
 

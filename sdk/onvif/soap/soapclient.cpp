@@ -88,6 +88,10 @@ NetError errorOfEnd(HttpEnd end)
         return NetError::NetworkFailure;
     case HttpEnd::TooLarge:
         return NetError::ProtocolMismatch;
+    case HttpEnd::UnknownCertificate:
+        return NetError::UnknownCertificate;
+    case HttpEnd::ChangedCertificate:
+        return NetError::ChangedCertificate;
     }
     return NetError::NetworkFailure;
 }

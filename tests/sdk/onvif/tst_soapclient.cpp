@@ -1,6 +1,7 @@
 // Calls to servers that answer oddly or not at all, and what is sent of a password.
 #include "sdk/onvif/soap/soapclient.h"
 #include "tests/cgi/rawserver.h"
+#include "tests/cgi/tlsserver.h"
 #include "tests/datatable.h"
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,27 @@ ServiceAddress addressOf(const RawServer &server)
     return address;
 }
 
+/// Agrees to one key, which it is shown first.
+struct AgreedKey
+{
+    sdk::CertificateVerdict first = sdk::CertificateVerdict::Trusted;
+    std::optional<sdk::DeviceCertificate> shown = {};
+
+    static sdk::CertificateVerdict handle(const sdk::DeviceCertificate *certificate, void *user)
+    {
+        auto *self = static_cast<AgreedKey *>(user);
+        if (!self->shown) {
+            self->shown = *certificate;
+            return self->first;
+        }
+        return certificate->fingerprint == self->shown->fingerprint ? sdk::CertificateVerdict::Trusted
+                                                                    : sdk::CertificateVerdict::Changed;
+    }
+};
+
+const QByteArray wholeAnswer = "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(answerText.size()) +
+                               "\r\nConnection: close\r\n\r\n" + answerText;
+
 } // namespace
 
 class SoapClientTest : public QObject
@@ -113,6 +135,46 @@ private Q_SLOTS:
         for (const QByteArray &request : server.requests())
             withPassword += request.contains("Authorization: Digest") ? 1 : 0;
         QCOMPARE(withPassword, 1);
+    }
+
+    void nothingIsSentToAnotherKey_data()
+    {
+        const auto row = dataTable<bool, int, quint32>({"hasHandler", "first", "error"});
+        row("nobody decides", false, 0, static_cast<quint32>(sdk::NetError::UnknownCertificate));
+        row("unknown", true, int(sdk::CertificateVerdict::Unknown),
+            static_cast<quint32>(sdk::NetError::UnknownCertificate));
+        row("trusted, then changed", true, int(sdk::CertificateVerdict::Trusted), 0);
+    }
+
+    void nothingIsSentToAnotherKey()
+    {
+        QFETCH(const bool, hasHandler);
+        QFETCH(const int, first);
+        QFETCH(const quint32, error);
+        TlsServer server(wholeAnswer);
+        const auto decision = std::make_shared<sdk::CertificateDecision>();
+        AgreedKey key{.first = sdk::CertificateVerdict(first)};
+        if (hasHandler)
+            decision->setHandler(&AgreedKey::handle, &key);
+        SoapClient client({.account = "a", .password = "b"}, std::make_shared<HttpClient>(decision));
+        const ServiceAddress address = {
+            .isSecure = true, .host = "127.0.0.1", .port = server.port(), .identity = "02:1a:c5:00:40:25"};
+        const auto call = [&] {
+            const auto deadline = std::chrono::steady_clock::now() + 5s;
+            return static_cast<quint32>(client.call(address, SoapRequest("tds:GetUsers"), deadline).error);
+        };
+        QCOMPARE(call(), error);
+        QCOMPARE(server.requests().size(), error == 0 ? 1 : 0);
+        if (!hasHandler || error != 0)
+            return;
+        QCOMPARE(key.shown->address.data(), "127.0.0.1");
+        QCOMPARE(key.shown->port, server.port());
+        QCOMPARE(key.shown->identity.data(), "02:1a:c5:00:40:25");
+        QCOMPARE(key.shown->subject.data(), "first");
+        QCOMPARE(call(), 0U);
+        server.renewKey();
+        QCOMPARE(call(), static_cast<quint32>(sdk::NetError::ChangedCertificate));
+        QCOMPARE(server.requests().size(), 2);
     }
 
     void aCallIsCancelled()

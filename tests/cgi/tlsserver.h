@@ -1,0 +1,93 @@
+// A server on a loopback port that speaks TLS with a key that it made itself, and notes its requests.
+#pragma once
+
+#include "site/http/encryption.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <array>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+/// Answers each request of one connection after another with the same bytes, on a thread of its own.
+class TlsServer
+{
+public:
+    explicit TlsServer(QByteArray answer) : m_answer(std::move(answer))
+    {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof(address);
+        bind(m_listener, reinterpret_cast<const sockaddr *>(&address), length);
+        listen(m_listener, 16);
+        getsockname(m_listener, reinterpret_cast<sockaddr *>(&address), &length);
+        m_port = ntohs(address.sin_port);
+        m_thread = std::thread([this] { serve(); });
+    }
+    ~TlsServer()
+    {
+        shutdown(m_listener, SHUT_RDWR);
+        m_thread.join();
+        close(m_listener);
+    }
+    TlsServer(const TlsServer &) = delete;
+    TlsServer &operator=(const TlsServer &) = delete;
+
+    [[nodiscard]] int port() const { return m_port; }
+
+    /// The next connections get another key.
+    void renewKey()
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_key = site::DeviceKey::make("renewed");
+    }
+
+    /// The requests that have come through a completed handshake.
+    [[nodiscard]] QList<QByteArray> requests() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_requests;
+    }
+
+private:
+    void serve()
+    {
+        for (int socket = accept(m_listener, nullptr, nullptr); socket >= 0;
+             socket = accept(m_listener, nullptr, nullptr)) {
+            std::shared_ptr<const site::DeviceKey> key;
+            {
+                const std::scoped_lock lock(m_mutex);
+                key = m_key;
+            }
+            site::EncryptedStream stream(socket, key);
+            std::array<char, 65536> bytes{};
+            if (stream.accept()) {
+                const ssize_t count = stream.receive(bytes.data(), bytes.size(), std::chrono::seconds(10));
+                if (count > 0) {
+                    {
+                        const std::scoped_lock lock(m_mutex);
+                        m_requests.append(QByteArray(bytes.data(), count));
+                    }
+                    (void)stream.send(m_answer.constData(), static_cast<std::size_t>(m_answer.size()));
+                }
+                stream.finishSending();
+            }
+            close(socket);
+        }
+    }
+
+    const QByteArray m_answer;
+    const int m_listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    int m_port = 0;
+    mutable std::mutex m_mutex; ///< of what follows
+    std::shared_ptr<const site::DeviceKey> m_key = site::DeviceKey::make("first");
+    QList<QByteArray> m_requests;
+    std::thread m_thread;
+};
