@@ -75,6 +75,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
             line.help = true;
         } else if (argument == u"--list") {
             line.lists = true;
+        } else if (argument == u"--new-keys") {
+            line.options.newKeys = true;
         } else if (!options.contains(name)) {
             line.error = u"unknown argument \"%1\""_s.arg(argument);
         } else {
@@ -102,6 +104,7 @@ QString CommandLine::usage()
            "  --record FOLDER    keep every message of a service as a file\n"
            "  --login KIND       token, digest or both for all devices, instead of each in its manner\n"
            "  --digest KIND      md5, sha256 or both, the same\n"
+           "  --new-keys         devices make another key for HTTPS each time they start\n"
            "  --help             print this text and end\n"_s;
 }
 

@@ -13,6 +13,7 @@ namespace site {
 namespace {
 
 constexpr int httpPort = 80;
+constexpr int httpsPort = 443;
 
 QString scope(const QString &path)
 {
@@ -29,6 +30,12 @@ QString encoded(const std::string &text)
 int servicePortOf(const sdk::demo::SceneDevice &device)
 {
     return device.httpPort == 0 ? httpPort : device.httpPort;
+}
+
+int httpsPortOf(const sdk::demo::SceneDevice &device)
+{
+    const QJsonObject https = device.configuration.value(u"Https").toObject();
+    return https.value(u"enabled").toBool() ? https.value(u"port").toInt(httpsPort) : 0;
 }
 
 QString endpointOf(const sdk::demo::SceneDevice &device)
@@ -49,10 +56,12 @@ QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &m
     return scopes;
 }
 
-QString serviceRoot(const QString &address, int port)
+QString serviceRoot(const QString &address, int port, bool isSecure)
 {
     const QString host = address.contains(u':') ? u'[' + address + u']' : address;
-    return u"http://"_s + host + (port == httpPort ? QString() : u":%1"_s.arg(port));
+    const int usualPort = isSecure ? httpsPort : httpPort;
+    return (isSecure ? u"https://"_s : u"http://"_s) + host +
+           (port == usualPort ? QString() : u":%1"_s.arg(port));
 }
 
 DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device, const DeviceManner &manner,

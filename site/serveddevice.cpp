@@ -31,7 +31,8 @@ ServedDevice::Shape ServedDevice::shapeOf(const sdk::demo::SceneDevice &device)
     const bool isUnset = device.address == QLatin1String("0.0.0.0");
     return {{isUnset ? QString() : device.address, prefixLengthOf(device.mask), device.ipv6,
              device.ipv6PrefixLength},
-            servicePortOf(device)};
+            servicePortOf(device),
+            httpsPortOf(device)};
 }
 
 void ServedDevice::follow(const sdk::demo::SceneDevice &device, std::int64_t now)
@@ -68,6 +69,8 @@ void ServedDevice::appear(const Shape &shape)
         return;
     }
     listen(m_httpListener, shape.httpPort, [this](int listener) { m_parts.http.accept(listener, m_mac); });
+    if (shape.httpsPort != 0)
+        listenEncrypted(shape.httpsPort);
     listen(m_rtspListener, rtspPort, [this](int listener) { m_rtsp.accept(listener); });
     m_discovery =
         std::make_unique<DiscoveryPort>(m_parts.site, m_parts.poller, m_parts.options, m_mac, *m_interface);
@@ -76,6 +79,17 @@ void ServedDevice::appear(const Shape &shape)
     else
         qCWarning(siteLog, "%ls cannot be found: port %d is taken", qUtf16Printable(m_mac),
                   DiscoveryPort::port);
+}
+
+void ServedDevice::listenEncrypted(int port)
+{
+    if (!m_key || m_parts.options.newKeys)
+        m_key = DeviceKey::make(m_mac.toStdString());
+    if (m_key)
+        listen(m_httpsListener, port,
+               [this, key = m_key](int listener) { m_parts.http.accept(listener, m_mac, key); });
+    else
+        qCWarning(siteLog, "%ls has no key for HTTPS", qUtf16Printable(m_mac));
 }
 
 void ServedDevice::listen(FileDescriptor &listener, int port, std::function<void(int listener)> accept)
@@ -102,6 +116,7 @@ void ServedDevice::disappear()
     m_shape.reset();
     m_discovery.reset();
     stopListening(m_httpListener);
+    stopListening(m_httpsListener);
     stopListening(m_rtspListener);
     m_interface->bringDown();
     m_parts.http.closeAllOf(m_mac);

@@ -12,6 +12,7 @@
 
 namespace site {
 
+class DeviceKey;
 class HttpServer;
 class Poller;
 
@@ -49,11 +50,13 @@ private:
     {
         DeviceNetwork network;
         int httpPort = 0;
+        int httpsPort = 0; // 0 for none
         bool operator==(const Shape &) const = default;
     };
     [[nodiscard]] static Shape shapeOf(const sdk::demo::SceneDevice &device);
 
     void appear(const Shape &shape);
+    void listenEncrypted(int port);
     void listen(FileDescriptor &listener, int port, std::function<void(int listener)> accept);
     void stopListening(FileDescriptor &listener);
     void disappear();
@@ -67,6 +70,8 @@ private:
     std::unique_ptr<DiscoveryPort> m_discovery;
     RtspPort m_rtsp;
     FileDescriptor m_httpListener;
+    FileDescriptor m_httpsListener;
+    std::shared_ptr<const DeviceKey> m_key; // from the first start with HTTPS on
     FileDescriptor m_rtspListener;
 };
 

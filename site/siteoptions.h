@@ -12,6 +12,7 @@ struct SiteOptions
     LoginChoice login = LoginChoice::ByDevice;
     DigestChoice digest = DigestChoice::ByDevice;
     QString recordFolder; ///< for every message of a service; empty for none
+    bool newKeys = false; ///< a device makes another key for HTTPS each time it comes to the network
 
     [[nodiscard]] DeviceManner mannerOf(const sdk::demo::SceneDevice &device) const
     {

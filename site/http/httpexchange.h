@@ -17,6 +17,7 @@ struct HttpReceiver
     QString mac;               ///< the device
     QString address;           ///< of the device, that the client has connected to
     int port = 0;              ///< of the device
+    bool isSecure = false;     ///< over TLS
     std::stop_token stop = {}; ///< of the connection: who waits ends then
 };
 

@@ -6,16 +6,25 @@
 #include <algorithm>
 #include <system_error>
 
+#include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <sys/socket.h>
 
 namespace site {
+
+namespace {
+
+/// For a client that reads nothing, or says nothing in a handshake: how long a piece may wait.
+constexpr timeval patience = {15, 0};
+
+} // namespace
 
 HttpServer::~HttpServer()
 {
     close([](const Connection &) { return true; });
 }
 
-void HttpServer::accept(int listener, const QString &mac)
+void HttpServer::accept(int listener, const QString &mac, const std::shared_ptr<const DeviceKey> &key)
 {
     FileDescriptor socket(accept4(listener, nullptr, nullptr, SOCK_CLOEXEC));
     if (!socket.isOpen())
@@ -28,7 +37,7 @@ void HttpServer::accept(int listener, const QString &mac)
                       [&mac](const Connection &connection) { return connection.receiver.mac == mac; });
     if (count >= mostConnectionsOfDevice)
         return;
-    m_connections.push_back({std::move(socket), {mac, own.address, own.port, {}}});
+    m_connections.push_back({std::move(socket), {mac, own.address, own.port, key != nullptr, {}}, key});
     Connection &connection = m_connections.back();
     connection.receiver.stop = connection.stop.get_token();
     try {
@@ -40,9 +49,21 @@ void HttpServer::accept(int listener, const QString &mac)
 
 void HttpServer::serve(Connection &connection)
 {
-    ServerConnection(m_service, m_clock, connection.socket.number(), connection.receiver).serve();
+    const int socket = connection.socket.number();
+    const int on = 1;
+    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof(patience));
+    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
+    setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+    if (connection.key) {
+        EncryptedStream stream(socket, connection.key);
+        if (stream.accept())
+            ServerConnection(m_service, m_clock, stream, connection.receiver).serve();
+    } else {
+        PlainStream stream(socket);
+        ServerConnection(m_service, m_clock, stream, connection.receiver).serve();
+    }
     const std::lock_guard lock(m_mutex);
-    shutdown(connection.socket.number(), SHUT_RDWR);
+    shutdown(socket, SHUT_RDWR);
     connection.isOver = true;
 }
 

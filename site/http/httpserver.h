@@ -1,6 +1,7 @@
 // The connections to the web services of all devices.
 #pragma once
 
+#include "site/http/encryption.h"
 #include "site/http/httpexchange.h"
 #include "site/network/filedescriptor.h"
 
@@ -28,8 +29,9 @@ public:
     HttpServer(const HttpServer &) = delete;
     HttpServer &operator=(const HttpServer &) = delete;
 
-    /// Accepts the connection that waits at `listener`, which belongs to the device.
-    void accept(int listener, const QString &mac);
+    /// Accepts the connection that waits at `listener`, which belongs to the device. With `key` it is one
+    /// over TLS.
+    void accept(int listener, const QString &mac, const std::shared_ptr<const DeviceKey> &key = {});
 
     /// Ends the connections to the device, in the middle of an answer too, and waits for their threads.
     void closeAllOf(const QString &mac);
@@ -39,6 +41,7 @@ private:
     {
         FileDescriptor socket;
         HttpReceiver receiver;
+        std::shared_ptr<const DeviceKey> key; // null for a plain one
         std::stop_source stop = {};
         bool isOver = false; // its thread returns at once
         std::thread thread = {};

@@ -4,12 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-
-#include <netinet/in.h>
-#include <netinet/tcp.h>
-#include <poll.h>
-#include <sys/socket.h>
 
 using namespace sdk::demo;
 using namespace std::chrono_literals;
@@ -18,9 +12,6 @@ namespace site {
 
 namespace {
 
-/// For a client that reads nothing: how long a piece of an answer may wait.
-constexpr timeval sendTime = {15, 0};
-
 HttpReply plainReply(HttpStatus status)
 {
     return HttpReply::line(status, QString::fromLatin1(reasonPhrase(status)));
@@ -28,12 +19,10 @@ HttpReply plainReply(HttpStatus status)
 
 } // namespace
 
-ServerConnection::ServerConnection(HttpService &service, sdk::Clock &clock, int socket, HttpReceiver receiver)
-    : m_service(service), m_clock(clock), m_socket(socket), m_receiver(std::move(receiver))
+ServerConnection::ServerConnection(HttpService &service, sdk::Clock &clock, ByteStream &stream,
+                                   HttpReceiver receiver)
+    : m_service(service), m_clock(clock), m_stream(stream), m_receiver(std::move(receiver))
 {
-    const int on = 1;
-    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &sendTime, sizeof(sendTime));
-    setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
 }
 
 void ServerConnection::serve()
@@ -112,12 +101,9 @@ HttpStatus ServerConnection::receiveBody(const HttpRequest &head, QByteArray &bo
 
 bool ServerConnection::receiveMore(std::chrono::milliseconds patience)
 {
-    pollfd watched = {m_socket, POLLIN, 0};
-    if (poll(&watched, 1, static_cast<int>(patience.count())) <= 0)
-        return false;
     constexpr std::size_t pieceSize = std::size_t{64} * 1024;
     std::array<char, pieceSize> piece;
-    const ssize_t count = recv(m_socket, piece.data(), piece.size(), 0);
+    const ssize_t count = m_stream.receive(piece.data(), piece.size(), patience);
     if (count <= 0)
         return false;
     m_received.append(piece.data(), count);
@@ -155,10 +141,7 @@ bool ServerConnection::sendBody(const HttpReply &reply) const
 bool ServerConnection::send(QByteArrayView bytes) const
 {
     while (!bytes.isEmpty()) {
-        const ssize_t count =
-            ::send(m_socket, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
-        if (count < 0 && errno == EINTR)
-            continue;
+        const ssize_t count = m_stream.send(bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (count <= 0)
             return false;
         bytes = bytes.sliced(count);
@@ -168,7 +151,7 @@ bool ServerConnection::send(QByteArrayView bytes) const
 
 void ServerConnection::linger()
 {
-    shutdown(m_socket, SHUT_WR);
+    m_stream.finishSending();
     constexpr qsizetype most = qsizetype{1024} * 1024;
     qsizetype taken = 0;
     do {

@@ -1,6 +1,7 @@
 // One connection to a device's web service.
 #pragma once
 
+#include "site/http/bytestream.h"
 #include "site/http/httpexchange.h"
 
 #include <chrono>
@@ -13,7 +14,7 @@ namespace site {
 
 /// Answers the requests of a connection, one after another, on the calling thread. It ends with the client,
 /// with a request that is none, after a time without one, and soon after a stop together with
-/// shutdown(socket).
+/// shutdown() of its socket.
 class ServerConnection
 {
 public:
@@ -24,8 +25,8 @@ public:
     static constexpr qsizetype longestKeptBody = qsizetype{128} * 1024;
     static constexpr qint64 longestBody = qint64{512} * 1024 * 1024;
 
-    /// `socket` is a connected one; the caller closes it.
-    ServerConnection(HttpService &service, sdk::Clock &clock, int socket, HttpReceiver receiver);
+    /// All but the receiver must outlive the connection.
+    ServerConnection(HttpService &service, sdk::Clock &clock, ByteStream &stream, HttpReceiver receiver);
 
     void serve();
 
@@ -44,7 +45,7 @@ private:
 
     HttpService &m_service;
     sdk::Clock &m_clock;
-    const int m_socket;
+    ByteStream &m_stream;
     const HttpReceiver m_receiver;
     QByteArray m_received; // and not yet used
 };

@@ -212,6 +212,8 @@ ServiceResult getNetworkProtocols(ServiceCall &call)
         element.add("tt:Port", port);
     };
     add("HTTP", servicePortOf(call.device));
+    if (const int httpsPort = httpsPortOf(call.device); httpsPort != 0)
+        add("HTTPS", httpsPort);
     add("RTSP", rtspPort);
     return std::nullopt;
 }

@@ -33,9 +33,9 @@ HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &hea
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     if (!device || device->httpPort == 0)
         return HttpReply::line(HttpStatus::NotFound, u"The device has no web page"_s);
-    // The site's own web service finds the device by its address, as a proxy does.
+    // The site's own web service finds the device by its address and its plain port, as a proxy does.
     HttpRequest request = head;
-    request.target = serviceRoot(receiver.address, receiver.port).toLatin1() + head.target;
+    request.target = serviceRoot(receiver.address, servicePortOf(*device)).toLatin1() + head.target;
     return m_context.site.httpResponder().answer(HttpResponder::proxy, request);
 }
 

@@ -6,7 +6,7 @@ namespace site {
 
 QString ServiceCall::root() const
 {
-    return serviceRoot(receiver.address, receiver.port);
+    return serviceRoot(receiver.address, receiver.port, receiver.isSecure);
 }
 
 sdk::NetError
