@@ -7,7 +7,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     fuzz::beQuiet();
     const std::string_view datagram(reinterpret_cast<const char *>(data), size);
     const std::string address = "192.0.2.7";
-    const auto announcements = sdk::onvif::readAnnouncements(datagram);
+    const auto announcements = sdk::onvif::readDiscoveryMessage(datagram).announcements;
     if (announcements.size() > sdk::onvif::maximumMatches)
         qFatal("more devices than the limit");
     for (const sdk::onvif::DeviceAnnouncement &announcement : announcements) {

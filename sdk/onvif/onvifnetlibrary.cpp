@@ -64,9 +64,13 @@ void OnvifNetLibrary::NetSetCertificateHandler(CertificateHandler handler, void 
     m_certificates->setHandler(handler, user);
 }
 
-bool OnvifNetLibrary::NetGetSearchReport(SearchReport &)
+bool OnvifNetLibrary::NetGetSearchReport(SearchReport &report)
 {
-    return m_error.fail(NetError::NotSupported);
+    const CallGate::Call call(m_gate);
+    if (!call.isAllowed() || report.size != sizeof(report))
+        return m_error.fail(NetError::InvalidValue);
+    m_discovery->fillReport(report);
+    return true;
 }
 
 std::int64_t OnvifNetLibrary::NetStartSearchDevices(const SearchParameter &parameter,

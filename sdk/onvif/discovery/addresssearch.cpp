@@ -1,6 +1,7 @@
 #include "sdk/onvif/discovery/addresssearch.h"
 
 #include "sdk/onvif/discovery/deviceinspector.h"
+#include "sdk/onvif/discovery/searchcounters.h"
 #include "sdk/onvif/soap/httpclient.h"
 
 #include <poll.h>
@@ -87,9 +88,10 @@ std::vector<std::string> acceptingAddresses(const std::vector<std::string> &addr
 
 } // namespace
 
-AddressSearch::AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter,
+AddressSearch::AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, SearchCounters &counters,
                              const std::atomic_bool &isCancelled)
-    : m_http(std::move(http)), m_reporter(std::move(reporter)), m_isCancelled(isCancelled)
+    : m_http(std::move(http)), m_reporter(std::move(reporter)), m_counters(counters),
+      m_isCancelled(isCancelled)
 {
     m_inspections.setMaxThreadCount(inspectionsAtOnce);
 }
@@ -113,7 +115,11 @@ void AddressSearch::probe(const std::vector<std::string> &addresses, Time end)
     const std::string message = probeMessage(ProbeKind::Transmitters);
     for (const std::string &address : addresses) {
         const std::optional<SocketAddress> target = socketAddress(address, discoveryPort);
-        if (target && sockets.sendTo(message, *target))
+        if (!target)
+            continue;
+        const int error = sockets.sendTo(message, *target);
+        m_counters.noteAskedAddress(error);
+        if (error == 0)
             asked.insert(addressText(*target));
     }
     const Time probeEnd = std::min(end, steady_clock::now() + probeTime);
@@ -125,7 +131,8 @@ void AddressSearch::probe(const std::vector<std::string> &addresses, Time end)
             // Messages of other devices arrive here as well.
             if (!asked.contains(address) || m_answered.contains(address))
                 return;
-            for (DeviceAnnouncement &announcement : readAnnouncements(datagram)) {
+            DiscoveryMessage content = readDiscoveryMessage(datagram);
+            for (DeviceAnnouncement &announcement : content.announcements) {
                 if (announcement.isLeaving)
                     continue;
                 m_answered.insert(address);
@@ -162,6 +169,7 @@ void AddressSearch::inspect(FoundDevice device, bool mustAnswer, Time end)
     const bool hasAnswered = inspectDevice(device, m_http, milliseconds(millisecondsUntil(end)));
     if (m_isCancelled || (mustAnswer && !hasAnswered))
         return;
+    m_counters.noteAnsweredAddress();
     const std::scoped_lock lock(m_mutex);
     m_reporter(device);
 }

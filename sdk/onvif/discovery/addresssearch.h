@@ -18,6 +18,7 @@
 namespace sdk::onvif {
 
 class HttpClient;
+class SearchCounters;
 
 /// One search: a probe to each address, then a request over HTTP where none was answered.
 class AddressSearch
@@ -26,8 +27,9 @@ public:
     /// Called on any thread, one call at a time.
     using Reporter = std::function<void(const FoundDevice &device)>;
 
-    /// `isCancelled` must outlive the search.
-    AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, const std::atomic_bool &isCancelled);
+    /// `counters` and `isCancelled` must outlive the search.
+    AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, SearchCounters &counters,
+                  const std::atomic_bool &isCancelled);
 
     /// Blocks until every address was asked in both ways, `wait` has passed or the search is cancelled. Each
     /// address is reported at most once.
@@ -42,6 +44,7 @@ private:
 
     const std::shared_ptr<HttpClient> m_http;
     const Reporter m_reporter;
+    SearchCounters &m_counters;
     const std::atomic_bool &m_isCancelled;
     QThreadPool m_inspections;
     std::set<std::string> m_answered; ///< by probe; of the searching thread

@@ -1,5 +1,6 @@
 #include "sdk/onvif/discovery/devicediscovery.h"
 
+#include "sdk/blocktext.h"
 #include "sdk/onvif/discovery/addresssearch.h"
 #include "sdk/onvif/discovery/deviceinspector.h"
 #include "sdk/onvif/soap/httpclient.h"
@@ -24,6 +25,16 @@ constexpr auto repetitionDelay = 150ms;
 std::string keyOf(const std::string &address, int port)
 {
     return address + ' ' + std::to_string(port);
+}
+
+/// Why the announcement alone is no reason to report a device; nothing if it is one.
+std::optional<SearchDiscard> doubtAbout(const FoundDevice &device)
+{
+    if (device.announcement.services.empty())
+        return SearchDiscard::NoService;
+    if (!namesOwnService(device.announcement, device.address))
+        return SearchDiscard::ForeignAddress;
+    return std::nullopt;
 }
 
 } // namespace
@@ -63,16 +74,14 @@ std::int64_t DeviceDiscovery::start(SearchAnswerHandler handler, void *user)
     if (m_isCancelled || !handler)
         return 0;
     if (!m_receiver.joinable()) {
+        clearSearchState();
         auto sockets = std::make_unique<DiscoverySockets>();
-        if (sockets->open() == 0)
+        const auto noteFailure = [this](const std::string &localAddress, int error) {
+            m_counters.noteRequest(localAddress, error);
+        };
+        if (sockets->open(noteFailure) == 0)
             return 0;
         m_sockets = std::move(sockets);
-        {
-            const std::scoped_lock seenLock(m_mutex);
-            m_seen.clear();
-            m_seenAt.clear();
-            m_answers.clear();
-        }
         m_receiver = std::jthread([this](const std::stop_token &stop) { run(stop); });
     }
     // Under the lock of the handlers: no answer may come between what is known and the new handler.
@@ -90,6 +99,17 @@ std::int64_t DeviceDiscovery::start(SearchAnswerHandler handler, void *user)
     m_probesDue += 2;
     m_sockets->wake();
     return handle;
+}
+
+void DeviceDiscovery::clearSearchState()
+{
+    m_counters.clear();
+    const std::scoped_lock lock(m_mutex);
+    m_seen.clear();
+    m_seenAt.clear();
+    m_doubted.clear();
+    m_macHolders.clear();
+    m_answers.clear();
 }
 
 bool DeviceDiscovery::stop(std::int64_t handle)
@@ -128,8 +148,11 @@ void DeviceDiscovery::run(const std::stop_token &stop)
 
 void DeviceDiscovery::sendProbes()
 {
+    const auto noteRequest = [this](const std::string &localAddress, int error) {
+        m_counters.noteRequest(localAddress, error);
+    };
     for (const ProbeKind kind : {ProbeKind::Transmitters, ProbeKind::Anything}) {
-        if (m_sockets->sendToGroups(probeMessage(kind)) == 0)
+        if (m_sockets->sendToGroups(probeMessage(kind), noteRequest) == 0)
             qCWarning(logOnvif) << "No interface has taken the message of a search";
     }
 }
@@ -137,37 +160,85 @@ void DeviceDiscovery::sendProbes()
 void DeviceDiscovery::take(std::string_view datagram, const SocketAddress &sender,
                            const std::string &localAddress)
 {
-    for (DeviceAnnouncement &announcement : readAnnouncements(datagram)) {
-        if (announcement.isLeaving)
-            continue;
-        FoundDevice device;
-        device.address = addressText(sender);
-        device.localAddress = localAddress;
-        device.service = serviceOf(announcement, device.address);
-        device.announcement = std::move(announcement);
-        if (!device.address.empty() && isExpected(device))
-            m_inspections.start([this, device] { inspect(device); });
+    DiscoveryMessage message = readDiscoveryMessage(datagram);
+    // Requests are those of this program itself and of others that search: they say nothing of devices.
+    if (message.kind == DiscoveryMessage::Kind::Request)
+        return;
+    m_counters.noteMessage(localAddress);
+    if (message.kind == DiscoveryMessage::Kind::Unreadable)
+        m_counters.noteDiscarded(localAddress, SearchDiscard::Unreadable);
+    for (std::size_t other = 0; other < message.otherDevices; ++other)
+        m_counters.noteDiscarded(localAddress, SearchDiscard::OtherKind);
+    const std::string address = addressText(sender);
+    if (address.empty())
+        return;
+    for (DeviceAnnouncement &announcement : message.announcements)
+        take(std::move(announcement), address, localAddress);
+}
+
+void DeviceDiscovery::take(DeviceAnnouncement announcement, const std::string &address,
+                           const std::string &localAddress)
+{
+    if (announcement.isLeaving) {
+        m_counters.noteDiscarded(localAddress, SearchDiscard::Leaving);
+        return;
+    }
+    FoundDevice device;
+    device.address = address;
+    device.localAddress = localAddress;
+    device.service = serviceOf(announcement, address);
+    device.announcement = std::move(announcement);
+    switch (expectationOf(device)) {
+    case Expectation::New:
+        m_inspections.start([this, device] { inspect(device); });
+        break;
+    case Expectation::Known:
+        break;
+    case Expectation::Doubted:
+        m_counters.noteDiscarded(localAddress, *doubtAbout(device));
+        break;
+    case Expectation::TooMany:
+        m_counters.noteDiscarded(localAddress, SearchDiscard::TooMany);
+        break;
     }
 }
 
-bool DeviceDiscovery::isExpected(const FoundDevice &device)
+DeviceDiscovery::Expectation DeviceDiscovery::expectationOf(const FoundDevice &device)
 {
     const std::scoped_lock lock(m_mutex);
-    if (m_seen.size() >= maximumDevices || m_seen.contains(keyOf(device.address, device.service.port)))
-        return false;
+    const std::string key = keyOf(device.address, device.service.port);
+    if (m_seen.contains(key)) {
+        if (!m_doubted.contains(key))
+            return Expectation::Known;
+        if (doubtAbout(device))
+            return Expectation::Doubted;
+        m_doubted.erase(key);
+        return Expectation::New;
+    }
+    const bool isNewAddress = !m_seenAt.contains(device.address);
+    if (m_seen.size() >= maximumDevices || (isNewAddress && m_seenAt.size() >= maximumDevices))
+        return Expectation::TooMany;
     int &atAddress = m_seenAt[device.address];
     if (atAddress >= maximumServicesAtAddress)
-        return false;
+        return Expectation::TooMany;
     ++atAddress;
-    m_seen.insert(keyOf(device.address, device.service.port));
-    return true;
+    m_seen.insert(key);
+    return Expectation::New;
 }
 
 void DeviceDiscovery::inspect(FoundDevice device)
 {
-    inspectDevice(device, m_http, inspectionWait);
-    if (!m_isCancelled)
-        report(device);
+    const bool answers = inspectDevice(device, m_http, inspectionWait);
+    if (m_isCancelled)
+        return;
+    const std::optional<SearchDiscard> doubt = answers ? std::nullopt : doubtAbout(device);
+    if (!doubt) {
+        report(std::move(device));
+        return;
+    }
+    m_counters.noteDiscarded(device.localAddress, *doubt);
+    const std::scoped_lock lock(m_mutex);
+    m_doubted.insert(keyOf(device.address, device.service.port));
 }
 
 void DeviceDiscovery::remember(const FoundDevice &device)
@@ -177,13 +248,19 @@ void DeviceDiscovery::remember(const FoundDevice &device)
         m_services[keyOf(device.address, device.service.port)] = device.service;
 }
 
-void DeviceDiscovery::report(const FoundDevice &device)
+void DeviceDiscovery::report(FoundDevice device)
 {
     remember(device);
-    const SearchAnswer answer = searchAnswerOf(device);
     const std::scoped_lock handlerLock(m_handlerMutex);
+    SearchAnswer answer{};
     {
         const std::scoped_lock lock(m_mutex);
+        const std::string &mac = device.mac.empty() ? device.announcement.mac : device.mac;
+        if (!mac.empty() && !m_macHolders.admits(mac, device.address, device.isNeighbour)) {
+            device.mac.clear();
+            device.announcement.mac.clear();
+        }
+        answer = searchAnswerOf(device);
         m_answers.push_back(answer);
     }
     for (const auto &[handle, search] : m_searches)
@@ -200,8 +277,21 @@ void DeviceDiscovery::searchAddresses(const std::vector<std::string> &addresses,
         const SearchAnswer answer = searchAnswerOf(device);
         handler(0, &answer, user);
     };
-    AddressSearch search(m_http, reporter, m_isCancelled);
+    AddressSearch search(m_http, reporter, m_counters, m_isCancelled);
     search.run(addresses, wait);
+}
+
+void DeviceDiscovery::fillReport(SearchReport &report) const
+{
+    std::vector<ReportedDevice> devices;
+    {
+        const std::scoped_lock lock(m_mutex);
+        devices.reserve(m_answers.size());
+        for (const SearchAnswer &answer : m_answers)
+            devices.push_back({.address = std::string(blockText(answer.device.address)),
+                               .localAddress = std::string(blockText(answer.localAddress))});
+    }
+    m_counters.fill(report, interfaceStates(), devices);
 }
 
 void DeviceDiscovery::moved(const ServiceAddress &from, const std::string &address)

@@ -3,6 +3,8 @@
 
 #include "sdk/onvif/discovery/discoverysockets.h"
 #include "sdk/onvif/discovery/founddevice.h"
+#include "sdk/onvif/discovery/macholders.h"
+#include "sdk/onvif/discovery/searchcounters.h"
 #include "sdk/searchblocks.h"
 
 #include <QThreadPool>
@@ -52,6 +54,10 @@ public:
     void searchAddresses(const std::vector<std::string> &addresses, SearchAnswerHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
+    /// What the searches have sent and received since the first of those that run was started, or the last
+    /// ones if none runs.
+    void fillReport(SearchReport &report) const;
+
     /// The device service that a search has found at an address and port. At another port it has the
     /// standard's path, and the identity of a device that was found at the address.
     [[nodiscard]] ServiceAddress serviceAt(const std::string &address, int port) const;
@@ -69,19 +75,32 @@ private:
         void *user = nullptr;
     };
 
+    /// What a service that an announcement names is to the running searches.
+    enum class Expectation
+    {
+        New,
+        Known,   ///< it is asked or reported already
+        Doubted, ///< it was asked and has not answered, and the announcement does not speak for it
+        TooMany, ///< beyond the bounds
+    };
+
+    void clearSearchState();
     void run(const std::stop_token &stop);
     void sendProbes();
     void take(std::string_view datagram, const SocketAddress &sender, const std::string &localAddress);
+    void take(DeviceAnnouncement announcement, const std::string &address, const std::string &localAddress);
     void inspect(FoundDevice device);
-    void report(const FoundDevice &device);
+    void report(FoundDevice device);
     void remember(const FoundDevice &device);
-    [[nodiscard]] bool isExpected(const FoundDevice &device);
+    [[nodiscard]] Expectation expectationOf(const FoundDevice &device);
 
     // One receiver thread while at least one search runs.
     std::mutex m_startMutex; ///< held while the thread is started or joined
     std::jthread m_receiver;
     std::unique_ptr<DiscoverySockets> m_sockets;
     std::atomic_int m_probesDue = 0;
+
+    SearchCounters m_counters;
 
     std::shared_ptr<HttpClient> m_http;
     QThreadPool m_inspections;
@@ -91,7 +110,9 @@ private:
     std::int64_t m_lastHandle = 0;
     std::set<std::string> m_seen;        ///< devices of the running searches, by address and port
     std::map<std::string, int> m_seenAt; ///< how many of them have this address
-    std::vector<SearchAnswer> m_answers; ///< of the running searches
+    std::set<std::string> m_doubted;     ///< of `m_seen`, not reported: see Expectation::Doubted
+    MacHolders m_macHolders;             ///< of the running searches
+    std::vector<SearchAnswer> m_answers; ///< of the running searches, or of the last ones
     std::map<std::string, ServiceAddress> m_services; ///< by address and port, of all searches
 
     std::mutex m_handlerMutex; ///< held while handlers run

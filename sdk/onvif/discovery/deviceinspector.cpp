@@ -42,8 +42,10 @@ std::string macOfNeighbour(const std::string &address)
 /// The address is in the table at the latest when the device has been asked.
 void noteNeighbour(FoundDevice &device)
 {
-    if (device.mac.empty())
+    if (device.mac.empty()) {
         device.mac = macOfNeighbour(device.address);
+        device.isNeighbour = !device.mac.empty();
+    }
     device.service.identity = identityOf(device);
 }
 

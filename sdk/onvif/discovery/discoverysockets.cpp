@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
+#include <cstring>
 
 namespace sdk::onvif {
 
@@ -42,6 +44,59 @@ bool bindTo(int descriptor, const SocketAddress &address)
     return ::bind(descriptor, reinterpret_cast<const sockaddr *>(&address.storage), address.length) == 0;
 }
 
+/// Returns the system's error, 0 for none.
+int sendDatagram(int descriptor, const std::string &message, const SocketAddress &address)
+{
+    const ssize_t size = ::sendto(descriptor, message.data(), message.size(), 0,
+                                  reinterpret_cast<const sockaddr *>(&address.storage), address.length);
+    return size < 0 ? errno : 0;
+}
+
+/// The interface that a datagram came through, by the data that the system gives with it; 0 if it gives none.
+unsigned int interfaceOf(msghdr &message)
+{
+    for (cmsghdr *header = CMSG_FIRSTHDR(&message); header; header = CMSG_NXTHDR(&message, header)) {
+        if (header->cmsg_level == IPPROTO_IP && header->cmsg_type == IP_PKTINFO) {
+            in_pktinfo information{};
+            std::memcpy(&information, CMSG_DATA(header), sizeof(information));
+            return static_cast<unsigned int>(information.ipi_ifindex);
+        }
+        if (header->cmsg_level == IPPROTO_IPV6 && header->cmsg_type == IPV6_PKTINFO) {
+            in6_pktinfo information{};
+            std::memcpy(&information, CMSG_DATA(header), sizeof(information));
+            return information.ipi6_ifindex;
+        }
+    }
+    return 0;
+}
+
+/// A datagram that was received.
+struct Datagram
+{
+    ssize_t size = -1; ///< below 1 if there was none
+    SocketAddress sender = {};
+    unsigned int interfaceIndex = 0;
+};
+
+Datagram receiveInto(int descriptor, std::array<char, largestDatagram> &buffer)
+{
+    Datagram datagram;
+    iovec bytes = {.iov_base = buffer.data(), .iov_len = buffer.size()};
+    alignas(cmsghdr) std::array<char, 128> control{};
+    msghdr message{};
+    message.msg_name = &datagram.sender.storage;
+    message.msg_namelen = sizeof(datagram.sender.storage);
+    message.msg_iov = &bytes;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    datagram.size = ::recvmsg(descriptor, &message, 0);
+    datagram.sender.length = message.msg_namelen;
+    if (datagram.size > 0)
+        datagram.interfaceIndex = interfaceOf(message);
+    return datagram;
+}
+
 } // namespace
 
 DiscoverySockets::DiscoverySockets() : m_wakeDescriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
@@ -54,11 +109,14 @@ DiscoverySockets::~DiscoverySockets()
         ::close(m_wakeDescriptor);
 }
 
-std::size_t DiscoverySockets::open()
+std::size_t DiscoverySockets::open(const SendObserver &observer)
 {
     const std::vector<NetworkInterface> interfaces = networkInterfaces();
-    for (const NetworkInterface &networkInterface : interfaces)
-        addInterface(networkInterface);
+    for (const NetworkInterface &networkInterface : interfaces) {
+        const int error = addInterface(networkInterface);
+        if (error != 0 && observer)
+            observer(networkInterface.address, error);
+    }
     const auto searched = static_cast<std::size_t>(std::count_if(
         m_sockets.begin(), m_sockets.end(), [](const Socket &socket) { return socket.sendsToGroup; }));
     addListener(true, interfaces);
@@ -66,13 +124,15 @@ std::size_t DiscoverySockets::open()
     return searched;
 }
 
-void DiscoverySockets::addInterface(const NetworkInterface &networkInterface)
+int DiscoverySockets::addInterface(const NetworkInterface &networkInterface)
 {
     const bool isIPv4 = networkInterface.isIPv4;
     const std::optional<SocketAddress> own = socketAddress(networkInterface.address, 0);
-    const int descriptor = own ? openSocket(isIPv4) : -1;
+    if (!own)
+        return EADDRNOTAVAIL;
+    const int descriptor = openSocket(isIPv4);
     if (descriptor < 0)
-        return;
+        return errno;
     bool isReady = bindTo(descriptor, *own);
     if (isIPv4) {
         in_addr source{};
@@ -84,14 +144,16 @@ void DiscoverySockets::addInterface(const NetworkInterface &networkInterface)
                   setOption(descriptor, IPPROTO_IPV6, IPV6_MULTICAST_HOPS, 1);
     }
     if (!isReady) {
+        const int error = errno;
         ::close(descriptor);
-        return;
+        return error;
     }
     m_sockets.push_back({.descriptor = descriptor,
                          .isIPv4 = isIPv4,
                          .interfaceIndex = networkInterface.index,
                          .localAddress = networkInterface.address,
                          .sendsToGroup = !networkInterface.isLoopback});
+    return 0;
 }
 
 void DiscoverySockets::addListener(bool isIPv4, const std::vector<NetworkInterface> &interfaces)
@@ -102,6 +164,11 @@ void DiscoverySockets::addListener(bool isIPv4, const std::vector<NetworkInterfa
         return;
     // Other programs of this computer may listen at the port as well.
     setOption(descriptor, SOL_SOCKET, SO_REUSEADDR, 1);
+    // One socket listens for all interfaces: each datagram says which one it came through.
+    if (isIPv4)
+        setOption(descriptor, IPPROTO_IP, IP_PKTINFO, 1);
+    else
+        setOption(descriptor, IPPROTO_IPV6, IPV6_RECVPKTINFO, 1);
     bool hasJoined = false;
     for (const NetworkInterface &networkInterface : interfaces) {
         if (networkInterface.isIPv4 != isIPv4 || networkInterface.isLoopback)
@@ -125,7 +192,7 @@ void DiscoverySockets::addListener(bool isIPv4, const std::vector<NetworkInterfa
     m_sockets.push_back({.descriptor = descriptor, .isIPv4 = isIPv4, .localAddress = {}});
 }
 
-std::size_t DiscoverySockets::sendToGroups(const std::string &message)
+std::size_t DiscoverySockets::sendToGroups(const std::string &message, const SendObserver &observer)
 {
     std::size_t sent = 0;
     for (const Socket &socket : m_sockets) {
@@ -135,21 +202,39 @@ std::size_t DiscoverySockets::sendToGroups(const std::string &message)
             socket.isIPv4 ? std::string(discoveryGroupIPv4)
                           : discoveryGroupIPv6 + std::string("%") + std::to_string(socket.interfaceIndex);
         const std::optional<SocketAddress> address = socketAddress(group, discoveryPort);
-        if (address && ::sendto(socket.descriptor, message.data(), message.size(), 0,
-                                reinterpret_cast<const sockaddr *>(&address->storage), address->length) > 0)
-            ++sent;
+        const int error = address ? sendDatagram(socket.descriptor, message, *address) : EADDRNOTAVAIL;
+        observer(socket.localAddress, error);
+        sent += error == 0 ? 1 : 0;
     }
     return sent;
 }
 
-bool DiscoverySockets::sendTo(const std::string &message, const SocketAddress &address)
+int DiscoverySockets::sendTo(const std::string &message, const SocketAddress &address)
 {
     const bool isIPv4 = address.storage.ss_family == AF_INET;
-    return std::any_of(m_sockets.begin(), m_sockets.end(), [&](const Socket &socket) {
-        return socket.isIPv4 == isIPv4 && !socket.localAddress.empty() &&
-               ::sendto(socket.descriptor, message.data(), message.size(), 0,
-                        reinterpret_cast<const sockaddr *>(&address.storage), address.length) > 0;
+    int error = ENETUNREACH;
+    for (const Socket &socket : m_sockets) {
+        if (socket.isIPv4 != isIPv4 || socket.localAddress.empty())
+            continue;
+        const int outcome = sendDatagram(socket.descriptor, message, address);
+        if (outcome == 0)
+            return 0;
+        // The loopback interface refuses every address of a network in this way, which explains nothing.
+        if (outcome != EINVAL)
+            error = outcome;
+    }
+    return error;
+}
+
+std::string DiscoverySockets::localAddressOf(const Socket &socket, unsigned int interfaceIndex) const
+{
+    if (!socket.localAddress.empty())
+        return socket.localAddress;
+    const auto own = std::find_if(m_sockets.begin(), m_sockets.end(), [&](const Socket &other) {
+        return other.isIPv4 == socket.isIPv4 && other.interfaceIndex == interfaceIndex &&
+               !other.localAddress.empty();
     });
+    return own == m_sockets.end() ? std::string() : own->localAddress;
 }
 
 void DiscoverySockets::receive(int milliseconds, const Receiver &receiver)
@@ -164,13 +249,11 @@ void DiscoverySockets::receive(int milliseconds, const Receiver &receiver)
     int left = maximumDatagrams;
     for (std::size_t place = 0; place < m_sockets.size(); ++place) {
         while ((waiting[place].revents & POLLIN) != 0 && left-- > 0) {
-            SocketAddress sender;
-            sender.length = sizeof(sender.storage);
-            const ssize_t size = ::recvfrom(m_sockets[place].descriptor, buffer.data(), buffer.size(), 0,
-                                            reinterpret_cast<sockaddr *>(&sender.storage), &sender.length);
-            if (size <= 0)
+            const Datagram datagram = receiveInto(m_sockets[place].descriptor, buffer);
+            if (datagram.size <= 0)
                 break;
-            receiver({buffer.data(), static_cast<std::size_t>(size)}, sender, m_sockets[place].localAddress);
+            receiver({buffer.data(), static_cast<std::size_t>(datagram.size)}, datagram.sender,
+                     localAddressOf(m_sockets[place], datagram.interfaceIndex));
         }
     }
     std::uint64_t count = 0;

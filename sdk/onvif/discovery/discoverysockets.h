@@ -25,14 +25,19 @@ public:
     DiscoverySockets(const DiscoverySockets &) = delete;
     DiscoverySockets &operator=(const DiscoverySockets &) = delete;
 
-    /// Opens a socket on each interface. Returns the number of interfaces that can be searched.
-    std::size_t open();
+    /// Called with the outcome of sending from an address of this computer: the system's error, 0 for none.
+    using SendObserver = std::function<void(const std::string &localAddress, int error)>;
 
-    /// Sends a message to the group through every interface. Returns how many interfaces took it.
-    std::size_t sendToGroups(const std::string &message);
+    /// Opens a socket on each interface. Returns the number of interfaces that can be searched. `observer` is
+    /// called for those that cannot.
+    std::size_t open(const SendObserver &observer = {});
 
-    /// Sends a message to one address. False if it cannot be sent.
-    bool sendTo(const std::string &message, const SocketAddress &address);
+    /// Sends a message to the group through every interface. Returns how many interfaces took it. `observer`
+    /// is called for each.
+    std::size_t sendToGroups(const std::string &message, const SendObserver &observer);
+
+    /// Sends a message to one address. Returns the system's error, 0 for none.
+    [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);
 
     /// Waits up to `milliseconds` for datagrams and hands those that are there to `receiver`, at most
     /// `maximumDatagrams`: a sender that never pauses must not keep the caller here.
@@ -53,8 +58,10 @@ private:
         bool sendsToGroup = false;
     };
 
-    void addInterface(const NetworkInterface &networkInterface);
+    /// Returns the system's error, 0 for none.
+    int addInterface(const NetworkInterface &networkInterface);
     void addListener(bool isIPv4, const std::vector<NetworkInterface> &interfaces);
+    [[nodiscard]] std::string localAddressOf(const Socket &socket, unsigned int interfaceIndex) const;
 
     std::vector<Socket> m_sockets;
     int m_wakeDescriptor = -1;

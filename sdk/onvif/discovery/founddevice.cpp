@@ -4,21 +4,36 @@
 
 #include <arpa/inet.h>
 
+#include <algorithm>
 #include <array>
 #include <bit>
 
 namespace sdk::onvif {
 
-ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address)
+namespace {
+
+/// The service that names `address`, one over HTTP before one over HTTPS. A device does not know the name
+/// that this computer has for the interface of a link-local address.
+std::optional<ServiceAddress> ownService(const DeviceAnnouncement &announcement, const std::string &address)
 {
+    const std::string_view host = std::string_view(address).substr(0, address.find('%'));
     for (const bool isSecure : {false, true}) {
         for (const ServiceAddress &service : announcement.services) {
-            if (service.host == address && service.isSecure == isSecure)
+            if (service.isSecure == isSecure && (service.host == address || service.host == host))
                 return service;
         }
     }
+    return std::nullopt;
+}
+
+} // namespace
+
+ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address)
+{
     ServiceAddress service;
-    if (!announcement.services.empty())
+    if (const auto own = ownService(announcement, address))
+        service = *own;
+    else if (!announcement.services.empty())
         service = announcement.services.front();
     service.host = address;
     return service;
@@ -28,6 +43,11 @@ std::string identityOf(const FoundDevice &device)
 {
     const std::string &mac = device.mac.empty() ? device.announcement.mac : device.mac;
     return mac.empty() ? device.announcement.uuid : mac;
+}
+
+bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &address)
+{
+    return ownService(announcement, address).has_value();
 }
 
 SearchAnswer searchAnswerOf(const FoundDevice &device)
@@ -51,6 +71,7 @@ SearchAnswer searchAnswerOf(const FoundDevice &device)
         information.httpPort = static_cast<std::uint16_t>(device.service.port);
     information.dhcpEnabled = device.dhcp ? 1 : 0;
     information.initialisationState = static_cast<std::uint8_t>(device.state);
+    setBlockText(information.uuid, device.announcement.uuid);
     return answer;
 }
 

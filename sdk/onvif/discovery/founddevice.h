@@ -16,6 +16,7 @@ struct FoundDevice
     ServiceAddress service = {};
     DeviceAnnouncement announcement = {};
     std::string mac = {};
+    bool isNeighbour = false; ///< `mac` is from the neighbour table of this computer
     InitialisationBits state = InitialisationBits::NotReported;
 
     // Known only of a device that answers without a login, empty otherwise.
@@ -27,13 +28,16 @@ struct FoundDevice
     bool dhcp = false;
 };
 
-/// The device service of an announcement that came from `address`: the one that names this address, one over
-/// HTTP before one over HTTPS, else the first one's port and path at this address. Never another host: a
-/// message can name any.
+/// The device service of an announcement that came from `address`: the one that names this address, without
+/// its interface if it is a link-local one, and over HTTP before one over HTTPS; else the first one's port
+/// and path at this address. Never another host: a message can name any.
 [[nodiscard]] ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address);
 
 /// The MAC, else the UUID; empty if neither is known.
 [[nodiscard]] std::string identityOf(const FoundDevice &device);
+
+/// Whether the announcement names a service at `address` itself.
+[[nodiscard]] bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &address);
 
 /// The answer as the library delivers it.
 [[nodiscard]] SearchAnswer searchAnswerOf(const FoundDevice &device);

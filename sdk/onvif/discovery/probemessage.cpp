@@ -154,12 +154,14 @@ std::string probeMessage(ProbeKind kind)
     return text.str();
 }
 
-std::vector<DeviceAnnouncement> readAnnouncements(std::string_view datagram)
+DiscoveryMessage readDiscoveryMessage(std::string_view datagram)
 {
     const std::optional<XmlDocument> document = XmlDocument::read(datagram);
     if (!document || !document->root().is(ns::envelope, "Envelope"))
         return {};
     const XmlElement content = document->root().child(ns::envelope, "Body").firstChild();
+    if (content.is(ns::discovery, "Probe") || content.is(ns::discovery, "Resolve"))
+        return {.kind = DiscoveryMessage::Kind::Request};
     std::vector<XmlElement> matches;
     if (content.is(ns::discovery, "ProbeMatches"))
         matches = content.children(ns::discovery, "ProbeMatch");
@@ -167,14 +169,18 @@ std::vector<DeviceAnnouncement> readAnnouncements(std::string_view datagram)
         matches = content.children(ns::discovery, "ResolveMatch");
     else if (content.is(ns::discovery, "Hello") || content.is(ns::discovery, "Bye"))
         matches = {content};
+    else
+        return {};
     if (matches.size() > maximumMatches)
         matches.resize(maximumMatches);
-    std::vector<DeviceAnnouncement> announcements;
+    DiscoveryMessage message = {.kind = DiscoveryMessage::Kind::Announcement};
     for (const XmlElement &match : matches) {
         if (std::optional<DeviceAnnouncement> announcement = readMatch(match))
-            announcements.push_back(std::move(*announcement));
+            message.announcements.push_back(std::move(*announcement));
+        else
+            ++message.otherDevices;
     }
-    return announcements;
+    return message;
 }
 
 } // namespace sdk::onvif

@@ -38,9 +38,23 @@ struct DeviceAnnouncement
     bool isRecorder = false;
 };
 
-/// Reads a datagram: the announcements of a ProbeMatches, ResolveMatches, Hello or Bye message, at most
-/// `maximumMatches`. Empty if it is none of these, or not of a device of this standard.
+/// What a datagram contains.
+struct DiscoveryMessage
+{
+    enum class Kind
+    {
+        Unreadable,   ///< no message of WS-Discovery, or a document beyond the bounds
+        Request,      ///< of another program that searches
+        Announcement, ///< a ProbeMatches, ResolveMatches, Hello or Bye message
+    };
+
+    Kind kind = Kind::Unreadable;
+    std::vector<DeviceAnnouncement> announcements = {}; ///< of devices of this standard
+    std::size_t otherDevices = 0;                       ///< announcements of other devices
+};
+
+/// Reads a datagram, at most `maximumMatches` announcements of it.
 inline constexpr std::size_t maximumMatches = 16;
-[[nodiscard]] std::vector<DeviceAnnouncement> readAnnouncements(std::string_view datagram);
+[[nodiscard]] DiscoveryMessage readDiscoveryMessage(std::string_view datagram);
 
 } // namespace sdk::onvif

@@ -5,7 +5,10 @@
 #include "sdk/configrecords.h"
 #include "sdk/configtext/configtext.h"
 #include "sdk/encodeblocks.h"
+#include "sdk/onvif/discovery/discoverysockets.h"
+#include "sdk/onvif/discovery/probemessage.h"
 #include "sdk/onvif/onvifnetlibrary.h"
+#include "sdk/searchreportblocks.h"
 #include "sdk/systemrecords.h"
 #include "tests/datatable.h"
 
@@ -70,6 +73,14 @@ Item itemOf(std::int32_t stream = 0)
     if constexpr (requires { item.stream; })
         item.stream = stream;
     return item;
+}
+
+/// A message of discovery as a device sends it: "Hello", "Bye" with what is in it.
+std::string discoveryMessage(const std::string &name, const std::string &content)
+{
+    return R"(<Envelope xmlns="http://www.w3.org/2003/05/soap-envelope"><Body><q:)" + name +
+           R"( xmlns:q="http://schemas.xmlsoap.org/ws/2005/04/discovery">)" + content + "</q:" + name +
+           "></Body></Envelope>";
 }
 
 quint32 code(NetError error)
@@ -223,6 +234,62 @@ private Q_SLOTS:
         QVERIFY(initialisationBits(camera.initialisationState) == InitialisationBits::Initialised);
         const SearchDeviceInformation factoryNew = answers.device(u"192.168.1.108"_s);
         QVERIFY(initialisationBits(factoryNew.initialisationState) == InitialisationBits::Uninitialised);
+    }
+
+    /// Messages that this computer sends to itself represent those of other hosts.
+    void reportsWhatASearchReceived()
+    {
+        Answers answers;
+        const SearchParameter parameter = {
+            .size = sizeof(parameter), .reserved = 0, .handler = &Answers::take, .user = &answers};
+        const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
+        QVERIFY(search > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(answers.has(u"192.168.1.101"_s), 10000);
+        onvif::DiscoverySockets sockets;
+        QVERIFY(sockets.open() > 0);
+        const QList<std::string> messages = {
+            "no message at all", discoveryMessage("Hello", R"(<q:Types xmlns:w="u">w:Printer</q:Types>)"),
+            discoveryMessage("Hello", ""), // nothing of this computer answers at the usual port
+            discoveryMessage("Hello", "<q:XAddrs>http://192.168.1.101:81/x</q:XAddrs>"),
+            discoveryMessage("Bye", "")};
+        for (const std::string &message : messages)
+            sockets.sendToGroups(message, [](const std::string &, int) {});
+
+        SearchReport report{};
+        report.size = sizeof(report);
+        const auto discarded = [&report](SearchDiscard reason) {
+            return report.interfaces[0].discarded[static_cast<std::size_t>(reason)];
+        };
+        const auto isComplete = [&] {
+            return m_net.NetGetSearchReport(report) && discarded(SearchDiscard::NoService) == 1 &&
+                   discarded(SearchDiscard::ForeignAddress) == 1 && discarded(SearchDiscard::Leaving) == 1;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isComplete(), 10000);
+        QVERIFY(m_net.NetStopSearchDevices(search));
+        QVERIFY(!answers.has(u"192.168.1.250"_s));
+        QVERIFY(m_net.NetGetSearchReport(report));
+        QCOMPARE(discarded(SearchDiscard::Unreadable), 1U);
+        QCOMPARE(discarded(SearchDiscard::OtherKind), 1U);
+        const SearchInterfaceReport &interface = report.interfaces[0];
+        QCOMPARE(Answers::textOf(interface.address), u"192.168.1.250"_s);
+        QCOMPARE(interface.prefixLength, 24);
+        QVERIFY(interface.requestsSent >= 4 && interface.messagesReceived > interface.devicesFound);
+        QVERIFY(interface.devicesFound > 0 && interface.obstacles == 0);
+        QCOMPARE(report.addressesAsked, 0U);
+
+        SearchByAddressesRequest request{};
+        request.size = sizeof(request);
+        request.count = 3;
+        setBlockText(request.addresses[0], "192.168.1.101");
+        setBlockText(request.addresses[1], "192.168.1.199");
+        setBlockText(request.addresses[2], "203.0.113.1");
+        m_net.NetSearchDevicesByIPs(request, &Answers::take, &answers, "0.0.0.0", 3000ms);
+        QVERIFY(m_net.NetGetSearchReport(report));
+        QCOMPARE(report.addressesAsked, 3U);
+        QCOMPARE(report.addressesAnswered, 1U);
+        QCOMPARE(report.addressesNoRoute, 1U);
+        report.size = 1;
+        QVERIFY(!m_net.NetGetSearchReport(report));
     }
 
     void asksSingleAddresses()

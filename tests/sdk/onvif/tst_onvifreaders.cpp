@@ -125,7 +125,7 @@ private Q_SLOTS:
                   "  odd://www.onvif.org/location/x</q:Scopes>"
                   "<q:XAddrs>ftp://192.0.2.7/ http://user@192.0.2.7/ http://192.0.2.9/a "
                   "http://192.0.2.7:8000/b</q:XAddrs>");
-        const auto found = readAnnouncements(datagram.toStdString());
+        const auto found = readDiscoveryMessage(datagram.toStdString()).announcements;
         QCOMPARE(found.size(), 1U);
         FoundDevice device;
         device.address = "192.0.2.7";
@@ -136,6 +136,7 @@ private Q_SLOTS:
         QVERIFY(sdk::blockText(answer.device.deviceName) == "Tür A");
         QVERIFY(sdk::blockText(answer.device.detailModel) == "SC-200");
         QVERIFY(sdk::blockText(answer.device.mac) == "02:1a:c5:00:40:17");
+        QVERIFY(sdk::blockText(answer.device.uuid) == found.front().uuid);
         QCOMPARE(answer.device.port, 8000);
         QVERIFY(device.service.path == "/b");
         // From another address it is asked there, whatever it names.
@@ -145,27 +146,36 @@ private Q_SLOTS:
 
     void ignoresOtherDatagrams_data()
     {
-        const auto row = dataTable<QByteArray>({"datagram"});
-        row("nothing", "");
-        row("no XML", "HTTP/1.1 200 OK\r\n\r\n");
-        row("another device", match("<q:Types xmlns:w=\"u\">w:Printer</q:Types>"));
-        row("another namespace", match({}).replace("2005/04/discovery", "2009/04/discovery"));
-        row("the probe of another client", QByteArray::fromStdString(probeMessage(ProbeKind::Anything)));
-        row("a document type", "<!DOCTYPE x [<!ENTITY e 'e'>]>" + match({}));
+        // others: announcements of devices of another kind
+        using Kind = DiscoveryMessage::Kind;
+        const auto row = dataTable<QByteArray, Kind, int>({"datagram", "kind", "others"});
+        row("nothing", "", Kind::Unreadable, 0);
+        row("no XML", "HTTP/1.1 200 OK\r\n\r\n", Kind::Unreadable, 0);
+        row("another device", match("<q:Types xmlns:w=\"u\">w:Printer</q:Types>"), Kind::Announcement, 1);
+        row("another namespace", match({}).replace("2005/04/discovery", "2009/04/discovery"),
+            Kind::Unreadable, 0);
+        row("the probe of another client", QByteArray::fromStdString(probeMessage(ProbeKind::Anything)),
+            Kind::Request, 0);
+        row("a document type", "<!DOCTYPE x [<!ENTITY e 'e'>]>" + match({}), Kind::Unreadable, 0);
         QByteArray deep;
         for (int depth = 0; depth < 100; ++depth)
             deep = "<d>" + deep + "</d>";
-        row("too deep", match(deep));
+        row("too deep", match(deep), Kind::Unreadable, 0);
         QByteArray attributes;
         for (int number = 0; number < 100; ++number)
             attributes += " a" + QByteArray::number(number) + "='1'";
-        row("too many attributes", match("<d" + attributes + "/>"));
+        row("too many attributes", match("<d" + attributes + "/>"), Kind::Unreadable, 0);
     }
 
     void ignoresOtherDatagrams()
     {
         QFETCH(QByteArray, datagram);
-        QVERIFY(readAnnouncements(datagram.toStdString()).empty());
+        QFETCH(DiscoveryMessage::Kind, kind);
+        QFETCH(int, others);
+        const DiscoveryMessage message = readDiscoveryMessage(datagram.toStdString());
+        QVERIFY(message.announcements.empty());
+        QVERIFY(message.kind == kind);
+        QCOMPARE(message.otherDevices, static_cast<std::size_t>(others));
     }
 
     void keepsToTheDevice_data()

@@ -1,0 +1,28 @@
+// The network interfaces of this computer as a report of a search shows them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace sdk::onvif {
+
+/// An interface with one of its addresses.
+struct InterfaceState
+{
+    std::string name = {};
+    std::string address = {}; ///< in the form of NetworkInterface::address; empty if there is none
+    int prefixLength = 0;     ///< of `address`
+    bool isUp = false;
+    bool hasLink = false;
+    bool sendsToGroups = false;
+    bool isLoopback = false;
+};
+
+/// One entry for each IPv4 address and each link-local IPv6 address: a search sends from these. An Ethernet
+/// or radio interface without such an address has one entry without an address.
+[[nodiscard]] std::vector<InterfaceState> interfaceStates();
+
+/// Whether `address` is in the network of `interface`. False unless both are IPv4 addresses.
+[[nodiscard]] bool isInNetwork(const std::string &address, const InterfaceState &interface);
+
+} // namespace sdk::onvif

@@ -1,0 +1,146 @@
+// What a report says of a search, and which device keeps a MAC.
+#include "sdk/blocktext.h"
+#include "sdk/onvif/discovery/macholders.h"
+#include "sdk/onvif/discovery/searchcounters.h"
+#include "tests/datatable.h"
+
+#include <cerrno>
+
+using namespace Qt::StringLiterals;
+using namespace sdk;
+using namespace sdk::onvif;
+
+namespace {
+
+constexpr std::uint32_t bit(SearchObstacle obstacle)
+{
+    return 1U << static_cast<std::uint32_t>(obstacle);
+}
+
+InterfaceState interface(const std::string &address)
+{
+    return {.name = "eth0",
+            .address = address,
+            .prefixLength = 24,
+            .isUp = true,
+            .hasLink = true,
+            .sendsToGroups = true};
+}
+
+SearchReport reportOf(const SearchCounters &counters, const std::vector<InterfaceState> &interfaces,
+                      const std::vector<ReportedDevice> &devices = {})
+{
+    SearchReport report{};
+    counters.fill(report, interfaces, devices);
+    return report;
+}
+
+} // namespace
+
+class SearchCountersTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesObstacles_data()
+    {
+        // state: of the interface; sendError, messages: of one request
+        const auto row =
+            dataTable<QString, int, int, quint32>({"state", "sendError", "messages", "obstacles"});
+        row("answered", u"ready"_s, 0, 1, 0U);
+        row("not answered", u"ready"_s, 0, 0, bit(SearchObstacle::NoAnswer));
+        row("not sent", u"ready"_s, ENETUNREACH, 0, bit(SearchObstacle::SendFailed));
+        row("switched off", u"down"_s, ENETDOWN, 0,
+            bit(SearchObstacle::InterfaceDown) | bit(SearchObstacle::SendFailed));
+        row("no cable", u"no link"_s, 0, 0, bit(SearchObstacle::NoLink) | bit(SearchObstacle::NoAnswer));
+        // What came through an interface without a name is not that of one without an address.
+        row("no address", u"no address"_s, 0, 1, bit(SearchObstacle::NoAddress));
+    }
+
+    void namesObstacles()
+    {
+        QFETCH(QString, state);
+        QFETCH(int, sendError);
+        QFETCH(int, messages);
+        QFETCH(quint32, obstacles);
+        InterfaceState shown = interface(state == u"no address"_s ? "" : "192.0.2.5");
+        shown.isUp = state != u"down"_s;
+        shown.hasLink = shown.isUp && state != u"no link"_s;
+        SearchCounters counters;
+        counters.noteRequest(shown.address, sendError);
+        for (int message = 0; message < messages; ++message)
+            counters.noteMessage(shown.address);
+        const SearchReport report = reportOf(counters, {shown});
+        QCOMPARE(report.count, 1U);
+        QCOMPARE(report.interfaces[0].obstacles, obstacles);
+        QCOMPARE(report.interfaces[0].sendError, shown.address.empty() ? 0 : sendError);
+    }
+
+    void countsByInterface()
+    {
+        InterfaceState loopback = interface("127.0.0.1");
+        loopback.isLoopback = true;
+        const InterfaceState second = interface("198.51.100.5");
+        SearchCounters counters;
+        counters.noteMessage("192.0.2.5");
+        counters.noteDiscarded("192.0.2.5", SearchDiscard::Leaving);
+        counters.noteMessage("198.51.100.5");
+        counters.noteAskedAddress(0);
+        counters.noteAskedAddress(EHOSTUNREACH);
+        counters.noteAnsweredAddress();
+        const std::vector<ReportedDevice> devices = {{"192.0.2.77", "192.0.2.5"},
+                                                     {"192.0.3.77", "192.0.2.5"},
+                                                     {"fe80::7%eth0", "fe80::5%eth0"},
+                                                     {"198.51.100.255", "198.51.100.5"}};
+        SearchReport report = reportOf(counters, {loopback, interface("192.0.2.5"), second}, devices);
+        QCOMPARE(report.count, 2U);
+        QVERIFY(blockText(report.interfaces[0].address) == "192.0.2.5");
+        QCOMPARE(report.interfaces[0].devicesFound, 2U);
+        QCOMPARE(report.interfaces[0].discarded[static_cast<std::size_t>(SearchDiscard::Leaving)], 1U);
+        QCOMPARE(report.interfaces[1].messagesReceived, 1U);
+        QCOMPARE(report.addressesAsked, 2U);
+        QCOMPARE(report.addressesNoRoute, 1U);
+        QCOMPARE(report.addressesAnswered, 1U);
+        QCOMPARE(report.foreignDevices, 1U);
+
+        counters.clear();
+        report = reportOf(counters, {loopback});
+        QCOMPARE(report.count, 1U); // it is the only one
+        QCOMPARE(report.addressesAsked, 0U);
+        const std::vector<InterfaceState> many(2 * maximumReportedInterfaces, second);
+        QCOMPARE(reportOf(counters, many).count, static_cast<std::uint32_t>(maximumReportedInterfaces));
+    }
+
+    void aMacStaysWithItsAddress_data()
+    {
+        // first, second: an address, and "named" or "neighbour"
+        const auto row = dataTable<QStringList, QStringList, bool>({"first", "second", "admitted"});
+        const QString own = u"192.0.2.7"_s;
+        const QString other = u"192.0.2.8"_s;
+        row("again", {own, u"named"_s}, {own, u"named"_s}, true);
+        row("a message names the MAC of another device", {own, u"neighbour"_s}, {other, u"named"_s}, false);
+        row("the message comes first", {other, u"named"_s}, {own, u"neighbour"_s}, false);
+        row("one device with two addresses", {own, u"neighbour"_s}, {other, u"neighbour"_s}, true);
+        row("the other address family", {own, u"neighbour"_s}, {u"fe80::7%eth0"_s, u"named"_s}, true);
+    }
+
+    void aMacStaysWithItsAddress()
+    {
+        QFETCH(QStringList, first);
+        QFETCH(QStringList, second);
+        QFETCH(bool, admitted);
+        MacHolders holders;
+        const auto admits = [&holders](const QStringList &device) {
+            return holders.admits("02:1a:c5:00:40:17", device.first().toStdString(),
+                                  device.last() == u"neighbour"_s);
+        };
+        QVERIFY(admits(first));
+        QCOMPARE(admits(second), admitted);
+        QVERIFY(admits(first));
+        holders.clear();
+        QVERIFY(admits(second));
+    }
+};
+
+QTEST_GUILESS_MAIN(SearchCountersTest)
+#include "tst_searchcounters.moc"
