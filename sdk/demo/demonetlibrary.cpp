@@ -88,9 +88,15 @@ void DemoNetLibrary::NetSetCertificateHandler(CertificateHandler, void *)
     // Simulated devices are reached over TLS only by HTTP, which this library has no part in.
 }
 
-bool DemoNetLibrary::NetGetSearchReport(SearchReport &)
+bool DemoNetLibrary::NetGetSearchReport(SearchReport &report)
 {
-    return m_error.fail(NetError::NotSupported);
+    const CallGate::Call call(m_gate);
+    if (!call.isAllowed())
+        return m_error.fail(DemoError::NotPrepared);
+    if (report.size != sizeof(report))
+        return m_error.fail(DemoError::WrongSize);
+    m_searchTally.fill(report, m_site.localAddress());
+    return true;
 }
 
 std::uint32_t DemoNetLibrary::NetGetLastError() const
@@ -139,6 +145,10 @@ std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, AnswerReceiver re
     std::vector<PlannedAnswer> plan = planLocalSearch(m_site, kind, start);
 
     const std::lock_guard lock(m_mutex);
+    if (m_searches.empty())
+        m_searchTally.clear();
+    m_searchTally.noteRequest();
+    receiver.tally = &m_searchTally;
     receiver.searchHandle = ++m_lastSearchHandle;
     auto delivery = std::make_unique<AnswerDelivery>(m_site, receiver, std::move(plan));
     if (!delivery->start()) {
@@ -189,6 +199,10 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
         else if (isIpv4Address(address))
             addresses.insert(address);
     }
+    // The second kind of answer to a list is asked for beside the first.
+    if (kind == SearchKind::First || searchEnd == SearchEnd::AfterAnswer)
+        m_searchTally.noteAskedAddresses(addresses);
+    receiver.tally = &m_searchTally;
     const std::int64_t start = m_site.clock().now();
     std::int64_t end = start + bounded(wait).count();
     std::vector<PlannedAnswer> plan = planAddressSearch(m_site, kind, addresses, start, end);

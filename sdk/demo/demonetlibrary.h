@@ -8,6 +8,7 @@
 #include "sdk/demo/internal/devicelogin.h"
 #include "sdk/demo/internal/deviceupgrades.h"
 #include "sdk/demo/internal/livestreams.h"
+#include "sdk/demo/internal/searchtally.h"
 #include "sdk/netlibrary.h"
 #include "sdk/threaderror.h"
 
@@ -191,6 +192,7 @@ private:
     CallGate m_gate;
     DemoSessions m_sessions;
     LoginGuard m_loginGuard;
+    SearchTally m_searchTally;
     std::mutex m_mutex;
     std::int64_t m_lastSearchHandle = 0;
     std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> m_searches;

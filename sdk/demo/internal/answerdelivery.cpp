@@ -99,6 +99,13 @@ void AnswerDelivery::deliver(const PlannedAnswer &planned)
     if (localAddress.isEmpty() || localAddress == QLatin1String("0.0.0.0"))
         localAddress = m_site.localAddressFor(*device, planned.ipVersion);
     const SearchAnswer answer = searchAnswer(*device, planned.ipVersion, localAddress);
+    if (m_receiver.tally) {
+        const QString address = planned.ipVersion == 6 ? device->ipv6 : device->address;
+        if (m_receiver.searchHandle != 0)
+            m_receiver.tally->noteLocalAnswer(planned.mac, address);
+        else
+            m_receiver.tally->noteAddressAnswer(address);
+    }
     insideHandler = true;
     m_receiver.handler(m_receiver.searchHandle, &answer, m_receiver.user);
     insideHandler = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/demo/internal/answerplan.h"
+#include "sdk/demo/internal/searchtally.h"
 #include "sdk/searchblocks.h"
 
 #include <atomic>
@@ -18,6 +19,7 @@ struct AnswerReceiver
     void *user = nullptr;
     std::int64_t searchHandle = 0;
     QString localAddress; ///< asked to search from; empty or "0.0.0.0" for every address of this computer
+    SearchTally *tally = nullptr; ///< counts the answers; outlives the delivery
 };
 
 /// Answers run on up to four threads at a time, each waiting on the site's clock for its share. One of the
