@@ -1,0 +1,74 @@
+#pragma once
+
+#include "device/searchreporttext.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QVariantList>
+
+#include <memory>
+
+namespace sdk {
+class NetLibrary;
+struct SearchReport;
+} // namespace sdk
+
+/// The report of the last search of the window, to explain a list that is empty or has become shorter. Lives
+/// on the scene's thread.
+class SearchReports : public QObject
+{
+    Q_OBJECT
+    /// Whether there is a report.
+    Q_PROPERTY(bool available READ isAvailable NOTIFY changed)
+    /// Devices fewer than the search of the same networks has found before; 0 if it is not known or
+    /// dismissed.
+    Q_PROPERTY(int missing READ missing NOTIFY changed)
+    Q_PROPERTY(QString summary READ summary NOTIFY changed)
+    /// Maps of "title", "lines" (maps of "label" and "value") and "obstacles" (of "text" and "advice").
+    Q_PROPERTY(QVariantList blocks READ blocks NOTIFY changed)
+    /// The whole report as plain text.
+    Q_PROPERTY(QString text READ text NOTIFY changed)
+public:
+    /// `net` may be null: then there is never a report.
+    explicit SearchReports(std::shared_ptr<sdk::NetLibrary> net, QObject *parent = nullptr);
+
+    [[nodiscard]] bool isAvailable() const { return !m_blocks.isEmpty(); }
+    [[nodiscard]] int missing() const { return m_isDismissed ? 0 : m_missing; }
+    [[nodiscard]] QString summary() const { return SearchReportText::summaryOf(m_devices, m_missing); }
+    [[nodiscard]] QVariantList blocks() const;
+    [[nodiscard]] QString text() const;
+
+    /// A search begins: of the local segment, and of the addresses that `range` names if it is not empty.
+    Q_INVOKABLE void begin(bool localSegment, const QString &range);
+
+    /// The search has ended, by itself or stopped, with so many `devices`.
+    Q_INVOKABLE void end(int devices, bool isStopped);
+
+    /// The user has seen that devices are missing.
+    Q_INVOKABLE void dismiss();
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    /// Addresses that were asked one by one.
+    struct AddressCounts
+    {
+        std::uint32_t asked = 0;
+        std::uint32_t answered = 0;
+        std::uint32_t noRoute = 0;
+    };
+
+    [[nodiscard]] bool read(sdk::SearchReport &report) const;
+
+    const std::shared_ptr<sdk::NetLibrary> m_net;
+    QString m_scope;          ///< equal texts are equal networks
+    AddressCounts m_before;   ///< the search: without the local segment the library goes on counting
+    QString m_countedScope;   ///< of the last search that was not stopped
+    int m_countedDevices = 0; ///< of that search
+    int m_devices = 0;
+    int m_missing = 0;
+    bool m_isDismissed = false;
+    QList<SearchReportBlock> m_blocks;
+    QDateTime m_time; ///< of the end of the search
+};
