@@ -56,6 +56,12 @@ QString macText(const sdk::SearchAnswer &answer)
     return fieldText(answer.device.mac);
 }
 
+QString uuidName(const sdk::SearchAnswer &answer)
+{
+    const QString uuid = fieldText(answer.device.uuid);
+    return uuid.isEmpty() ? QString() : uuidPrefix + uuid;
+}
+
 QString addressAndPort(const sdk::SearchAnswer &answer)
 {
     const QString address = fieldText(answer.device.address);

@@ -48,7 +48,8 @@ inline constexpr QLatin1StringView duplicate("duplicate");
 /// A bool: the address is what a change that failed asked for, and the device has not been found since.
 inline constexpr QLatin1StringView unconfirmed("unconfirmed");
 
-/// Text: the name of a row whose values have changed so that they would give another one. Other rows lack it.
+/// Text: the name of a row whose MAC and address do not give it: of a device that is identified by its UUID,
+/// and of a row whose values have changed. Other rows lack it.
 inline constexpr QLatin1StringView identity("identity");
 } // namespace DeviceRowKey
 
@@ -77,12 +78,19 @@ template<std::size_t size>
 /// MAC of the device that answered: its identity.
 [[nodiscard]] QString macText(const sdk::SearchAnswer &answer);
 
+/// Begins the names of rows whose devices are identified by their UUIDs.
+inline constexpr QLatin1StringView uuidPrefix("uuid:");
+
+/// "uuid:5f5a69c2-e0ae-504f-829b-00000000000b": names the row of a device that does not report its MAC. Empty
+/// if it has no UUID either.
+[[nodiscard]] QString uuidName(const sdk::SearchAnswer &answer);
+
 /// "address:port" by which operations name the device; an IPv6 address stands in brackets, as addresses with
 /// colons are written beside a port (RFC 3986).
 [[nodiscard]] QString addressAndPort(const sdk::SearchAnswer &answer);
 
-/// Identifies a row in its list: the MAC, or the address and port that a row without one had at first,
-/// followed by "#" and a number if there were rows of the same name before. Empty for an empty row.
+/// Identifies a row in its list: the MAC, or uuidName(), or the address and port that a row with neither had
+/// at first, followed by "#" and a number if there were rows of the same name before. Empty for an empty row.
 [[nodiscard]] QString rowName(const QJsonObject &row);
 
 /// The address of an IPv4 row without its port.

@@ -69,35 +69,40 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
 {
     const bool ipv4 = hasIPv4Address(answer);
     const QString mac = macText(answer);
-    // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
-    // that arrived again, as every device answers each kind of search.
-    // A device that does not report its MAC is identified by its address.
-    const QString identity = !ipv4           ? mac + QLatin1Char(' ') + addressAndPort(answer)
-                             : mac.isEmpty() ? addressAndPort(answer)
-                                             : mac;
     {
         // Most answers are repeated ones: drop them before a row is built.
         const std::scoped_lock lock(m_mutex);
-        if (dropsLocked(identity))
-            return {};
+        const QString identity = identityOf(answer);
+        if (dropsLocked(identity)) {
+            const bool isChanged = ipv4 && takeMac(identity, mac);
+            return {.added = false,
+                    .notify = isChanged && isNotificationDue(),
+                    .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
+        }
     }
 
     QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
     const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
                        row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
     const QByteArray record = packed(answer);
+    const QString uuid = uuidName(answer);
 
     const std::scoped_lock lock(m_mutex);
+    const QString identity = identityOf(answer);
     if (dropsLocked(identity))
         return {};
     m_settled.insert(identity);
     ++m_found;
+    if (ipv4 && rowName(row) != identity)
+        row.insert(DeviceRowKey::identity, identity);
     if (!ipv4)
         addIPv6Locked(row);
     else if (heads)
         m_ipv4.prepend(identity, row);
     else
         m_ipv4.append(identity, row);
+    if (ipv4 && !uuid.isEmpty() && !m_uuidHolders.contains(uuid))
+        m_uuidHolders.insert(uuid, {.ipport = addressAndPort(answer), .name = identity});
 
     // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
     const QString recordKey = ipv4 ? identity : mac;
@@ -106,6 +111,42 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
 
     return {
         .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
+}
+
+QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
+{
+    const QString mac = macText(answer);
+    const QString ipport = addressAndPort(answer);
+    // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
+    // that arrived again, as every device answers each kind of search.
+    if (!hasIPv4Address(answer))
+        return mac + QLatin1Char(' ') + ipport;
+    const QString uuid = uuidName(answer);
+    const UuidHolder holder = m_uuidHolders.value(uuid);
+    if (!mac.isEmpty()) {
+        // The same device, if it did not report its MAC before. Others that have its UUID and its address may
+        // exist: factories copy both.
+        const QString known = m_ipv4.row(holder.name).value(DeviceRowKey::mac).toString();
+        const bool isSame =
+            holder.ipport == ipport && holder.name == uuid && (known.isEmpty() || known == mac);
+        return isSame ? uuid : mac;
+    }
+    if (uuid.isEmpty())
+        return ipport;
+    if (holder.name.isEmpty())
+        return uuid;
+    return holder.ipport == ipport ? holder.name : ipport;
+}
+
+bool DeviceStore::takeMac(const QString &name, const QString &mac)
+{
+    QJsonObject row = m_ipv4.row(name);
+    const bool isMissing = !row.isEmpty() && row.value(DeviceRowKey::mac).toString().isEmpty();
+    if (mac.isEmpty() || !isMissing || m_ipv4.contains(mac))
+        return false;
+    row.insert(DeviceRowKey::mac, mac);
+    m_ipv4.replace(name, row);
+    return true;
 }
 
 bool DeviceStore::dropsLocked(const QString &identity)
@@ -137,15 +178,27 @@ int DeviceStore::leftOut() const
 QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
 {
     const QString mac = macText(answer);
+    const QString uuid = uuidName(answer);
     const std::scoped_lock lock(m_mutex);
-    if (!mac.isEmpty())
-        return m_ipv4.contains(mac) ? mac : QString();
-    const QStringList names = m_ipv4.namesAt(addressAndPort(answer));
-    const auto lacksMac = [this](const QString &name) {
-        return m_ipv4.row(name).value(DeviceRowKey::mac).toString().isEmpty();
+    if (m_ipv4.contains(mac))
+        return mac;
+    const auto macOf = [this](const QString &name) {
+        return m_ipv4.row(name).value(DeviceRowKey::mac).toString();
     };
-    const auto name = std::find_if(names.cbegin(), names.cend(), lacksMac);
-    return name == names.cend() ? QString() : *name;
+    // The row at the address goes before the one of the UUID, which another device may report as well.
+    if (mac.isEmpty()) {
+        const QStringList names = m_ipv4.namesAt(addressAndPort(answer));
+        const auto isOwn = [&](const QString &name) {
+            const bool isOther = name.startsWith(uuidPrefix) && !uuid.isEmpty() && name != uuid;
+            return macOf(name).isEmpty() && !isOther;
+        };
+        const auto name = std::find_if(names.cbegin(), names.cend(), isOwn);
+        if (name != names.cend())
+            return *name;
+    }
+    const QString known = macOf(uuid);
+    const bool isOwn = mac.isEmpty() || known.isEmpty() || known == mac;
+    return m_ipv4.contains(uuid) && isOwn ? uuid : QString();
 }
 
 bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address)
@@ -159,6 +212,8 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
         if (!now.value(key).toString().isEmpty())
             row.insert(key, now.value(key));
     }
+    if (row.value(DeviceRowKey::mac).toString().isEmpty())
+        row.insert(DeviceRowKey::mac, now.value(DeviceRowKey::mac));
     row.insert(DeviceRowKey::state, now.value(DeviceRowKey::state));
     row.insert(DeviceRowKey::ipport, now.value(DeviceRowKey::ipport));
     row.insert(DeviceRowKey::unconfirmed, false);
@@ -176,6 +231,7 @@ void DeviceStore::clear()
     m_ipv6 = {};
     m_records.clear();
     m_settled.clear();
+    m_uuidHolders.clear();
     m_ipv6Found.clear();
     m_found = 0;
     m_leftOut = 0;

@@ -47,19 +47,23 @@ public:
     /// Turns an answer into a row at its place. The first answer of a device wins; a loopback address goes to
     /// the head of its list. Answers of devices that were removed since clear() are dropped, as are those
     /// beyond maximumFound. Constant time, whatever the length of the list.
+    ///
+    /// A UUID belongs to the address that it was first seen with since clear(): a device at another one that
+    /// reports it, too, is identified by its address. A MAC that a further answer of a device adds is taken
+    /// into its row.
     Addition addAnswer(const sdk::SearchAnswer &answer);
 
     /// Answers of further devices that were dropped since clear(), because maximumFound rows had been found.
     [[nodiscard]] int leftOut() const;
 
-    /// The name of the IPv4 row of the device that answered: of its MAC, or of its address and port when it
-    /// does not report its MAC. Empty when there is none.
+    /// The name of the IPv4 row of the device that answered: of its MAC, of its UUID, or of its address and
+    /// port when it reports neither. Empty when there is none.
     [[nodiscard]] QString nameOf(const sdk::SearchAnswer &answer) const;
 
     /// Takes over what the listed device `name` reports now: state, name, model, version, address and ports,
-    /// and the search record. What else the row holds stays, and so do texts that the device does not report
-    /// any more. Does nothing, and returns false, unless there is an IPv4 row of this name that still shows
-    /// `address`: a response may arrive after the row has got another one.
+    /// a MAC that was not known, and the search record. What else the row holds stays, and so do texts that
+    /// the device does not report any more. Does nothing, and returns false, unless there is an IPv4 row of
+    /// this name that still shows `address`: a response may arrive after the row has got another one.
     bool updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address);
 
     /// Removes every row and record, as a search begins.
@@ -112,6 +116,16 @@ private:
     };
     using Finder = std::function<Place()>; ///< called with the lock held
 
+    /// Which IPv4 row a UUID belongs to.
+    struct UuidHolder
+    {
+        QString ipport = {};
+        QString name = {}; ///< of the row
+    };
+
+    // These are called with the lock held.
+    [[nodiscard]] QString identityOf(const sdk::SearchAnswer &answer) const;
+    bool takeMac(const QString &name, const QString &mac);
     [[nodiscard]] bool dropsLocked(const QString &identity);
     void addIPv6Locked(QJsonObject &row);
     bool changeFound(const Finder &find, const Change &change);
@@ -122,9 +136,10 @@ private:
     DeviceRowList m_ipv4;
     DeviceRowList m_ipv6;
     QHash<QString, QByteArray> m_records; ///< by name: the answers, packed
-    QSet<QString> m_settled;         ///< devices found or removed since clear(): further answers are dropped
-    QHash<QString, int> m_ipv6Found; ///< IPv6 rows found since clear(), by address and port
-    int m_found = 0;                 ///< rows found since clear()
+    QSet<QString> m_settled; ///< devices found or removed since clear(): further answers are dropped
+    QHash<QString, UuidHolder> m_uuidHolders; ///< by uuidName(), since clear()
+    QHash<QString, int> m_ipv6Found;          ///< IPv6 rows found since clear(), by address and port
+    int m_found = 0;                          ///< rows found since clear()
     int m_leftOut = 0;
     std::optional<std::int64_t> m_lastNotification; ///< in milliseconds since the epoch
 };

@@ -17,6 +17,7 @@ struct AnswerTexts
     sdk::InitialisationBits state = sdk::InitialisationBits::Initialised;
     int ipVersion = 4;
     int port = 37777;
+    std::string uuid = {};
 };
 
 inline sdk::SearchAnswer searchAnswer(const AnswerTexts &texts)
@@ -29,6 +30,7 @@ inline sdk::SearchAnswer searchAnswer(const AnswerTexts &texts)
     answer.device.initialisationState = static_cast<std::uint8_t>(texts.state);
     sdk::setBlockText(answer.device.address, texts.address);
     sdk::setBlockText(answer.device.mac, texts.mac);
+    sdk::setBlockText(answer.device.uuid, texts.uuid);
     sdk::setBlockText(answer.device.deviceType, texts.type);
     sdk::setBlockText(answer.device.deviceName, texts.name);
     sdk::setBlockText(answer.device.detailModel, "B-2230-IR");

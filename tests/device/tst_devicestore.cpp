@@ -175,6 +175,63 @@ private Q_SLOTS:
         QCOMPARE(sdk::blockText(m_store->record(name + "#1")->device.address), "192.168.1.64");
     }
 
+    void aDeviceIsIdentifiedByMacThenUuidThenAddress_data()
+    {
+        // first, second: the answers; rows: name and MAC of each row after them
+        const auto row = dataTable<AnswerTexts, AnswerTexts, QStringList>({"first", "second", "rows"});
+        const AnswerTexts own = {.mac = "", .uuid = "5f5a"};
+        const AnswerTexts withMac = {.mac = "m1", .uuid = "5f5a"};
+        const AnswerTexts other = {.address = "192.168.1.65", .mac = "", .uuid = "5f5a"};
+        row("the same again", own, own, {"uuid:5f5a "});
+        row("the MAC comes later", own, withMac, {"uuid:5f5a m1"});
+        row("the MAC came before", withMac, own, {"m1 m1"});
+        row("another device reports the UUID", own, other, {"uuid:5f5a ", "192.168.1.65:37777 "});
+        row("that of a device with a MAC", withMac, other, {"m1 m1", "192.168.1.65:37777 "});
+        row("another device with a MAC", own, {.address = "192.168.1.65", .mac = "m2", .uuid = "5f5a"},
+            {"uuid:5f5a ", "m2 m2"});
+        row("copies from the factory", withMac, {.mac = "m2", .uuid = "5f5a"}, {"m1 m1", "m2 m2"});
+        row("neither", {.mac = ""}, {.mac = ""}, {"192.168.1.64:37777 "});
+    }
+
+    void aDeviceIsIdentifiedByMacThenUuidThenAddress()
+    {
+        QFETCH(AnswerTexts, first);
+        QFETCH(AnswerTexts, second);
+        QFETCH(QStringList, rows);
+        QStringList removed;
+        for (int time = 0; time < 2; ++time) { // nothing that is repeated makes a further row
+            m_store->addAnswer(searchAnswer(first));
+            m_store->addAnswer(searchAnswer(second));
+            QStringList found;
+            for (const QVariant &value : m_store->ipv4Rows()) {
+                const QJsonObject row = value.toJsonObject();
+                found.append(rowName(row) + ' ' + row.value("mac").toString());
+                QVERIFY(m_store->record(rowName(row)));
+                removed.append(rowName(row));
+            }
+            QCOMPARE(found, rows);
+        }
+        m_store->removeRows({removed.cbegin(), removed.cend()});
+        m_store->addAnswer(searchAnswer(second));
+        QVERIFY(m_store->ipv4Rows().isEmpty());
+    }
+
+    void aDeviceWithAUuidIsFoundAtItsNewAddress()
+    {
+        const QString name = "uuid:5f5a";
+        m_store->addAnswer(searchAnswer({.mac = "", .uuid = "5f5a"}));
+        const sdk::SearchAnswer moved =
+            searchAnswer({.address = "192.168.1.65", .mac = "m1", .uuid = "5f5a"});
+        QCOMPARE(m_store->nameOf(moved), name);
+        QVERIFY(m_store->updateRow(name, moved, "192.168.1.64"));
+        QCOMPARE(valuesOf(m_store->rowNamed(name), "ipport mac"), "192.168.1.65:37777|m1");
+        QCOMPARE(m_store->nameOf(searchAnswer({.mac = "m2", .uuid = "5f5a"})), QString());
+        // A row at the address of an answer is not passed over for its UUID, which anybody may report.
+        m_store->putRow({{"ipport", "192.168.1.66:37777"}});
+        const AnswerTexts listed = {.address = "192.168.1.66", .mac = "", .uuid = "5f5a"};
+        QCOMPARE(m_store->nameOf(searchAnswer(listed)), "192.168.1.66:37777");
+    }
+
     void aChangeKeepsWhatAnotherOneWritesMeanwhile()
     {
         const QString mac = "02:1a:c5:00:40:17";
