@@ -56,6 +56,7 @@ QList<DeviceDetailLine> DeviceDetail::linesOf(const QVariantMap &detail)
     identity.add(tr("类型"), text(DeviceRowKey::type));
     identity.add(tr("型号"), text(DeviceRowKey::model));
     identity.add(tr("序列号"), text(QLatin1StringView("serial")));
+    identity.add(QStringLiteral("UUID"), text(QLatin1StringView("uuid")));
     identity.add(tr("状态"), yesOrNo(DeviceRowKey::state, tr("已初始化"), tr("未初始化")));
 
     Group versions(lines, tr("版本"));

@@ -70,9 +70,11 @@ void AddressPlan::prepare()
 
 QString AddressPlan::hindranceOf(int row) const
 {
-    // The request goes to a MAC that the device itself has reported.
+    // The request goes to a MAC or a UUID that the device itself has reported.
     const QString hindrance = BatchPreview::hindranceOf(row);
-    const bool isNameless = deviceAt(row).value(DeviceRowKey::mac).toString().isEmpty();
+    const QVariantMap device = deviceAt(row);
+    const bool isNameless =
+        device.value(DeviceRowKey::mac).toString().isEmpty() && !identityOf(device).startsWith(uuidPrefix);
     return hindrance.isEmpty() && isNameless ? tr("没有MAC，不会修改") : hindrance;
 }
 

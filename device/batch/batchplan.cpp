@@ -34,9 +34,10 @@ QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, 
 
 QString macOf(const BatchDevice &device)
 {
-    // A row without a MAC is named by the address that it was found with.
-    const bool isAddress = device.identity == device.ipport || device.identity.contains(QLatin1Char('.'));
-    return isAddress ? QString() : device.identity;
+    // A row without a MAC is named by the device's UUID or by the address that it was found with.
+    const bool isOther = device.identity == device.ipport || device.identity.contains(QLatin1Char('.')) ||
+                         device.identity.startsWith(uuidPrefix);
+    return isOther ? QString() : device.identity;
 }
 
 QString outcomeText(const StepOutcome &outcome)

@@ -55,13 +55,14 @@ StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &acco
 bool CDeviceDH::isFound(const QString &mac) const
 {
     const std::optional<sdk::SearchAnswer> record = store().record(mac);
-    return record && !sdk::blockText(record->device.mac).empty();
+    return record &&
+           !(sdk::blockText(record->device.mac).empty() && sdk::blockText(record->device.uuid).empty());
 }
 
 StepOutcome CDeviceDH::noteNotFound(const QString &mac)
 {
     StepOutcome outcome = noteResult(mac, LoginResult::NotSupported);
-    outcome.text = tr("没有该设备的搜索应答，或应答中没有MAC地址");
+    outcome.text = tr("没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID");
     return outcome;
 }
 

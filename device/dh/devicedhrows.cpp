@@ -61,6 +61,7 @@ QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
     detail.insert(QStringLiteral("gateway"), fieldText(device.gateway));
     detail.insert(QStringLiteral("dhcp"), device.dhcpEnabled != 0);
     detail.insert(QStringLiteral("serial"), fieldText(device.serialNumber));
+    detail.insert(QStringLiteral("uuid"), fieldText(device.uuid));
     detail.insert(QStringLiteral("localAddress"), fieldText(record->localAddress));
     return detail;
 }

@@ -92,7 +92,20 @@ SceneStep CDeviceDH::detailStep(const QString &ipport)
                 libraries.net->NetLogout(login.handle);
             }
             detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
-            return SceneOutcome{.value = detail, .take = {}};
+            // A row that a search has listed without a MAC gets it, and keeps its name.
+            const auto takeMac = [this, ipport, mac = detail.value(DeviceRowKey::mac).toString()] {
+                if (mac.isEmpty() || !store().row(mac).isEmpty())
+                    return;
+                bool isChanged = false;
+                store().changeRowAt(ipport, [&](QJsonObject &row) {
+                    isChanged = row.value(DeviceRowKey::mac) == QString();
+                    if (isChanged)
+                        row.insert(DeviceRowKey::mac, mac);
+                });
+                if (isChanged)
+                    Q_EMIT signalCDeviceAddSingleDeviceToTable();
+            };
+            return SceneOutcome{.value = detail, .take = takeMac};
         };
 }
 

@@ -81,8 +81,8 @@ FocusScope {
         target: page.deviceFactory
 
         function onSignalSetChannelNameFinished() {
-            const mac = page.deviceFactory.getDeviceInfo("dh", session.device).mac;
-            page.deviceFactory.refreshDevices("dh", [mac || session.device]);  // its row may show the name
+            const row = page.deviceFactory.getDeviceInfo("dh", session.device);
+            page.deviceFactory.refreshDevices("dh", [row.identity || row.mac || session.device]);  // its row may show the name
         }
     }
 
