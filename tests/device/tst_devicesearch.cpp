@@ -4,6 +4,8 @@
 #include "device/ipv4address.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "sdk/netlibrary.h"
+#include "sdk/searchreportblocks.h"
 #include "tests/datatable.h"
 #include "tests/device/searchanswers.h"
 
@@ -139,6 +141,13 @@ private Q_SLOTS:
                     .startsWith("127.0.0.1:"));
         QCOMPARE(count.last().at(0).toInt(), int(ipv4.size()));
         QVERIFY(added.size() > 2); // at the start, while the answers come, at the end
+
+        sdk::SearchReport report{};
+        report.size = sizeof(report);
+        QVERIFY(m_site->libraries().net->NetGetSearchReport(report));
+        QCOMPARE(report.interfaces[0].requestsSent, 3U);
+        QVERIFY(report.interfaces[0].devicesFound >= static_cast<std::uint32_t>(ipv4.size()));
+        QVERIFY(report.interfaces[0].messagesReceived > report.interfaces[0].devicesFound);
     }
 
     void aRangeIsAskedBlockByBlockAndForgotten()
@@ -158,6 +167,12 @@ private Q_SLOTS:
         for (const QVariant &row : m_factory->filterData("dh", "nofilter"))
             foundOther |= row.toJsonObject().value("ipport").toString().startsWith("192.168.2.");
         QVERIFY(foundOther);
+        sdk::SearchReport report{};
+        report.size = sizeof(report);
+        QVERIFY(m_site->libraries().net->NetGetSearchReport(report));
+        QCOMPARE(report.addressesAsked,
+                 246U + 256U + 21U); // each once, though both kinds of answers are asked for
+        QVERIFY(report.addressesAnswered > 0 && report.addressesAnswered < 30);
 
         m_site->requests().clear();
         m_factory->startSearch("dh");
