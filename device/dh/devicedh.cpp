@@ -3,6 +3,7 @@
 #include "device/batch/batchengine.h"
 #include "device/devicerow.h"
 #include "device/devicestore.h"
+#include "device/dh/foundlogins.h"
 #include "device/dh/upgraderunner.h"
 #include "device/logging.h"
 #include "device/loginresult.h"
@@ -28,6 +29,7 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
     : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
       m_engine(engine ? std::move(engine) : std::make_shared<BatchEngine>(m_libraries.clock)),
       m_search(std::make_unique<DeviceSearch>(store, m_libraries)),
+      m_foundLogins(std::make_unique<FoundLogins>(store, m_libraries)),
       m_refresh(std::make_unique<DeviceRefresh>(std::move(store), m_libraries)),
       m_keptLogins(m_libraries.net), m_state(std::make_shared<SessionState>(m_tables)),
       m_upgrades(std::make_unique<UpgradeRunner>(
@@ -56,6 +58,10 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
             Qt::DirectConnection);
     connect(m_search.get(), &DeviceSearch::done, this, &CDeviceBase::signalCDeviceSearchDone,
             Qt::DirectConnection);
+    connect(m_search.get(), &DeviceSearch::rowsAdded, m_foundLogins.get(), &FoundLogins::askNew,
+            Qt::DirectConnection);
+    connect(m_foundLogins.get(), &FoundLogins::rowsChanged, this, &CDeviceDH::noteChangedRows,
+            Qt::DirectConnection);
     connect(m_refresh.get(), &DeviceRefresh::rowsChanged, this, &CDeviceDH::noteChangedRows,
             Qt::DirectConnection);
 
@@ -74,6 +80,7 @@ CDeviceDH::~CDeviceDH()
     m_engine->requestEnd();
     m_search->requestStop();
     m_refresh->requestStop();
+    m_foundLogins->requestStop();
     m_snapshots.reset();
     m_upgrades->end();
     m_sessionThreads.clear();
@@ -85,6 +92,7 @@ CDeviceDH::~CDeviceDH()
     m_sessionThreads.waitForDone();
     m_documentFiles.waitForDone();
     m_search.reset();
+    m_foundLogins.reset();
     m_refresh.reset();
 }
 

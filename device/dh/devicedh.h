@@ -23,6 +23,7 @@
 #include <vector>
 
 class FirmwareFiles;
+class FoundLogins;
 struct FirmwareFile;
 class SnapThread;
 struct SnapTask;
@@ -37,6 +38,7 @@ struct EncodeState;
 struct SearchSettings
 {
     bool localDomain = true; ///< search the local segment
+    bool logsIn = false;     ///< log in to the devices that are found, with the default account
 };
 
 /// The family "dh": the one complete back end. Each group of its operations stands in a file of its own.
@@ -302,6 +304,7 @@ private:
     const std::function<SearchSettings()> m_searchSettings;
     const std::shared_ptr<BatchEngine> m_engine;
     std::unique_ptr<DeviceSearch> m_search;
+    std::unique_ptr<FoundLogins> m_foundLogins;
     std::unique_ptr<DeviceRefresh> m_refresh;
     Session m_session;
     QThreadPool m_sessionThreads;                ///< of openSession(), runForScene() and logouts

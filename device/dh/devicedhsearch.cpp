@@ -1,10 +1,13 @@
 #include "device/devicefilter.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "device/dh/foundlogins.h"
 
 void CDeviceDH::startSearch()
 {
-    m_search->start(m_searchSettings().localDomain);
+    const SearchSettings settings = m_searchSettings();
+    m_foundLogins->begin(settings.logsIn ? m_defaultAccount : QString(), m_defaultPassword);
+    m_search->start(settings.localDomain);
 }
 
 void CDeviceDH::setSearchByIPInfo(quint32 beginip, quint32 endip)
@@ -15,6 +18,7 @@ void CDeviceDH::setSearchByIPInfo(quint32 beginip, quint32 endip)
 void CDeviceDH::stopSearch()
 {
     m_search->stop();
+    m_foundLogins->stop();
 }
 
 void CDeviceDH::refreshDevices(const QStringList &macs)
