@@ -26,6 +26,7 @@ const QString startIpKey = QStringLiteral("/searchConfig/startIP");
 const QString endIpKey = QStringLiteral("/searchConfig/endIP");
 const QString usernameKey = QStringLiteral("/searchConfig/username");
 const QString passKey = QStringLiteral("/searchConfig/pass");
+const QString loginKey = QStringLiteral("/searchConfig/login");
 const QString devicesAtOnceKey = QStringLiteral("/batchConfig/atOnce");
 const QString upgradesAtOnceKey = QStringLiteral("/upgradeConfig/atOnce");
 
@@ -164,6 +165,16 @@ int CLocalConfig::getSearchConfigOtherDomain() const
 void CLocalConfig::setSearchConfigOtherDomain(int check)
 {
     setValue(otherDomainKey, QString::number(check));
+}
+
+bool CLocalConfig::searchLogsIn() const
+{
+    return number(loginKey) != 0;
+}
+
+void CLocalConfig::setSearchLogsIn(bool logsIn)
+{
+    setValue(loginKey, QString::number(logsIn ? 1 : 0));
 }
 
 int CLocalConfig::devicesAtOnce() const

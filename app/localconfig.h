@@ -46,6 +46,10 @@ public:
     Q_INVOKABLE void setSearchConfigLocalDomain(int check);
     Q_INVOKABLE [[nodiscard]] int getSearchConfigOtherDomain() const;
     Q_INVOKABLE void setSearchConfigOtherDomain(int check);
+
+    /// Whether a search logs in to the devices that it finds, with the account above. Off unless set.
+    Q_INVOKABLE [[nodiscard]] bool searchLogsIn() const;
+    Q_INVOKABLE void setSearchLogsIn(bool logsIn);
     /// Starts the program again with the same arguments and quits this process.
     Q_INVOKABLE void reboot();
     Q_INVOKABLE [[nodiscard]] QString getVersion() const;

@@ -144,8 +144,9 @@ void Shell::registerBackEnds()
     CDeviceFactory::registerBackEnd(
         QStringLiteral("dh"), [store, libraries = m_libraries, engine = m_batchEngine] {
             const auto searchSettings = [] {
-                return SearchSettings{.localDomain =
-                                          CLocalConfig::getinstance()->getSearchConfigLocalDomain() != 0};
+                const CLocalConfig &config = *CLocalConfig::getinstance();
+                return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
+                                      .logsIn = config.searchLogsIn()};
             };
             const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
             return std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits, engine);

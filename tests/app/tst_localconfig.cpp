@@ -34,12 +34,13 @@ private:
     /// All settings, with bars between them.
     static QString settingsOf(const CLocalConfig &config)
     {
-        return QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
+        return QStringLiteral("%1|%2|%3|%4|%5|%6|%7|%8")
             .arg(config.getLanguage())
             .arg(config.getSearchConfigLocalDomain())
             .arg(config.getSearchConfigOtherDomain())
             .arg(config.getSearchConfigStartIP(), config.getSearchConfigEndIP(),
-                 config.getSearchConfigUsrename(), config.getSearchConfigPass());
+                 config.getSearchConfigUsrename(), config.getSearchConfigPass())
+            .arg(config.searchLogsIn());
     }
 
 public Q_SLOTS:
@@ -68,10 +69,11 @@ private Q_SLOTS:
         config.setSearchConfigUsername("root");
         config.setSearchConfigLocalDomain(0);
         config.setSearchConfigOtherDomain(1);
+        config.setSearchLogsIn(true);
         config.setLanguage("de_DE");
 
         CLocalConfig other(m_directory->path());
-        QCOMPARE(settingsOf(other), "de_DE|0|1|10.0.0.1|10.0.0.9|root|" + password);
+        QCOMPARE(settingsOf(other), "de_DE|0|1|10.0.0.1|10.0.0.9|root|" + password + "|1");
         other.setLanguage("fr_FR");
         QCOMPARE(config.getLanguage(), "fr_FR");
     }
@@ -103,7 +105,7 @@ private Q_SLOTS:
     {
         write(path("LocalConfig.ini"), "[searchConfig]\nendIP=10.0.0.9\n");
         const CLocalConfig config(m_directory->path());
-        QCOMPARE(settingsOf(config), "|0|0||10.0.0.9||");
+        QCOMPARE(settingsOf(config), "|0|0||10.0.0.9|||0");
         QCOMPARE(fileContents(path("LocalConfig.ini")), "[searchConfig]\nendIP=10.0.0.9\n");
     }
 
@@ -120,9 +122,9 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         write(path("LocalConfig.ini"), content);
         CLocalConfig config(m_directory->path());
-        QCOMPARE(settingsOf(config), "|0|0||10.0.0.9||");
+        QCOMPARE(settingsOf(config), "|0|0||10.0.0.9|||0");
         config.setLanguage("en_US");
-        QCOMPARE(settingsOf(config), "en_US|0|0||10.0.0.9||");
+        QCOMPARE(settingsOf(config), "en_US|0|0||10.0.0.9|||0");
     }
 
     void upgradesAtOnceAreBounded_data()

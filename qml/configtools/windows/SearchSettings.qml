@@ -11,7 +11,8 @@ QtObject {
             startIP: localConfig.getSearchConfigStartIP(),
             endIP: localConfig.getSearchConfigEndIP(),
             userName: localConfig.getSearchConfigUsrename(),
-            password: localConfig.getSearchConfigPass()
+            password: localConfig.getSearchConfigPass(),
+            logsIn: localConfig.searchLogsIn()
         };
     }
 
@@ -21,6 +22,7 @@ QtObject {
         localConfig.setSearchConfigEndIP(settings.endIP);
         localConfig.setSearchConfigUsername(settings.userName);
         localConfig.setSearchConfigPass(settings.password);
+        localConfig.setSearchLogsIn(settings.logsIn);
         localConfig.setSearchConfigLocalDomain(settings.localDomain ? 1 : 0);
         localConfig.setSearchConfigOtherDomain(settings.otherDomain ? 1 : 0);
         const stored = read();

@@ -18,6 +18,7 @@ OVDialog {
         endField.text = settings.endIP;
         userField.text = settings.userName;
         passwordField.text = settings.password;
+        loginBox.checked = settings.logsIn;
     }
 
     /// The settings as the draft has them.
@@ -28,7 +29,8 @@ OVDialog {
             startIP: startField.text,
             endIP: endField.text,
             userName: userField.text,
-            password: passwordField.text
+            password: passwordField.text,
+            logsIn: loginBox.checked
         };
     }
 
@@ -150,6 +152,27 @@ OVDialog {
                         color: Theme.colours.faint
                         font: Theme.hintFont
                         text: qsTr("登录搜索到的设备时默认使用此账号")
+                    }
+                }
+            }
+            OVFormRow {
+                width: parent.width
+                label: ""
+
+                Column {
+                    width: parent.width
+                    spacing: Theme.half
+
+                    OVCheckBox {
+                        id: loginBox
+                        objectName: "loginBox"
+                        text: qsTr("搜索时用此账号登录设备")
+                    }
+                    OVParagraph {
+                        width: parent.width
+                        color: Theme.colours.faint
+                        font: Theme.hintFont
+                        text: qsTr("读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。")
                     }
                 }
             }
