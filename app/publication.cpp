@@ -9,12 +9,14 @@
 #include "device/batch/batches.h"
 #include "device/batch/upgradebatches.h"
 #include "device/devicefactory.h"
+#include "device/searchreports.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 
-void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, bool deviceLibraryInstalled)
+void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
+                    const std::shared_ptr<sdk::NetLibrary> &net)
 {
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
@@ -42,6 +44,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, boo
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
+    context->setContextProperty(QStringLiteral("SearchReportsApi"), new SearchReports(net, &engine));
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());
-    context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), deviceLibraryInstalled);
+    context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), net != nullptr);
 }

@@ -1,9 +1,16 @@
 // What start-up hands to the scene.
 #pragma once
 
+#include <memory>
+
 class BatchEngine;
 class QQmlApplicationEngine;
 
-/// Sets the context properties of the scene. `deviceLibraryInstalled` tells whether any library fills the
-/// network role: without one the scene says so. `batchEngine` runs the scene's batches and outlives it.
-void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine, bool deviceLibraryInstalled);
+namespace sdk {
+class NetLibrary;
+}
+
+/// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
+/// `batchEngine` runs the scene's batches and outlives it.
+void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
+                    const std::shared_ptr<sdk::NetLibrary> &net);

@@ -163,7 +163,7 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_libraries.net != nullptr);
+    publishToScene(*m_engine, *m_batchEngine, m_libraries.net);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

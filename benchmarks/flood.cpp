@@ -98,7 +98,7 @@ QList<Figure> measureFlood()
         BatchEngine batchEngine(libraries.clock);
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        publishToScene(engine, batchEngine, true);
+        publishToScene(engine, batchEngine, libraries.net);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
         QTest::qWait(500);                                                     // the first picture

@@ -559,16 +559,16 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>没有该设备的搜索应答，或应答中没有MAC地址</source>
-        <translation>No search answer of this device, or none with its MAC</translation>
-    </message>
-    <message>
         <source>设备没有应答</source>
         <translation>The device did not respond</translation>
     </message>
     <message>
         <source>设备已不在列表中</source>
         <translation>The device is no longer in the list</translation>
+    </message>
+    <message>
+        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
+        <translation>No search answer of this device is known, or it contains neither a MAC address nor a UUID</translation>
     </message>
 </context>
 <context>
@@ -2892,6 +2892,10 @@ A right click copies the result</translation>
         <source>搜索设置</source>
         <translation>Search settings</translation>
     </message>
+    <message>
+        <source>为什么没有找到设备？</source>
+        <translation>Why were no devices found?</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPFiles</name>
@@ -3123,6 +3127,13 @@ File path: </translation>
     <message>
         <source>确定</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OVBanner</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
     </message>
 </context>
 <context>
@@ -3547,6 +3558,17 @@ File path: </translation>
         <source>导出</source>
         <translation>Export</translation>
     </message>
+    <message>
+        <source>查看原因</source>
+        <translation>See why</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n device fewer than in the last search</numerusform>
+            <numerusform>%n devices fewer than in the last search</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -3750,6 +3772,200 @@ File path: </translation>
     </message>
 </context>
 <context>
+    <name>SearchReportDialog</name>
+    <message>
+        <source>复制文本</source>
+        <translation>Copy text</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>搜索报告</source>
+        <translation>Search report</translation>
+    </message>
+</context>
+<context>
+    <name>SearchReportText</name>
+    <message>
+        <source>网卡</source>
+        <translation>Network interface</translation>
+    </message>
+    <message>
+        <source>本机没有可用的网卡</source>
+        <translation>This computer has no usable network interface</translation>
+    </message>
+    <message>
+        <source>检查网卡是否已安装并启用。</source>
+        <translation>Check that an interface is installed and switched on.</translation>
+    </message>
+    <message>
+        <source>按地址搜索</source>
+        <translation>Search by address</translation>
+    </message>
+    <message>
+        <source>已询问</source>
+        <translation>Addresses asked</translation>
+    </message>
+    <message>
+        <source>%1 个地址</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>有应答</source>
+        <translation>Answered</translation>
+    </message>
+    <message>
+        <source>本机没有到其中 %1 个地址的路由</source>
+        <translation>This computer has no route to %1 of these addresses</translation>
+    </message>
+    <message>
+        <source>为网卡设置网关，或添加一个与这些地址同一网段的地址。</source>
+        <translation>Set a gateway for the interface, or add an address in the same segment as these addresses.</translation>
+    </message>
+    <message>
+        <source>没有地址应答</source>
+        <translation>No address has answered</translation>
+    </message>
+    <message>
+        <source>检查搜索设置中的地址范围，以及设备是否已通电。</source>
+        <translation>Check the range in the search settings, and that the devices are switched on.</translation>
+    </message>
+    <message>
+        <source>其他网段</source>
+        <translation>Other segments</translation>
+    </message>
+    <message>
+        <source>找到的 %1 台设备不在本机的任何网段内</source>
+        <translation>Devices found outside every segment of this computer: %1</translation>
+    </message>
+    <message>
+        <source>登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。</source>
+        <translation>Before you log in to them, change their IP addresses or add an address in their segment to the interface.</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Addresses</translation>
+    </message>
+    <message>
+        <source>已发送</source>
+        <translation>Requests sent</translation>
+    </message>
+    <message>
+        <source>%1 个请求</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>已收到</source>
+        <translation>Messages received</translation>
+    </message>
+    <message>
+        <source>%1 条消息</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>找到</source>
+        <translation>Devices found</translation>
+    </message>
+    <message>
+        <source>%1 台设备</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>未采用</source>
+        <translation>Not used</translation>
+    </message>
+    <message>
+        <source>无法识别的消息 %1 条</source>
+        <translation>unreadable messages: %1</translation>
+    </message>
+    <message>
+        <source>非视频设备的消息 %1 条</source>
+        <translation>messages of other kinds of devices: %1</translation>
+    </message>
+    <message>
+        <source>没有服务地址的消息 %1 条</source>
+        <translation>messages without a service address: %1</translation>
+    </message>
+    <message>
+        <source>服务地址属于其他主机的消息 %1 条</source>
+        <translation>messages that name services of other hosts: %1</translation>
+    </message>
+    <message>
+        <source>设备离开网络的通知 %1 条</source>
+        <translation>notices of devices that leave the network: %1</translation>
+    </message>
+    <message>
+        <source>超出数量限制的消息 %1 条</source>
+        <translation>messages beyond the limit: %1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>网卡已停用</source>
+        <translation>The interface is switched off</translation>
+    </message>
+    <message>
+        <source>在操作系统的网络设置中启用它。</source>
+        <translation>Switch it on in the network settings of the operating system.</translation>
+    </message>
+    <message>
+        <source>网络未连接</source>
+        <translation>The interface is not connected</translation>
+    </message>
+    <message>
+        <source>检查网线和交换机，或连接到无线网络。</source>
+        <translation>Check the cable and the switch, or connect to a wireless network.</translation>
+    </message>
+    <message>
+        <source>没有IP地址</source>
+        <translation>The interface has no IP address</translation>
+    </message>
+    <message>
+        <source>设置一个与设备同一网段的地址，或启用DHCP。</source>
+        <translation>Set an address in the segment of the devices, or switch on DHCP.</translation>
+    </message>
+    <message>
+        <source>网卡不能发送组播</source>
+        <translation>The interface cannot send multicast</translation>
+    </message>
+    <message>
+        <source>在搜索设置中选择其他网段，按地址搜索。</source>
+        <translation>Choose other segments in the search settings to search by address.</translation>
+    </message>
+    <message>
+        <source>系统拒绝发送请求：%1</source>
+        <translation>The system refused to send requests: %1</translation>
+    </message>
+    <message>
+        <source>检查本机的防火墙和网卡的设置。</source>
+        <translation>Check the firewall of this computer and the settings of the interface.</translation>
+    </message>
+    <message>
+        <source>没有收到任何应答</source>
+        <translation>No answers were received</translation>
+    </message>
+    <message>
+        <source>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</source>
+        <translation>Check that the devices are switched on and connected to the same network, and that neither the firewall of this computer nor a switch filters answers. You can also search by address in the search settings.</translation>
+    </message>
+    <message>
+        <source>找到 %1 台设备，比上次搜索少 %2 台。</source>
+        <translation>Devices found: %1. The last search found %2 more.</translation>
+    </message>
+    <message>
+        <source>找到 %1 台设备。</source>
+        <translation>Devices found: %1.</translation>
+    </message>
+    <message>
+        <source>没有找到设备。</source>
+        <translation>No devices were found.</translation>
+    </message>
+</context>
+<context>
     <name>SearchSettingsDialog</name>
     <message>
         <source>起始ip不可以大于结束ip</source>
@@ -3802,6 +4018,14 @@ File path: </translation>
     <message>
         <source>登录搜索到的设备时默认使用此账号</source>
         <translation>Used by default to log in to the devices found</translation>
+    </message>
+    <message>
+        <source>搜索时用此账号登录设备</source>
+        <translation>Log in to devices with this account</translation>
+    </message>
+    <message>
+        <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
+        <translation>Reads the model, version and MAC address. Every device receives this account; a device that refuses the password is not asked again.</translation>
     </message>
 </context>
 <context>

@@ -547,16 +547,16 @@
         <translation>、</translation>
     </message>
     <message>
-        <source>没有该设备的搜索应答，或应答中没有MAC地址</source>
-        <translation>没有该设备的搜索应答，或应答中没有MAC地址</translation>
-    </message>
-    <message>
         <source>设备没有应答</source>
         <translation>设备没有应答</translation>
     </message>
     <message>
         <source>设备已不在列表中</source>
         <translation>设备已不在列表中</translation>
+    </message>
+    <message>
+        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
+        <translation>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</translation>
     </message>
 </context>
 <context>
@@ -2862,6 +2862,10 @@
         <source>搜索设置</source>
         <translation>搜索设置</translation>
     </message>
+    <message>
+        <source>为什么没有找到设备？</source>
+        <translation>为什么没有找到设备？</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPFiles</name>
@@ -3091,6 +3095,13 @@
     <message>
         <source>确定</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>OVBanner</name>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -3504,6 +3515,16 @@
         <source>导出</source>
         <translation>导出</translation>
     </message>
+    <message>
+        <source>查看原因</source>
+        <translation>查看原因</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>找到的设备比上次搜索少 %n 台</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -3704,6 +3725,200 @@
     </message>
 </context>
 <context>
+    <name>SearchReportDialog</name>
+    <message>
+        <source>复制文本</source>
+        <translation>复制文本</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>搜索报告</source>
+        <translation>搜索报告</translation>
+    </message>
+</context>
+<context>
+    <name>SearchReportText</name>
+    <message>
+        <source>网卡</source>
+        <translation>网卡</translation>
+    </message>
+    <message>
+        <source>本机没有可用的网卡</source>
+        <translation>本机没有可用的网卡</translation>
+    </message>
+    <message>
+        <source>检查网卡是否已安装并启用。</source>
+        <translation>检查网卡是否已安装并启用。</translation>
+    </message>
+    <message>
+        <source>按地址搜索</source>
+        <translation>按地址搜索</translation>
+    </message>
+    <message>
+        <source>已询问</source>
+        <translation>已询问</translation>
+    </message>
+    <message>
+        <source>%1 个地址</source>
+        <translation>%1 个地址</translation>
+    </message>
+    <message>
+        <source>有应答</source>
+        <translation>有应答</translation>
+    </message>
+    <message>
+        <source>本机没有到其中 %1 个地址的路由</source>
+        <translation>本机没有到其中 %1 个地址的路由</translation>
+    </message>
+    <message>
+        <source>为网卡设置网关，或添加一个与这些地址同一网段的地址。</source>
+        <translation>为网卡设置网关，或添加一个与这些地址同一网段的地址。</translation>
+    </message>
+    <message>
+        <source>没有地址应答</source>
+        <translation>没有地址应答</translation>
+    </message>
+    <message>
+        <source>检查搜索设置中的地址范围，以及设备是否已通电。</source>
+        <translation>检查搜索设置中的地址范围，以及设备是否已通电。</translation>
+    </message>
+    <message>
+        <source>其他网段</source>
+        <translation>其他网段</translation>
+    </message>
+    <message>
+        <source>找到的 %1 台设备不在本机的任何网段内</source>
+        <translation>找到的 %1 台设备不在本机的任何网段内</translation>
+    </message>
+    <message>
+        <source>登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。</source>
+        <translation>登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>已发送</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>%1 个请求</source>
+        <translation>%1 个请求</translation>
+    </message>
+    <message>
+        <source>已收到</source>
+        <translation>已收到</translation>
+    </message>
+    <message>
+        <source>%1 条消息</source>
+        <translation>%1 条消息</translation>
+    </message>
+    <message>
+        <source>找到</source>
+        <translation>找到</translation>
+    </message>
+    <message>
+        <source>%1 台设备</source>
+        <translation>%1 台设备</translation>
+    </message>
+    <message>
+        <source>未采用</source>
+        <translation>未采用</translation>
+    </message>
+    <message>
+        <source>无法识别的消息 %1 条</source>
+        <translation>无法识别的消息 %1 条</translation>
+    </message>
+    <message>
+        <source>非视频设备的消息 %1 条</source>
+        <translation>非视频设备的消息 %1 条</translation>
+    </message>
+    <message>
+        <source>没有服务地址的消息 %1 条</source>
+        <translation>没有服务地址的消息 %1 条</translation>
+    </message>
+    <message>
+        <source>服务地址属于其他主机的消息 %1 条</source>
+        <translation>服务地址属于其他主机的消息 %1 条</translation>
+    </message>
+    <message>
+        <source>设备离开网络的通知 %1 条</source>
+        <translation>设备离开网络的通知 %1 条</translation>
+    </message>
+    <message>
+        <source>超出数量限制的消息 %1 条</source>
+        <translation>超出数量限制的消息 %1 条</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>网卡已停用</source>
+        <translation>网卡已停用</translation>
+    </message>
+    <message>
+        <source>在操作系统的网络设置中启用它。</source>
+        <translation>在操作系统的网络设置中启用它。</translation>
+    </message>
+    <message>
+        <source>网络未连接</source>
+        <translation>网络未连接</translation>
+    </message>
+    <message>
+        <source>检查网线和交换机，或连接到无线网络。</source>
+        <translation>检查网线和交换机，或连接到无线网络。</translation>
+    </message>
+    <message>
+        <source>没有IP地址</source>
+        <translation>没有IP地址</translation>
+    </message>
+    <message>
+        <source>设置一个与设备同一网段的地址，或启用DHCP。</source>
+        <translation>设置一个与设备同一网段的地址，或启用DHCP。</translation>
+    </message>
+    <message>
+        <source>网卡不能发送组播</source>
+        <translation>网卡不能发送组播</translation>
+    </message>
+    <message>
+        <source>在搜索设置中选择其他网段，按地址搜索。</source>
+        <translation>在搜索设置中选择其他网段，按地址搜索。</translation>
+    </message>
+    <message>
+        <source>系统拒绝发送请求：%1</source>
+        <translation>系统拒绝发送请求：%1</translation>
+    </message>
+    <message>
+        <source>检查本机的防火墙和网卡的设置。</source>
+        <translation>检查本机的防火墙和网卡的设置。</translation>
+    </message>
+    <message>
+        <source>没有收到任何应答</source>
+        <translation>没有收到任何应答</translation>
+    </message>
+    <message>
+        <source>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</source>
+        <translation>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</translation>
+    </message>
+    <message>
+        <source>找到 %1 台设备，比上次搜索少 %2 台。</source>
+        <translation>找到 %1 台设备，比上次搜索少 %2 台。</translation>
+    </message>
+    <message>
+        <source>找到 %1 台设备。</source>
+        <translation>找到 %1 台设备。</translation>
+    </message>
+    <message>
+        <source>没有找到设备。</source>
+        <translation>没有找到设备。</translation>
+    </message>
+</context>
+<context>
     <name>SearchSettingsDialog</name>
     <message>
         <source>起始ip不可以大于结束ip</source>
@@ -3756,6 +3971,14 @@
     <message>
         <source>登录搜索到的设备时默认使用此账号</source>
         <translation>登录搜索到的设备时默认使用此账号</translation>
+    </message>
+    <message>
+        <source>搜索时用此账号登录设备</source>
+        <translation>搜索时用此账号登录设备</translation>
+    </message>
+    <message>
+        <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
+        <translation>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@ T.ApplicationWindow {
     readonly property var localConfig: LocalConfigApi
     readonly property BusyState busyState: BusyStateApi
     readonly property Batches batches: BatchesApi
+    readonly property SearchReports searchReports: SearchReportsApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     // qmllint enable unqualified
 
@@ -133,6 +134,7 @@ T.ApplicationWindow {
         id: search
         busyState: window.busyState
         deviceFactory: window.deviceFactory
+        searchReports: window.searchReports
         onLimited: (rows, leftOut) => popups.tell(
             qsTr("搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。").arg(rows).arg(leftOut))
     }
@@ -213,7 +215,9 @@ T.ApplicationWindow {
                 busyState: window.busyState
                 libraryInstalled: window.libraryInstalled
                 search: window.deviceSearch
+                searchReports: window.searchReports
                 onLiveRequested: ipport => popups.openLive(ipport)
+                onReportRequested: popups.openSearchReport()
                 onSaid: (message, kind) => popups.say(message, kind)
                 onSearchRequested: window.requestSearch()
                 onSettingsRequested: popups.openSearchSettings(searchSettings.read())
@@ -305,6 +309,7 @@ T.ApplicationWindow {
         languages: languageList.entries
         localConfig: window.localConfig
         logoName: window.title
+        searchReports: window.searchReports
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
         onEndConfirmed: window.leavePage(() => {

@@ -21,6 +21,7 @@
 #include "device/dialogrows.h"
 #include "device/encodeform.h"
 #include "device/failedmarks.h"
+#include "device/searchreports.h"
 #include "device/sessionwork.h"
 #include "device/systemtools.h"
 #include "device/treemodel.h"
@@ -194,6 +195,14 @@ struct DeviceTreeRowsForeign
     Q_GADGET
     QML_FOREIGN(DeviceTreeRows)
     QML_NAMED_ELEMENT(DeviceTreeRows)
+};
+
+struct SearchReportsForeign
+{
+    Q_GADGET
+    QML_FOREIGN(SearchReports)
+    QML_NAMED_ELEMENT(SearchReports)
+    QML_UNCREATABLE("there is one for the whole program")
 };
 
 struct SystemToolsForeign

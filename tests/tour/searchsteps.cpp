@@ -78,6 +78,28 @@ void walkStop(Driver &driver)
                  u"what a stopped search has found stays"_s);
 }
 
+/// A search that finds nothing explains why.
+void walkReport(Driver &driver)
+{
+    driver.click(u"searchSettingsButton"_s);
+    driver.click(u"localDomainBox"_s);
+    driver.fill(u"startIpField"_s, u"192.168.77.1"_s);
+    driver.fill(u"endIpField"_s, u"192.168.77.9"_s);
+    driver.click(u"okButton"_s);
+    driver.await(u"the search of an empty segment starts"_s, [&] { return isSearching(driver); });
+    awaitEndOfSearch(driver, 15);
+    driver.report(u"nothing-found"_s, driver.text(u"emptyTitle"_s));
+    driver.click(u"emptyLink"_s);
+    const QString summary = driver.text(u"reportSummary"_s);
+    driver.check(summary == translated("SearchReportText", "没有找到设备。"),
+                 u"the report says what was found"_s);
+    driver.report(u"search-report"_s, summary);
+    driver.click(u"okButton"_s);
+    expectToast(driver, translated("WindowPopups", "已复制到剪贴板"));
+    driver.key(Qt::Key_Escape);
+    driver.await(u"the report is closed"_s, [&] { return !driver.find(u"okButton"_s); });
+}
+
 } // namespace
 
 void walkFirstSearch(Driver &driver)
@@ -130,8 +152,11 @@ void walkSearchSettings(Driver &driver)
     driver.click(u"okButton"_s);
     driver.await(u"accepted settings start a search"_s, [&] { return isSearching(driver); });
     walkStop(driver);
+    walkReport(driver);
 
     driver.click(u"searchSettingsButton"_s);
+    driver.click(u"localDomainBox"_s);
+    driver.fill(u"startIpField"_s, u"192.168.2.1"_s);
     driver.fill(u"endIpField"_s, u"192.168.2.254"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the next search starts"_s, [&] { return isSearching(driver); });

@@ -6,6 +6,11 @@ Rectangle {
     id: root
 
     required property string text
+    property string iconName: "unplugged"
+    property string linkText  // of what the notice offers
+    property bool closable: false
+    signal linkActivated
+    signal closed
 
     implicitHeight: Theme.rowHeight
     color: Theme.colours.warnSoft
@@ -21,17 +26,43 @@ Rectangle {
         x: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
         color: Theme.colours.warn
-        name: "unplugged"
+        name: root.iconName
         size: Theme.boxSize
     }
     OVLabel {
         anchors.left: sign.right
         anchors.leftMargin: Theme.unit
-        anchors.right: parent.right
+        anchors.right: actions.left
         anchors.rightMargin: Theme.pageMargin
         height: parent.height
         color: Theme.colours.warnInk
         objectName: "bannerText"
         text: root.text
+    }
+    Row {
+        id: actions
+        anchors.right: parent.right
+        anchors.rightMargin: root.closable ? Theme.unit : Theme.pageMargin
+        height: parent.height
+        spacing: Theme.unit
+
+        OVLinkButton {
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "bannerLink"
+            text: root.linkText
+            visible: root.linkText !== ""
+            onClicked: root.linkActivated()
+        }
+        OVIconButton {
+            anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: Theme.unit * 3
+            implicitHeight: Theme.unit * 3
+            iconName: "close"
+            iconSize: Theme.smallIconSize
+            objectName: "bannerCloseButton"
+            toolTip: qsTr("关闭")
+            visible: root.closable
+            onClicked: root.closed()
+        }
     }
 }

@@ -9,8 +9,10 @@ Item {
     required property string title
     property string hint
     property string actionText
+    property string linkText  // of what else can be done, below the action
     property bool busy: false
     signal activated
+    signal linkActivated
 
     implicitHeight: column.implicitHeight
 
@@ -72,6 +74,13 @@ Item {
             text: root.actionText
             visible: root.actionText !== ""
             onClicked: root.activated()
+        }
+        OVLinkButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "emptyLink"
+            text: root.linkText
+            visible: root.linkText !== ""
+            onClicked: root.linkActivated()
         }
     }
 }

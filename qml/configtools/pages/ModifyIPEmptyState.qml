@@ -9,9 +9,11 @@ OVEmptyState {
     required property bool libraryInstalled
     required property int hiddenCount  // devices that the filters leave out
     required property bool searchesNothing  // the search settings name nothing to search
+    property bool hasReport: false  // of the last search, offered by the page
     signal searchRequested
     signal settingsRequested
     signal filtersCleared
+    signal reportRequested
 
     enum Reason { Hidden, Searching, NoLibrary, NothingToSearch, NothingFound }
 
@@ -35,6 +37,8 @@ OVEmptyState {
     title: texts[reason].title
     hint: texts[reason].hint
     actionText: texts[reason].action
+    linkText: reason === ModifyIPEmptyState.NothingFound && hasReport ? qsTr("为什么没有找到设备？") : ""
+    onLinkActivated: reportRequested()
     onActivated: {
         if (reason === ModifyIPEmptyState.Hidden)
             filtersCleared();

@@ -9,7 +9,9 @@ FocusScope {
     required property BusyState busyState
     required property DeviceSearch search
     required property bool libraryInstalled
+    required property SearchReports searchReports
     signal searchRequested
+    signal reportRequested
     signal settingsRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind)
@@ -140,10 +142,25 @@ FocusScope {
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }
 
+    OVBanner {
+        id: notice
+        x: Theme.pageMargin
+        y: toolBar.height
+        width: parent.width - 2 * Theme.pageMargin
+        closable: true
+        iconName: "alert"
+        linkText: qsTr("查看原因")
+        objectName: "missingNotice"
+        text: qsTr("找到的设备比上次搜索少 %n 台", "", page.searchReports.missing)
+        visible: page.searchReports.missing > 0 && table.count > 0
+        onClosed: page.searchReports.dismiss()
+        onLinkActivated: page.reportRequested()
+    }
+
     ModifyIPTable {
         id: table
         x: Theme.pageMargin
-        y: toolBar.height
+        y: toolBar.height + (notice.visible ? notice.height + Theme.unit : 0)
         width: parent.width - 2 * Theme.pageMargin
         height: foot.y - y
         checkState: devices.checkState
@@ -166,11 +183,13 @@ FocusScope {
 
         ModifyIPEmptyState {
             anchors.fill: parent
+            hasReport: page.searchReports.available
             hiddenCount: devices.totalCount
             libraryInstalled: page.libraryInstalled
             searching: page.search.running
             searchesNothing: page.search.searchedNothing
             onFiltersCleared: page.clearFilters()
+            onReportRequested: page.reportRequested()
             onSearchRequested: page.searchRequested()
             onSettingsRequested: page.settingsRequested()
         }

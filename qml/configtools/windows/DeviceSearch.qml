@@ -7,6 +7,7 @@ QtObject {
 
     required property BusyState busyState
     required property var deviceFactory
+    required property SearchReports searchReports
     property int count: 0
     property bool running: false
     property bool searchedNothing: false  // the settings named nothing to search
@@ -27,6 +28,8 @@ QtObject {
         stopping = false;
         running = true;
         searchedNothing = !settings.localDomain && !settings.otherDomain;
+        searchReports.begin(settings.localDomain,
+                            settings.otherDomain ? settings.startIP + " - " + settings.endIP : "");
         deviceFactory.setDefaultAccount("dh", settings.userName, settings.password);
         if (settings.otherDomain)
             deviceFactory.setSearchByIPInfo("dh", AddressTools.toNumber(settings.startIP),
@@ -88,6 +91,7 @@ QtObject {
         }
         function onSignalSearchDone() {
             root.running = false;
+            root.searchReports.end(root.count, root.stopping);
             root.startNext();
         }
     }

@@ -9,6 +9,7 @@ Item {
     required property BusyState busyState
     required property var deviceFactory
     required property var localConfig
+    required property SearchReports searchReports
     required property var languages
     required property string currentLanguage
     required property string logoName
@@ -30,6 +31,10 @@ Item {
         const dialog = searchSettings.wanted();
         dialog.load(values);
         dialog.open();
+    }
+
+    function openSearchReport() {
+        searchReport.wanted().open();
     }
 
     function openRestartPrompt() {
@@ -85,6 +90,14 @@ Item {
                 settings.close();
             }
             onRefused: message => root.say(message, OVToast.Error)
+        }
+    }
+    OVOnDemand {
+        id: searchReport
+        visible: false
+        sourceComponent: SearchReportDialog {
+            reports: root.searchReports
+            onCopied: root.say(qsTr("已复制到剪贴板"), OVToast.Success)
         }
     }
     OVOnDemand {
