@@ -3770,6 +3770,18 @@ File path: </translation>
         <source>设备不接受该值</source>
         <translation>The device does not accept this value</translation>
     </message>
+    <message>
+        <source>设备证书未确认</source>
+        <translation>The certificate of the device is not confirmed</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>The certificate of the device has changed</translation>
+    </message>
+    <message>
+        <source>已取消</source>
+        <translation>Cancelled</translation>
+    </message>
 </context>
 <context>
     <name>SearchReportDialog</name>
@@ -4895,6 +4907,10 @@ File path: </translation>
     <message>
         <source>设备已是此版本</source>
         <translation>The device has this version already</translation>
+    </message>
+    <message>
+        <source>读取升级文档</source>
+        <translation>Reading an upgrade document</translation>
     </message>
 </context>
 <context>

@@ -3723,6 +3723,18 @@
         <source>设备不接受该值</source>
         <translation>设备不接受该值</translation>
     </message>
+    <message>
+        <source>设备证书未确认</source>
+        <translation>设备证书未确认</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>设备证书已改变</translation>
+    </message>
+    <message>
+        <source>已取消</source>
+        <translation>已取消</translation>
+    </message>
 </context>
 <context>
     <name>SearchReportDialog</name>
@@ -4841,6 +4853,10 @@
     <message>
         <source>设备已是此版本</source>
         <translation>设备已是此版本</translation>
+    </message>
+    <message>
+        <source>读取升级文档</source>
+        <translation>读取升级文档</translation>
     </message>
 </context>
 <context>
