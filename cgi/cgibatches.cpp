@@ -93,11 +93,14 @@ QString CgiBatches::addressOf(const QString &ipport, const QString &command)
     const qsizetype colon = ipport.lastIndexOf(QLatin1Char(':'));
     const QString ip = ipport.left(colon);
     const bool isTunnel = ip == QLatin1String("127.0.0.1");
+    const QVariantMap row = isTunnel ? QVariantMap() : m_factory.getDeviceInfo(family, ipport);
     const int port = isTunnel ? m_factory.getP2PWebPort(QStringView(ipport).mid(colon + 1).toInt())
-                              : m_factory.getDeviceInfo(family, ipport).value(DeviceRowKey::httpport).toInt();
+                              : row.value(DeviceRowKey::httpport).toInt();
     if (isTunnel && port == 0)
         return {};
-    return QStringLiteral("http://%1:%2").arg(ip).arg(port != 0 ? port : usualPort) + command;
+    const QString scheme =
+        row.value(DeviceRowKey::https).toBool() ? QStringLiteral("https") : QStringLiteral("http");
+    return QStringLiteral("%1://%2:%3").arg(scheme, ip).arg(port != 0 ? port : usualPort) + command;
 }
 
 QString CgiBatches::answerOf(const QString &identity, const QString &result) const

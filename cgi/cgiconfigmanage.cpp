@@ -106,6 +106,11 @@ void CGIConfigManage::setProxy(const QString &proxy)
     m_surroundings.transport->setProxy(proxy);
 }
 
+void CGIConfigManage::setCertificateHandler(sdk::CertificateHandler handler, void *user)
+{
+    m_surroundings.transport->setCertificateHandler(handler, user);
+}
+
 QString CGIConfigManage::singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                          const QString &ipport)
 {

@@ -37,6 +37,10 @@ public:
     /// Where requests to other machines go from now on, as "http://host:port"; empty: to the devices.
     void setProxy(const QString &proxy);
 
+    /// Who decides about the certificates of devices that are asked over HTTPS; `user` must outlive the
+    /// requests.
+    void setCertificateHandler(sdk::CertificateHandler handler, void *user);
+
     /// Sends one command. The text of the answer, the path of the file that it was saved in, or "Error:" and
     /// why not. Refused while another command or a workbook runs.
     Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &pass,

@@ -12,12 +12,25 @@ namespace {
 constexpr long accepted = 200;
 constexpr long credentialsWanted = 401;
 
+QString unknownCertificateText()
+{
+    return CgiProcedure::tr("设备证书未确认。");
+}
+
+QString changedCertificateText()
+{
+    return CgiProcedure::tr("设备证书已改变。");
+}
+
 /// Why an exchange did not bring what was asked for; empty when it did. The words of the library would speak
 /// of a full disk when the headers are too long.
 QString failureOf(const HttpOutcome &outcome)
 {
     if (outcome.hasTooLongHeaders)
         return CgiProcedure::tr("应答头过大。");
+    if (outcome.certificateRefusal)
+        return outcome.certificateRefusal == sdk::CertificateVerdict::Changed ? changedCertificateText()
+                                                                              : unknownCertificateText();
     return outcome.isStopped ? CgiProcedure::tr("操作已停止。") : outcome.failure;
 }
 
@@ -51,6 +64,8 @@ CgiProcedure::CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits 
 QString CgiProcedure::loginRefusal(int loginResult)
 {
     // The one code that is no LoginResult: something that no back end has a name for.
+    constexpr int unknownCertificate = 18;
+    constexpr int changedCertificate = 19;
     constexpr int unknownError = 99;
     constexpr int noSuchAccount = 1;
     constexpr int wrongPassword = 2;
@@ -70,6 +85,10 @@ QString CgiProcedure::loginRefusal(int loginResult)
         return tr("设备未初始化。");
     case upgrading:
         return tr("设备正在升级。");
+    case unknownCertificate:
+        return unknownCertificateText();
+    case changedCertificate:
+        return changedCertificateText();
     case unknownError:
         return tr("未知错误。");
     default:
@@ -107,7 +126,8 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
     }
     if (!taken.failure.isEmpty())
         return {.text = failedResult + taken.failure,
-                .isUnanswered = first.status == 0 && !first.isStopped && !first.hasTooLongHeaders};
+                .isUnanswered = first.status == 0 && !first.isStopped && !first.hasTooLongHeaders,
+                .certificateRefusal = first.certificateRefusal};
     if (first.status != accepted)
         return {.text = failedResult + tr("服务器连接失败"),
                 .isLoginRefused = first.status == credentialsWanted};

@@ -44,6 +44,9 @@ struct CgiAnswer
     QString text;                ///< see CgiProcedure::run()
     bool isUnanswered = false;   ///< the device has not answered the first request: another try may succeed
     bool isLoginRefused = false; ///< the web service does not accept the account, or not its password
+
+    /// Why nothing was sent over HTTPS: the certificate of the device.
+    std::optional<sdk::CertificateVerdict> certificateRefusal = {};
 };
 
 /// The login is checked first, so that a wrong password is told in the device's own terms. Then the command

@@ -3,6 +3,19 @@
 #include "cgi/cgibatches.h"
 #include "cgi/internal/longanswers.h"
 
+namespace {
+
+int failureOf(const CgiAnswer &answer)
+{
+    if (!answer.certificateRefusal)
+        return commandFailed;
+    return resultCode(answer.certificateRefusal == sdk::CertificateVerdict::Changed
+                          ? LoginResult::ChangedCertificate
+                          : LoginResult::UnknownCertificate);
+}
+
+} // namespace
+
 DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command, const AnswerSink &sink)
 {
     return [surroundings, command, sink](const StepControl &control) {
@@ -26,7 +39,7 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
             return StepOutcome{.result = resultCode(LoginResult::WrongPassword), .text = beginning};
         if (answer.text.startsWith(failedResult))
             return StepOutcome{
-                .result = commandFailed, .text = beginning, .isUnanswered = answer.isUnanswered};
+                .result = failureOf(answer), .text = beginning, .isUnanswered = answer.isUnanswered};
         return StepOutcome{.result = resultCode(LoginResult::Success), .text = {}, .answer = beginning};
     };
 }

@@ -1,5 +1,7 @@
 #include "cgi/curltransport.h"
 
+#include "sdk/certificates/certificatecheck.h"
+
 #include <curl/curl.h>
 
 #include <cstdio>
@@ -25,13 +27,43 @@ struct MultiHandleDeleter
 };
 using MultiHandle = std::unique_ptr<CURLM, MultiHandleDeleter>;
 
+struct UrlDeleter
+{
+    void operator()(CURLU *url) const { curl_url_cleanup(url); }
+};
+
+QByteArray partOf(CURLU *url, CURLUPart part)
+{
+    char *text = nullptr;
+    if (curl_url_get(url, part, &text, CURLU_DEFAULT_PORT) != CURLUE_OK)
+        return {};
+    const QByteArray copy(text);
+    curl_free(text);
+    return copy;
+}
+
+/// Read by the library that makes the connection: another reader might see another host.
+sdk::TlsPeer peerOf(const QByteArray &address)
+{
+    const std::unique_ptr<CURLU, UrlDeleter> url(curl_url());
+    if (!url || curl_url_set(url.get(), CURLUPART_URL, address.constData(), 0) != CURLUE_OK)
+        return {};
+    QByteArray host = partOf(url.get(), CURLUPART_HOST);
+    if (host.startsWith('[') && host.endsWith(']'))
+        host = host.sliced(1, host.size() - 2);
+    return {.address = host.toStdString(), .port = partOf(url.get(), CURLUPART_PORT).toInt(), .identity = {}};
+}
+
 class CurlConversation : public HttpConversation
 {
 public:
     CurlConversation(Handle handle, MultiHandle multi, const CgiRequest &request,
-                     std::chrono::seconds connectLimit, const QByteArray &proxy)
-        : m_handle(std::move(handle)), m_multi(std::move(multi))
+                     std::chrono::seconds connectLimit, const QByteArray &proxy,
+                     std::shared_ptr<const sdk::CertificateDecision> certificates)
+        : m_certificates(std::move(certificates)), m_check(m_certificates.get(), peerOf(request.url())),
+          m_handle(std::move(handle)), m_multi(std::move(multi))
     {
+        m_check.attachTo(m_handle.get());
         set(CURLOPT_HTTPGET, 1L);
         set(CURLOPT_URL, request.url().constData());
         // Digest in the form of older browsers, which leaves the query out: what the devices expect.
@@ -71,6 +103,7 @@ public:
         HttpOutcome outcome;
         outcome.isStopped = result == CURLE_ABORTED_BY_CALLBACK;
         outcome.hasTooLongHeaders = m_headerLength > longestHeaderText;
+        outcome.certificateRefusal = m_check.refusal();
         curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &outcome.status);
         if (result != CURLE_OK) {
             outcome.failure = QString::fromUtf8(curl_easy_strerror(result));
@@ -136,6 +169,8 @@ private:
         return isTaken ? length : 0;
     }
 
+    const std::shared_ptr<const sdk::CertificateDecision> m_certificates;
+    sdk::CertificateCheck m_check;
     const Handle m_handle;
     const MultiHandle m_multi; ///< keeps the connection for the next exchange
     BodySink m_sink;
@@ -153,6 +188,11 @@ void CurlTransport::setProxy(const QString &proxy)
     m_proxy = proxy.toUtf8();
 }
 
+void CurlTransport::setCertificateHandler(sdk::CertificateHandler handler, void *user)
+{
+    m_certificates->setHandler(handler, user);
+}
+
 std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
 {
     // Once in the process, before the first handle. Not earlier: it takes 3 MB for encrypted connections.
@@ -164,5 +204,5 @@ std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
         return nullptr;
     const std::lock_guard lock(m_mutex);
     return std::make_unique<CurlConversation>(std::move(handle), std::move(multi), request, m_connectLimit,
-                                              m_proxy);
+                                              m_proxy, m_certificates);
 }

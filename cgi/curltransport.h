@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cgi/httptransport.h"
+#include "sdk/certificates/certificatedecision.h"
 
 #include <mutex>
 
@@ -12,12 +13,15 @@ public:
     explicit CurlTransport(std::chrono::seconds connectLimit = defaultConnectLimit);
 
     void setProxy(const QString &proxy) override;
+    void setCertificateHandler(sdk::CertificateHandler handler, void *user) override;
     [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &request) override;
 
 private:
     static constexpr std::chrono::seconds defaultConnectLimit{5};
 
     const std::chrono::seconds m_connectLimit;
+    const std::shared_ptr<sdk::CertificateDecision> m_certificates =
+        std::make_shared<sdk::CertificateDecision>();
     std::mutex m_mutex; ///< of the proxy
     QByteArray m_proxy;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cgi/cgirequest.h"
+#include "sdk/certificateblocks.h"
 
 #include <QByteArray>
 #include <QString>
@@ -9,6 +10,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 /// How long an exchange may take.
 struct HttpLimits
@@ -25,6 +27,9 @@ struct HttpOutcome
     QString failure;                ///< why it failed, in words; empty when it did not
     bool hasTooLongHeaders = false; ///< ended for that; a failure, too
     bool isStopped = false;         ///< ended by the watch; a failure, too
+
+    /// Why nothing was sent over HTTPS: the certificate of the device; a failure, too.
+    std::optional<sdk::CertificateVerdict> certificateRefusal = {};
 };
 
 /// Takes the body of an answer piece by piece. False ends the exchange, which then has failed.
@@ -67,6 +72,9 @@ public:
     /// Where requests to other machines go from now on, as "http://host:port". Empty, as at first: straight
     /// to the device, whatever the environment says, since devices are in the local network.
     virtual void setProxy(const QString &proxy) = 0;
+
+    /// Who decides about the certificates of devices. Until then none is asked over HTTPS.
+    virtual void setCertificateHandler(sdk::CertificateHandler handler, void *user) = 0;
 
     /// Null when the library has no memory left.
     [[nodiscard]] virtual std::unique_ptr<HttpConversation> open(const CgiRequest &request) = 0;

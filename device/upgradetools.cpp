@@ -67,6 +67,10 @@ QString UpgradeTools::text(int result)
         return tr("程序退出，升级中断");
     case VersionUnknown:
         return tr("设备已恢复，但无法确认版本");
+    case UnknownCertificate:
+        return tr("设备证书未确认");
+    case ChangedCertificate:
+        return tr("设备证书已改变");
     }
     return tr("未知错误 %1").arg(result);
 }
@@ -110,6 +114,10 @@ int UpgradeTools::batchResult(Result result)
         return upgradeFailed;
     case VersionUnknown:
         return upgradeUnconfirmed;
+    case UnknownCertificate:
+        return resultCode(LoginResult::UnknownCertificate);
+    case ChangedCertificate:
+        return resultCode(LoginResult::ChangedCertificate);
     default: // stopped before the device has changed, or not begun
         return resultCode(LoginResult::NotDone);
     }

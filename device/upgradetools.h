@@ -47,6 +47,8 @@ public:
         Stopped = 26,
         Cut = 27,            ///< the program ended
         VersionUnknown = 28, ///< the device is back, and nothing says which firmware it has
+        UnknownCertificate = 29,
+        ChangedCertificate = 30,
     };
     Q_ENUM(Result)
 

@@ -57,6 +57,8 @@ bool maySucceedLater(const StepOutcome &outcome)
     case resultCode(LoginResult::NetworkFailure):
     case resultCode(LoginResult::Upgrading):
     case resultCode(LoginResult::NotDone):
+    case resultCode(LoginResult::UnknownCertificate): // the user may have agreed meanwhile
+    case resultCode(LoginResult::ChangedCertificate):
     case deviceBusy:
     case upgradeFailed:
     case upgradeUnconfirmed:

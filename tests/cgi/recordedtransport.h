@@ -25,6 +25,7 @@ public:
     std::atomic<int> atGate = 0;      ///< exchanges that have come to it
 
     void setProxy(const QString &) override {}
+    void setCertificateHandler(sdk::CertificateHandler, void *) override {}
 
     [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &request) override
     {

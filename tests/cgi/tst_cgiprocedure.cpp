@@ -3,6 +3,7 @@
 #include "cgi/curltransport.h"
 #include "tests/cgi/rawserver.h"
 #include "tests/cgi/recordedtransport.h"
+#include "tests/cgi/tlsserver.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
@@ -93,6 +94,37 @@ private Q_SLOTS:
                 [] {
                     return QDateTime(QDate(2026, 3, 9), QTime(7, 5, 1));
                 }};
+    }
+
+    void aCertificateIsCheckedBeforeThePasswordIsSent_data()
+    {
+        const auto row = dataTable<int, QString, int>({"verdict", "result", "requests"});
+        row("trusted", int(sdk::CertificateVerdict::Trusted), QStringLiteral("OK"), 2);
+        row("unknown", int(sdk::CertificateVerdict::Unknown), QStringLiteral("Error:设备证书未确认。"), 0);
+        row("changed", int(sdk::CertificateVerdict::Changed), QStringLiteral("Error:设备证书已改变。"), 0);
+    }
+
+    void aCertificateIsCheckedBeforeThePasswordIsSent()
+    {
+        QFETCH(const int, verdict);
+        struct Asked
+        {
+            sdk::CertificateVerdict verdict;
+            QString at = {};
+        } asked = {sdk::CertificateVerdict(verdict)};
+        const TlsServer server("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nContent-Length: 2\r\n\r\nOK");
+        m_surroundings.transport->setCertificateHandler(
+            [](const sdk::DeviceCertificate *certificate, void *context) {
+                auto *decider = static_cast<Asked *>(context);
+                decider->at = QStringLiteral("%1:%2")
+                                  .arg(QLatin1String(certificate->address.data()))
+                                  .arg(certificate->port);
+                return decider->verdict;
+            },
+            &asked);
+        QTEST(run(QStringLiteral("https://127.0.0.1:%1/text").arg(server.port())), "result");
+        QCOMPARE(asked.at, QStringLiteral("127.0.0.1:%1").arg(server.port()));
+        QTEST(int(server.requests().size()), "requests");
     }
 
     void devicesAreGivenTheCredentialsThatTheyAskFor_data()
