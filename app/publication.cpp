@@ -8,6 +8,7 @@
 #include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
 #include "device/batch/upgradebatches.h"
+#include "device/certificatelist.h"
 #include "device/devicefactory.h"
 #include "device/searchreports.h"
 
@@ -16,6 +17,7 @@
 #include <QQmlContext>
 
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
+                    const std::shared_ptr<CertificateStore> &certificates,
                     const std::shared_ptr<sdk::NetLibrary> &net)
 {
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
@@ -31,6 +33,8 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
     context->setContextProperty(QStringLiteral("AddingBatchesApi"),
                                 new AddingBatches(*CDeviceFactory::getinstance(), *batches, batches));
+    context->setContextProperty(QStringLiteral("CertificatesApi"),
+                                new CertificateList(certificates, &engine));
     context->setContextProperty(QStringLiteral("CgiBatchesApi"),
                                 new CgiBatches(*CDeviceFactory::getinstance(), *batches,
                                                CGIConfigManage::getinstance()->surroundings(), cgiAccount,

@@ -4,6 +4,7 @@
 #include <memory>
 
 class BatchEngine;
+class CertificateStore;
 class QQmlApplicationEngine;
 
 namespace sdk {
@@ -13,4 +14,5 @@ class NetLibrary;
 /// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
 /// `batchEngine` runs the scene's batches and outlives it.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
+                    const std::shared_ptr<CertificateStore> &certificates,
                     const std::shared_ptr<sdk::NetLibrary> &net);

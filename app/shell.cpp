@@ -8,6 +8,7 @@
 #include "app/translationfile.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/batch/batchengine.h"
+#include "device/certificatestore.h"
 #include "device/devicefactory.h"
 #include "device/devicehik.h"
 #include "device/deviceol.h"
@@ -88,6 +89,7 @@ std::optional<int> Shell::begin()
     }
     if (!chooseLibraries())
         return sceneFailed;
+    chooseCertificates();
     registerBackEnds();
     VideoItem::registerLibraries(m_libraries);
     loadScene();
@@ -137,6 +139,15 @@ bool Shell::chooseLibraries()
     return true;
 }
 
+void Shell::chooseCertificates()
+{
+    m_certificates = std::make_shared<CertificateStore>(QCoreApplication::applicationDirPath() +
+                                                        QStringLiteral("/certificates.json"));
+    if (m_libraries.net)
+        m_libraries.net->NetSetCertificateHandler(&CertificateStore::handle, m_certificates.get());
+    CGIConfigManage::getinstance()->setCertificateHandler(&CertificateStore::handle, m_certificates.get());
+}
+
 void Shell::registerBackEnds()
 {
     const auto store = std::make_shared<DeviceStore>(m_libraries.clock);
@@ -163,7 +174,7 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_libraries.net);
+    publishToScene(*m_engine, *m_batchEngine, m_certificates, m_libraries.net);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

@@ -10,6 +10,7 @@
 #include <optional>
 
 class BatchEngine;
+class CertificateStore;
 class QQmlApplicationEngine;
 
 /// Start-up and clean-up around the event loop, given an application object. Everything on the main thread.
@@ -43,12 +44,14 @@ public:
 private:
     void loadTranslators();
     [[nodiscard]] bool chooseLibraries();
+    void chooseCertificates();
     void registerBackEnds();
     void loadScene();
 
     const CommandLine m_commandLine;
     QTranslator m_fallbackTranslator; ///< English, for texts that the chosen language lacks
     QTranslator m_mainTranslator;
+    std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which ask it
     sdk::SdkLibraries m_libraries;
     std::shared_ptr<BatchEngine> m_batchEngine;
     std::unique_ptr<QQmlApplicationEngine> m_engine;

@@ -4,6 +4,7 @@
 #include "app/publication.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/batch/batchengine.h"
+#include "device/certificatestore.h"
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
@@ -98,7 +99,7 @@ QList<Figure> measureFlood()
         BatchEngine batchEngine(libraries.clock);
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        publishToScene(engine, batchEngine, libraries.net);
+        publishToScene(engine, batchEngine, std::make_shared<CertificateStore>(QString()), libraries.net);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
         QTest::qWait(500);                                                     // the first picture

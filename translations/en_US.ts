@@ -650,6 +650,89 @@
     </message>
 </context>
 <context>
+    <name>CertificateDialog</name>
+    <message>
+        <source>暂不信任</source>
+        <translation>Not now</translation>
+    </message>
+    <message>
+        <source>信任所选证书</source>
+        <translation>Trust selected</translation>
+    </message>
+    <message>
+        <source>确认设备证书</source>
+        <translation>Confirm device certificates</translation>
+    </message>
+    <message>
+        <source>证书无法保存，未信任任何证书。
+%1</source>
+        <translation>The certificates cannot be saved. None is trusted.
+%1</translation>
+    </message>
+    <message>
+        <source>已选 %1 / %2 台设备</source>
+        <translation>%1 of %2 devices selected</translation>
+    </message>
+    <message>
+        <source>以下设备通过 HTTPS 出示了自己创建的证书，尚未发送密码。请核对指纹，确认后只信任该密钥。</source>
+        <translation>These devices use certificates of their own over HTTPS. No password was sent. Compare the fingerprints: once you agree, only this key is trusted.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的证书与已确认的不同，已停止发送密码。可能有人冒充设备：仅在知道原因（如设备已恢复出厂设置）时才勾选。</source>
+        <translation>
+            <numerusform>%n device shows another key than the confirmed one, and no password was sent. Somebody may pretend to be the device: tick it only if you know the reason, such as a factory reset.</numerusform>
+            <numerusform>%n devices show other keys than the confirmed ones, and no passwords were sent. Somebody may pretend to be a device: tick it only if you know the reason, such as a factory reset.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:port</translation>
+    </message>
+    <message>
+        <source>MAC 或 UUID</source>
+        <translation>MAC or UUID</translation>
+    </message>
+    <message>
+        <source>证书名称</source>
+        <translation>Certificate</translation>
+    </message>
+    <message>
+        <source>有效期</source>
+        <translation>Validity</translation>
+    </message>
+    <message>
+        <source>指纹</source>
+        <translation>Fingerprint</translation>
+    </message>
+    <message>
+        <source>指纹（SHA-256）</source>
+        <translation>SHA-256 of key</translation>
+    </message>
+    <message>
+        <source>已确认的指纹</source>
+        <translation>Confirmed key</translation>
+    </message>
+    <message>
+        <source>证书已改变</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>新证书</source>
+        <translation>New</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateStore</name>
+    <message>
+        <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
+        <translation>The file of certificates is damaged. None of them is trusted, please confirm them again: %1</translation>
+    </message>
+</context>
+<context>
     <name>CgiAnswerWindow</name>
     <message>
         <source>复制成功</source>
@@ -759,6 +842,14 @@
     <message>
         <source>设备正在升级。</source>
         <translation>The device is being upgraded.</translation>
+    </message>
+    <message>
+        <source>设备证书未确认。</source>
+        <translation>The certificate of the device is not confirmed.</translation>
+    </message>
+    <message>
+        <source>设备证书已改变。</source>
+        <translation>The certificate of the device has changed.</translation>
     </message>
 </context>
 <context>
@@ -3777,6 +3868,11 @@ File path: </translation>
     <message>
         <source>设备证书已改变</source>
         <translation>The certificate of the device has changed</translation>
+        <translation>Certificate not confirmed</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>Certificate has changed</translation>
     </message>
     <message>
         <source>已取消</source>
@@ -5289,6 +5385,14 @@ File path: </translation>
         <source>设备已恢复，但无法确认版本</source>
         <translation>The device is back, but its version cannot be confirmed</translation>
     </message>
+    <message>
+        <source>设备证书未确认</source>
+        <translation>Certificate not confirmed</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>Certificate has changed</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -5494,6 +5598,13 @@ File path: </translation>
     <message>
         <source>已开始写入的设备会自行完成升级，请勿断电。</source>
         <translation> Devices that are being written go on by themselves: do not switch them off.</translation>
+    </message>
+    <message numerus="yes">
+        <source>已信任 %n 个证书，请重试刚才的操作</source>
+        <translation>
+            <numerusform>%n certificate is trusted. Please try again.</numerusform>
+            <numerusform>%n certificates are trusted. Please try again.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

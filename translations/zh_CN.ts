@@ -638,6 +638,88 @@
     </message>
 </context>
 <context>
+    <name>CertificateDialog</name>
+    <message>
+        <source>暂不信任</source>
+        <translation>暂不信任</translation>
+    </message>
+    <message>
+        <source>信任所选证书</source>
+        <translation>信任所选证书</translation>
+    </message>
+    <message>
+        <source>确认设备证书</source>
+        <translation>确认设备证书</translation>
+    </message>
+    <message>
+        <source>证书无法保存，未信任任何证书。
+%1</source>
+        <translation>证书无法保存，未信任任何证书。
+%1</translation>
+    </message>
+    <message>
+        <source>已选 %1 / %2 台设备</source>
+        <translation>已选 %1 / %2 台设备</translation>
+    </message>
+    <message>
+        <source>以下设备通过 HTTPS 出示了自己创建的证书，尚未发送密码。请核对指纹，确认后只信任该密钥。</source>
+        <translation>以下设备通过 HTTPS 出示了自己创建的证书，尚未发送密码。请核对指纹，确认后只信任该密钥。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的证书与已确认的不同，已停止发送密码。可能有人冒充设备：仅在知道原因（如设备已恢复出厂设置）时才勾选。</source>
+        <translation>
+            <numerusform>%n 台设备的证书与已确认的不同，已停止发送密码。可能有人冒充设备：仅在知道原因（如设备已恢复出厂设置）时才勾选。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:端口</translation>
+    </message>
+    <message>
+        <source>MAC 或 UUID</source>
+        <translation>MAC 或 UUID</translation>
+    </message>
+    <message>
+        <source>证书名称</source>
+        <translation>证书名称</translation>
+    </message>
+    <message>
+        <source>有效期</source>
+        <translation>有效期</translation>
+    </message>
+    <message>
+        <source>指纹</source>
+        <translation>指纹</translation>
+    </message>
+    <message>
+        <source>指纹（SHA-256）</source>
+        <translation>指纹（SHA-256）</translation>
+    </message>
+    <message>
+        <source>已确认的指纹</source>
+        <translation>已确认的指纹</translation>
+    </message>
+    <message>
+        <source>证书已改变</source>
+        <translation>证书已改变</translation>
+    </message>
+    <message>
+        <source>新证书</source>
+        <translation>新证书</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateStore</name>
+    <message>
+        <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
+        <translation>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</translation>
+    </message>
+</context>
+<context>
     <name>CgiAnswerWindow</name>
     <message>
         <source>复制成功</source>
@@ -747,6 +829,14 @@
     <message>
         <source>设备正在升级。</source>
         <translation>设备正在升级。</translation>
+    </message>
+    <message>
+        <source>设备证书未确认。</source>
+        <translation>设备证书未确认。</translation>
+    </message>
+    <message>
+        <source>设备证书已改变。</source>
+        <translation>设备证书已改变。</translation>
     </message>
 </context>
 <context>
@@ -5234,6 +5324,14 @@
         <source>设备已恢复，但无法确认版本</source>
         <translation>设备已恢复，但无法确认版本</translation>
     </message>
+    <message>
+        <source>设备证书未确认</source>
+        <translation>设备证书未确认</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>设备证书已改变</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -5437,6 +5535,12 @@
     <message>
         <source>已开始写入的设备会自行完成升级，请勿断电。</source>
         <translation>已开始写入的设备会自行完成升级，请勿断电。</translation>
+    </message>
+    <message numerus="yes">
+        <source>已信任 %n 个证书，请重试刚才的操作</source>
+        <translation>
+            <numerusform>已信任 %n 个证书，请重试刚才的操作</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -67,9 +67,18 @@ UpgradeTools::Result resultOfLogin(LoginResult result)
     case LoginResult::ProtocolMismatch:
     case LoginResult::NotSupported:
         return UpgradeTools::NotSupported;
+    case LoginResult::UnknownCertificate:
+        return UpgradeTools::UnknownCertificate;
+    case LoginResult::ChangedCertificate:
+        return UpgradeTools::ChangedCertificate;
     default:
         return UpgradeTools::NoAnswer;
     }
+}
+
+bool isCertificateRefused(UpgradeTools::Result result)
+{
+    return result == UpgradeTools::UnknownCertificate || result == UpgradeTools::ChangedCertificate;
 }
 
 UpgradeTools::Result resultOfError(std::uint32_t error)
@@ -83,6 +92,10 @@ UpgradeTools::Result resultOfError(std::uint32_t error)
         return UpgradeTools::FirmwareRefused;
     case sdk::NetError::NotSupported:
         return UpgradeTools::NotSupported;
+    case sdk::NetError::UnknownCertificate:
+        return UpgradeTools::UnknownCertificate;
+    case sdk::NetError::ChangedCertificate:
+        return UpgradeTools::ChangedCertificate;
     default:
         return isDeviceAway(error) ? UpgradeTools::NoAnswer : UpgradeTools::Failed;
     }
@@ -257,10 +270,10 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepCont
                 letInAt = clock.now();
         } else if (refusal == UpgradeTools::NoAnswer) {
             wasAway = true;
-        } else if (UpgradeTools::canTryAgain(refusal)) {
+        } else if (UpgradeTools::canTryAgain(refusal) && !isCertificateRefused(refusal)) {
             qCInfo(logDevice) << m_order.ipport << "does not let in yet after its upgrade";
         } else {
-            return ended(refusal); // it has lost its accounts
+            return ended(refusal); // it has lost its accounts, or has another key, which the user decides on
         }
         if (passed > m_limits.comesBack.count())
             return ended(UpgradeTools::NotBack);

@@ -13,6 +13,7 @@ T.ApplicationWindow {
     readonly property BusyState busyState: BusyStateApi
     readonly property Batches batches: BatchesApi
     readonly property SearchReports searchReports: SearchReportsApi
+    readonly property CertificateList certificates: CertificatesApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     // qmllint enable unqualified
 
@@ -304,12 +305,14 @@ T.ApplicationWindow {
         id: popups
         batches: window.batches
         busyState: window.busyState
+        certificates: window.certificates
         currentLanguage: window.chosenLanguage
         deviceFactory: window.deviceFactory
         languages: languageList.entries
         localConfig: window.localConfig
         logoName: window.title
         searchReports: window.searchReports
+        searching: window.searching
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
         onEndConfirmed: window.leavePage(() => {

@@ -12,6 +12,7 @@
 #include "device/busyreport.h"
 #include "device/bytetext.h"
 #include "device/cameraform.h"
+#include "device/certificatelist.h"
 #include "device/channelnameform.h"
 #include "device/devicedetailmodel.h"
 #include "device/devicefactory.h"
@@ -174,6 +175,14 @@ struct ByteTextForeign
     QML_FOREIGN(ByteText)
     QML_NAMED_ELEMENT(ByteText)
     QML_SINGLETON
+};
+
+struct CertificateListForeign
+{
+    Q_GADGET
+    QML_FOREIGN(CertificateList)
+    QML_NAMED_ELEMENT(CertificateList)
+    QML_UNCREATABLE("there is one for the whole program")
 };
 
 struct ChannelNameFormForeign

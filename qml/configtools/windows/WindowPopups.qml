@@ -7,6 +7,7 @@ Item {
 
     required property Batches batches
     required property BusyState busyState
+    required property CertificateList certificates
     required property var deviceFactory
     required property var localConfig
     required property SearchReports searchReports
@@ -15,6 +16,7 @@ Item {
     required property string logoName
     required property string softwareName
     required property string version
+    required property bool searching
     signal helpRequested
     signal questionsRequested
     signal languageChosen(string code)
@@ -67,7 +69,24 @@ Item {
         toasts.wanted().show(message, kind, stay);
     }
 
+    // A batch and a search are asked about once, at their ends.
+    Timer {
+        interval: 300
+        running: root.certificates.hasNews && !root.batches.running && !root.searching
+            && !(certificateQuestion.item?.visible ?? false)
+        onTriggered: certificateQuestion.wanted().show()
+    }
+
     // qmllint disable unqualified
+    OVOnDemand {
+        id: certificateQuestion
+        visible: false
+        sourceComponent: CertificateDialog {
+            certificates: root.certificates
+            onAgreed: count => root.say(qsTr("已信任 %n 个证书，请重试刚才的操作", "", count), OVToast.Success)
+            onRefused: message => root.tell(message)
+        }
+    }
     OVOnDemand {
         id: menu
         visible: false

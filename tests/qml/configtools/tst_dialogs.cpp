@@ -1,9 +1,12 @@
 // Boxes over the window: how they are answered, and what they show.
+#include "device/certificatelist.h"
+#include "sdk/blocktext.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
 #include <QAbstractListModel>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -26,10 +29,23 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "            function exportFaults(family) { return faults; }\n"
                           "        }\n"
                           "    }\n"
+                          "    CertificateDialog { certificates: shownCertificates }\n"
                           "    OVTable {\n"
                           "        y: 100; width: 400; height: 300; objectName: 'table'; model: devices\n"
                           "        columns: [{key: 'mac', title: 'MAC', width: 200}]\n"
                           "    }\n";
+
+sdk::CertificateVerdict show(CertificateStore &store, const char *address, char digit)
+{
+    sdk::DeviceCertificate certificate{};
+    certificate.port = 443;
+    sdk::setBlockText(certificate.address, address);
+    std::string fingerprint;
+    for (int index = 0; index < 32; ++index)
+        fingerprint += std::string(index > 0 ? ":" : "") + digit + digit;
+    sdk::setBlockText(certificate.fingerprint, fingerprint);
+    return store.verdictOn(certificate);
+}
 
 } // namespace
 
@@ -68,7 +84,8 @@ class TestDialogs : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_window = openScene(m_engine, scene, {{"devices", &m_devices}});
+        m_window =
+            openScene(m_engine, scene, {{"devices", &m_devices}, {"shownCertificates", &m_certificates}});
         QVERIFY(m_window);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_box = m_window->findChild<QObject *>("question");
@@ -144,6 +161,39 @@ private Q_SLOTS:
         QTest::keyClick(m_window.get(), Qt::Key_Return);
     }
 
+    /// A change is no part of a yes that was meant for new certificates.
+    void certificatesAreAgreedTo()
+    {
+        (void)::show(*m_store, "10.0.0.5", 'A');
+        QCOMPARE(m_store->agree(m_store->refused()), "");
+        (void)::show(*m_store, "10.0.0.6", 'B');
+        (void)::show(*m_store, "10.0.0.5", 'C');
+        auto *dialog = m_window->findChild<QObject *>("certificateDialog");
+        const QSignalSpy agreed(dialog, SIGNAL(agreed(int)));
+        const auto open = [dialog] {
+            QMetaObject::invokeMethod(dialog, "show");
+            QTRY_VERIFY(dialog->property("opened").toBool());
+        };
+        const auto text = [this](const char *name) {
+            const QQuickItem *item = findBelow(m_window->contentItem()->parentItem(), name, Sight::Visible);
+            return item ? item->property("text").toString().left(2) : QString();
+        };
+        open();
+        QCOMPARE(text("shownFingerprint"), "CC");
+        QCOMPARE(text("storedFingerprint"), "AA");
+        QVERIFY(!text("changedNotice").isEmpty());
+        QTest::keyClick(m_window.get(), Qt::Key_Return); // the first answer to a warning is no
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QCOMPARE(m_store->refused().size(), 2);
+
+        open();
+        QMetaObject::invokeMethod(dialog, "accept");
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QCOMPARE(agreed.count(), 1);
+        QVERIFY(::show(*m_store, "10.0.0.6", 'B') == sdk::CertificateVerdict::Trusted);
+        QVERIFY(::show(*m_store, "10.0.0.5", 'C') == sdk::CertificateVerdict::Changed);
+    }
+
 private:
     void show(int kind)
     {
@@ -156,7 +206,11 @@ private:
         return m_window->activeFocusItem() ? m_window->activeFocusItem()->objectName() : QString();
     }
 
-    Devices m_devices; // outlives the engine
+    QTemporaryDir m_folder;
+    std::shared_ptr<CertificateStore> m_store =
+        std::make_shared<CertificateStore>(m_folder.filePath("certificates.json"));
+    CertificateList m_certificates{m_store}; // outlives the engine, as what follows
+    Devices m_devices;
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QObject *m_box = nullptr;
