@@ -32,7 +32,8 @@ ServedDevice::Shape ServedDevice::shapeOf(const sdk::demo::SceneDevice &device)
     return {{isUnset ? QString() : device.address, prefixLengthOf(device.mask), device.ipv6,
              device.ipv6PrefixLength},
             servicePortOf(device),
-            httpsPortOf(device)};
+            httpsPortOf(device),
+            !device.hasFault(sdk::demo::Fault::RefusesConnections)};
 }
 
 void ServedDevice::follow(const sdk::demo::SceneDevice &device, std::int64_t now)
@@ -68,10 +69,13 @@ void ServedDevice::appear(const Shape &shape)
         qCWarning(siteLog, "%ls", qUtf16Printable(error));
         return;
     }
-    listen(m_httpListener, shape.httpPort, [this](int listener) { m_parts.http.accept(listener, m_mac); });
-    if (shape.httpsPort != 0)
-        listenEncrypted(shape.httpsPort);
-    listen(m_rtspListener, rtspPort, [this](int listener) { m_rtsp.accept(listener); });
+    if (shape.isListening) {
+        listen(m_httpListener, shape.httpPort,
+               [this](int listener) { m_parts.http.accept(listener, m_mac); });
+        if (shape.httpsPort != 0)
+            listenEncrypted(shape.httpsPort);
+        listen(m_rtspListener, rtspPort, [this](int listener) { m_rtsp.accept(listener); });
+    }
     m_discovery =
         std::make_unique<DiscoveryPort>(m_parts.site, m_parts.poller, m_parts.options, m_mac, *m_interface);
     if (m_discovery->isOpen())

@@ -50,7 +50,8 @@ private:
     {
         DeviceNetwork network;
         int httpPort = 0;
-        int httpsPort = 0; // 0 for none
+        int httpsPort = 0;       // 0 for none
+        bool isListening = true; ///< at its ports
         bool operator==(const Shape &) const = default;
     };
     [[nodiscard]] static Shape shapeOf(const sdk::demo::SceneDevice &device);

@@ -1,6 +1,7 @@
 #include "site/services/soapservice.h"
 
 #include "sdk/clock.h"
+#include "sdk/demo/internal/maintenance.h"
 #include "site/services/devicetime.h"
 #include "site/services/messagerecord.h"
 #include "site/services/services.h"
@@ -132,6 +133,9 @@ SoapService::Outcome SoapService::run(const HttpReceiver &receiver, const SceneD
         }
     }
     const std::string name = request.prefix + ":" + request.name + "Response";
+    if (login.level != UserLevel::Anonymous && device.hasFault(Fault::PasswordChangesAfter))
+        m_context.site.changeDevice(
+            device.mac, [](SceneDevice &changed, const DeviceAddresses &) { noteLogin(changed); });
     ServiceCall call{
         m_context, receiver, device, manner, login, request.operation, message.body().add(name.c_str()), now};
     outcome.fault = operation->run(call);
