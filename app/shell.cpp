@@ -1,5 +1,6 @@
 #include "app/shell.h"
 
+#include "app/devicelibraries.h"
 #include "app/languages.h"
 #include "app/localconfig.h"
 #include "app/logging.h"
@@ -112,6 +113,15 @@ bool Shell::chooseLibraries()
 {
     m_libraries.clock = std::make_shared<sdk::SystemClock>();
     m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
+    QString complaint;
+    if (!m_commandLine.demo &&
+        bindDeviceLibraries(QCoreApplication::applicationDirPath(), m_libraries, complaint)) {
+        if (complaint.isEmpty())
+            return true;
+        qCCritical(logApp).noquote() << "The device libraries cannot be used:" << complaint;
+        OMessageBox::show(QObject::tr("提示"), complaint);
+        return false;
+    }
     if (!m_commandLine.demo) {
         m_libraries.net = std::make_shared<sdk::onvif::OnvifNetLibrary>();
         m_libraries.config = std::make_shared<sdk::ConfigTextLibrary>();

@@ -1481,6 +1481,37 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
+    <name>DeviceLibraries</name>
+    <message>
+        <source>无法读取设备库配置文件 %1</source>
+        <translation>The device library file %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>设备库配置文件 %1 中有无法识别的行：%2</source>
+        <translation>The device library file %1 has a line that is not understood: %2</translation>
+    </message>
+    <message>
+        <source>设备库配置文件中缺少 [%1] 或其 file</source>
+        <translation>The device library file lacks [%1] or its file</translation>
+    </message>
+    <message>
+        <source>设备库配置文件没有列出 %1 的函数 %2</source>
+        <translation>The device library file does not list the function %2 of %1</translation>
+    </message>
+    <message>
+        <source>设备库配置文件为 %1 列出了未知的函数 %2</source>
+        <translation>The device library file lists an unknown function %2 of %1</translation>
+    </message>
+    <message>
+        <source>无法加载设备库 %1：%2</source>
+        <translation>The device library %1 cannot be loaded: %2</translation>
+    </message>
+    <message>
+        <source>设备库 %1 中没有入口 %2</source>
+        <translation>The device library %1 has no entry %2</translation>
+    </message>
+</context>
+<context>
     <name>DeviceList</name>
     <message>
         <source>第 %1 行过长</source>

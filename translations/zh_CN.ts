@@ -1458,6 +1458,37 @@
     </message>
 </context>
 <context>
+    <name>DeviceLibraries</name>
+    <message>
+        <source>无法读取设备库配置文件 %1</source>
+        <translation>无法读取设备库配置文件 %1</translation>
+    </message>
+    <message>
+        <source>设备库配置文件 %1 中有无法识别的行：%2</source>
+        <translation>设备库配置文件 %1 中有无法识别的行：%2</translation>
+    </message>
+    <message>
+        <source>设备库配置文件中缺少 [%1] 或其 file</source>
+        <translation>设备库配置文件中缺少 [%1] 或其 file</translation>
+    </message>
+    <message>
+        <source>设备库配置文件没有列出 %1 的函数 %2</source>
+        <translation>设备库配置文件没有列出 %1 的函数 %2</translation>
+    </message>
+    <message>
+        <source>设备库配置文件为 %1 列出了未知的函数 %2</source>
+        <translation>设备库配置文件为 %1 列出了未知的函数 %2</translation>
+    </message>
+    <message>
+        <source>无法加载设备库 %1：%2</source>
+        <translation>无法加载设备库 %1：%2</translation>
+    </message>
+    <message>
+        <source>设备库 %1 中没有入口 %2</source>
+        <translation>设备库 %1 中没有入口 %2</translation>
+    </message>
+</context>
+<context>
     <name>DeviceList</name>
     <message>
         <source>第 %1 行过长</source>

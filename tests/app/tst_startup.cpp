@@ -1,4 +1,5 @@
 #include "app/commandline.h"
+#include "app/devicelibraries.h"
 #include "app/localconfig.h"
 #include "app/messagebox.h"
 #include "app/shell.h"
@@ -86,6 +87,22 @@ private Q_SLOTS:
         const auto [exitCode, texts] = refusedStart(CommandLine::parse({"ConfigTools", "--demo"}));
         QCOMPARE(exitCode, 0);
         QCOMPARE(texts, QStringList({"提示", "应用程序已经运行!"}));
+    }
+
+    void missingDeviceLibrariesAreExplained()
+    {
+        const QTemporaryDir folder;
+        sdk::SdkLibraries libraries;
+        QString complaint;
+        QVERIFY(!bindDeviceLibraries(folder.path(), libraries, complaint)); // no file, no complaint
+        QVERIFY(complaint.isEmpty());
+        QFile file(folder.filePath(bindingFileName));
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.write("[network]\nfile = absent.so\n");
+        file.close();
+        QVERIFY(bindDeviceLibraries(folder.path(), libraries, complaint));
+        QVERIFY2(complaint.contains("absent.so") && complaint.contains("NetInit"), qPrintable(complaint));
+        QVERIFY(!libraries.net);
     }
 
     void aBadSceneIsExplained()
