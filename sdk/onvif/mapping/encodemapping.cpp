@@ -273,6 +273,7 @@ std::string encodeConfiguration(OnvifSession &session, int channel, Deadline dea
 {
     EncodeRecord record{};
     record.size = sizeof(record);
+    session.forgetProfiles(); // a page begins with this, and shows what the device has now
     for (const StreamKind kind : servedKinds) {
         ServiceResult<Stream> stream = readStream(session, channel, kind, Purpose::Show, deadline);
         if (!stream.isOk()) {
