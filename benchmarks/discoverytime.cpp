@@ -46,7 +46,7 @@ qint64 timeToAnswers(qsizetype devices)
     QSet<QString> senders;
     QElapsedTimer timer;
     timer.start();
-    sockets.sendToGroups(sdk::onvif::probeMessage(sdk::onvif::ProbeKind::Transmitters));
+    sockets.sendToGroups(sdk::onvif::probeMessage(sdk::onvif::ProbeKind::Transmitters), {});
     while (senders.size() < devices && timer.elapsed() < patience) {
         constexpr int pause = 100;
         sockets.receive(pause,

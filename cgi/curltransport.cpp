@@ -37,7 +37,7 @@ QByteArray partOf(CURLU *url, CURLUPart part)
     char *text = nullptr;
     if (curl_url_get(url, part, &text, CURLU_DEFAULT_PORT) != CURLUE_OK)
         return {};
-    const QByteArray copy(text);
+    QByteArray copy(text);
     curl_free(text);
     return copy;
 }

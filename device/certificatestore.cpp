@@ -180,7 +180,7 @@ QString CertificateStore::write(const QList<Entry> &entries)
         QString kept = m_path + QStringLiteral(".damaged");
         for (int number = 2; QFileInfo::exists(kept); ++number)
             kept = m_path + QStringLiteral(".damaged%1").arg(number);
-        const QString failure = renameOver(m_path, kept);
+        QString failure = renameOver(m_path, kept);
         if (!failure.isEmpty())
             return failure;
     }
@@ -204,7 +204,7 @@ QString CertificateStore::agree(const QList<RefusedCertificate> &certificates)
         fingerprints.insert(keyOf(certificate), certificate.fingerprint);
     }
     agreed = agreed.withoutReplaced();
-    const QString failure = write(agreed.entries);
+    QString failure = write(agreed.entries);
     if (!failure.isEmpty())
         return failure;
     const std::scoped_lock lock(m_mutex);

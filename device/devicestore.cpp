@@ -116,12 +116,12 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
 QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
 {
     const QString mac = macText(answer);
-    const QString ipport = addressAndPort(answer);
+    QString ipport = addressAndPort(answer);
     // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
     // that arrived again, as every device answers each kind of search.
     if (!hasIPv4Address(answer))
         return mac + QLatin1Char(' ') + ipport;
-    const QString uuid = uuidName(answer);
+    QString uuid = uuidName(answer);
     const UuidHolder holder = m_uuidHolders.value(uuid);
     if (!mac.isEmpty()) {
         // The same device, if it did not report its MAC before. Others that have its UUID and its address may
@@ -177,7 +177,7 @@ int DeviceStore::leftOut() const
 
 QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
 {
-    const QString mac = macText(answer);
+    QString mac = macText(answer);
     const QString uuid = uuidName(answer);
     const std::scoped_lock lock(m_mutex);
     if (m_ipv4.contains(mac))

@@ -32,6 +32,7 @@ public:
     explicit RespondingTransport(Response response) : m_response(std::move(response)) {}
 
     void setProxy(const QString &) override {}
+    void setCertificateHandler(sdk::CertificateHandler, void *) override {}
     [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &) override
     {
         return std::make_unique<Conversation>(m_response);

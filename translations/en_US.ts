@@ -302,6 +302,10 @@
         <source>IP地址冲突，可能作用于另一台设备</source>
         <translation>Address shared with another device</translation>
     </message>
+    <message>
+        <source>与其他设备冲突</source>
+        <translation>Another device has it</translation>
+    </message>
 </context>
 <context>
     <name>BatchPreviewCounts</name>
@@ -569,6 +573,10 @@
     <message>
         <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
         <translation>No search answer of this device is known, or it contains neither a MAC address nor a UUID</translation>
+    </message>
+    <message>
+        <source>设备没有应答，密码可能已修改</source>
+        <translation>The device did not respond. Its password may have changed.</translation>
     </message>
 </context>
 <context>
@@ -3898,12 +3906,7 @@ File path: </translation>
     </message>
     <message>
         <source>设备证书已改变</source>
-        <translation>The certificate of the device has changed</translation>
         <translation>Certificate not confirmed</translation>
-    </message>
-    <message>
-        <source>设备证书已改变</source>
-        <translation>Certificate has changed</translation>
     </message>
     <message>
         <source>已取消</source>

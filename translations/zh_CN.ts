@@ -299,6 +299,10 @@
         <source>IP地址冲突，可能作用于另一台设备</source>
         <translation>IP地址冲突，可能作用于另一台设备</translation>
     </message>
+    <message>
+        <source>与其他设备冲突</source>
+        <translation>与其他设备冲突</translation>
+    </message>
 </context>
 <context>
     <name>BatchPreviewCounts</name>
@@ -557,6 +561,10 @@
     <message>
         <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
         <translation>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</translation>
+    </message>
+    <message>
+        <source>设备没有应答，密码可能已修改</source>
+        <translation>设备没有应答，密码可能已修改</translation>
     </message>
 </context>
 <context>

@@ -74,9 +74,6 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
         };
     else if (command == QLatin1String("modifyPassword"))
         perform = [this, ipport, password](const StepControl &) {
-            if (!m_keptLogins.find(
-                    ipport)) // the time for the new password is over: another try has none either
-                return StepOutcome{.result = resultCode(LoginResult::SessionEnded), .text = {}};
             StepOutcome outcome = {.result = modifyPassword(ipport, password), .text = {}};
             outcome.isUnanswered =
                 outcome.result == refusedByDevice && isDeviceAway(m_libraries.net->NetGetLastError());

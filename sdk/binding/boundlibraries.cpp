@@ -25,7 +25,8 @@ std::optional<BindingProblem> listProblem(const BindingSection &section,
             return BindingProblem{
                 .kind = Kind::FunctionMissing, .file = section.library, .name = function.name};
     }
-    for (const auto &[name, entry] : section.entries) {
+    for (const auto &entry : section.entries) {
+        const std::string &name = entry.first;
         const bool isKnown =
             std::any_of(functions.begin(), functions.end(),
                         [&name](const EntryPoint &function) { return name == function.name; });

@@ -116,8 +116,10 @@ struct EntryPoint
     void *pointer; ///< of the function pointer that is to be set
 };
 
+// NOLINTBEGIN(bugprone-macro-parentheses): what is declared, and a list of parameters, take none.
 #define SDK_ENTRY_POINTER(result, name, parameters) result(*name) parameters = nullptr;
 #define SDK_ENTRY_POINT(result, name, parameters) {#name, &name},
+// NOLINTEND(bugprone-macro-parentheses)
 // A structure with a function pointer for each entry of a table, and all of them as a list.
 #define SDK_ENTRY_POINTS_OF(structure, TABLE)                                                                \
     struct structure                                                                                         \

@@ -68,7 +68,9 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
                        const HttpLogin &login, const AddressOrder &order, SoapClient::Deadline deadline)
 {
     const std::optional<int> prefixLength = prefixLengthOf(order.mask);
-    if (!order.dhcp && (!prefixLength || order.address.empty()))
+    const bool isMask =
+        prefixLength || order.mask.empty(); // a search does not report the mask of every device
+    if (!order.dhcp && (!isMask || order.address.empty()))
         return NetError::InvalidValue;
     NetError error = NetError::None;
     const std::shared_ptr<OnvifSession> session = OnvifSession::open(service, login, http, deadline, error);
@@ -90,7 +92,7 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
     DeviceInterface changed = *interface;
     changed.dhcp = order.dhcp;
     changed.address = order.address;
-    changed.prefixLength = prefixLength.value_or(0);
+    changed.prefixLength = prefixLength.value_or(interface->prefixLength);
     const ServiceResult<bool> result = device.setAddress(changed);
     if (!result.isOk() && !isAnswerLost(result.error))
         return result.error;

@@ -18,6 +18,7 @@ ListView {
     required property real room  // for the rows; an empty table is filled over some frames
     property int filled: rowsAFrame  // rows that may be shown
     property var changedRows: []  // indices of rows whose values are to be read again
+    property int readsLeft: rowsAFrame  // before the next frame
     readonly property int rowsAFrame: 5  // that are made or read again between two frames
     signal allToggled(bool checked)
     signal rangeToggled(int first, int last, bool checked)
@@ -78,9 +79,18 @@ ListView {
         const from = Math.max(first, Math.floor((contentY - cacheBuffer) / Theme.rowHeight) - 1);
         const to = Math.min(last, Math.ceil((contentY + room + cacheBuffer) / Theme.rowHeight) + 1);
         const rows = new Set(changedRows);
-        for (let row = from; row <= to; ++row)
-            rows.add(row);
+        for (let row = from; row <= to; ++row) {
+            if (rows.size === 0 && readsLeft > 0)
+                read(row);
+            else
+                rows.add(row);
+        }
         changedRows = Array.from(rows);
+    }
+
+    function read(row) {
+        --readsLeft;
+        (itemAtIndex(row) as OVTableRow)?.read();
     }
 
     height: Math.min(room, filled * Theme.rowHeight)
@@ -107,12 +117,12 @@ ListView {
         onTriggered: root.filled += root.rowsAFrame
     }
     FrameAnimation {
-        running: root.changedRows.length > 0
+        running: root.changedRows.length > 0 || root.readsLeft < root.rowsAFrame
         onTriggered: {
+            root.readsLeft = root.rowsAFrame;
             const rows = root.changedRows.slice(0, root.rowsAFrame);
             root.changedRows = root.changedRows.slice(root.rowsAFrame);
-            for (const row of rows)
-                (root.itemAtIndex(row) as OVTableRow)?.read();
+            rows.forEach(row => root.read(row));
         }
     }
 

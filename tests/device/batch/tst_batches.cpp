@@ -302,12 +302,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!batch->isRunning());
         QVERIFY(!batch->textOf(ipportOf(m_devices.at(0))).isEmpty());
         QCOMPARE(batch->retryableDevices(), ipportsOf(m_devices).first(1));
-
-        // Another try has no login any more.
-        m_site->factory->systemConfig("dh", "cancelLogin", {}, {});
-        Batch *late = m_batches->retry(batch);
-        QTRY_VERIFY(!late->isRunning());
-        QCOMPARE(late->retryableDevices(), QStringList());
     }
 
     /// The program does not wait for the devices, and the log names those that got nothing.

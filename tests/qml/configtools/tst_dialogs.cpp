@@ -175,7 +175,7 @@ private Q_SLOTS:
             QTRY_VERIFY(dialog->property("opened").toBool());
         };
         const auto text = [this](const char *name) {
-            const QQuickItem *item = findBelow(m_window->contentItem()->parentItem(), name, Sight::Visible);
+            const QQuickItem *item = findBelow(m_window->contentItem(), name, Sight::Visible);
             return item ? item->property("text").toString().left(2) : QString();
         };
         open();

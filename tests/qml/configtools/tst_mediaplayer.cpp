@@ -19,13 +19,27 @@ public:
                                     sdk::LiveStreamKind kind) override
     {
         const std::int64_t handle = FakeNet::NetStartRealStream(login, channel, window, kind);
-        started.append(
+        const std::lock_guard lock(m_mutex);
+        m_started.append(
             QString("%1 of %2").arg(kind == sdk::LiveStreamKind::Sub ? "sub" : "main").arg(channel));
-        return refused.contains(kind) ? 0 : handle;
+        return m_refused.contains(kind) ? 0 : handle;
     }
 
-    QList<sdk::LiveStreamKind> refused;
-    QStringList started;
+    void refuse(const QList<sdk::LiveStreamKind> &kinds)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_refused = kinds;
+    }
+    [[nodiscard]] QStringList started() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_started;
+    }
+
+private:
+    mutable std::mutex m_mutex; ///< streams are requested on other threads
+    QList<sdk::LiveStreamKind> m_refused;
+    QStringList m_started;
 };
 
 } // namespace
@@ -58,6 +72,8 @@ private:
     void deliverPicture() const
     {
         const PlainPicture picture(4, 2, 16, 128, 128);
+        const auto *video = m_player->findChild<VideoItem *>();
+        QTRY_VERIFY(video->isStreaming());
         QVERIFY(m_fake->decoder->deliver(picture.bytes, picture.information));
         QTRY_VERIFY(get("playing").toBool());
     }
@@ -97,13 +113,13 @@ private Q_SLOTS:
     {
         set("active", true);
         answer(false); // the device is away: no stream is asked for
-        QVERIFY(get("resting").toBool() && m_net->started.isEmpty());
+        QVERIFY(get("resting").toBool() && m_net->started().isEmpty());
         QTRY_COMPARE(m_asked->size(), 2); // by itself
-        m_net->refused = {sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub};
+        m_net->refuse({sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub});
         answer(true);
-        QCOMPARE(m_net->started, (QStringList{"sub of 2", "main of 2"}));
-        QVERIFY(get("resting").toBool() && !get("connecting").toBool());
-        m_net->refused.clear();
+        QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
+        QTRY_VERIFY(get("resting").toBool() && !get("connecting").toBool());
+        m_net->refuse({});
         QVERIFY(QMetaObject::invokeMethod(m_player, "reconnect"));
         answer(true);
         deliverPicture();
@@ -119,14 +135,14 @@ private Q_SLOTS:
 
     void withoutASubStreamTheMainOneIsShown()
     {
-        m_net->refused = {sdk::LiveStreamKind::Sub};
+        m_net->refuse({sdk::LiveStreamKind::Sub});
         set("active", true);
         answer(true);
-        QCOMPARE(m_net->started, (QStringList{"sub of 2", "main of 2"}));
+        QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
         deliverPicture();
         set("channel", 3); // may have one
         answer(true);
-        QCOMPARE(m_net->started.mid(2), (QStringList{"sub of 3", "main of 3"}));
+        QTRY_COMPARE(m_net->started().mid(2), (QStringList{"sub of 3", "main of 3"}));
     }
 
     void onlyTheLastWishCounts()
@@ -136,14 +152,14 @@ private Q_SLOTS:
         set("mainStream", true);
         answer(true);
         QCOMPARE(m_asked->size(), 1);
-        QCOMPARE(m_net->started, QStringList{"main of 5"});
+        QTRY_COMPARE(m_net->started(), QStringList{"main of 5"});
 
         set("channel", 6);
         QTRY_VERIFY(get("asking").toBool());
         set("active", false); // the window is closed while it asks
         answerUnasked(true);
         QVERIFY(!get("connecting").toBool());
-        QCOMPARE(m_net->started.size(), 1);
+        QTRY_COMPARE(m_net->started().size(), 1);
     }
 };
 
