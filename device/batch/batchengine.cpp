@@ -311,9 +311,9 @@ BatchEngine::Hold::~Hold()
         return;
     {
         const std::lock_guard lock(m_engine->m_mutex);
-        const auto holds = m_engine->m_heldDevices.find(m_device);
-        if (--*holds == 0)
-            m_engine->m_heldDevices.erase(holds);
+        int &holds = m_engine->m_heldDevices[m_device];
+        if (--holds == 0)
+            m_engine->m_heldDevices.remove(m_device);
     }
     m_engine->m_changed.notify_all();
 }
