@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QJsonDocument>
 
+#include <iterator>
 #include <limits>
 
 namespace sdk::demo {
@@ -137,7 +138,7 @@ void noteLogin(SceneDevice &device)
         });
     if (change == device.faults.end() || --change->number > 0)
         return;
-    device.faults.erase(change);
+    device.faults.removeAt(std::distance(device.faults.begin(), change));
     for (SceneAccount &account : device.accounts)
         account.password += QStringLiteral("-2");
 }
