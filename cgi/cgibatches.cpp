@@ -4,6 +4,7 @@
 #include "cgi/internal/answerpaths.h"
 #include "cgi/internal/longanswers.h"
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/devicerow.h"
 
 #include <QSet>
@@ -12,8 +13,6 @@
 #include <utility>
 
 namespace {
-
-const QString family = QStringLiteral("dh");
 
 /// Commands go to addresses. Where two devices have the same one, only one of them is named so.
 void nameByAddress(QList<BatchDevice> &devices)
@@ -33,7 +32,7 @@ CgiBatches::CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurrounding
     : QObject(parent), m_factory(factory), m_batches(batches), m_surroundings(std::move(surroundings)),
       m_account(std::move(account)), m_answers(std::make_shared<LongAnswers>())
 {
-    m_surroundings.checkLogin = m_factory.loginCheck(family);
+    m_surroundings.checkLogin = m_factory.loginCheck(dhFamily);
     m_surroundings.watch = {};
     m_surroundings.ownPath = [paths = std::make_shared<AnswerPaths>()](const QString &path) {
         return paths->own(path);
@@ -43,10 +42,10 @@ CgiBatches::CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurrounding
 
 Batch *CgiBatches::send(const QString &title, const QStringList &identities, const QString &command)
 {
-    BatchPlan plan = {.family = family,
+    BatchPlan plan = {.family = dhFamily,
                       .title = title,
                       .work = QStringLiteral("cgi %1").arg(qHash(command)), // it may hold a password
-                      .devices = batchDevices(m_factory, family, identities),
+                      .devices = batchDevices(m_factory, dhFamily, identities),
                       .policy = commandPolicy(m_batches)};
     plan.isByAddress = true;
     nameByAddress(plan.devices);
@@ -57,8 +56,8 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
     plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
         QStringList changed;
         for (const auto &[device, outcome] : outcomes) {
-            m_factory.updataDeviceInfo(family, DeviceRowKey::result, cgiResultText(outcome), device.identity,
-                                       device.ipport);
+            m_factory.updataDeviceInfo(dhFamily, DeviceRowKey::result, cgiResultText(outcome),
+                                       device.identity, device.ipport);
             changed.append(device.identity);
         }
         Q_EMIT answered(changed);
@@ -67,7 +66,7 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
     if (!batch)
         return nullptr;
     for (const BatchDevice &device : devices)
-        m_factory.updataDeviceInfo(family, DeviceRowKey::url, command, device.identity, device.ipport);
+        m_factory.updataDeviceInfo(dhFamily, DeviceRowKey::url, command, device.identity, device.ipport);
     return batch;
 }
 
@@ -93,7 +92,7 @@ QString CgiBatches::addressOf(const QString &ipport, const QString &command)
     const qsizetype colon = ipport.lastIndexOf(QLatin1Char(':'));
     const QString ip = ipport.left(colon);
     const bool isTunnel = ip == QLatin1String("127.0.0.1");
-    const QVariantMap row = isTunnel ? QVariantMap() : m_factory.getDeviceInfo(family, ipport);
+    const QVariantMap row = isTunnel ? QVariantMap() : m_factory.getDeviceInfo(dhFamily, ipport);
     const int port = isTunnel ? m_factory.getP2PWebPort(QStringView(ipport).mid(colon + 1).toInt())
                               : row.value(DeviceRowKey::httpport).toInt();
     if (isTunnel && port == 0)

@@ -5,6 +5,7 @@
 #include "cgi/internal/workbookresults.h"
 #include "cgi/logging.h"
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/deviceimport.h"
 #include "sdk/threadpriority.h"
 
@@ -13,12 +14,6 @@
 
 #include <optional>
 #include <utility>
-
-namespace {
-
-const QString family = QStringLiteral("dh");
-
-} // namespace
 
 /// A workbook with the names of its lines.
 class CgiWorkbooks::Workbook
@@ -134,7 +129,7 @@ Batch *CgiWorkbooks::run(const QString &title, const QStringList &lines)
         Q_EMIT ended(tr("文件已被修改，请重新打开。"));
         return nullptr;
     }
-    BatchPlan plan = {.family = family,
+    BatchPlan plan = {.family = dhFamily,
                       .title = title,
                       .devices = linesOf(*m_workbook, QSet<QString>(lines.cbegin(), lines.cend())),
                       .policy = commandPolicy(m_batches)};
@@ -161,7 +156,7 @@ QList<BatchDevice> CgiWorkbooks::linesOf(const Workbook &workbook, const QSet<QS
         const QString name = Workbook::nameOf(command);
         if (!wanted.contains(name))
             continue;
-        BatchDevice line = batchDevice(m_factory, family, command.ipport);
+        BatchDevice line = batchDevice(m_factory, dhFamily, command.ipport);
         line.name = name;
         const int number = accounts.value({command.user, command.password}, int(accounts.size()));
         accounts.insert({command.user, command.password}, number);

@@ -4,6 +4,10 @@ target_include_directories(configtools_flags INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(configtools_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
 target_compile_definitions(configtools_flags INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_STRICT_ITERATORS)
+if(CMAKE_UNITY_BUILD)
+    # Sources that are compiled together are no headers: what their unnamed namespaces hold may be part of their classes.
+    target_compile_options(configtools_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
 if(CONFIGTOOLS_WARNINGS_ARE_ERRORS)
     target_compile_options(configtools_flags INTERFACE -Werror)
 endif()

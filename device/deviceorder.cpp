@@ -12,7 +12,7 @@
 
 namespace {
 
-enum Group
+enum AddressGroup
 {
     FirstGroup,
     IPv6Group,

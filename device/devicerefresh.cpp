@@ -24,14 +24,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto addressesWait = 3000ms;
-constexpr const char *anyLocalAddress = "0.0.0.0";
+constexpr auto refreshAddressesWait = 3000ms;
+constexpr const char *anyInterface = "0.0.0.0";
 
 /// Devices restart their network after a new address, and a datagram may get lost. Both kinds of request are
 /// made twice.
 constexpr int usualAttempts = 4;
-constexpr auto startWait = 1000ms;
-constexpr auto listeningTime = 3000ms;
+constexpr auto refreshStartWait = 1000ms;
+constexpr auto refreshListeningTime = 3000ms;
 
 /// Requests that are made side by side, each of which waits for its whole time.
 constexpr std::size_t requestsAtOnce = 16;
@@ -181,10 +181,10 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, int attempts, co
                  place = next++) {
                 if (attempt % 2 == 0)
                     net.NetSearchDevicesByIPs(requests[place], &ResponseReceiver::handle, &receiver,
-                                              anyLocalAddress, addressesWait);
+                                              anyInterface, refreshAddressesWait);
                 else
                     net.NetSearchDevicesByIPsEx(requests[place], &ResponseReceiver::handle, &receiver,
-                                                anyLocalAddress, addressesWait);
+                                                anyInterface, refreshAddressesWait);
             }
         };
         std::vector<std::jthread> others; // they end before the attempt does
@@ -199,9 +199,9 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, int attempts, co
     local.size = sizeof(local);
     local.handler = &ResponseReceiver::handle;
     local.user = &receiver;
-    const std::int64_t search = net.NetStartSearchDevices(local, startWait);
+    const std::int64_t search = net.NetStartSearchDevices(local, refreshStartWait);
     if (search == 0)
         return;
-    m_libraries.clock->wait(listeningTime, stop);
+    m_libraries.clock->wait(refreshListeningTime, stop);
     net.NetStopSearchDevices(search);
 }

@@ -1,6 +1,7 @@
 #include "device/devicetablemodel.h"
 
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/devicerow.h"
 #include "device/upgradetools.h"
 
@@ -10,14 +11,12 @@
 
 namespace {
 
-const QString family = QStringLiteral("dh");
-
 enum Role
 {
     CheckedRole = Qt::UserRole,
     NumRole,
     ConflictRole,
-    IdentityRole,
+    RowIdentityRole,
     FirstKeyRole, ///< from here on: rowKeys, in their order
 };
 
@@ -50,7 +49,7 @@ QVariant DeviceTableModel::data(const QModelIndex &index, int role) const
         return QString::number(index.row() + 1);
     case ConflictRole:
         return row.conflict;
-    case IdentityRole:
+    case RowIdentityRole:
         return row.identity;
     default:
         break;
@@ -73,7 +72,7 @@ QHash<int, QByteArray> DeviceTableModel::roleNames() const
         {CheckedRole, "checked"},
         {NumRole, "num"},
         {ConflictRole, "conflict"},
-        {IdentityRole, "identity"},
+        {RowIdentityRole, "identity"},
     };
     for (std::size_t key = 0; key < rowKeys.size(); ++key)
         names.insert(FirstKeyRole + static_cast<int>(key),
@@ -154,7 +153,7 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
     // Everything comes from one list: rows may be added or changed between two.
     const QString all = QStringLiteral("nofilter");
     const QVariantList list =
-        m_ipv6 ? m_deviceFactory->filterDataIPV6(family, all) : m_deviceFactory->filterData(family, all);
+        m_ipv6 ? m_deviceFactory->filterDataIPV6(dhFamily, all) : m_deviceFactory->filterData(dhFamily, all);
     m_totalCount = static_cast<int>(list.size());
     forgetLostTicks(list);
     QList<DeviceTableRow> rows =
@@ -246,7 +245,7 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
         const int place = rowOf(mac);
         if (place < 0 || !m_deviceFactory)
             continue;
-        const QJsonObject values = m_deviceFactory->deviceRow(family, mac);
+        const QJsonObject values = m_deviceFactory->deviceRow(dhFamily, mac);
         if (!values.isEmpty()) // else it was deleted, which a refresh will show
             m_rows[place].values = values;
         first = std::min(first, place);
@@ -382,7 +381,7 @@ int DeviceTableModel::deleteChecked()
     QVariantMap deleted;
     for (const QString &name : names)
         deleted.insert(name, true);
-    m_deviceFactory->setBatchDeleteDevice(family, deleted,
+    m_deviceFactory->setBatchDeleteDevice(dhFamily, deleted,
                                           m_ipv6 ? QStringLiteral("IPV6") : QStringLiteral("IPV4"));
     refresh();
     return static_cast<int>(std::count_if(names.cbegin(), names.cend(),

@@ -1,12 +1,7 @@
 #include "device/devicework.h"
 
 #include "device/devicefactory.h"
-
-namespace {
-
-const QString family = QStringLiteral("dh");
-
-} // namespace
+#include "device/devicefamily.h"
 
 DeviceWork::~DeviceWork()
 {
@@ -34,7 +29,7 @@ void DeviceWork::changeFactory(CDeviceFactory *) {}
 void DeviceWork::readDetail(const QString &ipport)
 {
     if (m_deviceFactory)
-        begin(m_deviceFactory->detailStep(family, ipport));
+        begin(m_deviceFactory->detailStep(dhFamily, ipport));
 }
 
 void DeviceWork::addDevice(const QVariantMap &device)
@@ -43,7 +38,7 @@ void DeviceWork::addDevice(const QVariantMap &device)
         return;
     CDeviceFactory *factory = m_deviceFactory; // outlives the threads of its back ends
     begin([factory,
-           step = m_deviceFactory->addingStep(family, deviceToAdd(device))](const StepControl &control) {
+           step = m_deviceFactory->addingStep(dhFamily, deviceToAdd(device))](const StepControl &control) {
         const StepOutcome outcome = step(control);
         if (outcome.result == resultCode(LoginResult::Success)) {
             QMetaObject::invokeMethod(factory, &CDeviceFactory::releaseUnneededP2PPorts,
@@ -63,7 +58,7 @@ void DeviceWork::begin(const SceneStep &step)
     m_stop = std::stop_source();
     const int number = ++m_number;
     setRunning(true);
-    m_deviceFactory->runForScene(family, step, m_stop.get_token(),
+    m_deviceFactory->runForScene(dhFamily, step, m_stop.get_token(),
                                  [self = QPointer(this), number](const SceneOutcome &outcome) {
                                      if (self)
                                          self->end(number, outcome);

@@ -1,12 +1,7 @@
 #include "device/sessionwork.h"
 
 #include "device/devicefactory.h"
-
-namespace {
-
-const QString family = QStringLiteral("dh");
-
-} // namespace
+#include "device/devicefamily.h"
 
 void SessionWork::changeFactory(CDeviceFactory *before)
 {
@@ -27,13 +22,13 @@ void SessionWork::noteLogin(int result)
 void SessionWork::beginJob(const SessionJob &job)
 {
     if (deviceFactory())
-        begin(deviceFactory()->sessionStep(family, job));
+        begin(deviceFactory()->sessionStep(dhFamily, job));
 }
 
 void SessionWork::login(const QString &ipport, const QString &account, const QString &password)
 {
     if (deviceFactory())
-        begin(deviceFactory()->loginStep(family, ipport, account, password));
+        begin(deviceFactory()->loginStep(dhFamily, ipport, account, password));
 }
 
 void SessionWork::readEncoding()

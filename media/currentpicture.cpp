@@ -3,13 +3,13 @@
 namespace {
 
 /// No stream has larger pictures; a size beyond is a fault of whoever tells it.
-constexpr std::int32_t longestSide = 16384;
+constexpr std::int32_t longestPictureSide = 16384;
 
 } // namespace
 
 bool DecodedPicture::isWhole() const
 {
-    if (!data || width <= 0 || height <= 0 || width > longestSide || height > longestSide)
+    if (!data || width <= 0 || height <= 0 || width > longestPictureSide || height > longestPictureSide)
         return false;
     const std::int64_t needed =
         std::int64_t(width) * height + 2 * std::int64_t(chromaWidth()) * chromaHeight();

@@ -13,7 +13,7 @@ namespace site {
 namespace {
 
 constexpr int httpPort = 80;
-constexpr int httpsPort = 443;
+constexpr int usualHttpsPort = 443;
 
 QString scope(const QString &path)
 {
@@ -35,7 +35,7 @@ int servicePortOf(const sdk::demo::SceneDevice &device)
 int httpsPortOf(const sdk::demo::SceneDevice &device)
 {
     const QJsonObject https = device.configuration.value(u"Https").toObject();
-    return https.value(u"enabled").toBool() ? https.value(u"port").toInt(httpsPort) : 0;
+    return https.value(u"enabled").toBool() ? https.value(u"port").toInt(usualHttpsPort) : 0;
 }
 
 QString endpointOf(const sdk::demo::SceneDevice &device)
@@ -59,7 +59,7 @@ QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &m
 QString serviceRoot(const QString &address, int port, bool isSecure)
 {
     const QString host = address.contains(u':') ? u'[' + address + u']' : address;
-    const int usualPort = isSecure ? httpsPort : httpPort;
+    const int usualPort = isSecure ? usualHttpsPort : httpPort;
     return (isSecure ? u"https://"_s : u"http://"_s) + host +
            (port == usualPort ? QString() : u":%1"_s.arg(port));
 }

@@ -1,6 +1,7 @@
 #include "device/batch/addingbatches.h"
 
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>
@@ -9,10 +10,8 @@
 
 namespace {
 
-const QString family = QStringLiteral("dh");
-
 /// A page reads the whole list when it learns of new rows.
-constexpr int newsInterval = 1000; // milliseconds
+constexpr int addedRowsInterval = 1000; // milliseconds
 
 bool isSuccess(const StepOutcome &outcome)
 {
@@ -26,7 +25,7 @@ AddingBatches::AddingBatches(CDeviceFactory &factory, Batches &batches, QObject 
 {
     m_readers.setMaxThreadCount(1);
     m_news.setSingleShot(true);
-    m_news.setInterval(newsInterval);
+    m_news.setInterval(addedRowsInterval);
     connect(&m_news, &QTimer::timeout, &m_factory, &CDeviceFactory::signalAddSingleDeviceToTable);
     connect(&m_batches, &Batches::runningChanged, this, &AddingBatches::noteEnd);
 }
@@ -52,8 +51,8 @@ void AddingBatches::importList(const QString &title, const QString &path)
 
 AddingBatches::List AddingBatches::readList(const QString &title, const QString &path) const
 {
-    const ImportPlan read = m_factory.importPlan(family, path);
-    List list = {.refusal = read.refusal, .plan = {.family = family, .title = title}, .places = {}};
+    const ImportPlan read = m_factory.importPlan(dhFamily, path);
+    List list = {.refusal = read.refusal, .plan = {.family = dhFamily, .title = title}, .places = {}};
     QHash<QString, DeviceStep> steps; // by the names of the lines
     list.plan.devices.reserve(static_cast<qsizetype>(read.lines.size()));
     for (const ImportLine &line : read.lines) {
@@ -105,7 +104,7 @@ QVariantList AddingBatches::importFailures(Batch *batch) const
 
 Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devices)
 {
-    BatchPlan plan = {.family = family, .title = title, .policy = m_batches.usualPolicy()};
+    BatchPlan plan = {.family = dhFamily, .title = title, .policy = m_batches.usualPolicy()};
     QHash<QString, DeviceToAdd> targets; // by the names in the batch
     QHash<QString, QString> identities;
     QHash<std::pair<QString, QString>, qsizetype> accounts; // a number stands for each: it is no secret
@@ -113,7 +112,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
         const QVariantMap values = value.toMap();
         const DeviceToAdd target = deviceToAdd(values);
         BatchDevice device =
-            batchDevice(m_factory, family, QStringLiteral("%1:%2").arg(target.address).arg(target.port));
+            batchDevice(m_factory, dhFamily, QStringLiteral("%1:%2").arg(target.address).arg(target.port));
         const QString identity = values.value(QStringLiteral("identity")).toString();
         if (targets.contains(device.name))
             device.name += QStringLiteral(" (%1)").arg(identity);
@@ -126,7 +125,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
         plan.devices.append(device);
     }
     plan.stepOf = [this, targets](const BatchDevice &device) {
-        return m_factory.addingStep(family, targets.value(device.name));
+        return m_factory.addingStep(dhFamily, targets.value(device.name));
     };
     plan.takeOutcomes = [this, identities](const QList<BatchOutcome> &outcomes) {
         noteRows(outcomes);

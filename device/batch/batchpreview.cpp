@@ -1,6 +1,7 @@
 #include "device/batch/batchpreview.h"
 
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/devicerow.h"
 #include "device/upgradetools.h"
 
@@ -8,8 +9,6 @@
 #include <utility>
 
 namespace {
-
-const QString family = QStringLiteral("dh");
 
 // Of an entry that brings them.
 const QString actionKey = QStringLiteral("action");
@@ -126,7 +125,8 @@ QHash<QString, QVariantMap> BatchPreview::devicesByName() const
 
 QVariantList BatchPreview::listedRows() const
 {
-    return m_deviceFactory ? m_deviceFactory->filterData(family, QStringLiteral("nofilter")) : QVariantList();
+    return m_deviceFactory ? m_deviceFactory->filterData(dhFamily, QStringLiteral("nofilter"))
+                           : QVariantList();
 }
 
 void BatchPreview::readList()

@@ -1,6 +1,7 @@
 #include "device/batch/upgradebatches.h"
 
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/devicerow.h"
 #include "device/upgradetools.h"
 
@@ -10,8 +11,6 @@
 #include <utility>
 
 namespace {
-
-const QString family = QStringLiteral("dh");
 
 constexpr int newsInterval = 250;  // milliseconds
 constexpr qsizetype fewRows = 500; // more are read with the whole list
@@ -27,7 +26,7 @@ public:
     [[nodiscard]] DeviceStep take(const BatchDevice &device)
     {
         const DeviceStep step = m_steps.take(device.name);
-        return step ? step : m_factory.repeatedDocumentStep(family, device.identity);
+        return step ? step : m_factory.repeatedDocumentStep(dhFamily, device.identity);
     }
 
 private:
@@ -56,7 +55,7 @@ UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::f
 
 QString UpgradeBatches::chooseFile(const QStringList &identities, const QString &path)
 {
-    const QList<int> refusals = m_factory.setUpgradeFiles(family, identities, path);
+    const QList<int> refusals = m_factory.setUpgradeFiles(dhFamily, identities, path);
     const auto refused = std::count_if(refusals.cbegin(), refusals.cend(), &UpgradeTools::isFailure);
     if (refused == 0)
         return {};
@@ -69,7 +68,7 @@ QString UpgradeBatches::chooseFile(const QStringList &identities, const QString 
 
 BatchPlan UpgradeBatches::usualPlan(const QString &title)
 {
-    BatchPlan plan = {.family = family, .title = title, .work = QStringLiteral("upgrade")};
+    BatchPlan plan = {.family = dhFamily, .title = title, .work = QStringLiteral("upgrade")};
     plan.policy = m_batches.usualPolicy();
     plan.policy.atOnce = m_atOnce();
     plan.policy.deadline = {}; // an upgrade has limits of its own
@@ -84,10 +83,10 @@ BatchPlan UpgradeBatches::usualPlan(const QString &title)
 Batch *UpgradeBatches::start(const QString &title, const QStringList &identities)
 {
     BatchPlan plan = usualPlan(title);
-    plan.devices = batchDevices(m_factory, family, identities);
+    plan.devices = batchDevices(m_factory, dhFamily, identities);
     plan.isByAddress = true;
     plan.stepOf = [this](const BatchDevice &device) {
-        return m_factory.upgradeStep(family, device.identity);
+        return m_factory.upgradeStep(dhFamily, device.identity);
     };
     return begin(std::move(plan), Source::List);
 }
@@ -101,9 +100,9 @@ Batch *UpgradeBatches::startDocument(const QString &title, const QString &path, 
         numbers.append(line.toInt());
     BatchPlan plan = usualPlan(title);
     const auto steps = std::make_shared<DocumentSteps>(m_factory);
-    const QList<UpgradeDocumentStep> upgrades = m_factory.upgradeDocumentSteps(family, path, numbers);
+    const QList<UpgradeDocumentStep> upgrades = m_factory.upgradeDocumentSteps(dhFamily, path, numbers);
     for (const UpgradeDocumentStep &line : upgrades) {
-        BatchDevice device = batchDevice(m_factory, family, line.device);
+        BatchDevice device = batchDevice(m_factory, dhFamily, line.device);
         device.name = tr("第%1行 %2").arg(line.line).arg(line.ipport);
         device.ipport = line.ipport;
         steps->add(device, line.step);
@@ -141,16 +140,16 @@ void UpgradeBatches::follow(Batch *batch, Source source)
 void UpgradeBatches::noteRefusals(const QList<BatchOutcome> &outcomes)
 {
     for (const auto &[device, outcome] : outcomes) {
-        const QJsonObject row = m_factory.deviceRow(family, device.identity);
+        const QJsonObject row = m_factory.deviceRow(dhFamily, device.identity);
         const bool wasAsked =
             row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None) != UpgradeTools::Stopped;
         for (const UpgradeTools::Result refusal :
              {UpgradeTools::WrongPassword, UpgradeTools::NoSuchAccount, UpgradeTools::AccountLocked}) {
             if (wasAsked || UpgradeTools::batchResult(refusal) != outcome.result)
                 continue;
-            m_factory.updataDeviceInfo(family, DeviceRowKey::upgraderes, refusal, device.identity,
+            m_factory.updataDeviceInfo(dhFamily, DeviceRowKey::upgraderes, refusal, device.identity,
                                        device.ipport);
-            m_factory.updataDeviceInfo(family, DeviceRowKey::upgradetext, UpgradeTools::text(refusal),
+            m_factory.updataDeviceInfo(dhFamily, DeviceRowKey::upgradetext, UpgradeTools::text(refusal),
                                        device.identity, device.ipport);
         }
     }
@@ -167,7 +166,7 @@ void UpgradeBatches::noteProgress(int percent)
 void UpgradeBatches::tellRows()
 {
     m_news.stop();
-    const QStringList names = m_factory.takeChangedUpgrades(family);
+    const QStringList names = m_factory.takeChangedUpgrades(dhFamily);
     if (names.size() > fewRows)
         Q_EMIT listChanged();
     else if (!names.isEmpty())
@@ -176,9 +175,9 @@ void UpgradeBatches::tellRows()
 
 void UpgradeBatches::noteRoundEnd()
 {
-    const QString text = m_isDocumentOpen ? m_factory.upgradeDocumentResult(family) : QString();
+    const QString text = m_isDocumentOpen ? m_factory.upgradeDocumentResult(dhFamily) : QString();
     if (text.isEmpty()) // it is still worked on
         return;
     m_isDocumentOpen = false;
-    Q_EMIT documentEnded(text, m_factory.upgradeDocumentSuccesses(family) > 0);
+    Q_EMIT documentEnded(text, m_factory.upgradeDocumentSuccesses(dhFamily) > 0);
 }

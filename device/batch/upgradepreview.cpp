@@ -2,6 +2,7 @@
 
 #include "device/busystate.h"
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/devicerow.h"
 #include "sdk/firmwarehead.h"
 
@@ -11,7 +12,6 @@
 
 namespace {
 
-const QString family = QStringLiteral("dh");
 const QString identityKey = QStringLiteral("identity");
 
 } // namespace
@@ -27,9 +27,9 @@ void UpgradePreview::setIdentities(const QStringList &identities)
     m_upgrades.clear();
     QVariantList devices;
     const QList<PlannedUpgrade> plans =
-        deviceFactory() ? deviceFactory()->plannedUpgrades(family, identities) : QList<PlannedUpgrade>();
+        deviceFactory() ? deviceFactory()->plannedUpgrades(dhFamily, identities) : QList<PlannedUpgrade>();
     for (qsizetype place = 0; place < plans.size(); ++place) {
-        QVariantMap device = deviceFactory()->getDeviceDetail(family, identities.at(place));
+        QVariantMap device = deviceFactory()->getDeviceDetail(dhFamily, identities.at(place));
         device.insert(identityKey, identities.at(place));
         m_upgrades.insert(identities.at(place), {.device = device.value(DeviceRowKey::vision).toString(),
                                                  .file = QFileInfo(plans.at(place).file).fileName(),
@@ -48,7 +48,7 @@ void UpgradePreview::readDocument(const QString &path)
     m_reading = {};
     m_work = deviceFactory()->busyState()->begin(tr("读取升级文档"), BusyState::Rows);
     deviceFactory()->runForScene(
-        family, deviceFactory()->upgradeDocumentReading(family, path), m_reading.get_token(),
+        dhFamily, deviceFactory()->upgradeDocumentReading(dhFamily, path), m_reading.get_token(),
         [self = QPointer(this), reading = m_reading.get_token()](const SceneOutcome &outcome) {
             if (!self || reading.stop_requested())
                 return;

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto requestWait = 5000ms;
+constexpr auto searchRequestWait = 5000ms;
 
 void setText(auto &field, const QString &text)
 {
@@ -46,7 +46,7 @@ StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &acco
         input.address = record->device.address;
         input.port = static_cast<std::uint16_t>(record->device.port);
         sdk::DeviceRequestOutput output{.size = sizeof(output)};
-        if (!m_libraries.net->NetInitDeviceAccount(input, output, requestWait, ""))
+        if (!m_libraries.net->NetInitDeviceAccount(input, output, searchRequestWait, ""))
             result = loginResultOf(m_libraries.net->NetGetLastError());
     }
     return noteResult(mac, result);
@@ -111,7 +111,7 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
         setText(request.device.account, credentials.account);
         setText(request.device.password, credentials.password);
         sdk::DeviceRequestOutput output{.size = sizeof(output)};
-        if (!m_libraries.net->NetModifyDeviceBySearch(request, output, requestWait))
+        if (!m_libraries.net->NetModifyDeviceBySearch(request, output, searchRequestWait))
             result = loginResultOf(m_libraries.net->NetGetLastError());
     }
 

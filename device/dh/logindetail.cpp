@@ -13,8 +13,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::size_t textSize = 32768;
-constexpr auto wholeDevice = -1;
+constexpr std::size_t detailTextSize = 32768;
+constexpr auto everyChannel = -1;
 
 /// Puts in what is not empty: a name or an address that a device leaves out is known from elsewhere.
 void putText(QVariantMap &detail, QLatin1StringView key, const QString &text)
@@ -52,7 +52,7 @@ bool readAttributes(const ConfigSession &session, QVariantMap &detail)
 template<typename Record, typename Take>
 bool readRecord(const ConfigSession &session, const char *name, int channel, Take take)
 {
-    ConfigText text(textSize);
+    ConfigText text(detailTextSize);
     const std::int32_t error = session.fetchText(name, channel, text, ConfigSession::usualWait);
     if (error != 0)
         return !isDeviceAway(static_cast<std::uint32_t>(error));
@@ -84,7 +84,7 @@ bool readService(const ConfigSession &session, QVariantMap &detail)
 
 bool readHttps(const ConfigSession &session, QVariantMap &detail)
 {
-    return readRecord<sdk::HttpsRecord>(session, "Https", wholeDevice, [&](const sdk::HttpsRecord &record) {
+    return readRecord<sdk::HttpsRecord>(session, "Https", everyChannel, [&](const sdk::HttpsRecord &record) {
         putNumber(detail, QLatin1StringView("httpsPort"), record.enabled != 0 ? record.port : 0);
     });
 }

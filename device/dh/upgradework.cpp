@@ -17,8 +17,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto attributesWait = 3000ms;
-constexpr auto startWait = 10000ms;
+constexpr auto upgradeAttributesWait = 3000ms;
+constexpr auto upgradeStartWait = 10000ms;
 constexpr auto lookInterval = 200ms;    ///< between two looks at the news
 constexpr auto returnInterval = 1000ms; ///< between two tries to log in again
 constexpr auto versionWait = 10000ms;   ///< for a version of a device that lets in again
@@ -193,7 +193,7 @@ UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &fil
         return ended(UpgradeTools::Stopped);
     m_oldVersion = device.version;
     const std::int64_t handle = m_libraries.net->NetStartUpgrade(
-        loginHandle, m_order.file.toLocal8Bit().constData(), &News::handle, &news, startWait);
+        loginHandle, m_order.file.toLocal8Bit().constData(), &News::handle, &news, upgradeStartWait);
     if (handle == 0) {
         const std::uint32_t error = m_libraries.net->NetGetLastError();
         qCWarning(logDevice) << "The upgrade of" << m_order.ipport << "was refused, error" << Qt::hex
@@ -295,7 +295,7 @@ UpgradeWork::Identity UpgradeWork::identity(std::int64_t loginHandle) const
     sdk::DeviceAttributes attributes{};
     std::uint32_t returned = 0;
     if (!m_libraries.net->NetQueryConfig(loginHandle, sdk::QueryCommand::DeviceAttributes, 0, &attributes,
-                                         sizeof(attributes), returned, attributesWait))
+                                         sizeof(attributes), returned, upgradeAttributesWait))
         return {};
     return {.model = fieldText(attributes.detailModel).trimmed(),
             .version = fieldText(attributes.softwareVersion).trimmed()};

@@ -11,7 +11,7 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr int highestPort = 65535;
+constexpr int highestAgentPort = 65535;
 
 auto leadsThrough(int localPort)
 {
@@ -93,8 +93,8 @@ bool DemoP2PAgentLibrary::OAgent_ClientAddPort(const char *deviceId, std::int32_
             {QStringLiteral("flag"), flag}},
            mac);
     const std::optional<SceneDevice> device = m_site.device(mac);
-    if (!device || device->hasFault(Fault::NoAnswer) || devicePort < 1 || devicePort > highestPort ||
-        localPort < 0 || localPort > highestPort)
+    if (!device || device->hasFault(Fault::NoAnswer) || devicePort < 1 || devicePort > highestAgentPort ||
+        localPort < 0 || localPort > highestAgentPort)
         return false;
     const std::lock_guard lock(m_mutex);
     if (!m_isStarted)

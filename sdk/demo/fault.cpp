@@ -15,7 +15,7 @@ struct FaultEntry
 };
 
 // In the order of the enumeration, so that a fault is its own index.
-constexpr std::array entries = {
+constexpr std::array faultEntries = {
     FaultEntry{Fault::NoAnswer, "noAnswer", FaultValue::None},
     FaultEntry{Fault::LateAnswer, "lateAnswer", FaultValue::Number},
     FaultEntry{Fault::AnswerTwice, "answerTwice", FaultValue::None},
@@ -63,17 +63,17 @@ constexpr std::array entries = {
 
 constexpr bool indexedByFault()
 {
-    for (std::size_t index = 0; index < entries.size(); ++index) {
-        if (static_cast<std::size_t>(entries[index].fault) != index)
+    for (std::size_t index = 0; index < faultEntries.size(); ++index) {
+        if (static_cast<std::size_t>(faultEntries[index].fault) != index)
             return false;
     }
-    return entries.back().fault == Fault::HttpRedirects;
+    return faultEntries.back().fault == Fault::HttpRedirects;
 }
 static_assert(indexedByFault());
 
 const FaultEntry &entryOf(Fault fault)
 {
-    return entries[static_cast<std::size_t>(fault)];
+    return faultEntries[static_cast<std::size_t>(fault)];
 }
 
 } // namespace
@@ -85,7 +85,7 @@ QString faultName(Fault fault)
 
 std::optional<Fault> faultNamed(const QString &name)
 {
-    for (const FaultEntry &entry : entries) {
+    for (const FaultEntry &entry : faultEntries) {
         if (name == QLatin1String(entry.name))
             return entry.fault;
     }
@@ -109,7 +109,7 @@ int maximumFaultNumber(Fault fault)
 QStringList knownFaultNames()
 {
     QStringList names;
-    for (const FaultEntry &entry : entries)
+    for (const FaultEntry &entry : faultEntries)
         names.append(QString::fromLatin1(entry.name));
     return names;
 }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr quint32 seed = 20240229;
 constexpr int shortestLatency = 40;
-constexpr int longestLatency = 2540;
+constexpr int longestGeneratedLatency = 2540;
 
 /// One kind of device, and how often it stands in a hundred devices.
 struct Kind
@@ -32,7 +32,7 @@ constexpr std::array kinds = {
 
 constexpr std::array places = {u"Gate", u"Parking", u"Lobby", u"Warehouse", u"Façade", u"Lagerhalle",
                                u"东门", u"停车场",  u"大厅",  u"仓库",      u"电梯",   u"走廊"};
-constexpr std::array sides = {u"", u" North", u" South", u" 北", u" 南", u" Ost"};
+constexpr std::array placeSides = {u"", u" North", u" South", u" 北", u" 南", u" Ost"};
 
 class Dice
 {
@@ -115,7 +115,7 @@ SceneDevice deviceAt(int place, Dice &dice, SharedLists &lists)
     device.httpPort = dice.oncein(20) ? 8080 : 80;
     device.type = QString::fromLatin1(kind.type);
     device.model = QString::fromLatin1(kind.model).arg(dice.number(10, 99));
-    device.name = u"%1%2 %3"_s.arg(dice.oneOf(places), dice.oneOf(sides)).arg(place + 1);
+    device.name = u"%1%2 %3"_s.arg(dice.oneOf(places), dice.oneOf(placeSides)).arg(place + 1);
     device.version = u"2.%1.%2"_s.arg(dice.number(400, 880)).arg(dice.number(0, 9));
     device.serial =
         u"%1%2"_s.arg(dice.number(0x10000, 0xFFFFF), 5, 16).arg(place, 7, 10, QLatin1Char('0')).toUpper();
@@ -124,7 +124,7 @@ SceneDevice deviceAt(int place, Dice &dice, SharedLists &lists)
     device.channels = lists.channels(kind.mostChannels == 1 ? 1 : 4 * dice.number(1, kind.mostChannels / 4));
     if (device.initialisation != InitialisationBits::Uninitialised)
         device.accounts = lists.accounts();
-    device.latency = std::chrono::milliseconds(dice.number(shortestLatency, longestLatency));
+    device.latency = std::chrono::milliseconds(dice.number(shortestLatency, longestGeneratedLatency));
     device.knowsFirstSearch = !dice.oncein(10);
     return device;
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view discoveryUri = namespaceUri("d");
 constexpr const char *everybody = "urn:schemas-xmlsoap-org:ws:2005:04:discovery";
-constexpr const char *types = "dn:NetworkVideoTransmitter tds:Device";
+constexpr const char *deviceTypes = "dn:NetworkVideoTransmitter tds:Device";
 
 QStringList wordsOf(const QString &text)
 {
@@ -81,7 +81,7 @@ void writeHead(SoapMessage &message, const char *action, const QString &relatesT
 void writeIdentity(XmlElement element, const DiscoveryIdentity &identity)
 {
     element.add("wsa:EndpointReference").add("wsa:Address", identity.endpoint);
-    element.add("d:Types", types);
+    element.add("d:Types", deviceTypes);
     element.add("d:Scopes", identity.scopes.join(u' '));
     if (!identity.addresses.isEmpty())
         element.add("d:XAddrs", identity.addresses.join(u' '));

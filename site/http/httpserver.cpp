@@ -15,7 +15,7 @@ namespace site {
 namespace {
 
 /// For a client that reads nothing, or says nothing in a handshake: how long a piece may wait.
-constexpr timeval patience = {15, 0};
+constexpr timeval receiveTimeout = {15, 0};
 
 } // namespace
 
@@ -51,8 +51,8 @@ void HttpServer::serve(Connection &connection)
 {
     const int socket = connection.socket.number();
     const int on = 1;
-    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof(patience));
-    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
+    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &receiveTimeout, sizeof(receiveTimeout));
+    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &receiveTimeout, sizeof(receiveTimeout));
     setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
     if (connection.key) {
         EncryptedStream stream(socket, connection.key);

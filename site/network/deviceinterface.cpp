@@ -20,7 +20,7 @@ namespace site {
 
 namespace {
 
-constexpr const char *interfaceName = "eth0";
+constexpr const char *deviceInterface = "eth0";
 
 QString textOfError(int error)
 {
@@ -74,7 +74,7 @@ std::unique_ptr<DeviceInterface> DeviceInterface::create(unsigned lower, const Q
         return nullptr;
     }
     NetlinkRequest request(RTM_NEWLINK, NLM_F_CREATE | NLM_F_EXCL, ifinfomsg{});
-    request.add(IFLA_IFNAME, std::string_view(interfaceName));
+    request.add(IFLA_IFNAME, std::string_view(deviceInterface));
     request.add(IFLA_ADDRESS, viewOf(bytesOfMac(mac)));
     request.addNumber<std::uint32_t>(IFLA_LINK, lower);
     request.addNumber<std::int32_t>(IFLA_NET_NS_FD, space->number());
@@ -91,7 +91,7 @@ std::unique_ptr<DeviceInterface> DeviceInterface::create(unsigned lower, const Q
     // Not make_unique: the constructor is private.
     std::unique_ptr<DeviceInterface> made(new DeviceInterface(std::move(*space)));
     const InsideNetworkSpace inside(made->m_space);
-    made->m_index = if_nametoindex(interfaceName);
+    made->m_index = if_nametoindex(deviceInterface);
     made->m_mac = mac;
     return made;
 }

@@ -61,7 +61,7 @@ gboolean check(GstRTSPAuth *auth, GstRTSPContext *context, const gchar *what)
     return checkLogin(*reinterpret_cast<SiteRtspAuth *>(auth)->device, context);
 }
 
-void initialiseClass(gpointer type, gpointer)
+void initialiseAuthClass(gpointer type, gpointer)
 {
     static_cast<SiteRtspAuthClass *>(type)->parent_class.check = check;
 }
@@ -70,7 +70,7 @@ GType siteRtspAuthType()
 {
     static const GType type =
         g_type_register_static_simple(GST_TYPE_RTSP_AUTH, "SiteRtspAuth", sizeof(SiteRtspAuthClass),
-                                      initialiseClass, sizeof(SiteRtspAuth), nullptr, GTypeFlags());
+                                      initialiseAuthClass, sizeof(SiteRtspAuth), nullptr, GTypeFlags());
     return type;
 }
 

@@ -20,16 +20,16 @@ void enterThread(GstRTSPThreadPool *pool, GstRTSPThread *)
     reinterpret_cast<SiteRtspThreads *>(pool)->space->enter();
 }
 
-void initialiseClass(gpointer type, gpointer)
+void initialiseThreadsClass(gpointer type, gpointer)
 {
     static_cast<SiteRtspThreadsClass *>(type)->parent_class.thread_enter = enterThread;
 }
 
 GType siteRtspThreadsType()
 {
-    static const GType type = g_type_register_static_simple(GST_TYPE_RTSP_THREAD_POOL, "SiteRtspThreads",
-                                                            sizeof(SiteRtspThreadsClass), initialiseClass,
-                                                            sizeof(SiteRtspThreads), nullptr, GTypeFlags());
+    static const GType type = g_type_register_static_simple(
+        GST_TYPE_RTSP_THREAD_POOL, "SiteRtspThreads", sizeof(SiteRtspThreadsClass), initialiseThreadsClass,
+        sizeof(SiteRtspThreads), nullptr, GTypeFlags());
     return type;
 }
 

@@ -9,7 +9,7 @@ namespace sdk::demo {
 
 namespace {
 
-thread_local bool insideHandler = false;
+thread_local bool insideEventHandler = false;
 
 } // namespace
 
@@ -52,7 +52,7 @@ void AgentEvents::add(P2PAgentEvent event, const QByteArray &deviceId, int local
 
 bool AgentEvents::isInsideHandler()
 {
-    return insideHandler;
+    return insideEventHandler;
 }
 
 void AgentEvents::run(std::int64_t connected, const std::stop_token &stop)
@@ -80,9 +80,9 @@ void AgentEvents::tell(const Entry &entry)
     lock.unlock();
     if (!handler)
         return;
-    insideHandler = true;
+    insideEventHandler = true;
     handler(entry.event, entry.deviceId.constData(), entry.localPort, user);
-    insideHandler = false;
+    insideEventHandler = false;
 }
 
 } // namespace sdk::demo

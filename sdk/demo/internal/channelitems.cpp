@@ -30,7 +30,7 @@ QByteArray bytesOf(const Block &block)
     return {reinterpret_cast<const char *>(&block), sizeof(block)};
 }
 
-std::string_view viewOf(const QByteArray &bytes)
+std::string_view recordView(const QByteArray &bytes)
 {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
@@ -208,14 +208,14 @@ NetError setChannelText(SceneDevice &device, const QString &name, std::int32_t c
         return NetError::NotSupported;
     if (name == QLatin1String("VideoColor")) {
         VideoColorRecord record = colorRecord(device, channel);
-        if (!unpackConfigText("VideoColor", viewOf(text), &record, sizeof(record)))
+        if (!unpackConfigText("VideoColor", recordView(text), &record, sizeof(record)))
             return NetError::NotSupported;
         takeModes(device, CameraItem::Picture, channel, record.pictures.data());
         return NetError::None;
     }
     if (name == QLatin1String("Lighting_V2")) {
         LightingRecord record = lightingRecord(device, channel);
-        if (!unpackConfigText("Lighting_V2", viewOf(text), &record, sizeof(record)))
+        if (!unpackConfigText("Lighting_V2", recordView(text), &record, sizeof(record)))
             return NetError::NotSupported;
         takeModes(device, CameraItem::MixedLight, channel, record.lights.data());
         return NetError::None;
@@ -228,7 +228,7 @@ NetError tellEncodeCapabilities(const SceneDevice &device, std::int32_t channel,
 {
     EncodeRecord settings = encodeRecord(device, channel);
     if (!hasChannel(device, channel) ||
-        !unpackConfigText("Encode", viewOf(text), &settings, sizeof(settings)))
+        !unpackConfigText("Encode", recordView(text), &settings, sizeof(settings)))
         return NetError::NotSupported;
     for (std::size_t place = 0; place < streamKindCount; ++place) {
         capabilities.blocks[place] =

@@ -11,8 +11,8 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr int whole = 100; // percent
-thread_local bool insideHandler = false;
+constexpr int wholePercent = 100; // percent
+thread_local bool insideUpgradeHandler = false;
 
 /// Whether the fault `kind` strikes at `percent` of `phase`: below 100 in the sending, else in the writing.
 bool strikes(const SceneDevice &device, Fault kind, UpgradePhase phase, int percent)
@@ -20,8 +20,8 @@ bool strikes(const SceneDevice &device, Fault kind, UpgradePhase phase, int perc
     const std::optional<FaultSetting> fault = device.fault(kind);
     if (!fault)
         return false;
-    return phase == UpgradePhase::Sending ? fault->number < whole && percent >= fault->number
-                                          : fault->number == whole;
+    return phase == UpgradePhase::Sending ? fault->number < wholePercent && percent >= fault->number
+                                          : fault->number == wholePercent;
 }
 
 } // namespace
@@ -54,7 +54,7 @@ void DeviceUpgrade::letGoOfHandler()
 
 bool DeviceUpgrade::isInsideHandler()
 {
-    return insideHandler;
+    return insideUpgradeHandler;
 }
 
 void DeviceUpgrade::run(const std::stop_token &stop)
@@ -74,8 +74,8 @@ bool DeviceUpgrade::goThrough(UpgradePhase phase, std::chrono::milliseconds dura
                               const std::stop_token &stop)
 {
     const std::int64_t start = m_site.clock().now();
-    for (int percent = 1; percent <= whole; ++percent) {
-        if (!m_site.clock().waitUntil(start + duration.count() * percent / whole, stop))
+    for (int percent = 1; percent <= wholePercent; ++percent) {
+        if (!m_site.clock().waitUntil(start + duration.count() * percent / wholePercent, stop))
             return false;
         const std::optional<SceneDevice> device = m_site.device(m_order.session.mac);
         if (!device || !isReachable(m_site, m_order.session))
@@ -86,7 +86,7 @@ bool DeviceUpgrade::goThrough(UpgradePhase phase, std::chrono::milliseconds dura
             return false;
         tell({.size = sizeof(UpgradeProgress), .phase = phase, .percent = percent, .error = 0});
     }
-    // It looks at the whole file only now.
+    // It looks at the wholePercent file only now.
     return m_order.firmware || fail(NetError::FirmwareRefused);
 }
 
@@ -113,7 +113,7 @@ void DeviceUpgrade::finish()
         installFirmware(device, *m_order.firmware, m_site.clock().now());
     });
     m_sessions.breakSessionsTo(m_order.session.mac);
-    tell({.size = sizeof(UpgradeProgress), .phase = UpgradePhase::Done, .percent = whole, .error = 0});
+    tell({.size = sizeof(UpgradeProgress), .phase = UpgradePhase::Done, .percent = wholePercent, .error = 0});
 }
 
 bool DeviceUpgrade::fail(NetError error)
@@ -132,9 +132,9 @@ void DeviceUpgrade::tell(const UpgradeProgress &progress)
     const std::lock_guard lock(m_handlerMutex);
     if (!m_hasHandler)
         return;
-    insideHandler = true;
+    insideUpgradeHandler = true;
     m_order.handler(m_handle, &progress, m_order.user);
-    insideHandler = false;
+    insideUpgradeHandler = false;
 }
 
 } // namespace sdk::demo

@@ -20,9 +20,9 @@ constexpr std::array videoFormat = {"size",      "stream", "videoEnable",    "co
 constexpr std::array videoProfile = {"size", "stream", "profile"};
 constexpr std::array audioCompression = {"size", "audioEnable", "stream", "format"};
 constexpr std::array audioFormat = {"size", "stream", none, "samplingFrequency", none, none, none};
-constexpr std::array picture = {"size", "mode",  "colorStyle", "brightness", "contrast", "saturation",
-                                "hue",  "gamma", none,         none,         none,       none,
-                                none,   none,    none,         none};
+constexpr std::array pictureMembers = {"size", "mode",  "colorStyle", "brightness", "contrast", "saturation",
+                                       "hue",  "gamma", none,         none,         none,       none,
+                                       none,   none,    none,         none};
 constexpr std::array sharpness = {"size", "mode", "sharpness", none, none};
 constexpr std::array mirror = {"size", "mode", "mirror", "rotate", none};
 constexpr std::array stable = {"size", "mode", "stable"};
@@ -66,7 +66,7 @@ constexpr std::array items = {
     entry(EncodeItem::AudioCompression, sizeof(AudioCompressionItem), audioCompression, 2),
     entry(EncodeItem::AudioFormat, sizeof(AudioFormatItem), audioFormat, 1),
     entry(CameraItem::ChannelName, sizeof(ChannelNameItem), {}, 0),
-    entry(CameraItem::Picture, sizeof(PictureItem), picture, 1),
+    entry(CameraItem::Picture, sizeof(PictureItem), pictureMembers, 1),
     entry(CameraItem::Mirror, sizeof(MirrorItem), mirror, 1),
     entry(CameraItem::Stable, sizeof(StableItem), stable, 1),
     entry(CameraItem::Exposure, sizeof(ExposureItem), exposure, 1, 3u << 4),

@@ -6,7 +6,7 @@ namespace sdk::demo {
 
 namespace {
 
-thread_local bool insideHandler = false;
+thread_local bool insideDataHandler = false;
 
 }
 
@@ -22,7 +22,7 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
 
 bool LiveStream::isInsideHandler()
 {
-    return insideHandler;
+    return insideDataHandler;
 }
 
 bool LiveStream::prepare(const LiveProduction &production)
@@ -71,10 +71,10 @@ void LiveStream::deliver(std::span<const std::uint8_t> bytes)
 
 void LiveStream::call(RealDataType type, std::span<const std::uint8_t> bytes, std::int64_t parameter) const
 {
-    insideHandler = true;
+    insideDataHandler = true;
     m_handler(m_handle, static_cast<std::uint32_t>(type), bytes.data(),
               static_cast<std::uint32_t>(bytes.size()), parameter, m_user);
-    insideHandler = false;
+    insideDataHandler = false;
 }
 
 } // namespace sdk::demo

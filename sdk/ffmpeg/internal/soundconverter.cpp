@@ -5,7 +5,7 @@ namespace sdk::ffmpeg {
 namespace {
 
 constexpr int lowestRate = 1000;
-constexpr int highestRate = 384000;
+constexpr int highestSampleRate = 384000;
 constexpr int mostChannels = 16;
 
 } // namespace
@@ -18,7 +18,7 @@ SoundConverter::~SoundConverter()
 std::span<const std::int16_t> SoundConverter::convert(const AVFrame &frame)
 {
     const int channels = frame.ch_layout.nb_channels;
-    if (frame.nb_samples <= 0 || frame.sample_rate < lowestRate || frame.sample_rate > highestRate ||
+    if (frame.nb_samples <= 0 || frame.sample_rate < lowestRate || frame.sample_rate > highestSampleRate ||
         channels <= 0 || channels > mostChannels) {
         return {};
     }

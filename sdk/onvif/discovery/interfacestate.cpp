@@ -20,7 +20,7 @@ namespace sdk::onvif {
 
 namespace {
 
-struct ListDeleter
+struct InterfaceListDeleter
 {
     void operator()(ifaddrs *list) const { freeifaddrs(list); }
 };
@@ -88,7 +88,7 @@ std::vector<InterfaceState> interfaceStates()
     ifaddrs *first = nullptr;
     if (getifaddrs(&first) != 0)
         return {};
-    const std::unique_ptr<ifaddrs, ListDeleter> owner(first);
+    const std::unique_ptr<ifaddrs, InterfaceListDeleter> owner(first);
     std::vector<InterfaceState> states;
     for (const ifaddrs *entry = first; entry; entry = entry->ifa_next) {
         if (!entry->ifa_addr || !isSearchedFrom(*entry->ifa_addr))

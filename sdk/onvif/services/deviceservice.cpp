@@ -11,11 +11,11 @@ namespace sdk::onvif {
 namespace {
 
 constexpr std::size_t maximumItems = 64;
-constexpr std::size_t longestText = 256;
+constexpr std::size_t longestDeviceText = 256;
 
 std::string textOf(const XmlElement &element)
 {
-    return std::string(element.text().substr(0, longestText));
+    return std::string(element.text().substr(0, longestDeviceText));
 }
 
 std::vector<XmlElement> bounded(std::vector<XmlElement> elements)
@@ -71,7 +71,7 @@ std::vector<DeviceUser> readUsers(const XmlElement &response)
 DeviceInterface readInterface(const XmlElement &element)
 {
     DeviceInterface read;
-    read.token = std::string(element.attribute("token").substr(0, longestText));
+    read.token = std::string(element.attribute("token").substr(0, longestDeviceText));
     read.isEnabled = element.child("Enabled").boolean().value_or(true);
     read.mac = canonicalMac(element.at({"Info", "HwAddress"}).text());
     const XmlElement config = element.at({"IPv4", "Config"});

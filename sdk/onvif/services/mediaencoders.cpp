@@ -13,7 +13,7 @@ namespace sdk::onvif {
 namespace {
 
 constexpr std::size_t maximumOptions = 64;
-constexpr int largestNumber = 1'000'000;
+constexpr int largestValue = 1'000'000;
 
 std::vector<std::string_view> words(std::string_view text)
 {
@@ -32,7 +32,7 @@ double numberOf(std::string_view text)
 {
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && std::isfinite(value) ? std::clamp(value, 0.0, double(largestNumber)) : 0;
+    return error == std::errc() && std::isfinite(value) ? std::clamp(value, 0.0, double(largestValue)) : 0;
 }
 
 int wholeNumberOf(std::string_view text)
