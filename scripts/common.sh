@@ -44,6 +44,7 @@ use_folders_of_tests() {
     export QT_QUICK_CONTROLS_STYLE=Basic
     export ASAN_OPTIONS=detect_leaks=1
     export LSAN_OPTIONS=suppressions=$root/scripts/sanitizer/lsan.supp:print_suppressions=0
-    export TSAN_OPTIONS=suppressions=$root/scripts/sanitizer/tsan.supp:print_suppressions=0
+    # What the libraries of others do inside is not seen, so their accesses are not judged either.
+    export TSAN_OPTIONS=suppressions=$root/scripts/sanitizer/tsan.supp:print_suppressions=0:ignore_noninstrumented_modules=1
     export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 }

@@ -159,8 +159,10 @@ void AddressSearch::askByHttp(const std::vector<std::string> &addresses, Time en
             device.service.host = address;
             device.service.port = port;
             m_inspections.start([this, device, end] { inspect(device, true, end); });
-            std::erase(left, address);
         }
+        // Another server may be at the first port, so only a device ends the search of its address.
+        const std::scoped_lock lock(m_mutex);
+        std::erase_if(left, [this](const std::string &address) { return m_reported.contains(address); });
     }
 }
 
@@ -169,8 +171,10 @@ void AddressSearch::inspect(FoundDevice device, bool mustAnswer, Time end)
     const bool hasAnswered = inspectDevice(device, m_http, milliseconds(millisecondsUntil(end)));
     if (m_isCancelled || (mustAnswer && !hasAnswered))
         return;
-    m_counters.noteAnsweredAddress();
     const std::scoped_lock lock(m_mutex);
+    if (!m_reported.insert(device.address).second)
+        return;
+    m_counters.noteAnsweredAddress();
     m_reporter(device);
 }
 

@@ -48,7 +48,8 @@ private:
     const std::atomic_bool &m_isCancelled;
     QThreadPool m_inspections;
     std::set<std::string> m_answered; ///< by probe; of the searching thread
-    std::mutex m_mutex;               ///< of the reporter
+    std::mutex m_mutex;               ///< of the reporter and of what follows
+    std::set<std::string> m_reported;
 };
 
 } // namespace sdk::onvif

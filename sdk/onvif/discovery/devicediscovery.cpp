@@ -6,6 +6,7 @@
 #include "sdk/onvif/soap/httpclient.h"
 #include "sdk/onvif/soap/logging.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace sdk::onvif {
@@ -15,16 +16,25 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto inspectionWait = 1500ms;
+// A search of the local network runs for about four seconds: a device that has waited this long for its
+// inspection is reported without one.
+constexpr auto longestQueueTime = 2s;
 constexpr int inspectionsAtOnce = 16;
 // Bounds against a computer that answers with made-up devices.
 constexpr std::size_t maximumDevices = 20'000;
-constexpr int maximumServicesAtAddress = 4;
+// Factory-new devices have the same address, and a device may have several services.
+constexpr int maximumServicesAtAddress = 32;
 // A probe is repeated once: it may be lost, and so may an answer (SOAP-over-UDP 1.1, appendix A).
 constexpr auto repetitionDelay = 150ms;
 
 std::string keyOf(const std::string &address, int port)
 {
     return address + ' ' + std::to_string(port);
+}
+
+std::string keyOf(const FoundDevice &device)
+{
+    return keyOf(device.address, device.service.port) + ' ' + device.announcement.uuid;
 }
 
 /// Why the announcement alone is no reason to report a device; nothing if it is one.
@@ -104,7 +114,9 @@ std::int64_t DeviceDiscovery::start(SearchAnswerHandler handler, void *user)
 void DeviceDiscovery::clearSearchState()
 {
     m_counters.clear();
+    std::vector<InterfaceState> interfaces = interfaceStates();
     const std::scoped_lock lock(m_mutex);
+    m_interfaces = std::move(interfaces);
     m_seen.clear();
     m_seenAt.clear();
     m_doubted.clear();
@@ -190,7 +202,12 @@ void DeviceDiscovery::take(DeviceAnnouncement announcement, const std::string &a
     device.announcement = std::move(announcement);
     switch (expectationOf(device)) {
     case Expectation::New:
-        m_inspections.start([this, device] { inspect(device); });
+        m_inspections.start(
+            [this, device, queued = std::chrono::steady_clock::now()] {
+                const bool isLate = std::chrono::steady_clock::now() - queued > longestQueueTime;
+                inspect(device, isLate ? 0ms : inspectionWait);
+            },
+            isInOwnNetwork(device.address) ? 1 : 0);
         break;
     case Expectation::Known:
         break;
@@ -206,7 +223,7 @@ void DeviceDiscovery::take(DeviceAnnouncement announcement, const std::string &a
 DeviceDiscovery::Expectation DeviceDiscovery::expectationOf(const FoundDevice &device)
 {
     const std::scoped_lock lock(m_mutex);
-    const std::string key = keyOf(device.address, device.service.port);
+    const std::string key = keyOf(device);
     if (m_seen.contains(key)) {
         if (!m_doubted.contains(key))
             return Expectation::Known;
@@ -226,9 +243,18 @@ DeviceDiscovery::Expectation DeviceDiscovery::expectationOf(const FoundDevice &d
     return Expectation::New;
 }
 
-void DeviceDiscovery::inspect(FoundDevice device)
+bool DeviceDiscovery::isInOwnNetwork(const std::string &address) const
 {
-    const bool answers = inspectDevice(device, m_http, inspectionWait);
+    const std::scoped_lock lock(m_mutex);
+    return address.find('%') != std::string::npos || // link-local
+           std::any_of(m_interfaces.begin(), m_interfaces.end(), [&address](const InterfaceState &interface) {
+               return isInNetwork(address, interface);
+           });
+}
+
+void DeviceDiscovery::inspect(FoundDevice device, std::chrono::milliseconds wait)
+{
+    const bool answers = inspectDevice(device, m_http, wait);
     if (m_isCancelled)
         return;
     const std::optional<SearchDiscard> doubt = answers ? std::nullopt : doubtAbout(device);
@@ -238,7 +264,7 @@ void DeviceDiscovery::inspect(FoundDevice device)
     }
     m_counters.noteDiscarded(device.localAddress, *doubt);
     const std::scoped_lock lock(m_mutex);
-    m_doubted.insert(keyOf(device.address, device.service.port));
+    m_doubted.insert(keyOf(device));
 }
 
 void DeviceDiscovery::remember(const FoundDevice &device)
@@ -250,19 +276,15 @@ void DeviceDiscovery::remember(const FoundDevice &device)
 
 void DeviceDiscovery::report(FoundDevice device)
 {
-    remember(device);
     const std::scoped_lock handlerLock(m_handlerMutex);
     SearchAnswer answer{};
     {
         const std::scoped_lock lock(m_mutex);
-        const std::string &mac = device.mac.empty() ? device.announcement.mac : device.mac;
-        if (!mac.empty() && !m_macHolders.admits(mac, device.address, device.isNeighbour)) {
-            device.mac.clear();
-            device.announcement.mac.clear();
-        }
+        m_macHolders.admit(device);
         answer = searchAnswerOf(device);
         m_answers.push_back(answer);
     }
+    remember(device);
     for (const auto &[handle, search] : m_searches)
         search.handler(handle, &answer, search.user);
 }
@@ -272,7 +294,9 @@ void DeviceDiscovery::searchAddresses(const std::vector<std::string> &addresses,
 {
     if (m_isCancelled || !handler)
         return;
-    const auto reporter = [&](const FoundDevice &device) {
+    MacHolders holders; // the reporter runs one call at a time
+    const auto reporter = [&](FoundDevice device) {
+        holders.admit(device);
         remember(device);
         const SearchAnswer answer = searchAnswerOf(device);
         handler(0, &answer, user);

@@ -3,6 +3,7 @@
 
 #include "sdk/onvif/discovery/discoverysockets.h"
 #include "sdk/onvif/discovery/founddevice.h"
+#include "sdk/onvif/discovery/interfacestate.h"
 #include "sdk/onvif/discovery/macholders.h"
 #include "sdk/onvif/discovery/searchcounters.h"
 #include "sdk/searchblocks.h"
@@ -31,8 +32,9 @@ class HttpClient;
 /// Finds devices by WS-Discovery. Any thread may call it. Handlers run on threads of the object.
 ///
 /// A device is reported after a request without a login has shown what state it is in, so that a row is whole
-/// when it appears; if the device does not answer that request, it is reported with an unknown state. The
-/// device is asked once however many searches run.
+/// when it appears; if the device does not answer that request, or others that are asked before it take too
+/// long, it is reported with an unknown state. Devices in the networks of this computer are asked first:
+/// those of foreign networks often cannot answer. The device is asked once however many searches run.
 class DeviceDiscovery
 {
 public:
@@ -89,7 +91,9 @@ private:
     void sendProbes();
     void take(std::string_view datagram, const SocketAddress &sender, const std::string &localAddress);
     void take(DeviceAnnouncement announcement, const std::string &address, const std::string &localAddress);
-    void inspect(FoundDevice device);
+    void inspect(FoundDevice device, std::chrono::milliseconds wait);
+    /// Whether this computer reaches the device without a router.
+    [[nodiscard]] bool isInOwnNetwork(const std::string &address) const;
     void report(FoundDevice device);
     void remember(const FoundDevice &device);
     [[nodiscard]] Expectation expectationOf(const FoundDevice &device);
@@ -108,11 +112,12 @@ private:
 
     mutable std::mutex m_mutex; ///< of what follows
     std::int64_t m_lastHandle = 0;
-    std::set<std::string> m_seen;        ///< devices of the running searches, by address and port
-    std::map<std::string, int> m_seenAt; ///< how many of them have this address
-    std::set<std::string> m_doubted;     ///< of `m_seen`, not reported: see Expectation::Doubted
-    MacHolders m_macHolders;             ///< of the running searches
-    std::vector<SearchAnswer> m_answers; ///< of the running searches, or of the last ones
+    std::vector<InterfaceState> m_interfaces; ///< at the start of the running searches
+    std::set<std::string> m_seen;             ///< devices of the running searches, by address, port and UUID
+    std::map<std::string, int> m_seenAt;      ///< how many of them have this address
+    std::set<std::string> m_doubted;          ///< of `m_seen`, not reported: see Expectation::Doubted
+    MacHolders m_macHolders;                  ///< of the running searches
+    std::vector<SearchAnswer> m_answers;      ///< of the running searches, or of the last ones
     std::map<std::string, ServiceAddress> m_services; ///< by address and port, of all searches
 
     std::mutex m_handlerMutex; ///< held while handlers run

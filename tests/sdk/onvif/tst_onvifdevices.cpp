@@ -34,6 +34,16 @@ public:
         auto *self = static_cast<Answers *>(user);
         const std::scoped_lock lock(self->m_mutex);
         self->m_answers.insert(textOf(answer->device.address), *answer);
+        self->m_uuids.insert(textOf(answer->device.address), textOf(answer->device.uuid));
+    }
+
+    /// Of all devices that were reported with the address.
+    [[nodiscard]] QStringList uuidsAt(const QString &address) const
+    {
+        const std::scoped_lock lock(m_mutex);
+        QStringList uuids = m_uuids.values(address);
+        uuids.sort();
+        return uuids;
     }
 
     [[nodiscard]] bool has(const QString &address) const
@@ -63,6 +73,7 @@ public:
 private:
     mutable std::mutex m_mutex;
     QHash<QString, SearchAnswer> m_answers;
+    QMultiHash<QString, QString> m_uuids; ///< by address
 };
 
 template<typename Item>
@@ -290,6 +301,32 @@ private Q_SLOTS:
         QCOMPARE(report.addressesNoRoute, 1U);
         report.size = 1;
         QVERIFY(!m_net.NetGetSearchReport(report));
+    }
+
+    /// Factory-new devices have the same address: each is listed, also where a flood of foreign ones that
+    /// cannot be reached is asked before them.
+    void listsDevicesThatShareAnAddress()
+    {
+        Answers answers;
+        const SearchParameter parameter = {
+            .size = sizeof(parameter), .reserved = 0, .handler = &Answers::take, .user = &answers};
+        const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
+        QVERIFY(search > 0);
+        onvif::DiscoverySockets sockets;
+        QVERIFY(sockets.open() > 0);
+        const QString uuid = u"5f5a69c2-e0ae-504f-829b-0000000000%1"_s;
+        QStringList uuids;
+        for (int device = 10; device < 16; ++device) {
+            uuids.append(uuid.arg(device));
+            const QString content =
+                uR"(<a:EndpointReference xmlns:a="http://schemas.xmlsoap.org/ws/2004/08/addressing">)"
+                uR"(<a:Address>urn:uuid:%1</a:Address></a:EndpointReference>)"
+                u"<q:XAddrs>http://192.168.1.250:81/x</q:XAddrs>"_s;
+            sockets.sendToGroups(discoveryMessage("Hello", content.arg(uuids.last()).toStdString()),
+                                 [](const std::string &, int) {});
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(answers.uuidsAt(u"192.168.1.250"_s), uuids, 10000);
+        QVERIFY(m_net.NetStopSearchDevices(search));
     }
 
     void asksSingleAddresses()

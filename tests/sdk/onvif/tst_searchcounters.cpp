@@ -111,32 +111,48 @@ private Q_SLOTS:
         QCOMPARE(reportOf(counters, many).count, static_cast<std::uint32_t>(maximumReportedInterfaces));
     }
 
-    void aMacStaysWithItsAddress_data()
+    void aMacStaysWithItsDevice_data()
     {
-        // first, second: an address, and "named" or "neighbour"
-        const auto row = dataTable<QStringList, QStringList, bool>({"first", "second", "admitted"});
+        // first, second: an address, a UUID, and "named" or "neighbour"; whether the second gets the MAC, and
+        // whether the first still does
+        const auto row =
+            dataTable<QStringList, QStringList, bool, bool>({"first", "second", "admitted", "keeps"});
         const QString own = u"192.0.2.7"_s;
         const QString other = u"192.0.2.8"_s;
-        row("again", {own, u"named"_s}, {own, u"named"_s}, true);
-        row("a message names the MAC of another device", {own, u"neighbour"_s}, {other, u"named"_s}, false);
-        row("the message comes first", {other, u"named"_s}, {own, u"neighbour"_s}, false);
-        row("one device with two addresses", {own, u"neighbour"_s}, {other, u"neighbour"_s}, true);
-        row("the other address family", {own, u"neighbour"_s}, {u"fe80::7%eth0"_s, u"named"_s}, true);
+        const QString named = u"named"_s;
+        const QString neighbour = u"neighbour"_s;
+        row("again", {own, u"a"_s, named}, {own, u"a"_s, named}, true, true);
+        row("a message names the MAC of another device", {own, u"a"_s, neighbour}, {other, u"b"_s, named},
+            false, true);
+        row("the message comes first", {other, u"b"_s, named}, {own, u"a"_s, neighbour}, true, false);
+        row("one device with two addresses", {own, u"a"_s, neighbour}, {other, u"a"_s, neighbour}, true,
+            true);
+        row("two devices at one address", {own, u"a"_s, neighbour}, {own, u"b"_s, neighbour}, false, true);
+        row("the other address family", {own, u"a"_s, neighbour}, {u"fe80::7%eth0"_s, u"a"_s, named}, true,
+            true);
     }
 
-    void aMacStaysWithItsAddress()
+    void aMacStaysWithItsDevice()
     {
         QFETCH(QStringList, first);
         QFETCH(QStringList, second);
         QFETCH(bool, admitted);
+        QFETCH(bool, keeps);
         MacHolders holders;
-        const auto admits = [&holders](const QStringList &device) {
-            return holders.admits("02:1a:c5:00:40:17", device.first().toStdString(),
-                                  device.last() == u"neighbour"_s);
+        const std::string mac = "02:1a:c5:00:40:17";
+        const auto admits = [&](const QStringList &device) {
+            FoundDevice found;
+            found.address = device.at(0).toStdString();
+            found.announcement.uuid = device.at(1).toStdString();
+            found.isNeighbour = device.at(2) == u"neighbour"_s;
+            (found.isNeighbour ? found.mac : found.announcement.mac) = mac;
+            holders.admit(found);
+            const bool isAdmitted = identityOf(found) == mac;
+            return isAdmitted && found.service.identity == mac;
         };
         QVERIFY(admits(first));
         QCOMPARE(admits(second), admitted);
-        QVERIFY(admits(first));
+        QCOMPARE(admits(first), keeps);
         holders.clear();
         QVERIFY(admits(second));
     }
