@@ -348,8 +348,10 @@ private Q_SLOTS:
                               }}},
                         {.atOnce = 1}, std::make_shared<NoWatcher>());
         Batch *batch = setStandard(ipportsOf(m_devices));
+        const auto release =
+            qScopeGuard([&upgrade] { upgrade.release(); }); // a failure must not leave it waiting
         QVERIFY(batch);
-        QTRY_COMPARE(batch->done(), 4); // the upgrade still runs
+        QTRY_COMPARE_WITH_TIMEOUT(batch->done(), 4, 30000); // the upgrade still runs
         upgrade.release();
         QCOMPARE(batch->report()->devicesWith(resultCode(LoginResult::Upgrading)),
                  QStringList(ipportOf(m_devices.at(0))));
