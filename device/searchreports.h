@@ -31,6 +31,7 @@ class SearchReports : public QObject
 public:
     /// `net` may be null: then there is never a report.
     explicit SearchReports(std::shared_ptr<sdk::NetLibrary> net, QObject *parent = nullptr);
+    ~SearchReports() override;
 
     [[nodiscard]] bool isAvailable() const { return !m_blocks.isEmpty(); }
     [[nodiscard]] int missing() const { return m_isDismissed ? 0 : m_missing; }
@@ -51,19 +52,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// Addresses that were asked one by one.
-    struct AddressCounts
-    {
-        std::uint32_t asked = 0;
-        std::uint32_t answered = 0;
-        std::uint32_t noRoute = 0;
-    };
-
     [[nodiscard]] bool read(sdk::SearchReport &report) const;
 
     const std::shared_ptr<sdk::NetLibrary> m_net;
-    QString m_scope;          ///< equal texts are equal networks
-    AddressCounts m_before;   ///< the search: without the local segment the library goes on counting
+    QString m_scope; ///< equal texts are equal networks
+    /// What was counted before the search. Null with the local segment: the library then begins again.
+    std::unique_ptr<sdk::SearchReport> m_before;
     QString m_countedScope;   ///< of the last search that was not stopped
     int m_countedDevices = 0; ///< of that search
     int m_devices = 0;

@@ -22,6 +22,7 @@ struct Address
     std::uint32_t received = 0;
     std::uint32_t leaving = 0;
     std::uint32_t unreadable = 0;
+    std::uint32_t found = 0;
 };
 
 sdk::SearchReport reportOf(const QList<Address> &addresses)
@@ -39,6 +40,7 @@ sdk::SearchReport reportOf(const QList<Address> &addresses)
             entry.sendError = EACCES;
         entry.requestsSent = address.sent;
         entry.messagesReceived = address.received;
+        entry.devicesFound = address.found;
         entry.discarded[static_cast<std::size_t>(sdk::SearchDiscard::Leaving)] = address.leaving;
         entry.discarded[static_cast<std::size_t>(sdk::SearchDiscard::Unreadable)] = address.unreadable;
     }
@@ -125,6 +127,54 @@ private Q_SLOTS:
         const QVariantMap line = last.value("lines").toList().value(0).toMap();
         QCOMPARE(line.value("label") == "已询问" ? line.value("value").toString() : QString(), asked);
         QVERIFY(reports.text().contains(asked));
+    }
+
+    void countsNothingOfTheSearchBefore_data()
+    {
+        // interfaces: as the library counts them before the search of addresses and at its end; text: of all
+        // blocks, without what to do about obstacles
+        const auto row = dataTable<QList<Address>, QList<Address>, QString>({"before", "after", "text"});
+        const QString asked = "\n按地址搜索\n已询问: 3 个地址\n有应答: 1 个地址\n";
+        const QList<Address> answered = {
+            {.sent = 4, .received = 6, .leaving = 1, .unreadable = 2, .found = 5},
+            {.interface = "eth1", .obstacles = {SearchObstacle::NoAnswer}, .sent = 4},
+            {.interface = "eth2", .obstacles = {SearchObstacle::InterfaceDown}}};
+        row("nothing went to groups", answered, answered,
+            "eth0\n地址: 192.0.2.5/24\n\neth1\n地址: 192.0.2.5/24\n"
+            "\neth2\n地址: 192.0.2.5/24\n! 网卡已停用\n" +
+                asked);
+        row("messages arrived", {{.sent = 4, .received = 6, .leaving = 1, .found = 5}},
+            {{.sent = 4, .received = 9, .leaving = 3, .found = 6}},
+            "eth0\n地址: 192.0.2.5/24\n已收到: 3 条消息\n找到: 1 台设备\n"
+            "未采用: 设备离开网络的通知 2 条\n" +
+                asked);
+        row("another address since, which groups cannot be reached from", answered,
+            {{.address = "198.51.100.5",
+              .obstacles = {SearchObstacle::SendFailed, SearchObstacle::NoMulticast}}},
+            "eth0\n地址: 198.51.100.5/24\n" + asked);
+    }
+
+    void countsNothingOfTheSearchBefore()
+    {
+        QFETCH(QList<Address>, before);
+        QFETCH(QList<Address>, after);
+        QFETCH(QString, text);
+        const auto net = std::make_shared<ReportingLibrary>();
+        SearchReports reports(net);
+        net->m_report = reportOf(before);
+        net->m_report.foreignDevices = 2;
+        reports.begin(true, {});
+        reports.end(5, false);
+        QVERIFY(reports.text().contains("其他网段"));
+        reports.begin(false, "192.0.2.0 - 192.0.2.2");
+        net->m_report = reportOf(after);
+        net->m_report.foreignDevices = 2;
+        net->m_report.addressesAsked = 3;
+        net->m_report.addressesAnswered = 1;
+        reports.end(1, false);
+        QString shown = reports.text().section("\n\n", 1); // below the time and the summary
+        shown.remove("  在操作系统的网络设置中启用它。\n");
+        QCOMPARE(shown, text);
     }
 
     void comparesSearchesOfTheSameNetworks()
