@@ -5,6 +5,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/onvif/onvifnetlibrary.h"
 #include "tests/datatable.h"
+#include "tests/sdk/netlogin.h"
 #include "tests/sdk/netoperations.h"
 
 #include <QTemporaryFile>
@@ -115,16 +116,7 @@ private:
 
     LLONG login(const char *address, const char *account = "admin", const char *password = "Contract-1")
     {
-        LoginSecureInput input{};
-        input.size = sizeof(input);
-        input.port = 80;
-        setBlockText(input.address, address);
-        setBlockText(input.account, account);
-        setBlockText(input.password, password);
-        LoginSecureOutput output{};
-        output.size = sizeof(output);
-        const LLONG session = m_net->NetLoginSecure(input, output);
-        return session > 0 || output.error == m_net->NetGetLastError() ? session : -1;
+        return logIn(*m_net, address, account, password);
     }
 
     /// The outcome of an operation: its error, "done" for none.

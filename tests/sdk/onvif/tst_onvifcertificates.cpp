@@ -4,6 +4,7 @@
 #include "sdk/blocktext.h"
 #include "sdk/configrecords.h"
 #include "sdk/onvif/onvifnetlibrary.h"
+#include "tests/sdk/netlogin.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -20,18 +21,7 @@ class OnvifCertificatesTest : public QObject
     onvif::OnvifNetLibrary m_net;
     LLONG m_session = 0;
 
-    LLONG login(const char *address, int port)
-    {
-        LoginSecureInput input{};
-        input.size = sizeof(input);
-        input.port = port;
-        setBlockText(input.address, address);
-        setBlockText(input.account, "admin");
-        setBlockText(input.password, "Right-1");
-        LoginSecureOutput output{};
-        output.size = sizeof(output);
-        return m_net.NetLoginSecure(input, output);
-    }
+    LLONG login(const char *address, int port) { return logIn(m_net, address, "admin", "Right-1", port); }
 
     /// Messages that devices have received, all of them over HTTP or a completed handshake.
     static qsizetype messages()

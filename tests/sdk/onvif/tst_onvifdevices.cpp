@@ -11,6 +11,7 @@
 #include "sdk/searchreportblocks.h"
 #include "sdk/systemrecords.h"
 #include "tests/datatable.h"
+#include "tests/sdk/netlogin.h"
 
 #include <QTemporaryDir>
 
@@ -163,15 +164,7 @@ private:
 
     LLONG login(const char *address, const char *secret = password)
     {
-        LoginSecureInput input{};
-        input.size = sizeof(input);
-        input.port = 80;
-        setBlockText(input.address, address);
-        setBlockText(input.account, account);
-        setBlockText(input.password, secret);
-        LoginSecureOutput output{};
-        output.size = sizeof(output);
-        return m_net.NetLoginSecure(input, output);
+        return logIn(m_net, address, account, secret);
     }
 
     SearchDeviceInformation found(const QString &address)

@@ -1,0 +1,22 @@
+// A login of the newer kind.
+#pragma once
+
+#include "sdk/blocktext.h"
+#include "sdk/loginblocks.h"
+#include "sdk/netlibrary.h"
+
+/// The handle of the session, 0 for a failure; -1 for one that names another error than the library's last.
+inline sdk::LLONG logIn(sdk::NetLibrary &net, const char *address, const char *account, const char *password,
+                        int port = 80)
+{
+    sdk::LoginSecureInput input{};
+    input.size = sizeof(input);
+    input.port = port;
+    sdk::setBlockText(input.address, address);
+    sdk::setBlockText(input.account, account);
+    sdk::setBlockText(input.password, password);
+    sdk::LoginSecureOutput output{};
+    output.size = sizeof(output);
+    const sdk::LLONG session = net.NetLoginSecure(input, output);
+    return session > 0 || output.error == net.NetGetLastError() ? session : -1;
+}
