@@ -80,7 +80,7 @@ void EncodeForm::read()
 
 bool EncodeForm::isDeviceAway(int result)
 {
-    return ::isDeviceAway(static_cast<std::uint32_t>(result));
+    return isSessionLost(static_cast<std::uint32_t>(result));
 }
 
 QString EncodeForm::failureName(int result)
@@ -89,6 +89,8 @@ QString EncodeForm::failureName(int result)
         return resultName(result);
     constexpr std::uint32_t highBit = 0x80000000;
     const auto error = static_cast<std::uint32_t>(result) | highBit;
+    if (loginResultOf(error) == LoginResult::SessionEnded)
+        return resultName(resultCode(LoginResult::SessionEnded));
     if (isDeviceAway(result))
         return tr("设备没有应答");
     switch (static_cast<sdk::NetError>(error)) {

@@ -69,12 +69,12 @@ public:
     /// Passes a changed value on and shows what came of it.
     Q_INVOKABLE void set(const QString &key, const QVariant &value);
 
-    /// Whether a result of a factory's signalGetDeviceCapRet() says that the device did not answer, and not
-    /// that it refused.
+    /// Whether a result of a factory's signalGetDeviceCapRet() says that the session is lost, and not that
+    /// the device refused: it did not answer, or no longer accepts the login.
     Q_INVOKABLE [[nodiscard]] static bool isDeviceAway(int result);
 
-    /// What such a result says, in the user's language: no response, not supported, refused, or that the
-    /// device is being upgraded.
+    /// What such a result says, in the user's language: no response, a login that has ended, not supported,
+    /// refused, or that the device is being upgraded.
     Q_INVOKABLE [[nodiscard]] static QString failureName(int result);
 
 Q_SIGNALS:

@@ -125,6 +125,11 @@ bool isDeviceAway(std::uint32_t libraryError)
     return error == sdk::NetError::NetworkFailure || error == sdk::NetError::ConnectTimeout;
 }
 
+bool isSessionLost(std::uint32_t libraryError)
+{
+    return isDeviceAway(libraryError) || loginResultOf(libraryError) == LoginResult::SessionEnded;
+}
+
 QString resultName(int code)
 {
     return ResultNames::of(code);

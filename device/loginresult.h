@@ -37,6 +37,10 @@ enum class LoginResult : int
 /// answer, and not that it refused.
 [[nodiscard]] bool isDeviceAway(std::uint32_t libraryError);
 
+/// Whether such an error says that nothing more can be asked in the session: the device is away, or it no
+/// longer accepts the login.
+[[nodiscard]] bool isSessionLost(std::uint32_t libraryError);
+
 /// The result as rows hold it.
 [[nodiscard]] constexpr int resultCode(LoginResult result)
 {

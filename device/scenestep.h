@@ -40,7 +40,7 @@ public:
     virtual void setConfigData(const QString &key, const QVariant &value, const QString &otype) = 0;
     [[nodiscard]] virtual QVariantList getDeviceChannelData(const QString &key, int channelNum) = 0;
 
-    /// Whether the device has not answered one of the operations: others would only wait again.
+    /// Whether one of the operations has shown that the session is lost: others would only fail again.
     [[nodiscard]] virtual bool isDeviceAway() const = 0;
 };
 

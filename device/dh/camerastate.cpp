@@ -42,8 +42,8 @@ CameraReading readConfiguration(const ConfigSession &session, const char *name, 
     if (error == 0 && session.unpack(name, text, record))
         return CameraReading::Done;
     qCWarning(logDevice) << "Camera: no configuration" << name << "error" << error;
-    return error != 0 && isDeviceAway(static_cast<std::uint32_t>(error)) ? CameraReading::Unanswered
-                                                                         : CameraReading::Refused;
+    return error != 0 && isSessionLost(static_cast<std::uint32_t>(error)) ? CameraReading::Unanswered
+                                                                          : CameraReading::Refused;
 }
 
 } // namespace

@@ -52,5 +52,5 @@ std::uint32_t ConfigSession::lastError() const
 
 bool ConfigSession::isDeviceAway() const
 {
-    return ::isDeviceAway(lastError());
+    return isSessionLost(lastError());
 }

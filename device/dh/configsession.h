@@ -93,7 +93,8 @@ public:
     /// The error of the failure before, on this thread.
     [[nodiscard]] std::uint32_t lastError() const;
 
-    /// Whether the failure before means that the device is away, and not that it refused.
+    /// Whether the failure before means that the session is lost (isSessionLost()), and not that the device
+    /// refused.
     [[nodiscard]] bool isDeviceAway() const;
 
 private:

@@ -55,7 +55,7 @@ bool readRecord(const ConfigSession &session, const char *name, int channel, Tak
     ConfigText text(detailTextSize);
     const std::int32_t error = session.fetchText(name, channel, text, ConfigSession::usualWait);
     if (error != 0)
-        return !isDeviceAway(static_cast<std::uint32_t>(error));
+        return !isSessionLost(static_cast<std::uint32_t>(error));
     Record record{};
     if (session.unpack(name, text, record))
         take(record);

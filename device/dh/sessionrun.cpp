@@ -44,7 +44,7 @@ void SessionRun::note(const News &news)
 
 void SessionRun::noteResult(int result)
 {
-    m_isDeviceAway = m_isDeviceAway || ::isDeviceAway(static_cast<std::uint32_t>(result));
+    m_isDeviceAway = m_isDeviceAway || isSessionLost(static_cast<std::uint32_t>(result));
     note(signalOf(&CDeviceBase::signalCDeviceGetDeviceCapRet, result));
 }
 

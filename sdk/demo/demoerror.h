@@ -15,7 +15,6 @@ enum class DemoError : std::uint32_t
     WrongSize,     ///< the size field of a block is not the size of the block, or a buffer is too small
     WrongCount,    ///< more addresses than fit, or fewer than none
     NoHandler,     ///< a search without a handler
-    UnknownHandle, ///< not the handle of a running search, session or stream
     InsideHandler, ///< called from a handler, where it would wait for itself
     NoThread,      ///< the computer gives no more threads
 };

@@ -236,7 +236,7 @@ bool DemoNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
         }
     }
     if (!delivery)
-        return m_error.fail(DemoError::UnknownHandle);
+        return m_error.fail(NetError::InvalidValue);
     delivery->finishDue();
     return true;
 }

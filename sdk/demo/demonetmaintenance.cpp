@@ -144,7 +144,7 @@ bool DemoNetLibrary::NetRebootDevice(std::int64_t loginHandle, std::chrono::mill
     const bool isGone = maintain(
         call, session, wait, [this](SceneDevice &device) { return reboot(device, m_site.clock().now()); });
     if (isGone)
-        m_sessions.breakSessionsTo(session->mac);
+        m_sessions.endSessionsTo(session->mac);
     return isGone;
 }
 
@@ -163,7 +163,7 @@ bool DemoNetLibrary::NetResetSystem(std::int64_t loginHandle, const ResetSystemI
         return resetToFactory(device, m_site.clock().now());
     });
     if (isGone)
-        m_sessions.breakSessionsTo(session->mac);
+        m_sessions.endSessionsTo(session->mac);
     return isGone;
 }
 

@@ -20,7 +20,7 @@ std::optional<SceneDevice> DemoNetLibrary::askedDevice(const CallGate::Call &cal
         return std::nullopt;
     }
     if (!session) {
-        m_error.fail(DemoError::UnknownHandle);
+        m_error.fail(NetError::SessionEnded);
         return std::nullopt;
     }
     std::optional<SceneDevice> device;
@@ -52,7 +52,7 @@ NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSes
     if (!hasAnswer)
         return NetError::ConnectTimeout;
     const SceneAccount *account = accountOf(*device, session.account);
-    if (!account || account->password != session.password)
+    if (session.hasEnded || !account || account->password != session.password)
         return NetError::SessionEnded;
     noteRequest(*device);
     return NetError::None;

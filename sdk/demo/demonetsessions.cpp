@@ -84,7 +84,7 @@ bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
     if (LiveStream::isInsideHandler() || DeviceUpgrade::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
     if (!m_sessions.close(loginHandle))
-        return m_error.fail(DemoError::UnknownHandle);
+        return m_error.fail(NetError::SessionEnded);
     m_streams.closeAllOf(loginHandle);
     m_upgrades.closeAllOf(loginHandle);
     return true;
@@ -97,7 +97,7 @@ bool DemoNetLibrary::NetCancelCalls(LLONG loginHandle)
            m_sessions.session(loginHandle).value_or(DemoSession()).mac);
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
-    return m_sessions.cancelCalls(loginHandle) || m_error.fail(DemoError::UnknownHandle);
+    return m_sessions.cancelCalls(loginHandle) || m_error.fail(NetError::SessionEnded);
 }
 
 bool DemoNetLibrary::NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait)

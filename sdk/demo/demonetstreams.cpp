@@ -60,7 +60,7 @@ std::int64_t DemoNetLibrary::NetStartRealStream(std::int64_t loginHandle, std::i
         return fail(DemoError::NoThread);
     if (!m_sessions.session(loginHandle)) { // it has been closed meanwhile, and its streams with it
         m_streams.close(handle);
-        return fail(DemoError::UnknownHandle);
+        return fail(NetError::SessionEnded);
     }
     return handle;
 }
@@ -74,7 +74,7 @@ bool DemoNetLibrary::NetSetRealDataCallback(std::int64_t streamHandle, RealDataH
     if (LiveStream::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
     const CallGate::Call call(m_gate);
-    return m_streams.setHandler(streamHandle, handler, user) || m_error.fail(DemoError::UnknownHandle);
+    return m_streams.setHandler(streamHandle, handler, user) || m_error.fail(NetError::InvalidValue);
 }
 
 bool DemoNetLibrary::NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel,
@@ -87,7 +87,7 @@ bool DemoNetLibrary::NetStreamFollowUp(std::int64_t streamHandle, std::int32_t c
     const std::optional<LiveStreamOrder> order = m_streams.order(streamHandle);
     if (order && order->channel != channel)
         return m_error.fail(NetError::NotSupported);
-    return m_streams.askForKeyPicture(streamHandle) || m_error.fail(DemoError::UnknownHandle);
+    return m_streams.askForKeyPicture(streamHandle) || m_error.fail(NetError::InvalidValue);
 }
 
 bool DemoNetLibrary::NetStopRealStream(std::int64_t streamHandle)
@@ -96,7 +96,7 @@ bool DemoNetLibrary::NetStopRealStream(std::int64_t streamHandle)
     if (LiveStream::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
     const CallGate::Call call(m_gate);
-    return m_streams.close(streamHandle) || m_error.fail(DemoError::UnknownHandle);
+    return m_streams.close(streamHandle) || m_error.fail(NetError::InvalidValue);
 }
 
 bool DemoNetLibrary::NetQueryChannelStates(std::int64_t loginHandle, ChannelStates &states,

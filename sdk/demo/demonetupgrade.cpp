@@ -66,7 +66,7 @@ std::int64_t DemoNetLibrary::NetStartUpgrade(std::int64_t loginHandle, const cha
         return fail(DemoError::NoThread);
     if (!m_sessions.session(loginHandle)) { // it has been closed meanwhile
         m_upgrades.closeAllOf(loginHandle);
-        return fail(DemoError::UnknownHandle);
+        return fail(NetError::SessionEnded);
     }
     return handle;
 }
@@ -89,7 +89,7 @@ bool DemoNetLibrary::NetStopUpgrade(std::int64_t upgradeHandle)
     case DeviceUpgrades::Closing::Unknown:
         break;
     }
-    return m_error.fail(DemoError::UnknownHandle);
+    return m_error.fail(NetError::InvalidValue);
 }
 
 } // namespace sdk::demo

@@ -104,6 +104,8 @@ private:
     [[nodiscard]] LLONG login(const ServiceAddress &service, const HttpLogin &login,
                               LoginDeviceInformation &device);
     [[nodiscard]] std::shared_ptr<OnvifSession> session(LLONG loginHandle) const;
+    /// Of all accounts: the device at this host reboots.
+    void endSessionsTo(const std::string &host);
     /// Runs `work` on the session and keeps its error. False for a handle that is none.
     bool onSession(LLONG loginHandle, std::chrono::milliseconds wait, const SessionWork &work);
     bool searchByAddresses(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,

@@ -27,8 +27,11 @@ bool OnvifNetLibrary::NetSetDeviceSetting(LLONG loginHandle, DeviceSetting setti
 
 bool OnvifNetLibrary::NetRebootDevice(LLONG loginHandle, std::chrono::milliseconds wait)
 {
-    return onSession(loginHandle, wait, [](OnvifSession &session, Deadline deadline) {
-        return session.device(deadline).reboot().error;
+    return onSession(loginHandle, wait, [this](OnvifSession &session, Deadline deadline) {
+        const NetError error = session.device(deadline).reboot().error;
+        if (error == NetError::None)
+            endSessionsTo(session.service().host);
+        return error;
     });
 }
 
@@ -38,7 +41,10 @@ bool OnvifNetLibrary::NetResetSystem(LLONG loginHandle, const ResetSystemInput &
     return onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         if (input.size != sizeof(input) || output.size != sizeof(output))
             return NetError::InvalidValue;
-        return session.device(deadline).resetCompletely().error;
+        const NetError error = session.device(deadline).resetCompletely().error;
+        if (error == NetError::None)
+            endSessionsTo(session.service().host);
+        return error;
     });
 }
 

@@ -50,6 +50,22 @@ NetError readAttributes(OnvifSession &session, DeviceAttributes &attributes, Onv
     return NetError::None;
 }
 
+/// What says most of a session that has ended: whether its device is offline still, or there with another
+/// key.
+NetError errorOfEnded(OnvifSession &session, OnvifSession::Deadline deadline)
+{
+    const NetError error = session.device(deadline).information().error;
+    switch (error) {
+    case NetError::ConnectTimeout:
+    case NetError::ConnectFailed:
+    case NetError::UnknownCertificate:
+    case NetError::ChangedCertificate:
+        return error;
+    default:
+        return NetError::SessionEnded;
+    }
+}
+
 bool isEncodeItem(std::uint32_t item)
 {
     return item >= static_cast<std::uint32_t>(EncodeItem::VideoFormat) &&
@@ -154,6 +170,15 @@ std::shared_ptr<OnvifSession> OnvifNetLibrary::session(LLONG loginHandle) const
     return found == m_sessions.end() ? nullptr : found->second;
 }
 
+void OnvifNetLibrary::endSessionsTo(const std::string &host)
+{
+    const std::scoped_lock lock(m_mutex);
+    for (const auto &[handle, session] : m_sessions) {
+        if (session->service().host == host)
+            session->end();
+    }
+}
+
 bool OnvifNetLibrary::onSession(LLONG loginHandle, std::chrono::milliseconds wait, const SessionWork &work)
 {
     const CallGate::Call call(m_gate);
@@ -164,7 +189,8 @@ bool OnvifNetLibrary::onSession(LLONG loginHandle, std::chrono::milliseconds wai
     NetError error = NetError::None;
     {
         const RunningCall running(stop);
-        error = work(*session, deadlineAfter(wait));
+        const Deadline deadline = deadlineAfter(wait);
+        error = session->hasEnded() ? errorOfEnded(*session, deadline) : work(*session, deadline);
     }
     if (stop.stop_requested())
         error = this->session(loginHandle) ? NetError::Cancelled : NetError::SessionEnded;

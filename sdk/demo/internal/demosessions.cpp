@@ -45,12 +45,12 @@ void DemoSessions::setPassword(std::int64_t handle, const QString &password)
         found->second.session.password = password;
 }
 
-void DemoSessions::breakSessionsTo(const QString &mac)
+void DemoSessions::endSessionsTo(const QString &mac)
 {
     const std::lock_guard lock(m_mutex);
     for (auto &[handle, entry] : m_sessions) {
         if (entry.session.mac == mac)
-            entry.session.isBroken = true;
+            entry.session.hasEnded = true;
     }
 }
 

@@ -16,7 +16,7 @@ struct DemoSession
 {
     QString mac;
     int localPort = 0;     ///< of the port agent, 0 for a session that goes to the device directly
-    bool isBroken = false; ///< the device has rebooted since
+    bool hasEnded = false; ///< the device has rebooted since
     QString account = {};
     QString password = {}; ///< as the device took it
     std::int64_t handle = 0;
@@ -41,8 +41,8 @@ public:
     /// The account of the session has got another password by it.
     void setPassword(std::int64_t handle, const QString &password);
 
-    /// Nothing goes through the sessions to a device any more; they are still to be closed.
-    void breakSessionsTo(const QString &mac);
+    /// The device accepts its sessions no longer; they are still to be closed.
+    void endSessionsTo(const QString &mac);
     [[nodiscard]] std::optional<DemoSession> session(std::int64_t handle) const;
 
 private:

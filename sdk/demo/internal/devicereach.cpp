@@ -56,8 +56,6 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port, Device
 
 bool isReachable(const DemoSite &site, const DemoSession &session)
 {
-    if (session.isBroken)
-        return false;
     if (session.localPort == 0) {
         const std::optional<SceneDevice> device = site.device(session.mac);
         return device && device->isListening(site.clock().now());

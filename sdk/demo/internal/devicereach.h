@@ -31,7 +31,7 @@ struct DeviceReach
 [[nodiscard]] DeviceReach reach(const DemoSite &site, const QString &address, int port,
                                 DevicePort kind = DevicePort::Service);
 
-/// Whether the device of `session` can be talked to still.
+/// Whether the device of `session` responds where the session has reached it.
 [[nodiscard]] bool isReachable(const DemoSite &site, const DemoSession &session);
 
 } // namespace sdk::demo

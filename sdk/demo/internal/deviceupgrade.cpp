@@ -112,7 +112,7 @@ void DeviceUpgrade::finish()
     m_site.changeDevice(m_order.session.mac, [this](SceneDevice &device, const DeviceAddresses &) {
         installFirmware(device, *m_order.firmware, m_site.clock().now());
     });
-    m_sessions.breakSessionsTo(m_order.session.mac);
+    m_sessions.endSessionsTo(m_order.session.mac);
     tell({.size = sizeof(UpgradeProgress), .phase = UpgradePhase::Done, .percent = wholePercent, .error = 0});
 }
 

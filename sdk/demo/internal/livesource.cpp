@@ -143,7 +143,7 @@ LiveSource::Streams LiveSource::servedStreams(const SceneDevice *device) const
 std::optional<StreamEndReason> LiveSource::endOf(const LiveStream &stream, const SceneDevice *device) const
 {
     const std::optional<DemoSession> session = m_sessions.session(stream.order().loginHandle);
-    if (!device || !session || !isReachable(m_site, *session))
+    if (!device || !session || session->hasEnded || !isReachable(m_site, *session))
         return StreamEndReason::ConnectionLost;
     if (device->isUninitialised())
         return StreamEndReason::Refused;

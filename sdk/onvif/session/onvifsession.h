@@ -7,6 +7,7 @@
 #include "sdk/onvif/soap/runningcall.h"
 #include "sdk/onvif/soap/soapclient.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -64,6 +65,11 @@ public:
     /// A setting of a profile has been written.
     void forgetProfiles();
 
+    /// The device reboots. Its sessions end then in every provider, although this kind of device takes the
+    /// login with each request and would go on doing so.
+    void end() { m_hasEnded = true; }
+    [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
+
     /// The calls that run on the session.
     [[nodiscard]] RunningCalls &calls() { return m_calls; }
 
@@ -79,6 +85,7 @@ private:
     const ServiceAddress m_service;
     const std::unique_ptr<SoapClient> m_client;
     RunningCalls m_calls;
+    std::atomic_bool m_hasEnded = false;
     DeviceInformation m_information;
     std::optional<ServiceAddress> m_media;
     std::optional<ServiceAddress> m_media2;
