@@ -171,12 +171,15 @@ QVariantMap EncodeForm::choice(const QString &list, const QString &current)
     const QVariant shown = value(current);
     const QString text = shown.toString();
     QVariantMap map = setting(current, noteChange(current, text));
-    map.insert(QStringLiteral("usable"), shown.isValid() && !choices.isEmpty());
+    const bool isOffered = !choices.isEmpty();
     // A device may be set to what it does not offer. What it has stays there to be chosen again.
     for (const QString &own : {m_read.value(current).toString(), text}) {
         if (!own.isEmpty() && !choices.contains(own))
             choices.append(own);
     }
+    const bool isOnly = std::all_of(choices.cbegin(), choices.cend(),
+                                    [&text](const QString &choice) { return choice == text; });
+    map.insert(QStringLiteral("usable"), shown.isValid() && isOffered && !isOnly);
     map.insert(QStringLiteral("choices"), choices);
     map.insert(QStringLiteral("index"), choices.indexOf(text));
     return map;
@@ -233,5 +236,16 @@ QVariantMap EncodeForm::stream(bool isSub)
     // The main stream's picture cannot be switched off.
     map.insert(QStringLiteral("videoEnable"),
                isSub ? number(key("videoEnable"), 0, 1) : setting(QString(), false));
+    const QStringList missing = value(key("missingSettings")).toStringList();
+    map.insert(QStringLiteral("exists"), !missing.contains(QLatin1String("stream")));
+    map.insert(QStringLiteral("hasAudio"), !missing.contains(QLatin1String("audio")));
+    for (const QString &name :
+         {QStringLiteral("control"), QStringLiteral("audioEnable"), QStringLiteral("videoEnable")}) {
+        if (!missing.contains(name))
+            continue;
+        QVariantMap lacked = map.value(name).toMap();
+        lacked.insert(QStringLiteral("usable"), false);
+        map.insert(name, lacked);
+    }
     return map;
 }

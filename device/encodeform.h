@@ -31,6 +31,7 @@ class EncodeForm : public QObject
     ///  - "value", "minimum" and "maximum": numbers
     ///  - "usable": whether its value was read and there is anything to choose. While the value is unknown,
     ///    "index" is -1 and "value" lies below "minimum".
+    /// Beside them "exists" and "hasAudio": whether the device has such a stream, and sound with it.
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)
     Q_PROPERTY(QVariantMap subStream READ subStream NOTIFY changed)
     Q_PROPERTY(QStringList subStreamTypes READ subStreamTypes NOTIFY changed)

@@ -110,6 +110,26 @@ struct PictureSizeList
 };
 static_assert(sizeof(PictureSizeList) == 260);
 
+/// What a device may lack of a stream. Bits of EncodeCapabilityBlock::missingValues.
+enum class EncodeValue : std::uint32_t
+{
+    Stream = 0,     ///< the device has no stream of this kind
+    StreamSwitch,   ///< the stream cannot be switched on and off
+    BitRateControl, ///< there is no choice between a fixed and a variable bit rate
+    Audio,          ///< the stream never has sound
+    AudioSwitch,    ///< sound cannot be switched on and off
+};
+
+/// A sampling frequency that an audio format can have.
+struct AudioRate
+{
+    std::int32_t format;    ///< as in EncodeCapabilityBlock::audioFormats
+    std::int32_t frequency; ///< Hz
+};
+static_assert(sizeof(AudioRate) == 8);
+
+inline constexpr std::size_t maximumAudioRates = 24;
+
 /// What the encoder can do for one kind of stream. The counts come from a device: they must be bounded before
 /// they are used.
 struct EncodeCapabilityBlock
@@ -126,9 +146,13 @@ struct EncodeCapabilityBlock
     std::array<std::int32_t, 64> audioFormats; ///< audio format codes as capabilities number them
     PictureSizeList sizes;
     std::array<PictureSizeList, 16> sizesByCompression; ///< by compression code
-    std::array<std::uint8_t, 236> reserved;
+    std::uint32_t missingValues;                        ///< EncodeValue: bit N is set if it is missing
+    std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if the device does not report them
+    std::array<AudioRate, maximumAudioRates> audioRates;
+    std::array<std::uint8_t, 36> reserved;
 };
 static_assert(sizeof(EncodeCapabilityBlock) == 4976);
+static_assert(offsetof(EncodeCapabilityBlock, missingValues) == 4740);
 static_assert(offsetof(EncodeCapabilityBlock, sizes) == 320);
 
 /// Output of CapabilityQuery::Encode: a block for each StreamKind, and reserved ones.

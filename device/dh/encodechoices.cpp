@@ -133,6 +133,29 @@ QStringList EncodeChoices::audioCompressions() const
     return names;
 }
 
+QList<int> EncodeChoices::samplingFrequencies(const QString &audioCompression) const
+{
+    QList<int> frequencies;
+    const auto append = [&frequencies](int frequency) {
+        if (frequency > 0 && !frequencies.contains(frequency))
+            frequencies.append(frequency);
+    };
+    for (const sdk::AudioRate &rate : used(m_block.audioRates, isFilled() ? m_block.audioRateCount : 0)) {
+        if (!audioCompression.isEmpty() &&
+            m_tables.AudioCompressionNames.value(rate.format) == audioCompression)
+            append(rate.frequency);
+    }
+    if (frequencies.isEmpty())
+        std::for_each(m_tables.AudioSamplingFrequencies.begin(), m_tables.AudioSamplingFrequencies.end(),
+                      append);
+    return frequencies;
+}
+
+bool EncodeChoices::isMissing(sdk::EncodeValue value) const
+{
+    return isFilled() && (m_block.missingValues >> static_cast<std::uint32_t>(value) & 1) != 0;
+}
+
 bool isH264Profile(int value)
 {
     return value >= 1 && value <= 4;

@@ -35,6 +35,11 @@ public:
 
     [[nodiscard]] QStringList audioCompressions() const;
 
+    /// In hertz, of the audio format with this text. Those of the tables if the device reports none.
+    [[nodiscard]] QList<int> samplingFrequencies(const QString &audioCompression) const;
+
+    [[nodiscard]] bool isMissing(sdk::EncodeValue value) const;
+
     /// Whether the device reports profiles of H.264, known ones or not.
     [[nodiscard]] bool hasProfiles() const;
 

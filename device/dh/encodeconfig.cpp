@@ -71,7 +71,7 @@ QVariant EncodeConfig::value(const QString &key, const ChannelChoice &channels) 
     if (key == unreadItemsKey || key == unreadPlacesKey) {
         QStringList names;
         QVariantList places;
-        for (const int place : state.unreadItems()) {
+        for (const int place : state.withheldItems(channels.curStreamType)) {
             names.append(itemNames().at(place));
             places.append(place);
         }
@@ -96,7 +96,7 @@ EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant 
                                              const ChannelChoice &channels)
 {
     m_takenItems.clear();
-    if (!m_state || !m_values.setValue(key, value, *m_state)) {
+    if (!m_state || !m_values.setValue(key, value, *m_state, channels.curStreamType)) {
         qCWarning(logDevice) << "Encode:" << key << "cannot be set to" << value;
         return {};
     }
@@ -145,9 +145,10 @@ EncodeConfig::Outcome EncodeConfig::confirm(const ChannelChoice &channels)
 {
     EncodeWriting writing;
     if (m_state)
-        writing = writeEncodeItems(m_session, channels.curChannel, *m_state);
+        writing = writeEncodeItems(m_session, channels.curChannel, *m_state,
+                                   m_state->missingItems(channels.curStreamType));
     const int error = writing.isDeviceAway ? static_cast<int>(m_session.lastError()) : 0;
-    const QList<int> unread = (m_state ? *m_state : nothing()).unreadItems();
+    const QList<int> unread = (m_state ? *m_state : nothing()).withheldItems(channels.curStreamType);
     QList<int> notWritten;
     m_takenItems.clear();
     for (int place = 0; place < allItems; ++place) {

@@ -160,9 +160,12 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
         outcome.skipped += takeRates(sub, from.sub, true, to.sub);
     outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
     const QList<int> leftOut = itemsLeftOut(from);
+    // Nothing more is said of what one of the devices does not have.
+    const QList<int> missing = from.missingItems(streamType) + to.missingItems(streamType);
     if (control.shouldEnd())
         return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
-    const EncodeWriting writing = writeEncodeItems(session, channels.curChannel, to, leftOut, control);
+    const EncodeWriting writing =
+        writeEncodeItems(session, channels.curChannel, to, leftOut + missing, control);
     if (control.shouldEnd() && !writing.notTaken.isEmpty())
         outcome.result = resultCode(LoginResult::NotDone); // the others have been written
     else if (writing.isDeviceAway)
@@ -170,6 +173,8 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     else if (!writing.notTaken.isEmpty())
         outcome.result = refusedByDevice;
     for (int place = 0; place < 2 * itemsOfStream; ++place) {
+        if (missing.contains(place))
+            continue;
         if (leftOut.contains(place) || to.unreadItems().contains(place) || writing.notTaken.contains(place))
             outcome.skipped.append(EncodeConfig::itemNames().at(place));
     }

@@ -63,6 +63,31 @@ QList<int> EncodeState::unreadItems() const
     return unread;
 }
 
+QList<int> EncodeState::missingItems(int streamType) const
+{
+    QList<int> missing;
+    const auto append = [&missing](const sdk::EncodeCapabilityBlock &block, int first) {
+        const auto lacks = [&block](sdk::EncodeValue value) {
+            return (block.missingValues >> static_cast<std::uint32_t>(value) & 1) != 0;
+        };
+        for (int place = 0; place < itemsOfStream; ++place) {
+            const bool isAudio = place >= static_cast<int>(EncodePlace::AudioCompression);
+            if (lacks(sdk::EncodeValue::Stream) || (isAudio && lacks(sdk::EncodeValue::Audio)))
+                missing.append(first + place);
+        }
+    };
+    append(mainBlock(streamType), 0);
+    append(subBlock(), itemsOfStream);
+    return missing;
+}
+
+QList<int> EncodeState::withheldItems(int streamType) const
+{
+    QList<int> withheld = unreadItems();
+    withheld.removeIf([missing = missingItems(streamType)](int place) { return missing.contains(place); });
+    return withheld;
+}
+
 EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state)
 {
     ConfigText text(encodeTextSize);

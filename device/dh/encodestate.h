@@ -50,6 +50,12 @@ struct EncodeState
 
     /// The places of the items that were not read, as writeEncodeItems() counts them.
     [[nodiscard]] QList<int> unreadItems() const;
+
+    /// The places of the items that the device does not have, for this kind of main stream.
+    [[nodiscard]] QList<int> missingItems(int streamType) const;
+
+    /// Of the items that the device has, those that were not read.
+    [[nodiscard]] QList<int> withheldItems(int streamType) const;
 };
 
 /// Results of reading that are no errors of the library.

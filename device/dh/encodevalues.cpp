@@ -40,6 +40,8 @@ StreamKey parted(const QString &key)
     return {.isSub = true, .field = field};
 }
 
+constexpr QLatin1StringView missingSettingsKey("missingSettings");
+
 const QSet<QString> &streamFields()
 {
     static const QSet<QString> fields = {QStringLiteral("allStreamType"),
@@ -58,7 +60,8 @@ const QSet<QString> &streamFields()
                                          QStringLiteral("quality"),
                                          QStringLiteral("bitStream"),
                                          QStringLiteral("curBitStream"),
-                                         QStringLiteral("bitRate")};
+                                         QStringLiteral("bitRate"),
+                                         missingSettingsKey};
     return fields;
 }
 
@@ -122,17 +125,34 @@ int shownFrameRate(float frameRate)
     return frameRate > 0 && frameRate <= highestFrameRate ? static_cast<int>(std::lround(frameRate)) : 0;
 }
 
-/// The tables' frequencies, and the current one when they lack it.
-QStringList samplingFrequencies(const ValueTables &tables, int current)
+/// The offered frequencies, and the current one when it is not among them.
+QStringList samplingFrequencies(const EncodeChoices &choices, const EncodeItems &items)
 {
+    QList<int> frequencies =
+        choices.samplingFrequencies(ValueTables::audioFormatToName(items.audioCompression.format));
+    const int current = items.audioFormat.samplingFrequency;
+    if (current > 0 && !frequencies.contains(current))
+        frequencies.append(current);
     QStringList names;
-    for (const int frequency : tables.AudioSamplingFrequencies) {
-        if (frequency > 0)
-            names.append(QString::number(frequency));
-    }
-    if (current > 0 && !names.contains(QString::number(current)))
-        names.append(QString::number(current));
+    for (const int frequency : std::as_const(frequencies))
+        names.append(QString::number(frequency));
     return names;
+}
+
+/// What the device lacks: "stream" and "audio" as a whole, or single settings by their names in EncodeForm.
+QStringList missingSettings(const EncodeChoices &choices)
+{
+    QStringList missing;
+    const auto add = [&](sdk::EncodeValue value, const char *setting) {
+        if (choices.isMissing(value))
+            missing.append(QString::fromLatin1(setting));
+    };
+    add(sdk::EncodeValue::Stream, "stream");
+    add(sdk::EncodeValue::StreamSwitch, "videoEnable");
+    add(sdk::EncodeValue::BitRateControl, "control");
+    add(sdk::EncodeValue::Audio, "audio");
+    add(sdk::EncodeValue::AudioSwitch, "audioEnable");
+    return missing;
 }
 
 } // namespace
@@ -205,7 +225,9 @@ QVariant EncodeValues::listValue(const QString &field, bool isSub, const EncodeI
     if (field == QLatin1String("audioCompression"))
         return choices.audioCompressions();
     if (field == QLatin1String("samplingFrequency"))
-        return samplingFrequencies(m_tables, items.audioFormat.samplingFrequency);
+        return samplingFrequencies(choices, items);
+    if (field == missingSettingsKey)
+        return missingSettings(choices);
     return {};
 }
 
@@ -222,7 +244,19 @@ bool EncodeValues::setCompression(const QString &name, EncodeItems &items, Encod
     return true;
 }
 
-bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeState &state) const
+void EncodeValues::setAudioCompression(const QString &name, EncodeItems &items,
+                                       const sdk::EncodeCapabilityBlock &block) const
+{
+    items.audioCompression.format = ValueTables::audioNameToFormat(name);
+    const QList<int> frequencies = EncodeChoices(m_tables, block).samplingFrequencies(name);
+    // Without reported frequencies the current one may be right.
+    if (block.audioRateCount > 0 && items.knows(EncodePlace::AudioFormat) && !frequencies.isEmpty() &&
+        !frequencies.contains(items.audioFormat.samplingFrequency))
+        items.audioFormat.samplingFrequency = frequencies.first();
+}
+
+bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeState &state,
+                            int streamType) const
 {
     const StreamKey parts = parted(key);
     EncodeItems &items = parts.isSub ? state.sub : state.main;
@@ -247,7 +281,9 @@ bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeSta
     if (parts.field == QLatin1String("curSamplingFrequency"))
         return setNumber(value, 1, highestSamplingFrequency, items.audioFormat.samplingFrequency);
     if (parts.field == QLatin1String("curAudioCompression")) {
-        items.audioCompression.format = ValueTables::audioNameToFormat(value.toString());
+        const sdk::EncodeCapabilityBlock &block =
+            parts.isSub ? state.subBlock() : state.mainBlock(streamType);
+        setAudioCompression(value.toString(), items, block);
         return true;
     }
     if (parts.field == QLatin1String("curResolution")) {

@@ -28,14 +28,17 @@ public:
     [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
 
     /// Changes the state, but not the device. Returns false, with the state unchanged, when the value is none
-    /// that the key can have, and when its item was not read.
-    bool setValue(const QString &key, const QVariant &value, EncodeState &state) const;
+    /// that the key can have, and when its item was not read. An audio format that cannot have the current
+    /// sampling frequency changes that as well.
+    bool setValue(const QString &key, const QVariant &value, EncodeState &state, int streamType) const;
 
 private:
     [[nodiscard]] QVariant streamValue(const QString &field, bool isSub, const EncodeItems &items,
                                        const sdk::EncodeCapabilityBlock &block) const;
     [[nodiscard]] QVariant listValue(const QString &field, bool isSub, const EncodeItems &items,
                                      const sdk::EncodeCapabilityBlock &block) const;
+    void setAudioCompression(const QString &name, EncodeItems &items,
+                             const sdk::EncodeCapabilityBlock &block) const;
     [[nodiscard]] bool setCompression(const QString &name, EncodeItems &items, EncodeState &state) const;
 
     const ValueTables &m_tables;

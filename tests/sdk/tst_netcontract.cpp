@@ -3,6 +3,7 @@
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
+#include "sdk/encodeblocks.h"
 #include "sdk/onvif/onvifnetlibrary.h"
 #include "tests/datatable.h"
 #include "tests/sdk/netlogin.h"
@@ -27,6 +28,7 @@ const char *const changingPassword = "192.168.1.13";
 const char *const dropping = "192.168.1.14";
 const char *const leaving = "192.168.1.15";
 const char *const returning = "192.168.1.16";
+const char *const soundless = "192.168.1.17";
 const char *const nobody = "192.168.1.99";
 
 constexpr auto slowness = 600ms; // of the slow device
@@ -262,6 +264,42 @@ private Q_SLOTS:
         QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
         QCOMPARE(m_net->NetStartRealStream(session, 7, 0, LiveStreamKind::Main), 0);
         QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
+    }
+
+    void namesTheSoundOfADevice_data()
+    {
+        const auto row = dataTable<QByteArray, bool>({"address", "hasSound"});
+        row("sound", good, true);
+        row("none", soundless, false);
+    }
+
+    void namesTheSoundOfADevice()
+    {
+        QFETCH(const QByteArray, address);
+        QFETCH(const bool, hasSound);
+        const LLONG session = login(address.constData());
+        QVERIFY(session > 0);
+        auto capabilities = std::make_unique<EncodeCapabilities>();
+        capabilities->size = sizeof(*capabilities);
+        for (EncodeCapabilityBlock &block : capabilities->blocks)
+            block.size = sizeof(block);
+        const EncodeCapabilityInput input = {
+            .size = sizeof(input), .reserved1 = 0, .channel = 0, .reserved2 = 0, .text = R"({"Encode":{}})"};
+        QVERIFY(m_net->NetQueryCapabilities(session, CapabilityQuery::Encode, &input, capabilities.get(),
+                                            usualWait));
+        for (const StreamKind kind : {StreamKind::MainNormal, StreamKind::Sub}) {
+            const EncodeCapabilityBlock &block = capabilities->blocks[static_cast<std::size_t>(kind)];
+            QCOMPARE((block.missingValues >> static_cast<unsigned>(EncodeValue::Audio) & 1) == 0, hasSound);
+            QCOMPARE((block.missingValues >> static_cast<unsigned>(EncodeValue::Stream) & 1), 0U);
+            QStringList rates;
+            for (std::uint32_t place = 0; place < block.audioRateCount; ++place) {
+                const AudioRate &rate = block.audioRates[place];
+                if (rate.format == 8)
+                    rates.append(QString::number(rate.frequency));
+            }
+            QCOMPARE(rates.join(' '), hasSound ? "8000 16000" : "");
+            QCOMPARE(block.audioFormatCount > 0, hasSound);
+        }
     }
 
     void servesTwoThreadsOnOneSession()

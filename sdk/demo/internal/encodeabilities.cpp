@@ -93,6 +93,8 @@ void makeOdd(EncodeCapabilityBlock &block)
     block.profiles.back() = -1;
     block.audioFormatCount = tooMany;
     block.audioFormats.back() = 1 << 30;
+    block.audioRateCount = tooMany;
+    block.audioRates.back() = {.format = block.audioFormats.front(), .frequency = -1};
     block.sizes.count = tooMany;
     block.sizes.sizes[0] = {0, 0};
     for (PictureSizeList &list : block.sizesByCompression)
@@ -165,6 +167,14 @@ EncodeCapabilityBlock capabilityBlock(const SceneDevice &device, StreamKind kind
     block.maximumFrameRate = abilities.maximumFrameRate;
     block.profileCount = fill(block.profiles, abilities.profiles);
     block.audioFormatCount = fill(block.audioFormats, abilities.audioFormats);
+    if (abilities.audioFormats.isEmpty())
+        block.missingValues |= 1U << static_cast<std::uint32_t>(EncodeValue::Audio);
+    for (const int sound : abilities.audioFormats) {
+        for (const int frequency : abilities.samplingFrequencies) {
+            if (block.audioRateCount < block.audioRates.size())
+                block.audioRates[block.audioRateCount++] = {.format = sound, .frequency = frequency};
+        }
+    }
     block.sizesDependOnCompression = abilities.sizesByCompression.isEmpty() ? 0 : 1;
     fill(block.sizes, abilities.sizes);
     for (auto entry = abilities.sizesByCompression.constBegin();

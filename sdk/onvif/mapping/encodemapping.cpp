@@ -14,6 +14,7 @@ namespace {
 using Deadline = OnvifSession::Deadline;
 
 constexpr int hertzOfKilohertz = 1000;
+constexpr int highestSampleRate = 1000; // kHz
 constexpr int bestQuality = 6;
 constexpr int usualMinimumBitRate = 32;
 constexpr int usualMaximumBitRate = 16384;
@@ -197,8 +198,17 @@ NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int
     return error;
 }
 
+constexpr std::uint32_t bit(EncodeValue value)
+{
+    return 1U << static_cast<std::uint32_t>(value);
+}
+
 void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
 {
+    block.missingValues = bit(EncodeValue::StreamSwitch) | bit(EncodeValue::AudioSwitch);
+    if (std::none_of(stream.options.begin(), stream.options.end(),
+                     [](const VideoEncodingOptions &options) { return options.offersConstantBitRate; }))
+        block.missingValues |= bit(EncodeValue::BitRateControl);
     block.sizesDependOnCompression = 1;
     block.minimumBitRate = usualMinimumBitRate;
     block.maximumBitRate = 0;
@@ -232,15 +242,24 @@ void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
 
 void fillAudio(EncodeCapabilityBlock &block, MediaService &media, const MediaProfile &profile)
 {
-    if (!profile.audio)
+    if (!profile.audio) {
+        block.missingValues |= bit(EncodeValue::Audio);
         return;
+    }
     for (const AudioEncodingOptions &options :
          media.audioOptions(profile.audio->token, profile.token).value) {
         const int code = audioCapabilityOf(options.encoding);
+        if (code <= 0)
+            continue;
         const auto used = block.audioFormats.begin() + block.audioFormatCount;
-        if (code > 0 && block.audioFormatCount < block.audioFormats.size() &&
+        if (block.audioFormatCount < block.audioFormats.size() &&
             std::find(block.audioFormats.begin(), used, code) == used)
             block.audioFormats[block.audioFormatCount++] = code;
+        for (const int rate : options.sampleRates) {
+            if (rate > 0 && rate <= highestSampleRate && block.audioRateCount < block.audioRates.size())
+                block.audioRates[block.audioRateCount++] = {.format = code,
+                                                            .frequency = rate * hertzOfKilohertz};
+        }
     }
 }
 
@@ -427,8 +446,10 @@ NetError encodeCapabilities(OnvifSession &session, const EncodeCapabilityInput &
         return NetError::InvalidValue;
     EncodeCapabilities filled{};
     filled.size = sizeof(filled);
-    for (EncodeCapabilityBlock &block : filled.blocks)
+    for (EncodeCapabilityBlock &block : filled.blocks) {
         block.size = sizeof(block);
+        block.missingValues = bit(EncodeValue::Stream);
+    }
     for (const StreamKind kind : servedKinds) {
         ServiceResult<Stream> stream = readStream(session, input.channel, kind, Purpose::Show, deadline);
         NetError error = stream.error;

@@ -56,6 +56,17 @@ public:
         return DemoNetLibrary::NetModifyPassword(loginHandle, input, wait);
     }
 
+    std::function<void(sdk::EncodeCapabilities &)> changeEncodeCapabilities; ///< of every device; or null
+
+    bool NetQueryCapabilities(std::int64_t loginHandle, sdk::CapabilityQuery query, const void *input,
+                              void *output, std::chrono::milliseconds wait) override
+    {
+        const bool isAnswered = DemoNetLibrary::NetQueryCapabilities(loginHandle, query, input, output, wait);
+        if (isAnswered && query == sdk::CapabilityQuery::Encode && changeEncodeCapabilities)
+            changeEncodeCapabilities(*static_cast<sdk::EncodeCapabilities *>(output));
+        return isAnswered;
+    }
+
     std::function<void()> beforeWriting; ///< of an item; null for nothing
 
     bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,

@@ -1,5 +1,6 @@
 // The encode page on a simulated site: what it shows, what the device is asked, and what comes of it.
 #include "device/encodeform.h"
+#include "sdk/encodeblocks.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 
@@ -181,6 +182,89 @@ private Q_SLOTS:
         QCOMPARE(m_site->get("takenItems").toList(), QVariantList{4});
         QCOMPARE(confirm(), "");
         QCOMPARE(written(1100, 4).value("bitRate").toInt(), bitRate);
+    }
+
+    void whatADeviceLacksIsNotOffered_data()
+    {
+        // missing: of both streams
+        // shown: "exists", "hasAudio", then what can be chosen; the switch of missing sound is not seen
+        using sdk::EncodeValue;
+        const auto row = dataTable<QVariantList, QList<EncodeValue>, QString, QString>(
+            {"audioFormats", "missing", "shown", "writes"});
+        const QString audioWrites = "1100/1 1103/1 1104/1 1105/1 1100/4 1103/4 1104/4 1105/4";
+        row("nothing", {2, 4}, {}, "exists hasAudio audioCompression audioEnable control videoEnable",
+            audioWrites);
+        row("a choice of formats", {2}, {}, "exists hasAudio audioEnable control videoEnable", audioWrites);
+        row("sound", {}, {}, "exists audioEnable control videoEnable", "1100/1 1103/1 1100/4 1103/4");
+        row("switches", {2, 4},
+            {EncodeValue::AudioSwitch, EncodeValue::StreamSwitch, EncodeValue::BitRateControl},
+            "exists hasAudio audioCompression", audioWrites);
+        row("the stream", {2, 4}, {EncodeValue::Stream}, "hasAudio audioCompression audioEnable", "");
+    }
+
+    void whatADeviceLacksIsNotOffered()
+    {
+        QFETCH(QVariantList, audioFormats);
+        QFETCH(QList<sdk::EncodeValue>, missing);
+        QFETCH(QString, shown);
+        SceneDevice device = modernCamera();
+        const QJsonObject stream = {{"audioFormats", list(audioFormats)}};
+        device.capabilities = {{"encode", QJsonObject{{"main", stream}, {"sub", stream}}}};
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{device});
+        m_site->net->changeEncodeCapabilities = [missing](sdk::EncodeCapabilities &capabilities) {
+            for (const sdk::EncodeValue value : missing) {
+                for (sdk::EncodeCapabilityBlock &block : capabilities.blocks)
+                    block.missingValues |= 1U << static_cast<unsigned>(value);
+            }
+        };
+        // As a device does that has no such items.
+        if (!missing.isEmpty() && missing.first() == sdk::EncodeValue::Stream)
+            m_site->site->setFault(device.mac, {Fault::WithholdsItem, 1100, QString()});
+        if (audioFormats.isEmpty())
+            m_site->site->setFault(device.mac, {Fault::WithholdsItem, 1105, QString()});
+        QCOMPARE(m_site->login(device), 0);
+        QCOMPARE(read(), 0);
+        EncodeForm form;
+        form.setDeviceFactory(m_site->factory.get());
+        QStringList seen;
+        for (const QString &name : {QString("exists"), QString("hasAudio")}) {
+            if (form.subStream().value(name).toBool())
+                seen.append(name);
+        }
+        for (const QString name : {"audioCompression", "audioEnable", "control", "videoEnable"}) {
+            if (form.subStream().value(name).toMap().value("usable").toBool())
+                seen.append(name);
+        }
+        QCOMPARE(seen.join(' '), shown);
+        QCOMPARE(form.unreadItems(), QStringList());
+        QCOMPARE(confirm(), "");
+        QTEST(places("NetSetItem"), "writes");
+    }
+
+    void aSamplingFrequencyFollowsItsFormat()
+    {
+        m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{modernCamera()});
+        m_site->net->changeEncodeCapabilities = [](sdk::EncodeCapabilities &capabilities) {
+            for (sdk::EncodeCapabilityBlock &block : capabilities.blocks) {
+                block.audioRates = {{{.format = 2, .frequency = 8000},
+                                     {.format = 8, .frequency = 16000},
+                                     {.format = 8, .frequency = 48000},
+                                     {.format = 8, .frequency = -1}}};
+                block.audioRateCount = 4;
+            }
+        };
+        QCOMPARE(m_site->login(modernCamera()), 0);
+        QCOMPARE(read(), 0);
+        const QString keys = "curAudioCompression curSamplingFrequency samplingFrequency";
+        QCOMPARE(m_site->shown(keys), "G711a|8000|8000");
+        m_site->set("curAudioCompression", "AAC");
+        QCOMPARE(m_site->shown(keys), "AAC|16000|16000,48000");
+        m_site->set("curSamplingFrequency", "48000");
+        m_site->set("curAudioCompression", "AAC");
+        QCOMPARE(m_site->shown(keys), "AAC|48000|16000,48000");
+        m_site->set("curAudioCompression", "G711u"); // of which the device reports none
+        QCOMPARE(m_site->shown(keys), "G711u|8000|8000");
+        QCOMPARE(m_site->shown("subCurSamplingFrequency subSamplingFrequency"), "8000|8000");
     }
 
     void aReadThatFailsSaysWhy_data()

@@ -414,6 +414,15 @@ private Q_SLOTS:
         const EncodeCapabilityBlock &main = capabilities.blocks[0];
         QVERIFY((main.compressionMask >> compressionH264 & 1) != 0);
         QVERIFY(main.sizesByCompression[compressionH264].count > 1);
+        const auto missing = [&capabilities](StreamKind kind) {
+            return capabilities.blocks[static_cast<std::size_t>(kind)].missingValues;
+        };
+        const auto bit = [](EncodeValue value) {
+            return 1U << static_cast<unsigned>(value);
+        };
+        const std::uint32_t switches = bit(EncodeValue::StreamSwitch) | bit(EncodeValue::AudioSwitch);
+        QCOMPARE(missing(StreamKind::MainNormal) & ~bit(EncodeValue::BitRateControl), switches);
+        QCOMPARE(missing(StreamKind::MainMotion), bit(EncodeValue::Stream));
 
         auto format = itemOf<VideoFormatItem>(streamNumber(StreamKind::MainNormal));
         const auto item = static_cast<std::uint32_t>(EncodeItem::VideoFormat);

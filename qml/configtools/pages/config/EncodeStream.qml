@@ -159,6 +159,7 @@ Column {
     EncodeRow {
         changed: root.stream.audioEnable.changed || root.stream.audioCompression.changed
         label: qsTr("音频编码")
+        visible: root.stream.hasAudio
 
         OVSwitch {
             id: audioSwitch
@@ -184,5 +185,6 @@ Column {
         choiceName: "SamplingChoice"
         label: qsTr("采样率(Hz)")
         setting: root.stream.samplingFrequency
+        visible: root.stream.hasAudio
     }
 }
