@@ -82,11 +82,11 @@ OVDialog {
             checkState: root.certificates.checkState
             columns: [
                 {key: "kind", title: qsTr("状态"), width: Theme.columnVersion, cell: kindCell},
-                {key: "device", title: qsTr("IP:端口"), width: Theme.columnAddress, cell: figureCell},
+                {key: "device", title: qsTr("IP:端口"), width: Theme.columnAddress, cell: figureCell, stretch: 1},
                 {key: "mac", title: qsTr("MAC 或 UUID"), width: Theme.columnMac, cell: figureCell},
                 {key: "subject", title: qsTr("证书名称"), width: Theme.columnModel, stretch: 1},
                 {key: "validity", title: qsTr("有效期"), width: Theme.columnPlanAction, cell: figureCell},
-                {key: "fingerprint", title: qsTr("指纹"), width: Theme.columnPlanMark, cell: figureCell, stretch: 1}
+                {key: "fingerprint", title: qsTr("指纹"), width: Theme.columnModel, cell: figureCell, stretch: 1}
             ]
             focus: true
             model: root.certificates
