@@ -151,8 +151,11 @@ bool Shell::chooseLibraries()
 
 void Shell::chooseCertificates()
 {
-    m_certificates = std::make_shared<CertificateStore>(QCoreApplication::applicationDirPath() +
-                                                        QStringLiteral("/certificates.json"));
+    // Simulated devices make other keys at each start, and have the addresses of real ones.
+    const QString path = m_commandLine.demo
+                             ? QString()
+                             : QCoreApplication::applicationDirPath() + QStringLiteral("/certificates.json");
+    m_certificates = std::make_shared<CertificateStore>(path);
     if (m_libraries.net)
         m_libraries.net->NetSetCertificateHandler(&CertificateStore::handle, m_certificates.get());
     CGIConfigManage::getinstance()->setCertificateHandler(&CertificateStore::handle, m_certificates.get());

@@ -170,6 +170,8 @@ QList<RefusedCertificate> CertificateStore::refused() const
 
 QString CertificateStore::write(const QList<Entry> &entries)
 {
+    if (m_path.isEmpty())
+        return {};
     QJsonArray list;
     for (const Entry &entry : entries)
         list.append(QJsonObject{{identityKey, entry.identity},

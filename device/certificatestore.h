@@ -41,7 +41,7 @@ class CertificateStore
 public:
     static constexpr qsizetype maximumRefused = 20'000;
 
-    /// Reads the file, which need not exist.
+    /// Reads the file, which need not exist. Without a path nothing is kept beyond the run.
     explicit CertificateStore(const QString &path);
 
     /// Why nothing is trusted although there is a file, in the user's language; else empty.

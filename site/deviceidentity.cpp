@@ -1,6 +1,7 @@
 #include "site/deviceidentity.h"
 
 #include "sdk/blocktext.h"
+#include "sdk/demo/internal/deviceanswers.h"
 #include "sdk/demo/internal/searchanswers.h"
 
 #include <QUrl>
@@ -13,7 +14,6 @@ namespace site {
 namespace {
 
 constexpr int httpPort = 80;
-constexpr int usualHttpsPort = 443;
 
 QString scope(const QString &path)
 {
@@ -30,12 +30,6 @@ QString encoded(const std::string &text)
 int servicePortOf(const sdk::demo::SceneDevice &device)
 {
     return device.httpPort == 0 ? httpPort : device.httpPort;
-}
-
-int httpsPortOf(const sdk::demo::SceneDevice &device)
-{
-    const QJsonObject https = device.configuration.value(u"Https").toObject();
-    return https.value(u"enabled").toBool() ? https.value(u"port").toInt(usualHttpsPort) : 0;
 }
 
 QString endpointOf(const sdk::demo::SceneDevice &device)
@@ -59,7 +53,7 @@ QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &m
 QString serviceRoot(const QString &address, int port, bool isSecure)
 {
     const QString host = address.contains(u':') ? u'[' + address + u']' : address;
-    const int usualPort = isSecure ? usualHttpsPort : httpPort;
+    const int usualPort = isSecure ? sdk::demo::usualHttpsPort : httpPort;
     return (isSecure ? u"https://"_s : u"http://"_s) + host +
            (port == usualPort ? QString() : u":%1"_s.arg(port));
 }

@@ -15,9 +15,6 @@ inline constexpr const char *deviceServicePath = "/onvif/device_service";
 /// Where the services of a device listen, also when it has no web page.
 [[nodiscard]] int servicePortOf(const sdk::demo::SceneDevice &device);
 
-/// Where they listen over HTTPS, by the configuration "Https" of the device; 0 for nowhere.
-[[nodiscard]] int httpsPortOf(const sdk::demo::SceneDevice &device);
-
 /// "urn:uuid:...": from the MAC, but does not tell it.
 [[nodiscard]] QString endpointOf(const sdk::demo::SceneDevice &device);
 

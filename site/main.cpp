@@ -72,7 +72,6 @@ int main(int argc, char *argv[])
     if (!folder.isEmpty() && !QDir().mkpath(folder))
         return fail(u"the folder \"%1\" cannot be made"_s.arg(folder));
 
-    std::signal(SIGPIPE, SIG_IGN); // a client that leaves during an encrypted answer
     const sigset_t endSignals = blockEndSignals();
     site::SiteServer server(*scene, line.options);
     if (!server.start(line.interface, &error))

@@ -1,5 +1,6 @@
 #include "site/serveddevice.h"
 
+#include "sdk/demo/internal/deviceanswers.h"
 #include "site/deviceidentity.h"
 #include "site/http/httpserver.h"
 #include "site/logging.h"
@@ -88,7 +89,7 @@ void ServedDevice::appear(const Shape &shape)
 void ServedDevice::listenEncrypted(int port)
 {
     if (!m_key || m_parts.options.newKeys)
-        m_key = DeviceKey::make(m_mac.toStdString());
+        m_key = sdk::demo::DeviceKey::make(m_mac.toStdString());
     if (m_key)
         listen(m_httpsListener, port,
                [this, key = m_key](int listener) { m_parts.http.accept(listener, m_mac, key); });

@@ -10,9 +10,12 @@
 
 #include <memory>
 
+namespace sdk::demo {
+class DeviceKey;
+}
+
 namespace site {
 
-class DeviceKey;
 class HttpServer;
 class Poller;
 
@@ -72,7 +75,7 @@ private:
     RtspPort m_rtsp;
     FileDescriptor m_httpListener;
     FileDescriptor m_httpsListener;
-    std::shared_ptr<const DeviceKey> m_key; // from the first start with HTTPS on
+    std::shared_ptr<const sdk::demo::DeviceKey> m_key; // from the first start with HTTPS on
     FileDescriptor m_rtspListener;
 };
 

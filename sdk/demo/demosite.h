@@ -84,7 +84,7 @@ public:
     [[nodiscard]] QString httpProxy();
 
     /// What the proxy and the tunnels of the port agent answer with.
-    [[nodiscard]] const HttpResponder &httpResponder() const { return *m_httpResponder; }
+    [[nodiscard]] HttpResponder &httpResponder() const { return *m_httpResponder; }
 
     /// This computer's IPv4 address in the local segment.
     [[nodiscard]] QString localAddress() const { return m_localAddress; }

@@ -24,7 +24,8 @@ HttpServer::~HttpServer()
     close([](const Connection &) { return true; });
 }
 
-void HttpServer::accept(int listener, const QString &mac, const std::shared_ptr<const DeviceKey> &key)
+void HttpServer::accept(int listener, const QString &mac,
+                        const std::shared_ptr<const sdk::demo::DeviceKey> &key)
 {
     FileDescriptor socket(accept4(listener, nullptr, nullptr, SOCK_CLOEXEC));
     if (!socket.isOpen())
@@ -55,11 +56,11 @@ void HttpServer::serve(Connection &connection)
     setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &receiveTimeout, sizeof(receiveTimeout));
     setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
     if (connection.key) {
-        EncryptedStream stream(socket, connection.key);
+        sdk::demo::EncryptedStream stream(socket, connection.key);
         if (stream.accept())
             ServerConnection(m_service, m_clock, stream, connection.receiver).serve();
     } else {
-        PlainStream stream(socket);
+        sdk::demo::PlainStream stream(socket);
         ServerConnection(m_service, m_clock, stream, connection.receiver).serve();
     }
     const std::lock_guard lock(m_mutex);

@@ -1,7 +1,7 @@
 // The connections to the web services of all devices.
 #pragma once
 
-#include "site/http/encryption.h"
+#include "sdk/demo/internal/encryption.h"
 #include "site/http/httpexchange.h"
 #include "site/network/filedescriptor.h"
 
@@ -31,7 +31,8 @@ public:
 
     /// Accepts the connection that waits at `listener`, which belongs to the device. With `key` it is one
     /// over TLS.
-    void accept(int listener, const QString &mac, const std::shared_ptr<const DeviceKey> &key = {});
+    void accept(int listener, const QString &mac,
+                const std::shared_ptr<const sdk::demo::DeviceKey> &key = {});
 
     /// Ends the connections to the device, in the middle of an answer too, and waits for their threads.
     void closeAllOf(const QString &mac);
@@ -41,7 +42,7 @@ private:
     {
         FileDescriptor socket;
         HttpReceiver receiver;
-        std::shared_ptr<const DeviceKey> key; // null for a plain one
+        std::shared_ptr<const sdk::demo::DeviceKey> key; // null for a plain one
         std::stop_source stop = {};
         bool isOver = false; // its thread returns at once
         std::thread thread = {};

@@ -1,7 +1,7 @@
 // One connection to a device's web service.
 #pragma once
 
-#include "site/http/bytestream.h"
+#include "sdk/demo/internal/bytestream.h"
 #include "site/http/httpexchange.h"
 
 #include <chrono>
@@ -26,7 +26,8 @@ public:
     static constexpr qint64 longestBody = qint64{512} * 1024 * 1024;
 
     /// All but the receiver must outlive the connection.
-    ServerConnection(HttpService &service, sdk::Clock &clock, ByteStream &stream, HttpReceiver receiver);
+    ServerConnection(HttpService &service, sdk::Clock &clock, sdk::demo::ByteStream &stream,
+                     HttpReceiver receiver);
 
     void serve();
 
@@ -45,7 +46,7 @@ private:
 
     HttpService &m_service;
     sdk::Clock &m_clock;
-    ByteStream &m_stream;
+    sdk::demo::ByteStream &m_stream;
     const HttpReceiver m_receiver;
     QByteArray m_received; // and not yet used
 };

@@ -1,6 +1,7 @@
 #include "site/services/devicenetwork.h"
 
 #include "sdk/demo/internal/addresstext.h"
+#include "sdk/demo/internal/deviceanswers.h"
 #include "sdk/demo/internal/devicechanges.h"
 #include "sdk/demo/internal/fieldtext.h"
 #include "site/deviceidentity.h"

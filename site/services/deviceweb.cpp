@@ -36,7 +36,7 @@ HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &hea
     // The site's own web service finds the device by its address and its plain port, as a proxy does.
     HttpRequest request = head;
     request.target = serviceRoot(receiver.address, servicePortOf(*device)).toLatin1() + head.target;
-    return m_context.site.httpResponder().answer(HttpResponder::proxy, request);
+    return m_context.site.httpResponder().answer({.localPort = HttpResponder::proxy}, request);
 }
 
 } // namespace site

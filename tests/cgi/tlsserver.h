@@ -1,7 +1,7 @@
 // A server on a loopback port that speaks TLS with a key that it made itself, and notes its requests.
 #pragma once
 
-#include "site/http/encryption.h"
+#include "sdk/demo/internal/encryption.h"
 
 #include <QByteArray>
 #include <QList>
@@ -46,7 +46,7 @@ public:
     void renewKey()
     {
         const std::scoped_lock lock(m_mutex);
-        m_key = site::DeviceKey::make("renewed");
+        m_key = sdk::demo::DeviceKey::make("renewed");
     }
 
     /// The requests that have come through a completed handshake.
@@ -61,12 +61,12 @@ private:
     {
         for (int socket = accept(m_listener, nullptr, nullptr); socket >= 0;
              socket = accept(m_listener, nullptr, nullptr)) {
-            std::shared_ptr<const site::DeviceKey> key;
+            std::shared_ptr<const sdk::demo::DeviceKey> key;
             {
                 const std::scoped_lock lock(m_mutex);
                 key = m_key;
             }
-            site::EncryptedStream stream(socket, key);
+            sdk::demo::EncryptedStream stream(socket, key);
             std::array<char, 65536> bytes{};
             if (stream.accept()) {
                 const ssize_t count = stream.receive(bytes.data(), bytes.size(), std::chrono::seconds(10));
@@ -87,7 +87,7 @@ private:
     const int m_listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     int m_port = 0;
     mutable std::mutex m_mutex; ///< of what follows
-    std::shared_ptr<const site::DeviceKey> m_key = site::DeviceKey::make("first");
+    std::shared_ptr<const sdk::demo::DeviceKey> m_key = sdk::demo::DeviceKey::make("first");
     QList<QByteArray> m_requests;
     std::thread m_thread;
 };

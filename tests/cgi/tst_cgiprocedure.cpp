@@ -1,6 +1,8 @@
 // Commands to a web server that also sends what no real one would.
 #include "cgi/cgiprocedure.h"
 #include "cgi/curltransport.h"
+#include "sdk/clock.h"
+#include "sdk/demo/demosite.h"
 #include "tests/cgi/rawserver.h"
 #include "tests/cgi/recordedtransport.h"
 #include "tests/cgi/tlsserver.h"
@@ -11,7 +13,9 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QJsonDocument>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <netinet/in.h>
@@ -125,6 +129,52 @@ private Q_SLOTS:
         QTEST(run(QStringLiteral("https://127.0.0.1:%1/text").arg(server.port())), "result");
         QCOMPARE(asked.at, QStringLiteral("127.0.0.1:%1").arg(server.port()));
         QTEST(int(server.requests().size()), "requests");
+    }
+
+    void aSimulatedDeviceIsReachedOverHttps_data()
+    {
+        const auto row = dataTable<QString, QString>({"address", "result"});
+        row("trusted", "192.168.1.5:8443", "name=Gate\n");
+        row("not the port of HTTPS", "192.168.1.5:80", "Error:");
+        row("off", "192.168.1.6:8443", "Error:");
+        row("another device of the same run", "192.168.1.7:443", "name=Gate\n");
+    }
+
+    void aSimulatedDeviceIsReachedOverHttps()
+    {
+        QFETCH(const QString, address);
+        sdk::demo::Scene scene;
+        for (const auto &[number, https] :
+             {std::pair(5, R"({"enabled": true, "port": 8443})"),
+              std::pair(6, R"({"enabled": false, "port": 8443})"), std::pair(7, R"({"enabled": true})")}) {
+            sdk::demo::SceneDevice device;
+            device.mac = QStringLiteral("02:1a:c5:00:00:0%1").arg(number);
+            device.address = QStringLiteral("192.168.1.%1").arg(number);
+            device.httpPort = 80;
+            device.name = QStringLiteral("Gate");
+            device.accounts = {{user, password}};
+            device.configuration.insert(QStringLiteral("Https"), QJsonDocument::fromJson(https).object());
+            scene.devices.append(device);
+        }
+        const auto site = sdk::demo::DemoSite::create(scene, std::make_shared<sdk::SystemClock>());
+        m_surroundings.transport->setProxy(site->httpProxy());
+        QSet<QString> keys;
+        m_surroundings.transport->setCertificateHandler(
+            [](const sdk::DeviceCertificate *certificate, void *context) {
+                static_cast<QSet<QString> *>(context)->insert(QLatin1String(certificate->fingerprint.data()));
+                return sdk::CertificateVerdict::Trusted;
+            },
+            &keys);
+        const QString url = QStringLiteral("https://%1/cgi-bin/device?get=name").arg(address);
+        QFETCH(const QString, result);
+        const QString seen = run(url);
+        QVERIFY2(seen.startsWith(result), qPrintable(seen));
+        (void)run(QStringLiteral("https://192.168.1.5:8443/cgi-bin/time"));
+        (void)run(QStringLiteral("https://192.168.1.7/cgi-bin/time"));
+        QCOMPARE(keys.size(), 2); // each has its own, and keeps it
+        // A client that leaves in the middle of the answer ends nothing.
+        m_surroundings.transport->setCertificateHandler(nullptr, nullptr);
+        QVERIFY(run(QStringLiteral("https://192.168.1.5:8443/cgi-bin/time")).startsWith("Error:"));
     }
 
     void devicesAreGivenTheCredentialsThatTheyAskFor_data()

@@ -14,7 +14,6 @@ namespace sdk::demo {
 namespace {
 
 constexpr int rtspPort = 554;
-constexpr int usualHttpsPort = 443;
 constexpr int maximumConnections = 10;
 
 NetworkRecord networkRecord(const SceneDevice &device)
@@ -74,6 +73,14 @@ std::optional<QByteArray> ownText(const SceneDevice &device, const QString &name
 }
 
 } // namespace
+
+int httpsPortOf(const SceneDevice &device)
+{
+    const QJsonObject https = device.configuration.value(QLatin1String("Https")).toObject();
+    return https.value(QLatin1String("enabled")).toBool()
+               ? https.value(QLatin1String("port")).toInt(usualHttpsPort)
+               : 0;
+}
 
 DeviceAttributes deviceAttributes(const SceneDevice &device)
 {

@@ -9,6 +9,11 @@
 
 namespace sdk::demo {
 
+inline constexpr int usualHttpsPort = 443;
+
+/// Where the web service of a device listens over HTTPS, by its configuration "Https"; 0 for nowhere.
+[[nodiscard]] int httpsPortOf(const SceneDevice &device);
+
 [[nodiscard]] DeviceAttributes deviceAttributes(const SceneDevice &device);
 [[nodiscard]] NetworkServices networkServices(const SceneDevice &device);
 

@@ -4,6 +4,7 @@
 #include "sdk/demo/demop2pagentlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/addresstext.h"
+#include "sdk/demo/internal/deviceanswers.h"
 
 namespace sdk::demo {
 
@@ -12,7 +13,15 @@ namespace {
 /// 0 for none.
 int portOf(const SceneDevice &device, DevicePort kind)
 {
-    return kind == DevicePort::Web ? device.httpPort : device.port;
+    switch (kind) {
+    case DevicePort::Service:
+        return device.port;
+    case DevicePort::Web:
+        return device.httpPort;
+    case DevicePort::SecureWeb:
+        return httpsPortOf(device);
+    }
+    return 0;
 }
 
 DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int localPort, DevicePort kind)

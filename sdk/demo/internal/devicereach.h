@@ -12,6 +12,7 @@ enum class DevicePort
 {
     Service,
     Web,
+    SecureWeb, ///< the same over HTTPS
 };
 
 struct DeviceReach

@@ -1,15 +1,13 @@
 #include "sdk/demo/internal/httpconnection.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/internal/httpresponder.h"
+#include "sdk/demo/internal/encryption.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 
 #include <netinet/in.h>
 #include <netinet/tcp.h>
-#include <poll.h>
 #include <sys/socket.h>
 
 using namespace std::chrono_literals;
@@ -18,8 +16,8 @@ namespace sdk::demo {
 
 namespace {
 
-/// For a client that reads nothing: how long a piece of an answer may wait.
-constexpr timeval sendTime = {15, 0};
+/// For a client that reads nothing, or says nothing in a handshake: how long a piece may wait.
+constexpr timeval pieceTime = {15, 0};
 
 void skipEmptyLines(QByteArray &received)
 {
@@ -36,19 +34,52 @@ QString sentenceFor(HttpStatus status)
 
 } // namespace
 
-HttpConnection::HttpConnection(const HttpResponder &responder, int socket, int localPort,
-                               std::stop_token stop)
-    : m_responder(responder), m_socket(socket), m_localPort(localPort), m_stop(std::move(stop))
+HttpConnection::HttpConnection(HttpResponder &responder, int socket, int localPort, std::stop_token stop)
+    : m_responder(responder), m_socket(socket), m_stop(std::move(stop)), m_route{.localPort = localPort},
+      m_stream(std::make_unique<PlainStream>(socket))
 {
-    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &sendTime, sizeof(sendTime));
+    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &pieceTime, sizeof(pieceTime));
+    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &pieceTime, sizeof(pieceTime));
     // Head and body go out one by one; the second is not to wait until the first has been acknowledged.
     const int on = 1;
     setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
 }
 
+bool HttpConnection::isProxy() const
+{
+    return m_route.localPort == HttpResponder::proxy && m_route.host.isEmpty();
+}
+
+bool HttpConnection::standSilent(HttpReply &reply) const
+{
+    if (!m_responder.clock().wait(HttpResponder::silence, m_stop) || !isProxy())
+        return false;
+    reply = HttpReply::line(HttpStatus::GatewayTimeout, sentenceFor(HttpStatus::GatewayTimeout));
+    return true;
+}
+
+bool HttpConnection::enterTunnel(const HttpRequest &request)
+{
+    HttpTunnel tunnel = m_responder.openTunnel(request);
+    if (!tunnel.key) {
+        if ((tunnel.refusal.status != HttpStatus::None || standSilent(tunnel.refusal)) &&
+            sendReply(tunnel.refusal, true, false))
+            linger();
+        return false;
+    }
+    // Nobody encrypts before the answer has come.
+    if (!m_received.isEmpty() || !send("HTTP/1.1 200 Connection established\r\n\r\n"))
+        return false;
+    auto encrypted = std::make_unique<EncryptedStream>(m_socket, tunnel.key);
+    const bool isAccepted = encrypted->accept();
+    m_stream = std::move(encrypted);
+    m_route = tunnel.route;
+    return isAccepted;
+}
+
 void HttpConnection::serve()
 {
-    if (!m_responder.speaksHttp(m_localPort))
+    if (!m_responder.speaksHttp(m_route.localPort))
         return;
     for (;;) {
         HttpRequest request;
@@ -60,14 +91,14 @@ void HttpConnection::serve()
                 linger();
             return;
         }
-        HttpReply reply = m_responder.answer(m_localPort, request);
-        if (reply.status == HttpStatus::None) {
-            // As a device does that is not there; the proxy says so in the end.
-            if (!m_responder.clock().wait(HttpResponder::silence, m_stop) ||
-                m_localPort != HttpResponder::proxy)
+        if (request.method == "CONNECT" && isProxy()) {
+            if (!enterTunnel(request))
                 return;
-            reply = HttpReply::line(HttpStatus::GatewayTimeout, sentenceFor(HttpStatus::GatewayTimeout));
+            continue;
         }
+        HttpReply reply = m_responder.answer(m_route, request);
+        if (reply.status == HttpStatus::None && !standSilent(reply))
+            return;
         const bool hasBody = request.method != "HEAD";
         const bool keeps = request.keepsConnection && hasBody && request.method != "CONNECT";
         if (!sendReply(reply, hasBody, keeps))
@@ -115,25 +146,15 @@ HttpStatus HttpConnection::receiveRequest(HttpRequest &request)
 
 bool HttpConnection::receiveMore(Deadline deadline)
 {
-    for (;;) {
-        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
-            deadline - std::chrono::steady_clock::now());
-        pollfd watched = {m_socket, POLLIN, 0};
-        const int ready = poll(&watched, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
-        if (ready < 0 && errno == EINTR)
-            continue;
-        if (ready <= 0)
-            return false;
-        constexpr std::size_t pieceSize = std::size_t{16} * 1024;
-        std::array<char, pieceSize> piece;
-        const ssize_t count = recv(m_socket, piece.data(), piece.size(), 0);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        m_received.append(piece.data(), count);
-        return true;
-    }
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+    constexpr std::size_t pieceSize = std::size_t{16} * 1024;
+    std::array<char, pieceSize> piece;
+    const ssize_t count = m_stream->receive(piece.data(), piece.size(), std::max(left, 0ms));
+    if (count <= 0)
+        return false;
+    m_received.append(piece.data(), count);
+    return true;
 }
 
 bool HttpConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const
@@ -167,10 +188,7 @@ bool HttpConnection::sendBody(const HttpReply &reply) const
 bool HttpConnection::send(QByteArrayView bytes) const
 {
     while (!bytes.isEmpty()) {
-        const ssize_t count =
-            ::send(m_socket, bytes.data(), static_cast<std::size_t>(bytes.size()), MSG_NOSIGNAL);
-        if (count < 0 && errno == EINTR)
-            continue;
+        const ssize_t count = m_stream->send(bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (count <= 0)
             return false;
         bytes = bytes.sliced(count);
@@ -180,7 +198,7 @@ bool HttpConnection::send(QByteArrayView bytes) const
 
 void HttpConnection::linger()
 {
-    shutdown(m_socket, SHUT_WR);
+    m_stream->finishSending();
     constexpr qsizetype most = qsizetype{1024} * 1024;
     const Deadline deadline = std::chrono::steady_clock::now() + 1s;
     qsizetype taken = 0;

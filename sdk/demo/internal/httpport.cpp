@@ -11,7 +11,7 @@
 
 namespace sdk::demo {
 
-std::unique_ptr<HttpPort> HttpPort::open(const HttpResponder &responder, Role role, int port)
+std::unique_ptr<HttpPort> HttpPort::open(HttpResponder &responder, Role role, int port)
 {
     std::unique_ptr<HttpPort> opened(new HttpPort(responder, role));
     opened->m_listener = LoopbackListener::open(

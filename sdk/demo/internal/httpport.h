@@ -30,7 +30,7 @@ public:
 
     /// Listens at `port`, 0 for any that is free. Returns null when it is taken or the computer gives no
     /// socket or thread. `responder` must outlive the port.
-    [[nodiscard]] static std::unique_ptr<HttpPort> open(const HttpResponder &responder, Role role, int port);
+    [[nodiscard]] static std::unique_ptr<HttpPort> open(HttpResponder &responder, Role role, int port);
 
     ~HttpPort();
     HttpPort(const HttpPort &) = delete;
@@ -46,11 +46,11 @@ private:
         bool isOver = false; // its thread returns at once, and its socket is closed
     };
 
-    HttpPort(const HttpResponder &responder, Role role) : m_responder(responder), m_role(role) {}
+    HttpPort(HttpResponder &responder, Role role) : m_responder(responder), m_role(role) {}
     void take(int socket, int localPort);
     void serve(Connection &connection, int localPort);
 
-    const HttpResponder &m_responder;
+    HttpResponder &m_responder;
     const Role m_role;
     std::stop_source m_stop;
     std::mutex m_mutex;

@@ -3,7 +3,6 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demop2pagentlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/devicereach.h"
 #include "sdk/demo/internal/httpcommands.h"
 
 #include <algorithm>
@@ -15,11 +14,11 @@ namespace sdk::demo {
 namespace {
 
 /// What the proxy does not do; nothing for a request that it passes on.
-std::optional<HttpReply> proxyRefusal(const HttpRequest &request, const HttpTarget &target)
+std::optional<HttpReply> proxyRefusal(const HttpTarget &target)
 {
-    if (request.method == "CONNECT" || target.scheme == u"https")
+    if (target.scheme == u"https")
         return HttpReply::line(HttpStatus::NotImplemented,
-                               u"The devices of the simulated site do not speak HTTPS"_s);
+                               u"HTTPS goes through a tunnel: CONNECT ADDRESS:443"_s);
     if (!target.isGood || (!target.scheme.isEmpty() && target.scheme != u"http"))
         return HttpReply::line(HttpStatus::BadRequest, u"This is no address that the proxy understands"_s);
     if (target.scheme.isEmpty())
@@ -69,45 +68,90 @@ bool HttpResponder::speaksHttp(int localPort) const
     return device && device->httpPort == tunnel->devicePort;
 }
 
-HttpReply HttpResponder::answer(int localPort, const HttpRequest &request) const
+QString HttpResponder::reachedDevice(const QString &host, int port, DevicePort kind, HttpReply &reply) const
 {
-    const HttpTarget target = readHttpTarget(request.target);
-    HttpCredentials credentials;
-    DeviceReach reached;
-    HttpReply reply;
-    const std::optional<HttpReply> refusal =
-        localPort == proxy ? proxyRefusal(request, target) : std::nullopt;
-    if (refusal) {
-        reply = *refusal;
-    } else if (!target.isGood) {
-        reply = HttpReply::line(HttpStatus::BadRequest, u"This is no address"_s);
-    } else {
-        reached = localPort == proxy ? reach(m_site, target.host, target.port, DevicePort::Web)
-                                     : reach(m_site, u"127.0.0.1"_s, localPort, DevicePort::Web);
-        switch (reached.kind) {
-        case DeviceReach::Kind::Answers:
-            reply = answerOfDevice(reached.session.mac, request, target, credentials);
-            break;
-        case DeviceReach::Kind::Refuses:
-            reply = HttpReply::line(HttpStatus::BadGateway,
-                                    u"Nothing listens at port %1 of %2"_s.arg(target.port).arg(target.host));
-            break;
-        case DeviceReach::Kind::Silent:
-            reply.status = HttpStatus::None;
-            break;
-        }
+    const DeviceReach reached = reach(m_site, host, port, kind);
+    switch (reached.kind) {
+    case DeviceReach::Kind::Answers:
+        break;
+    case DeviceReach::Kind::Refuses:
+        reply = HttpReply::line(HttpStatus::BadGateway,
+                                u"Nothing listens at port %1 of %2"_s.arg(port).arg(host));
+        break;
+    case DeviceReach::Kind::Silent:
+        reply.status = HttpStatus::None;
+        break;
     }
+    return reached.session.mac;
+}
+
+HttpReply HttpResponder::answer(const HttpRoute &route, const HttpRequest &request) const
+{
+    HttpTarget target = readHttpTarget(request.target);
+    HttpCredentials credentials;
+    HttpReply reply;
+    QString mac;
+    const bool isTunnel = !route.host.isEmpty();
+    const bool isProxy = route.localPort == proxy && !isTunnel;
+    if (const std::optional<HttpReply> refusal = isProxy ? proxyRefusal(target) : std::nullopt)
+        reply = *refusal;
+    else if (!target.isGood)
+        reply = HttpReply::line(HttpStatus::BadRequest, u"This is no address"_s);
+    else if (isTunnel)
+        mac = reachedDevice(target.host = route.host, route.port, DevicePort::SecureWeb, reply);
+    else if (isProxy)
+        mac = reachedDevice(target.host, target.port, DevicePort::Web, reply);
+    else
+        mac = reachedDevice(u"127.0.0.1"_s, route.localPort, DevicePort::Web, reply);
+    if (!mac.isEmpty())
+        reply = answerOfDevice(mac, request, target, credentials);
+    record(mac, request, target, credentials, reply.status);
+    return reply;
+}
+
+HttpTunnel HttpResponder::openTunnel(const HttpRequest &request)
+{
+    HttpTarget target = readHttpTarget("https://" + request.target);
+    HttpTunnel tunnel;
+    QString mac;
+    if (target.isGood && target.path == "/" && target.query.isEmpty()) {
+        mac = reachedDevice(target.host, target.port, DevicePort::SecureWeb, tunnel.refusal);
+        tunnel.route = {.localPort = proxy, .host = target.host, .port = target.port};
+    } else {
+        tunnel.refusal =
+            HttpReply::line(HttpStatus::BadRequest, u"This is no address that the proxy understands"_s);
+    }
+    if (!mac.isEmpty()) {
+        tunnel.key = keyOf(mac);
+        if (!tunnel.key)
+            tunnel.refusal = HttpReply::line(HttpStatus::BadGateway, u"The device has no key for HTTPS"_s);
+    }
+    record(mac, request, target, {}, tunnel.key ? HttpStatus::Ok : tunnel.refusal.status);
+    return tunnel;
+}
+
+std::shared_ptr<const DeviceKey> HttpResponder::keyOf(const QString &mac)
+{
+    const std::lock_guard lock(m_keysMutex);
+    std::shared_ptr<const DeviceKey> &key = m_keys[mac];
+    if (!key)
+        key = DeviceKey::make(mac.toStdString());
+    return key;
+}
+
+void HttpResponder::record(const QString &mac, const HttpRequest &request, const HttpTarget &target,
+                           const HttpCredentials &credentials, HttpStatus status) const
+{
     m_site.requests().add({u"HTTP"_s,
-                           reached.session.mac,
+                           mac,
                            {{u"method"_s, QString::fromLatin1(request.method)},
                             {u"host"_s, target.host},
                             {u"path"_s, QString::fromLatin1(target.path)},
                             {u"query"_s, QString::fromLatin1(target.query)},
                             {u"authentication"_s, credentials.kind},
                             {u"user"_s, credentials.user},
-                            {u"status"_s, static_cast<int>(reply.status)}},
+                            {u"status"_s, static_cast<int>(status)}},
                            m_site.clock().now()});
-    return reply;
 }
 
 HttpReply HttpResponder::answerOfDevice(const QString &mac, const HttpRequest &request,

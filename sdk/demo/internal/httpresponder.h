@@ -1,8 +1,15 @@
 // What the web service of the site answers to a request.
 #pragma once
 
+#include "sdk/demo/internal/devicereach.h"
+#include "sdk/demo/internal/encryption.h"
 #include "sdk/demo/internal/httpauthentication.h"
 #include "sdk/demo/internal/httpmessage.h"
+
+#include <QHash>
+
+#include <memory>
+#include <mutex>
 
 namespace sdk {
 class Clock;
@@ -11,6 +18,22 @@ class Clock;
 namespace sdk::demo {
 
 class DemoSite;
+
+/// Where a connection leads.
+struct HttpRoute
+{
+    int localPort = 0; ///< of the port agent, or HttpResponder::proxy
+    QString host = {}; ///< of a tunnel through the proxy: the device's address; else empty
+    int port = 0;      ///< of such a tunnel: at the device
+};
+
+/// What comes of the request for a tunnel through the proxy.
+struct HttpTunnel
+{
+    HttpReply refusal = {}; ///< without a key
+    HttpRoute route = {};
+    std::shared_ptr<const DeviceKey> key = {}; ///< of the device at its end; null if the tunnel is refused
+};
 
 /// Thread-safe.
 class HttpResponder
@@ -30,16 +53,29 @@ public:
     /// Whether what listens at `localPort` speaks HTTP: the proxy, and a tunnel to a device's web port.
     [[nodiscard]] bool speaksHttp(int localPort) const;
 
-    /// The answer to a request that came to `localPort`, and the request in the site's record.
+    /// The answer to a request that came over `route`, and the request in the site's record.
     /// HttpStatus::None for one that gets no answer.
-    [[nodiscard]] HttpReply answer(int localPort, const HttpRequest &request) const;
+    [[nodiscard]] HttpReply answer(const HttpRoute &route, const HttpRequest &request) const;
+
+    /// The tunnel that a request "CONNECT" to the proxy asks for, and the request in the site's record. It
+    /// leads to the port at which a device serves HTTPS.
+    [[nodiscard]] HttpTunnel openTunnel(const HttpRequest &request);
 
 private:
+    /// The device that a connection leads to. Without one `reply` says why.
+    [[nodiscard]] QString reachedDevice(const QString &host, int port, DevicePort kind,
+                                        HttpReply &reply) const;
+    /// Made at the first request.
+    [[nodiscard]] std::shared_ptr<const DeviceKey> keyOf(const QString &mac);
+    void record(const QString &mac, const HttpRequest &request, const HttpTarget &target,
+                const HttpCredentials &credentials, HttpStatus status) const;
     [[nodiscard]] HttpReply answerOfDevice(const QString &mac, const HttpRequest &request,
                                            const HttpTarget &target, HttpCredentials &credentials) const;
 
     DemoSite &m_site;
     const HttpAuthentication m_authentication;
+    std::mutex m_keysMutex;
+    QHash<QString, std::shared_ptr<const DeviceKey>> m_keys; ///< by MAC
 };
 
 } // namespace sdk::demo

@@ -1,16 +1,25 @@
-#include "site/http/bytestream.h"
+#include "sdk/demo/internal/bytestream.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 
 #include <poll.h>
 #include <sys/socket.h>
 
-namespace site {
+namespace sdk::demo {
 
 bool isReadable(int socket, std::chrono::milliseconds patience)
 {
-    pollfd watched = {socket, POLLIN, 0};
-    return poll(&watched, 1, static_cast<int>(patience.count())) > 0;
+    const auto end = std::chrono::steady_clock::now() + patience;
+    for (;;) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+        pollfd watched = {socket, POLLIN, 0};
+        const int ready = poll(&watched, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
+        if (ready >= 0 || errno != EINTR)
+            return ready > 0;
+    }
 }
 
 ssize_t PlainStream::receive(char *bytes, std::size_t size, std::chrono::milliseconds patience)
@@ -32,4 +41,4 @@ void PlainStream::finishSending()
     shutdown(m_socket, SHUT_WR);
 }
 
-} // namespace site
+} // namespace sdk::demo

@@ -1,16 +1,18 @@
-#include "site/http/encryption.h"
+#include "sdk/demo/internal/encryption.h"
 
 #include <openssl/evp.h>
 #include <openssl/ssl.h>
 #include <openssl/x509.h>
 
 #include <algorithm>
+#include <csignal>
 #include <limits>
 #include <utility>
 
+#include <signal.h>
 #include <sys/socket.h>
 
-namespace site {
+namespace sdk::demo {
 
 namespace {
 
@@ -79,6 +81,10 @@ EncryptedStream::~EncryptedStream()
 
 bool EncryptedStream::accept()
 {
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr); // the library does not suppress it
     return m_tls && SSL_accept(m_tls) == 1;
 }
 
@@ -101,4 +107,4 @@ void EncryptedStream::finishSending()
     shutdown(m_socket, SHUT_WR);
 }
 
-} // namespace site
+} // namespace sdk::demo

@@ -1,7 +1,7 @@
 // Connections over TLS, and the key and certificate that a device makes for itself.
 #pragma once
 
-#include "site/http/bytestream.h"
+#include "sdk/demo/internal/bytestream.h"
 
 #include <memory>
 #include <string>
@@ -9,7 +9,7 @@
 struct ssl_ctx_st;
 struct ssl_st;
 
-namespace site {
+namespace sdk::demo {
 
 /// The key of a device with a certificate that it has signed itself. Thread-safe.
 class DeviceKey
@@ -34,7 +34,8 @@ public:
     EncryptedStream(int socket, std::shared_ptr<const DeviceKey> key);
     ~EncryptedStream() override;
 
-    /// The handshake. False when the client does not want the certificate, or knows no TLS.
+    /// The handshake. False when the client does not want the certificate, or knows no TLS. From here on the
+    /// calling thread gets no SIGPIPE of a client that has left.
     [[nodiscard]] bool accept();
 
     [[nodiscard]] ssize_t receive(char *bytes, std::size_t size, std::chrono::milliseconds patience) override;
@@ -47,4 +48,4 @@ private:
     ssl_st *const m_tls; ///< owned
 };
 
-} // namespace site
+} // namespace sdk::demo

@@ -6,7 +6,7 @@
 
 #include <sys/types.h>
 
-namespace site {
+namespace sdk::demo {
 
 /// Belongs to one thread; shutdown() of its socket on another one ends what it waits for.
 class ByteStream
@@ -45,4 +45,4 @@ private:
 /// Whether bytes, or the end, can be received within `patience`.
 [[nodiscard]] bool isReadable(int socket, std::chrono::milliseconds patience);
 
-} // namespace site
+} // namespace sdk::demo
