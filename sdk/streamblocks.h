@@ -35,8 +35,8 @@ enum class StreamEndReason : std::int32_t
 /// Called with a piece of a live stream: `size` bytes at `data`, which end with the call. Pieces come in
 /// their order, cut anywhere, one at a time for each stream. `dataType` is a RealDataType. The stream starts
 /// again with another header where it must; `parameter` belongs to the library unless the type says
-/// otherwise. RealDataType::End is the last call, at most once, and only to a handler that is set when the
-/// stream ends.
+/// otherwise. RealDataType::End is the last call, at most once: to the handler that is set when the stream
+/// ends, else to the next one.
 using RealDataHandler = void (*)(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
                                  std::uint32_t size, std::int64_t parameter, void *user);
 

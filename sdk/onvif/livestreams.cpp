@@ -3,6 +3,8 @@
 #include "sdk/onvif/soap/logging.h"
 #include "sdk/onvif/soap/runningcall.h"
 
+#include <algorithm>
+#include <array>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -13,6 +15,15 @@ namespace {
 
 /// Half a second of the largest streams. What is beyond it would be too late anyway.
 constexpr std::size_t longestWaiting = std::size_t(4) * 1024 * 1024;
+
+/// The first bytes of the container (EBML, RFC 8794).
+constexpr std::array<std::uint8_t, 4> headerBegin = {0x1a, 0x45, 0xdf, 0xa3};
+
+bool isHeader(std::span<const std::uint8_t> bytes)
+{
+    return bytes.size() >= headerBegin.size() &&
+           std::equal(headerBegin.begin(), headerBegin.end(), bytes.begin());
+}
 
 constexpr auto streamBytes = static_cast<std::uint32_t>(RealDataType::Stream);
 
@@ -78,8 +89,10 @@ StreamEndReason reasonOf(StreamEnd end)
 
 } // namespace
 
-LiveStream::LiveStream(std::int64_t handle, LLONG loginHandle, std::string profile)
-    : m_handle(handle), m_loginHandle(loginHandle), m_profile(std::move(profile))
+LiveStream::LiveStream(std::int64_t handle, LLONG loginHandle, std::string profile,
+                       std::function<void()> onRefusal)
+    : m_handle(handle), m_loginHandle(loginHandle), m_profile(std::move(profile)),
+      m_onRefusal(std::move(onRefusal))
 {
 }
 
@@ -93,7 +106,9 @@ NetError LiveStream::start(const RtspOrder &order)
         qCInfo(logOnvif).noquote() << "A live stream has ended:"
                                    << QLatin1StringView(name.data(), static_cast<qsizetype>(name.size()))
                                    << QString::fromStdString(text);
-        reportEnd(end);
+        if (end == StreamEnd::Refused)
+            m_onRefusal();
+        noteEnd(end);
     };
     try {
         m_stream = std::make_unique<RtspStream>(order, onData, onEnd);
@@ -108,9 +123,21 @@ NetError LiveStream::start(const RtspOrder &order)
 void LiveStream::take(std::span<const std::uint8_t> bytes)
 {
     const std::scoped_lock lock(m_mutex);
+    if (m_hasDropped && !isHeader(bytes))
+        return; // what follows a gap cannot be read
+    m_hasDropped = false;
     if (m_handler)
         m_handler(m_handle, streamBytes, bytes.data(), static_cast<std::uint32_t>(bytes.size()), 0, m_user);
-    else if (!m_hadHandler && m_waiting.size() + bytes.size() <= longestWaiting)
+    else if (!m_hadHandler)
+        keep(bytes);
+}
+
+void LiveStream::keep(std::span<const std::uint8_t> bytes)
+{
+    m_hasDropped = m_waiting.size() + bytes.size() > longestWaiting;
+    if (m_hasDropped)
+        m_waiting = {};
+    else
         m_waiting.insert(m_waiting.end(), bytes.begin(), bytes.end());
 }
 
@@ -122,18 +149,30 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
     if (!handler)
         return;
     m_hadHandler = true;
+    if (m_hasDropped)
+        m_stream->beginAnew();
     if (!m_waiting.empty())
         handler(m_handle, streamBytes, m_waiting.data(), static_cast<std::uint32_t>(m_waiting.size()), 0,
                 user);
     m_waiting = {};
+    reportEnd();
 }
 
-void LiveStream::reportEnd(StreamEnd end)
+void LiveStream::noteEnd(StreamEnd end)
 {
     const std::scoped_lock lock(m_mutex);
-    if (end != StreamEnd::Stopped && m_handler)
-        m_handler(m_handle, static_cast<std::uint32_t>(RealDataType::End), nullptr, 0,
-                  static_cast<std::int64_t>(reasonOf(end)), m_user);
+    if (end != StreamEnd::Stopped)
+        m_end = end;
+    reportEnd();
+}
+
+void LiveStream::reportEnd()
+{
+    if (!m_end || !m_handler)
+        return;
+    m_handler(m_handle, static_cast<std::uint32_t>(RealDataType::End), nullptr, 0,
+              static_cast<std::int64_t>(reasonOf(*m_end)), m_user);
+    m_end.reset();
 }
 
 void LiveStream::beginAnew()
@@ -147,14 +186,14 @@ void LiveStream::stop()
 }
 
 std::int64_t LiveStreams::open(LLONG loginHandle, const std::string &profile, const RtspOrder &order,
-                               NetError &error)
+                               const std::function<void()> &onRefusal, NetError &error)
 {
     std::int64_t handle = 0;
     {
         const std::scoped_lock lock(m_mutex);
         handle = ++m_lastHandle;
     }
-    const auto stream = std::make_shared<LiveStream>(handle, loginHandle, profile);
+    const auto stream = std::make_shared<LiveStream>(handle, loginHandle, profile, onRefusal);
     error = stream->start(order);
     if (error != NetError::None)
         return 0;

@@ -68,6 +68,8 @@ bool OnvifNetLibrary::NetModifyPassword(LLONG loginHandle, const ModifyPasswordI
         if (user == users.value.end())
             return NetError::NoSuchAccount;
         const std::string password(blockText(input.newPassword));
+        // Other calls may be refused with the old password before the new one is known here.
+        const auto delay = session.client().delayRefusals();
         const ServiceOutcome outcome = device.setPassword(*user, password);
         if (outcome.isOk() && login.account == account)
             session.client().setPassword(password);

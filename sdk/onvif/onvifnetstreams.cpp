@@ -52,8 +52,8 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
         const ServiceResult<std::string> url = media->streamUrl(profile);
         if (!url.isOk())
             return url.error;
-        if (session.client().isRefused())
-            return NetError::SessionEnded;
+        if (const std::optional<NetError> refusal = session.client().refusal())
+            return *refusal;
         const HttpLogin login = session.client().login();
         RtspOrder order;
         order.url = reachedUrl(url.value, session.service());
@@ -61,12 +61,14 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
         order.password = login.password;
         order.timeouts.answer = std::chrono::duration_cast<std::chrono::milliseconds>(
             deadline - std::chrono::steady_clock::now());
+        const auto onRefusal = [this, loginHandle, login] { // no other way sends the password again
+            if (const std::shared_ptr<OnvifSession> refused = this->session(loginHandle))
+                refused->client().setRefused(login);
+        };
         NetError error = NetError::None;
-        handle = m_streams.open(loginHandle, profile, order, error);
-        if (error == NetError::WrongPassword) {
-            session.client().setRefused(); // no other way sends it again
-            return NetError::SessionEnded;
-        }
+        handle = m_streams.open(loginHandle, profile, order, onRefusal, error);
+        if (error == NetError::WrongPassword)
+            return session.client().refusal().value_or(NetError::NetworkFailure);
         return error;
     });
     if (!isStarted)

@@ -10,10 +10,10 @@ enum class StreamEnd
     Stopped,           ///< by its owner
     BadUrl,            ///< no rtsp:// URL with a numeric address, or longer than a session can use
     BadAccount,        ///< the account or the password cannot be sent: too long, or with control characters
-    Refused,           ///< wrong account or password, or no right to see the stream
+    Refused,           ///< wrong account or password
     NotFound,          ///< the device has no such stream
     Busy,              ///< the device serves no more streams
-    Rejected,          ///< the device answered with another error
+    Rejected,          ///< the device answered with another error, such as a missing right
     ConnectionRefused, ///< nobody listens at the port
     Unreachable,       ///< there is no way to the address
     NoAnswer,          ///< the device did not answer in time

@@ -55,6 +55,12 @@ std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles)
 OnvifSession::OnvifSession(const ServiceAddress &service, std::unique_ptr<SoapClient> client)
     : m_service(service), m_client(std::move(client))
 {
+    m_client->setClockReader([this](Deadline deadline) -> std::optional<std::chrono::milliseconds> {
+        const ServiceResult<DeviceClock> clock = device(deadline).clockOpenly();
+        if (!clock.isOk() || !clock.value.utc)
+            return std::nullopt;
+        return clockOffset(*clock.value.utc);
+    });
 }
 
 std::shared_ptr<OnvifSession> OnvifSession::open(const ServiceAddress &service, const HttpLogin &login,

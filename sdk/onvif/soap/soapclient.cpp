@@ -17,6 +17,9 @@ constexpr long forbidden = 403;
 constexpr long notFound = 404;
 constexpr std::size_t longestReason = 300;
 
+/// A device gives its clock in whole seconds.
+constexpr std::chrono::milliseconds largestClockError{2000};
+
 struct SubcodeMeaning
 {
     std::string_view subcode;
@@ -63,6 +66,36 @@ NetError errorOfFault(const XmlElement &fault)
             return error;
     }
     return NetError::Refused;
+}
+
+/// Whether a fault has the subcode of a missing right, which most devices also send for a wrong password.
+bool isNotAuthorized(const XmlElement &fault)
+{
+    constexpr std::string_view subcode = "NotAuthorized";
+    XmlElement code = fault.child(ns::envelope, "Code");
+    while (code.exists()) {
+        if (code.child(ns::envelope, "Value").localText() == subcode)
+            return true;
+        code = code.child(ns::envelope, "Subcode");
+    }
+    return fault.child({}, "faultcode").localText() == subcode;
+}
+
+bool isRefusedLogin(NetError error)
+{
+    return error == NetError::WrongPassword || error == NetError::AccountLocked;
+}
+
+bool isSameLogin(const HttpLogin &left, const HttpLogin &right)
+{
+    return left.account == right.account && left.password == right.password;
+}
+
+SoapAnswer failedAnswer(NetError error)
+{
+    SoapAnswer answer;
+    answer.error = error;
+    return answer;
 }
 
 std::string reasonOfFault(const XmlElement &fault)
@@ -134,6 +167,7 @@ SoapAnswer readSoapAnswer(const HttpAnswer &answer)
             read.error = answer.status == forbidden ? NetError::Refused : errorOfFault(fault);
             if (answer.status == unauthorised)
                 read.error = NetError::WrongPassword;
+            read.mayLackRight = answer.status != unauthorised && isNotAuthorized(fault);
             read.reason = reasonOfFault(fault);
             return read;
         }
@@ -153,6 +187,8 @@ SoapClient::SoapClient(HttpLogin login, std::shared_ptr<HttpClient> http)
 void SoapClient::setPassword(const std::string &password)
 {
     const std::scoped_lock lock(m_mutex);
+    if (m_login.password != password)
+        m_refusal.reset();
     m_login.password = password;
 }
 
@@ -162,52 +198,142 @@ HttpLogin SoapClient::login() const
     return m_login;
 }
 
-NetError SoapClient::refusal() const
+std::optional<NetError> SoapClient::refusal() const
 {
-    return m_isConfirmed ? NetError::SessionEnded : NetError::WrongPassword;
+    const std::scoped_lock lock(m_mutex);
+    return m_refusal;
+}
+
+void SoapClient::setRefused(const HttpLogin &refused)
+{
+    const std::scoped_lock order(m_order);
+    if (isSameLogin(refused, login()))
+        noteRefusal(NetError::WrongPassword);
+}
+
+NetError SoapClient::noteRefusal(NetError error)
+{
+    if (error == NetError::WrongPassword && m_isConfirmed)
+        error = NetError::SessionEnded;
+    const std::scoped_lock lock(m_mutex);
+    m_refusal = error;
+    return error;
+}
+
+void SoapClient::confirm(const ServiceAddress &service, const SoapRequest &request)
+{
+    if (m_isConfirmed)
+        return;
+    // Only reading is repeated.
+    if (request.name().starts_with("Get") && !request.operation().first_child()) {
+        const std::scoped_lock lock(m_mutex);
+        m_proof = {.service = service, .operation = request.operation().name()};
+    }
+    m_isConfirmed = true;
 }
 
 SoapAnswer SoapClient::callOpenly(const ServiceAddress &service, const SoapRequest &request,
                                   Deadline deadline)
 {
     LoginMethod offered = LoginMethod::Unknown;
-    return send(service, request, LoginMethod::Unknown, deadline, offered);
+    return send(service, request, LoginMethod::Unknown, deadline, offered, {});
 }
 
 SoapAnswer SoapClient::call(const ServiceAddress &service, const SoapRequest &request, Deadline deadline)
 {
-    if (m_isRefused)
-        return {.error = refusal(), .reason = {}, .document = {}, .content = {}};
-    LoginMethod offered = LoginMethod::Unknown;
+    std::unique_lock order(m_order, std::defer_lock);
+    if (!m_isConfirmed) {
+        order.lock();
+        if (m_isConfirmed)
+            order.unlock();
+    }
+    if (const std::optional<NetError> refused = refusal())
+        return failedAnswer(*refused);
     if (m_method == LoginMethod::Unknown) {
-        SoapAnswer answer = send(service, request, LoginMethod::Unknown, deadline, offered);
+        LoginMethod offered = LoginMethod::Unknown;
+        SoapAnswer answer = send(service, request, LoginMethod::Unknown, deadline, offered, {});
         if (answer.error != NetError::WrongPassword)
             return answer;
         m_method = offered;
     }
-    SoapAnswer answer = send(service, request, m_method, deadline, offered);
-    if (answer.error == NetError::WrongPassword) {
-        m_isRefused = true;
-        answer.error = refusal();
-    } else if (answer.isOk()) {
-        m_isConfirmed = true;
+    SentLogin sent;
+    SoapAnswer answer = sendLogin(service, request, deadline, sent);
+    if (answer.isOk())
+        confirm(service, request);
+    if (!isRefusedLogin(answer.error))
+        return answer;
+    if (!order.owns_lock())
+        order.lock();
+    return judgeRefusal(std::move(answer), std::move(sent), service, request, deadline);
+}
+
+SoapAnswer SoapClient::judgeRefusal(SoapAnswer answer, SentLogin sent, const ServiceAddress &service,
+                                    const SoapRequest &request, Deadline deadline)
+{
+    if (const std::optional<NetError> refused = refusal())
+        return failedAnswer(*refused);
+    const bool isOutdated = !isSameLogin(sent.login, login());
+    if (isOutdated || (answer.error == NetError::WrongPassword && hasClockMoved(sent, deadline))) {
+        answer = sendLogin(service, request, deadline, sent);
+        if (!isRefusedLogin(answer.error))
+            return answer;
     }
+    NetError refused = answer.error;
+    if (answer.mayLackRight && m_isConfirmed)
+        refused = provePassword(deadline);
+    if (refused == NetError::None)
+        answer.error = NetError::Refused;
+    else
+        answer.error = isRefusedLogin(refused) ? noteRefusal(refused) : refused;
     return answer;
 }
 
-SoapAnswer SoapClient::send(const ServiceAddress &service, const SoapRequest &request, LoginMethod method,
-                            Deadline deadline, LoginMethod &offered)
+bool SoapClient::hasClockMoved(const SentLogin &sent, Deadline deadline)
 {
-    const HttpLogin login = this->login();
+    // Before the password was accepted, the login has just read the clock.
+    if (!m_isConfirmed || m_method != LoginMethod::Token || !m_readClock)
+        return false;
+    const std::optional<std::chrono::milliseconds> offset = m_readClock(deadline);
+    if (!offset)
+        return false;
+    setClockOffset(*offset);
+    return std::chrono::abs(*offset - std::chrono::milliseconds(sent.clockOffset)) > largestClockError;
+}
+
+/// None if the device still accepts the password, WrongPassword or AccountLocked if it does not.
+NetError SoapClient::provePassword(Deadline deadline)
+{
+    std::optional<Proof> proof;
+    {
+        const std::scoped_lock lock(m_mutex);
+        proof = m_proof;
+    }
+    if (!proof)
+        return NetError::WrongPassword;
+    SentLogin sent;
+    return sendLogin(proof->service, SoapRequest(proof->operation), deadline, sent).error;
+}
+
+SoapAnswer SoapClient::sendLogin(const ServiceAddress &service, const SoapRequest &request, Deadline deadline,
+                                 SentLogin &sent)
+{
+    sent = {.login = login(), .clockOffset = m_clockOffset.load()};
+    LoginMethod offered = LoginMethod::Unknown;
+    return send(service, request, m_method, deadline, offered, sent);
+}
+
+SoapAnswer SoapClient::send(const ServiceAddress &service, const SoapRequest &request, LoginMethod method,
+                            Deadline deadline, LoginMethod &offered, const SentLogin &sent)
+{
     std::string header;
     if (method == LoginMethod::Token) {
         const auto deviceTime =
-            std::chrono::system_clock::now() + std::chrono::milliseconds(m_clockOffset.load());
-        header = passwordToken(login.account, login.password, deviceTime);
+            std::chrono::system_clock::now() + std::chrono::milliseconds(sent.clockOffset);
+        header = passwordToken(sent.login.account, sent.login.password, deviceTime);
     }
     const HttpAnswer answer =
         m_http->post(service, request.text(header), "application/soap+xml; charset=utf-8",
-                     method == LoginMethod::Digest ? &login : nullptr, deadline);
+                     method == LoginMethod::Digest ? &sent.login : nullptr, deadline);
     offered = answer.offersDigest ? LoginMethod::Digest : LoginMethod::Token;
     SoapAnswer read = readSoapAnswer(answer);
     if (!read.isOk())

@@ -212,9 +212,8 @@ QByteArray RtspServer::regularAnswer(const QByteArray &method, const QByteArray 
     if (method == "OPTIONS")
         return head + "Public: OPTIONS, DESCRIBE, SETUP, PLAY, GET_PARAMETER, TEARDOWN\r\n\r\n";
     if (!isAuthorised(method, request)) {
-        return "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\n"
-               "WWW-Authenticate: Digest realm=\"camera\", nonce=\"47\"\r\n"
-               "WWW-Authenticate: Basic realm=\"camera\"\r\n\r\n";
+        return "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " +
+               m_script.challenges.join("\r\nWWW-Authenticate: ") + "\r\n\r\n";
     }
     if (method == "DESCRIBE") {
         return head + "Content-Type: application/sdp\r\nContent-Length: " +

@@ -22,6 +22,8 @@ struct RtspScript
 
     QByteArray account; ///< empty: no login
     QByteArray password;
+    /// Values of WWW-Authenticate, in their order. The login must answer the one of MD5.
+    QByteArrayList challenges = {"Digest realm=\"camera\", nonce=\"47\"", "Basic realm=\"camera\""};
 
     /// Methods that are answered in another way: by these bytes as they are, in which CSEQ stands for the
     /// number of the request, or by nothing at all.

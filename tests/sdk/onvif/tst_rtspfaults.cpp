@@ -77,6 +77,13 @@ Change challenging(const QByteArray &challenge)
                                      "\r\n\r\n");
 }
 
+Change offering(const QByteArrayList &challenges)
+{
+    return [=](RtspScript &script) {
+        script.challenges = challenges;
+    };
+}
+
 /// Only control packets and those of pictures that need an earlier one.
 void leaveOutKeyPictures(RtspScript &script)
 {
@@ -108,13 +115,15 @@ private Q_SLOTS:
     void stopEndsAtOnce_data();
     void stopEndsAtOnce();
     void sessionIsKeptAlive();
+    void refusedLoginEndsARunningStream_data();
+    void refusedLoginEndsARunningStream();
     void piecesBecomePictures();
 };
 
 void TestRtspFaults::faultEndsTheStream_data()
 {
     const auto row = dataTable<Change, QString>({"change", "end"});
-    row("refused", status("DESCRIBE", "403 Forbidden"), "refused");
+    row("no right", status("DESCRIBE", "403 Forbidden"), "rejected");
     row("no such stream", status("DESCRIBE", "404 Not Found"), "not found");
     row("too many streams", status("SETUP", "453 Not Enough Bandwidth"), "busy");
     row("broken device", status("PLAY", "500 Internal Server Error"), "rejected");
@@ -215,6 +224,11 @@ void TestRtspFaults::passwordIsTriedOnce_data()
     row("wanted as plain text", "admin", right, challenging("Basic realm=\"camera\""), 0, "unsupported");
     row("unknown kind of login", "admin", right,
         challenging("Digest realm=\"camera\", nonce=\"1\", algorithm=SHA-256"), 0, "unsupported");
+    const QByteArray known = R"(Digest realm="camera", nonce="47", algorithm=MD5)";
+    const QByteArray unknown = R"(Digest realm="camera", nonce="48", algorithm=SHA-256)";
+    row("MD5 last", "admin", right, offering({unknown, known}), -1, "");
+    row("SHA-256 last", "admin", right, offering({known, unknown}), -1, "");
+    row("SHA-256 last, wrong", "admin", "guess", offering({known, unknown}), 1, "refused");
     row("challenged without end", "admin", right,
         challenging("Digest realm=\"camera\", nonce=\"1\", stale=true"), 1, "refused");
     row("line within", "admin", "a\r\nX: 1", none, 0, "account cannot be sent");
@@ -342,6 +356,38 @@ void TestRtspFaults::sessionIsKeptAlive()
     const StreamWatcher watcher(order);
     QTRY_VERIFY(server.requestsOf("GET_PARAMETER") > 0);
     QCOMPARE(watcher.end(), QString());
+}
+
+void TestRtspFaults::refusedLoginEndsARunningStream_data()
+{
+    const auto row = dataTable<QByteArray, int>({"challenge", "tries"});
+    row("password changed", R"(Digest realm="camera", nonce="48")", 1);
+    row("number too old for ever", R"(Digest realm="camera", nonce="48", stale=TRUE)", 2);
+}
+
+/// The session is kept alive with the login: after a refusal it must not be sent again, not even as a farewell.
+void TestRtspFaults::refusedLoginEndsARunningStream()
+{
+    QFETCH(const QByteArray, challenge);
+    QFETCH(const int, tries);
+    RtspScript script = usualScript();
+    script.account = "admin";
+    script.password = "secret1";
+    script.sessionTimeout = 2;
+    leaveOutKeyPictures(script);
+    script.answers["GET_PARAMETER"] =
+        "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " + challenge + "\r\n\r\n";
+    const RtspServer server(script);
+    RtspOrder order = orderOf(server);
+    order.account = "admin";
+    order.password = "secret1";
+    order.timeouts = {};
+    StreamWatcher watcher(order);
+    QVERIFY(!watcher.stream().waitForAnswer());
+    QTRY_COMPARE_WITH_TIMEOUT(watcher.end(), QStringLiteral("refused"), 10000);
+    watcher.stream().stop();
+    QCOMPARE(server.requestsOf("GET_PARAMETER"), tries);
+    QCOMPARE(server.requestsOf("TEARDOWN"), 0);
 }
 
 /// Some devices repeat the parameters before each slice, some send fragments without end.

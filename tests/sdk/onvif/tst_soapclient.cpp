@@ -4,6 +4,10 @@
 #include "tests/cgi/tlsserver.h"
 #include "tests/datatable.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace sdk::onvif;
 using namespace std::chrono_literals;
@@ -79,6 +83,58 @@ struct AgreedKey
     }
 };
 
+QByteArray faultText(const QByteArray &subcode)
+{
+    return R"(<x:Envelope xmlns:x="http://www.w3.org/2003/05/soap-envelope"><x:Body><x:Fault><x:Code>)"
+           R"(<x:Value>x:Sender</x:Value><x:Subcode><x:Value>ter:)" +
+           subcode + R"(</x:Value></x:Subcode></x:Code></x:Fault></x:Body></x:Envelope>)";
+}
+
+/// A device that takes tokens, and refuses some of them.
+class TokenDevice
+{
+public:
+    using Refusal = std::function<QByteArray(const QByteArray &request)>;
+
+    /// `refusal` returns the subcode for a request with a token, empty to accept it.
+    explicit TokenDevice(Refusal refusal, QByteArray status = "400 Bad Request")
+        : m_refusal(std::move(refusal)), m_status(std::move(status))
+    {
+    }
+
+    [[nodiscard]] sdk::NetError call(const char *operation)
+    {
+        const auto deadline = std::chrono::steady_clock::now() + 5s;
+        return client.call(addressOf(m_server), SoapRequest(operation), deadline).error;
+    }
+
+    [[nodiscard]] qsizetype tokens() const
+    {
+        const QList<QByteArray> requests = m_server.requests();
+        return std::count_if(requests.begin(), requests.end(), isWithToken);
+    }
+
+    SoapClient client{{.account = "a", .password = "b"}, std::make_shared<HttpClient>()};
+
+private:
+    static bool isWithToken(const QByteArray &request) { return request.contains("UsernameToken"); }
+
+    void answer(const RawExchange &exchange) const
+    {
+        const QByteArray subcode =
+            isWithToken(exchange.request()) ? m_refusal(exchange.request()) : "NotAuthorized";
+        if (subcode.isEmpty())
+            exchange.answer("200 OK", {}, answerText);
+        else
+            exchange.answer(isWithToken(exchange.request()) ? m_status : "400 Bad Request", {},
+                            faultText(subcode));
+    }
+
+    const Refusal m_refusal;
+    const QByteArray m_status;
+    const RawServer m_server{[this](const RawExchange &exchange) { answer(exchange); }}; // last
+};
+
 const QByteArray wholeAnswer = "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(answerText.size()) +
                                "\r\nConnection: close\r\n\r\n" + answerText;
 
@@ -135,6 +191,104 @@ private Q_SLOTS:
         for (const QByteArray &request : server.requests())
             withPassword += request.contains("Authorization: Digest") ? 1 : 0;
         QCOMPARE(withPassword, 1);
+    }
+
+    void parallelCallsSendAWrongPasswordOnce()
+    {
+        TokenDevice device([](const QByteArray &) { return "NotAuthorized"; });
+        std::array<sdk::NetError, 4> errors{};
+        {
+            std::vector<std::jthread> callers;
+            for (sdk::NetError &error : errors)
+                callers.emplace_back([&device, &error] { error = device.call("tds:GetUsers"); });
+        }
+        for (const sdk::NetError error : errors)
+            QVERIFY(error == sdk::NetError::WrongPassword);
+        QCOMPARE(device.tokens(), 1);
+    }
+
+    void aRefusalInASessionIsJudged_data()
+    {
+        const auto row = dataTable<QByteArray, QByteArray, QByteArray, quint32, int, quint32>(
+            {"refused", "subcode", "status", "error", "tokens", "later"});
+        const auto code = [](sdk::NetError error) {
+            return static_cast<quint32>(error);
+        };
+        const quint32 ended = code(sdk::NetError::SessionEnded);
+        const quint32 locked = code(sdk::NetError::AccountLocked);
+        row("missing right", "SetNTP", "NotAuthorized", "400 Bad Request", code(sdk::NetError::Refused), 2, 0);
+        row("changed password", "Get|Set", "NotAuthorized", "400 Bad Request", ended, 2, ended);
+        row("changed password, by status", "Get|Set", "NotAuthorized", "401 Unauthorized", ended, 1, ended);
+        row("changed password, by subcode", "Get|Set", "FailedAuthentication", "400 Bad Request", ended, 1,
+            ended);
+        row("account locked", "Get|Set", "AccountLocked", "400 Bad Request", locked, 1, locked);
+    }
+
+    /// `tokens` are sent for the refused call; the `later` call sends none when it fails.
+    void aRefusalInASessionIsJudged()
+    {
+        QFETCH(const QByteArray, refused);
+        QFETCH(const QByteArray, subcode);
+        QFETCH(const QByteArray, status);
+        QFETCH(const quint32, error);
+        QFETCH(const int, tokens);
+        QFETCH(const quint32, later);
+        std::atomic_bool isChanged = false;
+        const QRegularExpression operations(u"<tds:(%1)"_s.arg(QLatin1String(refused)));
+        TokenDevice device(
+            [&](const QByteArray &request) {
+                return isChanged && QString::fromLatin1(request).contains(operations) ? subcode : QByteArray();
+            },
+            status);
+        QVERIFY(device.call("tds:GetDeviceInformation") == sdk::NetError::None);
+        isChanged = true;
+        const qsizetype before = device.tokens();
+        QCOMPARE(static_cast<quint32>(device.call("tds:SetNTP")), error);
+        QCOMPARE(device.tokens() - before, tokens);
+        QCOMPARE(static_cast<quint32>(device.call("tds:GetDeviceInformation")), later);
+        QCOMPARE(device.tokens() - before, tokens + (later == 0 ? 1 : 0));
+    }
+
+    /// The device's clock is set by another session.
+    void aTokenFollowsTheClock()
+    {
+        std::atomic<int> year = 2020;
+        TokenDevice device([&year](const QByteArray &request) {
+            return request.contains("Created") && request.contains('>' + QByteArray::number(year) + '-')
+                       ? QByteArray()
+                       : QByteArray("NotAuthorized");
+        });
+        const auto offset = [&year] {
+            const QDateTime time(QDate(year, 6, 1), QTime(12, 0), Qt::UTC);
+            return std::chrono::milliseconds(QDateTime::currentDateTimeUtc().msecsTo(time));
+        };
+        device.client.setClockOffset(offset());
+        device.client.setClockReader([&](SoapClient::Deadline) { return std::optional(offset()); });
+        QVERIFY(device.call("tds:GetDeviceInformation") == sdk::NetError::None);
+        year = 2031;
+        QVERIFY(device.call("tds:GetUsers") == sdk::NetError::None);
+        QCOMPARE(device.tokens(), 3);
+    }
+
+    /// A call with the old password is on its way while the password is changed.
+    void aRefusalOfAnOldPasswordIsNoRefusalOfTheNewOne()
+    {
+        SoapClient *client = nullptr;
+        std::atomic_bool isChanged = false;
+        TokenDevice device([&](const QByteArray &request) {
+            if (!request.contains("GetUsers") || isChanged.exchange(true))
+                return QByteArray();
+            client->setPassword("new");
+            return QByteArray("FailedAuthentication");
+        });
+        client = &device.client;
+        QVERIFY(device.call("tds:GetDeviceInformation") == sdk::NetError::None);
+        QVERIFY(device.call("tds:GetUsers") == sdk::NetError::None);
+        QVERIFY(!client->refusal());
+        client->setRefused({.account = "a", .password = "b"});
+        QVERIFY(!client->refusal());
+        client->setRefused({.account = "a", .password = "new"});
+        QVERIFY(client->refusal() == sdk::NetError::SessionEnded);
     }
 
     void nothingIsSentToAnotherKey_data()

@@ -16,6 +16,9 @@ namespace {
 // As FFmpeg writes them.
 constexpr std::string_view replyFormat = "line='%s'\n";
 constexpr std::string_view descriptionFormat = "sdp: %c='%s'\n";
+constexpr std::string_view requestFormat = "Sending:\n%s--\n";
+
+constexpr int unauthorised = 401;
 
 constexpr int firstRedirection = 300;
 constexpr int lastRedirection = 399;
@@ -48,6 +51,9 @@ void ReplyWatch::read(const char *format, va_list arguments)
         readReplyLine(va_arg(arguments, const char *));
     } else if (format == descriptionFormat && va_arg(arguments, int) == 'm' && ++m_tracks > mostTracks) {
         object(StreamEnd::Oversized, "the device lists more than " + std::to_string(mostTracks) + " tracks");
+    } else if (format == requestFormat) {
+        m_hasSentLogin =
+            m_hasSentLogin || av_stristr(va_arg(arguments, const char *), "\r\nAuthorization:") != nullptr;
     }
 }
 
@@ -65,7 +71,9 @@ void ReplyWatch::readReplyLine(const char *line)
         if (length < 0 || length > mostContentBytes)
             object(StreamEnd::Oversized, "an answer announces " + std::to_string(length) + " bytes");
     } else if (av_stristart(line, "WWW-Authenticate:", &value)) {
-        readChallenge(value);
+        // The line is in a buffer of FFmpeg's, which reads it after this.
+        if (!isUsable(value))
+            *const_cast<char *>(line) = 'X';
     } else if (av_stristart(line, "Transport:", &value)) {
         readTransport(value);
     }
@@ -81,23 +89,28 @@ void ReplyWatch::readStatus(const char *line)
     m_headerLines = 0;
     m_offersPlainPassword = false;
     m_offersDigest = false;
+    m_isDigestKnown = false;
+    m_isStale = false;
     if (m_status >= firstRedirection && m_status <= lastRedirection)
         object(StreamEnd::Redirected, "the device sends elsewhere (" + std::to_string(m_status) + ")");
 }
 
-void ReplyWatch::readChallenge(std::string_view challenge)
+/// False for a challenge of a kind that FFmpeg does not know and would take in the place of another one.
+bool ReplyWatch::isUsable(std::string_view challenge)
 {
     const std::size_t begin = challenge.find_first_not_of(' ');
     const std::string text(begin == std::string_view::npos ? std::string_view() : challenge.substr(begin));
-    if (av_stristart(text.c_str(), "Basic", nullptr)) {
+    if (av_stristart(text.c_str(), "Basic", nullptr))
         m_offersPlainPassword = true;
-    } else if (av_stristart(text.c_str(), "Digest ", nullptr)) {
-        // Of several ones FFmpeg takes the last.
-        const std::string algorithm(parameter(text, "algorithm="));
-        m_offersDigest = true;
-        m_isDigestKnown = algorithm.empty() || av_strcasecmp(algorithm.c_str(), "MD5") == 0 ||
-                          av_strcasecmp(algorithm.c_str(), "MD5-sess") == 0;
-    }
+    if (!av_stristart(text.c_str(), "Digest ", nullptr))
+        return true;
+    const std::string algorithm(parameter(text, "algorithm="));
+    const bool isKnown = algorithm.empty() || av_strcasecmp(algorithm.c_str(), "MD5") == 0 ||
+                         av_strcasecmp(algorithm.c_str(), "MD5-sess") == 0;
+    m_offersDigest = true;
+    m_isDigestKnown = m_isDigestKnown || isKnown;
+    m_isStale = m_isStale || av_strcasecmp(std::string(parameter(text, "stale=")).c_str(), "true") == 0;
+    return isKnown;
 }
 
 void ReplyWatch::readTransport(std::string_view transport)
@@ -114,6 +127,14 @@ void ReplyWatch::endHeader()
         object(StreamEnd::Unsupported, "the device wants the password as plain text");
     else if (m_offersDigest && !m_isDigestKnown)
         object(StreamEnd::Unsupported, "the device wants a login of an unknown kind");
+    // FFmpeg keeps the session alive with its login, and goes on after a refusal.
+    if (m_isPlaying && m_hasSentLogin && m_status == unauthorised) {
+        if (!m_isStale || m_wasStaleBefore)
+            object(StreamEnd::Refused, "the device no longer accepts the login");
+        m_wasStaleBefore = true;
+    } else {
+        m_wasStaleBefore = false;
+    }
 }
 
 void ReplyWatch::object(StreamEnd end, std::string text)

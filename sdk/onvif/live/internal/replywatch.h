@@ -11,9 +11,10 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg takes answers of any length, as many tracks as are listed, and goes wherever it is sent. It tells
-/// its log each line before it acts on it, and nothing else of an answer, so the lines are read there and the
-/// session is interrupted before harm is done. Belongs to the thread on which it was made: it takes all lines
+/// FFmpeg takes answers of any length, as many tracks as are listed, and goes wherever it is sent. Of several
+/// challenges of HTTP Digest it takes the last one, and it knows MD5 only. It writes each line to its log
+/// before it acts on it, and nothing else of an answer, so the lines are read there: the session is
+/// interrupted before harm is done, and challenges that FFmpeg does not know are hidden from it. Belongs to the thread on which it was made: it takes all lines
 /// of that thread.
 class ReplyWatch
 {
@@ -31,6 +32,9 @@ public:
     /// What the objection is, in words.
     [[nodiscard]] const std::string &text() const { return m_text; }
 
+    /// From now on an answer is no longer expected to ask for the login.
+    void notePlaying() { m_isPlaying = true; }
+
     /// The status of the last answer, 0 before the first one.
     [[nodiscard]] int status() const { return m_status; }
 
@@ -38,7 +42,7 @@ private:
     void read(const char *format, va_list arguments);
     void readReplyLine(const char *line);
     void readStatus(const char *line);
-    void readChallenge(std::string_view challenge);
+    [[nodiscard]] bool isUsable(std::string_view challenge);
     void readTransport(std::string_view transport);
     void endHeader();
     void object(StreamEnd end, std::string text);
@@ -52,6 +56,10 @@ private:
     bool m_offersPlainPassword = false;
     bool m_offersDigest = false;
     bool m_isDigestKnown = false;
+    bool m_isStale = false;       ///< the answer refuses a number that was used for too long, not the password
+    bool m_wasStaleBefore = false; ///< the refusal before it was one of these
+    bool m_hasSentLogin = false;
+    bool m_isPlaying = false;
     const streams::ThreadLog m_log; // last: it calls the others
 };
 

@@ -41,7 +41,8 @@ RtspSession::RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std:
 
 RtspSession::~RtspSession()
 {
-    m_closedBy = Clock::now() + farewell;
+    // A farewell has the login, too.
+    m_closedBy = m_end == StreamEnd::Refused ? Time::min() : Clock::now() + farewell;
     avformat_close_input(&m_format);
 }
 
@@ -69,6 +70,7 @@ bool RtspSession::open()
     if (error < 0)
         endWithError(error);
     m_answerBy.reset();
+    m_watch.notePlaying();
     const Time now = Clock::now();
     m_keyPictureBy = now + m_timeouts.keyPicture;
     m_dataBy = now + m_timeouts.silence;
@@ -151,11 +153,11 @@ StreamEnd RtspSession::endOfError(int error) const
 {
     switch (error) {
     case AVERROR_HTTP_UNAUTHORIZED:
-    case AVERROR_HTTP_FORBIDDEN:
         return StreamEnd::Refused;
     case AVERROR_HTTP_NOT_FOUND:
         return StreamEnd::NotFound;
     case AVERROR_HTTP_BAD_REQUEST:
+    case AVERROR_HTTP_FORBIDDEN: // the account may not see the stream; the password may be right
     case AVERROR_HTTP_OTHER_4XX:
     case AVERROR_HTTP_SERVER_ERROR:
         return m_watch.status() == statusTooManyStreams || m_watch.status() == statusUnavailable
