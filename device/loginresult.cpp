@@ -59,6 +59,10 @@ QString ResultNames::of(int code)
         return tr("设备证书已改变");
     case resultCode(LoginResult::Cancelled):
         return tr("已取消");
+    case resultCode(LoginResult::AddressInUse):
+        return tr("该地址上应答的是其他设备");
+    case resultCode(LoginResult::Unconfirmed):
+        return tr("设备已接受，但结果未确认");
     case capabilitiesUnknown:
         return tr("获取设备能力失败");
     case upgradeFileUnusable:
@@ -114,6 +118,10 @@ LoginResult loginResultOf(std::uint32_t libraryError)
         return LoginResult::ChangedCertificate;
     case sdk::NetError::Cancelled:
         return LoginResult::Cancelled;
+    case sdk::NetError::AddressInUse:
+        return LoginResult::AddressInUse;
+    case sdk::NetError::Unconfirmed:
+        return LoginResult::Unconfirmed;
     default:
         return LoginResult::NetworkFailure;
     }

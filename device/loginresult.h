@@ -26,6 +26,8 @@ enum class LoginResult : int
     UnknownCertificate = 18, ///< nothing was sent: the user has not agreed to the device's certificate
     ChangedCertificate = 19, ///< nothing was sent: the device shows another certificate than the stored one
     Cancelled = 20,          ///< the request was cancelled
+    AddressInUse = 21,       ///< another device answers at the address
+    Unconfirmed = 22,        ///< the device has taken the request, and nothing proves that it acts by it
     Refused = 999,           ///< the device has understood the request and does not fulfil it
 };
 

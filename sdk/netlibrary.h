@@ -143,11 +143,15 @@ public:
                             std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
 
     /// Gives a factory-new device its first account. `localAddress` is the address to send from, empty for
-    /// the library's choice. Blocks up to `wait`.
+    /// the library's choice. Blocks up to `wait`. Unconfirmed if the device has taken the account and its
+    /// protection by it cannot be proved; AddressInUse if another device answers.
     virtual bool NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
                                       std::chrono::milliseconds wait, const char *localAddress) = 0;
 
-    /// Changes the addresses of a device that a search has found. Blocks up to `wait`.
+    /// Changes the addresses of a device that a search has found, and waits for it at the new one. Blocks up
+    /// to `wait`, and longer for a device that has taken the address or has to restart for it. AddressInUse
+    /// if another device answers at the present address or at the new one; Unconfirmed if nobody answers at
+    /// the new one.
     virtual bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
                                          std::chrono::milliseconds wait) = 0;
 

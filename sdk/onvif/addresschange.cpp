@@ -1,11 +1,16 @@
 #include "sdk/onvif/addresschange.h"
 
 #include "sdk/onvif/discovery/founddevice.h"
+#include "sdk/onvif/discovery/neighbourtable.h"
 #include "sdk/onvif/mapping/systemmapping.h"
+#include "sdk/onvif/session/clocktime.h"
 #include "sdk/onvif/session/onvifsession.h"
 
 #include <algorithm>
+#include <optional>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace sdk::onvif {
 
@@ -19,38 +24,143 @@ bool isAnswerLost(NetError error)
     return error == NetError::NetworkFailure || error == NetError::ConnectTimeout;
 }
 
-/// Whether the device of `session` answers at `address` with its login, within the deadline.
-bool answersAt(OnvifSession &session, const std::string &address, SoapClient::Deadline deadline)
+/// The MAC of who has answered at `address`; empty if that is no neighbour.
+std::string neighbourMac(const std::string &address)
 {
-    constexpr auto pause = 200ms;
-    ServiceAddress service = session.service();
-    service.host = address;
-    while (std::chrono::steady_clock::now() < deadline && !session.client().http().isCancelled()) {
-        const auto attemptEnd = std::min(deadline, std::chrono::steady_clock::now() + 1s);
-        DeviceService device(session.client(), service, attemptEnd);
-        const auto information = device.information();
-        if (information.isOk())
-            return information.value.serialNumber == session.information().serialNumber;
-        // Another device, which does not know the account, or has not the key of this one.
-        if (information.error == NetError::SessionEnded ||
-            information.error == NetError::UnknownCertificate ||
-            information.error == NetError::ChangedCertificate)
-            return false;
-        std::this_thread::sleep_for(pause);
-    }
-    return false;
+    const auto neighbours = neighbourTable();
+    const auto entry = neighbours.find(address);
+    return entry == neighbours.end() ? std::string() : entry->second;
 }
 
-/// Whether the device reports the MACs of its interfaces, and `mac` is none of them.
-bool isOtherDevice(const std::vector<DeviceInterface> &interfaces, const std::string &mac)
+enum class Presence
 {
-    const auto hasMac = [](const DeviceInterface &interface) {
-        return !interface.mac.empty();
-    };
-    return !mac.empty() && !interfaces.empty() && std::all_of(interfaces.begin(), interfaces.end(), hasMac) &&
-           std::none_of(interfaces.begin(), interfaces.end(),
-                        [&mac](const DeviceInterface &interface) { return interface.mac == mac; });
+    Silent,
+    Same,
+    Other, ///< another device, which does not know the account, or does not have the key or the MAC of this one
+};
+
+/// A device at its new address.
+class MovedDevice
+{
+public:
+    using Deadline = SoapClient::Deadline;
+
+    /// `macs` are those that the device of `session` has.
+    MovedDevice(OnvifSession &session, const std::shared_ptr<HttpClient> &http, const std::string &address,
+                std::vector<std::string> macs)
+        : m_session(session), m_http(http), m_service(movedTo(session.service(), address)),
+          m_macs(std::move(macs)),
+          // A client of its own: what another device refuses says nothing about the session.
+          m_client(session.client().login(), http)
+    {
+    }
+
+    /// Waits until somebody answers. The login is sent once to each that does.
+    [[nodiscard]] Presence wait(Deadline deadline)
+    {
+        constexpr auto pause = 200ms;
+        Presence presence = Presence::Silent;
+        while (presence == Presence::Silent && std::chrono::steady_clock::now() < deadline &&
+               !m_http->isCancelled()) {
+            presence = look(std::min(deadline, std::chrono::steady_clock::now() + 2s));
+            if (presence == Presence::Silent)
+                std::this_thread::sleep_for(pause);
+        }
+        return presence;
+    }
+
+    [[nodiscard]] DeviceService service(Deadline deadline) { return {m_client, m_service, deadline}; }
+
+private:
+    static ServiceAddress movedTo(ServiceAddress service, const std::string &address)
+    {
+        service.host = address;
+        return service;
+    }
+
+    [[nodiscard]] Presence look(Deadline deadline)
+    {
+        DeviceService device = service(deadline);
+        const auto clock = device.clockOpenly();
+        if (clock.error == NetError::UnknownCertificate || clock.error == NetError::ChangedCertificate)
+            return Presence::Other;
+        if (!clock.isOk())
+            return Presence::Silent; // or still starting
+        const std::string mac = neighbourMac(m_service.host);
+        if (!mac.empty() && !m_macs.empty() && !isOwnMac(mac))
+            return Presence::Other;
+        if (clock.value.utc)
+            m_client.setClockOffset(clockOffset(*clock.value.utc));
+        const auto information = device.information();
+        if (!information.isOk())
+            return isAnswerLost(information.error) ? Presence::Silent : Presence::Other;
+        const std::string &serial = m_session.information().serialNumber;
+        if (information.value.serialNumber != serial)
+            return Presence::Other;
+        return !serial.empty() || hasOwnInterface(device) ? Presence::Same : Presence::Other;
+    }
+
+    [[nodiscard]] bool isOwnMac(const std::string &mac) const
+    {
+        return std::find(m_macs.begin(), m_macs.end(), mac) != m_macs.end();
+    }
+
+    [[nodiscard]] bool hasOwnInterface(DeviceService &device) const
+    {
+        const auto interfaces = device.interfaces();
+        return std::any_of(interfaces.value.begin(), interfaces.value.end(),
+                           [this](const DeviceInterface &interface) { return isOwnMac(interface.mac); });
+    }
+
+    OnvifSession &m_session;
+    const std::shared_ptr<HttpClient> m_http;
+    const ServiceAddress m_service;
+    const std::vector<std::string> m_macs;
+    SoapClient m_client;
+};
+
+/// The MACs that answers of the device may come from; empty if none is known.
+std::vector<std::string> macsOf(const std::vector<DeviceInterface> &interfaces, const std::string &address)
+{
+    std::vector<std::string> macs;
+    for (const DeviceInterface &interface : interfaces)
+        macs.push_back(interface.mac);
+    macs.push_back(neighbourMac(address));
+    std::erase(macs, std::string());
+    return macs;
 }
+
+/// The gateway of a device while its address is being changed.
+class GatewayChange
+{
+public:
+    /// An empty `gateway` is no change.
+    explicit GatewayChange(std::string gateway) : m_gateway(std::move(gateway)) {}
+
+    /// Some devices refuse a gateway that lies outside the network of the address that they still have; those
+    /// get it by a second call.
+    [[nodiscard]] NetError write(DeviceService device)
+    {
+        if (m_gateway.empty() || m_isWritten)
+            return NetError::None;
+        if (!m_before)
+            m_before = device.defaultGateway();
+        const NetError error = device.setDefaultGateway(m_gateway).error;
+        m_isWritten = error == NetError::None;
+        return error;
+    }
+
+    void restore(DeviceService device) const
+    {
+        if (m_isWritten && m_before->isOk() && m_before->value != m_gateway)
+            (void)device.setDefaultGateway(m_before->value);
+    }
+
+private:
+    const std::string m_gateway;
+    std::optional<ServiceResult<std::string>> m_before;
+    bool m_isWritten = false;
+};
 
 const DeviceInterface *interfaceOf(const std::vector<DeviceInterface> &interfaces, const std::string &mac,
                                    const std::string &address)
@@ -78,38 +188,45 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
         return error;
     DeviceService device = session->device(deadline);
     const auto interfaces = device.interfaces();
-    // Several factory-new devices may have one address: the one that answers need not be the one that is
-    // meant.
     if (interfaces.isOk() && isOtherDevice(interfaces.value, order.mac))
-        return NetError::Refused;
+        return NetError::AddressInUse;
     const DeviceInterface *interface = interfaceOf(interfaces.value, order.mac, service.host);
     if (!interfaces.isOk() || !interface)
         return interfaces.isOk() ? NetError::NotSupported : interfaces.error;
 
-    // The gateway first: after the address the device may be gone from here. Some refuse a gateway that lies
-    // outside the network of the address that they still have; those get it afterwards.
-    bool hasGateway = order.dhcp || order.gateway.empty() || device.setDefaultGateway(order.gateway).isOk();
+    std::vector<std::string> macs = macsOf(interfaces.value, service.host);
+    // The gateway first: after the address the device may be gone from here.
+    GatewayChange gateway(order.dhcp ? std::string() : order.gateway);
+    (void)gateway.write(device);
     DeviceInterface changed = *interface;
     changed.dhcp = order.dhcp;
     changed.address = order.address;
     changed.prefixLength = prefixLength.value_or(interface->prefixLength);
     const ServiceResult<bool> result = device.setAddress(changed);
-    if (!result.isOk() && !isAnswerLost(result.error))
+    if (!result.isOk() && !isAnswerLost(result.error)) {
+        gateway.restore(device);
         return result.error;
-    if (result.isOk() && result.value)
-        return device.reboot().error;
+    }
+    const bool needsReboot = result.isOk() && result.value;
+    if (needsReboot) {
+        const NetError reboot = device.reboot().error;
+        if (reboot != NetError::None && !isAnswerLost(reboot))
+            return reboot;
+    }
     if (order.dhcp)
         return result.error; // where it is now, only a search can say
-    const bool isThere = answersAt(*session, order.address, deadline);
-    if (isThere && !hasGateway) {
-        ServiceAddress moved = service;
-        moved.host = order.address;
-        hasGateway =
-            DeviceService(session->client(), moved, deadline).setDefaultGateway(order.gateway).isOk();
+
+    MovedDevice moved(*session, http, order.address, std::move(macs));
+    const auto latest = std::chrono::steady_clock::now() + (needsReboot ? order.rebootTime : order.settlingTime);
+    switch (moved.wait(std::max(deadline, latest))) {
+    case Presence::Silent:
+        return NetError::Unconfirmed;
+    case Presence::Other:
+        return NetError::AddressInUse;
+    case Presence::Same:
+        break;
     }
-    if (!isThere)
-        return result.isOk() ? NetError::None : NetError::ConnectTimeout;
-    return hasGateway ? NetError::None : NetError::InvalidValue;
+    return gateway.write(moved.service(std::chrono::steady_clock::now() + order.settlingTime));
 }
 
 } // namespace sdk::onvif

@@ -3,6 +3,7 @@
 
 #include "sdk/onvif/soap/soapclient.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -16,12 +17,18 @@ struct AddressOrder
     std::string gateway = {}; ///< empty for none
     bool dhcp = false;
     std::string mac = {}; ///< of the device, empty if it is not known
+    /// How long a device may take until it answers at its new address, without and with a reboot.
+    std::chrono::milliseconds settlingTime{10000};
+    std::chrono::milliseconds rebootTime{90000};
 };
 
-/// Logs in to the device and changes the address, and reboots the device if it asks for that. Succeeds if the
-/// device has taken the address: by its answer, or, if the answer was lost because the device had moved, by
-/// answering at the new address. ConnectTimeout if it has taken the request and answers nowhere before
-/// `deadline`.
+/// Logs in to the device and changes the address, and reboots the device if it asks for that. Succeeds when the
+/// same device answers at the new address; with DHCP, when the device has taken the request. The device may take
+/// longer than `deadline` for it, as the order says. A gateway that was changed is restored when the device
+/// refuses the address.
+///
+/// AddressInUse if another device answers at the present address or at the new one, Unconfirmed if nobody
+/// answers at the new one.
 [[nodiscard]] NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
                                      const HttpLogin &login, const AddressOrder &order,
                                      SoapClient::Deadline deadline);

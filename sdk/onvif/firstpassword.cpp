@@ -1,5 +1,6 @@
 #include "sdk/onvif/firstpassword.h"
 
+#include "sdk/onvif/mapping/systemmapping.h"
 #include "sdk/onvif/services/deviceservice.h"
 
 #include <algorithm>
@@ -7,7 +8,7 @@
 namespace sdk::onvif {
 
 NetError giveFirstPassword(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
-                           const HttpLogin &account, SoapClient::Deadline deadline)
+                           const HttpLogin &account, const std::string &mac, SoapClient::Deadline deadline)
 {
     SoapClient client(HttpLogin{}, http);
     DeviceService device(client, service, deadline);
@@ -16,6 +17,8 @@ NetError giveFirstPassword(const ServiceAddress &service, const std::shared_ptr<
         return NetError::NotSupported; // it has an administrator
     if (!users.isOk())
         return users.error;
+    if (isOtherDevice(device.interfacesOpenly().value, mac))
+        return NetError::AddressInUse;
     // Some devices are delivered with the account and without its password.
     const auto same =
         std::find_if(users.value.begin(), users.value.end(),
@@ -26,8 +29,14 @@ NetError giveFirstPassword(const ServiceAddress &service, const std::shared_ptr<
             : device.setPassword({.name = same->name, .level = "Administrator"}, account.password);
     if (!outcome.isOk())
         return outcome.error == NetError::WrongPassword ? NetError::NotSupported : outcome.error;
-    const auto after = device.usersOpenly();
-    return after.isOk() ? NetError::Refused : NetError::None;
+    switch (device.usersOpenly().error) {
+    case NetError::None:
+        return NetError::Refused;
+    case NetError::WrongPassword:
+        return NetError::None;
+    default:
+        return NetError::Unconfirmed;
+    }
 }
 
 } // namespace sdk::onvif

@@ -4,14 +4,16 @@
 #include "sdk/onvif/soap/soapclient.h"
 
 #include <memory>
+#include <string>
 
 namespace sdk::onvif {
 
 /// Creates an administrator on a device that has none, and checks that the device then refuses requests
-/// without a login. NotSupported if the device already has an administrator; Refused if it goes on answering
-/// anybody.
+/// without a login. NotSupported if the device already has an administrator; AddressInUse if the device is not
+/// the one with `mac`, where both are known; Refused if it goes on answering anybody; Unconfirmed if it has
+/// taken the account and does not answer the check.
 [[nodiscard]] NetError giveFirstPassword(const ServiceAddress &service,
                                          const std::shared_ptr<HttpClient> &http, const HttpLogin &account,
-                                         SoapClient::Deadline deadline);
+                                         const std::string &mac, SoapClient::Deadline deadline);
 
 } // namespace sdk::onvif

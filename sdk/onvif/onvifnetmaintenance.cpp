@@ -89,7 +89,7 @@ bool OnvifNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, 
         giveFirstPassword(m_discovery->serviceAt(std::string(blockText(input.address)), input.port), http,
                           {.account = std::string(blockText(input.account)),
                            .password = std::string(blockText(input.password))},
-                          std::chrono::steady_clock::now() + wait);
+                          std::string(blockText(input.mac)), std::chrono::steady_clock::now() + wait);
     return error == NetError::None || m_error.fail(error);
 }
 
@@ -113,11 +113,9 @@ bool OnvifNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, De
         m_discovery->serviceAt(std::string(blockText(device.currentAddress)), device.port);
     const NetError error =
         changeAddress(service, http, login, order, std::chrono::steady_clock::now() + wait);
-    if (error != NetError::None)
-        return m_error.fail(error);
-    if (!order.dhcp)
+    if (!order.dhcp && (error == NetError::None || error == NetError::Unconfirmed))
         m_discovery->moved(service, order.address);
-    return true;
+    return error == NetError::None || m_error.fail(error);
 }
 
 } // namespace sdk::onvif

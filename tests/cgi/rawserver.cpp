@@ -53,12 +53,12 @@ bool RawExchange::pause(int milliseconds) const
     return !m_ends;
 }
 
-RawServer::RawServer(Handler handler) : m_handler(std::move(handler))
+RawServer::RawServer(Handler handler, Reach reach) : m_handler(std::move(handler))
 {
     m_listener = socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in place = {};
     place.sin_family = AF_INET;
-    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    place.sin_addr.s_addr = htonl(reach == Reach::OneAddress ? INADDR_LOOPBACK : INADDR_ANY);
     socklen_t length = sizeof(place);
     constexpr int waiting = 16;
     auto *name = reinterpret_cast<sockaddr *>(&place);

@@ -45,7 +45,13 @@ class RawServer
 public:
     using Handler = std::function<void(const RawExchange &)>;
 
-    explicit RawServer(Handler handler);
+    enum class Reach
+    {
+        OneAddress,   ///< 127.0.0.1
+        EveryAddress, ///< of the computer, such as 127.0.0.2
+    };
+
+    explicit RawServer(Handler handler, Reach reach = Reach::OneAddress);
     ~RawServer();
     RawServer(const RawServer &) = delete;
     RawServer &operator=(const RawServer &) = delete;

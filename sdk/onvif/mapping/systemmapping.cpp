@@ -71,6 +71,12 @@ std::string serviceText(const OnvifSession &session)
     return packed("DVRIP", record);
 }
 
+int shownTimeZone(const DeviceClock &clock)
+{
+    const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.timeZone);
+    return std::max(timeZoneNumber(zone ? zone->offset : 0), 0);
+}
+
 std::string ntpText(OnvifSession &session, Deadline deadline, NetError &error)
 {
     DeviceService device = session.device(deadline);
@@ -83,8 +89,7 @@ std::string ntpText(OnvifSession &session, Deadline deadline, NetError &error)
     setBlockText(record.address, device.ntp().value.server);
     record.port = ntpPort;
     record.updatePeriod = dayInMinutes;
-    const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.value.timeZone);
-    record.timeZone = std::max(timeZoneNumber(zone ? zone->offset : 0), 0);
+    record.timeZone = shownTimeZone(clock.value);
     return packed("NTP", record);
 }
 
@@ -104,6 +109,16 @@ std::string localesText(OnvifSession &session, Deadline deadline, NetError &erro
     return packed("Locales", record);
 }
 
+/// The text of a zone with another offset; its rule of daylight saving stays.
+std::string movedZone(const std::string &text, int offset)
+{
+    PosixTimeZone zone = readPosixTimeZone(text).value_or(PosixTimeZone{.name = "UTC"});
+    zone.daylightOffset += offset - zone.offset;
+    zone.offset = offset;
+    zone.name = offset == 0 ? "UTC" : "TZONE"; // the name of the old offset would be a wrong one
+    return zone.text();
+}
+
 NetError setNtp(OnvifSession &session, const NtpRecord &record, Deadline deadline)
 {
     DeviceService device = session.device(deadline);
@@ -117,14 +132,8 @@ NetError setNtp(OnvifSession &session, const NtpRecord &record, Deadline deadlin
     }
     DeviceClock changed = clock.value;
     changed.followsNtp = record.enabled != 0;
-    PosixTimeZone zone = readPosixTimeZone(clock.value.timeZone).value_or(PosixTimeZone{.name = "UTC"});
-    const int offset = timeZoneOffset(record.timeZone);
-    if (zone.offset != offset) {
-        zone.daylightOffset += offset - zone.offset;
-        zone.offset = offset;
-        zone.name = offset == 0 ? "UTC" : "TZONE"; // the name of the old offset would be a wrong one
-    }
-    changed.timeZone = zone.text();
+    if (record.timeZone != shownTimeZone(clock.value)) // else the text may hold more than is read of it
+        changed.timeZone = movedZone(clock.value.timeZone, timeZoneOffset(record.timeZone));
     return device.setClock(changed).error;
 }
 
@@ -153,6 +162,16 @@ NetError setLocales(OnvifSession &session, const LocalesRecord &record, Deadline
 }
 
 } // namespace
+
+bool isOtherDevice(const std::vector<DeviceInterface> &interfaces, const std::string &mac)
+{
+    const auto hasMac = [](const DeviceInterface &interface) {
+        return !interface.mac.empty();
+    };
+    return !mac.empty() && !interfaces.empty() && std::all_of(interfaces.begin(), interfaces.end(), hasMac) &&
+           std::none_of(interfaces.begin(), interfaces.end(),
+                        [&mac](const DeviceInterface &interface) { return interface.mac == mac; });
+}
 
 const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interfaces,
                                       std::string_view address)

@@ -27,6 +27,10 @@ namespace sdk::onvif {
 [[nodiscard]] const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interfaces,
                                                     std::string_view address);
 
+/// Whether the device reports the MACs of its interfaces, and `mac` is none of them: several devices may have
+/// one address, and the one that answers need not be the one that is meant.
+[[nodiscard]] bool isOtherDevice(const std::vector<DeviceInterface> &interfaces, const std::string &mac);
+
 /// The port of an enabled protocol, 0 if the device has none.
 [[nodiscard]] int portOf(const std::vector<DeviceProtocol> &protocols, std::string_view name);
 

@@ -93,6 +93,14 @@ DeviceInterface readInterface(const XmlElement &element)
     return read;
 }
 
+std::vector<DeviceInterface> readInterfaces(const XmlElement &response)
+{
+    std::vector<DeviceInterface> interfaces;
+    for (const XmlElement &element : bounded(response.children(ns::device, "NetworkInterfaces")))
+        interfaces.push_back(readInterface(element));
+    return interfaces;
+}
+
 std::map<std::string, std::string> readServices(const XmlElement &response)
 {
     std::map<std::string, std::string> services;
@@ -278,13 +286,13 @@ ServiceResult<std::map<std::string, std::string>> DeviceService::services()
 ServiceResult<std::vector<DeviceInterface>> DeviceService::interfaces()
 {
     return resultOf(call(SoapRequest("tds:GetNetworkInterfaces")), ns::device, "GetNetworkInterfacesResponse",
-                    [](const XmlElement &response) {
-                        std::vector<DeviceInterface> interfaces;
-                        for (const XmlElement &element :
-                             bounded(response.children(ns::device, "NetworkInterfaces")))
-                            interfaces.push_back(readInterface(element));
-                        return interfaces;
-                    });
+                    readInterfaces);
+}
+
+ServiceResult<std::vector<DeviceInterface>> DeviceService::interfacesOpenly()
+{
+    return resultOf(m_client.callOpenly(m_address, SoapRequest("tds:GetNetworkInterfaces"), m_deadline),
+                    ns::device, "GetNetworkInterfacesResponse", readInterfaces);
 }
 
 ServiceResult<std::string> DeviceService::defaultGateway()
@@ -364,7 +372,8 @@ ServiceResult<bool> DeviceService::setAddress(const DeviceInterface &interface)
 ServiceOutcome DeviceService::setDefaultGateway(const std::string &address)
 {
     const SoapRequest request("tds:SetNetworkDefaultGateway");
-    append(request.operation(), "tds:IPv4Address", address);
+    if (!address.empty())
+        append(request.operation(), "tds:IPv4Address", address);
     return callPlain(request, "SetNetworkDefaultGatewayResponse");
 }
 

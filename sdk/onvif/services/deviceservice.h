@@ -97,6 +97,7 @@ public:
     [[nodiscard]] ServiceResult<DeviceClock> clockOpenly();
     /// Succeeds only on a device that has no administrator yet.
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> usersOpenly();
+    [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfacesOpenly();
     [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name,
                                                            const std::string &password);
 

@@ -12,6 +12,27 @@ namespace {
 
 constexpr std::string_view administrator = "Administrator";
 
+bool isOffline(NetError error)
+{
+    return error == NetError::ConnectTimeout || error == NetError::ConnectFailed ||
+           error == NetError::NetworkFailure || error == NetError::UnknownCertificate ||
+           error == NetError::ChangedCertificate;
+}
+
+/// `error` if no session is possible with it; None for one of a device that lacks an operation.
+NetError lasting(NetError error)
+{
+    const bool isRefusedLogin = error == NetError::WrongPassword || error == NetError::AccountLocked ||
+                                error == NetError::SessionEnded;
+    return isOffline(error) || isRefusedLogin ? error : NetError::None;
+}
+
+bool hasAdministrator(const std::vector<DeviceUser> &users)
+{
+    return std::any_of(users.begin(), users.end(),
+                       [](const DeviceUser &user) { return user.level == administrator; });
+}
+
 std::int64_t pictureArea(const MediaProfile &profile)
 {
     return profile.video ? static_cast<std::int64_t>(profile.video->width) * profile.video->height : 0;
@@ -68,11 +89,12 @@ std::shared_ptr<OnvifSession> OnvifSession::open(const ServiceAddress &service, 
                                                  NetError &error)
 {
     auto session = std::make_shared<OnvifSession>(service, std::make_unique<SoapClient>(login, http));
-    error = session->logIn(deadline);
-    if (error != NetError::None)
-        return nullptr;
-    session->learnServices(deadline);
-    session->learnChannels(deadline);
+    for (const auto step : {&OnvifSession::logIn, &OnvifSession::learnServices, &OnvifSession::learnChannels,
+                            &OnvifSession::confirmByUsers}) {
+        error = ((*session).*step)(deadline);
+        if (error != NetError::None)
+            return nullptr;
+    }
     return session;
 }
 
@@ -88,9 +110,7 @@ NetError OnvifSession::logIn(Deadline deadline)
     const ServiceResult<DeviceClock> clock = service.clockOpenly();
     if (clock.isOk() && clock.value.utc)
         m_client->setClockOffset(clockOffset(*clock.value.utc));
-    else if (clock.error == NetError::ConnectTimeout || clock.error == NetError::ConnectFailed ||
-             clock.error == NetError::NetworkFailure || clock.error == NetError::UnknownCertificate ||
-             clock.error == NetError::ChangedCertificate)
+    else if (isOffline(clock.error))
         return clock.error;
     ServiceResult<DeviceInformation> information = service.information();
     if (!information.isOk())
@@ -99,21 +119,30 @@ NetError OnvifSession::logIn(Deadline deadline)
     return m_client->isConfirmed() ? NetError::None : confirmPassword(deadline);
 }
 
+/// For a device that gives its information to anybody.
 NetError OnvifSession::confirmPassword(Deadline deadline)
 {
     DeviceService service = device(deadline);
     const auto users = service.usersOpenly();
-    if (users.isOk()) {
-        const bool hasAdministrator =
-            std::any_of(users.value.begin(), users.value.end(),
-                        [](const auto &user) { return user.level == administrator; });
-        return hasAdministrator ? NetError::None : NetError::NotSupported;
-    }
-    const auto interfaces = service.interfaces(); // every kind of account may read them
-    return interfaces.error == NetError::WrongPassword ? NetError::WrongPassword : NetError::None;
+    if (isOffline(users.error))
+        return users.error;
+    if (users.isOk() && !hasAdministrator(users.value))
+        return NetError::NotSupported;
+    return lasting(service.interfaces().error); // every kind of account may read them
 }
 
-void OnvifSession::learnServices(Deadline deadline)
+/// For a device that has answered everything so far without a login.
+NetError OnvifSession::confirmByUsers(Deadline deadline)
+{
+    if (m_client->isConfirmed())
+        return NetError::None;
+    const auto users = device(deadline).users();
+    if (users.isOk())
+        return m_client->isConfirmed() ? NetError::None : NetError::NotSupported;
+    return lasting(users.error); // a device without the operation has no accounts
+}
+
+NetError OnvifSession::learnServices(Deadline deadline)
 {
     const auto services = device(deadline).services();
     const auto find = [&](std::string_view uri) -> std::optional<ServiceAddress> {
@@ -124,16 +153,21 @@ void OnvifSession::learnServices(Deadline deadline)
     m_media2 = find(ns::media2);
     m_imaging = find(ns::imaging);
     m_deviceIo = find(ns::deviceIo);
+    return lasting(services.error);
 }
 
-void OnvifSession::learnChannels(Deadline deadline)
+NetError OnvifSession::learnChannels(Deadline deadline)
 {
     ServiceResult<std::vector<MediaProfile>> found = profiles(deadline);
-    if (!found.isOk() && m_media2 && m_media) {
+    const bool isThere = found.error == NetError::None || found.error == NetError::ConnectTimeout ||
+                         found.error == NetError::WrongPassword;
+    if (!isThere && m_media2 && m_media) {
         m_media2.reset(); // named, and not there: the older service is
         found = profiles(deadline);
     }
     m_channels = channelsOf(found.value);
+    // A port that the device names may be out of reach; the rest of it is not.
+    return found.error == NetError::ConnectFailed ? NetError::None : lasting(found.error);
 }
 
 std::optional<MediaService> OnvifSession::media(Deadline deadline)

@@ -30,8 +30,8 @@ class OnvifSession
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// Logs in. On failure `error` is set and the result is null. A device that has no administrator yet
-    /// takes no login: NotSupported.
+    /// Logs in. On failure `error` is set and the result is null. A device that has no administrator yet, or
+    /// that answers everything without a login, takes no login: NotSupported.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,
@@ -79,8 +79,9 @@ public:
 private:
     [[nodiscard]] NetError logIn(Deadline deadline);
     [[nodiscard]] NetError confirmPassword(Deadline deadline);
-    void learnServices(Deadline deadline);
-    void learnChannels(Deadline deadline);
+    [[nodiscard]] NetError confirmByUsers(Deadline deadline);
+    [[nodiscard]] NetError learnServices(Deadline deadline);
+    [[nodiscard]] NetError learnChannels(Deadline deadline);
 
     const ServiceAddress m_service;
     const std::unique_ptr<SoapClient> m_client;

@@ -1,0 +1,269 @@
+// Logins, first passwords and new addresses with devices that answer in part, not at all, or are others than
+// was thought.
+#include "sdk/onvif/addresschange.h"
+#include "sdk/onvif/firstpassword.h"
+#include "sdk/onvif/session/onvifsession.h"
+#include "tests/cgi/rawserver.h"
+#include "tests/datatable.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+using namespace sdk::onvif;
+using namespace std::chrono_literals;
+using sdk::NetError;
+
+namespace {
+
+const char *const oldAddress = "127.0.0.1";
+const char *const newAddress = "127.0.0.2";
+
+/// How an operation is answered.
+enum class Manner
+{
+    Guarded, ///< with the login only
+    Open,    ///< to anybody
+    Silent,
+    Refused,      ///< as a value that the device does not take
+    NotPermitted, ///< as with a wrong password
+};
+
+/// Manners of operations by their names; at the new address by "new NAME", and with an account that was made by
+/// "after NAME". "*" stands for the others.
+using Manners = QHash<QByteArray, Manner>;
+
+QByteArray contentOf(const QByteArray &operation, bool needsReboot)
+{
+    const QHash<QByteArray, QByteArray> contents = {
+        {"GetSystemDateAndTime",
+         "<d:SystemDateAndTime><t:DateTimeType>Manual</t:DateTimeType><t:UTCDateTime><t:Time><t:Hour>1</t:Hour>"
+         "<t:Minute>2</t:Minute><t:Second>3</t:Second></t:Time><t:Date><t:Year>2030</t:Year><t:Month>4</t:Month>"
+         "<t:Day>5</t:Day></t:Date></t:UTCDateTime></d:SystemDateAndTime>"},
+        {"GetDeviceInformation", "<d:Model>M</d:Model><d:SerialNumber>S1</d:SerialNumber>"},
+        {"GetUsers",
+         "<d:User><t:Username>admin</t:Username><t:UserLevel>Administrator</t:UserLevel></d:User>"},
+        {"GetServices", "<d:Service><d:Namespace>http://www.onvif.org/ver10/media/wsdl</d:Namespace>"
+                        "<d:XAddr>http://127.0.0.1:PORT/media</d:XAddr></d:Service>"},
+        {"GetNetworkInterfaces",
+         "<d:NetworkInterfaces token='eth0'><t:Enabled>true</t:Enabled><t:Info>"
+         "<t:HwAddress>02:1a:c5:00:00:01</t:HwAddress></t:Info><t:IPv4><t:Enabled>true</t:Enabled><t:Config>"
+         "<t:Manual><t:Address>127.0.0.1</t:Address><t:PrefixLength>8</t:PrefixLength></t:Manual>"
+         "<t:DHCP>false</t:DHCP></t:Config></t:IPv4></d:NetworkInterfaces>"},
+        {"GetNetworkDefaultGateway",
+         "<d:NetworkGateway><t:IPv4Address>127.0.0.9</t:IPv4Address></d:NetworkGateway>"},
+        {"SetNetworkInterfaces",
+         needsReboot ? "<d:RebootNeeded>true</d:RebootNeeded>" : "<d:RebootNeeded>false</d:RebootNeeded>"},
+    };
+    return contents.value(operation);
+}
+
+class ScriptedDevice
+{
+public:
+    explicit ScriptedDevice(Manners manners, bool needsReboot = false)
+        : m_manners(std::move(manners)), m_needsReboot(needsReboot)
+    {
+    }
+
+    [[nodiscard]] ServiceAddress service() const
+    {
+        ServiceAddress address;
+        address.host = oldAddress;
+        address.port = m_server.address().section(u':', 1).toInt();
+        return address;
+    }
+
+    /// How many requests hold both texts.
+    [[nodiscard]] qsizetype requestsWith(const QByteArray &text, const QByteArray &other = {}) const
+    {
+        const QList<QByteArray> requests = m_server.requests();
+        return std::count_if(requests.begin(), requests.end(), [&](const QByteArray &request) {
+            return request.contains(text) && request.contains(other);
+        });
+    }
+
+private:
+    [[nodiscard]] Manner mannerOf(const QByteArray &request, const QByteArray &operation) const
+    {
+        const Manner other = m_manners.value("*", Manner::Guarded);
+        const Manner here = m_manners.value(operation, other);
+        if (requestsWith("CreateUsers") > 0)
+            return m_manners.value("after " + operation, here);
+        if (!request.contains(QByteArray("Host: ") + newAddress))
+            return here;
+        return m_manners.value("new " + operation, m_manners.value("new *", here));
+    }
+
+    void answer(const RawExchange &exchange) const
+    {
+        const QByteArray request = exchange.request();
+        static const QRegularExpression element(u"<(tds|trt|tr2):(\\w+)"_s);
+        const QRegularExpressionMatch match = element.match(QString::fromLatin1(request));
+        const QByteArray operation = match.captured(2).toLatin1();
+        const bool isGuarded = operation != "GetSystemDateAndTime";
+        Manner manner = mannerOf(request, operation);
+        if (manner == Manner::Guarded)
+            manner = !isGuarded || request.contains("UsernameToken") ? Manner::Open : Manner::NotPermitted;
+        const QByteArray place = match.captured(1) == u"tds"_s ? "device" : "media";
+        const QByteArray fault = "<x:Fault><x:Code><x:Value>x:Sender</x:Value><x:Subcode><x:Value>ter:%1"
+                                 "</x:Value></x:Subcode></x:Code></x:Fault>";
+        switch (manner) {
+        case Manner::Silent:
+            (void)exchange.pause(20000);
+            break;
+        case Manner::Refused:
+            send(exchange, "400 Bad Request", QByteArray(fault).replace("%1", "InvalidArgVal"));
+            break;
+        case Manner::NotPermitted:
+            send(exchange, "400 Bad Request", QByteArray(fault).replace("%1", "NotAuthorized"));
+            break;
+        default:
+            send(exchange, "200 OK",
+                 "<d:" + operation + "Response xmlns:d='http://www.onvif.org/ver10/" + place +
+                     "/wsdl' xmlns:t='http://www.onvif.org/ver10/schema'>" +
+                     contentOf(operation, m_needsReboot).replace("PORT", QByteArray::number(service().port)) +
+                     "</d:" + operation + "Response>");
+        }
+    }
+
+    static void send(const RawExchange &exchange, const QByteArray &status, const QByteArray &body)
+    {
+        exchange.answer(status, {},
+                        "<x:Envelope xmlns:x='http://www.w3.org/2003/05/soap-envelope'><x:Body>" + body +
+                            "</x:Body></x:Envelope>");
+    }
+
+    const Manners m_manners;
+    const bool m_needsReboot;
+    const RawServer m_server{[this](const RawExchange &exchange) { answer(exchange); },
+                             RawServer::Reach::EveryAddress}; // last
+};
+
+const HttpLogin login = {.account = "admin", .password = "secret1"};
+
+quint32 code(NetError error)
+{
+    return static_cast<quint32>(error);
+}
+
+} // namespace
+
+class OnvifSessionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLoginIsProved_data()
+    {
+        const auto row = dataTable<Manners, quint32>({"manners", "error"});
+        using enum Manner;
+        row("usual", Manners{}, 0);
+        row("services do not answer", Manners{{"GetServices", Silent}}, code(NetError::ConnectTimeout));
+        row("profiles do not answer", Manners{{"GetProfiles", Silent}}, code(NetError::ConnectTimeout));
+        row("no media service", Manners{{"GetProfiles", Refused}}, 0);
+        row("everything open", Manners{{"*", Open}}, code(NetError::NotSupported));
+        const Manners partly = {{"GetDeviceInformation", Open}, {"GetUsers", Open}};
+        row("information and users open", partly, 0);
+        Manners wrong = partly;
+        wrong.insert("*", NotPermitted);
+        row("information and users open, wrong password", wrong, code(NetError::WrongPassword));
+        row("all but users open", Manners{{"*", Open}, {"GetUsers", NotPermitted}},
+            code(NetError::WrongPassword));
+    }
+
+    void aLoginIsProved()
+    {
+        QFETCH(const Manners, manners);
+        QFETCH(const quint32, error);
+        const ScriptedDevice device(manners);
+        NetError result = NetError::None;
+        const auto session = OnvifSession::open(device.service(), login, std::make_shared<HttpClient>(),
+                                                std::chrono::steady_clock::now() + 2s, result);
+        QCOMPARE(code(result), error);
+        QCOMPARE(session != nullptr, error == 0);
+    }
+
+    void aFirstPasswordIsConfirmed_data()
+    {
+        const auto row = dataTable<Manners, QByteArray, quint32, int>({"manners", "mac", "error", "sent"});
+        using enum Manner;
+        const QByteArray own = "02:1a:c5:00:00:01";
+        row("open for ever", Manners{{"*", Open}}, own, code(NetError::Refused), 1);
+        row("guarded", Manners{{"*", Open}, {"after GetUsers", NotPermitted}}, own, 0, 1);
+        row("silent after it", Manners{{"*", Open}, {"after GetUsers", Silent}}, own,
+            code(NetError::Unconfirmed), 1);
+        row("odd after it", Manners{{"*", Open}, {"after GetUsers", Refused}}, own,
+            code(NetError::Unconfirmed), 1);
+        row("another device", Manners{{"*", Open}}, "02:1a:c5:00:00:02", code(NetError::AddressInUse), 0);
+        row("has an administrator", Manners{}, own, code(NetError::NotSupported), 0);
+    }
+
+    void aFirstPasswordIsConfirmed()
+    {
+        QFETCH(const Manners, manners);
+        QFETCH(const QByteArray, mac);
+        QFETCH(const quint32, error);
+        QFETCH(const int, sent);
+        const ScriptedDevice device(manners);
+        const auto deadline = std::chrono::steady_clock::now() + 2s;
+        const NetError result = giveFirstPassword(device.service(), std::make_shared<HttpClient>(),
+                                                  {.account = "root", .password = "secret1"},
+                                                  mac.toStdString(), deadline);
+        QCOMPARE(code(result), error);
+        QCOMPARE(device.requestsWith("secret1"), sent);
+    }
+
+    void anAddressIsConfirmed_data()
+    {
+        const auto row =
+            dataTable<Manners, bool, quint32, int>({"manners", "needsReboot", "error", "gateways"});
+        using enum Manner;
+        row("confirmed", Manners{}, false, 0, 1);
+        row("confirmed after a reboot", Manners{}, true, 0, 1);
+        row("silent", Manners{{"new *", Silent}}, false, code(NetError::Unconfirmed), 1);
+        row("silent after a reboot", Manners{{"new *", Silent}}, true, code(NetError::Unconfirmed), 1);
+        row("another device", Manners{{"new *", NotPermitted}, {"new GetSystemDateAndTime", Open}}, false,
+            code(NetError::AddressInUse), 1);
+        row("another device after a reboot",
+            Manners{{"new *", NotPermitted}, {"new GetSystemDateAndTime", Open}}, true,
+            code(NetError::AddressInUse), 1);
+        row("address refused", Manners{{"SetNetworkInterfaces", Refused}}, false,
+            code(NetError::InvalidValue), 2); // the old one again
+        row("gateway refused", Manners{{"SetNetworkDefaultGateway", Refused}}, true,
+            code(NetError::InvalidValue), 2);
+        row("gateway refused by the old address",
+            Manners{{"SetNetworkDefaultGateway", Refused}, {"new SetNetworkDefaultGateway", Guarded}}, true,
+            0, 2);
+    }
+
+    void anAddressIsConfirmed()
+    {
+        QFETCH(const Manners, manners);
+        QFETCH(const bool, needsReboot);
+        QFETCH(const quint32, error);
+        QFETCH(const int, gateways);
+        const ScriptedDevice device(manners, needsReboot);
+        const AddressOrder order = {.address = newAddress,
+                                    .mask = "255.0.0.0",
+                                    .gateway = "127.0.0.10",
+                                    .mac = "02:1a:c5:00:00:01",
+                                    .settlingTime = 1000ms,
+                                    .rebootTime = 2000ms};
+        const NetError result = changeAddress(device.service(), std::make_shared<HttpClient>(), login, order,
+                                              std::chrono::steady_clock::now() + 1s);
+        QCOMPARE(code(result), error);
+        QCOMPARE(device.requestsWith("SetNetworkDefaultGateway"), gateways);
+        QCOMPARE(device.requestsWith("SetNetworkDefaultGateway", "127.0.0.9"),
+                 error == code(NetError::InvalidValue) && !needsReboot ? 1 : 0);
+        QCOMPARE(device.requestsWith("SystemReboot"), needsReboot ? 1 : 0);
+        // Of another device nothing is asked again.
+        if (error == code(NetError::AddressInUse))
+            QCOMPARE(device.requestsWith(QByteArray("Host: ") + newAddress, "UsernameToken"), 1);
+    }
+};
+
+Q_DECLARE_METATYPE(Manners)
+
+QTEST_GUILESS_MAIN(OnvifSessionTest)
+#include "tst_onvifsession.moc"
