@@ -132,7 +132,7 @@ void CDeviceBase::stopSearch() {}
 
 void CDeviceBase::factoryEnds() {}
 
-void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool) {}
+void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool, bool) {}
 
 void CDeviceBase::stopOpeningSession() {}
 

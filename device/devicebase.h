@@ -116,7 +116,7 @@ public:
     /// signalCDeviceSessionOpened tells the end, unless another device is logged in to or asked for
     /// meanwhile. `readsChannels` asks for the channels of a session that goes on, too.
     virtual void openSession(const QString &ipport, const QString &account, const QString &password,
-                             bool readsChannels);
+                             bool readsChannels, bool isGivenNow);
     /// Gives up what openSession() began: nothing comes of it any more.
     virtual void stopOpeningSession();
     /// Asks whether the device answers in the current session. Returns at once; signalCDeviceSessionChecked

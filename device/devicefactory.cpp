@@ -512,9 +512,9 @@ QString CDeviceFactory::importError(const QString &family)
 }
 
 void CDeviceFactory::openSession(const QString &family, const QString &ipport, const QString &account,
-                                 const QString &password, bool readsChannels)
+                                 const QString &password, bool readsChannels, bool isGivenNow)
 {
-    forward(family, &CDeviceBase::openSession, ipport, account, password, readsChannels);
+    forward(family, &CDeviceBase::openSession, ipport, account, password, readsChannels, isGivenNow);
 }
 
 void CDeviceFactory::stopOpeningSession(const QString &family)

@@ -138,6 +138,19 @@ bool isSessionLost(std::uint32_t libraryError)
     return isDeviceAway(libraryError) || loginResultOf(libraryError) == LoginResult::SessionEnded;
 }
 
+bool isLoginRefused(std::uint32_t libraryError)
+{
+    switch (loginResultOf(libraryError)) {
+    case LoginResult::SessionEnded:
+    case LoginResult::WrongPassword:
+    case LoginResult::NoSuchAccount:
+    case LoginResult::AccountLocked:
+        return true;
+    default:
+        return false;
+    }
+}
+
 QString resultName(int code)
 {
     return ResultNames::of(code);

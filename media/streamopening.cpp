@@ -29,8 +29,19 @@ struct StreamOpening::State
     std::shared_ptr<sdk::NetLibrary> net;
     std::mutex mutex; ///< of what follows
     bool isWanted = true;
-    std::int64_t handle = 0; ///< opened and not taken yet
+    Result result; ///< its stream is opened and not taken yet
 };
+
+StreamOpening::Result StreamOpening::ask(sdk::NetLibrary *net, const Order &order)
+{
+    Result result;
+    if (!net)
+        return result;
+    result.handle = net->NetStartRealStream(order.loginHandle, order.channel, 0, order.kind);
+    if (result.handle == 0)
+        result.error = net->NetGetLastError();
+    return result;
+}
 
 StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &order, QObject *context,
                              Opened opened)
@@ -38,22 +49,21 @@ StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &
 {
     m_state->net = std::move(net);
     openingThreads().start([state = m_state, order, context, opened = std::move(opened)] {
-        const std::int64_t handle =
-            state->net ? state->net->NetStartRealStream(order.loginHandle, order.channel, 0, order.kind) : 0;
+        const Result result = ask(state->net.get(), order);
         {
             // While it is wanted, the context exists.
             const std::lock_guard lock(state->mutex);
             if (state->isWanted) {
-                state->handle = handle;
+                state->result = result;
                 QMetaObject::invokeMethod(
                     context,
                     [state, opened] {
-                        std::int64_t taken = 0;
+                        Result taken;
                         {
                             const std::lock_guard taking(state->mutex);
                             if (!std::exchange(state->isWanted, false))
                                 return;
-                            taken = std::exchange(state->handle, 0);
+                            taken = std::exchange(state->result, {});
                         }
                         opened(taken);
                     },
@@ -61,8 +71,8 @@ StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &
                 return;
             }
         }
-        if (handle != 0)
-            state->net->NetStopRealStream(handle);
+        if (result.handle != 0)
+            state->net->NetStopRealStream(result.handle);
     });
 }
 
@@ -70,6 +80,6 @@ StreamOpening::~StreamOpening()
 {
     const std::lock_guard lock(m_state->mutex);
     m_state->isWanted = false;
-    if (const std::int64_t handle = std::exchange(m_state->handle, 0); handle != 0)
+    if (const std::int64_t handle = std::exchange(m_state->result.handle, 0); handle != 0)
         openingThreads().start([net = m_state->net, handle] { net->NetStopRealStream(handle); });
 }

@@ -19,15 +19,23 @@ class NetLibrary;
 class StreamOpening
 {
 public:
-    /// Called with the stream's handle, which belongs to the callee then; 0 if there is none.
-    using Opened = std::function<void(std::int64_t handle)>;
-
     struct Order
     {
         sdk::LLONG loginHandle = 0;
         std::int32_t channel = 0; ///< from 0
         sdk::LiveStreamKind kind = sdk::LiveStreamKind::Main;
     };
+
+    struct Result
+    {
+        std::int64_t handle = 0; ///< belongs to the callee; 0 if there is no stream
+        std::uint32_t error = 0; ///< of the library, without a stream
+    };
+
+    using Opened = std::function<void(const Result &result)>;
+
+    /// Asks for a stream and blocks until the device has answered. Without a library (null) there is none.
+    [[nodiscard]] static Result ask(sdk::NetLibrary *net, const Order &order);
 
     /// Asks at once; without a library (null) there is no stream. `opened` is called on the thread of
     /// `context`, which outlives this object.

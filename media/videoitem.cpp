@@ -1,10 +1,12 @@
 #include "media/videoitem.h"
 
 #include "device/devicefactory.h"
+#include "device/loginresult.h"
 #include "media/dhdecoder.h"
 #include "media/itemrender.h"
 #include "media/logging.h"
 #include "sdk/clock.h"
+#include "sdk/neterror.h"
 #include "sdk/netlibrary.h"
 
 #include <vector>
@@ -26,6 +28,25 @@ sdk::SdkLibraries itemLibraries()
     if (!libraries.clock)
         libraries.clock = std::make_shared<sdk::SystemClock>();
     return libraries;
+}
+
+/// Whether a stream of the channel is not there, and nothing speaks against another one.
+bool isOfOneStream(std::uint32_t error)
+{
+    const auto code = static_cast<sdk::NetError>(error);
+    return code == sdk::NetError::NotSupported || code == sdk::NetError::InvalidValue;
+}
+
+/// Why a device gives no stream; empty for an error without a meaning of its own.
+QString failureText(std::uint32_t error)
+{
+    const auto code = static_cast<sdk::NetError>(error);
+    if (code == sdk::NetError::DeviceBusy)
+        return resultName(deviceBusy);
+    const LoginResult result = loginResultOf(error);
+    const bool isNamed = result != LoginResult::NetworkFailure || isDeviceAway(error) ||
+                         code == sdk::NetError::ConnectFailed;
+    return isNamed ? resultName(resultCode(result)) : QString();
 }
 
 } // namespace
@@ -60,23 +81,26 @@ VideoItem::~VideoItem()
 
 bool VideoItem::start()
 {
-    return prepare() &&
-           take(m_libraries.net && m_libraries.decoder
-                    ? m_libraries.net->NetStartRealStream(m_loginHandle, m_channelId, 0,
-                                                          static_cast<sdk::LiveStreamKind>(m_streamKind))
-                    : 0);
+    return prepare() && take(StreamOpening::ask(m_libraries.decoder ? m_libraries.net.get() : nullptr, order()));
 }
 
 void VideoItem::startInBackground()
 {
     if (!prepare())
         return;
-    const StreamOpening::Order order = {.loginHandle = m_loginHandle,
-                                        .channel = m_channelId,
-                                        .kind = static_cast<sdk::LiveStreamKind>(m_streamKind)};
-    m_opening =
-        std::make_unique<StreamOpening>(m_libraries.decoder ? m_libraries.net : nullptr, order, this,
-                                        [this](std::int64_t handle) { Q_EMIT startEnded(take(handle)); });
+    m_opening = std::make_unique<StreamOpening>(
+        m_libraries.decoder ? m_libraries.net : nullptr, order(), this,
+        [this](const StreamOpening::Result &opened) {
+            const bool isStreaming = take(opened);
+            Q_EMIT startEnded(isStreaming, !isStreaming && isOfOneStream(opened.error));
+        });
+}
+
+StreamOpening::Order VideoItem::order() const
+{
+    return {.loginHandle = m_loginHandle,
+            .channel = m_channelId,
+            .kind = static_cast<sdk::LiveStreamKind>(m_streamKind)};
 }
 
 bool VideoItem::prepare()
@@ -100,19 +124,19 @@ bool VideoItem::prepare()
     return true;
 }
 
-bool VideoItem::take(std::int64_t streamHandle)
+bool VideoItem::take(const StreamOpening::Result &opened)
 {
     m_opening.reset();
-    m_streamHandle = streamHandle;
+    m_streamHandle = opened.handle;
     qCDebug(logMedia) << "m_lRealHandle" << m_streamHandle;
     if (m_streamHandle == 0)
-        return failToOpen("open stream fail");
+        return failToOpen("open stream fail", opened.error);
 
     qCDebug(logMedia) << "lRealHandle" << m_streamHandle;
     m_watch.begin(m_libraries.clock->now());
     if (!m_libraries.net->NetSetRealDataCallback(m_streamHandle, &CDHDecoder::realDataCallback,
                                                  m_decoder.get(), streamAsSent)) {
-        return failToOpen("open failed"); // the next stop() closes the stream
+        return failToOpen("open failed", 0); // the next stop() closes the stream
     }
     setText(QString());
     m_libraries.net->NetStreamFollowUp(m_streamHandle, m_channelId, 0);
@@ -123,10 +147,11 @@ bool VideoItem::take(std::int64_t streamHandle)
     return true;
 }
 
-bool VideoItem::failToOpen(const char *reason)
+bool VideoItem::failToOpen(const char *reason, std::uint32_t error)
 {
     m_decoder->Stop();
-    setText(tr("播放失败"));
+    const QString why = failureText(error);
+    setText(why.isEmpty() ? tr("播放失败") : tr("播放失败：%1").arg(why));
     qCDebug(logMedia) << reason;
     return false;
 }

@@ -135,7 +135,8 @@ Q_SIGNALS:
     void zoomLevelChanged();
     void isStreamingChanged();
     void problemTextChanged();
-    void startEnded(bool isStreaming); ///< of startInBackground()
+    /// Of startInBackground(). `mayTryOther`: the device may have the other stream of the channel.
+    void startEnded(bool isStreaming, bool mayTryOther);
 
 public Q_SLOTS:
     // The order is kept as well.
@@ -167,8 +168,9 @@ private:
     static constexpr int watchInterval = 250; // milliseconds
 
     bool prepare();
-    bool take(std::int64_t streamHandle);
-    bool failToOpen(const char *reason);
+    [[nodiscard]] StreamOpening::Order order() const;
+    bool take(const StreamOpening::Result &opened);
+    bool failToOpen(const char *reason, std::uint32_t error);
     [[nodiscard]] static QString endText(sdk::StreamEndReason reason);
     void noteEnd(qint64 streamHandle, sdk::StreamEndReason reason);
     void closeStream();

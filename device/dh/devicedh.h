@@ -92,7 +92,7 @@ public:
     QVariantMap readDeviceDetail(const QString &ipport) override;
     int checkLogin(const QString &ipport, const QString &account, const QString &password) override;
     void openSession(const QString &ipport, const QString &account, const QString &password,
-                     bool readsChannels) override;
+                     bool readsChannels, bool isGivenNow) override;
     void stopOpeningSession() override;
     void checkSession() override;
     bool isInSession(const QString &ipport) override;

@@ -110,7 +110,7 @@ SceneStep CDeviceDH::detailStep(const QString &ipport)
 }
 
 void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,
-                            bool readsChannels)
+                            bool readsChannels, bool isGivenNow)
 {
     const bool isCurrent = isInSession(ipport);
     const SessionOrder order = {.ipport = ipport,
@@ -118,6 +118,8 @@ void CDeviceDH::openSession(const QString &ipport, const QString &account, const
                                 .password = password,
                                 .handle = isCurrent ? m_session.handle : 0,
                                 .channelCount = isCurrent ? m_state->channels.channelCount : 0,
+                                .isNewLogin = isGivenNow || account != m_session.account ||
+                                              password != m_session.password,
                                 .readsChannels = readsChannels};
     const SessionRequest request = {.number = ++m_sessionRequest, .sessionBefore = m_session.handle};
     m_sessionThreads.start([this, order, request, libraries = m_libraries] {
@@ -158,7 +160,7 @@ void CDeviceDH::takeOffer(const SessionRequest &request, const SessionOrder &ord
             m_libraries.net->NetLogout(offer.login.handle);
         // Another page has logged in meanwhile. What it did with the same device serves here as well.
         if (isWanted && m_session.ipport == order.ipport)
-            openSession(order.ipport, order.account, order.password, order.readsChannels);
+            openSession(order.ipport, order.account, order.password, order.readsChannels, false);
         return;
     }
     if (offer.login.handle != 0)

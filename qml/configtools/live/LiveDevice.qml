@@ -25,6 +25,7 @@ Item {
 
     /// Whether another account or password may help.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4
+        || result === 16
 
     /// What time may mend. More tries of a wrong password would lock the account.
     readonly property bool unreachable: result === 5
@@ -51,13 +52,14 @@ Item {
 
     function ask() {
         const known = account();
-        login(known.user, known.password);
+        login(known.user, known.password, false);
     }
 
-    function login(user, password) {
+    /// A login that the device has refused in its session is sent again only if the user has given it now.
+    function login(user, password, given) {
         pause.stop();
         asking = true;
-        deviceFactory.openSession("dh", ipport, user, password, !loggedIn);
+        deviceFactory.openSession("dh", ipport, user, password, !loggedIn, given);
     }
 
     function tryAgain() {
@@ -168,7 +170,7 @@ Item {
                 if (account === "" && password === "")
                     return;
                 root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
-                root.login(account, password);
+                root.login(account, password, true);
             }
         }
     }

@@ -53,10 +53,10 @@ FocusScope {
     }
 
     /// After the request for the stream.
-    function takeStart(isStreaming) {
+    function takeStart(isStreaming, mayTryOther) {
         if (isStreaming)
             return;
-        if (!mainStream && !subRefused) {
+        if (!mainStream && !subRefused && mayTryOther) {
             subRefused = true;
             video.startInBackground();
             return;
@@ -123,7 +123,7 @@ FocusScope {
                 retry.settle();
             }
         }
-        onStartEnded: isStreaming => root.takeStart(isStreaming)
+        onStartEnded: (isStreaming, mayTryOther) => root.takeStart(isStreaming, mayTryOther)
         onVideoErrorSig: root.fail()
     }
     // Once what changes together has changed: the channel, the kind of stream, whether it is wanted.

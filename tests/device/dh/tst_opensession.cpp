@@ -108,6 +108,32 @@ private Q_SLOTS:
         QCOMPARE(m_opened->last().at(2).toList().size(), 3);
     }
 
+    void aRefusedPasswordIsNotSentAgain()
+    {
+        const int ended = 16;
+        QCOMPARE(m_site->login(m_recorder), 0);
+        m_site->site->changeDevice(m_recorder.mac, [](SceneDevice &device, const auto &) {
+            device.accounts[0].password = "secret2";
+        });
+        m_site->site->requests().clear();
+        open(ipportOf(m_recorder));
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->last().at(1).toInt(), ended);
+        QVERIFY(m_site->asked("NetLoginSecure").isEmpty());
+        QSignalSpy checked(m_site->factory.get(), &CDeviceFactory::signalSessionChecked);
+        m_site->factory->checkSession("dh");
+        QVERIFY(checked.wait());
+        QCOMPARE(checked.first().first().toBool(), false);
+
+        m_site->factory->openSession("dh", ipportOf(m_recorder), "admin", "secret1", true, true); // by the user
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->last().at(1).toInt(), 2);
+        QCOMPARE(m_site->asked("NetLoginSecure").size(), 1);
+        open(ipportOf(m_recorder), "secret2");
+        QVERIFY(m_opened->wait());
+        QCOMPARE(m_opened->last().at(1).toInt(), 0);
+    }
+
     void whatIsGivenUpLeavesNothing()
     {
         open(ipportOf(m_recorder));

@@ -41,9 +41,10 @@ public:
     }
 
     Q_INVOKABLE void openSession(const QString &, const QString &, const QString &account,
-                                 const QString &password, bool readsChannels)
+                                 const QString &password, bool readsChannels, bool isGivenNow)
     {
-        asked.append(account + ' ' + password + (readsChannels ? " channels" : ""));
+        asked.append(account + ' ' + password + (readsChannels ? " channels" : "") +
+                     (isGivenNow ? " given" : ""));
     }
     Q_INVOKABLE void stopOpeningSession(const QString &) { ++given; }
     Q_INVOKABLE QVariant getConfigData(const QString &, const QString &) const { return sessionWith; }
