@@ -43,6 +43,23 @@ QString secondFailureOf(const HttpOutcome &outcome)
     return CgiProcedure::tr("服务器连接失败") + QStringLiteral(" (HTTP %1)").arg(outcome.status);
 }
 
+/// Whether answers with status 401 leave it open to send the password as it is: they ask for that, or name no
+/// way to log in. A device that asks for Digest alone has refused the password.
+bool takesBasic(const QByteArray &headers)
+{
+    bool namesScheme = false;
+    for (const QByteArray &line : headers.split('\n')) {
+        const qsizetype colon = line.indexOf(':');
+        if (colon < 0 || line.first(colon).trimmed().compare("WWW-Authenticate", Qt::CaseInsensitive) != 0)
+            continue;
+        const QByteArray challenge = line.sliced(colon + 1).trimmed();
+        if (challenge.toLower().startsWith("basic") || challenge.toLower().contains(", basic "))
+            return true;
+        namesScheme = namesScheme || !challenge.isEmpty();
+    }
+    return !namesScheme;
+}
+
 void noteCannotWrite(const QString &path, const QString &failure)
 {
     qCWarning(logCgi).noquote() << "cannot write" << path << "-" << failure;
@@ -115,7 +132,7 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
         return {.text = failedResult + tr("未知错误。")};
 
     HttpOutcome first = perform(*conversation, m_limits.first, {});
-    if (first.status == credentialsWanted && !first.isStopped) {
+    if (first.status == credentialsWanted && !first.isStopped && takesBasic(conversation->headerText())) {
         conversation->useBasic();
         first = perform(*conversation, m_limits.first, {});
     }
