@@ -171,6 +171,9 @@ public:
         return m_calls.add("NetStopRealStream", QString::number(streamHandle));
     }
 
+    [[nodiscard]] std::uint32_t NetGetLastError() const override { return lastError; }
+
+    std::atomic<std::uint32_t> lastError = 0;
     std::mutex mutexOfAnswers; ///< while it is held, the device does not answer a request for a stream
 
     bool deliver(const QByteArray &bytes)

@@ -129,17 +129,36 @@ private Q_SLOTS:
             QVERIFY(!m_item->isStreaming());
         }
         QVERIFY(ended.wait());
-        QCOMPARE(ended.takeFirst(), QVariantList{true});
+        QCOMPARE(ended.takeFirst(), (QVariantList{true, false}));
         QVERIFY(m_item->isStreaming());
         QCOMPARE(m_fake->calls.take(), (QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}));
         m_item->stop();
         m_fake->calls.take();
 
+    }
+
+    void saysWhyThereIsNoStream_data()
+    {
+        const auto row = dataTable<sdk::NetError, QString, bool>({"error", "text", "mayTryOther"});
+        row("unknown", sdk::NetError::None, "播放失败", false);
+        row("offline", sdk::NetError::ConnectTimeout, "播放失败：网络异常", false);
+        row("no such stream", sdk::NetError::NotSupported, "播放失败：设备不支持此操作", true);
+        row("missing right", sdk::NetError::Refused, "播放失败：设备拒绝了此操作", false);
+        row("password changed", sdk::NetError::SessionEnded, "播放失败：登录已失效，请重新登录", false);
+        row("too many streams", sdk::NetError::DeviceBusy, "播放失败：设备忙，请稍后重试", false);
+    }
+
+    void saysWhyThereIsNoStream()
+    {
+        QFETCH(const sdk::NetError, error);
+        QFETCH(const bool, mayTryOther);
+        QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
         m_fake->calls.failOnly("NetStartRealStream");
+        m_fake->net->lastError = static_cast<std::uint32_t>(error);
         m_item->startInBackground();
         QVERIFY(ended.wait());
-        QCOMPARE(ended.takeFirst(), QVariantList{false});
-        QCOMPARE(m_item->text(), "播放失败");
+        QCOMPARE(ended.takeFirst(), (QVariantList{false, mayTryOther}));
+        QTEST(m_item->text(), "text");
     }
 
     /// The stream that is there in the end belongs to nobody and is closed.

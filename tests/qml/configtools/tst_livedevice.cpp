@@ -130,6 +130,7 @@ private Q_SLOTS:
         row("wrong password", 2);
         row("account locked", 3);
         row("not initialised", 7);
+        row("session ended", 16);
     }
 
     void whatTimeDoesNotMendIsNotTriedAgain()
