@@ -73,7 +73,8 @@ QStringList takeRates(const sdk::EncodeCapabilityBlock &block, const EncodeItems
     else
         skipped.append(SettingNames::frameRate(isSub));
     video.videoEnable = wanted.videoEnable;
-    video.bitRateControl = wanted.bitRateControl;
+    if (block.lacksConstantBitRate == 0)
+        video.bitRateControl = wanted.bitRateControl;
     video.quality = wanted.quality;
     return skipped;
 }

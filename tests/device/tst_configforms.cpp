@@ -100,6 +100,19 @@ private Q_SLOTS:
         QVERIFY(of(form.mainStream(), "bitRate", "changed").toBool());
     }
 
+    void aVariableBitRateMayBeTheOnlyOne()
+    {
+        m_backEnd->values.insert("bitstreamControl", 1);
+        EncodeForm form;
+        form.setDeviceFactory(&m_factory);
+        QVERIFY(of(form.mainStream(), "control", "usable").toBool());
+        m_backEnd->values.insert("bitstreamControlMin", 1);
+        EncodeForm limited;
+        limited.setDeviceFactory(&m_factory);
+        QVERIFY(!of(limited.mainStream(), "control", "usable").toBool());
+        QCOMPARE(of(limited.mainStream(), "control", "value").toInt(), 1);
+    }
+
     void badValuesLeaveAWholeForm_data()
     {
         const auto row = dataTable<QVariantMap>({"values"});

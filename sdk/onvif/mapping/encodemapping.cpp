@@ -212,11 +212,13 @@ void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
     block.sizesDependOnCompression = 1;
     block.minimumBitRate = usualMinimumBitRate;
     block.maximumBitRate = 0;
+    bool offersConstant = stream.profile.video->constantBitRate;
     for (const VideoEncodingOptions &options : stream.options) {
         const int code = compressionOf(options.encoding);
         if (code < 0)
             continue;
         block.compressionMask |= 1U << static_cast<unsigned>(code);
+        offersConstant = offersConstant || options.offersConstantBitRate;
         PictureSizeList &list = block.sizesByCompression[static_cast<std::size_t>(code)];
         for (const auto &[width, height] : options.sizes) {
             if (list.count < maximumPictureSizes && width <= 65535 && height <= 65535)
@@ -234,6 +236,7 @@ void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
                 block.profiles[block.profileCount++] = number;
         }
     }
+    block.lacksConstantBitRate = offersConstant ? 0 : 1;
     if (block.maximumBitRate == 0)
         block.maximumBitRate = usualMaximumBitRate;
     if (block.maximumFrameRate == 0)
