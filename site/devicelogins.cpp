@@ -43,7 +43,9 @@ LoginOutcome DeviceLogins::check(const SceneDevice &device, const DeviceManner &
     const std::optional<DigestResponse> response = readDigestResponse(authorization);
     if (!response)
         return {};
-    const bool isOffered = response->algorithm == "sha-256" ? manner.offersSha256 : manner.offersMd5;
+    const bool isOffered = response->algorithm == "sha-256"
+                               ? manner.offersSha256 || device.hasFault(Fault::Sha256Last)
+                               : manner.offersMd5;
     const DigestNonces::State nonce = m_nonces.check(response->nonce, device.mac, now);
     if (nonce != DigestNonces::State::Good || !isOffered) {
         // No password was tried: the client is asked again.
@@ -60,10 +62,13 @@ QByteArrayList DeviceLogins::challenges(const SceneDevice &device, const DeviceM
 {
     QByteArrayList challenges;
     const QByteArray nonce = m_nonces.make(device.mac, now);
-    if (manner.offersSha256)
+    const bool hasSha256Last = device.hasFault(Fault::Sha256Last);
+    if (manner.offersSha256 && !hasSha256Last)
         challenges.append(digestChallenge(realmOf(device), nonce, DigestAlgorithm::Sha256, isStale));
     if (manner.offersMd5)
         challenges.append(digestChallenge(realmOf(device), nonce, DigestAlgorithm::Md5, isStale));
+    if (hasSha256Last)
+        challenges.append(digestChallenge(realmOf(device), nonce, DigestAlgorithm::Sha256, isStale));
     return challenges;
 }
 

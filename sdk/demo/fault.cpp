@@ -53,6 +53,7 @@ constexpr std::array faultEntries = {
     FaultEntry{Fault::SlowAnswers, "slowAnswers", FaultValue::Number},
     FaultEntry{Fault::RefusesConnections, "refusesConnections", FaultValue::None},
     FaultEntry{Fault::PasswordChangesAfter, "passwordChangesAfter", FaultValue::Number},
+    FaultEntry{Fault::Sha256Last, "sha256Last", FaultValue::None},
     FaultEntry{Fault::HttpLate, "httpLate", FaultValue::Number},
     FaultEntry{Fault::HttpSlow, "httpSlow", FaultValue::Number},
     FaultEntry{Fault::HttpBroken, "httpBroken", FaultValue::None},

@@ -47,6 +47,7 @@ enum class Fault
     SlowAnswers,           ///< logins and requests are answered `number` ms late
     RefusesConnections,    ///< nothing listens at the device's ports; searches are answered
     PasswordChangesAfter,  ///< takes a password `number` times, then has other ones
+    Sha256Last,            ///< asks for a login by Digest with MD5 first, then with SHA-256
     // Answers over HTTP to a right password:
     HttpLate,         ///< come `number` ms late
     HttpSlow,         ///< come at one byte a second for `number` s

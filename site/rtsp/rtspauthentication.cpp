@@ -35,10 +35,9 @@ gboolean checkLogin(const site::RtspDevice &device, GstRTSPContext *context)
     const std::optional<SceneDevice> asked = parts.site.device(device.mac);
     if (!asked)
         return FALSE;
-    // Players know MD5 alone, so that devices that ask for more elsewhere offer it here.
+    // Players know MD5 alone and most take the last challenge, so that every device offers it here, and last.
     site::DeviceManner manner = parts.options.mannerOf(*asked);
     manner.offersMd5 = true;
-    manner.offersSha256 = false;
     const std::int64_t now = parts.site.clock().now();
     gchar *header = nullptr;
     gst_rtsp_message_get_header(context->request, GST_RTSP_HDR_AUTHORIZATION, &header, 0);
