@@ -3912,6 +3912,14 @@ File path: </translation>
         <source>已取消</source>
         <translation>Cancelled</translation>
     </message>
+    <message>
+        <source>该地址上应答的是其他设备</source>
+        <translation>Another device answers at the address</translation>
+    </message>
+    <message>
+        <source>设备已接受，但结果未确认</source>
+        <translation>Taken by the device, not confirmed</translation>
+    </message>
 </context>
 <context>
     <name>SearchReportDialog</name>
@@ -5581,6 +5589,10 @@ File path: </translation>
     <message>
         <source>播放失败</source>
         <translation>Playback failed</translation>
+    </message>
+    <message>
+        <source>播放失败：%1</source>
+        <translation>Playing failed: %1</translation>
     </message>
     <message>
         <source>与设备的连接已中断</source>

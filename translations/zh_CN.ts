@@ -3864,6 +3864,14 @@
         <source>已取消</source>
         <translation>已取消</translation>
     </message>
+    <message>
+        <source>该地址上应答的是其他设备</source>
+        <translation>该地址上应答的是其他设备</translation>
+    </message>
+    <message>
+        <source>设备已接受，但结果未确认</source>
+        <translation>设备已接受，但结果未确认</translation>
+    </message>
 </context>
 <context>
     <name>SearchReportDialog</name>
@@ -5523,6 +5531,10 @@
     <message>
         <source>播放失败</source>
         <translation>播放失败</translation>
+    </message>
+    <message>
+        <source>播放失败：%1</source>
+        <translation>播放失败：%1</translation>
     </message>
     <message>
         <source>与设备的连接已中断</source>

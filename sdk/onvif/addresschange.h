@@ -17,9 +17,10 @@ struct AddressOrder
     std::string gateway = {}; ///< empty for none
     bool dhcp = false;
     std::string mac = {}; ///< of the device, empty if it is not known
-    /// How long a device may take until it answers at its new address, without and with a reboot.
-    std::chrono::milliseconds settlingTime{10000};
-    std::chrono::milliseconds rebootTime{90000};
+    /// How long a device may take until it answers at its new address, without and with a reboot. This computer
+    /// sends to the device that had the address before for most of a minute.
+    std::chrono::milliseconds settlingTime{60000};
+    std::chrono::milliseconds rebootTime{120000};
 };
 
 /// Logs in to the device and changes the address, and reboots the device if it asks for that. Succeeds when the
