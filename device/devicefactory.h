@@ -156,8 +156,8 @@ public:
 
     /// Sees to it, without holding up the scene, that there is a session with the device: the current one,
     /// where the device answers in it, else that of a new login. signalSessionOpened tells the end, unless
-    /// another device is logged in to or asked for meanwhile. A login that the device has refused in its session
-    /// is sent again only if `isGivenNow`: the user has just given it.
+    /// another device is logged in to or asked for meanwhile. A login that the device has refused in its
+    /// session is sent again only if `isGivenNow`: the user has just given it.
     Q_INVOKABLE void openSession(const QString &family, const QString &ipport, const QString &account,
                                  const QString &password, bool readsChannels, bool isGivenNow = false);
     /// Gives up what openSession() began.

@@ -44,8 +44,8 @@ QString failureText(std::uint32_t error)
     if (code == sdk::NetError::DeviceBusy)
         return resultName(deviceBusy);
     const LoginResult result = loginResultOf(error);
-    const bool isNamed = result != LoginResult::NetworkFailure || isDeviceAway(error) ||
-                         code == sdk::NetError::ConnectFailed;
+    const bool isNamed =
+        result != LoginResult::NetworkFailure || isDeviceAway(error) || code == sdk::NetError::ConnectFailed;
     return isNamed ? resultName(resultCode(result)) : QString();
 }
 
@@ -81,7 +81,8 @@ VideoItem::~VideoItem()
 
 bool VideoItem::start()
 {
-    return prepare() && take(StreamOpening::ask(m_libraries.decoder ? m_libraries.net.get() : nullptr, order()));
+    return prepare() &&
+           take(StreamOpening::ask(m_libraries.decoder ? m_libraries.net.get() : nullptr, order()));
 }
 
 void VideoItem::startInBackground()

@@ -5592,7 +5592,7 @@ File path: </translation>
     </message>
     <message>
         <source>播放失败：%1</source>
-        <translation>Playing failed: %1</translation>
+        <translation>Playback failed: %1</translation>
     </message>
     <message>
         <source>与设备的连接已中断</source>

@@ -27,7 +27,8 @@ SessionAnswer askInSession(const ConfigSession &session)
     if (isLoginRefused(error))
         return SessionAnswer::Refused;
     // A device that restarts accepts no connections for a while.
-    const bool isAway = isDeviceAway(error) || error == static_cast<std::uint32_t>(sdk::NetError::ConnectFailed);
+    const bool isAway =
+        isDeviceAway(error) || error == static_cast<std::uint32_t>(sdk::NetError::ConnectFailed);
     return isAway ? SessionAnswer::Away : SessionAnswer::Answers;
 }
 

@@ -28,11 +28,11 @@ struct SessionOffer
         channels; ///< as liveChannels() has them, where they were asked for or the login is a new one
 };
 
-/// Whether the device answers in the session, also when it refuses a request. Blocks for up to two seconds; any
-/// thread.
+/// Whether the device answers in the session, also when it refuses a request. Blocks for up to two seconds;
+/// any thread.
 [[nodiscard]] bool answersInSession(const ConfigSession &session);
 
 /// Asks the device in the session that there is, and logs in to it when it does not answer there: after a
-/// restart it has forgotten the session. A login that the device has refused is not sent again: the result then
-/// is SessionEnded, or the refusal. Blocks for the waits of the library; any thread.
+/// restart it has forgotten the session. A login that the device has refused is not sent again: the result
+/// then is SessionEnded, or the refusal. Blocks for the waits of the library; any thread.
 [[nodiscard]] SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order);

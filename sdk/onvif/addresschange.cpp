@@ -36,7 +36,8 @@ enum class Presence
 {
     Silent,
     Same,
-    Other, ///< another device, which does not know the account, or does not have the key or the MAC of this one
+    Other, ///< another device, which does not know the account, or does not have the key or the MAC of this
+           ///< one
 };
 
 /// A device at its new address.
@@ -217,7 +218,8 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
         return result.error; // where it is now, only a search can say
 
     MovedDevice moved(*session, http, order.address, std::move(macs));
-    const auto latest = std::chrono::steady_clock::now() + (needsReboot ? order.rebootTime : order.settlingTime);
+    const auto latest =
+        std::chrono::steady_clock::now() + (needsReboot ? order.rebootTime : order.settlingTime);
     switch (moved.wait(std::max(deadline, latest))) {
     case Presence::Silent:
         return NetError::Unconfirmed;

@@ -67,8 +67,11 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
         };
         NetError error = NetError::None;
         handle = m_streams.open(loginHandle, profile, order, onRefusal, error);
-        if (error == NetError::WrongPassword)
-            return session.client().refusal().value_or(NetError::NetworkFailure);
+        if (error == NetError::WrongPassword) {
+            session.client().setRefused(login); // the stream's thread may not have come to it yet
+            return session.client().refusal().value_or(
+                NetError::NetworkFailure); // none: it was an old password
+        }
         return error;
     });
     if (!isStarted)

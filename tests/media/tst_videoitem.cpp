@@ -134,7 +134,6 @@ private Q_SLOTS:
         QCOMPARE(m_fake->calls.take(), (QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"}));
         m_item->stop();
         m_fake->calls.take();
-
     }
 
     void saysWhyThereIsNoStream_data()

@@ -41,14 +41,15 @@ struct SoapAnswer
 /// Calls operations of one device with one account. Several threads may use it.
 ///
 /// The first request that needs a login is sent without one: the refusal says which method the device takes.
-/// So a wrong password is sent once, not once for each method. Until the device has accepted the password, one
-/// call at a time sends it. After the device has refused the password, no further call sends it: each fails
-/// with WrongPassword, with SessionEnded if the password was right before, or with AccountLocked.
+/// So a wrong password is sent once, not once for each method. Until the device has accepted the password,
+/// one call at a time sends it. After the device has refused the password, no further call sends it: each
+/// fails with WrongPassword, with SessionEnded if the password was right before, or with AccountLocked.
 ///
 /// A refusal counts for the password that was sent: when it has been changed meanwhile, the call is repeated.
-/// When the password was right before, two other reasons are ruled out first. The clock of the device may have
-/// been set, which makes tokens invalid: it is read again. The account may lack the right for the operation:
-/// then the device still accepts the operation that has proved the password, and the call fails with Refused.
+/// When the password was right before, two other reasons are ruled out first. The clock of the device may
+/// have been set, which makes tokens invalid: it is read again. The account may lack the right for the
+/// operation: then the device still accepts the operation that has proved the password, and the call fails
+/// with Refused.
 class SoapClient
 {
 public:

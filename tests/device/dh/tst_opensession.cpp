@@ -125,7 +125,8 @@ private Q_SLOTS:
         QVERIFY(checked.wait());
         QCOMPARE(checked.first().first().toBool(), false);
 
-        m_site->factory->openSession("dh", ipportOf(m_recorder), "admin", "secret1", true, true); // by the user
+        m_site->factory->openSession("dh", ipportOf(m_recorder), "admin", "secret1", true,
+                                     true); // by the user
         QVERIFY(m_opened->wait());
         QCOMPARE(m_opened->last().at(1).toInt(), 2);
         QCOMPARE(m_site->asked("NetLoginSecure").size(), 1);

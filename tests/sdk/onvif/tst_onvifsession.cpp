@@ -29,17 +29,18 @@ enum class Manner
     NotPermitted, ///< as with a wrong password
 };
 
-/// Manners of operations by their names; at the new address by "new NAME", and with an account that was made by
-/// "after NAME". "*" stands for the others.
+/// Manners of operations by their names; at the new address by "new NAME", and with an account that was made
+/// by "after NAME". "*" stands for the others.
 using Manners = QHash<QByteArray, Manner>;
 
 QByteArray contentOf(const QByteArray &operation, bool needsReboot)
 {
     const QHash<QByteArray, QByteArray> contents = {
-        {"GetSystemDateAndTime",
-         "<d:SystemDateAndTime><t:DateTimeType>Manual</t:DateTimeType><t:UTCDateTime><t:Time><t:Hour>1</t:Hour>"
-         "<t:Minute>2</t:Minute><t:Second>3</t:Second></t:Time><t:Date><t:Year>2030</t:Year><t:Month>4</t:Month>"
-         "<t:Day>5</t:Day></t:Date></t:UTCDateTime></d:SystemDateAndTime>"},
+        {"GetSystemDateAndTime", "<d:SystemDateAndTime><t:DateTimeType>Manual</"
+                                 "t:DateTimeType><t:UTCDateTime><t:Time><t:Hour>1</t:Hour>"
+                                 "<t:Minute>2</t:Minute><t:Second>3</t:Second></t:Time><t:Date><t:Year>2030</"
+                                 "t:Year><t:Month>4</t:Month>"
+                                 "<t:Day>5</t:Day></t:Date></t:UTCDateTime></d:SystemDateAndTime>"},
         {"GetDeviceInformation", "<d:Model>M</d:Model><d:SerialNumber>S1</d:SerialNumber>"},
         {"GetUsers",
          "<d:User><t:Username>admin</t:Username><t:UserLevel>Administrator</t:UserLevel></d:User>"},
@@ -207,9 +208,9 @@ private Q_SLOTS:
         QFETCH(const int, sent);
         const ScriptedDevice device(manners);
         const auto deadline = std::chrono::steady_clock::now() + 2s;
-        const NetError result = giveFirstPassword(device.service(), std::make_shared<HttpClient>(),
-                                                  {.account = "root", .password = "secret1"},
-                                                  mac.toStdString(), deadline);
+        const NetError result =
+            giveFirstPassword(device.service(), std::make_shared<HttpClient>(),
+                              {.account = "root", .password = "secret1"}, mac.toStdString(), deadline);
         QCOMPARE(code(result), error);
         QCOMPARE(device.requestsWith("secret1"), sent);
     }

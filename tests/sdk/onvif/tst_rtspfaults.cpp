@@ -365,7 +365,8 @@ void TestRtspFaults::refusedLoginEndsARunningStream_data()
     row("number too old for ever", R"(Digest realm="camera", nonce="48", stale=TRUE)", 2);
 }
 
-/// The session is kept alive with the login: after a refusal it must not be sent again, not even as a farewell.
+/// The session is kept alive with the login: after a refusal it must not be sent again, not even as a
+/// farewell.
 void TestRtspFaults::refusedLoginEndsARunningStream()
 {
     QFETCH(const QByteArray, challenge);

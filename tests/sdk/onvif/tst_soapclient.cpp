@@ -132,7 +132,9 @@ private:
 
     const Refusal m_refusal;
     const QByteArray m_status;
-    const RawServer m_server{[this](const RawExchange &exchange) { answer(exchange); }}; // last
+    const RawServer m_server{[this](const RawExchange &exchange) {
+        answer(exchange);
+    }}; // last
 };
 
 const QByteArray wholeAnswer = "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(answerText.size()) +
@@ -216,7 +218,8 @@ private Q_SLOTS:
         };
         const quint32 ended = code(sdk::NetError::SessionEnded);
         const quint32 locked = code(sdk::NetError::AccountLocked);
-        row("missing right", "SetNTP", "NotAuthorized", "400 Bad Request", code(sdk::NetError::Refused), 2, 0);
+        row("missing right", "SetNTP", "NotAuthorized", "400 Bad Request", code(sdk::NetError::Refused), 2,
+            0);
         row("changed password", "Get|Set", "NotAuthorized", "400 Bad Request", ended, 2, ended);
         row("changed password, by status", "Get|Set", "NotAuthorized", "401 Unauthorized", ended, 1, ended);
         row("changed password, by subcode", "Get|Set", "FailedAuthentication", "400 Bad Request", ended, 1,
@@ -237,7 +240,8 @@ private Q_SLOTS:
         const QRegularExpression operations(u"<tds:(%1)"_s.arg(QLatin1String(refused)));
         TokenDevice device(
             [&](const QByteArray &request) {
-                return isChanged && QString::fromLatin1(request).contains(operations) ? subcode : QByteArray();
+                return isChanged && QString::fromLatin1(request).contains(operations) ? subcode
+                                                                                      : QByteArray();
             },
             status);
         QVERIFY(device.call("tds:GetDeviceInformation") == sdk::NetError::None);

@@ -14,8 +14,8 @@ namespace sdk::onvif {
 /// FFmpeg takes answers of any length, as many tracks as are listed, and goes wherever it is sent. Of several
 /// challenges of HTTP Digest it takes the last one, and it knows MD5 only. It writes each line to its log
 /// before it acts on it, and nothing else of an answer, so the lines are read there: the session is
-/// interrupted before harm is done, and challenges that FFmpeg does not know are hidden from it. Belongs to the thread on which it was made: it takes all lines
-/// of that thread.
+/// interrupted before harm is done, and challenges that FFmpeg does not know are hidden from it. Belongs to
+/// the thread on which it was made: it takes all lines of that thread.
 class ReplyWatch
 {
 public:
@@ -56,7 +56,7 @@ private:
     bool m_offersPlainPassword = false;
     bool m_offersDigest = false;
     bool m_isDigestKnown = false;
-    bool m_isStale = false;       ///< the answer refuses a number that was used for too long, not the password
+    bool m_isStale = false; ///< the answer refuses a number that was used for too long, not the password
     bool m_wasStaleBefore = false; ///< the refusal before it was one of these
     bool m_hasSentLogin = false;
     bool m_isPlaying = false;
