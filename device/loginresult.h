@@ -43,8 +43,8 @@ enum class LoginResult : int
 /// longer accepts the login.
 [[nodiscard]] bool isSessionLost(std::uint32_t libraryError);
 
-/// Whether an error of the network library, with or without its high bit, says that the device does not accept
-/// the login: it must not be sent again unless the user gives it.
+/// Whether an error of the network library, with or without its high bit, says that the device does not
+/// accept the login: it must not be sent again unless the user gives it.
 [[nodiscard]] bool isLoginRefused(std::uint32_t libraryError);
 
 /// The result as rows hold it.
