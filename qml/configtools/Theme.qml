@@ -72,6 +72,8 @@ QtObject {
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
     readonly property int toolTipWidth: 360
+    // From a button of a tool bar to below the heading of the table under it.
+    readonly property int toolTipDrop: (toolBarHeight - controlHeight) / 2 + tableHeadHeight
     readonly property int answerWindowWidth: 760
     readonly property int answerTipWidth: 560  // of what a device has said, which has longer lines
 
@@ -79,6 +81,7 @@ QtObject {
     readonly property int treePaneWidth: 344
     readonly property int treeIndent: 22
     readonly property int panelWidth: 640
+    readonly property int clockListHeight: 210
     readonly property int panelLabelWidth: 116
     readonly property int choiceWidth: 200
     readonly property int shortChoiceWidth: 104
@@ -113,9 +116,9 @@ QtObject {
 
     // Widths of table columns, by what they show.
     readonly property int columnNumber: 56
-    readonly property int columnState: 104
+    readonly property int columnState: 114
     readonly property int columnStateMinimum: 32  // the state's dot without its word
-    readonly property int columnName: 146
+    readonly property int columnName: 136
     readonly property int columnType: 68
     readonly property int columnModel: 130
     readonly property int columnAddress: 172
@@ -137,8 +140,14 @@ QtObject {
     readonly property int columnAnswer: 240
     readonly property int columnCommand: 320
     readonly property int columnFile: 132
-    readonly property int columnProgress: 180
-    readonly property int columnUpgradeActions: 148
+    readonly property int columnProgress: 172
+    readonly property int columnUpgradeActions: 140
+    readonly property int columnUpgradeNumber: 44
+    readonly property int columnUpgradeName: 128
+    readonly property int columnUpgradeModel: 100
+    readonly property int columnUpgradeAddress: 160
+    readonly property int columnUpgradeVersion: 96
+    readonly property int columnUpgradeResult: 224
     readonly property int progressWidth: 76  // of a bar in a row
 
     // Type.

@@ -1,5 +1,6 @@
 // The tool tip of the item that it stands in. It comes into being only while it is shown, since a table has
-// hundreds of places for one. A long text is cut, so that it ends within the window and does not hide most of it.
+// hundreds of places for one. A long text is cut, so that it ends within the window and does not hide most of it. It
+// stands below the item; within an item with "tipDrop", as a tool bar above the heading of a table, so much lower.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -13,6 +14,10 @@ Loader {
     property int widest: Theme.toolTipWidth
     readonly property int mostLines: 24
 
+    function dropIn(item) {
+        return item ? item.tipDrop || dropIn(item.parent) : 0;
+    }
+
     width: parent?.width ?? 0
     height: parent?.height ?? 0
     active: shown && text !== ""
@@ -23,7 +28,7 @@ Loader {
 
         parent: root
         x: Math.round((root.width - width) / 2)
-        y: root.height + Theme.half
+        y: root.height + Theme.half + root.dropIn(root.parent)
         margins: Theme.unit
         padding: Theme.unit
         topPadding: 5

@@ -31,6 +31,12 @@ FocusScope {
     property bool subRefused: false  // the channel has no sub stream: the main one is shown in its place
 
     readonly property int zoomLevels: 20
+    readonly property real zoomStep: 1.2  // from one level to the next
+    // The picture as it is shown; the bars at its sides are what it leaves of the view.
+    readonly property real pictureScale: !playing || stretched ? 0
+        : Math.min(width / video.pictureSize.width, height / video.pictureSize.height) * Math.pow(zoomStep, video.zoomLevel)
+    readonly property int sideBar: pictureScale > 0 ? Math.max(0, (width - video.pictureSize.width * pictureScale) / 2) : 0
+    readonly property int topBar: pictureScale > 0 ? Math.max(0, (height - video.pictureSize.height * pictureScale) / 2) : 0
 
     function begin() {
         retry.stop();
@@ -218,9 +224,9 @@ FocusScope {
         }
     }
 
-    Rectangle {  // the channel's name, readable over any picture
-        x: Theme.unit
-        y: Theme.unit
+    Rectangle {  // the channel's name, on the picture and readable over any
+        x: root.sideBar + Theme.unit
+        y: root.topBar + Theme.unit
         width: Math.min(name.implicitWidth + 2 * Theme.unit, parent.width - 2 * x)
         height: Theme.unit * 3
         color: Theme.colours.videoVeil
@@ -240,8 +246,8 @@ FocusScope {
     }
     LiveFigures {
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: Theme.unit
-        x: Theme.unit
+        anchors.bottomMargin: root.topBar + Theme.unit
+        x: root.sideBar + Theme.unit
         visible: root.figuresShown && root.playing
         video: video
     }

@@ -13,6 +13,7 @@ RowLayout {
     required property bool onlyFailed
     required property int upgradingCount  // of the ticked devices
     property alias searchText: searchField.text
+    property int tipDrop: Theme.toolTipDrop
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
     signal ipv6Chosen(bool ipv6)
@@ -138,7 +139,7 @@ RowLayout {
     }
     OVSegmentedChoice {
         currentIndex: root.ipv6 ? 1 : 0
-        options: [{text: "IPV4", objectName: "ipv4Choice"}, {text: "IPV6", objectName: "ipv6Choice"}]
+        options: [{text: qsTr("IPV4"), objectName: "ipv4Choice"}, {text: qsTr("IPV6"), objectName: "ipv6Choice"}]
         onActivated: index => root.ipv6Chosen(index === 1)
     }
     OVTextField {

@@ -28,7 +28,7 @@ OVTable {
         {key: "num", title: "No.", width: Theme.columnNumber, cell: numberCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true, cell: modelCell},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, sortable: true, cell: addressCell},
-        {key: "result", title: " ", width: Theme.columnAnswer, stretch: 4, cell: answerCell},
+        {key: "result", title: qsTr("应答"), width: Theme.columnAnswer, stretch: 4, cell: answerCell},
         {key: "url", title: qsTr("Url路径"), width: Theme.columnCommand, stretch: 5, cell: commandCell},
         {key: "operate", title: qsTr("操作"), width: Theme.columnShortActions, cell: actionCell}
     ]

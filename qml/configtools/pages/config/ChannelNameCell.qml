@@ -34,7 +34,8 @@ OVTableCell {
         onTriggered: root.take()
     }
 
-    Rectangle {
+    Rectangle {  // beside the field, which begins where the heading does
+        x: -Theme.unit
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.changeMark
         height: width
@@ -48,9 +49,8 @@ OVTableCell {
     }
     OVTextField {
         id: field
-        x: Theme.changeMark + Theme.half
         y: Theme.line
-        width: root.width - x - Theme.unit
+        width: root.width - Theme.unit
         accessibleName: qsTr("通道 %1 的名称").arg(root.rowIndex + 1)
         objectName: "channelName" + root.rowIndex
         onActiveFocusChanged: {
