@@ -147,7 +147,9 @@ public:
     // does the same on the caller's thread. A step may be run until the back end ends. Of a family that does
     // not have the operation it is one that does nothing and ends with LoginResult::NotSupported.
 
-    /// Of systemConfig(). With "timeOfRequest" in `data`, "time" is that of the device's own request.
+    /// Of systemConfig(). With "timeOfRequest" in `data`, "time" is that of the device's own request. The
+    /// command "readTime" asks for the device's clock: the text of the outcome is its time, compared with
+    /// this computer's.
     virtual DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport);
     /// Of setInitAccount().
     virtual DeviceStep initialisationStep(const QString &mac, const QString &account,

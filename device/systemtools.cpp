@@ -1,9 +1,12 @@
 #include "device/systemtools.h"
 
+#include "device/ipv4address.h"
 #include "device/passwordstrength.h"
 
 #include <QDateTime>
+#include <QHostAddress>
 #include <QRegularExpression>
+#include <QUrl>
 
 #include <optional>
 
@@ -48,6 +51,24 @@ int SystemTools::timeZoneIndex(const QString &text) const
 QString SystemTools::timeOfThisComputer() const
 {
     return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+bool SystemTools::isHost(const QString &text) const
+{
+    constexpr qsizetype longestName = 253;
+    if (ipv4Number(text))
+        return true;
+    if (text.contains(QLatin1Char(':')))
+        return !text.contains(QLatin1Char('%')) &&
+               QHostAddress(text).protocol() == QAbstractSocket::IPv6Protocol;
+    // Names in other scripts have a form in letters, digits and hyphens. The last label is not all digits:
+    // that is an address with a slip.
+    static const QRegularExpression name(
+        QStringLiteral("^(?!-)[a-z0-9-]{1,63}(?<!-)(\\.(?!-)[a-z0-9-]{1,63}(?<!-))*\\.?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression digits(QStringLiteral("(^|\\.)\\d+\\.?$"));
+    const QString ascii = QString::fromLatin1(QUrl::toAce(text));
+    return ascii.size() <= longestName && name.match(ascii).hasMatch() && !digits.match(ascii).hasMatch();
 }
 
 SystemTools::PasswordFault SystemTools::newPasswordFault(const QString &password,

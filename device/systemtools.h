@@ -32,6 +32,9 @@ public:
     /// The time of this computer as "yyyy-MM-dd HH:mm:ss".
     Q_INVOKABLE [[nodiscard]] QString timeOfThisComputer() const;
 
+    /// Whether a device can look for a server by this text: an IPv4 or IPv6 address, or a host name.
+    Q_INVOKABLE [[nodiscard]] bool isHost(const QString &text) const;
+
     Q_INVOKABLE [[nodiscard]] PasswordFault newPasswordFault(const QString &password,
                                                              const QString &confirmation) const;
 };

@@ -283,6 +283,7 @@ private:
     StepOutcome noteResult(const QString &mac, LoginResult result);
 
     // On any thread, and block it for the waits of the library. Return a result.
+    StepOutcome readClock(const QString &ipport, const Credentials &credentials, const StepControl &control);
     StepOutcome performOn(const QString &ipport, const Credentials &credentials, const QString &command,
                           const QVariantMap &data, const StepControl &control);
     int checkPassword(const QString &ipport, const QString &account, const QString &password);

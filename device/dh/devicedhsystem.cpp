@@ -1,6 +1,7 @@
 // System configuration: one maintenance action on each device of a list.
 #include "device/devicerow.h"
 #include "device/devicestore.h"
+#include "device/dh/deviceclock.h"
 #include "device/dh/devicedh.h"
 #include "device/dh/securelogin.h"
 #include "device/dh/systemaction.h"
@@ -81,6 +82,10 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
                 outcome.text = tr("设备没有应答，密码可能已修改");
             return outcome;
         };
+    else if (command == QLatin1String("readTime"))
+        perform = [this, ipport, credentials](const StepControl &control) {
+            return readClock(ipport, credentials, control);
+        };
     else
         perform = [this, command, data, ipport, credentials](const StepControl &control) {
             return performOn(ipport, credentials, command, data, control);
@@ -118,6 +123,29 @@ StepOutcome CDeviceDH::performOn(const QString &ipport, const Credentials &crede
             outcome.text = tr("设备没有应答");
         else if (action && !isDone)
             outcome.text = reasonOf(m_libraries.net->NetGetLastError());
+    }
+    m_libraries.net->NetLogout(login.handle);
+    return outcome;
+}
+
+StepOutcome CDeviceDH::readClock(const QString &ipport, const Credentials &credentials,
+                                 const StepControl &control)
+{
+    const SecureLogin login =
+        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
+    StepOutcome outcome = {.result = resultCode(login.result), .text = {}};
+    if (login.result != LoginResult::Success)
+        return outcome;
+    outcome.result = resultCode(LoginResult::NotDone);
+    if (!control.shouldEnd()) {
+        if (const std::optional<QDateTime> time = readDeviceClock(*m_libraries.net, login.handle)) {
+            outcome.result = resultCode(LoginResult::Success);
+            outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
+        } else {
+            outcome.result = refusedByDevice;
+            outcome.isUnanswered = isDeviceAway(m_libraries.net->NetGetLastError());
+            outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
+        }
     }
     m_libraries.net->NetLogout(login.handle);
     return outcome;

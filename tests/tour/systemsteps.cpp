@@ -105,6 +105,12 @@ void walkTime(Driver &driver)
     driver.report(u"system-no-time"_s, u"a day that there is not"_s);
     driver.fill(u"manualTimeField"_s, u"2024-02-29 10:00:00"_s);
     apply(driver, u"setTimeByManualButton"_s, {0, 0, 0});
+    apply(driver, u"readTimeButton"_s, {0, 0, 0});
+    driver.await(u"the clocks of the devices are listed"_s, [&driver] {
+        return driver.find(u"clockTable"_s) &&
+               driver.require(u"clockTable"_s)->property("count").toInt() == 3;
+    });
+    driver.report(u"system-clocks"_s, u"the time of three devices"_s);
 }
 
 void walkZone(Driver &driver)
@@ -121,6 +127,8 @@ void walkZone(Driver &driver)
 
     driver.click(u"ntpSetBox"_s);
     expectRefusal(driver, u"ntpApplyButton"_s, "SystemZonePanel", "请输入NTP服务器");
+    driver.fill(u"ntpServerField"_s, u"time server"_s);
+    expectRefusal(driver, u"ntpApplyButton"_s, "SystemZonePanel", "请输入正确的IP地址或域名");
     driver.fill(u"ntpServerField"_s, u"192.168.1.1"_s);
     driver.fill(u"ntpPortField"_s, u"70000"_s);
     driver.check(driver.text(u"ntpPortField"_s) == u"65535"_s,
@@ -129,6 +137,11 @@ void walkZone(Driver &driver)
     driver.click(u"timeZoneBox"_s);
     driver.report(u"system-time-zones"_s, u"the zones of devices"_s);
     driver.click(u"choice1"_s);
+    driver.fill(u"updatePeriodField"_s, u"0"_s);
+    driver.click(u"ntpApplyButton"_s);
+    driver.report(u"system-no-period"_s, driver.text(u"messageText"_s));
+    driver.click(u"cancelButton"_s);
+    driver.fill(u"updatePeriodField"_s, u"10"_s);
     driver.click(u"ntpApplyButton"_s);
     driver.require(u"previewTable"_s);
     driver.click(u"check2"_s);

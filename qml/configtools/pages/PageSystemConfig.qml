@@ -20,6 +20,7 @@ FocusScope {
     property string passwordTicks  // the ticked devices when the old password was checked
     property var checkedWhenAsked: []  // the devices of the last command
     property var leftOut: []  // of the last change of passwords
+    property var clocks: ({})  // what the devices answered that were asked for their time, by device
 
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
@@ -70,6 +71,7 @@ FocusScope {
         if (!batch.run(command, title, targets, data))
             return;
         checkedWhenAsked = targets;
+        clocks = {};
         devices.clearResults();
     }
 
@@ -92,8 +94,20 @@ FocusScope {
         });
     }
 
+    function noteClocks(ipports, results) {
+        if (batch.command !== "readTime")
+            return;
+        const texts = batch.batch.textsOf(ipports);
+        ipports.forEach((ipport, place) => {
+            const text = texts[place] ?? "";
+            clocks[ipport] = text !== "" ? text : deviceFactory.getErrorName(results[place]);
+        });
+    }
+
     function takeEnd() {
-        if (batch.command === "loginCheck" && batch.report.waiting > 0)
+        if (batch.command === "readTime")
+            panels.clocks = checkedWhenAsked.filter(device => clocks[device] !== undefined).map(device => ({device: device, clock: clocks[device]}));
+        else if (batch.command === "loginCheck" && batch.report.waiting > 0)
             askForNewPassword();
         else if (batch.command === "modifyPassword")
             takeChangedPasswords();
@@ -122,7 +136,10 @@ FocusScope {
         batches: page.batches
         onFinished: page.takeEnd()
         onRetried: page.checkedWhenAsked = Array.from(devices.checkedDevices)
-        onResulted: (ipports, results) => devices.takeResults(ipports, results, [])
+        onResulted: (ipports, results) => {
+            page.noteClocks(Array.from(ipports), Array.from(results));
+            devices.takeResults(ipports, results, []);
+        }
     }
     OVBatchRefusals {
         batches: page.batches

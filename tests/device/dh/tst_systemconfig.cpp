@@ -180,6 +180,22 @@ private Q_SLOTS:
                  "0|1|31|false|dd.MM.yyyy"); // what it does not change stays
     }
 
+    void aClockIsReadWithItsDifference()
+    {
+        const auto read = [this](const QString &device) {
+            return m_factory->systemStep("dh", "readTime", {}, device)(StepControl());
+        };
+        const QDateTime ahead = QDateTime::currentDateTime().addSecs(3 * 3600 + 90);
+        run("setTimeByManual", {{"time", ahead.toString("yyyy-MM-dd HH:mm:ss")}});
+        const StepOutcome outcome = read(camera);
+        QCOMPARE(outcome.result, 0);
+        // Time passes on the site as fast as requests wait.
+        const QRegularExpression text("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d，快 3 小时 1 分$");
+        QVERIFY2(text.match(outcome.text).hasMatch(), qPrintable(outcome.text));
+        QCOMPARE(read(absent), (StepOutcome{.result = 5, .text = {}}));
+        QCOMPARE(asked("NetLogout"), asked("NetLoginSecure") - 1);
+    }
+
     void aResetMakesTheDeviceFactoryNew()
     {
         run("ntpConfig", ntp());

@@ -85,6 +85,34 @@ private Q_SLOTS:
         row("video standard 2", 5, {{standard, 1}}, "videoStandardButton", "standard=2");
     }
 
+    void aServerThatCannotBeOneIsNotSent_data()
+    {
+        const auto row = dataTable<QString, bool>({"server", "sent"});
+        row("address", "192.168.1.1", true);
+        row("IPv6 address", "fd00::1", true);
+        row("name in another script", QString::fromUtf8("时间.example"), true);
+        row("address with a slip", "192.168.1.300", false);
+        row("two words", "time server", false);
+        row("empty label", "time..example", false);
+        row("hyphen at the end", "time-.example", false);
+        row("broken IPv6 address", "fd00::1::2", false);
+    }
+
+    void aServerThatCannotBeOneIsNotSent()
+    {
+        QFETCH(QString, server);
+        m_window->findChild<QObject *>("panels")->setProperty("currentPanel", 1);
+        m_window->findChild<QObject *>("timeZoneBox")->setProperty("currentIndex", 12);
+        m_window->findChild<QObject *>("ntpSetBox")->setProperty("checked", true);
+        QObject *field = m_window->findChild<QObject *>("ntpServerField");
+        QVERIFY(field->setProperty("text", server));
+        m_site.site->requests().clear();
+        QVERIFY(QMetaObject::invokeMethod(m_window->findChild<QObject *>("ntpApplyButton"), "press"));
+        QFETCH(bool, sent);
+        QCOMPARE(m_site.asked("NetSetNewConfig").size(), sent ? 1 : 0);
+        QCOMPARE(field->property("errorText").toString().isEmpty(), sent);
+    }
+
     void fieldsAreSentAsTheyStand()
     {
         QFETCH(int, panel);

@@ -16,6 +16,7 @@ Rectangle {
 
     // What the network library can do at all.
     readonly property var functions: deviceFactory.getConfigData("dh", "library", 0)
+    property alias clocks: timePanel.clocks
     signal actionRequested(string command, string title, var data)
     signal rebootRequested
     signal resetRequested
@@ -69,6 +70,7 @@ Rectangle {
             height: children[root.currentPanel].height
 
             SystemTimePanel {
+                id: timePanel
                 width: stack.width
                 available: root.available
                 timeZone: root.timeZone

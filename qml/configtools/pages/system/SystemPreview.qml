@@ -10,7 +10,7 @@ Item {
     signal refused(string message)
 
     // Devices are asked for their clocks often, and nothing is lost: these commands are sent at once.
-    readonly property var harmless: ["setTimeByPC", "setTimeByManual", "loginCheck"]
+    readonly property var harmless: ["setTimeByPC", "setTimeByManual", "readTime", "loginCheck"]
 
     /// What a command does to a device.
     function happens(command, title, data) {
@@ -41,13 +41,16 @@ Item {
         const what = happens(command, title, data);
         if (command === "rebootDevice")
             dialog.wanted().ask(qsTr("确定要重启选中的 %n 台设备吗？", "", ipports.length), what, ipports,
-                                {okText: qsTr("重启"), danger: true, action: send});
+                                {title: title, okText: qsTr("重启"), danger: true, action: send});
+        else if (command === "ntpConfig" && data.ntpSet && data.updatePeriod === 0)
+            dialog.wanted().ask(qsTr("更新周期为 0 分钟，设备可能不再校时。仍要应用到选中的 %n 台设备吗？", "", ipports.length), what,
+                                ipports, {title: title, okText: qsTr("仍然应用"), danger: true, action: send});
         else if (command === "resetSystem")
             dialog.wanted().ask(qsTr("确定要将选中的 %n 台设备恢复出厂设置吗？", "", ipports.length), what, ipports,
-                                {okText: title, danger: true, action: send});
+                                {title: title, okText: title, danger: true, action: send});
         else
             dialog.wanted().ask(qsTr("将对下列设备执行“%1”：").arg(title), what, ipports,
-                                {okText: qsTr("执行"), listed: true, quick: true, subject: command, action: send});
+                                {title: title, okText: qsTr("执行"), listed: true, quick: true, subject: command, action: send});
     }
 
     /// Closes the question about a command whose time is over.

@@ -7,10 +7,12 @@ Column {
 
     required property bool available
     required property string timeZone
+    property var clocks: []  // maps of "device" and "clock", of the devices that were last asked for their time
     signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
     spacing: Theme.pageMargin * 1.5
+    onClocksChanged: clockRows.setNumberedRows(clocks)
 
     Timer {
         interval: 1000
@@ -18,6 +20,16 @@ Column {
         running: root.visible
         triggeredOnStart: true
         onTriggered: clock.text = SystemTools.timeOfThisComputer()
+    }
+
+    DeviceSelection {
+        id: clockRows
+    }
+    Component {
+        id: figureCell
+        OVTableTextCell {
+            font: Theme.figureFont
+        }
     }
 
     OVSection {
@@ -87,6 +99,32 @@ Column {
                 toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
                 onClicked: root.applyByHand()
             }
+        }
+    }
+    OVSection {
+        width: parent.width
+        title: qsTr("设备时间")
+
+        OVActionRow {
+            OVButton {
+                enabled: root.available
+                objectName: "readTimeButton"
+                text: qsTr("读取设备时间")
+                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                onClicked: root.actionRequested("readTime", qsTr("读取设备时间"), {})
+            }
+        }
+        OVTable {
+            width: parent.width
+            height: Math.min(Theme.clockListHeight, Theme.tableHeadHeight + root.clocks.length * Theme.rowHeight + Theme.unit)
+            checkable: false
+            columns: [
+                {key: "device", title: qsTr("设备"), width: Theme.columnAddress, cell: figureCell},
+                {key: "clock", title: qsTr("设备时间"), width: Theme.columnAddress, stretch: 1}
+            ]
+            model: clockRows
+            objectName: "clockTable"
+            visible: root.clocks.length > 0
         }
     }
 

@@ -14,7 +14,7 @@ Column {
 
     readonly property string zoneComplaint: zoneBox.currentIndex >= 0 ? ""
         : qsTr("设备没有本机的时区 %1，请选择时区").arg(timeZone)
-    readonly property string ntpComplaint: zoneComplaint !== "" ? zoneComplaint : ntpBox.checked && serverField.text.trim() === "" ? qsTr("请输入NTP服务器")
+    readonly property string ntpComplaint: zoneComplaint !== "" ? zoneComplaint : ntpBox.checked && serverField.errorText !== "" ? serverField.errorText
         : !portField.acceptable ? portField.complaint : !periodField.acceptable ? periodField.complaint : ""
 
     spacing: Theme.pageMargin
@@ -71,7 +71,8 @@ Column {
                 id: serverField
                 width: Theme.choiceWidth
                 accessibleName: qsTr("NTP服务器")
-                errorText: ntpBox.checked && text.trim() === "" ? qsTr("请输入NTP服务器") : ""
+                errorText: !ntpBox.checked || SystemTools.isHost(text.trim()) ? ""
+                    : text.trim() === "" ? qsTr("请输入NTP服务器") : qsTr("请输入正确的IP地址或域名")
                 maximumLength: 255
                 objectName: "ntpServerField"
                 placeholderText: qsTr("地址或域名")
