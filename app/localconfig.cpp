@@ -193,13 +193,27 @@ int CLocalConfig::upgradesAtOnce() const
     return wanted >= 1 && wanted <= most ? wanted : usual;
 }
 
+void CLocalConfig::setUpgradesAtOnce(int count)
+{
+    setValue(upgradesAtOnceKey, QString::number(count));
+}
+
 void CLocalConfig::reboot()
+{
+    // arguments() begins with the program's own name, which the new process gets from startDetached().
+    restart(QCoreApplication::arguments().mid(1));
+}
+
+void CLocalConfig::openDemoSite()
+{
+    restart({QStringLiteral("--demo")});
+}
+
+void CLocalConfig::restart(const QStringList &arguments)
 {
     // Freed first, so that the new process can take it.
     m_instanceLock.reset();
-    // arguments() begins with the program's own name, which the new process gets from startDetached().
-    QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1),
-                            QString());
+    QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments, QString());
     QCoreApplication::quit();
 }
 

@@ -52,6 +52,8 @@ public:
     Q_INVOKABLE void setSearchLogsIn(bool logsIn);
     /// Starts the program again with the same arguments and quits this process.
     Q_INVOKABLE void reboot();
+    /// Starts the program on the demo site and quits this process.
+    Q_INVOKABLE void openDemoSite();
     Q_INVOKABLE [[nodiscard]] QString getVersion() const;
     Q_INVOKABLE [[nodiscard]] QString getSoftwareName() const;
     Q_INVOKABLE [[nodiscard]] QString getLogoSoftwareName() const;
@@ -67,8 +69,9 @@ public:
     [[nodiscard]] int devicesAtOnce() const;
 
     /// How many devices may be upgraded at the same time: 1 to 16, and 4 when the file says nothing else, or
-    /// something that is no such number. Nobody but the user writes it.
-    [[nodiscard]] int upgradesAtOnce() const;
+    /// something that is no such number.
+    Q_INVOKABLE [[nodiscard]] int upgradesAtOnce() const;
+    Q_INVOKABLE void setUpgradesAtOnce(int count);
 
     void setCurrentLanguage(const QString &code);
     [[nodiscard]] bool hasTranslation(const QString &code) const;
@@ -87,6 +90,7 @@ private:
     void writeDefaults();
     [[nodiscard]] QString translationFile(const QString &code) const;
     void openDocument(const QString &name) const;
+    void restart(const QStringList &arguments);
 
     QString m_currentLanguage;
     const QString m_directory;

@@ -18,7 +18,7 @@
 
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<CertificateStore> &certificates,
-                    const std::shared_ptr<sdk::NetLibrary> &net)
+                    const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo)
 {
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
@@ -51,4 +51,6 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("SearchReportsApi"), new SearchReports(net, &engine));
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());
     context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), net != nullptr);
+    context->setContextProperty(QStringLiteral("demoSite"), demo.isShown);
+    context->setContextProperty(QStringLiteral("demoSiteAccount"), demo.account);
 }

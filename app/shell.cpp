@@ -32,6 +32,7 @@
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
+#include <algorithm>
 #include <utility>
 
 Q_IMPORT_QML_PLUGIN(AuthorPlugin)
@@ -47,6 +48,19 @@ constexpr int sceneFailed = 1;
 QString translationPath(const QString &code)
 {
     return QLatin1String("./language/") + code + QLatin1String(".qm");
+}
+
+/// The account of most devices of a site, with its password; empty when none has an account.
+QString usualAccount(const sdk::demo::DemoSite &site)
+{
+    QHash<QString, int> devices;
+    site.visitDevices([&devices](const sdk::demo::SceneDevice &device) {
+        if (!device.accounts.isEmpty())
+            ++devices[device.accounts.constFirst().user + QLatin1String(" / ") +
+                      device.accounts.constFirst().password];
+    });
+    const auto most = std::max_element(devices.cbegin(), devices.cend());
+    return most == devices.cend() ? QString() : most.key();
 }
 
 } // namespace
@@ -140,6 +154,7 @@ bool Shell::chooseLibraries()
         OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + error);
         return false;
     }
+    m_demo = {.isShown = true, .account = usualAccount(*site)};
     const std::shared_ptr<sdk::DecoderLibrary> decoder = std::move(m_libraries.decoder);
     m_libraries = site->libraries();
     m_libraries.decoder = decoder;
@@ -187,7 +202,7 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_certificates, m_libraries.net);
+    publishToScene(*m_engine, *m_batchEngine, m_certificates, m_libraries.net, m_demo);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/commandline.h"
+#include "app/publication.h"
 #include "sdk/sdklibraries.h"
 
 #include <QCoreApplication>
@@ -8,10 +9,6 @@
 
 #include <memory>
 #include <optional>
-
-class BatchEngine;
-class CertificateStore;
-class QQmlApplicationEngine;
 
 /// Start-up and clean-up around the event loop, given an application object. Everything on the main thread.
 class Shell
@@ -53,6 +50,7 @@ private:
     QTranslator m_mainTranslator;
     std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which ask it
     sdk::SdkLibraries m_libraries;
+    DemoNotice m_demo;
     std::shared_ptr<BatchEngine> m_batchEngine;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };

@@ -107,6 +107,7 @@ void SearchReports::begin(bool localSegment, const QString &range)
         m_before = std::move(before);
     m_devices = m_missing = 0;
     m_blocks.clear();
+    m_networks.clear();
     Q_EMIT changed();
 }
 
@@ -129,6 +130,7 @@ void SearchReports::end(int devices, bool isStopped)
         if (m_before)
             subtract(report, *m_before);
         m_blocks = SearchReportText::blocksOf(report);
+        m_networks = SearchReportText::networksOf(report);
     }
     Q_EMIT changed();
 }

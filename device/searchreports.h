@@ -24,6 +24,8 @@ class SearchReports : public QObject
     /// dismissed.
     Q_PROPERTY(int missing READ missing NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
+    /// The IPv4 networks of this computer that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty if unknown.
+    Q_PROPERTY(QString networks READ networks NOTIFY changed)
     /// Maps of "title", "lines" (maps of "label" and "value") and "obstacles" (of "text" and "advice").
     Q_PROPERTY(QVariantList blocks READ blocks NOTIFY changed)
     /// The whole report as plain text.
@@ -36,6 +38,7 @@ public:
     [[nodiscard]] bool isAvailable() const { return !m_blocks.isEmpty(); }
     [[nodiscard]] int missing() const { return m_isDismissed ? 0 : m_missing; }
     [[nodiscard]] QString summary() const { return SearchReportText::summaryOf(m_devices, m_missing); }
+    [[nodiscard]] QString networks() const { return m_networks; }
     [[nodiscard]] QVariantList blocks() const;
     [[nodiscard]] QString text() const;
 
@@ -64,5 +67,6 @@ private:
     int m_missing = 0;
     bool m_isDismissed = false;
     QList<SearchReportBlock> m_blocks;
+    QString m_networks;
     QDateTime m_time; ///< of the end of the search
 };

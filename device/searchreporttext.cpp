@@ -1,6 +1,7 @@
 #include "device/searchreporttext.h"
 
 #include "device/devicerow.h"
+#include "device/ipv4address.h"
 #include "sdk/searchreportblocks.h"
 
 #include <QStringList>
@@ -93,6 +94,25 @@ QList<SearchReportBlock> SearchReportText::blocksOf(const sdk::SearchReport &rep
              .obstacles = {{tr("找到的 %1 台设备不在本机的任何网段内").arg(report.foreignDevices),
                             tr("登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。")}}});
     return blocks;
+}
+
+QString SearchReportText::networksOf(const sdk::SearchReport &report)
+{
+    QStringList networks;
+    for (const QList<SearchInterfaceReport> &addresses : interfacesOf(report)) {
+        for (const SearchInterfaceReport &entry : addresses) {
+            const std::optional<std::uint32_t> address = ipv4Number(fieldText(entry.address));
+            constexpr int bits = 32;
+            if (!address || entry.prefixLength < 1 || entry.prefixLength > bits)
+                continue;
+            const std::uint32_t mask = ~std::uint32_t(0) << (bits - entry.prefixLength);
+            const QString network =
+                ipv4Text(*address & mask) + QLatin1Char('/') + QString::number(entry.prefixLength);
+            if (!networks.contains(network))
+                networks.append(network);
+        }
+    }
+    return networks.join(QLatin1String(", "));
 }
 
 SearchReportBlock SearchReportText::interfaceBlock(const QList<SearchInterfaceReport> &addresses)

@@ -40,6 +40,9 @@ public:
     /// one and one for devices of other networks. A number that says nothing has no line.
     [[nodiscard]] static QList<SearchReportBlock> blocksOf(const sdk::SearchReport &report);
 
+    /// The IPv4 networks of the interfaces, each once.
+    [[nodiscard]] static QString networksOf(const sdk::SearchReport &report);
+
     /// What the search has found, in a sentence. `missing` are the devices fewer than the time before.
     [[nodiscard]] static QString summaryOf(int devices, int missing);
 

@@ -15,6 +15,8 @@ T.ApplicationWindow {
     readonly property SearchReports searchReports: SearchReportsApi
     readonly property CertificateList certificates: CertificatesApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
+    readonly property bool simulated: demoSite
+    readonly property string demoAccount: demoSiteAccount  // "" when no device has one
     // qmllint enable unqualified
 
     readonly property alias count: search.count
@@ -72,6 +74,11 @@ T.ApplicationWindow {
     function requestRestart() {
         if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
             leavePage(() => localConfig.reboot());
+    }
+
+    function requestDemo() {
+        if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
+            leavePage(() => localConfig.openDemoSite());
     }
 
     /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
@@ -182,6 +189,10 @@ T.ApplicationWindow {
             Layout.fillWidth: true
             count: window.count
             cursor: window.localConfig
+            //: In the title bar. %1 is a user name and a password.
+            remark: !window.simulated ? "" : window.demoAccount === "" ? qsTr("演示站点")
+                : qsTr("演示站点：%1").arg(window.demoAccount)
+            remarkTip: qsTr("模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。")
             maximised: window.maximised
             searching: window.searching
             title: window.title
@@ -202,8 +213,10 @@ T.ApplicationWindow {
         }
         OVBanner {
             Layout.fillWidth: true
-            text: qsTr("未安装设备库：以 --demo 参数启动可演示模拟站点")
+            linkText: qsTr("打开演示站点")
+            text: qsTr("未安装设备库，无法与设备通信")
             visible: !window.libraryInstalled
+            onLinkActivated: window.requestDemo()
         }
         StackLayout {
             Layout.fillHeight: true
@@ -215,8 +228,10 @@ T.ApplicationWindow {
                 batches: window.batches
                 busyState: window.busyState
                 libraryInstalled: window.libraryInstalled
+                simulated: window.simulated
                 search: window.deviceSearch
                 searchReports: window.searchReports
+                onDemoRequested: window.requestDemo()
                 onLiveRequested: ipport => popups.openLive(ipport)
                 onReportRequested: popups.openSearchReport()
                 onSaid: (message, kind) => popups.say(message, kind)

@@ -65,6 +65,7 @@ private Q_SLOTS:
             dataTable<QStringList, bool, QString, bool>({"arguments", "demo", "scene", "understood"});
         row("nothing", QStringList(), false, "office", true);
         row("scene", QStringList{"--demo", "fleet:20"}, true, "fleet:20", true);
+        row("no demo", QStringList{"--no-demo"}, false, "office", true);
         row("option behind demo", QStringList{"--demo", "--help"}, true, "office", true);
         row("unknown option", QStringList{"--frobnicate"}, false, "office", false);
         row("stray word", QStringList{"office"}, false, "office", false);

@@ -100,6 +100,16 @@ private Q_SLOTS:
         QCOMPARE(SearchReportText::textOf(blocks).remove("  \n"), text);
     }
 
+    void theNetworksAreNamedOnce()
+    {
+        const sdk::SearchReport report = reportOf({{.address = "192.0.2.5"},
+                                                   {.address = "192.0.2.9"},
+                                                   {.address = "fe80::5%eth0"},
+                                                   {.address = ""},
+                                                   {.address = "10.1.2.3"}});
+        QCOMPARE(SearchReportText::networksOf(report), "192.0.2.0/24, 10.1.2.0/24");
+    }
+
     void countsTheAddressesOfOneSearch_data()
     {
         // before: addresses asked before the search; after: at its end, as the library counts

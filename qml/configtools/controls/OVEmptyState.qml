@@ -9,10 +9,14 @@ Item {
     required property string title
     property string hint
     property string actionText
+    property var choices: []  // further buttons beside the action: objects with "text" and "objectName"
     property string linkText  // of what else can be done, below the action
+    property string demoText  // of another link
     property bool busy: false
     signal activated
+    signal chosen(string choice)  // the object name of a further button
     signal linkActivated
+    signal demoActivated
 
     implicitHeight: column.implicitHeight
 
@@ -67,20 +71,48 @@ Item {
             height: Theme.half
             visible: action.visible
         }
-        OVButton {
-            id: action
+        Row {
             anchors.horizontalCenter: parent.horizontalCenter
-            objectName: "emptyActionButton"
-            text: root.actionText
-            visible: root.actionText !== ""
-            onClicked: root.activated()
+            spacing: Theme.unit
+
+            OVButton {
+                id: action
+                objectName: "emptyActionButton"
+                text: root.actionText
+                visible: root.actionText !== ""
+                onClicked: root.activated()
+            }
+            // qmllint disable unqualified
+            Repeater {
+                model: root.choices
+
+                OVButton {
+                    required property var modelData
+
+                    objectName: modelData.objectName
+                    text: modelData.text
+                    onClicked: root.chosen(modelData.objectName)
+                }
+            }
+            // qmllint enable unqualified
         }
-        OVLinkButton {
+        Row {
             anchors.horizontalCenter: parent.horizontalCenter
-            objectName: "emptyLink"
-            text: root.linkText
-            visible: root.linkText !== ""
-            onClicked: root.linkActivated()
+            spacing: Theme.pageMargin
+            visible: root.linkText !== "" || root.demoText !== ""
+
+            OVLinkButton {
+                objectName: "emptyLink"
+                text: root.linkText
+                visible: root.linkText !== ""
+                onClicked: root.linkActivated()
+            }
+            OVLinkButton {
+                objectName: "emptyDemoLink"
+                text: root.demoText
+                visible: root.demoText !== ""
+                onClicked: root.demoActivated()
+            }
         }
     }
 }

@@ -11,6 +11,8 @@ Rectangle {
     required property var cursor  // its cursorPos() is the pointer's position on the screen
     property int count: 0
     property bool searching: false
+    property string remark  // beside the name
+    property string remarkTip
     readonly property alias menuButton: menuButton
     signal searchRequested
     signal settingsRequested
@@ -66,7 +68,28 @@ Rectangle {
         }
     }
 
+    OVLabel {
+        id: remark
+        x: Theme.pageMargin + name.x + name.width + Theme.pageMargin
+        width: Math.max(0, Math.min(implicitWidth, controls.x - x - Theme.pageMargin))
+        height: parent.height
+        color: Theme.colours.barSub
+        font: Theme.hintFont
+        objectName: "titleRemark"
+        showsWholeOnHover: false
+        text: root.remark
+
+        HoverHandler {
+            id: remarkPointer
+        }
+        OVToolTip {
+            shown: remarkPointer.hovered && root.remark !== ""
+            text: root.remarkTip
+        }
+    }
+
     Row {
+        id: controls
         anchors.right: parent.right
         anchors.rightMargin: Theme.unit
         y: (parent.height - Theme.controlHeight) / 2

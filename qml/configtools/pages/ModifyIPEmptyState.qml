@@ -10,7 +10,12 @@ OVEmptyState {
     required property int hiddenCount  // devices that the filters leave out
     required property bool searchesNothing  // the search settings name nothing to search
     property bool hasReport: false  // of the last search, offered by the page
+    property bool helps: false  // the page opens the settings, adds devices and opens the demo site
+    property bool simulated: false
+    property string searched  // the networks of the last search
     signal searchRequested
+    signal addRequested
+    signal demoRequested
     signal settingsRequested
     signal filtersCleared
     signal reportRequested
@@ -25,11 +30,14 @@ OVEmptyState {
         {icon: "filtered", title: qsTr("筛选条件隐藏了全部 %1 台设备").arg(hiddenCount),
             hint: qsTr("放宽筛选条件，或清除搜索文字。"), action: qsTr("清除筛选")},
         {icon: "nothing", title: qsTr("正在搜索设备…"), hint: qsTr("找到的设备会陆续显示在这里。"), action: ""},
-        {icon: "unplugged", title: qsTr("未安装设备库"), hint: qsTr("以 --demo 参数启动可演示模拟站点。"), action: ""},
+        {icon: "unplugged", title: qsTr("未安装设备库"),
+            hint: qsTr("程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。"),
+            action: helps ? qsTr("打开演示站点") : ""},
         {icon: "nothing", title: qsTr("搜索设置中没有选择网段"),
             hint: qsTr("请在搜索设置中选择本地网段或其他网段。"), action: qsTr("搜索设置")},
         {icon: "nothing", title: qsTr("没有找到设备"),
-            hint: qsTr("请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。"), action: qsTr("重新搜索")}
+            hint: (searched === "" ? "" : qsTr("已搜索：%1").arg(searched) + "\n")
+                + qsTr("请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。"), action: qsTr("重新搜索")}
     ]
 
     busy: reason === ModifyIPEmptyState.Searching
@@ -37,13 +45,26 @@ OVEmptyState {
     title: texts[reason].title
     hint: texts[reason].hint
     actionText: texts[reason].action
+    choices: helps && reason === ModifyIPEmptyState.NothingFound
+        ? [{text: qsTr("搜索设置"), objectName: "emptySettingsButton"}, {text: qsTr("按地址添加设备"), objectName: "emptyAddButton"}]
+        : []
+    demoText: helps && !simulated && reason === ModifyIPEmptyState.NothingFound ? qsTr("打开演示站点") : ""
     linkText: reason === ModifyIPEmptyState.NothingFound && hasReport ? qsTr("为什么没有找到设备？") : ""
+    onChosen: choice => {
+        if (choice === "emptySettingsButton")
+            settingsRequested();
+        else
+            addRequested();
+    }
+    onDemoActivated: demoRequested()
     onLinkActivated: reportRequested()
     onActivated: {
         if (reason === ModifyIPEmptyState.Hidden)
             filtersCleared();
         else if (reason === ModifyIPEmptyState.NothingToSearch)
             settingsRequested();
+        else if (reason === ModifyIPEmptyState.NoLibrary)
+            demoRequested();
         else
             searchRequested();
     }

@@ -9,10 +9,12 @@ FocusScope {
     required property BusyState busyState
     required property DeviceSearch search
     required property bool libraryInstalled
+    property bool simulated: false
     required property SearchReports searchReports
     signal searchRequested
     signal reportRequested
     signal settingsRequested
+    signal demoRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind)
 
@@ -127,6 +129,7 @@ FocusScope {
         onlyFailed: devices.onlyFailed
         showInitialised: devices.showInitialised
         showUninitialised: devices.showUninitialised
+        tipDrop: Theme.toolTipDrop + table.y - height
         upgradingCount: devices.checkedUpgradingCount
         onAddFavouriteRequested: adding.openFavourites()
         onAddIpRequested: adding.openIp()
@@ -184,10 +187,15 @@ FocusScope {
         ModifyIPEmptyState {
             anchors.fill: parent
             hasReport: page.searchReports.available
+            helps: true
             hiddenCount: devices.totalCount
             libraryInstalled: page.libraryInstalled
+            simulated: page.simulated
+            searched: page.search.searched
             searching: page.search.running
             searchesNothing: page.search.searchedNothing
+            onAddRequested: adding.openIp()
+            onDemoRequested: page.demoRequested()
             onFiltersCleared: page.clearFilters()
             onReportRequested: page.reportRequested()
             onSearchRequested: page.searchRequested()

@@ -11,6 +11,14 @@ QtObject {
     property int count: 0
     property bool running: false
     property bool searchedNothing: false  // the settings named nothing to search
+    property bool searchesLocal: false  // the last search did
+    property string searchedRange  // of addresses, "" for none
+    /// The networks of the last search, in words.
+    readonly property string searched: {
+        const networks = searchReports.networks;
+        const local = networks === "" ? qsTr("本地网段") : qsTr("本地网段（%1）").arg(networks);
+        return [searchesLocal ? local : "", searchedRange].filter(part => part !== "").join(qsTr("、"));
+    }
     property int percent: 0  // of a search that runs
     property bool stopping: false
     /// The settings of a search that is to follow the running one, null when none is to.
@@ -28,8 +36,9 @@ QtObject {
         stopping = false;
         running = true;
         searchedNothing = !settings.localDomain && !settings.otherDomain;
-        searchReports.begin(settings.localDomain,
-                            settings.otherDomain ? settings.startIP + " - " + settings.endIP : "");
+        searchesLocal = settings.localDomain;
+        searchedRange = settings.otherDomain ? settings.startIP + " - " + settings.endIP : "";
+        searchReports.begin(searchesLocal, searchedRange);
         deviceFactory.setDefaultAccount("dh", settings.userName, settings.password);
         if (settings.otherDomain)
             deviceFactory.setSearchByIPInfo("dh", AddressTools.toNumber(settings.startIP),

@@ -122,7 +122,7 @@ Rectangle {
         hint: root.searchText !== "" ? qsTr("没有设备的名称、类型、型号或地址包含这些文字。")
             : root.devices.onlyFailed ? qsTr("失败的设备不在列表中，见批处理记录。")
             : root.searching ? qsTr("找到的设备会陆续显示在这里。")
-            : !root.libraryInstalled ? qsTr("以 --demo 参数启动可演示模拟站点。")
+            : !root.libraryInstalled ? qsTr("程序无法与设备通信。可在“修改IP”页打开演示站点。")
             : qsTr("只列出已初始化的IPv4设备。")
         iconName: filtered ? "filtered" : root.libraryInstalled ? "nothing" : "unplugged"
         objectName: "treeEmptyState"
