@@ -128,6 +128,7 @@ void UpgradeBatches::follow(Batch *batch, Source source)
 {
     m_batch = batch;
     m_source = source;
+    Q_EMIT lastChanged();
     connect(batch, &Batch::finished, this, [this, batch, source] {
         tellRows();
         const BatchReport &report = *batch->report();

@@ -10,11 +10,15 @@
 class UpgradeBatches : public QObject
 {
     Q_OBJECT
+    /// The last one, of the list or of a document; null before the first.
+    Q_PROPERTY(Batch *last READ last NOTIFY lastChanged)
 public:
     /// `factory` and `batches` live longer than this. `atOnce` returns how many devices are upgraded at the
     /// same time.
     UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> atOnce,
                    QObject *parent = nullptr);
+
+    [[nodiscard]] Batch *last() const { return m_batch; }
 
     /// Gives the devices of these rows a file. Returns a message for the user, in the user's language; empty
     /// when all of them can be upgraded with it.
@@ -30,6 +34,8 @@ public:
     Q_INVOKABLE Batch *startDocument(const QString &title, const QString &path, const QStringList &lines);
 
 Q_SIGNALS:
+    void lastChanged();
+
     /// Rows of the list have changed. Emitted a few times a second while devices are upgraded, and at the
     /// end.
     void rowsChanged(const QStringList &identities);

@@ -144,6 +144,8 @@ private Q_SLOTS:
         QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 4);
         write(path("LocalConfig.ini"), "[upgradeConfig]\natOnce=" + value + '\n');
         QTEST(CLocalConfig(m_directory->path()).upgradesAtOnce(), "atOnce");
+        CLocalConfig(m_directory->path()).setUpgradesAtOnce(7);
+        QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 7);
     }
 
     /// The old settings fit on the disk, the new ones do not.

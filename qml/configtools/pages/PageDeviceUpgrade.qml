@@ -15,11 +15,22 @@ FocusScope {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
+    readonly property var localConfig: LocalConfigApi
     readonly property var upgradeBatches: UpgradeBatchesApi
     // qmllint enable unqualified
 
     function focusSearch() {
         toolBar.focusSearch();
+    }
+
+    property int atOnce: localConfig.upgradesAtOnce()
+
+    /// For the upgrades that begin from now on, also after the next start.
+    function chooseAtOnce(count) {
+        localConfig.setUpgradesAtOnce(count);
+        atOnce = localConfig.upgradesAtOnce();
+        if (atOnce !== count)
+            said(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
     objectName: "pageDeviceUpgrade"
@@ -69,9 +80,18 @@ FocusScope {
         onStartRequested: work.startChecked()
         onTemplateRequested: work.openTemplate()
     }
-    UpgradeTable {
+    UpgradeSummary {
+        id: summary
         x: Theme.pageMargin
         y: toolBar.height
+        width: parent.width - 2 * x
+        atOnce: page.atOnce
+        batch: page.upgradeBatches.last
+        onAtOnceChosen: count => page.chooseAtOnce(count)
+    }
+    UpgradeTable {
+        x: Theme.pageMargin
+        y: summary.y + summary.height + Theme.unit
         width: parent.width - 2 * x
         height: foot.y - y
         checkState: devices.checkState

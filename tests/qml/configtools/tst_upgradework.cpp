@@ -19,7 +19,8 @@ const char *const scene = "    id: window\n"
                           "        fileDialogs: files; upgradeBatches: upgrades; shown: true\n"
                           "        onChanged: table.refresh()\n"
                           "        onSaid: (message, kind) => window.said = window.said.concat([message])\n"
-                          "    }\n";
+                          "    }\n"
+                          "    UpgradeSummary { width: 900; batch: upgrades.last; atOnce: 4 }\n";
 
 } // namespace
 
@@ -51,6 +52,7 @@ private:
 
     [[nodiscard]] QObject *object(const QString &name) const { return m_window->findChild<QObject *>(name); }
     [[nodiscard]] QStringList said() const { return m_window->property("said").toStringList(); }
+    [[nodiscard]] QString summary() const { return object("upgradeSummary")->property("text").toString(); }
     void call(const char *function) const { QMetaObject::invokeMethod(object("work"), function); }
     void awaitOpened(const QString &dialog) const
     {
@@ -112,6 +114,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_batches->isRunning());
         QVERIFY(m_site->passUntil([this] { return m_table->get(0).value("upgrade").toInt() > 0; }));
         passUntilEnd();
+        QCOMPARE(summary(), "升级：3 / 3  ·  2 台设备成功，1 台设备失败");
         QCOMPARE(said().last(), "1 台设备未升级成功，请查看结果");
         QCOMPARE(m_table->get(0).value("upgradetext").toString(), "升级成功：2.840.1 → 2.900.0");
 

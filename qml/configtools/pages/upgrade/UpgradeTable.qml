@@ -17,13 +17,14 @@ OVTable {
     })
 
     columns: [
-        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
-        {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true},
-        {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: figureCell},
-        {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, sortable: true, cell: figureCell},
+        {key: "num", title: qsTr("No."), width: Theme.columnUpgradeNumber, cell: numberCell},
+        {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true},
+        {key: "model", title: qsTr("型号"), width: Theme.columnUpgradeModel, stretch: 1, sortable: true},
+        {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnUpgradeAddress, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: figureCell},
+        {key: "vision", title: qsTr("版本号"), width: Theme.columnUpgradeVersion, sortable: true, cell: figureCell},
         {key: "filepath", title: qsTr("升级文件"), width: Theme.columnFile, stretch: 2, sortable: true, cell: fileCell},
         {key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, cell: progressCell},
-        {key: "upgraderes", title: qsTr("结果"), width: Theme.columnAnswer, stretch: 2, sortable: true, cell: resultCell},
+        {key: "upgraderes", title: qsTr("结果"), width: Theme.columnUpgradeResult, stretch: 2, sortable: true, cell: resultCell},
         {key: "operate", title: qsTr("操作"), width: Theme.columnUpgradeActions, cell: actionCell}
     ]
 

@@ -68,7 +68,7 @@ RowLayout {
     }
     OVSegmentedChoice {
         currentIndex: root.ipv6 ? 1 : 0
-        options: [{text: "IPV4", objectName: "upgradeIpv4Choice"}, {text: "IPV6", objectName: "upgradeIpv6Choice"}]
+        options: [{text: qsTr("IPV4"), objectName: "upgradeIpv4Choice"}, {text: qsTr("IPV6"), objectName: "upgradeIpv6Choice"}]
         onActivated: index => root.ipv6Chosen(index === 1)
     }
     OVTextField {

@@ -110,6 +110,7 @@ Item {
         visible: false
         sourceComponent: OVMessageBox {
             objectName: "upgradeOutcome"
+            title: qsTr("升级文档")
         }
     }
     // qmllint enable unqualified
