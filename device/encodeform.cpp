@@ -4,7 +4,10 @@
 #include "device/loginresult.h"
 #include "sdk/neterror.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -42,11 +45,37 @@ QList<int> placesOf(const QVariant &list)
     return places;
 }
 
+/// A choice of the back end as it is written elsewhere: "2688*1520" as "2688 × 1520", "G711a" as "G.711A".
+QString shownName(const QString &choice)
+{
+    static const QHash<QString, QString> names = {
+        {QStringLiteral("G711a"), QStringLiteral("G.711A")},
+        {QStringLiteral("G711u"), QStringLiteral("G.711U")},
+        {QStringLiteral("G7221"), QStringLiteral("G.722.1")},
+        {QStringLiteral("G723_53"), QStringLiteral("G.723 (5.3 kbit/s)")},
+        {QStringLiteral("G723_63"), QStringLiteral("G.723 (6.3 kbit/s)")},
+        {QStringLiteral("G726"), QStringLiteral("G.726")},
+        {QStringLiteral("G729"), QStringLiteral("G.729")},
+        {QStringLiteral("H263"), QStringLiteral("H.263")},
+        {QStringLiteral("H264"), QStringLiteral("H.264")},
+        {QStringLiteral("MPEG2_Layer2"), QStringLiteral("MPEG2 Layer 2")},
+        {QStringLiteral("1_2M"), QStringLiteral("1.2M")},
+        {QStringLiteral("1_3M"), QStringLiteral("1.3M")},
+        {QStringLiteral("5_0M"), QStringLiteral("5.0M")},
+    };
+    static const QRegularExpression size(QStringLiteral("^(\\d+)[*_](\\d+)$"));
+    const QRegularExpressionMatch match = size.match(choice);
+    if (match.hasMatch())
+        return match.captured(1) + QStringLiteral(" \u00d7 ") + match.captured(2);
+    return names.value(choice, choice);
+}
+
 QVariantMap setting(const QString &key, bool isChanged)
 {
     return {{QStringLiteral("key"), key},
             {QStringLiteral("changed"), isChanged},
             {QStringLiteral("choices"), QStringList()},
+            {QStringLiteral("names"), QStringList()},
             {QStringLiteral("index"), -1},
             {QStringLiteral("value"), 0},
             {QStringLiteral("minimum"), 0},
@@ -181,6 +210,9 @@ QVariantMap EncodeForm::choice(const QString &list, const QString &current)
                                     [&text](const QString &choice) { return choice == text; });
     map.insert(QStringLiteral("usable"), shown.isValid() && isOffered && !isOnly);
     map.insert(QStringLiteral("choices"), choices);
+    QStringList names;
+    std::transform(choices.cbegin(), choices.cend(), std::back_inserter(names), shownName);
+    map.insert(QStringLiteral("names"), names);
     map.insert(QStringLiteral("index"), choices.indexOf(text));
     return map;
 }

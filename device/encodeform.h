@@ -28,6 +28,7 @@ class EncodeForm : public QObject
     ///  - "changed": whether it differs from what was read
     ///  - "choices" and "index": texts, with the current one among them, and its place, -1 while there is
     ///  none
+    ///  - "names": the choices as the user reads them
     ///  - "value", "minimum" and "maximum": numbers
     ///  - "usable": whether its value was read and there is anything to choose. While the value is unknown,
     ///    "index" is -1 and "value" lies below "minimum".

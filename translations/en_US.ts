@@ -28,11 +28,11 @@
     </message>
     <message>
         <source>请输入端口</source>
-        <translation>Enter the port</translation>
+        <translation>Enter the port number</translation>
     </message>
     <message>
         <source>端口范围为1到65535</source>
-        <translation>1 to 65535</translation>
+        <translation>The port must be 1 to 65535</translation>
     </message>
     <message>
         <source>手动添加设备</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>备注</source>
-        <translation>Note</translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>最多50个字符</source>
@@ -83,11 +83,11 @@
     </message>
     <message>
         <source>备注无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>The note cannot be saved. Check whether the program&apos;s folder can be written to.</translation>
+        <translation>The notes could not be saved. Check that you may write to the program folder.</translation>
     </message>
     <message>
         <source>收藏无法删除，请检查程序所在文件夹的写入权限</source>
-        <translation>The favourite cannot be deleted. Check whether the program&apos;s folder can be written to.</translation>
+        <translation>The favourite could not be removed. Check that you may write to the program folder.</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>双击一行可添加该设备</source>
-        <translation>Double-click a row to add its device</translation>
+        <translation>Double-click a row to add the device</translation>
     </message>
     <message>
         <source>清除筛选</source>
@@ -127,27 +127,35 @@
     </message>
     <message>
         <source>换一个搜索文字，或清除它。</source>
-        <translation>Search for another text, or clear it.</translation>
+        <translation>Change or clear the search text.</translation>
     </message>
     <message>
         <source>手动添加设备时勾选“添加到收藏夹”，设备就会保存在这里。</source>
-        <translation>Tick “Add to favourites” when you add a device, and it is kept here.</translation>
+        <translation>Select “Add to favourites” when you add a device to save it here.</translation>
     </message>
     <message>
         <source>没有符合搜索文字的收藏</source>
-        <translation>No favourite holds this text</translation>
+        <translation>No favourites match the search</translation>
     </message>
     <message>
         <source>收藏夹是空的</source>
-        <translation>There are no favourites yet</translation>
+        <translation>No favourites yet</translation>
     </message>
     <message>
         <source>请确认是否要从收藏夹中删除 %1</source>
-        <translation>Delete %1 from the favourites?</translation>
+        <translation>Remove %1 from the favourites?</translation>
     </message>
     <message>
         <source>添加收藏设备</source>
         <translation>Add favourites</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>删除收藏</source>
+        <translation>Remove favourite</translation>
     </message>
 </context>
 <context>
@@ -161,19 +169,19 @@
     <name>AddressPlan</name>
     <message>
         <source>没有MAC，不会修改</source>
-        <translation>No MAC; left out</translation>
+        <translation>No MAC address: skipped</translation>
     </message>
     <message>
         <source>与其他设备冲突</source>
-        <translation>Another device has it</translation>
+        <translation>In use by another device</translation>
     </message>
     <message>
         <source>与本批设备冲突</source>
-        <translation>Twice in this batch</translation>
+        <translation>Assigned twice</translation>
     </message>
     <message>
         <source>与网关地址相同</source>
-        <translation>Address of the gateway</translation>
+        <translation>Same as the gateway</translation>
     </message>
     <message>
         <source>超出起始IP的网段</source>
@@ -193,8 +201,8 @@
     <message numerus="yes">
         <source>向选中的 %n 台设备发送同一条命令：</source>
         <translation>
-            <numerusform>One command goes to the selected device:</numerusform>
-            <numerusform>One command goes to each of the %n selected devices:</numerusform>
+            <numerusform>Send this command to the selected device:</numerusform>
+            <numerusform>Send this command to the %n selected devices:</numerusform>
         </translation>
     </message>
 </context>
@@ -214,25 +222,25 @@
     </message>
     <message>
         <source>对失败和未执行的设备再试一次</source>
-        <translation>Tries the failed devices and those not done again</translation>
+        <translation>Runs the batch again for the devices that failed or were not done</translation>
     </message>
     <message>
         <source>只有最近一次批处理可以重试</source>
-        <translation>Only the last batch can be retried, if another try may succeed</translation>
+        <translation>Only the last batch can be retried, and only where a retry can help</translation>
     </message>
     <message>
         <source>恢复地址</source>
-        <translation>Put addresses back</translation>
+        <translation>Restore addresses</translation>
     </message>
     <message>
         <source>将修改成功的设备恢复为修改前的IP地址</source>
-        <translation>Gives the changed devices the IP addresses that they had before</translation>
+        <translation>Sets the changed devices back to their previous IP addresses</translation>
     </message>
     <message numerus="yes">
         <source>确定要将 %n 台设备恢复为修改前的IP地址吗？</source>
         <translation>
-            <numerusform>Give %n device the IP address that it had before?</numerusform>
-            <numerusform>Give %n devices the IP addresses that they had before?</numerusform>
+            <numerusform>Set %n device back to its previous IP address?</numerusform>
+            <numerusform>Set %n devices back to their previous IP addresses?</numerusform>
         </translation>
     </message>
     <message>
@@ -245,19 +253,19 @@
     </message>
     <message>
         <source>开始时间</source>
-        <translation>Began</translation>
+        <translation>Started</translation>
     </message>
     <message>
         <source>成功 / 全部</source>
-        <translation>OK / all</translation>
+        <translation>Succeeded / total</translation>
     </message>
     <message>
         <source>只看失败</source>
-        <translation>Only failed</translation>
+        <translation>Failed only</translation>
     </message>
     <message>
         <source>包括未执行的设备</source>
-        <translation>Including devices not done</translation>
+        <translation>Includes devices that were not done</translation>
     </message>
     <message>
         <source>设备</source>
@@ -281,30 +289,30 @@
     </message>
     <message>
         <source>没有失败的设备</source>
-        <translation>No device failed</translation>
+        <translation>No devices failed</translation>
     </message>
     <message>
         <source>恢复IP地址</source>
-        <translation>Put IP addresses back</translation>
+        <translation>Restore IP addresses</translation>
     </message>
 </context>
 <context>
     <name>BatchPreview</name>
     <message>
         <source>未初始化，不会执行</source>
-        <translation>Not initialised; left out</translation>
+        <translation>Not initialised: skipped</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
-        <translation>Being upgraded; left out</translation>
+        <translation>Upgrade in progress: skipped</translation>
     </message>
     <message>
         <source>IP地址冲突，可能作用于另一台设备</source>
-        <translation>Address shared with another device</translation>
+        <translation>Address conflict: another device may be changed</translation>
     </message>
     <message>
         <source>与其他设备冲突</source>
-        <translation>Another device has it</translation>
+        <translation>In use by another device</translation>
     </message>
 </context>
 <context>
@@ -319,15 +327,15 @@
     <message numerus="yes">
         <source>%n 个警告，请查看提示</source>
         <translation>
-            <numerusform>%n warning: see the notes</numerusform>
-            <numerusform>%n warnings: see the notes</numerusform>
+            <numerusform>%n warning: see Notes</numerusform>
+            <numerusform>%n warnings: see Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备不会执行，请查看提示</source>
         <translation>
-            <numerusform>%n device is left out: see the notes</numerusform>
-            <numerusform>%n devices are left out: see the notes</numerusform>
+            <numerusform>%n device is skipped: see Notes</numerusform>
+            <numerusform>%n devices are skipped: see Notes</numerusform>
         </translation>
     </message>
 </context>
@@ -377,11 +385,11 @@
     </message>
     <message>
         <source>操作</source>
-        <translation>What happens</translation>
+        <translation>Action</translation>
     </message>
     <message>
         <source>提示</source>
-        <translation>Note</translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>版本号</source>
@@ -397,29 +405,29 @@
     <message numerus="yes">
         <source>%n 台设备成功</source>
         <translation>
-            <numerusform>%n device succeeded</numerusform>
-            <numerusform>%n devices succeeded</numerusform>
+            <numerusform>%n succeeded</numerusform>
+            <numerusform>%n succeeded</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备等待新密码</source>
         <translation>
-            <numerusform>%n device waits for the new password</numerusform>
-            <numerusform>%n devices wait for the new password</numerusform>
+            <numerusform>%n waiting for the new password</numerusform>
+            <numerusform>%n waiting for the new password</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备失败</source>
         <translation>
-            <numerusform>%n device failed</numerusform>
-            <numerusform>%n devices failed</numerusform>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备未执行</source>
         <translation>
-            <numerusform>%n device not done</numerusform>
-            <numerusform>%n devices not done</numerusform>
+            <numerusform>%n not done</numerusform>
+            <numerusform>%n not done</numerusform>
         </translation>
     </message>
     <message>
@@ -466,12 +474,12 @@
     </message>
     <message>
         <source>结果已保存到 %1</source>
-        <translation>Results saved to %1</translation>
+        <translation>Results saved in %1</translation>
     </message>
     <message>
         <source>结果无法保存，可以另选位置重试。
 %1</source>
-        <translation>The results could not be saved. You can try another place.
+        <translation>The results could not be saved. Choose another folder.
 %1</translation>
     </message>
 </context>
@@ -484,24 +492,28 @@
     <message numerus="yes">
         <source>有 %n 个警告，仍要继续吗？</source>
         <translation>
-            <numerusform>There is %n warning. Continue anyway?</numerusform>
-            <numerusform>There are %n warnings. Continue anyway?</numerusform>
+            <numerusform>There is %n warning. Continue?</numerusform>
+            <numerusform>There are %n warnings. Continue?</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warnings</translation>
     </message>
 </context>
 <context>
     <name>Batches</name>
     <message>
         <source>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</source>
-        <translation>Devices exchange addresses, such as %1 and %2, which cannot be done directly. Give one of them another address first.</translation>
+        <translation>Devices cannot exchange addresses (such as %1 and %2) in one step. First give one of them another address.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
-        <translation>“%1” is running. Wait for it to finish.</translation>
+        <translation>“%1” is running. Wait until it has finished.</translation>
     </message>
     <message>
         <source>系统资源不足，无法开始</source>
-        <translation>Not enough system resources to begin</translation>
+        <translation>Not enough memory or threads to start. Close other programs and try again.</translation>
     </message>
     <message>
         <source>保存结果</source>
@@ -513,18 +525,18 @@
     </message>
     <message>
         <source>地址 %1 仍由设备 %2 使用</source>
-        <translation>The device %2 still has the address %1</translation>
+        <translation>%1 is still in use by device %2</translation>
     </message>
 </context>
 <context>
     <name>BusyState</name>
     <message>
         <source>当前有设备正在升级中，请勿刷新设备！</source>
-        <translation>A device is being upgraded. Wait until it has finished, then search again.</translation>
+        <translation>Upgrades are running. Search when they have finished.</translation>
     </message>
     <message>
         <source>当前有设备正在升级中，请稍候再关闭</source>
-        <translation>Devices are being upgraded. Please wait before you close the program.</translation>
+        <translation>Upgrades are running. Close the program when they have finished.</translation>
     </message>
     <message>
         <source>”、“</source>
@@ -533,23 +545,23 @@
     <message>
         <source>“%1”正在进行，请在结束后再搜索设备</source>
         <extracomment>Each %1 is the name of a running work, as on the button that begins it.</extracomment>
-        <translation>“%1” is in progress. Search again when it has ended.</translation>
+        <translation>“%1” is running. Search when it has finished.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再删除设备</source>
-        <translation>“%1” is in progress. Delete devices when it has ended.</translation>
+        <translation>“%1” is running. Remove devices when it has finished.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再修改设备</source>
-        <translation>“%1” is in progress. Change devices when it has ended.</translation>
+        <translation>“%1” is running. Change devices when it has finished.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再关闭</source>
-        <translation>“%1” is in progress. Close the program when it has ended.</translation>
+        <translation>“%1” is running. Close the program when it has finished.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再重启程序</source>
-        <translation>“%1” is in progress. Restart the program when it has ended.</translation>
+        <translation>“%1” is running. Restart the program when it has finished.</translation>
     </message>
 </context>
 <context>
@@ -564,7 +576,7 @@
     </message>
     <message>
         <source>设备没有应答</source>
-        <translation>The device did not respond</translation>
+        <translation>No answer from the device</translation>
     </message>
     <message>
         <source>设备已不在列表中</source>
@@ -572,18 +584,22 @@
     </message>
     <message>
         <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
-        <translation>No search answer of this device is known, or it contains neither a MAC address nor a UUID</translation>
+        <translation>The device was not found by a search, or reports neither a MAC address nor a UUID</translation>
     </message>
     <message>
         <source>设备没有应答，密码可能已修改</source>
-        <translation>The device did not respond. Its password may have changed.</translation>
+        <translation>No answer from the device. Its password may have been changed.</translation>
+    </message>
+    <message>
+        <source>没有读到设备的时间</source>
+        <translation>The time could not be read</translation>
     </message>
 </context>
 <context>
     <name>CGIConfigManage</name>
     <message>
         <source>正在执行另一个文件中的CGI命令。</source>
-        <translation>The CGI commands of another file are running.</translation>
+        <translation>Commands of another spreadsheet are running. Wait until they have finished.</translation>
     </message>
     <message>
         <source>批量操作CGI模板.xlsx</source>
@@ -591,11 +607,11 @@
     </message>
     <message>
         <source>正在发送另一条CGI命令。</source>
-        <translation>Another CGI command is being sent.</translation>
+        <translation>Another CGI command is running. Wait until it has finished.</translation>
     </message>
     <message>
         <source>…（内容过长，已截断）</source>
-        <translation>… (too long, cut off)</translation>
+        <translation>… (truncated)</translation>
     </message>
 </context>
 <context>
@@ -606,7 +622,7 @@
     </message>
     <message>
         <source>自动</source>
-        <translation>Automatic</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>手动</source>
@@ -630,7 +646,7 @@
     </message>
     <message>
         <source>区域自定义</source>
-        <translation>Region</translation>
+        <translation>Custom region</translation>
     </message>
     <message>
         <source>彩色</source>
@@ -638,7 +654,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Black and white</translation>
+        <translation>Black &amp; white</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -674,7 +690,7 @@
     <message>
         <source>证书无法保存，未信任任何证书。
 %1</source>
-        <translation>The certificates cannot be saved. None is trusted.
+        <translation>The certificates could not be saved. None is trusted.
 %1</translation>
     </message>
     <message>
@@ -683,13 +699,13 @@
     </message>
     <message>
         <source>以下设备通过 HTTPS 出示了自己创建的证书，尚未发送密码。请核对指纹，确认后只信任该密钥。</source>
-        <translation>These devices use certificates of their own over HTTPS. No password was sent. Compare the fingerprints: once you agree, only this key is trusted.</translation>
+        <translation>These devices use self-signed certificates for HTTPS. No password was sent. Compare the fingerprints. Once trusted, only this key is accepted.</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备的证书与已确认的不同，已停止发送密码。可能有人冒充设备：仅在知道原因（如设备已恢复出厂设置）时才勾选。</source>
         <translation>
-            <numerusform>%n device shows another key than the confirmed one, and no password was sent. Somebody may pretend to be the device: tick it only if you know the reason, such as a factory reset.</numerusform>
-            <numerusform>%n devices show other keys than the confirmed ones, and no passwords were sent. Somebody may pretend to be a device: tick it only if you know the reason, such as a factory reset.</numerusform>
+            <numerusform>The certificate of %n device has changed. No password was sent. It may be another device: select it only if you know the reason, such as a factory reset.</numerusform>
+            <numerusform>The certificates of %n devices have changed. No passwords were sent. They may be other devices: select them only if you know the reason, such as a factory reset.</numerusform>
         </translation>
     </message>
     <message>
@@ -710,7 +726,7 @@
     </message>
     <message>
         <source>有效期</source>
-        <translation>Validity</translation>
+        <translation>Valid until</translation>
     </message>
     <message>
         <source>指纹</source>
@@ -718,11 +734,11 @@
     </message>
     <message>
         <source>指纹（SHA-256）</source>
-        <translation>SHA-256 of key</translation>
+        <translation>Fingerprint (SHA-256)</translation>
     </message>
     <message>
         <source>已确认的指纹</source>
-        <translation>Confirmed key</translation>
+        <translation>Trusted fingerprint</translation>
     </message>
     <message>
         <source>证书已改变</source>
@@ -737,7 +753,7 @@
     <name>CertificateStore</name>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
-        <translation>The file of certificates is damaged. None of them is trusted, please confirm them again: %1</translation>
+        <translation>The certificate file is damaged. No certificate is trusted. Confirm them again: %1</translation>
     </message>
 </context>
 <context>
@@ -748,11 +764,11 @@
     </message>
     <message>
         <source>文件写入失败：</source>
-        <translation>The file cannot be written: </translation>
+        <translation>The file could not be written: </translation>
     </message>
     <message>
         <source>已保存到文件：%1</source>
-        <translation>Saved in the file %1</translation>
+        <translation>Saved in %1</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -768,7 +784,7 @@
     </message>
     <message>
         <source>保存为文本文件</source>
-        <translation>Saves a text file</translation>
+        <translation>Saves the text in a file</translation>
     </message>
     <message>
         <source>请选择文件夹</source>
@@ -779,7 +795,7 @@
     <name>CgiBatches</name>
     <message>
         <source>没有通往设备网页端口的隧道。</source>
-        <translation>There is no tunnel to the web port of the device.</translation>
+        <translation>No tunnel to the web port of the device.</translation>
     </message>
     <message>
         <source>未执行</source>
@@ -794,30 +810,30 @@
     </message>
     <message>
         <source>从常用命令中移除</source>
-        <translation>Remove from the favourites</translation>
+        <translation>Remove from the saved commands</translation>
     </message>
     <message>
         <source>保存为常用命令</source>
-        <translation>Keep as a favourite</translation>
+        <translation>Save this command</translation>
     </message>
 </context>
 <context>
     <name>CgiProcedure</name>
     <message>
         <source>应答头过大。</source>
-        <translation>The headers of the answer are too large.</translation>
+        <translation>The header of the response is too large.</translation>
     </message>
     <message>
         <source>账号或密码错误。</source>
-        <translation>Wrong account or password.</translation>
+        <translation>Wrong user name or password. Check the account in the search settings.</translation>
     </message>
     <message>
         <source>设备被锁定。</source>
-        <translation>The device is locked.</translation>
+        <translation>The account is locked. Wait until the device unlocks it.</translation>
     </message>
     <message>
         <source>网络连接失败。</source>
-        <translation>No network connection to the device.</translation>
+        <translation>No answer from the device.</translation>
     </message>
     <message>
         <source>设备未初始化。</source>
@@ -829,23 +845,23 @@
     </message>
     <message>
         <source>服务器连接失败</source>
-        <translation>The server did not accept the request</translation>
+        <translation>The device rejected the request</translation>
     </message>
     <message>
         <source>应答内容过大。</source>
-        <translation>The answer is too large.</translation>
+        <translation>The response is too large.</translation>
     </message>
     <message>
         <source>文件写入失败：</source>
-        <translation>The file cannot be written: </translation>
+        <translation>The file could not be written: </translation>
     </message>
     <message>
         <source>操作已停止。</source>
-        <translation>The operation was stopped.</translation>
+        <translation>Stopped.</translation>
     </message>
     <message>
         <source>已收到的部分录像保存在：%1</source>
-        <translation>The part of the recording that has arrived is in: %1</translation>
+        <translation>The part of the recording that was received is in %1</translation>
     </message>
     <message>
         <source>设备正在升级。</source>
@@ -853,7 +869,7 @@
     </message>
     <message>
         <source>设备证书未确认。</source>
-        <translation>The certificate of the device is not confirmed.</translation>
+        <translation>The certificate of the device is not trusted.</translation>
     </message>
     <message>
         <source>设备证书已改变。</source>
@@ -868,7 +884,7 @@
     </message>
     <message>
         <source>密码不能包含空字符。</source>
-        <translation>A password must not contain a null character.</translation>
+        <translation>A password must not contain null characters.</translation>
     </message>
 </context>
 <context>
@@ -883,30 +899,33 @@
     </message>
     <message>
         <source>请填写CGI命令的具体内容。</source>
-        <translation>Please fill in the CGI command.</translation>
+        <translation>Enter a command.</translation>
     </message>
     <message>
         <source>URL格式错误。</source>
-        <translation>The URL&apos;s format is wrong.</translation>
+        <translation>The command must start with /cgi-bin/</translation>
     </message>
     <message>
         <source>已停止，完成 %1 / %2</source>
-        <translation>Stopped, %1 of %2 done</translation>
-    </message>
-    <message>
-        <source>批量配置CGI命令已完成</source>
-        <translation>The CGI command went to all of them</translation>
+        <translation>Stopped: %1 of %2 done</translation>
     </message>
     <message numerus="yes">
-        <source>%n 台设备未成功，请查看结果</source>
+        <source>批量配置CGI命令已完成</source>
         <translation>
-            <numerusform>%n device did not accept it, see its result</numerusform>
-            <numerusform>%n devices did not accept it, see their results</numerusform>
+            <numerusform>Sent to %n device: accepted</numerusform>
+            <numerusform>Sent to %n devices: all accepted</numerusform>
         </translation>
     </message>
     <message>
         <source>命令已执行，没有可显示的结果。</source>
-        <translation>The command was carried out. There is no result to show.</translation>
+        <translation>The device accepted the command and returned no result.</translation>
+    </message>
+    <message numerus="yes">
+        <source>批量配置CGI命令已完成：成功 %1，失败 %2</source>
+        <translation>
+            <numerusform>Sent to %n: %1 accepted, %2 failed</numerusform>
+            <numerusform>Sent to %n: %1 accepted, %2 failed</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -921,17 +940,17 @@
     </message>
     <message>
         <source>Url路径</source>
-        <translation>URL path</translation>
+        <translation>Command</translation>
     </message>
     <message>
         <source>操作</source>
-        <translation>Action</translation>
+        <translation>Actions</translation>
     </message>
     <message>
         <source>
 右键点击可复制结果</source>
         <translation>
-A right click copies the result</translation>
+Right-click to copy the result</translation>
     </message>
     <message>
         <source>配置</source>
@@ -939,22 +958,26 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>向这台设备发送CGI命令</source>
-        <translation>Send the command to this device</translation>
+        <translation>Sends the command to this device</translation>
     </message>
     <message>
         <source>查看全部内容</source>
-        <translation>Show all of it</translation>
+        <translation>Show the whole result</translation>
     </message>
     <message>
         <source>设备正在升级，不能发送CGI命令</source>
-        <translation>The device is being upgraded; no CGI command can be sent</translation>
+        <translation>The device is being upgraded. Send commands when it has finished.</translation>
+    </message>
+    <message>
+        <source>应答</source>
+        <translation>Result</translation>
     </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
     <message>
         <source>批量表单操作</source>
-        <translation>Run a workbook</translation>
+        <translation>Run spreadsheet</translation>
     </message>
     <message>
         <source>打开</source>
@@ -962,49 +985,49 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>即将执行文件中的CGI命令，执行结果将记录在文件中</source>
-        <translation>The CGI commands in the file will be run and their results recorded in it</translation>
+        <translation>The CGI commands of the spreadsheet will be sent. The results are written into it.</translation>
     </message>
     <message>
         <source>打开模板文件失败。</source>
-        <translation>The template cannot be opened.</translation>
+        <translation>The template could not be opened.</translation>
     </message>
     <message>
         <source>执行</source>
-        <translation>Go</translation>
+        <translation>Send</translation>
     </message>
 </context>
 <context>
     <name>CgiWorkbooks</name>
     <message>
         <source>正在执行另一个文件中的CGI命令。</source>
-        <translation>The CGI commands of another file are being executed.</translation>
+        <translation>Commands of another spreadsheet are running. Wait until they have finished.</translation>
     </message>
     <message>
         <source>读取表格文件</source>
-        <translation>reading the workbook</translation>
+        <translation>Reading the spreadsheet</translation>
     </message>
     <message>
         <source>第%1行</source>
-        <translation>Line %1</translation>
+        <translation>Row %1</translation>
     </message>
     <message>
         <source>文件已被修改，请重新打开。</source>
-        <translation>The file was changed. Open it again.</translation>
+        <translation>The file has changed. Open it again.</translation>
     </message>
     <message>
         <source>保存表格文件</source>
-        <translation>saving the workbook</translation>
+        <translation>Saving the spreadsheet</translation>
     </message>
     <message>
         <source>第%1行 %2</source>
-        <translation>Line %1 %2</translation>
+        <translation>Row %1: %2</translation>
     </message>
 </context>
 <context>
     <name>ChannelNameCell</name>
     <message>
         <source>已修改，尚未保存</source>
-        <translation>Changed, not saved yet</translation>
+        <translation>Not saved</translation>
     </message>
     <message>
         <source>通道 %1 的名称</source>
@@ -1015,19 +1038,19 @@ A right click copies the result</translation>
     <name>ChannelNameTrouble</name>
     <message>
         <source>设备没有告知名称</source>
-        <translation>No name from the device</translation>
+        <translation>Name not reported</translation>
     </message>
     <message>
         <source>名称不能为空</source>
-        <translation>A name is needed</translation>
+        <translation>Enter a name</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
-        <translation>Over %1 bytes</translation>
+        <translation>Longer than %1 bytes</translation>
     </message>
     <message>
         <source>设备没有接受</source>
-        <translation>The device refused it</translation>
+        <translation>Rejected by the device</translation>
     </message>
     <message>
         <source>设备没有应答</source>
@@ -1035,7 +1058,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备改变了名称</source>
-        <translation>The device changed it</translation>
+        <translation>Changed by the device</translation>
     </message>
     <message>
         <source>截短</source>
@@ -1047,11 +1070,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>保留设备能存下的部分</source>
-        <translation>Keeps what the device can store</translation>
+        <translation>Shortens the name to what the device can store</translation>
     </message>
     <message>
         <source>恢复设备现有的名称</source>
-        <translation>Back to the name that the device has</translation>
+        <translation>Restores the name that the device has</translation>
     </message>
     <message>
         <source>设备正在升级</source>
@@ -1101,8 +1124,8 @@ A right click copies the result</translation>
     <message numerus="yes">
         <source>设备没有告知 %n 个通道的名称</source>
         <translation>
-            <numerusform>The device does not tell the name of %n channel</numerusform>
-            <numerusform>The device does not tell the names of %n channels</numerusform>
+            <numerusform>The device does not report the name of %n channel</numerusform>
+            <numerusform>The device does not report the names of %n channels</numerusform>
         </translation>
     </message>
     <message>
@@ -1115,7 +1138,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备正在升级，不能保存修改</source>
-        <translation>The device is being upgraded; changes cannot be saved</translation>
+        <translation>The device is being upgraded. Save when it has finished.</translation>
     </message>
 </context>
 <context>
@@ -1126,7 +1149,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>通道 %1 的名称不能保存，请先修改</source>
-        <translation>The name of channel %1 cannot be saved as it is</translation>
+        <translation>The name of channel %1 is not valid. Change it first.</translation>
     </message>
     <message>
         <source>通道 %1</source>
@@ -1175,23 +1198,23 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>文件打开失败</source>
-        <translation>The file cannot be opened</translation>
+        <translation>The file could not be opened</translation>
     </message>
     <message>
         <source>文件格式错误</source>
-        <translation>The file has another format</translation>
+        <translation>The file format is wrong</translation>
     </message>
     <message>
         <source>请填写CGI命令的具体内容。</source>
-        <translation>Enter the CGI command.</translation>
+        <translation>Enter a command.</translation>
     </message>
     <message>
         <source>URL格式错误。</source>
-        <translation>The URL has the wrong form.</translation>
+        <translation>The command must start with /</translation>
     </message>
     <message>
         <source>…（内容过长，已截断）</source>
-        <translation>… (too long, cut off)</translation>
+        <translation>… (truncated)</translation>
     </message>
     <message>
         <source>结果</source>
@@ -1210,8 +1233,8 @@ A right click copies the result</translation>
     <message numerus="yes">
         <source>%n 台设备只复制了一部分</source>
         <translation>
-            <numerusform>%n device took only a part</numerusform>
-            <numerusform>%n devices took only a part</numerusform>
+            <numerusform>%n device accepted only a part</numerusform>
+            <numerusform>%n devices accepted only a part</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1234,7 +1257,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>复制编码配置</source>
-        <translation>Copy encode settings</translation>
+        <translation>Copy encoding settings</translation>
     </message>
 </context>
 <context>
@@ -1245,26 +1268,63 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>获取设备配置失败</source>
-        <translation>The device’s configuration could not be read</translation>
+        <translation>The configuration of the device could not be read</translation>
     </message>
     <message>
         <source>获取设备能力失败</source>
-        <translation>The device’s capabilities could not be read</translation>
+        <translation>The capabilities of the device could not be read</translation>
     </message>
     <message>
         <source>设备已重新登录，尚未保存的修改已丢失</source>
-        <translation>The device was logged in to anew; changes that were not saved are lost</translation>
+        <translation>Logged in again. Changes that were not saved are lost.</translation>
     </message>
     <message>
         <source>设备没有应答</source>
-        <translation>The device did not answer</translation>
+        <translation>No answer from the device</translation>
     </message>
 </context>
 <context>
     <name>DeviceAdding</name>
     <message>
         <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
-        <translation>There is no way to this device. Check the P2P ID and the network.</translation>
+        <translation>The device cannot be reached by P2P. Check the P2P ID and the network connection.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceClock</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>与电脑一致</source>
+        <translation>same as this computer</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>Of a device&apos;s clock, against this computer&apos;s. %1 is a span of time.</extracomment>
+        <translation>%1 ahead</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 behind</translation>
+    </message>
+    <message>
+        <source>%1，%2</source>
+        <extracomment>%1 is a device&apos;s date and time, %2 by how much its clock is ahead or behind.</extracomment>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1303,11 +1363,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>版本</source>
-        <translation>Versions</translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>版本号</source>
-        <translation>Version</translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>网络</source>
@@ -1323,7 +1383,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备地址</source>
-        <translation>Own address</translation>
+        <translation>Device address</translation>
     </message>
     <message>
         <source>子网掩码</source>
@@ -1347,7 +1407,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>本机地址</source>
-        <translation>Found from</translation>
+        <translation>Found via</translation>
     </message>
     <message>
         <source>端口</source>
@@ -1363,7 +1423,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备服务端口</source>
-        <translation>Own service port</translation>
+        <translation>Device service port</translation>
     </message>
     <message>
         <source>HTTP端口</source>
@@ -1379,7 +1439,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>最大连接数</source>
-        <translation>Connections at most</translation>
+        <translation>Maximum connections</translation>
     </message>
     <message>
         <source>通道</source>
@@ -1407,7 +1467,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>添加与账号</source>
-        <translation>Access</translation>
+        <translation>Account</translation>
     </message>
     <message>
         <source>添加方式</source>
@@ -1415,7 +1475,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>手动添加（P2P）</source>
-        <translation>Hand (P2P)</translation>
+        <translation>Manually (P2P)</translation>
     </message>
     <message>
         <source>搜索</source>
@@ -1423,7 +1483,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>手动添加（%1）</source>
-        <translation>Hand (%1)</translation>
+        <translation>Manually (%1)</translation>
     </message>
     <message>
         <source>P2P ID</source>
@@ -1458,11 +1518,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>登录读取更多</source>
-        <translation>Log in for more</translation>
+        <translation>Log in to read more</translation>
     </message>
     <message>
         <source>登录设备，读取端口、通道和硬盘等信息</source>
-        <translation>Logs in to the device and reads its ports, channels, hard disks and more</translation>
+        <translation>Logs in to the device to read its ports, channels and hard disks</translation>
     </message>
     <message>
         <source>导出</source>
@@ -1470,15 +1530,15 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>保存为文本文件</source>
-        <translation>Saves a text file</translation>
+        <translation>Saves the text in a file</translation>
     </message>
     <message>
         <source>搜索名称或内容</source>
-        <translation>Search names and values</translation>
+        <translation>Search</translation>
     </message>
     <message>
         <source>没有包含这些文字的信息</source>
-        <translation>Nothing holds this text</translation>
+        <translation>No entries match the search</translation>
     </message>
 </context>
 <context>
@@ -1492,31 +1552,31 @@ A right click copies the result</translation>
     <name>DeviceLibraries</name>
     <message>
         <source>无法读取设备库配置文件 %1</source>
-        <translation>The device library file %1 cannot be read</translation>
+        <translation>The device library file %1 could not be read</translation>
     </message>
     <message>
         <source>设备库配置文件 %1 中有无法识别的行：%2</source>
-        <translation>The device library file %1 has a line that is not understood: %2</translation>
+        <translation>The device library file %1 contains an unknown line: %2</translation>
     </message>
     <message>
         <source>设备库配置文件中缺少 [%1] 或其 file</source>
-        <translation>The device library file lacks [%1] or its file</translation>
+        <translation>[%1] or its entry “file” is missing in the device library file</translation>
     </message>
     <message>
         <source>设备库配置文件没有列出 %1 的函数 %2</source>
-        <translation>The device library file does not list the function %2 of %1</translation>
+        <translation>Function %2 of %1 is missing in the device library file</translation>
     </message>
     <message>
         <source>设备库配置文件为 %1 列出了未知的函数 %2</source>
-        <translation>The device library file lists an unknown function %2 of %1</translation>
+        <translation>Unknown function %2 of %1 in the device library file</translation>
     </message>
     <message>
         <source>无法加载设备库 %1：%2</source>
-        <translation>The device library %1 cannot be loaded: %2</translation>
+        <translation>The device library %1 could not be loaded: %2</translation>
     </message>
     <message>
         <source>设备库 %1 中没有入口 %2</source>
-        <translation>The device library %1 has no entry %2</translation>
+        <translation>The device library %1 does not export %2</translation>
     </message>
 </context>
 <context>
@@ -1539,7 +1599,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>字段比表头多</source>
-        <translation>More fields than headers</translation>
+        <translation>More fields than columns</translation>
     </message>
     <message>
         <source>字段过长</source>
@@ -1547,19 +1607,19 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>字段内有控制字符</source>
-        <translation>A field holds a control character</translation>
+        <translation>A field contains a control character</translation>
     </message>
     <message>
         <source>不支持的添加模式</source>
-        <translation>This add mode is not supported</translation>
+        <translation>Unknown add mode</translation>
     </message>
     <message>
         <source>设备地址无效</source>
-        <translation>Not a valid device address</translation>
+        <translation>Invalid device address</translation>
     </message>
     <message>
         <source>设备端口无效</source>
-        <translation>Not a valid device port</translation>
+        <translation>Invalid device port</translation>
     </message>
     <message>
         <source>缺少用户名或密码</source>
@@ -1571,15 +1631,15 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>文件内的设备超过 %1 台</source>
-        <translation>The file holds more than %1 devices</translation>
+        <translation>The file contains more than %1 devices</translation>
     </message>
     <message>
         <source>文件内没有设备列表的表头</source>
-        <translation>The file has no headers of a device list</translation>
+        <translation>The file has no header row of a device list</translation>
     </message>
     <message>
         <source>无法读取工作簿</source>
-        <translation>The workbook could not be read</translation>
+        <translation>The spreadsheet could not be read</translation>
     </message>
     <message>
         <source>根元素不是 deviceList：%1</source>
@@ -1599,7 +1659,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>字符 %1 在此格式中无法读回</source>
-        <translation>The character %1 cannot be read back in this format</translation>
+        <translation>The character %1 cannot be read back from this format</translation>
     </message>
 </context>
 <context>
@@ -1610,10 +1670,25 @@ A right click copies the result</translation>
     </message>
 </context>
 <context>
+    <name>DeviceSearch</name>
+    <message>
+        <source>本地网段</source>
+        <translation>local network</translation>
+    </message>
+    <message>
+        <source>本地网段（%1）</source>
+        <translation>local network (%1)</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>DeviceState</name>
     <message>
         <source>未选择设备</source>
-        <translation>No device chosen</translation>
+        <translation>No device selected</translation>
     </message>
     <message>
         <source>已登录</source>
@@ -1633,14 +1708,14 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>正在升级</source>
-        <translation>Being upgraded</translation>
+        <translation>Upgrade in progress</translation>
     </message>
 </context>
 <context>
     <name>EncodeBitRate</name>
     <message>
         <source>自定义码流值</source>
-        <translation>Bit rate of your own</translation>
+        <translation>Custom bit rate</translation>
     </message>
 </context>
 <context>
@@ -1675,7 +1750,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>辅码流编码音频格式配置</source>
-        <translation>Sub stream: audio format configuration</translation>
+        <translation>Sub stream: audio format</translation>
     </message>
     <message>
         <source>%1（没有读到，未写入）</source>
@@ -1729,7 +1804,7 @@ A right click copies the result</translation>
     <name>EncodeForm</name>
     <message>
         <source>设备没有应答</source>
-        <translation>The device did not answer</translation>
+        <translation>No answer from the device</translation>
     </message>
     <message>
         <source>设备不支持此操作</source>
@@ -1741,7 +1816,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备拒绝了此操作（错误 %1）</source>
-        <translation>The device refused (error %1)</translation>
+        <translation>The device rejected the request (error %1)</translation>
     </message>
 </context>
 <context>
@@ -1752,11 +1827,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备的配置无法识别，显示的内容可能不完整</source>
-        <translation>The configuration makes no sense: what is shown may be incomplete</translation>
+        <translation>The configuration of the device is not valid. Some values may be missing.</translation>
     </message>
     <message>
         <source>设备没有告知它的编码能力，部分选项为空</source>
-        <translation>The device does not tell what it can do: some lists are empty</translation>
+        <translation>The device does not report its encoding capabilities. Some lists are empty.</translation>
     </message>
     <message>
         <source>通道</source>
@@ -1772,13 +1847,13 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>没有读到通道 %1 的编码配置</source>
-        <translation>Nothing was read of channel %1</translation>
+        <translation>The encoding settings of channel %1 could not be read</translation>
     </message>
     <message numerus="yes">
         <source>有未保存的修改：%n 项</source>
         <translation>
-            <numerusform>%n change is not saved</numerusform>
-            <numerusform>%n changes are not saved</numerusform>
+            <numerusform>%n unsaved change</numerusform>
+            <numerusform>%n unsaved changes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1802,7 +1877,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>与设备的连接已断开</source>
-        <translation>The connection to the device is lost</translation>
+        <translation>Connection lost</translation>
     </message>
     <message>
         <source>没有保存：%1</source>
@@ -1814,19 +1889,19 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备正在升级，不能保存修改</source>
-        <translation>The device is being upgraded; changes cannot be saved</translation>
+        <translation>The device is being upgraded. Save when it has finished.</translation>
     </message>
     <message>
         <source>与设备的连接已断开，请刷新重试。</source>
-        <translation>The connection to the device is lost. Refresh to try again.</translation>
+        <translation>Connection lost. Refresh to try again.</translation>
     </message>
     <message>
         <source>%1，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
-        <translation>%1, or nothing is connected to this channel. Choose another one, or refresh.</translation>
+        <translation>%1, or the channel is not connected. Choose another channel or refresh.</translation>
     </message>
     <message>
         <source>没有读到：%1，保存时不写入</source>
-        <translation>Not read: %1. Saving leaves them as they are.</translation>
+        <translation>Not read: %1. Saving does not change them.</translation>
     </message>
 </context>
 <context>
@@ -1837,11 +1912,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>启用辅码流</source>
-        <translation>Sub stream enabled</translation>
+        <translation>Enable sub stream</translation>
     </message>
     <message>
         <source>启用</source>
-        <translation>On</translation>
+        <translation>Enable</translation>
     </message>
     <message>
         <source>编码模式</source>
@@ -1853,23 +1928,23 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>码流控制</source>
-        <translation>Rate control</translation>
+        <translation>Bit rate control</translation>
     </message>
     <message>
         <source>固定码流</source>
-        <translation>Constant bit rate</translation>
+        <translation>Constant (CBR)</translation>
     </message>
     <message>
         <source>可变码流</source>
-        <translation>Variable bit rate</translation>
+        <translation>Variable (VBR)</translation>
     </message>
     <message>
         <source>码流值(Kb/S)</source>
-        <translation>Rate (Kb/S)</translation>
+        <translation>Bit rate (kbit/s)</translation>
     </message>
     <message>
         <source>帧率(FPS)</source>
-        <translation>Frame rate</translation>
+        <translation>Frame rate (fps)</translation>
     </message>
     <message>
         <source>画质</source>
@@ -1881,7 +1956,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>启用音频</source>
-        <translation>Audio enabled</translation>
+        <translation>Enable audio</translation>
     </message>
     <message>
         <source>采样率(Hz)</source>
@@ -1899,19 +1974,19 @@ A right click copies the result</translation>
     <name>EncodeWork</name>
     <message>
         <source>正在读取编码配置…</source>
-        <translation>Reading encode settings…</translation>
+        <translation>Reading encoding settings…</translation>
     </message>
     <message>
         <source>正在写入辅码流分辨率…</source>
-        <translation>Writing the sub stream’s resolution…</translation>
+        <translation>Writing the resolution of the sub stream…</translation>
     </message>
     <message>
         <source>设备的编码模式由主码流决定：主码流已改为 %1</source>
-        <translation>The main stream decides the compression: it is now %1</translation>
+        <translation>Both streams use one compression: the main stream is now %1</translation>
     </message>
     <message>
         <source>正在保存编码配置…</source>
-        <translation>Saving encode settings…</translation>
+        <translation>Saving encoding settings…</translation>
     </message>
     <message>
         <source>保存成功</source>
@@ -1919,18 +1994,18 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>保存失败</source>
-        <translation>Saving failed</translation>
+        <translation>Not saved</translation>
     </message>
     <message>
         <source>读取配置失败：%1</source>
-        <translation>Nothing was read: %1</translation>
+        <translation>The settings could not be read: %1</translation>
     </message>
 </context>
 <context>
     <name>ExportDialog</name>
     <message>
         <source>请选择导出的文件格式</source>
-        <translation>Select the export format</translation>
+        <translation>Select the file format</translation>
     </message>
 </context>
 <context>
@@ -1944,11 +2019,11 @@ A right click copies the result</translation>
     <name>FavouriteNoteCell</name>
     <message>
         <source>编辑备注</source>
-        <translation>Edit the note</translation>
+        <translation>Edit notes</translation>
     </message>
     <message>
         <source>备注</source>
-        <translation>Note</translation>
+        <translation>Notes</translation>
     </message>
 </context>
 <context>
@@ -1975,7 +2050,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>备注</source>
-        <translation>Note</translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>添加结果</source>
@@ -1987,18 +2062,18 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>删除</source>
-        <translation>Delete</translation>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>从收藏夹中删除</source>
-        <translation>Delete from the favourites</translation>
+        <translation>Removes this device from the favourites</translation>
     </message>
 </context>
 <context>
     <name>FirstPasswordDialog</name>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
-        <translation>Use at least two of digits, letters and common symbols, and no illegal character.</translation>
+        <translation>Use at least two of digits, letters and symbols, and no illegal characters.</translation>
     </message>
     <message>
         <source>请输入用户名</source>
@@ -2014,7 +2089,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>请输入相同的密码</source>
-        <translation>Enter the same password twice</translation>
+        <translation>The passwords do not match</translation>
     </message>
     <message>
         <source>密码长度应当在8到32个字符范围内</source>
@@ -2027,8 +2102,8 @@ A right click copies the result</translation>
     <message numerus="yes">
         <source>%n台未初始化设备</source>
         <translation>
-            <numerusform>%n uninitialised device</numerusform>
-            <numerusform>%n uninitialised devices</numerusform>
+            <numerusform>%n device to initialise</numerusform>
+            <numerusform>%n devices to initialise</numerusform>
         </translation>
     </message>
     <message>
@@ -2045,7 +2120,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除</source>
-        <translation>8 to 32 characters with at least two of digits, letters and common symbols (any visible character except </translation>
+        <translation>8 to 32 characters, with at least two of digits, letters and symbols (all visible characters except </translation>
     </message>
     <message>
         <source>这五个字符以外的任意可见字符)</source>
@@ -2053,7 +2128,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
-        <translation>After setting the new password, set it in the search settings as well.</translation>
+        <translation>Afterwards, also enter the new password in the search settings.</translation>
     </message>
 </context>
 <context>
@@ -2080,11 +2155,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>最小增益</source>
-        <translation>Least gain</translation>
+        <translation>Minimum gain</translation>
     </message>
     <message>
         <source>最大增益</source>
-        <translation>Highest gain</translation>
+        <translation>Maximum gain</translation>
     </message>
     <message>
         <source>曝光补偿</source>
@@ -2092,7 +2167,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>自动光圈</source>
-        <translation>Automatic iris</translation>
+        <translation>Auto iris</translation>
     </message>
     <message>
         <source>3D降噪</source>
@@ -2100,7 +2175,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>降噪等级</source>
-        <translation>Reduction level</translation>
+        <translation>Level</translation>
     </message>
     <message>
         <source>背光</source>
@@ -2112,23 +2187,23 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>整个画面</source>
-        <translation>Whole picture</translation>
+        <translation>Whole image</translation>
     </message>
     <message>
         <source>自定义区域</source>
-        <translation>Chosen region</translation>
+        <translation>Custom region</translation>
     </message>
     <message>
         <source>补偿区域</source>
-        <translation>Compensated area</translation>
+        <translation>Compensation region</translation>
     </message>
     <message>
         <source>宽动态</source>
-        <translation>Wide dynamic</translation>
+        <translation>Wide dynamic range</translation>
     </message>
     <message>
         <source>强光抑制</source>
-        <translation>Strong light</translation>
+        <translation>Highlight compensation</translation>
     </message>
     <message>
         <source>白平衡</source>
@@ -2151,14 +2226,14 @@ A right click copies the result</translation>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
-        <translation>These settings were not read and cannot be changed. Refresh to try again.</translation>
+        <translation>These settings could not be read. Refresh to try again.</translation>
     </message>
 </context>
 <context>
     <name>ImageLightGroups</name>
     <message>
         <source>远近光</source>
-        <translation>Near and far</translation>
+        <translation>Near and far light</translation>
     </message>
     <message>
         <source>近光</source>
@@ -2170,7 +2245,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>日夜转换</source>
-        <translation>Day and night</translation>
+        <translation>Day/night switching</translation>
     </message>
     <message>
         <source>模式</source>
@@ -2202,19 +2277,19 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>补光灯</source>
-        <translation>Lamps</translation>
+        <translation>Illuminators</translation>
     </message>
     <message>
         <source>灯光</source>
-        <translation>Lamp</translation>
+        <translation>Illuminator</translation>
     </message>
     <message>
         <source>近光亮度</source>
-        <translation>Near lamp</translation>
+        <translation>Near light brightness</translation>
     </message>
     <message>
         <source>远光亮度</source>
-        <translation>Far lamp</translation>
+        <translation>Far light brightness</translation>
     </message>
     <message>
         <source>灯光校正</source>
@@ -2226,7 +2301,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>补光方式</source>
-        <translation>Lights</translation>
+        <translation>Light type</translation>
     </message>
     <message>
         <source>亮度</source>
@@ -2241,7 +2316,7 @@ A right click copies the result</translation>
     <name>ImagePanel</name>
     <message>
         <source>画面</source>
-        <translation>Picture</translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>曝光与白平衡</source>
@@ -2249,22 +2324,22 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>日夜与补光</source>
-        <translation>Day, night and lamps</translation>
+        <translation>Day/night and illuminators</translation>
     </message>
     <message>
         <source>摄像机没有告知这方面的设置。</source>
-        <translation>The camera tells of no such settings.</translation>
+        <translation>The camera does not report such settings.</translation>
     </message>
     <message>
         <source>没有可调的项目</source>
-        <translation>Nothing to set here</translation>
+        <translation>No settings</translation>
     </message>
 </context>
 <context>
     <name>ImagePictureGroups</name>
     <message>
         <source>图像</source>
-        <translation>Picture</translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>柔和</source>
@@ -2320,15 +2395,15 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>走廊模式1</source>
-        <translation>Corridor 1</translation>
+        <translation>Corridor mode 1</translation>
     </message>
     <message>
         <source>走廊模式2</source>
-        <translation>Corridor 2</translation>
+        <translation>Corridor mode 2</translation>
     </message>
     <message>
         <source>倒影</source>
-        <translation>Reflection</translation>
+        <translation>Flip</translation>
     </message>
     <message>
         <source>旋转</source>
@@ -2340,7 +2415,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>电子防抖</source>
-        <translation>Stabilisation</translation>
+        <translation>Electronic stabilisation</translation>
     </message>
     <message>
         <source>透雾</source>
@@ -2379,11 +2454,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>左边不能大于右边</source>
-        <translation>Left must not exceed right</translation>
+        <translation>Left must not be greater than right</translation>
     </message>
     <message>
         <source>上边不能大于下边</source>
-        <translation>Top must not exceed bottom</translation>
+        <translation>Top must not be greater than bottom</translation>
     </message>
 </context>
 <context>
@@ -2410,7 +2485,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>下限不能大于上限</source>
-        <translation>From must not be above to</translation>
+        <translation>The minimum must not be greater than the maximum</translation>
     </message>
 </context>
 <context>
@@ -2425,7 +2500,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>通道名称</source>
-        <translation>Name</translation>
+        <translation>Channel name</translation>
     </message>
     <message>
         <source>配置模式</source>
@@ -2433,7 +2508,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>修改会立即写入设备。</source>
-        <translation>Changes are written at once.</translation>
+        <translation>Changes are written to the device at once.</translation>
     </message>
     <message>
         <source>刷新</source>
@@ -2441,15 +2516,15 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Defaults</translation>
+        <translation>Restore defaults</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
-        <translation>Too long: %1 bytes at most</translation>
+        <translation>Longer than %1 bytes</translation>
     </message>
     <message>
         <source>设备正在升级，不能修改。</source>
-        <translation>The device is being upgraded; nothing can be changed.</translation>
+        <translation>The device is being upgraded. Change settings when it has finished.</translation>
     </message>
 </context>
 <context>
@@ -2464,11 +2539,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备没有应答，修改可能没有写入</source>
-        <translation>The device did not answer. The change may not have been written.</translation>
+        <translation>No answer from the device. The change may not have been written.</translation>
     </message>
     <message>
         <source>没有修改：%1。显示的是设备现有的值</source>
-        <translation>Not changed: %1. What the device has is shown.</translation>
+        <translation>Not changed: %1. The value of the device is shown.</translation>
     </message>
 </context>
 <context>
@@ -2483,7 +2558,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>请选择一台未初始化的设备</source>
-        <translation>Select an uninitialised device</translation>
+        <translation>Select a device that is not initialised</translation>
     </message>
     <message>
         <source>No.</source>
@@ -2507,14 +2582,14 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>列表只显示本局域网设备,初始化不支持跨局域网</source>
-        <translation>Only devices of this LAN are listed: initialisation does not work across LANs.</translation>
+        <translation>Only devices of this LAN are listed. Devices of other LANs cannot be initialised.</translation>
     </message>
     <message numerus="yes">
         <source>另有 %n 台已初始化，不会执行</source>
         <extracomment>Of the ticked devices; they get no first password.</extracomment>
         <translation>
-            <numerusform>%n more is initialised and left out</numerusform>
-            <numerusform>%n more are initialised and left out</numerusform>
+            <numerusform>%n more is already initialised: skipped</numerusform>
+            <numerusform>%n more are already initialised: skipped</numerusform>
         </translation>
     </message>
 </context>
@@ -2541,27 +2616,27 @@ A right click copies the result</translation>
     <name>LiveFigures</name>
     <message>
         <source>%1 帧/秒   %2 kbit/s</source>
-        <translation>%1 pictures/s   %2 kbit/s</translation>
+        <translation>%1 fps   %2 kbit/s</translation>
     </message>
     <message>
         <source>待解码 %1 KB</source>
         <extracomment>Data of a live stream that is not yet decoded.</extracomment>
-        <translation>%1 KB waiting</translation>
+        <translation>%1 KB buffered</translation>
     </message>
     <message>
         <source>音频 %1</source>
-        <translation>Sound %1</translation>
+        <translation>Audio %1</translation>
     </message>
     <message>
         <source>跳过 %1 帧</source>
-        <translation>%1 pictures skipped</translation>
+        <translation>%1 frames skipped</translation>
     </message>
 </context>
 <context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
-        <translation>Live</translation>
+        <translation>Live view</translation>
     </message>
     <message>
         <source>向下还原</source>
@@ -2580,15 +2655,15 @@ A right click copies the result</translation>
     <name>LiveToolBar</name>
     <message>
         <source>1 画面</source>
-        <translation>1 picture</translation>
+        <translation>Single view</translation>
     </message>
     <message>
         <source>4 画面</source>
-        <translation>4 pictures</translation>
+        <translation>4 views</translation>
     </message>
     <message>
         <source>9 画面</source>
-        <translation>9 pictures</translation>
+        <translation>9 views</translation>
     </message>
     <message>
         <source>上一页通道</source>
@@ -2600,27 +2675,27 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>关闭声音</source>
-        <translation>Sound off</translation>
+        <translation>Mute</translation>
     </message>
     <message>
         <source>打开声音</source>
-        <translation>Sound on</translation>
+        <translation>Unmute</translation>
     </message>
     <message>
         <source>保持画面比例</source>
-        <translation>Keep the picture&apos;s shape</translation>
+        <translation>Keep aspect ratio</translation>
     </message>
     <message>
         <source>拉伸铺满</source>
-        <translation>Fill the place</translation>
+        <translation>Stretch to fill</translation>
     </message>
     <message>
         <source>隐藏码流信息</source>
-        <translation>Hide the stream&apos;s figures</translation>
+        <translation>Hide stream information</translation>
     </message>
     <message>
         <source>显示码流信息</source>
-        <translation>Show the stream&apos;s figures</translation>
+        <translation>Show stream information</translation>
     </message>
     <message>
         <source>正在抓图…</source>
@@ -2628,7 +2703,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>抓取当前通道</source>
-        <translation>Snapshot of this channel</translation>
+        <translation>Snapshot of the selected channel</translation>
     </message>
     <message>
         <source>抓取全部通道</source>
@@ -2636,7 +2711,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>退出全屏</source>
-        <translation>Leave full screen</translation>
+        <translation>Exit full screen</translation>
     </message>
     <message>
         <source>全屏</source>
@@ -2644,14 +2719,14 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
-        <translation>“%1” is running. Wait for it to finish.</translation>
+        <translation>“%1” is running. Wait until it has finished.</translation>
     </message>
 </context>
 <context>
     <name>LiveWindow</name>
     <message>
         <source>已登录另一台设备，实时画面已关闭</source>
-        <translation>Another device was logged in to; the live window has closed</translation>
+        <translation>The live view was closed because another device was logged in to</translation>
     </message>
     <message>
         <source>重新登录</source>
@@ -2667,7 +2742,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>没有通道</source>
-        <translation>No channel</translation>
+        <translation>No channels</translation>
     </message>
     <message>
         <source>登录失败</source>
@@ -2675,13 +2750,13 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>无法打开文件夹：%1</source>
-        <translation>The folder cannot be opened: %1</translation>
+        <translation>The folder could not be opened: %1</translation>
     </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
-            <numerusform>%1. Next try in %n second</numerusform>
-            <numerusform>%1. Next try in %n seconds</numerusform>
+            <numerusform>%1. Retry in %n s</numerusform>
+            <numerusform>%1. Retry in %n s</numerusform>
         </translation>
     </message>
     <message>
@@ -2731,20 +2806,37 @@ A right click copies the result</translation>
         <translation>CGI protocol</translation>
     </message>
     <message>
-        <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
-        <translation>No device library is installed. Start the tool with --demo to work with a simulated site.</translation>
-    </message>
-    <message>
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>The settings could not be saved. Check that the program&apos;s folder can be written</translation>
+        <translation>The settings could not be saved. Check that you may write to the program folder.</translation>
     </message>
     <message>
         <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>The search found more than %1 devices. %2 answers of further devices were left out of the list. Search a smaller range.</translation>
+        <translation>More than %1 devices answered. %2 further answers are not listed. Search a smaller range.</translation>
     </message>
     <message>
         <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
-        <translation>A search is running. Stop it with Esc, or close the window once it has ended.</translation>
+        <translation>A search is running. Stop it with Esc or wait until it has finished.</translation>
+    </message>
+    <message>
+        <source>演示站点</source>
+        <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
+        <translation>Demo site</translation>
+    </message>
+    <message>
+        <source>演示站点：%1</source>
+        <translation>Demo site: %1</translation>
+    </message>
+    <message>
+        <source>模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。</source>
+        <translation>Simulated devices, no network. User name and password for logging in to the devices. New devices must be initialised first.</translation>
+    </message>
+    <message>
+        <source>打开演示站点</source>
+        <translation>Open demo site</translation>
+    </message>
+    <message>
+        <source>未安装设备库，无法与设备通信</source>
+        <translation>No device library is installed: devices cannot be reached</translation>
     </message>
 </context>
 <context>
@@ -2755,7 +2847,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>修改这台设备的IP地址</source>
-        <translation>Change the IP address of this device</translation>
+        <translation>Changes the IP address of this device</translation>
     </message>
     <message>
         <source>详情</source>
@@ -2763,38 +2855,46 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>显示这台设备的全部信息</source>
-        <translation>Show everything known about this device</translation>
+        <translation>Shows all information about this device</translation>
     </message>
     <message>
         <source>在浏览器中打开设备网页</source>
-        <translation>Open the device&apos;s web page in the browser</translation>
+        <translation>Opens the web page of this device in the browser</translation>
     </message>
     <message>
         <source>查看实时画面</source>
-        <translation>Watch it live</translation>
+        <translation>Opens the live view of this device</translation>
     </message>
     <message>
         <source>未初始化的设备没有实时画面</source>
-        <translation>A device without its first password has no live picture</translation>
+        <translation>Initialise the device first</translation>
     </message>
     <message>
         <source>设备正在升级，不能修改IP地址</source>
-        <translation>The device is being upgraded; its address cannot be changed</translation>
+        <translation>The device is being upgraded. Change its address when it has finished.</translation>
+    </message>
+    <message>
+        <source>web</source>
+        <translation>Web</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>Live</translation>
     </message>
 </context>
 <context>
     <name>ModifyIPAdding</name>
     <message>
         <source>设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限</source>
-        <translation>The device was added but cannot be saved as a favourite. Check whether the program&apos;s folder can be written to.</translation>
+        <translation>Device added, but not saved in the favourites. Check that you may write to the program folder.</translation>
     </message>
     <message>
         <source>设备已添加，并保存到收藏夹</source>
-        <translation>The device was added and saved as a favourite</translation>
+        <translation>Device added and saved in the favourites</translation>
     </message>
     <message>
         <source>设备已添加</source>
-        <translation>The device was added</translation>
+        <translation>Device added</translation>
     </message>
     <message>
         <source>手动添加</source>
@@ -2805,7 +2905,7 @@ A right click copies the result</translation>
     <name>ModifyIPBatches</name>
     <message>
         <source>请选择一台未初始化的设备</source>
-        <translation>Select an uninitialised device</translation>
+        <translation>Select a device that is not initialised</translation>
     </message>
     <message>
         <source>请选择一台设备</source>
@@ -2815,15 +2915,8 @@ A right click copies the result</translation>
         <source>%n 台设备未成功，请查看修改结果</source>
         <extracomment>Of the devices of a batch, those whose result is a failure.</extracomment>
         <translation>
-            <numerusform>%n device failed: see its result</numerusform>
-            <numerusform>%n devices failed: see their results</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 台设备已完成</source>
-        <translation>
-            <numerusform>%n device done</numerusform>
-            <numerusform>%n devices done</numerusform>
+            <numerusform>%n device failed: see Result</numerusform>
+            <numerusform>%n devices failed: see Result</numerusform>
         </translation>
     </message>
     <message>
@@ -2832,7 +2925,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>设备正在升级，不能修改IP地址</source>
-        <translation>The device is being upgraded; its address cannot be changed</translation>
+        <translation>The device is being upgraded. Change its address when it has finished.</translation>
     </message>
     <message>
         <source>初始化</source>
@@ -2842,28 +2935,45 @@ A right click copies the result</translation>
         <source>修改IP地址</source>
         <translation>Change IP addresses</translation>
     </message>
+    <message numerus="yes">
+        <source>已修改 %n 台设备的IP地址</source>
+        <translation>
+            <numerusform>Address changed on %n device</numerusform>
+            <numerusform>Addresses changed on %n devices</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>已初始化 %n 台设备</source>
+        <translation>
+            <numerusform>%n device initialised</numerusform>
+            <numerusform>%n devices initialised</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPDevices</name>
     <message>
         <source>这台设备没有可打开的网页</source>
-        <translation>This device has no web page to open</translation>
+        <translation>The device has no web page</translation>
     </message>
     <message>
         <source>无法打开浏览器，设备网页：%1</source>
-        <translation>The browser cannot be opened. The device&apos;s web page: %1</translation>
+        <translation>The browser could not be opened. Web page of the device: %1</translation>
     </message>
     <message>
         <source>请选择一台设备</source>
         <translation>Select a device</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>请确认是否要删除</source>
-        <translation>Confirm that you want to delete</translation>
+        <translation>
+            <numerusform>Remove %n device from the list?</numerusform>
+            <numerusform>Remove %n devices from the list?</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 已存在，是否覆盖？</source>
-        <translation>%1 is there already. Overwrite it?</translation>
+        <translation>%1 already exists. Replace it?</translation>
     </message>
     <message>
         <source>已导出到 %1</source>
@@ -2871,7 +2981,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>无法写入文件 %1</source>
-        <translation>The file %1 cannot be written</translation>
+        <translation>The file %1 could not be written</translation>
     </message>
     <message>
         <source>请选择文件夹</source>
@@ -2880,24 +2990,40 @@ A right click copies the result</translation>
     <message numerus="yes">
         <source>%n 台设备正在升级，没有删除</source>
         <translation>
-            <numerusform>%n device is being upgraded and was not deleted</numerusform>
-            <numerusform>%n devices are being upgraded and were not deleted</numerusform>
+            <numerusform>%n device is being upgraded and was not removed</numerusform>
+            <numerusform>%n devices are being upgraded and were not removed</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>Replace file</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>删除设备</source>
+        <translation>Remove devices</translation>
     </message>
 </context>
 <context>
     <name>ModifyIPDialog</name>
     <message>
         <source>请输入正确的起始IP</source>
-        <translation>Enter a correct start IP</translation>
+        <translation>Enter a valid IP address</translation>
     </message>
     <message>
         <source>请输入正确的子网掩码</source>
-        <translation>Enter a correct subnet mask</translation>
+        <translation>Enter a valid subnet mask</translation>
     </message>
     <message>
         <source>请输入正确的网关</source>
-        <translation>Enter a correct gateway</translation>
+        <translation>Enter a valid gateway address</translation>
     </message>
     <message>
         <source>修改IP</source>
@@ -2913,7 +3039,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>显示每台设备将得到的地址</source>
-        <translation>Show which address each device will get</translation>
+        <translation>Shows the new address of each device</translation>
     </message>
     <message>
         <source>模式</source>
@@ -2925,6 +3051,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>起始IP</source>
+        <extracomment>In other languages the address of one device has another name than the first one of a batch.</extracomment>
         <translation>Start IP</translation>
     </message>
     <message>
@@ -2941,7 +3068,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>该地址已被 %1 使用</source>
-        <translation>%1 has this address</translation>
+        <translation>In use by %1</translation>
     </message>
     <message>
         <source>这是网络地址或广播地址</source>
@@ -2967,12 +3094,17 @@ A right click copies the result</translation>
         <source>请选择一台设备</source>
         <translation>Select a device</translation>
     </message>
+    <message>
+        <source>起始IP</source>
+        <comment>one device</comment>
+        <translation>IP address</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPEmptyState</name>
     <message>
         <source>筛选条件隐藏了全部 %1 台设备</source>
-        <translation>Devices hidden by the filters: %1</translation>
+        <translation>All %1 devices are hidden by the filters</translation>
     </message>
     <message>
         <source>正在搜索设备…</source>
@@ -2988,7 +3120,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>放宽筛选条件，或清除搜索文字。</source>
-        <translation>Loosen the filters or clear the search text.</translation>
+        <translation>Change the filters or clear the search text.</translation>
     </message>
     <message>
         <source>找到的设备会陆续显示在这里。</source>
@@ -2996,11 +3128,7 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。</source>
-        <translation>Check the cable and the network segment, or choose other segments in the search settings. Then search again.</translation>
-    </message>
-    <message>
-        <source>以 --demo 参数启动可演示模拟站点。</source>
-        <translation>Start the tool with --demo to work with a simulated site.</translation>
+        <translation>Check that the devices are powered on and connected. For devices in other networks, add their range in the search settings or add a device by its address.</translation>
     </message>
     <message>
         <source>清除筛选</source>
@@ -3012,11 +3140,11 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>搜索设置中没有选择网段</source>
-        <translation>The search settings name no segment</translation>
+        <translation>No network is selected in the search settings</translation>
     </message>
     <message>
         <source>请在搜索设置中选择本地网段或其他网段。</source>
-        <translation>Select the local segment or other segments in the search settings.</translation>
+        <translation>Select the local network or other networks in the search settings.</translation>
     </message>
     <message>
         <source>搜索设置</source>
@@ -3025,6 +3153,22 @@ A right click copies the result</translation>
     <message>
         <source>为什么没有找到设备？</source>
         <translation>Why were no devices found?</translation>
+    </message>
+    <message>
+        <source>程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。</source>
+        <translation>The program cannot communicate with devices: none can be found or changed. The demo site needs no devices and shows all functions.</translation>
+    </message>
+    <message>
+        <source>打开演示站点</source>
+        <translation>Open demo site</translation>
+    </message>
+    <message>
+        <source>已搜索：%1</source>
+        <translation>Searched: %1</translation>
+    </message>
+    <message>
+        <source>按地址添加设备</source>
+        <translation>Add device by address</translation>
     </message>
 </context>
 <context>
@@ -3039,17 +3183,17 @@ A right click copies the result</translation>
     </message>
     <message>
         <source>%1 已存在，是否覆盖？</source>
-        <translation>%1 is there already. Overwrite it?</translation>
+        <translation>%1 already exists. Replace it?</translation>
     </message>
     <message>
         <source>导出设备成功
 文件路径:</source>
         <translation>Devices exported
-File path: </translation>
+File: </translation>
     </message>
     <message>
         <source>导出设备失败，请检查本机是否已经安装了Office</source>
-        <translation>The export failed: check that the office suite is installed</translation>
+        <translation>The file could not be written. Check the folder and whether another program has the file open.</translation>
     </message>
     <message>
         <source>打开excel文件</source>
@@ -3057,15 +3201,15 @@ File path: </translation>
     </message>
     <message>
         <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>The import failed: wrong format, duplicate MACs in the file, or the file is open elsewhere!</translation>
+        <translation>Not imported. The file is open in another program, has another format, or contains a MAC address twice.</translation>
     </message>
     <message>
         <source>批量导入设备：</source>
-        <translation>Devices imported: </translation>
+        <translation>Imported: </translation>
     </message>
     <message>
         <source>台已完成</source>
-        <translation>done</translation>
+        <translation>devices</translation>
     </message>
     <message>
         <source>请选择文件夹</source>
@@ -3077,7 +3221,7 @@ File path: </translation>
     </message>
     <message>
         <source>以下内容无法从该文件正确导入：</source>
-        <translation>The following will not be imported correctly from this file:</translation>
+        <translation>These values cannot be read back from the file:</translation>
     </message>
     <message>
         <source>行</source>
@@ -3110,6 +3254,14 @@ File path: </translation>
     <message>
         <source>正在读取设备列表…</source>
         <translation>Reading the device list…</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>Replace file</translation>
     </message>
 </context>
 <context>
@@ -3156,7 +3308,7 @@ File path: </translation>
     </message>
     <message>
         <source>未初始化</source>
-        <translation>Uninitialised</translation>
+        <translation>Not initialised</translation>
     </message>
     <message>
         <source>IP地址冲突</source>
@@ -3171,7 +3323,7 @@ File path: </translation>
     </message>
     <message>
         <source>为勾选的新设备设置第一个密码</source>
-        <translation>Set the first password of the selected factory-new devices</translation>
+        <translation>Sets the first password of the selected new devices</translation>
     </message>
     <message>
         <source>批量修改IP</source>
@@ -3179,7 +3331,7 @@ File path: </translation>
     </message>
     <message>
         <source>为勾选的设备依次分配地址</source>
-        <translation>Assign consecutive addresses to the selected devices</translation>
+        <translation>Assigns consecutive addresses to the selected devices</translation>
     </message>
     <message>
         <source>导入</source>
@@ -3187,7 +3339,7 @@ File path: </translation>
     </message>
     <message>
         <source>从表格文件读入设备列表</source>
-        <translation>Read a device list from a spreadsheet file</translation>
+        <translation>Reads a device list from a spreadsheet</translation>
     </message>
     <message>
         <source>导出</source>
@@ -3195,7 +3347,7 @@ File path: </translation>
     </message>
     <message>
         <source>把勾选的设备写入表格文件</source>
-        <translation>Write the selected devices to a spreadsheet file</translation>
+        <translation>Writes the selected devices to a spreadsheet</translation>
     </message>
     <message>
         <source>手动添加</source>
@@ -3203,7 +3355,7 @@ File path: </translation>
     </message>
     <message>
         <source>添加搜索不到的设备：按IP、按P2P或从收藏夹</source>
-        <translation>Add devices that a search does not find: by IP, by P2P or from the favourites</translation>
+        <translation>Adds devices that a search does not find: by IP address, by P2P ID or from the favourites</translation>
     </message>
     <message>
         <source>IP设备</source>
@@ -3219,11 +3371,11 @@ File path: </translation>
     </message>
     <message>
         <source>删除</source>
-        <translation>Delete</translation>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>把勾选的设备从列表中删除</source>
-        <translation>Remove the selected devices from the list</translation>
+        <translation>Removes the selected devices from the list</translation>
     </message>
     <message>
         <source>已初始化</source>
@@ -3231,7 +3383,7 @@ File path: </translation>
     </message>
     <message>
         <source>未初始化</source>
-        <translation>Uninitialised</translation>
+        <translation>Not initialised</translation>
     </message>
     <message>
         <source>搜索…</source>
@@ -3240,16 +3392,24 @@ File path: </translation>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能修改IP地址</source>
         <translation>
-            <numerusform>%n of the ticked devices is being upgraded: addresses cannot be changed</numerusform>
-            <numerusform>%n of the ticked devices are being upgraded: addresses cannot be changed</numerusform>
+            <numerusform>%n selected device is being upgraded: its address cannot be changed</numerusform>
+            <numerusform>%n selected devices are being upgraded: their addresses cannot be changed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能删除</source>
         <translation>
-            <numerusform>%n of the ticked devices is being upgraded and cannot be deleted</numerusform>
-            <numerusform>%n of the ticked devices are being upgraded and cannot be deleted</numerusform>
+            <numerusform>%n selected device is being upgraded and cannot be removed</numerusform>
+            <numerusform>%n selected devices are being upgraded and cannot be removed</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPv4</translation>
+    </message>
+    <message>
+        <source>IPV6</source>
+        <translation>IPv6</translation>
     </message>
 </context>
 <context>
@@ -3293,11 +3453,11 @@ File path: </translation>
     <message>
         <source>仅失败 %1</source>
         <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
-        <translation>Failed only %1</translation>
+        <translation>Failed only (%1)</translation>
     </message>
     <message>
         <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
-        <translation>Shows only devices that failed or were not done, by reason. Devices that are no longer listed are in the batch panel.</translation>
+        <translation>Shows only devices that failed or were not done, sorted by reason. For devices that are no longer listed, see Batches.</translation>
     </message>
     <message>
         <source>清除标记</source>
@@ -3305,7 +3465,7 @@ File path: </translation>
     </message>
     <message>
         <source>不再标记失败和未执行的设备</source>
-        <translation>Devices that failed or were not done are no longer marked</translation>
+        <translation>Removes the marks of devices that failed or were not done</translation>
     </message>
 </context>
 <context>
@@ -3332,7 +3492,7 @@ File path: </translation>
     </message>
     <message>
         <source>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
-        <translation>%1: several devices in a row refused the password. Going on may lock accounts. Go on?</translation>
+        <translation>%1: wrong password on several devices in a row. More attempts may lock accounts. Continue?</translation>
     </message>
     <message numerus="yes">
         <source>%n 台失败</source>
@@ -3344,7 +3504,7 @@ File path: </translation>
     </message>
     <message>
         <source>继续</source>
-        <translation>Go on</translation>
+        <translation>Continue</translation>
     </message>
     <message>
         <source>正在停止…</source>
@@ -3360,7 +3520,7 @@ File path: </translation>
     </message>
     <message>
         <source>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
-        <translation>Tries the failed devices and those not done again, except where another try cannot succeed, as after a wrong password</translation>
+        <translation>Runs the batch again for the devices that failed or were not done. Devices for which a retry cannot help, as after a wrong password, are skipped.</translation>
     </message>
     <message>
         <source>选中失败</source>
@@ -3368,7 +3528,7 @@ File path: </translation>
     </message>
     <message>
         <source>在本页只勾选失败和未执行的设备</source>
-        <translation>Ticks only the failed devices and those not done on this page</translation>
+        <translation>Selects only the devices on this page that failed or were not done</translation>
     </message>
     <message>
         <source>保存结果</source>
@@ -3381,6 +3541,11 @@ File path: </translation>
     <message>
         <source>正在搜索设备…</source>
         <translation>Searching for devices…</translation>
+    </message>
+    <message>
+        <source>%1 %2 / %3</source>
+        <extracomment>A batch that runs: its title, and how many devices of how many are done.</extracomment>
+        <translation>%1: %2 of %3 done</translation>
     </message>
 </context>
 <context>
@@ -3492,7 +3657,7 @@ File path: </translation>
     <name>OV_MediaPlayer</name>
     <message>
         <source>没有通道</source>
-        <translation>No channel</translation>
+        <translation>No channels</translation>
     </message>
     <message>
         <source>通道未连接</source>
@@ -3504,18 +3669,18 @@ File path: </translation>
     </message>
     <message>
         <source>画面中断</source>
-        <translation>The picture has broken off</translation>
+        <translation>Stream interrupted</translation>
     </message>
     <message numerus="yes">
         <source>%n 秒后重试</source>
         <translation>
-            <numerusform>Next try in %n second</numerusform>
-            <numerusform>Next try in %n seconds</numerusform>
+            <numerusform>Retry in %n s</numerusform>
+            <numerusform>Retry in %n s</numerusform>
         </translation>
     </message>
     <message>
         <source>立即重试</source>
-        <translation>Try now</translation>
+        <translation>Retry now</translation>
     </message>
 </context>
 <context>
@@ -3526,14 +3691,14 @@ File path: </translation>
     </message>
     <message>
         <source>P2P端口代理没有启动</source>
-        <translation>The P2P port agent has not started</translation>
+        <translation>The P2P service could not be started</translation>
     </message>
 </context>
 <context>
     <name>PageCGIConfig</name>
     <message>
         <source>请选择一台设备。</source>
-        <translation>Please select a device.</translation>
+        <translation>Select a device.</translation>
     </message>
     <message>
         <source>批量配置CGI</source>
@@ -3541,15 +3706,15 @@ File path: </translation>
     </message>
     <message>
         <source>向勾选的设备发送同一条命令</source>
-        <translation>Send one command to each of the ticked devices</translation>
+        <translation>Sends one command to the selected devices</translation>
     </message>
     <message>
         <source>批量表单操作</source>
-        <translation>Run a workbook</translation>
+        <translation>Run spreadsheet</translation>
     </message>
     <message>
         <source>执行表格文件中的命令，并把结果写回文件</source>
-        <translation>Run the commands of a workbook and record their results in it</translation>
+        <translation>Sends the commands of a spreadsheet and writes the results into it</translation>
     </message>
     <message>
         <source>打开模板</source>
@@ -3557,7 +3722,7 @@ File path: </translation>
     </message>
     <message>
         <source>打开命令表格的模板文件</source>
-        <translation>Open the template of such a workbook</translation>
+        <translation>Opens the template for command spreadsheets</translation>
     </message>
     <message>
         <source>搜索...</source>
@@ -3577,15 +3742,15 @@ File path: </translation>
     </message>
     <message>
         <source>未成功的设备</source>
-        <translation>Devices that were not done</translation>
+        <translation>Devices that failed</translation>
     </message>
     <message>
         <source>将向下列设备发送命令：</source>
-        <translation>The command is sent to these devices:</translation>
+        <translation>The command will be sent to these devices:</translation>
     </message>
     <message>
         <source>执行</source>
-        <translation>Go</translation>
+        <translation>Send</translation>
     </message>
 </context>
 <context>
@@ -3609,8 +3774,8 @@ File path: </translation>
         <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
         <extracomment>%1 is a channel&apos;s number.</extracomment>
         <translation>
-            <numerusform>Copy the encode settings of channel %1 to the same channel of the selected device?</numerusform>
-            <numerusform>Copy the encode settings of channel %1 to the same channel of the %n selected devices?</numerusform>
+            <numerusform>Copy the encoding settings of channel %1 to the same channel of the selected device?</numerusform>
+            <numerusform>Copy the encoding settings of channel %1 to the same channel of the %n selected devices?</numerusform>
         </translation>
     </message>
     <message>
@@ -3631,7 +3796,7 @@ File path: </translation>
     </message>
     <message>
         <source>（按Esc停止）</source>
-        <translation> (Esc stops)</translation>
+        <translation> (Esc to stop)</translation>
     </message>
     <message>
         <source>设备配置</source>
@@ -3640,7 +3805,15 @@ File path: </translation>
     <message>
         <source>写入通道 %1 的编码配置</source>
         <extracomment>What happens to a device; %1 is a channel&apos;s number.</extracomment>
-        <translation>Encode settings of channel %1</translation>
+        <translation>Encoding settings of channel %1</translation>
+    </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>Copy encoding settings</translation>
+    </message>
+    <message>
+        <source>未保存的修改</source>
+        <translation>Unsaved changes</translation>
     </message>
 </context>
 <context>
@@ -3652,6 +3825,10 @@ File path: </translation>
             <numerusform>%n device selected</numerusform>
             <numerusform>%n devices selected</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>The setting could not be saved. Check that you may write to the program folder.</translation>
     </message>
 </context>
 <context>
@@ -3668,8 +3845,8 @@ File path: </translation>
         <source>%n 台设备IP地址冲突</source>
         <extracomment>Each of the devices has the address of another one.</extracomment>
         <translation>
-            <numerusform>%n device shares an IP address</numerusform>
-            <numerusform>%n devices share an IP address</numerusform>
+            <numerusform>IP address conflict: %n device</numerusform>
+            <numerusform>IP address conflict: %n devices</numerusform>
         </translation>
     </message>
     <message>
@@ -3678,11 +3855,11 @@ File path: </translation>
     </message>
     <message>
         <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
-        <translation>The connection to the P2P device %1 is broken: delete the device and add it again</translation>
+        <translation>Connection to P2P device %1 lost. Remove the device and add it again.</translation>
     </message>
     <message>
         <source>P2P服务已断开，P2P设备暂时无法访问</source>
-        <translation>The P2P service is gone: devices behind NAT cannot be reached for now</translation>
+        <translation>The P2P service is disconnected. P2P devices cannot be reached at the moment.</translation>
     </message>
     <message>
         <source>导出</source>
@@ -3690,7 +3867,7 @@ File path: </translation>
     </message>
     <message>
         <source>查看原因</source>
-        <translation>See why</translation>
+        <translation>Show reasons</translation>
     </message>
     <message numerus="yes">
         <source>找到的设备比上次搜索少 %n 台</source>
@@ -3704,7 +3881,7 @@ File path: </translation>
     <name>PageSystemConfig</name>
     <message>
         <source>旧密码正确，等待新密码</source>
-        <translation>The old password is right; waiting for the new one</translation>
+        <translation>Old password correct: waiting for the new one</translation>
     </message>
     <message>
         <source>修改密码</source>
@@ -3733,15 +3910,15 @@ File path: </translation>
     <message numerus="yes">
         <source>时间已到，%n 台设备的密码没有修改</source>
         <translation>
-            <numerusform>Time is up: the password of %n device is unchanged</numerusform>
-            <numerusform>Time is up: the passwords of %n devices are unchanged</numerusform>
+            <numerusform>Time is up: the password of %n device was not changed</numerusform>
+            <numerusform>Time is up: the passwords of %n devices were not changed</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>已开始其他操作，%n 台设备的密码没有修改</source>
         <translation>
-            <numerusform>Other work has started: the password of %n device is unchanged</numerusform>
-            <numerusform>Other work has started: the passwords of %n devices are unchanged</numerusform>
+            <numerusform>Another operation was started: the password of %n device was not changed</numerusform>
+            <numerusform>Another operation was started: the passwords of %n devices were not changed</numerusform>
         </translation>
     </message>
 </context>
@@ -3753,7 +3930,7 @@ File path: </translation>
     </message>
     <message>
         <source>应用程序已经运行!</source>
-        <translation>The program is already running!</translation>
+        <translation>The program is already running.</translation>
     </message>
 </context>
 <context>
@@ -3772,7 +3949,7 @@ File path: </translation>
     </message>
     <message>
         <source>设备 %1 没有接受登录，请输入它的账号和密码。</source>
-        <translation>The device %1 did not accept the login. Enter its account and password.</translation>
+        <translation>Login to %1 failed. Enter its user name and password.</translation>
     </message>
     <message>
         <source>用户名</source>
@@ -3791,22 +3968,26 @@ File path: </translation>
     </message>
     <message>
         <source>提示</source>
-        <translation>Notice</translation>
+        <translation>Change of language</translation>
     </message>
     <message>
         <source>语言变更需要重新启动程序才能生效！</source>
-        <translation>The change of language takes effect after a restart.</translation>
+        <translation>The language changes when the program restarts.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Later</translation>
     </message>
 </context>
 <context>
     <name>ResultNames</name>
     <message>
         <source>命令失败</source>
-        <translation>The command failed</translation>
+        <translation>Command failed</translation>
     </message>
     <message>
         <source>成功</source>
-        <translation>Success</translation>
+        <translation>Succeeded</translation>
     </message>
     <message>
         <source>未知</source>
@@ -3822,15 +4003,15 @@ File path: </translation>
     </message>
     <message>
         <source>账号被锁定</source>
-        <translation>The account is locked</translation>
+        <translation>The account is locked. Wait until the device unlocks it.</translation>
     </message>
     <message>
         <source>账号已登录</source>
-        <translation>The account is already logged in</translation>
+        <translation>The account is already in use</translation>
     </message>
     <message>
         <source>网络异常</source>
-        <translation>Network error</translation>
+        <translation>No answer from the device</translation>
     </message>
     <message>
         <source>协议不匹配</source>
@@ -3854,7 +4035,7 @@ File path: </translation>
     </message>
     <message>
         <source>设备拒绝了此操作</source>
-        <translation>The device refused</translation>
+        <translation>The device rejected the request</translation>
     </message>
     <message>
         <source>未知错误 %1</source>
@@ -3874,11 +4055,11 @@ File path: </translation>
     </message>
     <message>
         <source>数据无效</source>
-        <translation>Not usable</translation>
+        <translation>Invalid data</translation>
     </message>
     <message>
         <source>升级文件不可用</source>
-        <translation>Firmware file not usable</translation>
+        <translation>Firmware file cannot be used</translation>
     </message>
     <message>
         <source>升级未完成</source>
@@ -3890,11 +4071,11 @@ File path: </translation>
     </message>
     <message>
         <source>设备忙，请稍后重试</source>
-        <translation>The device is busy, try later</translation>
+        <translation>The device is busy. Try again later.</translation>
     </message>
     <message>
         <source>登录已失效，请重新登录</source>
-        <translation>The login is no longer valid, log in again</translation>
+        <translation>The session has expired. Log in again.</translation>
     </message>
     <message>
         <source>设备不接受该值</source>
@@ -3902,11 +4083,11 @@ File path: </translation>
     </message>
     <message>
         <source>设备证书未确认</source>
-        <translation>The certificate of the device is not confirmed</translation>
+        <translation>The certificate of the device is not trusted</translation>
     </message>
     <message>
         <source>设备证书已改变</source>
-        <translation>Certificate not confirmed</translation>
+        <translation>The certificate of the device has changed</translation>
     </message>
     <message>
         <source>已取消</source>
@@ -3948,7 +4129,7 @@ File path: </translation>
     </message>
     <message>
         <source>检查网卡是否已安装并启用。</source>
-        <translation>Check that an interface is installed and switched on.</translation>
+        <translation>Check that an interface is installed and enabled.</translation>
     </message>
     <message>
         <source>按地址搜索</source>
@@ -3964,35 +4145,35 @@ File path: </translation>
     </message>
     <message>
         <source>有应答</source>
-        <translation>Answered</translation>
+        <translation>Answers</translation>
     </message>
     <message>
         <source>本机没有到其中 %1 个地址的路由</source>
-        <translation>This computer has no route to %1 of these addresses</translation>
+        <translation>No route to %1 of these addresses</translation>
     </message>
     <message>
         <source>为网卡设置网关，或添加一个与这些地址同一网段的地址。</source>
-        <translation>Set a gateway for the interface, or add an address in the same segment as these addresses.</translation>
+        <translation>Set a gateway for the interface, or add an address in the same network as these addresses.</translation>
     </message>
     <message>
         <source>没有地址应答</source>
-        <translation>No address has answered</translation>
+        <translation>No answer from any address</translation>
     </message>
     <message>
         <source>检查搜索设置中的地址范围，以及设备是否已通电。</source>
-        <translation>Check the range in the search settings, and that the devices are switched on.</translation>
+        <translation>Check the address range in the search settings, and that the devices are powered on.</translation>
     </message>
     <message>
         <source>其他网段</source>
-        <translation>Other segments</translation>
+        <translation>Other networks</translation>
     </message>
     <message>
         <source>找到的 %1 台设备不在本机的任何网段内</source>
-        <translation>Devices found outside every segment of this computer: %1</translation>
+        <translation>Devices found outside all networks of this computer: %1</translation>
     </message>
     <message>
         <source>登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。</source>
-        <translation>Before you log in to them, change their IP addresses or add an address in their segment to the interface.</translation>
+        <translation>Before you log in to them, change their IP addresses or add an address in their network to the interface.</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4032,7 +4213,7 @@ File path: </translation>
     </message>
     <message>
         <source>非视频设备的消息 %1 条</source>
-        <translation>messages of other kinds of devices: %1</translation>
+        <translation>messages of devices other than cameras and recorders: %1</translation>
     </message>
     <message>
         <source>没有服务地址的消息 %1 条</source>
@@ -4040,15 +4221,15 @@ File path: </translation>
     </message>
     <message>
         <source>服务地址属于其他主机的消息 %1 条</source>
-        <translation>messages that name services of other hosts: %1</translation>
+        <translation>messages with a service address of another host: %1</translation>
     </message>
     <message>
         <source>设备离开网络的通知 %1 条</source>
-        <translation>notices of devices that leave the network: %1</translation>
+        <translation>messages of devices leaving the network: %1</translation>
     </message>
     <message>
         <source>超出数量限制的消息 %1 条</source>
-        <translation>messages beyond the limit: %1</translation>
+        <translation>messages over the limit: %1</translation>
     </message>
     <message>
         <source>，</source>
@@ -4056,11 +4237,11 @@ File path: </translation>
     </message>
     <message>
         <source>网卡已停用</source>
-        <translation>The interface is switched off</translation>
+        <translation>The interface is disabled</translation>
     </message>
     <message>
         <source>在操作系统的网络设置中启用它。</source>
-        <translation>Switch it on in the network settings of the operating system.</translation>
+        <translation>Enable it in the network settings of the operating system.</translation>
     </message>
     <message>
         <source>网络未连接</source>
@@ -4076,7 +4257,7 @@ File path: </translation>
     </message>
     <message>
         <source>设置一个与设备同一网段的地址，或启用DHCP。</source>
-        <translation>Set an address in the segment of the devices, or switch on DHCP.</translation>
+        <translation>Set an address in the network of the devices, or enable DHCP.</translation>
     </message>
     <message>
         <source>网卡不能发送组播</source>
@@ -4084,11 +4265,11 @@ File path: </translation>
     </message>
     <message>
         <source>在搜索设置中选择其他网段，按地址搜索。</source>
-        <translation>Choose other segments in the search settings to search by address.</translation>
+        <translation>Select other networks in the search settings to search by address.</translation>
     </message>
     <message>
         <source>系统拒绝发送请求：%1</source>
-        <translation>The system refused to send requests: %1</translation>
+        <translation>The operating system did not send the requests: %1</translation>
     </message>
     <message>
         <source>检查本机的防火墙和网卡的设置。</source>
@@ -4096,15 +4277,15 @@ File path: </translation>
     </message>
     <message>
         <source>没有收到任何应答</source>
-        <translation>No answers were received</translation>
+        <translation>No answers received</translation>
     </message>
     <message>
         <source>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</source>
-        <translation>Check that the devices are switched on and connected to the same network, and that neither the firewall of this computer nor a switch filters answers. You can also search by address in the search settings.</translation>
+        <translation>Check that the devices are powered on and in the same network, and that no firewall or switch filters their answers. You can also search by address: see the search settings.</translation>
     </message>
     <message>
         <source>找到 %1 台设备，比上次搜索少 %2 台。</source>
-        <translation>Devices found: %1. The last search found %2 more.</translation>
+        <translation>%1 devices found, %2 fewer than in the last search.</translation>
     </message>
     <message>
         <source>找到 %1 台设备。</source>
@@ -4112,18 +4293,18 @@ File path: </translation>
     </message>
     <message>
         <source>没有找到设备。</source>
-        <translation>No devices were found.</translation>
+        <translation>No devices found.</translation>
     </message>
 </context>
 <context>
     <name>SearchSettingsDialog</name>
     <message>
         <source>起始ip不可以大于结束ip</source>
-        <translation>The start IP must not be above the end IP</translation>
+        <translation>The start IP must not be greater than the end IP</translation>
     </message>
     <message>
         <source>仅支持跨16个网段搜索</source>
-        <translation>End IP: at most 16 segments above the start IP</translation>
+        <translation>The range may span 17 segments</translation>
     </message>
     <message>
         <source>请输入正确的起始IP</source>
@@ -4143,11 +4324,11 @@ File path: </translation>
     </message>
     <message>
         <source>搜索本地网段</source>
-        <translation>Search local segment</translation>
+        <translation>Search local network</translation>
     </message>
     <message>
         <source>搜索其他网段</source>
-        <translation>Search other segments</translation>
+        <translation>Search other networks</translation>
     </message>
     <message>
         <source>起始IP</source>
@@ -4167,22 +4348,22 @@ File path: </translation>
     </message>
     <message>
         <source>登录搜索到的设备时默认使用此账号</source>
-        <translation>Used by default to log in to the devices found</translation>
+        <translation>Default account for logging in to devices</translation>
     </message>
     <message>
         <source>搜索时用此账号登录设备</source>
-        <translation>Log in to devices with this account</translation>
+        <translation>Log in to devices during the search</translation>
     </message>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
-        <translation>Reads the model, version and MAC address. Every device receives this account; a device that refuses the password is not asked again.</translation>
+        <translation>Reads the model, version and MAC address. Every device receives this account. After a wrong password, a device is not tried again.</translation>
     </message>
 </context>
 <context>
     <name>Shell</name>
     <message>
         <source>无法打开模拟站点：</source>
-        <translation>The simulated site cannot be opened:</translation>
+        <translation>The demo site could not be opened:</translation>
     </message>
 </context>
 <context>
@@ -4197,7 +4378,7 @@ File path: </translation>
     </message>
     <message>
         <source>抓图失败，图片无法写入：%1</source>
-        <translation>Snapshot failed, the picture cannot be written: %1</translation>
+        <translation>Snapshot failed: the file could not be written: %1</translation>
     </message>
 </context>
 <context>
@@ -4212,7 +4393,7 @@ File path: </translation>
     </message>
     <message>
         <source>重新抓取</source>
-        <translation>Take again</translation>
+        <translation>Retry</translation>
     </message>
 </context>
 <context>
@@ -4304,11 +4485,11 @@ File path: </translation>
     </message>
     <message>
         <source>开始时间</source>
-        <translation>Begins</translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>结束时间</source>
-        <translation>Ends</translation>
+        <translation>End</translation>
     </message>
     <message>
         <source>应用夏令时</source>
@@ -4316,7 +4497,7 @@ File path: </translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>请输入正确的时间</source>
@@ -4347,15 +4528,11 @@ File path: </translation>
     </message>
     <message>
         <source>没有设备的名称、类型、型号或地址包含这些文字。</source>
-        <translation>No device&apos;s name, type, model or address contains this text.</translation>
+        <translation>No device with this name, type, model or address.</translation>
     </message>
     <message>
         <source>找到的设备会陆续显示在这里。</source>
         <translation>Devices appear here as they are found.</translation>
-    </message>
-    <message>
-        <source>以 --demo 参数启动可演示模拟站点。</source>
-        <translation>Start the tool with --demo to work with a simulated site.</translation>
     </message>
     <message>
         <source>只列出已初始化的IPv4设备。</source>
@@ -4363,7 +4540,7 @@ File path: </translation>
     </message>
     <message>
         <source>没有匹配的设备</source>
-        <translation>No device matches</translation>
+        <translation>No devices match</translation>
     </message>
     <message>
         <source>正在搜索设备…</source>
@@ -4383,7 +4560,11 @@ File path: </translation>
     </message>
     <message>
         <source>失败的设备不在列表中，见批处理记录。</source>
-        <translation>The failed devices are not in the list; see the batch panel.</translation>
+        <translation>The failed devices are no longer listed. See Batches.</translation>
+    </message>
+    <message>
+        <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
+        <translation>The program cannot communicate with devices. Open the demo site on the page “Modify IP”.</translation>
     </message>
 </context>
 <context>
@@ -4438,23 +4619,23 @@ File path: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>First</translation>
+        <translation>First week</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Second</translation>
+        <translation>Second week</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Third</translation>
+        <translation>Third week</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Fourth</translation>
+        <translation>Fourth week</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Last</translation>
+        <translation>Last week</translation>
     </message>
     <message>
         <source>周日</source>
@@ -4533,7 +4714,7 @@ File path: </translation>
     </message>
     <message>
         <source>恢复</source>
-        <translation>Restore</translation>
+        <translation>Factory reset</translation>
     </message>
     <message>
         <source>密码</source>
@@ -4548,22 +4729,22 @@ File path: </translation>
     <name>SystemPasswordNotice</name>
     <message>
         <source>只剩 %1 秒，之后需要重新验证旧密码</source>
-        <translation>Only %1 s left, then the old password has to be checked again</translation>
+        <translation>%1 s left to enter the password. Then the old password must be checked again.</translation>
     </message>
     <message>
         <source>%1 秒后失效</source>
-        <translation>Closes in %1 s</translation>
+        <translation>%1 s left to enter the password</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备等待新密码</source>
         <translation>
-            <numerusform>%n device waits for the new password</numerusform>
-            <numerusform>%n devices wait for the new password</numerusform>
+            <numerusform>%n device waiting for the new password</numerusform>
+            <numerusform>%n devices waiting for the new password</numerusform>
         </translation>
     </message>
     <message>
         <source>已恢复之前输入的新密码</source>
-        <translation>the new password typed before is back</translation>
+        <translation>the new password that you entered is restored</translation>
     </message>
     <message>
         <source>请重新验证旧密码。</source>
@@ -4571,25 +4752,25 @@ File path: </translation>
     </message>
     <message>
         <source>已输入的新密码届时会恢复。</source>
-        <translation>What was typed of the new one then returns.</translation>
+        <translation>The new password that you entered is then restored.</translation>
     </message>
     <message numerus="yes">
         <source>时间已到，%n 台设备的密码没有修改。</source>
         <translation>
-            <numerusform>Time is up: the password of %n device is unchanged. </numerusform>
-            <numerusform>Time is up: the passwords of %n devices are unchanged. </numerusform>
+            <numerusform>Time is up: the password of %n device was not changed. </numerusform>
+            <numerusform>Time is up: the passwords of %n devices were not changed. </numerusform>
         </translation>
     </message>
     <message>
         <source>勾选的设备已改变。</source>
-        <translation>Other devices are ticked. </translation>
+        <translation>The selection has changed. </translation>
     </message>
 </context>
 <context>
     <name>SystemPasswordPanel</name>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
-        <translation>Use at least two of digits, letters and common symbols, and no illegal characters.</translation>
+        <translation>Use at least two of digits, letters and symbols, and no illegal characters.</translation>
     </message>
     <message>
         <source>请输入密码</source>
@@ -4601,7 +4782,7 @@ File path: </translation>
     </message>
     <message>
         <source>请输入相同的密码</source>
-        <translation>Enter the same password</translation>
+        <translation>The passwords do not match</translation>
     </message>
     <message>
         <source>密码长度应当在8到32个字符范围内</source>
@@ -4625,7 +4806,7 @@ File path: </translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>第二步：设置新密码</source>
@@ -4637,11 +4818,11 @@ File path: </translation>
     </message>
     <message>
         <source>确认密码</source>
-        <translation>Confirm</translation>
+        <translation>Confirm password</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
-        <translation>8 to 32 characters with at least two of digits, letters and common symbols (any visible character but the five &apos;&quot;:;&amp;)</translation>
+        <translation>8 to 32 characters, with at least two of digits, letters and symbols (all visible characters except &apos;&quot;:;&amp;)</translation>
     </message>
     <message>
         <source>修改密码</source>
@@ -4652,11 +4833,11 @@ File path: </translation>
     <name>SystemPreview</name>
     <message>
         <source>启用夏令时</source>
-        <translation>Daylight saving</translation>
+        <translation>Daylight saving on</translation>
     </message>
     <message>
         <source>停用夏令时</source>
-        <translation>No daylight saving</translation>
+        <translation>Daylight saving off</translation>
     </message>
     <message>
         <source>，</source>
@@ -4664,7 +4845,7 @@ File path: </translation>
     </message>
     <message>
         <source>停用NTP</source>
-        <translation>no NTP</translation>
+        <translation>NTP off</translation>
     </message>
     <message>
         <source>%1 %2 重启</source>
@@ -4673,7 +4854,7 @@ File path: </translation>
     </message>
     <message>
         <source>停用定时重启</source>
-        <translation>No regular reboots</translation>
+        <translation>Regular reboots off</translation>
     </message>
     <message numerus="yes">
         <source>确定要重启选中的 %n 台设备吗？</source>
@@ -4689,17 +4870,28 @@ File path: </translation>
     <message numerus="yes">
         <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
         <translation>
-            <numerusform>Restore the factory settings of the selected device?</numerusform>
-            <numerusform>Restore the factory settings of the %n selected devices?</numerusform>
+            <numerusform>Reset the selected device to factory settings?</numerusform>
+            <numerusform>Reset the %n selected devices to factory settings?</numerusform>
         </translation>
     </message>
     <message>
         <source>执行</source>
-        <translation>Go</translation>
+        <translation>Apply</translation>
     </message>
     <message>
         <source>将对下列设备执行“%1”：</source>
         <translation>“%1” will be applied to these devices:</translation>
+    </message>
+    <message numerus="yes">
+        <source>更新周期为 0 分钟，设备可能不再校时。仍要应用到选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>The update interval is 0 minutes: the device may no longer update its time. Apply it to the selected device?</numerusform>
+            <numerusform>The update interval is 0 minutes: the devices may no longer update their time. Apply it to the %n selected devices?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>仍然应用</source>
+        <translation>Apply anyway</translation>
     </message>
 </context>
 <context>
@@ -4726,7 +4918,7 @@ File path: </translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>立即重启</source>
@@ -4734,7 +4926,7 @@ File path: </translation>
     </message>
     <message>
         <source>设备重启期间无法访问，录像和预览会中断。</source>
-        <translation>A device cannot be reached while it reboots; recording and live view are interrupted.</translation>
+        <translation>While it reboots, a device cannot be reached and does not record.</translation>
     </message>
     <message>
         <source>重启设备</source>
@@ -4743,8 +4935,8 @@ File path: </translation>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能重启</source>
         <translation>
-            <numerusform>%n of the ticked devices is being upgraded and cannot be rebooted</numerusform>
-            <numerusform>%n of the ticked devices are being upgraded and cannot be rebooted</numerusform>
+            <numerusform>%n selected device is being upgraded and cannot be rebooted</numerusform>
+            <numerusform>%n selected devices are being upgraded and cannot be rebooted</numerusform>
         </translation>
     </message>
 </context>
@@ -4756,17 +4948,17 @@ File path: </translation>
     </message>
     <message>
         <source>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</source>
-        <translation>All settings, accounts and passwords of the devices are erased. This cannot be undone, and the devices have to be initialised again.</translation>
+        <translation>Erases all settings, accounts and passwords of the devices. This cannot be undone. The devices must be initialised again.</translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</source>
         <translation>
-            <numerusform>%n of the ticked devices is being upgraded and cannot be reset</numerusform>
-            <numerusform>%n of the ticked devices are being upgraded and cannot be reset</numerusform>
+            <numerusform>%n selected device is being upgraded and cannot be reset</numerusform>
+            <numerusform>%n selected devices are being upgraded and cannot be reset</numerusform>
         </translation>
     </message>
 </context>
@@ -4774,7 +4966,7 @@ File path: </translation>
     <name>SystemTimePanel</name>
     <message>
         <source>按电脑时间校时</source>
-        <translation>By this computer&apos;s time</translation>
+        <translation>Computer time</translation>
     </message>
     <message>
         <source>同步电脑时间</source>
@@ -4782,15 +4974,15 @@ File path: </translation>
     </message>
     <message>
         <source>每台设备得到发送时刻的电脑时间</source>
-        <translation>Each device gets the computer&apos;s time at the moment of sending</translation>
+        <translation>Sets each device to the time at which it receives the request</translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>手动校时</source>
-        <translation>By hand</translation>
+        <translation>Manually</translation>
     </message>
     <message>
         <source>时间</source>
@@ -4798,11 +4990,23 @@ File path: </translation>
     </message>
     <message>
         <source>取当前时间</source>
-        <translation>Take current time</translation>
+        <translation>Use current time</translation>
     </message>
     <message>
         <source>应用</source>
         <translation>Apply</translation>
+    </message>
+    <message>
+        <source>设备时间</source>
+        <translation>Device time</translation>
+    </message>
+    <message>
+        <source>读取设备时间</source>
+        <translation>Read device times</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Device</translation>
     </message>
 </context>
 <context>
@@ -4825,11 +5029,11 @@ File path: </translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>设备的接口没有此功能</source>
-        <translation>The interface of the devices does not have this function</translation>
+        <translation>The devices do not offer this function</translation>
     </message>
 </context>
 <context>
@@ -4856,7 +5060,7 @@ File path: </translation>
     </message>
     <message>
         <source>地址或域名</source>
-        <translation>Address or name</translation>
+        <translation>IP address or host name</translation>
     </message>
     <message>
         <source>NTP端口</source>
@@ -4864,34 +5068,38 @@ File path: </translation>
     </message>
     <message>
         <source>更新周期(分钟)</source>
-        <translation>Update (minutes)</translation>
+        <translation>Interval (min)</translation>
     </message>
     <message>
         <source>应用时区和NTP</source>
-        <translation>Apply zone and NTP</translation>
+        <translation>Apply time zone and NTP</translation>
     </message>
     <message>
         <source>请先在左侧勾选设备</source>
-        <translation>First tick devices on the left</translation>
+        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>设备没有本机的时区 %1，请选择时区</source>
-        <translation>Devices do not have the time zone of this computer, %1. Choose a zone.</translation>
+        <translation>The devices do not offer %1, the time zone of this computer. Select a time zone.</translation>
+    </message>
+    <message>
+        <source>请输入正确的IP地址或域名</source>
+        <translation>Enter a valid IP address or host name</translation>
     </message>
 </context>
 <context>
     <name>TemplateText</name>
     <message>
         <source>设备的IP地址；网页端口不是80时写成“地址:网页端口”。必填。</source>
-        <translation>Address of the device; &quot;address:web port&quot; when its web port is not 80. Required.</translation>
+        <translation>IP address of the device, or &quot;address:web port&quot; if the web port is not 80. Required.</translation>
     </message>
     <message>
         <source>设备的登录端口，只用于检查账号，不用于发送命令。</source>
-        <translation>Login port of the device. It is used to check the account, not to send the command.</translation>
+        <translation>Login port of the device. Used to check the account only.</translation>
     </message>
     <message>
         <source>登录设备的用户名，不能包含冒号。</source>
-        <translation>User name of the device, without a colon.</translation>
+        <translation>User name of the device, without colons.</translation>
     </message>
     <message>
         <source>登录设备的密码。执行完成后请从文件中删除。</source>
@@ -4899,7 +5107,7 @@ File path: </translation>
     </message>
     <message>
         <source>以“/”开头的命令。设备接受的命令会发送两次。必填。</source>
-        <translation>Command, beginning with &quot;/&quot;. A command that the device accepts is sent twice. Required.</translation>
+        <translation>Command that starts with &quot;/&quot;. The device receives an accepted command twice. Required.</translation>
     </message>
     <message>
         <source>协议</source>
@@ -4907,7 +5115,7 @@ File path: </translation>
     </message>
     <message>
         <source>0表示HTTP，其他整数表示HTTPS；不填时为HTTP。</source>
-        <translation>0 for HTTP, another whole number for HTTPS; HTTP when empty.</translation>
+        <translation>0 for HTTP, other integers for HTTPS. HTTP if empty.</translation>
     </message>
     <message>
         <source>结果</source>
@@ -4915,7 +5123,7 @@ File path: </translation>
     </message>
     <message>
         <source>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</source>
-        <translation>Filled in by the program: the answer, the path of a picture or recording, or &quot;Error:&quot; and the reason.</translation>
+        <translation>Filled in by the program: the answer, the path of the image or recording, or &quot;Error:&quot; and the reason.</translation>
     </message>
     <message>
         <source>命令</source>
@@ -4923,7 +5131,7 @@ File path: </translation>
     </message>
     <message>
         <source>说明</source>
-        <translation>Explanation</translation>
+        <translation>Instructions</translation>
     </message>
     <message>
         <source>列</source>
@@ -4935,7 +5143,7 @@ File path: </translation>
     </message>
     <message>
         <source>请保留第一行的标题，并在执行前用自己的内容替换示例行。</source>
-        <translation>Keep the titles in the first row, and put your own rows in place of the example.</translation>
+        <translation>Keep the header row. Replace the example row with your own rows.</translation>
     </message>
     <message>
         <source>IP和命令都为空的行会被跳过。</source>
@@ -4943,7 +5151,7 @@ File path: </translation>
     </message>
     <message>
         <source>执行时请不要在其他程序中打开此文件。</source>
-        <translation>Do not keep the file open in another program while it runs.</translation>
+        <translation>Do not open this file in another program while it runs.</translation>
     </message>
 </context>
 <context>
@@ -4956,8 +5164,8 @@ File path: </translation>
         <source>%n 台设备不能用此文件升级，请查看结果</source>
         <extracomment>Of the devices that a file was chosen for.</extracomment>
         <translation>
-            <numerusform>%n device cannot be upgraded with this file, see its result</numerusform>
-            <numerusform>%n devices cannot be upgraded with this file, see their results</numerusform>
+            <numerusform>%n device cannot be upgraded with this file: see Result</numerusform>
+            <numerusform>%n devices cannot be upgraded with this file: see Result</numerusform>
         </translation>
     </message>
     <message>
@@ -4989,11 +5197,11 @@ File path: </translation>
     </message>
     <message>
         <source>文件打开失败</source>
-        <translation>The file cannot be opened</translation>
+        <translation>The file could not be opened</translation>
     </message>
     <message>
         <source>文件格式错误</source>
-        <translation>The file has another format</translation>
+        <translation>The file format is wrong</translation>
     </message>
     <message>
         <source>结果</source>
@@ -5001,19 +5209,19 @@ File path: </translation>
     </message>
     <message>
         <source>升级结果无法保存：%1</source>
-        <translation>The results cannot be saved: %1</translation>
+        <translation>The results could not be saved: %1</translation>
     </message>
     <message>
         <source>升级结果已保存到文件：%1</source>
-        <translation>The results are in the file %1</translation>
+        <translation>Results saved in %1</translation>
     </message>
     <message>
         <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
-        <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as %1</translation>
+        <translation>The file could not be written. It is read-only or open in another program. Results saved in %1</translation>
     </message>
     <message>
         <source>文档中的设备超过 %1 行，请分成多个文档</source>
-        <translation>The document has more than %1 devices, please split it into several</translation>
+        <translation>The spreadsheet has more than %1 devices. Split it.</translation>
     </message>
 </context>
 <context>
@@ -5031,11 +5239,11 @@ File path: </translation>
     <name>UpgradePreview</name>
     <message>
         <source>文档中没有设备</source>
-        <translation>The document holds no devices</translation>
+        <translation>The spreadsheet contains no devices</translation>
     </message>
     <message>
         <source>%1，不会执行</source>
-        <translation>%1: left out</translation>
+        <translation>%1: skipped</translation>
     </message>
     <message>
         <source>%1（%2）</source>
@@ -5044,11 +5252,11 @@ File path: </translation>
     </message>
     <message>
         <source>设备已是此版本</source>
-        <translation>The device has this version already</translation>
+        <translation>The device already has this version</translation>
     </message>
     <message>
         <source>读取升级文档</source>
-        <translation>Reading an upgrade document</translation>
+        <translation>Reading the spreadsheet</translation>
     </message>
 </context>
 <context>
@@ -5063,18 +5271,47 @@ File path: </translation>
     </message>
     <message>
         <source>升级文档</source>
-        <translation>Upgrade document</translation>
+        <translation>Upgrade from spreadsheet</translation>
     </message>
     <message numerus="yes">
         <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
         <translation>
-            <numerusform>%n device will be upgraded. It restarts meanwhile: do not switch it off.</numerusform>
-            <numerusform>%n devices will be upgraded. They restart meanwhile: do not switch them off.</numerusform>
+            <numerusform>%n device will be upgraded. It will restart. Do not turn it off.</numerusform>
+            <numerusform>%n devices will be upgraded. They will restart. Do not turn them off.</numerusform>
         </translation>
     </message>
     <message>
         <source>结果将写入文档。</source>
-        <translation> The results are written into the document.</translation>
+        <translation> The results are written into the spreadsheet.</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeSummary</name>
+    <message>
+        <source>成功 %1</source>
+        <translation>%1 succeeded</translation>
+    </message>
+    <message>
+        <source>失败 %1</source>
+        <translation>%1 failed</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>升级：%1 / %2</source>
+        <extracomment>Devices of an upgrade that are done, of all of them.</extracomment>
+        <translation>Upgrade: %1 of %2 done</translation>
+    </message>
+    <message>
+        <source>同时升级</source>
+        <extracomment>Followed by a number of devices.</extracomment>
+        <translation>Devices at a time</translation>
+    </message>
+    <message>
+        <source>同时升级的设备数</source>
+        <translation>Devices upgraded at a time</translation>
     </message>
 </context>
 <context>
@@ -5129,23 +5366,23 @@ File path: </translation>
     </message>
     <message>
         <source>操作</source>
-        <translation>Operation</translation>
+        <translation>Actions</translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>None chosen</translation>
+        <translation>Not selected</translation>
     </message>
     <message>
         <source>可以重试</source>
-        <translation>Trying again may help</translation>
+        <translation>A retry may help</translation>
     </message>
     <message>
         <source>请先更正文件、账号或设备，再重新升级</source>
-        <translation>Correct the file, the account or the device before you try again</translation>
+        <translation>Correct the file, the account or the device, then upgrade again</translation>
     </message>
     <message>
         <source>选择文件</source>
-        <translation>Choose file</translation>
+        <translation>Select file</translation>
     </message>
     <message>
         <source>升级</source>
@@ -5157,7 +5394,11 @@ File path: </translation>
     </message>
     <message>
         <source>已开始写入，无法停止</source>
-        <translation>Already being written, cannot be stopped</translation>
+        <translation>Writing has started: cannot be stopped</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
     </message>
 </context>
 <context>
@@ -5168,19 +5409,19 @@ File path: </translation>
     </message>
     <message>
         <source>设备的登录端口，不填时为37777。</source>
-        <translation>Login port of the device; 37777 when empty.</translation>
+        <translation>Login port of the device. 37777 if empty.</translation>
     </message>
     <message>
         <source>登录设备的用户名；与密码都不填时使用程序已知的账号。</source>
-        <translation>User name of the device; with both this and the password empty, the account that the program knows is used.</translation>
+        <translation>User name of the device. If this and the password are empty, the account of the program is used.</translation>
     </message>
     <message>
         <source>登录设备的密码。升级完成后请从文件中删除。</source>
-        <translation>Password of the device. Delete it from the file after the upgrade.</translation>
+        <translation>Password of the device. Remove it from the file afterwards.</translation>
     </message>
     <message>
         <source>升级文件的完整路径，或相对于此文档所在文件夹的路径。必填。</source>
-        <translation>Full path of the firmware file, or its path from the folder of this document. Required.</translation>
+        <translation>Path of the firmware file, absolute or relative to the folder of this spreadsheet. Required.</translation>
     </message>
     <message>
         <source>结果</source>
@@ -5188,7 +5429,7 @@ File path: </translation>
     </message>
     <message>
         <source>由程序填写：升级前后的版本，或失败原因。</source>
-        <translation>Filled by the program: the versions before and after the upgrade, or why it failed.</translation>
+        <translation>Filled in by the program: the versions before and after the upgrade, or why it failed.</translation>
     </message>
     <message>
         <source>升级</source>
@@ -5196,7 +5437,7 @@ File path: </translation>
     </message>
     <message>
         <source>说明</source>
-        <translation>Explanation</translation>
+        <translation>Instructions</translation>
     </message>
     <message>
         <source>列</source>
@@ -5208,34 +5449,34 @@ File path: </translation>
     </message>
     <message>
         <source>请保留第一行的标题，并在升级前用自己的内容替换示例行。</source>
-        <translation>Keep the titles of the first row, and replace the example by your own rows before the upgrade.</translation>
+        <translation>Keep the header row. Replace the example row with your own rows.</translation>
     </message>
     <message>
         <source>IP和升级文件都为空的行会被跳过。</source>
-        <translation>Rows with neither an address nor a firmware file are passed over.</translation>
+        <translation>Rows without address and firmware file are skipped.</translation>
     </message>
     <message>
         <source>升级时请不要在其他程序中打开此文件。</source>
-        <translation>Do not keep this file open in another program during the upgrade.</translation>
+        <translation>Do not open this file in another program during the upgrade.</translation>
     </message>
 </context>
 <context>
     <name>UpgradeTexts</name>
     <message>
         <source>已开始写入，无法停止</source>
-        <translation>Already being written, cannot be stopped</translation>
+        <translation>Writing has started: cannot be stopped</translation>
     </message>
     <message>
         <source>%1（%2%）</source>
-        <translation>%1 (%2%)</translation>
+        <translation>%1 at %2 %</translation>
     </message>
     <message>
         <source>尚未停止，正在重试</source>
-        <translation>Not stopped yet, trying again</translation>
+        <translation>Not stopped yet: trying again</translation>
     </message>
     <message>
         <source>固件已写入，设备正在重启，无法停止</source>
-        <translation>The firmware is written and the device restarts, it cannot be stopped</translation>
+        <translation>Firmware written, device restarting: cannot be stopped</translation>
     </message>
     <message>
         <source>升级成功：%1</source>
@@ -5243,11 +5484,11 @@ File path: </translation>
     </message>
     <message>
         <source>%1：未读到版本号</source>
-        <translation>%1: it tells no version</translation>
+        <translation>%1: no version reported</translation>
     </message>
     <message>
         <source>%1：现为 %2，升级前的版本未知</source>
-        <translation>%1: now %2, the version before is not known</translation>
+        <translation>%1: now %2, previous version unknown</translation>
     </message>
 </context>
 <context>
@@ -5258,15 +5499,15 @@ File path: </translation>
     </message>
     <message>
         <source>升级勾选的设备</source>
-        <translation>Upgrade the ticked devices</translation>
+        <translation>Upgrades the selected devices</translation>
     </message>
     <message>
         <source>选择文件</source>
-        <translation>Choose file</translation>
+        <translation>Select file</translation>
     </message>
     <message>
         <source>为勾选的设备选择同一个升级文件</source>
-        <translation>Choose one firmware file for the ticked devices</translation>
+        <translation>Selects a firmware file for the selected devices</translation>
     </message>
     <message>
         <source>重试失败项</source>
@@ -5274,15 +5515,15 @@ File path: </translation>
     </message>
     <message>
         <source>再次升级重试可能成功的设备，例如无应答的设备</source>
-        <translation>Upgrade once more those devices for which it may help, such as those that did not answer</translation>
+        <translation>Upgrades the devices again for which a retry may help, such as those that did not answer</translation>
     </message>
     <message>
         <source>升级文档</source>
-        <translation>Upgrade document</translation>
+        <translation>Upgrade from spreadsheet</translation>
     </message>
     <message>
         <source>按表格文件升级其中的设备，并把结果写回文件</source>
-        <translation>Upgrade the devices of a workbook and write the results into it</translation>
+        <translation>Upgrades the devices of a spreadsheet and writes the results into it</translation>
     </message>
     <message>
         <source>打开模板</source>
@@ -5290,11 +5531,19 @@ File path: </translation>
     </message>
     <message>
         <source>打开升级文档的模板文件</source>
-        <translation>Open the template of upgrade documents</translation>
+        <translation>Opens the template for upgrade spreadsheets</translation>
     </message>
     <message>
         <source>搜索...</source>
         <translation>Search...</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPv4</translation>
+    </message>
+    <message>
+        <source>IPV6</source>
+        <translation>IPv6</translation>
     </message>
 </context>
 <context>
@@ -5305,7 +5554,7 @@ File path: </translation>
     </message>
     <message>
         <source>正在写入，请勿断电</source>
-        <translation>Writing, do not switch off</translation>
+        <translation>Writing: do not turn the device off</translation>
     </message>
     <message>
         <source>正在发送文件</source>
@@ -5325,7 +5574,7 @@ File path: </translation>
     </message>
     <message>
         <source>未选择升级文件</source>
-        <translation>No firmware file chosen</translation>
+        <translation>No firmware file selected</translation>
     </message>
     <message>
         <source>升级文件不存在</source>
@@ -5333,7 +5582,7 @@ File path: </translation>
     </message>
     <message>
         <source>升级文件无法读取</source>
-        <translation>The firmware file cannot be read</translation>
+        <translation>The firmware file could not be read</translation>
     </message>
     <message>
         <source>升级文件是空的</source>
@@ -5353,7 +5602,7 @@ File path: </translation>
     </message>
     <message>
         <source>设备不接受此升级文件</source>
-        <translation>The device refuses this firmware</translation>
+        <translation>Firmware rejected by the device</translation>
     </message>
     <message>
         <source>密码错误</source>
@@ -5373,27 +5622,27 @@ File path: </translation>
     </message>
     <message>
         <source>设备不支持升级，或未初始化</source>
-        <translation>Not supported, or not initialised</translation>
+        <translation>Upgrade not supported, or device not initialised</translation>
     </message>
     <message>
         <source>IP或端口填写错误</source>
-        <translation>Wrong IP address or port</translation>
+        <translation>Invalid IP address or port</translation>
     </message>
     <message>
         <source>与前面的行是同一设备</source>
-        <translation>Same device as an earlier line</translation>
+        <translation>Same device as in an earlier row</translation>
     </message>
     <message>
         <source>设备无应答</source>
-        <translation>The device does not answer</translation>
+        <translation>No answer from the device</translation>
     </message>
     <message>
         <source>设备忙，请稍后重试</source>
-        <translation>The device is busy, try later</translation>
+        <translation>The device is busy. Try again later.</translation>
     </message>
     <message>
         <source>设备中断了升级</source>
-        <translation>The device gave up</translation>
+        <translation>Device aborted</translation>
     </message>
     <message>
         <source>升级长时间没有进展</source>
@@ -5401,19 +5650,19 @@ File path: </translation>
     </message>
     <message>
         <source>设备重启后未恢复</source>
-        <translation>Not back after its restart</translation>
+        <translation>No answer after the restart</translation>
     </message>
     <message>
         <source>重启后仍是原版本</source>
-        <translation>Still the old version after restart</translation>
+        <translation>Version unchanged after the restart</translation>
     </message>
     <message>
         <source>已停止，设备未改动</source>
-        <translation>Stopped, device unchanged</translation>
+        <translation>Stopped: device not changed</translation>
     </message>
     <message>
         <source>程序退出，升级中断</source>
-        <translation>Cut short: the program ended</translation>
+        <translation>Aborted: the program was closed</translation>
     </message>
     <message>
         <source>未知错误 %1</source>
@@ -5425,11 +5674,11 @@ File path: </translation>
     </message>
     <message>
         <source>设备已恢复，但无法确认版本</source>
-        <translation>The device is back, but its version cannot be confirmed</translation>
+        <translation>Restarted, but the version could not be read</translation>
     </message>
     <message>
         <source>设备证书未确认</source>
-        <translation>Certificate not confirmed</translation>
+        <translation>Certificate not trusted</translation>
     </message>
     <message>
         <source>设备证书已改变</source>
@@ -5444,7 +5693,7 @@ File path: </translation>
     </message>
     <message>
         <source>选择升级文件</source>
-        <translation>Choose a firmware file</translation>
+        <translation>Select a firmware file</translation>
     </message>
     <message>
         <source>升级文件</source>
@@ -5456,21 +5705,21 @@ File path: </translation>
     </message>
     <message>
         <source>没有可以重试的设备</source>
-        <translation>There is nothing to retry</translation>
+        <translation>No devices to retry</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备未升级成功，请查看结果</source>
         <extracomment>Of the devices that were upgraded.</extracomment>
         <translation>
-            <numerusform>%n device was not upgraded, see its result</numerusform>
-            <numerusform>%n devices were not upgraded, see their results</numerusform>
+            <numerusform>%n device was not upgraded: see Result</numerusform>
+            <numerusform>%n devices were not upgraded: see Result</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备升级成功</source>
         <translation>
-            <numerusform>%n device was upgraded</numerusform>
-            <numerusform>%n devices were upgraded</numerusform>
+            <numerusform>%n device upgraded</numerusform>
+            <numerusform>%n devices upgraded</numerusform>
         </translation>
     </message>
     <message>
@@ -5479,7 +5728,7 @@ File path: </translation>
     </message>
     <message>
         <source>打开模板文件失败。</source>
-        <translation>The template cannot be opened.</translation>
+        <translation>The template could not be opened.</translation>
     </message>
     <message>
         <source>设备升级</source>
@@ -5487,11 +5736,11 @@ File path: </translation>
     </message>
     <message>
         <source>升级文档</source>
-        <translation>Upgrade document</translation>
+        <translation>Upgrade from spreadsheet</translation>
     </message>
     <message>
         <source>已停止，完成 %1 / %2</source>
-        <translation>Stopped, %1 of %2 done</translation>
+        <translation>Stopped: %1 of %2 done</translation>
     </message>
 </context>
 <context>
@@ -5549,15 +5798,15 @@ File path: </translation>
     </message>
     <message>
         <source>重试</source>
-        <translation>Try again</translation>
+        <translation>Retry</translation>
     </message>
     <message>
         <source>单击左侧的一台设备，登录后在此查看并修改它的配置。</source>
-        <translation>Click a device at the left to log in, and see and change its settings here.</translation>
+        <translation>Click a device on the left to log in and change its settings.</translation>
     </message>
     <message>
         <source>请选择设备</source>
-        <translation>Choose a device</translation>
+        <translation>Select a device</translation>
     </message>
     <message>
         <source>登录失败</source>
@@ -5565,15 +5814,15 @@ File path: </translation>
     </message>
     <message>
         <source>继续配置</source>
-        <translation>Go on here</translation>
+        <translation>Continue here</translation>
     </message>
     <message>
         <source>同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。</source>
-        <translation>Only one device can be logged in to at a time. Going on closes the live picture of the other one.</translation>
+        <translation>Only one device can be logged in to at a time. Continuing closes the live view of the other device.</translation>
     </message>
     <message>
         <source>正在查看另一台设备的实时画面</source>
-        <translation>Another device is being watched live</translation>
+        <translation>The live view of another device is open</translation>
     </message>
     <message>
         <source>连接已断开</source>
@@ -5596,15 +5845,15 @@ File path: </translation>
     </message>
     <message>
         <source>与设备的连接已中断</source>
-        <translation>The connection to the device was lost</translation>
+        <translation>Connection to the device lost</translation>
     </message>
     <message>
         <source>设备结束了视频流</source>
-        <translation>The device has ended the stream</translation>
+        <translation>The device ended the stream</translation>
     </message>
     <message>
         <source>设备没有发送可显示的画面</source>
-        <translation>The device sends no picture that can be shown</translation>
+        <translation>The device sends no video</translation>
     </message>
     <message>
         <source>设备不再接受登录</source>
@@ -5612,19 +5861,19 @@ File path: </translation>
     </message>
     <message>
         <source>设备发送的数据不是视频流</source>
-        <translation>What the device sends is no video stream</translation>
+        <translation>The device does not send a video stream</translation>
     </message>
     <message>
         <source>本机无法处理视频流</source>
-        <translation>This computer cannot process the stream</translation>
+        <translation>This computer cannot decode the stream</translation>
     </message>
     <message>
         <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
-        <translation>The picture cannot be shown: files in the folder Shaders are missing or unusable</translation>
+        <translation>No image: files in the folder Shaders are missing or damaged</translation>
     </message>
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
-        <translation>The picture cannot be shown: it is too large for the graphics card</translation>
+        <translation>No image: too large for the graphics card</translation>
     </message>
 </context>
 <context>
@@ -5639,25 +5888,29 @@ File path: </translation>
     </message>
     <message>
         <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
-        <translation>“%1” is running. If you exit, the devices that are left will not be done.</translation>
+        <translation>“%1” is running. If you exit, the remaining devices will not be done.</translation>
     </message>
     <message>
         <source>已开始写入的设备会自行完成升级，请勿断电。</source>
-        <translation> Devices that are being written go on by themselves: do not switch them off.</translation>
+        <translation> Devices that are writing firmware finish by themselves: do not turn them off.</translation>
     </message>
     <message numerus="yes">
         <source>已信任 %n 个证书，请重试刚才的操作</source>
         <translation>
-            <numerusform>%n certificate is trusted. Please try again.</numerusform>
-            <numerusform>%n certificates are trusted. Please try again.</numerusform>
+            <numerusform>%n certificate trusted. Try again.</numerusform>
+            <numerusform>%n certificates trusted. Try again.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>Exit program</translation>
     </message>
 </context>
 <context>
     <name>WorkbookResults</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
-        <translation>Stopped: %1 rows succeeded, %2 failed, %3 were not sent.</translation>
+        <translation>Stopped: %1 rows succeeded, %2 failed, %3 not sent.</translation>
     </message>
     <message>
         <source>执行完成：成功%1行，失败%2行。</source>
@@ -5665,15 +5918,15 @@ File path: </translation>
     </message>
     <message>
         <source>执行结果无法保存：%1</source>
-        <translation>The results cannot be saved: %1</translation>
+        <translation>The results could not be saved: %1</translation>
     </message>
     <message>
         <source>执行结果已保存到文件：%1</source>
-        <translation>The results are in the file: %1</translation>
+        <translation>Results saved in %1</translation>
     </message>
     <message>
         <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
-        <translation>The file cannot be written; it may be open elsewhere or read-only. The results were saved as: %1</translation>
+        <translation>The file could not be written. It is read-only or open in another program. Results saved in %1</translation>
     </message>
 </context>
 </TS>

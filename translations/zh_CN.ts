@@ -148,6 +148,14 @@
         <source>添加收藏设备</source>
         <translation>添加收藏设备</translation>
     </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>删除收藏</source>
+        <translation>删除收藏</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>
@@ -476,6 +484,10 @@
             <numerusform>有 %n 个警告，仍要继续吗？</numerusform>
         </translation>
     </message>
+    <message>
+        <source>警告</source>
+        <translation>警告</translation>
+    </message>
 </context>
 <context>
     <name>Batches</name>
@@ -565,6 +577,10 @@
     <message>
         <source>设备没有应答，密码可能已修改</source>
         <translation>设备没有应答，密码可能已修改</translation>
+    </message>
+    <message>
+        <source>没有读到设备的时间</source>
+        <translation>没有读到设备的时间</translation>
     </message>
 </context>
 <context>
@@ -880,19 +896,21 @@
         <source>已停止，完成 %1 / %2</source>
         <translation>已停止，完成 %1 / %2</translation>
     </message>
-    <message>
-        <source>批量配置CGI命令已完成</source>
-        <translation>批量配置CGI命令已完成</translation>
-    </message>
     <message numerus="yes">
-        <source>%n 台设备未成功，请查看结果</source>
+        <source>批量配置CGI命令已完成</source>
         <translation>
-            <numerusform>%n 台设备未成功，请查看结果</numerusform>
+            <numerusform>批量配置CGI命令已完成</numerusform>
         </translation>
     </message>
     <message>
         <source>命令已执行，没有可显示的结果。</source>
         <translation>命令已执行，没有可显示的结果。</translation>
+    </message>
+    <message numerus="yes">
+        <source>批量配置CGI命令已完成：成功 %1，失败 %2</source>
+        <translation>
+            <numerusform>批量配置CGI命令已完成：成功 %1，失败 %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -934,6 +952,10 @@
     <message>
         <source>设备正在升级，不能发送CGI命令</source>
         <translation>设备正在升级，不能发送CGI命令</translation>
+    </message>
+    <message>
+        <source>应答</source>
+        <translation>应答</translation>
     </message>
 </context>
 <context>
@@ -1242,6 +1264,43 @@
     <message>
         <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
         <translation>没有取得通往该设备的本地端口，请检查P2P ID和网络</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceClock</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 小时 %2 分</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 天 %2 小时</translation>
+    </message>
+    <message>
+        <source>与电脑一致</source>
+        <translation>与电脑一致</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>Of a device&apos;s clock, against this computer&apos;s. %1 is a span of time.</extracomment>
+        <translation>快 %1</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>慢 %1</translation>
+    </message>
+    <message>
+        <source>%1，%2</source>
+        <extracomment>%1 is a device&apos;s date and time, %2 by how much its clock is ahead or behind.</extracomment>
+        <translation>%1，%2</translation>
     </message>
 </context>
 <context>
@@ -1584,6 +1643,21 @@
     <message>
         <source>Other</source>
         <translation>Other</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSearch</name>
+    <message>
+        <source>本地网段</source>
+        <translation>本地网段</translation>
+    </message>
+    <message>
+        <source>本地网段（%1）</source>
+        <translation>本地网段（%1）</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -2703,10 +2777,6 @@
         <translation>CGI协议</translation>
     </message>
     <message>
-        <source>未安装设备库：以 --demo 参数启动可演示模拟站点</source>
-        <translation>未安装设备库：以 --demo 参数启动可演示模拟站点</translation>
-    </message>
-    <message>
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
     </message>
@@ -2717,6 +2787,27 @@
     <message>
         <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
         <translation>正在搜索，请先停止搜索（Esc）或稍候再关闭</translation>
+    </message>
+    <message>
+        <source>演示站点</source>
+        <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
+        <translation>演示站点</translation>
+    </message>
+    <message>
+        <source>演示站点：%1</source>
+        <translation>演示站点：%1</translation>
+    </message>
+    <message>
+        <source>模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。</source>
+        <translation>模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。</translation>
+    </message>
+    <message>
+        <source>打开演示站点</source>
+        <translation>打开演示站点</translation>
+    </message>
+    <message>
+        <source>未安装设备库，无法与设备通信</source>
+        <translation>未安装设备库，无法与设备通信</translation>
     </message>
 </context>
 <context>
@@ -2752,6 +2843,14 @@
     <message>
         <source>设备正在升级，不能修改IP地址</source>
         <translation>设备正在升级，不能修改IP地址</translation>
+    </message>
+    <message>
+        <source>web</source>
+        <translation>web</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>live</translation>
     </message>
 </context>
 <context>
@@ -2790,12 +2889,6 @@
             <numerusform>%n 台设备未成功，请查看修改结果</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n 台设备已完成</source>
-        <translation>
-            <numerusform>%n 台设备已完成</numerusform>
-        </translation>
-    </message>
     <message>
         <source>已停止，完成 %1 / %2</source>
         <translation>已停止，完成 %1 / %2</translation>
@@ -2812,6 +2905,18 @@
         <source>修改IP地址</source>
         <translation>修改IP地址</translation>
     </message>
+    <message numerus="yes">
+        <source>已修改 %n 台设备的IP地址</source>
+        <translation>
+            <numerusform>已修改 %n 台设备的IP地址</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>已初始化 %n 台设备</source>
+        <translation>
+            <numerusform>已初始化 %n 台设备</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPDevices</name>
@@ -2827,9 +2932,11 @@
         <source>请选择一台设备</source>
         <translation>请选择一台设备</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>请确认是否要删除</source>
-        <translation>请确认是否要删除</translation>
+        <translation>
+            <numerusform>请确认是否要删除</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 已存在，是否覆盖？</source>
@@ -2852,6 +2959,22 @@
         <translation>
             <numerusform>%n 台设备正在升级，没有删除</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>覆盖文件</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>删除设备</source>
+        <translation>删除设备</translation>
     </message>
 </context>
 <context>
@@ -2894,6 +3017,7 @@
     </message>
     <message>
         <source>起始IP</source>
+        <extracomment>In other languages the address of one device has another name than the first one of a batch.</extracomment>
         <translation>起始IP</translation>
     </message>
     <message>
@@ -2936,6 +3060,11 @@
         <source>请选择一台设备</source>
         <translation>请选择一台设备</translation>
     </message>
+    <message>
+        <source>起始IP</source>
+        <comment>one device</comment>
+        <translation>起始IP</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPEmptyState</name>
@@ -2968,10 +3097,6 @@
         <translation>请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。</translation>
     </message>
     <message>
-        <source>以 --demo 参数启动可演示模拟站点。</source>
-        <translation>以 --demo 参数启动可演示模拟站点。</translation>
-    </message>
-    <message>
         <source>清除筛选</source>
         <translation>清除筛选</translation>
     </message>
@@ -2994,6 +3119,22 @@
     <message>
         <source>为什么没有找到设备？</source>
         <translation>为什么没有找到设备？</translation>
+    </message>
+    <message>
+        <source>程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。</source>
+        <translation>程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。</translation>
+    </message>
+    <message>
+        <source>打开演示站点</source>
+        <translation>打开演示站点</translation>
+    </message>
+    <message>
+        <source>已搜索：%1</source>
+        <translation>已搜索：%1</translation>
+    </message>
+    <message>
+        <source>按地址添加设备</source>
+        <translation>按地址添加设备</translation>
     </message>
 </context>
 <context>
@@ -3079,6 +3220,14 @@
     <message>
         <source>正在读取设备列表…</source>
         <translation>正在读取设备列表…</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>覆盖文件</translation>
     </message>
 </context>
 <context>
@@ -3218,6 +3367,14 @@
             <numerusform>勾选的设备中有 %n 台正在升级，不能删除</numerusform>
         </translation>
     </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPV4</translation>
+    </message>
+    <message>
+        <source>IPV6</source>
+        <translation>IPV6</translation>
+    </message>
 </context>
 <context>
     <name>OMessageBox</name>
@@ -3346,6 +3503,11 @@
     <message>
         <source>正在搜索设备…</source>
         <translation>正在搜索设备…</translation>
+    </message>
+    <message>
+        <source>%1 %2 / %3</source>
+        <extracomment>A batch that runs: its title, and how many devices of how many are done.</extracomment>
+        <translation>%1 %2 / %3</translation>
     </message>
 </context>
 <context>
@@ -3601,6 +3763,14 @@
         <extracomment>What happens to a device; %1 is a channel&apos;s number.</extracomment>
         <translation>写入通道 %1 的编码配置</translation>
     </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>复制编码配置</translation>
+    </message>
+    <message>
+        <source>未保存的修改</source>
+        <translation>未保存的修改</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -3610,6 +3780,10 @@
         <translation>
             <numerusform>%n台设备已选中</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
     </message>
 </context>
 <context>
@@ -3748,6 +3922,10 @@
     <message>
         <source>语言变更需要重新启动程序才能生效！</source>
         <translation>语言变更需要重新启动程序才能生效！</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -4306,10 +4484,6 @@
         <translation>找到的设备会陆续显示在这里。</translation>
     </message>
     <message>
-        <source>以 --demo 参数启动可演示模拟站点。</source>
-        <translation>以 --demo 参数启动可演示模拟站点。</translation>
-    </message>
-    <message>
         <source>只列出已初始化的IPv4设备。</source>
         <translation>只列出已初始化的IPv4设备。</translation>
     </message>
@@ -4336,6 +4510,10 @@
     <message>
         <source>失败的设备不在列表中，见批处理记录。</source>
         <translation>失败的设备不在列表中，见批处理记录。</translation>
+    </message>
+    <message>
+        <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
+        <translation>程序无法与设备通信。可在“修改IP”页打开演示站点。</translation>
     </message>
 </context>
 <context>
@@ -4649,6 +4827,16 @@
         <source>将对下列设备执行“%1”：</source>
         <translation>将对下列设备执行“%1”：</translation>
     </message>
+    <message numerus="yes">
+        <source>更新周期为 0 分钟，设备可能不再校时。仍要应用到选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>更新周期为 0 分钟，设备可能不再校时。仍要应用到选中的 %n 台设备吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>仍然应用</source>
+        <translation>仍然应用</translation>
+    </message>
 </context>
 <context>
     <name>SystemRebootPanel</name>
@@ -4750,6 +4938,18 @@
         <source>应用</source>
         <translation>应用</translation>
     </message>
+    <message>
+        <source>设备时间</source>
+        <translation>设备时间</translation>
+    </message>
+    <message>
+        <source>读取设备时间</source>
+        <translation>读取设备时间</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
 </context>
 <context>
     <name>SystemVideoPanel</name>
@@ -4823,6 +5023,10 @@
     <message>
         <source>设备没有本机的时区 %1，请选择时区</source>
         <translation>设备没有本机的时区 %1，请选择时区</translation>
+    </message>
+    <message>
+        <source>请输入正确的IP地址或域名</source>
+        <translation>请输入正确的IP地址或域名</translation>
     </message>
 </context>
 <context>
@@ -5022,6 +5226,35 @@
     </message>
 </context>
 <context>
+    <name>UpgradeSummary</name>
+    <message>
+        <source>成功 %1</source>
+        <translation>成功 %1</translation>
+    </message>
+    <message>
+        <source>失败 %1</source>
+        <translation>失败 %1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>，</translation>
+    </message>
+    <message>
+        <source>升级：%1 / %2</source>
+        <extracomment>Devices of an upgrade that are done, of all of them.</extracomment>
+        <translation>升级：%1 / %2</translation>
+    </message>
+    <message>
+        <source>同时升级</source>
+        <extracomment>Followed by a number of devices.</extracomment>
+        <translation>同时升级</translation>
+    </message>
+    <message>
+        <source>同时升级的设备数</source>
+        <translation>同时升级的设备数</translation>
+    </message>
+</context>
+<context>
     <name>UpgradeTable</name>
     <message>
         <source>等待</source>
@@ -5102,6 +5335,10 @@
     <message>
         <source>已开始写入，无法停止</source>
         <translation>已开始写入，无法停止</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
     </message>
 </context>
 <context>
@@ -5239,6 +5476,14 @@
     <message>
         <source>搜索...</source>
         <translation>搜索...</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPV4</translation>
+    </message>
+    <message>
+        <source>IPV6</source>
+        <translation>IPV6</translation>
     </message>
 </context>
 <context>
@@ -5592,6 +5837,10 @@
         <translation>
             <numerusform>已信任 %n 个证书，请重试刚才的操作</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>退出程序</translation>
     </message>
 </context>
 <context>

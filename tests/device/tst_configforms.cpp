@@ -89,6 +89,7 @@ private Q_SLOTS:
         form.setDeviceFactory(&m_factory);
         const QVariantMap stream = form.mainStream();
         QCOMPARE(of(stream, "resolution", "choices").toStringList(), QStringList({"1080P", "800*600"}));
+        QCOMPARE(of(stream, "resolution", "names").toStringList(), QStringList({"1080P", "800 × 600"}));
         QCOMPARE(of(stream, "resolution", "index").toInt(), 1);
         QCOMPARE(of(stream, "frameRate", "maximum").toInt(), 30);
         QCOMPARE(of(stream, "bitRate", "index").toInt(), 2); // a number of one's own
@@ -141,7 +142,7 @@ private Q_SLOTS:
             QCOMPARE(stream.size(), 10);
             for (const QVariant &setting : stream)
                 QCOMPARE(setting.toMap().keys(), QStringList({"changed", "choices", "index", "key", "maximum",
-                                                              "minimum", "usable", "value"}));
+                                                              "minimum", "names", "usable", "value"}));
             QCOMPARE(of(stream, "encodeMode", "index").toInt(), -1);
             for (const char *unknown :
                  {"encodeMode", "frameRate", "quality", "control", "audioEnable", "bitRate"})

@@ -126,7 +126,18 @@ void walkBatch(Driver &driver)
     driver.require(u"previewTable"_s);
     driver.report(u"cgi-batch-preview"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    expectToast(driver, translated("CgiSender", "批量配置CGI命令已完成"));
+    driver.await(u"the end of the batch is said"_s, [&driver] {
+        const char *context = "CgiSender";
+        QStringList ends = {QCoreApplication::translate(context, "批量配置CGI命令已完成", nullptr, 3)};
+        for (int accepted = 0; accepted < 3; ++accepted)
+            ends.append(
+                QCoreApplication::translate(context, "批量配置CGI命令已完成：成功 %1，失败 %2", nullptr, 3)
+                    .arg(accepted)
+                    .arg(3 - accepted));
+        const QStringList said = driver.texts(u"toastText"_s);
+        return std::any_of(said.cbegin(), said.cend(),
+                           [&ends](const QString &text) { return ends.contains(text); });
+    });
     awaitIdle(driver);
     readAnswerWindow(driver, u"cgi-batch-failures"_s); // opens when a device was not done
     int answers = 0;

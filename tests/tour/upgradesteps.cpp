@@ -283,7 +283,8 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
     driver.click(u"upgradeDocumentButton"_s);
     driver.answerFileBox(path);
     beginUpgrades(driver, u"upgrade-document"_s);
-    const QString twoOfThree = translated("UpgradeWork", "升级文档") + u" 2 / 3"_s;
+    const QString twoOfThree =
+        translated("OVFootBar", "%1 %2 / %3").arg(translated("UpgradeWork", "升级文档")).arg(2).arg(3);
     driver.await(u"two of three lines are done"_s, [&] {
         const QQuickItem *told = driver.find(u"runningText"_s);
         return told && told->property("text").toString() == twoOfThree;

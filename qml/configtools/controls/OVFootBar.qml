@@ -28,6 +28,9 @@ Item {
     readonly property string outcome: ended && batch.report.summary !== ""
         ? batch.title + qsTr("：") + batch.report.summary : ""
 
+    //: A batch that runs: its title, and how many devices of how many are done.
+    readonly property string runningBatch: showsBatch ? qsTr("%1 %2 / %3").arg(batch.title).arg(batch.done).arg(batch.total) : ""
+
     /// How long a batch still takes, in words; empty while that is not known.
     function timeLeft(seconds) {
         if (seconds < 0)
@@ -101,7 +104,7 @@ Item {
                 color: root.held ? Theme.colours.warnInk : Theme.colours.sub
                 objectName: "runningText"
                 text: root.held ? qsTr("%1：连续多台设备密码错误，继续可能锁定账户。是否继续？").arg(root.batch.title)
-                    : root.showsBatch ? root.batch.title + " " + root.batch.done + " / " + root.batch.total
+                    : root.showsBatch ? root.runningBatch
                     : root.showsSearch ? qsTr("正在搜索设备…") : root.runningText
             }
         }

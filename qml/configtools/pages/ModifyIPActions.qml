@@ -36,7 +36,7 @@ OVTableCell {
         OVLinkButton {
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "web" + root.rowIndex
-            text: "web"
+            text: qsTr("web")
             toolTip: qsTr("在浏览器中打开设备网页")
             onClicked: root.webRequested(root.rowIndex)
         }
@@ -44,7 +44,7 @@ OVTableCell {
             enabled: root.initialised
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "live" + root.rowIndex
-            text: "live"
+            text: qsTr("live")
             toolTip: root.initialised ? qsTr("查看实时画面") : qsTr("未初始化的设备没有实时画面")
             onClicked: root.liveRequested(root.rowIndex)
         }

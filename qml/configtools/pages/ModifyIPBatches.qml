@@ -77,7 +77,8 @@ Item {
             //: Of the devices of a batch, those whose result is a failure.
             said(qsTr("%n 台设备未成功，请查看修改结果", "", report.failed), OVToast.Error);
         else if (report.notDone === 0)
-            said(qsTr("%n 台设备已完成", "", report.total), OVToast.Success);
+            said(batch.changesAddresses ? qsTr("已修改 %n 台设备的IP地址", "", report.total)
+                                        : qsTr("已初始化 %n 台设备", "", report.total), OVToast.Success);
     }
 
     visible: false

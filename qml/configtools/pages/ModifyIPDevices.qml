@@ -59,7 +59,7 @@ Item {
         else if (refusal !== "")
             said(refusal, OVToast.Error);
         else
-            question.wanted().show(qsTr("请确认是否要删除"), OVMessageBox.DangerQuestion);
+            question.wanted().show(qsTr("请确认是否要删除", "", deviceTable.checkedCount), OVMessageBox.DangerQuestion);
     }
 
     function removeNow() {
@@ -87,6 +87,8 @@ Item {
         sourceComponent: OVMessageBox {
             property string path
             objectName: "overwriteDetailQuestion"
+            okText: qsTr("覆盖")
+            title: qsTr("覆盖文件")
             onAccepted: root.writeDetail(path)
         }
     }
@@ -95,6 +97,8 @@ Item {
         visible: false
         sourceComponent: OVMessageBox {
             objectName: "deleteQuestion"
+            okText: qsTr("删除")
+            title: qsTr("删除设备")
             onAccepted: root.removeNow()
         }
     }

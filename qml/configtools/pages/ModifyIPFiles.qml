@@ -158,6 +158,8 @@ Item {
             property string folder
             property string fileName
             objectName: "overwriteQuestion"
+            okText: qsTr("覆盖")
+            title: qsTr("覆盖文件")
             onAccepted: root.writeList(folder, fileName)
         }
     }

@@ -34,7 +34,7 @@ FocusScope {
 
     function askToSend(command) {
         preview.wanted().askRows(qsTr("将向下列设备发送命令："), command, devices.checkedRows(), {
-            okText: qsTr("执行"), listed: true, quick: true,
+            title: qsTr("批量配置CGI"), okText: qsTr("执行"), listed: true, quick: true,
             action: identities => cgiSender.sendToAll(identities, command)
         });
     }
@@ -117,6 +117,9 @@ FocusScope {
 
     RowLayout {
         id: toolBar
+
+        readonly property int tipDrop: Theme.toolTipDrop
+
         x: Theme.pageMargin
         width: parent.width - 2 * x
         height: Theme.toolBarHeight

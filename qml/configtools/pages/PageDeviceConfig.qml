@@ -59,7 +59,7 @@ FocusScope {
             + (session.encoding.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : "");
         //: What happens to a device; %1 is a channel's number.
         preview.wanted().ask(words, qsTr("写入通道 %1 的编码配置").arg(number), Array.from(targets), {
-            okText: qsTr("复制"), action: chosen => copying.start(chosen)
+            title: qsTr("复制编码配置"), okText: qsTr("复制"), action: chosen => copying.start(chosen)
         });
     }
 
@@ -126,6 +126,7 @@ FocusScope {
             property var action: null
 
             objectName: "questionBox"
+            title: qsTr("未保存的修改")
             onAccepted: {
                 const wanted = action;
                 wanted();

@@ -160,6 +160,8 @@ OVDialog {
         }
 
         objectName: "deleteConfirmation"
+        okText: qsTr("删除")
+        title: qsTr("删除收藏")
         onAccepted: root.remove(fileName)
     }
 }

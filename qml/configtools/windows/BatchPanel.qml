@@ -26,7 +26,7 @@ OVDialog {
         const entries = batches.addressesToPutBack(changed);
         preview.wanted().askEntries(
             qsTr("确定要将 %n 台设备恢复为修改前的IP地址吗？", "", entries.length), entries, {
-                okText: qsTr("恢复地址"), listed: true,
+                title: qsTr("恢复IP地址"), okText: qsTr("恢复地址"), listed: true,
                 action: identities => showNewest(batches.putAddressesBack(changed, qsTr("恢复IP地址"), identities))
             });
     }

@@ -16,8 +16,8 @@ OVDialog {
     signal refused(string message)
 
     /// `words` ask or say what will be done, `happens` names it in the row of each device. `choices` has "okText" and
-    /// "action", and if wanted "danger", "listed" (the list is open although nothing is noted in it), "quick" (one device
-    /// without a note needs no question) and "subject", by which withdraw() knows it.
+    /// "action", and if wanted "title", "danger", "listed" (the list is open although nothing is noted in it), "quick" (one
+    /// device without a note needs no question) and "subject", by which withdraw() knows it.
     function ask(words, happens, ipports, choices) {
         preview.action = happens;
         preview.setAddresses(ipports);
@@ -49,6 +49,7 @@ OVDialog {
         }
         message = words;
         danger = choices.danger ?? false;
+        title = choices.title ?? qsTr("提示");
         okText = choices.okText;
         subject = choices.subject ?? "";
         action = choices.action;
@@ -82,7 +83,6 @@ OVDialog {
     width: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth
     okKind: danger ? OVButton.DangerPrimary : OVButton.Primary
     objectName: "batchPreviewDialog"
-    title: qsTr("提示")
     onAccepted: {
         if (preview.checkedCount === 0)
             refused(qsTr("请选择一台设备"));

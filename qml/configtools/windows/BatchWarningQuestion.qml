@@ -9,4 +9,5 @@ OVMessageBox {
     }
 
     objectName: "warningQuestion"
+    title: qsTr("警告")
 }

@@ -14,6 +14,8 @@ OVDialog {
     readonly property alias dhcp: dhcpButton.checked
     readonly property string mask: AddressTools.plainAddress(maskField.text)
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
+    //: In other languages the address of one device has another name than the first one of a batch.
+    readonly property string startLabel: batch ? qsTr("起始IP") : qsTr("起始IP", "one device")
     property bool tried: false  // what is wrong is said under a field once "确定" was pressed
     readonly property bool planned: dhcp || startField.acceptable
     readonly property string addressWarning: {
@@ -158,7 +160,7 @@ OVDialog {
         OVFormRow {
             width: root.formWidth
             enabled: !root.dhcp
-            label: qsTr("起始IP")
+            label: root.startLabel
 
             Item {
                 width: parent.width
@@ -168,7 +170,7 @@ OVDialog {
                     id: startField
                     property string before
                     width: parent.width - (sameBox.visible ? sameBox.width + Theme.controlGap : 0)
-                    accessibleName: qsTr("起始IP")
+                    accessibleName: root.startLabel
                     errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的起始IP")
                     objectName: "newStartField"
                     warningText: root.warned === "" ? "" : root.addressWarning

@@ -10,6 +10,7 @@ OVDialog {
     width: Theme.restartWidth
     height: Theme.restartHeight
     objectName: "restartDialog"
+    cancelText: qsTr("取消")
     okText: qsTr("重启")
     title: qsTr("提示")
     onAccepted: {

@@ -159,6 +159,7 @@ Item {
         visible: false
         sourceComponent: OVMessageBox {
             objectName: "endQuestion"
+            title: qsTr("退出程序")
             onAccepted: root.endConfirmed()
         }
     }

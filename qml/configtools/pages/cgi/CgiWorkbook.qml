@@ -24,7 +24,7 @@ Item {
 
     function ask(lines) {
         question.wanted().askEntries(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), lines, {
-            okText: qsTr("执行"), listed: true, action: names => workbooks.run(qsTr("批量表单操作"), names)
+            title: qsTr("批量表单操作"), okText: qsTr("执行"), listed: true, action: names => workbooks.run(qsTr("批量表单操作"), names)
         });
     }
 
@@ -70,6 +70,7 @@ Item {
         visible: false
         sourceComponent: OVMessageBox {
             objectName: "workbookOutcome"
+            title: qsTr("批量表单操作")
         }
     }
     // qmllint enable unqualified

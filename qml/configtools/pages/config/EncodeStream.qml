@@ -52,7 +52,7 @@ Column {
             accessibleName: root.title + " " + row.label
             chosen: row.setting.index
             enabled: row.setting.usable
-            model: row.setting.choices
+            model: row.setting.names
             objectName: root.namePrefix + row.choiceName
             source: root.stream
             onPicked: index => root.pick(row.setting, index)
@@ -175,7 +175,7 @@ Column {
             accessibleName: root.title + " " + qsTr("音频编码")
             chosen: root.stream.audioCompression.index
             enabled: root.stream.audioCompression.usable
-            model: root.stream.audioCompression.choices
+            model: root.stream.audioCompression.names
             objectName: root.namePrefix + "AudioChoice"
             source: root.stream
             onPicked: index => root.pick(root.stream.audioCompression, index)
