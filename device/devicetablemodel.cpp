@@ -344,6 +344,32 @@ int DeviceTableModel::rowOf(const QString &identity) const
     return m_places.value(identity, -1);
 }
 
+int DeviceTableModel::rowStarting(const QString &text, int from) const
+{
+    const int count = rowCount();
+    for (int step = 0; step < count; ++step) {
+        const int row = (std::max(from, 0) + step) % count;
+        const DeviceTableRow &values = m_rows.at(row);
+        if (values.value(DeviceRowKey::ipport).toString().startsWith(text, Qt::CaseInsensitive) ||
+            values.value(DeviceRowKey::name).toString().startsWith(text, Qt::CaseInsensitive))
+            return row;
+    }
+    return -1;
+}
+
+void DeviceTableModel::checkSimilar(int row, const QString &key)
+{
+    if (row < 0 || row >= rowCount())
+        return;
+    const QJsonValue wanted = m_rows.at(row).values.value(key);
+    QStringList similar;
+    for (const DeviceTableRow &values : std::as_const(m_rows)) {
+        if (values.values.value(key) == wanted)
+            similar.append(values.identity);
+    }
+    setCheckedDevices(similar);
+}
+
 QStringList DeviceTableModel::checkedMacs() const
 {
     QStringList macs;

@@ -105,6 +105,13 @@ public:
     /// Position of the row with this identity, -1 when it is not shown.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
+    /// The first row from `from` on, and then from the top, whose address or name begins with `text`; -1 when
+    /// there is none. Capitals count as small letters.
+    Q_INVOKABLE [[nodiscard]] int rowStarting(const QString &text, int from) const;
+
+    /// Ticks the shown rows whose value of `key` is that of the row, and no other device.
+    Q_INVOKABLE void checkSimilar(int row, const QString &key);
+
     /// "identity" of the checked rows in the order shown, by which the operations of an IPv4 device name it.
     Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
 

@@ -160,6 +160,28 @@ void OVTreeModel::setCheckedDevices(const QStringList &identities)
     Q_EMIT checkedDevicesChanged();
 }
 
+void OVTreeModel::checkSimilar(const QString &identity, const QString &key)
+{
+    if (!m_deviceFactory)
+        return;
+    QHash<QString, QString> values;
+    const QVariantList rows = readRows();
+    for (const QVariant &row : rows) {
+        const QJsonObject device = row.toJsonObject();
+        values.insert(rowName(device), device.value(key).toString());
+    }
+    if (!values.contains(identity))
+        return;
+    QStringList similar;
+    for (const Group &group : std::as_const(m_groups)) {
+        for (const Device &device : group.devices) {
+            if (values.value(device.identity) == values.value(identity))
+                similar.append(device.identity);
+        }
+    }
+    setCheckedDevices(similar);
+}
+
 void OVTreeModel::writeResult(const QModelIndex &device, int result)
 {
     Group &group = m_groups[static_cast<qsizetype>(device.internalId()) - 1];

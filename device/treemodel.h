@@ -93,6 +93,10 @@ public:
     /// Ticks the devices with these identities and no others, also those that a search text hides.
     Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
 
+    /// Ticks the devices of the tree whose rows have the same value of `key` as that of this device, and no
+    /// other device.
+    Q_INVOKABLE void checkSimilar(const QString &identity, const QString &key);
+
     /// Writes "copyRet" of the device that `ipport` names, and of any that shares its address; does nothing
     /// when the tree has none.
     Q_INVOKABLE void setResult(const QString &ipport, int result);

@@ -162,6 +162,36 @@ QString DeviceTreeRows::identityAt(int row) const
     return data(index(row), IdentityRole).toString();
 }
 
+QString DeviceTreeRows::nameAt(int row) const
+{
+    const std::optional<Place> place = placeOf(row);
+    return place && place->device >= 0 && m_tree
+               ? m_tree->data(treeIndex(*place), OVTreeModel::IdentityRole).toString()
+               : QString();
+}
+
+int DeviceTreeRows::rowStarting(const QString &text, int from) const
+{
+    for (int step = 0; step < m_rows; ++step) {
+        const int row = (std::max(from, 0) + step) % m_rows;
+        if (deviceAt(row).startsWith(text, Qt::CaseInsensitive) ||
+            data(index(row), DetailRole).toString().startsWith(text, Qt::CaseInsensitive))
+            return row;
+    }
+    return -1;
+}
+
+int DeviceTreeRows::deviceAfter(const QString &ipport) const
+{
+    int row = 0;
+    while (row < m_rows && deviceAt(row) != ipport)
+        ++row;
+    do {
+        ++row;
+    } while (row < m_rows && deviceAt(row).isEmpty());
+    return row < m_rows ? row : -1;
+}
+
 int DeviceTreeRows::groupRowOf(int row) const
 {
     const std::optional<Place> place = placeOf(row);

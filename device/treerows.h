@@ -57,6 +57,16 @@ public:
     /// Text by which rowOf() finds the row again.
     Q_INVOKABLE [[nodiscard]] QString identityAt(int row) const;
 
+    /// Name of a device's row, see rowName(); empty for a group.
+    Q_INVOKABLE [[nodiscard]] QString nameAt(int row) const;
+
+    /// The first device from the row `from` on, and then from the top, whose address or detail begins with
+    /// `text`; -1 when there is none. Capitals count as small letters.
+    Q_INVOKABLE [[nodiscard]] int rowStarting(const QString &text, int from) const;
+
+    /// The row of the next device below the one at this address and port; -1 when there is none.
+    Q_INVOKABLE [[nodiscard]] int deviceAfter(const QString &ipport) const;
+
     /// The row of the group that a device stands in; the row itself for a group.
     Q_INVOKABLE [[nodiscard]] int groupRowOf(int row) const;
 

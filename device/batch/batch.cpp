@@ -225,15 +225,27 @@ QStringList Batch::failedDevices() const
     return m_report.devicesNotSucceeded();
 }
 
+bool Batch::isRetryable(const Entry &entry) const
+{
+    return entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome) &&
+           m_plan.stepOf && m_plan.canBeRetried;
+}
+
 QStringList Batch::retryableDevices() const
 {
     QStringList names;
     for (const Entry &entry : m_entries) {
-        if (entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome) &&
-            m_plan.stepOf && m_plan.canBeRetried)
+        if (isRetryable(entry))
             names.append(entry.device.name);
     }
     return names;
+}
+
+bool Batch::canRetry(const QString &identity) const
+{
+    return !m_isRunning && std::any_of(m_entries.cbegin(), m_entries.cend(), [&](const Entry &entry) {
+        return entry.device.identity == identity && isRetryable(entry);
+    });
 }
 
 QString Batch::textOf(const QString &device) const

@@ -96,6 +96,9 @@ public:
     Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
 
+    /// Whether the batch has ended and the device with this identity may succeed in a retry.
+    Q_INVOKABLE [[nodiscard]] bool canRetry(const QString &identity) const;
+
     /// What a device's outcome says beside its code, here or else in the batch that this one retries; empty
     /// when there is nothing.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
@@ -119,6 +122,7 @@ private:
     /// The first of the batch's steps that runs does the preparation before.
     [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
                                           const std::shared_ptr<std::once_flag> &flag) const;
+    [[nodiscard]] bool isRetryable(const Entry &entry) const;
     void takeNews();
     void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
     void finish();

@@ -73,6 +73,26 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
                   .changesRows = command == QLatin1String("resetSystem")});
 }
 
+Batch *Batches::nameCameras(const QString &family, const QString &title, const QStringList &ipports,
+                            const QStringList &names)
+{
+    QHash<QString, QString> nameAt;
+    for (qsizetype place = 0; place < ipports.size(); ++place)
+        nameAt.insert(ipports.at(place), names.value(place));
+    return start({.family = family,
+                  .title = title,
+                  .work = QStringLiteral("channelName"),
+                  .devices = batchDevices(m_factory, family, ipports),
+                  .policy = usualPolicy(),
+                  .stepOf =
+                      [this, family, nameAt](const BatchDevice &device) {
+                          return m_factory.systemStep(family, QStringLiteral("channelName"),
+                                                      {{QStringLiteral("name"), nameAt.value(device.ipport)}},
+                                                      device.ipport);
+                      },
+                  .isByAddress = true});
+}
+
 Batch *Batches::setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
                                   const QString &account, const QString &password)
 {
@@ -256,12 +276,24 @@ Batch *Batches::takeSnapshots(const QString &family, const QString &title, const
 
 Batch *Batches::retry(Batch *batch)
 {
+    return retryWhere(batch, {});
+}
+
+Batch *Batches::retryDevice(Batch *batch, const QString &identity)
+{
+    return identity.isEmpty() ? nullptr : retryWhere(batch, identity);
+}
+
+Batch *Batches::retryWhere(Batch *batch, const QString &identity)
+{
     if (!batch || batch->isRunning() || (batch->changesAddresses() && !mayChangeAddresses()))
         return nullptr;
     const QStringList retryable = batch->retryableDevices();
     const QSet<QString> names(retryable.cbegin(), retryable.cend());
     BatchPlan plan = batch->plan();
-    plan.devices.removeIf([&](const BatchDevice &device) { return !names.contains(device.name); });
+    plan.devices.removeIf([&](const BatchDevice &device) {
+        return !names.contains(device.name) || (!identity.isEmpty() && device.identity != identity);
+    });
     Batch *again = plan.devices.isEmpty() ? nullptr : start(std::move(plan));
     if (again) {
         again->setRetryOf(batch);

@@ -47,6 +47,10 @@ public:
     Q_INVOKABLE Batch *configureSystem(const QString &family, const QString &command, const QString &title,
                                        const QVariantMap &data, const QStringList &ipports);
 
+    /// A name for the first channel of each device, at its place in `names`. Devices go by address and port.
+    Q_INVOKABLE Batch *nameCameras(const QString &family, const QString &title, const QStringList &ipports,
+                                   const QStringList &names);
+
     /// First passwords for factory-new devices, one after another in the order of the list.
     Q_INVOKABLE Batch *setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
                                          const QString &account, const QString &password);
@@ -82,6 +86,9 @@ public:
 
     /// The devices of an ended batch again that may succeed in another try.
     Q_INVOKABLE Batch *retry(Batch *batch);
+
+    /// The same for the device with this identity only.
+    Q_INVOKABLE Batch *retryDevice(Batch *batch, const QString &identity);
 
     /// Writes what has come of each device until now to a file, on a thread of its own: a workbook, or
     /// comma-separated text for a name that ends in ".csv". resultsSaved() follows.
@@ -121,6 +128,8 @@ private:
     /// What a device had before the last change of its address, if that failed: its row shows since then what
     /// it was asked for.
     [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;
+    /// With an empty identity, all devices.
+    Batch *retryWhere(Batch *batch, const QString &identity);
     void finish(Batch *batch, int work);
     void markFailed(const Batch &batch);
     /// Whether addresses may be changed now; otherwise refused() says why not.

@@ -14,6 +14,7 @@ namespace {
 constexpr auto timeWait = 3000ms;
 constexpr auto requestWait = 5000ms;
 constexpr std::int32_t wholeDevice = -1;
+constexpr std::int32_t firstChannel = 0;
 constexpr std::uint32_t localesTextSize = 32768;
 constexpr std::uint32_t writtenTextSize = 4096;
 
@@ -134,6 +135,17 @@ std::optional<SystemAction> videoStandardAction(const sdk::SdkLibraries &librari
     };
 }
 
+std::optional<SystemAction> channelNameAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto item = channelNameFrom(data);
+    if (!item)
+        return std::nullopt;
+    return [libraries, item = *item](std::int64_t handle) {
+        return libraries.net->NetSetItem(handle, static_cast<std::uint32_t>(sdk::CameraItem::ChannelName),
+                                         firstChannel, &item, sizeof(item), requestWait);
+    };
+}
+
 struct CommandEntry
 {
     QLatin1StringView command;
@@ -149,6 +161,7 @@ constexpr std::array commands = {
     CommandEntry{QLatin1StringView("rebootDevice"), &rebootAction},
     CommandEntry{QLatin1StringView("resetSystem"), &resetAction},
     CommandEntry{QLatin1StringView("videoStandard"), &videoStandardAction},
+    CommandEntry{QLatin1StringView("channelName"), &channelNameAction},
 };
 
 } // namespace

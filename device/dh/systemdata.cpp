@@ -1,5 +1,6 @@
 #include "device/dh/systemdata.h"
 
+#include "device/bytetext.h"
 #include "sdk/blocktext.h"
 
 #include <QDateTime>
@@ -130,6 +131,17 @@ std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data)
     record.rebootMinute = time.minute();
     record.rebootEnabled = *autoReboot ? 1 : 0;
     return record;
+}
+
+std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data)
+{
+    const QString name = ByteText::withoutInvisible(data.value(QStringLiteral("name")).toString()).trimmed();
+    if (name.isEmpty() || ByteText::bytes(name) > ByteText::channelNameBytes())
+        return std::nullopt;
+    sdk::ChannelNameItem item = {};
+    item.size = sizeof(item);
+    sdk::setBlockText(item.name, name.toStdString());
+    return item;
 }
 
 std::optional<sdk::VideoStandardItem> videoStandardFrom(const QVariantMap &data)

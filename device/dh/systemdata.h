@@ -2,6 +2,7 @@
 // whole record in its ranges (a missing key, a text that is no time, a port above 65535) gives none.
 #pragma once
 
+#include "sdk/camerablocks.h"
 #include "sdk/systemblocks.h"
 #include "sdk/systemrecords.h"
 
@@ -31,6 +32,9 @@ struct DaylightSaving
 
 /// "week" (0 Sunday to 6 Saturday, 7 every day), "time" ("hh:mm") and "autoReboot".
 [[nodiscard]] std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data);
+
+/// "name" of a channel, not longer than a device can hold and with more than blanks in it.
+[[nodiscard]] std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data);
 
 /// "videoStandard": 1 PAL, 2 NTSC.
 [[nodiscard]] std::optional<sdk::VideoStandardItem> videoStandardFrom(const QVariantMap &data);

@@ -46,6 +46,7 @@ private:
     {
         return m_batches->configureSystem("dh", "videoStandard", "Standard", {{"videoStandard", 1}}, ipports);
     }
+    [[nodiscard]] QString identityOf(int place) const { return m_devices.at(place).mac; }
     [[nodiscard]] QStringList macs() const
     {
         QStringList macs;
@@ -130,13 +131,34 @@ private Q_SLOTS:
         // Another try with the same password may lock the account.
         QCOMPARE(batch->retryableDevices(), QStringList{ipportOf(m_devices.at(1))});
 
+        QVERIFY(batch->canRetry(identityOf(1)) && !batch->canRetry(identityOf(2)) &&
+                !batch->canRetry(identityOf(0)));
+        QCOMPARE(m_batches->retryDevice(batch, identityOf(2)), nullptr);
+
         m_site->site->clearFault(m_devices.at(1).mac, fault);
-        Batch *again = m_batches->retry(batch);
+        Batch *again = m_batches->retryDevice(batch, identityOf(1));
         QVERIFY(again);
         QTRY_VERIFY(!again->isRunning());
         QCOMPARE(again->report()->succeeded(), 1);
         QCOMPARE(m_batches->retry(again), nullptr);
         QCOMPARE(m_batches->kept().size(), 2);
+    }
+
+    /// Each camera gets its own name; what is too long for a device is not sent.
+    void camerasGetTheirNames()
+    {
+        const QStringList names = {"Hall 1", "Hall 2", QString(300, 'x'), "厅 4"};
+        Batch *batch = m_batches->nameCameras("dh", "Names", ipportsOf(m_devices), names);
+        QVERIFY(batch);
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->report()->succeeded(), 3);
+        QCOMPARE(batch->failedDevices(), QStringList{ipportOf(m_devices.at(2))});
+        QHash<QString, QString> written;
+        for (const sdk::demo::RecordedRequest &request : m_site->site->requests().of("NetSetItem"))
+            written.insert(request.mac, request.request.value("name").toString());
+        QCOMPARE(written, (QHash<QString, QString>{{m_devices.at(0).mac, "Hall 1"},
+                                                   {m_devices.at(1).mac, "Hall 2"},
+                                                   {m_devices.at(3).mac, "厅 4"}}));
     }
 
     void anotherBatchWaitsAndAStoppedOneNamesTheRest()
