@@ -38,9 +38,7 @@ Item {
     }
 
     function account() {
-        const row = deviceFactory.getDeviceInfo("dh", ipport);
-        return {user: row.username || localConfig.getSearchConfigUsrename(),
-                password: row.password || localConfig.getSearchConfigPass()};
+        return LoginMemory.accountFor(deviceFactory.getDeviceInfo("dh", ipport), localConfig);
     }
 
     function open(ipport) {
@@ -65,7 +63,7 @@ Item {
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         if (accountRefused)
-            relogin.wanted().ask(row.mac ?? "", ipport, account().user);
+            relogin.wanted().ask(row.mac ?? "", ipport, account().user, result);
         else
             ask();
     }
@@ -142,6 +140,7 @@ Item {
                 return;
             root.asking = false;
             root.result = result;
+            LoginMemory.note(ipport, result);
             if (result === 0)
                 root.take(channels);
             else

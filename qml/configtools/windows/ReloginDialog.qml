@@ -1,4 +1,5 @@
-// Asks for the account of a device that refused a login, and keeps the new password with the device.
+// Asks for the account of a device that refused a login, says what the device has answered, and keeps the new password
+// with the device.
 import QtQuick
 import configtools
 
@@ -6,7 +7,6 @@ OVDialog {
     id: root
 
     required property var deviceFactory
-    signal refused(string message)
     /// The waiting operation goes on with these; with two empty texts it is given up. Each ask() is answered once.
     signal answered(string account, string password)
 
@@ -15,14 +15,19 @@ OVDialog {
     property bool waiting: false
     property string faultKind
     property string fault
+    property int result: 0  // of the login before, a LoginResult
+    property int wrongTimes: 0  // how often this device has refused a password
 
-    function ask(mac, ipport, account) {
+    function ask(mac, ipport, account, result) {
         answer("", "");
         root.mac = mac;
         root.ipport = ipport;
         accountField.text = account;
         passwordField.text = "";
-        forget();
+        followingBox.checked = false;
+        root.result = result;
+        wrongTimes = LoginMemory.timesWrong(ipport);
+        showAnswer();
         waiting = true;
         open();
     }
@@ -35,6 +40,13 @@ OVDialog {
         answered(account, password);
     }
 
+    /// What the device has answered, at the field that it is about.
+    function showAnswer() {
+        faultKind = result === 1 ? "account" : result === LoginMemory.wrongPassword ? "password" : "";
+        fault = faultKind === "password" && wrongTimes > 0 ? qsTr("密码错误，已 %n 次", "", wrongTimes)
+            : faultKind === "" ? "" : deviceFactory.getErrorName(result);
+    }
+
     function forget() {
         faultKind = "";
         fault = "";
@@ -43,8 +55,6 @@ OVDialog {
     function check() {
         faultKind = accountField.text === "" ? "account" : passwordField.text === "" ? "password" : "";
         fault = faultKind === "account" ? qsTr("请输入账号") : faultKind === "password" ? qsTr("请输入密码") : "";
-        if (fault !== "")
-            (faultKind === "account" ? accountField : passwordField).forceActiveFocus();
         return fault === "";
     }
 
@@ -55,12 +65,14 @@ OVDialog {
     onRejected: answer("", "")
     onAccepted: {
         if (!check()) {
-            refused(fault);
+            refuse(fault);
             return;
         }
         const account = accountField.text;
         const password = passwordField.text;
         close();
+        if (followingBox.checked)
+            LoginMemory.offer(ipport, account, password);
         const kept = deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
         answer(kept ? account : "", kept ? password : "");
     }
@@ -74,6 +86,8 @@ OVDialog {
             iconColor: Theme.colours.warn
             iconName: "alert"
             text: qsTr("设备 %1 没有接受登录，请输入它的账号和密码。").arg(root.ipport)
+                + (root.result > LoginMemory.wrongPassword ? "\n" + qsTr("设备的应答：%1")
+                   .arg(root.deviceFactory.getErrorName(root.result)) : "")
         }
         OVFormRow {
             width: parent.width
@@ -103,6 +117,22 @@ OVDialog {
                 secret: true
                 onEdited: root.forget()
             }
+        }
+        OVParagraph {
+            x: Theme.formLabelWidth + Theme.unit
+            width: parent.width - x
+            color: Theme.colours.sub
+            font: Theme.hintFont
+            objectName: "triesHint"
+            text: qsTr("设备没有报告剩余的尝试次数。继续输错可能锁定账户。")
+            visible: root.wrongTimes > 0
+        }
+        OVCheckBox {
+            id: followingBox
+            x: Theme.formLabelWidth + Theme.unit
+            objectName: "followingBox"
+            text: qsTr("之后打开的设备也使用此账号")
+            toolTip: qsTr("登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出")
         }
     }
 }

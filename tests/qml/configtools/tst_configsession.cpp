@@ -54,6 +54,18 @@ private:
             return request.mac == device.mac && request.operation.startsWith("NetSet");
         });
     }
+    [[nodiscard]] QQuickItem *dialogItem(const char *name) const
+    {
+        return findBelow(m_window->contentItem(), name, Sight::Visible);
+    }
+    /// What stands at a field of the login dialog.
+    [[nodiscard]] QString answerOfDialog() const
+    {
+        [this] {
+            QTRY_VERIFY(dialogItem("fieldMessage"));
+        }();
+        return dialogItem("fieldMessage")->property("text").toString();
+    }
     void choose(const sdk::demo::SceneDevice &device) const
     {
         QVERIFY(QMetaObject::invokeMethod(m_session, "choose", Q_ARG(QVariant, ipportOf(device))));
@@ -155,6 +167,43 @@ private Q_SLOTS:
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
         QCOMPARE(writesTo(m_recorder), 8);
         QCOMPARE(writesTo(m_other), 0);
+    }
+
+    /// The dialog shows what the device has answered; an account for all that follow is tried once, and only
+    /// after it has proved right.
+    void aWrongPasswordIsCounted()
+    {
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        QVERIFY(m_site->factory->updataDeviceInfo("dh", "password", "wrong", m_recorder.mac,
+                                                  ipportOf(m_recorder)));
+        choose(m_recorder);
+        QCOMPARE(answerOfDialog(), "密码错误，已 1 次");
+        const auto enter = [this](const char *password) {
+            dialogItem("followingBox")->setProperty("checked", true);
+            dialogItem("devicePasswordField")->setProperty("text", password);
+            QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
+        };
+        enter("another");
+        QTRY_VERIFY(!isBusy() && dialogItem("devicePasswordField"));
+        QCOMPARE(answerOfDialog(), "密码错误，已 2 次");
+        enter("secret1");
+        QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
+
+        m_site->site->requests().clear();
+        m_session->setProperty(
+            "localConfig",
+            QVariant::fromValue(m_engine->evaluate(
+                "({getSearchConfigUsrename: () => 'admin', getSearchConfigPass: () => 'wrong'})")));
+        choose(m_other);
+        QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
+        const QList<sdk::demo::RecordedRequest> requests = m_site->site->requests().all();
+        QCOMPARE(std::ranges::count_if(requests,
+                                       [](const sdk::demo::RecordedRequest &request) {
+                                           return request.operation.startsWith("NetLoginSecure");
+                                       }),
+                 1);
     }
 
     void inputIsHeldWhereTheWorkIs()

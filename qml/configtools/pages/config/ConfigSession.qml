@@ -45,9 +45,8 @@ Item {
         model = row.model ?? "";
         type = row.type ?? "";
         noteUpgrade();
-        // A device that was found has no account of its own: the search settings' one is tried.
-        login(row.username || localConfig.getSearchConfigUsrename(),
-              row.password || localConfig.getSearchConfigPass());
+        const known = LoginMemory.accountFor(row, localConfig);
+        login(known.user, known.password);
     }
 
     function noteUpgrade() {
@@ -68,6 +67,7 @@ Item {
         forget();
         work.run(qsTr("正在登录…"), () => work.login(device, account, password), result => {
             loginResult = result;
+            LoginMemory.note(device, result);
             loggedIn = result === 0;
             failure = loggedIn ? "" : deviceFactory.getErrorName(result);
             if (loggedIn)
@@ -100,13 +100,13 @@ Item {
 
     function askAgain(account) {
         const row = deviceFactory.getDeviceInfo("dh", device);
-        relogin.wanted().ask(row.mac ?? "", device, account);
+        relogin.wanted().ask(row.mac ?? "", device, account, loginResult);
     }
 
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", device);
         if (canLoginAgain() && !taken)
-            askAgain(row.username || localConfig.getSearchConfigUsrename());
+            askAgain(LoginMemory.accountFor(row, localConfig).user);
         else
             open(device);
     }
@@ -191,7 +191,6 @@ Item {
                 root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
                 root.login(account, password);
             }
-            onRefused: message => root.said(message, OVToast.Error, root.longStay)
         }
     }
     // qmllint enable unqualified
