@@ -51,8 +51,18 @@ T.ApplicationWindow {
         const go = () => {
             systemConfigPage.item?.disablePasswordEditor();
             currentTab = index;
+            popups.clearNotices();
         };
         leavePage(go);
+    }
+
+    /// The same from the keyboard, which goes to the page.
+    function turnTo(index) {
+        showTab(index);
+        if (currentTab !== index)
+            return;
+        const holder = pages.children[index];
+        (holder.item ?? holder).forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
     /// Settings that were changed and not saved are not left without a word. Returns whether there is a question first.
@@ -67,7 +77,7 @@ T.ApplicationWindow {
     function mayBegin(action) {
         const refusal = busyState.refusal(action);
         if (refusal !== "")
-            popups.say(refusal, OVToast.Information);
+            popups.say(refusal, OVToast.Refusal);
         return refusal === "";
     }
 
@@ -94,7 +104,7 @@ T.ApplicationWindow {
 
     function refusesDuringSearch() {
         if (searching)
-            popups.say(qsTr("正在搜索，请先停止搜索（Esc）或稍候再关闭"), OVToast.Information);
+            popups.say(qsTr("正在搜索，请先停止搜索（Esc）或稍候再关闭"), OVToast.Refusal);
         return searching;
     }
 
@@ -114,6 +124,7 @@ T.ApplicationWindow {
 
     Component.onCompleted: {
         search.start(searchSettings.read());
+        modifyIpPage.focusTable();
         languageList.remove(localConfig.getRemoveLanguageList());
     }
 
@@ -177,7 +188,7 @@ T.ApplicationWindow {
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
         onSettingsRequested: popups.openSearchSettings(searchSettings.read())
-        onTabRequested: index => window.showTab(index)
+        onTabRequested: index => window.turnTo(index)
     }
 
     ColumnLayout {
@@ -219,6 +230,7 @@ T.ApplicationWindow {
             onLinkActivated: window.requestDemo()
         }
         StackLayout {
+            id: pages
             Layout.fillHeight: true
             Layout.fillWidth: true
             currentIndex: window.currentTab
@@ -237,6 +249,7 @@ T.ApplicationWindow {
                 onSaid: (message, kind) => popups.say(message, kind)
                 onSearchRequested: window.requestSearch()
                 onSettingsRequested: popups.openSearchSettings(searchSettings.read())
+                onSettled: popups.settle()
             }
             OVOnDemand {
                 id: upgradePage
@@ -247,8 +260,10 @@ T.ApplicationWindow {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         search: window.deviceSearch
+                        onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
+                        onSettled: popups.settle()
                     }
                 }
                 // qmllint enable unqualified
@@ -263,8 +278,10 @@ T.ApplicationWindow {
                         busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         search: window.deviceSearch
+                        onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind, stay) => popups.say(message, kind, stay)
                         onSearchRequested: window.requestSearch()
+                        onSettled: popups.settle()
                     }
                 }
                 // qmllint enable unqualified
@@ -278,8 +295,10 @@ T.ApplicationWindow {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         search: window.deviceSearch
+                        onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
+                        onSettled: popups.settle()
                     }
                 }
                 // qmllint enable unqualified
@@ -293,8 +312,10 @@ T.ApplicationWindow {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         search: window.deviceSearch
+                        onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
+                        onSettled: popups.settle()
                     }
                 }
                 // qmllint enable unqualified

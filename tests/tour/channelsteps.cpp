@@ -132,7 +132,7 @@ void exportDetails(Driver &driver, const QString &folder)
 {
     const QString path = folder + u"/192.168.1.120_8800.txt"_s;
     const auto saidToast = [&] {
-        return driver.texts(u"toastText"_s).contains(translated("ModifyIPDevices", "已导出到 %1").arg(path));
+        return driver.texts(u"dialogNotice"_s).contains(translated("DeviceActions", "已导出到 %1").arg(path));
     };
     QDir().mkpath(folder);
     driver.click(u"detailExportButton"_s);

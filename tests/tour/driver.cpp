@@ -128,13 +128,11 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
 
 bool Driver::isUnderNotice(QPoint place) const
 {
-    constexpr int margin = 60; // of the notice around its text
+    constexpr QMargins margins(46, 14, 20, 14); // of the notice around its text
     QList<const QQuickItem *> notices;
     collectBelow(m_window->contentItem(), QStringLiteral("toastText"), notices);
     if (std::ranges::none_of(notices, [&](const QQuickItem *text) {
-            return text->mapRectToScene(text->boundingRect())
-                .adjusted(-margin, -margin, margin, margin)
-                .contains(place);
+            return text->mapRectToScene(text->boundingRect()).marginsAdded(margins).contains(place);
         }))
         return false;
     QTest::mouseMove(m_window, QPoint(1, 1)); // a notice stays while the pointer is on it

@@ -126,6 +126,11 @@ void answerMessageBox(const QString &folder)
 void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, const QString &folder)
 {
     walkFirstSearch(driver);
+    if (qEnvironmentVariableIsSet("ONLY_KEYS")) {
+        walkKeyboard(driver, site);
+        driver.click(u"closeButton"_s);
+        return;
+    }
     walkTable(driver);
     walkWindow(driver);
     walkConfiguration(driver, site);
@@ -138,6 +143,7 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkLists(driver, folder + u"/lists"_s);
     walkUpgrade(driver, site, folder + u"/upgrade"_s);
     walkSystem(driver, site);
+    walkKeyboard(driver, site);
     walkSecondStart(driver, folder);
     driver.check(warnings == 0, u"no warning was given"_s);
     driver.check(writeFile(restartFile(folder), "restarted"), u"the restart is noted"_s);

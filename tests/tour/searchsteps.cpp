@@ -95,7 +95,7 @@ void walkReport(Driver &driver)
                  u"the report says what was found"_s);
     driver.report(u"search-report"_s, summary);
     driver.click(u"okButton"_s);
-    expectToast(driver, translated("WindowPopups", "已复制到剪贴板"));
+    expectToast(driver, translated("SearchReportDialog", "已复制到剪贴板"));
     driver.key(Qt::Key_Escape);
     driver.await(u"the report is closed"_s, [&] { return !driver.find(u"okButton"_s); });
 }

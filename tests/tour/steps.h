@@ -45,6 +45,8 @@ void walkBatches(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
 void walkLab(Driver &driver);
 /// On the same devices: work on several of them at the same time.
 void walkLabBatches(Driver &driver);
+/// Somebody without a mouse: the way to the table, the actions of rows, a wrong password.
+void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

@@ -11,10 +11,15 @@ inline QString translated(const char *context, const char *text)
     return QCoreApplication::translate(context, text);
 }
 
+/// A message to the user: at the field that it is about, in the dialog that is open, or as a notice of the
+/// window.
 inline void expectToast(const Driver &driver, const QString &text)
 {
-    driver.await(QStringLiteral("\"%1\" is said").arg(text),
-                 [&] { return driver.texts(QStringLiteral("toastText")).contains(text); });
+    driver.await(QStringLiteral("\"%1\" is said").arg(text), [&] {
+        return driver.texts(QStringLiteral("toastText")).contains(text) ||
+               driver.texts(QStringLiteral("fieldMessage")).contains(text) ||
+               driver.texts(QStringLiteral("dialogNotice")).contains(text);
+    });
 }
 
 /// Sets the account that found devices are logged in to with.

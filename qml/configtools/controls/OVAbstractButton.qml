@@ -3,12 +3,14 @@
 import QtQuick
 import QtQuick.Templates as T
 import configtools
+import "keygroups.js" as KeyGroups
 
 T.AbstractButton {
     id: root
 
     property string toolTip
     property bool quiet: false
+    property bool ownArrows: false  // it does something else with Left and Right than a group of controls does
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -31,6 +33,10 @@ T.AbstractButton {
     // Space is the toolkit's own key.
     Keys.onEnterPressed: event => pressOnce(event)
     Keys.onReturnPressed: event => pressOnce(event)
+    Keys.onTabPressed: event => event.accepted = KeyGroups.leave(root, true)
+    Keys.onBacktabPressed: event => event.accepted = KeyGroups.leave(root, false)
+    Keys.onLeftPressed: event => event.accepted = ownArrows || KeyGroups.step(root, -1)
+    Keys.onRightPressed: event => event.accepted = ownArrows || KeyGroups.step(root, 1)
 
     Accessible.role: Accessible.Button
     Accessible.name: text !== "" ? text : toolTip

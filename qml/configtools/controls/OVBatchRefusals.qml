@@ -14,7 +14,7 @@ QtObject {
         target: root.batches
 
         function onRefused(message) {
-            root.said(message, OVToast.Error);
+            root.said(message, OVToast.Refusal);
         }
     }
 }

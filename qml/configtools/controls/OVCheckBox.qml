@@ -2,6 +2,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import configtools
+import "keygroups.js" as KeyGroups
 
 T.CheckBox {
     id: root
@@ -14,6 +15,11 @@ T.CheckBox {
     hoverEnabled: true
     leftPadding: text === "" ? 0 : Theme.boxSize + spacing
     spacing: Theme.unit
+
+    Keys.onTabPressed: event => event.accepted = KeyGroups.leave(root, true)
+    Keys.onBacktabPressed: event => event.accepted = KeyGroups.leave(root, false)
+    Keys.onLeftPressed: event => event.accepted = KeyGroups.step(root, -1)
+    Keys.onRightPressed: event => event.accepted = KeyGroups.step(root, 1)
 
     Accessible.name: text !== "" ? text : toolTip
     Accessible.description: toolTip

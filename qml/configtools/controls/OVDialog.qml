@@ -17,6 +17,8 @@ T.Popup {
     property bool dense: false  // for a small box: its head, its foot and the room around its content are lower
     property bool busy: false  // at what was accepted: the primary button turns, and nothing can be done meanwhile
     property bool cancellable: false  // also while it is busy
+    property string notice  // about what the dialog holds, above its buttons
+    property int noticeKind: OVToast.Error
     property alias footContent: footSlot.data  // beside the buttons
     default property alias content: body.data
     signal accepted
@@ -27,12 +29,15 @@ T.Popup {
     onAboutToHide: leaving = true
     onAboutToShow: {
         leaving = false;
+        notice = "";
         body.focus = true;  // not the button that answered the last time
     }
 
     function accept() {
-        if (okEnabled && !leaving && !busy)
-            accepted();
+        if (!okEnabled || leaving || busy)
+            return;
+        notice = "";
+        accepted();
     }
     function reject() {
         if (leaving || busy && !cancellable)
@@ -46,6 +51,34 @@ T.Popup {
         if (!event.isAutoRepeat)
             accept();
     }
+
+    /// Input is not accepted: the first field that shows an error gets the keyboard. When no field shows one, the message
+    /// stands above the buttons.
+    function refuse(message) {
+        const field = faultyField(body);
+        if (field)
+            field.forceActiveFocus(Qt.OtherFocusReason);
+        else
+            inform(message, OVToast.Error);
+    }
+
+    function inform(message, kind) {
+        noticeKind = kind;
+        notice = message;
+    }
+
+    function faultyField(item) {
+        for (let i = 0; i < item.children.length; ++i) {
+            const child = item.children[i];
+            if (!child.visible || !child.enabled)
+                continue;
+            const found = (child.errorText ?? "") !== "" ? child : faultyField(child);
+            if (found)
+                return found;
+        }
+        return null;
+    }
+
     function focusCancel() {
         cancel.forceActiveFocus();
     }
@@ -57,7 +90,7 @@ T.Popup {
     height: implicitHeight
     readonly property int contentMargin: dense ? Theme.unit + Theme.line : Theme.pageMargin
 
-    implicitHeight: head.height + body.implicitHeight + 2 * contentMargin + foot.height
+    implicitHeight: head.height + body.implicitHeight + 2 * contentMargin + strip.height + foot.height
     closePolicy: T.Popup.NoAutoClose
     dim: true
     focus: true
@@ -117,10 +150,33 @@ T.Popup {
             x: Theme.pageMargin
             y: head.height + root.contentMargin
             width: parent.width - 2 * Theme.pageMargin
-            height: foot.y - y - root.contentMargin
+            height: strip.y - y - root.contentMargin
             enabled: !root.busy
             focus: true
             implicitHeight: childrenRect.height
+        }
+
+        Item {
+            id: strip
+            x: Theme.pageMargin
+            y: foot.y - height
+            width: parent.width - 2 * Theme.pageMargin
+            height: root.notice === "" ? 0 : words.height + root.contentMargin
+            visible: root.notice !== ""
+
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: root.notice
+
+            OVNotice {
+                id: words
+                width: parent.width
+                iconColor: root.noticeKind === OVToast.Error ? Theme.colours.bad
+                    : root.noticeKind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
+                iconName: root.noticeKind === OVToast.Error ? "error"
+                    : root.noticeKind === OVToast.Success ? "ok" : "about"
+                text: root.notice
+                wordsName: "dialogNotice"
+            }
         }
 
         Item {

@@ -13,6 +13,7 @@ Item {
     property string runningDevice
     property bool running: false
     property bool compact: false  // beside the buttons of a dialog: what can be done without is left out
+    readonly property bool keyGroup: true
     property real progress: -1  // 0 to 1; below 0 there is no known end
     property Batches batches: null
     property DeviceSearch search: null

@@ -8,6 +8,7 @@ T.MenuItem {
 
     property string iconName
     property bool marksChoice: false
+    property bool begins: false  // a group of entries: there is a line above it
 
     implicitWidth: Math.max(180, label.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Theme.rowHeight
@@ -49,5 +50,13 @@ T.MenuItem {
         anchors.rightMargin: Theme.half
         color: root.highlighted ? Theme.colours.accentSoft : Theme.colours.clear
         radius: Theme.smallRadius
+
+        Rectangle {
+            x: -Theme.half
+            width: root.width
+            height: Theme.line
+            color: Theme.colours.line
+            visible: root.begins
+        }
     }
 }

@@ -9,6 +9,8 @@ OVDialog {
 
     property int kind: OVMessageBox.Information
     property string message
+    property string otherText  // of a third answer
+    signal otherChosen
 
     function show(text, ofKind) {
         message = text;
@@ -24,6 +26,17 @@ OVDialog {
     title: qsTr("提示")
     onAccepted: close()
     onOpened: if (kind === OVMessageBox.DangerQuestion) focusCancel()  // Enter twice is not yet a yes
+
+    footContent: OVButton {
+        anchors.verticalCenter: parent.verticalCenter
+        objectName: "otherButton"
+        text: root.otherText
+        visible: root.otherText !== ""
+        onClicked: {
+            root.close();
+            root.otherChosen();
+        }
+    }
 
     OVNotice {
         width: parent.width

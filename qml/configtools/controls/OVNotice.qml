@@ -8,6 +8,7 @@ Row {
     required property string iconName
     required property string text
     property color iconColor: Theme.colours.accent
+    property string wordsName: "messageText"
 
     spacing: Theme.controlGap
 
@@ -20,7 +21,7 @@ Row {
     OVParagraph {
         id: words
         width: root.width - sign.width - root.spacing
-        objectName: "messageText"
+        objectName: root.wordsName
         text: root.text
     }
 }

@@ -37,6 +37,7 @@ Rectangle {
                 implicitWidth: label.implicitWidth + 24
                 implicitHeight: root.height - 2 * Theme.line
                 checkable: false
+                ownArrows: true
                 checked: chosen
                 objectName: modelData.objectName
                 text: modelData.text

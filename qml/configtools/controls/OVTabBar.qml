@@ -8,6 +8,7 @@ Rectangle {
     required property var tabs
     required property int currentIndex
     property string namePrefix: "tab"  // of the object names of the tabs
+    readonly property bool keyGroup: true
     signal activated(int index)
 
     implicitHeight: Theme.tabBarHeight
@@ -42,6 +43,7 @@ Rectangle {
                 implicitWidth: label.implicitWidth + 28
                 implicitHeight: Theme.tabBarHeight
                 objectName: root.namePrefix + index
+                ownArrows: true
                 text: modelData
 
                 Accessible.role: Accessible.PageTab

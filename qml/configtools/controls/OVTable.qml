@@ -24,11 +24,17 @@ FocusScope {
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
     signal rowOpened(int row)
+    signal menuRequested(int row, var place)  // as OVEntryMenu takes it
 
     /// Makes a row the current one and brings it into view.
     function show(row) {
         if (row >= 0)
             body.move(row, false);
+    }
+
+    /// The keyboard acts on the rows, without the ring that a key which brought it here would draw.
+    function takeFocus() {
+        body.takePointerFocus();
     }
 
     readonly property int checkWidth: checkable ? 48 : Theme.controlGap
@@ -95,8 +101,10 @@ FocusScope {
         columns: root.columns
         focus: true
         model: root.model
+        objectName: "tableRows"
         onAllToggled: checked => root.allToggled(checked)
         onCopyRequested: row => root.copyRequested(row)
+        onMenuRequested: (row, place) => root.menuRequested(row, place)
         onRangeToggled: (first, last, checked) => root.rangeToggled(first, last, checked)
         onRowOpened: row => root.rowOpened(row)
     }

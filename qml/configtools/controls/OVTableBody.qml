@@ -24,6 +24,7 @@ ListView {
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
     signal rowOpened(int row)
+    signal menuRequested(int row, var place)
 
     /// Makes `to` the current row; with `extend`, ticks the rows from where the extension began.
     function move(to, extend) {
@@ -56,6 +57,14 @@ ListView {
         if (!extend)
             rangeToggled(row, row, !model.get(row).checked);
         move(row, extend);
+    }
+
+    function offerMenuByKey() {
+        if (currentIndex < 0)
+            move(0, false);
+        positionViewAtIndex(currentIndex, ListView.Contain);
+        const y = (currentIndex + 1) * Theme.rowHeight - contentY;
+        menuRequested(currentIndex, {item: root, x: checkWidth, y: y, byKey: true});
     }
 
     function takePointerFocus() {
@@ -109,7 +118,7 @@ ListView {
     Accessible.role: Accessible.Table
     Accessible.name: columns.map(column => column.title.trim()).filter(title => title !== "").join(", ")
 
-    onActiveFocusChanged: byPointer = false
+    onActiveFocusChanged: if (!activeFocus) byPointer = false
     onCountChanged: if (count === 0) filled = rowsAFrame
 
     FrameAnimation {
@@ -126,7 +135,18 @@ ListView {
         }
     }
 
+    OVTypeAhead {
+        id: typeAhead
+        onTyped: (text, begins) => {
+            const row = root.model.rowStarting ? root.model.rowStarting(text, root.currentIndex + (begins ? 1 : 0)) : -1;
+            if (row >= 0)
+                root.move(row, false);
+        }
+    }
+
     Keys.onPressed: event => {
+        const holder = root.Window.activeFocusItem;
+        const own = holder === root || holder === root.currentItem;  // a field in a row has its own keys
         const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1);
         const extend = event.modifiers & Qt.ShiftModifier;
         const control = event.modifiers & Qt.ControlModifier;
@@ -137,13 +157,17 @@ ListView {
         event.accepted = true;
         if (targets[event.key] !== undefined)
             move(targets[event.key], extend);
+        else if (typeAhead.isMenuKey(event) && count > 0)
+            offerMenuByKey();
+        else if (own && typeAhead.take(event))
+            return;
         else if (event.key === Qt.Key_Space && checkable && currentIndex >= 0)
             toggle(currentIndex, event.modifiers);
         else if (control && event.key === Qt.Key_A && checkable)
             allToggled(true);
         else if (control && event.key === Qt.Key_C && currentIndex >= 0)
             copyRequested(currentIndex);
-        else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentIndex >= 0)
+        else if (own && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentIndex >= 0)
             rowOpened(currentIndex);
         else
             event.accepted = false;
@@ -160,6 +184,12 @@ ListView {
         values: {
             readings;
             return root.model.get(index);
+        }
+        onMenuRequested: (identity, x, y) => {
+            root.pick(identity, Qt.NoModifier);
+            const row = root.model.rowOf(identity);
+            if (row >= 0)
+                root.menuRequested(row, {item: root, x: x - root.contentX, y: y - root.contentY, byKey: false});
         }
         onPicked: (identity, modifiers) => root.pick(identity, modifiers)
         onTickToggled: (identity, modifiers) => {

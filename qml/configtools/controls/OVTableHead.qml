@@ -14,6 +14,7 @@ Rectangle {
     required property string sortKey
     required property int sortOrder
     required property real scrolled
+    readonly property bool keyGroup: true
     signal sortRequested(string key)
     signal allToggled
     signal widthDragged(int column, real width)

@@ -21,6 +21,7 @@ Rectangle {
     signal picked(string identity, int modifiers)
     signal tickToggled(string identity, int modifiers)
     signal opened(string identity)
+    signal menuRequested(string identity, real x, real y)  // a place in the view's content
 
     /// A click acts on what was under the pointer when the button went down: this item may show another row since.
     /// A screen reader clicks without a press.
@@ -67,6 +68,12 @@ Rectangle {
         onPressed: root.pressedIdentity = root.identity
         onClicked: mouse => root.picked(root.takePressed(), mouse.modifiers)
         onDoubleClicked: root.opened(root.takePressed())
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onPressed: mouse => root.menuRequested(root.identity, root.x + mouse.x, root.y + mouse.y)
     }
 
     // A part of the row's surface, not a control of its own: a click counts anywhere in its column.

@@ -149,6 +149,7 @@ FocusScope {
             implicitWidth: Theme.unit * 3
             implicitHeight: Theme.unit * 3
             checkable: true
+            focusPolicy: Qt.NoFocus  // Tab goes from field to field
             iconName: checked ? "hide" : "show"
             iconSize: Theme.boxSize
             toolTip: checked ? qsTr("隐藏密码") : qsTr("显示密码")

@@ -13,6 +13,7 @@ Rectangle {
     property bool searching: false
     property string remark  // beside the name
     property string remarkTip
+    readonly property bool keyGroup: true
     readonly property alias menuButton: menuButton
     signal searchRequested
     signal settingsRequested

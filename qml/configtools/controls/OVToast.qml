@@ -1,6 +1,6 @@
-// Short messages that need no answer, up to three on top of each other with the newest at the bottom. Errors stay
-// longer; a click sends one away. They float over dialogs too, since a dialog may be what the message is about, and
-// keep to the left, since a dialog has its buttons on the right.
+// Short messages that need no answer, up to three below each other with the newest at the top. Errors stay longer; a
+// click sends one away. They hang from the upper edge of the window, where no rows are, and below dialogs: a dialog has a
+// place of its own for what concerns it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,7 +8,8 @@ import configtools
 T.Popup {
     id: root
 
-    enum Kind { Information, Success, Error }
+    /// A refusal is an error that names what is in the way: it goes with that, see settle().
+    enum Kind { Information, Success, Error, Refusal }
 
     readonly property int shown: 3
 
@@ -20,15 +21,28 @@ T.Popup {
         }
         if (messages.count === shown)
             messages.remove(0);
-        const usualStay = kind === OVToast.Error ? Theme.errorToastStay : Theme.toastStay;
+        const usualStay = kind === OVToast.Error || kind === OVToast.Refusal ? Theme.errorToastStay : Theme.toastStay;
         messages.append({words: text, kind: kind ?? OVToast.Information, stay: stay ?? usualStay});
         open();
     }
 
+    /// What was in the way may have changed: refusals go.
+    function settle() {
+        for (let i = messages.count - 1; i >= 0; --i) {
+            if (messages.get(i).kind === OVToast.Refusal)
+                messages.remove(i);
+        }
+    }
+
+    /// The user has turned to something else.
+    function clear() {
+        messages.clear();
+    }
+
     parent: T.Overlay.overlay
-    x: Theme.pageMargin
-    y: (parent?.height ?? 0) - height - Theme.footHeight - Theme.unit
-    z: 1000
+    x: Math.round(((parent?.width ?? 0) - width) / 2)
+    y: Theme.half
+    z: -1
     closePolicy: T.Popup.NoAutoClose
     focus: false
     modal: false
@@ -41,8 +55,6 @@ T.Popup {
     }
 
     contentItem: Item {
-        id: stack
-
         // qmllint disable unqualified
         Repeater {
             id: toasts
@@ -68,15 +80,14 @@ T.Popup {
                 required property int kind
                 required property int stay
                 required property string words
-                readonly property color sign: kind === OVToast.Error ? Theme.colours.bad
+                readonly property bool isError: kind === OVToast.Error || kind === OVToast.Refusal
+                readonly property color sign: isError ? Theme.colours.bad
                     : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
 
-                // The stack stands on its foot: a toast that stays moves only by what came or went below it.
-                property real foot: index < toasts.count - 1
-                    ? toasts.heightFrom(index + 1, toasts.revision) + Theme.unit : 0
-                Behavior on foot { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutQuad } }
+                // A toast that stays moves only by what came or went above it.
+                y: index < toasts.count - 1 ? toasts.heightFrom(index + 1, toasts.revision) + Theme.unit : 0
+                Behavior on y { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutQuad } }
 
-                y: stack.height - foot - height
                 width: Theme.toastWidth
                 height: text.implicitHeight + 24
                 border.color: Theme.colours.line
@@ -103,7 +114,7 @@ T.Popup {
                     x: 14
                     y: 12
                     color: toast.sign
-                    name: toast.kind === OVToast.Error ? "error"
+                    name: toast.isError ? "error"
                         : toast.kind === OVToast.Success ? "ok" : "about"
                 }
                 OVParagraph {

@@ -19,6 +19,8 @@ ListView {
     property int cursor: -1
     property string cursorIdentity
     signal deviceChosen(string ipport)
+    signal detailRequested(string name)  // of the device's row
+    signal menuRequested(string name, var place)  // as OVEntryMenu takes it
 
     function moveCursor(row) {
         cursor = row;
@@ -33,6 +35,25 @@ ListView {
         forceActiveFocus(Qt.MouseFocusReason);
         byPointer = true;
         return row;
+    }
+
+    function moveIntoView(row) {
+        moveCursor(row);
+        positionViewAtIndex(row, ListView.Contain);
+    }
+
+    /// A group has no actions.
+    function offerMenu(place) {
+        const name = rows.nameAt(cursor);
+        if (name !== "")
+            menuRequested(name, place);
+    }
+
+    function open() {
+        if (choosing && rows.deviceAt(cursor) !== "")
+            deviceChosen(rows.deviceAt(cursor));
+        else if (!choosing && rows.nameAt(cursor) !== "")
+            detailRequested(rows.nameAt(cursor));
     }
 
     function scrollBy(by) {
@@ -59,6 +80,15 @@ ListView {
             moveCursor(Math.min(count - 1, Math.ceil(contentY / Theme.controlHeight)));
     }
 
+    OVTypeAhead {
+        id: typeAhead
+        onTyped: (text, begins) => {
+            const row = root.rows.rowStarting(text, root.cursor + (begins ? 1 : 0));
+            if (row >= 0)
+                root.moveIntoView(row);
+        }
+    }
+
     Keys.onPressed: event => {
         const page = Math.max(1, Math.floor(height / Theme.controlHeight) - 1);
         const targets = {
@@ -67,22 +97,23 @@ ListView {
         };
         event.accepted = true;
         if (targets[event.key] !== undefined && count > 0) {
-            moveCursor(Math.max(0, Math.min(count - 1, targets[event.key])));
-            positionViewAtIndex(cursor, ListView.Contain);
+            moveIntoView(Math.max(0, Math.min(count - 1, targets[event.key])));
+        } else if (typeAhead.isMenuKey(event)) {
+            const y = (cursor + 1) * Theme.controlHeight - contentY;
+            offerMenu({item: root, x: 2 * Theme.treeIndent, y: y, byKey: true});
+        } else if (typeAhead.take(event)) {
+            return;
         } else if (event.key === Qt.Key_Space && cursor >= 0) {
             rows.toggleTick(cursor);
-        } else if (choosing && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            const device = rows.deviceAt(cursor);
-            if (device !== "")
-                deviceChosen(device);
+        } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+            open();
         } else if (event.key === Qt.Key_Right && cursor >= 0) {
             rows.setOpen(cursor, true);
         } else if (event.key === Qt.Key_Left && cursor >= 0) {
             const group = rows.groupRowOf(cursor);
             if (group === cursor)
                 rows.setOpen(group, false);
-            moveCursor(group);
-            positionViewAtIndex(group, ListView.Contain);
+            moveIntoView(group);
         } else {
             event.accepted = false;
         }
@@ -96,6 +127,10 @@ ListView {
         choosing: root.choosing
         current: index === root.cursor && root.activeFocus
         describer: root.describer
+        onMenuRequested: (identity, x, y) => {
+            root.pick(identity);
+            root.offerMenu({item: root, x: x, y: y - root.contentY, byKey: false});
+        }
         onOpenToggled: identity => root.rows.toggleOpen(root.pick(identity))
         onPicked: identity => {
             const device = root.rows.deviceAt(root.pick(identity));

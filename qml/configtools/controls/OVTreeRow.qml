@@ -24,6 +24,7 @@ Rectangle {
     signal picked(string identity)
     signal openToggled(string identity)
     signal tickToggled(string identity)
+    signal menuRequested(string identity, real x, real y)  // a place in the view's content
 
     /// A click acts on what was under the pointer when the button went down: this item may show another row since.
     /// A screen reader clicks without a press.
@@ -61,6 +62,11 @@ Rectangle {
         onPressed: root.pressedIdentity = root.identity
         onClicked: root.picked(root.takePressed())
         onDoubleClicked: root.openToggled(root.takePressed())
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onPressed: mouse => root.menuRequested(root.identity, root.x + mouse.x, root.y + mouse.y)
     }
 
     OVIconButton {

@@ -15,6 +15,8 @@ OVTableCell {
     signal liveRequested(int row)
 
     OVActionRow {
+        readonly property bool keyGroup: true
+
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.controlGap
 

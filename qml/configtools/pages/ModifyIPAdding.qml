@@ -29,7 +29,7 @@ Item {
         // The device takes the place of its row, with another account and address.
         const refusal = busyState.refusal(BusyState.ChangeAddress);
         if (refusal !== "") {
-            said(refusal, OVToast.Error);
+            dialog.inform(refusal, OVToast.Error);
             return;
         }
         dialog.busy = true;
@@ -44,8 +44,6 @@ Item {
         if (outcome.result !== DeviceAdding.Added) {
             const error = deviceAdding.errorText(outcome);
             dialog.showResult(outcome.result, error);
-            if (error !== "")
-                said(error, OVToast.Error);
             return;
         }
         dialog.close();
@@ -79,7 +77,6 @@ Item {
             defaultPort: root.deviceFactory.getConfigData("dh", "library", 0).defaultPort
             onAboutToHide: deviceAdding.cancel()
             onConfirmed: (device, isFavourite) => root.tryDevice(dialog, device, isFavourite)
-            onRefused: message => root.said(message, OVToast.Error)
         }
     }
     OVOnDemand {
@@ -89,7 +86,6 @@ Item {
             addingBatches: root.addingBatches
             batches: root.batches
             favourites: savedDevices
-            onSaid: (message, kind) => root.said(message, kind)
             onByHandRequested: root.openIp()
         }
     }

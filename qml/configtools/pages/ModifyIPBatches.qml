@@ -16,7 +16,7 @@ Item {
     function mayBegin() {
         const refusal = busyState.refusal(BusyState.ChangeAddress);
         if (refusal !== "")
-            said(refusal, OVToast.Error);
+            said(refusal, OVToast.Refusal);
         return refusal === "";
     }
 
@@ -25,7 +25,7 @@ Item {
             return;
         const rows = deviceTable.checkedRowsWith(false);
         if (rows.length === 0) {
-            said(qsTr("请选择一台未初始化的设备"), OVToast.Error);
+            said(qsTr("请选择一台未初始化的设备"), OVToast.Refusal);
             return;
         }
         const dialog = initialising.wanted();
@@ -37,7 +37,7 @@ Item {
     function modifyChecked() {
         const rows = deviceTable.checkedRows();
         if (rows.length === 0)
-            said(qsTr("请选择一台设备"), OVToast.Error);
+            said(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             askForAddresses(rows, true);
     }
@@ -45,7 +45,7 @@ Item {
     function modifyRow(row) {
         const values = deviceTable.get(row);
         if (UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None))
-            said(qsTr("设备正在升级，不能修改IP地址"), OVToast.Error);
+            said(qsTr("设备正在升级，不能修改IP地址"), OVToast.Refusal);
         else
             askForAddresses([values], false);
     }
@@ -117,7 +117,6 @@ Item {
                 dialog.load(list.count);
                 dialog.open();
             }
-            onRefused: message => root.said(message, OVToast.Error)
         }
     }
     OVOnDemand {
@@ -135,7 +134,6 @@ Item {
                 list.close();
                 root.sendFirstPasswords(identities, name, word);
             }
-            onRefused: message => root.said(message, OVToast.Error)
         }
     }
     OVOnDemand {
@@ -148,7 +146,6 @@ Item {
                 addresses.close();
                 root.sendAddresses(addresses);
             }
-            onRefused: message => root.said(message, OVToast.Error)
         }
     }
     // qmllint enable unqualified

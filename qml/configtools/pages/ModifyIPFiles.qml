@@ -21,7 +21,7 @@ Item {
 
     function startExport() {
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Error);
+            said(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             format.wanted().open();
     }
@@ -71,7 +71,7 @@ Item {
             // An imported device takes the place of its row, with another account and address.
             const refusal = busyState.refusal(BusyState.ChangeAddress);
             if (refusal !== "") {
-                said(refusal, OVToast.Error);
+                said(refusal, OVToast.Refusal);
                 return;
             }
             addingBatches.importList(qsTr("导入"), path);

@@ -14,6 +14,7 @@ RowLayout {
     required property int upgradingCount  // of the ticked devices
     property alias searchText: searchField.text
     property int tipDrop: Theme.toolTipDrop
+    readonly property bool keyGroup: true
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
     signal ipv6Chosen(bool ipv6)

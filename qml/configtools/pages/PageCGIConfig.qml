@@ -11,13 +11,16 @@ FocusScope {
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
+    signal liveRequested(string ipport)
     signal said(string message, int kind)
+    signal settled  // the selection has changed: a refusal may no longer hold
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var cgiManager: CGIConfigManageApi
     readonly property var cgiBatches: CgiBatchesApi
     readonly property var fileDialogs: FileDialogsApi
+    readonly property var localConfig: LocalConfigApi
     // qmllint enable unqualified
 
     function focusSearch() {
@@ -27,7 +30,7 @@ FocusScope {
 
     function askForAll() {
         if (devices.checkedCount === 0)
-            said(qsTr("请选择一台设备。"), OVToast.Error);
+            said(qsTr("请选择一台设备。"), OVToast.Refusal);
         else
             batchWindow.wanted().ask(devices.checkedCount);
     }
@@ -39,6 +42,27 @@ FocusScope {
         });
     }
 
+    function actOn(key, row) {
+        if (key === "send") {
+            cgiSender.send(row);
+        } else if (key === "answer") {
+            answerWindow.wanted().show(devices.get(row).ipport, cgiSender.answerOf(row));
+        } else {
+            cgiManager.copyText(cgiSender.answerOf(row));
+            said(qsTr("复制成功"), OVToast.Success);
+        }
+    }
+
+    function entriesOf(values) {
+        const isUpgrading = UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None);
+        const isAnswered = (values.result ?? "") !== "";
+        return [
+            {key: "send", text: qsTr("发送命令"), enabled: !isUpgrading && (values.url ?? "") !== ""},
+            {key: "answer", text: qsTr("查看全部结果"), enabled: isAnswered},
+            {key: "copyAnswer", text: qsTr("复制结果"), enabled: isAnswered}
+        ];
+    }
+
     objectName: "pageCGIConfig"
 
     DeviceTableModel {
@@ -47,6 +71,7 @@ FocusScope {
         failedMarks: page.batches.failedMarks
         oddAddressesFirst: true
         searchText: searchField.text.trim()
+        onCheckedCountChanged: page.settled()
     }
     DeviceListChanges {
         deviceFactory: page.deviceFactory
@@ -85,6 +110,21 @@ FocusScope {
         shown: page.visible
         onSaid: (message, kind) => page.said(message, kind)
     }
+    DeviceActions {
+        id: deviceActions
+        deviceFactory: page.deviceFactory
+        fileDialogs: page.fileDialogs
+        localConfig: page.localConfig
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+    DeviceMenu {
+        id: menu
+        actions: deviceActions
+        batches: page.batches
+        onLiveRequested: ipport => page.liveRequested(ipport)
+        onOwnChosen: (key, values) => page.actOn(key, devices.rowOf(values.identity))
+        onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
+    }
     // qmllint disable unqualified
     OVOnDemand {
         id: batchWindow
@@ -93,7 +133,6 @@ FocusScope {
             commands: cgiCommands
             sender: cgiSender
             onConfirmed: command => page.askToSend(command)
-            onRefused: message => page.said(message, OVToast.Error)
         }
     }
     OVOnDemand {
@@ -101,7 +140,6 @@ FocusScope {
         visible: false
         sourceComponent: BatchPreviewDialog {
             deviceFactory: page.deviceFactory
-            onRefused: message => page.said(message, OVToast.Error)
         }
     }
     OVOnDemand {
@@ -110,7 +148,6 @@ FocusScope {
         sourceComponent: CgiAnswerWindow {
             cgiManager: page.cgiManager
             fileDialogs: page.fileDialogs
-            onSaid: (message, kind) => page.said(message, kind)
         }
     }
     // qmllint enable unqualified
@@ -119,6 +156,7 @@ FocusScope {
         id: toolBar
 
         readonly property int tipDrop: Theme.toolTipDrop
+        readonly property bool keyGroup: true
 
         x: Theme.pageMargin
         width: parent.width - 2 * x
@@ -180,15 +218,13 @@ FocusScope {
         sortKey: devices.sortKey
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
-        onAnswerCopyRequested: row => {
-            page.cgiManager.copyText(cgiSender.answerOf(row));
-            page.said(qsTr("复制成功"), OVToast.Success);
-        }
-        onAnswerOpenRequested: row => {
-            answerWindow.wanted().show(devices.get(row).ipport, cgiSender.answerOf(row));
-        }
+        onAnswerCopyRequested: row => page.actOn("copyAnswer", row)
+        onAnswerOpenRequested: row => page.actOn("answer", row)
+        onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
+        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), page.entriesOf(devices.get(row)))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onSendRequested: row => cgiSender.send(row)
+        onRowOpened: row => deviceActions.showDetail(devices.get(row))
+        onSendRequested: row => page.actOn("send", row)
         onSortRequested: key => devices.toggleSort(key)
 
         ModifyIPEmptyState {

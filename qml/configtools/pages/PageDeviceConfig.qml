@@ -12,10 +12,13 @@ FocusScope {
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
+    signal liveRequested(string ipport)
     signal said(string message, int kind, int stay)
+    signal settled  // the selection has changed: a refusal may no longer hold
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var fileDialogs: FileDialogsApi
     readonly property var localConfig: LocalConfigApi
     // qmllint enable unqualified
 
@@ -24,6 +27,10 @@ FocusScope {
 
     function focusSearch() {
         deviceTree.focusSearch();
+    }
+
+    function valuesOf(name) {
+        return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
     function refresh() {
@@ -37,14 +44,65 @@ FocusScope {
             return false;
         }
         const box = question.wanted();
+        box.goOn = action;
         box.action = () => {
             session.encoding.forget();
             session.names.forget();
             action();
         };
+        box.otherText = session.upgrading || !session.loggedIn ? "" : qsTr("保存并离开");
         box.okText = qsTr("放弃修改");
         box.show(qsTr("有 %n 项修改尚未保存，离开后将丢失。", "", session.unsaved), OVMessageBox.DangerQuestion);
         return true;
+    }
+
+    /// What cannot be saved is shown, and the user stays.
+    function saveAndLeave(action) {
+        const faulty = session.names.unsaved > 0 && session.names.form.firstFaulty() >= 0;
+        if (session.encoding.unsaved > 0)
+            session.encoding.save();
+        else
+            session.names.save();
+        if (!faulty)
+            session.work.afterWriting(() => leave(action));
+    }
+
+    function namePattern() {
+        const names = session.names;
+        const row = deviceFactory.getDeviceInfo("dh", session.device);
+        const channels = [];
+        for (let channel = 0; channel < names.form.count; ++channel)
+            channels.push({name: String(channel), title: qsTr("通道 %1").arg(channel + 1), ipport: session.device,
+                           model: row.model ?? ""});
+        const cameras = Array.from(devices.checkedDevices)
+            .map(ipport => ({name: ipport, ipport: ipport, model: deviceFactory.getDeviceInfo("dh", ipport).model ?? ""}));
+        naming.wanted().ask(channels, cameras);
+    }
+
+    /// Names of one channel are typed into the table, those of several cameras are written at once.
+    function takePattern(ofChannels, entries) {
+        if (ofChannels) {
+            for (const entry of entries)
+                session.names.form.set(Number(entry.name), entry.newName);
+            return;
+        }
+        naming.names = entries;
+        naming.batch = batches.nameCameras("dh", qsTr("批量命名"), entries.map(entry => entry.ipport),
+                                           entries.map(entry => entry.newName));
+    }
+
+    /// The list shows the name of a camera as soon as the camera has taken it. A recorder has a name of its own.
+    function showNames(ipports, results) {
+        for (let i = 0; i < ipports.length; ++i) {
+            const row = deviceFactory.getDeviceInfo("dh", ipports[i]);
+            const entry = naming.names.find(entry => entry.ipport === ipports[i]);
+            if (results[i] === 0 && entry && !/NVR|SVR|DVR|Matrix/.test(row.type ?? ""))
+                deviceFactory.updataDeviceInfo("dh", "name", entry.newName, row.mac ?? "", ipports[i]);
+            if (results[i] === 0 && ipports[i] === session.device)
+                session.names.forget();
+        }
+        session.readShown();
+        page.refresh();
     }
 
     function choose(ipport) {
@@ -70,6 +128,7 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
+        onCheckedDevicesChanged: page.settled()
     }
 
     DeviceListChanges {
@@ -82,6 +141,12 @@ FocusScope {
 
         function onSignalSetChannelNameFinished() {
             const row = page.deviceFactory.getDeviceInfo("dh", session.device);
+            if (session.names.read && session.names.form.count === 1) {  // a camera bears the name of its channel
+                page.deviceFactory.updataDeviceInfo("dh", "name", session.names.form.get(0).saved, row.mac ?? "",
+                                                    session.device);
+                page.refresh();
+                return;
+            }
             page.deviceFactory.refreshDevices("dh", [row.identity || row.mac || session.device]);  // its row may show the name
         }
     }
@@ -124,13 +189,43 @@ FocusScope {
         visible: false
         sourceComponent: OVMessageBox {
             property var action: null
+            property var goOn: null
 
             objectName: "questionBox"
             title: qsTr("未保存的修改")
+            onOtherChosen: page.saveAndLeave(goOn)
             onAccepted: {
                 const wanted = action;
                 wanted();
             }
+        }
+    }
+    // qmllint enable unqualified
+
+    Connections {
+        target: page.batches
+
+        function onRetried(earlier, again) {
+            if (earlier === naming.batch)
+                naming.batch = again;
+        }
+    }
+    Connections {
+        target: naming.batch
+
+        function onResulted(ipports, results) {
+            page.showNames(ipports, results);
+        }
+    }
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: naming
+        property var names: []  // of the batch
+        property Batch batch: null
+        visible: false
+        sourceComponent: NamePatternDialog {
+            deviceFactory: page.deviceFactory
+            onConfirmed: (ofChannels, entries) => page.takePattern(ofChannels, entries)
         }
     }
     // qmllint enable unqualified
@@ -141,10 +236,26 @@ FocusScope {
         visible: false
         sourceComponent: BatchPreviewDialog {
             deviceFactory: page.deviceFactory
-            onRefused: message => page.said(message, OVToast.Error, Theme.errorToastStay)
         }
     }
     // qmllint enable unqualified
+
+    DeviceActions {
+        id: deviceActions
+        deviceFactory: page.deviceFactory
+        fileDialogs: page.fileDialogs
+        localConfig: page.localConfig
+        onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
+                                                                                   : Theme.toastStay)
+    }
+    DeviceMenu {
+        id: menu
+        actions: deviceActions
+        batches: page.batches
+        onLiveRequested: ipport => page.liveRequested(ipport)
+        onOwnChosen: (key, values) => page.choose(values.ipport)
+        onSimilarRequested: (key, values) => devices.checkSimilar(values.identity, key)
+    }
 
     SystemDeviceTree {
         id: deviceTree
@@ -160,6 +271,9 @@ FocusScope {
         libraryInstalled: page.libraryInstalled
         searching: page.searching
         onDeviceChosen: ipport => page.choose(ipport)
+        onMenuRequested: (name, place) => menu.offer(place, page.valuesOf(name), [{
+            key: "choose", text: qsTr("配置这台设备")
+        }])
         onSearchRequested: page.searchRequested()
         onSearchTextChanged: page.refresh()
     }
@@ -173,6 +287,8 @@ FocusScope {
         targetCount: page.targets.length
         onCopyRequested: page.copy()
         onEncodeChannelRequested: index => page.leave(() => session.encoding.choose("curChannel", index))
+        onNamePatternRequested: page.namePattern()
+        onNextDeviceRequested: deviceTree.chooseNext()
         onNamesRefreshRequested: page.leave(() => session.names.load())
         onRefreshRequested: page.leave(() => session.encoding.load())
         onStreamTypeRequested: index => page.leave(() => session.encoding.choose("curStreamType", index))

@@ -10,7 +10,9 @@ FocusScope {
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
+    signal liveRequested(string ipport)
     signal said(string message, int kind)
+    signal settled  // the selection has changed: a refusal may no longer hold
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -33,6 +35,26 @@ FocusScope {
             said(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
+    function actOn(key, row) {
+        const identity = devices.get(row).identity;
+        if (key === "file")
+            work.chooseFile([identity]);
+        else if (key === "start")
+            work.start([identity]);
+        else
+            deviceFactory.stopUpgrade("dh", identity);
+    }
+
+    function entriesOf(values) {
+        const result = values.upgraderes ?? UpgradeTools.None;
+        const isRunning = UpgradeTools.isRunning(result);
+        return [
+            {key: "file", text: qsTr("选择升级文件"), enabled: !isRunning},
+            {key: "start", text: qsTr("升级"), enabled: !isRunning},
+            {key: "stop", text: qsTr("停止升级"), enabled: isRunning && UpgradeTools.canStop(result)}
+        ];
+    }
+
     objectName: "pageDeviceUpgrade"
 
     DeviceTableModel {
@@ -40,6 +62,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
         searchText: toolBar.searchText.trim()
+        onCheckedCountChanged: page.settled()
     }
     DeviceListChanges {
         id: changes
@@ -62,6 +85,23 @@ FocusScope {
         upgradeBatches: page.upgradeBatches
         onChanged: changes.note()
         onSaid: (message, kind) => page.said(message, kind)
+    }
+
+    DeviceActions {
+        id: deviceActions
+        deviceFactory: page.deviceFactory
+        fileDialogs: page.fileDialogs
+        ipv6: devices.ipv6
+        localConfig: page.localConfig
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+    DeviceMenu {
+        id: menu
+        actions: deviceActions
+        batches: page.batches
+        onLiveRequested: ipport => page.liveRequested(ipport)
+        onOwnChosen: (key, values) => page.actOn(key, devices.rowOf(values.identity))
+        onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
     }
 
     UpgradeToolBar {
@@ -102,11 +142,14 @@ FocusScope {
         sortKey: devices.sortKey
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
-        onFileRequested: row => work.chooseFile([devices.get(row).identity])
+        onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
+        onFileRequested: row => page.actOn("file", row)
+        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), page.entriesOf(devices.get(row)))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
+        onRowOpened: row => deviceActions.showDetail(devices.get(row))
         onSortRequested: key => devices.toggleSort(key)
-        onStartRequested: row => work.start([devices.get(row).identity])
-        onStopRequested: row => page.deviceFactory.stopUpgrade("dh", devices.get(row).identity)
+        onStartRequested: row => page.actOn("start", row)
+        onStopRequested: row => page.actOn("stop", row)
 
         ModifyIPEmptyState {
             anchors.fill: parent

@@ -17,15 +17,21 @@ FocusScope {
     signal demoRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind)
+    signal settled  // the selection has changed: a refusal may no longer hold
 
     // qmllint disable unqualified
     readonly property var addingBatches: AddingBatchesApi
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
+    readonly property var localConfig: LocalConfigApi
     // qmllint enable unqualified
 
     function focusSearch() {
         toolBar.focusSearch();
+    }
+
+    function focusTable() {
+        table.takeFocus();
     }
 
     function clearFilters() {
@@ -42,6 +48,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
         searchText: toolBar.searchText.trim()
+        onCheckedCountChanged: page.settled()
     }
 
     DeviceListChanges {
@@ -97,16 +104,28 @@ FocusScope {
     }
 
     ModifyIPDevices {
-        id: actions
+        id: removal
         busyState: page.busyState
-        deviceFactory: page.deviceFactory
         deviceTable: devices
-        fileDialogs: page.fileDialogs
-        onCopyRequested: text => {
-            clipboard.put(text);
-            page.said(qsTr("已复制到剪贴板"), OVToast.Success);
-        }
         onSaid: (message, kind) => page.said(message, kind)
+    }
+
+    DeviceActions {
+        id: deviceActions
+        deviceFactory: page.deviceFactory
+        fileDialogs: page.fileDialogs
+        ipv6: devices.ipv6
+        localConfig: page.localConfig
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+
+    DeviceMenu {
+        id: menu
+        actions: deviceActions
+        batches: page.batches
+        onLiveRequested: ipport => page.liveRequested(ipport)
+        onOwnChosen: (key, values) => changes.modifyRow(devices.rowOf(values.identity))
+        onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
     }
 
     ModifyIPAdding {
@@ -134,7 +153,7 @@ FocusScope {
         onAddFavouriteRequested: adding.openFavourites()
         onAddIpRequested: adding.openIp()
         onAddP2pRequested: adding.openP2p()
-        onDeleteRequested: actions.removeChecked()
+        onDeleteRequested: removal.removeChecked()
         onExportRequested: files.startExport()
         onImportRequested: files.startImport()
         onInitialiseRequested: changes.initialise()
@@ -176,13 +195,20 @@ FocusScope {
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
         onCopyRequested: row => clipboard.put(devices.textOf([row]))
-        onDetailRequested: row => actions.showDetail(row)
+        onDetailRequested: row => deviceActions.showDetail(devices.get(row))
         onEditRequested: row => changes.modifyRow(row)
         onLiveRequested: row => page.liveRequested(devices.get(row).ipport)
+        onMenuRequested: (row, place) => {
+            const values = devices.get(row);
+            menu.offer(place, values, [{
+                key: "edit", text: qsTr("修改IP地址"),
+                enabled: !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
+            }]);
+        }
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onRowOpened: row => devices.ipv6 ? actions.showDetail(row) : changes.modifyRow(row)
+        onRowOpened: row => deviceActions.showDetail(devices.get(row))
         onSortRequested: key => devices.toggleSort(key)
-        onWebRequested: row => actions.openWebPage(row)
+        onWebRequested: row => deviceActions.openWebPage(devices.get(row))
 
         ModifyIPEmptyState {
             anchors.fill: parent

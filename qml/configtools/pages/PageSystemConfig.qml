@@ -10,10 +10,14 @@ FocusScope {
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
     signal searchRequested
+    signal liveRequested(string ipport)
     signal said(string message, int kind)
+    signal settled  // the selection has changed: a refusal may no longer hold
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var fileDialogs: FileDialogsApi
+    readonly property var localConfig: LocalConfigApi
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
 
@@ -61,6 +65,10 @@ FocusScope {
     function wordOfResult(result) {
         return result === OVTreeModel.WaitsForPassword ? qsTr("旧密码正确，等待新密码")
                                                        : deviceFactory.getErrorName(result);
+    }
+
+    function valuesOf(name) {
+        return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
     function refresh() {
@@ -120,6 +128,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
         onCheckedDevicesChanged: {
+            page.settled();
             if (passwordTime.open && page.namesOf(checkedDevices) !== page.passwordTicks)
                 passwordTime.close(SystemPasswordTime.OtherTicks);
         }
@@ -164,7 +173,21 @@ FocusScope {
     SystemPreview {
         id: preview
         deviceFactory: page.deviceFactory
-        onRefused: message => page.said(message, OVToast.Error)
+    }
+
+    DeviceActions {
+        id: deviceActions
+        deviceFactory: page.deviceFactory
+        fileDialogs: page.fileDialogs
+        localConfig: page.localConfig
+        onSaid: (message, kind) => page.said(message, kind)
+    }
+    DeviceMenu {
+        id: menu
+        actions: deviceActions
+        batches: page.batches
+        onLiveRequested: ipport => page.liveRequested(ipport)
+        onSimilarRequested: (key, values) => devices.checkSimilar(values.identity, key)
     }
 
     SystemDeviceTree {
@@ -179,6 +202,8 @@ FocusScope {
         held: batch.running
         libraryInstalled: page.libraryInstalled
         searching: page.searching
+        onDetailRequested: name => deviceActions.showDetail(page.valuesOf(name))
+        onMenuRequested: (name, place) => menu.offer(place, page.valuesOf(name), [])
         onSearchRequested: page.searchRequested()
         onSearchTextChanged: page.refresh()
     }

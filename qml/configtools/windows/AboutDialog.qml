@@ -7,7 +7,6 @@ OVDialog {
 
     required property string productName
     required property string version
-    signal copied
 
     width: Theme.messageWidth
     objectName: "aboutDialog"
@@ -58,7 +57,7 @@ OVDialog {
                 versionText.selectAll();
                 versionText.copy();
                 versionText.deselect();
-                root.copied();
+                root.inform(qsTr("已复制到剪贴板"), OVToast.Success);
             }
         }
     }

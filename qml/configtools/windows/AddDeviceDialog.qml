@@ -9,7 +9,6 @@ OVDialog {
     property int mode: DeviceAdding.IP
     required property int defaultPort
     readonly property bool p2p: mode === DeviceAdding.P2P
-    signal refused(string message)
     signal confirmed(var device, bool isFavourite)
 
     property string faultKind  // the field of the first thing that is wrong, once it was confirmed
@@ -39,31 +38,33 @@ OVDialog {
         faultKind = code === DeviceAdding.NoSuchAccount ? "account" : code === DeviceAdding.WrongPassword ? "password"
             : code === DeviceAdding.AlreadyListed ? "address" : "";
         fault = error;
+        if (error === "")
+            return;
+        refuse(error);
         if (faultKind === "password")
             passwordField.selectAll();
     }
 
-    function note(kind, message, field) {
+    function note(kind, message) {
         faultKind = kind;
         fault = message;
-        field.forceActiveFocus();
     }
 
     /// Notes the first thing that is wrong, if anything is.
     function check() {
         forget();
         if (p2p && idField.text === "")
-            note("id", qsTr("请输入P2P ID"), idField);
+            note("id", qsTr("请输入P2P ID"));
         else if (!p2p && !addressField.acceptable)
-            note("address", qsTr("请输入正确的IP"), addressField);
+            note("address", qsTr("请输入正确的IP"));
         else if (accountField.text === "")
-            note("account", qsTr("请输入账号"), accountField);
+            note("account", qsTr("请输入账号"));
         else if (passwordField.text === "")
-            note("password", qsTr("请输入密码"), passwordField);
+            note("password", qsTr("请输入密码"));
         else if (portField.text === "")
-            note("port", qsTr("请输入端口"), portField);
+            note("port", qsTr("请输入端口"));
         else if (!portField.acceptable)
-            note("port", qsTr("端口范围为1到65535"), portField);
+            note("port", qsTr("端口范围为1到65535"));
     }
 
     cancellable: true
@@ -76,7 +77,7 @@ OVDialog {
     onAccepted: {
         check();
         if (fault !== "") {
-            refused(fault);
+            refuse(fault);
             return;
         }
         confirmed({

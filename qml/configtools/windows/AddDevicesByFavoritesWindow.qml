@@ -11,7 +11,6 @@ OVDialog {
     required property Favourites favourites
     readonly property bool running: batch?.running ?? false
     property Batch batch: null  // the last one that was begun here
-    signal said(string message, int kind)
     signal byHandRequested
 
     function begin() {
@@ -39,7 +38,7 @@ OVDialog {
         device.note = note;
         const fileName = favourites.save(device);
         if (fileName === "")
-            said(qsTr("备注无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            inform(qsTr("备注无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
         else if (fileName !== identity)
             favourites.remove(identity);  // a file by another name held the device until now
         saved.load(favourites.list());
@@ -49,7 +48,7 @@ OVDialog {
 
     function remove(identity) {
         if (!favourites.remove(identity))
-            said(qsTr("收藏无法删除，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            inform(qsTr("收藏无法删除，请检查程序所在文件夹的写入权限"), OVToast.Error);
         saved.load(favourites.list());
     }
 

@@ -10,7 +10,6 @@ OVDialog {
     readonly property Batch batch: results.batch
     readonly property bool idle: batch !== null && !batches.running
     signal saveRequested(Batch batch)
-    signal refused(string message)
 
     function show() {
         list.show(0);
@@ -40,6 +39,14 @@ OVDialog {
     onAccepted: close()
     onOpened: list.forceActiveFocus()
 
+    Connections {
+        enabled: root.visible
+        target: root.batches
+
+        function onRefused(message) {
+            root.inform(message, OVToast.Error);
+        }
+    }
     BatchHistory {
         id: history
         batches: root.batches
@@ -155,7 +162,6 @@ OVDialog {
         visible: false
         sourceComponent: BatchPreviewDialog {
             deviceFactory: root.deviceFactory
-            onRefused: message => root.refused(message)
         }
     }
     // qmllint enable unqualified

@@ -13,7 +13,6 @@ OVDialog {
     property var action: null  // gets the devices that take part, and those that the user has taken out
     property bool byAddress: true  // it takes their addresses and ports, else their identities
     property string subject    // what withdraw() names it by
-    signal refused(string message)
 
     /// `words` ask or say what will be done, `happens` names it in the row of each device. `choices` has "okText" and
     /// "action", and if wanted "title", "danger", "listed" (the list is open although nothing is noted in it), "quick" (one
@@ -85,7 +84,7 @@ OVDialog {
     objectName: "batchPreviewDialog"
     onAccepted: {
         if (preview.checkedCount === 0)
-            refused(qsTr("请选择一台设备"));
+            refuse(qsTr("请选择一台设备"));
         else if (preview.warningCount > 0)
             warned.ask(preview.warningCount);
         else
@@ -96,6 +95,7 @@ OVDialog {
 
     BatchPreview {
         id: preview
+        onCheckedCountChanged: root.notice = ""
         deviceFactory: root.deviceFactory
     }
 

@@ -48,7 +48,6 @@ Item {
         sourceComponent: BatchPanel {
             batches: root.batches
             deviceFactory: root.deviceFactory
-            onRefused: message => root.said(message, OVToast.Error)
             onSaveRequested: batch => root.save(batch)
         }
     }

@@ -9,7 +9,6 @@ OVDialog {
     readonly property bool warns: certificates.changedCount > 0
     readonly property var current: shownRow(table.currentIndex, certificates.count)
     signal agreed(int count)
-    signal refused(string message)
 
     /// `count` changes with the rows.
     function shownRow(index, count) {
@@ -33,7 +32,7 @@ OVDialog {
         const count = certificates.checkedCount;
         const failure = certificates.agree();
         if (failure !== "") {
-            refused(qsTr("证书无法保存，未信任任何证书。\n%1").arg(failure));
+            refuse(qsTr("证书无法保存，未信任任何证书。\n%1").arg(failure));
             return;
         }
         close();

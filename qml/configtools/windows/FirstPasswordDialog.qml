@@ -11,7 +11,6 @@ OVDialog {
     readonly property alias password: passwordField.text
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
     property bool tried: false
-    signal refused(string message)
     signal confirmed
 
     function load(count) {
@@ -53,7 +52,7 @@ OVDialog {
     onAccepted: {
         tried = true;
         if (fault !== "")
-            refused(fault);
+            refuse(fault);
         else
             confirmed();
     }

@@ -7,7 +7,6 @@ OVDialog {
 
     readonly property alias count: devices.checkedCount
     property var skipped: []  // rows of the other devices that the user has ticked
-    signal refused(string message)
     signal confirmed
 
     function load(rows, others) {
@@ -24,11 +23,12 @@ OVDialog {
     objectName: "initialiseDialog"
     okText: qsTr("初始化")
     title: qsTr("初始化设置")
-    onAccepted: devices.checkedCount > 0 ? confirmed() : refused(qsTr("请选择一台未初始化的设备"))
+    onAccepted: devices.checkedCount > 0 ? confirmed() : refuse(qsTr("请选择一台未初始化的设备"))
     onOpened: table.forceActiveFocus()
 
     DeviceSelection {
         id: devices
+        onCheckedCountChanged: root.notice = ""
     }
 
     footContent: Row {

@@ -39,7 +39,6 @@ OVDialog {
     readonly property string gatewayWarning: plan.gatewayOutside && !dhcp ? qsTr("网关不在该网段内") : ""
     readonly property string warnings: addressWarning + gatewayWarning
     property string warned  // the warnings that were shown; the same ones are not in the way a second time
-    signal refused(string message)
     signal confirmed
 
     /// Puts rows of devices in, and everything back to its beginning.
@@ -71,7 +70,7 @@ OVDialog {
         const count = plan.warningCount + (gatewayWarning === "" ? 0 : 1);
         warned = warnings;
         if (plan.checkedCount === 0) {
-            refused(qsTr("请选择一台设备"));
+            refuse(qsTr("请选择一台设备"));
         } else if (count > 0) {
             openedOut = true;
             question.ask(count);
@@ -90,7 +89,7 @@ OVDialog {
         tried = true;
         const message = fault();
         if (message !== "")
-            refused(message);
+            refuse(message);
         else if (batch)
             startBatch();
         else if (warned !== warnings && warnings !== "")
@@ -103,6 +102,7 @@ OVDialog {
 
     AddressPlan {
         id: plan
+        onCheckedCountChanged: root.notice = ""
         deviceFactory: root.deviceFactory
         dhcp: root.dhcp
         gateway: gatewayField.text

@@ -8,7 +8,6 @@ OVDialog {
 
     required property SearchReports reports
     readonly property int labelWidth: Theme.imageLabelWidth
-    signal copied
 
     width: Theme.detailWidth
     objectName: "searchReportDialog"
@@ -18,7 +17,7 @@ OVDialog {
     onAboutToShow: view.contentY = 0
     onAccepted: {
         clipboard.put(reports.text);
-        copied();
+        inform(qsTr("已复制到剪贴板"), OVToast.Success);
     }
     onOpened: view.forceActiveFocus()
 

@@ -7,7 +7,6 @@ OVDialog {
 
     readonly property int fault: otherBox.checked
         ? AddressTools.searchRangeFault(startField.text, endField.text) : AddressTools.NoFault
-    signal refused(string message)
     signal confirmed
 
     /// Takes settings into the draft.
@@ -52,7 +51,7 @@ OVDialog {
     objectName: "searchSettingsDialog"
     okText: qsTr("搜索")
     title: qsTr("搜索设置")
-    onAccepted: fault === AddressTools.NoFault ? confirmed() : refused(textOf(fault))
+    onAccepted: fault === AddressTools.NoFault ? confirmed() : refuse(textOf(fault))
     onOpened: localBox.forceActiveFocus()
 
     Column {

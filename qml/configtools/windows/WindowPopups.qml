@@ -69,6 +69,31 @@ Item {
         toasts.wanted().show(message, kind, stay);
     }
 
+    /// Of the messages that go by themselves: what was in the way may have changed.
+    function settle() {
+        toasts.item?.settle();
+    }
+
+    function clearNotices() {
+        toasts.item?.clear();
+    }
+
+    Connections {
+        target: root.busyState
+
+        function onChanged() {
+            root.settle();
+        }
+    }
+    Connections {
+        target: root.batches
+
+        function onRunningChanged() {
+            if (root.batches.running)
+                root.clearNotices();  // they are about what was done before
+        }
+    }
+
     // A batch and a search are asked about once, at their ends.
     Timer {
         interval: 300
@@ -84,7 +109,6 @@ Item {
         sourceComponent: CertificateDialog {
             certificates: root.certificates
             onAgreed: count => root.say(qsTr("已信任 %n 个证书，请重试刚才的操作", "", count), OVToast.Success)
-            onRefused: message => root.tell(message)
         }
     }
     OVOnDemand {
@@ -108,7 +132,6 @@ Item {
                 root.settingsAccepted(settings.values());
                 settings.close();
             }
-            onRefused: message => root.say(message, OVToast.Error)
         }
     }
     OVOnDemand {
@@ -116,7 +139,6 @@ Item {
         visible: false
         sourceComponent: SearchReportDialog {
             reports: root.searchReports
-            onCopied: root.say(qsTr("已复制到剪贴板"), OVToast.Success)
         }
     }
     OVOnDemand {
@@ -133,7 +155,6 @@ Item {
             productName: root.logoName
             title: root.softwareName
             version: root.version
-            onCopied: root.say(qsTr("已复制到剪贴板"), OVToast.Success)
         }
     }
     OVOnDemand {

@@ -135,20 +135,26 @@ private Q_SLOTS:
         QFETCH(QString, message);
         open(opener, fields);
         press("accept");
-        QCOMPARE(argumentsOf(*m_said), QStringList(message + "/2"));
-        QCOMPARE(dialog()->property("fault").toString(), message);
+        // It is said once, at the field that gets the keyboard.
+        QQuickItem *words = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
+        QVERIFY(words);
+        QCOMPARE(words->property("text").toString(), message);
+        QVERIFY(words->parentItem()->hasActiveFocus());
+        QVERIFY(m_said->isEmpty() && !item("dialogNotice")->isVisible());
         QVERIFY(dialog()->property("visible").toBool());
         QCOMPARE(m_devices->asked, QStringList());
     }
 
     void addsByHand_data()
     {
-        const auto row = dataTable<QString, StepOutcome, QString>({"opener", "outcome", "said"});
-        row("address", "openIp", {}, "设备已添加/1");
-        row("listed already", "openIp", {.result = 13, .text = {}}, "设备已存在/2");
-        row("wrong password", "openIp", {.result = 2, .text = {}}, "密码错误/2");
-        row("ID", "openP2p", {}, "设备已添加/1");
-        row("ID, no port", "openP2p", {.result = 5, .text = "no port"}, "");
+        // fieldMessage: at one of the fields of the dialog, which stays
+        const auto row =
+            dataTable<QString, StepOutcome, QString, QString>({"opener", "outcome", "said", "fieldMessage"});
+        row("address", "openIp", {}, "设备已添加/1", "");
+        row("listed already", "openIp", {.result = 13, .text = {}}, "", "设备已存在");
+        row("wrong password", "openIp", {.result = 2, .text = {}}, "", "密码错误");
+        row("ID", "openP2p", {}, "设备已添加/1", "");
+        row("ID, no port", "openP2p", {.result = 5, .text = "no port"}, "", "");
     }
 
     void addsByHand()
@@ -173,6 +179,8 @@ private Q_SLOTS:
         QCOMPARE(m_devices->last.port, 37777);
         QCOMPARE(m_devices->last.account, "admin");
         QCOMPARE(argumentsOf(*m_said).join(','), said);
+        const QQuickItem *words = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
+        QTEST(words ? words->property("text").toString() : QString(), "fieldMessage");
         const bool done = said.startsWith("设备已添加");
         QCOMPARE(m_added->count(), done ? 1 : 0);
         QTRY_COMPARE(dialog()->property("visible").toBool(), !done);
@@ -255,7 +263,10 @@ private Q_SLOTS:
         // A device that is added by hand would come between them.
         open("openIp", filled());
         press("accept");
-        QVERIFY(argumentsOf(*m_said).join(',').contains("添加收藏设备"));
+        QVERIFY(findBelow(m_window->contentItem(), "dialogNotice", Sight::Visible)
+                    ->property("text")
+                    .toString()
+                    .contains("添加收藏设备"));
         QCOMPARE(m_devices->asked.size(), 3);
         press("reject");
 

@@ -62,9 +62,8 @@ private Q_SLOTS:
         QTest::keyClick(window.get(), Qt::Key_Down);
         QTRY_VERIFY(last->mapToScene({}).y() < before);
 
-        const QSignalSpy copied(dialog, SIGNAL(copied()));
         QTest::keyClick(window.get(), Qt::Key_Return);
-        QCOMPARE(copied.size(), 1);
+        QVERIFY(findBelow(content, "dialogNotice", Sight::Visible));
         QCOMPARE(QGuiApplication::clipboard()->text(), reports.text());
     }
 };

@@ -98,7 +98,10 @@ private Q_SLOTS:
         m_engine = std::make_unique<QQmlEngine>();
         m_engine->rootContext()->setContextProperty("systemTimeZone", QStringLiteral("UTC+08:00"));
         m_window = openScene(*m_engine, scene,
-                             {{"CDeviceFactoryApi", m_site->factory.get()}, {"works", m_batches.get()}});
+                             {{"CDeviceFactoryApi", m_site->factory.get()},
+                              {"works", m_batches.get()},
+                              {"FileDialogsApi", m_batches.get()}, // nothing is asked of these two
+                              {"LocalConfigApi", m_batches.get()}});
         QVERIFY(m_window);
         m_page = item("page");
         m_tree = m_page->findChild<OVTreeModel *>();

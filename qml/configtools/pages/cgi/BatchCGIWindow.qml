@@ -10,7 +10,6 @@ OVDialog {
     property int deviceCount: 0
     property string fault
     signal confirmed(string command)
-    signal refused(string message)
 
     function ask(count) {
         deviceCount = count;
@@ -26,8 +25,7 @@ OVDialog {
         const wanted = command.text.trim();
         fault = sender.faultOf(wanted);
         if (fault !== "") {
-            refused(fault);
-            command.forceActiveFocus();
+            refuse(fault);
             return;
         }
         close();

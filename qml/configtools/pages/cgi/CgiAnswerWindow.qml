@@ -9,7 +9,6 @@ OVDialog {
     required property var cgiManager
     required property var fileDialogs
     property string answer
-    signal said(string message, int kind)
 
     function show(heading, text) {
         title = heading;
@@ -21,15 +20,15 @@ OVDialog {
 
     function copy(text) {
         cgiManager.copyText(text);
-        said(qsTr("复制成功"), OVToast.Success);
+        inform(qsTr("复制成功"), OVToast.Success);
     }
 
     function save(folder) {
         const saved = cgiManager.saveText(folder, answer);
         if (saved.failure !== "")
-            said(qsTr("文件写入失败：") + saved.failure, OVToast.Error);
+            inform(qsTr("文件写入失败：") + saved.failure, OVToast.Error);
         else
-            said(qsTr("已保存到文件：%1").arg(saved.path), OVToast.Success);
+            inform(qsTr("已保存到文件：%1").arg(saved.path), OVToast.Success);
     }
 
     width: Math.min(Theme.answerWindowWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)

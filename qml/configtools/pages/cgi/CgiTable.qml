@@ -108,6 +108,7 @@ OVTable {
             TapHandler {
                 acceptedButtons: Qt.RightButton
                 enabled: answer.words !== ""
+                gesturePolicy: TapHandler.ReleaseWithinBounds  // the row, which has a menu, does not get the click
                 onTapped: root.answerCopyRequested(answer.rowIndex)
             }
         }

@@ -62,7 +62,6 @@ Item {
         visible: false
         sourceComponent: BatchPreviewDialog {
             deviceFactory: root.deviceFactory
-            onRefused: message => root.said(message, OVToast.Error)
         }
     }
     OVOnDemand {

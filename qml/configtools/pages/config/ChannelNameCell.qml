@@ -1,5 +1,5 @@
-// The name of a channel, edited in its place. Enter, Tab and the arrow keys go on to another row; Escape takes back
-// what was typed.
+// The name of a channel, edited in its place. Enter, Tab and the arrow keys go on to another row, Enter in the last one to
+// the next device; Escape takes back what was typed.
 import QtQuick
 import configtools
 
@@ -10,6 +10,7 @@ OVTableCell {
     signal edited(string name)
     signal reverted
     signal leftFor(int row)  // -1 and the number of rows lie outside
+    signal confirmed  // with Enter
     signal reached  // the wanted row has the keyboard
     signal entered  // the keyboard came by itself, with a click
 
@@ -66,12 +67,12 @@ OVTableCell {
         }
 
         Keys.onDownPressed: root.leftFor(root.rowIndex + 1)
-        Keys.onEnterPressed: root.leftFor(root.rowIndex + 1)
+        Keys.onEnterPressed: root.confirmed()
         Keys.onEscapePressed: event => {
             event.accepted = root.row.changed;
             root.reverted();
         }
-        Keys.onReturnPressed: root.leftFor(root.rowIndex + 1)
+        Keys.onReturnPressed: root.confirmed()
         Keys.onUpPressed: root.leftFor(root.rowIndex - 1)
     }
 }

@@ -8,7 +8,11 @@ Item {
     required property ChannelNamesWork work
     readonly property ChannelNameForm form: work.form
     property int wantedRow: -1  // whose field is to have the keyboard
+    property bool advancing: false  // once the names are saved, it goes on to the next device
+    property bool arriving: false   // from the device before: the first name gets the keyboard
     signal refreshRequested
+    signal nextDeviceRequested
+    signal patternRequested
 
     /// Gives the keyboard to the field of a row; behind the last one to the buttons.
     function edit(row) {
@@ -22,11 +26,40 @@ Item {
         wantedRow = row;
     }
 
+    /// Enter in a row: behind the last one what was changed is saved, and the next device follows.
+    function confirm(row) {
+        if (row + 1 < form.count) {
+            edit(row + 1);
+        } else if (work.unsaved > 0 && !work.session.upgrading) {
+            advancing = true;
+            work.save();
+        } else {
+            advance();
+        }
+    }
+
+    function advance() {
+        advancing = false;
+        arriving = true;
+        nextDeviceRequested();
+    }
+
     Connections {
         target: root.work
 
         function onRowWanted(row) {
+            root.advancing = false;
             root.edit(row);
+        }
+        function onAllSaved() {
+            if (root.advancing)
+                root.advance();
+        }
+        function onReadChanged() {
+            if (!root.work.read || !root.arriving)
+                return;
+            root.arriving = false;
+            root.edit(0);
         }
     }
 
@@ -84,6 +117,7 @@ Item {
         id: nameCell
         ChannelNameCell {
             wantedRow: root.wantedRow
+            onConfirmed: root.confirm(rowIndex)
             onEdited: name => root.form.set(rowIndex, name)
             onEntered: table.show(rowIndex)
             onLeftFor: row => root.edit(row)
@@ -158,6 +192,12 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             spacing: Theme.unit
 
+            OVButton {
+                objectName: "namePatternButton"
+                text: qsTr("按规则命名")
+                toolTip: qsTr("用一条规则为多个通道或多台摄像机命名")
+                onClicked: root.patternRequested()
+            }
             OVButton {
                 objectName: "namesRefreshButton"
                 text: qsTr("刷新")

@@ -15,6 +15,7 @@ Item {
     readonly property string current: running ? qsTr("通道 %1").arg(nameForm.savingRow + 1) : ""
     readonly property int unsaved: read ? nameForm.changedCount : 0
     signal rowWanted(int row)  // something is wrong in that row
+    signal allSaved
 
     function forget() {
         nameForm.dropSaving();
@@ -70,6 +71,7 @@ Item {
         const left = rows - written;
         if (left === 0) {
             session.said(qsTr("%n 个通道名称已保存", "", written), OVToast.Success, session.shortStay);
+            allSaved();
             return;
         }
         const parts = Array.from([written > 0 ? qsTr("%n 个通道名称已保存", "", written) : "",

@@ -14,6 +14,8 @@ Rectangle {
     signal streamTypeRequested(int index)
     signal refreshRequested
     signal namesRefreshRequested
+    signal namePatternRequested
+    signal nextDeviceRequested
     signal copyRequested
 
     border.color: Theme.colours.line
@@ -76,6 +78,8 @@ Rectangle {
             // qmllint disable unqualified
             sourceComponent: ChannelNamesPanel {
                 work: root.session.names
+                onNextDeviceRequested: root.nextDeviceRequested()
+                onPatternRequested: root.namePatternRequested()
                 onRefreshRequested: root.namesRefreshRequested()
             }
             // qmllint enable unqualified

@@ -16,10 +16,22 @@ Rectangle {
     readonly property string searchText: searchField.text.trim()
     signal searchRequested
     signal deviceChosen(string ipport)
+    signal detailRequested(string name)  // of the device's row
+    signal menuRequested(string name, var place)
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
+    }
+
+    /// Chooses the device below the chosen one. Returns whether there is one.
+    function chooseNext() {
+        const row = treeRows.deviceAfter(chosenDevice);
+        if (row >= 0) {
+            tree.moveIntoView(row);
+            deviceChosen(treeRows.deviceAt(row));
+        }
+        return row >= 0;
     }
 
     border.color: Theme.colours.line
@@ -103,10 +115,13 @@ Rectangle {
         chosenDevice: root.chosenDevice
         describer: root.describer
         enabled: !root.held
+        focus: true
         objectName: "deviceTree"
         rows: treeRows
         Accessible.name: heading.text
+        onDetailRequested: name => root.detailRequested(name)
         onDeviceChosen: ipport => root.deviceChosen(ipport)
+        onMenuRequested: (name, place) => root.menuRequested(name, place)
     }
     OVFocusRing {
         around: Theme.paneRadius

@@ -7,7 +7,6 @@ Item {
 
     required property var deviceFactory
     readonly property SystemLists lists: SystemLists {}
-    signal refused(string message)
 
     // Devices are asked for their clocks often, and nothing is lost: these commands are sent at once.
     readonly property var harmless: ["setTimeByPC", "setTimeByManual", "readTime", "loginCheck"]
@@ -66,7 +65,6 @@ Item {
         visible: false
         sourceComponent: BatchPreviewDialog {
             deviceFactory: root.deviceFactory
-            onRefused: message => root.refused(message)
         }
     }
     // qmllint enable unqualified

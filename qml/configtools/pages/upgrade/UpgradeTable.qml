@@ -157,6 +157,8 @@ OVTable {
             readonly property bool running: UpgradeTools.isRunning(result)
 
             Row {
+                readonly property bool keyGroup: true
+
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: Theme.controlGap
 

@@ -10,6 +10,7 @@ RowLayout {
     required property FailedMarks marks
     required property bool onlyFailed
     property alias searchText: searchField.text
+    readonly property bool keyGroup: true
     signal ipv6Chosen(bool ipv6)
     signal fileRequested
     signal startRequested

@@ -16,7 +16,7 @@ Item {
 
     function chooseFileForChecked() {
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Error);
+            said(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             chooseFile(deviceTable.checkedMacs());
     }
@@ -27,13 +27,13 @@ Item {
             const refusal = upgradeBatches.chooseFile(identities, path);
             changed();
             if (refusal !== "")
-                said(refusal, OVToast.Error);
+                said(refusal, OVToast.Refusal);
         });
     }
 
     function startChecked() {
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Error);
+            said(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             start(deviceTable.checkedMacs());
     }

@@ -1,0 +1,127 @@
+// What any page can do with one device besides changing it: showing its details, opening its web page, copying its
+// texts, keeping it as a favourite. Devices are the values of their rows.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property var deviceFactory
+    required property var fileDialogs
+    required property var localConfig
+    property bool ipv6: false  // the rows are those of IPv6 devices, of which no more is known than their rows say
+    property alias favouritesFolder: favourites.folder
+    signal said(string message, int kind)
+
+    function detailOf(values) {
+        return ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.identity);
+    }
+
+    function showDetail(values) {
+        const dialog = detail.wanted();
+        dialog.load(Object.assign({}, values, detailOf(values)));
+        dialog.open();
+    }
+
+    /// A file of the same name that the folder holds already is not replaced unasked.
+    function exportDetail(folder, fileName) {
+        const path = folder + "/" + fileName;
+        if (!fileDialogs.exists(path)) {
+            writeDetail(path);
+            return;
+        }
+        const asked = overwriting.wanted();
+        asked.path = path;
+        asked.show(qsTr("%1 已存在，是否覆盖？").arg(path), OVMessageBox.DangerQuestion);
+    }
+
+    function writeDetail(path) {
+        const dialog = detail.wanted();
+        if (dialog.write(path))
+            dialog.inform(qsTr("已导出到 %1").arg(path), OVToast.Success);
+        else
+            dialog.inform(qsTr("无法写入文件 %1").arg(path), OVToast.Error);
+    }
+
+    /// The web page of a device behind a tunnel is reached through a tunnel of its own.
+    function openWebPage(values) {
+        const known = ipv6 ? values : detailOf(values);
+        const port = Number(values.ipport.slice(values.ipport.lastIndexOf(":") + 1));
+        const webPort = known.loginType === "P2P" ? deviceFactory.getP2PWebPort(port) : known.httpport;
+        const page = AddressTools.webPage(values.ipport, webPort ?? 0, known.https ?? false);
+        if (page === "")
+            said(qsTr("这台设备没有可打开的网页"), OVToast.Error);
+        else if (!Qt.openUrlExternally(page))
+            said(qsTr("无法打开浏览器，设备网页：%1").arg(page), OVToast.Error);
+    }
+
+    function addressOf(values) {
+        return (values.ipport ?? "").replace(/:\d+$/, "").replace(/^\[|\]$/g, "");
+    }
+
+    function textOf(values) {
+        return [values.name, values.type, values.model, values.ipport, values.mac, values.vision]
+            .map(text => String(text ?? "").replace(/\s+/g, " ").trim()).join("\t");
+    }
+
+    function copy(text) {
+        clipboard.put(text);
+        said(qsTr("已复制到剪贴板"), OVToast.Success);
+    }
+
+    /// A device that was found has no account of its own: the search settings' one is kept with it.
+    function addFavourite(values) {
+        const row = deviceFactory.getDeviceInfo("dh", values.ipport);
+        const address = addressOf(values);
+        const port = values.ipport.slice(values.ipport.lastIndexOf(":") + 1);
+        if (favourites.list()[address + "_" + port + ".json"] !== undefined) {
+            said(qsTr("%1 已在收藏夹中").arg(address), OVToast.Information);
+            return;
+        }
+        const isSaved = favourites.save({
+            mode: DeviceAdding.IP, address: address, port: port, note: values.name ?? "",
+            account: row.username || localConfig.getSearchConfigUsrename(),
+            password: row.password || localConfig.getSearchConfigPass()
+        }) !== "";
+        if (isSaved)
+            said(qsTr("%1 已添加到收藏夹").arg(address), OVToast.Success);
+        else
+            said(qsTr("收藏无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+    }
+
+    visible: false
+
+    OVClipboard {
+        id: clipboard
+    }
+    Favourites {
+        id: favourites
+    }
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: detail
+        visible: false
+        sourceComponent: DeviceDetailDialog {
+            id: dialog
+            deviceFactory: root.deviceFactory
+            onCopyRequested: text => {
+                clipboard.put(text);
+                dialog.inform(qsTr("已复制到剪贴板"), OVToast.Success);
+            }
+            onExportRequested: fileName => root.fileDialogs.chooseFolder(
+                qsTr("请选择文件夹"), folder => root.exportDetail(folder, fileName))
+        }
+    }
+    OVOnDemand {
+        id: overwriting
+        visible: false
+        sourceComponent: OVMessageBox {
+            property string path
+            objectName: "overwriteDetailQuestion"
+            okText: qsTr("覆盖")
+            title: qsTr("覆盖文件")
+            onAccepted: root.writeDetail(path)
+        }
+    }
+    // qmllint enable unqualified
+}

@@ -1,0 +1,97 @@
+// The menu of one device, which its row opens with the right mouse button, the menu key or Shift+F10: what only this
+// page does with a device, and below it what every page does.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property Batches batches
+    required property DeviceActions actions
+    property var values: ({})  // of the row
+    property bool ticks: true  // the page has boxes to tick
+    signal ownChosen(string key, var values)  // an entry of this page
+    signal liveRequested(string ipport)
+    signal similarRequested(string key, var values)  // the devices with the same value of this key are to be ticked
+
+    /// `own` are this page's entries, as OVEntryMenu takes them.
+    function offer(place, values, own) {
+        root.values = values;
+        menu.wanted().offer(own.concat(commonEntries(own.length > 0)), place);
+    }
+
+    function commonEntries(begins) {
+        const address = actions.addressOf(values);
+        const isInitialised = values.state ?? true;
+        const isP2p = (values.loginType ?? "") === "P2P";
+        const similar = !ticks ? [] : [
+            {key: "similarType", begins: true, text: qsTr("只勾选同类型设备（%1）").arg(values.type),
+                enabled: (values.type ?? "") !== ""},
+            {key: "similarModel", text: qsTr("只勾选同型号设备（%1）").arg(values.model),
+                enabled: (values.model ?? "") !== ""}
+        ];
+        return [
+            {key: "detail", begins: begins, text: qsTr("详情")},
+            {key: "web", text: qsTr("打开设备网页"), enabled: address !== ""},
+            {key: "live", text: qsTr("查看实时画面"), enabled: isInitialised && address !== ""},
+            {key: "copyAddress", begins: true, text: qsTr("复制地址"), enabled: address !== ""},
+            {key: "copyMac", text: qsTr("复制MAC"), enabled: (values.mac ?? "") !== ""},
+            {key: "copyRow", text: qsTr("复制整行")},
+            {key: "favourite", begins: true, text: qsTr("添加到收藏夹"),
+                enabled: !actions.ipv6 && isInitialised && !isP2p && address !== ""}
+        ].concat(similar, [
+            {key: "retry", begins: true, text: qsTr("重试"),
+                enabled: !batches.running && (batches.current?.canRetry(values.identity) ?? false)}
+        ]);
+    }
+
+    function take(key) {
+        switch (key) {
+        case "detail":
+            actions.showDetail(values);
+            break;
+        case "web":
+            actions.openWebPage(values);
+            break;
+        case "live":
+            liveRequested(values.ipport);
+            break;
+        case "copyAddress":
+            actions.copy(actions.addressOf(values));
+            break;
+        case "copyMac":
+            actions.copy(values.mac);
+            break;
+        case "copyRow":
+            actions.copy(actions.textOf(values));
+            break;
+        case "favourite":
+            actions.addFavourite(values);
+            break;
+        case "similarType":
+            similarRequested("type", values);
+            break;
+        case "similarModel":
+            similarRequested("model", values);
+            break;
+        case "retry":
+            batches.retryDevice(batches.current, values.identity);
+            break;
+        default:
+            ownChosen(key, values);
+        }
+    }
+
+    visible: false
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: menu
+        visible: false
+        sourceComponent: OVEntryMenu {
+            objectName: "deviceMenu"
+            onChosen: key => root.take(key)
+        }
+    }
+    // qmllint enable unqualified
+}

@@ -1,0 +1,360 @@
+// Work without a mouse: the actions of a row, the way through the controls, and what becomes of rejected
+// input.
+#include "device/batch/batches.h"
+#include "device/devicetablemodel.h"
+#include "device/treemodel.h"
+#include "tests/datatable.h"
+#include "tests/device/rowsbackend.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace {
+
+const char *const scene =
+    "    width: 1280; height: 720; visible: true\n"
+    "    property string done\n"
+    "    DeviceActions {\n"
+    "        id: deviceActions; deviceFactory: factory; fileDialogs: null; localConfig: null\n"
+    "    }\n"
+    "    DeviceMenu {\n"
+    "        id: menu; actions: deviceActions; batches: works\n"
+    "        onLiveRequested: ipport => done = 'live ' + ipport\n"
+    "        onOwnChosen: (key, values) => done = key + ' ' + values.mac\n"
+    "        onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)\n"
+    "    }\n"
+    "    Row {\n"
+    "        readonly property bool keyGroup: true\n"
+    "        height: 40\n"
+    "        OVButton { objectName: 'first'; text: '1' }\n"
+    "        OVButton { objectName: 'disabled'; text: '2'; enabled: false }\n"
+    "        OVCheckBox { objectName: 'box'; text: '3' }\n"
+    "        OVButton { objectName: 'last'; text: '4' }\n"
+    "    }\n"
+    "    OVTextField { objectName: 'password'; x: 600; secret: true; text: 'p' }\n"
+    "    OVTextField { objectName: 'next'; x: 900 }\n"
+    "    OVTable {\n"
+    "        objectName: 'table'; y: 100; width: 600; height: 240; model: devices\n"
+    "        columns: [{key: 'ipport', title: 'Address', width: 300, sortable: true},\n"
+    "                  {key: 'model', title: 'Model', width: 200, sortable: true}]\n"
+    "        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), [{key: 'edit', text: "
+    "'Edit'}])\n"
+    "        onRowOpened: row => done = 'open ' + devices.get(row).mac\n"
+    "    }\n"
+    "    SystemDeviceTree {\n"
+    "        x: 640; y: 100; width: 400; height: 300; devices: groups; describer: null; busyDevice: ''\n"
+    "        searching: false; libraryInstalled: true\n"
+    "        onDetailRequested: name => done = 'open ' + name\n"
+    "        onMenuRequested: (name, place) => menu.offer(place, {identity: name, mac: name, ipport: "
+    "'10.0.0.9:1'}, [])\n"
+    "    }\n"
+    "    OVDialog {\n"
+    "        id: dialog; objectName: 'dialog'\n"
+    "        property string fault\n"
+    "        onAccepted: { fault = 'wrong'; refuse(fault); }\n"
+    "        Column {\n"
+    "            width: 300\n"
+    "            OVTextField { objectName: 'right'; width: 300 }\n"
+    "            OVTextField { objectName: 'faulty'; width: 300; errorText: dialog.fault }\n"
+    "        }\n"
+    "    }\n"
+    "    OVToast { objectName: 'notices' }\n";
+
+} // namespace
+
+class TestKeyboard : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<RowsFactory> m_site;
+    std::unique_ptr<BatchEngine> m_threads;
+    std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<DeviceTableModel> m_table;
+    std::unique_ptr<OVTreeModel> m_tree;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+
+    [[nodiscard]] QQuickItem *find(const QString &name) const
+    {
+        return findBelow(m_window->contentItem(), name, Sight::Visible);
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(m_window.get(), key, modifiers);
+    }
+    [[nodiscard]] bool has(const QString &name) const { return find(name) && find(name)->hasActiveFocus(); }
+    [[nodiscard]] QString done() const { return m_window->property("done").toString(); }
+    [[nodiscard]] int currentRow() const { return find("table")->property("currentIndex").toInt(); }
+
+    void add(const AnswerTexts &texts, const QString &model) const
+    {
+        m_site->rows->add(texts);
+        QJsonObject row = m_site->rows->ipv4.last().toJsonObject();
+        row.insert(DeviceRowKey::model, model);
+        m_site->rows->ipv4.last() = row;
+    }
+    void focusTable() const
+    {
+        find("table")->forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Home);
+    }
+    void clickRow(const QString &name, Qt::MouseButton button) const
+    {
+        const QQuickItem *row = find(name);
+        QVERIFY(row);
+        QTest::mouseClick(m_window.get(), button, {}, row->mapToScene({150, row->height() / 2}).toPoint());
+    }
+    /// The menu with its entries in place.
+    void awaitMenu() const { QTRY_VERIFY(find("detailItem") && find("detailItem")->height() > 0); }
+    /// Goes down to an entry and takes it.
+    void take(const QString &entry) const
+    {
+        for (int step = 0; step < 20 && !has(entry); ++step)
+            press(Qt::Key_Down);
+        QVERIFY2(has(entry), qPrintable(entry));
+        press(Qt::Key_Return);
+        QTRY_VERIFY(!find("detailItem"));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_site = std::make_unique<RowsFactory>();
+        add({.address = "10.0.0.5", .mac = "m1", .type = "IPC", .name = "Gate"}, "A");
+        add({.address = "10.0.0.12", .mac = "m2", .type = "NVR", .name = "Hall 1"}, "B");
+        add({.address = "10.0.0.13", .mac = "m3", .type = "IPC", .name = "Hall 2"}, "B");
+        add({.address = "10.0.1.1",
+             .mac = "m4",
+             .type = "IPC",
+             .name = "Yard",
+             .state = sdk::InitialisationBits::Uninitialised},
+            "A");
+        m_threads = std::make_unique<BatchEngine>(nullptr);
+        m_batches = std::make_unique<Batches>(m_site->factory, *m_threads, [] { return 1; });
+        m_table = std::make_unique<DeviceTableModel>();
+        m_table->setDeviceFactory(&m_site->factory);
+        m_tree = std::make_unique<OVTreeModel>();
+        m_tree->setDeviceFactory(&m_site->factory);
+        m_tree->resetItems("removeuninit", {});
+        m_engine = std::make_unique<QQmlEngine>();
+        m_window = openScene(*m_engine, scene,
+                             {{"factory", &m_site->factory},
+                              {"works", m_batches.get()},
+                              {"devices", m_table.get()},
+                              {"groups", m_tree.get()}});
+        QVERIFY(m_window);
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTRY_VERIFY(find("row3"));
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_engine.reset();
+        m_tree.reset();
+        m_table.reset();
+        m_threads->end();
+        m_batches.reset();
+        m_threads.reset();
+        m_site.reset();
+    }
+
+    void theMenuOfARowOpens_data()
+    {
+        const auto row = dataTable<int, int>({"key", "modifiers"});
+        row("menu key", Qt::Key_Menu, 0);
+        row("Shift+F10", Qt::Key_F10, Qt::ShiftModifier);
+        row("right mouse button", 0, 0);
+    }
+
+    void theMenuOfARowOpens()
+    {
+        QFETCH(const int, key);
+        QFETCH(const int, modifiers);
+        if (key == 0) {
+            clickRow("row1", Qt::RightButton);
+        } else {
+            focusTable();
+            press(Qt::Key_Down);
+            press(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        }
+        awaitMenu();
+        QCOMPARE(currentRow(), 1);
+        take("copyAddressItem");
+        QCOMPARE(QGuiApplication::clipboard()->text(), "10.0.0.12");
+        QTRY_VERIFY(has("tableRows")); // and the keys go on in the table
+    }
+
+    void entriesOfARow_data()
+    {
+        const auto row = dataTable<QString, QString>({"entry", "outcome"});
+        row("of the page", "editItem", "edit m2");
+        row("live view", "liveItem", "live 10.0.0.12:37777");
+    }
+
+    void entriesOfARow()
+    {
+        QFETCH(QString, entry);
+        focusTable();
+        press(Qt::Key_Down);
+        press(Qt::Key_Menu);
+        awaitMenu();
+        take(entry);
+        QTEST(done(), "outcome");
+    }
+
+    /// What a device without a password cannot do is not offered; neither is a retry of nothing.
+    void onlySupportedEntriesAreEnabled()
+    {
+        clickRow("row3", Qt::RightButton);
+        awaitMenu();
+        for (const char *entry : {"liveItem", "favouriteItem", "retryItem"})
+            QVERIFY2(!find(entry)->isEnabled(), entry);
+        QVERIFY(find("editItem")->isEnabled() && find("webItem")->isEnabled());
+    }
+
+    void similarDevicesAreTicked_data()
+    {
+        const auto row = dataTable<QString, QStringList>({"entry", "macs"});
+        row("type", "similarTypeItem", {"m1", "m3", "m4"});
+        row("model", "similarModelItem", {"m2", "m3"});
+    }
+
+    void similarDevicesAreTicked()
+    {
+        QFETCH(QString, entry);
+        m_table->setChecked(1, true);
+        focusTable();
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        press(Qt::Key_Menu);
+        awaitMenu();
+        take(entry);
+        QTEST(m_table->checkedMacs(), "macs");
+    }
+
+    void aTreeHasTheMenuToo()
+    {
+        QQuickItem *tree = find("deviceTree");
+        tree->forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Home);
+        press(Qt::Key_Menu); // a group has no actions
+        QVERIFY(!find("detailItem"));
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        QCOMPARE(done(), "open m1");
+        press(Qt::Key_Menu);
+        awaitMenu();
+        take("copyMacItem");
+        QCOMPARE(QGuiApplication::clipboard()->text(), "m1");
+        clickRow("device_10.0.0.13:37777", Qt::RightButton);
+        awaitMenu();
+        take("copyMacItem");
+        QCOMPARE(QGuiApplication::clipboard()->text(), "m3");
+    }
+
+    void keysOfTheTable_data()
+    {
+        const auto row = dataTable<QString, int>({"typed", "current"});
+        row("address", "10.0.0.13", 2);
+        row("address in two groups", "10.0.1", 3);
+        row("name in small letters", "hall", 1);
+        row("name with a blank", "Hall 2", 2);
+        row("nothing begins so", "x", 0);
+    }
+
+    void keysOfTheTable()
+    {
+        QFETCH(QString, typed);
+        focusTable();
+        for (const QChar letter : typed)
+            QTest::keyClick(m_window.get(), letter.toLatin1());
+        QTEST(currentRow(), "current");
+        QCOMPARE(m_table->checkedCount(), 0);
+        press(Qt::Key_End);
+        press(Qt::Key_Return);
+        QCOMPARE(done(), "open m4");
+    }
+
+    /// Arrows go from one to the other, Tab leaves all of them.
+    void aGroupOfControlsIsOneStop()
+    {
+        find("first")->forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Right);
+        QVERIFY(has("box"));
+        press(Qt::Key_Right);
+        QVERIFY(has("last"));
+        press(Qt::Key_Right);
+        QVERIFY(has("first"));
+        press(Qt::Key_Tab);
+        QVERIFY(has("password"));
+        press(Qt::Key_Tab); // not to the eye
+        QVERIFY(has("next"));
+        press(Qt::Key_Tab);
+        QVERIFY(has("head_ipport") || has("checkAllBox"));
+        press(Qt::Key_Tab);
+        QVERIFY(has("tableRows"));
+        press(Qt::Key_Down);
+        QVERIFY(currentRow() >= 0);
+    }
+
+    /// It is said once, where the keyboard then is.
+    void rejectedInputHasTheKeyboard()
+    {
+        QObject *dialog = m_window->findChild<QObject *>("dialog");
+        QMetaObject::invokeMethod(dialog, "open");
+        QTRY_VERIFY(dialog->property("opened").toBool());
+        find("right")->forceActiveFocus();
+        press(Qt::Key_Return);
+        QVERIFY(has("faulty"));
+        QVERIFY(!find("dialogNotice"));
+        // What no field shows stands in the dialog.
+        find("faulty")->setProperty("errorText", QString());
+        QMetaObject::invokeMethod(dialog, "refuse", Q_ARG(QVariant, "nothing is ticked"));
+        QTRY_VERIFY(find("dialogNotice"));
+        QMetaObject::invokeMethod(dialog, "close");
+    }
+
+    /// A refusal goes with its reason, another message does not; none of them lies on the rows.
+    void noticesGoWithTheirReason()
+    {
+        QObject *notices = m_window->findChild<QObject *>("notices");
+        constexpr int success = 1;
+        constexpr int refusal = 3;
+        for (const auto &[words, kind] : {std::pair("saved", success), {"nothing is ticked", refusal}})
+            QMetaObject::invokeMethod(notices, "show", Q_ARG(QVariant, words), Q_ARG(QVariant, kind),
+                                      Q_ARG(QVariant, 60'000));
+        QTRY_VERIFY(find("toastText"));
+        QCOMPARE(find("toastText")->property("text").toString(), "saved");
+        const QQuickItem *toast = find("toast");
+        const QRectF place = toast->mapRectToScene(toast->boundingRect());
+        QVERIFY(!place.intersects(find("table")->mapRectToScene(find("table")->boundingRect())));
+        QMetaObject::invokeMethod(notices, "settle");
+        QTRY_COMPARE(findAll("toastText"), QStringList("saved"));
+        QMetaObject::invokeMethod(notices, "clear");
+        QTRY_VERIFY(!find("toastText"));
+    }
+
+private:
+    [[nodiscard]] QStringList findAll(const QString &name) const
+    {
+        QStringList texts;
+        collect(m_window->contentItem(), name, texts);
+        return texts;
+    }
+    static void collect(QQuickItem *item, const QString &name, QStringList &texts)
+    {
+        if (!item->isVisible())
+            return;
+        if (item->objectName() == name)
+            texts.append(item->property("text").toString());
+        const QList<QQuickItem *> children = item->childItems();
+        for (QQuickItem *child : children)
+            collect(child, name, texts);
+    }
+};
+
+QTEST_MAIN(TestKeyboard)
+#include "tst_keyboard.moc"
