@@ -133,10 +133,76 @@ void walkWrongPassword(Driver &driver, sdk::demo::DemoSite &site)
     driver.await(u"the second one, too"_s, [&] { return shown(u"2"_s); });
     driver.report(u"keyboard-wrong-password"_s, driver.texts(u"fieldMessage"_s).join(u' '));
     site.clearFault(mac, sdk::demo::Fault::WrongPassword);
+    goTo(driver, u"followingBox"_s, Qt::Key_Tab, 3);
+    driver.key(Qt::Key_Space);
+    goTo(driver, u"devicePasswordField"_s, Qt::Key_Backtab, 2);
     driver.type(u"Office-2024"_s);
     driver.key(Qt::Key_Return);
     driver.require(u"encodeSaveButton"_s);
     driver.report(u"keyboard-logged-in"_s, driver.text(u"configDevice"_s));
+}
+
+bool isNaming(const Driver &driver, const QString &ipport)
+{
+    return driver.find(u"configDevice"_s) && driver.text(u"configDevice"_s).startsWith(ipport) &&
+           hasKeyboard(driver, u"channelName0"_s);
+}
+
+/// Enter saves the name of a camera and opens the next one, which takes the same account.
+void walkNaming(Driver &driver)
+{
+    goTo(driver, u"configTab0"_s, Qt::Key_Tab, 5);
+    driver.key(Qt::Key_Right);
+    driver.key(Qt::Key_Right);
+    driver.require(u"nameTable"_s);
+    goTo(driver, u"tableRows"_s, Qt::Key_Tab, 5);
+    driver.key(Qt::Key_Down);
+    driver.key(Qt::Key_Return);
+    const Rows tree(driver, u"deviceTree"_s);
+    const auto ipport = [&](int row) {
+        return tree.value(row, "title").toString();
+    };
+    for (const int row : {1, 2}) {
+        driver.await(u"the name of a camera has the keyboard"_s, [&] { return isNaming(driver, ipport(row)); });
+        driver.type(u"Gate %1"_s.arg(row));
+        driver.key(Qt::Key_Return);
+    }
+    driver.await(u"the next camera follows"_s, [&] { return isNaming(driver, ipport(3)); });
+    for (const int row : {1, 2})
+        driver.check(tree.value(row, "detail").toString().startsWith(u"Gate %1"_s.arg(row)),
+                     u"the list shows the new name"_s);
+    driver.report(u"keyboard-naming"_s, tree.value(1, "detail").toString());
+}
+
+/// One pattern names several cameras.
+void walkPattern(Driver &driver)
+{
+    driver.click(u"tick_IPC"_s);
+    driver.click(u"namePatternButton"_s);
+    driver.await(u"the pattern has the keyboard"_s, [&] { return hasKeyboard(driver, u"patternField"_s); });
+    driver.fill(u"patternField"_s, u"{model}-{x}"_s);
+    driver.key(Qt::Key_Return);
+    driver.check(hasKeyboard(driver, u"patternField"_s) && driver.find(u"fieldMessage"_s),
+                 u"a pattern that is none keeps the keyboard"_s);
+    driver.report(u"keyboard-pattern-refused"_s, driver.text(u"fieldMessage"_s));
+    driver.fill(u"patternField"_s, u"Hall {n}-{ip4}"_s);
+    driver.fill(u"patternDigitsField"_s, u"2"_s);
+    driver.report(u"keyboard-pattern"_s, driver.text(u"patternField"_s));
+    driver.key(Qt::Key_Return);
+    driver.await(u"a shared address is asked about"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
+    driver.click(u"okButton"_s);
+    const Rows tree(driver, u"deviceTree"_s);
+    driver.await(u"the cameras have their names"_s, [&] {
+        return tree.value(2, "detail").toString().startsWith(u"Hall 02-102"_s);
+    });
+    // Those with another password may hold the batch.
+    driver.await(u"the batch is held or ends"_s, [&] {
+        return driver.find(u"continueButton"_s) || !driver.find(u"runningText"_s);
+    }, 30);
+    if (driver.find(u"continueButton"_s))
+        driver.click(u"stopButton"_s);
+    driver.await(u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 30);
+    driver.report(u"keyboard-named"_s, tree.value(2, "detail").toString());
 }
 
 } // namespace
@@ -147,5 +213,7 @@ void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site)
     walkRow(driver);
     walkMenus(driver);
     walkWrongPassword(driver, site);
+    walkNaming(driver);
+    walkPattern(driver);
     driver.key(Qt::Key_1, Qt::ControlModifier);
 }

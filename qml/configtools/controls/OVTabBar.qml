@@ -8,7 +8,6 @@ Rectangle {
     required property var tabs
     required property int currentIndex
     property string namePrefix: "tab"  // of the object names of the tabs
-    readonly property bool keyGroup: true
     signal activated(int index)
 
     implicitHeight: Theme.tabBarHeight
@@ -42,6 +41,7 @@ Rectangle {
 
                 implicitWidth: label.implicitWidth + 28
                 implicitHeight: Theme.tabBarHeight
+                focusPolicy: current ? Qt.StrongFocus : Qt.ClickFocus  // the arrow keys lead to the others
                 objectName: root.namePrefix + index
                 ownArrows: true
                 text: modelData

@@ -288,7 +288,7 @@ FocusScope {
         onCopyRequested: page.copy()
         onEncodeChannelRequested: index => page.leave(() => session.encoding.choose("curChannel", index))
         onNamePatternRequested: page.namePattern()
-        onNextDeviceRequested: deviceTree.chooseNext()
+        onNextDeviceRequested: Qt.callLater(deviceTree.chooseNext)  // first everybody learns that the names are saved
         onNamesRefreshRequested: page.leave(() => session.names.load())
         onRefreshRequested: page.leave(() => session.encoding.load())
         onStreamTypeRequested: index => page.leave(() => session.encoding.choose("curStreamType", index))

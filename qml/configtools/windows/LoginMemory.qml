@@ -41,7 +41,7 @@ QtObject {
             return {user: row.username || localConfig.getSearchConfigUsrename(),
                     password: row.password || localConfig.getSearchConfigPass()};
         if (account !== "")
-            return {user: account, password: password};
+            return {user: account, password: password, isForAll: true};
         return {user: localConfig.getSearchConfigUsrename(), password: localConfig.getSearchConfigPass()};
     }
 }

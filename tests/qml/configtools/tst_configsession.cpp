@@ -204,6 +204,8 @@ private Q_SLOTS:
                                            return request.operation.startsWith("NetLoginSecure");
                                        }),
                  1);
+        // Batches know the account from now on.
+        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_other)).value("password"), "secret1");
     }
 
     void inputIsHeldWhereTheWorkIs()

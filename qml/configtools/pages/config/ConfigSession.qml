@@ -46,7 +46,7 @@ Item {
         type = row.type ?? "";
         noteUpgrade();
         const known = LoginMemory.accountFor(row, localConfig);
-        login(known.user, known.password);
+        login(known.user, known.password, known.isForAll ?? false);
     }
 
     function noteUpgrade() {
@@ -61,7 +61,8 @@ Item {
         namesWork.forget();
     }
 
-    function login(account, password) {
+    /// With `keeps`, the account becomes that of the device once it has proved right.
+    function login(account, password, keeps) {
         loggedIn = taken = lost = false;
         failure = "";
         forget();
@@ -70,11 +71,19 @@ Item {
             LoginMemory.note(device, result);
             loggedIn = result === 0;
             failure = loggedIn ? "" : deviceFactory.getErrorName(result);
+            if (loggedIn && keeps)
+                keep(account, password);
             if (loggedIn)
                 readShown();
             else if (canLoginAgain() && shown)
                 askAgain(account);
         });
+    }
+
+    function keep(account, password) {
+        const mac = deviceFactory.getDeviceInfo("dh", device).mac ?? "";
+        deviceFactory.updataDeviceInfo("dh", "username", account, mac, device);
+        deviceFactory.updataDeviceInfo("dh", "password", password, mac, device);
     }
 
     /// The device was asked and did not answer. After it was away, as for a restart, it knows the login no more.

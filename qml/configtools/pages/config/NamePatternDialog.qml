@@ -37,6 +37,13 @@ OVDialog {
             .replace(/\{model\}/g, () => entry.model).replace(/\{ip4\}/g, () => last).trim();
     }
 
+    function begin() {
+        const chosen = preview.checkedIdentities();
+        const named = entries.map((entry, place) => Object.assign({}, entry, {newName: newNames[place]}));
+        close();
+        confirmed(ofChannels, named.filter(entry => chosen.includes(entry.name)));
+    }
+
     function showPreview() {
         preview.setEntries(entries.map((entry, place) => ({
             name: entry.name, title: entry.title ?? "", ipport: entry.ipport, action: newNames[place]
@@ -57,11 +64,10 @@ OVDialog {
             refuse(fault);
         else if (chosen.length === 0)
             refuse(qsTr("请选择要命名的项"));
-        else {
-            const named = entries.map((entry, place) => Object.assign({}, entry, {newName: newNames[place]}));
-            close();
-            confirmed(ofChannels, named.filter(entry => chosen.includes(entry.name)));
-        }
+        else if (!ofChannels && preview.warningCount > 0)
+            question.ask(preview.warningCount);
+        else
+            begin();
     }
 
     BatchPreview {
@@ -137,5 +143,9 @@ OVDialog {
             objectName: "namePreview"
             preview: preview
         }
+    }
+    BatchWarningQuestion {
+        id: question
+        onAccepted: root.begin()
     }
 }
