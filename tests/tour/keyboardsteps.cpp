@@ -48,7 +48,8 @@ void walkWayToTheTable(Driver &driver)
         ++tabs;
     } while (tabs < 20 && !hasKeyboard(driver, u"tableRows"_s));
     driver.key(Qt::Key_Home);
-    for (const QString &start : {u"searchButton"_s, u"closeButton"_s, u"initialiseButton"_s, u"ipv6Choice"_s}) {
+    for (const QString &start :
+         {u"searchButton"_s, u"closeButton"_s, u"initialiseButton"_s, u"ipv6Choice"_s}) {
         driver.require(start)->forceActiveFocus(Qt::TabFocusReason);
         goTo(driver, u"tableRows"_s, Qt::Key_Tab, 5);
     }
@@ -73,7 +74,8 @@ void walkRow(Driver &driver)
     driver.key(Qt::Key_Return);
     driver.require(u"detailLoginButton"_s);
     driver.key(Qt::Key_Return);
-    driver.await(u"the dialog says that it copies"_s, [&] { return driver.find(u"dialogNotice"_s) != nullptr; });
+    driver.await(u"the dialog says that it copies"_s,
+                 [&] { return driver.find(u"dialogNotice"_s) != nullptr; });
     driver.report(u"keyboard-details"_s, driver.text(u"dialogNotice"_s));
     driver.key(Qt::Key_Escape);
     driver.await(u"the details are closed"_s, [&] { return !driver.find(u"detailLoginButton"_s); });
@@ -163,7 +165,8 @@ void walkNaming(Driver &driver)
         return tree.value(row, "title").toString();
     };
     for (const int row : {1, 2}) {
-        driver.await(u"the name of a camera has the keyboard"_s, [&] { return isNaming(driver, ipport(row)); });
+        driver.await(u"the name of a camera has the keyboard"_s,
+                     [&] { return isNaming(driver, ipport(row)); });
         driver.type(u"Gate %1"_s.arg(row));
         driver.key(Qt::Key_Return);
     }
@@ -189,19 +192,20 @@ void walkPattern(Driver &driver)
     driver.fill(u"patternDigitsField"_s, u"2"_s);
     driver.report(u"keyboard-pattern"_s, driver.text(u"patternField"_s));
     driver.key(Qt::Key_Return);
-    driver.await(u"a shared address is asked about"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
+    driver.await(u"a shared address is asked about"_s,
+                 [&] { return driver.find(u"messageText"_s) != nullptr; });
     driver.click(u"okButton"_s);
     const Rows tree(driver, u"deviceTree"_s);
-    driver.await(u"the cameras have their names"_s, [&] {
-        return tree.value(2, "detail").toString().startsWith(u"Hall 02-102"_s);
-    });
+    driver.await(u"the cameras have their names"_s,
+                 [&] { return tree.value(2, "detail").toString().startsWith(u"Hall 02-102"_s); });
     // Those with another password may hold the batch.
-    driver.await(u"the batch is held or ends"_s, [&] {
-        return driver.find(u"continueButton"_s) || !driver.find(u"runningText"_s);
-    }, 30);
+    driver.await(
+        u"the batch is held or ends"_s,
+        [&] { return driver.find(u"continueButton"_s) || !driver.find(u"runningText"_s); }, 30);
     if (driver.find(u"continueButton"_s))
         driver.click(u"stopButton"_s);
-    driver.await(u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 30);
+    driver.await(
+        u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 30);
     driver.report(u"keyboard-named"_s, tree.value(2, "detail").toString());
 }
 

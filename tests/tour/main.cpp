@@ -126,11 +126,6 @@ void answerMessageBox(const QString &folder)
 void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, const QString &folder)
 {
     walkFirstSearch(driver);
-    if (qEnvironmentVariableIsSet("ONLY_KEYS")) {
-        walkKeyboard(driver, site);
-        driver.click(u"closeButton"_s);
-        return;
-    }
     walkTable(driver);
     walkWindow(driver);
     walkConfiguration(driver, site);
