@@ -43,10 +43,11 @@ FocusScope {
     }
 
     function actOn(key, row) {
+        const values = Object.assign({}, devices.get(row));
         if (key === "send") {
             cgiSender.send(row);
         } else if (key === "answer") {
-            answerWindow.wanted().show(devices.get(row).ipport, cgiSender.answerOf(row));
+            answerWindow.wanted().show(values.ipport, cgiSender.answerOf(row));
         } else {
             cgiManager.copyText(cgiSender.answerOf(row));
             said(qsTr("复制成功"), OVToast.Success);

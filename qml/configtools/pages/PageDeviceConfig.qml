@@ -142,8 +142,8 @@ FocusScope {
         function onSignalSetChannelNameFinished() {
             const row = page.deviceFactory.getDeviceInfo("dh", session.device);
             if (session.names.read && session.names.form.count === 1) {  // a camera bears the name of its channel
-                page.deviceFactory.updataDeviceInfo("dh", "name", session.names.form.get(0).saved, row.mac ?? "",
-                                                    session.device);
+                const channel = Object.assign({}, session.names.form.get(0));
+                page.deviceFactory.updataDeviceInfo("dh", "name", channel.saved, row.mac ?? "", session.device);
                 page.refresh();
                 return;
             }
@@ -151,6 +151,12 @@ FocusScope {
         }
     }
 
+    // The next device is opened once everybody has learnt that the names are saved.
+    Timer {
+        id: goingOn
+        interval: 0
+        onTriggered: deviceTree.chooseNext()
+    }
     ConfigSession {
         id: session
         deviceFactory: page.deviceFactory
@@ -288,7 +294,7 @@ FocusScope {
         onCopyRequested: page.copy()
         onEncodeChannelRequested: index => page.leave(() => session.encoding.choose("curChannel", index))
         onNamePatternRequested: page.namePattern()
-        onNextDeviceRequested: Qt.callLater(deviceTree.chooseNext)  // first everybody learns that the names are saved
+        onNextDeviceRequested: goingOn.start()
         onNamesRefreshRequested: page.leave(() => session.names.load())
         onRefreshRequested: page.leave(() => session.encoding.load())
         onStreamTypeRequested: index => page.leave(() => session.encoding.choose("curStreamType", index))

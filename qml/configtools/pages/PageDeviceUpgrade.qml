@@ -36,7 +36,7 @@ FocusScope {
     }
 
     function actOn(key, row) {
-        const identity = devices.get(row).identity;
+        const identity = Object.assign({}, devices.get(row)).identity;
         if (key === "file")
             work.chooseFile([identity]);
         else if (key === "start")

@@ -39,11 +39,10 @@ Item {
         });
     }
 
-    /// Writes the changed names, one after another.
+    /// Writes the changed names, one after another. What is wrong with one stands in its row.
     function save() {
         const faulty = nameForm.firstFaulty();
         if (faulty >= 0) {
-            session.said(qsTr("通道 %1 的名称不能保存，请先修改").arg(faulty + 1), OVToast.Error, session.shortStay);
             rowWanted(faulty);
             return;
         }
