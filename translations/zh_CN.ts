@@ -1130,10 +1130,6 @@
         <translation>正在读取通道名称…</translation>
     </message>
     <message>
-        <source>通道 %1 的名称不能保存，请先修改</source>
-        <translation>通道 %1 的名称不能保存，请先修改</translation>
-    </message>
-    <message>
         <source>通道 %1</source>
         <translation>通道 %1</translation>
     </message>
