@@ -15,6 +15,8 @@ FocusScope {
     signal said(string message, int kind)
     signal settled  // the selection has changed: a refusal may no longer hold
 
+    readonly property int ticked: devices.checkedCount
+
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var cgiManager: CGIConfigManageApi
@@ -65,6 +67,7 @@ FocusScope {
     }
 
     objectName: "pageCGIConfig"
+    onTickedChanged: settled()
 
     DeviceTableModel {
         id: devices
@@ -72,7 +75,6 @@ FocusScope {
         failedMarks: page.batches.failedMarks
         oddAddressesFirst: true
         searchText: searchField.text.trim()
-        onCheckedCountChanged: page.settled()
     }
     DeviceListChanges {
         deviceFactory: page.deviceFactory

@@ -16,6 +16,8 @@ FocusScope {
     signal said(string message, int kind, int stay)
     signal settled  // the selection has changed: a refusal may no longer hold
 
+    readonly property int ticked: devices.checkedCount
+
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
@@ -122,13 +124,13 @@ FocusScope {
     }
 
     objectName: "pageDeviceConfig"
+    onTickedChanged: settled()
     onVisibleChanged: if (visible) session.readShown()
 
     OVTreeModel {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
-        onCheckedDevicesChanged: page.settled()
     }
 
     DeviceListChanges {

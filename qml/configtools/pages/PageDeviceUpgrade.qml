@@ -14,6 +14,8 @@ FocusScope {
     signal said(string message, int kind)
     signal settled  // the selection has changed: a refusal may no longer hold
 
+    readonly property int ticked: devices.checkedCount
+
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
@@ -56,13 +58,13 @@ FocusScope {
     }
 
     objectName: "pageDeviceUpgrade"
+    onTickedChanged: settled()
 
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
         searchText: toolBar.searchText.trim()
-        onCheckedCountChanged: page.settled()
     }
     DeviceListChanges {
         id: changes

@@ -19,6 +19,8 @@ FocusScope {
     signal said(string message, int kind)
     signal settled  // the selection has changed: a refusal may no longer hold
 
+    readonly property int ticked: devices.checkedCount
+
     // qmllint disable unqualified
     readonly property var addingBatches: AddingBatchesApi
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -42,13 +44,13 @@ FocusScope {
     }
 
     objectName: "pageModifyIP"
+    onTickedChanged: settled()
 
     DeviceTableModel {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
         searchText: toolBar.searchText.trim()
-        onCheckedCountChanged: page.settled()
     }
 
     DeviceListChanges {
