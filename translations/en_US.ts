@@ -7,6 +7,10 @@
         <source>复制版本号</source>
         <translation>Copy version number</translation>
     </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>Copied to the clipboard</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -1140,16 +1144,20 @@ Right-click to copy the result</translation>
         <source>设备正在升级，不能保存修改</source>
         <translation>The device is being upgraded. Save when it has finished.</translation>
     </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Name by pattern</translation>
+    </message>
+    <message>
+        <source>用一条规则为多个通道或多台摄像机命名</source>
+        <translation>Name several channels or cameras with one pattern</translation>
+    </message>
 </context>
 <context>
     <name>ChannelNamesWork</name>
     <message>
         <source>正在读取通道名称…</source>
         <translation>Reading channel names…</translation>
-    </message>
-    <message>
-        <source>通道 %1 的名称不能保存，请先修改</source>
-        <translation>The name of channel %1 is not valid. Change it first.</translation>
     </message>
     <message>
         <source>通道 %1</source>
@@ -1281,6 +1289,57 @@ Right-click to copy the result</translation>
     <message>
         <source>设备没有应答</source>
         <translation>No answer from the device</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceActions</name>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 already exists. Replace it?</translation>
+    </message>
+    <message>
+        <source>已导出到 %1</source>
+        <translation>Exported to %1</translation>
+    </message>
+    <message>
+        <source>无法写入文件 %1</source>
+        <translation>The file %1 could not be written</translation>
+    </message>
+    <message>
+        <source>这台设备没有可打开的网页</source>
+        <translation>The device has no web page</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>The browser could not be opened. Web page of the device: %1</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>Copied to the clipboard</translation>
+    </message>
+    <message>
+        <source>%1 已在收藏夹中</source>
+        <translation>%1 is already one of the favourites</translation>
+    </message>
+    <message>
+        <source>%1 已添加到收藏夹</source>
+        <translation>%1 added to the favourites</translation>
+    </message>
+    <message>
+        <source>收藏无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>The favourite cannot be saved. Check whether the folder of the program can be written to.</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Select a folder</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>Replace file</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1719,49 @@ Right-click to copy the result</translation>
     <message>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>The character %1 cannot be read back from this format</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceMenu</name>
+    <message>
+        <source>只勾选同类型设备（%1）</source>
+        <translation>Select the same type only (%1)</translation>
+    </message>
+    <message>
+        <source>只勾选同型号设备（%1）</source>
+        <translation>Select the same model only (%1)</translation>
+    </message>
+    <message>
+        <source>详情</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>打开设备网页</source>
+        <translation>Open web page</translation>
+    </message>
+    <message>
+        <source>查看实时画面</source>
+        <translation>Opens the live view of this device</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>Copy address</translation>
+    </message>
+    <message>
+        <source>复制MAC</source>
+        <translation>Copy MAC</translation>
+    </message>
+    <message>
+        <source>复制整行</source>
+        <translation>Copy row</translation>
+    </message>
+    <message>
+        <source>添加到收藏夹</source>
+        <translation>Add to favourites</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Try again</translation>
     </message>
 </context>
 <context>
@@ -2953,14 +3055,6 @@ Right-click to copy the result</translation>
 <context>
     <name>ModifyIPDevices</name>
     <message>
-        <source>这台设备没有可打开的网页</source>
-        <translation>The device has no web page</translation>
-    </message>
-    <message>
-        <source>无法打开浏览器，设备网页：%1</source>
-        <translation>The browser could not be opened. Web page of the device: %1</translation>
-    </message>
-    <message>
         <source>请选择一台设备</source>
         <translation>Select a device</translation>
     </message>
@@ -2971,36 +3065,12 @@ Right-click to copy the result</translation>
             <numerusform>Remove %n devices from the list?</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 已存在，是否覆盖？</source>
-        <translation>%1 already exists. Replace it?</translation>
-    </message>
-    <message>
-        <source>已导出到 %1</source>
-        <translation>Exported to %1</translation>
-    </message>
-    <message>
-        <source>无法写入文件 %1</source>
-        <translation>The file %1 could not be written</translation>
-    </message>
-    <message>
-        <source>请选择文件夹</source>
-        <translation>Select a folder</translation>
-    </message>
     <message numerus="yes">
         <source>%n 台设备正在升级，没有删除</source>
         <translation>
             <numerusform>%n device is being upgraded and was not removed</numerusform>
             <numerusform>%n devices are being upgraded and were not removed</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>覆盖</source>
-        <translation>Replace</translation>
-    </message>
-    <message>
-        <source>覆盖文件</source>
-        <translation>Replace file</translation>
     </message>
     <message>
         <source>删除</source>
@@ -3413,6 +3483,79 @@ File: </translation>
     </message>
 </context>
 <context>
+    <name>NamePatternDialog</name>
+    <message>
+        <source>请输入命名规则</source>
+        <translation>Enter a pattern</translation>
+    </message>
+    <message>
+        <source>只能使用 {n}、{model} 和 {ip4}</source>
+        <translation>Use only {n}, {model} and {ip4}</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>Longer than %1 bytes</translation>
+    </message>
+    <message>
+        <source>填入</source>
+        <translation>Fill in</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>Send</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Name by pattern</translation>
+    </message>
+    <message>
+        <source>请选择要命名的项</source>
+        <translation>Select what is to be named</translation>
+    </message>
+    <message>
+        <source>填入后可在表格中修改，保存时才写入设备。</source>
+        <translation>The names can be edited in the table. Save writes them.</translation>
+    </message>
+    <message>
+        <source>写入各台设备的通道 1。</source>
+        <translation>Names channel 1 of each device.</translation>
+    </message>
+    <message numerus="yes">
+        <source>当前设备的 %n 个通道</source>
+        <translation>
+            <numerusform>%n channel of this device</numerusform>
+            <numerusform>%n channels of this device</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的 %n 台摄像机</source>
+        <translation>
+            <numerusform>%n selected camera</numerusform>
+            <numerusform>%n selected cameras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>命名规则：{n} 序号，{model} 型号，{ip4} 地址的最后一段</source>
+        <translation>Pattern: {n}, {model}, {ip4} (end of address)</translation>
+    </message>
+    <message>
+        <source>命名规则</source>
+        <translation>Pattern</translation>
+    </message>
+    <message>
+        <source>多个通道会得到同一个名称</source>
+        <translation>Several channels get the same name</translation>
+    </message>
+    <message>
+        <source>起始序号</source>
+        <translation>First number</translation>
+    </message>
+    <message>
+        <source>位数</source>
+        <translation>Digits</translation>
+    </message>
+</context>
+<context>
     <name>OMessageBox</name>
     <message>
         <source>确定</source>
@@ -3752,6 +3895,18 @@ File: </translation>
         <source>执行</source>
         <translation>Send</translation>
     </message>
+    <message>
+        <source>发送命令</source>
+        <translation>Send command</translation>
+    </message>
+    <message>
+        <source>查看全部结果</source>
+        <translation>Show whole result</translation>
+    </message>
+    <message>
+        <source>复制结果</source>
+        <translation>Copy result</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceConfig</name>
@@ -3815,6 +3970,22 @@ File: </translation>
         <source>未保存的修改</source>
         <translation>Unsaved changes</translation>
     </message>
+    <message>
+        <source>保存并离开</source>
+        <translation>Save and leave</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
+    </message>
+    <message>
+        <source>批量命名</source>
+        <translation>Name by pattern</translation>
+    </message>
+    <message>
+        <source>配置这台设备</source>
+        <translation>Configure this device</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -3829,6 +4000,18 @@ File: </translation>
     <message>
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>The setting could not be saved. Check that you may write to the program folder.</translation>
+    </message>
+    <message>
+        <source>选择升级文件</source>
+        <translation>Select a firmware file</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>停止升级</source>
+        <translation>Stop upgrade</translation>
     </message>
 </context>
 <context>
@@ -3848,10 +4031,6 @@ File: </translation>
             <numerusform>IP address conflict: %n device</numerusform>
             <numerusform>IP address conflict: %n devices</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>已复制到剪贴板</source>
-        <translation>Copied to the clipboard</translation>
     </message>
     <message>
         <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
@@ -3875,6 +4054,10 @@ File: </translation>
             <numerusform>%n device fewer than in the last search</numerusform>
             <numerusform>%n devices fewer than in the last search</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Change IP addresses</translation>
     </message>
 </context>
 <context>
@@ -3958,6 +4141,29 @@ File: </translation>
     <message>
         <source>密码</source>
         <translation>Password</translation>
+    </message>
+    <message numerus="yes">
+        <source>密码错误，已 %n 次</source>
+        <translation>
+            <numerusform>Wrong password, %n time</numerusform>
+            <numerusform>Wrong password, %n times</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备的应答：%1</source>
+        <translation>Answer of the device: %1</translation>
+    </message>
+    <message>
+        <source>设备没有报告剩余的尝试次数。继续输错可能锁定账户。</source>
+        <translation>The device does not report how many attempts are left. More wrong passwords may lock the account.</translation>
+    </message>
+    <message>
+        <source>之后打开的设备也使用此账号</source>
+        <translation>Also for devices opened later</translation>
+    </message>
+    <message>
+        <source>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</source>
+        <translation>After a successful login, devices without an account of their own are tried with it in place of that of the search settings, until the program ends</translation>
     </message>
 </context>
 <context>
@@ -4115,6 +4321,10 @@ File: </translation>
     <message>
         <source>搜索报告</source>
         <translation>Search report</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>Copied to the clipboard</translation>
     </message>
 </context>
 <context>
@@ -5878,10 +6088,6 @@ File: </translation>
 </context>
 <context>
     <name>WindowPopups</name>
-    <message>
-        <source>已复制到剪贴板</source>
-        <translation>Copied to the clipboard</translation>
-    </message>
     <message>
         <source>停止并退出</source>
         <translation>Stop and exit</translation>

@@ -7,6 +7,10 @@
         <source>复制版本号</source>
         <translation>复制版本号</translation>
     </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>已复制到剪贴板</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -1122,6 +1126,14 @@
         <source>设备正在升级，不能保存修改</source>
         <translation>设备正在升级，不能保存修改</translation>
     </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>按规则命名</translation>
+    </message>
+    <message>
+        <source>用一条规则为多个通道或多台摄像机命名</source>
+        <translation>用一条规则为多个通道或多台摄像机命名</translation>
+    </message>
 </context>
 <context>
     <name>ChannelNamesWork</name>
@@ -1253,6 +1265,57 @@
     <message>
         <source>设备没有应答</source>
         <translation>设备没有应答</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceActions</name>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 已存在，是否覆盖？</translation>
+    </message>
+    <message>
+        <source>已导出到 %1</source>
+        <translation>已导出到 %1</translation>
+    </message>
+    <message>
+        <source>无法写入文件 %1</source>
+        <translation>无法写入文件 %1</translation>
+    </message>
+    <message>
+        <source>这台设备没有可打开的网页</source>
+        <translation>这台设备没有可打开的网页</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>无法打开浏览器，设备网页：%1</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>已复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>%1 已在收藏夹中</source>
+        <translation>%1 已在收藏夹中</translation>
+    </message>
+    <message>
+        <source>%1 已添加到收藏夹</source>
+        <translation>%1 已添加到收藏夹</translation>
+    </message>
+    <message>
+        <source>收藏无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>收藏无法保存，请检查程序所在文件夹的写入权限</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>覆盖文件</translation>
     </message>
 </context>
 <context>
@@ -1632,6 +1695,49 @@
     <message>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>字符 %1 在此格式中无法读回</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceMenu</name>
+    <message>
+        <source>只勾选同类型设备（%1）</source>
+        <translation>只勾选同类型设备（%1）</translation>
+    </message>
+    <message>
+        <source>只勾选同型号设备（%1）</source>
+        <translation>只勾选同型号设备（%1）</translation>
+    </message>
+    <message>
+        <source>详情</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>打开设备网页</source>
+        <translation>打开设备网页</translation>
+    </message>
+    <message>
+        <source>查看实时画面</source>
+        <translation>查看实时画面</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>复制地址</translation>
+    </message>
+    <message>
+        <source>复制MAC</source>
+        <translation>复制MAC</translation>
+    </message>
+    <message>
+        <source>复制整行</source>
+        <translation>复制整行</translation>
+    </message>
+    <message>
+        <source>添加到收藏夹</source>
+        <translation>添加到收藏夹</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
     </message>
 </context>
 <context>
@@ -2917,14 +3023,6 @@
 <context>
     <name>ModifyIPDevices</name>
     <message>
-        <source>这台设备没有可打开的网页</source>
-        <translation>这台设备没有可打开的网页</translation>
-    </message>
-    <message>
-        <source>无法打开浏览器，设备网页：%1</source>
-        <translation>无法打开浏览器，设备网页：%1</translation>
-    </message>
-    <message>
         <source>请选择一台设备</source>
         <translation>请选择一台设备</translation>
     </message>
@@ -2934,35 +3032,11 @@
             <numerusform>请确认是否要删除</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 已存在，是否覆盖？</source>
-        <translation>%1 已存在，是否覆盖？</translation>
-    </message>
-    <message>
-        <source>已导出到 %1</source>
-        <translation>已导出到 %1</translation>
-    </message>
-    <message>
-        <source>无法写入文件 %1</source>
-        <translation>无法写入文件 %1</translation>
-    </message>
-    <message>
-        <source>请选择文件夹</source>
-        <translation>请选择文件夹</translation>
-    </message>
     <message numerus="yes">
         <source>%n 台设备正在升级，没有删除</source>
         <translation>
             <numerusform>%n 台设备正在升级，没有删除</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>覆盖</source>
-        <translation>覆盖</translation>
-    </message>
-    <message>
-        <source>覆盖文件</source>
-        <translation>覆盖文件</translation>
     </message>
     <message>
         <source>删除</source>
@@ -3373,6 +3447,77 @@
     </message>
 </context>
 <context>
+    <name>NamePatternDialog</name>
+    <message>
+        <source>请输入命名规则</source>
+        <translation>请输入命名规则</translation>
+    </message>
+    <message>
+        <source>只能使用 {n}、{model} 和 {ip4}</source>
+        <translation>只能使用 {n}、{model} 和 {ip4}</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>名称过长，最多 %1 字节</translation>
+    </message>
+    <message>
+        <source>填入</source>
+        <translation>填入</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>执行</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>按规则命名</translation>
+    </message>
+    <message>
+        <source>请选择要命名的项</source>
+        <translation>请选择要命名的项</translation>
+    </message>
+    <message>
+        <source>填入后可在表格中修改，保存时才写入设备。</source>
+        <translation>填入后可在表格中修改，保存时才写入设备。</translation>
+    </message>
+    <message>
+        <source>写入各台设备的通道 1。</source>
+        <translation>写入各台设备的通道 1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>当前设备的 %n 个通道</source>
+        <translation>
+            <numerusform>当前设备的 %n 个通道</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的 %n 台摄像机</source>
+        <translation>
+            <numerusform>勾选的 %n 台摄像机</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>命名规则：{n} 序号，{model} 型号，{ip4} 地址的最后一段</source>
+        <translation>命名规则：{n} 序号，{model} 型号，{ip4} 地址的最后一段</translation>
+    </message>
+    <message>
+        <source>命名规则</source>
+        <translation>命名规则</translation>
+    </message>
+    <message>
+        <source>多个通道会得到同一个名称</source>
+        <translation>多个通道会得到同一个名称</translation>
+    </message>
+    <message>
+        <source>起始序号</source>
+        <translation>起始序号</translation>
+    </message>
+    <message>
+        <source>位数</source>
+        <translation>位数</translation>
+    </message>
+</context>
+<context>
     <name>OMessageBox</name>
     <message>
         <source>确定</source>
@@ -3707,6 +3852,18 @@
         <source>执行</source>
         <translation>执行</translation>
     </message>
+    <message>
+        <source>发送命令</source>
+        <translation>发送命令</translation>
+    </message>
+    <message>
+        <source>查看全部结果</source>
+        <translation>查看全部结果</translation>
+    </message>
+    <message>
+        <source>复制结果</source>
+        <translation>复制结果</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceConfig</name>
@@ -3767,6 +3924,22 @@
         <source>未保存的修改</source>
         <translation>未保存的修改</translation>
     </message>
+    <message>
+        <source>保存并离开</source>
+        <translation>保存并离开</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
+    </message>
+    <message>
+        <source>批量命名</source>
+        <translation>批量命名</translation>
+    </message>
+    <message>
+        <source>配置这台设备</source>
+        <translation>配置这台设备</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -3780,6 +3953,18 @@
     <message>
         <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
         <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
+    </message>
+    <message>
+        <source>选择升级文件</source>
+        <translation>选择升级文件</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>停止升级</source>
+        <translation>停止升级</translation>
     </message>
 </context>
 <context>
@@ -3797,10 +3982,6 @@
         <translation>
             <numerusform>%n 台设备IP地址冲突</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>已复制到剪贴板</source>
-        <translation>已复制到剪贴板</translation>
     </message>
     <message>
         <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
@@ -3823,6 +4004,10 @@
         <translation>
             <numerusform>找到的设备比上次搜索少 %n 台</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>修改IP地址</translation>
     </message>
 </context>
 <context>
@@ -3903,6 +4088,28 @@
     <message>
         <source>密码</source>
         <translation>密码</translation>
+    </message>
+    <message numerus="yes">
+        <source>密码错误，已 %n 次</source>
+        <translation>
+            <numerusform>密码错误，已 %n 次</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备的应答：%1</source>
+        <translation>设备的应答：%1</translation>
+    </message>
+    <message>
+        <source>设备没有报告剩余的尝试次数。继续输错可能锁定账户。</source>
+        <translation>设备没有报告剩余的尝试次数。继续输错可能锁定账户。</translation>
+    </message>
+    <message>
+        <source>之后打开的设备也使用此账号</source>
+        <translation>之后打开的设备也使用此账号</translation>
+    </message>
+    <message>
+        <source>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</source>
+        <translation>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</translation>
     </message>
 </context>
 <context>
@@ -4060,6 +4267,10 @@
     <message>
         <source>搜索报告</source>
         <translation>搜索报告</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>已复制到剪贴板</translation>
     </message>
 </context>
 <context>
@@ -5812,10 +6023,6 @@
 </context>
 <context>
     <name>WindowPopups</name>
-    <message>
-        <source>已复制到剪贴板</source>
-        <translation>已复制到剪贴板</translation>
-    </message>
     <message>
         <source>停止并退出</source>
         <translation>停止并退出</translation>
