@@ -58,7 +58,7 @@ private:
                client.call(service, request, deadline).isOk();
     }
 
-    bool setTime(LLONG handle, std::int32_t year)
+    bool setTime(LLONG handle, std::uint32_t year)
     {
         const TimeRecord time = {.year = year, .month = 5, .day = 6, .hour = 7, .minute = 8, .second = 9};
         return m_net.NetSetDeviceSetting(handle, DeviceSetting::Time, -1, &time, sizeof(time), 5000ms);
