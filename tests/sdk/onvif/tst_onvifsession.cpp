@@ -2,9 +2,11 @@
 // was thought.
 #include "sdk/onvif/addresschange.h"
 #include "sdk/onvif/firstpassword.h"
+#include "sdk/onvif/livestreams.h"
 #include "sdk/onvif/session/onvifsession.h"
 #include "tests/cgi/rawserver.h"
 #include "tests/datatable.h"
+#include "tests/sdk/onvif/rtspserver.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -143,6 +145,14 @@ private:
 
 const HttpLogin login = {.account = "admin", .password = "secret1"};
 
+/// Notes the reason of an end.
+void noteEnd(std::int64_t, std::uint32_t type, const std::uint8_t *, std::uint32_t, std::int64_t parameter,
+             void *user)
+{
+    if (type == static_cast<std::uint32_t>(sdk::RealDataType::End))
+        static_cast<QList<std::int64_t> *>(user)->append(parameter);
+}
+
 quint32 code(NetError error)
 {
     return static_cast<quint32>(error);
@@ -261,6 +271,33 @@ private Q_SLOTS:
         // Of another device nothing is asked again.
         if (error == code(NetError::AddressInUse))
             QCOMPARE(device.requestsWith(QByteArray("Host: ") + newAddress, "UsernameToken"), 1);
+    }
+
+    void anEndBeforeTheFirstHandlerIsReported()
+    {
+        RtspScript script;
+        script.description = "v=0\r\nm=video 0 RTP/AVP 96\r\na=rtpmap:96 H264/90000\r\na=control:0\r\n";
+        script.account = "admin";
+        script.password = "secret1";
+        script.sessionTimeout = 2;
+        script.answers["GET_PARAMETER"] = "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\n\r\n";
+        // Slices of pictures that need an earlier one, in two packets.
+        for (const char *const packet :
+             {"80e0000100000e1000000007419a0010", "80e0000200001c2000000007419a0020"})
+            script.endless += framed({0, QByteArray::fromHex(packet)});
+        const RtspServer server(script);
+        RtspOrder order = {.url = server.url(), .account = "admin", .password = "secret1", .timeouts = {}};
+        std::atomic_bool isRefused = false;
+        LiveStreams streams;
+        NetError error = NetError::None;
+        const std::int64_t handle = streams.open(
+            1, "profile", order, [&isRefused] { isRefused = true; }, error);
+        QVERIFY(handle > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(isRefused, 10000); // by the request that keeps it alive
+        QList<std::int64_t> ends;
+        QTRY_VERIFY((streams.stream(handle)->setHandler(&noteEnd, &ends), !ends.isEmpty()));
+        QCOMPARE(ends, QList{static_cast<std::int64_t>(sdk::StreamEndReason::Refused)});
+        QVERIFY(streams.close(handle));
     }
 };
 
