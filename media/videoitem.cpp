@@ -30,11 +30,21 @@ sdk::SdkLibraries itemLibraries()
     return libraries;
 }
 
-/// Whether a stream of the channel is not there, and nothing speaks against another one.
+/// Whether nothing speaks against another stream of the channel: the device answers, and refuses this one
+/// only.
 bool isOfOneStream(std::uint32_t error)
 {
-    const auto code = static_cast<sdk::NetError>(error);
-    return code == sdk::NetError::NotSupported || code == sdk::NetError::InvalidValue;
+    switch (static_cast<sdk::NetError>(error)) {
+    case sdk::NetError::Refused:
+    case sdk::NetError::DeviceBusy:
+    case sdk::NetError::ConnectFailed:
+    case sdk::NetError::Cancelled:
+    case sdk::NetError::UnknownCertificate:
+    case sdk::NetError::ChangedCertificate:
+        return false;
+    default:
+        return !isDeviceAway(error) && !isLoginRefused(error);
+    }
 }
 
 /// Why a device gives no stream; empty for an error without a meaning of its own.

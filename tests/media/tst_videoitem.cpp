@@ -139,7 +139,7 @@ private Q_SLOTS:
     void saysWhyThereIsNoStream_data()
     {
         const auto row = dataTable<sdk::NetError, QString, bool>({"error", "text", "mayTryOther"});
-        row("unknown", sdk::NetError::None, "播放失败", false);
+        row("unknown", sdk::NetError::None, "播放失败", true);
         row("offline", sdk::NetError::ConnectTimeout, "播放失败：网络异常", false);
         row("no such stream", sdk::NetError::NotSupported, "播放失败：设备不支持此操作", true);
         row("missing right", sdk::NetError::Refused, "播放失败：设备拒绝了此操作", false);
