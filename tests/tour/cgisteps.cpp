@@ -96,20 +96,6 @@ void walkOneDevice(Driver &driver)
     driver.click(u"cgiStarButton"_s);
 }
 
-/// The device makes its own key, which is asked about before the password is sent.
-void walkEncrypted(Driver &driver)
-{
-    driver.fill(u"cgiSearchField"_s, u"192.168.1.121"_s);
-    driver.await(u"one device is left"_s, [&] { return Rows(driver, u"cgiTable"_s).count() == 1; });
-    const QString command = u"/cgi-bin/device?get=name"_s;
-    driver.check(send(driver, command).startsWith(u"Error:"_s), u"nothing is sent to an unknown key"_s);
-    driver.require(u"shownFingerprint"_s);
-    driver.report(u"cgi-certificate"_s, driver.text(u"certificateCount"_s));
-    driver.click(u"okButton"_s);
-    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"shownFingerprint"_s); });
-    driver.check(send(driver, command) == u"name=Backup recorder\n"_s, u"the device answers over HTTPS"_s);
-}
-
 void walkBatch(Driver &driver)
 {
     driver.fill(u"cgiSearchField"_s, u"B-2230"_s);
@@ -210,7 +196,6 @@ void walkCommands(Driver &driver, const QString &folder)
     driver.require(u"cgiTable"_s);
     driver.report(u"cgi"_s, u"%1 devices"_s.arg(Rows(driver, u"cgiTable"_s).count()));
     walkOneDevice(driver);
-    walkEncrypted(driver);
     walkBatch(driver);
     walkWorkbook(driver, folder);
     driver.fill(u"cgiSearchField"_s, QString());

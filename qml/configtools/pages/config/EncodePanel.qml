@@ -92,7 +92,7 @@ Item {
                     stream: root.form.subStream
                     streamTypes: root.form.subStreamTypes
                     title: qsTr("辅码流")
-                    visible: root.form.subStream.exists
+                    visible: root.work.subStream.exists
                     onChangeRequested: (key, value) => root.work.set(key, value)
                 }
             }
