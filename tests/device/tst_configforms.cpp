@@ -138,9 +138,10 @@ private Q_SLOTS:
         form.setDeviceFactory(&m_factory);
         QVERIFY(!form.isComplete());
         QVERIFY(!form.channels().isEmpty());
-        for (const QVariantMap &stream : {form.mainStream(), form.subStream()}) {
+        for (QVariantMap stream : {form.mainStream(), form.subStream()}) {
+            QVERIFY(stream.take("exists").toBool() && stream.take("hasAudio").toBool());
             QCOMPARE(stream.size(), 10);
-            for (const QVariant &setting : stream)
+            for (const QVariant &setting : std::as_const(stream))
                 QCOMPARE(setting.toMap().keys(), QStringList({"changed", "choices", "index", "key", "maximum",
                                                               "minimum", "names", "usable", "value"}));
             QCOMPARE(of(stream, "encodeMode", "index").toInt(), -1);
