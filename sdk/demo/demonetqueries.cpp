@@ -51,8 +51,11 @@ NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSes
         return m_sessions.session(session.handle) ? NetError::Cancelled : NetError::SessionEnded;
     if (!hasAnswer)
         return NetError::ConnectTimeout;
+    // The connection went with the restart. The login is not refused: it may be sent again without asking.
+    if (session.hasEnded)
+        return NetError::NetworkFailure;
     const SceneAccount *account = accountOf(*device, session.account);
-    if (session.hasEnded || !account || account->password != session.password)
+    if (!account || account->password != session.password)
         return NetError::SessionEnded;
     noteRequest(*device);
     return NetError::None;

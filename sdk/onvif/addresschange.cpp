@@ -124,6 +124,7 @@ private:
 std::vector<std::string> macsOf(const std::vector<DeviceInterface> &interfaces, const std::string &address)
 {
     std::vector<std::string> macs;
+    macs.reserve(interfaces.size());
     for (const DeviceInterface &interface : interfaces)
         macs.push_back(interface.mac);
     macs.push_back(neighbourMac(address));

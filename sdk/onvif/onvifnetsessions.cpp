@@ -50,8 +50,8 @@ NetError readAttributes(OnvifSession &session, DeviceAttributes &attributes, Onv
     return NetError::None;
 }
 
-/// What says most of a session that has ended: whether its device is offline still, or there with another
-/// key.
+/// The error of a session whose device has restarted: it is still offline, or has another key; otherwise the
+/// connection is lost. The login is not refused: it may be sent again without asking the user.
 NetError errorOfEnded(OnvifSession &session, OnvifSession::Deadline deadline)
 {
     const NetError error = session.device(deadline).information().error;
@@ -62,7 +62,7 @@ NetError errorOfEnded(OnvifSession &session, OnvifSession::Deadline deadline)
     case NetError::ChangedCertificate:
         return error;
     default:
-        return NetError::SessionEnded;
+        return NetError::NetworkFailure;
     }
 }
 
