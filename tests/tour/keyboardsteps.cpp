@@ -41,7 +41,11 @@ void take(const Driver &driver, const QString &entry)
 void walkWayToTheTable(Driver &driver)
 {
     driver.key(Qt::Key_1, Qt::ControlModifier);
-    driver.await(u"the table has the keyboard"_s, [&] { return hasKeyboard(driver, u"tableRows"_s); });
+    // The control that was used last on the page has the keyboard again.
+    constexpr int furthest = 5;
+    for (int tab = 0; tab < furthest && !hasKeyboard(driver, u"tableRows"_s); ++tab)
+        driver.key(Qt::Key_Tab);
+    driver.check(hasKeyboard(driver, u"tableRows"_s), u"the table has the keyboard"_s);
     int tabs = 0;
     do {
         driver.key(Qt::Key_Tab);
