@@ -190,7 +190,7 @@ private Q_SLOTS:
         const StepOutcome outcome = read(camera);
         QCOMPARE(outcome.result, 0);
         // Time passes on the site as fast as requests wait.
-        const QRegularExpression text("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d，快 3 小时 1 分$");
+        static const QRegularExpression text("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d，快 3 小时 1 分$");
         QVERIFY2(text.match(outcome.text).hasMatch(), qPrintable(outcome.text));
         QCOMPARE(read(absent), (StepOutcome{.result = 5, .text = {}}));
         QCOMPARE(asked("NetLogout"), asked("NetLoginSecure") - 1);
