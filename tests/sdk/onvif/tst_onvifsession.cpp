@@ -301,7 +301,5 @@ private Q_SLOTS:
     }
 };
 
-Q_DECLARE_METATYPE(Manners)
-
 QTEST_GUILESS_MAIN(OnvifSessionTest)
 #include "tst_onvifsession.moc"
