@@ -89,12 +89,15 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
            program.exitCode() == EXIT_SUCCESS;
 }
 
-/// Starts the program with a large site, then with the usual one, and waits for the one that follows that.
+/// Starts the program with a large site, then twice with the usual one, and waits for the one that follows
+/// that.
 int watch(const QString &language, const QString &folder)
 {
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
-    if (!runStage(u"fleet"_s, language, folder + u"/fleet"_s) || !runStage(u"program"_s, language, folder)) {
+    if (!runStage(u"fleet"_s, language, folder + u"/fleet"_s) ||
+        !runStage(u"keyboard"_s, language, folder + u"/keyboard"_s) ||
+        !runStage(u"program"_s, language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
     }
@@ -138,7 +141,6 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkLists(driver, folder + u"/lists"_s);
     walkUpgrade(driver, site, folder + u"/upgrade"_s);
     walkSystem(driver, site);
-    walkKeyboard(driver, site);
     walkSecondStart(driver, folder);
     driver.check(warnings == 0, u"no warning was given"_s);
     driver.check(writeFile(restartFile(folder), "restarted"), u"the restart is noted"_s);
@@ -149,6 +151,15 @@ void driveFleet(Driver &driver, sdk::demo::DemoSite &site, const QString &folder
 {
     walkFleet(driver, site);
     walkBatches(driver, site, folder);
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
+}
+
+/// A user without a mouse, from the first start on.
+void driveKeyboard(Driver &driver, sdk::demo::DemoSite &site)
+{
+    walkFirstSearch(driver);
+    walkKeyboard(driver, site);
     driver.check(warnings == 0, u"no warning was given"_s);
     driver.click(u"closeButton"_s);
 }
@@ -203,6 +214,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
         auto &site = dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site();
         if (isFleet)
             driveFleet(driver, site, folder);
+        else if (qgetenv(stageVariable) == "keyboard")
+            driveKeyboard(driver, site);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else
