@@ -159,6 +159,13 @@ void walkNaming(Driver &driver)
 {
     goTo(driver, u"configTab0"_s, Qt::Key_Tab, 5);
     driver.key(Qt::Key_Right);
+    // The tabs take no keys while the image settings are read.
+    driver.await(u"the tabs take keys"_s, [&] {
+        return driver.find(u"configTab1"_s) && driver.find(u"configTab1"_s)->isEnabled() &&
+               driver.find(u"imageDefaultsButton"_s) && driver.find(u"imageDefaultsButton"_s)->isEnabled();
+    });
+    constexpr int roundTheWindow = 20;
+    goTo(driver, u"configTab1"_s, Qt::Key_Tab, roundTheWindow);
     driver.key(Qt::Key_Right);
     driver.require(u"nameTable"_s);
     goTo(driver, u"tableRows"_s, Qt::Key_Tab, 5);
