@@ -257,8 +257,7 @@ QVariantMap EncodeForm::stream(bool isSub)
     QVariantMap map = {
         {QStringLiteral("encodeMode"), choice(key("encodeMode"), key("curEncodeMode"))},
         {QStringLiteral("resolution"), choice(key("resolution"), key("curResolution"))},
-        {QStringLiteral("control"),
-         number(key("bitstreamControl"), value(key("bitstreamControlMin")).toInt(), 1)},
+        {QStringLiteral("control"), number(key("bitstreamControl"), 0, 1)},
         {QStringLiteral("bitRate"), bitRate(key("bitStream"), key("curBitStream"), key("bitRate"))},
         {QStringLiteral("frameRate"), number(key("frameRate"), 1, value(key("frameRateMax")).toInt())},
         {QStringLiteral("quality"), number(key("quality"), 1, bestQuality)},

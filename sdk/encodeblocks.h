@@ -149,8 +149,7 @@ struct EncodeCapabilityBlock
     std::uint32_t missingValues;                        ///< EncodeValue: bit N is set if it is missing
     std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if the device does not report them
     std::array<AudioRate, maximumAudioRates> audioRates;
-    std::uint8_t lacksConstantBitRate; ///< 1: the bit rate is variable, and cannot be fixed
-    std::array<std::uint8_t, 35> reserved;
+    std::array<std::uint8_t, 36> reserved;
 };
 static_assert(sizeof(EncodeCapabilityBlock) == 4976);
 static_assert(offsetof(EncodeCapabilityBlock, missingValues) == 4740);

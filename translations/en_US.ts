@@ -1886,6 +1886,14 @@ Right-click to copy the result</translation>
         <translation>bit rate of the main stream</translation>
     </message>
     <message>
+        <source>辅码流码率控制</source>
+        <translation>bit rate control of the sub stream</translation>
+    </message>
+    <message>
+        <source>主码流码率控制</source>
+        <translation>bit rate control of the main stream</translation>
+    </message>
+    <message>
         <source>辅码流帧率</source>
         <translation>frame rate of the sub stream</translation>
     </message>

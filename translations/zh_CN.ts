@@ -1862,6 +1862,14 @@
         <translation>主码流码率</translation>
     </message>
     <message>
+        <source>辅码流码率控制</source>
+        <translation>辅码流码率控制</translation>
+    </message>
+    <message>
+        <source>主码流码率控制</source>
+        <translation>主码流码率控制</translation>
+    </message>
+    <message>
         <source>辅码流帧率</source>
         <translation>辅码流帧率</translation>
     </message>

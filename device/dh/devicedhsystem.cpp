@@ -11,6 +11,8 @@
 
 #include <QDateTime>
 
+#include <functional>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -42,6 +44,22 @@ QString reasonOf(std::uint32_t libraryError)
     const bool saysMore = result == LoginResult::NotSupported || result == LoginResult::InvalidValue ||
                           result == LoginResult::SessionEnded;
     return saysMore ? resultName(resultCode(result)) : QString();
+}
+
+/// Runs `work` in a login of its own, unless the step ends first. The outcome of a login that fails is its
+/// result.
+StepOutcome inLogin(sdk::NetLibrary &net, const QString &ipport, const QString &account,
+                    const QString &password, const StepControl &control,
+                    const std::function<StepOutcome(sdk::LLONG loginHandle)> &work)
+{
+    const SecureLogin login = secureLogin(&net, ipport, account, password);
+    if (login.result != LoginResult::Success)
+        return {.result = resultCode(login.result), .text = {}};
+    StepOutcome outcome = {.result = resultCode(LoginResult::NotDone), .text = {}};
+    if (!control.shouldEnd())
+        outcome = work(login.handle);
+    net.NetLogout(login.handle);
+    return outcome;
 }
 
 } // namespace
@@ -101,54 +119,46 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
 StepOutcome CDeviceDH::performOn(const QString &ipport, const Credentials &credentials,
                                  const QString &command, const QVariantMap &data, const StepControl &control)
 {
-    const SecureLogin login =
-        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
-    StepOutcome outcome = {.result = resultCode(login.result), .text = {}};
-    if (login.result != LoginResult::Success)
-        return outcome;
-    outcome.result = resultCode(LoginResult::NotDone);
-    if (!control.shouldEnd()) {
-        QVariantMap values = data;
-        if (data.value(QStringLiteral("timeOfRequest")).toBool())
-            values.insert(QStringLiteral("time"),
-                          QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-        // What no device could accept is not sent, but a device that cannot be logged in to still says so.
-        const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
-        if (!action)
-            qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
-        const bool isDone = action && (*action)(login.handle);
-        outcome.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice;
-        outcome.isUnanswered = action && !isDone && isDeviceAway(m_libraries.net->NetGetLastError());
-        if (outcome.isUnanswered)
-            outcome.text = tr("设备没有应答");
-        else if (action && !isDone)
-            outcome.text = reasonOf(m_libraries.net->NetGetLastError());
-    }
-    m_libraries.net->NetLogout(login.handle);
-    return outcome;
+    sdk::NetLibrary &net = *m_libraries.net;
+    return inLogin(
+        net, ipport, credentials.account, credentials.password, control, [&](sdk::LLONG loginHandle) {
+            QVariantMap values = data;
+            if (data.value(QStringLiteral("timeOfRequest")).toBool())
+                values.insert(QStringLiteral("time"),
+                              QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+            // What no device could accept is not sent, but a device that cannot be logged in to still says
+            // so.
+            const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
+            if (!action)
+                qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
+            const bool isDone = action && (*action)(loginHandle);
+            StepOutcome outcome = {.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice,
+                                   .text = {}};
+            outcome.isUnanswered = action && !isDone && isDeviceAway(net.NetGetLastError());
+            if (outcome.isUnanswered)
+                outcome.text = tr("设备没有应答");
+            else if (action && !isDone)
+                outcome.text = reasonOf(net.NetGetLastError());
+            return outcome;
+        });
 }
 
 StepOutcome CDeviceDH::readClock(const QString &ipport, const Credentials &credentials,
                                  const StepControl &control)
 {
-    const SecureLogin login =
-        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
-    StepOutcome outcome = {.result = resultCode(login.result), .text = {}};
-    if (login.result != LoginResult::Success)
-        return outcome;
-    outcome.result = resultCode(LoginResult::NotDone);
-    if (!control.shouldEnd()) {
-        if (const std::optional<QDateTime> time = readDeviceClock(*m_libraries.net, login.handle)) {
-            outcome.result = resultCode(LoginResult::Success);
-            outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
-        } else {
-            outcome.result = refusedByDevice;
-            outcome.isUnanswered = isDeviceAway(m_libraries.net->NetGetLastError());
-            outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
-        }
-    }
-    m_libraries.net->NetLogout(login.handle);
-    return outcome;
+    sdk::NetLibrary &net = *m_libraries.net;
+    return inLogin(
+        net, ipport, credentials.account, credentials.password, control, [&net](sdk::LLONG loginHandle) {
+            StepOutcome outcome = {.result = resultCode(LoginResult::Success), .text = {}};
+            if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle)) {
+                outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
+            } else {
+                outcome.result = refusedByDevice;
+                outcome.isUnanswered = isDeviceAway(net.NetGetLastError());
+                outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
+            }
+            return outcome;
+        });
 }
 
 int CDeviceDH::checkPassword(const QString &ipport, const QString &account, const QString &password)

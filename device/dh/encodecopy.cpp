@@ -17,6 +17,7 @@ public:
     static QString compression(bool isSub) { return isSub ? tr("辅码流编码模式") : tr("主码流编码模式"); }
     static QString resolution(bool isSub) { return isSub ? tr("辅码流分辨率") : tr("主码流分辨率"); }
     static QString bitRate(bool isSub) { return isSub ? tr("辅码流码率") : tr("主码流码率"); }
+    static QString bitRateControl(bool isSub) { return isSub ? tr("辅码流码率控制") : tr("主码流码率控制"); }
     static QString frameRate(bool isSub) { return isSub ? tr("辅码流帧率") : tr("主码流帧率"); }
     static QString audio(bool isSub) { return isSub ? tr("辅码流音频编码") : tr("主码流音频编码"); }
 };
@@ -58,8 +59,8 @@ QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, b
 }
 
 /// The same for the other values of the picture.
-QStringList takeRates(const sdk::EncodeCapabilityBlock &block, const EncodeItems &from, bool isSub,
-                      EncodeItems &to)
+QStringList takeRates(const EncodeChoices &choices, const sdk::EncodeCapabilityBlock &block,
+                      const EncodeItems &from, bool isSub, EncodeItems &to)
 {
     const sdk::VideoFormatItem &wanted = from.videoFormat;
     sdk::VideoFormatItem &video = to.videoFormat;
@@ -73,8 +74,10 @@ QStringList takeRates(const sdk::EncodeCapabilityBlock &block, const EncodeItems
     else
         skipped.append(SettingNames::frameRate(isSub));
     video.videoEnable = wanted.videoEnable;
-    if (block.lacksConstantBitRate == 0)
+    if (!choices.isMissing(sdk::EncodeValue::BitRateControl))
         video.bitRateControl = wanted.bitRateControl;
+    else if (video.bitRateControl != wanted.bitRateControl)
+        skipped.append(SettingNames::bitRateControl(isSub));
     video.quality = wanted.quality;
     return skipped;
 }
@@ -155,10 +158,10 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);
     refreshEncodeCapabilities(session, channels.curChannel, to);
     if (hasMain)
-        outcome.skipped += takeRates(main, from.main, false, to.main);
+        outcome.skipped += takeRates(mainChoices, main, from.main, false, to.main);
     outcome.skipped += takeAudio(mainChoices, from.main, false, to.main);
     if (hasSub)
-        outcome.skipped += takeRates(sub, from.sub, true, to.sub);
+        outcome.skipped += takeRates(subChoices, sub, from.sub, true, to.sub);
     outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
     const QList<int> leftOut = itemsLeftOut(from);
     // Nothing more is said of what one of the devices does not have.

@@ -48,7 +48,6 @@ const QSet<QString> &streamFields()
                                          QStringLiteral("encodeMode"),
                                          QStringLiteral("curEncodeMode"),
                                          QStringLiteral("bitstreamControl"),
-                                         QStringLiteral("bitstreamControlMin"),
                                          QStringLiteral("audioEnable"),
                                          QStringLiteral("audioCompression"),
                                          QStringLiteral("curAudioCompression"),
@@ -188,8 +187,6 @@ QVariant EncodeValues::streamValue(const QString &field, bool isSub, const Encod
     }
     if (field == QLatin1String("bitstreamControl"))
         return video.bitRateControl != 0 ? 1 : 0;
-    if (field == QLatin1String("bitstreamControlMin"))
-        return block.lacksConstantBitRate != 0 ? 1 : 0;
     if (field == QLatin1String("audioEnable"))
         return items.audioCompression.audioEnable != 0 ? 1 : 0;
     if (field == QLatin1String("curAudioCompression"))

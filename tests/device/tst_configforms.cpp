@@ -107,7 +107,7 @@ private Q_SLOTS:
         EncodeForm form;
         form.setDeviceFactory(&m_factory);
         QVERIFY(of(form.mainStream(), "control", "usable").toBool());
-        m_backEnd->values.insert("bitstreamControlMin", 1);
+        m_backEnd->values.insert("missingSettings", QStringList("control"));
         EncodeForm limited;
         limited.setDeviceFactory(&m_factory);
         QVERIFY(!of(limited.mainStream(), "control", "usable").toBool());

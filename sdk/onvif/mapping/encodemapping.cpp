@@ -206,19 +206,20 @@ constexpr std::uint32_t bit(EncodeValue value)
 void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
 {
     block.missingValues = bit(EncodeValue::StreamSwitch) | bit(EncodeValue::AudioSwitch);
-    if (std::none_of(stream.options.begin(), stream.options.end(),
-                     [](const VideoEncodingOptions &options) { return options.offersConstantBitRate; }))
+    const bool offersConstant =
+        stream.profile.video->constantBitRate ||
+        std::any_of(stream.options.begin(), stream.options.end(),
+                    [](const VideoEncodingOptions &options) { return options.offersConstantBitRate; });
+    if (!offersConstant)
         block.missingValues |= bit(EncodeValue::BitRateControl);
     block.sizesDependOnCompression = 1;
     block.minimumBitRate = usualMinimumBitRate;
     block.maximumBitRate = 0;
-    bool offersConstant = stream.profile.video->constantBitRate;
     for (const VideoEncodingOptions &options : stream.options) {
         const int code = compressionOf(options.encoding);
         if (code < 0)
             continue;
         block.compressionMask |= 1U << static_cast<unsigned>(code);
-        offersConstant = offersConstant || options.offersConstantBitRate;
         PictureSizeList &list = block.sizesByCompression[static_cast<std::size_t>(code)];
         for (const auto &[width, height] : options.sizes) {
             if (list.count < maximumPictureSizes && width <= 65535 && height <= 65535)
@@ -236,7 +237,6 @@ void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
                 block.profiles[block.profileCount++] = number;
         }
     }
-    block.lacksConstantBitRate = offersConstant ? 0 : 1;
     if (block.maximumBitRate == 0)
         block.maximumBitRate = usualMaximumBitRate;
     if (block.maximumFrameRate == 0)

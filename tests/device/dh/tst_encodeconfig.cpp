@@ -70,12 +70,15 @@ private:
     }
 
     /// Copies the settings of `source` to `target`: what its row says then.
-    QString copy(const SceneDevice &source, const SceneDevice &target)
+    /// `prepare` runs when the source has been read.
+    QString copy(
+        const SceneDevice &source, const SceneDevice &target, const std::function<void()> &prepare = [] {})
     {
         m_site = std::make_unique<ConfigSite>(QList{source, target});
         m_site->factory->getLoginDevice("dh", target.address, "admin", "secret1", "37777");
         if (m_site->login(source) != 0 || read() != 0)
             return QStringLiteral("not read");
+        prepare();
         QSignalSpy results(m_site->factory.get(), &CDeviceFactory::signalRetToCopyConfig);
         m_site->factory->copyConfigToDevice("dh", {ipportOf(target)});
         if (results.size() != 1 || results.first().at(1).toInt() != 0)
@@ -375,6 +378,20 @@ private Q_SLOTS:
         QCOMPARE(m_site->asked("NetSetItem").size(), 7 - names.count("、"));
         QVERIFY(written(item, 1).isEmpty());
         QCOMPARE(skipped, "未复制：" + names);
+    }
+
+    void aCopyKeepsTheBitRateControlOfADeviceThatHasNoChoice()
+    {
+        const QString skipped = copy(modernCamera(), configDevice(6, "IPC", 1), [this] {
+            m_site->set("bitstreamControl", 0);
+            QCOMPARE(confirm(), "");
+            m_site->net->changeEncodeCapabilities = [](sdk::EncodeCapabilities &capabilities) {
+                for (sdk::EncodeCapabilityBlock &block : capabilities.blocks)
+                    block.missingValues |= 1U << static_cast<unsigned>(sdk::EncodeValue::BitRateControl);
+            };
+        });
+        QCOMPARE(skipped, "未复制：主码流码率控制");
+        QCOMPARE(written(1100, 1).value("bitRateControl").toInt(), 1);
     }
 
     void aCopyLeavesProfilesThatTheSourceDoesNotHave_data()

@@ -4,6 +4,7 @@
 #include "sdk/onvif/onvifnetlibrary.h"
 #include "sdk/onvif/services/deviceservice.h"
 #include "tests/datatable.h"
+#include "tests/sdk/netlogin.h"
 
 using namespace sdk;
 using namespace std::chrono_literals;
@@ -29,15 +30,7 @@ private:
 
     LLONG login(const QByteArray &address, const char *account = "admin")
     {
-        LoginSecureInput input{};
-        input.size = sizeof(input);
-        input.port = 80;
-        setBlockText(input.address, address.toStdString());
-        setBlockText(input.account, account);
-        setBlockText(input.password, password);
-        LoginSecureOutput output{};
-        output.size = sizeof(output);
-        return m_net.NetLoginSecure(input, output);
+        return logIn(m_net, address.constData(), account, password);
     }
 
     /// Makes the account "operator", which may not set the clock.

@@ -5,13 +5,11 @@
 #include "sdk/configrecords.h"
 #include "sdk/configtext/configtext.h"
 #include "sdk/encodeblocks.h"
-#include "sdk/onvif/discovery/discoverysockets.h"
-#include "sdk/onvif/discovery/probemessage.h"
 #include "sdk/onvif/onvifnetlibrary.h"
-#include "sdk/searchreportblocks.h"
 #include "sdk/systemrecords.h"
 #include "tests/datatable.h"
 #include "tests/sdk/netlogin.h"
+#include "tests/sdk/onvif/searchanswers.h"
 
 #include <QTemporaryDir>
 
@@ -26,57 +24,6 @@ namespace {
 const char *const account = "admin";
 const char *const password = "Office-2024";
 
-/// What a search has delivered, by address.
-class Answers
-{
-public:
-    static void take(std::int64_t, const SearchAnswer *answer, void *user)
-    {
-        auto *self = static_cast<Answers *>(user);
-        const std::scoped_lock lock(self->m_mutex);
-        self->m_answers.insert(textOf(answer->device.address), *answer);
-        self->m_uuids.insert(textOf(answer->device.address), textOf(answer->device.uuid));
-    }
-
-    /// Of all devices that were reported with the address.
-    [[nodiscard]] QStringList uuidsAt(const QString &address) const
-    {
-        const std::scoped_lock lock(m_mutex);
-        QStringList uuids = m_uuids.values(address);
-        uuids.sort();
-        return uuids;
-    }
-
-    [[nodiscard]] bool has(const QString &address) const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_answers.contains(address);
-    }
-
-    [[nodiscard]] SearchDeviceInformation device(const QString &address) const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_answers.value(address).device;
-    }
-
-    [[nodiscard]] int count() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return static_cast<int>(m_answers.size());
-    }
-
-    template<std::size_t size>
-    static QString textOf(const std::array<char, size> &field)
-    {
-        return QString::fromStdString(std::string(blockText(field)));
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    QHash<QString, SearchAnswer> m_answers;
-    QMultiHash<QString, QString> m_uuids; ///< by address
-};
-
 template<typename Item>
 Item itemOf(std::int32_t stream = 0)
 {
@@ -85,14 +32,6 @@ Item itemOf(std::int32_t stream = 0)
     if constexpr (requires { item.stream; })
         item.stream = stream;
     return item;
-}
-
-/// A message of discovery as a device sends it: "Hello", "Bye" with what is in it.
-std::string discoveryMessage(const std::string &name, const std::string &content)
-{
-    return R"(<Envelope xmlns="http://www.w3.org/2003/05/soap-envelope"><Body><q:)" + name +
-           R"( xmlns:q="http://schemas.xmlsoap.org/ws/2005/04/discovery">)" + content + "</q:" + name +
-           "></Body></Envelope>";
 }
 
 quint32 code(NetError error)
@@ -167,17 +106,6 @@ private:
         return logIn(m_net, address, account, secret);
     }
 
-    SearchDeviceInformation found(const QString &address)
-    {
-        Answers answers;
-        SearchByAddressesRequest request{};
-        request.size = sizeof(request);
-        request.count = 1;
-        setBlockText(request.addresses[0], address.toStdString());
-        m_net.NetSearchDeviceByIp(request, &Answers::take, &answers, 3000ms);
-        return answers.device(address);
-    }
-
     /// Empty while the device is away.
     QString versionOf(const char *address)
     {
@@ -187,7 +115,7 @@ private:
         m_net.NetQueryConfig(handle, QueryCommand::DeviceAttributes, 0, &attributes, sizeof(attributes),
                              returned, 3000ms);
         m_net.NetLogout(handle);
-        return Answers::textOf(attributes.softwareVersion);
+        return SearchAnswers::textOf(attributes.softwareVersion);
     }
 
     template<typename Record>
@@ -216,118 +144,6 @@ private Q_SLOTS:
 
     void cleanupTestCase() { m_net.NetCleanup(); }
 
-    void findsTheDevicesOfTheNetwork()
-    {
-        Answers answers;
-        SearchParameter parameter{};
-        parameter.size = sizeof(parameter);
-        parameter.handler = &Answers::take;
-        parameter.user = &answers;
-        const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
-        QVERIFY(search > 0);
-        QTRY_VERIFY_WITH_TIMEOUT(answers.has(u"192.168.1.101"_s) && answers.has(u"192.168.1.108"_s) &&
-                                     answers.has(u"192.168.1.120"_s),
-                                 10000);
-        QVERIFY(m_net.NetStopSearchDevices(search));
-        QVERIFY(!m_net.NetStopSearchDevices(search));
-        const SearchDeviceInformation camera = answers.device(u"192.168.1.101"_s);
-        QCOMPARE(Answers::textOf(camera.mac), u"02:1a:c5:00:40:25"_s);
-        QCOMPARE(Answers::textOf(camera.deviceName), u"大门"_s);
-        QCOMPARE(Answers::textOf(camera.detailModel), u"B-2230-IR"_s);
-        QCOMPARE(camera.port, 80);
-        QVERIFY(initialisationBits(camera.initialisationState) == InitialisationBits::Initialised);
-        const SearchDeviceInformation factoryNew = answers.device(u"192.168.1.108"_s);
-        QVERIFY(initialisationBits(factoryNew.initialisationState) == InitialisationBits::Uninitialised);
-    }
-
-    /// Messages that this computer sends to itself represent those of other hosts.
-    void reportsWhatASearchReceived()
-    {
-        Answers answers;
-        const SearchParameter parameter = {
-            .size = sizeof(parameter), .reserved = 0, .handler = &Answers::take, .user = &answers};
-        const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
-        QVERIFY(search > 0);
-        QTRY_VERIFY_WITH_TIMEOUT(answers.has(u"192.168.1.101"_s), 10000);
-        onvif::DiscoverySockets sockets;
-        QVERIFY(sockets.open() > 0);
-        const QList<std::string> messages = {
-            "no message at all", discoveryMessage("Hello", R"(<q:Types xmlns:w="u">w:Printer</q:Types>)"),
-            discoveryMessage("Hello", ""), // nothing of this computer answers at the usual port
-            discoveryMessage("Hello", "<q:XAddrs>http://192.168.1.101:81/x</q:XAddrs>"),
-            discoveryMessage("Bye", "")};
-        for (const std::string &message : messages)
-            sockets.sendToGroups(message, [](const std::string &, int) {});
-
-        SearchReport report{};
-        report.size = sizeof(report);
-        const auto discarded = [&report](SearchDiscard reason) {
-            return report.interfaces[0].discarded[static_cast<std::size_t>(reason)];
-        };
-        const auto isComplete = [&] {
-            return m_net.NetGetSearchReport(report) && discarded(SearchDiscard::NoService) == 1 &&
-                   discarded(SearchDiscard::ForeignAddress) == 1 && discarded(SearchDiscard::Leaving) == 1;
-        };
-        QTRY_VERIFY_WITH_TIMEOUT(isComplete(), 10000);
-        QVERIFY(m_net.NetStopSearchDevices(search));
-        QVERIFY(!answers.has(u"192.168.1.250"_s));
-        QVERIFY(m_net.NetGetSearchReport(report));
-        QCOMPARE(discarded(SearchDiscard::Unreadable), 1U);
-        QCOMPARE(discarded(SearchDiscard::OtherKind), 1U);
-        const SearchInterfaceReport &interface = report.interfaces[0];
-        QCOMPARE(Answers::textOf(interface.address), u"192.168.1.250"_s);
-        QCOMPARE(interface.prefixLength, 24);
-        QVERIFY(interface.requestsSent >= 4 && interface.messagesReceived > interface.devicesFound);
-        QVERIFY(interface.devicesFound > 0 && interface.obstacles == 0);
-        QCOMPARE(report.addressesAsked, 0U);
-
-        SearchByAddressesRequest request{};
-        request.size = sizeof(request);
-        request.count = 3;
-        setBlockText(request.addresses[0], "192.168.1.101");
-        setBlockText(request.addresses[1], "192.168.1.199");
-        setBlockText(request.addresses[2], "203.0.113.1");
-        m_net.NetSearchDevicesByIPs(request, &Answers::take, &answers, "0.0.0.0", 3000ms);
-        QVERIFY(m_net.NetGetSearchReport(report));
-        QCOMPARE(report.addressesAsked, 3U);
-        QCOMPARE(report.addressesAnswered, 1U);
-        QCOMPARE(report.addressesNoRoute, 1U);
-        report.size = 1;
-        QVERIFY(!m_net.NetGetSearchReport(report));
-    }
-
-    /// Factory-new devices have the same address: each is listed, also where a flood of foreign ones that
-    /// cannot be reached is asked before them.
-    void listsDevicesThatShareAnAddress()
-    {
-        Answers answers;
-        const SearchParameter parameter = {
-            .size = sizeof(parameter), .reserved = 0, .handler = &Answers::take, .user = &answers};
-        const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
-        QVERIFY(search > 0);
-        onvif::DiscoverySockets sockets;
-        QVERIFY(sockets.open() > 0);
-        const QString uuid = u"5f5a69c2-e0ae-504f-829b-0000000000%1"_s;
-        QStringList uuids;
-        for (int device = 10; device < 16; ++device) {
-            uuids.append(uuid.arg(device));
-            const QString content =
-                uR"(<a:EndpointReference xmlns:a="http://schemas.xmlsoap.org/ws/2004/08/addressing">)"
-                uR"(<a:Address>urn:uuid:%1</a:Address></a:EndpointReference>)"
-                u"<q:XAddrs>http://192.168.1.250:81/x</q:XAddrs>"_s;
-            sockets.sendToGroups(discoveryMessage("Hello", content.arg(uuids.last()).toStdString()),
-                                 [](const std::string &, int) {});
-        }
-        QTRY_COMPARE_WITH_TIMEOUT(answers.uuidsAt(u"192.168.1.250"_s), uuids, 10000);
-        QVERIFY(m_net.NetStopSearchDevices(search));
-    }
-
-    void asksSingleAddresses()
-    {
-        QCOMPARE(Answers::textOf(found(u"192.168.1.103"_s).detailModel), u"B-2812-Z4"_s);
-        QVERIFY(found(u"192.168.1.199"_s).mac[0] == '\0');
-    }
-
     void tellsWhyALoginFails_data()
     {
         const auto row = dataTable<QByteArray, QByteArray, quint32>({"address", "secret", "error"});
@@ -354,12 +170,12 @@ private Q_SLOTS:
         std::uint32_t returned = 0;
         QVERIFY(m_net.NetQueryConfig(handle, QueryCommand::DeviceAttributes, 0, &attributes,
                                      sizeof(attributes), returned, 3000ms));
-        QCOMPARE(Answers::textOf(attributes.mac), u"02:1a:c5:00:40:25"_s);
+        QCOMPARE(SearchAnswers::textOf(attributes.mac), u"02:1a:c5:00:40:25"_s);
         QCOMPARE(attributes.videoInputs, 1);
         const auto network = configuration<NetworkRecord>(handle, "Network");
         QVERIFY(network);
-        QCOMPARE(Answers::textOf(network->address), u"192.168.1.101"_s);
-        QCOMPARE(Answers::textOf(network->subnetMask), u"255.255.255.0"_s);
+        QCOMPARE(SearchAnswers::textOf(network->address), u"192.168.1.101"_s);
+        QCOMPARE(SearchAnswers::textOf(network->subnetMask), u"255.255.255.0"_s);
         QVERIFY(!configuration<AutoMaintainRecord>(handle, "AutoMaintain"));
         QCOMPARE(m_net.NetGetLastError(), code(NetError::NotSupported));
         QVERIFY(m_net.NetLogout(handle));
@@ -377,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(setConfiguration(handle, "NTP", ntp));
         const auto read = configuration<NtpRecord>(handle, "NTP");
         QVERIFY(read && read->enabled == 1 && read->timeZone == 13);
-        QCOMPARE(Answers::textOf(read->address), u"192.168.1.1"_s);
+        QCOMPARE(SearchAnswers::textOf(read->address), u"192.168.1.1"_s);
 
         LocalesRecord locales{};
         locales.daylightSavingEnabled = 1;
@@ -554,7 +370,7 @@ private Q_SLOTS:
     {
         ModifyDeviceInput input{};
         input.size = sizeof(input);
-        input.device = found(u"192.168.1.130"_s);
+        input.device = SearchAnswers::found(m_net, u"192.168.1.130"_s);
         QVERIFY(input.device.port == 80);
         input.device.currentAddress = input.device.address;
         setBlockText(input.device.address, "192.168.1.230");
