@@ -41,7 +41,8 @@ Rectangle {
 
                 implicitWidth: label.implicitWidth + 28
                 implicitHeight: Theme.tabBarHeight
-                focusPolicy: current ? Qt.StrongFocus : Qt.ClickFocus  // the arrow keys lead to the others
+                // The arrow keys lead to the other tabs. A tab keeps its Tab stop as long as it has the focus.
+                focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 objectName: root.namePrefix + index
                 ownArrows: true
                 text: modelData

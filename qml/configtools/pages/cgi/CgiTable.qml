@@ -97,7 +97,7 @@ OVTable {
                 implicitWidth: Theme.unit * 3
                 implicitHeight: Theme.unit * 3
                 enabled: answer.words !== ""
-                focusPolicy: answer.current ? Qt.StrongFocus : Qt.NoFocus
+                focusPolicy: answer.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 iconName: "stretch"
                 iconSize: Theme.smallIconSize
                 objectName: "cgiAnswerOpen" + answer.rowIndex
@@ -186,7 +186,7 @@ OVTable {
             OVLinkButton {
                 anchors.verticalCenter: parent.verticalCenter
                 enabled: !action.upgrading
-                focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                focusPolicy: action.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 objectName: "cgiSend" + action.rowIndex
                 text: qsTr("配置")
                 toolTip: action.upgrading ? qsTr("设备正在升级，不能发送CGI命令") : qsTr("向这台设备发送CGI命令")

@@ -163,14 +163,14 @@ OVTable {
                 spacing: Theme.controlGap
 
                 OVLinkButton {
-                    focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                    focusPolicy: action.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                     objectName: "upgradeFile" + action.rowIndex
                     text: qsTr("选择文件")
                     visible: !action.running
                     onClicked: root.fileRequested(action.rowIndex)
                 }
                 OVLinkButton {
-                    focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                    focusPolicy: action.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                     objectName: "upgradeStart" + action.rowIndex
                     text: qsTr("升级")
                     visible: !action.running
@@ -178,7 +178,7 @@ OVTable {
                 }
                 OVLinkButton {
                     enabled: UpgradeTools.canStop(action.result)
-                    focusPolicy: action.current ? Qt.StrongFocus : Qt.NoFocus
+                    focusPolicy: action.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                     objectName: "upgradeStop" + action.rowIndex
                     text: qsTr("停止")
                     toolTip: enabled ? "" : qsTr("已开始写入，无法停止")
