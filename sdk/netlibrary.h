@@ -20,6 +20,12 @@ namespace sdk {
 
 struct SearchReport;
 
+/// How long NetLogin and NetLoginSecure block at most; they have no argument for it.
+inline constexpr std::chrono::milliseconds longestLogin{8000};
+
+/// How long NetStartRealStream blocks at most; it has no argument for it.
+inline constexpr std::chrono::milliseconds longestStreamStart{5000};
+
 /// What NetQueryCapabilities asks for.
 enum class CapabilityQuery : std::uint32_t
 {
@@ -99,8 +105,8 @@ public:
     /// have sent and received. False, with NotSupported, if the library keeps no account of it.
     virtual bool NetGetSearchReport(SearchReport &report) = 0;
 
-    /// Opens a session and blocks until the device has answered. Returns its handle; a value below 1 is
-    /// failure.
+    /// Opens a session and blocks until the device has answered, up to `longestLogin`. Returns its handle; a
+    /// value below 1 is failure.
     virtual LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
                            std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
                            std::int32_t &error) = 0;
@@ -187,7 +193,7 @@ public:
     // Live streams
 
     /// Asks for a live stream of a channel (from 0). `window` is where to show it: always 0. Blocks until the
-    /// device has answered, up to 5 s. Returns the handle of the stream, 0 when the device refuses, is away,
+    /// device has answered, up to `longestStreamStart`. Returns the handle of the stream, 0 when the device refuses, is away,
     /// or `loginHandle` is no session. A session that ends takes its streams along.
     virtual std::int64_t NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t window,
                                             LiveStreamKind kind) = 0;

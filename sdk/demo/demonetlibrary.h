@@ -32,6 +32,7 @@ class DemoNetLibrary : public NetLibrary
 public:
     /// How long a login to an address where nothing answers takes.
     static constexpr std::chrono::milliseconds connectTime{3000};
+    static_assert(connectTime <= longestLogin);
 
     /// `site` must outlive the library.
     explicit DemoNetLibrary(DemoSite &site)

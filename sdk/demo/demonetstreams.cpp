@@ -8,8 +8,6 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr std::chrono::milliseconds longestStart{5000};
-
 /// A device that tells of no channels has one.
 ChannelStates statesOf(const SceneDevice &device)
 {
@@ -48,7 +46,7 @@ std::int64_t DemoNetLibrary::NetStartRealStream(std::int64_t loginHandle, std::i
         m_error.fail(error);
         return std::int64_t(0);
     };
-    const std::optional<SceneDevice> device = askedDevice(call, session, longestStart);
+    const std::optional<SceneDevice> device = askedDevice(call, session, longestStreamStart);
     if (!device)
         return 0;
     if (device->isUninitialised() || !streamSettings(*device, channel, kind))

@@ -15,8 +15,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto loginWait = 8s;
-
 OnvifSession::Deadline deadlineAfter(std::chrono::milliseconds wait)
 {
     return std::chrono::steady_clock::now() + std::max(wait, 0ms);
@@ -86,7 +84,7 @@ LLONG OnvifNetLibrary::login(const ServiceAddress &service, const HttpLogin &log
     const auto http = std::make_shared<HttpClient>(m_certificates);
     const std::stop_callback cancelOnCleanup(call.stop(), [http] { http->cancel(); });
     std::shared_ptr<OnvifSession> session =
-        OnvifSession::open(service, login, http, deadlineAfter(loginWait), error);
+        OnvifSession::open(service, login, http, deadlineAfter(longestLogin), error);
     if (!session) {
         m_error.fail(error);
         return 0;

@@ -10,7 +10,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto startWait = 5s;
 constexpr auto keyPictureWait = 2s;
 
 /// The profile of a stream of a channel; empty if there is none.
@@ -44,7 +43,7 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
                                                  LiveStreamKind kind)
 {
     std::int64_t handle = 0;
-    const bool isStarted = onSession(loginHandle, startWait, [&](OnvifSession &session, Deadline deadline) {
+    const bool isStarted = onSession(loginHandle, longestStreamStart, [&](OnvifSession &session, Deadline deadline) {
         const std::string profile = profileOf(session, channel, kind);
         std::optional<MediaService> media = session.media(deadline);
         if (profile.empty() || !media)
