@@ -203,7 +203,8 @@ std::size_t DiscoverySockets::sendToGroups(const std::string &message, const Sen
                           : discoveryGroupIPv6 + std::string("%") + std::to_string(socket.interfaceIndex);
         const std::optional<SocketAddress> address = socketAddress(group, discoveryPort);
         const int error = address ? sendDatagram(socket.descriptor, message, *address) : EADDRNOTAVAIL;
-        observer(socket.localAddress, error);
+        if (observer)
+            observer(socket.localAddress, error);
         sent += error == 0 ? 1 : 0;
     }
     return sent;

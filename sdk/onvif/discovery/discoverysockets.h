@@ -34,7 +34,7 @@ public:
 
     /// Sends a message to the group through every interface. Returns how many interfaces took it. `observer`
     /// is called for each.
-    std::size_t sendToGroups(const std::string &message, const SendObserver &observer);
+    std::size_t sendToGroups(const std::string &message, const SendObserver &observer = {});
 
     /// Sends a message to one address. Returns the system's error, 0 for none.
     [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);

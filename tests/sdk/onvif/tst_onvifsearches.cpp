@@ -92,7 +92,7 @@ private Q_SLOTS:
             discoveryMessage("Hello", "<q:XAddrs>http://192.168.1.101:81/x</q:XAddrs>"),
             discoveryMessage("Bye", "")};
         for (const std::string &message : messages)
-            sockets.sendToGroups(message, [](const std::string &, int) {});
+            sockets.sendToGroups(message);
 
         SearchReport report{};
         report.size = sizeof(report);
@@ -166,8 +166,7 @@ private Q_SLOTS:
             const QString content =
                 uR"(<a:EndpointReference xmlns:a="http://schemas.xmlsoap.org/ws/2004/08/addressing">)"
                 uR"(<a:Address>urn:uuid:%1</a:Address></a:EndpointReference><q:XAddrs>%2</q:XAddrs>)"_s;
-            sockets.sendToGroups(discoveryMessage("Hello", content.arg(uuids.last(), services).toStdString()),
-                                 [](const std::string &, int) {});
+            sockets.sendToGroups(discoveryMessage("Hello", content.arg(uuids.last(), services).toStdString()));
         }
         const auto areAllListed = [&] {
             return std::all_of(own.cbegin(), own.cend(),
