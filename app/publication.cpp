@@ -5,6 +5,7 @@
 #include "app/timezonetext.h"
 #include "cgi/cgibatches.h"
 #include "cgi/cgiconfigmanage.h"
+#include "cgi/webpages.h"
 #include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
 #include "device/batch/upgradebatches.h"
@@ -49,6 +50,9 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
     context->setContextProperty(QStringLiteral("SearchReportsApi"), new SearchReports(net, &engine));
+    context->setContextProperty(
+        QStringLiteral("WebPagesApi"),
+        new WebPages(CGIConfigManage::getinstance()->surroundings().transport, &engine));
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());
     context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), net != nullptr);
     context->setContextProperty(QStringLiteral("demoSite"), demo.isShown);

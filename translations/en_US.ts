@@ -1310,10 +1310,6 @@ Right-click to copy the result</translation>
         <translation>The device has no web page</translation>
     </message>
     <message>
-        <source>无法打开浏览器，设备网页：%1</source>
-        <translation>The browser could not be opened. Web page of the device: %1</translation>
-    </message>
-    <message>
         <source>已复制到剪贴板</source>
         <translation>Copied to the clipboard</translation>
     </message>
@@ -2610,7 +2606,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>通道名称</source>
-        <translation>Channel name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>配置模式</source>
@@ -6092,6 +6088,21 @@ File: </translation>
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
         <translation>No image: too large for the graphics card</translation>
+    </message>
+</context>
+<context>
+    <name>WebPages</name>
+    <message>
+        <source>设备证书已改变，网页未打开。请勿在此设备上输入密码。</source>
+        <translation>The certificate of the device has changed. The web page was not opened. Do not enter a password on this device.</translation>
+    </message>
+    <message>
+        <source>设备证书未确认，网页未打开。</source>
+        <translation>The certificate of the device is not confirmed. The web page was not opened.</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>The browser could not be opened. Web page of the device: %1</translation>
     </message>
 </context>
 <context>

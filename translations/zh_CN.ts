@@ -1286,10 +1286,6 @@
         <translation>这台设备没有可打开的网页</translation>
     </message>
     <message>
-        <source>无法打开浏览器，设备网页：%1</source>
-        <translation>无法打开浏览器，设备网页：%1</translation>
-    </message>
-    <message>
         <source>已复制到剪贴板</source>
         <translation>已复制到剪贴板</translation>
     </message>
@@ -6027,6 +6023,21 @@
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
         <translation>无法显示画面：显卡不支持这样大的画面</translation>
+    </message>
+</context>
+<context>
+    <name>WebPages</name>
+    <message>
+        <source>设备证书已改变，网页未打开。请勿在此设备上输入密码。</source>
+        <translation>设备证书已改变，网页未打开。请勿在此设备上输入密码。</translation>
+    </message>
+    <message>
+        <source>设备证书未确认，网页未打开。</source>
+        <translation>设备证书未确认，网页未打开。</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>无法打开浏览器，设备网页：%1</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,7 @@ T.ApplicationWindow {
     readonly property Batches batches: BatchesApi
     readonly property SearchReports searchReports: SearchReportsApi
     readonly property CertificateList certificates: CertificatesApi
+    readonly property var webPages: WebPagesApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     readonly property bool simulated: demoSite
     readonly property string demoAccount: demoSiteAccount  // "" when no device has one
@@ -351,6 +352,7 @@ T.ApplicationWindow {
         searching: window.searching
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
+        webPages: window.webPages
         onEndConfirmed: window.leavePage(() => {
             window.batches.giveUp();
             window.end();

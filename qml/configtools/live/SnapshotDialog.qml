@@ -11,10 +11,11 @@ OVDialog {
     signal folderRequested
 
     readonly property int columns: Math.max(1, Math.min(4, snapshots.results.length))
+    readonly property int columnsOfWidth: Math.max(2, columns)  // the foot needs as much
     readonly property int failures: snapshots.results.filter(entry => entry.state === Snapshots.Failed).length
 
-    width: Math.min(Theme.snapshotWidth * columns + Theme.controlGap * (columns - 1) + 2 * Theme.pageMargin,
-                    (parent?.width ?? 0) - 4 * Theme.pageMargin)
+    width: Math.min(Theme.snapshotWidth * columnsOfWidth + Theme.controlGap * (columnsOfWidth - 1)
+                        + 2 * Theme.pageMargin, (parent?.width ?? 0) - 4 * Theme.pageMargin)
     cancelText: qsTr("关闭")
     objectName: "snapshotDialog"
     okEnabled: !snapshots.busy && snapshots.results.some(entry => entry.state === Snapshots.Taken)

@@ -9,6 +9,7 @@ Item {
     required property var deviceFactory
     required property var fileDialogs
     required property var localConfig
+    required property var webPages  // WebPages
     property bool ipv6: false  // the rows are those of IPv6 devices, of which no more is known than their rows say
     property alias favouritesFolder: favourites.folder
     signal said(string message, int kind)
@@ -51,8 +52,8 @@ Item {
         const page = AddressTools.webPage(values.ipport, webPort ?? 0, known.https ?? false);
         if (page === "")
             said(qsTr("这台设备没有可打开的网页"), OVToast.Error);
-        else if (!Qt.openUrlExternally(page))
-            said(qsTr("无法打开浏览器，设备网页：%1").arg(page), OVToast.Error);
+        else
+            webPages.open(page);
     }
 
     function addressOf(values) {

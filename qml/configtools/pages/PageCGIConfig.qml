@@ -23,6 +23,7 @@ FocusScope {
     readonly property var cgiBatches: CgiBatchesApi
     readonly property var fileDialogs: FileDialogsApi
     readonly property var localConfig: LocalConfigApi
+    readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
     function focusSearch() {
@@ -118,6 +119,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         localConfig: page.localConfig
+        webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
     DeviceMenu {

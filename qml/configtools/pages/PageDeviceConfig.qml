@@ -22,6 +22,7 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     readonly property var localConfig: LocalConfigApi
+    readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
     /// Devices to copy to: the ticked ones but for that whose settings are copied.
@@ -253,6 +254,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         localConfig: page.localConfig
+        webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
                                                                                    : Theme.toastStay)
     }

@@ -20,6 +20,7 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     readonly property var localConfig: LocalConfigApi
+    readonly property var webPages: WebPagesApi
     readonly property var upgradeBatches: UpgradeBatchesApi
     // qmllint enable unqualified
 
@@ -95,6 +96,7 @@ FocusScope {
         fileDialogs: page.fileDialogs
         ipv6: devices.ipv6
         localConfig: page.localConfig
+        webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
     DeviceMenu {

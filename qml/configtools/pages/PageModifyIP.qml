@@ -26,6 +26,7 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     readonly property var localConfig: LocalConfigApi
+    readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
     function focusSearch() {
@@ -118,6 +119,7 @@ FocusScope {
         fileDialogs: page.fileDialogs
         ipv6: devices.ipv6
         localConfig: page.localConfig
+        webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
 

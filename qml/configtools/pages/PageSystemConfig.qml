@@ -20,6 +20,7 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     readonly property var localConfig: LocalConfigApi
+    readonly property var webPages: WebPagesApi
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
 
@@ -182,6 +183,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         localConfig: page.localConfig
+        webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
     DeviceMenu {

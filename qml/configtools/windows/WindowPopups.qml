@@ -17,6 +17,7 @@ Item {
     required property string softwareName
     required property string version
     required property bool searching
+    required property var webPages  // WebPages
     signal helpRequested
     signal questionsRequested
     signal languageChosen(string code)
@@ -91,6 +92,14 @@ Item {
         function onRunningChanged() {
             if (root.batches.running)
                 root.clearNotices();  // they are about what was done before
+        }
+    }
+
+    Connections {
+        target: root.webPages
+
+        function onRefused(reason) {
+            root.say(reason, OVToast.Error);
         }
     }
 

@@ -16,7 +16,7 @@ const char *const scene =
     "    width: 1280; height: 720; visible: true\n"
     "    property string done\n"
     "    DeviceActions {\n"
-    "        id: deviceActions; deviceFactory: factory; fileDialogs: null; localConfig: null\n"
+    "        id: deviceActions; deviceFactory: factory; fileDialogs: null; localConfig: null; webPages: null\n"
     "    }\n"
     "    DeviceMenu {\n"
     "        id: menu; actions: deviceActions; batches: works\n"
