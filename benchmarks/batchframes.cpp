@@ -140,7 +140,7 @@ public:
 
 private:
     /// `work` returns when it has ended, and lets the window be painted meanwhile. Then the window is painted
-    /// for the same time on the same page without it.
+    /// for the same time on the same page without it, with the message that the work has left open.
     [[nodiscard]] Pauses pausesDuring(int page, const std::function<void()> &work)
     {
         window()->setProperty("currentTab", page);
@@ -150,7 +150,6 @@ private:
         duration.start();
         const QList<double> meanwhile = painted(work);
         const int time = static_cast<int>(duration.elapsed()) - settlingTime;
-        closePopups();
         QTest::qWait(settlingTime);
         return {.during = meanwhile, .without = painted([time] { QTest::qWait(time); })};
     }
