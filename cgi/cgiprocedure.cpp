@@ -43,6 +43,12 @@ QString secondFailureOf(const HttpOutcome &outcome)
     return CgiProcedure::tr("服务器连接失败") + QStringLiteral(" (HTTP %1)").arg(outcome.status);
 }
 
+/// Whether an exchange ended before the answer did: the same request again may get the whole of it.
+bool isCut(const HttpOutcome &outcome)
+{
+    return !outcome.failure.isEmpty() && !outcome.hasTooLongHeaders;
+}
+
 /// Whether answers with status 401 leave it open to send the password as it is: they ask for that, or name no
 /// way to log in. A device that asks for Digest alone has refused the password.
 bool takesBasic(const QByteArray &headers)
@@ -143,7 +149,7 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
     }
     if (!taken.failure.isEmpty())
         return {.text = failedResult + taken.failure,
-                .isUnanswered = first.status == 0 && !first.isStopped && !first.hasTooLongHeaders,
+                .isUnanswered = taken.isCut || isCut(first),
                 .certificateRefusal = first.certificateRefusal};
     if (first.status != accepted)
         return {.text = failedResult + tr("服务器连接失败"),
@@ -190,7 +196,9 @@ CgiProcedure::Taken CgiProcedure::takeText(HttpConversation &conversation) const
     });
     if (isTooLong)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    return {.text = answerText(conversation.headerText(), body), .failure = secondFailureOf(outcome)};
+    return {.text = answerText(conversation.headerText(), body),
+            .failure = secondFailureOf(outcome),
+            .isCut = isCut(outcome)};
 }
 
 /// A part of a picture is of no use: it gets its name when it is complete.
@@ -214,7 +222,7 @@ CgiProcedure::Taken CgiProcedure::takePicture(HttpConversation &conversation, co
         return {.text = {}, .failure = tr("应答内容过大。")};
     const QString failure = isWritten ? secondFailureOf(outcome) : QString();
     if (!failure.isEmpty())
-        return {.text = {}, .failure = failure};
+        return {.text = {}, .failure = failure, .isCut = isCut(outcome)};
     if (!isWritten || !file.commit())
         return {.text = {}, .failure = tr("文件写入失败：") + file.errorString()};
     return {.text = path, .failure = {}};
@@ -237,10 +245,10 @@ CgiProcedure::Taken CgiProcedure::takeRecording(HttpConversation &conversation, 
         failure = tr("文件写入失败：") + file.failure();
     if (outcome.status != accepted) {
         file.remove();
-        return {.text = {}, .failure = failure};
+        return {.text = {}, .failure = failure, .isCut = isCut(outcome)};
     }
     const QString kept = file.keepPartial();
     if (!kept.isEmpty())
         failure += QLatin1Char('\n') + tr("已收到的部分录像保存在：%1").arg(kept);
-    return {.text = {}, .failure = failure};
+    return {.text = {}, .failure = failure, .isCut = isCut(outcome) && !file.hasFailed()};
 }

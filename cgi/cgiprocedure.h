@@ -42,7 +42,7 @@ inline const QString failedResult = QStringLiteral("Error:");
 struct CgiAnswer
 {
     QString text;                ///< see CgiProcedure::run()
-    bool isUnanswered = false;   ///< the device has not answered the first request: another try may succeed
+    bool isUnanswered = false;   ///< no answer has come to its end: another try may succeed
     bool isLoginRefused = false; ///< the web service does not accept the account, or not its password
 
     /// Why nothing was sent over HTTPS: the certificate of the device.
@@ -76,6 +76,7 @@ private:
     {
         QString text;
         QString failure;
+        bool isCut = false; ///< the answer has not come to its end
     };
 
     [[nodiscard]] Taken take(HttpConversation &conversation, const HttpOutcome &first) const;

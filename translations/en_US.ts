@@ -299,6 +299,14 @@
         <source>恢复IP地址</source>
         <translation>Restore IP addresses</translation>
     </message>
+    <message>
+        <source>保存全部</source>
+        <translation>Save all</translation>
+    </message>
+    <message>
+        <source>将列表中所有批处理的结果保存到一个文件</source>
+        <translation>Saves the results of all batches of the list in one file</translation>
+    </message>
 </context>
 <context>
     <name>BatchPreview</name>
@@ -469,6 +477,10 @@
         <source>时间</source>
         <translation>Time</translation>
     </message>
+    <message>
+        <source>超过时间限制</source>
+        <translation>Time limit exceeded</translation>
+    </message>
 </context>
 <context>
     <name>BatchResults</name>
@@ -485,6 +497,10 @@
 %1</source>
         <translation>The results could not be saved. Choose another folder.
 %1</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>Batches</translation>
     </message>
 </context>
 <context>
@@ -530,6 +546,13 @@
     <message>
         <source>地址 %1 仍由设备 %2 使用</source>
         <translation>%1 is still in use by device %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的地址已改变，或已不在列表中，没有重试（如 %1）</source>
+        <translation>
+            <numerusform>%n device was not retried: its address has changed, or it is no longer in the list (%1)</numerusform>
+            <numerusform>%n devices were not retried: their addresses have changed, or they are no longer in the list (such as %1)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -296,6 +296,14 @@
         <source>恢复IP地址</source>
         <translation>恢复IP地址</translation>
     </message>
+    <message>
+        <source>保存全部</source>
+        <translation>保存全部</translation>
+    </message>
+    <message>
+        <source>将列表中所有批处理的结果保存到一个文件</source>
+        <translation>将列表中所有批处理的结果保存到一个文件</translation>
+    </message>
 </context>
 <context>
     <name>BatchPreview</name>
@@ -458,6 +466,10 @@
         <source>时间</source>
         <translation>时间</translation>
     </message>
+    <message>
+        <source>超过时间限制</source>
+        <translation>超过时间限制</translation>
+    </message>
 </context>
 <context>
     <name>BatchResults</name>
@@ -474,6 +486,10 @@
 %1</source>
         <translation>结果无法保存，可以另选位置重试。
 %1</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>批处理记录</translation>
     </message>
 </context>
 <context>
@@ -518,6 +534,12 @@
     <message>
         <source>地址 %1 仍由设备 %2 使用</source>
         <translation>地址 %1 仍由设备 %2 使用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的地址已改变，或已不在列表中，没有重试（如 %1）</source>
+        <translation>
+            <numerusform>%n 台设备的地址已改变，或已不在列表中，没有重试（如 %1）</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,8 @@
 #include "device/logging.h"
 #include "sdk/threadpriority.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <system_error>
 #include <utility>
@@ -30,9 +32,12 @@ bool wasLoggedIn(int result)
     case LoginResult::AlreadyListed:
     case LoginResult::Upgrading:
     case LoginResult::NotDone:
+    case LoginResult::UnknownCertificate:
+    case LoginResult::ChangedCertificate:
         return false;
     default:
-        return !isRefusal(result) && result != upgradeFileUnusable && result != unusableLine;
+        return !isRefusal(result) && result != upgradeFileUnusable && result != deviceBusy &&
+               result != unusableLine;
     }
 }
 
@@ -132,13 +137,12 @@ BatchEngine::Taken BatchEngine::takeLocked()
                     break; // nothing overtakes in the order of the list
                 continue;
             }
-            Taken taken{.batch = batch,
-                        .number = number,
-                        .place = place,
-                        .item = std::move(batch->items[place]),
-                        .rest = std::move(it->second)};
+            Taken taken{
+                .batch = batch, .number = number, .place = place, .item = std::move(batch->items[place])};
             batch->items[place].device = taken.item.device;
-            taken.rest.pop_back();
+            it->second.pop_back();
+            if (!it->second.empty())
+                batch->following.insert(taken.item.device, std::move(it->second));
             batch->waiting.erase(it);
             m_busyDevices.insert(taken.item.device);
             ++batch->running;
@@ -195,8 +199,8 @@ void BatchEngine::run(Taken taken)
         m_busyDevices.remove(taken.item.device);
         if (std::exchange(holdsPlace, false))
             --batch.placesTaken;
-        if (!taken.rest.empty() && !batch.isStopped)
-            batch.waiting.emplace(taken.rest.back(), std::move(taken.rest));
+        if (Waiting rest = batch.following.take(taken.item.device); !rest.empty())
+            batch.waiting.emplace(rest.back(), std::move(rest));
     }
     if (isHeldNow)
         batch.watcher->held();
@@ -216,8 +220,13 @@ void BatchEngine::run(Taken taken)
 StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
 {
     Batch &batch = *taken.batch;
+    StepOutcome notBegun = {.result = resultCode(LoginResult::NotDone), .text = {}};
     {
         const std::lock_guard lock(m_mutex);
+        if (batch.isStopped) {
+            taken.item.step = nullptr;
+            return notBegun;
+        }
         const auto refusal = batch.refusals.constFind({taken.item.device, taken.item.login});
         if (refusal != batch.refusals.cend()) {
             taken.item.step = nullptr; // its destruction writes the row, which comes before finished()
@@ -228,8 +237,12 @@ StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
     const std::int64_t deadline = m_clock && batch.policy.deadline.count() > 0
                                       ? m_clock->now() + batch.policy.deadline.count()
                                       : StepControl::noDeadline;
-    return taken.item.step(StepControl(batch.stop.get_token(), m_clock, deadline,
-                                       [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); }));
+    const StepControl control(batch.stop.get_token(), m_clock, deadline,
+                              [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); });
+    StepOutcome outcome = taken.item.step(control);
+    if (outcome == notBegun && control.isLate() && !control.isStopped())
+        outcome.text = QCoreApplication::translate("BatchResult", "超过时间限制");
+    return outcome;
 }
 
 void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
@@ -256,7 +269,7 @@ bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
     }
     const bool isTooOften =
         batch.policy.wrongPasswordsInARow > 0 && batch.wrongPasswords >= batch.policy.wrongPasswordsInARow;
-    const bool hasMore = !batch.waiting.empty() || !taken.rest.empty();
+    const bool hasMore = !batch.waiting.empty() || !batch.following.empty();
     return isTooOften && hasMore && !batch.isStopped && !std::exchange(batch.isHeld, true);
 }
 
@@ -272,11 +285,16 @@ void BatchEngine::stop(int number)
             return;
         batch = found->second;
         batch->isStopped = true;
-        for (const auto &[first, places] : batch->waiting) {
+        const auto leaveOut = [&](const Waiting &places) {
             for (const std::size_t place : places)
                 notBegun.push_back(std::exchange(batch->items[place].step, {}));
-        }
+        };
+        for (const auto &[first, places] : batch->waiting)
+            leaveOut(places);
+        for (const Waiting &places : std::as_const(batch->following))
+            leaveOut(places);
         batch->waiting.clear();
+        batch->following.clear();
         hasEnded = batch->running == 0;
         if (hasEnded)
             m_batches.erase(found);

@@ -117,6 +117,7 @@ private:
         BatchPolicy policy;
         std::shared_ptr<BatchWatcher> watcher;
         std::map<std::size_t, Waiting> waiting; ///< by the first index; the last one of each is the next
+        QHash<QString, Waiting> following;      ///< further steps of devices with a running step of the batch
         QHash<std::pair<QString, QString>, StepOutcome> refusals; ///< by device and login
         std::stop_source stop;
         std::size_t running = 0; ///< steps
@@ -133,7 +134,6 @@ private:
         int number = 0;
         std::size_t place = 0;
         BatchItem item;
-        Waiting rest; ///< further steps of the device
     };
 
     [[nodiscard]] bool isInUse(const QString &device) const; ///< with the lock

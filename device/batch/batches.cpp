@@ -1,7 +1,6 @@
 #include "device/batch/batches.h"
 
 #include "device/batch/addressorder.h"
-#include "device/batch/batchresultsfile.h"
 #include "device/batch/occupiedaddresses.h"
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
@@ -27,6 +26,13 @@ QString workOf(const QString &command)
     if (command == QLatin1String("setTimeByPC") || command == QLatin1String("setTimeByManual"))
         return QStringLiteral("setTime");
     return command == QLatin1String("loginCheck") ? QStringLiteral("modifyPassword") : command;
+}
+
+/// Whether a device may have another address after a change of it with this result.
+bool mayBeChanged(int result)
+{
+    return result == BatchReport::Succeeded || result == resultCode(LoginResult::NetworkFailure) ||
+           result == resultCode(LoginResult::Unconfirmed) || result == resultCode(LoginResult::AddressInUse);
 }
 
 /// How far the upgrade of a device is, as its row shows it: an UpgradeTools::Result.
@@ -135,9 +141,7 @@ QVariantList Batches::addressesToPutBack(Batch *batch) const
     if (!batch)
         return entries;
     for (const Batch::Entry &entry : batch->entries()) {
-        const bool mayBeChanged = entry.outcome.result == BatchReport::Succeeded ||
-                                  entry.outcome.result == resultCode(LoginResult::NetworkFailure);
-        if (!mayBeChanged)
+        if (!mayBeChanged(entry.outcome.result))
             continue;
         const QString &identity = entry.device.identity;
         const AddressSettings before = batch->plan().addressesBefore.value(identity);
@@ -158,8 +162,9 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
     BatchPlan plan;
     plan.family = batch->plan().family;
     plan.title = title;
+    const QSet<QString> chosen(identities.cbegin(), identities.cend());
     for (const Batch::Entry &entry : batch->entries()) {
-        if (identities.contains(entry.device.identity))
+        if (chosen.contains(entry.device.identity))
             plan.devices.append(batchDevice(m_factory, plan.family, entry.device.name));
     }
     return plan.devices.isEmpty()
@@ -214,14 +219,22 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
                                             : m_factory.addressStep(family, device.name, target.address,
                                                                     target.mask, target.gateway, false);
         return [=](const StepControl &control) {
-            const QString holder = occupied->holderOf(target.address, device.identity);
-            if (!holder.isEmpty())
-                return StepOutcome{.result = BatchReport::NotDone,
-                                   .text = tr("地址 %1 仍由设备 %2 使用").arg(target.address, holder)};
+            if (const auto holder = occupied->holderOf(target.address, device.identity)) {
+                if (holder->stays)
+                    occupied->stay(device.identity);
+                return StepOutcome{.result = holder->stays ? resultCode(LoginResult::AddressInUse)
+                                                           : BatchReport::NotDone,
+                                   .text = tr("地址 %1 仍由设备 %2 使用").arg(target.address, holder->title)};
+            }
             StepOutcome outcome = step(control);
+            // The same request again is confirmed when the device can be reached at its new address.
+            outcome.isUnanswered =
+                outcome.isUnanswered || outcome.result == resultCode(LoginResult::Unconfirmed);
             if (outcome.result == BatchReport::Succeeded) {
                 occupied->leave(device.identity);
                 outcome.text = target.dhcp ? QStringLiteral("DHCP") : target.address; // for the record
+            } else if (!maySucceedLater(outcome)) {
+                occupied->stay(device.identity);
             }
             return outcome;
         };
@@ -294,6 +307,8 @@ Batch *Batches::retryWhere(Batch *batch, const QString &identity)
     plan.devices.removeIf([&](const BatchDevice &device) {
         return !names.contains(device.name) || (!identity.isEmpty() && device.identity != identity);
     });
+    if (plan.isByAddress && !batch->changesAddresses())
+        leaveOutMoved(plan);
     Batch *again = plan.devices.isEmpty() ? nullptr : start(std::move(plan));
     if (again) {
         again->setRetryOf(batch);
@@ -302,14 +317,47 @@ Batch *Batches::retryWhere(Batch *batch, const QString &identity)
     return again;
 }
 
+/// Of steps that go to addresses: another device may have the address since the batch was made.
+void Batches::leaveOutMoved(BatchPlan &plan)
+{
+    QStringList moved;
+    plan.devices.removeIf([&](const BatchDevice &device) {
+        const QJsonObject row = m_factory.deviceRow(plan.family, device.identity);
+        const bool isMoved = row.value(DeviceRowKey::ipport).toString() != device.ipport;
+        if (isMoved)
+            moved.append(device.ipport);
+        return isMoved;
+    });
+    if (!moved.isEmpty())
+        Q_EMIT refused(
+            tr("%n 台设备的地址已改变，或已不在列表中，没有重试（如 %1）", "", static_cast<int>(moved.size()))
+                .arg(moved.constFirst()));
+}
+
 void Batches::saveResults(Batch *batch, const QString &path)
 {
-    if (!batch)
+    QList<BatchRecord> records;
+    if (batch)
+        records.append({.title = batch->title(), .entries = batch->entries()});
+    saveRecords(records, path);
+}
+
+void Batches::saveAllResults(const QString &path)
+{
+    QList<BatchRecord> records;
+    for (const Batch *batch : std::as_const(m_kept))
+        records.append({.title = batch->title(), .entries = batch->entries()});
+    saveRecords(records, path);
+}
+
+void Batches::saveRecords(const QList<BatchRecord> &records, const QString &path)
+{
+    if (records.isEmpty())
         return;
     const int work = m_factory.busyState()->begin(tr("保存结果"), BusyState::Program);
-    m_files.start([this, path, work, lines = batchResultLines(*batch)] {
+    m_files.start([this, path, work, records] {
         sdk::giveWayToWindow();
-        const QString reason = saveBatchResults(lines, path);
+        const QString reason = saveBatchResults(records, path);
         QMetaObject::invokeMethod(
             this,
             [this, path, work, reason] {

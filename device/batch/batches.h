@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/batch/batch.h"
+#include "device/batch/batchresultsfile.h"
 #include "device/failedmarks.h"
 
 #include <QThreadPool>
@@ -94,6 +95,9 @@ public:
     /// comma-separated text for a name that ends in ".csv". resultsSaved() follows.
     Q_INVOKABLE void saveResults(Batch *batch, const QString &path);
 
+    /// The same for all batches that are kept, in one file.
+    Q_INVOKABLE void saveAllResults(const QString &path);
+
     /// How many devices are worked on at the same time, and how long a step may take, unless the work says
     /// otherwise.
     [[nodiscard]] BatchPolicy usualPolicy() const;
@@ -130,6 +134,8 @@ private:
     [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;
     /// With an empty identity, all devices.
     Batch *retryWhere(Batch *batch, const QString &identity);
+    void leaveOutMoved(BatchPlan &plan);
+    void saveRecords(const QList<BatchRecord> &records, const QString &path);
     void finish(Batch *batch, int work);
     void markFailed(const Batch &batch);
     /// Whether addresses may be changed now; otherwise refused() says why not.

@@ -1,6 +1,5 @@
 #include "device/batch/batchresultsfile.h"
 
-#include "device/batch/batch.h"
 #include "files/filereplacement.h"
 #include "sheets/qexcel.h"
 
@@ -20,11 +19,21 @@ QStringList titles()
             text(QT_TRANSLATE_NOOP("BatchResult", "结果")), text(QT_TRANSLATE_NOOP("BatchResult", "时间"))};
 }
 
-QStringList lineOf(const Batch &batch, const Batch::Entry &entry)
+QStringList lineOf(const QString &title, const Batch::Entry &entry)
 {
     return {entry.device.ipport,        macOf(entry.device),
-            entry.device.title,         batch.title(),
+            entry.device.title,         title,
             outcomeText(entry.outcome), entry.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))};
+}
+
+QList<QStringList> linesOf(const QList<BatchRecord> &records)
+{
+    QList<QStringList> lines = {titles()};
+    for (const BatchRecord &record : records) {
+        for (const Batch::Entry &entry : record.entries)
+            lines.append(lineOf(record.title, entry));
+    }
+    return lines;
 }
 
 /// Always in quotes. A name comes from a device: a spreadsheet application must not take it for a formula.
@@ -68,17 +77,9 @@ QString saveWorkbook(const QList<QStringList> &lines, const QString &path)
 
 } // namespace
 
-QList<QStringList> batchResultLines(const Batch &batch)
+QString saveBatchResults(const QList<BatchRecord> &records, const QString &path)
 {
-    QList<QStringList> lines = {titles()};
-    lines.reserve(batch.entries().size() + 1);
-    for (const Batch::Entry &entry : batch.entries())
-        lines.append(lineOf(batch, entry));
-    return lines;
-}
-
-QString saveBatchResults(const QList<QStringList> &lines, const QString &path)
-{
+    const QList<QStringList> lines = linesOf(records);
     if (!path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
         return saveWorkbook(lines, path);
     QByteArray text = byteOrderMark.toByteArray();

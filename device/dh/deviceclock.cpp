@@ -46,13 +46,17 @@ public:
 
 } // namespace
 
-std::optional<QDateTime> readDeviceClock(sdk::NetLibrary &net, std::int64_t loginHandle)
+std::optional<QDateTime> readDeviceClock(sdk::NetLibrary &net, std::int64_t loginHandle, std::uint32_t &error)
 {
+    error = 0;
     sdk::TimeRecord record{};
     std::uint32_t returned = 0;
     if (!net.NetQueryConfig(loginHandle, sdk::QueryCommand::Time, 0, &record, sizeof(record), returned,
-                            clockWait) ||
-        returned < sizeof(record))
+                            clockWait)) {
+        error = net.NetGetLastError();
+        return std::nullopt;
+    }
+    if (returned < sizeof(record))
         return std::nullopt;
     const auto part = [](std::uint32_t number) {
         return static_cast<int>(std::min<std::uint32_t>(number, 9999));

@@ -287,7 +287,7 @@ private:
     StepOutcome performOn(const QString &ipport, const Credentials &credentials, const QString &command,
                           const QVariantMap &data, const StepControl &control);
     int checkPassword(const QString &ipport, const QString &account, const QString &password);
-    int modifyPassword(const QString &ipport, const QString &newPassword);
+    StepOutcome modifyPassword(const QString &ipport, const QString &newPassword);
 
     /// What the network library can do at all: getConfigData("library").
     [[nodiscard]] QVariantMap libraryValues() const;

@@ -28,13 +28,16 @@ bool putWhole(auto &field, const QString &text)
     return static_cast<std::size_t>(bytes.size()) < field.size();
 }
 
-bool changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString &newPassword)
+/// Returns the error of the library, 0 on success.
+std::uint32_t changePassword(sdk::NetLibrary &net, const KeptLogin &login, const QString &newPassword)
 {
     sdk::ModifyPasswordInput input{};
     input.size = sizeof(input);
     const bool fits = putWhole(input.account, login.account) && putWhole(input.oldPassword, login.password) &&
                       putWhole(input.newPassword, newPassword);
-    return fits && !newPassword.isEmpty() && net.NetModifyPassword(login.loginHandle, input, passwordWait);
+    if (!fits || newPassword.isEmpty())
+        return static_cast<std::uint32_t>(sdk::NetError::InvalidValue);
+    return net.NetModifyPassword(login.loginHandle, input, passwordWait) ? 0 : net.NetGetLastError();
 }
 
 /// Why a device has refused a request, where it says more than that it did; empty otherwise.
@@ -93,12 +96,7 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
         };
     else if (command == QLatin1String("modifyPassword"))
         perform = [this, ipport, password](const StepControl &) {
-            StepOutcome outcome = {.result = modifyPassword(ipport, password), .text = {}};
-            outcome.isUnanswered =
-                outcome.result == refusedByDevice && isDeviceAway(m_libraries.net->NetGetLastError());
-            if (outcome.isUnanswered)
-                outcome.text = tr("设备没有应答，密码可能已修改");
-            return outcome;
+            return modifyPassword(ipport, password);
         };
     else if (command == QLatin1String("readTime"))
         perform = [this, ipport, credentials](const StepControl &control) {
@@ -131,14 +129,12 @@ StepOutcome CDeviceDH::performOn(const QString &ipport, const Credentials &crede
             const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
             if (!action)
                 qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
-            const bool isDone = action && (*action)(loginHandle);
+            const std::uint32_t error = action ? (*action)(loginHandle) : 0;
+            const bool isDone = action && error == 0;
             StepOutcome outcome = {.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice,
                                    .text = {}};
-            outcome.isUnanswered = action && !isDone && isDeviceAway(net.NetGetLastError());
-            if (outcome.isUnanswered)
-                outcome.text = tr("设备没有应答");
-            else if (action && !isDone)
-                outcome.text = reasonOf(net.NetGetLastError());
+            outcome.isUnanswered = isDeviceAway(error);
+            outcome.text = outcome.isUnanswered ? tr("设备没有应答") : reasonOf(error);
             return outcome;
         });
 }
@@ -150,11 +146,12 @@ StepOutcome CDeviceDH::readClock(const QString &ipport, const Credentials &crede
     return inLogin(
         net, ipport, credentials.account, credentials.password, control, [&net](sdk::LLONG loginHandle) {
             StepOutcome outcome = {.result = resultCode(LoginResult::Success), .text = {}};
-            if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle)) {
+            std::uint32_t error = 0;
+            if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle, error)) {
                 outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
             } else {
                 outcome.result = refusedByDevice;
-                outcome.isUnanswered = isDeviceAway(net.NetGetLastError());
+                outcome.isUnanswered = isDeviceAway(error);
                 outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
             }
             return outcome;
@@ -171,19 +168,24 @@ int CDeviceDH::checkPassword(const QString &ipport, const QString &account, cons
     return waitsForNewPassword;
 }
 
-int CDeviceDH::modifyPassword(const QString &ipport, const QString &newPassword)
+StepOutcome CDeviceDH::modifyPassword(const QString &ipport, const QString &newPassword)
 {
     const std::optional<KeptLogin> login = m_keptLogins.find(ipport);
     if (!login)
-        return resultCode(LoginResult::NotDone);
-    if (!changePassword(*m_libraries.net, *login, newPassword))
-        return refusedByDevice;
+        return {.result = resultCode(LoginResult::NotDone), .text = {}};
+    if (const std::uint32_t error = changePassword(*m_libraries.net, *login, newPassword)) {
+        StepOutcome outcome = {.result = refusedByDevice, .text = {}};
+        outcome.isUnanswered = isDeviceAway(error);
+        if (outcome.isUnanswered)
+            outcome.text = tr("设备没有应答，密码可能已修改");
+        return outcome;
+    }
     m_keptLogins.setPassword(ipport, newPassword);
     store().changeRowAt(ipport, [&](QJsonObject &row) {
         row.insert(DeviceRowKey::username, login->account);
         row.insert(DeviceRowKey::password, newPassword);
     });
-    return resultCode(LoginResult::Success);
+    return {};
 }
 
 CDeviceDH::Credentials CDeviceDH::credentialsOf(const QString &ipport) const

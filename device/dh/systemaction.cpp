@@ -3,6 +3,7 @@
 #include "device/dh/systemdata.h"
 #include "device/logging.h"
 #include "sdk/configlibrary.h"
+#include "sdk/neterror.h"
 #include "sdk/netlibrary.h"
 
 #include <vector>
@@ -18,54 +19,68 @@ constexpr std::int32_t firstChannel = 0;
 constexpr std::uint32_t localesTextSize = 32768;
 constexpr std::uint32_t writtenTextSize = 4096;
 
-bool setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, const sdk::TimeRecord &time)
+/// The last error of the library belongs to the call that failed, not to the action.
+std::uint32_t errorOf(const sdk::NetLibrary &net, bool isDone)
 {
-    const bool isSet = libraries.net->NetSetDeviceSetting(handle, sdk::DeviceSetting::Time, wholeDevice,
-                                                          &time, sizeof(time), timeWait);
-    if (!isSet)
-        qCWarning(logDevice) << "The time was refused, error" << Qt::hex << libraries.net->NetGetLastError();
-    return isSet;
+    return isDone ? 0 : net.NetGetLastError();
+}
+
+/// Without a library for configuration texts, or with a text that it does not understand, nothing is sent.
+constexpr auto unusableText = static_cast<std::uint32_t>(sdk::NetError::Refused);
+
+std::uint32_t setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, const sdk::TimeRecord &time)
+{
+    const std::uint32_t error = errorOf(
+        *libraries.net, libraries.net->NetSetDeviceSetting(handle, sdk::DeviceSetting::Time, wholeDevice,
+                                                           &time, sizeof(time), timeWait));
+    if (error != 0)
+        qCWarning(logDevice) << "The time was refused, error" << Qt::hex << error;
+    return error;
 }
 
 /// Packs a record into the text of a configuration and writes that.
 template<typename Record>
-bool writeConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name,
-                        const Record &record, std::uint32_t textSize)
+std::uint32_t writeConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name,
+                                 const Record &record, std::uint32_t textSize)
 {
     std::vector<char> text(textSize, '\0');
+    if (!libraries.config ||
+        !libraries.config->ConfigPackData(name, &record, sizeof(record), text.data(), textSize))
+        return unusableText;
     std::int32_t error = 0;
-    return libraries.config &&
-           libraries.config->ConfigPackData(name, &record, sizeof(record), text.data(), textSize) &&
-           libraries.net->NetSetNewConfig(handle, name, wholeDevice, text.data(), textSize, error,
-                                          requestWait);
+    return errorOf(*libraries.net, libraries.net->NetSetNewConfig(handle, name, wholeDevice, text.data(),
+                                                                  textSize, error, requestWait));
 }
 
 /// Only the rule is changed in what the device has.
-bool setDaylightSaving(const sdk::SdkLibraries &libraries, std::int64_t handle, const DaylightSaving &rule)
+std::uint32_t setDaylightSaving(const sdk::SdkLibraries &libraries, std::int64_t handle,
+                                const DaylightSaving &rule)
 {
     const char *const name = "Locales";
     std::vector<char> text(localesTextSize, '\0');
     std::int32_t error = 0;
-    if (!libraries.config || !libraries.net->NetGetNewConfig(handle, name, wholeDevice, text.data(),
-                                                             localesTextSize, error, requestWait))
-        return false;
+    if (!libraries.config)
+        return unusableText;
+    if (!libraries.net->NetGetNewConfig(handle, name, wholeDevice, text.data(), localesTextSize, error,
+                                        requestWait))
+        return libraries.net->NetGetLastError();
     const std::string_view whole(text.data(), text.size());
     sdk::LocalesRecord record{};
     std::uint32_t returned = 0;
     if (!libraries.config->ConfigParseData(name, whole.substr(0, whole.find('\0')), &record, sizeof(record),
                                            returned))
-        return false;
+        return unusableText;
     record.daylightSavingEnabled = rule.enabled ? 1 : 0;
     record.begin = rule.begin;
     record.end = rule.end;
     return writeConfiguration(libraries, handle, name, record, localesTextSize);
 }
 
-bool resetSystem(const sdk::SdkLibraries &libraries, std::int64_t handle)
+std::uint32_t resetSystem(const sdk::SdkLibraries &libraries, std::int64_t handle)
 {
     const sdk::ResetSystemInput input{.size = sizeof(input)};
     sdk::ResetSystemOutput output{.size = sizeof(output)};
-    return libraries.net->NetResetSystem(handle, input, output, requestWait);
+    return errorOf(*libraries.net, libraries.net->NetResetSystem(handle, input, output, requestWait));
 }
 
 using Make = std::optional<SystemAction> (*)(const sdk::SdkLibraries &libraries, const QVariantMap &data);
@@ -113,7 +128,7 @@ std::optional<SystemAction> autoMaintainAction(const sdk::SdkLibraries &librarie
 std::optional<SystemAction> rebootAction(const sdk::SdkLibraries &libraries, const QVariantMap &)
 {
     return [libraries](std::int64_t handle) {
-        return libraries.net->NetRebootDevice(handle, requestWait);
+        return errorOf(*libraries.net, libraries.net->NetRebootDevice(handle, requestWait));
     };
 }
 
@@ -130,8 +145,8 @@ std::optional<SystemAction> videoStandardAction(const sdk::SdkLibraries &librari
     if (!item)
         return std::nullopt;
     return [libraries, item = *item](std::int64_t handle) {
-        return libraries.net->NetSetItem(handle, sdk::videoStandardItem, wholeDevice, &item, sizeof(item),
-                                         requestWait);
+        return errorOf(*libraries.net, libraries.net->NetSetItem(handle, sdk::videoStandardItem, wholeDevice,
+                                                                 &item, sizeof(item), requestWait));
     };
 }
 
@@ -141,8 +156,9 @@ std::optional<SystemAction> channelNameAction(const sdk::SdkLibraries &libraries
     if (!item)
         return std::nullopt;
     return [libraries, item = *item](std::int64_t handle) {
-        return libraries.net->NetSetItem(handle, static_cast<std::uint32_t>(sdk::CameraItem::ChannelName),
-                                         firstChannel, &item, sizeof(item), requestWait);
+        return errorOf(*libraries.net, libraries.net->NetSetItem(
+                                           handle, static_cast<std::uint32_t>(sdk::CameraItem::ChannelName),
+                                           firstChannel, &item, sizeof(item), requestWait));
     };
 }
 

@@ -10,6 +10,7 @@ OVDialog {
     readonly property Batch batch: results.batch
     readonly property bool idle: batch !== null && !batches.running
     signal saveRequested(Batch batch)
+    signal saveAllRequested
 
     function show() {
         list.show(0);
@@ -80,6 +81,13 @@ OVDialog {
             objectName: "panelSaveButton"
             text: qsTr("保存结果")
             onClicked: root.saveRequested(root.batch)
+        }
+        OVButton {
+            enabled: root.batch !== null && !root.batches.running
+            objectName: "panelSaveAllButton"
+            text: qsTr("保存全部")
+            toolTip: qsTr("将列表中所有批处理的结果保存到一个文件")
+            onClicked: root.saveAllRequested()
         }
     }
 

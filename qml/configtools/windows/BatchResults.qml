@@ -18,10 +18,18 @@ Item {
     }
 
     function save(batch) {
-        const name = batch.title + batch.began.toLocaleString(Qt.locale("C"), " yyyy-MM-dd HH-mm-ss");
+        chooseFile(batch.title, batch.began, path => batches.saveResults(batch, path));
+    }
+
+    function saveAll() {
+        chooseFile(qsTr("批处理记录"), new Date(), path => batches.saveAllResults(path));
+    }
+
+    function chooseFile(subject, time, write) {
+        const name = subject + time.toLocaleString(Qt.locale("C"), " yyyy-MM-dd HH-mm-ss");
         fileDialogs.chooseNewFile(qsTr("保存结果"), ["Excel Files (*.xlsx)", "CSV Files (*.csv)"], name, path => {
             writtenPaths = writtenPaths.concat(path);
-            batches.saveResults(batch, path);
+            write(path);
         });
     }
 
@@ -48,6 +56,7 @@ Item {
         sourceComponent: BatchPanel {
             batches: root.batches
             deviceFactory: root.deviceFactory
+            onSaveAllRequested: root.saveAll()
             onSaveRequested: batch => root.save(batch)
         }
     }

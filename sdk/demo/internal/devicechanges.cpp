@@ -41,7 +41,7 @@ NetError changeAddress(SceneDevice &device, const DeviceAddresses &addresses,
                        const SearchDeviceInformation &wanted, const QString &localAddress)
 {
     if (device.hasFault(Fault::RefusesAddressChange))
-        return NetError::ConnectFailed;
+        return NetError::Refused;
     if (device.isUninitialised() || device.address.isEmpty() || wanted.ipVersion != 4)
         return NetError::NotSupported;
     if (wanted.dhcpEnabled != 0) {

@@ -208,6 +208,9 @@ private Q_SLOTS:
         row("no answer tells nothing", resultCode(LoginResult::NetworkFailure), 3);
         row("nothing was asked", resultCode(LoginResult::AlreadyListed), 3);
         row("nothing could be asked", unusableLine, 3);
+        row("certificate not agreed to", resultCode(LoginResult::UnknownCertificate), 3);
+        row("certificate changed", resultCode(LoginResult::ChangedCertificate), 3);
+        row("busy with another upgrade", deviceBusy, 3);
     }
 
     void wrongPasswordsInARowHoldABatch()

@@ -344,37 +344,95 @@ private Q_SLOTS:
         QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
     }
 
+    void noDeviceGetsAnAddressThatIsStillUsed_data()
+    {
+        const auto row = dataTable<sdk::demo::Fault, int>({"fault", "retryable"});
+        row("its device refuses another one", sdk::demo::Fault::RefusesAddressChange, 0);
+        row("its device does not answer", sdk::demo::Fault::NoAnswer, 4);
+    }
+
     void noDeviceGetsAnAddressThatIsStillUsed()
     {
-        m_site->site->setFault(m_devices.at(3).mac, {.fault = sdk::demo::Fault::RefusesAddressChange});
+        QFETCH(const sdk::demo::Fault, fault);
+        m_site->site->setFault(m_devices.at(3).mac, {.fault = fault});
         Batch *batch = m_batches->changeAddresses(
             "dh", "Addresses", macs(), {"192.168.1.2", "192.168.1.3", "192.168.1.4", "192.168.1.5"},
             "255.255.255.0", "192.168.1.1", false);
         QVERIFY(batch);
         QTRY_VERIFY(!batch->isRunning());
         QCOMPARE(askedMacs("NetModifyDeviceBySearch"), QStringList(m_devices.at(3).mac));
-        QCOMPARE(batch->report()->notDone(), 3);
         QVERIFY(batch->textOf(m_devices.at(2).mac).contains("192.168.1.4"));
+        QTEST(static_cast<int>(batch->retryableDevices().size()), "retryable");
+    }
+
+    /// What the user has chosen is a device, not an address.
+    void noOtherDeviceGetsWhatIsRetried()
+    {
+        const QString failed = m_devices.at(0).mac;
+        m_site->site->setFault(failed, {.fault = sdk::demo::Fault::NoAnswer});
+        Batch *batch = setStandard({ipportOf(m_devices.at(0)), ipportOf(m_devices.at(1))});
+        QTRY_VERIFY(!batch->isRunning());
+        QVERIFY(batch->canRetry(identityOf(0)));
+
+        m_site->site->clearFault(failed, sdk::demo::Fault::NoAnswer);
+        for (const auto &[device, address] : {std::pair(0, "192.168.1.40"), std::pair(2, "192.168.1.1")})
+            m_site->site->changeDevice(
+                m_devices.at(device).mac,
+                [address = address](auto &moved, const auto &) { moved.address = address; });
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        m_site->site->requests().clear();
+        const QSignalSpy refused(m_batches.get(), &Batches::refused);
+        QCOMPARE(m_batches->retry(batch), nullptr);
+        QVERIFY(refused.value(0).value(0).toString().contains("192.168.1.1:"));
+        QCOMPARE(askedMacs("NetLoginSecure"), QStringList());
+    }
+
+    void addressesOfDevicesThatMayHaveChangedArePutBack_data()
+    {
+        const auto row = dataTable<LoginResult, int>({"result", "entries"});
+        row("confirmed", LoginResult::Success, 1);
+        row("no answer", LoginResult::NetworkFailure, 1);
+        row("no answer at the new address", LoginResult::Unconfirmed, 1);
+        row("another device answers there", LoginResult::AddressInUse, 1);
+        row("refused", LoginResult::Refused, 0);
+    }
+
+    void addressesOfDevicesThatMayHaveChangedArePutBack()
+    {
+        QFETCH(const LoginResult, result);
+        BatchPlan plan;
+        plan.family = "dh";
+        plan.devices = batchDevices(*m_site->factory, "dh", {m_devices.at(0).mac});
+        plan.addressesBefore.insert(identityOf(0), {.address = "192.168.1.9", .mask = {}, .gateway = {}});
+        plan.stepOf = [result](const BatchDevice &) {
+            return [result](const StepControl &) {
+                return StepOutcome{.result = resultCode(result), .text = {}};
+            };
+        };
+        Batch *batch = m_batches->start(std::move(plan));
+        QTRY_VERIFY(!batch->isRunning());
+        QTEST(static_cast<int>(m_batches->addressesToPutBack(batch).size()), "entries");
     }
 
     void aRowOfAnUpgradingDeviceIsRefusedAtOnce()
     {
         const QString mac = m_devices.at(0).mac;
         m_site->factory->updataDeviceInfo("dh", "upgraderes", UpgradeTools::Sending, mac, "");
-        QSemaphore upgrade;
+        const auto upgrade = std::make_shared<QSemaphore>(); // the step may outlive this function
         m_engine->start({{.device = mac,
                           .step =
-                              [&](const StepControl &) {
-                                  upgrade.acquire();
+                              [upgrade](const StepControl &) {
+                                  upgrade->acquire();
                                   return StepOutcome();
                               }}},
                         {.atOnce = 1}, std::make_shared<NoWatcher>());
-        Batch *batch = setStandard(ipportsOf(m_devices));
         const auto release =
-            qScopeGuard([&upgrade] { upgrade.release(); }); // a failure must not leave it waiting
+            qScopeGuard([upgrade] { upgrade->release(); }); // a failure must not leave it waiting
+        Batch *batch = setStandard(ipportsOf(m_devices));
         QVERIFY(batch);
         QTRY_COMPARE_WITH_TIMEOUT(batch->done(), 4, 30000); // the upgrade still runs
-        upgrade.release();
         QCOMPARE(batch->report()->devicesWith(resultCode(LoginResult::Upgrading)),
                  QStringList(ipportOf(m_devices.at(0))));
         QTRY_VERIFY(!batch->isRunning());
