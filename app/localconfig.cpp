@@ -30,6 +30,8 @@ const QString loginKey = QStringLiteral("/searchConfig/login");
 const QString devicesAtOnceKey = QStringLiteral("/batchConfig/atOnce");
 const QString upgradesAtOnceKey = QStringLiteral("/upgradeConfig/atOnce");
 
+const QString colourSchemeKey = QStringLiteral("/look/colourScheme");
+
 const QString lockKey = QStringLiteral("OrvoConfigTools");
 
 /// Folder of the help documents below the program's, with the separators that its path is written with.
@@ -196,6 +198,17 @@ int CLocalConfig::upgradesAtOnce() const
 void CLocalConfig::setUpgradesAtOnce(int count)
 {
     setValue(upgradesAtOnceKey, QString::number(count));
+}
+
+QString CLocalConfig::colourScheme() const
+{
+    const QString scheme = value(colourSchemeKey).toString();
+    return scheme == u"light" || scheme == u"dark" ? scheme : QStringLiteral("desktop");
+}
+
+void CLocalConfig::setColourScheme(const QString &scheme)
+{
+    setValue(colourSchemeKey, scheme);
 }
 
 void CLocalConfig::reboot()

@@ -50,6 +50,9 @@ public:
     /// Whether a search logs in to the devices that it finds, with the account above. Off unless set.
     Q_INVOKABLE [[nodiscard]] bool searchLogsIn() const;
     Q_INVOKABLE void setSearchLogsIn(bool logsIn);
+    /// Which colours the windows have: "light", "dark", or those of the "desktop", as unless set.
+    [[nodiscard]] QString colourScheme() const;
+    void setColourScheme(const QString &scheme);
     /// Starts the program again with the same arguments and quits this process.
     Q_INVOKABLE void reboot();
     /// Starts the program on the demo site and quits this process.

@@ -1,7 +1,6 @@
 #include "app/messagebox.h"
 
 #include "app/pressbutton.h"
-#include "app/widgetstyle.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -12,7 +11,6 @@ OMessageBox::OMessageBox(const QString &title, const QString &text, QWidget *par
     setModal(true);
     setWindowTitle(title);
     setMinimumWidth(360);
-    setStyleSheet(widgetStyle());
 
     auto *titleLabel = new QLabel(title, this);
     titleLabel->setObjectName(QStringLiteral("title"));

@@ -1,5 +1,6 @@
 #include "app/publication.h"
 
+#include "app/colourscheme.h"
 #include "app/filedialogs.h"
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
@@ -18,7 +19,7 @@
 #include <QQmlContext>
 
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
-                    const std::shared_ptr<CertificateStore> &certificates,
+                    const std::shared_ptr<CertificateStore> &certificates, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo)
 {
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
@@ -47,6 +48,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("BusyStateApi"), CDeviceFactory::getinstance()->busyState());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());
+    context->setContextProperty(QStringLiteral("ColourSchemeApi"), &colourScheme);
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
     context->setContextProperty(QStringLiteral("SearchReportsApi"), new SearchReports(net, &engine));

@@ -7,6 +7,7 @@
 
 class BatchEngine;
 class CertificateStore;
+class ColourScheme;
 class QQmlApplicationEngine;
 
 namespace sdk {
@@ -21,7 +22,7 @@ struct DemoNotice
 };
 
 /// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
-/// `batchEngine` runs the scene's batches and outlives it.
+/// `batchEngine` runs the scene's batches; it and `colourScheme` outlive the scene.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
-                    const std::shared_ptr<CertificateStore> &certificates,
+                    const std::shared_ptr<CertificateStore> &certificates, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo = {});

@@ -85,6 +85,7 @@ Shell::~Shell()
         qDeleteAll(m_engine->rootObjects());
     m_engine.reset();
     AudioOutput::letGo();
+    m_colourScheme.reset();
     CLocalConfig::deleteInstance();
     CGIConfigManage::deleteInstance(); // asks the factory
     CDeviceFactory::deleteInstance();
@@ -96,6 +97,8 @@ std::optional<int> Shell::begin()
     // Live video is drawn into framebuffer objects of OpenGL.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
 
+    m_desktopScheme = std::make_unique<DesktopScheme>(DesktopScheme::sessionBus());
+    m_colourScheme = std::make_unique<ColourScheme>(*m_desktopScheme, *CLocalConfig::getinstance());
     loadTranslators();
     if (CLocalConfig::getinstance()->anotherInstanceRuns()) {
         OMessageBox::show(QObject::tr("提示"), QObject::tr("应用程序已经运行!"));
@@ -202,7 +205,7 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_certificates, m_libraries.net, m_demo);
+    publishToScene(*m_engine, *m_batchEngine, m_certificates, *m_colourScheme, m_libraries.net, m_demo);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/colourscheme.h"
 #include "app/commandline.h"
+#include "app/desktopscheme.h"
 #include "app/publication.h"
 #include "sdk/sdklibraries.h"
 
@@ -48,6 +50,8 @@ private:
     const CommandLine m_commandLine;
     QTranslator m_fallbackTranslator; ///< English, for texts that the chosen language lacks
     QTranslator m_mainTranslator;
+    std::unique_ptr<DesktopScheme> m_desktopScheme;
+    std::unique_ptr<ColourScheme> m_colourScheme;
     std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which ask it
     sdk::SdkLibraries m_libraries;
     DemoNotice m_demo;

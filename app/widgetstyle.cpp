@@ -1,14 +1,53 @@
 #include "app/widgetstyle.h"
 
-QString widgetStyle()
+namespace {
+
+/// Under their names in the scene's theme.
+struct WidgetColours
 {
-    return QStringLiteral("OMessageBox { background: #ffffff; border: 1px solid #d9dfe6; }"
-                          "OMessageBox QLabel { color: #1b2430; font-size: 13px; }"
+    const char *surface;
+    const char *line;
+    const char *ink;
+    const char *accent;
+    const char *accentInk;
+    const char *accentHover;
+    const char *accentPressed;
+    const char *focusRing;
+};
+
+constexpr WidgetColours lightColours{.surface = "#ffffff",
+                                     .line = "#d9dfe6",
+                                     .ink = "#1b2430",
+                                     .accent = "#1769e0",
+                                     .accentInk = "#ffffff",
+                                     .accentHover = "#1259c4",
+                                     .accentPressed = "#0e4ba8",
+                                     .focusRing = "#b3d1f9"};
+constexpr WidgetColours darkColours{.surface = "#1a212b",
+                                    .line = "#313c4b",
+                                    .ink = "#e6ebf2",
+                                    .accent = "#72aaf8",
+                                    .accentInk = "#0a1420",
+                                    .accentHover = "#86b7fa",
+                                    .accentPressed = "#a0c7fb",
+                                    .focusRing = "#2b5288"};
+
+} // namespace
+
+QString widgetStyle(bool dark)
+{
+    const WidgetColours &colours = dark ? darkColours : lightColours;
+    return QStringLiteral("OMessageBox { background: %1; border: 1px solid %2; }"
+                          "OMessageBox QLabel { color: %3; font-size: 13px; }"
                           "OMessageBox QLabel#title { font-size: 14px; font-weight: 600; }"
                           "OPressButton { min-width: 48px; min-height: 28px; padding: 0 14px;"
-                          "  border: 2px solid #1769e0; border-radius: 6px; font-size: 13px;"
-                          "  background: #1769e0; color: #ffffff; }"
-                          "OPressButton:hover { background: #1259c4; border-color: #1259c4; }"
-                          "OPressButton:pressed { background: #0e4ba8; border-color: #0e4ba8; }"
-                          "OPressButton:focus { border-color: #b3d1f9; }");
+                          "  border: 2px solid %4; border-radius: 6px; font-size: 13px;"
+                          "  background: %4; color: %5; }"
+                          "OPressButton:hover { background: %6; border-color: %6; }"
+                          "OPressButton:pressed { background: %7; border-color: %7; }"
+                          "OPressButton:focus { border-color: %8; }")
+        .arg(QLatin1StringView(colours.surface), QLatin1StringView(colours.line),
+             QLatin1StringView(colours.ink), QLatin1StringView(colours.accent),
+             QLatin1StringView(colours.accentInk), QLatin1StringView(colours.accentHover),
+             QLatin1StringView(colours.accentPressed), QLatin1StringView(colours.focusRing));
 }

@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// Style sheet of the shell's widgets, in the colours of the scene's theme, which widgets cannot read.
-[[nodiscard]] QString widgetStyle();
+/// Style sheet of the shell's widgets, in the colours of the scene's light or dark theme, which widgets
+/// cannot read.
+[[nodiscard]] QString widgetStyle(bool dark);

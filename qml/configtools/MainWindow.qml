@@ -15,6 +15,7 @@ T.ApplicationWindow {
     readonly property SearchReports searchReports: SearchReportsApi
     readonly property CertificateList certificates: CertificatesApi
     readonly property var webPages: WebPagesApi
+    readonly property var colourScheme: ColourSchemeApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     readonly property bool simulated: demoSite
     readonly property string demoAccount: demoSiteAccount  // "" when no device has one
@@ -44,6 +45,11 @@ T.ApplicationWindow {
         }
         chosenLanguage = code;
         popups.openRestartPrompt();
+    }
+
+    function chooseColours(choice) {
+        if (!colourScheme.choose(choice))
+            popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
     function showTab(index) {
@@ -146,6 +152,11 @@ T.ApplicationWindow {
         close.accepted = requestEnd();
     }
 
+    Binding {
+        property: "dark"
+        target: Theme
+        value: window.colourScheme.dark
+    }
     SearchSettings {
         id: searchSettings
         localConfig: window.localConfig
@@ -343,6 +354,7 @@ T.ApplicationWindow {
         batches: window.batches
         busyState: window.busyState
         certificates: window.certificates
+        colourChoice: window.colourScheme.choice
         currentLanguage: window.chosenLanguage
         deviceFactory: window.deviceFactory
         languages: languageList.entries
@@ -353,6 +365,7 @@ T.ApplicationWindow {
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
         webPages: window.webPages
+        onColoursChosen: choice => window.chooseColours(choice)
         onEndConfirmed: window.leavePage(() => {
             window.batches.giveUp();
             window.end();

@@ -6,8 +6,11 @@ import configtools
 QtObject {
     id: theme
 
-    // A dark theme is a second ThemeColours in this place.
-    readonly property ThemeColours colours: ThemeColours {}
+    /// Set by the window: what the user, or the desktop, has chosen.
+    property bool dark: false
+    readonly property ThemeColours colours: dark ? darkColours : lightColours
+    readonly property ThemeColours lightColours: ThemeColours {}
+    readonly property ThemeColours darkColours: DarkColours {}
 
     // Where favourites are kept.
     readonly property string favPath: ProgramFolders.favourites
@@ -100,7 +103,7 @@ QtObject {
     readonly property int encodeLabelWidth: 104
     readonly property int imageLabelWidth: 124
     readonly property int imageSideWidth: 272
-    readonly property int sideLabelWidth: 72
+    readonly property int sideLabelWidth: 88
     readonly property int configTabsWidth: 380
     readonly property int rangeFieldWidth: 76
     readonly property int sliderRest: 400  // milliseconds without a further step, after which a value counts

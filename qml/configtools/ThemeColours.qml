@@ -10,7 +10,9 @@ QtObject {
     property color barInk: "#ffffff"
     property color barSub: "#b9c6d6"
     property color barClose: "#c8322b"
+    property color barClosePressed: "#92201a"
     property color logoTop: "#4f8ff7"
+    property color logoBottom: "#1769e0"
 
     // Ground and panes.
     property color surface: "#ffffff"

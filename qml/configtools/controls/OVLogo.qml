@@ -13,12 +13,12 @@ Rectangle {
     radius: large ? Theme.paneRadius : Theme.controlRadius
     gradient: Gradient {
         GradientStop { position: 0; color: Theme.colours.logoTop }
-        GradientStop { position: 1; color: Theme.colours.accent }
+        GradientStop { position: 1; color: Theme.colours.logoBottom }
     }
 
     OVLabel {
         anchors.fill: parent
-        color: Theme.colours.accentInk
+        color: Theme.colours.barInk
         font: root.large ? Theme.leadFont : Theme.headFont
         horizontalAlignment: Text.AlignHCenter
         text: root.name.charAt(0)

@@ -73,7 +73,7 @@ Rectangle {
         }
         BarButton {
             fillHover: Theme.colours.barClose
-            fillPressed: Theme.colours.badPressed
+            fillPressed: Theme.colours.barClosePressed
             iconName: "close"
             iconSize: Theme.boxSize
             objectName: "liveCloseButton"

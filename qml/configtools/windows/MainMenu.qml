@@ -8,10 +8,20 @@ OVMenu {
 
     required property var languages  // objects with "code" and "label"
     required property string currentLanguage
+    required property string colourChoice  // "desktop", "light" or "dark"
     signal helpRequested
     signal questionsRequested
     signal aboutRequested
     signal languageChosen(string code)
+    signal coloursChosen(string choice)
+
+    component ColourItem: OVMenuItem {
+        required property string choice
+
+        marksChoice: choice === root.colourChoice
+        objectName: "colours_" + choice
+        onTriggered: root.coloursChosen(choice)
+    }
 
     objectName: "mainMenu"
 
@@ -45,6 +55,24 @@ OVMenu {
             onObjectRemoved: (index, object) => languageMenu.removeItem(object)
         }
         // qmllint enable unqualified
+    }
+    OVMenu {
+        iconName: "show"
+        objectName: "coloursMenu"
+        title: qsTr("外观")
+
+        ColourItem {
+            choice: "desktop"
+            text: qsTr("跟随系统")
+        }
+        ColourItem {
+            choice: "light"
+            text: qsTr("浅色")
+        }
+        ColourItem {
+            choice: "dark"
+            text: qsTr("深色")
+        }
     }
     OVMenuItem {
         iconName: "questions"

@@ -13,6 +13,7 @@ Item {
     required property SearchReports searchReports
     required property var languages
     required property string currentLanguage
+    required property string colourChoice  // as MainMenu takes it
     required property string logoName
     required property string softwareName
     required property string version
@@ -21,6 +22,7 @@ Item {
     signal helpRequested
     signal questionsRequested
     signal languageChosen(string code)
+    signal coloursChosen(string choice)
     signal restartRequested
     signal settingsAccepted(var values)
     signal endConfirmed  // although a batch runs
@@ -124,9 +126,11 @@ Item {
         id: menu
         visible: false
         sourceComponent: MainMenu {
+            colourChoice: root.colourChoice
             currentLanguage: root.currentLanguage
             languages: root.languages
             onAboutRequested: about.wanted().open()
+            onColoursChosen: choice => root.coloursChosen(choice)
             onHelpRequested: root.helpRequested()
             onLanguageChosen: code => root.languageChosen(code)
             onQuestionsRequested: root.questionsRequested()

@@ -1,0 +1,143 @@
+// The colours of the light and of the dark theme.
+#include "tests/datatable.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+qreal linear(qreal part)
+{
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+qreal luminance(const QColor &colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+qreal contrast(const QColor &one, const QColor &other)
+{
+    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// `veil` over `ground`.
+QColor blended(const QColor &ground, const QColor &veil)
+{
+    const auto mix = [&](float under, float over) {
+        return under + (over - under) * veil.alphaF();
+    };
+    return QColor::fromRgbF(mix(ground.redF(), veil.redF()), mix(ground.greenF(), veil.greenF()),
+                            mix(ground.blueF(), veil.blueF()));
+}
+
+} // namespace
+
+class TestTheme : public QObject
+{
+    Q_OBJECT
+private:
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+
+    QColor colour(bool isDark, const QByteArray &name) const
+    {
+        const QObject *colours =
+            m_window->property(isDark ? "darkColours" : "lightColours").value<QObject *>();
+        return colours->property(name.constData()).value<QColor>();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_window = openScene(m_engine, "width: 200; height: 100; visible: true\n"
+                                       "property QtObject theme: Theme\n"
+                                       "property QtObject darkColours: Theme.darkColours\n"
+                                       "property QtObject lightColours: Theme.lightColours\n"
+                                       "color: Theme.colours.background\n"
+                                       "OVButton { x: 20; y: 20; width: 100 }\n");
+        QVERIFY(m_window);
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void wordsCanBeRead_data()
+    {
+        const auto row =
+            dataTable<bool, QByteArray, QByteArray, QByteArray>({"isDark", "words", "grounds", "veil"});
+        const QByteArray panes = "surface background head foot hover pressed row rowAlternate rowConflict "
+                                 "rowSelected accentSoft accentSofter";
+        // What is fixed of the light theme has less contrast in places: hints, and the signs of states.
+        row("light", false, "ink sub accent bad", "surface background foot row", "clear");
+        row("dark", true, "ink sub faint accent accentHover accentPressed ok warn warnInk bad badHover",
+            panes, "clear");
+        row("dark, under the pointer", true, "ink sub faint accent accentHover ok warn bad",
+            "row rowAlternate rowConflict", "rowHoverVeil");
+        row("dark, warnings", true, "ink warnInk", "warnSoft", "clear");
+        row("dark, errors", true, "ink bad", "badSoft", "clear");
+        for (const bool isDark : {false, true}) {
+            const QByteArray theme = isDark ? "dark" : "light";
+            row(theme + ", filled buttons", isDark, "accentInk",
+                "accent accentHover accentPressed bad badHover badPressed", "clear");
+            row(theme + ", bars", isDark, "barInk barSub", "bar barHover barPressed", "clear");
+            row(theme + ", close button", isDark, "barInk", "barClose barClosePressed", "clear");
+            row(theme + ", bubbles", isDark, "bubbleInk", "bubble", "clear");
+        }
+    }
+
+    void wordsCanBeRead()
+    {
+        QFETCH(bool, isDark);
+        QFETCH(QByteArray, words);
+        QFETCH(QByteArray, grounds);
+        QFETCH(QByteArray, veil);
+        constexpr qreal least = 4.5;
+        const QList<QByteArray> names = words.split(' ');
+        for (const QByteArray &name : names) {
+            const QList<QByteArray> places = grounds.split(' ');
+            for (const QByteArray &place : places) {
+                const QColor ground = blended(colour(isDark, place), colour(isDark, veil));
+                const qreal found = contrast(colour(isDark, name), ground);
+                QVERIFY2(
+                    found >= least,
+                    (name + " on " + place + " has a contrast of " + QByteArray::number(found)).constData());
+            }
+        }
+    }
+
+    void rowsDiffer()
+    {
+        // Every kind of row, and a row under the pointer.
+        for (const bool isDark : {false, true}) {
+            QList<QColor> rows;
+            for (const char *name : {"row", "rowAlternate", "rowConflict"}) {
+                rows.append(colour(isDark, name));
+                rows.append(blended(colour(isDark, name), colour(isDark, "rowHoverVeil")));
+            }
+            rows.append(colour(isDark, "rowSelected"));
+            for (qsizetype one = 0; one < rows.size(); ++one) {
+                for (qsizetype other = 0; other < one; ++other)
+                    QVERIFY2(rows.at(one).rgb() != rows.at(other).rgb(), qPrintable(rows.at(one).name()));
+            }
+        }
+    }
+
+    void windowChangesAtOnce()
+    {
+        QObject *theme = m_window->property("theme").value<QObject *>();
+        for (const bool isDark : {false, true, false}) {
+            theme->setProperty("dark", isDark);
+            const auto isPainted = [&] {
+                const QImage picture = m_window->grabWindow();
+                return picture.pixelColor(4, 4) == colour(isDark, "background") &&
+                       picture.pixelColor(30, 36) == colour(isDark, "surface"); // of the button
+            };
+            QTRY_VERIFY(isPainted());
+        }
+    }
+};
+
+QTEST_MAIN(TestTheme)
+#include "tst_theme.moc"
