@@ -54,7 +54,8 @@ FocusScope {
         selectByMouse: true
         selectedTextColor: Theme.colours.ink
         selectionColor: Theme.colours.rowSelected
-        verticalAlignment: TextInput.AlignVCenter
+        topPadding: Math.round(height / 2 + font.pixelSize * Theme.baselineShift - metrics.ascent)
+        verticalAlignment: TextInput.AlignTop
 
         Accessible.name: root.accessibleName !== "" ? root.accessibleName : placeholderText
         Accessible.description: error.text
@@ -89,6 +90,12 @@ FocusScope {
             event.accepted = root.clearable && text !== "";
             if (event.accepted)
                 root.wipe();
+        }
+
+        // Aligned to its top, the field puts the baseline at the ascent of its font, whatever the script.
+        FontMetrics {
+            id: metrics
+            font: field.font
         }
 
         background: Rectangle {

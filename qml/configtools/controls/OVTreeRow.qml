@@ -43,7 +43,7 @@ Rectangle {
 
     height: Theme.controlHeight
     color: chosen || (current && !choosing) ? Theme.colours.rowSelected
-        : current || pointer.hovered ? Theme.colours.hover : Theme.colours.clear
+        : pointer.hovered ? Theme.colours.hover : Theme.colours.clear
     objectName: isGroup ? "group_" + title : "device_" + title
 
     Accessible.role: Accessible.TreeItem
@@ -56,6 +56,13 @@ Rectangle {
 
     HoverHandler {
         id: pointer
+    }
+    Rectangle {  // the row that the keys act on, where another one may be chosen
+        anchors.fill: parent
+        border.color: Theme.colours.focusRing
+        border.width: 2
+        color: Theme.colours.clear
+        visible: root.current && root.choosing && !root.chosen
     }
     MouseArea {
         anchors.fill: parent
