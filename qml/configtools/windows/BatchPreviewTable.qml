@@ -8,6 +8,7 @@ OVTable {
     required property BatchPreview preview
     property bool givesAddresses: false  // what happens to a device is its new address
     property bool givesFirmware: false   // or its new firmware
+    property bool givesNames: false      // or its new name, or that of a channel
 
     checkState: preview.checkState
     columns: [
@@ -20,7 +21,8 @@ OVTable {
         givesFirmware ? {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, cell: quietFigures}
             : {key: "mac", title: "MAC", width: Theme.columnMac, cell: quietFigures},
         {
-            key: "action", title: givesAddresses ? qsTr("新地址") : givesFirmware ? qsTr("升级文件") : qsTr("操作"),
+            key: "action", title: givesAddresses ? qsTr("新地址") : givesFirmware ? qsTr("升级文件")
+                : givesNames ? qsTr("新名称") : qsTr("操作"),
             width: givesAddresses ? Theme.columnPlanAddress : Theme.columnPlanAction,
             stretch: givesFirmware ? 1 : 0, cell: actionCell
         },

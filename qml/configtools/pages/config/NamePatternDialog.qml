@@ -140,6 +140,7 @@ OVDialog {
         BatchPreviewTable {
             width: parent.width
             height: Theme.batchPreviewHeight
+            givesNames: true
             objectName: "namePreview"
             preview: preview
         }
