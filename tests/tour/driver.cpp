@@ -1,5 +1,7 @@
 #include "tests/tour/driver.h"
 
+#include "tests/tour/layoutcheck.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QDir>
@@ -237,6 +239,10 @@ void Driver::report(const QString &step, const QString &seen)
     atRest();
     checkNames(m_window->contentItem());
     const QString picture = QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(step);
+    // A warning fails the tour at its end; the other pictures are seen as well until then.
+    const QStringList faults = layoutFaults(*m_window);
+    for (const QString &fault : faults)
+        qWarning().noquote() << "Layout of" << picture + ':' << fault;
     const QImage image = m_window->grabWindow();
     check(!image.isNull() && image.save(m_pictureFolder + QLatin1Char('/') + picture),
           QStringLiteral("the picture %1 is saved").arg(picture));

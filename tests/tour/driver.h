@@ -58,7 +58,7 @@ public:
     void check(bool condition, const QString &what) const;
 
     /// Says what a step has seen, and takes its picture once the window is at rest. All that the keyboard
-    /// reaches must have a name for screen readers then.
+    /// reaches must have a name for screen readers then. A fault of the layout is a warning.
     void report(const QString &step, const QString &seen);
 
 private:

@@ -76,8 +76,11 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
     QFile::remove(QCoreApplication::applicationDirPath() + u"/cgicommands.json"_s);
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
+    localConfig.setColourScheme(u"light"_s); // whatever the desktop
     if (stage == QLatin1String("fleet"))
         localConfig.setSearchConfigPass(u"Installer-2024"_s);
+    if (stage == QLatin1String("looks"))
+        localConfig.setSearchConfigPass(u"Office-2024"_s);
 
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -89,15 +92,15 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
            program.exitCode() == EXIT_SUCCESS;
 }
 
-/// Starts the program with a large site, then twice with the usual one, and waits for the one that follows
-/// that.
+/// Starts the program with a large site, then three times with the usual one, and waits for the one that
+/// follows that.
 int watch(const QString &language, const QString &folder)
 {
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     if (!runStage(u"fleet"_s, language, folder + u"/fleet"_s) ||
         !runStage(u"keyboard"_s, language, folder + u"/keyboard"_s) ||
-        !runStage(u"program"_s, language, folder)) {
+        !runStage(u"looks"_s, language, folder + u"/looks"_s) || !runStage(u"program"_s, language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
     }
@@ -164,6 +167,14 @@ void driveKeyboard(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"closeButton"_s);
 }
 
+void driveLooks(Driver &driver)
+{
+    walkFirstSearch(driver);
+    walkLooks(driver);
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
+}
+
 void driveLab(Driver &driver)
 {
     walkLab(driver);
@@ -216,6 +227,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
             driveFleet(driver, site, folder);
         else if (qgetenv(stageVariable) == "keyboard")
             driveKeyboard(driver, site);
+        else if (qgetenv(stageVariable) == "looks")
+            driveLooks(driver);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else

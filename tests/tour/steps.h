@@ -47,6 +47,8 @@ void walkLab(Driver &driver);
 void walkLabBatches(Driver &driver);
 /// Somebody without a mouse: the way to the table, the actions of rows, a wrong password.
 void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site);
+/// The choice of colours, and pages and dialogs in the dark theme.
+void walkLooks(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.

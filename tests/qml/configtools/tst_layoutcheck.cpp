@@ -1,0 +1,124 @@
+// The check of the tour's layouts finds what is wrong with a window, and nothing else.
+#include "tests/datatable.h"
+#include "tests/qml/configtools/qmlscene.h"
+#include "tests/tour/layoutcheck.h"
+
+#include <QRegularExpression>
+
+class TestLayoutCheck : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void findsFaults_data()
+    {
+        // The scene, and what the check says of it first; "" when there is no fault.
+        const auto row = dataTable<QByteArray, QString>({"content", "fault"});
+        const QByteArray words = "text: 'Words that take some room'";
+
+        row("label beside its field",
+            "OVFormRow { width: 300; label: 'Name'; OVTextField { text: 'North gate' } }", "");
+        row("label that is elided has a tool tip", "OVLabel { width: 40; " + words + " }", "");
+        row("label that is elided has none",
+            "OVLabel { objectName: 'poor'; width: 40; showsWholeOnHover: false; " + words + " }",
+            "poor.*is elided");
+        row("tool tip around the label",
+            "Item { OVLabel { width: 40; showsWholeOnHover: false; " + words +
+                " }\n"
+                "OVToolTip { shown: false; " +
+                words + " } }",
+            "");
+        row("tool tip with other words",
+            "Item { objectName: 'poor'; OVLabel { width: 40; showsWholeOnHover: false; " + words +
+                " }\n"
+                "OVToolTip { shown: false; text: 'other' } }",
+            "poor.*is elided");
+        row("paragraph that is cut at its last line",
+            "OVParagraph { objectName: 'poor'; width: 60; maximumLineCount: 1; elide: Text.ElideRight; " +
+                words + " }",
+            "poor.*is elided");
+
+        row("button beyond the edge", "OVButton { x: 380; objectName: 'poor'; text: 'Go on' }",
+            "poor.*is cut");
+        row("text beyond the edge", "OVParagraph { x: 380; objectName: 'poor'; " + words + " }",
+            "poor.*is cut");
+        row("text cut by what it lies in",
+            "Item { width: 60; height: 30; clip: true; OVParagraph { objectName: 'poor'; " + words + " } }",
+            "poor.*is cut");
+        row("list that is scrolled",
+            "ListView { width: 200; height: 50; clip: true; model: 9; delegate: OVButton { text: 'Row' } }",
+            "");
+        row("list whose rows are too wide",
+            "ListView { width: 60; height: 50; clip: true; model: 9\n"
+            "delegate: OVButton { objectName: 'poor'; width: 100; text: 'Row' } }",
+            "poor.*is cut");
+        row("what is hidden",
+            "OVButton { x: 380; visible: false; text: 'Go on' }\n"
+            "OVButton { x: 390; opacity: 0; text: 'Go on' }",
+            "");
+
+        row("buttons side by side",
+            "OVButton { id: one; text: 'Go on' }\n"
+            "OVButton { x: one.width; text: 'Stop' }",
+            "");
+        row("buttons over each other",
+            "OVButton { id: one; objectName: 'poor'; text: 'Go on' }\n"
+            "OVButton { x: one.width - 4; text: 'Stop' }",
+            "poor.*lies over");
+        row("texts over each other",
+            "OVParagraph { objectName: 'poor'; " + words + " }\nOVParagraph { x: 30; text: 'Others' }",
+            "poor.*lies over");
+        row("text that runs into a field",
+            "OVParagraph { objectName: 'poor'; y: 6; " + words + " }\nOVTextField { x: 60 }",
+            "poor.*lies over");
+        row("lines under each other",
+            "Column { OVParagraph { " + words + " }\nOVParagraph { " + words + " } }", "");
+        row("dialog over the page",
+            "OVButton { x: 150; y: 60; text: 'Go on' }\n"
+            "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { " +
+                words + " } }",
+            "");
+        row("texts of a dialog over each other",
+            "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { objectName: 'poor'; " +
+                words + " }\nOVLabel { x: 20; text: 'Others' } }",
+            "poor.*lies over");
+
+        const QByteArray tip = "OVToolTip { shown: true; text: 'What it does' }";
+        row("tool tip over a heading",
+            "OVTableHead { y: 40; width: 400; columns: [{key: 'mac', title: 'MAC', width: 200}]\n"
+            "columnWidths: [200]; checkable: false; checkWidth: 8; checkState: Qt.Unchecked; rowCount: 1\n"
+            "sortKey: ''; sortOrder: Qt.AscendingOrder; scrolled: 0 }\n"
+            "OVButton { objectName: 'poor'; width: 100; text: 'Go on'; " +
+                tip + " }",
+            "covers the heading of a table");
+        row("tool tip below a heading",
+            "OVTableHead { y: 40; width: 400; columns: [{key: 'mac', title: 'MAC', width: 200}]\n"
+            "columnWidths: [200]; checkable: false; checkWidth: 8; checkState: Qt.Unchecked; rowCount: 1\n"
+            "sortKey: ''; sortOrder: Qt.AscendingOrder; scrolled: 0 }\n"
+            "Item { readonly property int tipDrop: 44; width: 100; height: 32\n"
+            "OVButton { width: 100; text: 'Go on'; " +
+                tip + " } }",
+            "");
+    }
+
+    void findsFaults()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, fault);
+        QQmlEngine engine;
+        const auto window = openScene(engine, "width: 420; height: 200; visible: true\n" + content);
+        QVERIFY(window);
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        if (content.contains("shown: true"))
+            QTRY_VERIFY(findBelow(window->contentItem(), "toolTip", Sight::Visible) != nullptr);
+        const auto isSaid = [&] { // only when what opens has come to rest
+            const QStringList faults = layoutFaults(*window);
+            return faults.isEmpty()
+                       ? fault.isEmpty()
+                       : !fault.isEmpty() && faults.constFirst().contains(QRegularExpression(fault));
+        };
+        QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(layoutFaults(*window).join('\n')), 2000);
+    }
+};
+
+QTEST_MAIN(TestLayoutCheck)
+#include "tst_layoutcheck.moc"
