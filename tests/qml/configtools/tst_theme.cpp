@@ -1,4 +1,4 @@
-// The colours of the light and of the dark theme.
+// The colours of the light and of the dark theme, and the line that texts stand on.
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
@@ -22,6 +22,19 @@ qreal contrast(const QColor &one, const QColor &other)
 {
     const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
     return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// The lowest row of a part of the picture in which something dark is written; -1 when there is none.
+int lowestSign(const QImage &picture, const QRect &part)
+{
+    constexpr int dark = 120;
+    for (int y = part.bottom(); y >= part.top(); --y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            if (picture.pixelColor(x, y).lightness() < dark)
+                return y;
+        }
+    }
+    return -1;
 }
 
 /// `veil` over `ground`.
@@ -122,6 +135,31 @@ private Q_SLOTS:
                     QVERIFY2(rows.at(one).rgb() != rows.at(other).rgb(), qPrintable(rows.at(one).name()));
             }
         }
+    }
+
+    void textsStandOnOneLine_data()
+    {
+        const auto row = namedTable<QString>({"text"});
+        row("大门");
+        row("Hall");
+        row("12");
+    }
+
+    void textsStandOnOneLine()
+    {
+        QFETCH(QString, text);
+        QQmlEngine engine;
+        const QByteArray same = "height: 32; width: 80; text: '" + text.toUtf8() + "' }\n";
+        const auto window = openScene(engine, "width: 200; height: 32; visible: true\n"
+                                              "OVLabel { " +
+                                                  same + "OVTextField { x: 100; " + same);
+        QVERIFY(window);
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        const QImage picture = window->grabWindow();
+        // Of the label, and of the field within its frame.
+        const int line = lowestSign(picture, {0, 4, 80, 24});
+        QVERIFY(line > 0);
+        QCOMPARE(lowestSign(picture, {106, 4, 68, 24}), line);
     }
 
     void windowChangesAtOnce()
