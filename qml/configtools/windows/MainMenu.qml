@@ -15,14 +15,6 @@ OVMenu {
     signal languageChosen(string code)
     signal coloursChosen(string choice)
 
-    component ColourItem: OVMenuItem {
-        required property string choice
-
-        marksChoice: choice === root.colourChoice
-        objectName: "colours_" + choice
-        onTriggered: root.coloursChosen(choice)
-    }
-
     objectName: "mainMenu"
 
     OVMenuItem {
@@ -61,17 +53,23 @@ OVMenu {
         objectName: "coloursMenu"
         title: qsTr("外观")
 
-        ColourItem {
-            choice: "desktop"
+        OVMenuItem {
+            marksChoice: root.colourChoice === "desktop"
+            objectName: "colours_desktop"
             text: qsTr("跟随系统")
+            onTriggered: root.coloursChosen("desktop")
         }
-        ColourItem {
-            choice: "light"
+        OVMenuItem {
+            marksChoice: root.colourChoice === "light"
+            objectName: "colours_light"
             text: qsTr("浅色")
+            onTriggered: root.coloursChosen("light")
         }
-        ColourItem {
-            choice: "dark"
+        OVMenuItem {
+            marksChoice: root.colourChoice === "dark"
+            objectName: "colours_dark"
             text: qsTr("深色")
+            onTriggered: root.coloursChosen("dark")
         }
     }
     OVMenuItem {
