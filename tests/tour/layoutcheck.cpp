@@ -89,14 +89,17 @@ QRectF placeOfSigns(const QQuickItem *text)
     return text->mapRectToScene(QRectF(QPointF(x, y), size).adjusted(0, room, 0, -room));
 }
 
-bool hasToolTipWith(const QQuickItem *item, const QString &text)
+bool hasToolTipWith(const QQuickItem *item, const QString &words)
 {
-    if (item->property("toolTip").toString().contains(text))
+    // A tip keeps the lines of its text; what is very long is cut in both.
+    constexpr qsizetype compared = 100;
+    const QString text = words.simplified().left(compared);
+    if (item->property("toolTip").toString().simplified().contains(text))
         return true;
     const QList<QQuickItem *> children = item->childItems();
     return std::ranges::any_of(children, [&](const QQuickItem *child) {
         // Some tips make their text only when they are shown.
-        const QString shown = child->property("text").toString();
+        const QString shown = child->property("text").toString().simplified();
         return className(child) == u"OVToolTip" && (shown.isEmpty() || shown.contains(text));
     });
 }
