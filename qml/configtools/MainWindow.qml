@@ -157,6 +157,11 @@ T.ApplicationWindow {
         target: Theme
         value: window.colourScheme.dark
     }
+    Binding {
+        property: "textRendering"
+        target: Theme
+        value: Number.isInteger(window.Screen.devicePixelRatio) ? Text.NativeRendering : Text.QtRendering
+    }
     SearchSettings {
         id: searchSettings
         localConfig: window.localConfig

@@ -178,6 +178,9 @@ QtObject {
     // capitals and Chinese signs both sit in the middle. The faces' own metrics put them a pixel apart.
     readonly property real baselineShift: 0.37
     readonly property real lineRatio: 1.5
+    /// Set by the window. The system's own rendering puts letters on whole pixels of the window, which are no whole
+    /// pixels of a screen with a scale such as 1.5: their distances and weights would differ.
+    property int textRendering: Text.NativeRendering
 
     // Durations in milliseconds.
     readonly property int quick: 120

@@ -30,7 +30,7 @@ Item {
         elide: Text.ElideRight
         font: Theme.bodyFont
         maximumLineCount: 1
-        renderType: Text.NativeRendering
+        renderType: Theme.textRendering
         textFormat: Text.PlainText
     }
 

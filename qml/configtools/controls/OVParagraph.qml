@@ -7,7 +7,7 @@ Text {
     font: Theme.bodyFont
     lineHeight: Math.round(font.pixelSize * Theme.lineRatio)
     lineHeightMode: Text.FixedHeight
-    renderType: Text.NativeRendering
+    renderType: Theme.textRendering
     textFormat: Text.PlainText
     wrapMode: Text.Wrap
 

@@ -50,7 +50,7 @@ FocusScope {
         hoverEnabled: true
         leftPadding: root.iconName !== "" ? 34 : 11
         rightPadding: clear.visible || eye.visible ? 34 : 11
-        renderType: Text.NativeRendering
+        renderType: Theme.textRendering
         selectByMouse: true
         selectedTextColor: Theme.colours.ink
         selectionColor: Theme.colours.rowSelected

@@ -37,7 +37,7 @@ OVDialog {
                 font: Theme.figureFont
                 objectName: "versionText"
                 readOnly: true
-                renderType: Text.NativeRendering
+                renderType: Theme.textRendering
                 selectByMouse: true
                 selectedTextColor: Theme.colours.ink
                 selectionColor: Theme.colours.rowSelected

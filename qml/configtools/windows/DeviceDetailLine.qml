@@ -51,7 +51,7 @@ Rectangle {
         font: Theme.figureFont
         objectName: "detailValue"
         readOnly: true
-        renderType: Text.NativeRendering
+        renderType: Theme.textRendering
         selectByMouse: true
         selectedTextColor: Theme.colours.ink
         selectionColor: Theme.colours.rowSelected

@@ -93,7 +93,7 @@ OVDialog {
                 width: line.width - Theme.pageMargin
                 color: line.modelData.startsWith("Error:") ? Theme.colours.bad : Theme.colours.ink
                 font: Theme.figureFont
-                renderType: Text.NativeRendering
+                renderType: Theme.textRendering
                 text: line.modelData
                 textFormat: Text.PlainText
                 wrapMode: Text.WrapAnywhere
