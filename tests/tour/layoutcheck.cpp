@@ -89,7 +89,8 @@ QRectF placeOfSigns(const QQuickItem *text)
     return text->mapRectToScene(QRectF(QPointF(x, y), size).adjusted(0, room, 0, -room));
 }
 
-bool hasToolTipWith(const QQuickItem *item, const QString &words)
+/// `own` tool tips of the item are switched off.
+bool hasToolTipWith(const QQuickItem *item, const QString &words, int own)
 {
     // A tip keeps the lines of its text; what is very long is cut in both.
     constexpr qsizetype compared = 100;
@@ -97,11 +98,11 @@ bool hasToolTipWith(const QQuickItem *item, const QString &words)
     if (item->property("toolTip").toString().simplified().contains(text))
         return true;
     const QList<QQuickItem *> children = item->childItems();
-    return std::ranges::any_of(children, [&](const QQuickItem *child) {
-        // Some tips make their text only when they are shown.
-        const QString shown = child->property("text").toString().simplified();
-        return className(child) == u"OVToolTip" && (shown.isEmpty() || shown.contains(text));
-    });
+    return std::ranges::count_if(children, [&](const QQuickItem *child) {
+               // Some tips make their text only when they are shown.
+               const QString shown = child->property("text").toString().simplified();
+               return className(child) == u"OVToolTip" && (shown.isEmpty() || shown.contains(text));
+           }) > own;
 }
 
 bool isShownWhole(const QQuickItem *text)
@@ -111,7 +112,7 @@ bool isShownWhole(const QQuickItem *text)
     const QQuickItem *around = text->parentItem();
     for (int step = 0; step < reach && around; ++step, around = around->parentItem()) {
         const QVariant own = around->property("showsWholeOnHover");
-        if (own.isValid() ? own.toBool() : hasToolTipWith(around, words))
+        if (own.toBool() || hasToolTipWith(around, words, own.isValid() ? 1 : 0))
             return true;
     }
     return false;

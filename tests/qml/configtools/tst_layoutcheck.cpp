@@ -27,6 +27,11 @@ private Q_SLOTS:
                 "OVToolTip { shown: false; " +
                 words + " } }",
             "");
+        row("tool tip with more words in the label",
+            "OVLabel { width: 40; showsWholeOnHover: false; " + words +
+                "\n"
+                "OVToolTip { shown: false; text: 'And: ' + parent.text } }",
+            "");
         row("tool tip with other words",
             "Item { objectName: 'poor'; OVLabel { width: 40; showsWholeOnHover: false; " + words +
                 " }\n"
