@@ -7,6 +7,7 @@
 #include "cgi/cgibatches.h"
 #include "cgi/cgiconfigmanage.h"
 #include "cgi/webpages.h"
+#include "device/accountlist.h"
 #include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
 #include "device/batch/upgradebatches.h"
@@ -19,19 +20,32 @@
 #include <QQmlContext>
 
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
-                    const std::shared_ptr<CertificateStore> &certificates, ColourScheme &colourScheme,
+                    const std::shared_ptr<CertificateStore> &certificates,
+                    const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo)
 {
     // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
+    const AccountList::Defaults defaults = {
+        .read =
+            [] {
+                const CLocalConfig &config = *CLocalConfig::getinstance();
+                return DeviceAccount{.account = config.getSearchConfigUsrename(),
+                                     .password = config.getSearchConfigPass()};
+            },
+        .write =
+            [](const DeviceAccount &account) {
+                CLocalConfig::getinstance()->setSearchConfigUsername(account.account);
+                CLocalConfig::getinstance()->setSearchConfigPass(account.password);
+                CDeviceFactory::getinstance()->setDefaultAccount(QStringLiteral("dh"), account.account,
+                                                                 account.password);
+            }};
+    context->setContextProperty(QStringLiteral("AccountsApi"),
+                                new AccountList(*CDeviceFactory::getinstance(), accounts, defaults, &engine));
     auto *batches = new Batches(
         *CDeviceFactory::getinstance(), batchEngine,
         [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine);
-    const auto cgiAccount = [] {
-        return CgiAccount{.user = CLocalConfig::getinstance()->getSearchConfigUsrename(),
-                          .password = CLocalConfig::getinstance()->getSearchConfigPass()};
-    };
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
     context->setContextProperty(QStringLiteral("AddingBatchesApi"),
                                 new AddingBatches(*CDeviceFactory::getinstance(), *batches, batches));
@@ -39,8 +53,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                                 new CertificateList(certificates, &engine));
     context->setContextProperty(QStringLiteral("CgiBatchesApi"),
                                 new CgiBatches(*CDeviceFactory::getinstance(), *batches,
-                                               CGIConfigManage::getinstance()->surroundings(), cgiAccount,
-                                               batches));
+                                               CGIConfigManage::getinstance()->surroundings(), batches));
     context->setContextProperty(QStringLiteral("UpgradeBatchesApi"),
                                 new UpgradeBatches(
                                     *CDeviceFactory::getinstance(), *batches,

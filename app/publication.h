@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class AccountStore;
 class BatchEngine;
 class CertificateStore;
 class ColourScheme;
@@ -24,5 +25,6 @@ struct DemoNotice
 /// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
 /// `batchEngine` runs the scene's batches; it and `colourScheme` outlive the scene.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
-                    const std::shared_ptr<CertificateStore> &certificates, ColourScheme &colourScheme,
+                    const std::shared_ptr<CertificateStore> &certificates,
+                    const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo = {});

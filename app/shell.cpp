@@ -15,6 +15,7 @@
 #include "device/deviceol.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "favourites/accountstore.h"
 #include "media/audiooutput.h"
 #include "media/freedmemory.h"
 #include "media/videoitem.h"
@@ -108,6 +109,7 @@ std::optional<int> Shell::begin()
     if (!chooseLibraries())
         return sceneFailed;
     chooseCertificates();
+    chooseAccounts();
     registerBackEnds();
     VideoItem::registerLibraries(m_libraries);
     loadScene();
@@ -179,20 +181,37 @@ void Shell::chooseCertificates()
     CGIConfigManage::getinstance()->setCertificateHandler(&CertificateStore::handle, m_certificates.get());
 }
 
+void Shell::chooseAccounts()
+{
+    // The passwords of simulated devices are at each start what the scene says, and some have the MACs of
+    // real ones.
+    const QString path = m_commandLine.demo
+                             ? QString()
+                             : QCoreApplication::applicationDirPath() + QStringLiteral("/accounts.json");
+    m_accounts = std::make_shared<AccountStore>(path);
+}
+
 void Shell::registerBackEnds()
 {
     const auto store = std::make_shared<DeviceStore>(m_libraries.clock);
     m_batchEngine = std::make_shared<BatchEngine>(m_libraries.clock);
-    CDeviceFactory::registerBackEnd(
-        QStringLiteral("dh"), [store, libraries = m_libraries, engine = m_batchEngine] {
-            const auto searchSettings = [] {
-                const CLocalConfig &config = *CLocalConfig::getinstance();
-                return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
-                                      .logsIn = config.searchLogsIn()};
-            };
-            const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
-            return std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits, engine);
+    CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [store, libraries = m_libraries,
+                                                           engine = m_batchEngine, accounts = m_accounts] {
+        const auto searchSettings = [] {
+            const CLocalConfig &config = *CLocalConfig::getinstance();
+            return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
+                                  .logsIn = config.searchLogsIn()};
+        };
+        const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
+        auto backEnd = std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits, engine);
+        backEnd->setStoredAccounts([accounts](const QStringList &identities) {
+            const std::optional<StoredAccount> stored = accounts->accountOf(identities);
+            return stored ? std::optional(
+                                DeviceAccount{.account = stored->account, .password = stored->password})
+                          : std::nullopt;
         });
+        return backEnd;
+    });
     CDeviceFactory::registerP2PAgent({.library = m_libraries.p2pAgent, .handler = &CDeviceDH::agentMessage});
     CDeviceFactory::registerBackEnd(QStringLiteral("hik"),
                                     [store] { return std::make_shared<CDeviceHik>(store); });
@@ -205,7 +224,8 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_certificates, *m_colourScheme, m_libraries.net, m_demo);
+    publishToScene(*m_engine, *m_batchEngine, m_certificates, m_accounts, *m_colourScheme, m_libraries.net,
+                   m_demo);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

@@ -44,6 +44,7 @@ private:
     void loadTranslators();
     [[nodiscard]] bool chooseLibraries();
     void chooseCertificates();
+    void chooseAccounts();
     void registerBackEnds();
     void loadScene();
 
@@ -53,6 +54,7 @@ private:
     std::unique_ptr<DesktopScheme> m_desktopScheme;
     std::unique_ptr<ColourScheme> m_colourScheme;
     std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which ask it
+    std::shared_ptr<AccountStore> m_accounts;
     sdk::SdkLibraries m_libraries;
     DemoNotice m_demo;
     std::shared_ptr<BatchEngine> m_batchEngine;

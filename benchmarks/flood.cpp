@@ -8,6 +8,7 @@
 #include "device/devicefactory.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "favourites/accountstore.h"
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 #include "tests/media/quietnetlibrary.h"
@@ -99,7 +100,8 @@ QList<Figure> measureFlood()
         BatchEngine batchEngine(libraries.clock);
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        publishToScene(engine, batchEngine, std::make_shared<CertificateStore>(QString()), libraries.net);
+        publishToScene(engine, batchEngine, std::make_shared<CertificateStore>(QString()),
+                       std::make_shared<AccountStore>(QString()), libraries.net);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
         QTest::qWait(500);                                                     // the first picture

@@ -28,9 +28,9 @@ void nameByAddress(QList<BatchDevice> &devices)
 } // namespace
 
 CgiBatches::CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
-                       std::function<CgiAccount()> account, QObject *parent)
+                       QObject *parent)
     : QObject(parent), m_factory(factory), m_batches(batches), m_surroundings(std::move(surroundings)),
-      m_account(std::move(account)), m_answers(std::make_shared<LongAnswers>())
+      m_answers(std::make_shared<LongAnswers>())
 {
     m_surroundings.checkLogin = m_factory.loginCheck(dhFamily);
     m_surroundings.watch = {};
@@ -50,8 +50,8 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
     plan.isByAddress = true;
     nameByAddress(plan.devices);
     const QList<BatchDevice> devices = plan.devices;
-    plan.stepOf = [this, command, account = m_account()](const BatchDevice &device) {
-        return deviceStep(device, command, account);
+    plan.stepOf = [this, command](const BatchDevice &device) {
+        return deviceStep(device, command);
     };
     plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
         QStringList changed;
@@ -70,18 +70,20 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
     return batch;
 }
 
-DeviceStep CgiBatches::deviceStep(const BatchDevice &device, const QString &command,
-                                  const CgiAccount &account)
+DeviceStep CgiBatches::deviceStep(const BatchDevice &device, const QString &command)
 {
     const QString address = addressOf(device.ipport, command);
     if (address.isEmpty())
         return refusedCgiStep(resultCode(LoginResult::NetworkFailure), tr("没有通往设备网页端口的隧道。"));
-    return cgiStep(
-        m_surroundings,
-        {.url = address, .user = account.user, .password = account.password, .ipport = device.ipport},
-        [answers = m_answers, identity = device.identity](const QString &answer) {
-            answers->keep(identity, answer);
-        });
+    const QVariantMap account = m_factory.accountOf(dhFamily, device.identity);
+    return cgiStep(m_surroundings,
+                   {.url = address,
+                    .user = account.value(QStringLiteral("account")).toString(),
+                    .password = account.value(QStringLiteral("password")).toString(),
+                    .ipport = device.ipport},
+                   [answers = m_answers, identity = device.identity](const QString &answer) {
+                       answers->keep(identity, answer);
+                   });
 }
 
 /// A device behind a tunnel has its web page on a port of its own. Empty when there is none, since the usual

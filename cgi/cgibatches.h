@@ -4,15 +4,8 @@
 
 class LongAnswers;
 
-/// An account that commands are sent with.
-struct CgiAccount
-{
-    QString user;
-    QString password;
-};
-
-/// Commands to devices over HTTP as batches, for the scene: one command to some of the listed devices, whose
-/// rows get the answers. Those of a workbook are with workbooks().
+/// Commands to devices over HTTP as batches, for the scene: one command to some of the listed devices, each
+/// with the account of the device, whose rows get the answers. Those of a workbook are with workbooks().
 ///
 /// Lives on the scene's thread.
 class CgiBatches : public QObject
@@ -21,9 +14,9 @@ class CgiBatches : public QObject
     Q_PROPERTY(CgiWorkbooks *workbooks READ workbooks CONSTANT)
 public:
     /// `factory` and `batches` live longer than this. Of `surroundings` the login check, the watch and the
-    /// paths of files are not used: it has its own. `account` gives the one for the listed devices.
+    /// paths of files are not used: it has its own.
     CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
-               std::function<CgiAccount()> account, QObject *parent = nullptr);
+               QObject *parent = nullptr);
 
     [[nodiscard]] CgiWorkbooks *workbooks() const { return m_workbooks; }
 
@@ -44,14 +37,12 @@ Q_SIGNALS:
     void answered(const QStringList &identities);
 
 private:
-    [[nodiscard]] DeviceStep deviceStep(const BatchDevice &device, const QString &command,
-                                        const CgiAccount &account);
+    [[nodiscard]] DeviceStep deviceStep(const BatchDevice &device, const QString &command);
     [[nodiscard]] QString addressOf(const QString &ipport, const QString &command);
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
-    CgiSurroundings m_surroundings; ///< for any thread
-    const std::function<CgiAccount()> m_account;
+    CgiSurroundings m_surroundings;               ///< for any thread
     const std::shared_ptr<LongAnswers> m_answers; ///< by identity
     CgiWorkbooks *m_workbooks = nullptr;          ///< owned
 };

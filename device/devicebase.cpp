@@ -230,6 +230,11 @@ QList<DeviceStep> CDeviceBase::snapshotSteps(const QString &)
     return {};
 }
 
+QVariantMap CDeviceBase::accountOf(const QString &)
+{
+    return {};
+}
+
 DeviceStep CDeviceBase::locationStep(const QStringList &)
 {
     return unsupportedStep();

@@ -217,6 +217,9 @@ public:
     virtual QList<int> setUpgradeFiles(const QStringList &macs, const QString &path);
     /// The names of the rows in which upgrades have changed something since the last call.
     virtual QStringList takeChangedUpgrades();
+    /// The one account that the device is logged in to with, see AccountChoice: "account", "password",
+    /// "isStored" and "isDefault". `name` is that of its row, or its address and port.
+    virtual QVariantMap accountOf(const QString &name);
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

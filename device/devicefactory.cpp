@@ -204,6 +204,11 @@ void CDeviceFactory::setDefaultAccount(const QString &family, const QString &acc
     forward(family, &CDeviceBase::setDefaultAccount, account, password);
 }
 
+QVariantMap CDeviceFactory::accountOf(const QString &family, const QString &name)
+{
+    return forward(family, &CDeviceBase::accountOf, name);
+}
+
 void CDeviceFactory::setInitAccount(const QString &family, const QString &mac, const QString &account,
                                     const QString &password)
 {

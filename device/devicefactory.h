@@ -67,6 +67,8 @@ public:
                                        const QString &password);
     Q_INVOKABLE void setInitAccount(const QString &family, const QString &mac, const QString &account,
                                     const QString &password);
+    /// See CDeviceBase::accountOf().
+    Q_INVOKABLE [[nodiscard]] QVariantMap accountOf(const QString &family, const QString &name);
     /// Returns the local port that leads to the device, 0 on failure.
     Q_INVOKABLE int setAddDevice(const QString &family, const QString &deviceId, const QString &account,
                                  const QString &password, const QString &port, int p2pPort);

@@ -48,6 +48,9 @@ inline constexpr QLatin1StringView duplicate("duplicate");
 /// A bool: the address is what a change that failed asked for, and the device has not been found since.
 inline constexpr QLatin1StringView unconfirmed("unconfirmed");
 
+/// Bool: whether the last login to the device succeeded. Rows lack it until the first one.
+inline constexpr QLatin1StringView loggedIn("loggedIn");
+
 /// Text: the name of a row whose MAC and address do not give it: of a device that is identified by its UUID,
 /// and of a row whose values have changed. Other rows lack it.
 inline constexpr QLatin1StringView identity("identity");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/accountchoice.h"
 #include "device/batch/batchengine.h"
 #include "device/devicebase.h"
 #include "device/devicerefresh.h"
@@ -56,6 +57,9 @@ public:
     /// Ends running searches and the session, and releases the network library.
     ~CDeviceDH() override;
 
+    /// The accounts that the user keeps for devices; asked on any thread. To be called before anything else.
+    void setStoredAccounts(const AccountChoice::Stored &stored) { m_accounts.setStored(stored); }
+
     /// Takes the port agent's events, on a thread of the agent: logs them. Of a tunnel that broke the user
     /// learns: the device's row gets the result of a network failure, and signalCDeviceTunnelBroken is
     /// emitted, both on the thread of the back end that was made last. So does he of the loss of the service,
@@ -76,6 +80,7 @@ public:
                        const QString &port, int loginType, const QString &devicePort) override;
     DeviceStep addingStep(const DeviceToAdd &device) override;
     void setDefaultAccount(const QString &account, const QString &password) override;
+    QVariantMap accountOf(const QString &name) override;
     bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
                           const QString &ipport) override;
     QVariantMap getDeviceInfo(const QString &ipport) override;
@@ -213,19 +218,11 @@ private:
         std::int64_t sessionBefore = 0; ///< handle of the session that there was
     };
 
-    struct Credentials
-    {
-        QString account;
-        QString password;
-
-        bool operator==(const Credentials &) const = default;
-    };
-
     /// What a document has logged in to a device with, and what would have been used without it.
     struct DocumentAccount
     {
-        Credentials used;
-        Credentials usual;
+        DeviceAccount used;
+        DeviceAccount usual;
     };
 
     void beginSession(const QString &ipport, const QString &account, const QString &password,
@@ -239,7 +236,7 @@ private:
     [[nodiscard]] UpgradeOrder upgradeOrder(const QJsonObject &row) const;
     [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line, const QJsonObject &row) const;
     /// The account of a document again, unless the device has refused it or the user has given another since.
-    [[nodiscard]] Credentials upgradeCredentials(const QJsonObject &row) const;
+    [[nodiscard]] DeviceAccount upgradeCredentials(const QJsonObject &row) const;
     [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress() const;
     /// Returns what speaks against the upgrade of the row's device.
     UpgradeTools::Result setUpgradeFile(const QString &mac, const QString &file,
@@ -270,7 +267,7 @@ private:
     void tell(const std::vector<SessionRun::News> &news);
     [[nodiscard]] std::function<bool()> upgradeCheck(const QString &ipport) const;
 
-    [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const Credentials &credentials,
+    [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const DeviceAccount &credentials,
                                            const EncodeState &state, const ChannelChoice &channels,
                                            const StepControl &control);
     StepOutcome giveFirstPassword(const QString &mac, const QString &account, const QString &password);
@@ -278,13 +275,14 @@ private:
     [[nodiscard]] bool isFound(const QString &mac) const;
     StepOutcome noteNotFound(const QString &mac);
     StepOutcome changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                              const QString &newgateway, bool dhcpON, const Credentials &credentials);
+                              const QString &newgateway, bool dhcpON, const DeviceAccount &credentials);
     /// Writes "res" of the device's row.
     StepOutcome noteResult(const QString &mac, LoginResult result);
 
     // On any thread, and block it for the waits of the library. Return a result.
-    StepOutcome readClock(const QString &ipport, const Credentials &credentials, const StepControl &control);
-    StepOutcome performOn(const QString &ipport, const Credentials &credentials, const QString &command,
+    StepOutcome readClock(const QString &ipport, const DeviceAccount &credentials,
+                          const StepControl &control);
+    StepOutcome performOn(const QString &ipport, const DeviceAccount &credentials, const QString &command,
                           const QVariantMap &data, const StepControl &control);
     int checkPassword(const QString &ipport, const QString &account, const QString &password);
     StepOutcome modifyPassword(const QString &ipport, const QString &newPassword);
@@ -297,8 +295,18 @@ private:
     [[nodiscard]] BatchEngine::Hold holdDevice(const QString &ipport, const StepControl &control) const;
 
     /// Of the device's row; the default account for what the row does not have.
-    [[nodiscard]] Credentials credentialsOf(const QString &ipport) const;
-    [[nodiscard]] Credentials credentialsOf(const QJsonObject &row) const;
+    /// Logs in as secureLogin() does, and notes in the row whether the device has let the account in. Any
+    /// thread.
+    [[nodiscard]] SecureLogin logIn(const QString &ipport, const DeviceAccount &account) const;
+    void noteLogin(const QString &ipport, LoginResult result) const;
+    /// Runs `work` in a login of its own, unless the step ends first. The outcome of a login that fails is
+    /// its result. Any thread.
+    [[nodiscard]] StepOutcome inLogin(const QString &ipport, const DeviceAccount &account,
+                                      const StepControl &control,
+                                      const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const;
+    [[nodiscard]] DeviceAccount listedAccount(const QJsonObject &row) const;
+    [[nodiscard]] DeviceAccount credentialsOf(const QString &ipport) const;
+    [[nodiscard]] DeviceAccount credentialsOf(const QJsonObject &row) const;
 
     const ValueTables m_tables;
     const sdk::SdkLibraries m_libraries;
@@ -329,8 +337,7 @@ private:
     std::atomic<bool> m_changedRowsNoted = false;
     std::atomic<bool> m_scheduleNoted = false;
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
-    QString m_defaultAccount;
-    QString m_defaultPassword;
+    AccountChoice m_accounts;
     QVariantList m_exportFaults;
     QVariantList m_importFailures;
     QString m_importError;

@@ -39,12 +39,11 @@ DeviceStepMaker CDeviceDH::encodeCopy()
     };
 }
 
-EncodeCopyOutcome CDeviceDH::copyTo(const QString &ipport, const Credentials &credentials,
+EncodeCopyOutcome CDeviceDH::copyTo(const QString &ipport, const DeviceAccount &credentials,
                                     const EncodeState &state, const ChannelChoice &channels,
                                     const StepControl &control)
 {
-    const SecureLogin login =
-        secureLogin(m_libraries.net.get(), ipport, credentials.account, credentials.password);
+    const SecureLogin login = logIn(ipport, credentials);
     if (login.result != LoginResult::Success)
         return {.result = resultCode(login.result), .skipped = {}};
     EncodeCopyOutcome outcome =

@@ -38,9 +38,17 @@ QVariantMap faultMap(const DeviceListLine &line, const UnreadableText &fault)
 
 } // namespace
 
+/// The stored accounts of devices are the user's own: their passwords do not leave the program.
+DeviceAccount CDeviceDH::listedAccount(const QJsonObject &row) const
+{
+    AccountChoice::Chosen chosen = m_accounts.of(row);
+    if (chosen.source == AccountChoice::Source::Stored)
+        chosen.account.password.clear();
+    return chosen.account;
+}
+
 bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, const QString &fileName)
 {
-    const DeviceAccount usual = {.name = m_defaultAccount, .password = m_defaultPassword};
     std::vector<DeviceListLine> lines;
     lines.reserve(static_cast<std::size_t>(macs.size()));
     for (const QString &mac : macs) {
@@ -50,7 +58,7 @@ bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, con
             qCWarning(logDevice) << "CDeviceDH::exportDevice: there is no device" << mac;
             continue;
         }
-        lines.push_back(listLineOf(device, usual));
+        lines.push_back(listLineOf(device, listedAccount(device.row)));
     }
     m_exportFaults.clear();
     // A file without a device would tell the user that the export went well.

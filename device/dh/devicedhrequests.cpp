@@ -48,6 +48,11 @@ StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &acco
         sdk::DeviceRequestOutput output{.size = sizeof(output)};
         if (!m_libraries.net->NetInitDeviceAccount(input, output, searchRequestWait, ""))
             result = loginResultOf(m_libraries.net->NetGetLastError());
+        else
+            store().changeRow(mac, [&](QJsonObject &row) {
+                row.insert(DeviceRowKey::username, account);
+                row.insert(DeviceRowKey::password, password);
+            });
     }
     return noteResult(mac, result);
 }
@@ -78,7 +83,7 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
 DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                   const QString &newgateway, bool dhcpON)
 {
-    const Credentials credentials = credentialsOf(store().row(mac));
+    const DeviceAccount credentials = credentialsOf(store().row(mac));
     return [=, this](const StepControl &) {
         if (m_upgrades->isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);
@@ -89,7 +94,7 @@ DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, cons
 }
 
 StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                                     const QString &newgateway, bool dhcpON, const Credentials &credentials)
+                                     const QString &newgateway, bool dhcpON, const DeviceAccount &credentials)
 {
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;

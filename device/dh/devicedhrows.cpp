@@ -31,8 +31,17 @@ DeviceStep CDeviceDH::addingStep(const DeviceToAdd &device)
 
 void CDeviceDH::setDefaultAccount(const QString &account, const QString &password)
 {
-    m_defaultAccount = account;
-    m_defaultPassword = password;
+    m_accounts.setDefault({.account = account, .password = password});
+}
+
+QVariantMap CDeviceDH::accountOf(const QString &name)
+{
+    const QJsonObject row = store().rowNamed(name);
+    const AccountChoice::Chosen chosen = m_accounts.of(row.isEmpty() ? store().rowAt(name) : row);
+    return {{QStringLiteral("account"), chosen.account.account},
+            {QStringLiteral("password"), chosen.account.password},
+            {QStringLiteral("isStored"), chosen.source == AccountChoice::Source::Stored},
+            {QStringLiteral("isDefault"), chosen.source == AccountChoice::Source::Default}};
 }
 
 bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,

@@ -6,7 +6,8 @@
 void CDeviceDH::startSearch()
 {
     const SearchSettings settings = m_searchSettings();
-    m_foundLogins->begin(settings.logsIn ? m_defaultAccount : QString(), m_defaultPassword);
+    const bool logsIn = settings.logsIn && !m_accounts.defaultAccount().account.isEmpty();
+    m_foundLogins->begin(logsIn ? std::optional(m_accounts) : std::nullopt);
     m_search->start(settings.localDomain);
 }
 

@@ -16,6 +16,20 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
     return outcome.value.toInt();
 }
 
+SecureLogin CDeviceDH::logIn(const QString &ipport, const DeviceAccount &account) const
+{
+    SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account.account, account.password);
+    noteLogin(ipport, login.result);
+    return login;
+}
+
+void CDeviceDH::noteLogin(const QString &ipport, LoginResult result) const
+{
+    const bool isIn = result == LoginResult::Success;
+    if (store().rowAt(ipport).value(DeviceRowKey::loggedIn).toBool() != isIn)
+        store().changeRowAt(ipport, [isIn](QJsonObject &row) { row.insert(DeviceRowKey::loggedIn, isIn); });
+}
+
 SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
     return [this, ipport, account, password](const StepControl &control) {
@@ -23,7 +37,7 @@ SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, co
         if (control.isStopped())
             return SceneOutcome();
         const auto login = std::make_shared<UntakenLogin>(
-            m_libraries.net, secureLogin(m_libraries.net.get(), ipport, account, password));
+            m_libraries.net, logIn(ipport, {.account = account, .password = password}));
         const int result = resultCode(login->result());
         return SceneOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
                                 if (login->result() == LoginResult::Success)
@@ -61,7 +75,7 @@ int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const Q
 {
     if (isUpgradingAt(ipport)) // what follows the check would come between the device and its firmware
         return resultCode(LoginResult::Upgrading);
-    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
+    const SecureLogin login = logIn(ipport, {.account = account, .password = password});
     if (login.handle != 0)
         m_libraries.net->NetLogout(login.handle);
     // A device that waits for its first password takes no login and does not say why. Only what it refuses is
@@ -84,7 +98,7 @@ SceneStep CDeviceDH::detailStep(const QString &ipport)
             const BatchEngine::Hold hold = holdDevice(ipport, control);
             if (control.isStopped())
                 return SceneOutcome();
-            const SecureLogin login = secureLogin(libraries.net.get(), ipport, known.account, known.password);
+            const SecureLogin login = logIn(ipport, known);
             QVariantMap detail;
             if (login.handle != 0) {
                 if (!control.shouldEnd())
@@ -163,6 +177,7 @@ void CDeviceDH::takeOffer(const SessionRequest &request, const SessionOrder &ord
             openSession(order.ipport, order.account, order.password, order.readsChannels, false);
         return;
     }
+    noteLogin(order.ipport, offer.result);
     if (offer.login.handle != 0)
         beginSession(order.ipport, order.account, order.password, offer.login);
     if (offer.login.handle != 0 || offer.result != LoginResult::Success)

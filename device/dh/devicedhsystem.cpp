@@ -49,23 +49,21 @@ QString reasonOf(std::uint32_t libraryError)
     return saysMore ? resultName(resultCode(result)) : QString();
 }
 
-/// Runs `work` in a login of its own, unless the step ends first. The outcome of a login that fails is its
-/// result.
-StepOutcome inLogin(sdk::NetLibrary &net, const QString &ipport, const QString &account,
-                    const QString &password, const StepControl &control,
-                    const std::function<StepOutcome(sdk::LLONG loginHandle)> &work)
+} // namespace
+
+StepOutcome CDeviceDH::inLogin(const QString &ipport, const DeviceAccount &account,
+                               const StepControl &control,
+                               const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const
 {
-    const SecureLogin login = secureLogin(&net, ipport, account, password);
+    const SecureLogin login = logIn(ipport, account);
     if (login.result != LoginResult::Success)
         return {.result = resultCode(login.result), .text = {}};
     StepOutcome outcome = {.result = resultCode(LoginResult::NotDone), .text = {}};
     if (!control.shouldEnd())
         outcome = work(login.handle);
-    net.NetLogout(login.handle);
+    m_libraries.net->NetLogout(login.handle);
     return outcome;
 }
-
-} // namespace
 
 void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
 {
@@ -88,7 +86,7 @@ void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, co
 DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data, const QString &ipport)
 {
     const QString password = data.value(QStringLiteral("password")).toString();
-    const Credentials credentials = credentialsOf(ipport);
+    const DeviceAccount credentials = credentialsOf(ipport);
     DeviceStep perform;
     if (command == QLatin1String("loginCheck"))
         perform = [this, ipport, account = credentials.account, password](const StepControl &) {
@@ -114,54 +112,52 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
     };
 }
 
-StepOutcome CDeviceDH::performOn(const QString &ipport, const Credentials &credentials,
+StepOutcome CDeviceDH::performOn(const QString &ipport, const DeviceAccount &credentials,
                                  const QString &command, const QVariantMap &data, const StepControl &control)
 {
     sdk::NetLibrary &net = *m_libraries.net;
-    return inLogin(
-        net, ipport, credentials.account, credentials.password, control, [&](sdk::LLONG loginHandle) {
-            QVariantMap values = data;
-            if (data.value(QStringLiteral("timeOfRequest")).toBool())
-                values.insert(QStringLiteral("time"),
-                              QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-            // What no device could accept is not sent, but a device that cannot be logged in to still says
-            // so.
-            const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
-            if (!action)
-                qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
-            const std::uint32_t error = action ? (*action)(loginHandle) : 0;
-            const bool isDone = action && error == 0;
-            StepOutcome outcome = {.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice,
-                                   .text = {}};
-            outcome.isUnanswered = isDeviceAway(error);
-            outcome.text = outcome.isUnanswered ? tr("设备没有应答") : reasonOf(error);
-            return outcome;
-        });
+    return inLogin(ipport, credentials, control, [&](sdk::LLONG loginHandle) {
+        QVariantMap values = data;
+        if (data.value(QStringLiteral("timeOfRequest")).toBool())
+            values.insert(QStringLiteral("time"),
+                          QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+        // What no device could accept is not sent, but a device that cannot be logged in to still says
+        // so.
+        const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
+        if (!action)
+            qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;
+        const std::uint32_t error = action ? (*action)(loginHandle) : 0;
+        const bool isDone = action && error == 0;
+        StepOutcome outcome = {.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice,
+                               .text = {}};
+        outcome.isUnanswered = isDeviceAway(error);
+        outcome.text = outcome.isUnanswered ? tr("设备没有应答") : reasonOf(error);
+        return outcome;
+    });
 }
 
-StepOutcome CDeviceDH::readClock(const QString &ipport, const Credentials &credentials,
+StepOutcome CDeviceDH::readClock(const QString &ipport, const DeviceAccount &credentials,
                                  const StepControl &control)
 {
     sdk::NetLibrary &net = *m_libraries.net;
-    return inLogin(
-        net, ipport, credentials.account, credentials.password, control, [&net](sdk::LLONG loginHandle) {
-            StepOutcome outcome = {.result = resultCode(LoginResult::Success), .text = {}};
-            std::uint32_t error = 0;
-            if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle, error)) {
-                outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
-            } else {
-                outcome.result = refusedByDevice;
-                outcome.isUnanswered = isDeviceAway(error);
-                outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
-            }
-            return outcome;
-        });
+    return inLogin(ipport, credentials, control, [&net](sdk::LLONG loginHandle) {
+        StepOutcome outcome = {.result = resultCode(LoginResult::Success), .text = {}};
+        std::uint32_t error = 0;
+        if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle, error)) {
+            outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
+        } else {
+            outcome.result = refusedByDevice;
+            outcome.isUnanswered = isDeviceAway(error);
+            outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
+        }
+        return outcome;
+    });
 }
 
 int CDeviceDH::checkPassword(const QString &ipport, const QString &account, const QString &password)
 {
     m_keptLogins.letGo(ipport);
-    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account, password);
+    const SecureLogin login = logIn(ipport, {.account = account, .password = password});
     if (login.result != LoginResult::Success)
         return resultCode(login.result);
     m_keptLogins.keep(ipport, {.loginHandle = login.handle, .account = account, .password = password});
@@ -188,15 +184,12 @@ StepOutcome CDeviceDH::modifyPassword(const QString &ipport, const QString &newP
     return {};
 }
 
-CDeviceDH::Credentials CDeviceDH::credentialsOf(const QString &ipport) const
+DeviceAccount CDeviceDH::credentialsOf(const QString &ipport) const
 {
     return credentialsOf(store().rowAt(ipport));
 }
 
-CDeviceDH::Credentials CDeviceDH::credentialsOf(const QJsonObject &row) const
+DeviceAccount CDeviceDH::credentialsOf(const QJsonObject &row) const
 {
-    const QString account = row.value(DeviceRowKey::username).toString();
-    const QString password = row.value(DeviceRowKey::password).toString();
-    return {.account = account.isEmpty() ? m_defaultAccount : account,
-            .password = password.isEmpty() ? m_defaultPassword : password};
+    return m_accounts.of(row).account;
 }

@@ -169,7 +169,7 @@ bool CDeviceDH::hasDeviceUpgrading()
 UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 {
     const QString name = rowName(row);
-    const Credentials credentials = upgradeCredentials(row);
+    const DeviceAccount credentials = upgradeCredentials(row);
     return {.key = name,
             .row = name,
             .ipport = row.value(DeviceRowKey::ipport).toString(),
@@ -179,9 +179,9 @@ UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
             .file = row.value(DeviceRowKey::filepath).toString()};
 }
 
-CDeviceDH::Credentials CDeviceDH::upgradeCredentials(const QJsonObject &row) const
+DeviceAccount CDeviceDH::upgradeCredentials(const QJsonObject &row) const
 {
-    Credentials usual = credentialsOf(row);
+    DeviceAccount usual = credentialsOf(row);
     const auto known = m_documentAccounts.constFind(rowName(row));
     if (known == m_documentAccounts.cend() || known->usual != usual)
         return usual;
@@ -209,7 +209,7 @@ UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line, const QJso
     order.file = line.file;
     if (order.key.isEmpty())
         order.key = line.ipport;
-    const Credentials usual = credentialsOf(row);
+    const DeviceAccount usual = credentialsOf(row);
     order.account = line.user.isEmpty() ? usual.account : line.user;
     order.password = line.user.isEmpty() && line.password.isEmpty() ? usual.password : line.password;
     return order;

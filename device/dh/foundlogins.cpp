@@ -47,34 +47,31 @@ FoundLogins::~FoundLogins()
     m_threads.waitForDone();
 }
 
-void FoundLogins::begin(const QString &account, const QString &password)
+void FoundLogins::begin(const std::optional<AccountChoice> &accounts)
 {
     m_threads.clear();
     const std::scoped_lock lock(m_mutex);
     m_asked.clear();
-    m_isAsking = !account.isEmpty();
-    Account given = {.name = account, .password = password};
-    if (!m_isAsking || given == m_account)
-        return;
-    m_account = std::move(given);
-    m_refused.clear();
+    m_accounts = accounts;
 }
 
 void FoundLogins::askNew()
 {
     const std::scoped_lock lock(m_mutex);
-    if (!m_isAsking || m_stop.stop_requested() || !m_libraries.net)
+    if (!m_accounts || m_stop.stop_requested() || !m_libraries.net)
         return;
     const QVariantList rows = m_store->ipv4Rows();
     for (const QVariant &value : rows) {
         const QJsonObject row = value.toJsonObject();
         const QString name = rowName(row);
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        if (m_asked.contains(name) || m_refused.contains(name) || m_refused.contains(ipport) ||
-            !lacksSomething(row))
+        if (m_asked.contains(name) || !lacksSomething(row))
+            continue;
+        const DeviceAccount account = m_accounts->of(row).account;
+        if (m_refused.value(name) == account || m_refused.value(ipport) == account)
             continue;
         m_asked.insert(name);
-        m_threads.start([this, name, ipport, account = m_account] { ask(name, ipport, account); });
+        m_threads.start([this, name, ipport, account] { ask(name, ipport, account); });
     }
 }
 
@@ -82,7 +79,7 @@ void FoundLogins::stop()
 {
     {
         const std::scoped_lock lock(m_mutex);
-        m_isAsking = false;
+        m_accounts.reset();
     }
     m_threads.clear();
 }
@@ -98,13 +95,14 @@ void FoundLogins::requestStop()
     stop();
 }
 
-void FoundLogins::ask(const QString &name, const QString &ipport, const Account &account)
+void FoundLogins::ask(const QString &name, const QString &ipport, const DeviceAccount &account)
 {
     if (m_stop.stop_requested())
         return;
     sdk::giveWayToWindow();
-    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account.name, account.password);
+    const SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account.account, account.password);
     if (login.handle != 0) {
+        m_store->changeRowNamed(name, [](QJsonObject &row) { row.insert(DeviceRowKey::loggedIn, true); });
         complete(name, ipport, login.handle);
         m_libraries.net->NetLogout(login.handle);
         return;
@@ -112,8 +110,8 @@ void FoundLogins::ask(const QString &name, const QString &ipport, const Account 
     if (!isRefusal(login.result))
         return;
     const std::scoped_lock lock(m_mutex);
-    if (account == m_account) // another one may have been given meanwhile
-        m_refused += {name, ipport};
+    m_refused.insert(name, account);
+    m_refused.insert(ipport, account);
 }
 
 void FoundLogins::complete(const QString &name, const QString &ipport, std::int64_t loginHandle)

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "device/accountchoice.h"
 #include "device/loginresult.h"
 #include "sdk/sdklibraries.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QString>
@@ -10,15 +12,16 @@
 
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <stop_token>
 
 class DeviceStore;
 
-/// Logs in to the devices that a search finds, with one account, and completes their rows: model, version and
-/// MAC, and the serial number of the search record. What a row holds already stays.
+/// Logs in to the devices that a search finds, with the account of each, and completes their rows: model,
+/// version and MAC, and the serial number of the search record. What a row holds already stays.
 ///
-/// A device is asked once in a search. One that has refused the account is not asked again until another
-/// account is given: wrong passwords lock accounts. Requests run on threads of the object. Thread-safe.
+/// A device is asked once in a search. One that has refused its account is not asked again until it has
+/// another one: wrong passwords lock accounts. Requests run on threads of the object. Thread-safe.
 class FoundLogins : public QObject
 {
     Q_OBJECT
@@ -26,8 +29,8 @@ public:
     FoundLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
     ~FoundLogins() override;
 
-    /// A search begins. No device is asked in it if `account` is empty.
-    void begin(const QString &account, const QString &password);
+    /// A search begins. No device is asked in it without `accounts`.
+    void begin(const std::optional<AccountChoice> &accounts);
 
     /// Asks the listed devices that were not asked in this search and lack something. Returns at once.
     void askNew();
@@ -46,26 +49,18 @@ Q_SIGNALS:
     void rowsChanged();
 
 private:
-    struct Account
-    {
-        QString name = {};
-        QString password = {};
-
-        bool operator==(const Account &) const = default;
-    };
-
-    void ask(const QString &name, const QString &ipport, const Account &account);
+    void ask(const QString &name, const QString &ipport, const DeviceAccount &account);
     void complete(const QString &name, const QString &ipport, std::int64_t loginHandle);
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;
     std::stop_source m_stop;
 
-    std::mutex m_mutex; ///< of what follows
-    Account m_account;
-    bool m_isAsking = false; ///< in this search
-    QSet<QString> m_asked;   ///< names of the rows, in this search
-    QSet<QString> m_refused; ///< names and addresses of the rows whose devices have refused `m_account`
+    std::mutex m_mutex;                      ///< of what follows
+    std::optional<AccountChoice> m_accounts; ///< nothing while no device is asked
+    QSet<QString> m_asked;                   ///< names of the rows, in this search
+    QHash<QString, DeviceAccount>
+        m_refused; ///< which account a device refused last, by name and address of its row
 
     QThreadPool m_threads; ///< ends before what its tasks use
 };

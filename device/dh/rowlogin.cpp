@@ -182,6 +182,7 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
         {DeviceRowKey::upgraderes, -1},
         {DeviceRowKey::password, request.password},
         {DeviceRowKey::httpport, webPort(answers)},
+        {DeviceRowKey::loggedIn, true},
         {DeviceRowKey::https, answers.https.enabled != 0 && answers.https.port > 0},
     };
     if (p2p) {

@@ -17,6 +17,7 @@ T.ApplicationWindow {
     readonly property var webPages: WebPagesApi
     readonly property var colourScheme: ColourSchemeApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
+    readonly property var accounts: AccountsApi
     readonly property bool simulated: demoSite
     readonly property string demoAccount: demoSiteAccount  // "" when no device has one
     // qmllint enable unqualified
@@ -130,6 +131,7 @@ T.ApplicationWindow {
     title: localConfig.getLogoSoftwareName()
 
     Component.onCompleted: {
+        LoginMemory.accounts = accounts;
         search.start(searchSettings.read());
         modifyIpPage.focusTable();
         languageList.remove(localConfig.getRemoveLanguageList());

@@ -1,6 +1,7 @@
 // Types of other folders under their names in the scene.
 #pragma once
 
+#include "device/accountlist.h"
 #include "device/addresstools.h"
 #include "device/batch/addressplan.h"
 #include "device/batch/batches.h"
@@ -182,6 +183,14 @@ struct CertificateListForeign
     Q_GADGET
     QML_FOREIGN(CertificateList)
     QML_NAMED_ELEMENT(CertificateList)
+    QML_UNCREATABLE("there is one for the whole program")
+};
+
+struct AccountListForeign
+{
+    Q_GADGET
+    QML_FOREIGN(AccountList)
+    QML_NAMED_ELEMENT(AccountList)
     QML_UNCREATABLE("there is one for the whole program")
 };
 

@@ -15,6 +15,7 @@ public:
     CommandBackEnd() : CDeviceBase(nullptr) {}
 
     QMap<QString, QVariantMap> rows;
+    QMap<QString, QVariantMap> accounts; ///< by identity; other devices have the usual one
     QStringList logins; ///< "account password", in their order; may be read when no command runs
 
     void add(const QString &identity, const QString &ipport, int webPort)
@@ -49,6 +50,11 @@ public:
         rows[mac].insert(key, value);
         return true;
     }
+    QVariantMap accountOf(const QString &name) override
+    {
+        return accounts.value(name, {{QStringLiteral("account"), QStringLiteral("admin")},
+                                     {QStringLiteral("password"), QStringLiteral("secret1")}});
+    }
     int checkLogin(const QString &, const QString &account, const QString &password) override
     {
         const std::lock_guard lock(m_mutex);
@@ -66,14 +72,9 @@ struct CommandSite
         : batches(
               factory, engine, [atOnce] { return atOnce; }, nullptr),
           commands(factory, batches,
-                   {.checkLogin = {},
-                    .transport = transport,
-                    .folder = folder.path(),
-                    .localTime =
-                        [] {
-                            return QDateTime(QDate(2026, 3, 9), QTime(7, 5, 1));
-                        }},
-                   [this] { return account; })
+                   {.checkLogin = {}, .transport = transport, .folder = folder.path(), .localTime = [] {
+                        return QDateTime(QDate(2026, 3, 9), QTime(7, 5, 1));
+                    }})
     {
     }
     ~CommandSite() { engine.end(); }
@@ -86,7 +87,6 @@ struct CommandSite
     }
 
     QTemporaryDir folder;
-    CgiAccount account = {.user = QStringLiteral("admin"), .password = QStringLiteral("secret1")};
     std::shared_ptr<CommandBackEnd> devices = std::make_shared<CommandBackEnd>();
     std::shared_ptr<RecordedTransport> transport = std::make_shared<RecordedTransport>();
     CDeviceFactory factory{{{QStringLiteral("dh"), [this] {

@@ -78,7 +78,7 @@ private Q_SLOTS:
         QFETCH(int, code);
         m_site->devices->add("d", ipport, webPort);
         m_site->factory.addP2PPort(5000, 5001);
-        m_site->account.password = password;
+        m_site->devices->accounts.insert("d", {{"account", "admin"}, {"password", password}});
         m_site->transport->answer = [answer](const QByteArray &) {
             return answer;
         };

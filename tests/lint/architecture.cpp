@@ -44,7 +44,7 @@ const std::vector<Folder> &folders()
           "sdk/onvif/soap"}},
         {"sdk/onvif/live", {"sdk/streams"}},
         {"files", {}},
-        {"device", {"files", "sdk"}},
+        {"device", {"favourites", "files", "sdk"}},
         {"media", {"device", "sdk"}},
         {"sheets", {"files"}},
         {"favourites", {"files"}},

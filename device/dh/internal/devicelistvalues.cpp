@@ -78,7 +78,7 @@ DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual
     line[ListColumn::InitStatus] = initialised ? ListWord::initialised : ListWord::notInitialised;
     const bool hasOwnAccount = !text(DeviceRowKey::username).isEmpty();
     if (hasOwnAccount || initialised) {
-        line[ListColumn::Username] = hasOwnAccount ? text(DeviceRowKey::username) : usual.name;
+        line[ListColumn::Username] = hasOwnAccount ? text(DeviceRowKey::username) : usual.account;
         line[ListColumn::Password] = hasOwnAccount ? text(DeviceRowKey::password) : usual.password;
     }
 

@@ -1,6 +1,7 @@
 // What the columns of a device list say of a device.
 #pragma once
 
+#include "device/accountchoice.h"
 #include "device/dh/internal/devicelistline.h"
 #include "sdk/searchblocks.h"
 
@@ -15,16 +16,9 @@ struct ListedDevice
     std::optional<sdk::SearchAnswer> record; ///< nothing for a device that no search has found
 };
 
-/// An account of a device.
-struct DeviceAccount
-{
-    QString name;
-    QString password;
-};
-
 /// The line of a device. Its row counts, since that is what the user sees and what requests go to; the search
-/// record tells what rows do not. A device without an account of its own gets `usual`, with which the tool
-/// would log in to it, unless it waits for its first password and has none.
+/// record tells what rows do not. A device whose row has no account gets `usual`, with which the tool would
+/// log in to it, unless it waits for its first password and has none.
 [[nodiscard]] DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual);
 
 /// The device's own word for the type that a line names.

@@ -7,7 +7,6 @@ Item {
     id: root
 
     required property var deviceFactory
-    required property var localConfig
     property string ipport
     property string name
     property bool loggedIn: false
@@ -38,7 +37,7 @@ Item {
     }
 
     function account() {
-        return LoginMemory.accountFor(deviceFactory.getDeviceInfo("dh", ipport), localConfig);
+        return LoginMemory.accountFor(ipport, deviceFactory);
     }
 
     function open(ipport) {

@@ -73,7 +73,6 @@ T.ApplicationWindow {
     LiveDevice {
         id: device
         deviceFactory: window.deviceFactory
-        localConfig: window.localConfig
         onLost: {
             window.said(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
             window.close();

@@ -8,7 +8,6 @@ Item {
 
     required property var deviceFactory
     required property var fileDialogs
-    required property var localConfig
     required property var webPages  // WebPages
     property bool ipv6: false  // the rows are those of IPv6 devices, of which no more is known than their rows say
     property alias favouritesFolder: favourites.folder
@@ -70,9 +69,14 @@ Item {
         said(qsTr("已复制到剪贴板"), OVToast.Success);
     }
 
-    /// A device that was found has no account of its own: the search settings' one is kept with it.
+    /// The account of these devices, by the names of their rows or by address and port.
+    function chooseAccount(devices) {
+        accounts.wanted().choose(devices);
+    }
+
+    /// With the account that the device is logged in to with.
     function addFavourite(values) {
-        const row = deviceFactory.getDeviceInfo("dh", values.ipport);
+        const known = deviceFactory.accountOf("dh", values.ipport);
         const address = addressOf(values);
         const port = values.ipport.slice(values.ipport.lastIndexOf(":") + 1);
         if (favourites.list()[address + "_" + port + ".json"] !== undefined) {
@@ -81,8 +85,8 @@ Item {
         }
         const isSaved = favourites.save({
             mode: DeviceAdding.IP, address: address, port: port, note: values.name ?? "",
-            account: row.username || localConfig.getSearchConfigUsrename(),
-            password: row.password || localConfig.getSearchConfigPass()
+            account: known.account,
+            password: known.password
         }) !== "";
         if (isSaved)
             said(qsTr("%1 已添加到收藏夹").arg(address), OVToast.Success);
@@ -111,6 +115,14 @@ Item {
             }
             onExportRequested: fileName => root.fileDialogs.chooseFolder(
                 qsTr("请选择文件夹"), folder => root.exportDetail(folder, fileName))
+        }
+    }
+    OVOnDemand {
+        id: accounts
+        visible: false
+        sourceComponent: AccountsDialog {
+            accounts: LoginMemory.accounts
+            onSaid: (message, kind) => root.said(message, kind)
         }
     }
     OVOnDemand {

@@ -10,6 +10,7 @@ Item {
     required property DeviceActions actions
     property var values: ({})  // of the row
     property bool ticks: true  // the page has boxes to tick
+    property var tickedDevices: () => []  // names of their rows, or addresses and ports
     signal ownChosen(string key, var values)  // an entry of this page
     signal liveRequested(string ipport)
     signal similarRequested(string key, var values)  // the devices with the same value of this key are to be ticked
@@ -39,14 +40,30 @@ Item {
             {key: "copyRow", text: qsTr("复制整行")},
             {key: "favourite", begins: true, text: qsTr("添加到收藏夹"),
                 enabled: !actions.ipv6 && isInitialised && !isP2p && address !== ""}
-        ].concat(similar, [
+        ].concat(accountEntries(isInitialised && address !== ""), similar, [
             {key: "retry", begins: true, text: qsTr("重试"),
                 enabled: !batches.running && (batches.current?.canRetry(values.identity) ?? false)}
         ]);
     }
 
+    function accountEntries(isPossible) {
+        if (!LoginMemory.accounts)
+            return [];
+        const count = tickedDevices().length;
+        const many = count > 1 ? [{
+            key: "tickedAccount", text: qsTr("选择勾选的 %n 台设备的账号…", "", count)
+        }] : [];
+        return [{key: "account", begins: true, text: qsTr("选择账号…"), enabled: isPossible}].concat(many);
+    }
+
     function take(key) {
         switch (key) {
+        case "account":
+            actions.chooseAccount([values.identity]);
+            break;
+        case "tickedAccount":
+            actions.chooseAccount(Array.from(tickedDevices()));
+            break;
         case "detail":
             actions.showDetail(values);
             break;

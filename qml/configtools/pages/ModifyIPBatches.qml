@@ -58,8 +58,9 @@ Item {
         dialog.open();
     }
 
-    function sendFirstPasswords(identities, account, password) {
+    function sendFirstPasswords(identities, account, password, keeping) {
         batch = batches.setFirstPasswords("dh", qsTr("初始化"), identities, account, password);
+        keeper.follow(batch, keeping);
     }
 
     function sendAddresses(dialog) {
@@ -71,6 +72,10 @@ Item {
     function tellEnd() {
         const report = batch.report;
         deviceTable.refresh();
+        keeper.keep();
+        const kept = batch === keeper.batch ? keeper.words : "";
+        if (kept !== "")
+            said(kept, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
         if (report.notDone > 0)
             said(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
         if (report.failed > 0)
@@ -83,6 +88,10 @@ Item {
 
     visible: false
 
+    AccountKeeper {
+        id: keeper
+        batches: root.batches
+    }
     Connections {
         target: root.batch
 
@@ -130,9 +139,10 @@ Item {
                 const identities = list.chosen();
                 const name = account.account;
                 const word = account.password;
+                const keeping = account.keeping;
                 account.close();
                 list.close();
-                root.sendFirstPasswords(identities, name, word);
+                root.sendFirstPasswords(identities, name, word, keeping);
             }
         }
     }

@@ -22,7 +22,6 @@ FocusScope {
     readonly property var cgiManager: CGIConfigManageApi
     readonly property var cgiBatches: CgiBatchesApi
     readonly property var fileDialogs: FileDialogsApi
-    readonly property var localConfig: LocalConfigApi
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
@@ -118,7 +117,6 @@ FocusScope {
         id: deviceActions
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
-        localConfig: page.localConfig
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -128,6 +126,7 @@ FocusScope {
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
         onOwnChosen: (key, values) => page.actOn(key, devices.rowOf(values.identity))
+        tickedDevices: () => devices.checkedMacs()
         onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
     }
     // qmllint disable unqualified

@@ -21,7 +21,6 @@ FocusScope {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
-    readonly property var localConfig: LocalConfigApi
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
@@ -125,6 +124,7 @@ FocusScope {
     }
 
     objectName: "pageDeviceConfig"
+    onSearchingChanged: if (searching) devices.clearResults()
     onTickedChanged: settled()
     onVisibleChanged: if (visible) session.readShown()
 
@@ -163,8 +163,8 @@ FocusScope {
     ConfigSession {
         id: session
         deviceFactory: page.deviceFactory
-        localConfig: page.localConfig
         shown: page.visible
+        onLoggedInChanged: if (page.visible) page.refresh()
         onRenewed: if (page.visible) readShown()
         onSaid: (message, kind, stay) => page.said(message, kind, stay)
     }
@@ -253,7 +253,6 @@ FocusScope {
         id: deviceActions
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
-        localConfig: page.localConfig
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
                                                                                    : Theme.toastStay)
@@ -264,6 +263,7 @@ FocusScope {
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
         onOwnChosen: (key, values) => page.choose(values.ipport)
+        tickedDevices: () => devices.checkedDevices
         onSimilarRequested: (key, values) => devices.checkSimilar(values.identity, key)
     }
 

@@ -95,7 +95,6 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         ipv6: devices.ipv6
-        localConfig: page.localConfig
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -105,6 +104,7 @@ FocusScope {
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
         onOwnChosen: (key, values) => page.actOn(key, devices.rowOf(values.identity))
+        tickedDevices: () => devices.checkedMacs()
         onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
     }
 

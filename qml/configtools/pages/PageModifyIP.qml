@@ -25,7 +25,6 @@ FocusScope {
     readonly property var addingBatches: AddingBatchesApi
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
-    readonly property var localConfig: LocalConfigApi
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
@@ -118,7 +117,6 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         ipv6: devices.ipv6
-        localConfig: page.localConfig
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -129,6 +127,7 @@ FocusScope {
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
         onOwnChosen: (key, values) => changes.modifyRow(devices.rowOf(values.identity))
+        tickedDevices: () => devices.checkedMacs()
         onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
     }
 

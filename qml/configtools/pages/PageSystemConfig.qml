@@ -19,7 +19,6 @@ FocusScope {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
-    readonly property var localConfig: LocalConfigApi
     readonly property var webPages: WebPagesApi
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
@@ -57,6 +56,9 @@ FocusScope {
     }
 
     function takeChangedPasswords() {
+        keeper.keep();
+        if (keeper.words !== "")
+            said(keeper.words, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
         const left = Array.from(batch.report.devicesNotSucceeded()).concat(leftOut);
         passwordTime.takeResults(left);
         if (left.length > 0)
@@ -96,11 +98,12 @@ FocusScope {
     }
 
     /// The devices that the user takes out keep waiting for their new password.
-    function changePasswords(password) {
+    function changePasswords(password, keeping) {
         const waiting = Array.from(passwordTime.devices);
         preview.ask("modifyPassword", qsTr("修改密码"), {}, waiting, (chosen, others) => {
             leftOut = Array.from(others);
             run("modifyPassword", qsTr("修改密码"), chosen, {password: password});
+            keeper.follow(batch.batch, keeping);
             devices.setResultOfAll(leftOut, OVTreeModel.WaitsForPassword);
         });
     }
@@ -116,6 +119,8 @@ FocusScope {
     }
 
     function takeEnd() {
+        if (batch.report.waiting === 0)
+            refresh();  // which devices are without a login has changed
         if (batch.command === "readTime")
             panels.clocks = checkedWhenAsked.filter(device => clocks[device] !== undefined).map(device => ({device: device, clock: clocks[device]}));
         else if (batch.command === "loginCheck" && batch.report.waiting > 0)
@@ -125,6 +130,7 @@ FocusScope {
     }
 
     objectName: "pageSystemConfig"
+    onSearchingChanged: if (searching) devices.clearResults()
     onTickedChanged: settled()
 
     OVTreeModel {
@@ -152,6 +158,10 @@ FocusScope {
             page.noteClocks(Array.from(ipports), Array.from(results));
             devices.takeResults(ipports, results, []);
         }
+    }
+    AccountKeeper {
+        id: keeper
+        batches: page.batches
     }
     OVBatchRefusals {
         batches: page.batches
@@ -182,7 +192,6 @@ FocusScope {
         id: deviceActions
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
-        localConfig: page.localConfig
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -191,6 +200,7 @@ FocusScope {
         actions: deviceActions
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
+        tickedDevices: () => devices.checkedDevices
         onSimilarRequested: (key, values) => devices.checkSimilar(values.identity, key)
     }
 
@@ -225,7 +235,7 @@ FocusScope {
         timeZone: page.timeZone
         upgradingCount: devices.checkedUpgradingCount
         onActionRequested: (command, title, data) => page.runOnTicked(command, title, data)
-        onPasswordChangeRequested: password => page.changePasswords(password)
+        onPasswordChangeRequested: (password, keeping) => page.changePasswords(password, keeping)
         onPasswordCheckRequested: password => {
             passwordTime.close(SystemPasswordTime.Regular);
             page.runOnTicked("loginCheck", qsTr("验证旧密码"), {password: password});

@@ -9,6 +9,7 @@ OVDialog {
     property int deviceCount: 0
     readonly property alias account: accountField.text
     readonly property alias password: passwordField.text
+    readonly property alias keeping: keepingChoice.keeping
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
     property bool tried: false
     signal confirmed
@@ -16,6 +17,7 @@ OVDialog {
     function load(count) {
         deviceCount = count;
         tried = false;
+        keepingChoice.keeping = AccountList.ForDevices;
         accountField.text = "admin";
         passwordField.text = "";
         confirmationField.text = "";
@@ -126,11 +128,21 @@ OVDialog {
             text: qsTr("密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除") + "'\":;&"
                 + qsTr("这五个字符以外的任意可见字符)")
         }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("成功后")
+
+            AccountKeeping {
+                id: keepingChoice
+                width: parent.width
+            }
+        }
         OVParagraph {
             width: parent.width
             color: Theme.colours.sub
             font: Theme.hintFont
             text: qsTr("设定新密码后,请在“搜索设置”中设置新密码")
+            visible: root.keeping === AccountList.Unkept
         }
     }
 }

@@ -1,5 +1,6 @@
 // What the windows that log in to one device after the other remember until the program ends: how often each device has
-// refused a password, and the account that the user has given for all that follow.
+// refused a password, and the account that the user has given for all that follow. It also holds the accounts that the
+// user keeps, which the main window hands over.
 pragma Singleton
 import QtQuick
 
@@ -10,9 +11,14 @@ QtObject {
     property var wrongTimes: ({})  // by address and port
     property string account
     property string password
-    property var offered: null  // an account for all that follow, not tried yet: "ipport", "account", "password"
+    /// An account that the user has given and that was not tried yet: "ipport", "account", "password", "isForAll" and
+    /// "isKept" (for the device).
+    property var offered: null
+    property var accounts: null  // an AccountList; null where nothing is kept
+    signal unkept(string reason)
 
-    /// Takes the result of a login. An account for all that follow counts once a device has taken it.
+    /// Takes the result of a login. An account for all that follow counts once a device has taken it, and one for the
+    /// device is kept then.
     function note(ipport, result) {
         if (result === wrongPassword)
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: timesWrong(ipport) + 1});
@@ -20,28 +26,29 @@ QtObject {
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: 0});
         if (offered === null || offered.ipport !== ipport)
             return;
-        if (result === 0) {
+        if (result === 0 && offered.isForAll) {
             account = offered.account;
             password = offered.password;
         }
+        const failure = result === 0 && offered.isKept ? accounts.keep(ipport, offered.account, offered.password) : "";
         offered = null;
+        if (failure !== "")
+            unkept(failure);
     }
 
-    function offer(ipport, account, password) {
-        offered = {ipport: ipport, account: account, password: password};
+    function offer(ipport, account, password, isForAll, isKept) {
+        offered = {ipport: ipport, account: account, password: password, isForAll: isForAll, isKept: isKept};
     }
 
     function timesWrong(ipport) {
         return wrongTimes[ipport] ?? 0;
     }
 
-    /// The one account that a device is tried with: its own, else that for all that follow, else the search settings'.
-    function accountFor(row, localConfig) {
-        if (row.username || row.password)
-            return {user: row.username || localConfig.getSearchConfigUsrename(),
-                    password: row.password || localConfig.getSearchConfigPass()};
-        if (account !== "")
+    /// The one account that a device is tried with: that for all that follow takes the place of the default one.
+    function accountFor(ipport, deviceFactory) {
+        const chosen = deviceFactory.accountOf("dh", ipport);
+        if (chosen.isDefault && account !== "")
             return {user: account, password: password, isForAll: true};
-        return {user: localConfig.getSearchConfigUsrename(), password: localConfig.getSearchConfigPass()};
+        return {user: chosen.account, password: chosen.password};
     }
 }

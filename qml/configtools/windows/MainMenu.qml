@@ -9,6 +9,7 @@ OVMenu {
     required property var languages  // objects with "code" and "label"
     required property string currentLanguage
     required property string colourChoice  // "desktop", "light" or "dark"
+    signal accountsRequested
     signal helpRequested
     signal questionsRequested
     signal aboutRequested
@@ -17,6 +18,12 @@ OVMenu {
 
     objectName: "mainMenu"
 
+    OVMenuItem {
+        iconName: "settings"
+        objectName: "accountsItem"
+        text: qsTr("账号")
+        onTriggered: root.accountsRequested()
+    }
     OVMenuItem {
         iconName: "help"
         objectName: "helpItem"

@@ -25,6 +25,8 @@ OVDialog {
         accountField.text = account;
         passwordField.text = "";
         followingBox.checked = false;
+        // One that is kept and refused would be refused again after the next search.
+        keepBox.checked = keepBox.visible && deviceFactory.accountOf("dh", ipport).isStored;
         root.result = result;
         wrongTimes = LoginMemory.timesWrong(ipport);
         showAnswer();
@@ -71,8 +73,8 @@ OVDialog {
         const account = accountField.text;
         const password = passwordField.text;
         close();
-        if (followingBox.checked)
-            LoginMemory.offer(ipport, account, password);
+        if (followingBox.checked || keepBox.checked)
+            LoginMemory.offer(ipport, account, password, followingBox.checked, keepBox.checked);
         const kept = deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
         answer(kept ? account : "", kept ? password : "");
     }
@@ -126,6 +128,14 @@ OVDialog {
             objectName: "triesHint"
             text: qsTr("设备没有报告剩余的尝试次数。继续输错可能锁定账户。")
             visible: root.wrongTimes > 0
+        }
+        OVCheckBox {
+            id: keepBox
+            x: Theme.formLabelWidth + Theme.unit
+            objectName: "keepBox"
+            text: qsTr("保存为此设备的账号")
+            toolTip: qsTr("登录成功后，以后登录这台设备都使用此账号")
+            visible: LoginMemory.accounts !== null
         }
         OVCheckBox {
             id: followingBox

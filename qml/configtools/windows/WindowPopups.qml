@@ -105,6 +105,14 @@ Item {
         }
     }
 
+    Connections {
+        target: LoginMemory
+
+        function onUnkept(reason) {
+            root.say(qsTr("账号无法保存，只用到下次搜索：%1").arg(reason), OVToast.Error);
+        }
+    }
+
     // A batch and a search are asked about once, at their ends.
     Timer {
         interval: 300
@@ -130,10 +138,19 @@ Item {
             currentLanguage: root.currentLanguage
             languages: root.languages
             onAboutRequested: about.wanted().open()
+            onAccountsRequested: accounts.wanted().manage()
             onColoursChosen: choice => root.coloursChosen(choice)
             onHelpRequested: root.helpRequested()
             onLanguageChosen: code => root.languageChosen(code)
             onQuestionsRequested: root.questionsRequested()
+        }
+    }
+    OVOnDemand {
+        id: accounts
+        visible: false
+        sourceComponent: AccountsDialog {
+            accounts: LoginMemory.accounts
+            onSaid: (message, kind) => root.say(message, kind)
         }
     }
     OVOnDemand {

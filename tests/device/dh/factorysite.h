@@ -65,13 +65,17 @@ protected:
     std::shared_ptr<DeviceStore> m_store;
     std::unique_ptr<CDeviceFactory> m_factory;
     std::unique_ptr<FlowingClock> m_time;
+    AccountChoice::Stored m_storedAccounts; ///< for the next site
 
 private:
     void makeFactory()
     {
         m_store = std::make_shared<DeviceStore>(m_clock);
         const auto backEnd = [this] {
-            return std::make_shared<CDeviceDH>(m_store, m_site->libraries(), [] { return SearchSettings(); });
+            auto dh =
+                std::make_shared<CDeviceDH>(m_store, m_site->libraries(), [] { return SearchSettings(); });
+            dh->setStoredAccounts(m_storedAccounts);
+            return dh;
         };
         m_factory = std::make_unique<CDeviceFactory>(
             CDeviceFactory::BackEndCreators{{"dh", backEnd}},

@@ -97,7 +97,14 @@ private:
     /// A search that finds the devices of `m_store`. Returns the addresses that were logged in to.
     QStringList search(FoundLogins &logins, const QString &account, const QString &password) const
     {
-        logins.begin(account, password);
+        AccountChoice accounts;
+        accounts.setStored([](const QStringList &identities) {
+            return identities.contains("m7")
+                       ? std::optional(DeviceAccount{.account = "own", .password = "right"})
+                       : std::nullopt;
+        });
+        accounts.setDefault({.account = account, .password = password});
+        logins.begin(account.isEmpty() ? std::nullopt : std::optional(accounts));
         logins.askNew();
         logins.askNew();
         logins.waitForDone();
@@ -123,6 +130,16 @@ private Q_SLOTS:
         QCOMPARE(valuesOf(m_store->rowNamed("uuid:5f5a"), "model vision mac"), "B-1|v9.1|02:1a:c5:00:00:09");
         QCOMPARE(sdk::blockText(m_store->record("uuid:5f5a")->device.serialNumber), "S9");
         QCOMPARE(search(logins, "", ""), QStringList()); // switched off
+    }
+
+    void aDeviceIsAskedWithItsOwnAccount()
+    {
+        m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = "m7"}));
+        m_store->addAnswer(bareAnswer({.address = "192.168.1.11", .mac = "m8"}));
+        FoundLogins logins(m_store, libraries());
+        QCOMPARE(search(logins, "admin", "wrong"), QStringList({"192.168.1.10", "192.168.1.11"}));
+        QCOMPARE(m_store->row("m7").value("model").toString(), "B-1");
+        QCOMPARE(m_store->row("m8").value("model").toString(), "");
     }
 
     void aWrongPasswordIsNotSentAgain()

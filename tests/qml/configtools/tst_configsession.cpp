@@ -7,21 +7,19 @@
 
 namespace {
 
-const char *const scene =
-    "    visible: true\n"
-    "    ConfigSession {\n"
-    "        objectName: 'session'; deviceFactory: factory\n"
-    "        localConfig: ({getSearchConfigUsrename: () => 'admin', getSearchConfigPass: () => 'secret1'})\n"
-    "        function choose(ipport) { work.afterWriting(() => open(ipport)); }\n"
-    "        function readNames() { names.load(); }\n"
-    "        function saveNames() {\n"
-    "            names.form.set(0, 'west');\n"
-    "            names.form.set(1, 'east');\n"
-    "            names.save();\n"
-    "        }\n"
-    "        function saveEncoding() { encoding.save(); }\n"
-    "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
-    "    }\n";
+const char *const scene = "    visible: true\n"
+                          "    ConfigSession {\n"
+                          "        objectName: 'session'; deviceFactory: factory\n"
+                          "        function choose(ipport) { work.afterWriting(() => open(ipport)); }\n"
+                          "        function readNames() { names.load(); }\n"
+                          "        function saveNames() {\n"
+                          "            names.form.set(0, 'west');\n"
+                          "            names.form.set(1, 'east');\n"
+                          "            names.save();\n"
+                          "        }\n"
+                          "        function saveEncoding() { encoding.save(); }\n"
+                          "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
+                          "    }\n";
 
 const char *const heldScene = "    visible: true; width: 400; height: 100\n"
                               "    Item {\n"
@@ -75,6 +73,7 @@ private Q_SLOTS:
     void init()
     {
         m_site = std::make_unique<ConfigSite>(QList<sdk::demo::SceneDevice>{m_recorder, m_other});
+        m_site->factory->setDefaultAccount("dh", "admin", "secret1");
         m_engine = std::make_unique<QQmlEngine>();
         m_window = openScene(*m_engine, scene, {{"factory", m_site->factory.get()}});
         QVERIFY(m_window);
@@ -192,10 +191,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
 
         m_site->site->requests().clear();
-        m_session->setProperty(
-            "localConfig",
-            QVariant::fromValue(m_engine->evaluate(
-                "({getSearchConfigUsrename: () => 'admin', getSearchConfigPass: () => 'wrong'})")));
+        m_site->factory->setDefaultAccount("dh", "admin", "wrong");
         choose(m_other);
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
         const QList<sdk::demo::RecordedRequest> requests = m_site->site->requests().all();

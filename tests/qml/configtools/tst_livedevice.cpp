@@ -8,12 +8,10 @@ namespace {
 const QString device = QStringLiteral("192.168.1.20:37777");
 const QString other = QStringLiteral("192.168.1.21:37777");
 
-const char *const scene =
-    "    visible: true\n"
-    "    LiveDevice {\n"
-    "        objectName: 'live'; deviceFactory: factory\n"
-    "        localConfig: ({getSearchConfigUsrename: () => 'usual', getSearchConfigPass: () => 'usual-1'})\n"
-    "    }\n";
+const char *const scene = "    visible: true\n"
+                          "    LiveDevice {\n"
+                          "        objectName: 'live'; deviceFactory: factory\n"
+                          "    }\n";
 
 } // namespace
 
@@ -50,9 +48,13 @@ public:
     Q_INVOKABLE QVariant getConfigData(const QString &, const QString &) const { return sessionWith; }
     Q_INVOKABLE QVariantMap getDeviceInfo(const QString &, const QString &ipport) const
     {
+        return ipport == other ? QVariantMap() : QVariantMap{{"name", "东门"}};
+    }
+    Q_INVOKABLE QVariantMap accountOf(const QString &, const QString &ipport) const
+    {
         if (ipport == other)
-            return {};
-        return {{"name", "东门"}, {"username", "admin"}, {"password", "secret1"}};
+            return {{"account", "usual"}, {"password", "usual-1"}, {"isDefault", true}};
+        return {{"account", "admin"}, {"password", "secret1"}, {"isDefault", false}};
     }
     Q_INVOKABLE QString getErrorName(int code) const { return QStringLiteral("result %1").arg(code); }
 

@@ -1,3 +1,4 @@
+#include "device/accountlist.h"
 #include "device/batch/batches.h"
 #include "device/batch/batchpreview.h"
 #include "device/treemodel.h"
@@ -12,6 +13,7 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    PageSystemConfig {\n"
                           "        objectName: 'page'; anchors.fill: parent\n"
                           "        batches: works; libraryInstalled: true\n"
+                          "        Component.onCompleted: LoginMemory.accounts = deviceAccounts\n"
                           "    }\n";
 
 constexpr int notDone = 15;
@@ -28,6 +30,9 @@ private:
     std::unique_ptr<BatchEngine> m_threads;
     std::unique_ptr<ConfigSite> m_site;
     std::unique_ptr<Batches> m_batches;
+    std::shared_ptr<AccountStore> m_accounts;
+    std::unique_ptr<AccountList> m_accountList;
+    DeviceAccount m_default;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QQuickItem *m_page = nullptr;
@@ -95,11 +100,21 @@ private Q_SLOTS:
         const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
         m_site->factory->startSearch("dh");
         QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        m_default = {};
+        m_accounts = std::make_shared<AccountStore>(QString());
+        m_accountList =
+            std::make_unique<AccountList>(*m_site->factory, m_accounts,
+                                          AccountList::Defaults{.read = [this] { return m_default; },
+                                                                .write =
+                                                                    [this](const DeviceAccount &account) {
+                                                                        m_default = account;
+                                                                    }});
         m_engine = std::make_unique<QQmlEngine>();
         m_engine->rootContext()->setContextProperty("systemTimeZone", QStringLiteral("UTC+08:00"));
         m_window = openScene(*m_engine, scene,
                              {{"CDeviceFactoryApi", m_site->factory.get()},
                               {"works", m_batches.get()},
+                              {"deviceAccounts", m_accountList.get()},
                               {"FileDialogsApi", m_batches.get()}, // nothing is asked of these two
                               {"LocalConfigApi", m_batches.get()}});
         QVERIFY(m_window);
@@ -116,11 +131,38 @@ private Q_SLOTS:
     {
         m_window.reset();
         m_engine.reset();
+        m_accountList.reset();
         m_site->net->passwordGate.reset();
         m_threads->end();
         m_batches.reset();
         m_site.reset();
         m_threads.reset();
+    }
+
+    void theNewPasswordIsKept_data()
+    {
+        const auto row = dataTable<QByteArray, int, QString>({"choice", "devices", "byDefault"});
+        row("for the devices", "keepForDevices", 3, "");
+        row("as the default", "keepAsDefault", 0, "Better-2025");
+        row("not", "keepNot", 0, "");
+    }
+
+    /// Of those that have taken it.
+    void theNewPasswordIsKept()
+    {
+        QFETCH(QByteArray, choice);
+        QFETCH(int, devices);
+        press(choice.constData());
+        const QModelIndex refusing = m_tree->index(0, 0, m_tree->index(0, 0));
+        m_site->site->setFault(refusing.data(OVTreeModel::IdentityRole).toString(),
+                               {.fault = sdk::demo::Fault::RefusesPasswordChange});
+        sendNewPassword();
+        QTRY_VERIFY(!isRunning());
+        QCOMPARE(m_site->site->requests().of("NetModifyPassword").size(), 4);
+        QCOMPARE(m_accounts->deviceCounts().value("admin"), devices);
+        QTEST(m_default.password, "byDefault");
+        const std::optional<StoredAccount> kept = m_accounts->account("admin");
+        QCOMPARE(kept ? kept->password : QString(), devices > 0 ? QString("Better-2025") : QString());
     }
 
     void aDeviceThatIsTakenOutKeepsItsTime()

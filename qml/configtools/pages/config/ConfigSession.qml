@@ -7,7 +7,6 @@ Item {
     id: root
 
     required property var deviceFactory
-    required property var localConfig
     property bool shown: true        // its page is in front: questions of a login are asked
     property int tab: 0              // that is in front: the encode settings, the image, the channels' names
     readonly property bool encodeShown: tab === 0
@@ -45,7 +44,7 @@ Item {
         model = row.model ?? "";
         type = row.type ?? "";
         noteUpgrade();
-        const known = LoginMemory.accountFor(row, localConfig);
+        const known = LoginMemory.accountFor(ipport, deviceFactory);
         login(known.user, known.password, known.isForAll ?? false);
     }
 
@@ -113,9 +112,8 @@ Item {
     }
 
     function tryAgain() {
-        const row = deviceFactory.getDeviceInfo("dh", device);
         if (canLoginAgain() && !taken)
-            askAgain(LoginMemory.accountFor(row, localConfig).user);
+            askAgain(LoginMemory.accountFor(device, deviceFactory).user);
         else
             open(device);
     }

@@ -21,7 +21,7 @@ Rectangle {
     signal rebootRequested
     signal resetRequested
     signal passwordCheckRequested(string password)
-    signal passwordChangeRequested(string password)
+    signal passwordChangeRequested(string password, int keeping)
     signal refused(string message)
 
     function forgetNewPassword() {
@@ -111,7 +111,7 @@ Rectangle {
                 available: root.available
                 deviceFactory: root.deviceFactory
                 time: root.passwordTime
-                onChangeRequested: password => root.passwordChangeRequested(password)
+                onChangeRequested: (password, keeping) => root.passwordChangeRequested(password, keeping)
                 onCheckRequested: password => root.passwordCheckRequested(password)
                 onRefused: message => root.refused(message)
                 visible: root.currentPanel === 4

@@ -9,7 +9,7 @@ Column {
     required property SystemPasswordTime time
     required property var deviceFactory  // grades passwords
     signal checkRequested(string password)
-    signal changeRequested(string password)
+    signal changeRequested(string password, int keeping)
     signal refused(string message)
 
     readonly property bool editorEnabled: time.open
@@ -67,7 +67,7 @@ Column {
         if (fault !== SystemTools.NoFault)
             refused(textOf(fault));
         else
-            changeRequested(newField.text);
+            changeRequested(newField.text, keepingChoice.keeping);
     }
 
     spacing: Theme.pageMargin * 1.5
@@ -163,6 +163,17 @@ Column {
             color: broken ? Theme.colours.bad : Theme.colours.faint
             font: Theme.hintFont
             text: qsTr("密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除'\":;&这五个字符以外的任意可见字符)")
+        }
+        OVFormRow {
+            width: parent.width
+            enabled: root.editorEnabled
+            label: qsTr("成功后")
+            labelWidth: Theme.panelLabelWidth
+
+            AccountKeeping {
+                id: keepingChoice
+                width: parent.width
+            }
         }
         Row {
             x: Theme.panelLabelWidth + Theme.unit

@@ -1,0 +1,86 @@
+// One account: a new one, or one that is changed. A password that was stored is not shown.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property AccountList accounts
+    property string before  // its name, empty for a new one
+    signal put(string name)
+
+    function edit(name, account) {
+        before = name;
+        nameField.text = name;
+        accountField.text = account;
+        passwordField.text = "";
+        open();
+    }
+
+    width: Theme.addDeviceWidth
+    objectName: "accountDialog"
+    title: before === "" ? qsTr("添加账号") : qsTr("修改账号")
+    onAccepted: {
+        const failure = accounts.put(before, nameField.text, accountField.text, passwordField.text);
+        if (failure !== "") {
+            refuse(failure);
+            return;
+        }
+        const name = nameField.text.trim();
+        close();
+        put(name);
+    }
+    onClosed: passwordField.text = ""  // no password stays in the memory of the scene longer than it is needed
+    onOpened: (before === "" ? nameField : passwordField).forceActiveFocus()
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVFormRow {
+            width: parent.width
+            label: qsTr("名称")
+
+            OVTextField {
+                id: nameField
+                width: parent.width
+                accessibleName: qsTr("名称")
+                maximumLength: 63
+                objectName: "accountNameField"
+                placeholderText: qsTr("例如：一号楼")
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("用户名")
+
+            OVTextField {
+                id: accountField
+                width: parent.width
+                accessibleName: qsTr("用户名")
+                maximumLength: 63
+                objectName: "accountUserField"
+            }
+        }
+        OVFormRow {
+            width: parent.width
+            label: qsTr("密码")
+
+            OVTextField {
+                id: passwordField
+                width: parent.width
+                accessibleName: qsTr("密码")
+                maximumLength: 63
+                objectName: "accountPasswordField"
+                placeholderText: root.before === "" ? "" : qsTr("留空则不修改")
+                secret: true
+            }
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.faint
+            font: Theme.hintFont
+            text: qsTr("这里只保存登录时使用的账号，不会修改设备上的密码。")
+        }
+    }
+}

@@ -1,0 +1,78 @@
+// Keeps the account that the devices of a batch have taken, as the user has chosen before. What has been taken is kept
+// while the batch runs: the program may end in the midst of it.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property Batches batches
+    property Batch batch: null
+    property int keeping: AccountList.Unkept
+    property var taken: []  // names of devices that wait to be kept
+    property int keptCount: 0
+    property string failure
+    readonly property var accounts: LoginMemory.accounts
+
+    /// What has become of the account, for the end of a message; empty when it was not to be kept.
+    readonly property string words: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
+        : keptCount === 0 || keeping === AccountList.Unkept ? ""
+        : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")
+        : qsTr("新账号已保存，以后登录这 %n 台设备时使用", "", keptCount)
+
+    /// Follows a batch that gives devices a new password. A batch that there is not is not followed.
+    function follow(batch, keeping) {
+        keep();
+        root.batch = batch;
+        root.keeping = keeping;
+        keptCount = 0;
+        failure = "";
+    }
+
+    function take(devices, results) {
+        taken = taken.concat(devices.filter((device, place) => results[place] === 0));
+        if (taken.length > 0 && !pause.running)
+            pause.start();
+    }
+
+    /// Keeps what waits. At the end of the batch, the words are complete then.
+    function keep() {
+        pause.stop();
+        if (taken.length === 0 || !accounts)
+            return;
+        const devices = taken;
+        taken = [];
+        const reason = accounts.keepNew(devices, keeping);
+        if (reason !== "")
+            failure = reason;
+        else
+            keptCount += devices.length;
+    }
+
+    visible: false
+    Component.onDestruction: keep()
+
+    Timer {
+        id: pause
+        interval: 1000  // each keeping writes a file
+        onTriggered: root.keep()
+    }
+    Connections {
+        target: root.batch
+
+        function onResulted(devices, results) {
+            root.take(Array.from(devices), Array.from(results));
+        }
+        function onFinished() {
+            root.keep();
+        }
+    }
+    Connections {
+        target: root.batches
+
+        function onRetried(earlier, again) {
+            if (earlier === root.batch)
+                root.batch = again;
+        }
+    }
+}

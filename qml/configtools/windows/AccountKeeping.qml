@@ -1,0 +1,32 @@
+// What becomes of an account that devices are about to take: a choice before they take it.
+import QtQuick
+import configtools
+
+Column {
+    id: root
+
+    property int keeping: AccountList.ForDevices
+    topPadding: Theme.half
+
+    Accessible.role: Accessible.Grouping
+
+    // qmllint disable unqualified
+    Repeater {
+        model: [
+            {keeping: AccountList.ForDevices, objectName: "keepForDevices", text: qsTr("保存为这些设备的账号（推荐）")},
+            {keeping: AccountList.AsDefault, objectName: "keepAsDefault", text: qsTr("设为默认账号，用于搜索和所有设备")},
+            {keeping: AccountList.Unkept, objectName: "keepNot", text: qsTr("不保存，只用到下次搜索")}
+        ]
+
+        OVRadioButton {
+            required property var modelData
+
+            height: Theme.unit * 3
+            checked: root.keeping === modelData.keeping
+            objectName: modelData.objectName
+            text: modelData.text
+            onClicked: root.keeping = modelData.keeping
+        }
+    }
+    // qmllint enable unqualified
+}

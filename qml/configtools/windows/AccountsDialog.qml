@@ -1,0 +1,166 @@
+// The accounts that the user keeps: adds, changes and removes them, and gives one of them to devices.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property AccountList accounts
+    property var devices: []  // that get an account; none: the accounts are only looked after
+    readonly property bool choosing: devices.length > 0
+    readonly property var current: shownRow(table.currentIndex, accounts.count)
+    readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
+    signal said(string message, int kind)
+
+    /// `count` changes with the rows.
+    function shownRow(index, count) {
+        return accounts.get(index);
+    }
+
+    function manage() {
+        choose([]);
+    }
+
+    function choose(devices) {
+        root.devices = devices;
+        accounts.load();
+        open();
+        table.show(devices.length > 0 ? Math.max(0, accounts.rowOfDevice(devices[0])) : 0);
+        table.forceActiveFocus();
+    }
+
+    function use() {
+        const name = current.name ?? "";
+        const failure = accounts.select(devices, name);
+        if (failure !== "") {
+            refuse(failure);
+            return;
+        }
+        const unknown = name === "" ? 0 : accounts.countUnidentified(devices);
+        close();
+        said((name === "" ? qsTr("%n 台设备使用默认账号", "", devices.length)
+                          : qsTr("%n 台设备使用账号“%1”", "", devices.length).arg(name))
+            + (unknown > 0 ? qsTr("；其中 %n 台没有MAC和UUID，只用到下次搜索", "", unknown) : ""), OVToast.Success);
+    }
+
+    function edit(name, account) {
+        editing.wanted().edit(name, account);
+    }
+
+    function askToRemove() {
+        const box = removing.wanted();
+        box.name = current.name;
+        box.show(qsTr("删除账号“%1”？").arg(current.name) + (current.deviceCount > 0
+            ? qsTr("使用它的 %n 台设备以后用默认账号登录。", "", current.deviceCount) : ""), OVMessageBox.DangerQuestion);
+    }
+
+    width: Theme.initialiseWidth
+    hasCancel: choosing
+    objectName: "accountsDialog"
+    okEnabled: !choosing || (current.identity ?? "") !== ""
+    okText: choosing ? qsTr("用于 %n 台设备", "", devices.length) : qsTr("关闭")
+    title: choosing ? qsTr("选择账号") : qsTr("账号")
+    onAccepted: choosing ? use() : close()
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.warn
+            iconName: "alert"
+            objectName: "accountsProblem"
+            text: root.accounts.problem
+            visible: text !== ""
+        }
+        OVTable {
+            id: table
+            width: parent.width
+            height: Theme.batchPreviewHeight
+            checkable: false
+            columns: [
+                {key: "name", title: qsTr("名称"), width: Theme.columnModel, stretch: 1, cell: nameCell},
+                {key: "account", title: qsTr("账号"), width: Theme.columnModel, stretch: 1},
+                {key: "deviceCount", title: qsTr("设备数"), width: Theme.columnType, cell: countCell}
+            ]
+            focus: true
+            model: root.accounts
+            objectName: "accountsTable"
+            onRowOpened: {
+                if (root.choosing)
+                    root.accept();
+                else if (root.isOwn)
+                    root.edit(root.current.name, root.current.account);
+            }
+        }
+        OVActionRow {
+            OVButton {
+                objectName: "addAccountButton"
+                text: qsTr("添加")
+                onClicked: root.edit("", "")
+            }
+            OVButton {
+                enabled: root.isOwn
+                objectName: "changeAccountButton"
+                text: qsTr("修改")
+                toolTip: enabled ? "" : qsTr("默认账号在“搜索设置”中修改")
+                onClicked: root.edit(root.current.name, root.current.account)
+            }
+            OVButton {
+                enabled: root.isOwn
+                kind: OVButton.Danger
+                objectName: "removeAccountButton"
+                text: qsTr("删除")
+                onClicked: root.askToRemove()
+            }
+        }
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.faint
+            font: Theme.hintFont
+            text: qsTr("每台设备只用一个账号登录：为它选定的账号，否则为默认账号。其他账号不会自动尝试。")
+        }
+    }
+
+    Component {
+        id: nameCell
+        OVTableTextCell {
+            color: row?.isDefault ? Theme.colours.sub : Theme.colours.ink
+            text: row?.isDefault ? qsTr("默认账号") : row?.name ?? ""
+        }
+    }
+    Component {
+        id: countCell
+        OVTableTextCell {
+            font: Theme.figureFont
+            text: row?.isDefault ? "—" : row?.deviceCount ?? ""
+        }
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: editing
+        visible: false
+        sourceComponent: AccountDialog {
+            accounts: root.accounts
+            onPut: name => table.show(root.accounts.rowOfName(name))
+        }
+    }
+    OVOnDemand {
+        id: removing
+        visible: false
+        sourceComponent: OVMessageBox {
+            property string name
+            objectName: "removeAccountQuestion"
+            okText: qsTr("删除")
+            title: qsTr("删除账号")
+            onAccepted: {
+                const failure = root.accounts.remove(name);
+                if (failure !== "")
+                    root.refuse(failure);
+            }
+        }
+    }
+    // qmllint enable unqualified
+}
