@@ -63,6 +63,7 @@ QVariant OVTreeModel::groupData(const Group &group, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case NameRole:
+    case LabelRole:
     case IdentityRole:
         return group.type;
     case IsCheckedRole:
@@ -82,6 +83,9 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
     case Qt::DisplayRole:
     case NameRole:
         return device.ipport;
+    case LabelRole:
+        return device.ipport.endsWith(m_usualPort) ? device.ipport.chopped(m_usualPort.size())
+                                                   : device.ipport;
     case IsCheckedRole:
         return device.checked ? Qt::Checked : Qt::Unchecked;
     case CopyRetRole:
@@ -250,19 +254,19 @@ void OVTreeModel::setFailedMarks(FailedMarks *marks)
     takeMarks();
 }
 
-void OVTreeModel::setOnlyFailed(bool only)
+void OVTreeModel::setShown(Shown shown)
 {
-    if (std::exchange(m_onlyFailed, only) == only)
+    if (std::exchange(m_shown, shown) == shown)
         return;
-    Q_EMIT onlyFailedChanged();
+    Q_EMIT shownChanged();
     resetItems(m_filterType, m_searchText);
 }
 
 void OVTreeModel::takeMarks()
 {
-    if (m_onlyFailed && m_failedMarks.isEmpty())
-        return setOnlyFailed(false);
-    if (m_onlyFailed)
+    if (m_shown == Failed && m_failedMarks.isEmpty())
+        return setShown(All);
+    if (m_shown == Failed)
         return resetItems(m_filterType, m_searchText);
     for (int group = 0; group < m_groups.size(); ++group) {
         const QModelIndex parent = index(group, 0);
@@ -272,14 +276,32 @@ void OVTreeModel::takeMarks()
 
 QVariantList OVTreeModel::readRows() const
 {
-    const QVariantList rows = m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText);
-    return m_onlyFailed ? DeviceOrder(DeviceRowKey::ipport).ordered(rows) : rows;
+    return DeviceOrder(DeviceRowKey::ipport)
+        .ordered(m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText));
+}
+
+void OVTreeModel::noteUsualPort(const QVariantList &rows)
+{
+    QHash<QString, int> devices;
+    int most = 0;
+    m_usualPort.clear();
+    for (const QVariant &row : rows) {
+        const QString ipport = row.toJsonObject().value(DeviceRowKey::ipport).toString();
+        const QString port = ipport.mid(ipport.lastIndexOf(QLatin1Char(':')));
+        const int count = ++devices[port];
+        if (count <= most)
+            continue;
+        most = count;
+        m_usualPort = port;
+    }
 }
 
 QString OVTreeModel::groupNameOf(const QJsonObject &row, const QString &identity) const
 {
-    if (m_onlyFailed)
+    if (m_shown == Failed)
         return m_failedMarks.reasonOf(identity);
+    if (m_shown == LoggedOut && row.value(DeviceRowKey::loggedIn).toBool())
+        return {};
     const QString type = row.value(DeviceRowKey::type).toString();
     return type.isEmpty() ? otherDeviceType() : type;
 }
@@ -304,6 +326,8 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     m_searchText = searchText;
     const QVariantList rows = readRows();
     rememberDevices();
+    noteUsualPort(rows);
+    m_loggedOutCount = 0;
 
     QHash<QString, qsizetype> places;
     QList<Group> groups;
@@ -311,6 +335,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
         const QJsonObject values = row.toJsonObject();
         if (rowAddress(values).isEmpty()) // waits for an address by DHCP: no login reaches it
             continue;
+        m_loggedOutCount += values.value(DeviceRowKey::loggedIn).toBool() ? 0 : 1;
         const QString identity = rowName(values);
         const QString name = groupNameOf(values, identity);
         if (name.isEmpty())

@@ -15,12 +15,12 @@ class CDeviceFactory;
 /// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named by their
 /// "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
 /// order with "PC-NVR" and then "Other" at the end, since they are no device hardware; devices in the order
-/// of the list. The tick of a group covers its devices and is partial when some of them are ticked. Ticks and
-/// results outlive a rebuild. They belong to the name of the row (see rowName()): a device that gets another
-/// address keeps its tick, and one that gets that address does not inherit it.
+/// of their addresses. The tick of a group covers its devices and is partial when some of them are ticked.
+/// Ticks and results outlive a rebuild. They belong to the name of the row (see rowName()): a device that
+/// gets another address keeps its tick, and one that gets that address does not inherit it.
 ///
 /// While only the devices that batches failed with are shown, the groups are the reasons, in alphabetical
-/// order, and the devices of each stand in the order of their addresses.
+/// order.
 class OVTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ class OVTreeModel : public QAbstractItemModel
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
-    /// It ends with the last mark.
-    Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY onlyFailedChanged)
+    Q_PROPERTY(Shown shown READ shown WRITE setShown NOTIFY shownChanged)
+    Q_PROPERTY(int loggedOutCount READ loggedOutCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(QStringList checkedDevices READ checkedDevices NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedDevicesChanged)
@@ -45,6 +45,15 @@ public:
     };
     Q_ENUM(Result)
 
+    /// Which devices the tree holds.
+    enum Shown
+    {
+        All,
+        Failed,    ///< those that batches failed with; ends with the last mark
+        LoggedOut, ///< those of which the list knows no login, or one that failed
+    };
+    Q_ENUM(Shown)
+
     enum Role
     {
         NameRole = Qt::UserRole, ///< "name": text of the node
@@ -52,6 +61,7 @@ public:
         CopyRetRole,  ///< "copyRet": result of what was last done with the device, NoResult at first
         IdentityRole, ///< not for the scene: unique text of a device or of a group among its kind
         FailureRole,  ///< not for the scene: what batches failed with the device, empty when they did not
+        LabelRole,    ///< not for the scene: the address, without the port that most devices have
     };
 
     explicit OVTreeModel(QObject *parent = nullptr);
@@ -71,8 +81,11 @@ public:
     void setDeviceFactory(CDeviceFactory *deviceFactory);
     [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }
     void setFailedMarks(FailedMarks *marks);
-    [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
-    void setOnlyFailed(bool only);
+    [[nodiscard]] Shown shown() const { return m_shown; }
+    void setShown(Shown shown);
+
+    /// Of the devices that the last rebuild found, also when they are not shown.
+    [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }
 
     /// Rebuilds the tree from the IPv4 rows. `type` is "search" (devices that hold `searchText`) or
     /// "removeuninit" (initialised devices only); other filters of the rows are taken as well.
@@ -115,7 +128,7 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void failedMarksChanged();
-    void onlyFailedChanged();
+    void shownChanged();
     void checkedDevicesChanged();
 
 private:
@@ -140,6 +153,7 @@ private:
     [[nodiscard]] Device deviceOf(const QString &identity, const QJsonObject &row) const;
     void takeMarks();
     [[nodiscard]] QVariantList readRows() const;
+    void noteUsualPort(const QVariantList &rows);
     /// Name of the group that a row stands in; empty when it is not shown.
     [[nodiscard]] QString groupNameOf(const QJsonObject &row, const QString &identity) const;
     void rememberDevices();
@@ -152,7 +166,9 @@ private:
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     FollowedMarks m_failedMarks;
-    bool m_onlyFailed = false;
+    Shown m_shown = All;
+    int m_loggedOutCount = 0;
+    QString m_usualPort;  ///< of most devices of the tree
     QString m_filterType; ///< of the last resetItems(), empty before it
     QString m_searchText;
     QList<Group> m_groups;

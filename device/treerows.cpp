@@ -74,6 +74,8 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
     case TitleRole:
         return fromTree(OVTreeModel::NameRole);
+    case LabelRole:
+        return fromTree(OVTreeModel::LabelRole);
     case DetailRole:
         return isGroup ? QString() : fromTree(Qt::ToolTipRole);
     case TickRole:
@@ -98,9 +100,10 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> DeviceTreeRows::roleNames() const
 {
-    return {{TitleRole, "title"},       {DetailRole, "detail"},     {TickRole, "tick"},
-            {ResultRole, "result"},     {IsGroupRole, "isGroup"},   {IsOpenRole, "isOpen"},
-            {CountRole, "deviceCount"}, {IdentityRole, "identity"}, {FailureRole, "failure"}};
+    return {{TitleRole, "title"},    {LabelRole, "label"},       {DetailRole, "detail"},
+            {TickRole, "tick"},      {ResultRole, "result"},     {IsGroupRole, "isGroup"},
+            {IsOpenRole, "isOpen"},  {CountRole, "deviceCount"}, {IdentityRole, "identity"},
+            {FailureRole, "failure"}};
 }
 
 void DeviceTreeRows::setOpen(int row, bool open)

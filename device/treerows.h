@@ -20,6 +20,7 @@ public:
     enum Role
     {
         TitleRole = Qt::UserRole, ///< "title": type of a group, address and port of a device
+        LabelRole,                ///< "label": the title without the port that most devices have
         DetailRole,               ///< "detail": name and model of a device
         TickRole,                 ///< "tick": a Qt::CheckState
         ResultRole,               ///< "result": of a device, see OVTreeModel

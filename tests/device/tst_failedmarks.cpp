@@ -127,7 +127,7 @@ private Q_SLOTS:
         fill(*site.rows, marks);
         tree.resetItems("removeuninit", "");
         tree.setCheckedDevices({"m1", "m9"});
-        tree.setOnlyFailed(true);
+        tree.setShown(OVTreeModel::Failed);
         DeviceTreeRows rows;
         rows.setTree(&tree);
         QStringList lines;
@@ -142,7 +142,7 @@ private Q_SLOTS:
         tree.resetItems("search", "10.0.0.10");
         QCOMPARE(tree.deviceCount(), 1);
         marks.clear();
-        QVERIFY(!tree.onlyFailed());
+        QCOMPARE(tree.shown(), OVTreeModel::All);
         tree.resetItems("removeuninit", "");
         QCOMPARE(tree.checkedCount(), 2);
     }

@@ -68,6 +68,56 @@ private Q_SLOTS:
         QCOMPARE(m_model->roleNames().values().size(), 3);
     }
 
+    /// The list is in the order of the answers.
+    void devicesStandInTheOrderOfTheirAddresses()
+    {
+        for (const char *address : {"10.0.0.30", "10.0.0.9", "9.255.0.1"})
+            m_site->rows->add({.address = address, .mac = address, .type = "SD"});
+        m_model->resetItems("removeuninit", "");
+        QCOMPARE(texts().at(1), "SD: 9.255.0.1:37777 10.0.0.2:37777 10.0.0.9:37777 10.0.0.30:37777");
+        m_model->resetItems("search", "10.0.0");
+        QCOMPARE(texts().at(1), "SD: 10.0.0.2:37777 10.0.0.9:37777 10.0.0.30:37777");
+    }
+
+    /// Of all devices, those that accepted no login, or not the last one.
+    void devicesWithoutALoginAreShownAlone()
+    {
+        const auto noteLogin = [this](qsizetype place, bool loggedIn) {
+            QJsonObject row = m_site->rows->ipv4.at(place).toJsonObject();
+            row.insert("loggedIn", loggedIn);
+            m_site->rows->ipv4[place] = row;
+        };
+        noteLogin(2, true);
+        noteLogin(3, true);
+        noteLogin(5, false);
+        m_model->setShown(OVTreeModel::LoggedOut);
+        const QStringList others = {"PC-NVR: 127.0.0.1:37777", "Other: 10.0.0.1:37777 10.0.0.6:37777"};
+        QCOMPARE(texts(), QStringList("IPC: 10.0.0.5:37777") + others);
+        noteLogin(5, true);
+        m_model->resetItems("removeuninit", "");
+        QCOMPARE(texts(), others);
+        QCOMPARE(m_model->loggedOutCount(), 3);
+        m_model->setShown(OVTreeModel::All);
+        QCOMPARE(m_model->deviceCount(), 6);
+        QCOMPARE(m_model->loggedOutCount(), 3);
+    }
+
+    void thePortIsShownWhereItIsAnotherOne()
+    {
+        m_site->rows->add({.address = "10.0.0.3", .mac = "m7", .type = "IPC"});
+        QJsonObject other = m_site->rows->ipv4.constLast().toJsonObject();
+        other.insert("ipport", "10.0.0.3:8000");
+        m_site->rows->ipv4.last() = other;
+        m_model->resetItems("removeuninit", "");
+        DeviceTreeRows rows;
+        rows.setTree(m_model.get());
+        QStringList labels;
+        for (int row = 1; row < 4; ++row)
+            labels.append(rows.index(row).data(DeviceTreeRows::LabelRole).toString());
+        QCOMPARE(labels, QStringList({"10.0.0.3:8000", "10.0.0.3", "10.0.0.5"}));
+        QCOMPARE(rows.deviceAt(2), "10.0.0.3:37777");
+    }
+
     void ticksAndResultsOutliveARebuild()
     {
         const QModelIndex device = m_model->index(0, 0, m_model->index(0, 0));
@@ -86,7 +136,7 @@ private Q_SLOTS:
         m_site->rows->add({.address = "10.0.0.3", .mac = "m9", .type = "IPC"});
         m_model->resetItems("removeuninit", "");
         QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.9:37777"));
-        QCOMPARE(m_model->index(2, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), -1);
+        QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), -1);
     }
 
     void devicesWithoutAMacAreTickedOneByOne()
@@ -112,14 +162,14 @@ private Q_SLOTS:
             {.address = "10.0.0.2", .mac = "m9", .type = "IPC"}); // in conflict with one of the SD
         m_model->resetItems("removeuninit", "");
         m_model->setResult("10.0.0.2:37777", 5);
-        QCOMPARE(m_model->index(2, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 5);
+        QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 5);
         QCOMPARE(m_model->index(0, 0, m_model->index(1, 0)).data(OVTreeModel::CopyRetRole), 5);
-        const QModelIndex device = m_model->index(1, 0, m_model->index(0, 0));
+        const QModelIndex device = m_model->index(2, 0, m_model->index(0, 0));
         QCOMPARE(device.data(OVTreeModel::CopyRetRole), 999);
         m_model->resetItems("search", "SD"); // hidden
         m_model->clearResults();
         m_model->resetItems("removeuninit", "");
-        QCOMPARE(m_model->index(1, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole),
+        QCOMPARE(m_model->index(2, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole),
                  int(OVTreeModel::NoResult));
     }
 

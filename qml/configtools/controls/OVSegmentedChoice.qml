@@ -1,4 +1,4 @@
-// A choice of few, side by side. Options are objects with "text" and "objectName".
+// A choice of few, side by side. Options are objects with "text" and "objectName", and if wanted "enabled" and "toolTip".
 import QtQuick
 import configtools
 
@@ -39,8 +39,10 @@ Rectangle {
                 checkable: false
                 ownArrows: true
                 checked: chosen
+                enabled: modelData.enabled ?? true
                 objectName: modelData.objectName
                 text: modelData.text
+                toolTip: modelData.toolTip ?? ""
 
                 Accessible.role: Accessible.RadioButton
                 Accessible.checked: chosen

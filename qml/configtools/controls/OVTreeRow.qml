@@ -8,6 +8,7 @@ Rectangle {
     required property int index
     required property string identity
     required property string title
+    required property string label  // what is shown of the title
     required property string detail
     required property int tick
     required property int result
@@ -124,7 +125,7 @@ Rectangle {
                 - root.signsWidth)
             height: parent.height
             font: root.isGroup ? Theme.titleFont : Theme.figureFont
-            text: root.title
+            text: root.label
         }
         OVLabel {
             x: words.x + words.width + Theme.unit

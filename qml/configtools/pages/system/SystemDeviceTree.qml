@@ -44,14 +44,25 @@ Rectangle {
         tree: root.devices
     }
 
-    Item {
+    // As the head of a table, with the box for all of them above those of the groups.
+    Rectangle {
         id: head
-        width: parent.width
-        height: Theme.tabBarHeight
+        x: Theme.line
+        y: Theme.line
+        width: parent.width - 2 * x
+        height: Theme.tableHeadHeight
+        color: Theme.colours.head
+        radius: Theme.paneRadius - Theme.line
 
+        Rectangle {  // the lower corners are square
+            y: parent.height - height
+            width: parent.width
+            height: parent.radius
+            color: parent.color
+        }
         OVCheckBox {
             id: all
-            x: Theme.controlGap
+            x: Theme.treeIndent + Theme.unit
             anchors.verticalCenter: parent.verticalCenter
             checkState: root.devices.checkState
             enabled: root.devices.deviceCount > 0 && !root.held
@@ -66,7 +77,8 @@ Rectangle {
             anchors.left: all.right
             anchors.leftMargin: Theme.unit
             height: parent.height
-            font: Theme.titleFont
+            color: Theme.colours.sub
+            font: Theme.headFont
             text: qsTr("设备")
         }
         OVLabel {
@@ -77,14 +89,16 @@ Rectangle {
             font: Theme.figureFont
             text: root.devices.deviceCount
         }
-        OVFailedFilter {
+        OVLinkButton {
             anchors.right: parent.right
             anchors.rightMargin: Theme.controlGap
             anchors.verticalCenter: parent.verticalCenter
             enabled: !root.held
-            marks: root.devices.failedMarks
-            on: root.devices.onlyFailed
-            onToggled: on => root.devices.onlyFailed = on
+            objectName: "clearMarksButton"
+            text: qsTr("清除失败标记")
+            toolTip: qsTr("不再标记失败和未执行的设备")
+            visible: states.failedCount > 0
+            onClicked: root.devices.failedMarks.clear()
         }
         Rectangle {
             anchors.bottom: parent.bottom
@@ -96,7 +110,7 @@ Rectangle {
     OVTextField {
         id: searchField
         x: Theme.controlGap
-        y: head.height + Theme.unit
+        y: head.y + head.height + Theme.unit
         width: parent.width - 2 * x
         clearable: true
         enabled: !root.held
@@ -104,10 +118,18 @@ Rectangle {
         objectName: "treeSearchField"
         placeholderText: qsTr("搜索…")
     }
+    SystemTreeStates {
+        id: states
+        x: Theme.controlGap
+        y: searchField.y + searchField.height + Theme.unit
+        devices: root.devices
+        enabled: !root.held
+        objectName: "treeStates"
+    }
     OVTree {
         id: tree
         x: Theme.line
-        y: searchField.y + searchField.height + Theme.unit
+        y: states.y + states.height + Theme.unit
         width: parent.width - 2 * x
         height: parent.height - y - Theme.controlRadius
         busyDevice: root.busyDevice
@@ -128,14 +150,15 @@ Rectangle {
         shown: tree.activeFocus && !tree.byPointer
     }
     OVEmptyState {
-        readonly property bool filtered: root.searchText !== "" || root.devices.onlyFailed
+        readonly property bool filtered: root.searchText !== "" || root.devices.shown !== OVTreeModel.All
 
         anchors.fill: tree
-        actionText: root.searchText !== "" ? qsTr("清除搜索") : root.devices.onlyFailed ? qsTr("显示全部")
+        actionText: root.searchText !== "" ? qsTr("清除搜索") : filtered ? qsTr("显示全部")
             : root.searching || !root.libraryInstalled ? "" : qsTr("重新搜索")
         busy: root.searching && !filtered
         hint: root.searchText !== "" ? qsTr("没有设备的名称、类型、型号或地址包含这些文字。")
-            : root.devices.onlyFailed ? qsTr("失败的设备不在列表中，见批处理记录。")
+            : root.devices.shown === OVTreeModel.Failed ? qsTr("失败的设备不在列表中，见批处理记录。")
+            : filtered ? qsTr("列表中的设备都已登录。")
             : root.searching ? qsTr("找到的设备会陆续显示在这里。")
             : !root.libraryInstalled ? qsTr("程序无法与设备通信。可在“修改IP”页打开演示站点。")
             : qsTr("只列出已初始化的IPv4设备。")
@@ -148,8 +171,8 @@ Rectangle {
         onActivated: {
             if (root.searchText !== "")
                 searchField.wipe();
-            else if (root.devices.onlyFailed)
-                root.devices.onlyFailed = false;
+            else if (filtered)
+                root.devices.shown = OVTreeModel.All;
             else
                 root.searchRequested();
         }

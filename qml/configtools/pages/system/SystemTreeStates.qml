@@ -1,0 +1,43 @@
+// Which devices a tree shows by their state: all, those that batches have failed with, or those without a login.
+import QtQuick
+import configtools
+
+OVSegmentedChoice {
+    id: root
+
+    required property OVTreeModel devices
+    readonly property int failedCount: devices.failedMarks?.count ?? 0
+    readonly property var shownOf: [OVTreeModel.All, OVTreeModel.Failed, OVTreeModel.LoggedOut]
+
+    currentIndex: shownOf.indexOf(devices.shown)
+    options: [all, failed, loggedOut]
+    onActivated: index => {
+        if (options[index].enabled)
+            devices.shown = shownOf[index];
+    }
+
+    // Objects: a count that changes does not make the choice anew, which may have the keyboard.
+    QtObject {
+        id: all
+        readonly property bool enabled: true
+        objectName: "allStates"
+        readonly property string text: qsTr("全部")
+        readonly property string toolTip: ""
+    }
+    QtObject {
+        id: failed
+        readonly property bool enabled: root.failedCount > 0
+        objectName: "failedStates"
+        //: Shows only the devices that batches have failed with; %1 is how many there are.
+        readonly property string text: qsTr("失败 %1").arg(root.failedCount)
+        readonly property string toolTip: qsTr("只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。")
+    }
+    QtObject {
+        id: loggedOut
+        readonly property bool enabled: true
+        objectName: "loggedOutStates"
+        //: Shows only the devices without a login; %1 is how many there are.
+        readonly property string text: qsTr("未登录 %1").arg(root.devices.loggedOutCount)
+        readonly property string toolTip: qsTr("只显示还没有登录过或最近一次登录失败的设备")
+    }
+}
