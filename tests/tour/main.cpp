@@ -100,7 +100,9 @@ int watch(const QString &language, const QString &folder)
     QDir().mkpath(folder);
     if (!runStage(u"fleet"_s, language, folder + u"/fleet"_s) ||
         !runStage(u"keyboard"_s, language, folder + u"/keyboard"_s) ||
-        !runStage(u"looks"_s, language, folder + u"/looks"_s) || !runStage(u"program"_s, language, folder)) {
+        !runStage(u"looks"_s, language, folder + u"/looks"_s) ||
+        !runStage(u"accounts"_s, language, folder + u"/accounts"_s) ||
+        !runStage(u"program"_s, language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
     }
@@ -175,6 +177,14 @@ void driveLooks(Driver &driver)
     driver.click(u"closeButton"_s);
 }
 
+void driveAccounts(Driver &driver, sdk::demo::DemoSite &site)
+{
+    walkFirstSearch(driver);
+    walkDeviceAccounts(driver, site);
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
+}
+
 void driveLab(Driver &driver)
 {
     walkLab(driver);
@@ -229,6 +239,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
             driveKeyboard(driver, site);
         else if (qgetenv(stageVariable) == "looks")
             driveLooks(driver);
+        else if (qgetenv(stageVariable) == "accounts")
+            driveAccounts(driver, site);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else

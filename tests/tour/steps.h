@@ -49,6 +49,8 @@ void walkLabBatches(Driver &driver);
 void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site);
 /// The choice of colours, and pages and dialogs in the dark theme.
 void walkLooks(Driver &driver);
+/// Accounts of devices: a new password is kept, and one of several accounts is selected for a device.
+void walkDeviceAccounts(Driver &driver, sdk::demo::DemoSite &site);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.
