@@ -111,8 +111,8 @@ void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"addAccountButton"_s);
     fillAccount(driver, u"Branch"_s, u"operator"_s, {});
     driver.await(u"an account without a password is refused"_s,
-                 [&] { return !driver.texts(u"dialogNotice"_s).isEmpty(); });
-    driver.report(u"account-refused"_s, driver.texts(u"dialogNotice"_s).join(u' '));
+                 [&] { return !driver.texts(u"fieldMessage"_s).isEmpty(); });
+    driver.report(u"account-refused"_s, driver.texts(u"fieldMessage"_s).join(u' '));
     fillAccount(driver, u"Branch"_s, u"operator"_s, u"Branch-2024"_s);
     driver.await(u"the account is listed"_s, [&] {
         return !driver.find(u"accountNameField"_s) && Rows(driver, u"accountsTable"_s).count() == 3;

@@ -7,10 +7,15 @@ OVDialog {
 
     required property AccountList accounts
     property string before  // its name, empty for a new one
+    property bool tried: false
+    /// The first field that lacks something.
+    readonly property string faulty: !tried ? "" : nameField.text.trim() === "" ? "name"
+        : accountField.text === "" ? "account" : before === "" && passwordField.text === "" ? "password" : ""
     signal put(string name)
 
     function edit(name, account) {
         before = name;
+        tried = false;
         nameField.text = name;
         accountField.text = account;
         passwordField.text = "";
@@ -21,6 +26,7 @@ OVDialog {
     objectName: "accountDialog"
     title: before === "" ? qsTr("添加账号") : qsTr("修改账号")
     onAccepted: {
+        tried = true;
         const failure = accounts.put(before, nameField.text, accountField.text, passwordField.text);
         if (failure !== "") {
             refuse(failure);
@@ -45,6 +51,7 @@ OVDialog {
                 id: nameField
                 width: parent.width
                 accessibleName: qsTr("名称")
+                errorText: root.faulty === "name" ? qsTr("请输入名称") : ""
                 maximumLength: 63
                 objectName: "accountNameField"
                 placeholderText: qsTr("例如：一号楼")
@@ -58,6 +65,7 @@ OVDialog {
                 id: accountField
                 width: parent.width
                 accessibleName: qsTr("用户名")
+                errorText: root.faulty === "account" ? qsTr("请输入用户名") : ""
                 maximumLength: 63
                 objectName: "accountUserField"
             }
@@ -70,6 +78,7 @@ OVDialog {
                 id: passwordField
                 width: parent.width
                 accessibleName: qsTr("密码")
+                errorText: root.faulty === "password" ? qsTr("请输入密码") : ""
                 maximumLength: 63
                 objectName: "accountPasswordField"
                 placeholderText: root.before === "" ? "" : qsTr("留空则不修改")

@@ -21,6 +21,7 @@ Column {
         OVRadioButton {
             required property var modelData
 
+            width: Math.min(implicitWidth, root.width)
             height: Theme.unit * 3
             checked: root.keeping === modelData.keeping
             objectName: modelData.objectName

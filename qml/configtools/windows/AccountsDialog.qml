@@ -59,7 +59,7 @@ OVDialog {
     objectName: "accountsDialog"
     okEnabled: !choosing || (current.identity ?? "") !== ""
     okText: choosing ? qsTr("用于 %n 台设备", "", devices.length) : qsTr("关闭")
-    title: choosing ? qsTr("选择账号") : qsTr("账号")
+    title: choosing ? qsTr("选择账号") : qsTr("账号管理")
     onAccepted: choosing ? use() : close()
 
     Column {

@@ -21,7 +21,7 @@ OVMenu {
     OVMenuItem {
         iconName: "settings"
         objectName: "accountsItem"
-        text: qsTr("账号")
+        text: qsTr("账号管理")
         onTriggered: root.accountsRequested()
     }
     OVMenuItem {

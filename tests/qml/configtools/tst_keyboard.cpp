@@ -16,7 +16,7 @@ const char *const scene =
     "    width: 1280; height: 720; visible: true\n"
     "    property string done\n"
     "    DeviceActions {\n"
-    "        id: deviceActions; deviceFactory: factory; fileDialogs: null; localConfig: null; webPages: null\n"
+    "        id: deviceActions; deviceFactory: factory; fileDialogs: null; webPages: null\n"
     "    }\n"
     "    DeviceMenu {\n"
     "        id: menu; actions: deviceActions; batches: works\n"
@@ -36,6 +36,7 @@ const char *const scene =
     "    OVTextField { objectName: 'next'; x: 900 }\n"
     "    OVTable {\n"
     "        objectName: 'table'; y: 100; width: 600; height: 240; model: devices\n"
+    "        checkState: devices.checkState\n"
     "        columns: [{key: 'ipport', title: 'Address', width: 300, sortable: true},\n"
     "                  {key: 'model', title: 'Model', width: 200, sortable: true}]\n"
     "        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), [{key: 'edit', text: "
@@ -253,6 +254,39 @@ private Q_SLOTS:
         awaitMenu();
         take("copyMacItem");
         QCOMPARE(QGuiApplication::clipboard()->text(), "m3");
+    }
+
+    void boxesOfATreeLookLikeThoseOfATable_data()
+    {
+        const auto row = dataTable<int>({"ticked"});
+        row("none", 0);
+        row("some", 1);
+        row("all", 2);
+    }
+
+    /// Those of all rows and of a group have three states.
+    void boxesOfATreeLookLikeThoseOfATable()
+    {
+        QFETCH(const int, ticked);
+        m_table->setAllChecked(ticked == 2);
+        m_tree->setAllChecked(ticked == 2);
+        if (ticked == 1) {
+            m_table->setChecked(0, true);
+            m_tree->setCheckedDevices({"m1"});
+        }
+        const auto boxOf = [this](const char *name) {
+            constexpr int size = 12; // inside its border, whose corners show what is behind
+            const QQuickItem *item = find(name);
+            const QPoint middle = item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+            const QImage picture = m_window->grabWindow();
+            const qreal scale = picture.devicePixelRatio();
+            return picture.copy(
+                QRect((middle - QPoint(size / 2, size / 2)) * scale, QSize(size, size) * scale));
+        };
+        const QImage box = boxOf("checkAllBox");
+        QVERIFY(!box.isNull());
+        QCOMPARE(boxOf("allDevicesBox"), box);
+        QCOMPARE(boxOf("tick_IPC"), box);
     }
 
     void keysOfTheTable_data()
