@@ -60,7 +60,11 @@ QVariantMap CDeviceDH::getDeviceInfo(const QString &ipport)
 
 QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
 {
-    QVariantMap detail = store().rowNamed(mac).toVariantMap();
+    const QJsonObject row = store().rowNamed(mac);
+    QVariantMap detail = row.toVariantMap();
+    const AccountChoice::Chosen chosen = m_accounts.of(row);
+    if (chosen.source == AccountChoice::Source::Stored)
+        detail.insert(DeviceRowKey::username, chosen.account.account);
     detail.remove(DeviceRowKey::password); // details are shown and handed on
     const std::optional<sdk::SearchAnswer> record = store().record(mac);
     if (!record)

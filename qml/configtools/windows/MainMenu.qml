@@ -19,7 +19,7 @@ OVMenu {
     objectName: "mainMenu"
 
     OVMenuItem {
-        iconName: "settings"
+        iconName: "system"
         objectName: "accountsItem"
         text: qsTr("账号管理")
         onTriggered: root.accountsRequested()

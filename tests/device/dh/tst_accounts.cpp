@@ -175,6 +175,9 @@ private Q_SLOTS:
         QVERIFY(m_factory->exportDevice("dh", m_folder.path(), {firstMac, secondMac}, "device.csv"));
         const QByteArray text = fileContents(m_folder.filePath("device.csv"));
         QVERIFY(text.contains(",operator,,") && !text.contains("other-1"));
+        const QVariantMap detail = m_factory->getDeviceDetail("dh", secondMac);
+        QCOMPARE(detail.value("username").toString(), "operator");
+        QVERIFY(!detail.values().contains("other-1"));
         for (int row = 0; row < m_list->rowCount(); ++row)
             QVERIFY(!m_list->get(row).values().contains("other-1"));
     }

@@ -1,3 +1,4 @@
+#include "device/accountlist.h"
 #include "sdk/demo/demosite.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -10,6 +11,7 @@ namespace {
 const char *const scene = "    visible: true\n"
                           "    ConfigSession {\n"
                           "        objectName: 'session'; deviceFactory: factory\n"
+                          "        Component.onCompleted: LoginMemory.accounts = deviceAccounts\n"
                           "        function choose(ipport) { work.afterWriting(() => open(ipport)); }\n"
                           "        function readNames() { names.load(); }\n"
                           "        function saveNames() {\n"
@@ -39,6 +41,8 @@ private:
     const sdk::demo::SceneDevice m_recorder = configDevice(1, "NVR", 2);
     const sdk::demo::SceneDevice m_other = configDevice(2, "NVR", 2);
     std::unique_ptr<ConfigSite> m_site;
+    std::shared_ptr<AccountStore> m_accounts;
+    std::unique_ptr<AccountList> m_accountList;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QObject *m_session = nullptr;
@@ -74,8 +78,13 @@ private Q_SLOTS:
     {
         m_site = std::make_unique<ConfigSite>(QList<sdk::demo::SceneDevice>{m_recorder, m_other});
         m_site->factory->setDefaultAccount("dh", "admin", "secret1");
+        m_accounts = std::make_shared<AccountStore>(QString());
+        m_accountList = std::make_unique<AccountList>(
+            *m_site->factory, m_accounts,
+            AccountList::Defaults{.read = [] { return DeviceAccount(); }, .write = {}});
         m_engine = std::make_unique<QQmlEngine>();
-        m_window = openScene(*m_engine, scene, {{"factory", m_site->factory.get()}});
+        m_window = openScene(*m_engine, scene,
+                             {{"factory", m_site->factory.get()}, {"deviceAccounts", m_accountList.get()}});
         QVERIFY(m_window);
         m_session = m_window->findChild<QObject *>("session");
         QVERIFY(QMetaObject::invokeMethod(m_session, "open", Q_ARG(QVariant, ipportOf(m_recorder))));
@@ -86,6 +95,7 @@ private Q_SLOTS:
     {
         m_window.reset();
         m_engine.reset();
+        m_accountList.reset();
         m_site.reset();
     }
 
@@ -202,6 +212,27 @@ private Q_SLOTS:
                  1);
         // Batches know the account from now on.
         QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_other)).value("password"), "secret1");
+    }
+
+    /// An account is kept for its device once the device has accepted it.
+    void anAcceptedAccountIsKept()
+    {
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        m_site->factory->setDefaultAccount("dh", "admin", "wrong");
+        choose(m_other);
+        for (const char *password : {"another", "secret1"}) {
+            QVERIFY(!answerOfDialog().isEmpty());
+            QVERIFY(!m_accounts->accountOf({m_other.mac}));
+            dialogItem("keepBox")->setProperty("checked", true);
+            dialogItem("devicePasswordField")->setProperty("text", password);
+            QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
+            QTRY_VERIFY(!isBusy());
+        }
+        QTRY_VERIFY(m_session->property("loggedIn").toBool());
+        QCOMPARE(m_accounts->accountOf({m_other.mac})->password, "secret1");
+        QVERIFY(!m_accounts->accountOf({m_recorder.mac}));
     }
 
     void inputIsHeldWhereTheWorkIs()
