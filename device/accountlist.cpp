@@ -123,14 +123,14 @@ int AccountList::rowOfDevice(const QString &device) const
     return stored ? rowOfName(stored->name) : 0;
 }
 
-QString AccountList::select(const QStringList &names, const QString &name)
+QString AccountList::select(const QStringList &devices, const QString &name)
 {
-    const QList<Device> devices = devicesOf(names);
-    QString failure = m_store->assign(identitiesOf(devices), name);
+    const QList<Device> found = devicesOf(devices);
+    QString failure = m_store->assign(identitiesOf(found), name);
     if (!failure.isEmpty())
         return failure;
     const StoredAccount account = m_store->account(name).value_or(StoredAccount());
-    for (const Device &device : devices) {
+    for (const Device &device : found) {
         const bool isStored = !device.identities.isEmpty();
         setRowAccount(device, isStored
                                   ? DeviceAccount()
@@ -140,11 +140,11 @@ QString AccountList::select(const QStringList &names, const QString &name)
     return failure;
 }
 
-int AccountList::countUnidentified(const QStringList &names) const
+int AccountList::countUnidentified(const QStringList &devices) const
 {
-    const QList<Device> devices = devicesOf(names);
+    const QList<Device> found = devicesOf(devices);
     return static_cast<int>(
-        std::ranges::count_if(devices, [](const Device &device) { return device.identities.isEmpty(); }));
+        std::ranges::count_if(found, [](const Device &device) { return device.identities.isEmpty(); }));
 }
 
 void AccountList::keepForDevices(const QList<Device> &devices, QString &failure)
@@ -167,19 +167,19 @@ void AccountList::keepForDevices(const QList<Device> &devices, QString &failure)
     }
 }
 
-QString AccountList::keepNew(const QStringList &names, Keeping keeping)
+QString AccountList::keepNew(const QStringList &devices, Keeping keeping)
 {
-    const QList<Device> devices = devicesOf(names);
+    const QList<Device> found = devicesOf(devices);
     QString failure;
     if (keeping == ForDevices) {
-        keepForDevices(devices, failure);
+        keepForDevices(found, failure);
     } else {
-        failure = m_store->assign(identitiesOf(devices), {});
-        const auto taken = std::ranges::find_if(
-            devices, [](const Device &device) { return !device.own.password.isEmpty(); });
-        if (failure.isEmpty() && keeping == AsDefault && taken != devices.cend()) {
+        failure = m_store->assign(identitiesOf(found), {});
+        const auto taken =
+            std::ranges::find_if(found, [](const Device &device) { return !device.own.password.isEmpty(); });
+        if (failure.isEmpty() && keeping == AsDefault && taken != found.cend()) {
             m_defaults.write(taken->own);
-            for (const Device &device : devices)
+            for (const Device &device : found)
                 setRowAccount(device, {});
         }
     }
@@ -187,14 +187,14 @@ QString AccountList::keepNew(const QStringList &names, Keeping keeping)
     return failure;
 }
 
-QString AccountList::keep(const QString &name, const QString &account, const QString &password)
+QString AccountList::keep(const QString &device, const QString &account, const QString &password)
 {
-    const Device device = deviceOf(name);
-    if (device.identities.isEmpty())
+    const Device found = deviceOf(device);
+    if (found.identities.isEmpty())
         return tr("设备没有MAC和UUID，账号只用到下次搜索");
-    QString failure = m_store->keep({device.identities}, account, password);
+    QString failure = m_store->keep({found.identities}, account, password);
     if (failure.isEmpty())
-        setRowAccount(device, {});
+        setRowAccount(found, {});
     load();
     return failure;
 }
