@@ -22,10 +22,23 @@ enum Role
 
 /// Keys that are read from the row as they are.
 constexpr std::array rowKeys = {
-    DeviceRowKey::state,   DeviceRowKey::name,     DeviceRowKey::type,     DeviceRowKey::model,
-    DeviceRowKey::ipport,  DeviceRowKey::mac,      DeviceRowKey::vision,   DeviceRowKey::res,
-    DeviceRowKey::operate, DeviceRowKey::filepath, DeviceRowKey::upgrade,  DeviceRowKey::upgraderes,
-    DeviceRowKey::url,     DeviceRowKey::result,   DeviceRowKey::httpport, DeviceRowKey::upgradetext,
+    DeviceRowKey::state,
+    DeviceRowKey::name,
+    DeviceRowKey::type,
+    DeviceRowKey::model,
+    DeviceRowKey::ipport,
+    DeviceRowKey::mac,
+    DeviceRowKey::vision,
+    DeviceRowKey::res,
+    DeviceRowKey::operate,
+    DeviceRowKey::filepath,
+    DeviceRowKey::upgrade,
+    DeviceRowKey::upgraderes,
+    DeviceRowKey::url,
+    DeviceRowKey::result,
+    DeviceRowKey::httpport,
+    DeviceRowKey::upgradetext,
+    noteKey,
 };
 
 } // namespace
@@ -126,6 +139,33 @@ void DeviceTableModel::setFailedMarks(FailedMarks *marks)
     takeMarks();
 }
 
+void DeviceTableModel::setNotes(DeviceNotes *notes)
+{
+    if (m_notes == notes)
+        return;
+    if (m_notes)
+        m_notes->disconnect(this);
+    m_notes = notes;
+    if (m_notes)
+        connect(m_notes, &DeviceNotes::changed, this, &DeviceTableModel::refresh);
+    Q_EMIT notesChanged();
+    refresh();
+}
+
+void DeviceTableModel::addNotes(QVariantList &list) const
+{
+    if (!m_notes || m_notes->count() == 0)
+        return;
+    for (QVariant &row : list) {
+        QJsonObject values = row.toJsonObject();
+        const QString note = m_notes->noteOf(values);
+        if (note.isEmpty())
+            continue;
+        values.insert(noteKey, note);
+        row = values;
+    }
+}
+
 void DeviceTableModel::setOnlyFailed(bool only)
 {
     if (std::exchange(m_onlyFailed, only) != only)
@@ -152,8 +192,9 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
 {
     // Everything comes from one list: rows may be added or changed between two.
     const QString all = QStringLiteral("nofilter");
-    const QVariantList list =
+    QVariantList list =
         m_ipv6 ? m_deviceFactory->filterDataIPV6(dhFamily, all) : m_deviceFactory->filterData(dhFamily, all);
+    addNotes(list);
     m_totalCount = static_cast<int>(list.size());
     forgetLostTicks(list);
     QList<DeviceTableRow> rows =
@@ -245,7 +286,9 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
         const int place = rowOf(mac);
         if (place < 0 || !m_deviceFactory)
             continue;
-        const QJsonObject values = m_deviceFactory->deviceRow(dhFamily, mac);
+        QVariantList read = {m_deviceFactory->deviceRow(dhFamily, mac)};
+        addNotes(read);
+        const QJsonObject values = read.constFirst().toJsonObject();
         if (!values.isEmpty()) // else it was deleted, which a refresh will show
             m_rows[place].values = values;
         first = std::min(first, place);
@@ -257,15 +300,20 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
 
 void DeviceTableModel::toggleSort(const QString &key)
 {
-    if (m_sortKey != key) {
-        m_sortKey = key;
-        m_sortOrder = Qt::AscendingOrder;
-    } else if (m_sortOrder == Qt::AscendingOrder) {
-        m_sortOrder = Qt::DescendingOrder;
-    } else {
-        m_sortKey.clear();
-        m_sortOrder = Qt::AscendingOrder;
-    }
+    if (m_sortKey != key)
+        setSort(key, Qt::AscendingOrder);
+    else if (m_sortOrder == Qt::AscendingOrder)
+        setSort(key, Qt::DescendingOrder);
+    else
+        setSort({}, Qt::AscendingOrder);
+}
+
+void DeviceTableModel::setSort(const QString &key, Qt::SortOrder order)
+{
+    if (m_sortKey == key && m_sortOrder == order)
+        return;
+    m_sortKey = key;
+    m_sortOrder = order;
     Q_EMIT sortChanged();
     refresh();
 }

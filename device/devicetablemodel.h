@@ -1,6 +1,7 @@
 // The device table of a page: the rows that its filters leave, as an item model.
 #pragma once
 
+#include "device/devicenotes.h"
 #include "device/devicetablerows.h"
 #include "device/followedmarks.h"
 
@@ -15,6 +16,7 @@ class CDeviceFactory;
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
 /// rowName()). get() also gives "failure": what batches failed with the device, see FailedMarks::wordsOf().
+/// "note" is what the user has noted about the device; the text search finds it as well.
 ///
 /// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
 /// filter are of the same moment, and keeps the user's ticks, selection and order over a refresh. Lives on
@@ -33,6 +35,7 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
+    Q_PROPERTY(DeviceNotes *notes READ notes WRITE setNotes NOTIFY notesChanged)
     /// Whether only marked devices are shown, by their reasons and then by address unless the user has chosen
     /// another order. It ends with the last mark.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
@@ -66,6 +69,8 @@ public:
     void setSearchText(const QString &searchText);
     [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }
     void setFailedMarks(FailedMarks *marks);
+    [[nodiscard]] DeviceNotes *notes() const { return m_notes; }
+    void setNotes(DeviceNotes *notes);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     void setOnlyFailed(bool only);
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
@@ -91,6 +96,9 @@ public:
     /// Orders by a key: first ascending, then descending, then in the order of the list again. Addresses are
     /// compared as numbers, texts by the user's language.
     Q_INVOKABLE void toggleSort(const QString &key);
+
+    /// Orders by a key in this direction; by none in the order of the list.
+    Q_INVOKABLE void setSort(const QString &key, Qt::SortOrder order);
 
     Q_INVOKABLE void setChecked(int row, bool checked);
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
@@ -132,6 +140,7 @@ Q_SIGNALS:
     void deviceFactoryChanged();
     void filterChanged();
     void failedMarksChanged();
+    void notesChanged();
     void sortChanged();
     void countChanged();
     void checkedCountChanged();
@@ -139,6 +148,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QList<DeviceTableRow> readRows();
     void takeMarks();
+    void addNotes(QVariantList &list) const;
     void forgetLostTicks(const QVariantList &list);
     [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
     [[nodiscard]] const QSet<QString> &checkedIdentities() const
@@ -156,6 +166,7 @@ private:
     bool m_ipv6 = false;
     QString m_searchText;
     FollowedMarks m_failedMarks;
+    QPointer<DeviceNotes> m_notes; ///< not owned; null without notes
     bool m_onlyFailed = false;
     bool m_oddAddressesFirst = false;
     QString m_sortKey; ///< empty: the order of the list

@@ -1,6 +1,7 @@
 #include "device/devicetablerows.h"
 
 #include "device/devicefilter.h"
+#include "device/devicenotes.h"
 #include "device/devicerow.h"
 #include "device/failedmarks.h"
 
@@ -17,7 +18,8 @@ bool isShown(const QJsonObject &row, const DeviceTableFilter &filter)
 {
     const bool isWanted =
         row.value(DeviceRowKey::state).toBool() ? filter.showInitialised : filter.showUninitialised;
-    return isWanted && (filter.searchText.isEmpty() || holdsText(row, filter.searchText));
+    return isWanted && (filter.searchText.isEmpty() || holdsText(row, filter.searchText) ||
+                        row.value(noteKey).toString().contains(filter.searchText, Qt::CaseInsensitive));
 }
 
 QList<DeviceTableRow> ordered(QList<DeviceTableRow> rows, const DeviceTableOrder &wanted, bool isByReason)

@@ -17,6 +17,7 @@
 #include "device/channelnameform.h"
 #include "device/devicedetailmodel.h"
 #include "device/devicefactory.h"
+#include "device/devicenotes.h"
 #include "device/deviceselection.h"
 #include "device/devicetablemodel.h"
 #include "device/devicework.h"
@@ -38,6 +39,14 @@ struct CDeviceFactoryForeign
     Q_GADGET
     QML_FOREIGN(CDeviceFactory)
     QML_ANONYMOUS
+};
+
+struct DeviceNotesForeign
+{
+    Q_GADGET
+    QML_FOREIGN(DeviceNotes)
+    QML_NAMED_ELEMENT(DeviceNotes)
+    QML_UNCREATABLE("there is one for the whole program")
 };
 
 struct DeviceTableModelForeign
