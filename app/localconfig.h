@@ -78,6 +78,7 @@ public:
 
     void setCurrentLanguage(const QString &code);
     [[nodiscard]] bool hasTranslation(const QString &code) const;
+    [[nodiscard]] QString settingsPath() const { return m_settingsPath; }
     /// Paths of the translation files that exist, in the order of languageCodes.
     [[nodiscard]] QStringList languageFiles() const { return m_languageFiles; }
 

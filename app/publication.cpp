@@ -4,6 +4,7 @@
 #include "app/filedialogs.h"
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
+#include "app/viewmemory.h"
 #include "cgi/cgibatches.h"
 #include "cgi/cgiconfigmanage.h"
 #include "cgi/webpages.h"
@@ -13,6 +14,7 @@
 #include "device/batch/upgradebatches.h"
 #include "device/certificatelist.h"
 #include "device/devicefactory.h"
+#include "device/devicenotes.h"
 #include "device/searchreports.h"
 
 #include <QCoreApplication>
@@ -68,6 +70,12 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(
         QStringLiteral("WebPagesApi"),
         new WebPages(CGIConfigManage::getinstance()->surroundings().transport, &engine));
+    // Simulated devices may have the MACs of real ones.
+    const QString notes = demo.isShown ? QStringLiteral("/notes-demo.json") : QStringLiteral("/notes.json");
+    context->setContextProperty(QStringLiteral("DeviceNotesApi"),
+                                new DeviceNotes(QCoreApplication::applicationDirPath() + notes, &engine));
+    context->setContextProperty(QStringLiteral("ViewMemoryApi"),
+                                new ViewMemory(CLocalConfig::getinstance()->settingsPath(), &engine));
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());
     context->setContextProperty(QStringLiteral("deviceLibraryInstalled"), net != nullptr);
     context->setContextProperty(QStringLiteral("demoSite"), demo.isShown);

@@ -1,0 +1,117 @@
+// The place of the window, as it is kept and restored.
+#include "qml/configtools/windowplace.h"
+#include "tests/datatable.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+#include <QScreen>
+
+namespace {
+
+const QSize least(640, 360);
+const QList<QRect> twoScreens = {QRect(0, 0, 1920, 1040), QRect(1920, 0, 1280, 1024)};
+
+} // namespace
+
+class TestWindowPlace : public QObject
+{
+    Q_OBJECT
+private:
+    /// A window that a place was stored for.
+    static std::unique_ptr<QQuickWindow> open(QQmlEngine &engine, const QByteArray &stored)
+    {
+        return openScene(engine, "id: window\n    width: 600; height: 400; minimumWidth: 300; visible: true\n"
+                                 "    WindowPlace { objectName: 'place'; window: window; stored: '" +
+                                     stored + "' }\n");
+    }
+
+    static QString textOf(const QQuickWindow &window)
+    {
+        return window.findChild<WindowPlace *>("place")->text();
+    }
+
+private Q_SLOTS:
+    void placesAreHeldAgainstTheScreens_data()
+    {
+        const auto row = dataTable<QRect, QList<QRect>, QRect>({"wanted", "screens", "place"});
+        row("as it was", {100, 80, 1280, 720}, twoScreens, {100, 80, 1280, 720});
+        row("on the second screen", {2000, 50, 1100, 700}, twoScreens, {2000, 50, 1100, 700});
+        row("the second screen is gone", {2000, 50, 1100, 700}, {twoScreens.first()}, {820, 50, 1100, 700});
+        row("far away", {-30'000, 90'000, 1280, 720}, twoScreens, {0, 320, 1280, 720});
+        row("the title bar is above the screen", {100, -30, 1280, 720}, twoScreens, {100, 0, 1280, 720});
+        row("only the buttons are seen", {-1180, 100, 1280, 720}, twoScreens, {0, 100, 1280, 720});
+        row("partly beside the screen", {-300, 900, 1280, 720}, twoScreens, {-300, 900, 1280, 720});
+        row("on two screens", {1500, 100, 1280, 720}, twoScreens, {1500, 100, 1280, 720});
+        row("larger than the screen", {0, 0, 9000, 9000}, twoScreens, {0, 0, 1920, 1040});
+        row("smaller than it may be", {10, 10, 1, 1}, twoScreens, {10, 10, 640, 360});
+        row("the screen is smaller than the window may be", {0, 0, 640, 360}, {QRect(0, 0, 600, 300)},
+            {0, 0, 600, 300});
+    }
+
+    void placesAreHeldAgainstTheScreens()
+    {
+        QFETCH(QRect, wanted);
+        QFETCH(QList<QRect>, screens);
+        QTEST(WindowPlace::fitted(wanted, least, screens), "place");
+    }
+
+    void aWindowOpensWhereItWas_data()
+    {
+        const auto row = dataTable<QByteArray, QRect, bool>({"stored", "normal", "maximised"});
+        row("place and size", "30 40 500 300", {30, 40, 500, 300}, false);
+        row("maximised", "30 40 500 300 maximised", {30, 40, 500, 300}, true);
+    }
+
+    void aWindowOpensWhereItWas()
+    {
+        QFETCH(const QByteArray, stored);
+        QFETCH(const QRect, normal);
+        QFETCH(const bool, maximised);
+        QQmlEngine engine;
+        const auto window = open(engine, stored);
+        QVERIFY(window);
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QCOMPARE(window->visibility() == QWindow::Maximized, maximised);
+        QCOMPARE(textOf(*window), QString(stored));
+        if (!maximised) // what size this platform gives to a maximised window later is its own affair
+            QCOMPARE(window->geometry(), normal);
+    }
+
+    void badTextsChangeNothing_data()
+    {
+        const auto row = namedTable<QByteArray>({"stored"});
+        for (const char *stored : {"", "maximised", "1 2 3", "1 2 300 400 minimised", "1,2 300 400",
+                                   "1 2 300 999999", "@Rect(1 2 3 4)", " 1 2 300 400"})
+            row(stored);
+    }
+
+    void badTextsChangeNothing()
+    {
+        QFETCH(const QByteArray, stored);
+        QQmlEngine engine;
+        const auto window = open(engine, stored);
+        QVERIFY(window);
+        QCOMPARE(window->size(), QSize(600, 400));
+        QCOMPARE(window->visibility(), QWindow::Windowed);
+    }
+
+    /// The size that it goes back to is kept with it.
+    void theSizeOfAMaximisedWindowIsKept()
+    {
+        QQmlEngine engine;
+        const auto window = open(engine, "");
+        QVERIFY(window);
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        window->setGeometry(20, 30, 420, 310);
+        QTRY_COMPARE(textOf(*window), "20 30 420 310");
+        window->showMaximized();
+        QTRY_COMPARE(textOf(*window), "20 30 420 310 maximised");
+        window->showMinimized();
+        QTRY_COMPARE(window->visibility(), QWindow::Minimized);
+        QCOMPARE(textOf(*window), "20 30 420 310 maximised");
+        window->showNormal();
+        QTRY_COMPARE(textOf(*window), "20 30 420 310");
+    }
+};
+
+QTEST_MAIN(TestWindowPlace)
+#include "tst_windowplace.moc"
