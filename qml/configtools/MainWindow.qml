@@ -16,6 +16,8 @@ T.ApplicationWindow {
     readonly property CertificateList certificates: CertificatesApi
     readonly property var webPages: WebPagesApi
     readonly property var colourScheme: ColourSchemeApi
+    readonly property DeviceNotes notes: DeviceNotesApi
+    readonly property var memory: ViewMemoryApi
     readonly property bool libraryInstalled: deviceLibraryInstalled
     readonly property var accounts: AccountsApi
     readonly property bool simulated: demoSite
@@ -91,12 +93,18 @@ T.ApplicationWindow {
 
     function requestRestart() {
         if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
-            leavePage(() => localConfig.reboot());
+            leavePage(() => {
+                rememberView();
+                localConfig.reboot();
+            });
     }
 
     function requestDemo() {
         if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
-            leavePage(() => localConfig.openDemoSite());
+            leavePage(() => {
+                rememberView();
+                localConfig.openDemoSite();
+            });
     }
 
     /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
@@ -116,7 +124,22 @@ T.ApplicationWindow {
         return searching;
     }
 
+    function rememberView() {
+        memory.keep("tab", String(currentTab));
+        memory.keep("window", place.text());
+        memory.write();
+    }
+
+    function restoreTab() {
+        const tab = Number(memory.text("tab"));
+        if (Number.isInteger(tab) && tab > 0 && tab < tabBar.tabs.length)
+            turnTo(tab);
+        else
+            modifyIpPage.focusTable();
+    }
+
     function end() {
+        rememberView();
         popups.closeLive();
         deviceFactory.exitProgram();
     }
@@ -133,8 +156,10 @@ T.ApplicationWindow {
     Component.onCompleted: {
         LoginMemory.accounts = accounts;
         search.start(searchSettings.read());
-        modifyIpPage.focusTable();
+        restoreTab();
         languageList.remove(localConfig.getRemoveLanguageList());
+        if (notes.problem !== "")
+            popups.say(notes.problem, OVToast.Error);
     }
 
     // The toolkit forgets that a window was maximised when it is minimised.
@@ -163,6 +188,18 @@ T.ApplicationWindow {
         property: "textRendering"
         target: Theme
         value: Number.isInteger(window.Screen.devicePixelRatio) ? Text.NativeRendering : Text.QtRendering
+    }
+    WindowPlace {
+        id: place
+        stored: window.memory.text("window")
+        window: window
+    }
+    Connections {
+        target: window.memory
+
+        function onFailed() {
+            popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+        }
     }
     SearchSettings {
         id: searchSettings
@@ -259,6 +296,8 @@ T.ApplicationWindow {
                 batches: window.batches
                 busyState: window.busyState
                 libraryInstalled: window.libraryInstalled
+                memory: window.memory
+                notes: window.notes
                 simulated: window.simulated
                 search: window.deviceSearch
                 searchReports: window.searchReports
@@ -278,6 +317,8 @@ T.ApplicationWindow {
                     PageDeviceUpgrade {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
+                        memory: window.memory
+                        notes: window.notes
                         search: window.deviceSearch
                         onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind) => popups.say(message, kind)
@@ -296,6 +337,7 @@ T.ApplicationWindow {
                         batches: window.batches
                         busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
+                        notes: window.notes
                         search: window.deviceSearch
                         onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind, stay) => popups.say(message, kind, stay)
@@ -313,6 +355,7 @@ T.ApplicationWindow {
                     PageSystemConfig {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
+                        notes: window.notes
                         search: window.deviceSearch
                         onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind) => popups.say(message, kind)
@@ -330,6 +373,8 @@ T.ApplicationWindow {
                     PageCGIConfig {
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
+                        memory: window.memory
+                        notes: window.notes
                         search: window.deviceSearch
                         onLiveRequested: ipport => popups.openLive(ipport)
                         onSaid: (message, kind) => popups.say(message, kind)

@@ -151,7 +151,11 @@ QtObject {
     readonly property int columnUpgradeAddress: 160
     readonly property int columnUpgradeVersion: 96
     readonly property int columnUpgradeResult: 224
+    readonly property int columnNote: 128
+    readonly property int columnLeast: 88  // that a column with a share of spare room gives way to
+    readonly property int columnMost: 480  // that a column is fitted to
     readonly property int progressWidth: 76  // of a bar in a row
+    readonly property int noteWidth: 480  // of the dialog for a note
 
     // Type.
     readonly property int hintSize: 12

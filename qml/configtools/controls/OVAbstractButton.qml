@@ -35,8 +35,8 @@ T.AbstractButton {
     Keys.onReturnPressed: event => pressOnce(event)
     Keys.onTabPressed: event => event.accepted = KeyGroups.leave(root, true)
     Keys.onBacktabPressed: event => event.accepted = KeyGroups.leave(root, false)
-    Keys.onLeftPressed: event => event.accepted = ownArrows || KeyGroups.step(root, -1)
-    Keys.onRightPressed: event => event.accepted = ownArrows || KeyGroups.step(root, 1)
+    Keys.onLeftPressed: event => event.accepted = ownArrows || KeyGroups.stepPlainly(root, event, -1)
+    Keys.onRightPressed: event => event.accepted = ownArrows || KeyGroups.stepPlainly(root, event, 1)
 
     Accessible.role: Accessible.Button
     Accessible.name: text !== "" ? text : toolTip

@@ -1,5 +1,5 @@
-// A menu whose entries are given when it opens: objects with "key", "text" and, if wanted, "enabled" and "begins", which
-// draws a line above the entry.
+// A menu whose entries are given when it opens: objects with "key", "text" and, if wanted, "enabled", "begins", which
+// draws a line above the entry, and "checked" for one that has a check mark or not.
 import QtQuick
 import QtQml
 import configtools
@@ -26,9 +26,11 @@ OVMenu {
             required property var modelData
 
             begins: modelData.begins ?? false
+            checked: modelData.checked ?? false
             enabled: modelData.enabled ?? true
             objectName: modelData.key + "Item"
             text: modelData.text
+            ticks: modelData.checked !== undefined
             onTriggered: root.chosen(modelData.key)
         }
 

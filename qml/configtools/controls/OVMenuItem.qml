@@ -8,12 +8,15 @@ T.MenuItem {
 
     property string iconName
     property bool marksChoice: false
+    property bool ticks: false  // it can be checked, as others beside it
     property bool begins: false  // a group of entries: there is a line above it
 
     implicitWidth: Math.max(180, label.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Theme.rowHeight
-    leftPadding: iconName !== "" ? 38 : 12
+    leftPadding: iconName !== "" || ticks ? 38 : 12
     rightPadding: 36
+
+    checkable: ticks
 
     Accessible.name: text
 
@@ -30,9 +33,9 @@ T.MenuItem {
         x: 12
         anchors.verticalCenter: parent?.verticalCenter
         color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
-        name: root.iconName
+        name: root.ticks ? "check" : root.iconName
         size: Theme.boxSize
-        visible: root.iconName !== ""
+        visible: root.ticks ? root.checked : root.iconName !== ""
     }
 
     arrow: OVIcon {

@@ -1,5 +1,7 @@
 // A table of many rows. Columns are objects: "key" (a role of the model), "title", "width", and if wanted
-// "minimumWidth", "stretch" (its share of spare room), "sortable" and "cell" (a Component of an OVTableCell).
+// "minimumWidth", "stretch" (its share of spare room), "sortable" and "cell" (a Component of an OVTableCell). In an
+// arrangeable table the user chooses which columns are shown and their order; "hidden" ones are not shown unless wanted,
+// "fixed" ones stay behind the others, and those with a share of spare room give way where room is short.
 // The model has the roles "checked", "conflict" (the row stands out) and "identity", get(row) for the values of
 // a row, and rowOf(identity), by which the current row lives through a reset. Values come through get() because
 // a role may bear any name, "model" among them, which delegates keep for something else. Ticks and order belong
@@ -12,6 +14,8 @@ FocusScope {
 
     required property var model
     required property var columns
+    property bool arrangeable: false
+    property alias columnsText: arrangement.text  // as the user has arranged them, see TableColumns
     property bool checkable: true
     property int checkState: Qt.Unchecked
     property string sortKey
@@ -38,24 +42,83 @@ FocusScope {
     }
 
     readonly property int checkWidth: checkable ? 48 : Theme.controlGap
-    property var draggedWidths: ({})
-    readonly property var columnWidths: layOut(columns, draggedWidths, body.width - checkWidth)
+    readonly property var shownColumns: Array.from(arrangement.shown)
+        .map(key => columns.find(column => column.key === key)).filter(column => column !== undefined)
+    readonly property var columnWidths: layOut(shownColumns, arrangement.widths, body.width - checkWidth)
 
-    function layOut(columns, dragged, room) {
-        const widths = columns.map(column => dragged[column.key] ?? column.width);
+    function layOut(columns, chosen, room) {
+        const widths = columns.map(column => chosen[column.key] ?? column.width);
         const spare = room - widths.reduce((sum, width) => sum + width, 0);
-        const shares = columns.map(column => dragged[column.key] === undefined ? column.stretch ?? 0 : 0);
+        const shares = columns.map(column => chosen[column.key] === undefined ? column.stretch ?? 0 : 0);
+        if (spare < 0 && arrangeable)
+            return shrink(widths, shares, -spare);
         const all = shares.reduce((sum, share) => sum + share, 0);
         if (spare <= 0 || all === 0)
             return widths;
         return widths.map((width, i) => width + Math.floor(spare * shares[i] / all));
     }
 
-    function drag(column, width) {
-        const dragged = Object.assign({}, draggedWidths);
-        dragged[columns[column].key] = Math.round(Math.max(columns[column].minimumWidth ?? 40, width));
-        draggedWidths = dragged;
+    /// What is still missing then is scrolled to.
+    function shrink(widths, shares, missing) {
+        const gives = widths.map((width, i) => shares[i] > 0 ? Math.max(0, width - Theme.columnLeast) : 0);
+        const all = gives.reduce((sum, give) => sum + give, 0);
+        const part = all > 0 ? Math.min(1, missing / all) : 0;
+        return widths.map((width, i) => width - Math.ceil(gives[i] * part));
     }
+
+    function setWidth(column, width) {
+        const least = shownColumns[column].minimumWidth ?? 40;
+        arrangement.setWidth(shownColumns[column].key, Math.round(Math.max(least, width)));
+    }
+
+    function fit(column) {
+        setWidth(column, Math.min(Theme.columnMost, Math.max(head.fittingWidth(column), body.fittingWidth(column))));
+    }
+
+    function offerColumns(column, place) {
+        const entries = columns.filter(column => !(column.fixed ?? false)).map(column => ({
+            key: column.key, text: column.title, checked: arrangement.isShown(column.key),
+            enabled: !arrangement.isShown(column.key) || arrangement.canHide(column.key)
+        }));
+        entries.push({key: "fitColumn", begins: true, text: qsTr("列宽适合内容"), enabled: column >= 0},
+                     {key: "resetColumns", text: qsTr("恢复默认列"), enabled: arrangement.text !== ""});
+        const menu = columnMenu.wanted();
+        menu.column = column;
+        menu.byKey = place.byKey;
+        menu.offer(entries, place);
+    }
+
+    function takeFromMenu(key, menu) {
+        if (key === "resetColumns")
+            arrangement.reset();
+        else if (key === "fitColumn")
+            fit(menu.column);
+        else
+            arrangement.setShown(key, !arrangement.isShown(key));
+        if (menu.byKey)
+            Qt.callLater(head.focusColumn, menu.column);  // the heads may be new ones
+    }
+
+    TableColumns {
+        id: arrangement
+        keys: root.columns.map(column => column.key)
+        hiddenKeys: root.columns.filter(column => column.hidden ?? false).map(column => column.key)
+        fixedKeys: root.columns.filter(column => column.fixed ?? false).map(column => column.key)
+    }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: columnMenu
+        visible: false
+        sourceComponent: OVEntryMenu {
+            id: menu
+            property int column: -1  // that it was opened on
+            property bool byKey: false
+            objectName: "columnMenu"
+            onChosen: key => root.takeFromMenu(key, menu)
+        }
+    }
+    // qmllint enable unqualified
 
     Rectangle {
         anchors.fill: parent
@@ -75,18 +138,23 @@ FocusScope {
         x: Theme.line
         y: Theme.line
         width: root.width - 2 * Theme.line
+        arrangeable: root.arrangeable
         checkState: root.checkState
         checkWidth: root.checkWidth
         checkable: root.checkable
         columnWidths: root.columnWidths
-        columns: root.columns
+        columns: root.shownColumns
         rowCount: body.count
         scrolled: body.contentX
         sortKey: root.sortKey
         sortOrder: root.sortOrder
         onAllToggled: root.allToggled(root.checkState !== Qt.Checked)
+        onColumnReached: column => body.showAcross(head.leftOf(column) + body.contentX, root.columnWidths[column])
+        onColumnMoved: (key, place) => arrangement.move(key, place)
+        onFitRequested: column => root.fit(column)
+        onMenuRequested: (column, place) => root.offerColumns(column, place)
         onSortRequested: key => root.sortRequested(key)
-        onWidthDragged: (column, width) => root.drag(column, width)
+        onWidthChosen: (column, width) => root.setWidth(column, width)
     }
 
     OVTableBody {
@@ -98,7 +166,7 @@ FocusScope {
         checkWidth: root.checkWidth
         checkable: root.checkable
         columnWidths: root.columnWidths
-        columns: root.columns
+        columns: root.shownColumns
         focus: true
         model: root.model
         objectName: "tableRows"

@@ -72,9 +72,25 @@ ListView {
         byPointer = true;
     }
 
+    /// The width of a column in which nothing of the rows in view is cut.
+    function fittingWidth(column) {
+        let width = 0;
+        for (let row = 0; row < count; ++row) {
+            const item = itemAtIndex(row) as OVTableRow;  // null out of view
+            if (item)
+                width = Math.max(width, item.fittingWidth(column));
+        }
+        return width;
+    }
+
     function scrollBy(x, y) {
         contentX = Math.max(0, Math.min(contentWidth - width, contentX - x));
         contentY = Math.max(0, Math.min(contentHeight - height, contentY - y));
+    }
+
+    /// Brings what is there in the rows' width into view.
+    function showAcross(left, extent) {
+        contentX = Math.max(Math.min(contentX, left), Math.min(left, left + extent - width));
     }
 
     function restore() {

@@ -1,4 +1,6 @@
-// The head of an OVTable: titles with sort marks, edges to drag, and the tick box for all rows.
+// The head of an OVTable: titles with sort marks, edges to drag, and the tick box for all rows. Where columns can be
+// arranged, a title is dragged to another place, and there is a menu. From the keyboard, Ctrl and an arrow move the
+// column, Alt and an arrow change its width, Menu or Shift+F10 opens the menu.
 import QtQuick
 import configtools
 
@@ -7,6 +9,7 @@ Rectangle {
 
     required property var columns
     required property var columnWidths
+    property bool arrangeable: false
     required property bool checkable
     required property int checkWidth  // without tick boxes: the room before the first column
     required property int checkState
@@ -17,7 +20,80 @@ Rectangle {
     readonly property bool keyGroup: true
     signal sortRequested(string key)
     signal allToggled
-    signal widthDragged(int column, real width)
+    signal widthChosen(int column, real width)
+    signal fitRequested(int column)
+    signal columnReached(int column)  // by the keyboard
+    signal columnMoved(string key, int place)
+    signal menuRequested(int column, var place)  // the place as OVEntryMenu takes it; column -1 beside all columns
+
+    property int carried: -1  // the column that is dragged to another place
+    property int dropPlace: -1  // the column before which it would stand
+
+    /// Where the column begins, from the left edge of the head.
+    function leftOf(column) {
+        return columnWidths.slice(0, column).reduce((sum, width) => sum + width, checkWidth) - scrolled;
+    }
+
+    /// The column at this place, -1 when there is none.
+    function columnAt(x) {
+        return columns.findIndex((column, i) => x >= leftOf(i) && x < leftOf(i + 1));
+    }
+
+    /// How many columns a column stands behind that is dropped here. None goes behind the fixed ones.
+    function placeAt(x) {
+        const behind = columns.filter((column, i) => !(column.fixed ?? false) && x > (leftOf(i) + leftOf(i + 1)) / 2);
+        return behind.length;
+    }
+
+    function drop() {
+        const column = carried;
+        const place = dropPlace;
+        carried = dropPlace = -1;
+        if (column >= 0 && place >= 0)
+            columnMoved(columns[column].key, place > column ? place - 1 : place);
+    }
+
+    function focusColumn(column) {
+        heads.itemAt(Math.min(column, heads.count - 1))?.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function fittingWidth(column) {
+        return heads.itemAt(column)?.fittingWidth ?? 0;
+    }
+
+    /// The column whose head has the keyboard, -1 when none has.
+    function focusedColumn() {
+        for (let column = 0; column < heads.count; ++column) {
+            if (heads.itemAt(column).activeFocus)
+                return column;
+        }
+        return -1;
+    }
+
+    function moveByKey(column, by) {
+        const key = columns[column].key;
+        columnMoved(key, column + by);
+        focusColumn(columns.findIndex(other => other.key === key));
+    }
+
+    onColumnsChanged: carried = dropPlace = -1
+
+    Keys.onPressed: event => {
+        const column = focusedColumn();
+        const by = event.key === Qt.Key_Left ? -1 : event.key === Qt.Key_Right ? 1 : 0;
+        const opensMenu = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier);
+        event.accepted = arrangeable;
+        if (!arrangeable)
+            return;
+        if (opensMenu)
+            menuRequested(column, {item: root, x: Math.max(0, leftOf(Math.max(0, column))), y: height, byKey: true});
+        else if (by !== 0 && column >= 0 && (event.modifiers & Qt.ControlModifier))
+            moveByKey(column, by);
+        else if (by !== 0 && column >= 0 && (event.modifiers & Qt.AltModifier))
+            widthChosen(column, columnWidths[column] + by * Theme.unit);
+        else
+            event.accepted = false;
+    }
 
     implicitHeight: Theme.tableHeadHeight
     clip: true
@@ -36,6 +112,16 @@ Rectangle {
         width: parent.width
         height: Theme.line
         color: Theme.colours.line
+    }
+
+    Rectangle {  // where the dragged column would stand
+        x: root.leftOf(root.dropPlace) - width
+        z: 1
+        width: 2
+        height: parent.height
+        color: Theme.colours.accent
+        objectName: "dropMark"
+        visible: root.dropPlace >= 0
     }
 
     Row {
@@ -61,6 +147,7 @@ Rectangle {
 
         // qmllint disable unqualified
         Repeater {
+            id: heads
             model: root.columns
 
             OVAbstractButton {
@@ -70,16 +157,36 @@ Rectangle {
                 required property var modelData
                 readonly property bool sorted: modelData.key === root.sortKey && root.sortKey !== ""
                 readonly property bool sortable: modelData.sortable ?? false
+                readonly property real fittingWidth: title.implicitWidth + Theme.unit + (sortable ? 16 : 0)
 
                 width: root.columnWidths[index] ?? 0
                 height: root.height
-                focusPolicy: sortable ? Qt.TabFocus : Qt.NoFocus
+                focusPolicy: sortable || root.arrangeable ? Qt.TabFocus : Qt.NoFocus
                 objectName: "head_" + modelData.key
+                opacity: root.carried === index ? 0.5 : 1
                 text: modelData.title
+                onActiveFocusChanged: if (activeFocus) root.columnReached(index)
 
                 Accessible.role: Accessible.ColumnHeader
 
                 onClicked: if (sortable) root.sortRequested(modelData.key)
+
+                DragHandler {
+                    id: carrying
+                    enabled: root.arrangeable && !(head.modelData.fixed ?? false)
+                    target: null
+                    yAxis.enabled: false
+                    onActiveChanged: {
+                        if (active)
+                            root.carried = head.index;
+                        else
+                            Qt.callLater(root.drop);  // the heads are made again
+                    }
+                    onCentroidChanged: {
+                        if (active)
+                            root.dropPlace = root.placeAt(head.mapToItem(root, centroid.position.x, 0).x);
+                    }
+                }
 
                 contentItem: Item {
                     OVLabel {
@@ -120,9 +227,10 @@ Rectangle {
                     cursorShape: Qt.SplitHCursor
                     hoverEnabled: true
                     preventStealing: true
+                    onDoubleClicked: root.fitRequested(head.index)
                     onPositionChanged: mouse => {
                         if (pressed)
-                            root.widthDragged(head.index, mapToItem(head, mouse.x, 0).x + width / 2);
+                            root.widthChosen(head.index, mapToItem(head, mouse.x, 0).x + width / 2);
                     }
 
                     Rectangle {
@@ -137,5 +245,12 @@ Rectangle {
             }
         }
         // qmllint enable unqualified
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        enabled: root.arrangeable
+        onPressed: mouse => root.menuRequested(root.columnAt(mouse.x), {item: root, x: mouse.x, y: mouse.y, byKey: false})
     }
 }

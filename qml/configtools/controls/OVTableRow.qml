@@ -31,6 +31,10 @@ Rectangle {
         return identity;
     }
 
+    function fittingWidth(column) {
+        return (cells.itemAt(column) as Loader)?.item?.fittingWidth() ?? 0;
+    }
+
     function read() {
         ++readings;
     }
@@ -109,6 +113,7 @@ Rectangle {
 
         // qmllint disable unqualified
         Repeater {
+            id: cells
             model: root.columns
 
             Loader {

@@ -47,3 +47,8 @@ function step(item, by) {
         members[(place + by + members.length) % members.length].forceActiveFocus(Qt.TabFocusReason);
     return true;
 }
+
+/// The same for an arrow key, but not together with Ctrl or Alt.
+function stepPlainly(item, event, by) {
+    return !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier)) && step(item, by);
+}

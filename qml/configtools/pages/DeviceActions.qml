@@ -9,6 +9,7 @@ Item {
     required property var deviceFactory
     required property var fileDialogs
     required property var webPages  // WebPages
+    property DeviceNotes notes: null
     property bool ipv6: false  // the rows are those of IPv6 devices, of which no more is known than their rows say
     property alias favouritesFolder: favourites.folder
     signal said(string message, int kind)
@@ -53,6 +54,17 @@ Item {
             said(qsTr("这台设备没有可打开的网页"), OVToast.Error);
         else
             webPages.open(page);
+    }
+
+    function canNote(values) {
+        return notes?.canNote(values) ?? false;
+    }
+
+    function editNote(values) {
+        if (canNote(values))
+            noteDialog.wanted().edit(values);
+        else
+            said(qsTr("设备没有报告MAC或UUID，不能添加备注"), OVToast.Refusal);
     }
 
     function addressOf(values) {
@@ -123,6 +135,13 @@ Item {
         sourceComponent: AccountsDialog {
             accounts: LoginMemory.accounts
             onSaid: (message, kind) => root.said(message, kind)
+        }
+    }
+    OVOnDemand {
+        id: noteDialog
+        visible: false
+        sourceComponent: NoteDialog {
+            notes: root.notes
         }
     }
     OVOnDemand {

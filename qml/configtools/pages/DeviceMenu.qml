@@ -39,7 +39,8 @@ Item {
             {key: "copyMac", text: qsTr("复制MAC"), enabled: (values.mac ?? "") !== ""},
             {key: "copyRow", text: qsTr("复制整行")},
             {key: "favourite", begins: true, text: qsTr("添加到收藏夹"),
-                enabled: !actions.ipv6 && isInitialised && !isP2p && address !== ""}
+                enabled: !actions.ipv6 && isInitialised && !isP2p && address !== ""},
+            {key: "note", text: qsTr("备注…"), enabled: actions.canNote(values)}
         ].concat(accountEntries(isInitialised && address !== ""), similar, [
             {key: "retry", begins: true, text: qsTr("重试"),
                 enabled: !batches.running && (batches.current?.canRetry(values.identity) ?? false)}
@@ -84,6 +85,9 @@ Item {
             break;
         case "favourite":
             actions.addFavourite(values);
+            break;
+        case "note":
+            actions.editNote(values);
             break;
         case "similarType":
             similarRequested("type", values);

@@ -11,6 +11,16 @@ OVTable {
     signal detailRequested(int row)
     signal webRequested(int row)
     signal liveRequested(int row)
+    signal noteRequested(int row)
+
+    readonly property bool noteShown: shownColumns.some(column => column.key === "note")
+
+    arrangeable: true
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F2 && currentIndex >= 0;
+        if (event.accepted)
+            noteRequested(currentIndex);
+    }
 
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
@@ -18,7 +28,7 @@ OVTable {
             key: "state", title: qsTr("状态"), width: Theme.columnState, minimumWidth: Theme.columnStateMinimum,
             sortable: true, cell: stateCell
         },
-        {key: "name", title: qsTr("名称"), width: Theme.columnName, stretch: 2, sortable: true},
+        {key: "name", title: qsTr("名称"), width: Theme.columnName, stretch: 2, sortable: true, cell: nameCell},
         {key: "type", title: qsTr("类型"), width: Theme.columnType, sortable: true},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 2, sortable: true},
         {
@@ -33,8 +43,9 @@ OVTable {
             key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, stretch: 1,
             sortable: true, cell: figureCell
         },
+        {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
         {key: "res", title: qsTr("修改结果"), width: Theme.columnResult, sortable: true, cell: resultCell},
-        {key: "operate", title: qsTr("操作"), width: Theme.columnActions, cell: actionCell}
+        {key: "operate", title: qsTr("操作"), width: Theme.columnActions, fixed: true, cell: actionCell}
     ]
 
     Component {
@@ -44,6 +55,47 @@ OVTable {
             text: rowIndex + 1
         }
     }
+
+    // qmllint disable unqualified
+    Component {
+        id: nameCell
+        OVTableCell {
+            id: name
+
+            OVLabel {
+                id: nameText
+                readonly property int signRoom: noteSign.visible ? noteSign.width + Theme.signGap : 0
+                width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
+                height: parent.height
+                text: name.value ?? ""
+            }
+            OVIcon {
+                id: noteSign
+                anchors.left: nameText.right
+                anchors.leftMargin: Theme.signGap
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.colours.faint
+                name: "note"
+                objectName: "noteSign" + name.rowIndex
+                size: Theme.smallIconSize
+                visible: !root.noteShown && (name.row?.note ?? "") !== ""
+
+                HoverHandler {
+                    id: notePointer
+                    cursorShape: Qt.PointingHandCursor
+                }
+                TapHandler {
+                    gesturePolicy: TapHandler.ReleaseWithinBounds  // the row does not get the click
+                    onTapped: root.noteRequested(name.rowIndex)
+                }
+                OVToolTip {
+                    shown: notePointer.hovered
+                    text: name.row?.note ?? ""
+                }
+            }
+        }
+    }
+    // qmllint enable unqualified
 
     Component {
         id: figureCell

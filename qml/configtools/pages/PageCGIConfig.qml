@@ -10,6 +10,8 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
+    property var memory: null  // of what the user has arranged
+    property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind)
@@ -73,6 +75,7 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
+        notes: page.notes
         oddAddressesFirst: true
         searchText: searchField.text.trim()
     }
@@ -117,6 +120,7 @@ FocusScope {
         id: deviceActions
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
+        notes: page.notes
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -209,6 +213,7 @@ FocusScope {
         }
     }
     CgiTable {
+        id: table
         x: Theme.pageMargin
         y: toolBar.height
         width: parent.width - 2 * x
@@ -226,6 +231,7 @@ FocusScope {
         onAnswerOpenRequested: row => page.actOn("answer", row)
         onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
         onMenuRequested: (row, place) => menu.offer(place, devices.get(row), page.entriesOf(devices.get(row)))
+        onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onRowOpened: row => deviceActions.showDetail(devices.get(row))
         onSendRequested: row => page.actOn("send", row)
@@ -243,6 +249,12 @@ FocusScope {
             }
             onSearchRequested: page.searchRequested()
         }
+    }
+    TableMemory {
+        memory: page.memory
+        model: devices
+        name: "cgi"
+        table: table
     }
     OVFootBar {
         id: foot

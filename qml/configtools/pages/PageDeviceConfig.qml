@@ -11,6 +11,7 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
+    property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind, int stay)
@@ -253,6 +254,7 @@ FocusScope {
         id: deviceActions
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
+        notes: page.notes
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
                                                                                    : Theme.toastStay)

@@ -9,6 +9,8 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
+    property var memory: null  // of what the user has arranged
+    property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind)
@@ -65,6 +67,7 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
+        notes: page.notes
         searchText: toolBar.searchText.trim()
     }
     DeviceListChanges {
@@ -95,6 +98,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         ipv6: devices.ipv6
+        notes: page.notes
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -134,6 +138,7 @@ FocusScope {
         onAtOnceChosen: count => page.chooseAtOnce(count)
     }
     UpgradeTable {
+        id: table
         x: Theme.pageMargin
         y: summary.y + summary.height + Theme.unit
         width: parent.width - 2 * x
@@ -149,6 +154,7 @@ FocusScope {
         onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
         onFileRequested: row => page.actOn("file", row)
         onMenuRequested: (row, place) => menu.offer(place, devices.get(row), page.entriesOf(devices.get(row)))
+        onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onRowOpened: row => deviceActions.showDetail(devices.get(row))
         onSortRequested: key => devices.toggleSort(key)
@@ -167,6 +173,12 @@ FocusScope {
             }
             onSearchRequested: page.searchRequested()
         }
+    }
+    TableMemory {
+        memory: page.memory
+        model: devices
+        name: "upgrade"
+        table: table
     }
     OVFootBar {
         id: foot

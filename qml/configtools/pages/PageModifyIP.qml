@@ -10,6 +10,8 @@ FocusScope {
     required property DeviceSearch search
     required property bool libraryInstalled
     property bool simulated: false
+    required property var memory  // of what the user has arranged
+    property DeviceNotes notes: null
     required property SearchReports searchReports
     signal searchRequested
     signal reportRequested
@@ -50,6 +52,7 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
+        notes: page.notes
         searchText: toolBar.searchText.trim()
     }
 
@@ -117,6 +120,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
         ipv6: devices.ipv6
+        notes: page.notes
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }
@@ -208,6 +212,7 @@ FocusScope {
                 enabled: !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
             }]);
         }
+        onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onRowOpened: row => deviceActions.showDetail(devices.get(row))
         onSortRequested: key => devices.toggleSort(key)
@@ -230,6 +235,13 @@ FocusScope {
             onSearchRequested: page.searchRequested()
             onSettingsRequested: page.settingsRequested()
         }
+    }
+
+    TableMemory {
+        memory: page.memory
+        model: devices
+        name: "device"
+        table: table
     }
 
     OVFootBar {

@@ -9,6 +9,7 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
+    property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
     signal said(string message, int kind)
@@ -192,6 +193,7 @@ FocusScope {
         id: deviceActions
         deviceFactory: page.deviceFactory
         fileDialogs: page.fileDialogs
+        notes: page.notes
         webPages: page.webPages
         onSaid: (message, kind) => page.said(message, kind)
     }

@@ -11,6 +11,7 @@ OVTable {
     signal sendRequested(int row)
     signal answerCopyRequested(int row)
     signal answerOpenRequested(int row)
+    signal noteRequested(int row)
 
     readonly property int tipLength: 3000  // letters of a long answer that a bubble shows
 
@@ -24,13 +25,21 @@ OVTable {
         show(row);
     }
 
+    arrangeable: true
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F2 && currentIndex >= 0;
+        if (event.accepted)
+            noteRequested(currentIndex);
+    }
+
     columns: [
         {key: "num", title: "No.", width: Theme.columnNumber, cell: numberCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true, cell: modelCell},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, sortable: true, cell: addressCell},
+        {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
         {key: "result", title: qsTr("应答"), width: Theme.columnAnswer, stretch: 4, cell: answerCell},
         {key: "url", title: qsTr("Url路径"), width: Theme.columnCommand, stretch: 5, cell: commandCell},
-        {key: "operate", title: qsTr("操作"), width: Theme.columnShortActions, cell: actionCell}
+        {key: "operate", title: qsTr("操作"), width: Theme.columnShortActions, fixed: true, cell: actionCell}
     ]
 
     Component {

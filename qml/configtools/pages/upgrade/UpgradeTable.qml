@@ -9,6 +9,7 @@ OVTable {
     signal fileRequested(int row)
     signal startRequested(int row)
     signal stopRequested(int row)
+    signal noteRequested(int row)
 
     readonly property var phases: ({
         [UpgradeTools.Waiting]: qsTr("等待"), [UpgradeTools.Preparing]: qsTr("登录"),
@@ -16,16 +17,24 @@ OVTable {
         [UpgradeTools.Restarting]: qsTr("重启")
     })
 
+    arrangeable: true
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F2 && currentIndex >= 0;
+        if (event.accepted)
+            noteRequested(currentIndex);
+    }
+
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnUpgradeNumber, cell: numberCell},
         {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true},
         {key: "model", title: qsTr("型号"), width: Theme.columnUpgradeModel, stretch: 1, sortable: true},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnUpgradeAddress, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: figureCell},
         {key: "vision", title: qsTr("版本号"), width: Theme.columnUpgradeVersion, sortable: true, cell: figureCell},
+        {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
         {key: "filepath", title: qsTr("升级文件"), width: Theme.columnFile, stretch: 2, sortable: true, cell: fileCell},
         {key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, cell: progressCell},
         {key: "upgraderes", title: qsTr("结果"), width: Theme.columnUpgradeResult, stretch: 2, sortable: true, cell: resultCell},
-        {key: "operate", title: qsTr("操作"), width: Theme.columnUpgradeActions, cell: actionCell}
+        {key: "operate", title: qsTr("操作"), width: Theme.columnUpgradeActions, fixed: true, cell: actionCell}
     ]
 
     Component {

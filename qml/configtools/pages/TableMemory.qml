@@ -1,0 +1,48 @@
+// Remembers how the user has arranged a table of devices: its columns and its order.
+import QtQuick
+import QtQml
+import configtools
+
+Item {
+    id: root
+
+    required property var memory
+    required property string name  // of the table in the settings
+    required property OVTable table
+    required property DeviceTableModel model
+
+    readonly property string columnsName: name + "Columns"
+    readonly property string orderName: name + "Order"
+
+    /// The key of the column, with "-" in front for the descending order.
+    function orderText() {
+        return (model.sortOrder === Qt.DescendingOrder ? "-" : "") + model.sortKey;
+    }
+
+    function restoreOrder(text) {
+        const key = text.replace(/^-/, "");
+        if (table.columns.some(column => column.key === key && (column.sortable ?? false)))
+            model.setSort(key, key === text ? Qt.AscendingOrder : Qt.DescendingOrder);
+    }
+
+    visible: false
+    Component.onCompleted: {
+        table.columnsText = memory?.text(columnsName) ?? "";
+        restoreOrder(memory?.text(orderName) ?? "");
+    }
+
+    Connections {
+        target: root.table
+
+        function onColumnsTextChanged() {
+            root.memory?.keep(root.columnsName, root.table.columnsText);
+        }
+    }
+    Connections {
+        target: root.model
+
+        function onSortChanged() {
+            root.memory?.keep(root.orderName, root.orderText());
+        }
+    }
+}

@@ -1,0 +1,49 @@
+// The note about a device.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    required property DeviceNotes notes
+    property var values: ({})  // of the device's row
+
+    function edit(values) {
+        root.values = values;
+        const note = notes.noteOf(values);
+        field.maximumLength = Math.max(notes.longestNote, note.length);
+        field.text = note;
+        open();
+        if (notes.problem !== "")
+            inform(notes.problem, OVToast.Error);
+    }
+
+    width: Theme.noteWidth
+    objectName: "noteDialog"
+    okText: qsTr("保存")
+    title: qsTr("备注")
+    onAccepted: {
+        const failure = notes.setNote(values, field.text);
+        if (failure === "")
+            close();
+        else
+            refuse(failure);
+    }
+    onOpened: {
+        field.forceActiveFocus();
+        field.selectAll();
+    }
+
+    OVField {
+        width: parent.width
+        label: [root.values.name, root.values.ipport].filter(text => (text ?? "") !== "").join("  ")
+
+        OVTextField {
+            id: field
+            width: parent.width
+            accessibleName: qsTr("备注")
+            focus: true
+            objectName: "noteField"
+        }
+    }
+}
