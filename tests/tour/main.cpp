@@ -67,13 +67,13 @@ QString restartFile(const QString &folder)
     return folder + u"/restarted.txt"_s;
 }
 
-/// Starts the program as if for the first time and waits for its end.
-bool runStage(const QString &stage, const QString &language, const QString &folder)
+void forgetEarlierRuns(const QString &stage, const QString &language)
 {
     QFile::remove(QCoreApplication::applicationDirPath() + u"/LocalConfig.ini"_s);
     QDir(QCoreApplication::applicationDirPath() + u"/fav"_s).removeRecursively();
     QDir(QCoreApplication::applicationDirPath() + u"/snap"_s).removeRecursively();
     QFile::remove(QCoreApplication::applicationDirPath() + u"/cgicommands.json"_s);
+    QFile::remove(QCoreApplication::applicationDirPath() + u"/notes-demo.json"_s);
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
     localConfig.setColourScheme(u"light"_s); // whatever the desktop
@@ -81,7 +81,14 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
         localConfig.setSearchConfigPass(u"Installer-2024"_s);
     if (stage == QLatin1String("looks"))
         localConfig.setSearchConfigPass(u"Office-2024"_s);
+}
 
+/// Starts the program as if for the first time, but for the stages that go on with what an earlier one has
+/// left, and waits for its end.
+bool runStage(const QString &stage, const QString &language, const QString &folder)
+{
+    if (!stage.startsWith(u"restored"))
+        forgetEarlierRuns(stage, language);
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(stageVariable), stage);
@@ -92,8 +99,8 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
            program.exitCode() == EXIT_SUCCESS;
 }
 
-/// Starts the program with a large site, then three times with the usual one, and waits for the one that
-/// follows that.
+/// Starts the program with a large site, then several times with the usual one, and waits for the one that
+/// follows the last of these.
 int watch(const QString &language, const QString &folder)
 {
     QDir(folder).removeRecursively();
@@ -102,6 +109,9 @@ int watch(const QString &language, const QString &folder)
         !runStage(u"keyboard"_s, language, folder + u"/keyboard"_s) ||
         !runStage(u"looks"_s, language, folder + u"/looks"_s) ||
         !runStage(u"accounts"_s, language, folder + u"/accounts"_s) ||
+        !runStage(u"columns"_s, language, folder + u"/columns"_s) ||
+        !runStage(u"restored"_s, language, folder + u"/restored"_s) ||
+        !runStage(u"restoredagain"_s, language, folder + u"/restoredagain"_s) ||
         !runStage(u"program"_s, language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
@@ -185,6 +195,21 @@ void driveAccounts(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"closeButton"_s);
 }
 
+/// One run of the program that keeps what the user arranges for the next one.
+void driveColumns(Driver &driver, const QByteArray &stage)
+{
+    if (stage == "columns") {
+        walkFirstSearch(driver);
+        walkColumns(driver);
+    } else if (stage == "restored") {
+        walkRestored(driver);
+    } else {
+        walkRestoredAgain(driver);
+    }
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
+}
+
 void driveLab(Driver &driver)
 {
     walkLab(driver);
@@ -215,6 +240,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
 {
     const bool isFleet = qgetenv(stageVariable) == "fleet";
     const bool isLab = qgetenv(stageVariable) == "lab";
+    const bool isColumns =
+        qgetenv(stageVariable) == "columns" || qgetenv(stageVariable).startsWith("restored");
     QStringList arguments = {u"ConfigTools"_s};
     if (!isLab)
         arguments.append(isFleet ? u"--demo=fleet:200"_s : u"--demo"_s);
@@ -241,6 +268,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
             driveLooks(driver);
         else if (qgetenv(stageVariable) == "accounts")
             driveAccounts(driver, site);
+        else if (isColumns)
+            driveColumns(driver, qgetenv(stageVariable));
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else

@@ -51,6 +51,11 @@ void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site);
 void walkLooks(Driver &driver);
 /// Accounts of devices: a new password is kept, and one of several accounts is selected for a device.
 void walkDeviceAccounts(Driver &driver, sdk::demo::DemoSite &site);
+/// Columns, notes, order and the place of the window, which outlive the program.
+void walkColumns(Driver &driver);
+/// The program after walkColumns(), and after that once more.
+void walkRestored(Driver &driver);
+void walkRestoredAgain(Driver &driver);
 /// A second start beside this one.
 void walkSecondStart(Driver &driver, const QString &pictureFolder);
 /// Chooses another language and restarts: this process ends, and the next one finds itself in that language.
