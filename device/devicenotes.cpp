@@ -97,7 +97,8 @@ QString DeviceNotes::noteOf(const QJsonObject &row) const
 {
     if (m_notes.isEmpty())
         return {};
-    return firstNote(m_notes, identitiesOf(row.value(DeviceRowKey::mac).toString(), rowName(row)));
+    return firstNote(m_notes, identitiesOf(row.value(DeviceRowKey::mac).toString(),
+                                           row.value(DeviceRowKey::identity).toString()));
 }
 
 QString DeviceNotes::noteOf(const QVariantMap &row) const

@@ -150,7 +150,7 @@ QList<TableColumns::Column> TableColumns::defaultColumns() const
 
 QList<TableColumns::Column> TableColumns::read(const QString &text) const
 {
-    const QList<Column> usual = defaultColumns();
+    QList<Column> usual = defaultColumns();
     if (text.size() > longestText)
         return usual;
     QList<Column> columns;
