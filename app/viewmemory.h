@@ -1,4 +1,4 @@
-// How the user has arranged the window: what outlives the program of that.
+// The arrangement of the window, which outlives the program.
 #pragma once
 
 #include <QMap>
@@ -6,10 +6,10 @@
 #include <QString>
 #include <QTimer>
 
-/// Texts by name in the group "view" of the settings file, which hold how the window was left: columns and
-/// order of the tables, tab, place. The file's other settings stay as they are.
+/// Texts by name in the group "view" of the settings file: columns and order of the tables, tab and place of
+/// the window. The file's other settings stay as they are.
 ///
-/// What is kept is written a moment later, several changes at once, since a column is dragged in many steps.
+/// Texts are written a moment later, several changes at once, since a column is dragged in many steps.
 /// Without a settings file nothing is written: one with these texts only would lack the defaults of all other
 /// settings. Main thread only.
 class ViewMemory : public QObject
@@ -19,18 +19,18 @@ public:
     static constexpr qsizetype longestText = 4096; ///< longer ones are not kept and read as empty
 
     explicit ViewMemory(QString settingsPath, QObject *parent = nullptr);
-    ~ViewMemory() override; ///< writes what was kept
+    ~ViewMemory() override; ///< writes the kept texts
 
     /// The text with this name; empty when there is none.
     Q_INVOKABLE [[nodiscard]] QString text(const QString &name) const;
 
     Q_INVOKABLE void keep(const QString &name, const QString &text);
 
-    /// Writes at once what was kept. Blocks until the disk has it.
+    /// Writes the kept texts at once. Blocks until the disk has them.
     Q_INVOKABLE void write();
 
 Q_SIGNALS:
-    /// The first of several failed writes. What was kept is tried again with the next one.
+    /// The first of several failed writes. The kept texts are tried again with the next one.
     void failed();
 
 private:

@@ -1,4 +1,4 @@
-// What the user has noted about devices.
+// Notes of the user about devices.
 #pragma once
 
 #include <QHash>
@@ -15,8 +15,8 @@ inline constexpr QLatin1StringView noteKey("note");
 /// its UUID, so that a note is there again after each search and each change of the address; one that reports
 /// neither has no note.
 ///
-/// The notes are in a file of the user. One that cannot be opened is not written either; one that holds
-/// something else is kept under another name when a note is written. Lives on the scene's thread.
+/// The notes are in a file of the user. A file that cannot be opened is not written either; a damaged one is
+/// kept under another name when a note is written. Lives on the scene's thread.
 class DeviceNotes : public QObject
 {
     Q_OBJECT

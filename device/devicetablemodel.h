@@ -16,7 +16,7 @@ class CDeviceFactory;
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
 /// rowName()). get() also gives "failure": what batches failed with the device, see FailedMarks::wordsOf().
-/// "note" is what the user has noted about the device; the text search finds it as well.
+/// "note" is the note of the user about the device; the text search finds it as well.
 ///
 /// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
 /// filter are of the same moment, and keeps the user's ticks, selection and order over a refresh. Lives on

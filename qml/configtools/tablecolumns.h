@@ -12,7 +12,7 @@
 ///
 /// The text form lists all columns in their order, parted by blanks, such as "state name:180 -mac": a hidden
 /// one has "-" in front, one with a width of its own has that behind. The text of the default is empty. A
-/// text from elsewhere may hold anything: what cannot be read or is no column of the table is left out, a
+/// text from elsewhere may hold anything: items that are no columns of the table are left out, a
 /// width that makes no sense is that of the default, and columns that the text lacks stand where the default
 /// has them.
 ///

@@ -97,7 +97,7 @@ void WindowPlace::componentComplete()
         screens.append(screen->availableGeometry());
     m_normal = fitted(place->normal, m_window->minimumSize(), screens);
     m_isMaximised = place->isMaximised;
-    // As properties: the window's own bindings would win over what only the window system knows.
+    // As properties: the window's own bindings would win over a geometry that is set directly.
     QQmlProperty::write(m_window, QStringLiteral("x"), m_normal.x());
     QQmlProperty::write(m_window, QStringLiteral("y"), m_normal.y());
     QQmlProperty::write(m_window, QStringLiteral("width"), m_normal.width());

@@ -1,4 +1,4 @@
-// Where the main window stood when the program ended.
+// The place of the main window from one start of the program to the next.
 #pragma once
 
 #include <QList>
@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
-/// Gives a window the place and the size that a text says, before it is shown, and says what it has later.
+/// Gives a window a stored place and size before it is shown, and returns the text to be stored later.
 /// The text is such as "120 80 1280 720 maximised": left, top, width and height of the window while it is not
 /// maximised. A text that cannot be read changes nothing.
 ///

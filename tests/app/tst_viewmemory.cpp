@@ -24,7 +24,7 @@ private:
 private Q_SLOTS:
     void init() { m_directory = std::make_unique<QTemporaryDir>(); }
 
-    /// Together with everything else that is in the file, also what this version knows nothing of.
+    /// Everything else in the file stays, also keys of other versions.
     void textsOutliveTheProgram()
     {
         QVERIFY(writeFile(path(), "[searchConfig]\nendIP=10.0.0.9\n[view]\ntab=3\nnewer=kept\n"));
@@ -34,7 +34,7 @@ private Q_SLOTS:
             memory.keep("tab", "1");
             memory.keep("deviceColumns", "-mac name:180 ipport");
             QCOMPARE(memory.text("tab"), "1"); // at once
-            QCOMPARE(onDisk("view/tab"), "3"); // a moment later, with what else comes
+            QCOMPARE(onDisk("view/tab"), "3"); // a moment later, with further texts
         }
         const ViewMemory memory(path());
         QCOMPARE(memory.text("tab"), "1");

@@ -190,7 +190,7 @@ private Q_SLOTS:
         rows->add({.address = "10.0.9.9", .mac = "m2", .type = "IPC"});
         table.refresh();
         QCOMPARE(table.get(0).value("note").toString(), "north");
-        QVERIFY(!rows->ipv4.first().toJsonObject().contains("note")); // what goes into list files
+        QVERIFY(!rows->ipv4.first().toJsonObject().contains("note")); // from which list files are written
     }
 };
 

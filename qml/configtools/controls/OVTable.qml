@@ -58,7 +58,7 @@ FocusScope {
         return widths.map((width, i) => width + Math.floor(spare * shares[i] / all));
     }
 
-    /// What is still missing then is scrolled to.
+    /// If that is not enough, the table scrolls.
     function shrink(widths, shares, missing) {
         const gives = widths.map((width, i) => shares[i] > 0 ? Math.max(0, width - Theme.columnLeast) : 0);
         const all = gives.reduce((sum, give) => sum + give, 0);

@@ -88,7 +88,7 @@ ListView {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY - y));
     }
 
-    /// Brings what is there in the rows' width into view.
+    /// Brings a part of the rows' width into view.
     function showAcross(left, extent) {
         contentX = Math.max(Math.min(contentX, left), Math.min(left, left + extent - width));
     }

@@ -9,7 +9,7 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
-    property var memory: null  // of what the user has arranged
+    property var memory: null  // of the arrangement of tables
     property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)

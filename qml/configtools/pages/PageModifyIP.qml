@@ -10,7 +10,7 @@ FocusScope {
     required property DeviceSearch search
     required property bool libraryInstalled
     property bool simulated: false
-    required property var memory  // of what the user has arranged
+    required property var memory  // of the arrangement of tables
     property DeviceNotes notes: null
     required property SearchReports searchReports
     signal searchRequested

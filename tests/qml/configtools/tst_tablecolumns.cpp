@@ -1,4 +1,4 @@
-// The columns of a table as the user arranges them: their text form, and what mouse and keyboard do to them.
+// The columns of a table as the user arranges them: their text form, and the work of mouse and keyboard.
 #include "device/devicetablemodel.h"
 #include "qml/configtools/tablecolumns.h"
 #include "tests/datatable.h"
@@ -175,7 +175,7 @@ private Q_SLOTS:
     void textsAreRead()
     {
         QFETCH(QString, text);
-        TableColumns early; // the text may come before the table says what it has
+        TableColumns early; // the text may come before the columns
         early.setText(text);
         describe(early);
         QTEST(arrangementOf(early), "arrangement");
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QTEST(arrangementOf(late), "arrangement");
     }
 
-    /// What is written is read as the same arrangement, and the default has no text.
+    /// A written arrangement is read as the same one, and the default has no text.
     void arrangementsAreKept()
     {
         TableColumns columns;

@@ -72,7 +72,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         QCOMPARE(window->visibility() == QWindow::Maximized, maximised);
         QCOMPARE(textOf(*window), QString(stored));
-        if (!maximised) // what size this platform gives to a maximised window later is its own affair
+        if (!maximised) // this platform gives a maximised window its own size
             QCOMPARE(window->geometry(), normal);
     }
 
