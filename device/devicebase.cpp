@@ -313,3 +313,15 @@ QStringList CDeviceBase::takeChangedUpgrades()
 {
     return {};
 }
+
+DeviceStep CDeviceBase::pictureStep(const PictureOrder &)
+{
+    return unsupportedStep();
+}
+
+OwnSessionStep CDeviceBase::ownSessionStep(const OwnSessionOrder &)
+{
+    return [](const StepControl &) {
+        return OwnSessionOffer();
+    };
+}

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "device/deviceimport.h"
+#include "device/devicepictures.h"
+#include "device/ownsession.h"
 #include "device/scenestep.h"
 #include "device/upgradeplan.h"
 
@@ -220,6 +222,13 @@ public:
     /// The one account that the device is logged in to with, see AccountChoice: "account", "password",
     /// "isStored" and "isDefault". `name` is that of its row, or its address and port.
     virtual QVariantMap accountOf(const QString &name);
+
+    /// Logs in to a device with its row's account, else the default one, takes pictures of its channels, one
+    /// after another, and logs out. The current session stays as it is.
+    virtual DeviceStep pictureStep(const PictureOrder &order);
+    /// Logs in to a device beside the current session, for live pictures. As a step of many devices at the
+    /// same time, it may run on any thread.
+    virtual OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

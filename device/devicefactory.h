@@ -186,6 +186,7 @@ public:
     [[nodiscard]] DeviceStepMaker encodeCopy(const QString &family);
     [[nodiscard]] QJsonObject deviceRow(const QString &family, const QString &name);
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &family, const QString &address);
+    [[nodiscard]] DeviceStep pictureStep(const QString &family, const PictureOrder &order);
     [[nodiscard]] DeviceStep locationStep(const QString &family, const QStringList &macs);
     [[nodiscard]] DeviceStep addingStep(const QString &family, const DeviceToAdd &device);
     [[nodiscard]] DeviceStep upgradeStep(const QString &family, const QString &mac);
@@ -208,6 +209,7 @@ public:
                                       const QString &password);
     [[nodiscard]] SceneStep sessionStep(const QString &family, const SessionJob &job);
     [[nodiscard]] SceneStep detailStep(const QString &family, const QString &ipport);
+    [[nodiscard]] OwnSessionStep ownSessionStep(const QString &family, const OwnSessionOrder &order);
     void runForScene(const QString &family, const SceneStep &step, const std::stop_token &stop,
                      const std::function<void(const SceneOutcome &outcome)> &ended);
 

@@ -37,6 +37,11 @@ QList<DeviceStep> CDeviceFactory::snapshotSteps(const QString &family, const QSt
     return forward(family, &CDeviceBase::snapshotSteps, address);
 }
 
+DeviceStep CDeviceFactory::pictureStep(const QString &family, const PictureOrder &order)
+{
+    return forward(family, &CDeviceBase::pictureStep, order);
+}
+
 DeviceStep CDeviceFactory::locationStep(const QString &family, const QStringList &macs)
 {
     return forward(family, &CDeviceBase::locationStep, macs);

@@ -17,6 +17,11 @@ SceneStep CDeviceFactory::detailStep(const QString &family, const QString &ippor
     return forward(family, &CDeviceBase::detailStep, ipport);
 }
 
+OwnSessionStep CDeviceFactory::ownSessionStep(const QString &family, const OwnSessionOrder &order)
+{
+    return forward(family, &CDeviceBase::ownSessionStep, order);
+}
+
 void CDeviceFactory::runForScene(const QString &family, const SceneStep &step, const std::stop_token &stop,
                                  const std::function<void(const SceneOutcome &outcome)> &ended)
 {

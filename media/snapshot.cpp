@@ -50,12 +50,12 @@ SnapOutcome notWritten(const QString &reason)
             .reason = reason};
 }
 
-SnapOutcome noPicture()
+SnapOutcome noPicture(const QString &reason = QString())
 {
     return {.path = {},
             .message = QCoreApplication::translate("SnapThread", "抓图失败"),
             .problem = SnapProblem::NoPicture,
-            .reason = {}};
+            .reason = reason};
 }
 
 /// `file` is where the picture goes.
@@ -63,7 +63,8 @@ SnapOutcome savePicture(const SnapTask &task, int channel, const QString &file, 
 {
     VideoItem view;
     view.setChannelId(channel);
-    for (int attempt = 0; attempt < snapTries && !stop.stop_requested(); ++attempt) {
+    view.setSession(task.ownSession);
+    for (int attempt = 0; attempt < task.tries && !stop.stop_requested(); ++attempt) {
         if (attempt > 0)
             QThread::msleep(snapPauseMilliseconds);
         if (!task.isDeviceCurrent())
@@ -73,7 +74,7 @@ SnapOutcome savePicture(const SnapTask &task, int channel, const QString &file, 
             // Another device may be logged in to meanwhile: its picture must not pass for this one's.
             const bool isBegun = view.start() && task.isDeviceCurrent();
             if (!isBegun && view.loginHandle() == task.sessionHandle())
-                return noPicture();
+                return noPicture(view.text());
             if (!isBegun)
                 continue;
         }
@@ -100,7 +101,9 @@ SnapOutcome takeSnapshot(const SnapTask &task, const SnapChannel &channel, const
                 .message = QCoreApplication::translate("SnapThread", "通道未连接"),
                 .problem = SnapProblem::NotConnected,
                 .reason = QCoreApplication::translate("SnapThread", "通道未连接")};
-    const QString folder = QDir::current().absoluteFilePath(QStringLiteral("snap/") + task.folder);
+    const QString folder = task.ownSession != 0
+                               ? task.folder
+                               : QDir::current().absoluteFilePath(QStringLiteral("snap/") + task.folder);
     const QString file = QDir(folder).absoluteFilePath(QStringLiteral("%1.jpg").arg(channel.number));
     // Without the folder no stream is opened.
     QString problem = folderProblem(folder);

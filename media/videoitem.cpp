@@ -125,7 +125,9 @@ bool VideoItem::prepare()
         return false;
     }
     const qint64 loginHandle =
-        factory->getConfigData(QStringLiteral("dh"), QStringLiteral("loginHandle")).toLongLong();
+        m_session != 0
+            ? m_session
+            : factory->getConfigData(QStringLiteral("dh"), QStringLiteral("loginHandle")).toLongLong();
     if (loginHandle != m_loginHandle) {
         m_loginHandle = loginHandle;
         Q_EMIT isLoginHandleChanged();
@@ -354,6 +356,14 @@ void VideoItem::setChannelId(int channelId)
         return;
     m_channelId = channelId;
     Q_EMIT channelIdChanged();
+}
+
+void VideoItem::setSession(qint64 session)
+{
+    if (m_session == session)
+        return;
+    m_session = session;
+    Q_EMIT sessionChanged();
 }
 
 void VideoItem::setUrl(const QString &url)

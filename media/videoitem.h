@@ -23,9 +23,9 @@
 
 class CDHDecoder;
 
-/// Shows one channel of the device that the user is logged in to, with sound when it is asked for: opens the
-/// live stream, has it decoded, and draws the pictures with zoom and pan. It is transparent without a
-/// picture.
+/// Shows one channel of the device that the user is logged in to, or of another session, with sound when it
+/// is asked for: opens the live stream, has it decoded, and draws the pictures with zoom and pan. It is
+/// transparent without a picture.
 ///
 /// Everything is called on the item's thread. A view that is never shown may live on any thread; it has
 /// neither sound nor, without an event loop, signals of its own thread.
@@ -45,6 +45,7 @@ class VideoItem : public QQuickFramebufferObject, public VideoDataObserver
     Q_PROPERTY(int zoomLevel READ zoomLevel NOTIFY zoomLevelChanged)
     Q_PROPERTY(bool isStreaming READ isStreaming NOTIFY isStreamingChanged)
     Q_PROPERTY(QString problemText READ problemText NOTIFY problemTextChanged)
+    Q_PROPERTY(qint64 session READ session WRITE setSession NOTIFY sessionChanged)
 public:
     enum FillModeType
     {
@@ -79,6 +80,9 @@ public:
     /// The channel that the next start() shows, from 0; -1 for none yet.
     [[nodiscard]] int channelId() const { return m_channelId; }
     void setChannelId(int channelId);
+    /// Handle of the session that the next start() uses, 0 for the current one of the back end.
+    [[nodiscard]] qint64 session() const { return m_session; }
+    void setSession(qint64 session);
     /// Free for the scene.
     [[nodiscard]] QString url() const { return m_url; }
     void setUrl(const QString &url);
@@ -137,6 +141,7 @@ Q_SIGNALS:
     void problemTextChanged();
     /// Of startInBackground(). `mayTryOther`: the device may have the other stream of the channel.
     void startEnded(bool isStreaming, bool mayTryOther);
+    void sessionChanged();
 
 public Q_SLOTS:
     // The order is kept as well.
@@ -189,6 +194,7 @@ private:
     StreamWatch m_watch;
     QTimer m_watchTimer;
     QMetaObject::Connection m_repaint; ///< while the stream runs
+    qint64 m_session = 0;
     qint64 m_loginHandle = 0;
     std::int64_t m_streamHandle = 0;          ///< 0 for none
     std::unique_ptr<StreamOpening> m_opening; ///< null unless a device is asked in the background

@@ -103,6 +103,7 @@ public:
     bool isInSession(const QString &ipport) override;
     SceneStep loginStep(const QString &ipport, const QString &account, const QString &password) override;
     SceneStep detailStep(const QString &ipport) override;
+    OwnSessionStep ownSessionStep(const OwnSessionOrder &order) override;
     void runForScene(const SceneStep &step, const std::stop_token &stop,
                      const std::function<void(const SceneOutcome &outcome)> &ended) override;
 
@@ -160,6 +161,7 @@ public:
     DeviceStepMaker encodeCopy() override;
     QJsonObject deviceRow(const QString &name) override;
     QList<DeviceStep> snapshotSteps(const QString &address) override;
+    DeviceStep pictureStep(const PictureOrder &order) override;
     DeviceStep locationStep(const QStringList &macs) override;
     /// What the camera can do and its configurations; the values come with getVideoIn().
     void getCameraConfig() override;
@@ -225,6 +227,8 @@ private:
         DeviceAccount usual;
     };
 
+    class LiveLogin;
+
     void beginSession(const QString &ipport, const QString &account, const QString &password,
                       const SecureLogin &login);
     void endSession();
@@ -253,6 +257,9 @@ private:
     void noteSchedule();
     void noteUpgradeDocuments();
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
+    /// Takes the pictures of an order in a login.
+    [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
+                                           const StepControl &control) const;
     /// Emits signalCDeviceAddSingleDeviceToTable once, however often it is called before. On any thread.
     void noteChangedRows();
     void noteUpgradeRoundEnd();

@@ -1,9 +1,13 @@
 // Live view and snapshots of the current session's device.
+#include "device/devicerow.h"
+#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
 #include "device/dh/livechannels.h"
+#include "device/dh/securelogin.h"
 #include "device/loginresult.h"
 #include "media/snapthread.h"
 
+#include <QCoreApplication>
 #include <QThread>
 
 #include <algorithm>
@@ -38,6 +42,15 @@ int snapResult(SnapProblem problem)
     default:
         return snapshotFailed;
     }
+}
+
+/// Why a picture for an overview is missing, in the user's language.
+QString missingPictureText(const SnapOutcome &outcome)
+{
+    if (outcome.problem != SnapProblem::NoPicture)
+        return outcome.message;
+    return outcome.reason.isEmpty() ? QCoreApplication::translate("CDeviceDH", "设备没有发送画面")
+                                    : outcome.reason;
 }
 
 /// A hidden live view starts timers, which the toolkit allows on its own threads only. Those of the engine
@@ -111,6 +124,71 @@ QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
         });
     }
     return steps;
+}
+
+DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
+{
+    const QJsonObject row = store().rowAt(order.ipport);
+    const QJsonValue state = row.value(DeviceRowKey::state);
+    return [this, order, account = credentialsOf(row),
+            isInitialised = !state.isBool() || state.toBool()](const StepControl &control) {
+        if (!isInitialised) // it takes no login
+            return StepOutcome{.result = resultCode(LoginResult::NotInitialised), .text = {}};
+        if (isUpgradingAt(order.ipport)) // nothing comes between a device and its firmware
+            return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
+        const SecureLogin login =
+            secureLogin(m_libraries.net.get(), order.ipport, account.account, account.password);
+        if (login.result != LoginResult::Success)
+            return StepOutcome{.result = resultCode(login.result), .text = {}};
+        const UntakenLogin end(m_libraries.net, login);
+        return takePictures(order, login, control);
+    };
+}
+
+StepOutcome CDeviceDH::takePictures(const PictureOrder &order, const SecureLogin &login,
+                                    const StepControl &control) const
+{
+    const ConfigSession session(m_libraries, login.handle);
+    QList<SnapChannel> channels;
+    if (order.onlyChannel >= 0) {
+        const QList<bool> connected = connectedChannels(session, login.channelCount);
+        channels.append({order.onlyChannel, connected.value(order.onlyChannel, true)});
+    } else {
+        const int count = std::max(1, login.channelCount); // a device that says nothing of them has one
+        const QVariantList found = liveChannels(session, std::min(count, PictureOrder::maximumChannels));
+        for (const QVariant &channel : found) {
+            const QVariantMap values = channel.toMap();
+            channels.append({values.value(QStringLiteral("channel")).toInt(),
+                             values.value(QStringLiteral("connected")).toBool()});
+        }
+        if (order.found)
+            order.found(found, count);
+    }
+
+    const SnapTask task = {.kind = {},
+                           .folder = order.folder,
+                           .isDeviceCurrent = [] { return true; },
+                           .sessionHandle = [handle = login.handle] { return handle; },
+                           .channels = {},
+                           .ownSession = login.handle,
+                           // Many devices at a time are slow, but a step has to come to all of its channels.
+                           .tries = channels.size() == 1 ? 2 * snapTries : snapTries};
+    StepOutcome failure = {.result = resultCode(LoginResult::NotDone), .text = {}};
+    int failures = 0;
+    for (const SnapChannel &channel : std::as_const(channels)) {
+        if (control.shouldEnd())
+            return {.result = resultCode(LoginResult::NotDone), .text = {}};
+        const SnapOutcome outcome = snapshotOnThread(task, channel, control.stopToken());
+        if (outcome.problem != SnapProblem::None && ++failures == 1)
+            failure = {.result = snapResult(outcome.problem), .text = missingPictureText(outcome)};
+        if (order.taken && !(outcome.problem == SnapProblem::NoPicture && control.shouldEnd()))
+            order.taken(channel.number, outcome.path.mid(QStringLiteral("file:///").size()),
+                        missingPictureText(outcome));
+    }
+    if (failures == channels.size())
+        return failure;
+    return {.result = resultCode(LoginResult::Success),
+            .text = failures > 0 ? tr("%n 个通道没有图像", nullptr, failures) : QString()};
 }
 
 void CDeviceDH::noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message)

@@ -7,6 +7,37 @@
 #include "device/dh/sessionoffer.h"
 #include "sdk/netlibrary.h"
 
+#include <QPointer>
+#include <QThread>
+
+/// A login of a live view beside the current session. The end of the back end logs out as well.
+class CDeviceDH::LiveLogin final : public OwnSession
+{
+public:
+    LiveLogin(CDeviceDH &backEnd, const SecureLogin &login)
+        : m_backEnd(&backEnd), m_handle(login.handle), m_channelCount(login.channelCount)
+    {
+    }
+
+    ~LiveLogin() override
+    {
+        if (!m_backEnd)
+            return;
+        if (QThread::currentThread() == m_backEnd->thread())
+            m_backEnd->logOutLater({m_handle});
+        else // of the back end's own, whose end waits for it
+            m_backEnd->m_libraries.net->NetLogout(m_handle);
+    }
+
+    [[nodiscard]] qint64 handle() const override { return m_handle; }
+    [[nodiscard]] int channelCount() const override { return m_channelCount; }
+
+private:
+    const QPointer<CDeviceDH> m_backEnd;
+    const std::int64_t m_handle;
+    const int m_channelCount;
+};
+
 int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account, const QString &password)
 {
     if (!m_libraries.net)
@@ -121,6 +152,27 @@ SceneStep CDeviceDH::detailStep(const QString &ipport)
             };
             return SceneOutcome{.value = detail, .take = takeMac};
         };
+}
+
+OwnSessionStep CDeviceDH::ownSessionStep(const OwnSessionOrder &order)
+{
+    return [this, order](const StepControl &) {
+        const std::shared_ptr<OwnSession> &present = order.present;
+        const SessionOffer offer =
+            offerSession(m_libraries, {.ipport = order.ipport,
+                                       .account = order.account,
+                                       .password = order.password,
+                                       .handle = present ? present->handle() : 0,
+                                       .channelCount = present ? present->channelCount() : 0,
+                                       .isNewLogin = false,
+                                       .readsChannels = !present});
+        OwnSessionOffer made = {.result = resultCode(offer.result), .channels = offer.channels};
+        if (offer.login.handle != 0)
+            made.session = std::make_shared<LiveLogin>(*this, offer.login);
+        else if (offer.result == LoginResult::Success)
+            made.session = present;
+        return made;
+    };
 }
 
 void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,

@@ -1,0 +1,57 @@
+// A session of the live window's own, beside that of the configuration pages.
+#pragma once
+
+#include "device/ownsession.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVariantList>
+
+#include <memory>
+#include <stop_token>
+
+class CDeviceFactory;
+
+/// Logs in to a device for the scene while the window goes on, and holds the login until close() or its own
+/// end. The order that is given last counts; what comes of an earlier one is dropped and logged out.
+///
+/// Lives on the scene's thread.
+class LiveSession : public QObject
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("device/devicefactory.h")
+    Q_PROPERTY(
+        CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    Q_PROPERTY(qint64 handle READ handle NOTIFY handleChanged)
+public:
+    explicit LiveSession(QObject *parent = nullptr) : QObject(parent) {}
+    ~LiveSession() override;
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+
+    /// Of the login, 0 while there is none.
+    [[nodiscard]] qint64 handle() const { return m_session ? m_session->handle() : 0; }
+
+    /// Sees to it that there is a session with the device: the present one goes on where the device answers
+    /// in it. ended() follows, unless another order comes first.
+    Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
+
+    /// Logs out, and gives up what open() began.
+    Q_INVOKABLE void close();
+
+Q_SIGNALS:
+    void deviceFactoryChanged();
+    void handleChanged();
+    /// `result` is a LoginResult. The present session stays when a device does not answer.
+    void ended(int result, const QVariantList &channels);
+
+private:
+    void take(const OwnSessionOffer &offer);
+    void setSession(const std::shared_ptr<OwnSession> &session);
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    std::stop_source m_stop;
+    std::shared_ptr<OwnSession> m_session;
+    int m_number = 0; ///< of the order that counts
+};
