@@ -302,7 +302,7 @@ T.ApplicationWindow {
                 search: window.deviceSearch
                 searchReports: window.searchReports
                 onDemoRequested: window.requestDemo()
-                onLiveRequested: ipport => popups.openLive(ipport)
+                onLiveRequested: ipport => popups.openLive(ipport, modifyIpPage.deviceTable)
                 onReportRequested: popups.openSearchReport()
                 onSaid: (message, kind) => popups.say(message, kind)
                 onSearchRequested: window.requestSearch()
@@ -315,12 +315,13 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageDeviceUpgrade {
+                        id: upgrades
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         memory: window.memory
                         notes: window.notes
                         search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLive(ipport)
+                        onLiveRequested: ipport => popups.openLive(ipport, upgrades.deviceTable)
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
                         onSettled: popups.settle()

@@ -114,6 +114,7 @@ QtObject {
     readonly property int liveMinimumWidth: 720
     readonly property int liveMinimumHeight: 480
     readonly property int liveListWidth: 220
+    readonly property int liveToolBarWidth: 680  // with all of its words
     readonly property int snapshotWidth: 216
     readonly property int snapshotsHeight: 400
 

@@ -24,6 +24,7 @@
 #include "device/dialogrows.h"
 #include "device/encodeform.h"
 #include "device/failedmarks.h"
+#include "device/livesession.h"
 #include "device/searchreports.h"
 #include "device/sessionwork.h"
 #include "device/systemtools.h"
@@ -155,6 +156,13 @@ struct BatchReportForeign
     Q_GADGET
     QML_FOREIGN(BatchReport)
     QML_NAMED_ELEMENT(BatchReport)
+};
+
+struct LiveSessionForeign
+{
+    Q_GADGET
+    QML_FOREIGN(LiveSession)
+    QML_NAMED_ELEMENT(LiveSession)
 };
 
 struct FailedMarksForeign

@@ -1,4 +1,5 @@
-// The channels of the watched device. Those that no camera is connected to are marked.
+// The channels of the watched devices. Those that no camera is connected to are marked. With several devices the first
+// channel of each stands below the device's name.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,11 +7,12 @@ import configtools
 Rectangle {
     id: root
 
-    required property var channels
-    required property var shownChannels  // numbers of the channels that have a place in the grid
+    required property var channels       // as of LiveGrid; "heading" for the first one of each of several devices
+    required property var shownChannels  // indexes of the channels that have a place in the grid
     required property int currentChannel
     signal picked(int channel)
     signal enlargeRequested(int channel)
+    signal removalRequested(string ipport)
 
     color: Theme.colours.surface
 
@@ -41,64 +43,110 @@ Rectangle {
 
         Keys.onReturnPressed: if (currentItem) root.picked(currentIndex)
         Keys.onSpacePressed: if (currentItem) root.picked(currentIndex)
+        Keys.onDeletePressed: {
+            if (root.channels[currentIndex]?.companion)
+                root.removalRequested(root.channels[currentIndex].ipport);
+        }
 
         T.ScrollBar.vertical: OVScrollBar {}
 
         // qmllint disable unqualified
-        delegate: Rectangle {
+        delegate: Item {
             id: entry
 
             required property int index
             required property var modelData
-            readonly property bool shown: root.shownChannels.includes(modelData.channel)
+            readonly property bool shown: root.shownChannels.includes(index)
+            readonly property bool failed: (modelData.companion?.failure ?? "") !== "" && !modelData.companion.busy
 
             width: ListView.view.width
-            height: Theme.controlHeight
-            color: modelData.channel === root.currentChannel ? Theme.colours.rowSelected
-                : pointer.hovered || (ListView.isCurrentItem && list.activeFocus) ? Theme.colours.hover
-                : Theme.colours.clear
-            objectName: "liveChannel" + modelData.channel
+            height: line.y + line.height
+            objectName: "liveChannel" + index
 
             Accessible.role: Accessible.ListItem
             Accessible.name: label.text
 
-            OVIcon {
-                id: sign
-                x: Theme.pageMargin
-                anchors.verticalCenter: parent.verticalCenter
-                color: !entry.modelData.connected ? Theme.colours.faint
-                    : entry.shown ? Theme.colours.accent : Theme.colours.sub
-                name: entry.modelData.connected ? "video" : "noVideo"
-                size: Theme.boxSize
-            }
-            OVLabel {
-                id: label
-                x: sign.x + sign.width + Theme.unit
-                width: state.x - x - Theme.unit
-                height: parent.height
-                color: entry.modelData.connected ? Theme.colours.ink : Theme.colours.faint
-                text: entry.modelData.name
-            }
-            OVLabel {
-                id: state
-                x: parent.width - width - Theme.pageMargin
-                width: visible ? implicitWidth : 0
-                height: parent.height
-                color: Theme.colours.faint
-                font: Theme.hintFont
-                text: qsTr("未连接")
-                visible: !entry.modelData.connected
-            }
-            HoverHandler {
-                id: pointer
-            }
-            MouseArea {
-                anchors.fill: parent
-                onClicked: {
-                    list.currentIndex = entry.index;
-                    root.picked(entry.modelData.channel);
+            Item {
+                id: heading
+                width: parent.width
+                height: entry.modelData.heading === undefined ? 0 : Theme.controlHeight
+                visible: height > 0
+
+                Rectangle {
+                    width: parent.width
+                    height: Theme.line
+                    color: Theme.colours.line
+                    visible: entry.index > 0
                 }
-                onDoubleClicked: root.enlargeRequested(entry.modelData.channel)
+                OVLabel {
+                    x: Theme.pageMargin
+                    width: removal.x - x
+                    height: parent.height
+                    color: Theme.colours.sub
+                    font: Theme.headFont
+                    objectName: "liveHeading" + entry.index
+                    text: entry.modelData.heading ?? ""
+                }
+                OVIconButton {
+                    id: removal
+                    x: parent.width - width - Theme.half
+                    activeFocusOnTab: false
+                    iconName: "close"
+                    iconSize: Theme.smallIconSize
+                    objectName: "liveRemove" + entry.index
+                    toolTip: qsTr("从画面中移除（Delete）")
+                    visible: entry.modelData.companion !== null && heading.visible
+                    width: visible ? implicitWidth : Theme.unit
+                    onClicked: root.removalRequested(entry.modelData.ipport)
+                }
+            }
+            Rectangle {
+                id: line
+                y: heading.height
+                width: parent.width
+                height: Theme.controlHeight
+                color: entry.index === root.currentChannel ? Theme.colours.rowSelected
+                    : pointer.hovered || (entry.ListView.isCurrentItem && list.activeFocus) ? Theme.colours.hover
+                    : Theme.colours.clear
+
+                OVIcon {
+                    id: sign
+                    x: Theme.pageMargin
+                    anchors.verticalCenter: parent.verticalCenter
+                    color: !entry.modelData.connected || entry.failed ? Theme.colours.faint
+                        : entry.shown ? Theme.colours.accent : Theme.colours.sub
+                    name: entry.modelData.connected && !entry.failed ? "video" : "noVideo"
+                    size: Theme.boxSize
+                }
+                OVLabel {
+                    id: label
+                    x: sign.x + sign.width + Theme.unit
+                    width: state.x - x - Theme.unit
+                    height: parent.height
+                    color: entry.modelData.connected ? Theme.colours.ink : Theme.colours.faint
+                    text: entry.modelData.name
+                }
+                OVLabel {
+                    id: state
+                    x: parent.width - width - Theme.pageMargin
+                    width: visible ? implicitWidth : 0
+                    height: parent.height
+                    color: Theme.colours.faint
+                    font: Theme.hintFont
+                    text: qsTr("未连接")
+                    visible: !entry.modelData.connected
+                }
+                HoverHandler {
+                    id: pointer
+                }
+                MouseArea {
+                    anchors.fill: parent
+                    onClicked: {
+                        list.currentIndex = entry.index;
+                        root.picked(entry.index);
+                    }
+                    onDoubleClicked: root.enlargeRequested(entry.index)
+                }
             }
         }
         // qmllint enable unqualified

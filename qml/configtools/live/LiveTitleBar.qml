@@ -1,4 +1,4 @@
-// The title bar of the live window: which device is watched.
+// The title bar of the live window: which device is watched, and the way to the next one of the list.
 import QtQuick
 import configtools
 
@@ -9,6 +9,11 @@ Rectangle {
     required property string address
     required property bool maximised
     required property var cursor  // its cursorPos() is the pointer's position on the screen
+    property string place                 // of the device in the list, in words; empty where there is none
+    property bool hasEarlier: false
+    property bool hasLater: false
+    signal earlierRequested
+    signal laterRequested
     signal closeRequested
     signal maximiseRequested
 
@@ -22,6 +27,7 @@ Rectangle {
         fillHover: Theme.colours.barHover
         fillPressed: Theme.colours.barPressed
         ink: Theme.colours.barInk
+        inkDisabled: Theme.colours.barLine
         inkHover: Theme.colours.barInk
     }
 
@@ -32,7 +38,7 @@ Rectangle {
     }
     Row {
         x: Theme.pageMargin
-        width: buttons.x - x - Theme.pageMargin
+        width: (way.visible ? way.x : buttons.x) - x - Theme.pageMargin
         height: parent.height
         spacing: Theme.controlGap
 
@@ -55,6 +61,36 @@ Rectangle {
             font: Theme.figureFont
             objectName: "liveAddress"
             text: root.address
+        }
+    }
+    OVActionRow {
+        id: way
+        anchors.right: buttons.left
+        anchors.rightMargin: Theme.pageMargin
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.half
+        visible: root.place !== ""
+
+        BarButton {
+            enabled: root.hasEarlier
+            iconName: "left"
+            objectName: "liveEarlierButton"
+            toolTip: qsTr("上一台设备（PgUp）")
+            onClicked: root.earlierRequested()
+        }
+        OVLabel {
+            height: Theme.controlHeight
+            color: Theme.colours.barSub
+            font: Theme.figureFont
+            objectName: "liveDevicePlace"
+            text: root.place
+        }
+        BarButton {
+            enabled: root.hasLater
+            iconName: "right"
+            objectName: "liveLaterButton"
+            toolTip: qsTr("下一台设备（PgDn）")
+            onClicked: root.laterRequested()
         }
     }
     Row {

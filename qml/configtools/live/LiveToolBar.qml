@@ -10,9 +10,14 @@ Rectangle {
     required property bool canSnap
     required property bool snapping
     required property string otherBatch  // that runs; "" for none
+    required property int ticked         // devices of the list
+    property bool full: false            // there is no room for further devices
+    readonly property bool compact: width < Theme.liveToolBarWidth  // there is no room for words
+    readonly property bool canAdd: canSnap && ticked > 0 && !full
     signal fullScreenRequested
     signal snapRequested
     signal snapAllRequested
+    signal additionRequested
 
     component BarButton: OVIconButton {
         property bool on: false
@@ -87,6 +92,34 @@ Rectangle {
             visible: root.grid.pages > 1
             onClicked: root.grid.showPage(root.grid.page + 1)
         }
+        Gap {}
+        OVAbstractButton {
+            id: addition
+            enabled: root.canAdd
+            height: Theme.controlHeight
+            implicitWidth: words.implicitWidth + 2 * Theme.unit
+            objectName: "liveAddButton"
+            toolTip: root.full ? qsTr("画面中已有足够多的设备")
+                : root.ticked === 0 ? qsTr("请先在设备列表中勾选要一起查看的设备")
+                : qsTr("把列表中勾选的设备的通道加入画面（A）")
+            onClicked: root.additionRequested()
+
+            contentItem: OVLabel {
+                id: words
+                color: !addition.enabled ? Theme.colours.barLine
+                    : addition.hovered ? Theme.colours.barInk : Theme.colours.barSub
+                horizontalAlignment: Text.AlignHCenter
+                text: root.compact ? "+ " + root.ticked
+                    : root.ticked > 0 ? qsTr("加入勾选的设备（%1）").arg(root.ticked) : qsTr("加入勾选的设备")
+            }
+            background: Rectangle {
+                color: addition.down ? Theme.colours.barPressed
+                    : addition.hovered || addition.visualFocus ? Theme.colours.barHover : Theme.colours.clear
+                radius: Theme.controlRadius
+
+                OVFocusRing { shown: addition.visualFocus }
+            }
+        }
     }
     OVActionRow {
         anchors.right: parent.right
@@ -117,10 +150,13 @@ Rectangle {
         }
         Gap {}
         BarButton {
-            enabled: root.canSnap && !root.snapping && root.grid.currentChannel >= 0
+            readonly property bool isOther: (root.grid.currentEntry?.companion ?? null) !== null
+
+            enabled: root.canSnap && !root.snapping && root.grid.currentChannel >= 0 && !isOther
             iconName: "snapshot"
             objectName: "liveSnapButton"
-            toolTip: root.snapping ? qsTr("正在抓图…") : qsTr("抓取当前通道")
+            toolTip: root.snapping ? qsTr("正在抓图…")
+                : isOther ? qsTr("加入的设备不能在此抓图，请在设备图像窗口中保存") : qsTr("抓取当前通道")
             onClicked: root.snapRequested()
         }
         BarButton {

@@ -1,4 +1,5 @@
-// Watches a device: its channels at the left, their live pictures beside them.
+// Watches a device: its channels at the left, their live pictures beside them. Further devices can be added, each with a
+// session of its own, which ends when the device is removed, another one is opened or the window is closed.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -13,20 +14,103 @@ T.ApplicationWindow {
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
     property int visibilityBefore: Window.Windowed
+    readonly property int mostCompanions: 15
+    property int firstChannel: 0   // to be shown when the device is there
+    property var earlier: null     // the devices before and behind this one in the list; null for none
+    property var later: null
     signal said(string message, int kind)
 
-    function open(ipport) {
+    /// `table` is the list that the device is of, a DeviceTableModel, and `chosen` devices of it that are gone through
+    /// instead of its rows. They may be left out, and so may the channel.
+    function open(ipport, channel, table, chosen) {
+        order.table = table ?? null;
+        order.chosen = chosen ?? [];
+        openDevice(ipport, channel ?? -1);
+    }
+
+    function openDevice(ipport, channel) {
         if (visible && device.ipport === ipport && (device.loggedIn || device.busy)) {
+            if (channel >= 0 && channel < device.channels.length)
+                grid.showChannel(channel);
+            findWay();
             requestActivate();
             return;
         }
         results.item?.close();  // they are another device's
+        toasts.item?.clear();
+        removeAll();
         grid.sounding = false;
+        firstChannel = channel;
         if (!visible)
             show();
         raise();
         requestActivate();
         device.open(ipport);
+        findWay();
+    }
+
+    function findWay() {
+        earlier = visible ? order.neighbour(device.ipport, -1) : null;
+        later = visible ? order.neighbour(device.ipport, 1) : null;
+    }
+
+    /// To the device before this one, -1, or behind it, 1.
+    function go(direction) {
+        findWay();  // the list may be another one by now
+        const next = direction < 0 ? earlier : later;
+        if (next !== null)
+            openDevice(next.ipport, -1);
+    }
+
+    /// Adds the ticked devices of the list to the pictures.
+    function addTicked() {
+        const isShown = values => values.ipport === device.ipport
+            || companions.places().some(ipport => ipport === values.ipport);
+        const wanted = order.tickedDevices().filter(values => !isShown(values));
+        const added = wanted.slice(0, mostCompanions - companions.count);
+        if (wanted.length === 0)
+            toasts.wanted().show(qsTr("勾选的设备都已在画面中"), OVToast.Information);
+        else if (added.length < wanted.length)
+            toasts.wanted().show(qsTr("最多加入 %1 台设备，其余 %2 台没有加入").arg(mostCompanions)
+                .arg(wanted.length - added.length), OVToast.Information);
+        for (const values of added)
+            companions.append({ipport: values.ipport, name: values.name || values.model || values.ipport});
+        gather();
+        grid.include(added.map(values => grid.channels.findIndex(entry => entry.ipport === values.ipport)));
+    }
+
+    /// The pictures go first: they stream in the session of the device.
+    function remove(ipport) {
+        const place = companions.places().indexOf(ipport);
+        grid.adopt(grid.channels.filter(entry => entry.ipport !== ipport));
+        companions.remove(place);
+        gather();
+    }
+
+    function removeAll() {
+        grid.adopt(grid.channels.filter(entry => entry.companion === null));
+        companions.clear();
+    }
+
+    /// The channels of all devices, in the order in which these were added.
+    function gather() {
+        const isOne = companions.count === 0;
+        const entriesOf = (ipport, name, channels, companion) => channels.map((entry, place) => ({
+            ipport: ipport,
+            channel: entry.channel,
+            connected: entry.connected,
+            name: entry.name !== "" ? entry.name : qsTr("通道 %1").arg(entry.channel + 1),
+            caption: isOne || entry.name.startsWith(name) ? entry.name
+                : entry.name === "" ? name : name + " · " + entry.name,
+            companion: companion,
+            heading: isOne || place > 0 ? undefined : name
+        }));
+        let entries = entriesOf(device.ipport, device.name !== "" ? device.name : device.ipport, device.channels, null);
+        for (let place = 0; place < added.count; ++place) {
+            const companion = added.itemAt(place);
+            entries = entries.concat(entriesOf(companion.ipport, companion.name, companion.channels, companion));
+        }
+        grid.adopt(entries);
     }
 
     function toggleFullScreen() {
@@ -67,6 +151,7 @@ T.ApplicationWindow {
     onClosing: {
         results.item?.close();
         taking.stop();
+        removeAll();
         device.close();
     }
 
@@ -77,10 +162,42 @@ T.ApplicationWindow {
             window.said(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
             window.close();
         }
-        onAnswered: isThere => grid.answer(isThere)
-        onOpened: grid.begin()
-        onRenewed: grid.reconnect()
+        onAnswered: isThere => grid.answer(null, isThere)
+        onChannelsChanged: window.gather()
+        onOpened: {
+            grid.begin();
+            if (window.firstChannel > 0)
+                grid.showChannel(Math.min(window.firstChannel, channels.length - 1));
+        }
+        onRenewed: grid.reconnect(null)
     }
+    LiveOrder {
+        id: order
+        deviceFactory: window.deviceFactory
+        onCountChanged: window.findWay()
+    }
+    ListModel {
+        id: companions
+
+        function places() {
+            return Array.from({length: count}, (_, place) => get(place).ipport);
+        }
+    }
+    // qmllint disable unqualified
+    Repeater {
+        id: added
+        model: companions
+
+        LiveCompanion {
+            id: companion
+            deviceFactory: window.deviceFactory
+            localConfig: window.localConfig
+            onAnswered: isThere => grid.answer(companion, isThere)
+            onChannelsChanged: window.gather()
+            onRenewed: grid.reconnect(companion)
+        }
+    }
+    // qmllint enable unqualified
     Snapshots {
         id: taking
         batches: window.batches
@@ -95,6 +212,9 @@ T.ApplicationWindow {
 
     Shortcut { sequence: "Esc"; onActivated: window.goBack() }
     Shortcut { sequence: "F11"; onActivated: window.toggleFullScreen() }
+    Shortcut { sequence: "PgUp"; onActivated: window.go(-1) }
+    Shortcut { sequence: "PgDown"; onActivated: window.go(1) }
+    Shortcut { sequence: "A"; enabled: toolBar.canAdd; onActivated: window.addTicked() }
     Shortcut { sequence: "M"; onActivated: grid.sounding = !grid.sounding }
     Shortcut { sequence: "I"; onActivated: grid.figuresShown = !grid.figuresShown }
 
@@ -104,10 +224,18 @@ T.ApplicationWindow {
         height: window.fullScreen ? 0 : implicitHeight
         address: device.ipport
         cursor: window.localConfig
+        hasEarlier: window.earlier !== null
+        hasLater: window.later !== null
         maximised: window.maximised
         name: device.name
+        place: {
+            const place = order.count > 1 && device.ipport !== "" ? order.placeOf(device.ipport) : -1;
+            return order.count <= 1 ? "" : (place < 0 ? "–" : place + 1) + " / " + order.count;
+        }
         visible: !window.fullScreen
         onCloseRequested: window.close()
+        onEarlierRequested: window.go(-1)
+        onLaterRequested: window.go(1)
         onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
     }
     LiveChannelList {
@@ -115,12 +243,13 @@ T.ApplicationWindow {
         y: titleBar.height
         width: visible ? Theme.liveListWidth : 0
         height: parent.height - y
-        channels: device.channels
+        channels: grid.channels
         currentChannel: grid.currentChannel
         shownChannels: grid.shownChannels
-        visible: !window.fullScreen && device.channels.length > 1
+        visible: !window.fullScreen && grid.channels.length > 1
         onEnlargeRequested: channel => grid.enlarge(channel)
         onPicked: channel => grid.showChannel(channel)
+        onRemovalRequested: ipport => window.remove(ipport)
     }
     LiveGrid {
         id: grid
@@ -129,7 +258,6 @@ T.ApplicationWindow {
         width: parent.width - x
         height: toolBar.y - y
         active: window.visible && device.loggedIn
-        channels: device.channels
         objectName: "liveGrid"
         visible: device.loggedIn && device.channels.length > 0
         onAsked: device.look()
@@ -142,10 +270,13 @@ T.ApplicationWindow {
         y: parent.height - height
         width: parent.width - x
         canSnap: device.loggedIn && device.channels.length > 0
+        full: companions.count >= window.mostCompanions
         fullScreen: window.fullScreen
         grid: grid
         otherBatch: window.batches.running && !taking.batch ? window.batches.current.title : ""
         snapping: taking.busy
+        ticked: order.ticked
+        onAdditionRequested: window.addTicked()
         onFullScreenRequested: window.toggleFullScreen()
         onSnapAllRequested: window.snapAll()
         onSnapRequested: window.snap(grid.currentChannel)
@@ -178,6 +309,13 @@ T.ApplicationWindow {
     }
 
     // qmllint disable unqualified
+    OVOnDemand {
+        id: toasts
+        visible: false
+        sourceComponent: OVToast {
+            objectName: "liveToasts"
+        }
+    }
     OVOnDemand {
         id: results
         visible: false

@@ -17,14 +17,20 @@ FocusScope {
     property bool sounding: false
     property bool figuresShown: false
     property bool compact: false          // a small picture beside something else: words only
+    property double session: 0            // handle of a session of its own, 0 for that of the configuration pages
+    property string sessionText           // why that is not there; empty when it is
+    property string sessionAction         // what the user can do about it; empty for nothing
+    property bool sessionBusy: false      // it is on its way
     readonly property bool wanted: active && connected && channel >= 0
     readonly property bool playing: video.hasPicture
     readonly property bool resting: retry.failures > 0 && !connecting && !playing  // until the next try
+    readonly property bool turning: connecting || sessionBusy
     readonly property alias video: video
     signal asked  // before a start: answer() is awaited, so that a device that is away is asked once for all views
     signal chosen
     signal enlargeRequested
     signal failed
+    signal sessionActivated
 
     property bool connecting: false
     property bool asking: false  // for the answer
@@ -122,6 +128,7 @@ FocusScope {
         fillMode: root.stretched ? VideoItem.Stretch : VideoItem.PreserveAspectFit
         isAudioOutput: root.sounding
         objectName: "liveVideo"
+        session: root.session
         streamKind: root.mainStream || root.subRefused ? VideoItem.Main : VideoItem.Sub
         onHasPictureChanged: {
             if (hasPicture) {
@@ -185,14 +192,14 @@ FocusScope {
             color: Theme.colours.barSub
             name: root.channel < 0 ? "video" : root.connected ? "error" : "noVideo"
             size: root.compact ? Theme.iconSize : Theme.clockSize
-            visible: !root.connecting
+            visible: !root.turning
         }
         OVSpinner {
             anchors.horizontalCenter: parent.horizontalCenter
             color: Theme.colours.barSub
-            running: root.connecting
+            running: root.turning
             size: root.compact ? Theme.iconSize : Theme.clockSize
-            visible: root.connecting
+            visible: root.turning
         }
         OVParagraph {
             width: parent.width
@@ -200,6 +207,7 @@ FocusScope {
             horizontalAlignment: Text.AlignHCenter
             objectName: "liveStateText"
             text: root.channel < 0 ? qsTr("没有通道")
+                : root.sessionText !== "" ? root.sessionText
                 : !root.connected ? qsTr("通道未连接")
                 : root.connecting ? qsTr("正在连接…")
                 : root.playing ? video.problemText
@@ -218,9 +226,9 @@ FocusScope {
         OVButton {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "liveRetryButton"
-            text: qsTr("立即重试")
-            visible: root.resting && root.wanted && !root.compact
-            onClicked: root.reconnect()
+            text: root.sessionAction !== "" ? root.sessionAction : qsTr("立即重试")
+            visible: root.sessionAction !== "" || (root.resting && root.wanted && !root.compact)
+            onClicked: root.sessionAction !== "" ? root.sessionActivated() : root.reconnect()
         }
     }
 

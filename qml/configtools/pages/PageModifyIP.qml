@@ -23,6 +23,7 @@ FocusScope {
 
     readonly property int ticked: devices.checkedCount
 
+    readonly property alias deviceTable: devices
     // qmllint disable unqualified
     readonly property var addingBatches: AddingBatchesApi
     readonly property var deviceFactory: CDeviceFactoryApi

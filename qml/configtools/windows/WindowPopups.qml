@@ -46,8 +46,10 @@ Item {
         restart.wanted().open();
     }
 
-    function openLive(ipport) {
-        live.wanted().open(ipport);
+    /// `table` is the list that the device is of, a DeviceTableModel; null for another list. The live window goes through
+    /// the ticked devices of it, or through its rows while none is ticked.
+    function openLive(ipport, table) {
+        live.wanted().open(ipport, -1, table, (table?.checkedCount ?? 0) > 0 ? table.checkedRows() : []);
     }
 
     function closeLive() {

@@ -1,0 +1,283 @@
+#include "device/batch/batches.h"
+#include "media/videoitem.h"
+#include "tests/device/rowsbackend.h"
+#include "tests/media/fakelibraries.h"
+#include "tests/qml/configtools/qmlscene.h"
+
+namespace {
+
+const char *const scene =
+    "    visible: false\n"
+    "    property alias devices: table\n"
+    "    DeviceTableModel { id: table; objectName: 'table'; deviceFactory: factory }\n"
+    "    LiveWindow {\n"
+    "        batches: allBatches; busyState: busy; deviceFactory: factory\n"
+    "        localConfig: ({cursorPos: () => Qt.point(0, 0), getSearchConfigUsrename: () => 'admin',\n"
+    "                       getSearchConfigPass: () => 'secret1'})\n"
+    "    }\n";
+
+QString ipportOf(int number)
+{
+    return QStringLiteral("192.168.1.%1:37777").arg(number);
+}
+
+} // namespace
+
+/// Devices whose logins a test decides. Handles are the numbers of the devices, that of the current session
+/// is 1000.
+class LiveBackEnd : public RowsBackEnd
+{
+    Q_OBJECT
+public:
+    class Session final : public OwnSession
+    {
+    public:
+        Session(int number, std::shared_ptr<QStringList> open) : m_number(number), m_open(std::move(open))
+        {
+            m_open->append(ipportOf(number));
+        }
+        ~Session() override { m_open->removeOne(ipportOf(m_number)); }
+        [[nodiscard]] qint64 handle() const override { return m_number; }
+        [[nodiscard]] int channelCount() const override { return 1; }
+
+    private:
+        const int m_number;
+        const std::shared_ptr<QStringList> m_open;
+    };
+
+    void openSession(const QString &ipport, const QString &, const QString &, bool, bool) override
+    {
+        current = ipport;
+        Q_EMIT signalCDeviceSessionOpened(ipport, 0, channelsOf(numberOf(ipport)));
+    }
+    QVariant getConfigData(const QString &key, const QVariant &) override
+    {
+        return key == QLatin1String("loginHandle") ? QVariant(1000) : QVariant(current);
+    }
+    QVariantMap getDeviceInfo(const QString &ipport) override
+    {
+        return {{"name", QStringLiteral("D%1").arg(numberOf(ipport))},
+                {"mac", QString::fromStdString(numberedMac(numberOf(ipport)).c_str())},
+                {"ipport", ipport}};
+    }
+    OwnSessionStep ownSessionStep(const OwnSessionOrder &order) override
+    {
+        const int number = numberOf(order.ipport);
+        return [this, number](const StepControl &) {
+            asked.append(ipportOf(number));
+            OwnSessionOffer offer = {.result = results.value(number), .channels = channelsOf(number)};
+            if (offer.result == 0)
+                offer.session = std::make_shared<Session>(number, open);
+            return offer;
+        };
+    }
+
+    QString current;          ///< address of the current session's device
+    QHash<int, int> results;  ///< of logins in sessions of their own, by number; 0 for others
+    QHash<int, int> channels; ///< how many, by number; 1 for others
+    QStringList asked;        ///< for sessions of their own
+    std::shared_ptr<QStringList> open = std::make_shared<QStringList>(); ///< these sessions
+
+private:
+    static int numberOf(const QString &ipport) { return ipport.section(u':', 0, 0).section(u'.', 3).toInt(); }
+    [[nodiscard]] QVariantList channelsOf(int number) const
+    {
+        QVariantList list;
+        for (int channel = 0; channel < channels.value(number, 1); ++channel)
+            list.append(QVariantMap{
+                {"channel", channel}, {"name", QStringLiteral("C%1").arg(channel)}, {"connected", true}});
+        return list;
+    }
+};
+
+/// The live window with the list that it was opened from: to the next device, and several devices at once.
+class TestLiveWindow : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<FakeLibraries> m_fake;
+    std::shared_ptr<LiveBackEnd> m_devices;
+    std::unique_ptr<BatchEngine> m_batchEngine;
+    std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_scene;
+    QQuickWindow *m_window = nullptr;
+    QObject *m_table = nullptr;
+    QStringList m_streams;
+
+    [[nodiscard]] QQuickItem *find(const QString &name) const
+    {
+        return findBelow(m_window->contentItem(), name, Sight::Visible);
+    }
+    [[nodiscard]] QString text(const QString &name) const
+    {
+        const QQuickItem *item = find(name);
+        return item ? item->property("text").toString() : QString();
+    }
+    [[nodiscard]] QString textIn(int place, const QString &name) const
+    {
+        QQuickItem *player = find(QStringLiteral("livePlace%1").arg(place));
+        const QQuickItem *item = player ? findBelow(player, name, Sight::Visible) : nullptr;
+        return item ? item->property("text").toString() : QString();
+    }
+    void click(const QString &name) const
+    {
+        QQuickItem *item = find(name);
+        QVERIFY2(item, qPrintable(name));
+        QTRY_VERIFY(item->width() > 0);
+        const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, middle.toPoint());
+    }
+    void tick(const QList<int> &rows) const
+    {
+        for (const int row : rows)
+            QVERIFY(QMetaObject::invokeMethod(m_table, "setChecked", Q_ARG(int, row), Q_ARG(bool, true)));
+    }
+    void openLive(int number, const QVariantList &chosen = {}) const
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_window, "open", Q_ARG(QVariant, ipportOf(number)),
+                                          Q_ARG(QVariant, 0), Q_ARG(QVariant, QVariant::fromValue(m_table)),
+                                          Q_ARG(QVariant, chosen)));
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+        QTRY_VERIFY(find("livePlace0"));
+    }
+    /// "login of channel" of the streams that were asked for, in the order of these words: several threads
+    /// ask.
+    QStringList startedStreams()
+    {
+        for (const QString &call : m_fake->calls.take()) {
+            if (call.startsWith("NetStartRealStream("))
+                m_streams.append(call.section('(', 1).section(", ", 0, 1).replace(", ", " of "));
+        }
+        m_streams.sort();
+        return m_streams;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_streams.clear();
+        m_fake = std::make_unique<FakeLibraries>();
+        VideoItem::registerLibraries(m_fake->libraries());
+        m_devices = std::make_shared<LiveBackEnd>();
+        for (int number = 20; number < 25; ++number)
+            m_devices->add({.address = QStringLiteral("192.168.1.%1").arg(number).toStdString(),
+                            .mac = numberedMac(number),
+                            .name = QStringLiteral("D%1").arg(number).toStdString(),
+                            .state = number == 22 ? sdk::InitialisationBits::Uninitialised
+                                                  : sdk::InitialisationBits::Initialised});
+        CDeviceFactory::registerBackEnd("dh", [this] { return m_devices; });
+        CDeviceFactory *factory = CDeviceFactory::getinstance();
+        m_batchEngine = std::make_unique<BatchEngine>(nullptr);
+        m_batches = std::make_unique<Batches>(*factory, *m_batchEngine, [] { return 2; });
+        m_engine = std::make_unique<QQmlEngine>();
+        m_scene = openScene(
+            *m_engine, scene,
+            {{"factory", factory}, {"allBatches", m_batches.get()}, {"busy", factory->busyState()}});
+        QVERIFY(m_scene);
+        m_window = m_scene->findChild<QQuickWindow *>("liveWindow");
+        m_table = m_scene->findChild<QObject *>("table");
+        QVERIFY(m_window && m_table);
+        QVERIFY(QMetaObject::invokeMethod(m_table, "refresh"));
+    }
+    void cleanup()
+    {
+        delete m_window; // the scene does not own it
+        m_scene.reset();
+        m_engine.reset();
+        m_batches.reset();
+        m_batchEngine.reset();
+        CDeviceFactory::deleteInstance();
+        m_devices.reset();
+        VideoItem::registerLibraries({});
+        m_fake.reset();
+    }
+
+    void theListIsGoneThrough()
+    {
+        openLive(21);
+        QCOMPARE(text("liveDevicePlace"), "2 / 5");
+        QTest::keyClick(m_window, Qt::Key_PageDown); // over the one that waits for its first password
+        QCOMPARE(text("liveAddress"), ipportOf(23));
+        QCOMPARE(text("liveDevicePlace"), "4 / 5");
+        click("liveLaterButton");
+        QCOMPARE(text("liveTitle"), "D24");
+        QVERIFY(!find("liveLaterButton")->isEnabled());
+        QTest::keyClick(m_window, Qt::Key_PageDown); // there is none
+        QCOMPARE(text("liveTitle"), "D24");
+        click("liveEarlierButton");
+        QTest::keyClick(m_window, Qt::Key_PageUp);
+        QTest::keyClick(m_window, Qt::Key_PageUp);
+        QCOMPARE(text("liveAddress"), ipportOf(20));
+        QVERIFY(!find("liveEarlierButton")->isEnabled() && find("liveLaterButton")->isEnabled());
+        QCOMPARE(m_devices->current, ipportOf(20)); // it is logged in to
+    }
+
+    void chosenDevicesAreGoneThrough()
+    {
+        openLive(20, {QVariantMap{{"ipport", ipportOf(20)}}, QVariantMap{{"ipport", ipportOf(24)}}});
+        QCOMPARE(text("liveDevicePlace"), "1 / 2");
+        QTest::keyClick(m_window, Qt::Key_PageDown);
+        QCOMPARE(text("liveAddress"), ipportOf(24));
+        QVERIFY(!find("liveLaterButton")->isEnabled());
+    }
+
+    void devicesAreAddedToTheGrid()
+    {
+        m_devices->channels = {{21, 2}};
+        m_devices->results = {{23, 2}}; // a wrong password
+        openLive(20);
+        QCOMPARE(textIn(0, "liveChannelName"), "C0");
+        QVERIFY(!find("liveAddButton")->isEnabled());
+        tick({1, 2, 3});
+        QTRY_COMPARE(startedStreams(), QStringList("1000 of 0"));
+        click("liveAddButton");
+        QTRY_COMPARE(m_devices->asked, (QStringList{ipportOf(21), ipportOf(23)}));
+        // The first channels of the devices, each in its own session. The small picture has the other stream.
+        QTRY_COMPARE(startedStreams(), (QStringList{"1000 of 0", "1000 of 0", "21 of 0"}));
+        QCOMPARE(textIn(0, "liveChannelName"), "D20 · C0");
+        QCOMPARE(textIn(1, "liveChannelName"), "D21 · C0");
+        QCOMPARE(textIn(2, "liveStateText"), QStringLiteral("密码错误"));
+        QCOMPARE(textIn(2, "liveRetryButton"), QStringLiteral("重新登录"));
+        QVERIFY(!textIn(3, "liveStateText").isEmpty());
+        QCOMPARE(text("liveHeading1"), "D21");
+        QVERIFY(!find("liveRemove0") && find("liveRemove1"));
+
+        click("liveChannel2"); // the second one of D21, in the place of D20
+        QTRY_COMPARE(startedStreams(), (QStringList{"1000 of 0", "1000 of 0", "21 of 0", "21 of 1"}));
+        QCOMPARE(*m_devices->open, QStringList(ipportOf(21)));
+        QCOMPARE(m_devices->asked.size(), 2); // a refused password is not sent again
+        click("liveAddButton");               // all of them are there
+        QCOMPARE(m_devices->asked.size(), 2);
+
+        click("liveRemove1");
+        QVERIFY(m_devices->open->isEmpty());
+        QCOMPARE(find("livePlace0")->property("channel").toInt(), -1);
+        QCOMPARE(textIn(2, "liveChannelName"), "D23");
+    }
+
+    void sessionsEndWhenTheyAreNotNeeded_data()
+    {
+        QTest::addColumn<bool>("isClosed");
+        QTest::newRow("window closed") << true;
+        QTest::newRow("another device") << false;
+    }
+    void sessionsEndWhenTheyAreNotNeeded()
+    {
+        QFETCH(bool, isClosed);
+        openLive(20);
+        tick({1, 3});
+        QTest::keyClick(m_window, Qt::Key_A);
+        QTRY_COMPARE(m_devices->open->size(), 2);
+        if (isClosed)
+            m_window->close();
+        else
+            QTest::keyClick(m_window, Qt::Key_PageDown);
+        QTRY_VERIFY(m_devices->open->isEmpty());
+        if (!isClosed)
+            QCOMPARE(textIn(0, "liveChannelName"), "C0"); // of the one device
+    }
+};
+
+QTEST_MAIN(TestLiveWindow)
+#include "tst_livewindow.moc"
