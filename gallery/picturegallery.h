@@ -1,0 +1,174 @@
+// The pictures of many devices for the scene.
+#pragma once
+
+#include "device/batch/batch.h"
+
+#include <QAbstractListModel>
+#include <QDateTime>
+#include <QList>
+#include <QPointer>
+#include <QThreadPool>
+#include <QVariantMap>
+
+#include <functional>
+#include <memory>
+
+class Batches;
+class CDeviceFactory;
+class QTemporaryDir;
+
+/// A cell for each channel of some devices, with its picture. The pictures are fetched by batches, so many
+/// devices at a time as the settings say, and wait in files of a temporary folder: no picture is in memory
+/// here. A device has one cell until it has said which channels it has.
+///
+/// Lives on the scene's thread.
+class PictureGallery : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("device/batch/batches.h")
+    Q_MOC_INCLUDE("device/devicefactory.h")
+    Q_PROPERTY(
+        CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    Q_PROPERTY(Batches *batches READ batches WRITE setBatches NOTIFY batchesChanged)
+    /// The one that fetches pictures now; null when there is none.
+    Q_PROPERTY(Batch *batch READ batch NOTIFY batchChanged)
+    Q_PROPERTY(int count READ rowCount NOTIFY countsChanged)
+    Q_PROPERTY(int deviceCount READ deviceCount NOTIFY countsChanged)
+    Q_PROPERTY(int leftOut READ leftOut NOTIFY countsChanged)
+    Q_PROPERTY(int pictures READ pictures NOTIFY countsChanged)
+    Q_PROPERTY(int failures READ failures NOTIFY countsChanged)
+    Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
+public:
+    /// Devices of a gallery; further ones are left out.
+    static constexpr int maximumDevices = 500;
+
+    enum State
+    {
+        Waiting,
+        Fetching,
+        Taken,
+        Failed,
+    };
+    Q_ENUM(State)
+
+    enum Role
+    {
+        IpportRole = Qt::UserRole,
+        DeviceRole,  ///< its name, else its model, else its address
+        ChannelRole, ///< from 0
+        NameRole,    ///< of the channel; empty while the device has only one
+        StateRole,
+        PictureRole, ///< address of the file, also of an older picture; empty when there is none
+        MessageRole, ///< why there is no picture, in the user's language
+        TimeRole,    ///< of the picture
+        NoteRole,    ///< what is left out of the device, in the user's language
+    };
+
+    explicit PictureGallery(QObject *parent = nullptr);
+
+    /// Gives up what is being fetched, and waits for files that are being written.
+    ~PictureGallery() override;
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+    [[nodiscard]] Batches *batches() const;
+    void setBatches(Batches *batches);
+    [[nodiscard]] Batch *batch() const { return m_batch; }
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] int deviceCount() const { return m_deviceCount; }
+    [[nodiscard]] int leftOut() const { return m_leftOut; }   ///< devices beyond maximumDevices
+    [[nodiscard]] int pictures() const { return m_pictures; } ///< cells that have one
+    [[nodiscard]] int failures() const { return m_failures; } ///< cells
+    [[nodiscard]] bool isSaving() const { return m_isSaving; }
+
+    /// Shows the devices of these rows of the list, and fetches their pictures. What was shown before is
+    /// dropped. Returns false when the batch is refused: the cells wait then.
+    Q_INVOKABLE bool show(const QVariantList &rows);
+
+    /// Fetches all pictures again. Returns false when the batch is refused.
+    Q_INVOKABLE bool fetchAll();
+
+    /// Fetches the picture of a cell again.
+    Q_INVOKABLE bool fetch(int row);
+
+    /// Ends the fetching: cells that still wait have failed.
+    Q_INVOKABLE void stop();
+
+    /// Drops the devices and their pictures.
+    Q_INVOKABLE void clear();
+
+    /// Writes the pictures as snapshots, "snap/<device>/<channel>.jpg" below the current folder, on a thread
+    /// of its own. saved() follows.
+    Q_INVOKABLE void saveAll();
+
+    /// The values of a cell by the names of the roles; empty when there is none.
+    Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
+
+    /// The devices in their order, as maps of "ipport" and "name".
+    Q_INVOKABLE [[nodiscard]] QVariantList devices() const;
+
+Q_SIGNALS:
+    void deviceFactoryChanged();
+    void batchesChanged();
+    void batchChanged();
+    void countsChanged();
+    void savingChanged();
+
+    /// So many files are in `folder`; `reason` tells in the words of the system why others are not.
+    void saved(int files, int failures, const QString &folder, const QString &reason);
+
+private:
+    class Mailbox;
+
+    struct Cell
+    {
+        QString identity; ///< of the device
+        QString ipport;
+        QString device;
+        int channel = 0;
+        QString name = {};
+        State state = Waiting;
+        QString file = {};
+        QString message = {};
+        QDateTime time = {};
+        QString note = {};
+    };
+
+    /// The cells of one device.
+    struct Range
+    {
+        int first = 0;
+        int count = 0;
+    };
+
+    bool start(const QStringList &identities, int onlyChannel);
+    [[nodiscard]] DeviceStep stepOf(const BatchDevice &device, int onlyChannel, const QString &folder) const;
+    void end();
+    [[nodiscard]] Range cellsOf(const QString &identity) const;
+    void noteBegun(const QString &identity);
+    void setChannels(const QString &identity, const QVariantList &channels, int channelCount);
+    void take(const QString &identity, int channel, const QString &file, const QString &message);
+    /// The device is done: cells without a picture have failed for this reason.
+    void finish(const QString &identity, const StepOutcome &outcome);
+    void setFetching(const Range &cells);
+    void noteChanged(int first, int last);
+    void count();
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<Batches> m_batches;              ///< not owned
+    QPointer<Batch> m_batch;                  ///< not owned
+    const std::shared_ptr<Mailbox> m_mailbox;
+    std::shared_ptr<QTemporaryDir> m_folder; ///< steps keep it until they have ended
+    QList<Cell> m_cells;
+    QThreadPool m_files; ///< one thread, which writes the snapshots
+    int m_round = 0;     ///< of fetching
+    int m_deviceCount = 0;
+    int m_leftOut = 0;
+    int m_pictures = 0;
+    int m_failures = 0;
+    bool m_isSaving = false;
+};
