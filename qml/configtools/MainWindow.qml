@@ -241,6 +241,7 @@ T.ApplicationWindow {
             else if (window.currentTab === 4)
                 cgiConfigPage.item?.focusSearch();
         }
+        onGalleryRequested: if (window.currentTab === 0) modifyIpPage.openGallery()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
         onSettingsRequested: popups.openSearchSettings(searchSettings.read())
@@ -302,6 +303,7 @@ T.ApplicationWindow {
                 search: window.deviceSearch
                 searchReports: window.searchReports
                 onDemoRequested: window.requestDemo()
+                onGalleryRequested: rows => popups.openGallery(rows, modifyIpPage.deviceTable)
                 onLiveRequested: ipport => popups.openLive(ipport, modifyIpPage.deviceTable)
                 onReportRequested: popups.openSearchReport()
                 onSaid: (message, kind) => popups.say(message, kind)

@@ -117,6 +117,8 @@ QtObject {
     readonly property int liveToolBarWidth: 680  // with all of its words
     readonly property int snapshotWidth: 216
     readonly property int snapshotsHeight: 400
+    readonly property int galleryCellWidth: 230  // at least
+    readonly property int galleryTextHeight: 64  // below and around the picture of a cell
 
     // Widths of table columns, by what they show.
     readonly property int columnNumber: 56

@@ -32,6 +32,7 @@
 #include "device/treerows.h"
 #include "device/upgradetools.h"
 #include "favourites/favouritelistmodel.h"
+#include "gallery/picturegallery.h"
 
 #include <QtQml/qqml.h>
 
@@ -163,6 +164,13 @@ struct LiveSessionForeign
     Q_GADGET
     QML_FOREIGN(LiveSession)
     QML_NAMED_ELEMENT(LiveSession)
+};
+
+struct PictureGalleryForeign
+{
+    Q_GADGET
+    QML_FOREIGN(PictureGallery)
+    QML_NAMED_ELEMENT(PictureGallery)
 };
 
 struct FailedMarksForeign

@@ -24,6 +24,7 @@ RowLayout {
     signal importRequested
     signal exportRequested
     signal deleteRequested
+    signal galleryRequested
     signal addIpRequested
     signal addP2pRequested
     signal addFavouriteRequested
@@ -110,6 +111,12 @@ RowLayout {
             toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能删除", "", root.upgradingCount)
                 : qsTr("把勾选的设备从列表中删除")
             onClicked: root.deleteRequested()
+        }
+        OVIconButton {
+            iconName: "snapshots"
+            objectName: "galleryButton"
+            toolTip: qsTr("查看勾选设备的图像（Ctrl+G）")
+            onClicked: root.galleryRequested()
         }
     }
 

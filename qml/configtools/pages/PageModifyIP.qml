@@ -18,12 +18,13 @@ FocusScope {
     signal settingsRequested
     signal demoRequested
     signal liveRequested(string ipport)
+    signal galleryRequested(var rows)
     signal said(string message, int kind)
     signal settled  // the selection has changed: a refusal may no longer hold
 
     readonly property int ticked: devices.checkedCount
-
     readonly property alias deviceTable: devices
+
     // qmllint disable unqualified
     readonly property var addingBatches: AddingBatchesApi
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -33,6 +34,13 @@ FocusScope {
 
     function focusSearch() {
         toolBar.focusSearch();
+    }
+
+    function openGallery() {
+        if (devices.checkedCount === 0)
+            said(qsTr("请选择一台设备"), OVToast.Refusal);
+        else if (batches.mayStart())
+            galleryRequested(devices.checkedRows());
     }
 
     function focusTable() {
@@ -131,7 +139,12 @@ FocusScope {
         actions: deviceActions
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
-        onOwnChosen: (key, values) => changes.modifyRow(devices.rowOf(values.identity))
+        onOwnChosen: (key, values) => {
+            if (key === "gallery")
+                page.openGallery();
+            else
+                changes.modifyRow(devices.rowOf(values.identity));
+        }
         tickedDevices: () => devices.checkedMacs()
         onSimilarRequested: (key, values) => devices.checkSimilar(devices.rowOf(values.identity), key)
     }
@@ -163,6 +176,7 @@ FocusScope {
         onAddP2pRequested: adding.openP2p()
         onDeleteRequested: removal.removeChecked()
         onExportRequested: files.startExport()
+        onGalleryRequested: page.openGallery()
         onImportRequested: files.startImport()
         onInitialiseRequested: changes.initialise()
         onInitialisedToggled: shown => devices.showInitialised = shown
@@ -211,6 +225,8 @@ FocusScope {
             menu.offer(place, values, [{
                 key: "edit", text: qsTr("修改IP地址"),
                 enabled: !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
+            }, {
+                key: "gallery", text: qsTr("查看勾选设备的图像"), enabled: devices.checkedCount > 0
             }]);
         }
         onNoteRequested: row => deviceActions.editNote(devices.get(row))

@@ -52,8 +52,16 @@ Item {
         live.wanted().open(ipport, -1, table, (table?.checkedCount ?? 0) > 0 ? table.checkedRows() : []);
     }
 
+    /// The pictures of these rows of `table`.
+    function openGallery(rows, table) {
+        const window = gallery.wanted();
+        window.table = table;
+        window.open(rows);
+    }
+
     function closeLive() {
         live.item?.close();
+        gallery.item?.close();
     }
 
     /// A message that is to be confirmed.
@@ -198,6 +206,18 @@ Item {
             deviceFactory: root.deviceFactory
             localConfig: root.localConfig
             onSaid: (message, kind) => root.say(message, kind)
+        }
+    }
+    OVOnDemand {
+        id: gallery
+        visible: false
+        sourceComponent: GalleryWindow {
+            id: pictures
+            property DeviceTableModel table: null
+            batches: root.batches
+            deviceFactory: root.deviceFactory
+            localConfig: root.localConfig
+            onLiveRequested: (ipport, channel) => live.wanted().open(ipport, channel, table, pictures.gallery.devices())
         }
     }
     OVOnDemand {

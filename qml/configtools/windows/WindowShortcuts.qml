@@ -11,6 +11,7 @@ Item {
     signal helpRequested
     signal settingsRequested
     signal findRequested
+    signal galleryRequested
     signal tabRequested(int index)
 
     function turn(steps) {
@@ -21,6 +22,7 @@ Item {
     Shortcut { sequence: "F1"; onActivated: root.helpRequested() }
     Shortcut { sequence: "Ctrl+,"; onActivated: root.settingsRequested() }
     Shortcut { sequence: "Ctrl+F"; onActivated: root.findRequested() }
+    Shortcut { sequence: "Ctrl+G"; onActivated: root.galleryRequested() }
     Shortcut { sequence: "Ctrl+Tab"; onActivated: root.turn(1) }
     Shortcut { sequence: "Ctrl+Shift+Tab"; onActivated: root.turn(-1) }
 

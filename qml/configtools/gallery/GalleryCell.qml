@@ -1,0 +1,181 @@
+// The picture of one channel of the gallery with what it is of, or what stands in its way.
+import QtQuick
+import configtools
+
+Item {
+    id: root
+
+    required property int index
+    required property string ipport
+    required property string device
+    required property string name
+    required property int stage
+    required property string picture
+    required property string message
+    required property string takenAt
+    required property string note
+    property bool current: false
+    property bool canFetch: true
+    readonly property bool busy: stage === PictureGallery.Fetching
+    readonly property string title: name === "" ? device : name.startsWith(device) ? name : device + " · " + name
+    signal chosen
+    signal opened
+    signal againRequested
+
+    objectName: "galleryCell" + index
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: [title, ipport, state.text].join(", ")
+    Accessible.onPressAction: opened()
+
+    Rectangle {  // what is current is seen from afar
+        anchors.fill: parent
+        color: root.current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.hover : Theme.colours.clear
+        radius: Theme.paneRadius
+
+        OVFocusRing { shown: root.current && root.GridView.view.activeFocus }
+    }
+    HoverHandler {
+        id: pointer
+    }
+    MouseArea {
+        anchors.fill: parent
+        cursorShape: Qt.PointingHandCursor
+        onClicked: {
+            root.chosen();
+            root.opened();
+        }
+    }
+    Rectangle {
+        id: frame
+        x: Theme.unit
+        y: Theme.unit
+        width: parent.width - 2 * x
+        height: Math.round(width * 9 / 16)
+        color: Theme.colours.videoGround
+        clip: true
+        radius: Theme.smallRadius
+
+        // Decoded on a thread of the toolkit, no larger than it is shown, and let go with the cell.
+        Image {
+            anchors.fill: parent
+            asynchronous: true
+            cache: false
+            fillMode: Image.PreserveAspectFit
+            objectName: "galleryPicture"
+            opacity: root.stage === PictureGallery.Taken ? 1 : 0.3
+            source: root.picture
+            sourceSize: Qt.size(Math.round(width * Screen.devicePixelRatio), 0)
+            visible: root.picture !== ""
+
+            Accessible.ignored: true
+        }
+        Column {
+            anchors.centerIn: parent
+            width: parent.width - 2 * Theme.unit
+            spacing: Theme.unit
+            visible: root.stage !== PictureGallery.Taken
+
+            OVSpinner {
+                anchors.horizontalCenter: parent.horizontalCenter
+                color: Theme.colours.barSub
+                running: root.busy
+                visible: root.busy
+            }
+            OVIcon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                color: Theme.colours.barSub
+                name: root.stage === PictureGallery.Failed ? "noVideo" : "video"
+                visible: !root.busy
+            }
+            OVParagraph {
+                width: parent.width
+                color: Theme.colours.barSub
+                elide: Text.ElideRight
+                font: Theme.hintFont
+                horizontalAlignment: Text.AlignHCenter
+                maximumLineCount: 3
+                objectName: "galleryMessage"
+                text: root.busy ? qsTr("正在获取…")
+                    : root.stage === PictureGallery.Failed ? root.message : qsTr("等待中")
+            }
+        }
+    }
+    Rectangle {
+        x: frame.x + Theme.half
+        y: frame.y + Theme.half
+        width: Math.min(noteLabel.implicitWidth + 2 * Theme.unit, frame.width - Theme.unit)
+        height: Theme.unit * 3
+        color: Theme.colours.videoVeil
+        radius: Theme.smallRadius
+        visible: root.note !== ""
+
+        OVLabel {
+            id: noteLabel
+            x: Theme.unit
+            width: parent.width - 2 * x
+            height: parent.height
+            color: Theme.colours.barInk
+            font: Theme.hintFont
+            objectName: "galleryNote"
+            text: root.note
+        }
+    }
+    OVLabel {
+        id: titleLabel
+        x: Theme.unit
+        y: frame.y + frame.height + Theme.half
+        width: parent.width - x - (again.visible ? again.width + Theme.half : Theme.unit)
+        height: Theme.unit * 3
+        objectName: "galleryTitle"
+        text: root.title
+    }
+    OVIconButton {
+        id: again
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.half
+        y: titleLabel.y - Theme.half
+        activeFocusOnTab: false
+        enabled: root.canFetch
+        iconName: "history"
+        iconSize: Theme.smallIconSize
+        objectName: "galleryAgain" + root.index
+        toolTip: qsTr("重新获取（R）")
+        visible: root.stage === PictureGallery.Taken || root.stage === PictureGallery.Failed
+        onClicked: {
+            root.chosen();
+            root.againRequested();
+        }
+    }
+    OVLabel {
+        x: Theme.unit
+        y: titleLabel.y + titleLabel.height
+        width: state.x - x - Theme.unit
+        height: Theme.unit * 2 + Theme.half
+        color: Theme.colours.sub
+        font: Theme.smallFigureFont
+        objectName: "galleryAddress"
+        text: root.ipport
+    }
+    OVIcon {
+        x: state.x - width - Theme.half
+        anchors.verticalCenter: state.verticalCenter
+        color: root.stage === PictureGallery.Failed ? Theme.colours.bad : Theme.colours.ok
+        name: root.stage === PictureGallery.Failed ? "error" : "ok"
+        size: Theme.smallIconSize
+        visible: root.stage === PictureGallery.Taken || root.stage === PictureGallery.Failed
+    }
+    OVLabel {
+        id: state
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.unit
+        y: titleLabel.y + titleLabel.height
+        height: Theme.unit * 2 + Theme.half
+        color: root.stage === PictureGallery.Failed ? Theme.colours.bad : Theme.colours.sub
+        font: Theme.hintFont
+        objectName: "galleryState"
+        text: root.stage === PictureGallery.Taken ? root.takenAt
+            : root.stage === PictureGallery.Failed ? qsTr("失败")
+            : root.busy ? qsTr("获取中") : qsTr("等待中")
+    }
+}
