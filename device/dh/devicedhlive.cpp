@@ -165,20 +165,22 @@ StepOutcome CDeviceDH::takePictures(const PictureOrder &order, const SecureLogin
             order.found(found, count);
     }
 
-    const SnapTask task = {.kind = {},
-                           .folder = order.folder,
-                           .isDeviceCurrent = [] { return true; },
-                           .sessionHandle = [handle = login.handle] { return handle; },
-                           .channels = {},
-                           .ownSession = login.handle,
-                           // Many devices at a time are slow, but a step has to come to all of its channels.
-                           .tries = channels.size() == 1 ? 2 * snapTries : snapTries};
+    // Many devices at a time are slow, but a step has to come to all of its channels.
+    SnapTask task = {.kind = {},
+                     .folder = order.folder,
+                     .isDeviceCurrent = [] { return true; },
+                     .sessionHandle = [handle = login.handle] { return handle; },
+                     .channels = {},
+                     .ownSession = login.handle,
+                     .tries = 4 * snapTries};
     StepOutcome failure = {.result = resultCode(LoginResult::NotDone), .text = {}};
     int failures = 0;
     for (const SnapChannel &channel : std::as_const(channels)) {
         if (control.shouldEnd())
             return {.result = resultCode(LoginResult::NotDone), .text = {}};
         const SnapOutcome outcome = snapshotOnThread(task, channel, control.stopToken());
+        if (outcome.problem == SnapProblem::NoPicture)
+            task.tries = snapTries;
         if (outcome.problem != SnapProblem::None && ++failures == 1)
             failure = {.result = snapResult(outcome.problem), .text = missingPictureText(outcome)};
         if (order.taken && !(outcome.problem == SnapProblem::NoPicture && control.shouldEnd()))
