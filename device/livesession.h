@@ -22,7 +22,7 @@ class LiveSession : public QObject
     Q_MOC_INCLUDE("device/devicefactory.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
-    Q_PROPERTY(qint64 handle READ handle NOTIFY handleChanged)
+    Q_PROPERTY(double handle READ handleNumber NOTIFY handleChanged)
 public:
     explicit LiveSession(QObject *parent = nullptr) : QObject(parent) {}
     ~LiveSession() override;
@@ -32,6 +32,8 @@ public:
 
     /// Of the login, 0 while there is none.
     [[nodiscard]] qint64 handle() const { return m_session ? m_session->handle() : 0; }
+    /// The same for the scene, whose whole numbers go up to 2^53.
+    [[nodiscard]] double handleNumber() const { return static_cast<double>(handle()); }
 
     /// Sees to it that there is a session with the device: the present one goes on where the device answers
     /// in it. ended() follows, unless another order comes first.

@@ -45,7 +45,7 @@ class VideoItem : public QQuickFramebufferObject, public VideoDataObserver
     Q_PROPERTY(int zoomLevel READ zoomLevel NOTIFY zoomLevelChanged)
     Q_PROPERTY(bool isStreaming READ isStreaming NOTIFY isStreamingChanged)
     Q_PROPERTY(QString problemText READ problemText NOTIFY problemTextChanged)
-    Q_PROPERTY(qint64 session READ session WRITE setSession NOTIFY sessionChanged)
+    Q_PROPERTY(double session READ sessionNumber WRITE setSessionNumber NOTIFY sessionChanged)
 public:
     enum FillModeType
     {
@@ -83,6 +83,9 @@ public:
     /// Handle of the session that the next start() uses, 0 for the current one of the back end.
     [[nodiscard]] qint64 session() const { return m_session; }
     void setSession(qint64 session);
+    /// The same for the scene, whose whole numbers go up to 2^53.
+    [[nodiscard]] double sessionNumber() const { return static_cast<double>(m_session); }
+    void setSessionNumber(double session) { setSession(static_cast<qint64>(session)); }
     /// Free for the scene.
     [[nodiscard]] QString url() const { return m_url; }
     void setUrl(const QString &url);

@@ -25,7 +25,7 @@ Item {
     objectName: "galleryCell" + index
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: [title, ipport, state.text].join(", ")
+    Accessible.name: title + ", " + ipport + ", " + state.text
     Accessible.onPressAction: opened()
 
     Rectangle {  // what is current is seen from afar
@@ -65,7 +65,7 @@ Item {
             objectName: "galleryPicture"
             opacity: root.stage === PictureGallery.Taken ? 1 : 0.3
             source: root.picture
-            sourceSize: Qt.size(Math.round(width * Screen.devicePixelRatio), 0)
+            sourceSize.width: Math.round(width * Screen.devicePixelRatio)
             visible: root.picture !== ""
 
             Accessible.ignored: true

@@ -28,7 +28,7 @@ T.ApplicationWindow {
     }
 
     function watch(row) {
-        const values = gallery.get(row);
+        const values = Object.assign({}, gallery.get(row));
         if (values.ipport !== undefined)
             liveRequested(values.ipport, values.channel);
     }
@@ -146,8 +146,8 @@ T.ApplicationWindow {
 
         // qmllint disable unqualified
         delegate: GalleryCell {
-            width: GridView.view.cellWidth
-            height: GridView.view.cellHeight
+            width: grid.cellWidth
+            height: grid.cellHeight
             canFetch: bar.canFetch
             current: GridView.isCurrentItem
             onAgainRequested: window.fetch(index)
