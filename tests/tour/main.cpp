@@ -79,7 +79,7 @@ void forgetEarlierRuns(const QString &stage, const QString &language)
     localConfig.setColourScheme(u"light"_s); // whatever the desktop
     if (stage == QLatin1String("fleet"))
         localConfig.setSearchConfigPass(u"Installer-2024"_s);
-    if (stage == QLatin1String("looks"))
+    if (stage == QLatin1String("looks") || stage == QLatin1String("gallery"))
         localConfig.setSearchConfigPass(u"Office-2024"_s);
 }
 
@@ -112,6 +112,7 @@ int watch(const QString &language, const QString &folder)
         !runStage(u"columns"_s, language, folder + u"/columns"_s) ||
         !runStage(u"restored"_s, language, folder + u"/restored"_s) ||
         !runStage(u"restoredagain"_s, language, folder + u"/restoredagain"_s) ||
+        !runStage(u"gallery"_s, language, folder + u"/gallery"_s) ||
         !runStage(u"program"_s, language, folder)) {
         QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
         return EXIT_FAILURE;
@@ -210,6 +211,15 @@ void driveColumns(Driver &driver, const QByteArray &stage)
     driver.click(u"closeButton"_s);
 }
 
+/// A user who looks at what the cameras show.
+void driveGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
+{
+    walkFirstSearch(driver);
+    walkGallery(driver, site, folder + u"/pictures"_s);
+    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.click(u"closeButton"_s);
+}
+
 void driveLab(Driver &driver)
 {
     walkLab(driver);
@@ -270,6 +280,8 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
             driveAccounts(driver, site);
         else if (isColumns)
             driveColumns(driver, qgetenv(stageVariable));
+        else if (qgetenv(stageVariable) == "gallery")
+            driveGallery(driver, site, folder);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else

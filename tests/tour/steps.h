@@ -42,6 +42,9 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site);
 /// `folder`, and changed addresses are put back.
 void walkBatches(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// The main job on devices of a site on real sockets (scripts/lab).
+/// Needs the search settings' account to be that of the site's devices.
+void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+
 void walkLab(Driver &driver);
 /// On the same devices: work on several of them at the same time.
 void walkLabBatches(Driver &driver);
