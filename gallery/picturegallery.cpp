@@ -31,7 +31,7 @@ QString snapshotFolder(const QString &ipport)
 QString deviceTitle(const QVariantMap &row)
 {
     for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::model}) {
-        const QString text = row.value(key).toString().trimmed();
+        QString text = row.value(key).toString().trimmed();
         if (!text.isEmpty())
             return text;
     }

@@ -101,11 +101,11 @@ private Q_SLOTS:
         QTRY_COMPARE(textIn(1, "galleryMessage"), QStringLiteral("密码错误"));
         QCOMPARE(textIn(1, "galleryState"), QStringLiteral("失败"));
         QVERIFY(!inCell(1, "galleryPicture"));
-        QVERIFY(inCell(0, "galleryPicture") && !inCell(0, "galleryMessage"));
+        QTRY_VERIFY(inCell(0, "galleryPicture") && !inCell(0, "galleryMessage"));
         QCOMPARE(textIn(0, "galleryTitle"), "gate");
         QCOMPARE(textIn(0, "galleryAddress"), PicturesBackEnd::ipportOf(20));
         QVERIFY(find("galleryStopButton") && !find("galleryAgainButton"));
-        QVERIFY(find("gallerySummary")->property("text").toString().contains("2 / 3"));
+        QTRY_VERIFY(find("gallerySummary")->property("text").toString().contains("2 / 3"));
         devices().release();
         QTRY_VERIFY(find("galleryAgainButton"));
         QCOMPARE(find("galleryFailures")->property("text").toString(), QStringLiteral("1 幅失败"));
