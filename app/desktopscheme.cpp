@@ -39,7 +39,7 @@ bool isPaletteDark()
 QString DesktopScheme::sessionBus()
 {
 #ifdef Q_OS_UNIX
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!address.isEmpty())
         return address;
     const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
