@@ -79,7 +79,7 @@ private:
 
         [[nodiscard]] const StoredAccount *find(const QString &name) const;
         [[nodiscard]] QString freeName(const QString &account) const;
-        void assign(const QList<Device> &devices, const QString &name);
+        void assign(const QList<Device> &changed, const QString &name);
     };
 
     void read();
