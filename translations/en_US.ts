@@ -13,6 +13,218 @@
     </message>
 </context>
 <context>
+    <name>AccountDialog</name>
+    <message>
+        <source>添加账号</source>
+        <translation>Add account</translation>
+    </message>
+    <message>
+        <source>修改账号</source>
+        <translation>Change account</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>请输入名称</source>
+        <translation>Enter a name</translation>
+    </message>
+    <message>
+        <source>例如：一号楼</source>
+        <translation>For example: Building 1</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>User name</translation>
+    </message>
+    <message>
+        <source>请输入用户名</source>
+        <translation>Enter the user name</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>Enter the password</translation>
+    </message>
+    <message>
+        <source>留空则不修改</source>
+        <translation>Leave empty to keep it</translation>
+    </message>
+    <message>
+        <source>这里只保存登录时使用的账号，不会修改设备上的密码。</source>
+        <translation>Stores what the tool logs in with. Passwords on devices are not changed.</translation>
+    </message>
+</context>
+<context>
+    <name>AccountKeeper</name>
+    <message>
+        <source>账号无法保存，只用到下次搜索：%1</source>
+        <translation>The account cannot be stored and is used until the next search only: %1</translation>
+    </message>
+    <message>
+        <source>新账号已设为默认账号</source>
+        <translation>The new account is the default account now</translation>
+    </message>
+    <message numerus="yes">
+        <source>新账号已保存，以后登录这 %n 台设备时使用</source>
+        <translation>
+            <numerusform>The new account is stored and used for this device from now on</numerusform>
+            <numerusform>The new account is stored and used for these %n devices from now on</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AccountKeeping</name>
+    <message>
+        <source>保存为这些设备的账号（推荐）</source>
+        <translation>Store for these devices (recommended)</translation>
+    </message>
+    <message>
+        <source>设为默认账号，用于搜索和所有设备</source>
+        <translation>Make it the default account of all devices</translation>
+    </message>
+    <message>
+        <source>不保存，只用到下次搜索</source>
+        <translation>Do not store; use it until the next search</translation>
+    </message>
+</context>
+<context>
+    <name>AccountList</name>
+    <message>
+        <source>设备没有MAC和UUID，账号只用到下次搜索</source>
+        <translation>The device has neither MAC nor UUID: the account is used until the next search only</translation>
+    </message>
+</context>
+<context>
+    <name>AccountStore</name>
+    <message>
+        <source>账号文件已损坏，其中的账号均未使用：%1</source>
+        <translation>The file of accounts is damaged, and none of its accounts is used: %1</translation>
+    </message>
+    <message>
+        <source>请输入名称，最多 %1 个字符</source>
+        <translation>Enter a name of up to %1 characters</translation>
+    </message>
+    <message>
+        <source>请输入账号，最多 %1 个字符</source>
+        <translation>Enter a user name of up to %1 characters</translation>
+    </message>
+    <message>
+        <source>请输入密码，最多 %1 个字符</source>
+        <translation>Enter a password of up to %1 characters</translation>
+    </message>
+    <message>
+        <source>已有名为“%1”的账号</source>
+        <translation>There is an account named "%1" already</translation>
+    </message>
+    <message>
+        <source>没有名为“%1”的账号</source>
+        <translation>There is no account named "%1"</translation>
+    </message>
+    <message>
+        <source>账号已满：最多 %1 个账号和 %2 台设备</source>
+        <translation>No room: at most %1 accounts and %2 devices</translation>
+    </message>
+</context>
+<context>
+    <name>AccountsDialog</name>
+    <message numerus="yes">
+        <source>%n 台设备使用默认账号</source>
+        <translation>
+            <numerusform>%n device uses the default account</numerusform>
+            <numerusform>%n devices use the default account</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备使用账号“%1”</source>
+        <translation>
+            <numerusform>%n device uses the account "%1"</numerusform>
+            <numerusform>%n devices use the account "%1"</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>；其中 %n 台没有MAC和UUID，只用到下次搜索</source>
+        <translation>
+            <numerusform>; %n of them has neither MAC nor UUID and uses it until the next search only</numerusform>
+            <numerusform>; %n of them have neither MAC nor UUID and use it until the next search only</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>删除账号“%1”？</source>
+        <translation>Remove the account "%1"?</translation>
+    </message>
+    <message numerus="yes">
+        <source>使用它的 %n 台设备以后用默认账号登录。</source>
+        <translation>
+            <numerusform> The device that uses it is logged in to with the default account from then on.</numerusform>
+            <numerusform> The %n devices that use it are logged in to with the default account from then on.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备</source>
+        <translation>
+            <numerusform>Use for %n device</numerusform>
+            <numerusform>Use for %n devices</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>选择账号</source>
+        <translation>Select account</translation>
+    </message>
+    <message>
+        <source>账号管理</source>
+        <translation>Accounts</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>账号</source>
+        <translation>Account</translation>
+    </message>
+    <message>
+        <source>设备数</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>修改</source>
+        <translation>Change</translation>
+    </message>
+    <message>
+        <source>默认账号在“搜索设置”中修改</source>
+        <translation>The default account is changed in the search settings</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>每台设备只用一个账号登录：为它选定的账号，否则为默认账号。其他账号不会自动尝试。</source>
+        <translation>Each device is tried with one account: the one selected for it, or else the default account. Other accounts are never tried.</translation>
+    </message>
+    <message>
+        <source>默认账号</source>
+        <translation>Default account</translation>
+    </message>
+    <message>
+        <source>删除账号</source>
+        <translation>Remove account</translation>
+    </message>
+</context>
+<context>
     <name>AddDeviceDialog</name>
     <message>
         <source>请输入P2P ID</source>
@@ -411,6 +623,10 @@
         <source>升级文件</source>
         <translation>Firmware file</translation>
     </message>
+    <message>
+        <source>新名称</source>
+        <translation>New name</translation>
+    </message>
 </context>
 <context>
     <name>BatchReport</name>
@@ -620,6 +836,17 @@
     <message>
         <source>没有读到设备的时间</source>
         <translation>The time could not be read</translation>
+    </message>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>The device has sent no image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>No image of %n channel</numerusform>
+            <numerusform>No image of %n channels</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -999,6 +1226,10 @@ Right-click to copy the result</translation>
         <source>应答</source>
         <translation>Result</translation>
     </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -1359,6 +1590,10 @@ Right-click to copy the result</translation>
     <message>
         <source>覆盖文件</source>
         <translation>Replace file</translation>
+    </message>
+    <message>
+        <source>设备没有报告MAC或UUID，不能添加备注</source>
+        <translation>The device reports neither a MAC address nor a UUID and cannot have a note</translation>
     </message>
 </context>
 <context>
@@ -1781,6 +2016,48 @@ Right-click to copy the result</translation>
     <message>
         <source>重试</source>
         <translation>Try again</translation>
+    </message>
+    <message>
+        <source>备注…</source>
+        <translation>Note…</translation>
+    </message>
+    <message numerus="yes">
+        <source>选择勾选的 %n 台设备的账号…</source>
+        <translation>
+            <numerusform>Select account of %n selected device…</numerusform>
+            <numerusform>Select account of %n selected devices…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>选择账号…</source>
+        <translation>Select account…</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceNotes</name>
+    <message>
+        <source>备注文件 %1 无法读取：%2</source>
+        <translation>The file with the notes, %1, cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>备注文件 %1 已损坏，部分备注可能丢失。下次保存备注时，该文件会改名保留。</source>
+        <translation>The file with the notes, %1, is damaged. Some notes may be lost. It is kept under another name when the next note is saved.</translation>
+    </message>
+    <message>
+        <source>设备没有报告MAC或UUID，不能添加备注</source>
+        <translation>The device reports neither a MAC address nor a UUID and cannot have a note</translation>
+    </message>
+    <message>
+        <source>备注最多 %1 个字符</source>
+        <translation>A note can have %1 characters at most</translation>
+    </message>
+    <message>
+        <source>最多可以保存 %1 条备注</source>
+        <translation>At most %1 notes can be saved</translation>
+    </message>
+    <message>
+        <source>备注无法保存：%1</source>
+        <translation>The note cannot be saved: %1</translation>
     </message>
 </context>
 <context>
@@ -2259,6 +2536,135 @@ Right-click to copy the result</translation>
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
         <translation>Afterwards, also enter the new password in the search settings.</translation>
     </message>
+    <message>
+        <source>成功后</source>
+        <translation>On success</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryBar</name>
+    <message>
+        <source>连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
+        <translation>Several devices in a row have rejected the password. To continue may lock accounts.</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>正在获取图像 %1 / %2</source>
+        <translation>Fetching images, %1 of %2 devices</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 幅图像</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 幅失败</source>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台设备未显示</source>
+        <translation>
+            <numerusform>%n more device is not shown</numerusform>
+            <numerusform>%n more devices are not shown</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>全部重新获取</source>
+        <translation>Fetch all again</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1” is running. Wait until it has finished.</translation>
+    </message>
+    <message>
+        <source>重新获取所有图像（F5）</source>
+        <translation>Fetch all images again (F5)</translation>
+    </message>
+    <message>
+        <source>全部保存</source>
+        <translation>Save all</translation>
+    </message>
+    <message>
+        <source>把所有图像写入抓图文件夹（Ctrl+S）</source>
+        <translation>Write all images to the folder of the snapshots (Ctrl+S)</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryCell</name>
+    <message>
+        <source>正在获取…</source>
+        <translation>Fetching…</translation>
+    </message>
+    <message>
+        <source>等待中</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>重新获取（R）</source>
+        <translation>Fetch again (R)</translation>
+    </message>
+    <message>
+        <source>失败</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>获取中</source>
+        <translation>Fetching</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>设备图像</source>
+        <translation>Device images</translation>
+    </message>
+    <message>
+        <source>已保存 %1 幅图像到 %2</source>
+        <translation>%1 images saved to %2</translation>
+    </message>
+    <message>
+        <source>已保存 %1 幅图像到 %2，%3 幅无法写入：%4</source>
+        <translation>%1 images saved to %2, %3 not written: %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n device</numerusform>
+            <numerusform>%n devices</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>The folder could not be opened: %1</translation>
+    </message>
+    <message>
+        <source>请在设备列表中勾选设备</source>
+        <translation>Select devices in the device list</translation>
+    </message>
+    <message>
+        <source>没有设备</source>
+        <translation>No devices</translation>
+    </message>
 </context>
 <context>
     <name>ImageExposureGroups</name>
@@ -2733,12 +3139,38 @@ Right-click to copy the result</translation>
         <source>未连接</source>
         <translation>Not connected</translation>
     </message>
+    <message>
+        <source>从画面中移除（Delete）</source>
+        <translation>Remove from the view (Delete)</translation>
+    </message>
 </context>
 <context>
     <name>LiveChannels</name>
     <message>
         <source>通道 %1</source>
         <translation>Channel %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveCompanion</name>
+    <message>
+        <source>正在登录…</source>
+        <translation>Logging in…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1，%n 秒后重试</source>
+        <translation>
+            <numerusform>%1. Retry in %n s</numerusform>
+            <numerusform>%1. Retry in %n s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>Log in again</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Retry</translation>
     </message>
 </context>
 <context>
@@ -2778,6 +3210,14 @@ Right-click to copy the result</translation>
     <message>
         <source>关闭</source>
         <translation>Close</translation>
+    </message>
+    <message>
+        <source>上一台设备（PgUp）</source>
+        <translation>Previous device (PgUp)</translation>
+    </message>
+    <message>
+        <source>下一台设备（PgDn）</source>
+        <translation>Next device (PgDn)</translation>
     </message>
 </context>
 <context>
@@ -2850,6 +3290,30 @@ Right-click to copy the result</translation>
         <source>“%1”正在进行，请等待其完成</source>
         <translation>“%1” is running. Wait until it has finished.</translation>
     </message>
+    <message>
+        <source>画面中已有足够多的设备</source>
+        <translation>No further device can be added</translation>
+    </message>
+    <message>
+        <source>请先在设备列表中勾选要一起查看的设备</source>
+        <translation>Select the devices to be added in the device list first</translation>
+    </message>
+    <message>
+        <source>把列表中勾选的设备的通道加入画面（A）</source>
+        <translation>Add the channels of the devices that are selected in the list (A)</translation>
+    </message>
+    <message>
+        <source>加入勾选的设备（%1）</source>
+        <translation>Add selected devices (%1)</translation>
+    </message>
+    <message>
+        <source>加入勾选的设备</source>
+        <translation>Add selected devices</translation>
+    </message>
+    <message>
+        <source>加入的设备不能在此抓图，请在设备图像窗口中保存</source>
+        <translation>No snapshots of added devices here: use the window of device images</translation>
+    </message>
 </context>
 <context>
     <name>LiveWindow</name>
@@ -2892,6 +3356,18 @@ Right-click to copy the result</translation>
         <source>抓图</source>
         <translation>Snapshots</translation>
     </message>
+    <message>
+        <source>勾选的设备都已在画面中</source>
+        <translation>All selected devices are shown already</translation>
+    </message>
+    <message>
+        <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
+        <translation>At most %1 devices can be added. %2 were not added.</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2910,6 +3386,26 @@ Right-click to copy the result</translation>
     <message>
         <source>关于</source>
         <translation>About</translation>
+    </message>
+    <message>
+        <source>账号管理</source>
+        <translation>Accounts</translation>
+    </message>
+    <message>
+        <source>外观</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Follow the desktop</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dark</translation>
     </message>
 </context>
 <context>
@@ -3411,6 +3907,10 @@ File: </translation>
         <source>IP地址冲突</source>
         <translation>IP address conflict</translation>
     </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPToolBar</name>
@@ -3508,6 +4008,10 @@ File: </translation>
         <source>IPV6</source>
         <translation>IPv6</translation>
     </message>
+    <message>
+        <source>查看勾选设备的图像（Ctrl+G）</source>
+        <translation>Images of the selected devices (Ctrl+G)</translation>
+    </message>
 </context>
 <context>
     <name>NamePatternDialog</name>
@@ -3580,6 +4084,17 @@ File: </translation>
     <message>
         <source>位数</source>
         <translation>Digits</translation>
+    </message>
+</context>
+<context>
+    <name>NoteDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
     </message>
 </context>
 <context>
@@ -3749,6 +4264,17 @@ File: </translation>
     <message>
         <source>密码强度</source>
         <translation>Password strength</translation>
+    </message>
+</context>
+<context>
+    <name>OVTable</name>
+    <message>
+        <source>列宽适合内容</source>
+        <translation>Fit column width</translation>
+    </message>
+    <message>
+        <source>恢复默认列</source>
+        <translation>Reset columns</translation>
     </message>
 </context>
 <context>
@@ -4086,6 +4612,14 @@ File: </translation>
         <source>修改IP地址</source>
         <translation>Change IP addresses</translation>
     </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>Select a device</translation>
+    </message>
+    <message>
+        <source>查看勾选设备的图像</source>
+        <translation>Images of the selected devices</translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -4130,6 +4664,25 @@ File: </translation>
             <numerusform>Another operation was started: the password of %n device was not changed</numerusform>
             <numerusform>Another operation was started: the passwords of %n devices were not changed</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>PictureGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Fetch images</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 channels, the first %2 are shown</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Save images</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>The folder %1 could not be created</translation>
     </message>
 </context>
 <context>
@@ -4191,6 +4744,14 @@ File: </translation>
     <message>
         <source>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</source>
         <translation>After a successful login, devices without an account of their own are tried with it in place of that of the search settings, until the program ends</translation>
+    </message>
+    <message>
+        <source>保存为此设备的账号</source>
+        <translation>Store as the account of this device</translation>
+    </message>
+    <message>
+        <source>登录成功后，以后登录这台设备都使用此账号</source>
+        <translation>Once the login has succeeded, this device is always logged in to with this account</translation>
     </message>
 </context>
 <context>
@@ -4803,6 +5364,18 @@ File: </translation>
         <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
         <translation>The program cannot communicate with devices. Open the demo site on the page “Modify IP”.</translation>
     </message>
+    <message>
+        <source>清除失败标记</source>
+        <translation>Clear marks</translation>
+    </message>
+    <message>
+        <source>不再标记失败和未执行的设备</source>
+        <translation>Removes the marks of devices that failed or were not done</translation>
+    </message>
+    <message>
+        <source>列表中的设备都已登录。</source>
+        <translation>All listed devices have been logged in to.</translation>
+    </message>
 </context>
 <context>
     <name>SystemLists</name>
@@ -5065,6 +5638,10 @@ File: </translation>
         <source>修改密码</source>
         <translation>Change password</translation>
     </message>
+    <message>
+        <source>成功后</source>
+        <translation>On success</translation>
+    </message>
 </context>
 <context>
     <name>SystemPreview</name>
@@ -5244,6 +5821,31 @@ File: </translation>
     <message>
         <source>设备</source>
         <translation>Device</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTreeStates</name>
+    <message>
+        <source>全部</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>失败 %1</source>
+        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
+        <translation>Failed %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
+        <translation>Shows only devices that failed or were not done, sorted by reason. For devices that are no longer listed, see Batches.</translation>
+    </message>
+    <message>
+        <source>未登录 %1</source>
+        <extracomment>Shows only the devices without a login; %1 is how many there are.</extracomment>
+        <translation>Not logged in %1</translation>
+    </message>
+    <message>
+        <source>只显示还没有登录过或最近一次登录失败的设备</source>
+        <translation>Shows only devices without a login so far, or whose last login failed</translation>
     </message>
 </context>
 <context>
@@ -5636,6 +6238,10 @@ File: </translation>
     <message>
         <source>名称</source>
         <translation>Name</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>Note</translation>
     </message>
 </context>
 <context>
@@ -6152,6 +6758,10 @@ File: </translation>
     <message>
         <source>退出程序</source>
         <translation>Exit program</translation>
+    </message>
+    <message>
+        <source>账号无法保存，只用到下次搜索：%1</source>
+        <translation>The account cannot be stored and is used until the next search only: %1</translation>
     </message>
 </context>
 <context>

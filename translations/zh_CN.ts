@@ -13,6 +13,212 @@
     </message>
 </context>
 <context>
+    <name>AccountDialog</name>
+    <message>
+        <source>添加账号</source>
+        <translation>添加账号</translation>
+    </message>
+    <message>
+        <source>修改账号</source>
+        <translation>修改账号</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>请输入名称</source>
+        <translation>请输入名称</translation>
+    </message>
+    <message>
+        <source>例如：一号楼</source>
+        <translation>例如：一号楼</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>请输入用户名</source>
+        <translation>请输入用户名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>请输入密码</translation>
+    </message>
+    <message>
+        <source>留空则不修改</source>
+        <translation>留空则不修改</translation>
+    </message>
+    <message>
+        <source>这里只保存登录时使用的账号，不会修改设备上的密码。</source>
+        <translation>这里只保存登录时使用的账号，不会修改设备上的密码。</translation>
+    </message>
+</context>
+<context>
+    <name>AccountKeeper</name>
+    <message>
+        <source>账号无法保存，只用到下次搜索：%1</source>
+        <translation>账号无法保存，只用到下次搜索：%1</translation>
+    </message>
+    <message>
+        <source>新账号已设为默认账号</source>
+        <translation>新账号已设为默认账号</translation>
+    </message>
+    <message numerus="yes">
+        <source>新账号已保存，以后登录这 %n 台设备时使用</source>
+        <translation>
+            <numerusform>新账号已保存，以后登录这 %n 台设备时使用</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AccountKeeping</name>
+    <message>
+        <source>保存为这些设备的账号（推荐）</source>
+        <translation>保存为这些设备的账号（推荐）</translation>
+    </message>
+    <message>
+        <source>设为默认账号，用于搜索和所有设备</source>
+        <translation>设为默认账号，用于搜索和所有设备</translation>
+    </message>
+    <message>
+        <source>不保存，只用到下次搜索</source>
+        <translation>不保存，只用到下次搜索</translation>
+    </message>
+</context>
+<context>
+    <name>AccountList</name>
+    <message>
+        <source>设备没有MAC和UUID，账号只用到下次搜索</source>
+        <translation>设备没有MAC和UUID，账号只用到下次搜索</translation>
+    </message>
+</context>
+<context>
+    <name>AccountStore</name>
+    <message>
+        <source>账号文件已损坏，其中的账号均未使用：%1</source>
+        <translation>账号文件已损坏，其中的账号均未使用：%1</translation>
+    </message>
+    <message>
+        <source>请输入名称，最多 %1 个字符</source>
+        <translation>请输入名称，最多 %1 个字符</translation>
+    </message>
+    <message>
+        <source>请输入账号，最多 %1 个字符</source>
+        <translation>请输入账号，最多 %1 个字符</translation>
+    </message>
+    <message>
+        <source>请输入密码，最多 %1 个字符</source>
+        <translation>请输入密码，最多 %1 个字符</translation>
+    </message>
+    <message>
+        <source>已有名为“%1”的账号</source>
+        <translation>已有名为“%1”的账号</translation>
+    </message>
+    <message>
+        <source>没有名为“%1”的账号</source>
+        <translation>没有名为“%1”的账号</translation>
+    </message>
+    <message>
+        <source>账号已满：最多 %1 个账号和 %2 台设备</source>
+        <translation>账号已满：最多 %1 个账号和 %2 台设备</translation>
+    </message>
+</context>
+<context>
+    <name>AccountsDialog</name>
+    <message numerus="yes">
+        <source>%n 台设备使用默认账号</source>
+        <translation>
+            <numerusform>%n 台设备使用默认账号</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备使用账号“%1”</source>
+        <translation>
+            <numerusform>%n 台设备使用账号“%1”</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>；其中 %n 台没有MAC和UUID，只用到下次搜索</source>
+        <translation>
+            <numerusform>；其中 %n 台没有MAC和UUID，只用到下次搜索</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>删除账号“%1”？</source>
+        <translation>删除账号“%1”？</translation>
+    </message>
+    <message numerus="yes">
+        <source>使用它的 %n 台设备以后用默认账号登录。</source>
+        <translation>
+            <numerusform>使用它的 %n 台设备以后用默认账号登录。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备</source>
+        <translation>
+            <numerusform>用于 %n 台设备</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>选择账号</source>
+        <translation>选择账号</translation>
+    </message>
+    <message>
+        <source>账号管理</source>
+        <translation>账号管理</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>账号</source>
+        <translation>账号</translation>
+    </message>
+    <message>
+        <source>设备数</source>
+        <translation>设备数</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>修改</source>
+        <translation>修改</translation>
+    </message>
+    <message>
+        <source>默认账号在“搜索设置”中修改</source>
+        <translation>默认账号在“搜索设置”中修改</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>每台设备只用一个账号登录：为它选定的账号，否则为默认账号。其他账号不会自动尝试。</source>
+        <translation>每台设备只用一个账号登录：为它选定的账号，否则为默认账号。其他账号不会自动尝试。</translation>
+    </message>
+    <message>
+        <source>默认账号</source>
+        <translation>默认账号</translation>
+    </message>
+    <message>
+        <source>删除账号</source>
+        <translation>删除账号</translation>
+    </message>
+</context>
+<context>
     <name>AddDeviceDialog</name>
     <message>
         <source>请输入P2P ID</source>
@@ -404,6 +610,10 @@
         <source>升级文件</source>
         <translation>升级文件</translation>
     </message>
+    <message>
+        <source>新名称</source>
+        <translation>新名称</translation>
+    </message>
 </context>
 <context>
     <name>BatchReport</name>
@@ -607,6 +817,16 @@
     <message>
         <source>没有读到设备的时间</source>
         <translation>没有读到设备的时间</translation>
+    </message>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>设备没有发送画面</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>%n 个通道没有图像</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -983,6 +1203,10 @@
         <source>应答</source>
         <translation>应答</translation>
     </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -1334,6 +1558,10 @@
     <message>
         <source>覆盖文件</source>
         <translation>覆盖文件</translation>
+    </message>
+    <message>
+        <source>设备没有报告MAC或UUID，不能添加备注</source>
+        <translation>设备没有报告MAC或UUID，不能添加备注</translation>
     </message>
 </context>
 <context>
@@ -1756,6 +1984,47 @@
     <message>
         <source>重试</source>
         <translation>重试</translation>
+    </message>
+    <message>
+        <source>备注…</source>
+        <translation>备注…</translation>
+    </message>
+    <message numerus="yes">
+        <source>选择勾选的 %n 台设备的账号…</source>
+        <translation>
+            <numerusform>选择勾选的 %n 台设备的账号…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>选择账号…</source>
+        <translation>选择账号…</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceNotes</name>
+    <message>
+        <source>备注文件 %1 无法读取：%2</source>
+        <translation>备注文件 %1 无法读取：%2</translation>
+    </message>
+    <message>
+        <source>备注文件 %1 已损坏，部分备注可能丢失。下次保存备注时，该文件会改名保留。</source>
+        <translation>备注文件 %1 已损坏，部分备注可能丢失。下次保存备注时，该文件会改名保留。</translation>
+    </message>
+    <message>
+        <source>设备没有报告MAC或UUID，不能添加备注</source>
+        <translation>设备没有报告MAC或UUID，不能添加备注</translation>
+    </message>
+    <message>
+        <source>备注最多 %1 个字符</source>
+        <translation>备注最多 %1 个字符</translation>
+    </message>
+    <message>
+        <source>最多可以保存 %1 条备注</source>
+        <translation>最多可以保存 %1 条备注</translation>
+    </message>
+    <message>
+        <source>备注无法保存：%1</source>
+        <translation>备注无法保存：%1</translation>
     </message>
 </context>
 <context>
@@ -2231,6 +2500,131 @@
         <source>设定新密码后,请在“搜索设置”中设置新密码</source>
         <translation>设定新密码后,请在“搜索设置”中设置新密码</translation>
     </message>
+    <message>
+        <source>成功后</source>
+        <translation>成功后</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryBar</name>
+    <message>
+        <source>连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
+        <translation>连续多台设备密码错误，继续可能锁定账户。是否继续？</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>正在停止…</translation>
+    </message>
+    <message>
+        <source>正在获取图像 %1 / %2</source>
+        <translation>正在获取图像 %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 幅图像</source>
+        <translation>
+            <numerusform>%n 幅图像</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 幅失败</source>
+        <translation>
+            <numerusform>%n 幅失败</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台设备未显示</source>
+        <translation>
+            <numerusform>另有 %n 台设备未显示</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>全部重新获取</source>
+        <translation>全部重新获取</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1”正在进行，请等待其完成</translation>
+    </message>
+    <message>
+        <source>重新获取所有图像（F5）</source>
+        <translation>重新获取所有图像（F5）</translation>
+    </message>
+    <message>
+        <source>全部保存</source>
+        <translation>全部保存</translation>
+    </message>
+    <message>
+        <source>把所有图像写入抓图文件夹（Ctrl+S）</source>
+        <translation>把所有图像写入抓图文件夹（Ctrl+S）</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryCell</name>
+    <message>
+        <source>正在获取…</source>
+        <translation>正在获取…</translation>
+    </message>
+    <message>
+        <source>等待中</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>重新获取（R）</source>
+        <translation>重新获取（R）</translation>
+    </message>
+    <message>
+        <source>失败</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>获取中</source>
+        <translation>获取中</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>设备图像</source>
+        <translation>设备图像</translation>
+    </message>
+    <message>
+        <source>已保存 %1 幅图像到 %2</source>
+        <translation>已保存 %1 幅图像到 %2</translation>
+    </message>
+    <message>
+        <source>已保存 %1 幅图像到 %2，%3 幅无法写入：%4</source>
+        <translation>已保存 %1 幅图像到 %2，%3 幅无法写入：%4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n 台设备</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>无法打开文件夹：%1</translation>
+    </message>
+    <message>
+        <source>请在设备列表中勾选设备</source>
+        <translation>请在设备列表中勾选设备</translation>
+    </message>
+    <message>
+        <source>没有设备</source>
+        <translation>没有设备</translation>
+    </message>
 </context>
 <context>
     <name>ImageExposureGroups</name>
@@ -2704,12 +3098,37 @@
         <source>未连接</source>
         <translation>未连接</translation>
     </message>
+    <message>
+        <source>从画面中移除（Delete）</source>
+        <translation>从画面中移除（Delete）</translation>
+    </message>
 </context>
 <context>
     <name>LiveChannels</name>
     <message>
         <source>通道 %1</source>
         <translation>通道 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveCompanion</name>
+    <message>
+        <source>正在登录…</source>
+        <translation>正在登录…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1，%n 秒后重试</source>
+        <translation>
+            <numerusform>%1，%n 秒后重试</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>重新登录</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
     </message>
 </context>
 <context>
@@ -2749,6 +3168,14 @@
     <message>
         <source>关闭</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>上一台设备（PgUp）</source>
+        <translation>上一台设备（PgUp）</translation>
+    </message>
+    <message>
+        <source>下一台设备（PgDn）</source>
+        <translation>下一台设备（PgDn）</translation>
     </message>
 </context>
 <context>
@@ -2821,6 +3248,30 @@
         <source>“%1”正在进行，请等待其完成</source>
         <translation>“%1”正在进行，请等待其完成</translation>
     </message>
+    <message>
+        <source>画面中已有足够多的设备</source>
+        <translation>画面中已有足够多的设备</translation>
+    </message>
+    <message>
+        <source>请先在设备列表中勾选要一起查看的设备</source>
+        <translation>请先在设备列表中勾选要一起查看的设备</translation>
+    </message>
+    <message>
+        <source>把列表中勾选的设备的通道加入画面（A）</source>
+        <translation>把列表中勾选的设备的通道加入画面（A）</translation>
+    </message>
+    <message>
+        <source>加入勾选的设备（%1）</source>
+        <translation>加入勾选的设备（%1）</translation>
+    </message>
+    <message>
+        <source>加入勾选的设备</source>
+        <translation>加入勾选的设备</translation>
+    </message>
+    <message>
+        <source>加入的设备不能在此抓图，请在设备图像窗口中保存</source>
+        <translation>加入的设备不能在此抓图，请在设备图像窗口中保存</translation>
+    </message>
 </context>
 <context>
     <name>LiveWindow</name>
@@ -2862,6 +3313,18 @@
         <source>抓图</source>
         <translation>抓图</translation>
     </message>
+    <message>
+        <source>勾选的设备都已在画面中</source>
+        <translation>勾选的设备都已在画面中</translation>
+    </message>
+    <message>
+        <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
+        <translation>最多加入 %1 台设备，其余 %2 台没有加入</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -2880,6 +3343,26 @@
     <message>
         <source>关于</source>
         <translation>关于</translation>
+    </message>
+    <message>
+        <source>账号管理</source>
+        <translation>账号管理</translation>
+    </message>
+    <message>
+        <source>外观</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>深色</translation>
     </message>
 </context>
 <context>
@@ -3376,6 +3859,10 @@
         <source>IP地址冲突</source>
         <translation>IP地址冲突</translation>
     </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPToolBar</name>
@@ -3471,6 +3958,10 @@
         <source>IPV6</source>
         <translation>IPV6</translation>
     </message>
+    <message>
+        <source>查看勾选设备的图像（Ctrl+G）</source>
+        <translation>查看勾选设备的图像（Ctrl+G）</translation>
+    </message>
 </context>
 <context>
     <name>NamePatternDialog</name>
@@ -3541,6 +4032,17 @@
     <message>
         <source>位数</source>
         <translation>位数</translation>
+    </message>
+</context>
+<context>
+    <name>NoteDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
     </message>
 </context>
 <context>
@@ -3708,6 +4210,17 @@
     <message>
         <source>密码强度</source>
         <translation>密码强度</translation>
+    </message>
+</context>
+<context>
+    <name>OVTable</name>
+    <message>
+        <source>列宽适合内容</source>
+        <translation>列宽适合内容</translation>
+    </message>
+    <message>
+        <source>恢复默认列</source>
+        <translation>恢复默认列</translation>
     </message>
 </context>
 <context>
@@ -4035,6 +4548,14 @@
         <source>修改IP地址</source>
         <translation>修改IP地址</translation>
     </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>请选择一台设备</translation>
+    </message>
+    <message>
+        <source>查看勾选设备的图像</source>
+        <translation>查看勾选设备的图像</translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -4076,6 +4597,25 @@
         <translation>
             <numerusform>已开始其他操作，%n 台设备的密码没有修改</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>PictureGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>获取图像</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>共 %1 个通道，仅显示前 %2 个</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>无法建立文件夹 %1</translation>
     </message>
 </context>
 <context>
@@ -4136,6 +4676,14 @@
     <message>
         <source>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</source>
         <translation>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</translation>
+    </message>
+    <message>
+        <source>保存为此设备的账号</source>
+        <translation>保存为此设备的账号</translation>
+    </message>
+    <message>
+        <source>登录成功后，以后登录这台设备都使用此账号</source>
+        <translation>登录成功后，以后登录这台设备都使用此账号</translation>
     </message>
 </context>
 <context>
@@ -4748,6 +5296,18 @@
         <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
         <translation>程序无法与设备通信。可在“修改IP”页打开演示站点。</translation>
     </message>
+    <message>
+        <source>清除失败标记</source>
+        <translation>清除失败标记</translation>
+    </message>
+    <message>
+        <source>不再标记失败和未执行的设备</source>
+        <translation>不再标记失败和未执行的设备</translation>
+    </message>
+    <message>
+        <source>列表中的设备都已登录。</source>
+        <translation>列表中的设备都已登录。</translation>
+    </message>
 </context>
 <context>
     <name>SystemLists</name>
@@ -5008,6 +5568,10 @@
         <source>修改密码</source>
         <translation>修改密码</translation>
     </message>
+    <message>
+        <source>成功后</source>
+        <translation>成功后</translation>
+    </message>
 </context>
 <context>
     <name>SystemPreview</name>
@@ -5182,6 +5746,31 @@
     <message>
         <source>设备</source>
         <translation>设备</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTreeStates</name>
+    <message>
+        <source>全部</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>失败 %1</source>
+        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
+        <translation>失败 %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
+        <translation>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</translation>
+    </message>
+    <message>
+        <source>未登录 %1</source>
+        <extracomment>Shows only the devices without a login; %1 is how many there are.</extracomment>
+        <translation>未登录 %1</translation>
+    </message>
+    <message>
+        <source>只显示还没有登录过或最近一次登录失败的设备</source>
+        <translation>只显示还没有登录过或最近一次登录失败的设备</translation>
     </message>
 </context>
 <context>
@@ -5572,6 +6161,10 @@
     <message>
         <source>名称</source>
         <translation>名称</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>备注</translation>
     </message>
 </context>
 <context>
@@ -6085,6 +6678,10 @@
     <message>
         <source>退出程序</source>
         <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>账号无法保存，只用到下次搜索：%1</source>
+        <translation>账号无法保存，只用到下次搜索：%1</translation>
     </message>
 </context>
 <context>
