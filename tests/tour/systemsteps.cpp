@@ -147,7 +147,8 @@ void walkZone(Driver &driver)
     driver.require(u"previewTable"_s);
     driver.click(u"check2"_s);
     driver.report(u"system-preview"_s, driver.text(u"batchCount"_s));
-    apply(driver, u"okButton"_s, {0, 0, noResult}); // not that of a device that was taken out
+    apply(driver, u"okButton"_s,
+          {0, noResult, 0}); // not that of the device that was taken out, the last by address
 }
 
 void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
