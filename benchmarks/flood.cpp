@@ -1,5 +1,7 @@
 #include "benchmarks/measurements.h"
 
+#include "app/colourscheme.h"
+#include "app/desktopscheme.h"
 #include "app/localconfig.h"
 #include "app/publication.h"
 #include "cgi/cgiconfigmanage.h"
@@ -98,10 +100,12 @@ QList<Figure> measureFlood()
     {
         QQuickStyle::setStyle(QStringLiteral("Basic"));
         BatchEngine batchEngine(libraries.clock);
+        DesktopScheme desktop{QString()};
+        ColourScheme colours(desktop, *CLocalConfig::getinstance());
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
         publishToScene(engine, batchEngine, std::make_shared<CertificateStore>(QString()),
-                       std::make_shared<AccountStore>(QString()), libraries.net);
+                       std::make_shared<AccountStore>(QString()), colours, libraries.net);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
         QTest::qWait(500);                                                     // the first picture

@@ -115,7 +115,6 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
 StepOutcome CDeviceDH::performOn(const QString &ipport, const DeviceAccount &credentials,
                                  const QString &command, const QVariantMap &data, const StepControl &control)
 {
-    sdk::NetLibrary &net = *m_libraries.net;
     return inLogin(ipport, credentials, control, [&](sdk::LLONG loginHandle) {
         QVariantMap values = data;
         if (data.value(QStringLiteral("timeOfRequest")).toBool())
