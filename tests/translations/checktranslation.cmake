@@ -2,7 +2,7 @@
 configure_file(${TRANSLATION} ${WORK} COPYONLY)
 execute_process(
     COMMAND ${LUPDATE} -silent -locations none -extensions cpp,h,qml
-        ${SOURCES}/app ${SOURCES}/cgi ${SOURCES}/device ${SOURCES}/gallery ${SOURCES}/media ${SOURCES}/qml ${SOURCES}/sdk -ts ${WORK}
+        ${SOURCES}/app ${SOURCES}/cgi ${SOURCES}/device ${SOURCES}/favourites ${SOURCES}/gallery ${SOURCES}/media ${SOURCES}/qml ${SOURCES}/sdk -ts ${WORK}
     COMMAND_ERROR_IS_FATAL ANY)
 
 file(READ ${WORK} updated)

@@ -7,7 +7,6 @@ Item {
     id: root
 
     required property var deviceFactory
-    required property var localConfig
     required property string ipport
     required property string name
     property bool loggedIn: false
@@ -34,7 +33,7 @@ Item {
     signal answered(bool isThere)    // after look()
 
     function account() {
-        return LoginMemory.accountFor(deviceFactory.getDeviceInfo("dh", ipport), localConfig);
+        return LoginMemory.accountFor(ipport, deviceFactory);
     }
 
     function ask() {

@@ -191,7 +191,6 @@ T.ApplicationWindow {
         LiveCompanion {
             id: companion
             deviceFactory: window.deviceFactory
-            localConfig: window.localConfig
             onAnswered: isThere => grid.answer(companion, isThere)
             onChannelsChanged: window.gather()
             onRenewed: grid.reconnect(companion)

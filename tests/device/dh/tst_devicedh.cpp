@@ -240,7 +240,7 @@ private Q_SLOTS:
         row("account locked", "02:1a:c5:00:4c:a1", 3, 0, "账号被锁定");
         row("account logged in", "02:1a:c5:00:4d:38", 4, 0, "账号已登录");
         row("not initialised", "02:1a:c5:00:4c:c6", 12, 7, "设备未初始化");
-        row("refuses a new address", "02:1a:c5:00:4d:82", 0, 5, "网络异常");
+        row("refuses a new address", "02:1a:c5:00:4d:82", 0, 999, "设备拒绝了此操作");
     }
 
     /// Each fault of a login and of a modification, by its code and by the name that the user reads.

@@ -70,7 +70,8 @@ class TestCommands : public QObject
                               {"CGIConfigManageApi", m_program.get()},
                               {"CgiBatchesApi", &m_site->commands},
                               {"FileDialogsApi", m_program.get()},
-                              {"LocalConfigApi", m_program.get()}});
+                              {"LocalConfigApi", m_program.get()},
+                              {"WebPagesApi", m_program.get()}});
         QVERIFY(m_window);
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));

@@ -60,6 +60,7 @@ public:
                 {"mac", QString::fromStdString(numberedMac(numberOf(ipport)).c_str())},
                 {"ipport", ipport}};
     }
+    QVariantMap accountOf(const QString &) override { return {{"account", "admin"}, {"password", "p"}}; }
     OwnSessionStep ownSessionStep(const OwnSessionOrder &order) override
     {
         const int number = numberOf(order.ipport);

@@ -115,8 +115,9 @@ private Q_SLOTS:
                              {{"CDeviceFactoryApi", m_site->factory.get()},
                               {"works", m_batches.get()},
                               {"deviceAccounts", m_accountList.get()},
-                              {"FileDialogsApi", m_batches.get()}, // nothing is asked of these two
-                              {"LocalConfigApi", m_batches.get()}});
+                              {"FileDialogsApi", m_batches.get()}, // nothing is asked of these
+                              {"LocalConfigApi", m_batches.get()},
+                              {"WebPagesApi", m_batches.get()}});
         QVERIFY(m_window);
         m_page = item("page");
         m_tree = m_page->findChild<OVTreeModel *>();
