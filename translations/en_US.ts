@@ -119,11 +119,11 @@
     </message>
     <message>
         <source>已有名为“%1”的账号</source>
-        <translation>There is an account named "%1" already</translation>
+        <translation>There is an account named &quot;%1&quot; already</translation>
     </message>
     <message>
         <source>没有名为“%1”的账号</source>
-        <translation>There is no account named "%1"</translation>
+        <translation>There is no account named &quot;%1&quot;</translation>
     </message>
     <message>
         <source>账号已满：最多 %1 个账号和 %2 台设备</source>
@@ -142,8 +142,8 @@
     <message numerus="yes">
         <source>%n 台设备使用账号“%1”</source>
         <translation>
-            <numerusform>%n device uses the account "%1"</numerusform>
-            <numerusform>%n devices use the account "%1"</numerusform>
+            <numerusform>%n device uses the account &quot;%1&quot;</numerusform>
+            <numerusform>%n devices use the account &quot;%1&quot;</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>删除账号“%1”？</source>
-        <translation>Remove the account "%1"?</translation>
+        <translation>Remove the account &quot;%1&quot;?</translation>
     </message>
     <message numerus="yes">
         <source>使用它的 %n 台设备以后用默认账号登录。</source>
@@ -3439,10 +3439,6 @@ Right-click to copy the result</translation>
         <translation>More than %1 devices answered. %2 further answers are not listed. Search a smaller range.</translation>
     </message>
     <message>
-        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
-        <translation>A search is running. Stop it with Esc or wait until it has finished.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Demo site</translation>
@@ -6717,6 +6713,13 @@ File: </translation>
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
         <translation>No image: too large for the graphics card</translation>
+    </message>
+</context>
+<context>
+    <name>WaysOut</name>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>A search is running. Stop it with Esc or wait until it has finished.</translation>
     </message>
 </context>
 <context>

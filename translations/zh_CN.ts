@@ -3396,10 +3396,6 @@
         <translation>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</translation>
     </message>
     <message>
-        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
-        <translation>正在搜索，请先停止搜索（Esc）或稍候再关闭</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>演示站点</translation>
@@ -6638,6 +6634,13 @@
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
         <translation>无法显示画面：显卡不支持这样大的画面</translation>
+    </message>
+</context>
+<context>
+    <name>WaysOut</name>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>正在搜索，请先停止搜索（Esc）或稍候再关闭</translation>
     </message>
 </context>
 <context>

@@ -142,7 +142,7 @@ BatchEngine::Taken BatchEngine::takeLocked()
             batch->items[place].device = taken.item.device;
             it->second.pop_back();
             if (!it->second.empty())
-                batch->following.insert(taken.item.device, std::move(it->second));
+                batch->following.insert(taken.item.device, it->second);
             batch->waiting.erase(it);
             m_busyDevices.insert(taken.item.device);
             ++batch->running;

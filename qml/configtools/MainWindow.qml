@@ -83,47 +83,6 @@ T.ApplicationWindow {
         return false;
     }
 
-    /// Whether no work is in the way of an action; otherwise the user is shown which.
-    function mayBegin(action) {
-        const refusal = busyState.refusal(action);
-        if (refusal !== "")
-            popups.say(refusal, OVToast.Refusal);
-        return refusal === "";
-    }
-
-    function requestRestart() {
-        if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
-            leavePage(() => {
-                rememberView();
-                localConfig.reboot();
-            });
-    }
-
-    function requestDemo() {
-        if (mayBegin(BusyState.Restart) && !refusesDuringSearch())
-            leavePage(() => {
-                rememberView();
-                localConfig.openDemoSite();
-            });
-    }
-
-    /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
-    function requestEnd() {
-        if (batches.running) {
-            popups.askToEnd(batches.current.title, deviceFactory.hasDeviceUpgrading());
-            return false;
-        }
-        if (!mayBegin(BusyState.Close))
-            return false;
-        return !refusesDuringSearch() && !leavePage(end);
-    }
-
-    function refusesDuringSearch() {
-        if (searching)
-            popups.say(qsTr("正在搜索，请先停止搜索（Esc）或稍候再关闭"), OVToast.Refusal);
-        return searching;
-    }
-
     function rememberView() {
         memory.keep("tab", String(currentTab));
         memory.keep("window", place.text());
@@ -136,12 +95,6 @@ T.ApplicationWindow {
             turnTo(tab);
         else
             modifyIpPage.focusTable();
-    }
-
-    function end() {
-        rememberView();
-        popups.closeLive();
-        deviceFactory.exitProgram();
     }
 
     width: minimumWidth
@@ -176,7 +129,7 @@ T.ApplicationWindow {
 
     onClosing: close => {
         console.log("Window is closing...");
-        close.accepted = requestEnd();
+        close.accepted = ways.requestEnd();
     }
 
     Binding {
@@ -200,6 +153,17 @@ T.ApplicationWindow {
         function onFailed() {
             popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
         }
+    }
+    WaysOut {
+        id: ways
+        batches: window.batches
+        busyState: window.busyState
+        deviceFactory: window.deviceFactory
+        host: window
+        localConfig: window.localConfig
+        popups: popups
+        searching: window.searching
+        onLeaving: window.rememberView()
     }
     SearchSettings {
         id: searchSettings
@@ -265,7 +229,7 @@ T.ApplicationWindow {
             searching: window.searching
             title: window.title
             version: popups.softwareName + " " + popups.version
-            onCloseRequested: window.requestEnd()
+            onCloseRequested: ways.requestEnd()
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)
             onMinimiseRequested: window.showMinimized()
@@ -284,7 +248,7 @@ T.ApplicationWindow {
             linkText: qsTr("打开演示站点")
             text: qsTr("未安装设备库，无法与设备通信")
             visible: !window.libraryInstalled
-            onLinkActivated: window.requestDemo()
+            onLinkActivated: ways.requestDemo()
         }
         StackLayout {
             id: pages
@@ -302,7 +266,7 @@ T.ApplicationWindow {
                 simulated: window.simulated
                 search: window.deviceSearch
                 searchReports: window.searchReports
-                onDemoRequested: window.requestDemo()
+                onDemoRequested: ways.requestDemo()
                 onGalleryRequested: rows => popups.openGallery(rows, modifyIpPage.deviceTable)
                 onLiveRequested: ipport => popups.openLive(ipport, modifyIpPage.deviceTable)
                 onReportRequested: popups.openSearchReport()
@@ -421,14 +385,11 @@ T.ApplicationWindow {
         version: window.localConfig.getVersion()
         webPages: window.webPages
         onColoursChosen: choice => window.chooseColours(choice)
-        onEndConfirmed: window.leavePage(() => {
-            window.batches.giveUp();
-            window.end();
-        })
+        onEndConfirmed: ways.endBatch()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
-        onRestartRequested: window.requestRestart()
+        onRestartRequested: ways.requestRestart()
         onSettingsAccepted: values => {
             if (!searchSettings.write(values))
                 popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
