@@ -59,6 +59,12 @@ void ChannelNameForm::change(int row, const QString &name)
     tellOf(row);
 }
 
+void ChannelNameForm::setNames(const QStringList &channels, const QStringList &names)
+{
+    for (qsizetype place = 0; place < channels.size(); ++place)
+        set(channels.at(place).toInt(), names.value(place));
+}
+
 void ChannelNameForm::takeBack(int row)
 {
     if (row >= 0 && row < m_rows.size())

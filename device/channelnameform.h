@@ -49,6 +49,9 @@ public:
     /// around.
     Q_INVOKABLE void set(int row, const QString &typed);
 
+    /// The same for several channels, which are given by their numbers from 0 as texts.
+    Q_INVOKABLE void setNames(const QStringList &channels, const QStringList &names);
+
     /// Takes back what was typed.
     Q_INVOKABLE void takeBack(int row);
 

@@ -65,7 +65,7 @@ void DeviceNotes::read()
     m_problem.clear();
     m_notes.clear();
     QFile file(m_path);
-    if (!QFileInfo(m_path).exists())
+    if (!QFileInfo::exists(m_path))
         return;
     if (!file.open(QIODevice::ReadOnly)) {
         m_state = State::Unopened;

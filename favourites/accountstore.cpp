@@ -240,9 +240,10 @@ QString AccountStore::keep(const QList<Device> &devices, const QString &account,
 {
     const std::scoped_lock writing(m_writing);
     Contents changed = contents();
-    const auto known = std::ranges::find_if(changed.accounts, [&](const StoredAccount &stored) {
-        return stored.account == account && stored.password == password;
-    });
+    const auto known =
+        std::ranges::find_if(std::as_const(changed.accounts), [&](const StoredAccount &stored) {
+            return stored.account == account && stored.password == password;
+        });
     StoredAccount kept = {.name = changed.freeName(account), .account = account, .password = password};
     if (known != changed.accounts.cend())
         kept = *known;

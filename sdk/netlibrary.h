@@ -193,8 +193,8 @@ public:
     // Live streams
 
     /// Asks for a live stream of a channel (from 0). `window` is where to show it: always 0. Blocks until the
-    /// device has answered, up to `longestStreamStart`. Returns the handle of the stream, 0 when the device refuses, is away,
-    /// or `loginHandle` is no session. A session that ends takes its streams along.
+    /// device has answered, up to `longestStreamStart`. Returns the handle of the stream, 0 when the device
+    /// refuses, is away, or `loginHandle` is no session. A session that ends takes its streams along.
     virtual std::int64_t NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t window,
                                             LiveStreamKind kind) = 0;
 

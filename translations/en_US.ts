@@ -4012,18 +4012,6 @@ File: </translation>
 <context>
     <name>NamePatternDialog</name>
     <message>
-        <source>请输入命名规则</source>
-        <translation>Enter a pattern</translation>
-    </message>
-    <message>
-        <source>只能使用 {n}、{model} 和 {ip4}</source>
-        <translation>Use only {n}, {model} and {ip4}</translation>
-    </message>
-    <message>
-        <source>名称过长，最多 %1 字节</source>
-        <translation>Longer than %1 bytes</translation>
-    </message>
-    <message>
         <source>填入</source>
         <translation>Fill in</translation>
     </message>
@@ -4080,6 +4068,25 @@ File: </translation>
     <message>
         <source>位数</source>
         <translation>Digits</translation>
+    </message>
+</context>
+<context>
+    <name>NamePlan</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
+    </message>
+    <message>
+        <source>请输入命名规则</source>
+        <translation>Enter a pattern</translation>
+    </message>
+    <message>
+        <source>只能使用 {n}、{model} 和 {ip4}</source>
+        <translation>Use only {n}, {model} and {ip4}</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>Longer than %1 bytes</translation>
     </message>
 </context>
 <context>
@@ -4522,10 +4529,6 @@ File: </translation>
     <message>
         <source>保存并离开</source>
         <translation>Save and leave</translation>
-    </message>
-    <message>
-        <source>通道 %1</source>
-        <translation>Channel %1</translation>
     </message>
     <message>
         <source>批量命名</source>

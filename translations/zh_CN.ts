@@ -3962,18 +3962,6 @@
 <context>
     <name>NamePatternDialog</name>
     <message>
-        <source>请输入命名规则</source>
-        <translation>请输入命名规则</translation>
-    </message>
-    <message>
-        <source>只能使用 {n}、{model} 和 {ip4}</source>
-        <translation>只能使用 {n}、{model} 和 {ip4}</translation>
-    </message>
-    <message>
-        <source>名称过长，最多 %1 字节</source>
-        <translation>名称过长，最多 %1 字节</translation>
-    </message>
-    <message>
         <source>填入</source>
         <translation>填入</translation>
     </message>
@@ -4028,6 +4016,25 @@
     <message>
         <source>位数</source>
         <translation>位数</translation>
+    </message>
+</context>
+<context>
+    <name>NamePlan</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
+    </message>
+    <message>
+        <source>请输入命名规则</source>
+        <translation>请输入命名规则</translation>
+    </message>
+    <message>
+        <source>只能使用 {n}、{model} 和 {ip4}</source>
+        <translation>只能使用 {n}、{model} 和 {ip4}</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>名称过长，最多 %1 字节</translation>
     </message>
 </context>
 <context>
@@ -4462,10 +4469,6 @@
     <message>
         <source>保存并离开</source>
         <translation>保存并离开</translation>
-    </message>
-    <message>
-        <source>通道 %1</source>
-        <translation>通道 %1</translation>
     </message>
     <message>
         <source>批量命名</source>

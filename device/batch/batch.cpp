@@ -248,12 +248,33 @@ bool Batch::canRetry(const QString &identity) const
     });
 }
 
-QString Batch::textOf(const QString &device) const
+const Batch::Entry *Batch::find(const QString &device) const
 {
     const auto place = m_places.constFind(device);
     if (place != m_places.cend())
-        return m_entries.at(*place).outcome.text;
-    return m_retryOf ? m_retryOf->textOf(device) : QString();
+        return &m_entries.at(*place);
+    return m_retryOf ? m_retryOf->find(device) : nullptr;
+}
+
+QString Batch::textOf(const QString &device) const
+{
+    const Entry *entry = find(device);
+    return entry ? entry->outcome.text : QString();
+}
+
+QVariantList Batch::wordsOf(const QStringList &devices) const
+{
+    QVariantList words;
+    for (const QString &device : devices) {
+        const Entry *entry = find(device);
+        if (!entry)
+            continue;
+        const StepOutcome &outcome = entry->outcome;
+        words.append(QVariantMap{
+            {QStringLiteral("device"), device},
+            {QStringLiteral("words"), outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text}});
+    }
+    return words;
 }
 
 QStringList Batch::textsOf(const QStringList &devices) const

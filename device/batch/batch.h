@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <QVariantList>
 
 #include <memory>
 #include <mutex>
@@ -104,6 +105,10 @@ public:
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
     Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
 
+    /// Maps of "device" and "words" for those of the devices that are in this batch, or else in the one that
+    /// it retries: what the outcome says, or the meaning of its code.
+    Q_INVOKABLE [[nodiscard]] QVariantList wordsOf(const QStringList &devices) const;
+
     /// Devices that succeeded but whose outcome says something: they could not take everything.
     Q_INVOKABLE [[nodiscard]] int partlyDone() const;
 
@@ -123,6 +128,8 @@ private:
     [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
                                           const std::shared_ptr<std::once_flag> &flag) const;
     [[nodiscard]] bool isRetryable(const Entry &entry) const;
+    /// Here or else in the batch that this one retries; null when there is none.
+    [[nodiscard]] const Entry *find(const QString &device) const;
     void takeNews();
     void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
     void finish();

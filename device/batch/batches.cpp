@@ -8,6 +8,8 @@
 #include "device/upgradetools.h"
 #include "sdk/threadpriority.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -96,7 +98,23 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                                                       {{QStringLiteral("name"), nameAt.value(device.ipport)}},
                                                       device.ipport);
                       },
+                  .takeOutcomes =
+                      [this, family, nameAt](const QList<BatchOutcome> &outcomes) {
+                          for (const auto &[device, outcome] : outcomes) {
+                              if (outcome.result == BatchReport::Succeeded)
+                                  noteCameraName(family, device, nameAt.value(device.ipport));
+                          }
+                      },
                   .isByAddress = true});
+}
+
+void Batches::noteCameraName(const QString &family, const BatchDevice &device, const QString &name)
+{
+    static const QRegularExpression recorder(QStringLiteral("NVR|SVR|DVR|Matrix"));
+    const QString type =
+        m_factory.getDeviceInfo(family, device.ipport).value(QStringLiteral("type")).toString();
+    if (!type.contains(recorder))
+        m_factory.updataDeviceInfo(family, QStringLiteral("name"), name, device.identity, device.ipport);
 }
 
 Batch *Batches::setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,

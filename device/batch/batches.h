@@ -49,6 +49,7 @@ public:
                                        const QVariantMap &data, const QStringList &ipports);
 
     /// A name for the first channel of each device, at its place in `names`. Devices go by address and port.
+    /// The row of a camera that has taken its name shows it.
     Q_INVOKABLE Batch *nameCameras(const QString &family, const QString &title, const QStringList &ipports,
                                    const QStringList &names);
 
@@ -135,6 +136,8 @@ private:
     /// With an empty identity, all devices.
     Batch *retryWhere(Batch *batch, const QString &identity);
     void leaveOutMoved(BatchPlan &plan);
+    /// A recorder has a name of its own, apart from that of its first channel.
+    void noteCameraName(const QString &family, const BatchDevice &device, const QString &name);
     void saveRecords(const QList<BatchRecord> &records, const QString &path);
     void finish(Batch *batch, int work);
     void markFailed(const Batch &batch);

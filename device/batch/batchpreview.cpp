@@ -27,8 +27,8 @@ QString titleOf(const QVariantMap &device)
 QVariantMap shownOf(const QVariantMap &device, const QString &identity)
 {
     QVariantMap shown = {{QStringLiteral("identity"), identity}, {QStringLiteral("title"), titleOf(device)}};
-    for (const QLatin1StringView key :
-         {DeviceRowKey::mac, DeviceRowKey::ipport, DeviceRowKey::state, DeviceRowKey::upgraderes}) {
+    for (const QLatin1StringView key : {DeviceRowKey::mac, DeviceRowKey::model, DeviceRowKey::ipport,
+                                        DeviceRowKey::state, DeviceRowKey::upgraderes}) {
         if (device.contains(key))
             shown.insert(key, device.value(key));
     }

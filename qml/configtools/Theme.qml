@@ -45,7 +45,7 @@ QtObject {
     readonly property int largeLogoSize: 40
     readonly property int formLabelWidth: 100
     readonly property int searchFieldWidth: 240
-    readonly property int searchFieldMinimum: 120
+    readonly property int searchFieldMinimum: 104
     readonly property int windowWidth: 1280
     readonly property int windowHeight: 720
     readonly property int dialogWidth: 460

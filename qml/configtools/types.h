@@ -8,6 +8,7 @@
 #include "device/batch/batchhistory.h"
 #include "device/batch/batchpreview.h"
 #include "device/batch/batchresultmodel.h"
+#include "device/batch/nameplan.h"
 #include "device/batch/upgradepreview.h"
 #include "device/batchreport.h"
 #include "device/busyreport.h"
@@ -98,6 +99,13 @@ struct AddressPlanForeign
     Q_GADGET
     QML_FOREIGN(AddressPlan)
     QML_NAMED_ELEMENT(AddressPlan)
+};
+
+struct NamePlanForeign
+{
+    Q_GADGET
+    QML_FOREIGN(NamePlan)
+    QML_NAMED_ELEMENT(NamePlan)
 };
 
 struct OVTreeModelForeign

@@ -43,36 +43,37 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
                                                  LiveStreamKind kind)
 {
     std::int64_t handle = 0;
-    const bool isStarted = onSession(loginHandle, longestStreamStart, [&](OnvifSession &session, Deadline deadline) {
-        const std::string profile = profileOf(session, channel, kind);
-        std::optional<MediaService> media = session.media(deadline);
-        if (profile.empty() || !media)
-            return NetError::NotSupported;
-        const ServiceResult<std::string> url = media->streamUrl(profile);
-        if (!url.isOk())
-            return url.error;
-        if (const std::optional<NetError> refusal = session.client().refusal())
-            return *refusal;
-        const HttpLogin login = session.client().login();
-        RtspOrder order;
-        order.url = reachedUrl(url.value, session.service());
-        order.account = login.account;
-        order.password = login.password;
-        order.timeouts.answer = std::chrono::duration_cast<std::chrono::milliseconds>(
-            deadline - std::chrono::steady_clock::now());
-        const auto onRefusal = [this, loginHandle, login] { // no other way sends the password again
-            if (const std::shared_ptr<OnvifSession> refused = this->session(loginHandle))
-                refused->client().setRefused(login);
-        };
-        NetError error = NetError::None;
-        handle = m_streams.open(loginHandle, profile, order, onRefusal, error);
-        if (error == NetError::WrongPassword) {
-            session.client().setRefused(login); // the stream's thread may not have come to it yet
-            return session.client().refusal().value_or(
-                NetError::NetworkFailure); // none: it was an old password
-        }
-        return error;
-    });
+    const bool isStarted =
+        onSession(loginHandle, longestStreamStart, [&](OnvifSession &session, Deadline deadline) {
+            const std::string profile = profileOf(session, channel, kind);
+            std::optional<MediaService> media = session.media(deadline);
+            if (profile.empty() || !media)
+                return NetError::NotSupported;
+            const ServiceResult<std::string> url = media->streamUrl(profile);
+            if (!url.isOk())
+                return url.error;
+            if (const std::optional<NetError> refusal = session.client().refusal())
+                return *refusal;
+            const HttpLogin login = session.client().login();
+            RtspOrder order;
+            order.url = reachedUrl(url.value, session.service());
+            order.account = login.account;
+            order.password = login.password;
+            order.timeouts.answer = std::chrono::duration_cast<std::chrono::milliseconds>(
+                deadline - std::chrono::steady_clock::now());
+            const auto onRefusal = [this, loginHandle, login] { // no other way sends the password again
+                if (const std::shared_ptr<OnvifSession> refused = this->session(loginHandle))
+                    refused->client().setRefused(login);
+            };
+            NetError error = NetError::None;
+            handle = m_streams.open(loginHandle, profile, order, onRefusal, error);
+            if (error == NetError::WrongPassword) {
+                session.client().setRefused(login); // the stream's thread may not have come to it yet
+                return session.client().refusal().value_or(
+                    NetError::NetworkFailure); // none: it was an old password
+            }
+            return error;
+        });
     if (!isStarted)
         m_streams.close(handle); // ended while it started
     return isStarted ? handle : 0;

@@ -35,7 +35,7 @@ RowLayout {
     }
 
     implicitHeight: Theme.toolBarHeight
-    spacing: Theme.pageMargin
+    spacing: Theme.controlGap
 
     OVActionRow {
         OVButton {

@@ -71,41 +71,15 @@ FocusScope {
     }
 
     function namePattern() {
-        const names = session.names;
-        const row = deviceFactory.getDeviceInfo("dh", session.device);
-        const channels = [];
-        for (let channel = 0; channel < names.form.count; ++channel)
-            channels.push({name: String(channel), title: qsTr("通道 %1").arg(channel + 1), ipport: session.device,
-                           model: row.model ?? ""});
-        const cameras = Array.from(devices.checkedDevices)
-            .map(ipport => ({name: ipport, ipport: ipport, model: deviceFactory.getDeviceInfo("dh", ipport).model ?? ""}));
-        naming.wanted().ask(channels, cameras);
+        naming.wanted().ask(session.device, session.names.form.count, Array.from(devices.checkedDevices));
     }
 
-    /// Names of one channel are typed into the table, those of several cameras are written at once.
-    function takePattern(ofChannels, entries) {
-        if (ofChannels) {
-            for (const entry of entries)
-                session.names.form.set(Number(entry.name), entry.newName);
-            return;
-        }
-        naming.names = entries;
-        naming.batch = batches.nameCameras("dh", qsTr("批量命名"), entries.map(entry => entry.ipport),
-                                           entries.map(entry => entry.newName));
-    }
-
-    /// The list shows the name of a camera as soon as the camera has taken it. A recorder has a name of its own.
-    function showNames(ipports, results) {
-        for (let i = 0; i < ipports.length; ++i) {
-            const row = deviceFactory.getDeviceInfo("dh", ipports[i]);
-            const entry = naming.names.find(entry => entry.ipport === ipports[i]);
-            if (results[i] === 0 && entry && !/NVR|SVR|DVR|Matrix/.test(row.type ?? ""))
-                deviceFactory.updataDeviceInfo("dh", "name", entry.newName, row.mac ?? "", ipports[i]);
-            if (results[i] === 0 && ipports[i] === session.device)
-                session.names.forget();
-        }
+    /// The list shows the names of the cameras that have taken them.
+    function takeNamed(report) {
+        if (report.devicesWith(BatchReport.Succeeded).includes(session.device))
+            session.names.forget();
         session.readShown();
-        page.refresh();
+        refresh();
     }
 
     function choose(ipport) {
@@ -220,22 +194,30 @@ FocusScope {
                 naming.batch = again;
         }
     }
+    Timer {  // of many cameras, the list is read a few times a second
+        id: namesToShow
+        interval: 300
+        onTriggered: page.refresh()
+    }
     Connections {
         target: naming.batch
 
-        function onResulted(ipports, results) {
-            page.showNames(ipports, results);
+        function onResulted() {
+            namesToShow.start();
+        }
+        function onFinished() {
+            page.takeNamed(naming.batch.report);
         }
     }
     // qmllint disable unqualified
     OVOnDemand {
         id: naming
-        property var names: []  // of the batch
         property Batch batch: null
         visible: false
         sourceComponent: NamePatternDialog {
             deviceFactory: page.deviceFactory
-            onConfirmed: (ofChannels, entries) => page.takePattern(ofChannels, entries)
+            onCamerasNamed: (ipports, names) => naming.batch = page.batches.nameCameras("dh", qsTr("批量命名"), ipports, names)
+            onChannelsNamed: (channels, names) => session.names.form.setNames(channels, names)
         }
     }
     // qmllint enable unqualified

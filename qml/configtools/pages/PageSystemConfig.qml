@@ -27,7 +27,6 @@ FocusScope {
     property string passwordTicks  // the ticked devices when the old password was checked
     property var checkedWhenAsked: []  // the devices of the last command
     property var leftOut: []  // of the last change of passwords
-    property var clocks: ({})  // what the devices answered that were asked for their time, by device
 
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
@@ -85,7 +84,6 @@ FocusScope {
         if (!batch.run(command, title, targets, data))
             return;
         checkedWhenAsked = targets;
-        clocks = {};
         devices.clearResults();
     }
 
@@ -109,21 +107,11 @@ FocusScope {
         });
     }
 
-    function noteClocks(ipports, results) {
-        if (batch.command !== "readTime")
-            return;
-        const texts = batch.batch.textsOf(ipports);
-        ipports.forEach((ipport, place) => {
-            const text = texts[place] ?? "";
-            clocks[ipport] = text !== "" ? text : deviceFactory.getErrorName(results[place]);
-        });
-    }
-
     function takeEnd() {
         if (batch.report.waiting === 0)
             refresh();  // which devices are without a login has changed
         if (batch.command === "readTime")
-            panels.clocks = checkedWhenAsked.filter(device => clocks[device] !== undefined).map(device => ({device: device, clock: clocks[device]}));
+            panels.clocks = batch.batch.wordsOf(checkedWhenAsked);
         else if (batch.command === "loginCheck" && batch.report.waiting > 0)
             askForNewPassword();
         else if (batch.command === "modifyPassword")
@@ -155,10 +143,7 @@ FocusScope {
         batches: page.batches
         onFinished: page.takeEnd()
         onRetried: page.checkedWhenAsked = Array.from(devices.checkedDevices)
-        onResulted: (ipports, results) => {
-            page.noteClocks(Array.from(ipports), Array.from(results));
-            devices.takeResults(ipports, results, []);
-        }
+        onResulted: (ipports, results) => devices.takeResults(ipports, results, [])
     }
     AccountKeeper {
         id: keeper

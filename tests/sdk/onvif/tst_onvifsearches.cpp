@@ -166,7 +166,8 @@ private Q_SLOTS:
             const QString content =
                 uR"(<a:EndpointReference xmlns:a="http://schemas.xmlsoap.org/ws/2004/08/addressing">)"
                 uR"(<a:Address>urn:uuid:%1</a:Address></a:EndpointReference><q:XAddrs>%2</q:XAddrs>)"_s;
-            sockets.sendToGroups(discoveryMessage("Hello", content.arg(uuids.last(), services).toStdString()));
+            sockets.sendToGroups(
+                discoveryMessage("Hello", content.arg(uuids.last(), services).toStdString()));
         }
         const auto areAllListed = [&] {
             return std::all_of(own.cbegin(), own.cend(),

@@ -6,73 +6,64 @@ OVDialog {
     id: root
 
     required property var deviceFactory
-    property var channels: []  // of the current device: "name", "title", "ipport" and "model"
-    property var cameras: []   // the ticked ones, of which the first channel is named
+    property string device: ""    // whose channels are named
+    property int channelCount: 0
+    property var cameras: []      // addresses and ports of the ticked ones, of which the first channel is named
     property bool ofChannels: true
-    readonly property var entries: ofChannels ? channels : cameras
-    readonly property int start: Number(startField.text)
-    readonly property int digits: Number(digitsField.text)
-    readonly property var newNames: entries.map((entry, place) => nameOf(entry, place))
-    readonly property bool numbered: /\{(n|ip4)\}/.test(patternField.text)
-    readonly property string fault: patternField.text.trim() === "" ? qsTr("请输入命名规则")
-        : /\{(?!(n|model|ip4)\})/.test(patternField.text) ? qsTr("只能使用 {n}、{model} 和 {ip4}")
-        : newNames.some(name => ByteText.bytes(name) > ByteText.channelNameBytes)
-          ? qsTr("名称过长，最多 %1 字节").arg(ByteText.channelNameBytes)
+    readonly property string fault: plan.fault !== "" ? plan.fault
         : !startField.acceptable || !digitsField.acceptable ? startField.complaint : ""
     property bool tried: false
-    signal confirmed(bool ofChannels, var entries)  // each with "newName"
+    signal channelsNamed(var channels, var names)  // numbers from 0, as texts
+    signal camerasNamed(var ipports, var names)
 
-    function ask(channels, cameras) {
-        root.channels = channels;
+    function ask(device, channelCount, cameras) {
+        root.device = device;
+        root.channelCount = channelCount;
         root.cameras = cameras;
-        ofChannels = cameras.length === 0 || channels.length > 1;
         tried = false;
+        choose(cameras.length === 0 || channelCount > 1);
         open();
     }
 
-    /// {n} counts, {model} is the model, {ip4} the last number of the IPv4 address.
-    function nameOf(entry, place) {
-        const last = (entry.ipport.match(/(\d+):\d+$/) ?? ["", ""])[1];
-        return patternField.text.replace(/\{n\}/g, () => String(start + place).padStart(digits, "0"))
-            .replace(/\{model\}/g, () => entry.model).replace(/\{ip4\}/g, () => last).trim();
+    function choose(ofChannels) {
+        root.ofChannels = ofChannels;
+        if (ofChannels)
+            plan.takeChannels(device, channelCount);
+        else
+            plan.takeCameras(cameras);
     }
 
     function begin() {
-        const chosen = preview.checkedIdentities();
-        const named = entries.map((entry, place) => Object.assign({}, entry, {newName: newNames[place]}));
         close();
-        confirmed(ofChannels, named.filter(entry => chosen.includes(entry.name)));
-    }
-
-    function showPreview() {
-        preview.setEntries(entries.map((entry, place) => ({
-            name: entry.name, title: entry.title ?? "", ipport: entry.ipport, action: newNames[place]
-        })));
+        if (ofChannels)
+            channelsNamed(plan.checkedIdentities(), plan.names());
+        else
+            camerasNamed(plan.checkedIdentities(), plan.names());
     }
 
     width: Theme.batchPreviewWidth
     objectName: "namePatternDialog"
     okText: ofChannels ? qsTr("填入") : qsTr("执行")
     title: qsTr("按规则命名")
-    onEntriesChanged: showPreview()
-    onNewNamesChanged: showPreview()
     onOpened: patternField.forceActiveFocus()
     onAccepted: {
         tried = true;
-        const chosen = preview.checkedIdentities();
         if (fault !== "")
             refuse(fault);
-        else if (chosen.length === 0)
+        else if (plan.checkedCount === 0)
             refuse(qsTr("请选择要命名的项"));
-        else if (!ofChannels && preview.warningCount > 0)
-            question.ask(preview.warningCount);
+        else if (!ofChannels && plan.warningCount > 0)
+            question.ask(plan.warningCount);
         else
             begin();
     }
 
-    BatchPreview {
-        id: preview
+    NamePlan {
+        id: plan
         deviceFactory: root.deviceFactory
+        digits: Number(digitsField.text)
+        pattern: patternField.text
+        start: Number(startField.text)
     }
 
     footContent: OVLabel {
@@ -88,11 +79,11 @@ OVDialog {
         OVSegmentedChoice {
             currentIndex: root.ofChannels ? 0 : 1
             options: [
-                {text: qsTr("当前设备的 %n 个通道", "", root.channels.length), objectName: "nameChannelsChoice"},
+                {text: qsTr("当前设备的 %n 个通道", "", root.channelCount), objectName: "nameChannelsChoice"},
                 {text: qsTr("勾选的 %n 台摄像机", "", root.cameras.length), objectName: "nameCamerasChoice"}
             ]
             visible: root.cameras.length > 0
-            onActivated: index => root.ofChannels = index === 0
+            onActivated: index => root.choose(index === 0)
         }
         Row {
             spacing: Theme.pageMargin
@@ -108,7 +99,7 @@ OVDialog {
                     errorText: (root.tried || root.fault.includes("{")) && root.fault !== startField.complaint ? root.fault : ""
                     objectName: "patternField"
                     text: "Hall {n}"
-                    warningText: root.entries.length > 1 && !root.numbered ? qsTr("多个通道会得到同一个名称") : ""
+                    warningText: plan.repeated ? qsTr("多个通道会得到同一个名称") : ""
                 }
             }
             OVField {
@@ -142,7 +133,7 @@ OVDialog {
             height: Theme.batchPreviewHeight
             givesNames: true
             objectName: "namePreview"
-            preview: preview
+            preview: plan
         }
     }
     BatchWarningQuestion {

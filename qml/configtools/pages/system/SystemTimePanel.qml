@@ -7,7 +7,7 @@ Column {
 
     required property bool available
     required property string timeZone
-    property var clocks: []  // maps of "device" and "clock", of the devices that were last asked for their time
+    property var clocks: []  // maps of "device" and "words", of the devices that were last asked for their time
     signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
@@ -120,7 +120,7 @@ Column {
             checkable: false
             columns: [
                 {key: "device", title: qsTr("设备"), width: Theme.columnAddress, cell: figureCell},
-                {key: "clock", title: qsTr("设备时间"), width: Theme.columnAddress, stretch: 1}
+                {key: "words", title: qsTr("设备时间"), width: Theme.columnAddress, stretch: 1}
             ]
             model: clockRows
             objectName: "clockTable"

@@ -1,0 +1,66 @@
+// Names of channels and cameras from a pattern.
+#include "device/batch/nameplan.h"
+#include "tests/datatable.h"
+#include "tests/device/rowsbackend.h"
+
+class TestNamePlan : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void patternsGiveNames_data()
+    {
+        const auto row = dataTable<QString, int, int, QStringList, QString, bool>(
+            {"pattern", "start", "digits", "names", "fault", "repeated"});
+        row("numbers", " Hall {n} ", 9, 2, {"Hall 09", "Hall 10"}, {}, false);
+        row("a number twice", "{n}/{n}", 1, 1, {"1/1", "2/2"}, {}, false);
+        row("model and address", "{model}-{ip4}", 1, 1, {"B-2230-IR-8", "B-2230-IR-21"}, {}, false);
+        row("the same for all", "Hall", 1, 1, {"Hall", "Hall"}, {}, true);
+        row("nothing", "  ", 1, 1, {"", ""}, QStringLiteral("请输入命名规则"), true);
+        row("an unknown part", "{x}", 1, 1, {"{x}", "{x}"}, QStringLiteral("只能使用 {n}、{model} 和 {ip4}"),
+            true);
+        row("too many bytes", QString(128, QChar(0x5385)), 1, 1,
+            {QString(128, QChar(0x5385)), QString(128, QChar(0x5385))},
+            QStringLiteral("名称过长，最多 255 字节"), true);
+    }
+
+    void patternsGiveNames()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(int, start);
+        QFETCH(int, digits);
+        RowsFactory site;
+        site.rows->add({.address = "192.168.1.8", .mac = "m0"});
+        site.rows->add({.address = "192.168.1.21", .mac = "m1"});
+        NamePlan plan;
+        plan.setDeviceFactory(&site.factory);
+        plan.setPattern(pattern);
+        plan.setStart(start);
+        plan.setDigits(digits);
+        QStringList cameras;
+        for (const QVariant &listed : std::as_const(site.rows->ipv4))
+            cameras.append(listed.toJsonObject().value(QLatin1StringView("ipport")).toString());
+        plan.takeCameras(cameras);
+        QTEST(plan.names(), "names");
+        QTEST(plan.fault(), "fault");
+        QTEST(plan.isRepeated(), "repeated");
+        QCOMPARE(plan.checkedIdentities(), cameras);
+    }
+
+    /// A pattern that is typed on keeps what the user has unticked, and its number.
+    void anUntickedChannelGetsNoName()
+    {
+        RowsFactory site;
+        NamePlan plan;
+        plan.setDeviceFactory(&site.factory);
+        plan.takeChannels("192.168.1.8:8800", 3);
+        plan.setRangeChecked(1, 1, false);
+        plan.setPattern("C{n}");
+        QCOMPARE(plan.names(), QStringList({"C1", "C3"}));
+        QCOMPARE(plan.checkedIdentities(), QStringList({"0", "2"}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestNamePlan)
+
+#include "tst_nameplan.moc"
