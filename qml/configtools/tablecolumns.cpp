@@ -175,10 +175,10 @@ QList<TableColumns::Column> TableColumns::read(const QString &text) const
             continue;
         QList<Column> &group = isFixed(usual.at(place).key) ? fixed : columns;
         // Behind the column that it follows in the default.
-        const auto after = std::find_if(group.begin(), group.end(), [&](const Column &column) {
+        const auto after = std::find_if(group.cbegin(), group.cend(), [&](const Column &column) {
             return place > 0 && column.key == usual.at(place - 1).key;
         });
-        group.insert(after == group.end() ? group.begin() : std::next(after), usual.at(place));
+        group.insert(after == group.cend() ? group.cbegin() : std::next(after), usual.at(place));
     }
     const bool isAnyShown =
         std::any_of(columns.cbegin(), columns.cend(), [](const Column &column) { return column.isShown; });

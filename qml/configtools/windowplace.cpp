@@ -83,10 +83,12 @@ QRect WindowPlace::fitted(QRect wanted, QSize least, const QList<QRect> &screens
 
 void WindowPlace::componentComplete()
 {
-    for (const auto changed :
-         {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
-        connect(m_window, changed, &m_settling, qOverload<>(&QTimer::start));
-    connect(m_window, &QWindow::visibilityChanged, &m_settling, qOverload<>(&QTimer::start));
+    const auto settle = qOverload<>(&QTimer::start);
+    connect(m_window, &QWindow::xChanged, &m_settling, settle);
+    connect(m_window, &QWindow::yChanged, &m_settling, settle);
+    connect(m_window, &QWindow::widthChanged, &m_settling, settle);
+    connect(m_window, &QWindow::heightChanged, &m_settling, settle);
+    connect(m_window, &QWindow::visibilityChanged, &m_settling, settle);
 
     const std::optional<StoredPlace> place = readPlace(m_stored);
     if (!place)

@@ -115,11 +115,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         if (content.contains("shown: true"))
             QTRY_VERIFY(findBelow(window->contentItem(), "toolTip", Sight::Visible) != nullptr);
+        const QRegularExpression wanted(fault);
         const auto isSaid = [&] { // only when what opens has come to rest
             const QStringList faults = layoutFaults(*window);
-            return faults.isEmpty()
-                       ? fault.isEmpty()
-                       : !fault.isEmpty() && faults.constFirst().contains(QRegularExpression(fault));
+            return faults.isEmpty() ? fault.isEmpty()
+                                    : !fault.isEmpty() && faults.constFirst().contains(wanted);
         };
         QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(layoutFaults(*window).join('\n')), 2000);
     }
