@@ -127,8 +127,9 @@ bool isRowInReserve(QQuickItem *item)
         return false;
     constexpr qreal inside = 0.5;
     QQuickItem *shown = nullptr;
-    // clang-format off: the name of the type is written as the toolkit has it
-    QMetaObject::invokeMethod(view, "itemAt", Q_RETURN_ARG(QQuickItem *, shown),
+    // The name of the type is written as the toolkit has it.
+    // clang-format off
+    QMetaObject::invokeMethod(view, "itemAt", Q_RETURN_ARG(QQuickItem*, shown),
                               Q_ARG(qreal, item->x() + inside), Q_ARG(qreal, item->y() + inside));
     // clang-format on
     return shown != item;
