@@ -113,10 +113,10 @@ public:
     /// Lines of the documents of the last startUpgradeByDocument(): "total" of them, "done" with.
     virtual QVariantMap upgradeDocumentProgress();
 
-    /// Sees to it that there is a session with the device: the current one, where the device answers in it,
-    /// else that of a new login, which is then told as findAndLoginDevice() tells it. Returns at once;
-    /// signalCDeviceSessionOpened tells the end, unless another device is logged in to or asked for
-    /// meanwhile. `readsChannels` asks for the channels of a session that goes on, too.
+    /// Keeps the current session if it is with the device and the device responds in it, otherwise logs in,
+    /// which is reported as by findAndLoginDevice(). Returns at once; signalCDeviceSessionOpened reports the
+    /// end, unless another device is logged in to or requested during that. With `readsChannels`, the
+    /// channels of a kept session are requested as well.
     virtual void openSession(const QString &ipport, const QString &account, const QString &password,
                              bool readsChannels, bool isGivenNow);
     /// Gives up what openSession() began: nothing comes of it any more.

@@ -35,8 +35,8 @@ public:
     /// The same for the scene, whose whole numbers go up to 2^53.
     [[nodiscard]] double handleNumber() const { return static_cast<double>(handle()); }
 
-    /// Sees to it that there is a session with the device: the present one goes on where the device answers
-    /// in it. ended() follows, unless another order comes first.
+    /// Keeps the present session if the device responds in it, otherwise logs in. ended() follows, unless
+    /// another order comes first.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
     /// Logs out, and gives up what open() began.

@@ -94,7 +94,7 @@ void walkWay(Driver &live)
 void walkSeveralDevices(Driver &live)
 {
     live.click(u"liveAddButton"_s);
-    live.await(u"a refused login is told in its place"_s,
+    live.await(u"the cell shows the refused login"_s,
                [&] { return live.find(u"liveRetryButton"_s) != nullptr; });
     awaitPlaying(live, {0, 1, 3, 4, 5});
     live.report(u"several"_s, live.texts(u"liveChannelName"_s).join(u", "_s));

@@ -1,5 +1,5 @@
 // Keeps the account that the devices of a batch have taken, as the user has chosen before. What has been taken is kept
-// while the batch runs: the program may end in the midst of it.
+// while the batch runs: the program may end during the batch.
 import QtQuick
 import configtools
 

@@ -16,7 +16,7 @@ OVSegmentedChoice {
             devices.shown = shownOf[index];
     }
 
-    // Objects: a count that changes does not make the choice anew, which may have the keyboard.
+    // Objects: a changed count does not create the choice again, which may have the keyboard focus.
     QtObject {
         id: all
         readonly property bool enabled: true
