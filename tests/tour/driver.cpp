@@ -239,11 +239,12 @@ void Driver::report(const QString &step, const QString &seen)
     atRest();
     checkNames(m_window->contentItem());
     const QString picture = QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(step);
+    // Taking the picture lays out what has changed since the last frame, a counter that climbs for instance.
+    const QImage image = m_window->grabWindow();
     // A warning fails the tour at its end; the other pictures are seen as well until then.
     const QStringList faults = layoutFaults(*m_window);
     for (const QString &fault : faults)
         qWarning().noquote() << "Layout of" << picture + ':' << fault;
-    const QImage image = m_window->grabWindow();
     check(!image.isNull() && image.save(m_pictureFolder + QLatin1Char('/') + picture),
           QStringLiteral("the picture %1 is saved").arg(picture));
     QTextStream(stdout) << picture << ": " << seen << Qt::endl;
