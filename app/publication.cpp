@@ -16,6 +16,7 @@
 #include "device/devicefactory.h"
 #include "device/devicenotes.h"
 #include "device/searchreports.h"
+#include "qml/configtools/programfolders.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
@@ -43,8 +44,9 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                 CDeviceFactory::getinstance()->setDefaultAccount(QStringLiteral("dh"), account.account,
                                                                  account.password);
             }};
-    context->setContextProperty(QStringLiteral("AccountsApi"),
-                                new AccountList(*CDeviceFactory::getinstance(), accounts, defaults, &engine));
+    auto *accountList = new AccountList(*CDeviceFactory::getinstance(), accounts, defaults, &engine);
+    accountList->setFavourites(ProgramFolders().favourites());
+    context->setContextProperty(QStringLiteral("AccountsApi"), accountList);
     auto *batches = new Batches(
         *CDeviceFactory::getinstance(), batchEngine,
         [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine);

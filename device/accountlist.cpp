@@ -3,6 +3,7 @@
 #include "device/devicefactory.h"
 #include "device/devicefamily.h"
 #include "device/devicerow.h"
+#include "favourites/favouritepasswords.h"
 
 #include <algorithm>
 #include <utility>
@@ -167,9 +168,21 @@ void AccountList::keepForDevices(const QList<Device> &devices, QString &failure)
     }
 }
 
+void AccountList::renewFavourites(const QList<Device> &devices) const
+{
+    QList<AcceptedPassword> accepted;
+    accepted.reserve(devices.size());
+    for (const Device &device : devices) {
+        const QString &account = device.own.account.isEmpty() ? m_default.account : device.own.account;
+        accepted.append({.ipport = device.ipport, .account = account, .password = device.own.password});
+    }
+    renewFavouritePasswords(m_favourites, accepted);
+}
+
 QString AccountList::keepNew(const QStringList &devices, Keeping keeping)
 {
     const QList<Device> found = devicesOf(devices);
+    renewFavourites(found);
     QString failure;
     if (keeping == ForDevices) {
         keepForDevices(found, failure);

@@ -46,6 +46,9 @@ public:
     AccountList(CDeviceFactory &factory, std::shared_ptr<AccountStore> store, Defaults defaults,
                 QObject *parent = nullptr);
 
+    /// The folder of favourites that keepNew() writes new passwords into; none without it.
+    void setFavourites(const QString &folder) { m_favourites = folder; }
+
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] QString problem() const { return m_store->problem(); }
 
@@ -73,7 +76,8 @@ public:
     Q_INVOKABLE [[nodiscard]] int countUnidentified(const QStringList &devices) const;
 
     /// Keeps the accounts that the rows of these devices hold since the devices have taken them. Where they
-    /// are not to be kept, an account that was kept for the devices before goes: they refuse it.
+    /// are not to be kept, an account that was kept for the devices before goes: they refuse it. Their
+    /// favourites get the new passwords in either case.
     Q_INVOKABLE QString keepNew(const QStringList &devices, AccountList::Keeping keeping);
 
     /// Keeps an account that a device has accepted for this device.
@@ -98,11 +102,13 @@ private:
     [[nodiscard]] QList<Device> devicesOf(const QStringList &names) const;
     [[nodiscard]] static QList<AccountStore::Device> identitiesOf(const QList<Device> &devices);
     void setRowAccount(const Device &device, const DeviceAccount &account);
+    void renewFavourites(const QList<Device> &devices) const;
     void keepForDevices(const QList<Device> &devices, QString &failure);
 
     CDeviceFactory &m_factory;
     const std::shared_ptr<AccountStore> m_store;
     const Defaults m_defaults;
+    QString m_favourites; ///< the folder; empty for none
     DeviceAccount m_default;
     QList<StoredAccount> m_accounts;
     QHash<QString, int> m_deviceCounts; ///< by the name of the account

@@ -1,9 +1,11 @@
 // Which account a device is asked with, and what becomes of one that it has just taken.
 #include "device/accountlist.h"
+#include "favourites/author.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
 #include "tests/files/filecontents.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 namespace {
@@ -152,7 +154,25 @@ private Q_SLOTS:
         QCOMPARE(m_factory->systemStep("dh", "modifyPassword", changed, first)(StepControl()).result, 0);
         m_factory->systemConfig("dh", "cancelLogin", {}, {});
         QCOMPARE(asking(first), "admin 0");
+        const CAuthor author;
+        const QString folder = m_folder.filePath("fav");
+        QVERIFY(QDir().mkpath(folder));
+        const auto save = [&](const char *type, const char *address, const char *account) {
+            author.saveTextAsJson(folder, type, address, "37777", account, author.AesEncrypt("secret1"),
+                                  "Door");
+        };
+        save("0", "192.168.1.10", "admin");
+        save("0", "192.168.1.11", "admin");
+        m_list->setFavourites(folder);
         QCOMPARE(m_list->keepNew({first}, AccountList::ForDevices), "");
+        const QVariantMap favourites = author.readJsonFilesFromFolder(folder);
+        QCOMPARE(favourites["192.168.1.10_37777.json"].toStringList(),
+                 QStringList({"0", "192.168.1.10", "37777", "admin", author.AesEncrypt("second-2"), "Door"}));
+        QCOMPARE(favourites["192.168.1.11_37777.json"].toStringList().at(4), author.AesEncrypt("secret1"));
+        save("0", "192.168.1.10", "guest");
+        QCOMPARE(m_list->keepNew({first}, AccountList::ForDevices), "");
+        QCOMPARE(author.readJsonFilesFromFolder(folder)["192.168.1.10_37777.json"].toStringList().at(4),
+                 author.AesEncrypt("secret1"));
         start();
         QCOMPARE(asking(first), "admin 0");
         QCOMPARE(m_default.password, "secret1");
