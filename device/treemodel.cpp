@@ -1,6 +1,7 @@
 #include "device/treemodel.h"
 
 #include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/deviceorder.h"
 #include "device/devicerow.h"
 #include "device/loginresult.h"
@@ -277,7 +278,7 @@ void OVTreeModel::takeMarks()
 QVariantList OVTreeModel::readRows() const
 {
     return DeviceOrder(DeviceRowKey::ipport)
-        .ordered(m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText));
+        .ordered(m_deviceFactory->filterData(dhFamily, m_filterType, m_searchText));
 }
 
 void OVTreeModel::noteUsualPort(const QVariantList &rows)
@@ -421,6 +422,22 @@ QStringList OVTreeModel::checkedDevices() const
         for (const Device &device : group.devices) {
             if (device.checked)
                 devices.append(device.ipport);
+        }
+    }
+    return devices;
+}
+
+QVariantList OVTreeModel::devicesToWatch() const
+{
+    const bool isAny = checkedCount() > 0;
+    QVariantList devices;
+    for (const Group &group : m_groups) {
+        for (const Device &device : group.devices) {
+            if (isAny && !device.checked)
+                continue;
+            const QString name =
+                m_deviceFactory->getDeviceInfo(dhFamily, device.ipport).value(DeviceRowKey::name).toString();
+            devices.append(QVariantMap{{DeviceRowKey::ipport, device.ipport}, {DeviceRowKey::name, name}});
         }
     }
     return devices;

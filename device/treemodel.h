@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QList>
 #include <QPointer>
+#include <QVariantList>
 
 #include <utility>
 
@@ -98,6 +99,9 @@ public:
     [[nodiscard]] int deviceCount() const;
 
     Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
+
+    /// "ipport" and "name" of the ticked devices, or of all while none is ticked, in the order of the tree.
+    Q_INVOKABLE [[nodiscard]] QVariantList devicesToWatch() const;
 
     /// The tick of the whole tree, as that of a group.
     [[nodiscard]] Qt::CheckState checkState() const;

@@ -301,12 +301,13 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageDeviceConfig {
+                        id: configs
                         batches: window.batches
                         busyState: window.busyState
                         libraryInstalled: window.libraryInstalled
                         notes: window.notes
                         search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLive(ipport)
+                        onLiveRequested: ipport => popups.openLiveOfTree(ipport, configs.treeDevices)
                         onSaid: (message, kind, stay) => popups.say(message, kind, stay)
                         onSearchRequested: window.requestSearch()
                         onSettled: popups.settle()
@@ -320,11 +321,12 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageSystemConfig {
+                        id: systems
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         notes: window.notes
                         search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLive(ipport)
+                        onLiveRequested: ipport => popups.openLiveOfTree(ipport, systems.treeDevices)
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
                         onSettled: popups.settle()
@@ -338,12 +340,13 @@ T.ApplicationWindow {
                 // qmllint disable unqualified
                 sourceComponent: Component {
                     PageCGIConfig {
+                        id: commands
                         batches: window.batches
                         libraryInstalled: window.libraryInstalled
                         memory: window.memory
                         notes: window.notes
                         search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLive(ipport)
+                        onLiveRequested: ipport => popups.openLive(ipport, commands.deviceTable)
                         onSaid: (message, kind) => popups.say(message, kind)
                         onSearchRequested: window.requestSearch()
                         onSettled: popups.settle()

@@ -8,12 +8,21 @@
 #include "device/upgradetools.h"
 #include "tests/device/searchanswers.h"
 
+#include <algorithm>
+
 class RowsBackEnd : public CDeviceBase
 {
     Q_OBJECT
 public:
     RowsBackEnd() : CDeviceBase(nullptr) {}
 
+    QVariantMap getDeviceInfo(const QString &ipport) override
+    {
+        const auto row = std::ranges::find_if(ipv4, [&ipport](const QVariant &candidate) {
+            return candidate.toJsonObject().value("ipport").toString() == ipport;
+        });
+        return row == ipv4.cend() ? QVariantMap() : row->toJsonObject().toVariantMap();
+    }
     QVariantList filterData(const QString &filtertype, const QString &searchtext) override
     {
         if (beforeReading)

@@ -121,11 +121,14 @@ private Q_SLOTS:
     void ticksAndResultsOutliveARebuild()
     {
         const QModelIndex device = m_model->index(0, 0, m_model->index(0, 0));
+        QCOMPARE(m_model->devicesToWatch().size(), m_model->deviceCount());
         m_model->setData(device, true, OVTreeModel::IsCheckedRole);
         m_model->setData(device, 999, OVTreeModel::CopyRetRole);
         m_model->resetItems("search", "SD");
         m_model->resetItems("removeuninit", "");
         QCOMPARE(m_model->checkedDevices(), QStringList("10.0.0.3:37777"));
+        QCOMPARE(m_model->devicesToWatch(),
+                 QVariantList({QVariantMap{{"ipport", "10.0.0.3:37777"}, {"name", "大厅"}}}));
         QCOMPARE(state(0), Qt::PartiallyChecked);
         QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 999);
 

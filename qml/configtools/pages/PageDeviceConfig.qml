@@ -18,6 +18,7 @@ FocusScope {
     signal settled  // the selection has changed: a refusal may no longer hold
 
     readonly property int ticked: devices.checkedCount
+    readonly property alias treeDevices: devices
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi

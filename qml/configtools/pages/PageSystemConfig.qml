@@ -16,6 +16,7 @@ FocusScope {
     signal settled  // the selection has changed: a refusal may no longer hold
 
     readonly property int ticked: devices.checkedCount
+    readonly property alias treeDevices: devices
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi

@@ -46,10 +46,15 @@ Item {
         restart.wanted().open();
     }
 
-    /// `table` is the list that the device is of, a DeviceTableModel; null for another list. The live window goes through
-    /// the ticked devices of it, or through its rows while none is ticked.
+    /// `table` is the list that the device is of, a DeviceTableModel. The live window goes through the ticked devices of
+    /// it, or through its rows while none is ticked.
     function openLive(ipport, table) {
-        live.wanted().open(ipport, -1, table, (table?.checkedCount ?? 0) > 0 ? table.checkedRows() : []);
+        live.wanted().open(ipport, -1, table, table.checkedCount > 0 ? table.checkedRows() : []);
+    }
+
+    /// The same for a device of a tree, an OVTreeModel.
+    function openLiveOfTree(ipport, tree) {
+        live.wanted().open(ipport, -1, null, tree.devicesToWatch());
     }
 
     /// The pictures of these rows of `table`.
