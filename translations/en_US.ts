@@ -1540,10 +1540,6 @@ Right-click to copy the result</translation>
         <source>设备已重新登录，尚未保存的修改已丢失</source>
         <translation>Logged in again. Changes that were not saved are lost.</translation>
     </message>
-    <message>
-        <source>设备没有应答</source>
-        <translation>No answer from the device</translation>
-    </message>
 </context>
 <context>
     <name>DeviceActions</name>
@@ -3367,6 +3363,13 @@ Right-click to copy the result</translation>
     <message>
         <source>通道 %1</source>
         <translation>Channel %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoginMemory</name>
+    <message>
+        <source>%1 没有应答</source>
+        <translation>No answer from %1</translation>
     </message>
 </context>
 <context>

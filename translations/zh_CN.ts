@@ -1508,10 +1508,6 @@
         <source>设备已重新登录，尚未保存的修改已丢失</source>
         <translation>设备已重新登录，尚未保存的修改已丢失</translation>
     </message>
-    <message>
-        <source>设备没有应答</source>
-        <translation>设备没有应答</translation>
-    </message>
 </context>
 <context>
     <name>DeviceActions</name>
@@ -3324,6 +3320,13 @@
     <message>
         <source>通道 %1</source>
         <translation>通道 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoginMemory</name>
+    <message>
+        <source>%1 没有应答</source>
+        <translation>%1 没有应答</translation>
     </message>
 </context>
 <context>

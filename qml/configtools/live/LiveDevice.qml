@@ -13,7 +13,7 @@ Item {
     property bool asking: false        // whether it answers, with a login where it has to be
     readonly property bool busy: asking && !loggedIn
     property int result: 0             // a LoginResult
-    readonly property string failure: result !== 0 ? deviceFactory.getErrorName(result) : ""
+    readonly property string failure: result !== 0 ? LoginMemory.failureText(result, ipport, deviceFactory) : ""
     readonly property alias resting: pause.running  // until the next try of a login
     readonly property alias restSeconds: pause.seconds
     property var channels: []          // maps of "channel" (from 0), "name" and "connected"

@@ -40,6 +40,12 @@ QtObject {
         offered = {ipport: ipport, account: account, password: password, isForAll: isForAll, isKept: isKept};
     }
 
+    /// Why a login failed, for a place where no address is beside it.
+    function failureText(result, ipport, deviceFactory) {
+        const networkFailure = 5;
+        return result === networkFailure ? qsTr("%1 没有应答").arg(ipport) : deviceFactory.getErrorName(result);
+    }
+
     function timesWrong(ipport) {
         return wrongTimes[ipport] ?? 0;
     }

@@ -109,7 +109,7 @@ private Q_SLOTS:
         QVERIFY(get("busy").toBool());
         m_factory->answer(5);
         QVERIFY(!get("busy").toBool());
-        QCOMPARE(get("failure").toString(), "result 5");
+        QCOMPARE(get("failure").toString(), device + " 没有应答");
         QCOMPARE(get("restSeconds").toInt(), 1);
         QTRY_COMPARE(m_factory->asked.size(), 2);
         QVERIFY(get("busy").toBool());

@@ -69,7 +69,7 @@ Item {
             loginResult = result;
             LoginMemory.note(device, result);
             loggedIn = result === 0;
-            failure = loggedIn ? "" : deviceFactory.getErrorName(result);
+            failure = loggedIn ? "" : LoginMemory.failureText(result, device, deviceFactory);
             if (loggedIn && keeps)
                 keep(account, password);
             if (loggedIn)
@@ -89,7 +89,7 @@ Item {
     function lose() {
         const networkFailure = 5;
         loginResult = networkFailure;
-        failure = qsTr("设备没有应答");
+        failure = LoginMemory.failureText(networkFailure, device, deviceFactory);
         lost = true;
         loggedIn = false;
     }
