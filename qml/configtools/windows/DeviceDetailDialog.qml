@@ -9,6 +9,8 @@ OVDialog {
 
     required property var deviceFactory
     property string ipport
+    property string mac
+    property bool isLent: false    // the account of the row is only on trial
     readonly property alias asking: work.running
     property string trouble        // of the last login
     signal copyRequested(string text)
@@ -19,6 +21,7 @@ OVDialog {
         work.cancel();
         trouble = "";
         ipport = detail.ipport ?? "";
+        mac = detail.mac ?? "";
         searchField.text = "";
         lines.load(detail);
     }
@@ -27,16 +30,36 @@ OVDialog {
         return lines.write(path);
     }
 
+    /// An account for all that follow is that of the row while the device is asked, and afterwards if it was accepted.
     function ask() {
         trouble = "";
+        notice = "";
+        const known = LoginMemory.accountFor(ipport, deviceFactory);
+        isLent = known.isForAll ?? false;
+        if (isLent)
+            setAccount(known.user, known.password);
         work.readDetail(ipport);
     }
 
+    function setAccount(account, password) {
+        deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
+        deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
+    }
+
     function add(told) {
-        if (told.loginResult === 0)
+        const result = told.loginResult ?? -1;
+        const account = LoginMemory.accountFor(ipport, deviceFactory).user;
+        LoginMemory.note(ipport, result);
+        if (result === 0) {
             lines.add(told);
-        else
-            trouble = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(told.loginResult ?? -1));
+            return;
+        }
+        if (isLent)
+            setAccount("", "");
+        trouble = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(result));
+        // Another account or password may help.
+        if (result === 1 || result === LoginMemory.wrongPassword || result === 4)
+            relogin.wanted().ask(mac, ipport, account, result);
     }
 
     width: Theme.detailWidth
@@ -45,7 +68,10 @@ OVDialog {
     cancelText: qsTr("关闭")
     title: qsTr("设备详情")
     onAccepted: copyRequested(lines.text)
-    onAboutToHide: work.cancel()
+    onAboutToHide: {
+        work.cancel();
+        relogin.item?.close();
+    }
     onOpened: list.forceActiveFocus()
 
     footContent: Row {
@@ -179,4 +205,20 @@ OVDialog {
             }
         }
     }
+
+    // qmllint disable unqualified
+    OVOnDemand {
+        id: relogin
+        visible: false
+        sourceComponent: ReloginDialog {
+            deviceFactory: root.deviceFactory
+            onAnswered: (account, password) => {
+                if (account === "" && password === "")
+                    return;
+                root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
+                root.ask();
+            }
+        }
+    }
+    // qmllint enable unqualified
 }

@@ -21,7 +21,8 @@ const char *const scene = "    visible: true\n"
                           "        }\n"
                           "        function saveEncoding() { encoding.save(); }\n"
                           "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
-                          "    }\n";
+                          "    }\n"
+                          "    DeviceDetailDialog { objectName: 'details'; deviceFactory: factory }\n";
 
 const char *const heldScene = "    visible: true; width: 400; height: 100\n"
                               "    Item {\n"
@@ -176,6 +177,35 @@ private Q_SLOTS:
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
         QCOMPARE(writesTo(m_recorder), 8);
         QCOMPARE(writesTo(m_other), 0);
+    }
+
+    /// The details ask for another account as the page does, and count on.
+    void theDetailsAskForAnotherAccount()
+    {
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        QVERIFY(m_site->factory->updataDeviceInfo("dh", "password", "wrong", m_recorder.mac,
+                                                  ipportOf(m_recorder)));
+        QObject *details = m_window->findChild<QObject *>("details");
+        QVERIFY(QMetaObject::invokeMethod(
+            details, "load", Q_ARG(QVariant, m_site->factory->getDeviceDetail("dh", m_recorder.mac))));
+        QVERIFY(QMetaObject::invokeMethod(details, "open"));
+        QVERIFY(QMetaObject::invokeMethod(details, "ask"));
+        QCOMPARE(answerOfDialog(), "密码错误，已 1 次");
+        const auto enter = [this](const char *password) {
+            dialogItem("devicePasswordField")->setProperty("text", password);
+            QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
+        };
+        enter("another");
+        QTRY_VERIFY(!details->property("asking").toBool() && dialogItem("devicePasswordField"));
+        QCOMPARE(answerOfDialog(), "密码错误，已 2 次");
+        enter("secret1");
+        QTRY_VERIFY(!details->property("asking").toBool());
+        QTRY_VERIFY(!dialogItem("devicePasswordField"));
+        QCOMPARE(details->property("trouble").toString(), "");
+        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_recorder)).value("password").toString(),
+                 "secret1");
     }
 
     /// The dialog shows what the device has answered; an account for all that follow is tried once, and only
