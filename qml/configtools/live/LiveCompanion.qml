@@ -11,6 +11,7 @@ Item {
     required property string name
     property bool loggedIn: false
     property bool asking: false  // whether the device answers, with a login where it has to be
+    property bool isGiven: false // the user has just given the account that it is asked with
     property int result: 0       // a LoginResult
     property var channels: [{channel: 0, name: "", connected: true}]  // as of LiveDevice; one until they are known
     readonly property alias handle: session.handle  // of the session
@@ -38,12 +39,13 @@ Item {
 
     function ask() {
         const known = account();
-        login(known.user, known.password);
+        login(known.user, known.password, false);
     }
 
-    function login(user, password) {
+    function login(user, password, given) {
         pause.stop();
         asking = true;
+        isGiven = given;
         session.open(ipport, user, password);
     }
 
@@ -92,6 +94,8 @@ Item {
             pause.fail();
         }
         answered(false);
+        if (isGiven && accountRefused)
+            tryAgain();
     }
 
     visible: false
@@ -132,7 +136,7 @@ Item {
                 if (account === "" && password === "")
                     return;
                 root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
-                root.login(account, password);
+                root.login(account, password, true);
             }
         }
     }

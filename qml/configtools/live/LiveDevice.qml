@@ -12,6 +12,7 @@ Item {
     property bool loggedIn: false
     property bool asking: false        // whether it answers, with a login where it has to be
     readonly property bool busy: asking && !loggedIn
+    property bool isGiven: false       // the user has just given the account that it is asked with
     property int result: 0             // a LoginResult
     readonly property string failure: result !== 0 ? LoginMemory.failureText(result, ipport, deviceFactory) : ""
     readonly property alias resting: pause.running  // until the next try of a login
@@ -56,6 +57,7 @@ Item {
     function login(user, password, given) {
         pause.stop();
         asking = true;
+        isGiven = given;
         deviceFactory.openSession("dh", ipport, user, password, !loggedIn, given);
     }
 
@@ -122,6 +124,8 @@ Item {
         else if (!loggedIn)
             pause.fail();
         answered(false);  // the streams rest by themselves
+        if (isGiven && accountRefused)
+            tryAgain();
     }
 
     visible: false
