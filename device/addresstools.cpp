@@ -4,6 +4,7 @@
 #include "device/searchrange.h"
 
 #include <QUrl>
+#include <algorithm>
 
 bool AddressTools::isLegalAddress(const QString &text) const
 {
@@ -29,7 +30,13 @@ QString AddressTools::gatewayAfterEdit(const QString &before, const QString &aft
     const QStringList old = before.split(point);
     const QStringList now = after.split(point);
     QStringList octets = gateway.isEmpty() ? QStringList() : gateway.split(point);
-    if (now.size() > octetCount || octets.size() > octetCount)
+    // What is not an octet, not even the beginning of one, stays out of the gateway.
+    const auto isOctet = [](const QString &text) {
+        constexpr int largest = 255;
+        bool isNumber = false;
+        return text.isEmpty() || (text.toInt(&isNumber) <= largest && isNumber);
+    };
+    if (now.size() > octetCount || octets.size() > octetCount || !std::ranges::all_of(now, isOctet))
         return gateway;
     for (qsizetype place = 0; place < now.size(); ++place) {
         const bool last = place == octetCount - 1;

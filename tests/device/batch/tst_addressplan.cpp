@@ -157,6 +157,8 @@ private Q_SLOTS:
         row("last octet, over the gateway's own end", "192.168.1.64", "192.168.1.65", "192.168.1.254",
             "192.168.1.1");
         row("no address at all", "", "1.2.3.4.5", "10.0.0.1", "10.0.0.1");
+        row("no octet", "192.168.1.10", "1111", "192.168.1.1", "192.168.1.1");
+        row("not a number", "192.168.1.10", "x", "192.168.1.1", "192.168.1.1");
     }
 
     void copiesEditsIntoTheGateway()
