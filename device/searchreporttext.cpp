@@ -47,6 +47,13 @@ std::uint32_t obstaclesOf(const QList<SearchInterfaceReport> &addresses)
     return obstacles;
 }
 
+/// Whether requests could leave from an address.
+bool wasSearched(const SearchInterfaceReport &address)
+{
+    return (address.obstacles & (bit(SearchObstacle::InterfaceDown) | bit(SearchObstacle::NoLink) |
+                                 bit(SearchObstacle::NoMulticast) | bit(SearchObstacle::SendFailed))) == 0;
+}
+
 /// The addresses of each interface, in the order of the report.
 QList<QList<SearchInterfaceReport>> interfacesOf(const sdk::SearchReport &report)
 {
@@ -103,7 +110,7 @@ QString SearchReportText::networksOf(const sdk::SearchReport &report)
         for (const SearchInterfaceReport &entry : addresses) {
             const std::optional<std::uint32_t> address = ipv4Number(fieldText(entry.address));
             constexpr int bits = 32;
-            if (!address || entry.prefixLength < 1 || entry.prefixLength > bits)
+            if (!address || entry.prefixLength < 1 || entry.prefixLength > bits || !wasSearched(entry))
                 continue;
             const std::uint32_t mask = ~std::uint32_t(0) << (bits - entry.prefixLength);
             const QString network =

@@ -102,11 +102,13 @@ private Q_SLOTS:
 
     void theNetworksAreNamedOnce()
     {
-        const sdk::SearchReport report = reportOf({{.address = "192.0.2.5"},
-                                                   {.address = "192.0.2.9"},
-                                                   {.address = "fe80::5%eth0"},
-                                                   {.address = ""},
-                                                   {.address = "10.1.2.3"}});
+        const sdk::SearchReport report =
+            reportOf({{.address = "192.0.2.5"},
+                      {.address = "192.0.2.9"},
+                      {.address = "fe80::5%eth0"},
+                      {.address = ""},
+                      {.address = "127.0.0.1", .obstacles = {SearchObstacle::NoMulticast}},
+                      {.address = "10.1.2.3"}});
         QCOMPARE(SearchReportText::networksOf(report), "192.0.2.0/24, 10.1.2.0/24");
     }
 

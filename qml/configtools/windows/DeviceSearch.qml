@@ -13,10 +13,11 @@ QtObject {
     property bool searchedNothing: false  // the settings named nothing to search
     property bool searchesLocal: false  // the last search did
     property string searchedRange  // of addresses, "" for none
-    /// The networks of the last search, in words.
+    /// The networks of the last search, in words: without the local segment when no interface could search it.
     readonly property string searched: {
         const networks = searchReports.networks;
-        const local = networks === "" ? qsTr("本地网段") : qsTr("本地网段（%1）").arg(networks);
+        const local = networks !== "" ? qsTr("本地网段（%1）").arg(networks)
+            : searchReports.available ? "" : qsTr("本地网段");
         return [searchesLocal ? local : "", searchedRange].filter(part => part !== "").join(qsTr("、"));
     }
     property int percent: 0  // of a search that runs
