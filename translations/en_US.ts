@@ -3762,6 +3762,10 @@ Right-click to copy the result</translation>
         <source>按地址添加设备</source>
         <translation>Add device by address</translation>
     </message>
+    <message>
+        <source>请检查网线和网段，然后重新搜索。</source>
+        <translation>Check cables and networks, then search again.</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPFiles</name>
@@ -6676,6 +6680,14 @@ File: </translation>
     <message>
         <source>通道名称</source>
         <translation>Channel names</translation>
+    </message>
+    <message>
+        <source>搜索到设备后，在此查看并修改它们的配置。</source>
+        <translation>The configuration of devices is shown and changed here once a search has found some.</translation>
+    </message>
+    <message>
+        <source>没有设备</source>
+        <translation>No devices</translation>
     </message>
 </context>
 <context>

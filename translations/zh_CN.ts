@@ -3714,6 +3714,10 @@
         <source>按地址添加设备</source>
         <translation>按地址添加设备</translation>
     </message>
+    <message>
+        <source>请检查网线和网段，然后重新搜索。</source>
+        <translation>请检查网线和网段，然后重新搜索。</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPFiles</name>
@@ -6597,6 +6601,14 @@
     <message>
         <source>通道名称</source>
         <translation>通道名称</translation>
+    </message>
+    <message>
+        <source>搜索到设备后，在此查看并修改它们的配置。</source>
+        <translation>搜索到设备后，在此查看并修改它们的配置。</translation>
+    </message>
+    <message>
+        <source>没有设备</source>
+        <translation>没有设备</translation>
     </message>
 </context>
 <context>

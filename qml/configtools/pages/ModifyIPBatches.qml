@@ -11,6 +11,7 @@ Item {
     required property Batches batches
     property Batch batch: null
     signal said(string message, int kind)
+    signal begun  // a dialog has closed over a batch that it has begun
 
     /// Whether devices may be changed now; otherwise a notice names the running work.
     function mayBegin() {
@@ -68,6 +69,12 @@ Item {
                                         dialog.plan.addresses(), dialog.mask, dialog.gateway, dialog.dhcp);
     }
 
+    /// A closed dialog returns the focus to the button that opened it, where a second Enter would open it again.
+    function leaveButton() {
+        if (batches.running)
+            begun();
+    }
+
     /// Says how it went, and reads the whole table.
     function tellEnd() {
         const report = batch.report;
@@ -121,6 +128,7 @@ Item {
         visible: false
         sourceComponent: InitialiseDialog {
             id: list
+            onClosed: root.leaveButton()
             onConfirmed: {
                 const dialog = firstPassword.wanted();
                 dialog.load(list.count);
@@ -134,6 +142,7 @@ Item {
         sourceComponent: FirstPasswordDialog {
             id: account
             deviceFactory: root.deviceFactory
+            onClosed: root.leaveButton()
             onConfirmed: {
                 const list = initialising.wanted();
                 const identities = list.chosen();
@@ -152,6 +161,7 @@ Item {
         sourceComponent: ModifyIPDialog {
             id: addresses
             deviceFactory: root.deviceFactory
+            onClosed: root.leaveButton()
             onConfirmed: {
                 addresses.close();
                 root.sendAddresses(addresses);

@@ -37,7 +37,8 @@ OVEmptyState {
             hint: qsTr("请在搜索设置中选择本地网段或其他网段。"), action: qsTr("搜索设置")},
         {icon: "nothing", title: qsTr("没有找到设备"),
             hint: (searched === "" ? "" : qsTr("已搜索：%1").arg(searched) + "\n")
-                + qsTr("请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。"), action: qsTr("重新搜索")}
+                + (helps ? qsTr("请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。")
+                         : qsTr("请检查网线和网段，然后重新搜索。")), action: qsTr("重新搜索")}
     ]
 
     busy: reason === ModifyIPEmptyState.Searching

@@ -278,6 +278,7 @@ FocusScope {
         y: deviceTree.y
         width: page.width - x - Theme.pageMargin
         height: deviceTree.height
+        hasDevices: devices.deviceCount > 0
         session: session
         targetCount: page.targets.length
         onCopyRequested: page.copy()

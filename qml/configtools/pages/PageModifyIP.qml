@@ -102,6 +102,7 @@ FocusScope {
         busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
+        onBegun: page.focusTable()
         onSaid: (message, kind) => page.said(message, kind)
     }
 

@@ -6,6 +6,7 @@ Rectangle {
     id: root
 
     required property ConfigSession session
+    required property bool hasDevices  // the tree has any
     required property int targetCount  // devices that encode settings can be copied to
     readonly property bool shown: session.encodeShown ? session.encoding.read
         : session.imageShown ? session.image.read : session.names.read
@@ -90,13 +91,15 @@ Rectangle {
                 : root.session.taken ? qsTr("继续配置")
                 : root.session.canLoginAgain() ? qsTr("重新登录") : qsTr("重试")
             busy: root.session.busy
-            hint: root.session.device === "" ? qsTr("单击左侧的一台设备，登录后在此查看并修改它的配置。")
+            hint: root.session.device === "" && !root.hasDevices ? qsTr("搜索到设备后，在此查看并修改它们的配置。")
+                : root.session.device === "" ? qsTr("单击左侧的一台设备，登录后在此查看并修改它的配置。")
                 : root.session.busy ? root.session.device
                 : root.session.taken ? qsTr("同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。")
                 : root.session.failure
             iconName: root.session.device === "" ? "config" : "unplugged"
             objectName: "configEmptyState"
-            title: root.session.device === "" ? qsTr("请选择设备")
+            title: root.session.device === "" && !root.hasDevices ? qsTr("没有设备")
+                : root.session.device === "" ? qsTr("请选择设备")
                 : root.session.busy ? root.session.busyText
                 : root.session.taken ? qsTr("正在查看另一台设备的实时画面")
                 : root.session.lost ? qsTr("连接已断开") : qsTr("登录失败")
