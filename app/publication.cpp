@@ -23,6 +23,7 @@
 #include <QQmlContext>
 
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
+                    const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,
                     const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo)
@@ -50,6 +51,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     auto *batches = new Batches(
         *CDeviceFactory::getinstance(), batchEngine,
         [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine);
+    batches->keepFailedIn(store);
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
     context->setContextProperty(QStringLiteral("AddingBatchesApi"),
                                 new AddingBatches(*CDeviceFactory::getinstance(), *batches, batches));

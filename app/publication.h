@@ -9,6 +9,7 @@ class AccountStore;
 class BatchEngine;
 class CertificateStore;
 class ColourScheme;
+class DeviceStore;
 class QQmlApplicationEngine;
 
 namespace sdk {
@@ -23,8 +24,9 @@ struct DemoNotice
 };
 
 /// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
-/// `batchEngine` runs the scene's batches; it and `colourScheme` outlive the scene.
+/// `batchEngine` runs the scene's batches, which keep rows in `store`; it and `colourScheme` outlive the scene.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
+                    const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,
                     const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo = {});

@@ -193,7 +193,7 @@ void Shell::chooseAccounts()
 
 void Shell::registerBackEnds()
 {
-    const auto store = std::make_shared<DeviceStore>(m_libraries.clock);
+    const auto store = m_deviceStore = std::make_shared<DeviceStore>(m_libraries.clock);
     m_batchEngine = std::make_shared<BatchEngine>(m_libraries.clock);
     CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [store, libraries = m_libraries,
                                                            engine = m_batchEngine, accounts = m_accounts] {
@@ -224,7 +224,7 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_certificates, m_accounts, *m_colourScheme, m_libraries.net,
+    publishToScene(*m_engine, *m_batchEngine, m_deviceStore, m_certificates, m_accounts, *m_colourScheme, m_libraries.net,
                    m_demo);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,

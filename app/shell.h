@@ -58,5 +58,6 @@ private:
     sdk::SdkLibraries m_libraries;
     DemoNotice m_demo;
     std::shared_ptr<BatchEngine> m_batchEngine;
+    std::shared_ptr<DeviceStore> m_deviceStore;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };

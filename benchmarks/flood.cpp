@@ -104,7 +104,7 @@ QList<Figure> measureFlood()
         ColourScheme colours(desktop, *CLocalConfig::getinstance());
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        publishToScene(engine, batchEngine, std::make_shared<CertificateStore>(QString()),
+        publishToScene(engine, batchEngine, store, std::make_shared<CertificateStore>(QString()),
                        std::make_shared<AccountStore>(QString()), colours, libraries.net);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once

@@ -102,6 +102,8 @@ struct ResponseReceiver
         if (!hasIPv4Address(answer))
             return;
         const QString name = store.nameOf(answer);
+        if (name.isEmpty())
+            return takeUnlisted(answer);
         const std::optional<QString> address = waiting.addressOf(name);
         if (!address || !store.updateRow(name, answer, *address))
             return;
@@ -109,6 +111,20 @@ struct ResponseReceiver
         if (isInitialised(answer.device))
             waiting.remove(name);
         rowChanged();
+    }
+
+    void takeUnlisted(const sdk::SearchAnswer &answer) const
+    {
+        for (const QString &name : {macText(answer), uuidName(answer)}) {
+            if (name.isEmpty() || !waiting.addressOf(name))
+                continue;
+            QJsonObject row = ipv4Row(answer);
+            if (rowName(row) != name)
+                row.insert(DeviceRowKey::identity, name);
+            store.putRow(row, answer);
+            waiting.remove(name);
+            return rowChanged();
+        }
     }
 };
 
@@ -146,7 +162,11 @@ QHash<QString, QString> DeviceRefresh::addressesOf(const QStringList &names) con
 
 void DeviceRefresh::locate(const QStringList &names, const std::stop_token &stop)
 {
-    const QHash<QString, QString> devices = addressesOf(names);
+    QHash<QString, QString> devices = addressesOf(names);
+    for (const QString &name : names) {
+        if (m_store->rowNamed(name).isEmpty())
+            devices.insert(name, QString());
+    }
     if (!devices.isEmpty() && m_libraries.net)
         run(devices, 1, stop);
 }

@@ -39,7 +39,8 @@ public:
     void start(const QStringList &names);
 
     /// The same with one query, on the caller's thread, which may be any other: returns within 6 s for up to
-    /// 4096 devices.
+    /// 4096 devices. A name without a row is the MAC or the UUID of a device that is no longer listed: it is
+    /// searched by that, and gets a row when it responds.
     void locate(const QStringList &names, const std::stop_token &stop);
 
 Q_SIGNALS:

@@ -48,6 +48,10 @@ inline constexpr QLatin1StringView duplicate("duplicate");
 /// A bool: the address is what a change that failed asked for, and the device has not been found since.
 inline constexpr QLatin1StringView unconfirmed("unconfirmed");
 
+/// Bool: the last search has not found the device, whose row is kept since a batch failed with it. Other rows
+/// may lack it.
+inline constexpr QLatin1StringView lost("lost");
+
 /// Bool: whether the last login to the device succeeded. Rows lack it until the first one.
 inline constexpr QLatin1StringView loggedIn("loggedIn");
 

@@ -31,8 +31,15 @@ QJsonObject DeviceRowList::row(const QString &name) const
 std::optional<QString> DeviceRowList::nameAt(const QString &ipport) const
 {
     const auto places = m_placesByAddress.constFind(ipport);
-    return places == m_placesByAddress.cend() ? std::nullopt
-                                              : std::optional(m_names.at(places->first() - m_placeOfFront));
+    if (places == m_placesByAddress.cend())
+        return std::nullopt;
+    const auto isFound = [this](qsizetype place) {
+        const QJsonObject row = m_rows.at(place - m_placeOfFront).toJsonObject();
+        return !row.value(DeviceRowKey::lost).toBool();
+    };
+    const auto found = places->size() == 1 ? places->cbegin()
+                                           : std::find_if(places->cbegin(), places->cend(), isFound);
+    return m_names.at((found == places->cend() ? places->first() : *found) - m_placeOfFront);
 }
 
 QStringList DeviceRowList::namesAt(const QString &ipport) const

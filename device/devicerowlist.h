@@ -22,7 +22,8 @@ public:
     /// The row, empty when there is none. Constant time.
     [[nodiscard]] QJsonObject row(const QString &name) const;
 
-    /// Name of the first row with this "ipport". Constant time.
+    /// Name of the first row with this "ipport", of a lost one only if there is no other. Constant time,
+    /// unless many rows share the address.
     [[nodiscard]] std::optional<QString> nameAt(const QString &ipport) const;
 
     /// Names of the rows with this "ipport", in their order.

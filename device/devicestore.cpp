@@ -77,7 +77,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
             const bool isChanged = ipv4 && takeMac(identity, mac);
             return {.added = false,
                     .notify = isChanged && isNotificationDue(),
-                    .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
+                    .ipv4Count = ipv4CountLocked()};
         }
     }
 
@@ -97,6 +97,8 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
         row.insert(DeviceRowKey::identity, identity);
     if (!ipv4)
         addIPv6Locked(row);
+    else if (m_lost.remove(identity))
+        m_ipv4.replace(identity, row);
     else if (heads)
         m_ipv4.prepend(identity, row);
     else
@@ -109,8 +111,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     if (ipv4 || !m_records.contains(recordKey))
         m_records.insert(recordKey, record);
 
-    return {
-        .added = true, .notify = isNotificationDue(), .ipv4Count = static_cast<int>(m_ipv4.rows().size())};
+    return {.added = true, .notify = isNotificationDue(), .ipv4Count = ipv4CountLocked()};
 }
 
 QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
@@ -151,7 +152,8 @@ bool DeviceStore::takeMac(const QString &name, const QString &mac)
 
 bool DeviceStore::dropsLocked(const QString &identity)
 {
-    if (m_settled.contains(identity) || m_ipv4.contains(identity)) // that row was added by hand
+    const bool isListed = m_ipv4.contains(identity) && !m_lost.contains(identity); // it was added by hand
+    if (m_settled.contains(identity) || isListed)
         return true;
     if (m_found < maximumFound)
         return false;
@@ -166,7 +168,11 @@ void DeviceStore::addIPv6Locked(QJsonObject &row)
     if (before > 0)
         row.insert(DeviceRowKey::duplicate, before);
     ++before;
-    m_ipv6.append(rowName(row), row);
+    const QString name = rowName(row);
+    if (m_ipv6.contains(name)) // a lost one: those that were found since clear() have other numbers
+        m_ipv6.replace(name, row);
+    else
+        m_ipv6.append(name, row);
 }
 
 int DeviceStore::leftOut() const
@@ -217,6 +223,8 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
     row.insert(DeviceRowKey::state, now.value(DeviceRowKey::state));
     row.insert(DeviceRowKey::ipport, now.value(DeviceRowKey::ipport));
     row.insert(DeviceRowKey::unconfirmed, false);
+    row.remove(DeviceRowKey::lost);
+    m_lost.remove(name);
     if (!row.value(DeviceRowKey::https).toBool()) // a response holds the port of the plain web page only
         row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
     m_ipv4.replace(name, row);
@@ -224,12 +232,34 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
     return true;
 }
 
+void DeviceStore::setKept(const QSet<QString> &names)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_kept = names;
+}
+
 void DeviceStore::clear()
 {
     const std::scoped_lock lock(m_mutex);
-    m_ipv4 = {};
-    m_ipv6 = {};
-    m_records.clear();
+    QHash<QString, QByteArray> records;
+    m_lost.clear();
+    for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+        DeviceRowList kept;
+        for (const QVariant &value : m_kept.isEmpty() ? QVariantList() : list->rows()) {
+            QJsonObject row = value.toJsonObject();
+            const QString name = rowName(row);
+            if (!m_kept.contains(name))
+                continue;
+            row.insert(DeviceRowKey::lost, true);
+            kept.append(name, row);
+            if (list == &m_ipv4)
+                m_lost.insert(name);
+            if (const auto record = m_records.constFind(name); record != m_records.cend())
+                records.insert(name, *record);
+        }
+        *list = std::move(kept);
+    }
+    m_records = std::move(records);
     m_settled.clear();
     m_uuidHolders.clear();
     m_ipv6Found.clear();
@@ -252,7 +282,12 @@ QVariantList DeviceStore::ipv6Rows() const
 int DeviceStore::ipv4Count() const
 {
     const std::scoped_lock lock(m_mutex);
-    return static_cast<int>(m_ipv4.rows().size());
+    return ipv4CountLocked();
+}
+
+int DeviceStore::ipv4CountLocked() const
+{
+    return static_cast<int>(m_ipv4.rows().size() - m_lost.size());
 }
 
 std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &name) const
@@ -362,6 +397,7 @@ void DeviceStore::putRow(QJsonObject row, const std::optional<sdk::SearchAnswer>
     if (answer)
         m_records.insert(name, packed(*answer));
     row.insert(DeviceRowKey::num, QString::number(m_ipv4.rows().size() + 1));
+    m_lost.remove(name);
     if (m_ipv4.contains(name))
         m_ipv4.replace(name, row);
     else
@@ -375,6 +411,7 @@ void DeviceStore::removeRows(const QSet<QString> &names)
         if (m_ipv4.contains(name))
             m_settled.insert(name);
         m_records.remove(name);
+        m_lost.remove(name);
     }
     m_ipv4.remove(names);
 }

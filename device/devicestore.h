@@ -41,7 +41,7 @@ public:
     {
         bool added = false;  ///< false: the answer was dropped
         bool notify = false; ///< at least a second has passed since the last notification
-        int ipv4Count = 0;   ///< rows of the IPv4 list after the addition
+        int ipv4Count = 0;   ///< as ipv4Count() after the addition
     };
 
     /// Turns an answer into a row at its place. The first answer of a device wins; a loopback address goes to
@@ -66,14 +66,19 @@ public:
     /// this name that still shows `address`: a response may arrive after the row has got another one.
     bool updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address);
 
-    /// Removes every row and record, as a search begins.
+    /// Names of the rows that clear() keeps: those of devices that the user still has to deal with.
+    void setKept(const QSet<QString> &names);
+
+    /// Removes every row and record, as a search begins, but for those that are kept. Their rows are "lost"
+    /// until their devices are found again.
     void clear();
 
     [[nodiscard]] QVariantList ipv4Rows() const;
     [[nodiscard]] QVariantList ipv6Rows() const;
-    [[nodiscard]] int ipv4Count() const;
+    [[nodiscard]] int ipv4Count() const; ///< without lost rows
 
-    /// The IPv4 row of a device, or the first one of an address and port; empty when there is none.
+    /// The IPv4 row of a device, or the first one of an address and port, a lost one only if there is no
+    /// other; empty when there is none.
     [[nodiscard]] QJsonObject row(const QString &mac) const;
     [[nodiscard]] QJsonObject rowAt(const QString &ipport) const;
 
@@ -128,6 +133,7 @@ private:
     bool takeMac(const QString &name, const QString &mac);
     [[nodiscard]] bool dropsLocked(const QString &identity);
     void addIPv6Locked(QJsonObject &row);
+    [[nodiscard]] int ipv4CountLocked() const;
     bool changeFound(const Finder &find, const Change &change);
     bool isNotificationDue();
 
@@ -136,6 +142,8 @@ private:
     DeviceRowList m_ipv4;
     DeviceRowList m_ipv6;
     QHash<QString, QByteArray> m_records; ///< by name: the answers, packed
+    QSet<QString> m_kept;    ///< names of rows
+    QSet<QString> m_lost;    ///< names of IPv4 rows
     QSet<QString> m_settled; ///< devices found or removed since clear(): further answers are dropped
     QHash<QString, UuidHolder> m_uuidHolders; ///< by uuidName(), since clear()
     QHash<QString, int> m_ipv6Found;          ///< IPv6 rows found since clear(), by address and port

@@ -178,6 +178,8 @@ void DeviceTableModel::takeMarks()
         setOnlyFailed(false);
     else if (m_onlyFailed)
         refresh();
+    else if (m_deviceFactory)
+        countFailed(readList());
     if (!m_rows.isEmpty())
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
@@ -188,15 +190,21 @@ void DeviceTableModel::applyFilter()
     refresh();
 }
 
+QVariantList DeviceTableModel::readList() const
+{
+    const QString all = QStringLiteral("nofilter");
+    return m_ipv6 ? m_deviceFactory->filterDataIPV6(dhFamily, all)
+                  : m_deviceFactory->filterData(dhFamily, all);
+}
+
 QList<DeviceTableRow> DeviceTableModel::readRows()
 {
     // Everything comes from one list: rows may be added or changed between two.
-    const QString all = QStringLiteral("nofilter");
-    QVariantList list =
-        m_ipv6 ? m_deviceFactory->filterDataIPV6(dhFamily, all) : m_deviceFactory->filterData(dhFamily, all);
+    QVariantList list = readList();
     addNotes(list);
     m_totalCount = static_cast<int>(list.size());
     forgetLostTicks(list);
+    countFailed(list);
     QList<DeviceTableRow> rows =
         deviceTableRows(list,
                         {.showInitialised = m_showInitialised,
@@ -217,6 +225,17 @@ void DeviceTableModel::forgetLostTicks(const QVariantList &list)
     if (checkedIdentities().isEmpty())
         return;
     checkedIdentities() = namesOf(list).intersect(checkedIdentities());
+}
+
+void DeviceTableModel::countFailed(const QVariantList &list)
+{
+    const bool hasMarks = !m_failedMarks.isEmpty();
+    const auto isFailed = [&](const QVariant &row) {
+        return hasMarks && m_failedMarks.contains(rowName(row.toJsonObject()));
+    };
+    const auto count = static_cast<int>(std::count_if(list.cbegin(), list.cend(), isFailed));
+    if (std::exchange(m_failedCount, count) != count)
+        Q_EMIT failedCountChanged();
 }
 
 void DeviceTableModel::refresh()
@@ -383,7 +402,8 @@ QVariantMap DeviceTableModel::get(int row) const
     values.insert(DeviceRowKey::checked, checkedIdentities().contains(m_rows.at(row).identity));
     values.insert(DeviceRowKey::num, QString::number(row + 1));
     values.insert(QStringLiteral("identity"), m_rows.at(row).identity);
-    values.insert(QStringLiteral("failure"), m_failedMarks.wordsOf(m_rows.at(row).identity));
+    const bool isLost = m_rows.at(row).values.value(DeviceRowKey::lost).toBool();
+    values.insert(QStringLiteral("failure"), m_failedMarks.wordsOf(m_rows.at(row).identity, isLost));
     return values;
 }
 

@@ -15,7 +15,7 @@ class CDeviceFactory;
 
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
-/// rowName()). get() also gives "failure": what batches failed with the device, see FailedMarks::wordsOf().
+/// rowName()). get() also gives "failure": what batches failed with the device, see FollowedMarks::wordsOf().
 /// "note" is the note of the user about the device; the text search finds it as well.
 ///
 /// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
@@ -45,6 +45,7 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
     Q_PROPERTY(int totalCount READ totalCount NOTIFY countChanged)
+    Q_PROPERTY(int failedCount READ failedCount NOTIFY failedCountChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
     Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedCountChanged)
     Q_PROPERTY(int conflictCount READ conflictCount NOTIFY countChanged)
@@ -77,6 +78,7 @@ public:
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
     [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
+    [[nodiscard]] int failedCount() const { return m_failedCount; } ///< of them, those of marked devices
     [[nodiscard]] int checkedCount() const { return m_checkedCount; }
     [[nodiscard]] int checkedUpgradingCount() const
     {
@@ -143,9 +145,11 @@ Q_SIGNALS:
     void notesChanged();
     void sortChanged();
     void countChanged();
+    void failedCountChanged();
     void checkedCountChanged();
 
 private:
+    [[nodiscard]] QVariantList readList() const;
     [[nodiscard]] QList<DeviceTableRow> readRows();
     void takeMarks();
     void addNotes(QVariantList &list) const;
@@ -159,6 +163,7 @@ private:
     void notePlaces(qsizetype first); ///< of the rows from this one on
     void applyFilter();
     void countChecked();
+    void countFailed(const QVariantList &list);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     bool m_showInitialised = true;
@@ -178,6 +183,7 @@ private:
     QSet<QString> m_checkedIPv4;
     QSet<QString> m_checkedIPv6;
     int m_totalCount = 0;
+    int m_failedCount = 0;
     int m_checkedCount = 0;
     int m_checkedUpgradingCount = 0;
     int m_conflictCount = 0;

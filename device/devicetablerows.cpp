@@ -87,7 +87,9 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
     for (const QVariant &value : list) {
         const QJsonObject values = value.toJsonObject();
         const QString ipport = values.value(DeviceRowKey::ipport).toString();
-        ++rowsOfAddress[ipport];
+        // A lost device may have left its address to another one.
+        const bool isLost = values.value(DeviceRowKey::lost).toBool();
+        rowsOfAddress[ipport] += isLost ? 0 : 1;
         if (!isShown(values, filter))
             continue;
         const QString identity = rowName(values);
@@ -100,7 +102,8 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
     for (qsizetype place = 0; place < shown.size(); ++place) {
         // Devices that wait for an address by DHCP have none to share.
         const QString &ipport = addresses.at(place);
-        shown[place].conflict = !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > 1;
+        const bool isLost = shown.at(place).values.value(DeviceRowKey::lost).toBool();
+        shown[place].conflict = !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > (isLost ? 0 : 1);
     }
     const bool isByReason = order.key.isEmpty() && filter.onlyThose;
     return order.key.isEmpty() && !isByReason ? shown : ordered(std::move(shown), order, isByReason);

@@ -4,10 +4,12 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QSet>
 
 /// The devices that a batch failed with or did not come to. Each stays marked until a later batch of the same
 /// work succeeds with it, or until the user clears the marks. A mark belongs to the name of a row (see
-/// rowName()): it lives through a search that finds the device again, and through a change of its address.
+/// rowName()): it lives through a search, which keeps the row (see DeviceStore::setKept()), and through a
+/// change of its address.
 ///
 /// Lives on the scene's thread.
 class FailedMarks : public QObject
@@ -33,6 +35,12 @@ public:
 
     [[nodiscard]] int count() const { return static_cast<int>(m_failures.size()); }
     [[nodiscard]] bool contains(const QString &identity) const { return m_failures.contains(identity); }
+
+    /// The names of the marked rows.
+    [[nodiscard]] QSet<QString> identities() const
+    {
+        return {m_failures.keyBegin(), m_failures.keyEnd()};
+    }
 
     /// Name of the result that the device had in the last work that failed; empty when it is not marked.
     [[nodiscard]] QString reasonOf(const QString &identity) const;

@@ -3,6 +3,7 @@
 #include "device/failedmarks.h"
 
 #include <QPointer>
+#include <QStringList>
 
 /// The marks that a model shows, or none. Lives on the scene's thread.
 class FollowedMarks
@@ -16,9 +17,19 @@ public:
     {
         return m_marks ? m_marks->reasonOf(identity) : QString();
     }
-    [[nodiscard]] QString wordsOf(const QString &identity) const
+    [[nodiscard]] bool contains(const QString &identity) const
     {
-        return m_marks ? m_marks->wordsOf(identity) : QString();
+        return m_marks && m_marks->contains(identity);
+    }
+
+    /// What a row says of its device: the words of its mark, and that the last search has lost it.
+    [[nodiscard]] QString wordsOf(const QString &identity, bool isLost) const
+    {
+        QStringList lines = {m_marks ? m_marks->wordsOf(identity) : QString()};
+        if (isLost)
+            lines.append(FailedMarks::tr("最近一次搜索没有找到该设备"));
+        lines.removeAll(QString());
+        return lines.join(QLatin1Char('\n'));
     }
 
     /// Calls `changed` of `model` from now on when `marks`, which may be null, change, and no more when the

@@ -94,7 +94,7 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
     case IdentityRole:
         return device.identity;
     case FailureRole:
-        return m_failedMarks.wordsOf(device.identity);
+        return m_failedMarks.wordsOf(device.identity, device.isLost);
     case Qt::ToolTipRole:
         return device.detail;
     default:
@@ -269,6 +269,8 @@ void OVTreeModel::takeMarks()
         return setShown(All);
     if (m_shown == Failed)
         return resetItems(m_filterType, m_searchText);
+    if (m_deviceFactory)
+        countFailed(m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText));
     for (int group = 0; group < m_groups.size(); ++group) {
         const QModelIndex parent = index(group, 0);
         Q_EMIT dataChanged(index(0, 0, parent), index(rowCount(parent) - 1, 0, parent), {FailureRole});
@@ -279,6 +281,18 @@ QVariantList OVTreeModel::readRows() const
 {
     return DeviceOrder(DeviceRowKey::ipport)
         .ordered(m_deviceFactory->filterData(dhFamily, m_filterType, m_searchText));
+}
+
+void OVTreeModel::countFailed(const QVariantList &rows)
+{
+    const auto isFailed = [this](const QVariant &row) {
+        const QJsonObject values = row.toJsonObject();
+        return !rowAddress(values).isEmpty() && m_failedMarks.contains(rowName(values));
+    };
+    const auto count = static_cast<int>(
+        m_failedMarks.isEmpty() ? 0 : std::count_if(rows.cbegin(), rows.cend(), isFailed));
+    if (std::exchange(m_failedCount, count) != count)
+        Q_EMIT failedCountChanged();
 }
 
 void OVTreeModel::noteUsualPort(const QVariantList &rows)
@@ -328,6 +342,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     const QVariantList rows = readRows();
     rememberDevices();
     noteUsualPort(rows);
+    countFailed(rows);
     m_loggedOutCount = 0;
 
     QHash<QString, qsizetype> places;
@@ -371,6 +386,7 @@ OVTreeModel::Device OVTreeModel::deviceOf(const QString &identity, const QJsonOb
     device.detail = name.isEmpty() || model.isEmpty() ? name + model : name + QStringLiteral(" · ") + model;
     device.isUpgrading =
         UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None));
+    device.isLost = row.value(DeviceRowKey::lost).toBool();
     return device;
 }
 

@@ -30,6 +30,7 @@ class OVTreeModel : public QAbstractItemModel
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(Shown shown READ shown WRITE setShown NOTIFY shownChanged)
+    Q_PROPERTY(int failedCount READ failedCount NOTIFY failedCountChanged)
     Q_PROPERTY(int loggedOutCount READ loggedOutCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(QStringList checkedDevices READ checkedDevices NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedDevicesChanged)
@@ -85,7 +86,8 @@ public:
     [[nodiscard]] Shown shown() const { return m_shown; }
     void setShown(Shown shown);
 
-    /// Of the devices that the last rebuild found, also when they are not shown.
+    /// Of the devices that the filter of the last rebuild leaves, also when they are not shown.
+    [[nodiscard]] int failedCount() const { return m_failedCount; }
     [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }
 
     /// Rebuilds the tree from the IPv4 rows. `type` is "search" (devices that hold `searchText`) or
@@ -132,6 +134,7 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void failedMarksChanged();
+    void failedCountChanged();
     void shownChanged();
     void checkedDevicesChanged();
 
@@ -144,6 +147,7 @@ private:
         int copyRet = NoResult;
         QString detail = {}; ///< name and model, the tool tip of the device
         bool isUpgrading = false;
+        bool isLost = false;
     };
     struct Group
     {
@@ -157,6 +161,7 @@ private:
     [[nodiscard]] Device deviceOf(const QString &identity, const QJsonObject &row) const;
     void takeMarks();
     [[nodiscard]] QVariantList readRows() const;
+    void countFailed(const QVariantList &rows);
     void noteUsualPort(const QVariantList &rows);
     /// Name of the group that a row stands in; empty when it is not shown.
     [[nodiscard]] QString groupNameOf(const QJsonObject &row, const QString &identity) const;
@@ -171,6 +176,7 @@ private:
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     FollowedMarks m_failedMarks;
     Shown m_shown = All;
+    int m_failedCount = 0;
     int m_loggedOutCount = 0;
     QString m_usualPort;  ///< of most devices of the tree
     QString m_filterType; ///< of the last resetItems(), empty before it

@@ -4,6 +4,7 @@
 #include "device/batch/occupiedaddresses.h"
 #include "device/devicefactory.h"
 #include "device/devicerow.h"
+#include "device/devicestore.h"
 #include "device/logging.h"
 #include "device/upgradetools.h"
 #include "sdk/threadpriority.h"
@@ -55,6 +56,12 @@ Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int
 Batches::~Batches()
 {
     m_files.waitForDone();
+}
+
+void Batches::keepFailedIn(const std::shared_ptr<DeviceStore> &store)
+{
+    connect(&m_failedMarks, &FailedMarks::changed, this,
+            [this, store] { store->setKept(m_failedMarks.identities()); });
 }
 
 BatchPolicy Batches::usualPolicy() const
@@ -163,14 +170,31 @@ QVariantList Batches::addressesToPutBack(Batch *batch) const
             continue;
         const QString &identity = entry.device.identity;
         const AddressSettings before = batch->plan().addressesBefore.value(identity);
-        const BatchDevice now = batchDevice(m_factory, batch->plan().family, identity);
-        entries.append(
-            QVariantMap{{QStringLiteral("name"), identity},
-                        {QStringLiteral("ipport"), now.ipport},
-                        {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address},
-                        {QStringLiteral("newAddress"), before.dhcp ? QString() : before.address}});
+        const BatchDevice now = deviceNow(batch->plan(), entry);
+        QVariantMap values = {
+            {QStringLiteral("name"), identity},
+            {QStringLiteral("ipport"), now.ipport},
+            {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address},
+            {QStringLiteral("newAddress"), before.dhcp ? QString() : before.address}};
+        if (m_factory.deviceRow(batch->plan().family, identity).isEmpty()) {
+            values.insert(QStringLiteral("title"), now.title);
+            values.insert(DeviceRowKey::mac, macOf(now));
+        }
+        entries.append(values);
     }
     return entries;
+}
+
+BatchDevice Batches::deviceNow(const BatchPlan &plan, const Batch::Entry &entry) const
+{
+    if (!m_factory.deviceRow(plan.family, entry.device.identity).isEmpty())
+        return batchDevice(m_factory, plan.family, entry.device.identity);
+    BatchDevice device = entry.device;
+    const QString given = entry.outcome.result == BatchReport::Succeeded ? entry.outcome.text : QString();
+    if (!given.isEmpty()) // nothing but the colon is known of an address by DHCP
+        device.ipport = (given == QLatin1String("DHCP") ? QString() : given) + QLatin1Char(':') +
+                        device.ipport.section(QLatin1Char(':'), 1);
+    return device;
 }
 
 Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStringList &identities)
@@ -183,7 +207,7 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
     const QSet<QString> chosen(identities.cbegin(), identities.cend());
     for (const Batch::Entry &entry : batch->entries()) {
         if (chosen.contains(entry.device.identity))
-            plan.devices.append(batchDevice(m_factory, plan.family, entry.device.name));
+            plan.devices.append(deviceNow(batch->plan(), entry));
     }
     return plan.devices.isEmpty()
                ? nullptr
@@ -208,10 +232,13 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     QList<AddressChange> changes;
     for (const BatchDevice &device : std::as_const(plan.devices)) {
         const QVariantMap detail = m_factory.getDeviceDetail(plan.family, device.name);
-        const AddressSettings shown = {.address = device.ipport.section(QLatin1Char(':'), 0, 0),
-                                       .mask = detail.value(QStringLiteral("submask")).toString(),
-                                       .gateway = detail.value(QStringLiteral("gateway")).toString(),
-                                       .dhcp = detail.value(QStringLiteral("dhcp")).toBool()};
+        // Of a device that is not listed only the address is known: the rest is what it is to get.
+        const AddressSettings target = targets.value(device.identity);
+        const AddressSettings shown = {
+            .address = device.ipport.section(QLatin1Char(':'), 0, 0),
+            .mask = detail.value(QStringLiteral("submask"), target.mask).toString(),
+            .gateway = detail.value(QStringLiteral("gateway"), target.gateway).toString(),
+            .dhcp = detail.value(QStringLiteral("dhcp")).toBool()};
         const AddressSettings before = settingsBeforeFailure(device.identity).value_or(shown);
         plan.addressesBefore.insert(device.identity, before);
         changes.append({.oldAddress = before.address, .newAddress = targets.value(device.identity).address});
@@ -464,7 +491,7 @@ void Batches::finish(Batch *batch, int work)
             reached.append(entry.device.identity);
         else if (plan.notesResults)
             m_factory.updataDeviceInfo(plan.family, QStringLiteral("res"), result, entry.device.identity,
-                                       entry.device.ipport);
+                                       QString());
     }
     if (plan.changesRows)
         m_factory.refreshDevices(plan.family, reached);

@@ -10,6 +10,7 @@
 #include <optional>
 
 class CDeviceFactory;
+class DeviceStore;
 
 /// The batches of the session, and the place where the scene starts one. One batch runs at a time; another
 /// one is refused until it has ended. While it runs, the busy state knows it.
@@ -41,6 +42,9 @@ public:
     /// The devices that the batches of the session failed with or did not come to.
     [[nodiscard]] FailedMarks *failedMarks() { return &m_failedMarks; }
 
+    /// Keeps the rows of marked devices in `store` through searches, until their marks are gone.
+    void keepFailedIn(const std::shared_ptr<DeviceStore> &store);
+
     // Each starts a batch and returns it, or null after refused(). The scene does not own it.
 
     /// A command of systemConfig(), for devices by address and port. For "setTimeByPC" each device gets the
@@ -70,7 +74,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QVariantList addressesToPutBack(Batch *batch) const;
 
     /// Puts the addresses of these devices of the batch back, by identity. Devices that do not respond at the
-    /// addresses of their rows are searched by their MACs first.
+    /// addresses of their rows, or that have no row any more, are searched by their MACs first.
     Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title, const QStringList &identities);
 
     /// The encode settings of the current session's channel, for devices by address and port.
@@ -130,6 +134,8 @@ private:
     /// `targets` hold what each device gets, by identity.
     Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
                           Locating locating = Locating::None);
+    /// A device of an ended batch as its row shows it now; as the batch left it when it has no row any more.
+    [[nodiscard]] BatchDevice deviceNow(const BatchPlan &plan, const Batch::Entry &entry) const;
     /// What a device had before the last change of its address, if that failed: its row shows since then what
     /// it was asked for.
     [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;

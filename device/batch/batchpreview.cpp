@@ -28,7 +28,7 @@ QVariantMap shownOf(const QVariantMap &device, const QString &identity)
 {
     QVariantMap shown = {{QStringLiteral("identity"), identity}, {QStringLiteral("title"), titleOf(device)}};
     for (const QLatin1StringView key : {DeviceRowKey::mac, DeviceRowKey::model, DeviceRowKey::ipport,
-                                        DeviceRowKey::state, DeviceRowKey::upgraderes}) {
+                                        DeviceRowKey::state, DeviceRowKey::upgraderes, DeviceRowKey::lost}) {
         if (device.contains(key))
             shown.insert(key, device.value(key));
     }
@@ -93,6 +93,8 @@ void BatchPreview::setEntries(const QVariantList &entries)
         const QString name = entry.value(QStringLiteral("name")).toString();
         const QVariant ipport = entry.value(DeviceRowKey::ipport);
         QVariantMap row = shownOf(listed.value(listed.contains(name) ? name : ipport.toString()), name);
+        if (row.value(DeviceRowKey::mac).toString().isEmpty() && entry.contains(DeviceRowKey::mac))
+            row.insert(DeviceRowKey::mac, entry.value(DeviceRowKey::mac)); // of a device that is not listed
         QStringList titles = {entry.value(QStringLiteral("title")).toString(),
                               row.value(QStringLiteral("title")).toString()};
         titles.removeAll(QString());
@@ -117,7 +119,8 @@ QHash<QString, QVariantMap> BatchPreview::devicesByName() const
         QVariantMap device = row.toVariantMap();
         device.insert(QStringLiteral("identity"), rowName(row));
         devices.insert(rowName(row), device);
-        if (!devices.contains(ipport)) // as operations find it
+        const auto known = devices.constFind(ipport);
+        if (known == devices.cend() || known->value(DeviceRowKey::lost).toBool()) // as operations find it
             devices.insert(ipport, device);
     }
     return devices;
@@ -144,7 +147,8 @@ void BatchPreview::readList()
                                   .trimmed();
         m_listed.append(
             {.identity = rowName(row), .ipport = ipport, .words = words.isEmpty() ? ipport : words});
-        ++m_devicesAt[ipport];
+        // A lost device may have left its address to another one.
+        m_devicesAt[ipport] += row.value(DeviceRowKey::lost).toBool() ? 0 : 1;
         m_identitiesAt.insert(ipport.left(ipport.lastIndexOf(QLatin1Char(':'))), rowName(row));
     }
 }
@@ -195,7 +199,8 @@ BatchPreview::Judgement BatchPreview::judgementOf(int row) const
     const QString action = device.value(actionKey, m_action).toString();
     if (isTaken(device.value(newAddressKey).toString(), identityOf(device)))
         return {.kind = Warned, .action = action, .note = tr("与其他设备冲突"), .isConflict = true};
-    if (m_devicesAt.value(addressAndPortOf(row)) > 1)
+    const int own = device.value(DeviceRowKey::lost).toBool() ? 0 : 1;
+    if (m_devicesAt.value(addressAndPortOf(row)) > own)
         return {.kind = Warned,
                 .action = action,
                 .note = tr("IP地址冲突，可能作用于另一台设备"),

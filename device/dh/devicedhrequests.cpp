@@ -83,7 +83,10 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
 DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                   const QString &newgateway, bool dhcpON)
 {
-    const DeviceAccount credentials = credentialsOf(store().row(mac));
+    const QJsonObject row = store().row(mac);
+    // A device that is not listed may be found by the time that the step runs.
+    const DeviceAccount credentials =
+        credentialsOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
     return [=, this](const StepControl &) {
         if (m_upgrades->isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);

@@ -272,6 +272,42 @@ private Q_SLOTS:
         QCOMPARE(std::memcmp(&*record, &answer, sizeof(answer)), 0);
     }
 
+    void keptRowsAreLostUntilTheirDevicesAreFoundAgain()
+    {
+        const auto address = [this](const QString &name) {
+            return m_store->rowNamed(name).value("ipport").toString();
+        };
+        const sdk::SearchAnswer kept = searchAnswer({.address = "192.168.1.64", .mac = numberedMac(1)});
+        const sdk::SearchAnswer keptIPv6 =
+            searchAnswer({.address = "fe80::9", .mac = numberedMac(2), .ipVersion = 6});
+        const QString name = QString::fromStdString(numberedMac(1));
+        for (const sdk::SearchAnswer &answer : {kept, keptIPv6, searchAnswer({.mac = numberedMac(3)})})
+            m_store->addAnswer(answer);
+        m_store->changeRowNamed(name, [](QJsonObject &row) { row.insert("username", "installer"); });
+        m_store->setKept({name, "[fe80::9]:37777", "never listed"});
+        m_store->clear();
+        QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::lost), QStringList("true"));
+        QCOMPARE(values(m_store->ipv6Rows(), DeviceRowKey::lost), QStringList("true"));
+        QCOMPARE(m_store->ipv4Count(), 0);
+        QVERIFY(m_store->record(name)); // requests to the device are still possible
+        QCOMPARE(m_store->rowNamed(name).value("username").toString(), "installer");
+
+        // Another device that has its address now goes before it.
+        m_store->addAnswer(searchAnswer({.address = "192.168.1.64", .mac = numberedMac(4)}));
+        QCOMPARE(m_store->rowAt("192.168.1.64:37777").value("mac").toString().toStdString(), numberedMac(4));
+
+        sdk::SearchAnswer again = searchAnswer({.address = "192.168.1.77", .mac = numberedMac(1)});
+        for (const sdk::SearchAnswer &answer : {again, again, keptIPv6, keptIPv6})
+            m_store->addAnswer(answer);
+        QCOMPARE(address(name), "192.168.1.77:37777");
+        QCOMPARE(m_store->ipv4Count(), 2);
+        QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::lost), QStringList({"", ""}));
+        QCOMPARE(values(m_store->ipv6Rows(), DeviceRowKey::lost), QStringList(""));
+        m_store->setKept({});
+        m_store->clear();
+        QVERIFY(m_store->ipv4Rows().isEmpty() && m_store->ipv6Rows().isEmpty());
+    }
+
     void aLoopbackDeviceHeadsTheList()
     {
         for (int number = 0; number < 10; ++number)

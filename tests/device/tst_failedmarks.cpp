@@ -96,6 +96,7 @@ private Q_SLOTS:
         fill(*site.rows, marks);
         table.setDeviceFactory(&site.factory);
         QCOMPARE(table.get(table.rowOf("m3")).value("failure").toString(), marks.wordsOf("m3"));
+        QCOMPARE(table.failedCount(), 3); // of four marks: one has no row
         table.setOnlyFailed(true);
         const bool passwordFirst = resultName(wrongPassword) < resultName(away);
         QCOMPARE(shown(table),
@@ -105,9 +106,11 @@ private Q_SLOTS:
         site.rows->ipv4.clear();
         table.refresh();
         QCOMPARE(table.rowCount(), 0);
+        QCOMPARE(table.failedCount(), 0);
         site.rows->add({.address = "10.0.7.7", .mac = "m3", .type = "IPC"});
         table.refresh();
         QCOMPARE(shown(table), QStringList("m3"));
+        QCOMPARE(table.failedCount(), 1);
 
         note(marks, "reboot", {{"m3", succeeded}});
         QCOMPARE(table.rowCount(), 0);
@@ -126,6 +129,10 @@ private Q_SLOTS:
         tree.setFailedMarks(&marks);
         fill(*site.rows, marks);
         tree.resetItems("removeuninit", "");
+        QCOMPARE(tree.failedCount(), 3);
+        note(marks, "copy", {{"m1", away}});
+        QCOMPARE(tree.failedCount(), 4);
+        note(marks, "copy", {{"m1", succeeded}});
         tree.setCheckedDevices({"m1", "m9"});
         tree.setShown(OVTreeModel::Failed);
         DeviceTreeRows rows;

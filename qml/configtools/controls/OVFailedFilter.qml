@@ -6,6 +6,7 @@ Row {
     id: root
 
     required property FailedMarks marks
+    required property int count  // rows of marked devices
     property bool on: false
     signal toggled(bool on)
 
@@ -16,7 +17,7 @@ Row {
         checked: root.on
         objectName: "failedFilter"
         //: Shows only the devices that batches have failed with; %1 is how many there are.
-        text: qsTr("仅失败 %1").arg(root.marks?.count ?? 0)
+        text: qsTr("仅失败 %1").arg(root.count)
         toolTip: qsTr("只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。")
         onToggled: root.toggled(checked)
     }

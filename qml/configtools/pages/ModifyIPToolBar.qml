@@ -9,6 +9,7 @@ RowLayout {
     required property bool showInitialised
     required property bool showUninitialised
     required property bool ipv6
+    required property int failedCount
     required property FailedMarks marks
     required property bool onlyFailed
     required property int upgradingCount  // of the ticked devices
@@ -125,6 +126,7 @@ RowLayout {
     }
 
     OVFailedFilter {
+        count: root.failedCount
         marks: root.marks
         on: root.onlyFailed
         onToggled: on => root.onlyFailedToggled(on)

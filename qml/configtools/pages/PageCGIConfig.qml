@@ -197,6 +197,7 @@ FocusScope {
             Layout.fillWidth: true
         }
         OVFailedFilter {
+            count: devices.failedCount
             marks: devices.failedMarks
             on: devices.onlyFailed
             onToggled: on => devices.onlyFailed = on

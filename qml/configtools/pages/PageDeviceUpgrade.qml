@@ -119,6 +119,7 @@ FocusScope {
         width: parent.width - 2 * x
         height: Theme.toolBarHeight
         ipv6: devices.ipv6
+        failedCount: devices.failedCount
         marks: devices.failedMarks
         onlyFailed: devices.onlyFailed
         onDocumentRequested: work.chooseDocument()

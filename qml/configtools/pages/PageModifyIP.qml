@@ -166,6 +166,7 @@ FocusScope {
         width: parent.width - 2 * Theme.pageMargin
         height: Theme.toolBarHeight
         ipv6: devices.ipv6
+        failedCount: devices.failedCount
         marks: devices.failedMarks
         onlyFailed: devices.onlyFailed
         showInitialised: devices.showInitialised

@@ -1,6 +1,7 @@
 #include "device/batch/addressorder.h"
 #include "device/batch/batches.h"
 #include "device/batch/batchpreview.h"
+#include "device/devicetablemodel.h"
 #include "device/upgradetools.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -61,6 +62,12 @@ private:
             addresses.append(device.address);
         return addresses;
     }
+    [[nodiscard]] bool search() const
+    {
+        QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        return QTest::qWaitFor([&] { return !found.isEmpty(); }, 30000);
+    }
     [[nodiscard]] QStringList askedMacs(const QString &operation) const
     {
         QStringList asked;
@@ -81,9 +88,8 @@ private Q_SLOTS:
         m_engine = std::make_unique<BatchEngine>(nullptr);
         m_site = std::make_unique<ConfigSite>(m_devices);
         m_batches = std::make_unique<Batches>(*m_site->factory, *m_engine, [] { return 2; });
-        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
-        m_site->factory->startSearch("dh");
-        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        m_batches->keepFailedIn(m_site->store);
+        QVERIFY(search());
         m_site->site->requests().clear();
     }
 
@@ -227,6 +233,54 @@ private Q_SLOTS:
         QCOMPARE(askedMacs("NetModifyDeviceBySearch").size(), 4);
         QCOMPARE(back->report()->succeeded(), 4);
         QCOMPARE(addresses(), before);
+    }
+
+    /// A search, or the user, has taken its row.
+    void aDeviceWithoutARowIsPutBack()
+    {
+        const QString mac = m_devices.at(0).mac;
+        Batch *batch = m_batches->changeAddresses("dh", "Addresses", {mac}, {"192.168.1.50"}, "255.255.0.0",
+                                                  "192.168.1.9", false);
+        QTRY_VERIFY(!batch->isRunning());
+        QVERIFY(QThreadPool::globalInstance()->waitForDone(30000)); // the row has been queried again
+        m_site->factory->setDeleteDevice("dh", mac, "IPV4");
+        const QVariantMap entry = m_batches->addressesToPutBack(batch).value(0).toMap();
+        QCOMPARE(entry.value("ipport").toString(), "192.168.1.50:37777");
+        QCOMPARE(entry.value("mac").toString(), mac);
+        Batch *back = m_batches->putAddressesBack(batch, "Back", {mac});
+        QTRY_VERIFY(!back->isRunning());
+        QCOMPARE(back->report()->succeeded(), 1);
+        const auto device = m_site->site->device(mac);
+        QCOMPARE(QStringList({device->address, device->mask, device->gateway}),
+                 QStringList({"192.168.1.1", "255.255.255.0", "192.168.1.1"}));
+        QCOMPARE(m_site->store->row(mac).value("ipport").toString(), "192.168.1.1:37777");
+        // What a put back that went wrong would send again.
+        QCOMPARE(back->plan().addressesBefore.value(mac).address, "192.168.1.50");
+    }
+
+    void aSearchKeepsTheRowsOfFailedDevices()
+    {
+        const QString mac = m_devices.at(1).mac;
+        m_site->site->setFault(mac, {.fault = sdk::demo::Fault::NoAnswer});
+        Batch *batch = setStandard(ipportsOf(m_devices));
+        QTRY_VERIFY(!batch->isRunning());
+        m_site->site->changeDevice(mac, [](auto &device, const auto &) { device.address = "10.9.9.9"; });
+        QVERIFY(search());
+        DeviceTableModel table;
+        table.setFailedMarks(m_batches->failedMarks());
+        table.setDeviceFactory(m_site->factory.get());
+        table.setOnlyFailed(true);
+        QCOMPARE(table.failedCount(), 1);
+        QCOMPARE(table.get(0).value("mac").toString(), mac);
+        QVERIFY(table.get(0).value("failure").toString().count('\n') == 1); // it is said to be lost, too
+
+        m_site->site->clearFault(mac, sdk::demo::Fault::NoAnswer);
+        QVERIFY(search());
+        table.refresh();
+        QCOMPARE(table.get(0).value("ipport").toString(), "10.9.9.9:37777");
+        m_batches->failedMarks()->clear();
+        table.refresh();
+        QCOMPARE(table.rowCount(), 4);
     }
 
     void anAddressThatAnotherDeviceHasTakenIsNotPutBackUnnoticed()
@@ -379,9 +433,7 @@ private Q_SLOTS:
             m_site->site->changeDevice(
                 m_devices.at(device).mac,
                 [address = address](auto &moved, const auto &) { moved.address = address; });
-        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
-        m_site->factory->startSearch("dh");
-        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        QVERIFY(search());
         m_site->site->requests().clear();
         const QSignalSpy refused(m_batches.get(), &Batches::refused);
         QCOMPARE(m_batches->retry(batch), nullptr);

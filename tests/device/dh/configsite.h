@@ -102,9 +102,9 @@ public:
         scene.devices = devices;
         site = sdk::demo::DemoSite::create(scene, m_clock);
         net = std::make_shared<SilentNetLibrary>(*site);
-        const auto store = std::make_shared<DeviceStore>(m_clock);
+        store = std::make_shared<DeviceStore>(m_clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {QStringLiteral("dh"), [this, store] {
+            {QStringLiteral("dh"), [this] {
                  sdk::SdkLibraries libraries = site->libraries();
                  libraries.net = net;
                  return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
@@ -175,6 +175,7 @@ private:
 public:
     std::shared_ptr<sdk::demo::DemoSite> site;
     std::shared_ptr<SilentNetLibrary> net; ///< of the factory; uses the site
+    std::shared_ptr<DeviceStore> store;
     std::unique_ptr<CDeviceFactory> factory;
 
 private:

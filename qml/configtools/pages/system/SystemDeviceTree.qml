@@ -97,7 +97,7 @@ Rectangle {
             objectName: "clearMarksButton"
             text: qsTr("清除失败标记")
             toolTip: qsTr("不再标记失败和未执行的设备")
-            visible: states.failedCount > 0
+            visible: (root.devices.failedMarks?.count ?? 0) > 0
             onClicked: root.devices.failedMarks.clear()
         }
         Rectangle {

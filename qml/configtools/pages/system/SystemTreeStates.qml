@@ -6,7 +6,7 @@ OVSegmentedChoice {
     id: root
 
     required property OVTreeModel devices
-    readonly property int failedCount: devices.failedMarks?.count ?? 0
+    readonly property int failedCount: devices.failedCount
     readonly property var shownOf: [OVTreeModel.All, OVTreeModel.Failed, OVTreeModel.LoggedOut]
 
     currentIndex: shownOf.indexOf(devices.shown)

@@ -7,6 +7,7 @@ RowLayout {
     id: root
 
     required property bool ipv6
+    required property int failedCount
     required property FailedMarks marks
     required property bool onlyFailed
     property alias searchText: searchField.text
@@ -63,6 +64,7 @@ RowLayout {
         Layout.fillWidth: true
     }
     OVFailedFilter {
+        count: root.failedCount
         marks: root.marks
         on: root.onlyFailed
         onToggled: on => root.onlyFailedToggled(on)
