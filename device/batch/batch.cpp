@@ -136,15 +136,14 @@ bool Batch::start()
     std::vector<BatchItem> items;
     items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
     const auto isPrepared = std::make_shared<std::once_flag>();
-    QHash<QString, QString> deviceAt; // rows that share an address are one device to the engine
     for (const BatchDevice &device : std::as_const(m_plan.devices)) {
-        const auto known = deviceAt.constFind(device.ipport);
-        const QString key = m_plan.isByAddress && known != deviceAt.cend() ? *known : device.identity;
-        deviceAt.insert(device.ipport, key);
+        // Of rows that share an address, steps that go by MAC ask different devices.
+        const QString login =
+            m_plan.isByAddress ? device.login : device.login + QLatin1Char('\n') + device.identity;
         if (device.isUpgrading)
-            items.push_back({.device = key + upgradingMark, .login = {}, .step = &refuseForUpgrade});
+            items.push_back({.device = device.key + upgradingMark, .login = {}, .step = &refuseForUpgrade});
         else
-            items.push_back({.device = key, .login = device.login, .step = preparedStep(device, isPrepared)});
+            items.push_back({.device = device.key, .login = login, .step = preparedStep(device, isPrepared)});
     }
     m_began = QDateTime::currentDateTime();
     m_isRunning = true;

@@ -45,6 +45,22 @@ int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice 
     return row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None);
 }
 
+/// The first row of each address, a lost one only if there is no other.
+QHash<QString, QJsonObject> rowsByAddress(CDeviceFactory &factory, const QString &family)
+{
+    QHash<QString, QJsonObject> rows;
+    const QVariantList all = factory.filterData(family, QStringLiteral("nofilter"));
+    rows.reserve(all.size());
+    for (const QVariant &value : all) {
+        const QJsonObject row = value.toJsonObject();
+        const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        const auto known = rows.constFind(ipport);
+        if (known == rows.cend() || known->value(DeviceRowKey::lost).toBool())
+            rows.insert(ipport, row);
+    }
+    return rows;
+}
+
 } // namespace
 
 Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
@@ -453,9 +469,12 @@ Batch *Batches::start(BatchPlan plan)
 {
     if (!mayStart())
         return nullptr;
-    for (BatchDevice &device : plan.devices)
+    const QHash<QString, QJsonObject> rows = rowsByAddress(m_factory, plan.family);
+    for (BatchDevice &device : plan.devices) {
+        device.key = workKey(rows.value(device.ipport), device.ipport, device.identity);
         device.isUpgrading =
             !plan.rowsShowIt && UpgradeTools::isRunning(upgradeOf(m_factory, plan.family, device));
+    }
     auto *batch = new Batch(m_engine, std::move(plan), this);
     const int work = m_factory.busyState()->begin(
         batch->title(), batch->plan().holdsRows ? BusyState::Rows : BusyState::Program);

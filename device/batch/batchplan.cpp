@@ -32,6 +32,13 @@ QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, 
     return devices;
 }
 
+QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity)
+{
+    if (ipport.isEmpty() || ipport.startsWith(QLatin1Char(':'))) // waits for an address by DHCP
+        return identity;
+    return rowThere.isEmpty() ? ipport : rowName(rowThere);
+}
+
 QString macOf(const BatchDevice &device)
 {
     // A row without a MAC is named by the device's UUID or by the address that it was found with.

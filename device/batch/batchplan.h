@@ -3,6 +3,7 @@
 
 #include "device/batch/batchengine.h"
 
+#include <QJsonObject>
 #include <QList>
 #include <QString>
 
@@ -27,6 +28,7 @@ struct BatchDevice
     QString ipport;     ///< as of the start of the batch
     QString title;      ///< its name and model, for the user
     QString login = {}; ///< as BatchItem has it
+    QString key = {};   ///< see workKey(); as of the start of the batch
     bool isUpgrading = false; ///< its firmware is being upgraded when the batch starts: it is not asked
 };
 
@@ -90,6 +92,11 @@ struct BatchPlan
 [[nodiscard]] BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name);
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
+
+/// The name by which the engine knows a device at an address and port. Whoever works with it, a batch or a
+/// page, asks for the device under this name. `rowThere` is the first row of that address, a lost one only if
+/// there is no other; empty when there is none. `identity` names a device that has no address.
+[[nodiscard]] QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity);
 
 /// Empty for a device that has none.
 [[nodiscard]] QString macOf(const BatchDevice &device);

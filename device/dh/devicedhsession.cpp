@@ -1,4 +1,5 @@
 // The current session.
+#include "device/batch/batchplan.h"
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
@@ -83,8 +84,7 @@ BatchEngine::Hold CDeviceDH::holdDevice(const QString &ipport, const StepControl
     // The step of an upgrade takes minutes. What would disturb it is refused instead.
     if (isUpgradingAt(ipport))
         return {};
-    const QString name = rowName(store().rowAt(ipport));
-    return m_engine->hold(name.isEmpty() ? ipport : name, control.stopToken());
+    return m_engine->hold(workKey(store().rowAt(ipport), ipport, ipport), control.stopToken());
 }
 
 void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,

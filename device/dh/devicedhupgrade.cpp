@@ -1,4 +1,5 @@
 // Firmware upgrades of the devices of rows, and of those of documents.
+#include "device/batch/batchplan.h"
 #include "device/devicerow.h"
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
@@ -169,14 +170,16 @@ bool CDeviceDH::hasDeviceUpgrading()
 UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 {
     const QString name = rowName(row);
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
     const DeviceAccount credentials = upgradeCredentials(row);
     return {.key = name,
             .row = name,
-            .ipport = row.value(DeviceRowKey::ipport).toString(),
+            .ipport = ipport,
             .account = credentials.account,
             .password = credentials.password,
             .model = row.value(DeviceRowKey::model).toString(),
-            .file = row.value(DeviceRowKey::filepath).toString()};
+            .file = row.value(DeviceRowKey::filepath).toString(),
+            .device = workKey(store().rowAt(ipport), ipport, name)};
 }
 
 DeviceAccount CDeviceDH::upgradeCredentials(const QJsonObject &row) const
@@ -196,7 +199,8 @@ QHash<QString, QJsonObject> CDeviceDH::rowsByAddress() const
     for (const QVariant &value : store().ipv4Rows() + store().ipv6Rows()) {
         const QJsonObject row = value.toJsonObject();
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        if (!rows.contains(ipport)) // several may have it
+        const auto known = rows.constFind(ipport); // several may have it
+        if (known == rows.cend() || known->value(DeviceRowKey::lost).toBool())
             rows.insert(ipport, row);
     }
     return rows;
@@ -209,6 +213,7 @@ UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line, const QJso
     order.file = line.file;
     if (order.key.isEmpty())
         order.key = line.ipport;
+    order.device = workKey(store().rowAt(line.ipport), line.ipport, order.key);
     const DeviceAccount usual = credentialsOf(row);
     order.account = line.user.isEmpty() ? usual.account : line.user;
     order.password = line.user.isEmpty() && line.password.isEmpty() ? usual.password : line.password;

@@ -62,7 +62,7 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
     const std::shared_ptr<Upgrade> upgrade = enter(order);
     if (!upgrade)
         return false;
-    const BatchItem item = {.device = order.key, .step = stepOf(upgrade)};
+    const BatchItem item = {.device = order.device, .step = stepOf(upgrade)};
     const std::lock_guard lock(m_submitting);
     if (!m_engine->append(m_batch, item))
         m_batch = m_engine->start({item}, {.atOnce = m_limits.atOnce}, std::make_shared<NoWatcher>());

@@ -22,6 +22,7 @@ struct UpgradeOrder
     QString password;
     QString model; ///< empty when it is not known
     QString file;
+    QString device = {}; ///< as the engine knows it, see workKey()
 };
 
 struct UpgradeState

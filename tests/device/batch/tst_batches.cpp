@@ -39,7 +39,7 @@ class TestBatches : public QObject
     Q_OBJECT
 private:
     QList<sdk::demo::SceneDevice> m_devices;
-    std::unique_ptr<BatchEngine> m_engine;
+    std::shared_ptr<BatchEngine> m_engine;
     std::unique_ptr<ConfigSite> m_site;
     std::unique_ptr<Batches> m_batches;
 
@@ -85,8 +85,8 @@ private Q_SLOTS:
             m_devices.last().mask = "255.255.255.0";
             m_devices.last().gateway = "192.168.1.1";
         }
-        m_engine = std::make_unique<BatchEngine>(nullptr);
-        m_site = std::make_unique<ConfigSite>(m_devices);
+        m_engine = std::make_shared<BatchEngine>(nullptr);
+        m_site = std::make_unique<ConfigSite>(m_devices, m_engine);
         m_batches = std::make_unique<Batches>(*m_site->factory, *m_engine, [] { return 2; });
         m_batches->keepFailedIn(m_site->store);
         QVERIFY(search());
@@ -488,6 +488,36 @@ private Q_SLOTS:
         QCOMPARE(batch->report()->devicesWith(resultCode(LoginResult::Upgrading)),
                  QStringList(ipportOf(m_devices.at(0))));
         QTRY_VERIFY(!batch->isRunning());
+    }
+
+    /// Two rows share an address: the page finds the first one there, the batch works with the second one.
+    void aPageWaitsForTheStepThatRunsAtItsAddress()
+    {
+        m_site->site->changeDevice(m_devices.at(1).mac, [](auto &device, const auto &) {
+            device.address = "192.168.1.1";
+        });
+        QVERIFY(search());
+        const auto goOn = std::make_shared<QSemaphore>();
+        const auto release = qScopeGuard([goOn] { goOn->release(); });
+        std::atomic<bool> isRunning = false;
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 8}};
+        plan.devices = batchDevices(*m_site->factory, "dh", {m_devices.at(1).mac});
+        plan.stepOf = [&isRunning, goOn](const BatchDevice &) {
+            return [&isRunning, goOn](const StepControl &) {
+                isRunning = true;
+                goOn->acquire();
+                return StepOutcome();
+            };
+        };
+        const Batch *batch = m_batches->start(std::move(plan));
+        QTRY_VERIFY(isRunning);
+        bool isLoggedIn = false;
+        m_site->factory->runForScene(
+            "dh", m_site->factory->loginStep("dh", "192.168.1.1:37777", "admin", "secret1"), {},
+            [&isLoggedIn](const SceneOutcome &) { isLoggedIn = true; });
+        QVERIFY(!QTest::qWaitFor([&isLoggedIn] { return isLoggedIn; }, 100));
+        goOn->release();
+        QTRY_VERIFY(isLoggedIn && !batch->isRunning());
     }
 
     void rowsOfOneAddressAreOneDevice_data()

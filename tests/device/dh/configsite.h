@@ -96,7 +96,9 @@ private:
 class ConfigSite
 {
 public:
-    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices)
+    /// `engine` runs the steps of the back end; null for one of its own.
+    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices,
+                        const std::shared_ptr<BatchEngine> &engine = nullptr)
     {
         sdk::demo::Scene scene;
         scene.devices = devices;
@@ -104,10 +106,11 @@ public:
         net = std::make_shared<SilentNetLibrary>(*site);
         store = std::make_shared<DeviceStore>(m_clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {QStringLiteral("dh"), [this] {
+            {QStringLiteral("dh"), [this, engine] {
                  sdk::SdkLibraries libraries = site->libraries();
                  libraries.net = net;
-                 return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
+                 return std::make_shared<CDeviceDH>(
+                     store, libraries, [] { return SearchSettings(); }, UpgradeLimits(), engine);
              }}});
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
     }
