@@ -3,6 +3,15 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+bool endsProgram(BusyState::Action action)
+{
+    return action == BusyState::Close || action == BusyState::Restart;
+}
+
+} // namespace
+
 BusyState::BusyState(std::function<bool()> isUpgrading, QObject *parent)
     : QObject(parent), m_isUpgrading(std::move(isUpgrading))
 {
@@ -36,13 +45,20 @@ bool BusyState::areRowsHeld() const
 
 QStringList BusyState::titlesInTheWayOf(Action action) const
 {
-    const bool endsProgram = action == Close || action == Restart;
     QStringList titles;
     for (const Work &work : m_works) {
-        if ((endsProgram || work.need == Rows) && !titles.contains(work.title))
+        const bool isInTheWay =
+            endsProgram(action) ? work.need != Edits : work.need == Rows && action != ChangeTab;
+        if (isInTheWay && !titles.contains(work.title))
             titles.append(work.title);
     }
     return titles;
+}
+
+bool BusyState::losesEdits(Action action) const
+{
+    return (endsProgram(action) || action == ChangeTab) &&
+           std::any_of(m_works.cbegin(), m_works.cend(), [](const Work &work) { return work.need == Edits; });
 }
 
 QString BusyState::refusal(Action action) const
@@ -50,10 +66,16 @@ QString BusyState::refusal(Action action) const
     if (m_isUpgrading && m_isUpgrading()) {
         if (action == Search)
             return tr("当前有设备正在升级中，请勿刷新设备！");
-        if (action == Close || action == Restart)
+        if (endsProgram(action))
             return tr("当前有设备正在升级中，请稍候再关闭");
     }
-    const QString titles = titlesInTheWayOf(action).join(tr("”、“"));
+    const QStringList inTheWay = titlesInTheWayOf(action);
+    const bool isSearchOnly = std::all_of(m_works.cbegin(), m_works.cend(), [](const Work &work) {
+        return work.need == Listing || work.need == Edits;
+    });
+    if (isSearchOnly && !inTheWay.isEmpty())
+        return tr("正在搜索，请先停止搜索（Esc）或稍候再关闭");
+    const QString titles = inTheWay.join(tr("”、“"));
     if (titles.isEmpty())
         return {};
     //: Each %1 is the name of a running work, as on the button that begins it.
@@ -68,6 +90,8 @@ QString BusyState::refusal(Action action) const
         return tr("“%1”正在进行，请在结束后再关闭").arg(titles);
     case Restart:
         return tr("“%1”正在进行，请在结束后再重启程序").arg(titles);
+    case ChangeTab:
+        break;
     }
     return {};
 }

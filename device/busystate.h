@@ -21,6 +21,8 @@ public:
     {
         Program, ///< the program must not end
         Rows,    ///< and the device rows with their addresses and accounts must stay
+        Listing, ///< of a search: the program must not end, unless the user stops the search before
+        Edits,   ///< of input that is not saved: the user is asked before it is lost
     };
     Q_ENUM(Need)
 
@@ -32,6 +34,7 @@ public:
         ChangeAddress, ///< of devices that the work may reach by their address
         Close,
         Restart,
+        ChangeTab, ///< nothing refuses it: works go on in the background, and keep their devices
     };
     Q_ENUM(Action)
 
@@ -54,6 +57,9 @@ public:
     /// action may begin. Running upgrades are in the way of Search, Close and Restart. Of Delete and
     /// ChangeAddress they are not: the back end refuses these for single devices.
     Q_INVOKABLE [[nodiscard]] QString refusal(BusyState::Action action) const;
+
+    /// Whether the action, when nothing refuses it, loses input that is not saved: the user is asked first.
+    Q_INVOKABLE [[nodiscard]] bool losesEdits(BusyState::Action action) const;
 
 Q_SIGNALS:
     void changed();

@@ -77,7 +77,7 @@ T.ApplicationWindow {
 
     /// Settings that were changed and not saved are not left without a word. Returns whether there is a question first.
     function leavePage(action) {
-        if (deviceConfigPage.visible)
+        if (deviceConfigPage.visible && busyState.losesEdits(BusyState.ChangeTab))
             return (deviceConfigPage.item as PageDeviceConfig).leave(action);
         action();
         return false;
@@ -162,7 +162,6 @@ T.ApplicationWindow {
         host: window
         localConfig: window.localConfig
         popups: popups
-        searching: window.searching
         onLeaving: window.rememberView()
     }
     SearchSettings {

@@ -60,6 +60,37 @@ private Q_SLOTS:
         QCOMPARE(!state.refusal(action).isEmpty(), waitsForUpgrades);
     }
 
+    void aSearchAndUnsavedInputAreInTheWayOfSomeActions_data()
+    {
+        const auto row = dataTable<BusyState::Action, bool, bool>({"action", "waitsForSearch", "losesEdits"});
+        row("search", BusyState::Search, false, false); // the running one is ended first
+        row("delete", BusyState::Delete, false, false);
+        row("change an address", BusyState::ChangeAddress, false, false);
+        row("close", BusyState::Close, true, true);
+        row("restart", BusyState::Restart, true, true);
+        row("change the tab", BusyState::ChangeTab, false, true);
+    }
+    void aSearchAndUnsavedInputAreInTheWayOfSomeActions()
+    {
+        QFETCH(BusyState::Action, action);
+        QFETCH(bool, waitsForSearch);
+        BusyState state({});
+        const int edits = state.begin(QStringLiteral("page"), BusyState::Edits);
+        QCOMPARE(state.refusal(action), QString()); // the user is asked instead
+        QTEST(state.losesEdits(action), "losesEdits");
+        const int search = state.begin(QStringLiteral("searching"), BusyState::Listing);
+        QCOMPARE(state.refusal(action).contains(QStringLiteral("Esc")), waitsForSearch);
+        QVERIFY(!state.areRowsHeld());
+
+        const int copy = state.begin(copying.first(), BusyState::Rows);
+        QCOMPARE(state.refusal(action).contains(copying.first()), action != BusyState::ChangeTab);
+        QCOMPARE(state.refusal(action).contains(QStringLiteral("searching")), waitsForSearch);
+        for (const int work : {edits, search, copy})
+            state.end(work);
+        QVERIFY(!state.losesEdits(action));
+        QCOMPARE(state.refusal(action), QString());
+    }
+
     void aReportEndsItsWorkWhateverHappens()
     {
         BusyState state({});

@@ -70,7 +70,7 @@ void walkStop(Driver &driver)
 {
     driver.await(u"a device of the other segment is found"_s, [&] { return counter(driver) > 0; });
     driver.click(u"closeButton"_s);
-    expectToast(driver, translated("WaysOut", "正在搜索，请先停止搜索（Esc）或稍候再关闭"));
+    expectToast(driver, translated("BusyState", "正在搜索，请先停止搜索（Esc）或稍候再关闭"));
     driver.report(u"search-running"_s, u"%1 devices so far, closing is refused"_s.arg(counter(driver)));
     driver.click(u"stopButton"_s);
     awaitEndOfSearch(driver, 10);

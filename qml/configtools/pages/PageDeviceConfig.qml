@@ -155,6 +155,12 @@ FocusScope {
         state: page.busyState
         title: qsTr("设备配置")
     }
+    BusyReport {
+        active: session.unsaved > 0
+        need: BusyState.Edits
+        state: page.busyState
+        title: qsTr("设备配置")
+    }
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible

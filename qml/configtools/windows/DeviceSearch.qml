@@ -72,6 +72,12 @@ QtObject {
         start(settings);
     }
 
+    readonly property BusyReport work: BusyReport {
+        active: root.running
+        need: BusyState.Listing
+        state: root.busyState
+        title: qsTr("搜索设备")
+    }
     readonly property Timer later: Timer {
         interval: 0
         onTriggered: root.startNext()

@@ -10,7 +10,6 @@ Item {
     required property var deviceFactory
     required property var localConfig
     required property WindowPopups popups
-    required property bool searching
     required property var host  // the window: its leavePage() takes what follows, and returns whether it asks first
     signal leaving  // what the window remembers is to be stored
 
@@ -47,14 +46,12 @@ Item {
             });
     }
 
-    /// Whether neither a work nor a search is in the way; otherwise the user is shown which.
+    /// Whether nothing is in the way; otherwise the user is shown what.
     function isFree(action) {
         const refusal = busyState.refusal(action);
         if (refusal !== "")
             popups.say(refusal, OVToast.Refusal);
-        else if (searching)
-            popups.say(qsTr("正在搜索，请先停止搜索（Esc）或稍候再关闭"), OVToast.Refusal);
-        return refusal === "" && !searching;
+        return refusal === "";
     }
 
     function end() {
