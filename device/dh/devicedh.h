@@ -282,7 +282,8 @@ private:
     [[nodiscard]] bool isFound(const QString &mac) const;
     StepOutcome noteNotFound(const QString &mac);
     StepOutcome changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                              const QString &newgateway, bool dhcpON, const DeviceAccount &credentials);
+                              const QString &newgateway, bool dhcpON, const DeviceAccount &credentials,
+                              const StepControl &control);
     /// Writes "res" of the device's row.
     StepOutcome noteResult(const QString &mac, LoginResult result);
 

@@ -5,6 +5,7 @@
 #include "device/dh/upgraderunner.h"
 #include "device/loginresult.h"
 #include "sdk/blocktext.h"
+#include "sdk/callstop.h"
 #include "sdk/netlibrary.h"
 
 using namespace std::chrono_literals;
@@ -77,7 +78,8 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
     if (m_upgrades->isUpgrading(mac))
         noteResult(mac, LoginResult::Upgrading);
     else
-        changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentialsOf(store().row(mac)));
+        changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentialsOf(store().row(mac)),
+                      StepControl());
 }
 
 DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
@@ -87,17 +89,18 @@ DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, cons
     // A device that is not listed may be found by the time that the step runs.
     const DeviceAccount credentials =
         credentialsOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
-    return [=, this](const StepControl &) {
+    return [=, this](const StepControl &control) {
         if (m_upgrades->isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);
         if (!isFound(mac))
             return noteNotFound(mac);
-        return changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentials);
+        return changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentials, control);
     };
 }
 
 StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                                     const QString &newgateway, bool dhcpON, const DeviceAccount &credentials)
+                                     const QString &newgateway, bool dhcpON, const DeviceAccount &credentials,
+                                     const StepControl &control)
 {
     std::optional<sdk::SearchAnswer> record = store().record(mac);
     LoginResult result = LoginResult::Success;
@@ -119,8 +122,11 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
         setText(request.device.account, credentials.account);
         setText(request.device.password, credentials.password);
         sdk::DeviceRequestOutput output{.size = sizeof(output)};
+        const sdk::CallStop callStop(control.stopToken(), [&control] { return control.isLate(); });
         if (!m_libraries.net->NetModifyDeviceBySearch(request, output, searchRequestWait))
             result = loginResultOf(m_libraries.net->NetGetLastError());
+        if (result == LoginResult::Cancelled) // before anything was sent
+            return noteResult(mac, LoginResult::NotDone);
     }
 
     // The row shows what was asked for, whatever came of it: the result stands beside it, and the next search
@@ -138,7 +144,12 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
         setText(record->device.address, address);
         store().putRecord(mac, *record);
     }
-    return noteResult(mac, result);
+    StepOutcome outcome = noteResult(mac, result);
+    const bool isUnknown = result == LoginResult::NetworkFailure || result == LoginResult::Unconfirmed;
+    if (isUnknown && control.shouldEnd())
+        outcome.text = control.isStopped() ? tr("已停止等待设备，地址可能已修改")
+                                           : tr("超过时间限制，地址可能已修改");
+    return outcome;
 }
 
 StepOutcome CDeviceDH::noteResult(const QString &mac, LoginResult result)

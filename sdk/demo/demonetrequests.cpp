@@ -1,4 +1,5 @@
 // Requests of the simulated network library to devices that nobody is logged in to.
+#include "sdk/callstop.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
@@ -13,14 +14,17 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
 {
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
+    std::stop_source stop; // the end of the library, or of the caller's wait
+    const std::stop_callback onCleanup(call.stop(), [&stop] { stop.request_stop(); });
+    const std::stop_callback onCallStop(CallStop::token(), [&stop] { stop.request_stop(); });
     const std::optional<SceneDevice> device = m_site.device(mac);
     if (device && !device->isRemote && (fromOtherSegment || !device->inOtherSegment) &&
         device->isListening(m_site.clock().now())) {
         if (device->hasFault(Fault::RefusesConnections))
             return m_error.fail(NetError::ConnectFailed);
-        return passAnswerTime(call.stop(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
+        return passAnswerTime(stop.get_token(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
     }
-    const bool isFullWait = m_site.clock().wait(bounded(wait), call.stop());
+    const bool isFullWait = m_site.clock().wait(bounded(wait), stop.get_token());
     return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
 }
 

@@ -1,5 +1,6 @@
 #include "sdk/onvif/addresschange.h"
 
+#include "sdk/callstop.h"
 #include "sdk/onvif/discovery/founddevice.h"
 #include "sdk/onvif/discovery/neighbourtable.h"
 #include "sdk/onvif/mapping/systemmapping.h"
@@ -60,9 +61,10 @@ public:
     [[nodiscard]] Presence wait(Deadline deadline)
     {
         constexpr auto pause = 200ms;
+        const std::stop_callback cancelOnStop(CallStop::token(), [http = m_http] { http->cancel(); });
         Presence presence = Presence::Silent;
         while (presence == Presence::Silent && std::chrono::steady_clock::now() < deadline &&
-               !m_http->isCancelled()) {
+               !m_http->isCancelled() && !CallStop::isRequested()) {
             presence = look(std::min(deadline, std::chrono::steady_clock::now() + 2s));
             if (presence == Presence::Silent)
                 std::this_thread::sleep_for(pause);
@@ -196,6 +198,8 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
     if (!interfaces.isOk() || !interface)
         return interfaces.isOk() ? NetError::NotSupported : interfaces.error;
 
+    if (CallStop::isRequested())
+        return NetError::Cancelled; // the last moment at which nothing has changed
     std::vector<std::string> macs = macsOf(interfaces.value, service.host);
     // The gateway first: after the address the device may be gone from here.
     GatewayChange gateway(order.dhcp ? std::string() : order.gateway);

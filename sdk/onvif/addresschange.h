@@ -28,6 +28,9 @@ struct AddressOrder
 /// may take longer than `deadline` for it, as the order says. A gateway that was changed is restored when the
 /// device refuses the address.
 ///
+/// A CallStop of this thread ends the wait for the device, and a cancelled `http` every request. Cancelled if
+/// it was stopped before anything was changed.
+///
 /// AddressInUse if another device answers at the present address or at the new one, Unconfirmed if nobody
 /// answers at the new one.
 [[nodiscard]] NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,

@@ -48,6 +48,10 @@ private:
         return m_batches->configureSystem("dh", "videoStandard", "Standard", {{"videoStandard", 1}}, ipports);
     }
     [[nodiscard]] QString identityOf(int place) const { return m_devices.at(place).mac; }
+    static QStringList wantedAddresses()
+    {
+        return {"192.168.1.51", "192.168.1.52", "192.168.1.53", "192.168.1.54"};
+    }
     [[nodiscard]] QStringList macs() const
     {
         QStringList macs;
@@ -233,6 +237,22 @@ private Q_SLOTS:
         QCOMPARE(askedMacs("NetModifyDeviceBySearch").size(), 4);
         QCOMPARE(back->report()->succeeded(), 4);
         QCOMPARE(addresses(), before);
+    }
+
+    /// The device does not answer, and the time that its request may take does not pass.
+    void aStopEndsTheWaitForAnAddress()
+    {
+        m_site->site->setFault(m_devices.at(0).mac, {.fault = sdk::demo::Fault::NoAnswer});
+        m_site->stopTime();
+        Batch *batch = m_batches->changeAddresses("dh", "Addresses", macs(), wantedAddresses(),
+                                                  "255.255.255.0", "192.168.1.1", false);
+        const auto goOn = qScopeGuard([this] { m_site->letTimePass(); });
+        QTRY_VERIFY(!askedMacs("NetModifyDeviceBySearch").isEmpty());
+        batch->stop();
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->entries().first().outcome.result, networkFailure);
+        QVERIFY(!batch->textOf(m_devices.at(0).mac).isEmpty()); // the address may have changed
+        QCOMPARE(batch->report()->devicesWith(notDone), macs().mid(1));
     }
 
     /// A search, or the user, has taken its row.

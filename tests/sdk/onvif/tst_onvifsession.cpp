@@ -1,5 +1,6 @@
 // Logins, first passwords and new addresses with devices that answer in part, not at all, or are others than
 // was thought.
+#include "sdk/callstop.h"
 #include "sdk/onvif/addresschange.h"
 #include "sdk/onvif/firstpassword.h"
 #include "sdk/onvif/livestreams.h"
@@ -10,6 +11,8 @@
 
 #include <QHash>
 #include <QRegularExpression>
+
+#include <future>
 
 using namespace Qt::StringLiterals;
 using namespace sdk::onvif;
@@ -271,6 +274,42 @@ private Q_SLOTS:
         // Of another device nothing is asked again.
         if (error == code(NetError::AddressInUse))
             QCOMPARE(device.requestsWith(QByteArray("Host: ") + newAddress, "UsernameToken"), 1);
+    }
+
+    /// A device may take a minute to come back: who stops the work does not wait for it.
+    void theWaitForADeviceAtItsNewAddressEnds_data()
+    {
+        const auto row = dataTable<bool>({"isLate"});
+        row("stopped", false);
+        row("its time is over", true);
+    }
+
+    void theWaitForADeviceAtItsNewAddressEnds()
+    {
+        QFETCH(const bool, isLate);
+        const ScriptedDevice device(Manners{{"new *", Manner::Silent}}, false);
+        const AddressOrder order = {.address = newAddress,
+                                    .mask = "255.0.0.0",
+                                    .gateway = "127.0.0.10",
+                                    .mac = "02:1a:c5:00:00:01",
+                                    .settlingTime = 60s,
+                                    .rebootTime = 60s};
+        std::stop_source stop;
+        std::atomic_bool isOver = false;
+        auto result = std::async(std::launch::async, [&] {
+            const sdk::CallStop callStop(stop.get_token(), [&] { return isOver.load(); });
+            return changeAddress(device.service(), std::make_shared<HttpClient>(), login, order,
+                                 std::chrono::steady_clock::now() + 5s);
+        });
+        QTRY_COMPARE(device.requestsWith("SetNetworkInterfaces"), 1);
+        QTRY_VERIFY(device.requestsWith(QByteArray("Host: ") + newAddress) > 0); // it waits
+        if (isLate)
+            isOver = true;
+        else
+            stop.request_stop();
+        QCOMPARE(result.wait_for(5s), std::future_status::ready);
+        QCOMPARE(code(result.get()), code(NetError::Unconfirmed));
+        QCOMPARE(device.requestsWith("SetNetworkDefaultGateway"), 1);
     }
 
     void anEndBeforeTheFirstHandlerIsReported()
