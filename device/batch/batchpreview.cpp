@@ -27,8 +27,9 @@ QString titleOf(const QVariantMap &device)
 QVariantMap shownOf(const QVariantMap &device, const QString &identity)
 {
     QVariantMap shown = {{QStringLiteral("identity"), identity}, {QStringLiteral("title"), titleOf(device)}};
-    for (const QLatin1StringView key : {DeviceRowKey::mac, DeviceRowKey::model, DeviceRowKey::ipport,
-                                        DeviceRowKey::state, DeviceRowKey::upgraderes, DeviceRowKey::lost}) {
+    for (const QLatin1StringView key :
+         {DeviceRowKey::mac, DeviceRowKey::type, DeviceRowKey::model, DeviceRowKey::ipport,
+          DeviceRowKey::vision, DeviceRowKey::state, DeviceRowKey::upgraderes, DeviceRowKey::lost}) {
         if (device.contains(key))
             shown.insert(key, device.value(key));
     }

@@ -51,8 +51,8 @@ public:
 
     /// Takes what is planned: maps of "name", by which checkedIdentities() names the entry, "ipport",
     /// "action" and, if wanted, "title" (before that of the device), "mac" (of one that is not listed),
-    /// "hindrance" (why nothing happens to it) and "newAddress" (that it gets). The device is the one of that name, or else the first one of that
-    /// address and port.
+    /// "hindrance" (why nothing happens to it) and "newAddress" (that it gets). The device is the one of that
+    /// name, or else the first one of that address and port.
     Q_INVOKABLE void setEntries(const QVariantList &entries);
 
     /// "ipport" of the ticked rows, and of the others, in their order.

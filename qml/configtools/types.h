@@ -8,6 +8,7 @@
 #include "device/batch/batchhistory.h"
 #include "device/batch/batchpreview.h"
 #include "device/batch/batchresultmodel.h"
+#include "device/batch/firstpasswordpreview.h"
 #include "device/batch/nameplan.h"
 #include "device/batch/upgradepreview.h"
 #include "device/batchreport.h"
@@ -85,6 +86,13 @@ struct BatchPreviewForeign
     Q_GADGET
     QML_FOREIGN(BatchPreview)
     QML_NAMED_ELEMENT(BatchPreview)
+};
+
+struct FirstPasswordPreviewForeign
+{
+    Q_GADGET
+    QML_FOREIGN(FirstPasswordPreview)
+    QML_NAMED_ELEMENT(FirstPasswordPreview)
 };
 
 struct UpgradePreviewForeign

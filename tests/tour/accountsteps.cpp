@@ -31,6 +31,10 @@ QList<int> setClocks(const Driver &driver, const QStringList &devices)
 {
     QList<int> results;
     driver.click(u"setTimeByPCButton"_s);
+    if (devices.size() > 1) { // one device needs no question
+        driver.require(u"previewTable"_s);
+        driver.click(u"okButton"_s);
+    }
     driver.await(u"the devices have results, and the batch ends"_s, [&] {
         results.clear();
         for (const QString &device : devices)

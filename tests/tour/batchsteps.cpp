@@ -27,6 +27,8 @@ void walkStopAndRetry(Driver &driver, sdk::demo::DemoSite &site)
     };
     site.requests().clear();
     driver.click(u"setTimeByPCButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.click(u"okButton"_s);
     driver.await(u"some devices are asked"_s, [&] { return asked() > 0; });
     driver.click(u"stopButton"_s);
     driver.require(u"retryFailedButton"_s);

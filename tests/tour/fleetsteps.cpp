@@ -102,6 +102,8 @@ void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
     site.requests().clear();
     driver.click(u"systemTab0"_s);
     driver.click(u"setTimeByPCButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.click(u"okButton"_s);
     awaitRequests(driver, site, u"NetSetDeviceSetting"_s, 18);
     expectBatchUndisturbed(driver, QCoreApplication::translate("SystemTimePanel", "同步电脑时间"));
     expectSuccess(driver, site, u"fleet-time"_s, devices);

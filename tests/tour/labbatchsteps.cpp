@@ -72,6 +72,8 @@ void walkClocks(Driver &driver)
     for (const QString &camera : cameras.mid(1))
         driver.click(u"tick_"_s + camera);
     driver.click(u"setTimeByPCButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.click(u"okButton"_s);
     driver.await(
         u"all clocks are set"_s,
         [&] {

@@ -91,12 +91,12 @@ void walkTime(Driver &driver)
     for (const QString &device : {first, second, third})
         tick(driver, device);
     driver.report(u"system-time"_s, driver.text(u"computerTime"_s));
-    apply(driver, u"setTimeByPCButton"_s, {wrongPassword, wrongPassword, wrongPassword});
+    applyListed(driver, u"setTimeByPCButton"_s, {wrongPassword, wrongPassword, wrongPassword});
     driver.hover(u"resultSign"_s);
     driver.report(u"system-wrong-password"_s, driver.text(u"toolTip"_s));
     setDefaultPassword(driver, password);
     walkFailed(driver);
-    apply(driver, u"setTimeByPCButton"_s, {0, 0, 0});
+    applyListed(driver, u"setTimeByPCButton"_s, {0, 0, 0});
     driver.check(!driver.find(u"clearMarksButton"_s) && !driver.require(u"failedStates"_s)->isEnabled(),
                  u"devices that succeed lose their marks"_s);
     driver.report(u"system-time-by-pc"_s, u"three clocks are set"_s);
@@ -105,7 +105,7 @@ void walkTime(Driver &driver)
     expectRefusal(driver, u"setTimeByManualButton"_s, "OVDateTimeField", "请输入正确的时间");
     driver.report(u"system-no-time"_s, u"a day that there is not"_s);
     driver.fill(u"manualTimeField"_s, u"2024-02-29 10:00:00"_s);
-    apply(driver, u"setTimeByManualButton"_s, {0, 0, 0});
+    applyListed(driver, u"setTimeByManualButton"_s, {0, 0, 0});
     apply(driver, u"readTimeButton"_s, {0, 0, 0});
     driver.await(u"the clocks of the devices are listed"_s, [&driver] {
         return driver.find(u"clockTable"_s) &&

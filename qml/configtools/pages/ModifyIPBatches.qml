@@ -24,13 +24,12 @@ Item {
     function initialise() {
         if (!mayBegin())
             return;
-        const rows = deviceTable.checkedRowsWith(false);
-        if (rows.length === 0) {
+        if (deviceTable.checkedRowsWith(false).length === 0) {
             said(qsTr("请选择一台未初始化的设备"), OVToast.Refusal);
             return;
         }
         const dialog = initialising.wanted();
-        dialog.load(rows, deviceTable.checkedRowsWith(true));
+        dialog.load(deviceTable.checkedRows());
         dialog.open();
     }
 

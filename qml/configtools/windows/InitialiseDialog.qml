@@ -1,32 +1,31 @@
-// Which of the factory-new devices get their first password.
+// Which devices get their first password, and which of the ticked ones do not.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    readonly property alias count: devices.checkedCount
-    property var skipped: []  // rows of the other devices that the user has ticked
+    readonly property alias count: devices.deviceCount
     signal confirmed
 
-    function load(rows, others) {
-        devices.setRows(rows);
-        skipped = others;
+    /// Takes rows of a DeviceTableModel.
+    function load(rows) {
+        devices.setTicked(rows);
     }
 
-    /// Names of the ticked rows.
+    /// Identities of the devices that get a password.
     function chosen() {
-        return devices.checkedIdentities();
+        return devices.identities();
     }
 
     width: Theme.initialiseWidth
     objectName: "initialiseDialog"
     okText: qsTr("初始化")
     title: qsTr("初始化设置")
-    onAccepted: devices.checkedCount > 0 ? confirmed() : refuse(qsTr("请选择一台未初始化的设备"))
+    onAccepted: devices.deviceCount > 0 ? confirmed() : refuse(qsTr("请选择一台未初始化的设备"))
     onOpened: table.forceActiveFocus()
 
-    DeviceSelection {
+    FirstPasswordPreview {
         id: devices
         onCheckedCountChanged: root.notice = ""
     }
@@ -34,7 +33,7 @@ OVDialog {
     footContent: Row {
         height: parent.height
         spacing: Theme.signGap
-        visible: root.skipped.length > 0
+        visible: devices.skippedCount > 0
 
         OVIcon {
             anchors.verticalCenter: parent.verticalCenter
@@ -47,16 +46,7 @@ OVDialog {
             color: Theme.colours.sub
             objectName: "skippedCount"
             //: Of the ticked devices; they get no first password.
-            text: qsTr("另有 %n 台已初始化，不会执行", "", root.skipped.length)
-
-            HoverHandler {
-                id: pointer
-            }
-            OVToolTip {
-                shown: pointer.hovered
-                text: root.skipped.slice(0, 12).map(row => row.ipport).concat(root.skipped.length > 12 ? ["…"] : [])
-                    .join("\n")
-            }
+            text: qsTr("另有 %n 台不会执行，请查看提示", "", devices.skippedCount)
         }
     }
 
@@ -75,7 +65,8 @@ OVDialog {
                 {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1},
                 {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, cell: figureCell},
                 {key: "mac", title: "MAC", width: Theme.columnMac, cell: figureCell},
-                {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, stretch: 1, cell: figureCell}
+                {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, stretch: 1, cell: figureCell},
+                {key: "note", title: qsTr("提示"), width: Theme.columnNote, stretch: 1, cell: noteCell}
             ]
             model: devices
             objectName: "initialiseTable"
@@ -95,6 +86,12 @@ OVDialog {
         OVTableTextCell {
             font: Theme.figureFont
             text: rowIndex + 1
+        }
+    }
+    Component {
+        id: noteCell
+        OVTableTextCell {
+            color: Theme.colours.sub
         }
     }
     Component {

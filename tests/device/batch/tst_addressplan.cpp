@@ -1,5 +1,7 @@
 #include "device/addresstools.h"
 #include "device/batch/addressplan.h"
+#include "device/batch/firstpasswordpreview.h"
+#include "device/devicetablemodel.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 #include "tests/values.h"
@@ -145,6 +147,33 @@ private Q_SLOTS:
         preview.setRangeChecked(1, 3, false);
         QCOMPARE(preview.checkedAddresses(), QStringList("10.0.0.1:37777"));
         QCOMPARE(preview.warningCount() + preview.skippedCount(), 0);
+    }
+
+    /// A device that has its password would be given another one by nobody but its owner.
+    void previewsWhoGetsAFirstPassword()
+    {
+        RowsFactory site;
+        constexpr auto isNew = sdk::InitialisationBits::Uninitialised;
+        site.rows->add({.address = "10.0.0.1", .mac = "m1"});
+        site.rows->add({.address = "10.0.0.2", .mac = "m2", .state = isNew});
+        site.rows->add({.address = "10.0.0.2", .mac = "m3", .state = isNew}); // as delivered
+        site.rows->add({.address = "10.0.0.4", .mac = "", .state = isNew});
+        DeviceTableModel table;
+        table.setDeviceFactory(&site.factory);
+        table.setAllChecked(true);
+        FirstPasswordPreview preview;
+        const QAbstractItemModelTester tester(&preview);
+        preview.setTicked(table.checkedRows());
+        QStringList rows;
+        for (int row = 0; row < preview.rowCount(); ++row)
+            rows.append(valuesOf(preview.get(row), "ipport kind"));
+        QCOMPARE(rows, (QStringList{"10.0.0.2:37777|0", "10.0.0.2:37777|0", "10.0.0.4:37777|2",
+                                    "10.0.0.1:37777|2"}));
+        QVERIFY(!preview.get(2).value("note").toString().isEmpty());
+        QCOMPARE(preview.deviceCount(), 2);
+        preview.setRangeChecked(0, 0, false);
+        QCOMPARE(preview.identities(), QStringList("m3"));
+        QCOMPARE(preview.deviceCount(), 1);
     }
 
     void copiesEditsIntoTheGateway_data()

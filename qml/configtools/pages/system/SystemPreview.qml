@@ -8,8 +8,8 @@ Item {
     required property var deviceFactory
     readonly property SystemLists lists: SystemLists {}
 
-    // Devices are asked for their clocks often, and nothing is lost: these commands are sent at once.
-    readonly property var harmless: ["setTimeByPC", "setTimeByManual", "readTime", "loginCheck"]
+    // They change nothing: these commands are sent at once.
+    readonly property var harmless: ["readTime", "loginCheck"]
 
     /// What a command does to a device.
     function happens(command, title, data) {
@@ -19,6 +19,8 @@ Item {
         case "ntpConfig":
             return SystemTools.timeZones[data.timeZone] + qsTr("，") + (data.ntpSet ? "NTP " + data.ntpServer
                                                                                      : qsTr("停用NTP"));
+        case "setTimeByManual":
+            return title + " " + data.time;
         case "autoMaintain":
             //: When a device reboots: a day of the week or every day, and a time.
             return data.autoReboot ? qsTr("%1 %2 重启").arg(lists.maintenanceDays[data.week]).arg(data.time)
