@@ -44,6 +44,12 @@ public:
     Q_INVOKABLE [[nodiscard]] QStringList devicesWith(int result) const;
     Q_INVOKABLE [[nodiscard]] QStringList devicesNotSucceeded() const;
 
+    /// The same, with those that were left out of the batch behind them.
+    Q_INVOKABLE [[nodiscard]] QStringList devicesLeft(const QStringList &leftOut) const
+    {
+        return devicesNotSucceeded() + leftOut;
+    }
+
     /// The devices that wait get no next step: they are not done. Returns their names.
     Q_INVOKABLE QStringList giveUpWaiting();
 

@@ -289,8 +289,8 @@ void OVTreeModel::countFailed(const QVariantList &rows)
         const QJsonObject values = row.toJsonObject();
         return !rowAddress(values).isEmpty() && m_failedMarks.contains(rowName(values));
     };
-    const auto count = static_cast<int>(
-        m_failedMarks.isEmpty() ? 0 : std::count_if(rows.cbegin(), rows.cend(), isFailed));
+    const auto count =
+        static_cast<int>(m_failedMarks.isEmpty() ? 0 : std::count_if(rows.cbegin(), rows.cend(), isFailed));
     if (std::exchange(m_failedCount, count) != count)
         Q_EMIT failedCountChanged();
 }
@@ -457,6 +457,15 @@ QVariantList OVTreeModel::devicesToWatch() const
         }
     }
     return devices;
+}
+
+bool OVTreeModel::areTicked(const QStringList &devices) const
+{
+    QStringList ticked = checkedDevices();
+    QStringList wanted = devices;
+    ticked.sort();
+    wanted.sort();
+    return ticked == wanted;
 }
 
 QStringList OVTreeModel::without(const QStringList &devices, const QString &device)

@@ -100,6 +100,12 @@ public:
     [[nodiscard]] int checkedUpgradingCount() const; ///< of the ticked ones, as of the last rebuild
     [[nodiscard]] int deviceCount() const;
 
+    /// The same as they are now: the list does not follow the ticks.
+    Q_INVOKABLE [[nodiscard]] QStringList tickedNow() const { return checkedDevices(); }
+
+    /// Whether these devices are ticked and no others, in whatever order.
+    Q_INVOKABLE [[nodiscard]] bool areTicked(const QStringList &devices) const;
+
     Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
 
     /// "ipport" and "name" of the ticked devices, or of all while none is ticked, in the order of the tree.

@@ -285,6 +285,11 @@ QStringList Batch::textsOf(const QStringList &devices) const
     return texts;
 }
 
+QStringList Batch::succeededDevices(int known) const
+{
+    return m_succeeded.mid(known);
+}
+
 int Batch::partlyDone() const
 {
     return static_cast<int>(std::count_if(m_entries.cbegin(), m_entries.cend(), [](const Entry &entry) {
@@ -309,6 +314,8 @@ void Batch::takeNews()
         ++m_done;
         devices.append(entry.device.name);
         results.append(entry.outcome.result);
+        if (entry.outcome.result == BatchReport::Succeeded)
+            m_succeeded.append(entry.device.name);
     }
     m_report.note(devices, results);
     deliver(outcomes);

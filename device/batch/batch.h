@@ -109,6 +109,10 @@ public:
     /// it retries: what the outcome says, or the meaning of its code.
     Q_INVOKABLE [[nodiscard]] QVariantList wordsOf(const QStringList &devices) const;
 
+    /// The devices that have succeeded until now, in the order in which their results came, but for the first
+    /// `known` ones.
+    Q_INVOKABLE [[nodiscard]] QStringList succeededDevices(int known) const;
+
     /// Devices that succeeded but whose outcome says something: they could not take everything.
     Q_INVOKABLE [[nodiscard]] int partlyDone() const;
 
@@ -143,6 +147,7 @@ private:
     QHash<QString, qsizetype> m_places; ///< in m_entries, by the device's name
     const std::shared_ptr<Mailbox> m_mailbox;
     QTimer m_frame;
+    QStringList m_succeeded;    ///< in the order in which they came
     QList<qsizetype> m_running; ///< places of running steps, in the order of their start
     QDateTime m_began;
     QDateTime m_ended;

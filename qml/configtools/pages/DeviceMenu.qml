@@ -63,7 +63,7 @@ Item {
             actions.chooseAccount([values.identity]);
             break;
         case "tickedAccount":
-            actions.chooseAccount(Array.from(tickedDevices()));
+            actions.chooseAccount(tickedDevices());
             break;
         case "detail":
             actions.showDetail(values);

@@ -254,7 +254,7 @@ FocusScope {
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
         onOwnChosen: (key, values) => page.choose(values.ipport)
-        tickedDevices: () => devices.checkedDevices
+        tickedDevices: () => devices.tickedNow()
         onSimilarRequested: (key, values) => devices.checkSimilar(values.identity, key)
     }
 

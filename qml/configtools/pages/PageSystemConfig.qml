@@ -25,9 +25,9 @@ FocusScope {
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
 
-    property string passwordTicks  // the ticked devices when the old password was checked
-    property var checkedWhenAsked: []  // the devices of the last command
-    property var leftOut: []  // of the last change of passwords
+    property list<string> passwordTicks  // the ticked devices when the old password was checked
+    property list<string> checkedWhenAsked  // the devices of the last command
+    property list<string> leftOut  // of the last change of passwords
 
     readonly property bool available: devices.checkedCount > 0 && !batch.running
 
@@ -42,17 +42,12 @@ FocusScope {
         panels.forgetNewPassword();
     }
 
-    /// The same text for the same devices: their order in the tree may change.
-    function namesOf(ipports) {
-        return String(Array.from(ipports).sort());
-    }
-
     function askForNewPassword() {
-        passwordTicks = namesOf(devices.checkedDevices);
+        passwordTicks = devices.tickedNow();
         passwordTime.begin(batch.report.devicesWith(BatchReport.Waiting));
         if (!visible)
             disablePasswordEditor();
-        else if (passwordTicks !== namesOf(checkedWhenAsked))
+        else if (!devices.areTicked(checkedWhenAsked))
             passwordTime.close(SystemPasswordTime.OtherTicks);
     }
 
@@ -60,7 +55,7 @@ FocusScope {
         keeper.keep();
         if (keeper.words !== "")
             said(keeper.words, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
-        const left = Array.from(batch.report.devicesNotSucceeded()).concat(leftOut);
+        const left = batch.report.devicesLeft(leftOut);
         passwordTime.takeResults(left);
         if (left.length > 0)
             return;
@@ -89,8 +84,7 @@ FocusScope {
     }
 
     function runOnTicked(command, title, data) {
-        const ticked = Array.from(devices.checkedDevices);  // a copy: the list itself follows the ticks
-        preview.ask(command, title, data, ticked, chosen => {
+        preview.ask(command, title, data, devices.tickedNow(), chosen => {
             if (passwordTime.open && !batches.running)  // else the command is refused
                 passwordTime.close(SystemPasswordTime.OtherWork);
             run(command, title, chosen, data);
@@ -99,9 +93,8 @@ FocusScope {
 
     /// The devices that the user takes out keep waiting for their new password.
     function changePasswords(password, keeping) {
-        const waiting = Array.from(passwordTime.devices);
-        preview.ask("modifyPassword", qsTr("修改密码"), {}, waiting, (chosen, others) => {
-            leftOut = Array.from(others);
+        preview.ask("modifyPassword", qsTr("修改密码"), {}, passwordTime.devices, (chosen, others) => {
+            leftOut = others;
             run("modifyPassword", qsTr("修改密码"), chosen, {password: password});
             keeper.follow(batch.batch, keeping);
             devices.setResultOfAll(leftOut, OVTreeModel.WaitsForPassword);
@@ -128,7 +121,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
         onCheckedDevicesChanged: {
-            if (passwordTime.open && page.namesOf(checkedDevices) !== page.passwordTicks)
+            if (passwordTime.open && !areTicked(page.passwordTicks))
                 passwordTime.close(SystemPasswordTime.OtherTicks);
         }
     }
@@ -143,7 +136,7 @@ FocusScope {
         id: batch
         batches: page.batches
         onFinished: page.takeEnd()
-        onRetried: page.checkedWhenAsked = Array.from(devices.checkedDevices)
+        onRetried: page.checkedWhenAsked = devices.tickedNow()
         onResulted: (ipports, results) => devices.takeResults(ipports, results, [])
     }
     AccountKeeper {
@@ -188,7 +181,7 @@ FocusScope {
         actions: deviceActions
         batches: page.batches
         onLiveRequested: ipport => page.liveRequested(ipport)
-        tickedDevices: () => devices.checkedDevices
+        tickedDevices: () => devices.tickedNow()
         onSimilarRequested: (key, values) => devices.checkSimilar(values.identity, key)
     }
 

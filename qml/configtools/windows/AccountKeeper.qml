@@ -9,8 +9,8 @@ Item {
     required property Batches batches
     property Batch batch: null
     property int keeping: AccountList.Unkept
-    property var taken: []  // names of devices that wait to be kept
-    property int keptCount: 0
+    property int takenCount: 0  // devices of the batch that were handed on
+    property int keptCount: 0   // devices that the account is kept for, also of the batches before a retry
     property string failure
     readonly property var accounts: LoginMemory.accounts
 
@@ -24,24 +24,19 @@ Item {
     function follow(batch, keeping) {
         keep();
         root.batch = batch;
+        takenCount = 0;
         root.keeping = keeping;
         keptCount = 0;
         failure = "";
     }
 
-    function take(devices, results) {
-        taken = taken.concat(devices.filter((device, place) => results[place] === 0));
-        if (taken.length > 0 && !pause.running)
-            pause.start();
-    }
-
     /// Keeps what waits. At the end of the batch, the words are complete then.
     function keep() {
         pause.stop();
-        if (taken.length === 0 || !accounts)
+        const devices = batch?.succeededDevices(takenCount) ?? [];
+        if (devices.length === 0 || !accounts)
             return;
-        const devices = taken;
-        taken = [];
+        takenCount += devices.length;
         const reason = accounts.keepNew(devices, keeping);
         if (reason !== "")
             failure = reason;
@@ -60,8 +55,9 @@ Item {
     Connections {
         target: root.batch
 
-        function onResulted(devices, results) {
-            root.take(Array.from(devices), Array.from(results));
+        function onResulted() {
+            if (!pause.running)
+                pause.start();
         }
         function onFinished() {
             root.keep();
@@ -71,8 +67,11 @@ Item {
         target: root.batches
 
         function onRetried(earlier, again) {
-            if (earlier === root.batch)
-                root.batch = again;
+            if (earlier !== root.batch)
+                return;
+            root.keep();
+            root.batch = again;
+            root.takenCount = 0;
         }
     }
 }

@@ -10,7 +10,7 @@ QtObject {
     required property bool changing  // a batch sends the new password in the kept logins
     property bool open: false        // the new password can be given
     property int secondsLeft: 0
-    property var devices: []         // that still have the old password
+    property list<string> devices    // that still have the old password
     property int ending: SystemPasswordTime.Regular
     property int leftCount: 0        // devices with the old password at the end
     property int second: 1000        // ms
