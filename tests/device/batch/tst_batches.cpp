@@ -6,7 +6,9 @@
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 
+#include <QElapsedTimer>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QThreadPool>
 
 namespace {
@@ -39,9 +41,9 @@ class TestBatches : public QObject
     Q_OBJECT
 private:
     QList<sdk::demo::SceneDevice> m_devices;
-    std::shared_ptr<BatchEngine> m_engine;
     std::unique_ptr<ConfigSite> m_site;
     std::unique_ptr<Batches> m_batches;
+    QTemporaryDir m_folder;
 
     Batch *setStandard(const QStringList &ipports) const
     {
@@ -89,9 +91,8 @@ private Q_SLOTS:
             m_devices.last().mask = "255.255.255.0";
             m_devices.last().gateway = "192.168.1.1";
         }
-        m_engine = std::make_shared<BatchEngine>(nullptr);
-        m_site = std::make_unique<ConfigSite>(m_devices, m_engine);
-        m_batches = std::make_unique<Batches>(*m_site->factory, *m_engine, [] { return 2; });
+        m_site = std::make_unique<ConfigSite>(m_devices);
+        m_batches = std::make_unique<Batches>(*m_site->factory, *m_site->engine, [] { return 2; });
         m_batches->keepFailedIn(m_site->store);
         QVERIFY(search());
         m_site->site->requests().clear();
@@ -100,10 +101,9 @@ private Q_SLOTS:
     void cleanup()
     {
         m_site->net->passwordGate.reset();
-        m_engine->end();
+        m_site->engine->end();
         m_batches.reset();
         m_site.reset();
-        m_engine.reset();
     }
 
     void everyDeviceIsReported_data()
@@ -400,6 +400,114 @@ private Q_SLOTS:
         QCOMPARE(batch->retryableDevices(), ipportsOf(m_devices).first(1));
     }
 
+    void aStepEndsAtItsDeadline()
+    {
+        m_site->site->setFault(m_devices.at(1).mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 2000});
+        BatchPlan plan{.family = "dh", .title = "Standard", .policy = m_batches->usualPolicy()};
+        plan.devices = batchDevices(*m_site->factory, "dh", ipportsOf(m_devices));
+        plan.policy.deadline = std::chrono::seconds(1);
+        plan.stepOf = [this](const BatchDevice &device) {
+            return m_site->factory->systemStep("dh", "videoStandard", {{"videoStandard", 1}}, device.ipport);
+        };
+        Batch *batch = m_batches->start(std::move(plan));
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->report()->succeeded(), 3);
+        const QString late = ipportOf(m_devices.at(1));
+        QCOMPARE(batch->report()->devicesWith(notDone), QStringList(late));
+        QVERIFY(!batch->textOf(late).isEmpty()); // it was begun
+        QCOMPARE(batch->retryableDevices(), QStringList(late));
+        QVERIFY(!askedMacs("NetSetItem").contains(m_devices.at(1).mac)); // nothing is written after it
+    }
+
+    void aRefusalSaysWhatItMeans_data()
+    {
+        const auto row = dataTable<sdk::NetError, QString, bool>({"error", "text", "isRetryable"});
+        row("not supported", sdk::NetError::NotSupported, resultName(resultCode(LoginResult::NotSupported)),
+            false);
+        row("invalid", sdk::NetError::InvalidValue, resultName(resultCode(LoginResult::InvalidValue)), false);
+        row("without a reason", sdk::NetError::Refused, "", false);
+        row("no answer", sdk::NetError::ConnectTimeout, CDeviceDH::tr("设备没有应答"), true);
+    }
+
+    void aRefusalSaysWhatItMeans()
+    {
+        QFETCH(const sdk::NetError, error);
+        QFETCH(const bool, isRetryable);
+        m_site->net->writeError = error;
+        const QString device = ipportOf(m_devices.at(0));
+        Batch *batch = setStandard({device});
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->entries().first().outcome.result, 999);
+        QTEST(batch->textOf(device), "text");
+        QCOMPARE(batch->retryableDevices(), isRetryable ? QStringList(device) : QStringList());
+        QVERIFY(m_batches->failedMarks()->wordsOf(identityOf(0)).contains(batch->textOf(device)));
+    }
+
+    void anEndDoesNotWaitForDevices_data()
+    {
+        const auto row = dataTable<QString>({"kind"});
+        for (const char *kind : {"system", "passwords", "addresses", "back", "copy", "snapshots"})
+            row(kind, kind);
+    }
+
+    /// None of the devices answers, and no time passes in which their requests would be given up.
+    void anEndDoesNotWaitForDevices()
+    {
+        QFETCH(const QString, kind);
+        const QStringList ipports = ipportsOf(m_devices);
+        Batch *changed = nullptr;
+        if (kind == "back") {
+            changed = m_batches->changeAddresses("dh", "Addresses", macs(), wantedAddresses(),
+                                                 "255.255.255.0", "192.168.1.1", false);
+            QTRY_VERIFY(!changed->isRunning());
+            QVERIFY(QThreadPool::globalInstance()->waitForDone(30000)); // the rows have been queried again
+        }
+        if (kind == "copy" || kind == "snapshots")
+            QCOMPARE(m_site->login(m_devices.at(0)), 0);
+        if (kind == "copy")
+            m_site->factory->getEncodeCaps("dh");
+        m_site->site->requests().clear();
+        m_site->stopTime();
+        for (const QString &mac : macs())
+            m_site->site->setFault(mac, {.fault = sdk::demo::Fault::NoAnswer});
+        const QHash<QString, std::function<Batch *()>> starts = {
+            {"system",
+             [&] {
+                 return setStandard(ipports);
+             }},
+            {"passwords",
+             [&] {
+                 return m_batches->setFirstPasswords("dh", "Passwords", macs(), "admin", "Better-2025");
+             }},
+            {"addresses",
+             [&] {
+                 return m_batches->changeAddresses("dh", "Addresses", macs(), wantedAddresses(),
+                                                   "255.255.255.0", "192.168.1.1", false);
+             }},
+            {"back",
+             [&] {
+                 return m_batches->putAddressesBack(changed, "Back", macs());
+             }},
+            {"copy",
+             [&] {
+                 return m_batches->copyEncodeSettings("dh", "Copy", ipports.mid(1));
+             }},
+            {"snapshots", [&] {
+                 return m_batches->takeSnapshots("dh", "Snapshots", ipports.first(), {"1"}, m_folder.path());
+             }}};
+        const Batch *batch = starts.value(kind)();
+        QVERIFY(batch);
+        QTRY_VERIFY(m_site->clock().waiters() > 0);
+        QVERIFY(batch->isRunning());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("The program ends during .* not done: "));
+        QElapsedTimer timer;
+        timer.start();
+        m_batches->giveUp();
+        m_batches.reset();
+        m_site->factory.reset();
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    }
+
     /// The program does not wait for the devices, and the log names those that got nothing.
     void anEndInTheMiddleOfABatchNamesTheRest()
     {
@@ -414,7 +522,7 @@ private Q_SLOTS:
         m_batches->giveUp();
         QVERIFY(batch->isStopping());
         m_site->net->passwordGate->release(2);
-        m_engine->end();
+        m_site->engine->end();
         QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
     }
 
@@ -493,13 +601,13 @@ private Q_SLOTS:
         const QString mac = m_devices.at(0).mac;
         m_site->factory->updataDeviceInfo("dh", "upgraderes", UpgradeTools::Sending, mac, "");
         const auto upgrade = std::make_shared<QSemaphore>(); // the step may outlive this function
-        m_engine->start({{.device = mac,
-                          .step =
-                              [upgrade](const StepControl &) {
-                                  upgrade->acquire();
-                                  return StepOutcome();
-                              }}},
-                        {.atOnce = 1}, std::make_shared<NoWatcher>());
+        m_site->engine->start({{.device = mac,
+                                .step =
+                                    [upgrade](const StepControl &) {
+                                        upgrade->acquire();
+                                        return StepOutcome();
+                                    }}},
+                              {.atOnce = 1}, std::make_shared<NoWatcher>());
         const auto release =
             qScopeGuard([upgrade] { upgrade->release(); }); // a failure must not leave it waiting
         Batch *batch = setStandard(ipportsOf(m_devices));
@@ -513,9 +621,8 @@ private Q_SLOTS:
     /// Two rows share an address: the page finds the first one there, the batch works with the second one.
     void aPageWaitsForTheStepThatRunsAtItsAddress()
     {
-        m_site->site->changeDevice(m_devices.at(1).mac, [](auto &device, const auto &) {
-            device.address = "192.168.1.1";
-        });
+        m_site->site->changeDevice(m_devices.at(1).mac,
+                                   [](auto &device, const auto &) { device.address = "192.168.1.1"; });
         QVERIFY(search());
         const auto goOn = std::make_shared<QSemaphore>();
         const auto release = qScopeGuard([goOn] { goOn->release(); });

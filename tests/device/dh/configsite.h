@@ -67,14 +67,16 @@ public:
         return isAnswered;
     }
 
-    std::function<void()> beforeWriting; ///< of an item; null for nothing
+    std::function<void()> beforeWriting;            ///< of an item; null for nothing
+    sdk::NetError writeError = sdk::NetError::None; ///< of an item; None: as the device answers
 
     bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override
     {
         if (beforeWriting)
             beforeWriting();
-        return DemoNetLibrary::NetSetItem(loginHandle, item, channel, block, blockSize, wait);
+        return DemoNetLibrary::NetSetItem(loginHandle, item, channel, block, blockSize, wait) &&
+               writeError == sdk::NetError::None;
     }
 
     bool NetGetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, void *block,
@@ -85,6 +87,8 @@ public:
     }
     [[nodiscard]] std::uint32_t NetGetLastError() const override
     {
+        if (writeError != sdk::NetError::None)
+            return static_cast<std::uint32_t>(writeError);
         return m_isSilent ? static_cast<std::uint32_t>(sdk::NetError::ConnectTimeout)
                           : DemoNetLibrary::NetGetLastError();
     }
@@ -96,17 +100,16 @@ private:
 class ConfigSite
 {
 public:
-    /// `engine` runs the steps of the back end; null for one of its own.
-    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices,
-                        const std::shared_ptr<BatchEngine> &engine = nullptr)
+    explicit ConfigSite(const QList<sdk::demo::SceneDevice> &devices)
     {
         sdk::demo::Scene scene;
         scene.devices = devices;
         site = sdk::demo::DemoSite::create(scene, m_clock);
         net = std::make_shared<SilentNetLibrary>(*site);
         store = std::make_shared<DeviceStore>(m_clock);
+        engine = std::make_shared<BatchEngine>(m_clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
-            {QStringLiteral("dh"), [this, engine] {
+            {QStringLiteral("dh"), [this] {
                  sdk::SdkLibraries libraries = site->libraries();
                  libraries.net = net;
                  return std::make_shared<CDeviceDH>(
@@ -179,6 +182,7 @@ public:
     std::shared_ptr<sdk::demo::DemoSite> site;
     std::shared_ptr<SilentNetLibrary> net; ///< of the factory; uses the site
     std::shared_ptr<DeviceStore> store;
+    std::shared_ptr<BatchEngine> engine; ///< of the back end
     std::unique_ptr<CDeviceFactory> factory;
 
 private:
