@@ -24,7 +24,8 @@ struct DemoNotice
 };
 
 /// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
-/// `batchEngine` runs the scene's batches, which keep rows in `store`; it and `colourScheme` outlive the scene.
+/// `batchEngine` runs the scene's batches, which keep rows in `store`; it and `colourScheme` outlive the
+/// scene.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,

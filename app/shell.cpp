@@ -224,8 +224,8 @@ void Shell::loadScene()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_deviceStore, m_certificates, m_accounts, *m_colourScheme, m_libraries.net,
-                   m_demo);
+    publishToScene(*m_engine, *m_batchEngine, m_deviceStore, m_certificates, m_accounts, *m_colourScheme,
+                   m_libraries.net, m_demo);
     // What the answers of a search were read with is freed in pieces between the rows.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

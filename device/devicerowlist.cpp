@@ -37,8 +37,8 @@ std::optional<QString> DeviceRowList::nameAt(const QString &ipport) const
         const QJsonObject row = m_rows.at(place - m_placeOfFront).toJsonObject();
         return !row.value(DeviceRowKey::lost).toBool();
     };
-    const auto found = places->size() == 1 ? places->cbegin()
-                                           : std::find_if(places->cbegin(), places->cend(), isFound);
+    const auto found =
+        places->size() == 1 ? places->cbegin() : std::find_if(places->cbegin(), places->cend(), isFound);
     return m_names.at((found == places->cend() ? places->first() : *found) - m_placeOfFront);
 }
 

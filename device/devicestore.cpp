@@ -75,9 +75,8 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
         const QString identity = identityOf(answer);
         if (dropsLocked(identity)) {
             const bool isChanged = ipv4 && takeMac(identity, mac);
-            return {.added = false,
-                    .notify = isChanged && isNotificationDue(),
-                    .ipv4Count = ipv4CountLocked()};
+            return {
+                .added = false, .notify = isChanged && isNotificationDue(), .ipv4Count = ipv4CountLocked()};
         }
     }
 

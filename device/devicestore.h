@@ -142,8 +142,8 @@ private:
     DeviceRowList m_ipv4;
     DeviceRowList m_ipv6;
     QHash<QString, QByteArray> m_records; ///< by name: the answers, packed
-    QSet<QString> m_kept;    ///< names of rows
-    QSet<QString> m_lost;    ///< names of IPv4 rows
+    QSet<QString> m_kept;                 ///< names of rows
+    QSet<QString> m_lost;                 ///< names of IPv4 rows
     QSet<QString> m_settled; ///< devices found or removed since clear(): further answers are dropped
     QHash<QString, UuidHolder> m_uuidHolders; ///< by uuidName(), since clear()
     QHash<QString, int> m_ipv6Found;          ///< IPv6 rows found since clear(), by address and port

@@ -77,7 +77,7 @@ public:
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
-    [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
+    [[nodiscard]] int totalCount() const { return m_totalCount; }   ///< rows of the list before any filter
     [[nodiscard]] int failedCount() const { return m_failedCount; } ///< of them, those of marked devices
     [[nodiscard]] int checkedCount() const { return m_checkedCount; }
     [[nodiscard]] int checkedUpgradingCount() const

@@ -103,7 +103,8 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
         // Devices that wait for an address by DHCP have none to share.
         const QString &ipport = addresses.at(place);
         const bool isLost = shown.at(place).values.value(DeviceRowKey::lost).toBool();
-        shown[place].conflict = !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > (isLost ? 0 : 1);
+        shown[place].conflict =
+            !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > (isLost ? 0 : 1);
     }
     const bool isByReason = order.key.isEmpty() && filter.onlyThose;
     return order.key.isEmpty() && !isByReason ? shown : ordered(std::move(shown), order, isByReason);

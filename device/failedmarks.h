@@ -37,10 +37,7 @@ public:
     [[nodiscard]] bool contains(const QString &identity) const { return m_failures.contains(identity); }
 
     /// The names of the marked rows.
-    [[nodiscard]] QSet<QString> identities() const
-    {
-        return {m_failures.keyBegin(), m_failures.keyEnd()};
-    }
+    [[nodiscard]] QSet<QString> identities() const { return {m_failures.keyBegin(), m_failures.keyEnd()}; }
 
     /// Name of the result that the device had in the last work that failed; empty when it is not marked.
     [[nodiscard]] QString reasonOf(const QString &identity) const;

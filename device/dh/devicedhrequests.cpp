@@ -147,8 +147,8 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
     StepOutcome outcome = noteResult(mac, result);
     const bool isUnknown = result == LoginResult::NetworkFailure || result == LoginResult::Unconfirmed;
     if (isUnknown && control.shouldEnd())
-        outcome.text = control.isStopped() ? tr("已停止等待设备，地址可能已修改")
-                                           : tr("超过时间限制，地址可能已修改");
+        outcome.text =
+            control.isStopped() ? tr("已停止等待设备，地址可能已修改") : tr("超过时间限制，地址可能已修改");
     return outcome;
 }
 
