@@ -63,6 +63,7 @@ public:
     /// document was refused as a whole is told by importError().
     virtual QVariantList importUpgradeDocument(const QString &file);
     virtual int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password);
+    /// signalCDeviceAddSingleDeviceToTable follows when the name has changed, which several pages show.
     virtual bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
                                   const QString &ipport);
     virtual void getCameraConfig();

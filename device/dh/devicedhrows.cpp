@@ -50,7 +50,11 @@ bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, c
     const auto write = [&](QJsonObject &row) {
         row.insert(key, QJsonValue::fromVariant(newValue));
     };
-    return (!mac.isEmpty() && store().changeRowNamed(mac, write)) || store().changeRowAt(ipport, write);
+    const bool isWritten =
+        (!mac.isEmpty() && store().changeRowNamed(mac, write)) || store().changeRowAt(ipport, write);
+    if (isWritten && key == DeviceRowKey::name) // other values are shown by the page that writes them
+        noteChangedRows();
+    return isWritten;
 }
 
 QVariantMap CDeviceDH::getDeviceInfo(const QString &ipport)

@@ -75,12 +75,11 @@ FocusScope {
         naming.wanted().ask(session.device, session.names.form.count, Array.from(devices.checkedDevices));
     }
 
-    /// The list shows the names of the cameras that have taken them.
+    /// The tab shows the name that its device has taken.
     function takeNamed(report) {
         if (report.devicesWith(BatchReport.Succeeded).includes(session.device))
             session.names.forget();
         session.readShown();
-        refresh();
     }
 
     function choose(ipport) {
@@ -123,7 +122,6 @@ FocusScope {
             if (session.names.read && session.names.form.count === 1) {  // a camera bears the name of its channel
                 const channel = Object.assign({}, session.names.form.get(0));
                 page.deviceFactory.updataDeviceInfo("dh", "name", channel.saved, row.mac ?? "", session.device);
-                page.refresh();
                 return;
             }
             page.deviceFactory.refreshDevices("dh", [row.identity || row.mac || session.device]);  // its row may show the name
@@ -201,17 +199,9 @@ FocusScope {
                 naming.batch = again;
         }
     }
-    Timer {  // of many cameras, the list is read a few times a second
-        id: namesToShow
-        interval: 300
-        onTriggered: page.refresh()
-    }
     Connections {
         target: naming.batch
 
-        function onResulted() {
-            namesToShow.start();
-        }
         function onFinished() {
             page.takeNamed(naming.batch.report);
         }

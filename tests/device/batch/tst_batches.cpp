@@ -158,6 +158,7 @@ private Q_SLOTS:
     void camerasGetTheirNames()
     {
         const QStringList names = {"Hall 1", "Hall 2", QString(300, 'x'), "厅 4"};
+        const QSignalSpy listChanged(m_site->factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
         Batch *batch = m_batches->nameCameras("dh", "Names", ipportsOf(m_devices), names);
         QVERIFY(batch);
         QTRY_VERIFY(!batch->isRunning());
@@ -169,6 +170,8 @@ private Q_SLOTS:
         QCOMPARE(written, (QHash<QString, QString>{{m_devices.at(0).mac, "Hall 1"},
                                                    {m_devices.at(1).mac, "Hall 2"},
                                                    {m_devices.at(3).mac, "厅 4"}}));
+        QVERIFY(!listChanged.isEmpty()); // other pages show the names
+        QCOMPARE(m_site->factory->deviceRow("dh", identityOf(3)).value("name").toString(), "厅 4");
     }
 
     void anotherBatchWaitsAndAStoppedOneNamesTheRest()
