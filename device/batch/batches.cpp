@@ -116,10 +116,17 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                   .devices = batchDevices(m_factory, family, ipports),
                   .policy = usualPolicy(),
                   .stepOf =
-                      [this, family, nameAt](const BatchDevice &device) {
-                          return m_factory.systemStep(family, QStringLiteral("channelName"),
-                                                      {{QStringLiteral("name"), nameAt.value(device.ipport)}},
-                                                      device.ipport);
+                      [this, family, nameAt](const BatchDevice &device) -> DeviceStep {
+                          const QString name = nameAt.value(device.ipport);
+                          const DeviceStep step =
+                              m_factory.systemStep(family, QStringLiteral("channelName"),
+                                                   {{QStringLiteral("name"), name}}, device.ipport);
+                          return [step, name](const StepControl &control) {
+                              StepOutcome outcome = step(control);
+                              if (outcome.result == BatchReport::Succeeded)
+                                  outcome.text = name; // for the record
+                              return outcome;
+                          };
                       },
                   .takeOutcomes =
                       [this, family, nameAt](const QList<BatchOutcome> &outcomes) {

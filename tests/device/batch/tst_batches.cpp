@@ -172,6 +172,7 @@ private Q_SLOTS:
                                                    {m_devices.at(3).mac, "厅 4"}}));
         QVERIFY(!listChanged.isEmpty()); // other pages show the names
         QCOMPARE(m_site->factory->deviceRow("dh", identityOf(3)).value("name").toString(), "厅 4");
+        QCOMPARE(batch->entries().at(3).outcome.text, "厅 4");
     }
 
     void anotherBatchWaitsAndAStoppedOneNamesTheRest()
