@@ -68,9 +68,9 @@ QtObject {
     readonly property int portFieldWidth: 112
     readonly property int favouritesWidth: 1080
     readonly property int favouritesHeight: 560
-    readonly property int batchPanelWidth: 1180
+    readonly property int batchPanelWidth: 1216
     readonly property int batchPanelHeight: 600
-    readonly property int batchListWidth: 360
+    readonly property int batchListWidth: 408
     readonly property int batchBarWidth: 120
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380

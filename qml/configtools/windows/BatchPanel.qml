@@ -93,13 +93,13 @@ OVDialog {
 
     OVTable {
         id: list
-        width: Theme.batchListWidth
+        width: Math.min(Theme.batchListWidth, Math.round(parent.width / 3))
         height: parent.height
         checkable: false
         columns: [
             {key: "title", title: qsTr("批处理"), width: Theme.columnType, stretch: 1},
             {key: "time", title: qsTr("开始时间"), width: Theme.columnTime, cell: figureCell},
-            {key: "counts", title: qsTr("成功 / 全部"), width: Theme.columnAccount, cell: countCell}
+            {key: "counts", title: qsTr("成功 / 全部"), width: Theme.columnPlanAddress, cell: countCell}
         ]
         focus: true
         model: history
