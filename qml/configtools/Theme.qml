@@ -133,6 +133,7 @@ QtObject {
     readonly property int columnShortMac: 76
     readonly property int columnVersion: 114
     readonly property int columnResult: 92
+    readonly property int columnResultLeast: 60  // its signs
     readonly property int columnActions: 168
     readonly property int columnPlanAddress: 128
     readonly property int columnPlanAction: 184

@@ -1,7 +1,8 @@
 // A table of many rows. Columns are objects: "key" (a role of the model), "title", "width", and if wanted
 // "minimumWidth", "stretch" (its share of spare room), "sortable" and "cell" (a Component of an OVTableCell). In an
 // arrangeable table the user chooses which columns are shown and their order; "hidden" ones are not shown unless wanted,
-// "fixed" ones stay behind the others, and those with a share of spare room give way where room is short.
+// "fixed" ones stay behind the others, and where room is short, those with a share of spare room give way, then those
+// with a "leastWidth".
 // The model has the roles "checked", "conflict" (the row stands out) and "identity", get(row) for the values of
 // a row, and rowOf(identity), by which the current row lives through a reset. Values come through get() because
 // a role may bear any name, "model" among them, which delegates keep for something else. Ticks and order belong
@@ -51,7 +52,8 @@ FocusScope {
         const spare = room - widths.reduce((sum, width) => sum + width, 0);
         const shares = columns.map(column => chosen[column.key] === undefined ? column.stretch ?? 0 : 0);
         if (spare < 0 && arrangeable)
-            return shrink(widths, shares, -spare);
+            return shrink(widths, shares, columns.map((column, i) =>
+                chosen[column.key] === undefined ? column.leastWidth ?? widths[i] : widths[i]), -spare);
         const all = shares.reduce((sum, share) => sum + share, 0);
         if (spare <= 0 || all === 0)
             return widths;
@@ -59,10 +61,15 @@ FocusScope {
     }
 
     /// If that is not enough, the table scrolls.
-    function shrink(widths, shares, missing) {
-        const gives = widths.map((width, i) => shares[i] > 0 ? Math.max(0, width - Theme.columnLeast) : 0);
+    function shrink(widths, shares, leastWidths, missing) {
+        const first = giveWay(widths, widths.map((width, i) => shares[i] > 0 ? Theme.columnLeast : width), missing);
+        return giveWay(first, leastWidths, missing - widths.reduce((sum, width, i) => sum + width - first[i], 0));
+    }
+
+    function giveWay(widths, leastWidths, missing) {
+        const gives = widths.map((width, i) => Math.max(0, width - leastWidths[i]));
         const all = gives.reduce((sum, give) => sum + give, 0);
-        const part = all > 0 ? Math.min(1, missing / all) : 0;
+        const part = all > 0 ? Math.max(0, Math.min(1, missing / all)) : 0;
         return widths.map((width, i) => width - Math.ceil(gives[i] * part));
     }
 

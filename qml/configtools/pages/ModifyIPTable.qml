@@ -23,16 +23,20 @@ OVTable {
     }
 
     columns: [
-        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
+        {
+            key: "num", title: qsTr("No."), width: Theme.columnNumber, leastWidth: Theme.columnUpgradeNumber,
+            cell: numberCell
+        },
         {
             key: "state", title: qsTr("状态"), width: Theme.columnState, minimumWidth: Theme.columnStateMinimum,
-            sortable: true, cell: stateCell
+            leastWidth: Theme.columnStateMinimum, sortable: true, cell: stateCell
         },
         {key: "name", title: qsTr("名称"), width: Theme.columnName, stretch: 2, sortable: true, cell: nameCell},
         {key: "type", title: qsTr("类型"), width: Theme.columnType, sortable: true},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 2, sortable: true},
         {
             key: "ipport", title: qsTr("IP:端口"), width: root.ipv6 ? Theme.columnLongAddress : Theme.columnAddress,
+            leastWidth: root.ipv6 ? Theme.columnLongAddress : Theme.columnUpgradeAddress,
             sortable: true, cell: addressCell
         },
         {
@@ -44,7 +48,10 @@ OVTable {
             sortable: true, cell: figureCell
         },
         {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
-        {key: "res", title: qsTr("修改结果"), width: Theme.columnResult, sortable: true, cell: resultCell},
+        {
+            key: "res", title: qsTr("修改结果"), width: Theme.columnResult, leastWidth: Theme.columnResultLeast,
+            sortable: true, cell: resultCell
+        },
         {key: "operate", title: qsTr("操作"), width: Theme.columnActions, fixed: true, cell: actionCell}
     ]
 
