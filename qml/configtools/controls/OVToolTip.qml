@@ -1,5 +1,5 @@
 // The tool tip of the item that it stands in. It comes into being only while it is shown, since a table has
-// hundreds of places for one. A long text is cut, so that it ends within the window and does not hide most of it. It
+// hundreds of places for one. It goes with the next click or key, and by itself after some time. A long text is cut, so that it ends within the window and does not hide most of it. It
 // stands below the item; within an item with "tipDrop", as a tool bar above the heading of a table, so much lower.
 import QtQuick
 import QtQuick.Templates as T
@@ -20,7 +20,7 @@ Loader {
 
     width: parent?.width ?? 0
     height: parent?.height ?? 0
-    active: shown && text !== ""
+    active: shown && visible && text !== ""
 
     // qmllint disable unqualified
     sourceComponent: T.ToolTip {
@@ -38,6 +38,7 @@ Loader {
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
         closePolicy: T.Popup.NoAutoClose
         delay: Theme.toolTipDelay
+        timeout: Theme.toolTipTime
         text: root.text
 
         contentItem: Column {
@@ -71,6 +72,10 @@ Loader {
             radius: Theme.smallRadius
         }
 
+        InputWatch {
+            window: root.Window.window
+            onPressed: bubble.close()
+        }
         Component.onCompleted: open()
     }
     // qmllint enable unqualified

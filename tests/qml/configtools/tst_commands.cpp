@@ -220,6 +220,28 @@ private Q_SLOTS:
         QCOMPARE(find("toolTip")->property("truncated").toBool(), words.size() > 2);
         QTRY_VERIFY(place("toolTip").bottom() <= place("toolTipNote").top());
     }
+
+    void aToolTipDoesNotStay_data()
+    {
+        QTest::addColumn<QString>("goesWith");
+        for (const char *event : {"key", "click", "page"})
+            QTest::newRow(event) << event;
+    }
+
+    void aToolTipDoesNotStay()
+    {
+        QFETCH(const QString, goesWith);
+        find("answer")->setProperty("words", "OK");
+        QTRY_VERIFY(isInWindow("toolTip"));
+        if (goesWith == "key")
+            QTest::keyClick(m_window.get(), Qt::Key_Down);
+        else if (goesWith == "click")
+            QTest::mouseClick(m_window.get(), Qt::LeftButton, Qt::NoModifier,
+                              place("toolTip").center().toPoint());
+        else
+            find("answer")->setVisible(false);
+        QTRY_VERIFY(!find("toolTip"));
+    }
 };
 
 QTEST_MAIN(TestCommands)

@@ -1,0 +1,24 @@
+#include "qml/configtools/inputwatch.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+void InputWatch::setWindow(QQuickWindow *window)
+{
+    if (m_window == window)
+        return;
+    m_window = window;
+    // A filter of the window itself sees no button that is pressed while something lies over its contents.
+    if (m_window)
+        QCoreApplication::instance()->installEventFilter(this);
+    else
+        QCoreApplication::instance()->removeEventFilter(this);
+    Q_EMIT windowChanged();
+}
+
+bool InputWatch::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress))
+        Q_EMIT pressed();
+    return false;
+}

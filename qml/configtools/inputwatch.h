@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QtQml/qqmlregistration.h>
+
+/// Tells of the user's presses in a window: of a button of the mouse or a key, before an item gets it. It is
+/// C++ because an item is told only of the input that is meant for it. Lives on the scene's thread.
+class InputWatch : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged) ///< not owned
+public:
+    explicit InputWatch(QObject *parent = nullptr) : QObject(parent) {}
+
+    [[nodiscard]] QQuickWindow *window() const { return m_window; }
+    void setWindow(QQuickWindow *window);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void windowChanged();
+    void pressed();
+
+private:
+    QPointer<QQuickWindow> m_window;
+};
