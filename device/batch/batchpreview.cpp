@@ -188,7 +188,8 @@ bool BatchPreview::isTaken(const QString &address, const QString &identity) cons
         return holder != identity && !m_readdressed.contains(holder);
     };
     const QStringList holders = m_identitiesAt.values(address);
-    return !address.isEmpty() && std::any_of(holders.cbegin(), holders.cend(), isStaying);
+    return !address.isEmpty() && (m_newAddresses.value(address) > 1 ||
+                                  std::any_of(holders.cbegin(), holders.cend(), isStaying));
 }
 
 BatchPreview::Judgement BatchPreview::judgementOf(int row) const
@@ -213,10 +214,14 @@ void BatchPreview::rejudge()
 {
     prepare();
     m_readdressed.clear();
+    m_newAddresses.clear();
     for (int row = 0; row < rowCount(); ++row) {
         const QVariantMap device = deviceAt(row);
-        if (isChecked(row) && !device.value(newAddressKey).toString().isEmpty() && hindranceOf(row).isEmpty())
+        const QString newAddress = device.value(newAddressKey).toString();
+        if (isChecked(row) && !newAddress.isEmpty() && hindranceOf(row).isEmpty()) {
             m_readdressed.insert(identityOf(device));
+            ++m_newAddresses[newAddress];
+        }
     }
     m_judgements.clear();
     m_judgements.reserve(rowCount());

@@ -104,7 +104,7 @@ private:
     /// The devices of the list by name, and the first one of each address by that.
     [[nodiscard]] QHash<QString, QVariantMap> devicesByName() const;
     void readList();
-    /// Whether a device of the list other than `identity` has `address`, and keeps it.
+    /// Whether another device than `identity` gets `address` as well, or has it in the list and keeps it.
     [[nodiscard]] bool isTaken(const QString &address, const QString &identity) const;
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
@@ -113,6 +113,7 @@ private:
     QHash<QString, int> m_devicesAt;             ///< devices of the list by address and port
     QMultiHash<QString, QString> m_identitiesAt; ///< of the list, by address
     QSet<QString> m_readdressed;                 ///< identities of ticked rows with a new address
+    QHash<QString, int> m_newAddresses;          ///< ticked rows by the address that they get
     QList<Judgement> m_judgements;               ///< by row; empty ones of unticked rows
     int m_warningCount = 0;
     int m_skippedCount = 0;
