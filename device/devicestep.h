@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -27,23 +28,29 @@ struct StepOutcome
 class StepControl
 {
 public:
-    static constexpr std::int64_t noDeadline = std::numeric_limits<std::int64_t>::max();
-
     /// Of a step that nothing ends early.
     StepControl() = default;
 
-    /// `deadline` is a time of `clock`. `releasePlace` may be empty.
-    StepControl(std::stop_token stop, std::shared_ptr<const sdk::Clock> clock, std::int64_t deadline,
-                std::function<void()> releasePlace)
-        : m_stop(std::move(stop)), m_clock(std::move(clock)), m_deadline(deadline),
+    /// The step is late after `limit` by `clock`; 0 for never. `releasePlace` may be empty.
+    StepControl(std::stop_token stop, std::shared_ptr<const sdk::Clock> clock,
+                std::chrono::milliseconds limit, std::function<void()> releasePlace)
+        : m_stop(std::move(stop)), m_clock(std::move(clock)), m_limit(limit),
           m_releasePlace(std::move(releasePlace))
     {
+        noteProgress();
     }
 
     [[nodiscard]] bool isStopped() const { return m_stop.stop_requested(); }
     [[nodiscard]] bool isLate() const { return m_clock && m_clock->now() >= m_deadline; }
     [[nodiscard]] bool shouldEnd() const { return isStopped() || isLate(); }
     [[nodiscard]] const std::stop_token &stopToken() const { return m_stop; }
+
+    /// Of a step that does several things, on its thread: one is done, and the next one has the whole time.
+    void noteProgress() const
+    {
+        if (m_clock && m_limit.count() > 0)
+            m_deadline = m_clock->now() + m_limit.count();
+    }
 
     /// The step only waits for its device from now on: another device may take its place among those that are
     /// worked on at the same time.
@@ -56,7 +63,8 @@ public:
 private:
     std::stop_token m_stop;
     std::shared_ptr<const sdk::Clock> m_clock;
-    std::int64_t m_deadline = noDeadline;
+    std::chrono::milliseconds m_limit{0};
+    mutable std::int64_t m_deadline = std::numeric_limits<std::int64_t>::max(); ///< a time of the clock
     std::function<void()> m_releasePlace;
 };
 

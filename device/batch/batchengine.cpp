@@ -234,10 +234,7 @@ StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
         }
     }
     batch.watcher->started(taken.place);
-    const std::int64_t deadline = m_clock && batch.policy.deadline.count() > 0
-                                      ? m_clock->now() + batch.policy.deadline.count()
-                                      : StepControl::noDeadline;
-    const StepControl control(batch.stop.get_token(), m_clock, deadline,
+    const StepControl control(batch.stop.get_token(), m_clock, batch.policy.deadline,
                               [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); });
     StepOutcome outcome = taken.item.step(control);
     if (outcome == notBegun && control.isLate() && !control.isStopped())

@@ -181,6 +181,8 @@ StepOutcome CDeviceDH::takePictures(const PictureOrder &order, const SecureLogin
         const SnapOutcome outcome = snapshotOnThread(task, channel, control.stopToken());
         if (outcome.problem == SnapProblem::NoPicture)
             task.tries = snapTries;
+        else
+            control.noteProgress(); // a recorder has many
         if (outcome.problem != SnapProblem::None && ++failures == 1)
             failure = {.result = snapResult(outcome.problem), .text = missingPictureText(outcome)};
         if (order.taken && !(outcome.problem == SnapProblem::NoPicture && control.shouldEnd()))

@@ -93,7 +93,7 @@ void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
     m_sessionThreads.start([this, step, stop, ended] {
         if (stop.stop_requested())
             return;
-        const SceneOutcome outcome = step(StepControl(stop, nullptr, StepControl::noDeadline, {}));
+        const SceneOutcome outcome = step(StepControl(stop, nullptr, {}, {}));
         if (stop.stop_requested())
             return;
         // Behind the signals that the step has emitted on this thread. Dropped with this object.
