@@ -46,7 +46,7 @@ private Q_SLOTS:
                   .mac = "m4",
                   .type = "IPC",
                   .state = sdk::InitialisationBits::Uninitialised});
-        rows.add({.address = "10.0.0.5", .mac = "m5", .type = "IPC"});
+        rows.add({.address = "10.0.0.5", .mac = "m5", .type = "IPC", .name = "Gate b-2230-IR"});
         rows.add({.address = "10.0.0.6", .mac = "m6", .type = ""});
         m_model = std::make_unique<OVTreeModel>();
         m_tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
@@ -215,6 +215,7 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed.first().first().toModelIndex().row(), 10);
         QCOMPARE(rows.index(1).data(DeviceTreeRows::DetailRole).toString(), "大厅 · B-2230-IR");
+        QCOMPARE(rows.index(3).data(DeviceTreeRows::DetailRole).toString(), "Gate b-2230-IR");
 
         rows.setOpen(1, false); // no group
         rows.setOpen(99, false);
