@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
@@ -255,7 +256,7 @@ void CLocalConfig::OpenQAFile()
     openDocument(QStringLiteral("QA_"));
 }
 
-void CLocalConfig::openDocument(const QString &name) const
+void CLocalConfig::openDocument(const QString &name)
 {
     // Where "\" is a letter of a file name like any other, the file is found by the system's own separator.
     const auto file = [this](QString document) {
@@ -268,7 +269,8 @@ void CLocalConfig::openDocument(const QString &name) const
     QString path = file(name + m_currentLanguage);
     if (!QFileInfo::exists(path))
         path = file(name + QLatin1String("en_US"));
-    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    const bool isHandedOver = QFileInfo::exists(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    Q_EMIT documentRequested(QDir::toNativeSeparators(path), isHandedOver);
 }
 
 QString CLocalConfig::getAppPath() const

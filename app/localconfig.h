@@ -60,6 +60,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QString getVersion() const;
     Q_INVOKABLE [[nodiscard]] QString getSoftwareName() const;
     Q_INVOKABLE [[nodiscard]] QString getLogoSoftwareName() const;
+    // Each shows a document with the program that the system has for it: documentRequested() follows.
     Q_INVOKABLE void OpenHelpFile();
     Q_INVOKABLE void OpenQAFile();
     Q_INVOKABLE [[nodiscard]] QString getAppPath() const;
@@ -86,6 +87,11 @@ public:
     /// it. A lock that a killed process left behind is taken over.
     [[nodiscard]] bool anotherInstanceRuns();
 
+Q_SIGNALS:
+    /// The system was asked to show a document. `isHandedOver` is false when the file is not there, or when
+    /// the system cannot do that; whether a program shows it is not known.
+    void documentRequested(const QString &path, bool isHandedOver);
+
 private:
     [[nodiscard]] QVariant value(const QString &key) const;
     [[nodiscard]] int number(const QString &key) const;
@@ -93,7 +99,7 @@ private:
     void setValues(const QList<QPair<QString, QString>> &values);
     void writeDefaults();
     [[nodiscard]] QString translationFile(const QString &code) const;
-    void openDocument(const QString &name) const;
+    void openDocument(const QString &name);
     void restart(const QStringList &arguments);
 
     QString m_currentLanguage;

@@ -148,6 +148,15 @@ T.ApplicationWindow {
         window: window
     }
     Connections {
+        target: window.localConfig
+
+        // The system reports no failure of the program that is to show the document, or of its lack.
+        function onDocumentRequested(path, isHandedOver) {
+            popups.say(isHandedOver ? qsTr("已用系统的PDF阅读器打开 %1").arg(path) : qsTr("无法打开 %1").arg(path),
+                       isHandedOver ? OVToast.Information : OVToast.Error);
+        }
+    }
+    Connections {
         target: window.memory
 
         function onFailed() {

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <unistd.h>
@@ -99,6 +100,20 @@ private Q_SLOTS:
         config.setLanguage("de_DE");
         QCOMPARE(QSettings(path("old"), QSettings::IniFormat).value("language/name").toString(), "");
         QCOMPARE(config.getLanguage(), "de_DE");
+    }
+
+    void aDocumentThatIsNotThereIsNamed()
+    {
+        CLocalConfig config(m_directory->path());
+        const QSignalSpy requested(&config, &CLocalConfig::documentRequested);
+        config.OpenHelpFile();
+        const QString manual = "documents/manual_en_US.pdf";
+        QCOMPARE(requested.value(0), QVariantList({path(manual), false}));
+        QVERIFY(QDir(m_directory->path()).mkdir("documents"));
+        write(path(manual), "%PDF");
+        config.OpenHelpFile();
+        QCOMPARE(requested.value(1), QVariantList({path(manual), true}));
+        QCOMPARE(m_opened, QStringList(manual));
     }
 
     void anExistingFileIsNeverCompleted()
