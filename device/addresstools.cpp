@@ -6,9 +6,32 @@
 #include <QUrl>
 #include <algorithm>
 
+#include <algorithm>
+
 bool AddressTools::isLegalAddress(const QString &text) const
 {
     return ipv4Number(text).has_value();
+}
+
+bool AddressTools::mayBecomeAddress(const QString &text) const
+{
+    const QStringList octets = text.trimmed().split(QLatin1Char('.'));
+    const auto mayBeOctet = [](const QString &octet) {
+        bool isNumber = false;
+        return octet.toUInt(&isNumber) <= 255 && isNumber && octet.size() <= 3;
+    };
+    const bool isOpen = octets.constLast().isEmpty();
+    return octets.size() <= 4 &&
+           std::all_of(octets.cbegin(), octets.cend() - (isOpen ? 1 : 0), mayBeOctet);
+}
+
+bool AddressTools::mayBecomeMask(const QString &text) const
+{
+    const QString wanted = text.trimmed();
+    bool isBeginning = isLegalMask(wanted); // perhaps with leading zeros
+    for (int hosts = 1; hosts < 32 && !isBeginning; ++hosts)
+        isBeginning = ipv4Text(~((std::uint32_t(1) << hosts) - 1)).startsWith(wanted);
+    return isBeginning;
 }
 
 double AddressTools::toNumber(const QString &text) const

@@ -31,6 +31,19 @@ private Q_SLOTS:
         QCOMPARE(AddressTools().toNumber(text), std::max(number, 0.0));
     }
 
+    void whatIsTypedIsNotWrongYet()
+    {
+        const AddressTools tools;
+        for (const char *text : {"", "1", "192.", "192.168", "192.168.1.2", "010.1.1.1"})
+            QVERIFY2(tools.mayBecomeAddress(text), text);
+        for (const char *text : {"192.168.1.500", "256", "1..2", ".1", "1.2.3.4.", "1.2.3.4.5", "0001"})
+            QVERIFY2(!tools.mayBecomeAddress(text), text);
+        for (const char *text : {"", "2", "255.255.25", "255.255.255.2", "255.255.255.0"})
+            QVERIFY2(tools.mayBecomeMask(text), text);
+        for (const char *text : {"3", "255.0.255", "255.255.255.3", "255.255.255.255", "0.0.0.0"})
+            QVERIFY2(!tools.mayBecomeMask(text), text);
+    }
+
     void checksARange_data()
     {
         const auto row = dataTable<QString, QString, int>({"begin", "end", "fault"});

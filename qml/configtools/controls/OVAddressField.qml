@@ -6,6 +6,7 @@ OVTextField {
     id: root
 
     readonly property bool acceptable: AddressTools.isLegalAddress(text)
+    readonly property bool wrong: !AddressTools.mayBecomeAddress(text)  // and not merely unfinished
 
     unwanted: /\s/g
     textFont: Theme.figureFont

@@ -11,7 +11,8 @@ OVDialog {
     readonly property alias password: passwordField.text
     readonly property alias keeping: keepingChoice.keeping
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
-    property bool tried: false
+    property bool tried: false  // what is unfinished is said under a field once the button was pressed
+    readonly property int mostLetters: 32
     signal confirmed
 
     function load(count) {
@@ -19,14 +20,13 @@ OVDialog {
         tried = false;
         keepingChoice.keeping = AccountList.ForDevices;
         accountField.text = "admin";
-        passwordField.text = "";
-        confirmationField.text = "";
+        forget();
     }
 
     /// No password stays in the memory of the scene longer than it is needed.
     function forget() {
-        passwordField.text = "";
         confirmationField.text = "";
+        passwordField.text = "";
     }
 
     readonly property string weak: qsTr("请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。")
@@ -41,7 +41,7 @@ OVDialog {
         const length = confirmationField.text.length;
         return grade <= 1 ? weak : account === "" ? noAccount : password === "" ? noPassword
             : length === 0 ? noConfirmation : confirmationField.text !== password ? different
-            : length < 8 || length > 32 ? wrongLength : "";
+            : length < 8 || length > mostLetters ? wrongLength : "";
     }
 
     readonly property string faultField: fault === "" ? "" : fault === noAccount ? "account"
@@ -96,7 +96,8 @@ OVDialog {
                     id: passwordField
                     width: parent.width
                     accessibleName: qsTr("新密码")
-                    errorText: root.tried && root.faultField === "password" ? root.fault : ""
+                    errorText: root.tried && root.faultField === "password" ? root.fault
+                        : text.length > root.mostLetters ? root.wrongLength : ""
                     maximumLength: 63
                     objectName: "firstPasswordField"
                     secret: true
@@ -115,7 +116,8 @@ OVDialog {
                 id: confirmationField
                 width: parent.width
                 accessibleName: qsTr("确认密码")
-                errorText: root.tried && root.faultField === "confirmation" ? root.fault : ""
+                errorText: root.tried && root.faultField === "confirmation" ? root.fault
+                    : passwordField.text.startsWith(text) ? "" : root.different
                 maximumLength: 63
                 objectName: "confirmationField"
                 secret: true

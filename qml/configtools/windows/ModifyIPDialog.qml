@@ -16,7 +16,7 @@ OVDialog {
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
     //: In other languages the address of one device has another name than the first one of a batch.
     readonly property string startLabel: batch ? qsTr("起始IP") : qsTr("起始IP", "one device")
-    property bool tried: false  // what is wrong is said under a field once "确定" was pressed
+    property bool tried: false  // what is unfinished is said under a field once "确定" was pressed
     readonly property bool planned: dhcp || startField.acceptable
     readonly property string addressWarning: {
         plan.warningCount + plan.skippedCount;  // read so that this follows the plan
@@ -171,7 +171,7 @@ OVDialog {
                     property string before
                     width: parent.width - (sameBox.visible ? sameBox.width + Theme.controlGap : 0)
                     accessibleName: root.startLabel
-                    errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的起始IP")
+                    errorText: wrong || (root.tried && !acceptable) ? qsTr("请输入正确的起始IP") : ""
                     objectName: "newStartField"
                     warningText: root.warned === "" ? "" : root.addressWarning
                     onEdited: {
@@ -197,7 +197,8 @@ OVDialog {
                 id: maskField
                 width: parent.width
                 accessibleName: qsTr("子网掩码")
-                errorText: AddressTools.isLegalMask(text) || !root.tried ? "" : qsTr("请输入正确的子网掩码")
+                errorText: !AddressTools.mayBecomeMask(text) || (root.tried && !AddressTools.isLegalMask(text))
+                    ? qsTr("请输入正确的子网掩码") : ""
                 objectName: "newMaskField"
             }
         }
@@ -210,7 +211,7 @@ OVDialog {
                 id: gatewayField
                 width: parent.width
                 accessibleName: qsTr("网关")
-                errorText: acceptable || !root.tried ? "" : qsTr("请输入正确的网关")
+                errorText: wrong || (root.tried && !acceptable) ? qsTr("请输入正确的网关") : ""
                 objectName: "newGatewayField"
                 warningText: root.warned === "" ? "" : root.gatewayWarning
             }
