@@ -92,25 +92,37 @@ T.ApplicationWindow {
         companions.clear();
     }
 
-    /// The channels of all devices, in the order in which these were added.
+    /// The devices may have been renamed.
+    function readNames() {
+        const rowOf = ipport => deviceFactory.getDeviceInfo("dh", ipport);
+        device.name = rowOf(device.ipport).name ?? device.name;
+        companions.places().forEach((ipport, place) => {
+            const name = rowOf(ipport).name ?? "";
+            if (name !== "")
+                companions.setProperty(place, "name", name);
+        });
+        gather();
+    }
+
+    /// The channels of all devices, in the order in which these were added. Devices of the same name have their addresses
+    /// beside it.
     function gather() {
         const isOne = companions.count === 0;
-        const entriesOf = (ipport, name, channels, companion) => channels.map((entry, place) => ({
-            ipport: ipport,
+        const devices = [device].concat(Array.from({length: added.count}, (_, place) => added.itemAt(place)));
+        const isUnique = name => devices.filter(other => other.name === name).length === 1;
+        const titleOf = one => one.name === "" ? one.ipport : isUnique(one.name) ? one.name : one.name + " " + one.ipport;
+        const entriesOf = (one, title, companion) => one.channels.map((entry, place) => ({
+            ipport: one.ipport,
             channel: entry.channel,
             connected: entry.connected,
             name: entry.name !== "" ? entry.name : qsTr("通道 %1").arg(entry.channel + 1),
-            caption: isOne || entry.name.startsWith(name) ? entry.name
-                : entry.name === "" ? name : name + " · " + entry.name,
+            caption: isOne || entry.name.startsWith(title) ? entry.name
+                : entry.name === "" ? title : title + " · " + entry.name,
             companion: companion,
-            heading: isOne || place > 0 ? undefined : name
+            heading: isOne || place > 0 ? undefined : title
         }));
-        let entries = entriesOf(device.ipport, device.name !== "" ? device.name : device.ipport, device.channels, null);
-        for (let place = 0; place < added.count; ++place) {
-            const companion = added.itemAt(place);
-            entries = entries.concat(entriesOf(companion.ipport, companion.name, companion.channels, companion));
-        }
-        grid.adopt(entries);
+        grid.adopt(devices.reduce((all, one, place) => all.concat(
+            entriesOf(one, titleOf(one), place === 0 ? null : one)), []));
     }
 
     function toggleFullScreen() {
@@ -182,6 +194,11 @@ T.ApplicationWindow {
         function places() {
             return Array.from({length: count}, (_, place) => get(place).ipport);
         }
+    }
+    DeviceListChanges {
+        deviceFactory: window.deviceFactory
+        shown: window.visible
+        onReadingRequested: window.readNames()
     }
     // qmllint disable unqualified
     Repeater {

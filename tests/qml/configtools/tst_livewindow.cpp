@@ -56,7 +56,8 @@ public:
     }
     QVariantMap getDeviceInfo(const QString &ipport) override
     {
-        return {{"name", QStringLiteral("D%1").arg(numberOf(ipport))},
+        const int number = numberOf(ipport);
+        return {{"name", names.value(number, QStringLiteral("D%1").arg(number))},
                 {"mac", QString::fromStdString(numberedMac(numberOf(ipport)).c_str())},
                 {"ipport", ipport}};
     }
@@ -76,6 +77,7 @@ public:
     QString current;          ///< address of the current session's device
     QHash<int, int> results;  ///< of logins in sessions of their own, by number; 0 for others
     QHash<int, int> channels; ///< how many, by number; 1 for others
+    QHash<int, QString> names; ///< by number; "D20" and so on for others
     QStringList asked;        ///< for sessions of their own
     std::shared_ptr<QStringList> open = std::make_shared<QStringList>(); ///< these sessions
 
@@ -261,6 +263,21 @@ private Q_SLOTS:
         QCOMPARE(*m_devices->open, QStringList(ipportOf(24)));
         QCOMPARE(find("livePlace0")->property("channel").toInt(), -1);
         QCOMPARE(textIn(2, "liveChannelName"), "D23");
+    }
+
+    void renamedDevicesAreToldApart()
+    {
+        openLive(20);
+        tick({1, 3});
+        click("liveAddButton");
+        QTRY_COMPARE(text("liveHeading2"), "D23");
+        m_devices->names = {{20, "Gate"}, {21, "NVR"}, {23, "NVR"}};
+        Q_EMIT m_devices->signalCDeviceAddSingleDeviceToTable();
+        QTRY_COMPARE(text("liveTitle"), "Gate");
+        QTRY_COMPARE(text("liveHeading2"), "NVR " + ipportOf(23));
+        QCOMPARE(text("liveHeading0"), "Gate");
+        QCOMPARE(text("liveHeading1"), "NVR " + ipportOf(21));
+        QCOMPARE(textIn(1, "liveChannelName"), "NVR " + ipportOf(21) + " · C0");
     }
 
     void sessionsEndWhenTheyAreNotNeeded_data()
