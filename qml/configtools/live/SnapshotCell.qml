@@ -72,7 +72,7 @@ Item {
         y: frame.height + (Theme.controlHeight - height) / 2
         enabled: !root.waits
         objectName: "snapshotAgain" + (root.entry?.channel ?? "")
-        text: qsTr("重新抓取")
+        text: root.stage === Snapshots.Taken ? qsTr("重新抓取") : qsTr("重试")
         visible: root.stage === Snapshots.Failed || root.stage === Snapshots.Taken
         onClicked: root.againRequested()
     }
