@@ -13,27 +13,39 @@ OVDialog {
     title: qsTr("请选择导出的文件格式")
     onOpened: formats.itemAt(formats.chosen).forceActiveFocus()
 
-    Row {
-        spacing: 2 * Theme.pageMargin
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
 
-        // qmllint disable unqualified
-        Repeater {
-            id: formats
+        Row {
+            spacing: 2 * Theme.pageMargin
 
-            property int chosen: 0
+            // qmllint disable unqualified
+            Repeater {
+                id: formats
 
-            model: root.suffixes
+                property int chosen: 0
 
-            OVRadioButton {
-                required property int index
-                required property string modelData
+                model: root.suffixes
 
-                checked: index === formats.chosen
-                objectName: "format" + modelData
-                text: modelData
-                onClicked: formats.chosen = index
+                OVRadioButton {
+                    required property int index
+                    required property string modelData
+
+                    checked: index === formats.chosen
+                    objectName: "format" + modelData
+                    text: modelData
+                    onClicked: formats.chosen = index
+                }
             }
+            // qmllint enable unqualified
         }
-        // qmllint enable unqualified
+        OVParagraph {
+            width: parent.width
+            color: Theme.colours.sub
+            font: Theme.hintFont
+            objectName: "exportHint"
+            text: qsTr("文件中的密码是明文。已保存账号的密码不导出。")
+        }
     }
 }
