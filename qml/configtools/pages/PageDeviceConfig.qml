@@ -84,7 +84,10 @@ FocusScope {
 
     function choose(ipport) {
         if (ipport !== session.device || !session.loggedIn && !session.busy)
-            session.work.afterWriting(() => leave(() => session.open(ipport)));
+            session.work.afterWriting(() => leave(() => {
+                session.names.arriving = session.namesShown;
+                session.open(ipport);
+            }));
     }
 
     function copy() {

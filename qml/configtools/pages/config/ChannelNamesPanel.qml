@@ -9,7 +9,6 @@ Item {
     readonly property ChannelNameForm form: work.form
     property int wantedRow: -1  // whose field is to have the keyboard
     property bool advancing: false  // once the names are saved, it goes on to the next device
-    property bool arriving: false   // from the device before: the first name gets the keyboard
     signal refreshRequested
     signal nextDeviceRequested
     signal patternRequested
@@ -40,9 +39,18 @@ Item {
 
     function advance() {
         advancing = false;
-        arriving = true;
         nextDeviceRequested();
     }
+
+    /// Of a device that was chosen to be named.
+    function arrive() {
+        if (!work.read || !work.arriving)
+            return;
+        work.arriving = false;
+        edit(0);
+    }
+
+    Component.onCompleted: arrive()
 
     Connections {
         target: root.work
@@ -56,10 +64,7 @@ Item {
                 root.advance();
         }
         function onReadChanged() {
-            if (!root.work.read || !root.arriving)
-                return;
-            root.arriving = false;
-            root.edit(0);
+            root.arrive();
         }
     }
 

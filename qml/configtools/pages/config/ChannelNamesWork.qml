@@ -8,6 +8,7 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // what the form shows is this device's
+    property bool arriving: false  // the device has just been chosen: its first name gets the keyboard
     property var saved: null   // how a saving ended that is still to be told of
     readonly property alias form: nameForm
     readonly property alias running: nameForm.saving
