@@ -6,6 +6,11 @@ OVDialog {
     id: root
 
     readonly property alias count: devices.deviceCount
+    readonly property int wantedListHeight: Theme.tableHeadHeight + devices.count * Theme.rowHeight + Theme.controlRadius
+        + 2 * Theme.line
+    /// What the window has for the list, also when a notice stands above the buttons.
+    readonly property int roomForList: (parent?.height ?? 0) - 2 * Theme.pageMargin - Theme.dialogHeadHeight
+        - 2 * Theme.dialogFootHeight - 2 * contentMargin - hint.height - Theme.unit
     signal confirmed
 
     /// Takes rows of a DeviceTableModel.
@@ -57,7 +62,7 @@ OVDialog {
         OVTable {
             id: table
             width: parent.width
-            height: Theme.initialiseListHeight
+            height: Math.max(Theme.initialiseListHeight, Math.min(root.wantedListHeight, root.roomForList))
             checkState: devices.checkState
             columns: [
                 {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
@@ -74,6 +79,7 @@ OVDialog {
             onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         }
         OVParagraph {
+            id: hint
             width: parent.width
             color: Theme.colours.sub
             font: Theme.hintFont
