@@ -152,7 +152,7 @@ T.ApplicationWindow {
 
         // The system reports no failure of the program that is to show the document, or of its lack.
         function onDocumentRequested(path, isHandedOver) {
-            popups.say(isHandedOver ? qsTr("已用系统的PDF阅读器打开 %1").arg(path) : qsTr("无法打开 %1").arg(path),
+            popups.say(isHandedOver ? qsTr("正在用系统的PDF程序打开 %1").arg(path) : qsTr("无法打开 %1").arg(path),
                        isHandedOver ? OVToast.Information : OVToast.Error);
         }
     }
