@@ -62,8 +62,10 @@ OVTableCell {
         }
         onEdited: root.edited(text)
         onTabPressed: event => {
-            event.accepted = true;
-            root.leftFor(root.rowIndex + (event.key === Qt.Key_Backtab ? -1 : 1));
+            const next = root.rowIndex + (event.key === Qt.Key_Backtab ? -1 : 1);
+            event.accepted = next >= 0;  // from the first row the toolkit goes back to the table
+            if (event.accepted)
+                root.leftFor(next);
         }
 
         Keys.onDownPressed: root.leftFor(root.rowIndex + 1)

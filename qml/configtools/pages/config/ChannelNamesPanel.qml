@@ -18,7 +18,7 @@ Item {
         if (row < 0)
             return;
         if (row >= form.count) {
-            save.forceActiveFocus(Qt.TabFocusReason);
+            (save.enabled ? save : pattern).forceActiveFocus(Qt.TabFocusReason);
             return;
         }
         table.show(row);
@@ -198,6 +198,7 @@ Item {
             spacing: Theme.unit
 
             OVButton {
+                id: pattern
                 objectName: "namePatternButton"
                 text: qsTr("按规则命名")
                 toolTip: qsTr("用一条规则为多个通道或多台摄像机命名")
