@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString newDevice = u"192.168.1.109:8800"_s;
-const QString otherNewDevice = u"192.168.1.108:8800"_s;
+const QString device = u"192.168.1.102:8800"_s;
+const QString otherDevice = u"192.168.1.103:8800"_s;
 const QString branchDevice = u"192.168.1.104:8800"_s;
 const QString branchMac = u"02:1a:c5:00:40:94"_s;
 
@@ -37,46 +37,25 @@ QList<int> setClocks(const Driver &driver, const QStringList &devices)
     }
     driver.await(u"the devices have results, and the batch ends"_s, [&] {
         results.clear();
-        for (const QString &device : devices)
-            results.append(driver.require(u"device_"_s + device)->property("result").toInt());
+        for (const QString &ipport : devices)
+            results.append(driver.require(u"device_"_s + ipport)->property("result").toInt());
         return !results.contains(-1) && driver.find(u"runningText"_s) == nullptr;
     });
     return results;
 }
 
-/// The password that factory-new devices get is theirs from then on, also after a search.
-void walkNewPassword(Driver &driver, sdk::demo::DemoSite &site)
+/// Two devices with the default account.
+void walkDefaultAccount(Driver &driver, sdk::demo::DemoSite &site)
 {
-    const Rows rows(driver);
-    driver.click(u"checkAllBox"_s);
-    driver.click(u"initialiseButton"_s);
-    driver.click(u"okButton"_s);
-    driver.fill(u"firstPasswordField"_s, u"Tour-2024"_s);
-    driver.fill(u"confirmationField"_s, u"Tour-2024"_s);
-    driver.check(driver.require(u"keepForDevices"_s)->property("checked").toBool(),
-                 u"the new account is kept unless the user decides otherwise"_s);
-    driver.click(u"keepNot"_s);
-    driver.report(u"account-not-kept"_s, u"the new account is not to be kept"_s);
-    driver.click(u"keepForDevices"_s);
-    driver.report(u"account-keeping"_s, driver.require(u"keepForDevices"_s)->property("text").toString());
-    driver.click(u"okButton"_s);
-    driver.await(u"three results are there"_s, [&] { return rows.countOf("res", 0) == 3; });
-    driver.await(u"it is said that the account is kept"_s, [&] {
-        return driver.texts(u"toastText"_s).join(u' ').contains(u"3"_s) && !driver.find(u"runningText"_s);
-    });
-    driver.report(u"account-kept"_s, driver.texts(u"toastText"_s).join(u" / "_s));
-    searchAgain(driver);
-
     driver.click(u"tab3"_s);
-    driver.click(u"tick_"_s + newDevice);
-    driver.click(u"tick_"_s + otherNewDevice);
+    driver.click(u"tick_"_s + device);
+    driver.click(u"tick_"_s + otherDevice);
     driver.check(driver.require(u"allDevicesBox"_s)->property("checkState").toInt() == Qt::PartiallyChecked,
                  u"some of the devices are ticked"_s);
     site.requests().clear();
-    driver.check(setClocks(driver, {newDevice, otherNewDevice}) == QList<int>({0, 0}),
-                 u"the devices take their own password, without a question"_s);
+    driver.check(setClocks(driver, {device, otherDevice}) == QList<int>({0, 0}),
+                 u"the devices take the default account, without a question"_s);
     driver.check(site.requests().of("NetLoginSecure").size() == 2, u"each is asked once"_s);
-    driver.report(u"account-used"_s, u"two clocks are set with the new password"_s);
 }
 
 /// Devices without a login are shown alone; of a search that begins, no result is left.
@@ -85,14 +64,14 @@ void walkStates(Driver &driver)
     const int all = treeRows(driver);
     driver.click(u"loggedOutStates"_s);
     driver.await(u"the devices that were logged in to are not shown"_s,
-                 [&] { return treeRows(driver) < all && !driver.find(u"device_"_s + newDevice); });
+                 [&] { return treeRows(driver) < all && !driver.find(u"device_"_s + device); });
     driver.report(u"tree-logged-out"_s, driver.require(u"loggedOutStates"_s)->property("text").toString());
     driver.click(u"allStates"_s);
-    driver.await(u"all devices are shown"_s, [&] { return driver.find(u"device_"_s + newDevice); });
+    driver.await(u"all devices are shown"_s, [&] { return driver.find(u"device_"_s + device); });
     searchAgain(driver);
     driver.await(u"the results of the earlier search are gone"_s, [&] {
-        const QQuickItem *device = driver.find(u"device_"_s + newDevice);
-        return device && device->property("result").toInt() == -1 && !driver.find(u"resultSign"_s);
+        const QQuickItem *row = driver.find(u"device_"_s + device);
+        return row && row->property("result").toInt() == -1 && !driver.find(u"resultSign"_s);
     });
 }
 
@@ -107,8 +86,8 @@ void fillAccount(const Driver &driver, const QString &name, const QString &accou
 /// A device has another account than most. It is selected for it, and nothing else is tried.
 void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
 {
-    site.changeDevice(branchMac, [](auto &device, const auto &) {
-        device.accounts = {{u"operator"_s, u"Branch-2024"_s}};
+    site.changeDevice(branchMac, [](auto &branch, const auto &) {
+        branch.accounts = {{u"operator"_s, u"Branch-2024"_s}};
     });
     driver.click(u"menuButton"_s);
     driver.click(u"accountsItem"_s);
@@ -119,7 +98,7 @@ void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"account-refused"_s, driver.texts(u"fieldMessage"_s).join(u' '));
     fillAccount(driver, u"Branch"_s, u"operator"_s, u"Branch-2024"_s);
     driver.await(u"the account is listed"_s, [&] {
-        return !driver.find(u"accountNameField"_s) && Rows(driver, u"accountsTable"_s).count() == 3;
+        return !driver.find(u"accountNameField"_s) && Rows(driver, u"accountsTable"_s).count() == 2;
     });
     driver.report(u"accounts"_s, u"%1 accounts"_s.arg(Rows(driver, u"accountsTable"_s).count()));
     driver.click(u"okButton"_s);
@@ -134,11 +113,11 @@ void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"account-choice"_s, u"an account for one device"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the account is selected"_s, [&] { return !driver.find(u"accountsTable"_s); });
-    for (const QString &device : {newDevice, otherNewDevice, branchDevice}) // the ticks are from before
-        if (driver.require(u"device_"_s + device)->property("tick").toInt() == Qt::Unchecked)
-            driver.click(u"tick_"_s + device);
+    for (const QString &ipport : {device, otherDevice, branchDevice}) // the ticks are from before
+        if (driver.require(u"device_"_s + ipport)->property("tick").toInt() == Qt::Unchecked)
+            driver.click(u"tick_"_s + ipport);
     site.requests().clear();
-    driver.check(setClocks(driver, {newDevice, branchDevice}) == QList<int>({0, 0}),
+    driver.check(setClocks(driver, {device, branchDevice}) == QList<int>({0, 0}),
                  u"each device takes its own account"_s);
     driver.check(site.requests().of("NetLoginSecure").size() == 3, u"none is asked twice"_s);
     driver.report(u"account-of-device"_s, u"the clocks of three devices with two accounts"_s);
@@ -148,8 +127,7 @@ void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
 
 void walkDeviceAccounts(Driver &driver, sdk::demo::DemoSite &site)
 {
-    setDefaultPassword(driver, u"Office-2024"_s);
-    walkNewPassword(driver, site);
+    walkDefaultAccount(driver, site);
     walkStates(driver);
     walkAccounts(driver, site);
 }

@@ -1,6 +1,7 @@
+// Someone with two hundred devices: new passwords, clocks, copied settings, upgrades.
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
-#include "tests/tour/driver.h"
+#include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,23 @@ void awaitRequests(const Driver &driver, sdk::demo::DemoSite &site, const QStrin
     driver.await(
         u"%1 devices are asked"_s.arg(count), [&] { return site.requests().of(operation).size() >= count; },
         60);
+}
+
+/// The devices of one kind are found, selected together, and taken back.
+void walkFilter(Driver &driver)
+{
+    const Rows rows(driver);
+    const int all = rows.count();
+    driver.fill(u"searchField"_s, u"B-22"_s);
+    driver.await(u"the cameras of one kind are left"_s,
+                 [&] { return rows.count() > 20 && rows.count() < all; });
+    driver.click(u"checkAllBox"_s);
+    driver.check(rows.countOf("checked", true) == rows.count(), u"all of them are selected"_s);
+    driver.report(u"filtered"_s, driver.text(u"selectedCount"_s));
+    driver.click(u"checkAllBox"_s);
+    driver.fill(u"searchField"_s, QString());
+    driver.await(u"all devices are shown"_s, [&] { return rows.count() == all; });
+    driver.check(rows.countOf("checked", true) == 0, u"none is selected"_s);
 }
 
 /// What would take the devices or the program away from a running batch is refused, and the batch is named.
@@ -60,13 +78,14 @@ void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &ste
 
 } // namespace
 
-void walkFleet(Driver &driver, sdk::demo::DemoSite &site)
+void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QList<sdk::demo::SceneDevice> scene = site.devices();
     for (const sdk::demo::SceneDevice &device : scene)
         site.setFault(device.mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 400, .text = {}});
     driver.activate();
     driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
+    walkFilter(driver);
     driver.click(u"tab3"_s);
     driver.await(u"the tree has devices"_s, [&] { return driver.require(u"allDevicesBox"_s)->isEnabled(); });
     driver.click(u"allDevicesBox"_s);

@@ -111,7 +111,7 @@ QStringList Driver::texts(const QString &name) const
     return texts;
 }
 
-void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
+QQuickItem *Driver::requireForClicks(const QString &name) const
 {
     QQuickItem *item = require(name);
     atRest();
@@ -125,7 +125,12 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
             return !isHeld && !isUnderSheet && !isUnderNotice(middleOf(item));
         },
         30);
-    QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(item));
+    return item;
+}
+
+void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
+{
+    QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(requireForClicks(name)));
 }
 
 bool Driver::isUnderNotice(QPoint place) const
@@ -151,7 +156,7 @@ void Driver::hover(const QString &name) const
 
 void Driver::doubleClick(const QString &name) const
 {
-    QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier, middleOf(require(name)));
+    QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier, middleOf(requireForClicks(name)));
 }
 
 void Driver::rightClick(const QString &name) const

@@ -62,6 +62,8 @@ public:
     void report(const QString &step, const QString &seen);
 
 private:
+    /// An item that is at rest and that nothing keeps clicks from.
+    [[nodiscard]] QQuickItem *requireForClicks(const QString &name) const;
     [[nodiscard]] bool isUnderNotice(QPoint place) const;
     void atRest() const;
     void checkNames(QQuickItem *item) const;

@@ -1,6 +1,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
 #include "tests/tour/livewindow.h"
+#include "tests/tour/otherwindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
@@ -17,24 +18,6 @@ const QString freshDevice = u"192.168.1.108:8800"_s;
 const QStringList chosen = {
     u"192.168.1.101:8800"_s, u"192.168.1.102:8800"_s, refusing, u"192.168.1.104:8800"_s, freshDevice,
     u"192.168.1.121:8801"_s, u"192.168.1.140:8800"_s};
-
-QQuickWindow *visibleWindow(const QString &name)
-{
-    for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
-        if (candidate->objectName() == name && candidate->isVisible())
-            return qobject_cast<QQuickWindow *>(candidate);
-    }
-    return nullptr;
-}
-
-QQuickWindow *awaitWindow(const Driver &driver, const QString &name)
-{
-    driver.await(u"the window \"%1\" opens"_s.arg(name), [&] {
-        const QQuickWindow *window = visibleWindow(name);
-        return window && window->isExposed();
-    });
-    return visibleWindow(name);
-}
 
 void tick(const Driver &driver, const QStringList &ipports)
 {

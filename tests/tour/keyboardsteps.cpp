@@ -1,3 +1,4 @@
+// Someone who has only the keyboard.
 #include "sdk/demo/demosite.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
@@ -9,6 +10,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int roundTheWindow = 24; ///< Tabs
 
 bool hasKeyboard(const Driver &driver, const QString &name)
 {
@@ -164,7 +167,6 @@ void walkNaming(Driver &driver)
         return driver.find(u"configTab1"_s) && driver.find(u"configTab1"_s)->isEnabled() &&
                driver.find(u"imageDefaultsButton"_s) && driver.find(u"imageDefaultsButton"_s)->isEnabled();
     });
-    constexpr int roundTheWindow = 20;
     goTo(driver, u"configTab1"_s, Qt::Key_Tab, roundTheWindow);
     driver.key(Qt::Key_Right);
     driver.require(u"nameTable"_s);
@@ -188,24 +190,38 @@ void walkNaming(Driver &driver)
     driver.report(u"keyboard-naming"_s, tree.value(1, "detail").toString());
 }
 
+/// Replaces what is in the field that has the keyboard.
+void retype(const Driver &driver, const QString &text)
+{
+    driver.key(Qt::Key_A, Qt::ControlModifier);
+    driver.type(text);
+}
+
 /// One pattern names several cameras.
 void walkPattern(Driver &driver)
 {
-    driver.click(u"tick_IPC"_s);
-    driver.click(u"namePatternButton"_s);
+    goTo(driver, u"deviceTree"_s, Qt::Key_Backtab, roundTheWindow);
+    driver.key(Qt::Key_Home);
+    driver.key(Qt::Key_Space);
+    driver.await(u"the cameras are ticked"_s,
+                 [&] { return driver.require(u"group_IPC"_s)->property("tick").toInt() == Qt::Checked; });
+    goTo(driver, u"namePatternButton"_s, Qt::Key_Tab, roundTheWindow);
+    driver.key(Qt::Key_Return);
     driver.await(u"the pattern has the keyboard"_s, [&] { return hasKeyboard(driver, u"patternField"_s); });
-    driver.fill(u"patternField"_s, u"{model}-{x}"_s);
+    retype(driver, u"{model}-{x}"_s);
     driver.key(Qt::Key_Return);
     driver.check(hasKeyboard(driver, u"patternField"_s) && driver.find(u"fieldMessage"_s),
                  u"a pattern that is none keeps the keyboard"_s);
     driver.report(u"keyboard-pattern-refused"_s, driver.text(u"fieldMessage"_s));
-    driver.fill(u"patternField"_s, u"Hall {n}-{ip4}"_s);
-    driver.fill(u"patternDigitsField"_s, u"2"_s);
+    retype(driver, u"Hall {n}-{ip4}"_s);
+    goTo(driver, u"patternDigitsField"_s, Qt::Key_Tab, 3);
+    retype(driver, u"2"_s);
     driver.report(u"keyboard-pattern"_s, driver.text(u"patternField"_s));
     driver.key(Qt::Key_Return);
     driver.await(u"a shared address is asked about"_s,
                  [&] { return driver.find(u"messageText"_s) != nullptr; });
-    driver.click(u"okButton"_s);
+    goTo(driver, u"okButton"_s, Qt::Key_Tab, 3);
+    driver.key(Qt::Key_Return);
     const Rows tree(driver, u"deviceTree"_s);
     driver.await(u"the cameras have their names"_s,
                  [&] { return tree.value(2, "detail").toString().startsWith(u"Hall 02-102"_s); });
@@ -213,8 +229,12 @@ void walkPattern(Driver &driver)
     driver.await(
         u"the batch is held or ends"_s,
         [&] { return driver.find(u"continueButton"_s) || !driver.find(u"runningText"_s); }, 30);
-    if (driver.find(u"continueButton"_s))
-        driver.click(u"stopButton"_s);
+    if (driver.find(u"continueButton"_s)) {
+        goTo(driver, u"continueButton"_s, Qt::Key_Tab, roundTheWindow);
+        driver.key(Qt::Key_Right);
+        driver.check(hasKeyboard(driver, u"stopButton"_s), u"the other answer is beside it"_s);
+        driver.key(Qt::Key_Return);
+    }
     driver.await(
         u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 30);
     driver.report(u"keyboard-named"_s, tree.value(2, "detail").toString());
@@ -231,4 +251,11 @@ void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site)
     walkNaming(driver);
     walkPattern(driver);
     driver.key(Qt::Key_1, Qt::ControlModifier);
+}
+
+void walkOutByKeyboard(Driver &driver)
+{
+    goTo(driver, u"searchButton"_s, Qt::Key_Tab, roundTheWindow); // first of the buttons of the title bar
+    goTo(driver, u"closeButton"_s, Qt::Key_Right, 6);
+    driver.key(Qt::Key_Space);
 }

@@ -1,9 +1,8 @@
 // The live window of a device, as a user opens and closes it.
 #pragma once
 
-#include "tests/tour/driver.h"
+#include "tests/tour/otherwindow.h"
 
-#include <QGuiApplication>
 #include <QVariantMap>
 
 /// Types an address into the search field of the main window until the device is the first row.
@@ -22,15 +21,7 @@ inline QQuickWindow *openLive(const Driver &driver, const QString &ipport)
     driver.activate(); // a live window may be before it
     findDevice(driver, ipport);
     driver.click(QStringLiteral("live0"));
-    QQuickWindow *window = nullptr;
-    driver.await(QStringLiteral("the live window opens"), [&] {
-        for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
-            if (candidate->objectName() == QLatin1String("liveWindow") && candidate->isVisible())
-                window = qobject_cast<QQuickWindow *>(candidate);
-        }
-        return window && window->isExposed();
-    });
-    return window;
+    return awaitWindow(driver, QStringLiteral("liveWindow"));
 }
 
 inline void closeLive(const Driver &driver, const Driver &live)

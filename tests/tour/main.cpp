@@ -1,9 +1,10 @@
-// ConfigTools LANGUAGE FOLDER [lab]: plays the tour in a language and saves its pictures in a folder. With
-// "lab" it plays the main job on the devices of the network that it runs in (scripts/lab), without the
-// simulated site.
+// ConfigTools LANGUAGE FOLDER [STAGE]: plays the tour, or one stage of it, in a language and saves its
+// pictures in a folder. The stage "lab", which is no part of the tour, is the main job on the devices of the
+// network that it runs in (scripts/lab), without the simulated site.
 //
 // Several processes take part: one that watches, the program that is driven, a second start of it beside the
-// first, and the one that the program starts in its place when its language was changed.
+// first, and the one that the program starts in its place when its language was changed or the demo site is
+// opened.
 
 #include "app/localconfig.h"
 #include "app/messagebox.h"
@@ -11,10 +12,12 @@
 #include "sdk/demo/demonetlibrary.h"
 #include "tests/files/filecontents.h"
 #include "tests/tour/driver.h"
+#include "tests/tour/stages.h"
 #include "tests/tour/steps.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -30,6 +33,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const char *const stageVariable = "CONFIGTOOLS_TOUR_STAGE";
+const char *const folderVariable = "CONFIGTOOLS_TOUR_FOLDER"; // for the process that opens the demo site
+const QByteArray demoSiteStage = "demosite";                  // follows a stage
 constexpr int minutes = 60000;
 
 QtMessageHandler previousHandler = nullptr;
@@ -77,17 +82,34 @@ void forgetEarlierRuns(const QString &stage, const QString &language)
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
     localConfig.setColourScheme(u"light"_s); // whatever the desktop
-    if (stage == QLatin1String("fleet"))
-        localConfig.setSearchConfigPass(u"Installer-2024"_s);
-    if (stage == QLatin1String("looks") || stage == QLatin1String("gallery"))
-        localConfig.setSearchConfigPass(u"Office-2024"_s);
+    if (const Stage *known = stageOfTour(stage); known && !known->password.isEmpty())
+        localConfig.setSearchConfigPass(known->password);
+}
+
+/// Waits until the process that the program has started in its place has written what it saw, and has ended.
+/// Returns what it saw.
+QByteArray resultOfNextProcess(const QString &folder)
+{
+    QByteArray result;
+    const bool ended = QTest::qWaitFor(
+        [&] {
+            // The first line is the number of the process. One that has ended has no file to run.
+            result = fileContents(resultFile(folder));
+            const QByteArray process = result.left(result.indexOf('\n'));
+            return !process.isEmpty() &&
+                   QFile::symLinkTarget(u"/proc/"_s + QString::fromLatin1(process) + u"/exe"_s).isEmpty();
+        },
+        minutes);
+    QFile::remove(resultFile(folder));
+    return ended ? result.mid(result.indexOf('\n') + 1) : "FAILED: the program did not start again";
 }
 
 /// Starts the program as if for the first time, but for the stages that go on with what an earlier one has
 /// left, and waits for its end.
 bool runStage(const QString &stage, const QString &language, const QString &folder)
 {
-    if (!stage.startsWith(u"restored"))
+    const Stage *known = stageOfTour(stage);
+    if (!known || !known->goesOn)
         forgetEarlierRuns(stage, language);
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -99,31 +121,40 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
            program.exitCode() == EXIT_SUCCESS;
 }
 
-/// Starts the program with a large site, then several times with the usual one, and waits for the one that
-/// follows the last of these.
+/// Whether the process that has followed a stage saw what it should.
+bool followed(const QString &folder)
+{
+    const QByteArray result = resultOfNextProcess(folder);
+    QTextStream(stdout) << result << Qt::endl;
+    return !result.startsWith("FAILED");
+}
+
+bool playStage(const QString &stage, const QString &language, const QString &folder)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const bool isFollowed = stage == u"program" || stage == u"nodevices";
+    const bool succeeded = runStage(stage, language, folder) && (!isFollowed || followed(folder));
+    if (succeeded)
+        QTextStream(stdout) << "Stage " << stage << ": " << timer.elapsed() / 1000 << " s" << Qt::endl;
+    else
+        QTextStream(stdout) << "FAILED: stage " << stage << " did not end as it should" << Qt::endl;
+    return succeeded;
+}
+
+/// Plays the stages one after the other, then the subjects that are left, at the end of which the program
+/// starts again in another language.
 int watch(const QString &language, const QString &folder)
 {
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
-    if (!runStage(u"fleet"_s, language, folder + u"/fleet"_s) ||
-        !runStage(u"keyboard"_s, language, folder + u"/keyboard"_s) ||
-        !runStage(u"looks"_s, language, folder + u"/looks"_s) ||
-        !runStage(u"accounts"_s, language, folder + u"/accounts"_s) ||
-        !runStage(u"columns"_s, language, folder + u"/columns"_s) ||
-        !runStage(u"restored"_s, language, folder + u"/restored"_s) ||
-        !runStage(u"restoredagain"_s, language, folder + u"/restoredagain"_s) ||
-        !runStage(u"gallery"_s, language, folder + u"/gallery"_s) ||
-        !runStage(u"program"_s, language, folder)) {
-        QTextStream(stdout) << "FAILED: the program did not end as it should" << Qt::endl;
-        return EXIT_FAILURE;
+    for (const Stage &stage : stagesOfTour()) {
+        if (!playStage(stage.name, language, folder + u'/' + stage.name))
+            return EXIT_FAILURE;
     }
-    const bool restarted = QTest::qWaitFor([&] { return QFile::exists(resultFile(folder)); }, minutes);
-    const QByteArray result =
-        restarted ? fileContents(resultFile(folder)) : "FAILED: the program did not start again";
-    QTextStream(stdout) << result << Qt::endl;
+    const bool succeeded = playStage(u"program"_s, language, folder);
     QFile::remove(restartFile(folder));
-    QFile::remove(resultFile(folder));
-    return result.startsWith("FAILED") ? EXIT_FAILURE : EXIT_SUCCESS;
+    return succeeded ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 /// A second start: says on its output what its message box says, and closes that.
@@ -163,61 +194,14 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkLanguageChange(driver, otherLanguage(language));
 }
 
-void driveFleet(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
+void driveStage(Driver &driver, sdk::demo::DemoSite *site, const Stage &stage)
 {
-    walkFleet(driver, site);
-    walkBatches(driver, site, folder);
+    stage.drive(driver, site);
     driver.check(warnings == 0, u"no warning was given"_s);
-    driver.click(u"closeButton"_s);
-}
-
-/// A user without a mouse, from the first start on.
-void driveKeyboard(Driver &driver, sdk::demo::DemoSite &site)
-{
-    walkFirstSearch(driver);
-    walkKeyboard(driver, site);
-    driver.check(warnings == 0, u"no warning was given"_s);
-    driver.click(u"closeButton"_s);
-}
-
-void driveLooks(Driver &driver)
-{
-    walkFirstSearch(driver);
-    walkLooks(driver);
-    driver.check(warnings == 0, u"no warning was given"_s);
-    driver.click(u"closeButton"_s);
-}
-
-void driveAccounts(Driver &driver, sdk::demo::DemoSite &site)
-{
-    walkFirstSearch(driver);
-    walkDeviceAccounts(driver, site);
-    driver.check(warnings == 0, u"no warning was given"_s);
-    driver.click(u"closeButton"_s);
-}
-
-/// One run of the program that keeps what the user arranges for the next one.
-void driveColumns(Driver &driver, const QByteArray &stage)
-{
-    if (stage == "columns") {
-        walkFirstSearch(driver);
-        walkColumns(driver);
-    } else if (stage == "restored") {
-        walkRestored(driver);
-    } else {
-        walkRestoredAgain(driver);
-    }
-    driver.check(warnings == 0, u"no warning was given"_s);
-    driver.click(u"closeButton"_s);
-}
-
-/// A user who looks at what the cameras show.
-void driveGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
-{
-    walkFirstSearch(driver);
-    walkGallery(driver, site, folder + u"/pictures"_s);
-    driver.check(warnings == 0, u"no warning was given"_s);
-    driver.click(u"closeButton"_s);
+    if (stage.leave)
+        stage.leave(driver);
+    else
+        driver.click(u"closeButton"_s);
 }
 
 void driveLab(Driver &driver)
@@ -244,18 +228,39 @@ QByteArray driveRestarted(Driver &driver, const QString &language, const QString
                : "FAILED: the restarted program is not in the other language: " + counter.toUtf8();
 }
 
-/// The program from its start to its end, driven on the way. The restarted one puts what it saw into
-/// `result`.
-int runProgram(const QString &language, const QString &folder, QByteArray &result)
+/// The demo site, which the program has opened in its place. Returns what it saw.
+QByteArray driveDemoSite(Driver &driver)
 {
-    const bool isFleet = qgetenv(stageVariable) == "fleet";
-    const bool isLab = qgetenv(stageVariable) == "lab";
-    const bool isColumns =
-        qgetenv(stageVariable) == "columns" || qgetenv(stageVariable).startsWith("restored");
+    driver.await(
+        u"the search of the demo site ends"_s,
+        [&] { return !driver.window()->property("searching").toBool(); }, 30);
+    const QString remark = driver.text(u"titleRemark"_s);
+    const int devices = driver.text(u"counterNumber"_s).toInt();
+    driver.report(u"demo-site"_s, remark);
+    driver.click(u"closeButton"_s);
+    // The account of its devices is on the window.
+    return devices > 0 && remark.contains(u"Office-2024"_s)
+               ? "the demo site: " + remark.toUtf8()
+               : "FAILED: the demo site does not show devices and their account: " + remark.toUtf8();
+}
+
+/// As the program would be started for a stage.
+QStringList argumentsFor(const QByteArray &stage, const QString &folder)
+{
+    QString scene = u"office"_s;
+    if (const Stage *known = stageOfTour(QString::fromLatin1(stage)))
+        scene = known->scene == emptyScene() ? writeEmptyScene(folder) : known->scene;
     QStringList arguments = {u"ConfigTools"_s};
-    if (!isLab)
-        arguments.append(isFleet ? u"--demo=fleet:200"_s : u"--demo"_s);
-    Shell shell(CommandLine::parse(arguments));
+    if (stage != "lab" && !scene.isEmpty())
+        arguments.append(u"--demo="_s + scene);
+    return arguments;
+}
+
+/// The program from its start to its end, driven on the way. One that was started in the place of another
+/// puts what it saw into `result`.
+int runProgram(const QByteArray &stage, const QString &language, const QString &folder, QByteArray &result)
+{
+    Shell shell(CommandLine::parse(argumentsFor(stage, folder)));
     if (const std::optional<int> exitCode = shell.begin())
         return *exitCode;
     auto *window = qobject_cast<QQuickWindow *>(shell.engine()->rootObjects().value(0));
@@ -265,27 +270,18 @@ int runProgram(const QString &language, const QString &folder, QByteArray &resul
     }
     Driver driver(window, folder);
     QTimer::singleShot(0, window, [&] {
-        if (isLab) {
+        const auto library = std::dynamic_pointer_cast<sdk::demo::DemoNetLibrary>(shell.libraries().net);
+        sdk::demo::DemoSite *site = library ? &library->site() : nullptr;
+        if (stage == "lab")
             driveLab(driver);
-            return;
-        }
-        auto &site = dynamic_cast<sdk::demo::DemoNetLibrary &>(*shell.libraries().net).site();
-        if (isFleet)
-            driveFleet(driver, site, folder);
-        else if (qgetenv(stageVariable) == "keyboard")
-            driveKeyboard(driver, site);
-        else if (qgetenv(stageVariable) == "looks")
-            driveLooks(driver);
-        else if (qgetenv(stageVariable) == "accounts")
-            driveAccounts(driver, site);
-        else if (isColumns)
-            driveColumns(driver, qgetenv(stageVariable));
-        else if (qgetenv(stageVariable) == "gallery")
-            driveGallery(driver, site, folder);
+        else if (stage == demoSiteStage)
+            result = driveDemoSite(driver);
+        else if (const Stage *known = stageOfTour(QString::fromLatin1(stage)))
+            driveStage(driver, site, *known);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
         else
-            drive(driver, site, language, folder);
+            drive(driver, *site, language, folder);
     });
     return QApplication::exec();
 }
@@ -297,29 +293,35 @@ int main(int argc, char *argv[])
     previousHandler = qInstallMessageHandler(countWarnings);
     Shell::prepareApplication();
     const QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    const bool isLab = arguments.size() == 4 && arguments.at(3) == u"lab";
-    if (arguments.size() != 3 && !isLab) {
-        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER [lab]\n";
+    QStringList arguments = QCoreApplication::arguments();
+    QByteArray stage = qgetenv(stageVariable);
+    if (arguments.size() == 2 && arguments.at(1) == u"--demo") {
+        stage = demoSiteStage;
+        arguments = {arguments.at(0), QString(), qEnvironmentVariable(folderVariable)};
+    }
+    if (arguments.size() != 3 && arguments.size() != 4) {
+        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER [STAGE]\n";
         return 2;
     }
     const QString &language = arguments.at(1);
     const QString folder = QDir(arguments.at(2)).absolutePath();
-    const QByteArray stage = qgetenv(stageVariable);
-    if (stage.isEmpty() && isLab)
+    if (stage.isEmpty() && arguments.size() == 4)
         return QDir(folder).removeRecursively() && QDir().mkpath(folder) &&
-                       runStage(u"lab"_s, language, folder)
+                       playStage(arguments.at(3), language, folder)
                    ? EXIT_SUCCESS
                    : EXIT_FAILURE;
     if (stage.isEmpty())
         return watch(language, folder);
     if (stage == "second")
         answerMessageBox(folder);
+    qputenv(folderVariable, folder.toLocal8Bit());
+    QDir().mkpath(folder);
 
     QByteArray result;
-    const int exitCode = runProgram(language, folder, result);
+    const int exitCode = runProgram(stage, language, folder, result);
+    const bool isFine = warnings == 0 && exitCode == 0;
     if (!result.isEmpty())
-        writeFile(resultFile(folder),
-                  warnings == 0 && exitCode == 0 ? result : "FAILED: a warning was given");
-    return exitCode;
+        writeFile(resultFile(folder), QByteArray::number(QCoreApplication::applicationPid()) + '\n' +
+                                          (isFine ? result : "FAILED: a warning was given"));
+    return warnings == 0 ? exitCode : EXIT_FAILURE;
 }

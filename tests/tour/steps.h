@@ -1,8 +1,9 @@
 // The steps of the tour, by subject.
 #pragma once
 
+#include <QString>
+
 class Driver;
-class QString;
 
 namespace sdk::demo {
 class DemoSite;
@@ -36,10 +37,13 @@ void walkCommands(Driver &driver, const QString &folder);
 /// Upgrades of six devices, of which one fails, one stands still and one is stopped, and upgrades by
 /// document; the firmware and the document are written into `folder`.
 void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
-/// Batches over the devices of a fleet, which are left alone, searched for and closed meanwhile.
-void walkFleet(Driver &driver, sdk::demo::DemoSite &site);
-/// On the page that walkFleet() leaves: a batch is stopped and its rest retried, its results are saved into
-/// `folder`, and changed addresses are put back.
+/// Someone with twelve factory-new devices, until all are set up.
+void walkInstaller(Driver &driver);
+/// Someone with a fleet: batches over its devices, which are left alone, searched for and closed meanwhile,
+/// and some upgrades.
+void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site);
+/// On the page that walkAdministrator() leaves: a batch is stopped and its rest retried, its results are
+/// saved into `folder`, and changed addresses are put back.
 void walkBatches(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// The main job on devices of a site on real sockets (scripts/lab).
 /// Needs the search settings' account to be that of the site's devices.
@@ -48,12 +52,32 @@ void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
 void walkLab(Driver &driver);
 /// On the same devices: work on several of them at the same time.
 void walkLabBatches(Driver &driver);
-/// Somebody without a mouse: the way to the table, the actions of rows, a wrong password.
+/// The argument that stands for the scene of writeEmptyScene().
+inline QString emptyScene()
+{
+    return QStringLiteral("empty");
+}
+/// A site whose only device no search of the local network finds. Returns the path of its file.
+QString writeEmptyScene(const QString &folder);
+/// Someone whose list is empty, at that site.
+void walkNewcomer(Driver &driver);
+/// The same without any device.
+void walkNoDevices(Driver &driver);
+/// After it: the demo site takes the place of the program.
+void walkToDemoSite(Driver &driver);
+/// Someone with wrong passwords who does not wait. A batch runs at the end.
+void walkImpatient(Driver &driver, sdk::demo::DemoSite &site);
+/// Ends the program during a batch.
+void walkEndDuringBatch(Driver &driver);
+/// On the page for maintenance: one of several accounts is selected for a device, and its state is looked
+/// for.
+void walkDeviceAccounts(Driver &driver, sdk::demo::DemoSite &site);
+/// Someone without a mouse: the way to the table, the actions of rows, a wrong password, names.
 void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site);
+/// Ends the program without the mouse.
+void walkOutByKeyboard(Driver &driver);
 /// The choice of colours, and pages and dialogs in the dark theme.
 void walkLooks(Driver &driver);
-/// Accounts of devices: a new password is kept, and one of several accounts is selected for a device.
-void walkDeviceAccounts(Driver &driver, sdk::demo::DemoSite &site);
 /// Columns, notes, order and the place of the window, which outlive the program.
 void walkColumns(Driver &driver);
 /// The program after walkColumns(), and after that once more.

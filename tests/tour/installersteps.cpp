@@ -1,0 +1,224 @@
+// An installer with twelve new cameras and recorders, six of which still have the same address: finds them,
+// gives them one password, twelve addresses in one range and names from a pattern, looks at their images,
+// saves these, and exports the list.
+#include "tests/files/filecontents.h"
+#include "tests/tour/otherwindow.h"
+#include "tests/tour/rows.h"
+#include "tests/tour/steps.h"
+
+#include <QImage>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int devices = 12;
+constexpr int cameras = 9; // of them; the other ones are recorders
+constexpr int firstHost = 201;
+const QString newPassword = u"Lobby-2026"_s;
+
+QString addressOf(int place)
+{
+    return u"192.168.1.%1"_s.arg(firstHost + place);
+}
+
+void awaitEndOfBatch(const Driver &driver)
+{
+    driver.await(
+        u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 120);
+}
+
+void searchAgain(const Driver &driver)
+{
+    driver.click(u"searchButton"_s);
+    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
+    driver.await(
+        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
+}
+
+void selectAll(const Driver &driver)
+{
+    const Rows rows(driver);
+    if (rows.countOf("checked", true) < rows.count())
+        driver.click(u"checkAllBox"_s);
+    driver.check(rows.countOf("checked", true) == devices, u"all devices are selected"_s);
+}
+
+void walkFound(Driver &driver)
+{
+    const Rows rows(driver);
+    driver.await(
+        u"twelve factory-new devices are listed"_s,
+        [&] {
+            return !driver.window()->property("searching").toBool() && rows.count() == devices &&
+                   rows.countOf("state", false) == devices;
+        },
+        30);
+    driver.report(u"found"_s, driver.text(u"footWarning"_s));
+}
+
+/// The password that factory-new devices get is theirs from then on, also after a search.
+void walkFirstPassword(Driver &driver)
+{
+    const Rows rows(driver);
+    selectAll(driver);
+    driver.click(u"initialiseButton"_s);
+    driver.require(u"initialiseTable"_s);
+    driver.report(u"initialise"_s, u"the devices to be initialised"_s);
+    driver.click(u"okButton"_s);
+    driver.fill(u"firstPasswordField"_s, newPassword);
+    driver.fill(u"confirmationField"_s, newPassword);
+    driver.check(driver.require(u"keepForDevices"_s)->property("checked").toBool(),
+                 u"the new account is kept unless the user decides otherwise"_s);
+    driver.click(u"keepNot"_s);
+    driver.report(u"account-not-kept"_s, u"the new account is not to be kept"_s);
+    driver.click(u"keepForDevices"_s);
+    driver.report(u"account-keeping"_s, driver.require(u"keepForDevices"_s)->property("text").toString());
+    driver.click(u"okButton"_s);
+    driver.await(
+        u"each device is initialised"_s,
+        [&] { return rows.countOf("res", 0) == devices && rows.countOf("state", false) == 0; }, 60);
+    awaitEndOfBatch(driver);
+    driver.await(u"it is said that the account is kept"_s,
+                 [&] { return driver.texts(u"toastText"_s).join(u' ').contains(QString::number(devices)); });
+    driver.report(u"account-kept"_s, driver.texts(u"toastText"_s).join(u" / "_s));
+    searchAgain(driver);
+    driver.check(rows.countOf("state", false) == 0, u"the next search finds no factory-new device"_s);
+}
+
+void walkAddresses(Driver &driver)
+{
+    const Rows rows(driver);
+    selectAll(driver);
+    driver.click(u"batchModifyButton"_s);
+    driver.fill(u"newStartField"_s, addressOf(0));
+    driver.require(u"planTable"_s);
+    driver.report(u"addresses-plan"_s, driver.text(u"batchCount"_s));
+    driver.click(u"okButton"_s);
+    const auto place = [&](int number) {
+        return rows.rowOf("ipport", addressOf(number) + u":8800"_s);
+    };
+    driver.await(
+        u"each device has an address of its own"_s,
+        [&] {
+            int found = 0;
+            for (int number = 0; number < devices; ++number)
+                found += place(number) >= 0 ? 1 : 0;
+            return found == devices;
+        },
+        120);
+    awaitEndOfBatch(driver);
+    driver.check(rows.countOf("conflict", true) == 0 && !driver.find(u"footWarning"_s),
+                 u"no two devices have the same address"_s);
+    driver.report(u"addresses"_s, driver.text(u"selectedCount"_s));
+    searchAgain(driver);
+    for (int number = 0; number < devices; ++number)
+        driver.check(place(number) >= 0, u"a search finds %1"_s.arg(addressOf(number)));
+}
+
+/// Nothing asks for a password: each device takes the one that it was given.
+void walkNames(Driver &driver)
+{
+    driver.click(u"tab2"_s);
+    driver.click(u"device_"_s + addressOf(0) + u":8800"_s);
+    driver.require(u"encodeSaveButton"_s);
+    driver.click(u"configTab2"_s);
+    driver.require(u"nameTable"_s);
+    driver.click(u"tick_IPC"_s);
+    driver.click(u"tick_SD"_s);
+    driver.click(u"namePatternButton"_s);
+    driver.require(u"namePreview"_s);
+    driver.fill(u"patternField"_s, u"Lobby {n}"_s);
+    driver.fill(u"patternDigitsField"_s, u"2"_s);
+    driver.report(u"names-preview"_s, driver.text(u"patternField"_s));
+    driver.click(u"okButton"_s);
+    driver.await(u"the batch begins"_s, [&] { return !driver.find(u"namePreview"_s); });
+    awaitEndOfBatch(driver);
+    driver.check(!driver.find(u"devicePasswordField"_s) && !driver.find(u"footWarning"_s),
+                 u"each device has taken its name"_s);
+    const Rows tree(driver, u"deviceTree"_s);
+    QStringList names;
+    for (int row = 0; row < tree.count(); ++row)
+        names.append(tree.value(row, "detail").toString());
+    for (int number = 1; number <= cameras; ++number) {
+        const QString name = u"Lobby %1"_s.arg(number, 2, 10, QLatin1Char('0'));
+        driver.check(
+            std::ranges::count_if(names, [&](const QString &detail) { return detail.startsWith(name); }) == 1,
+            u"one device has the name %1"_s.arg(name));
+    }
+    driver.report(u"names"_s, names.join(u", "_s));
+}
+
+/// Of the cameras: the recorders have no cameras yet.
+void walkImages(Driver &driver, const QString &folder)
+{
+    driver.click(u"tab0"_s);
+    const Rows rows(driver);
+    while (rows.countOf("checked", true) > 0)
+        driver.click(u"checkAllBox"_s);
+    QStringList addresses;
+    for (int row = 0; row < rows.count(); ++row) {
+        if (rows.value(row, "type").toString() == u"NVR")
+            continue;
+        driver.click(u"check%1"_s.arg(row));
+        addresses.append(rows.value(row, "ipport").toString().section(u':', 0, 0));
+        driver.check(rows.value(row, "name").toString().startsWith(u"Lobby "),
+                     u"the table has the new name of %1: %2"_s.arg(addresses.last(),
+                                                                   rows.value(row, "name").toString()));
+    }
+    driver.report(u"named"_s, driver.text(u"selectedCount"_s));
+    driver.click(u"galleryButton"_s);
+    QQuickWindow *window = awaitWindow(driver, u"galleryWindow"_s);
+    Driver gallery(window, folder + u"/gallery"_s);
+    gallery.await(
+        u"all images are fetched"_s, [&] { return gallery.find(u"galleryAgainButton"_s) != nullptr; }, 120);
+    gallery.check(!gallery.find(u"galleryFailures"_s), u"each camera has an image"_s);
+    gallery.report(u"images"_s, gallery.text(u"gallerySummary"_s));
+    gallery.click(u"gallerySaveButton"_s);
+    gallery.await(
+        u"they are saved"_s, [&] { return gallery.find(u"galleryFolder"_s) != nullptr; }, 60);
+    gallery.report(u"images-saved"_s, gallery.text(u"gallerySummary"_s));
+    for (const QString &address : std::as_const(addresses)) {
+        const QString path = u"snap/%1_8800/0.jpg"_s.arg(address);
+        gallery.check(!QImage(path).isNull(), u"%1 is an image"_s.arg(path));
+    }
+    gallery.click(u"liveCloseButton"_s);
+    driver.await(u"the gallery is closed"_s, [&] { return !gallery.window()->isVisible(); });
+    driver.activate();
+}
+
+void walkList(Driver &driver, const QString &folder)
+{
+    selectAll(driver);
+    driver.click(u"exportButton"_s);
+    driver.click(u"format.csv"_s);
+    driver.click(u"okButton"_s);
+    driver.answerFileBox(folder);
+    const QString path = folder + u"/device.csv"_s;
+    driver.await(u"the list is written"_s, [&] {
+        const QByteArray list = fileContents(path);
+        for (int number = 0; number < devices; ++number) {
+            if (!list.contains(addressOf(number).toLatin1()))
+                return false;
+        }
+        return true;
+    });
+    driver.check(!fileContents(path).contains(newPassword.toLatin1()), u"no password is in the list"_s);
+    driver.report(u"list"_s, driver.texts(u"toastText"_s).join(u" / "_s));
+}
+
+} // namespace
+
+void walkInstaller(Driver &driver)
+{
+    const QString &folder = driver.pictureFolder();
+    driver.activate();
+    walkFound(driver);
+    walkFirstPassword(driver);
+    walkAddresses(driver);
+    walkNames(driver);
+    walkImages(driver, folder);
+    walkList(driver, folder);
+}

@@ -1,0 +1,26 @@
+// The windows beside the main one.
+#pragma once
+
+#include "tests/tour/driver.h"
+
+#include <QGuiApplication>
+
+/// The visible window with this object name, null when there is none.
+inline QQuickWindow *visibleWindow(const QString &name)
+{
+    for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
+        if (candidate->objectName() == name && candidate->isVisible())
+            return qobject_cast<QQuickWindow *>(candidate);
+    }
+    return nullptr;
+}
+
+/// The same, waited for; the tour ends when it does not open.
+inline QQuickWindow *awaitWindow(const Driver &driver, const QString &name)
+{
+    driver.await(QStringLiteral("the window \"%1\" opens").arg(name), [&] {
+        const QQuickWindow *window = visibleWindow(name);
+        return window && window->isExposed();
+    });
+    return visibleWindow(name);
+}

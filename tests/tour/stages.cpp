@@ -1,0 +1,98 @@
+#include "tests/tour/stages.h"
+
+#include "tests/tour/driver.h"
+#include "tests/tour/steps.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using sdk::demo::DemoSite;
+
+const QList<Stage> &stagesOfTour()
+{
+    static const QList<Stage> stages = {
+        {.name = u"installer"_s,
+         .scene = u"factory"_s,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkInstaller(driver);
+             }},
+        {.name = u"administrator"_s,
+         .scene = u"fleet:200"_s,
+         .password = u"Installer-2024"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkAdministrator(driver, *site);
+                 walkBatches(driver, *site, driver.pictureFolder());
+             }},
+        {.name = u"newcomer"_s,
+         .scene = emptyScene(),
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkNewcomer(driver);
+             }},
+        {.name = u"nodevices"_s,
+         .drive = [](Driver &driver, DemoSite *) { walkNoDevices(driver); },
+         .leave = walkToDemoSite},
+        {.name = u"impatient"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkImpatient(driver, *site);
+             },
+         .leave = walkEndDuringBatch},
+        {.name = u"keyboard"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkKeyboard(driver, *site);
+             },
+         .leave = walkOutByKeyboard},
+        {.name = u"looks"_s,
+         .scene = u"office"_s,
+         .password = u"Office-2024"_s,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkFirstSearch(driver);
+                 walkLooks(driver);
+             }},
+        {.name = u"columns"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkFirstSearch(driver);
+                 walkColumns(driver);
+             }},
+        {.name = u"restored"_s,
+         .scene = u"office"_s,
+         .goesOn = true,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkRestored(driver);
+             }},
+        {.name = u"restoredagain"_s,
+         .scene = u"office"_s,
+         .goesOn = true,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkRestoredAgain(driver);
+             }},
+        {.name = u"gallery"_s,
+         .scene = u"office"_s,
+         .password = u"Office-2024"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkGallery(driver, *site, driver.pictureFolder() + u"/pictures"_s);
+             }},
+    };
+    return stages;
+}
+
+const Stage *stageOfTour(const QString &name)
+{
+    const auto stage = std::ranges::find(stagesOfTour(), name, &Stage::name);
+    return stage == stagesOfTour().end() ? nullptr : &*stage;
+}
