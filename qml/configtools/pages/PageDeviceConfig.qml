@@ -72,7 +72,7 @@ FocusScope {
     }
 
     function namePattern() {
-        naming.wanted().ask(session.device, session.names.form.count, Array.from(devices.checkedDevices));
+        naming.wanted().ask(session.device, session.names.form.count, devices.tickedNow());
     }
 
     /// The tab shows the name that its device has taken.
