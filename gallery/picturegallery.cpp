@@ -238,7 +238,8 @@ bool PictureGallery::start(const QStringList &identities, int onlyChannel)
                       .devices = batchDevices(*m_deviceFactory, dhFamily, identities),
                       .policy = m_batches->usualPolicy(),
                       .isByAddress = true,
-                      .canBeRetried = false};
+                      .canBeRetried = false,
+                      .marksFailed = false};
     for (BatchDevice &device : plan.devices) {
         if (device.ipport == device.name) // its row has left the list
             device.ipport = m_cells.value(cellsOf(device.name).first).ipport;

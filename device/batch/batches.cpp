@@ -530,6 +530,8 @@ void Batches::finish(Batch *batch, int work)
 
 void Batches::markFailed(const Batch &batch)
 {
+    if (!batch.plan().marksFailed)
+        return;
     QList<FailedMarks::Outcome> outcomes;
     outcomes.reserve(batch.entries().size());
     for (const Batch::Entry &entry : batch.entries())

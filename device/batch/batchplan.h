@@ -82,6 +82,9 @@ struct BatchPlan
     /// that were not done.
     bool notesResults = false;
 
+    /// Whether the devices that it fails with are marked. Work that only looks at devices leaves no marks.
+    bool marksFailed = true;
+
     /// Whether the rows say already that their devices are being upgraded, by this batch.
     bool rowsShowIt = false;
 

@@ -150,6 +150,7 @@ private Q_SLOTS:
         awaitEnd();
         QCOMPARE(cells(), (QStringList{"gate: taken", QStringLiteral("yard: failed 未执行")}));
         QVERIFY(QFile::exists(fileOf(0)));
+        QCOMPARE(m_batches->failedMarks()->count(), 0); // to look at devices is no work with them
     }
 
     void picturesAreSavedAsSnapshots()
