@@ -84,7 +84,15 @@ QStringList BatchReport::giveUpWaiting()
     return devices;
 }
 
-QString BatchReport::summary() const
+int BatchReport::skipped() const
+{
+    int count = 0;
+    for (auto result = m_counts.cbegin(); result != m_counts.cend(); ++result)
+        count += isSkipped(result.key()) ? result.value() : 0;
+    return count;
+}
+
+QStringList BatchReport::finishedParts() const
 {
     QStringList parts;
     if (succeeded() > 0)
@@ -93,7 +101,23 @@ QString BatchReport::summary() const
         parts.append(tr("%n 台设备等待新密码", "", waiting()));
     if (failed() > 0)
         parts.append(tr("%n 台设备失败", "", failed()));
+    if (skipped() > 0)
+        parts.append(tr("%n 台设备已跳过", "", skipped()));
+    return parts;
+}
+
+QString BatchReport::summary() const
+{
+    QStringList parts = finishedParts();
     if (notDone() > 0)
         parts.append(tr("%n 台设备未执行", "", notDone()));
+    return parts.join(tr("，"));
+}
+
+QString BatchReport::summaryOfRunning() const
+{
+    QStringList parts = finishedParts();
+    if (notDone() > 0)
+        parts.append(tr("%n 台设备等待执行", "", notDone()));
     return parts.join(tr("，"));
 }

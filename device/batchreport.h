@@ -7,7 +7,7 @@
 #include <QStringList>
 
 /// The results of a batch of devices. Every device that was asked for is accounted for: it succeeded, failed,
-/// waits for the next step, or was not done.
+/// was skipped, waits for the next step, or was not done.
 class BatchReport : public QObject
 {
     Q_OBJECT
@@ -15,17 +15,26 @@ class BatchReport : public QObject
     Q_PROPERTY(int succeeded READ succeeded NOTIFY changed)
     Q_PROPERTY(int waiting READ waiting NOTIFY changed)
     Q_PROPERTY(int failed READ failed NOTIFY changed)
+    Q_PROPERTY(int skipped READ skipped NOTIFY changed)
     Q_PROPERTY(int notDone READ notDone NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
 public:
-    /// Results beside those of a login. Anything else is a failure.
+    /// Results beside those of a login. Anything else is a failure, unless isSkipped().
     enum Result
     {
         Waiting = resultCode(LoginResult::Unknown), ///< the next step is still to come
         Succeeded = resultCode(LoginResult::Success),
         NotDone = resultCode(LoginResult::NotDone),
+        NotInitialised = resultCode(LoginResult::NotInitialised), ///< skipped
+        Upgrading = resultCode(LoginResult::Upgrading),           ///< skipped
     };
     Q_ENUM(Result)
+
+    /// Whether nothing was asked of the device because of its state, as the preview of the batch announces.
+    [[nodiscard]] static constexpr bool isSkipped(int result)
+    {
+        return result == NotInitialised || result == Upgrading;
+    }
 
     explicit BatchReport(QObject *parent = nullptr);
 
@@ -56,11 +65,15 @@ public:
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int succeeded() const { return m_counts.value(Succeeded); }
     [[nodiscard]] int waiting() const { return m_counts.value(Waiting); }
+    [[nodiscard]] int skipped() const;
     [[nodiscard]] int notDone() const { return m_counts.value(NotDone); }
-    [[nodiscard]] int failed() const { return total() - succeeded() - waiting() - notDone(); }
+    [[nodiscard]] int failed() const { return total() - succeeded() - waiting() - skipped() - notDone(); }
 
     /// How many there are of each kind, in the user's language; empty for an empty batch.
     [[nodiscard]] QString summary() const;
+
+    /// The same while the batch runs: what is not done is still to come.
+    [[nodiscard]] QString summaryOfRunning() const;
 
 Q_SIGNALS:
     void changed();
@@ -72,6 +85,7 @@ private:
         int result = NotDone;
     };
 
+    [[nodiscard]] QStringList finishedParts() const;            ///< of the summaries
     [[nodiscard]] bool take(const QString &device, int result); ///< false: it is not of the batch
     void setResult(qsizetype place, int result);
 

@@ -4,7 +4,15 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
+
+/// Whether a result says that the work was tried with the device, or was to be.
+bool isFinal(int result)
+{
+    return result != BatchReport::Waiting && !BatchReport::isSkipped(result);
+}
 
 /// What a device answered may be long.
 QString shortened(const QString &words)
@@ -20,12 +28,12 @@ void FailedMarks::note(const QString &work, const QString &title, const QList<Ou
 {
     bool isChanged = false;
     for (const Outcome &outcome : outcomes) {
-        if (outcome.result != BatchReport::Waiting)
+        if (isFinal(outcome.result))
             isChanged |= forget(outcome.identity, work);
     }
     // A batch may name a device more than once: it is marked if it failed in one place.
     for (const Outcome &outcome : outcomes) {
-        if (outcome.result == BatchReport::Waiting || outcome.result == BatchReport::Succeeded)
+        if (!isFinal(outcome.result) || outcome.result == BatchReport::Succeeded)
             continue;
         m_failures[outcome.identity].prepend({.work = work,
                                               .result = outcome.result,
@@ -60,6 +68,13 @@ QString FailedMarks::reasonOf(const QString &identity) const
 {
     const QList<Failure> failures = m_failures.value(identity);
     return failures.isEmpty() ? QString() : resultName(failures.constFirst().result);
+}
+
+bool FailedMarks::isOnlyNotDone(const QString &identity) const
+{
+    const QList<Failure> failures = m_failures.value(identity);
+    return std::all_of(failures.cbegin(), failures.cend(),
+                       [](const Failure &failure) { return failure.result == BatchReport::NotDone; });
 }
 
 QString FailedMarks::wordsOf(const QString &identity) const

@@ -28,7 +28,7 @@ public:
     explicit FailedMarks(QObject *parent = nullptr) : QObject(parent) {}
 
     /// Takes what has come of the devices of a batch. `work` tells which batches do the same, `title` names
-    /// it for the user. A device that waits for a next step keeps its marks and gets none.
+    /// it for the user. A device that waits for a next step, or is skipped, keeps its marks and gets none.
     void note(const QString &work, const QString &title, const QList<Outcome> &outcomes);
 
     Q_INVOKABLE void clear();
@@ -41,6 +41,9 @@ public:
 
     /// Name of the result that the device had in the last work that failed; empty when it is not marked.
     [[nodiscard]] QString reasonOf(const QString &identity) const;
+
+    /// Whether no work has failed with the device: those of its marks did not come to it.
+    [[nodiscard]] bool isOnlyNotDone(const QString &identity) const;
 
     /// The works that failed with the device, each in a line with its result, the last one first; empty when
     /// it is not marked.

@@ -21,6 +21,10 @@ public:
     {
         return m_marks && m_marks->contains(identity);
     }
+    [[nodiscard]] bool isOnlyNotDone(const QString &identity) const
+    {
+        return !m_marks || m_marks->isOnlyNotDone(identity);
+    }
 
     /// What a row says of its device: the words of its mark, and that the last search has lost it.
     [[nodiscard]] QString wordsOf(const QString &identity, bool isLost) const

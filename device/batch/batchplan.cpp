@@ -52,6 +52,8 @@ QString outcomeText(const StepOutcome &outcome)
     const QString result = outcome.result == BatchReport::Waiting
                                ? QCoreApplication::translate("BatchResult", "旧密码正确")
                                : resultName(outcome.result);
+    if (BatchReport::isSkipped(outcome.result))
+        return QCoreApplication::translate("BatchResult", "%1，已跳过").arg(result);
     return outcome.text.isEmpty()
                ? result
                : QCoreApplication::translate("BatchResult", "%1：%2").arg(result, outcome.text);

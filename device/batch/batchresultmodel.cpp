@@ -9,7 +9,10 @@ constexpr int reloadPause = 250; // milliseconds
 
 BatchResultModel::State stateOf(const Batch &batch, qsizetype place)
 {
-    switch (batch.entries().at(place).outcome.result) {
+    const int result = batch.entries().at(place).outcome.result;
+    if (BatchReport::isSkipped(result))
+        return BatchResultModel::Skipped;
+    switch (result) {
     case BatchReport::Succeeded:
         return BatchResultModel::Succeeded;
     case BatchReport::Waiting:

@@ -19,6 +19,7 @@ public:
     {
         Failed,
         NotDone,
+        Skipped, ///< because of its state
         Waiting, ///< for the next step
         Succeeded,
         ToCome, ///< the running batch has not come to it yet
@@ -30,7 +31,7 @@ public:
     [[nodiscard]] Batch *batch() const { return m_batch; }
     void setBatch(Batch *batch);
 
-    /// Whether the devices that succeeded or wait are left out.
+    /// Whether the devices that succeeded, wait or were skipped are left out.
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     void setOnlyFailed(bool only);
 

@@ -114,15 +114,17 @@ private Q_SLOTS:
     void aNameThatABatchListsTwiceStandsForTwoDevices()
     {
         BatchReport report;
-        report.begin({"1", "2", "1", "3"});
+        report.begin({"1", "2", "1", "3", "5"});
         report.note("1", 0);
         report.note("4", 0);
         report.note("2", BatchReport::Waiting);
-        QCOMPARE(report.devicesNotSucceeded(), QStringList({"2", "1", "3"}));
+        QCOMPARE(report.devicesNotSucceeded(), QStringList({"2", "1", "3", "5"}));
         report.note("1", 5);
         report.note("2", 999);
+        report.note("5", BatchReport::NotInitialised);
         QCOMPARE(report.devicesWith(BatchReport::NotDone), QStringList("3"));
-        QCOMPARE(report.summary(), QStringLiteral("1 台设备成功，2 台设备失败，1 台设备未执行"));
+        QCOMPARE(report.summary(), QStringLiteral("1 台设备成功，2 台设备失败，1 台设备已跳过，1 台设备未执行"));
+        QVERIFY(report.summaryOfRunning().endsWith(QStringLiteral("1 台设备等待执行")));
     }
 
     void aSearchLeavesRowsThatAreNeeded()

@@ -6,8 +6,8 @@ OVTableCell {
     id: root
 
     property int outcome: BatchResultModel.ToCome
-    readonly property var signNames: ["error", "alert", "ok", "ok"]
-    readonly property var inks: [Theme.colours.bad, Theme.colours.warn, Theme.colours.sub, Theme.colours.ok]
+    readonly property var signNames: ["error", "alert", "mixed", "ok", "ok"]
+    readonly property var inks: [Theme.colours.bad, Theme.colours.warn, Theme.colours.sub, Theme.colours.sub, Theme.colours.ok]
 
     OVIcon {
         id: sign
