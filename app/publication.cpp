@@ -52,6 +52,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
         *CDeviceFactory::getinstance(), batchEngine,
         [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine);
     batches->keepFailedIn(store);
+    QObject::connect(accountList, &AccountList::changed, batches, &Batches::noteAccounts);
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
     context->setContextProperty(QStringLiteral("AddingBatchesApi"),
                                 new AddingBatches(*CDeviceFactory::getinstance(), *batches, batches));

@@ -1,5 +1,8 @@
 #include "device/batch/batch.h"
 
+#include <QCryptographicHash>
+#include <QSet>
+
 #include <algorithm>
 #include <mutex>
 #include <utility>
@@ -11,6 +14,30 @@ constexpr int frame = 16; // milliseconds
 /// The engine would hold the refusal of a device back until its upgrade has ended: the upgrade is a step of
 /// it.
 const QString upgradingMark = QStringLiteral(" upgrade");
+
+bool isRefusedLogin(int result)
+{
+    return result == resultCode(LoginResult::WrongPassword) ||
+           result == resultCode(LoginResult::NoSuchAccount) ||
+           result == resultCode(LoginResult::AccountLocked);
+}
+
+/// The same for the same account and password.
+QByteArray loginMark(const DeviceAccount &account)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(account.account.toUtf8());
+    hash.addData(QByteArrayView("\0", 1));
+    hash.addData(account.password.toUtf8());
+    return hash.result();
+}
+
+/// Whether the work was to be done with a device, and was not.
+bool isFailure(int result)
+{
+    return result != BatchReport::Succeeded && result != BatchReport::Waiting &&
+           !BatchReport::isSkipped(result);
+}
 
 StepOutcome refuseForUpgrade(const StepControl & /*control*/)
 {
@@ -187,6 +214,12 @@ void Batch::stop()
     m_engine.stop(m_number);
 }
 
+void Batch::forgetSteps()
+{
+    m_plan.stepOf = nullptr;
+    Q_EMIT changed();
+}
+
 void Batch::resume()
 {
     if (!std::exchange(m_isHeld, false))
@@ -209,12 +242,66 @@ void Batch::giveUpWaiting(const QString &title)
     Q_EMIT changed();
 }
 
+QString Batch::summary() const
+{
+    return m_isRunning ? m_report.summaryOfRunning() : m_report.summary();
+}
+
+QList<const Batch::Entry *> Batch::allEntries() const
+{
+    QList<const Entry *> entries;
+    entries.reserve(m_entries.size());
+    QSet<QString> names;
+    for (const Batch *batch = this; batch; batch = batch->m_retryOf) {
+        for (const Entry &entry : batch->m_entries) {
+            if (!names.contains(entry.device.name))
+                entries.append(&entry);
+        }
+        for (const Entry &entry : batch->m_entries)
+            names.insert(entry.device.name);
+    }
+    return entries;
+}
+
+void Batch::setRetryOf(Batch *earlier)
+{
+    m_retryOf = earlier;
+    Q_EMIT changed();
+}
+
+void Batch::noteAccounts()
+{
+    if (m_plan.accountOf)
+        Q_EMIT changed();
+}
+
+int Batch::failedBefore() const
+{
+    if (!m_retryOf)
+        return 0;
+    const QList<const Entry *> entries = allEntries();
+    return static_cast<int>(
+        std::count_if(entries.cbegin() + m_entries.size(), entries.cend(),
+                      [](const Entry *entry) { return isFailure(entry->outcome.result); }));
+}
+
+QString Batch::refusedAccounts() const
+{
+    QStringList accounts;
+    for (const Entry &entry : m_entries) {
+        if (!entry.refusedAccount.isEmpty() && !accounts.contains(entry.refusedAccount))
+            accounts.append(entry.refusedAccount);
+    }
+    return accounts.join(tr("、"));
+}
+
 QStringList Batch::failedIdentities() const
 {
     QStringList identities;
-    for (const Entry &entry : m_entries) {
-        if (entry.outcome.result != BatchReport::Succeeded && entry.outcome.result != BatchReport::Waiting)
-            identities.append(entry.device.identity);
+    const QList<const Entry *> entries = allEntries();
+    for (const Entry *entry : entries) {
+        if (isFailure(entry->outcome.result))
+            identities.append(entry->device.identity);
     }
     return identities;
 }
@@ -226,18 +313,65 @@ QStringList Batch::failedDevices() const
 
 bool Batch::isRetryable(const Entry &entry) const
 {
-    return entry.outcome.result != BatchReport::Succeeded && maySucceedLater(entry.outcome) &&
-           m_plan.stepOf && m_plan.canBeRetried;
+    return entry.outcome.result != BatchReport::Succeeded && m_plan.stepOf && m_plan.canBeRetried &&
+           (maySucceedLater(entry.outcome) || hasOtherAccount(entry));
+}
+
+bool Batch::hasOtherAccount(const Entry &entry) const
+{
+    if (!m_plan.accountOf || !isRefusedLogin(entry.outcome.result))
+        return false;
+    return loginMark(m_plan.accountOf(entry.device)) != entry.refusedLogin;
+}
+
+bool Batch::hasRetryable() const
+{
+    const QList<const Entry *> entries = allEntries();
+    return m_plan.stepOf && m_plan.canBeRetried &&
+           std::any_of(entries.cbegin(), entries.cend(), [this](const Entry *entry) {
+               return isRetryable(*entry) || (m_plan.accountOf && isRefusedLogin(entry->outcome.result));
+           });
+}
+
+QList<BatchDevice> Batch::devicesToRetry() const
+{
+    QList<BatchDevice> devices;
+    const QList<const Entry *> entries = allEntries();
+    for (const Entry *entry : entries) {
+        if (isRetryable(*entry))
+            devices.append(entry->device);
+    }
+    return devices;
 }
 
 QStringList Batch::retryableDevices() const
 {
     QStringList names;
-    for (const Entry &entry : m_entries) {
-        if (isRetryable(entry))
-            names.append(entry.device.name);
-    }
+    const QList<BatchDevice> devices = devicesToRetry();
+    for (const BatchDevice &device : devices)
+        names.append(device.name);
     return names;
+}
+
+QString Batch::retryRefusal() const
+{
+    if (m_isRunning)
+        return tr("批处理正在进行");
+    if (m_report.waiting() > 0)
+        return tr("设备正在等待新密码");
+    if (!retryableDevices().isEmpty())
+        return {};
+    if (m_report.failed() + m_report.notDone() + failedBefore() == 0)
+        return tr("没有失败或未执行的设备");
+    if (!m_plan.canBeRetried)
+        return tr("此操作不能在这里重试");
+    const QList<const Entry *> entries = allEntries();
+    const bool mayHelp = std::any_of(entries.cbegin(), entries.cend(), [this](const Entry *entry) {
+        return entry->outcome.result != BatchReport::Succeeded &&
+               (maySucceedLater(entry->outcome) || hasOtherAccount(*entry));
+    });
+    return mayHelp ? tr("只有最近一次批处理可以重试")
+                   : tr("这些设备的失败不会因重试而消失，请先更正原因（如密码）");
 }
 
 bool Batch::canRetry(const QString &identity) const
@@ -310,6 +444,8 @@ void Batch::takeNews()
         entry.outcome = finished.outcome;
         entry.outcome.answer.clear();
         entry.time = finished.time;
+        if (m_plan.accountOf && isRefusedLogin(entry.outcome.result))
+            noteRefusal(entry);
         m_running.removeOne(finished.place);
         ++m_done;
         devices.append(entry.device.name);
@@ -326,6 +462,13 @@ void Batch::takeNews()
         finish();
     else
         Q_EMIT changed();
+}
+
+void Batch::noteRefusal(Entry &entry) const
+{
+    const DeviceAccount account = m_plan.accountOf(entry.device);
+    entry.refusedAccount = account.account;
+    entry.refusedLogin = loginMark(account);
 }
 
 void Batch::deliver(const QList<BatchOutcome> &outcomes) const

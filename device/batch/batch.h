@@ -20,6 +20,7 @@ class Batch : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString summary READ summary NOTIFY changed)
     Q_PROPERTY(int total READ total CONSTANT)
     Q_PROPERTY(int done READ done NOTIFY changed)
     Q_PROPERTY(double progress READ progress NOTIFY changed)
@@ -27,9 +28,13 @@ class Batch : public QObject
     Q_PROPERTY(bool running READ isRunning NOTIFY changed)
     Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
     Q_PROPERTY(bool held READ isHeld NOTIFY changed)
+    Q_PROPERTY(int refusalsInARow READ refusalsInARow CONSTANT)
+    Q_PROPERTY(QString refusedAccounts READ refusedAccounts NOTIFY changed)
+    Q_PROPERTY(int failedBefore READ failedBefore NOTIFY changed)
     Q_PROPERTY(int secondsLeft READ secondsLeft NOTIFY changed)
     Q_PROPERTY(BatchReport *report READ report CONSTANT)
     Q_PROPERTY(bool changesAddresses READ changesAddresses CONSTANT)
+    Q_PROPERTY(QString retryRefusal READ retryRefusal NOTIFY changed)
     Q_PROPERTY(QDateTime began READ began CONSTANT)
     Q_PROPERTY(QDateTime ended READ ended NOTIFY changed)
 public:
@@ -39,6 +44,8 @@ public:
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
         QDateTime time; ///< of the outcome; invalid when nothing was done
+        QString refusedAccount = {};   ///< the device has not accepted, when the plan knows accounts
+        QByteArray refusedLogin = {};  ///< tells whether that account is still the same; no password
     };
 
     /// `engine` lives longer than this.
@@ -50,6 +57,8 @@ public:
 
     /// Name of the work, or of the step that its devices wait for and are not given.
     [[nodiscard]] const QString &title() const { return m_title; }
+    /// How many devices there are of each kind, in the user's language.
+    [[nodiscard]] QString summary() const;
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int done() const { return m_done; }
     /// From 0 to 1. Devices count when they are done, unless noteProgress() knows more.
@@ -65,6 +74,16 @@ public:
     /// Too many devices in a row have refused the password: the user decides whether it goes on.
     [[nodiscard]] bool isHeld() const { return m_isRunning && m_isHeld && !m_isStopping; }
 
+    /// How many refused passwords in a row hold the batch.
+    [[nodiscard]] int refusalsInARow() const { return m_plan.policy.wrongPasswordsInARow; }
+
+    /// Names of the accounts that devices have not accepted, in a line; empty when the plan knows none.
+    [[nodiscard]] QString refusedAccounts() const;
+
+    /// Devices that this batch, which retries another one, has left out, and that failed or were not done
+    /// there.
+    [[nodiscard]] int failedBefore() const;
+
     /// Estimated, -1 while there is nothing to estimate from.
     [[nodiscard]] int secondsLeft() const;
     [[nodiscard]] BatchReport *report() { return &m_report; }
@@ -75,8 +94,11 @@ public:
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
 
+    /// Whether the batch may be retried, now or after accounts have changed.
+    [[nodiscard]] bool hasRetryable() const;
+
     /// What its steps were made from, such as a password, is kept only as long as it may be retried.
-    void forgetSteps() { m_plan.stepOf = nullptr; }
+    void forgetSteps();
 
     /// Leaves out what was not begun. Running steps end at their next safe point.
     Q_INVOKABLE void stop();
@@ -88,14 +110,26 @@ public:
     Q_INVOKABLE void giveUpWaiting(const QString &title);
 
     /// The batch whose devices this one tries again.
-    void setRetryOf(Batch *earlier) { m_retryOf = earlier; }
+    void setRetryOf(Batch *earlier);
 
-    /// Identities of the devices that failed or were not done, by which pages tick their rows.
+    /// The accounts of devices have changed: with another one, a device may be tried again.
+    void noteAccounts();
+
+    /// The devices that a retry is for: those of this batch and those that it has left out.
+    [[nodiscard]] QList<BatchDevice> devicesToRetry() const;
+
+    /// Identities of the devices that failed or were not done, by which pages tick their rows. As the next
+    /// ones, also those that this batch has left out.
     Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
 
-    /// Names of the devices that failed or were not done, and of those of them that may succeed in a retry.
-    Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
+    /// Names of the devices that may succeed in a retry.
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
+
+    /// Names of the devices of this batch that failed or were not done.
+    Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
+
+    /// Why no device of the batch can be tried again, in the user's language; empty when one can.
+    [[nodiscard]] QString retryRefusal() const;
 
     /// Whether the batch has ended and the device with this identity may succeed in a retry.
     Q_INVOKABLE [[nodiscard]] bool canRetry(const QString &identity) const;
@@ -132,9 +166,13 @@ private:
     [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
                                           const std::shared_ptr<std::once_flag> &flag) const;
     [[nodiscard]] bool isRetryable(const Entry &entry) const;
+    [[nodiscard]] bool hasOtherAccount(const Entry &entry) const; ///< than it has refused
+    /// Its entries, and behind them those of the batches that it retries of devices that it has left out.
+    [[nodiscard]] QList<const Entry *> allEntries() const;
     /// Here or else in the batch that this one retries; null when there is none.
     [[nodiscard]] const Entry *find(const QString &device) const;
     void takeNews();
+    void noteRefusal(Entry &entry) const;
     void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
     void finish();
 

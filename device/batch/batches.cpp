@@ -80,6 +80,21 @@ void Batches::keepFailedIn(const std::shared_ptr<DeviceStore> &store)
             [this, store] { store->setKept(m_failedMarks.identities()); });
 }
 
+void Batches::noteAccounts() const
+{
+    if (current())
+        current()->noteAccounts();
+}
+
+std::function<DeviceAccount(const BatchDevice &device)> Batches::rowAccounts(const QString &family) const
+{
+    return [this, family](const BatchDevice &device) {
+        const QVariantMap account = m_factory.accountOf(family, device.identity);
+        return DeviceAccount{.account = account.value(QStringLiteral("account")).toString(),
+                             .password = account.value(QStringLiteral("password")).toString()};
+    };
+}
+
 BatchPolicy Batches::usualPolicy() const
 {
     return {.atOnce = m_atOnce(), .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
@@ -100,6 +115,9 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
                       [this, family, command, values](const BatchDevice &device) {
                           return m_factory.systemStep(family, command, values, device.ipport);
                       },
+                  // The old password is typed.
+                  .accountOf = workOf(command) == QLatin1String("modifyPassword") ? nullptr
+                                                                                  : rowAccounts(family),
                   .isByAddress = true,
                   .changesRows = command == QLatin1String("resetSystem")});
 }
@@ -128,6 +146,7 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                               return outcome;
                           };
                       },
+                  .accountOf = rowAccounts(family),
                   .takeOutcomes =
                       [this, family, nameAt](const QList<BatchOutcome> &outcomes) {
                           for (const auto &[device, outcome] : outcomes) {
@@ -280,6 +299,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     plan.policy = {.atOnce = 1, .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
     // Of two rows with one address, the same device may refuse the account.
     plan.isByAddress = true;
+    plan.accountOf = rowAccounts(plan.family);
     const auto occupied = std::make_shared<OccupiedAddresses>(plan);
     plan.stepOf = [this, family = plan.family, targets, occupied](const BatchDevice &device) -> DeviceStep {
         const AddressSettings target = targets.value(device.identity);
@@ -327,6 +347,7 @@ Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, 
                   .policy = usualPolicy(),
                   .stepOf = [copyTo = m_factory.encodeCopy(family)](
                                 const BatchDevice &device) { return copyTo(device.ipport); },
+                  .accountOf = rowAccounts(family),
                   .isByAddress = true});
 }
 
@@ -369,12 +390,10 @@ Batch *Batches::retryWhere(Batch *batch, const QString &identity)
 {
     if (!batch || batch->isRunning() || (batch->changesAddresses() && !mayChangeAddresses()))
         return nullptr;
-    const QStringList retryable = batch->retryableDevices();
-    const QSet<QString> names(retryable.cbegin(), retryable.cend());
     BatchPlan plan = batch->plan();
-    plan.devices.removeIf([&](const BatchDevice &device) {
-        return !names.contains(device.name) || (!identity.isEmpty() && device.identity != identity);
-    });
+    plan.devices = batch->devicesToRetry();
+    plan.devices.removeIf(
+        [&](const BatchDevice &device) { return !identity.isEmpty() && device.identity != identity; });
     if (plan.isByAddress && !batch->changesAddresses())
         leaveOutMoved(plan);
     Batch *again = plan.devices.isEmpty() ? nullptr : start(std::move(plan));
@@ -487,7 +506,9 @@ Batch *Batches::start(BatchPlan plan)
         batch->title(), batch->plan().holdsRows ? BusyState::Rows : BusyState::Program);
     connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });
     connect(batch, &Batch::resulted, this, [this, batch] {
-        if (!batch->isRunning()) // devices that waited for the next step do not get it
+        // Devices that waited for the next step do not get it. While the user is asked, the pages show what
+        // has failed.
+        if (!batch->isRunning() || batch->isHeld())
             markFailed(*batch);
     });
     if (!batch->start()) {
@@ -523,7 +544,7 @@ void Batches::finish(Batch *batch, int work)
         m_factory.refreshDevices(plan.family, reached);
     m_factory.busyState()->end(work);
     markFailed(*batch);
-    if (batch->retryableDevices().isEmpty())
+    if (!batch->hasRetryable())
         batch->forgetSteps(); // they may hold a password
     Q_EMIT runningChanged();
 }
@@ -534,10 +555,13 @@ void Batches::markFailed(const Batch &batch)
         return;
     QList<FailedMarks::Outcome> outcomes;
     outcomes.reserve(batch.entries().size());
-    for (const Batch::Entry &entry : batch.entries())
+    for (const Batch::Entry &entry : batch.entries()) {
+        if (!entry.time.isValid() && batch.isRunning()) // still to come
+            continue;
         outcomes.append({.identity = entry.device.identity,
                          .result = entry.outcome.result,
                          .words = outcomeText(entry.outcome)});
+    }
     m_failedMarks.note(batch.plan().work.isEmpty() ? batch.title() : batch.plan().work, batch.title(),
                        outcomes);
 }

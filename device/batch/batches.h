@@ -103,6 +103,13 @@ public:
     /// The same for all batches that are kept, in one file.
     Q_INVOKABLE void saveAllResults(const QString &path);
 
+    /// The accounts of devices have changed.
+    void noteAccounts() const;
+
+    /// For a plan whose steps log in with the accounts of the rows.
+    [[nodiscard]] std::function<DeviceAccount(const BatchDevice &device)>
+    rowAccounts(const QString &family) const;
+
     /// How many devices are worked on at the same time, and how long a step may take, unless the work says
     /// otherwise.
     [[nodiscard]] BatchPolicy usualPolicy() const;

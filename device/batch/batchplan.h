@@ -1,6 +1,7 @@
 // What a batch is to do.
 #pragma once
 
+#include "device/accountchoice.h"
 #include "device/batch/batchengine.h"
 
 #include <QJsonObject>
@@ -53,6 +54,10 @@ struct BatchPlan
 
     /// Makes the step of a device. Called on the scene's thread, at the start and at each retry.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
+
+    /// The account that a step logs in to a device with at present: after a refused login, another try helps
+    /// once it has changed. Called on the scene's thread; empty when the plan itself has the accounts.
+    std::function<DeviceAccount(const BatchDevice &device)> accountOf = {};
 
     /// Runs once in each batch, also in a retry, on the thread of its first step and before that; may be
     /// empty.

@@ -15,6 +15,12 @@ namespace {
 constexpr int newsInterval = 250;  // milliseconds
 constexpr qsizetype fewRows = 500; // more are read with the whole list
 
+/// Its preview announces it: what a device without a password would answer does not matter.
+StepOutcome skipUninitialised(const StepControl & /*control*/)
+{
+    return {.result = BatchReport::NotInitialised, .text = {}};
+}
+
 /// The steps of a document's lines, as long as they are to be run. Another try has none: it is made of the
 /// row, or of what the back end remembers of the line.
 class DocumentSteps
@@ -85,7 +91,11 @@ Batch *UpgradeBatches::start(const QString &title, const QStringList &identities
     BatchPlan plan = usualPlan(title);
     plan.devices = batchDevices(m_factory, dhFamily, identities);
     plan.isByAddress = true;
-    plan.stepOf = [this](const BatchDevice &device) {
+    plan.accountOf = m_batches.rowAccounts(dhFamily);
+    plan.stepOf = [this](const BatchDevice &device) -> DeviceStep {
+        const QJsonObject row = m_factory.deviceRow(dhFamily, device.identity);
+        if (!row.value(DeviceRowKey::state).toBool(true))
+            return &skipUninitialised;
         return m_factory.upgradeStep(dhFamily, device.identity);
     };
     return begin(std::move(plan), Source::List);
@@ -145,8 +155,9 @@ void UpgradeBatches::noteRefusals(const QList<BatchOutcome> &outcomes)
         const bool wasAsked =
             row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None) != UpgradeTools::Stopped;
         for (const UpgradeTools::Result refusal :
-             {UpgradeTools::WrongPassword, UpgradeTools::NoSuchAccount, UpgradeTools::AccountLocked}) {
-            if (wasAsked || UpgradeTools::batchResult(refusal) != outcome.result)
+             {UpgradeTools::NotInitialised, UpgradeTools::WrongPassword, UpgradeTools::NoSuchAccount,
+              UpgradeTools::AccountLocked}) {
+            if ((wasAsked && refusal != UpgradeTools::NotInitialised) || UpgradeTools::batchResult(refusal) != outcome.result)
                 continue;
             m_factory.updataDeviceInfo(dhFamily, DeviceRowKey::upgraderes, refusal, device.identity,
                                        device.ipport);

@@ -25,9 +25,19 @@ Item {
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool held: showsBatch && batch.held
     readonly property bool ended: batch !== null && !batch.running
-    readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone > 0
+    readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
-        ? batch.title + qsTr("：") + batch.report.summary : ""
+        ? batch.title + qsTr("：") + batch.report.summary + before : ""
+    //: Behind how many devices of a batch failed, which retries another one.
+    readonly property string before: ended && batch.failedBefore > 0 ? qsTr("，另有 %n 台此前未成功", "", batch.failedBefore) : ""
+    readonly property string question: {
+        if (!held)
+            return "";
+        const accounts = batch.refusedAccounts;
+        const refusals = accounts === "" ? qsTr("连续 %n 台设备密码错误", "", batch.refusalsInARow)
+            : qsTr("连续 %n 台设备密码错误（账号 %1）", "", batch.refusalsInARow).arg(accounts);
+        return qsTr("%1：%2，继续可能锁定账户。是否继续？").arg(batch.title).arg(refusals);
+    }
 
     //: A batch that runs: its title, and how many devices of how many are done.
     readonly property string runningBatch: showsBatch ? qsTr("%1 %2 / %3").arg(batch.title).arg(batch.done).arg(batch.total) : ""
@@ -104,7 +114,7 @@ Item {
                 height: parent.height
                 color: root.held ? Theme.colours.warnInk : Theme.colours.sub
                 objectName: "runningText"
-                text: root.held ? qsTr("%1：连续多台设备密码错误，继续可能锁定账户。是否继续？").arg(root.batch.title)
+                text: root.held ? root.question
                     : root.showsBatch ? root.runningBatch
                     : root.showsSearch ? qsTr("正在搜索设备…") : root.runningText
             }
@@ -153,7 +163,8 @@ Item {
             enabled: !stopping
             objectName: "stopButton"
             text: enabled ? qsTr("停止") : qsTr("正在停止…")
-            toolTip: root.compact ? "" : qsTr("停止（Esc）")
+            toolTip: root.compact ? "" : root.held ? qsTr("停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）")
+                : qsTr("停止（Esc）")
             visible: root.showsBatch || root.showsSearch
             onClicked: {
                 if (root.showsBatch)
@@ -165,16 +176,17 @@ Item {
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "retryFailedButton"
-            text: qsTr("重试失败")
-            toolTip: qsTr("对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外")
+            //: %1 is the title of the batch. Beside it, a page may have a retry of its own.
+            text: root.compact ? qsTr("重试失败") : qsTr("重试失败：%1").arg(root.batch?.title ?? "")
+            toolTip: qsTr("对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外").arg(root.batch?.title ?? "")
             visible: root.incomplete && !root.running && root.batch.report.waiting === 0
-                && root.batch.retryableDevices().length > 0
+                && root.batch.retryRefusal === ""
             onClicked: root.batches.retry(root.batch)
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "selectFailedButton"
-            text: qsTr("选中失败")
+            text: qsTr("选中未成功")
             toolTip: qsTr("在本页只勾选失败和未执行的设备")
             visible: root.incomplete && !root.running && !root.compact
             onClicked: root.tickRequested(root.batch.failedIdentities())

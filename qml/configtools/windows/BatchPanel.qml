@@ -62,10 +62,14 @@ OVDialog {
         anchors.verticalCenter: parent.verticalCenter
 
         OVButton {
-            enabled: root.idle && root.batch.report.waiting === 0 && root.batch.retryableDevices().length > 0
+            readonly property string refusal: root.batch === null ? qsTr("还没有批处理")
+                : root.batches.running && !root.batch.running ? qsTr("请等待当前批处理结束")
+                : root.batch.retryRefusal
+
+            enabled: refusal === ""
             objectName: "panelRetryButton"
             text: qsTr("重试失败")
-            toolTip: enabled ? qsTr("对失败和未执行的设备再试一次") : qsTr("只有最近一次批处理可以重试")
+            toolTip: enabled ? qsTr("对失败和未执行的设备再试一次") : refusal
             onClicked: root.showNewest(root.batches.retry(root.batch))
         }
         OVButton {
@@ -113,7 +117,7 @@ OVDialog {
         height: onlyFailedBox.height
         color: Theme.colours.sub
         objectName: "batchSummary"
-        text: root.batch?.report.summary ?? ""
+        text: root.batch?.summary ?? ""
     }
     OVCheckBox {
         id: onlyFailedBox

@@ -150,8 +150,14 @@ private Q_SLOTS:
         QVERIFY(again);
         QTRY_VERIFY(!again->isRunning());
         QCOMPARE(again->report()->succeeded(), 1);
+        // What the retry has left out is not forgotten, and is done with another account.
+        QCOMPARE(again->failedBefore(), 1);
+        QCOMPARE(again->failedIdentities(), QStringList(identityOf(2)));
         QCOMPARE(m_batches->retry(again), nullptr);
         QCOMPARE(m_batches->kept().size(), 2);
+        m_site->site->clearFault(m_devices.at(2).mac, sdk::demo::Fault::WrongPassword);
+        m_site->factory->setDefaultAccount("dh", "admin", "Better-2025");
+        QCOMPARE(again->retryableDevices(), QStringList(ipportOf(m_devices.at(2))));
     }
 
     /// Each camera gets its own name; what is too long for a device is not sent.

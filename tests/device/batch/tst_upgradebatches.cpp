@@ -90,6 +90,21 @@ private Q_SLOTS:
         }
     }
 
+    /// As its preview announces: it has not failed.
+    void aDeviceWithoutAPasswordIsSkipped()
+    {
+        BatchSite test(2);
+        const QSignalSpy ended(&test.upgrades, &UpgradeBatches::ended);
+        test.factory->updataDeviceInfo(test.family, "state", false, test.mac(1), "192.168.1.12:37777");
+        QVERIFY(test.begin({0, 1}));
+        QVERIFY(test.passUntilDone());
+        QCOMPARE(test.panel(), QStringList({QStringLiteral("192.168.1.12:37777|设备未初始化，已跳过"),
+                                            QStringLiteral("192.168.1.11:37777|成功：2.840.1 → 2.900.0")}));
+        QCOMPARE(test.result(1), UpgradeTools::NotInitialised);
+        QCOMPARE(ended.last(), QVariantList({1, 0, 0}));
+        QCOMPARE(test.batches.failedMarks()->count(), 0);
+    }
+
     void everyDeviceHasItsResult()
     {
         BatchSite test(6);

@@ -168,7 +168,8 @@ private Q_SLOTS:
         m_gate.release(3);
         start({wrongPassword, wrongPassword, 0});
         QTRY_VERIFY(find("continueButton"));
-        QVERIFY(text("runningText").contains(QStringLiteral("密码错误")));
+        QVERIFY(text("runningText").contains(QStringLiteral("连续 2 台设备密码错误")));
+        QCOMPARE(m_batches->failedMarks()->count(), 2);
         QCOMPARE(shown(), (QStringList{"continueButton", "stopButton", "batchPanelButton"}));
         press(button);
         QTRY_COMPARE(text("footWarning"), outcome);
