@@ -404,6 +404,7 @@ QVariantMap DeviceTableModel::get(int row) const
     values.insert(QStringLiteral("identity"), m_rows.at(row).identity);
     const bool isLost = m_rows.at(row).values.value(DeviceRowKey::lost).toBool();
     values.insert(QStringLiteral("failure"), m_failedMarks.wordsOf(m_rows.at(row).identity, isLost));
+    values.insert(QStringLiteral("onlyNotDone"), m_failedMarks.isOnlyNotDone(m_rows.at(row).identity));
     return values;
 }
 

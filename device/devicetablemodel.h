@@ -15,7 +15,8 @@ class CDeviceFactory;
 
 /// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
 /// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
-/// rowName()). get() also gives "failure": what batches failed with the device, see FollowedMarks::wordsOf().
+/// rowName()). get() also gives "failure": what batches failed with the device, see FollowedMarks::wordsOf(),
+/// and "onlyNotDone", see FailedMarks.
 /// "note" is the note of the user about the device; the text search finds it as well.
 ///
 /// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and

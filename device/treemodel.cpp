@@ -95,6 +95,8 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
         return device.identity;
     case FailureRole:
         return m_failedMarks.wordsOf(device.identity, device.isLost);
+    case OnlyNotDoneRole:
+        return m_failedMarks.isOnlyNotDone(device.identity);
     case Qt::ToolTipRole:
         return device.detail;
     default:
@@ -265,12 +267,12 @@ void OVTreeModel::setShown(Shown shown)
 
 void OVTreeModel::takeMarks()
 {
-    if (m_shown == Failed && m_failedMarks.isEmpty())
+    countFailed();
+    if (m_shown == Failed && (m_failedMarks.isEmpty() || (m_failedCount == 0 && m_searchText.isEmpty())))
         return setShown(All);
     if (m_shown == Failed)
         return resetItems(m_filterType, m_searchText);
-    if (m_deviceFactory)
-        countFailed(m_deviceFactory->filterData(QStringLiteral("dh"), m_filterType, m_searchText));
+    Q_EMIT checkedDevicesChanged();
     for (int group = 0; group < m_groups.size(); ++group) {
         const QModelIndex parent = index(group, 0);
         Q_EMIT dataChanged(index(0, 0, parent), index(rowCount(parent) - 1, 0, parent), {FailureRole});
@@ -281,18 +283,6 @@ QVariantList OVTreeModel::readRows() const
 {
     return DeviceOrder(DeviceRowKey::ipport)
         .ordered(m_deviceFactory->filterData(dhFamily, m_filterType, m_searchText));
-}
-
-void OVTreeModel::countFailed(const QVariantList &rows)
-{
-    const auto isFailed = [this](const QVariant &row) {
-        const QJsonObject values = row.toJsonObject();
-        return !rowAddress(values).isEmpty() && m_failedMarks.contains(rowName(values));
-    };
-    const auto count =
-        static_cast<int>(m_failedMarks.isEmpty() ? 0 : std::count_if(rows.cbegin(), rows.cend(), isFailed));
-    if (std::exchange(m_failedCount, count) != count)
-        Q_EMIT failedCountChanged();
 }
 
 void OVTreeModel::noteUsualPort(const QVariantList &rows)
@@ -321,6 +311,20 @@ QString OVTreeModel::groupNameOf(const QJsonObject &row, const QString &identity
     return type.isEmpty() ? otherDeviceType() : type;
 }
 
+void OVTreeModel::countFailed()
+{
+    m_failedCount =
+        static_cast<int>(std::count_if(m_found.cbegin(), m_found.cend(), [this](const QString &identity) {
+            return m_failedMarks.contains(identity);
+        }));
+}
+
+int OVTreeModel::failedElsewhereCount() const
+{
+    return m_searchText.isEmpty() && !m_failedMarks.isEmpty() ? m_failedMarks.get()->count() - m_failedCount
+                                                              : 0;
+}
+
 void OVTreeModel::rememberDevices()
 {
     for (const Group &group : std::as_const(m_groups)) {
@@ -342,17 +346,21 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     const QVariantList rows = readRows();
     rememberDevices();
     noteUsualPort(rows);
-    countFailed(rows);
     m_loggedOutCount = 0;
+    m_unaddressedCount = 0;
+    m_found.clear();
 
     QHash<QString, qsizetype> places;
     QList<Group> groups;
     for (const QVariant &row : rows) {
         const QJsonObject values = row.toJsonObject();
-        if (rowAddress(values).isEmpty()) // waits for an address by DHCP: no login reaches it
+        if (rowAddress(values).isEmpty()) { // waits for an address by DHCP: no login reaches it
+            ++m_unaddressedCount;
             continue;
+        }
         m_loggedOutCount += values.value(DeviceRowKey::loggedIn).toBool() ? 0 : 1;
         const QString identity = rowName(values);
+        m_found.append(identity);
         const QString name = groupNameOf(values, identity);
         if (name.isEmpty())
             continue;
@@ -370,6 +378,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
         return DeviceOrder::isGroupBefore(left.type, right.type);
     });
 
+    countFailed();
     beginResetModel();
     m_groups = std::move(groups);
     notePlaces();

@@ -30,8 +30,10 @@ class OVTreeModel : public QAbstractItemModel
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(Shown shown READ shown WRITE setShown NOTIFY shownChanged)
-    Q_PROPERTY(int failedCount READ failedCount NOTIFY failedCountChanged)
     Q_PROPERTY(int loggedOutCount READ loggedOutCount NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(int failedCount READ failedCount NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(int failedElsewhereCount READ failedElsewhereCount NOTIFY checkedDevicesChanged)
+    Q_PROPERTY(int unaddressedCount READ unaddressedCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(QStringList checkedDevices READ checkedDevices NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedDevicesChanged)
@@ -51,7 +53,7 @@ public:
     enum Shown
     {
         All,
-        Failed,    ///< those that batches failed with; ends with the last mark
+        Failed,    ///< those that batches failed with; ends with the last mark of them
         LoggedOut, ///< those of which the list knows no login, or one that failed
     };
     Q_ENUM(Shown)
@@ -63,6 +65,7 @@ public:
         CopyRetRole,  ///< "copyRet": result of what was last done with the device, NoResult at first
         IdentityRole, ///< not for the scene: unique text of a device or of a group among its kind
         FailureRole,  ///< not for the scene: what batches failed with the device, empty when they did not
+        OnlyNotDoneRole, ///< not for the scene: whether no batch failed with the device, see FailedMarks
         LabelRole,    ///< not for the scene: the address, without the port that most devices have
     };
 
@@ -87,8 +90,14 @@ public:
     void setShown(Shown shown);
 
     /// Of the devices that the filter of the last rebuild leaves, also when they are not shown.
-    [[nodiscard]] int failedCount() const { return m_failedCount; }
     [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }
+    [[nodiscard]] int failedCount() const { return m_failedCount; }
+
+    /// Marked devices that the tree cannot show; 0 with a search text, which may hide some.
+    [[nodiscard]] int failedElsewhereCount() const;
+
+    /// Devices that the last rebuild left out because they have no address: they wait for one by DHCP.
+    [[nodiscard]] int unaddressedCount() const { return m_unaddressedCount; }
 
     /// Rebuilds the tree from the IPv4 rows. `type` is "search" (devices that hold `searchText`) or
     /// "removeuninit" (initialised devices only); other filters of the rows are taken as well.
@@ -140,7 +149,6 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void failedMarksChanged();
-    void failedCountChanged();
     void shownChanged();
     void checkedDevicesChanged();
 
@@ -167,10 +175,10 @@ private:
     [[nodiscard]] Device deviceOf(const QString &identity, const QJsonObject &row) const;
     void takeMarks();
     [[nodiscard]] QVariantList readRows() const;
-    void countFailed(const QVariantList &rows);
     void noteUsualPort(const QVariantList &rows);
     /// Name of the group that a row stands in; empty when it is not shown.
     [[nodiscard]] QString groupNameOf(const QJsonObject &row, const QString &identity) const;
+    void countFailed();
     void rememberDevices();
     void notePlaces();
     void checkGroup(const QModelIndex &group, bool checked);
@@ -182,8 +190,10 @@ private:
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     FollowedMarks m_failedMarks;
     Shown m_shown = All;
-    int m_failedCount = 0;
     int m_loggedOutCount = 0;
+    int m_failedCount = 0;
+    int m_unaddressedCount = 0;
+    QStringList m_found; ///< identities of the devices that the last rebuild found, shown or not
     QString m_usualPort;  ///< of most devices of the tree
     QString m_filterType; ///< of the last resetItems(), empty before it
     QString m_searchText;

@@ -93,6 +93,8 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
                fromTree(OVTreeModel::IdentityRole).toString();
     case FailureRole:
         return isGroup ? QString() : fromTree(OVTreeModel::FailureRole);
+    case OnlyNotDoneRole:
+        return !isGroup && fromTree(OVTreeModel::OnlyNotDoneRole).toBool();
     default:
         return {};
     }
@@ -103,7 +105,7 @@ QHash<int, QByteArray> DeviceTreeRows::roleNames() const
     return {{TitleRole, "title"},    {LabelRole, "label"},       {DetailRole, "detail"},
             {TickRole, "tick"},      {ResultRole, "result"},     {IsGroupRole, "isGroup"},
             {IsOpenRole, "isOpen"},  {CountRole, "deviceCount"}, {IdentityRole, "identity"},
-            {FailureRole, "failure"}};
+            {FailureRole, "failure"}, {OnlyNotDoneRole, "onlyNotDone"}};
 }
 
 void DeviceTreeRows::setOpen(int row, bool open)

@@ -29,6 +29,7 @@ public:
         CountRole,                ///< "deviceCount": of a group
         IdentityRole,             ///< "identity": text by which rowOf() finds the row again
         FailureRole,              ///< "failure": what batches failed with a device, see OVTreeModel
+        OnlyNotDoneRole,          ///< "onlyNotDone": of a device with a failure, see OVTreeModel
     };
 
     explicit DeviceTreeRows(QObject *parent = nullptr) : QAbstractListModel(parent) {}

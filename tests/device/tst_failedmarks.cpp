@@ -14,6 +14,7 @@ namespace {
 constexpr int succeeded = 0;
 constexpr int waits = resultCode(LoginResult::Unknown);
 constexpr int wrongPassword = resultCode(LoginResult::WrongPassword);
+constexpr int notInitialised = resultCode(LoginResult::NotInitialised);
 constexpr int away = resultCode(LoginResult::NetworkFailure);
 
 using Batches = QList<std::pair<QString, QList<int>>>; ///< work, and results of the device
@@ -68,6 +69,9 @@ private Q_SLOTS:
             QStringLiteral("title of copy：") + resultName(away));
         row("waits for the next step", {{"password", {wrongPassword}}, {"password", {waits}}},
             QStringLiteral("title of password：") + password);
+        row("skipped later", {{"reboot", {wrongPassword}}, {"reboot", {notInitialised}}},
+            QStringLiteral("title of reboot：") + password);
+        row("only skipped", {{"reboot", {notInitialised}}}, "");
         row("named twice in a batch", {{"lines", {wrongPassword, succeeded}}},
             QStringLiteral("title of lines：") + password);
     }
@@ -128,8 +132,11 @@ private Q_SLOTS:
         tree.setDeviceFactory(&site.factory);
         tree.setFailedMarks(&marks);
         fill(*site.rows, marks);
+        site.rows->add({.address = "", .mac = "m0", .type = "IPC"});
         tree.resetItems("removeuninit", "");
         QCOMPARE(tree.failedCount(), 3);
+        QCOMPARE(tree.failedElsewhereCount(), 1);
+        QCOMPARE(tree.unaddressedCount(), 1);
         note(marks, "copy", {{"m1", away}});
         QCOMPARE(tree.failedCount(), 4);
         note(marks, "copy", {{"m1", succeeded}});
@@ -148,9 +155,10 @@ private Q_SLOTS:
 
         tree.resetItems("search", "10.0.0.10");
         QCOMPARE(tree.deviceCount(), 1);
-        marks.clear();
-        QCOMPARE(tree.shown(), OVTreeModel::All);
         tree.resetItems("removeuninit", "");
+        note(marks, "reboot", {{"m10", succeeded}, {"m9", succeeded}, {"m3", succeeded}});
+        QCOMPARE(marks.count(), 1); // of a device that the tree does not have
+        QCOMPARE(tree.shown(), OVTreeModel::All);
         QCOMPARE(tree.checkedCount(), 2);
     }
 };

@@ -16,8 +16,8 @@ Row {
     OVCheckBox {
         checked: root.on
         objectName: "failedFilter"
-        //: Shows only the devices that batches have failed with; %1 is how many there are.
-        text: qsTr("仅失败 %1").arg(root.count)
+        //: Shows only the devices that batches failed with or did not come to; %1 is how many there are.
+        text: qsTr("仅未成功 %1").arg(root.count)
         toolTip: qsTr("只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。")
         onToggled: root.toggled(checked)
     }

@@ -1,4 +1,4 @@
-// Marks a device that batches have failed with, and says which ones and why.
+// Marks a device that batches have failed with or did not come to, and says which ones and why.
 import QtQuick
 import configtools
 
@@ -7,8 +7,10 @@ OVIcon {
 
     required property string failure  // empty for a device that is not marked
 
-    color: Theme.colours.bad
-    name: "error"
+    property bool onlyNotDone: false  // no batch has failed with it
+
+    color: onlyNotDone ? Theme.colours.warn : Theme.colours.bad
+    name: onlyNotDone ? "alert" : "error"
     objectName: "failedSign"
     size: Theme.boxSize
     visible: failure !== ""

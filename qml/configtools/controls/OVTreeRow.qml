@@ -16,6 +16,7 @@ Rectangle {
     required property bool isOpen
     required property int deviceCount
     required property string failure
+    required property bool onlyNotDone
     property var describer
     property bool current: false
     property bool busy: false
@@ -37,6 +38,8 @@ Rectangle {
 
     readonly property bool hasResult: !isGroup && result !== OVTreeModel.NoResult
     readonly property bool waits: result === OVTreeModel.WaitsForPassword
+    readonly property bool incomplete: result === OVTreeModel.PartlyDone || result === BatchReport.NotDone
+    readonly property bool skipped: result === BatchReport.NotInitialised || result === BatchReport.Upgrading
     // A result that is a failure is the sign of the mark, too.
     readonly property bool marked: failure !== "" && !busy && !(hasResult && result > 0)
     readonly property int signsWidth: (busy || hasResult ? Theme.boxSize + Theme.unit : 0)
@@ -152,8 +155,9 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
-        color: root.result === 0 ? Theme.colours.ok : root.waits ? Theme.colours.accent : Theme.colours.warn
-        name: root.result === 0 ? "ok" : root.waits ? "check" : "alert"
+        color: root.result === 0 ? Theme.colours.ok : root.waits ? Theme.colours.accent
+            : root.incomplete ? Theme.colours.warn : root.skipped ? Theme.colours.sub : Theme.colours.bad
+        name: root.result === 0 ? "ok" : root.waits ? "check" : root.incomplete ? "alert" : root.skipped ? "mixed" : "error"
         objectName: "resultSign"
         size: Theme.boxSize
         visible: root.hasResult && !root.busy
@@ -171,5 +175,6 @@ Rectangle {
         anchors.rightMargin: sign.visible ? Theme.unit : Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
         failure: root.marked ? root.failure : ""
+        onlyNotDone: root.onlyNotDone
     }
 }

@@ -69,10 +69,17 @@ OVTable {
         OVTableCell {
             id: name
 
+            OVFailedSign {  // of whichever work: it is no result of a change of the address
+                id: failedSign
+                anchors.verticalCenter: parent.verticalCenter
+                failure: name.row?.failure ?? ""
+                onlyNotDone: name.row?.onlyNotDone ?? false
+            }
             OVLabel {
                 id: nameText
                 readonly property int signRoom: noteSign.visible ? noteSign.width + Theme.signGap : 0
-                width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
+                x: failedSign.visible ? failedSign.width + Theme.signGap : 0
+                width: Math.min(implicitWidth, parent.width - x - Theme.unit - signRoom)
                 height: parent.height
                 text: name.value ?? ""
             }
@@ -183,13 +190,6 @@ OVTable {
         OVTableCell {
             id: result
 
-            // A result that is a failure is the sign of the mark, too.
-            OVFailedSign {
-                anchors.left: sign.right
-                anchors.leftMargin: Theme.unit
-                anchors.verticalCenter: parent.verticalCenter
-                failure: (result.value ?? -1) > 0 ? "" : result.row?.failure ?? ""
-            }
             OVIcon {
                 id: sign
                 x: 2 * Theme.unit

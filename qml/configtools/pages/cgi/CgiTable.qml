@@ -58,6 +58,7 @@ OVTable {
                 id: sign
                 anchors.verticalCenter: parent.verticalCenter
                 failure: model.row?.failure ?? ""
+                onlyNotDone: model.row?.onlyNotDone ?? false
             }
             OVLabel {
                 x: sign.visible ? sign.width + Theme.signGap : 0

@@ -131,7 +131,7 @@ Rectangle {
         x: Theme.line
         y: states.y + states.height + Theme.unit
         width: parent.width - 2 * x
-        height: parent.height - y - Theme.controlRadius
+        height: (unaddressed.visible ? unaddressed.y : parent.height) - y - Theme.controlRadius
         busyDevice: root.busyDevice
         choosing: root.choosing
         chosenDevice: root.chosenDevice
@@ -145,6 +145,18 @@ Rectangle {
         onDeviceChosen: ipport => root.deviceChosen(ipport)
         onMenuRequested: (name, place) => root.menuRequested(name, place)
     }
+    OVLabel {
+        id: unaddressed
+        x: Theme.controlGap
+        y: parent.height - height - Theme.half
+        width: parent.width - 2 * x
+        height: Theme.unit * 3
+        color: Theme.colours.sub
+        font: Theme.hintFont
+        objectName: "unaddressedDevices"
+        text: qsTr("%n 台设备没有IP地址（等待DHCP），未列出", "", root.devices.unaddressedCount)
+        visible: root.devices.unaddressedCount > 0
+    }
     OVFocusRing {
         around: Theme.paneRadius
         shown: tree.activeFocus && !tree.byPointer
@@ -157,7 +169,7 @@ Rectangle {
             : root.searching || !root.libraryInstalled ? "" : qsTr("重新搜索")
         busy: root.searching && !filtered
         hint: root.searchText !== "" ? qsTr("没有设备的名称、类型、型号或地址包含这些文字。")
-            : root.devices.shown === OVTreeModel.Failed ? qsTr("失败的设备不在列表中，见批处理记录。")
+            : root.devices.shown === OVTreeModel.Failed ? qsTr("失败和未执行的设备不在此列表中：没有初始化、没有IPv4地址或不再被找到。请查看“修改IP”页和批处理记录。")
             : filtered ? qsTr("列表中的设备都已登录。")
             : root.searching ? qsTr("找到的设备会陆续显示在这里。")
             : !root.libraryInstalled ? qsTr("程序无法与设备通信。可在“修改IP”页打开演示站点。")

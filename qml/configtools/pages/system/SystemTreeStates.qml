@@ -6,7 +6,7 @@ OVSegmentedChoice {
     id: root
 
     required property OVTreeModel devices
-    readonly property int failedCount: devices.failedCount
+    readonly property int elsewhereCount: devices.failedElsewhereCount
     readonly property var shownOf: [OVTreeModel.All, OVTreeModel.Failed, OVTreeModel.LoggedOut]
 
     currentIndex: shownOf.indexOf(devices.shown)
@@ -26,11 +26,12 @@ OVSegmentedChoice {
     }
     QtObject {
         id: failed
-        readonly property bool enabled: root.failedCount > 0
+        readonly property bool enabled: root.devices.failedCount > 0
         objectName: "failedStates"
-        //: Shows only the devices that batches have failed with; %1 is how many there are.
-        readonly property string text: qsTr("失败 %1").arg(root.failedCount)
-        readonly property string toolTip: qsTr("只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。")
+        //: Shows only the devices that batches failed with or did not come to; %1 is how many there are.
+        readonly property string text: qsTr("未成功 %1").arg(root.devices.failedCount)
+        readonly property string toolTip: qsTr("只显示失败和未执行的设备，按原因排列。")
+            + (root.elsewhereCount > 0 ? qsTr("另有 %n 台不在此列表中，见批处理记录。", "", root.elsewhereCount) : "")
     }
     QtObject {
         id: loggedOut

@@ -26,7 +26,7 @@ OVTable {
 
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnUpgradeNumber, cell: numberCell},
-        {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true},
+        {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true, cell: nameCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnUpgradeModel, stretch: 1, sortable: true},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnUpgradeAddress, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: figureCell},
         {key: "vision", title: qsTr("版本号"), width: Theme.columnUpgradeVersion, sortable: true, cell: figureCell},
@@ -42,6 +42,26 @@ OVTable {
         OVTableTextCell {
             font: Theme.figureFont
             text: rowIndex + 1
+        }
+    }
+    Component {
+        id: nameCell
+        OVTableCell {
+            id: name
+
+            OVFailedSign {  // of whichever work: it is no result of an upgrade
+                id: failedSign
+                anchors.verticalCenter: parent.verticalCenter
+                failure: name.row?.failure ?? ""
+                onlyNotDone: name.row?.onlyNotDone ?? false
+                size: Theme.smallIconSize
+            }
+            OVLabel {
+                x: failedSign.visible ? failedSign.width + Theme.signGap : 0
+                width: parent.width - x - Theme.unit
+                height: parent.height
+                text: name.value ?? ""
+            }
         }
     }
     Component {
@@ -116,6 +136,8 @@ OVTable {
             readonly property int code: value ?? UpgradeTools.None
             readonly property bool failed: UpgradeTools.isFailure(code)
             readonly property bool mayGoWell: UpgradeTools.canTryAgain(code)
+            readonly property bool notDone: code === UpgradeTools.Stopped || code === UpgradeTools.Cut
+            readonly property bool skipped: code === UpgradeTools.NotInitialised
             readonly property bool signed: failed || code === UpgradeTools.Success
             readonly property string meaning: UpgradeTools.text(code)
             readonly property string told: row?.upgradetext ?? ""
@@ -123,19 +145,12 @@ OVTable {
             readonly property string words: UpgradeTools.isRunning(code) ? (told === meaning ? "" : told)
                 : told !== "" ? told : meaning
 
-            // A result that is a failure is the sign of the mark, too.
-            OVFailedSign {
-                id: mark
-                x: result.signed ? sign.width + Theme.signGap : 0
-                anchors.verticalCenter: parent.verticalCenter
-                failure: result.failed ? "" : result.row?.failure ?? ""
-                size: Theme.smallIconSize
-            }
             OVIcon {
                 id: sign
                 anchors.verticalCenter: parent.verticalCenter
-                color: !result.failed ? Theme.colours.ok : result.mayGoWell ? Theme.colours.warn : Theme.colours.bad
-                name: !result.failed ? "ok" : result.mayGoWell ? "alert" : "error"
+                color: !result.failed ? Theme.colours.ok : result.notDone ? Theme.colours.warn
+                    : result.skipped ? Theme.colours.sub : Theme.colours.bad
+                name: !result.failed ? "ok" : result.notDone ? "alert" : result.skipped ? "mixed" : "error"
                 size: Theme.smallIconSize
                 visible: result.signed
 
@@ -148,10 +163,11 @@ OVTable {
                 }
             }
             OVLabel {
-                x: mark.x + (mark.visible ? mark.width + Theme.signGap : 0)
+                x: sign.visible ? sign.width + Theme.signGap : 0
                 width: parent.width - x - Theme.unit
                 height: parent.height
-                color: !result.failed ? Theme.colours.ink : result.mayGoWell ? Theme.colours.warnInk : Theme.colours.bad
+                color: !result.failed || result.skipped ? Theme.colours.ink
+                    : result.notDone ? Theme.colours.warnInk : Theme.colours.bad
                 objectName: "upgradeResult" + result.rowIndex
                 text: result.words
             }
