@@ -106,6 +106,7 @@ void SearchReports::begin(bool localSegment, const QString &range)
     if (auto before = std::make_unique<SearchReport>(); !localSegment && read(*before))
         m_before = std::move(before);
     m_devices = m_missing = 0;
+    m_isStopped = false;
     m_blocks.clear();
     m_networks.clear();
     Q_EMIT changed();
@@ -116,6 +117,7 @@ void SearchReports::end(int devices, bool isStopped)
     m_devices = devices;
     m_missing = 0;
     m_isDismissed = false;
+    m_isStopped = isStopped;
     if (!isStopped) {
         // A search that was stopped, or one of other networks, finds fewer devices for that reason.
         if (m_scope == m_countedScope)

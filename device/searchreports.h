@@ -23,6 +23,8 @@ class SearchReports : public QObject
     /// Devices fewer than the search of the same networks has found before; 0 if it is not known or
     /// dismissed.
     Q_PROPERTY(int missing READ missing NOTIFY changed)
+    /// Whether the last search was stopped before its end, and the user has not dismissed that.
+    Q_PROPERTY(bool incomplete READ isIncomplete NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     /// The IPv4 networks of this computer that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty if unknown.
     Q_PROPERTY(QString networks READ networks NOTIFY changed)
@@ -37,6 +39,7 @@ public:
 
     [[nodiscard]] bool isAvailable() const { return !m_blocks.isEmpty(); }
     [[nodiscard]] int missing() const { return m_isDismissed ? 0 : m_missing; }
+    [[nodiscard]] bool isIncomplete() const { return m_isStopped && !m_isDismissed; }
     [[nodiscard]] QString summary() const { return SearchReportText::summaryOf(m_devices, m_missing); }
     [[nodiscard]] QString networks() const { return m_networks; }
     [[nodiscard]] QVariantList blocks() const;
@@ -48,7 +51,7 @@ public:
     /// The search has ended, by itself or stopped, with so many `devices`.
     Q_INVOKABLE void end(int devices, bool isStopped);
 
-    /// The user has seen that devices are missing.
+    /// The user has seen that devices are missing, or that the search was stopped.
     Q_INVOKABLE void dismiss();
 
 Q_SIGNALS:
@@ -65,6 +68,7 @@ private:
     int m_countedDevices = 0; ///< of that search
     int m_devices = 0;
     int m_missing = 0;
+    bool m_isStopped = false;
     bool m_isDismissed = false;
     QList<SearchReportBlock> m_blocks;
     QString m_networks;

@@ -199,8 +199,11 @@ private Q_SLOTS:
             return reports.missing();
         };
         QCOMPARE(missing(true, "", 5, false), 0);
+        QVERIFY(!reports.isIncomplete());
         QCOMPARE(missing(true, "", 2, true), 0); // it was stopped
+        QVERIFY(reports.isIncomplete());
         QCOMPARE(missing(true, "", 3, false), 2);
+        QVERIFY(!reports.isIncomplete());
         reports.dismiss();
         QCOMPARE(reports.missing(), 0);
         QCOMPARE(missing(true, "", 3, false), 0);

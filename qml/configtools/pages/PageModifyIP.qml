@@ -195,12 +195,18 @@ FocusScope {
         width: parent.width - 2 * Theme.pageMargin
         closable: true
         iconName: "alert"
-        linkText: qsTr("查看原因")
+        linkText: page.searchReports.incomplete ? qsTr("重新搜索") : qsTr("查看原因")
         objectName: "missingNotice"
-        text: qsTr("找到的设备比上次搜索少 %n 台", "", page.searchReports.missing)
-        visible: page.searchReports.missing > 0 && table.count > 0
+        text: page.searchReports.incomplete ? qsTr("搜索已停止，列表不完整。")
+            : qsTr("找到的设备比上次搜索少 %n 台", "", page.searchReports.missing)
+        visible: (page.searchReports.incomplete || page.searchReports.missing > 0) && table.count > 0
         onClosed: page.searchReports.dismiss()
-        onLinkActivated: page.reportRequested()
+        onLinkActivated: {
+            if (page.searchReports.incomplete)
+                page.searchRequested();
+            else
+                page.reportRequested();
+        }
     }
 
     ModifyIPTable {
