@@ -29,7 +29,9 @@ FocusScope {
     property list<string> checkedWhenAsked  // the devices of the last command
     property list<string> leftOut  // of the last change of passwords
 
-    readonly property bool available: devices.checkedCount > 0 && !batch.running
+    readonly property bool available: unavailableText === ""
+    readonly property string unavailableText: devices.checkedCount === 0 ? qsTr("请先在左侧勾选设备")
+        : batch.running ? qsTr("“%1”正在进行，请等待其完成").arg(batch.batch.title) : ""
 
     function focusSearch() {
         deviceTree.focusSearch();
@@ -210,6 +212,7 @@ FocusScope {
         width: page.width - x - Theme.pageMargin
         height: deviceTree.height
         available: page.available
+        unavailableText: page.unavailableText
         deviceFactory: page.deviceFactory
         held: batch.running
         passwordTime: passwordTime

@@ -6,6 +6,7 @@ OVSection {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property var deviceFactory
     signal actionRequested(string command, string title, var data)
     signal refused(string message)
@@ -76,7 +77,7 @@ OVSection {
             enabled: root.available
             objectName: "dstApplyButton"
             text: qsTr("应用夏令时")
-            toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+            toolTip: root.unavailableText
             onClicked: {
                 if (!begin.acceptable || !end.acceptable) {
                     root.refused(qsTr("请输入正确的时间"));

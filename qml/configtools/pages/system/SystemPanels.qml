@@ -7,6 +7,7 @@ Rectangle {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property int upgradingCount  // of the ticked devices
     required property bool held  // an action runs
     required property string timeZone
@@ -73,6 +74,7 @@ Rectangle {
                 id: timePanel
                 width: stack.width
                 available: root.available
+                unavailableText: root.unavailableText
                 timeZone: root.timeZone
                 onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 onRefused: message => root.refused(message)
@@ -81,6 +83,7 @@ Rectangle {
             SystemZonePanel {
                 width: stack.width
                 available: root.available
+                unavailableText: root.unavailableText
                 deviceFactory: root.deviceFactory
                 hasServerDetails: root.functions.timeServerDetails
                 timeZone: root.timeZone
@@ -91,6 +94,7 @@ Rectangle {
             SystemRebootPanel {
                 width: stack.width
                 available: root.available
+                unavailableText: root.unavailableText
                 hasMaintenance: root.functions.automaticMaintenance
                 onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 upgradingCount: root.upgradingCount
@@ -101,6 +105,7 @@ Rectangle {
             SystemResetPanel {
                 width: stack.width
                 available: root.available
+                unavailableText: root.unavailableText
                 upgradingCount: root.upgradingCount
                 onResetRequested: root.resetRequested()
                 visible: root.currentPanel === 3
@@ -109,6 +114,7 @@ Rectangle {
                 id: passwordPanel
                 width: stack.width
                 available: root.available
+                unavailableText: root.unavailableText
                 deviceFactory: root.deviceFactory
                 time: root.passwordTime
                 onChangeRequested: (password, keeping) => root.passwordChangeRequested(password, keeping)
@@ -119,6 +125,7 @@ Rectangle {
             SystemVideoPanel {
                 width: stack.width
                 available: root.available
+                unavailableText: root.unavailableText
                 supported: root.functions.videoStandard
                 onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
                 visible: root.currentPanel === 5

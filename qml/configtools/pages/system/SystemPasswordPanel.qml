@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property SystemPasswordTime time
     required property var deviceFactory  // grades passwords
     signal checkRequested(string password)
@@ -101,7 +102,7 @@ Column {
                         kind: root.editorEnabled ? OVButton.Outlined : OVButton.Primary
                         objectName: "loginCheckButton"
                         text: qsTr("验证")
-                        toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                        toolTip: root.unavailableText
                         onClicked: root.check()
                     }
                 }

@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property bool hasMaintenance
     required property int upgradingCount  // of the ticked devices
     signal actionRequested(string command, string title, var data)
@@ -63,7 +64,7 @@ Column {
                 kind: OVButton.Primary
                 objectName: "autoMaintainButton"
                 text: qsTr("应用")
-                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                toolTip: root.unavailableText
                 onClicked: {
                     if (!timeField.acceptable) {
                         root.refused(timeField.complaint);
@@ -91,7 +92,7 @@ Column {
                 objectName: "rebootButton"
                 text: qsTr("重启设备")
                 toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能重启", "", root.upgradingCount)
-                    : root.available ? "" : qsTr("请先在左侧勾选设备")
+                    : root.unavailableText
                 onClicked: root.rebootRequested()
             }
         }

@@ -6,6 +6,7 @@ OVSection {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property int upgradingCount  // of the ticked devices
     signal resetRequested
 
@@ -24,7 +25,7 @@ OVSection {
             objectName: "resetButton"
             text: qsTr("恢复出厂设置")
             toolTip: root.upgradingCount > 0 ? qsTr("勾选的设备中有 %n 台正在升级，不能恢复出厂设置", "", root.upgradingCount)
-                : root.available ? "" : qsTr("请先在左侧勾选设备")
+                : root.unavailableText
             onClicked: root.resetRequested()
         }
     }

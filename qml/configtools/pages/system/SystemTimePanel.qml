@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property string timeZone
     property var clocks: []  // maps of "device" and "words", of the devices that were last asked for their time
     signal actionRequested(string command, string title, var data)
@@ -57,7 +58,7 @@ Column {
                 kind: OVButton.Primary
                 objectName: "setTimeByPCButton"
                 text: qsTr("同步电脑时间")
-                toolTip: root.available ? qsTr("每台设备得到发送时刻的电脑时间") : qsTr("请先在左侧勾选设备")
+                toolTip: root.available ? qsTr("每台设备得到发送时刻的电脑时间") : root.unavailableText
                 onClicked: root.actionRequested("setTimeByPC", qsTr("同步电脑时间"), {})
             }
         }
@@ -96,7 +97,7 @@ Column {
                 enabled: root.available
                 objectName: "setTimeByManualButton"
                 text: qsTr("应用")
-                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                toolTip: root.unavailableText
                 onClicked: root.applyByHand()
             }
         }
@@ -110,7 +111,7 @@ Column {
                 enabled: root.available
                 objectName: "readTimeButton"
                 text: qsTr("读取设备时间")
-                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                toolTip: root.unavailableText
                 onClicked: root.actionRequested("readTime", qsTr("读取设备时间"), {})
             }
         }

@@ -6,6 +6,7 @@ OVSection {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property bool supported
     signal actionRequested(string command, string title, var data)
 
@@ -39,7 +40,7 @@ OVSection {
             kind: OVButton.Primary
             objectName: "videoStandardButton"
             text: qsTr("应用")
-            toolTip: !root.supported || root.available ? "" : qsTr("请先在左侧勾选设备")
+            toolTip: root.supported ? root.unavailableText : ""
             onClicked: {
                 const standard = standardBox.currentIndex + 1;
                 root.actionRequested("videoStandard", root.title, {videoStandard: standard});

@@ -6,6 +6,7 @@ Column {
     id: root
 
     required property bool available
+    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
     required property bool hasServerDetails  // the port and the period can be set
     required property string timeZone
     required property var deviceFactory
@@ -22,6 +23,7 @@ Column {
     SystemDaylightSection {
         width: parent.width
         available: root.available
+        unavailableText: root.unavailableText
         deviceFactory: root.deviceFactory
         onActionRequested: (command, title, data) => root.actionRequested(command, title, data)
         onRefused: message => root.refused(message)
@@ -118,7 +120,7 @@ Column {
                 kind: OVButton.Primary
                 objectName: "ntpApplyButton"
                 text: qsTr("应用时区和NTP")
-                toolTip: root.available ? "" : qsTr("请先在左侧勾选设备")
+                toolTip: root.unavailableText
                 onClicked: {
                     if (root.ntpComplaint !== "") {
                         root.refused(root.ntpComplaint);
