@@ -169,6 +169,22 @@ QString BatchPreview::addressAndPortOf(int row) const
     return deviceAt(row).value(DeviceRowKey::ipport).toString();
 }
 
+QString BatchPreview::warnings() const
+{
+    constexpr qsizetype shown = 3;
+    QStringList lines;
+    for (int row = 0; row < rowCount() && lines.size() <= shown; ++row) {
+        const Judgement judgement = m_judgements.value(row);
+        if (judgement.kind != Warned)
+            continue;
+        //: A device, what it gets, and a warning about that.
+        lines.append(lines.size() == shown ? QStringLiteral("…")
+                                           : tr("%1（%2）：%3").arg(addressAndPortOf(row), judgement.action,
+                                                                   judgement.note));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 QString BatchPreview::hindranceOf(int row) const
 {
     const QVariantMap device = deviceAt(row);

@@ -59,6 +59,9 @@ public:
     Q_INVOKABLE [[nodiscard]] QStringList checkedAddresses() const { return addressesOf(true); }
     Q_INVOKABLE [[nodiscard]] QStringList uncheckedAddresses() const { return addressesOf(false); }
 
+    /// What the warnings are about, a line for each device, the first few of them.
+    Q_INVOKABLE [[nodiscard]] QString warnings() const;
+
 Q_SIGNALS:
     void factoryChanged();
     void judged();

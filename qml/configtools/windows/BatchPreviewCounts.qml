@@ -14,6 +14,8 @@ Row {
         color: Theme.colours.sub
         objectName: "batchCount"
         text: qsTr("%n台设备已选中", "", root.preview.checkedCount)
+            + (root.preview.skippedCount > 0
+                ? "  ·  " + qsTr("将更改 %n 台设备", "", root.preview.checkedCount - root.preview.skippedCount) : "")
     }
     Row {
         height: parent.height

@@ -86,7 +86,7 @@ OVDialog {
         if (preview.checkedCount === 0)
             refuse(qsTr("请选择一台设备"));
         else if (preview.warningCount > 0)
-            warned.ask(preview.warningCount);
+            warned.ask(preview.warningCount, preview.warnings());
         else
             start();
     }

@@ -3,9 +3,10 @@ import QtQuick
 import configtools
 
 OVMessageBox {
-    function ask(warnings) {
+    /// `words` say what the warnings are about.
+    function ask(warnings, words) {
         okText = qsTr("继续");
-        show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings), OVMessageBox.DangerQuestion);
+        show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings) + "\n" + words, OVMessageBox.DangerQuestion);
     }
 
     objectName: "warningQuestion"

@@ -73,7 +73,7 @@ OVDialog {
             refuse(qsTr("请选择一台设备"));
         } else if (count > 0) {
             openedOut = true;
-            question.ask(count);
+            question.ask(count, [plan.warnings(), gatewayWarning].filter(words => words !== "").join("\n"));
         } else {
             confirmed();
         }

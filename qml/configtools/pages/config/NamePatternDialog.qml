@@ -53,7 +53,7 @@ OVDialog {
         else if (plan.checkedCount === 0)
             refuse(qsTr("请选择要命名的项"));
         else if (!ofChannels && plan.warningCount > 0)
-            question.ask(plan.warningCount);
+            question.ask(plan.warningCount, plan.warnings());
         else
             begin();
     }

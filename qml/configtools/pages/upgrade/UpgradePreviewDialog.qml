@@ -39,7 +39,7 @@ OVDialog {
     title: path === "" ? qsTr("设备升级") : qsTr("升级文档")
     onAccepted: {
         if (preview.warningCount > 0)
-            warned.ask(preview.warningCount);
+            warned.ask(preview.warningCount, preview.warnings());
         else
             start();
     }
