@@ -82,12 +82,13 @@ Item {
         }
         function onEnded(upgraded, failed, notDone) {
             if (notDone > 0)
-                root.said(qsTr("已停止，完成 %1 / %2").arg(upgraded + failed).arg(upgraded + failed + notDone),
-                          OVToast.Information);
-            if (failed > 0)
+                //: Of the devices that were to be upgraded.
+                root.said(qsTr("已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台").arg(upgraded).arg(failed).arg(notDone),
+                          failed > 0 ? OVToast.Error : OVToast.Information);
+            else if (failed > 0)
                 //: Of the devices that were upgraded.
                 root.said(qsTr("%n 台设备未升级成功，请查看结果", "", failed), OVToast.Error);
-            else if (notDone === 0)
+            else
                 root.said(qsTr("%n 台设备升级成功", "", upgraded), OVToast.Success);
         }
         function onDocumentEnded(text, hasSuccess) {
