@@ -78,7 +78,7 @@ Item {
     function askToEnd(title, upgrades) {
         const box = endQuestion.wanted();
         box.okText = qsTr("停止并退出");
-        box.show(qsTr("“%1”正在进行。退出后，尚未完成的设备将不再处理。").arg(title)
+        box.show(qsTr("“%1”正在进行。退出后，其余设备不会更改。").arg(title)
             + (upgrades ? qsTr("已开始写入的设备会自行完成升级，请勿断电。") : ""), OVMessageBox.DangerQuestion);
     }
 
