@@ -83,13 +83,15 @@ Item {
         if (kept !== "")
             said(kept, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
         if (report.notDone > 0)
-            said(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
-        if (report.failed > 0)
+            said(qsTr("已停止：%1").arg(report.summary), report.failed > 0 ? OVToast.Error : OVToast.Information);
+        else if (report.failed > 0)
             //: Of the devices of a batch, those whose result is a failure.
             said(qsTr("%n 台设备未成功，请查看修改结果", "", report.failed), OVToast.Error);
-        else if (report.notDone === 0)
-            said(batch.changesAddresses ? qsTr("已修改 %n 台设备的IP地址", "", report.total)
-                                        : qsTr("已初始化 %n 台设备", "", report.total), OVToast.Success);
+        else if (report.succeeded === 0)
+            said(report.summary, OVToast.Information);
+        else
+            said(batch.changesAddresses ? qsTr("已修改 %n 台设备的IP地址", "", report.succeeded)
+                                        : qsTr("已初始化 %n 台设备", "", report.succeeded), OVToast.Success);
     }
 
     visible: false
