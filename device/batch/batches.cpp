@@ -67,6 +67,8 @@ Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int
     : QObject(parent), m_factory(factory), m_engine(engine), m_atOnce(std::move(atOnce))
 {
     m_files.setMaxThreadCount(1);
+    // Before a search, the user may have entered another default account.
+    connect(&m_factory, &CDeviceFactory::signalSearchDone, this, &Batches::noteAccounts);
 }
 
 Batches::~Batches()
