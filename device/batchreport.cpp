@@ -92,7 +92,7 @@ int BatchReport::skipped() const
     return count;
 }
 
-QStringList BatchReport::finishedParts() const
+QString BatchReport::summaryWith(const QString &notDoneWords) const
 {
     QStringList parts;
     if (succeeded() > 0)
@@ -103,21 +103,17 @@ QStringList BatchReport::finishedParts() const
         parts.append(tr("%n 台设备失败", "", failed()));
     if (skipped() > 0)
         parts.append(tr("%n 台设备已跳过", "", skipped()));
-    return parts;
+    if (notDone() > 0)
+        parts.append(notDoneWords);
+    return parts.join(tr("，"));
 }
 
 QString BatchReport::summary() const
 {
-    QStringList parts = finishedParts();
-    if (notDone() > 0)
-        parts.append(tr("%n 台设备未执行", "", notDone()));
-    return parts.join(tr("，"));
+    return summaryWith(tr("%n 台设备未执行", "", notDone()));
 }
 
 QString BatchReport::summaryOfRunning() const
 {
-    QStringList parts = finishedParts();
-    if (notDone() > 0)
-        parts.append(tr("%n 台设备等待执行", "", notDone()));
-    return parts.join(tr("，"));
+    return summaryWith(tr("%n 台设备等待执行", "", notDone()));
 }

@@ -85,7 +85,7 @@ private:
         int result = NotDone;
     };
 
-    [[nodiscard]] QStringList finishedParts() const;            ///< of the summaries
+    [[nodiscard]] QString summaryWith(const QString &notDoneWords) const;
     [[nodiscard]] bool take(const QString &device, int result); ///< false: it is not of the batch
     void setResult(qsizetype place, int result);
 

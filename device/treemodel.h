@@ -62,11 +62,11 @@ public:
     {
         NameRole = Qt::UserRole, ///< "name": text of the node
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
-        CopyRetRole,  ///< "copyRet": result of what was last done with the device, NoResult at first
-        IdentityRole, ///< not for the scene: unique text of a device or of a group among its kind
-        FailureRole,  ///< not for the scene: what batches failed with the device, empty when they did not
+        CopyRetRole,     ///< "copyRet": result of what was last done with the device, NoResult at first
+        IdentityRole,    ///< not for the scene: unique text of a device or of a group among its kind
+        FailureRole,     ///< not for the scene: what batches failed with the device, empty when they did not
         OnlyNotDoneRole, ///< not for the scene: whether no batch failed with the device, see FailedMarks
-        LabelRole,    ///< not for the scene: the address, without the port that most devices have
+        LabelRole,       ///< not for the scene: the address, without the port that most devices have
     };
 
     explicit OVTreeModel(QObject *parent = nullptr);
@@ -193,7 +193,7 @@ private:
     int m_loggedOutCount = 0;
     int m_failedCount = 0;
     int m_unaddressedCount = 0;
-    QStringList m_found; ///< identities of the devices that the last rebuild found, shown or not
+    QStringList m_found;  ///< identities of the devices that the last rebuild found, shown or not
     QString m_usualPort;  ///< of most devices of the tree
     QString m_filterType; ///< of the last resetItems(), empty before it
     QString m_searchText;

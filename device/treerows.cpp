@@ -102,10 +102,17 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> DeviceTreeRows::roleNames() const
 {
-    return {{TitleRole, "title"},    {LabelRole, "label"},       {DetailRole, "detail"},
-            {TickRole, "tick"},      {ResultRole, "result"},     {IsGroupRole, "isGroup"},
-            {IsOpenRole, "isOpen"},  {CountRole, "deviceCount"}, {IdentityRole, "identity"},
-            {FailureRole, "failure"}, {OnlyNotDoneRole, "onlyNotDone"}};
+    return {{TitleRole, "title"},
+            {LabelRole, "label"},
+            {DetailRole, "detail"},
+            {TickRole, "tick"},
+            {ResultRole, "result"},
+            {IsGroupRole, "isGroup"},
+            {IsOpenRole, "isOpen"},
+            {CountRole, "deviceCount"},
+            {IdentityRole, "identity"},
+            {FailureRole, "failure"},
+            {OnlyNotDoneRole, "onlyNotDone"}};
 }
 
 void DeviceTreeRows::setOpen(int row, bool open)

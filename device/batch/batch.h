@@ -43,9 +43,9 @@ public:
     {
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
-        QDateTime time; ///< of the outcome; invalid when nothing was done
-        QString refusedAccount = {};   ///< the device has not accepted, when the plan knows accounts
-        QByteArray refusedLogin = {};  ///< tells whether that account is still the same; no password
+        QDateTime time;               ///< of the outcome; invalid when nothing was done
+        QString refusedAccount = {};  ///< the device has not accepted, when the plan knows accounts
+        QByteArray refusedLogin = {}; ///< tells whether that account is still the same; no password
     };
 
     /// `engine` lives longer than this.

@@ -108,20 +108,20 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
     QVariantMap values = data;
     if (command == QLatin1String("setTimeByPC"))
         values.insert(QStringLiteral("timeOfRequest"), true);
-    return start({.family = family,
-                  .title = title,
-                  .work = workOf(command),
-                  .devices = batchDevices(m_factory, family, ipports),
-                  .policy = usualPolicy(),
-                  .stepOf =
-                      [this, family, command, values](const BatchDevice &device) {
-                          return m_factory.systemStep(family, command, values, device.ipport);
-                      },
-                  // The old password is typed.
-                  .accountOf = workOf(command) == QLatin1String("modifyPassword") ? nullptr
-                                                                                  : rowAccounts(family),
-                  .isByAddress = true,
-                  .changesRows = command == QLatin1String("resetSystem")});
+    return start(
+        {.family = family,
+         .title = title,
+         .work = workOf(command),
+         .devices = batchDevices(m_factory, family, ipports),
+         .policy = usualPolicy(),
+         .stepOf =
+             [this, family, command, values](const BatchDevice &device) {
+                 return m_factory.systemStep(family, command, values, device.ipport);
+             },
+         // The old password is typed.
+         .accountOf = workOf(command) == QLatin1String("modifyPassword") ? nullptr : rowAccounts(family),
+         .isByAddress = true,
+         .changesRows = command == QLatin1String("resetSystem")});
 }
 
 Batch *Batches::nameCameras(const QString &family, const QString &title, const QStringList &ipports,

@@ -178,9 +178,9 @@ QString BatchPreview::warnings() const
         if (judgement.kind != Warned)
             continue;
         //: A device, what it gets, and a warning about that.
-        lines.append(lines.size() == shown ? QStringLiteral("…")
-                                           : tr("%1（%2）：%3").arg(addressAndPortOf(row), judgement.action,
-                                                                   judgement.note));
+        lines.append(lines.size() == shown
+                         ? QStringLiteral("…")
+                         : tr("%1（%2）：%3").arg(addressAndPortOf(row), judgement.action, judgement.note));
     }
     return lines.join(QLatin1Char('\n'));
 }

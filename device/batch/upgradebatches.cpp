@@ -157,7 +157,8 @@ void UpgradeBatches::noteRefusals(const QList<BatchOutcome> &outcomes)
         for (const UpgradeTools::Result refusal :
              {UpgradeTools::NotInitialised, UpgradeTools::WrongPassword, UpgradeTools::NoSuchAccount,
               UpgradeTools::AccountLocked}) {
-            if ((wasAsked && refusal != UpgradeTools::NotInitialised) || UpgradeTools::batchResult(refusal) != outcome.result)
+            if ((wasAsked && refusal != UpgradeTools::NotInitialised) ||
+                UpgradeTools::batchResult(refusal) != outcome.result)
                 continue;
             m_factory.updataDeviceInfo(dhFamily, DeviceRowKey::upgraderes, refusal, device.identity,
                                        device.ipport);

@@ -123,7 +123,8 @@ private Q_SLOTS:
         report.note("2", 999);
         report.note("5", BatchReport::NotInitialised);
         QCOMPARE(report.devicesWith(BatchReport::NotDone), QStringList("3"));
-        QCOMPARE(report.summary(), QStringLiteral("1 台设备成功，2 台设备失败，1 台设备已跳过，1 台设备未执行"));
+        QCOMPARE(report.summary(),
+                 QStringLiteral("1 台设备成功，2 台设备失败，1 台设备已跳过，1 台设备未执行"));
         QVERIFY(report.summaryOfRunning().endsWith(QStringLiteral("1 台设备等待执行")));
     }
 
