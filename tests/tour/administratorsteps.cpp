@@ -1,11 +1,15 @@
 // Someone with two hundred devices: new passwords, clocks, copied settings, upgrades.
+#include "device/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
+#include "tests/files/filecontents.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +80,95 @@ void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &ste
     driver.report(step, driver.text(u"selectedCount"_s));
 }
 
+/// Some cameras of one kind that have taken the new password, in the order of their addresses.
+QList<sdk::demo::SceneDevice> someCameras(const Driver &driver, const sdk::demo::DemoSite &site)
+{
+    constexpr int wanted = 3;
+    QList<sdk::demo::SceneDevice> found;
+    const Rows rows(driver);
+    for (int row = 0; row < rows.count() && found.size() < wanted; ++row) {
+        const auto device = site.device(rows.value(row, "mac").toString());
+        if (device && device->model.startsWith(u"B-22") && !rows.value(row, "conflict").toBool() &&
+            std::ranges::any_of(device->accounts,
+                                [](const auto &account) { return account.password == newPassword; }))
+            found.append(*device);
+    }
+    driver.check(found.size() == wanted, u"there are some cameras"_s);
+    return found;
+}
+
+QString ipportOf(const sdk::demo::SceneDevice &device)
+{
+    return u"%1:%2"_s.arg(device.address).arg(device.port);
+}
+
+/// The encode settings of the first camera, on the other ones.
+void walkCopiedSettings(Driver &driver, const QList<sdk::demo::SceneDevice> &cameras)
+{
+    driver.click(u"tab2"_s);
+    driver.click(u"device_"_s + ipportOf(cameras.at(0)));
+    driver.await(
+        u"the encode settings are shown"_s, [&] { return driver.find(u"copyButton"_s) != nullptr; }, 30);
+    for (const sdk::demo::SceneDevice &camera : cameras.mid(1)) {
+        driver.fill(u"treeSearchField"_s, camera.address);
+        driver.click(u"tick_"_s + ipportOf(camera));
+    }
+    driver.fill(u"treeSearchField"_s, QString());
+    driver.click(u"copyButton"_s);
+    driver.click(u"previewButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.click(u"okButton"_s);
+    driver.await(u"the list is gone"_s, [&] { return !driver.find(u"previewTable"_s); });
+    driver.await(
+        u"the batch ends"_s, [&] { return !isRunning(driver); }, 60);
+    driver.check(!driver.find(u"footWarning"_s), u"each camera has the settings"_s);
+    driver.report(u"fleet-copied"_s, driver.text(u"selectedCount"_s));
+}
+
+void walkSomeUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QList<sdk::demo::SceneDevice> &cameras)
+{
+    QStringList models;
+    for (const sdk::demo::SceneDevice &camera : cameras) {
+        models.append(camera.model);
+        site.setFault(camera.mac, {.fault = sdk::demo::Fault::UpgradeTakes, .number = 3, .text = {}});
+        site.setFault(camera.mac, {.fault = sdk::demo::Fault::RebootTakes, .number = 2, .text = {}});
+    }
+    models.removeDuplicates();
+    const QString firmware = driver.pictureFolder() + u"/cameras_3.000.1.bin"_s;
+    driver.check(writeFile(firmware, "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
+                                         "\nversion=3.000.1\n\n" + QByteArray(100000, '\1')),
+                 u"the firmware is written"_s);
+    driver.click(u"tab1"_s);
+    const Rows rows(driver, u"upgradeTable"_s);
+    for (const sdk::demo::SceneDevice &camera : cameras) {
+        driver.fill(u"upgradeSearchField"_s, camera.address);
+        driver.await(u"%1 is found"_s.arg(camera.address),
+                     [&] { return rows.rowOf("mac", camera.mac) >= 0; });
+        driver.click(u"check%1"_s.arg(rows.rowOf("mac", camera.mac)));
+    }
+    driver.fill(u"upgradeSearchField"_s, u"B-22"_s);
+    driver.click(u"upgradeFileButton"_s);
+    driver.answerFileBox(firmware);
+    driver.click(u"upgradeStartButton"_s);
+    driver.require(u"upgradePreviewTable"_s);
+    driver.report(u"fleet-upgrade-preview"_s, driver.text(u"batchCount"_s));
+    driver.click(u"okButton"_s);
+    driver.await(
+        u"each camera has the new version"_s,
+        [&] {
+            return std::ranges::all_of(cameras, [&](const auto &camera) {
+                return rows.value(rows.rowOf("mac", camera.mac), "upgraderes").toInt() ==
+                       UpgradeTools::Success;
+            });
+        },
+        120);
+    driver.await(
+        u"the upgrades end"_s, [&] { return !isRunning(driver); }, 60);
+    driver.report(u"fleet-upgraded"_s, driver.text(u"upgradeSummary"_s));
+    driver.fill(u"upgradeSearchField"_s, QString());
+    driver.click(u"tab3"_s);
+}
+
 } // namespace
 
 void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site)
@@ -126,4 +219,9 @@ void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site)
     awaitRequests(driver, site, u"NetSetDeviceSetting"_s, 18);
     expectBatchUndisturbed(driver, QCoreApplication::translate("SystemTimePanel", "同步电脑时间"));
     expectSuccess(driver, site, u"fleet-time"_s, devices);
+
+    driver.click(u"tab0"_s);
+    const QList<sdk::demo::SceneDevice> cameras = someCameras(driver, site);
+    walkCopiedSettings(driver, cameras);
+    walkSomeUpgrades(driver, site, cameras);
 }
