@@ -21,8 +21,7 @@ bool AddressTools::mayBecomeAddress(const QString &text) const
         return octet.toUInt(&isNumber) <= 255 && isNumber && octet.size() <= 3;
     };
     const bool isOpen = octets.constLast().isEmpty();
-    return octets.size() <= 4 &&
-           std::all_of(octets.cbegin(), octets.cend() - (isOpen ? 1 : 0), mayBeOctet);
+    return octets.size() <= 4 && std::all_of(octets.cbegin(), octets.cend() - (isOpen ? 1 : 0), mayBeOctet);
 }
 
 bool AddressTools::mayBecomeMask(const QString &text) const

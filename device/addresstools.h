@@ -23,8 +23,8 @@ public:
     /// True for four decimal octets, each 0 to 255.
     Q_INVOKABLE [[nodiscard]] bool isLegalAddress(const QString &text) const;
 
-    /// Whether an address, or a subnet mask, may begin like this: a text that is being typed is not wrong yet.
-    /// Also true for a whole one, and for an empty text.
+    /// Whether an address, or a subnet mask, may begin like this: a text that is being typed is not wrong
+    /// yet. Also true for a whole one, and for an empty text.
     Q_INVOKABLE [[nodiscard]] bool mayBecomeAddress(const QString &text) const;
     Q_INVOKABLE [[nodiscard]] bool mayBecomeMask(const QString &text) const;
 

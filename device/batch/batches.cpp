@@ -135,19 +135,18 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                   .work = QStringLiteral("channelName"),
                   .devices = batchDevices(m_factory, family, ipports),
                   .policy = usualPolicy(),
-                  .stepOf =
-                      [this, family, nameAt](const BatchDevice &device) -> DeviceStep {
-                          const QString name = nameAt.value(device.ipport);
-                          const DeviceStep step =
-                              m_factory.systemStep(family, QStringLiteral("channelName"),
-                                                   {{QStringLiteral("name"), name}}, device.ipport);
-                          return [step, name](const StepControl &control) {
-                              StepOutcome outcome = step(control);
-                              if (outcome.result == BatchReport::Succeeded)
-                                  outcome.text = name; // for the record
-                              return outcome;
-                          };
-                      },
+                  .stepOf = [this, family, nameAt](const BatchDevice &device) -> DeviceStep {
+                      const QString name = nameAt.value(device.ipport);
+                      const DeviceStep step =
+                          m_factory.systemStep(family, QStringLiteral("channelName"),
+                                               {{QStringLiteral("name"), name}}, device.ipport);
+                      return [step, name](const StepControl &control) {
+                          StepOutcome outcome = step(control);
+                          if (outcome.result == BatchReport::Succeeded)
+                              outcome.text = name; // for the record
+                          return outcome;
+                      };
+                  },
                   .accountOf = rowAccounts(family),
                   .takeOutcomes =
                       [this, family, nameAt](const QList<BatchOutcome> &outcomes) {

@@ -204,8 +204,8 @@ bool BatchPreview::isTaken(const QString &address, const QString &identity) cons
         return holder != identity && !m_readdressed.contains(holder);
     };
     const QStringList holders = m_identitiesAt.values(address);
-    return !address.isEmpty() && (m_newAddresses.value(address) > 1 ||
-                                  std::any_of(holders.cbegin(), holders.cend(), isStaying));
+    return !address.isEmpty() &&
+           (m_newAddresses.value(address) > 1 || std::any_of(holders.cbegin(), holders.cend(), isStaying));
 }
 
 BatchPreview::Judgement BatchPreview::judgementOf(int row) const

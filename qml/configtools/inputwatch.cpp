@@ -18,7 +18,8 @@ void InputWatch::setWindow(QQuickWindow *window)
 
 bool InputWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress))
+    if (watched == m_window &&
+        (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress))
         Q_EMIT pressed();
     return false;
 }

@@ -330,7 +330,8 @@ private Q_SLOTS:
         QCOMPARE(preview.warningCount(), 1);
 
         const QVariantMap entry = {{"name", m_devices.at(2).mac}, {"newAddress", "192.168.1.99"}};
-        preview.setEntries({entry, QVariantMap{{"name", m_devices.at(3).mac}, {"newAddress", "192.168.1.99"}}});
+        preview.setEntries(
+            {entry, QVariantMap{{"name", m_devices.at(3).mac}, {"newAddress", "192.168.1.99"}}});
         QCOMPARE(preview.warningCount(), 2); // both are to get the same one
         preview.setRangeChecked(0, 0, false);
         QCOMPARE(preview.warningCount(), 0);

@@ -74,11 +74,11 @@ public:
         };
     }
 
-    QString current;          ///< address of the current session's device
-    QHash<int, int> results;  ///< of logins in sessions of their own, by number; 0 for others
-    QHash<int, int> channels; ///< how many, by number; 1 for others
+    QString current;           ///< address of the current session's device
+    QHash<int, int> results;   ///< of logins in sessions of their own, by number; 0 for others
+    QHash<int, int> channels;  ///< how many, by number; 1 for others
     QHash<int, QString> names; ///< by number; "D20" and so on for others
-    QStringList asked;        ///< for sessions of their own
+    QStringList asked;         ///< for sessions of their own
     std::shared_ptr<QStringList> open = std::make_shared<QStringList>(); ///< these sessions
 
 private:
