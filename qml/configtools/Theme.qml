@@ -196,7 +196,7 @@ QtObject {
     readonly property int paintEvery: 25  // the longest that a batch works without a picture
     readonly property int turn: 1000
     readonly property int toolTipDelay: 500
-    readonly property int toolTipTime: 12000
+    readonly property int toolTipTime: 8000
     readonly property int toastStay: 4000
     readonly property int errorToastStay: 9000
     readonly property int frame: 16  // long enough for a picture between two pieces of work
