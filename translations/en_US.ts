@@ -409,6 +409,37 @@
     </message>
 </context>
 <context>
+    <name>Batch</name>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>批处理正在进行</source>
+        <translation>The batch is running</translation>
+    </message>
+    <message>
+        <source>设备正在等待新密码</source>
+        <translation>Devices are waiting for the new password</translation>
+    </message>
+    <message>
+        <source>没有失败或未执行的设备</source>
+        <translation>No devices failed or were not done</translation>
+    </message>
+    <message>
+        <source>此操作不能在这里重试</source>
+        <translation>This operation cannot be retried here</translation>
+    </message>
+    <message>
+        <source>只有最近一次批处理可以重试</source>
+        <translation>Only the most recent batch can be retried</translation>
+    </message>
+    <message>
+        <source>这些设备的失败不会因重试而消失，请先更正原因（如密码）</source>
+        <translation>A retry cannot help these devices. Correct the reason first, for example the account.</translation>
+    </message>
+</context>
+<context>
     <name>BatchCGIWindow</name>
     <message>
         <source>批量配置CGI</source>
@@ -439,10 +470,6 @@
     <message>
         <source>对失败和未执行的设备再试一次</source>
         <translation>Runs the batch again for the devices that failed or were not done</translation>
-    </message>
-    <message>
-        <source>只有最近一次批处理可以重试</source>
-        <translation>Only the last batch can be retried, and only where a retry can help</translation>
     </message>
     <message>
         <source>恢复地址</source>
@@ -519,6 +546,10 @@
         <source>将列表中所有批处理的结果保存到一个文件</source>
         <translation>Saves the results of all batches of the list in one file</translation>
     </message>
+    <message>
+        <source>请等待当前批处理结束</source>
+        <translation>Wait until the current batch has finished</translation>
+    </message>
 </context>
 <context>
     <name>BatchPreview</name>
@@ -537,6 +568,11 @@
     <message>
         <source>与其他设备冲突</source>
         <translation>In use by another device</translation>
+    </message>
+    <message>
+        <source>%1（%2）：%3</source>
+        <extracomment>A device, what it gets, and a warning about that.</extracomment>
+        <translation>%1 (%2): %3</translation>
     </message>
 </context>
 <context>
@@ -560,6 +596,13 @@
         <translation>
             <numerusform>%n device is skipped: see Notes</numerusform>
             <numerusform>%n devices are skipped: see Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>将更改 %n 台设备</source>
+        <translation>
+            <numerusform>%n device will be changed</numerusform>
+            <numerusform>%n devices will be changed</numerusform>
         </translation>
     </message>
 </context>
@@ -662,6 +705,20 @@
         <source>，</source>
         <translation>, </translation>
     </message>
+    <message numerus="yes">
+        <source>%n 台设备已跳过</source>
+        <translation>
+            <numerusform>%n skipped</numerusform>
+            <numerusform>%n skipped</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待执行</source>
+        <translation>
+            <numerusform>%n waiting</numerusform>
+            <numerusform>%n waiting</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>BatchResult</name>
@@ -696,6 +753,10 @@
     <message>
         <source>超过时间限制</source>
         <translation>Time limit exceeded</translation>
+    </message>
+    <message>
+        <source>%1，已跳过</source>
+        <translation>%1: skipped</translation>
     </message>
 </context>
 <context>
@@ -806,6 +867,10 @@
         <source>“%1”正在进行，请在结束后再重启程序</source>
         <translation>“%1” is running. Restart the program when it has finished.</translation>
     </message>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>A search is running. Stop it with Esc or wait until it has finished.</translation>
+    </message>
 </context>
 <context>
     <name>CDeviceDH</name>
@@ -847,6 +912,14 @@
             <numerusform>No image of %n channel</numerusform>
             <numerusform>No image of %n channels</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>已停止等待设备，地址可能已修改</source>
+        <translation>Stopped waiting for the device: its address may have changed</translation>
+    </message>
+    <message>
+        <source>超过时间限制，地址可能已修改</source>
+        <translation>Time limit exceeded: the address may have changed</translation>
     </message>
 </context>
 <context>
@@ -2077,6 +2150,10 @@ Right-click to copy the result</translation>
         <source>、</source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>Search for devices</translation>
+    </message>
 </context>
 <context>
     <name>DeviceState</name>
@@ -2409,12 +2486,20 @@ Right-click to copy the result</translation>
         <source>请选择导出的文件格式</source>
         <translation>Select the file format</translation>
     </message>
+    <message>
+        <source>文件中的密码是明文。已保存账号的密码不导出。</source>
+        <translation>Passwords in the file are in plain text. Passwords of stored accounts are not exported.</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
     <message>
         <source>%1：%2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Not found by the last search</translation>
     </message>
 </context>
 <context>
@@ -2535,6 +2620,21 @@ Right-click to copy the result</translation>
     <message>
         <source>成功后</source>
         <translation>On success</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPasswordPreview</name>
+    <message>
+        <source>已初始化，不会执行</source>
+        <translation>Already initialised: skipped</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>Upgrade in progress: skipped</translation>
+    </message>
+    <message>
+        <source>MAC地址未知，不会执行</source>
+        <translation>MAC address not known: skipped</translation>
     </message>
 </context>
 <context>
@@ -3116,12 +3216,16 @@ Right-click to copy the result</translation>
         <translation>Only devices of this LAN are listed. Devices of other LANs cannot be initialised.</translation>
     </message>
     <message numerus="yes">
-        <source>另有 %n 台已初始化，不会执行</source>
+        <source>另有 %n 台不会执行，请查看提示</source>
         <extracomment>Of the ticked devices; they get no first password.</extracomment>
         <translation>
-            <numerusform>%n more is already initialised: skipped</numerusform>
-            <numerusform>%n more are already initialised: skipped</numerusform>
+            <numerusform>%n more is skipped, see the notes</numerusform>
+            <numerusform>%n more are skipped, see the notes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notes</translation>
     </message>
 </context>
 <context>
@@ -3462,6 +3566,14 @@ Right-click to copy the result</translation>
         <source>未安装设备库，无法与设备通信</source>
         <translation>No device library is installed: devices cannot be reached</translation>
     </message>
+    <message>
+        <source>正在用系统的PDF程序打开 %1</source>
+        <translation>Opening %1 in the PDF program of the system</translation>
+    </message>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>Cannot open %1</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -3544,10 +3656,6 @@ Right-click to copy the result</translation>
         </translation>
     </message>
     <message>
-        <source>已停止，完成 %1 / %2</source>
-        <translation>Stopped: %1 of %2 done</translation>
-    </message>
-    <message>
         <source>设备正在升级，不能修改IP地址</source>
         <translation>The device is being upgraded. Change its address when it has finished.</translation>
     </message>
@@ -3572,6 +3680,10 @@ Right-click to copy the result</translation>
             <numerusform>%n device initialised</numerusform>
             <numerusform>%n devices initialised</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>已停止：%1</source>
+        <translation>Stopped: %1</translation>
     </message>
 </context>
 <context>
@@ -4146,11 +4258,6 @@ File: </translation>
 <context>
     <name>OVFailedFilter</name>
     <message>
-        <source>仅失败 %1</source>
-        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
-        <translation>Failed only (%1)</translation>
-    </message>
-    <message>
         <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
         <translation>Shows only devices that failed or were not done, sorted by reason. For devices that are no longer listed, see Batches.</translation>
     </message>
@@ -4161,6 +4268,11 @@ File: </translation>
     <message>
         <source>不再标记失败和未执行的设备</source>
         <translation>Removes the marks of devices that failed or were not done</translation>
+    </message>
+    <message>
+        <source>仅未成功 %1</source>
+        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <translation>Unresolved %1</translation>
     </message>
 </context>
 <context>
@@ -4185,10 +4297,6 @@ File: </translation>
             <numerusform>about %n min left</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
-        <translation>%1: wrong password on several devices in a row. More attempts may lock accounts. Continue?</translation>
-    </message>
     <message numerus="yes">
         <source>%n 台失败</source>
         <extracomment>Of the devices of a batch that runs.</extracomment>
@@ -4211,15 +4319,8 @@ File: </translation>
     </message>
     <message>
         <source>重试失败</source>
+        <extracomment>%1 is the title of the batch. Beside it, a page may have a retry of its own.</extracomment>
         <translation>Retry failed</translation>
-    </message>
-    <message>
-        <source>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
-        <translation>Runs the batch again for the devices that failed or were not done. Devices for which a retry cannot help, as after a wrong password, are skipped.</translation>
-    </message>
-    <message>
-        <source>选中失败</source>
-        <translation>Select failed</translation>
     </message>
     <message>
         <source>在本页只勾选失败和未执行的设备</source>
@@ -4241,6 +4342,48 @@ File: </translation>
         <source>%1 %2 / %3</source>
         <extracomment>A batch that runs: its title, and how many devices of how many are done.</extracomment>
         <translation>%1: %2 of %3 done</translation>
+    </message>
+    <message numerus="yes">
+        <source>，另有 %n 台此前未成功</source>
+        <extracomment>Behind how many devices of a batch failed, which retries another one.</extracomment>
+        <translation>
+            <numerusform>, %n more unresolved</numerusform>
+            <numerusform>, %n more unresolved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>连续 %n 台设备密码错误</source>
+        <translation>
+            <numerusform>wrong password on %n device in a row</numerusform>
+            <numerusform>wrong password on %n devices in a row</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>连续 %n 台设备密码错误（账号 %1）</source>
+        <translation>
+            <numerusform>wrong password on %n device in a row (account %1)</numerusform>
+            <numerusform>wrong password on %n devices in a row (account %1)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1：%2，继续可能锁定账户。是否继续？</source>
+        <translation>%1: %2. Continuing may lock accounts. Continue?</translation>
+    </message>
+    <message>
+        <source>停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）</source>
+        <translation>After stopping, select another account in the menu of the devices, then retry the failed devices (Esc)</translation>
+    </message>
+    <message>
+        <source>重试失败：%1</source>
+        <translation>Retry failed: %1</translation>
+    </message>
+    <message>
+        <source>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
+        <translation>Runs “%1” again for the devices that failed or were not done. Devices for which a retry cannot help, as after a wrong password with the same account, are left out.</translation>
+    </message>
+    <message>
+        <source>选中未成功</source>
+        <translation>Select unresolved</translation>
     </message>
 </context>
 <context>
@@ -4626,6 +4769,14 @@ File: </translation>
         <source>查看勾选设备的图像</source>
         <translation>Images of the selected devices</translation>
     </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>Search again</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>The search was stopped; the list is incomplete.</translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -4670,6 +4821,14 @@ File: </translation>
             <numerusform>Another operation was started: the password of %n device was not changed</numerusform>
             <numerusform>Another operation was started: the passwords of %n devices were not changed</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>Select devices on the left first</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1” is running. Wait until it has finished.</translation>
     </message>
 </context>
 <context>
@@ -5199,6 +5358,10 @@ File: </translation>
         <source>重新抓取</source>
         <translation>Retry</translation>
     </message>
+    <message>
+        <source>重试</source>
+        <translation>Retry</translation>
+    </message>
 </context>
 <context>
     <name>SnapshotDialog</name>
@@ -5300,10 +5463,6 @@ File: </translation>
         <translation>Apply daylight saving</translation>
     </message>
     <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
-    </message>
-    <message>
         <source>请输入正确的时间</source>
         <translation>Enter a valid time</translation>
     </message>
@@ -5363,10 +5522,6 @@ File: </translation>
         <translation>Show all</translation>
     </message>
     <message>
-        <source>失败的设备不在列表中，见批处理记录。</source>
-        <translation>The failed devices are no longer listed. See Batches.</translation>
-    </message>
-    <message>
         <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
         <translation>The program cannot communicate with devices. Open the demo site on the page “Modify IP”.</translation>
     </message>
@@ -5381,6 +5536,17 @@ File: </translation>
     <message>
         <source>列表中的设备都已登录。</source>
         <translation>All listed devices have been logged in to.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备没有IP地址（等待DHCP），未列出</source>
+        <translation>
+            <numerusform>%n device without an address (DHCP) is not shown</numerusform>
+            <numerusform>%n devices without an address (DHCP) are not shown</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>失败和未执行的设备不在此列表中：没有初始化、没有IPv4地址或不再被找到。请查看“修改IP”页和批处理记录。</source>
+        <translation>The devices that failed or were not done are not in this tree: they are not initialised, have no IPv4 address, or were not found again. See the page “Modify IP” and Batches.</translation>
     </message>
 </context>
 <context>
@@ -5621,10 +5787,6 @@ File: </translation>
         <translation>Check</translation>
     </message>
     <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
-    </message>
-    <message>
         <source>第二步：设置新密码</source>
         <translation>Step 2: set the new password</translation>
     </message>
@@ -5737,10 +5899,6 @@ File: </translation>
         <translation>Apply</translation>
     </message>
     <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
-    </message>
-    <message>
         <source>立即重启</source>
         <translation>Reboot now</translation>
     </message>
@@ -5770,10 +5928,6 @@ File: </translation>
         <source>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</source>
         <translation>Erases all settings, accounts and passwords of the devices. This cannot be undone. The devices must be initialised again.</translation>
     </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
-    </message>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</source>
         <translation>
@@ -5795,10 +5949,6 @@ File: </translation>
     <message>
         <source>每台设备得到发送时刻的电脑时间</source>
         <translation>Sets each device to the time at which it receives the request</translation>
-    </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>手动校时</source>
@@ -5836,15 +5986,6 @@ File: </translation>
         <translation>All</translation>
     </message>
     <message>
-        <source>失败 %1</source>
-        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
-        <translation>Failed %1</translation>
-    </message>
-    <message>
-        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
-        <translation>Shows only devices that failed or were not done, sorted by reason. For devices that are no longer listed, see Batches.</translation>
-    </message>
-    <message>
         <source>未登录 %1</source>
         <extracomment>Shows only the devices without a login; %1 is how many there are.</extracomment>
         <translation>Not logged in %1</translation>
@@ -5852,6 +5993,22 @@ File: </translation>
     <message>
         <source>只显示还没有登录过或最近一次登录失败的设备</source>
         <translation>Shows only devices without a login so far, or whose last login failed</translation>
+    </message>
+    <message>
+        <source>未成功 %1</source>
+        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <translation>Unresolved %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。</source>
+        <translation>Shows only devices that failed or were not done, sorted by reason.</translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台不在此列表中，见批处理记录。</source>
+        <translation>
+            <numerusform> %n more is not in this list: see Batches.</numerusform>
+            <numerusform> %n more are not in this list: see Batches.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5871,10 +6028,6 @@ File: </translation>
     <message>
         <source>应用</source>
         <translation>Apply</translation>
-    </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>设备的接口没有此功能</source>
@@ -5918,10 +6071,6 @@ File: </translation>
     <message>
         <source>应用时区和NTP</source>
         <translation>Apply time zone and NTP</translation>
-    </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>Select devices on the left first</translation>
     </message>
     <message>
         <source>设备没有本机的时区 %1，请选择时区</source>
@@ -6588,8 +6737,9 @@ File: </translation>
         <translation>Upgrade from spreadsheet</translation>
     </message>
     <message>
-        <source>已停止，完成 %1 / %2</source>
-        <translation>Stopped: %1 of %2 done</translation>
+        <source>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</source>
+        <extracomment>Of the devices that were to be upgraded.</extracomment>
+        <translation>Stopped: %1 upgraded, %2 failed, %3 not done</translation>
     </message>
 </context>
 <context>
@@ -6734,13 +6884,6 @@ File: </translation>
     </message>
 </context>
 <context>
-    <name>WaysOut</name>
-    <message>
-        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
-        <translation>A search is running. Stop it with Esc or wait until it has finished.</translation>
-    </message>
-</context>
-<context>
     <name>WebPages</name>
     <message>
         <source>设备证书已改变，网页未打开。请勿在此设备上输入密码。</source>
@@ -6762,10 +6905,6 @@ File: </translation>
         <translation>Stop and exit</translation>
     </message>
     <message>
-        <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
-        <translation>“%1” is running. If you exit, the remaining devices will not be done.</translation>
-    </message>
-    <message>
         <source>已开始写入的设备会自行完成升级，请勿断电。</source>
         <translation> Devices that are writing firmware finish by themselves: do not turn them off.</translation>
     </message>
@@ -6783,6 +6922,10 @@ File: </translation>
     <message>
         <source>账号无法保存，只用到下次搜索：%1</source>
         <translation>The account cannot be stored and is used until the next search only: %1</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行。退出后，其余设备不会更改。</source>
+        <translation>“%1” is running. If you exit, the remaining devices will not be changed.</translation>
     </message>
 </context>
 <context>

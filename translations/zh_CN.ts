@@ -402,6 +402,37 @@
     </message>
 </context>
 <context>
+    <name>Batch</name>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>批处理正在进行</source>
+        <translation>批处理正在进行</translation>
+    </message>
+    <message>
+        <source>设备正在等待新密码</source>
+        <translation>设备正在等待新密码</translation>
+    </message>
+    <message>
+        <source>没有失败或未执行的设备</source>
+        <translation>没有失败或未执行的设备</translation>
+    </message>
+    <message>
+        <source>此操作不能在这里重试</source>
+        <translation>此操作不能在这里重试</translation>
+    </message>
+    <message>
+        <source>只有最近一次批处理可以重试</source>
+        <translation>只有最近一次批处理可以重试</translation>
+    </message>
+    <message>
+        <source>这些设备的失败不会因重试而消失，请先更正原因（如密码）</source>
+        <translation>这些设备的失败不会因重试而消失，请先更正原因（如密码）</translation>
+    </message>
+</context>
+<context>
     <name>BatchCGIWindow</name>
     <message>
         <source>批量配置CGI</source>
@@ -431,10 +462,6 @@
     <message>
         <source>对失败和未执行的设备再试一次</source>
         <translation>对失败和未执行的设备再试一次</translation>
-    </message>
-    <message>
-        <source>只有最近一次批处理可以重试</source>
-        <translation>只有最近一次批处理可以重试</translation>
     </message>
     <message>
         <source>恢复地址</source>
@@ -510,6 +537,10 @@
         <source>将列表中所有批处理的结果保存到一个文件</source>
         <translation>将列表中所有批处理的结果保存到一个文件</translation>
     </message>
+    <message>
+        <source>请等待当前批处理结束</source>
+        <translation>请等待当前批处理结束</translation>
+    </message>
 </context>
 <context>
     <name>BatchPreview</name>
@@ -528,6 +559,11 @@
     <message>
         <source>与其他设备冲突</source>
         <translation>与其他设备冲突</translation>
+    </message>
+    <message>
+        <source>%1（%2）：%3</source>
+        <extracomment>A device, what it gets, and a warning about that.</extracomment>
+        <translation>%1（%2）：%3</translation>
     </message>
 </context>
 <context>
@@ -548,6 +584,12 @@
         <source>%n 台设备不会执行，请查看提示</source>
         <translation>
             <numerusform>%n 台设备不会执行，请查看提示</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>将更改 %n 台设备</source>
+        <translation>
+            <numerusform>将更改 %n 台设备</numerusform>
         </translation>
     </message>
 </context>
@@ -645,6 +687,18 @@
         <source>，</source>
         <translation>，</translation>
     </message>
+    <message numerus="yes">
+        <source>%n 台设备已跳过</source>
+        <translation>
+            <numerusform>%n 台设备已跳过</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待执行</source>
+        <translation>
+            <numerusform>%n 台设备等待执行</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>BatchResult</name>
@@ -679,6 +733,10 @@
     <message>
         <source>超过时间限制</source>
         <translation>超过时间限制</translation>
+    </message>
+    <message>
+        <source>%1，已跳过</source>
+        <translation>%1，已跳过</translation>
     </message>
 </context>
 <context>
@@ -787,6 +845,10 @@
         <source>“%1”正在进行，请在结束后再重启程序</source>
         <translation>“%1”正在进行，请在结束后再重启程序</translation>
     </message>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>正在搜索，请先停止搜索（Esc）或稍候再关闭</translation>
+    </message>
 </context>
 <context>
     <name>CDeviceDH</name>
@@ -827,6 +889,14 @@
         <translation>
             <numerusform>%n 个通道没有图像</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>已停止等待设备，地址可能已修改</source>
+        <translation>已停止等待设备，地址可能已修改</translation>
+    </message>
+    <message>
+        <source>超过时间限制，地址可能已修改</source>
+        <translation>超过时间限制，地址可能已修改</translation>
     </message>
 </context>
 <context>
@@ -2044,6 +2114,10 @@
         <source>、</source>
         <translation>、</translation>
     </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>搜索设备</translation>
+    </message>
 </context>
 <context>
     <name>DeviceState</name>
@@ -2374,12 +2448,20 @@
         <source>请选择导出的文件格式</source>
         <translation>请选择导出的文件格式</translation>
     </message>
+    <message>
+        <source>文件中的密码是明文。已保存账号的密码不导出。</source>
+        <translation>文件中的密码是明文。已保存账号的密码不导出。</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
     <message>
         <source>%1：%2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>最近一次搜索没有找到该设备</translation>
     </message>
 </context>
 <context>
@@ -2499,6 +2581,21 @@
     <message>
         <source>成功后</source>
         <translation>成功后</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPasswordPreview</name>
+    <message>
+        <source>已初始化，不会执行</source>
+        <translation>已初始化，不会执行</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>正在升级，不会执行</translation>
+    </message>
+    <message>
+        <source>MAC地址未知，不会执行</source>
+        <translation>MAC地址未知，不会执行</translation>
     </message>
 </context>
 <context>
@@ -3076,11 +3173,15 @@
         <translation>列表只显示本局域网设备,初始化不支持跨局域网</translation>
     </message>
     <message numerus="yes">
-        <source>另有 %n 台已初始化，不会执行</source>
+        <source>另有 %n 台不会执行，请查看提示</source>
         <extracomment>Of the ticked devices; they get no first password.</extracomment>
         <translation>
-            <numerusform>另有 %n 台已初始化，不会执行</numerusform>
+            <numerusform>另有 %n 台不会执行，请查看提示</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>提示</translation>
     </message>
 </context>
 <context>
@@ -3419,6 +3520,14 @@
         <source>未安装设备库，无法与设备通信</source>
         <translation>未安装设备库，无法与设备通信</translation>
     </message>
+    <message>
+        <source>正在用系统的PDF程序打开 %1</source>
+        <translation>正在用系统的PDF程序打开 %1</translation>
+    </message>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>无法打开 %1</translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPActions</name>
@@ -3500,10 +3609,6 @@
         </translation>
     </message>
     <message>
-        <source>已停止，完成 %1 / %2</source>
-        <translation>已停止，完成 %1 / %2</translation>
-    </message>
-    <message>
         <source>设备正在升级，不能修改IP地址</source>
         <translation>设备正在升级，不能修改IP地址</translation>
     </message>
@@ -3526,6 +3631,10 @@
         <translation>
             <numerusform>已初始化 %n 台设备</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>已停止：%1</source>
+        <translation>已停止：%1</translation>
     </message>
 </context>
 <context>
@@ -4094,11 +4203,6 @@
 <context>
     <name>OVFailedFilter</name>
     <message>
-        <source>仅失败 %1</source>
-        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
-        <translation>仅失败 %1</translation>
-    </message>
-    <message>
         <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
         <translation>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</translation>
     </message>
@@ -4109,6 +4213,11 @@
     <message>
         <source>不再标记失败和未执行的设备</source>
         <translation>不再标记失败和未执行的设备</translation>
+    </message>
+    <message>
+        <source>仅未成功 %1</source>
+        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <translation>仅未成功 %1</translation>
     </message>
 </context>
 <context>
@@ -4132,10 +4241,6 @@
             <numerusform>剩余约 %n 分钟</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
-        <translation>%1：连续多台设备密码错误，继续可能锁定账户。是否继续？</translation>
-    </message>
     <message numerus="yes">
         <source>%n 台失败</source>
         <extracomment>Of the devices of a batch that runs.</extracomment>
@@ -4157,15 +4262,8 @@
     </message>
     <message>
         <source>重试失败</source>
+        <extracomment>%1 is the title of the batch. Beside it, a page may have a retry of its own.</extracomment>
         <translation>重试失败</translation>
-    </message>
-    <message>
-        <source>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
-        <translation>对失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</translation>
-    </message>
-    <message>
-        <source>选中失败</source>
-        <translation>选中失败</translation>
     </message>
     <message>
         <source>在本页只勾选失败和未执行的设备</source>
@@ -4187,6 +4285,45 @@
         <source>%1 %2 / %3</source>
         <extracomment>A batch that runs: its title, and how many devices of how many are done.</extracomment>
         <translation>%1 %2 / %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>，另有 %n 台此前未成功</source>
+        <extracomment>Behind how many devices of a batch failed, which retries another one.</extracomment>
+        <translation>
+            <numerusform>，另有 %n 台此前未成功</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>连续 %n 台设备密码错误</source>
+        <translation>
+            <numerusform>连续 %n 台设备密码错误</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>连续 %n 台设备密码错误（账号 %1）</source>
+        <translation>
+            <numerusform>连续 %n 台设备密码错误（账号 %1）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1：%2，继续可能锁定账户。是否继续？</source>
+        <translation>%1：%2，继续可能锁定账户。是否继续？</translation>
+    </message>
+    <message>
+        <source>停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）</source>
+        <translation>停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）</translation>
+    </message>
+    <message>
+        <source>重试失败：%1</source>
+        <translation>重试失败：%1</translation>
+    </message>
+    <message>
+        <source>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
+        <translation>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</translation>
+    </message>
+    <message>
+        <source>选中未成功</source>
+        <translation>选中未成功</translation>
     </message>
 </context>
 <context>
@@ -4562,6 +4699,14 @@
         <source>查看勾选设备的图像</source>
         <translation>查看勾选设备的图像</translation>
     </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>重新搜索</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>搜索已停止，列表不完整。</translation>
+    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
@@ -4603,6 +4748,14 @@
         <translation>
             <numerusform>已开始其他操作，%n 台设备的密码没有修改</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>请先在左侧勾选设备</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>“%1”正在进行，请等待其完成</translation>
     </message>
 </context>
 <context>
@@ -5131,6 +5284,10 @@
         <source>重新抓取</source>
         <translation>重新抓取</translation>
     </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
+    </message>
 </context>
 <context>
     <name>SnapshotDialog</name>
@@ -5232,10 +5389,6 @@
         <translation>应用夏令时</translation>
     </message>
     <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
-    </message>
-    <message>
         <source>请输入正确的时间</source>
         <translation>请输入正确的时间</translation>
     </message>
@@ -5295,10 +5448,6 @@
         <translation>显示全部</translation>
     </message>
     <message>
-        <source>失败的设备不在列表中，见批处理记录。</source>
-        <translation>失败的设备不在列表中，见批处理记录。</translation>
-    </message>
-    <message>
         <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
         <translation>程序无法与设备通信。可在“修改IP”页打开演示站点。</translation>
     </message>
@@ -5313,6 +5462,16 @@
     <message>
         <source>列表中的设备都已登录。</source>
         <translation>列表中的设备都已登录。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备没有IP地址（等待DHCP），未列出</source>
+        <translation>
+            <numerusform>%n 台设备没有IP地址（等待DHCP），未列出</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>失败和未执行的设备不在此列表中：没有初始化、没有IPv4地址或不再被找到。请查看“修改IP”页和批处理记录。</source>
+        <translation>失败和未执行的设备不在此列表中：没有初始化、没有IPv4地址或不再被找到。请查看“修改IP”页和批处理记录。</translation>
     </message>
 </context>
 <context>
@@ -5551,10 +5710,6 @@
         <translation>验证</translation>
     </message>
     <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
-    </message>
-    <message>
         <source>第二步：设置新密码</source>
         <translation>第二步：设置新密码</translation>
     </message>
@@ -5664,10 +5819,6 @@
         <translation>应用</translation>
     </message>
     <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
-    </message>
-    <message>
         <source>立即重启</source>
         <translation>立即重启</translation>
     </message>
@@ -5696,10 +5847,6 @@
         <source>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</source>
         <translation>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</translation>
     </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
-    </message>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</source>
         <translation>
@@ -5720,10 +5867,6 @@
     <message>
         <source>每台设备得到发送时刻的电脑时间</source>
         <translation>每台设备得到发送时刻的电脑时间</translation>
-    </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
     </message>
     <message>
         <source>手动校时</source>
@@ -5761,15 +5904,6 @@
         <translation>全部</translation>
     </message>
     <message>
-        <source>失败 %1</source>
-        <extracomment>Shows only the devices that batches have failed with; %1 is how many there are.</extracomment>
-        <translation>失败 %1</translation>
-    </message>
-    <message>
-        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
-        <translation>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</translation>
-    </message>
-    <message>
         <source>未登录 %1</source>
         <extracomment>Shows only the devices without a login; %1 is how many there are.</extracomment>
         <translation>未登录 %1</translation>
@@ -5777,6 +5911,21 @@
     <message>
         <source>只显示还没有登录过或最近一次登录失败的设备</source>
         <translation>只显示还没有登录过或最近一次登录失败的设备</translation>
+    </message>
+    <message>
+        <source>未成功 %1</source>
+        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <translation>未成功 %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。</source>
+        <translation>只显示失败和未执行的设备，按原因排列。</translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台不在此列表中，见批处理记录。</source>
+        <translation>
+            <numerusform>另有 %n 台不在此列表中，见批处理记录。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5796,10 +5945,6 @@
     <message>
         <source>应用</source>
         <translation>应用</translation>
-    </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
     </message>
     <message>
         <source>设备的接口没有此功能</source>
@@ -5843,10 +5988,6 @@
     <message>
         <source>应用时区和NTP</source>
         <translation>应用时区和NTP</translation>
-    </message>
-    <message>
-        <source>请先在左侧勾选设备</source>
-        <translation>请先在左侧勾选设备</translation>
     </message>
     <message>
         <source>设备没有本机的时区 %1，请选择时区</source>
@@ -6509,8 +6650,9 @@
         <translation>升级文档</translation>
     </message>
     <message>
-        <source>已停止，完成 %1 / %2</source>
-        <translation>已停止，完成 %1 / %2</translation>
+        <source>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</source>
+        <extracomment>Of the devices that were to be upgraded.</extracomment>
+        <translation>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</translation>
     </message>
 </context>
 <context>
@@ -6655,13 +6797,6 @@
     </message>
 </context>
 <context>
-    <name>WaysOut</name>
-    <message>
-        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
-        <translation>正在搜索，请先停止搜索（Esc）或稍候再关闭</translation>
-    </message>
-</context>
-<context>
     <name>WebPages</name>
     <message>
         <source>设备证书已改变，网页未打开。请勿在此设备上输入密码。</source>
@@ -6683,10 +6818,6 @@
         <translation>停止并退出</translation>
     </message>
     <message>
-        <source>“%1”正在进行。退出后，尚未完成的设备将不再处理。</source>
-        <translation>“%1”正在进行。退出后，尚未完成的设备将不再处理。</translation>
-    </message>
-    <message>
         <source>已开始写入的设备会自行完成升级，请勿断电。</source>
         <translation>已开始写入的设备会自行完成升级，请勿断电。</translation>
     </message>
@@ -6703,6 +6834,10 @@
     <message>
         <source>账号无法保存，只用到下次搜索：%1</source>
         <translation>账号无法保存，只用到下次搜索：%1</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行。退出后，其余设备不会更改。</source>
+        <translation>“%1”正在进行。退出后，其余设备不会更改。</translation>
     </message>
 </context>
 <context>
