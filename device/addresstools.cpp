@@ -4,7 +4,6 @@
 #include "device/searchrange.h"
 
 #include <QUrl>
-#include <algorithm>
 
 #include <algorithm>
 

@@ -57,7 +57,7 @@ QtObject {
     readonly property int reportWidth: 720
     readonly property int batchPreviewWidth: 1080
     readonly property int batchPreviewHeight: 240
-    readonly property int initialiseWidth: 860
+    readonly property int initialiseWidth: 904
     readonly property int initialiseListHeight: 300
     readonly property int firstPasswordWidth: 440
     readonly property int firstPasswordHeight: 400

@@ -139,16 +139,20 @@ void walkNames(Driver &driver)
     driver.check(!driver.find(u"devicePasswordField"_s) && !driver.find(u"footWarning"_s),
                  u"each device has taken its name"_s);
     const Rows tree(driver, u"deviceTree"_s);
-    QStringList names;
-    for (int row = 0; row < tree.count(); ++row)
-        names.append(tree.value(row, "detail").toString());
+    const auto names = [&tree] {
+        QStringList details;
+        for (int row = 0; row < tree.count(); ++row)
+            details.append(tree.value(row, "detail").toString());
+        return details;
+    };
     for (int number = 1; number <= cameras; ++number) {
         const QString name = u"Lobby %1"_s.arg(number, 2, 10, QLatin1Char('0'));
-        driver.check(
-            std::ranges::count_if(names, [&](const QString &detail) { return detail.startsWith(name); }) == 1,
-            u"one device has the name %1"_s.arg(name));
+        driver.await(u"one device has the name %1"_s.arg(name), [&names, &name] {
+            return std::ranges::count_if(
+                       names(), [&name](const QString &detail) { return detail.startsWith(name); }) == 1;
+        });
     }
-    driver.report(u"names"_s, names.join(u", "_s));
+    driver.report(u"names"_s, names().join(u", "_s));
 }
 
 /// Of the cameras: the recorders have no cameras yet.

@@ -422,6 +422,7 @@ private Q_SLOTS:
         m_site->site->setFault(m_devices.at(1).mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 2000});
         BatchPlan plan{.family = "dh", .title = "Standard", .policy = m_batches->usualPolicy()};
         plan.devices = batchDevices(*m_site->factory, "dh", ipportsOf(m_devices));
+        plan.policy.atOnce = 1; // the clock goes on in the wait of one device
         plan.policy.deadline = std::chrono::seconds(1);
         plan.stepOf = [this](const BatchDevice &device) {
             return m_site->factory->systemStep("dh", "videoStandard", {{"videoStandard", 1}}, device.ipport);
