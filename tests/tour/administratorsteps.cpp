@@ -106,6 +106,7 @@ QString ipportOf(const sdk::demo::SceneDevice &device)
 void walkCopiedSettings(Driver &driver, const QList<sdk::demo::SceneDevice> &cameras)
 {
     driver.click(u"tab2"_s);
+    driver.fill(u"treeSearchField"_s, cameras.at(0).address);
     driver.click(u"device_"_s + ipportOf(cameras.at(0)));
     driver.await(
         u"the encode settings are shown"_s, [&] { return driver.find(u"copyButton"_s) != nullptr; }, 30);

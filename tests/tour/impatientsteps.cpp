@@ -28,7 +28,7 @@ void walkSearch(Driver &driver)
     driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
     driver.click(u"closeButton"_s);
     driver.click(u"closeButton"_s);
-    const QString refusal = translated("WaysOut", "正在搜索，请先停止搜索（Esc）或稍候再关闭");
+    const QString refusal = translated("BusyState", "正在搜索，请先停止搜索（Esc）或稍候再关闭");
     expectToast(driver, refusal);
     driver.check(driver.texts(u"toastText"_s).count(refusal) == 1, u"closing is refused, said once"_s);
     driver.report(u"closing-refused"_s, refusal);

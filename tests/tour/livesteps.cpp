@@ -1,5 +1,4 @@
 #include "device/devicefactory.h"
-#include "device/loginresult.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/fault.h"
 #include "sdk/netlibrary.h"
@@ -7,6 +6,7 @@
 #include "tests/tour/livewindow.h"
 #include "tests/tour/steps.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QImage>
 #include <QSize>
@@ -188,8 +188,7 @@ void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
     constexpr int longerThanALogin = 8;
     restartRecorder(driver, site, longerThanALogin);
     openLive(driver, recorder);
-    const QString failure =
-        CDeviceFactory::getinstance()->getErrorName(resultCode(LoginResult::NetworkFailure));
+    const QString failure = QCoreApplication::translate("LoginMemory", "%1 没有应答").arg(recorder);
     live.await(u"it says when it tries again"_s, [&] {
         const QString told = live.text(u"emptyHint"_s);
         return told.startsWith(failure) && told != failure;
