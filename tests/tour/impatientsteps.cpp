@@ -120,6 +120,10 @@ void walkBatch(Driver &driver, sdk::demo::DemoSite &site)
         driver.click(u"allDevicesBox"_s);
     site.requests().clear();
     driver.doubleClick(u"setTimeByPCButton"_s);
+    driver.require(u"previewTable"_s);
+    driver.click(u"okButton"_s);
+    driver.require(u"messageText"_s); // two devices have one address
+    driver.click(u"okButton"_s);
     driver.require(u"runningText"_s);
     for (int tab = 4; tab >= 0; --tab)
         driver.doubleClick(u"tab%1"_s.arg(tab));
