@@ -55,6 +55,8 @@ void openTwice(Driver &driver, const QString &button, const QString &sign)
 void walkDoubleClicks(Driver &driver)
 {
     const Rows rows(driver);
+    driver.await(u"the devices that were counted are listed"_s,
+                 [&] { return QString::number(rows.count()) == driver.text(u"counterNumber"_s); });
     const int all = rows.count();
     driver.click(u"check0"_s);
     openTwice(driver, u"edit1"_s, u"newStartField"_s);
