@@ -9,6 +9,7 @@
 #include "tests/device/searchanswers.h"
 
 #include <algorithm>
+#include <utility>
 
 class RowsBackEnd : public CDeviceBase
 {
@@ -18,7 +19,7 @@ public:
 
     QVariantMap getDeviceInfo(const QString &ipport) override
     {
-        const auto row = std::ranges::find_if(ipv4, [&ipport](const QVariant &candidate) {
+        const auto row = std::ranges::find_if(std::as_const(ipv4), [&ipport](const QVariant &candidate) {
             return candidate.toJsonObject().value("ipport").toString() == ipport;
         });
         return row == ipv4.cend() ? QVariantMap() : row->toJsonObject().toVariantMap();
