@@ -1,0 +1,68 @@
+// Batches on a simulated site of four cameras.
+#pragma once
+
+#include "device/batch/batches.h"
+#include "tests/device/dh/configsite.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+/// What the tests of batches share. Each test opens the site in its init() and closes it in its cleanup().
+class BatchSite
+{
+protected:
+    void open()
+    {
+        m_devices.clear();
+        for (int number = 1; number <= 4; ++number) {
+            m_devices.append(configDevice(number, "IPC", 1));
+            m_devices.last().mask = "255.255.255.0";
+            m_devices.last().gateway = "192.168.1.1";
+        }
+        m_site = std::make_unique<ConfigSite>(m_devices);
+        m_batches = std::make_unique<Batches>(*m_site->factory, *m_site->engine, [] { return 2; });
+        m_batches->keepFailedIn(m_site->store);
+        QVERIFY(search());
+        m_site->site->requests().clear();
+    }
+
+    void close()
+    {
+        m_site->net->passwordGate.reset();
+        m_site->engine->end();
+        m_batches.reset();
+        m_site.reset();
+    }
+
+    [[nodiscard]] QString identityOf(int place) const { return m_devices.at(place).mac; }
+    static QStringList wantedAddresses()
+    {
+        return {"192.168.1.51", "192.168.1.52", "192.168.1.53", "192.168.1.54"};
+    }
+    [[nodiscard]] QStringList macs() const
+    {
+        QStringList macs;
+        for (const sdk::demo::SceneDevice &device : m_devices)
+            macs.append(device.mac);
+        return macs;
+    }
+    [[nodiscard]] bool search() const
+    {
+        QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        return QTest::qWaitFor([&] { return !found.isEmpty(); }, 30000);
+    }
+    [[nodiscard]] QStringList askedMacs(const QString &operation) const
+    {
+        QStringList asked;
+        for (const sdk::demo::RecordedRequest &request : m_site->site->requests().of(operation))
+            asked.append(request.mac);
+        return asked;
+    }
+
+    QList<sdk::demo::SceneDevice> m_devices;
+    std::unique_ptr<ConfigSite> m_site;
+    std::unique_ptr<Batches> m_batches;
+};
