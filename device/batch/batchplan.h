@@ -101,8 +101,8 @@ struct BatchPlan
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
 
-/// The name by which the engine knows a device at an address and port. Whoever works with it, a batch or a
-/// page, asks for the device under this name. `rowThere` is the first row of that address, a lost one only if
+/// The name of a device at an address and port in the engine. Batches and pages reserve the device under this
+/// name. `rowThere` is the first row of that address, a lost one only if
 /// there is no other; empty when there is none. `identity` names a device that has no address.
 [[nodiscard]] QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity);
 

@@ -5,8 +5,8 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// Tells of the user's presses in a window: of a button of the mouse or a key, before an item gets it. It is
-/// C++ because an item is told only of the input that is meant for it. Lives on the scene's thread.
+/// Reports each press of a mouse button or key in a window, before an item receives it. It is C++ because an
+/// item receives only its own input. Lives on the scene's thread.
 class InputWatch : public QObject
 {
     Q_OBJECT
