@@ -59,7 +59,7 @@ T.ApplicationWindow {
         if (index === currentTab || index < 0 || index >= tabBar.tabs.length)
             return;
         const go = () => {
-            systemConfigPage.item?.disablePasswordEditor();
+            pages.disablePasswordEditor();
             currentTab = index;
             popups.clearNotices();
         };
@@ -71,16 +71,12 @@ T.ApplicationWindow {
         showTab(index);
         if (currentTab !== index)
             return;
-        const holder = pages.children[index];
-        (holder.item ?? holder).forceActiveFocus(Qt.ShortcutFocusReason);
+        pages.takeFocus(index);
     }
 
     /// Settings that were changed and not saved are not left without a word. Returns whether there is a question first.
     function leavePage(action) {
-        if (deviceConfigPage.visible && busyState.losesEdits(BusyState.ChangeTab))
-            return (deviceConfigPage.item as PageDeviceConfig).leave(action);
-        action();
-        return false;
+        return pages.leave(action);
     }
 
     function rememberView() {
@@ -94,7 +90,7 @@ T.ApplicationWindow {
         if (Number.isInteger(tab) && tab > 0 && tab < tabBar.tabs.length)
             turnTo(tab);
         else
-            modifyIpPage.focusTable();
+            pages.focusTable();
     }
 
     width: minimumWidth
@@ -201,19 +197,8 @@ T.ApplicationWindow {
     WindowShortcuts {
         currentTab: window.currentTab
         tabCount: tabBar.tabs.length
-        onFindRequested: {
-            if (window.currentTab === 0)
-                modifyIpPage.focusSearch();
-            else if (window.currentTab === 3)
-                systemConfigPage.item?.focusSearch();
-            else if (window.currentTab === 2)
-                deviceConfigPage.item?.focusSearch();
-            else if (window.currentTab === 1)
-                upgradePage.item?.focusSearch();
-            else if (window.currentTab === 4)
-                cgiConfigPage.item?.focusSearch();
-        }
-        onGalleryRequested: if (window.currentTab === 0) modifyIpPage.openGallery()
+        onFindRequested: pages.focusSearch()
+        onGalleryRequested: if (window.currentTab === 0) pages.openGallery()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
         onSettingsRequested: popups.openSearchSettings(searchSettings.read())
@@ -258,110 +243,23 @@ T.ApplicationWindow {
             visible: !window.libraryInstalled
             onLinkActivated: ways.requestDemo()
         }
-        StackLayout {
+        WindowPages {
             id: pages
             Layout.fillHeight: true
             Layout.fillWidth: true
+            batches: window.batches
+            busyState: window.busyState
             currentIndex: window.currentTab
-
-            PageModifyIP {
-                id: modifyIpPage
-                batches: window.batches
-                busyState: window.busyState
-                libraryInstalled: window.libraryInstalled
-                memory: window.memory
-                notes: window.notes
-                simulated: window.simulated
-                search: window.deviceSearch
-                searchReports: window.searchReports
-                onDemoRequested: ways.requestDemo()
-                onGalleryRequested: rows => popups.openGallery(rows, modifyIpPage.deviceTable)
-                onLiveRequested: ipport => popups.openLive(ipport, modifyIpPage.deviceTable)
-                onReportRequested: popups.openSearchReport()
-                onSaid: (message, kind) => popups.say(message, kind)
-                onSearchRequested: window.requestSearch()
-                onSettingsRequested: popups.openSearchSettings(searchSettings.read())
-                onSettled: popups.settle()
-            }
-            OVOnDemand {
-                id: upgradePage
-                visible: false
-                // qmllint disable unqualified
-                sourceComponent: Component {
-                    PageDeviceUpgrade {
-                        id: upgrades
-                        batches: window.batches
-                        libraryInstalled: window.libraryInstalled
-                        memory: window.memory
-                        notes: window.notes
-                        search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLive(ipport, upgrades.deviceTable)
-                        onSaid: (message, kind) => popups.say(message, kind)
-                        onSearchRequested: window.requestSearch()
-                        onSettled: popups.settle()
-                    }
-                }
-                // qmllint enable unqualified
-            }
-            OVOnDemand {
-                id: deviceConfigPage
-                visible: false
-                // qmllint disable unqualified
-                sourceComponent: Component {
-                    PageDeviceConfig {
-                        id: configs
-                        batches: window.batches
-                        busyState: window.busyState
-                        libraryInstalled: window.libraryInstalled
-                        notes: window.notes
-                        search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLiveOfTree(ipport, configs.treeDevices)
-                        onSaid: (message, kind, stay) => popups.say(message, kind, stay)
-                        onSearchRequested: window.requestSearch()
-                        onSettled: popups.settle()
-                    }
-                }
-                // qmllint enable unqualified
-            }
-            OVOnDemand {
-                id: systemConfigPage
-                visible: false
-                // qmllint disable unqualified
-                sourceComponent: Component {
-                    PageSystemConfig {
-                        id: systems
-                        batches: window.batches
-                        libraryInstalled: window.libraryInstalled
-                        notes: window.notes
-                        search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLiveOfTree(ipport, systems.treeDevices)
-                        onSaid: (message, kind) => popups.say(message, kind)
-                        onSearchRequested: window.requestSearch()
-                        onSettled: popups.settle()
-                    }
-                }
-                // qmllint enable unqualified
-            }
-            OVOnDemand {
-                id: cgiConfigPage
-                visible: false
-                // qmllint disable unqualified
-                sourceComponent: Component {
-                    PageCGIConfig {
-                        id: commands
-                        batches: window.batches
-                        libraryInstalled: window.libraryInstalled
-                        memory: window.memory
-                        notes: window.notes
-                        search: window.deviceSearch
-                        onLiveRequested: ipport => popups.openLive(ipport, commands.deviceTable)
-                        onSaid: (message, kind) => popups.say(message, kind)
-                        onSearchRequested: window.requestSearch()
-                        onSettled: popups.settle()
-                    }
-                }
-                // qmllint enable unqualified
-            }
+            libraryInstalled: window.libraryInstalled
+            memory: window.memory
+            notes: window.notes
+            popups: popups
+            search: window.deviceSearch
+            searchReports: window.searchReports
+            simulated: window.simulated
+            onDemoRequested: ways.requestDemo()
+            onSearchRequested: window.requestSearch()
+            onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         }
     }
 
