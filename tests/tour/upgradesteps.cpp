@@ -118,6 +118,7 @@ void expectRowHeldBack(const Driver &driver, const QString &mac)
     const int row = Rows(driver).rowOf("mac", mac);
     QMetaObject::invokeMethod(driver.require(u"deviceTable"_s), "show", Q_ARG(QVariant, row));
     const QString edit = u"edit%1"_s.arg(row);
+    // A table reads its changed rows over several frames.
     driver.await(u"its address cannot be changed"_s, [&] { return !driver.require(edit)->isEnabled(); });
     driver.hover(edit);
     driver.await(u"it is said why"_s, [&] {

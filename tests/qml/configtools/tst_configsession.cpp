@@ -73,6 +73,35 @@ private:
     {
         QVERIFY(QMetaObject::invokeMethod(m_session, "choose", Q_ARG(QVariant, ipportOf(device))));
     }
+    /// A search lists the devices; the row of the recorder holds a password that it refuses.
+    void listWithWrongPassword() const
+    {
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        QVERIFY(m_site->factory->updataDeviceInfo("dh", "password", "wrong", m_recorder.mac,
+                                                  ipportOf(m_recorder)));
+    }
+    /// Into the login dialog.
+    void enter(const char *password, bool isForAll) const
+    {
+        dialogItem("followingBox")->setProperty("checked", isForAll);
+        dialogItem("devicePasswordField")->setProperty("text", password);
+        QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
+    }
+    [[nodiscard]] QString passwordOf(const sdk::demo::SceneDevice &device) const
+    {
+        return m_site->factory->getDeviceInfo("dh", ipportOf(device)).value("password").toString();
+    }
+    /// The dialog of details, opened for a device.
+    [[nodiscard]] QObject *detailsOf(const sdk::demo::SceneDevice &device) const
+    {
+        auto *details = m_window->findChild<QObject *>("details");
+        QMetaObject::invokeMethod(details, "load",
+                                  Q_ARG(QVariant, m_site->factory->getDeviceDetail("dh", device.mac)));
+        QMetaObject::invokeMethod(details, "open");
+        return details;
+    }
 
 private Q_SLOTS:
     void init()
@@ -182,52 +211,31 @@ private Q_SLOTS:
     /// The details ask for another account as the page does, and count on.
     void theDetailsAskForAnotherAccount()
     {
-        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
-        m_site->factory->startSearch("dh");
-        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
-        QVERIFY(m_site->factory->updataDeviceInfo("dh", "password", "wrong", m_recorder.mac,
-                                                  ipportOf(m_recorder)));
-        QObject *details = m_window->findChild<QObject *>("details");
-        QVERIFY(QMetaObject::invokeMethod(
-            details, "load", Q_ARG(QVariant, m_site->factory->getDeviceDetail("dh", m_recorder.mac))));
-        QVERIFY(QMetaObject::invokeMethod(details, "open"));
+        listWithWrongPassword();
+        QObject *details = detailsOf(m_recorder);
         QVERIFY(QMetaObject::invokeMethod(details, "ask"));
         QCOMPARE(answerOfDialog(), "密码错误，已 1 次");
-        const auto enter = [this](const char *password) {
-            dialogItem("devicePasswordField")->setProperty("text", password);
-            QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
-        };
-        enter("another");
+        enter("another", false);
         QTRY_VERIFY(!details->property("asking").toBool() && dialogItem("devicePasswordField"));
         QCOMPARE(answerOfDialog(), "密码错误，已 2 次");
-        enter("secret1");
+        enter("secret1", false);
         QTRY_VERIFY(!details->property("asking").toBool());
         QTRY_VERIFY(!dialogItem("devicePasswordField"));
         QCOMPARE(details->property("trouble").toString(), "");
-        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_recorder)).value("password").toString(),
-                 "secret1");
+        QCOMPARE(passwordOf(m_recorder), "secret1");
     }
 
     /// The dialog shows what the device has answered; an account for all that follow is tried once, and only
     /// after it has proved right.
     void aWrongPasswordIsCounted()
     {
-        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
-        m_site->factory->startSearch("dh");
-        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
-        QVERIFY(m_site->factory->updataDeviceInfo("dh", "password", "wrong", m_recorder.mac,
-                                                  ipportOf(m_recorder)));
+        listWithWrongPassword();
         choose(m_recorder);
         QCOMPARE(answerOfDialog(), "密码错误，已 1 次");
-        const auto enter = [this](const char *password) {
-            dialogItem("followingBox")->setProperty("checked", true);
-            dialogItem("devicePasswordField")->setProperty("text", password);
-            QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
-        };
-        enter("another");
+        enter("another", true);
         QTRY_VERIFY(!isBusy() && dialogItem("devicePasswordField"));
         QCOMPARE(answerOfDialog(), "密码错误，已 2 次");
-        enter("secret1");
+        enter("secret1", true);
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
 
         m_site->site->requests().clear();
@@ -241,7 +249,21 @@ private Q_SLOTS:
                                        }),
                  1);
         // Batches know the account from now on.
-        QCOMPARE(m_site->factory->getDeviceInfo("dh", ipportOf(m_other)).value("password"), "secret1");
+        QCOMPARE(passwordOf(m_other), "secret1");
+
+        // The details use it as well; the row gets it once the device has accepted it.
+        for (const char *key : {"username", "password"})
+            m_site->factory->updataDeviceInfo("dh", key, "", m_other.mac, ipportOf(m_other));
+        QObject *details = detailsOf(m_other);
+        m_site->site->setFault(m_other.mac, {.fault = sdk::demo::Fault::NoAnswer});
+        QVERIFY(QMetaObject::invokeMethod(details, "ask"));
+        QTRY_VERIFY(!details->property("trouble").toString().isEmpty());
+        QCOMPARE(passwordOf(m_other), "");
+        m_site->site->clearFault(m_other.mac, sdk::demo::Fault::NoAnswer);
+        QVERIFY(QMetaObject::invokeMethod(details, "ask"));
+        QTRY_VERIFY(!details->property("asking").toBool());
+        QCOMPARE(details->property("trouble").toString(), "");
+        QCOMPARE(passwordOf(m_other), "secret1");
     }
 
     /// An account is kept for its device once the device has accepted it.
