@@ -182,7 +182,10 @@ bool Batch::start()
 
 QString Batch::device() const
 {
-    return m_running.isEmpty() ? QString() : m_entries.at(m_running.constFirst()).device.name;
+    if (m_running.isEmpty())
+        return {};
+    const BatchDevice &device = m_entries.at(m_running.constFirst()).device;
+    return device.ipport.isEmpty() ? device.name : device.ipport;
 }
 
 double Batch::progress() const

@@ -66,7 +66,8 @@ public:
     /// How far the devices are that are not done, with the others: for steps that take long.
     void noteProgress(double progress);
 
-    /// Name of a device that is being worked on; empty when there is none.
+    /// Address and port of a device that is being worked on, or its name when it has no address; empty when
+    /// there is none.
     [[nodiscard]] QString device() const;
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
     [[nodiscard]] bool isStopping() const { return m_isRunning && m_isStopping; }
