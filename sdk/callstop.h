@@ -13,7 +13,7 @@ namespace sdk {
 class CallStop
 {
 public:
-    /// `isLate` tells whether the time is over; empty for never. It is called on this thread.
+    /// `isLate` returns whether the time is over; empty for never. It is called on this thread.
     explicit CallStop(std::stop_token stop, std::function<bool()> isLate = {})
         : m_stop(std::move(stop)), m_isLate(std::move(isLate))
     {

@@ -45,7 +45,7 @@ public:
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
         QDateTime time;               ///< of the outcome; invalid when nothing was done
         QString refusedAccount = {};  ///< the device has not accepted, when the plan knows accounts
-        QByteArray refusedLogin = {}; ///< tells whether that account is still the same; no password
+        QByteArray refusedLogin = {}; ///< compared with the account of a retry; holds no password
     };
 
     /// `engine` lives longer than this.

@@ -45,22 +45,6 @@ int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice 
     return row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None);
 }
 
-/// The first row of each address, a lost one only if there is no other.
-QHash<QString, QJsonObject> rowsByAddress(CDeviceFactory &factory, const QString &family)
-{
-    QHash<QString, QJsonObject> rows;
-    const QVariantList all = factory.filterData(family, QStringLiteral("nofilter"));
-    rows.reserve(all.size());
-    for (const QVariant &value : all) {
-        const QJsonObject row = value.toJsonObject();
-        const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        const auto known = rows.constFind(ipport);
-        if (known == rows.cend() || known->value(DeviceRowKey::lost).toBool())
-            rows.insert(ipport, row);
-    }
-    return rows;
-}
-
 } // namespace
 
 Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
@@ -496,7 +480,8 @@ Batch *Batches::start(BatchPlan plan)
 {
     if (!mayStart())
         return nullptr;
-    const QHash<QString, QJsonObject> rows = rowsByAddress(m_factory, plan.family);
+    const QHash<QString, QJsonObject> rows =
+        rowsByAddress(m_factory.filterData(plan.family, QStringLiteral("nofilter")));
     for (BatchDevice &device : plan.devices) {
         device.key = workKey(rows.value(device.ipport), device.ipport, device.identity);
         device.isUpgrading =

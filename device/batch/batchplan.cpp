@@ -32,6 +32,20 @@ QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, 
     return devices;
 }
 
+QHash<QString, QJsonObject> rowsByAddress(const QVariantList &rows)
+{
+    QHash<QString, QJsonObject> found;
+    found.reserve(rows.size());
+    for (const QVariant &value : rows) {
+        const QJsonObject row = value.toJsonObject();
+        const QString ipport = row.value(DeviceRowKey::ipport).toString();
+        const auto known = found.constFind(ipport);
+        if (known == found.cend() || known->value(DeviceRowKey::lost).toBool())
+            found.insert(ipport, row);
+    }
+    return found;
+}
+
 QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity)
 {
     if (ipport.isEmpty() || ipport.startsWith(QLatin1Char(':'))) // waits for an address by DHCP

@@ -4,9 +4,11 @@
 #include "device/accountchoice.h"
 #include "device/batch/batchengine.h"
 
+#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QString>
+#include <QVariantList>
 
 #include <functional>
 
@@ -100,6 +102,9 @@ struct BatchPlan
 [[nodiscard]] BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name);
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
+
+/// Rows by "ipport". Several rows may have one: the first of them, a lost one only if there is no other.
+[[nodiscard]] QHash<QString, QJsonObject> rowsByAddress(const QVariantList &rows);
 
 /// The name of a device at an address and port in the engine. Batches and pages reserve the device under this
 /// name. `rowThere` is the first row of that address, a lost one only if

@@ -195,15 +195,7 @@ DeviceAccount CDeviceDH::upgradeCredentials(const QJsonObject &row) const
 
 QHash<QString, QJsonObject> CDeviceDH::rowsByAddress() const
 {
-    QHash<QString, QJsonObject> rows;
-    for (const QVariant &value : store().ipv4Rows() + store().ipv6Rows()) {
-        const QJsonObject row = value.toJsonObject();
-        const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        const auto known = rows.constFind(ipport); // several may have it
-        if (known == rows.cend() || known->value(DeviceRowKey::lost).toBool())
-            rows.insert(ipport, row);
-    }
-    return rows;
+    return ::rowsByAddress(store().ipv4Rows() + store().ipv6Rows());
 }
 
 UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line, const QJsonObject &row) const
