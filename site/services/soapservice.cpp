@@ -74,7 +74,8 @@ HttpReply SoapService::answer(const HttpReceiver &receiver, const HttpRequest &h
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     HttpReply reply;
     reply.status = HttpStatus::None;
-    if (!device)
+    // The listeners close a moment after the device has left for its restart.
+    if (!device || !device->isListening(m_context.site.clock().now()))
         return reply;
     if (const std::optional<FaultSetting> slow = device->fault(Fault::SlowAnswers))
         m_context.site.clock().wait(std::chrono::milliseconds(slow->number), receiver.stop);
