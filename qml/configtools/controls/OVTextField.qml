@@ -86,6 +86,10 @@ FocusScope {
             event.accepted = false;
             root.tabPressed(event);
         }
+        // Escape clears the text before it stops the work of the window.
+        Keys.onShortcutOverride: event => {
+            event.accepted = event.key === Qt.Key_Escape && root.clearable && text !== "";
+        }
         Keys.onEscapePressed: event => {
             event.accepted = root.clearable && text !== "";
             if (event.accepted)
