@@ -20,6 +20,7 @@ T.Popup {
     property string notice  // about what the dialog holds, above its buttons
     property int noticeKind: OVToast.Error
     property alias footContent: footSlot.data  // beside the buttons
+    readonly property alias buttonsWidth: buttons.width
     default property alias content: body.data
     signal accepted
     signal rejected

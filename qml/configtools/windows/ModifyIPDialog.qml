@@ -79,7 +79,8 @@ OVDialog {
         }
     }
 
-    width: openedOut ? Theme.batchPreviewWidth : Theme.modifyIpWidth
+    width: openedOut ? Theme.batchPreviewWidth
+        : Math.max(Theme.modifyIpWidth, foot.visible ? foot.width + buttonsWidth + 3 * Theme.pageMargin : 0)
     height: Math.max(Theme.modifyIpHeight, implicitHeight)
     dense: true
     objectName: "modifyIpDialog"
@@ -112,6 +113,7 @@ OVDialog {
     }
 
     footContent: Row {
+        id: foot
         height: parent.height
         spacing: Theme.controlGap
         visible: root.batch
