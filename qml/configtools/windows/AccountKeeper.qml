@@ -11,12 +11,13 @@ Item {
     property int keeping: AccountList.Unkept
     property int takenCount: 0  // devices of the batch that were handed on
     property int keptCount: 0   // devices that the account is kept for, also of the batches before a retry
+    property int keptBefore: 0  // of them, those of the batches before the retry
     property string failure
     readonly property var accounts: LoginMemory.accounts
 
     /// What has become of the account, for the end of a message; empty when it was not to be kept.
     readonly property string words: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
-        : keptCount === 0 || keeping === AccountList.Unkept ? ""
+        : keptCount === keptBefore || keeping === AccountList.Unkept ? ""
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")
         : qsTr("新账号已保存，以后登录这 %n 台设备时使用", "", keptCount)
 
@@ -27,6 +28,7 @@ Item {
         takenCount = 0;
         root.keeping = keeping;
         keptCount = 0;
+        keptBefore = 0;
         failure = "";
     }
 
@@ -72,6 +74,7 @@ Item {
             root.keep();
             root.batch = again;
             root.takenCount = 0;
+            root.keptBefore = root.keptCount;
         }
     }
 }
