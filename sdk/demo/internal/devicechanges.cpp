@@ -68,7 +68,7 @@ NetError giveFirstAccount(DemoSite &site, const QString &mac, const SceneAccount
     NetError error = NetError::ConnectTimeout;
     site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &) {
         if (device.hasFault(Fault::RefusesInitialisation)) {
-            error = NetError::ConnectFailed;
+            error = NetError::Refused;
         } else if (!device.isUninitialised() || account.user.isEmpty() || account.password.isEmpty()) {
             error = NetError::NotSupported;
         } else {
