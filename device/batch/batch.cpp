@@ -196,17 +196,26 @@ double Batch::progress() const
 void Batch::noteProgress(double progress)
 {
     m_progress = std::clamp(progress, 0.0, 1.0);
+    noteAdvance();
     Q_EMIT changed();
 }
 
 int Batch::secondsLeft() const
 {
     constexpr qint64 earliest = 2000; // milliseconds
-    const double done = progress();
     const qint64 elapsed = m_began.msecsTo(QDateTime::currentDateTime());
-    if (!m_isRunning || done <= 0 || elapsed < earliest)
+    if (!m_isRunning || m_advance.progress <= 0 || elapsed < earliest)
         return -1;
-    return static_cast<int>(static_cast<double>(elapsed) * (1 - done) / done / 1000);
+    // The estimate is that of the last advance. When its time has passed without another one, none is known.
+    const double total = static_cast<double>(m_advance.elapsed) / m_advance.progress;
+    const double left = total - static_cast<double>(elapsed);
+    return left < 0 ? -1 : static_cast<int>(left / 1000);
+}
+
+void Batch::noteAdvance()
+{
+    if (progress() > m_advance.progress)
+        m_advance = {progress(), m_began.msecsTo(QDateTime::currentDateTime())};
 }
 
 void Batch::stop()

@@ -85,7 +85,8 @@ public:
     /// there.
     [[nodiscard]] int failedBefore() const;
 
-    /// Estimated, -1 while there is nothing to estimate from.
+    /// Estimated at the last advance of the progress. -1 while there is nothing to estimate from, and when the
+    /// time has passed without a further advance.
     [[nodiscard]] int secondsLeft() const;
     [[nodiscard]] BatchReport *report() { return &m_report; }
     /// Whether Batches::putAddressesBack() can undo it.
@@ -163,6 +164,13 @@ Q_SIGNALS:
 private:
     class Mailbox;
 
+    /// The last growth of the progress.
+    struct Advance
+    {
+        double progress = 0;
+        qint64 elapsed = 0; ///< milliseconds since the start of the batch
+    };
+
     /// The first of the batch's steps that runs does the preparation before.
     [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
                                           const std::shared_ptr<std::once_flag> &flag) const;
@@ -173,6 +181,7 @@ private:
     /// Here or else in the batch that this one retries; null when there is none.
     [[nodiscard]] const Entry *find(const QString &device) const;
     void takeNews();
+    void noteAdvance();
     void noteRefusal(Entry &entry) const;
     void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
     void finish();
@@ -193,6 +202,7 @@ private:
     int m_number = 0; ///< in the engine
     int m_done = 0;
     double m_progress = 0; ///< as noted
+    Advance m_advance;
     bool m_isRunning = false;
     bool m_isStopping = false;
     bool m_isHeld = false;
