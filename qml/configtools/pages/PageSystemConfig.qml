@@ -31,7 +31,7 @@ FocusScope {
 
     readonly property bool available: unavailableText === ""
     readonly property string unavailableText: devices.checkedCount === 0 ? qsTr("请先在左侧勾选设备")
-        : batch.running ? qsTr("“%1”正在进行，请等待其完成").arg(batch.batch.title) : ""
+        : batches.running ? qsTr("“%1”正在进行，请等待其完成").arg(batches.current?.title ?? "") : ""
 
     function focusSearch() {
         deviceTree.focusSearch();
