@@ -599,10 +599,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>将更改 %n 台设备</source>
+        <source>对 %n 台设备执行</source>
         <translation>
-            <numerusform>%n device will be changed</numerusform>
-            <numerusform>%n devices will be changed</numerusform>
+            <numerusform>runs on %n device</numerusform>
+            <numerusform>runs on %n devices</numerusform>
         </translation>
     </message>
 </context>
@@ -2064,7 +2064,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>查看实时画面</source>
-        <translation>Opens the live view of this device</translation>
+        <translation>Open live view</translation>
     </message>
     <message>
         <source>复制地址</source>
@@ -2310,7 +2310,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>设备没有告知它的编码能力，部分选项为空</source>
-        <translation>The device does not report its encoding capabilities. Some lists are empty.</translation>
+        <translation>The device does not report its encoding capabilities. Some values may be missing.</translation>
     </message>
     <message>
         <source>通道</source>

@@ -587,9 +587,9 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>将更改 %n 台设备</source>
+        <source>对 %n 台设备执行</source>
         <translation>
-            <numerusform>将更改 %n 台设备</numerusform>
+            <numerusform>对 %n 台设备执行</numerusform>
         </translation>
     </message>
 </context>

@@ -15,7 +15,7 @@ Row {
         objectName: "batchCount"
         text: qsTr("%n台设备已选中", "", root.preview.checkedCount)
             + (root.preview.skippedCount > 0
-                ? "  ·  " + qsTr("将更改 %n 台设备", "", root.preview.checkedCount - root.preview.skippedCount) : "")
+                ? "  ·  " + qsTr("对 %n 台设备执行", "", root.preview.checkedCount - root.preview.skippedCount) : "")
     }
     Row {
         height: parent.height

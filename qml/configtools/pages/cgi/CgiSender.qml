@@ -67,10 +67,10 @@ Item {
         if (report.notDone > 0)
             said(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
         else if (report.failed > 0)
-            said(qsTr("批量配置CGI命令已完成：成功 %1，失败 %2", "", report.total).arg(report.succeeded).arg(report.failed),
+            said(qsTr("批量配置CGI命令已完成：成功 %1，失败 %2", "", report.total - report.skipped).arg(report.succeeded).arg(report.failed),
                  OVToast.Error);
         else
-            said(qsTr("批量配置CGI命令已完成", "", report.total), OVToast.Success);
+            said(qsTr("批量配置CGI命令已完成", "", report.total - report.skipped), OVToast.Success);
         const lines = cgiBatches.failuresOf(batch);
         if (lines.length > 0)
             failed(lines);
