@@ -34,6 +34,7 @@ const char *const scene =
     "    }\n"
     "    OVTextField { objectName: 'password'; x: 600; secret: true; text: 'p' }\n"
     "    OVTextField { objectName: 'next'; x: 900 }\n"
+    "    Shortcut { sequence: 'Escape'; onActivated: done = 'stopped' }\n"
     "    OVTable {\n"
     "        objectName: 'table'; y: 100; width: 600; height: 240; model: devices\n"
     "        checkState: devices.checkState\n"
@@ -50,6 +51,7 @@ const char *const scene =
     "        onMenuRequested: (name, place) => menu.offer(place, {identity: name, mac: name, ipport: "
     "'10.0.0.9:1'}, [])\n"
     "    }\n"
+    "    OVTextField { objectName: 'search'; x: 600; y: 50; clearable: true }\n"
     "    OVDialog {\n"
     "        id: dialog; objectName: 'dialog'\n"
     "        property string fault\n"
@@ -349,6 +351,18 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(dialog, "refuse", Q_ARG(QVariant, "nothing is ticked"));
         QTRY_VERIFY(find("dialogNotice"));
         QMetaObject::invokeMethod(dialog, "close");
+    }
+
+    void escapeClearsTheSearchTextBeforeItStopsTheWork()
+    {
+        QQuickItem *search = find("search");
+        search->forceActiveFocus();
+        search->setProperty("text", "upgrade");
+        press(Qt::Key_Escape);
+        QCOMPARE(search->property("text").toString(), "");
+        QCOMPARE(done(), "");
+        press(Qt::Key_Escape);
+        QCOMPARE(done(), "stopped");
     }
 
     /// A refusal goes with its reason, another message does not; none of them lies on the rows.
