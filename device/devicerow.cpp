@@ -36,6 +36,13 @@ QString otherDeviceType()
     return QCoreApplication::translate("DeviceRow", "Other");
 }
 
+QString deviceTitle(const QString &name, const QString &model)
+{
+    if (name.isEmpty() || name.contains(model, Qt::CaseInsensitive))
+        return name.isEmpty() ? model : name;
+    return name + QStringLiteral(" · ") + model;
+}
+
 QString versionText(const QString &version)
 {
     return version.isEmpty() ? QString() : QLatin1Char('v') + version;

@@ -73,6 +73,10 @@ template<std::size_t size>
 /// Type of the devices that no name is known for; translated, since it is shown.
 [[nodiscard]] QString otherDeviceType();
 
+/// Name and model of a device, as one text for lists that have no column for each. A name that holds the
+/// model, as many devices have from the factory, stands alone.
+[[nodiscard]] QString deviceTitle(const QString &name, const QString &model);
+
 /// A version as rows show it: "v" in front, empty when it is not known.
 [[nodiscard]] QString versionText(const QString &version);
 

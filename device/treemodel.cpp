@@ -390,12 +390,8 @@ OVTreeModel::Device OVTreeModel::deviceOf(const QString &identity, const QJsonOb
 {
     Device device = m_remembered.value(identity, {.identity = identity, .ipport = {}});
     device.ipport = row.value(DeviceRowKey::ipport).toString();
-    const QString name = row.value(DeviceRowKey::name).toString();
-    const QString model = row.value(DeviceRowKey::model).toString();
-    device.detail = name.isEmpty() ? model
-                    : name.contains(model, Qt::CaseInsensitive)
-                        ? name // as many devices are named after their model
-                        : name + QStringLiteral(" · ") + model;
+    device.detail =
+        deviceTitle(row.value(DeviceRowKey::name).toString(), row.value(DeviceRowKey::model).toString());
     device.isUpgrading =
         UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None));
     device.isLost = row.value(DeviceRowKey::lost).toBool();

@@ -13,12 +13,11 @@ BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QS
     if (row.isEmpty())
         row = QJsonObject::fromVariantMap(factory.getDeviceInfo(family, name));
     const QString ipport = row.value(DeviceRowKey::ipport).toString(name);
-    QStringList words = {row.value(DeviceRowKey::name).toString(), row.value(DeviceRowKey::model).toString()};
-    words.removeAll(QString());
     return {.name = name,
             .identity = row.isEmpty() ? name : rowName(row),
             .ipport = ipport,
-            .title = words.join(QStringLiteral(" · "))};
+            .title = deviceTitle(row.value(DeviceRowKey::name).toString(),
+                                 row.value(DeviceRowKey::model).toString())};
 }
 
 QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, const QStringList &names)

@@ -15,18 +15,13 @@ const QString actionKey = QStringLiteral("action");
 const QString hindranceKey = QStringLiteral("hindrance");
 const QString newAddressKey = QStringLiteral("newAddress");
 
-QString titleOf(const QVariantMap &device)
-{
-    QStringList words = {device.value(DeviceRowKey::name).toString(),
-                         device.value(DeviceRowKey::model).toString()};
-    words.removeAll(QString());
-    return words.join(QStringLiteral(" · "));
-}
-
 /// What a preview keeps of a device.
 QVariantMap shownOf(const QVariantMap &device, const QString &identity)
 {
-    QVariantMap shown = {{QStringLiteral("identity"), identity}, {QStringLiteral("title"), titleOf(device)}};
+    QVariantMap shown = {
+        {QStringLiteral("identity"), identity},
+        {QStringLiteral("title"), deviceTitle(device.value(DeviceRowKey::name).toString(),
+                                              device.value(DeviceRowKey::model).toString())}};
     for (const QLatin1StringView key :
          {DeviceRowKey::mac, DeviceRowKey::type, DeviceRowKey::model, DeviceRowKey::ipport,
           DeviceRowKey::vision, DeviceRowKey::state, DeviceRowKey::upgraderes, DeviceRowKey::lost}) {

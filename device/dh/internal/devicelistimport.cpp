@@ -91,10 +91,8 @@ QString wayTo(const DeviceToAdd &device)
 
 QString titleOf(const DeviceListLine &line)
 {
-    QStringList words = {line[ListColumn::DeviceName].left(maximumListText),
-                         line[ListColumn::Model].left(maximumListText)};
-    words.removeAll(QString());
-    return words.join(QStringLiteral(" · "));
+    return deviceTitle(line[ListColumn::DeviceName].left(maximumListText),
+                       line[ListColumn::Model].left(maximumListText));
 }
 
 StepOutcome alreadyListed()
