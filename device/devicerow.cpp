@@ -3,6 +3,7 @@
 #include "sdk/searchblocks.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace {
 
@@ -41,6 +42,12 @@ QString deviceTitle(const QString &name, const QString &model)
     if (name.isEmpty() || name.contains(model, Qt::CaseInsensitive))
         return name.isEmpty() ? model : name;
     return name + QStringLiteral(" · ") + model;
+}
+
+bool isRecorderType(const QString &type)
+{
+    static const QRegularExpression recorders(QStringLiteral("NVR|SVR|DVR|Matrix"));
+    return type.contains(recorders);
 }
 
 QString versionText(const QString &version)

@@ -77,6 +77,10 @@ template<std::size_t size>
 /// model, as many devices have from the factory, stands alone.
 [[nodiscard]] QString deviceTitle(const QString &name, const QString &model);
 
+/// True for a type of devices that record the channels of others, and have a name of their own beside those
+/// of the channels.
+[[nodiscard]] bool isRecorderType(const QString &type);
+
 /// A version as rows show it: "v" in front, empty when it is not known.
 [[nodiscard]] QString versionText(const QString &version);
 

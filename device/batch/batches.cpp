@@ -9,8 +9,6 @@
 #include "device/upgradetools.h"
 #include "sdk/threadpriority.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -144,10 +142,9 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
 
 void Batches::noteCameraName(const QString &family, const BatchDevice &device, const QString &name)
 {
-    static const QRegularExpression recorder(QStringLiteral("NVR|SVR|DVR|Matrix"));
     const QString type =
         m_factory.getDeviceInfo(family, device.ipport).value(QStringLiteral("type")).toString();
-    if (!type.contains(recorder))
+    if (!isRecorderType(type))
         m_factory.updataDeviceInfo(family, QStringLiteral("name"), name, device.identity, device.ipport);
 }
 

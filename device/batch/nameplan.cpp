@@ -1,6 +1,8 @@
 #include "device/batch/nameplan.h"
 
 #include "device/bytetext.h"
+#include "device/devicefactory.h"
+#include "device/devicefamily.h"
 #include "device/devicerow.h"
 
 #include <QRegularExpression>
@@ -27,6 +29,7 @@ QString lastNumberOf(const QString &ipport)
 
 void NamePlan::takeChannels(const QString &ipport, int count)
 {
+    m_ofCameras = false;
     QVariantList entries;
     for (int channel = 0; channel < count; ++channel)
         entries.append(entryOf(QString::number(channel), tr("通道 %1").arg(channel + 1), ipport));
@@ -35,13 +38,28 @@ void NamePlan::takeChannels(const QString &ipport, int count)
 
 void NamePlan::takeCameras(const QStringList &ipports)
 {
+    m_ofCameras = true;
     QVariantList entries;
     for (const QString &ipport : ipports)
         entries.append(entryOf(ipport, {}, ipport));
     setEntries(entries);
 }
 
-QString NamePlan::nameOf(int row) const
+int NamePlan::countCameras(const QStringList &ipports) const
+{
+    return static_cast<int>(std::ranges::count_if(ipports, [this](const QString &ipport) {
+        return !deviceFactory() ||
+               !isRecorderType(
+                   deviceFactory()->getDeviceInfo(dhFamily, ipport).value(DeviceRowKey::type).toString());
+    }));
+}
+
+bool NamePlan::isRecorder(int row) const
+{
+    return m_ofCameras && isRecorderType(deviceAt(row).value(DeviceRowKey::type).toString());
+}
+
+QString NamePlan::nameOf(int row, int number) const
 {
     // One pass: a model may hold what looks like a part of the pattern.
     static const QRegularExpression parts(QStringLiteral("\\{(n|model|ip4)\\}"));
@@ -52,7 +70,7 @@ QString NamePlan::nameOf(int row) const
         name += QStringView(m_pattern).mid(taken, part.capturedStart() - taken);
         taken = part.capturedEnd();
         if (part.captured(1) == QLatin1String("n"))
-            name += QString::number(m_start + row).rightJustified(m_digits, QLatin1Char('0'));
+            name += QString::number(number).rightJustified(m_digits, QLatin1Char('0'));
         else
             name += part.captured(1) == QLatin1String("model")
                         ? deviceAt(row).value(DeviceRowKey::model).toString()
@@ -81,11 +99,21 @@ bool NamePlan::isRepeated() const
            !m_pattern.contains(QLatin1String("{ip4}"));
 }
 
+QStringList NamePlan::namedIdentities() const
+{
+    QStringList identities;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isChecked(row) && !isRecorder(row))
+            identities.append(identityOf(deviceAt(row)));
+    }
+    return identities;
+}
+
 QStringList NamePlan::names() const
 {
     QStringList names;
     for (int row = 0; row < rowCount(); ++row) {
-        if (isChecked(row))
+        if (isChecked(row) && !isRecorder(row))
             names.append(m_names.value(row));
     }
     return names;
@@ -94,9 +122,15 @@ QStringList NamePlan::names() const
 void NamePlan::prepare()
 {
     m_names.clear();
+    int number = m_start;
     for (int row = 0; row < rowCount(); ++row)
-        m_names.append(nameOf(row));
+        m_names.append(isRecorder(row) ? QString() : nameOf(row, number++));
     m_fault = faultOfPattern();
+}
+
+QString NamePlan::hindranceOf(int row) const
+{
+    return isRecorder(row) ? tr("录像机，不会执行；其通道请单独命名") : BatchPreview::hindranceOf(row);
 }
 
 BatchPreview::Judgement NamePlan::judgementOf(int row) const

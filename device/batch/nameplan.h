@@ -9,6 +9,9 @@
 
 /// Names from one pattern: {n} is the place of the row counted from `start`, with `digits` digits at least,
 /// {model} the model of the device, {ip4} the last number of its IPv4 address. A row's "action" is its name.
+///
+/// A recorder among cameras is skipped: its channel 1 shows a camera of its own. It gets no name and no
+/// number.
 class NamePlan : public BatchPreview
 {
     Q_OBJECT
@@ -36,12 +39,17 @@ public:
     Q_INVOKABLE void takeChannels(const QString &ipport, int count);
     Q_INVOKABLE void takeCameras(const QStringList &ipports);
 
-    /// The names of the ticked rows, in the order of checkedIdentities().
+    /// How many of these devices are cameras.
+    Q_INVOKABLE [[nodiscard]] int countCameras(const QStringList &ipports) const;
+
+    /// Of the ticked rows but for recorders: by what the plan was made of, and their names in the same order.
+    Q_INVOKABLE [[nodiscard]] QStringList namedIdentities() const;
     Q_INVOKABLE [[nodiscard]] QStringList names() const;
 
 protected:
     void prepare() override;
     [[nodiscard]] Judgement judgementOf(int row) const override;
+    [[nodiscard]] QString hindranceOf(int row) const override;
 
 private:
     template<typename Value>
@@ -51,12 +59,14 @@ private:
             rejudge();
     }
 
-    [[nodiscard]] QString nameOf(int row) const;
+    [[nodiscard]] QString nameOf(int row, int number) const;
+    [[nodiscard]] bool isRecorder(int row) const; ///< among cameras
     [[nodiscard]] QString faultOfPattern() const;
 
     QString m_pattern;
     int m_start = 1;
     int m_digits = 1;
-    QStringList m_names; ///< by row
+    QStringList m_names; ///< by row, empty for recorders
+    bool m_ofCameras = false;
     QString m_fault;
 };

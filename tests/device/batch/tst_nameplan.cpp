@@ -47,6 +47,29 @@ private Q_SLOTS:
         QCOMPARE(plan.checkedIdentities(), cameras);
     }
 
+    /// Its channel 1 shows a camera that has a name already.
+    void aRecorderAmongCamerasIsSkippedAndCountsForNothing()
+    {
+        RowsFactory site;
+        site.rows->add({.address = "192.168.1.8", .mac = "m0", .name = "B-2230-IR east"});
+        site.rows->add({.address = "192.168.1.9", .mac = "m1", .type = "NVR"});
+        site.rows->add({.address = "192.168.1.10", .mac = "m2"});
+        NamePlan plan;
+        plan.setDeviceFactory(&site.factory);
+        plan.setPattern("C{n}");
+        const QStringList devices = {"192.168.1.8:37777", "192.168.1.9:37777", "192.168.1.10:37777"};
+        QCOMPARE(plan.countCameras(devices), 2);
+        plan.takeCameras(devices);
+        QCOMPARE(plan.names(), QStringList({"C1", "C2"}));
+        QCOMPARE(plan.namedIdentities(), QStringList({devices.first(), devices.last()}));
+        QCOMPARE(plan.skippedCount(), 1);
+        QVERIFY(plan.get(1).value("note").toString().startsWith(QStringLiteral("录像机")));
+        QCOMPARE(plan.get(0).value("title").toString(), QStringLiteral("B-2230-IR east"));
+        QCOMPARE(plan.get(2).value("title").toString(), QStringLiteral("东门 · B-2230-IR"));
+        plan.takeChannels(devices.at(1), 2); // its own channels have names
+        QCOMPARE(plan.names(), QStringList({"C1", "C2"}));
+    }
+
     /// A pattern that is typed on keeps what the user has unticked, and its number.
     void anUntickedChannelGetsNoName()
     {

@@ -8,7 +8,8 @@ OVDialog {
     required property var deviceFactory
     property string device: ""    // whose channels are named
     property int channelCount: 0
-    property var cameras: []      // addresses and ports of the ticked ones, of which the first channel is named
+    property var cameras: []      // addresses and ports of the ticked devices; the first channel of cameras is named
+    property int cameraCount: 0   // of these devices
     property bool ofChannels: true
     readonly property string fault: plan.fault !== "" ? plan.fault
         : !startField.acceptable || !digitsField.acceptable ? startField.complaint : ""
@@ -20,8 +21,9 @@ OVDialog {
         root.device = device;
         root.channelCount = channelCount;
         root.cameras = cameras;
+        cameraCount = plan.countCameras(cameras);
         tried = false;
-        choose(cameras.length === 0 || channelCount > 1);
+        choose(cameraCount === 0 || channelCount > 1);
         open();
     }
 
@@ -36,9 +38,9 @@ OVDialog {
     function begin() {
         close();
         if (ofChannels)
-            channelsNamed(plan.checkedIdentities(), plan.names());
+            channelsNamed(plan.namedIdentities(), plan.names());
         else
-            camerasNamed(plan.checkedIdentities(), plan.names());
+            camerasNamed(plan.namedIdentities(), plan.names());
     }
 
     width: Theme.batchPreviewWidth
@@ -50,7 +52,7 @@ OVDialog {
         tried = true;
         if (fault !== "")
             refuse(fault);
-        else if (plan.checkedCount === 0)
+        else if (plan.names().length === 0)
             refuse(qsTr("请选择要命名的项"));
         else if (!ofChannels && plan.warningCount > 0)
             question.ask(plan.warningCount, plan.warnings());
@@ -80,7 +82,7 @@ OVDialog {
             currentIndex: root.ofChannels ? 0 : 1
             options: [
                 {text: qsTr("当前设备的 %n 个通道", "", root.channelCount), objectName: "nameChannelsChoice"},
-                {text: qsTr("勾选的 %n 台摄像机", "", root.cameras.length), objectName: "nameCamerasChoice"}
+                {text: qsTr("勾选的 %n 台摄像机", "", root.cameraCount), objectName: "nameCamerasChoice"}
             ]
             visible: root.cameras.length > 0
             onActivated: index => root.choose(index === 0)
