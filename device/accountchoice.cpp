@@ -3,6 +3,7 @@
 #include "device/devicerow.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -15,6 +16,12 @@ bool isOwnMac(const QString &mac)
 
 } // namespace
 
+void AccountChoice::setDefault(const DeviceAccount &account)
+{
+    if (std::exchange(m_default, account) != account)
+        m_following.reset();
+}
+
 AccountChoice::Chosen AccountChoice::of(const QJsonObject &row) const
 {
     const QString account = row.value(DeviceRowKey::username).toString();
@@ -22,7 +29,7 @@ AccountChoice::Chosen AccountChoice::of(const QJsonObject &row) const
     if (!account.isEmpty() && !password.isEmpty())
         return {.account = {.account = account, .password = password}, .source = Source::Row};
 
-    Chosen chosen = {.account = m_default};
+    Chosen chosen = {.account = defaultAccount(), .isFollowing = m_following.has_value()};
     const QStringList identities = m_stored ? accountIdentities(row) : QStringList();
     if (const auto stored = identities.isEmpty() ? std::nullopt : m_stored(identities))
         chosen = {.account = *stored, .source = Source::Stored};

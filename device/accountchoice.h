@@ -21,6 +21,9 @@ struct DeviceAccount
 /// user keeps for the device; then the default. It is one account: others are not tried when the device
 /// refuses it, since each try counts towards the lock of the device.
 ///
+/// While the program runs, the user may give an account for all devices that follow. It takes the place of
+/// the default one until another default is set.
+///
 /// A value. of() may be called on any thread, if the stored accounts may.
 class AccountChoice
 {
@@ -39,11 +42,18 @@ public:
     {
         DeviceAccount account;
         Source source = Source::Default;
+        bool isFollowing = false; ///< that for all that follow, in place of the default one
     };
 
     void setStored(const Stored &stored) { m_stored = stored; }
-    void setDefault(const DeviceAccount &account) { m_default = account; }
-    [[nodiscard]] const DeviceAccount &defaultAccount() const { return m_default; }
+    void setDefault(const DeviceAccount &account);
+    void setFollowing(const DeviceAccount &account) { m_following = account; }
+
+    /// Of a device without an account of its own.
+    [[nodiscard]] const DeviceAccount &defaultAccount() const
+    {
+        return m_following ? *m_following : m_default;
+    }
 
     /// What a row lacks of its own account, its name or its password, is that of the next one.
     [[nodiscard]] Chosen of(const QJsonObject &row) const;
@@ -51,6 +61,7 @@ public:
 private:
     Stored m_stored;
     DeviceAccount m_default;
+    std::optional<DeviceAccount> m_following; ///< nothing until the user gives one
 };
 
 /// The texts that identify the device of a row in a store of accounts, the surest one first: its MAC and its

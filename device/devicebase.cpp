@@ -230,6 +230,8 @@ QList<DeviceStep> CDeviceBase::snapshotSteps(const QString &)
     return {};
 }
 
+void CDeviceBase::setFollowingAccount(const QString &, const QString &) {}
+
 QVariantMap CDeviceBase::accountOf(const QString &)
 {
     return {};

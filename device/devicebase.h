@@ -221,7 +221,7 @@ public:
     /// The names of the rows in which upgrades have changed something since the last call.
     virtual QStringList takeChangedUpgrades();
     /// The one account that the device is logged in to with, see AccountChoice: "account", "password",
-    /// "isStored" and "isDefault". `name` is that of its row, or its address and port.
+    /// "isStored", "isDefault" and "isFollowing". `name` is that of its row, or its address and port.
     virtual QVariantMap accountOf(const QString &name);
 
     /// Logs in to a device with its row's account, else the default one, takes pictures of its channels, one
@@ -230,6 +230,8 @@ public:
     /// Logs in to a device beside the current session, for live pictures. As a step of many devices at the
     /// same time, it may run on any thread.
     virtual OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
+    /// Takes the place of the default account, until another default account is set.
+    virtual void setFollowingAccount(const QString &account, const QString &password);
 
     /// Gives the back end the way to devices behind NAT, or takes it away by null. Called by the factory,
     /// which owns the ports.

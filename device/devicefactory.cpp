@@ -204,6 +204,12 @@ void CDeviceFactory::setDefaultAccount(const QString &family, const QString &acc
     forward(family, &CDeviceBase::setDefaultAccount, account, password);
 }
 
+void CDeviceFactory::setFollowingAccount(const QString &family, const QString &account,
+                                         const QString &password)
+{
+    forward(family, &CDeviceBase::setFollowingAccount, account, password);
+}
+
 QVariantMap CDeviceFactory::accountOf(const QString &family, const QString &name)
 {
     return forward(family, &CDeviceBase::accountOf, name);

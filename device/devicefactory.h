@@ -67,6 +67,9 @@ public:
                                        const QString &password);
     Q_INVOKABLE void setInitAccount(const QString &family, const QString &mac, const QString &account,
                                     const QString &password);
+    /// See CDeviceBase::setFollowingAccount().
+    Q_INVOKABLE void setFollowingAccount(const QString &family, const QString &account,
+                                         const QString &password);
     /// See CDeviceBase::accountOf().
     Q_INVOKABLE [[nodiscard]] QVariantMap accountOf(const QString &family, const QString &name);
     /// Returns the local port that leads to the device, 0 on failure.

@@ -80,6 +80,7 @@ public:
                        const QString &port, int loginType, const QString &devicePort) override;
     DeviceStep addingStep(const DeviceToAdd &device) override;
     void setDefaultAccount(const QString &account, const QString &password) override;
+    void setFollowingAccount(const QString &account, const QString &password) override;
     QVariantMap accountOf(const QString &name) override;
     bool updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
                           const QString &ipport) override;

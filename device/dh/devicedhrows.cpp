@@ -34,6 +34,11 @@ void CDeviceDH::setDefaultAccount(const QString &account, const QString &passwor
     m_accounts.setDefault({.account = account, .password = password});
 }
 
+void CDeviceDH::setFollowingAccount(const QString &account, const QString &password)
+{
+    m_accounts.setFollowing({.account = account, .password = password});
+}
+
 QVariantMap CDeviceDH::accountOf(const QString &name)
 {
     const QJsonObject row = store().rowNamed(name);
@@ -41,7 +46,9 @@ QVariantMap CDeviceDH::accountOf(const QString &name)
     return {{QStringLiteral("account"), chosen.account.account},
             {QStringLiteral("password"), chosen.account.password},
             {QStringLiteral("isStored"), chosen.source == AccountChoice::Source::Stored},
-            {QStringLiteral("isDefault"), chosen.source == AccountChoice::Source::Default}};
+            {QStringLiteral("isDefault"), chosen.source == AccountChoice::Source::Default},
+            {QStringLiteral("isFollowing"),
+             chosen.source == AccountChoice::Source::Default && chosen.isFollowing}};
 }
 
 bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,

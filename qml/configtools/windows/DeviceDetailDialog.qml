@@ -35,7 +35,7 @@ OVDialog {
         trouble = "";
         notice = "";
         const known = LoginMemory.accountFor(ipport, deviceFactory);
-        isLent = known.isForAll ?? false;
+        isLent = known.isForAll;
         if (isLent)
             setAccount(known.user, known.password);
         work.readDetail(ipport);

@@ -1,6 +1,6 @@
 // What the windows that log in to one device after the other remember until the program ends: how often each device has
-// refused a password, and the account that the user has given for all that follow. It also holds the accounts that the
-// user keeps, which the main window hands over.
+// refused a password, and the account that the user has given and that was not tried yet. It also holds the accounts that
+// the user keeps, which the main window hands over.
 pragma Singleton
 import QtQuick
 
@@ -9,16 +9,14 @@ QtObject {
 
     readonly property int wrongPassword: 2  // a LoginResult
     property var wrongTimes: ({})  // by address and port
-    property string account
-    property string password
-    /// An account that the user has given and that was not tried yet: "ipport", "account", "password", "isForAll" and
-    /// "isKept" (for the device).
+    /// An account that the user has given and that was not tried yet: "ipport", "account", "password", "isForAll" (that
+    /// follow), "isKept" (for the device) and "deviceFactory".
     property var offered: null
     property var accounts: null  // an AccountList; null where nothing is kept
     signal unkept(string reason)
 
-    /// Takes the result of a login. An account for all that follow counts once a device has taken it, and one for the
-    /// device is kept then.
+    /// Takes the result of a login. An account for all that follow is the default one once a device has taken it, and
+    /// one for the device is kept then.
     function note(ipport, result) {
         if (result === wrongPassword)
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: timesWrong(ipport) + 1});
@@ -26,18 +24,19 @@ QtObject {
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: 0});
         if (offered === null || offered.ipport !== ipport)
             return;
-        if (result === 0 && offered.isForAll) {
-            account = offered.account;
-            password = offered.password;
-        }
+        if (result === 0 && offered.isForAll)
+            offered.deviceFactory.setFollowingAccount("dh", offered.account, offered.password);
         const failure = result === 0 && offered.isKept ? accounts.keep(ipport, offered.account, offered.password) : "";
         offered = null;
         if (failure !== "")
             unkept(failure);
     }
 
-    function offer(ipport, account, password, isForAll, isKept) {
-        offered = {ipport: ipport, account: account, password: password, isForAll: isForAll, isKept: isKept};
+    function offer(ipport, account, password, isForAll, isKept, deviceFactory) {
+        offered = {
+            ipport: ipport, account: account, password: password, isForAll: isForAll, isKept: isKept,
+            deviceFactory: deviceFactory
+        };
     }
 
     /// Why a login failed, for a place where no address is beside it.
@@ -50,11 +49,9 @@ QtObject {
         return wrongTimes[ipport] ?? 0;
     }
 
-    /// The one account that a device is tried with: that for all that follow takes the place of the default one.
+    /// The one account that a device is tried with.
     function accountFor(ipport, deviceFactory) {
         const chosen = deviceFactory.accountOf("dh", ipport);
-        if (chosen.isDefault && account !== "")
-            return {user: account, password: password, isForAll: true};
-        return {user: chosen.account, password: chosen.password};
+        return {user: chosen.account, password: chosen.password, isForAll: chosen.isFollowing ?? false};
     }
 }

@@ -74,7 +74,7 @@ OVDialog {
         const password = passwordField.text;
         close();
         if (followingBox.checked || keepBox.checked)
-            LoginMemory.offer(ipport, account, password, followingBox.checked, keepBox.checked);
+            LoginMemory.offer(ipport, account, password, followingBox.checked, keepBox.checked, deviceFactory);
         const kept = deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
         answer(kept ? account : "", kept ? password : "");
     }
@@ -141,8 +141,8 @@ OVDialog {
             id: followingBox
             x: Theme.formLabelWidth + Theme.unit
             objectName: "followingBox"
-            text: qsTr("之后打开的设备也使用此账号")
-            toolTip: qsTr("登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出")
+            text: qsTr("之后的设备也使用此账号")
+            toolTip: qsTr("登录成功后，没有自己账号的设备都用此账号代替搜索设置中的账号，批处理也是如此，直到程序退出或搜索设置中的账号改变")
         }
     }
 }

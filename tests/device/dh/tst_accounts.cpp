@@ -118,6 +118,21 @@ private Q_SLOTS:
         QCOMPARE(asking("192.168.1.78:37777"), "admin 1");
     }
 
+    /// Until the user sets another default account. A search sets the same one again.
+    void anAccountForAllThatFollowTakesThePlaceOfTheDefault()
+    {
+        QCOMPARE(m_list->put({}, "Site", "admin", "secret1"), "");
+        QCOMPARE(m_list->select({firstMac}, "Site"), "");
+        m_factory->setFollowingAccount("dh", "operator", "other-1");
+        setDefault();
+        QCOMPARE(asking(second), "operator 0");
+        QCOMPARE(asking(first), "admin 0"); // has one of its own
+        QVERIFY(m_factory->accountOf("dh", second).value("isFollowing").toBool());
+        m_default.password = "another";
+        setDefault();
+        QCOMPARE(asking(second), "admin 1");
+    }
+
     void aFirstPasswordIsUsedFromThenOn_data()
     {
         const auto row = dataTable<AccountList::Keeping, QString, QString, QString>(

@@ -45,7 +45,7 @@ Item {
         type = row.type ?? "";
         noteUpgrade();
         const known = LoginMemory.accountFor(ipport, deviceFactory);
-        login(known.user, known.password, known.isForAll ?? false);
+        login(known.user, known.password, known.isForAll);
     }
 
     function noteUpgrade() {
