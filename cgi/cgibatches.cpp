@@ -48,6 +48,7 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
                       .devices = batchDevices(m_factory, dhFamily, identities),
                       .policy = commandPolicy(m_batches)};
     plan.isByAddress = true;
+    plan.accountOf = m_batches.rowAccounts(dhFamily);
     nameByAddress(plan.devices);
     const QList<BatchDevice> devices = plan.devices;
     plan.stepOf = [this, command](const BatchDevice &device) {

@@ -52,6 +52,10 @@ public:
     }
     QVariantMap accountOf(const QString &name) override
     {
+        const QVariantMap row = rows.value(name);
+        if (row.contains(QStringLiteral("password"))) // given by the user
+            return {{QStringLiteral("account"), row.value(QStringLiteral("username"))},
+                    {QStringLiteral("password"), row.value(QStringLiteral("password"))}};
         return accounts.value(name, {{QStringLiteral("account"), QStringLiteral("admin")},
                                      {QStringLiteral("password"), QStringLiteral("secret1")}});
     }

@@ -121,6 +121,22 @@ private Q_SLOTS:
         QCOMPARE(identities, QStringList({"a", "b", "c", "b", "c"}));
     }
 
+    void aRefusedAccountCanBeReplaced()
+    {
+        const auto give = [this](const char *password) {
+            m_site->devices->accounts.insert("a", {{"account", "admin"}, {"password", password}});
+        };
+        give("wrong");
+        Batch *batch = send("/cgi-bin/a", {"a"});
+        QTRY_VERIFY(!batch->isRunning());
+        QVERIFY(!batch->canRetry("a"));
+        give("secret1");
+        QVERIFY(batch->canRetry("a"));
+        const Batch *again = m_site->batches.retry(batch);
+        QTRY_VERIFY(!again->isRunning());
+        QCOMPARE(m_site->result("a"), "OK");
+    }
+
     void theWholeOfALongAnswerIsKept()
     {
         const QString answer(10'000, 'x');

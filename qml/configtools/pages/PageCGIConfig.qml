@@ -102,6 +102,10 @@ FocusScope {
         deviceFactory: page.deviceFactory
         deviceTable: devices
         objectName: "cgiSender"
+        onAccountRefused: (identity, ipport, result) => {
+            if (page.visible)
+                relogin.wanted().askFor(identity, ipport, result);
+        }
         onFailed: lines => {
             if (page.visible)
                 answerWindow.wanted().show(qsTr("未成功的设备"), lines.join("\n"));
@@ -149,6 +153,27 @@ FocusScope {
         visible: false
         sourceComponent: BatchPreviewDialog {
             deviceFactory: page.deviceFactory
+        }
+    }
+    OVOnDemand {
+        id: relogin
+        visible: false
+        sourceComponent: ReloginDialog {
+            property string identity
+
+            function askFor(identity, ipport, result) {
+                this.identity = identity;
+                ask(devices.get(devices.rowOf(identity)).mac ?? "", ipport,
+                    LoginMemory.accountFor(ipport, page.deviceFactory).user, result);
+            }
+
+            deviceFactory: page.deviceFactory
+            onAnswered: (account, password) => {
+                if (account === "" && password === "")
+                    return;
+                page.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
+                cgiSender.send(devices.rowOf(identity));
+            }
         }
     }
     OVOnDemand {

@@ -168,6 +168,23 @@ private Q_SLOTS:
             QCOMPARE(devices->get(0).value("result").toString(), QString(answer));
     }
 
+    /// The command is sent again with what the user enters.
+    void aRefusedAccountIsAskedFor()
+    {
+        m_site->devices->rows["a"].insert("url", "/cgi-bin/a");
+        m_site->devices->accounts.insert("a", {{"account", "admin"}, {"password", "wrong"}});
+        open(page);
+        QVERIFY(
+            QMetaObject::invokeMethod(find("page"), "actOn", Q_ARG(QVariant, "send"), Q_ARG(QVariant, 0)));
+        for (const char *password : {"wrong", "secret1"}) {
+            QTRY_VERIFY(find("devicePasswordField") && !m_site->batches.isRunning());
+            find("devicePasswordField")->setProperty("text", password);
+            QTest::keyClick(m_window.get(), Qt::Key_Return);
+        }
+        QTRY_COMPARE(m_site->result("a"), "OK");
+        QCOMPARE(m_site->devices->logins, QStringList({"admin wrong", "admin wrong", "admin secret1"}));
+    }
+
     /// Those with the same reason stand together.
     void aBatchNamesTheDevicesThatAreNotDone()
     {

@@ -15,6 +15,8 @@ Item {
     signal said(string message, int kind)
     /// A batch has ended with devices that failed or were not done: a line for each, by their results.
     signal failed(var lines)
+    /// The device of the row has refused the account that the command was sent with.
+    signal accountRefused(string identity, string ipport, int result)
 
     readonly property string prefix: "/cgi-bin/"
 
@@ -57,9 +59,23 @@ Item {
         deviceTable.refreshDevices(identities);
     }
 
+    /// Of the row whose command it was.
+    function noteLogin() {
+        const {ipport} = deviceFactory.getDeviceDetail("dh", singleRow);
+        const noSuchAccount = 1;
+        const result = [noSuchAccount, LoginMemory.wrongPassword].find(code => batch.report.devicesWith(code).length > 0);
+        if (batch.report.succeeded === 1)
+            LoginMemory.note(ipport, 0);
+        if (result === undefined)
+            return;
+        LoginMemory.note(ipport, result);
+        accountRefused(singleRow, ipport, result);
+    }
+
     function tellEnd() {
         const report = batch.report;
         if (singleRow !== "") {
+            noteLogin();
             if (report.succeeded === 1 && deviceFactory.getDeviceDetail("dh", singleRow).result === "")
                 said(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
             return;
