@@ -8,6 +8,7 @@
 LiveSession::~LiveSession()
 {
     m_stop.request_stop();
+    m_pictureStop.request_stop();
 }
 
 CDeviceFactory *LiveSession::deviceFactory() const
@@ -47,9 +48,29 @@ void LiveSession::open(const QString &ipport, const QString &account, const QStr
         });
 }
 
+void LiveSession::takePicture(int channel, const QString &folder)
+{
+    if (!m_deviceFactory || !m_session)
+        return;
+    const auto picture = std::make_shared<OwnPicture>();
+    m_deviceFactory->runForScene(
+        dhFamily,
+        [session = m_session, picture, channel, folder](const StepControl &control) {
+            *picture = session->takePicture(channel, folder, control);
+            return SceneOutcome();
+        },
+        m_pictureStop.get_token(),
+        [self = QPointer(this), stop = m_pictureStop.get_token(), picture, channel](const SceneOutcome &) {
+            if (self && !stop.stop_requested())
+                Q_EMIT self->pictureTaken(channel, picture->path, picture->message);
+        });
+}
+
 void LiveSession::close()
 {
     m_stop.request_stop();
+    m_pictureStop.request_stop();
+    m_pictureStop = std::stop_source();
     ++m_number;
     setSession(nullptr);
 }

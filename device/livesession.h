@@ -39,7 +39,11 @@ public:
     /// another order comes first.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
-    /// Logs out, and gives up what open() began.
+    /// Takes a picture of a channel, from 0, in the present session, see OwnSession. pictureTaken() follows,
+    /// unless the session is closed first.
+    Q_INVOKABLE void takePicture(int channel, const QString &folder);
+
+    /// Logs out, and gives up what open() and takePicture() began.
     Q_INVOKABLE void close();
 
 Q_SIGNALS:
@@ -47,6 +51,8 @@ Q_SIGNALS:
     void handleChanged();
     /// `result` is a LoginResult. The present session stays when a device does not answer.
     void ended(int result, const QVariantList &channels);
+    /// `path` is a "file:///" address, empty on failure; `message` then says why in the user's language.
+    void pictureTaken(int channel, const QString &path, const QString &message);
 
 private:
     void take(const OwnSessionOffer &offer);
@@ -54,6 +60,7 @@ private:
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
     std::stop_source m_stop;
+    std::stop_source m_pictureStop;
     std::shared_ptr<OwnSession> m_session;
     int m_number = 0; ///< of the order that counts
 };

@@ -10,6 +10,13 @@
 #include <functional>
 #include <memory>
 
+/// A picture of a channel that was taken for the user.
+struct OwnPicture
+{
+    QString path = {};    ///< a "file:///" address, empty on failure
+    QString message = {}; ///< why it failed, in the user's language
+};
+
 /// A login that lasts as long as this object. It ends without holding up the scene's thread.
 class OwnSession
 {
@@ -21,6 +28,11 @@ public:
 
     [[nodiscard]] virtual qint64 handle() const = 0; ///< of the login, for live streams
     [[nodiscard]] virtual int channelCount() const = 0;
+
+    /// Takes a picture of a channel, from 0, into "snap/<folder>" below the current folder. Any thread but
+    /// the scene's, which it blocks until the picture is there or given up.
+    [[nodiscard]] virtual OwnPicture takePicture(int channel, const QString &folder,
+                                                 const StepControl &control) const = 0;
 };
 
 /// A device that a session is wanted with.

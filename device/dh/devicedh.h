@@ -259,6 +259,8 @@ private:
     void noteUpgradeDocuments();
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
     /// Takes the pictures of an order in a login.
+    [[nodiscard]] OwnPicture takeOwnPicture(std::int64_t handle, int channelCount, int channel,
+                                            const QString &folder, const StepControl &control) const;
     [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
                                            const StepControl &control) const;
     /// Emits signalCDeviceAddSingleDeviceToTable once, however often it is called before. On any thread.

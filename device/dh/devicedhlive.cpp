@@ -8,6 +8,7 @@
 #include "media/snapthread.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QThread>
 
 #include <algorithm>
@@ -193,6 +194,22 @@ StepOutcome CDeviceDH::takePictures(const PictureOrder &order, const SecureLogin
         return failure;
     return {.result = resultCode(LoginResult::Success),
             .text = failures > 0 ? tr("%n 个通道没有图像", nullptr, failures) : QString()};
+}
+
+OwnPicture CDeviceDH::takeOwnPicture(std::int64_t handle, int channelCount, int channel,
+                                     const QString &folder, const StepControl &control) const
+{
+    const QList<bool> connected = connectedChannels(ConfigSession(m_libraries, handle), channelCount);
+    const SnapTask task = {.kind = {},
+                           .folder =
+                               QDir::current().absoluteFilePath(QStringLiteral("snap/") + folderName(folder)),
+                           .isDeviceCurrent = [] { return true; },
+                           .sessionHandle = [handle] { return handle; },
+                           .channels = {},
+                           .ownSession = handle};
+    const SnapOutcome outcome = snapshotOnThread(
+        task, {.number = channel, .connected = connected.value(channel, true)}, control.stopToken());
+    return {.path = outcome.path, .message = outcome.message};
 }
 
 void CDeviceDH::noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message)

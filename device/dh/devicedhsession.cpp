@@ -32,6 +32,12 @@ public:
 
     [[nodiscard]] qint64 handle() const override { return m_handle; }
     [[nodiscard]] int channelCount() const override { return m_channelCount; }
+    [[nodiscard]] OwnPicture takePicture(int channel, const QString &folder,
+                                         const StepControl &control) const override
+    {
+        return m_backEnd ? m_backEnd->takeOwnPicture(m_handle, m_channelCount, channel, folder, control)
+                         : OwnPicture();
+    }
 
 private:
     const QPointer<CDeviceDH> m_backEnd;

@@ -32,6 +32,7 @@ Item {
     readonly property int freshness: 1000
     signal renewed                   // there is a new session
     signal answered(bool isThere)    // after look()
+    signal pictureTaken(int channel, string picture, string message)  // after takePicture()
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
@@ -78,6 +79,11 @@ Item {
             ask();
     }
 
+    /// Into the folder of this name, below that of all snapshots.
+    function takePicture(channel, folder) {
+        session.takePicture(channel, folder);
+    }
+
     function take(channels) {
         pause.settle();
         noteAlive();
@@ -110,6 +116,7 @@ Item {
         property double before: 0
 
         deviceFactory: root.deviceFactory
+        onPictureTaken: (channel, path, message) => root.pictureTaken(channel, path, message)
         onEnded: (result, channels) => {
             root.asking = false;
             root.result = result;

@@ -8,6 +8,7 @@ Rectangle {
     required property LiveGrid grid
     required property bool fullScreen
     required property bool canSnap
+    required property bool canSnapCurrent  // the channel that is looked at
     required property bool snapping
     required property string otherBatch  // that runs; "" for none
     required property int ticked         // devices of the list
@@ -150,13 +151,10 @@ Rectangle {
         }
         Gap {}
         BarButton {
-            readonly property bool isOther: (root.grid.currentEntry?.companion ?? null) !== null
-
-            enabled: root.canSnap && !root.snapping && root.grid.currentChannel >= 0 && !isOther
+            enabled: root.canSnapCurrent && !root.snapping && root.grid.currentChannel >= 0
             iconName: "snapshot"
             objectName: "liveSnapButton"
-            toolTip: root.snapping ? qsTr("正在抓图…")
-                : isOther ? qsTr("加入的设备不能在此抓图，请在设备图像窗口中保存") : qsTr("抓取当前通道")
+            toolTip: root.snapping ? qsTr("正在抓图…") : qsTr("抓取当前通道")
             onClicked: root.snapRequested()
         }
         BarButton {

@@ -82,12 +82,14 @@ T.ApplicationWindow {
     /// The pictures go first: they stream in the session of the device.
     function remove(ipport) {
         const place = companions.places().indexOf(ipport);
+        taking.leave(ipport);
         grid.adopt(grid.channels.filter(entry => entry.ipport !== ipport));
         companions.remove(place);
         gather();
     }
 
     function removeAll() {
+        taking.leave(taking.ipport);
         grid.adopt(grid.channels.filter(entry => entry.companion === null));
         companions.clear();
     }
@@ -142,9 +144,18 @@ T.ApplicationWindow {
             toggleFullScreen();
     }
 
-    function snap(channel) {
-        taking.take(device.ipport, device.channels[channel]);
+    function snap(entry) {
+        taking.take(entry.ipport, entry, entry.companion);
         results.wanted().open();
+    }
+
+    /// One of the pictures anew, unless its device is no longer shown.
+    function snapAgain(channel) {
+        const entry = grid.channels.find(shown => shown.ipport === taking.ipport && shown.channel === channel);
+        if (entry)
+            snap(entry);
+        else
+            results.item.refuse(qsTr("设备已移出画面"));
     }
 
     function snapAll() {
@@ -286,6 +297,7 @@ T.ApplicationWindow {
         y: parent.height - height
         width: parent.width - x
         canSnap: device.loggedIn && device.channels.length > 0
+        canSnapCurrent: canSnap && (grid.currentEntry?.companion?.loggedIn ?? true)
         full: companions.count >= window.mostCompanions
         fullScreen: window.fullScreen
         grid: grid
@@ -295,7 +307,7 @@ T.ApplicationWindow {
         onAdditionRequested: window.addTicked()
         onFullScreenRequested: window.toggleFullScreen()
         onSnapAllRequested: window.snapAll()
-        onSnapRequested: window.snap(grid.currentChannel)
+        onSnapRequested: window.snap(grid.currentEntry)
     }
     Rectangle {
         y: titleBar.height
@@ -337,7 +349,7 @@ T.ApplicationWindow {
         visible: false
         sourceComponent: SnapshotDialog {
             snapshots: taking
-            onAgainRequested: channel => window.snap(channel)
+            onAgainRequested: channel => window.snapAgain(channel)
             onFolderRequested: {
                 const picture = taking.results.find(entry => entry.picture !== "").picture;
                 if (!Qt.openUrlExternally(picture.slice(0, picture.lastIndexOf("/"))))

@@ -8,6 +8,8 @@ Item {
     required property Batches batches
     required property var deviceFactory
     property Batch batch: null        // of all channels, while it runs
+    property string ipport            // of the device
+    property var companion: null      // a LiveCompanion, which takes the pictures of its device; null for the session's
     property string folder            // of the device, below the folder of all snapshots
     property var results: []          // maps of "channel", "name", "state", "picture", "message", "revision"
     property int running: 0           // channels that are still to be reported
@@ -29,6 +31,8 @@ Item {
         if (!batch)
             return false;
         folder = wanted;
+        root.ipport = ipport;
+        companion = null;
         results = channels.map((entry, place) => ({
             channel: entry.channel, name: entry.name, picture: "", message: "",
             state: place === 0 ? Snapshots.Taking : Snapshots.Waiting
@@ -50,18 +54,33 @@ Item {
             ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("未执行")}) : entry);
     }
 
-    /// Takes one channel, anew when it was taken before.
-    function take(ipport, entry) {
+    /// Takes one channel, anew when it was taken before. `companion` is that of an added device, else null.
+    function take(ipport, entry, companion) {
         const wanted = folderOf(ipport);
         if (wanted !== folder)
             results = [];
         folder = wanted;
+        root.ipport = ipport;
+        root.companion = companion;
         if (!results.some(other => other.channel === entry.channel))
             results = results.concat([{channel: entry.channel, name: entry.name, picture: "", message: "",
                                        state: Snapshots.Waiting}]);
         change(entry.channel, {state: Snapshots.Taking, message: ""});
         running += 1;
-        deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folder);
+        if (companion)
+            companion.takePicture(entry.channel, folder);
+        else
+            deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folder);
+    }
+
+    /// An added device goes, with what it was taking. Its pictures stay.
+    function leave(ipport) {
+        if (companion === null || ipport !== root.ipport)
+            return;
+        companion = null;
+        running = 0;
+        results = results.map(entry => entry.state === Snapshots.Taking
+            ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("设备已移出画面")}) : entry);
     }
 
     function change(channel, values) {
@@ -88,6 +107,14 @@ Item {
         }
     }
     Connections {
+        target: root.companion
+
+        function onPictureTaken(channel, picture, message) {
+            root.note(channel, picture, message);
+        }
+    }
+    Connections {
+        enabled: root.companion === null
         target: root.deviceFactory
 
         function onSignalSnapPictureToFile(channel, picture, message) {

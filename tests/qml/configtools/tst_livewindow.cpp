@@ -39,6 +39,11 @@ public:
         ~Session() override { m_open->removeOne(ipportOf(m_number)); }
         [[nodiscard]] qint64 handle() const override { return m_number; }
         [[nodiscard]] int channelCount() const override { return 1; }
+        [[nodiscard]] OwnPicture takePicture(int channel, const QString &folder,
+                                             const StepControl &) const override
+        {
+            return {.message = QStringLiteral("%1 of %2 for %3").arg(channel).arg(m_number).arg(folder)};
+        }
 
     private:
         const int m_number;
@@ -263,6 +268,24 @@ private Q_SLOTS:
         QCOMPARE(*m_devices->open, QStringList(ipportOf(24)));
         QCOMPARE(find("livePlace0")->property("channel").toInt(), -1);
         QCOMPARE(textIn(2, "liveChannelName"), "D23");
+    }
+
+    /// In its own session; it is no longer asked once it has gone.
+    void anAddedDeviceIsPhotographed()
+    {
+        m_devices->channels = {{21, 2}};
+        openLive(20);
+        tick({1});
+        click("liveAddButton");
+        click("liveChannel2"); // its second channel, in the place of D20
+        click("liveSnapButton");
+        const QString taken = QStringLiteral("1 of 21 for 192.168.1.21_37777");
+        QTRY_COMPARE(text("snapshotMessage"), taken);
+        QCOMPARE(text("snapshotName"), "C1");
+        QMetaObject::invokeMethod(m_window, "remove", Q_ARG(QVariant, ipportOf(21)));
+        click("snapshotAgain1");
+        QTRY_VERIFY(find("dialogNotice"));
+        QCOMPARE(text("snapshotMessage"), taken);
     }
 
     void renamedDevicesAreToldApart()
