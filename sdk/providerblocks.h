@@ -17,7 +17,7 @@ enum class ProviderFunction : std::uint32_t
 struct ProviderInformation
 {
     std::uint32_t size;       ///< sizeof(ProviderInformation), set by the caller
-    std::int32_t defaultPort; ///< of a device's service
+    std::int32_t defaultPort; ///< of a device's service, as most devices have it
     std::uint32_t missingFunctions;
     std::uint32_t reserved;
 };

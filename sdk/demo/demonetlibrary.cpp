@@ -9,6 +9,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <map>
 #include <optional>
 
 namespace sdk::demo {
@@ -37,6 +38,16 @@ QJsonObject decoded(const SearchByAddressesRequest &request, const char *localAd
             {QStringLiteral("addresses"), QJsonArray::fromStringList(addressesOf(request))},
             {QStringLiteral("localAddress"), QString::fromLocal8Bit(localAddress)},
             {QStringLiteral("wait"), static_cast<qint64>(wait.count())}};
+}
+
+/// The service port that most devices of the site have.
+std::int32_t usualPort(const DemoSite &site)
+{
+    constexpr std::int32_t portWithoutDevices = 37777;
+    std::map<std::int32_t, int> counts;
+    site.visitDevices([&counts](const SceneDevice &device) { ++counts[device.port]; });
+    const auto usual = std::ranges::max_element(counts, {}, &std::pair<const std::int32_t, int>::second);
+    return usual == counts.end() ? portWithoutDevices : usual->first;
 }
 
 } // namespace
@@ -78,9 +89,8 @@ void DemoNetLibrary::endEverything()
 
 void DemoNetLibrary::NetGetProviderInformation(ProviderInformation &information) const
 {
-    constexpr std::int32_t servicePort = 37777;
     information = {
-        .size = sizeof(information), .defaultPort = servicePort, .missingFunctions = 0, .reserved = 0};
+        .size = sizeof(information), .defaultPort = usualPort(m_site), .missingFunctions = 0, .reserved = 0};
 }
 
 void DemoNetLibrary::NetSetCertificateHandler(CertificateHandler, void *)

@@ -2,6 +2,8 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scenereader.h"
+#include "sdk/netlibrary.h"
+#include "sdk/providerblocks.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
 
@@ -107,6 +109,10 @@ private Q_SLOTS:
         QVERIFY(error.isEmpty());
         QCOMPARE(site->device(u"02:1A:C5:00:00:01"_s)->name, u"Mine"_s);
         QVERIFY(!site->device(u"02:1a:c5:00:00:02"_s));
+        sdk::ProviderInformation provider{};
+        provider.size = sizeof(provider);
+        site->libraries().net->NetGetProviderInformation(provider);
+        QCOMPARE(provider.defaultPort, 8800); // what a user who adds the device need not enter
 
         const QList<std::pair<QString, QStringList>> mistakes = {
             {u"ofice"_s, {u"\"ofice\""_s, u"office"_s, u"factory"_s, u"faulty"_s, u"fleet:N"_s}},
