@@ -1,6 +1,8 @@
 // A choice of few, side by side. Options are objects with "text" and "objectName", and if wanted "enabled" and "toolTip".
+// It is one stop of the Tab key: Left and Right choose.
 import QtQuick
 import configtools
+import "keygroups.js" as KeyGroups
 
 Rectangle {
     id: root
@@ -8,6 +10,23 @@ Rectangle {
     required property var options
     required property int currentIndex
     signal activated(int index)
+
+    readonly property int stop: options[currentIndex]?.enabled ?? true ? currentIndex
+        : options.findIndex(option => option.enabled ?? true)
+
+    /// Chooses the next option that can be chosen. At the end the keys go on in the group that this choice stands in.
+    function step(event, by) {
+        let next = currentIndex + by;
+        while (options[next] && !(options[next].enabled ?? true))
+            next += by;
+        if (!options[next]) {
+            event.accepted = KeyGroups.stepPlainly(choices.itemAt(stop), event, by);
+            return;
+        }
+        activated(next);
+        if (currentIndex === next)
+            choices.itemAt(next).forceActiveFocus(Qt.TabFocusReason);
+    }
 
     implicitWidth: segments.implicitWidth + 2 * Theme.line
     implicitHeight: Theme.controlHeight
@@ -25,6 +44,7 @@ Rectangle {
 
         // qmllint disable unqualified
         Repeater {
+            id: choices
             model: root.options
 
             OVAbstractButton {
@@ -39,6 +59,7 @@ Rectangle {
                 checkable: false
                 ownArrows: true
                 checked: chosen
+                focusPolicy: index === root.stop ? Qt.StrongFocus : Qt.ClickFocus
                 enabled: modelData.enabled ?? true
                 objectName: modelData.objectName
                 text: modelData.text
@@ -48,8 +69,8 @@ Rectangle {
                 Accessible.checked: chosen
 
                 onClicked: root.activated(index)
-                Keys.onLeftPressed: root.activated(Math.max(0, root.currentIndex - 1))
-                Keys.onRightPressed: root.activated(Math.min(root.options.length - 1, root.currentIndex + 1))
+                Keys.onLeftPressed: event => root.step(event, -1)
+                Keys.onRightPressed: event => root.step(event, 1)
 
                 contentItem: OVLabel {
                     id: label

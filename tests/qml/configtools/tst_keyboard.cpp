@@ -336,6 +336,28 @@ private Q_SLOTS:
         QVERIFY(currentRow() >= 0);
     }
 
+    /// Arrows choose what can be chosen. No device has failed.
+    void theFilterOfATreeIsOneStop()
+    {
+        find("treeSearchField")->forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Tab);
+        QVERIFY(has("allStates"));
+        press(Qt::Key_Tab);
+        QVERIFY(has("deviceTree"));
+        press(Qt::Key_Backtab);
+        QVERIFY(has("allStates"));
+        press(Qt::Key_Right);
+        QVERIFY(has("loggedOutStates"));
+        QCOMPARE(m_tree->shown(), OVTreeModel::LoggedOut);
+        press(Qt::Key_Tab);
+        QVERIFY(has("deviceTree"));
+        press(Qt::Key_Backtab);
+        QVERIFY(has("loggedOutStates"));
+        press(Qt::Key_Left);
+        QVERIFY(has("allStates"));
+        QCOMPARE(m_tree->shown(), OVTreeModel::All);
+    }
+
     /// It is said once, where the keyboard then is.
     void rejectedInputHasTheKeyboard()
     {
