@@ -28,7 +28,7 @@ QString snapshotFolder(const QString &ipport)
     return name.replace(odd, QStringLiteral("_"));
 }
 
-QString deviceTitle(const QVariantMap &row)
+QString nameOfDevice(const QVariantMap &row)
 {
     for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::model}) {
         QString text = row.value(key).toString().trimmed();
@@ -197,12 +197,31 @@ bool PictureGallery::show(const QVariantList &rows)
         identities.append(identity);
         m_cells.append({.identity = identity,
                         .ipport = row.value(DeviceRowKey::ipport).toString(),
-                        .device = deviceTitle(row)});
+                        .device = nameOfDevice(row)});
     }
     m_deviceCount = static_cast<int>(identities.size());
     endResetModel();
     count();
     return fetchAll();
+}
+
+void PictureGallery::readDevices()
+{
+    if (!m_deviceFactory)
+        return;
+    for (int row = 0; row < rowCount(); ++row) {
+        Cell &cell = m_cells[row];
+        const QJsonObject device = m_deviceFactory->deviceRow(dhFamily, cell.identity);
+        if (device.isEmpty())
+            continue;
+        const QString name = nameOfDevice(device.toVariantMap());
+        const QString ipport = device.value(DeviceRowKey::ipport).toString();
+        if (cell.device == name && cell.ipport == ipport)
+            continue;
+        cell.device = name;
+        cell.ipport = ipport;
+        Q_EMIT dataChanged(index(row), index(row));
+    }
 }
 
 bool PictureGallery::fetchAll()

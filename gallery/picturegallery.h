@@ -89,6 +89,10 @@ public:
     /// dropped. Returns false when the batch is refused: the cells wait then.
     Q_INVOKABLE bool show(const QVariantList &rows);
 
+    /// Reads the names and addresses of the devices again, which may have changed. A device that has left the
+    /// list keeps them.
+    Q_INVOKABLE void readDevices();
+
     /// Fetches all pictures again. Returns false when the batch is refused.
     Q_INVOKABLE bool fetchAll();
 

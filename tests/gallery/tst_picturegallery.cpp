@@ -101,6 +101,19 @@ private Q_SLOTS:
         QCOMPARE(devices().takeOrders().size(), 5); // each once
     }
 
+    void aRenamedDeviceHasItsNewName()
+    {
+        devices().addDevice(20, "gate", {});
+        devices().addDevice(21, "recorder", {.channels = {"north", "south"}, .channelCount = 2});
+        m_gallery->show(m_site->rows());
+        awaitEnd();
+        devices().ipv4.clear();
+        devices().addDevice(21, "archive", {});
+        m_gallery->readDevices();
+        const QStringList expected = {"gate: taken", "archive · north: taken", "archive · south: taken"};
+        QCOMPARE(cells(), expected);
+    }
+
     void oneIsFetchedAgain()
     {
         devices().addDevice(21, "recorder", {.channels = {"north", "south"}, .channelCount = 2});

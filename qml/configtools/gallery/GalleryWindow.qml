@@ -73,6 +73,12 @@ T.ApplicationWindow {
         }
     }
 
+    DeviceListChanges {
+        deviceFactory: window.deviceFactory
+        shown: window.visible
+        onReadingRequested: gallery.readDevices()
+    }
+
     Shortcut { sequence: "Esc"; onActivated: window.close() }
     Shortcut { sequence: "F5"; onActivated: window.fetchAll() }
     Shortcut { sequence: "Ctrl+S"; onActivated: window.saveAll() }
