@@ -8,7 +8,7 @@ import configtools
 T.Popup {
     id: root
 
-    /// A refusal is an error that names what is in the way: it goes with that, see settle().
+    /// A refusal names what is in the way of an action, which is no fault: it goes with that, see settle().
     enum Kind { Information, Success, Error, Refusal }
 
     readonly property int shown: 3
@@ -80,8 +80,8 @@ T.Popup {
                 required property int kind
                 required property int stay
                 required property string words
-                readonly property bool isError: kind === OVToast.Error || kind === OVToast.Refusal
-                readonly property color sign: isError ? Theme.colours.bad
+                readonly property color sign: kind === OVToast.Error ? Theme.colours.bad
+                    : kind === OVToast.Refusal ? Theme.colours.warn
                     : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
 
                 // A toast that stays moves only by what came or went above it.
@@ -114,7 +114,7 @@ T.Popup {
                     x: 14
                     y: 12
                     color: toast.sign
-                    name: toast.isError ? "error"
+                    name: toast.kind === OVToast.Error ? "error" : toast.kind === OVToast.Refusal ? "alert"
                         : toast.kind === OVToast.Success ? "ok" : "about"
                 }
                 OVParagraph {
