@@ -67,6 +67,27 @@ QString AccountList::remove(const QString &name)
     return failure;
 }
 
+QStringList AccountList::unused() const
+{
+    QStringList names;
+    for (const StoredAccount &account : m_accounts) {
+        if (m_deviceCounts.value(account.name) == 0)
+            names.append(account.name);
+    }
+    return names;
+}
+
+QString AccountList::removeUnused()
+{
+    load(); // a device may have been given one of them since
+    QString failure;
+    const QStringList names = unused();
+    for (qsizetype place = 0; place < names.size() && failure.isEmpty(); ++place)
+        failure = m_store->remove(names.at(place));
+    load();
+    return failure;
+}
+
 AccountList::Device AccountList::deviceOf(const QString &name) const
 {
     QJsonObject row = m_factory.deviceRow(dhFamily, name);

@@ -25,6 +25,8 @@ class AccountList : public DialogRows
     Q_OBJECT
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
+    /// The names of the accounts that no device has.
+    Q_PROPERTY(QStringList unused READ unused NOTIFY changed)
 public:
     /// What becomes of an account that devices have just taken.
     enum Keeping
@@ -51,6 +53,7 @@ public:
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] QString problem() const { return m_store->problem(); }
+    [[nodiscard]] QStringList unused() const;
 
     /// Reads the default account again, which the search settings may have changed.
     Q_INVOKABLE void load();
@@ -60,6 +63,7 @@ public:
     Q_INVOKABLE QString put(const QString &before, const QString &name, const QString &account,
                             const QString &password);
     Q_INVOKABLE QString remove(const QString &name);
+    Q_INVOKABLE QString removeUnused();
 
     /// The row of the account of this name, -1 when there is none.
     Q_INVOKABLE [[nodiscard]] int rowOfName(const QString &name) const;

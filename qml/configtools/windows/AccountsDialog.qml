@@ -54,6 +54,15 @@ OVDialog {
             ? qsTr("使用它的 %n 台设备以后用默认账号登录。", "", current.deviceCount) : ""), OVMessageBox.DangerQuestion);
     }
 
+    function askToRemoveUnused() {
+        const names = accounts.unused;
+        const shown = 5;
+        const box = removing.wanted();
+        box.name = "";
+        box.show(qsTr("删除没有设备使用的 %n 个账号？", "", names.length) + "\n"
+            + names.slice(0, shown).join(qsTr("、")) + (names.length > shown ? "…" : ""), OVMessageBox.DangerQuestion);
+    }
+
     width: Theme.initialiseWidth
     hasCancel: choosing
     objectName: "accountsDialog"
@@ -114,6 +123,14 @@ OVDialog {
                 text: qsTr("删除")
                 onClicked: root.askToRemove()
             }
+            OVButton {
+                kind: OVButton.Danger
+                objectName: "removeUnusedButton"
+                text: qsTr("删除未使用的账号")
+                toolTip: qsTr("没有为任何设备选定的账号")
+                visible: root.accounts.unused.length > 0
+                onClicked: root.askToRemoveUnused()
+            }
         }
         OVParagraph {
             width: parent.width
@@ -133,8 +150,11 @@ OVDialog {
     Component {
         id: countCell
         OVTableTextCell {
-            font: Theme.figureFont
-            text: row?.isDefault ? "—" : row?.deviceCount ?? ""
+            readonly property bool isUnused: row?.deviceCount === 0 && !row.isDefault
+
+            color: isUnused ? Theme.colours.sub : Theme.colours.ink
+            font: isUnused ? Theme.bodyFont : Theme.figureFont
+            text: row?.isDefault ? "—" : isUnused ? qsTr("未使用") : row?.deviceCount ?? ""
         }
     }
 
@@ -151,12 +171,12 @@ OVDialog {
         id: removing
         visible: false
         sourceComponent: OVMessageBox {
-            property string name
+            property string name  // "" for all accounts that no device has
             objectName: "removeAccountQuestion"
             okText: qsTr("删除")
             title: qsTr("删除账号")
             onAccepted: {
-                const failure = root.accounts.remove(name);
+                const failure = name === "" ? root.accounts.removeUnused() : root.accounts.remove(name);
                 if (failure !== "")
                     root.refuse(failure);
             }

@@ -133,6 +133,17 @@ private Q_SLOTS:
         QCOMPARE(asking(second), "admin 1");
     }
 
+    void accountsWithoutDevicesAreRemovedTogether()
+    {
+        for (const char *name : {"Old", "Site", "Spare"})
+            QCOMPARE(m_list->put({}, name, "operator", "other-1"), "");
+        QCOMPARE(m_list->select({secondMac}, "Site"), "");
+        QCOMPARE(m_list->unused(), QStringList({"Old", "Spare"}));
+        QCOMPARE(m_list->removeUnused(), "");
+        QCOMPARE(m_list->rowCount(), 2);
+        QCOMPARE(asking(second), "operator 0");
+    }
+
     void aFirstPasswordIsUsedFromThenOn_data()
     {
         const auto row = dataTable<AccountList::Keeping, QString, QString, QString>(
