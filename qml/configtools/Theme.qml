@@ -204,6 +204,7 @@ QtObject {
     // One stroke, one set.
     readonly property var icons: ({
         "about": "\ue0f9",
+        "accounts": "\ue1a4",
         "alert": "\ue193",
         "cgi": "\ue181",
         "check": "\ue06c",
@@ -249,7 +250,6 @@ QtObject {
         "spinner": "\ue10a",
         "star": "\ue176",
         "stretch": "\ue27c",
-        "system": "\ue154",
         "unknown": "\ue07e",
         "unplugged": "\ue45d",
         "upgrade": "\ue07b",

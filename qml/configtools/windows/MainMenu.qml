@@ -19,7 +19,7 @@ OVMenu {
     objectName: "mainMenu"
 
     OVMenuItem {
-        iconName: "system"
+        iconName: "accounts"
         objectName: "accountsItem"
         text: qsTr("账号管理")
         onTriggered: root.accountsRequested()
