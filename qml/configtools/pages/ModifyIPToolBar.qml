@@ -1,9 +1,10 @@
-// What can be done with the devices of the main page, and which of them are shown.
+// What can be done with the devices of the main page, and which of them are shown. In a narrow window the second part
+// stands below the first one.
 import QtQuick
 import QtQuick.Layouts
 import configtools
 
-RowLayout {
+Item {
     id: root
 
     required property bool showInitialised
@@ -35,10 +36,14 @@ RowLayout {
         searchField.selectAll();
     }
 
-    implicitHeight: Theme.toolBarHeight
-    spacing: Theme.controlGap
+    readonly property bool wraps: width < actions.width + filters.spacing + filters.leastWidth
+    readonly property int lineHeight: Theme.controlHeight + Theme.unit
+
+    implicitHeight: Theme.toolBarHeight + (wraps ? lineHeight : 0)
 
     OVActionRow {
+        id: actions
+        y: (Theme.toolBarHeight - Theme.controlHeight) / 2
         OVButton {
             enabled: !root.ipv6
             kind: OVButton.Primary
@@ -121,46 +126,56 @@ RowLayout {
         }
     }
 
-    Item {
-        Layout.fillWidth: true
-    }
+    RowLayout {
+        id: filters
+        readonly property real leastWidth: implicitWidth - Theme.searchFieldWidth + Theme.searchFieldMinimum
 
-    OVFailedFilter {
-        count: root.failedCount
-        marks: root.marks
-        on: root.onlyFailed
-        onToggled: on => root.onlyFailedToggled(on)
-    }
-    Row {
+        x: root.wraps ? 0 : actions.width + spacing
+        y: actions.y + (root.wraps ? root.lineHeight : 0)
+        width: root.width - x
+        height: Theme.controlHeight
         spacing: Theme.controlGap
 
-        OVCheckBox {
-            checked: root.showInitialised
-            objectName: "initialisedBox"
-            text: qsTr("已初始化")
-            onToggled: root.initialisedToggled(checked)
+        Item {
+            Layout.fillWidth: true
         }
-        OVCheckBox {
-            checked: root.showUninitialised
-            objectName: "uninitialisedBox"
-            text: qsTr("未初始化")
-            onToggled: root.uninitialisedToggled(checked)
+        OVFailedFilter {
+            count: root.failedCount
+            marks: root.marks
+            on: root.onlyFailed
+            onToggled: on => root.onlyFailedToggled(on)
         }
-    }
-    OVSegmentedChoice {
-        currentIndex: root.ipv6 ? 1 : 0
-        options: [{text: qsTr("IPV4"), objectName: "ipv4Choice"}, {text: qsTr("IPV6"), objectName: "ipv6Choice"}]
-        onActivated: index => root.ipv6Chosen(index === 1)
-    }
-    OVTextField {
-        id: searchField
-        Layout.fillWidth: true
-        Layout.maximumWidth: Theme.searchFieldWidth
-        Layout.minimumWidth: Theme.searchFieldMinimum
-        Layout.preferredWidth: Theme.searchFieldWidth
-        clearable: true
-        iconName: "search"
-        objectName: "searchField"
-        placeholderText: qsTr("搜索…")
+        Row {
+            spacing: Theme.controlGap
+
+            OVCheckBox {
+                checked: root.showInitialised
+                objectName: "initialisedBox"
+                text: qsTr("已初始化")
+                onToggled: root.initialisedToggled(checked)
+            }
+            OVCheckBox {
+                checked: root.showUninitialised
+                objectName: "uninitialisedBox"
+                text: qsTr("未初始化")
+                onToggled: root.uninitialisedToggled(checked)
+            }
+        }
+        OVSegmentedChoice {
+            currentIndex: root.ipv6 ? 1 : 0
+            options: [{text: qsTr("IPV4"), objectName: "ipv4Choice"}, {text: qsTr("IPV6"), objectName: "ipv6Choice"}]
+            onActivated: index => root.ipv6Chosen(index === 1)
+        }
+        OVTextField {
+            id: searchField
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.searchFieldWidth
+            Layout.minimumWidth: Theme.searchFieldMinimum
+            Layout.preferredWidth: Theme.searchFieldWidth
+            clearable: true
+            iconName: "search"
+            objectName: "searchField"
+            placeholderText: qsTr("搜索…")
+        }
     }
 }

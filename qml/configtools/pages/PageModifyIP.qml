@@ -164,7 +164,7 @@ FocusScope {
         id: toolBar
         x: Theme.pageMargin
         width: parent.width - 2 * Theme.pageMargin
-        height: Theme.toolBarHeight
+        height: implicitHeight
         ipv6: devices.ipv6
         failedCount: devices.failedCount
         marks: devices.failedMarks
