@@ -55,10 +55,15 @@ void walkWayToTheTable(Driver &driver)
         ++tabs;
     } while (tabs < 20 && !hasKeyboard(driver, u"tableRows"_s));
     driver.key(Qt::Key_Home);
-    for (const QString &start :
-         {u"searchButton"_s, u"closeButton"_s, u"initialiseButton"_s, u"ipv6Choice"_s}) {
-        driver.require(start)->forceActiveFocus(Qt::TabFocusReason);
-        goTo(driver, u"tableRows"_s, Qt::Key_Tab, 5);
+    // Tab leads to the first control of a group, arrows to the others.
+    const QList<std::pair<QString, QString>> starts = {{u"searchButton"_s, u"searchButton"_s},
+                                                       {u"searchButton"_s, u"closeButton"_s},
+                                                       {u"initialiseButton"_s, u"initialiseButton"_s},
+                                                       {u"initialiseButton"_s, u"ipv4Choice"_s}};
+    for (const auto &[first, start] : starts) {
+        goTo(driver, first, Qt::Key_Tab, roundTheWindow);
+        goTo(driver, start, Qt::Key_Right, 16);
+        goTo(driver, u"tableRows"_s, Qt::Key_Tab, furthest);
     }
     driver.report(u"keyboard-table"_s, u"%1 stops round the window"_s.arg(tabs));
 }
