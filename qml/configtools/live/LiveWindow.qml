@@ -155,7 +155,7 @@ T.ApplicationWindow {
         if (entry)
             snap(entry);
         else
-            results.item.refuse(qsTr("设备已移出画面"));
+            results.wanted().refuse(qsTr("设备已移出画面"));
     }
 
     function snapAll() {

@@ -71,7 +71,7 @@ OVDialog {
     footContent: OVLabel {
         height: parent.height
         color: Theme.colours.sub
-        text: root.ofChannels ? qsTr("填入后可在表格中修改，保存时才写入设备。") : qsTr("写入各台设备的通道 1。")
+        text: root.ofChannels ? qsTr("填入后可在表格中修改，保存时才写入设备。") : qsTr("写入各台摄像机的通道 1。")
     }
 
     Column {
