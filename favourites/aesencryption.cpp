@@ -1,45 +1,52 @@
 #include "favourites/aesencryption.h"
 
-#include "favourites/internal/aesblockcipher.h"
-
 #include <algorithm>
+#include <array>
+#include <limits>
+#include <memory>
+
+#include <openssl/evp.h>
 
 namespace {
 
-using Block = AesBlockCipher::Block;
-
-static_assert(AESEncryption::blockLength == int(AesBlockCipher::blockSize));
-
 constexpr char isoMark = '\x80';
 
-AesBlockCipher cipherOf(const QByteArray &key)
+enum class Direction
 {
-    return AesBlockCipher(
-        {reinterpret_cast<const std::uint8_t *>(key.constData()), static_cast<std::size_t>(key.size())});
+    Decrypt = 0,
+    Encrypt = 1,
+};
+
+struct CipherFree
+{
+    void operator()(EVP_CIPHER *cipher) const { EVP_CIPHER_free(cipher); }
+    void operator()(EVP_CIPHER_CTX *context) const { EVP_CIPHER_CTX_free(context); }
+};
+
+const unsigned char *bytesOf(const QByteArray &bytes)
+{
+    return reinterpret_cast<const unsigned char *>(bytes.constData());
 }
 
-Block blockAt(const QByteArray &text, qsizetype position)
+/// Encrypts or decrypts complete blocks with the cipher of that name in libcrypto. Empty when libcrypto
+/// fails.
+QByteArray processed(const QByteArray &cipherName, const QByteArray &blocks, const QByteArray &key,
+                     const QByteArray &iv, Direction direction)
 {
-    Block block;
-    std::copy_n(text.cbegin() + position, block.size(), block.begin());
-    return block;
-}
-
-void add(Block &block, const Block &other)
-{
-    for (std::size_t i = 0; i < block.size(); ++i)
-        block[i] ^= other[i];
-}
-
-/// Replaces each block of `text` by what `change` makes of it.
-template<typename Change>
-void forEachBlock(QByteArray &text, const Change &change)
-{
-    for (qsizetype position = 0; position < text.size(); position += AESEncryption::blockLength) {
-        Block block = blockAt(text, position);
-        change(block);
-        std::copy(block.begin(), block.end(), text.begin() + position);
-    }
+    const std::unique_ptr<EVP_CIPHER, CipherFree> cipher(
+        EVP_CIPHER_fetch(nullptr, cipherName.constData(), nullptr));
+    const std::unique_ptr<EVP_CIPHER_CTX, CipherFree> context(EVP_CIPHER_CTX_new());
+    if (!cipher || !context || blocks.size() > std::numeric_limits<int>::max())
+        return QByteArray();
+    QByteArray result(blocks.size(), Qt::Uninitialized);
+    int length = 0;
+    // Without padding, the complete blocks are all processed by the update.
+    const bool isDone = EVP_CipherInit_ex2(context.get(), cipher.get(), bytesOf(key), bytesOf(iv),
+                                           static_cast<int>(direction), nullptr) == 1 &&
+                        EVP_CIPHER_CTX_set_padding(context.get(), 0) == 1 &&
+                        EVP_CipherUpdate(context.get(), reinterpret_cast<unsigned char *>(result.data()),
+                                         &length, bytesOf(blocks), static_cast<int>(blocks.size())) == 1;
+    return isDone && length == result.size() ? result : QByteArray();
 }
 
 } // namespace
@@ -56,33 +63,8 @@ int AESEncryption::keyLength() const
 
 QByteArray AESEncryption::encode(const QByteArray &text, const QByteArray &key, const QByteArray &iv) const
 {
-    if (!accepts(key, iv))
-        return QByteArray();
-    const AesBlockCipher cipher = cipherOf(key);
-    Block chain = m_mode == ECB ? Block() : blockAt(iv, 0);
-    QByteArray result = padded(text);
-    forEachBlock(result, [&](Block &block) {
-        switch (m_mode) {
-        case ECB:
-            cipher.encrypt(block);
-            break;
-        case CBC:
-            add(block, chain);
-            cipher.encrypt(block);
-            chain = block;
-            break;
-        case CFB:
-            cipher.encrypt(chain);
-            add(block, chain);
-            chain = block;
-            break;
-        case OFB:
-            cipher.encrypt(chain);
-            add(block, chain);
-            break;
-        }
-    });
-    return result;
+    return accepts(key, iv) ? processed(cipherName(), padded(text), key, iv, Direction::Encrypt)
+                            : QByteArray();
 }
 
 QByteArray AESEncryption::decode(const QByteArray &cipherText, const QByteArray &key,
@@ -90,32 +72,7 @@ QByteArray AESEncryption::decode(const QByteArray &cipherText, const QByteArray 
 {
     if (!accepts(key, iv) || cipherText.size() % blockLength != 0)
         return QByteArray();
-    const AesBlockCipher cipher = cipherOf(key);
-    Block chain = m_mode == ECB ? Block() : blockAt(iv, 0);
-    QByteArray result = cipherText;
-    forEachBlock(result, [&](Block &block) {
-        const Block enciphered = block;
-        switch (m_mode) {
-        case ECB:
-            cipher.decrypt(block);
-            break;
-        case CBC:
-            cipher.decrypt(block);
-            add(block, chain);
-            chain = enciphered;
-            break;
-        case CFB:
-            cipher.encrypt(chain);
-            add(block, chain);
-            chain = enciphered;
-            break;
-        case OFB:
-            cipher.encrypt(chain);
-            add(block, chain);
-            break;
-        }
-    });
-    return result;
+    return processed(cipherName(), cipherText, key, iv, Direction::Decrypt);
 }
 
 QByteArray AESEncryption::removePadding(const QByteArray &text) const
@@ -143,9 +100,16 @@ bool AESEncryption::accepts(const QByteArray &key, const QByteArray &iv) const
     return key.size() == keyLength() && (m_mode == ECB || iv.size() == blockLength);
 }
 
+/// The name of this object's level and mode in libcrypto.
+QByteArray AESEncryption::cipherName() const
+{
+    static constexpr std::array<const char *, 4> modes = {"ECB", "CBC", "CFB", "OFB"};
+    return "AES-" + QByteArray::number(8 * keyLength()) + '-' + modes.at(static_cast<std::size_t>(m_mode));
+}
+
 QByteArray AESEncryption::padded(const QByteArray &text) const
 {
-    const qsizetype missing = blockLength - text.size() % blockLength; // 1 to a whole block
+    const qsizetype missing = blockLength - text.size() % blockLength; // 1 to blockLength
     switch (m_padding) {
     case ZERO:
         return missing == blockLength ? text : text + QByteArray(missing, '\0');

@@ -3,14 +3,14 @@
 #include <QByteArray>
 #include <QObject>
 
-/// AES in the common modes of operation (FIPS-197, SP 800-38A), for texts that are held in memory as a whole.
+/// AES in the common modes of operation (FIPS-197, SP 800-38A) on byte arrays, by libcrypto.
 ///
-/// Operations leave the object as it is and keep nothing of a text or key. They may be called on any thread.
+/// An object is immutable and keeps no text and no key. Its operations may be called on any thread.
 class AESEncryption : public QObject
 {
     Q_OBJECT
 public:
-    /// Size of the key; it settles the number of rounds: 10, 12 or 14.
+    /// Size of the key in bits: 128, 192 or 256.
     enum Level
     {
         AES128 = 0,
@@ -23,17 +23,17 @@ public:
     {
         ECB = 0,
         CBC = 1,
-        CFB = 2, ///< with feedback of whole blocks
+        CFB = 2, ///< with feedback of complete blocks (CFB128)
         OFB = 3,
     };
     Q_ENUM(Mode)
 
-    /// What fills a text up to whole blocks. All but zero bytes add a block to a text that fills its last
-    /// one, which is what makes them removable without guessing.
+    /// Bytes that extend a text to complete blocks. PKCS7 and ISO add a block to a text of complete blocks,
+    /// so that their padding can be removed unambiguously.
     enum Padding
     {
         ZERO = 0,  ///< zero bytes
-        PKCS7 = 1, ///< bytes that each hold the number of them
+        PKCS7 = 1, ///< bytes that each hold their number
         ISO = 2,   ///< ISO/IEC 7816-4: 0x80, then zero bytes
     };
     Q_ENUM(Padding)
@@ -45,21 +45,22 @@ public:
     /// Length in bytes of the keys of this object's level: 16, 24 or 32.
     [[nodiscard]] int keyLength() const;
 
-    /// The cipher text of `text` with its padding, in every mode. Empty when `key` has not the level's length
-    /// or, in a mode other than ECB, `iv` is not one block long.
+    /// The cipher text of `text` with its padding, in every mode. Empty when the length of `key` is not
+    /// keyLength(), when `iv` is not one block long in a mode other than ECB, or when libcrypto fails.
     [[nodiscard]] QByteArray encode(const QByteArray &text, const QByteArray &key,
                                     const QByteArray &iv = QByteArray()) const;
 
-    /// What `cipherText` was made from, still with its padding. Empty in the cases of encode(), and when
-    /// `cipherText` is not made of whole blocks.
+    /// The plain text of `cipherText`, still with its padding. Empty in the same cases as encode(), and when
+    /// `cipherText` does not consist of complete blocks.
     [[nodiscard]] QByteArray decode(const QByteArray &cipherText, const QByteArray &key,
                                     const QByteArray &iv = QByteArray()) const;
 
-    /// `text` without the padding at its end. The padding is not verified: of bytes that never were padded,
-    /// whatever looks like it goes, at most all of them.
+    /// `text` without the padding at its end. The padding is not verified: bytes of an unpadded text that
+    /// look like padding are removed as well, at most all of them.
     [[nodiscard]] QByteArray removePadding(const QByteArray &text) const;
 
 private:
+    [[nodiscard]] QByteArray cipherName() const;
     [[nodiscard]] bool accepts(const QByteArray &key, const QByteArray &iv) const;
     [[nodiscard]] QByteArray padded(const QByteArray &text) const;
 
