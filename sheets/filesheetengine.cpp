@@ -1,7 +1,7 @@
 #include "sheets/filesheetengine.h"
 
 #include "files/filereplacement.h"
-#include "sheets/internal/emptyworkbook.h"
+#include "sheets/internal/newworkbook.h"
 #include "sheets/internal/workbook.h"
 
 #include <QFile>
@@ -22,10 +22,11 @@ FileSheetEngine::~FileSheetEngine() = default;
 bool FileSheetEngine::createWorkbook()
 {
     quit();
-    const QString failure = QStringLiteral("cannot begin a workbook");
-    QString reason;
-    const QByteArray bytes = emptyWorkbook(reason);
-    return bytes.isEmpty() ? fail(failure + QLatin1String(": ") + reason) : load(bytes, failure);
+    auto workbook = std::make_unique<NewWorkbook>();
+    if (!workbook->create())
+        return fail(QStringLiteral("cannot create a workbook: %1").arg(workbook->errorText()));
+    m_newWorkbook = std::move(workbook);
+    return true;
 }
 
 bool FileSheetEngine::open(const QString &path)
@@ -45,52 +46,81 @@ bool FileSheetEngine::open(const QString &path)
     return true;
 }
 
-/// Takes the workbook of a file's bytes and picks its first sheet. `failure` begins the reason when that
-/// fails.
+/// Loads the workbook of a file's bytes and selects its first sheet. `failure` is the start of the error text.
 bool FileSheetEngine::load(const QByteArray &bytes, const QString &failure)
 {
     auto workbook = std::make_unique<Workbook>();
     if (!workbook->load(bytes) || !workbook->selectSheet(1))
         return fail(failure + QLatin1String(": ") + workbook->errorText());
     m_workbook = std::move(workbook);
+    m_newWorkbook.reset();
     return true;
+}
+
+/// True when the range is in a row that the new workbook still accepts.
+bool FileSheetEngine::isNewRow(const CellRange &range) const
+{
+    return m_newWorkbook && m_newWorkbook->accepts(range);
+}
+
+/// Loads a new workbook, so that its cells can be read, and changed in any order.
+bool FileSheetEngine::needWorkbook()
+{
+    if (m_workbook)
+        return true;
+    QByteArray bytes;
+    const QString failure = QStringLiteral("cannot continue with the new workbook");
+    if (!m_newWorkbook->build(bytes))
+        return fail(failure + QLatin1String(": ") + m_newWorkbook->errorText());
+    return load(bytes, failure);
 }
 
 bool FileSheetEngine::selectSheet(int index)
 {
-    return ended(m_workbook->selectSheet(index));
+    return needWorkbook() && ended(m_workbook->selectSheet(index));
 }
 
 std::optional<UsedRows> FileSheetEngine::usedRows()
 {
-    return m_workbook->usedRows();
+    return needWorkbook() ? std::optional(m_workbook->usedRows()) : std::nullopt;
 }
 
 std::optional<QString> FileSheetEngine::cellText(CellPlace place)
 {
-    return m_workbook->cellText(place);
+    return needWorkbook() ? std::optional(m_workbook->cellText(place)) : std::nullopt;
 }
 
 bool FileSheetEngine::setCellText(CellPlace place, const QString &text)
 {
-    return ended(m_workbook->setCellText(place, text));
+    if (!isNewRow({place, place}))
+        return needWorkbook() && ended(m_workbook->setCellText(place, text));
+    m_newWorkbook->setCellText(place, text);
+    return true;
 }
 
 bool FileSheetEngine::mergeCells(const CellRange &range)
 {
-    return ended(m_workbook->mergeCells(range));
+    if (!isNewRow(range))
+        return needWorkbook() && ended(m_workbook->mergeCells(range));
+    return m_newWorkbook->mergeCells(range) || fail(m_newWorkbook->errorText());
 }
 
 bool FileSheetEngine::changeFormat(const CellRange &range, const FormatChange &change)
 {
     if (range.cellCount() > maximumChangedCells)
         return fail(QStringLiteral("%1 are too many cells to format at once").arg(rangeText(range)));
-    return ended(m_workbook->changeFormat(range, change));
+    if (!isNewRow(range))
+        return needWorkbook() && ended(m_workbook->changeFormat(range, change));
+    m_newWorkbook->changeFormat(range, change);
+    return true;
 }
 
 bool FileSheetEngine::setRowHeight(int row, double points)
 {
-    return ended(m_workbook->setRowHeight(row, points));
+    if (points <= 0 || !isNewRow(CellRange::cell(row, 1)))
+        return needWorkbook() && ended(m_workbook->setRowHeight(row, points));
+    m_newWorkbook->setRowHeight(row, points);
+    return true;
 }
 
 bool FileSheetEngine::save()
@@ -103,8 +133,11 @@ bool FileSheetEngine::save()
 bool FileSheetEngine::saveAs(const QString &path)
 {
     QByteArray bytes;
-    if (!m_workbook->build(bytes))
-        return fail(QStringLiteral("cannot make %1: %2").arg(path, m_workbook->errorText()));
+    const bool isBuilt = m_newWorkbook ? m_newWorkbook->build(bytes) : m_workbook->build(bytes);
+    if (!isBuilt) {
+        const QString &reason = m_newWorkbook ? m_newWorkbook->errorText() : m_workbook->errorText();
+        return fail(QStringLiteral("cannot create %1: %2").arg(path, reason));
+    }
     const QString failure = replaceFile(path, bytes);
     if (!failure.isEmpty())
         return fail(QStringLiteral("cannot write %1: %2").arg(path, failure));
@@ -114,6 +147,7 @@ bool FileSheetEngine::saveAs(const QString &path)
 
 void FileSheetEngine::quit()
 {
+    m_newWorkbook.reset();
     m_workbook.reset();
     m_path.clear();
 }

@@ -6,14 +6,17 @@
 
 namespace sheets {
 
+class NewWorkbook;
 class Workbook;
 
-/// Works on the file format itself, with no other program: a new workbook is kept as rows and written in one
-/// go; one from a file is changed in place, and all parts of the file that are not concerned stay byte for
-/// byte.
+/// Works on the file format itself, without a spreadsheet application. A workbook from a file is changed in
+/// place: the parts of the file that are not concerned stay byte for byte.
 ///
-/// What it opens is bounded: 128 MiB of file, 10,000 parts, 192 MiB of text and 1 GiB of memory for one
-/// part.
+/// A new workbook that is filled row by row, in ascending order, and then saved takes constant memory. The first
+/// operation in another order, such as reading a cell or writing to an earlier row, loads it like a workbook
+/// from a file.
+///
+/// Limits of a file: 128 MiB, 10,000 parts; of one part: 192 MiB of text, 1 GiB of memory.
 class FileSheetEngine : public SheetEngine
 {
 public:
@@ -37,8 +40,12 @@ public:
 
 private:
     bool load(const QByteArray &bytes, const QString &failure);
+    [[nodiscard]] bool isNewRow(const CellRange &range) const;
+    bool needWorkbook();
     bool ended(bool done);
 
+    // At most one of them is not null.
+    std::unique_ptr<NewWorkbook> m_newWorkbook;
     std::unique_ptr<Workbook> m_workbook;
     QString m_path; ///< where the workbook was opened from or last saved to
 };

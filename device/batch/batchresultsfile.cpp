@@ -68,11 +68,11 @@ QString saveWorkbook(const QList<QStringList> &lines, const QString &path)
 {
     QExcel workbook;
     const sheets::CellRange head = {{1, 1}, {1, static_cast<int>(lines.constFirst().size())}};
-    bool done = workbook.createWorkbook();
+    bool done = workbook.createWorkbook() && workbook.setBold(head, true);
     int row = 0;
     for (const QStringList &line : lines)
         done = done && writeRow(workbook, ++row, line);
-    return done && workbook.setBold(head, true) && workbook.saveAs(path) ? QString() : workbook.errorText();
+    return done && workbook.saveAs(path) ? QString() : workbook.errorText();
 }
 
 } // namespace

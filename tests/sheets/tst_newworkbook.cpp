@@ -1,8 +1,9 @@
-// A workbook that is begun, filled and saved is read back as it was meant.
+// A new workbook that is filled and saved is read back with the same contents.
 #include "sheets/filesheetengine.h"
 #include "sheets/keptworkbook.h"
 #include "sheets/qexcel.h"
 #include "tests/datatable.h"
+#include "tests/files/filesizelimit.h"
 #include "workbookfiles.h"
 
 #include <QDir>
@@ -30,14 +31,18 @@ class TestNewWorkbook : public QObject
 private Q_SLOTS:
     void keepsTexts_data()
     {
-        const auto row = dataTable<int>({"lastMergedRow"});
-        row("nothing merged", 0);
-        row("merged in one row", 1);
+        const auto row = dataTable<int, bool>({"lastMergedRow", "isAscending"});
+        row("nothing merged, rows in ascending order", 0, true);
+        row("nothing merged, rows in descending order", 0, false);
+        row("merged in one row, rows in ascending order", 1, true);
+        row("merged in one row, rows in descending order", 1, false);
+        row("merged in two rows, rows in ascending order", 2, true);
     }
 
     void keepsTexts()
     {
-        QFETCH(int, lastMergedRow);
+        QFETCH(const int, lastMergedRow);
+        QFETCH(const bool, isAscending);
         const QStringList texts = {"007",
                                    "=1+1",
                                    "  spaces  ",
@@ -56,9 +61,10 @@ private Q_SLOTS:
         QVERIFY(excel.setCellText(1, 1, "title"));
         if (lastMergedRow > 0)
             QVERIFY(excel.mergeCells({{1, 1}, {lastMergedRow, 19}}));
-        // From the last to the first: the order does not matter.
-        for (int i = int(texts.size()); i-- > 0;)
+        for (int number = 0; number < texts.size(); ++number) {
+            const int i = isAscending ? number : int(texts.size()) - 1 - number;
             QVERIFY2(excel.setCellText(3 + i, 1 + i % 3, texts[i]), qPrintable(excel.errorText()));
+        }
         QVERIFY2(excel.saveAs(m_path), qPrintable(excel.errorText()));
 
         QExcel reader(fileEngine());
@@ -75,17 +81,31 @@ private Q_SLOTS:
         QCOMPARE(isMerged, lastMergedRow > 0);
     }
 
-    void keepsLooks()
+    void keepsFormats_data()
     {
+        const auto row = dataTable<bool>({"isAscending"});
+        row("rows in ascending order", true);
+        row("rows in descending order", false);
+    }
+
+    void keepsFormats()
+    {
+        QFETCH(const bool, isAscending);
         QExcel excel(fileEngine());
         QVERIFY(excel.createWorkbook());
+        const auto changeFirstRow = [&excel] {
+            QVERIFY(excel.setWrapText(CellRange::cell(1, 1), true));
+            QVERIFY(excel.setFontSize(CellRange::cell(1, 1), 13.5));
+            QVERIFY(excel.setRowHeight(1, 160.25));
+        };
+        if (isAscending)
+            changeFirstRow();
         QVERIFY(excel.setBold({{2, 1}, {2, 2}}, true));
         QVERIFY(excel.setCellText(2, 1, "a"));
         QVERIFY(excel.setCellText(2, 2, "b"));
         QVERIFY(excel.setBold(CellRange::cell(2, 2), false));
-        QVERIFY(excel.setWrapText(CellRange::cell(1, 1), true));
-        QVERIFY(excel.setFontSize(CellRange::cell(1, 1), 13.5));
-        QVERIFY(excel.setRowHeight(1, 160.25));
+        if (!isAscending)
+            changeFirstRow();
         QVERIFY(excel.saveAs(m_path));
         Parts parts = readArchive(m_path);
         const QByteArray styles = parts["xl/styles.xml"];
@@ -94,6 +114,34 @@ private Q_SLOTS:
         QVERIFY(styles.contains("wrapText=\"1\""));
         QVERIFY(styles.contains("numFmtId=\"49\"")); // "@" in the format's own list
         QVERIFY(parts["xl/worksheets/sheet1.xml"].contains("ht=\"160.25\" customHeight=\"1\""));
+    }
+
+    void refusesOverlappingMergedCells()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        QVERIFY(excel.mergeCells({{1, 1}, {1, 3}}));
+        QVERIFY(excel.mergeCells({{1, 1}, {1, 3}})); // the same range
+        QVERIFY(!excel.mergeCells({{1, 3}, {1, 4}}));
+        QVERIFY(excel.mergeCells({{2, 3}, {2, 4}}));
+    }
+
+    /// The temporary files reach a limit, as on a full disk: the rows would be missing in the compressed file.
+    void reportsAFullTemporaryFolder()
+    {
+        QExcel excel(fileEngine());
+        QVERIFY(excel.createWorkbook());
+        constexpr int rows = 2000;
+        QVERIFY(QFile::remove(m_path) || !QFile::exists(m_path));
+        {
+            const FileSizeLimit limit(64 * 1024);
+            for (int row = 1; row <= rows; ++row)
+                QVERIFY(excel.setCellText(row, 1, "the same text in all rows"));
+            QVERIFY(!excel.saveAs(m_path));
+        }
+        QVERIFY(!excel.errorText().isEmpty());
+        QVERIFY(!QFile::exists(m_path));
+        QVERIFY(!excel.saveAs(m_path)); // the rows are lost
     }
 
     void refusesWhatNoSheetHas()

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "sheets/cellrange.h"
+#include "sheets/formatchange.h"
+#include "sheets/lasterror.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QTemporaryDir>
+
+#include <map>
+#include <optional>
+
+struct lxw_format;
+struct lxw_workbook;
+struct lxw_worksheet;
+
+namespace sheets {
+
+/// A new workbook with one sheet, whose rows are written in ascending order. The memory does not grow with the
+/// number of rows: the current row is in memory, and the rows before it are in temporary files of
+/// libxlsxwriter.
+///
+/// Rows and cells are checked by the caller. An error of a temporary file is reported by build().
+class NewWorkbook : public LastError
+{
+public:
+    NewWorkbook() = default;
+    NewWorkbook(const NewWorkbook &) = delete;
+    NewWorkbook &operator=(const NewWorkbook &) = delete;
+    ~NewWorkbook();
+
+    /// Creates the temporary files. Fails when the system has no place for them.
+    bool create();
+
+    /// True when all cells of the range can still be written: they are in one row, which is the current row or
+    /// a later one, and the workbook is not built. The four operations below are for such ranges only. They
+    /// make the range's row the current one.
+    [[nodiscard]] bool accepts(const CellRange &range) const;
+
+    void setCellText(CellPlace place, const QString &text);
+
+    /// False when the range overlaps another merged range of its row; nothing is changed then.
+    bool mergeCells(const CellRange &range);
+    void changeFormat(const CellRange &range, const FormatChange &change);
+
+    /// `points` is above 0.
+    void setRowHeight(int row, double points);
+
+    /// The bytes of the workbook's file. The first call ends the writing of rows; further calls return the same
+    /// bytes. Fails when a temporary file could not be written completely.
+    bool build(QByteArray &file);
+
+private:
+    struct Cell
+    {
+        std::optional<QString> text; ///< without a value: the cell has a format only
+        FormatChange format;
+    };
+
+    void beginRow(int row);
+    void writeRow();
+    void writeCell(int column, const Cell &cell);
+    [[nodiscard]] lxw_format *formatOf(const FormatChange &format);
+    void noteError(int error);
+    bool finish();
+
+    QTemporaryDir m_folder;
+    QByteArray m_path;                  ///< of the file that libxlsxwriter writes
+    lxw_workbook *m_workbook = nullptr; ///< null before create() and after finish()
+    lxw_worksheet *m_sheet = nullptr;
+    std::map<FormatChange, lxw_format *> m_formats;
+
+    int m_row = 1; ///< the current row
+    std::map<int, Cell> m_cells;
+    QList<CellRange> m_merged; ///< in the current row
+    std::optional<double> m_height;
+
+    qint64 m_cellCount = 0; ///< cells that libxlsxwriter has got
+    QString m_writeError;   ///< the first error of libxlsxwriter
+    QByteArray m_file;      ///< the result of finish()
+};
+
+} // namespace sheets
