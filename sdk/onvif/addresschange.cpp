@@ -19,13 +19,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Whether an error leaves open what the device has done: the answer was lost.
+/// True for an error after which the device may have carried out the request: its response was lost.
 bool isAnswerLost(NetError error)
 {
     return error == NetError::NetworkFailure || error == NetError::ConnectTimeout;
 }
 
-/// The MAC of who has answered at `address`; empty if that is no neighbour.
+/// The MAC of the device that responded at `address`; empty if the neighbour table does not list the address.
 std::string neighbourMac(const std::string &address)
 {
     const auto neighbours = neighbourTable();
@@ -47,17 +47,17 @@ class MovedDevice
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// `macs` are those that the device of `session` has.
+    /// `macs` are the MACs of the device of `session`.
     MovedDevice(OnvifSession &session, const std::shared_ptr<HttpClient> &http, const std::string &address,
                 std::vector<std::string> macs)
         : m_session(session), m_http(http), m_service(movedTo(session.service(), address)),
           m_macs(std::move(macs)),
-          // A client of its own: what another device refuses says nothing about the session.
+          // A separate client: a refusal by another device does not concern the session.
           m_client(session.client().login(), http)
     {
     }
 
-    /// Waits until somebody answers. The login is sent once to each that does.
+    /// Waits until a device responds. The login is sent once to each device that responds.
     [[nodiscard]] Presence wait(Deadline deadline)
     {
         constexpr auto pause = 200ms;
@@ -122,7 +122,7 @@ private:
     SoapClient m_client;
 };
 
-/// The MACs that answers of the device may come from; empty if none is known.
+/// The MACs that responses of the device may come from; empty if none is known.
 std::vector<std::string> macsOf(const std::vector<DeviceInterface> &interfaces, const std::string &address)
 {
     std::vector<std::string> macs;
@@ -138,11 +138,11 @@ std::vector<std::string> macsOf(const std::vector<DeviceInterface> &interfaces, 
 class GatewayChange
 {
 public:
-    /// An empty `gateway` is no change.
+    /// An empty `gateway` stands for an unchanged gateway.
     explicit GatewayChange(std::string gateway) : m_gateway(std::move(gateway)) {}
 
-    /// Some devices refuse a gateway that lies outside the network of the address that they still have; those
-    /// get it by a second call.
+    /// Some devices refuse a gateway outside the network of their present address. They receive it by a
+    /// second call, after the address.
     [[nodiscard]] NetError write(DeviceService device)
     {
         if (m_gateway.empty() || m_isWritten)
@@ -199,9 +199,10 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
         return interfaces.isOk() ? NetError::NotSupported : interfaces.error;
 
     if (CallStop::isRequested())
-        return NetError::Cancelled; // the last moment at which nothing has changed
+        return NetError::Cancelled; // nothing has been changed up to here
     std::vector<std::string> macs = macsOf(interfaces.value, service.host);
-    // The gateway first: after the address the device may be gone from here.
+    // The gateway is written first: after the change of the address the device may be unreachable from this
+    // host.
     GatewayChange gateway(order.dhcp ? std::string() : order.gateway);
     (void)gateway.write(device);
     DeviceInterface changed = *interface;
@@ -220,7 +221,7 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
             return reboot;
     }
     if (order.dhcp)
-        return result.error; // where it is now, only a search can say
+        return result.error; // only a search can find its new address
 
     MovedDevice moved(*session, http, order.address, std::move(macs));
     const auto latest =

@@ -39,7 +39,7 @@ NetError errorOf(const HttpAnswer &answer)
 
 } // namespace
 
-/// One upload with a thread of its own.
+/// One upload with its thread.
 class FirmwareTransfer
 {
 public:

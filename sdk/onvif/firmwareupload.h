@@ -1,4 +1,4 @@
-// The sending of firmware files to devices.
+// Uploads of firmware files to devices.
 #pragma once
 
 #include "sdk/certificates/certificatedecision.h"
@@ -16,10 +16,10 @@ namespace sdk::onvif {
 
 class FirmwareTransfer;
 
-/// The uploads that run. Thread-safe.
+/// The running uploads. Thread-safe.
 ///
-/// A device answers the upload when it has the whole file; what it does then it does not report. So the phase
-/// Writing begins with the last byte and ends with the answer.
+/// A device responds to the upload when it has the complete file, and does not report its further progress.
+/// So the phase Writing starts with the last byte and ends with the response.
 class FirmwareUploads
 {
 public:
@@ -28,13 +28,13 @@ public:
 
     [[nodiscard]] static bool isReadable(const std::string &fileName);
 
-    /// Starts to send the file, after the delay that the device has asked for. Returns the handle, 0 when the
-    /// computer gives no thread.
+    /// Starts the upload of the file, after the delay that the device has requested. Returns the handle, 0
+    /// when no thread can be created.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
                                     const std::string &fileName, UpgradeProgressHandler handler, void *user);
 
-    /// Ends an upload and frees its handle. NotSupported while the device has the whole file and has not
-    /// answered; InvalidValue for a handle that is none.
+    /// Ends an upload and frees its handle. NotSupported while the device has the complete file and has not
+    /// responded; InvalidValue for an invalid handle.
     [[nodiscard]] NetError close(std::int64_t handle);
     void closeAllOf(LLONG loginHandle);
     void closeAll();

@@ -13,7 +13,7 @@ namespace sdk::onvif {
 
 namespace {
 
-/// Half a second of the largest streams. What is beyond it would be too late anyway.
+/// Half a second of the largest streams. Later data would be too old for a live view.
 constexpr std::size_t longestWaiting = std::size_t(4) * 1024 * 1024;
 
 /// The first bytes of the container (EBML, RFC 8794).
@@ -66,7 +66,7 @@ StreamEndReason reasonOf(StreamEnd end)
     case StreamEnd::NoAnswer:
     case StreamEnd::NoData:
         return StreamEndReason::ConnectionLost;
-    case StreamEnd::NoKeyPicture:
+    case StreamEnd::NoKeyFrame:
     case StreamEnd::Unsupported:
         return StreamEndReason::NoFrames;
     case StreamEnd::BadUrl:
@@ -113,7 +113,7 @@ NetError LiveStream::start(const RtspOrder &order)
     try {
         m_stream = std::make_unique<RtspStream>(order, onData, onEnd);
     } catch (const std::system_error &) {
-        return NetError::NetworkFailure; // the computer gives no more threads
+        return NetError::NetworkFailure; // no thread can be created
     }
     const std::stop_callback onCancel(RunningCall::stopOfThisThread(), [this] { m_stream->requestStop(); });
     const std::optional<StreamEnd> end = m_stream->waitForAnswer();
@@ -124,7 +124,7 @@ void LiveStream::take(std::span<const std::uint8_t> bytes)
 {
     const std::scoped_lock lock(m_mutex);
     if (m_hasDropped && !isHeader(bytes))
-        return; // what follows a gap cannot be read
+        return; // data after a gap cannot be decoded
     m_hasDropped = false;
     if (m_handler)
         m_handler(m_handle, streamBytes, bytes.data(), static_cast<std::uint32_t>(bytes.size()), 0, m_user);
@@ -150,7 +150,7 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
         return;
     m_hadHandler = true;
     if (m_hasDropped)
-        m_stream->beginAnew();
+        m_stream->restart();
     if (!m_waiting.empty())
         handler(m_handle, streamBytes, m_waiting.data(), static_cast<std::uint32_t>(m_waiting.size()), 0,
                 user);
@@ -175,9 +175,9 @@ void LiveStream::reportEnd()
     m_end.reset();
 }
 
-void LiveStream::beginAnew()
+void LiveStream::restart()
 {
-    m_stream->beginAnew();
+    m_stream->restart();
 }
 
 void LiveStream::stop()

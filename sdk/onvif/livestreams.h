@@ -16,21 +16,22 @@
 
 namespace sdk::onvif {
 
-/// Between an RtspStream and the handler that the library's caller sets. Thread-safe.
+/// Connects an RtspStream to the handler of the library's caller. Thread-safe.
 class LiveStream
 {
 public:
     /// `onRefusal` is called on the stream's thread when the device refuses the password.
     LiveStream(std::int64_t handle, LLONG loginHandle, std::string profile, std::function<void()> onRefusal);
 
-    /// Starts, and blocks until the device plays or has refused, or the thread's RunningCall is stopped.
+    /// Starts the stream, and blocks until the device plays or refuses, or until the thread's RunningCall is
+    /// stopped.
     [[nodiscard]] NetError start(const RtspOrder &order);
 
-    /// What came before the first handler is kept for it, up to a bound, and the end as well. After the call
-    /// the handler before runs no more.
+    /// Data before the first handler are kept for it, up to a bound, and so is the end of the stream. The
+    /// previous handler does not run after the call.
     void setHandler(RealDataHandler handler, void *user);
 
-    void beginAnew();
+    void restart();
     void stop();
 
     [[nodiscard]] LLONG loginHandle() const { return m_loginHandle; }
@@ -51,9 +52,9 @@ private:
     void *m_user = nullptr;
     bool m_hadHandler = false;
     std::vector<std::uint8_t> m_waiting;
-    bool m_hasDropped = false; ///< bytes that waited; the next ones are of use from a header on
+    bool m_hasDropped = false; ///< of the data before the first handler
     std::optional<StreamEnd> m_end;
-    std::unique_ptr<RtspStream> m_stream; ///< last: its thread uses the rest
+    std::unique_ptr<RtspStream> m_stream; ///< the last member: its thread uses the others
 };
 
 /// Thread-safe.
@@ -61,12 +62,12 @@ class LiveStreams
 {
 public:
     /// Opens a stream and blocks until the device plays. On failure the result is 0 and `error` is set.
-    /// `onRefusal` as LiveStream has it.
+    /// `onRefusal` as for LiveStream.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const std::string &profile, const RtspOrder &order,
                                     const std::function<void()> &onRefusal, NetError &error);
     [[nodiscard]] std::shared_ptr<LiveStream> stream(std::int64_t handle) const;
 
-    /// False for a handle that is no stream.
+    /// False for an invalid handle.
     bool close(std::int64_t handle);
     void closeAllOf(LLONG loginHandle);
     void closeAll();

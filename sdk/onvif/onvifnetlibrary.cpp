@@ -1,4 +1,4 @@
-// Begin and end of the library, and searches.
+// Start and end of the library, and searches.
 #include "sdk/onvif/onvifnetlibrary.h"
 
 #include "sdk/blocktext.h"
@@ -25,7 +25,7 @@ bool OnvifNetLibrary::NetInit()
 
 void OnvifNetLibrary::NetCleanup()
 {
-    // Running calls end at once: what they wait for is cancelled.
+    // Running calls end immediately: their requests are cancelled.
     if (m_discovery)
         m_discovery->cancel();
     std::map<LLONG, std::shared_ptr<OnvifSession>> sessions;
@@ -95,7 +95,7 @@ std::int64_t OnvifNetLibrary::NetStartSearchDevicesEx(const SearchParameterEx &p
         m_error.fail(NetError::InvalidValue);
         return 0;
     }
-    // There is one kind of search: the second request repeats the first.
+    // There is one type of search: the second request repeats the first.
     return NetStartSearchDevices({.size = sizeof(SearchParameter),
                                   .reserved = 0,
                                   .handler = parameter.handler,
@@ -133,7 +133,7 @@ bool OnvifNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &requ
 bool OnvifNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler,
                                               void *, const char *, std::chrono::milliseconds)
 {
-    // The same devices would answer once more.
+    // The same devices would respond once more.
     const CallGate::Call call(m_gate);
     const bool isSound = call.isAllowed() && request.size == sizeof(request) && request.count >= 0 &&
                          request.count <= maximumSearchAddresses;

@@ -1,4 +1,4 @@
-// The network library's roles on real devices, by open standards.
+// The network library's interface for real devices, by open standards.
 #pragma once
 
 #include "sdk/callgate.h"
@@ -19,7 +19,8 @@
 
 namespace sdk::onvif {
 
-/// Devices are asked by the ONVIF services and RTSP (docs/onvif.md). Error codes are those of NetError.
+/// Devices are accessed by the ONVIF services and RTSP (docs/onvif.md). The error codes are those of
+/// NetError.
 class OnvifNetLibrary : public NetLibrary
 {
 public:
@@ -104,9 +105,9 @@ private:
     [[nodiscard]] LLONG login(const ServiceAddress &service, const HttpLogin &login,
                               LoginDeviceInformation &device);
     [[nodiscard]] std::shared_ptr<OnvifSession> session(LLONG loginHandle) const;
-    /// Of all accounts: the device at this host reboots.
+    /// Ends the sessions of all accounts with the device at `host`, which reboots.
     void endSessionsTo(const std::string &host);
-    /// Runs `work` on the session and keeps its error. False for a handle that is none.
+    /// Runs `work` on the session and stores its error for the calling thread. False for an invalid handle.
     bool onSession(LLONG loginHandle, std::chrono::milliseconds wait, const SessionWork &work);
     bool searchByAddresses(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
                            std::chrono::milliseconds wait);
@@ -116,7 +117,7 @@ private:
     ThreadError m_error;
     std::unique_ptr<DeviceDiscovery> m_discovery; ///< from NetInit to NetCleanup
 
-    mutable std::mutex m_mutex; ///< of the sessions
+    mutable std::mutex m_mutex; ///< guards the sessions
     std::map<LLONG, std::shared_ptr<OnvifSession>> m_sessions;
     LLONG m_lastHandle = 0;
 

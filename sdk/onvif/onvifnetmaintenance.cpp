@@ -1,7 +1,7 @@
-// Maintenance of a device, its first password and its address.
+// Maintenance of a device, its initialisation and its address.
 #include "sdk/blocktext.h"
 #include "sdk/onvif/addresschange.h"
-#include "sdk/onvif/firstpassword.h"
+#include "sdk/onvif/deviceinitialisation.h"
 #include "sdk/onvif/mapping/systemmapping.h"
 #include "sdk/onvif/onvifnetlibrary.h"
 
@@ -56,7 +56,8 @@ bool OnvifNetLibrary::NetModifyPassword(LLONG loginHandle, const ModifyPasswordI
             return NetError::InvalidValue;
         const std::string account(blockText(input.account));
         const HttpLogin login = session.client().login();
-        // The standard's operation does not ask for the old password; the session has proved its own.
+        // The standard's operation has no parameter for the old password. The session's password has been
+        // accepted.
         if (login.account == account && login.password != blockText(input.oldPassword))
             return NetError::WrongPassword;
         DeviceService device = session.device(deadline);
@@ -86,10 +87,10 @@ bool OnvifNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, 
     const auto http = std::make_shared<HttpClient>(m_certificates);
     const std::stop_callback cancelOnCleanup(call.stop(), [http] { http->cancel(); });
     const NetError error =
-        giveFirstPassword(m_discovery->serviceAt(std::string(blockText(input.address)), input.port), http,
-                          {.account = std::string(blockText(input.account)),
-                           .password = std::string(blockText(input.password))},
-                          std::string(blockText(input.mac)), std::chrono::steady_clock::now() + wait);
+        initialiseDevice(m_discovery->serviceAt(std::string(blockText(input.address)), input.port), http,
+                         {.account = std::string(blockText(input.account)),
+                          .password = std::string(blockText(input.password))},
+                         std::string(blockText(input.mac)), std::chrono::steady_clock::now() + wait);
     return error == NetError::None || m_error.fail(error);
 }
 

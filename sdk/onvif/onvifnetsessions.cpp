@@ -1,4 +1,4 @@
-// Logins, and what is asked of a device on a session.
+// Logins, and requests to a device in a session.
 #include "sdk/blocktext.h"
 #include "sdk/onvif/mapping/cameramapping.h"
 #include "sdk/onvif/mapping/encodemapping.h"
@@ -31,7 +31,7 @@ LoginDeviceInformation loginInformation(const OnvifSession &session)
     return device;
 }
 
-/// Devices without the operation, or that keep their interfaces to themselves, are without a MAC.
+/// Devices without the operation, and devices that do not report their interfaces, have no MAC.
 NetError readAttributes(OnvifSession &session, DeviceAttributes &attributes, OnvifSession::Deadline deadline)
 {
     attributes.size = sizeof(attributes);
@@ -48,8 +48,8 @@ NetError readAttributes(OnvifSession &session, DeviceAttributes &attributes, Onv
     return NetError::None;
 }
 
-/// The error of a session whose device has restarted: it is still offline, or has another key; otherwise the
-/// connection is lost. The login is not refused: it may be sent again without asking the user.
+/// The error of a session whose device has restarted: the device is still offline, it has another key, or
+/// else the connection is lost. The login is not refused, so it may be sent again without asking the user.
 NetError errorOfEnded(OnvifSession &session, OnvifSession::Deadline deadline)
 {
     const NetError error = session.device(deadline).information().error;

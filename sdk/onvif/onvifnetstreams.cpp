@@ -21,7 +21,8 @@ std::string profileOf(const OnvifSession &session, std::int32_t channel, LiveStr
     return kind == LiveStreamKind::Sub ? found.subProfile : found.mainProfile;
 }
 
-/// The URL at the address that was reached, without an account: a device names itself by its own view.
+/// `url` with the host of `reached` and without an account: the device's URL contains its address as the
+/// device knows it.
 std::string reachedUrl(const std::string &url, const ServiceAddress &reached)
 {
     constexpr std::string_view scheme = "rtsp://";
@@ -61,14 +62,14 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
             order.password = login.password;
             order.timeouts.answer = std::chrono::duration_cast<std::chrono::milliseconds>(
                 deadline - std::chrono::steady_clock::now());
-            const auto onRefusal = [this, loginHandle, login] { // no other way sends the password again
+            const auto onRefusal = [this, loginHandle, login] { // no other request sends the password again
                 if (const std::shared_ptr<OnvifSession> refused = this->session(loginHandle))
                     refused->client().setRefused(login);
             };
             NetError error = NetError::None;
             handle = m_streams.open(loginHandle, profile, order, onRefusal, error);
             if (error == NetError::WrongPassword) {
-                session.client().setRefused(login); // the stream's thread may not have come to it yet
+                session.client().setRefused(login); // the stream's thread may not have called it yet
                 return session.client().refusal().value_or(
                     NetError::NetworkFailure); // none: it was an old password
             }
@@ -96,12 +97,13 @@ bool OnvifNetLibrary::NetStreamFollowUp(std::int64_t streamHandle, std::int32_t,
     const std::shared_ptr<LiveStream> stream = m_streams.stream(streamHandle);
     if (!call.isAllowed() || !stream)
         return m_error.fail(NetError::InvalidValue);
-    stream->beginAnew();
-    // The request for a key picture is not waited for: without it the next regular one serves.
+    stream->restart();
+    // The request for a key frame is sent in the background: without it the stream starts with the next
+    // regular key frame.
     if (const std::shared_ptr<OnvifSession> session = this->session(stream->loginHandle())) {
         m_keyPictureRequests.start([session, profile = stream->profile()] {
             if (auto media = session->media(std::chrono::steady_clock::now() + keyPictureWait))
-                (void)media->requestKeyPicture(profile);
+                (void)media->requestKeyFrame(profile);
         });
     }
     return true;

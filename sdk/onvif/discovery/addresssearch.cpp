@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr auto probeTime = 700ms; ///< a device waits up to half a second with its answer
+constexpr auto probeTime = 700ms; ///< a device delays its response by up to half a second
 constexpr auto connectTime = 1000ms;
 constexpr int requestsAtOnce = 16;
 constexpr std::array usualPorts = {80, 8080};
@@ -38,7 +38,7 @@ struct Attempt
     int descriptor = -1;
 };
 
-/// Which of the addresses accept a connection to `port` before `end`.
+/// The addresses that accept a connection to `port` before `end`.
 std::vector<std::string> acceptingAddresses(const std::vector<std::string> &addresses, int port,
                                             steady_clock::time_point end, const std::atomic_bool &isCancelled)
 {
@@ -160,7 +160,7 @@ void AddressSearch::askByHttp(const std::vector<std::string> &addresses, Time en
             device.service.port = port;
             m_inspections.start([this, device, end] { inspect(device, true, end); });
         }
-        // Another server may be at the first port, so only a device ends the search of its address.
+        // Another server may listen at the first port, so only a device ends the search of its address.
         const std::scoped_lock lock(m_mutex);
         std::erase_if(left, [this](const std::string &address) { return m_reported.contains(address); });
     }

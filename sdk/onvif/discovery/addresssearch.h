@@ -20,7 +20,7 @@ namespace sdk::onvif {
 class HttpClient;
 class SearchCounters;
 
-/// One search: a probe to each address, then a request over HTTP where none was answered.
+/// One search: a probe to each address, then a request over HTTP to each address without a response.
 class AddressSearch
 {
 public:
@@ -31,8 +31,8 @@ public:
     AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, SearchCounters &counters,
                   const std::atomic_bool &isCancelled);
 
-    /// Blocks until every address was asked in both ways, `wait` has passed or the search is cancelled. Each
-    /// address is reported at most once.
+    /// Blocks until every address was queried in both ways, `wait` has passed or the search is cancelled.
+    /// Each address is reported at most once.
     void run(const std::vector<std::string> &addresses, std::chrono::milliseconds wait);
 
 private:
@@ -47,8 +47,8 @@ private:
     SearchCounters &m_counters;
     const std::atomic_bool &m_isCancelled;
     QThreadPool m_inspections;
-    std::set<std::string> m_answered; ///< by probe; of the searching thread
-    std::mutex m_mutex;               ///< of the reporter and of what follows
+    std::set<std::string> m_answered; ///< addresses with a response to a probe; used by the searching thread
+    std::mutex m_mutex;               ///< guards the reporter and the members below
     std::set<std::string> m_reported;
 };
 

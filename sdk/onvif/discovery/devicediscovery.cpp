@@ -20,11 +20,11 @@ constexpr auto inspectionWait = 1500ms;
 // inspection is reported without one.
 constexpr auto longestQueueTime = 2s;
 constexpr int inspectionsAtOnce = 16;
-// Bounds against a computer that answers with made-up devices.
+// Bounds against a host that responds with forged devices.
 constexpr std::size_t maximumDevices = 20'000;
 // Factory-new devices have the same address, and a device may have several services.
 constexpr int maximumServicesAtAddress = 32;
-// A probe is repeated once: it may be lost, and so may an answer (SOAP-over-UDP 1.1, appendix A).
+// A probe is repeated once, since the probe or the response may be lost (SOAP-over-UDP 1.1, appendix A).
 constexpr auto repetitionDelay = 150ms;
 
 std::string keyOf(const std::string &address, int port)
@@ -37,7 +37,7 @@ std::string keyOf(const FoundDevice &device)
     return keyOf(device.address, device.service.port) + ' ' + device.announcement.uuid;
 }
 
-/// Why the announcement alone is no reason to report a device; nothing if it is one.
+/// The reason why the announcement alone is not sufficient to report a device; nothing if it is sufficient.
 std::optional<SearchDiscard> doubtAbout(const FoundDevice &device)
 {
     if (device.announcement.services.empty())
@@ -94,7 +94,8 @@ std::int64_t DeviceDiscovery::start(SearchAnswerHandler handler, void *user)
         m_sockets = std::move(sockets);
         m_receiver = std::jthread([this](const std::stop_token &stop) { run(stop); });
     }
-    // Under the lock of the handlers: no answer may come between what is known and the new handler.
+    // Under the lock of the handlers, so that no response is lost between the known devices and the new
+    // handler.
     const std::scoped_lock handlerLock(m_handlerMutex);
     std::vector<SearchAnswer> known;
     std::int64_t handle = 0;
@@ -165,7 +166,7 @@ void DeviceDiscovery::sendProbes()
     };
     for (const ProbeKind kind : {ProbeKind::Transmitters, ProbeKind::Anything}) {
         if (m_sockets->sendToGroups(probeMessage(kind), noteRequest) == 0)
-            qCWarning(logOnvif) << "No interface has taken the message of a search";
+            qCWarning(logOnvif) << "No interface has sent the search message";
     }
 }
 
@@ -173,7 +174,7 @@ void DeviceDiscovery::take(std::string_view datagram, const SocketAddress &sende
                            const std::string &localAddress)
 {
     DiscoveryMessage message = readDiscoveryMessage(datagram);
-    // Requests are those of this program itself and of others that search: they say nothing of devices.
+    // Requests come from this application and from other searching applications. They contain no device.
     if (message.kind == DiscoveryMessage::Kind::Request)
         return;
     m_counters.noteMessage(localAddress);

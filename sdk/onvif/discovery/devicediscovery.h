@@ -31,14 +31,15 @@ class HttpClient;
 
 /// Finds devices by WS-Discovery. Any thread may call it. Handlers run on threads of the object.
 ///
-/// A device is reported after a request without a login has shown what state it is in, so that a row is whole
-/// when it appears; if the device does not answer that request, or others that are asked before it take too
-/// long, it is reported with an unknown state. Devices in the networks of this computer are asked first:
-/// those of foreign networks often cannot answer. The device is asked once however many searches run.
+/// A device is reported after a request without a login has determined its state, so that its row is complete
+/// when it appears. If the device does not respond to that request, or if the inspections before it take too
+/// long, it is reported with an unknown state. Devices in the networks of this host are inspected first,
+/// since devices of foreign networks often cannot respond. A device is inspected once, regardless of the
+/// number of running searches.
 class DeviceDiscovery
 {
 public:
-    /// `decision` is asked for the certificates of devices that are asked over HTTPS.
+    /// `decision` decides about the certificates of devices that are inspected over HTTPS.
     explicit DeviceDiscovery(std::shared_ptr<const CertificateDecision> decision);
     ~DeviceDiscovery();
     DeviceDiscovery(const DeviceDiscovery &) = delete;
@@ -48,26 +49,28 @@ public:
     /// searched.
     std::int64_t start(SearchAnswerHandler handler, void *user);
 
-    /// Ends a search; its handler does not run any more after that. False for a handle that is none.
+    /// Ends a search. Its handler does not run after the call. False for an invalid handle.
     bool stop(std::int64_t handle);
 
-    /// Asks each address and blocks until all have answered or `wait` has passed or cancel() is called. An
-    /// address that answers no probe is asked over HTTP, since routers do not always pass probes on.
+    /// Sends a probe to each address and blocks until all have responded, `wait` has passed or cancel() is
+    /// called. An address that does not respond to the probe is queried over HTTP, since routers do not
+    /// always forward probes.
     void searchAddresses(const std::vector<std::string> &addresses, SearchAnswerHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
-    /// What the searches have sent and received since the first of those that run was started, or the last
-    /// ones if none runs.
+    /// Fills the counters of the running searches, since the first of them was started; of the last searches
+    /// if none runs.
     void fillReport(SearchReport &report) const;
 
-    /// The device service that a search has found at an address and port. At another port it has the
-    /// standard's path, and the identity of a device that was found at the address.
+    /// The device service that a search has found at an address and port. At an unknown port, the service has
+    /// the path of the standard and the identity of a device that was found at the address.
     [[nodiscard]] ServiceAddress serviceAt(const std::string &address, int port) const;
 
-    /// A device has got another address: its service is found there from now on.
+    /// To be called after a device's address has changed: serviceAt() then finds its service at the new
+    /// address.
     void moved(const ServiceAddress &from, const std::string &address);
 
-    /// Ends every search and every request, and refuses new ones.
+    /// Ends every search and every request, and refuses later ones.
     void cancel();
 
 private:
@@ -77,12 +80,12 @@ private:
         void *user = nullptr;
     };
 
-    /// What a service that an announcement names is to the running searches.
+    /// The status of an announced service in the running searches.
     enum class Expectation
     {
         New,
-        Known,   ///< it is asked or reported already
-        Doubted, ///< it was asked and has not answered, and the announcement does not speak for it
+        Known,   ///< it is being inspected, or was reported
+        Doubted, ///< it has not responded, and the announcement alone is not sufficient to report it
         TooMany, ///< beyond the bounds
     };
 
@@ -92,7 +95,7 @@ private:
     void take(std::string_view datagram, const SocketAddress &sender, const std::string &localAddress);
     void take(DeviceAnnouncement announcement, const std::string &address, const std::string &localAddress);
     void inspect(FoundDevice device, std::chrono::milliseconds wait);
-    /// Whether this computer reaches the device without a router.
+    /// True if this host reaches the device without a router.
     [[nodiscard]] bool isInOwnNetwork(const std::string &address) const;
     void report(FoundDevice device);
     void remember(const FoundDevice &device);
@@ -110,11 +113,11 @@ private:
     QThreadPool m_inspections;
     std::atomic_bool m_isCancelled = false;
 
-    mutable std::mutex m_mutex; ///< of what follows
+    mutable std::mutex m_mutex; ///< guards the members below, up to m_handlerMutex
     std::int64_t m_lastHandle = 0;
     std::vector<InterfaceState> m_interfaces; ///< at the start of the running searches
     std::set<std::string> m_seen;             ///< devices of the running searches, by address, port and UUID
-    std::map<std::string, int> m_seenAt;      ///< how many of them have this address
+    std::map<std::string, int> m_seenAt;      ///< number of devices of `m_seen` by address
     std::set<std::string> m_doubted;          ///< of `m_seen`, not reported: see Expectation::Doubted
     MacHolders m_macHolders;                  ///< of the running searches
     std::vector<SearchAnswer> m_answers;      ///< of the running searches, or of the last ones

@@ -7,9 +7,9 @@ namespace sdk::onvif {
 
 namespace {
 
-/// Requests without a login what a device without an administrator reports to anybody. False if it is
-/// refused.
-bool askOpenDevice(FoundDevice &device, DeviceService &service)
+/// Reads, without a login, the information that a device without an administrator reports to any client.
+/// False if the device refuses.
+bool queryOpenDevice(FoundDevice &device, DeviceService &service)
 {
     const auto information = service.information();
     if (!information.isOk())
@@ -39,7 +39,7 @@ std::string macOfNeighbour(const std::string &address)
     return entry == table.end() ? std::string() : entry->second;
 }
 
-/// The address is in the table at the latest when the device has been asked.
+/// The table contains the address at the latest after a request to the device.
 void noteNeighbour(FoundDevice &device)
 {
     if (device.mac.empty()) {
@@ -57,9 +57,9 @@ bool askOpenly(FoundDevice &device, const std::shared_ptr<HttpClient> &http, std
     noteNeighbour(device);
     switch (users.error) {
     case NetError::None:
-        // Some devices answer this one request to anybody, with all their users or with none.
-        device.state = askOpenDevice(device, service) ? InitialisationBits::Uninitialised
-                                                      : InitialisationBits::Initialised;
+        // Some devices respond to this request without a login, with all their users or with none.
+        device.state = queryOpenDevice(device, service) ? InitialisationBits::Uninitialised
+                                                        : InitialisationBits::Initialised;
         return true;
     case NetError::WrongPassword:
     case NetError::Refused:

@@ -1,4 +1,4 @@
-// What can be asked of a found device without a login.
+// The inspection of a found device without a login.
 #pragma once
 
 #include "sdk/onvif/discovery/founddevice.h"
@@ -9,9 +9,9 @@
 
 namespace sdk::onvif {
 
-/// Completes `device`: its MAC from the neighbour table, and whether it waits for its first password. A
-/// device that lists its users to anybody has no administrator; then everything else is asked openly as well.
-/// Blocks up to `wait`. Returns false if nothing at the service's address speaks the protocol.
+/// Completes `device`: its MAC from the neighbour table and its initialisation state. A device that lists its
+/// users without a login has no administrator; the remaining information is then read without a login as
+/// well. Blocks up to `wait`. Returns false if no server at the service's address uses the protocol.
 bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
                    std::chrono::milliseconds wait);
 

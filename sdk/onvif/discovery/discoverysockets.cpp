@@ -19,7 +19,7 @@ namespace sdk::onvif {
 namespace {
 
 constexpr std::size_t largestDatagram = 65536;
-constexpr int receiveBuffer = 4 * 1024 * 1024; // hundreds of devices answer within half a second
+constexpr int receiveBuffer = 4 * 1024 * 1024; // hundreds of devices respond within half a second
 
 template<typename Value>
 bool setOption(int descriptor, int level, int name, const Value &value)
@@ -52,7 +52,7 @@ int sendDatagram(int descriptor, const std::string &message, const SocketAddress
     return size < 0 ? errno : 0;
 }
 
-/// The interface that a datagram came through, by the data that the system gives with it; 0 if it gives none.
+/// The index of the interface that received a datagram, from the control data of the system; 0 if unknown.
 unsigned int interfaceOf(msghdr &message)
 {
     for (cmsghdr *header = CMSG_FIRSTHDR(&message); header; header = CMSG_NXTHDR(&message, header)) {
@@ -162,9 +162,9 @@ void DiscoverySockets::addListener(bool isIPv4, const std::vector<NetworkInterfa
     const int descriptor = any ? openSocket(isIPv4) : -1;
     if (descriptor < 0)
         return;
-    // Other programs of this computer may listen at the port as well.
+    // Other applications of this host may listen at the port as well.
     setOption(descriptor, SOL_SOCKET, SO_REUSEADDR, 1);
-    // One socket listens for all interfaces: each datagram says which one it came through.
+    // One socket listens on all interfaces: the control data of each datagram contain its interface.
     if (isIPv4)
         setOption(descriptor, IPPROTO_IP, IP_PKTINFO, 1);
     else
@@ -220,7 +220,8 @@ int DiscoverySockets::sendTo(const std::string &message, const SocketAddress &ad
         const int outcome = sendDatagram(socket.descriptor, message, address);
         if (outcome == 0)
             return 0;
-        // The loopback interface refuses every address of a network in this way, which explains nothing.
+        // The loopback interface returns EINVAL for every address of a network: another error is more
+        // informative.
         if (outcome != EINVAL)
             error = outcome;
     }

@@ -1,5 +1,5 @@
-// The sockets of a search: one for each interface, and one for each group to hear messages that devices send
-// on their own.
+// The sockets of a search: one for each interface, and one for each group, which receives unsolicited
+// messages of devices.
 #pragma once
 
 #include "sdk/onvif/discovery/networkaddress.h"
@@ -12,11 +12,11 @@
 
 namespace sdk::onvif {
 
-/// Owns the sockets. Used by one thread, but wake() by any.
+/// Owns the sockets. Used by one thread, except wake(), which any thread may call.
 class DiscoverySockets
 {
 public:
-    /// Called with a datagram. `localAddress` is that of the interface it came through, or empty.
+    /// Called with a datagram. `localAddress` is the address of the interface that received it, or empty.
     using Receiver = std::function<void(std::string_view datagram, const SocketAddress &sender,
                                         const std::string &localAddress)>;
 
@@ -25,22 +25,22 @@ public:
     DiscoverySockets(const DiscoverySockets &) = delete;
     DiscoverySockets &operator=(const DiscoverySockets &) = delete;
 
-    /// Called with the outcome of sending from an address of this computer: the system's error, 0 for none.
+    /// Called after sending from an address of this host. `error` is the system's error number, 0 on success.
     using SendObserver = std::function<void(const std::string &localAddress, int error)>;
 
-    /// Opens a socket on each interface. Returns the number of interfaces that can be searched. `observer` is
-    /// called for those that cannot.
+    /// Opens a socket on each interface. Returns the number of opened sockets. `observer` is called for each
+    /// interface whose socket cannot be opened.
     std::size_t open(const SendObserver &observer = {});
 
-    /// Sends a message to the group through every interface. Returns how many interfaces took it. `observer`
-    /// is called for each.
+    /// Sends a message to the group through every interface. Returns the number of interfaces that sent it.
+    /// `observer` is called for each interface.
     std::size_t sendToGroups(const std::string &message, const SendObserver &observer = {});
 
     /// Sends a message to one address. Returns the system's error, 0 for none.
     [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);
 
-    /// Waits up to `milliseconds` for datagrams and hands those that are there to `receiver`, at most
-    /// `maximumDatagrams`: a sender that never pauses must not keep the caller here.
+    /// Waits up to `milliseconds` for datagrams and passes the received ones to `receiver`, at most
+    /// `maximumDatagrams`, so that a continuous sender does not block the caller.
     void receive(int milliseconds, const Receiver &receiver);
 
     /// Ends a wait in receive().

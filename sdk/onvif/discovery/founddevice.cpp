@@ -12,8 +12,8 @@ namespace sdk::onvif {
 
 namespace {
 
-/// The service that names `address`, one over HTTP before one over HTTPS. A device does not know the name
-/// that this computer has for the interface of a link-local address.
+/// The service whose URL contains `address`; HTTP is preferred to HTTPS. A device does not know this host's
+/// name for the interface of a link-local address.
 std::optional<ServiceAddress> ownService(const DeviceAnnouncement &announcement, const std::string &address)
 {
     const std::string_view host = std::string_view(address).substr(0, address.find('%'));

@@ -1,4 +1,4 @@
-// A device that a search has found, and what is known of it before a login.
+// A device that a search has found, with the information that is available without a login.
 #pragma once
 
 #include "sdk/onvif/discovery/probemessage.h"
@@ -8,18 +8,18 @@
 
 namespace sdk::onvif {
 
-/// A device that has answered from its own address.
+/// A device that has responded from its own address.
 struct FoundDevice
 {
-    std::string address = {};      ///< where its answer came from; with the interface for a link-local one
-    std::string localAddress = {}; ///< of this computer
+    std::string address = {};      ///< sender of its response; with the interface for a link-local address
+    std::string localAddress = {}; ///< of this host
     ServiceAddress service = {};
     DeviceAnnouncement announcement = {};
     std::string mac = {};
-    bool isNeighbour = false; ///< `mac` is from the neighbour table of this computer
+    bool isNeighbour = false; ///< `mac` is from the neighbour table of this host
     InitialisationBits state = InitialisationBits::NotReported;
 
-    // Known only of a device that answers without a login, empty otherwise.
+    // Set only for a device that responds without a login, empty otherwise.
     std::string model = {};
     std::string firmwareVersion = {};
     std::string serialNumber = {};
@@ -28,24 +28,24 @@ struct FoundDevice
     bool dhcp = false;
 };
 
-/// The device service of an announcement that came from `address`: the one that names this address, without
-/// its interface if it is a link-local one, and over HTTP before one over HTTPS; else the first one's port
-/// and path at this address. Never another host: a message can name any.
+/// The device service of an announcement from `address`: the service whose URL contains this address (without
+/// the interface of a link-local address), HTTP preferred to HTTPS; otherwise the port and path of the first
+/// service, at this address. The host is always `address`, since a message may contain any host.
 [[nodiscard]] ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address);
 
-/// The MAC, else the UUID; empty if neither is known.
+/// The MAC, otherwise the UUID; empty if neither is known.
 [[nodiscard]] std::string identityOf(const FoundDevice &device);
 
-/// Whether the announcement names a service at `address` itself.
+/// True if the announcement contains a service at `address`.
 [[nodiscard]] bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &address);
 
-/// The answer as the library delivers it.
+/// The search answer of the network library's interface.
 [[nodiscard]] SearchAnswer searchAnswerOf(const FoundDevice &device);
 
-/// "255.255.255.0" for 24; empty for a length that is none.
+/// "255.255.255.0" for 24; empty for a length outside 0 to 32.
 [[nodiscard]] std::string maskOf(int prefixLength);
 
-/// 24 for "255.255.255.0"; nothing for a text that is no mask.
+/// 24 for "255.255.255.0"; nothing for an invalid mask.
 [[nodiscard]] std::optional<int> prefixLengthOf(std::string_view mask);
 
 } // namespace sdk::onvif

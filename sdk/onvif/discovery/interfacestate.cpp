@@ -33,7 +33,7 @@ bool isSearchedFrom(const sockaddr &address)
            IN6_IS_ADDR_LINKLOCAL(&reinterpret_cast<const sockaddr_in6 &>(address).sin6_addr);
 }
 
-/// Others are tunnels and the like, of which a system has some that nobody uses.
+/// The other types are tunnels and similar interfaces, which a system has even if they are unused.
 bool isEthernet(const sockaddr &address)
 {
     return address.sa_family == AF_PACKET &&
@@ -114,7 +114,7 @@ bool isInNetwork(const std::string &address, const InterfaceState &interface)
     const auto own = ipv4Number(interface.address);
     if (!number || !own || interface.prefixLength > 32)
         return false;
-    // A shift by 32 is undefined, and the network of prefix length 0 is everything.
+    // A shift by 32 is undefined, and the network of prefix length 0 contains every address.
     const std::uint32_t mask = interface.prefixLength <= 0 ? 0 : 0xFFFFFFFFU << (32 - interface.prefixLength);
     return (*number & mask) == (*own & mask);
 }

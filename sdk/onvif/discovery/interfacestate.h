@@ -1,4 +1,4 @@
-// The network interfaces of this computer as a report of a search shows them.
+// The network interfaces of this host for the report of a search.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace sdk::onvif {
 struct InterfaceState
 {
     std::string name = {};
-    std::string address = {}; ///< in the form of NetworkInterface::address; empty if there is none
+    std::string address = {}; ///< same form as NetworkInterface::address; empty if there is none
     int prefixLength = 0;     ///< of `address`
     bool isUp = false;
     bool hasLink = false;
@@ -22,7 +22,7 @@ struct InterfaceState
 /// or radio interface without such an address has one entry without an address.
 [[nodiscard]] std::vector<InterfaceState> interfaceStates();
 
-/// Whether `address` is in the network of `interface`. False unless both are IPv4 addresses.
+/// True if `address` is in the network of `interface`. False unless both are IPv4 addresses.
 [[nodiscard]] bool isInNetwork(const std::string &address, const InterfaceState &interface);
 
 } // namespace sdk::onvif

@@ -34,7 +34,7 @@ bool MacHolders::admits(const std::string &mac, const Holder &device)
         return isSameDevice || holder.uuid.empty() || device.uuid.empty();
     if (!device.isNeighbour)
         return false;
-    // Two such addresses are of one device. One that merely named the MAC loses it.
+    // Two such addresses belong to one device. A device that only announced the MAC loses it.
     holder = device;
     return true;
 }

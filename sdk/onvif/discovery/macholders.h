@@ -1,4 +1,4 @@
-// Which device has which MAC during a search.
+// The assignment of MACs to devices during a search.
 #pragma once
 
 #include "sdk/onvif/discovery/founddevice.h"
@@ -8,17 +8,17 @@
 
 namespace sdk::onvif {
 
-/// A MAC identifies a device in lists, and a message can name any. So one device has it: the one that the
-/// neighbour table of this computer shows with it, else the first one that named it. A second device at the
-/// same address, as factory-new devices are, does not get the MAC that the neighbour table has for that
-/// address. Not thread-safe.
+/// Assigns each MAC to one device, since a MAC identifies a device in lists and a message may contain any
+/// MAC. The device is the one with the MAC in the neighbour table of this host, otherwise the first one that
+/// announced it. A second device at the same address, such as a factory-new device, does not get the MAC that
+/// the neighbour table has for that address. Not thread-safe.
 class MacHolders
 {
 public:
-    /// Begins again, as a search does.
+    /// Removes all assignments, for the start of a search.
     void clear();
 
-    /// Clears the MACs of `device` that are another device's, and corrects the identity of its service.
+    /// Clears the MACs of `device` that belong to another device, and corrects the identity of its service.
     void admit(FoundDevice &device);
 
 private:
@@ -26,13 +26,12 @@ private:
     {
         std::string address = {};
         std::string uuid = {};
-        bool isNeighbour =
-            false; ///< the MAC is in the neighbour table of this computer, not merely in a message
+        bool isNeighbour = false; ///< the MAC is in the neighbour table of this host, not only in a message
     };
 
     [[nodiscard]] bool admits(const std::string &mac, const Holder &device);
 
-    /// By MAC, for each address family: a device answers over both.
+    /// By MAC, for each address family: a device responds over both.
     std::map<std::string, Holder> m_ipv4Holders;
     std::map<std::string, Holder> m_ipv6Holders;
 };

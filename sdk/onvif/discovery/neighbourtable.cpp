@@ -65,7 +65,7 @@ std::string macText(const unsigned char *bytes)
     return canonicalMac(text.data()); // empty for a MAC of zeros
 }
 
-/// The text of a network address of the table, in the form of addressText().
+/// The string of a network address of the table, in the form of addressText().
 std::string neighbourAddress(const ndmsg &neighbour, const void *bytes, std::size_t size)
 {
     SocketAddress address;

@@ -1,4 +1,4 @@
-// The neighbour table of this computer: which MAC address answers for a network address.
+// The neighbour table of this host: the MAC addresses of network addresses.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace sdk::onvif {
 
-/// MAC addresses ("02:1a:c5:00:40:17") by the text of the network address, of both address families, as the
-/// operating system holds them now. Only complete entries. Empty where the system gives no such table.
+/// MAC addresses ("02:1a:c5:00:40:17") by network address, of both address families, from the present table
+/// of the operating system. Complete entries only. Empty where the system provides no such table.
 [[nodiscard]] std::unordered_map<std::string, std::string> neighbourTable();
 
 } // namespace sdk::onvif

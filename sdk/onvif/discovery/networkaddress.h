@@ -1,4 +1,4 @@
-// Addresses of the network and the interfaces of this computer, as text.
+// Network addresses and the interfaces of this host, as strings.
 #pragma once
 
 #include <netinet/in.h>
@@ -19,13 +19,13 @@ struct SocketAddress
 };
 
 /// Reads an IPv4 address, or an IPv6 address with the name or number of its interface behind "%". Nothing for
-/// host names: a search asks addresses only.
+/// host names: a search accepts addresses only.
 [[nodiscard]] std::optional<SocketAddress> socketAddress(const std::string &address, int port);
 
-/// The text of the address, with the interface of a link-local one; without brackets and port.
+/// The string of the address, with the interface of a link-local address; without brackets and port.
 [[nodiscard]] std::string addressText(const SocketAddress &address);
 
-/// An interface of this computer that takes part in the network, with one of its addresses.
+/// An active network interface of this host, with one of its addresses.
 struct NetworkInterface
 {
     std::string name = {};
@@ -36,7 +36,7 @@ struct NetworkInterface
 };
 
 /// The interfaces that are up and can send to groups: one entry for each IPv4 address, and one for each
-/// interface with a link-local IPv6 address. Loopback interfaces are included; the caller decides.
+/// interface with a link-local IPv6 address. Loopback interfaces are included; the caller filters them.
 [[nodiscard]] std::vector<NetworkInterface> networkInterfaces();
 
 } // namespace sdk::onvif

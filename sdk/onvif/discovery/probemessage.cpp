@@ -41,14 +41,14 @@ std::vector<std::string_view> words(std::string_view text)
     return found;
 }
 
-/// The text of a scope: percent-encoded UTF-8. "_" stays, since names contain it.
+/// The decoded string of a scope, which is percent-encoded UTF-8. "_" is kept, since names contain it.
 std::string decoded(std::string_view text)
 {
     const QByteArray bytes(text.data(), static_cast<qsizetype>(text.size()));
     return QByteArray::fromPercentEncoding(bytes).left(longestText).toStdString();
 }
 
-/// Sets `field` once: devices repeat scopes, and the first one is the fixed one.
+/// Sets `field` if it is empty: devices repeat scopes, and the first one is the fixed scope.
 void take(std::string &field, std::string_view value)
 {
     if (field.empty())
@@ -84,7 +84,7 @@ std::string uuidOf(std::string_view address)
         if (text.starts_with(prefix))
             text.erase(0, prefix.size());
     }
-    // Only what a number consists of: the text identifies a device in lists and files.
+    // Only hexadecimal digits and hyphens, since the string identifies a device in lists and files.
     const bool isPlain = std::all_of(text.begin(), text.end(), [](char letter) {
         return (letter >= '0' && letter <= '9') || (letter >= 'a' && letter <= 'f') || letter == '-';
     });
@@ -92,7 +92,7 @@ std::string uuidOf(std::string_view address)
     return isPlain && text.size() == length ? text : std::string();
 }
 
-/// Whether the types name a device of this standard. A device that names none is taken too.
+/// True if the types contain a device type of this standard, or if there are no types.
 bool isOfStandard(std::string_view types)
 {
     const std::vector<std::string_view> names = words(types);

@@ -1,4 +1,4 @@
-// Messages of WS-Discovery: what a search sends, and what devices send on it or on their own.
+// Messages of WS-Discovery: the probes of a search, the responses of devices and their unsolicited messages.
 #pragma once
 
 #include "sdk/onvif/soap/serviceaddress.h"
@@ -15,22 +15,22 @@ inline constexpr int discoveryPort = 3702;
 inline constexpr const char *discoveryGroupIPv4 = "239.255.255.250";
 inline constexpr const char *discoveryGroupIPv6 = "ff02::c";
 
-/// The kinds of devices that a probe asks for.
+/// The types of devices that a probe requests.
 enum class ProbeKind
 {
     Transmitters, ///< the type that every camera and recorder has
-    Anything,     ///< no type at all: some devices name only a type of their own
+    Anything,     ///< no type: some devices have only a vendor-specific type
 };
 
-/// The text of a probe with a new message number.
+/// The XML text of a probe with a new message identifier.
 [[nodiscard]] std::string probeMessage(ProbeKind kind);
 
-/// What a device says about itself. All of it is unchecked: any computer of the network can send it.
+/// The information that a device announces. All of it is unchecked: any host of the network can send it.
 struct DeviceAnnouncement
 {
-    bool isLeaving = false; ///< it is a Bye message
-    std::string uuid = {};  ///< the number of the device, without "urn:uuid:", in lower case; may be empty
-    std::vector<ServiceAddress> services = {}; ///< where its device service is, by its own view
+    bool isLeaving = false; ///< a Bye message
+    std::string uuid = {};  ///< of the device, without "urn:uuid:", in lower case; may be empty
+    std::vector<ServiceAddress> services = {}; ///< addresses of its device service, as the device knows them
     std::string name = {};
     std::string model = {};
     std::string location = {};
@@ -38,13 +38,13 @@ struct DeviceAnnouncement
     bool isRecorder = false;
 };
 
-/// What a datagram contains.
+/// The contents of a datagram.
 struct DiscoveryMessage
 {
     enum class Kind
     {
-        Unreadable,   ///< no message of WS-Discovery, or a document beyond the bounds
-        Request,      ///< of another program that searches
+        Unreadable,   ///< not a message of WS-Discovery, or a document beyond the bounds
+        Request,      ///< of another searching application
         Announcement, ///< a ProbeMatches, ResolveMatches, Hello or Bye message
     };
 
@@ -53,7 +53,7 @@ struct DiscoveryMessage
     std::size_t otherDevices = 0;                       ///< announcements of other devices
 };
 
-/// Reads a datagram, at most `maximumMatches` announcements of it.
+/// Reads a datagram; announcements after the first `maximumMatches` are ignored.
 inline constexpr std::size_t maximumMatches = 16;
 [[nodiscard]] DiscoveryMessage readDiscoveryMessage(std::string_view datagram);
 

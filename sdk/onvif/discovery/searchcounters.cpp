@@ -26,7 +26,7 @@ bool isNoRoute(int error)
     return error == ENETUNREACH || error == EHOSTUNREACH || error == ENETDOWN;
 }
 
-/// Whether the device is outside of the network of every interface. IPv6 devices answer from the link itself.
+/// True if the device is outside of the network of every interface. IPv6 devices respond from the link.
 bool isForeign(const ReportedDevice &device, const std::vector<InterfaceState> &interfaces)
 {
     return device.address.find(':') == std::string::npos &&
@@ -124,7 +124,7 @@ std::uint32_t SearchCounters::obstaclesOf(const InterfaceState &interface, const
 SearchInterfaceReport SearchCounters::reportOf(const InterfaceState &interface,
                                                const std::vector<ReportedDevice> &devices) const
 {
-    // Messages of an interface that is not known are counted without an address, which no interface has.
+    // Messages of an unknown interface are counted under the empty address, which no interface has.
     Counts counts;
     if (const auto known = m_counts.find(interface.address); known != m_counts.end() && !known->first.empty())
         counts = known->second;

@@ -1,4 +1,4 @@
-// What searches have sent and received, counted for a report.
+// Counters of the messages that searches have sent and received, for a report.
 #pragma once
 
 #include "sdk/onvif/discovery/interfacestate.h"
@@ -17,28 +17,28 @@ namespace sdk::onvif {
 struct ReportedDevice
 {
     std::string address = {};
-    std::string localAddress = {}; ///< of this computer, where its answer arrived
+    std::string localAddress = {}; ///< of this host, that received its response
 };
 
-/// Counts by the address of this computer that a message went out or came in through. Thread-safe. The counts
-/// stop at their largest value, and there is one entry for each address of an interface.
+/// Counters by the local address that a message was sent from or received at. Thread-safe. The counters
+/// saturate at their largest value, and there is one entry for each address of an interface.
 class SearchCounters
 {
 public:
-    /// Begins again, as a search does.
+    /// Resets all counters, for the start of a search.
     void clear();
 
-    /// A request to a group; `error` is the system's number, 0 if the request was sent.
+    /// Counts a request to a group; `error` is the system's error number, 0 if the request was sent.
     void noteRequest(const std::string &localAddress, int error);
     void noteMessage(const std::string &localAddress);
     void noteDiscarded(const std::string &localAddress, SearchDiscard reason);
 
-    /// One of the addresses that are asked one by one; `error` as above.
+    /// Counts a request to a single address; `error` as above.
     void noteAskedAddress(int error);
     void noteAnsweredAddress();
 
-    /// Fills a report of `interfaces` and of `devices`, the devices found. Loopback interfaces are left out
-    /// unless there are no others.
+    /// Fills a report of `interfaces` and of the found `devices`. Loopback interfaces are omitted unless
+    /// there are no others.
     void fill(SearchReport &report, const std::vector<InterfaceState> &interfaces,
               const std::vector<ReportedDevice> &devices) const;
 

@@ -67,16 +67,16 @@ RtspStream::Outcome RtspStream::receive(const std::stop_token &stop)
     const AVStream *sound =
         session.track(AVMEDIA_TYPE_AUDIO, {AV_CODEC_ID_AAC, AV_CODEC_ID_PCM_ALAW, AV_CODEC_ID_PCM_MULAW,
                                            AV_CODEC_ID_PCM_S16LE, AV_CODEC_ID_PCM_S16BE});
-    remuxer = picture ? Remuxer::of(*picture, sound, m_mustBeginAnew, m_dataHandler) : nullptr;
+    remuxer = picture ? Remuxer::of(*picture, sound, m_mustRestart, m_dataHandler) : nullptr;
     if (!remuxer)
         return {StreamEnd::Unsupported, "no picture track that can be decoded"};
     setAnswer(std::nullopt);
     const AvPointer<AVPacket> packet(av_packet_alloc());
     while (packet && !remuxer->hasFailed() && session.read(*packet)) {
         if (remuxer->add(*packet))
-            session.notePicturePiece();
+            session.noteVideoPacket();
         if (remuxer->hasBegun())
-            session.noteKeyPicture();
+            session.noteKeyFrame();
         av_packet_unref(packet.get());
     }
     if (!packet || remuxer->hasFailed())

@@ -16,45 +16,43 @@
 
 namespace sdk::onvif {
 
-/// How long a device may take.
+/// Timeouts of a live stream.
 struct RtspTimeouts
 {
-    std::chrono::milliseconds answer{5000}; ///< from the start until it plays
-    std::chrono::milliseconds keyPicture{
-        20000}; ///< from then on until the first picture that needs no earlier one
-    std::chrono::milliseconds silence{10000}; ///< between two pieces of a picture
+    std::chrono::milliseconds answer{5000};      ///< from the start until it plays
+    std::chrono::milliseconds keyPicture{20000}; ///< from then on until the first key frame
+    std::chrono::milliseconds silence{10000};    ///< between two video packets
 };
 
-/// What to open a stream with.
+/// The parameters of a stream.
 struct RtspOrder
 {
-    /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric: names are not looked up. An account in
-    /// it is an error.
+    /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric: host names are not resolved. An account
+    /// in it is an error.
     std::string url;
     std::string account; ///< empty for none. UTF-8
     std::string password;
     RtspTimeouts timeouts;
 };
 
-/// One live stream with a thread of its own, on which both handlers run. Pictures in H.264, H.265 or MJPEG
-/// and sound in G.711, AAC or PCM are put into the container of streams::MatroskaWriter as they are; other
-/// tracks are left out. A stream begins with a picture that needs no earlier one; it starts again, with
-/// another header, when the size or the parameters of its pictures change.
+/// One live stream with its thread, on which both handlers run. Video in H.264, H.265 or MJPEG and sound in
+/// G.711, AAC or PCM are written unchanged to the container of streams::MatroskaWriter; other tracks are
+/// dropped. A stream starts with a key frame. It starts again, with another header, when the size or the
+/// parameters of its frames change.
 ///
-/// A password that is refused is not sent again. The data come over the connection of the session, or by UDP
-/// from a device that does not offer that.
+/// A refused password is not sent again. The transport is interleaved in the connection of the session, or
+/// UDP for a device that does not support that.
 class RtspStream
 {
 public:
-    /// Gets the next bytes of the container: a header, or a whole packet. They end with the call, which
-    /// should be short: meanwhile nothing is received.
+    /// Receives the next bytes of the container: a header or a complete packet. They are valid during the
+    /// call, which should be short, since no data are received meanwhile.
     using DataHandler = std::function<void(std::span<const std::uint8_t> bytes)>;
 
-    /// Called once, after the last data. `text` says more about the reason, in English, for logs; there are
-    /// no secrets in it.
+    /// Called once, after the last data. `text` describes the reason in English, for logs, without secrets.
     using EndHandler = std::function<void(StreamEnd end, const std::string &text)>;
 
-    /// Starts at once and returns at once. Throws std::system_error when there is no thread.
+    /// Starts the stream and returns immediately. Throws std::system_error when no thread can be created.
     RtspStream(RtspOrder order, DataHandler dataHandler, EndHandler endHandler);
 
     /// As stop().
@@ -62,19 +60,18 @@ public:
     RtspStream(const RtspStream &) = delete;
     RtspStream &operator=(const RtspStream &) = delete;
 
-    /// Blocks until the device plays (nothing is returned) or the stream has ended, at most a little longer
-    /// than RtspTimeouts::answer. For any thread, but not for a handler.
+    /// Blocks until the device plays (nothing is returned) or the stream has ended, slightly longer than
+    /// RtspTimeouts::answer at most. For any thread, but not for a handler.
     [[nodiscard]] std::optional<StreamEnd> waitForAnswer();
 
-    /// Makes the container start again, with its header, at the next picture that needs no earlier one. For
-    /// any thread.
-    void beginAnew() { m_mustBeginAnew = true; }
+    /// Makes the container start again, with its header, at the next key frame. For any thread.
+    void restart() { m_mustRestart = true; }
 
-    /// Lets the stream end as stop() does, and returns at once. For any thread.
+    /// Requests the end of the stream as stop() does, and returns immediately. For any thread.
     void requestStop() { m_thread.request_stop(); }
 
-    /// Ends the stream, if it has not ended by itself, with StreamEnd::Stopped, and returns within a fraction
-    /// of a second. No handler runs any more then. For one thread at a time, but not for a handler.
+    /// Ends the stream with StreamEnd::Stopped, unless it has already ended, and returns within a fraction of
+    /// a second. No handler runs after the call. For one thread at a time, but not for a handler.
     void stop();
 
 private:
@@ -91,13 +88,13 @@ private:
     const RtspOrder m_order;
     const DataHandler m_dataHandler;
     const EndHandler m_endHandler;
-    std::atomic<bool> m_mustBeginAnew = false;
+    std::atomic<bool> m_mustRestart = false;
 
     std::mutex m_mutex;
     std::condition_variable m_answered;
     bool m_hasAnswer = false;
     std::optional<StreamEnd> m_answer; // valid with m_hasAnswer
-    std::jthread m_thread;             // last: it ends before what it uses
+    std::jthread m_thread;             // the last member: its thread uses the others
 };
 
 } // namespace sdk::onvif

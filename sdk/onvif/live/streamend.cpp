@@ -33,7 +33,7 @@ std::string_view streamEndName(StreamEnd end)
         return "malformed answer";
     case StreamEnd::Unsupported:
         return "unsupported";
-    case StreamEnd::NoKeyPicture:
+    case StreamEnd::NoKeyFrame:
         return "no key picture";
     case StreamEnd::NoData:
         return "no data";

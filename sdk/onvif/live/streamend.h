@@ -1,4 +1,4 @@
-// Why a live stream of a device has ended.
+// The reason why a live stream of a device has ended.
 #pragma once
 
 #include <string_view>
@@ -8,23 +8,23 @@ namespace sdk::onvif {
 enum class StreamEnd
 {
     Stopped,           ///< by its owner
-    BadUrl,            ///< no rtsp:// URL with a numeric address, or longer than a session can use
+    BadUrl,            ///< not an rtsp:// URL with a numeric address, or too long
     BadAccount,        ///< the account or the password cannot be sent: too long, or with control characters
     Refused,           ///< wrong account or password
     NotFound,          ///< the device has no such stream
-    Busy,              ///< the device serves no more streams
-    Rejected,          ///< the device answered with another error, such as a missing right
-    ConnectionRefused, ///< nobody listens at the port
-    Unreachable,       ///< there is no way to the address
-    NoAnswer,          ///< the device did not answer in time
-    Redirected,        ///< the device names another place, which is not asked
-    Oversized,         ///< the answer goes beyond what a session takes
-    Malformed,         ///< the answer is none of the protocol
-    Unsupported,       ///< no picture track that can be decoded, or no common transport
-    NoKeyPicture,      ///< no picture came that needs no earlier one
-    NoData,            ///< no pictures came any more
+    Busy,              ///< the device has reached its limit of streams
+    Rejected,          ///< the device responded with another error, such as a missing right
+    ConnectionRefused, ///< the port is closed
+    Unreachable,       ///< there is no route to the address
+    NoAnswer,          ///< the device did not respond in time
+    Redirected,        ///< the device redirects to another address, which is not used
+    Oversized,         ///< the response exceeds the limits of a session
+    Malformed,         ///< the response is not RTSP
+    Unsupported,       ///< no decodable video track, or no common transport
+    NoKeyFrame,        ///< no key frame arrived in time
+    NoData,            ///< no more frames arrived
     Ended,             ///< the device ended the stream or the connection
-    Failed,            ///< this computer could not do its part
+    Failed,            ///< a failure of this host
 };
 
 /// The name of a reason, in English, for logs.

@@ -29,7 +29,7 @@ constexpr int backlightWideDynamic = 2;
 constexpr int whiteBalanceAutomatic = 0;
 constexpr int whiteBalanceManual = 4;
 
-/// Modes of the standard by the numbers of the items.
+/// Modes of the standard, indexed by the numbers of the items.
 constexpr std::array<std::string_view, 3> dayNightModes = {"ON", "AUTO", "OFF"}; // of the infrared filter
 constexpr std::array<std::string_view, 3> defogModes = {"OFF", "ON", "AUTO"};
 
@@ -62,7 +62,7 @@ constexpr std::uint32_t bit(CameraGroup group)
     return bit(static_cast<std::uint32_t>(group));
 }
 
-/// What one video source is set to and can be set to.
+/// The settings and the options of one video source.
 struct Source
 {
     std::string token = {};
@@ -102,8 +102,8 @@ NetError writeSettings(OnvifSession &session, const Source &source, const Imagin
     return ImagingService(session.client(), *service, deadline).setSettings(source.token, settings).error;
 }
 
-// The groups: whether a source has one, how its item is filled and what becomes of a changed item. Each
-// `change` returns the settings to write, or nothing for values that the standard cannot express.
+// The groups: availability in a source, reading an item and writing a changed item. Each `change` returns the
+// settings to write, or nothing for values that the standard cannot express.
 
 bool hasPicture(const ImagingOptions &options)
 {
@@ -176,7 +176,7 @@ void fill(ExposureItem &item, const Source &source)
     item.irisAutomatic = 1;
 }
 
-/// A time in microseconds within its range; nothing where the device names no range.
+/// A time in microseconds within its range; nothing if the device reports no range.
 std::optional<double> exposureTime(float milliseconds, const ImagingRange &range)
 {
     if (!range.isUsable())
@@ -388,7 +388,7 @@ CameraCapabilities capabilitiesOf(const ImagingOptions &options)
     return capabilities;
 }
 
-/// Whether the source has what the item holds.
+/// True if the source has the settings of the item.
 bool has(const ImagingOptions &options, CameraItem item)
 {
     const std::uint32_t groups = groupsOf(options);
@@ -481,7 +481,7 @@ NetError writeName(OnvifSession &session, int channel, const void *block, std::u
         return profiles.isOk() ? NetError::NotSupported : profiles.error;
     const NetError error =
         media->setSourceName(profile->sourceConfiguration, std::string(blockText(item.name))).error;
-    session.forgetProfiles();
+    session.clearProfiles();
     return error;
 }
 

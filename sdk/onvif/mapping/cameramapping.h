@@ -9,20 +9,20 @@
 
 namespace sdk::onvif {
 
-/// The text "VideoColor" of a channel. On failure `error` is set and the text is empty.
+/// The configuration text "VideoColor" of a channel. On failure `error` is set and the text is empty.
 [[nodiscard]] std::string colorConfiguration(OnvifSession &session, int channel,
                                              OnvifSession::Deadline deadline, NetError &error);
 [[nodiscard]] NetError setColorConfiguration(OnvifSession &session, int channel, std::string_view text,
                                              OnvifSession::Deadline deadline);
 
-/// Reads or writes a CameraItem. `block` is the item's block of `size` bytes, with its size and, where it has
-/// one, its mode.
+/// Reads or writes a CameraItem. `block` is the item's block of `size` bytes; its size field and its mode, if
+/// any, are set by the caller.
 [[nodiscard]] NetError cameraItem(OnvifSession &session, std::uint32_t item, int channel, void *block,
                                   std::uint32_t size, OnvifSession::Deadline deadline);
 [[nodiscard]] NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel,
                                      const void *block, std::uint32_t size, OnvifSession::Deadline deadline);
 
-/// Fills `output` from the options that the device gives for the source.
+/// Fills `output` from the options that the device reports for the source.
 [[nodiscard]] NetError cameraCapabilities(OnvifSession &session, const CameraCapabilityInput &input,
                                           CameraCapabilities &output, OnvifSession::Deadline deadline);
 

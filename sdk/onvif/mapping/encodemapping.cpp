@@ -24,10 +24,10 @@ constexpr int usualMaximumFrameRate = 30;
 struct Stream
 {
     MediaProfile profile;
-    std::vector<VideoEncodingOptions> options; ///< empty until they were asked for
+    std::vector<VideoEncodingOptions> options; ///< empty until they are read
 };
 
-/// The profile token of a kind of stream; empty if the standard or the device does not have the kind.
+/// The profile token of a type of stream; empty if the standard or the device does not have the type.
 std::string profileToken(const OnvifSession &session, int channel, StreamKind kind)
 {
     if (channel < 0 || static_cast<std::size_t>(channel) >= session.channels().size())
@@ -43,11 +43,11 @@ std::string profileToken(const OnvifSession &session, int channel, StreamKind ki
     }
 }
 
-/// What a stream is read for.
+/// The purpose of reading a stream.
 enum class Purpose
 {
     Show,
-    Change, ///< it is written back with what was changed
+    Change, ///< it is written back with changes
 };
 
 ServiceResult<Stream> readStream(OnvifSession &session, int channel, StreamKind kind, Purpose purpose,
@@ -84,7 +84,7 @@ const VideoEncodingOptions *optionsOf(const Stream &stream, std::string_view enc
     return found == stream.options.end() ? nullptr : &*found;
 }
 
-/// 1 to 6 for a quality of the device's range, and back.
+/// The step, 1 to 6, of a quality in the device's range; qualityOfStep() is the reverse.
 int qualityStep(double quality, const VideoEncodingOptions *options)
 {
     if (!options || options->maximumQuality <= options->minimumQuality)
@@ -131,7 +131,7 @@ void fill(AudioCompressionItem &item, const Stream &stream)
     item.format = stream.profile.audio ? audioFormatOf(stream.profile.audio->encoding) : 0;
 }
 
-/// Takes the values of an item into the encoder's settings. False if the standard cannot express them.
+/// Copies the values of an item to the encoder's settings. False if the standard cannot express them.
 bool take(const VideoFormatItem &item, const Stream &stream, VideoEncoder &video)
 {
     const std::string encoding = encodingOf(item.compression);
@@ -147,7 +147,7 @@ bool take(const VideoFormatItem &item, const Stream &stream, VideoEncoder &video
     video.frameRate = item.frameRate;
     video.constantBitRate = item.bitRateControl == 0;
     const VideoEncodingOptions *options = optionsOf(stream, encoding);
-    // Only another step is another quality: the device's own value is finer.
+    // The quality is unchanged while its step is: the device's value is more precise than the step.
     if (item.quality != qualityStep(video.quality, options))
         video.quality = qualityOfStep(item.quality, options);
     return true;
@@ -159,12 +159,12 @@ NetError writeVideo(OnvifSession &session, const VideoEncoder &video, Deadline d
     if (!media)
         return NetError::NotSupported;
     const NetError error = media->setVideoEncoder(video).error;
-    session.forgetProfiles();
+    session.clearProfiles();
     return error;
 }
 
-/// The settings of a stream's audio with another format or rate. Its bit rate is the device's first one for
-/// that format, since each has its own.
+/// Writes the settings of a stream's audio with another format or sample rate. The bit rate is the device's
+/// first option for that format, since the options depend on the format.
 NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int sampleRate,
                     Deadline deadline)
 {
@@ -194,7 +194,7 @@ NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int
             audio.sampleRate = found->sampleRates.front();
     }
     const NetError error = media->setAudioEncoder(audio).error;
-    session.forgetProfiles();
+    session.clearProfiles();
     return error;
 }
 
@@ -295,7 +295,7 @@ std::string encodeConfiguration(OnvifSession &session, int channel, Deadline dea
 {
     EncodeRecord record{};
     record.size = sizeof(record);
-    session.forgetProfiles(); // a page begins with this, and shows what the device has now
+    session.clearProfiles(); // a page starts with this request, and shows the present settings
     for (const StreamKind kind : servedKinds) {
         ServiceResult<Stream> stream = readStream(session, channel, kind, Purpose::Show, deadline);
         if (!stream.isOk()) {

@@ -9,19 +9,20 @@
 
 namespace sdk::onvif {
 
-/// The text "Encode" of a channel. On failure `error` is set and the text is empty.
+/// The configuration text "Encode" of a channel. On failure `error` is set and the text is empty.
 [[nodiscard]] std::string encodeConfiguration(OnvifSession &session, int channel,
                                               OnvifSession::Deadline deadline, NetError &error);
 [[nodiscard]] NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_view text,
                                               OnvifSession::Deadline deadline);
 
-/// Reads or writes an EncodeItem. `block` is the item's block of `size` bytes, with its size and its stream.
+/// Reads or writes an EncodeItem. `block` is the item's block of `size` bytes; its size and stream fields are
+/// set by the caller.
 [[nodiscard]] NetError encodeItem(OnvifSession &session, std::uint32_t item, int channel, void *block,
                                   std::uint32_t size, OnvifSession::Deadline deadline);
 [[nodiscard]] NetError setEncodeItem(OnvifSession &session, std::uint32_t item, int channel,
                                      const void *block, std::uint32_t size, OnvifSession::Deadline deadline);
 
-/// Fills `output` from the options that the device gives for its encoders.
+/// Fills `output` from the options that the device reports for its encoders.
 [[nodiscard]] NetError encodeCapabilities(OnvifSession &session, const EncodeCapabilityInput &input,
                                           EncodeCapabilities &output, OnvifSession::Deadline deadline);
 

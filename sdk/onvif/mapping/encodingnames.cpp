@@ -20,17 +20,17 @@ constexpr std::array compressions = {
     Compression{"H265", 8},
 };
 
-/// By number less 1.
+/// The index is the number minus 1.
 constexpr std::array<std::string_view, 4> profiles = {"Baseline", "Main", "Extended", "High"};
 
 struct AudioFormat
 {
     std::string_view encoding;
-    int format;     ///< as configurations number it
-    int capability; ///< as capabilities do
+    int format;     ///< its number in configurations
+    int capability; ///< its number in capabilities
 };
 
-/// The older service's G711 is the kind that its texts call u-law.
+/// G711 of the older service is u-law.
 constexpr std::array audioFormats = {
     AudioFormat{"G711", 3, 4}, AudioFormat{"PCMU", 3, 4}, AudioFormat{"PCMA", 1, 2},
     AudioFormat{"G726", 6, 5}, AudioFormat{"AAC", 5, 8},  AudioFormat{"MP4A-LATM", 5, 8},

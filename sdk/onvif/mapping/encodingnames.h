@@ -12,11 +12,11 @@ namespace sdk::onvif {
 /// The encoding of a compression code; empty for one that the standard does not have.
 [[nodiscard]] std::string encodingOf(int compression);
 
-/// 1 to 4 for the profiles of H.264; 0 for any other text.
+/// 1 to 4 for the profiles of H.264; 0 for any other string.
 [[nodiscard]] int profileNumber(std::string_view profile);
 [[nodiscard]] std::string profileName(int number);
 
-/// The audio format as configurations number it, and as capabilities do; 0 for an encoding without a number.
+/// The numbers of an audio format in configurations and in capabilities; 0 for an encoding without a number.
 [[nodiscard]] int audioFormatOf(std::string_view encoding);
 [[nodiscard]] int audioCapabilityOf(std::string_view encoding);
 

@@ -109,7 +109,7 @@ std::string localesText(OnvifSession &session, Deadline deadline, NetError &erro
     return packed("Locales", record);
 }
 
-/// The text of a zone with another offset; its rule of daylight saving stays.
+/// The zone `text` with another offset and the same rule of daylight saving.
 std::string movedZone(const std::string &text, int offset)
 {
     PosixTimeZone zone = readPosixTimeZone(text).value_or(PosixTimeZone{.name = "UTC"});
@@ -132,7 +132,7 @@ NetError setNtp(OnvifSession &session, const NtpRecord &record, Deadline deadlin
     }
     DeviceClock changed = clock.value;
     changed.followsNtp = record.enabled != 0;
-    if (record.timeZone != shownTimeZone(clock.value)) // else the text may hold more than is read of it
+    if (record.timeZone != shownTimeZone(clock.value)) // otherwise the string is kept
         changed.timeZone = movedZone(clock.value.timeZone, timeZoneOffset(record.timeZone));
     return device.setClock(changed).error;
 }
@@ -154,7 +154,7 @@ NetError setLocales(OnvifSession &session, const LocalesRecord &record, Deadline
         zone.begin = record.begin;
         zone.end = record.end;
     } else {
-        // Some devices follow the rule in the text, whatever the switch says.
+        // Some devices follow the rule in the string regardless of the switch.
         zone.daylightName.clear();
     }
     changed.timeZone = zone.text();

@@ -1,4 +1,4 @@
-// The configurations of a whole device by the operations of its device service.
+// The configurations of a device by the operations of its device service.
 #pragma once
 
 #include "sdk/onvif/session/onvifsession.h"
@@ -9,8 +9,8 @@
 
 namespace sdk::onvif {
 
-/// The text of a configuration of the whole device: "Network", "DVRIP", "Https", "NTP" or "Locales". On
-/// failure `error` is set and the text is empty; NotSupported for any other name.
+/// The configuration text of a device: "Network", "DVRIP", "Https", "NTP" or "Locales". On failure `error` is
+/// set and the text is empty; NotSupported for any other name.
 [[nodiscard]] std::string systemConfiguration(OnvifSession &session, std::string_view name,
                                               OnvifSession::Deadline deadline, NetError &error);
 
@@ -19,16 +19,16 @@ namespace sdk::onvif {
 [[nodiscard]] NetError setSystemConfiguration(OnvifSession &session, std::string_view name,
                                               std::string_view text, OnvifSession::Deadline deadline);
 
-/// Sets the clock by hand. `time` is what the device shall show in its own zone.
+/// Sets the clock. `time` is the local time in the device's zone.
 [[nodiscard]] NetError setDeviceTime(OnvifSession &session, const TimeRecord &time,
                                      OnvifSession::Deadline deadline);
 
-/// The interface of the device that has the session's address, else the first one with IPv4.
+/// The device's interface with the session's address, otherwise the first interface with IPv4.
 [[nodiscard]] const DeviceInterface *interfaceInUse(const std::vector<DeviceInterface> &interfaces,
                                                     std::string_view address);
 
-/// Whether the device reports the MACs of its interfaces, and `mac` is none of them: several devices may have
-/// one address, and the one that answers need not be the one that is meant.
+/// True if the device reports the MACs of its interfaces and `mac` is not among them. Several devices may
+/// have the same address, so that another device than the intended one may respond.
 [[nodiscard]] bool isOtherDevice(const std::vector<DeviceInterface> &interfaces, const std::string &mac);
 
 /// The port of an enabled protocol, 0 if the device has none.

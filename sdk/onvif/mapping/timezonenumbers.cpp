@@ -14,7 +14,7 @@ constexpr int hours(int count, int minutes = 0)
     return count * 60 + (count < 0 ? -minutes : minutes);
 }
 
-/// The last seven stand out of order: the numbers were given in the order in which zones became known.
+/// The last seven are not sorted: the numbers were assigned in the order in which zones became known.
 constexpr std::array offsets = {
     0,         hours(1),      hours(2),      hours(3),     hours(3, 30),  hours(4),      hours(4, 30),
     hours(5),  hours(5, 30),  hours(5, 45),  hours(6),     hours(6, 30),  hours(7),      hours(8),

@@ -77,7 +77,7 @@ DeviceInterface readInterface(const XmlElement &element)
     const XmlElement config = element.at({"IPv4", "Config"});
     read.hasIPv4 = config.exists() && element.at({"IPv4", "Enabled"}).boolean().value_or(true);
     read.dhcp = config.child("DHCP").boolean().value_or(false);
-    // The address that DHCP gave is named on its own; some devices name it among the manual ones.
+    // The address from DHCP has a separate element; some devices report it among the manual ones.
     const XmlElement leased = config.child("FromDHCP");
     const XmlElement manual = config.child("Manual");
     const XmlElement address = read.dhcp && leased.exists() ? leased
@@ -110,7 +110,7 @@ std::map<std::string, std::string> readServices(const XmlElement &response)
     return services;
 }
 
-/// The answer of the older operation names the services one by one.
+/// The response of the older operation has one element for each service.
 std::map<std::string, std::string> readCapabilities(const XmlElement &response)
 {
     const XmlElement content = response.child(ns::device, "Capabilities");

@@ -37,7 +37,7 @@ struct DeviceClock
 {
     bool followsNtp = false;
     bool daylightSaving = false; ///< the zone's rule is applied
-    std::string timeZone = {};   ///< POSIX 1003.1 text, empty if the device does not say
+    std::string timeZone = {};   ///< POSIX 1003.1 string, empty if the device does not report it
     std::optional<DateTime> utc = {};
     std::optional<DateTime> local = {};
 };
@@ -74,16 +74,16 @@ struct NtpSettings
     std::string server = {}; ///< the first one: an address or a name
 };
 
-/// How to send a firmware file.
+/// The parameters of a firmware upload.
 struct FirmwareUpload
 {
     ServiceAddress address = {};
     std::chrono::seconds delay{0};    ///< to wait before sending
-    std::chrono::seconds downTime{0}; ///< how long the device is away afterwards, 0 if it does not say
+    std::chrono::seconds downTime{0}; ///< offline time afterwards, 0 if not reported
 };
 
-/// Operations of one device. Each blocks until the answer has arrived or `deadline` has passed. Used by one
-/// thread; the client may serve several.
+/// Operations of one device. Each blocks until the response has arrived or `deadline` has passed. Used by one
+/// thread; several objects may share the client.
 class DeviceService
 {
 public:
@@ -106,7 +106,7 @@ public:
     [[nodiscard]] ServiceResult<DeviceInformation> information();
     [[nodiscard]] ServiceResult<DeviceClock> clock();
     [[nodiscard]] ServiceOutcome setClock(const DeviceClock &clock);
-    /// URLs of the services by their namespace. A device without the newer operation is asked by the older.
+    /// URLs of the services by namespace. The older operation is used for a device without the newer one.
     [[nodiscard]] ServiceResult<std::map<std::string, std::string>> services();
     [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfaces();
     [[nodiscard]] ServiceResult<std::string> defaultGateway();
@@ -117,11 +117,11 @@ public:
     [[nodiscard]] ServiceOutcome setNtp(const NtpSettings &settings);
     [[nodiscard]] ServiceResult<std::string> hostName();
 
-    /// Returns whether the device must be rebooted before the addresses are in use.
+    /// Returns true if the device must be rebooted before the addresses are in use.
     [[nodiscard]] ServiceResult<bool> setAddress(const DeviceInterface &interface);
     [[nodiscard]] ServiceOutcome setDefaultGateway(const std::string &address);
     [[nodiscard]] ServiceOutcome reboot();
-    /// To the state of delivery, with the network settings.
+    /// Resets all settings to the factory defaults, including the network settings.
     [[nodiscard]] ServiceOutcome resetCompletely();
     [[nodiscard]] ServiceResult<FirmwareUpload> startFirmwareUpgrade();
 
@@ -134,7 +134,8 @@ private:
     const Deadline m_deadline;
 };
 
-/// A duration of XML Schema in whole seconds ("PT5S", "PT1M30S"); 0 for a text that is none, at most a day.
+/// A duration of XML Schema ("PT5S", "PT1M30S") in seconds, without fractions, at most a day; 0 for an
+/// invalid string.
 [[nodiscard]] std::chrono::seconds xmlDuration(std::string_view text);
 
 } // namespace sdk::onvif

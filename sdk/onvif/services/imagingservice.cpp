@@ -59,7 +59,7 @@ std::optional<WhiteBalanceSettings> readWhiteBalance(const XmlElement &element)
                                 .blueGain = element.child("CbGain").number()};
 }
 
-/// Later versions of the standard have added settings in extensions of extensions.
+/// Later versions of the standard added settings in nested extensions.
 XmlElement lateExtension(const XmlElement &element)
 {
     return element.at({"Extension", "Extension", "Extension"});

@@ -1,4 +1,4 @@
-// The imaging service (ONVIF Imaging): picture, exposure and the like of a video source.
+// The imaging service (ONVIF Imaging): image, exposure and similar settings of a video source.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"
@@ -9,7 +9,7 @@
 
 namespace sdk::onvif {
 
-/// The numbers that a setting may have.
+/// The range of a setting.
 struct ImagingRange
 {
     double minimum = 0;
@@ -43,8 +43,8 @@ struct WhiteBalanceSettings
     std::optional<double> blueGain = {};
 };
 
-/// What a source is set to. A setting that is not there is empty: when read, the source does not have it;
-/// when written, it stays as it is.
+/// The settings of a video source. An empty setting means, when read, that the source does not have it; when
+/// written, that it is not changed.
 struct ImagingSettings
 {
     std::optional<double> brightness = {};
@@ -61,7 +61,8 @@ struct ImagingSettings
     std::optional<double> noiseReduction = {}; ///< 0 to 1
 };
 
-/// What a source can be set to. An empty list of modes and an unusable range stand for what it does not have.
+/// The options of a video source. An empty list of modes or an unusable range means that the source does not
+/// have the setting.
 struct ImagingOptions
 {
     ImagingRange brightness;
@@ -89,7 +90,7 @@ struct ImagingOptions
     bool hasNoiseReduction = false;
 };
 
-/// Operations of the imaging service. Used by one thread; the client may serve several.
+/// Operations of the imaging service. Used by one thread; several objects may share the client.
 class ImagingService
 {
 public:
@@ -101,7 +102,7 @@ public:
     [[nodiscard]] ServiceResult<ImagingSettings> settings(const std::string &sourceToken);
     [[nodiscard]] ServiceResult<ImagingOptions> options(const std::string &sourceToken);
 
-    /// Writes the settings that are there; the device keeps the others, also after a restart.
+    /// Writes the non-empty settings, persistently; the device keeps the others.
     [[nodiscard]] ServiceOutcome setSettings(const std::string &sourceToken, const ImagingSettings &settings);
 
 private:

@@ -1,4 +1,4 @@
-// Encoders by the media services: their options, and how their settings are written.
+// Encoders of the media services: reading their options and writing their settings.
 #include "sdk/onvif/services/mediaservice.h"
 
 #include "sdk/onvif/soap/onvifnamespaces.h"
@@ -52,7 +52,7 @@ void takeSizes(VideoEncodingOptions &options, const XmlElement &element)
     }
 }
 
-/// The options of one encoding of the older service. `extension` is what later versions of it have added.
+/// The options of one encoding in the older service. `extension` contains the additions of later versions.
 VideoEncodingOptions firstOptions(std::string_view encoding, const XmlElement &element,
                                   const XmlElement &extension, const XmlElement &quality)
 {
@@ -196,7 +196,7 @@ void setVideo(pugi::xml_node settings, const VideoEncoder &encoder, MediaVersion
 SoapAnswer MediaService::readConfiguration(std::string_view kind, const std::string &token,
                                            XmlElement &configuration)
 {
-    // The older service has an operation for one configuration, the newer one a filter.
+    // The older service has an operation for a single configuration, the newer one a filter.
     const bool isSecond = m_version == MediaVersion::Second;
     const std::string name = "Get" + std::string(kind) + "Configuration" + (isSecond ? "s" : "");
     const SoapRequest readRequest = request(name);

@@ -27,7 +27,7 @@ double boundedDecimal(const XmlElement &element)
     return std::clamp(element.number().value_or(0), 0.0, static_cast<double>(largestNumber));
 }
 
-/// Names of encodings by the registry of RTP, which the newer service uses, and by the older one.
+/// The encoding of a name in the older service, or in the registry of RTP, which the newer service uses.
 std::string encodingOf(std::string_view text)
 {
     return text == "JPEG" || text == "H264" || text == "H265" || text == "MPEG4" ? std::string(text)
@@ -48,7 +48,7 @@ VideoEncoder readVideoEncoder(const XmlElement &element)
     encoder.frameRate = boundedDecimal(rate.child("FrameRateLimit"));
     encoder.bitRate = boundedNumber(rate.child("BitrateLimit"));
     encoder.constantBitRate = rate.attribute("ConstantBitRate") == "true";
-    // The older service keeps these two apart for each codec, the newer one in attributes.
+    // The older service has elements for each codec, the newer one has attributes.
     for (const std::string_view codec : {"H264", "MPEG4"}) {
         const XmlElement settings = element.child(codec);
         if (!settings.exists())
@@ -161,7 +161,7 @@ ServiceResult<std::string> MediaService::snapshotUrl(const std::string &profileT
         });
 }
 
-ServiceOutcome MediaService::requestKeyPicture(const std::string &profileToken)
+ServiceOutcome MediaService::requestKeyFrame(const std::string &profileToken)
 {
     const SoapRequest pointRequest = request("SetSynchronizationPoint");
     append(pointRequest.operation(),

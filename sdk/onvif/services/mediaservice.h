@@ -18,9 +18,9 @@ struct VideoEncoder
     std::string encoding = {}; ///< "JPEG", "H264", "H265", "MPEG4"
     int width = 0;
     int height = 0;
-    double frameRate = 0; ///< pictures a second, 0 if the device does not say
+    double frameRate = 0; ///< frames per second, 0 if the device does not report it
     int bitRate = 0;      ///< kbit/s
-    int keyInterval = 0;  ///< pictures from one key picture to the next
+    int keyInterval = 0;  ///< frames from one key frame to the next
     double quality = 0;
     std::string profile = {}; ///< "Baseline", "Main", "Extended", "High", ...
     bool constantBitRate = false;
@@ -36,26 +36,26 @@ struct AudioEncoder
     int sampleRate = 0; ///< kHz
 };
 
-/// A set of settings that a stream is made of.
+/// A media profile: the set of settings of a stream.
 struct MediaProfile
 {
     std::string token = {};
     std::string name = {};
     std::string sourceToken = {};         ///< of the video source, empty for a profile without video
     std::string sourceConfiguration = {}; ///< token of the source's settings
-    std::string sourceName = {};          ///< the name of these settings, which users give
+    std::string sourceName = {};          ///< name of these settings, editable by users
     std::optional<VideoEncoder> video = {};
     std::optional<AudioEncoder> audio = {};
 };
 
-/// Which of the two media services a device is asked by.
+/// The media service that is used for a device.
 enum class MediaVersion
 {
     First,
     Second, ///< has everything that the first has, and H.265
 };
 
-/// What a video encoder can do with one encoding. Numbers that the device does not give are 0.
+/// The options of a video encoder for one encoding. Numbers that the device does not report are 0.
 struct VideoEncodingOptions
 {
     std::string encoding = {};
@@ -71,7 +71,7 @@ struct VideoEncodingOptions
     bool offersConstantBitRate = false;
 };
 
-/// What an audio encoder can do with one encoding.
+/// The options of an audio encoder for one encoding.
 struct AudioEncodingOptions
 {
     std::string encoding = {};
@@ -79,7 +79,7 @@ struct AudioEncodingOptions
     std::vector<int> sampleRates = {}; ///< kHz
 };
 
-/// Operations of a media service. Used by one thread; the client may serve several.
+/// Operations of a media service. Used by one thread; several objects may share the client.
 class MediaService
 {
 public:
@@ -88,16 +88,16 @@ public:
     /// `client` and `address` must outlive the object.
     MediaService(SoapClient &client, const ServiceAddress &address, MediaVersion version, Deadline deadline);
 
-    /// At most `maximumProfiles`.
+    /// Reads the profiles; those after the first `maximumProfiles` are ignored.
     static constexpr std::size_t maximumProfiles = 2048;
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles();
 
-    /// The URL of a stream over RTSP with RTP inside its connection or beside it, as the client chooses.
+    /// The RTSP URL of a stream. The client chooses the transport of RTP: interleaved or UDP.
     [[nodiscard]] ServiceResult<std::string> streamUrl(const std::string &profileToken);
     [[nodiscard]] ServiceResult<std::string> snapshotUrl(const std::string &profileToken);
 
-    /// The stream goes on with a picture that needs no earlier one.
-    [[nodiscard]] ServiceOutcome requestKeyPicture(const std::string &profileToken);
+    /// Requests that the stream continues with a key frame.
+    [[nodiscard]] ServiceOutcome requestKeyFrame(const std::string &profileToken);
 
     // Encoders. `profileToken` is the profile that the encoder belongs to.
 
@@ -106,8 +106,8 @@ public:
     [[nodiscard]] ServiceResult<std::vector<AudioEncodingOptions>>
     audioOptions(const std::string &encoderToken, const std::string &profileToken);
 
-    /// Reads the encoder's settings, changes those that differ from `encoder`, and writes them back; what the
-    /// device has beside them stays.
+    /// Reads the encoder's settings, changes those that differ from `encoder`, and writes them back; the
+    /// device's other settings are kept.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);
 
@@ -132,7 +132,7 @@ private:
     const Deadline m_deadline;
 };
 
-/// Reads the settings of an encoder, as both services write them.
+/// Reads the settings of an encoder from an element of either service.
 [[nodiscard]] VideoEncoder readVideoEncoder(const XmlElement &element);
 [[nodiscard]] AudioEncoder readAudioEncoder(const XmlElement &element);
 

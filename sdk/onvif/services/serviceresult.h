@@ -9,7 +9,7 @@
 
 namespace sdk::onvif {
 
-/// What an operation has returned, or why it failed.
+/// The returned value of an operation, or its error.
 template<typename Value>
 struct ServiceResult
 {
@@ -26,8 +26,8 @@ struct Nothing
 };
 using ServiceOutcome = ServiceResult<Nothing>;
 
-/// Takes the error of an answer, or the value that `read` makes of its content. An answer of another
-/// operation counts as a mismatch of the protocol.
+/// The error of a response, or the value that `read` returns for its content. A response of another operation
+/// is a protocol mismatch.
 template<typename Read>
 [[nodiscard]] auto resultOf(const SoapAnswer &answer, std::string_view uri, std::string_view expected,
                             Read read) -> ServiceResult<decltype(read(answer.content))>

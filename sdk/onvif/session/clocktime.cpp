@@ -59,7 +59,7 @@ DateTime utcOfShown(const DateTime &shown, const DeviceClock &clock)
 {
     const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.timeZone);
     if (!zone) {
-        // Without a zone, the difference of the device's own two times says it.
+        // Without a zone, the offset is the difference between the device's local time and its UTC time.
         const qint64 ahead = clock.local && clock.utc ? toQt(*clock.utc).secsTo(toQt(*clock.local)) : 0;
         return fromQt(toQt(shown).addSecs(-ahead));
     }

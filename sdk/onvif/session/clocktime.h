@@ -9,10 +9,10 @@
 
 namespace sdk::onvif {
 
-/// `utc` of a device minus the clock of this computer.
+/// `utc` of a device minus the clock of this host.
 [[nodiscard]] std::chrono::milliseconds clockOffset(const DateTime &utc);
 
-/// The date and time that the device shows: the local one, by its own word or by its zone.
+/// The local date and time of the device: the reported one, otherwise computed from its zone.
 [[nodiscard]] std::optional<DateTime> shownTime(const DeviceClock &clock);
 
 /// The UTC time at which a device of this zone shows `shown`.

@@ -19,7 +19,7 @@ bool isOffline(NetError error)
            error == NetError::ChangedCertificate;
 }
 
-/// `error` if no session is possible with it; None for one of a device that lacks an operation.
+/// `error` if it prevents a session; None if it means that the device lacks an operation.
 NetError lasting(NetError error)
 {
     const bool isRefusedLogin = error == NetError::WrongPassword || error == NetError::AccountLocked ||
@@ -55,7 +55,7 @@ std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles)
     std::vector<MediaChannel> channels;
     for (const std::string &source : order) {
         std::vector<const MediaProfile *> &ofSource = bySource[source];
-        // Profiles of one encoder are one stream: the first of them stands for it.
+        // Profiles with the same encoder are the same stream: the first of them represents it.
         std::stable_sort(ofSource.begin(), ofSource.end(),
                          [](const MediaProfile *left, const MediaProfile *right) {
                              return pictureArea(*left) > pictureArea(*right);
@@ -119,7 +119,7 @@ NetError OnvifSession::logIn(Deadline deadline)
     return m_client->isConfirmed() ? NetError::None : confirmPassword(deadline);
 }
 
-/// For a device that gives its information to anybody.
+/// For a device that returns its information without a login.
 NetError OnvifSession::confirmPassword(Deadline deadline)
 {
     DeviceService service = device(deadline);
@@ -128,10 +128,10 @@ NetError OnvifSession::confirmPassword(Deadline deadline)
         return users.error;
     if (users.isOk() && !hasAdministrator(users.value))
         return NetError::NotSupported;
-    return lasting(service.interfaces().error); // every kind of account may read them
+    return lasting(service.interfaces().error); // every account level may read them
 }
 
-/// For a device that has answered everything so far without a login.
+/// For a device that has responded to all requests so far without a login.
 NetError OnvifSession::confirmByUsers(Deadline deadline)
 {
     if (m_client->isConfirmed())
@@ -162,11 +162,11 @@ NetError OnvifSession::learnChannels(Deadline deadline)
     const bool isThere = found.error == NetError::None || found.error == NetError::ConnectTimeout ||
                          found.error == NetError::WrongPassword;
     if (!isThere && m_media2 && m_media) {
-        m_media2.reset(); // named, and not there: the older service is
+        m_media2.reset(); // announced, but missing: the older service is used
         found = profiles(deadline);
     }
     m_channels = channelsOf(found.value);
-    // A port that the device names may be out of reach; the rest of it is not.
+    // The announced port of a service may be unreachable while the device is reachable.
     return found.error == NetError::ConnectFailed ? NetError::None : lasting(found.error);
 }
 
@@ -192,7 +192,7 @@ ServiceResult<std::vector<MediaProfile>> OnvifSession::profiles(Deadline deadlin
     }
     ServiceResult<std::vector<MediaProfile>> read = service->profiles();
     const std::scoped_lock lock(m_profilesMutex);
-    if (read.isOk() && changes == m_profileChanges) { // else a change may be missing in them
+    if (read.isOk() && changes == m_profileChanges) { // otherwise they may lack a change
         m_profiles = read.value;
         m_profilesTime = time;
     }
@@ -209,7 +209,7 @@ ServiceResult<std::vector<MediaProfile>> OnvifSession::recentProfiles(Deadline d
     return profiles(deadline);
 }
 
-void OnvifSession::forgetProfiles()
+void OnvifSession::clearProfiles()
 {
     const std::scoped_lock lock(m_profilesMutex);
     m_profiles.clear();

@@ -1,4 +1,4 @@
-// A session with a device: the login, and what was learnt of the device at its begin.
+// A session with a device: the login, and the properties of the device that were read at its start.
 #pragma once
 
 #include "sdk/loginblocks.h"
@@ -24,14 +24,14 @@ struct MediaChannel
     std::string subProfile = {};  ///< token; empty if the source has one profile only
 };
 
-/// Thread-safe. Operations on one device need no order: each is a request of its own.
+/// Thread-safe. Operations on one device are independent requests and need no order.
 class OnvifSession
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// Logs in. On failure `error` is set and the result is null. A device that has no administrator yet, or
-    /// that answers everything without a login, takes no login: NotSupported.
+    /// Logs in. On failure `error` is set and the result is null. NotSupported for a device without an
+    /// administrator, and for a device that responds to every request without a login.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,
@@ -54,26 +54,26 @@ public:
     static constexpr std::size_t maximumChannels = 1024;
     [[nodiscard]] const std::vector<MediaChannel> &channels() const { return m_channels; }
 
-    /// The profiles as the device has them now.
+    /// The present profiles of the device.
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles(Deadline deadline);
 
-    /// The profiles as they were at most `recently` ago: the items of a page, and the names of all channels,
-    /// are read one after another, each from all profiles.
+    /// The profiles, which may be up to `recently` old. The cache serves the items of a page and the names of
+    /// all channels, which are read one after another, each from all profiles.
     static constexpr std::chrono::seconds recently{2};
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> recentProfiles(Deadline deadline);
 
-    /// A setting of a profile has been written.
-    void forgetProfiles();
+    /// Invalidates the cache of recentProfiles(), after a setting of a profile was written.
+    void clearProfiles();
 
-    /// The device reboots. Its sessions end then in every provider, although this kind of device takes the
-    /// login with each request and would go on doing so.
+    /// Marks the session as ended, because the device reboots. The sessions end in every provider, although a
+    /// device of this type gets the login with each request and would continue to accept it.
     void end() { m_hasEnded = true; }
     [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
 
     /// The calls that run on the session.
     [[nodiscard]] RunningCalls &calls() { return m_calls; }
 
-    /// Ends every call, and later ones as well.
+    /// Ends every call; later calls fail.
     void cancel();
 
 private:
@@ -94,13 +94,13 @@ private:
     std::optional<ServiceAddress> m_deviceIo;
     std::vector<MediaChannel> m_channels;
 
-    std::mutex m_profilesMutex;           ///< of what follows; not held over a request
-    std::vector<MediaProfile> m_profiles; ///< empty if none were read
+    std::mutex m_profilesMutex;           ///< guards the members below; not held during a request
+    std::vector<MediaProfile> m_profiles; ///< empty if none have been read
     std::chrono::steady_clock::time_point m_profilesTime;
-    int m_profileChanges = 0; ///< calls of forgetProfiles()
+    int m_profileChanges = 0; ///< number of calls of clearProfiles()
 };
 
-/// The video sources of `profiles`: of each, the profile of the largest picture and the next one.
+/// The video sources of `profiles`, each with the profiles of its two largest frame sizes.
 [[nodiscard]] std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles);
 
 } // namespace sdk::onvif

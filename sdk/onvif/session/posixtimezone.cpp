@@ -14,9 +14,9 @@ namespace {
 
 constexpr int minutesOfHour = 60;
 constexpr int usualSwitchHour = 2;
-constexpr int lastWeekNumber = 5; ///< in POSIX texts
+constexpr int lastWeekNumber = 5; ///< in POSIX strings
 
-/// Reads a text piece by piece. After a failure everything else fails.
+/// Reads a string part by part. After a failure all further reads fail.
 class Reader
 {
 public:
@@ -135,7 +135,7 @@ std::string nameText(const std::string &name)
     return name;
 }
 
-/// A point by its date has no text in weeks: it becomes the week of the month that its day lies in.
+/// A rule by date has no POSIX form in weeks: it is converted to the week of the month that contains the day.
 std::string pointText(const DaylightSavingPoint &point)
 {
     constexpr int daysOfWeek = 7;
@@ -151,7 +151,7 @@ std::string pointText(const DaylightSavingPoint &point)
            timeText(point.hour * minutesOfHour + point.minute);
 }
 
-/// Minutes from the begin of the year to the point.
+/// Minutes from the start of the year to the point.
 qint64 minutesInYear(int year, const DaylightSavingPoint &point)
 {
     const QDate first(year, point.month, 1);
@@ -194,7 +194,7 @@ int PosixTimeZone::offsetAt(const DateTime &standardTime) const
                        qint64(standardTime.hour) * minutesOfHour + standardTime.minute;
     const qint64 from = minutesInYear(standardTime.year, begin);
     const qint64 to = minutesInYear(standardTime.year, end) - (daylightOffset - offset);
-    // In the south daylight saving lasts over the turn of the year.
+    // In the southern hemisphere, daylight saving extends over the turn of the year.
     const bool isSaving = from < to ? now >= from && now < to : now >= from || now < to;
     return isSaving ? daylightOffset : offset;
 }

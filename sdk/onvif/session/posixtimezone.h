@@ -1,4 +1,4 @@
-// Time zones as POSIX texts: "CST-8", "CET-1CEST,M3.5.0/2,M10.5.0/3".
+// Time zones as POSIX strings: "CST-8", "CET-1CEST,M3.5.0/2,M10.5.0/3".
 #pragma once
 
 #include "sdk/onvif/services/deviceservice.h"
@@ -22,15 +22,15 @@ struct PosixTimeZone
 
     [[nodiscard]] bool hasDaylightSaving() const { return !daylightName.empty(); }
 
-    /// The text, whose quoted names hold any letters: "<+08>-8".
+    /// The POSIX string. Names with characters other than letters are quoted: "<+08>-8".
     [[nodiscard]] std::string text() const;
 
     /// Minutes ahead of UTC at a local standard time.
     [[nodiscard]] int offsetAt(const DateTime &standardTime) const;
 };
 
-/// Nothing for a text that is no zone. A rule in days of the year ("J60", "59") counts as none: the tool's
-/// rules are in weeks or in days of a month.
+/// Nothing for an invalid string. A rule in days of the year ("J60", "59") is not supported: the
+/// application's rules are in weeks or in days of a month.
 [[nodiscard]] std::optional<PosixTimeZone> readPosixTimeZone(std::string_view text);
 
 } // namespace sdk::onvif

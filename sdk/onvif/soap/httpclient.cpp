@@ -18,7 +18,7 @@ namespace sdk::onvif {
 namespace {
 
 constexpr std::chrono::milliseconds connectLimit{3000};
-constexpr long watchInterval = 20; // milliseconds between two looks at the cancellation
+constexpr long watchInterval = 20; // milliseconds between two checks of the cancellation
 constexpr std::size_t idleConnections = 8;
 constexpr std::size_t longestHeaders = std::size_t(64) * 1024;
 
@@ -42,7 +42,7 @@ struct FileDeleter
     void operator()(std::FILE *file) const { std::fclose(file); }
 };
 
-/// `systemError` is that of the failed connection.
+/// `systemError` is the error number of the failed connection.
 HttpEnd endOf(CURLcode code, bool isConnected, long systemError)
 {
     switch (code) {
@@ -82,7 +82,7 @@ long millisecondsUntil(std::chrono::steady_clock::time_point deadline)
 
 } // namespace
 
-/// A handle of libcurl with the connections that it keeps.
+/// A handle of libcurl with its open connections.
 struct HttpClient::Connection
 {
     std::unique_ptr<CURLM, MultiHandleDeleter> multi{curl_multi_init()};
@@ -95,7 +95,7 @@ struct HttpClient::Connection
     template<typename Value>
     void set(CURLoption option, Value value)
     {
-        // Fails only for want of memory; the exchange fails then, too.
+        // Fails only when memory is exhausted; the exchange then fails as well.
         curl_easy_setopt(easy.get(), option, value);
     }
 
@@ -129,7 +129,7 @@ struct HttpClient::Connection
     }
 };
 
-/// What arrives during one exchange.
+/// The data that are received in one exchange.
 struct HttpClient::Exchange
 {
     HttpAnswer answer;
@@ -171,7 +171,7 @@ struct HttpClient::Exchange
 
 HttpClient::HttpClient(std::shared_ptr<const CertificateDecision> decision) : m_decision(std::move(decision))
 {
-    // Once for the process, and safe to repeat; it must have happened before handles are made by threads.
+    // Initialises libcurl once per process, before any thread creates a handle.
     static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
     (void)initialised;
 }
@@ -248,7 +248,7 @@ HttpAnswer HttpClient::postFile(const ServiceAddress &address, const std::string
     connection->set(CURLOPT_POST, 1L);
     connection->set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(size));
     connection->set(CURLOPT_READDATA, static_cast<void *>(connection->file.get()));
-    // Sends the file again from its beginning when the device asks for a login only at its end.
+    // Sends the file again from its start when the device requests a login only at its end.
     connection->set(CURLOPT_SEEKDATA, static_cast<void *>(connection->file.get()));
     connection->set(
         CURLOPT_SEEKFUNCTION,
@@ -289,8 +289,8 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
     connection.set(CURLOPT_WRITEFUNCTION, &Exchange::takeBody);
     connection.set(CURLOPT_WRITEDATA, static_cast<void *>(&exchange));
     if (login) {
-        // "Only" makes the library send the whole request first, and answer a challenge by nothing but
-        // Digest.
+        // CURLAUTH_ONLY makes libcurl send the complete request first, and respond to a challenge with Digest
+        // only.
         connection.set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_ONLY | CURLAUTH_DIGEST));
         connection.set(CURLOPT_USERNAME, login->account.c_str());
         connection.set(CURLOPT_PASSWORD, login->password.c_str());

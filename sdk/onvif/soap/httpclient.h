@@ -1,4 +1,4 @@
-// Requests to a device over HTTP, with connections that are kept.
+// Requests to a device over HTTP, with persistent connections.
 #pragma once
 
 #include "sdk/certificates/certificatedecision.h"
@@ -20,14 +20,15 @@ namespace sdk::onvif {
 enum class HttpEnd
 {
     Answered,    ///< with any status
-    NotReached,  ///< nothing answers at the address within the time
-    NotAccepted, ///< the computer at the address refuses the connection
-    NoAnswer,    ///< connected, and no whole answer within the time
-    TooLarge,    ///< the answer exceeds HttpClient::largestAnswer
-    Broken,      ///< the connection ended early, or what came is no HTTP
+    NotReached,  ///< no host responds at the address before the deadline
+    NotAccepted, ///< the host at the address refuses the connection
+    NoAnswer,    ///< connected, but no complete response before the deadline
+    TooLarge,    ///< the response exceeds HttpClient::largestAnswer
+    Broken,      ///< the connection ended early, or the response is not HTTP
     Cancelled,
-    UnknownCertificate, ///< over HTTPS: nobody has agreed to the key of the certificate; nothing was sent
-    ChangedCertificate, ///< the same for a device of which another key is stored
+    UnknownCertificate, ///< over HTTPS: the user has not accepted the key of the certificate; nothing was
+                        ///< sent
+    ChangedCertificate, ///< the same for a device with another stored key
 };
 
 struct HttpAnswer
@@ -35,7 +36,7 @@ struct HttpAnswer
     HttpEnd end = HttpEnd::NotReached;
     long status = 0;
     std::string body = {};
-    bool offersDigest = false; ///< it is a challenge to log in by HTTP Digest
+    bool offersDigest = false; ///< a challenge for HTTP Digest
 };
 
 struct HttpLogin
@@ -44,39 +45,38 @@ struct HttpLogin
     std::string password = {};
 };
 
-/// Sends requests to one device. Several threads may use it; each request has a connection of its own, which
-/// is kept for the next one. Redirects are not followed: they could lead a password to another address.
+/// Sends requests to one device. Thread-safe: each running request has a separate connection, which is kept
+/// for later requests. Redirections are not followed: they could send a password to another address.
 class HttpClient
 {
 public:
     static constexpr std::size_t largestAnswer = std::size_t(4) * 1024 * 1024;
 
-    /// `decision` is asked for the certificates of HTTPS; without one all are refused.
+    /// `decision` decides about the certificates of HTTPS; without it all are refused.
     explicit HttpClient(std::shared_ptr<const CertificateDecision> decision = {});
     ~HttpClient();
     HttpClient(const HttpClient &) = delete;
     HttpClient &operator=(const HttpClient &) = delete;
 
-    /// Blocks until the answer has arrived, `deadline` has passed, cancel() is called or the thread's
-    /// RunningCall is stopped. With `login` the
-    /// request is answered by HTTP Digest (RFC 7616) when the device asks for that, once; never by Basic,
-    /// which would send the password.
+    /// Blocks until the response has arrived, `deadline` has passed, cancel() is called or the thread's
+    /// RunningCall is stopped. With `login`, a challenge of the device is answered once by HTTP Digest (RFC
+    /// 7616), and never by Basic, which would send the password.
     [[nodiscard]] HttpAnswer post(const ServiceAddress &address, const std::string &body,
                                   const std::string &contentType, const HttpLogin *login,
                                   std::chrono::steady_clock::time_point deadline);
 
-    /// Fetches what `address` leads to, under the same rules.
+    /// Fetches the resource at `address`, under the same rules.
     [[nodiscard]] HttpAnswer get(const ServiceAddress &address, const HttpLogin *login,
                                  std::chrono::steady_clock::time_point deadline);
 
-    /// Sends a file of this computer as the body of a POST request. `progress` is called with the bytes that
-    /// were sent, on this thread. The answer must come by `deadline`.
+    /// Sends a local file as the body of a POST request. `progress` is called on this thread with the number
+    /// of sent bytes. The response must arrive before `deadline`.
     [[nodiscard]] HttpAnswer postFile(const ServiceAddress &address, const std::string &fileName,
                                       const HttpLogin *login,
                                       const std::function<void(std::int64_t sent)> &progress,
                                       std::chrono::steady_clock::time_point deadline);
 
-    /// Ends the requests that run, and every one that is made later.
+    /// Ends the running requests; later requests fail.
     void cancel();
     [[nodiscard]] bool isCancelled() const { return m_isCancelled; }
 
@@ -93,7 +93,7 @@ private:
 
     const std::shared_ptr<const CertificateDecision> m_decision;
     std::atomic_bool m_isCancelled = false;
-    std::mutex m_mutex; ///< of the idle connections
+    std::mutex m_mutex; ///< guards the idle connections
     std::vector<std::unique_ptr<Connection>> m_idle;
 };
 

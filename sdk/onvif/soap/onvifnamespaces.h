@@ -6,7 +6,7 @@
 namespace sdk::onvif::ns {
 
 inline constexpr std::string_view envelope = "http://www.w3.org/2003/05/soap-envelope";
-/// Envelopes of the older version of SOAP: some devices answer a request of the newer one with it.
+/// The envelope of SOAP 1.1: some devices use it in the response to a request of SOAP 1.2.
 inline constexpr std::string_view olderEnvelope = "http://schemas.xmlsoap.org/soap/envelope/";
 inline constexpr std::string_view addressing = "http://schemas.xmlsoap.org/ws/2004/08/addressing";
 inline constexpr std::string_view discovery = "http://schemas.xmlsoap.org/ws/2005/04/discovery";

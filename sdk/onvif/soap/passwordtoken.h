@@ -7,8 +7,8 @@
 
 namespace sdk::onvif {
 
-/// The security header (an XML text) for one request: the password as a digest with a random number and the
-/// device's own time `deviceTime`, since a device refuses a token whose time is minutes off its clock.
+/// The security header (an XML text) of one request: the password as a digest with a nonce and `deviceTime`,
+/// the time of the device's clock. A device refuses a token whose time differs from its clock by minutes.
 [[nodiscard]] std::string passwordToken(std::string_view account, std::string_view password,
                                         std::chrono::system_clock::time_point deviceTime);
 

@@ -35,7 +35,7 @@ void RunningCalls::cancel()
 {
     std::unique_lock lock(m_mutex);
     std::stop_source stop = std::exchange(m_stop, std::stop_source());
-    lock.unlock(); // what is stopped runs on this thread
+    lock.unlock(); // the stop callbacks run on this thread
     stop.request_stop();
 }
 

@@ -6,8 +6,8 @@
 
 namespace sdk::onvif {
 
-/// One call, on its caller's thread, from its begin to its end. What waits for the device on that thread also
-/// ends when stopOfThisThread() is stopped.
+/// One call on its caller's thread; it lasts as long as the object. Waits for the device on that thread end
+/// when stopOfThisThread() is stopped.
 class RunningCall
 {
 public:
@@ -16,7 +16,7 @@ public:
     RunningCall(const RunningCall &) = delete;
     RunningCall &operator=(const RunningCall &) = delete;
 
-    /// Of the call that the calling thread is in. Outside of calls a token that is never stopped.
+    /// The stop token of the calling thread's call. Outside of a call, a token that is never stopped.
     [[nodiscard]] static std::stop_token stopOfThisThread();
 };
 
@@ -24,15 +24,15 @@ public:
 class RunningCalls
 {
 public:
-    /// For a call that begins now.
+    /// The stop token for a call that starts now.
     [[nodiscard]] std::stop_token stop() const;
 
-    /// Stops the calls that run now.
+    /// Stops the running calls; later calls are not affected.
     void cancel();
 
 private:
     mutable std::mutex m_mutex;
-    std::stop_source m_stop; ///< of the calls since the last cancellation
+    std::stop_source m_stop; ///< for the calls since the last cancellation
 };
 
 } // namespace sdk::onvif

@@ -1,4 +1,4 @@
-// Where a service of a device is reached.
+// The address of a service of a device.
 #pragma once
 
 #include <optional>
@@ -14,32 +14,32 @@ struct ServiceAddress
     std::string host = {}; ///< an address without brackets
     int port = 80;
     std::string path = "/onvif/device_service"; ///< with its query
-    std::string identity = {};                  ///< the device's MAC, else its UUID; empty if unknown
+    std::string identity = {};                  ///< the device's MAC, otherwise its UUID; empty if unknown
 
     [[nodiscard]] std::string url() const;
     [[nodiscard]] bool operator==(const ServiceAddress &) const = default;
 };
 
-/// The port of HTTP or HTTPS when a URL names none.
+/// The port of HTTP or HTTPS for a URL without a port.
 inline constexpr int httpPort = 80;
 inline constexpr int httpsPort = 443;
 
-/// Whether a port that nothing else is known of is asked over HTTPS.
+/// True if HTTPS is used at a port whose protocol is unknown.
 [[nodiscard]] constexpr bool isHttpsPort(int port)
 {
     constexpr int otherHttpsPort = 8443;
     return port == httpsPort || port == otherHttpsPort;
 }
 
-/// Reads an absolute http or https URL. Nothing for any other scheme, for a URL with an account in it, with
-/// control characters or blanks, without a host or with a port that is none.
+/// Reads an absolute http or https URL. Nothing for any other scheme, and for a URL with an account, with
+/// control characters or spaces, without a host or with an invalid port.
 [[nodiscard]] std::optional<ServiceAddress> serviceAddressOf(std::string_view url);
 
-/// Where the service at `url` is asked by a client that reached the device at `reached`. A device names its
-/// services by its own view of the network; its message may also be forged. So the host is always the one
-/// that was reached. The port is the named one when the URL has the reached host, else the reached one: the
-/// way may lead through a port of a router. A service of a device that was reached over HTTPS is never asked
-/// over HTTP: what encryption protected would be readable. The identity stays that of `reached`.
+/// The address of the service at `url` for a client that reached the device at `reached`. The host is always
+/// the host of `reached`, since the URL contains the address as the device knows it, and the message may be
+/// forged. The port is the port of `url` if its host is the reached host, otherwise the port of `reached`,
+/// since the connection may go through a forwarded port of a router. If `reached` is HTTPS, a service over
+/// HTTP is not used, since it would expose the encrypted data. The identity is that of `reached`.
 [[nodiscard]] std::optional<ServiceAddress> serviceAt(const ServiceAddress &reached, std::string_view url);
 
 /// "[...]" around an IPv6 address.

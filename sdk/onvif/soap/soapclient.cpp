@@ -17,7 +17,7 @@ constexpr long forbidden = 403;
 constexpr long notFound = 404;
 constexpr std::size_t longestReason = 300;
 
-/// A device gives its clock in whole seconds.
+/// A device reports its clock in seconds.
 constexpr std::chrono::milliseconds largestClockError{2000};
 
 struct SubcodeMeaning
@@ -49,8 +49,7 @@ NetError errorOfSubcode(std::string_view subcode)
     return meaning == meanings.end() ? NetError::None : meaning->error;
 }
 
-/// The error of a fault of either version of SOAP. Each code may have a subcode, several levels deep; the
-/// outermost that has a meaning decides.
+/// The error of a fault of either version of SOAP. Subcodes may be nested; the outermost known one decides.
 NetError errorOfFault(const XmlElement &fault)
 {
     XmlElement code = fault.child(ns::envelope, "Code");
@@ -68,7 +67,7 @@ NetError errorOfFault(const XmlElement &fault)
     return NetError::Refused;
 }
 
-/// Whether a fault has the subcode of a missing right, which most devices also send for a wrong password.
+/// True if a fault has the subcode of a missing right, which most devices also send for a wrong password.
 bool isNotAuthorized(const XmlElement &fault)
 {
     constexpr std::string_view subcode = "NotAuthorized";
@@ -112,7 +111,7 @@ NetError errorOfEnd(HttpEnd end)
     case HttpEnd::Answered:
         return NetError::None;
     case HttpEnd::NotReached:
-    case HttpEnd::NoAnswer: // over a connection that was kept, or through a router
+    case HttpEnd::NoAnswer: // over a persistent connection, or through a router
         return NetError::ConnectTimeout;
     case HttpEnd::NotAccepted:
         return NetError::ConnectFailed;
@@ -162,7 +161,7 @@ SoapAnswer readSoapAnswer(const HttpAnswer &answer)
         const XmlElement body = root.is(uri, "Envelope") ? root.child(uri, "Body") : XmlElement();
         if (!body.exists())
             continue;
-        // A fault counts whatever the status is: devices send it with 200, 400, 401, 403 and 500.
+        // A fault is evaluated regardless of the status: devices send it with 200, 400, 401, 403 and 500.
         if (const XmlElement fault = body.child(uri, "Fault"); fault.exists()) {
             read.error = answer.status == forbidden ? NetError::Refused : errorOfFault(fault);
             if (answer.status == unauthorised)
@@ -224,7 +223,7 @@ void SoapClient::confirm(const ServiceAddress &service, const SoapRequest &reque
 {
     if (m_isConfirmed)
         return;
-    // Only reading is repeated.
+    // Only read operations are repeated.
     if (request.name().starts_with("Get") && !request.operation().first_child()) {
         const std::scoped_lock lock(m_mutex);
         m_proof = {.service = service, .operation = request.operation().name()};
@@ -290,7 +289,7 @@ SoapAnswer SoapClient::judgeRefusal(SoapAnswer answer, SentLogin sent, const Ser
 
 bool SoapClient::hasClockMoved(const SentLogin &sent, Deadline deadline)
 {
-    // Before the password was accepted, the login has just read the clock.
+    // Until the password is accepted, the clock is new: the login has just read it.
     if (!m_isConfirmed || m_method != LoginMethod::Token || !m_readClock)
         return false;
     const std::optional<std::chrono::milliseconds> offset = m_readClock(deadline);
@@ -300,7 +299,7 @@ bool SoapClient::hasClockMoved(const SentLogin &sent, Deadline deadline)
     return std::chrono::abs(*offset - std::chrono::milliseconds(sent.clockOffset)) > largestClockError;
 }
 
-/// None if the device still accepts the password, WrongPassword or AccountLocked if it does not.
+/// Returns None if the device still accepts the password, otherwise WrongPassword or AccountLocked.
 NetError SoapClient::provePassword(Deadline deadline)
 {
     std::optional<Proof> proof;

@@ -18,19 +18,19 @@
 
 namespace sdk::onvif {
 
-/// How a device takes a login.
+/// The login method of a device.
 enum class LoginMethod
 {
-    Unknown, ///< no request that needs a login was made yet
+    Unknown, ///< no request with a login has been made
     Token,   ///< user-name token of WS-Security in the SOAP header
     Digest,  ///< HTTP Digest
 };
 
-/// The answer to a call.
+/// The response to a call.
 struct SoapAnswer
 {
     NetError error = NetError::None;
-    bool mayLackRight = false; ///< a fault that stands for a wrong password and for a missing right alike
+    bool mayLackRight = false; ///< the fault may mean a wrong password or a missing right
     std::string reason = {};   ///< the text of a fault, for a log
     std::unique_ptr<XmlDocument> document = {};
     XmlElement content = {}; ///< the first element of the body; empty on failure
@@ -40,22 +40,22 @@ struct SoapAnswer
 
 /// Calls operations of one device with one account. Several threads may use it.
 ///
-/// The first request that needs a login is sent without one: the refusal says which method the device takes.
+/// The first request that needs a login is sent without one: the refusal contains the device's login method.
 /// So a wrong password is sent once, not once for each method. Until the device has accepted the password,
 /// one call at a time sends it. After the device has refused the password, no further call sends it: each
-/// fails with WrongPassword, with SessionEnded if the password was right before, or with AccountLocked.
+/// fails with WrongPassword, with SessionEnded if the password was accepted before, or with AccountLocked.
 ///
-/// A refusal counts for the password that was sent: when it has been changed meanwhile, the call is repeated.
-/// When the password was right before, two other reasons are ruled out first. The clock of the device may
-/// have been set, which makes tokens invalid: it is read again. The account may lack the right for the
-/// operation: then the device still accepts the operation that has proved the password, and the call fails
-/// with Refused.
+/// A refusal applies to the password that was sent: if it has been changed meanwhile, the call is repeated.
+/// If the password was accepted before, two other causes are excluded first. The clock of the device may have
+/// been set, which invalidates tokens: the clock is read again. The account may lack the right for the
+/// operation: the device then still accepts the operation that first succeeded with the password, and the
+/// call fails with Refused.
 class SoapClient
 {
 public:
     using Deadline = std::chrono::steady_clock::time_point;
 
-    /// Reads the device's clock without a login: its time minus this computer's.
+    /// Reads the device's clock without a login. Returns its time minus the time of this host.
     using ClockReader = std::function<std::optional<std::chrono::milliseconds>(Deadline deadline)>;
 
     SoapClient(HttpLogin login, std::shared_ptr<HttpClient> http);
@@ -71,35 +71,36 @@ public:
     [[nodiscard]] SoapAnswer callOpenly(const ServiceAddress &service, const SoapRequest &request,
                                         Deadline deadline);
 
-    /// The device's clock minus this computer's, for the token.
+    /// Sets the time of the device minus the time of this host, for the token.
     void setClockOffset(std::chrono::milliseconds offset) { m_clockOffset = offset.count(); }
 
-    /// Refusals are judged after the lock's end: for a call that changes the password, up to setPassword().
+    /// While the lock is held, refusals are not evaluated. Used by a call that changes the password, until it
+    /// has called setPassword().
     [[nodiscard]] std::unique_lock<std::recursive_mutex> delayRefusals() { return std::unique_lock(m_order); }
 
-    /// The login of later calls: the password was changed with this session.
+    /// Sets the password of later calls, after it was changed in this session.
     void setPassword(const std::string &password);
 
-    /// Whether the device has accepted the password in a call.
+    /// True if the device has accepted the password in a call.
     [[nodiscard]] bool isConfirmed() const { return m_isConfirmed; }
 
     /// The error of every further call, after the device has refused the password.
     [[nodiscard]] std::optional<NetError> refusal() const;
 
-    /// The device has refused `refused` by another way, such as a stream.
+    /// Notes that the device has refused `refused` in another protocol, such as RTSP.
     void setRefused(const HttpLogin &refused);
     [[nodiscard]] HttpLogin login() const;
     [[nodiscard]] HttpClient &http() { return *m_http; }
 
 private:
-    /// What a request was sent with.
+    /// The login data of a sent request.
     struct SentLogin
     {
         HttpLogin login = {};
         std::int64_t clockOffset = 0; ///< milliseconds
     };
 
-    /// An operation without parameters that the device has accepted first, and only with the login.
+    /// The first operation without parameters that the device accepted only with the login.
     struct Proof
     {
         ServiceAddress service = {};
@@ -120,8 +121,8 @@ private:
 
     const std::shared_ptr<HttpClient> m_http;
     ClockReader m_readClock;
-    std::recursive_mutex m_order; ///< held while it is open whether the password is right; before m_mutex
-    mutable std::mutex m_mutex;   ///< of the next three
+    std::recursive_mutex m_order; ///< held while the password is unconfirmed; before m_mutex
+    mutable std::mutex m_mutex;   ///< guards the next three members
     HttpLogin m_login;
     std::optional<NetError> m_refusal;
     std::optional<Proof> m_proof;
@@ -130,8 +131,8 @@ private:
     std::atomic_bool m_isConfirmed = false;
 };
 
-/// Reads the answer of an HTTP exchange: the content of the body, or the error that a fault or the status
-/// stands for. `reason` is set from the fault's text.
+/// Reads the response of an HTTP exchange: the content of the body, or the error of a fault or of the status.
+/// `reason` is the text of the fault.
 [[nodiscard]] SoapAnswer readSoapAnswer(const HttpAnswer &answer);
 
 } // namespace sdk::onvif

@@ -46,7 +46,8 @@ SoapRequest::SoapRequest(std::string_view operation)
 {
     pugi::xml_node envelope = append(m_document, "s:Envelope");
     setAttribute(envelope, "xmlns:s", ns::envelope);
-    // Only the namespaces of the operation and of the schema: small devices read into small buffers.
+    // Only the namespaces of the operation and of the schema are declared, since small devices have small
+    // buffers.
     const std::string_view used = operation.substr(0, operation.find(':'));
     for (const Prefix &prefix : prefixes) {
         if (prefix.name == used || prefix.uri == ns::schema)

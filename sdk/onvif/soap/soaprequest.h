@@ -10,7 +10,7 @@
 
 namespace sdk::onvif {
 
-/// A SOAP envelope whose body is built element by element. The names of elements carry the prefixes that the
+/// A SOAP envelope whose body is built element by element. The names of elements have the prefixes that the
 /// envelope declares: "tds" device, "trt" media, "tr2" media 2, "timg" imaging, "tmd" device IO, "tt" schema.
 class SoapRequest
 {
@@ -24,7 +24,7 @@ public:
     /// The name without its prefix.
     [[nodiscard]] std::string_view name() const;
 
-    /// The text of the envelope. `securityHeader` is an XML text for its header, empty for none.
+    /// The XML text of the envelope. `securityHeader` is the XML text of its header, or empty.
     [[nodiscard]] std::string text(std::string_view securityHeader) const;
 
 private:
@@ -37,15 +37,15 @@ pugi::xml_node append(pugi::xml_node parent, std::string_view name, std::string_
 pugi::xml_node append(pugi::xml_node parent, std::string_view name, int number);
 pugi::xml_node append(pugi::xml_node parent, std::string_view name, double number);
 pugi::xml_node appendBoolean(pugi::xml_node parent, std::string_view name, bool value);
-/// Sets an attribute, in the place of one of that name.
+/// Sets an attribute; an existing one of that name is replaced.
 void setAttribute(pugi::xml_node element, std::string_view name, std::string_view value);
 
-/// Appends what a device has sent as `name`: its attributes and its content, as far as it belongs to the
-/// schema. What a device adds in namespaces of its own is left out; so a request stays valid.
+/// Appends a copy of an element of a device under `name`: its attributes and its content in the namespace of
+/// the schema. Vendor-specific content is omitted, so that the request is valid.
 pugi::xml_node appendCopy(pugi::xml_node parent, std::string_view name, const XmlElement &element);
 
-/// Sets the text of the child `name` (of the schema, with the prefix "tt:"), if there is one. Returns whether
-/// there is.
+/// Sets the text of the child `name` (of the schema, with the prefix "tt:"). Returns false if there is no
+/// such child.
 bool setChild(pugi::xml_node parent, std::string_view name, std::string_view text);
 
 } // namespace sdk::onvif

@@ -21,7 +21,7 @@ std::string_view localNameOf(std::string_view qualified)
     return colon == std::string_view::npos ? qualified : qualified.substr(colon + 1);
 }
 
-/// Whether the attribute declares the namespace of `prefix`, which is empty for the default namespace.
+/// True if the attribute declares the namespace of `prefix`, which is empty for the default namespace.
 bool declares(std::string_view attribute, std::string_view prefix)
 {
     constexpr std::string_view declaration = "xmlns";
@@ -47,7 +47,7 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-/// Checks the bounds of a document that was parsed.
+/// Checks the bounds of a parsed document.
 class BoundsCheck : public pugi::xml_tree_walker
 {
 public:

@@ -12,8 +12,7 @@
 namespace sdk::onvif {
 
 /// An element of an XmlDocument, which must outlive it. Elements are found by the URI of their namespace,
-/// whatever prefix a device writes. An element that does not exist is empty: what is asked of it is empty
-/// too.
+/// regardless of their prefix. An element that does not exist is empty, and so are its children and texts.
 class XmlElement
 {
 public:
@@ -26,19 +25,19 @@ public:
     [[nodiscard]] std::string_view name() const;
 
     [[nodiscard]] XmlElement child(std::string_view uri, std::string_view name) const;
-    /// The child of the ONVIF schema's namespace, in which nearly all contents are.
+    /// The child in the namespace of the ONVIF schema, which contains nearly all elements.
     [[nodiscard]] XmlElement child(std::string_view name) const;
     [[nodiscard]] std::vector<XmlElement> children(std::string_view uri, std::string_view name) const;
     [[nodiscard]] std::vector<XmlElement> children(std::string_view name) const;
     [[nodiscard]] XmlElement firstChild() const;
-    /// What lies at the end of a path of children of the schema's namespace.
+    /// The element at the end of a path of children in the schema's namespace.
     [[nodiscard]] XmlElement at(std::initializer_list<std::string_view> path) const;
 
-    /// The text without blanks at its ends.
+    /// The text without spaces at its ends.
     [[nodiscard]] std::string_view text() const;
-    /// The text behind the prefix of a qualified name in the text: "NotAuthorized" of "ter:NotAuthorized".
+    /// The local part of a qualified name in the text: "NotAuthorized" of "ter:NotAuthorized".
     [[nodiscard]] std::string_view localText() const;
-    /// Nothing if the text is not a whole number in the range of the type.
+    /// Nothing if the text is not an integer in the range of the type.
     [[nodiscard]] std::optional<int> integer() const;
     [[nodiscard]] std::optional<double> number() const;
     /// "true" and "1" are true, "false" and "0" are false.
@@ -46,7 +45,7 @@ public:
     /// The attribute of that local name, empty if there is none.
     [[nodiscard]] std::string_view attribute(std::string_view name) const;
 
-    /// For copying. Names in it carry the device's prefixes.
+    /// The element for copying. Its names have the device's prefixes.
     [[nodiscard]] pugi::xml_node node() const { return m_node; }
     [[nodiscard]] std::string_view uri() const;
 
@@ -54,7 +53,7 @@ private:
     pugi::xml_node m_node;
 };
 
-/// A whole document.
+/// A parsed document.
 class XmlDocument
 {
 public:
@@ -63,8 +62,8 @@ public:
     static constexpr int maximumAttributes = 64; ///< of one element
     static constexpr std::size_t maximumElements = 200'000;
 
-    /// Nothing if the text is no XML, is larger or deeper than the bounds, or contains a document type. A
-    /// document type could define entities that multiply; SOAP forbids it.
+    /// Nothing if the text is not XML, exceeds the bounds of size or depth, or contains a document type. A
+    /// document type could define expanding entities; SOAP forbids it.
     [[nodiscard]] static std::optional<XmlDocument> read(std::string_view text);
 
     [[nodiscard]] XmlElement root() const { return XmlElement(m_document.document_element()); }

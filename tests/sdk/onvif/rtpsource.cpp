@@ -21,7 +21,7 @@ void require(bool isTrue, const char *what)
 
 constexpr int packetSize = 1200;
 
-/// One track on its way into packets.
+/// Packetizes one track.
 class Packetizer
 {
 public:
@@ -37,7 +37,7 @@ public:
         AVStream *stream = avformat_new_stream(m_format, nullptr);
         avcodec_parameters_copy(stream->codecpar, track.codecpar);
         stream->codecpar->codec_tag = 0;
-        if (track.codecpar->codec_id == AV_CODEC_ID_MJPEG) { // Matroska does not say it
+        if (track.codecpar->codec_id == AV_CODEC_ID_MJPEG) { // missing in Matroska
             stream->codecpar->format = AV_PIX_FMT_YUVJ420P;
             stream->codecpar->color_range = AVCOL_RANGE_JPEG;
         }
@@ -52,7 +52,7 @@ public:
     {
         packet.stream_index = 0;
         av_packet_rescale_ts(&packet, timeBase, m_format->streams[0]->time_base);
-        packet.dts = ++m_decoding; // packets carry no time of decoding
+        packet.dts = ++m_decoding; // packets have no decoding time
         packet.pts = std::max(packet.pts, packet.dts);
         require(av_write_frame(m_format, &packet) >= 0, "packet");
     }

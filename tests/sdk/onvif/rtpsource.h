@@ -1,4 +1,4 @@
-// What devices send in a session, made for tests.
+// RTP packets of a session for tests.
 #pragma once
 
 #include <QByteArray>
@@ -12,7 +12,7 @@ struct RtpPacket
 {
     int channel = 0; ///< of the session: two for each track, the second one for its control
     QByteArray bytes;
-    std::chrono::milliseconds due{0}; ///< from the beginning of the playing on
+    std::chrono::milliseconds due{0}; ///< after the start of the playback
 };
 
 /// A live stream in packets, and its description.
@@ -21,7 +21,7 @@ struct RtpSource
     QByteArray description;
     QList<RtpPacket> packets;
 
-    /// Of Matroska: a head and what follows on it.
+    /// Created from Matroska: a header and its packets.
     [[nodiscard]] static RtpSource of(const QByteArray &container);
 
     /// The description without lines that hold `text`.

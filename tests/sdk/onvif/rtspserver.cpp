@@ -26,7 +26,7 @@ sockaddr_in loopback(int port)
     return address;
 }
 
-/// A socket of a port of its own.
+/// A socket with a separate port.
 int boundSocket(int type, int &port)
 {
     const int descriptor = socket(AF_INET, type | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);

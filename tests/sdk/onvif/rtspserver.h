@@ -1,4 +1,4 @@
-// A device that serves one live stream over RTSP, as well or as badly as a test wants.
+// A device that serves one live stream over RTSP, with the faults of a test.
 #pragma once
 
 #include "tests/sdk/onvif/rtpsource.h"
@@ -11,7 +11,7 @@
 
 namespace sdk::onvif {
 
-/// A packet as it goes over the connection of a session.
+/// The interleaved frame of a packet.
 [[nodiscard]] QByteArray framed(const RtpPacket &packet);
 
 struct RtspScript
@@ -22,20 +22,20 @@ struct RtspScript
 
     QByteArray account; ///< empty: no login
     QByteArray password;
-    /// Values of WWW-Authenticate, in their order. The login must answer the one of MD5.
+    /// Values of WWW-Authenticate, in order. The login must use the challenge with MD5.
     QByteArrayList challenges = {"Digest realm=\"camera\", nonce=\"47\"", "Basic realm=\"camera\""};
 
-    /// Methods that are answered in another way: by these bytes as they are, in which CSEQ stands for the
-    /// number of the request, or by nothing at all.
+    /// Special responses by method: these bytes, in which CSEQ is replaced by the number of the request, or
+    /// no response if empty.
     QHash<QByteArray, QByteArray> answers = {};
-    QByteArray endless; ///< sent again and again after one of `answers`, or after the packets
+    QByteArray endless; ///< sent repeatedly after one of `answers`, or after the packets
 
     bool onlyDatagrams = false;
-    QByteArray dataSource;   ///< the address that a device names for its datagrams
+    QByteArray dataSource;   ///< the announced source address of datagrams
     int sessionTimeout = 60; ///< seconds
 };
 
-/// Listens at a port of 127.0.0.1 on a thread of its own, for one connection after the other, until it is
+/// Listens at a port of 127.0.0.1 on a separate thread, for one connection after another, until it is
 /// destroyed.
 class RtspServer
 {
@@ -53,7 +53,7 @@ public:
     [[nodiscard]] qsizetype requestsOf(const QByteArray &text) const;
     [[nodiscard]] int connections() const;
 
-    /// Time that the server's own thread has spent computing.
+    /// The CPU time of the server's thread.
     [[nodiscard]] std::chrono::nanoseconds computingTime() const;
 
 private:
@@ -66,7 +66,7 @@ private:
     [[nodiscard]] bool isAuthorised(const QByteArray &method, const QByteArray &request) const;
     [[nodiscard]] bool play(int connection, const std::stop_token &stop);
     [[nodiscard]] bool send(int connection, const QByteArray &bytes, const std::stop_token &stop) const;
-    /// Returns what is possible of `events`; 0 at the end.
+    /// Returns the ready events of `events`; 0 at the end.
     [[nodiscard]] int waitFor(int descriptor, int events, const std::stop_token &stop) const;
 
     void waitUntil(std::chrono::steady_clock::time_point time) const;

@@ -1,4 +1,4 @@
-// What searches of devices deliver.
+// The results of device searches.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -12,7 +12,7 @@
 #include <chrono>
 #include <mutex>
 
-/// What a search has delivered, by address.
+/// The results of a search by address.
 class SearchAnswers
 {
 public:
@@ -24,7 +24,7 @@ public:
         self->m_uuids.insert(textOf(answer->device.address), textOf(answer->device.uuid));
     }
 
-    /// Of all devices that were reported with the address.
+    /// The UUIDs of all devices that were reported with the address.
     [[nodiscard]] QStringList uuidsAt(const QString &address) const
     {
         const std::scoped_lock lock(m_mutex);
@@ -45,7 +45,7 @@ public:
         return m_answers.value(address).device;
     }
 
-    /// What a device says of itself that is asked at its address; empty if nothing answers.
+    /// The information of a device that is queried at its address; empty without a response.
     static sdk::SearchDeviceInformation found(sdk::NetLibrary &net, const QString &address)
     {
         SearchAnswers answers;

@@ -1,4 +1,4 @@
-// What a stream of a device brings.
+// The data of a device's stream.
 #pragma once
 
 #include "sdk/onvif/live/rtspstream.h"
@@ -11,11 +11,11 @@
 
 namespace sdk::onvif {
 
-/// Opens a stream and keeps what comes. Thread-safe.
+/// Opens a stream and stores its data. Thread-safe.
 class StreamWatcher
 {
 public:
-    /// `sink` gets the bytes as well, on the stream's thread.
+    /// `sink` receives the bytes as well, on the stream's thread.
     explicit StreamWatcher(RtspOrder order, std::function<void(const QByteArray &)> sink = {})
         : m_sink(std::move(sink)),
           m_stream(
@@ -42,7 +42,7 @@ public:
         return m_endText;
     }
 
-    /// How many times a handler was called.
+    /// The number of handler calls.
     [[nodiscard]] int calls() const { return m_calls; }
 
     [[nodiscard]] RtspStream &stream() { return m_stream; }

@@ -1,5 +1,5 @@
-// What devices of a simulated site refuse to an account, and how they ask for a login. Runs inside the site's
-// network (scripts/lab).
+// Refused operations and login methods of devices of a simulated site. Runs inside the site's network
+// (scripts/lab).
 #include "sdk/blocktext.h"
 #include "sdk/onvif/onvifnetlibrary.h"
 #include "sdk/onvif/services/deviceservice.h"
@@ -33,7 +33,7 @@ private:
         return logIn(m_net, address.constData(), account, password);
     }
 
-    /// Makes the account "operator", which may not set the clock.
+    /// Creates the account "operator", which may not set the clock.
     static bool makeOperator(const QByteArray &address)
     {
         onvif::SoapClient client({.account = "admin", .password = password},
@@ -46,7 +46,7 @@ private:
         onvif::append(user, "tt:Password", password);
         onvif::append(user, "tt:UserLevel", "Operator");
         const auto deadline = std::chrono::steady_clock::now() + 5s;
-        // The administrator's own right is proved first, as every login does.
+        // The password is confirmed first, as in every login.
         return client.call(service, onvif::SoapRequest("tds:GetDeviceInformation"), deadline).isOk() &&
                client.call(service, request, deadline).isOk();
     }
@@ -97,14 +97,14 @@ private Q_SLOTS:
         m_net.NetLogout(second);
     }
 
-    void aStreamIsShownWhateverChallengeComesLast_data()
+    void aStreamPlaysRegardlessOfTheLastChallenge_data()
     {
         const auto row = dataTable<QByteArray>({"address"});
         row("MD5", "192.168.8.11");
         row("SHA-256", "192.168.8.12");
     }
 
-    void aStreamIsShownWhateverChallengeComesLast()
+    void aStreamPlaysRegardlessOfTheLastChallenge()
     {
         QFETCH(const QByteArray, address);
         const LLONG handle = login(address);

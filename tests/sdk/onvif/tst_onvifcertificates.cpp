@@ -1,5 +1,5 @@
-// Devices of a simulated site that are asked over HTTPS, and the keys that the user agrees to. Runs inside
-// the site's network (scripts/lab).
+// Devices of a simulated site over HTTPS, and keys that the user accepts. Runs inside the site's network
+// (scripts/lab).
 #include "device/certificatestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/configrecords.h"
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QVERIFY(!refused.first().isChanged() && refused.last().identity.isEmpty());
     }
 
-    void anAgreedKeyIsAsked()
+    void aDeviceWithAnAcceptedKeyIsQueried()
     {
         QCOMPARE(m_store.agree(m_store.refused().first(1)), "");
         const qsizetype before = messages();
@@ -92,11 +92,11 @@ private Q_SLOTS:
 
     void aChangedKeyGetsNoPassword()
     {
-        QVERIFY(m_net.NetRebootDevice(m_session, 3000ms)); // it makes another key then
+        QVERIFY(m_net.NetRebootDevice(m_session, 3000ms)); // it then creates another key
         QTRY_VERIFY_WITH_TIMEOUT(login("192.168.7.11", 443) == 0, 20000);
         const qsizetype before = messages();
         QTRY_VERIFY_WITH_TIMEOUT(hasChanged(), 20000);
-        QVERIFY(!m_net.NetIsDeviceAlive(m_session, 3000ms)); // neither does the session go on
+        QVERIFY(!m_net.NetIsDeviceAlive(m_session, 3000ms)); // the session does not continue either
         QVERIFY(lastError() == NetError::ChangedCertificate);
         QCOMPARE(messages(), before);
         QVERIFY(m_store.refused().last().isChanged() || m_store.refused().first().isChanged());

@@ -1,5 +1,5 @@
-// The network library's roles on devices of a simulated site on real sockets. Runs inside the site's network
-// (scripts/lab).
+// The network library's interface with devices of a simulated site on real sockets. Runs inside the site's
+// network (scripts/lab).
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
 #include "sdk/configrecords.h"
@@ -106,7 +106,7 @@ private:
         return logIn(m_net, address, account, secret);
     }
 
-    /// Empty while the device is away.
+    /// Empty while the device is offline.
     QString versionOf(const char *address)
     {
         const LLONG handle = login(address);
@@ -144,7 +144,7 @@ private Q_SLOTS:
 
     void cleanupTestCase() { m_net.NetCleanup(); }
 
-    void tellsWhyALoginFails_data()
+    void reportsTheReasonOfAFailedLogin_data()
     {
         const auto row = dataTable<QByteArray, QByteArray, quint32>({"address", "secret", "error"});
         row("wrong password", "192.168.1.103", "wrong", code(NetError::WrongPassword));
@@ -153,7 +153,7 @@ private Q_SLOTS:
         row("nobody there", "192.168.1.199", password, code(NetError::ConnectTimeout));
     }
 
-    void tellsWhyALoginFails()
+    void reportsTheReasonOfAFailedLogin()
     {
         QFETCH(QByteArray, address);
         QFETCH(QByteArray, secret);
@@ -212,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(m_net.NetQueryConfig(handle, QueryCommand::Time, 0, &shown, sizeof(shown), returned, 3000ms));
         QVERIFY(shown.year == 2031 && shown.day == 6 && shown.hour == 7 && shown.minute == 8);
         m_net.NetLogout(handle);
-        // The token of a login follows the device's clock, which is years off now.
+        // The token of a login follows the device's clock, which now differs by years.
         const LLONG again = login("192.168.1.103");
         QVERIFY(again > 0);
         m_net.NetLogout(again);
@@ -349,7 +349,7 @@ private Q_SLOTS:
         m_net.NetLogout(second);
     }
 
-    void givesAFirstPassword()
+    void initialisesADevice()
     {
         InitDeviceAccountInput input{};
         input.size = sizeof(input);

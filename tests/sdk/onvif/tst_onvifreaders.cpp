@@ -1,4 +1,4 @@
-// What devices write, as it is read: time zones, announcements, addresses of services and answers to calls.
+// Reading data of devices: time zones, announcements, addresses of services and responses to calls.
 #include "sdk/blocktext.h"
 #include "sdk/onvif/discovery/founddevice.h"
 #include "sdk/onvif/discovery/probemessage.h"
@@ -107,7 +107,7 @@ private Q_SLOTS:
         clock.utc = timeOf(utc);
         QCOMPARE(textOf(*shownTime(clock)), shown);
         QCOMPARE(textOf(utcOfShown(timeOf(shown), clock)), utc);
-        // What is written is the same zone.
+        // The written string is the same zone.
         if (const auto read = readPosixTimeZone(clock.timeZone)) {
             clock.timeZone = read->text();
             QCOMPARE(textOf(*shownTime(clock)), shown);
@@ -139,14 +139,14 @@ private Q_SLOTS:
         QVERIFY(sdk::blockText(answer.device.uuid) == found.front().uuid);
         QCOMPARE(answer.device.port, 8000);
         QVERIFY(device.service.path == "/b");
-        // From another address it is asked there, whatever it names.
+        // The service of an announcement from another address is at that address.
         const ServiceAddress elsewhere = serviceOf(found.front(), "192.0.2.1");
         QVERIFY(elsewhere.url() == "http://192.0.2.1:80/a");
     }
 
     void ignoresOtherDatagrams_data()
     {
-        // others: announcements of devices of another kind
+        // others: announcements of devices of another type
         using Kind = DiscoveryMessage::Kind;
         const auto row = dataTable<QByteArray, Kind, int>({"datagram", "kind", "others"});
         row("nothing", "", Kind::Unreadable, 0);
@@ -202,7 +202,7 @@ private Q_SLOTS:
         QCOMPARE(address ? QString::fromStdString(address->url()) : QString(), asked);
     }
 
-    void readsHowACallEnded_data()
+    void readsTheOutcomeOfACall_data()
     {
         const auto row = dataTable<QByteArray, long, quint32>({"body", "status", "error"});
         const auto code = [](sdk::NetError error) {
@@ -226,7 +226,7 @@ private Q_SLOTS:
             500, code(sdk::NetError::WrongPassword));
     }
 
-    void readsHowACallEnded()
+    void readsTheOutcomeOfACall()
     {
         QFETCH(QByteArray, body);
         QFETCH(long, status);

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A message of discovery as a device sends it: "Hello", "Bye" with what is in it.
+/// A discovery message of a device: "Hello" or "Bye" with its content.
 std::string discoveryMessage(const std::string &name, const std::string &content)
 {
     return R"(<Envelope xmlns="http://www.w3.org/2003/05/soap-envelope"><Body><q:)" + name +
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QVERIFY(m_net.NetStopSearchDevices(search));
     }
 
-    void asksSingleAddresses()
+    void searchesSingleAddresses()
     {
         QCOMPARE(SearchAnswers::textOf(SearchAnswers::found(m_net, u"192.168.1.103"_s).detailModel),
                  u"B-2812-Z4"_s);

@@ -1,8 +1,8 @@
-// Logins, first passwords and new addresses with devices that answer in part, not at all, or are others than
-// was thought.
+// Logins, initialisation and address changes of devices that respond in part, not at all, or are other
+// devices than expected.
 #include "sdk/callstop.h"
 #include "sdk/onvif/addresschange.h"
-#include "sdk/onvif/firstpassword.h"
+#include "sdk/onvif/deviceinitialisation.h"
 #include "sdk/onvif/livestreams.h"
 #include "sdk/onvif/session/onvifsession.h"
 #include "tests/cgi/rawserver.h"
@@ -24,18 +24,18 @@ namespace {
 const char *const oldAddress = "127.0.0.1";
 const char *const newAddress = "127.0.0.2";
 
-/// How an operation is answered.
+/// The response to an operation.
 enum class Manner
 {
     Guarded, ///< with the login only
-    Open,    ///< to anybody
+    Open,    ///< without a login
     Silent,
-    Refused,      ///< as a value that the device does not take
+    Refused,      ///< as an invalid value
     NotPermitted, ///< as with a wrong password
 };
 
-/// Manners of operations by their names; at the new address by "new NAME", and with an account that was made
-/// by "after NAME". "*" stands for the others.
+/// Responses by the name of the operation; at the new address by "new NAME", and with a created account by
+/// "after NAME". "*" stands for the others.
 using Manners = QHash<QByteArray, Manner>;
 
 QByteArray contentOf(const QByteArray &operation, bool needsReboot)
@@ -80,7 +80,7 @@ public:
         return address;
     }
 
-    /// How many requests hold both texts.
+    /// The number of requests with both texts.
     [[nodiscard]] qsizetype requestsWith(const QByteArray &text, const QByteArray &other = {}) const
     {
         const QList<QByteArray> requests = m_server.requests();
@@ -168,7 +168,7 @@ class OnvifSessionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aLoginIsProved_data()
+    void aLoginIsConfirmed_data()
     {
         const auto row = dataTable<Manners, quint32>({"manners", "error"});
         using enum Manner;
@@ -186,7 +186,7 @@ private Q_SLOTS:
             code(NetError::WrongPassword));
     }
 
-    void aLoginIsProved()
+    void aLoginIsConfirmed()
     {
         QFETCH(const Manners, manners);
         QFETCH(const quint32, error);
@@ -198,7 +198,7 @@ private Q_SLOTS:
         QCOMPARE(session != nullptr, error == 0);
     }
 
-    void aFirstPasswordIsConfirmed_data()
+    void anInitialisationIsConfirmed_data()
     {
         const auto row = dataTable<Manners, QByteArray, quint32, int>({"manners", "mac", "error", "sent"});
         using enum Manner;
@@ -213,7 +213,7 @@ private Q_SLOTS:
         row("has an administrator", Manners{}, own, code(NetError::NotSupported), 0);
     }
 
-    void aFirstPasswordIsConfirmed()
+    void anInitialisationIsConfirmed()
     {
         QFETCH(const Manners, manners);
         QFETCH(const QByteArray, mac);
@@ -222,8 +222,8 @@ private Q_SLOTS:
         const ScriptedDevice device(manners);
         const auto deadline = std::chrono::steady_clock::now() + 2s;
         const NetError result =
-            giveFirstPassword(device.service(), std::make_shared<HttpClient>(),
-                              {.account = "root", .password = "secret1"}, mac.toStdString(), deadline);
+            initialiseDevice(device.service(), std::make_shared<HttpClient>(),
+                             {.account = "root", .password = "secret1"}, mac.toStdString(), deadline);
         QCOMPARE(code(result), error);
         QCOMPARE(device.requestsWith("secret1"), sent);
     }
@@ -271,12 +271,12 @@ private Q_SLOTS:
         QCOMPARE(device.requestsWith("SetNetworkDefaultGateway", "127.0.0.9"),
                  error == code(NetError::InvalidValue) && !needsReboot ? 1 : 0);
         QCOMPARE(device.requestsWith("SystemReboot"), needsReboot ? 1 : 0);
-        // Of another device nothing is asked again.
+        // Another device gets no further request.
         if (error == code(NetError::AddressInUse))
             QCOMPARE(device.requestsWith(QByteArray("Host: ") + newAddress, "UsernameToken"), 1);
     }
 
-    /// A device may take a minute to come back: who stops the work does not wait for it.
+    /// A device may take a minute to restart: a stop does not wait for it.
     void theWaitForADeviceAtItsNewAddressEnds_data()
     {
         const auto row = dataTable<bool>({"isLate"});
@@ -320,7 +320,7 @@ private Q_SLOTS:
         script.password = "secret1";
         script.sessionTimeout = 2;
         script.answers["GET_PARAMETER"] = "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\n\r\n";
-        // Slices of pictures that need an earlier one, in two packets.
+        // Slices of frames that depend on an earlier one, in two packets.
         for (const char *const packet :
              {"80e0000100000e1000000007419a0010", "80e0000200001c2000000007419a0020"})
             script.endless += framed({0, QByteArray::fromHex(packet)});
@@ -332,7 +332,7 @@ private Q_SLOTS:
         const std::int64_t handle = streams.open(
             1, "profile", order, [&isRefused] { isRefused = true; }, error);
         QVERIFY(handle > 0);
-        QTRY_VERIFY_WITH_TIMEOUT(isRefused, 10000); // by the request that keeps it alive
+        QTRY_VERIFY_WITH_TIMEOUT(isRefused, 10000); // by the keep-alive request
         QList<std::int64_t> ends;
         QTRY_VERIFY((streams.stream(handle)->setHandler(&noteEnd, &ends), !ends.isEmpty()));
         QCOMPARE(ends, QList{static_cast<std::int64_t>(sdk::StreamEndReason::Refused)});

@@ -1,6 +1,6 @@
-// Devices that refuse, stall, or send what they should not: each ends with its reason, soon and in little
+// Devices that refuse, stall, or send invalid data: each stream ends with its reason, quickly and with little
 // memory.
-#include "sdk/onvif/live/internal/pictureassembler.h"
+#include "sdk/onvif/live/internal/frameassembler.h"
 #include "tests/datatable.h"
 #include "tests/sdk/ffmpeg/testport.h"
 #include "tests/sdk/onvif/rtspserver.h"
@@ -10,7 +10,7 @@
 
 namespace sdk::onvif {
 
-/// How a device differs from a good one.
+/// The difference between a faulty device and a correct one.
 using Change = std::function<void(RtspScript &)>;
 
 } // namespace sdk::onvif
@@ -23,7 +23,7 @@ namespace {
 
 const QByteArray okay = "RTSP/1.0 200 OK\r\nCSeq: CSEQ\r\n";
 
-/// Nine small pictures; the first one and every fifth are key pictures.
+/// Nine small frames; the first one and every fifth are key frames.
 const RtpSource &source()
 {
     static const RtpSource made = [] {
@@ -50,7 +50,7 @@ RtspOrder orderOf(const RtspServer &server)
     return order;
 }
 
-/// An answer to a request, in place of the regular one.
+/// A response in place of the regular one.
 Change answering(const QByteArray &method, const QByteArray &answer, const QByteArray &endless = {})
 {
     return [=](RtspScript &script) {
@@ -84,7 +84,7 @@ Change offering(const QByteArrayList &challenges)
     };
 }
 
-/// Only control packets and those of pictures that need an earlier one.
+/// Leaves only control packets and packets of frames that depend on an earlier one.
 void leaveOutKeyPictures(RtspScript &script)
 {
     constexpr int keySlice = 5;
@@ -111,13 +111,13 @@ private Q_SLOTS:
     void passwordIsTriedOnce();
     void urlIsChecked_data();
     void urlIsChecked();
-    void otherAddressesAreNotAsked();
-    void stopEndsAtOnce_data();
-    void stopEndsAtOnce();
+    void otherAddressesAreNotUsed();
+    void stopEndsImmediately_data();
+    void stopEndsImmediately();
     void sessionIsKeptAlive();
     void refusedLoginEndsARunningStream_data();
     void refusedLoginEndsARunningStream();
-    void piecesBecomePictures();
+    void fragmentsBecomeFrames();
 };
 
 void TestRtspFaults::faultEndsTheStream_data()
@@ -183,7 +183,7 @@ void TestRtspFaults::faultEndsTheStream_data()
     row(
         "farewell",
         [](RtspScript &script) {
-            // A farewell (BYE) of the sender of the packets.
+            // A BYE packet of the sender.
             const QByteArray sender = source().packets.last().bytes.mid(8, 4);
             script.packets.append({1, QByteArray::fromHex("81cb0002") + sender +
                                           "\x03"
@@ -291,8 +291,8 @@ void TestRtspFaults::urlIsChecked()
     QTEST(watcher.end(), "end");
 }
 
-/// A device may name another address by a redirection or as the source of its datagrams.
-void TestRtspFaults::otherAddressesAreNotAsked()
+/// A device may announce another address by a redirection or as the source of its datagrams.
+void TestRtspFaults::otherAddressesAreNotUsed()
 {
     const RtspServer other(usualScript());
     RtspScript script = usualScript();
@@ -311,7 +311,7 @@ void TestRtspFaults::otherAddressesAreNotAsked()
     QCOMPARE(naming.requestsOf("PLAY "), 0);
 }
 
-void TestRtspFaults::stopEndsAtOnce_data()
+void TestRtspFaults::stopEndsImmediately_data()
 {
     const auto row = dataTable<Change, QByteArray>({"change", "request"});
     for (const QByteArray method : {"OPTIONS", "DESCRIBE", "SETUP", "PLAY"})
@@ -326,7 +326,7 @@ void TestRtspFaults::stopEndsAtOnce_data()
         "PLAY");
 }
 
-void TestRtspFaults::stopEndsAtOnce()
+void TestRtspFaults::stopEndsImmediately()
 {
     QFETCH(const Change, change);
     QFETCH(const QByteArray, request);
@@ -365,8 +365,7 @@ void TestRtspFaults::refusedLoginEndsARunningStream_data()
     row("number too old for ever", R"(Digest realm="camera", nonce="48", stale=TRUE)", 2);
 }
 
-/// The session is kept alive with the login: after a refusal it must not be sent again, not even as a
-/// farewell.
+/// Keep-alive requests contain the login: after a refusal it must not be sent again, not even in TEARDOWN.
 void TestRtspFaults::refusedLoginEndsARunningStream()
 {
     QFETCH(const QByteArray, challenge);
@@ -392,10 +391,10 @@ void TestRtspFaults::refusedLoginEndsARunningStream()
 }
 
 /// Some devices repeat the parameters before each slice, some send fragments without end.
-void TestRtspFaults::piecesBecomePictures()
+void TestRtspFaults::fragmentsBecomeFrames()
 {
     QList<std::size_t> sizes;
-    PictureAssembler assembler(AV_CODEC_ID_H264, [&sizes](std::span<const std::uint8_t> bytes, std::int64_t) {
+    FrameAssembler assembler(AV_CODEC_ID_H264, [&sizes](std::span<const std::uint8_t> bytes, std::int64_t) {
         sizes.append(bytes.size());
     });
     const std::vector<std::uint8_t> parameters = {0, 0, 0, 1, 0x67, 0x42, 0, 0, 1, 0x68, 0xce};
@@ -409,7 +408,7 @@ void TestRtspFaults::piecesBecomePictures()
     QCOMPARE(sizes, QList<std::size_t>{whole});
 
     const std::vector<std::uint8_t> fragment(50000, 0x55);
-    for (std::size_t size = 0; size < 2 * PictureAssembler::mostBytes; size += fragment.size())
+    for (std::size_t size = 0; size < 2 * FrameAssembler::mostBytes; size += fragment.size())
         assembler.add(fragment, 0);
     assembler.add(first, 1);
     assembler.finish();

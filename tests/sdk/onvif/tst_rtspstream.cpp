@@ -1,4 +1,4 @@
-// Live streams over RTSP, from a device on the loopback interface to decoded pictures.
+// Live streams over RTSP, from a device on the loopback interface to decoded frames.
 #include "tests/datatable.h"
 #include "tests/sdk/ffmpeg/testport.h"
 #include "tests/sdk/onvif/rtspserver.h"
@@ -15,11 +15,11 @@ using ffmpeg::TestPort;
 namespace {
 
 constexpr int pictures = 12;
-constexpr int keyEvery = 5;                                // as many as look different
-constexpr int samples = 1024;                              // for each picture
+constexpr int keyEvery = 5;                                // number of different frames
+constexpr int samples = 1024;                              // for each frame
 const QByteArray header = QByteArray::fromHex("1a45dfa3"); // begins the container
 
-/// What a device encodes and sends.
+/// The encoding and the packets of a device.
 struct Sending
 {
     QByteArray encoder = "libx264";
@@ -29,7 +29,7 @@ struct Sending
     int width = 128;
     int height = 96;
 
-    /// A stream in its middle: the first picture is missing, which those up to the next key picture need.
+    /// A stream without its first frame, which the frames up to the next key frame depend on.
     [[nodiscard]] RtpSource source() const
     {
         PictureFormat format;
@@ -61,7 +61,7 @@ RtspOrder orderOf(const RtspServer &server)
     return order;
 }
 
-/// What the pictures that a port has delivered show, as numbers below Patches' period; -1 for none of them.
+/// The numbers in the delivered frames, below the period of Patches; -1 for an unknown frame.
 QString numbersOf(const QList<ffmpeg::Delivered> &delivered)
 {
     constexpr double noticeable = 12;
@@ -84,8 +84,8 @@ class TestRtspStream : public QObject
 private Q_SLOTS:
     void picturesAndSoundArrive_data();
     void picturesAndSoundArrive();
-    void anotherSizeBeginsAnew();
-    void beginsAnewWhenAsked();
+    void anotherFrameSizeStartsANewHeader();
+    void restartsOnRequest();
 };
 
 void TestRtspStream::picturesAndSoundArrive_data()
@@ -138,7 +138,7 @@ void TestRtspStream::picturesAndSoundArrive()
 }
 
 /// Some devices change the size of a stream without ending its session.
-void TestRtspStream::anotherSizeBeginsAnew()
+void TestRtspStream::anotherFrameSizeStartsANewHeader()
 {
     const QByteArray repeated = "x264-params=repeat-headers=1";
     const RtpSource small = Sending{"libx264", repeated, "", 0}.source();
@@ -162,8 +162,8 @@ void TestRtspStream::anotherSizeBeginsAnew()
     QCOMPARE(watcher.bytes().count(header), 2);
 }
 
-/// The first picture asks for it, so the next key picture brings a header.
-void TestRtspStream::beginsAnewWhenAsked()
+/// The restart is requested at the first frame, so the next key frame has a header.
+void TestRtspStream::restartsOnRequest()
 {
     RtspScript script;
     const RtpSource source = Sending().source();
@@ -175,7 +175,7 @@ void TestRtspStream::beginsAnewWhenAsked()
     StreamWatcher watcher(orderOf(server), [&](const QByteArray &) {
         if (isFirst.exchange(false)) {
             stream.wait(nullptr);
-            stream.load()->beginAnew();
+            stream.load()->restart();
         }
     });
     stream = &watcher.stream();

@@ -1,4 +1,4 @@
-// What a report says of a search, and which device keeps a MAC.
+// The report of a search, and the assignment of MACs to devices.
 #include "sdk/blocktext.h"
 #include "sdk/onvif/discovery/macholders.h"
 #include "sdk/onvif/discovery/searchcounters.h"
@@ -53,7 +53,7 @@ private Q_SLOTS:
         row("switched off", u"down"_s, ENETDOWN, 0,
             bit(SearchObstacle::InterfaceDown) | bit(SearchObstacle::SendFailed));
         row("no cable", u"no link"_s, 0, 0, bit(SearchObstacle::NoLink) | bit(SearchObstacle::NoAnswer));
-        // What came through an interface without a name is not that of one without an address.
+        // Messages of an unknown interface are not counted for an interface without an address.
         row("no address", u"no address"_s, 0, 1, bit(SearchObstacle::NoAddress));
     }
 

@@ -1,4 +1,4 @@
-// Calls to servers that answer oddly or not at all, and what is sent of a password.
+// Calls to servers with invalid or missing responses, and the use of the password.
 #include "sdk/onvif/soap/soapclient.h"
 #include "tests/cgi/rawserver.h"
 #include "tests/cgi/tlsserver.h"
@@ -65,7 +65,7 @@ ServiceAddress addressOf(const RawServer &server)
     return address;
 }
 
-/// Agrees to one key, which it is shown first.
+/// Accepts the first key only.
 struct AgreedKey
 {
     sdk::CertificateVerdict first = sdk::CertificateVerdict::Trusted;
@@ -90,7 +90,7 @@ QByteArray faultText(const QByteArray &subcode)
            subcode + R"(</x:Value></x:Subcode></x:Code></x:Fault></x:Body></x:Envelope>)";
 }
 
-/// A device that takes tokens, and refuses some of them.
+/// A device that accepts tokens, and refuses some of them.
 class TokenDevice
 {
 public:
@@ -147,7 +147,7 @@ class SoapClientTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anOddServerEndsACall_data()
+    void anInvalidResponseEndsACall_data()
     {
         const auto row = dataTable<int, quint32>({"manner", "error"});
         row("never answers", Silent, static_cast<quint32>(sdk::NetError::ConnectTimeout));
@@ -156,7 +156,7 @@ private Q_SLOTS:
         row("redirects", Redirecting, static_cast<quint32>(sdk::NetError::ProtocolMismatch));
     }
 
-    void anOddServerEndsACall()
+    void anInvalidResponseEndsACall()
     {
         QFETCH(int, manner);
         QFETCH(quint32, error);
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(server.requests().size(), 1);
     }
 
-    void aPasswordIsSentOnlyWhereItIsAskedFor()
+    void aPasswordIsSentOnlyOnRequest()
     {
         const RawServer server([](const RawExchange &exchange) { answerAs(Digest, exchange); });
         SoapClient client({.account = "a", .password = "b"}, std::make_shared<HttpClient>());
@@ -209,7 +209,7 @@ private Q_SLOTS:
         QCOMPARE(device.tokens(), 1);
     }
 
-    void aRefusalInASessionIsJudged_data()
+    void aRefusalInASessionIsEvaluated_data()
     {
         const auto row = dataTable<QByteArray, QByteArray, QByteArray, quint32, int, quint32>(
             {"refused", "subcode", "status", "error", "tokens", "later"});
@@ -228,7 +228,7 @@ private Q_SLOTS:
     }
 
     /// `tokens` are sent for the refused call; the `later` call sends none when it fails.
-    void aRefusalInASessionIsJudged()
+    void aRefusalInASessionIsEvaluated()
     {
         QFETCH(const QByteArray, refused);
         QFETCH(const QByteArray, subcode);
@@ -274,8 +274,8 @@ private Q_SLOTS:
         QCOMPARE(device.tokens(), 3);
     }
 
-    /// A call with the old password is on its way while the password is changed.
-    void aRefusalOfAnOldPasswordIsNoRefusalOfTheNewOne()
+    /// A call with the old password is under way while the password is changed.
+    void aRefusalOfTheOldPasswordDoesNotAffectTheNewOne()
     {
         SoapClient *client = nullptr;
         std::atomic_bool isChanged = false;

@@ -21,19 +21,19 @@ std::int64_t microsecondsNow()
 } // namespace
 
 std::unique_ptr<Remuxer> Remuxer::of(const AVStream &picture, const AVStream *sound,
-                                     std::atomic<bool> &mustBeginAnew, BytesHandler handler)
+                                     std::atomic<bool> &mustRestart, BytesHandler handler)
 {
-    std::unique_ptr<PictureFormat> format = PictureFormat::of(*picture.codecpar);
+    std::unique_ptr<FrameFormat> format = FrameFormat::of(*picture.codecpar);
     if (!format)
         return nullptr;
     // Not make_unique: the constructor is private.
     return std::unique_ptr<Remuxer>(
-        new Remuxer(picture, sound, std::move(format), mustBeginAnew, std::move(handler)));
+        new Remuxer(picture, sound, std::move(format), mustRestart, std::move(handler)));
 }
 
-Remuxer::Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr<PictureFormat> format,
-                 std::atomic<bool> &mustBeginAnew, BytesHandler handler)
-    : m_picture(picture), m_sound(sound), m_format(std::move(format)), m_mustBeginAnew(mustBeginAnew),
+Remuxer::Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr<FrameFormat> format,
+                 std::atomic<bool> &mustRestart, BytesHandler handler)
+    : m_picture(picture), m_sound(sound), m_format(std::move(format)), m_mustRestart(mustRestart),
       m_handler(std::move(handler)),
       m_assembler(picture.codecpar->codec_id,
                   [this](std::span<const std::uint8_t> bytes, std::int64_t time) { addPicture(bytes, time); })
@@ -68,7 +68,7 @@ void Remuxer::deliverWaiting()
 void Remuxer::addPicture(std::span<const std::uint8_t> bytes, std::int64_t time)
 {
     const bool isKey = m_format->examine(bytes);
-    if (isKey && (!m_writer || m_mustBeginAnew || !m_format->isSame(*m_written)) && !begin())
+    if (isKey && (!m_writer || m_mustRestart || !m_format->isSame(*m_written)) && !begin())
         return;
     if (!m_writer)
         return;
@@ -87,12 +87,12 @@ void Remuxer::addPicture(std::span<const std::uint8_t> bytes, std::int64_t time)
 
 bool Remuxer::begin()
 {
-    m_mustBeginAnew = false;
+    m_mustRestart = false;
     m_written = m_format->parameters();
     const MatroskaWriter::Track picture = {m_written.get(), m_picture.avg_frame_rate};
     const MatroskaWriter::Track sound = {m_sound ? m_sound->codecpar : nullptr};
     m_writer = m_written ? MatroskaWriter::open(picture, m_sound ? &sound : nullptr) : nullptr;
-    if (m_written && !m_writer && m_sound) { // the device says too little of its sound
+    if (m_written && !m_writer && m_sound) { // the description of the sound is incomplete
         m_sound = nullptr;
         m_writer = MatroskaWriter::open(picture, nullptr);
     }

@@ -1,8 +1,8 @@
-// Puts what a device sends into the container of live streams.
+// Writes the received tracks of a device to the container of live streams.
 #pragma once
 
-#include "sdk/onvif/live/internal/pictureassembler.h"
-#include "sdk/onvif/live/internal/pictureformat.h"
+#include "sdk/onvif/live/internal/frameassembler.h"
+#include "sdk/onvif/live/internal/frameformat.h"
 #include "sdk/onvif/live/internal/timeline.h"
 #include "sdk/streams/matroskawriter.h"
 
@@ -14,57 +14,58 @@
 
 namespace sdk::onvif {
 
-/// On one thread, except what its parameters say.
+/// Used by one thread, except `mustRestart`.
 class Remuxer
 {
 public:
     using BytesHandler = std::function<void(std::span<const std::uint8_t>)>;
 
-    /// A picture whose next one does not follow within this time is taken for whole. Longer than a connection
-    /// stands still for a lost packet; at more than three pictures a second the next one is earlier.
+    /// A frame counts as complete if the next one does not follow within this time. It is longer than the
+    /// delay of a connection after a lost packet, and longer than the interval of frames at more than three
+    /// frames per second.
     static constexpr std::chrono::milliseconds longestWait{300};
 
-    /// `sound` is null for a stream without. The tracks must outlive the remuxer. A true in `mustBeginAnew`,
-    /// which any thread may set, is taken back with the header that it brings about. Returns null for a codec
-    /// that no decoder port takes.
+    /// `sound` is null for a stream without sound. The tracks must outlive the remuxer. Any thread may set
+    /// `mustRestart` to request a new header at the next key frame; the remuxer resets it with that header.
+    /// Returns null for a codec that no decoder port supports.
     [[nodiscard]] static std::unique_ptr<Remuxer> of(const AVStream &picture, const AVStream *sound,
-                                                     std::atomic<bool> &mustBeginAnew, BytesHandler handler);
+                                                     std::atomic<bool> &mustRestart, BytesHandler handler);
     Remuxer(const Remuxer &) = delete;
     Remuxer &operator=(const Remuxer &) = delete;
 
-    /// Takes a piece of any track. Returns whether it is of the picture track.
+    /// Adds a packet of any track. Returns true if it belongs to the video track.
     bool add(const AVPacket &packet);
 
-    /// To be called now and then while nothing arrives.
+    /// To be called repeatedly while no data arrive.
     void deliverWaiting();
 
-    /// To be called when nothing arrives any more.
+    /// To be called after the last packet.
     void finish() { m_assembler.finish(); }
 
-    /// Whether a picture that needs no earlier one has come.
+    /// True after the first key frame.
     [[nodiscard]] bool hasBegun() const { return m_writer != nullptr; }
 
-    /// Whether this computer could not write the container.
+    /// True if the container could not be written.
     [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
 private:
-    Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr<PictureFormat> format,
-            std::atomic<bool> &mustBeginAnew, BytesHandler handler);
+    Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr<FrameFormat> format,
+            std::atomic<bool> &mustRestart, BytesHandler handler);
     void addPicture(std::span<const std::uint8_t> bytes, std::int64_t time);
     [[nodiscard]] bool begin();
     void write(AVPacket &packet, Timeline &timeline);
 
     const AVStream &m_picture;
     const AVStream *m_sound;
-    const std::unique_ptr<PictureFormat> m_format;
-    std::atomic<bool> &m_mustBeginAnew;
+    const std::unique_ptr<FrameFormat> m_format;
+    std::atomic<bool> &m_mustRestart;
     const BytesHandler m_handler;
-    PictureAssembler m_assembler;
+    FrameAssembler m_assembler;
     std::chrono::steady_clock::time_point m_lastPiece;
     Timeline m_pictureTimes;
     Timeline m_soundTimes;
     std::unique_ptr<streams::MatroskaWriter> m_writer;
-    streams::AvPointer<AVCodecParameters> m_written; // the pictures that m_writer was opened for
+    streams::AvPointer<AVCodecParameters> m_written; // the video parameters of m_writer
     bool m_hasFailed = false;
 };
 

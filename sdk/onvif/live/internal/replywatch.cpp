@@ -13,7 +13,7 @@ namespace sdk::onvif {
 
 namespace {
 
-// As FFmpeg writes them.
+// The format string of FFmpeg's log.
 constexpr std::string_view replyFormat = "line='%s'\n";
 constexpr std::string_view descriptionFormat = "sdp: %c='%s'\n";
 constexpr std::string_view requestFormat = "Sending:\n%s--\n";
@@ -24,7 +24,7 @@ constexpr int firstRedirection = 300;
 constexpr int lastRedirection = 399;
 constexpr int decimal = 10;
 
-/// The value of `name` in `name=value` or `name="value"`; empty without it.
+/// The value of `name` in `name=value` or `name="value"`; empty if it is missing.
 std::string_view parameter(std::string_view text, const char *name)
 {
     const std::string copy(text);
@@ -71,7 +71,7 @@ void ReplyWatch::readReplyLine(const char *line)
         if (length < 0 || length > mostContentBytes)
             object(StreamEnd::Oversized, "an answer announces " + std::to_string(length) + " bytes");
     } else if (av_stristart(line, "WWW-Authenticate:", &value)) {
-        // The line is in a buffer of FFmpeg's, which reads it after this.
+        // The line is in a buffer of FFmpeg, which evaluates it after this call.
         if (!isUsable(value))
             *const_cast<char *>(line) = 'X';
     } else if (av_stristart(line, "Transport:", &value)) {
@@ -95,7 +95,7 @@ void ReplyWatch::readStatus(const char *line)
         object(StreamEnd::Redirected, "the device sends elsewhere (" + std::to_string(m_status) + ")");
 }
 
-/// False for a challenge of a kind that FFmpeg does not know and would take in the place of another one.
+/// False for a challenge of a type that FFmpeg does not support and would use instead of another one.
 bool ReplyWatch::isUsable(std::string_view challenge)
 {
     const std::size_t begin = challenge.find_first_not_of(' ');
@@ -115,7 +115,7 @@ bool ReplyWatch::isUsable(std::string_view challenge)
 
 void ReplyWatch::readTransport(std::string_view transport)
 {
-    // Over the connection of the session nothing is sent to that address.
+    // With interleaved transport, no data are sent to that address.
     const std::string source(parameter(transport, "source="));
     if (!source.empty() && transport.find("/TCP") == std::string_view::npos && !isSameAddress(source, m_host))
         object(StreamEnd::Redirected, "the device names another address for its data");
@@ -127,7 +127,7 @@ void ReplyWatch::endHeader()
         object(StreamEnd::Unsupported, "the device wants the password as plain text");
     else if (m_offersDigest && !m_isDigestKnown)
         object(StreamEnd::Unsupported, "the device wants a login of an unknown kind");
-    // FFmpeg keeps the session alive with its login, and goes on after a refusal.
+    // FFmpeg sends the login with its keep-alive requests, and continues after a refusal.
     if (m_isPlaying && m_hasSentLogin && m_status == unauthorised) {
         if (!m_isStale || m_wasStaleBefore)
             object(StreamEnd::Refused, "the device no longer accepts the login");

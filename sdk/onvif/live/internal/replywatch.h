@@ -1,4 +1,4 @@
-// What a device answers while a session is opened and runs.
+// Checks the RTSP responses of a device.
 #pragma once
 
 #include "sdk/onvif/live/streamend.h"
@@ -11,11 +11,11 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg takes answers of any length, as many tracks as are listed, and goes wherever it is sent. Of several
-/// challenges of HTTP Digest it takes the last one, and it knows MD5 only. It writes each line to its log
-/// before it acts on it, and nothing else of an answer, so the lines are read there: the session is
-/// interrupted before harm is done, and challenges that FFmpeg does not know are hidden from it. Belongs to
-/// the thread on which it was made: it takes all lines of that thread.
+/// FFmpeg accepts responses of any length, any number of tracks, and redirections to any address. Of several
+/// challenges of HTTP Digest it uses the last one, and it supports MD5 only. It logs each line of a response
+/// before it acts on it, so the lines are read from its log: the session is interrupted before FFmpeg acts on
+/// a harmful line, and unsupported challenges are hidden from FFmpeg. An object receives all log lines of the
+/// thread that created it, and is used by that thread only.
 class ReplyWatch
 {
 public:
@@ -26,16 +26,16 @@ public:
     /// `host` is the numeric address of the device.
     explicit ReplyWatch(std::string host);
 
-    /// Why the session must not go on, if it must not.
+    /// The reason to end the session; nothing while there is none.
     [[nodiscard]] std::optional<StreamEnd> objection() const { return m_objection; }
 
-    /// What the objection is, in words.
+    /// The text of the objection, for logs.
     [[nodiscard]] const std::string &text() const { return m_text; }
 
-    /// From now on an answer is no longer expected to ask for the login.
+    /// To be called when the device plays. From then on, a challenge for the login is a refusal.
     void notePlaying() { m_isPlaying = true; }
 
-    /// The status of the last answer, 0 before the first one.
+    /// The status of the last response, 0 before the first one.
     [[nodiscard]] int status() const { return m_status; }
 
 private:
@@ -56,11 +56,11 @@ private:
     bool m_offersPlainPassword = false;
     bool m_offersDigest = false;
     bool m_isDigestKnown = false;
-    bool m_isStale = false; ///< the answer refuses a number that was used for too long, not the password
-    bool m_wasStaleBefore = false; ///< the refusal before it was one of these
+    bool m_isStale = false;        ///< the response refuses an expired nonce, not the password
+    bool m_wasStaleBefore = false; ///< the previous refusal was such a response
     bool m_hasSentLogin = false;
     bool m_isPlaying = false;
-    const streams::ThreadLog m_log; // last: it calls the others
+    const streams::ThreadLog m_log; // the last member: its callback uses the others
 };
 
 } // namespace sdk::onvif

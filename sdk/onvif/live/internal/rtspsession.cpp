@@ -16,10 +16,10 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds farewell{200};
 
-/// Nothing else may be opened: no file, no tunnel, no other protocol that a device names.
+/// Other protocols are not allowed: no file, no tunnel, no other protocol that a device requests.
 constexpr const char *protocols = "rtsp,rtp,rtcp,udp,tcp";
 
-/// After the connection of the session nothing is connected any more.
+/// After the connection of the session is open, no other connection is allowed.
 constexpr const char *connectedProtocols = "rtp,rtcp,udp";
 
 constexpr int statusTooManyStreams = 453;
@@ -41,7 +41,7 @@ RtspSession::RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std:
 
 RtspSession::~RtspSession()
 {
-    // A farewell has the login, too.
+    // TEARDOWN contains the login, so it is not sent after a refusal.
     m_closedBy = m_end == StreamEnd::Refused ? Time::min() : Clock::now() + farewell;
     avformat_close_input(&m_format);
 }
@@ -55,7 +55,7 @@ bool RtspSession::open()
         return false;
     }
     m_format->interrupt_callback = {&RtspSession::isInterrupted, this};
-    // Pieces come as they are: what makes pictures of them in FFmpeg holds each one back until the next.
+    // Packets are delivered unparsed: FFmpeg's parsers hold each frame back until the next one.
     m_format->flags |= AVFMT_FLAG_NOPARSE | AVFMT_FLAG_NOFILLIN;
     m_format->max_streams = ReplyWatch::mostTracks;
     AVDictionary *options = nullptr;
@@ -90,7 +90,7 @@ const AVStream *RtspSession::track(AVMediaType type, std::initializer_list<AVCod
 
 bool RtspSession::read(AVPacket &packet)
 {
-    // FFmpeg does not always ask before it reads on.
+    // FFmpeg does not always call the interrupt callback before it reads.
     const int error = isInterrupted() ? AVERROR_EXIT : av_read_frame(m_format, &packet);
     if (error < 0)
         endWithError(error);
@@ -126,7 +126,7 @@ void RtspSession::checkTimes(Time now)
     if (m_dataBy && now > *m_dataBy)
         endWith(StreamEnd::NoData, "no picture came for " + secondsText(m_timeouts.silence));
     if (m_keyPictureBy && now > *m_keyPictureBy) {
-        endWith(StreamEnd::NoKeyPicture,
+        endWith(StreamEnd::NoKeyFrame,
                 "no picture to begin with came within " + secondsText(m_timeouts.keyPicture));
     }
 }
@@ -157,7 +157,7 @@ StreamEnd RtspSession::endOfError(int error) const
     case AVERROR_HTTP_NOT_FOUND:
         return StreamEnd::NotFound;
     case AVERROR_HTTP_BAD_REQUEST:
-    case AVERROR_HTTP_FORBIDDEN: // the account may not see the stream; the password may be right
+    case AVERROR_HTTP_FORBIDDEN: // the account lacks the right for the stream; the password may be correct
     case AVERROR_HTTP_OTHER_4XX:
     case AVERROR_HTTP_SERVER_ERROR:
         return m_watch.status() == statusTooManyStreams || m_watch.status() == statusUnavailable

@@ -1,4 +1,4 @@
-// The session in which a device sends a live stream.
+// The RTSP session of a live stream.
 #pragma once
 
 #include "sdk/onvif/live/internal/replywatch.h"
@@ -13,40 +13,42 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg's RTSP client within bounds of time, of size and of where it may go. On one thread.
+/// FFmpeg's RTSP client with limits of time, of size and of the addresses that it may connect to. Used by one
+/// thread.
 class RtspSession
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// `whenWaiting` is called about ten times a second while nothing arrives, from within read().
+    /// `whenWaiting` is called by read() about ten times per second while no data arrive.
     RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std::stop_token stop,
                 std::function<void()> whenWaiting);
 
-    /// Tells the device that it is over, and waits only a moment for that.
+    /// Sends TEARDOWN with a short timeout.
     ~RtspSession();
     RtspSession(const RtspSession &) = delete;
     RtspSession &operator=(const RtspSession &) = delete;
 
-    /// Blocks until the device plays. Returns false with an end.
+    /// Blocks until the device plays. Returns false on failure; end() then has the reason.
     [[nodiscard]] bool open();
 
-    /// The first track in one of these encodings; null without one.
+    /// The first track in one of these encodings; null if there is none.
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
-    /// Blocks until a piece of any track has come. Returns false with an end.
+    /// Blocks until a packet of any track has arrived. Returns false after the end of the session; end() then
+    /// has the reason.
     [[nodiscard]] bool read(AVPacket &packet);
 
-    /// A piece of a picture has come.
-    void notePicturePiece() { m_dataBy = std::chrono::steady_clock::now() + m_timeouts.silence; }
+    /// To be called after a video packet has arrived.
+    void noteVideoPacket() { m_dataBy = std::chrono::steady_clock::now() + m_timeouts.silence; }
 
-    /// The first picture that needs no earlier one has come.
-    void noteKeyPicture() { m_keyPictureBy.reset(); }
+    /// To be called after the first key frame.
+    void noteKeyFrame() { m_keyPictureBy.reset(); }
 
-    /// Why the session is over. Valid after a false.
+    /// The reason of the session's end. Valid after open() or read() has returned false.
     [[nodiscard]] StreamEnd end() const { return m_end.value_or(StreamEnd::Failed); }
 
-    /// What is known of that, without secrets.
+    /// A description of the reason for logs, without secrets.
     [[nodiscard]] const std::string &text() const { return m_text; }
 
 private:

@@ -12,9 +12,9 @@ namespace sdk::onvif {
 
 namespace {
 
-/// FFmpeg cuts longer ones off without a word.
+/// FFmpeg truncates longer paths silently.
 constexpr std::size_t longestPath = 1000;
-constexpr std::size_t longestAccount = 127; ///< with the password, a colon, and what had to be escaped
+constexpr std::size_t longestAccount = 127; ///< with the password, a colon and the escape sequences
 
 constexpr std::string_view scheme = "rtsp://";
 
@@ -26,8 +26,7 @@ bool isControl(char character)
     return code < firstPrintable || code == deletion;
 }
 
-/// The bytes of a numeric address; empty for anything else. An IPv6 address may end in the name of an
-/// interface.
+/// The bytes of a numeric address; empty for any other string. An IPv6 address may have a zone.
 std::vector<unsigned char> addressBytes(const std::string &text)
 {
     std::array<unsigned char, sizeof(in6_addr)> bytes{};
@@ -46,7 +45,7 @@ bool isPort(std::string_view text)
     return error == std::errc() && end == text.data() + text.size() && port > 0 && port <= largest;
 }
 
-/// `text` with only those bytes escaped that would end or change it: there is little room.
+/// `text` with only the necessary bytes escaped, since its length is limited.
 std::string escaped(const std::string &text)
 {
     constexpr std::string_view special = "%:@/?#[]";
@@ -71,7 +70,7 @@ std::optional<StreamEnd> readAccount(const RtspOrder &order, std::string &text)
         return std::nullopt;
     const bool isHarmful = std::any_of(order.account.begin(), order.account.end(), isControl) ||
                            std::any_of(order.password.begin(), order.password.end(), isControl);
-    // A colon ends the account, and FFmpeg does not escape within quotation marks.
+    // A colon ends the account, and FFmpeg does not escape quotation marks in quoted strings.
     if (isHarmful || order.account.find_first_of(":\"\\") != std::string::npos)
         return StreamEnd::BadAccount;
     text = escaped(order.account) + ':' + escaped(order.password);

@@ -24,10 +24,10 @@ void readH264(std::span<const std::uint8_t> unit, StreamUnit &read)
     const int type = unit[0] & typeMask;
     read.isSlice = type >= slice && type <= keySlice;
     if (type == slice || type == keySlice) {
-        // Its first number is that of its first block: the bit stands for 0.
-        read.beginsPicture = unit.size() > 1 && (unit[1] & firstBit) != 0;
+        // The first field of the slice header is the number of its first block: a set bit stands for 0.
+        read.startsFrame = unit.size() > 1 && (unit[1] & firstBit) != 0;
     } else {
-        read.beginsPicture =
+        read.startsFrame =
             (type >= information && type <= delimiter) || (type >= prefix && type <= lastReserved);
     }
     if (type == sequence)
@@ -52,11 +52,11 @@ void readH265(std::span<const std::uint8_t> unit, StreamUnit &read)
     const int type = (unit[0] >> 1) & typeMask;
     read.isSlice = type < firstOther;
     if (read.isSlice) {
-        read.beginsPicture = unit.size() > 2 && (unit[2] & firstBit) != 0;
+        read.startsFrame = unit.size() > 2 && (unit[2] & firstBit) != 0;
     } else {
-        read.beginsPicture = type <= delimiter || type == prefixInformation ||
-                             (type >= firstReserved && type <= lastReserved) ||
-                             (type >= firstUnspecified && type <= lastUnspecified);
+        read.startsFrame = type <= delimiter || type == prefixInformation ||
+                           (type >= firstReserved && type <= lastReserved) ||
+                           (type >= firstUnspecified && type <= lastUnspecified);
     }
     if (type == video)
         read.parameterSet = ParameterSet::Video;

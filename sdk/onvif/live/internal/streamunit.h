@@ -1,4 +1,4 @@
-// The units that streams of H.264 and H.265 consist of.
+// The NAL units of H.264 and H.265 streams.
 #pragma once
 
 #include "sdk/streams/avpointers.h"
@@ -17,7 +17,7 @@ enum class ParameterSet
     Picture,
 };
 
-/// The beginning of a unit.
+/// The start of a unit.
 struct StreamUnit
 {
     std::size_t place = 0;    ///< of its start code
@@ -25,11 +25,12 @@ struct StreamUnit
     std::size_t headSize = 0; ///< of start code and header
     ParameterSet parameterSet = ParameterSet::None;
     bool isSlice = false;
-    /// After a slice it belongs to the next picture; for a slice: it is the first one of its picture.
-    bool beginsPicture = false;
+    /// For a slice: it is the first one of its frame. For other units: after a slice, the unit belongs to the
+    /// next frame.
+    bool startsFrame = false;
 };
 
-/// The first unit in `bytes` that begins with a start code and has a header; nothing without one.
+/// The first unit in `bytes` with a start code and a header; nothing if there is none.
 [[nodiscard]] std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodecID codec);
 
 /// The first slice among the units of `bytes`.

@@ -11,7 +11,7 @@ std::int64_t Timeline::place(std::optional<std::int64_t> time, std::int64_t arri
     m_arrival = arrival;
     m_last = expected;
     if (time) {
-        // Unsigned, since a hostile time may be any number.
+        // Unsigned, since the time from the device may be any number.
         const auto distance = static_cast<std::int64_t>(static_cast<std::uint64_t>(*time) +
                                                         static_cast<std::uint64_t>(m_offset) -
                                                         static_cast<std::uint64_t>(expected));

@@ -1,4 +1,4 @@
-// Times of a track that go on evenly.
+// Continuous timestamps of a track.
 #pragma once
 
 #include <cstdint>
@@ -6,16 +6,16 @@
 
 namespace sdk::onvif {
 
-/// Devices set their clocks, and some count badly: a time that is far from where it should be, by the time
-/// that has passed, is taken for a new count. In microseconds. Belongs to one thread.
+/// Devices set their clocks, and some have faulty timestamps: a timestamp that differs too much from the
+/// elapsed time starts a new count. In microseconds. Used by one thread.
 class Timeline
 {
 public:
-    /// Where a packet of time `time`, which arrived at `arrival` on a steady clock, stands. Without a time it
-    /// follows on the last one by what has passed since.
+    /// The continuous timestamp of a packet with the timestamp `time`, which arrived at `arrival` on a steady
+    /// clock. A packet without a timestamp gets the last one plus the time elapsed since.
     [[nodiscard]] std::int64_t place(std::optional<std::int64_t> time, std::int64_t arrival);
 
-    static constexpr std::int64_t largestStep = 5'000'000; ///< more than what has passed, or less
+    static constexpr std::int64_t largestStep = 5'000'000; ///< largest difference from the elapsed time
 
 private:
     bool m_hasBegun = false;

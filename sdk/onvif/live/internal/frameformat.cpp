@@ -1,4 +1,4 @@
-#include "sdk/onvif/live/internal/pictureformat.h"
+#include "sdk/onvif/live/internal/frameformat.h"
 
 #include "sdk/onvif/live/internal/streamunit.h"
 
@@ -12,7 +12,7 @@ using streams::AvPointer;
 
 namespace {
 
-/// The parameter sets before the first slice, each once; empty without one of each kind that is needed.
+/// The parameter sets before the first slice, each once; empty unless all required types are present.
 std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture, AVCodecID codec)
 {
     constexpr std::array<std::uint8_t, 4> startCode = {0, 0, 0, 1};
@@ -25,7 +25,7 @@ std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture,
         const std::optional<StreamUnit> next = firstUnit(picture.subspan(unit->headSize), codec);
         const std::size_t size = next ? unit->headSize + next->place : picture.size();
         if (unit->parameterSet != ParameterSet::None) {
-            // Start codes are of two lengths.
+            // Start codes have three or four bytes.
             std::vector<std::uint8_t> one(startCode.begin(), startCode.end());
             const std::span<const std::uint8_t> body = picture.first(size).subspan(unit->codeSize);
             one.insert(one.end(), body.begin(), body.end());
@@ -44,14 +44,14 @@ std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture,
 
 } // namespace
 
-std::unique_ptr<PictureFormat> PictureFormat::of(const AVCodecParameters &track)
+std::unique_ptr<FrameFormat> FrameFormat::of(const AVCodecParameters &track)
 {
     if (track.codec_id != AV_CODEC_ID_H264 && track.codec_id != AV_CODEC_ID_HEVC &&
         track.codec_id != AV_CODEC_ID_MJPEG) {
         return nullptr;
     }
     // Not make_unique: the constructor is private.
-    std::unique_ptr<PictureFormat> format(new PictureFormat);
+    std::unique_ptr<FrameFormat> format(new FrameFormat);
     format->m_track.reset(avcodec_parameters_alloc());
     if (!format->m_track || avcodec_parameters_copy(format->m_track.get(), &track) < 0)
         return nullptr;
@@ -68,7 +68,7 @@ std::unique_ptr<PictureFormat> PictureFormat::of(const AVCodecParameters &track)
     return format;
 }
 
-bool PictureFormat::examine(std::span<const std::uint8_t> picture)
+bool FrameFormat::examine(std::span<const std::uint8_t> picture)
 {
     if (m_track->codec_id == AV_CODEC_ID_MJPEG)
         return examineJpeg(picture);
@@ -84,24 +84,24 @@ bool PictureFormat::examine(std::span<const std::uint8_t> picture)
     return !m_parameterSets.empty();
 }
 
-void PictureFormat::takeParameterSets(std::span<const std::uint8_t> picture)
+void FrameFormat::takeParameterSets(std::span<const std::uint8_t> picture)
 {
     std::vector<std::uint8_t> sets = parameterSetsOf(picture, m_track->codec_id);
     if (!sets.empty())
         m_parameterSets = std::move(sets);
 }
 
-bool PictureFormat::examineJpeg(std::span<const std::uint8_t> picture)
+bool FrameFormat::examineJpeg(std::span<const std::uint8_t> picture)
 {
     constexpr std::uint8_t marker = 0xff;
-    constexpr std::uint8_t firstFrameMarker = 0xc0; // the baseline kind and two rarer ones
+    constexpr std::uint8_t firstFrameMarker = 0xc0; // baseline and two rarer types
     constexpr std::uint8_t lastFrameMarker = 0xc2;
     constexpr std::size_t headSize = 9; // marker, length, precision, height, width
     const auto number = [&picture](std::size_t place) {
         constexpr int byte = 8;
         return picture[place] << byte | picture[place + 1];
     };
-    std::size_t place = 2; // after the mark of the begin
+    std::size_t place = 2; // after the start marker
     while (place + headSize <= picture.size() && picture[place] == marker) {
         const std::uint8_t kind = picture[place + 1];
         if (kind >= firstFrameMarker && kind <= lastFrameMarker) {
@@ -114,7 +114,7 @@ bool PictureFormat::examineJpeg(std::span<const std::uint8_t> picture)
     return false;
 }
 
-AvPointer<AVCodecParameters> PictureFormat::parameters() const
+AvPointer<AVCodecParameters> FrameFormat::parameters() const
 {
     AvPointer<AVCodecParameters> result(avcodec_parameters_alloc());
     if (!result || avcodec_parameters_copy(result.get(), m_track.get()) < 0)
@@ -134,7 +134,7 @@ AvPointer<AVCodecParameters> PictureFormat::parameters() const
     return result;
 }
 
-bool PictureFormat::isSame(const AVCodecParameters &other) const
+bool FrameFormat::isSame(const AVCodecParameters &other) const
 {
     const std::span<const std::uint8_t> sets(other.extradata, static_cast<std::size_t>(other.extradata_size));
     return other.width == m_width && other.height == m_height &&

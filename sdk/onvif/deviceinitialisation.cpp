@@ -1,4 +1,4 @@
-#include "sdk/onvif/firstpassword.h"
+#include "sdk/onvif/deviceinitialisation.h"
 
 #include "sdk/onvif/mapping/systemmapping.h"
 #include "sdk/onvif/services/deviceservice.h"
@@ -7,8 +7,8 @@
 
 namespace sdk::onvif {
 
-NetError giveFirstPassword(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
-                           const HttpLogin &account, const std::string &mac, SoapClient::Deadline deadline)
+NetError initialiseDevice(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
+                          const HttpLogin &account, const std::string &mac, SoapClient::Deadline deadline)
 {
     SoapClient client(HttpLogin{}, http);
     DeviceService device(client, service, deadline);

@@ -1,8 +1,8 @@
-#include "sdk/onvif/live/internal/pictureassembler.h"
+#include "sdk/onvif/live/internal/frameassembler.h"
 
 namespace sdk::onvif {
 
-void PictureAssembler::add(std::span<const std::uint8_t> piece, std::int64_t time)
+void FrameAssembler::add(std::span<const std::uint8_t> piece, std::int64_t time)
 {
     if (m_codec != AV_CODEC_ID_H264 && m_codec != AV_CODEC_ID_HEVC) {
         m_picture.assign(piece.begin(), piece.end());
@@ -14,14 +14,13 @@ void PictureAssembler::add(std::span<const std::uint8_t> piece, std::int64_t tim
     if (unit && unit->place == 0)
         addUnits(piece, *unit, time);
     else
-        append(piece); // a fragment that goes on
+        append(piece); // a continued fragment
 }
 
-void PictureAssembler::addUnits(std::span<const std::uint8_t> units, const StreamUnit &first,
-                                std::int64_t time)
+void FrameAssembler::addUnits(std::span<const std::uint8_t> units, const StreamUnit &first, std::int64_t time)
 {
     const std::optional<StreamUnit> slice = firstSlice(units, m_codec);
-    const bool isNext = m_hasSlices && (first.beginsPicture || !m_held.empty());
+    const bool isNext = m_hasSlices && (first.startsFrame || !m_held.empty());
     if (isNext && !slice) {
         if (m_held.empty())
             m_heldTime = time;
@@ -29,7 +28,7 @@ void PictureAssembler::addUnits(std::span<const std::uint8_t> units, const Strea
         append(units);
         return;
     }
-    if (isNext && slice->beginsPicture)
+    if (isNext && slice->startsFrame)
         finish();
     m_held.clear();
     if (m_picture.empty())
@@ -39,7 +38,7 @@ void PictureAssembler::addUnits(std::span<const std::uint8_t> units, const Strea
     append(units);
 }
 
-void PictureAssembler::finish()
+void FrameAssembler::finish()
 {
     if (m_hasSlices)
         deliver();
@@ -49,7 +48,7 @@ void PictureAssembler::finish()
     m_place = m_place == Place::Held ? Place::Picture : Place::Nowhere;
 }
 
-void PictureAssembler::append(std::span<const std::uint8_t> bytes)
+void FrameAssembler::append(std::span<const std::uint8_t> bytes)
 {
     if (m_place == Place::Nowhere)
         return;
@@ -64,7 +63,7 @@ void PictureAssembler::append(std::span<const std::uint8_t> bytes)
     end.insert(end.end(), bytes.begin(), bytes.end());
 }
 
-void PictureAssembler::deliver()
+void FrameAssembler::deliver()
 {
     const std::size_t size = m_picture.size();
     m_picture.resize(size + AV_INPUT_BUFFER_PADDING_SIZE);

@@ -1,4 +1,4 @@
-// What has to be known of pictures before they can be decoded.
+// The parameters that a decoder needs before the first frame.
 #pragma once
 
 #include "sdk/streams/avpointers.h"
@@ -10,26 +10,27 @@
 
 namespace sdk::onvif {
 
-/// Follows the size and the parameters of a track from picture to picture. Belongs to one thread.
-class PictureFormat
+/// Follows the size and the parameters of a track from frame to frame. Used by one thread.
+class FrameFormat
 {
 public:
-    /// `track` is what the description of the stream says. Returns null for a codec that no decoder port
-    /// takes.
-    [[nodiscard]] static std::unique_ptr<PictureFormat> of(const AVCodecParameters &track);
+    /// `track` has the parameters of the stream's description. Returns null for a codec that no decoder port
+    /// supports.
+    [[nodiscard]] static std::unique_ptr<FrameFormat> of(const AVCodecParameters &track);
 
-    /// Looks at a whole picture, followed by AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns whether decoding can
-    /// begin with it, and all is known that is needed for that.
+    /// Checks a complete frame, followed by AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns true if decoding can
+    /// start with it and all required parameters are known.
     [[nodiscard]] bool examine(std::span<const std::uint8_t> picture);
 
-    /// The track as the pictures say it is. Valid after examine() has returned true; null without memory.
+    /// The parameters of the track according to its frames. Valid after examine() has returned true; null
+    /// when memory is exhausted.
     [[nodiscard]] streams::AvPointer<AVCodecParameters> parameters() const;
 
-    /// Whether `other` tells a decoder the same.
+    /// True if `other` is equivalent for a decoder.
     [[nodiscard]] bool isSame(const AVCodecParameters &other) const;
 
 private:
-    PictureFormat() = default;
+    FrameFormat() = default;
     [[nodiscard]] bool examineJpeg(std::span<const std::uint8_t> picture);
     void takeParameterSets(std::span<const std::uint8_t> picture);
 

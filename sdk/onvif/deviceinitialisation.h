@@ -12,8 +12,8 @@ namespace sdk::onvif {
 /// without a login. NotSupported if the device already has an administrator; AddressInUse if the device is
 /// not the one with `mac`, where both are known; Refused if it goes on answering anybody; Unconfirmed if it
 /// has taken the account and does not answer the check.
-[[nodiscard]] NetError giveFirstPassword(const ServiceAddress &service,
-                                         const std::shared_ptr<HttpClient> &http, const HttpLogin &account,
-                                         const std::string &mac, SoapClient::Deadline deadline);
+[[nodiscard]] NetError initialiseDevice(const ServiceAddress &service,
+                                        const std::shared_ptr<HttpClient> &http, const HttpLogin &account,
+                                        const std::string &mac, SoapClient::Deadline deadline);
 
 } // namespace sdk::onvif

@@ -1,0 +1,65 @@
+// Assembles frames from received fragments.
+#pragma once
+
+#include "sdk/onvif/live/internal/streamunit.h"
+#include "sdk/streams/avpointers.h"
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <utility>
+#include <vector>
+
+namespace sdk::onvif {
+
+/// FFmpeg's RTP depacketizers deliver H.264 and H.265 as fragments of the stream's units. A frame is complete
+/// when the first slice of the next frame arrives, or when the owner calls finish(). Frames of other codecs
+/// arrive complete. Used by one thread.
+class FrameAssembler
+{
+public:
+    /// `bytes` are followed by AV_INPUT_BUFFER_PADDING_SIZE zeros, and are valid during the call. `time` is
+    /// the time of the frame's first fragment.
+    using Handler = std::function<void(std::span<const std::uint8_t> bytes, std::int64_t time)>;
+
+    /// No camera sends larger frames.
+    static constexpr std::size_t mostBytes = std::size_t{8} * 1024 * 1024;
+
+    FrameAssembler(AVCodecID codec, Handler handler) : m_codec(codec), m_handler(std::move(handler)) {}
+
+    /// Appends the next fragment, and delivers the frame before it if that is now complete.
+    void add(std::span<const std::uint8_t> piece, std::int64_t time);
+
+    /// True if finish() would deliver a frame.
+    [[nodiscard]] bool hasPicture() const { return m_hasSlices; }
+
+    /// Delivers the received fragments as a complete frame. Later fragments of it are dropped.
+    void finish();
+
+private:
+    /// The destination of the next fragment.
+    enum class Place
+    {
+        Nowhere, ///< dropped: the start of its unit is missing
+        Picture,
+        Held,
+    };
+
+    void addUnits(std::span<const std::uint8_t> units, const StreamUnit &first, std::int64_t time);
+    void append(std::span<const std::uint8_t> bytes);
+    void deliver();
+
+    const AVCodecID m_codec;
+    const Handler m_handler;
+    std::vector<std::uint8_t> m_picture;
+    std::int64_t m_time = 0;
+    bool m_hasSlices = false;
+
+    /// Units after a slice, which usually belong to the next frame. Some devices repeat their parameters
+    /// before each slice: then the next slice is not the first one of a frame, and these units are dropped.
+    std::vector<std::uint8_t> m_held;
+    std::int64_t m_heldTime = 0;
+    Place m_place = Place::Nowhere;
+};
+
+} // namespace sdk::onvif
