@@ -10,7 +10,7 @@ namespace site {
 
 namespace {
 
-/// Sets `choice` to the value of that name. Returns false for a name that is not among them.
+/// Sets `choice` to the value of that name. Returns false for an unknown name.
 template<typename Choice>
 bool choose(Choice &choice, const QString &name, const QMap<QString, Choice> &choices)
 {

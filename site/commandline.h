@@ -11,13 +11,13 @@ struct CommandLine
 {
     QString scene = QStringLiteral("office");
     QString interface = QStringLiteral("eth0");
-    int mostDevices = 0; ///< of the scene, from its begin; 0 for all
+    int mostDevices = 0; ///< the first ones of the scene; 0 for all
     bool lists = false;
     bool help = false;
     SiteOptions options;
-    QString error; ///< a sentence; empty when all is well
+    QString error; ///< a sentence; empty on success
 
-    /// `arguments` begin with the name of the program.
+    /// The first one of `arguments` is the name of the program.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
     [[nodiscard]] static QString usage();
 };

@@ -46,7 +46,7 @@ QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &m
         scopes.append(scope(u"Profile/T"_s));
     scopes.append(scope(u"location/"_s));
     scopes.append(scope(u"hardware/"_s + encoded(toldModel(device))));
-    scopes.append(scope(u"name/"_s + encoded(toldName(device))));
+    scopes.append(scope(u"name/"_s + encoded(reportedName(device))));
     return scopes;
 }
 
@@ -72,7 +72,7 @@ DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device, const 
     return identity;
 }
 
-std::string toldName(const sdk::demo::SceneDevice &device)
+std::string reportedName(const sdk::demo::SceneDevice &device)
 {
     constexpr int anyVersion = 4;
     return std::string(sdk::blockText(searchAnswer(device, anyVersion, {}).device.deviceName));

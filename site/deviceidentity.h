@@ -1,4 +1,4 @@
-// How a device calls itself on the network.
+// The identifiers of a device on the network.
 #pragma once
 
 #include "sdk/demo/scene.h"
@@ -12,24 +12,24 @@ namespace site {
 inline constexpr int rtspPort = 554;
 inline constexpr const char *deviceServicePath = "/onvif/device_service";
 
-/// Where the services of a device listen, also when it has no web page.
+/// The port of a device's services, also of a device without a web page.
 [[nodiscard]] int servicePortOf(const sdk::demo::SceneDevice &device);
 
-/// "urn:uuid:...": from the MAC, but does not tell it.
+/// "urn:uuid:...": derived from the MAC, which it does not reveal.
 [[nodiscard]] QString endpointOf(const sdk::demo::SceneDevice &device);
 
-/// "onvif://www.onvif.org/name/Gate" and the like.
+/// Scopes such as "onvif://www.onvif.org/name/Gate".
 [[nodiscard]] QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &manner);
 
-/// "http://192.168.1.101", "https://[fd00::31]:8443": to be followed by a path.
+/// "http://192.168.1.101", "https://[fd00::31]:8443": a URL without its path.
 [[nodiscard]] QString serviceRoot(const QString &address, int port, bool isSecure = false);
 
-/// What it says to a client that asks over IPv4 or IPv6: the address of that kind first.
+/// The identity for a request over IPv4 or IPv6; its first address is of the same family.
 [[nodiscard]] DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device,
                                                   const DeviceManner &manner, int ipVersion);
 
-/// A text of the device as its faults have it: with odd bytes, or overlong.
-[[nodiscard]] std::string toldName(const sdk::demo::SceneDevice &device);
+/// The name of the device; with the corresponding faults it has invalid bytes, or is too long.
+[[nodiscard]] std::string reportedName(const sdk::demo::SceneDevice &device);
 [[nodiscard]] std::string toldModel(const sdk::demo::SceneDevice &device);
 
 } // namespace site

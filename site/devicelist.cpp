@@ -11,7 +11,7 @@ namespace site {
 
 namespace {
 
-/// As wide as the network of the first local device.
+/// The prefix length of the first local device.
 int localPrefixLength(const QList<SceneDevice> &devices)
 {
     constexpr int usual = 24;

@@ -1,4 +1,4 @@
-// The devices of a site as a list to read, also by scripts.
+// The devices of a site as a list that scripts can read.
 #pragma once
 
 #include <QString>
@@ -9,7 +9,7 @@ class DemoSite;
 
 namespace site {
 
-/// A line for the installer's computer, then one for each device, their columns parted by tabulators.
+/// A line for the installer's computer, then one for each device. The columns are separated by tabs.
 [[nodiscard]] QString deviceList(const sdk::demo::DemoSite &site);
 
 } // namespace site

@@ -48,7 +48,7 @@ LoginOutcome DeviceLogins::check(const SceneDevice &device, const DeviceManner &
                                : manner.offersMd5;
     const DigestNonces::State nonce = m_nonces.check(response->nonce, device.mac, now);
     if (nonce != DigestNonces::State::Good || !isOffered) {
-        // No password was tried: the client is asked again.
+        // No password was tried: the client gets another challenge.
         LoginOutcome again;
         again.isStale = nonce == DigestNonces::State::Old;
         return again;

@@ -1,4 +1,4 @@
-// Who may ask a device for what.
+// The rights of clients at a device.
 #pragma once
 
 #include "sdk/demo/internal/devicelogin.h"
@@ -22,14 +22,15 @@ enum class UserLevel
 
 struct LoginOutcome
 {
-    UserLevel level = UserLevel::Anonymous; ///< what the device takes the client for
+    UserLevel level = UserLevel::Anonymous; ///< of the client
     QString user;
-    bool wasTried = false;                                               ///< the client has named a user
-    bool isStale = false;                                                ///< by a nonce that is too old
+    bool wasTried = false;                                               ///< the request contains a user name
+    bool isStale = false;                                                ///< the nonce has expired
     QString reason = QStringLiteral("A user and a password are needed"); ///< why nobody was let in
 };
 
-/// All ways to log in to the devices of a site; together they count the wrong passwords. Thread-safe.
+/// The logins of all protocols to the devices of a site, with common counters of wrong passwords.
+/// Thread-safe.
 class DeviceLogins
 {
 public:
@@ -42,7 +43,7 @@ public:
                                      const QByteArray &authorization, const QByteArray &method,
                                      std::int64_t now);
 
-    /// The values of the headers "WWW-Authenticate" that ask for a login.
+    /// The values of the headers "WWW-Authenticate" of a challenge.
     [[nodiscard]] QByteArrayList challenges(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                             bool isStale, std::int64_t now) const;
 

@@ -5,7 +5,7 @@ namespace site {
 DeviceManner mannerOf(const sdk::demo::SceneDevice &device, LoginChoice login, DigestChoice digest)
 {
     DeviceManner manner;
-    // Devices older than the rule of the first password are older than these, too.
+    // Devices without initialisation are also older than these features.
     const bool isOld = device.initialisation == sdk::InitialisationBits::NotReported;
     manner.hasMedia2 = !isOld;
     if (device.type == QLatin1String("NVR")) {

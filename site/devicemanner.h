@@ -1,4 +1,4 @@
-// What differs between the makes of devices on a site, beside what their scene says.
+// The differences between makes of devices that the scene does not define.
 #pragma once
 
 #include "sdk/demo/scene.h"
@@ -6,7 +6,7 @@
 
 namespace site {
 
-/// Which logins the program lets devices take.
+/// The login methods that devices accept.
 enum class LoginChoice
 {
     ByDevice,
@@ -15,7 +15,7 @@ enum class LoginChoice
     Both,
 };
 
-/// Which algorithms of HTTP Digest devices offer.
+/// The algorithms of HTTP Digest that devices offer.
 enum class DigestChoice
 {
     ByDevice,
@@ -32,10 +32,10 @@ struct DeviceManner
     bool offersMd5 = true;
     bool offersSha256 = false;
     bool hasMedia2 = true;
-    bool changesAddressAtReboot = false; ///< a new address holds from the next start on
+    bool changesAddressAtReboot = false; ///< a new address is used after the next restart
 };
 
-/// By the type of the device, so that a site has some of each.
+/// Depends on the type of the device, so that a site has different makes.
 [[nodiscard]] DeviceManner mannerOf(const sdk::demo::SceneDevice &device, LoginChoice login,
                                     DigestChoice digest);
 

@@ -23,7 +23,7 @@ int fail(const QString &sentence, int code = 1)
     return code;
 }
 
-/// The signals that end the program; blocked in every thread, so that they wait until they are asked for.
+/// Blocks the signals that end the program in every thread, so that they stay pending for sigtimedwait().
 sigset_t blockEndSignals()
 {
     sigset_t signals = {};
@@ -34,11 +34,11 @@ sigset_t blockEndSignals()
     return signals;
 }
 
-/// Keeps the site on the network until a signal comes.
+/// Keeps the site on the network until a signal arrives.
 void serve(site::SiteServer &server, const sigset_t &endSignals)
 {
     constexpr std::int64_t nanoseconds = 1000000;
-    const timespec pause = {0, static_cast<long>(site::SiteServer::lookEvery.count() * nanoseconds)};
+    const timespec pause = {0, static_cast<long>(site::SiteServer::followInterval.count() * nanoseconds)};
     while (sigtimedwait(&endSignals, nullptr, &pause) < 0)
         server.follow();
 }
@@ -70,7 +70,7 @@ int main(int argc, char *argv[])
     }
     const QString &folder = line.options.recordFolder;
     if (!folder.isEmpty() && !QDir().mkpath(folder))
-        return fail(u"the folder \"%1\" cannot be made"_s.arg(folder));
+        return fail(u"the folder \"%1\" cannot be created"_s.arg(folder));
 
     const sigset_t endSignals = blockEndSignals();
     site::SiteServer server(*scene, line.options);

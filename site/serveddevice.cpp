@@ -11,7 +11,7 @@ namespace site {
 
 namespace {
 
-/// How long a device keeps its address after it was given another one.
+/// The time in ms until a device uses its new address.
 constexpr std::int64_t moment = 500;
 
 } // namespace
@@ -58,13 +58,13 @@ void ServedDevice::follow(const sdk::demo::SceneDevice &device, std::int64_t now
 void ServedDevice::leave()
 {
     if (m_discovery)
-        m_discovery->sayBye();
+        m_discovery->sendBye();
     disappear();
 }
 
 void ServedDevice::appear(const Shape &shape)
 {
-    m_shape = shape; // also when it fails: the next try comes with the next change
+    m_shape = shape; // also on failure: the next change is the next attempt
     QString error;
     if (!m_interface->bringUp(shape.network, &error)) {
         qCWarning(siteLog, "%ls", qUtf16Printable(error));
@@ -80,7 +80,7 @@ void ServedDevice::appear(const Shape &shape)
     m_discovery =
         std::make_unique<DiscoveryPort>(m_parts.site, m_parts.poller, m_parts.options, m_mac, *m_interface);
     if (m_discovery->isOpen())
-        m_discovery->sayHello();
+        m_discovery->sendHello();
     else
         qCWarning(siteLog, "%ls cannot be found: port %d is taken", qUtf16Printable(m_mac),
                   DiscoveryPort::port);

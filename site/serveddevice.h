@@ -19,7 +19,7 @@ namespace site {
 class HttpServer;
 class Poller;
 
-/// Follows its device: what changes there, changes the interface and the sockets. Belongs to one thread.
+/// Follows its device: changes of the device change the interface and the sockets. Used by one thread.
 class ServedDevice
 {
 public:
@@ -40,15 +40,15 @@ public:
 
     [[nodiscard]] const QString &mac() const { return m_mac; }
 
-    /// Brings the network in line with the device. `now` is the time on the site's clock; a new address
-    /// holds a moment after it was set, so that the response to the request that set it is sent before.
+    /// Updates the network to the state of the device. `now` is the time on the site's clock. A new address
+    /// is used after a delay, so that the response to the request that set it is sent from the old one.
     void follow(const sdk::demo::SceneDevice &device, std::int64_t now);
 
-    /// Takes the device off the network; it says so before, if it can.
+    /// Removes the device from the network, after a Bye message if possible.
     void leave();
 
 private:
-    /// What the network of the device is made from.
+    /// The state that determines the network of the device.
     struct Shape
     {
         DeviceNetwork network;
@@ -68,14 +68,14 @@ private:
     const Parts m_parts;
     const QString m_mac;
     const std::unique_ptr<DeviceInterface> m_interface;
-    std::optional<Shape> m_shape; // as it is on the network; nothing while it is away
-    Shape m_wanted;               // as the device is
+    std::optional<Shape> m_shape; // present state on the network; nothing while the device is offline
+    Shape m_wanted;               // state of the device
     std::int64_t m_wantedSince = 0;
     std::unique_ptr<DiscoveryPort> m_discovery;
     RtspPort m_rtsp;
     FileDescriptor m_httpListener;
     FileDescriptor m_httpsListener;
-    std::shared_ptr<const sdk::demo::DeviceKey> m_key; // from the first start with HTTPS on
+    std::shared_ptr<const sdk::demo::DeviceKey> m_key; // created at the first start with HTTPS
     FileDescriptor m_rtspListener;
 };
 

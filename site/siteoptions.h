@@ -1,4 +1,4 @@
-// What the program was started with, as far as the devices need it.
+// The command line options that the devices use.
 #pragma once
 
 #include "site/devicemanner.h"
@@ -12,7 +12,7 @@ struct SiteOptions
     LoginChoice login = LoginChoice::ByDevice;
     DigestChoice digest = DigestChoice::ByDevice;
     QString recordFolder; ///< for every message of a service; empty for none
-    bool newKeys = false; ///< a device makes another key for HTTPS each time it comes to the network
+    bool newKeys = false; ///< a device creates another HTTPS key at each start
 
     [[nodiscard]] DeviceManner mannerOf(const sdk::demo::SceneDevice &device) const
     {

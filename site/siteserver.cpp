@@ -15,8 +15,8 @@ namespace site {
 
 SiteServer::SiteServer(DemoSite &site, const SiteOptions &options)
     : m_site(site), m_options(options),
-      m_uploads(site, m_poller), m_context{site, options, m_logins, m_keyPictures, m_uploads},
-      m_web(m_context), m_http(m_web, site.clock()), m_rtsp{site, options, m_logins, m_keyPictures, m_poller}
+      m_uploads(site, m_poller), m_context{site, options, m_logins, m_keyFrames, m_uploads}, m_web(m_context),
+      m_http(m_web, site.clock()), m_rtsp{site, options, m_logins, m_keyFrames, m_poller}
 {
 }
 
@@ -24,8 +24,7 @@ SiteServer::~SiteServer()
 {
     for (const std::unique_ptr<ServedDevice> &device : m_devices)
         device->leave();
-    // Nothing accepts connections any more, and what the poller's thread still does must end before its
-    // parts.
+    // First the devices, which accept connections; then the poller's thread, before the objects that it uses.
     m_devices.clear();
     m_poller.stop();
 }

@@ -1,9 +1,9 @@
-// A whole site on the network.
+// A complete site on the network.
 #pragma once
 
 #include "site/http/httpserver.h"
 #include "site/network/poller.h"
-#include "site/rtsp/keypictures.h"
+#include "site/rtsp/keyframes.h"
 #include "site/serveddevice.h"
 #include "site/services/deviceweb.h"
 #include "site/services/firmwareuploads.h"
@@ -20,33 +20,33 @@ class DemoSite;
 
 namespace site {
 
-/// Belongs to one thread, in whose network namespace the interface of the site is.
+/// Used by one thread, whose network namespace contains the interface of the site.
 class SiteServer
 {
 public:
-    /// How often changes of the devices are looked for.
-    static constexpr std::chrono::milliseconds lookEvery{50};
+    /// The interval of follow().
+    static constexpr std::chrono::milliseconds followInterval{50};
 
     /// `site` and `options` must outlive the server.
     SiteServer(sdk::demo::DemoSite &site, const SiteOptions &options);
     ~SiteServer();
 
-    /// Brings the devices to the interface of that name. Returns false, and says why, when that cannot be.
+    /// Connects the devices to the interface of that name. On failure it returns false and sets `error`.
     [[nodiscard]] bool start(const QString &interfaceName, QString *error);
 
-    /// Brings the network in line with the devices; to be called every lookEvery.
+    /// Updates the network to the state of the devices; to be called every followInterval.
     void follow();
 
     [[nodiscard]] std::size_t deviceCount() const { return m_devices.size(); }
 
-    /// Why a device cannot be on a network; empty for one that can.
+    /// The reason why a device cannot be on a network; empty if it can.
     [[nodiscard]] static QString objectionTo(const sdk::demo::SceneDevice &device);
 
 private:
     sdk::demo::DemoSite &m_site;
     const SiteOptions &m_options;
     DeviceLogins m_logins;
-    KeyPictures m_keyPictures;
+    KeyFrames m_keyFrames;
     Poller m_poller;
     FirmwareUploads m_uploads;
     ServiceContext m_context;

@@ -36,9 +36,9 @@ void readProbe(pugi::xml_node probe, DiscoveryRequest &request)
     const pugi::xml_node scopes = childNamed(probe, "d:Scopes");
     request.scopes = wordsOf(textOf(scopes));
     const std::string_view rule = scopes.attribute("MatchBy").value();
-    request.comparesWhole = rule == std::string(discoveryUri) + "/strcmp0";
+    request.comparesCharacters = rule == std::string(discoveryUri) + "/strcmp0";
     request.knowsRule =
-        rule.empty() || request.comparesWhole || rule == std::string(discoveryUri) + "/rfc3986";
+        rule.empty() || request.comparesCharacters || rule == std::string(discoveryUri) + "/rfc3986";
 }
 
 bool isKnownType(const DiscoveryRequest::Type &type)
@@ -47,10 +47,10 @@ bool isKnownType(const DiscoveryRequest::Type &type)
            (type.uri == namespaceUri("tds") && type.name == "Device");
 }
 
-/// By parts: the same scheme and host, and all of the path's parts at its begin.
-bool scopeFits(const QString &wanted, const QString &had, bool comparesWhole)
+/// Comparison by segments: the same scheme and host, and a path that starts with the same segments.
+bool scopeFits(const QString &wanted, const QString &had, bool comparesCharacters)
 {
-    if (comparesWhole || wanted == had)
+    if (comparesCharacters || wanted == had)
         return wanted == had;
     const QUrl wantedUrl(wanted);
     const QUrl hadUrl(had);
@@ -121,7 +121,7 @@ bool matches(const DiscoveryRequest &request, const DiscoveryIdentity &identity)
     return request.knowsRule && std::all_of(request.types.begin(), request.types.end(), isKnownType) &&
            std::all_of(request.scopes.begin(), request.scopes.end(), [&](const QString &wanted) {
                return std::any_of(identity.scopes.begin(), identity.scopes.end(), [&](const QString &had) {
-                   return scopeFits(wanted, had, request.comparesWhole);
+                   return scopeFits(wanted, had, request.comparesCharacters);
                });
            });
 }

@@ -1,4 +1,4 @@
-// What devices hear and say so that clients find them.
+// The discovery messages that devices receive and send.
 #pragma once
 
 #include "site/soap/xmlwriting.h"
@@ -14,13 +14,13 @@
 
 namespace site {
 
-/// A message that a device may answer.
+/// A message that a device may respond to.
 struct DiscoveryRequest
 {
     enum class Kind
     {
-        Probe,   ///< who is there of these types and scopes?
-        Resolve, ///< where is this device?
+        Probe,   ///< for devices of these types and scopes
+        Resolve, ///< for the addresses of one device
     };
     struct Type
     {
@@ -29,25 +29,25 @@ struct DiscoveryRequest
     };
     Kind kind = Kind::Probe;
     QString messageId;
-    std::vector<Type> types;    ///< a device must be of all of them
-    QStringList scopes;         ///< a device must have all of them
-    bool comparesWhole = false; ///< scopes letter by letter, not by their parts
-    bool knowsRule = true;      ///< false for a rule of comparing scopes that devices do not know
-    QString endpoint;           ///< of Resolve
+    std::vector<Type> types;         ///< a device must be of all of them
+    QStringList scopes;              ///< a device must have all of them
+    bool comparesCharacters = false; ///< scopes by characters, not by segments
+    bool knowsRule = true;           ///< false for an unknown matching rule of scopes
+    QString endpoint;                ///< of Resolve
 };
 
-/// Nothing for what is no such message.
+/// Nothing for any other message.
 [[nodiscard]] std::optional<DiscoveryRequest> readDiscoveryRequest(const QByteArray &bytes);
 
-/// What a device says of itself.
+/// The identity that a device announces.
 struct DiscoveryIdentity
 {
-    QString endpoint; ///< "urn:uuid:...", which it keeps
+    QString endpoint; ///< "urn:uuid:...", which never changes
     QStringList scopes;
     QStringList addresses; ///< of its device service
 };
 
-/// Whether the request is about such a device.
+/// True if the request applies to the device.
 [[nodiscard]] bool matches(const DiscoveryRequest &request, const DiscoveryIdentity &identity);
 
 /// Counts the messages of a device since its start.

@@ -24,7 +24,7 @@ constexpr const char *ipv4Group = "239.255.255.250";
 constexpr const char *ipv6Group = "ff02::c";
 constexpr std::size_t largestDatagram = 65536;
 
-/// Whether the datagram whose control data is in `message` was sent to a group.
+/// True if the datagram with the control data of `message` was sent to a group.
 bool wasSentToGroup(msghdr &message)
 {
     for (cmsghdr *head = CMSG_FIRSTHDR(&message); head; head = CMSG_NXTHDR(&message, head)) {
@@ -76,7 +76,7 @@ struct DiscoveryPort::Sockets
     void send(int ipVersion, const QByteArray &bytes, const sockaddr_storage &destination,
               socklen_t size) const
     {
-        // What is lost is lost, as everywhere on a network.
+        // A lost datagram is not sent again, as on a real network.
         (void)sendto(of(ipVersion).number(), bytes.constData(), static_cast<std::size_t>(bytes.size()), 0,
                      reinterpret_cast<const sockaddr *>(&destination), size);
     }
@@ -114,7 +114,7 @@ bool DiscoveryPort::isOpen() const
     return m_sockets->ipv4.isOpen() || m_sockets->ipv6.isOpen();
 }
 
-void DiscoveryPort::sayHello()
+void DiscoveryPort::sendHello()
 {
     const std::optional<sdk::demo::SceneDevice> device = m_site.device(m_mac);
     if (!device || device->inOtherSegment)
@@ -126,7 +126,7 @@ void DiscoveryPort::sayHello()
     }
 }
 
-void DiscoveryPort::sayBye()
+void DiscoveryPort::sendBye()
 {
     const std::optional<sdk::demo::SceneDevice> device = m_site.device(m_mac);
     if (!device || device->inOtherSegment)

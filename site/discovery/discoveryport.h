@@ -1,4 +1,4 @@
-// The port of a device that answers those who look for devices.
+// The port of a device that responds to searches.
 #pragma once
 
 #include "site/network/filedescriptor.h"
@@ -17,8 +17,9 @@ namespace site {
 class DeviceInterface;
 class Poller;
 
-/// Answers at the device's latency, as its faults have it. A device of another segment hears only what is
-/// sent to its own address. To be made and destroyed on one thread; what comes is handled on the poller's.
+/// Responds with the latency and the faults of the device. A device of another segment receives only messages
+/// to its own address. To be created and destroyed on one thread; messages are handled on the poller's
+/// thread.
 class DiscoveryPort
 {
 public:
@@ -31,12 +32,12 @@ public:
     DiscoveryPort(const DiscoveryPort &) = delete;
     DiscoveryPort &operator=(const DiscoveryPort &) = delete;
 
-    /// False when the port is taken.
+    /// False when the port is in use.
     [[nodiscard]] bool isOpen() const;
 
-    // To everybody in the segment.
-    void sayHello();
-    void sayBye();
+    // Sends Hello to the segment.
+    void sendHello();
+    void sendBye();
 
 private:
     struct Sockets;
@@ -46,7 +47,7 @@ private:
     Poller &m_poller;
     const SiteOptions &m_options;
     const QString m_mac;
-    std::shared_ptr<Sockets> m_sockets; // answers that wait hold it weakly
+    std::shared_ptr<Sockets> m_sockets; // delayed responses have a weak pointer to it
 };
 
 } // namespace site

@@ -11,7 +11,7 @@ namespace site {
 
 namespace {
 
-/// name=value, name="value" and so on.
+/// Reads a list of name=value and name="value".
 QMap<QByteArray, QByteArray> readParameters(const QByteArray &text)
 {
     QMap<QByteArray, QByteArray> parameters;

@@ -10,7 +10,7 @@
 
 namespace site {
 
-/// What a client sends to prove that it knows a password.
+/// The response of a client to a challenge.
 struct DigestResponse
 {
     QString user;
@@ -24,14 +24,14 @@ struct DigestResponse
     QByteArray nonceCount;
 };
 
-/// Reads the header "Authorization". Nothing for one of another kind.
+/// Reads the header "Authorization". Nothing for another authentication scheme.
 [[nodiscard]] std::optional<DigestResponse> readDigestResponse(const QByteArray &header);
 
-/// Whether the response was made with that password for a request of that method.
+/// True if the response was made with that password for a request of that method.
 [[nodiscard]] bool provesPassword(const DigestResponse &response, const QString &password,
                                   const QByteArray &method);
 
-/// Nonces that say themselves when they were made, and for which device. Thread-safe.
+/// Nonces that contain their time and their device. Thread-safe.
 class DigestNonces
 {
 public:

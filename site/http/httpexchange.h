@@ -1,4 +1,4 @@
-// A request to a device over HTTP, and what answers it.
+// A request to a device over HTTP, and the service that responds to it.
 #pragma once
 
 #include "sdk/demo/internal/httpmessage.h"
@@ -11,31 +11,31 @@
 
 namespace site {
 
-/// Who received a request, and where.
+/// The receiver of a request.
 struct HttpReceiver
 {
     QString mac;               ///< the device
-    QString address;           ///< of the device, that the client has connected to
+    QString address;           ///< of the device, as the client has reached it
     int port = 0;              ///< of the device
     bool isSecure = false;     ///< over TLS
-    std::stop_token stop = {}; ///< of the connection: who waits ends then
+    std::stop_token stop = {}; ///< of the connection: ends waits
 };
 
-/// Takes a body in pieces as they come. Returns false to hang up.
-using BodyTaker = std::function<bool(QByteArrayView piece)>;
+/// Receives a body in chunks. Returns false to close the connection.
+using BodyReceiver = std::function<bool(QByteArrayView chunk)>;
 
-/// Threads of connections call its functions.
+/// Its functions are called on threads of connections.
 class HttpService
 {
 public:
     virtual ~HttpService() = default;
 
-    /// Called before the body of a request is read: what takes the body, when it may be too large to keep;
-    /// empty for a body that answer() gets.
-    [[nodiscard]] virtual BodyTaker bodyTaker(const HttpReceiver &receiver,
-                                              const sdk::demo::HttpRequest &head) = 0;
+    /// Called before the body of a request is read. Returns the function that receives the body, if it may be
+    /// too large to keep; empty for a body that is passed to answer().
+    [[nodiscard]] virtual BodyReceiver bodyReceiver(const HttpReceiver &receiver,
+                                                    const sdk::demo::HttpRequest &head) = 0;
 
-    /// HttpStatus::None for a request that gets no answer: the connection ends.
+    /// HttpStatus::None for no response: the connection is closed.
     [[nodiscard]] virtual sdk::demo::HttpReply
     answer(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) = 0;
 };

@@ -14,7 +14,7 @@ namespace site {
 
 namespace {
 
-/// For a client that reads nothing, or says nothing in a handshake: how long a piece may wait.
+/// Timeouts of a client that does not read, or does not send in a handshake.
 constexpr timeval receiveTimeout = {15, 0};
 
 } // namespace
@@ -44,7 +44,7 @@ void HttpServer::accept(int listener, const QString &mac,
     try {
         connection.thread = std::thread([this, &connection] { serve(connection); });
     } catch (const std::system_error &) {
-        m_connections.pop_back(); // the computer gives no more threads
+        m_connections.pop_back(); // no thread can be created
     }
 }
 

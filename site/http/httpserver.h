@@ -16,11 +16,11 @@ class Clock;
 
 namespace site {
 
-/// Serves each connection on a thread of its own. Thread-safe. The destructor ends the connections.
+/// Serves each connection on a separate thread. Thread-safe. The destructor ends the connections.
 class HttpServer
 {
 public:
-    /// Further clients of one device are turned away.
+    /// The limit of connections of one device; further ones are closed.
     static constexpr int mostConnectionsOfDevice = 16;
 
     /// Both must outlive the server.
@@ -29,12 +29,12 @@ public:
     HttpServer(const HttpServer &) = delete;
     HttpServer &operator=(const HttpServer &) = delete;
 
-    /// Accepts the connection that waits at `listener`, which belongs to the device. With `key` it is one
-    /// over TLS.
+    /// Accepts the pending connection of `listener`, which belongs to the device. With `key`, the connection
+    /// uses TLS.
     void accept(int listener, const QString &mac,
                 const std::shared_ptr<const sdk::demo::DeviceKey> &key = {});
 
-    /// Ends the connections to the device, in the middle of an answer too, and waits for their threads.
+    /// Ends the connections to the device, even during a response, and waits for their threads.
     void closeAllOf(const QString &mac);
 
 private:
@@ -42,7 +42,7 @@ private:
     {
         FileDescriptor socket;
         HttpReceiver receiver;
-        std::shared_ptr<const sdk::demo::DeviceKey> key; // null for a plain one
+        std::shared_ptr<const sdk::demo::DeviceKey> key; // null without TLS
         std::stop_source stop = {};
         bool isOver = false; // its thread returns at once
         std::thread thread = {};

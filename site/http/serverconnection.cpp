@@ -80,20 +80,20 @@ HttpStatus ServerConnection::receiveHead(HttpRequest &head)
 
 HttpStatus ServerConnection::receiveBody(const HttpRequest &head, QByteArray &body)
 {
-    const BodyTaker taker = m_service.bodyTaker(m_receiver, head);
-    if (!taker && head.bodyLength > longestKeptBody)
+    const BodyReceiver bodyReceiver = m_service.bodyReceiver(m_receiver, head);
+    if (!bodyReceiver && head.bodyLength > longestKeptBody)
         return HttpStatus::BodyTooLong;
     if (head.waitsForContinue && !send("HTTP/1.1 100 Continue\r\n\r\n"))
         return HttpStatus::None;
     for (qsizetype left = head.bodyLength; left > 0;) {
         if (m_received.isEmpty() && !receiveMore(requestTime))
             return HttpStatus::RequestTimeout;
-        const QByteArray piece = m_received.left(left);
-        m_received.remove(0, piece.size());
-        left -= piece.size();
-        if (!taker)
-            body += piece;
-        else if (!taker(piece))
+        const QByteArray chunk = m_received.left(left);
+        m_received.remove(0, chunk.size());
+        left -= chunk.size();
+        if (!bodyReceiver)
+            body += chunk;
+        else if (!bodyReceiver(chunk))
             return HttpStatus::None;
     }
     return HttpStatus::Ok;
@@ -102,11 +102,11 @@ HttpStatus ServerConnection::receiveBody(const HttpRequest &head, QByteArray &bo
 bool ServerConnection::receiveMore(std::chrono::milliseconds patience)
 {
     constexpr std::size_t pieceSize = std::size_t{64} * 1024;
-    std::array<char, pieceSize> piece;
-    const ssize_t count = m_stream.receive(piece.data(), piece.size(), patience);
+    std::array<char, pieceSize> chunk;
+    const ssize_t count = m_stream.receive(chunk.data(), chunk.size(), patience);
     if (count <= 0)
         return false;
-    m_received.append(piece.data(), count);
+    m_received.append(chunk.data(), count);
     return true;
 }
 

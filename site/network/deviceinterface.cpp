@@ -48,7 +48,7 @@ QByteArray bytesOfAddress(const QString &text)
     return {reinterpret_cast<const char *>(&number), sizeof(number)};
 }
 
-/// What an interface calls itself in its own link (fe80::/64) by its MAC.
+/// The link-local address (fe80::/64) of an interface, derived from its MAC.
 QString linkLocalAddress(const QString &mac)
 {
     QByteArray bytes = bytesOfMac(mac);
@@ -143,7 +143,7 @@ int DeviceInterface::addAddress(const QString &address, int prefixLength) const
     NetlinkRequest request(RTM_NEWADDR, NLM_F_CREATE | NLM_F_EXCL, body);
     request.add(IFA_LOCAL, viewOf(bytes));
     request.add(IFA_ADDRESS, viewOf(bytes));
-    // A conflict of addresses is what the scene wants, and the kernel is not to wait for it.
+    // The scene may contain address conflicts: no duplicate address detection, and no delay by it.
     request.addNumber<std::uint32_t>(IFA_FLAGS, IFA_F_NODAD);
     const int code = request.send();
     return code == EEXIST ? 0 : code;
@@ -175,7 +175,7 @@ int DeviceInterface::setUp(bool isUp) const
     body.ifi_flags = isUp ? IFF_UP : 0;
     body.ifi_change = IFF_UP;
     NetlinkRequest request(RTM_NEWLINK, 0, body);
-    // No address but those that the device has: it makes itself none.
+    // The kernel generates no address: the interface has only those of the device.
     const std::size_t familySettings = request.beginNested(IFLA_AF_SPEC);
     const std::size_t family = request.beginNested(AF_INET6);
     request.addNumber<std::uint8_t>(IFLA_INET6_ADDR_GEN_MODE, IN6_ADDR_GEN_MODE_NONE);

@@ -10,7 +10,7 @@
 
 namespace site {
 
-/// The addresses that a device has; a text is empty where it has none.
+/// The addresses of a device; a string is empty if the device has no such address.
 struct DeviceNetwork
 {
     QString address; ///< IPv4
@@ -21,31 +21,31 @@ struct DeviceNetwork
     bool operator==(const DeviceNetwork &) const = default;
 };
 
-/// A network namespace with one interface in it, which has the MAC of the device and lies beside the others
-/// on the interface that the site is given. It is gone with this object. Belongs to one thread.
+/// A network namespace with one interface, which has the MAC of the device and is a sibling of the others on
+/// the interface of the site. It is removed with this object. Used by one thread.
 class DeviceInterface
 {
 public:
-    /// `lower` is the number of the site's interface in the namespace of the calling thread. Returns null,
-    /// and says why in `error`, on failure.
+    /// `lower` is the index of the site's interface in the namespace of the calling thread. On failure it
+    /// returns null and sets `error`.
     [[nodiscard]] static std::unique_ptr<DeviceInterface> create(unsigned lower, const QString &mac,
                                                                  QString *error);
 
     [[nodiscard]] const NetworkSpace &space() const { return m_space; }
 
-    /// Puts these addresses in the place of those before, and takes the interface up. Everything in the
-    /// segment is reached directly, whatever its address. Returns false, and says why, on failure.
+    /// Replaces the addresses and brings the interface up. Every address of the segment is reached without a
+    /// router. On failure it returns false and sets `error`.
     bool bringUp(const DeviceNetwork &network, QString *error);
 
-    /// Nothing reaches the device, and it loses its addresses.
+    /// Brings the interface down and removes its addresses.
     void bringDown();
 
     // Sockets in the namespace; not open on failure, with errno set.
 
-    /// Takes connections at that port of all addresses of the device.
+    /// Accepts connections at that port of all addresses of the device.
     [[nodiscard]] FileDescriptor openListener(int port) const;
 
-    /// Gets what is sent to that port of the device and to the group of its family.
+    /// Receives datagrams to that port of the device and to the group of its address family.
     [[nodiscard]] FileDescriptor openDatagrams(int port, const QString &group) const;
 
 private:

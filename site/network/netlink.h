@@ -10,8 +10,8 @@
 
 namespace site {
 
-/// One request, built up attribute by attribute. Its size is bounded: what does not fit is a fault of this
-/// program, and send() refuses it.
+/// One request, built from attributes. Its size is bounded: send() refuses a larger one, which is a
+/// programming error.
 class NetlinkRequest
 {
 public:
@@ -29,11 +29,13 @@ public:
         add(attribute, std::span(reinterpret_cast<const std::byte *>(&number), sizeof(number)));
     }
 
-    /// What is added until endNested() is the value of `attribute`. Returns what endNested() takes.
+    /// Attributes that are added until endNested() are nested in `attribute`. Returns the argument of
+    /// endNested().
     [[nodiscard]] std::size_t beginNested(std::uint16_t attribute);
     void endNested(std::size_t nested);
 
-    /// Asks the kernel in the network namespace of the calling thread. Returns 0, or the number of the error.
+    /// Sends the request to the kernel in the network namespace of the calling thread. Returns 0, or the
+    /// error number.
     [[nodiscard]] int send();
 
 private:

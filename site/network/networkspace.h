@@ -1,4 +1,4 @@
-// Network namespaces: each device of the site has one of its own.
+// Network namespaces: each device of the site has a separate one.
 #pragma once
 
 #include "site/network/filedescriptor.h"
@@ -7,15 +7,15 @@
 
 namespace site {
 
-/// A network namespace. It lives as long as it is held here, a socket is open in it or a thread is inside.
+/// A network namespace. It exists as long as this object, an open socket in it or a thread in it.
 class NetworkSpace
 {
 public:
     /// The one of the calling thread.
     [[nodiscard]] static std::optional<NetworkSpace> current();
 
-    /// A new one that has nothing but a loopback interface, which is down. Nothing, with errno set, when the
-    /// program may not make one.
+    /// A new namespace with only a loopback interface, which is down. Nothing, with errno set, when the
+    /// process lacks the right.
     [[nodiscard]] static std::optional<NetworkSpace> create();
 
     [[nodiscard]] int number() const { return m_file.number(); }

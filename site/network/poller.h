@@ -1,4 +1,4 @@
-// Waits for sockets and times on one thread.
+// Waits for sockets and timers on one thread.
 #pragma once
 
 #include "site/network/filedescriptor.h"
@@ -13,7 +13,7 @@
 namespace site {
 
 /// Thread-safe. Handlers run on the poller's thread, one at a time, and must not block. The destructor ends
-/// the thread; times that have not come by then are forgotten.
+/// the thread and discards pending timers.
 class Poller
 {
 public:
@@ -25,13 +25,13 @@ public:
     Poller(const Poller &) = delete;
     Poller &operator=(const Poller &) = delete;
 
-    /// Ends the thread: no handler runs any more after the return.
+    /// Ends the thread: no handler runs after the call.
     void stop();
 
-    /// Calls `readable` whenever there is something to read, until remove().
+    /// Calls `readable` whenever the socket is readable, until remove().
     void watch(int socket, Handler readable);
 
-    /// The handler runs no more after the return; so this must not be called from one.
+    /// The handler does not run after the call. Must not be called by a handler.
     void remove(int socket);
 
     /// Calls `handler` once at `time`.
@@ -51,10 +51,10 @@ private:
     FileDescriptor m_epoll;
     FileDescriptor m_wakeUp;
     std::mutex m_running; // held while a handler runs
-    std::mutex m_mutex;   // of the two
+    std::mutex m_mutex;   // guards the two members below
     std::map<int, std::shared_ptr<Handler>> m_handlers;
     std::multimap<Time, Handler> m_times;
-    std::jthread m_thread; // last: it uses all of them
+    std::jthread m_thread; // the last member: it uses the others
 };
 
 } // namespace site

@@ -6,11 +6,11 @@ namespace site {
 
 struct SocketAddress
 {
-    QString address; ///< an IPv4 one as such, without a zone
+    QString address; ///< without a zone; a mapped IPv4 address in its IPv4 form
     int port = 0;
 };
 
-/// What a connected socket is bound to here. Empty on failure.
+/// The local address of a connected socket. Empty on failure.
 [[nodiscard]] SocketAddress ownAddress(int socket);
 
 } // namespace site

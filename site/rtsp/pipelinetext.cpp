@@ -6,7 +6,7 @@ namespace site {
 
 namespace {
 
-/// In the order of time, as whole pictures, and no more than a moment of them.
+/// A source of complete frames, ordered by time, with a short queue.
 QByteArray source(const QByteArray &name)
 {
     return "appsrc name=" + name +

@@ -1,4 +1,4 @@
-// Pipelines that put streams into RTP packets.
+// GStreamer pipelines that packetize streams for RTP.
 #pragma once
 
 #include "sdk/demo/internal/streamsettings.h"
@@ -7,16 +7,16 @@
 
 namespace site {
 
-/// A pipeline description with the sources "pictures" and, where there is sound, "sound".
+/// A pipeline description with the sources "pictures" and, for a stream with sound, "sound".
 [[nodiscard]] QByteArray pipelineText(const sdk::demo::StreamSettings &settings);
 
-/// Whether the sound of the settings can be streamed.
+/// True if the sound of the settings can be streamed.
 [[nodiscard]] bool hasStreamedSound(const sdk::demo::StreamSettings &settings);
 
-/// What comes from the source "sound". `head` is that of its codec.
+/// The caps of the source "sound". `head` is the header of its codec.
 [[nodiscard]] QByteArray soundCaps(const sdk::demo::StreamSettings &settings, const QByteArray &head);
 
-/// What comes from the source "pictures".
+/// The caps of the source "pictures".
 [[nodiscard]] QByteArray pictureCaps(const sdk::demo::StreamSettings &settings);
 
 } // namespace site

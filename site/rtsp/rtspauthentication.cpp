@@ -35,7 +35,7 @@ gboolean checkLogin(const site::RtspDevice &device, GstRTSPContext *context)
     const std::optional<SceneDevice> asked = parts.site.device(device.mac);
     if (!asked)
         return FALSE;
-    // Players know MD5 alone and most take the last challenge, so that every device offers it here, and last.
+    // Many players support MD5 only and use the last challenge, so every device offers MD5 last.
     site::DeviceManner manner = parts.options.mannerOf(*asked);
     manner.offersMd5 = true;
     const std::int64_t now = parts.site.clock().now();
@@ -53,8 +53,8 @@ gboolean check(GstRTSPAuth *auth, GstRTSPContext *context, const gchar *what)
 {
     const QByteArrayView kind(what);
     if (kind == GST_RTSP_AUTH_CHECK_TRANSPORT_CLIENT_SETTINGS)
-        return FALSE; // nobody sends streams to others
-    // Asking for the options needs no login.
+        return FALSE; // streams are sent only to the client
+    // OPTIONS needs no login.
     if (kind != GST_RTSP_AUTH_CHECK_URL || context->method == GST_RTSP_OPTIONS)
         return TRUE;
     return checkLogin(*reinterpret_cast<SiteRtspAuth *>(auth)->device, context);

@@ -1,4 +1,4 @@
-// The classes that the RTSP library asks, with what they need of the site.
+// Subclasses of the RTSP server library for the devices of the site.
 #pragma once
 
 #include "site/rtsp/rtspport.h"
@@ -9,24 +9,24 @@
 
 namespace site {
 
-/// What the objects of one device's server work with; it outlives them.
+/// The data of one device's server; they outlive the objects below.
 struct RtspDevice
 {
     RtspContext &context;
     QString mac;
     const NetworkSpace &space;
-    std::function<void()> closeClientsSoon; ///< on another thread than the caller's
+    std::function<void()> closeClientsSoon; ///< runs on another thread
 };
 
-// Each returns a reference that belongs to the caller.
+// Each function returns a reference that the caller owns.
 
-/// Asks clients for a login as the other services do.
+/// Requires the same login as the other services.
 [[nodiscard]] GstRTSPAuth *newAuthentication(RtspDevice &device);
 
 /// Its threads are in the network namespace of the device.
 [[nodiscard]] GstRTSPThreadPool *newThreadPool(RtspDevice &device);
 
-/// Makes pipelines for the streams of a device, by the path of the address.
+/// Creates pipelines for the streams of a device by the path of the URL.
 [[nodiscard]] GstRTSPMediaFactory *newMediaFactory(RtspDevice &device);
 
 /// A factory for each stream of the device.

@@ -22,7 +22,7 @@ struct SiteRtspFactoryClass
 
 constexpr const char *mediaKey = "site-media";
 
-/// What a media is about, kept with its element.
+/// The parameters of a media, stored with its element.
 struct MediaOrder
 {
     site::MediaStream stream;
@@ -47,7 +47,7 @@ GstElement *createElement(GstRTSPMediaFactory *factory, const GstRTSPUrl *url)
     GstElement *element = gst_parse_launch_full(site::pipelineText(*settings).constData(), nullptr,
                                                 GST_PARSE_FLAG_PLACE_IN_BIN, &error);
     if (error) {
-        qCWarning(site::siteLog, "A stream of %ls cannot be made: %s", qUtf16Printable(served.mac),
+        qCWarning(site::siteLog, "A stream of %ls cannot be created: %s", qUtf16Printable(served.mac),
                   error->message);
         g_clear_error(&error);
         if (element)
@@ -61,7 +61,7 @@ GstElement *createElement(GstRTSPMediaFactory *factory, const GstRTSPUrl *url)
 
 void unprepared(GstRTSPMedia *media, gpointer)
 {
-    g_object_set_data(G_OBJECT(media), mediaKey, nullptr); // the feeder ends with its owner
+    g_object_set_data(G_OBJECT(media), mediaKey, nullptr); // destroys the feeder
 }
 
 void configure(GstRTSPMediaFactory *factory, GstRTSPMedia *media)
@@ -78,7 +78,7 @@ void configure(GstRTSPMediaFactory *factory, GstRTSPMedia *media)
     feeding.pictures = GST_APP_SRC(pictures);
     feeding.sound = sound ? GST_APP_SRC(sound) : nullptr;
     feeding.dropped = served.closeClientsSoon;
-    auto *feeder = new site::StreamFeeder(served.context.site, served.context.keyPictures, feeding);
+    auto *feeder = new site::StreamFeeder(served.context.site, served.context.keyFrames, feeding);
     g_object_set_data_full(G_OBJECT(media), mediaKey, feeder,
                            [](gpointer data) { delete static_cast<site::StreamFeeder *>(data); });
     g_signal_connect(media, "unprepared", G_CALLBACK(unprepared), nullptr);

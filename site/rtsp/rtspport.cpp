@@ -3,7 +3,7 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "site/network/poller.h"
-#include "site/rtsp/keypictures.h"
+#include "site/rtsp/keyframes.h"
 #include "site/rtsp/rtspclasses.h"
 
 #include <gio/gio.h>
@@ -26,7 +26,7 @@ std::optional<MediaStream> playedStream(const RtspDevice &device, const GstRTSPC
     return served ? streamOfPath(*served, path) : std::nullopt;
 }
 
-/// The device begins late by its fault.
+/// With the fault of a late start, the device delays the response.
 GstRTSPStatusCode beforePlay(GstRTSPClient *, GstRTSPContext *, gpointer data)
 {
     const RtspDevice &device = *static_cast<RtspDevice *>(data);
@@ -36,12 +36,12 @@ GstRTSPStatusCode beforePlay(GstRTSPClient *, GstRTSPContext *, gpointer data)
     return GST_RTSP_STS_OK;
 }
 
-/// A client that begins to play gets a key picture first.
+/// A client that starts to play gets a key frame first.
 void afterPlay(GstRTSPClient *, GstRTSPContext *context, gpointer data)
 {
     const RtspDevice &device = *static_cast<RtspDevice *>(data);
     if (const std::optional<MediaStream> stream = playedStream(device, context))
-        device.context.keyPictures.ask(device.mac, *stream);
+        device.context.keyFrames.ask(device.mac, *stream);
 }
 
 void clientConnected(GstRTSPServer *, GstRTSPClient *client, gpointer device)
@@ -72,7 +72,7 @@ struct RtspPort::Parts
     RtspDevice device;
     GstRTSPServer *server = nullptr;
 
-    /// Returns how many there were.
+    /// Returns the number of clients.
     int closeClients() const
     {
         int count = 0;

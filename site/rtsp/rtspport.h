@@ -15,21 +15,21 @@ class DemoSite;
 
 namespace site {
 
-class KeyPictures;
+class KeyFrames;
 class Poller;
 
-/// What the RTSP servers of all devices share.
+/// The common data of all devices' RTSP servers.
 struct RtspContext
 {
     sdk::demo::DemoSite &site;
     const SiteOptions &options;
     DeviceLogins &logins;
-    KeyPictures &keyPictures;
+    KeyFrames &keyFrames;
     Poller &poller;
 };
 
 /// The server of one device. Its threads are in the device's network namespace. To be destroyed on the thread
-/// that made it, when no accept() runs; the other functions are thread-safe.
+/// that created it, while no accept() runs; the other functions are thread-safe.
 class RtspPort
 {
 public:
@@ -39,7 +39,7 @@ public:
     RtspPort(const RtspPort &) = delete;
     RtspPort &operator=(const RtspPort &) = delete;
 
-    /// Accepts the connection that waits at `listener`.
+    /// Accepts the pending connection of `listener`.
     void accept(int listener);
 
     /// Ends all connections.
@@ -47,7 +47,7 @@ public:
 
 private:
     struct Parts;
-    const std::shared_ptr<Parts> m_parts; // what runs later holds it weakly
+    const std::shared_ptr<Parts> m_parts; // callbacks have a weak pointer to it
 };
 
 } // namespace site

@@ -13,8 +13,8 @@ struct SiteRtspThreadsClass
     GstRTSPThreadPoolClass parent_class;
 };
 
-/// Sockets that the thread opens belong to the device then. Every thread of these pools comes through here
-/// before it does anything.
+/// Sockets of the thread are then in the device's namespace. Every thread of these pools starts with this
+/// function.
 void enterThread(GstRTSPThreadPool *pool, GstRTSPThread *)
 {
     reinterpret_cast<SiteRtspThreads *>(pool)->space->enter();

@@ -4,7 +4,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/liveproduction.h"
 #include "site/logging.h"
-#include "site/rtsp/keypictures.h"
+#include "site/rtsp/keyframes.h"
 #include "site/rtsp/pipelinetext.h"
 
 #include <cmath>
@@ -25,7 +25,7 @@ void setCaps(GstAppSrc *source, const QByteArray &text)
     gst_caps_unref(caps);
 }
 
-/// Whether a pipeline goes on when the settings change in that way.
+/// True if a pipeline can continue after that change of the settings.
 bool isSameKind(const StreamSettings &one, const StreamSettings &other)
 {
     return one.codec == other.codec && one.sound == other.sound &&
@@ -34,8 +34,8 @@ bool isSameKind(const StreamSettings &one, const StreamSettings &other)
 
 } // namespace
 
-StreamFeeder::StreamFeeder(DemoSite &site, KeyPictures &keyPictures, Order order)
-    : m_site(site), m_keyPictures(keyPictures), m_order(std::move(order))
+StreamFeeder::StreamFeeder(DemoSite &site, KeyFrames &keyFrames, Order order)
+    : m_site(site), m_keyFrames(keyFrames), m_order(std::move(order))
 {
     gst_object_ref(m_order.pictures);
     if (m_order.sound)
@@ -60,13 +60,13 @@ void StreamFeeder::stop()
 
 void StreamFeeder::run(const std::stop_token &stop)
 {
-    const int asked = m_keyPictures.count(m_order.mac, m_order.stream);
+    const int asked = m_keyFrames.count(m_order.mac, m_order.stream);
     const std::optional<SceneDevice> device = m_site.device(m_order.mac);
     std::unique_ptr<LiveProduction> production =
         device ? LiveProduction::begin(*device, m_order.stream.channel, m_order.stream.kind, m_order.settings)
                : nullptr;
     if (production && feedBeginning(*production)) {
-        m_keyPictures.waitAfter(asked, m_order.mac, m_order.stream, stop);
+        m_keyFrames.waitAfter(asked, m_order.mac, m_order.stream, stop);
         feedWhilePlayed(std::move(production), stop);
     }
     if (!stop.stop_requested())
@@ -78,7 +78,7 @@ bool StreamFeeder::feedBeginning(LiveProduction &production)
     setCaps(m_order.pictures, pictureCaps(production.settings()));
     if (m_order.sound)
         setCaps(m_order.sound, soundCaps(production.settings(), production.soundHead()));
-    // A frame of sound can take the time of some pictures.
+    // A frame of sound may be as long as several frames of video.
     constexpr int mostPictures = 50;
     for (; m_picture == 0 || (m_order.sound && !m_hasSound && m_picture < mostPictures); ++m_picture) {
         EncodedPackets packets;
@@ -91,7 +91,7 @@ bool StreamFeeder::feedBeginning(LiveProduction &production)
 
 void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, const std::stop_token &stop)
 {
-    int asked = -1; // the first picture of a client needs no earlier one
+    int asked = -1; // the first frame of a client is a key frame
     int pictures = 0;
     std::int64_t begin = m_site.clock().now();
     std::int64_t beginPicture = m_picture;
@@ -123,14 +123,14 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
             takePipelineTime(settings->frameRate);
             asked = -1;
         }
-        const int count = m_keyPictures.count(m_order.mac, m_order.stream);
+        const int count = m_keyFrames.count(m_order.mac, m_order.stream);
         EncodedPackets packets;
         if (!production->makePicture(m_picture, deviceTime(), count != asked, packets) ||
             !feed(*production, packets))
             return;
         asked = count;
         ++pictures;
-        // What the computer cannot make in time is left out.
+        // Frames that cannot be encoded in time are skipped.
         const double late = static_cast<double>(m_site.clock().now() - due) * rate / millisecondsOfSecond;
         m_picture += 1 + (late > rate / 4 ? static_cast<std::int64_t>(late) : 0);
     }

@@ -1,4 +1,4 @@
-// Brings what a channel streams into a pipeline.
+// Feeds the stream of a channel to a pipeline.
 #pragma once
 
 #include "sdk/demo/internal/avpointers.h"
@@ -18,11 +18,11 @@ class LiveProduction;
 
 namespace site {
 
-class KeyPictures;
+class KeyFrames;
 
-/// Makes the pictures and the sound of one stream on a thread of its own: at first as much as the pipeline
-/// needs to describe them, and the rest from when somebody plays it. Ends when the device does not stream any
-/// more, or in another codec. Thread-safe.
+/// Generates the video and the sound of one stream on its thread: first the data that the pipeline needs for
+/// the description, and the rest when a client plays. Ends when the device stops the stream or changes its
+/// codec. Thread-safe.
 class StreamFeeder
 {
 public:
@@ -30,19 +30,19 @@ public:
     {
         QString mac;
         MediaStream stream;
-        sdk::demo::StreamSettings settings; ///< that the pipeline was made for
+        sdk::demo::StreamSettings settings; ///< of the pipeline
         GstAppSrc *pictures = nullptr;      ///< takes a reference
-        GstAppSrc *sound = nullptr;         ///< null for a stream without; takes a reference
+        GstAppSrc *sound = nullptr;         ///< null for a stream without sound; takes a reference
         std::function<void()> dropped; ///< called on the feeder's thread when the device drops the stream
     };
 
-    /// `site` and `keyPictures` must outlive the feeder.
-    StreamFeeder(sdk::demo::DemoSite &site, KeyPictures &keyPictures, Order order);
+    /// `site` and `keyFrames` must outlive the feeder.
+    StreamFeeder(sdk::demo::DemoSite &site, KeyFrames &keyFrames, Order order);
     ~StreamFeeder();
     StreamFeeder(const StreamFeeder &) = delete;
     StreamFeeder &operator=(const StreamFeeder &) = delete;
 
-    /// Nothing is fed any more after the return.
+    /// No data are fed after the call.
     void stop();
 
 private:
@@ -52,18 +52,18 @@ private:
     [[nodiscard]] bool feed(const sdk::demo::LiveProduction &production,
                             const sdk::demo::EncodedPackets &packets);
     [[nodiscard]] bool push(GstAppSrc *destination, const AVPacket &packet, const QByteArray &before) const;
-    /// Lets the picture that comes next have the time that the pipeline has now.
+    /// Gives the next frame the present time of the pipeline.
     void takePipelineTime(double frameRate);
     [[nodiscard]] std::int64_t deviceTime() const;
     void endStreams() const;
 
     sdk::demo::DemoSite &m_site;
-    KeyPictures &m_keyPictures;
+    KeyFrames &m_keyFrames;
     const Order m_order;
-    std::int64_t m_picture = 0; ///< the next one
-    std::int64_t m_offset = 0;  ///< in ns: of the pipeline's time from that of the production
-    bool m_hasSound = false;    ///< some has been fed
-    std::jthread m_thread;      // last: it uses all of them
+    std::int64_t m_picture = 0; ///< number of the next frame
+    std::int64_t m_offset = 0;  ///< in ns: the pipeline's time minus the time of the source
+    bool m_hasSound = false;    ///< sound has been fed
+    std::jthread m_thread;      // the last member: it uses the others
 };
 
 } // namespace site

@@ -95,11 +95,11 @@ int channelsOf(const SceneDevice &device)
 
 ServiceResult getDeviceInformation(ServiceCall &call)
 {
-    const sdk::DeviceAttributes told = deviceAttributes(call.device);
+    const sdk::DeviceAttributes attributes = deviceAttributes(call.device);
     call.response.add("tds:Manufacturer", "BRELM");
-    call.response.add("tds:Model", sdk::blockText(told.detailModel));
-    call.response.add("tds:FirmwareVersion", sdk::blockText(told.softwareVersion));
-    call.response.add("tds:SerialNumber", sdk::blockText(told.serialNumber));
+    call.response.add("tds:Model", sdk::blockText(attributes.detailModel));
+    call.response.add("tds:FirmwareVersion", sdk::blockText(attributes.softwareVersion));
+    call.response.add("tds:SerialNumber", sdk::blockText(attributes.serialNumber));
     call.response.add("tds:HardwareId", call.device.type);
     return std::nullopt;
 }

@@ -1,4 +1,4 @@
-// What a device tells of itself.
+// The information that a device reports about itself.
 #pragma once
 
 #include "site/services/servicecall.h"

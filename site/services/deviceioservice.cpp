@@ -1,4 +1,4 @@
-// The operations of the service for inputs and outputs.
+// The operations of the device I/O service.
 #include "site/services/mediatokens.h"
 #include "site/services/services.h"
 

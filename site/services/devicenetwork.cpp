@@ -53,7 +53,7 @@ sdk::NetError give(const ServiceCall &call, const Ipv4Settings &settings)
     return giveAddress(call.context.site, call.device.mac, wanted);
 }
 
-/// At once, or from the next start on. `needsReboot` tells which.
+/// Applies the settings immediately, or at the next restart; then `needsReboot` is set.
 sdk::NetError take(const ServiceCall &call, const Ipv4Settings &settings, bool &needsReboot)
 {
     needsReboot = call.manner.changesAddressAtReboot;
@@ -85,7 +85,7 @@ bool isTrue(const std::optional<QString> &text)
     return text == u"true"_s || text == u"1"_s;
 }
 
-/// Reads `element` into `settings`. Returns an objection to what makes no sense.
+/// Reads `element` into `settings`. Returns a fault for invalid values.
 ServiceResult readIpv4(pugi::xml_node element, Ipv4Settings &settings)
 {
     settings.dhcp = isTrue(textAt(element, "tt:DHCP"));
@@ -185,7 +185,7 @@ ServiceResult setNetworkDefaultGateway(ServiceCall &call)
     settings.gateway = textAt(call.request, "tds:IPv4Address").value_or(QString());
     if (!settings.gateway.isEmpty() && !isIpv4Address(settings.gateway))
         return SoapFault::invalid("ter:InvalidGatewayAddress", u"There is no such address"_s);
-    // With DHCP the network tells the gateway.
+    // With DHCP, the gateway comes from the DHCP server.
     if (settings.dhcp)
         return std::nullopt;
     bool needsReboot = false;
@@ -193,7 +193,7 @@ ServiceResult setNetworkDefaultGateway(ServiceCall &call)
                     SoapFault::prohibited(u"The device refuses the new gateway"_s));
 }
 
-void takePendingAddress(const ServiceCall &call)
+void applyPendingAddress(const ServiceCall &call)
 {
     if (serviceState(call.device, pendingKey).isUndefined())
         return;

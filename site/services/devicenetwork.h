@@ -13,10 +13,10 @@ ServiceResult getNetworkProtocols(ServiceCall &call);
 ServiceResult getHostname(ServiceCall &call);
 ServiceResult getDns(ServiceCall &call);
 
-/// Takes over addresses that were set and hold from the next start of the device.
-void takePendingAddress(const ServiceCall &call);
+/// Applies addresses that were set for the next restart of the device.
+void applyPendingAddress(const ServiceCall &call);
 
-/// The ones at the begin of a dotted mask.
+/// The prefix length of a dotted mask.
 [[nodiscard]] int prefixLengthOf(const QString &mask);
 
 } // namespace site

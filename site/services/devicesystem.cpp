@@ -11,7 +11,7 @@ namespace site {
 
 namespace {
 
-/// Between an answer and what it announces.
+/// The time in ms between a response and the announced restart.
 constexpr std::int64_t moment = 1500;
 
 } // namespace
@@ -22,7 +22,7 @@ ServiceResult systemReboot(ServiceCall &call)
         call.change([&call](SceneDevice &device) { return rebootAfterAnswer(device, call.now); });
     if (error != sdk::NetError::None)
         return SoapFault::prohibited(u"The device refuses to reboot"_s);
-    takePendingAddress(call);
+    applyPendingAddress(call);
     call.response.add("tds:Message", "Rebooting in 2 seconds");
     return std::nullopt;
 }

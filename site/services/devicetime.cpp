@@ -22,7 +22,7 @@ namespace {
 const QString timeZoneKey = u"timeZone"_s;
 const QString ntpFromDhcpKey = u"ntpFromDhcp"_s;
 
-/// The record of one of the device's configurations, as it tells it.
+/// The record of one of the device's configurations.
 template<typename Record>
 Record configurationOf(const SceneDevice &device, const char *name)
 {
@@ -58,7 +58,7 @@ QString standardZone(const QString &zone)
     return standard.match(zone).captured();
 }
 
-/// How far a zone is ahead of UTC at a time (UTC). Nothing for a text that is no zone.
+/// The offset of a zone from UTC at a time (UTC). Nothing for an invalid zone.
 std::optional<std::chrono::seconds> offsetOf(const QString &zone, bool withDaylightSaving, std::int64_t utc)
 {
     const QTimeZone parsed((withDaylightSaving ? zone : standardZone(zone)).toLatin1());
@@ -97,8 +97,8 @@ std::optional<QDateTime> readTime(pugi::xml_node element)
     return time.isValid() ? std::optional(time) : std::nullopt;
 }
 
-/// The rules of the daylight saving in "CET-1CEST,M3.5.0,M10.5.0/3" as devices keep them. Other kinds of
-/// rules leave `record` as it is.
+/// Reads the daylight saving rules of "CET-1CEST,M3.5.0,M10.5.0/3" into `record`. Other types of rules do not
+/// change it.
 void takeRules(const QString &zone, sdk::LocalesRecord &record)
 {
     static const QRegularExpression rule(u",M([0-9]+)\\.([0-9])\\.([0-6])(?:/([0-9]+)(?::([0-9]+))?)?"_s);
@@ -140,7 +140,7 @@ sdk::NetError keepNtp(SceneDevice &device, const std::function<void(sdk::NtpReco
 std::int64_t utcOf(const SceneDevice &device, std::int64_t now)
 {
     const std::int64_t shown = now + device.maintenance.clockAhead.count();
-    // At an hour's distance from a change of the zone's time this is as wrong as a clock without UTC is.
+    // Within an hour of a change of the zone's offset, the result has the error of a clock without UTC.
     return shown - aheadOf(device, shown - aheadOf(device, shown));
 }
 
@@ -173,7 +173,7 @@ ServiceResult setSystemDateAndTime(ServiceCall &call)
     if (!offsetOf(zone, withDaylightSaving, newUtc))
         return SoapFault::invalid("ter:InvalidTimeZone", u"There is no such time zone"_s);
     const sdk::NetError error = call.change([&](SceneDevice &device) {
-        // The clock first: a device that refuses it changes nothing.
+        // The clock is set first: if the device refuses it, no setting is changed.
         const std::int64_t ahead =
             std::chrono::milliseconds(*offsetOf(zone, withDaylightSaving, newUtc)).count();
         const QDateTime shown = QDateTime::fromMSecsSinceEpoch(newUtc + ahead, Qt::UTC);

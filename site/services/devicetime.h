@@ -5,7 +5,7 @@
 
 namespace site {
 
-/// UTC of a device, in ms since 1970: its own clock shows the time of its zone. `now` is the time of the
+/// UTC of a device, in ms since 1970. The device's clock has the time of its zone. `now` is the time of the
 /// site.
 [[nodiscard]] std::int64_t utcOf(const sdk::demo::SceneDevice &device, std::int64_t now);
 

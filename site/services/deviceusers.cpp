@@ -158,7 +158,7 @@ ServiceResult setUser(ServiceCall &call)
         const SceneAccount *account = accountOf(call.device, user.account.user);
         if (!account)
             return SoapFault::invalid("ter:UsernameMissing", u"There is no such user"_s);
-        // Without a password, the user keeps the one that it has.
+        // Without a password, the password of the user is not changed.
         const bool hasPassword = !user.account.password.isEmpty();
         if (ServiceResult objection = hasPassword ? objectionTo(user) : std::nullopt)
             return objection;

@@ -5,7 +5,7 @@
 
 namespace site {
 
-/// Users of the scene are administrators; those that were created have the level that they were given.
+/// Users of the scene are administrators; created users have the level of their creation.
 [[nodiscard]] UserLevel userLevelOf(const sdk::demo::SceneDevice &device, const QString &user);
 
 ServiceResult getUsers(ServiceCall &call);

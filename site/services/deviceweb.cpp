@@ -10,12 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace site {
 
-BodyTaker DeviceWeb::bodyTaker(const HttpReceiver &receiver, const HttpRequest &head)
+BodyReceiver DeviceWeb::bodyReceiver(const HttpReceiver &receiver, const HttpRequest &head)
 {
     const QByteArray path = readHttpTarget(head.target).path;
     if (head.method != "POST" || !FirmwareUploads::isUploadPath(path))
         return {};
-    return m_context.uploads.taker(receiver, path, head.bodyLength);
+    return m_context.uploads.bodyReceiver(receiver, path, head.bodyLength);
 }
 
 HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
@@ -33,7 +33,7 @@ HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &hea
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     if (!device || device->httpPort == 0)
         return HttpReply::line(HttpStatus::NotFound, u"The device has no web page"_s);
-    // The site's own web service finds the device by its address and its plain port, as a proxy does.
+    // The web service of the demo site finds the device by its address and its HTTP port, like a proxy.
     HttpRequest request = head;
     request.target = serviceRoot(receiver.address, servicePortOf(*device)).toLatin1() + head.target;
     return m_context.site.httpResponder().answer({.localPort = HttpResponder::proxy}, request);

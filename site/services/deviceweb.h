@@ -1,4 +1,4 @@
-// What devices answer over HTTP.
+// The HTTP responses of devices.
 #pragma once
 
 #include "site/http/httpexchange.h"
@@ -6,15 +6,15 @@
 
 namespace site {
 
-/// Services, and the web service that the simulated device has beside them. Thread-safe.
+/// The SOAP services and the web service of the simulated devices. Thread-safe.
 class DeviceWeb : public HttpService
 {
 public:
     /// `context` must outlive it.
     explicit DeviceWeb(ServiceContext &context) : m_context(context), m_soap(context) {}
 
-    [[nodiscard]] BodyTaker bodyTaker(const HttpReceiver &receiver,
-                                      const sdk::demo::HttpRequest &head) override;
+    [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver,
+                                            const sdk::demo::HttpRequest &head) override;
     [[nodiscard]] sdk::demo::HttpReply
     answer(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) override;
 

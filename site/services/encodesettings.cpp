@@ -50,7 +50,7 @@ sdk::NetError write(SceneDevice &device, sdk::EncodeItem number, const MediaStre
 
 QString keyDistanceKey(const MediaStream &stream)
 {
-    return u"keyDistance"_s + tokenOf(MediaObject::VideoEncoder, stream);
+    return u"keyFrameInterval"_s + tokenOf(MediaObject::VideoEncoder, stream);
 }
 
 bool knows(const StreamAbilities &abilities, int compression)
@@ -140,7 +140,7 @@ std::optional<EncodeSettings> encodeSettings(const SceneDevice &device, const Me
         !read(device, sdk::EncodeItem::AudioFormat, stream, settings.soundFormat))
         return std::nullopt;
     const int usualDistance = 2 * static_cast<int>(std::lround(settings.video.frameRate));
-    settings.keyDistance = serviceState(device, keyDistanceKey(stream)).toInt(usualDistance);
+    settings.keyFrameInterval = serviceState(device, keyDistanceKey(stream)).toInt(usualDistance);
     return settings;
 }
 
@@ -157,7 +157,7 @@ sdk::NetError takeEncodeSettings(const ServiceCall &call, const MediaStream &str
         if (error == sdk::NetError::None)
             error = write(device, sdk::EncodeItem::AudioFormat, stream, settings.soundFormat);
         if (error == sdk::NetError::None)
-            setServiceState(device, keyDistanceKey(stream), settings.keyDistance);
+            setServiceState(device, keyDistanceKey(stream), settings.keyFrameInterval);
         else
             device.channelSettings = before;
         return error;

@@ -1,4 +1,4 @@
-// The encoder of one stream, as services show and change it.
+// The encoder settings of one stream for the media services.
 #pragma once
 
 #include "sdk/demo/internal/encodeabilities.h"
@@ -9,7 +9,7 @@
 
 namespace site {
 
-/// A codec in the words of both media services; an empty text stands for one that a service does not have.
+/// The names of a codec in both media services; empty if a service does not have the codec.
 struct CodecName
 {
     int compression;         ///< code of the device
@@ -19,17 +19,17 @@ struct CodecName
 
 [[nodiscard]] std::string_view mediaCodec(int compression);
 [[nodiscard]] std::string_view media2Codec(int compression);
-/// Nothing for a codec that the stream does not know.
+/// Nothing for a codec that the stream does not support.
 [[nodiscard]] std::optional<int> compressionOfMedia(const sdk::demo::StreamAbilities &abilities,
                                                     const QString &name);
 [[nodiscard]] std::optional<int> compressionOfMedia2(const sdk::demo::StreamAbilities &abilities,
                                                      const QString &name);
 
-/// "Main", by the profile of the device; and back.
+/// Conversion between profile numbers of the device and names such as "Main".
 [[nodiscard]] std::string_view profileName(int profile);
 [[nodiscard]] std::optional<int> profileNamed(const QString &name);
 
-/// A format of sound in the words of both services.
+/// The names of a sound format in both services.
 [[nodiscard]] std::string_view mediaSound(int format);
 [[nodiscard]] std::string_view media2Sound(int format);
 
@@ -39,18 +39,18 @@ struct EncodeSettings
     sdk::VideoProfileItem profile;
     sdk::AudioCompressionItem sound;
     sdk::AudioFormatItem soundFormat;
-    int keyDistance = 0; ///< pictures from one that needs no earlier one to the next
+    int keyFrameInterval = 0; ///< frames from one key frame to the next
 };
 
-/// Nothing when the device does not tell them.
+/// Nothing when the device does not report them.
 [[nodiscard]] std::optional<EncodeSettings> encodeSettings(const sdk::demo::SceneDevice &device,
                                                            const MediaStream &stream);
 
-/// Writes the items of the stream that differ. The device keeps all or none of them.
+/// Writes the changed items of the stream. The device accepts all or none of them.
 [[nodiscard]] sdk::NetError takeEncodeSettings(const ServiceCall &call, const MediaStream &stream,
                                                const EncodeSettings &settings);
 
-/// The format numbers of sound that a stream of the device knows.
+/// The numbers of the sound formats that a stream of the device supports.
 [[nodiscard]] QList<int> soundFormats(const sdk::demo::SceneDevice &device, const MediaStream &stream);
 
 } // namespace site

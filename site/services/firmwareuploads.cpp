@@ -30,7 +30,7 @@ std::optional<QString> FirmwareUploads::begin(const SceneDevice &device)
     const UploadPointer before = m_uploads.value(device.mac);
     if (device.hasFault(Fault::UpgradeBusy) || (before && before->isWriting))
         return std::nullopt;
-    // Of a file that was on its way, its sender may be gone: whoever asks last is heard.
+    // The sender of an earlier file may have disconnected: the last request replaces the earlier one.
     auto upload = std::make_shared<Upload>();
     upload->path = pathBegin.toByteArray() + QByteArray::number(++m_last);
     m_uploads.insert(device.mac, upload);
@@ -50,20 +50,20 @@ FirmwareUploads::UploadPointer FirmwareUploads::uploadOf(const HttpReceiver &rec
     return upload && upload->path == path && !upload->isWriting ? upload : nullptr;
 }
 
-BodyTaker FirmwareUploads::taker(const HttpReceiver &receiver, const QByteArray &path, qint64 size)
+BodyReceiver FirmwareUploads::bodyReceiver(const HttpReceiver &receiver, const QByteArray &path, qint64 size)
 {
     const UploadPointer upload = uploadOf(receiver, path);
-    return [this, receiver, upload, size](QByteArrayView piece) {
+    return [this, receiver, upload, size](QByteArrayView chunk) {
         if (!upload)
-            return true; // taken out of the way, to be refused
-        const bool goesOn = take(receiver, *upload, piece, size);
+            return true; // the body is discarded; the response is a refusal
+        const bool goesOn = take(receiver, *upload, chunk, size);
         if (!goesOn)
             end(receiver.mac);
         return goesOn;
     };
 }
 
-bool FirmwareUploads::take(const HttpReceiver &receiver, Upload &upload, QByteArrayView piece,
+bool FirmwareUploads::take(const HttpReceiver &receiver, Upload &upload, QByteArrayView chunk,
                            qint64 size) const
 {
     const std::optional<SceneDevice> device = m_site.device(receiver.mac);
@@ -71,18 +71,18 @@ bool FirmwareUploads::take(const HttpReceiver &receiver, Upload &upload, QByteAr
         return false;
     {
         const std::lock_guard lock(m_mutex);
-        upload.head += piece.first(std::min<qsizetype>(
-            piece.size(), static_cast<qsizetype>(sdk::longestFirmwareHead) - upload.head.size()));
-        upload.received += piece.size();
+        upload.head += chunk.first(std::min<qsizetype>(
+            chunk.size(), static_cast<qsizetype>(sdk::longestFirmwareHead) - upload.head.size()));
+        upload.received += chunk.size();
     }
     const qint64 percent = size > 0 ? upload.received * all / size : all;
     if (const auto slow = device->fault(Fault::UpgradeTakes)) {
         const std::chrono::milliseconds whole = std::chrono::seconds(slow->number);
-        m_site.clock().wait(whole * piece.size() / std::max<qint64>(size, 1), receiver.stop);
+        m_site.clock().wait(whole * chunk.size() / std::max<qint64>(size, 1), receiver.stop);
     }
     const int hang = percentOf(device->fault(Fault::UpgradeHangsAt));
     if (hang < all && percent >= hang) {
-        // Until the client gives up.
+        // Waits until the client disconnects.
         m_site.clock().wait(24h, receiver.stop);
         return false;
     }

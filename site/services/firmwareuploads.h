@@ -1,4 +1,4 @@
-// Firmware that is sent to devices.
+// Firmware uploads to devices.
 #pragma once
 
 #include "site/http/httpexchange.h"
@@ -19,23 +19,24 @@ namespace site {
 
 class Poller;
 
-/// A device takes one file at a time, writes it, and reboots with it; its faults act on the way. Thread-safe.
+/// A device accepts one file at a time, writes it and reboots. Faults of the device apply. Thread-safe.
 class FirmwareUploads
 {
 public:
     /// `site` and `poller` must outlive the uploads.
     FirmwareUploads(sdk::demo::DemoSite &site, Poller &poller) : m_site(site), m_poller(poller) {}
 
-    /// The path that a file is to be sent to, in the place of the one before; nothing while the device
+    /// Returns the path for the upload of a file, which replaces an earlier path; nothing while the device
     /// writes.
     [[nodiscard]] std::optional<QString> begin(const sdk::demo::SceneDevice &device);
 
     [[nodiscard]] static bool isUploadPath(const QByteArray &path);
 
-    /// What takes the bytes of a file, as long as `size` says.
-    [[nodiscard]] BodyTaker taker(const HttpReceiver &receiver, const QByteArray &path, qint64 size);
+    /// Returns the function that receives the `size` bytes of a file.
+    [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver, const QByteArray &path,
+                                            qint64 size);
 
-    /// What the device says of the file that it has got.
+    /// The response to a complete file.
     [[nodiscard]] sdk::demo::HttpReply finish(const HttpReceiver &receiver, const QByteArray &path);
 
 private:
@@ -49,14 +50,14 @@ private:
     using UploadPointer = std::shared_ptr<Upload>;
 
     [[nodiscard]] UploadPointer uploadOf(const HttpReceiver &receiver, const QByteArray &path) const;
-    bool take(const HttpReceiver &receiver, Upload &upload, QByteArrayView piece, qint64 size) const;
+    bool take(const HttpReceiver &receiver, Upload &upload, QByteArrayView chunk, qint64 size) const;
     [[nodiscard]] sdk::demo::HttpReply refuse(const QString &mac, const QString &sentence);
     void write(const QString &mac, const sdk::FirmwareHead &firmware);
     void end(const QString &mac);
 
     sdk::demo::DemoSite &m_site;
     Poller &m_poller;
-    mutable std::mutex m_mutex; // of the following
+    mutable std::mutex m_mutex; // guards the members below
     int m_last = 0;
     QMap<QString, UploadPointer> m_uploads; ///< by MAC
 };

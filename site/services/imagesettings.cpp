@@ -52,7 +52,7 @@ sdk::NetError write(SceneDevice &device, sdk::CameraItem number, int channel, co
     return channelItem(device, place) == block ? sdk::NetError::None : setChannelItem(device, place, block);
 }
 
-/// Reads a number of a range. What is not there changes nothing.
+/// Reads a number of a range. A missing element changes nothing.
 template<typename Number>
 bool takeNumber(pugi::xml_node element, std::string_view path, double minimum, double maximum, Number &number)
 {
@@ -88,7 +88,7 @@ bool readPicture(pugi::xml_node element, ImageSettings &settings)
            takePercent(element, "tt:Sharpness", sharpness.sharpness);
 }
 
-/// The two of them are kinds of one item.
+/// Both are modes of one item.
 bool readBackLight(pugi::xml_node element, ImageSettings &settings)
 {
     const std::optional<QString> compensation = textAt(element, "tt:BacklightCompensation/tt:Mode");

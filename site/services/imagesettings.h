@@ -1,4 +1,4 @@
-// The picture of a channel, as the imaging service shows and changes it.
+// The image settings of a channel for the imaging service.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -9,7 +9,7 @@
 
 namespace site {
 
-/// The items of a channel that hold at all times. What a camera cannot do is missing.
+/// The items of a channel that apply at all times. Items that the camera does not support are empty.
 struct ImageSettings
 {
     std::optional<sdk::PictureItem> picture;
@@ -21,16 +21,16 @@ struct ImageSettings
     std::optional<sdk::DefogItem> defog;
 };
 
-/// Nothing when there is nothing to set.
+/// Nothing when the channel has no settings.
 [[nodiscard]] std::optional<ImageSettings> imageSettings(const sdk::demo::SceneDevice &device, int channel);
 
 void writeImageSettings(XmlElement element, const ImageSettings &settings);
 
-/// Takes over what stands in `element`. Returns false for what the camera does not have, and for values out
-/// of range.
+/// Reads the settings of `element`. Returns false for settings that the camera does not have, and for values
+/// out of range.
 [[nodiscard]] bool readImageSettings(pugi::xml_node element, ImageSettings &settings);
 
-/// The device keeps all of them or none.
+/// Writes the settings. The device accepts all or none of them.
 [[nodiscard]] sdk::NetError takeImageSettings(const ServiceCall &call, int channel,
                                               const ImageSettings &settings);
 

@@ -16,8 +16,9 @@ ServiceResult noSuchSource()
     return SoapFault::invalid("ter:NoSource", u"There is no such video source"_s);
 }
 
-/// Nothing, with an objection, for a source that is not there or not connected.
-std::optional<ImageSettings> askedSettings(const ServiceCall &call, int &channel, ServiceResult &objection)
+/// Nothing, with a fault, for an unknown or disconnected source.
+std::optional<ImageSettings> requestedSettings(const ServiceCall &call, int &channel,
+                                               ServiceResult &objection)
 {
     const std::optional<int> asked =
         channelOf(call.device, textAt(call.request, "timg:VideoSourceToken").value_or(QString()));
@@ -41,7 +42,7 @@ ServiceResult getImagingSettings(ServiceCall &call)
 {
     int channel = 0;
     ServiceResult objection;
-    if (const std::optional<ImageSettings> settings = askedSettings(call, channel, objection))
+    if (const std::optional<ImageSettings> settings = requestedSettings(call, channel, objection))
         writeImageSettings(call.response.add("timg:ImagingSettings"), *settings);
     return objection;
 }
@@ -50,7 +51,7 @@ ServiceResult setImagingSettings(ServiceCall &call)
 {
     int channel = 0;
     ServiceResult objection;
-    std::optional<ImageSettings> settings = askedSettings(call, channel, objection);
+    std::optional<ImageSettings> settings = requestedSettings(call, channel, objection);
     if (!settings)
         return objection;
     if (!readImageSettings(childNamed(call.request, "timg:ImagingSettings"), *settings))
@@ -63,7 +64,7 @@ ServiceResult getOptions(ServiceCall &call)
 {
     int channel = 0;
     ServiceResult objection;
-    const std::optional<ImageSettings> settings = askedSettings(call, channel, objection);
+    const std::optional<ImageSettings> settings = requestedSettings(call, channel, objection);
     if (!settings)
         return objection;
     if (call.device.hasFault(Fault::RefusesCapabilities))

@@ -16,9 +16,8 @@ namespace {
 
 constexpr int aacFormat = 5;
 
-/// The streams that a request for configurations is about: one that it names, or all. Nothing, when it names
-/// one that is not there.
-std::optional<QList<MediaStream>> askedStreams(const ServiceCall &call, MediaObject object)
+/// The streams of a request for configurations: the requested one, or all. Nothing for an unknown one.
+std::optional<QList<MediaStream>> requestedStreams(const ServiceCall &call, MediaObject object)
 {
     const QString configuration = textAt(call.request, "tr2:ConfigurationToken").value_or(QString());
     const QString profile = textAt(call.request, "tr2:ProfileToken").value_or(QString());
@@ -40,7 +39,7 @@ void writeVideoEncoder(XmlElement element, const ServiceCall &call, const MediaS
                        const EncodeSettings &settings)
 {
     element.attribute("token", tokenOf(MediaObject::VideoEncoder, stream));
-    element.attribute("GovLength", settings.keyDistance);
+    element.attribute("GovLength", settings.keyFrameInterval);
     if (settings.video.compression == sdk::compressionH264)
         element.attribute("Profile", profileName(settings.profile.profile));
     element.add("tt:Name", profileTitle(call.device, stream));
@@ -133,7 +132,7 @@ ServiceResult getAudioSourceConfigurations(ServiceCall &call)
 
 ServiceResult getVideoEncoderConfigurations(ServiceCall &call)
 {
-    const std::optional<QList<MediaStream>> streams = askedStreams(call, MediaObject::VideoEncoder);
+    const std::optional<QList<MediaStream>> streams = requestedStreams(call, MediaObject::VideoEncoder);
     if (!streams)
         return noSuchConfiguration();
     for (const MediaStream &stream : *streams) {
@@ -173,7 +172,7 @@ ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
     if (const pugi::xml_attribute constant =
             childNamed(wanted, "tt:RateControl").attribute("ConstantBitRate"))
         video.bitRateControl = constant.as_bool() ? 0 : 1;
-    settings->keyDistance = wanted.attribute("GovLength").as_int(settings->keyDistance);
+    settings->keyFrameInterval = wanted.attribute("GovLength").as_int(settings->keyFrameInterval);
     if (const pugi::xml_attribute profile = wanted.attribute("Profile");
         profile && *compression == sdk::compressionH264)
         settings->profile.profile = profileNamed(QString::fromUtf8(profile.value())).value_or(0);
@@ -186,7 +185,7 @@ ServiceResult writeOptions(ServiceCall &call, MediaObject object,
                            void (*write)(XmlElement response, const SceneDevice &device,
                                          const MediaStream &stream))
 {
-    const std::optional<QList<MediaStream>> streams = askedStreams(call, object);
+    const std::optional<QList<MediaStream>> streams = requestedStreams(call, object);
     if (!streams || streams->isEmpty())
         return noSuchConfiguration();
     if (call.device.hasFault(Fault::RefusesCapabilities))
@@ -213,7 +212,7 @@ ServiceResult getVideoEncoderInstances(ServiceCall &call)
 
 ServiceResult getAudioEncoderConfigurations(ServiceCall &call)
 {
-    const std::optional<QList<MediaStream>> streams = askedStreams(call, MediaObject::AudioEncoder);
+    const std::optional<QList<MediaStream>> streams = requestedStreams(call, MediaObject::AudioEncoder);
     if (!streams)
         return noSuchConfiguration();
     for (const MediaStream &stream : *streams) {
@@ -232,7 +231,7 @@ ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
     if (!settings)
         return noSuchConfiguration();
     const std::string encoding = textAt(wanted, "tt:Encoding").value_or(QString()).toStdString();
-    settings->sound.format = 0; // refused, unless the device knows it
+    settings->sound.format = 0; // refused, unless the device supports it
     for (const int format : soundFormats(call.device, *stream)) {
         if (encoding == media2Sound(format))
             settings->sound.format = format;
@@ -246,7 +245,7 @@ ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
     return std::nullopt;
 }
 
-/// Of the configurations of a profile, that of the encoder of sound can be added and removed.
+/// Only the audio encoder configuration can be added to a profile and removed from it.
 ServiceResult changeProfile(ServiceCall &call, bool isAdded)
 {
     const std::optional<MediaStream> stream = askedProfile(call);
@@ -299,7 +298,7 @@ ServiceResult getSnapshotUri(ServiceCall &call)
 
 ServiceResult setSynchronizationPoint(ServiceCall &call)
 {
-    return askForKeyPicture(call, "tr2:ProfileToken");
+    return requestKeyFrame(call, "tr2:ProfileToken");
 }
 
 } // namespace

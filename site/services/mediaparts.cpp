@@ -4,7 +4,7 @@
 #include "sdk/camerablocks.h"
 #include "sdk/demo/internal/channelitems.h"
 #include "site/deviceidentity.h"
-#include "site/rtsp/keypictures.h"
+#include "site/rtsp/keyframes.h"
 
 #include <cstring>
 
@@ -126,13 +126,13 @@ void writeMulticast(XmlElement parent)
     multicast.add("tt:AutoStart", false);
 }
 
-ServiceResult askForKeyPicture(ServiceCall &call, const char *profileToken)
+ServiceResult requestKeyFrame(ServiceCall &call, const char *profileToken)
 {
     const std::optional<MediaStream> stream =
         streamOf(call.device, MediaObject::Profile, textAt(call.request, profileToken).value_or(QString()));
     if (!stream)
         return noSuchProfile();
-    call.context.keyPictures.ask(call.device.mac, *stream);
+    call.context.keyFrames.ask(call.device.mac, *stream);
     return std::nullopt;
 }
 

@@ -1,4 +1,4 @@
-// What both media services write alike.
+// Elements that both media services have in common.
 #pragma once
 
 #include "site/services/encodesettings.h"
@@ -16,7 +16,7 @@ void writeRange(XmlElement parent, const char *name, double minimum, double maxi
 void writeVideoSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 
-/// The size of the picture that a channel can have at most.
+/// The largest frame size of a channel.
 [[nodiscard]] sdk::PictureSize largestSize(const sdk::demo::SceneDevice &device);
 
 /// The name of a channel.
@@ -25,20 +25,20 @@ void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, 
 /// A stream's "main" or "sub" with the name of its channel.
 [[nodiscard]] QString profileTitle(const sdk::demo::SceneDevice &device, const MediaStream &stream);
 
-/// Whether a profile has sound.
+/// True if a profile has sound.
 [[nodiscard]] bool hasSound(const sdk::demo::SceneDevice &device, const MediaStream &stream);
 [[nodiscard]] sdk::NetError switchSound(const ServiceCall &call, const MediaStream &stream, bool isOn);
 
-/// Where a client that has reached the device as in `call` plays the stream.
+/// The URL of the stream for a client that has reached the device as in `call`.
 [[nodiscard]] QString streamUri(const ServiceCall &call, const MediaStream &stream);
 
 /// Empty when the device has no web page.
 [[nodiscard]] QString snapshotUri(const ServiceCall &call, const MediaStream &stream);
 
-/// Where nothing is sent to groups.
+/// Writes a multicast configuration without a group.
 void writeMulticast(XmlElement parent);
 
-// Operations that both services have in the same words, but for the namespace of `prefix`.
-ServiceResult askForKeyPicture(ServiceCall &call, const char *profileToken);
+// Operations that are the same in both services, except the namespace of `prefix`.
+ServiceResult requestKeyFrame(ServiceCall &call, const char *profileToken);
 
 } // namespace site

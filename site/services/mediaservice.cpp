@@ -21,7 +21,7 @@ std::optional<MediaStream> askedStream(const ServiceCall &call, MediaObject obje
     return streamOf(call.device, object, textAt(call.request, path).value_or(QString()));
 }
 
-/// Codecs that came later than the service are not shown in it.
+/// The service does not report codecs that are newer than itself.
 bool isShown(const std::optional<EncodeSettings> &settings)
 {
     return settings && !mediaCodec(settings->video.compression).empty();
@@ -45,11 +45,11 @@ void writeVideoEncoder(XmlElement element, const ServiceCall &call, const MediaS
     rate.add("tt:BitrateLimit", settings.video.bitRate);
     if (codec == "H264") {
         XmlElement h264 = element.add("tt:H264");
-        h264.add("tt:GovLength", settings.keyDistance);
+        h264.add("tt:GovLength", settings.keyFrameInterval);
         h264.add("tt:H264Profile", profileName(settings.profile.profile));
     } else if (codec == "MPEG4") {
         XmlElement mpeg4 = element.add("tt:MPEG4");
-        mpeg4.add("tt:GovLength", settings.keyDistance);
+        mpeg4.add("tt:GovLength", settings.keyFrameInterval);
         mpeg4.add("tt:Mpeg4Profile", "SP");
     }
     writeMulticast(element);
@@ -199,7 +199,7 @@ ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
     video.frameRate = static_cast<float>(
         number("tt:RateControl/tt:FrameRateLimit", static_cast<int>(std::lround(video.frameRate))));
     video.bitRate = number("tt:RateControl/tt:BitrateLimit", video.bitRate);
-    settings->keyDistance = number("tt:H264/tt:GovLength", settings->keyDistance);
+    settings->keyFrameInterval = number("tt:H264/tt:GovLength", settings->keyFrameInterval);
     if (const std::optional<QString> profile = textAt(wanted, "tt:H264/tt:H264Profile"))
         settings->profile.profile = profileNamed(*profile).value_or(0);
     if (takeEncodeSettings(call, *stream, *settings) != sdk::NetError::None)
@@ -261,7 +261,7 @@ ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
     if (!settings)
         return noSuchConfiguration();
     const QString encoding = textAt(wanted, "tt:Encoding").value_or(QString());
-    // Both kinds of G.711 have one name: the one that is set stays.
+    // Both variants of G.711 have the same name: the present variant is kept.
     if (encoding.toStdString() != mediaSound(settings->sound.format)) {
         settings->sound.format = 0;
         for (const int format : soundFormats(call.device, *stream)) {
@@ -347,7 +347,7 @@ ServiceResult getSnapshotUri(ServiceCall &call)
 
 ServiceResult setSynchronizationPoint(ServiceCall &call)
 {
-    return askForKeyPicture(call, "trt:ProfileToken");
+    return requestKeyFrame(call, "trt:ProfileToken");
 }
 
 } // namespace

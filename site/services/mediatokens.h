@@ -1,4 +1,4 @@
-// How services call the streams of a device.
+// The tokens of a device's streams.
 #pragma once
 
 #include "sdk/demo/scene.h"
@@ -26,7 +26,7 @@ struct MediaStream
     }
 };
 
-/// What a token names.
+/// The object of a token.
 enum class MediaObject
 {
     Profile,
@@ -40,10 +40,10 @@ enum class MediaObject
 [[nodiscard]] QString audioSourceToken(int channel);
 [[nodiscard]] QString audioSourceConfigurationToken(int channel);
 
-/// "/channel1/main": where RTSP has the stream.
+/// "/channel1/main": the RTSP path of the stream.
 [[nodiscard]] QString pathOf(const MediaStream &stream);
 
-/// Number of the channels that a device has, connected or not; one that tells of none has one.
+/// The number of channels of a device, connected or not; 1 for a device that reports none.
 [[nodiscard]] int channelCount(const sdk::demo::SceneDevice &device);
 [[nodiscard]] bool isConnected(const sdk::demo::SceneDevice &device, int channel);
 

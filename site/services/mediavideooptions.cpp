@@ -13,8 +13,8 @@ namespace {
 
 constexpr int aacFormat = 5;
 
-/// The abilities of the stream, out of bounds for a device of that fault.
-StreamAbilities toldAbilities(const SceneDevice &device, const MediaStream &stream)
+/// The abilities of the stream; out of bounds for a device with that fault.
+StreamAbilities reportedAbilities(const SceneDevice &device, const MediaStream &stream)
 {
     StreamAbilities abilities = streamAbilities(device, stream.encodeKind());
     if (device.hasFault(Fault::OddCapabilities)) {
@@ -39,7 +39,7 @@ void writeCodec(XmlElement options, const char *name, const StreamAbilities &abi
         resolution.add("tt:Height", size.height);
     }
     if (kind != "tt:JPEG")
-        writeRange(codec, "tt:GovLengthRange", 1, longestKeyDistance);
+        writeRange(codec, "tt:GovLengthRange", 1, longestKeyFrameInterval);
     writeRange(codec, "tt:FrameRateRange", 1, abilities.maximumFrameRate);
     writeRange(codec, "tt:EncodingIntervalRange", 1, 1);
     if (kind == "tt:MPEG4")
@@ -76,7 +76,7 @@ QString rates(int maximum)
 
 void writeMediaVideoOptions(XmlElement options, const SceneDevice &device, const MediaStream &stream)
 {
-    const StreamAbilities abilities = toldAbilities(device, stream);
+    const StreamAbilities abilities = reportedAbilities(device, stream);
     writeRange(options, "tt:QualityRange", 1, bestQuality);
     writeCodecs(options, abilities);
     writeCodecs(options.add("tt:Extension"), abilities);
@@ -84,7 +84,7 @@ void writeMediaVideoOptions(XmlElement options, const SceneDevice &device, const
 
 void writeMediaAudioOptions(XmlElement options, const SceneDevice &device, const MediaStream &stream)
 {
-    const StreamAbilities abilities = toldAbilities(device, stream);
+    const StreamAbilities abilities = reportedAbilities(device, stream);
     std::set<std::string_view> written;
     for (const int format : soundFormats(device, stream)) {
         if (!written.insert(mediaSound(format)).second)
@@ -101,13 +101,13 @@ void writeMediaAudioOptions(XmlElement options, const SceneDevice &device, const
 
 void writeMedia2VideoOptions(XmlElement response, const SceneDevice &device, const MediaStream &stream)
 {
-    const StreamAbilities abilities = toldAbilities(device, stream);
+    const StreamAbilities abilities = reportedAbilities(device, stream);
     for (const int compression : abilities.compressions) {
         XmlElement options = response.add("tr2:Options");
         QStringList profiles;
         for (const int profile : abilities.profiles)
             profiles.append(QString::fromStdString(std::string(profileName(profile))));
-        options.attribute("GovLengthRange", QStringLiteral("1 %1").arg(longestKeyDistance));
+        options.attribute("GovLengthRange", QStringLiteral("1 %1").arg(longestKeyFrameInterval));
         options.attribute("FrameRatesSupported", rates(abilities.maximumFrameRate));
         if (compression == sdk::compressionH264)
             options.attribute("ProfilesSupported", profiles.join(u' '));
@@ -125,7 +125,7 @@ void writeMedia2VideoOptions(XmlElement response, const SceneDevice &device, con
 
 void writeMedia2AudioOptions(XmlElement response, const SceneDevice &device, const MediaStream &stream)
 {
-    const StreamAbilities abilities = toldAbilities(device, stream);
+    const StreamAbilities abilities = reportedAbilities(device, stream);
     for (const int format : soundFormats(device, stream)) {
         XmlElement options = response.add("tr2:Options");
         options.add("tt:Encoding", media2Sound(format));

@@ -1,4 +1,4 @@
-// What the encoder of a stream can be set to, in the words of the media services.
+// The encoder options of a stream for the media services.
 #pragma once
 
 #include "site/services/mediatokens.h"
@@ -6,7 +6,7 @@
 
 namespace site {
 
-inline constexpr int longestKeyDistance = 150; ///< in pictures
+inline constexpr int longestKeyFrameInterval = 150; ///< in frames
 inline constexpr int bestQuality = 6;
 
 /// The children of "trt:Options".

@@ -1,4 +1,4 @@
-// Keeps the messages of services as files, to be looked at or checked later.
+// Writes the messages of services to files for later checks.
 #pragma once
 
 #include "site/http/httpexchange.h"

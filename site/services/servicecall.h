@@ -1,4 +1,4 @@
-// What the operations of services share.
+// Common data of the operations of services.
 #pragma once
 
 #include "sdk/demo/demosite.h"
@@ -17,34 +17,34 @@
 namespace site {
 
 class FirmwareUploads;
-class KeyPictures;
+class KeyFrames;
 
-/// What the services of all devices work with.
+/// The context of the services of all devices.
 struct ServiceContext
 {
     sdk::demo::DemoSite &site;
     const SiteOptions &options;
     DeviceLogins &logins;
-    KeyPictures &keyPictures;
+    KeyFrames &keyFrames;
     FirmwareUploads &uploads;
 };
 
-/// One request to one device, which has been let in.
+/// One authorised request to one device.
 struct ServiceCall
 {
     ServiceContext &context;
     const HttpReceiver &receiver;
-    const sdk::demo::SceneDevice device; ///< as it was when the request came
+    const sdk::demo::SceneDevice device; ///< its state at the arrival of the request
     const DeviceManner manner;
     const LoginOutcome login;
     const pugi::xml_node request; ///< the operation's element
-    XmlElement response;          ///< the same of the answer
+    XmlElement response;          ///< the operation's element of the response
     const std::int64_t now;       ///< on the site's clock
 
-    /// "http://192.168.1.101": as the client has reached the device.
+    /// "http://192.168.1.101": the address that the client has used.
     [[nodiscard]] QString root() const;
 
-    /// Lets `change` change the device. NetError::ConnectTimeout when it has left the site.
+    /// Applies `change` to the device. NetError::ConnectTimeout when it has left the site.
     sdk::NetError change(const std::function<sdk::NetError(sdk::demo::SceneDevice &device)> &change) const;
 };
 
@@ -57,14 +57,14 @@ using ServiceResult = std::optional<SoapFault>;
     return error == sdk::NetError::None ? std::nullopt : ServiceResult(fault);
 }
 
-/// Who may use an operation.
+/// The access class of an operation.
 enum class Access
 {
-    BeforeLogin,         ///< everybody
-    ReadSystem,          ///< users; everybody while the device waits for its first password
+    BeforeLogin,         ///< every client
+    ReadSystem,          ///< users; every client of an uninitialised device
     ReadSystemSensitive, ///< operators
     WriteSystem,         ///< administrators
-    FirstUser,           ///< administrators; everybody while the device waits for its first password
+    FirstUser,           ///< administrators; every client of an uninitialised device
     ReadMedia,           ///< users
     Actuate,             ///< operators
 };

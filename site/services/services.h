@@ -7,7 +7,7 @@
 
 namespace site {
 
-/// Those of the service with that prefix; none for one that the device does not have.
+/// The operations of the service with that prefix; none for a service that the device does not have.
 [[nodiscard]] ServiceOperations operationsOf(std::string_view prefix, const DeviceManner &manner);
 
 /// One service of a device.
@@ -21,10 +21,10 @@ struct ServiceDescription
 
 [[nodiscard]] std::vector<ServiceDescription> servicesOf(const DeviceManner &manner);
 
-/// Whether requests to services are sent to that path.
+/// True if the path is that of a service.
 [[nodiscard]] bool isServicePath(const QByteArray &path);
 
-// By service.
+// The operations of each service.
 [[nodiscard]] ServiceOperations deviceOperations();
 [[nodiscard]] ServiceOperations mediaOperations();
 [[nodiscard]] ServiceOperations media2Operations();

@@ -4,7 +4,7 @@ namespace site {
 
 namespace {
 
-// Among the configurations, under a name that no protocol asks for.
+// Stored among the configurations, under a name that no protocol uses.
 const QString &stateName()
 {
     static const QString name = QStringLiteral("Services");

@@ -1,4 +1,4 @@
-// What a device keeps of its services beside what other protocols know of it. A reset forgets it.
+// The state of a device's services that other protocols do not have. A reset clears it.
 #pragma once
 
 #include "sdk/demo/scene.h"

@@ -74,7 +74,7 @@ HttpReply SoapService::answer(const HttpReceiver &receiver, const HttpRequest &h
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     HttpReply reply;
     reply.status = HttpStatus::None;
-    // The listeners close a moment after the device has left for its restart.
+    // The listeners are closed shortly after the start of the device's reboot.
     if (!device || !device->isListening(m_context.site.clock().now()))
         return reply;
     if (const std::optional<FaultSetting> slow = device->fault(Fault::SlowAnswers))
@@ -126,7 +126,7 @@ SoapService::Outcome SoapService::run(const HttpReceiver &receiver, const SceneD
             outcome.fault = SoapFault::notAuthorized(
                 login.level == UserLevel::Anonymous ? login.reason : u"The user may not do this"_s);
             outcome.isStale = login.isStale;
-            // Who proves itself by a token is answered by the fault alone.
+            // A request with a token gets the fault without a challenge.
             outcome.isChallenge = manner.takesDigest && !request.token && login.level == UserLevel::Anonymous;
             outcome.status = outcome.isChallenge ? HttpStatus::Unauthorized : HttpStatus::BadRequest;
             record(device, request, login, outcome);

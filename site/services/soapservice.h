@@ -1,4 +1,4 @@
-// Brings requests to the operations of services.
+// Dispatches requests to the operations of services.
 #pragma once
 
 #include "site/services/servicecall.h"

@@ -9,7 +9,7 @@ namespace site {
 
 struct XmlNamespace
 {
-    std::string_view prefix; ///< that this program calls it by
+    std::string_view prefix; ///< in this program
     std::string_view uri;
 };
 

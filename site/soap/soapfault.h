@@ -1,4 +1,4 @@
-// Faults, as services answer what they cannot do.
+// SOAP faults.
 #pragma once
 
 #include "site/soap/xmlwriting.h"
@@ -9,7 +9,7 @@ namespace site {
 
 struct SoapFault
 {
-    bool isSender = true; ///< whose fault it is: the sender's or the device's
+    bool isSender = true; ///< fault code Sender, otherwise Receiver
     const char *subcode = "ter:InvalidArgVal";
     const char *detail = nullptr; ///< the subcode below it: "ter:NoProfile"
     QString reason;

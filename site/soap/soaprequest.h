@@ -1,4 +1,4 @@
-// A request to a service, taken apart.
+// A parsed request to a service.
 #pragma once
 
 #include <QByteArray>
@@ -13,21 +13,21 @@
 
 namespace site {
 
-/// Who says to be asking, and how it proves that.
+/// The user-name token of WS-Security.
 struct UserNameToken
 {
     QString user;
-    QByteArray password; ///< as it stands in the message
+    QByteArray password; ///< as in the message
     bool isDigest = false;
     QByteArray nonce;   ///< decoded
-    QByteArray created; ///< as it stands in the message
+    QByteArray created; ///< as in the message
 };
 
 struct SoapRequest
 {
-    std::unique_ptr<pugi::xml_document> document; ///< that `operation` is in
+    std::unique_ptr<pugi::xml_document> document; ///< owns `operation`
     pugi::xml_node operation;
-    std::string prefix; ///< of its service, as soap/namespaces.h has it; empty for an unknown one
+    std::string prefix; ///< of its service, by soap/namespaces.h; empty for an unknown one
     std::string name;
     std::optional<UserNameToken> token;
 };
@@ -36,13 +36,13 @@ enum class UnusableRequest
 {
     NoXml,
     NoEnvelope,    ///< or one of another version
-    NotUnderstood, ///< a header that has to be understood
+    NotUnderstood, ///< an unknown header with mustUnderstand
 };
 
 [[nodiscard]] std::variant<SoapRequest, UnusableRequest> readSoapRequest(const QByteArray &bytes);
 
-/// Whether the token was made with that password. `now` is the time of the device (UTC, ms since 1970): a
-/// token that was made long before or after is refused.
+/// True if the token was made with that password. `now` is the time of the device (UTC, ms since 1970): a
+/// token whose time differs too much is refused.
 [[nodiscard]] bool provesPassword(const UserNameToken &token, const QString &password, std::int64_t now);
 
 } // namespace site

@@ -6,8 +6,8 @@ namespace site {
 
 namespace {
 
-/// Where the local name begins in "prefix:name".
-std::size_t beginOfLocalName(std::string_view name)
+/// The index of the local name in "prefix:name".
+std::size_t startOfLocalName(std::string_view name)
 {
     const std::size_t colon = name.find(':');
     return colon == std::string_view::npos ? 0 : colon + 1;
@@ -23,7 +23,7 @@ public:
 
 bool readXml(const QByteArray &bytes, pugi::xml_document &document)
 {
-    // Types of documents, and the entities in them, are passed over.
+    // Document types and their entities are skipped.
     if (!document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size())))
         return false;
     DepthWalker walker;
@@ -33,13 +33,13 @@ bool readXml(const QByteArray &bytes, pugi::xml_document &document)
 std::string_view localName(pugi::xml_node element)
 {
     const std::string_view name = element.name();
-    return name.substr(beginOfLocalName(name));
+    return name.substr(startOfLocalName(name));
 }
 
 std::string_view namespaceOf(pugi::xml_node element)
 {
     const std::string_view name = element.name();
-    const std::size_t begin = beginOfLocalName(name);
+    const std::size_t begin = startOfLocalName(name);
     return namespaceOf(element, begin == 0 ? std::string_view() : name.substr(0, begin - 1));
 }
 
@@ -55,7 +55,7 @@ std::string_view namespaceOf(pugi::xml_node element, std::string_view prefix)
 
 bool isNamed(pugi::xml_node element, std::string_view name)
 {
-    const std::size_t begin = beginOfLocalName(name);
+    const std::size_t begin = startOfLocalName(name);
     return localName(element) == name.substr(begin) &&
            namespaceOf(element) == namespaceUri(name.substr(0, begin == 0 ? 0 : begin - 1));
 }

@@ -17,7 +17,7 @@ std::string_view prefixOf(std::string_view name)
     return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
 }
 
-/// Qualified names stand in the texts of these elements.
+/// True for elements whose text is a qualified name.
 bool holdsNames(pugi::xml_node element)
 {
     const std::string_view name = element.name();
@@ -42,10 +42,10 @@ void collectPrefixes(pugi::xml_node node, std::set<std::string> &prefixes)
 
 using Names = std::map<std::string, std::string, std::less<>>;
 
-/// What a device calls each prefix; an empty name stands for the default namespace.
+/// The device's name of each prefix; an empty name stands for the default namespace.
 Names namesOf(const std::set<std::string> &prefixes, XmlManner manner)
 {
-    // Those that stand in texts need a name in any case.
+    // Prefixes in texts always need a name.
     const std::set<std::string_view> named = {"env", "ter", "dn", "d", "wsa"};
     Names names;
     int number = 0;

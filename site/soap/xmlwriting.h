@@ -1,4 +1,4 @@
-// Writing messages, in the manner of different makes of devices.
+// Writing messages in the styles of different makes of devices.
 #pragma once
 
 #include <QByteArray>
@@ -40,12 +40,12 @@ private:
     pugi::xml_node m_node;
 };
 
-/// How a device names namespaces.
+/// The namespace prefixes of a device.
 enum class XmlManner
 {
-    UsualPrefixes, ///< those that most devices have, "SOAP-ENV" for the envelope
+    UsualPrefixes, ///< the usual prefixes, "SOAP-ENV" for the envelope
     OwnPrefixes,   ///< "ns1", "ns2" and so on
-    Defaults,      ///< none but for the envelope: each element of another namespace declares it
+    Defaults,      ///< prefix for the envelope only: each element of another namespace declares it
 };
 
 /// A SOAP message.
@@ -54,11 +54,11 @@ class SoapMessage
 public:
     SoapMessage();
 
-    /// Is written only when something is added.
+    /// The header, which is written only if it has content.
     [[nodiscard]] XmlElement header();
     [[nodiscard]] XmlElement body() const { return XmlElement(m_body); }
 
-    /// To be called once: the bytes that go out.
+    /// The bytes of the message. To be called once.
     [[nodiscard]] QByteArray bytes(XmlManner manner);
 
 private:

@@ -1,4 +1,4 @@
-// A client of site devices that sends just what a test tells it to.
+// A client of site devices that sends the requests of a test.
 #pragma once
 
 #include <QByteArray>
@@ -17,7 +17,7 @@ namespace site {
 
 struct Answer
 {
-    int status = 0; ///< 0 when no answer came
+    int status = 0; ///< 0 without a response
     QByteArray head;
     QByteArray body;
 
@@ -32,7 +32,7 @@ struct Answer
         return values;
     }
 
-    /// The texts of all elements of that name, whatever their prefixes.
+    /// The texts of all elements of that name, with any prefix.
     [[nodiscard]] QStringList texts(const QString &name) const
     {
         static const QRegularExpression element(
@@ -57,7 +57,7 @@ struct Answer
     }
 };
 
-/// One request on a connection of its own; the connection is closed after the answer.
+/// One request on a separate connection, which is closed after the response.
 inline Answer exchange(const QString &address, int port, const QByteArray &bytes, int patience = 10000)
 {
     QTcpSocket socket;
@@ -94,7 +94,7 @@ struct Login
     };
     Kind kind = Kind::None;
     QString password;
-    int minutesOff = 0; ///< how wrong the clock of the client is
+    int minutesOff = 0; ///< error of the client's clock
 };
 
 inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
@@ -104,7 +104,7 @@ inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
         .toHex();
 }
 
-/// What answers the first challenge of `refusal` for the user "admin".
+/// The response to the first challenge of `refusal` for the user "admin".
 inline QByteArray digestHeader(const Answer &refusal, const QString &password, const QByteArray &method,
                                const QByteArray &uri)
 {
@@ -146,7 +146,8 @@ inline QByteArray tokenHeader(const Login &login)
            "</c:Created></UsernameToken></Security></e:Header>";
 }
 
-/// Asks a service: `operation` is the element with the default namespace of its service, and "tt" bound.
+/// Sends a request to a service: `operation` is the element with the default namespace of its service; the
+/// prefix "tt" is declared.
 inline Answer ask(const QString &address, const QByteArray &operation, const Login &login = {},
                   const QByteArray &service = "device", int port = 80)
 {
@@ -177,7 +178,7 @@ inline QByteArray mediaOperation(const QByteArray &name, const QByteArray &conte
     return "<" + name + " xmlns=\"http://www.onvif.org/ver20/media/wsdl\">" + content + "</" + name + ">";
 }
 
-/// Asks again and again until `isRight`; false when it is not within `seconds`.
+/// Polls `isRight`; returns false when it is not true within `seconds`.
 inline bool becomes(const std::function<bool()> &isRight, int seconds = 20)
 {
     QElapsedTimer timer;
@@ -185,7 +186,7 @@ inline bool becomes(const std::function<bool()> &isRight, int seconds = 20)
     while (!isRight()) {
         if (timer.elapsed() > seconds * 1000)
             return false;
-        QThread::msleep(50); // between two looks, not a wait for an event
+        QThread::msleep(50); // poll interval
     }
     return true;
 }

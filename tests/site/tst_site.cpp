@@ -1,4 +1,4 @@
-// A site on a network: scripts/lab runs this on the computer of the installer.
+// A site on a network: scripts/lab runs this on the host of the installer.
 #include "tests/site/siteclient.h"
 
 #include <QFile>
@@ -13,7 +13,7 @@ namespace {
 
 const Login rightToken = {Login::Kind::Token, u"Right-1"_s};
 
-/// A device's first stream by RTSP: its description, or what it refuses with.
+/// A device's first stream by RTSP: its description, or its refusal.
 Answer describe(const QString &address, const QByteArray &path, const QString &password)
 {
     const QByteArray uri = "rtsp://" + address.toLatin1() + path;
@@ -24,7 +24,7 @@ Answer describe(const QString &address, const QByteArray &path, const QString &p
     return exchange(address, 554, request(digestHeader(refusal, password, "DESCRIBE", uri)));
 }
 
-/// The addresses in the answers to a probe, until `count` have come or for a while.
+/// The addresses in the responses to a probe, until `count` have arrived or the timeout has passed.
 QStringList probe(const QString &group, const QByteArray &types, int count, int patience = 3000)
 {
     QUdpSocket socket;
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void loginsAreChecked_data();
     void loginsAreChecked();
     void accountLocksAcrossServices();
-    void firstPassword();
+    void initialisation();
     void clockHasZone();
     void streamFollowsEncoder();
     void unconnectedChannelHasNoProfile();
@@ -103,7 +103,7 @@ void TestSite::devicesAreFound()
     QFETCH(QString, group);
     QFETCH(QByteArray, types);
     QFETCH(QStringList, addresses);
-    // One more than there should be, so that it would be noticed; a short while tells that none comes.
+    // One more than expected, to detect a surplus response; a short timeout is sufficient for that.
     constexpr int shortWhile = 700;
     QCOMPARE(probe(group, types, static_cast<int>(addresses.size()) + 1, shortWhile), addresses);
 }
@@ -152,7 +152,7 @@ void TestSite::accountLocksAcrossServices()
     const Login wrong = {Login::Kind::Token, u"Wrong"_s};
     const Login right = {Login::Kind::Token, u"Right-5"_s};
     const QByteArray media = mediaOperation("GetProfiles");
-    // Prefixes differ from maker to maker: this one declares none.
+    // Prefixes depend on the make: this one declares none.
     QVERIFY(!ask(address, deviceOperation("GetHostname")).body.contains("tds:"));
     QStringList outcomes;
     for (const Login &login : {right, wrong})
@@ -163,7 +163,7 @@ void TestSite::accountLocksAcrossServices()
              (QStringList{u"200"_s, u"400 NotAuthorized"_s, u"400 NotAuthorized"_s, u"400 NotAuthorized"_s}));
 }
 
-void TestSite::firstPassword()
+void TestSite::initialisation()
 {
     const QString address = u"192.168.7.13"_s;
     const auto create = [&address](const QByteArray &level) {
@@ -198,11 +198,11 @@ void TestSite::clockHasZone()
     };
     QCOMPARE(set("nowhere"), u"400 InvalidTimeZone"_s);
     QCOMPARE(set("CET-1CEST,M3.5.0,M10.5.0/3"), u"200"_s);
-    const Answer told = ask(address, deviceOperation("GetSystemDateAndTime"));
+    const Answer response = ask(address, deviceOperation("GetSystemDateAndTime"));
     // UTC, then the time of the zone, which is two hours and a day ahead.
-    QCOMPARE(told.texts(u"Hour"_s) + told.texts(u"Day"_s) + told.texts(u"Month"_s),
+    QCOMPARE(response.texts(u"Hour"_s) + response.texts(u"Day"_s) + response.texts(u"Month"_s),
              (QStringList{u"20"_s, u"22"_s, u"31"_s, u"31"_s, u"7"_s, u"7"_s}));
-    // Tokens go by the clock of the device.
+    // Tokens use the clock of the device.
     QCOMPARE(ask(address, deviceOperation("GetDeviceInformation"), rightToken).outcome(),
              u"400 NotAuthorized"_s);
     const QDateTime now = QDateTime::currentDateTimeUtc();
@@ -299,21 +299,21 @@ void TestSite::resetMakesFactoryNew()
                  login)
                  .outcome(),
              u"200"_s);
-    // It says that it leaves, and then that it is there again, without a password. Other devices, and this
-    // one after an earlier test, say that they are there, too.
-    QStringList said;
+    // It sends Bye, and then Hello without a login. Other devices, and this one after an earlier test, send
+    // Hello as well.
+    QStringList messages;
     QVERIFY(becomes([&] {
         while (group.hasPendingDatagrams() || group.waitForReadyRead(50)) {
             const QNetworkDatagram datagram = group.receiveDatagram();
             if (datagram.senderAddress() != QHostAddress(address))
                 continue;
             const bool isBye = datagram.data().contains("Bye>");
-            if (isBye || !said.isEmpty())
-                said << (isBye ? u"Bye"_s : u"Hello"_s);
+            if (isBye || !messages.isEmpty())
+                messages << (isBye ? u"Bye"_s : u"Hello"_s);
         }
-        return said.size() >= 2;
+        return messages.size() >= 2;
     }));
-    QCOMPARE(said, (QStringList{u"Bye"_s, u"Hello"_s}));
+    QCOMPARE(messages, (QStringList{u"Bye"_s, u"Hello"_s}));
     QCOMPARE(ask(address, deviceOperation("GetUsers")).outcome(), u"200"_s);
 }
 

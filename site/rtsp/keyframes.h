@@ -1,4 +1,4 @@
-// Requests for pictures that need no earlier one.
+// Requests for key frames.
 #pragma once
 
 #include "site/services/mediatokens.h"
@@ -12,16 +12,16 @@
 namespace site {
 
 /// Thread-safe.
-class KeyPictures
+class KeyFrames
 {
 public:
-    /// The next picture of the stream is to need no earlier one.
+    /// Requests that the next frame of the stream is a key frame.
     void ask(const QString &mac, const MediaStream &stream);
 
-    /// How often somebody has asked.
+    /// The number of requests.
     [[nodiscard]] int count(const QString &mac, const MediaStream &stream) const;
 
-    /// Blocks until somebody asks after `count`, or a stop.
+    /// Blocks until there are more than `count` requests, or until a stop.
     void waitAfter(int count, const QString &mac, const MediaStream &stream, const std::stop_token &stop);
 
 private:
