@@ -12,7 +12,7 @@ struct PictureFormat
     const char *ending;
 };
 
-/// The first one that is found counts.
+/// The first match is used.
 constexpr std::array pictureFormats = {
     PictureFormat{.contentType = "image/jpeg", .ending = ".jpg"},
     PictureFormat{.contentType = "image/png", .ending = ".png"},
@@ -22,7 +22,7 @@ constexpr std::array pictureFormats = {
     PictureFormat{.contentType = "image/webp", .ending = ".webp"},
 };
 
-/// "gbk" of "Content-Type: text/plain; charset=GBK", where the last answer says so.
+/// "gbk" of "Content-Type: text/plain; charset=GBK" in the headers of the last response; empty without it.
 QByteArray namedEncoding(const QByteArray &headers)
 {
     const QByteArray text = headers.toLower();
@@ -36,7 +36,7 @@ QByteArray namedEncoding(const QByteArray &headers)
     return name.replace('"', "").trimmed();
 }
 
-/// Encodings of two or four bytes a letter have zeroes even in plain text.
+/// Encodings with two or four bytes per character have zeroes even in plain text.
 bool isUtf8(const QByteArray &body)
 {
     return !body.contains('\0') && QByteArrayView(body).isValidUtf8();

@@ -1,4 +1,4 @@
-// What kind of answer the headers announce, the text that it is, and the file that keeps it.
+// The type of a response by its headers, its text, and the file that it is saved to.
 #pragma once
 
 #include <QByteArray>
@@ -12,17 +12,17 @@ enum class AnswerKind
     Recording,
 };
 
-/// Judged by the whole text of the headers, in which capital letters count.
+/// The type by the text of all headers. The comparison is case-sensitive.
 [[nodiscard]] AnswerKind answerKind(const QByteArray &headers);
 
-/// The ending of the file for an answer with these headers, with its point. Empty for a text.
+/// The suffix of the file for a response with these headers, with its dot. Empty for a text.
 [[nodiscard]] QString answerFileEnding(const QByteArray &headers);
 
-/// The text of an answer's body: UTF-8, as devices send it; what is no UTF-8 in the encoding of its byte
-/// order mark, or else in the one that the headers name last. What cannot be read so has a sign in its place.
+/// The text of a response's body, which is usually UTF-8. If it is not UTF-8, the encoding is that of its
+/// byte order mark, otherwise the last one in the headers. Undecodable bytes become replacement characters.
 [[nodiscard]] QString answerText(const QByteArray &headers, const QByteArray &body);
 
-/// "<folder>/<yyyyMMddhhmmss><ending>": two answers within a second have the same file, and the later one
-/// stays.
+/// "<folder>/<yyyyMMddhhmmss><ending>": two responses within a second have the same file, and the later one
+/// replaces the earlier one.
 [[nodiscard]] QString answerFilePath(const QString &folder, const QDateTime &localTime,
                                      const QString &ending);

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Commands go to addresses. Where two devices have the same one, only one of them is named so.
+/// Commands are sent to addresses. Of two devices with the same address, only one is identified by it.
 void nameByAddress(QList<BatchDevice> &devices)
 {
     QSet<QString> addresses;
@@ -87,8 +87,8 @@ DeviceStep CgiBatches::deviceStep(const BatchDevice &device, const QString &comm
                    });
 }
 
-/// A device behind a tunnel has its web page on a port of its own. Empty when there is none, since the usual
-/// one would be that of this computer. A device that reports no web port has the usual one.
+/// A device behind a tunnel has a separate local port for its web page. Empty when there is none, since the
+/// default port would belong to this host. A device that reports no web port uses the default port.
 QString CgiBatches::addressOf(const QString &ipport, const QString &command)
 {
     constexpr int usualPort = 80;

@@ -4,8 +4,9 @@
 
 class LongAnswers;
 
-/// Commands to devices over HTTP as batches, for the scene: one command to some of the listed devices, each
-/// with the account of the device, whose rows get the answers. Those of a workbook are with workbooks().
+/// Commands to devices over HTTP as batches, for the scene: one command to several listed devices, each with
+/// the account of the device. The responses are written to the rows. Commands of a workbook are in
+/// workbooks().
 ///
 /// Lives on the scene's thread.
 class CgiBatches : public QObject
@@ -13,27 +14,27 @@ class CgiBatches : public QObject
     Q_OBJECT
     Q_PROPERTY(CgiWorkbooks *workbooks READ workbooks CONSTANT)
 public:
-    /// `factory` and `batches` live longer than this. Of `surroundings` the login check, the watch and the
-    /// paths of files are not used: it has its own.
+    /// `factory` and `batches` must outlive this object. The login check, the watch and the file paths of
+    /// `surroundings` are not used: this object has its own.
     CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
                QObject *parent = nullptr);
 
     [[nodiscard]] CgiWorkbooks *workbooks() const { return m_workbooks; }
 
-    /// Sends a command to devices that are named by the identities of their rows. The rows get the command as
-    /// "url" at once, and as "result" the beginning of the answer, or the words for not sent. Returns the
-    /// batch, or null when it does not begin. The scene does not own it.
+    /// Sends a command to the devices with these row identities. The rows get the command as "url"
+    /// immediately, and the start of the response as "result", or the text for "not sent". Returns the batch,
+    /// or null when it does not start. The scene does not own it.
     Q_INVOKABLE Batch *send(const QString &title, const QStringList &identities, const QString &command);
 
-    /// What the row's "result" is the beginning of, as far as it is kept.
+    /// The complete response whose start is the row's "result", if it is kept.
     Q_INVOKABLE [[nodiscard]] QString answerOf(const QString &identity, const QString &result) const;
 
-    /// Of a batch of send(): a line "address:port  result" for each device that failed or was not done. Those
-    /// with the same result stand together.
+    /// The failures of a batch of send(): a line with "address:port", two spaces and the result for each
+    /// device that failed or was not done, grouped by result.
     Q_INVOKABLE [[nodiscard]] QStringList failuresOf(Batch *batch) const;
 
 Q_SIGNALS:
-    /// The rows of listed devices have got results, also in a retry of a batch.
+    /// Emitted when rows have new results, also in a retry of a batch.
     void answered(const QStringList &identities);
 
 private:

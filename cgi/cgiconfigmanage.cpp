@@ -28,7 +28,7 @@ std::unique_ptr<CGIConfigManage> &instance()
 
 QString fieldText(const QVariant &row, const QString &key)
 {
-    // The factory's rows: to make a map of each takes longer than to order them.
+    // Rows of the factory: creating a map of each would take longer than sorting them.
     if (row.metaType() == QMetaType::fromType<QJsonObject>())
         return row.toJsonObject().value(key).toVariant().toString();
     return row.toMap().value(key).toString();
@@ -36,7 +36,7 @@ QString fieldText(const QVariant &row, const QString &key)
 
 } // namespace
 
-/// The time in which a command or a workbook runs.
+/// Marks a command or a workbook as running while the object exists.
 class CGIConfigManage::Run
 {
 public:
@@ -90,10 +90,10 @@ CgiSurroundings CGIConfigManage::watched(CgiSurroundings surroundings)
     return surroundings;
 }
 
-/// Lets the scene paint and take input, unless it has done so just now. Returns whether the work goes on.
+/// Processes events of the scene, unless it has just done so. Returns true if the work continues.
 bool CGIConfigManage::passEvents()
 {
-    constexpr qint64 interval = 50; // milliseconds that the scene may stand still
+    constexpr qint64 interval = 50; // milliseconds without events
     if (!m_sinceEvents.isValid() || m_sinceEvents.elapsed() >= interval) {
         QCoreApplication::processEvents();
         m_sinceEvents.start();
@@ -156,7 +156,7 @@ QVariantList CGIConfigManage::sortList(const QVariantList &list, const QString &
         QString text;
         const QVariant *row = nullptr;
     };
-    std::vector<Entry> entries; // each text is taken once, not for each comparison
+    std::vector<Entry> entries; // each text is read once, not for each comparison
     entries.reserve(static_cast<std::size_t>(list.size()));
     for (const QVariant &row : list)
         entries.push_back({.text = fieldText(row, key), .row = &row});
@@ -186,7 +186,7 @@ QStringList CGIConfigManage::linesOf(const QString &text) const
         end = end < 0 ? text.size() : end;
         qsizetype length = std::min(end - place, longest);
         if (length < end - place && text.at(place + length - 1).isHighSurrogate())
-            --length; // the letter stays whole
+            --length; // does not split a surrogate pair
         QString line = text.mid(place, length);
         line.remove(QLatin1Char('\r'));
         lines.append(line);

@@ -22,8 +22,8 @@ QString changedCertificateText()
     return CgiProcedure::tr("设备证书已改变。");
 }
 
-/// Why an exchange did not bring what was asked for; empty when it did. The words of the library would speak
-/// of a full disk when the headers are too long.
+/// The reason why an exchange failed; empty on success. Too long headers have a separate text, since libcurl
+/// would report a full disk.
 QString failureOf(const HttpOutcome &outcome)
 {
     if (outcome.hasTooLongHeaders)
@@ -34,7 +34,7 @@ QString failureOf(const HttpOutcome &outcome)
     return outcome.isStopped ? CgiProcedure::tr("操作已停止。") : outcome.failure;
 }
 
-/// The same for the second exchange: the device may have changed its mind, and sends a page that says so.
+/// The same for the second exchange, in which the device may respond with an error page.
 QString secondFailureOf(const HttpOutcome &outcome)
 {
     QString failure = failureOf(outcome);
@@ -43,14 +43,14 @@ QString secondFailureOf(const HttpOutcome &outcome)
     return CgiProcedure::tr("服务器连接失败") + QStringLiteral(" (HTTP %1)").arg(outcome.status);
 }
 
-/// Whether an exchange ended before the answer did: the same request again may get the whole of it.
-bool isCut(const HttpOutcome &outcome)
+/// True if an exchange ended before the response was complete: a repeated request may succeed.
+bool isIncomplete(const HttpOutcome &outcome)
 {
     return !outcome.failure.isEmpty() && !outcome.hasTooLongHeaders;
 }
 
-/// Whether answers with status 401 leave it open to send the password as it is: they ask for that, or name no
-/// way to log in. A device that asks for Digest alone has refused the password.
+/// True if responses with status 401 request Basic, or no authentication scheme. A device that requests
+/// Digest only has refused the password.
 bool takesBasic(const QByteArray &headers)
 {
     bool namesScheme = false;
@@ -73,7 +73,7 @@ void noteCannotWrite(const QString &path, const QString &failure)
 
 void noteResult(const QString &text)
 {
-    constexpr qsizetype longest = 16LL * 1024; // an answer may have megabytes
+    constexpr qsizetype longest = 16LL * 1024; // a response may have megabytes
     qCDebug(logCgi).noquote().nospace() << "Response Body: " << text.left(longest);
 }
 
@@ -86,7 +86,7 @@ CgiProcedure::CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits 
 
 QString CgiProcedure::loginRefusal(int loginResult)
 {
-    // The one code that is no LoginResult: something that no back end has a name for.
+    // The only code that is not a LoginResult: an error that is unknown to all back ends.
     constexpr int unknownCertificate = 18;
     constexpr int changedCertificate = 19;
     constexpr int unknownError = 99;
@@ -133,41 +133,41 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
     const CgiRequest request(url, user, password);
     if (!request.refusal().isEmpty())
         return {.text = failedResult + request.refusal()};
-    const std::unique_ptr<HttpConversation> conversation = m_surroundings.transport->open(request);
-    if (!conversation)
+    const std::unique_ptr<PreparedHttpRequest> prepared = m_surroundings.transport->open(request);
+    if (!prepared)
         return {.text = failedResult + tr("未知错误。")};
 
-    HttpOutcome first = perform(*conversation, m_limits.first, {});
-    if (first.status == credentialsWanted && !first.isStopped && takesBasic(conversation->headerText())) {
-        conversation->useBasic();
-        first = perform(*conversation, m_limits.first, {});
+    HttpOutcome first = perform(*prepared, m_limits.first, {});
+    if (first.status == credentialsWanted && !first.isStopped && takesBasic(prepared->headerText())) {
+        prepared->useBasic();
+        first = perform(*prepared, m_limits.first, {});
     }
-    Taken taken = {.text = {}, .failure = failureOf(first)};
+    Received received = {.text = {}, .failure = failureOf(first)};
     if (first.status == accepted && !first.isStopped) {
-        taken = take(*conversation, first);
-        noteResult(taken.text);
+        received = receive(*prepared, first);
+        noteResult(received.text);
     }
-    if (!taken.failure.isEmpty())
-        return {.text = failedResult + taken.failure,
-                .isUnanswered = taken.isCut || isCut(first),
+    if (!received.failure.isEmpty())
+        return {.text = failedResult + received.failure,
+                .isUnanswered = received.isIncomplete || isIncomplete(first),
                 .certificateRefusal = first.certificateRefusal};
     if (first.status != accepted)
         return {.text = failedResult + tr("服务器连接失败"),
                 .isLoginRefused = first.status == credentialsWanted};
-    return {.text = taken.text};
+    return {.text = received.text};
 }
 
-HttpOutcome CgiProcedure::perform(HttpConversation &conversation, const HttpLimits &limits,
+HttpOutcome CgiProcedure::perform(PreparedHttpRequest &prepared, const HttpLimits &limits,
                                   const BodySink &sink) const
 {
-    HttpOutcome outcome = conversation.perform(limits, sink, m_surroundings.watch);
+    HttpOutcome outcome = prepared.perform(limits, sink, m_surroundings.watch);
     qCDebug(logCgi).nospace() << "Response Code: " << outcome.status;
     return outcome;
 }
 
-CgiProcedure::Taken CgiProcedure::take(HttpConversation &conversation, const HttpOutcome &first) const
+CgiProcedure::Received CgiProcedure::receive(PreparedHttpRequest &prepared, const HttpOutcome &first) const
 {
-    const QByteArray headers = conversation.headerText();
+    const QByteArray headers = prepared.headerText();
     const AnswerKind kind = answerKind(headers);
     QString path =
         answerFilePath(m_surroundings.folder, m_surroundings.localTime(), answerFileEnding(headers));
@@ -177,67 +177,67 @@ CgiProcedure::Taken CgiProcedure::take(HttpConversation &conversation, const Htt
     case AnswerKind::Text:
         break;
     case AnswerKind::Picture:
-        return takePicture(conversation, path, first);
+        return receiveImage(prepared, path, first);
     case AnswerKind::Recording:
-        return takeRecording(conversation, path, first);
+        return receiveRecording(prepared, path, first);
     }
-    return takeText(conversation);
+    return receiveText(prepared);
 }
 
-CgiProcedure::Taken CgiProcedure::takeText(HttpConversation &conversation) const
+CgiProcedure::Received CgiProcedure::receiveText(PreparedHttpRequest &prepared) const
 {
     QByteArray body;
     bool isTooLong = false;
-    const HttpOutcome outcome = perform(conversation, m_limits.text, [&](QByteArrayView piece) {
-        isTooLong = piece.size() > m_limits.longestText - body.size();
+    const HttpOutcome outcome = perform(prepared, m_limits.text, [&](QByteArrayView chunk) {
+        isTooLong = chunk.size() > m_limits.longestText - body.size();
         if (!isTooLong)
-            body.append(piece);
+            body.append(chunk);
         return !isTooLong;
     });
     if (isTooLong)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    return {.text = answerText(conversation.headerText(), body),
+    return {.text = answerText(prepared.headerText(), body),
             .failure = secondFailureOf(outcome),
-            .isCut = isCut(outcome)};
+            .isIncomplete = isIncomplete(outcome)};
 }
 
-/// A part of a picture is of no use: it gets its name when it is complete.
-CgiProcedure::Taken CgiProcedure::takePicture(HttpConversation &conversation, const QString &path,
-                                              const HttpOutcome &first) const
+/// A partial image is useless: the file is only created when it is complete.
+CgiProcedure::Received CgiProcedure::receiveImage(PreparedHttpRequest &prepared, const QString &path,
+                                                  const HttpOutcome &first) const
 {
-    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
+    // Unbuffered: Qt does not detect a partially written buffer.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         noteCannotWrite(path, file.errorString());
-        return {.text = {}, .failure = failureOf(first)}; // the answer's code alone decides
+        return {.text = {}, .failure = failureOf(first)}; // only the status of the response decides
     }
     qint64 room = m_limits.largestPicture;
     bool isWritten = true;
-    const HttpOutcome outcome = perform(conversation, m_limits.picture, [&](QByteArrayView piece) {
-        room -= piece.size();
-        isWritten = room < 0 || writeCompletely(file, piece);
+    const HttpOutcome outcome = perform(prepared, m_limits.picture, [&](QByteArrayView chunk) {
+        room -= chunk.size();
+        isWritten = room < 0 || writeCompletely(file, chunk);
         return room >= 0 && isWritten;
     });
     if (room < 0)
         return {.text = {}, .failure = tr("应答内容过大。")};
     const QString failure = isWritten ? secondFailureOf(outcome) : QString();
     if (!failure.isEmpty())
-        return {.text = {}, .failure = failure, .isCut = isCut(outcome)};
+        return {.text = {}, .failure = failure, .isIncomplete = isIncomplete(outcome)};
     if (!isWritten || !file.commit())
         return {.text = {}, .failure = tr("文件写入失败：") + file.errorString()};
     return {.text = path, .failure = {}};
 }
 
-CgiProcedure::Taken CgiProcedure::takeRecording(HttpConversation &conversation, const QString &path,
-                                                const HttpOutcome &first) const
+CgiProcedure::Received CgiProcedure::receiveRecording(PreparedHttpRequest &prepared, const QString &path,
+                                                      const HttpOutcome &first) const
 {
     PartialFile file(path);
     if (!file.open()) {
         noteCannotWrite(path, file.failure());
-        return {.text = {}, .failure = failureOf(first)}; // the answer's code alone decides
+        return {.text = {}, .failure = failureOf(first)}; // only the status of the response decides
     }
-    const HttpOutcome outcome = perform(conversation, m_limits.recording,
-                                        [&file](QByteArrayView piece) { return file.write(piece); });
+    const HttpOutcome outcome =
+        perform(prepared, m_limits.recording, [&file](QByteArrayView chunk) { return file.write(chunk); });
     QString failure = file.hasFailed() ? QString() : secondFailureOf(outcome);
     if (failure.isEmpty() && !file.hasFailed() && file.complete())
         return {.text = path, .failure = {}};
@@ -245,10 +245,10 @@ CgiProcedure::Taken CgiProcedure::takeRecording(HttpConversation &conversation, 
         failure = tr("文件写入失败：") + file.failure();
     if (outcome.status != accepted) {
         file.remove();
-        return {.text = {}, .failure = failure, .isCut = isCut(outcome)};
+        return {.text = {}, .failure = failure, .isIncomplete = isIncomplete(outcome)};
     }
     const QString kept = file.keepPartial();
     if (!kept.isEmpty())
         failure += QLatin1Char('\n') + tr("已收到的部分录像保存在：%1").arg(kept);
-    return {.text = {}, .failure = failure, .isCut = isCut(outcome) && !file.hasFailed()};
+    return {.text = {}, .failure = failure, .isIncomplete = isIncomplete(outcome) && !file.hasFailed()};
 }

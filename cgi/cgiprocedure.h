@@ -1,4 +1,4 @@
-// How one command is sent to one device.
+// Sending one command to one device.
 #pragma once
 
 #include "cgi/httptransport.h"
@@ -6,25 +6,25 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
-/// What a command is sent with. The functions are called on the thread that sends it.
+/// The context of a command. The functions are called on the thread that sends it.
 struct CgiSurroundings
 {
-    /// Whether the device at `ipport` lets the account in, as a LoginResult.
+    /// Logs in to the device at `ipport`. Returns a LoginResult.
     using LoginCheck =
         std::function<int(const QString &ipport, const QString &account, const QString &password)>;
 
     LoginCheck checkLogin;
     std::shared_ptr<HttpTransport> transport;
-    QString folder;                       ///< where pictures and recordings are saved
-    std::function<QDateTime()> localTime; ///< which names them
-    ExchangeWatch watch = {};             ///< ends a request at once; may be empty
+    QString folder;                       ///< for images and recordings
+    std::function<QDateTime()> localTime; ///< for their file names
+    ExchangeWatch watch = {};             ///< ends a request immediately; may be empty
 
-    /// Makes a path of the answer's own out of the one that the time gives; empty where a later answer may
-    /// replace one of the same second.
+    /// Returns a unique path for a path by the time. Empty if a later response may replace one of the same
+    /// second.
     std::function<QString(const QString &path)> ownPath = {};
 };
 
-/// The limits of the exchanges that a command may take.
+/// The limits of a command's exchanges.
 struct CgiLimits
 {
     HttpLimits first{.total = std::chrono::milliseconds(3000)};
@@ -35,57 +35,58 @@ struct CgiLimits
     qsizetype largestPicture = 64LL * 1024 * 1024;
 };
 
-/// Begins the result of a command that failed.
+/// The prefix of the result of a failed command.
 inline const QString failedResult = QStringLiteral("Error:");
 
-/// What has come of a command.
+/// The result of a command.
 struct CgiAnswer
 {
     QString text;                ///< see CgiProcedure::run()
-    bool isUnanswered = false;   ///< no answer has come to its end: another try may succeed
-    bool isLoginRefused = false; ///< the web service does not accept the account, or not its password
+    bool isUnanswered = false;   ///< no complete response: another attempt may succeed
+    bool isLoginRefused = false; ///< the web service refuses the account or its password
 
-    /// Why nothing was sent over HTTPS: the certificate of the device.
+    /// The verdict on the device's certificate, if it prevented a request over HTTPS.
     std::optional<sdk::CertificateVerdict> certificateRefusal = {};
 };
 
-/// The login is checked first, so that a wrong password is told in the device's own terms. Then the command
-/// is sent to see what the answer will be, and, when it is accepted, once more to take the answer in the
-/// right way: a command that changes something reaches the device twice.
+/// The login is checked first, so that a wrong password is reported by the device's own result. Then the
+/// command is sent to determine the type of the response, and, if it is accepted, sent again to receive the
+/// response accordingly: a command that changes something reaches the device twice.
 class CgiProcedure
 {
     Q_DECLARE_TR_FUNCTIONS(CgiProcedure)
 public:
     CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits &limits);
 
-    /// Blocks. The text of the answer, or the path of the file that it was saved in, or "Error:" and why not.
-    /// Empty when the file could not be created. What there is of a recording that breaks off is kept in a
-    /// file that the result names.
+    /// Blocks. Returns the text of the response, the path of the file that it was saved to, or "Error:" and
+    /// the reason. Empty when the file could not be created. An incomplete recording is kept in a file, whose
+    /// name is in the result.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
 
-    /// The same for a device that has let the account in.
+    /// The same without the check of the login.
     [[nodiscard]] CgiAnswer exchange(const QString &url, const QString &user, const QString &password) const;
 
-    /// Why a login with this result forbids the command, in the user's language; empty when it does not.
+    /// The reason why a login with this result prevents the command, in the user's language; empty if it does
+    /// not.
     [[nodiscard]] static QString loginRefusal(int loginResult);
 
 private:
-    /// What an answer was turned into.
-    struct Taken
+    /// A received response.
+    struct Received
     {
         QString text;
         QString failure;
-        bool isCut = false; ///< the answer has not come to its end
+        bool isIncomplete = false; ///< the response is incomplete
     };
 
-    [[nodiscard]] Taken take(HttpConversation &conversation, const HttpOutcome &first) const;
-    [[nodiscard]] Taken takeText(HttpConversation &conversation) const;
-    [[nodiscard]] Taken takePicture(HttpConversation &conversation, const QString &path,
-                                    const HttpOutcome &first) const;
-    [[nodiscard]] Taken takeRecording(HttpConversation &conversation, const QString &path,
-                                      const HttpOutcome &first) const;
-    [[nodiscard]] HttpOutcome perform(HttpConversation &conversation, const HttpLimits &limits,
+    [[nodiscard]] Received receive(PreparedHttpRequest &prepared, const HttpOutcome &first) const;
+    [[nodiscard]] Received receiveText(PreparedHttpRequest &prepared) const;
+    [[nodiscard]] Received receiveImage(PreparedHttpRequest &prepared, const QString &path,
+                                        const HttpOutcome &first) const;
+    [[nodiscard]] Received receiveRecording(PreparedHttpRequest &prepared, const QString &path,
+                                            const HttpOutcome &first) const;
+    [[nodiscard]] HttpOutcome perform(PreparedHttpRequest &prepared, const HttpLimits &limits,
                                       const BodySink &sink) const;
 
     const CgiSurroundings &m_surroundings;

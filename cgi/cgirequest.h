@@ -1,26 +1,27 @@
-// What is asked of a device over HTTP.
+// A request to a device over HTTP.
 #pragma once
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 
-/// One command for one device, as it goes to the transport.
+/// One command for one device, in the form of the transport.
 class CgiRequest
 {
     Q_DECLARE_TR_FUNCTIONS(CgiRequest)
 public:
-    /// `url` as somebody typed it: blanks, letters of other scripts and lone percent signs are encoded.
+    /// `url` is user input: spaces, non-ASCII characters and single percent signs are encoded.
     CgiRequest(const QString &url, const QString &user, const QString &password);
 
-    /// The address, fully encoded; empty when the text is none.
+    /// The encoded URL; empty when the input is not a URL.
     [[nodiscard]] const QByteArray &url() const { return m_url; }
 
     /// "user:password".
     [[nodiscard]] const QByteArray &userPassword() const { return m_userPassword; }
 
-    /// Why this cannot be sent as it is, in the user's language; empty when it can. The transport parts name
-    /// and password at the first colon, and quotes the name in a header as it stands.
+    /// The reason why the request cannot be sent, in the user's language; empty if it can. The transport
+    /// separates the user name and the password at the first colon, and quotes the name in a header without
+    /// escaping.
     [[nodiscard]] QString refusal() const;
 
 private:

@@ -4,7 +4,7 @@
 #include "cgi/cgiprocedure.h"
 #include "device/batch/batches.h"
 
-/// What is sent to which device.
+/// A command and its device.
 struct CgiCommand
 {
     QString url;
@@ -13,30 +13,30 @@ struct CgiCommand
     QString ipport; ///< of the login
 };
 
-/// The result of a step whose device has let the account in, but whose command has failed, or that could not
-/// be sent. Beside those of a login, and beside 999, which stands for a configuration that a device refused.
+/// The result of a step whose login succeeded and whose command failed or could not be sent. It differs from
+/// the results of a login and from 999, a configuration that a device refused.
 inline constexpr int commandFailed = 998;
 
-/// Takes the whole answer, on the step's thread, before the step ends.
+/// Receives the complete response on the step's thread, before the step ends.
 using AnswerSink = std::function<void(const QString &answer)>;
 
-/// The outcome has the result of a login that forbids the command, else Success or commandFailed, and as its
-/// answer, or its text when it has failed, the beginning of what CgiProcedure::run() returns. A stop ends the
-/// transfer at once; before the command it leaves the device not done. `surroundings` are copied, their watch
-/// is not used.
+/// The outcome has the result of a login that prevents the command, otherwise Success or commandFailed. Its
+/// answer, or its text on failure, is the start of the result of CgiProcedure::run(). A stop ends the
+/// transfer immediately; before the command, the device is not done. `surroundings` is copied; its watch is
+/// not used.
 [[nodiscard]] DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command,
                                  const AnswerSink &sink = {});
 
-/// Of a command that cannot be sent, for which nothing is asked; `reason` is in the user's language.
+/// The step of a command that cannot be sent: no request is made. `reason` is in the user's language.
 [[nodiscard]] DeviceStep refusedCgiStep(int result, const QString &reason);
 
-/// Commands have no deadline: they have limits of their own for each kind of answer, and a recording takes as
-/// long as its transfer goes on.
+/// Commands have no deadline: they have separate limits for each type of response, and a recording may take
+/// any time.
 [[nodiscard]] BatchPolicy commandPolicy(const Batches &batches);
 
-/// Whether the batch has ended before it came to the device.
+/// True if the batch ended before the device's command.
 [[nodiscard]] bool isNotDone(const StepOutcome &outcome);
 
-/// What a row or a cell says: the beginning of the answer, "Error:" and why there is none, or the words for
-/// not done.
+/// The text of a row or a cell: the start of the response, "Error:" and the reason, or the text for "not
+/// done".
 [[nodiscard]] QString cgiResultText(const StepOutcome &outcome);

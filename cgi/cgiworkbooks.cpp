@@ -19,7 +19,7 @@
 class CgiWorkbooks::Workbook
 {
 public:
-    /// Returns why it cannot be used, in the user's language; an empty text when it can.
+    /// Returns the reason why it cannot be used, in the user's language; empty on success.
     [[nodiscard]] QString open(const QString &path)
     {
         const QString file = CommandWorkbook::localPath(path);
@@ -38,10 +38,10 @@ public:
         return CgiWorkbooks::tr("第%1行 %2").arg(command.row).arg(command.ipport);
     }
 
-    /// Somebody has written the file since it was opened: results would take the place of that.
+    /// True if the file has been changed since it was opened: results would overwrite the change.
     [[nodiscard]] bool isOutdated() const { return QFileInfo(m_workbook.path()).lastModified() != m_changed; }
 
-    // Do not change while it is open.
+    // Constant while the workbook is open.
     [[nodiscard]] const std::vector<WorkbookCommand> &commands() const { return m_results->commands(); }
     [[nodiscard]] const WorkbookCommand &command(const QString &line) const
     {
@@ -51,7 +51,8 @@ public:
     [[nodiscard]] AnswerSink sinkOf(const QString &line) const
     {
         return [answers = m_answers, line](const QString &answer) {
-            answers->keep(line, answer.left(CommandWorkbook::longestResult + 1)); // it shows that it is cut
+            answers->keep(line,
+                          answer.left(CommandWorkbook::longestResult + 1)); // shows that it is truncated
         };
     }
 
@@ -65,10 +66,10 @@ public:
 
 private:
     CommandWorkbook m_workbook;
-    QDateTime m_changed; ///< the file
+    QDateTime m_changed; ///< time of the file's last change
     std::optional<WorkbookResults> m_results;
-    QHash<QString, std::size_t> m_places; ///< of commands, by the names of their lines
-    const std::shared_ptr<LongAnswers> m_answers = std::make_shared<LongAnswers>(); ///< not yet taken
+    QHash<QString, std::size_t> m_places; ///< indices of commands, by the names of their lines
+    const std::shared_ptr<LongAnswers> m_answers = std::make_shared<LongAnswers>(); ///< not yet written
 };
 
 CgiWorkbooks::CgiWorkbooks(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
@@ -81,7 +82,7 @@ CgiWorkbooks::CgiWorkbooks(CDeviceFactory &factory, Batches &batches, CgiSurroun
 CgiWorkbooks::~CgiWorkbooks()
 {
     m_files.waitForDone();
-    if (m_workbook && m_isRunning && m_work == 0) // the program ends during the batch
+    if (m_workbook && m_isRunning && m_work == 0) // the application ends during the batch
         qCInfo(logCgi).noquote() << m_workbook->finish();
 }
 
@@ -139,7 +140,7 @@ Batch *CgiWorkbooks::run(const QString &title, const QStringList &lines)
     plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
         takeLines(outcomes);
     };
-    plan.canBeRetried = false; // the file is the user's again at the end
+    plan.canBeRetried = false; // the file is released at the end
     m_isRunning = true;
     Batch *batch = m_batches.start(std::move(plan));
     m_isRunning = batch != nullptr;
@@ -151,7 +152,7 @@ Batch *CgiWorkbooks::run(const QString &title, const QStringList &lines)
 QList<BatchDevice> CgiWorkbooks::linesOf(const Workbook &workbook, const QSet<QString> &wanted) const
 {
     QList<BatchDevice> lines;
-    QHash<std::pair<QString, QString>, int> accounts; // a number stands for each: the batch keeps no password
+    QHash<std::pair<QString, QString>, int> accounts; // a number for each
     for (const WorkbookCommand &command : workbook.commands()) {
         const QString name = Workbook::nameOf(command);
         if (!wanted.contains(name))

@@ -6,34 +6,35 @@
 #include <QThreadPool>
 #include <QVariantList>
 
-/// Workbooks of commands as batches, for the scene: each line has its command sent and gets the answer.
+/// Workbooks of commands as batches, for the scene: the command of each line is sent, and the response is
+/// written to the line.
 ///
-/// Lives on the scene's thread. Files are read and written on a thread of its own.
+/// Lives on the scene's thread. Files are read and written on a separate thread.
 class CgiWorkbooks : public QObject
 {
     Q_OBJECT
 public:
-    /// `factory` and `batches` live longer than this. `surroundings` are for any thread.
+    /// `factory` and `batches` must outlive this object. `surroundings` is used on any thread.
     CgiWorkbooks(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
                  QObject *parent = nullptr);
 
-    /// Keeps the results of a workbook that runs.
+    /// Saves the results of a running workbook.
     ~CgiWorkbooks() override;
 
-    /// Reads a workbook. `path` may be a "file:///" address. wasRead() follows, or ended() with the reason
-    /// why it cannot be used. It takes the place of one that was read and not begun.
+    /// Reads a workbook. `path` may be a "file:///" URL. Emits wasRead(), or ended() with the reason why it
+    /// cannot be used. It replaces a workbook that was read and not started.
     Q_INVOKABLE void read(const QString &path);
 
-    /// Sends the commands of the workbook that was read, of the lines with these names; those for one device
-    /// in their order. Returns the batch, or null when it does not begin. The scene does not own it. When the
-    /// results are in the file, ended() follows with a message for the user.
+    /// Sends the commands of the lines with these names in the last read workbook; the commands for one
+    /// device are sent in their order. Returns the batch, or null when it does not start. The scene does not
+    /// own it. When the results are in the file, ended() is emitted with a message for the user.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:
-    /// What the lines ask for, as BatchPreview::setEntries() takes it.
+    /// Emitted with the lines of a workbook, in the form of BatchPreview::setEntries().
     void wasRead(const QVariantList &lines);
 
-    /// As CGIConfigManage::batchCGIConfig() returns it.
+    /// Emitted at the end, with the text of CGIConfigManage::batchCGIConfig().
     void ended(const QString &text);
 
 private:
@@ -50,8 +51,8 @@ private:
     Batches &m_batches;
     const CgiSurroundings m_surroundings;
     QThreadPool m_files; ///< one thread
-    /// Null when there is none. While it runs, its file belongs to the thread of the files.
+    /// Null when there is none. While it runs, only the file thread accesses its file.
     std::shared_ptr<Workbook> m_workbook;
     bool m_isRunning = false; ///< also until the results are in the file
-    int m_work = 0;           ///< reading or writing, in the busy state; 0 for none
+    int m_work = 0;           ///< handle of reading or writing in the busy state; 0 for none
 };

@@ -66,12 +66,12 @@ void CommandMemory::read()
 {
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
-        return; // nothing was remembered yet
+        return; // nothing has been stored yet
     constexpr qint64 largest = 4LL * 1024 * 1024;
     const QByteArray text = file.read(largest + 1);
     const QJsonDocument document = QJsonDocument::fromJson(text.size() > largest ? QByteArray() : text);
     if (!document.isObject()) {
-        qCWarning(logCgi).noquote() << m_path << "holds no commands";
+        qCWarning(logCgi).noquote() << m_path << "contains no valid list of commands";
         return;
     }
     m_recent = commandsOf(document.object().value(recentKey), mostRecent);

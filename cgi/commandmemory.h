@@ -2,23 +2,23 @@
 
 #include <QStringList>
 
-/// The commands that were used last and those that the user keeps, in a small file. One object for a file; a
-/// file that cannot be written leaves a warning in the log, and what was remembered stays until the end.
+/// The recent and the favourite commands, in a small file. There is one object for a file. If the file cannot
+/// be written, a warning is logged, and the commands are kept until the end of the process.
 class CommandMemory
 {
 public:
     static constexpr qsizetype mostRecent = 20;
     static constexpr qsizetype mostFavourites = 200;
-    static constexpr qsizetype longestCommand = 2048; ///< longer ones are not remembered
+    static constexpr qsizetype longestCommand = 2048; ///< longer ones are not stored
 
-    /// Reads the file, when there is one. What it holds beyond the limits is left out.
+    /// Reads the file, if it exists. Entries beyond the limits are ignored.
     explicit CommandMemory(const QString &path);
 
-    /// The last one first, none twice.
+    /// The latest first, without duplicates.
     [[nodiscard]] const QStringList &recent() const { return m_recent; }
     void remember(const QString &command);
 
-    /// In the order in which they became favourites.
+    /// In the order in which they were added.
     [[nodiscard]] const QStringList &favourites() const { return m_favourites; }
     void setFavourite(const QString &command, bool isFavourite);
 

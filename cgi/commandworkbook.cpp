@@ -20,7 +20,7 @@ enum Column
     ResultColumn,
 };
 
-/// The address alone of "address:web port"; an IPv6 address stands in brackets before a port.
+/// The address of "address:web port"; an IPv6 address before a port is in brackets.
 QString withoutPort(const QString &address)
 {
     static const QRegularExpression port(QStringLiteral(":\\d+$"));
@@ -28,8 +28,8 @@ QString withoutPort(const QString &address)
     return isBareIpv6 ? address : QString(address).remove(port);
 }
 
-/// Only what a host and its port consist of: with anything else in front, a command, and the password with
-/// it, could go to another machine than the one that the row seems to name.
+/// True if the text has only characters of a host and a port: with other characters, a command and its
+/// password could be sent to another host than the one that the row appears to contain.
 bool isHost(const QString &address)
 {
     static const QRegularExpression host(QStringLiteral("^[0-9A-Za-z.:_\\[\\]-]+$"));

@@ -7,53 +7,53 @@
 
 #include <vector>
 
-/// What a row of a workbook asks for.
+/// The command of a row.
 struct WorkbookCommand
 {
     int row = 0;
     QString command; ///< with the leading "/"
-    QString url;     ///< scheme, address and command; the port has no part in it
+    QString url;     ///< scheme, address and command, without the port
     QString ipport;  ///< "address:port" of the login
     QString user;
     QString password;
-    QString refusal; ///< why it is not to be sent, in the user's language; usually empty
+    QString refusal; ///< reason why it must not be sent, in the user's language; usually empty
 };
 
-/// A workbook of commands, into whose rows the results are written. The first row holds the titles, each
+/// A workbook of commands, whose results are written to its rows. The first row contains the titles, each
 /// other row a command: address, port, user name, password, command, scheme (0 for HTTP) and result.
 class CommandWorkbook
 {
     Q_DECLARE_TR_FUNCTIONS(CommandWorkbook)
 public:
-    static constexpr qsizetype longestResult = 32'000; ///< letters; a cell takes a little more
+    static constexpr qsizetype longestResult = 32'000; ///< characters; slightly below the limit of a cell
 
-    /// With the engine that fits this machine.
+    /// Uses the engine for this host.
     CommandWorkbook() = default;
     explicit CommandWorkbook(std::unique_ptr<sheets::SheetEngine> engine);
 
-    /// What the first five cells of the first row say, in the user's language.
+    /// The titles in the first five cells of the first row, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();
 
-    /// The path of what may be a "file:///" address.
+    /// The local path of a path or a "file:///" URL.
     [[nodiscard]] static QString localPath(const QString &path);
 
-    /// Opens the file. Returns why it cannot be used, in the user's language; an empty text when it can.
+    /// Opens the file. Returns the reason why it cannot be used, in the user's language; empty on success.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows that hold a command or an address, from above.
+    /// The rows with a command or an address, in ascending order.
     [[nodiscard]] std::vector<WorkbookCommand> commands();
 
-    /// Writes a result into its row. What does not fit into a cell is cut off, and the cell says so.
+    /// Writes a result to its row. A text that is too long for a cell is truncated, with a note in the cell.
     void setResult(int row, const QString &result);
 
-    /// Writes all results so far into the file or, when that cannot be written, into a new one beside it or
-    /// else among the user's documents, which is then used from there on. False when all of that failed.
+    /// Writes all results so far to the file. If that fails, it writes a new file next to it or in the user's
+    /// documents folder, and uses that from then on. False when all of that failed.
     bool keepResults();
 
-    /// The file that holds the results.
+    /// The file with the results.
     [[nodiscard]] const QString &path() const { return m_path; }
 
-    /// Why the last keepResults() failed.
+    /// The reason why the last keepResults() failed.
     [[nodiscard]] QString errorText() const { return m_excel.errorText(); }
 
 private:

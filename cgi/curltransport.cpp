@@ -9,10 +9,10 @@
 namespace {
 
 constexpr qsizetype keptHeaderText = 64LL * 1024;
-/// Nobody sends as much; a device that does would keep an exchange without a time limit up for ever.
+/// Without this limit, endless headers would keep an exchange without a time limit running.
 constexpr qsizetype longestHeaderText = 256LL * 1024;
 
-/// The names of machines that are asked without the proxy: a tunnel to a device ends on this one.
+/// Hosts that are accessed without the proxy: a tunnel to a device ends on this host.
 constexpr const char *localNames = "127.0.0.1,localhost,::1";
 
 struct HandleDeleter
@@ -42,7 +42,7 @@ QByteArray partOf(CURLU *url, CURLUPart part)
     return copy;
 }
 
-/// Read by the library that makes the connection: another reader might see another host.
+/// Parsed by libcurl, which makes the connection: another parser might find another host.
 sdk::TlsPeer peerOf(const QByteArray &address)
 {
     const std::unique_ptr<CURLU, UrlDeleter> url(curl_url());
@@ -54,22 +54,22 @@ sdk::TlsPeer peerOf(const QByteArray &address)
     return {.address = host.toStdString(), .port = partOf(url.get(), CURLUPART_PORT).toInt(), .identity = {}};
 }
 
-class CurlConversation : public HttpConversation
+class CurlHttpRequest : public PreparedHttpRequest
 {
 public:
-    CurlConversation(Handle handle, MultiHandle multi, const CgiRequest &request,
-                     std::chrono::seconds connectLimit, const QByteArray &proxy,
-                     std::shared_ptr<const sdk::CertificateDecision> certificates)
+    CurlHttpRequest(Handle handle, MultiHandle multi, const CgiRequest &request,
+                    std::chrono::seconds connectLimit, const QByteArray &proxy,
+                    std::shared_ptr<const sdk::CertificateDecision> certificates)
         : m_certificates(std::move(certificates)), m_check(m_certificates.get(), peerOf(request.url())),
           m_handle(std::move(handle)), m_multi(std::move(multi))
     {
         m_check.attachTo(m_handle.get());
         set(CURLOPT_HTTPGET, 1L);
         set(CURLOPT_URL, request.url().constData());
-        // Digest in the form of older browsers, which leaves the query out: what the devices expect.
+        // Digest in the form of older browsers, which omits the query: the devices require that.
         set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_DIGEST_IE));
         set(CURLOPT_USERPWD, request.userPassword().constData());
-        set(CURLOPT_HEADERFUNCTION, &CurlConversation::takeHeader);
+        set(CURLOPT_HEADERFUNCTION, &CurlHttpRequest::takeHeader);
         set(CURLOPT_HEADERDATA, static_cast<void *>(this));
         set(CURLOPT_CONNECTTIMEOUT, static_cast<long>(connectLimit.count()));
 
@@ -78,10 +78,10 @@ public:
 #else
         set(CURLOPT_PROTOCOLS, static_cast<long>(CURLPROTO_HTTP | CURLPROTO_HTTPS));
 #endif
-        set(CURLOPT_PROXY, proxy.constData()); // empty: none, not that of the environment
+        set(CURLOPT_PROXY, proxy.constData()); // empty: no proxy, regardless of the environment
         set(CURLOPT_NOPROXY, localNames);
         set(CURLOPT_NOSIGNAL, 1L); // the process has other threads
-        set(CURLOPT_WRITEFUNCTION, &CurlConversation::takeBody);
+        set(CURLOPT_WRITEFUNCTION, &CurlHttpRequest::takeBody);
         set(CURLOPT_WRITEDATA, static_cast<void *>(this));
     }
 
@@ -121,12 +121,13 @@ private:
     template<typename Value>
     void set(CURLoption option, Value value)
     {
-        // Fails for want of memory, or for an option that the library lacks; the exchange fails then, too.
+        // Fails when memory is exhausted, or for an option that libcurl lacks; the exchange then fails as
+        // well.
         curl_easy_setopt(m_handle.get(), option, value);
     }
 
-    /// Does what curl_easy_perform() does, but asks the watch more often: the library calls a progress
-    /// function only once a second while nothing arrives.
+    /// Like curl_easy_perform(), but calls the watch more often: libcurl calls a progress function only once
+    /// per second while no data arrive.
     CURLcode transfer(const ExchangeWatch &watch)
     {
         constexpr int watchInterval = 50; // ms
@@ -149,9 +150,9 @@ private:
         return result;
     }
 
-    static size_t takeHeader(const char *line, size_t size, size_t count, void *conversation)
+    static size_t takeHeader(const char *line, size_t size, size_t count, void *prepared)
     {
-        auto *self = static_cast<CurlConversation *>(conversation);
+        auto *self = static_cast<CurlHttpRequest *>(prepared);
         const auto length = static_cast<qsizetype>(size * count);
         self->m_headerLength += length;
         if (self->m_headerLength > longestHeaderText)
@@ -160,10 +161,10 @@ private:
         return size * count;
     }
 
-    /// There is always a function that takes the body: without one the library prints it.
-    static size_t takeBody(const char *data, size_t size, size_t count, void *conversation)
+    /// There is always a write function: without one libcurl prints the body.
+    static size_t takeBody(const char *data, size_t size, size_t count, void *prepared)
     {
-        const auto *self = static_cast<const CurlConversation *>(conversation);
+        const auto *self = static_cast<const CurlHttpRequest *>(prepared);
         const size_t length = size * count;
         const bool isTaken = !self->m_sink || self->m_sink({data, static_cast<qsizetype>(length)});
         return isTaken ? length : 0;
@@ -175,7 +176,7 @@ private:
     const MultiHandle m_multi; ///< keeps the connection for the next exchange
     BodySink m_sink;
     QByteArray m_headerText;
-    qsizetype m_headerLength = 0; ///< of the exchange that runs
+    qsizetype m_headerLength = 0; ///< of the running exchange
 };
 
 } // namespace
@@ -193,9 +194,9 @@ void CurlTransport::setCertificateHandler(sdk::CertificateHandler handler, void 
     m_certificates->setHandler(handler, user);
 }
 
-std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
+std::unique_ptr<PreparedHttpRequest> CurlTransport::open(const CgiRequest &request)
 {
-    // Once in the process, before the first handle. Not earlier: it takes 3 MB for encrypted connections.
+    // Once per process, before the first handle. Not earlier, since it takes 3 MB for TLS.
     static const CURLcode isReady = curl_global_init(CURL_GLOBAL_DEFAULT);
     Q_UNUSED(isReady);
     Handle handle(curl_easy_init());
@@ -203,6 +204,6 @@ std::unique_ptr<HttpConversation> CurlTransport::open(const CgiRequest &request)
     if (!handle || !multi)
         return nullptr;
     const std::lock_guard lock(m_mutex);
-    return std::make_unique<CurlConversation>(std::move(handle), std::move(multi), request, m_connectLimit,
-                                              m_proxy, m_certificates);
+    return std::make_unique<CurlHttpRequest>(std::move(handle), std::move(multi), request, m_connectLimit,
+                                             m_proxy, m_certificates);
 }

@@ -5,16 +5,16 @@
 
 #include <mutex>
 
-/// Requests through libcurl, each with an easy handle of its own. Only HTTP and HTTPS.
+/// Requests by libcurl, each with a separate easy handle. HTTP and HTTPS only.
 class CurlTransport : public HttpTransport
 {
 public:
-    /// How long a connection may take to come about.
+    /// `connectLimit` is the timeout of a connection attempt.
     explicit CurlTransport(std::chrono::seconds connectLimit = defaultConnectLimit);
 
     void setProxy(const QString &proxy) override;
     void setCertificateHandler(sdk::CertificateHandler handler, void *user) override;
-    [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &request) override;
+    [[nodiscard]] std::unique_ptr<PreparedHttpRequest> open(const CgiRequest &request) override;
 
 private:
     static constexpr std::chrono::seconds defaultConnectLimit{5};
@@ -22,6 +22,6 @@ private:
     const std::chrono::seconds m_connectLimit;
     const std::shared_ptr<sdk::CertificateDecision> m_certificates =
         std::make_shared<sdk::CertificateDecision>();
-    std::mutex m_mutex; ///< of the proxy
+    std::mutex m_mutex; ///< guards the proxy
     QByteArray m_proxy;
 };

@@ -1,4 +1,4 @@
-// Requests over HTTP as the commands need them, apart from the library that makes them.
+// The interface for HTTP requests of commands, independent of the HTTP library.
 #pragma once
 
 #include "cgi/cgirequest.h"
@@ -12,51 +12,52 @@
 #include <memory>
 #include <optional>
 
-/// How long an exchange may take.
+/// Time limits of an exchange.
 struct HttpLimits
 {
     std::chrono::milliseconds total{0}; ///< 0 for no limit
-    long slowestRate = 0;               ///< in bytes a second; 0 for no limit
-    std::chrono::seconds slowTime{0};   ///< how long it may be slower than that
+    long slowestRate = 0;               ///< in bytes per second; 0 for no limit
+    std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`
 };
 
 /// How an exchange ended.
 struct HttpOutcome
 {
-    long status = 0;                ///< of the last answer; 0 when none began
-    QString failure;                ///< why it failed, in words; empty when it did not
-    bool hasTooLongHeaders = false; ///< ended for that; a failure, too
-    bool isStopped = false;         ///< ended by the watch; a failure, too
+    long status = 0;                ///< of the last response; 0 for none
+    QString failure;                ///< reason of the failure; empty on success
+    bool hasTooLongHeaders = false; ///< ended because of too long headers; also a failure
+    bool isStopped = false;         ///< ended by the watch; also a failure
 
-    /// Why nothing was sent over HTTPS: the certificate of the device; a failure, too.
+    /// The verdict on the device's certificate, if it prevented a request over HTTPS; also a failure.
     std::optional<sdk::CertificateVerdict> certificateRefusal = {};
 };
 
-/// Takes the body of an answer piece by piece. False ends the exchange, which then has failed.
+/// Receives the body of a response in chunks. False ends the exchange as failed.
 using BodySink = std::function<bool(QByteArrayView)>;
 
-/// Asked several times a second while an exchange runs, on its thread. False ends the exchange at once.
+/// Called several times per second during an exchange, on its thread. False ends the exchange immediately.
 using ExchangeWatch = std::function<bool()>;
 
-/// One request, which may be sent more than once. Blocks until it is done or a limit is reached; belongs to
-/// the thread that opened it. A redirection is an answer like any other.
-class HttpConversation
+/// One request, which may be sent several times. Used by the thread that opened it. A redirection is a
+/// response like any other.
+class PreparedHttpRequest
 {
 public:
-    HttpConversation() = default;
-    HttpConversation(const HttpConversation &) = delete;
-    HttpConversation &operator=(const HttpConversation &) = delete;
-    virtual ~HttpConversation() = default;
+    PreparedHttpRequest() = default;
+    PreparedHttpRequest(const PreparedHttpRequest &) = delete;
+    PreparedHttpRequest &operator=(const PreparedHttpRequest &) = delete;
+    virtual ~PreparedHttpRequest() = default;
 
-    /// From now on name and password go along unasked, in the Basic form. Before that they answer a
-    /// challenge, in the Digest form.
+    /// Sends the user name and the password with every later request, by Basic. Without this call they are
+    /// sent only in response to a challenge, by Digest.
     virtual void useBasic() = 0;
 
-    /// Sends the request. Without a sink the body is thrown away; without a watch only a limit ends it early.
+    /// Sends the request. Blocks until the response is complete or a limit is reached. Without a sink the
+    /// body is discarded; without a watch only a limit ends the exchange early.
     virtual HttpOutcome perform(const HttpLimits &limits, const BodySink &sink,
                                 const ExchangeWatch &watch) = 0;
 
-    /// The header lines of all answers so far, but not more than a bounded length of them.
+    /// The header lines of all responses so far, up to a bounded length.
     [[nodiscard]] virtual QByteArray headerText() const = 0;
 };
 
@@ -69,13 +70,14 @@ public:
     HttpTransport &operator=(const HttpTransport &) = delete;
     virtual ~HttpTransport() = default;
 
-    /// Where requests to other machines go from now on, as "http://host:port". Empty, as at first: straight
-    /// to the device, whatever the environment says, since devices are in the local network.
+    /// Sets the proxy of later requests to other hosts, as "http://host:port". Empty, the default, for no
+    /// proxy, regardless of the environment, since devices are in the local network.
     virtual void setProxy(const QString &proxy) = 0;
 
-    /// Who decides about the certificates of devices. Until then none is asked over HTTPS.
+    /// Sets the handler that decides about the certificates of devices. Without it no request is made over
+    /// HTTPS.
     virtual void setCertificateHandler(sdk::CertificateHandler handler, void *user) = 0;
 
-    /// Null when the library has no memory left.
-    [[nodiscard]] virtual std::unique_ptr<HttpConversation> open(const CgiRequest &request) = 0;
+    /// Null when memory is exhausted.
+    [[nodiscard]] virtual std::unique_ptr<PreparedHttpRequest> open(const CgiRequest &request) = 0;
 };

@@ -1,5 +1,4 @@
-// Makes the workbook of commands that users begin from, in the language of a translation file: run by the
-// build.
+// Build tool: creates the template workbook of commands in the language of a translation file.
 //
 //   configtools_cgitemplate TRANSLATION FOLDER
 #include "cgi/cgiconfigmanage.h"
@@ -10,7 +9,7 @@
 
 namespace {
 
-/// The sheets' own texts.
+/// The strings of the sheets.
 class TemplateText
 {
     Q_DECLARE_TR_FUNCTIONS(TemplateText)

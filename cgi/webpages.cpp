@@ -8,17 +8,17 @@ namespace {
 
 constexpr HttpLimits checkLimits{.total = std::chrono::milliseconds(5000)};
 
-/// Why the certificate of the device at `page` is not accepted, if it is not.
+/// The verdict on the certificate of the device at `page`, if it is refused.
 std::optional<sdk::CertificateVerdict> refusalOf(HttpTransport &transport, const QString &page,
                                                  const ExchangeWatch &watch)
 {
-    const std::unique_ptr<HttpConversation> conversation = transport.open(CgiRequest(page, {}, {}));
-    if (!conversation)
+    const std::unique_ptr<PreparedHttpRequest> prepared = transport.open(CgiRequest(page, {}, {}));
+    if (!prepared)
         return std::nullopt;
     const BodySink first = [](QByteArrayView) {
-        return false; // the handshake is over, which is all that was to be known
+        return false; // only the handshake is needed
     };
-    return conversation->perform(checkLimits, first, watch).certificateRefusal;
+    return prepared->perform(checkLimits, first, watch).certificateRefusal;
 }
 
 } // namespace

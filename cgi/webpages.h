@@ -9,22 +9,22 @@
 #include <memory>
 
 /// Opens web pages of devices in the browser of the desktop. The browser does not know the keys that the user
-/// has agreed to, and asks for the password: the key of a device is checked first. Lives on the scene's
-/// thread; connections are made on another one, without an account.
+/// has accepted, and the user enters the password there: so the key of a device is checked first. Lives on
+/// the scene's thread; connections are made on another thread, without an account.
 class WebPages : public QObject
 {
     Q_OBJECT
 public:
     explicit WebPages(std::shared_ptr<HttpTransport> transport, QObject *parent = nullptr);
-    ~WebPages() override; ///< ends the checks that run
+    ~WebPages() override; ///< ends the running checks
 
-    /// Opens a page without TLS at once. The page of a device that does not respond is opened as well: the
-    /// browser reports that.
+    /// Opens a page without TLS immediately. The page of a device that does not respond is opened as well:
+    /// the browser reports that.
     Q_INVOKABLE void open(const QString &page);
 
 Q_SIGNALS:
     /// A page was not opened: the key of the device is unknown or has changed, or there is no browser.
-    /// `reason` says so in the user's language.
+    /// `reason` is in the user's language.
     void refused(const QString &reason);
 
 private:

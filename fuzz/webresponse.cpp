@@ -33,25 +33,25 @@ public:
 
     void setProxy(const QString &) override {}
     void setCertificateHandler(sdk::CertificateHandler, void *) override {}
-    [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &) override
+    [[nodiscard]] std::unique_ptr<PreparedHttpRequest> open(const CgiRequest &) override
     {
-        return std::make_unique<Conversation>(m_response);
+        return std::make_unique<RecordedHttpRequest>(m_response);
     }
 
 private:
-    class Conversation : public HttpConversation
+    class RecordedHttpRequest : public PreparedHttpRequest
     {
     public:
-        explicit Conversation(const Response &response) : m_response(response) {}
+        explicit RecordedHttpRequest(const Response &response) : m_response(response) {}
 
         void useBasic() override {}
         HttpOutcome perform(const HttpLimits &, const BodySink &sink, const ExchangeWatch &) override
         {
             HttpOutcome outcome;
             outcome.status = sink ? m_response.secondStatus : m_response.firstStatus;
-            constexpr qsizetype piece = 1000;
-            for (qsizetype place = 0; sink && place < m_response.body.size(); place += piece) {
-                if (!sink(QByteArrayView(m_response.body.mid(place, piece)))) {
+            constexpr qsizetype chunk = 1000;
+            for (qsizetype place = 0; sink && place < m_response.body.size(); place += chunk) {
+                if (!sink(QByteArrayView(m_response.body.mid(place, chunk)))) {
                     outcome.failure = QStringLiteral("the client has ended the transfer");
                     break;
                 }

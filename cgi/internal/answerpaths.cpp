@@ -2,7 +2,7 @@
 
 QString AnswerPaths::own(const QString &path)
 {
-    constexpr qsizetype remembered = 100; // the times of answers that end together differ by little
+    constexpr qsizetype remembered = 100; // responses that end together have similar times
     int number = 0;
     {
         const std::lock_guard lock(m_mutex);

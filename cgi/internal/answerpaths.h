@@ -5,11 +5,11 @@
 
 #include <mutex>
 
-/// Gives answers of the same second different files. Thread-safe.
+/// Unique file names for responses of the same second. Thread-safe.
 class AnswerPaths
 {
 public:
-    /// `path` the first time, and then "<name>_2.<ending>", "<name>_3.<ending>" and so on.
+    /// Returns `path` at the first call, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so on.
     [[nodiscard]] QString own(const QString &path);
 
 private:

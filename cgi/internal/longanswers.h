@@ -5,19 +5,20 @@
 
 #include <mutex>
 
-/// The whole of long answers, while there is room: rows and outcomes have only their beginnings. Thread-safe.
+/// Stores complete long responses up to a limit: rows and outcomes contain only their start. Thread-safe.
 class LongAnswers
 {
 public:
     static constexpr qsizetype longestBeginning = 4000;
-    static constexpr qsizetype room = 32'000'000; ///< letters of all of them together
+    static constexpr qsizetype room = 32'000'000; ///< limit of the total number of characters
 
-    /// Takes the place of what `key` had. A short answer is not kept; the oldest ones make room.
+    /// Stores the response of `key` in place of an earlier one. A short response is not stored; the oldest
+    /// ones are removed at the limit.
     void keep(const QString &key, const QString &answer);
 
     void forget(const QString &key);
 
-    /// The answer of `key` that begins so, or the beginning where it is not kept.
+    /// The response of `key` if it starts with `beginning`, otherwise `beginning`.
     [[nodiscard]] QString whole(const QString &key, const QString &beginning) const;
 
 private:

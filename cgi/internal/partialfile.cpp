@@ -19,15 +19,15 @@ PartialFile::PartialFile(const QString &path) : m_path(path), m_file(partialName
 
 bool PartialFile::open()
 {
-    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
+    // Unbuffered: Qt does not detect a partially written buffer.
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
         m_failure = m_file.errorString();
     return !hasFailed();
 }
 
-bool PartialFile::write(QByteArrayView piece)
+bool PartialFile::write(QByteArrayView chunk)
 {
-    if (!writeCompletely(m_file, piece))
+    if (!writeCompletely(m_file, chunk))
         m_failure = m_file.errorString();
     return !hasFailed();
 }

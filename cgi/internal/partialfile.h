@@ -3,31 +3,31 @@
 #include <QByteArrayView>
 #include <QFile>
 
-/// A file whose contents arrive piece by piece. A piece is in the file as soon as it has arrived, so that a
-/// killed program leaves what there was. Until the file is complete, its name says that it is not.
+/// A file whose contents arrive in chunks. A chunk is in the file as soon as it has arrived, so that a killed
+/// process leaves all received data. Until the file is complete, its name contains ".partial".
 class PartialFile
 {
 public:
-    /// `path` is the name of the complete file. The incomplete one is "<name>.partial.<ending>" beside it.
+    /// `path` is the path of the complete file. The incomplete one is "<name>.partial.<suffix>" in the same
+    /// folder.
     explicit PartialFile(const QString &path);
 
     [[nodiscard]] bool open();
 
-    /// False when the piece could not be written completely.
-    [[nodiscard]] bool write(QByteArrayView piece);
+    /// False when the chunk could not be written completely.
+    [[nodiscard]] bool write(QByteArrayView chunk);
 
-    /// Gives the file its name; a file that has it is replaced. False when that fails.
+    /// Renames the file to its final name; an existing file is replaced. False on failure.
     [[nodiscard]] bool complete();
 
-    /// Ends an incomplete file. Returns its path when it holds something; otherwise removes it and returns an
-    /// empty text.
+    /// Closes an incomplete file. Returns its path, or removes it and returns an empty path if it is empty.
     [[nodiscard]] QString keepPartial();
 
     /// Removes the incomplete file.
     void remove();
 
     [[nodiscard]] bool hasFailed() const { return !m_failure.isEmpty(); }
-    [[nodiscard]] const QString &failure() const { return m_failure; } ///< in the words of the system
+    [[nodiscard]] const QString &failure() const { return m_failure; } ///< error text of the system
 
 private:
     const QString m_path;

@@ -1,4 +1,4 @@
-// Devices that commands are sent to in batches, without any network.
+// Devices for batches of commands, without a network.
 #pragma once
 
 #include "cgi/cgibatches.h"
@@ -8,15 +8,15 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-/// Rows by their identities. A device lets every password in but "wrong".
+/// Rows by identity. A device accepts every password except "wrong".
 class CommandBackEnd : public CDeviceBase
 {
 public:
     CommandBackEnd() : CDeviceBase(nullptr) {}
 
     QMap<QString, QVariantMap> rows;
-    QMap<QString, QVariantMap> accounts; ///< by identity; other devices have the usual one
-    QStringList logins; ///< "account password", in their order; may be read when no command runs
+    QMap<QString, QVariantMap> accounts; ///< by identity; other devices have the default one
+    QStringList logins;                  ///< "account password", in order; readable while no command runs
 
     void add(const QString &identity, const QString &ipport, int webPort)
     {

@@ -9,7 +9,7 @@ inline const QStringList commandTitles = {QStringLiteral("IP"), QStringLiteral("
                                           QStringLiteral("用户名"), QStringLiteral("密码"),
                                           QStringLiteral("CGI配置命令")};
 
-/// Writes rows from the first one on, with empty cells left out.
+/// Writes rows, starting at the first one; empty cells are omitted.
 inline bool writeRows(const QString &path, const QList<QStringList> &rows)
 {
     QExcel excel;

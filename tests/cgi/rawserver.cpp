@@ -46,7 +46,7 @@ bool RawExchange::pause(int milliseconds) const
     QElapsedTimer timer;
     timer.start();
     while (!m_ends && timer.elapsed() < milliseconds) {
-        // The client sends nothing more: what is there to read is its end.
+        // The client sends no more data: a readable socket means that it has closed the connection.
         if (isReady(m_socket, POLLIN, wakeUpInterval))
             return false;
     }
@@ -93,7 +93,7 @@ QList<QByteArray> RawServer::requests() const
     return m_requests;
 }
 
-/// Whether the headers are there, and as much of a body as they promise.
+/// True if the request has all headers and a body of the announced length.
 static bool isWhole(const QByteArray &request)
 {
     const qsizetype headers = request.indexOf("\r\n\r\n");

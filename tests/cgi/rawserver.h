@@ -1,4 +1,4 @@
-// A server on a loopback port that sends what a test tells it to, also what no real server would.
+// A server on a loopback port that sends the bytes of a test, including invalid responses.
 #pragma once
 
 #include <QByteArray>
@@ -9,7 +9,7 @@
 #include <functional>
 #include <thread>
 
-/// A request that has come, and the way to answer it.
+/// A received request, and the functions to respond to it.
 class RawExchange
 {
 public:
@@ -20,16 +20,16 @@ public:
 
     /// The request's line and headers, and its body.
     [[nodiscard]] const QByteArray &request() const { return m_request; }
-    /// Counted from 1 over the life of the server.
+    /// The number of the request, from 1 over the lifetime of the server.
     [[nodiscard]] int number() const { return m_number; }
 
-    /// False when the client has gone or the server ends.
+    /// False when the client has disconnected or the server ends.
     bool send(QByteArrayView bytes) const;
 
-    /// An answer with its headers and its body, whole.
+    /// Sends a complete response with headers and body.
     bool answer(const QByteArray &status, const QByteArray &headers, const QByteArray &body) const;
 
-    /// Waits, but not beyond the end of the server or of the client. False when one of them has gone.
+    /// Waits until the end of the server or of the client at most. False when one of them has ended.
     [[nodiscard]] bool pause(int milliseconds) const;
 
 private:
@@ -39,7 +39,7 @@ private:
     const std::atomic<bool> &m_ends;
 };
 
-/// Answers one connection after another, and one request in each, on a thread of its own.
+/// Serves one connection after another, with one request in each, on a separate thread.
 class RawServer
 {
 public:
@@ -48,7 +48,7 @@ public:
     enum class Reach
     {
         OneAddress,   ///< 127.0.0.1
-        EveryAddress, ///< of the computer, such as 127.0.0.2
+        EveryAddress, ///< of this host, such as 127.0.0.2
     };
 
     explicit RawServer(Handler handler, Reach reach = Reach::OneAddress);
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] QString address() const;
     [[nodiscard]] QString url(const QString &command) const;
 
-    /// What has come so far.
+    /// The requests received so far.
     [[nodiscard]] QList<QByteArray> requests() const;
 
 private:

@@ -1,4 +1,4 @@
-// A transport that answers from memory and notes what it was asked, on any thread.
+// A transport that responds from memory and records its requests, on any thread.
 #pragma once
 
 #include "cgi/httptransport.h"
@@ -12,34 +12,35 @@
 class RecordedTransport : public HttpTransport
 {
 public:
-    /// The answer to each address, from the first request on.
+    /// The response to each URL.
     std::function<QByteArray(const QByteArray &url)> answer = [](const QByteArray &) {
         return QByteArray("OK");
     };
-    // What commands asked for may be read when none runs.
-    QStringList urls;           ///< of the commands, in their order
-    QStringList credentials;    ///< of each of them
-    QStringList exchangeLimits; ///< of each exchange: milliseconds, least bytes a second, seconds below that
+    // The records may be read while no command runs.
+    QStringList urls;        ///< of the commands, in order
+    QStringList credentials; ///< of each of them
+    QStringList
+        exchangeLimits; ///< of each exchange: milliseconds, lowest bytes per second, seconds below that
     QByteArray headers = "Content-Type: text/plain\r\n";
-    std::unique_ptr<QSemaphore> gate; ///< lets an exchange through for each of its resources; null for all
-    std::atomic<int> atGate = 0;      ///< exchanges that have come to it
+    std::unique_ptr<QSemaphore> gate; ///< admits an exchange for each of its resources; null for all
+    std::atomic<int> atGate = 0;      ///< exchanges that have reached it
 
     void setProxy(const QString &) override {}
     void setCertificateHandler(sdk::CertificateHandler, void *) override {}
 
-    [[nodiscard]] std::unique_ptr<HttpConversation> open(const CgiRequest &request) override
+    [[nodiscard]] std::unique_ptr<PreparedHttpRequest> open(const CgiRequest &request) override
     {
         const std::lock_guard lock(m_mutex);
         urls.append(QString::fromUtf8(request.url()));
         credentials.append(QString::fromUtf8(request.userPassword()));
-        return std::make_unique<Conversation>(*this, answer(request.url()));
+        return std::make_unique<RecordedHttpRequest>(*this, answer(request.url()));
     }
 
 private:
-    class Conversation : public HttpConversation
+    class RecordedHttpRequest : public PreparedHttpRequest
     {
     public:
-        Conversation(RecordedTransport &transport, const QByteArray &body)
+        RecordedHttpRequest(RecordedTransport &transport, const QByteArray &body)
             : m_transport(transport), m_body(body)
         {
         }

@@ -1,4 +1,4 @@
-// A server on a loopback port that speaks TLS with a key that it made itself, and notes its requests.
+// A TLS server on a loopback port with a generated key, which records its requests.
 #pragma once
 
 #include "sdk/demo/internal/encryption.h"
@@ -15,7 +15,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-/// Answers each request of one connection after another with the same bytes, on a thread of its own.
+/// Responds to each request of one connection after another with the same bytes, on a separate thread.
 class TlsServer
 {
 public:
@@ -42,14 +42,14 @@ public:
 
     [[nodiscard]] int port() const { return m_port; }
 
-    /// The next connections get another key.
+    /// Later connections get another key.
     void renewKey()
     {
         const std::scoped_lock lock(m_mutex);
         m_key = sdk::demo::DeviceKey::make("renewed");
     }
 
-    /// The requests that have come through a completed handshake.
+    /// The requests received after a completed handshake.
     [[nodiscard]] QList<QByteArray> requests() const
     {
         const std::scoped_lock lock(m_mutex);
@@ -86,7 +86,7 @@ private:
     const QByteArray m_answer;
     const int m_listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     int m_port = 0;
-    mutable std::mutex m_mutex; ///< of what follows
+    mutable std::mutex m_mutex; ///< guards the members below
     std::shared_ptr<const sdk::demo::DeviceKey> m_key = sdk::demo::DeviceKey::make("first");
     QList<QByteArray> m_requests;
     std::thread m_thread;

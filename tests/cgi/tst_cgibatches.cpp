@@ -27,7 +27,7 @@ class TestCgiBatches : public QObject
         return m_site->commands.send("Title", identities, command);
     }
 
-    /// Runs the lines of a workbook but those that `leftOut` names the beginning of.
+    /// Runs the lines of a workbook except those that start with `leftOut`.
     Batch *runWorkbook(const QString &file, const QString &leftOut = "none") const
     {
         QSignalSpy wasRead(m_site->commands.workbooks(), &CgiWorkbooks::wasRead);
@@ -41,7 +41,7 @@ class TestCgiBatches : public QObject
         return m_site->commands.workbooks()->run("Title", lines);
     }
 
-    /// Three devices on a site that works on so many at once.
+    /// Three devices; `atOnce` of them are processed at the same time.
     void makeSite(int atOnce)
     {
         m_site = std::make_unique<CommandSite>(atOnce);
@@ -53,7 +53,7 @@ private Q_SLOTS:
     void init() { makeSite(8); }
     void cleanup() { m_site.reset(); }
 
-    void aRowGetsItsAnswer_data()
+    void aRowGetsItsResponse_data()
     {
         // url: empty: nothing is sent
         const auto row = dataTable<QString, int, QString, QByteArray, QString, QString, int>(
@@ -68,7 +68,7 @@ private Q_SLOTS:
         row("password", "10.0.0.1:1", 80, "wrong", "OK", "", "Error:账号或密码错误。", wrongPassword);
     }
 
-    void aRowGetsItsAnswer()
+    void aRowGetsItsResponse()
     {
         QFETCH(QString, ipport);
         QFETCH(int, webPort);
@@ -91,8 +91,8 @@ private Q_SLOTS:
         QCOMPARE(batch->entries().first().outcome.result, code);
     }
 
-    /// A stop ends a transfer that has no end of its own.
-    void theRestOfAStoppedBatchIsNamed()
+    /// A stop ends an endless transfer.
+    void theRestOfAStoppedBatchIsReported()
     {
         makeSite(1);
         m_site->transport->gate = std::make_unique<QSemaphore>(2); // the first device
@@ -107,8 +107,8 @@ private Q_SLOTS:
         QCOMPARE(batch->report()->devicesWith(notDone), QStringList("10.0.0.c:37777"));
         QCOMPARE(m_site->commands.failuresOf(batch),
                  QStringList({"10.0.0.b:37777  Error:操作已停止。", "10.0.0.c:37777  未执行"}));
-        // Those that were stopped or not done get the same command in a retry, and their answers into their
-        // rows.
+        // A retry sends the same command to the stopped and not processed devices, and writes their responses
+        // to their rows.
         m_site->transport->gate.reset();
         Batch *again = m_site->batches.retry(batch);
         QVERIFY(again);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->result("a"), "OK");
     }
 
-    void theWholeOfALongAnswerIsKept()
+    void aLongResponseIsKeptCompletely()
     {
         const QString answer(10'000, 'x');
         m_site->transport->answer = [answer](const QByteArray &) {
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->commands.answerOf("a", "other"), "other");
     }
 
-    void longAnswersMakeRoomForNewerOnes()
+    void oldLongResponsesAreRemoved()
     {
         LongAnswers answers;
         constexpr qsizetype third = LongAnswers::room / 3 + 1;
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(answers.whole("a", "a"), "a");
     }
 
-    void picturesOfTheSameSecondHaveTheirOwnFiles()
+    void imagesOfTheSameSecondHaveSeparateFiles()
     {
         m_site->transport->headers = "Content-Type: image/png\r\n";
         m_site->transport->answer = [](const QByteArray &url) {
@@ -200,7 +200,8 @@ private Q_SLOTS:
         QCOMPARE(results.first(4), QStringList({"http://10.0.0.a/cgi-bin/1", "Error:账号或密码错误。",
                                                 "Error:URL格式错误。", "Error:账号或密码错误。"}));
         QVERIFY(results.last().startsWith("xxx") && results.last().endsWith("…（内容过长，已截断）"));
-        // Lines of one device keep their order, and one that refuses an account is not asked again with it.
+        // The lines of one device are sent in order. A device that refuses an account gets no further request
+        // with it.
         QCOMPARE(m_site->transport->urls,
                  QStringList({"http://10.0.0.a/cgi-bin/1", "https://10.0.0.a/cgi-bin/5"}));
         QCOMPARE(m_site->devices->logins, QStringList({"admin s", "admin wrong", "admin s"}));
@@ -223,7 +224,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!ended.isEmpty());
         QVERIFY(ended.first().first().toString().startsWith("已停止执行：成功1行，失败1行，未执行1行。"));
         QCOMPARE(commandResults(path(), 3).count(""), 1);
-        // The file is the user's again.
+        // The file is released.
         QCOMPARE(m_site->batches.retry(batch), nullptr);
         m_site->transport->gate.reset();
         QVERIFY(runWorkbook(path()));
@@ -231,7 +232,7 @@ private Q_SLOTS:
         QVERIFY(ended.last().first().toString().startsWith("执行完成：成功3行"));
     }
 
-    /// A line that the user has taken out is not sent, and its cell stays as it is.
+    /// A line that the user has excluded is not sent, and its cell is not changed.
     void onlyTheChosenLinesOfAWorkbookAreSent()
     {
         QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"},
@@ -243,8 +244,8 @@ private Q_SLOTS:
         QCOMPARE(m_site->transport->urls, QStringList("http://10.0.0.b/cgi-bin/2"));
     }
 
-    /// The results would take the place of what somebody has written meanwhile.
-    void aWorkbookThatWasChangedSinceItWasReadIsNotRun()
+    /// The results would overwrite a change of the file.
+    void aWorkbookChangedSinceReadingIsNotRun()
     {
         QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"}}));
         QSignalSpy wasRead(m_site->commands.workbooks(), &CgiWorkbooks::wasRead);
@@ -260,7 +261,7 @@ private Q_SLOTS:
         QVERIFY(m_site->transport->urls.isEmpty());
     }
 
-    void aFileThatIsNoneIsRefused()
+    void anInvalidFileIsRefused()
     {
         const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
         m_site->commands.workbooks()->read(path());

@@ -1,4 +1,4 @@
-// Commands of workbooks, and the services for the page.
+// Commands of workbooks, and the utilities of the page.
 #include "cgi/cgiconfigmanage.h"
 #include "cgi/commandworkbook.h"
 #include "tests/cgi/commandworkbooks.h"
@@ -54,7 +54,7 @@ private Q_SLOTS:
                                                               .localTime = &QDateTime::currentDateTime});
     }
 
-    void filesThatAreNoneAreRefused_data()
+    void invalidFilesAreRefused_data()
     {
         const auto row = dataTable<QList<Row>, QString>({"rows", "text"});
         row("no file", QList<Row>(), "文件打开失败");
@@ -64,7 +64,7 @@ private Q_SLOTS:
             QList<Row>{{"IP", "端口", "密码", "用户名", "CGI配置命令"}, deviceRow(1)}, "文件格式错误");
     }
 
-    void filesThatAreNoneAreRefused()
+    void invalidFilesAreRefused()
     {
         QFETCH(QList<Row>, rows);
         QVERIFY(rows.isEmpty() || writeWorkbook(rows));
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(m_transport->credentials, QStringList({"admin:secret1", "admin:a:b", "管理员:"}));
     }
 
-    /// Cells as a spreadsheet program stores them, not as this one does.
+    /// Cells in the form of a spreadsheet application, not of this one.
     void numbersAndFormulasAreRead()
     {
         QByteArray header;
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(commandResults(path(), 2), QStringList({"", "OK"}));
     }
 
-    void remembersCommands()
+    void storesCommands()
     {
         for (int number = 0; number < 25; ++number)
             m_manager->rememberCommand(QStringLiteral("/cgi-bin/%1").arg(number));
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(m_manager->favouriteCommands(), next.favourites());
     }
 
-    /// The template of each language is a workbook of commands there, under the name that the page opens.
+    /// The template of each language is a valid workbook of commands with the file name that the page opens.
     void templatesCanBeUsed_data()
     {
         const auto row = dataTable<QString, QString>({"language", "name"});
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(sheets.usedRowCount() > 8); // a line for each column
     }
 
-    void aLongTextIsCutIntoLines_data()
+    void aLongTextIsSplitIntoLines_data()
     {
         const auto row = dataTable<QString, QStringList>({"text", "lines"});
         const QString key = QString::fromUtf8("🔑");
@@ -186,7 +186,7 @@ private Q_SLOTS:
             QStringList(100'000, "") + QStringList("…（内容过长，已截断）"));
     }
 
-    void aLongTextIsCutIntoLines()
+    void aLongTextIsSplitIntoLines()
     {
         QFETCH(QString, text);
         QTEST(m_manager->linesOf(text), "lines");

@@ -1,4 +1,4 @@
-// Commands to a web server that also sends what no real one would.
+// Commands to a web server that also sends invalid responses.
 #include "cgi/cgiprocedure.h"
 #include "cgi/curltransport.h"
 #include "sdk/clock.h"
@@ -31,18 +31,18 @@ const QString password = QStringLiteral("p@ss:密码%");
 const QByteArray textType = QByteArrayLiteral("Content-Type: text/plain\r\n");
 const QByteArray recordingType = QByteArrayLiteral("Content-Type: application/octet-stream\r\n");
 
-/// Limits that let a test wait for the failure that they bring.
+/// Limits that are short enough to wait for in a test.
 CgiLimits shortLimits()
 {
     CgiLimits limits;
-    limits.first.total = 1s; // a busy machine is to answer within it
+    limits.first.total = 1s; // sufficient for a response on a busy machine
     limits.text.total = 1s;
     limits.picture.total = 1s;
     limits.recording = {.slowestRate = 1024, .slowTime = 1s};
     return limits;
 }
 
-/// Whether a request carries what the challenge asks for.
+/// True if a request has the credentials that the challenge requires.
 bool isLetIn(const QByteArray &request, const QByteArray &challenge, const QByteArray &target)
 {
     const QByteArray account = user.toUtf8() + ':' + password.toUtf8();
@@ -171,22 +171,22 @@ private Q_SLOTS:
         QVERIFY2(seen.startsWith(result), qPrintable(seen));
         (void)run(QStringLiteral("https://192.168.1.5:8443/cgi-bin/time"));
         (void)run(QStringLiteral("https://192.168.1.7/cgi-bin/time"));
-        QCOMPARE(keys.size(), 2); // each has its own, and keeps it
-        // A client that leaves in the middle of the answer ends nothing.
+        QCOMPARE(keys.size(), 2); // each has a constant key
+        // A client that disconnects during the response does not end the server.
         m_surroundings.transport->setCertificateHandler(nullptr, nullptr);
         QVERIFY(run(QStringLiteral("https://192.168.1.5:8443/cgi-bin/time")).startsWith("Error:"));
     }
 
-    void devicesAreGivenTheCredentialsThatTheyAskFor_data()
+    void devicesGetTheRequestedCredentials_data()
     {
-        // challenge: empty: the device lets anybody in
+        // challenge: empty: the device requires no login
         const auto row = dataTable<QByteArray, QByteArray, int>({"challenge", "target", "requests"});
         row("digest", R"(Digest realm="device", nonce="n1", qop="auth")", "/text?action=get", 3);
         row("basic, asked again", R"(Basic realm="device")", "/text", 3);
         row("open", "", "/text", 2);
     }
 
-    void devicesAreGivenTheCredentialsThatTheyAskFor()
+    void devicesGetTheRequestedCredentials()
     {
         QFETCH(QByteArray, challenge);
         QFETCH(QByteArray, target);
@@ -202,7 +202,7 @@ private Q_SLOTS:
             QVERIFY(request.startsWith("GET " + target + " HTTP"));
         if (!challenge.isEmpty())
             QCOMPARE(run(server.url(QString::fromUtf8(target)), {}, "guest"), "Error:服务器连接失败");
-        // Where Digest is asked for, the password never goes out as it is.
+        // With Digest, the password is never sent in plain text.
         for (const QByteArray &request : server.requests())
             QVERIFY(!challenge.startsWith("Digest") || !request.contains("Authorization: Basic"));
         QCOMPARE(savedFiles(), QStringList());
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(server.requests(), QList<QByteArray>());
     }
 
-    void lineBreaksSmuggleNoHeader()
+    void lineBreaksInjectNoHeader()
     {
         RawServer server([](const RawExchange &exchange) {
             if (exchange.request().contains("Authorization"))
@@ -260,9 +260,9 @@ private Q_SLOTS:
             QVERIFY(!request.contains("\nX-Smuggled"));
     }
 
-    void oddAnswersEndInATextThatSaysSo_data()
+    void invalidResponsesAreReported_data()
     {
-        // result: that it begins with
+        // result: its start
         const auto row = dataTable<RawServer::Handler, QString>({"handler", "result"});
         const auto sending = [](const QByteArray &bytes) {
             return [bytes](const RawExchange &exchange) {
@@ -275,12 +275,13 @@ private Q_SLOTS:
         const QByteArray four = "Connection: close\r\nContent-Length: 4\r\n\r\n";
         row("redirection", sending("HTTP/1.1 302 Found\r\nLocation: /elsewhere\r\n" + four + "gone"),
             "Error:服务器连接失败");
-        const auto repeating = [ok](const QByteArray &head, const QByteArray &piece, int pause) {
+        const auto repeating = [ok](const QByteArray &head, const QByteArray &chunk, int pause) {
             return [=](const RawExchange &exchange) {
                 exchange.send(ok + head);
-                // Not more than it has said: the rest would begin the next answer of the connection.
+                // Not more than the announced length: the rest would be the start of the next response of the
+                // connection.
                 for (int sent = 0; sent < 1600; ++sent) {
-                    if (!exchange.send(piece) || (pause > 0 && !exchange.pause(pause)))
+                    if (!exchange.send(chunk) || (pause > 0 && !exchange.pause(pause)))
                         break;
                 }
             };
@@ -299,7 +300,7 @@ private Q_SLOTS:
         }
     }
 
-    void oddAnswersEndInATextThatSaysSo()
+    void invalidResponsesAreReported()
     {
         QFETCH(RawServer::Handler, handler);
         QFETCH(QString, result);
@@ -308,7 +309,7 @@ private Q_SLOTS:
         QVERIFY2(actual.startsWith(result), qPrintable(actual));
         QVERIFY(actual.size() > failedResult.size() || result != failedResult);
         QVERIFY(!server.requests().isEmpty());
-        QCOMPARE(savedFiles(), QStringList()); // nothing that looks whole
+        QCOMPARE(savedFiles(), QStringList()); // no file that looks complete
     }
 
     void aRecordingThatBreaksOffIsKept_data()
@@ -344,7 +345,7 @@ private Q_SLOTS:
         QCOMPARE(fileContents(partial), "begin");
     }
 
-    void aStopEndsARequestAtOnce()
+    void aStopEndsARequestImmediately()
     {
         RawServer server([](const RawExchange &exchange) {
             exchange.send("HTTP/1.1 200 OK\r\n");
@@ -362,9 +363,9 @@ private Q_SLOTS:
         QCOMPARE(server.requests().size(), 1);
     }
 
-    /// The first exchange has its limit and throws its body away, the second takes a recording for as long
-    /// as it comes.
-    void eachKindOfAnswerHasItsLimits_data()
+    /// The first exchange has a time limit and discards its body. The second one receives a recording without
+    /// a time limit.
+    void eachTypeOfResponseHasItsLimits_data()
     {
         // largest: in bytes; 0 for any
         const auto row = dataTable<QByteArray, QString, qsizetype>({"type", "second", "largest"});
@@ -374,7 +375,7 @@ private Q_SLOTS:
         row("recording", QByteArray("application/octet-stream"), "0 1024 10", qsizetype(0));
     }
 
-    void eachKindOfAnswerHasItsLimits()
+    void eachTypeOfResponseHasItsLimits()
     {
         QFETCH(QByteArray, type);
         QFETCH(QString, second);
@@ -402,7 +403,7 @@ private Q_SLOTS:
         auto *any = reinterpret_cast<sockaddr *>(&address);
         QVERIFY(bind(listener, any, size) == 0 && listen(listener, 0) == 0);
         QCOMPARE(getsockname(listener, any, &size), 0);
-        const int first = socket(AF_INET, SOCK_STREAM, 0); // fills the queue: the next one gets no answer
+        const int first = socket(AF_INET, SOCK_STREAM, 0); // fills the queue: the next one gets no response
         QCOMPARE(::connect(first, any, size), 0);
         const CgiRequest request(QStringLiteral("http://127.0.0.1:%1/").arg(ntohs(address.sin_port)), user,
                                  password);
@@ -418,8 +419,8 @@ private Q_SLOTS:
     {
         RawServer server([](const RawExchange &exchange) {
             exchange.send("HTTP/1.1 200 OK\r\n" + recordingType + "Content-Length: 100000\r\n\r\n");
-            for (int piece = 0; piece < 10 && exchange.send(QByteArray(10000, 'd')) && exchange.pause(150);
-                 ++piece) {
+            for (int chunk = 0; chunk < 10 && exchange.send(QByteArray(10000, 'd')) && exchange.pause(150);
+                 ++chunk) {
             }
         });
         const QString path = run(server.url("/cgi-bin/a"), shortLimits());
@@ -428,7 +429,7 @@ private Q_SLOTS:
         QCOMPARE(server.requests().size(), 2);
     }
 
-    void theSecondAnswerIsTheText()
+    void theSecondResponseIsTheText()
     {
         RawServer server([](const RawExchange &exchange) {
             exchange.answer("200 OK", textType, "answer " + QByteArray::number(exchange.number()));
@@ -446,7 +447,7 @@ private Q_SLOTS:
         QCOMPARE(server.requests().size(), 1);
     }
 
-    void aFullDiskIsTold()
+    void aFullDiskIsReported()
     {
         RawServer server([](const RawExchange &exchange) {
             exchange.answer("200 OK", recordingType, QByteArray(1'000'000, 'd'));
@@ -457,8 +458,9 @@ private Q_SLOTS:
         QCOMPARE(savedFiles(), QStringList("20260309070501.partial.dav"));
     }
 
-    /// Devices are asked directly, unless the program itself names a proxy. A tunnel is, even then.
-    void onlyTheProgramsOwnProxyIsUsed()
+    /// Devices are accessed without a proxy, unless the application sets one. A tunnel is always accessed
+    /// directly.
+    void onlyTheConfiguredProxyIsUsed()
     {
         RawServer device([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "device"); });
         RawServer proxy([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "proxy"); });

@@ -1,4 +1,4 @@
-// What a command becomes on its way out, and what its answer's headers say.
+// The encoding of a command, and the evaluation of the headers of its response.
 #include "cgi/answerkind.h"
 #include "cgi/cgirequest.h"
 #include "tests/datatable.h"
@@ -11,13 +11,13 @@ class TestCgiRequest : public QObject
 private Q_SLOTS:
     void encodesAddresses_data()
     {
-        // path: behind the address
+        // path: after the address
         const auto row = dataTable<QString, QByteArray>({"path", "encoded"});
         row("plain", ":80/cgi-bin/a.cgi?action=read&name=time", ":80/cgi-bin/a.cgi?action=read&name=time");
         row("index in brackets", "/cgi-bin/a?item[0].name=x", "/cgi-bin/a?item[0].name=x");
         row("blank", "/cgi-bin/a b?c=d e", "/cgi-bin/a%20b?c=d%20e");
         row("Chinese", "/cgi-bin/a?n=东", "/cgi-bin/a?n=%E4%B8%9C");
-        // It says that nothing was encoded yet.
+        // A lone percent sign shows that the input is not encoded.
         row("lone percent sign", "/cgi-bin/a?n=50%&m=%41", "/cgi-bin/a?n=50%25&m=%2541");
         row("line breaks", "/cgi-bin/a?b=c\r\nX-Smuggled: 1", "/cgi-bin/a?b=c%0D%0AX-Smuggled:%201");
     }
@@ -30,7 +30,7 @@ private Q_SLOTS:
         QCOMPARE(CgiRequest("http://[10.0.0.2" + path, {}, {}).url(), QByteArray());
     }
 
-    void refusesWhatWouldBecomeOthersCredentials_data()
+    void refusesAmbiguousCredentials_data()
     {
         const auto row = dataTable<QString, QString, bool>({"user", "password", "isRefused"});
         row("colon in the password", "admin", "a:b@c", false);
@@ -40,7 +40,7 @@ private Q_SLOTS:
         row("zero in the password", "admin", QStringLiteral("a") + QChar(QChar::Null), true);
     }
 
-    void refusesWhatWouldBecomeOthersCredentials()
+    void refusesAmbiguousCredentials()
     {
         QFETCH(QString, user);
         QFETCH(QString, password);
@@ -95,7 +95,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, type);
         QFETCH(QByteArray, body);
-        // What was refused before does not say how this one is to be read.
+        // The headers of an earlier refusal do not determine the encoding of this response.
         const QByteArray headers =
             "HTTP/1.1 401 Unauthorized\r\nContent-Type: text/html; charset=Big5\r\n\r\n"
             "HTTP/1.1 200 OK\r\nContent-Type: " +

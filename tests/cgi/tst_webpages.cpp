@@ -1,4 +1,4 @@
-// Web pages of devices: which are given to the browser, and when not.
+// Web pages of devices: opened by the browser, or refused.
 #include "cgi/curltransport.h"
 #include "cgi/webpages.h"
 #include "tests/cgi/tlsserver.h"
@@ -9,7 +9,7 @@
 #include <QTest>
 #include <QUrl>
 
-/// Takes the place of the browser.
+/// A replacement of the browser.
 class Browser : public QObject
 {
     Q_OBJECT
