@@ -10,7 +10,7 @@ namespace sheets {
 
 namespace {
 
-/// Days since the day that sheets count from, with the time as a fraction.
+/// Days since the epoch of sheets, with the time as a fraction.
 double dayNumber(const QDateTime &time)
 {
     constexpr double millisecondsOfDay = 24.0 * 60 * 60 * 1000;
@@ -68,26 +68,26 @@ bool ApplicationSheetEngine::isAvailable() const
 bool ApplicationSheetEngine::createWorkbook()
 {
     if (m_workbook)
-        quit(); // lets go of the file of an earlier workbook
+        quit(); // closes the file of an earlier workbook
     if (!isAvailable() && !start())
         return false;
     m_workbooks = object(m_application.get(), "Workbooks");
-    return m_workbooks && call(m_workbooks.get(), "Add") && pickActive();
+    return m_workbooks && call(m_workbooks.get(), "Add") && selectActive();
 }
 
 bool ApplicationSheetEngine::open(const QString &path)
 {
     if (m_workbook)
-        quit(); // lets go of the file of an earlier workbook
+        quit(); // closes the file of an earlier workbook
     if (!isAvailable() && !start())
         return false;
     m_workbooks = object(m_application.get(), "Workbooks");
     return m_workbooks && call(m_workbooks.get(), "Open(const QString&)", QDir::toNativeSeparators(path)) &&
-           pickActive() && selectSheet(1);
+           selectActive() && selectSheet(1);
 }
 
-/// Takes the workbook that the application has just made or opened, and its sheet.
-bool ApplicationSheetEngine::pickActive()
+/// Selects the workbook that the application has just created or opened, and its sheet.
+bool ApplicationSheetEngine::selectActive()
 {
     m_sheet.reset();
     m_sheets.reset();
@@ -123,9 +123,9 @@ std::optional<UsedRows> ApplicationSheetEngine::usedRows()
     return range;
 }
 
-std::optional<QString> ApplicationSheetEngine::cellText(CellPlace place)
+std::optional<QString> ApplicationSheetEngine::cellText(CellPosition position)
 {
-    const Object cell = object(m_sheet.get(), "Cells(int,int)", place.row, place.column);
+    const Object cell = object(m_sheet.get(), "Cells(int,int)", position.row, position.column);
     if (!cell)
         return std::nullopt;
     m_exception.clear();
@@ -133,9 +133,9 @@ std::optional<QString> ApplicationSheetEngine::cellText(CellPlace place)
     return answered("Value") ? std::optional(text) : std::nullopt;
 }
 
-bool ApplicationSheetEngine::setCellText(CellPlace place, const QString &text)
+bool ApplicationSheetEngine::setCellText(CellPosition position, const QString &text)
 {
-    const Object cell = object(m_sheet.get(), "Cells(int,int)", place.row, place.column);
+    const Object cell = object(m_sheet.get(), "Cells(int,int)", position.row, position.column);
     return cell && set(cell.get(), "NumberFormat", QStringLiteral("@")) &&
            call(cell.get(), "SetValue(const QString&)", text);
 }
@@ -178,7 +178,7 @@ bool ApplicationSheetEngine::saveAs(const QString &path)
 
 void ApplicationSheetEngine::quit()
 {
-    // The application stays in memory as long as anything holds one of its objects.
+    // The application stays in memory as long as one of its objects is referenced.
     m_sheet.reset();
     m_sheets.reset();
     m_workbook.reset();
@@ -188,7 +188,7 @@ void ApplicationSheetEngine::quit()
     m_application.reset();
 }
 
-/// An object that `owner` has or makes. Null on failure, with the reason noted.
+/// An object that `owner` returns. Null on failure, with the reason in errorText().
 ApplicationSheetEngine::Object ApplicationSheetEngine::object(QAxObject *owner, const char *name,
                                                               const QVariant &first, const QVariant &second)
 {
@@ -203,7 +203,8 @@ ApplicationSheetEngine::Object ApplicationSheetEngine::object(QAxObject *owner, 
 
 ApplicationSheetEngine::Object ApplicationSheetEngine::rangeObject(const CellRange &range)
 {
-    return object(m_sheet.get(), "Range(QVariant,QVariant)", placeText(range.first), placeText(range.last));
+    return object(m_sheet.get(), "Range(QVariant,QVariant)", positionText(range.first),
+                  positionText(range.last));
 }
 
 bool ApplicationSheetEngine::set(QAxObject *object, const char *property, const QVariant &value)
@@ -220,7 +221,7 @@ bool ApplicationSheetEngine::call(QAxObject *object, const char *function, const
     return answered(function);
 }
 
-/// False when the application complained since the exception was cleared.
+/// False when the application has raised an exception since it was last cleared.
 bool ApplicationSheetEngine::answered(const char *what)
 {
     return m_exception.isEmpty() || fail(QStringLiteral("the spreadsheet application refuses %1: %2")

@@ -11,26 +11,25 @@ class QAxObject;
 namespace sheets {
 
 /// Drives the installed spreadsheet application through its automation interface. Every cell is a call to
-/// another process. To be used on a thread that the automation interface has been set up on, as it is on the
-/// main thread.
+/// another process. To be used on a thread with an initialised automation interface, such as the main thread.
 class ApplicationSheetEngine : public SheetEngine
 {
 public:
-    /// Starts the application, invisible and without questions.
+    /// Starts the application without a window and without dialogs.
     ApplicationSheetEngine();
 
     /// Ends the application.
     ~ApplicationSheetEngine() override;
 
-    /// False when there is no application to be started.
+    /// False when the application cannot be started.
     [[nodiscard]] bool isAvailable() const;
 
     bool createWorkbook() override;
     bool open(const QString &path) override;
     bool selectSheet(int index) override;
     [[nodiscard]] std::optional<UsedRows> usedRows() override;
-    [[nodiscard]] std::optional<QString> cellText(CellPlace place) override;
-    bool setCellText(CellPlace place, const QString &text) override;
+    [[nodiscard]] std::optional<QString> cellText(CellPosition position) override;
+    bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
     bool changeFormat(const CellRange &range, const FormatChange &change) override;
     bool setRowHeight(int row, double points) override;
@@ -42,7 +41,7 @@ private:
     using Object = std::unique_ptr<QAxObject>;
 
     bool start();
-    bool pickActive();
+    bool selectActive();
     Object object(QAxObject *owner, const char *name, const QVariant &first = {},
                   const QVariant &second = {});
     Object rangeObject(const CellRange &range);
@@ -50,13 +49,13 @@ private:
     bool call(QAxObject *object, const char *function, const QVariant &argument = {});
     bool answered(const char *what);
 
-    // Objects of the application, each made by the one before: they go in reverse order.
+    // Objects of the application, each created by the one before: they are released in reverse order.
     Object m_application;
     Object m_workbooks;
     Object m_workbook;
     Object m_sheets;
     Object m_sheet;
-    QString m_exception; ///< what the application complained of in the running operation
+    QString m_exception; ///< the application's error in the running operation
 };
 
 } // namespace sheets

@@ -1,4 +1,4 @@
-// Where a cell is in a sheet, by number and as text such as "C7".
+// Positions of cells in a sheet, as numbers and as references such as "C7".
 #pragma once
 
 #include <QString>
@@ -11,13 +11,13 @@ namespace sheets {
 inline constexpr int maximumRows = 1'048'576;
 inline constexpr int maximumColumns = 16'384;
 
-/// The place of one cell.
-struct CellPlace
+/// The position of one cell.
+struct CellPosition
 {
     int row = 0;
     int column = 0;
 
-    bool operator==(const CellPlace &) const = default;
+    bool operator==(const CellPosition &) const = default;
 
     [[nodiscard]] bool isInSheet() const
     {
@@ -28,8 +28,8 @@ struct CellPlace
 /// A rectangle of cells, both corners included.
 struct CellRange
 {
-    CellPlace first;
-    CellPlace last;
+    CellPosition first;
+    CellPosition last;
 
     bool operator==(const CellRange &) const = default;
 
@@ -52,16 +52,18 @@ struct CellRange
     }
 };
 
-/// The place as text: column letters, then the row's number.
-[[nodiscard]] QString placeText(CellPlace place);
+/// The position as a reference: column letters, then the row's number.
+[[nodiscard]] QString positionText(CellPosition position);
 
-/// The range as text: both corners with a colon between, or one place when it is a single cell.
+/// The range as a reference: both corners with a colon between, or one position for a single cell.
 [[nodiscard]] QString rangeText(const CellRange &range);
 
-/// The place that `text` names, with or without "$". Nothing when it names none or one outside of a sheet.
-[[nodiscard]] std::optional<CellPlace> cellPlace(QStringView text);
+/// The position of the reference `text`, with or without "$". Nothing for an invalid reference and for one
+/// outside of a sheet.
+[[nodiscard]] std::optional<CellPosition> cellPosition(QStringView text);
 
-/// The range that `text` names: two places with a colon between, or one. Nothing when it names none.
+/// The range of the reference `text`: two positions with a colon between, or one. Nothing for an invalid
+/// reference.
 [[nodiscard]] std::optional<CellRange> cellRange(QStringView text);
 
 } // namespace sheets

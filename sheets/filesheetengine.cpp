@@ -46,7 +46,8 @@ bool FileSheetEngine::open(const QString &path)
     return true;
 }
 
-/// Loads the workbook of a file's bytes and selects its first sheet. `failure` is the start of the error text.
+/// Loads the workbook of a file's bytes and selects its first sheet. `failure` is the start of the error
+/// text.
 bool FileSheetEngine::load(const QByteArray &bytes, const QString &failure)
 {
     auto workbook = std::make_unique<Workbook>();
@@ -85,16 +86,16 @@ std::optional<UsedRows> FileSheetEngine::usedRows()
     return needWorkbook() ? std::optional(m_workbook->usedRows()) : std::nullopt;
 }
 
-std::optional<QString> FileSheetEngine::cellText(CellPlace place)
+std::optional<QString> FileSheetEngine::cellText(CellPosition position)
 {
-    return needWorkbook() ? std::optional(m_workbook->cellText(place)) : std::nullopt;
+    return needWorkbook() ? std::optional(m_workbook->cellText(position)) : std::nullopt;
 }
 
-bool FileSheetEngine::setCellText(CellPlace place, const QString &text)
+bool FileSheetEngine::setCellText(CellPosition position, const QString &text)
 {
-    if (!isNewRow({place, place}))
-        return needWorkbook() && ended(m_workbook->setCellText(place, text));
-    m_newWorkbook->setCellText(place, text);
+    if (!isNewRow({position, position}))
+        return needWorkbook() && ended(m_workbook->setCellText(position, text));
+    m_newWorkbook->setCellText(position, text);
     return true;
 }
 
@@ -152,7 +153,7 @@ void FileSheetEngine::quit()
     m_path.clear();
 }
 
-/// Takes over the workbook's reason when it is not done.
+/// Copies the workbook's error text on failure.
 bool FileSheetEngine::ended(bool done)
 {
     return done || fail(m_workbook->errorText());

@@ -10,11 +10,11 @@ class NewWorkbook;
 class Workbook;
 
 /// Works on the file format itself, without a spreadsheet application. A workbook from a file is changed in
-/// place: the parts of the file that are not concerned stay byte for byte.
+/// place: all other parts of the file stay identical, byte for byte.
 ///
-/// A new workbook that is filled row by row, in ascending order, and then saved takes constant memory. The first
-/// operation in another order, such as reading a cell or writing to an earlier row, loads it like a workbook
-/// from a file.
+/// A new workbook that is filled row by row, in ascending order, and then saved takes constant memory. The
+/// first operation in another order, such as reading a cell or writing to an earlier row, loads it like a
+/// workbook from a file.
 ///
 /// Limits of a file: 128 MiB, 10,000 parts; of one part: 192 MiB of text, 1 GiB of memory.
 class FileSheetEngine : public SheetEngine
@@ -27,11 +27,11 @@ public:
     bool open(const QString &path) override;
     bool selectSheet(int index) override;
     [[nodiscard]] std::optional<UsedRows> usedRows() override;
-    [[nodiscard]] std::optional<QString> cellText(CellPlace place) override;
-    bool setCellText(CellPlace place, const QString &text) override;
+    [[nodiscard]] std::optional<QString> cellText(CellPosition position) override;
+    bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
 
-    /// As declared; refuses a range of more than 100,000 cells.
+    /// As declared; fails for a range of more than 100,000 cells.
     bool changeFormat(const CellRange &range, const FormatChange &change) override;
     bool setRowHeight(int row, double points) override;
     bool save() override;
@@ -47,7 +47,7 @@ private:
     // At most one of them is not null.
     std::unique_ptr<NewWorkbook> m_newWorkbook;
     std::unique_ptr<Workbook> m_workbook;
-    QString m_path; ///< where the workbook was opened from or last saved to
+    QString m_path; ///< file that the workbook was opened from or last saved to
 };
 
 } // namespace sheets

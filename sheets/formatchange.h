@@ -4,12 +4,12 @@
 
 namespace sheets {
 
-/// What is to become different in the look of cells; what is not set stays as it is.
+/// A change of the format of cells; members without a value are not changed.
 struct FormatChange
 {
-    std::optional<bool> isText;     ///< number format "text" ("@"), which keeps "007" from becoming a number
-    std::optional<bool> wrap;       ///< long text goes on in further lines of the cell
-    std::optional<bool> bold;       ///< heavy letters
+    std::optional<bool> isText; ///< number format "text" ("@"), which keeps "007" from becoming a number
+    std::optional<bool> wrap;   ///< long text is wrapped in the cell
+    std::optional<bool> bold;
     std::optional<double> fontSize; ///< in points
 
     auto operator<=>(const FormatChange &) const = default;

@@ -34,6 +34,6 @@ bool keepWorkbook(QExcel &workbook, QString &path, const QString &addition)
     if (keepIn(QFileInfo(path).absolutePath(), workbook, path, addition))
         return true;
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QDir().mkpath(documents); // not every account has it
+    QDir().mkpath(documents); // it may be missing
     return keepIn(documents, workbook, path, addition);
 }

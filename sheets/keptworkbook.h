@@ -1,12 +1,12 @@
-// Keeping a workbook that took work to fill, also when its own file cannot be written.
+// Saving a workbook with results, also when its file cannot be written.
 #pragma once
 
 #include <QString>
 
 class QExcel;
 
-/// Writes the workbook into `path`, which it was opened from, or else into a new file beside it or among the
-/// user's documents, whose name is that of `path` with "_" and `addition` behind it. `path` is then the file
-/// that holds it. Returns false when all of that failed: QExcel::errorText() says why, and the workbook is
-/// as it was.
+/// Writes the workbook to `path`, the file that it was opened from. If that fails, it writes a new file next
+/// to it or in the user's documents folder, whose name is that of `path` with "_" and `addition` appended,
+/// and sets `path` to it. Returns false when all of that failed: QExcel::errorText() has the reason, and the
+/// workbook is unchanged.
 bool keepWorkbook(QExcel &workbook, QString &path, const QString &addition);

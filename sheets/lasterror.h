@@ -4,15 +4,15 @@
 
 namespace sheets {
 
-/// Keeps what the last failure of an object was, for classes whose operations return false on failure.
+/// Stores the reason of an object's last failure, for classes whose operations return false on failure.
 class LastError
 {
 public:
-    /// Why the last failed operation failed, in words for the log. Empty when none has failed.
+    /// The reason of the last failure, for the log. Empty when no operation has failed.
     [[nodiscard]] const QString &errorText() const { return m_errorText; }
 
 protected:
-    /// Notes the reason and returns false, for `return fail(…)`.
+    /// Stores the reason and returns false, for `return fail(…)`.
     bool fail(const QString &reason)
     {
         m_errorText = reason;

@@ -147,13 +147,13 @@ bool QExcel::fail(const QString &reason)
     return false;
 }
 
-/// Takes over the engine's reason when it is not done.
+/// Copies the engine's error text on failure.
 bool QExcel::ended(bool done)
 {
     return done || fail(m_engine->errorText());
 }
 
-/// True with a workbook, for cells that a sheet has.
+/// True if there is a workbook and the range is in a sheet.
 bool QExcel::canUse(const CellRange &range)
 {
     if (!m_hasWorkbook)

@@ -8,15 +8,15 @@
 #include <memory>
 #include <optional>
 
-/// One workbook: made or opened, read, changed and saved. Rows, columns and sheets count from 1. With the
-/// spreadsheet application where that is installed, otherwise on the file itself.
+/// One workbook, which is created or opened, read, changed and saved. Rows, columns and sheets are numbered
+/// from 1. It uses the spreadsheet application if that is installed, otherwise the file itself.
 ///
-/// Every operation returns false, or nothing, when it failed, and changes nothing then; `errorText()` says
-/// why. An operation that needs a workbook fails when none has been made or opened. What is not saved is
-/// lost.
+/// On failure, every operation returns false or nothing, and changes nothing; `errorText()` has the reason.
+/// An operation that needs a workbook fails when none has been created or opened. Unsaved changes are lost.
 ///
-/// Not thread-safe; use an object on the thread that made it. An operation works until it is done: opening
-/// and saving 10,000 rows takes about a second.
+/// Not thread-safe; use an object on the thread that created it. Operations block: opening and saving 10,000
+/// rows takes about a second. A new workbook that is filled row by row, in ascending order, and then saved
+/// takes the least memory.
 class QExcel
 {
 public:
@@ -24,39 +24,39 @@ public:
     QExcel();
     explicit QExcel(std::unique_ptr<sheets::SheetEngine> engine);
 
-    /// Quits.
+    /// Calls quit().
     ~QExcel();
 
     QExcel(const QExcel &) = delete;
     QExcel &operator=(const QExcel &) = delete;
 
-    /// Begins a workbook with one empty sheet, which is picked. A workbook that was there is dropped.
+    /// Creates a workbook with one empty sheet, which is selected. An earlier workbook is closed.
     bool createWorkbook();
 
-    /// Opens a file and picks its first sheet. Fails for a file that is none, is encrypted, damaged or too
-    /// large. A workbook that was there is dropped, even on failure.
+    /// Opens a file and selects its first sheet. Fails for a file that is not a workbook, is encrypted,
+    /// damaged or too large. An earlier workbook is closed, even on failure.
     bool open(const QString &path);
 
-    /// Picks the sheet that everything that follows is about. On failure the one that was picked stays so.
+    /// Selects the sheet of the following operations. On failure the selection is unchanged.
     bool selectSheet(int index);
 
-    /// How many rows the used range has: from the first row that holds something to the last, so it does not
-    /// count empty rows above. To the spreadsheet application a cell that has only a look holds something,
-    /// and an empty sheet one row. -1 on failure.
+    /// The number of rows of the used range: from the first to the last non-empty row, without the empty rows
+    /// above. For the spreadsheet application a cell with a format only is not empty, and an empty sheet has
+    /// one row. -1 on failure.
     [[nodiscard]] int usedRowCount();
 
-    /// The row that the used range begins with; -1 on failure.
+    /// The first row of the used range; -1 on failure.
     [[nodiscard]] int firstUsedRow();
 
-    /// What a cell holds, as text: numbers with up to 15 digits, "TRUE" or "FALSE", a date as its day number,
-    /// the last result of a formula, an empty text for an empty cell. Nothing on failure.
+    /// The content of a cell as text: numbers with up to 15 digits, "TRUE" or "FALSE", a date as its day
+    /// number, the last result of a formula, an empty text for an empty cell. Nothing on failure.
     [[nodiscard]] std::optional<QString> cellText(int row, int column);
 
-    /// Writes a cell as text, so that "007" stays as it is. At most 32,767 characters.
+    /// Writes a cell as text, so that "007" is not converted to a number. At most 32,767 characters.
     bool setCellText(int row, int column, const QString &text);
 
-    /// Makes one cell of a range. The text of its first cell stays, the others lose theirs. Fails when it
-    /// overlaps a merged range other than itself.
+    /// Merges a range. The text of its first cell is kept, the other texts are removed. Fails when it
+    /// overlaps another merged range.
     bool mergeCells(const sheets::CellRange &range);
 
     bool setWrapText(const sheets::CellRange &range, bool on);
@@ -68,18 +68,17 @@ public:
     /// Between 0 and 409 points.
     bool setRowHeight(int row, double points);
 
-    /// Writes the workbook to the file that it was opened from or last saved as. The file is replaced as a
-    /// whole; on failure it is as it was.
+    /// Writes the workbook to the file that it was opened from or last saved as. On failure the file is
+    /// unchanged.
     bool save();
 
-    /// Writes the workbook to a file, which is replaced as a whole if it is there, and on failure is as it
-    /// was.
+    /// Writes the workbook to a file, which is replaced if it exists. On failure the file is unchanged.
     bool saveAs(const QString &path);
 
-    /// Drops the workbook and ends the spreadsheet application. The object can be used again.
+    /// Closes the workbook without saving and ends the spreadsheet application. The object can be used again.
     void quit();
 
-    /// Why the last failed operation failed, in words for the log. Empty when none has failed.
+    /// The reason of the last failure, for the log. Empty when no operation has failed.
     [[nodiscard]] QString errorText() const { return m_errorText; }
 
 private:

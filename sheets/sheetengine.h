@@ -8,18 +8,18 @@
 
 namespace sheets {
 
-/// Rows that hold something: where they begin and how many there are.
+/// The range of used rows: its first row and the number of rows.
 struct UsedRows
 {
     int first = 0;
     int count = 0;
 };
 
-/// One workbook at a time, as QExcel needs it. Whoever calls has checked that places lie in a sheet, texts
-/// are not too long and a workbook is there.
+/// The back end of QExcel; it has one workbook at a time. The caller checks that positions are in a sheet,
+/// that texts are not too long and that there is a workbook.
 ///
-/// An operation returns false, or nothing, when it failed, and leaves the reason in `errorText()`.
-/// Not thread-safe; an object is used on the thread that made it.
+/// On failure an operation returns false or nothing, and `errorText()` has the reason. Not thread-safe; an
+/// object is used on the thread that created it.
 class SheetEngine : public LastError
 {
 public:
@@ -28,27 +28,27 @@ public:
     SheetEngine &operator=(const SheetEngine &) = delete;
     virtual ~SheetEngine() = default;
 
-    /// Begins a workbook with one empty sheet, which is picked.
+    /// Creates a workbook with one empty sheet, which is selected.
     virtual bool createWorkbook() = 0;
 
-    /// Opens the file, whose path is absolute, and picks its first sheet.
+    /// Opens the file, whose path is absolute, and selects its first sheet.
     virtual bool open(const QString &path) = 0;
 
     virtual bool selectSheet(int index) = 0;
     [[nodiscard]] virtual std::optional<UsedRows> usedRows() = 0;
-    [[nodiscard]] virtual std::optional<QString> cellText(CellPlace place) = 0;
-    virtual bool setCellText(CellPlace place, const QString &text) = 0;
+    [[nodiscard]] virtual std::optional<QString> cellText(CellPosition position) = 0;
+    virtual bool setCellText(CellPosition position, const QString &text) = 0;
     virtual bool mergeCells(const CellRange &range) = 0;
     virtual bool changeFormat(const CellRange &range, const FormatChange &change) = 0;
     virtual bool setRowHeight(int row, double points) = 0;
 
-    /// Writes the workbook to the file that it came from or was last saved to.
+    /// Writes the workbook to the file that it was opened from or last saved to.
     virtual bool save() = 0;
 
-    /// Writes the workbook to the file, whose path is absolute, in place of what is there.
+    /// Writes the workbook to the file, whose path is absolute. An existing file is replaced.
     virtual bool saveAs(const QString &path) = 0;
 
-    /// Drops the workbook with all that was not saved, and whatever the engine holds beside it.
+    /// Closes the workbook without saving, and releases all other resources of the engine.
     virtual void quit() = 0;
 };
 

@@ -13,7 +13,7 @@ std::unique_ptr<SheetEngine> makeSheetEngine()
 #ifdef Q_OS_WIN
     if (auto application = std::make_unique<ApplicationSheetEngine>(); application->isAvailable())
         return application;
-    qCDebug(logSheets) << "no spreadsheet application, working on the file itself";
+    qCDebug(logSheets) << "no spreadsheet application, the file format engine is used";
 #endif
     return std::make_unique<FileSheetEngine>();
 }

@@ -30,7 +30,7 @@ std::optional<qint64> wholeNumber(const QString &cellText)
     constexpr double largest = 1e9;
     bool isNumber = false;
     const double number = cellText.trimmed().toDouble(&isNumber);
-    if (!isNumber || !(std::abs(number) <= largest)) // "nan" is neither
+    if (!isNumber || !(std::abs(number) <= largest)) // also rejects "nan"
         return std::nullopt;
     return static_cast<qint64>(number);
 }

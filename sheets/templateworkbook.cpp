@@ -39,7 +39,7 @@ private:
         return workbook_add_worksheet(m_workbook, name.toUtf8().constData());
     }
 
-    static void put(lxw_worksheet *sheet, int row, int column, const QString &text, lxw_format *format)
+    static void writeText(lxw_worksheet *sheet, int row, int column, const QString &text, lxw_format *format)
     {
         worksheet_write_string(sheet, static_cast<lxw_row_t>(row), static_cast<lxw_col_t>(column),
                                text.toUtf8().constData(), format);
@@ -50,11 +50,11 @@ private:
         lxw_worksheet *sheet = addSheet(m_content.sheet);
         for (int column = 0; column < m_content.columns.size(); ++column) {
             const TemplateWorkbook::Column &content = m_content.columns.at(column);
-            const auto place = static_cast<lxw_col_t>(column);
-            worksheet_set_column(sheet, place, place, content.width, m_text);
-            put(sheet, 0, column, content.title, m_bold);
+            const auto index = static_cast<lxw_col_t>(column);
+            worksheet_set_column(sheet, index, index, content.width, m_text);
+            writeText(sheet, 0, column, content.title, m_bold);
             if (!content.example.isEmpty())
-                put(sheet, 1, column, content.example, m_text);
+                writeText(sheet, 1, column, content.example, m_text);
         }
         worksheet_freeze_panes(sheet, 1, 0);
     }
@@ -66,17 +66,17 @@ private:
         lxw_worksheet *sheet = addSheet(m_content.explanationSheet);
         worksheet_set_column(sheet, 0, 0, titleWidth, nullptr);
         worksheet_set_column(sheet, 1, 1, meaningWidth, nullptr);
-        put(sheet, 0, 0, m_content.columnTitle, m_bold);
-        put(sheet, 0, 1, m_content.meaningTitle, m_bold);
+        writeText(sheet, 0, 0, m_content.columnTitle, m_bold);
+        writeText(sheet, 0, 1, m_content.meaningTitle, m_bold);
         int row = 1;
         for (const TemplateWorkbook::Column &column : m_content.columns) {
-            put(sheet, row, 0, column.title, m_wrapped);
-            put(sheet, row, 1, column.meaning, m_wrapped);
+            writeText(sheet, row, 0, column.title, m_wrapped);
+            writeText(sheet, row, 1, column.meaning, m_wrapped);
             ++row;
         }
         ++row; // an empty one between
         for (const QString &remark : m_content.remarks)
-            put(sheet, row++, 1, remark, m_wrapped);
+            writeText(sheet, row++, 1, remark, m_wrapped);
     }
 
     const TemplateWorkbook &m_content;

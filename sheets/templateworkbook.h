@@ -1,4 +1,4 @@
-// Workbooks that users begin from: a sheet to fill in, and one that says what its columns mean.
+// Template workbooks: a sheet to fill in, and a sheet with the explanations of its columns.
 #pragma once
 
 #include <QList>
@@ -27,14 +27,14 @@ struct TemplateWorkbook
 /// False when the file cannot be written.
 [[nodiscard]] bool writeTemplateWorkbook(const QString &path, const TemplateWorkbook &content);
 
-/// What a template is called and holds, in the language of the translator that is installed.
+/// The file name and the content of a template, in the language of the installed translator.
 struct NamedTemplate
 {
     QString fileName;
     TemplateWorkbook content;
 };
 
-/// The main function of a program of the build, "PROGRAM TRANSLATION FOLDER", which writes a template in the
-/// language of a translation file. Returns the exit code.
+/// The main function of a build tool, "PROGRAM TRANSLATION FOLDER", which writes a template in the language
+/// of a translation file. Returns the exit code.
 [[nodiscard]] int writeTranslatedTemplate(int argc, char *argv[],
                                           const std::function<NamedTemplate()> &makeTemplate);

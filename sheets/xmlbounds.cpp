@@ -4,7 +4,7 @@ namespace sheets {
 
 namespace {
 
-// As the parser allocates them.
+// Sizes of the parser's allocations.
 constexpr qint64 nodeSize = 64; // of an element, a text or a comment
 constexpr qint64 attributeSize = 40;
 

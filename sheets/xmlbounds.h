@@ -1,4 +1,4 @@
-// What an XML document may cost before it is parsed as a whole.
+// Resource limits of an XML document, checked before it is parsed.
 #pragma once
 
 #include <QByteArrayView>
@@ -7,7 +7,7 @@
 
 namespace sheets {
 
-/// At least the bytes of memory that a document of this text takes once it is parsed, the text included. A
+/// An upper bound of the memory, in bytes, of a parsed document with this text, including the text. A
 /// document can be sixteen times as large as its text.
 [[nodiscard]] qint64 neededXmlMemory(QByteArrayView text);
 

@@ -18,7 +18,7 @@ int hexDigit(QChar character)
     return capital >= u'A' && capital <= u'F' ? capital - u'A' + 10 : -1;
 }
 
-/// The character that the escape at `at` stands for, if there is one.
+/// The character of the escape sequence at `at`, if there is one.
 std::optional<char16_t> escapeAt(QStringView text, qsizetype at)
 {
     if (text.size() - at < escapeLength || text[at] != QLatin1Char('_') || text[at + 1] != QLatin1Char('x') ||
@@ -34,7 +34,8 @@ std::optional<char16_t> escapeAt(QStringView text, qsizetype at)
     return char16_t(value);
 }
 
-/// True for what XML cannot hold, and for the carriage return, which it turns into a line feed.
+/// True for characters that XML cannot contain, and for the carriage return, which XML converts to a line
+/// feed.
 bool needsEscape(QStringView text, qsizetype at)
 {
     const char16_t character = text[at].unicode();
@@ -89,7 +90,7 @@ bool fitsCell(const QString &text)
 
 QString numberText(double value)
 {
-    // A value that rounds to nothing must not be shown with a sign.
+    // A value that is rounded to zero is shown without a sign.
     return value == 0 ? QStringLiteral("0") : QString::number(value, 'G', 15);
 }
 

@@ -1,15 +1,15 @@
-// Texts of cells: how the file format spells them, and how values are shown.
+// Texts of cells: their escaped form in the file format, and the display of values.
 #pragma once
 
 #include <QString>
 
 namespace sheets {
 
-/// The text as the file holds it: characters that XML cannot carry as "_xHHHH_", and what looks like one of
-/// these with its own first underscore spelled that way.
+/// The escaped text for the file: characters that XML cannot contain are written as "_xHHHH_". In a text that
+/// looks like such a sequence, the first underscore is escaped.
 [[nodiscard]] QString escapedCellText(const QString &text);
 
-/// The text that `escaped` spells.
+/// The text of the escaped form `escaped`.
 [[nodiscard]] QString unescapedCellText(const QString &escaped);
 
 /// True for a text that is short enough for a cell.
@@ -18,7 +18,7 @@ namespace sheets {
 /// A number with up to 15 digits, as a sheet shows it: binary fractions are stored with 17.
 [[nodiscard]] QString numberText(double value);
 
-/// A truth value as a sheet shows it.
+/// A boolean as a sheet shows it.
 [[nodiscard]] QString truthText(bool value);
 
 } // namespace sheets

@@ -103,10 +103,10 @@ bool NewWorkbook::accepts(const CellRange &range) const
     return m_workbook && range.first.row == range.last.row && range.first.row >= m_row;
 }
 
-void NewWorkbook::setCellText(CellPlace place, const QString &text)
+void NewWorkbook::setCellText(CellPosition position, const QString &text)
 {
-    beginRow(place.row);
-    Cell &cell = m_cells[place.column];
+    beginRow(position.row);
+    Cell &cell = m_cells[position.column];
     cell.text = text;
     cell.format.isText = true;
 }
@@ -184,8 +184,8 @@ void NewWorkbook::writeCell(int column, const Cell &cell)
         return; // an empty cell with the default format
     ++m_cellCount;
     const QByteArray text = escapedCellText(cell.text.value_or(QString())).toUtf8();
-    noteError(worksheet_write_string(m_sheet, libraryRow(m_row), libraryColumn(column), text.constData(),
-                                     format));
+    noteError(
+        worksheet_write_string(m_sheet, libraryRow(m_row), libraryColumn(column), text.constData(), format));
 }
 
 /// Null for the default format.

@@ -17,8 +17,8 @@ struct lxw_worksheet;
 
 namespace sheets {
 
-/// A new workbook with one sheet, whose rows are written in ascending order. The memory does not grow with the
-/// number of rows: the current row is in memory, and the rows before it are in temporary files of
+/// A new workbook with one sheet, whose rows are written in ascending order. The memory does not grow with
+/// the number of rows: the current row is in memory, and the rows before it are in temporary files of
 /// libxlsxwriter.
 ///
 /// Rows and cells are checked by the caller. An error of a temporary file is reported by build().
@@ -33,12 +33,12 @@ public:
     /// Creates the temporary files. Fails when the system has no place for them.
     bool create();
 
-    /// True when all cells of the range can still be written: they are in one row, which is the current row or
-    /// a later one, and the workbook is not built. The four operations below are for such ranges only. They
-    /// make the range's row the current one.
+    /// True when all cells of the range can still be written: they are in one row, which is the current row
+    /// or a later one, and the workbook is not built. The four operations below are for such ranges only.
+    /// They make the range's row the current one.
     [[nodiscard]] bool accepts(const CellRange &range) const;
 
-    void setCellText(CellPlace place, const QString &text);
+    void setCellText(CellPosition position, const QString &text);
 
     /// False when the range overlaps another merged range of its row; nothing is changed then.
     bool mergeCells(const CellRange &range);
@@ -47,8 +47,8 @@ public:
     /// `points` is above 0.
     void setRowHeight(int row, double points);
 
-    /// The bytes of the workbook's file. The first call ends the writing of rows; further calls return the same
-    /// bytes. Fails when a temporary file could not be written completely.
+    /// The bytes of the workbook's file. The first call ends the writing of rows; further calls return the
+    /// same bytes. Fails when a temporary file could not be written completely.
     bool build(QByteArray &file);
 
 private:

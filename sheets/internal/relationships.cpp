@@ -11,14 +11,14 @@ namespace {
 
 const QString contentTypesName = QStringLiteral("[Content_Types].xml");
 
-/// The part that `target` names, seen from `folder`.
+/// The name of the part `target`, which is relative to `folder`.
 QString resolvedPart(const QString &folder, const QString &target)
 {
     const bool isAbsolute = target.startsWith(QLatin1Char('/'));
     return QDir::cleanPath(isAbsolute ? target : QLatin1Char('/') + folder + target).sliced(1);
 }
 
-/// Changes the list of content types with `change`, which gets its root element.
+/// Changes the list of content types by `change`, whose argument is the root element.
 template<typename Change>
 bool changeContentTypes(ZipPackage &package, const Change &change)
 {
@@ -108,7 +108,7 @@ bool Relationships::addPart(ZipPackage &package, const QString &fileName, QLatin
     QString id;
     for (int number = 1; id.isEmpty() || targetById(id); ++number)
         id = QStringLiteral("rId%1").arg(number);
-    // The same dialect as the relationships that are there.
+    // The same dialect as the existing relationships.
     const QString known =
         QString::fromUtf8(childNamed(m_document.root(), "Relationship").attribute("Type").value());
     const QString address = known.first(known.lastIndexOf(QLatin1Char('/')) + 1) + type;

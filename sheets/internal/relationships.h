@@ -17,11 +17,11 @@ public:
     struct Target
     {
         QString id;
-        QString type; ///< last word of the type's address, which differs between the dialects of the format
+        QString type; ///< last segment of the type's URI, which differs between the dialects of the format
         QString part; ///< name of the part
     };
 
-    /// Reads the relationships of `part`, which is empty for those of the whole file.
+    /// Reads the relationships of `part`; an empty name stands for the relationships of the package.
     bool load(ZipPackage &package, const QString &part);
 
     [[nodiscard]] const QList<Target> &targets() const { return m_targets; }
@@ -30,10 +30,10 @@ public:
     [[nodiscard]] std::optional<QString> partOfType(QLatin1String type) const;
     [[nodiscard]] std::optional<Target> targetById(const QString &id) const;
 
-    /// Takes a part out of the relationships, the list of content types and the file.
+    /// Removes a part from the relationships, the list of content types and the file.
     bool removePart(ZipPackage &package, const QString &part);
 
-    /// Adds a part in the folder of the one whose relationships these are.
+    /// Adds a part in the folder of the part whose relationships these are.
     bool addPart(ZipPackage &package, const QString &fileName, QLatin1String type, QLatin1String contentType,
                  const QByteArray &bytes);
 

@@ -7,13 +7,13 @@
 
 namespace sheets {
 
-/// The texts that cells of a workbook refer to by number.
+/// The shared strings of a workbook, which cells refer to by index.
 class SharedStrings : public LastError
 {
 public:
     bool load(const QByteArray &bytes);
 
-    /// The text with that number, counted from 0; empty when there is none.
+    /// The string at `index`, from 0; empty for an invalid index.
     [[nodiscard]] QString text(qsizetype index) const { return m_texts.value(index); }
 
 private:

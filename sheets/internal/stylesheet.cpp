@@ -6,7 +6,7 @@ namespace sheets {
 
 namespace {
 
-constexpr int textNumberFormat = 49; // "@", one of the formats that every reader knows
+constexpr int textNumberFormat = 49; // "@", one of the built-in formats
 
 std::vector<pugi::xml_node> childrenNamed(pugi::xml_node parent, std::string_view name)
 {
@@ -16,7 +16,7 @@ std::vector<pugi::xml_node> childrenNamed(pugi::xml_node parent, std::string_vie
     return found;
 }
 
-/// True for a font's property that is there and not switched off.
+/// True for a font's property that exists and is not switched off.
 bool isSet(pugi::xml_node property)
 {
     const pugi::xml_attribute value = property.attribute("val");
@@ -49,65 +49,65 @@ bool StyleSheet::load(const QByteArray &bytes)
 {
     if (!m_part.parse(bytes, "styleSheet"))
         return fail(m_part.errorText());
-    m_lookList = childNamed(m_part.root(), "cellXfs");
+    m_cellFormatList = childNamed(m_part.root(), "cellXfs");
     m_fontList = childNamed(m_part.root(), "fonts");
-    m_looks = childrenNamed(m_lookList, "xf");
+    m_cellFormats = childrenNamed(m_cellFormatList, "xf");
     m_fonts = childrenNamed(m_fontList, "font");
     m_known.clear();
     m_isModified = false;
-    return (!m_looks.empty() && !m_fonts.empty()) ||
+    return (!m_cellFormats.empty() && !m_fonts.empty()) ||
            fail(QStringLiteral("it has no cell formats or no fonts"));
 }
 
 int StyleSheet::changed(int base, const FormatChange &change)
 {
-    if (base < 0 || std::size_t(base) >= m_looks.size())
+    if (base < 0 || std::size_t(base) >= m_cellFormats.size())
         base = 0;
     const auto [known, isNew] = m_known.try_emplace({base, change}, base);
-    if (!isNew || hasAll(m_looks[std::size_t(base)], change))
+    if (!isNew || hasAll(m_cellFormats[std::size_t(base)], change))
         return known->second;
 
-    pugi::xml_node look = m_lookList.append_copy(m_looks[std::size_t(base)]);
+    pugi::xml_node format = m_cellFormatList.append_copy(m_cellFormats[std::size_t(base)]);
     if (change.isText) {
-        setAttribute(look, "numFmtId", *change.isText ? textNumberFormat : 0);
-        setAttribute(look, "applyNumberFormat", 1);
+        setAttribute(format, "numFmtId", *change.isText ? textNumberFormat : 0);
+        setAttribute(format, "applyNumberFormat", 1);
     }
     if (change.bold || change.fontSize) {
-        setAttribute(look, "fontId", changedFont(fontOf(look), change));
-        setAttribute(look, "applyFont", 1);
+        setAttribute(format, "fontId", changedFont(fontOf(format), change));
+        setAttribute(format, "applyFont", 1);
     }
     if (change.wrap) {
-        pugi::xml_node alignment = childNamed(look, "alignment");
+        pugi::xml_node alignment = childNamed(format, "alignment");
         if (!alignment)
-            alignment = look.prepend_child(nameLike(look, "alignment").c_str());
+            alignment = format.prepend_child(nameLike(format, "alignment").c_str());
         setAttribute(alignment, "wrapText", *change.wrap);
-        setAttribute(look, "applyAlignment", 1);
+        setAttribute(format, "applyAlignment", 1);
     }
-    known->second = int(m_looks.size());
-    m_looks.push_back(look);
-    setAttribute(m_lookList, "count", int(m_looks.size()));
+    known->second = int(m_cellFormats.size());
+    m_cellFormats.push_back(format);
+    setAttribute(m_cellFormatList, "count", int(m_cellFormats.size()));
     m_isModified = true;
     return known->second;
 }
 
-/// True for a look that the change would leave as it is.
-bool StyleSheet::hasAll(pugi::xml_node look, const FormatChange &change) const
+/// True for a cell format that the change would not alter.
+bool StyleSheet::hasAll(pugi::xml_node format, const FormatChange &change) const
 {
-    const pugi::xml_node font = fontOf(look);
-    if (change.isText && *change.isText != (look.attribute("numFmtId").as_int() == textNumberFormat))
+    const pugi::xml_node font = fontOf(format);
+    if (change.isText && *change.isText != (format.attribute("numFmtId").as_int() == textNumberFormat))
         return false;
-    if (change.wrap && *change.wrap != isOn(childNamed(look, "alignment").attribute("wrapText")))
+    if (change.wrap && *change.wrap != isOn(childNamed(format, "alignment").attribute("wrapText")))
         return false;
     if (change.bold && *change.bold != isSet(childNamed(font, "b")))
         return false;
-    // Not the parser's own numbers, which follow the decimal point of the user's country.
+    // The parser's conversion of numbers is not used, since it depends on the locale's decimal point.
     return !change.fontSize ||
            *change.fontSize == QByteArray(childNamed(font, "sz").attribute("val").value()).toDouble();
 }
 
-pugi::xml_node StyleSheet::fontOf(pugi::xml_node look) const
+pugi::xml_node StyleSheet::fontOf(pugi::xml_node format) const
 {
-    const auto index = std::size_t(look.attribute("fontId").as_uint());
+    const auto index = std::size_t(format.attribute("fontId").as_uint());
     return m_fonts[index < m_fonts.size() ? index : 0];
 }
 

@@ -8,30 +8,30 @@
 
 namespace sheets {
 
-/// The looks that cells of a workbook refer to by number.
+/// The cell formats of a workbook, which cells refer to by index.
 class StyleSheet : public LastError
 {
 public:
-    /// A style sheet with nothing but the look of an untouched cell.
+    /// A style sheet with only the default cell format.
     [[nodiscard]] static QByteArray smallest(const QByteArray &nameSpace);
 
     bool load(const QByteArray &bytes);
 
-    /// The number of the look that is `base` but for the change, which is added when there is none yet.
+    /// The index of the cell format `base` with the change applied; the format is added if it is missing.
     [[nodiscard]] int changed(int base, const FormatChange &change);
 
     [[nodiscard]] bool isModified() const { return m_isModified; }
     [[nodiscard]] QByteArray bytes() { return m_part.bytes(); }
 
 private:
-    [[nodiscard]] bool hasAll(pugi::xml_node look, const FormatChange &change) const;
-    [[nodiscard]] pugi::xml_node fontOf(pugi::xml_node look) const;
+    [[nodiscard]] bool hasAll(pugi::xml_node format, const FormatChange &change) const;
+    [[nodiscard]] pugi::xml_node fontOf(pugi::xml_node format) const;
     [[nodiscard]] int changedFont(pugi::xml_node font, const FormatChange &change);
 
     XmlPart m_part;
-    pugi::xml_node m_lookList;
+    pugi::xml_node m_cellFormatList;
     pugi::xml_node m_fontList;
-    std::vector<pugi::xml_node> m_looks;
+    std::vector<pugi::xml_node> m_cellFormats;
     std::vector<pugi::xml_node> m_fonts;
     std::map<std::pair<int, FormatChange>, int> m_known; ///< results of earlier calls
     bool m_isModified = false;

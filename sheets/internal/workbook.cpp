@@ -6,7 +6,7 @@ namespace sheets {
 
 namespace {
 
-/// The value of an attribute that has a prefix, whichever.
+/// The value of an attribute with any prefix.
 QString prefixedAttribute(pugi::xml_node node, std::string_view name)
 {
     for (const pugi::xml_attribute attribute : node.attributes()) {
@@ -28,7 +28,7 @@ bool Workbook::load(const QByteArray &file)
         return fail(ofFile.errorText());
     const auto part = ofFile.partOfType(QLatin1String("officeDocument"));
     if (!part)
-        return fail(QStringLiteral("the file holds no workbook"));
+        return fail(QStringLiteral("the file contains no workbook"));
     QByteArray bytes;
     if (!m_package.read(*part, bytes))
         return fail(m_package.errorText());
@@ -47,7 +47,7 @@ bool Workbook::findSheets(pugi::xml_node workbook)
         declared.empty() ? "xmlns" : "xmlns:" + declared.substr(0, declared.size() - 1);
     m_nameSpace = workbook.attribute(attribute.c_str()).value();
     for (const pugi::xml_node sheet : childNamed(workbook, "sheets").children()) {
-        // Sheets that are one chart have relationships of another type, and no cells.
+        // Chart sheets have relationships of another type, and no cells.
         const auto target = m_relationships.targetById(prefixedAttribute(sheet, "id"));
         if (target && target->type == QLatin1String("worksheet"))
             m_sheetParts.append(target->part);
@@ -59,7 +59,7 @@ bool Workbook::loadStrings()
 {
     const auto part = m_relationships.partOfType(QLatin1String("sharedStrings"));
     if (!part)
-        return true; // all texts stand in their cells
+        return true; // all texts are in their cells
     QByteArray bytes;
     if (!m_package.read(*part, bytes))
         return fail(m_package.errorText());
@@ -91,14 +91,14 @@ UsedRows Workbook::usedRows() const
     return m_sheet->usedRows();
 }
 
-QString Workbook::cellText(CellPlace place) const
+QString Workbook::cellText(CellPosition position) const
 {
-    return m_sheet->cellText(place, m_strings);
+    return m_sheet->cellText(position, m_strings);
 }
 
-bool Workbook::setCellText(CellPlace place, const QString &text)
+bool Workbook::setCellText(CellPosition position, const QString &text)
 {
-    return needStyles() && (m_sheet->setCellText(place, text, *m_styles) || fail(m_sheet->errorText()));
+    return needStyles() && (m_sheet->setCellText(position, text, *m_styles) || fail(m_sheet->errorText()));
 }
 
 bool Workbook::mergeCells(const CellRange &range)
@@ -129,7 +129,7 @@ bool Workbook::build(QByteArray &file)
     return m_package.build(file) || fail(m_package.errorText());
 }
 
-/// Reads the style sheet, or begins one in a workbook that has none.
+/// Reads the style sheet, or creates one in a workbook without a style sheet.
 bool Workbook::needStyles()
 {
     if (m_styles)
@@ -154,13 +154,13 @@ bool Workbook::needStyles()
     return true;
 }
 
-/// Puts the sheet that is picked into the package.
+/// Writes the selected sheet to the package.
 bool Workbook::storeSheet()
 {
     if (!m_sheet || !m_sheet->isModified())
         return true;
     m_package.replace(m_sheetPart, m_sheet->bytes());
-    // The order in which formulas are worked out names those that are gone; it is an aid and is made anew.
+    // The calculation chain contains removed formulas. It is optional, and applications create it again.
     if (const auto chain = m_relationships.partOfType(QLatin1String("calcChain"));
         chain && m_sheet->hasLostFormulas())
         return m_relationships.removePart(m_package, *chain) || fail(m_relationships.errorText());

@@ -12,23 +12,23 @@
 
 namespace sheets {
 
-/// The file engine's workbook, from the bytes of a file. Only the sheet that is picked is held as a document;
-/// changes of another one stand in the package. Operations as in SheetEngine.
+/// The file engine's workbook, from the bytes of a file. Only the selected sheet is in memory as a document;
+/// changes of other sheets are in the package. Operations as in SheetEngine.
 class Workbook : public LastError
 {
 public:
-    /// Takes the bytes of a file and finds its sheets. No sheet is picked.
+    /// Reads the bytes of a file and finds its sheets. No sheet is selected.
     bool load(const QByteArray &file);
 
     bool selectSheet(int index);
     [[nodiscard]] UsedRows usedRows() const;
-    [[nodiscard]] QString cellText(CellPlace place) const;
-    bool setCellText(CellPlace place, const QString &text);
+    [[nodiscard]] QString cellText(CellPosition position) const;
+    bool setCellText(CellPosition position, const QString &text);
     bool mergeCells(const CellRange &range);
     bool changeFormat(const CellRange &range, const FormatChange &change);
     bool setRowHeight(int row, double points);
 
-    /// The bytes of the file that the workbook makes.
+    /// Sets `file` to the bytes of the workbook's file.
     bool build(QByteArray &file);
 
 private:
@@ -42,9 +42,9 @@ private:
     QByteArray m_nameSpace;        ///< of the workbook's dialect
     QStringList m_sheetParts;
     SharedStrings m_strings;
-    std::unique_ptr<StyleSheet> m_styles; ///< once something needs it
+    std::unique_ptr<StyleSheet> m_styles; ///< null until it is needed
     QString m_stylesPart;
-    std::unique_ptr<Worksheet> m_sheet; ///< the one that is picked
+    std::unique_ptr<Worksheet> m_sheet; ///< the selected sheet
     QString m_sheetPart;
 };
 

@@ -24,7 +24,8 @@ QString shownNumber(const QString &text)
     return isNumber ? numberText(value) : text;
 }
 
-/// True for a text that begins or ends with space, which readers may drop unless they are told to keep it.
+/// True for a text that starts or ends with a space, which readers may remove without the attribute
+/// xml:space.
 bool hasOuterSpace(const QString &text)
 {
     return text.front().isSpace() || text.back().isSpace();
@@ -51,9 +52,9 @@ bool Worksheet::load(const QByteArray &bytes)
     return m_rows.load(m_data) || fail(m_rows.errorText());
 }
 
-QString Worksheet::cellText(CellPlace place, const SharedStrings &strings) const
+QString Worksheet::cellText(CellPosition position, const SharedStrings &strings) const
 {
-    const pugi::xml_node cell = m_rows.cell(place);
+    const pugi::xml_node cell = m_rows.cell(position);
     const std::string_view type = cell.attribute("t").value();
     if (type == "s") {
         bool isNumber = false;
@@ -70,12 +71,12 @@ QString Worksheet::cellText(CellPlace place, const SharedStrings &strings) const
     return type.empty() || type == "n" ? shownNumber(text) : text; // errors and dates as they are
 }
 
-bool Worksheet::setCellText(CellPlace place, const QString &text, StyleSheet &styles)
+bool Worksheet::setCellText(CellPosition position, const QString &text, StyleSheet &styles)
 {
-    pugi::xml_node cell = m_rows.cell(place);
+    pugi::xml_node cell = m_rows.cell(position);
     if (!cell)
-        cell = addCell(place);
-    else if (checkFormula(place, cell))
+        cell = addCell(position);
+    else if (checkFormula(position, cell))
         clearCell(cell);
     else
         return false;
@@ -87,7 +88,7 @@ bool Worksheet::setCellText(CellPlace place, const QString &text, StyleSheet &st
             content.append_attribute("xml:space").set_value("preserve");
         content.append_child(pugi::node_pcdata).set_value(escapedCellText(text).toUtf8().constData());
     }
-    setLook(cell, {.isText = true, .wrap = {}, .bold = {}, .fontSize = {}}, styles);
+    setFormat(cell, {.isText = true, .wrap = {}, .bold = {}, .fontSize = {}}, styles);
     return true;
 }
 
@@ -99,16 +100,16 @@ bool Worksheet::mergeCells(const CellRange &range)
                                               .arg(rangeText(range), rangeText(other)));
     }
     bool canClear = true;
-    const auto isKept = [&range](CellPlace place) {
-        return place == range.first;
+    const auto isKept = [&range](CellPosition position) {
+        return position == range.first;
     };
-    m_rows.forEachCell(range, [&](CellPlace place, pugi::xml_node cell) {
-        canClear = canClear && (isKept(place) || checkFormula(place, cell));
+    m_rows.forEachCell(range, [&](CellPosition position, pugi::xml_node cell) {
+        canClear = canClear && (isKept(position) || checkFormula(position, cell));
     });
     if (!canClear)
         return false;
-    m_rows.forEachCell(range, [&](CellPlace place, pugi::xml_node cell) {
-        if (!isKept(place))
+    m_rows.forEachCell(range, [&](CellPosition position, pugi::xml_node cell) {
+        if (!isKept(position))
             clearCell(cell);
     });
     m_merged.append(range);
@@ -124,7 +125,7 @@ void Worksheet::changeFormat(const CellRange &range, const FormatChange &change,
 {
     for (int row = range.first.row; row <= range.last.row; ++row) {
         for (int column = range.first.column; column <= range.last.column; ++column)
-            setLook(makeCell({row, column}), change, styles);
+            setFormat(makeCell({row, column}), change, styles);
     }
 }
 
@@ -147,18 +148,18 @@ QByteArray Worksheet::bytes()
     return m_part.bytes();
 }
 
-/// False for a formula that other cells depend on: it cannot go without them.
-bool Worksheet::checkFormula(CellPlace place, pugi::xml_node cell)
+/// False for a formula that other cells share: it cannot be removed without them.
+bool Worksheet::checkFormula(CellPosition position, pugi::xml_node cell)
 {
     const pugi::xml_attribute reference = childNamed(cell, "f").attribute("ref");
     if (!reference)
         return true;
     const auto range = cellRange(QString::fromUtf8(reference.value()));
     return (range && range->cellCount() == 1) ||
-           fail(QStringLiteral("the formula in %1 is shared with other cells").arg(placeText(place)));
+           fail(QStringLiteral("the formula in %1 is shared with other cells").arg(positionText(position)));
 }
 
-/// Takes away what the cell holds, but not its look.
+/// Removes the content of the cell, but not its format.
 void Worksheet::clearCell(pugi::xml_node cell)
 {
     m_hasLostFormulas = m_hasLostFormulas || childNamed(cell, "f");
@@ -168,23 +169,23 @@ void Worksheet::clearCell(pugi::xml_node cell)
     m_isModified = true;
 }
 
-pugi::xml_node Worksheet::makeCell(CellPlace place)
+pugi::xml_node Worksheet::makeCell(CellPosition position)
 {
-    const pugi::xml_node cell = m_rows.cell(place);
-    return cell ? cell : addCell(place);
+    const pugi::xml_node cell = m_rows.cell(position);
+    return cell ? cell : addCell(position);
 }
 
-pugi::xml_node Worksheet::addCell(CellPlace place)
+pugi::xml_node Worksheet::addCell(CellPosition position)
 {
-    const int look = lookOfEmptyCell(place);
-    pugi::xml_node cell = m_rows.makeCell(place);
-    if (look != 0)
-        cell.append_attribute("s").set_value(look);
+    const int format = formatOfEmptyCell(position);
+    pugi::xml_node cell = m_rows.makeCell(position);
+    if (format != 0)
+        cell.append_attribute("s").set_value(format);
     m_isModified = m_hasNewCells = true;
     return cell;
 }
 
-void Worksheet::setLook(pugi::xml_node cell, const FormatChange &change, StyleSheet &styles)
+void Worksheet::setFormat(pugi::xml_node cell, const FormatChange &change, StyleSheet &styles)
 {
     const int before = cell.attribute("s").as_int();
     const int after = styles.changed(before, change);
@@ -194,20 +195,20 @@ void Worksheet::setLook(pugi::xml_node cell, const FormatChange &change, StyleSh
     m_isModified = true;
 }
 
-/// The look of a cell that is not there: that of its row, if it has one, or of its column.
-int Worksheet::lookOfEmptyCell(CellPlace place) const
+/// The format of a missing cell: the format of its row, if any, otherwise of its column.
+int Worksheet::formatOfEmptyCell(CellPosition position) const
 {
-    if (const pugi::xml_node row = m_rows.row(place.row); isOn(row.attribute("customFormat")))
+    if (const pugi::xml_node row = m_rows.row(position.row); isOn(row.attribute("customFormat")))
         return row.attribute("s").as_int();
     for (const pugi::xml_node column : m_columns.children()) {
-        if (column.attribute("min").as_int() <= place.column &&
-            place.column <= column.attribute("max").as_int())
+        if (column.attribute("min").as_int() <= position.column &&
+            position.column <= column.attribute("max").as_int())
             return column.attribute("style").as_int();
     }
     return 0;
 }
 
-/// The list of merged cells, which has its place between certain others.
+/// The list of merged cells; the schema defines its position among the other elements.
 pugi::xml_node Worksheet::makeMergeList()
 {
     if (const pugi::xml_node list = childNamed(m_part.root(), "mergeCells"))

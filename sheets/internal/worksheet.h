@@ -17,11 +17,11 @@ public:
     bool load(const QByteArray &bytes);
 
     [[nodiscard]] UsedRows usedRows() const { return m_rows.usedRows(); }
-    [[nodiscard]] QString cellText(CellPlace place, const SharedStrings &strings) const;
+    [[nodiscard]] QString cellText(CellPosition position, const SharedStrings &strings) const;
 
-    /// Writes a text into a cell, which keeps its look but for the number format. Fails where a formula is
-    /// that other cells depend on.
-    bool setCellText(CellPlace place, const QString &text, StyleSheet &styles);
+    /// Writes a text into a cell, which keeps its format except the number format. Fails for a cell whose
+    /// formula is shared with other cells.
+    bool setCellText(CellPosition position, const QString &text, StyleSheet &styles);
     bool mergeCells(const CellRange &range);
     void changeFormat(const CellRange &range, const FormatChange &change, StyleSheet &styles);
     void setRowHeight(int row, double points);
@@ -31,17 +31,17 @@ public:
     [[nodiscard]] QByteArray bytes();
 
 private:
-    bool checkFormula(CellPlace place, pugi::xml_node cell);
+    bool checkFormula(CellPosition position, pugi::xml_node cell);
     void clearCell(pugi::xml_node cell);
-    pugi::xml_node makeCell(CellPlace place);
-    pugi::xml_node addCell(CellPlace place);
-    void setLook(pugi::xml_node cell, const FormatChange &change, StyleSheet &styles);
-    [[nodiscard]] int lookOfEmptyCell(CellPlace place) const;
+    pugi::xml_node makeCell(CellPosition position);
+    pugi::xml_node addCell(CellPosition position);
+    void setFormat(pugi::xml_node cell, const FormatChange &change, StyleSheet &styles);
+    [[nodiscard]] int formatOfEmptyCell(CellPosition position) const;
     pugi::xml_node makeMergeList();
 
     XmlPart m_part;
     pugi::xml_node m_data;
-    pugi::xml_node m_columns; ///< the looks of whole columns; null when there are none
+    pugi::xml_node m_columns; ///< the formats of columns; null when there are none
     WorksheetRows m_rows;
     QList<CellRange> m_merged;
     bool m_isModified = false;

@@ -8,7 +8,7 @@ namespace sheets {
 
 namespace {
 
-/// Where the cell of that column is in `cells`, or would be.
+/// The position of the cell of that column in `cells`, or the position to insert it.
 template<typename Cells>
 auto positionOf(Cells &cells, int column)
 {
@@ -16,7 +16,7 @@ auto positionOf(Cells &cells, int column)
                             [](const auto &cell, int wanted) { return cell.first < wanted; });
 }
 
-/// False for a cell that has only a look.
+/// False for a cell with a format only.
 bool holdsValue(pugi::xml_node cell)
 {
     return childNamed(cell, "v") || childNamed(cell, "is") || childNamed(cell, "f");
@@ -46,17 +46,17 @@ bool WorksheetRows::loadRow(int number, pugi::xml_node node)
     int column = 0;
     for (pugi::xml_node cell = childNamed(node, "c"); cell; cell = nextNamed(cell, "c")) {
         const pugi::xml_attribute written = cell.attribute("r");
-        const auto place = written ? cellPlace(QString::fromUtf8(written.value()))
-                                   : std::optional(CellPlace{number, column + 1});
-        if (!place || !place->isInSheet())
-            return fail(QStringLiteral("a cell in row %1 has the place %2")
+        const auto position = written ? cellPosition(QString::fromUtf8(written.value()))
+                                      : std::optional(CellPosition{number, column + 1});
+        if (!position || !position->isInSheet())
+            return fail(QStringLiteral("a cell in row %1 has the position %2")
                             .arg(number)
                             .arg(QString::fromUtf8(written.value())));
-        column = place->column;
-        const auto position = positionOf(row.cells, column);
-        // Of two cells in one place the first counts.
-        if (position == row.cells.end() || position->first != column)
-            row.cells.insert(position, {column, cell});
+        column = position->column;
+        const auto insertion = positionOf(row.cells, column);
+        // Of two cells at the same position, the first one is used.
+        if (insertion == row.cells.end() || insertion->first != column)
+            row.cells.insert(insertion, {column, cell});
     }
     return true;
 }
@@ -97,18 +97,18 @@ pugi::xml_node WorksheetRows::row(int number) const
     return row ? row->node : pugi::xml_node();
 }
 
-pugi::xml_node WorksheetRows::cell(CellPlace place) const
+pugi::xml_node WorksheetRows::cell(CellPosition position) const
 {
-    const Row *row = knownRow(place.row);
+    const Row *row = knownRow(position.row);
     if (!row)
         return {};
-    const auto cell = positionOf(row->cells, place.column);
-    return cell == row->cells.end() || cell->first != place.column ? pugi::xml_node() : cell->second;
+    const auto cell = positionOf(row->cells, position.column);
+    return cell == row->cells.end() || cell->first != position.column ? pugi::xml_node() : cell->second;
 }
 
 const WorksheetRows::Row *WorksheetRows::knownRow(int number) const
 {
-    // Sheets are written from top to bottom, so that it is mostly the last one.
+    // Sheets are usually written from top to bottom, so that it is the last row.
     if (m_rows.empty() || m_rows.rbegin()->first < number)
         return nullptr;
     if (m_rows.rbegin()->first == number)
@@ -134,18 +134,18 @@ WorksheetRows::Row &WorksheetRows::madeRow(int number)
     pugi::xml_node row = next == m_rows.end() ? m_data.append_child(name.c_str())
                                               : m_data.insert_child_before(name.c_str(), next->second.node);
     row.append_attribute("r").set_value(number);
-    // A row without a number takes it from the one before, which may be the new one.
+    // A row without a number follows the row before it, which may be the new one.
     if (next != m_rows.end())
         attributeOf(next->second.node, "r").set_value(next->first);
     return m_rows.emplace_hint(next, number, Row{row, {}})->second;
 }
 
-pugi::xml_node WorksheetRows::makeCell(CellPlace place)
+pugi::xml_node WorksheetRows::makeCell(CellPosition position)
 {
-    Row &row = madeRow(place.row);
+    Row &row = madeRow(position.row);
     pugi::xml_node node = row.node;
-    const auto next = positionOf(row.cells, place.column);
-    if (next != row.cells.end() && next->first == place.column)
+    const auto next = positionOf(row.cells, position.column);
+    if (next != row.cells.end() && next->first == position.column)
         return next->second;
     const std::string name = nameLike(node, "c");
     pugi::xml_node cell;
@@ -154,11 +154,12 @@ pugi::xml_node WorksheetRows::makeCell(CellPlace place)
                                  : node.insert_child_after(name.c_str(), row.cells.back().second);
     } else {
         cell = node.insert_child_before(name.c_str(), next->second);
-        attributeOf(next->second, "r").set_value(placeText({place.row, next->first}).toLatin1().constData());
+        attributeOf(next->second, "r")
+            .set_value(positionText({position.row, next->first}).toLatin1().constData());
     }
-    cell.append_attribute("r").set_value(placeText(place).toLatin1().constData());
+    cell.append_attribute("r").set_value(positionText(position).toLatin1().constData());
     node.remove_attribute("spans"); // a hint on the columns in use, no longer true
-    row.cells.insert(next, {place.column, cell});
+    row.cells.insert(next, {position.column, cell});
     return cell;
 }
 

@@ -12,34 +12,33 @@
 
 namespace sheets {
 
-/// The rows and cells of a sheet's document, found by number. A row or cell may be written without its
-/// number, and then follows the one before it.
+/// The rows and cells of a sheet's document, indexed by number. A row or cell without a number follows the
+/// one before it.
 class WorksheetRows : public LastError
 {
 public:
-    /// Finds the rows of `data`, the element that holds them. Fails for a number that no sheet has.
+    /// Finds the rows of the element `data`. Fails for a number outside of a sheet.
     bool load(pugi::xml_node data);
 
-    /// From the first row with a value or a formula in a cell to the last. A cell that has only a look does
-    /// not count.
+    /// From the first to the last row with a value or a formula. A cell with a format only does not count.
     [[nodiscard]] UsedRows usedRows() const;
 
-    /// The cells that are there, from the first row and column to the last; nothing in an empty sheet.
+    /// The range from the first to the last row and column with cells; nothing for an empty sheet.
     [[nodiscard]] std::optional<CellRange> usedRange() const;
 
-    /// The row's element; null when it is not there.
+    /// The row's element; null when it is missing.
     [[nodiscard]] pugi::xml_node row(int number) const;
 
-    /// The cell's element; null when it is not there.
-    [[nodiscard]] pugi::xml_node cell(CellPlace place) const;
+    /// The cell's element; null when it is missing.
+    [[nodiscard]] pugi::xml_node cell(CellPosition position) const;
 
-    /// The row's element, which is added at its place when it is missing.
+    /// The row's element, which is inserted when it is missing.
     pugi::xml_node makeRow(int number);
 
-    /// The cell's element, which is added at its place when it is missing.
-    pugi::xml_node makeCell(CellPlace place);
+    /// The cell's element, which is inserted when it is missing.
+    pugi::xml_node makeCell(CellPosition position);
 
-    /// Calls `visit` for each cell of the range that is there, with its place and element.
+    /// Calls `visit` for each existing cell of the range, with its position and element.
     template<typename Visit>
     void forEachCell(const CellRange &range, const Visit &visit) const
     {
@@ -47,7 +46,7 @@ public:
         for (auto row = m_rows.lower_bound(range.first.row); row != end; ++row) {
             for (const auto &[column, node] : row->second.cells) {
                 if (column >= range.first.column && column <= range.last.column)
-                    visit(CellPlace{row->first, column}, node);
+                    visit(CellPosition{row->first, column}, node);
             }
         }
     }

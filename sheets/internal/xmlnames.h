@@ -1,4 +1,4 @@
-// Names in XML documents whose writer may have put any prefix before them.
+// Names in XML documents with any prefixes.
 #pragma once
 
 #include <QString>
@@ -13,13 +13,13 @@ namespace sheets {
 /// The name without its prefix.
 [[nodiscard]] std::string_view localName(std::string_view name);
 
-/// The first child element of that name, whatever its prefix; a null node when there is none.
+/// The first child element of that name with any prefix; a null node when there is none.
 [[nodiscard]] pugi::xml_node childNamed(pugi::xml_node parent, std::string_view name);
 
-/// The first element of that name after `node` and beside it.
+/// The next sibling element of `node` with that name.
 [[nodiscard]] pugi::xml_node nextNamed(pugi::xml_node node, std::string_view name);
 
-/// The name with the prefix of `relative`, for an element to stand beside or in it.
+/// The name with the prefix of `relative`, for a sibling or child element of it.
 [[nodiscard]] std::string nameLike(pugi::xml_node relative, std::string_view name);
 
 /// The attribute of `node`, which is added when it is missing.

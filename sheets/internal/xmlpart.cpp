@@ -42,7 +42,7 @@ bool XmlPart::parse(const QByteArray &bytes, const char *rootName)
 
 QByteArray XmlPart::bytes()
 {
-    // What is written is UTF-8, whatever was read.
+    // The output is UTF-8, regardless of the encoding of the input.
     const pugi::xml_node declaration = m_document.first_child();
     if (declaration.type() == pugi::node_declaration) {
         pugi::xml_attribute encoding = declaration.attribute("encoding");

@@ -8,13 +8,13 @@
 
 namespace sheets {
 
-/// A part of a workbook as an XML document, which is written again exactly as it was, but for what is
-/// changed.
+/// A part of a workbook as an XML document. It is written exactly as it was read, except the changes.
 class XmlPart : public LastError
 {
 public:
     /// Reads the part. Fails when it is not well-formed, has another root element, is nested deeper than 100
-    /// elements, or would take more than 1 GiB of memory. Entities of the document's own are not replaced.
+    /// elements, or would take more than 1 GiB of memory. Entities that the document defines are not
+    /// replaced.
     bool parse(const QByteArray &bytes, const char *rootName);
 
     /// The root element.
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QByteArray bytes();
 
 private:
-    QByteArray m_buffer; ///< what the document's names and texts point into
+    QByteArray m_buffer; ///< contains the names and texts of the document
     pugi::xml_document m_document;
 };
 

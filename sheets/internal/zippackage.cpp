@@ -15,14 +15,15 @@ constexpr zip_int64_t maximumParts = 10'000;
 // A device list of 100,000 rows is a sheet of 135 MiB.
 constexpr zip_uint64_t maximumPartSize = 192ULL * 1024 * 1024;
 
-// Sheets of one repeated row come close to 100 to 1; deflate cannot exceed 1,032 to 1.
+// The ratio of sheets with one repeated row is nearly 100 to 1; deflate cannot exceed 1,032 to 1.
 constexpr zip_uint64_t maximumRatio = 250;
 constexpr zip_uint64_t sizeWithoutRatio = 8ULL * 1024 * 1024;
 
-// Sheets repeat themselves so much that a higher level costs time and gains little.
+// Sheets are so repetitive that a higher level costs time and gains little.
 constexpr zip_uint32_t deflateLevel = 1;
 
-/// Opens an archive on the source, and takes the caller's reference to it. Null on failure, with the reason.
+/// Opens an archive on the source, and takes over the caller's reference to it. Null on failure, with the
+/// reason.
 zip_t *openArchive(zip_source_t *source, QString &reason)
 {
     zip_error_t error;
@@ -36,8 +37,8 @@ zip_t *openArchive(zip_source_t *source, QString &reason)
     return archive;
 }
 
-/// A source with a copy of the bytes that belongs to it. Writing an archive into a source frees a part of the
-/// bytes that it was made of, even when they are not its own.
+/// A source that owns a copy of the bytes. Writing an archive to a source frees a part of its bytes, even if
+/// the source does not own them.
 zip_source_t *copiedSource(const QByteArray &bytes)
 {
     const auto size = std::size_t(bytes.size());
@@ -51,7 +52,7 @@ zip_source_t *copiedSource(const QByteArray &bytes)
     return source;
 }
 
-/// What a file that is no zip archive is.
+/// A description of a file that is not a zip archive.
 QString describeForeignFile(const QByteArray &file, const QString &reason)
 {
     static const QByteArray compoundFile("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
@@ -148,7 +149,7 @@ bool ZipPackage::read(const QString &name, QByteArray &bytes)
     if (!part)
         return fail(QStringLiteral("part %1 of the workbook: %2")
                         .arg(name, QString::fromUtf8(zip_strerror(m_archive.get()))));
-    // One byte more than announced, so that the end is reached, where the check sum is compared.
+    // One byte more than the announced size, so that the end is reached, where libzip compares the checksum.
     bytes = QByteArray(qsizetype(entry.size) + 1, Qt::Uninitialized);
     zip_int64_t got = 0;
     zip_int64_t chunk = 0;
@@ -180,8 +181,8 @@ bool ZipPackage::build(QByteArray &file)
         file = m_file;
         return true;
     }
-    // An archive of its own, because writing uses it up. The source takes what is written and must stay for
-    // that.
+    // A separate archive, because writing consumes it. The source receives the written bytes, so it must
+    // outlive the archive.
     zip_source_t *source = copiedSource(m_file);
     if (!source)
         return fail(QStringLiteral("there is not enough memory"));
@@ -196,14 +197,14 @@ bool ZipPackage::build(QByteArray &file)
     return isBuilt;
 }
 
-/// Writes the archive with all changes into its source, and closes it.
+/// Writes the archive with all changes to its source, and closes it.
 bool ZipPackage::writeChanges(Archive archive)
 {
     if (!applyChanges(archive.get()))
         return false;
     if (zip_close(archive.get()) != 0)
         return fail(QString::fromUtf8(zip_strerror(archive.get())));
-    (void)archive.release(); // gone with closing
+    (void)archive.release(); // freed by zip_close()
     return true;
 }
 
@@ -223,8 +224,8 @@ bool ZipPackage::applyChanges(zip *archive)
             zip_source_free(part);
             return fail(QString::fromUtf8(zip_strerror(archive)));
         }
-        // The default method is deflate; naming it would make the library take it for no change, and drop the
-        // level.
+        // The default method is deflate. With ZIP_CM_DEFLATE, libzip would ignore the call as no change, and
+        // the level with it.
         if (zip_set_file_compression(archive, zip_uint64_t(index), ZIP_CM_DEFAULT, deflateLevel) != 0)
             return fail(QString::fromUtf8(zip_strerror(archive)));
     }

@@ -13,29 +13,29 @@ struct zip_stat;
 
 namespace sheets {
 
-/// The parts of a workbook file, which is a zip archive. Changed parts are kept beside the file's bytes, and
-/// a file that is built of both holds all other parts byte for byte as they were.
+/// The parts of a workbook file, which is a zip archive. Changed parts are stored separately from the file's
+/// bytes. In a file that is built from both, all other parts are identical, byte for byte.
 ///
-/// Part names have no leading slash and are the same part in capitals and small letters.
+/// Part names have no leading slash and are case-insensitive.
 class ZipPackage : public LastError
 {
 public:
-    /// Takes the bytes of a file. Fails for one that is no archive, damaged, encrypted or suspiciously
-    /// packed.
+    /// Reads the bytes of a file. Fails for a file that is not an archive, is damaged or encrypted, or has a
+    /// suspicious compression ratio.
     bool load(const QByteArray &file);
 
     [[nodiscard]] bool contains(const QString &name) const;
 
-    /// Unpacks a part, as far as it keeps to a bound of 192 MiB; fails when it is damaged or not there.
+    /// Decompresses a part. Fails when it is larger than 192 MiB, damaged or missing.
     bool read(const QString &name, QByteArray &bytes);
 
-    /// Puts `bytes` in place of a part, or adds one.
+    /// Replaces the contents of a part by `bytes`, or adds the part.
     void replace(const QString &name, const QByteArray &bytes);
 
-    /// Removes a part, which need not be there.
+    /// Removes a part, which may be missing.
     void remove(const QString &name);
 
-    /// The bytes of the file with all changes.
+    /// Sets `file` to the bytes of the file with all changes.
     bool build(QByteArray &file);
 
 private:
@@ -51,9 +51,9 @@ private:
 
     QByteArray m_file;
     Archive m_archive;                   ///< for reading, on m_file
-    QHash<QString, quint64> m_entries;   ///< index in the archive by small name
-    std::map<QString, QByteArray> m_new; ///< parts to write, by name as it is to stand there
-    QHash<QString, quint64> m_removed;   ///< indices of parts to drop, by small name
+    QHash<QString, quint64> m_entries;   ///< index in the archive by name in lower case
+    std::map<QString, QByteArray> m_new; ///< parts to write, by name
+    QHash<QString, quint64> m_removed;   ///< indices of parts to remove, by name in lower case
 };
 
 } // namespace sheets

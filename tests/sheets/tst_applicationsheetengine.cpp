@@ -1,4 +1,4 @@
-// The engine that drives the spreadsheet application asks it for the right things in the right order.
+// The engine of the spreadsheet application makes the correct calls in the correct order.
 #include "automation/axdouble.h"
 #include "sheets/applicationsheetengine.h"
 #include "sheets/qexcel.h"
@@ -18,7 +18,7 @@ const QString book = app + ".ActiveWorkBook";
 const QString sheet = book + ".ActiveSheet";
 const QString firstSheet = book + ".WorkSheets.Item(int) 1";
 
-/// The calls since the last time that change something.
+/// The changing calls since the last invocation.
 QStringList takeChanges()
 {
     static const QRegularExpression change(QStringLiteral(" = |\\.(Add$|Open|Quit|Merge|Save|SetValue)"));
@@ -33,7 +33,7 @@ class TestApplicationSheetEngine : public QObject
 private Q_SLOTS:
     void init() { AxRecord::instance() = AxRecord(); }
 
-    void makesAWorkbook()
+    void createsAWorkbook()
     {
         QExcel excel(std::make_unique<ApplicationSheetEngine>());
         QVERIFY(excel.createWorkbook());
@@ -56,8 +56,8 @@ private Q_SLOTS:
                               range + ".Merge()", range + ".WrapText = true", font + ".Size = 12",
                               font + ".Bold = true", sheet + ".Rows(int) 1.RowHeight = 160",
                               book + ".SaveAs(const QString&) " + path, book + ".Save()", app + ".Quit()"}));
-        QCOMPARE(AxRecord::instance().alive, 0); // or the application would stay in memory
-        QVERIFY(excel.createWorkbook());         // it is started anew
+        QCOMPARE(AxRecord::instance().alive, 0); // otherwise the application would stay in memory
+        QVERIFY(excel.createWorkbook());         // it is started again
     }
 
     void readsAWorkbook()
@@ -81,10 +81,10 @@ private Q_SLOTS:
         }
         const int alive = record.alive;
         (void)excel.cellText(3, 1);
-        QCOMPARE(record.alive, alive); // no object is left over for each cell
+        QCOMPARE(record.alive, alive); // no object is leaked for each cell
     }
 
-    void noticesThatThereIsNoApplication()
+    void reportsAMissingApplication()
     {
         AxRecord::instance().isInstalled = false;
         auto engine = std::make_unique<ApplicationSheetEngine>();

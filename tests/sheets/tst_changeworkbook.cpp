@@ -1,4 +1,4 @@
-// A workbook that is opened and changed keeps everything else as it was.
+// A changed workbook keeps all other contents.
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
 #include "tests/datatable.h"
@@ -14,7 +14,7 @@ namespace {
 const QString sheetPart = QStringLiteral("xl/worksheets/sheet1.xml");
 const QString stylesPart = QStringLiteral("xl/styles.xml");
 
-/// The small workbook with styles: look 1 is bold in column B, look 2 text.
+/// The small workbook with styles: cell format 1 is bold in column B, cell format 2 is text.
 Parts styledWorkbook(const QByteArray &rows)
 {
     Parts parts = smallWorkbook(rows);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QByteArray expected = parts[sheetPart];
         const qsizetype from = expected.indexOf("<row");
         expected.replace(from, expected.indexOf("</sheetData>") - from, rows.replace('\'', '"'));
-        // Look 2 is for texts already; the others get one that is added.
+        // Cell format 2 is already a text format; the others get an added one.
         if (!after.empty() && !after[sheetPart].contains("s=\"3\""))
             QCOMPARE(after[stylesPart], parts[stylesPart]);
         QCOMPARE(after[sheetPart], expected);
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList("changed.xlsx"));
     }
 
-    void takesFormulasOutOfTheCalculationChain()
+    void removesFormulasFromTheCalculationChain()
     {
         Parts parts = styledWorkbook(
             "<row r=\"1\"><c r=\"A1\" s=\"2\"><f>1+1</f><v>2</v></c>"

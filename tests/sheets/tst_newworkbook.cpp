@@ -126,7 +126,8 @@ private Q_SLOTS:
         QVERIFY(excel.mergeCells({{2, 3}, {2, 4}}));
     }
 
-    /// The temporary files reach a limit, as on a full disk: the rows would be missing in the compressed file.
+    /// The temporary files reach a limit, as on a full disk: the rows would be missing in the compressed
+    /// file.
     void reportsAFullTemporaryFolder()
     {
         QExcel excel(fileEngine());
@@ -144,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(!excel.saveAs(m_path)); // the rows are lost
     }
 
-    void refusesWhatNoSheetHas()
+    void refusesInvalidCellsAndFormats()
     {
         QExcel excel(fileEngine());
         QVERIFY(!excel.setCellText(1, 1, "x")); // there is no workbook yet
@@ -169,10 +170,10 @@ private Q_SLOTS:
         QVERIFY(!excel.setCellText(1, 1, "x"));
     }
 
-    /// A workbook that took work to fill is kept somewhere, whatever became of its file.
+    /// A filled workbook is saved elsewhere when its file cannot be written.
     void aFilledWorkbookIsKept_data()
     {
-        // isFolderInTheWay: a folder has taken the name of the file
+        // isFolderInTheWay: a folder has the name of the file
         // kept: below the home folder
         const auto row = dataTable<bool, bool, QString>({"isFolderGone", "isFolderInTheWay", "kept"});
         row("in its file", false, false, "work/list.xlsx");

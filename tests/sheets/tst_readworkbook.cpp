@@ -1,4 +1,4 @@
-// What other programs write is read: every kind of cell, and the freedoms of the format. Files that are
+// Files of other applications are read: every type of cell, and the variants of the format. Files that are
 // damaged, encrypted or made to exhaust memory are refused with a reason.
 #include "sheets/filesheetengine.h"
 #include "sheets/qexcel.h"
@@ -39,7 +39,7 @@ class TestReadWorkbook : public QObject
     QTemporaryDir m_folder;
     const QString m_path = m_folder.filePath("read.xlsx");
 
-    /// True when opening the file fails and the reason holds `word`.
+    /// Verifies that opening the file fails and that the reason contains `word`.
     void verifyRefused(const QString &word)
     {
         QExcel excel(std::make_unique<sheets::FileSheetEngine>());
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QTEST(excel.cellText(1, 1).value_or("nothing"), "text");
     }
 
-    void findsCellsInAnyDress_data()
+    void findsCellsInAllNotations_data()
     {
         // change: of the small workbook's parts: "part|from|to"
         const auto row = dataTable<QString>({"change"});
@@ -95,7 +95,7 @@ private Q_SLOTS:
         row("a chart before it", "xl/workbook.xml|<sheets>|<sheets><sheet name='C' r:id='r8'/>");
     }
 
-    void findsCellsInAnyDress()
+    void findsCellsInAllNotations()
     {
         QFETCH(QString, change);
         Parts parts = smallWorkbook("<row r='1'><c r='A1' s='1'/></row>"
@@ -149,7 +149,7 @@ private Q_SLOTS:
         verifyRefused(word);
     }
 
-    void refusesWhatTakesTooMuchMemory_data()
+    void refusesFilesThatExhaustMemory_data()
     {
         // repetitions: of a short element
         const auto row = dataTable<int, QString>({"repetitions", "word"});
@@ -157,7 +157,7 @@ private Q_SLOTS:
         row("many elements", 17'000'000, "too many elements");
     }
 
-    void refusesWhatTakesTooMuchMemory()
+    void refusesFilesThatExhaustMemory()
     {
         QFETCH(int, repetitions);
         const QByteArray rows = QByteArray("<a/>").repeated(repetitions);

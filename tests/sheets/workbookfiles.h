@@ -1,4 +1,4 @@
-// Workbook files for the tests, made and read part by part.
+// Workbook files for the tests, written and read by parts.
 #pragma once
 
 #include <QByteArray>
@@ -8,7 +8,7 @@
 
 using Parts = std::map<QString, QByteArray>;
 
-/// How the parts of an archive are kept.
+/// The storage of the parts of an archive.
 enum class Packing
 {
     Deflated,
@@ -16,13 +16,13 @@ enum class Packing
     Encrypted,
 };
 
-/// Writes an archive of these parts. False on failure.
+/// Writes an archive of these parts. Returns false on failure.
 [[nodiscard]] bool writeArchive(const QString &path, const Parts &parts, Packing packing = Packing::Deflated);
 
 /// All parts of an archive, unpacked. Empty on failure.
 [[nodiscard]] Parts readArchive(const QString &path);
 
-/// The check sums and packed sizes of all parts of an archive, one line each.
+/// The checksums and compressed sizes of all parts of an archive, one line each.
 [[nodiscard]] QStringList packedParts(const QString &path);
 
 /// A workbook with one sheet whose rows are `rows`, with `strings` in its list of shared strings.

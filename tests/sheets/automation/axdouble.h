@@ -1,4 +1,5 @@
-// Stands in for the automation interface's client objects: records what is asked and answers as a test says.
+// A test double of the automation interface's client objects: it records calls and returns the values of a
+// test.
 #pragma once
 
 #include <QHash>
@@ -6,13 +7,13 @@
 #include <QStringList>
 #include <QVariant>
 
-/// What all objects of one test share.
+/// The common data of all objects of one test.
 struct AxRecord
 {
     QStringList calls;                ///< "path what arguments", in order
     QHash<QString, QVariant> answers; ///< values of properties by "path.name"
     bool isInstalled = true;
-    int alive = 0; ///< objects that are held
+    int alive = 0; ///< number of existing objects
 
     static AxRecord &instance()
     {
