@@ -34,7 +34,7 @@ const QColor accent(0x17, 0x69, 0xe0);
 const QColor accentSoft(0xe3, 0xee, 0xfc);
 } // namespace Colour
 
-// Everything is laid out and painted in tenths of a point, so that sizes of fonts are whole numbers.
+// The layout unit is a tenth of a point, so that font sizes are integers.
 constexpr int unitsPerInch = 720;
 constexpr qreal pt = unitsPerInch / 72.0;
 constexpr qreal marginSide = 64 * pt;
@@ -49,8 +49,8 @@ QFont textFont(qreal size, QFont::Weight weight = QFont::Normal)
     font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans CJK SC")});
     font.setPixelSize(qRound(size));
     font.setWeight(weight);
-    // The Latin face has other brackets and slashes beside capitals and figures. They have no character of
-    // their own, so a reader that searches or copies would not find them.
+    // The Latin face has contextual brackets and slashes next to capitals and digits. These glyphs have no
+    // character code, so a reader could not search or copy them.
     font.setStyleStrategy(QFont::PreferNoShaping);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
@@ -63,10 +63,10 @@ void setBlockSpace(QTextBlockFormat &format, qreal above, qreal below, int lineH
     format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
 }
 
-/// Gives every piece of text in the block the size, weight and colour, and keeps what is bold or code so.
+/// Sets the size, weight and colour of all text in the block; bold text and code keep their format.
 void setText(const QTextBlock &block, qreal size, QFont::Weight weight, const QColor &colour)
 {
-    // The fragments are collected first: changing one may join it to the next.
+    // The fragments are collected first: a change may merge a fragment with the next.
     QList<std::pair<int, int>> pieces;
     QList<QTextCharFormat> formats;
     for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
@@ -121,7 +121,7 @@ void styleTable(QTextTable *table, qreal width)
     format.setBottomMargin(10 * pt);
     format.setHeaderRowCount(1);
     format.setWidth(QTextLength(QTextLength::FixedLength, width));
-    // The first column names things and is short; the others share what is left.
+    // The first column contains short names; the others share the remaining width.
     QList<QTextLength> columns{QTextLength(QTextLength::PercentageLength, 30)};
     for (int column = 1; column < table->columns(); ++column)
         columns.append(QTextLength(QTextLength::PercentageLength, 70.0 / (table->columns() - 1)));
@@ -176,7 +176,7 @@ void styleBlock(const QTextBlock &block)
     setText(block, textSize, QFont::Normal, Colour::ink);
 }
 
-/// The first paragraph below the title says what the document is about.
+/// The first paragraph below the title describes the document.
 void styleLead(const QTextBlock &block)
 {
     setText(block, 12 * pt, QFont::Normal, Colour::sub);
@@ -212,7 +212,7 @@ int pageOf(const QTextDocument &document, qreal y)
 
 void breakPageBefore(QTextBlock block)
 {
-    // Headings, and the sentence that leads up to a table, go with what follows them.
+    // Headings, and the sentence before a table, stay on the same page as the following text.
     for (QTextBlock before = block.previous(); before.isValid(); before = before.previous()) {
         const QString text = before.text();
         const bool leadsOn = before.blockFormat().headingLevel() > 1 || text.endsWith(QLatin1Char(':')) ||
@@ -237,7 +237,7 @@ void placePageBreaks(QTextDocument &document)
         if (table) {
             if (block != table->firstCursorPosition().block())
                 continue;
-            // The paragraph before a table leads up to it.
+            // The paragraph before a table introduces it.
             const QRectF area = layout->frameBoundingRect(table);
             top = block.previous().isValid() ? layout->blockBoundingRect(block.previous()).top() : area.top();
             bottom = area.bottom() - table->format().bottomMargin() - 1;
@@ -365,7 +365,7 @@ int main(int argc, char **argv)
         return 1;
     }
     QDir().mkpath(QFileInfo(arguments.at(2)).path());
-    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
+    // Unbuffered: Qt does not detect a partially written buffer.
     QSaveFile output(arguments.at(2));
     if (!output.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || output.write(pdf) != pdf.size() ||
         !output.commit()) {

@@ -45,7 +45,7 @@ QHash<QByteArray, QByteArray> mistakenCodes(const QString &text, const QFont &fo
 
 QByteArray withSearchableText(const QByteArray &pdf, const QString &text, const QFont &font)
 {
-    // The tables of characters stand in the file as plain text, and a corrected one is as long as before.
+    // The character maps are plain text in the file, and a corrected map has the same length.
     QByteArray result = pdf;
     const QHash<QByteArray, QByteArray> codes = mistakenCodes(text, font);
     for (qsizetype begin = result.indexOf("begincmap"); begin >= 0;

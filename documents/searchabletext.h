@@ -1,4 +1,4 @@
-// Repairs the text behind the pages of a PDF file that the toolkit wrote.
+// Corrects the searchable text of a PDF file that Qt has written.
 #pragma once
 
 #include <QByteArray>
@@ -6,8 +6,8 @@
 
 class QFont;
 
-/// A Chinese face draws a radical ("⽤", U+2F64) and the character of the same shape ("用", U+7528) with one
-/// glyph. The toolkit's PDF writer notes the radical as the glyph's text, so that a reader finds no word with
-/// such a character. Returns `pdf` with the characters of `text` noted instead. `font` is the font of the
+/// A Chinese face has one glyph for a radical ("⽤", U+2F64) and the character of the same shape ("用",
+/// U+7528). Qt's PDF writer maps the glyph to the radical, so that a reader cannot find words with the
+/// character. Returns `pdf` with such glyphs mapped to the characters of `text`. `font` is the font of the
 /// text.
 [[nodiscard]] QByteArray withSearchableText(const QByteArray &pdf, const QString &text, const QFont &font);

@@ -27,7 +27,8 @@ bool isText(const QString &text, qsizetype longest)
     return !text.isEmpty() && text.size() <= longest;
 }
 
-/// Nothing for a text that did not come from the cipher: a wrong password would count at the device.
+/// Nothing for a text that is not from the cipher: a wrong password would count towards the lock of the
+/// device.
 std::optional<QString> deciphered(const QString &cipher)
 {
     const CAuthor author;
@@ -91,7 +92,7 @@ void AccountStore::read()
         return;
     }
     m_problem = tr("账号文件已损坏，其中的账号均未使用：%1").arg(m_path);
-    qCWarning(logFavourites).noquote() << m_path << "holds no accounts that can be read";
+    qCWarning(logFavourites).noquote() << m_path << "contains no readable accounts";
 }
 
 std::optional<AccountStore::Contents> AccountStore::parsed(const QByteArray &text)

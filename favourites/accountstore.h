@@ -1,4 +1,4 @@
-// The accounts that the user keeps, and which device each of them is for.
+// The stored accounts of the user, and their devices.
 #pragma once
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@
 #include <mutex>
 #include <optional>
 
-/// An account with the name that the user knows it by.
+/// An account with its display name.
 struct StoredAccount
 {
     QString name;
@@ -20,15 +20,15 @@ struct StoredAccount
     [[nodiscard]] bool operator==(const StoredAccount &) const = default;
 };
 
-/// Accounts in a file that belongs to the user, as favourites are: passwords are enciphered with a key that
-/// is part of the program, and the file is written completely or not at all. A device is known by a text that
-/// outlives its address, such as its MAC, and has one account or none.
+/// Accounts in a file of the user, like favourites: passwords are encrypted with a key that is part of the
+/// application, and the file is written completely or not at all. A device is identified by a string that
+/// does not depend on its address, such as its MAC, and has one account or none.
 ///
-/// A file that cannot be read gives no account. It is kept under another name when the user stores an account
-/// again. No password reaches the log.
+/// A file that cannot be read contains no account. It is kept under another name when the user stores an
+/// account again. No password reaches the log.
 ///
-/// Thread-safe. Only changes wait for the disk; each returns why it failed, in the user's language, and
-/// changes nothing then.
+/// Thread-safe. Only changes wait for the disk. A change returns the reason of its failure in the user's
+/// language, and changes nothing then; empty on success.
 class AccountStore
 {
     Q_DECLARE_TR_FUNCTIONS(AccountStore)
@@ -39,36 +39,36 @@ public:
     static constexpr qsizetype maximumIdentity = 80;      ///< characters
     static constexpr qint64 maximumFileSize = 16'777'216; ///< bytes
 
-    /// Reads the file, which need not exist. Without a path nothing is kept beyond the run.
+    /// Reads the file, which may be missing. Without a path, accounts are stored in memory only.
     explicit AccountStore(const QString &path);
 
-    /// Why there is no account although there is a file, in the user's language; else empty.
+    /// The reason why the file cannot be read, in the user's language; otherwise empty.
     [[nodiscard]] QString problem() const;
 
-    /// In the order of their names.
+    /// Sorted by name.
     [[nodiscard]] QList<StoredAccount> accounts() const;
     [[nodiscard]] std::optional<StoredAccount> account(const QString &name) const;
 
-    /// How many devices each account is for, by its name.
+    /// The number of devices of each account, by its name.
     [[nodiscard]] QHash<QString, int> deviceCounts() const;
 
-    /// The account of the device that these texts identify: of the first one that has any.
+    /// The account of the device with these identities; the first identity with an account decides.
     [[nodiscard]] std::optional<StoredAccount> accountOf(const QStringList &identities) const;
 
-    /// Adds an account, or changes the one that was called `before`, whose devices keep it.
+    /// Adds an account, or changes the account with the name `before`, whose devices keep it.
     [[nodiscard]] QString put(const QString &before, const StoredAccount &account);
 
-    /// Its devices have no account then.
+    /// Removes an account; its devices then have no account.
     [[nodiscard]] QString remove(const QString &name);
 
-    /// A device with the texts that identify it, the surest one first.
+    /// The identities of a device, the most reliable one first.
     using Device = QStringList;
 
-    /// Gives each device the account of this name; none for an empty name.
+    /// Assigns the account of this name to the devices; an empty name removes their account.
     [[nodiscard]] QString assign(const QList<Device> &devices, const QString &name);
 
-    /// The same for an account that need not be stored yet. It gets a name of its own, unless one with the
-    /// same password is there.
+    /// The same for an account that may not be stored yet. It is stored under a new name, unless the same
+    /// account with the same password exists.
     [[nodiscard]] QString keep(const QList<Device> &devices, const QString &account, const QString &password);
 
 private:
@@ -91,9 +91,9 @@ private:
     [[nodiscard]] QString setDamagedAside() const;
 
     const QString m_path;
-    std::mutex m_writing; ///< held from the reading of what is changed until it is written
+    std::mutex m_writing; ///< held from reading the entries to change until they are written
 
-    mutable std::mutex m_mutex; ///< of what follows
+    mutable std::mutex m_mutex; ///< guards the members below
     QString m_problem;
     Contents m_contents;
 };

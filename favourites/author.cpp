@@ -19,13 +19,13 @@
 
 namespace {
 
-// The values of a favourite that the scene is given, in its order.
+// The values of a favourite for the scene, in this order.
 constexpr std::array listedKeys = {"type", "addr", "port", "username", "password", "note"};
 
 struct KeyMaterial
 {
     QByteArray key = QByteArray::fromHex("5C1E8B3F7A90D24E6B1F0C9A3D7E52B8");
-    /// Without use in the mode that passwords are enciphered in; passed on for one that needs it.
+    /// Unused in the mode of the password cipher; other modes need it.
     QByteArray iv = QByteArrayLiteral("kalbrisen402917");
 };
 
@@ -49,8 +49,8 @@ QString localPath(const QString &path)
     return local.startsWith(scheme) ? local.sliced(scheme.size()) : local;
 }
 
-/// The folder that a favourite is saved into. Empty for an empty path, which names none: the working folder
-/// is no place for passwords.
+/// The folder that a favourite is saved to. Empty for an empty path: passwords must not be stored in the
+/// working folder.
 QString saveFolder(const QString &path)
 {
     if (path.isEmpty())
@@ -74,8 +74,8 @@ QString fileNameFor(const QString &addr, const QString &port)
     return name + QStringLiteral(".json");
 }
 
-/// The text of a JSON object whose keys are in the given order, laid out as the toolkit does. The toolkit's
-/// own object sorts its keys.
+/// The text of a JSON object whose keys are in the given order, in the layout of Qt. QJsonObject would sort
+/// the keys.
 QByteArray objectText(const std::vector<std::pair<const char *, QString>> &entries)
 {
     QByteArray text;
@@ -88,7 +88,7 @@ QByteArray objectText(const std::vector<std::pair<const char *, QString>> &entri
     return text + "\n}\n";
 }
 
-/// What a file of the folder holds, when that may be a favourite.
+/// The contents of a file of the folder, if it may be a favourite.
 std::optional<QByteArray> readFile(const QDir &folder, const QString &name)
 {
     QFile file(folder.filePath(name));
@@ -96,7 +96,7 @@ std::optional<QByteArray> readFile(const QDir &folder, const QString &name)
         qCWarning(logFavourites) << "无法打开文件:" << name << "-" << file.errorString();
         return std::nullopt;
     }
-    // The size on disk is not asked: a file may grow while it is read, and some have none.
+    // The size on disk is not used: a file may grow while it is read, and special files have no size.
     QByteArray text = file.read(CAuthor::maximumFileSize + 1);
     if (text.size() > CAuthor::maximumFileSize) {
         qCWarning(logFavourites) << "文件过大:" << name;

@@ -20,7 +20,7 @@ enum Role
 constexpr std::array rowKeys = {"num",      "type", "ip",       "port",  "ipport",
                                 "username", "note", "progress", "words", "fileName"};
 
-/// A value as a row shows it: one line of a length that can be laid out, since a file may hold anything.
+/// A value for display: one line of limited length, since a file may contain any text.
 QString shownText(const QString &value)
 {
     constexpr qsizetype longest = 200;

@@ -1,4 +1,4 @@
-// The list of favourites as the scene shows it.
+// The list of favourites for the scene.
 #pragma once
 
 #include <QAbstractListModel>
@@ -8,8 +8,8 @@
 
 #include <utility>
 
-/// Favourites of a folder with what the user does to them: ticks, the text filter, and how adding each one
-/// went. Roles are "checked", "conflict" (always false: a favourite stands in no other's way), "identity"
+/// Favourites of a folder with their user interface state: check marks, the text filter, and the progress of
+/// adding each one. Roles are "checked", "conflict" (always false: favourites cannot conflict), "identity"
 /// (its file name) and the keys of get(). Lives on the scene's thread; reads and writes no files.
 class FavouriteListModel : public QAbstractListModel
 {
@@ -20,7 +20,7 @@ class FavouriteListModel : public QAbstractListModel
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedCountChanged)
 public:
-    /// How adding a favourite to the device list went.
+    /// The progress of adding a favourite to the device list.
     enum Progress
     {
         Untried,
@@ -39,46 +39,46 @@ public:
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
     [[nodiscard]] int totalCount() const { return static_cast<int>(m_favourites.size()); } ///< also hidden
-    [[nodiscard]] int checkedCount() const;          ///< of the shown ones: hidden ones are not acted on
-    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
+    [[nodiscard]] int checkedCount() const; ///< of the shown rows: actions do not apply to hidden ones
+    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the check box of the header
 
-    /// Takes the favourites of a folder as CAuthor lists them, numbered in that order. What is known of one
-    /// that was there before is kept: its tick, and how adding it went.
+    /// Loads the favourites of a folder in the form and order of CAuthor. A favourite that was loaded before
+    /// keeps its check mark and its progress.
     Q_INVOKABLE void load(const QVariantMap &files);
 
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Notes how adding favourites went: maps of "identity", "result" (0 for a favourite that was added) and
-    /// "words" for a failure. Takes the ticks away from those that were added.
+    /// Sets the results of adding favourites: maps of "identity", "result" (0 for success) and "words" for a
+    /// failure. Unchecks the added ones.
     Q_INVOKABLE void takeResults(const QVariantList &results, const QString &wordsOfSuccess);
 
-    /// These favourites are being added.
+    /// Marks these favourites as being added.
     Q_INVOKABLE void setRunning(const QStringList &identities, const QString &words);
 
-    /// Forgets how adding went.
+    /// Clears the progress of all favourites.
     Q_INVOKABLE void forgetProgress();
 
-    /// What a shown row shows: "checked", "fileName", "num" (its number among all), "type" ("IP" or "P2P"),
-    /// "ip", "port", "ipport", "username", "note", "progress" and "words". Empty when out of range. It holds
-    /// no password, since what a table shows can be copied.
+    /// The displayed values of a row: "checked", "fileName", "num" (its number among all), "type" ("IP" or
+    /// "P2P"), "ip", "port", "ipport", "username", "note", "progress" and "words". Empty when out of range.
+    /// It contains no password, since the contents of a table can be copied.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
     /// A favourite, shown or not, for a login: "mode" (0 by address, 1 by P2P ID), "address", "port",
-    /// "account", "cipher" (its enciphered password) and "note". Empty when there is none.
+    /// "account", "cipher" (its encrypted password) and "note". Empty for an unknown identity.
     Q_INVOKABLE [[nodiscard]] QVariantMap device(const QString &identity) const;
 
-    /// Favourites to be added, as AddingBatches::addDevices() takes them: with "identity" and the deciphered
-    /// "password" in place of "cipher".
+    /// Favourites to be added, in the form of AddingBatches::addDevices(): with "identity" and the decrypted
+    /// "password" instead of "cipher".
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToAdd(const QStringList &identities) const;
 
     /// Position of the row with this identity, -1 when it is not shown.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
-    /// Identities of the ticked rows in the order shown.
+    /// Identities of the checked rows in display order.
     Q_INVOKABLE [[nodiscard]] QStringList checkedIdentities() const;
 
-    /// The texts of a row, parted by tabs, for the clipboard.
+    /// The texts of a row, separated by tabs, for the clipboard.
     Q_INVOKABLE [[nodiscard]] QString textOf(int row) const;
 
 Q_SIGNALS:
@@ -109,6 +109,6 @@ private:
     void show();
 
     QList<Favourite> m_favourites;
-    QList<qsizetype> m_shown; ///< places in m_favourites
+    QList<qsizetype> m_shown; ///< indices in m_favourites
     QString m_searchText;
 };

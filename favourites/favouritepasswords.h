@@ -1,10 +1,10 @@
-// Favourites whose devices have taken a new password.
+// New passwords for favourites.
 #pragma once
 
 #include <QList>
 #include <QString>
 
-/// A device that has just accepted a password.
+/// A device that has accepted a new password.
 struct AcceptedPassword
 {
     QString ipport; ///< "address:port" of its row
@@ -12,8 +12,8 @@ struct AcceptedPassword
     QString password;
 };
 
-/// Writes the passwords into the favourites of a folder with the same address, port and account: the device
-/// refuses the password that they hold. Favourites of devices behind NAT are left as they are, since their
-/// rows hold a local port. Returns how many favourites were changed. A folder that does not exist holds none.
-/// May run on any thread and waits for the disk.
+/// Writes the passwords to the favourites of a folder with the same address, port and account, whose stored
+/// password the device refuses. Favourites of devices behind NAT are not changed, since their rows contain a
+/// local port. Returns the number of changed favourites; 0 for a missing folder. May run on any thread and
+/// waits for the disk.
 int renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted);

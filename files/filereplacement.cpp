@@ -13,11 +13,12 @@
 
 namespace {
 
-/// Empty when the disk has the contents. A file system that cannot wait for that is no failure.
+/// Waits until the contents are on the disk. Returns the error text, empty on success. A file system without
+/// support for that is not an error.
 QString storeOnDisk([[maybe_unused]] const QFileDevice &file)
 {
 #ifdef Q_OS_UNIX
-    // The toolkit does the same when it commits the file, but ignores errors.
+    // Qt does the same when it commits the file, but ignores errors.
     if (::fsync(file.handle()) != 0 && errno != EINVAL && errno != ENOTSUP)
         return QString::fromLocal8Bit(std::system_category().message(errno).c_str());
 #endif
@@ -32,7 +33,7 @@ QString replaceFile(const QString &path, const QByteArray &contents)
     if (existing.exists() && !existing.isFile())
         return QStringLiteral("Not a regular file");
     QSaveFile file(path);
-    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
+    // Unbuffered: Qt does not detect a partially written buffer.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeCompletely(file, contents))
         return file.errorString();
     QString failure = storeOnDisk(file);
@@ -44,7 +45,7 @@ QString replaceFile(const QString &path, const QByteArray &contents)
 bool writeCompletely(QFileDevice &file, QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
-        // A full disk takes the beginning without a complaint, and gives the reason when it is asked again.
+        // A full disk accepts the first part without an error, and reports the error at the next write.
         const qint64 written = file.write(bytes.data(), bytes.size());
         if (written <= 0)
             return false;
@@ -55,7 +56,7 @@ bool writeCompletely(QFileDevice &file, QByteArrayView bytes)
 
 QString renameOver(const QString &from, const QString &to)
 {
-    // The toolkit's own function refuses a name that is taken.
+    // Qt's function does not replace an existing file.
     std::error_code error;
     std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
     return error ? QString::fromLocal8Bit(error.message().c_str()) : QString();

@@ -6,20 +6,19 @@
 
 class QFileDevice;
 
-/// Makes `contents` the contents of the file `path`. They are written into a new file in the same folder,
-/// which takes the old one's place when it is complete and on the disk: after a full disk, a killed process
-/// or a power failure the file has its old contents or the new ones. The permissions of an existing file are
-/// kept, and a link is followed.
+/// Replaces the contents of the file `path` by `contents`. They are written to a new file in the same folder,
+/// which replaces the old one when it is complete and on the disk: after a full disk, a killed process or a
+/// power failure the file has its old or its new contents. The permissions of an existing file are kept, and
+/// a symbolic link is followed.
 ///
-/// Returns the reason in the words of the system when the file could not be written; empty on success. A
-/// path that exists and is not a regular file is refused. Blocks until the disk has the contents; may be
-/// called on any thread.
+/// Returns the error text of the system on failure; empty on success. Fails if the path exists and is not a
+/// regular file. Blocks until the contents are on the disk; may be called on any thread.
 [[nodiscard]] QString replaceFile(const QString &path, const QByteArray &contents);
 
-/// Writes all the bytes into an open file without a buffer. On failure, as on a full disk, the file holds a
-/// part of them and its errorString() says why.
+/// Writes all the bytes into an open file without a buffer. On failure, such as a full disk, the file
+/// contains a part of them and its errorString() has the reason.
 [[nodiscard]] bool writeCompletely(QFileDevice &file, QByteArrayView bytes);
 
-/// Gives the complete file `from` the name `to` in the same file system, in place of a file that has it.
-/// Returns the reason when that fails; empty on success.
+/// Renames the file `from` to `to` in the same file system; an existing file is replaced. Returns the reason
+/// of a failure; empty on success.
 [[nodiscard]] QString renameOver(const QString &from, const QString &to);

@@ -40,13 +40,13 @@ QString nameOfDevice(const QVariantMap &row)
 
 } // namespace
 
-/// Brings the news of steps to the scene's thread, as long as there is somebody to take them.
+/// Delivers updates of steps to the scene's thread while the gallery exists.
 class PictureGallery::Mailbox
 {
 public:
     explicit Mailbox(PictureGallery *receiver) : m_receiver(receiver) {}
 
-    /// On any thread.
+    /// Callable on any thread.
     void post(int round, const std::function<void(PictureGallery &gallery)> &news)
     {
         const std::lock_guard lock(m_mutex);
@@ -239,7 +239,7 @@ bool PictureGallery::fetch(int row)
     if (row < 0 || row >= m_cells.size())
         return false;
     const Cell &cell = m_cells.at(row);
-    // A device that has not been reached has not said yet which channels it has.
+    // The channels of a device are unknown until it has been reached.
     const bool isWhole = cell.name.isEmpty();
     return start({cell.identity}, isWhole ? -1 : cell.channel);
 }
@@ -260,14 +260,14 @@ bool PictureGallery::start(const QStringList &identities, int onlyChannel)
                       .canBeRetried = false,
                       .marksFailed = false};
     for (BatchDevice &device : plan.devices) {
-        if (device.ipport == device.name) // its row has left the list
+        if (device.ipport == device.name) // its row has been removed from the list
             device.ipport = m_cells.value(cellsOf(device.name).first).ipport;
     }
     plan.stepOf = [this, onlyChannel](const BatchDevice &device) {
         return stepOf(device, onlyChannel, m_folder->filePath(QString::number(m_round)));
     };
     plan.takeOutcomes = [mailbox = m_mailbox, round](const QList<BatchOutcome> &outcomes) {
-        // Behind what the steps have said before.
+        // Posted after the earlier updates of the steps.
         mailbox->post(round, [outcomes](PictureGallery &gallery) {
             for (const BatchOutcome &outcome : outcomes)
                 gallery.finish(outcome.device.name, outcome.outcome);
@@ -442,7 +442,7 @@ void PictureGallery::finish(const QString &identity, const StepOutcome &outcome)
         if (cell.state != Waiting && cell.state != Fetching)
             continue;
         if (outcome.result == BatchReport::NotDone && !cell.file.isEmpty()) {
-            cell.state = Taken; // nobody has asked for another one
+            cell.state = Taken; // no other image has been requested
             noteChanged(row, row);
             continue;
         }

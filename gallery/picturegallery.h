@@ -1,4 +1,4 @@
-// The pictures of many devices for the scene.
+// Images of many devices for the scene.
 #pragma once
 
 #include "device/batch/batch.h"
@@ -17,9 +17,9 @@ class Batches;
 class CDeviceFactory;
 class QTemporaryDir;
 
-/// A cell for each channel of some devices, with its picture. The pictures are fetched by batches, so many
-/// devices at a time as the settings say, and wait in files of a temporary folder: no picture is in memory
-/// here. A device has one cell until it has said which channels it has.
+/// A list with a cell and an image for each channel of several devices. The images are fetched by batches;
+/// the settings define the number of simultaneous devices. They are stored in files of a temporary folder,
+/// and none is kept in memory. A device has one cell until its channels are known.
 ///
 /// Lives on the scene's thread.
 class PictureGallery : public QAbstractListModel
@@ -30,7 +30,7 @@ class PictureGallery : public QAbstractListModel
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(Batches *batches READ batches WRITE setBatches NOTIFY batchesChanged)
-    /// The one that fetches pictures now; null when there is none.
+    /// The running batch; null when there is none.
     Q_PROPERTY(Batch *batch READ batch NOTIFY batchChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countsChanged)
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY countsChanged)
@@ -39,7 +39,7 @@ class PictureGallery : public QAbstractListModel
     Q_PROPERTY(int failures READ failures NOTIFY countsChanged)
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
 public:
-    /// Devices of a gallery; further ones are left out.
+    /// The maximum number of devices; further ones are omitted.
     static constexpr int maximumDevices = 500;
 
     enum State
@@ -54,19 +54,19 @@ public:
     enum Role
     {
         IpportRole = Qt::UserRole,
-        DeviceRole,  ///< its name, else its model, else its address
+        DeviceRole,  ///< its name, otherwise its model, otherwise its address
         ChannelRole, ///< from 0
         NameRole,    ///< of the channel; empty while the device has only one
         StateRole,
-        PictureRole, ///< address of the file, also of an older picture; empty when there is none
-        MessageRole, ///< why there is no picture, in the user's language
-        TimeRole,    ///< of the picture
-        NoteRole,    ///< what is left out of the device, in the user's language
+        PictureRole, ///< URL of the file, also of an older image; empty when there is none
+        MessageRole, ///< reason of a missing image, in the user's language
+        TimeRole,    ///< of the image
+        NoteRole,    ///< omitted channels of the device, in the user's language
     };
 
     explicit PictureGallery(QObject *parent = nullptr);
 
-    /// Gives up what is being fetched, and waits for files that are being written.
+    /// Cancels the batch, and waits for files that are being written.
     ~PictureGallery() override;
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
@@ -81,35 +81,35 @@ public:
 
     [[nodiscard]] int deviceCount() const { return m_deviceCount; }
     [[nodiscard]] int leftOut() const { return m_leftOut; }   ///< devices beyond maximumDevices
-    [[nodiscard]] int pictures() const { return m_pictures; } ///< cells that have one
-    [[nodiscard]] int failures() const { return m_failures; } ///< cells
+    [[nodiscard]] int pictures() const { return m_pictures; } ///< number of cells with an image
+    [[nodiscard]] int failures() const { return m_failures; } ///< number of failed cells
     [[nodiscard]] bool isSaving() const { return m_isSaving; }
 
-    /// Shows the devices of these rows of the list, and fetches their pictures. What was shown before is
-    /// dropped. Returns false when the batch is refused: the cells wait then.
+    /// Replaces the devices by those of these rows, and fetches their images. Returns false when the batch is
+    /// refused: the cells then stay in the waiting state.
     Q_INVOKABLE bool show(const QVariantList &rows);
 
     /// Reads the names and addresses of the devices again, which may have changed. A device that has left the
     /// list keeps them.
     Q_INVOKABLE void readDevices();
 
-    /// Fetches all pictures again. Returns false when the batch is refused.
+    /// Fetches all images again. Returns false when the batch is refused.
     Q_INVOKABLE bool fetchAll();
 
-    /// Fetches the picture of a cell again.
+    /// Fetches the image of a cell again.
     Q_INVOKABLE bool fetch(int row);
 
-    /// Ends the fetching: cells that still wait have failed.
+    /// Ends the batch: waiting cells have failed.
     Q_INVOKABLE void stop();
 
-    /// Drops the devices and their pictures.
+    /// Removes the devices and their images.
     Q_INVOKABLE void clear();
 
-    /// Writes the pictures as snapshots, "snap/<device>/<channel>.jpg" below the current folder, on a thread
-    /// of its own. saved() follows.
+    /// Writes the images as snapshots, "snap/<device>/<channel>.jpg" below the current folder, on a separate
+    /// thread. Emits saved().
     Q_INVOKABLE void saveAll();
 
-    /// The values of a cell by the names of the roles; empty when there is none.
+    /// The values of a cell by the names of the roles; empty for an invalid row.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
     /// The devices in their order, as maps of "ipport" and "name".
@@ -122,7 +122,8 @@ Q_SIGNALS:
     void countsChanged();
     void savingChanged();
 
-    /// So many files are in `folder`; `reason` tells in the words of the system why others are not.
+    /// Emitted after saveAll(): `files` files are in `folder`; `reason` is the system's error text of the
+    /// failures.
     void saved(int files, int failures, const QString &folder, const QString &reason);
 
 private:
@@ -156,7 +157,7 @@ private:
     void noteBegun(const QString &identity);
     void setChannels(const QString &identity, const QVariantList &channels, int channelCount);
     void take(const QString &identity, int channel, const QString &file, const QString &message);
-    /// The device is done: cells without a picture have failed for this reason.
+    /// The device is done: its cells without an image have failed for this reason.
     void finish(const QString &identity, const StepOutcome &outcome);
     void setFetching(const Range &cells);
     void noteChanged(int first, int last);

@@ -7,8 +7,8 @@
 //   NetCleanup = 2
 //
 // There is a section for each library: network, configuration, decoder and agent. `file` is looked up in the
-// folder of the binding file. Each other line leads from a function (entrypoints.h) to the name of its entry,
-// or on Windows to its ordinal.
+// folder of the binding file. Each other line maps a function (entrypoints.h) to the name of its entry, or on
+// Windows to its ordinal.
 #pragma once
 
 #include "sdk/binding/bindingproblem.h"

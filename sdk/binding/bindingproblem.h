@@ -1,4 +1,4 @@
-// Why closed libraries cannot be bound.
+// The reason why closed libraries cannot be bound.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ struct BindingProblem
         LineUnusable,    ///< `name` is the line of the binding file that is neither a section nor an entry
         SectionMissing,  ///< `name` is the section
         FunctionMissing, ///< the section of the library `file` does not list the function `name`
-        FunctionUnknown, ///< the section of the library `file` lists `name`, which is none of its functions
+        FunctionUnknown, ///< the section of the library `file` lists the unknown function `name`
         LibraryUnusable, ///< the library `file` is missing or cannot be loaded; `name` is the system's reason
         EntryMissing,    ///< the library `file` has no entry `name`
     };

@@ -16,7 +16,7 @@ namespace {
 
 using Kind = BindingProblem::Kind;
 
-/// What is wrong with the functions that a section lists.
+/// The error in the list of functions of a section, if any.
 std::optional<BindingProblem> listProblem(const BindingSection &section,
                                           const std::vector<EntryPoint> &functions)
 {
@@ -80,7 +80,7 @@ private:
             void *const address = library->entry(entry);
             if (!address)
                 return BindingProblem{.kind = Kind::EntryMissing, .file = section.library, .name = entry};
-            // The pointer of a function takes the bytes of an address on every system that has such
+            // A function pointer has the same representation as an address on every system with such
             // libraries.
             std::memcpy(function.pointer, &address, sizeof(address));
         }

@@ -1,4 +1,4 @@
-// The roles of the closed libraries, filled by the libraries themselves.
+// The library interfaces, implemented by the closed libraries themselves.
 #pragma once
 
 #include "sdk/binding/bindingproblem.h"

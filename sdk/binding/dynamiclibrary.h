@@ -14,13 +14,13 @@ public:
     DynamicLibrary(const DynamicLibrary &) = delete;
     DynamicLibrary &operator=(const DynamicLibrary &) = delete;
 
-    /// Loads the library. On failure returns the system's reason, else an empty text.
+    /// Loads the library. Returns the system's error text on failure; empty on success.
     [[nodiscard]] std::string open(const std::filesystem::path &file);
 
     /// The address of an entry by its name, or on Windows by its ordinal; null if there is none.
     [[nodiscard]] void *entry(const std::string &nameOrOrdinal) const;
 
-    /// Leaves the library loaded until the end of the process. It may have threads that run until then.
+    /// Keeps the library loaded until the end of the process, since its threads may run until then.
     void keep() { m_handle = nullptr; }
 
 private:

@@ -1,4 +1,5 @@
-// The C functions of the closed libraries: one for each operation of the roles, under the same name.
+// The C functions of the closed libraries: one for each operation of the library interfaces, with the same
+// name.
 //
 // The parameters are those of sdk/netlibrary.h, sdk/configlibrary.h, sdk/decoderlibrary.h and
 // sdk/p2pagentlibrary.h in their order, translated one to one:
@@ -9,7 +10,7 @@
 //   an enumeration           the integer that it is based on
 //   std::string_view         for a name: a pointer, ended by a zero; for a text: a pointer and uint32_t bytes
 //
-// Blocks and handlers are passed as they are.
+// Blocks and handlers are passed unchanged.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -113,7 +114,7 @@ namespace sdk::binding {
 struct EntryPoint
 {
     const char *name;
-    void *pointer; ///< of the function pointer that is to be set
+    void *pointer; ///< address of the function pointer to set
 };
 
 // NOLINTBEGIN(bugprone-macro-parentheses): what is declared, and a list of parameters, take none.

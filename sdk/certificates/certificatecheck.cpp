@@ -39,7 +39,7 @@ CertificateCheck::CertificateCheck(const CertificateDecision *decision, TlsPeer 
 
 void CertificateCheck::attachTo(void *curlHandle)
 {
-    // With a TLS library that lets nobody look, the usual check by authorities stays.
+    // If the TLS library does not support this option, the usual check by certificate authorities remains.
     if (curl_easy_setopt(curlHandle, CURLOPT_SSL_CTX_FUNCTION, &prepareContext) != CURLE_OK)
         return;
     curl_easy_setopt(curlHandle, CURLOPT_SSL_CTX_DATA, static_cast<void *>(this));

@@ -10,7 +10,7 @@ struct x509_st;
 
 namespace sdk {
 
-/// Whom a connection leads to, as far as the caller knows.
+/// The peer of a connection, as far as the caller knows it.
 struct TlsPeer
 {
     std::string address = {}; ///< numeric, without brackets, or a name
@@ -18,11 +18,11 @@ struct TlsPeer
     std::string identity = {}; ///< MAC or UUID of the device; empty if unknown
 };
 
-/// Makes a handle of libcurl accept the certificates that the decision trusts, and no others. Devices create
-/// their own certificates, so no authority is asked: the public key decides. The handshake ends at a refused
-/// key, before the first byte of a request is sent.
+/// Makes a handle of libcurl accept only the certificates that the decision trusts. Devices create their own
+/// certificates, so the public key decides instead of a certificate authority. The handshake ends at a
+/// refused key, before the first byte of a request is sent.
 ///
-/// Belongs to the thread of the transfers. It must outlive every transfer of the handle.
+/// Used by the thread of the transfers. It must outlive every transfer of the handle.
 class CertificateCheck
 {
 public:
@@ -34,7 +34,7 @@ public:
     /// Sets the options of a handle of libcurl; after curl_easy_reset() again.
     void attachTo(void *curlHandle);
 
-    /// Why the last handshake ended; nothing if none was ended for its certificate.
+    /// The verdict that ended the last handshake; nothing if no handshake was ended by its certificate.
     [[nodiscard]] std::optional<CertificateVerdict> refusal() const { return m_refusal; }
 
     /// Called during the handshake with the certificate of the device; null for none.

@@ -1,4 +1,4 @@
-// Who decides about the certificates of devices.
+// The decision about the certificates of devices.
 #pragma once
 
 #include "sdk/certificateblocks.h"
@@ -7,14 +7,13 @@
 
 namespace sdk {
 
-/// Shared by all who make connections over TLS. Thread-safe. Until a handler is set every certificate is
-/// Unknown.
+/// Shared by all TLS connections. Thread-safe. Without a handler every certificate is Unknown.
 class CertificateDecision
 {
 public:
     void setHandler(CertificateHandler handler, void *user);
 
-    /// Asks the handler, on the calling thread.
+    /// Calls the handler on the calling thread.
     [[nodiscard]] CertificateVerdict verdictOn(const DeviceCertificate &certificate) const;
 
 private:

@@ -23,7 +23,8 @@ struct OpenSslDeleter
 };
 using OpenSslBytes = std::unique_ptr<unsigned char, OpenSslDeleter>;
 
-/// Of the whole SubjectPublicKeyInfo: a device that renews its certificate and keeps its key stays the same.
+/// The fingerprint of the complete SubjectPublicKeyInfo: it does not change when a device renews its
+/// certificate with the same key.
 std::string keyFingerprint(const X509 *certificate)
 {
     unsigned char *encoded = nullptr;
@@ -58,7 +59,7 @@ std::string commonName(const X509 *certificate)
         return {};
     const OpenSslBytes owner(bytes);
     std::string text(reinterpret_cast<const char *>(bytes), static_cast<std::size_t>(length));
-    // The device has chosen the name: it must not break the line that shows it.
+    // The name comes from the device: it must not break the line that displays it.
     std::replace_if(
         text.begin(), text.end(),
         [](char letter) { return static_cast<unsigned char>(letter) < ' ' || letter == 0x7f; }, ' ');

@@ -18,7 +18,7 @@ namespace {
 bool unpackField(const ConfigField &field, const QJsonValue &value, char *record);
 QJsonValue packedField(const ConfigField &field, const char *record);
 
-/// Unpacks the keys of `object` that there are fields for. Returns false when a value does not fit.
+/// Unpacks the keys of `object` that have a field. Returns false when a value does not fit.
 bool unpackFields(std::span<const ConfigField> fields, const QJsonObject &object, char *record)
 {
     return std::all_of(fields.begin(), fields.end(), [&](const ConfigField &field) {
@@ -27,7 +27,7 @@ bool unpackFields(std::span<const ConfigField> fields, const QJsonObject &object
     });
 }
 
-/// Nothing when a field holds a number out of its range.
+/// Nothing when the number of a field is out of range.
 std::optional<QJsonObject> packedFields(std::span<const ConfigField> fields, const char *record)
 {
     QJsonObject object;
@@ -51,7 +51,7 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
             return false;
         const QByteArray bytes = value.toString().toUtf8();
         const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-        // A zero inside ends the text of a field, so nothing is written behind it.
+        // A zero ends the text of a field, so the text is truncated there.
         setBlockText(place, field.size, text.substr(0, text.find('\0')));
         return true;
     }
@@ -67,7 +67,7 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
         return true;
     case ConfigFieldKind::Number: {
         const double wide = value.toDouble(std::nan(""));
-        // Turned round, so that what is no number fails as well.
+        // Negated, so that NaN fails as well.
         if (!(wide >= field.minimum && wide <= field.maximum) || wide != std::floor(wide))
             return false;
         number = static_cast<std::int32_t>(wide);
@@ -80,7 +80,7 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
     return true;
 }
 
-/// Undefined when the field holds a number out of its range.
+/// Undefined when the number of the field is out of range.
 QJsonValue packedField(const ConfigField &field, const char *record)
 {
     const char *const place = record + field.offset;
@@ -110,7 +110,7 @@ QString keyOf(std::string_view name)
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-/// The table of `name`, null when it is unknown or `record` cannot hold its record.
+/// The table of `name`; null for an unknown name, and when `record` is too small.
 const ConfigTable *tableFor(std::string_view name, const void *record, std::uint32_t recordSize)
 {
     const ConfigTable *table = configTable(name);
@@ -131,7 +131,7 @@ std::optional<std::uint32_t> unpackConfigText(std::string_view name, std::string
     if (!inner.isObject())
         return std::nullopt;
 
-    // Filled beside the record, which stays whole when a later key is bad.
+    // A copy is filled, so that the record is unchanged when a later key is invalid.
     QByteArray filled(static_cast<const char *>(record), static_cast<qsizetype>(table->recordSize));
     if (!unpackFields(table->fields, inner.toObject(), filled.data()))
         return std::nullopt;

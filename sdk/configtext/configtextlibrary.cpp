@@ -18,7 +18,7 @@ bool ConfigTextLibrary::ConfigPackData(std::string_view name, const void *record
                                        char *text, std::uint32_t textSize)
 {
     const std::optional<QByteArray> packed = packConfigText(name, record, recordSize);
-    // The constant data of a byte array end with a zero.
+    // The constant data of a byte array are null-terminated.
     if (!packed || !text || static_cast<std::size_t>(packed->size()) >= textSize)
         return false;
     std::memcpy(text, packed->constData(), static_cast<std::size_t>(packed->size()) + 1);

@@ -1,4 +1,4 @@
-// The configuration library's roles on the project's own tables.
+// The configuration library's interface, implemented by the project's tables.
 #pragma once
 
 #include "sdk/configlibrary.h"

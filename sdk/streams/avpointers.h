@@ -1,4 +1,4 @@
-// FFmpeg's headers, and owners of what its functions allocate.
+// FFmpeg's headers, and owners of its objects.
 #pragma once
 
 extern "C" {
@@ -25,7 +25,7 @@ struct AvDelete
     void operator()(AVFormatContext *context) const { avformat_close_input(&context); }
     void operator()(AVIOContext *context) const
     {
-        av_freep(&context->buffer); // not always the one that it was made with
+        av_freep(&context->buffer); // it may have been reallocated
         avio_context_free(&context);
     }
     void operator()(SwsContext *context) const { sws_freeContext(context); }
@@ -35,7 +35,7 @@ struct AvDelete
 template<typename Object>
 using AvPointer = std::unique_ptr<Object, AvDelete>;
 
-/// What a failed call of the libraries returned, in words.
+/// The error text of a return value of FFmpeg's functions.
 [[nodiscard]] inline std::string avErrorText(int error)
 {
     std::string text(AV_ERROR_MAX_STRING_SIZE, '\0');

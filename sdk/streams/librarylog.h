@@ -1,4 +1,4 @@
-// Lines that FFmpeg's libraries write about what they do.
+// Log lines of FFmpeg's libraries.
 #pragma once
 
 #include <cstdarg>
@@ -6,17 +6,17 @@
 
 namespace sdk::streams {
 
-/// Gets lines of every level, on the thread that they are of. `source` is the object that speaks (with an
+/// Receives lines of every level, on the thread that logs them. `source` is the logging object (with an
 /// AVClass as its first member) or null; `level` is one of AV_LOG_*. `format` and `arguments` are those of
-/// printf, and end with the call.
+/// printf, and are valid during the call.
 using LibraryLogHandler = void (*)(void *source, int level, const char *format, va_list arguments);
 
-/// Sets what gets the lines of all threads without a ThreadLog. The libraries have one handler for the
-/// process, so it is set here by each part that needs one. Thread-safe.
+/// Sets the handler of the lines of all threads without a ThreadLog. FFmpeg has one log callback per process,
+/// which is shared by this function. Thread-safe.
 void setLibraryLogHandler(LibraryLogHandler handler);
 
-/// Takes the lines of the calling thread for as long as it lives: nobody else gets them. To be destroyed on
-/// the same thread, in reverse order of the making.
+/// Receives the lines of the calling thread during its lifetime, instead of any other handler. To be
+/// destroyed on the same thread, in reverse order of creation.
 class ThreadLog
 {
 public:

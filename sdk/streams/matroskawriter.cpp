@@ -8,7 +8,7 @@ namespace {
 
 constexpr int bufferSize = 16384;
 constexpr AVRational microsecond = {1, 1000000};
-constexpr AVRational millisecond = {1, 1000}; // what the container counts in
+constexpr AVRational millisecond = {1, 1000}; // time base of the container
 
 AvPointer<AVCodecParameters> parametersOf(const AVCodecContext &encoder)
 {
@@ -66,7 +66,7 @@ bool MatroskaWriter::openContainer()
         return false;
     }
     m_container->pb->seekable = 0;
-    // Times of decoding, which the container does not hold, begin below 0.
+    // Decoding times, which the container does not contain, start below 0.
     m_container->avoid_negative_ts = AVFMT_AVOID_NEG_TS_DISABLED;
     return true;
 }
@@ -79,7 +79,7 @@ bool MatroskaWriter::addTrack(const Track &track)
     stream->codecpar->codec_tag = 0; // the container has its own
     stream->time_base = millisecond;
     stream->avg_frame_rate = track.pictureRate;
-    // The samples that an encoder begins with are left out with the rest of what comes before the picture.
+    // The initial samples of an encoder are dropped with the other data before the first frame.
     stream->codecpar->initial_padding = 0;
     return true;
 }

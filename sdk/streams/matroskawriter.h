@@ -1,4 +1,4 @@
-// Puts encoded pictures and sound into a live stream.
+// Writes encoded video and sound to a live stream.
 #pragma once
 
 #include "sdk/streams/avpointers.h"
@@ -10,38 +10,40 @@
 
 namespace sdk::streams {
 
-/// AVPacket::stream_index of what a writer takes.
+/// AVPacket::stream_index of the packets of a writer.
 inline constexpr int pictureTrack = 0;
 inline constexpr int soundTrack = 1;
 
-/// The container of every live stream of this program: Matroska that nobody can seek in and that has no end,
-/// every packet whole as soon as it is written. Belongs to one thread.
+/// The container of every live stream of this application: unseekable, endless Matroska, in which every
+/// packet is complete as soon as it is written. Used by one thread.
 class MatroskaWriter
 {
 public:
-    /// How a track is encoded. Pictures need their size; what a decoder must know beforehand is `extradata`.
+    /// The encoding of a track. A video track needs its frame size; `extradata` has the decoder's
+    /// initialisation data.
     struct Track
     {
         const AVCodecParameters *codec = nullptr;
-        AVRational pictureRate = {0, 1}; ///< 0 when it is not known
+        AVRational pictureRate = {0, 1}; ///< 0 if unknown
     };
 
-    /// `sound` is null for a stream without. The header is among the bytes already. Returns null on failure.
+    /// `sound` is null for a stream without sound. The header is available by takeBytes() immediately.
+    /// Returns null on failure.
     [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const Track &picture, const Track *sound);
 
-    /// The same for what encoders make.
+    /// The same with the parameters of encoders.
     [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const AVCodecContext &picture,
                                                               const AVCodecContext *sound);
     ~MatroskaWriter();
     MatroskaWriter(const MatroskaWriter &) = delete;
     MatroskaWriter &operator=(const MatroskaWriter &) = delete;
 
-    /// Writes a packet in its AVPacket::time_base. Pictures come in the order of decoding; their times of
-    /// presentation may step back by up to `longestReordering`. The stream begins with the first key picture,
-    /// at time 0: what comes before it is left out. Returns false on failure.
+    /// Writes a packet in its AVPacket::time_base. Frames are in decoding order; their presentation times may
+    /// step back by up to `longestReordering`. The stream starts with the first key frame, at time 0: packets
+    /// before it are dropped. Returns false on failure.
     [[nodiscard]] bool write(const AVPacket &packet);
 
-    /// What was written since the last call.
+    /// The bytes that were written since the last call.
     [[nodiscard]] std::vector<std::uint8_t> takeBytes() { return std::exchange(m_bytes, {}); }
 
     static constexpr std::int64_t longestReordering = 1000; ///< milliseconds
@@ -56,8 +58,8 @@ private:
     std::vector<std::uint8_t> m_bytes;
     AVFormatContext *m_container = nullptr;
     bool m_hasBegun = false;
-    std::int64_t m_begin = 0; // time of the first picture, in microseconds
-    /// The latest time of decoding that was written to each track, in milliseconds.
+    std::int64_t m_begin = 0; // time of the first frame, in microseconds
+    /// The latest decoding time that was written to each track, in milliseconds.
     std::array<std::int64_t, 2> m_decoding = {-longestReordering, -longestReordering};
 };
 

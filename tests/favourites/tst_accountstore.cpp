@@ -1,4 +1,4 @@
-// The accounts that the user keeps, in a file.
+// The stored accounts of the user in a file.
 #include "favourites/accountstore.h"
 #include "files/filereplacement.h"
 #include "tests/datatable.h"
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QFile::remove(m_path);
     }
 
-    void accountsOutliveTheProgram()
+    void accountsAreStoredPersistently()
     {
         {
             AccountStore store(m_path);
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(again.deviceCounts(), (QHash<QString, int>{{"West", 1}}));
     }
 
-    /// One account for all devices that have the same one, and none is lost under the name of another.
+    /// Devices with the same account share one entry, and no entry replaces another of the same name.
     void aNewPasswordIsKept()
     {
         AccountStore store(m_path);

@@ -14,7 +14,7 @@ class TestAESEncryption : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    /// A block by itself is the same in ECB; the other modes chain two.
+    /// ECB is tested with single blocks; the other modes chain several.
     void ciphersPublishedVectors_data()
     {
         const auto row =
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, key);
         QFETCH(QByteArray, text);
         QFETCH(QByteArray, cipherText);
-        const AESEncryption cipher(level, mode, AESEncryption::ZERO); // adds nothing to whole blocks
+        const AESEncryption cipher(level, mode, AESEncryption::ZERO); // adds nothing to complete blocks
         const QByteArray iv = bytes("000102030405060708090a0b0c0d0e0f");
         QCOMPARE(cipher.encode(text, key, iv).toHex(), cipherText.toHex());
         QCOMPARE(cipher.decode(cipherText, key, iv).toHex(), text.toHex());
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QFETCH(AESEncryption::Padding, padding);
         QFETCH(int, length);
         QFETCH(QByteArray, added);
-        // Ends in the mark of the one padding, for the others in a byte that might be a count.
+        // Ends with the mark of ISO padding, which is also a possible count of PKCS7.
         const QByteArray text = QByteArray(length, '\x80');
         const QByteArray key(16, 'k');
         const QByteArray iv(16, 'i');
@@ -101,7 +101,7 @@ private Q_SLOTS:
         }
     }
 
-    void removesWhatOnlyLooksLikePadding_data()
+    void removesBytesThatLookLikePadding_data()
     {
         const auto row =
             dataTable<AESEncryption::Padding, QByteArray, QByteArray>({"padding", "text", "rest"});
@@ -111,7 +111,7 @@ private Q_SLOTS:
         row("ISO, text behind the mark", AESEncryption::ISO, bytes("61806280ff"), bytes("618062"));
     }
 
-    void removesWhatOnlyLooksLikePadding()
+    void removesBytesThatLookLikePadding()
     {
         QFETCH(AESEncryption::Padding, padding);
         QFETCH(QByteArray, text);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         const QByteArray iv(ivLength, 'i');
         QCOMPARE(cipher.encode("text", key, iv).size(), accepted ? 16 : 0);
         QCOMPARE(cipher.decode(QByteArray(32, 'c'), key, iv).size(), accepted ? 32 : 0);
-        for (const int length : {0, 1, 15, 17}) // not whole blocks
+        for (const int length : {0, 1, 15, 17}) // not complete blocks
             QCOMPARE(cipher.decode(QByteArray(length, 'c'), key, iv), QByteArray());
     }
 };

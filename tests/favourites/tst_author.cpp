@@ -12,7 +12,7 @@
 
 namespace {
 
-// The meta-object compiler loses its way in raw strings, so quotation marks are single here.
+// The meta-object compiler fails on raw strings, so single quotation marks are used here.
 const char *const favouriteText = "{\n"
                                   "    'type': '1',\n"
                                   "    'addr': '10.0.0.1',\n"
@@ -112,7 +112,7 @@ private Q_SLOTS:
                  input);
         QCOMPARE(logged.last(), QString("debug 清理后路径: \"%1\"").arg(cleaned));
 
-        // The folder is found again under its path and its URL, and the file goes under either.
+        // The folder can be read by its path and by its URL, and so can the file be deleted.
         const QString url = QUrl::fromLocalFile(path(folder)).toString(QUrl::FullyEncoded);
         QCOMPARE(m_author.readJsonFilesFromFolder(url).keys(), QStringList("10.0.0.1_80.json"));
         QCOMPARE(m_author.readJsonFilesFromFolder(path(folder)), m_author.readJsonFilesFromFolder(url));
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(read("full/10.0.0.1_80.json"), QByteArray("before"));
     }
 
-    void skipsWhatIsNoFavourite_data()
+    void skipsFilesThatAreNotFavourites_data()
     {
         // warning: empty: the file is listed
         const auto row = dataTable<QByteArray, QString, QStringList>({"text", "warning", "values"});
@@ -186,7 +186,7 @@ private Q_SLOTS:
             "JSON解析错误 ( \"a.json\" ): \"too deeply nested document\" at offset 1025", QStringList());
     }
 
-    void skipsWhatIsNoFavourite()
+    void skipsFilesThatAreNotFavourites()
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, warning);

@@ -11,7 +11,7 @@ QStringList favourite(const QString &type, const QString &address, const QString
     return {type, address, "37777", "admin", "cipher of " + address, note};
 }
 
-/// Three favourites, which are listed by file name.
+/// Three favourites, which are sorted by file name.
 QVariantMap threeFiles()
 {
     return {{"b.json", favourite("1", "OV7QK2M4", "Site")},
@@ -52,7 +52,7 @@ private Q_SLOTS:
         model.load({{"x.json", values}});
         QTEST(model.get(0).value("type").toString(), "type");
         QTEST(model.textOf(0), "text");
-        // What a login needs is what the file holds, to the letter.
+        // The login data are exactly those of the file.
         const QVariantMap device = model.device("x.json");
         QTEST(device.value("mode").toInt(), "mode");
         QCOMPARE(device.value("address").toString(), values.value(1));
@@ -94,8 +94,8 @@ private Q_SLOTS:
         QCOMPARE(model.totalCount(), 3);
     }
 
-    /// A favourite that the filter hides keeps its tick, but nothing is done to it.
-    void actsOnWhatIsShown()
+    /// A favourite that the filter hides stays checked, but actions do not apply to it.
+    void actionsApplyToShownRows()
     {
         FavouriteListModel model;
         model.load(threeFiles());
@@ -114,8 +114,8 @@ private Q_SLOTS:
         QCOMPARE(model.checkState(), Qt::Unchecked);
     }
 
-    /// Loading again after a change leaves the ticks and results of the favourites that are still there.
-    void keepsWhatIsKnown()
+    /// Loading again after a change keeps the check marks and results of the remaining favourites.
+    void keepsCheckMarksAndResults()
     {
         FavouriteListModel model;
         model.load(threeFiles());

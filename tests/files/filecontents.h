@@ -1,4 +1,4 @@
-// Whole files, read and written.
+// Reading and writing complete files.
 #pragma once
 
 #include <QFile>
@@ -10,7 +10,7 @@ inline QByteArray fileContents(const QString &path)
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Returns whether all of it is in the file.
+/// Returns true if all bytes are in the file.
 inline bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);

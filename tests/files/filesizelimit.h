@@ -1,10 +1,10 @@
-// A full disk for the files that this process writes.
+// Simulates a full disk for the files of this process.
 #pragma once
 
 #include <csignal>
 #include <sys/resource.h>
 
-/// No file can grow beyond `bytes` while the object lives: a write is cut there, as on a full disk.
+/// While the object exists, no file can grow beyond `bytes`: a write is truncated there, as on a full disk.
 class FileSizeLimit
 {
 public:

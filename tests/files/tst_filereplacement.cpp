@@ -30,7 +30,7 @@ private Q_SLOTS:
                 _exit(1);
             }
             QVERIFY(child > 0);
-            QTest::qWait(kill % 7); // another moment of the save each time
+            QTest::qWait(kill % 7); // a different moment of the save each time
             ::kill(child, SIGKILL);
             int status = 0;
             QCOMPARE(waitpid(child, &status, 0), child);

@@ -1,4 +1,4 @@
-// A back end whose devices have the pictures that a test gives them.
+// A back end whose devices have the images of a test.
 #pragma once
 
 #include "tests/device/rowsbackend.h"
@@ -24,7 +24,7 @@ public:
 
     static QString ipportOf(int number) { return QStringLiteral("192.168.1.%1:37777").arg(number); }
 
-    /// A row, and what its device does.
+    /// Adds a row and its device.
     void addDevice(int number, const QString &name, const Device &device)
     {
         add({.address = QStringLiteral("192.168.1.%1").arg(number).toStdString(),
@@ -44,7 +44,7 @@ public:
         m_isReleased = true;
         m_changed.notify_all();
     }
-    /// The orders as "address only-channel", in the order in which they were carried out.
+    /// The orders as "address only-channel", in the order of their execution.
     [[nodiscard]] QStringList takeOrders()
     {
         const std::lock_guard lock(m_mutex);
@@ -131,7 +131,7 @@ struct PicturesFactory
                                  return devices;
                              }}}};
 
-    /// The rows as a page gives them.
+    /// The rows in the form of a page.
     [[nodiscard]] QVariantList rows() const
     {
         QVariantList rows;

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QUrl>
 
-/// The pictures of many devices: fetched by batches, kept in files, saved as snapshots.
+/// Images of many devices: fetched by batches, stored in files, saved as snapshots.
 class TestPictureGallery : public QObject
 {
     Q_OBJECT
@@ -80,7 +80,7 @@ private Q_SLOTS:
         devices().addDevice(24, "yard", {});
         QVERIFY(m_gallery->show(m_site->rows()));
         QCOMPARE(m_gallery->deviceCount(), 5);
-        QCOMPARE(m_gallery->rowCount(), 5); // until the devices have answered
+        QCOMPARE(m_gallery->rowCount(), 5); // until the devices have responded
         awaitEnd();
         const QStringList expected = {
             "gate: taken",
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(QImage(fileOf(1)) != QImage(fileOf(3)));
         QCOMPARE(m_gallery->devices().at(1).toMap()["ipport"], "192.168.1.21:37777");
         QCOMPARE(m_gallery->get(3)["channel"].toInt(), 2);
-        QCOMPARE(devices().mostAtOnce(), 2);        // as the settings say
+        QCOMPARE(devices().mostAtOnce(), 2);        // as set
         QCOMPARE(devices().takeOrders().size(), 5); // each once
     }
 
@@ -143,13 +143,13 @@ private Q_SLOTS:
         QCOMPARE(devices().takeOrders().last(), "192.168.1.22:37777 -1");
         QCOMPARE(cells().at(2), "shed: taken");
 
-        devices().ipv4.clear(); // a search has begun
+        devices().ipv4.clear(); // a search has started
         QVERIFY(m_gallery->fetch(2));
         awaitEnd();
         QCOMPARE(devices().takeOrders(), QStringList("192.168.1.22:37777 -1"));
     }
 
-    void whatIsStoppedKeepsItsPicture()
+    void aStoppedCellKeepsItsImage()
     {
         devices().addDevice(20, "gate", {});
         devices().addDevice(21, "yard", {.result = 5});
@@ -163,7 +163,7 @@ private Q_SLOTS:
         awaitEnd();
         QCOMPARE(cells(), (QStringList{"gate: taken", QStringLiteral("yard: failed 未执行")}));
         QVERIFY(QFile::exists(fileOf(0)));
-        QCOMPARE(m_batches->failedMarks()->count(), 0); // to look at devices is no work with them
+        QCOMPARE(m_batches->failedMarks()->count(), 0); // fetching images is not a change of devices
     }
 
     void picturesAreSavedAsSnapshots()
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QCOMPARE(QDir("snap/192.168.1.21_37777").entryList(QDir::Files), (QStringList{"0.jpg", "2.jpg"}));
     }
 
-    void whatIsDroppedDoesNotComeBack()
+    void removedCellsDoNotReturn()
     {
         const auto temporaryFolders = [] {
             return QDir(QDir::tempPath()).entryList({"tst_picturegallery-*"});
@@ -206,10 +206,10 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(cells(), QStringList("gate: waiting")); // what came of it before does not count
         m_gallery->clear();
-        QTRY_COMPARE(temporaryFolders(), before); // also what was written meanwhile
+        QTRY_COMPARE(temporaryFolders(), before); // including files that were written meanwhile
     }
 
-    void moreDevicesThanAGalleryHas()
+    void furtherDevicesAreOmitted()
     {
         for (int number = 0; number < PictureGallery::maximumDevices + 3; ++number)
             devices().add({.mac = numberedMac(number)});

@@ -1,4 +1,5 @@
-// The roles of the configuration library, the decoder library and the port agent, filled by C functions.
+// The interfaces of the configuration library, the decoder library and the port agent, implemented by C
+// functions.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"

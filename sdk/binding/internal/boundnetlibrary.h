@@ -1,11 +1,11 @@
-// The network library's roles, filled by C functions.
+// The network library's interface, implemented by C functions.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"
 
 namespace sdk::binding {
 
-/// Threads and errors are the library's own affair.
+/// The closed library defines its threads and error codes.
 class BoundNetLibrary : public NetLibrary
 {
 public:

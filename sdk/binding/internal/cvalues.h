@@ -1,4 +1,4 @@
-// Values as the C functions of entrypoints.h take them.
+// Conversion of values for the C functions of entrypoints.h.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace sdk::binding {
 
-/// Longer times are cut.
+/// Longer times are limited to the largest value.
 [[nodiscard]] inline std::int32_t cValue(std::chrono::milliseconds time)
 {
     return static_cast<std::int32_t>(

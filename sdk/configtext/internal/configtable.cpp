@@ -106,7 +106,7 @@ constexpr std::array tables = {
     ConfigTable{"Lighting_V2", sizeof(LightingRecord), picturetables::lightingFields},
 };
 
-/// Bytes from the field's offset that it and what is in it take.
+/// The size of a field in bytes, with its inner fields.
 constexpr std::size_t fieldSize(const ConfigField &field)
 {
     if (field.kind == ConfigFieldKind::Text || field.kind == ConfigFieldKind::ByteFlag)
@@ -119,7 +119,7 @@ constexpr std::size_t fieldSize(const ConfigField &field)
     return size;
 }
 
-/// Every field lies behind the record's own size and ends within the record.
+/// Every field is after the record's size field and ends within the record.
 constexpr bool fieldsLieInRecord(const ConfigTable &table)
 {
     return std::all_of(table.fields.begin(), table.fields.end(), [&table](const ConfigField &field) {

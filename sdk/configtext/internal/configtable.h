@@ -1,4 +1,4 @@
-// What each configuration text holds, as tables: a new configuration is a new table and no new code.
+// The contents of configuration texts as tables: a new configuration is a new table, without new code.
 #pragma once
 
 #include <cstddef>
@@ -10,11 +10,11 @@ namespace sdk {
 
 enum class ConfigFieldKind
 {
-    Number,   ///< std::int32_t from `minimum` to `maximum`; a whole number in JSON
+    Number,   ///< std::int32_t from `minimum` to `maximum`; an integer in JSON
     Flag,     ///< std::int32_t 0 or 1; true or false in JSON
     ByteFlag, ///< std::uint8_t 0 or 1; true or false in JSON
-    Text,     ///< `size` chars, UTF-8, ended by a zero; a text in JSON
-    Object,   ///< `inner` fields, whose offsets count from this field's; an object in JSON
+    Text,     ///< `size` chars, UTF-8, null-terminated; a string in JSON
+    Object,   ///< `inner` fields, whose offsets are relative to this field; an object in JSON
 };
 
 /// One key of a configuration and the field of the record that it fills.
@@ -33,7 +33,7 @@ struct ConfigField
 struct ConfigTable
 {
     std::string_view name;    ///< of the configuration
-    std::uint32_t recordSize; ///< the record begins with its own size, an std::uint32_t
+    std::uint32_t recordSize; ///< the record starts with its size, a std::uint32_t
     std::span<const ConfigField> fields;
 };
 

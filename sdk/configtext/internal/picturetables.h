@@ -1,4 +1,4 @@
-// Tables of the configurations of pictures: "Encode", "VideoColor" and "Lighting_V2".
+// Tables of the image configurations: "Encode", "VideoColor" and "Lighting_V2".
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -12,7 +12,7 @@ namespace sdk::picturetables {
 
 constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t largestSide = 65535;
-constexpr std::int32_t largestValue = 10000; ///< of what a camera's slider or list sets
+constexpr std::int32_t largestValue = 10000; ///< of a camera's setting with a slider or a list
 
 constexpr ConfigField number(const char *key, std::size_t offset, std::int32_t maximum)
 {

@@ -8,7 +8,7 @@
 #include <map>
 #include <string>
 
-/// Entries that do more than to note their call.
+/// Entries that do more than record their call.
 inline const std::map<std::string, std::string> &livelyEntries()
 {
     static const std::map<std::string, std::string> entries = {{"NetLoginSecure", "echoLogin"},
@@ -19,7 +19,7 @@ inline const std::map<std::string, std::string> &livelyEntries()
     return entries;
 }
 
-/// The text of a binding file. `entryOf` gives the name or the ordinal of a function's entry.
+/// The text of a binding file. `entryOf` returns the name or the ordinal of a function's entry.
 inline std::string bindingText(const std::string &library,
                                const std::function<std::string(const std::string &function)> &entryOf)
 {

@@ -1,4 +1,4 @@
-// A library that fills every role. Each function notes that it was called; a few do more.
+// A library that implements every interface. Each function records its call; a few do more.
 #include "sdk/binding/entrypoints.h"
 
 #include <algorithm>
@@ -34,7 +34,7 @@ SDK_DECODER_ENTRY_POINTS(FAKE_ENTRY)
 SDK_AGENT_ENTRY_POINTS(FAKE_ENTRY)
 // NOLINTEND(bugprone-macro-parentheses)
 
-/// The names since the last call, each with a blank behind it.
+/// The names since the last call, each followed by a space.
 const char *takeNames()
 {
     static std::string taken;

@@ -1,4 +1,4 @@
-// Binds a library by ordinals and calls one function of each role. In plain C++, for systems that have
+// Binds a library by ordinals and calls one function of each interface. In plain C++, for systems that have
 // ordinals: scripts/binding-windows builds and runs it.
 //
 //   ordinalcase --files LIBRARY   writes LIBRARY.def, which gives each entry an ordinal, and
@@ -31,7 +31,7 @@ int writeFiles(const std::string &library)
     return 0;
 }
 
-/// The name of the first thing that is wrong; empty if nothing is.
+/// The name of the first failed check; empty on success.
 std::string fault(const sdk::SdkLibraries &libraries)
 {
     sdk::LoginSecureInput input{};

@@ -130,7 +130,7 @@ private:
     }
 
 private Q_SLOTS:
-    void eachRoleCallsItsFunction()
+    void eachOperationCallsItsFunction()
     {
         const SdkLibraries libraries = bound(bindingText(FAKE_LIBRARY, noting));
         QVERIFY(libraries.net && libraries.config && libraries.decoder && libraries.p2pAgent);

@@ -1,4 +1,4 @@
-// Configuration text: what it unpacks to, what is refused, and that packing gives it back.
+// Configuration text: unpacking, refused texts, and packing as the reverse.
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
 #include "sdk/configrecords.h"
@@ -27,7 +27,7 @@ class ConfigTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void unpacksWhatThereIs()
+    void unpacksExistingKeys()
     {
         ConfigTextLibrary library;
         NetworkRecord record = {};
@@ -44,7 +44,7 @@ private Q_SLOTS:
         QCOMPARE(record.reserved.back(), 7);
     }
 
-    void cutsTextsBetweenLetters_data()
+    void truncatesStringsBetweenCharacters_data()
     {
         const auto row = dataTable<QString, QByteArray>({"name", "kept"});
         const QByteArray letters(60, 'a');
@@ -53,7 +53,7 @@ private Q_SLOTS:
         row("zero inside", u"a\\u0000b"_s, QByteArray("a"));
     }
 
-    void cutsTextsBetweenLetters()
+    void truncatesStringsBetweenCharacters()
     {
         QFETCH(QString, name);
         QFETCH(QByteArray, kept);
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QVERIFY(!packConfigText("AutoMaintain", &byteOutOfRange, sizeof(byteOutOfRange)));
 
         NetworkRecord broken = {};
-        broken.hostName.fill('\xe5'); // half letters to the last byte
+        broken.hostName.fill('\xe5'); // incomplete characters up to the last byte
         const std::optional<QByteArray> text = packConfigText("Network", &broken, sizeof(broken));
         QVERIFY(text && QString::fromUtf8(*text).contains(QChar::ReplacementCharacter));
     }
