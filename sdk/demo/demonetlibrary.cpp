@@ -52,6 +52,11 @@ std::int32_t usualPort(const DemoSite &site)
 
 } // namespace
 
+DemoNetLibrary::DemoNetLibrary(DemoSite &site)
+    : m_site(site), m_streams(site, m_sessions), m_upgrades(site, m_sessions)
+{
+}
+
 DemoNetLibrary::~DemoNetLibrary()
 {
     endEverything();

@@ -23,6 +23,8 @@
 
 namespace sdk::demo {
 
+class DemoSite;
+
 /// Error codes are those of DemoError for misuse, and of NetError for what devices answer. Every request,
 /// malformed ones too, goes to the site's record. Reachable devices answer logins, queries and requests at
 /// once; the others take their time on the site's clock, which NetCleanup, NetLogout and NetCancelCalls cut
@@ -35,13 +37,10 @@ public:
     static_assert(connectTime <= longestLogin);
 
     /// `site` must outlive the library.
-    explicit DemoNetLibrary(DemoSite &site)
-        : m_site(site), m_streams(site, m_sessions), m_upgrades(site, m_sessions)
-    {
-    }
+    explicit DemoNetLibrary(DemoSite &site);
+    ~DemoNetLibrary() override;
 
     [[nodiscard]] DemoSite &site() const { return m_site; }
-    ~DemoNetLibrary() override;
 
     bool NetInit() override;
     void NetCleanup() override;

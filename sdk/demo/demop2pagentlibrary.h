@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/demo/internal/agentevents.h"
+#include "sdk/demo/sitestate.h"
 #include "sdk/p2pagentlibrary.h"
 
 #include <QJsonObject>
@@ -16,14 +17,6 @@ namespace sdk::demo {
 
 class DemoSite;
 class HttpPort;
-
-/// Where a local port leads.
-struct Tunnel
-{
-    QString mac;
-    int devicePort;
-    bool isBroken; ///< the local port is there still, but what goes in does not come out
-};
 
 /// Maps ports of the site's devices that have a P2P ID. The local ports are real ones of 127.0.0.1, and one
 /// to a device's web port speaks HTTP. Every

@@ -12,8 +12,6 @@
 
 #include <QFileInfo>
 
-#include <set>
-
 using namespace Qt::StringLiterals;
 
 // Outside every namespace, as Q_INIT_RESOURCE asks. It names the resources, so that a program that links this
@@ -90,16 +88,11 @@ std::shared_ptr<DemoSite> DemoSite::create(const Scene &scene, std::shared_ptr<C
 }
 
 DemoSite::DemoSite(const Scene &scene, std::shared_ptr<Clock> clock)
-    : m_title(scene.title), m_description(scene.description), m_localAddress(scene.localAddress),
-      m_localIpv6(scene.localIpv6), m_clock(std::move(clock)),
-      m_config(std::make_shared<ConfigTextLibrary>()),
+    : SiteState(scene, std::move(clock)), m_config(std::make_shared<ConfigTextLibrary>()),
       m_httpResponder(std::make_unique<HttpResponder>(*this)),
       m_portAgent(std::make_unique<DemoP2PAgentLibrary>(*this)),
       m_net(std::make_unique<DemoNetLibrary>(*this))
 {
-    m_devices.reserve(scene.devices.size());
-    for (const SceneDevice &device : scene.devices)
-        setDevice(device);
 }
 
 DemoSite::~DemoSite() = default;
@@ -111,104 +104,13 @@ SdkLibraries DemoSite::libraries()
     libraries.net = std::shared_ptr<NetLibrary>(shared_from_this(), m_net.get());
     libraries.p2pAgent = std::shared_ptr<P2PAgentLibrary>(shared_from_this(), m_portAgent.get());
     libraries.config = m_config;
-    libraries.clock = m_clock;
+    libraries.clock = sharedClock();
     return libraries;
 }
 
-QList<SceneDevice> DemoSite::devices() const
+std::optional<Tunnel> DemoSite::tunnel(int localPort) const
 {
-    const std::lock_guard lock(m_mutex);
-    return m_devices;
-}
-
-std::optional<SceneDevice> DemoSite::device(const QString &mac) const
-{
-    const std::lock_guard lock(m_mutex);
-    const qsizetype place = placeLocked(mac);
-    return place < 0 ? std::nullopt : std::optional(m_devices.at(place));
-}
-
-void DemoSite::visitDevices(const std::function<void(const SceneDevice &)> &visitor) const
-{
-    const std::lock_guard lock(m_mutex);
-    for (const SceneDevice &device : m_devices)
-        visitor(device);
-}
-
-void DemoSite::visitDevicesAt(const QStringList &addresses,
-                              const std::function<void(const SceneDevice &)> &visitor) const
-{
-    const std::lock_guard lock(m_mutex);
-    std::set<qsizetype> places;
-    for (const QString &address : addresses) {
-        for (const QString &mac : m_addresses.macsAt(address))
-            places.insert(placeLocked(mac));
-    }
-    for (const qsizetype place : places)
-        visitor(m_devices.at(place));
-}
-
-void DemoSite::setDevice(const SceneDevice &device)
-{
-    const std::lock_guard lock(m_mutex);
-    SceneDevice lowerCase = device;
-    lowerCase.mac = device.mac.toLower();
-    const qsizetype place = placeLocked(lowerCase.mac);
-    if (place >= 0) {
-        m_addresses.remove(m_devices.at(place));
-        m_devices[place] = lowerCase;
-    } else {
-        m_placeOfMac.insert(lowerCase.mac, m_devices.size());
-        m_devices.append(lowerCase);
-    }
-    m_addresses.add(lowerCase);
-}
-
-bool DemoSite::removeDevice(const QString &mac)
-{
-    const std::lock_guard lock(m_mutex);
-    const qsizetype place = placeLocked(mac);
-    if (place < 0)
-        return false;
-    m_addresses.remove(m_devices.at(place));
-    m_devices.removeAt(place);
-    m_placeOfMac.remove(mac.toLower());
-    for (qsizetype later = place; later < m_devices.size(); ++later)
-        m_placeOfMac[m_devices.at(later).mac] = later;
-    return true;
-}
-
-bool DemoSite::changeDevice(
-    const QString &mac,
-    const std::function<void(SceneDevice &device, const DeviceAddresses &addresses)> &change)
-{
-    const std::lock_guard lock(m_mutex);
-    const qsizetype place = placeLocked(mac);
-    if (place < 0)
-        return false;
-    SceneDevice &device = m_devices[place];
-    const SceneDevice before = device;
-    change(device, m_addresses);
-    if (device.address != before.address || device.ipv6 != before.ipv6) {
-        m_addresses.remove(before);
-        m_addresses.add(device);
-    }
-    return true;
-}
-
-bool DemoSite::setFault(const QString &mac, const FaultSetting &setting)
-{
-    return changeDevice(mac, [&setting](SceneDevice &device, const DeviceAddresses &) {
-        device.faults.removeIf(
-            [&setting](const FaultSetting &other) { return other.fault == setting.fault; });
-        device.faults.append(setting);
-    });
-}
-
-bool DemoSite::clearFault(const QString &mac, Fault fault)
-{
-    return changeDevice(mac,
-                        [fault](SceneDevice &device, const DeviceAddresses &) { device.clearFault(fault); });
+    return m_portAgent->tunnel(localPort);
 }
 
 QString DemoSite::httpProxy()
@@ -217,18 +119,6 @@ QString DemoSite::httpProxy()
     if (!m_httpProxy)
         m_httpProxy = HttpPort::open(*m_httpResponder, HttpPort::Role::Proxy, 0);
     return m_httpProxy ? u"http://127.0.0.1:%1"_s.arg(m_httpProxy->port()) : QString();
-}
-
-QString DemoSite::localAddressFor(const SceneDevice &device, int ipVersion) const
-{
-    if (ipVersion == 6)
-        return m_localIpv6;
-    return device.address.startsWith(u"127.") ? u"127.0.0.1"_s : m_localAddress;
-}
-
-qsizetype DemoSite::placeLocked(const QString &mac) const
-{
-    return m_placeOfMac.value(mac.toLower(), -1);
 }
 
 } // namespace sdk::demo

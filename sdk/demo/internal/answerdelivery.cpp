@@ -1,9 +1,9 @@
 #include "sdk/demo/internal/answerdelivery.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/logging.h"
 #include "sdk/demo/internal/searchanswers.h"
+#include "sdk/demo/sitestate.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ thread_local bool insideHandler = false;
 
 } // namespace
 
-AnswerDelivery::AnswerDelivery(DemoSite &site, AnswerReceiver receiver, std::vector<PlannedAnswer> plan)
+AnswerDelivery::AnswerDelivery(SiteState &site, AnswerReceiver receiver, std::vector<PlannedAnswer> plan)
     : m_site(site), m_receiver(std::move(receiver)), m_plan(std::move(plan))
 {
 }

@@ -28,7 +28,7 @@ class AnswerDelivery
 {
 public:
     /// `site` must outlive the delivery.
-    AnswerDelivery(DemoSite &site, AnswerReceiver receiver, std::vector<PlannedAnswer> plan);
+    AnswerDelivery(SiteState &site, AnswerReceiver receiver, std::vector<PlannedAnswer> plan);
     ~AnswerDelivery();
     AnswerDelivery(const AnswerDelivery &) = delete;
     AnswerDelivery &operator=(const AnswerDelivery &) = delete;
@@ -54,7 +54,7 @@ private:
     void deliver(const PlannedAnswer &planned);
     void finishBy(std::int64_t lastTime);
 
-    DemoSite &m_site;
+    SiteState &m_site;
     AnswerReceiver m_receiver;
     std::vector<PlannedAnswer> m_plan;
     std::atomic<std::int64_t> m_lastTime = std::numeric_limits<std::int64_t>::max();

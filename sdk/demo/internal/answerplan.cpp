@@ -1,6 +1,6 @@
 #include "sdk/demo/internal/answerplan.h"
 
-#include "sdk/demo/demosite.h"
+#include "sdk/demo/sitestate.h"
 
 #include <algorithm>
 
@@ -34,7 +34,7 @@ void sortByTime(std::vector<PlannedAnswer> &answers)
 
 } // namespace
 
-std::vector<PlannedAnswer> planLocalSearch(const DemoSite &site, SearchKind kind, std::int64_t start)
+std::vector<PlannedAnswer> planLocalSearch(const SiteState &site, SearchKind kind, std::int64_t start)
 {
     std::vector<PlannedAnswer> answers;
     site.visitDevices([&](const SceneDevice &device) {
@@ -49,7 +49,7 @@ std::vector<PlannedAnswer> planLocalSearch(const DemoSite &site, SearchKind kind
     return answers;
 }
 
-std::vector<PlannedAnswer> planAddressSearch(const DemoSite &site, SearchKind kind,
+std::vector<PlannedAnswer> planAddressSearch(const SiteState &site, SearchKind kind,
                                              const QSet<QString> &addresses, std::int64_t start,
                                              std::int64_t end)
 {

@@ -9,7 +9,7 @@
 
 namespace sdk::demo {
 
-class DemoSite;
+class SiteState;
 
 /// The two kinds of search that devices know. Every device knows the second.
 enum class SearchKind
@@ -27,12 +27,12 @@ struct PlannedAnswer
 };
 
 /// The answers to a local search that starts at `start`, in the order of their times.
-[[nodiscard]] std::vector<PlannedAnswer> planLocalSearch(const DemoSite &site, SearchKind kind,
+[[nodiscard]] std::vector<PlannedAnswer> planLocalSearch(const SiteState &site, SearchKind kind,
                                                          std::int64_t start);
 
 /// The answers to a search of `addresses` (IPv4 and canonical IPv6 texts) that starts at `start`, in the
 /// order of their times; those that would come after `end` are lost.
-[[nodiscard]] std::vector<PlannedAnswer> planAddressSearch(const DemoSite &site, SearchKind kind,
+[[nodiscard]] std::vector<PlannedAnswer> planAddressSearch(const SiteState &site, SearchKind kind,
                                                            const QSet<QString> &addresses, std::int64_t start,
                                                            std::int64_t end);
 

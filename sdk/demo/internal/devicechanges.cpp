@@ -1,8 +1,8 @@
 #include "sdk/demo/internal/devicechanges.h"
 
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/addresstext.h"
 #include "sdk/demo/internal/fieldtext.h"
+#include "sdk/demo/sitestate.h"
 
 namespace sdk::demo {
 
@@ -63,7 +63,7 @@ NetError changeAddress(SceneDevice &device, const DeviceAddresses &addresses,
 
 } // namespace
 
-NetError giveFirstAccount(DemoSite &site, const QString &mac, const SceneAccount &account)
+NetError giveFirstAccount(SiteState &site, const QString &mac, const SceneAccount &account)
 {
     NetError error = NetError::ConnectTimeout;
     site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &) {
@@ -81,7 +81,7 @@ NetError giveFirstAccount(DemoSite &site, const QString &mac, const SceneAccount
     return error;
 }
 
-NetError giveAddress(DemoSite &site, const QString &mac, const SearchDeviceInformation &wanted)
+NetError giveAddress(SiteState &site, const QString &mac, const SearchDeviceInformation &wanted)
 {
     NetError error = NetError::ConnectTimeout;
     const QString localAddress = site.localAddress();

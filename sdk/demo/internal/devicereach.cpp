@@ -1,10 +1,9 @@
 #include "sdk/demo/internal/devicereach.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demop2pagentlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/addresstext.h"
 #include "sdk/demo/internal/deviceanswers.h"
+#include "sdk/demo/sitestate.h"
 
 namespace sdk::demo {
 
@@ -24,7 +23,7 @@ int portOf(const SceneDevice &device, DevicePort kind)
     return 0;
 }
 
-DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int localPort, DevicePort kind)
+DeviceReach reachThroughTunnel(const SiteState &site, const Tunnel &tunnel, int localPort, DevicePort kind)
 {
     const std::optional<SceneDevice> device = site.device(tunnel.mac);
     if (tunnel.isBroken || !device || !device->isListening(site.clock().now()))
@@ -36,11 +35,11 @@ DeviceReach reachThroughTunnel(const DemoSite &site, const Tunnel &tunnel, int l
 
 } // namespace
 
-DeviceReach reach(const DemoSite &site, const QString &address, int port, DevicePort kind)
+DeviceReach reach(const SiteState &site, const QString &address, int port, DevicePort kind)
 {
     const bool isLoopback = address == QLatin1String("127.0.0.1");
     if (isLoopback) {
-        if (const std::optional<Tunnel> tunnel = site.portAgent().tunnel(port))
+        if (const std::optional<Tunnel> tunnel = site.tunnel(port))
             return reachThroughTunnel(site, *tunnel, port, kind);
     }
     const QString ipv6 = canonicalIpv6Address(address);
@@ -63,13 +62,13 @@ DeviceReach reach(const DemoSite &site, const QString &address, int port, Device
     return found;
 }
 
-bool isReachable(const DemoSite &site, const DemoSession &session)
+bool isReachable(const SiteState &site, const DemoSession &session)
 {
     if (session.localPort == 0) {
         const std::optional<SceneDevice> device = site.device(session.mac);
         return device && device->isListening(site.clock().now());
     }
-    const std::optional<Tunnel> tunnel = site.portAgent().tunnel(session.localPort);
+    const std::optional<Tunnel> tunnel = site.tunnel(session.localPort);
     return tunnel && tunnel->mac == session.mac &&
            reachThroughTunnel(site, *tunnel, session.localPort, DevicePort::Service).kind ==
                DeviceReach::Kind::Answers;

@@ -5,7 +5,7 @@
 
 namespace sdk::demo {
 
-class DemoSite;
+class SiteState;
 
 /// Which of a device's ports is meant.
 enum class DevicePort
@@ -29,10 +29,10 @@ struct DeviceReach
 
 /// Looks for the first device of the scene at `address` (IPv4 or IPv6), or behind the local port of the port
 /// agent when the address is 127.0.0.1.
-[[nodiscard]] DeviceReach reach(const DemoSite &site, const QString &address, int port,
+[[nodiscard]] DeviceReach reach(const SiteState &site, const QString &address, int port,
                                 DevicePort kind = DevicePort::Service);
 
 /// Whether the device of `session` responds where the session has reached it.
-[[nodiscard]] bool isReachable(const DemoSite &site, const DemoSession &session);
+[[nodiscard]] bool isReachable(const SiteState &site, const DemoSession &session);
 
 } // namespace sdk::demo

@@ -1,9 +1,9 @@
 #include "sdk/demo/internal/deviceupgrade.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/devicereach.h"
 #include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/sitestate.h"
 
 #include <utility>
 
@@ -26,7 +26,7 @@ bool strikes(const SceneDevice &device, Fault kind, UpgradePhase phase, int perc
 
 } // namespace
 
-DeviceUpgrade::DeviceUpgrade(DemoSite &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order)
+DeviceUpgrade::DeviceUpgrade(SiteState &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order)
     : m_site(site), m_sessions(sessions), m_handle(handle), m_order(std::move(order)),
       m_thread([this](const std::stop_token &stop) { run(stop); })
 {

@@ -17,7 +17,7 @@
 
 namespace sdk::demo {
 
-class DemoSite;
+class SiteState;
 struct SceneDevice;
 
 /// What an upgrade was begun with.
@@ -39,7 +39,7 @@ public:
     static constexpr std::chrono::milliseconds writing{5000};
 
     /// `site` and `sessions` must outlive it.
-    DeviceUpgrade(DemoSite &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order);
+    DeviceUpgrade(SiteState &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order);
 
     /// Gives up what has not come to its end. Must not run in a handler.
     ~DeviceUpgrade();
@@ -67,7 +67,7 @@ private:
     bool fail(NetError error);
     void tell(const UpgradeProgress &progress);
 
-    DemoSite &m_site;
+    SiteState &m_site;
     DemoSessions &m_sessions;
     const std::int64_t m_handle;
     const UpgradeOrder m_order;

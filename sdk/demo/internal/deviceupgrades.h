@@ -20,7 +20,7 @@ public:
     };
 
     /// Both must outlive the upgrades.
-    DeviceUpgrades(DemoSite &site, DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
+    DeviceUpgrades(SiteState &site, DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
     [[nodiscard]] bool isUpgrading(const QString &mac) const;
 
@@ -43,7 +43,7 @@ private:
 
     [[nodiscard]] Upgrades takeEndedLocked();
 
-    DemoSite &m_site;
+    SiteState &m_site;
     DemoSessions &m_sessions;
     mutable std::mutex m_mutex;
     // Above 32 bits, as those of sessions, and apart from them.

@@ -3,7 +3,6 @@
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
 #include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/cardjpeg.h"
 #include "sdk/demo/internal/channelitems.h"
 #include "sdk/demo/internal/commandparameters.h"
@@ -11,6 +10,7 @@
 #include "sdk/demo/internal/liveproduction.h"
 #include "sdk/demo/internal/maintenance.h"
 #include "sdk/demo/internal/searchanswers.h"
+#include "sdk/demo/sitestate.h"
 
 #include <QDateTime>
 
@@ -83,7 +83,7 @@ QList<std::pair<QString, QByteArray>> deviceValues(const SceneDevice &device, st
 class Command
 {
 public:
-    Command(DemoSite &site, const SceneDevice &device, const QByteArray &query)
+    Command(SiteState &site, const SceneDevice &device, const QByteArray &query)
         : m_site(site), m_device(device), m_parameters(query), m_now(site.clock().now())
     {
     }
@@ -107,7 +107,7 @@ private:
     [[nodiscard]] std::optional<Item> item(std::uint32_t number, int channel, std::int32_t selector) const;
     [[nodiscard]] VideoFormatItem mainStream(int channel) const;
 
-    DemoSite &m_site;
+    SiteState &m_site;
     const SceneDevice m_device;
     CommandParameters m_parameters;
     const std::int64_t m_now;
@@ -322,7 +322,7 @@ constexpr std::array commands = {
 
 } // namespace
 
-HttpReply runHttpCommand(DemoSite &site, const QString &mac, const HttpTarget &target)
+HttpReply runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target)
 {
     const std::optional<SceneDevice> device = site.device(mac);
     const auto found = std::find_if(commands.begin(), commands.end(),

@@ -7,10 +7,10 @@
 
 namespace sdk::demo {
 
-class DemoSite;
+class SiteState;
 
 /// Runs the command of `target` on the device and returns its answer. A parameter that is wrong, or that the
 /// command does not have, changes nothing and is answered by a line that says so.
-[[nodiscard]] HttpReply runHttpCommand(DemoSite &site, const QString &mac, const HttpTarget &target);
+[[nodiscard]] HttpReply runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target);
 
 } // namespace sdk::demo

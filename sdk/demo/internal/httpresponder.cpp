@@ -1,9 +1,8 @@
 #include "sdk/demo/internal/httpresponder.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demop2pagentlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/httpcommands.h"
+#include "sdk/demo/sitestate.h"
 
 #include <algorithm>
 
@@ -63,7 +62,7 @@ bool HttpResponder::speaksHttp(int localPort) const
 {
     if (localPort == proxy)
         return true;
-    const std::optional<Tunnel> tunnel = m_site.portAgent().tunnel(localPort);
+    const std::optional<Tunnel> tunnel = m_site.tunnel(localPort);
     const std::optional<SceneDevice> device = tunnel ? m_site.device(tunnel->mac) : std::nullopt;
     return device && device->httpPort == tunnel->devicePort;
 }

@@ -17,7 +17,7 @@ class Clock;
 
 namespace sdk::demo {
 
-class DemoSite;
+class SiteState;
 
 /// Where a connection leads.
 struct HttpRoute
@@ -46,7 +46,7 @@ public:
     static constexpr int proxy = 0;
 
     /// `site` must outlive the responder.
-    explicit HttpResponder(DemoSite &site) : m_site(site) {}
+    explicit HttpResponder(SiteState &site) : m_site(site) {}
 
     [[nodiscard]] Clock &clock() const;
 
@@ -72,7 +72,7 @@ private:
     [[nodiscard]] HttpReply answerOfDevice(const QString &mac, const HttpRequest &request,
                                            const HttpTarget &target, HttpCredentials &credentials) const;
 
-    DemoSite &m_site;
+    SiteState &m_site;
     const HttpAuthentication m_authentication;
     std::mutex m_keysMutex;
     QHash<QString, std::shared_ptr<const DeviceKey>> m_keys; ///< by MAC

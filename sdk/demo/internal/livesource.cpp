@@ -1,11 +1,11 @@
 #include "sdk/demo/internal/livesource.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/internal/demosessions.h"
 #include "sdk/demo/internal/devicereach.h"
 #include "sdk/demo/internal/liveproduction.h"
 #include "sdk/demo/internal/logging.h"
+#include "sdk/demo/sitestate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +34,7 @@ void LiveSource::Schedule::advance(std::int64_t now)
         start += late; // the clock was set back
 }
 
-LiveSource::LiveSource(DemoSite &site, const DemoSessions &sessions, LiveStreamOrder order)
+LiveSource::LiveSource(SiteState &site, const DemoSessions &sessions, LiveStreamOrder order)
     : m_site(site), m_sessions(sessions), m_order(std::move(order)),
       m_thread([this](const std::stop_token &stop) { run(stop); })
 {

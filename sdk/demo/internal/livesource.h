@@ -14,7 +14,7 @@
 namespace sdk::demo {
 
 class DemoSessions;
-class DemoSite;
+class SiteState;
 
 /// One kind of stream of one channel. Has a thread of its own, on which pictures are made at the times of the
 /// site's clock, encoded once, and handed to one watcher after the other. Sleeps while nobody watches.
@@ -27,7 +27,7 @@ public:
     static constexpr std::chrono::milliseconds longestDelay{200};
 
     /// `site` and `sessions` must outlive the source. Throws std::system_error when there is no thread.
-    LiveSource(DemoSite &site, const DemoSessions &sessions, LiveStreamOrder order);
+    LiveSource(SiteState &site, const DemoSessions &sessions, LiveStreamOrder order);
     ~LiveSource();
     LiveSource(const LiveSource &) = delete;
     LiveSource &operator=(const LiveSource &) = delete;
@@ -71,7 +71,7 @@ private:
                                                        const SceneDevice *device) const;
     [[nodiscard]] Streams allStreams() const;
 
-    DemoSite &m_site;
+    SiteState &m_site;
     const DemoSessions &m_sessions;
     const LiveStreamOrder m_order;
     mutable std::mutex m_mutex;

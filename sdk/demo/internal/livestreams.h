@@ -17,7 +17,7 @@ class LiveStreams
 {
 public:
     /// Both must outlive the streams.
-    LiveStreams(DemoSite &site, const DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
+    LiveStreams(SiteState &site, const DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
     /// Returns the handle, 0 when the computer gives no thread.
     [[nodiscard]] std::int64_t open(const LiveStreamOrder &order);
@@ -50,7 +50,7 @@ private:
     [[nodiscard]] std::shared_ptr<LiveSource> sourceLocked(const LiveStreamOrder &order);
     static void close(const Entries &entries);
 
-    DemoSite &m_site;
+    SiteState &m_site;
     const DemoSessions &m_sessions;
     mutable std::mutex m_mutex;
     // Above 32 bits, as those of sessions, and apart from them.
