@@ -4,7 +4,7 @@
 #include "device/devicestore.h"
 #include "device/dh/devicedh.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fleetgenerator.h"
+#include "sdk/demo/scene/fleetgenerator.h"
 #include "sdk/demo/steppableclock.h"
 #include "sheets/qexcel.h"
 #include "tests/device/dh/flowingclock.h"

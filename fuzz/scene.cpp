@@ -1,5 +1,5 @@
 #include "fuzz/input.h"
-#include "sdk/demo/scenereader.h"
+#include "sdk/demo/scene/scenereader.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

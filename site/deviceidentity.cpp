@@ -1,8 +1,8 @@
 #include "site/deviceidentity.h"
 
 #include "sdk/blocktext.h"
-#include "sdk/demo/internal/deviceanswers.h"
-#include "sdk/demo/internal/searchanswers.h"
+#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/searchanswers.h"
 
 #include <QUrl>
 #include <QUuid>

@@ -1,7 +1,7 @@
 // The identifiers of a device on the network.
 #pragma once
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 #include "site/devicemanner.h"
 #include "site/discovery/discoverymessages.h"
 

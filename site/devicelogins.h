@@ -1,7 +1,7 @@
 // The rights of clients at a device.
 #pragma once
 
-#include "sdk/demo/internal/devicelogin.h"
+#include "sdk/demo/device/devicelogin.h"
 #include "site/devicemanner.h"
 #include "site/http/digest.h"
 #include "site/soap/soaprequest.h"

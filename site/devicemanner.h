@@ -1,7 +1,7 @@
 // The differences between makes of devices that the scene does not define.
 #pragma once
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 #include "site/soap/xmlwriting.h"
 
 namespace site {

@@ -6,7 +6,7 @@
 #include "site/rtsp/rtspport.h"
 #include "site/siteoptions.h"
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 
 #include <memory>
 

@@ -3,9 +3,9 @@
 #include "sdk/configtext/configtext.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/cameraabilities.h"
-#include "sdk/demo/internal/channelitems.h"
-#include "sdk/demo/internal/itemblocks.h"
+#include "sdk/demo/device/cameraabilities.h"
+#include "sdk/demo/device/channelitems.h"
+#include "sdk/demo/device/itemblocks.h"
 #include "sdk/encodeblocks.h"
 
 #include <QJsonArray>

@@ -2,9 +2,9 @@
 
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/addresstext.h"
-#include "sdk/demo/internal/fieldtext.h"
-#include "sdk/demo/internal/logging.h"
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/scene/addresstext.h"
+#include "sdk/demo/site/logging.h"
 
 #include <QJsonArray>
 

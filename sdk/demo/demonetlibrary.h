@@ -3,12 +3,12 @@
 
 #include "sdk/callgate.h"
 #include "sdk/demo/demoerror.h"
-#include "sdk/demo/internal/answerdelivery.h"
-#include "sdk/demo/internal/demosessions.h"
-#include "sdk/demo/internal/devicelogin.h"
-#include "sdk/demo/internal/deviceupgrades.h"
-#include "sdk/demo/internal/livestreams.h"
-#include "sdk/demo/internal/searchtally.h"
+#include "sdk/demo/device/devicelogin.h"
+#include "sdk/demo/search/answerdelivery.h"
+#include "sdk/demo/search/searchtally.h"
+#include "sdk/demo/site/demosessions.h"
+#include "sdk/demo/streams/livestreams.h"
+#include "sdk/demo/upgrade/deviceupgrades.h"
 #include "sdk/netlibrary.h"
 #include "sdk/threaderror.h"
 

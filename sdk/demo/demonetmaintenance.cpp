@@ -3,10 +3,10 @@
 #include "sdk/configtext/configtext.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/channelitems.h"
-#include "sdk/demo/internal/fieldtext.h"
-#include "sdk/demo/internal/itemblocks.h"
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/channelitems.h"
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/device/itemblocks.h"
+#include "sdk/demo/device/maintenance.h"
 
 #include <QJsonDocument>
 

@@ -2,9 +2,9 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/deviceanswers.h"
-#include "sdk/demo/internal/devicereach.h"
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/maintenance.h"
+#include "sdk/demo/site/devicereach.h"
 
 #include <algorithm>
 #include <cstring>

@@ -3,9 +3,9 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/addresstext.h"
-#include "sdk/demo/internal/devicechanges.h"
-#include "sdk/demo/internal/fieldtext.h"
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/scene/addresstext.h"
+#include "sdk/demo/site/devicechanges.h"
 
 namespace sdk::demo {
 

@@ -2,8 +2,8 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/devicereach.h"
-#include "sdk/demo/internal/fieldtext.h"
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/site/devicereach.h"
 
 namespace sdk::demo {
 

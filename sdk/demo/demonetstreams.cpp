@@ -2,7 +2,7 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/streamsettings.h"
+#include "sdk/demo/device/streamsettings.h"
 
 namespace sdk::demo {
 

@@ -2,8 +2,8 @@
 
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/httpport.h"
-#include "sdk/demo/internal/logging.h"
+#include "sdk/demo/http/httpport.h"
+#include "sdk/demo/site/logging.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // The port agent's roles on a simulated site.
 #pragma once
 
-#include "sdk/demo/internal/agentevents.h"
-#include "sdk/demo/sitestate.h"
+#include "sdk/demo/agentevents.h"
+#include "sdk/demo/site/sitestate.h"
 #include "sdk/p2pagentlibrary.h"
 
 #include <QJsonObject>

@@ -4,11 +4,11 @@
 #include "sdk/configtext/configtextlibrary.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demop2pagentlibrary.h"
-#include "sdk/demo/fleetgenerator.h"
-#include "sdk/demo/internal/httpport.h"
-#include "sdk/demo/internal/httpresponder.h"
-#include "sdk/demo/internal/logging.h"
-#include "sdk/demo/scenereader.h"
+#include "sdk/demo/http/httpport.h"
+#include "sdk/demo/http/httpresponder.h"
+#include "sdk/demo/scene/fleetgenerator.h"
+#include "sdk/demo/scene/scenereader.h"
+#include "sdk/demo/site/logging.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 // A whole simulated site in this process: try the tool, train, reproduce a fault.
 #pragma once
 
-#include "sdk/demo/sitestate.h"
+#include "sdk/demo/site/sitestate.h"
 #include "sdk/sdklibraries.h"
 
 #include <QStringList>

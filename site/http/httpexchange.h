@@ -1,7 +1,7 @@
 // A request to a device over HTTP, and the service that responds to it.
 #pragma once
 
-#include "sdk/demo/internal/httpmessage.h"
+#include "sdk/demo/http/httpmessage.h"
 
 #include <QByteArray>
 #include <QString>

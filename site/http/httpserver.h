@@ -1,7 +1,7 @@
 // The connections to the web services of all devices.
 #pragma once
 
-#include "sdk/demo/internal/encryption.h"
+#include "sdk/demo/http/encryption.h"
 #include "site/http/httpexchange.h"
 #include "site/network/filedescriptor.h"
 

@@ -1,7 +1,7 @@
 // One connection to a device's web service.
 #pragma once
 
-#include "sdk/demo/internal/bytestream.h"
+#include "sdk/demo/http/bytestream.h"
 #include "site/http/httpexchange.h"
 
 #include <chrono>

@@ -1,7 +1,7 @@
 // GStreamer pipelines that packetize streams for RTP.
 #pragma once
 
-#include "sdk/demo/internal/streamsettings.h"
+#include "sdk/demo/device/streamsettings.h"
 
 #include <QByteArray>
 

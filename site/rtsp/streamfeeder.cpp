@@ -2,7 +2,7 @@
 
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/liveproduction.h"
+#include "sdk/demo/streams/liveproduction.h"
 #include "site/logging.h"
 #include "site/rtsp/keyframes.h"
 #include "site/rtsp/pipelinetext.h"

@@ -1,8 +1,8 @@
 // Feeds the stream of a channel to a pipeline.
 #pragma once
 
-#include "sdk/demo/internal/avpointers.h"
-#include "sdk/demo/internal/streamsettings.h"
+#include "sdk/demo/device/streamsettings.h"
+#include "sdk/demo/streams/avpointers.h"
 #include "site/services/mediatokens.h"
 
 #include <gst/app/gstappsrc.h>

@@ -1,9 +1,9 @@
 #include "site/services/devicenetwork.h"
 
-#include "sdk/demo/internal/addresstext.h"
-#include "sdk/demo/internal/deviceanswers.h"
-#include "sdk/demo/internal/devicechanges.h"
-#include "sdk/demo/internal/fieldtext.h"
+#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/scene/addresstext.h"
+#include "sdk/demo/site/devicechanges.h"
 #include "site/deviceidentity.h"
 #include "site/services/servicestate.h"
 

@@ -1,6 +1,6 @@
 #include "site/services/devicesystem.h"
 
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/maintenance.h"
 #include "site/services/devicenetwork.h"
 #include "site/services/firmwareuploads.h"
 

@@ -1,9 +1,9 @@
 #include "site/services/devicetime.h"
 
 #include "sdk/configtext/configtext.h"
-#include "sdk/demo/internal/deviceanswers.h"
-#include "sdk/demo/internal/fieldtext.h"
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/device/maintenance.h"
 #include "sdk/systemrecords.h"
 #include "site/services/servicestate.h"
 

@@ -1,7 +1,7 @@
 #include "site/services/deviceusers.h"
 
-#include "sdk/demo/internal/devicechanges.h"
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/maintenance.h"
+#include "sdk/demo/site/devicechanges.h"
 #include "site/services/servicestate.h"
 
 #include <array>

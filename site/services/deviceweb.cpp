@@ -1,6 +1,6 @@
 #include "site/services/deviceweb.h"
 
-#include "sdk/demo/internal/httpresponder.h"
+#include "sdk/demo/http/httpresponder.h"
 #include "site/deviceidentity.h"
 #include "site/services/firmwareuploads.h"
 #include "site/services/services.h"

@@ -1,6 +1,6 @@
 #include "site/services/encodesettings.h"
 
-#include "sdk/demo/internal/channelitems.h"
+#include "sdk/demo/device/channelitems.h"
 #include "site/services/servicestate.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // The encoder settings of one stream for the media services.
 #pragma once
 
-#include "sdk/demo/internal/encodeabilities.h"
+#include "sdk/demo/device/encodeabilities.h"
 #include "site/services/mediatokens.h"
 #include "site/services/servicecall.h"
 

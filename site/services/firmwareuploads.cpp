@@ -2,8 +2,8 @@
 
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/internal/deviceupgrade.h"
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/maintenance.h"
+#include "sdk/demo/upgrade/deviceupgrade.h"
 #include "site/network/poller.h"
 
 using namespace sdk::demo;

@@ -3,7 +3,7 @@
 
 #include "site/http/httpexchange.h"
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 #include "sdk/firmwarehead.h"
 
 #include <QMap>

@@ -1,7 +1,7 @@
 #include "site/services/imagesettings.h"
 
-#include "sdk/demo/internal/cameraabilities.h"
-#include "sdk/demo/internal/channelitems.h"
+#include "sdk/demo/device/cameraabilities.h"
+#include "sdk/demo/device/channelitems.h"
 #include "site/services/mediaparts.h"
 
 #include <array>

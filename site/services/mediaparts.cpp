@@ -2,7 +2,7 @@
 
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
-#include "sdk/demo/internal/channelitems.h"
+#include "sdk/demo/device/channelitems.h"
 #include "site/deviceidentity.h"
 #include "site/rtsp/keyframes.h"
 

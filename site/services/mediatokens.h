@@ -1,7 +1,7 @@
 // The tokens of a device's streams.
 #pragma once
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 #include "sdk/encodeblocks.h"
 #include "sdk/streamblocks.h"
 

@@ -1,7 +1,7 @@
 // The state of a device's services that other protocols do not have. A reset clears it.
 #pragma once
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 
 #include <QJsonValue>
 

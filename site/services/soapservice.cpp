@@ -1,7 +1,7 @@
 #include "site/services/soapservice.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/internal/maintenance.h"
+#include "sdk/demo/device/maintenance.h"
 #include "site/services/devicetime.h"
 #include "site/services/messagerecord.h"
 #include "site/services/services.h"

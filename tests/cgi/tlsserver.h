@@ -1,7 +1,7 @@
 // A TLS server on a loopback port with a generated key, which records its requests.
 #pragma once
 
-#include "sdk/demo/internal/encryption.h"
+#include "sdk/demo/http/encryption.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,7 +1,7 @@
 // Someone with two hundred devices: new passwords, clocks, copied settings, upgrades.
 #include "device/upgradetools.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fault.h"
+#include "sdk/demo/scene/fault.h"
 #include "tests/files/filecontents.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"

@@ -1,7 +1,7 @@
 // The names of a recorder's channels, and everything that is known of it.
 #include "sdk/camerablocks.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fault.h"
+#include "sdk/demo/scene/fault.h"
 #include "tests/files/filecontents.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"

@@ -1,5 +1,5 @@
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fault.h"
+#include "sdk/demo/scene/fault.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/otherwindow.h"
 #include "tests/tour/rows.h"

@@ -1,7 +1,7 @@
 // Someone with a wrong password and much impatience: tries passwords, clicks twice everywhere, presses
 // Escape, changes the tab while devices are at work, and closes the window meanwhile.
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fault.h"
+#include "sdk/demo/scene/fault.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"

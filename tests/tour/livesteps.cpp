@@ -1,6 +1,6 @@
 #include "device/devicefactory.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fault.h"
+#include "sdk/demo/scene/fault.h"
 #include "sdk/netlibrary.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/livewindow.h"

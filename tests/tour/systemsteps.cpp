@@ -1,5 +1,5 @@
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/fault.h"
+#include "sdk/demo/scene/fault.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"

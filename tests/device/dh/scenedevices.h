@@ -1,7 +1,7 @@
 // Devices of a simulated site for tests.
 #pragma once
 
-#include "sdk/demo/scene.h"
+#include "sdk/demo/scene/scene.h"
 
 /// An initialised device with one account, "admin" with the password "secret1".
 inline sdk::demo::SceneDevice sceneDevice(const QString &mac, const QString &address,

@@ -1,7 +1,7 @@
 // Scenes: what is said of mistakes in their files and names.
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "sdk/demo/scenereader.h"
+#include "sdk/demo/scene/scenereader.h"
 #include "sdk/netlibrary.h"
 #include "sdk/providerblocks.h"
 #include "tests/datatable.h"

@@ -1,0 +1,52 @@
+// Texts of blocks: reading them from requests, and writing them as a device's faults have it.
+#pragma once
+
+#include "sdk/blocktext.h"
+#include "sdk/demo/scene/scene.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace sdk::demo {
+
+template<std::size_t size>
+[[nodiscard]] QString textOf(const std::array<char, size> &field)
+{
+    const std::string_view text = blockText(field);
+    return QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+template<std::size_t size>
+void writePlain(std::array<char, size> &field, const QString &text)
+{
+    const QByteArray bytes = text.toLocal8Bit();
+    setBlockText(field, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+/// Writes texts into fields as the device's faults have it.
+class FieldWriter
+{
+public:
+    explicit FieldWriter(const SceneDevice &device)
+        : m_oddBytes(device.hasFault(Fault::OddBytes)), m_overLong(device.hasFault(Fault::OverLongTexts))
+    {
+    }
+
+    template<std::size_t size>
+    void write(std::array<char, size> &field, const QString &text) const
+    {
+        write(field.data(), size, text);
+    }
+
+private:
+    void write(char *destination, std::size_t size, const QString &text) const;
+
+    bool m_oddBytes;
+    bool m_overLong;
+};
+
+} // namespace sdk::demo

@@ -1,0 +1,43 @@
+#include "sdk/demo/device/searchanswers.h"
+
+#include "sdk/demo/device/fieldtext.h"
+
+namespace sdk::demo {
+
+SearchAnswer searchAnswer(const SceneDevice &device, int ipVersion, const QString &localAddress)
+{
+    SearchAnswer answer = {};
+    answer.size = sizeof(SearchAnswer);
+    writePlain(answer.localAddress, localAddress);
+
+    SearchDeviceInformation &information = answer.device;
+    information.ipVersion = ipVersion;
+    information.port = device.port;
+    if (ipVersion == 6) {
+        writePlain(information.address, device.ipv6);
+        writePlain(information.subnetMask, QString::number(device.ipv6PrefixLength));
+    } else {
+        writePlain(information.address, device.address);
+        writePlain(information.subnetMask, device.mask);
+        writePlain(information.gateway, device.gateway);
+    }
+    // Addresses and MAC stay whole whatever the faults: a device that lost them could not be told apart.
+    writePlain(information.mac, device.mac);
+
+    const FieldWriter writer(device);
+    writer.write(information.deviceType, device.type);
+    writer.write(information.detailModel, device.model);
+    writer.write(information.deviceName, device.name);
+    writer.write(information.softwareVersion, device.version);
+    writer.write(information.serialNumber, device.serial);
+
+    information.httpPort = static_cast<std::uint16_t>(device.httpPort);
+    information.dhcpEnabled = device.dhcp ? 1 : 0;
+    const InitialisationBits state =
+        device.isUninitialised() ? InitialisationBits::Uninitialised : device.initialisation;
+    information.initialisationState = static_cast<std::uint8_t>(state);
+    information.passwordResetWay = device.resetWay;
+    return answer;
+}
+
+} // namespace sdk::demo

@@ -1,7 +1,0 @@
-#include "sdk/demo/internal/logging.h"
-
-namespace sdk::demo {
-
-Q_LOGGING_CATEGORY(demoLog, "configtools.sdk.demo")
-
-} // namespace sdk::demo

@@ -1,0 +1,86 @@
+#include "sdk/demo/search/searchtally.h"
+
+#include "sdk/demo/device/fieldtext.h"
+#include "sdk/demo/scene/addresstext.h"
+
+#include <algorithm>
+
+namespace sdk::demo {
+
+namespace {
+
+constexpr int prefixLength = 24;
+
+/// The part of a dotted address that names its network.
+QStringView networkOf(QStringView address)
+{
+    return address.left(address.lastIndexOf(QLatin1Char('.')));
+}
+
+} // namespace
+
+void SearchTally::clear()
+{
+    const std::scoped_lock lock(m_mutex);
+    m_requests = m_messages = m_askedAddresses = m_answeredAddresses = 0;
+    m_found.clear();
+    m_answered.clear();
+}
+
+void SearchTally::noteRequest()
+{
+    const std::scoped_lock lock(m_mutex);
+    ++m_requests;
+}
+
+void SearchTally::noteAskedAddresses(const QSet<QString> &addresses)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_askedAddresses += static_cast<std::uint32_t>(addresses.size());
+    m_answered.subtract(addresses);
+}
+
+void SearchTally::noteLocalAnswer(const QString &mac, const QString &address)
+{
+    const std::scoped_lock lock(m_mutex);
+    ++m_messages;
+    QString &known = m_found[mac];
+    if (known.isEmpty() || isIpv4Address(address)) // a device may answer over both families
+        known = address;
+}
+
+void SearchTally::noteAddressAnswer(const QString &address)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_answered.contains(address))
+        return;
+    m_answered.insert(address);
+    ++m_answeredAddresses;
+}
+
+void SearchTally::fill(SearchReport &report, const QString &localAddress) const
+{
+    const std::scoped_lock lock(m_mutex);
+    report = {};
+    report.size = sizeof(report);
+    report.count = 1;
+    SearchInterfaceReport &interface = report.interfaces[0];
+    writePlain(interface.name, QStringLiteral("demo0"));
+    writePlain(interface.address, localAddress);
+    interface.prefixLength = prefixLength;
+    interface.requestsSent = m_requests;
+    interface.messagesReceived = m_messages;
+    interface.devicesFound = static_cast<std::uint32_t>(m_found.size());
+    if (m_requests > 0 && m_messages == 0)
+        interface.obstacles = 1U << static_cast<std::uint32_t>(SearchObstacle::NoAnswer);
+    report.addressesAsked = m_askedAddresses;
+    report.addressesAnswered = m_answeredAddresses;
+    report.foreignDevices = static_cast<std::uint32_t>(
+        std::count_if(m_found.cbegin(), m_found.cend(), [&localAddress](const QString &address) {
+            return isIpv4Address(address) && address != QLatin1String("0.0.0.0") &&
+                   !address.startsWith(QLatin1String("127.")) &&
+                   networkOf(address) != networkOf(localAddress);
+        }));
+}
+
+} // namespace sdk::demo
