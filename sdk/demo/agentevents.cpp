@@ -23,7 +23,7 @@ void AgentEvents::setHandler(P2PAgentMessageHandler handler, void *user)
 bool AgentEvents::start()
 {
     try {
-        // From now on, not from whenever the thread gets to run.
+        // Counted from now, not from the start of the thread.
         const std::int64_t connected = m_clock.now() + connectTime.count();
         m_thread = std::jthread([this, connected](const std::stop_token &stop) { run(connected, stop); });
     } catch (const std::system_error &error) {
@@ -59,7 +59,7 @@ void AgentEvents::run(std::int64_t connected, const std::stop_token &stop)
 {
     if (!m_clock.waitUntil(connected, stop))
         return;
-    tell({P2PAgentEvent::ServiceConnected, "", 0});
+    report({P2PAgentEvent::ServiceConnected, "", 0});
     for (;;) {
         std::unique_lock lock(m_mutex);
         m_added.wait(lock, stop, [this] { return !m_entries.empty(); });
@@ -68,11 +68,11 @@ void AgentEvents::run(std::int64_t connected, const std::stop_token &stop)
         const Entry entry = m_entries.front();
         m_entries.pop_front();
         lock.unlock();
-        tell(entry);
+        report(entry);
     }
 }
 
-void AgentEvents::tell(const Entry &entry)
+void AgentEvents::report(const Entry &entry)
 {
     std::unique_lock lock(m_mutex);
     const P2PAgentMessageHandler handler = m_handler;

@@ -1,4 +1,4 @@
-// Events of the simulated port agent, told on a thread of their own.
+// Events of the simulated port agent, reported on a separate thread.
 #pragma once
 
 #include "sdk/p2pagentlibrary.h"
@@ -17,11 +17,11 @@ class Clock;
 
 namespace sdk::demo {
 
-/// Thread-safe, except that start() and stop() exclude each other by their caller.
+/// Thread-safe, except that the caller must not run start() and stop() at the same time.
 class AgentEvents
 {
 public:
-    /// From the start until the service is connected, on the site's clock. Later events come after that one.
+    /// The time from the start to the connection of the service, on the site's clock. Other events follow it.
     static constexpr std::chrono::milliseconds connectTime{100};
 
     /// `clock` must outlive the events.
@@ -29,10 +29,10 @@ public:
 
     void setHandler(P2PAgentMessageHandler handler, void *user);
 
-    /// Returns false when the computer gives no thread.
+    /// Returns false if the host provides no thread.
     [[nodiscard]] bool start();
 
-    /// Drops what has not been told yet, and waits for a running handler. Must not be called from one.
+    /// Drops unreported events and waits for a running handler. Must not be called from a handler.
     void stop();
 
     void add(P2PAgentEvent event, const QByteArray &deviceId, int localPort);
@@ -48,7 +48,7 @@ private:
         int localPort;
     };
     void run(std::int64_t connected, const std::stop_token &stop);
-    void tell(const Entry &entry);
+    void report(const Entry &entry);
 
     Clock &m_clock;
     std::mutex m_mutex;

@@ -1,5 +1,4 @@
-// Error codes that the simulated libraries leave for misuse; what devices and networks fail with is
-// sdk::NetError.
+// Error codes of the simulated libraries for misuse. Failures of devices and networks are sdk::NetError.
 #pragma once
 
 #include <cstdint>
@@ -13,10 +12,10 @@ enum class DemoError : std::uint32_t
     None = 0,
     NotPrepared = 0x1001, ///< NetInit has not been called, or NetCleanup has
     WrongSize,     ///< the size field of a block is not the size of the block, or a buffer is too small
-    WrongCount,    ///< more addresses than fit, or fewer than none
-    NoHandler,     ///< a search without a handler
-    InsideHandler, ///< called from a handler, where it would wait for itself
-    NoThread,      ///< the computer gives no more threads
+    WrongCount,    ///< too many addresses, or a negative number
+    NoHandler,     ///< search without a handler
+    InsideHandler, ///< called from a handler, which would be a deadlock
+    NoThread,      ///< the host provides no thread
 };
 
 } // namespace sdk::demo

@@ -17,7 +17,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// What every request of a session to a channel is recorded with.
+/// The common log values of a session's requests to a channel.
 QJsonObject askedOf(std::int64_t loginHandle, std::int32_t channel, std::chrono::milliseconds wait)
 {
     return {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
@@ -31,13 +31,13 @@ void addFields(QJsonObject &request, const QJsonObject &fields)
         request.insert(entry.key(), entry.value());
 }
 
-/// The pictures of all modes in one block, which the item of a picture may be written with.
+/// One block with the image settings of all modes, which the item may be written with.
 bool isColorRecord(std::uint32_t item, std::uint32_t blockSize)
 {
     return item == static_cast<std::uint32_t>(CameraItem::Picture) && blockSize == sizeof(VideoColorRecord);
 }
 
-/// The blocks of one item each that `block` holds.
+/// The single items in `block`.
 QList<QByteArray> itemBlocks(std::uint32_t item, const void *block, std::uint32_t blockSize)
 {
     const auto *bytes = static_cast<const char *>(block);
@@ -76,7 +76,7 @@ bool DemoNetLibrary::NetGetItem(std::int64_t loginHandle, std::uint32_t item, st
     if (!device)
         return false;
     const std::optional<QByteArray> answer =
-        known ? channelItem(*device, placeOf(*known, channel, block)) : std::nullopt;
+        known ? channelItem(*device, itemKeyOf(*known, channel, block)) : std::nullopt;
     const std::optional<FaultSetting> withheld = device->fault(Fault::WithholdsItem);
     if (!answer || (withheld && withheld->number == static_cast<int>(item)))
         return m_error.fail(NetError::NotSupported);
@@ -104,7 +104,7 @@ bool DemoNetLibrary::setItemOfChannel(const CallGate::Call &call, std::int64_t l
     return maintain(call, session, wait, [&](SceneDevice &device) {
         for (const QByteArray &single : blocks) {
             const NetError error =
-                setChannelItem(device, placeOf(*known, channel, single.constData()), single);
+                setChannelItem(device, itemKeyOf(*known, channel, single.constData()), single);
             if (error != NetError::None)
                 return error;
         }
@@ -173,7 +173,7 @@ bool DemoNetLibrary::queryCamera(const CallGate::Call &call, std::int64_t loginH
     const std::optional<SceneDevice> device = askedDevice(call, session, wait);
     if (!device)
         return false;
-    const ItemPlace name = {static_cast<std::uint32_t>(CameraItem::ChannelName), input->channel, 0};
+    const ItemKey name = {static_cast<std::uint32_t>(CameraItem::ChannelName), input->channel, 0};
     if (device->hasFault(Fault::RefusesCapabilities) || !channelItem(*device, name))
         return m_error.fail(NetError::NotSupported);
     *output = cameraCapabilities(*device);

@@ -21,12 +21,12 @@ bool isCountInRange(const SearchByAddressesRequest &request)
     return request.count >= 0 && request.count <= maximumSearchAddresses;
 }
 
-/// The addresses of a request; none when its count is out of range.
+/// The addresses of a request; empty if its count is out of range.
 QStringList addressesOf(const SearchByAddressesRequest &request)
 {
     QStringList addresses;
-    for (int place = 0; isCountInRange(request) && place < request.count; ++place)
-        addresses.append(textOf(request.addresses[static_cast<std::size_t>(place)]));
+    for (int index = 0; isCountInRange(request) && index < request.count; ++index)
+        addresses.append(textOf(request.addresses[static_cast<std::size_t>(index)]));
     return addresses;
 }
 
@@ -74,7 +74,7 @@ void DemoNetLibrary::NetCleanup()
     record("NetCleanup");
     if (AnswerDelivery::isInsideHandler() || LiveStream::isInsideHandler() ||
         DeviceUpgrade::isInsideHandler()) {
-        qCWarning(demoLog, "NetCleanup was called from a handler and would wait for itself: ignored");
+        qCWarning(demoLog, "NetCleanup was called from a handler and would be a deadlock: ignored");
         m_error.fail(DemoError::InsideHandler);
         return;
     }
@@ -87,7 +87,7 @@ void DemoNetLibrary::endEverything()
     m_sessions.closeAll();
     m_streams.closeAll();
     m_upgrades.closeAll();
-    std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches; // end without the lock
+    std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches; // destroyed without the lock
     const std::lock_guard lock(m_mutex);
     searches.swap(m_searches);
 }
@@ -100,7 +100,7 @@ void DemoNetLibrary::NetGetProviderInformation(ProviderInformation &information)
 
 void DemoNetLibrary::NetSetCertificateHandler(CertificateHandler, void *)
 {
-    // Simulated devices are reached over TLS only by HTTP, which this library has no part in.
+    // Simulated devices use TLS only for HTTP, which is not part of this library.
 }
 
 bool DemoNetLibrary::NetGetSearchReport(SearchReport &report)
@@ -214,7 +214,7 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
         else if (isIpv4Address(address))
             addresses.insert(address);
     }
-    // The second kind of answer to a list is asked for beside the first.
+    // The second kind of search is sent in addition to the first.
     if (kind == SearchKind::First || searchEnd == SearchEnd::AfterAnswer)
         m_searchTally.noteAskedAddresses(addresses);
     receiver.tally = &m_searchTally;
@@ -231,7 +231,7 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
     if (m_site.clock().waitUntil(end, call.stop()))
         delivery.finishPlan();
     else
-        delivery.finishAtOnce();
+        delivery.finishImmediately();
     return true;
 }
 
@@ -274,7 +274,7 @@ void DemoNetLibrary::record(const char *operation, const QJsonObject &request, c
 
 std::chrono::milliseconds DemoNetLibrary::bounded(std::chrono::milliseconds wait)
 {
-    // Longer waits are cut to this, so that adding one to the time of day cannot overflow.
+    // Longer waits are limited to this, so that the sum with the current time cannot overflow.
     constexpr std::chrono::milliseconds longestWait = std::chrono::hours(24);
     return std::clamp(wait, std::chrono::milliseconds(0), longestWait);
 }

@@ -1,4 +1,4 @@
-// The network library's roles on a simulated site.
+// The network library on a simulated site.
 #pragma once
 
 #include "sdk/callgate.h"
@@ -25,14 +25,14 @@ namespace sdk::demo {
 
 class DemoSite;
 
-/// Error codes are those of DemoError for misuse, and of NetError for what devices answer. Every request,
-/// malformed ones too, goes to the site's record. Reachable devices answer logins, queries and requests at
-/// once; the others take their time on the site's clock, which NetCleanup, NetLogout and NetCancelCalls cut
-/// short.
+/// Error codes are DemoError for misuse and NetError for failures of devices. Every request, even a malformed
+/// one, is added to the site's log. Reachable devices respond to logins, queries and requests immediately.
+/// Requests to unreachable devices end after a timeout on the site's clock, which NetCleanup, NetLogout and
+/// NetCancelCalls interrupt.
 class DemoNetLibrary : public NetLibrary
 {
 public:
-    /// How long a login to an address where nothing answers takes.
+    /// The timeout of a login to an unreachable address.
     static constexpr std::chrono::milliseconds connectTime{3000};
     static_assert(connectTime <= longestLogin);
 
@@ -123,11 +123,11 @@ public:
     bool NetStopUpgrade(std::int64_t upgradeHandle) override;
 
 private:
-    /// How long an address search goes on.
+    /// The end of an address search.
     enum class SearchEnd
     {
-        AtWait,      // the whole wait
-        AfterAnswer, // until the first device has answered
+        AtWait,      // after the complete wait
+        AfterAnswer, // after the response of the first device
     };
 
     struct LoginRequest
@@ -148,15 +148,15 @@ private:
                          std::chrono::milliseconds wait, SearchEnd searchEnd);
     void endEverything();
 
-    /// Returns the handle, 0 on failure, which it leaves in m_error.
+    /// Returns the handle; on failure 0, with the error in m_error.
     std::int64_t login(const char *operation, QJsonObject decoded, const LoginRequest &request,
                        LoginDeviceInformation &device);
 
-    /// The device of a session that may be asked something; nothing, with the error left, when it may not.
+    /// The device of a session, if it accepts requests; otherwise nullopt, with the error in m_error.
     std::optional<SceneDevice> askedDevice(const CallGate::Call &call,
                                            const std::optional<DemoSession> &session,
                                            std::chrono::milliseconds wait);
-    /// Lets `change` change the device of a session; it returns what the device refuses with.
+    /// Calls `change` with the device of a session; it returns the error of a refusal.
     bool maintain(const CallGate::Call &call, const std::optional<DemoSession> &session,
                   std::chrono::milliseconds wait, const std::function<NetError(SceneDevice &device)> &change);
     bool fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
@@ -172,18 +172,18 @@ private:
                      const CameraCapabilityInput *input, CameraCapabilities *output,
                      std::chrono::milliseconds wait);
 
-    /// Waits until the device of a session answers, and sets `device`. Otherwise returns why it does not.
+    /// Waits for the response of a session's device and sets `device`. Returns the error otherwise.
     NetError waitForDevice(const CallGate::Call &call, const DemoSession &session,
                            std::chrono::milliseconds wait, std::optional<SceneDevice> &device);
 
-    /// Lets the time pass that a slow device takes. False when that is longer than `wait`, or on a stop.
+    /// Waits for the delay of a slow device. Returns false if it exceeds `wait`, and on a stop.
     bool passAnswerTime(const std::stop_token &stop, const SceneDevice &device,
                         std::chrono::milliseconds wait) const;
 
-    /// A request has come with the right password.
+    /// Counts a request with an accepted password.
     void noteRequest(const SceneDevice &device);
 
-    /// Whether a request without a login may go to `mac`; with the error left when not.
+    /// Whether `mac` responds to a request without a login; otherwise the error is in m_error.
     bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
                     std::chrono::milliseconds wait);
 

@@ -16,7 +16,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// The block that `bytes` hold; nothing when they are too few.
+/// The block in `bytes`; nullopt if there are too few.
 template<typename Block>
 std::optional<Block> blockOf(const void *bytes, std::uint32_t size)
 {
@@ -27,7 +27,7 @@ std::optional<Block> blockOf(const void *bytes, std::uint32_t size)
     return block;
 }
 
-/// What every request of a session is recorded with.
+/// The common log values of a session's requests.
 QJsonObject asked(std::int64_t loginHandle, std::chrono::milliseconds wait)
 {
     return {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
@@ -116,7 +116,7 @@ bool DemoNetLibrary::NetSetNewConfig(std::int64_t loginHandle, const char *name,
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
     const QString written = QString::fromLocal8Bit(name);
     const std::string_view buffer(text ? text : "", text ? textSize : 0);
-    const std::size_t length = buffer.find('\0'); // beyond every text when there is no zero
+    const std::size_t length = buffer.find('\0'); // larger than every string without a terminating zero
     const bool isEnded = length <= longestConfigText;
     const QByteArray words = isEnded ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
     QJsonObject request = asked(loginHandle, wait);

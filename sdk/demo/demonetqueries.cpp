@@ -35,7 +35,7 @@ std::optional<SceneDevice> DemoNetLibrary::askedDevice(const CallGate::Call &cal
 NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSession &session,
                                        std::chrono::milliseconds wait, std::optional<SceneDevice> &device)
 {
-    std::stop_source stop; // the end of the library, of the session, or of its calls
+    std::stop_source stop; // stops with the library, with the session, or with its calls
     const std::stop_callback onCleanup(call.stop(), [&stop] { stop.request_stop(); });
     const std::stop_callback onCancel(session.calls, [&stop] { stop.request_stop(); });
     if (isReachable(m_site, session))
@@ -51,7 +51,8 @@ NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSes
         return m_sessions.session(session.handle) ? NetError::Cancelled : NetError::SessionEnded;
     if (!hasAnswer)
         return NetError::ConnectTimeout;
-    // The connection went with the restart. The login is not refused: it may be sent again without asking.
+    // The restart has closed the connection. The login is not refused: the caller may repeat it without
+    // asking the user.
     if (session.hasEnded)
         return NetError::NetworkFailure;
     const SceneAccount *account = accountOf(*device, session.account);
@@ -143,7 +144,7 @@ bool DemoNetLibrary::fetchConfig(const CallGate::Call &call, const std::optional
     const std::optional<QByteArray> answer = configurationText(*device, name, channel);
     if (!answer || (refusal && refusal->text == name))
         return m_error.fail(NetError::NotSupported);
-    // The constant data of a byte array end with a zero.
+    // The constant data of a byte array has a terminating zero.
     const auto size = static_cast<std::size_t>(answer->size()) + 1;
     if (!text || textSize < size)
         return m_error.fail(DemoError::WrongSize);

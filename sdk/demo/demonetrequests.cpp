@@ -1,4 +1,4 @@
-// Requests of the simulated network library to devices that nobody is logged in to.
+// Requests of the simulated network library without a login.
 #include "sdk/callstop.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
@@ -14,7 +14,7 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
 {
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
-    std::stop_source stop; // the end of the library, or of the caller's wait
+    std::stop_source stop; // stops with the library, or with the caller's wait
     const std::stop_callback onCleanup(call.stop(), [&stop] { stop.request_stop(); });
     const std::stop_callback onCallStop(CallStop::token(), [&stop] { stop.request_stop(); });
     const std::optional<SceneDevice> device = m_site.device(mac);
@@ -47,7 +47,7 @@ bool DemoNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, D
         return m_error.fail(DemoError::WrongSize);
     if (!isAnswered(call, mac, false, wait))
         return false;
-    const NetError error = giveFirstAccount(m_site, mac, account);
+    const NetError error = initialiseDevice(m_site, mac, account);
     return error == NetError::None || m_error.fail(error);
 }
 
@@ -71,7 +71,7 @@ bool DemoNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, Dev
         return m_error.fail(DemoError::WrongSize);
     if (!isAnswered(call, mac, true, wait))
         return false;
-    const NetError error = giveAddress(m_site, mac, wanted);
+    const NetError error = changeDeviceAddress(m_site, mac, wanted);
     return error == NetError::None || m_error.fail(error);
 }
 

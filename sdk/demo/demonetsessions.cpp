@@ -80,7 +80,7 @@ bool DemoNetLibrary::NetLogout(std::int64_t loginHandle)
     record("NetLogout", {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)}}, mac);
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
-    // It would wait for the handler of its own stream or upgrade.
+    // A call from a handler would wait for that handler.
     if (LiveStream::isInsideHandler() || DeviceUpgrade::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
     if (!m_sessions.close(loginHandle))

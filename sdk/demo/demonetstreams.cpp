@@ -8,7 +8,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// A device that tells of no channels has one.
+/// A device without a list of channels has one channel.
 ChannelStates statesOf(const SceneDevice &device)
 {
     ChannelStates states = {};
@@ -20,9 +20,9 @@ ChannelStates statesOf(const SceneDevice &device)
     }
     const auto count =
         std::min<std::size_t>(static_cast<std::size_t>(device.channels.size()), maximumChannelStates);
-    for (std::size_t place = 0; place < count; ++place) {
-        const bool isConnected = device.channels.at(static_cast<qsizetype>(place)).connected;
-        states.states[place] = {static_cast<std::int32_t>(place),
+    for (std::size_t index = 0; index < count; ++index) {
+        const bool isConnected = device.channels.at(static_cast<qsizetype>(index)).connected;
+        states.states[index] = {static_cast<std::int32_t>(index),
                                 isConnected ? ChannelConnection::Connected : ChannelConnection::NotConnected};
     }
     states.count = static_cast<std::uint32_t>(count);
@@ -52,11 +52,11 @@ std::int64_t DemoNetLibrary::NetStartRealStream(std::int64_t loginHandle, std::i
     if (device->isUninitialised() || !streamSettings(*device, channel, kind))
         return fail(NetError::NotSupported);
     const std::optional<FaultSetting> late = device->fault(Fault::FirstPictureLate);
-    const std::int64_t begins = m_site.clock().now() + (late ? late->number : 0);
-    const std::int64_t handle = m_streams.open({loginHandle, session->mac, channel, kind, begins});
+    const std::int64_t startTime = m_site.clock().now() + (late ? late->number : 0);
+    const std::int64_t handle = m_streams.open({loginHandle, session->mac, channel, kind, startTime});
     if (handle == 0)
         return fail(DemoError::NoThread);
-    if (!m_sessions.session(loginHandle)) { // it has been closed meanwhile, and its streams with it
+    if (!m_sessions.session(loginHandle)) { // the session and its streams were closed meanwhile
         m_streams.close(handle);
         return fail(NetError::SessionEnded);
     }
@@ -85,7 +85,7 @@ bool DemoNetLibrary::NetStreamFollowUp(std::int64_t streamHandle, std::int32_t c
     const std::optional<LiveStreamOrder> order = m_streams.order(streamHandle);
     if (order && order->channel != channel)
         return m_error.fail(NetError::NotSupported);
-    return m_streams.askForKeyPicture(streamHandle) || m_error.fail(NetError::InvalidValue);
+    return m_streams.requestKeyFrame(streamHandle) || m_error.fail(NetError::InvalidValue);
 }
 
 bool DemoNetLibrary::NetStopRealStream(std::int64_t streamHandle)

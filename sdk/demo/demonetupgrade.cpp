@@ -8,7 +8,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// The beginning of a file, as much as a head can have; nothing when there is nothing to read.
+/// The start of a file, up to the maximum length of a head; nullopt if it cannot be read.
 std::optional<QByteArray> beginningOf(const QString &path)
 {
     QFile file(path);
@@ -64,7 +64,7 @@ std::int64_t DemoNetLibrary::NetStartUpgrade(std::int64_t loginHandle, const cha
                          .user = user});
     if (handle == 0)
         return fail(DemoError::NoThread);
-    if (!m_sessions.session(loginHandle)) { // it has been closed meanwhile
+    if (!m_sessions.session(loginHandle)) { // the session was closed meanwhile
         m_upgrades.closeAllOf(loginHandle);
         return fail(NetError::SessionEnded);
     }

@@ -130,8 +130,7 @@ void DemoP2PAgentLibrary::OAgent_ClientRelease()
 {
     record("OAgent_ClientRelease", {});
     if (AgentEvents::isInsideHandler())
-        qCWarning(demoLog,
-                  "OAgent_ClientRelease was called from a handler and would wait for itself: ignored");
+        qCWarning(demoLog, "OAgent_ClientRelease was called from a handler and would be a deadlock: ignored");
     else
         release();
 }

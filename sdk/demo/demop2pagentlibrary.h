@@ -1,4 +1,4 @@
-// The port agent's roles on a simulated site.
+// The port agent on a simulated site.
 #pragma once
 
 #include "sdk/demo/agentevents.h"
@@ -18,9 +18,8 @@ namespace sdk::demo {
 class DemoSite;
 class HttpPort;
 
-/// Maps ports of the site's devices that have a P2P ID. The local ports are real ones of 127.0.0.1, and one
-/// to a device's web port speaks HTTP. Every
-/// request goes to the site's record, the server secret as its length only.
+/// Maps ports of the site's devices with a P2P ID to TCP ports of 127.0.0.1. A local port of a device's web
+/// port serves HTTP. Every request is added to the site's log, the server secret only as its length.
 class DemoP2PAgentLibrary : public P2PAgentLibrary
 {
 public:
@@ -38,10 +37,11 @@ public:
     bool OAgent_ClientDelPort(std::int32_t localPort) override;
     void OAgent_ClientRelease() override;
 
-    /// Where `localPort` leads; nothing when the agent has not given it.
+    /// The target of `localPort`; nullopt for a port that the agent has not opened.
     [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const;
 
-    /// Breaks the tunnel behind `localPort`, for good, with its event. Returns false when there is none.
+    /// Breaks the tunnel behind `localPort` permanently and reports the event. Returns false without such a
+    /// tunnel.
     bool breakTunnel(int localPort);
 
 private:
@@ -58,10 +58,10 @@ private:
 
     DemoSite &m_site;
     AgentEvents m_events;
-    std::mutex m_lifeMutex; // start and release, one at a time
+    std::mutex m_lifeMutex; // serialises start and release
     mutable std::mutex m_mutex;
     bool m_isStarted = false;
-    std::vector<Mapping> m_mappings; // in the order in which they were made
+    std::vector<Mapping> m_mappings; // in the order of their creation
 };
 
 } // namespace sdk::demo

@@ -14,8 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-// Outside every namespace, as Q_INIT_RESOURCE asks. It names the resources, so that a program that links this
-// library statically cannot lose them.
+// Outside every namespace, as Q_INIT_RESOURCE requires. The reference keeps the linker from dropping the
+// resources of this static library.
 static void takeInSceneResources()
 {
     Q_INIT_RESOURCE(demoscenes);
@@ -52,7 +52,7 @@ std::optional<Scene> sceneOf(const QString &nameOrFile, QString *error)
     }
     if (nameOrFile.startsWith(fleetPrefix))
         return generatedFleet(nameOrFile, error);
-    // What looks like a path is taken for one, so that a slip in it is told as such.
+    // A name that looks like a path is treated as one, so that the error names the file.
     if (nameOrFile.contains(u'/') || nameOrFile.endsWith(u".json") || QFileInfo::exists(nameOrFile))
         return SceneReader::readFile(nameOrFile, error);
     *error = u"There is no scene \"%1\"; known are %2, or the path of a scene file"_s.arg(
@@ -70,10 +70,10 @@ QStringList DemoSite::knownScenes()
 std::shared_ptr<DemoSite> DemoSite::open(const QString &sceneNameOrFile, std::shared_ptr<Clock> clock,
                                          QString *error)
 {
-    QString complaint;
-    const std::optional<Scene> scene = sceneOf(sceneNameOrFile, &complaint);
+    QString problem;
+    const std::optional<Scene> scene = sceneOf(sceneNameOrFile, &problem);
     if (error)
-        *error = complaint;
+        *error = problem;
     if (!scene)
         return nullptr;
     qCDebug(demoLog, "Scene \"%ls\": %lld devices", qUtf16Printable(sceneNameOrFile),

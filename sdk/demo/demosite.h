@@ -1,4 +1,5 @@
-// A whole simulated site in this process: try the tool, train, reproduce a fault.
+// A complete simulated site in this process, for trying the application, for training and for reproducing
+// faults.
 #pragma once
 
 #include "sdk/demo/site/sitestate.h"
@@ -21,35 +22,35 @@ class HttpResponder;
 class DemoSite final : public SiteState, public std::enable_shared_from_this<DemoSite>
 {
 public:
-    /// Names that open() takes, the default one first: "office", ..., "fleet:N".
+    /// The scene names of open(), the default first: "office", ..., "fleet:N".
     [[nodiscard]] static QStringList knownScenes();
 
-    /// Opens a scene that comes with the program, a fleet ("fleet:500", 1 to 20000 devices), or the scene
-    /// file of that path. Returns null on failure and sets `error` (may be null) to a sentence that says why.
-    /// `clock` is not null: everything on the site takes its time from it.
+    /// Opens a built-in scene, a fleet ("fleet:500", 1 to 20000 devices), or the scene file at a path.
+    /// Returns null on failure and sets `error` (may be null) to a sentence with the reason. `clock` is not
+    /// null; it is the clock of the complete site.
     [[nodiscard]] static std::shared_ptr<DemoSite> open(const QString &sceneNameOrFile,
                                                         std::shared_ptr<Clock> clock, QString *error);
 
-    /// A site of a scene made elsewhere.
+    /// A site of a given scene.
     [[nodiscard]] static std::shared_ptr<DemoSite> create(const Scene &scene, std::shared_ptr<Clock> clock);
 
     ~DemoSite() override;
     DemoSite(const DemoSite &) = delete;
     DemoSite &operator=(const DemoSite &) = delete;
 
-    /// The roles that the site fills, the same ones at every call.
+    /// The libraries of the site. Every call returns the same objects.
     [[nodiscard]] SdkLibraries libraries();
 
     [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const override;
 
-    /// The port agent, which knows where local ports lead, and whose tunnels a test can break.
+    /// The port agent. Tests break its tunnels.
     [[nodiscard]] DemoP2PAgentLibrary &portAgent() const { return *m_portAgent; }
 
-    /// The HTTP proxy through which the devices' web services are reached: "http://127.0.0.1:40123". It is
-    /// opened by the first call and ends with the site. Empty when the computer gives no port.
+    /// The URL of the HTTP proxy to the devices' web services: "http://127.0.0.1:40123". The first call opens
+    /// the proxy, which closes with the site. Empty if the host provides no port.
     [[nodiscard]] QString httpProxy();
 
-    /// What the proxy and the tunnels of the port agent answer with.
+    /// The responder of the proxy and of the port agent's tunnels.
     [[nodiscard]] HttpResponder &httpResponder() const { return *m_httpResponder; }
 
 private:
@@ -57,10 +58,10 @@ private:
 
     const std::shared_ptr<ConfigLibrary> m_config;
     const std::unique_ptr<HttpResponder> m_httpResponder;
-    // Last, the agent before those that look at its ports: threads end before what they use.
+    // Last, and the agent before the users of its ports: threads end before the objects that they use.
     std::unique_ptr<DemoP2PAgentLibrary> m_portAgent;
     std::unique_ptr<DemoNetLibrary> m_net;
-    std::mutex m_httpProxyMutex; // opening the proxy
+    std::mutex m_httpProxyMutex; // guards the opening of the proxy
     std::unique_ptr<HttpPort> m_httpProxy;
 };
 

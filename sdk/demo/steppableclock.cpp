@@ -25,10 +25,10 @@ bool SteppableClock::waitUntil(std::int64_t time, const std::stop_token &stop)
 bool SteppableClock::waitLocked(std::unique_lock<std::mutex> &lock, std::int64_t time,
                                 const std::stop_token &stop)
 {
-    const auto place = m_wakeTimes.insert(time);
+    const auto position = m_wakeTimes.insert(time);
     m_waitersChanged.notify_all();
     m_stepped.wait(lock, stop, [this, time] { return m_now >= time; });
-    m_wakeTimes.erase(place);
+    m_wakeTimes.erase(position);
     m_waitersChanged.notify_all();
     return !stop.stop_requested();
 }

@@ -1,4 +1,4 @@
-// A clock that stands still until it is stepped: waits and countdowns without sleeping.
+// A clock for tests that advances only by steps: waits end without sleeping.
 #pragma once
 
 #include "sdk/clock.h"
@@ -7,7 +7,7 @@
 
 namespace sdk::demo {
 
-/// Thread-safe. A thread that waits is woken by the step that reaches its time, or by its stop.
+/// Thread-safe. A waiting thread is woken by the step that reaches its time, or by its stop.
 class SteppableClock : public Clock
 {
 public:
@@ -21,15 +21,14 @@ public:
     bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) override;
     bool waitUntil(std::int64_t time, const std::stop_token &stop) override;
 
-    /// Moves the clock on; a negative step is ignored.
+    /// Advances the clock. A negative step is ignored.
     void advance(std::chrono::milliseconds step);
 
-    /// How many threads wait for a later step. A thread whose time has come counts no more, even before it
-    /// runs again.
+    /// The number of threads that wait for a later step. A thread whose time has come is not counted, even
+    /// before it runs again.
     [[nodiscard]] int waiters() const;
 
-    /// Blocks until exactly `count` threads wait. Returns false when `timeout` of real time has passed
-    /// before.
+    /// Blocks until exactly `count` threads wait. Returns false after `timeout` of real time.
     [[nodiscard]] bool waitForWaiters(int count,
                                       std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
 
@@ -41,7 +40,7 @@ private:
     mutable std::condition_variable m_waitersChanged;
     std::condition_variable_any m_stepped;
     std::int64_t m_now;
-    std::multiset<std::int64_t> m_wakeTimes; // one of each thread in a wait
+    std::multiset<std::int64_t> m_wakeTimes; // one for each waiting thread
 };
 
 } // namespace sdk::demo

@@ -36,7 +36,7 @@ public:
                                                     const sdk::demo::HttpRequest &head) = 0;
 
     /// HttpStatus::None for no response: the connection is closed.
-    [[nodiscard]] virtual sdk::demo::HttpReply
+    [[nodiscard]] virtual sdk::demo::HttpResponse
     answer(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) = 0;
 };
 

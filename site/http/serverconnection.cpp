@@ -12,9 +12,9 @@ namespace site {
 
 namespace {
 
-HttpReply plainReply(HttpStatus status)
+HttpResponse plainResponse(HttpStatus status)
 {
-    return HttpReply::line(status, QString::fromLatin1(reasonPhrase(status)));
+    return HttpResponse::line(status, QString::fromLatin1(reasonPhrase(status)));
 }
 
 } // namespace
@@ -36,16 +36,16 @@ void ServerConnection::serve()
         if (status == HttpStatus::None)
             return;
         if (status != HttpStatus::Ok) {
-            if (sendReply(plainReply(status), true, false))
+            if (sendResponse(plainResponse(status), true, false))
                 linger();
             return;
         }
-        const HttpReply reply = m_service.answer(m_receiver, head, body);
-        if (reply.status == HttpStatus::None)
+        const HttpResponse response = m_service.answer(m_receiver, head, body);
+        if (response.status == HttpStatus::None)
             return;
         const bool hasBody = head.method != "HEAD";
         const bool keeps = head.keepsConnection && hasBody;
-        if (!sendReply(reply, hasBody, keeps))
+        if (!sendResponse(response, hasBody, keeps))
             return;
         if (!keeps) {
             linger();
@@ -110,21 +110,21 @@ bool ServerConnection::receiveMore(std::chrono::milliseconds patience)
     return true;
 }
 
-bool ServerConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const
+bool ServerConnection::sendResponse(const HttpResponse &response, bool hasBody, bool keepsConnection) const
 {
-    if (reply.lateness > 0ms && !m_clock.wait(reply.lateness, m_receiver.stop))
+    if (response.delay > 0ms && !m_clock.wait(response.delay, m_receiver.stop))
         return false;
-    if (!reply.hasNoHead && !send(httpHead(reply, keepsConnection)))
+    if (!response.hasNoHead && !send(httpHead(response, keepsConnection)))
         return false;
-    return !hasBody || (sendBody(reply) && !reply.isBroken && !reply.hasNoHead);
+    return !hasBody || (sendBody(response) && !response.isBroken && !response.hasNoHead);
 }
 
-bool ServerConnection::sendBody(const HttpReply &reply) const
+bool ServerConnection::sendBody(const HttpResponse &response) const
 {
-    const qint64 end = reply.isBroken ? reply.fullLength() / 2 : reply.fullLength();
-    const QByteArrayView block = reply.body;
+    const qint64 end = response.isBroken ? response.fullLength() / 2 : response.fullLength();
+    const QByteArrayView block = response.body;
     qint64 sent = 0;
-    for (std::chrono::seconds slow = reply.slowness; slow > 0s && sent < end; slow -= 1s, ++sent) {
+    for (std::chrono::seconds slow = response.slowDuration; slow > 0s && sent < end; slow -= 1s, ++sent) {
         if (!send(block.sliced(sent % block.size(), 1)) || !m_clock.wait(1s, m_receiver.stop))
             return false;
     }

@@ -37,8 +37,8 @@ private:
     bool receiveMore(std::chrono::milliseconds patience);
 
     /// Returns false when the connection is unusable.
-    bool sendReply(const sdk::demo::HttpReply &reply, bool hasBody, bool keepsConnection) const;
-    bool sendBody(const sdk::demo::HttpReply &reply) const;
+    bool sendResponse(const sdk::demo::HttpResponse &response, bool hasBody, bool keepsConnection) const;
+    bool sendBody(const sdk::demo::HttpResponse &response) const;
     bool send(QByteArrayView bytes) const;
 
     /// Reads the remaining data of the client, so that the client receives the response before the connection

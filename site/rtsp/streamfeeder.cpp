@@ -63,7 +63,7 @@ void StreamFeeder::run(const std::stop_token &stop)
     const int asked = m_keyFrames.count(m_order.mac, m_order.stream);
     const std::optional<SceneDevice> device = m_site.device(m_order.mac);
     std::unique_ptr<LiveProduction> production =
-        device ? LiveProduction::begin(*device, m_order.stream.channel, m_order.stream.kind, m_order.settings)
+        device ? LiveProduction::start(*device, m_order.stream.channel, m_order.stream.kind, m_order.settings)
                : nullptr;
     if (production && feedBeginning(*production)) {
         m_keyFrames.waitAfter(asked, m_order.mac, m_order.stream, stop);
@@ -82,7 +82,7 @@ bool StreamFeeder::feedBeginning(LiveProduction &production)
     constexpr int mostPictures = 50;
     for (; m_picture == 0 || (m_order.sound && !m_hasSound && m_picture < mostPictures); ++m_picture) {
         EncodedPackets packets;
-        if (!production.makePicture(m_picture, deviceTime(), m_picture == 0, packets) ||
+        if (!production.encodeFrame(m_picture, deviceTime(), m_picture == 0, packets) ||
             !feed(production, packets))
             return false;
     }
@@ -114,7 +114,7 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
             return;
         if (*settings != production->settings()) {
             production =
-                LiveProduction::begin(*device, m_order.stream.channel, m_order.stream.kind, *settings);
+                LiveProduction::start(*device, m_order.stream.channel, m_order.stream.kind, *settings);
             if (!production)
                 return;
             setCaps(m_order.pictures, pictureCaps(*settings));
@@ -125,7 +125,7 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
         }
         const int count = m_keyFrames.count(m_order.mac, m_order.stream);
         EncodedPackets packets;
-        if (!production->makePicture(m_picture, deviceTime(), count != asked, packets) ||
+        if (!production->encodeFrame(m_picture, deviceTime(), count != asked, packets) ||
             !feed(*production, packets))
             return;
         asked = count;

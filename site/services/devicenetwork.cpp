@@ -50,7 +50,7 @@ sdk::NetError give(const ServiceCall &call, const Ipv4Settings &settings)
     writePlain(wanted.address, settings.address);
     writePlain(wanted.subnetMask, settings.mask);
     writePlain(wanted.gateway, settings.gateway);
-    return giveAddress(call.context.site, call.device.mac, wanted);
+    return changeDeviceAddress(call.context.site, call.device.mac, wanted);
 }
 
 /// Applies the settings immediately, or at the next restart; then `needsReboot` is set.

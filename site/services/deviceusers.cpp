@@ -91,7 +91,7 @@ ServiceResult createFirstUser(const ServiceCall &call, const WantedUser &user)
 {
     if (user.level != UserLevel::Administrator)
         return SoapFault::invalid("ter:AnonymousNotAllowed", u"The first user must be an administrator"_s);
-    const sdk::NetError error = giveFirstAccount(call.context.site, call.device.mac, user.account);
+    const sdk::NetError error = initialiseDevice(call.context.site, call.device.mac, user.account);
     return resultOf(error, SoapFault::prohibited(u"The device refuses its first user"_s));
 }
 

@@ -18,25 +18,26 @@ BodyReceiver DeviceWeb::bodyReceiver(const HttpReceiver &receiver, const HttpReq
     return m_context.uploads.bodyReceiver(receiver, path, head.bodyLength);
 }
 
-HttpReply DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
+HttpResponse DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
 {
     const HttpTarget target = readHttpTarget(head.target);
     if (isServicePath(target.path)) {
         if (head.method == "POST")
             return m_soap.answer(receiver, head, body);
-        HttpReply reply = HttpReply::line(HttpStatus::MethodNotAllowed, u"Services take POST only"_s);
-        reply.fields.append("Allow: POST");
-        return reply;
+        HttpResponse response =
+            HttpResponse::line(HttpStatus::MethodNotAllowed, u"Services take POST only"_s);
+        response.fields.append("Allow: POST");
+        return response;
     }
     if (head.method == "POST" && FirmwareUploads::isUploadPath(target.path))
         return m_context.uploads.finish(receiver, target.path);
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     if (!device || device->httpPort == 0)
-        return HttpReply::line(HttpStatus::NotFound, u"The device has no web page"_s);
+        return HttpResponse::line(HttpStatus::NotFound, u"The device has no web page"_s);
     // The web service of the demo site finds the device by its address and its HTTP port, like a proxy.
     HttpRequest request = head;
     request.target = serviceRoot(receiver.address, servicePortOf(*device)).toLatin1() + head.target;
-    return m_context.site.httpResponder().answer({.localPort = HttpResponder::proxy}, request);
+    return m_context.site.httpResponder().respond({.localPort = HttpResponder::proxy}, request);
 }
 
 } // namespace site

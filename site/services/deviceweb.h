@@ -15,7 +15,7 @@ public:
 
     [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                             const sdk::demo::HttpRequest &head) override;
-    [[nodiscard]] sdk::demo::HttpReply
+    [[nodiscard]] sdk::demo::HttpResponse
     answer(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) override;
 
 private:

@@ -24,7 +24,7 @@ constexpr std::array codecs = {
 constexpr std::array<std::string_view, 5> profileNames = {"", "Baseline", "Main", "Extended", "High"};
 
 template<typename Item>
-ItemPlace placeOfItem(sdk::EncodeItem item, const MediaStream &stream)
+ItemKey keyOfItem(sdk::EncodeItem item, const MediaStream &stream)
 {
     return {static_cast<std::uint32_t>(item), stream.channel, sdk::streamNumber(stream.encodeKind())};
 }
@@ -33,7 +33,7 @@ template<typename Item>
 bool read(const SceneDevice &device, sdk::EncodeItem number, const MediaStream &stream, Item &item)
 {
     const std::optional<FaultSetting> withheld = device.fault(Fault::WithholdsItem);
-    const std::optional<QByteArray> block = channelItem(device, placeOfItem<Item>(number, stream));
+    const std::optional<QByteArray> block = channelItem(device, keyOfItem<Item>(number, stream));
     if (!block || block->size() != sizeof(Item) || (withheld && withheld->number == static_cast<int>(number)))
         return false;
     std::memcpy(&item, block->constData(), sizeof(item));
@@ -44,8 +44,9 @@ template<typename Item>
 sdk::NetError write(SceneDevice &device, sdk::EncodeItem number, const MediaStream &stream, const Item &item)
 {
     const QByteArray block(reinterpret_cast<const char *>(&item), sizeof(item));
-    const ItemPlace place = placeOfItem<Item>(number, stream);
-    return channelItem(device, place) == block ? sdk::NetError::None : setChannelItem(device, place, block);
+    const ItemKey itemKey = keyOfItem<Item>(number, stream);
+    return channelItem(device, itemKey) == block ? sdk::NetError::None
+                                                 : setChannelItem(device, itemKey, block);
 }
 
 QString keyDistanceKey(const MediaStream &stream)

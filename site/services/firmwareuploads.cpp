@@ -90,12 +90,12 @@ bool FirmwareUploads::take(const HttpReceiver &receiver, Upload &upload, QByteAr
     return failure >= all || percent < failure;
 }
 
-HttpReply FirmwareUploads::finish(const HttpReceiver &receiver, const QByteArray &path)
+HttpResponse FirmwareUploads::finish(const HttpReceiver &receiver, const QByteArray &path)
 {
     const UploadPointer upload = uploadOf(receiver, path);
     const std::optional<SceneDevice> device = m_site.device(receiver.mac);
     if (!upload || !device)
-        return HttpReply::line(HttpStatus::NotFound, u"Nobody has asked for an upgrade here"_s);
+        return HttpResponse::line(HttpStatus::NotFound, u"Nobody has asked for an upgrade here"_s);
     const sdk::FirmwareHeadReading reading =
         sdk::readFirmwareHead({upload->head.constData(), static_cast<std::size_t>(upload->head.size())});
     if (reading.kind != sdk::FirmwareHeadReading::Kind::Known ||
@@ -111,13 +111,13 @@ HttpReply FirmwareUploads::finish(const HttpReceiver &receiver, const QByteArray
         m_poller.after(DeviceUpgrade::writing,
                        [this, mac = receiver.mac, firmware = reading.head] { write(mac, firmware); });
     }
-    return HttpReply::line(HttpStatus::Ok, u"The device writes the firmware and reboots"_s);
+    return HttpResponse::line(HttpStatus::Ok, u"The device writes the firmware and reboots"_s);
 }
 
-HttpReply FirmwareUploads::refuse(const QString &mac, const QString &sentence)
+HttpResponse FirmwareUploads::refuse(const QString &mac, const QString &sentence)
 {
     end(mac);
-    return HttpReply::line(HttpStatus::InternalServerError, sentence);
+    return HttpResponse::line(HttpStatus::InternalServerError, sentence);
 }
 
 void FirmwareUploads::write(const QString &mac, const sdk::FirmwareHead &firmware)

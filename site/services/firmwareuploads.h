@@ -37,7 +37,7 @@ public:
                                             qint64 size);
 
     /// The response to a complete file.
-    [[nodiscard]] sdk::demo::HttpReply finish(const HttpReceiver &receiver, const QByteArray &path);
+    [[nodiscard]] sdk::demo::HttpResponse finish(const HttpReceiver &receiver, const QByteArray &path);
 
 private:
     struct Upload
@@ -51,7 +51,7 @@ private:
 
     [[nodiscard]] UploadPointer uploadOf(const HttpReceiver &receiver, const QByteArray &path) const;
     bool take(const HttpReceiver &receiver, Upload &upload, QByteArrayView chunk, qint64 size) const;
-    [[nodiscard]] sdk::demo::HttpReply refuse(const QString &mac, const QString &sentence);
+    [[nodiscard]] sdk::demo::HttpResponse refuse(const QString &mac, const QString &sentence);
     void write(const QString &mac, const sdk::FirmwareHead &firmware);
     void end(const QString &mac);
 

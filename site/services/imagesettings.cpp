@@ -25,7 +25,7 @@ constexpr int wideDynamicOn = 2;
 constexpr int manualWhiteBalance = 1;
 constexpr int manualExposure = 1;
 
-ItemPlace placeOfItem(sdk::CameraItem item, int channel)
+ItemKey keyOfItem(sdk::CameraItem item, int channel)
 {
     return {static_cast<std::uint32_t>(item), channel, static_cast<std::int32_t>(sdk::CameraMode::Normal)};
 }
@@ -34,7 +34,7 @@ template<typename Item>
 std::optional<Item> read(const SceneDevice &device, sdk::CameraItem number, int channel)
 {
     const std::optional<FaultSetting> withheld = device.fault(Fault::WithholdsItem);
-    const std::optional<QByteArray> block = channelItem(device, placeOfItem(number, channel));
+    const std::optional<QByteArray> block = channelItem(device, keyOfItem(number, channel));
     if (!block || block->size() != sizeof(Item) || (withheld && withheld->number == static_cast<int>(number)))
         return std::nullopt;
     Item item;
@@ -48,8 +48,9 @@ sdk::NetError write(SceneDevice &device, sdk::CameraItem number, int channel, co
     if (!item)
         return sdk::NetError::None;
     const QByteArray block(reinterpret_cast<const char *>(&*item), sizeof(Item));
-    const ItemPlace place = placeOfItem(number, channel);
-    return channelItem(device, place) == block ? sdk::NetError::None : setChannelItem(device, place, block);
+    const ItemKey itemKey = keyOfItem(number, channel);
+    return channelItem(device, itemKey) == block ? sdk::NetError::None
+                                                 : setChannelItem(device, itemKey, block);
 }
 
 /// Reads a number of a range. A missing element changes nothing.

@@ -69,14 +69,15 @@ const ServiceOperation *operationOf(const SoapRequest &request, const DeviceMann
 
 } // namespace
 
-HttpReply SoapService::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
+HttpResponse SoapService::answer(const HttpReceiver &receiver, const HttpRequest &head,
+                                 const QByteArray &body)
 {
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
-    HttpReply reply;
-    reply.status = HttpStatus::None;
+    HttpResponse response;
+    response.status = HttpStatus::None;
     // The listeners are closed shortly after the start of the device's reboot.
     if (!device || !device->isListening(m_context.site.clock().now()))
-        return reply;
+        return response;
     if (const std::optional<FaultSetting> slow = device->fault(Fault::SlowAnswers))
         m_context.site.clock().wait(std::chrono::milliseconds(slow->number), receiver.stop);
     const DeviceManner manner = m_context.options.mannerOf(*device);
@@ -91,17 +92,17 @@ HttpReply SoapService::answer(const HttpReceiver &receiver, const HttpRequest &h
         message = SoapMessage();
         writeFault(message, *outcome.fault);
     }
-    reply.status = outcome.status;
-    reply.contentType = "application/soap+xml; charset=utf-8";
+    response.status = outcome.status;
+    response.contentType = "application/soap+xml; charset=utf-8";
     if (outcome.isChallenge) {
         const std::int64_t now = m_context.site.clock().now();
         for (const QByteArray &challenge : m_context.logins.challenges(*device, manner, outcome.isStale, now))
-            reply.fields.append("WWW-Authenticate: " + challenge);
+            response.fields.append("WWW-Authenticate: " + challenge);
     }
-    reply.body = message.bytes(manner.xml);
+    response.body = message.bytes(manner.xml);
     if (!m_context.options.recordFolder.isEmpty())
-        recordExchange(m_context.options.recordFolder, receiver, body, reply.body);
-    return reply;
+        recordExchange(m_context.options.recordFolder, receiver, body, response.body);
+    return response;
 }
 
 SoapService::Outcome SoapService::run(const HttpReceiver &receiver, const SceneDevice &device,

@@ -12,8 +12,8 @@ public:
     /// `context` must outlive the service.
     explicit SoapService(ServiceContext &context) : m_context(context) {}
 
-    [[nodiscard]] sdk::demo::HttpReply answer(const HttpReceiver &receiver,
-                                              const sdk::demo::HttpRequest &head, const QByteArray &body);
+    [[nodiscard]] sdk::demo::HttpResponse answer(const HttpReceiver &receiver,
+                                                 const sdk::demo::HttpRequest &head, const QByteArray &body);
 
 private:
     struct Outcome

@@ -27,7 +27,7 @@ std::uint32_t usualGroups(const SceneDevice &device)
 {
     const bool isCamera = device.type == u"IPC" || device.type == u"SD" || device.type == u"ITC";
     if (!isCamera)
-        return bit(CameraGroup::Picture); // of what is connected to it, no more can be set
+        return bit(CameraGroup::Picture); // of connected cameras, only this group can be set
     constexpr std::uint32_t all = (1u << cameraGroupCount) - 1;
     return all & ~bit(CameraGroup::MixedLight);
 }
@@ -47,7 +47,7 @@ QByteArray bytesOf(Item item, std::int32_t mode)
     return {reinterpret_cast<const char *>(&item), sizeof(item)};
 }
 
-/// The group that an item belongs to; nothing for the name of a channel, which every device has.
+/// The group of an item; nullopt for the name of a channel, which every device supports.
 std::optional<CameraGroup> groupOf(CameraItem item)
 {
     switch (item) {
@@ -130,20 +130,21 @@ CameraCapabilities cameraCapabilities(const SceneDevice &device)
     return block;
 }
 
-std::optional<QByteArray> usualCameraItem(const SceneDevice &device, const ItemPlace &place)
+std::optional<QByteArray> usualCameraItem(const SceneDevice &device, const ItemKey &itemKey)
 {
-    const auto item = static_cast<CameraItem>(place.item);
+    const auto item = static_cast<CameraItem>(itemKey.item);
     const std::optional<CameraGroup> group = groupOf(item);
-    const bool isMode = place.selector >= 0 && place.selector < static_cast<std::int32_t>(cameraModeCount);
+    const bool isMode =
+        itemKey.selector >= 0 && itemKey.selector < static_cast<std::int32_t>(cameraModeCount);
     if (!isMode || (group && (cameraCapabilities(device).groups & bit(*group)) == 0))
         return std::nullopt;
-    const std::int32_t mode = place.selector;
+    const std::int32_t mode = itemKey.selector;
     const bool isNight = mode == static_cast<std::int32_t>(CameraMode::Night);
     constexpr int half = 50;      // of a percentage
-    constexpr int quarter = 2048; // of the picture's side
+    constexpr int quarter = 2048; // of the image's side
     switch (item) {
     case CameraItem::ChannelName:
-        return channelName(device, place.channel);
+        return channelName(device, itemKey.channel);
     case CameraItem::Picture:
         return bytesOf(PictureItem{0, 0, 2, isNight ? 40 : half, half, half, half, half, {}}, mode);
     case CameraItem::Mirror:

@@ -1,4 +1,4 @@
-// What the cameras of a simulated device can do, and their settings before anybody changed them.
+// The capabilities of a simulated device's cameras, and their default settings.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -7,12 +7,11 @@
 
 namespace sdk::demo {
 
-/// From the scene's capabilities ("camera"), else those that cameras, and devices that cameras are connected
-/// to, usually have.
+/// From the scene's capabilities ("camera"), otherwise those of a typical camera or recorder.
 [[nodiscard]] CameraCapabilities cameraCapabilities(const SceneDevice &device);
 
-/// The block of a camera item as the device has it by itself; nothing when it cannot do what the item is for,
-/// or `place` is no item of a camera.
-[[nodiscard]] std::optional<QByteArray> usualCameraItem(const SceneDevice &device, const ItemPlace &place);
+/// The default block of a camera item; nullopt if the device does not support the item, or `itemKey` is not
+/// the key of a camera item.
+[[nodiscard]] std::optional<QByteArray> usualCameraItem(const SceneDevice &device, const ItemKey &itemKey);
 
 } // namespace sdk::demo

@@ -35,7 +35,7 @@ std::string_view recordView(const QByteArray &bytes)
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-/// A device that tells of no channels has one.
+/// A device without a list of channels has one channel.
 bool hasChannel(const SceneDevice &device, std::int32_t channel)
 {
     if (device.channels.isEmpty())
@@ -43,12 +43,12 @@ bool hasChannel(const SceneDevice &device, std::int32_t channel)
     return channel >= 0 && channel < device.channels.size() && device.channels.at(channel).connected;
 }
 
-std::optional<QByteArray> usualEncodeItem(const SceneDevice &device, const ItemPlace &place)
+std::optional<QByteArray> usualEncodeItem(const SceneDevice &device, const ItemKey &itemKey)
 {
-    if (place.selector < 1 || place.selector > static_cast<std::int32_t>(streamKindCount))
+    if (itemKey.selector < 1 || itemKey.selector > static_cast<std::int32_t>(streamKindCount))
         return std::nullopt;
-    const auto kind = static_cast<StreamKind>(place.selector - 1);
-    switch (static_cast<EncodeItem>(place.item)) {
+    const auto kind = static_cast<StreamKind>(itemKey.selector - 1);
+    switch (static_cast<EncodeItem>(itemKey.item)) {
     case EncodeItem::VideoFormat:
         return bytesOf(usualVideoFormat(device, kind));
     case EncodeItem::VideoProfile:
@@ -64,22 +64,22 @@ std::optional<QByteArray> usualEncodeItem(const SceneDevice &device, const ItemP
 template<typename Item>
 Item itemOf(const SceneDevice &device, auto number, std::int32_t channel, std::int32_t selector)
 {
-    const ItemPlace place = {static_cast<std::uint32_t>(number), channel, selector};
-    return blockOf<Item>(channelItem(device, place).value_or(QByteArray()));
+    const ItemKey itemKey = {static_cast<std::uint32_t>(number), channel, selector};
+    return blockOf<Item>(channelItem(device, itemKey).value_or(QByteArray()));
 }
 
 EncodeRecord encodeRecord(const SceneDevice &device, std::int32_t channel)
 {
     EncodeRecord record = {};
     record.size = sizeof(record);
-    for (std::size_t place = 0; place < streamKindCount; ++place) {
-        const std::int32_t stream = streamNumber(static_cast<StreamKind>(place));
+    for (std::size_t index = 0; index < streamKindCount; ++index) {
+        const std::int32_t stream = streamNumber(static_cast<StreamKind>(index));
         const auto video = itemOf<VideoFormatItem>(device, EncodeItem::VideoFormat, channel, stream);
         const auto profile = itemOf<VideoProfileItem>(device, EncodeItem::VideoProfile, channel, stream);
         const auto audio =
             itemOf<AudioCompressionItem>(device, EncodeItem::AudioCompression, channel, stream);
         const auto format = itemOf<AudioFormatItem>(device, EncodeItem::AudioFormat, channel, stream);
-        record.streams[place] = {video.videoEnable,
+        record.streams[index] = {video.videoEnable,
                                  video.compression,
                                  profile.profile,
                                  video.width,
@@ -108,7 +108,7 @@ Record recordOfModes(const SceneDevice &device, CameraItem item, std::int32_t ch
     return record;
 }
 
-/// The other way round.
+/// The reverse.
 template<typename Item>
 void takeModes(SceneDevice &device, CameraItem item, std::int32_t channel, Item *entries)
 {
@@ -133,10 +133,10 @@ LightingRecord lightingRecord(const SceneDevice &device, std::int32_t channel)
         device, CameraItem::MixedLight, channel, [](LightingRecord &record) { return record.lights.data(); });
 }
 
-/// By the abilities of its encoder, or for an item of a camera by its faults alone.
-bool takesItem(const SceneDevice &device, const ItemPlace &place, const QByteArray &block)
+/// By the capabilities of its encoder; for an item of a camera by its faults only.
+bool takesItem(const SceneDevice &device, const ItemKey &itemKey, const QByteArray &block)
 {
-    switch (static_cast<EncodeItem>(place.item)) {
+    switch (static_cast<EncodeItem>(itemKey.item)) {
     case EncodeItem::VideoFormat:
         return takes(device, blockOf<VideoFormatItem>(block));
     case EncodeItem::VideoProfile:
@@ -147,28 +147,28 @@ bool takesItem(const SceneDevice &device, const ItemPlace &place, const QByteArr
         return takes(device, blockOf<AudioFormatItem>(block));
     }
     const std::optional<FaultSetting> refusal = device.fault(Fault::RefusesItem);
-    return !refusal || refusal->number != static_cast<int>(place.item);
+    return !refusal || refusal->number != static_cast<int>(itemKey.item);
 }
 
 } // namespace
 
-std::optional<QByteArray> channelItem(const SceneDevice &device, const ItemPlace &place)
+std::optional<QByteArray> channelItem(const SceneDevice &device, const ItemKey &itemKey)
 {
-    if (!hasChannel(device, place.channel))
+    if (!hasChannel(device, itemKey.channel))
         return std::nullopt;
-    const auto written = device.channelSettings.constFind(place);
+    const auto written = device.channelSettings.constFind(itemKey);
     if (written != device.channelSettings.constEnd())
         return *written;
-    const std::optional<QByteArray> encode = usualEncodeItem(device, place);
-    return encode ? encode : usualCameraItem(device, place);
+    const std::optional<QByteArray> encode = usualEncodeItem(device, itemKey);
+    return encode ? encode : usualCameraItem(device, itemKey);
 }
 
-NetError setChannelItem(SceneDevice &device, const ItemPlace &place, const QByteArray &block)
+NetError setChannelItem(SceneDevice &device, const ItemKey &itemKey, const QByteArray &block)
 {
-    // An item that it cannot tell it cannot take either.
-    if (!channelItem(device, place) || !takesItem(device, place, block))
+    // An item that cannot be read cannot be written.
+    if (!channelItem(device, itemKey) || !takesItem(device, itemKey, block))
         return NetError::NotSupported;
-    device.channelSettings.insert(place, block);
+    device.channelSettings.insert(itemKey, block);
     return NetError::None;
 }
 
@@ -230,9 +230,9 @@ NetError tellEncodeCapabilities(const SceneDevice &device, std::int32_t channel,
     if (!hasChannel(device, channel) ||
         !unpackConfigText("Encode", recordView(text), &settings, sizeof(settings)))
         return NetError::NotSupported;
-    for (std::size_t place = 0; place < streamKindCount; ++place) {
-        capabilities.blocks[place] =
-            capabilityBlock(device, static_cast<StreamKind>(place), settings.streams[place]);
+    for (std::size_t index = 0; index < streamKindCount; ++index) {
+        capabilities.blocks[index] =
+            capabilityBlock(device, static_cast<StreamKind>(index), settings.streams[index]);
     }
     return NetError::None;
 }

@@ -1,4 +1,4 @@
-// The items and configuration texts of a simulated device's channels: reading, changing, answering.
+// Reads and changes the items and configurations of a simulated device's channels.
 #pragma once
 
 #include "sdk/demo/device/itemblocks.h"
@@ -8,26 +8,26 @@
 
 namespace sdk::demo {
 
-/// The block of an item, as it was written or as the device has it by itself. Nothing when the device does
-/// not know it, or the channel is not there or not connected.
-[[nodiscard]] std::optional<QByteArray> channelItem(const SceneDevice &device, const ItemPlace &place);
+/// The block of an item, as it was written or with the device's defaults. nullopt if the device does not have
+/// the item, or the channel does not exist or is not connected.
+[[nodiscard]] std::optional<QByteArray> channelItem(const SceneDevice &device, const ItemKey &itemKey);
 
-/// Takes the block of an item, which has the item's size. Returns NotSupported when the device refuses it.
-[[nodiscard]] NetError setChannelItem(SceneDevice &device, const ItemPlace &place, const QByteArray &block);
+/// Writes the block of an item, which has the item's size. Returns NotSupported if the device refuses it.
+[[nodiscard]] NetError setChannelItem(SceneDevice &device, const ItemKey &itemKey, const QByteArray &block);
 
 /// Whether `name` is the configuration of a channel.
 [[nodiscard]] bool isChannelConfiguration(const QString &name);
 
-/// The text of such a configuration, made of the channel's items. Nothing when the device does not have it.
+/// The JSON of such a configuration, from the channel's items. nullopt if the device does not have it.
 [[nodiscard]] std::optional<QByteArray> channelText(const SceneDevice &device, const QString &name,
                                                     std::int32_t channel);
 
-/// Takes such a text into the channel's items. Returns NotSupported when the device refuses it.
+/// Writes such a JSON to the channel's items. Returns NotSupported if the device refuses it.
 [[nodiscard]] NetError setChannelText(SceneDevice &device, const QString &name, std::int32_t channel,
                                       const QByteArray &text);
 
-/// Fills the blocks of `capabilities` for the settings that `text` tells. Returns NotSupported when the
-/// device has no such channel, or the text is not of the configuration "Encode".
+/// Fills the blocks of `capabilities` for the settings in `text`. Returns NotSupported if the device has no
+/// such channel, or `text` is not the configuration "Encode".
 [[nodiscard]] NetError tellEncodeCapabilities(const SceneDevice &device, std::int32_t channel,
                                               const QByteArray &text, EncodeCapabilities &capabilities);
 

@@ -34,7 +34,7 @@ NetworkRecord networkRecord(const SceneDevice &device)
     return record;
 }
 
-/// As a device leaves the factory; what it is told since is in its configuration.
+/// Factory settings. Later changes are in the device's configuration.
 std::optional<QByteArray> maintenanceText(const QString &name)
 {
     constexpr int fetchingPort = 123;
@@ -128,7 +128,7 @@ std::optional<QByteArray> configurationText(const SceneDevice &device, const QSt
         return text;
     if (const std::optional<FaultSetting> odd = device.fault(Fault::OddConfiguration);
         odd && odd->text == name)
-        return text->chopped(1) + "\x07\xff\n"; // its last bracket is missing
+        return text->chopped(1) + "\x07\xff\n"; // without its last bracket
     if (const std::optional<FaultSetting> odd = device.fault(Fault::OverLongConfiguration);
         odd && odd->text == name)
         return *text + QByteArray(static_cast<qsizetype>(longestConfigText), ' ');

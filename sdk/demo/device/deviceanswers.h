@@ -1,4 +1,4 @@
-// What a simulated device answers to the queries of a session.
+// The responses of a simulated device to the queries of a session.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -11,18 +11,17 @@ namespace sdk::demo {
 
 inline constexpr int usualHttpsPort = 443;
 
-/// Where the web service of a device listens over HTTPS, by its configuration "Https"; 0 for nowhere.
+/// The HTTPS port of a device's web service, from its configuration "Https"; 0 if HTTPS is disabled.
 [[nodiscard]] int httpsPortOf(const SceneDevice &device);
 
 [[nodiscard]] DeviceAttributes deviceAttributes(const SceneDevice &device);
 [[nodiscard]] NetworkServices networkServices(const SceneDevice &device);
 
-/// What the device's own clock shows at `now` of the site's clock.
+/// The time of the device's clock at `now` of the site's clock.
 [[nodiscard]] TimeRecord deviceTime(const SceneDevice &device, std::int64_t now);
 
-/// The configuration text `name`: the device's own state, with the scene's "configuration" of that name laid
-/// over it. `channel` is for configurations of channels. Nothing when the device does not know the name or
-/// has no such channel.
+/// The configuration `name` as JSON: the device's own state, overridden by the scene's "configuration" of
+/// that name. `channel` is for configurations of channels. nullopt for an unknown name or channel.
 [[nodiscard]] std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name,
                                                           std::int32_t channel = -1);
 

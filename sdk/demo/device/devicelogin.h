@@ -1,4 +1,4 @@
-// Whether a device lets an account in.
+// The check of a login.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -12,7 +12,7 @@
 
 namespace sdk::demo {
 
-/// The two kinds of login, which name some failures differently.
+/// The two kinds of login, whose error codes differ.
 enum class LoginKind
 {
     First,
@@ -23,9 +23,9 @@ enum class LoginKind
 class LoginGuard
 {
 public:
-    /// NetError::None when `device` lets the account in. A device that waits for its first password has no
-    /// accounts and refuses with NotSupported. The last try before an account locks fails as a wrong
-    /// password; from then on the right one fails as well.
+    /// NetError::None if `device` accepts the account. An uninitialised device has no accounts and returns
+    /// NotSupported. The last attempt before an account locks fails as a wrong password; from then on the
+    /// right password fails as well.
     [[nodiscard]] NetError check(const SceneDevice &device, const QString &account, const QString &password,
                                  LoginKind kind);
 
@@ -37,10 +37,10 @@ private:
     QHash<std::pair<QString, QString>, int> m_wrongTries; // by MAC and account
 };
 
-/// The account `user` of `device`, null when it has none.
+/// The account `user` of `device`; null without one.
 [[nodiscard]] const SceneAccount *accountOf(const SceneDevice &device, const QString &user);
 
-/// What `device` tells about itself at a login.
+/// The device information in the response to a login.
 [[nodiscard]] LoginDeviceInformation loginInformation(const SceneDevice &device, bool throughTunnel);
 
 } // namespace sdk::demo

@@ -12,7 +12,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// What an encoder can spend at most on a picture, in pixels for each kbit/s.
+/// The encoder's limit: pixels of an image for each kbit/s.
 constexpr int pixelsPerKilobit = 50;
 
 /// Format numbers of configurations, by the codes of capabilities.
@@ -84,7 +84,7 @@ void fill(PictureSizeList &list, const QList<PictureSize> &values)
     list.count = fill(list.sizes, values);
 }
 
-/// Counts beyond every bound, bits and codes that nobody knows, sizes of 0.
+/// Counts out of range, unknown bits and codes, sizes of 0.
 void makeOdd(EncodeCapabilityBlock &block)
 {
     constexpr std::uint32_t tooMany = 0xFFFFFFFF;

@@ -1,4 +1,4 @@
-// What the encoder of a simulated device can do, and its settings before anybody changed them.
+// The capabilities of a simulated device's encoder, and its default settings.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -8,17 +8,17 @@
 
 namespace sdk::demo {
 
-/// One kind of stream, from the scene's capabilities ("encode": "main", "sub") or those of a usual camera.
+/// One kind of stream, from the scene's capabilities ("encode": "main", "sub") or those of a typical camera.
 struct StreamAbilities
 {
     QList<int> compressions; ///< codes
     QList<int> profiles;     ///< of H.264
     QList<PictureSize> sizes;
-    QMap<int, QList<PictureSize>> sizesByCompression; ///< not empty: `sizes` does not hold
+    QMap<int, QList<PictureSize>> sizesByCompression; ///< replaces `sizes` unless it is empty
     int minimumBitRate = 0;
     int maximumBitRate = 0;
     int maximumFrameRate = 0;
-    QList<int> audioFormats; ///< codes as capabilities number them
+    QList<int> audioFormats; ///< codes of capabilities
     QList<int> samplingFrequencies;
 
     [[nodiscard]] QList<PictureSize> sizesOf(int compression) const
@@ -26,24 +26,24 @@ struct StreamAbilities
         return sizesByCompression.isEmpty() ? sizes : sizesByCompression.value(compression);
     }
 
-    /// The encoder spends no more than this on pictures of a size.
+    /// The encoder's highest bit rate for a size of image.
     [[nodiscard]] int maximumBitRateOf(int width, int height) const;
 };
 
 [[nodiscard]] StreamAbilities streamAbilities(const SceneDevice &device, StreamKind kind);
 
-/// The block that tells the abilities while a stream is set as `format` says.
+/// The capability block of a stream with the settings `format`.
 [[nodiscard]] EncodeCapabilityBlock capabilityBlock(const SceneDevice &device, StreamKind kind,
                                                     const EncodeStreamRecord &format);
 
-// Items as the device has them by itself.
+// Default items of the device.
 
 [[nodiscard]] VideoFormatItem usualVideoFormat(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] VideoProfileItem usualVideoProfile(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] AudioCompressionItem usualAudioCompression(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] AudioFormatItem usualAudioFormat(const SceneDevice &device, StreamKind kind);
 
-// Whether the device takes an item, by its abilities and its faults.
+// Whether the device accepts an item, by its capabilities and its faults.
 
 [[nodiscard]] bool takes(const SceneDevice &device, const VideoFormatItem &item);
 [[nodiscard]] bool takes(const SceneDevice &device, const VideoProfileItem &item);

@@ -4,8 +4,8 @@ namespace sdk::demo {
 
 namespace {
 
-// What careless administrators and broken firmware leave in texts: a control character, a line break, markup
-// and a place holder, half of a three-byte letter and bytes that never stand in UTF-8.
+// Unusual content of strings: a control character, a line break, markup, a placeholder, a truncated
+// three-byte character and bytes that are not valid in UTF-8.
 constexpr char oddBytes[] = "\x07<b>%1&amp;</b>\r\n\t\xE4\xB8\xFF\xFE\xC0";
 
 } // namespace
@@ -20,11 +20,11 @@ void FieldWriter::write(char *destination, std::size_t size, const QString &text
                      std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
         return;
     }
-    // Repeated to the last byte: no terminating zero, and as a rule half a letter at the end.
+    // Repeated to the last byte: no terminating zero, and usually a truncated character at the end.
     if (bytes.isEmpty())
         bytes = "?";
-    for (std::size_t place = 0; place < size; ++place)
-        destination[place] = bytes.at(static_cast<qsizetype>(place) % bytes.size());
+    for (std::size_t index = 0; index < size; ++index)
+        destination[index] = bytes.at(static_cast<qsizetype>(index) % bytes.size());
 }
 
 } // namespace sdk::demo

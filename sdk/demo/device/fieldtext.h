@@ -1,4 +1,4 @@
-// Texts of blocks: reading them from requests, and writing them as a device's faults have it.
+// String fields of blocks: reading them from requests, and writing them with a device's faults applied.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -27,7 +27,7 @@ void writePlain(std::array<char, size> &field, const QString &text)
     setBlockText(field, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-/// Writes texts into fields as the device's faults have it.
+/// Writes strings to fields with the device's faults applied.
 class FieldWriter
 {
 public:

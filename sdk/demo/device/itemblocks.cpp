@@ -83,10 +83,10 @@ static_assert(std::all_of(items.begin(), items.end(), [](const ItemBlock &item) 
     return item.words.empty() || item.words.size() * sizeof(std::int32_t) == item.size;
 }));
 
-std::int32_t wordAt(const void *block, std::size_t place)
+std::int32_t wordAt(const void *block, std::size_t index)
 {
     std::int32_t word = 0;
-    std::memcpy(&word, static_cast<const char *>(block) + place * sizeof(word), sizeof(word));
+    std::memcpy(&word, static_cast<const char *>(block) + index * sizeof(word), sizeof(word));
     return word;
 }
 
@@ -102,14 +102,14 @@ const ItemBlock *itemBlock(std::uint32_t number)
 QJsonObject decodedItem(const ItemBlock &item, const void *block)
 {
     QJsonObject decoded;
-    for (std::size_t place = 0; place < item.words.size(); ++place) {
-        if (!item.words[place])
+    for (std::size_t index = 0; index < item.words.size(); ++index) {
+        if (!item.words[index])
             continue;
-        const std::int32_t word = wordAt(block, place);
+        const std::int32_t word = wordAt(block, index);
         float number = 0;
         std::memcpy(&number, &word, sizeof(number));
-        const bool isFloat = (item.floatWords >> place & 1) != 0;
-        decoded.insert(QLatin1String(item.words[place]),
+        const bool isFloat = (item.floatWords >> index & 1) != 0;
+        decoded.insert(QLatin1String(item.words[index]),
                        isFloat ? QJsonValue(double(number)) : QJsonValue(word));
     }
     if (item.words.empty()) {
@@ -128,7 +128,7 @@ std::uint32_t statedSize(const void *block, std::uint32_t blockSize)
     return block && blockSize >= sizeof(std::uint32_t) ? static_cast<std::uint32_t>(wordAt(block, 0)) : 0;
 }
 
-ItemPlace placeOf(const ItemBlock &item, std::int32_t channel, const void *block)
+ItemKey itemKeyOf(const ItemBlock &item, std::int32_t channel, const void *block)
 {
     return {item.number, channel, item.selectorWord == 0 ? 0 : wordAt(block, item.selectorWord)};
 }

@@ -21,11 +21,11 @@ bool isRefusedByNumber(const SceneDevice &device, Fault fault, int number)
 
 void leaveForReboot(SceneDevice &device, std::int64_t now)
 {
-    device.maintenance.awayFrom = now;
+    device.maintenance.offlineFrom = now;
     std::chrono::milliseconds away = usualReboot;
     if (const std::optional<FaultSetting> fault = device.fault(Fault::RebootTakes))
         away = std::chrono::seconds(fault->number);
-    device.maintenance.awayUntil = now + away.count();
+    device.maintenance.offlineUntil = now + away.count();
 }
 
 std::string_view viewOf(const QByteArray &bytes)
@@ -87,7 +87,7 @@ NetError reboot(SceneDevice &device, std::int64_t now)
 NetError rebootAfterAnswer(SceneDevice &device, std::int64_t now)
 {
     constexpr std::chrono::milliseconds moment = std::chrono::seconds(2);
-    const bool isAboutTo = device.maintenance.awayFrom > now;
+    const bool isAboutTo = device.maintenance.offlineFrom > now;
     return isAboutTo ? NetError::None : reboot(device, now + moment.count());
 }
 
@@ -95,7 +95,7 @@ NetError resetToFactory(SceneDevice &device, std::int64_t now)
 {
     if (device.hasFault(Fault::RefusesReset))
         return NetError::NotSupported;
-    // Devices that are older than the rule of the first password have one that every device has.
+    // Old devices without initialisation have a default password.
     const bool knowsFirstPassword = device.initialisation != InitialisationBits::NotReported;
     device.accounts.clear();
     if (knowsFirstPassword)
@@ -115,7 +115,7 @@ void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int
         device.version = QString::fromStdString(firmware.version);
     leaveForReboot(device, now);
     if (device.hasFault(Fault::UpgradeNeverReturns))
-        device.maintenance.awayUntil = std::numeric_limits<std::int64_t>::max();
+        device.maintenance.offlineUntil = std::numeric_limits<std::int64_t>::max();
 }
 
 NetError changePassword(SceneDevice &device, const QString &user, const QString &oldPassword,

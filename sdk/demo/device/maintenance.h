@@ -1,4 +1,4 @@
-// What maintenance does to a simulated device.
+// The effects of maintenance on a simulated device.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -9,38 +9,37 @@
 
 namespace sdk::demo {
 
-/// How long a device is away for a reboot, unless its fault says otherwise.
+/// The duration of a reboot, unless the device has Fault::RebootTakes.
 inline constexpr std::chrono::seconds usualReboot{20};
 
-// Each returns NetError::None, or NotSupported when the device refuses; it is unchanged then. `now` is the
-// time on the site's clock.
+// Each returns NetError::None, or NotSupported if the device refuses and stays unchanged. `now` is the time
+// on the site's clock.
 
-/// Sets the device's own clock, which runs on from there.
+/// Sets the device's clock, which continues from that time.
 [[nodiscard]] NetError setDeviceTime(SceneDevice &device, const TimeRecord &time, std::int64_t now);
 
 [[nodiscard]] NetError setVideoStandard(SceneDevice &device, VideoStandard standard);
 
-/// Lays the configuration text `name` over the device's own; refuses one that it does not know or that its
-/// record cannot hold.
+/// Overrides the configuration `name` of the device. An unknown name, and JSON that its record cannot hold,
+/// are refused.
 [[nodiscard]] NetError setConfiguration(SceneDevice &device, const QString &name, const QByteArray &text);
 
 [[nodiscard]] NetError reboot(SceneDevice &device, std::int64_t now);
 
-/// The same a moment later, so that whoever asked over HTTP gets the answer, and a client that asks twice
-/// gets both.
+/// The same after a short delay, so that the HTTP client receives the response, also to a repeated request.
 [[nodiscard]] NetError rebootAfterAnswer(SceneDevice &device, std::int64_t now);
 
-/// The device forgets its accounts and its configuration and reboots. It keeps its address and its clock.
+/// The device deletes its accounts and its configuration and reboots. It keeps its address and its clock.
 [[nodiscard]] NetError resetToFactory(SceneDevice &device, std::int64_t now);
 
-/// The device has the firmware and reboots with it.
+/// The device installs the firmware and reboots.
 void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int64_t now);
 
 [[nodiscard]] NetError changePassword(SceneDevice &device, const QString &user, const QString &oldPassword,
                                       const QString &newPassword);
 
-/// The device has taken a password for a login or a request. With Fault::PasswordChangesAfter this may have
-/// been the last time: from then on its passwords end with "-2".
+/// Records that the device has accepted a password for a login or a request. With Fault::PasswordChangesAfter
+/// this may have been the last time: from then on its passwords end with "-2".
 void noteLogin(SceneDevice &device);
 
 } // namespace sdk::demo

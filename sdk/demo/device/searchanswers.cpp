@@ -21,7 +21,7 @@ SearchAnswer searchAnswer(const SceneDevice &device, int ipVersion, const QStrin
         writePlain(information.subnetMask, device.mask);
         writePlain(information.gateway, device.gateway);
     }
-    // Addresses and MAC stay whole whatever the faults: a device that lost them could not be told apart.
+    // Faults do not change the addresses and the MAC, which identify the device.
     writePlain(information.mac, device.mac);
 
     const FieldWriter writer(device);

@@ -1,12 +1,12 @@
-// The blocks that a simulated device answers a search with.
+// The blocks of a response to a search.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
 
 namespace sdk::demo {
 
-/// The answer of `device` for `ipVersion` (4 or 6) as its state and its faults make it. `localAddress` is the
-/// address of this computer that receives it.
+/// The response of `device` for `ipVersion` (4 or 6), by its state and its faults. `localAddress` is the
+/// address of this host that receives it.
 [[nodiscard]] SearchAnswer searchAnswer(const SceneDevice &device, int ipVersion,
                                         const QString &localAddress);
 

@@ -16,8 +16,8 @@ template<typename Item>
 std::optional<Item> itemOf(const SceneDevice &device, EncodeItem number, std::int32_t channel,
                            StreamKind kind)
 {
-    const ItemPlace place = {static_cast<std::uint32_t>(number), channel, streamNumber(kind)};
-    const std::optional<QByteArray> block = channelItem(device, place);
+    const ItemKey itemKey = {static_cast<std::uint32_t>(number), channel, streamNumber(kind)};
+    const std::optional<QByteArray> block = channelItem(device, itemKey);
     if (!block || block->size() != sizeof(Item))
         return std::nullopt;
     Item item;
@@ -25,8 +25,8 @@ std::optional<Item> itemOf(const SceneDevice &device, EncodeItem number, std::in
     return item;
 }
 
-/// The old and rare compressions (MPEG4, H263, SVAC and the like) are streamed as H.264: what is shown is a
-/// picture of the size and rate that is set, and no decoder has to know them.
+/// The old and rare compressions (MPEG4, H263, SVAC and the like) are streamed as H.264 in the configured
+/// size and rate: decoders need not support them.
 StreamCodec codecOf(std::int32_t compression)
 {
     switch (compression) {
@@ -39,7 +39,7 @@ StreamCodec codecOf(std::int32_t compression)
     }
 }
 
-/// By the numbers of configurations; other formats are not heard.
+/// By the numbers of configurations; other formats are not streamed.
 SoundCodec soundCodecOf(const AudioCompressionItem &item)
 {
     constexpr std::int32_t g711a = 1;

@@ -1,4 +1,4 @@
-// How a simulated device encodes a live stream, by the settings of its channel.
+// The encoding of a live stream, from the settings of its channel.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -27,7 +27,7 @@ struct StreamSettings
     StreamCodec codec = StreamCodec::H264;
     int width = 0; ///< in pixels, even
     int height = 0;
-    double frameRate = 0; ///< pictures a second
+    double frameRate = 0; ///< frames a second
     int bitRate = 0;      ///< kbit/s
     SoundCodec sound = SoundCodec::None;
     int samplingFrequency = 0; ///< Hz
@@ -35,8 +35,8 @@ struct StreamSettings
     bool operator==(const StreamSettings &) const = default;
 };
 
-/// Nothing when the device has no such stream: the channel is not there or not connected, its picture is
-/// switched off, or of a size that no encoder makes.
+/// nullopt if the device has no such stream: the channel does not exist or is not connected, its video is
+/// disabled, or its size is not supported by an encoder.
 [[nodiscard]] std::optional<StreamSettings> streamSettings(const SceneDevice &device, std::int32_t channel,
                                                            LiveStreamKind kind);
 

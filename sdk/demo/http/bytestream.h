@@ -8,7 +8,7 @@
 
 namespace sdk::demo {
 
-/// Belongs to one thread; shutdown() of its socket on another one ends what it waits for.
+/// Not thread-safe. A shutdown() of its socket on another thread ends its waits.
 class ByteStream
 {
 public:
@@ -17,14 +17,15 @@ public:
     ByteStream &operator=(const ByteStream &) = delete;
     virtual ~ByteStream() = default;
 
-    /// Waits for bytes, up to `patience`. Returns how many came; 0 or less at the end and when none came.
+    /// Waits for bytes, up to `patience`. Returns their number; 0 or less at the end of the stream and after
+    /// a timeout.
     [[nodiscard]] virtual ssize_t receive(char *bytes, std::size_t size,
                                           std::chrono::milliseconds patience) = 0;
 
-    /// Returns how many were sent; 0 or less when the connection cannot be used any more.
+    /// Returns the number of sent bytes; 0 or less if the connection is closed.
     [[nodiscard]] virtual ssize_t send(const char *bytes, std::size_t size) = 0;
 
-    /// Says that nothing more is sent.
+    /// Ends the sending direction.
     virtual void finishSending() = 0;
 };
 

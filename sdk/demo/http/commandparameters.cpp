@@ -10,7 +10,7 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr qsizetype longestShown = 60; // of what came over the network, in a complaint
+constexpr qsizetype longestShown = 60; // limit of input from the network in an error message
 
 bool isHexadecimal(char character)
 {
@@ -18,13 +18,13 @@ bool isHexadecimal(char character)
            (character >= 'A' && character <= 'F');
 }
 
-/// Takes the percent signs out. Nothing for a percent sign that two digits do not follow, for what is not
-/// UTF-8, and for control characters.
+/// Decodes percent-encoding. nullopt for an invalid escape, for invalid UTF-8, and for control characters.
 std::optional<QString> decoded(const QByteArray &encoded)
 {
-    for (qsizetype place = encoded.indexOf('%'); place >= 0; place = encoded.indexOf('%', place + 1)) {
-        if (place + 2 >= encoded.size() || !isHexadecimal(encoded.at(place + 1)) ||
-            !isHexadecimal(encoded.at(place + 2)))
+    for (qsizetype position = encoded.indexOf('%'); position >= 0;
+         position = encoded.indexOf('%', position + 1)) {
+        if (position + 2 >= encoded.size() || !isHexadecimal(encoded.at(position + 1)) ||
+            !isHexadecimal(encoded.at(position + 2)))
             return std::nullopt;
     }
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -46,11 +46,11 @@ CommandParameters::CommandParameters(const QByteArray &query)
         const std::optional<QString> name = decoded(equals < 0 ? part : part.left(equals));
         const std::optional<QString> value = decoded(equals < 0 ? QByteArray() : part.mid(equals + 1));
         if (!name || !value || name->isEmpty())
-            complain(
-                u"\"%1\" is no parameter: name=value in UTF-8 was expected, with %25 for a percent sign"_s
+            reportError(
+                u"\"%1\" is not a parameter: name=value in UTF-8 was expected, with %25 for a percent sign"_s
                     .arg(QString::fromLatin1(part.left(longestShown))));
         else if (has(*name))
-            complain(u"\"%1\" stands twice"_s.arg(name->left(longestShown)));
+            reportError(u"\"%1\" occurs twice"_s.arg(name->left(longestShown)));
         else
             m_parameters.append({*name, *value});
     }
@@ -78,7 +78,7 @@ int CommandParameters::number(const QString &name, int minimum, int maximum, int
     bool isNumber = false;
     const int number = given->toInt(&isNumber);
     if (!isNumber || number < minimum || number > maximum) {
-        complain(u"%1 must be a number from %2 to %3, but is \"%4\""_s.arg(
+        reportError(u"%1 must be a number from %2 to %3, but is \"%4\""_s.arg(
             name, QString::number(minimum), QString::number(maximum), given->left(longestShown)));
         return fallback;
     }
@@ -90,26 +90,26 @@ int CommandParameters::choice(const QString &name, const QStringList &choices, i
     const std::optional<QString> given = text(name);
     if (!given)
         return fallback;
-    const qsizetype place = choices.indexOf(*given);
-    if (place < 0) {
-        complain(u"%1 must be one of %2, but is \"%3\""_s.arg(name, choices.join(u", "_s),
-                                                              given->left(longestShown)));
+    const qsizetype position = choices.indexOf(*given);
+    if (position < 0) {
+        reportError(u"%1 must be one of %2, but is \"%3\""_s.arg(name, choices.join(u", "_s),
+                                                                 given->left(longestShown)));
         return fallback;
     }
-    return static_cast<int>(place);
+    return static_cast<int>(position);
 }
 
 void CommandParameters::rejectOthers()
 {
     for (const auto &parameter : std::as_const(m_parameters)) {
         if (!m_asked.contains(parameter.first))
-            complain(u"This command does not know \"%1\", only %2"_s.arg(
+            reportError(u"This command does not know \"%1\", only %2"_s.arg(
                 parameter.first.left(longestShown),
                 m_asked.isEmpty() ? u"nothing"_s : m_asked.join(u", "_s)));
     }
 }
 
-void CommandParameters::complain(const QString &sentence)
+void CommandParameters::reportError(const QString &sentence)
 {
     if (m_error.isEmpty())
         m_error = sentence;

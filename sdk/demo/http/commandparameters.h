@@ -11,30 +11,29 @@
 
 namespace sdk::demo {
 
-/// Reads the parameters one by one. The first complaint stays; after it the values that are read mean
-/// nothing.
+/// Reads the parameters one by one. The first error is kept; values that are read after it are meaningless.
 class CommandParameters
 {
 public:
-    /// `query` is what stands behind the question mark: "a=1&b=%E5%A4%A7".
+    /// `query` is the part after the question mark: "a=1&b=%E5%A4%A7".
     explicit CommandParameters(const QByteArray &query);
 
     [[nodiscard]] bool has(const QString &name) const;
 
-    /// Nothing when the command does not have that parameter.
+    /// nullopt if the command does not have that parameter.
     std::optional<QString> text(const QString &name);
     int number(const QString &name, int minimum, int maximum, int fallback);
 
-    /// The place of the parameter's text in `choices`, `fallback` without it.
+    /// The index of the parameter's value in `choices`, `fallback` without the parameter.
     int choice(const QString &name, const QStringList &choices, int fallback);
 
-    /// Complains about parameters that nobody has asked for: they would have no effect, and are most likely
-    /// a slip.
+    /// Reports an error for parameters that were not read: they would have no effect and are probably a
+    /// typing error.
     void rejectOthers();
 
-    void complain(const QString &sentence);
+    void reportError(const QString &sentence);
 
-    /// The first complaint, empty while there is none.
+    /// The first error; empty without one.
     [[nodiscard]] QString error() const { return m_error; }
 
 private:

@@ -84,13 +84,13 @@ bool EncryptedStream::accept()
     sigset_t signals;
     sigemptyset(&signals);
     sigaddset(&signals, SIGPIPE);
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr); // the library does not suppress it
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr); // the library does not suppress the signal
     return m_tls && SSL_accept(m_tls) == 1;
 }
 
 ssize_t EncryptedStream::receive(char *bytes, std::size_t size, std::chrono::milliseconds patience)
 {
-    // What was decrypted already does not show on the socket.
+    // Bytes that are already decrypted do not make the socket readable.
     if (SSL_pending(m_tls) == 0 && !isReadable(m_socket, patience))
         return 0;
     return SSL_read(m_tls, bytes, lengthOf(size));

@@ -1,4 +1,4 @@
-// Connections over TLS, and the key and certificate that a device makes for itself.
+// TLS connections, and the self-signed certificate of a device.
 #pragma once
 
 #include "sdk/demo/http/bytestream.h"
@@ -11,11 +11,11 @@ struct ssl_st;
 
 namespace sdk::demo {
 
-/// The key of a device with a certificate that it has signed itself. Thread-safe.
+/// The key of a device and its self-signed certificate. Thread-safe.
 class DeviceKey
 {
 public:
-    /// A new key. Null when the library refuses. `name` is the common name of the certificate.
+    /// Generates a key. Returns null if the library fails. `name` is the common name of the certificate.
     [[nodiscard]] static std::shared_ptr<const DeviceKey> make(const std::string &name);
 
     [[nodiscard]] ssl_ctx_st *context() const { return m_context.get(); }
@@ -34,8 +34,8 @@ public:
     EncryptedStream(int socket, std::shared_ptr<const DeviceKey> key);
     ~EncryptedStream() override;
 
-    /// The handshake. False when the client does not want the certificate, or knows no TLS. From here on the
-    /// calling thread gets no SIGPIPE of a client that has left.
+    /// Performs the handshake. Returns false if the client refuses the certificate or does not use TLS. From
+    /// then on SIGPIPE is blocked on the calling thread.
     [[nodiscard]] bool accept();
 
     [[nodiscard]] ssize_t receive(char *bytes, std::size_t size, std::chrono::milliseconds patience) override;

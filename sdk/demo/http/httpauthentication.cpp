@@ -19,63 +19,63 @@ QByteArray md5(const QByteArrayList &parts)
     return QCryptographicHash::hash(parts.join(':'), QCryptographicHash::Md5).toHex();
 }
 
-/// The device as a browser's dialog shows it.
+/// The name of the device in a browser's dialog.
 QByteArray realmOf(const SceneDevice &device)
 {
     return "device " + device.mac.toLatin1();
 }
 
-/// The account, null for one that may not come in whatever its password.
+/// The account; null for one that is refused regardless of its password.
 const SceneAccount *usableAccount(const SceneDevice &device, const QString &user)
 {
     return device.isUninitialised() || device.hasFault(Fault::WrongPassword) ? nullptr
                                                                              : accountOf(device, user);
 }
 
-/// A value up to the next comma, or between quotation marks with its backslashes taken out. Moves `place`
-/// behind it.
-QByteArray readValue(const QByteArray &text, qsizetype &place)
+/// A value up to the next comma, or between quotation marks with its escapes removed. Moves `position` behind
+/// the value.
+QByteArray readValue(const QByteArray &text, qsizetype &position)
 {
     QByteArray value;
-    if (place >= text.size() || text.at(place) != '"') {
-        const qsizetype comma = text.indexOf(',', place);
+    if (position >= text.size() || text.at(position) != '"') {
+        const qsizetype comma = text.indexOf(',', position);
         const qsizetype end = comma < 0 ? text.size() : comma;
-        value = text.mid(place, end - place).trimmed();
-        place = end;
+        value = text.mid(position, end - position).trimmed();
+        position = end;
         return value;
     }
-    for (++place; place < text.size() && text.at(place) != '"'; ++place) {
-        if (text.at(place) == '\\' && place + 1 < text.size())
-            ++place;
-        value.append(text.at(place));
+    for (++position; position < text.size() && text.at(position) != '"'; ++position) {
+        if (text.at(position) == '\\' && position + 1 < text.size())
+            ++position;
+        value.append(text.at(position));
     }
-    const qsizetype comma = text.indexOf(',', place);
-    place = comma < 0 ? text.size() : comma;
+    const qsizetype comma = text.indexOf(',', position);
+    position = comma < 0 ? text.size() : comma;
     return value;
 }
 
-/// `a="b", c=d` by name; the first of each name counts.
+/// `a="b", c=d` by name. The first value of a name counts.
 QHash<QByteArray, QByteArray> readParameters(const QByteArray &text)
 {
     QHash<QByteArray, QByteArray> parameters;
-    qsizetype place = 0;
-    while (place < text.size()) {
-        const qsizetype equals = text.indexOf('=', place);
+    qsizetype position = 0;
+    while (position < text.size()) {
+        const qsizetype equals = text.indexOf('=', position);
         if (equals < 0)
             break;
-        const QByteArray name = text.mid(place, equals - place).trimmed().toLower();
-        place = equals + 1;
-        while (place < text.size() && text.at(place) == ' ')
-            ++place;
-        const QByteArray value = readValue(text, place);
+        const QByteArray name = text.mid(position, equals - position).trimmed().toLower();
+        position = equals + 1;
+        while (position < text.size() && text.at(position) == ' ')
+            ++position;
+        const QByteArray value = readValue(text, position);
         if (!parameters.contains(name))
             parameters.insert(name, value);
-        ++place; // the comma
+        ++position; // the comma
     }
     return parameters;
 }
 
-/// Whether `uri` is what `request` asks for: its target, or in the older form of browsers its path alone.
+/// Whether `uri` is the target of `request`. Old browsers send only its path.
 bool isUriOf(const HttpRequest &request, const QByteArray &uri)
 {
     const HttpTarget target = readHttpTarget(request.target);
@@ -103,7 +103,7 @@ void checkBasic(const SceneDevice &device, const QByteArray &encoded, HttpCreden
         return;
     credentials.user = QString::fromUtf8(decoded.left(colon));
     const SceneAccount *account = usableAccount(device, credentials.user);
-    credentials.areRight = device.httpAuthentication == HttpAuthenticationKind::Basic && account &&
+    credentials.areValid = device.httpAuthentication == HttpAuthenticationKind::Basic && account &&
                            account->password.toUtf8() == decoded.mid(colon + 1);
 }
 
@@ -124,8 +124,8 @@ HttpAuthentication::NonceState HttpAuthentication::nonceState(const SceneDevice 
     const qint64 time = nonce.left(timeDigits).toLongLong(nullptr, 16);
     if (nonce != this->nonce(device, time))
         return NonceState::Foreign;
-    const bool isGood = now >= time && now - time <= nonceLife.count();
-    return isGood ? NonceState::Good : NonceState::Old;
+    const bool isValid = now >= time && now - time <= nonceLife.count();
+    return isValid ? NonceState::Good : NonceState::Old;
 }
 
 void HttpAuthentication::checkDigest(const SceneDevice &device, const HttpRequest &request,
@@ -147,7 +147,7 @@ void HttpAuthentication::checkDigest(const SceneDevice &device, const HttpReques
     const QByteArray expected =
         md5({who, given.value("nonce"), given.value("nc"), given.value("cnonce"), given.value("qop"), what});
     const bool isRight = given.value("response").toLower() == expected;
-    credentials.areRight = isRight && state == NonceState::Good;
+    credentials.areValid = isRight && state == NonceState::Good;
     credentials.areStale = isRight && state == NonceState::Old;
 }
 

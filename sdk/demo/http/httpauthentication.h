@@ -1,4 +1,4 @@
-// Who asks: Digest (MD5, quality "auth") and Basic authentication against the accounts of a device.
+// Digest (MD5, quality "auth") and Basic authentication with the accounts of a device.
 #pragma once
 
 #include "sdk/demo/http/httpmessage.h"
@@ -13,27 +13,27 @@ namespace sdk::demo {
 
 struct HttpCredentials
 {
-    bool areRight = false;
-    bool areStale = false; ///< right, but for a nonce that is too old
-    QString kind;          ///< "none", "basic" or "digest": what the request came with
-    QString user;          ///< as the request names it
+    bool areValid = false;
+    bool areStale = false; ///< valid except for an expired nonce
+    QString kind;          ///< "none", "basic" or "digest": the scheme of the request
+    QString user;          ///< as in the request
 };
 
-/// Keeps nothing of what it checks: a nonce says itself when it was made, and for which device. Thread-safe.
+/// Stateless: a nonce contains the time of its creation and its device. Thread-safe.
 class HttpAuthentication
 {
 public:
-    /// How long a nonce is good for.
+    /// The lifetime of a nonce.
     static constexpr std::chrono::milliseconds nonceLife = std::chrono::minutes(5);
 
     HttpAuthentication();
 
-    /// Checks the header "Authorization" of `request`. A device that waits for its first password has no
-    /// right one. `now` is the time on the site's clock.
+    /// Checks the header "Authorization" of `request`. An uninitialised device accepts no credentials. `now`
+    /// is the time on the site's clock.
     [[nodiscard]] HttpCredentials check(const SceneDevice &device, const HttpRequest &request,
                                         std::int64_t now) const;
 
-    /// The header that asks for credentials of the device's kind.
+    /// The header with the challenge of the device's scheme.
     [[nodiscard]] QByteArray challenge(const SceneDevice &device, bool isStale, std::int64_t now) const;
 
 private:

@@ -40,9 +40,9 @@ constexpr char helpText[] = R"(Commands of this device. Letters beyond ASCII are
 /cgi-bin/reboot                                restarts the device
 )";
 
-HttpReply refusal(const QString &why)
+HttpResponse refusal(const QString &why)
 {
-    return HttpReply::line(HttpStatus::BadRequest, why);
+    return HttpResponse::line(HttpStatus::BadRequest, why);
 }
 
 QString shownTime(const SceneDevice &device, std::int64_t now)
@@ -63,23 +63,23 @@ QByteArray keyAndValue(const QString &key, const QByteArray &value)
     return key.toUtf8() + '=' + value + '\n';
 }
 
-/// The values that a device tells of itself, with what its faults do to texts.
+/// The values that a device reports, with its faults applied to strings.
 QList<std::pair<QString, QByteArray>> deviceValues(const SceneDevice &device, std::int64_t now)
 {
-    const SearchDeviceInformation told = searchAnswer(device, 4, QString()).device;
+    const SearchDeviceInformation reported = searchAnswer(device, 4, QString()).device;
     const QString address = device.address.isEmpty() ? device.ipv6 : device.address;
-    return {{u"name"_s, bytesOf(told.deviceName)},
-            {u"type"_s, bytesOf(told.deviceType)},
-            {u"model"_s, bytesOf(told.detailModel)},
-            {u"version"_s, bytesOf(told.softwareVersion)},
-            {u"serial"_s, bytesOf(told.serialNumber)},
+    return {{u"name"_s, bytesOf(reported.deviceName)},
+            {u"type"_s, bytesOf(reported.deviceType)},
+            {u"model"_s, bytesOf(reported.detailModel)},
+            {u"version"_s, bytesOf(reported.softwareVersion)},
+            {u"serial"_s, bytesOf(reported.serialNumber)},
             {u"mac"_s, device.mac.toLatin1()},
             {u"address"_s, address.toLatin1()},
             {u"channels"_s, QByteArray::number(device.channels.size())},
             {u"time"_s, shownTime(device, now).toLatin1()}};
 }
 
-/// One command on its way: the device that it goes to and its parameters.
+/// One running command: its device and its parameters.
 class Command
 {
 public:
@@ -88,20 +88,20 @@ public:
     {
     }
 
-    HttpReply help();
-    HttpReply device();
-    HttpReply time();
-    HttpReply picture();
-    HttpReply snapshot();
-    HttpReply recording();
-    HttpReply reboot();
+    HttpResponse help();
+    HttpResponse device();
+    HttpResponse time();
+    HttpResponse picture();
+    HttpResponse snapshot();
+    HttpResponse recording();
+    HttpResponse reboot();
 
 private:
     [[nodiscard]] int channel();
-    /// Whether every parameter is known and right.
+    /// Whether every parameter is known and valid.
     [[nodiscard]] bool isRight();
-    HttpReply complaint() { return refusal(m_parameters.error()); }
-    /// Lets `change` change the device; false when the device refuses.
+    HttpResponse parameterError() { return refusal(m_parameters.error()); }
+    /// Calls `change` with the device. Returns false if the device refuses.
     bool change(const std::function<NetError(SceneDevice &device)> &change);
     template<typename Item>
     [[nodiscard]] std::optional<Item> item(std::uint32_t number, int channel, std::int32_t selector) const;
@@ -118,7 +118,7 @@ int Command::channel()
     const int most = std::max(1, static_cast<int>(m_device.channels.size()));
     const int channel = m_parameters.number(u"channel"_s, 1, most, 1);
     if (!item<ChannelNameItem>(static_cast<std::uint32_t>(CameraItem::ChannelName), channel, 0))
-        m_parameters.complain(u"channel %1 is not connected"_s.arg(channel));
+        m_parameters.reportError(u"channel %1 is not connected"_s.arg(channel));
     return channel;
 }
 
@@ -130,7 +130,7 @@ bool Command::isRight()
 
 bool Command::change(const std::function<NetError(SceneDevice &device)> &change)
 {
-    NetError error = NetError::ConnectFailed; // of a device that has left the site meanwhile
+    NetError error = NetError::ConnectFailed; // if the device was removed from the site meanwhile
     m_site.changeDevice(m_device.mac,
                         [&](SceneDevice &device, const DeviceAddresses &) { error = change(device); });
     return error == NetError::None;
@@ -154,16 +154,16 @@ VideoFormatItem Command::mainStream(int channel) const
         .value_or(VideoFormatItem());
 }
 
-HttpReply Command::help()
+HttpResponse Command::help()
 {
     if (!isRight())
-        return complaint();
-    HttpReply reply;
-    reply.body = helpText;
-    return reply;
+        return parameterError();
+    HttpResponse response;
+    response.body = helpText;
+    return response;
 }
 
-HttpReply Command::device()
+HttpResponse Command::device()
 {
     const auto values = deviceValues(m_device, m_now);
     if (m_parameters.has(u"set"_s)) {
@@ -171,31 +171,31 @@ HttpReply Command::device()
         const QString name = m_parameters.text(u"value"_s).value_or(QString());
         constexpr qsizetype longestName = sizeof(SearchDeviceInformation::deviceName) - 1;
         if (name.trimmed().isEmpty() || name.toUtf8().size() > longestName)
-            m_parameters.complain(u"value must be a name of 1 to %1 bytes"_s.arg(longestName));
+            m_parameters.reportError(u"value must be a name of 1 to %1 bytes"_s.arg(longestName));
         if (!isRight())
-            return complaint();
+            return parameterError();
         if (!change([&name](SceneDevice &device) {
                 device.name = name;
                 return NetError::None;
             }))
-            return refusal(u"The device is gone"_s);
-        return HttpReply::line(HttpStatus::Ok, u"name="_s + name);
+            return refusal(u"The device was removed"_s);
+        return HttpResponse::line(HttpStatus::Ok, u"name="_s + name);
     }
     QStringList known = {u"all"_s};
     for (const auto &value : values)
         known.append(value.first);
-    const int place = m_parameters.choice(u"get"_s, known, 0);
+    const int index = m_parameters.choice(u"get"_s, known, 0);
     if (!isRight())
-        return complaint();
-    HttpReply reply;
+        return parameterError();
+    HttpResponse response;
     for (const auto &[key, value] : values) {
-        if (place == 0 || key == known.at(place))
-            reply.body += keyAndValue(key, value);
+        if (index == 0 || key == known.at(index))
+            response.body += keyAndValue(key, value);
     }
-    return reply;
+    return response;
 }
 
-HttpReply Command::time()
+HttpResponse Command::time()
 {
     const std::optional<QString> given = m_parameters.text(u"set"_s);
     const QDateTime wanted =
@@ -205,12 +205,12 @@ HttpReply Command::time()
     constexpr int lastYear = 2037;
     if (given &&
         (!wanted.date().isValid() || wanted.date().year() < firstYear || wanted.date().year() > lastYear))
-        m_parameters.complain(
+        m_parameters.reportError(
             u"set must be a time from %1 to %2, as 2024-05-06%2007:08:09"_s.arg(firstYear).arg(lastYear));
     if (!isRight())
-        return complaint();
+        return parameterError();
     if (!given)
-        return HttpReply::line(HttpStatus::Ok, u"time="_s + shownTime(m_device, m_now));
+        return HttpResponse::line(HttpStatus::Ok, u"time="_s + shownTime(m_device, m_now));
     const auto part = [](int number) {
         return static_cast<std::uint32_t>(number);
     };
@@ -219,18 +219,18 @@ HttpReply Command::time()
     const TimeRecord record = {part(date.year()),  part(date.month()),   part(date.day()),
                                part(hours.hour()), part(hours.minute()), part(hours.second())};
     if (!change([&](SceneDevice &device) { return setDeviceTime(device, record, m_now); }))
-        return refusal(u"The device refuses another time"_s);
-    return HttpReply::line(HttpStatus::Ok, u"time="_s + wanted.toString(u"yyyy-MM-dd hh:mm:ss"_s));
+        return refusal(u"The device refuses to change its time"_s);
+    return HttpResponse::line(HttpStatus::Ok, u"time="_s + wanted.toString(u"yyyy-MM-dd hh:mm:ss"_s));
 }
 
-HttpReply Command::picture()
+HttpResponse Command::picture()
 {
     const int channel = this->channel();
     const int mode = m_parameters.choice(u"mode"_s, {u"day"_s, u"night"_s, u"normal"_s}, 0);
     constexpr auto number = static_cast<std::uint32_t>(CameraItem::Picture);
     std::optional<PictureItem> picture = item<PictureItem>(number, channel, mode);
     if (!picture)
-        m_parameters.complain(u"The picture of channel %1 cannot be set"_s.arg(channel));
+        m_parameters.reportError(u"The image of channel %1 cannot be set"_s.arg(channel));
     PictureItem settings = picture.value_or(PictureItem());
     const std::array<std::pair<const char *, std::int32_t *>, 5> values = {
         {{"brightness", &settings.brightness},
@@ -239,78 +239,78 @@ HttpReply Command::picture()
          {"hue", &settings.hue},
          {"gamma", &settings.gamma}}};
     bool isChange = false;
-    QByteArray told;
+    QByteArray reported;
     for (const auto &[key, value] : values) {
         const QString name = QString::fromLatin1(key);
         isChange = isChange || m_parameters.has(name);
         *value = m_parameters.number(name, 0, 100, *value);
-        told += keyAndValue(name, QByteArray::number(*value));
+        reported += keyAndValue(name, QByteArray::number(*value));
     }
     if (!isRight())
-        return complaint();
+        return parameterError();
     const QByteArray block(reinterpret_cast<const char *>(&settings), sizeof(settings));
     if (isChange && !change([&](SceneDevice &device) {
             return setChannelItem(device, {number, channel - 1, mode}, block);
         }))
         return refusal(u"The device refuses these settings"_s);
-    HttpReply reply;
-    reply.body = told;
-    return reply;
+    HttpResponse response;
+    response.body = reported;
+    return response;
 }
 
-HttpReply Command::snapshot()
+HttpResponse Command::snapshot()
 {
     const int channel = this->channel();
     if (!isRight())
-        return complaint();
+        return parameterError();
     constexpr auto number = static_cast<std::uint32_t>(CameraItem::Picture);
     const std::optional<StreamSettings> settings =
         streamSettings(m_device, channel - 1, LiveStreamKind::Main);
     if (!settings)
-        return refusal(u"The channel has no picture"_s);
+        return refusal(u"The channel has no image"_s);
     const auto picture = item<PictureItem>(number, channel, 0);
     constexpr int usualBrightness = 50;
-    HttpReply reply;
-    reply.contentType = "image/jpeg";
-    reply.body = cardJpeg(testCardOf(m_device, channel - 1, LiveStreamKind::Main, *settings),
-                          m_now + m_device.maintenance.clockAhead.count(),
-                          picture ? picture->brightness : usualBrightness);
-    return reply;
+    HttpResponse response;
+    response.contentType = "image/jpeg";
+    response.body = cardJpeg(testCardOf(m_device, channel - 1, LiveStreamKind::Main, *settings),
+                             m_now + m_device.maintenance.clockAhead.count(),
+                             picture ? picture->brightness : usualBrightness);
+    return response;
 }
 
-/// As long as the stream of that many seconds would be; what is in it plays nowhere.
-HttpReply Command::recording()
+/// As long as a recording of that duration. Its content is not playable.
+HttpResponse Command::recording()
 {
     const int channel = this->channel();
     constexpr int longest = 60;
     const int seconds = m_parameters.number(u"seconds"_s, 1, longest, 5);
     if (!isRight())
-        return complaint();
+        return parameterError();
     constexpr qint64 bytesPerKilobit = 125;
     constexpr qsizetype blockSize = qsizetype{64} * 1024;
-    HttpReply reply;
-    reply.contentType = "application/octet-stream";
-    reply.length = std::max(1, mainStream(channel).bitRate) * bytesPerKilobit * seconds;
-    reply.body.resize(blockSize);
-    std::minstd_rand bytes; // the same at every time
-    for (char &byte : reply.body)
+    HttpResponse response;
+    response.contentType = "application/octet-stream";
+    response.length = std::max(1, mainStream(channel).bitRate) * bytesPerKilobit * seconds;
+    response.body.resize(blockSize);
+    std::minstd_rand bytes; // with a constant seed: the same content for each request
+    for (char &byte : response.body)
         byte = static_cast<char>(bytes());
-    return reply;
+    return response;
 }
 
-HttpReply Command::reboot()
+HttpResponse Command::reboot()
 {
     if (!isRight())
-        return complaint();
+        return parameterError();
     if (!change([this](SceneDevice &device) { return rebootAfterAnswer(device, m_now); }))
         return refusal(u"The device refuses to restart"_s);
-    return HttpReply::line(HttpStatus::Ok, u"reboot=started"_s);
+    return HttpResponse::line(HttpStatus::Ok, u"reboot=started"_s);
 }
 
 struct Entry
 {
     const char *path;
-    HttpReply (Command::*run)();
+    HttpResponse (Command::*run)();
 };
 
 constexpr std::array commands = {
@@ -322,14 +322,14 @@ constexpr std::array commands = {
 
 } // namespace
 
-HttpReply runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target)
+HttpResponse runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target)
 {
     const std::optional<SceneDevice> device = site.device(mac);
     const auto found = std::find_if(commands.begin(), commands.end(),
                                     [&target](const Entry &entry) { return target.path == entry.path; });
     if (!device || found == commands.end())
-        return HttpReply::line(HttpStatus::NotFound,
-                               u"There is no such command; /cgi-bin/help lists those that there are"_s);
+        return HttpResponse::line(HttpStatus::NotFound,
+                                  u"Unknown command; /cgi-bin/help lists the commands"_s);
     Command command(site, *device, target.query);
     return (command.*found->run)();
 }

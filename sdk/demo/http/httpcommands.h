@@ -1,4 +1,4 @@
-// What a simulated device does on the commands of its web service, all below /cgi-bin/.
+// The commands of a simulated device's web service, all below /cgi-bin/.
 #pragma once
 
 #include "sdk/demo/http/httpmessage.h"
@@ -9,8 +9,8 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Runs the command of `target` on the device and returns its answer. A parameter that is wrong, or that the
-/// command does not have, changes nothing and is answered by a line that says so.
-[[nodiscard]] HttpReply runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target);
+/// Runs the command of `target` on the device and returns the response. An invalid or unknown parameter
+/// changes nothing; the response names it.
+[[nodiscard]] HttpResponse runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target);
 
 } // namespace sdk::demo

@@ -16,8 +16,8 @@ namespace sdk::demo {
 
 namespace {
 
-/// For a client that reads nothing, or says nothing in a handshake: how long a piece may wait.
-constexpr timeval pieceTime = {15, 0};
+/// The timeout of a client that does not read, or does not continue a handshake.
+constexpr timeval sendTimeout = {15, 0};
 
 void skipEmptyLines(QByteArray &received)
 {
@@ -38,9 +38,9 @@ HttpConnection::HttpConnection(HttpResponder &responder, int socket, int localPo
     : m_responder(responder), m_socket(socket), m_stop(std::move(stop)), m_route{.localPort = localPort},
       m_stream(std::make_unique<PlainStream>(socket))
 {
-    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &pieceTime, sizeof(pieceTime));
-    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &pieceTime, sizeof(pieceTime));
-    // Head and body go out one by one; the second is not to wait until the first has been acknowledged.
+    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &sendTimeout, sizeof(sendTimeout));
+    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &sendTimeout, sizeof(sendTimeout));
+    // Head and body are sent separately. The body must not wait for the acknowledgement of the head.
     const int on = 1;
     setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
 }
@@ -50,11 +50,11 @@ bool HttpConnection::isProxy() const
     return m_route.localPort == HttpResponder::proxy && m_route.host.isEmpty();
 }
 
-bool HttpConnection::standSilent(HttpReply &reply) const
+bool HttpConnection::standSilent(HttpResponse &response) const
 {
     if (!m_responder.clock().wait(HttpResponder::silence, m_stop) || !isProxy())
         return false;
-    reply = HttpReply::line(HttpStatus::GatewayTimeout, sentenceFor(HttpStatus::GatewayTimeout));
+    response = HttpResponse::line(HttpStatus::GatewayTimeout, sentenceFor(HttpStatus::GatewayTimeout));
     return true;
 }
 
@@ -63,11 +63,11 @@ bool HttpConnection::enterTunnel(const HttpRequest &request)
     HttpTunnel tunnel = m_responder.openTunnel(request);
     if (!tunnel.key) {
         if ((tunnel.refusal.status != HttpStatus::None || standSilent(tunnel.refusal)) &&
-            sendReply(tunnel.refusal, true, false))
+            sendResponse(tunnel.refusal, true, false))
             linger();
         return false;
     }
-    // Nobody encrypts before the answer has come.
+    // The client starts TLS only after the response.
     if (!m_received.isEmpty() || !send("HTTP/1.1 200 Connection established\r\n\r\n"))
         return false;
     auto encrypted = std::make_unique<EncryptedStream>(m_socket, tunnel.key);
@@ -79,7 +79,7 @@ bool HttpConnection::enterTunnel(const HttpRequest &request)
 
 void HttpConnection::serve()
 {
-    if (!m_responder.speaksHttp(m_route.localPort))
+    if (!m_responder.isHttpPort(m_route.localPort))
         return;
     for (;;) {
         HttpRequest request;
@@ -87,7 +87,7 @@ void HttpConnection::serve()
         if (status == HttpStatus::None)
             return;
         if (status != HttpStatus::Ok) {
-            if (sendReply(HttpReply::line(status, sentenceFor(status)), true, false))
+            if (sendResponse(HttpResponse::line(status, sentenceFor(status)), true, false))
                 linger();
             return;
         }
@@ -96,12 +96,12 @@ void HttpConnection::serve()
                 return;
             continue;
         }
-        HttpReply reply = m_responder.answer(m_route, request);
-        if (reply.status == HttpStatus::None && !standSilent(reply))
+        HttpResponse response = m_responder.respond(m_route, request);
+        if (response.status == HttpStatus::None && !standSilent(response))
             return;
         const bool hasBody = request.method != "HEAD";
         const bool keeps = request.keepsConnection && hasBody && request.method != "CONNECT";
-        if (!sendReply(reply, hasBody, keeps))
+        if (!sendResponse(response, hasBody, keeps))
             return;
         if (!keeps) {
             linger();
@@ -135,7 +135,7 @@ HttpStatus HttpConnection::receiveRequest(HttpRequest &request)
     m_received.remove(0, headLength);
     if (request.waitsForContinue && !send("HTTP/1.1 100 Continue\r\n\r\n"))
         return HttpStatus::None;
-    // No command takes more than its address says: the body is only taken out of the way.
+    // Commands have no parameters in the body: it is read and discarded.
     while (m_received.size() < request.bodyLength) {
         if (!receiveMore(deadline))
             return HttpStatus::RequestTimeout;
@@ -148,37 +148,37 @@ bool HttpConnection::receiveMore(Deadline deadline)
 {
     const auto left =
         std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
-    constexpr std::size_t pieceSize = std::size_t{16} * 1024;
-    std::array<char, pieceSize> piece;
-    const ssize_t count = m_stream->receive(piece.data(), piece.size(), std::max(left, 0ms));
+    constexpr std::size_t chunkSize = std::size_t{16} * 1024;
+    std::array<char, chunkSize> chunk;
+    const ssize_t count = m_stream->receive(chunk.data(), chunk.size(), std::max(left, 0ms));
     if (count <= 0)
         return false;
-    m_received.append(piece.data(), count);
+    m_received.append(chunk.data(), count);
     return true;
 }
 
-bool HttpConnection::sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const
+bool HttpConnection::sendResponse(const HttpResponse &response, bool hasBody, bool keepsConnection) const
 {
-    if (reply.lateness > 0ms && !m_responder.clock().wait(reply.lateness, m_stop))
+    if (response.delay > 0ms && !m_responder.clock().wait(response.delay, m_stop))
         return false;
-    if (!reply.hasNoHead && !send(httpHead(reply, keepsConnection)))
+    if (!response.hasNoHead && !send(httpHead(response, keepsConnection)))
         return false;
-    return !hasBody || (sendBody(reply) && !reply.isBroken && !reply.hasNoHead);
+    return !hasBody || (sendBody(response) && !response.isBroken && !response.hasNoHead);
 }
 
-bool HttpConnection::sendBody(const HttpReply &reply) const
+bool HttpConnection::sendBody(const HttpResponse &response) const
 {
-    const qint64 end = reply.isBroken ? reply.fullLength() / 2 : reply.fullLength();
-    const QByteArrayView block = reply.body;
+    const qint64 end = response.isBroken ? response.fullLength() / 2 : response.fullLength();
+    const QByteArrayView block = response.body;
     qint64 sent = 0;
-    for (std::chrono::seconds slow = reply.slowness; slow > 0s && sent < end; slow -= 1s, ++sent) {
+    for (std::chrono::seconds slow = response.slowDuration; slow > 0s && sent < end; slow -= 1s, ++sent) {
         if (!send(block.sliced(sent % block.size(), 1)) || !m_responder.clock().wait(1s, m_stop))
             return false;
     }
     while (sent < end && !block.isEmpty()) {
-        const qint64 place = sent % block.size();
-        const qint64 count = std::min<qint64>(block.size() - place, end - sent);
-        if (!send(block.sliced(place, count)))
+        const qint64 position = sent % block.size();
+        const qint64 count = std::min<qint64>(block.size() - position, end - sent);
+        if (!send(block.sliced(position, count)))
             return false;
         sent += count;
     }

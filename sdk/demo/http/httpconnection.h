@@ -12,16 +12,15 @@
 
 namespace sdk::demo {
 
-/// Answers the requests of a connection, one after another, on the calling thread. It ends with the client,
-/// with a request that is none, after a time without one, and soon after a stop together with
-/// shutdown(socket).
+/// Responds to the requests of a connection, one after another, on the calling thread. It ends with the
+/// client, after an invalid request, after a timeout, and soon after a stop together with shutdown(socket).
 class HttpConnection
 {
 public:
-    /// From the first byte of a request until it is complete, and between two requests.
+    /// The timeout of an incomplete request, and between two requests.
     static constexpr std::chrono::seconds requestTime{15};
 
-    /// `socket` is a connected one; the caller closes it. `localPort` is as in HttpRoute.
+    /// `socket` is connected; the caller closes it. `localPort` is as in HttpRoute.
     HttpConnection(HttpResponder &responder, int socket, int localPort, std::stop_token stop);
 
     void serve();
@@ -30,22 +29,25 @@ private:
     using Deadline = std::chrono::steady_clock::time_point;
 
     [[nodiscard]] bool isProxy() const;
-    /// What follows a request "CONNECT" is encrypted, and for a device. False when the connection is over.
+    /// Handles a request "CONNECT", after which the connection is encrypted and leads to a device. Returns
+    /// false if the connection has ended.
     bool enterTunnel(const HttpRequest &request);
-    /// As a device does that is not there; the proxy says so in the end. False when the connection is over.
-    bool standSilent(HttpReply &reply) const;
+    /// Handles a request without a response: the client gets none from a device, and an error from the proxy
+    /// after the timeout. Returns false if the connection has ended.
+    bool standSilent(HttpResponse &response) const;
 
-    /// Returns Ok with a request, None when there is no further one, else what to refuse it with.
+    /// Returns Ok with a request, None if there is no further one, otherwise the status of the refusal.
     HttpStatus receiveRequest(HttpRequest &request);
-    /// Appends what has come to m_received. Returns false at the end, and when nothing comes in time.
+    /// Appends received bytes to m_received. Returns false at the end of the stream and after a timeout.
     bool receiveMore(Deadline deadline);
 
-    /// Returns false when the connection cannot be used any more.
-    bool sendReply(const HttpReply &reply, bool hasBody, bool keepsConnection) const;
-    bool sendBody(const HttpReply &reply) const;
+    /// Returns false if the connection has ended.
+    bool sendResponse(const HttpResponse &response, bool hasBody, bool keepsConnection) const;
+    bool sendBody(const HttpResponse &response) const;
     bool send(QByteArrayView bytes) const;
 
-    /// Takes in what the client still sends, so that it reads the answer before the connection ends.
+    /// Reads and discards remaining input, so that the client receives the response before the connection
+    /// closes.
     void linger();
 
     HttpResponder &m_responder;
@@ -53,7 +55,7 @@ private:
     const std::stop_token m_stop;
     HttpRoute m_route;
     std::unique_ptr<ByteStream> m_stream; // over the socket
-    QByteArray m_received;                // and not yet used
+    QByteArray m_received;                // not yet processed
 };
 
 } // namespace sdk::demo

@@ -49,7 +49,7 @@ bool isToken(const QByteArray &text)
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), isTokenCharacter);
 }
 
-/// Whether all is printable; `withSpaces` lets blanks, tabs and letters beyond ASCII pass too.
+/// Whether all bytes are printable; `withSpaces` also allows spaces, tabs and bytes outside ASCII.
 bool isPrintable(const QByteArray &text, bool withSpaces)
 {
     return std::all_of(text.begin(), text.end(), [withSpaces](char character) {
@@ -122,7 +122,7 @@ QByteArray HttpRequest::field(QByteArrayView name) const
 
 qsizetype httpHeadLength(const QByteArray &received)
 {
-    // Line by line, for some clients end their lines with a line feed alone.
+    // Line by line: some clients end their lines with only a line feed.
     qsizetype begin = 0;
     for (;;) {
         const qsizetype end = received.indexOf('\n', begin);
@@ -184,26 +184,26 @@ HttpTarget readHttpTarget(const QByteArray &target)
     const qsizetype question = rest.indexOf('?');
     read.path = question < 0 ? rest : rest.left(question);
     read.query = question < 0 ? QByteArray() : rest.mid(question + 1);
-    read.isGood = true;
+    read.isValid = true;
     return read;
 }
 
-HttpReply HttpReply::line(HttpStatus status, const QString &text)
+HttpResponse HttpResponse::line(HttpStatus status, const QString &text)
 {
-    HttpReply reply;
-    reply.status = status;
-    reply.body = text.toUtf8() + '\n';
-    return reply;
+    HttpResponse response;
+    response.status = status;
+    response.body = text.toUtf8() + '\n';
+    return response;
 }
 
-QByteArray httpHead(const HttpReply &reply, bool keepsConnection)
+QByteArray httpHead(const HttpResponse &response, bool keepsConnection)
 {
-    QByteArray head = "HTTP/1.1 " + QByteArray::number(static_cast<int>(reply.status)) + ' ' +
-                      reasonPhrase(reply.status) + "\r\n";
-    for (const QByteArray &field : reply.fields)
+    QByteArray head = "HTTP/1.1 " + QByteArray::number(static_cast<int>(response.status)) + ' ' +
+                      reasonPhrase(response.status) + "\r\n";
+    for (const QByteArray &field : response.fields)
         head += field + "\r\n";
-    head += "Content-Type: " + reply.contentType +
-            "\r\nContent-Length: " + QByteArray::number(reply.fullLength()) + "\r\n";
+    head += "Content-Type: " + response.contentType +
+            "\r\nContent-Length: " + QByteArray::number(response.fullLength()) + "\r\n";
     if (!keepsConnection)
         head += "Connection: close\r\n";
     return head + "\r\n";

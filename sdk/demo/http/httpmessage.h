@@ -1,4 +1,4 @@
-// Requests and replies of the site's web service, apart from how they travel.
+// HTTP requests and responses of the site's web service, without their transport.
 #pragma once
 
 #include <QByteArray>
@@ -16,7 +16,7 @@ inline constexpr qsizetype longestHttpBody = qsizetype{64} * 1024;
 
 enum class HttpStatus
 {
-    None = 0, ///< nothing is answered
+    None = 0, ///< no response
     Ok = 200,
     Found = 302,
     BadRequest = 400,
@@ -35,64 +35,64 @@ enum class HttpStatus
     VersionNotSupported = 505,
 };
 
-/// The phrase that stands after the number: "Not Found".
+/// The phrase after the status code: "Not Found".
 [[nodiscard]] QByteArray reasonPhrase(HttpStatus status);
 
 struct HttpRequest
 {
     QByteArray method;
-    QByteArray target;                               ///< as it stands in the request line
+    QByteArray target;                               ///< as in the request line
     QList<std::pair<QByteArray, QByteArray>> fields; ///< names in lower case
     qsizetype bodyLength = 0;
     bool keepsConnection = true;
-    bool waitsForContinue = false; ///< sends its body only when it is told to go on
+    bool waitsForContinue = false; ///< sends its body only after the status 100
 
     /// The first header of that name (in lower case), empty without one.
     [[nodiscard]] QByteArray field(QByteArrayView name) const;
 };
 
-/// Reads a request line and headers, up to and with the empty line. Returns Ok, or the status to refuse it
-/// with. A body may be as long as `longestBody`.
+/// Reads a request line and headers, including the empty line. Returns Ok, or the status of the refusal.
+/// `longestBody` is the limit of Content-Length.
 [[nodiscard]] HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request,
                                       qint64 longestBody = longestHttpBody);
 
-/// The length of the head at the begin of `received`, 0 while it is not complete.
+/// The length of the head at the start of `received`, 0 while it is incomplete.
 [[nodiscard]] qsizetype httpHeadLength(const QByteArray &received);
 
-/// Where a request goes: "http://192.168.1.104:80/cgi-bin/time?set=x", or from the path on.
+/// The target of a request: "http://192.168.1.104:80/cgi-bin/time?set=x", or only the path and the query.
 struct HttpTarget
 {
-    QString scheme; ///< lower case; empty when the target begins with its path
+    QString scheme; ///< lower case; empty if the target starts with its path
     QString host;   ///< an address, IPv6 without its brackets
     int port = 80;
-    QByteArray path;     ///< still encoded
-    QByteArray query;    ///< the same, without its question mark
-    bool isGood = false; ///< false for what is no target, or names a user
+    QByteArray path;      ///< still encoded
+    QByteArray query;     ///< still encoded, without the question mark
+    bool isValid = false; ///< false for an invalid target, and for one with a user
 };
 
 [[nodiscard]] HttpTarget readHttpTarget(const QByteArray &target);
 
-/// What goes back, and what is wrong with how it goes. A plain text unless told otherwise.
-struct HttpReply
+/// A response and the faults of its transport. Plain text by default.
+struct HttpResponse
 {
     HttpStatus status = HttpStatus::Ok;
     QByteArray contentType = "text/plain; charset=utf-8";
     QByteArrayList fields; ///< further headers: "Allow: GET"
     QByteArray body;
-    qint64 length = -1; ///< of the body, which is repeated until then; -1 for once
+    qint64 length = -1; ///< of the body, which is repeated up to this length; -1: the body once
 
-    std::chrono::milliseconds lateness{0}; ///< before anything is sent
-    std::chrono::seconds slowness{0};      ///< for how long one byte of the body comes each second
-    bool isBroken = false;                 ///< ends in the middle of the body
-    bool hasNoHead = false;                ///< the body alone
+    std::chrono::milliseconds delay{0};   ///< before the response
+    std::chrono::seconds slowDuration{0}; ///< the time during which one byte of the body is sent each second
+    bool isBroken = false;                ///< ends within the body
+    bool hasNoHead = false;               ///< only the body is sent
 
     [[nodiscard]] qint64 fullLength() const { return length < 0 ? body.size() : length; }
 
-    /// A line of text with that status.
-    [[nodiscard]] static HttpReply line(HttpStatus status, const QString &text);
+    /// A response with a line of text.
+    [[nodiscard]] static HttpResponse line(HttpStatus status, const QString &text);
 };
 
-/// Status line and headers of `reply`.
-[[nodiscard]] QByteArray httpHead(const HttpReply &reply, bool keepsConnection);
+/// Status line and headers of `response`.
+[[nodiscard]] QByteArray httpHead(const HttpResponse &response, bool keepsConnection);
 
 } // namespace sdk::demo

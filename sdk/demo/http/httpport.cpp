@@ -60,7 +60,7 @@ void HttpPort::serve(Connection &connection, int localPort)
 {
     const int responderPort = m_role == Role::Proxy ? HttpResponder::proxy : localPort;
     HttpConnection(m_responder, connection.socket, responderPort, m_stop.get_token()).serve();
-    // Under the lock, for the destructor shuts down what is open.
+    // With the lock held: the destructor shuts down open sockets.
     const std::lock_guard lock(m_mutex);
     close(connection.socket);
     connection.isOver = true;

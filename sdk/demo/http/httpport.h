@@ -1,4 +1,4 @@
-// A port of 127.0.0.1 that speaks HTTP.
+// A port of 127.0.0.1 that serves HTTP.
 #pragma once
 
 #include "sdk/demo/http/loopbacklistener.h"
@@ -13,22 +13,22 @@ namespace sdk::demo {
 
 class HttpResponder;
 
-/// Listens on a thread of its own and serves each connection on another. The destructor closes the port and
-/// ends the connections at once, in the middle of an answer too; it must not hold a lock that the answers
-/// need.
+/// Listens on one thread and serves each connection on another. The destructor closes the port and
+/// immediately ends the connections, even during a response. Its caller must not hold a lock that the
+/// responses need.
 class HttpPort
 {
 public:
-    /// Further clients are turned away.
+    /// Further clients are refused.
     static constexpr std::size_t mostConnections = 128;
 
     enum class Role
     {
-        Proxy,  ///< of the whole site
+        Proxy,  ///< of the complete site
         Tunnel, ///< to the device behind a local port of the port agent
     };
 
-    /// Listens at `port`, 0 for any that is free. Returns null when it is taken or the computer gives no
+    /// Listens at `port`, 0 for any free port. Returns null if the port is in use, or the host provides no
     /// socket or thread. `responder` must outlive the port.
     [[nodiscard]] static std::unique_ptr<HttpPort> open(HttpResponder &responder, Role role, int port);
 
@@ -43,7 +43,7 @@ private:
     {
         int socket;
         std::thread thread = {};
-        bool isOver = false; // its thread returns at once, and its socket is closed
+        bool isOver = false; // its socket is closed and its thread returns immediately
     };
 
     HttpPort(HttpResponder &responder, Role role) : m_responder(responder), m_role(role) {}
@@ -55,7 +55,7 @@ private:
     std::stop_source m_stop;
     std::mutex m_mutex;
     std::list<Connection> m_connections;
-    std::unique_ptr<LoopbackListener> m_listener; // last: it brings connections until it is gone
+    std::unique_ptr<LoopbackListener> m_listener; // last: it adds connections until it is destroyed
 };
 
 } // namespace sdk::demo

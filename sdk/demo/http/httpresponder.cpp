@@ -12,43 +12,42 @@ namespace sdk::demo {
 
 namespace {
 
-/// What the proxy does not do; nothing for a request that it passes on.
-std::optional<HttpReply> proxyRefusal(const HttpTarget &target)
+/// The refusal of an unsupported request to the proxy; nullopt for a request that it forwards.
+std::optional<HttpResponse> proxyRefusal(const HttpTarget &target)
 {
     if (target.scheme == u"https")
-        return HttpReply::line(HttpStatus::NotImplemented,
-                               u"HTTPS goes through a tunnel: CONNECT ADDRESS:443"_s);
-    if (!target.isGood || (!target.scheme.isEmpty() && target.scheme != u"http"))
-        return HttpReply::line(HttpStatus::BadRequest, u"This is no address that the proxy understands"_s);
+        return HttpResponse::line(HttpStatus::NotImplemented,
+                                  u"HTTPS goes through a tunnel: CONNECT ADDRESS:443"_s);
+    if (!target.isValid || (!target.scheme.isEmpty() && target.scheme != u"http"))
+        return HttpResponse::line(HttpStatus::BadRequest, u"The proxy does not support this address"_s);
     if (target.scheme.isEmpty())
-        return HttpReply::line(HttpStatus::BadRequest,
-                               u"This is the proxy to the devices of the simulated site: "
-                               "ask it for http://ADDRESS/cgi-bin/help"_s);
+        return HttpResponse::line(HttpStatus::BadRequest,
+                                  u"This is the proxy to the devices of the simulated site: "
+                                  "request http://ADDRESS/cgi-bin/help"_s);
     return std::nullopt;
 }
 
-/// Lays the device's faults over an answer to somebody who has been let in.
-HttpReply withFaults(const SceneDevice &device, HttpReply reply)
+/// Applies the device's faults to the response to an authenticated client.
+HttpResponse withFaults(const SceneDevice &device, HttpResponse response)
 {
-    constexpr char hugeLine[] =
-        "A line of text that is repeated until the answer is as long as it shall be.\n";
+    constexpr char hugeLine[] = "A line of text that is repeated up to the length of the response.\n";
     constexpr qint64 megabyte = qint64{1024} * 1024;
     if (const std::optional<FaultSetting> fault = device.fault(Fault::HttpHuge)) {
-        reply = HttpReply();
-        reply.body = hugeLine;
-        reply.length = fault->number * megabyte;
+        response = HttpResponse();
+        response.body = hugeLine;
+        response.length = fault->number * megabyte;
     }
     if (device.hasFault(Fault::HttpRedirects)) {
-        reply = HttpReply::line(HttpStatus::Found, u"Elsewhere"_s);
-        reply.fields.append("Location: /cgi-bin/elsewhere");
+        response = HttpResponse::line(HttpStatus::Found, u"Elsewhere"_s);
+        response.fields.append("Location: /cgi-bin/elsewhere");
     }
     if (const std::optional<FaultSetting> fault = device.fault(Fault::HttpLate))
-        reply.lateness = std::chrono::milliseconds(fault->number);
+        response.delay = std::chrono::milliseconds(fault->number);
     if (const std::optional<FaultSetting> fault = device.fault(Fault::HttpSlow))
-        reply.slowness = std::chrono::seconds(fault->number);
-    reply.isBroken = device.hasFault(Fault::HttpBroken);
-    reply.hasNoHead = device.hasFault(Fault::HttpNoStatusLine);
-    return reply;
+        response.slowDuration = std::chrono::seconds(fault->number);
+    response.isBroken = device.hasFault(Fault::HttpBroken);
+    response.hasNoHead = device.hasFault(Fault::HttpNoStatusLine);
+    return response;
 }
 
 } // namespace
@@ -58,7 +57,7 @@ Clock &HttpResponder::clock() const
     return m_site.clock();
 }
 
-bool HttpResponder::speaksHttp(int localPort) const
+bool HttpResponder::isHttpPort(int localPort) const
 {
     if (localPort == proxy)
         return true;
@@ -67,45 +66,46 @@ bool HttpResponder::speaksHttp(int localPort) const
     return device && device->httpPort == tunnel->devicePort;
 }
 
-QString HttpResponder::reachedDevice(const QString &host, int port, DevicePort kind, HttpReply &reply) const
+QString HttpResponder::reachedDevice(const QString &host, int port, DevicePort kind,
+                                     HttpResponse &response) const
 {
     const DeviceReach reached = reach(m_site, host, port, kind);
     switch (reached.kind) {
-    case DeviceReach::Kind::Answers:
+    case DeviceReach::Kind::Responds:
         break;
     case DeviceReach::Kind::Refuses:
-        reply = HttpReply::line(HttpStatus::BadGateway,
-                                u"Nothing listens at port %1 of %2"_s.arg(port).arg(host));
+        response = HttpResponse::line(HttpStatus::BadGateway,
+                                      u"Nothing listens at port %1 of %2"_s.arg(port).arg(host));
         break;
     case DeviceReach::Kind::Silent:
-        reply.status = HttpStatus::None;
+        response.status = HttpStatus::None;
         break;
     }
     return reached.session.mac;
 }
 
-HttpReply HttpResponder::answer(const HttpRoute &route, const HttpRequest &request) const
+HttpResponse HttpResponder::respond(const HttpRoute &route, const HttpRequest &request) const
 {
     HttpTarget target = readHttpTarget(request.target);
     HttpCredentials credentials;
-    HttpReply reply;
+    HttpResponse response;
     QString mac;
     const bool isTunnel = !route.host.isEmpty();
     const bool isProxy = route.localPort == proxy && !isTunnel;
-    if (const std::optional<HttpReply> refusal = isProxy ? proxyRefusal(target) : std::nullopt)
-        reply = *refusal;
-    else if (!target.isGood)
-        reply = HttpReply::line(HttpStatus::BadRequest, u"This is no address"_s);
+    if (const std::optional<HttpResponse> refusal = isProxy ? proxyRefusal(target) : std::nullopt)
+        response = *refusal;
+    else if (!target.isValid)
+        response = HttpResponse::line(HttpStatus::BadRequest, u"The address is invalid"_s);
     else if (isTunnel)
-        mac = reachedDevice(target.host = route.host, route.port, DevicePort::SecureWeb, reply);
+        mac = reachedDevice(target.host = route.host, route.port, DevicePort::SecureWeb, response);
     else if (isProxy)
-        mac = reachedDevice(target.host, target.port, DevicePort::Web, reply);
+        mac = reachedDevice(target.host, target.port, DevicePort::Web, response);
     else
-        mac = reachedDevice(u"127.0.0.1"_s, route.localPort, DevicePort::Web, reply);
+        mac = reachedDevice(u"127.0.0.1"_s, route.localPort, DevicePort::Web, response);
     if (!mac.isEmpty())
-        reply = answerOfDevice(mac, request, target, credentials);
-    record(mac, request, target, credentials, reply.status);
-    return reply;
+        response = responseOfDevice(mac, request, target, credentials);
+    record(mac, request, target, credentials, response.status);
+    return response;
 }
 
 HttpTunnel HttpResponder::openTunnel(const HttpRequest &request)
@@ -113,17 +113,17 @@ HttpTunnel HttpResponder::openTunnel(const HttpRequest &request)
     HttpTarget target = readHttpTarget("https://" + request.target);
     HttpTunnel tunnel;
     QString mac;
-    if (target.isGood && target.path == "/" && target.query.isEmpty()) {
+    if (target.isValid && target.path == "/" && target.query.isEmpty()) {
         mac = reachedDevice(target.host, target.port, DevicePort::SecureWeb, tunnel.refusal);
         tunnel.route = {.localPort = proxy, .host = target.host, .port = target.port};
     } else {
         tunnel.refusal =
-            HttpReply::line(HttpStatus::BadRequest, u"This is no address that the proxy understands"_s);
+            HttpResponse::line(HttpStatus::BadRequest, u"The proxy does not support this address"_s);
     }
     if (!mac.isEmpty()) {
         tunnel.key = keyOf(mac);
         if (!tunnel.key)
-            tunnel.refusal = HttpReply::line(HttpStatus::BadGateway, u"The device has no key for HTTPS"_s);
+            tunnel.refusal = HttpResponse::line(HttpStatus::BadGateway, u"The device has no key for HTTPS"_s);
     }
     record(mac, request, target, {}, tunnel.key ? HttpStatus::Ok : tunnel.refusal.status);
     return tunnel;
@@ -153,23 +153,25 @@ void HttpResponder::record(const QString &mac, const HttpRequest &request, const
                            m_site.clock().now()});
 }
 
-HttpReply HttpResponder::answerOfDevice(const QString &mac, const HttpRequest &request,
-                                        const HttpTarget &target, HttpCredentials &credentials) const
+HttpResponse HttpResponder::responseOfDevice(const QString &mac, const HttpRequest &request,
+                                             const HttpTarget &target, HttpCredentials &credentials) const
 {
     const std::optional<SceneDevice> device = m_site.device(mac);
     if (!device)
-        return HttpReply::line(HttpStatus::BadGateway, u"The device has left the site"_s);
+        return HttpResponse::line(HttpStatus::BadGateway, u"The device was removed"_s);
     const std::int64_t now = m_site.clock().now();
     credentials = m_authentication.check(*device, request, now);
-    if (!credentials.areRight) {
-        HttpReply reply = HttpReply::line(HttpStatus::Unauthorized, u"A user and a password are needed"_s);
-        reply.fields.append(m_authentication.challenge(*device, credentials.areStale, now));
-        return reply;
+    if (!credentials.areValid) {
+        HttpResponse response =
+            HttpResponse::line(HttpStatus::Unauthorized, u"A user and a password are required"_s);
+        response.fields.append(m_authentication.challenge(*device, credentials.areStale, now));
+        return response;
     }
     if (request.method != "GET" && request.method != "POST") {
-        HttpReply reply = HttpReply::line(HttpStatus::MethodNotAllowed, u"Only GET and POST are known"_s);
-        reply.fields.append("Allow: GET, POST");
-        return reply;
+        HttpResponse response =
+            HttpResponse::line(HttpStatus::MethodNotAllowed, u"Only GET and POST are known"_s);
+        response.fields.append("Allow: GET, POST");
+        return response;
     }
     return withFaults(*device, runHttpCommand(m_site, mac, target));
 }

@@ -1,4 +1,4 @@
-// What the web service of the site answers to a request.
+// The responses of the site's web service.
 #pragma once
 
 #include "sdk/demo/http/encryption.h"
@@ -19,30 +19,31 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Where a connection leads.
+/// The destination of a connection.
 struct HttpRoute
 {
     int localPort = 0; ///< of the port agent, or HttpResponder::proxy
-    QString host = {}; ///< of a tunnel through the proxy: the device's address; else empty
-    int port = 0;      ///< of such a tunnel: at the device
+    QString host = {}; ///< address of the device for a tunnel through the proxy; otherwise empty
+    int port = 0;      ///< port of the device for such a tunnel
 };
 
-/// What comes of the request for a tunnel through the proxy.
+/// The result of a request for a tunnel through the proxy.
 struct HttpTunnel
 {
-    HttpReply refusal = {}; ///< without a key
+    HttpResponse refusal = {}; ///< the response without a key
     HttpRoute route = {};
-    std::shared_ptr<const DeviceKey> key = {}; ///< of the device at its end; null if the tunnel is refused
+    std::shared_ptr<const DeviceKey> key = {}; ///< of the device; null if the tunnel is refused
 };
 
 /// Thread-safe.
 class HttpResponder
 {
 public:
-    /// How long a request is held that nobody answers, on the site's clock; longer than clients wait.
+    /// The time until an unanswered request ends, on the site's clock. It is longer than the timeouts of
+    /// clients.
     static constexpr std::chrono::milliseconds silence = std::chrono::seconds(10);
 
-    /// The local port of the proxy in the place of one of the port agent.
+    /// Stands for the proxy where a local port of the port agent is expected.
     static constexpr int proxy = 0;
 
     /// `site` must outlive the responder.
@@ -50,27 +51,27 @@ public:
 
     [[nodiscard]] Clock &clock() const;
 
-    /// Whether what listens at `localPort` speaks HTTP: the proxy, and a tunnel to a device's web port.
-    [[nodiscard]] bool speaksHttp(int localPort) const;
+    /// Whether `localPort` accepts HTTP: the proxy, and a tunnel to a device's web port.
+    [[nodiscard]] bool isHttpPort(int localPort) const;
 
-    /// The answer to a request that came over `route`, and the request in the site's record.
-    /// HttpStatus::None for one that gets no answer.
-    [[nodiscard]] HttpReply answer(const HttpRoute &route, const HttpRequest &request) const;
+    /// Responds to a request over `route` and adds it to the site's log. HttpStatus::None for a request
+    /// without a response.
+    [[nodiscard]] HttpResponse respond(const HttpRoute &route, const HttpRequest &request) const;
 
-    /// The tunnel that a request "CONNECT" to the proxy asks for, and the request in the site's record. It
-    /// leads to the port at which a device serves HTTPS.
+    /// Opens the tunnel of a request "CONNECT" to the proxy and adds the request to the site's log. The
+    /// tunnel leads to the HTTPS port of a device.
     [[nodiscard]] HttpTunnel openTunnel(const HttpRequest &request);
 
 private:
-    /// The device that a connection leads to. Without one `reply` says why.
+    /// The MAC of the device at an address. Without a device, returns an empty string and sets `response`.
     [[nodiscard]] QString reachedDevice(const QString &host, int port, DevicePort kind,
-                                        HttpReply &reply) const;
-    /// Made at the first request.
+                                        HttpResponse &response) const;
+    /// Generated for the first request.
     [[nodiscard]] std::shared_ptr<const DeviceKey> keyOf(const QString &mac);
     void record(const QString &mac, const HttpRequest &request, const HttpTarget &target,
                 const HttpCredentials &credentials, HttpStatus status) const;
-    [[nodiscard]] HttpReply answerOfDevice(const QString &mac, const HttpRequest &request,
-                                           const HttpTarget &target, HttpCredentials &credentials) const;
+    [[nodiscard]] HttpResponse responseOfDevice(const QString &mac, const HttpRequest &request,
+                                                const HttpTarget &target, HttpCredentials &credentials) const;
 
     SiteState &m_site;
     const HttpAuthentication m_authentication;

@@ -21,7 +21,7 @@ namespace {
 /// Returns the port, 0 on failure.
 int bindLoopback(int socket, int port)
 {
-    // A port can be had again while connections of its last listener linger.
+    // Allows a port to be reused while connections of its last listener linger.
     const int on = 1;
     setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof(on));
     sockaddr_in address = {};
@@ -42,7 +42,7 @@ std::unique_ptr<LoopbackListener> LoopbackListener::open(int port, ConnectionTak
 {
     const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     const int wakeUp = eventfd(0, EFD_CLOEXEC);
-    // Owns both from here on, and closes them on failure.
+    // The object owns both descriptors, and closes them on failure.
     std::unique_ptr<LoopbackListener> listener(new LoopbackListener(socket, wakeUp, std::move(taker)));
     if (socket < 0 || wakeUp < 0)
         return nullptr;
@@ -87,7 +87,7 @@ void LoopbackListener::acceptConnections() const
         if (connection >= 0) {
             m_taker(connection, m_port);
         } else if (errno == EMFILE || errno == ENFILE || errno == ENOBUFS || errno == ENOMEM) {
-            // The connection stays in the queue: asking again at once would keep a processor busy.
+            // The connection stays in the queue: an immediate retry would keep a processor busy.
             constexpr int pause = 100;
             poll(&watched[1], 1, pause);
         }

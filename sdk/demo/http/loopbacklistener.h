@@ -1,4 +1,4 @@
-// A real port of 127.0.0.1.
+// A TCP port of 127.0.0.1.
 #pragma once
 
 #include <functional>
@@ -7,14 +7,14 @@
 
 namespace sdk::demo {
 
-/// Accepts connections on a thread of its own. The destructor closes the port and joins the thread.
+/// Accepts connections on a separate thread. The destructor closes the port and joins the thread.
 class LoopbackListener
 {
 public:
-    /// Takes over a connected socket that has come to `port`; called on the listener's thread.
+    /// Takes the ownership of a socket that was accepted at `port`. Called on the listener's thread.
     using ConnectionTaker = std::function<void(int socket, int port)>;
 
-    /// Listens at `port`, 0 for any that is free. Returns null when it is taken or the computer gives no
+    /// Listens at `port`, 0 for any free port. Returns null if the port is in use, or the host provides no
     /// socket or thread.
     [[nodiscard]] static std::unique_ptr<LoopbackListener> open(int port, ConnectionTaker taker);
 
@@ -33,7 +33,7 @@ private:
 
     const ConnectionTaker m_taker;
     const int m_socket;
-    const int m_wakeUp; // becomes readable when the thread is to end
+    const int m_wakeUp; // becomes readable to end the thread
     int m_port = 0;
     std::thread m_thread;
 };

@@ -30,7 +30,7 @@ bool isIpv4Address(const QString &text)
 bool isIpv4Mask(const QString &text)
 {
     const std::optional<std::uint32_t> mask = parsedIpv4(text);
-    // The zeros of a mask, read as a number, are one less than a power of two.
+    // The inverted mask is one less than a power of two.
     return mask && (~*mask & (~*mask + 1)) == 0;
 }
 
@@ -50,10 +50,10 @@ QString canonicalMac(const QString &text)
     constexpr qsizetype length = 17;
     if (text.size() != length)
         return QString();
-    for (qsizetype place = 0; place < length; ++place) {
-        const char16_t letter = text[place].toLower().unicode();
+    for (qsizetype index = 0; index < length; ++index) {
+        const char16_t letter = text[index].toLower().unicode();
         const bool isHexadecimal = (letter >= u'0' && letter <= u'9') || (letter >= u'a' && letter <= u'f');
-        if (place % 3 == 2 ? letter != u':' : !isHexadecimal)
+        if (index % 3 == 2 ? letter != u':' : !isHexadecimal)
             return QString();
     }
     return text.toLower();

@@ -1,4 +1,4 @@
-// Checking addresses that a scene or a request gives as text.
+// Checks of address strings in scenes and requests.
 #pragma once
 
 #include <QString>
@@ -8,14 +8,13 @@ namespace sdk::demo {
 /// Four decimal octets, without leading zeros.
 [[nodiscard]] bool isIpv4Address(const QString &text);
 
-/// A dotted mask whose ones all stand before its zeros.
+/// A dotted mask with all ones before all zeros.
 [[nodiscard]] bool isIpv4Mask(const QString &text);
 
-/// The one canonical spelling of an IPv6 address; empty when `text` is none. Zones ("%eth0") are not
-/// accepted.
+/// The canonical form of an IPv6 address; empty for an invalid one. Zones ("%eth0") are not accepted.
 [[nodiscard]] QString canonicalIpv6Address(const QString &text);
 
-/// Lower-case "02:1a:c5:00:40:17"; empty when `text` is not six pairs of hexadecimal digits with colons.
+/// Lower-case "02:1a:c5:00:40:17"; empty for anything except six pairs of hexadecimal digits with colons.
 [[nodiscard]] QString canonicalMac(const QString &text);
 
 } // namespace sdk::demo

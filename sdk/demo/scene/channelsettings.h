@@ -1,4 +1,4 @@
-// What has been written to the channels of a simulated device.
+// The settings that were written to the channels of a simulated device.
 #pragma once
 
 #include <QByteArray>
@@ -9,17 +9,17 @@
 
 namespace sdk::demo {
 
-/// Where an item of a device is kept.
-struct ItemPlace
+/// The key of an item of a device.
+struct ItemKey
 {
     std::uint32_t item = 0;
     std::int32_t channel = 0;
-    std::int32_t selector = 0; ///< stream or mode; 0 for items that have neither
+    std::int32_t selector = 0; ///< stream or mode; 0 for items without either
 
-    auto operator<=>(const ItemPlace &) const = default;
+    auto operator<=>(const ItemKey &) const = default;
 };
 
-/// Blocks of items as they were written. What is not among them is as the device has it by itself.
-using ChannelSettings = QMap<ItemPlace, QByteArray>;
+/// Blocks of items that were written. Other items have the device's defaults.
+using ChannelSettings = QMap<ItemKey, QByteArray>;
 
 } // namespace sdk::demo

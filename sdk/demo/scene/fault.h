@@ -1,4 +1,4 @@
-// What can be wrong with a simulated device.
+// The faults of simulated devices.
 #pragma once
 
 #include <QString>
@@ -10,54 +10,54 @@ namespace sdk::demo {
 
 enum class Fault
 {
-    NoAnswer,              ///< nothing gets an answer: no search, no login, no request
-    LateAnswer,            ///< search answers come `number` ms later than the device's latency
-    AnswerTwice,           ///< every search answer comes twice
+    NoAnswer,              ///< no response to searches, logins and requests
+    LateAnswer,            ///< search responses are sent `number` ms after the device's latency
+    AnswerTwice,           ///< every search response is sent twice
     WrongPassword,         ///< no password is accepted
     AccountLocked,         ///< the account locks after `number` wrong passwords
     AccountLoggedIn,       ///< every account has a session already
-    NotInitialised,        ///< the device says that it waits for its first password
-    RefusesInitialisation, ///< refuses its first account
+    NotInitialised,        ///< the device reports that it is not initialised
+    RefusesInitialisation, ///< refuses the initialisation
     RefusesAddressChange,  ///< refuses a new address
     RefusesItem,           ///< refuses to write item `number`
-    WithholdsItem,         ///< does not tell item `number`
+    WithholdsItem,         ///< does not report item `number`
     RefusesBitRatesAbove,  ///< refuses bit rates above `number` kbit/s
     RefusesConfiguration,  ///< refuses the configuration named `text`
-    DropsStreamAfter,      ///< ends the stream after `number` pictures
-    FirstPictureLate,      ///< the stream begins `number` ms late
-    RebootTakes,           ///< a reboot takes the device away for `number` s
-    UpgradeFailsAt,        ///< an upgrade fails at `number` % of the sending, at 100 in the writing
-    OddBytes,              ///< texts hold control characters, markup, line breaks and invalid UTF-8
-    OverLongTexts,         ///< texts fill their fields to the last byte, without a terminating zero
+    DropsStreamAfter,      ///< ends the stream after `number` frames
+    FirstPictureLate,      ///< the stream starts `number` ms late
+    RebootTakes,           ///< a reboot takes `number` s
+    UpgradeFailsAt,        ///< an upgrade fails at `number` % of the transfer, with 100 while writing
+    OddBytes,              ///< strings contain control characters, markup, line breaks and invalid UTF-8
+    OverLongTexts,         ///< strings fill their fields to the last byte, without a terminating zero
     RefusesSetting,        ///< refuses to write setting `number`
     RefusesReboot,         ///< refuses to reboot
-    RefusesReset,          ///< refuses to become factory-new
+    RefusesReset,          ///< refuses a reset to factory settings
     RefusesPasswordChange, ///< refuses a new password
-    RefusesCapabilities,   ///< does not tell what it can do
-    OddCapabilities,       ///< counts beyond every bound, bits that nobody knows, sizes of 0
-    OddConfiguration,      ///< the configuration named `text` is no JSON
+    RefusesCapabilities,   ///< refuses queries of its capabilities
+    OddCapabilities,       ///< reports counts out of range, unknown bits and sizes of 0
+    OddConfiguration,      ///< the configuration named `text` is not JSON
     OverLongConfiguration, ///< the configuration named `text` is larger than any buffer
-    RefusesChannelStates,  ///< does not tell which channels have a camera
-    UpgradeBusy,           ///< is at an upgrade already
-    UpgradeHangsAt,        ///< an upgrade stands still there, as UpgradeFailsAt fails
-    UpgradeKeepsVersion,   ///< comes back from an upgrade with the version that it had
-    UpgradeNeverReturns,   ///< does not come back from an upgrade
-    UpgradeTakes,          ///< a firmware file takes `number` s to be sent
-    RefusesUpgradeStop,    ///< does not stop an upgrade, although nothing is written yet
-    SlowAnswers,           ///< logins and requests are answered `number` ms late
-    RefusesConnections,    ///< nothing listens at the device's ports; searches are answered
-    PasswordChangesAfter,  ///< takes a password `number` times, then has other ones
-    Sha256Last,            ///< asks for a login by Digest with MD5 first, then with SHA-256
-    // Answers over HTTP to a right password:
-    HttpLate,         ///< come `number` ms late
-    HttpSlow,         ///< come at one byte a second for `number` s
+    RefusesChannelStates,  ///< refuses queries of its channel states
+    UpgradeBusy,           ///< another upgrade is running
+    UpgradeHangsAt,        ///< an upgrade stops making progress at the same points as UpgradeFailsAt
+    UpgradeKeepsVersion,   ///< has the old version after an upgrade
+    UpgradeNeverReturns,   ///< stays offline after an upgrade
+    UpgradeTakes,          ///< the transfer of a firmware file takes `number` s
+    RefusesUpgradeStop,    ///< refuses to stop an upgrade during the transfer
+    SlowAnswers,           ///< responds to logins and requests `number` ms late
+    RefusesConnections,    ///< the device's ports are closed; searches are answered
+    PasswordChangesAfter,  ///< accepts a password `number` times, then has other passwords
+    Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256
+    // HTTP responses to an accepted login:
+    HttpLate,         ///< are sent `number` ms late
+    HttpSlow,         ///< are sent at one byte a second for `number` s
     HttpBroken,       ///< end in the middle
-    HttpNoStatusLine, ///< are the text alone
+    HttpNoStatusLine, ///< have no status line and no headers
     HttpHuge,         ///< are `number` megabytes long
-    HttpRedirects,    ///< send the client elsewhere
+    HttpRedirects,    ///< redirect the client
 };
 
-/// What a fault needs beside its name.
+/// The parameter of a fault.
 enum class FaultValue
 {
     None,
@@ -75,12 +75,12 @@ struct FaultSetting
 /// The name of `fault` in scenes: "noAnswer".
 [[nodiscard]] QString faultName(Fault fault);
 
-/// The fault that scenes call `name`; nothing for an unknown name.
+/// The fault with `name` in scenes; nullopt for an unknown name.
 [[nodiscard]] std::optional<Fault> faultNamed(const QString &name);
 
 [[nodiscard]] FaultValue faultValue(Fault fault);
 
-/// Largest FaultSetting::number that makes sense for `fault`.
+/// The largest valid FaultSetting::number of `fault`.
 [[nodiscard]] int maximumFaultNumber(Fault fault);
 
 /// The names of all faults, in the order of the enumeration.

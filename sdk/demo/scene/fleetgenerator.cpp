@@ -15,7 +15,7 @@ constexpr quint32 seed = 20240229;
 constexpr int shortestLatency = 40;
 constexpr int longestGeneratedLatency = 2540;
 
-/// One kind of device, and how often it stands in a hundred devices.
+/// One kind of device and its share in percent.
 struct Kind
 {
     const char *type;
@@ -30,9 +30,9 @@ constexpr std::array kinds = {
     Kind{"Matrix", "M-70%1-4K", 2, 16}, Kind{"Other", "X-%1", 4, 1},
 };
 
-constexpr std::array places = {u"Gate", u"Parking", u"Lobby", u"Warehouse", u"Façade", u"Lagerhalle",
-                               u"东门", u"停车场",  u"大厅",  u"仓库",      u"电梯",   u"走廊"};
-constexpr std::array placeSides = {u"", u" North", u" South", u" 北", u" 南", u" Ost"};
+constexpr std::array locations = {u"Gate", u"Parking", u"Lobby", u"Warehouse", u"Façade", u"Lagerhalle",
+                                  u"东门", u"停车场",  u"大厅",  u"仓库",      u"电梯",   u"走廊"};
+constexpr std::array locationSides = {u"", u" North", u" South", u" 北", u" 南", u" Ost"};
 
 class Dice
 {
@@ -61,17 +61,17 @@ const Kind &randomKind(Dice &dice)
     return kinds.back();
 }
 
-/// Unique for every place: 10.16.0.1, 10.16.0.2, ...; .0 and .255 are left out.
-QString addressAt(int place)
+/// Unique for every index: 10.16.0.1, 10.16.0.2, ...; .0 and .255 are left out.
+QString addressAt(int index)
 {
     constexpr int hostsPerBlock = 254;
-    const int block = place / hostsPerBlock;
-    return u"10.%1.%2.%3"_s.arg(16 + block / 256).arg(block % 256).arg(1 + place % hostsPerBlock);
+    const int block = index / hostsPerBlock;
+    return u"10.%1.%2.%3"_s.arg(16 + block / 256).arg(block % 256).arg(1 + index % hostsPerBlock);
 }
 
-QString macAt(int place)
+QString macAt(int index)
 {
-    const QString digits = u"%1"_s.arg(0x100000 + place, 6, 16, QLatin1Char('0'));
+    const QString digits = u"%1"_s.arg(0x100000 + index, 6, 16, QLatin1Char('0'));
     return u"02:1a:c5:%1:%2:%3"_s.arg(digits.first(2), digits.sliced(2, 2), digits.last(2));
 }
 
@@ -83,8 +83,7 @@ InitialisationBits randomState(Dice &dice)
     return state <= 20 ? InitialisationBits::NotReported : InitialisationBits::Initialised;
 }
 
-/// The lists of channels and accounts that devices have in common, which share their memory until one is
-/// changed.
+/// Lists of channels and accounts, whose memory the devices share until one is changed.
 class SharedLists
 {
 public:
@@ -98,16 +97,16 @@ public:
     const QList<SceneAccount> &accounts() const { return m_accounts; }
 
 private:
-    QHash<int, QList<SceneChannel>> m_channels; // by their number
+    QHash<int, QList<SceneChannel>> m_channels; // by the number of channels
     const QList<SceneAccount> m_accounts = {{u"admin"_s, u"Installer-2024"_s}};
 };
 
-SceneDevice deviceAt(int place, Dice &dice, SharedLists &lists)
+SceneDevice deviceAt(int index, Dice &dice, SharedLists &lists)
 {
     const Kind &kind = randomKind(dice);
     SceneDevice device;
-    device.mac = macAt(place);
-    device.address = addressAt(place);
+    device.mac = macAt(index);
+    device.address = addressAt(index);
     device.mask = u"255.0.0.0"_s;
     device.gateway = u"10.0.0.1"_s;
     device.dhcp = dice.oncein(6);
@@ -115,10 +114,10 @@ SceneDevice deviceAt(int place, Dice &dice, SharedLists &lists)
     device.httpPort = dice.oncein(20) ? 8080 : 80;
     device.type = QString::fromLatin1(kind.type);
     device.model = QString::fromLatin1(kind.model).arg(dice.number(10, 99));
-    device.name = u"%1%2 %3"_s.arg(dice.oneOf(places), dice.oneOf(placeSides)).arg(place + 1);
+    device.name = u"%1%2 %3"_s.arg(dice.oneOf(locations), dice.oneOf(locationSides)).arg(index + 1);
     device.version = u"2.%1.%2"_s.arg(dice.number(400, 880)).arg(dice.number(0, 9));
     device.serial =
-        u"%1%2"_s.arg(dice.number(0x10000, 0xFFFFF), 5, 16).arg(place, 7, 10, QLatin1Char('0')).toUpper();
+        u"%1%2"_s.arg(dice.number(0x10000, 0xFFFFF), 5, 16).arg(index, 7, 10, QLatin1Char('0')).toUpper();
     device.initialisation = randomState(dice);
     device.resetWay = static_cast<std::uint8_t>(dice.number(0, 3));
     device.channels = lists.channels(kind.mostChannels == 1 ? 1 : 4 * dice.number(1, kind.mostChannels / 4));
@@ -140,8 +139,8 @@ Scene FleetGenerator::generate(int count)
     scene.devices.reserve(count);
     Dice dice;
     SharedLists lists;
-    for (int place = 0; place < count; ++place)
-        scene.devices.append(deviceAt(place, dice, lists));
+    for (int index = 0; index < count; ++index)
+        scene.devices.append(deviceAt(index, dice, lists));
     return scene;
 }
 

@@ -1,4 +1,4 @@
-// Large sites, made up instead of written down.
+// Generated scenes of any size.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -8,9 +8,9 @@ namespace sdk::demo {
 class FleetGenerator
 {
 public:
-    /// Makes up a site of `count` devices, 1 to maximumSceneDevices (others are brought into that range). The
-    /// same count gives the same site every time, and the devices of a small fleet are the first of a larger.
-    /// MACs and addresses (in 10.0.0.0/8) are unique; answers spread over about 2.5 s.
+    /// Generates a scene of `count` devices, clamped to 1 to maximumSceneDevices. The same count gives the
+    /// same scene every time, and the devices of a small fleet are the first of a larger one. MACs and
+    /// addresses (in 10.0.0.0/8) are unique. Responses to a search are spread over about 2.5 s.
     [[nodiscard]] static Scene generate(int count);
 };
 

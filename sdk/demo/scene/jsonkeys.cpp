@@ -13,7 +13,7 @@ QString shownJsonValue(const QJsonValue &value)
         return QStringLiteral("a list");
     if (value.isObject())
         return QStringLiteral("an object");
-    // A document holds only lists and objects, so the value is spelled inside a list.
+    // A document holds only arrays and objects, so the value is serialised in an array.
     QString shown = QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
     shown = shown.sliced(1, shown.size() - 2);
     return shown.size() <= longest ? shown : shown.first(longest) + QStringLiteral("…");
@@ -30,7 +30,7 @@ QJsonValue JsonKeys::typedValue(const QString &key, QJsonValue::Type type, const
     QJsonValue found = value(key);
     if (found.type() == type || found.isUndefined())
         return found;
-    complain(key, expected);
+    reportError(key, expected);
     return QJsonValue(QJsonValue::Undefined);
 }
 
@@ -47,7 +47,7 @@ int JsonKeys::number(const QString &key, int minimum, int maximum, int fallback)
         return fallback;
     const double number = found.toDouble();
     if (number < minimum || number > maximum || number != std::floor(number)) {
-        complain(key, expected);
+        reportError(key, expected);
         return fallback;
     }
     return static_cast<int>(number);
@@ -74,26 +74,26 @@ int JsonKeys::choice(const QString &key, const QStringList &choices, int fallbac
     const QJsonValue found = typedValue(key, QJsonValue::String, expected);
     if (found.isUndefined())
         return fallback;
-    const qsizetype place = choices.indexOf(found.toString());
-    if (place < 0) {
-        complain(key, expected);
+    const qsizetype index = choices.indexOf(found.toString());
+    if (index < 0) {
+        reportError(key, expected);
         return fallback;
     }
-    return static_cast<int>(place);
+    return static_cast<int>(index);
 }
 
 QString JsonKeys::requiredText(const QString &key)
 {
     QString found = text(key);
     if (found.isEmpty())
-        complain(key, QStringLiteral("a text that is not empty"));
+        reportError(key, QStringLiteral("a non-empty string"));
     return found;
 }
 
 int JsonKeys::requiredNumber(const QString &key, int minimum, int maximum)
 {
     if (!m_object.contains(key))
-        complain(key, QStringLiteral("a whole number from %1 to %2").arg(minimum).arg(maximum));
+        reportError(key, QStringLiteral("a whole number from %1 to %2").arg(minimum).arg(maximum));
     return number(key, minimum, maximum, minimum);
 }
 
@@ -107,7 +107,7 @@ void JsonKeys::rejectOtherKeys()
     }
 }
 
-void JsonKeys::complain(const QString &key, const QString &expected)
+void JsonKeys::reportError(const QString &key, const QString &expected)
 {
     if (!m_error.isEmpty())
         return;

@@ -1,4 +1,4 @@
-// A simulated site as data: what a scene file says.
+// A simulated site as data: the content of a scene file.
 #pragma once
 
 #include "sdk/demo/scene/channelsettings.h"
@@ -25,23 +25,23 @@ struct SceneAccount
     QString password;
 };
 
-/// A picture input of a device.
+/// A video input of a device.
 struct SceneChannel
 {
     QString name;
     bool connected = true;
 };
 
-/// What a device's maintenance changes, beside its accounts and its configuration.
+/// The maintenance state of a device, apart from its accounts and its configuration.
 struct SceneMaintenance
 {
-    std::chrono::milliseconds clockAhead{0}; ///< of the site's clock, as the device's own clock stands
-    std::int64_t awayFrom = 0;               ///< on the site's clock: the device reboots from here
-    std::int64_t awayUntil = 0;              ///< until there
+    std::chrono::milliseconds clockAhead{0}; ///< offset of the device's clock from the site's clock
+    std::int64_t offlineFrom = 0;            ///< start of a reboot, on the site's clock
+    std::int64_t offlineUntil = 0;           ///< end of the reboot
     VideoStandard videoStandard = VideoStandard::Pal;
 };
 
-/// What a device's web service asks for.
+/// The authentication scheme of a web service.
 enum class HttpAuthenticationKind
 {
     Digest,
@@ -59,7 +59,7 @@ struct SceneDevice
     QString gateway;
     bool dhcp = false;
     int port = 0;      ///< service port, 1 to 65535
-    int httpPort = 80; ///< 0 when it has no web page
+    int httpPort = 80; ///< 0 without a web service
     HttpAuthenticationKind httpAuthentication = HttpAuthenticationKind::Digest;
     QString name;
     QString type; ///< "IPC", "NVR", ...
@@ -68,27 +68,27 @@ struct SceneDevice
     QString serial;
     InitialisationBits initialisation = InitialisationBits::Initialised;
     std::uint8_t resetWay = 0; ///< as SearchDeviceInformation::passwordResetWay
-    QString p2pId;             ///< what the port agent knows the device by; empty when it does not
+    QString p2pId;             ///< the device's ID at the port agent; empty without one
     QList<SceneAccount> accounts;
     QList<SceneChannel> channels;
     QJsonObject capabilities;
-    ChannelSettings channelSettings;        ///< what was written to the channels; not part of scene files
-    QJsonObject configuration;              ///< by name; laid over what the device tells of its own state
-    std::chrono::milliseconds latency{100}; ///< from a request to the device's answer
-    bool inOtherSegment = false;  ///< out of reach of local searches; answers when its address is asked
-    bool isRemote = false;        ///< out of reach of everything but the port agent
-    bool knowsFirstSearch = true; ///< false: answers only the second kind (…Ex) of search
+    ChannelSettings channelSettings; ///< settings that were written to the channels; not part of scene files
+    QJsonObject configuration;       ///< by name; overrides the device's own state
+    std::chrono::milliseconds latency{100}; ///< from a request to the response
+    bool inOtherSegment = false;  ///< not found by local searches; responds to searches of its address
+    bool isRemote = false;        ///< reachable only through the port agent
+    bool knowsFirstSearch = true; ///< false: responds only to the second kind (…Ex) of search
     QList<FaultSetting> faults;   ///< each fault at most once
     SceneMaintenance maintenance;
 
-    /// Whether the device hears anything at `time` of the site's clock.
+    /// Whether the device receives requests at `time` of the site's clock.
     [[nodiscard]] bool isListening(std::int64_t time) const
     {
-        const bool isAway = time >= maintenance.awayFrom && time < maintenance.awayUntil;
-        return !isAway && !hasFault(Fault::NoAnswer);
+        const bool isOffline = time >= maintenance.offlineFrom && time < maintenance.offlineUntil;
+        return !isOffline && !hasFault(Fault::NoAnswer);
     }
 
-    /// The device's setting of `wanted`; nothing while the device does not have that fault.
+    /// The device's setting of `wanted`; nullopt if the device does not have that fault.
     [[nodiscard]] std::optional<FaultSetting> fault(Fault wanted) const
     {
         const auto found = std::find_if(faults.begin(), faults.end(), [wanted](const FaultSetting &setting) {
@@ -98,7 +98,7 @@ struct SceneDevice
     }
     [[nodiscard]] bool hasFault(Fault wanted) const { return fault(wanted).has_value(); }
 
-    /// Whether the device waits for its first password.
+    /// Whether the device is not initialised.
     [[nodiscard]] bool isUninitialised() const
     {
         return initialisation == InitialisationBits::Uninitialised || hasFault(Fault::NotInitialised);
@@ -114,7 +114,7 @@ struct Scene
 {
     QString title;
     QString description;
-    QString localAddress = QStringLiteral("192.168.1.250"); ///< of this computer, as devices see it
+    QString localAddress = QStringLiteral("192.168.1.250"); ///< of this host in the local segment
     QString localIpv6 = QStringLiteral("fe80::1a:c5ff:fe00:1");
     QList<SceneDevice> devices; ///< MACs are unique
 };

@@ -20,11 +20,11 @@ constexpr int highestPort = 65535;
 constexpr int mostChannels = 1024;
 constexpr int longestLatency = 600000;
 
-/// "device 3 (02:1a:c5:00:40:17)": by place, and by MAC as soon as there is one to read.
-QString deviceTitle(qsizetype place, const QJsonObject &device)
+/// "device 3 (02:1a:c5:00:40:17)": by position, and by MAC if there is one.
+QString deviceTitle(qsizetype index, const QJsonObject &device)
 {
     const QString mac = device.value(u"mac").toString();
-    const QString title = u"device %1"_s.arg(place + 1);
+    const QString title = u"device %1"_s.arg(index + 1);
     return mac.isEmpty() ? title : u"%1 (%2)"_s.arg(title, mac.left(40));
 }
 
@@ -32,14 +32,14 @@ void readAddresses(JsonKeys &keys, SceneDevice &device)
 {
     device.mac = canonicalMac(keys.requiredText(u"mac"_s));
     if (device.mac.isEmpty())
-        keys.complain(u"mac"_s, u"six pairs of hexadecimal digits with colons"_s);
+        keys.reportError(u"mac"_s, u"six pairs of hexadecimal digits with colons"_s);
 
     device.address = keys.text(u"address"_s);
     const QString ipv6 = keys.text(u"ipv6"_s);
     if (device.address.isEmpty() && ipv6.isEmpty())
-        keys.complain(u"address"_s, u"a dotted IPv4 address, unless \"ipv6\" is given"_s);
+        keys.reportError(u"address"_s, u"a dotted IPv4 address, unless \"ipv6\" is given"_s);
     if (!device.address.isEmpty() && !isIpv4Address(device.address))
-        keys.complain(u"address"_s, u"a dotted IPv4 address"_s);
+        keys.reportError(u"address"_s, u"a dotted IPv4 address"_s);
     if (!ipv6.isEmpty()) {
         const QStringList parts = ipv6.split(u'/');
         bool isNumber = true;
@@ -48,16 +48,17 @@ void readAddresses(JsonKeys &keys, SceneDevice &device)
             device.ipv6PrefixLength = parts.at(1).toInt(&isNumber);
         if (device.ipv6.isEmpty() || !isNumber || parts.size() > 2 || device.ipv6PrefixLength < 0 ||
             device.ipv6PrefixLength > 128) {
-            keys.complain(u"ipv6"_s, u"an IPv6 address, with or without \"/\" and a prefix length to 128"_s);
+            keys.reportError(u"ipv6"_s,
+                             u"an IPv6 address, with or without \"/\" and a prefix length to 128"_s);
         }
     }
 
     device.mask = keys.text(u"mask"_s, u"255.255.255.0"_s);
     if (!isIpv4Mask(device.mask))
-        keys.complain(u"mask"_s, u"a dotted IPv4 subnet mask"_s);
+        keys.reportError(u"mask"_s, u"a dotted IPv4 subnet mask"_s);
     device.gateway = keys.text(u"gateway"_s);
     if (!device.gateway.isEmpty() && !isIpv4Address(device.gateway))
-        keys.complain(u"gateway"_s, u"a dotted IPv4 address, or empty"_s);
+        keys.reportError(u"gateway"_s, u"a dotted IPv4 address, or empty"_s);
     device.dhcp = keys.boolean(u"dhcp"_s, false);
     device.port = keys.requiredNumber(u"port"_s, 1, highestPort);
     device.httpPort = keys.number(u"httpPort"_s, 0, highestPort, device.httpPort);
@@ -68,7 +69,7 @@ void readAddresses(JsonKeys &keys, SceneDevice &device)
     device.isRemote = segment == 2;
     device.p2pId = keys.text(u"p2pId"_s);
     if (device.isRemote && device.p2pId.isEmpty())
-        keys.complain(u"p2pId"_s, u"a text that is not empty, for the device is remote"_s);
+        keys.reportError(u"p2pId"_s, u"a non-empty string, because the device is remote"_s);
 }
 
 void readIdentity(JsonKeys &keys, SceneDevice &device)
@@ -84,12 +85,12 @@ void readIdentity(JsonKeys &keys, SceneDevice &device)
     const int state = keys.choice(u"initialised"_s, {u"yes"_s, u"no"_s, u"unreported"_s}, 0);
     device.initialisation = states[static_cast<std::size_t>(state)];
 
-    // The places are the bits: telephone 1, mail 2.
+    // The indexes are the bits: telephone 1, mail 2.
     const QStringList resetWays = {u"none"_s, u"telephone"_s, u"mail"_s, u"both"_s};
     device.resetWay = static_cast<std::uint8_t>(keys.choice(u"resetWay"_s, resetWays, 0));
 }
 
-/// What is wrong with the account, empty when it is good.
+/// The error of the account; empty if it is valid.
 QString readAccount(const QJsonObject &json, const QString &where, SceneAccount &account)
 {
     JsonKeys keys(json, where);
@@ -108,7 +109,7 @@ QString readChannel(const QJsonObject &json, const QString &where, SceneChannel 
     return keys.error();
 }
 
-/// A fault is its name alone, or an object of its "name" and the "value" that it needs.
+/// A fault is a name, or an object with a "name" and the "value" of its parameter.
 QString readFault(const QJsonValue &json, const QString &where, FaultSetting &setting)
 {
     const QJsonObject object = json.isString() ? QJsonObject{{u"name"_s, json}} : json.toObject();
@@ -136,15 +137,15 @@ QString readFault(const QJsonValue &json, const QString &where, FaultSetting &se
     return keys.error();
 }
 
-/// Reads the list of `key`, whose entries `readEntry` reads one by one. Returns the first complaint.
+/// Reads the list of `key`, whose entries `readEntry` reads one by one. Returns the first error.
 template<typename Entry, typename ReadEntry>
 QString readList(const QJsonArray &list, const QString &where, const QString &entryTitle,
                  QList<Entry> &entries, ReadEntry readEntry)
 {
-    for (qsizetype place = 0; place < list.size(); ++place) {
-        const QString title = u"%1, %2 %3"_s.arg(where, entryTitle).arg(place + 1);
+    for (qsizetype index = 0; index < list.size(); ++index) {
+        const QString title = u"%1, %2 %3"_s.arg(where, entryTitle).arg(index + 1);
         Entry entry = {};
-        QString error = readEntry(list.at(place), title, entry);
+        QString error = readEntry(list.at(index), title, entry);
         if (!error.isEmpty())
             return error;
         entries.append(entry);
@@ -152,7 +153,7 @@ QString readList(const QJsonArray &list, const QString &where, const QString &en
     return QString();
 }
 
-/// Lets an object reader take any value, with a complaint about those that are no objects.
+/// Adapts an object reader to any value. Values other than objects are errors.
 template<typename Entry>
 auto ofObjects(QString (*readObject)(const QJsonObject &, const QString &, Entry &))
 {
@@ -175,13 +176,13 @@ QString readFaults(const QJsonArray &list, const QString &where, QList<FaultSett
             std::any_of(faults.cbegin(), faults.cend(),
                         [&setting](const FaultSetting &other) { return other.fault == setting.fault; });
         return error.isEmpty() && isRepeated
-                   ? u"%1: \"%2\" stands twice"_s.arg(title, faultName(setting.fault))
+                   ? u"%1: \"%2\" occurs twice"_s.arg(title, faultName(setting.fault))
                    : error;
     };
     return readList(list, where, u"fault"_s, faults, readEntry);
 }
 
-/// Channels are given by their number, all connected, or one by one.
+/// Channels are a number of connected channels, or a list.
 QString readChannels(JsonKeys &keys, const QString &where, QList<SceneChannel> &channels)
 {
     const QString key = u"channels"_s;
@@ -192,7 +193,7 @@ QString readChannels(JsonKeys &keys, const QString &where, QList<SceneChannel> &
     if (json.isDouble() && count >= 0 && count <= mostChannels)
         channels.resize(count);
     else if (!json.isUndefined())
-        keys.complain(key, u"a number or a list of up to %1 channels"_s.arg(mostChannels));
+        keys.reportError(key, u"a number or a list of up to %1 channels"_s.arg(mostChannels));
     return QString();
 }
 
@@ -221,25 +222,25 @@ QString readDevice(const QJsonObject &json, const QString &where, SceneDevice &d
 QString readDevices(const QJsonArray &list, QList<SceneDevice> &devices)
 {
     if (list.size() > maximumSceneDevices)
-        return u"the scene has %1 devices; the most are %2"_s.arg(list.size()).arg(maximumSceneDevices);
-    QHash<QString, qsizetype> placeOfMac;
-    placeOfMac.reserve(list.size());
+        return u"the scene has %1 devices; the maximum is %2"_s.arg(list.size()).arg(maximumSceneDevices);
+    QHash<QString, qsizetype> indexOfMac;
+    indexOfMac.reserve(list.size());
     devices.reserve(list.size());
-    for (qsizetype place = 0; place < list.size(); ++place) {
-        if (!list.at(place).isObject())
-            return u"device %1 must be an object, but is %2"_s.arg(place + 1).arg(
-                shownJsonValue(list.at(place)));
-        const QJsonObject json = list.at(place).toObject();
+    for (qsizetype index = 0; index < list.size(); ++index) {
+        if (!list.at(index).isObject())
+            return u"device %1 must be an object, but is %2"_s.arg(index + 1).arg(
+                shownJsonValue(list.at(index)));
+        const QJsonObject json = list.at(index).toObject();
         SceneDevice device;
-        const QString title = deviceTitle(place, json);
+        const QString title = deviceTitle(index, json);
         QString error = readDevice(json, title, device);
         if (!error.isEmpty())
             return error;
-        const auto other = placeOfMac.constFind(device.mac);
-        if (other != placeOfMac.constEnd())
+        const auto other = indexOfMac.constFind(device.mac);
+        if (other != indexOfMac.constEnd())
             return u"%1: \"mac\" is that of device %2 already; it must be unique"_s.arg(title).arg(*other +
                                                                                                    1);
-        placeOfMac.insert(device.mac, place);
+        indexOfMac.insert(device.mac, index);
         devices.append(device);
     }
     return QString();
@@ -261,12 +262,12 @@ QString readScene(const QByteArray &json, Scene &scene)
     scene.description = keys.text(u"description"_s);
     scene.localAddress = keys.text(u"localAddress"_s, scene.localAddress);
     if (!isIpv4Address(scene.localAddress))
-        keys.complain(u"localAddress"_s, u"a dotted IPv4 address"_s);
+        keys.reportError(u"localAddress"_s, u"a dotted IPv4 address"_s);
     scene.localIpv6 = canonicalIpv6Address(keys.text(u"localIpv6"_s, scene.localIpv6));
     if (scene.localIpv6.isEmpty())
-        keys.complain(u"localIpv6"_s, u"an IPv6 address"_s);
+        keys.reportError(u"localIpv6"_s, u"an IPv6 address"_s);
     if (!document.object().contains(u"devices"))
-        keys.complain(u"devices"_s, u"a list"_s);
+        keys.reportError(u"devices"_s, u"a list"_s);
     const QJsonArray devices = keys.list(u"devices"_s);
     keys.rejectOtherKeys();
     return keys.error().isEmpty() ? readDevices(devices, scene.devices) : keys.error();
@@ -277,22 +278,22 @@ QString readScene(const QByteArray &json, Scene &scene)
 std::optional<Scene> SceneReader::read(const QByteArray &json, QString *error)
 {
     Scene scene;
-    const QString complaint = readScene(json, scene);
+    const QString problem = readScene(json, scene);
     if (error)
-        *error = complaint;
-    return complaint.isEmpty() ? std::optional(scene) : std::nullopt;
+        *error = problem;
+    return problem.isEmpty() ? std::optional(scene) : std::nullopt;
 }
 
-/// Far more than 20,000 devices need, in bytes.
+/// In bytes; 20,000 devices need much less.
 constexpr qint64 maximumSceneFileSize = qint64{256} * 1024 * 1024;
 
 std::optional<Scene> SceneReader::readFile(const QString &path, QString *error)
 {
     QFile file(path);
     if (QFileInfo::exists(path) && !path.startsWith(u':') && !QFileInfo(path).isFile()) {
-        // Opening a pipe waits for a writer, and a device has no end to read to.
+        // Opening a pipe waits for a writer, and a device file has no end.
         if (error)
-            *error = u"%1: is no file"_s.arg(path);
+            *error = u"%1: is not a file"_s.arg(path);
         return std::nullopt;
     }
     if (!file.open(QIODevice::ReadOnly)) {

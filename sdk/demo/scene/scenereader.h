@@ -13,11 +13,11 @@ namespace sdk::demo {
 class SceneReader
 {
 public:
-    /// Reads a scene. When something is wrong with it, returns nothing and sets `error` (may be null) to a
-    /// sentence that names the device and the key, and says what was expected.
+    /// Reads a scene. For an invalid scene, returns nullopt and sets `error` (may be null) to a sentence with
+    /// the device, the key and the expected value.
     [[nodiscard]] static std::optional<Scene> read(const QByteArray &json, QString *error);
 
-    /// The same from a file or resource; the sentence begins with its name.
+    /// The same from a file or resource; the sentence starts with its name.
     [[nodiscard]] static std::optional<Scene> readFile(const QString &path, QString *error);
 };
 

@@ -25,20 +25,20 @@ AnswerDelivery::AnswerDelivery(SiteState &site, AnswerReceiver receiver, std::ve
 
 AnswerDelivery::~AnswerDelivery()
 {
-    finishAtOnce();
+    finishImmediately();
 }
 
 bool AnswerDelivery::start()
 {
     const std::size_t threads = std::min(mostThreads, m_plan.size());
     try {
-        for (std::size_t place = 0; place < threads; ++place) {
+        for (std::size_t index = 0; index < threads; ++index) {
             m_threads.emplace_back(
-                [this, place, threads](const std::stop_token &stop) { deliverShare(place, threads, stop); });
+                [this, index, threads](const std::stop_token &stop) { deliverShare(index, threads, stop); });
         }
     } catch (const std::system_error &error) {
         qCWarning(demoLog, "No thread for the answers of a search: %s", error.what());
-        finishAtOnce();
+        finishImmediately();
         return false;
     }
     return true;
@@ -54,7 +54,7 @@ void AnswerDelivery::finishDue()
     finishBy(m_site.clock().now());
 }
 
-void AnswerDelivery::finishAtOnce()
+void AnswerDelivery::finishImmediately()
 {
     finishBy(std::numeric_limits<std::int64_t>::min());
 }
@@ -77,11 +77,11 @@ bool AnswerDelivery::isInsideHandler()
     return insideHandler;
 }
 
-void AnswerDelivery::deliverShare(std::size_t firstPlace, std::size_t step, const std::stop_token &stop)
+void AnswerDelivery::deliverShare(std::size_t firstIndex, std::size_t step, const std::stop_token &stop)
 {
     giveWayToWindow();
-    for (std::size_t place = firstPlace; place < m_plan.size(); place += step) {
-        const PlannedAnswer &planned = m_plan[place];
+    for (std::size_t index = firstIndex; index < m_plan.size(); index += step) {
+        const PlannedAnswer &planned = m_plan[index];
         m_site.clock().waitUntil(planned.time, stop);
         if (planned.time > m_lastTime)
             return;
@@ -91,7 +91,7 @@ void AnswerDelivery::deliverShare(std::size_t firstPlace, std::size_t step, cons
 
 void AnswerDelivery::deliver(const PlannedAnswer &planned)
 {
-    // The device may have changed, or gone, since the search began: it answers as it is now.
+    // The device may have changed or been removed since the start of the search. Its current state counts.
     const std::optional<SceneDevice> device = m_site.device(planned.mac);
     if (!device || device->hasFault(Fault::NoAnswer))
         return;

@@ -1,4 +1,4 @@
-// Brings the planned answers of one search to its handler, on threads of their own.
+// Delivers the planned responses of one search to its handler, on separate threads.
 #pragma once
 
 #include "sdk/demo/search/answerplan.h"
@@ -12,18 +12,19 @@
 
 namespace sdk::demo {
 
-/// Who receives the answers of a search.
+/// The receiver of a search's responses.
 struct AnswerReceiver
 {
     SearchAnswerHandler handler = nullptr;
     void *user = nullptr;
     std::int64_t searchHandle = 0;
-    QString localAddress; ///< asked to search from; empty or "0.0.0.0" for every address of this computer
-    SearchTally *tally = nullptr; ///< counts the answers; outlives the delivery
+    QString localAddress; ///< source address of the search; empty or "0.0.0.0" for every address of this host
+    SearchTally *tally = nullptr; ///< counts the responses; outlives the delivery
 };
 
-/// Answers run on up to four threads at a time, each waiting on the site's clock for its share. One of the
-/// finish... functions ends them all; the destructor does as finishAtOnce. None may be called from a handler.
+/// Up to four threads deliver the responses, each a share of them, at the times of the site's clock. One of
+/// the finish... functions ends all threads; the destructor calls finishImmediately. None may be called from
+/// a handler.
 class AnswerDelivery
 {
 public:
@@ -33,24 +34,24 @@ public:
     AnswerDelivery(const AnswerDelivery &) = delete;
     AnswerDelivery &operator=(const AnswerDelivery &) = delete;
 
-    /// Starts the threads; a delivery starts once. Returns false when the computer gives none.
+    /// Starts the threads. A delivery starts once. Returns false if the host provides no thread.
     [[nodiscard]] bool start();
 
-    /// Waits until the whole plan is delivered.
+    /// Waits until the complete plan is delivered.
     void finishPlan();
 
-    /// Delivers what is due by now, and nothing after it: what a stopped search has found depends on the
-    /// clock alone, not on how fast threads are.
+    /// Delivers the responses that are due, and none after them: the result of a stopped search depends only
+    /// on the clock, not on the speed of the threads.
     void finishDue();
 
     /// Waits for running handlers only.
-    void finishAtOnce();
+    void finishImmediately();
 
     /// Whether the calling thread is inside a handler of any delivery of this process.
     [[nodiscard]] static bool isInsideHandler();
 
 private:
-    void deliverShare(std::size_t firstPlace, std::size_t step, const std::stop_token &stop);
+    void deliverShare(std::size_t firstIndex, std::size_t step, const std::stop_token &stop);
     void deliver(const PlannedAnswer &planned);
     void finishBy(std::int64_t lastTime);
 

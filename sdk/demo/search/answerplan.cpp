@@ -57,7 +57,7 @@ std::vector<PlannedAnswer> planAddressSearch(const SiteState &site, SearchKind k
     site.visitDevicesAt(addresses.values(), [&](const SceneDevice &device) {
         if (!answersKind(device, kind, start))
             return;
-        // Nothing can be sent to a device that has no address yet.
+        // A device without an address receives no packets.
         if (device.address != QLatin1String("0.0.0.0") && addresses.contains(device.address))
             plan(answers, device, 4, start);
         if (addresses.contains(device.ipv6))

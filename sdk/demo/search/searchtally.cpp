@@ -11,7 +11,7 @@ namespace {
 
 constexpr int prefixLength = 24;
 
-/// The part of a dotted address that names its network.
+/// The network part of a dotted address.
 QStringView networkOf(QStringView address)
 {
     return address.left(address.lastIndexOf(QLatin1Char('.')));
@@ -45,7 +45,7 @@ void SearchTally::noteLocalAnswer(const QString &mac, const QString &address)
     const std::scoped_lock lock(m_mutex);
     ++m_messages;
     QString &known = m_found[mac];
-    if (known.isEmpty() || isIpv4Address(address)) // a device may answer over both families
+    if (known.isEmpty() || isIpv4Address(address)) // a device may respond over both families
         known = address;
 }
 

@@ -1,4 +1,4 @@
-// What the searches of a simulated site have sent and received, for a report.
+// Counts the packets of a simulated site's searches, for the search report.
 #pragma once
 
 #include "sdk/searchreportblocks.h"
@@ -15,18 +15,18 @@ namespace sdk::demo {
 class SearchTally
 {
 public:
-    /// Begins again, as a search does.
+    /// Clears the counters at the start of a search.
     void clear();
 
     void noteRequest();
     void noteAskedAddresses(const QSet<QString> &addresses);
 
-    /// An answer to a local search.
+    /// A response to a local search.
     void noteLocalAnswer(const QString &mac, const QString &address);
-    /// An answer to the search of an address: counted once for each time that the address is asked.
+    /// A response to the search of an address. It is counted once for each request to the address.
     void noteAddressAnswer(const QString &address);
 
-    /// Fills a report of one interface with `localAddress`, to which the site is connected.
+    /// Fills a report of one interface, which has `localAddress`.
     void fill(SearchReport &report, const QString &localAddress) const;
 
 private:
@@ -35,8 +35,8 @@ private:
     std::uint32_t m_messages = 0;
     std::uint32_t m_askedAddresses = 0;
     std::uint32_t m_answeredAddresses = 0;
-    QSet<QString> m_answered;        ///< addresses, since each was last asked
-    QHash<QString, QString> m_found; ///< by MAC: the addresses of the devices that local searches have found
+    QSet<QString> m_answered;        ///< addresses that have responded to their latest request
+    QHash<QString, QString> m_found; ///< addresses of the devices found by local searches, by MAC
 };
 
 } // namespace sdk::demo

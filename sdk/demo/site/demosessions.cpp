@@ -16,7 +16,7 @@ bool DemoSessions::close(std::int64_t handle)
 {
     std::unique_lock lock(m_mutex);
     const auto closed = m_sessions.extract(handle);
-    lock.unlock(); // what is stopped may ask for its session
+    lock.unlock(); // a stop callback may look its session up
     return closed && closed.mapped().calls.request_stop();
 }
 

@@ -1,4 +1,4 @@
-// The sessions that are open.
+// The open sessions.
 #pragma once
 
 #include <QString>
@@ -11,26 +11,26 @@
 
 namespace sdk::demo {
 
-/// What a session leads to.
+/// The device and the login of a session.
 struct DemoSession
 {
     QString mac;
-    int localPort = 0;     ///< of the port agent, 0 for a session that goes to the device directly
-    bool hasEnded = false; ///< the device has rebooted since
+    int localPort = 0;     ///< of the port agent; 0 for a direct session
+    bool hasEnded = false; ///< the device has rebooted since the login
     QString account = {};
-    QString password = {}; ///< as the device took it
+    QString password = {}; ///< accepted by the device
     std::int64_t handle = 0;
-    std::stop_token calls = {}; ///< stopped when the calls that run now are to end
+    std::stop_token calls = {}; ///< stopped by the cancellation of the running calls
 };
 
-/// Thread-safe. A handle is never given twice.
+/// Thread-safe. Handles are not reused.
 class DemoSessions
 {
 public:
     /// Returns the handle.
     std::int64_t open(const DemoSession &session);
 
-    // These return false for a handle that is no session.
+    // These return false for an unknown handle.
 
     /// Stops the running calls as well.
     bool close(std::int64_t handle);
@@ -38,10 +38,10 @@ public:
 
     void closeAll();
 
-    /// The account of the session has got another password by it.
+    /// Updates the password of a session that has changed it.
     void setPassword(std::int64_t handle, const QString &password);
 
-    /// The device accepts its sessions no longer; they are still to be closed.
+    /// The device rejects its sessions from now on. The caller still has to close them.
     void endSessionsTo(const QString &mac);
     [[nodiscard]] std::optional<DemoSession> session(std::int64_t handle) const;
 
@@ -53,7 +53,7 @@ private:
     };
 
     mutable std::mutex m_mutex;
-    // Above 32 bits, so that a caller that cuts a handle is found out.
+    // Above 32 bits, so that a truncated handle is detected.
     std::int64_t m_lastHandle = std::int64_t(1) << 32;
     std::map<std::int64_t, Entry> m_sessions;
 };

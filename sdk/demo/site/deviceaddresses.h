@@ -1,4 +1,4 @@
-// Which devices of a site have which address.
+// The index of devices by address.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -16,7 +16,7 @@ public:
     void add(const SceneDevice &device);
     void remove(const SceneDevice &device);
 
-    /// MACs of the devices that have an IPv4 or IPv6 address, in any order; several when they are in
+    /// MACs of the devices with an IPv4 or IPv6 address, in any order. There are several in an address
     /// conflict.
     [[nodiscard]] QStringList macsAt(const QString &address) const { return m_macs.value(address); }
 

@@ -8,7 +8,7 @@ namespace sdk::demo {
 
 namespace {
 
-// The last numbers of the addresses that the network gives by DHCP.
+// The range of the last octet of the DHCP addresses.
 constexpr int firstLease = 220;
 constexpr int lastLease = 239;
 
@@ -63,7 +63,7 @@ NetError changeAddress(SceneDevice &device, const DeviceAddresses &addresses,
 
 } // namespace
 
-NetError giveFirstAccount(SiteState &site, const QString &mac, const SceneAccount &account)
+NetError initialiseDevice(SiteState &site, const QString &mac, const SceneAccount &account)
 {
     NetError error = NetError::ConnectTimeout;
     site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &) {
@@ -81,7 +81,7 @@ NetError giveFirstAccount(SiteState &site, const QString &mac, const SceneAccoun
     return error;
 }
 
-NetError giveAddress(SiteState &site, const QString &mac, const SearchDeviceInformation &wanted)
+NetError changeDeviceAddress(SiteState &site, const QString &mac, const SearchDeviceInformation &wanted)
 {
     NetError error = NetError::ConnectTimeout;
     const QString localAddress = site.localAddress();

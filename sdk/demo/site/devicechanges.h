@@ -1,4 +1,4 @@
-// Changes that a device makes to itself on requests without a login.
+// Changes of a device by requests without a login.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -8,15 +8,14 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Gives the device its first account, after which it is initialised. Refuses with NotSupported a device that
-/// is initialised already, or an account without a name or password; with ConnectFailed by its fault.
-[[nodiscard]] NetError giveFirstAccount(SiteState &site, const QString &mac, const SceneAccount &account);
+/// Initialises the device with its first account. Returns NotSupported for an initialised device and for an
+/// account without a name or password, ConnectFailed for a device with Fault::RefusesInitialisation.
+[[nodiscard]] NetError initialiseDevice(SiteState &site, const QString &mac, const SceneAccount &account);
 
-/// The addresses that `wanted` holds, or with DHCP one of the twenty that the network has to give. A device
-/// that has such a lease keeps it; one that finds none left has no address. Refuses with NotSupported a
-/// device that waits for its first password or speaks no IPv4, and what is no address; with ConnectFailed by
-/// its fault.
-[[nodiscard]] NetError giveAddress(SiteState &site, const QString &mac,
-                                   const SearchDeviceInformation &wanted);
+/// Sets the addresses in `wanted`, or with DHCP a free one of twenty addresses. A device with a lease keeps
+/// it. A device without a free address gets 0.0.0.0. Returns NotSupported for an uninitialised device, a
+/// device without IPv4 and an invalid address, Refused for a device with Fault::RefusesAddressChange.
+[[nodiscard]] NetError changeDeviceAddress(SiteState &site, const QString &mac,
+                                           const SearchDeviceInformation &wanted);
 
 } // namespace sdk::demo

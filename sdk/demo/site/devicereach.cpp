@@ -30,7 +30,7 @@ DeviceReach reachThroughTunnel(const SiteState &site, const Tunnel &tunnel, int 
         return {};
     if (tunnel.devicePort != portOf(*device, kind) || device->hasFault(Fault::RefusesConnections))
         return {DeviceReach::Kind::Refuses};
-    return {DeviceReach::Kind::Answers, {tunnel.mac, localPort}};
+    return {DeviceReach::Kind::Responds, {tunnel.mac, localPort}};
 }
 
 } // namespace
@@ -46,16 +46,16 @@ DeviceReach reach(const SiteState &site, const QString &address, int port, Devic
     const bool isIpv4 = isIpv4Address(address) && address != QLatin1String("0.0.0.0");
     DeviceReach found;
     if (isLoopback)
-        found.kind = DeviceReach::Kind::Refuses; // this computer is always there
+        found.kind = DeviceReach::Kind::Refuses; // this host is always online
     const std::int64_t now = site.clock().now();
     const QString &wanted = ipv6.isEmpty() ? address : ipv6;
     if (ipv6.isEmpty() && !isIpv4)
         return found;
     site.visitDevicesAt({wanted}, [&](const SceneDevice &device) {
-        if (device.isRemote || !device.isListening(now) || found.kind == DeviceReach::Kind::Answers)
+        if (device.isRemote || !device.isListening(now) || found.kind == DeviceReach::Kind::Responds)
             return;
         if (port != 0 && portOf(device, kind) == port && !device.hasFault(Fault::RefusesConnections))
-            found = {DeviceReach::Kind::Answers, {device.mac, 0}};
+            found = {DeviceReach::Kind::Responds, {device.mac, 0}};
         else
             found.kind = DeviceReach::Kind::Refuses;
     });
@@ -71,7 +71,7 @@ bool isReachable(const SiteState &site, const DemoSession &session)
     const std::optional<Tunnel> tunnel = site.tunnel(session.localPort);
     return tunnel && tunnel->mac == session.mac &&
            reachThroughTunnel(site, *tunnel, session.localPort, DevicePort::Service).kind ==
-               DeviceReach::Kind::Answers;
+               DeviceReach::Kind::Responds;
 }
 
 } // namespace sdk::demo

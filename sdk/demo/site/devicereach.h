@@ -1,4 +1,4 @@
-// What answers at an address and port.
+// The device at an address and port.
 #pragma once
 
 #include "sdk/demo/site/demosessions.h"
@@ -7,7 +7,7 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Which of a device's ports is meant.
+/// A port of a device.
 enum class DevicePort
 {
     Service,
@@ -19,20 +19,20 @@ struct DeviceReach
 {
     enum class Kind
     {
-        Answers, ///< `session` leads to the device
-        Refuses, ///< there is somebody, but not at this port
-        Silent,  ///< nothing answers
+        Responds, ///< `session` leads to the device
+        Refuses,  ///< the host exists, but the port is closed
+        Silent,   ///< there is no response
     };
     Kind kind = Kind::Silent;
     DemoSession session = {};
 };
 
-/// Looks for the first device of the scene at `address` (IPv4 or IPv6), or behind the local port of the port
-/// agent when the address is 127.0.0.1.
+/// Finds the first device of the scene at `address` (IPv4 or IPv6), or behind the local port of the port
+/// agent if the address is 127.0.0.1.
 [[nodiscard]] DeviceReach reach(const SiteState &site, const QString &address, int port,
                                 DevicePort kind = DevicePort::Service);
 
-/// Whether the device of `session` responds where the session has reached it.
+/// Whether the device of `session` still responds at the address or local port of the session.
 [[nodiscard]] bool isReachable(const SiteState &site, const DemoSession &session);
 
 } // namespace sdk::demo

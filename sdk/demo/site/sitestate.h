@@ -3,7 +3,7 @@
 
 #include "sdk/demo/scene/scene.h"
 #include "sdk/demo/site/deviceaddresses.h"
-#include "sdk/demo/site/requestrecord.h"
+#include "sdk/demo/site/requestlog.h"
 
 #include <QHash>
 #include <QStringList>
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] QString sceneTitle() const { return m_title; }
     [[nodiscard]] QString sceneDescription() const { return m_description; }
     [[nodiscard]] Clock &clock() const { return *m_clock; }
-    [[nodiscard]] RequestRecord &requests() { return m_requests; }
+    [[nodiscard]] RequestLog &requests() { return m_requests; }
 
     /// Copies, in the order of the scene.
     [[nodiscard]] QList<SceneDevice> devices() const;
@@ -88,7 +88,7 @@ private:
     const QString m_localAddress;
     const QString m_localIpv6;
     const std::shared_ptr<Clock> m_clock;
-    RequestRecord m_requests;
+    RequestLog m_requests;
     mutable std::mutex m_mutex;
     QList<SceneDevice> m_devices;
     QHash<QString, qsizetype> m_indexOfMac;

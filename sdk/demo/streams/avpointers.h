@@ -1,4 +1,4 @@
-// Owners of what the codec libraries allocate, and what passes between the simulated site's encoders.
+// Owners of objects of the codec libraries, and the packets that the encoders exchange.
 #pragma once
 
 #include "sdk/streams/avpointers.h"
@@ -13,11 +13,11 @@ using streams::AvPointer;
 using streams::pictureTrack;
 using streams::soundTrack;
 
-/// Encoded pictures and sound of a stream, in the order in which they are sent: each has the time base of its
-/// encoder, and pictureTrack or soundTrack as its stream's index.
+/// Encoded video and audio of a stream in the order of sending. Each packet has the time base of its encoder,
+/// and pictureTrack or soundTrack as its stream index.
 using EncodedPackets = std::vector<AvPointer<AVPacket>>;
 
-/// For AVCodecContext::log_level_offset: encoders tell of everything that they do as if somebody had asked.
+/// For AVCodecContext::log_level_offset: it suppresses the encoders' informational messages.
 inline constexpr int onlyErrors = AV_LOG_INFO - AV_LOG_ERROR;
 
 } // namespace sdk::demo

@@ -7,7 +7,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// Rows from the top; of each, the bit of the value 16 is the leftmost dot.
+/// Rows from the top. In each row, the bit with the value 16 is the leftmost dot.
 struct Letter
 {
     char name;
@@ -43,7 +43,7 @@ constexpr Letter unknownLetter = {'?', {31, 17, 17, 17, 17, 17, 31}};
 
 const Letter &letterOf(QChar character)
 {
-    const char name = character.toUpper().toLatin1(); // 0 for what is not among its letters
+    const char name = character.toUpper().toLatin1(); // 0 outside Latin-1
     const auto found = std::find_if(letters.begin(), letters.end(),
                                     [name](const Letter &letter) { return letter.name == name; });
     return found == letters.end() ? unknownLetter : *found;

@@ -1,4 +1,4 @@
-// Letters of dots, for texts in pictures of a program that has no fonts, and on any thread.
+// A dot matrix font for images. It needs no fonts of the system and works on any thread.
 #pragma once
 
 #include <QPainter>
@@ -6,11 +6,11 @@
 
 namespace sdk::demo {
 
-inline constexpr int bitmapLetterWidth = 6; ///< in dots, with the gap to the next letter
+inline constexpr int bitmapLetterWidth = 6; ///< in dots, with the gap to the next character
 inline constexpr int bitmapLetterHeight = 7;
 
 /// Draws `text` with its upper left corner at `corner`, each dot `dot` pixels wide, in the colour of the
-/// painter's brush. Small letters are drawn as capitals, and letters beyond those of ASCII as a box.
+/// painter's brush. Lower case is drawn as upper case, and characters outside ASCII as a box.
 void drawBitmapText(QPainter &painter, QPoint corner, int dot, const QString &text);
 
 } // namespace sdk::demo

@@ -7,11 +7,11 @@ namespace sdk::demo {
 
 QByteArray cardJpeg(const TestCard &card, std::int64_t time, int brightness)
 {
-    QImage image = card.still().picture.copy();
+    QImage image = card.still().image.copy();
     QPainter painter(&image);
-    const QList<TestCard::Piece> pieces = card.moving(time);
-    for (const TestCard::Piece &piece : pieces)
-        painter.drawImage(piece.corner, piece.picture);
+    const QList<TestCard::Region> regions = card.moving(time);
+    for (const TestCard::Region &region : regions)
+        painter.drawImage(region.corner, region.image);
     constexpr int usual = 50; // percent
     constexpr int full = 255;
     const int veil = (brightness - usual) * full / usual;

@@ -1,4 +1,4 @@
-// A test card as a still picture.
+// A test card as a still image.
 #pragma once
 
 #include "sdk/demo/streams/testcard.h"
@@ -7,8 +7,8 @@
 
 namespace sdk::demo {
 
-/// The card as it looks at `time` (ms since 1970) of the device's own clock, as a JPEG file. A brightness of
-/// 50 percent leaves the colours as they are. Empty when it cannot be encoded.
+/// The card at `time` (ms since 1970) of the device's clock, as a JPEG file. A brightness of 50 percent
+/// leaves the colours unchanged. Empty on failure.
 [[nodiscard]] QByteArray cardJpeg(const TestCard &card, std::int64_t time, int brightness);
 
 } // namespace sdk::demo

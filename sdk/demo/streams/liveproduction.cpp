@@ -10,7 +10,7 @@ namespace sdk::demo {
 
 namespace {
 
-/// Devices have a tint of their own, and neighbouring channels of one lie far apart.
+/// The tint depends on the device. Neighbouring channels have distant tints.
 int hueOf(const SceneDevice &device, std::int32_t channel)
 {
     constexpr std::int64_t circle = 360;
@@ -30,7 +30,7 @@ TestCardTexts textsOf(const SceneDevice &device, std::int32_t channel, LiveStrea
                              QString::number(settings.width), QString::number(settings.height), codec)};
 }
 
-/// What the encoder puts before its packets.
+/// The extra data of the encoder: its parameter sets.
 QByteArray headOf(const AVCodecContext &context)
 {
     return {reinterpret_cast<const char *>(context.extradata), context.extradata_size};
@@ -45,19 +45,19 @@ TestCard testCardOf(const SceneDevice &device, std::int32_t channel, LiveStreamK
         {settings.width, settings.height}, hueOf(device, channel), textsOf(device, channel, kind, settings)};
 }
 
-std::unique_ptr<LiveProduction> LiveProduction::begin(const SceneDevice &device, std::int32_t channel,
+std::unique_ptr<LiveProduction> LiveProduction::start(const SceneDevice &device, std::int32_t channel,
                                                       LiveStreamKind kind, const StreamSettings &settings)
 {
     TestCard card = testCardOf(device, channel, kind, settings);
     // Not make_unique: the constructor is private.
     std::unique_ptr<LiveProduction> production(new LiveProduction(settings, std::move(card)));
-    production->m_encoder = PictureEncoder::open(settings);
+    production->m_encoder = VideoEncoder::open(settings);
     if (production->m_encoder)
-        production->m_picture = CardPicture::create(production->m_encoder->context());
-    if (!production->m_picture || !production->m_picture->paint(production->m_card.still()))
+        production->m_frame = CardFrame::create(production->m_encoder->context());
+    if (!production->m_frame || !production->m_frame->paint(production->m_card.still()))
         return nullptr;
     if (settings.sound != SoundCodec::None)
-        production->m_sound = ToneEncoder::open(settings, ToneEncoder::pitchOf(channel));
+        production->m_sound = AudioEncoder::open(settings, AudioEncoder::pitchOf(channel));
     return production;
 }
 
@@ -80,18 +80,18 @@ std::unique_ptr<streams::MatroskaWriter> LiveProduction::openWriter() const
     return writer;
 }
 
-bool LiveProduction::makePicture(std::int64_t number, std::int64_t deviceTime, bool isKey,
+bool LiveProduction::encodeFrame(std::int64_t number, std::int64_t deviceTime, bool isKey,
                                  EncodedPackets &packets)
 {
     const double seconds = static_cast<double>(number) / m_settings.frameRate;
     if (m_sound && !m_sound->encodeUntil(seconds, packets))
         return false;
-    const QList<TestCard::Piece> pieces = m_card.moving(deviceTime);
-    for (const TestCard::Piece &piece : pieces) {
-        if (!m_picture->paint(piece))
+    const QList<TestCard::Region> regions = m_card.moving(deviceTime);
+    for (const TestCard::Region &region : regions) {
+        if (!m_frame->paint(region))
             return false;
     }
-    return m_encoder->encode(m_picture->frame(), number, isKey, packets);
+    return m_encoder->encode(m_frame->frame(), number, isKey, packets);
 }
 
 } // namespace sdk::demo

@@ -20,16 +20,16 @@ constexpr double millisecondsOfSecond = 1000;
 
 std::int64_t LiveSource::Schedule::due() const
 {
-    return start + std::llround(static_cast<double>(picture) * millisecondsOfSecond / frameRate);
+    return start + std::llround(static_cast<double>(frame) * millisecondsOfSecond / frameRate);
 }
 
 void LiveSource::Schedule::advance(std::int64_t now)
 {
-    ++picture;
+    ++frame;
     const double period = millisecondsOfSecond / frameRate;
     const std::int64_t late = now - due();
     if (late > longestDelay.count())
-        picture += static_cast<std::int64_t>(static_cast<double>(late) / period);
+        frame += static_cast<std::int64_t>(static_cast<double>(late) / period);
     else if (static_cast<double>(-late) > period + static_cast<double>(longestDelay.count()))
         start += late; // the clock was set back
 }
@@ -94,23 +94,24 @@ bool LiveSource::makeDue(std::unique_ptr<LiveProduction> &production, Schedule &
     const std::optional<StreamSettings> settings = streamSettings(*device, m_order.channel, m_order.kind);
     if (settings && (!production || production->settings() != *settings)) {
         schedule = {schedule.due(), settings->frameRate, 0};
-        production = LiveProduction::begin(*device, m_order.channel, m_order.kind, *settings);
+        production = LiveProduction::start(*device, m_order.channel, m_order.kind, *settings);
         for (const std::shared_ptr<LiveStream> &stream : allStreams())
-            stream->beginAnew();
+            stream->restart();
     }
-    const bool canGoOn = settings && production;
+    const bool canContinue = settings && production;
     const std::int64_t due = schedule.due();
     const Streams sent = streams;
-    std::erase_if(streams,
-                  [due](const std::shared_ptr<LiveStream> &stream) { return stream->order().begins > due; });
-    if (canGoOn && (streams.empty() || makePicture(*production, schedule, *device, streams)))
+    std::erase_if(streams, [due](const std::shared_ptr<LiveStream> &stream) {
+        return stream->order().startTime > due;
+    });
+    if (canContinue && (streams.empty() || encodeFrame(*production, schedule, *device, streams)))
         return true;
     for (const std::shared_ptr<LiveStream> &stream : sent)
         stream->end(settings ? StreamEndReason::Failed : StreamEndReason::EndedByDevice);
     return false;
 }
 
-bool LiveSource::makePicture(LiveProduction &production, const Schedule &schedule, const SceneDevice &device,
+bool LiveSource::encodeFrame(LiveProduction &production, const Schedule &schedule, const SceneDevice &device,
                              const Streams &streams) const
 {
     bool isKey = false;
@@ -118,7 +119,7 @@ bool LiveSource::makePicture(LiveProduction &production, const Schedule &schedul
         isKey = stream->prepare(production) || isKey;
     EncodedPackets packets;
     const std::int64_t deviceTime = schedule.due() + device.maintenance.clockAhead.count();
-    if (!production.makePicture(schedule.picture, deviceTime, isKey, packets)) {
+    if (!production.encodeFrame(schedule.frame, deviceTime, isKey, packets)) {
         qCWarning(demoLog, "A live stream of %ls cannot be encoded", qUtf16Printable(device.mac));
         return false;
     }
@@ -148,7 +149,7 @@ std::optional<StreamEndReason> LiveSource::endOf(const LiveStream &stream, const
     if (device->isUninitialised())
         return StreamEndReason::Refused;
     const std::optional<FaultSetting> drop = device->fault(Fault::DropsStreamAfter);
-    if (drop && stream.pictures() >= drop->number)
+    if (drop && stream.frames() >= drop->number)
         return StreamEndReason::EndedByDevice;
     return std::nullopt;
 }

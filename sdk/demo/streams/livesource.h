@@ -1,4 +1,4 @@
-// What a channel of a simulated device streams, for everybody who watches it.
+// The source of a channel's live stream, for all of its viewers.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -16,17 +16,16 @@ namespace sdk::demo {
 class DemoSessions;
 class SiteState;
 
-/// One kind of stream of one channel. Has a thread of its own, on which pictures are made at the times of the
-/// site's clock, encoded once, and handed to one watcher after the other. Sleeps while nobody watches.
-/// Thread-safe.
+/// One kind of stream of one channel. A separate thread generates the frames at the times of the site's
+/// clock, encodes them once and passes them to each viewer. It sleeps without viewers. Thread-safe.
 class LiveSource
 {
 public:
-    /// Pictures that are later than this are left out, when the computer cannot keep up or the clock was
-    /// stepped far.
+    /// Frames with a longer delay are dropped, if the host is too slow or the clock was stepped far.
     static constexpr std::chrono::milliseconds longestDelay{200};
 
-    /// `site` and `sessions` must outlive the source. Throws std::system_error when there is no thread.
+    /// `site` and `sessions` must outlive the source. Throws std::system_error if the host provides no
+    /// thread.
     LiveSource(SiteState &site, const DemoSessions &sessions, LiveStreamOrder order);
     ~LiveSource();
     LiveSource(const LiveSource &) = delete;
@@ -35,38 +34,38 @@ public:
     void add(const std::shared_ptr<LiveStream> &stream);
     void remove(const std::shared_ptr<LiveStream> &stream);
 
-    /// To be called when a stream has got a handler.
+    /// To be called after a stream has got a handler.
     void wake();
 
 private:
     using Streams = std::vector<std::shared_ptr<LiveStream>>;
 
-    /// When pictures are due: their numbers count from the begin of a production.
+    /// The due times of frames. Indexes count from the start of a production.
     struct Schedule
     {
         /// On the site's clock.
         [[nodiscard]] std::int64_t due() const;
 
-        /// Goes to the next picture that is not too late at `now`.
+        /// Advances to the next frame that is not too late at `now`.
         void advance(std::int64_t now);
 
         std::int64_t start = 0;
         double frameRate = 1;
-        std::int64_t picture = 0; // the next one
+        std::int64_t frame = 0; // index of the next frame
     };
 
     void run(const std::stop_token &stop);
     [[nodiscard]] bool waitForWatcher(const std::stop_token &stop);
     void stream(const std::stop_token &stop);
 
-    /// Makes the picture that is due. Returns false when nobody is left to watch.
+    /// Generates the frame that is due. Returns false without viewers.
     [[nodiscard]] bool makeDue(std::unique_ptr<LiveProduction> &production, Schedule &schedule);
-    [[nodiscard]] bool makePicture(LiveProduction &production, const Schedule &schedule,
+    [[nodiscard]] bool encodeFrame(LiveProduction &production, const Schedule &schedule,
                                    const SceneDevice &device, const Streams &streams) const;
 
-    /// Those that get data or would, without those that the device does not send to any more: they end.
+    /// The streams with viewers. Ends the streams that the device no longer sends.
     [[nodiscard]] Streams servedStreams(const SceneDevice *device) const;
-    /// Why the device does not send to a stream any more; nothing while it does.
+    /// The reason for which the device ends a stream; nullopt while it sends.
     [[nodiscard]] std::optional<StreamEndReason> endOf(const LiveStream &stream,
                                                        const SceneDevice *device) const;
     [[nodiscard]] Streams allStreams() const;
@@ -77,7 +76,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable_any m_changed;
     Streams m_streams;
-    std::jthread m_thread; // last: it ends before what it uses
+    std::jthread m_thread; // last: it uses the other members
 };
 
 } // namespace sdk::demo

@@ -14,7 +14,7 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
 {
     const std::lock_guard lock(m_mutex);
     if (!m_handler && handler)
-        ++m_beginning;
+        ++m_restarts;
     m_handler = handler;
     m_user = user;
     m_hasHandler = handler != nullptr;
@@ -27,13 +27,13 @@ bool LiveStream::isInsideHandler()
 
 bool LiveStream::prepare(const LiveProduction &production)
 {
-    const bool isAsked = m_wantsKeyPicture.exchange(false);
+    const bool isAsked = m_isKeyFrameRequested.exchange(false);
     std::unique_lock lock(m_mutex);
-    const std::int64_t beginning = m_beginning;
+    const std::int64_t restarts = m_restarts;
     lock.unlock();
-    if (m_writer && m_sentBeginning == beginning)
+    if (m_writer && m_sentRestarts == restarts)
         return isAsked;
-    m_sentBeginning = beginning;
+    m_sentRestarts = restarts;
     m_writer = production.openWriter();
     return true;
 }
@@ -42,11 +42,11 @@ void LiveStream::send(const EncodedPackets &packets)
 {
     for (const AvPointer<AVPacket> &packet : packets) {
         if (!m_writer || !m_writer->write(*packet)) {
-            beginAnew();
+            restart();
             return;
         }
     }
-    ++m_pictures;
+    ++m_frames;
     deliver(m_writer->takeBytes());
 }
 
@@ -60,12 +60,12 @@ void LiveStream::end(StreamEndReason reason)
 void LiveStream::deliver(std::span<const std::uint8_t> bytes)
 {
     while (!bytes.empty()) {
-        const std::span<const std::uint8_t> piece = bytes.first(std::min(bytes.size(), largestPiece));
-        bytes = bytes.subspan(piece.size());
+        const std::span<const std::uint8_t> chunk = bytes.first(std::min(bytes.size(), maximumChunk));
+        bytes = bytes.subspan(chunk.size());
         const std::lock_guard lock(m_mutex);
-        if (!m_handler || m_beginning != m_sentBeginning)
+        if (!m_handler || m_restarts != m_sentRestarts)
             return;
-        call(RealDataType::Stream, piece, 0);
+        call(RealDataType::Stream, chunk, 0);
     }
 }
 

@@ -59,13 +59,13 @@ bool LiveStreams::setHandler(std::int64_t handle, RealDataHandler handler, void 
     return true;
 }
 
-bool LiveStreams::askForKeyPicture(std::int64_t handle)
+bool LiveStreams::requestKeyFrame(std::int64_t handle)
 {
     const std::lock_guard lock(m_mutex);
     const auto found = m_entries.find(handle);
     if (found == m_entries.end())
         return false;
-    found->second.stream->askForKeyPicture();
+    found->second.stream->requestKeyFrame();
     return true;
 }
 
@@ -88,10 +88,10 @@ void LiveStreams::closeAllOf(std::int64_t loginHandle)
     Entries closed;
     {
         const std::lock_guard lock(m_mutex);
-        for (auto place = m_entries.begin(); place != m_entries.end();) {
-            const auto here = place++;
-            if (here->second.stream->order().loginHandle == loginHandle)
-                closed.insert(m_entries.extract(here));
+        for (auto next = m_entries.begin(); next != m_entries.end();) {
+            const auto current = next++;
+            if (current->second.stream->order().loginHandle == loginHandle)
+                closed.insert(m_entries.extract(current));
         }
     }
     close(closed);
@@ -107,8 +107,8 @@ void LiveStreams::closeAll()
     close(closed);
 }
 
-/// Without the lock: it waits for handlers. So do its callers, whose entries may be the last owners of a
-/// source and wait for its thread.
+/// Called without the lock: it waits for handlers. Its callers destroy their entries without the lock too: an
+/// entry may be the last owner of a source, whose destructor waits for its thread.
 void LiveStreams::close(const Entries &entries)
 {
     for (const auto &[handle, entry] : entries) {

@@ -1,4 +1,4 @@
-// The live streams that are open.
+// The open live streams.
 #pragma once
 
 #include "sdk/demo/streams/livesource.h"
@@ -11,27 +11,28 @@
 
 namespace sdk::demo {
 
-/// Thread-safe. A handle is never given twice. Streams of the same channel and kind share a source, which
-/// ends with the last of them.
+/// Thread-safe. Handles are not reused. Streams of the same channel and kind share a source, which ends with
+/// the last stream.
 class LiveStreams
 {
 public:
     /// Both must outlive the streams.
     LiveStreams(SiteState &site, const DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
-    /// Returns the handle, 0 when the computer gives no thread.
+    /// Returns the handle, 0 if the host provides no thread.
     [[nodiscard]] std::int64_t open(const LiveStreamOrder &order);
 
-    /// What the stream was opened with; nothing for a handle that is no stream.
+    /// The parameters of the stream; nullopt for an unknown handle.
     [[nodiscard]] std::optional<LiveStreamOrder> order(std::int64_t handle) const;
 
-    // These return false for a handle that is no stream.
+    // These return false for an unknown handle.
 
     /// As LiveStream::setHandler().
     bool setHandler(std::int64_t handle, RealDataHandler handler, void *user);
-    bool askForKeyPicture(std::int64_t handle);
+    bool requestKeyFrame(std::int64_t handle);
 
-    /// No handler of the stream runs after the return, so this and the following must not be called from one.
+    /// No handler of the stream runs after the return, so this and the following functions must not be called
+    /// from a handler.
     bool close(std::int64_t handle);
 
     void closeAllOf(std::int64_t loginHandle);
@@ -53,7 +54,7 @@ private:
     SiteState &m_site;
     const DemoSessions &m_sessions;
     mutable std::mutex m_mutex;
-    // Above 32 bits, as those of sessions, and apart from them.
+    // Above 32 bits, and apart from the handles of sessions.
     std::int64_t m_lastHandle = std::int64_t(1) << 40;
     Entries m_entries;
     std::map<SourceKey, std::weak_ptr<LiveSource>> m_sources;

@@ -29,14 +29,15 @@ constexpr int evenFloor(int number)
 void drawBars(QPainter &painter, const QRect &area, const QList<QColor> &colours)
 {
     const auto count = static_cast<int>(colours.size());
-    for (int place = 0; place < count; ++place) {
-        const int left = area.left() + area.width() * place / count;
-        const int right = area.left() + area.width() * (place + 1) / count;
-        painter.fillRect(left, area.top(), right - left, area.height(), colours.at(place));
+    for (int index = 0; index < count; ++index) {
+        const int left = area.left() + area.width() * index / count;
+        const int right = area.left() + area.width() * (index + 1) / count;
+        painter.fillRect(left, area.top(), right - left, area.height(), colours.at(index));
     }
 }
 
-/// Whether texts can be drawn with fonts. They may be used on any thread as long as there is the application.
+/// Whether strings can be drawn with fonts. Fonts may be used on any thread while the application object
+/// exists.
 bool hasFonts()
 {
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
@@ -52,7 +53,7 @@ TestCard::TestCard(QSize size, int hue, const TestCardTexts &texts)
     drawStill(texts);
 }
 
-QList<TestCard::Piece> TestCard::moving(std::int64_t time) const
+QList<TestCard::Region> TestCard::moving(std::int64_t time) const
 {
     return {hand(time), slider(time), clock(time)};
 }
@@ -69,15 +70,15 @@ void TestCard::drawStill(const TestCardTexts &texts)
     drawTexts(painter, texts);
 }
 
-/// The grid, the ring and the edge: they show whether the whole picture is seen, and in its proportions.
+/// The grid, the ring and the edge: they show whether the image is complete and has the right proportions.
 void TestCard::drawFrame(QPainter &painter) const
 {
     constexpr int cellsOfHeight = 12;
     const int width = m_still.width();
     const int height = m_still.height();
     const double cell = static_cast<double>(height) / cellsOfHeight;
-    for (int place = 1; place < cellsOfHeight; ++place)
-        painter.fillRect(0, qRound(place * cell), width, m_line, m_lightTint);
+    for (int index = 1; index < cellsOfHeight; ++index)
+        painter.fillRect(0, qRound(index * cell), width, m_line, m_lightTint);
     for (double x = std::fmod(width / 2.0, cell); x < width; x += cell)
         painter.fillRect(qRound(x), 0, m_line, height, m_lightTint);
 
@@ -87,9 +88,9 @@ void TestCard::drawFrame(QPainter &painter) const
     painter.setRenderHint(QPainter::Antialiasing, false);
 
     const int edge = std::max(2, height / 45);
-    for (int place = 0; place * edge * 2 < std::max(width, height); ++place) {
-        const QColor colour = place % 2 == 0 ? Qt::white : Qt::black;
-        const int start = place * edge * 2;
+    for (int index = 0; index * edge * 2 < std::max(width, height); ++index) {
+        const QColor colour = index % 2 == 0 ? Qt::white : Qt::black;
+        const int start = index * edge * 2;
         painter.fillRect(start, 0, edge * 2, edge, colour);
         painter.fillRect(start, height - edge, edge * 2, edge, colour);
         painter.fillRect(0, start, edge, edge * 2, colour);
@@ -115,7 +116,7 @@ void TestCard::drawColours(QPainter &painter) const
     drawBars(painter, stairs, greys);
 }
 
-/// Gratings of lines of one to four pixels, upright above and level below.
+/// Gratings of lines of one to four pixels, vertical above and horizontal below.
 void TestCard::drawFineLines(QPainter &painter) const
 {
     const QRect area = part(710, 380, 200, 240);
@@ -133,11 +134,11 @@ void TestCard::drawFineLines(QPainter &painter) const
     }
 }
 
-/// Rays that meet in a point: how far in they can be told apart is how sharp the picture is.
+/// Rays that meet in a point. The radius at which they blur shows the sharpness of the image.
 void TestCard::drawStar(QPainter &painter) const
 {
     constexpr int rays = 36;
-    constexpr int turn = 360 * 16; // as the painter counts
+    constexpr int turn = 360 * 16; // the unit of QPainter
     const QRect area = part(90, 380, 200, 240);
     const int side = std::min(area.width(), area.height());
     QRect star(0, 0, side, side);
@@ -160,9 +161,9 @@ void TestCard::drawScale(QPainter &painter) const
     painter.fillRect(area, paper);
     painter.setBrush(Qt::white);
     constexpr int parts = 100;
-    for (int place = 0; place <= parts; ++place) {
-        const int length = place % 10 == 0 ? area.height() : area.height() / (place % 5 == 0 ? 2 : 4);
-        const int x = area.left() + (area.width() - m_line) * place / parts;
+    for (int index = 0; index <= parts; ++index) {
+        const int length = index % 10 == 0 ? area.height() : area.height() / (index % 5 == 0 ? 2 : 4);
+        const int x = area.left() + (area.width() - m_line) * index / parts;
         painter.fillRect(x, area.bottom() + gap, m_line, length, Qt::white);
     }
 }
@@ -196,7 +197,7 @@ void TestCard::drawTexts(QPainter &painter, const TestCardTexts &texts) const
     drawStrip(painter, name, texts.name);
 }
 
-/// With a margin of a dot on both sides; a letter ends with a gap of one.
+/// With a margin of a dot on both sides; a character ends with a gap of one dot.
 int TestCard::bitmapWidth(const QString &text) const
 {
     return (static_cast<int>(std::min<qsizetype>(text.size(), longestText)) * bitmapLetterWidth + 1) * m_dot;
@@ -210,15 +211,15 @@ void TestCard::drawStrip(QPainter &painter, const QRect &area, const QString &te
     drawBitmapText(painter, area.topLeft() + QPoint(m_dot, top), m_dot, text.left(longestText));
 }
 
-/// A hand that goes round in four seconds, and draws a fan behind it.
-TestCard::Piece TestCard::hand(std::int64_t time) const
+/// A hand with a fan, one turn in four seconds.
+TestCard::Region TestCard::hand(std::int64_t time) const
 {
     constexpr int turnTime = 4000;
     constexpr int turn = 360 * 16;
     constexpr int fan = 40 * 16;
     const QRect area = dial();
-    Piece piece = {area.topLeft(), m_still.copy(area)};
-    QPainter painter(&piece.picture);
+    Region region = {area.topLeft(), m_still.copy(area)};
+    QPainter painter(&region.image);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF face = QRectF(QPointF(0, 0), area.size()).adjusted(m_line, m_line, -m_line, -m_line);
     painter.setPen(QPen(Qt::white, m_line));
@@ -233,39 +234,39 @@ TestCard::Piece TestCard::hand(std::int64_t time) const
     const double radians = angle * 2 * std::numbers::pi / turn;
     painter.drawLine(face.center(),
                      face.center() + QPointF(std::cos(radians), -std::sin(radians)) * face.width() / 2);
-    return piece;
+    return region;
 }
 
-/// A ball that goes along the ruler and back in eight seconds.
-TestCard::Piece TestCard::slider(std::int64_t time) const
+/// A ball that moves along the ruler and back in eight seconds.
+TestCard::Region TestCard::slider(std::int64_t time) const
 {
     constexpr int wayTime = 4000;
     constexpr std::int64_t bothWays = 8000;
     const QRect area = track();
-    Piece piece = {area.topLeft(), QImage(area.size(), QImage::Format_RGB32)};
-    piece.picture.fill(paper);
+    Region region = {area.topLeft(), QImage(area.size(), QImage::Format_RGB32)};
+    region.image.fill(paper);
     const auto passed = static_cast<int>(time % bothWays);
     const double way = static_cast<double>(passed < wayTime ? passed : 2 * wayTime - passed) / wayTime;
     const double radius = area.height() / 2.0;
-    QPainter painter(&piece.picture);
+    QPainter painter(&region.image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_lightTint);
     painter.drawEllipse(QPointF(radius + way * (area.width() - 2 * radius), radius), radius, radius);
-    return piece;
+    return region;
 }
 
-TestCard::Piece TestCard::clock(std::int64_t time) const
+TestCard::Region TestCard::clock(std::int64_t time) const
 {
     constexpr int hundredth = 10; // ms
     const QRect area = clockArea();
-    Piece piece = {area.topLeft(), QImage(area.size(), QImage::Format_RGB32)};
+    Region region = {area.topLeft(), QImage(area.size(), QImage::Format_RGB32)};
     const QDateTime shown = QDateTime::fromMSecsSinceEpoch(time, Qt::UTC);
     const QString text = shown.toString(u"yyyy-MM-dd hh:mm:ss"_s) +
                          u".%1"_s.arg(shown.time().msec() / hundredth, 2, 10, QLatin1Char('0'));
-    QPainter painter(&piece.picture);
-    drawStrip(painter, piece.picture.rect(), text);
-    return piece;
+    QPainter painter(&region.image);
+    drawStrip(painter, region.image.rect(), text);
+    return region;
 }
 
 QRect TestCard::part(int x, int y, int width, int height) const

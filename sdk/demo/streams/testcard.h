@@ -1,4 +1,4 @@
-// The moving test picture of a simulated channel.
+// The moving test image of a simulated channel.
 #pragma once
 
 #include <QColor>
@@ -10,33 +10,33 @@
 
 namespace sdk::demo {
 
-/// What stands on a test card.
+/// The labels of a test card.
 struct TestCardTexts
 {
-    QString name;    ///< of the device, in any letters; drawn as dots while the program has no fonts
-    QString details; ///< letters of ASCII
+    QString name;    ///< of the device, in any script; drawn as dots if the application has no fonts
+    QString details; ///< ASCII only
 };
 
-/// Belongs to one thread, which may be any. What stands still is drawn once; what moves is drawn for each
-/// picture, over pieces of it.
+/// Not thread-safe; one thread of any kind may use it. The static part is drawn once. The moving regions are
+/// drawn for each frame.
 class TestCard
 {
 public:
     /// `hue` is the tint of the card, 0 to 359. Both sides of `size` are even.
     TestCard(QSize size, int hue, const TestCardTexts &texts);
 
-    /// A piece of the card with even corners and sides.
-    struct Piece
+    /// A region of the card with even corners and sides.
+    struct Region
     {
         QPoint corner;
-        QImage picture; ///< QImage::Format_RGB32
+        QImage image; ///< QImage::Format_RGB32
     };
 
-    /// The whole card as it stands still.
-    [[nodiscard]] Piece still() const { return {{0, 0}, m_still}; }
+    /// The complete static card.
+    [[nodiscard]] Region still() const { return {{0, 0}, m_still}; }
 
-    /// The pieces that move as they look at `time` (ms since 1970) of the device's own clock.
-    [[nodiscard]] QList<Piece> moving(std::int64_t time) const;
+    /// The moving regions at `time` (ms since 1970) of the device's clock.
+    [[nodiscard]] QList<Region> moving(std::int64_t time) const;
 
 private:
     void drawStill(const TestCardTexts &texts);
@@ -48,9 +48,9 @@ private:
     void drawTexts(QPainter &painter, const TestCardTexts &texts) const;
     void drawStrip(QPainter &painter, const QRect &area, const QString &text) const;
     [[nodiscard]] int bitmapWidth(const QString &text) const;
-    [[nodiscard]] Piece hand(std::int64_t time) const;
-    [[nodiscard]] Piece slider(std::int64_t time) const;
-    [[nodiscard]] Piece clock(std::int64_t time) const;
+    [[nodiscard]] Region hand(std::int64_t time) const;
+    [[nodiscard]] Region slider(std::int64_t time) const;
+    [[nodiscard]] Region clock(std::int64_t time) const;
 
     /// A rectangle by thousandths of the card's sides, with even corners and sides.
     [[nodiscard]] QRect part(int x, int y, int width, int height) const;
@@ -62,7 +62,7 @@ private:
     QColor m_tint;
     QColor m_lightTint;
     int m_line; // width of a plain line
-    int m_dot;  // size of a dot of the clock's letters
+    int m_dot;  // size of a dot of the clock's characters
 };
 
 } // namespace sdk::demo

@@ -11,17 +11,18 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr int wholePercent = 100; // percent
+constexpr int fullPercent = 100; // percent
 thread_local bool insideUpgradeHandler = false;
 
-/// Whether the fault `kind` strikes at `percent` of `phase`: below 100 in the sending, else in the writing.
-bool strikes(const SceneDevice &device, Fault kind, UpgradePhase phase, int percent)
+/// Whether the fault `kind` takes effect at `percent` of `phase`: below 100 while sending, otherwise while
+/// writing.
+bool takesEffect(const SceneDevice &device, Fault kind, UpgradePhase phase, int percent)
 {
     const std::optional<FaultSetting> fault = device.fault(kind);
     if (!fault)
         return false;
-    return phase == UpgradePhase::Sending ? fault->number < wholePercent && percent >= fault->number
-                                          : fault->number == wholePercent;
+    return phase == UpgradePhase::Sending ? fault->number < fullPercent && percent >= fault->number
+                                          : fault->number == fullPercent;
 }
 
 } // namespace
@@ -34,19 +35,19 @@ DeviceUpgrade::DeviceUpgrade(SiteState &site, DemoSessions &sessions, std::int64
 
 DeviceUpgrade::~DeviceUpgrade() = default;
 
-bool DeviceUpgrade::drop()
+bool DeviceUpgrade::cancelTransfer()
 {
     {
         const std::lock_guard lock(m_phaseMutex);
         if (m_isWriting && !m_hasEnded)
             return false;
-        m_isDropped = true;
+        m_isCancelled = true;
     }
     m_thread.request_stop();
     return true;
 }
 
-void DeviceUpgrade::letGoOfHandler()
+void DeviceUpgrade::clearHandler()
 {
     const std::lock_guard lock(m_handlerMutex);
     m_hasHandler = false;
@@ -64,46 +65,46 @@ void DeviceUpgrade::run(const std::stop_token &stop)
     const std::optional<FaultSetting> takes = device ? device->fault(Fault::UpgradeTakes) : std::nullopt;
     if (takes)
         sending = std::chrono::seconds(takes->number);
-    if (goThrough(UpgradePhase::Sending, sending, stop) && beginWriting() &&
-        goThrough(UpgradePhase::Writing, writing, stop))
+    if (runPhase(UpgradePhase::Sending, sending, stop) && startWriting() &&
+        runPhase(UpgradePhase::Writing, writing, stop))
         finish();
     m_hasEnded = true;
 }
 
-bool DeviceUpgrade::goThrough(UpgradePhase phase, std::chrono::milliseconds duration,
-                              const std::stop_token &stop)
+bool DeviceUpgrade::runPhase(UpgradePhase phase, std::chrono::milliseconds duration,
+                             const std::stop_token &stop)
 {
     const std::int64_t start = m_site.clock().now();
-    for (int percent = 1; percent <= wholePercent; ++percent) {
-        if (!m_site.clock().waitUntil(start + duration.count() * percent / wholePercent, stop))
+    for (int percent = 1; percent <= fullPercent; ++percent) {
+        if (!m_site.clock().waitUntil(start + duration.count() * percent / fullPercent, stop))
             return false;
         const std::optional<SceneDevice> device = m_site.device(m_order.session.mac);
         if (!device || !isReachable(m_site, m_order.session))
             return fail(NetError::NetworkFailure);
-        if (strikes(*device, Fault::UpgradeFailsAt, phase, percent))
+        if (takesEffect(*device, Fault::UpgradeFailsAt, phase, percent))
             return fail(NetError::UpgradeFailed);
-        if (!standsAt(*device, phase, percent, stop))
+        if (!passes(*device, phase, percent, stop))
             return false;
-        tell({.size = sizeof(UpgradeProgress), .phase = phase, .percent = percent, .error = 0});
+        report({.size = sizeof(UpgradeProgress), .phase = phase, .percent = percent, .error = 0});
     }
-    // It looks at the wholePercent file only now.
+    // The device checks the file after the complete transfer.
     return m_order.firmware || fail(NetError::FirmwareRefused);
 }
 
-bool DeviceUpgrade::standsAt(const SceneDevice &device, UpgradePhase phase, int percent,
-                             const std::stop_token &stop)
+bool DeviceUpgrade::passes(const SceneDevice &device, UpgradePhase phase, int percent,
+                           const std::stop_token &stop)
 {
-    if (!strikes(device, Fault::UpgradeHangsAt, phase, percent))
+    if (!takesEffect(device, Fault::UpgradeHangsAt, phase, percent))
         return true;
     while (m_site.clock().wait(std::chrono::hours(1), stop)) {
     }
     return false;
 }
 
-bool DeviceUpgrade::beginWriting()
+bool DeviceUpgrade::startWriting()
 {
     const std::lock_guard lock(m_phaseMutex);
-    m_isWriting = !m_isDropped;
+    m_isWriting = !m_isCancelled;
     return m_isWriting;
 }
 
@@ -113,22 +114,23 @@ void DeviceUpgrade::finish()
         installFirmware(device, *m_order.firmware, m_site.clock().now());
     });
     m_sessions.endSessionsTo(m_order.session.mac);
-    tell({.size = sizeof(UpgradeProgress), .phase = UpgradePhase::Done, .percent = wholePercent, .error = 0});
+    report(
+        {.size = sizeof(UpgradeProgress), .phase = UpgradePhase::Done, .percent = fullPercent, .error = 0});
 }
 
 bool DeviceUpgrade::fail(NetError error)
 {
-    tell({.size = sizeof(UpgradeProgress),
-          .phase = UpgradePhase::Failed,
-          .percent = 0,
-          .error = static_cast<std::uint32_t>(error)});
+    report({.size = sizeof(UpgradeProgress),
+            .phase = UpgradePhase::Failed,
+            .percent = 0,
+            .error = static_cast<std::uint32_t>(error)});
     return false;
 }
 
-void DeviceUpgrade::tell(const UpgradeProgress &progress)
+void DeviceUpgrade::report(const UpgradeProgress &progress)
 {
     if (progress.phase == UpgradePhase::Done || progress.phase == UpgradePhase::Failed)
-        m_hasEnded = true; // whoever hears of it may free the upgrade at once
+        m_hasEnded = true; // the handler's owner may release the upgrade immediately
     const std::lock_guard lock(m_handlerMutex);
     if (!m_hasHandler)
         return;

@@ -20,17 +20,17 @@ namespace sdk::demo {
 class SiteState;
 struct SceneDevice;
 
-/// What an upgrade was begun with.
+/// The parameters of an upgrade.
 struct UpgradeOrder
 {
     std::int64_t loginHandle = 0;
     DemoSession session;
-    std::optional<FirmwareHead> firmware; ///< nothing for a file that does not tell
+    std::optional<FirmwareHead> firmware; ///< nullopt for a file without a valid head
     UpgradeProgressHandler handler = nullptr;
     void *user = nullptr;
 };
 
-/// Brings a file to a device that writes it and reboots, on a thread of its own and at the site's time.
+/// Transfers a file to a device, which writes it and reboots. It has a thread and follows the site's clock.
 /// Thread-safe.
 class DeviceUpgrade
 {
@@ -38,34 +38,35 @@ public:
     static constexpr std::chrono::milliseconds usualSending{8000};
     static constexpr std::chrono::milliseconds writing{5000};
 
-    /// `site` and `sessions` must outlive it.
+    /// `site` and `sessions` must outlive the upgrade.
     DeviceUpgrade(SiteState &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order);
 
-    /// Gives up what has not come to its end. Must not run in a handler.
+    /// Cancels an unfinished upgrade. Must not run in a handler.
     ~DeviceUpgrade();
 
     [[nodiscard]] const UpgradeOrder &order() const { return m_order; }
     [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
 
-    /// Lets the device drop the file; to be destroyed then. False once it is writing.
-    [[nodiscard]] bool drop();
+    /// Cancels the transfer; the caller must then destroy the upgrade. Returns false while the device is
+    /// writing.
+    [[nodiscard]] bool cancelTransfer();
 
-    /// The handler runs no more after the return.
-    void letGoOfHandler();
+    /// The handler is not called after the return.
+    void clearHandler();
 
     /// Whether the calling thread is inside a handler of any upgrade of this process.
     [[nodiscard]] static bool isInsideHandler();
 
 private:
     void run(const std::stop_token &stop);
-    [[nodiscard]] bool goThrough(UpgradePhase phase, std::chrono::milliseconds duration,
-                                 const std::stop_token &stop);
-    [[nodiscard]] bool standsAt(const SceneDevice &device, UpgradePhase phase, int percent,
+    [[nodiscard]] bool runPhase(UpgradePhase phase, std::chrono::milliseconds duration,
                                 const std::stop_token &stop);
-    [[nodiscard]] bool beginWriting();
+    [[nodiscard]] bool passes(const SceneDevice &device, UpgradePhase phase, int percent,
+                              const std::stop_token &stop);
+    [[nodiscard]] bool startWriting();
     void finish();
     bool fail(NetError error);
-    void tell(const UpgradeProgress &progress);
+    void report(const UpgradeProgress &progress);
 
     SiteState &m_site;
     DemoSessions &m_sessions;
@@ -73,13 +74,13 @@ private:
     const UpgradeOrder m_order;
     std::atomic<bool> m_hasEnded = false;
 
-    std::mutex m_phaseMutex; // of the two
-    bool m_isDropped = false;
+    std::mutex m_phaseMutex; // guards the two members below
+    bool m_isCancelled = false;
     bool m_isWriting = false;
 
     std::mutex m_handlerMutex; // held while the handler runs
     bool m_hasHandler = true;
-    std::jthread m_thread; // last: it uses all of them
+    std::jthread m_thread; // last: it uses the other members
 };
 
 } // namespace sdk::demo

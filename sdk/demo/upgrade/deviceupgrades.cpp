@@ -15,16 +15,16 @@ bool DeviceUpgrades::isUpgrading(const QString &mac) const
     };
     const std::lock_guard lock(m_mutex);
     return std::any_of(m_upgrades.begin(), m_upgrades.end(), isOf) ||
-           std::any_of(m_unheard.begin(), m_unheard.end(), isOf);
+           std::any_of(m_detached.begin(), m_detached.end(), isOf);
 }
 
 DeviceUpgrades::Upgrades DeviceUpgrades::takeEndedLocked()
 {
     Upgrades ended;
-    for (auto entry = m_unheard.begin(); entry != m_unheard.end();) {
+    for (auto entry = m_detached.begin(); entry != m_detached.end();) {
         const auto next = std::next(entry);
         if (entry->second->hasEnded())
-            ended.insert(m_unheard.extract(entry));
+            ended.insert(m_detached.extract(entry));
         entry = next;
     }
     return ended;
@@ -32,7 +32,7 @@ DeviceUpgrades::Upgrades DeviceUpgrades::takeEndedLocked()
 
 std::int64_t DeviceUpgrades::open(const UpgradeOrder &order)
 {
-    Upgrades ended; // end without the lock
+    Upgrades ended; // destroyed without the lock
     const std::lock_guard lock(m_mutex);
     ended = takeEndedLocked();
     try {
@@ -54,12 +54,12 @@ QString DeviceUpgrades::macOf(std::int64_t handle) const
 
 DeviceUpgrades::Closing DeviceUpgrades::close(std::int64_t handle)
 {
-    Upgrades closed; // ends without the lock
+    Upgrades closed; // destroyed without the lock
     const std::lock_guard lock(m_mutex);
     const auto found = m_upgrades.find(handle);
     if (found == m_upgrades.end())
         return Closing::Unknown;
-    if (!found->second->drop())
+    if (!found->second->cancelTransfer())
         return Closing::IsWriting;
     closed.insert(m_upgrades.extract(found));
     return Closing::Closed;
@@ -67,32 +67,32 @@ DeviceUpgrades::Closing DeviceUpgrades::close(std::int64_t handle)
 
 void DeviceUpgrades::closeAllOf(std::int64_t loginHandle)
 {
-    Upgrades closed; // end without the lock, for which a handler may wait
+    Upgrades closed; // destroyed without the lock, which a handler may wait for
     std::vector<std::shared_ptr<DeviceUpgrade>> writing;
     {
         const std::lock_guard lock(m_mutex);
         for (auto entry = m_upgrades.begin(); entry != m_upgrades.end();) {
             const auto next = std::next(entry);
             if (entry->second->order().loginHandle == loginHandle) {
-                const bool isDropped = entry->second->drop();
-                if (!isDropped)
+                const bool isCancelled = entry->second->cancelTransfer();
+                if (!isCancelled)
                     writing.push_back(entry->second);
-                (isDropped ? closed : m_unheard).insert(m_upgrades.extract(entry));
+                (isCancelled ? closed : m_detached).insert(m_upgrades.extract(entry));
             }
             entry = next;
         }
     }
     for (const std::shared_ptr<DeviceUpgrade> &upgrade : writing)
-        upgrade->letGoOfHandler();
+        upgrade->clearHandler();
 }
 
 void DeviceUpgrades::closeAll()
 {
     Upgrades closed;
-    Upgrades unheard; // end without the lock
+    Upgrades detached; // destroyed without the lock
     const std::lock_guard lock(m_mutex);
     closed.swap(m_upgrades);
-    unheard.swap(m_unheard);
+    detached.swap(m_detached);
 }
 
 } // namespace sdk::demo

@@ -1,4 +1,4 @@
-// The upgrades that are open.
+// The open upgrades.
 #pragma once
 
 #include "sdk/demo/upgrade/deviceupgrade.h"
@@ -8,15 +8,15 @@
 
 namespace sdk::demo {
 
-/// Thread-safe. A handle is never given twice.
+/// Thread-safe. Handles are not reused.
 class DeviceUpgrades
 {
 public:
     enum class Closing
     {
         Closed,
-        IsWriting, ///< it goes on
-        Unknown,   ///< not the handle of an upgrade
+        IsWriting, ///< the device continues
+        Unknown,   ///< unknown handle
     };
 
     /// Both must outlive the upgrades.
@@ -24,17 +24,17 @@ public:
 
     [[nodiscard]] bool isUpgrading(const QString &mac) const;
 
-    /// Returns the handle, 0 when the computer gives no thread.
+    /// Returns the handle, 0 if the host provides no thread.
     [[nodiscard]] std::int64_t open(const UpgradeOrder &order);
 
-    /// The MAC of the device; empty for a handle that is no upgrade.
+    /// The MAC of the device; empty for an unknown handle.
     [[nodiscard]] QString macOf(std::int64_t handle) const;
 
-    // No handler of what is closed runs after the return, so these must not be called from one.
+    // No handler of a closed upgrade runs after the return, so these must not be called from a handler.
 
     [[nodiscard]] Closing close(std::int64_t handle);
 
-    /// Files on their way are dropped; a device that is writing goes on unheard.
+    /// Transfers are cancelled. A device that is writing continues without reports.
     void closeAllOf(std::int64_t loginHandle);
     void closeAll();
 
@@ -46,10 +46,10 @@ private:
     SiteState &m_site;
     DemoSessions &m_sessions;
     mutable std::mutex m_mutex;
-    // Above 32 bits, as those of sessions, and apart from them.
+    // Above 32 bits, and apart from the handles of sessions.
     std::int64_t m_lastHandle = std::int64_t(1) << 44;
     Upgrades m_upgrades;
-    Upgrades m_unheard; ///< devices that write, whose session has ended
+    Upgrades m_detached; ///< devices that are writing and whose session has ended
 };
 
 } // namespace sdk::demo

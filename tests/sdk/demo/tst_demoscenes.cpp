@@ -118,7 +118,7 @@ private Q_SLOTS:
             {u"ofice"_s, {u"\"ofice\""_s, u"office"_s, u"factory"_s, u"faulty"_s, u"fleet:N"_s}},
             {u"fleet:20001"_s, {u"1 to 20000"_s}},
             {directory.filePath(u"none.json"_s), {u"none.json"_s, u"cannot be read"_s}},
-            {u"/dev/zero"_s, {u"/dev/zero"_s, u"is no file"_s}},
+            {u"/dev/zero"_s, {u"/dev/zero"_s, u"is not a file"_s}},
             {u"fleet:%1"_s, {u"\"fleet:%1\""_s, u"1 to 20000"_s}},
         };
         for (const auto &[name, words] : mistakes) {

@@ -1,10 +1,10 @@
-#include "sdk/demo/streams/cardpicture.h"
+#include "sdk/demo/streams/cardframe.h"
 
 #include <array>
 
 namespace sdk::demo {
 
-std::unique_ptr<CardPicture> CardPicture::create(const AVCodecContext &encoder)
+std::unique_ptr<CardFrame> CardFrame::create(const AVCodecContext &encoder)
 {
     AvPointer<AVFrame> format(av_frame_alloc());
     if (!format)
@@ -18,31 +18,31 @@ std::unique_ptr<CardPicture> CardPicture::create(const AVCodecContext &encoder)
     if (!frame)
         return nullptr;
     // Not make_unique: the constructor is private.
-    return std::unique_ptr<CardPicture>(new CardPicture(std::move(frame)));
+    return std::unique_ptr<CardFrame>(new CardFrame(std::move(frame)));
 }
 
-bool CardPicture::paint(const TestCard::Piece &piece)
+bool CardFrame::paint(const TestCard::Region &region)
 {
-    // The encoder may still hold the picture as it was.
-    Converter *converter = converterFor(piece.picture.size());
+    // The encoder may still refer to the previous frame.
+    Converter *converter = converterFor(region.image.size());
     if (!converter || av_frame_make_writable(m_frame.get()) < 0)
         return false;
-    const std::array<const std::uint8_t *, 4> from = {piece.picture.constBits()};
-    const std::array<int, 4> fromLine = {static_cast<int>(piece.picture.bytesPerLine())};
-    AVFrame &to = *converter->piece;
-    if (sws_scale(converter->context.get(), from.data(), fromLine.data(), 0, piece.picture.height(), to.data,
-                  to.linesize) != piece.picture.height())
+    const std::array<const std::uint8_t *, 4> from = {region.image.constBits()};
+    const std::array<int, 4> fromLine = {static_cast<int>(region.image.bytesPerLine())};
+    AVFrame &to = *converter->region;
+    if (sws_scale(converter->context.get(), from.data(), fromLine.data(), 0, region.image.height(), to.data,
+                  to.linesize) != region.image.height())
         return false;
-    copyPiece(to, piece.corner);
+    copyRegion(to, region.corner);
     return true;
 }
 
-AvPointer<AVFrame> CardPicture::frameLike(const AVFrame &picture, QSize size)
+AvPointer<AVFrame> CardFrame::frameLike(const AVFrame &model, QSize size)
 {
     AvPointer<AVFrame> frame(av_frame_alloc());
-    if (!frame || av_frame_copy_props(frame.get(), &picture) < 0)
+    if (!frame || av_frame_copy_props(frame.get(), &model) < 0)
         return nullptr;
-    frame->format = picture.format;
+    frame->format = model.format;
     frame->width = size.width();
     frame->height = size.height();
     if (av_frame_get_buffer(frame.get(), 0) < 0)
@@ -50,17 +50,17 @@ AvPointer<AVFrame> CardPicture::frameLike(const AVFrame &picture, QSize size)
     return frame;
 }
 
-CardPicture::Converter *CardPicture::converterFor(QSize size)
+CardFrame::Converter *CardFrame::converterFor(QSize size)
 {
     Converter &converter = m_converters[{size.width(), size.height()}];
-    if (converter.context && converter.piece)
+    if (converter.context && converter.region)
         return &converter;
-    converter.piece = frameLike(*m_frame, size);
-    // The full range of JPEG is set below, and not by its format.
+    converter.region = frameLike(*m_frame, size);
+    // The full range of JPEG is set below instead of by the pixel format.
     converter.context.reset(sws_getContext(size.width(), size.height(), AV_PIX_FMT_0RGB32, size.width(),
                                            size.height(), AV_PIX_FMT_YUV420P, SWS_BILINEAR | SWS_ACCURATE_RND,
                                            nullptr, nullptr, nullptr));
-    if (!converter.context || !converter.piece)
+    if (!converter.context || !converter.region)
         return nullptr;
     const int *rgb = sws_getCoefficients(SWS_CS_DEFAULT);
     const int *colours =
@@ -71,16 +71,16 @@ CardPicture::Converter *CardPicture::converterFor(QSize size)
     return &converter;
 }
 
-/// Not converted into its place at once: the converter writes whole words, beyond the end of a line.
-void CardPicture::copyPiece(const AVFrame &piece, QPoint corner)
+/// Not converted directly into the frame: the converter writes complete words beyond the end of a line.
+void CardFrame::copyRegion(const AVFrame &region, QPoint corner)
 {
     for (std::size_t plane = 0; plane < 3; ++plane) {
         const int divisor = plane == 0 ? 1 : 2;
         std::uint8_t *to = m_frame->data[plane] +
                            static_cast<std::ptrdiff_t>(corner.y() / divisor) * m_frame->linesize[plane] +
                            corner.x() / divisor;
-        av_image_copy_plane(to, m_frame->linesize[plane], piece.data[plane], piece.linesize[plane],
-                            piece.width / divisor, piece.height / divisor);
+        av_image_copy_plane(to, m_frame->linesize[plane], region.data[plane], region.linesize[plane],
+                            region.width / divisor, region.height / divisor);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "sdk/demo/streams/pictureencoder.h"
+#include "sdk/demo/streams/videoencoder.h"
 
 #include "sdk/demo/site/logging.h"
 
@@ -13,14 +13,15 @@ namespace sdk::demo {
 
 namespace {
 
-/// A watcher who comes later, or has lost something, sees a whole picture after this time at the latest.
-constexpr int secondsBetweenKeyPictures = 2;
+/// The interval of key frames: the longest time without an image for a viewer that joins later or has lost
+/// data.
+constexpr int keyFrameInterval = 2;
 
-/// What a still picture does not get better below: without it a test card takes the whole bit rate, and the
-/// time to encode it.
+/// The lower limit of the quantiser. Without it, a static test card uses the full bit rate and the time to
+/// encode it.
 constexpr int finestQuantizer = 20;
 
-/// The encoders set up tables of the process when they are opened.
+/// The encoders initialise static tables when they are opened.
 std::mutex &openingMutex()
 {
     static std::mutex mutex;
@@ -44,7 +45,7 @@ void setColour(AVCodecContext &context, const StreamSettings &settings)
 {
     constexpr int firstHeightOfBt709 = 720;
     if (settings.codec == StreamCodec::MotionJpeg) {
-        // JPEG has colours of its own, at every size.
+        // JPEG has one colour space at every size.
         context.pix_fmt = AV_PIX_FMT_YUVJ420P;
         context.color_range = AVCOL_RANGE_JPEG;
         context.colorspace = AVCOL_SPC_BT470BG;
@@ -64,7 +65,7 @@ void setRates(AVCodecContext &context, const StreamSettings &settings)
     constexpr int bitsOfKilobit = 1000;
     context.framerate = av_d2q(settings.frameRate, finestRate);
     context.time_base = av_inv_q(context.framerate);
-    context.gop_size = std::max(1, qRound(settings.frameRate * secondsBetweenKeyPictures));
+    context.gop_size = std::max(1, qRound(settings.frameRate * keyFrameInterval));
     context.max_b_frames = 0;
     context.bit_rate = static_cast<std::int64_t>(settings.bitRate) * bitsOfKilobit;
     if (settings.codec == StreamCodec::MotionJpeg)
@@ -74,7 +75,7 @@ void setRates(AVCodecContext &context, const StreamSettings &settings)
     context.qmin = finestQuantizer;
 }
 
-/// Options of the encoder itself.
+/// Private options of the encoder.
 AVDictionary *optionsOf(StreamCodec codec)
 {
     AVDictionary *options = nullptr;
@@ -84,8 +85,8 @@ AVDictionary *optionsOf(StreamCodec codec)
         av_dict_set(&options, "forced-idr", "1", 0);
     }
     if (codec == StreamCodec::H265) {
-        // Without its filter of offsets (sao) the encoder loses memory each time that it is opened. What is
-        // switched off puts noise into plain areas, or needs threads.
+        // Without its sample adaptive offset (sao) the encoder leaks memory each time that it is opened. The
+        // disabled options add noise to plain areas, or need threads.
         const std::string parameters = "log-level=none:sao=1:selective-sao=1:psy-rd=0:aq-mode=0:pools=none:"
                                        "frame-threads=1:wpp=0:qpmin=" +
                                        std::to_string(finestQuantizer);
@@ -96,7 +97,7 @@ AVDictionary *optionsOf(StreamCodec codec)
 
 } // namespace
 
-std::unique_ptr<PictureEncoder> PictureEncoder::open(const StreamSettings &settings)
+std::unique_ptr<VideoEncoder> VideoEncoder::open(const StreamSettings &settings)
 {
     const AVCodec *codec = encoderOf(settings.codec);
     AvPointer<AVCodecContext> context(codec ? avcodec_alloc_context3(codec) : nullptr);
@@ -121,16 +122,16 @@ std::unique_ptr<PictureEncoder> PictureEncoder::open(const StreamSettings &setti
         return nullptr;
     }
     // Not make_unique: the constructor is private.
-    return std::unique_ptr<PictureEncoder>(new PictureEncoder(std::move(context)));
+    return std::unique_ptr<VideoEncoder>(new VideoEncoder(std::move(context)));
 }
 
-PictureEncoder::~PictureEncoder()
+VideoEncoder::~VideoEncoder()
 {
     const std::lock_guard lock(openingMutex());
     m_context.reset();
 }
 
-bool PictureEncoder::encode(AVFrame &picture, std::int64_t number, bool isKey, EncodedPackets &packets)
+bool VideoEncoder::encode(AVFrame &picture, std::int64_t number, bool isKey, EncodedPackets &packets)
 {
     picture.pts = number;
     picture.pict_type = isKey ? AV_PICTURE_TYPE_I : AV_PICTURE_TYPE_NONE;

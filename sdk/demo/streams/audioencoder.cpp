@@ -1,7 +1,7 @@
-#include "sdk/demo/streams/toneencoder.h"
+#include "sdk/demo/streams/audioencoder.h"
 
 #include "sdk/demo/site/logging.h"
-#include "sdk/demo/streams/pictureencoder.h"
+#include "sdk/demo/streams/videoencoder.h"
 
 #include <array>
 #include <cmath>
@@ -28,10 +28,10 @@ AVCodecID codecIdOf(SoundCodec codec)
     return AV_CODEC_ID_NONE;
 }
 
-/// A frame for `context` to take its samples from; null when there is no memory.
+/// A frame with the samples for `context`; null without memory.
 AvPointer<AVFrame> frameFor(const AVCodecContext &context)
 {
-    // Codecs that take any number of samples get as many as a picture lasts.
+    // Codecs with a variable frame size get the samples of one video frame.
     constexpr int framesASecond = 25;
     AvPointer<AVFrame> frame(av_frame_alloc());
     if (!frame)
@@ -47,12 +47,12 @@ AvPointer<AVFrame> frameFor(const AVCodecContext &context)
 
 } // namespace
 
-std::unique_ptr<ToneEncoder> ToneEncoder::open(const StreamSettings &settings, double pitch)
+std::unique_ptr<AudioEncoder> AudioEncoder::open(const StreamSettings &settings, double pitch)
 {
     const AVCodec *codec = avcodec_find_encoder(codecIdOf(settings.sound));
     AvPointer<AVCodecContext> context(codec ? avcodec_alloc_context3(codec) : nullptr);
     if (!context) {
-        qCWarning(demoLog, "No encoder for the sound of a live stream (codec %d)",
+        qCWarning(demoLog, "No encoder for the audio of a live stream (codec %d)",
                   static_cast<int>(settings.sound));
         return nullptr;
     }
@@ -69,15 +69,15 @@ std::unique_ptr<ToneEncoder> ToneEncoder::open(const StreamSettings &settings, d
     const int error = avcodec_open2(context.get(), codec, nullptr);
     AvPointer<AVFrame> frame = error < 0 ? nullptr : frameFor(*context);
     if (!frame) {
-        qCWarning(demoLog, "The sound of a live stream cannot be encoded (%d Hz): %s",
+        qCWarning(demoLog, "The audio of a live stream cannot be encoded (%d Hz): %s",
                   settings.samplingFrequency, avErrorText(error).c_str());
         return nullptr;
     }
     // Not make_unique: the constructor is private.
-    return std::unique_ptr<ToneEncoder>(new ToneEncoder(std::move(context), std::move(frame), pitch));
+    return std::unique_ptr<AudioEncoder>(new AudioEncoder(std::move(context), std::move(frame), pitch));
 }
 
-double ToneEncoder::pitchOf(std::int32_t channel)
+double AudioEncoder::pitchOf(std::int32_t channel)
 {
     constexpr double lowest = 220; // Hz
     constexpr std::array halfTones = {0, 2, 4, 7, 9, 12, 14, 16, 19, 21};
@@ -86,15 +86,15 @@ double ToneEncoder::pitchOf(std::int32_t channel)
     return lowest * std::exp2(halfTones[step] / halfTonesOfOctave);
 }
 
-bool ToneEncoder::encodeUntil(double seconds, EncodedPackets &packets)
+bool AudioEncoder::encodeUntil(double seconds, EncodedPackets &packets)
 {
     const double end = seconds * m_context->sample_rate;
-    // After a pause there is no sound of the time between.
+    // The audio of a pause is left out.
     constexpr int longestSound = 2; // seconds
     if (end - static_cast<double>(m_samples) > longestSound * m_context->sample_rate)
         m_samples = static_cast<std::int64_t>(end) - m_frame->nb_samples;
     while (static_cast<double>(m_samples + m_frame->nb_samples) <= end) {
-        // The encoder may still hold the samples of the last call.
+        // The encoder may still refer to the samples of the last call.
         if (av_frame_make_writable(m_frame.get()) < 0)
             return false;
         fillFrame();
@@ -105,27 +105,27 @@ bool ToneEncoder::encodeUntil(double seconds, EncodedPackets &packets)
     return true;
 }
 
-void ToneEncoder::fillFrame()
+void AudioEncoder::fillFrame()
 {
     constexpr float loudest = 32767;
-    for (int place = 0; place < m_frame->nb_samples; ++place) {
-        const float sample = sampleAt(m_samples + place);
+    for (int index = 0; index < m_frame->nb_samples; ++index) {
+        const float sample = sampleAt(m_samples + index);
         if (m_context->sample_fmt == AV_SAMPLE_FMT_FLTP)
-            reinterpret_cast<float *>(m_frame->data[0])[place] = sample;
+            reinterpret_cast<float *>(m_frame->data[0])[index] = sample;
         else
-            reinterpret_cast<std::int16_t *>(m_frame->data[0])[place] =
+            reinterpret_cast<std::int16_t *>(m_frame->data[0])[index] =
                 static_cast<std::int16_t>(sample * loudest);
     }
     m_frame->pts = m_samples;
     m_samples += m_frame->nb_samples;
 }
 
-float ToneEncoder::sampleAt(std::int64_t place) const
+float AudioEncoder::sampleAt(std::int64_t index) const
 {
-    // It swells every two seconds, so that one hears that it is live.
+    // The volume rises every two seconds, which makes interruptions audible.
     constexpr double loudness = 0.1;
     constexpr double swellsASecond = 0.5;
-    const double turns = static_cast<double>(place) / m_context->sample_rate * 2 * std::numbers::pi;
+    const double turns = static_cast<double>(index) / m_context->sample_rate * 2 * std::numbers::pi;
     const double swell = 1 - std::cos(turns * swellsASecond);
     return static_cast<float>(loudness * (1 + swell) / 3 * std::sin(turns * m_pitch));
 }

@@ -1,10 +1,10 @@
-#include "sdk/demo/site/requestrecord.h"
+#include "sdk/demo/site/requestlog.h"
 
 #include <algorithm>
 
 namespace sdk::demo {
 
-void RequestRecord::add(const RecordedRequest &request)
+void RequestLog::add(const RecordedRequest &request)
 {
     const std::lock_guard lock(m_mutex);
     if (m_requests.size() == maximumRequests)
@@ -13,27 +13,26 @@ void RequestRecord::add(const RecordedRequest &request)
     m_added.notify_all();
 }
 
-void RequestRecord::clear()
+void RequestLog::clear()
 {
     const std::lock_guard lock(m_mutex);
     m_requests.clear();
 }
 
-QList<RecordedRequest> RequestRecord::all() const
+QList<RecordedRequest> RequestLog::all() const
 {
     const std::lock_guard lock(m_mutex);
     return m_requests;
 }
 
-QList<RecordedRequest> RequestRecord::of(const QString &operation) const
+QList<RecordedRequest> RequestLog::of(const QString &operation) const
 {
     QList<RecordedRequest> found = all();
     found.removeIf([&operation](const RecordedRequest &request) { return request.operation != operation; });
     return found;
 }
 
-bool RequestRecord::waitFor(const QString &operation, qsizetype count,
-                            std::chrono::milliseconds timeout) const
+bool RequestLog::waitFor(const QString &operation, qsizetype count, std::chrono::milliseconds timeout) const
 {
     std::unique_lock lock(m_mutex);
     return m_added.wait_for(lock, timeout, [&] {

@@ -1,4 +1,4 @@
-// What a simulated site was asked, so that a test asserts on requests and not on private state.
+// The requests that a simulated site has received. Tests assert on them instead of on private state.
 #pragma once
 
 #include <QJsonObject>
@@ -14,16 +14,15 @@ namespace sdk::demo {
 
 struct RecordedRequest
 {
-    QString operation;     ///< role name: "NetStartSearchDevices"
-    QString mac;           ///< device that was asked, empty for requests to nobody in particular
+    QString operation;     ///< name in the interface: "NetStartSearchDevices"
+    QString mac;           ///< the addressed device; empty for requests without one
     QJsonObject request;   ///< the decoded blocks: "size", "wait" (ms), "addresses", ...
     std::int64_t time = 0; ///< on the site's clock, ms since 1970
 };
 
-/// The requests in the order of their arrival; the latest maximumRequests of them. Passwords are never kept:
-/// only their length ("passwordLength"), and at a login whether it is the account's ("passwordMatches").
-/// Thread-safe.
-class RequestRecord
+/// The latest maximumRequests requests in the order of their arrival. Passwords are not stored: only their
+/// length ("passwordLength") and, for a login, the result of the comparison ("passwordMatches"). Thread-safe.
+class RequestLog
 {
 public:
     static constexpr qsizetype maximumRequests = 10000;
@@ -36,8 +35,8 @@ public:
     /// Those of one operation.
     [[nodiscard]] QList<RecordedRequest> of(const QString &operation) const;
 
-    /// Blocks until `operation` was asked at least `count` times, for tests that follow another thread.
-    /// Returns false when `timeout` of real time has passed before.
+    /// Blocks until `operation` was requested at least `count` times, for tests that follow another thread.
+    /// Returns false after `timeout` of real time.
     [[nodiscard]] bool waitFor(const QString &operation, qsizetype count,
                                std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
 

@@ -1,0 +1,40 @@
+// A test card as a frame for an encoder.
+#pragma once
+
+#include "sdk/demo/streams/avpointers.h"
+#include "sdk/demo/streams/testcard.h"
+
+#include <map>
+
+namespace sdk::demo {
+
+/// Not thread-safe.
+class CardFrame
+{
+public:
+    /// A frame with the size, format and colours of `encoder`. Returns null without memory.
+    [[nodiscard]] static std::unique_ptr<CardFrame> create(const AVCodecContext &encoder);
+
+    /// Paints a region of the card into the frame. Returns false on failure.
+    [[nodiscard]] bool paint(const TestCard::Region &region);
+
+    [[nodiscard]] AVFrame &frame() { return *m_frame; }
+
+private:
+    explicit CardFrame(AvPointer<AVFrame> frame) : m_frame(std::move(frame)) {}
+
+    /// Converts regions of one size.
+    struct Converter
+    {
+        AvPointer<SwsContext> context;
+        AvPointer<AVFrame> region; // in the frame's format
+    };
+    [[nodiscard]] static AvPointer<AVFrame> frameLike(const AVFrame &model, QSize size);
+    [[nodiscard]] Converter *converterFor(QSize size);
+    void copyRegion(const AVFrame &region, QPoint corner);
+
+    AvPointer<AVFrame> m_frame;
+    std::map<std::pair<int, int>, Converter> m_converters; // by width and height
+};
+
+} // namespace sdk::demo
