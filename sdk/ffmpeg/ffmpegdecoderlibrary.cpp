@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int32_t mostPorts = 512;
 
-/// Bytes from a caller; null with a size is refused before.
+/// Bytes from a caller, who has excluded null with a size.
 std::span<const std::uint8_t> bytesOf(const std::uint8_t *data, std::uint32_t size)
 {
     return data ? std::span(data, size) : std::span<const std::uint8_t>();
@@ -96,7 +96,7 @@ bool FfmpegDecoderLibrary::DecoderFreePort(std::int32_t port)
     const std::shared_ptr<DecoderPort> found = portOf(port);
     if (!found)
         return false;
-    found->close(); // whoever still pushes data holds the port for that moment, but no thread of it runs
+    found->close(); // a thread in DecoderInputData may still own the port, but the port's thread has ended
     const std::lock_guard lock(m_mutex);
     m_ports.erase(port);
     return true;

@@ -1,4 +1,4 @@
-// The decoder role on FFmpeg.
+// The decoder library on FFmpeg.
 #pragma once
 
 #include "sdk/clock.h"
@@ -12,19 +12,18 @@ namespace sdk::ffmpeg {
 
 class DecoderPort;
 
-/// Decodes Matroska streams as they are written live: pictures in H.264, H.265 and MJPEG, sound in G.711, AAC
-/// and 16-bit PCM. A stream begins with its header; another header in the middle begins another stream, in
-/// whatever size and encoding. What is damaged is left out. Pictures are delivered one by one as they arrive,
-/// up to a size of 8192 x 4320. A port in the mode of real-time streams that cannot keep up goes on with the
-/// newest picture that needs no earlier one.
+/// Decodes live Matroska streams: video in H.264, H.265 and MJPEG, audio in G.711, AAC and 16-bit PCM. A
+/// stream starts with its header. A further header starts another stream, which may have another size and
+/// encoding. Damaged data is dropped. Frames are delivered one by one as they arrive, up to a size of 8192 x
+/// 4320. A port in the mode of real-time streams that is too slow continues with the newest key frame.
 ///
 /// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. An operation that is
-/// called in a handler fails. FFmpeg's own lines go to the logging category "configtools.sdk.ffmpeg", for the
-/// whole process, from the first library on.
+/// called in a handler fails. The first library redirects FFmpeg's log to the logging category
+/// "configtools.sdk.ffmpeg" for the complete process.
 class FfmpegDecoderLibrary final : public DecoderLibrary
 {
 public:
-    /// `clock` tells how late a stream is.
+    /// `clock` measures the delay of streams.
     explicit FfmpegDecoderLibrary(std::shared_ptr<const Clock> clock = std::make_shared<SystemClock>());
 
     /// Frees all ports.

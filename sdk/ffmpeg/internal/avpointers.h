@@ -1,4 +1,4 @@
-// Owners of what FFmpeg's functions allocate.
+// Owners of FFmpeg's objects.
 #pragma once
 
 #include "sdk/streams/avpointers.h"

@@ -94,8 +94,8 @@ void DecoderPort::run(const std::stop_token &stop)
     const std::shared_ptr<Input> input = currentInput();
     StreamSource &source = input->source;
     for (;;) {
-        const StreamSource::Begin begin = source.begin(stop);
-        if (begin == StreamSource::Begin::Stopped)
+        const StreamSource::Start start = source.start(stop);
+        if (start == StreamSource::Start::Stopped)
             return;
         if (source.skipped() > 0)
             damaged();
@@ -104,9 +104,9 @@ void DecoderPort::run(const std::stop_token &stop)
         if (stop.stop_requested())
             return;
         if (!source.hasNext())
-            damaged(); // it was given up
+            damaged(); // the stream was abandoned
         if (!isStream)
-            source.forgetHead();
+            source.clearHead();
     }
 }
 

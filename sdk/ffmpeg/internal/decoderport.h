@@ -13,8 +13,8 @@
 
 namespace sdk::ffmpeg {
 
-/// Its operations are those of DecoderLibrary, and may be called from the threads that are named there.
-/// Between play() and stop() it has a thread, which decodes and calls the handler.
+/// The operations are those of DecoderLibrary, with the same rules for threads. Between play() and stop() the
+/// port has a thread, which decodes and calls the handler.
 class DecoderPort final : private StreamObserver
 {
 public:
@@ -23,7 +23,7 @@ public:
     {
     }
 
-    /// Ends decoding, and the port's pictures.
+    /// Stops decoding and frees the port's frames.
     ~DecoderPort() override;
 
     DecoderPort(const DecoderPort &) = delete;
@@ -35,10 +35,10 @@ public:
     [[nodiscard]] bool play();
     [[nodiscard]] bool input(std::span<const std::uint8_t> bytes);
 
-    /// Returns false when it does not play.
+    /// Returns false if the port does not play.
     bool stop();
 
-    /// Stops as well. Returns false when it is not open.
+    /// Also stops. Returns false if the port is not open.
     bool close();
 
     [[nodiscard]] DecoderStatus status() const;
@@ -47,12 +47,12 @@ public:
     [[nodiscard]] static bool isInsideHandler();
 
 private:
-    /// What was pushed in between open() and close().
+    /// The input between open() and close().
     struct Input
     {
         explicit Input(std::size_t limit) : queue(limit) {}
         InputQueue queue;
-        StreamSource source{queue}; // of the thread that decodes
+        StreamSource source{queue}; // used by the decoding thread
     };
 
     void run(const std::stop_token &stop);
@@ -64,9 +64,9 @@ private:
 
     const std::int32_t m_number;
     const std::shared_ptr<const Clock> m_clock;
-    bool m_isLive = false; // what is too late is left out; not changed while it plays
+    bool m_isLive = false; // late frames are dropped; constant while the port plays
 
-    mutable std::mutex m_mutex;     // for the two below
+    mutable std::mutex m_mutex;     // guards the two members below
     std::shared_ptr<Input> m_input; // null while closed
     DecoderStatus m_status{};
 
@@ -74,7 +74,7 @@ private:
     DecodeHandler m_handler = nullptr;
     void *m_user = nullptr;
 
-    PictureRing m_ring; // of the thread that decodes
+    PictureRing m_ring; // used by the decoding thread
     std::jthread m_thread;
 };
 

@@ -7,7 +7,7 @@ namespace sdk::ffmpeg {
 
 namespace {
 
-constexpr int readAhead = 32 * 1024; // at most: a read returns what is there
+constexpr int readAhead = 32 * 1024; // maximum: a read returns the available bytes
 
 } // namespace
 
@@ -15,7 +15,7 @@ Demuxer::Demuxer(StreamSource &source, std::stop_token stop) : m_source(source),
 
 Demuxer::~Demuxer()
 {
-    m_format.reset(); // it reads from the input until it is closed
+    m_format.reset(); // the context uses the input until it is closed
 }
 
 bool Demuxer::open()
@@ -34,10 +34,10 @@ bool Demuxer::open()
     format->pb = m_input.get();
     format->flags |= AVFMT_FLAG_CUSTOM_IO;
     format->interrupt_callback = {&Demuxer::isInterrupted, this};
-    // The kind of container is not guessed, nor are pictures looked at before they are decoded: both would
-    // hold the first ones back.
+    // The container is not probed and frames are not analysed before they are decoded: both would delay the
+    // first frames.
     if (avformat_open_input(&format, nullptr, av_find_input_format("matroska"), nullptr) != 0)
-        return false; // the context is gone
+        return false; // the call has freed the context
     m_format.reset(format);
     return true;
 }

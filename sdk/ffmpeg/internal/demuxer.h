@@ -1,4 +1,4 @@
-// Takes one live stream apart.
+// The demuxer of one live stream.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -8,7 +8,7 @@
 
 namespace sdk::ffmpeg {
 
-/// Reads from a source until its stream ends, or a stop is requested. On one thread.
+/// Reads from a source until its stream ends, or a stop is requested. Not thread-safe.
 class Demuxer
 {
 public:
@@ -17,13 +17,13 @@ public:
     Demuxer(const Demuxer &) = delete;
     Demuxer &operator=(const Demuxer &) = delete;
 
-    /// Reads the head of the stream. Returns false when it is none.
+    /// Reads the head of the stream. Returns false if it is invalid.
     [[nodiscard]] bool open();
 
-    /// The first track in one of these encodings; null without one.
+    /// The first track with one of these codecs; null without one.
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
-    /// Waits for the next piece of any track. Returns false at the end.
+    /// Waits for the next packet of any track. Returns false at the end of the stream.
     [[nodiscard]] bool read(AVPacket &packet);
 
 private:

@@ -32,21 +32,21 @@ std::span<const std::uint8_t> InputQueue::next(const std::stop_token &stop)
 {
     std::unique_lock lock(m_mutex);
     m_waiting -= std::exchange(m_inUse, 0);
-    forgetArrivals();
-    if (m_place == m_reading.size()) {
+    dropArrivals();
+    if (m_position == m_reading.size()) {
         m_reading.clear();
-        m_place = 0;
+        m_position = 0;
         m_arrived.wait(lock, stop, [this] { return !m_arriving.empty(); });
         std::swap(m_arriving, m_reading);
     }
     if (stop.stop_requested())
         return {};
-    return std::span<const std::uint8_t>(m_reading).subspan(m_place);
+    return std::span<const std::uint8_t>(m_reading).subspan(m_position);
 }
 
 void InputQueue::use(std::size_t count)
 {
-    m_place += count;
+    m_position += count;
     m_inUse += count;
     m_used += count;
 }
@@ -54,19 +54,19 @@ void InputQueue::use(std::size_t count)
 bool InputQueue::hasNext() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_place < m_reading.size() || !m_arriving.empty();
+    return m_position < m_reading.size() || !m_arriving.empty();
 }
 
 std::int64_t InputQueue::arrival()
 {
     const std::lock_guard lock(m_mutex);
-    forgetArrivals();
+    dropArrivals();
     return m_arrivals.empty() ? 0 : m_arrivals.front().time;
 }
 
-void InputQueue::forgetArrivals()
+void InputQueue::dropArrivals()
 {
-    // The last one stays: what arrives later counts from its end.
+    // The last entry stays: later entries start at its end.
     while (m_arrivals.size() > 1 && m_arrivals.front().end <= m_used)
         m_arrivals.pop_front();
 }

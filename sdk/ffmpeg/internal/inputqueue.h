@@ -1,4 +1,4 @@
-// What was pushed into a port and waits to be decoded.
+// The input of a port that is not decoded yet.
 #pragma once
 
 #include <condition_variable>
@@ -11,39 +11,39 @@
 
 namespace sdk::ffmpeg {
 
-/// put() and waitingBytes() may be called from any thread, the others from one that reads.
+/// put() and waitingBytes() are thread-safe. The other functions belong to one reading thread.
 class InputQueue
 {
 public:
     explicit InputQueue(std::size_t limit) : m_limit(limit) {}
 
-    /// Takes bytes that arrive at `time`, in milliseconds from any starting point. Returns false, with
-    /// nothing taken, when there is no room for all of them.
+    /// Adds bytes that arrive at `time`, in milliseconds since any start. Returns false and adds nothing if
+    /// the free space is too small.
     bool put(std::span<const std::uint8_t> bytes, std::int64_t time);
 
-    /// What was taken and not yet dealt with: bytes count until next() is called after their use(), and those
-    /// that are held.
+    /// The number of unprocessed bytes. Used bytes count until the next call of next(); held bytes count as
+    /// well.
     [[nodiscard]] std::size_t waitingBytes() const;
 
-    /// Waits for bytes, and returns them up to the next call; none when a stop was requested.
+    /// Waits for bytes and returns them; they are valid until the next call. Empty after a request to stop.
     [[nodiscard]] std::span<const std::uint8_t> next(const std::stop_token &stop);
 
-    /// Takes the first `count` of the bytes that next() returned, which stay readable until its next call.
+    /// Consumes the first `count` bytes of next(). They stay readable until the next call of next().
     void use(std::size_t count);
 
     /// Whether next() would not wait.
     [[nodiscard]] bool hasNext() const;
 
-    /// When the next byte that can be used arrived. Only where hasNext() is true.
+    /// The arrival time of the next byte. Requires hasNext().
     [[nodiscard]] std::int64_t arrival();
 
-    /// So many bytes that were used are not dealt with yet.
+    /// `count` used bytes are not processed yet.
     void hold(std::size_t count);
 
 private:
-    void forgetArrivals(); // with the lock held
+    void dropArrivals(); // the caller holds the lock
 
-    /// The bytes up to `end`, counted from the first one that was put in, arrived at `time`.
+    /// The bytes up to the stream position `end` arrived at `time`.
     struct Arrival
     {
         std::uint64_t end;
@@ -52,18 +52,18 @@ private:
 
     const std::size_t m_limit;
 
-    mutable std::mutex m_mutex; // for the five below
+    mutable std::mutex m_mutex; // guards the five members below
     std::condition_variable_any m_arrived;
     std::vector<std::uint8_t> m_arriving;
-    std::deque<Arrival> m_arrivals; // of what was not used yet; the last one stays
+    std::deque<Arrival> m_arrivals; // of unused bytes; the last entry stays
     std::size_t m_waiting = 0;
     std::size_t m_held = 0;
 
-    // of the thread that reads
+    // members of the reading thread
     std::vector<std::uint8_t> m_reading;
-    std::size_t m_place = 0;
-    std::size_t m_inUse = 0;  // bytes before m_place that still count
-    std::uint64_t m_used = 0; // since the first one
+    std::size_t m_position = 0;
+    std::size_t m_inUse = 0;  // bytes before m_position that still count
+    std::uint64_t m_used = 0; // stream position of the next byte
 };
 
 } // namespace sdk::ffmpeg

@@ -13,13 +13,13 @@ Q_LOGGING_CATEGORY(ffmpegLog, "configtools.sdk.ffmpeg", QtInfoMsg)
 
 namespace {
 
-thread_local unsigned linesOfErrors = 0;
+thread_local unsigned errorCount = 0;
 
 /// Called by FFmpeg on any thread, with lines of every level.
 void writeLine(void *source, int level, const char *format, va_list arguments)
 {
     if (level <= AV_LOG_ERROR)
-        ++linesOfErrors;
+        ++errorCount;
     if (level > AV_LOG_WARNING || !ffmpegLog().isDebugEnabled())
         return;
     std::array<char, 400> line{};
@@ -37,9 +37,9 @@ void routeLog()
     streams::setLibraryLogHandler(&writeLine);
 }
 
-unsigned errorLines()
+unsigned loggedErrors()
 {
-    return linesOfErrors;
+    return errorCount;
 }
 
 } // namespace sdk::ffmpeg

@@ -4,15 +4,16 @@
 
 namespace sdk::ffmpeg {
 
-/// Its debug lines are what FFmpeg says of a stream, which are many for a damaged one: they must be asked
-/// for.
+/// Its debug lines are FFmpeg's messages. They are disabled by default: a damaged stream causes many.
 Q_DECLARE_LOGGING_CATEGORY(ffmpegLog)
 
-/// Takes FFmpeg's lines to ffmpegLog, instead of to standard error. For the whole process, once is enough.
+/// Redirects FFmpeg's log from standard error to ffmpegLog, for the complete process. Further calls have no
+/// effect.
 void routeLog();
 
-/// How many errors FFmpeg has told of on the calling thread: its container readers go on after damage, and
-/// say so nowhere else.
-[[nodiscard]] unsigned errorLines();
+/// The number of errors that FFmpeg has logged on the calling thread. Two kinds of damage have no other
+/// report: the demuxer resynchronises without an error code or a packet flag, and the H.265 decoder replaces
+/// missing reference frames without a frame flag.
+[[nodiscard]] unsigned loggedErrors();
 
 } // namespace sdk::ffmpeg

@@ -9,11 +9,11 @@ namespace sdk::ffmpeg {
 
 void PacketBacklog::add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t arrival)
 {
-    m_pieces.push_back({std::move(packet), isPicture, arrival});
-    m_bytes += m_pieces.back().bytes();
-    if (!m_pieces.back().isKeyPicture())
+    m_entries.push_back({std::move(packet), isPicture, arrival});
+    m_bytes += m_entries.back().bytes();
+    if (!m_entries.back().isKeyFrame())
         return;
-    m_waitedInVain = false;
+    m_hasTimedOut = false;
     if (m_lastKeyArrival)
         m_keyInterval = arrival - *m_lastKeyArrival;
     m_lastKeyArrival = arrival;
@@ -21,66 +21,66 @@ void PacketBacklog::add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t
 
 std::int64_t PacketBacklog::delay(std::int64_t now) const
 {
-    return m_pieces.empty() ? 0 : now - m_pieces.front().arrival;
+    return m_entries.empty() ? 0 : now - m_entries.front().arrival;
 }
 
 PacketBacklog::Skip PacketBacklog::skip(std::int64_t now)
 {
-    const auto newestKey = std::find_if(m_pieces.rbegin(), m_pieces.rend(),
-                                        [](const Piece &piece) { return piece.isKeyPicture(); });
-    if (newestKey != m_pieces.rend() && (m_waitsForKey || delay(now) > skippedDelay)) {
+    const auto newestKey = std::find_if(m_entries.rbegin(), m_entries.rend(),
+                                        [](const Entry &entry) { return entry.isKeyFrame(); });
+    if (newestKey != m_entries.rend() && (m_waitsForKey || delay(now) > skippedDelay)) {
         const int pictures = dropBefore(std::prev(newestKey.base()));
         return {pictures, std::exchange(m_waitsForKey, false) || pictures > 0};
     }
-    if (m_waitsForKey && now - m_waitBegin > std::max(longestWait, 2 * m_keyInterval)) {
+    if (m_waitsForKey && now - m_waitStart > std::max(longestWait, 2 * m_keyInterval)) {
         m_waitsForKey = false;
-        m_waitedInVain = true;
+        m_hasTimedOut = true;
         return {0, true};
     }
     if (m_waitsForKey)
-        return {dropPictures(), true};
-    // A key picture is shown however late it is: where nothing is in time, the picture still moves on.
-    if (m_pieces.empty() || m_pieces.front().isKeyPicture() || m_waitedInVain)
+        return {dropFrames(), true};
+    // A key frame is shown regardless of its delay: a stream that is always late still shows images.
+    if (m_entries.empty() || m_entries.front().isKeyFrame() || m_hasTimedOut)
         return {};
     const std::int64_t late = delay(now);
-    if (late <= longDelay || (late <= longestDelay && !isKeyPictureExpected(now)))
+    if (late <= longDelay || (late <= longestDelay && !isKeyFrameExpected(now)))
         return {};
     m_waitsForKey = true;
-    m_waitBegin = now;
-    return {dropBefore(m_pieces.end()), true};
+    m_waitStart = now;
+    return {dropBefore(m_entries.end()), true};
 }
 
-bool PacketBacklog::isKeyPictureExpected(std::int64_t now) const
+bool PacketBacklog::isKeyFrameExpected(std::int64_t now) const
 {
     if (!m_lastKeyArrival)
         return false;
     const std::int64_t wait = *m_lastKeyArrival + m_keyInterval - now;
-    return std::abs(wait) <= shortWait; // one that is overdue for longer may not come soon either
+    return std::abs(wait) <= shortWait; // a key frame that is overdue for longer may never arrive
 }
 
-int PacketBacklog::dropBefore(const Pieces::iterator &end)
+int PacketBacklog::dropBefore(const Entries::iterator &end)
 {
     const auto pictures =
-        std::count_if(m_pieces.begin(), end, [](const Piece &piece) { return piece.isPicture; });
-    for (auto piece = m_pieces.begin(); piece != end; ++piece)
-        m_bytes -= piece->bytes();
-    m_pieces.erase(m_pieces.begin(), end);
+        std::count_if(m_entries.begin(), end, [](const Entry &entry) { return entry.isPicture; });
+    for (auto entry = m_entries.begin(); entry != end; ++entry)
+        m_bytes -= entry->bytes();
+    m_entries.erase(m_entries.begin(), end);
     return static_cast<int>(pictures);
 }
 
-int PacketBacklog::dropPictures()
+int PacketBacklog::dropFrames()
 {
-    return static_cast<int>(std::erase_if(m_pieces, [this](const Piece &piece) {
-        m_bytes -= piece.isPicture ? piece.bytes() : 0;
-        return piece.isPicture;
+    return static_cast<int>(std::erase_if(m_entries, [this](const Entry &entry) {
+        m_bytes -= entry.isPicture ? entry.bytes() : 0;
+        return entry.isPicture;
     }));
 }
 
 AvPointer<AVPacket> PacketBacklog::take()
 {
-    m_bytes -= m_pieces.front().bytes();
-    AvPointer<AVPacket> packet = std::move(m_pieces.front().packet);
-    m_pieces.pop_front();
+    m_bytes -= m_entries.front().bytes();
+    AvPointer<AVPacket> packet = std::move(m_entries.front().packet);
+    m_entries.pop_front();
     return packet;
 }
 

@@ -1,4 +1,4 @@
-// Pieces of a live stream that are read and not decoded yet.
+// Packets of a live stream that are read and not decoded yet.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -9,82 +9,79 @@
 
 namespace sdk::ffmpeg {
 
-/// Keeps pieces in their order, and leaves out what is too late for a live picture. A picture that needs no
-/// earlier one is called a key picture. Times are in milliseconds from any starting point. On one thread.
+/// Keeps packets in their order and drops late ones. Times are in milliseconds since any start. Not
+/// thread-safe.
 class PacketBacklog
 {
 public:
-    /// A stream that is later than this is read ahead, to find the next key picture, and pictures that no
-    /// other one needs are left out.
+    /// With a longer delay, the stream is read ahead to find the next key frame, and non-reference frames are
+    /// dropped.
     static constexpr std::int64_t noticeableDelay = 100;
 
-    /// Beyond this, what comes before the newest key picture is left out.
+    /// With a longer delay, packets before the newest key frame are dropped.
     static constexpr std::int64_t skippedDelay = 250;
 
-    /// Beyond this, everything is left out when a key picture is expected within `shortWait`: the picture
-    /// stands still so long.
+    /// With a longer delay, all packets are dropped if a key frame is expected within `shortWait`: the image
+    /// freezes until then.
     static constexpr std::int64_t longDelay = 400;
     static constexpr std::int64_t shortWait = 700;
 
-    /// Beyond this, everything is left out up to the next key picture.
+    /// With a longer delay, all packets up to the next key frame are dropped.
     static constexpr std::int64_t longestDelay = 3000;
 
-    /// A key picture is not waited for longer than this, or than twice the time between the last two. A
-    /// stream may have none after its first: it is then shown late, and not skipped until a key picture
-    /// comes.
+    /// The timeout for a key frame is the longer one of this and twice the last interval of key frames. A
+    /// stream may have no key frame after its first: it is then shown late, without drops until a key frame
+    /// arrives.
     static constexpr std::int64_t longestWait = 5000;
 
-    /// Takes a piece that arrived at `arrival`.
+    /// Adds a packet that arrived at `arrival`.
     void add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t arrival);
 
-    [[nodiscard]] bool isEmpty() const { return m_pieces.empty(); }
+    [[nodiscard]] bool isEmpty() const { return m_entries.empty(); }
 
-    /// Of the pieces together.
+    /// The total size of the packets.
     [[nodiscard]] std::size_t bytes() const { return m_bytes; }
 
-    /// How late the next piece is; 0 without one.
+    /// The delay of the next packet; 0 without one.
     [[nodiscard]] std::int64_t delay(std::int64_t now) const;
 
     struct Skip
     {
-        int pictures = 0;           ///< that were left out
-        bool isInterrupted = false; ///< the next picture does not follow on the one that was taken last
+        int pictures = 0;           ///< number of dropped frames
+        bool isInterrupted = false; ///< the next frame does not follow the last taken one
     };
 
-    /// Leaves out what is too late.
+    /// Drops late packets.
     [[nodiscard]] Skip skip(std::int64_t now);
 
-    /// The next piece. There must be one.
+    /// Removes and returns the next packet. Requires one.
     [[nodiscard]] AvPointer<AVPacket> take();
 
 private:
-    struct Piece
+    struct Entry
     {
         AvPointer<AVPacket> packet;
         bool isPicture;
         std::int64_t arrival;
 
-        [[nodiscard]] bool isKeyPicture() const
-        {
-            return isPicture && (packet->flags & AV_PKT_FLAG_KEY) != 0;
-        }
+        [[nodiscard]] bool isKeyFrame() const { return isPicture && (packet->flags & AV_PKT_FLAG_KEY) != 0; }
         [[nodiscard]] std::size_t bytes() const { return static_cast<std::size_t>(packet->size); }
     };
-    using Pieces = std::deque<Piece>;
+    using Entries = std::deque<Entry>;
 
-    [[nodiscard]] bool isKeyPictureExpected(std::int64_t now) const;
+    [[nodiscard]] bool isKeyFrameExpected(std::int64_t now) const;
 
-    // They return how many pictures were left out.
-    int dropBefore(const Pieces::iterator &end);
-    int dropPictures();
+    // These return the number of dropped frames.
+    int dropBefore(const Entries::iterator &end);
+    int dropFrames();
 
-    Pieces m_pieces;
+    Entries m_entries;
     std::size_t m_bytes = 0;
-    bool m_waitsForKey = false;   // pictures before the next key picture are left out
-    std::int64_t m_waitBegin = 0; // of the wait for a key picture
-    bool m_waitedInVain = false;  // no key picture has come since
+    bool m_waitsForKey = false;   // frames before the next key frame are dropped
+    std::int64_t m_waitStart = 0; // start of the wait for a key frame
+    bool m_hasTimedOut = false;   // the wait has timed out, and no key frame has arrived since
     std::optional<std::int64_t> m_lastKeyArrival;
-    std::int64_t m_keyInterval = 2000; // between the last two key pictures; until then what is usual
+    std::int64_t m_keyInterval = 2000; // between the last two key frames; initially a typical value
 };
 
 } // namespace sdk::ffmpeg

@@ -21,7 +21,7 @@ bool isRgb(int format)
 bool saysFullRange(const AVFrame &frame)
 {
     switch (frame.format) {
-    case AV_PIX_FMT_YUVJ420P: // these have it in their names
+    case AV_PIX_FMT_YUVJ420P: // full range by definition
     case AV_PIX_FMT_YUVJ422P:
     case AV_PIX_FMT_YUVJ440P:
     case AV_PIX_FMT_YUVJ444P:
@@ -35,7 +35,7 @@ bool saysBt709(const AVFrame &frame)
 {
     switch (frame.colorspace) {
     case AVCOL_SPC_BT709:
-    case AVCOL_SPC_BT2020_NCL: // nearer to it than to BT.601
+    case AVCOL_SPC_BT2020_NCL: // closer to BT.709 than to BT.601
     case AVCOL_SPC_BT2020_CL:
         return true;
     case AVCOL_SPC_FCC:
@@ -52,7 +52,7 @@ bool saysBt709(const AVFrame &frame)
 PictureColour PictureConverter::colourOf(const AVFrame &frame)
 {
     if (isRgb(frame.format))
-        return usualPictureColour(frame.height); // it is converted to that
+        return usualPictureColour(frame.height); // the target of the conversion
     if (saysBt709(frame))
         return saysFullRange(frame) ? PictureColour::Bt709Full : PictureColour::Bt709Limited;
     return saysFullRange(frame) ? PictureColour::Bt601Full : PictureColour::Bt601Limited;
@@ -82,7 +82,7 @@ bool PictureConverter::convert(const AVFrame &frame)
                                         AV_PIX_FMT_YUV420P, SWS_BILINEAR, nullptr, nullptr, nullptr));
     if (!m_scaler)
         return false;
-    // Only RGB changes its meaning: the others keep their matrix and their range.
+    // Only RGB gets another colour space. Other formats keep their matrix and their range.
     const PictureColour colour = colourOf(frame);
     const int *matrix = colourMatrix(colour);
     const int range = isFullRange(colour) ? 1 : 0;

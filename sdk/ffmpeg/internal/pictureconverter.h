@@ -1,4 +1,4 @@
-// Decoded pictures as they are delivered.
+// Converts decoded frames to the format of delivery.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -6,22 +6,22 @@
 
 namespace sdk::ffmpeg {
 
-/// On one thread.
+/// Not thread-safe.
 class PictureConverter
 {
 public:
-    /// Writes the picture's pictureSize() bytes to `destination`: copied when it is planar 4:2:0 of 8 bits,
-    /// converted otherwise. Returns false when it cannot be converted.
+    /// Writes the frame's pictureSize() bytes to `destination`. Planar 4:2:0 with 8 bits is copied, other
+    /// formats are converted. Returns false if the conversion fails.
     [[nodiscard]] bool write(const AVFrame &frame, std::uint8_t *destination);
 
-    /// What the written bytes mean.
+    /// The colour space of the written bytes.
     [[nodiscard]] static PictureColour colourOf(const AVFrame &frame);
 
 private:
     [[nodiscard]] bool convert(const AVFrame &frame);
 
     AvPointer<SwsContext> m_scaler;
-    AvPointer<AVFrame> m_converted; // its lines are padded, which the scaler writes to
+    AvPointer<AVFrame> m_converted; // with padded lines: the scaler writes beyond their ends
 };
 
 } // namespace sdk::ffmpeg

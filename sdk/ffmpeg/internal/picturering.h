@@ -1,4 +1,4 @@
-// The memory of a port's pictures.
+// The memory of a port's frames.
 #pragma once
 
 #include <array>
@@ -9,12 +9,12 @@
 
 namespace sdk::ffmpeg {
 
-/// Keeps the last two delivered pictures while the next is made: that is what DecodeHandler promises. On one
-/// thread.
+/// Keeps the last two delivered frames while the next one is written, as DecodeHandler specifies. Not
+/// thread-safe.
 class PictureRing
 {
 public:
-    /// Memory for the next picture; null when there is none. Asking twice gives the same.
+    /// Memory for the next frame; null without memory. Repeated calls return the same memory.
     [[nodiscard]] std::uint8_t *next(std::size_t size)
     {
         Buffer &buffer = m_buffers.at(m_next);
@@ -26,13 +26,13 @@ public:
         return buffer.bytes.get();
     }
 
-    /// The next picture has been delivered: the one before the last ends.
+    /// Marks the next frame as delivered. The memory of the oldest one becomes free.
     void noteDelivered() { m_next = (m_next + 1) % m_buffers.size(); }
 
 private:
     struct Buffer
     {
-        std::unique_ptr<std::uint8_t[]> bytes; // NOLINT(modernize-avoid-c-arrays): not filled before use
+        std::unique_ptr<std::uint8_t[]> bytes; // NOLINT(modernize-avoid-c-arrays): not initialised
         std::size_t size = 0;
     };
     std::array<Buffer, 3> m_buffers;

@@ -1,5 +1,4 @@
-// The layout of pictures: planes as DecodedFrameType::Picture has them, and FFmpeg's frames with padded
-// lines.
+// The layout of images: planes as in DecodedFrameType::Picture, and FFmpeg's frames with padded lines.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -19,19 +18,19 @@ struct PlaneSize
     }
 };
 
-/// Of a plane (from 0) of a picture.
+/// The size of a plane (from 0) of an image.
 [[nodiscard]] constexpr PlaneSize planeSize(int plane, int width, int height)
 {
     return plane == 0 ? PlaneSize{width, height} : PlaneSize{(width + 1) / 2, (height + 1) / 2};
 }
 
-/// Bytes of a whole picture.
+/// The size of a complete image in bytes.
 [[nodiscard]] inline std::size_t pictureSize(int width, int height)
 {
     return planeSize(0, width, height).bytes() + 2 * planeSize(1, width, height).bytes();
 }
 
-/// A frame of its own memory, whose lines the scaler may write beyond; null without memory.
+/// A frame with its own memory and padded lines: the scaler may write beyond their ends. Null without memory.
 [[nodiscard]] AvPointer<AVFrame> paddedFrame(AVPixelFormat format, int width, int height);
 
 /// Copies a planar 4:2:0 frame to pictureSize() bytes without padding, and back.

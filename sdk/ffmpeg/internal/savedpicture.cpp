@@ -13,7 +13,7 @@ namespace sdk::ffmpeg {
 
 namespace {
 
-/// The picture as blue, green, red and a spare byte for each pixel; null when that cannot be made.
+/// The image as blue, green, red and an unused byte for each pixel; null on failure.
 AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height, PictureColour colour)
 {
     const AvPointer<AVFrame> source = paddedFrame(AV_PIX_FMT_YUV420P, width, height);
@@ -45,8 +45,8 @@ bool savePicture(const std::uint8_t *picture, int width, int height, PictureColo
     jpeg.open(QIODevice::WriteOnly);
     if (!image.save(&jpeg, "JPG", quality))
         return false;
-    // Written beside the file and put in its place by a rename. Not through a buffer: the toolkit does not
-    // notice when only a part of that could be written.
+    // Written to a temporary file, which then replaces the file. Unbuffered, because Qt does not detect an
+    // incomplete write of its buffer.
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
         file.write(jpeg.data()) == jpeg.data().size() && file.commit())

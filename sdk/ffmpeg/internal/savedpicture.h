@@ -1,4 +1,4 @@
-// Pictures as files.
+// Saves images as files.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -9,8 +9,8 @@ class QString;
 
 namespace sdk::ffmpeg {
 
-/// Writes a picture (bytes as DecodedFrameType::Picture) as JPEG to `path`, in place of what is there, or
-/// leaves that as it was. `quality` is 1 to 100. Returns false when it cannot be written.
+/// Writes an image (bytes as DecodedFrameType::Picture) as JPEG to `path`. It replaces an existing file
+/// completely or not at all. `quality` is 1 to 100. Returns false on failure.
 [[nodiscard]] bool savePicture(const std::uint8_t *picture, int width, int height, PictureColour colour,
                                int quality, const QString &path);
 

@@ -27,7 +27,7 @@ std::span<const std::int16_t> SoundConverter::convert(const AVFrame &frame)
         return {reinterpret_cast<const std::int16_t *>(frame.data[0]), samples};
     if (!prepare(frame))
         return {};
-    m_samples.resize(samples); // as many as come in: the rate stays
+    m_samples.resize(samples); // the same number: the rate does not change
     auto *out = reinterpret_cast<std::uint8_t *>(m_samples.data());
     const int count = swr_convert(m_resampler.get(), &out, frame.nb_samples,
                                   const_cast<const std::uint8_t **>(frame.extended_data), frame.nb_samples);

@@ -1,4 +1,4 @@
-// Decoded sound as it is delivered.
+// Converts decoded audio to the format of delivery.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -8,7 +8,7 @@
 
 namespace sdk::ffmpeg {
 
-/// On one thread.
+/// Not thread-safe.
 class SoundConverter
 {
 public:
@@ -17,15 +17,14 @@ public:
     SoundConverter(const SoundConverter &) = delete;
     SoundConverter &operator=(const SoundConverter &) = delete;
 
-    /// The samples as 16 bits of one channel, which end with the next call; none when they cannot be
-    /// converted.
+    /// The samples as 16-bit mono, valid until the next call. Empty if the conversion fails.
     [[nodiscard]] std::span<const std::int16_t> convert(const AVFrame &frame);
 
 private:
     [[nodiscard]] bool prepare(const AVFrame &frame);
 
     AvPointer<SwrContext> m_resampler;
-    AVSampleFormat m_format = AV_SAMPLE_FMT_NONE; // what m_resampler is made for
+    AVSampleFormat m_format = AV_SAMPLE_FMT_NONE; // the input format of m_resampler
     AVChannelLayout m_layout{};
     int m_rate = 0;
     std::vector<std::int16_t> m_samples;

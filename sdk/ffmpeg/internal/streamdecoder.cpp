@@ -10,10 +10,10 @@ namespace sdk::ffmpeg {
 
 namespace {
 
-/// Milliseconds between delivered pictures of a stream that is late: each costs a copy and a drawing.
+/// The interval of delivered frames of a late stream, in milliseconds: each frame costs a copy and a repaint.
 constexpr std::int64_t hurriedPeriod = 80;
 
-/// As DecoderStatus has it.
+/// The codec name for DecoderStatus.
 std::string_view nameOf(const std::unique_ptr<TrackDecoder> &decoder)
 {
     if (!decoder)
@@ -54,15 +54,15 @@ bool StreamDecoder::run()
 {
     if (!open())
         return false;
-    unsigned errors = errorLines();
+    unsigned errors = loggedErrors();
     while (fillBacklog()) {
         if (m_liveClock)
-            skipLatePictures();
-        const bool isWhole = m_backlog.isEmpty() || decode(*m_backlog.take());
-        m_source.noteKept(m_backlog.bytes());
-        if (!isWhole || errorLines() != errors)
+            skipLateFrames();
+        const bool isUndamaged = m_backlog.isEmpty() || decode(*m_backlog.take());
+        m_source.setHeldBytes(m_backlog.bytes());
+        if (!isUndamaged || loggedErrors() != errors)
             m_observer.damaged();
-        errors = errorLines();
+        errors = loggedErrors();
     }
     if (m_pictures && !m_stop.stop_requested())
         m_pictures->finish([this](const AVFrame &frame) { deliverPicture(frame); });
@@ -84,18 +84,18 @@ bool StreamDecoder::open()
 
 bool StreamDecoder::fillBacklog()
 {
-    if (m_stop.stop_requested() || (m_backlog.isEmpty() && !readPiece()))
+    if (m_stop.stop_requested() || (m_backlog.isEmpty() && !readPacket()))
         return false;
-    // Not before it is late: reading may wait for the rest of a piece.
+    // Only if it is late: reading may wait for the rest of a packet.
     while (m_liveClock && m_backlog.delay(m_liveClock->now()) > PacketBacklog::noticeableDelay &&
-           m_source.hasBytes() && readPiece()) {
+           m_source.hasBytes() && readPacket()) {
     }
     return !m_stop.stop_requested();
 }
 
-bool StreamDecoder::readPiece()
+bool StreamDecoder::readPacket()
 {
-    m_source.noteKept(m_backlog.bytes());
+    m_source.setHeldBytes(m_backlog.bytes());
     AvPointer<AVPacket> packet(av_packet_alloc());
     if (m_hasEnded || !packet || !m_demuxer.read(*packet)) {
         m_hasEnded = true;
@@ -106,7 +106,7 @@ bool StreamDecoder::readPiece()
     return true;
 }
 
-void StreamDecoder::skipLatePictures()
+void StreamDecoder::skipLateFrames()
 {
     const std::int64_t now = m_liveClock->now();
     const PacketBacklog::Skip skip = m_backlog.skip(now);
@@ -118,22 +118,22 @@ void StreamDecoder::skipLatePictures()
     if (skip.isInterrupted)
         m_pictures->restart();
     m_pictures->setHurried(m_isHurried);
-    reportLeftOut();
+    reportDropped();
 }
 
-void StreamDecoder::reportLeftOut()
+void StreamDecoder::reportDropped()
 {
-    if (const int pictures = m_pictures->takeLeftOut(); pictures > 0)
+    if (const int pictures = m_pictures->takeDropped(); pictures > 0)
         m_observer.skipped(pictures);
 }
 
 bool StreamDecoder::decode(const AVPacket &packet)
 {
     if (m_pictures && packet.stream_index == m_pictures->track()) {
-        const bool isWhole =
+        const bool isUndamaged =
             m_pictures->decode(packet, [this](const AVFrame &frame) { deliverPicture(frame); });
-        reportLeftOut();
-        return isWhole;
+        reportDropped();
+        return isUndamaged;
     }
     if (m_sound && packet.stream_index == m_sound->track())
         return m_sound->decode(packet, [this](const AVFrame &frame) { deliverSound(frame); });
@@ -146,7 +146,7 @@ void StreamDecoder::deliverPicture(const AVFrame &frame)
         return;
     if (m_liveClock) {
         const std::int64_t now = m_liveClock->now();
-        const std::int64_t pause = now - m_delivery; // negative after the clock was set back
+        const std::int64_t pause = now - m_delivery; // negative if the clock was set back
         if (m_isHurried && !m_backlog.isEmpty() && pause >= 0 && pause < hurriedPeriod) {
             m_observer.skipped(1);
             return;

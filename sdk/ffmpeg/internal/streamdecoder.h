@@ -1,4 +1,4 @@
-// Decodes one live stream.
+// The decoder of one live stream.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -17,47 +17,46 @@ class Clock;
 
 namespace sdk::ffmpeg {
 
-/// Who is told what comes out of a stream, on the decoding thread.
+/// Receives the output of a stream, on the decoding thread.
 class StreamObserver
 {
 public:
     virtual ~StreamObserver() = default;
 
-    /// The encodings as DecoderStatus has them; empty for a track that is not there.
+    /// The codecs as in DecoderStatus; empty for a missing track.
     virtual void codecsFound(std::string_view video, std::string_view audio) = 0;
 
-    /// A picture or a piece of sound. Pictures are in the ring, sound ends with the call.
+    /// A frame of video or audio. Video is in the ring; audio is valid during the call.
     virtual void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) = 0;
 
-    /// A piece of the stream could not be decoded.
+    /// A part of the stream could not be decoded.
     virtual void damaged() = 0;
 
-    /// So many pictures were left out, because they were too late.
+    /// `pictures` late frames were dropped.
     virtual void skipped(int pictures) = 0;
 };
 
-/// From its head to its end, on one thread.
+/// Decodes from the head of the stream to its end. Not thread-safe.
 class StreamDecoder
 {
 public:
-    /// By `liveClock`, on which the bytes of `source` arrived, it leaves out what is too late; without one
-    /// nothing is.
+    /// `liveClock` has timed the arrival of `source`; with it, late frames are dropped. It may be null.
     StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, const Clock *liveClock,
                   std::stop_token stop);
 
-    /// Decodes until the stream ends, is given up or a stop is requested. Returns false when it has no head
-    /// that can be read.
+    /// Decodes until the stream ends, is abandoned or a stop is requested. Returns false if the head is
+    /// invalid.
     bool run();
 
 private:
     [[nodiscard]] bool open();
 
-    /// Gets the next piece into the backlog and, while that is late, those that wait behind it. Returns false
+    /// Reads the next packet into the backlog and, while that is late, all available packets. Returns false
     /// at the end.
     [[nodiscard]] bool fillBacklog();
-    [[nodiscard]] bool readPiece();
-    void skipLatePictures();
-    void reportLeftOut();
+    [[nodiscard]] bool readPacket();
+    void skipLateFrames();
+    void reportDropped();
     [[nodiscard]] bool decode(const AVPacket &packet);
     void deliverPicture(const AVFrame &frame);
     void deliverSound(const AVFrame &frame);
@@ -69,10 +68,10 @@ private:
     const std::stop_token m_stop;
     Demuxer m_demuxer;
     PacketBacklog m_backlog;
-    bool m_hasEnded = false;                  // nothing more can be read
-    bool m_isHurried = false;                 // the piece that is decoded is late
-    std::int64_t m_delivery = 0;              // of the last picture, on the live clock
-    std::unique_ptr<TrackDecoder> m_pictures; // null without such a track
+    bool m_hasEnded = false;                  // the demuxer has reached the end
+    bool m_isHurried = false;                 // the current packet is late
+    std::int64_t m_delivery = 0;              // time of the last delivered frame, on the live clock
+    std::unique_ptr<TrackDecoder> m_pictures; // null without video
     std::unique_ptr<TrackDecoder> m_sound;
     PictureConverter m_pictureConverter;
     SoundConverter m_soundConverter;

@@ -15,15 +15,16 @@ using Bytes = std::span<const std::uint8_t>;
 constexpr std::array<std::uint8_t, 4> headerIdentifier = {0x1A, 0x45, 0xDF, 0xA3};
 constexpr std::array<std::uint8_t, 4> clusterIdentifier = {0x1F, 0x43, 0xB6, 0x75};
 constexpr std::uint64_t documentTypeIdentifier = 0x4282;
-constexpr std::uint64_t longestHeader = 1024; // usual are 31 to 60 bytes
+constexpr std::uint64_t longestHeader = 1024; // typical headers have 31 to 60 bytes
 
-/// A number of EBML: the zero bits before its first one bit say how many bytes follow the first.
+/// A variable-length integer of EBML: the number of leading zero bits is the number of bytes after the first
+/// one.
 struct EbmlNumber
 {
     std::uint64_t value;    ///< without the length marker
-    std::uint64_t withMark; ///< with it, as identifiers are written
+    std::uint64_t withMark; ///< with the marker, as in identifiers
     std::size_t size;
-    bool isUnknown; ///< all bits set: "until something else begins"
+    bool isUnknown; ///< all bits set: an element of unknown size
 };
 
 std::optional<EbmlNumber> readNumber(Bytes bytes)
@@ -41,10 +42,10 @@ std::optional<EbmlNumber> readNumber(Bytes bytes)
     return EbmlNumber{value, number, size, value == mark - 1};
 }
 
-/// Whether the elements of a header say that a Matroska stream follows, and end where it ends.
-bool announcesMatroska(Bytes elements)
+/// Whether the elements of a header fill it exactly and have a Matroska document type.
+bool isMatroskaHeader(Bytes elements)
 {
-    bool announced = false;
+    bool isMatroska = false;
     while (!elements.empty()) {
         const std::optional<EbmlNumber> identifier = readNumber(elements);
         if (!identifier)
@@ -57,38 +58,38 @@ bool announcesMatroska(Bytes elements)
         if (identifier->withMark == documentTypeIdentifier) {
             std::string_view type(reinterpret_cast<const char *>(content.data()), content.size());
             type = type.substr(0, type.find('\0'));
-            announced = type == "matroska" || type == "webm";
+            isMatroska = type == "matroska" || type == "webm";
         }
         elements = elements.subspan(length->size + length->value);
     }
-    return announced;
+    return isMatroska;
 }
 
-enum class Verdict
+enum class HeaderState
 {
     NoHeader,
     Unfinished,
     Header,
 };
 
-/// What bytes that begin with a header's identifier are.
-Verdict judge(Bytes candidate)
+/// Classifies bytes that start with a header's identifier.
+HeaderState classify(Bytes candidate)
 {
     const Bytes rest = candidate.subspan(headerIdentifier.size());
     if (rest.empty())
-        return Verdict::Unfinished;
+        return HeaderState::Unfinished;
     const std::optional<EbmlNumber> length = readNumber(rest);
     if (!length)
-        return rest.front() == 0 ? Verdict::NoHeader : Verdict::Unfinished;
+        return rest.front() == 0 ? HeaderState::NoHeader : HeaderState::Unfinished;
     if (length->isUnknown || length->value > longestHeader)
-        return Verdict::NoHeader;
+        return HeaderState::NoHeader;
     if (rest.size() < length->size + length->value)
-        return Verdict::Unfinished;
-    return announcesMatroska(rest.subspan(length->size)) ? Verdict::Header : Verdict::NoHeader;
+        return HeaderState::Unfinished;
+    return isMatroskaHeader(rest.subspan(length->size)) ? HeaderState::Header : HeaderState::NoHeader;
 }
 
-/// How many of the last bytes, up to a whole identifier, begin one.
-std::size_t beginOfIdentifier(Bytes bytes)
+/// The number of last bytes that are the start of an identifier, up to a complete one.
+std::size_t identifierPrefix(Bytes bytes)
 {
     for (std::size_t count = std::min(headerIdentifier.size(), bytes.size()); count > 0; --count) {
         if (std::equal(bytes.end() - static_cast<std::ptrdiff_t>(count), bytes.end(),
@@ -102,27 +103,29 @@ std::size_t beginOfIdentifier(Bytes bytes)
 
 std::optional<std::size_t> StreamHeaderFinder::find(std::span<const std::uint8_t> bytes)
 {
-    std::size_t place = 0;
-    while (place < bytes.size()) {
+    std::size_t position = 0;
+    while (position < bytes.size()) {
         if (m_candidate.empty()) {
-            const void *first = std::memchr(&bytes[place], headerIdentifier.front(), bytes.size() - place);
+            const void *first =
+                std::memchr(&bytes[position], headerIdentifier.front(), bytes.size() - position);
             if (!first)
                 return std::nullopt;
-            place = static_cast<std::size_t>(static_cast<const std::uint8_t *>(first) - bytes.data());
+            position = static_cast<std::size_t>(static_cast<const std::uint8_t *>(first) - bytes.data());
         }
-        addToCandidate(bytes[place]);
-        ++place;
+        addToCandidate(bytes[position]);
+        ++position;
         if (m_candidate.size() < headerIdentifier.size())
             continue;
-        switch (judge(m_candidate)) {
-        case Verdict::Header:
+        switch (classify(m_candidate)) {
+        case HeaderState::Header:
             m_header = m_candidate;
-            keepEnd(); // where the last byte of this one was lost, that of the next stands in its place
-            return place;
-        case Verdict::NoHeader:
+            keepEnd(); // if the last byte of this header was lost, the first byte of the next one has
+                       // replaced it
+            return position;
+        case HeaderState::NoHeader:
             keepEnd();
             break;
-        case Verdict::Unfinished:
+        case HeaderState::Unfinished:
             break;
         }
     }
@@ -132,17 +135,17 @@ std::optional<std::size_t> StreamHeaderFinder::find(std::span<const std::uint8_t
 void StreamHeaderFinder::addToCandidate(std::uint8_t byte)
 {
     m_candidate.push_back(byte);
-    const std::size_t begin = beginOfIdentifier(m_candidate);
-    // A header holds no other one: where another identifier is complete, the candidate was none. One that is
-    // not complete must be its beginning.
-    if (begin == headerIdentifier.size() || m_candidate.size() <= headerIdentifier.size())
+    const std::size_t prefix = identifierPrefix(m_candidate);
+    // Headers are not nested: a complete identifier within the candidate starts a new one. An incomplete
+    // candidate must be a prefix of the identifier.
+    if (prefix == headerIdentifier.size() || m_candidate.size() <= headerIdentifier.size())
         keepEnd();
 }
 
 void StreamHeaderFinder::keepEnd()
 {
     m_candidate.erase(m_candidate.begin(),
-                      m_candidate.end() - static_cast<std::ptrdiff_t>(beginOfIdentifier(m_candidate)));
+                      m_candidate.end() - static_cast<std::ptrdiff_t>(identifierPrefix(m_candidate)));
 }
 
 std::span<const std::uint8_t, ClusterFinder::identifierSize> ClusterFinder::identifier()
@@ -155,10 +158,10 @@ std::optional<std::size_t> ClusterFinder::find(std::span<const std::uint8_t> byt
     constexpr std::uint32_t wanted = std::uint32_t{clusterIdentifier[0]} << 24U |
                                      std::uint32_t{clusterIdentifier[1]} << 16U |
                                      std::uint32_t{clusterIdentifier[2]} << 8U | clusterIdentifier[3];
-    for (std::size_t place = 0; place < bytes.size(); ++place) {
-        m_latest = m_latest << 8U | bytes[place];
+    for (std::size_t position = 0; position < bytes.size(); ++position) {
+        m_latest = m_latest << 8U | bytes[position];
         if (m_latest == wanted)
-            return place + 1;
+            return position + 1;
     }
     return std::nullopt;
 }

@@ -1,4 +1,4 @@
-// Marks in the bytes of a live stream, found however the bytes are cut.
+// Finds headers and clusters in the bytes of live streams, across the boundaries of chunks.
 #pragma once
 
 #include <cstdint>
@@ -8,32 +8,32 @@
 
 namespace sdk::ffmpeg {
 
-/// Finds the header that every Matroska stream begins with: that of EBML, with its type of document.
+/// Finds the EBML header with a Matroska document type, the start of every stream.
 class StreamHeaderFinder
 {
 public:
-    /// Looks at the next bytes up to the end of the first header that ends in them. Returns how many that
-    /// were, or nothing when none ends there.
+    /// Searches the next bytes up to the end of the first header. Returns the number of bytes up to its end,
+    /// or nullopt if no header ends in them.
     [[nodiscard]] std::optional<std::size_t> find(std::span<const std::uint8_t> bytes);
 
-    /// The header that was found last.
+    /// The last found header.
     [[nodiscard]] const std::vector<std::uint8_t> &header() const { return m_header; }
 
 private:
     void addToCandidate(std::uint8_t byte);
     void keepEnd();
 
-    std::vector<std::uint8_t> m_candidate; // the latest bytes, as far as they may begin a header
+    std::vector<std::uint8_t> m_candidate; // the latest bytes that may be the start of a header
     std::vector<std::uint8_t> m_header;
 };
 
-/// Finds the identifier of a cluster, the piece of a stream that can be read without those before it.
+/// Finds the identifier of a cluster, at which a demuxer with the head of the stream can resume.
 class ClusterFinder
 {
 public:
     static constexpr std::size_t identifierSize = 4;
 
-    /// The identifier's bytes in their order.
+    /// The bytes of the identifier.
     [[nodiscard]] static std::span<const std::uint8_t, identifierSize> identifier();
 
     /// As StreamHeaderFinder::find().

@@ -7,35 +7,35 @@ namespace sdk::ffmpeg {
 
 namespace {
 
-/// Heads are about one kilobyte; reading one again is to cost little.
+/// Typical heads have one kilobyte. The limit bounds the cost of reading a head again.
 constexpr std::size_t longestHead = std::size_t{16} * 1024;
 
-/// What a reader may pass without making something of it. A cluster holds at least one picture or piece of
-/// sound, and a picture never takes so many bytes.
+/// Limits of a reader without progress. A cluster contains at least one frame, and a frame is always smaller
+/// than the limit of bytes.
 constexpr int mostClustersWithoutProgress = 4;
 constexpr std::size_t mostBytesWithoutProgress = std::size_t{8} * 1024 * 1024;
 
 } // namespace
 
-StreamSource::Begin StreamSource::begin(const std::stop_token &stop)
+StreamSource::Start StreamSource::start(const std::stop_token &stop)
 {
-    // A stream that is given up has just come to a cluster, which is where it can be taken up.
+    // A stream that is abandoned for its number of clusters is at a cluster, where it can resume.
     const bool isAtCluster = !m_hasNext && m_clustersWithoutProgress >= mostClustersWithoutProgress;
     m_before.clear();
-    m_beforePlace = 0;
+    m_beforePosition = 0;
     noteProgress();
     m_skipped = 0;
     m_clusterFinder.reset();
-    if (m_headState == Head::Growing) // the reader stopped in the middle of it
-        forgetHead();
+    if (m_headState == Head::Growing) // the reader stopped within the head
+        clearHead();
     if (isAtCluster && m_headState == Head::Complete) {
         prepareHead();
-        return Begin::SameStream;
+        return Start::SameStream;
     }
     while (!m_hasNext) {
         const std::span<const std::uint8_t> bytes = m_queue.next(stop);
         if (bytes.empty())
-            return Begin::Stopped;
+            return Start::Stopped;
         std::optional<std::size_t> cluster;
         if (m_headState == Head::Complete)
             cluster = m_clusterFinder.find(bytes);
@@ -50,45 +50,45 @@ StreamSource::Begin StreamSource::begin(const std::stop_token &stop)
         } else if (cluster) {
             m_skipped -= std::min(m_skipped, ClusterFinder::identifierSize);
             prepareHead();
-            return Begin::SameStream;
+            return Start::SameStream;
         }
     }
     m_hasNext = false;
     m_head = m_headerFinder.header();
     m_headState = Head::Growing;
     m_before = m_head;
-    return Begin::NewStream;
+    return Start::NewStream;
 }
 
 std::size_t StreamSource::read(std::span<std::uint8_t> destination, const std::stop_token &stop)
 {
     if (m_hasNext || destination.empty() || stop.stop_requested())
         return 0;
-    if (m_beforePlace < m_before.size()) {
-        const std::size_t count = std::min(destination.size(), m_before.size() - m_beforePlace);
-        std::copy_n(m_before.begin() + static_cast<std::ptrdiff_t>(m_beforePlace), count,
+    if (m_beforePosition < m_before.size()) {
+        const std::size_t count = std::min(destination.size(), m_before.size() - m_beforePosition);
+        std::copy_n(m_before.begin() + static_cast<std::ptrdiff_t>(m_beforePosition), count,
                     destination.begin());
-        m_beforePlace += count;
+        m_beforePosition += count;
         return count;
     }
-    if (isGivenUp())
+    if (isAbandoned())
         return 0;
     const std::span<const std::uint8_t> bytes = m_queue.next(stop);
-    return passOn(bytes.first(std::min(bytes.size(), destination.size())), destination);
+    return copyTo(bytes.first(std::min(bytes.size(), destination.size())), destination);
 }
 
-std::size_t StreamSource::passOn(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> destination)
+std::size_t StreamSource::copyTo(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> destination)
 {
-    // Of the first byte: the last ones may be the mark of the next piece.
+    // The time of the first byte: the last bytes may belong to the next packet.
     m_arrival = m_queue.arrival();
-    // Not beyond the begin of a cluster: so it is known how many of them the reader has seen.
+    // Not beyond the start of a cluster, which allows the clusters to be counted.
     const std::optional<std::size_t> cluster = m_clusterFinder.find(bytes);
     bytes = bytes.first(cluster.value_or(bytes.size()));
     std::size_t count = bytes.size();
     if (const std::optional<std::size_t> header = m_headerFinder.find(bytes)) {
         m_queue.use(*header);
         m_hasNext = true;
-        // A part of the header may have been passed on with earlier bytes. It does no harm at the end.
+        // A part of the header may have been read with earlier bytes. It is harmless at the end.
         count = *header - std::min(*header, m_headerFinder.header().size());
     } else {
         m_queue.use(count);
@@ -105,7 +105,7 @@ void StreamSource::extendHead(std::span<const std::uint8_t> bytes, bool endsInCl
 {
     m_head.insert(m_head.end(), bytes.begin(), bytes.end());
     if (m_head.size() > longestHead) {
-        forgetHead();
+        clearHead();
     } else if (endsInCluster) {
         m_head.resize(m_head.size() - ClusterFinder::identifierSize);
         m_headState = Head::Complete;
@@ -119,13 +119,13 @@ void StreamSource::prepareHead()
     m_before.insert(m_before.end(), identifier.begin(), identifier.end());
 }
 
-bool StreamSource::isGivenUp() const
+bool StreamSource::isAbandoned() const
 {
     return m_clustersWithoutProgress >= mostClustersWithoutProgress ||
            m_bytesWithoutProgress >= mostBytesWithoutProgress;
 }
 
-void StreamSource::forgetHead()
+void StreamSource::clearHead()
 {
     m_head.clear();
     m_headState = Head::Unknown;

@@ -1,4 +1,4 @@
-// Cuts what arrives at a port into streams.
+// Splits the input of a port into streams.
 #pragma once
 
 #include "sdk/ffmpeg/internal/inputqueue.h"
@@ -11,60 +11,60 @@
 
 namespace sdk::ffmpeg {
 
-/// The bytes of a port are one stream after another: each ends where the header of the next begins, or where
-/// its reader gives it up. What lies between streams is skipped. A stream that was given up is taken up again
-/// at its next cluster: its head, the bytes before the first one, is kept and read again. On one thread.
+/// The input of a port is a sequence of streams. A stream ends at the header of the next one, or is abandoned
+/// if its reader makes no progress. Bytes between streams are skipped. An abandoned stream resumes at its
+/// next cluster: its head, the bytes before the first cluster, is stored and read again. Not thread-safe.
 class StreamSource
 {
 public:
     explicit StreamSource(InputQueue &queue) : m_queue(queue) {}
 
-    enum class Begin
+    enum class Start
     {
         Stopped,
         NewStream,
-        SameStream, ///< taken up again
+        SameStream, ///< resumed
     };
 
-    /// Waits for the begin of a stream.
-    [[nodiscard]] Begin begin(const std::stop_token &stop);
+    /// Waits for the start of a stream.
+    [[nodiscard]] Start start(const std::stop_token &stop);
 
-    /// Waits for bytes of the stream that has begun and puts some of them, at least one, into `destination`.
-    /// Returns how many; 0 at the end of the stream, when it is given up, and when a stop was requested.
+    /// Waits for bytes of the current stream and copies at least one to `destination`. Returns their number;
+    /// 0 at the end of the stream, if it is abandoned, and after a request to stop.
     [[nodiscard]] std::size_t read(std::span<std::uint8_t> destination, const std::stop_token &stop);
 
-    /// Tells that the reader makes something of the bytes. One that does not for several clusters, or for too
-    /// many bytes, has lost its way, and the stream is given up.
+    /// Reports progress of the reader. Without progress for several clusters or too many bytes, the reader
+    /// has lost synchronisation, and the stream is abandoned.
     void noteProgress()
     {
         m_bytesWithoutProgress = 0;
         m_clustersWithoutProgress = 0;
     }
 
-    /// The stream is not to be taken up again.
-    void forgetHead();
+    /// Clears the head: the stream cannot be resumed.
+    void clearHead();
 
-    /// Whether the stream ended with the header of the next, not by being given up.
+    /// Whether the stream ended with the header of the next one, and was not abandoned.
     [[nodiscard]] bool hasNext() const { return m_hasNext; }
 
     /// Whether read() would not wait.
-    [[nodiscard]] bool hasBytes() const { return m_beforePlace < m_before.size() || m_queue.hasNext(); }
+    [[nodiscard]] bool hasBytes() const { return m_beforePosition < m_before.size() || m_queue.hasNext(); }
 
-    /// When the bytes that were read last arrived at the port.
+    /// The arrival time of the last read bytes.
     [[nodiscard]] std::int64_t arrival() const { return m_arrival; }
 
-    /// Tells how many of the bytes that were read the reader keeps for later.
-    void noteKept(std::size_t count) { m_queue.hold(count); }
+    /// Sets the number of read bytes that the reader has not processed yet.
+    void setHeldBytes(std::size_t count) { m_queue.hold(count); }
 
-    /// Bytes skipped before the stream that has begun.
+    /// The number of bytes that were skipped before the current stream.
     [[nodiscard]] std::size_t skipped() const { return m_skipped; }
 
 private:
-    [[nodiscard]] std::size_t passOn(std::span<const std::uint8_t> bytes,
+    [[nodiscard]] std::size_t copyTo(std::span<const std::uint8_t> bytes,
                                      std::span<std::uint8_t> destination);
     void extendHead(std::span<const std::uint8_t> bytes, bool endsInCluster);
     void prepareHead();
-    [[nodiscard]] bool isGivenUp() const;
+    [[nodiscard]] bool isAbandoned() const;
 
     InputQueue &m_queue;
     StreamHeaderFinder m_headerFinder;
@@ -79,9 +79,9 @@ private:
     Head m_headState = Head::Unknown;
     std::vector<std::uint8_t> m_head;
 
-    bool m_hasNext = false;             // the header of the next stream has been found
-    std::vector<std::uint8_t> m_before; // what is to be read before the bytes of the queue
-    std::size_t m_beforePlace = 0;
+    bool m_hasNext = false;             // the header of the next stream was found
+    std::vector<std::uint8_t> m_before; // bytes to read before those of the queue
+    std::size_t m_beforePosition = 0;
     std::size_t m_bytesWithoutProgress = 0;
     int m_clustersWithoutProgress = 0;
     std::size_t m_skipped = 0;

@@ -9,7 +9,8 @@ namespace sdk::ffmpeg {
 TrackDecoder::TrackDecoder(AvPointer<AVCodecContext> context, AvPointer<AVFrame> frame, const AVStream &track)
     : m_context(std::move(context)), m_frame(std::move(frame)), m_track(track.index),
       m_containerRate(track.avg_frame_rate),
-      // Its decoder makes up what the first pictures refer to, that of H.264 waits by itself.
+      // The H.265 decoder generates missing references of the first frames. The H.264 decoder waits for a key
+      // frame.
       m_waitsForKey(m_context->codec_id == AV_CODEC_ID_HEVC)
 {
 }
@@ -24,7 +25,7 @@ std::unique_ptr<TrackDecoder> TrackDecoder::open(const AVStream &track)
     context->pkt_timebase = track.time_base;
     context->thread_count = 1;
     context->max_pixels = mostPixels;
-    // Pictures are cut exactly to their size: they are copied anyway.
+    // Cropping is exact; frames are copied anyway.
     context->flags |= AV_CODEC_FLAG_UNALIGNED;
     if (avcodec_open2(context.get(), codec, nullptr) < 0)
         return nullptr;
@@ -38,19 +39,19 @@ bool TrackDecoder::decode(const AVPacket &packet, const FrameHandler &handler)
     m_waitsForKey = false;
     const bool isTaken = avcodec_send_packet(m_context.get(), &packet) == 0;
     ++m_held;
-    const bool isWhole = takeFrames(handler) && isTaken;
-    // The decoder says only how many frames it holds back to order them. What is beyond that does not come.
+    const bool isUndamaged = takeFrames(handler) && isTaken;
+    // The decoder reports only the size of its reorder buffer. Frames beyond it are dropped.
     const int held = std::clamp(m_held, 0, std::max(0, m_context->has_b_frames));
-    if (isWhole && m_context->skip_frame == AVDISCARD_NONREF)
-        m_leftOut += std::max(0, m_held - held);
+    if (isUndamaged && m_context->skip_frame == AVDISCARD_NONREF)
+        m_dropped += std::max(0, m_held - held);
     m_held = held;
-    return isWhole;
+    return isUndamaged;
 }
 
 void TrackDecoder::restart()
 {
     avcodec_flush_buffers(m_context.get());
-    m_leftOut += std::exchange(m_held, 0);
+    m_dropped += std::exchange(m_held, 0);
 }
 
 void TrackDecoder::setHurried(bool isHurried)
@@ -66,16 +67,16 @@ void TrackDecoder::finish(const FrameHandler &handler)
 
 bool TrackDecoder::takeFrames(const FrameHandler &handler)
 {
-    bool isWhole = true;
+    bool isUndamaged = true;
     int result = 0;
     while ((result = avcodec_receive_frame(m_context.get(), m_frame.get())) == 0) {
         --m_held;
         if (m_frame->decode_error_flags == 0 && (m_frame->flags & AV_FRAME_FLAG_CORRUPT) == 0)
             handler(*m_frame);
         else
-            isWhole = false;
+            isUndamaged = false;
     }
-    return isWhole && (result == AVERROR(EAGAIN) || result == AVERROR_EOF);
+    return isUndamaged && (result == AVERROR(EAGAIN) || result == AVERROR_EOF);
 }
 
 int TrackDecoder::pictureRate() const

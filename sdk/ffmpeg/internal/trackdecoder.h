@@ -1,4 +1,4 @@
-// Decodes the pictures or the sound of a stream.
+// The decoder of a stream's video or audio track.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -8,8 +8,8 @@
 
 namespace sdk::ffmpeg {
 
-/// Bounds of pictures: what the largest level of H.264 allows. Larger ones are announced by nobody but a
-/// damaged or hostile stream.
+/// The limits of image sizes, those of the highest level of H.264. Only damaged or malicious streams exceed
+/// them.
 inline constexpr int longestSide = 8192;
 inline constexpr std::int64_t mostPixels = std::int64_t{8192} * 4320;
 
@@ -19,36 +19,36 @@ inline constexpr std::int64_t mostPixels = std::int64_t{8192} * 4320;
            width * height <= mostPixels;
 }
 
-/// On one thread. It needs none of its own: more of them hold pictures back.
+/// Not thread-safe. It has no threads: frame threading would delay frames.
 class TrackDecoder
 {
 public:
-    /// Returns null when the track cannot be decoded.
+    /// Returns null if the track cannot be decoded.
     [[nodiscard]] static std::unique_ptr<TrackDecoder> open(const AVStream &track);
 
-    /// Called with each whole frame; it ends with the call.
+    /// Called with each undamaged frame, which is valid during the call.
     using FrameHandler = std::function<void(const AVFrame &)>;
 
-    /// Decodes a piece of the track. Returns false when it was damaged.
+    /// Decodes a packet of the track. Returns false if it is damaged.
     [[nodiscard]] bool decode(const AVPacket &packet, const FrameHandler &handler);
 
-    /// The next piece does not follow on the last one; it is a frame that needs no earlier one. Frames that
-    /// wait for others to come before them are left out.
+    /// Prepares for a key frame that does not follow the last packet. Frames in the reorder buffer are
+    /// dropped.
     void restart();
 
-    /// While it is hurried, it leaves out frames that no other one needs.
+    /// In hurried mode, non-reference frames are dropped.
     void setHurried(bool isHurried);
 
-    /// Brings the frames that wait for others to come before them. Nothing can be decoded after that.
+    /// Delivers the frames in the reorder buffer. No further packets can be decoded.
     void finish(const FrameHandler &handler);
 
-    /// The frames that were left out since the last call, without those of damaged pieces.
-    [[nodiscard]] int takeLeftOut() { return std::exchange(m_leftOut, 0); }
+    /// The number of frames that were dropped since the last call, without those of damaged packets.
+    [[nodiscard]] int takeDropped() { return std::exchange(m_dropped, 0); }
 
     [[nodiscard]] int track() const { return m_track; }
     [[nodiscard]] AVCodecID codec() const { return m_context->codec_id; }
 
-    /// Pictures a second, rounded, as container or pictures say; 0 when neither does.
+    /// The rounded frame rate from the container or the codec; 0 if unknown.
     [[nodiscard]] int pictureRate() const;
 
 private:
@@ -60,8 +60,8 @@ private:
     const int m_track;
     const AVRational m_containerRate;
     bool m_waitsForKey;
-    int m_held = 0; ///< frames that wait for others to come before them
-    int m_leftOut = 0;
+    int m_held = 0; ///< frames in the reorder buffer
+    int m_dropped = 0;
 };
 
 } // namespace sdk::ffmpeg
