@@ -7,9 +7,9 @@
 
 namespace sdk {
 
-/// As long as it exists, a call of this thread that waits for a device at its new address ends early: on a
-/// stop, or when the time is over. It ends within a moment then, as if the device had not answered any more;
-/// before the address was sent, with NetError::Cancelled. One at a time on a thread.
+/// As long as it exists, a call of NetModifyDeviceBySearch on this thread ends early: on a stop, or when the
+/// time is over. A wait for the device at its new address ends within a moment. A request that is under way
+/// before is finished first. One at a time on a thread.
 class CallStop
 {
 public:

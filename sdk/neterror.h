@@ -31,7 +31,7 @@ enum class NetError : std::uint32_t
     UnknownCertificate =
         0x800000A6, ///< nobody has agreed to the key of the device's certificate; nothing was sent
     ChangedCertificate = 0x800000A7, ///< the device shows another key than the stored one; nothing was sent
-    Cancelled = 0x800000A8,          ///< NetCancelCalls has ended the call
+    Cancelled = 0x800000A8,          ///< NetCancelCalls, or a CallStop of the caller, has ended the call
     AddressInUse = 0x800000A9,       ///< another device answers at the address
     Unconfirmed = 0x800000AA,        ///< the device has taken the request; nothing proves that it acts by it
 };

@@ -43,9 +43,11 @@ enum class CapabilityQuery : std::uint32_t
 ///   or fail; after they have ended, nothing uses the session any more.
 /// - The operations of one stream, one upgrade or one local search are called by one thread at a time, those
 ///   of different handles by any.
+/// - A blocked call ends before its `wait` by NetCancelCalls or NetLogout of its session, and by NetCleanup:
+///   it fails then. A CallStop of the calling thread (sdk/callstop.h) ends NetModifyDeviceBySearch; the other
+///   operations need not look at it. A local search ends by NetStopSearchDevices.
 /// - A handler must not block: it delays what else its thread delivers. What must not be called from a
-/// handler
-///   says so.
+///   handler says so.
 class NetLibrary
 {
 public:
@@ -158,6 +160,10 @@ public:
     /// to `wait`, and longer for a device that has taken the address or has to restart for it. AddressInUse
     /// if another device answers at the present address or at the new one; Unconfirmed if nobody answers at
     /// the new one.
+    ///
+    /// A CallStop of the calling thread ends the call: with Cancelled, and nothing has changed, if that was
+    /// before the address was sent. A later one ends the wait for the device, which fails as for a device
+    /// that does not answer: its address may have changed.
     virtual bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
                                          std::chrono::milliseconds wait) = 0;
 
