@@ -176,6 +176,9 @@ private:
     NetError waitForDevice(const CallGate::Call &call, const DemoSession &session,
                            std::chrono::milliseconds wait, std::optional<SceneDevice> &device);
 
+    /// As Clock::wait(). A CallStop of this thread ends it as well.
+    bool waitUnlessStopped(std::chrono::milliseconds duration, const std::stop_token &stop) const;
+
     /// Waits for the delay of a slow device. Returns false if it exceeds `wait`, and on a stop.
     bool passAnswerTime(const std::stop_token &stop, const SceneDevice &device,
                         std::chrono::milliseconds wait) const;

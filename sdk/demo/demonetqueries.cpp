@@ -69,7 +69,7 @@ bool DemoNetLibrary::passAnswerTime(const std::stop_token &stop, const SceneDevi
     if (!slow)
         return true;
     const std::chrono::milliseconds time(slow->number);
-    return m_site.clock().wait(std::min(time, bounded(wait)), stop) && time <= bounded(wait);
+    return waitUnlessStopped(std::min(time, bounded(wait)), stop) && time <= bounded(wait);
 }
 
 void DemoNetLibrary::noteRequest(const SceneDevice &device)

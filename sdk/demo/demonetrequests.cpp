@@ -7,7 +7,25 @@
 #include "sdk/demo/scene/addresstext.h"
 #include "sdk/demo/site/devicechanges.h"
 
+#include <algorithm>
+
 namespace sdk::demo {
+
+using namespace std::chrono_literals;
+
+bool DemoNetLibrary::waitUnlessStopped(std::chrono::milliseconds duration, const std::stop_token &stop) const
+{
+    constexpr auto lookInterval = 100ms;
+    Clock &clock = m_site.clock();
+    const std::int64_t end = clock.now() + duration.count();
+    std::int64_t next = 0;
+    do {
+        next = std::min(end, clock.now() + lookInterval.count());
+        if (CallStop::isRequested() || !clock.waitUntil(next, stop))
+            return false;
+    } while (next < end);
+    return true;
+}
 
 bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
                                 std::chrono::milliseconds wait)
@@ -24,7 +42,7 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
             return m_error.fail(NetError::ConnectFailed);
         return passAnswerTime(stop.get_token(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
     }
-    const bool isFullWait = m_site.clock().wait(bounded(wait), stop.get_token());
+    const bool isFullWait = waitUnlessStopped(bounded(wait), stop.get_token());
     return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
 }
 
@@ -69,6 +87,8 @@ bool DemoNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, Dev
            mac);
     if (input.size != sizeof(ModifyDeviceInput) || output.size != sizeof(DeviceRequestOutput))
         return m_error.fail(DemoError::WrongSize);
+    if (CallStop::isRequested())
+        return m_error.fail(NetError::Cancelled);
     if (!isAnswered(call, mac, true, wait))
         return false;
     const NetError error = changeDeviceAddress(m_site, mac, wanted);

@@ -1,6 +1,7 @@
 // What every provider of the network library does. Runs on the demo site, and in the network of a simulated
 // site (scripts/lab) on devices that are asked by open standards.
 #include "sdk/blocktext.h"
+#include "sdk/callstop.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/encodeblocks.h"
@@ -29,6 +30,8 @@ const char *const dropping = "192.168.1.14";
 const char *const leaving = "192.168.1.15";
 const char *const returning = "192.168.1.16";
 const char *const soundless = "192.168.1.17";
+const char *const moving = "192.168.1.18";
+const char *const movingToo = "192.168.1.19";
 const char *const nobody = "192.168.1.99";
 
 constexpr auto slowness = 600ms; // of the slow device
@@ -138,6 +141,12 @@ private:
                 others.append(QString("%1: %2").arg(operation.name, seen));
         }
         return others;
+    }
+
+    /// The devices of the scene are numbered alike.
+    static std::string macOf(const std::string &address)
+    {
+        return "02:1a:c5:00:0c:" + address.substr(address.rfind('.') + 1);
     }
 
     /// A device may answer for a moment after it was asked to reboot.
@@ -370,6 +379,58 @@ private Q_SLOTS:
         m_net->NetCleanup();
         QVERIFY(call.wait_for(slowness / 2) == std::future_status::ready);
         QVERIFY(call.get() != "done");
+    }
+
+    void aChangeOfAnAddressEnds_data()
+    {
+        const auto row = dataTable<QByteArray, bool, int>({"device", "isLate", "looks"});
+        row("stopped before it is sent", good, false, 0);
+        row("late before it is sent", good, true, 0);
+        row("stopped while the device is awaited", moving, false, 1);
+        row("late while the device is awaited", movingToo, true, 1);
+    }
+
+    /// The devices take their time, and on real sockets nobody reaches them at the new address.
+    void aChangeOfAnAddressEnds()
+    {
+        QFETCH(const QByteArray, device);
+        QFETCH(const bool, isLate);
+        QFETCH(const int, looks); // of the provider, before the time is over
+        ModifyDeviceInput change{};
+        change.size = sizeof(change);
+        change.device.ipVersion = 4;
+        change.device.port = 80;
+        setBlockText(change.device.mac, macOf(device.toStdString()));
+        setBlockText(change.device.currentAddress, device.toStdString());
+        setBlockText(change.device.address, "10.99.0.5");
+        setBlockText(change.device.subnetMask, "255.255.255.0");
+        setBlockText(change.device.account, "admin");
+        setBlockText(change.device.password, "Contract-1");
+        DeviceRequestOutput output = {.size = sizeof(output)};
+        std::stop_source stop;
+        int seen = 0;
+        const CallStop callStop(stop.get_token(), [&] {
+            if (seen++ < looks)
+                return false;
+            if (!isLate)
+                stop.request_stop();
+            return isLate;
+        });
+        if (looks == 0 && !isLate)
+            stop.request_stop();
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!m_net->NetModifyDeviceBySearch(change, output, usualWait));
+        const QString error = nameOf(m_net->NetGetLastError());
+        QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+        if (looks == 0) {
+            QCOMPARE(error, nameOf(NetError::Cancelled));
+            QVERIFY(login(device.constData()) > 0); // where it was
+        } else {
+            const QStringList unanswered = {nameOf(NetError::ConnectTimeout),
+                                            nameOf(NetError::NetworkFailure), nameOf(NetError::Unconfirmed)};
+            QVERIFY2(unanswered.contains(error), qPrintable(error));
+        }
     }
 
     void aDeviceThatIsOfflineIsNamedByEveryOperation()
