@@ -125,11 +125,11 @@ QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
     const UuidHolder holder = m_uuidHolders.value(uuid);
     if (!mac.isEmpty()) {
         // The same device, if it did not report its MAC before. Others that have its UUID and its address may
-        // exist: factories copy both.
-        const QString known = m_ipv4.row(holder.name).value(DeviceRowKey::mac).toString();
-        const bool isSame =
-            holder.ipport == ipport && holder.name == uuid && (known.isEmpty() || known == mac);
-        return isSame ? uuid : mac;
+        // exist: factories copy both. A row that was there before the search has no holder yet.
+        const QString known = m_ipv4.row(uuid).value(DeviceRowKey::mac).toString();
+        const bool isHolder = holder.ipport == ipport && holder.name == uuid;
+        const bool isListedBefore = holder.name.isEmpty() && m_ipv4.contains(uuid) && !m_ipv4.contains(mac);
+        return (isHolder || isListedBefore) && (known.isEmpty() || known == mac) ? uuid : mac;
     }
     if (uuid.isEmpty())
         return ipport;

@@ -50,7 +50,7 @@ public:
     ///
     /// A UUID belongs to the address that it was first seen with since clear(): a device at another one that
     /// reports it, too, is identified by its address. A MAC that a further answer of a device adds is taken
-    /// into its row.
+    /// into its row, also into one that was kept by the UUID: the row keeps its name, and the marks with it.
     Addition addAnswer(const sdk::SearchAnswer &answer);
 
     /// Answers of further devices that were dropped since clear(), because maximumFound rows had been found.

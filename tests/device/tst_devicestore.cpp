@@ -216,6 +216,49 @@ private Q_SLOTS:
         QVERIFY(m_store->ipv4Rows().isEmpty());
     }
 
+    void theRowOfAUuidIsThatOfTheMacThatComesInTheNextSearch_data()
+    {
+        // found: names and MACs of the rows after an answer of the next search; "lost" of the kept row
+        const auto row =
+            dataTable<AnswerTexts, AnswerTexts, QString, bool>({"kept", "answer", "rows", "isLost"});
+        const AnswerTexts bare = {.mac = "", .uuid = "5f5a"};
+        const AnswerTexts withMac = {.mac = "m1", .uuid = "5f5a"};
+        const AnswerTexts moved = {.address = "192.168.1.65", .mac = "m1", .uuid = "5f5a"};
+        row("same address", bare, withMac, "uuid:5f5a m1", false);
+        row("other address", bare, moved, "uuid:5f5a m1", false);
+        row("other UUID", bare, {.mac = "m1", .uuid = "6f"}, "uuid:5f5a |m1 m1", true);
+    }
+
+    /// What is marked by the name of the row, such as a failure, is still there then.
+    void theRowOfAUuidIsThatOfTheMacThatComesInTheNextSearch()
+    {
+        QFETCH(AnswerTexts, kept);
+        QFETCH(AnswerTexts, answer);
+        QFETCH(QString, rows);
+        QFETCH(bool, isLost);
+        m_store->addAnswer(searchAnswer(kept));
+        m_store->setKept({"uuid:5f5a"});
+        const auto rowsNow = [this] {
+            QStringList texts;
+            for (const QVariant &value : m_store->ipv4Rows()) {
+                const QJsonObject row = value.toJsonObject();
+                texts.append(rowName(row) + ' ' + row.value("mac").toString());
+            }
+            return texts.join('|');
+        };
+        for (int search = 0; search < 2; ++search) {
+            m_store->clear();
+            m_store->addAnswer(searchAnswer(answer));
+            m_store->addAnswer(searchAnswer(answer));
+            QCOMPARE(rowsNow(), rows);
+            QCOMPARE(m_store->rowNamed("uuid:5f5a").value("lost").toBool(), isLost);
+        }
+        // A copy of the UUID is no device of that row.
+        m_store->clear();
+        m_store->addAnswer(searchAnswer({.mac = "m2", .uuid = "5f5a"}));
+        QCOMPARE(m_store->rowNamed("m2").value("mac").toString(), isLost ? "" : "m2");
+    }
+
     void aDeviceWithAUuidIsFoundAtItsNewAddress()
     {
         const QString name = "uuid:5f5a";
