@@ -26,6 +26,7 @@
 #include "device/dialogrows.h"
 #include "device/encodeform.h"
 #include "device/failedmarks.h"
+#include "device/liveorder.h"
 #include "device/livesession.h"
 #include "device/searchreports.h"
 #include "device/sessionwork.h"
@@ -33,6 +34,7 @@
 #include "device/treemodel.h"
 #include "device/treerows.h"
 #include "device/upgradetools.h"
+#include "device/watcheddevices.h"
 #include "favourites/favouritelistmodel.h"
 #include "gallery/picturegallery.h"
 
@@ -173,6 +175,20 @@ struct BatchReportForeign
     Q_GADGET
     QML_FOREIGN(BatchReport)
     QML_NAMED_ELEMENT(BatchReport)
+};
+
+struct LiveOrderForeign
+{
+    Q_GADGET
+    QML_FOREIGN(LiveOrder)
+    QML_NAMED_ELEMENT(LiveOrder)
+};
+
+struct WatchedDevicesForeign
+{
+    Q_GADGET
+    QML_FOREIGN(WatchedDevices)
+    QML_NAMED_ELEMENT(WatchedDevices)
 };
 
 struct LiveSessionForeign

@@ -14,10 +14,9 @@ T.ApplicationWindow {
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
     property int visibilityBefore: Window.Windowed
-    readonly property int mostCompanions: 15
     property int firstChannel: 0   // to be shown when the device is there
-    property var earlier: null     // the devices before and behind this one in the list; null for none
-    property var later: null
+    property string earlier        // the devices before and behind this one in the list; "" for none
+    property string later
     signal said(string message, int kind)
 
     /// `table` is the list that the device is of, a DeviceTableModel, and `chosen` devices of it that are gone through
@@ -50,81 +49,49 @@ T.ApplicationWindow {
     }
 
     function findWay() {
-        earlier = visible ? order.neighbour(device.ipport, -1) : null;
-        later = visible ? order.neighbour(device.ipport, 1) : null;
+        earlier = visible ? order.neighbour(device.ipport, -1) : "";
+        later = visible ? order.neighbour(device.ipport, 1) : "";
     }
 
     /// To the device before this one, -1, or behind it, 1.
     function go(direction) {
         findWay();  // the list may be another one by now
         const next = direction < 0 ? earlier : later;
-        if (next !== null)
-            openDevice(next.ipport, -1);
+        if (next !== "")
+            openDevice(next, -1);
     }
 
     /// Adds the ticked devices of the list to the pictures.
     function addTicked() {
-        const isShown = values => values.ipport === device.ipport
-            || companions.places().some(ipport => ipport === values.ipport);
-        const wanted = order.tickedDevices().filter(values => !isShown(values));
-        const added = wanted.slice(0, mostCompanions - companions.count);
-        if (wanted.length === 0)
+        const places = watched.add(order.tickedDevices());
+        if (watched.leftOut > 0)
+            toasts.wanted().show(qsTr("最多加入 %1 台设备，其余 %2 台没有加入").arg(watched.most).arg(watched.leftOut),
+                OVToast.Information);
+        else if (places.length === 0)
             toasts.wanted().show(qsTr("勾选的设备都已在画面中"), OVToast.Information);
-        else if (added.length < wanted.length)
-            toasts.wanted().show(qsTr("最多加入 %1 台设备，其余 %2 台没有加入").arg(mostCompanions)
-                .arg(wanted.length - added.length), OVToast.Information);
-        for (const values of added)
-            companions.append({ipport: values.ipport, name: values.name || values.model || values.ipport});
-        gather();
-        grid.include(added.map(values => grid.channels.findIndex(entry => entry.ipport === values.ipport)));
+        grid.include(places);
     }
 
-    /// The pictures go first: they stream in the session of the device.
+    /// The snapshots end first: they stream in the session of the device.
     function remove(ipport) {
-        const place = companions.places().indexOf(ipport);
         taking.leave(ipport);
-        grid.adopt(grid.channels.filter(entry => entry.ipport !== ipport));
-        companions.remove(place);
-        gather();
+        watched.remove(ipport);
     }
 
     function removeAll() {
         taking.leave(taking.ipport);
-        grid.adopt(grid.channels.filter(entry => entry.companion === null));
-        companions.clear();
+        watched.clear();
     }
 
     /// The devices may have been renamed.
     function readNames() {
-        const rowOf = ipport => deviceFactory.getDeviceInfo("dh", ipport);
-        device.name = rowOf(device.ipport).name ?? device.name;
-        companions.places().forEach((ipport, place) => {
-            const name = rowOf(ipport).name ?? "";
-            if (name !== "")
-                companions.setProperty(place, "name", name);
-        });
-        gather();
+        device.name = deviceFactory.getDeviceInfo("dh", device.ipport).name ?? device.name;
+        noteDevice();
+        watched.readNames();
     }
 
-    /// The channels of all devices, in the order in which these were added. Devices of the same name have their addresses
-    /// beside it.
-    function gather() {
-        const isOne = companions.count === 0;
-        const devices = [device].concat(Array.from({length: added.count}, (_, place) => added.itemAt(place)));
-        const isUnique = name => devices.filter(other => other.name === name).length === 1;
-        const titleOf = one => one.name === "" ? one.ipport : isUnique(one.name) ? one.name : one.name + " " + one.ipport;
-        const entriesOf = (one, title, companion) => one.channels.map((entry, place) => ({
-            ipport: one.ipport,
-            channel: entry.channel,
-            connected: entry.connected,
-            name: entry.name !== "" ? entry.name : qsTr("通道 %1").arg(entry.channel + 1),
-            caption: isOne || entry.name.startsWith(title) ? entry.name
-                : entry.name === "" ? title : title + " · " + entry.name,
-            companion: companion,
-            heading: isOne || place > 0 ? undefined : title
-        }));
-        grid.adopt(devices.reduce((all, one, place) => all.concat(
-            entriesOf(one, titleOf(one), place === 0 ? null : one)), []));
+    function noteDevice() {
+        watched.setFirst(device.ipport, device.name, device.channels);
     }
 
     function toggleFullScreen() {
@@ -186,7 +153,7 @@ T.ApplicationWindow {
             window.close();
         }
         onAnswered: isThere => grid.answer(null, isThere)
-        onChannelsChanged: window.gather()
+        onChannelsChanged: window.noteDevice()
         onOpened: {
             grid.begin();
             if (window.firstChannel > 0)
@@ -199,12 +166,10 @@ T.ApplicationWindow {
         deviceFactory: window.deviceFactory
         onCountChanged: window.findWay()
     }
-    ListModel {
-        id: companions
-
-        function places() {
-            return Array.from({length: count}, (_, place) => get(place).ipport);
-        }
+    WatchedDevices {
+        id: watched
+        deviceFactory: window.deviceFactory
+        onChannelsChanged: grid.adopt(Array.from(channels))  // as they are now: the list itself changes with the model
     }
     DeviceListChanges {
         deviceFactory: window.deviceFactory
@@ -213,15 +178,15 @@ T.ApplicationWindow {
     }
     // qmllint disable unqualified
     Repeater {
-        id: added
-        model: companions
+        model: watched
 
         LiveCompanion {
             id: companion
             deviceFactory: window.deviceFactory
             onAnswered: isThere => grid.answer(companion, isThere)
-            onChannelsChanged: window.gather()
+            onChannelsChanged: watched.setChannels(ipport, companion, channels)
             onRenewed: grid.reconnect(companion)
+            Component.onCompleted: watched.setChannels(ipport, companion, channels)
         }
     }
     // qmllint enable unqualified
@@ -251,8 +216,8 @@ T.ApplicationWindow {
         height: window.fullScreen ? 0 : implicitHeight
         address: device.ipport
         cursor: window.localConfig
-        hasEarlier: window.earlier !== null
-        hasLater: window.later !== null
+        hasEarlier: window.earlier !== ""
+        hasLater: window.later !== ""
         maximised: window.maximised
         name: device.name
         place: {
@@ -298,7 +263,7 @@ T.ApplicationWindow {
         width: parent.width - x
         canSnap: device.loggedIn && device.channels.length > 0
         canSnapCurrent: canSnap && (grid.currentEntry?.companion?.loggedIn ?? true)
-        full: companions.count >= window.mostCompanions
+        full: watched.full
         fullScreen: window.fullScreen
         grid: grid
         otherBatch: window.batches.running && !taking.batch ? window.batches.current.title : ""
