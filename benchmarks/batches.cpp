@@ -1,10 +1,10 @@
 #include "benchmarks/measurements.h"
 
 #include "device/batch/batches.h"
-#include "device/devicefactory.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/treemodel.h"
+#include "device/models/treemodel.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicestore.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 

@@ -7,7 +7,7 @@
 #include "device/batch/addingbatches.h"
 #include "device/batch/batches.h"
 #include "device/batch/upgradebatches.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "sheets/qexcel.h"
 
 #include <QElapsedTimer>

@@ -1,11 +1,11 @@
 #include "benchmarks/measurements.h"
 
-#include "device/devicefactory.h"
-#include "device/devicerow.h"
-#include "device/devicestore.h"
-#include "device/devicetablemodel.h"
 #include "device/dh/devicedh.h"
-#include "device/treerows.h"
+#include "device/models/devicetablemodel.h"
+#include "device/models/treerows.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 

@@ -2,7 +2,7 @@
 // run, the milliseconds from the start of a search until that many rows are listed, and those from a probe of
 // its own until that many devices have answered it.
 #include "app/shell.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "sdk/onvif/discovery/discoverysockets.h"
 #include "sdk/onvif/discovery/probemessage.h"
 

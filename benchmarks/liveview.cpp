@@ -1,8 +1,8 @@
 #include "benchmarks/measurements.h"
 
-#include "device/devicefactory.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicestore.h"
 #include "media/videoitem.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"

@@ -1,7 +1,7 @@
 #include "benchmarks/measurements.h"
 
 #include "benchmarks/numberedstream.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "media/videoitem.h"
 #include "sdk/clock.h"
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"

@@ -1,8 +1,8 @@
 #include "benchmarks/measurements.h"
 
 #include "app/shell.h"
-#include "device/devicefactory.h"
-#include "device/devicetablemodel.h"
+#include "device/models/devicetablemodel.h"
+#include "device/registry/devicefactory.h"
 
 #include <QElapsedTimer>
 #include <QFile>

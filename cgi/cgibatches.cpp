@@ -3,9 +3,9 @@
 #include "cgi/cgistep.h"
 #include "cgi/internal/answerpaths.h"
 #include "cgi/internal/longanswers.h"
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
-#include "device/devicerow.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicerow.h"
 
 #include <QSet>
 

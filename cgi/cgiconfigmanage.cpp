@@ -4,7 +4,7 @@
 #include "cgi/commandworkbook.h"
 #include "cgi/curltransport.h"
 #include "cgi/internal/workbookresults.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "files/filereplacement.h"
 
 #include <QClipboard>

@@ -4,9 +4,9 @@
 #include "cgi/internal/longanswers.h"
 #include "cgi/internal/workbookresults.h"
 #include "cgi/logging.h"
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
-#include "device/deviceimport.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/deviceimport.h"
 #include "sdk/threadpriority.h"
 
 #include <QFileInfo>

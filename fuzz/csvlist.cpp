@@ -1,4 +1,4 @@
-#include "device/dh/internal/csvdevicelist.h"
+#include "device/dh/lists/csvdevicelist.h"
 #include "fuzz/input.h"
 #include "fuzz/lists.h"
 

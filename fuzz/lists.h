@@ -1,8 +1,8 @@
 // What holds of every device list that was read.
 #pragma once
 
-#include "device/dh/internal/devicelistimport.h"
-#include "device/dh/internal/devicelistvalues.h"
+#include "device/dh/lists/devicelistimport.h"
+#include "device/dh/lists/devicelistvalues.h"
 
 namespace fuzz {
 

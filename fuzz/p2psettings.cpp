@@ -1,4 +1,4 @@
-#include "device/p2pports.h"
+#include "device/registry/p2pports.h"
 #include "fuzz/input.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

@@ -1,4 +1,4 @@
-#include "device/dh/upgradedocument.h"
+#include "device/dh/upgrade/upgradedocument.h"
 #include "fuzz/input.h"
 #include "tests/sheets/workbookfiles.h"
 

@@ -1,4 +1,4 @@
-#include "device/dh/internal/xlsxdevicelist.h"
+#include "device/dh/lists/xlsxdevicelist.h"
 #include "fuzz/input.h"
 #include "fuzz/lists.h"
 #include "sheets/filesheetengine.h"

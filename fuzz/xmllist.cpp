@@ -1,4 +1,4 @@
-#include "device/dh/internal/xmldevicelist.h"
+#include "device/dh/lists/xmldevicelist.h"
 #include "fuzz/input.h"
 #include "fuzz/lists.h"
 

@@ -1,9 +1,9 @@
 #include "gallery/picturegallery.h"
 
 #include "device/batch/batches.h"
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
-#include "device/devicerow.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicerow.h"
 #include "files/filereplacement.h"
 #include "sdk/threadpriority.h"
 

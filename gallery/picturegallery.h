@@ -26,7 +26,7 @@ class PictureGallery : public QAbstractListModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/batch/batches.h")
-    Q_MOC_INCLUDE("device/devicefactory.h")
+    Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(Batches *batches READ batches WRITE setBatches NOTIFY batchesChanged)

@@ -1,7 +1,7 @@
 #include "media/videoitem.h"
 
-#include "device/devicefactory.h"
-#include "device/loginresult.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/loginresult.h"
 #include "media/dhdecoder.h"
 #include "media/itemrender.h"
 #include "media/logging.h"

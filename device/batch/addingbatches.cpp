@@ -1,7 +1,7 @@
 #include "device/batch/addingbatches.h"
 
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "device/batch/batches.h"
-#include "device/deviceimport.h"
+#include "device/registry/deviceimport.h"
 
 #include <QThreadPool>
 #include <QVariantList>

@@ -1,7 +1,7 @@
 #include "device/batch/addressplan.h"
 
-#include "device/devicerow.h"
-#include "device/ipv4address.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/ipv4address.h"
 
 AddressPlan::AddressPlan(QObject *parent) : BatchPreview(parent) {}
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "device/batch/batchplan.h"
-#include "device/batchreport.h"
+#include "device/models/batchreport.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -85,8 +85,8 @@ public:
     /// there.
     [[nodiscard]] int failedBefore() const;
 
-    /// Estimated at the last advance of the progress. -1 while there is nothing to estimate from, and when the
-    /// time has passed without a further advance.
+    /// Estimated at the last advance of the progress. -1 while there is nothing to estimate from, and when
+    /// the time has passed without a further advance.
     [[nodiscard]] int secondsLeft() const;
     [[nodiscard]] BatchReport *report() { return &m_report; }
     /// Whether Batches::putAddressesBack() can undo it.

@@ -1,7 +1,7 @@
 // Runs the steps of batches on threads of its own.
 #pragma once
 
-#include "device/devicestep.h"
+#include "device/registry/devicestep.h"
 
 #include <QHash>
 #include <QSet>

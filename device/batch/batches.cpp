@@ -2,11 +2,11 @@
 
 #include "device/batch/addressorder.h"
 #include "device/batch/occupiedaddresses.h"
-#include "device/devicefactory.h"
-#include "device/devicerow.h"
-#include "device/devicestore.h"
-#include "device/logging.h"
-#include "device/upgradetools.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
+#include "device/registry/upgradetools.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>

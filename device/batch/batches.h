@@ -2,7 +2,7 @@
 
 #include "device/batch/batch.h"
 #include "device/batch/batchresultsfile.h"
-#include "device/failedmarks.h"
+#include "device/models/failedmarks.h"
 
 #include <QThreadPool>
 #include <QVariantMap>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "device/batch/batches.h"
-#include "device/dialogrows.h"
+#include "device/models/dialogrows.h"
 
 #include <QPointer>
 

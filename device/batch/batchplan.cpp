@@ -1,8 +1,8 @@
 #include "device/batch/batchplan.h"
 
-#include "device/batchreport.h"
-#include "device/devicefactory.h"
-#include "device/devicerow.h"
+#include "device/models/batchreport.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicerow.h"
 
 #include <QCoreApplication>
 

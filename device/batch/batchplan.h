@@ -1,7 +1,7 @@
 // What a batch is to do.
 #pragma once
 
-#include "device/accountchoice.h"
+#include "device/accounts/accountchoice.h"
 #include "device/batch/batchengine.h"
 
 #include <QHash>

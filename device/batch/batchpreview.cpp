@@ -1,9 +1,9 @@
 #include "device/batch/batchpreview.h"
 
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
-#include "device/devicerow.h"
-#include "device/upgradetools.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/upgradetools.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 // What a batch will do with each of its devices.
 #pragma once
 
-#include "device/deviceselection.h"
+#include "device/models/deviceselection.h"
 
 #include <QList>
 #include <QPointer>
@@ -17,7 +17,7 @@ class CDeviceFactory;
 class BatchPreview : public DeviceSelection
 {
     Q_OBJECT
-    Q_MOC_INCLUDE("device/devicefactory.h")
+    Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY factoryChanged)
     Q_PROPERTY(QString action READ action WRITE setAction NOTIFY judged)
     Q_PROPERTY(int warningCount READ warningCount NOTIFY judged)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "device/batch/batch.h"
-#include "device/dialogrows.h"
+#include "device/models/dialogrows.h"
 
 #include <QPointer>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #include "device/batch/firstpasswordpreview.h"
 
-#include "device/devicerow.h"
-#include "device/upgradetools.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/upgradetools.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "device/batch/nameplan.h"
 
-#include "device/bytetext.h"
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
-#include "device/devicerow.h"
+#include "device/registry/bytetext.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicerow.h"
 
 #include <QRegularExpression>
 

@@ -1,9 +1,9 @@
 #include "device/batch/upgradepreview.h"
 
-#include "device/busystate.h"
-#include "device/devicefactory.h"
-#include "device/devicefamily.h"
-#include "device/devicerow.h"
+#include "device/registry/busystate.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicerow.h"
 #include "sdk/firmwarehead.h"
 
 #include <QFileInfo>

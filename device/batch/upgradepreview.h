@@ -2,7 +2,7 @@
 #pragma once
 
 #include "device/batch/batchpreview.h"
-#include "device/upgradetools.h"
+#include "device/registry/upgradetools.h"
 
 #include <stop_token>
 

@@ -1,12 +1,12 @@
 #include "device/dh/devicedh.h"
 
 #include "device/batch/batchengine.h"
-#include "device/devicerow.h"
-#include "device/devicestore.h"
-#include "device/dh/foundlogins.h"
-#include "device/dh/upgraderunner.h"
-#include "device/logging.h"
-#include "device/loginresult.h"
+#include "device/dh/logins/foundlogins.h"
+#include "device/dh/upgrade/upgraderunner.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
+#include "device/registry/loginresult.h"
 #include "media/snapthread.h"
 #include "sdk/netlibrary.h"
 

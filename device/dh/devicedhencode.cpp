@@ -1,10 +1,10 @@
 // The copy of encode settings.
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/encodeconfig.h"
-#include "device/dh/encodecopy.h"
-#include "device/dh/securelogin.h"
+#include "device/dh/encode/encodeconfig.h"
+#include "device/dh/encode/encodecopy.h"
+#include "device/dh/session/securelogin.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
 #include "sdk/netlibrary.h"
 
 void CDeviceDH::copyConfigToDevice(const QStringList &devlist)

@@ -1,10 +1,10 @@
 // Device lists: exporting devices to a file, and logging in to those of a file.
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/internal/devicelistfile.h"
-#include "device/dh/internal/devicelistimport.h"
-#include "device/dh/internal/devicelistvalues.h"
-#include "device/logging.h"
+#include "device/dh/lists/devicelistfile.h"
+#include "device/dh/lists/devicelistimport.h"
+#include "device/dh/lists/devicelistvalues.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
 
 #include <QCoreApplication>
 

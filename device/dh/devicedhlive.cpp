@@ -1,10 +1,10 @@
 // Live view and snapshots of the current session's device.
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/livechannels.h"
-#include "device/dh/securelogin.h"
-#include "device/loginresult.h"
+#include "device/dh/session/livechannels.h"
+#include "device/dh/session/securelogin.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/loginresult.h"
 #include "media/snapthread.h"
 
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
 // Requests to devices that a search has found: the first password, and a new address.
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/upgraderunner.h"
-#include "device/loginresult.h"
+#include "device/dh/upgrade/upgraderunner.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/loginresult.h"
 #include "sdk/blocktext.h"
 #include "sdk/callstop.h"
 #include "sdk/netlibrary.h"

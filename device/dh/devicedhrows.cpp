@@ -1,9 +1,9 @@
 // Rows and their logins.
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/rowadding.h"
-#include "device/dh/upgraderunner.h"
+#include "device/dh/logins/rowadding.h"
+#include "device/dh/upgrade/upgraderunner.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
 
 int CDeviceDH::getLoginDevice(const QString &address, const QString &account, const QString &password,
                               const QString &port, int loginType, const QString &devicePort)

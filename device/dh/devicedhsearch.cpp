@@ -1,7 +1,7 @@
-#include "device/devicefilter.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/foundlogins.h"
+#include "device/dh/logins/foundlogins.h"
+#include "device/registry/devicefilter.h"
+#include "device/registry/devicestore.h"
 
 void CDeviceDH::startSearch()
 {

@@ -1,11 +1,11 @@
 // The current session.
 #include "device/batch/batchplan.h"
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/logindetail.h"
-#include "device/dh/securelogin.h"
-#include "device/dh/sessionoffer.h"
+#include "device/dh/session/logindetail.h"
+#include "device/dh/session/securelogin.h"
+#include "device/dh/session/sessionoffer.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
 #include "sdk/netlibrary.h"
 
 #include <QPointer>

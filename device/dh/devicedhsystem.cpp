@@ -1,11 +1,11 @@
 // System configuration: one maintenance action on each device of a list.
-#include "device/devicerow.h"
-#include "device/devicestore.h"
-#include "device/dh/deviceclock.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/securelogin.h"
-#include "device/dh/systemaction.h"
-#include "device/logging.h"
+#include "device/dh/session/securelogin.h"
+#include "device/dh/system/deviceclock.h"
+#include "device/dh/system/systemaction.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
 #include "sdk/blocktext.h"
 #include "sdk/netlibrary.h"
 

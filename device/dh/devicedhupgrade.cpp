@@ -1,12 +1,12 @@
 // Firmware upgrades of the devices of rows, and of those of documents.
 #include "device/batch/batchplan.h"
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/firmwarefile.h"
-#include "device/dh/internal/devicelistfile.h"
-#include "device/dh/upgraderunner.h"
-#include "device/logging.h"
+#include "device/dh/lists/devicelistfile.h"
+#include "device/dh/upgrade/firmwarefile.h"
+#include "device/dh/upgrade/upgraderunner.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>

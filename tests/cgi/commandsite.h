@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cgi/cgibatches.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "tests/cgi/recordedtransport.h"
 
 #include <QJsonObject>

@@ -1,11 +1,11 @@
 // A back end whose rows a test sets.
 #pragma once
 
-#include "device/devicebase.h"
-#include "device/devicefactory.h"
-#include "device/devicefilter.h"
-#include "device/devicerow.h"
-#include "device/upgradetools.h"
+#include "device/registry/devicebase.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefilter.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/upgradetools.h"
 #include "tests/device/searchanswers.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include "device/batchreport.h"
-#include "device/busyreport.h"
+#include "device/models/batchreport.h"
+#include "device/models/busyreport.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 

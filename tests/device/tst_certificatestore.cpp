@@ -1,5 +1,5 @@
 // The keys that the user has agreed to, in a file, and the list of those that wait.
-#include "device/certificatelist.h"
+#include "device/models/certificatelist.h"
 #include "files/filereplacement.h"
 #include "sdk/blocktext.h"
 #include "tests/datatable.h"

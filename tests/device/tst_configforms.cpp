@@ -1,8 +1,8 @@
 // What the configuration pages show of values that a back end gives, good ones and bad ones.
-#include "device/cameraform.h"
-#include "device/devicebase.h"
-#include "device/devicefactory.h"
-#include "device/encodeform.h"
+#include "device/models/cameraform.h"
+#include "device/models/encodeform.h"
+#include "device/registry/devicebase.h"
+#include "device/registry/devicefactory.h"
 #include "tests/datatable.h"
 
 namespace {

@@ -1,6 +1,6 @@
-#include "device/devicefactory.h"
-#include "device/devicehik.h"
-#include "device/deviceol.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicehik.h"
+#include "device/registry/deviceol.h"
 #include "tests/datatable.h"
 
 #include <QMetaMethod>

@@ -1,6 +1,6 @@
 // Notes about devices: which device they belong to, their file, and the table that shows them.
-#include "device/devicenotes.h"
-#include "device/devicetablemodel.h"
+#include "device/models/devicetablemodel.h"
+#include "device/registry/devicenotes.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 #include "tests/files/filecontents.h"

@@ -1,5 +1,5 @@
-#include "device/devicerow.h"
-#include "device/devicestore.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
 #include "tests/device/searchanswers.h"

@@ -1,4 +1,4 @@
-#include "device/devicetablemodel.h"
+#include "device/models/devicetablemodel.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 

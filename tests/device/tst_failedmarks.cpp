@@ -1,9 +1,9 @@
 // Marks of failed devices, and the table and the tree that show only these.
-#include "device/devicetablemodel.h"
-#include "device/failedmarks.h"
-#include "device/loginresult.h"
-#include "device/treemodel.h"
-#include "device/treerows.h"
+#include "device/models/devicetablemodel.h"
+#include "device/models/failedmarks.h"
+#include "device/models/treemodel.h"
+#include "device/models/treerows.h"
+#include "device/registry/loginresult.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 

@@ -1,5 +1,5 @@
-#include "device/devicefactory.h"
-#include "device/p2pports.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/p2pports.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
 

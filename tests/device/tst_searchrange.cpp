@@ -1,6 +1,6 @@
-#include "device/addresstools.h"
-#include "device/ipv4address.h"
-#include "device/searchrange.h"
+#include "device/registry/ipv4address.h"
+#include "device/search/addresstools.h"
+#include "device/search/searchrange.h"
 #include "sdk/blocktext.h"
 #include "tests/datatable.h"
 

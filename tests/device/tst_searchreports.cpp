@@ -1,5 +1,5 @@
 // The report of a search: what it says, and when devices count as missing.
-#include "device/searchreports.h"
+#include "device/search/searchreports.h"
 #include "sdk/blocktext.h"
 #include "sdk/searchreportblocks.h"
 #include "tests/datatable.h"

@@ -1,6 +1,6 @@
-#include "device/loginresult.h"
-#include "device/passwordstrength.h"
-#include "device/systemtools.h"
+#include "device/models/systemtools.h"
+#include "device/registry/loginresult.h"
+#include "device/registry/passwordstrength.h"
 #include "tests/datatable.h"
 
 class TestSystemTools : public QObject

@@ -1,5 +1,5 @@
-#include "device/treemodel.h"
-#include "device/treerows.h"
+#include "device/models/treemodel.h"
+#include "device/models/treerows.h"
 #include "tests/device/rowsbackend.h"
 
 #include <QAbstractItemModelTester>

@@ -1,7 +1,7 @@
-#include "device/devicefactory.h"
-#include "device/devicetablemodel.h"
-#include "device/liveorder.h"
-#include "device/watcheddevices.h"
+#include "device/models/devicetablemodel.h"
+#include "device/models/liveorder.h"
+#include "device/models/watcheddevices.h"
+#include "device/registry/devicefactory.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 

@@ -1,8 +1,8 @@
 // Libraries that record how they are called and deliver what a test gives them.
 #pragma once
 
-#include "device/devicebase.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicebase.h"
+#include "device/registry/devicefactory.h"
 #include "sdk/decoderlibrary.h"
 #include "sdk/demo/steppableclock.h"
 #include "sdk/sdklibraries.h"

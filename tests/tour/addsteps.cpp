@@ -1,4 +1,4 @@
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "tests/tour/steps.h"
 #include "tests/tour/words.h"
 

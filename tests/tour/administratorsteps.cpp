@@ -1,5 +1,5 @@
 // Someone with two hundred devices: new passwords, clocks, copied settings, upgrades.
-#include "device/upgradetools.h"
+#include "device/registry/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "tests/files/filecontents.h"

@@ -1,5 +1,5 @@
 // Work on several devices that are reached by open standards: commands, addresses, snapshots and firmware.
-#include "device/upgradetools.h"
+#include "device/registry/upgradetools.h"
 #include "tests/files/filecontents.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/livewindow.h"

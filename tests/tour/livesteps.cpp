@@ -1,4 +1,4 @@
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "sdk/netlibrary.h"

@@ -1,6 +1,6 @@
 #include "tests/tour/scrolledtree.h"
 
-#include "device/treerows.h"
+#include "device/models/treerows.h"
 
 #include <QTest>
 

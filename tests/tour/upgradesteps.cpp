@@ -1,5 +1,5 @@
-#include "device/devicerow.h"
-#include "device/upgradetools.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sheets/qexcel.h"
 #include "tests/files/filecontents.h"

@@ -1,5 +1,5 @@
 #include "device/batch/batchengine.h"
-#include "device/deviceimport.h"
+#include "device/registry/deviceimport.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
 

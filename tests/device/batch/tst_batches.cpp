@@ -1,5 +1,5 @@
-#include "device/devicetablemodel.h"
-#include "device/upgradetools.h"
+#include "device/models/devicetablemodel.h"
+#include "device/registry/upgradetools.h"
 #include "tests/datatable.h"
 #include "tests/device/batch/batchsite.h"
 

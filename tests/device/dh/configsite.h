@@ -1,9 +1,9 @@
 // A simulated site with the factory on it, for the tests of the configuration pages.
 #pragma once
 
-#include "device/devicefactory.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicestore.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/neterror.h"

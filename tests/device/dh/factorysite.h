@@ -1,9 +1,9 @@
 // What the tests of the factory on a simulated site keep.
 #pragma once
 
-#include "device/devicefactory.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicestore.h"
 #include "sdk/demo/demosite.h"
 #include "tests/device/dh/flowingclock.h"
 #include "tests/device/dh/scenedevices.h"

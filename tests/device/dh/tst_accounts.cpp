@@ -1,5 +1,5 @@
 // Which account a device is asked with, and what becomes of one that it has just taken.
-#include "device/accountlist.h"
+#include "device/models/accountlist.h"
 #include "favourites/author.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"

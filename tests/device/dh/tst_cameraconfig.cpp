@@ -1,5 +1,5 @@
 // The camera image page on a simulated site: every change is one request of its own.
-#include "device/encodeform.h"
+#include "device/models/encodeform.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 

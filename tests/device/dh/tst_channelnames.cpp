@@ -1,7 +1,7 @@
 // The names of channels on a simulated recorder: read, edited and written, each channel for itself.
-#include "device/bytetext.h"
-#include "device/channelnameform.h"
-#include "device/sessionwork.h"
+#include "device/models/channelnameform.h"
+#include "device/registry/bytetext.h"
+#include "device/work/sessionwork.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 

@@ -1,5 +1,5 @@
 // What is known of a device: by a search, and by a login that leaves the current session alone.
-#include "device/devicedetailmodel.h"
+#include "device/models/devicedetailmodel.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 

@@ -1,5 +1,5 @@
-#include "device/devicetablemodel.h"
-#include "device/dh/rowlogin.h"
+#include "device/dh/logins/rowlogin.h"
+#include "device/models/devicetablemodel.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
 #include "tests/media/quietnetlibrary.h"

@@ -1,5 +1,5 @@
 // The encode page on a simulated site: what it shows, what the device is asked, and what comes of it.
-#include "device/encodeform.h"
+#include "device/models/encodeform.h"
 #include "sdk/encodeblocks.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"

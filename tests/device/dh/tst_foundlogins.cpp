@@ -1,7 +1,7 @@
 // Logins to the devices that a search has found, and requests to devices without a MAC.
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/foundlogins.h"
+#include "device/dh/logins/foundlogins.h"
+#include "device/registry/devicestore.h"
 #include "tests/datatable.h"
 #include "tests/device/searchanswers.h"
 #include "tests/media/quietnetlibrary.h"

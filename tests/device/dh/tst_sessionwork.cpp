@@ -1,5 +1,5 @@
 // Work that the configuration page waits for, while the scene goes on.
-#include "device/sessionwork.h"
+#include "device/work/sessionwork.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 

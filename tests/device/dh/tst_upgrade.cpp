@@ -1,5 +1,5 @@
 // Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
-#include "device/loginresult.h"
+#include "device/registry/loginresult.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/upgradesite.h"
 #include "tests/device/searchanswers.h"

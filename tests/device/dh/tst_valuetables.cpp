@@ -1,5 +1,5 @@
 // The tables between codes and texts, and what a capability block lets a page offer.
-#include "device/dh/encodechoices.h"
+#include "device/dh/encode/encodechoices.h"
 #include "tests/datatable.h"
 
 namespace {

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "device/batch/batchengine.h"
-#include "device/devicefactory.h"
-#include "device/devicerow.h"
-#include "device/devicestore.h"
 #include "device/dh/devicedh.h"
-#include "device/upgradetools.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
 #include "sheets/qexcel.h"

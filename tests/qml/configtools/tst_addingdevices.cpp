@@ -1,5 +1,5 @@
 #include "device/batch/addingbatches.h"
-#include "device/devicefactory.h"
+#include "device/registry/devicefactory.h"
 #include "favourites/author.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"

@@ -1,8 +1,8 @@
 // The foot of a page over the batches of the session: what it says and offers while one runs, while it is
 // held and after its end, and the file of its results.
 #include "device/batch/batches.h"
-#include "device/devicetablemodel.h"
-#include "device/treemodel.h"
+#include "device/models/devicetablemodel.h"
+#include "device/models/treemodel.h"
 #include "sheets/qexcel.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"

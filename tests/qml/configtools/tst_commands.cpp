@@ -1,6 +1,6 @@
 // The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
 // answer.
-#include "device/devicetablemodel.h"
+#include "device/models/devicetablemodel.h"
 #include "tests/cgi/commandsite.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"

@@ -1,4 +1,4 @@
-#include "device/accountlist.h"
+#include "device/models/accountlist.h"
 #include "sdk/demo/demosite.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"

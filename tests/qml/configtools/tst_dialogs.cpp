@@ -1,5 +1,5 @@
 // Boxes over the window: how they are answered, and what they show.
-#include "device/certificatelist.h"
+#include "device/models/certificatelist.h"
 #include "sdk/blocktext.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"

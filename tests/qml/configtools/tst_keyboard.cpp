@@ -1,8 +1,8 @@
 // Work without a mouse: the actions of a row, the way through the controls, and what becomes of rejected
 // input.
 #include "device/batch/batches.h"
-#include "device/devicetablemodel.h"
-#include "device/treemodel.h"
+#include "device/models/devicetablemodel.h"
+#include "device/models/treemodel.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 #include "tests/qml/configtools/qmlscene.h"

@@ -1,5 +1,5 @@
 // The dialog with the report of a search.
-#include "device/searchreports.h"
+#include "device/search/searchreports.h"
 #include "sdk/blocktext.h"
 #include "sdk/searchreportblocks.h"
 #include "tests/media/quietnetlibrary.h"

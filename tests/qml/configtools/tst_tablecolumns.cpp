@@ -1,5 +1,5 @@
 // The columns of a table as the user arranges them: their text form, and the work of mouse and keyboard.
-#include "device/devicetablemodel.h"
+#include "device/models/devicetablemodel.h"
 #include "qml/configtools/tablecolumns.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"

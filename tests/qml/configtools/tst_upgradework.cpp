@@ -1,6 +1,6 @@
 // What the upgrade page does with its devices: the file, the question, and the notices at the end.
 #include "device/batch/upgradebatches.h"
-#include "device/devicetablemodel.h"
+#include "device/models/devicetablemodel.h"
 #include "tests/device/dh/upgradesite.h"
 #include "tests/qml/configtools/qmlscene.h"
 

@@ -1,6 +1,6 @@
 // Devices of a simulated site over HTTPS, and keys that the user accepts. Runs inside the site's network
 // (scripts/lab).
-#include "device/certificatestore.h"
+#include "device/accounts/certificatestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/configrecords.h"
 #include "sdk/onvif/onvifnetlibrary.h"

@@ -1,0 +1,308 @@
+#include "device/dh/camera/camerachanges.h"
+
+#include "device/dh/camera/camerachange.h"
+#include "device/registry/bytetext.h"
+#include "sdk/blocktext.h"
+
+#include <QHash>
+
+#include <array>
+#include <numeric>
+
+namespace {
+
+using Change = CameraChange;
+using Writes = QList<CameraWrite>;
+
+constexpr sdk::ValueRange colorStyles = {1, 3};
+constexpr sdk::ValueRange rotations = {0, 3};
+constexpr sdk::ValueRange flags = {0, 1};
+constexpr sdk::ValueRange sensitivities = {1, 3};
+constexpr sdk::ValueRange switchDelays = {2, 10};
+constexpr std::array mixedSensitivities = {1, 3, 5};
+constexpr sdk::ValueRange lightDelays = {0, 3600};
+constexpr sdk::ValueRange lightModes = {0, 255};
+constexpr sdk::ValueRange regionSides = {0, 8192};
+
+Writes when(bool isChanged, const Writes &writes)
+{
+    return isChanged ? writes : Writes();
+}
+
+Writes changePicture(const Change &change)
+{
+    CameraState &state = change.state;
+    sdk::PictureItem item = state.picture;
+    const sdk::ValueRange range = state.capabilities.picture;
+    const bool isChanged = (change.is("colorStyle") && change.number(colorStyles, item.colorStyle)) ||
+                           (change.is("brightnessSlider") && change.slider(range, item.brightness)) ||
+                           (change.is("contrastSlider") && change.slider(range, item.contrast)) ||
+                           (change.is("saturationSlider") && change.slider(range, item.saturation)) ||
+                           (change.is("hue") && change.slider(range, item.hue)) ||
+                           (change.is("gamma") && change.slider(range, item.gamma));
+    if (isChanged) // the configuration tells of the same picture
+        state.picture = state.colorOfMode() = item;
+    return when(isChanged, {CameraWrite::Picture});
+}
+
+Writes changeSharpness(const Change &change)
+{
+    CameraState &state = change.state;
+    return when(change.isPlain() && change.slider(state.capabilities.sharpness, state.sharpness.sharpness),
+                {CameraWrite::Sharpness});
+}
+
+Writes changeMirror(const Change &change)
+{
+    sdk::MirrorItem &item = change.state.mirror;
+    return when((change.isPlain() && change.number(flags, item.mirror)) ||
+                    (change.is("Rotate") && change.number(rotations, item.rotate)),
+                {CameraWrite::Mirror});
+}
+
+Writes changeStable(const Change &change)
+{
+    return when(change.isPlain() && change.number(flags, change.state.stable.stable), {CameraWrite::Stable});
+}
+
+Writes changeExposure(const Change &change)
+{
+    CameraState &state = change.state;
+    sdk::ExposureItem &item = state.exposure;
+    const sdk::ValueRange gain = state.capabilities.gain;
+    if (change.is("3DType") || change.is("3D")) {
+        const bool isReduced = state.isNoiseReductionRead &&
+                               (change.is("3DType") ? change.number(flags, state.noiseReduction.type)
+                                                    : change.slider(state.capabilities.noiseReduction,
+                                                                    state.noiseReduction.level));
+        return when(isReduced, {CameraWrite::Exposure, CameraWrite::NoiseReduction});
+    }
+    const bool isChanged =
+        (change.is("antiFlicker") && change.choice(change.lists().antiFlickerTypes, item.antiFlicker)) ||
+        (change.isPlain() && change.choice(change.lists().exposureTypes, item.exposure)) ||
+        (change.is("dbExposureValue1") && change.shutter(item.shortestShutter)) ||
+        (change.is("dbExposureValue2") && change.shutter(item.longestShutter)) ||
+        (change.is("GainValue") && change.slider(gain, item.gain)) ||
+        (change.is("GainMin") && change.slider(gain, item.gainMinimum)) ||
+        (change.is("GainMax") && change.slider(gain, item.gainMaximum)) ||
+        (change.is("Compensation") && change.slider(state.capabilities.compensation, item.compensation)) ||
+        (change.is("irisAuto") && change.number(flags, item.irisAutomatic));
+    return when(isChanged, {CameraWrite::Exposure});
+}
+
+bool changeRegion(const Change &change, sdk::BackLightItem &item)
+{
+    const QVariantMap region = change.value.toMap();
+    sdk::BackLightItem changed = item;
+    const auto side = [&](const char *name, std::int32_t &field) {
+        const QVariant value = region.value(QLatin1String(name));
+        return Change{change.subKey, value, change.tables, change.state}.number(regionSides, field);
+    };
+    if (!side("Top", changed.regionTop) || !side("Bottom", changed.regionBottom) ||
+        !side("Left", changed.regionLeft) || !side("Right", changed.regionRight))
+        return false;
+    item = changed;
+    return true;
+}
+
+Writes changeBackLight(const Change &change)
+{
+    CameraState &state = change.state;
+    sdk::BackLightItem &item = state.backLight;
+    const bool isChanged =
+        (change.is("backmode") && change.choice(change.lists().backModes, item.backMode)) ||
+        (change.is("backlightmode") && change.number(flags, item.backLightMode)) ||
+        (change.is("WideDynamic") && change.slider(state.capabilities.wideDynamic, item.wideDynamic)) ||
+        (change.is("GlareInhibition") &&
+         change.slider(state.capabilities.glareInhibition, item.glareInhibition)) ||
+        (change.is("BacklightRegion") && changeRegion(change, item));
+    if (isChanged)
+        state.backLightByMode = item;
+    return when(isChanged, {CameraWrite::BackLight});
+}
+
+/// Through the second copy.
+Writes changeBackLightMode(const Change &change)
+{
+    CameraState &state = change.state;
+    if (!change.choice({change.tables.BackLightModeNames, ~0u}, state.backLightByMode.backMode))
+        return {};
+    state.backLight = state.backLightByMode;
+    return {CameraWrite::BackLightByMode};
+}
+
+Writes changeWhiteBalance(const Change &change)
+{
+    sdk::WhiteBalanceItem &item = change.state.whiteBalance;
+    const sdk::ValueRange range = change.state.capabilities.whiteBalanceGain;
+    return when(
+        (change.is("whiteBalanceType") && change.choice(change.lists().whiteBalanceTypes, item.type)) ||
+            (change.is("GainBlue") && change.slider(range, item.gainBlue)) ||
+            (change.is("GainRed") && change.slider(range, item.gainRed)),
+        {CameraWrite::WhiteBalance});
+}
+
+Writes changeDayNight(const Change &change)
+{
+    CameraState &state = change.state;
+    sdk::DayNightItem &item = state.dayNight;
+    const bool isChanged = (change.is("Type") && change.choice(change.lists().dayNightTypes, item.type)) ||
+                           (change.is("Sensitivity") && change.number(sensitivities, item.sensitivity)) ||
+                           (change.is("SwitchDelay") && change.number(switchDelays, item.switchDelay));
+    if (isChanged) { // the second copy's mode is the one that was chosen for it
+        const std::int32_t mode = state.dayNightByMode.mode;
+        state.dayNightByMode = item;
+        state.dayNightByMode.mode = mode;
+    }
+    return when(isChanged, {CameraWrite::DayNight});
+}
+
+/// Through the second copy: the mode is what its settings are written for.
+Writes changeDayNightMode(const Change &change)
+{
+    return when(change.choice({change.tables.DayNightModeNames, ~0u}, change.state.dayNightByMode.mode),
+                {CameraWrite::DayNightByMode});
+}
+
+Writes changeDefog(const Change &change)
+{
+    CameraState &state = change.state;
+    return when((change.is("DefogMode") && change.choice(change.lists().defogModes, state.defog.defogMode)) ||
+                    (change.is("Intensity") &&
+                     change.slider(state.capabilities.defogIntensity, state.defog.intensity)),
+                {CameraWrite::Defog});
+}
+
+Writes changeLight(const Change &change)
+{
+    sdk::LightItem &item = change.state.light;
+    const sdk::ValueRange range = change.state.capabilities.light;
+    return when((change.is("controlMode") && change.choice(change.lists().lightControls, item.controlMode)) ||
+                    (change.is("LightMode") && change.number(lightModes, item.lightMode)) ||
+                    (change.is("NearLight") && change.slider(range, item.nearLight)) ||
+                    (change.is("FarLight") && change.slider(range, item.farLight)) ||
+                    (change.is("Correction") && change.slider(range, item.correction)),
+                {CameraWrite::Light});
+}
+
+Writes changeMixedLight(const Change &change)
+{
+    CameraState &state = change.state;
+    sdk::MixedLightItem &item = state.mixedLight;
+    const sdk::ValueRange range = state.capabilities.mixedLight;
+    const bool isChanged =
+        (change.is("controlMode") && change.choice(change.lists().lightControls, item.controlMode)) ||
+        (change.is("mixMode") && change.choice(change.lists().mixedLights, item.mixMode)) ||
+        (change.is("LightMode") && change.number(lightModes, item.lightMode)) ||
+        (change.is("Sensitive") && change.oneOf(mixedSensitivities, item.sensitive)) ||
+        (change.is("Correction") && change.slider(range, item.correction)) ||
+        (change.is("Brightness") && change.slider(range, item.brightness)) ||
+        (change.is("Delay") && change.number(lightDelays, item.delay));
+    if (!isChanged || !state.isLightingKnown)
+        return when(isChanged, {CameraWrite::MixedLight});
+    state.lighting.lights[static_cast<std::size_t>(state.mode)] = item;
+    return {CameraWrite::MixedLight, CameraWrite::Lighting};
+}
+
+/// Changes one number of the configuration's picture, and the item's with it.
+Writes changeColor(const Change &change, std::int32_t sdk::PictureItem::*field, sdk::ValueRange range,
+                   CameraWrite write)
+{
+    CameraState &state = change.state;
+    if (!state.isColorKnown || !change.number(range, state.colorOfMode().*field))
+        return {};
+    state.picture.*field = state.colorOfMode().*field;
+    return {write};
+}
+
+Writes setDefaults(const Change &change)
+{
+    CameraState &state = change.state;
+    const sdk::ValueRange range = usableRange(state.capabilities.picture);
+    const std::int32_t middle = std::midpoint(range.minimum, range.maximum); // of any range, also the widest
+    constexpr std::int32_t standardStyle = 2;
+    sdk::PictureItem &item = state.picture;
+    item.colorStyle = standardStyle;
+    item.brightness = item.contrast = item.saturation = item.hue = item.gamma = middle;
+    state.colorOfMode() = item;
+    return state.isColorKnown ? Writes{CameraWrite::VideoColor, CameraWrite::Picture}
+                              : Writes{CameraWrite::Picture};
+}
+
+Writes changeChannelName(const Change &change)
+{
+    const QString visible = ByteText::withoutInvisible(change.value.toString()).trimmed();
+    const QString name = ByteText::cutTo(visible, ByteText::channelNameBytes());
+    if (name.isEmpty())
+        return {};
+    sdk::ChannelNameItem &item = change.state.channelName;
+    item.size = sizeof(item);
+    sdk::setBlockText(item.name, name.toStdString());
+    change.state.isChannelNameRead = true; // the name is all that is in the item
+    return {CameraWrite::ChannelName};
+}
+
+struct Changer
+{
+    std::optional<sdk::CameraGroup> group; ///< that the camera must support
+    Writes (*change)(const Change &);
+};
+
+template<std::int32_t sdk::PictureItem::*field>
+Writes changeColorNumber(const Change &change)
+{
+    return changeColor(change, field, usableRange(change.state.capabilities.picture),
+                       CameraWrite::VideoColor);
+}
+
+const QHash<QString, Changer> &changers()
+{
+    using Group = sdk::CameraGroup;
+    static const QHash<QString, Changer> table = {
+        {QStringLiteral("picture"), {Group::Picture, &changePicture}},
+        {QStringLiteral("sharpness"), {Group::Sharpness, &changeSharpness}},
+        {QStringLiteral("mirror"), {Group::Mirror, &changeMirror}},
+        {QStringLiteral("stable"), {Group::Stable, &changeStable}},
+        {QStringLiteral("exposure"), {Group::Exposure, &changeExposure}},
+        {QStringLiteral("backMode"), {Group::BackLight, &changeBackLight}},
+        {QStringLiteral("whiteBalance"), {Group::WhiteBalance, &changeWhiteBalance}},
+        {QStringLiteral("dayNight"), {Group::DayNight, &changeDayNight}},
+        {QStringLiteral("inDefog"), {Group::Defog, &changeDefog}},
+        {QStringLiteral("lightControl"), {Group::Light, &changeLight}},
+        {QStringLiteral("lightControlEx"), {Group::MixedLight, &changeMixedLight}},
+        {QStringLiteral("curDayNightMode"), {Group::DayNight, &changeDayNightMode}},
+        {QStringLiteral("curBackLightMode"), {Group::BackLight, &changeBackLightMode}},
+        {QStringLiteral("curChannelName"), {std::nullopt, &changeChannelName}},
+        {QStringLiteral("curColorStyle"),
+         {Group::Picture,
+          [](const Change &change) {
+              return changeColor(change, &sdk::PictureItem::colorStyle, colorStyles,
+                                 CameraWrite::ColorRecord);
+          }}},
+        {QStringLiteral("curBrightness"),
+         {Group::Picture, &changeColorNumber<&sdk::PictureItem::brightness>}},
+        {QStringLiteral("curContrast"), {Group::Picture, &changeColorNumber<&sdk::PictureItem::contrast>}},
+        {QStringLiteral("curSaturation"),
+         {Group::Picture, &changeColorNumber<&sdk::PictureItem::saturation>}},
+        {QStringLiteral("curGamma"), {Group::Picture, &changeColorNumber<&sdk::PictureItem::gamma>}},
+        {QStringLiteral("setDefault"), {Group::Picture, &setDefaults}},
+    };
+    return table;
+}
+
+} // namespace
+
+bool changesColor(const QString &key)
+{
+    const auto changer = changers().constFind(key);
+    return changer != changers().constEnd() && changer->group == sdk::CameraGroup::Picture;
+}
+
+QList<CameraWrite> changeCamera(const QString &key, const QString &subKey, const QVariant &value,
+                                const ValueTables &tables, CameraState &state)
+{
+    const auto changer = changers().constFind(key);
+    if (changer == changers().constEnd() || (changer->group && !state.supports(*changer->group)))
+        return {};
+    return changer->change({subKey, value, tables, state});
+}

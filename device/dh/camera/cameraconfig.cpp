@@ -1,0 +1,119 @@
+#include "device/dh/camera/cameraconfig.h"
+
+#include "device/dh/camera/camerajob.h"
+#include "device/dh/encode/encodestate.h"
+#include "device/registry/logging.h"
+
+CameraConfig::CameraConfig(const ValueTables &tables) : m_tables(tables) {}
+
+void CameraConfig::begin(const ConfigSession &session)
+{
+    m_session = session;
+    m_state = {};
+}
+
+void CameraConfig::forgetItems()
+{
+    m_state.unreadGroups = CameraState::allGroups;
+    m_state.isColorKnown = m_state.isLightingKnown = m_state.isChannelNameRead = false;
+}
+
+void CameraConfig::readColor(int channel)
+{
+    readVideoColor(m_session, channel, m_state);
+}
+
+int CameraConfig::readCapabilities(int channel)
+{
+    int result = 0;
+    switch (readCameraCapabilities(m_session, channel, m_state)) {
+    case CameraReading::Done:
+        break;
+    case CameraReading::Refused:
+        result = capabilitiesUnknown;
+        break;
+    case CameraReading::Unanswered:
+        result = deviceAway;
+        break;
+    }
+    // A mode that this camera does not know gives way to its first.
+    const OfferedValues modes = CameraLists(m_tables, m_state.capabilities).switchModes;
+    if (modes.placeOf(static_cast<int>(m_state.mode)) < 0)
+        m_state.mode = static_cast<sdk::CameraMode>(modes.valueAt(0).value_or(0));
+    return result;
+}
+
+int CameraConfig::readItems(int channel)
+{
+    return readCameraItems(m_session, channel, m_state) ? 0 : deviceAway;
+}
+
+QVariant CameraConfig::value(const QString &key) const
+{
+    return cameraValue(key, m_state, m_tables);
+}
+
+void CameraConfig::chooseMode(const QVariant &place)
+{
+    bool isNumber = false;
+    const int number = place.toInt(&isNumber);
+    const std::optional<int> mode = CameraLists(m_tables, m_state.capabilities).switchModes.valueAt(number);
+    if (!isNumber || !mode || m_state.mode == static_cast<sdk::CameraMode>(*mode))
+        return;
+    m_state.mode = static_cast<sdk::CameraMode>(*mode);
+    m_state.unreadGroups = CameraState::allGroups; // the items are those of the mode before
+}
+
+CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant &value, const QString &subKey,
+                                             int channel)
+{
+    if (key == QLatin1String("curSwitchMode")) {
+        chooseMode(value); // the page reads the items of the mode itself
+        return Outcome::Taken;
+    }
+    CameraState changed = m_state;
+    // Others change it too, so it is read before it is written.
+    if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&
+        !readDefog(m_session, channel, changed)) {
+        m_lastError = static_cast<int>(m_session.lastError());
+        return m_session.isDeviceAway() ? Outcome::Unanswered : Outcome::Refused;
+    }
+    // The encode page reads another channel's, which must not be written to this one.
+    if (changesColor(key) && m_state.supports(sdk::CameraGroup::Picture) && m_state.colorChannel != channel &&
+        readVideoColor(m_session, channel, changed) == CameraReading::Unanswered) {
+        m_lastError = deviceAway;
+        return Outcome::Unanswered;
+    }
+    const QList<CameraWrite> writes = changeCamera(key, subKey, value, m_tables, changed);
+    if (writes.isEmpty()) {
+        qCWarning(logDevice) << "Camera:" << key << subKey << "cannot be set to" << value;
+        return Outcome::Ignored;
+    }
+    bool isTaken = true;
+    for (const CameraWrite write : writes) {
+        if (CameraJob(m_session, channel, changed).run(write))
+            continue;
+        isTaken = false;
+        m_lastError = static_cast<int>(m_session.lastError());
+        if (m_session.isDeviceAway()) // the next write would only wait again
+            return Outcome::Unanswered;
+    }
+    if (!isTaken)
+        return takeFailure(channel, changed);
+    m_state = changed;
+    return Outcome::Taken;
+}
+
+CameraConfig::Outcome CameraConfig::takeFailure(int channel, CameraState &changed)
+{
+    // Of several writes some may have been taken: the device knows.
+    const CameraReading reading = readCameraCapabilities(m_session, channel, changed);
+    if (reading == CameraReading::Unanswered)
+        return Outcome::Unanswered;
+    if (reading == CameraReading::Done) {
+        if (!readCameraItems(m_session, channel, changed))
+            return Outcome::Unanswered;
+        m_state = changed;
+    }
+    return Outcome::Refused;
+}

@@ -1,0 +1,231 @@
+#include "device/dh/configuration/sessionrun.h"
+
+#include "device/dh/session/livechannels.h"
+#include "device/registry/devicebase.h"
+#include "device/registry/logging.h"
+#include "device/registry/loginresult.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+template<typename Result, typename... Arguments>
+SessionRun::News signalOf(Result (CDeviceBase::*signal)(Arguments...), std::decay_t<Arguments>... arguments)
+{
+    return [signal, arguments...](CDeviceBase &backEnd) {
+        Q_EMIT(backEnd.*signal)(arguments...);
+    };
+}
+
+QVariantList listOf(const QList<bool> &values)
+{
+    QVariantList list;
+    std::copy(values.cbegin(), values.cend(), std::back_inserter(list));
+    return list;
+}
+
+} // namespace
+
+SessionRun::SessionRun(SessionState &state, std::function<bool()> isUpgrading)
+    : m_state(state), m_isUpgrading(std::move(isUpgrading))
+{
+}
+
+std::vector<SessionRun::News> SessionRun::takeNews()
+{
+    return std::exchange(m_news, {});
+}
+
+void SessionRun::note(const News &news)
+{
+    m_news.push_back(news);
+}
+
+void SessionRun::noteResult(int result)
+{
+    m_isDeviceAway = m_isDeviceAway || isSessionLost(static_cast<std::uint32_t>(result));
+    note(signalOf(&CDeviceBase::signalCDeviceGetDeviceCapRet, result));
+}
+
+void SessionRun::noteUpgrading()
+{
+    note(signalOf(&CDeviceBase::signalCDeviceConfirmEncodeConfig,
+                  resultName(resultCode(LoginResult::Upgrading)) + u'\n'));
+}
+
+void SessionRun::getEncodeCaps()
+{
+    const int result = m_state.encode.read(m_state.channels);
+    if (!isLibraryError(result))
+        m_state.camera.readColor(m_state.channels.curChannel);
+    noteResult(result);
+}
+
+void SessionRun::getEncodeInfo()
+{
+    const int result = m_state.encode.read(m_state.channels);
+    note(signalOf(&CDeviceBase::signalCDeviceChangeEncodeChannel));
+    noteResult(result);
+}
+
+void SessionRun::confirmConfigData()
+{
+    if (m_isUpgrading()) {
+        noteUpgrading();
+        return;
+    }
+    const EncodeConfig::Outcome outcome = m_state.encode.confirm(m_state.channels);
+    note(signalOf(&CDeviceBase::signalCDeviceConfirmEncodeConfig, outcome.notWritten));
+    if (outcome.result != 0)
+        noteResult(outcome.result);
+}
+
+QVariant SessionRun::getConfigData(const QString &key, const QVariant &channel)
+{
+    if (key == QLatin1String("connectedChannels"))
+        return m_state.session.isOpen()
+                   ? listOf(connectedChannels(m_state.session, m_state.channels.channelCount))
+                   : QVariantList();
+    if (key == QLatin1String("channelName"))
+        return m_state.names.name(channel.toInt());
+    if (key == QLatin1String("channelNameResult"))
+        return m_state.names.result(channel.toInt());
+    if (key == QLatin1String("channelNamesResult"))
+        return m_state.names.savingResult();
+    if (ChannelChoice::isKey(key))
+        return m_state.channels.value(key);
+    if (EncodeValues::isKey(key))
+        return m_state.encode.value(key, m_state.channels);
+    return m_state.camera.value(key);
+}
+
+void SessionRun::setConfigData(const QString &key, const QVariant &value, const QString &otype)
+{
+    if (ChannelChoice::isKey(key)) {
+        const ChannelChoice before = m_state.channels;
+        m_state.channels.choose(key, value);
+        if (m_state.channels.curVideoChannel != before.curVideoChannel)
+            m_state.camera.forgetItems();
+        if (m_state.channels.curChannel != before.curChannel ||
+            m_state.channels.curStreamType != before.curStreamType)
+            m_state.encode.forgetItems();
+    } else if (key == QLatin1String("channelName")) {
+        writeChannelName(value.toString(), otype);
+    } else if (key == QLatin1String("channelNamesSaved")) {
+        if (m_state.names.endSaving())
+            note(signalOf(&CDeviceBase::signalCDeviceSetChannelNameFinished));
+    } else if (EncodeValues::isKey(key)) {
+        setEncodeValue(key, value);
+    } else {
+        setCameraValue(key, value, otype);
+    }
+}
+
+void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
+{
+    // It is written at once.
+    if (key == QLatin1String("subCurResolution") && m_isUpgrading()) {
+        noteUpgrading();
+        return;
+    }
+    const EncodeConfig::Outcome outcome = m_state.encode.setValue(key, value, m_state.channels);
+    if (!outcome.notWritten.isEmpty())
+        note(signalOf(&CDeviceBase::signalCDeviceConfirmEncodeConfig, outcome.notWritten));
+    if (outcome.result != 0)
+        noteResult(outcome.result);
+}
+
+// The camera image page. Failures are reported after the values that the page shows.
+
+void SessionRun::getCameraConfig()
+{
+    const int result = m_state.camera.readCapabilities(m_state.channels.curVideoChannel);
+    if (result != 0)
+        noteResult(result);
+}
+
+void SessionRun::getVideoIn()
+{
+    const int result = m_state.camera.readItems(m_state.channels.curVideoChannel);
+    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoType));
+    if (result != 0)
+        noteResult(result);
+}
+
+void SessionRun::getVideoInByChangeChannel()
+{
+    const int result = m_state.camera.readItems(m_state.channels.curVideoChannel);
+    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoChannel));
+    if (result != 0)
+        noteResult(result);
+}
+
+void SessionRun::setCameraValue(const QString &key, const QVariant &value, const QString &subKey)
+{
+    int failure = 0;
+    if (key != QLatin1String("curSwitchMode") && m_isUpgrading()) {
+        failure = resultCode(LoginResult::Upgrading);
+    } else {
+        switch (m_state.camera.setValue(key, value, subKey, m_state.channels.curVideoChannel)) {
+        case CameraConfig::Outcome::Ignored:
+            break;
+        case CameraConfig::Outcome::Taken:
+            if (key == QLatin1String("curChannelName"))
+                note(signalOf(&CDeviceBase::signalCDeviceSetChannelNameFinished));
+            break;
+        case CameraConfig::Outcome::Refused:
+            failure = m_state.camera.lastError();
+            break;
+        case CameraConfig::Outcome::Unanswered:
+            failure = deviceAway;
+            break;
+        }
+    }
+    if (failure == 0)
+        return;
+    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoType)); // the page shows again what the device has
+    noteResult(failure);
+}
+
+// The names of the channels.
+
+int SessionRun::askedChannels(int wanted) const
+{
+    if (!m_state.session.isOpen())
+        return 0;
+    // A device that reports no channels has one.
+    const int all = std::clamp(m_state.channels.channelCount, 1, ChannelNames::maximumChannels);
+    return wanted > 0 ? std::min(wanted, all) : all;
+}
+
+QVariantList SessionRun::getDeviceChannelData(const QString &key, int channelNum)
+{
+    const int count = askedChannels(channelNum);
+    if (count == 0)
+        return {};
+    if (key == QLatin1String("channelNames")) {
+        QVariantList names = m_state.names.names(count);
+        if (m_state.names.isDeviceAway())
+            noteResult(deviceAway);
+        return names;
+    }
+    return key == QLatin1String("channelsConnected") ? listOf(connectedChannels(m_state.session, count))
+                                                     : QVariantList();
+}
+
+void SessionRun::writeChannelName(const QString &name, const QString &channel)
+{
+    bool isNumber = false;
+    const int number = channel.toInt(&isNumber);
+    if (!isNumber || number < 0 || number >= askedChannels(0)) {
+        qCWarning(logDevice) << "there is no channel" << channel << "to name";
+        return;
+    }
+    if (m_isUpgrading()) {
+        m_state.names.noteFailure(number, resultCode(LoginResult::Upgrading));
+        return;
+    }
+    if (m_state.names.write(number, name) == deviceAway)
+        noteResult(deviceAway);
+}

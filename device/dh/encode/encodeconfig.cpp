@@ -1,0 +1,166 @@
+#include "device/dh/encode/encodeconfig.h"
+
+#include "device/registry/logging.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+class ItemTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodeConfig)
+public:
+    static QStringList names()
+    {
+        // The last one is worded otherwise than the main stream's.
+        return {tr("主码流编码视频格式属性"), tr("主码流编码视频格式profile"),
+                tr("主码流编码音频压缩格式"), tr("主码流编码音频格式"),
+                tr("辅码流编码视频格式属性"), tr("辅码流编码视频格式profile"),
+                tr("辅码流编码音频压缩格式"), tr("辅码流编码音频格式配置")};
+    }
+    static QString unread(const QString &name) { return tr("%1（没有读到，未写入）").arg(name); }
+};
+
+constexpr int subVideoFormat = 4; // its place among the items
+
+constexpr int allItems = 2 * itemsOfStream;
+
+/// What is not known of any channel.
+const EncodeState &nothing()
+{
+    static const EncodeState state;
+    return state;
+}
+
+} // namespace
+
+EncodeConfig::EncodeConfig(const ValueTables &tables) : m_values(tables), m_tables(tables) {}
+
+void EncodeConfig::begin(const ConfigSession &session)
+{
+    m_session = session;
+    m_state.reset();
+    m_takenItems.clear();
+}
+
+int EncodeConfig::read(const ChannelChoice &channels)
+{
+    m_takenItems.clear();
+    EncodeState state = m_state.value_or(EncodeState());
+    const EncodeReading reading =
+        readEncodeState(m_session, channels.curChannel, channels.curStreamType, state);
+    if (reading.isFetched && reading.isAsked)
+        m_state = state;
+    else if (reading.isFetched)
+        m_state.reset(); // its items were not read: what is there is another channel's
+    return reading.result;
+}
+
+void EncodeConfig::forgetItems()
+{
+    m_takenItems.clear();
+    if (m_state)
+        m_state->main = m_state->sub = {};
+}
+
+QVariant EncodeConfig::value(const QString &key, const ChannelChoice &channels) const
+{
+    if (key == takenItemsKey)
+        return m_takenItems;
+    const EncodeState &state = m_state ? *m_state : nothing();
+    if (key == unreadItemsKey || key == unreadPlacesKey) {
+        QStringList names;
+        QVariantList places;
+        for (const int place : state.withheldItems(channels.curStreamType)) {
+            names.append(itemNames().at(place));
+            places.append(place);
+        }
+        return key == unreadItemsKey ? QVariant(names) : QVariant(places);
+    }
+    return m_values.value(key, state, channels.curStreamType);
+}
+
+QString EncodeConfig::linesOf(const QList<int> &items) const
+{
+    const QList<int> unread = (m_state ? *m_state : nothing()).unreadItems();
+    const QStringList names = itemNames();
+    QString lines;
+    for (const int place : items) {
+        const QString &name = names.at(place);
+        lines += (unread.contains(place) ? ItemTexts::unread(name) : name) + QLatin1Char('\n');
+    }
+    return lines;
+}
+
+EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant &value,
+                                             const ChannelChoice &channels)
+{
+    m_takenItems.clear();
+    if (!m_state || !m_values.setValue(key, value, *m_state, channels.curStreamType)) {
+        qCWarning(logDevice) << "Encode:" << key << "cannot be set to" << value;
+        return {};
+    }
+    if (key != QLatin1String("subCurResolution"))
+        return {};
+    Outcome outcome;
+    // To the channel of the other page: that is the one that devices are set up with here.
+    if (!writeSubResolution(channels.curVideoChannel)) {
+        outcome.notWritten = linesOf({subVideoFormat});
+        if (m_session.isDeviceAway()) { // to read would only wait again
+            outcome.result = static_cast<int>(m_session.lastError());
+            return outcome;
+        }
+    } else if (channels.curVideoChannel == channels.curChannel) {
+        m_takenItems.append(subVideoFormat);
+    }
+    outcome.result = readEncodeCapabilities(m_session, channels.curChannel, *m_state).result;
+    return outcome;
+}
+
+bool EncodeConfig::writeSubResolution(int channel)
+{
+    sdk::VideoFormatItem &item = m_state->sub.videoFormat;
+    const std::int32_t wantedBitRate = item.bitRate;
+    const auto isTaken = [this, &item, channel] {
+        return m_session.writeItem(static_cast<std::uint32_t>(sdk::EncodeItem::VideoFormat), channel, item);
+    };
+    if (isTaken())
+        return true;
+    // The resolution may need another bit rate. A device that is away gets no further tries, each of which
+    // would wait.
+    for (const std::int32_t step : m_tables.BitRateSteps) {
+        if (m_session.isDeviceAway())
+            break;
+        item.bitRate = step;
+        if (isTaken())
+            return true;
+    }
+    item.bitRate = wantedBitRate;
+    qCWarning(logDevice) << "Encode: the sub stream's size" << item.width << item.height
+                         << "is refused at every bit rate, error" << m_session.lastError();
+    return false;
+}
+
+EncodeConfig::Outcome EncodeConfig::confirm(const ChannelChoice &channels)
+{
+    EncodeWriting writing;
+    if (m_state)
+        writing = writeEncodeItems(m_session, channels.curChannel, *m_state,
+                                   m_state->missingItems(channels.curStreamType));
+    const int error = writing.isDeviceAway ? static_cast<int>(m_session.lastError()) : 0;
+    const QList<int> unread = (m_state ? *m_state : nothing()).withheldItems(channels.curStreamType);
+    QList<int> notWritten;
+    m_takenItems.clear();
+    for (int place = 0; place < allItems; ++place) {
+        if (unread.contains(place) || writing.notTaken.contains(place))
+            notWritten.append(place);
+        else
+            m_takenItems.append(place);
+    }
+    return {.notWritten = linesOf(notWritten), .result = error};
+}
+
+QStringList EncodeConfig::itemNames()
+{
+    return ItemTexts::names();
+}

@@ -1,0 +1,186 @@
+#include "device/dh/encode/encodecopy.h"
+
+#include "device/dh/encode/encodechoices.h"
+#include "device/dh/encode/encodeconfig.h"
+#include "device/registry/loginresult.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+class SettingNames
+{
+    Q_DECLARE_TR_FUNCTIONS(EncodeCopy)
+public:
+    static QString compression(bool isSub) { return isSub ? tr("辅码流编码模式") : tr("主码流编码模式"); }
+    static QString resolution(bool isSub) { return isSub ? tr("辅码流分辨率") : tr("主码流分辨率"); }
+    static QString bitRate(bool isSub) { return isSub ? tr("辅码流码率") : tr("主码流码率"); }
+    static QString bitRateControl(bool isSub) { return isSub ? tr("辅码流码率控制") : tr("主码流码率控制"); }
+    static QString frameRate(bool isSub) { return isSub ? tr("辅码流帧率") : tr("主码流帧率"); }
+    static QString audio(bool isSub) { return isSub ? tr("辅码流音频编码") : tr("主码流音频编码"); }
+};
+
+bool offersAudio(const EncodeChoices &choices, int format)
+{
+    const QStringList names = choices.audioCompressions();
+    return std::any_of(names.begin(), names.end(), [format](const QString &name) {
+        return ValueTables::audioNameToFormat(name) == format;
+    });
+}
+
+/// Puts the compression and the size of `from` into `to` as far as its device offers them.
+/// Returns the names of the others.
+QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
+{
+    const sdk::VideoFormatItem &wanted = from.videoFormat;
+    sdk::VideoFormatItem &video = to.videoFormat;
+    QStringList skipped;
+    const int profile = from.videoProfile.profile;
+    if (choices.offersCompression(wanted.compression, profile)) {
+        video.compression = wanted.compression;
+        // Other compressions have no profile, and not every device tells one of H.264: then the own one
+        // stays.
+        if (wanted.compression == sdk::compressionH264 && isH264Profile(profile))
+            to.videoProfile.profile = profile;
+        else if (wanted.compression == sdk::compressionH264 && !isH264Profile(to.videoProfile.profile))
+            to.videoProfile.profile = profileWithoutLetter;
+    } else {
+        skipped.append(SettingNames::compression(isSub));
+    }
+    if (choices.offersSize(video.compression, wanted.width, wanted.height)) {
+        video.width = wanted.width;
+        video.height = wanted.height;
+    } else {
+        skipped.append(SettingNames::resolution(isSub));
+    }
+    return skipped;
+}
+
+/// The same for the other values of the picture.
+QStringList takeRates(const EncodeChoices &choices, const sdk::EncodeCapabilityBlock &block,
+                      const EncodeItems &from, bool isSub, EncodeItems &to)
+{
+    const sdk::VideoFormatItem &wanted = from.videoFormat;
+    sdk::VideoFormatItem &video = to.videoFormat;
+    QStringList skipped;
+    if (wanted.bitRate >= block.minimumBitRate && wanted.bitRate <= block.maximumBitRate)
+        video.bitRate = wanted.bitRate;
+    else
+        skipped.append(SettingNames::bitRate(isSub));
+    if (wanted.frameRate <= static_cast<float>(block.maximumFrameRate))
+        video.frameRate = wanted.frameRate;
+    else
+        skipped.append(SettingNames::frameRate(isSub));
+    video.videoEnable = wanted.videoEnable;
+    if (!choices.isMissing(sdk::EncodeValue::BitRateControl))
+        video.bitRateControl = wanted.bitRateControl;
+    else if (video.bitRateControl != wanted.bitRateControl)
+        skipped.append(SettingNames::bitRateControl(isSub));
+    video.quality = wanted.quality;
+    return skipped;
+}
+
+/// The same for the sound.
+QStringList takeAudio(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
+{
+    if (offersAudio(choices, from.audioCompression.format)) {
+        to.audioCompression.audioEnable = from.audioCompression.audioEnable;
+        to.audioCompression.format = from.audioCompression.format;
+        to.audioFormat.samplingFrequency = from.audioFormat.samplingFrequency;
+    } else if (from.audioCompression.format != 0) { // a source without audio has none to copy
+        return {SettingNames::audio(isSub)};
+    }
+    return {};
+}
+
+/// The places of the items that cannot be copied from `from`.
+QList<int> itemsLeftOut(const EncodeState &from)
+{
+    QList<int> places = from.unreadItems();
+    constexpr int compression = static_cast<int>(EncodePlace::AudioCompression);
+    constexpr int format = static_cast<int>(EncodePlace::AudioFormat);
+    for (const int stream : {0, itemsOfStream}) {
+        // A sampling frequency belongs to its compression.
+        if (places.contains(stream + compression) && !places.contains(stream + format))
+            places.append(stream + format);
+    }
+    return places;
+}
+
+/// Puts compression and size of `items` into the record that capabilities are asked for with.
+void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
+{
+    if (!items.knows(EncodePlace::VideoFormat))
+        return;
+    record.compression = items.videoFormat.compression;
+    record.width = items.videoFormat.width;
+    record.height = items.videoFormat.height;
+}
+
+/// What a row says of a device whose settings cannot be read.
+int rowResult(const EncodeReading &reading)
+{
+    return isLibraryError(reading.result)
+               ? resultCode(loginResultOf(static_cast<std::uint32_t>(reading.result)))
+               : capabilitiesUnknown;
+}
+
+} // namespace
+
+EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
+                                     const ChannelChoice &channels, const ConfigSession &session,
+                                     const StepControl &control)
+{
+    EncodeState to;
+    const EncodeReading reading =
+        readEncodeState(session, channels.curChannel, channels.curStreamType, to, control);
+    if (control.shouldEnd())
+        return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
+    if (reading.result != 0)
+        return {.result = rowResult(reading), .skipped = {}};
+    EncodeCopyOutcome outcome;
+    const int streamType = channels.curStreamType;
+    const sdk::EncodeCapabilityBlock &main = to.mainBlock(streamType);
+    const sdk::EncodeCapabilityBlock &sub = to.subBlock();
+    const EncodeChoices mainChoices(tables, main);
+    const EncodeChoices subChoices(tables, sub);
+    // What was not read of the source is not copied: its item is left out and named below.
+    const bool hasMain = from.main.knows(EncodePlace::VideoFormat);
+    const bool hasSub = from.sub.knows(EncodePlace::VideoFormat);
+    if (hasMain)
+        outcome.skipped += takePicture(mainChoices, from.main, false, to.main);
+    if (hasSub)
+        outcome.skipped += takePicture(subChoices, from.sub, true, to.sub);
+    // The bit rates that a device can do follow the size.
+    putIntoRecord(to.main, to.record.streams[static_cast<std::size_t>(streamType)]);
+    putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);
+    refreshEncodeCapabilities(session, channels.curChannel, to);
+    if (hasMain)
+        outcome.skipped += takeRates(mainChoices, main, from.main, false, to.main);
+    outcome.skipped += takeAudio(mainChoices, from.main, false, to.main);
+    if (hasSub)
+        outcome.skipped += takeRates(subChoices, sub, from.sub, true, to.sub);
+    outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
+    const QList<int> leftOut = itemsLeftOut(from);
+    // Nothing more is said of what one of the devices does not have.
+    const QList<int> missing = from.missingItems(streamType) + to.missingItems(streamType);
+    if (control.shouldEnd())
+        return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
+    const EncodeWriting writing =
+        writeEncodeItems(session, channels.curChannel, to, leftOut + missing, control);
+    if (control.shouldEnd() && !writing.notTaken.isEmpty())
+        outcome.result = resultCode(LoginResult::NotDone); // the others have been written
+    else if (writing.isDeviceAway)
+        outcome.result = resultCode(LoginResult::NetworkFailure);
+    else if (!writing.notTaken.isEmpty())
+        outcome.result = refusedByDevice;
+    for (int place = 0; place < 2 * itemsOfStream; ++place) {
+        if (missing.contains(place))
+            continue;
+        if (leftOut.contains(place) || to.unreadItems().contains(place) || writing.notTaken.contains(place))
+            outcome.skipped.append(EncodeConfig::itemNames().at(place));
+    }
+    return outcome;
+}

@@ -1,0 +1,179 @@
+#include "device/dh/lists/devicelistfile.h"
+
+#include "device/dh/lists/csvdevicelist.h"
+#include "device/dh/lists/xlsxdevicelist.h"
+#include "device/dh/lists/xmldevicelist.h"
+#include "device/registry/logging.h"
+#include "files/filereplacement.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 maximumFileSize = 128LL * 1024 * 1024;
+
+enum class ListFormat
+{
+    Xlsx,
+    Csv,
+    Xml,
+};
+
+ListFormat formatOf(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("xlsx"))
+        return ListFormat::Xlsx;
+    return suffix == QLatin1String("csv") ? ListFormat::Csv : ListFormat::Xml;
+}
+
+bool writeText(const QString &path, const QByteArray &text)
+{
+    const QString failure = replaceFile(path, text);
+    if (!failure.isEmpty())
+        qCWarning(logDevice).noquote() << "cannot write the device list" << path << '-' << failure;
+    return failure.isEmpty();
+}
+
+/// What the import would read from a file with these lines.
+DeviceListContents readBack(ListFormat format, const std::vector<DeviceListLine> &lines)
+{
+    DeviceListContents contents;
+    QBuffer file;
+    switch (format) {
+    case ListFormat::Xlsx:
+        // Cells keep every character; what is cut off or left out is so in all formats.
+        for (const DeviceListLine &line : lines)
+            contents.add(line);
+        for (DeviceListLine &line : contents.lines) {
+            for (int column = 0; column < listColumnCount; ++column) {
+                QString &text = line[static_cast<ListColumn>(column)];
+                text = listText(static_cast<ListColumn>(column), QString::fromUtf8(text.toUtf8()));
+            }
+        }
+        return contents;
+    case ListFormat::Csv:
+        file.setData(csvOf(lines));
+        break;
+    case ListFormat::Xml:
+        file.setData(xmlOf(lines));
+        break;
+    }
+    file.open(QIODevice::ReadOnly);
+    return format == ListFormat::Csv ? readCsv(file) : readXml(file);
+}
+
+bool comesBack(ListFormat format, const std::vector<DeviceListLine> &lines)
+{
+    const DeviceListContents back = readBack(format, lines);
+    return std::equal(lines.begin(), lines.end(), back.lines.begin(), back.lines.end(),
+                      [](const DeviceListLine &written, const DeviceListLine &read) {
+                          return written.values == read.values &&
+                                 std::all_of(read.values.begin(), read.values.end(),
+                                             [](const QString &text) { return faultOfText(text).isEmpty(); });
+                      });
+}
+
+/// Whether one text of a line comes back. A line has an address, or it would be none.
+bool comesBack(ListFormat format, ListColumn column, const QString &text)
+{
+    DeviceListLine line;
+    line[ListColumn::IPAddress] = QStringLiteral("0");
+    line[column] = text;
+    return comesBack(format, {line});
+}
+
+/// The first character of a text that does not come back from between two others, else the blank that the
+/// text begins or ends with.
+QString lostCharacter(ListFormat format, ListColumn column, const QString &text)
+{
+    for (const char32_t code : text.toUcs4()) {
+        QString character = QString::fromUcs4(&code, 1);
+        if (!comesBack(format, column, QLatin1Char('0') + character + QLatin1Char('0')))
+            return character;
+    }
+    if (text.front().isSpace())
+        return text.front();
+    return text.back().isSpace() ? QString(text.back()) : QString();
+}
+
+DeviceListContents refusal(const QString &reason)
+{
+    DeviceListContents contents;
+    contents.refuse(reason);
+    return contents;
+}
+
+} // namespace
+
+QString localPath(const QString &path)
+{
+    const QUrl url(path);
+    return url.isLocalFile() ? url.toLocalFile() : path;
+}
+
+bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines)
+{
+    switch (formatOf(path)) {
+    case ListFormat::Xlsx:
+        return writeXlsx(path, lines);
+    case ListFormat::Csv:
+        return writeText(path, csvOf(lines));
+    case ListFormat::Xml:
+        return writeText(path, xmlOf(lines));
+    }
+    return false;
+}
+
+std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::vector<DeviceListLine> &lines)
+{
+    const ListFormat format = formatOf(fileName);
+    std::vector<UnreadableText> lost;
+    const bool allComeBack = comesBack(format, lines);
+    for (std::size_t place = 0; place < lines.size() && lost.size() < maximumUnreadableTexts; ++place) {
+        if (lines.at(place)[ListColumn::IPAddress].isEmpty())
+            lost.push_back({.line = place, .column = ListColumn::IPAddress, .character = {}});
+        if (allComeBack || comesBack(format, {lines.at(place)}))
+            continue;
+        for (int number = 0; number < listColumnCount; ++number) {
+            const auto column = static_cast<ListColumn>(number);
+            const QString &text = lines.at(place)[column];
+            if (lost.size() == maximumUnreadableTexts)
+                return lost;
+            if (!text.isEmpty() && !comesBack(format, column, text))
+                lost.push_back(
+                    {.line = place, .column = column, .character = lostCharacter(format, column, text)});
+        }
+    }
+    return lost;
+}
+
+DeviceListContents readDeviceList(const QString &path)
+{
+    QFile file(path);
+    // A folder or a pipe has a path too, and a pipe would never end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCWarning(logDevice).noquote() << "Failed to open file:" << path;
+        return refusal(QCoreApplication::translate("DeviceList", "无法打开文件"));
+    }
+    if (file.size() > maximumFileSize)
+        return refusal(QCoreApplication::translate("DeviceList", "文件过大"));
+    switch (formatOf(path)) {
+    case ListFormat::Xlsx:
+        return readXlsx(path);
+    case ListFormat::Csv:
+        return readCsv(file);
+    case ListFormat::Xml:
+        break;
+    }
+    DeviceListContents contents = readXml(file);
+    if (!contents.detail.isEmpty())
+        qCWarning(logDevice).noquote() << contents.detail;
+    return contents;
+}

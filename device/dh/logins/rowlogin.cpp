@@ -1,0 +1,234 @@
+#include "device/dh/logins/rowlogin.h"
+
+#include "device/registry/devicerow.h"
+#include "sdk/blocktext.h"
+#include "sdk/configlibrary.h"
+#include "sdk/configrecords.h"
+#include "sdk/netlibrary.h"
+
+#include <mutex>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto attributesWait = 500ms;
+constexpr auto configurationWait = 5000ms;
+constexpr auto httpsWait = 500ms;
+constexpr auto directedSearchWait = 3000ms;
+constexpr std::uint32_t configurationTextSize = 32768;
+constexpr std::uint32_t httpsTextSize = 1024;
+constexpr int defaultWebPort = 80;
+
+const QString loopback = QStringLiteral("127.0.0.1");
+
+/// The type word of a device-type code. Kinds without a word of their own are looked up by name.
+QString typeName(std::uint8_t code)
+{
+    switch (static_cast<sdk::DeviceTypeCode>(code)) {
+    case sdk::DeviceTypeCode::Camera:
+        return QStringLiteral("IPC");
+    case sdk::DeviceTypeCode::Recorder:
+        return QStringLiteral("NVR");
+    case sdk::DeviceTypeCode::VideoServer:
+    case sdk::DeviceTypeCode::VideoServerSecond:
+        return QStringLiteral("SVR");
+    case sdk::DeviceTypeCode::SpeedDome:
+        return QStringLiteral("SD");
+    case sdk::DeviceTypeCode::TrafficCamera:
+        return QStringLiteral("ITC");
+    case sdk::DeviceTypeCode::VideoWall:
+        return QStringLiteral("Matrix");
+    case sdk::DeviceTypeCode::ComputerRecorder:
+        return QStringLiteral("PC-NVR");
+    default:
+        return otherDeviceType();
+    }
+}
+
+QString loginTypeName(ReachedBy reachedBy)
+{
+    switch (reachedBy) {
+    case ReachedBy::Address:
+        return QStringLiteral("IP");
+    case ReachedBy::P2P:
+        return QStringLiteral("P2P");
+    }
+    return otherDeviceType();
+}
+
+/// What is asked of a device after its login, zeroed where it gave no answer.
+struct Answers
+{
+    sdk::DeviceAttributes attributes{};
+    sdk::NetworkRecord network{};
+    sdk::ServiceRecord service{};
+    sdk::HttpsRecord https{};
+    sdk::NetworkServices services{};
+};
+
+/// Reads a configuration text and unpacks it into `record`.
+template<typename Record>
+void readConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name, int channel,
+                       std::uint32_t textSize, std::chrono::milliseconds wait, Record &record)
+{
+    std::vector<char> text(textSize, '\0');
+    std::int32_t error = 0;
+    if (!libraries.net->NetGetNewConfig(handle, name, channel, text.data(), textSize, error, wait))
+        return;
+    if (!libraries.config)
+        return;
+    const std::string_view whole(text.data(), text.size());
+    std::uint32_t returned = 0;
+    libraries.config->ConfigParseData(name, whole.substr(0, whole.find('\0')), &record, sizeof(record),
+                                      returned);
+}
+
+/// Nothing when `control` ended it between two queries.
+std::optional<Answers> askDevice(const sdk::SdkLibraries &libraries, std::int64_t handle,
+                                 const StepControl &control)
+{
+    Answers answers;
+    std::uint32_t returned = 0;
+    libraries.net->NetQueryConfig(handle, sdk::QueryCommand::DeviceAttributes, 0, &answers.attributes,
+                                  sizeof(answers.attributes), returned, attributesWait);
+    const auto read = [&](const char *name, int channel, std::uint32_t size, std::chrono::milliseconds wait,
+                          auto &record) {
+        if (!control.shouldEnd())
+            readConfiguration(libraries, handle, name, channel, size, wait, record);
+    };
+    read("Network", 0, configurationTextSize, configurationWait, answers.network);
+    read("DVRIP", 0, configurationTextSize, configurationWait, answers.service);
+    read("Https", -1, httpsTextSize, httpsWait, answers.https);
+    if (control.shouldEnd())
+        return std::nullopt;
+    libraries.net->NetQueryConfig(handle, sdk::QueryCommand::NetworkServices, 0, &answers.services,
+                                  sizeof(answers.services), returned, configurationWait);
+    return answers;
+}
+
+QString macOf(const Answers &answers)
+{
+    const QString mac = fieldText(answers.network.mac);
+    return mac.isEmpty() ? fieldText(answers.attributes.mac) : mac;
+}
+
+int webPort(const Answers &answers)
+{
+    const int port = answers.https.enabled != 0 ? answers.https.port : answers.services.webPort;
+    return port > 0 && port <= 65535 ? port : defaultWebPort;
+}
+
+/// The answer of one address, collected from a thread of the library.
+class DirectedAnswer
+{
+public:
+    static void handle(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+    {
+        auto *self = static_cast<DirectedAnswer *>(user);
+        if (!answer || answer->size != sizeof(*answer))
+            return;
+        const std::scoped_lock lock(self->m_mutex);
+        if (!self->m_answer)
+            self->m_answer = *answer;
+    }
+
+    [[nodiscard]] std::optional<sdk::SearchAnswer> answer() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_answer;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::optional<sdk::SearchAnswer> m_answer;
+};
+
+std::optional<sdk::SearchAnswer> searchAddress(sdk::NetLibrary &net, const QString &address)
+{
+    sdk::SearchByAddressesRequest request{};
+    request.size = sizeof(request);
+    request.count = 1;
+    sdk::setBlockText(request.addresses[0], address.toLocal8Bit().toStdString());
+    DirectedAnswer answer;
+    net.NetSearchDeviceByIp(request, &DirectedAnswer::handle, &answer, directedSearchWait);
+    return answer.answer();
+}
+
+QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformation &device,
+                  const Answers &answers)
+{
+    const bool p2p = request.reachedBy == ReachedBy::P2P;
+    QJsonObject row = {
+        {DeviceRowKey::username, request.account},
+        {DeviceRowKey::checked, false},
+        {DeviceRowKey::num, QString()},
+        {DeviceRowKey::state, true},
+        {DeviceRowKey::name, QString()},
+        {DeviceRowKey::type, typeName(device.deviceType)},
+        {DeviceRowKey::loginType, loginTypeName(request.reachedBy)},
+        {DeviceRowKey::model, fieldText(device.model)},
+        {DeviceRowKey::ipport,
+         (p2p ? loopback : request.address) + QLatin1Char(':') + QString::number(request.port)},
+        {DeviceRowKey::mac, macOf(answers)},
+        {DeviceRowKey::vision, versionText(fieldText(answers.attributes.softwareVersion))},
+        {DeviceRowKey::url, QString()},
+        {DeviceRowKey::result, QString()},
+        {DeviceRowKey::res, -1},
+        {DeviceRowKey::operate, QString()},
+        {DeviceRowKey::filepath, QString()},
+        {DeviceRowKey::upgrade, 0},
+        {DeviceRowKey::upgraderes, -1},
+        {DeviceRowKey::password, request.password},
+        {DeviceRowKey::httpport, webPort(answers)},
+        {DeviceRowKey::loggedIn, true},
+        {DeviceRowKey::https, answers.https.enabled != 0 && answers.https.port > 0},
+    };
+    if (p2p) {
+        row.insert(DeviceRowKey::name, request.address);
+        row.insert(DeviceRowKey::devp2pPort, request.devicePort);
+    }
+    return row;
+}
+
+/// Takes over what only a search answer tells.
+void completeFrom(QJsonObject &row, const sdk::SearchAnswer &answer)
+{
+    const QJsonObject found = ipv4Row(answer);
+    for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::mac, DeviceRowKey::vision}) {
+        if (!found.value(key).toString().isEmpty())
+            row.insert(key, found.value(key));
+    }
+}
+
+} // namespace
+
+RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request,
+                            const StepControl &control)
+{
+    if (!libraries.net)
+        return {.result = LoginResult::NetworkFailure, .row = {}, .record = {}};
+    sdk::NetLibrary &net = *libraries.net;
+    const bool p2p = request.reachedBy == ReachedBy::P2P;
+
+    sdk::LoginDeviceInformation device{};
+    std::int32_t error = 0;
+    const std::int64_t handle =
+        net.NetLogin((p2p ? loopback : request.address).toLocal8Bit().constData(), request.port,
+                     request.account.toLocal8Bit().constData(), request.password.toLocal8Bit().constData(), 0,
+                     nullptr, device, error);
+    if (handle < 1)
+        return {.result = loginResultOf(net.NetGetLastError()), .row = {}, .record = {}};
+
+    RowLoginOutcome outcome{.result = LoginResult::NotDone, .row = {}, .record = {}};
+    if (const std::optional<Answers> answers = askDevice(libraries, handle, control))
+        outcome = {.result = LoginResult::Success, .row = rowOf(request, device, *answers), .record = {}};
+    if (!p2p && outcome.result == LoginResult::Success && !control.shouldEnd()) {
+        outcome.record = searchAddress(net, request.address);
+        if (outcome.record)
+            completeFrom(outcome.row, *outcome.record);
+    }
+    net.NetLogout(handle);
+    return outcome;
+}

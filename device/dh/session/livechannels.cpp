@@ -1,0 +1,53 @@
+#include "device/dh/session/livechannels.h"
+
+#include "device/dh/session/channelnames.h"
+#include "sdk/blocktext.h"
+#include "sdk/camerablocks.h"
+#include "sdk/streamblocks.h"
+
+#include <QCoreApplication>
+#include <QVariantMap>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+
+QList<bool> connectedChannels(const ConfigSession &session, int count)
+{
+    using namespace std::chrono_literals;
+    QList<bool> connected(std::clamp(count, 1, ChannelNames::maximumChannels), true);
+    const auto answer = std::make_unique<sdk::ChannelStates>();
+    if (!session.queryChannelStates(*answer, 1000ms))
+        return connected;
+    const std::size_t told = std::min<std::size_t>(answer->count, answer->states.size());
+    for (std::size_t place = 0; place < told; ++place) {
+        const sdk::ChannelState &state = answer->states.at(place);
+        if (state.channel >= 0 && state.channel < connected.size())
+            connected[state.channel] = state.connection != sdk::ChannelConnection::NotConnected;
+    }
+    return connected;
+}
+
+QVariantList liveChannels(const ConfigSession &session, int count)
+{
+    const QList<bool> connected = connectedChannels(session, count);
+    QVariantList channels;
+    bool isAway = false; // every further request would wait for nothing
+    for (int channel = 0; channel < connected.size(); ++channel) {
+        sdk::ChannelNameItem item = {};
+        item.size = sizeof(item);
+        const bool isTold =
+            !isAway &&
+            session.readItem(static_cast<std::uint32_t>(sdk::CameraItem::ChannelName), channel, item);
+        isAway = isAway || (!isTold && session.isDeviceAway());
+        const std::string_view told = isTold ? sdk::blockText(item.name) : std::string_view();
+        const QString name = QString::fromUtf8(told.data(), qsizetype(told.size())).trimmed();
+        channels.append(QVariantMap{
+            {QStringLiteral("channel"), channel},
+            {QStringLiteral("name"),
+             name.isEmpty() ? QCoreApplication::translate("LiveChannels", "通道 %1").arg(channel + 1) : name},
+            {QStringLiteral("connected"), connected.at(channel)},
+        });
+    }
+    return channels;
+}

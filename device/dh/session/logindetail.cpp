@@ -1,0 +1,127 @@
+#include "device/dh/session/logindetail.h"
+
+#include "device/registry/devicerow.h"
+#include "device/registry/loginresult.h"
+#include "sdk/configrecords.h"
+#include "sdk/loginblocks.h"
+#include "sdk/streamblocks.h"
+
+#include <algorithm>
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::size_t detailTextSize = 32768;
+constexpr auto everyChannel = -1;
+
+/// Puts in what is not empty: a name or an address that a device leaves out is known from elsewhere.
+void putText(QVariantMap &detail, QLatin1StringView key, const QString &text)
+{
+    if (!text.isEmpty())
+        detail.insert(key, text);
+}
+
+/// Numbers come as the device sends them; one below 0 says nothing.
+void putNumber(QVariantMap &detail, QLatin1StringView key, std::int32_t number)
+{
+    if (number >= 0)
+        detail.insert(key, number);
+}
+
+// Each of the following returns false when the device is away: whatever else it is asked would wait for
+// nothing.
+
+bool readAttributes(const ConfigSession &session, QVariantMap &detail)
+{
+    sdk::DeviceAttributes answer{};
+    if (!session.queryBlock(sdk::QueryCommand::DeviceAttributes, answer, ConfigSession::usualWait))
+        return !session.isDeviceAway();
+    putText(detail, QLatin1StringView("serial"), fieldText(answer.serialNumber));
+    putText(detail, DeviceRowKey::vision, versionText(fieldText(answer.softwareVersion)));
+    putText(detail, DeviceRowKey::model, fieldText(answer.detailModel));
+    putText(detail, DeviceRowKey::mac, fieldText(answer.mac));
+    putNumber(detail, QLatin1StringView("channelCount"), answer.videoInputs);
+    putNumber(detail, QLatin1StringView("alarmInputs"), answer.alarmInputs);
+    putNumber(detail, QLatin1StringView("disks"), answer.disks);
+    return true;
+}
+
+/// Calls `take` with the record of a configuration, if the device has one that can be read.
+template<typename Record, typename Take>
+bool readRecord(const ConfigSession &session, const char *name, int channel, Take take)
+{
+    ConfigText text(detailTextSize);
+    const std::int32_t error = session.fetchText(name, channel, text, ConfigSession::usualWait);
+    if (error != 0)
+        return !isSessionLost(static_cast<std::uint32_t>(error));
+    Record record{};
+    if (session.unpack(name, text, record))
+        take(record);
+    return true;
+}
+
+bool readNetwork(const ConfigSession &session, QVariantMap &detail)
+{
+    return readRecord<sdk::NetworkRecord>(session, "Network", 0, [&](const sdk::NetworkRecord &record) {
+        putText(detail, QLatin1StringView("hostName"), fieldText(record.hostName));
+        putText(detail, DeviceRowKey::mac, fieldText(record.mac));
+        putText(detail, QLatin1StringView("address"), fieldText(record.address));
+        putText(detail, QLatin1StringView("submask"), fieldText(record.subnetMask));
+        putText(detail, QLatin1StringView("gateway"), fieldText(record.gateway));
+        detail.insert(QLatin1StringView("dhcp"), record.dhcpEnabled != 0);
+    });
+}
+
+bool readService(const ConfigSession &session, QVariantMap &detail)
+{
+    return readRecord<sdk::ServiceRecord>(session, "DVRIP", 0, [&](const sdk::ServiceRecord &record) {
+        putNumber(detail, QLatin1StringView("servicePort"), record.tcpPort);
+        putNumber(detail, QLatin1StringView("maximumConnections"), record.maximumConnections);
+    });
+}
+
+bool readHttps(const ConfigSession &session, QVariantMap &detail)
+{
+    return readRecord<sdk::HttpsRecord>(session, "Https", everyChannel, [&](const sdk::HttpsRecord &record) {
+        putNumber(detail, QLatin1StringView("httpsPort"), record.enabled != 0 ? record.port : 0);
+    });
+}
+
+bool readServices(const ConfigSession &session, QVariantMap &detail)
+{
+    const auto answer = std::make_unique<sdk::NetworkServices>();
+    if (!session.queryBlock(sdk::QueryCommand::NetworkServices, *answer, ConfigSession::usualWait))
+        return !session.isDeviceAway();
+    putNumber(detail, QLatin1StringView("webPort"), answer->webPort);
+    putNumber(detail, QLatin1StringView("rtspPort"), answer->rtspPort);
+    return true;
+}
+
+bool readChannels(const ConfigSession &session, QVariantMap &detail)
+{
+    const auto answer = std::make_unique<sdk::ChannelStates>();
+    if (!session.queryChannelStates(*answer, 1000ms))
+        return !session.isDeviceAway();
+    const std::size_t told = std::min<std::size_t>(answer->count, answer->states.size());
+    const auto connected = std::count_if(
+        answer->states.cbegin(), answer->states.cbegin() + static_cast<std::ptrdiff_t>(told),
+        [](const sdk::ChannelState &state) { return state.connection == sdk::ChannelConnection::Connected; });
+    if (told > 0)
+        detail.insert(QLatin1StringView("connectedCount"), static_cast<int>(connected));
+    return true;
+}
+
+} // namespace
+
+QVariantMap loginDetail(const ConfigSession &session)
+{
+    QVariantMap detail;
+    for (const auto read :
+         {readAttributes, readNetwork, readService, readHttps, readServices, readChannels}) {
+        if (!read(session, detail))
+            break;
+    }
+    return detail;
+}

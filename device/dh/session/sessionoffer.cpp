@@ -1,0 +1,61 @@
+#include "device/dh/session/sessionoffer.h"
+
+#include "device/dh/session/livechannels.h"
+#include "device/registry/loginresult.h"
+#include "sdk/neterror.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A busy device must not pass for one that has forgotten the session.
+constexpr auto answerWait = 2000ms;
+
+enum class SessionAnswer
+{
+    Answers,
+    Away,
+    Refused, ///< the device does not accept the login of the session
+};
+
+SessionAnswer askInSession(const ConfigSession &session)
+{
+    const auto states = std::make_unique<sdk::ChannelStates>();
+    if (session.queryChannelStates(*states, answerWait))
+        return SessionAnswer::Answers;
+    const std::uint32_t error = session.lastError();
+    if (isLoginRefused(error))
+        return SessionAnswer::Refused;
+    // A device that restarts accepts no connections for a while.
+    const bool isAway =
+        isDeviceAway(error) || error == static_cast<std::uint32_t>(sdk::NetError::ConnectFailed);
+    return isAway ? SessionAnswer::Away : SessionAnswer::Answers;
+}
+
+} // namespace
+
+bool answersInSession(const ConfigSession &session)
+{
+    return askInSession(session) == SessionAnswer::Answers;
+}
+
+SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order)
+{
+    if (order.handle != 0) {
+        const ConfigSession present(libraries, order.handle);
+        const SessionAnswer answer = askInSession(present);
+        if (answer == SessionAnswer::Refused && !order.isNewLogin)
+            return {.result = loginResultOf(present.lastError()), .login = {}, .channels = {}};
+        if (answer == SessionAnswer::Answers) {
+            return {.result = LoginResult::Success,
+                    .login = {},
+                    .channels =
+                        order.readsChannels ? liveChannels(present, order.channelCount) : QVariantList()};
+        }
+    }
+    const SecureLogin login = secureLogin(libraries.net.get(), order.ipport, order.account, order.password);
+    QVariantList channels;
+    if (login.handle != 0)
+        channels = liveChannels(ConfigSession(libraries, login.handle), login.channelCount);
+    return {.result = login.result, .login = login, .channels = channels};
+}

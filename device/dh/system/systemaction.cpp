@@ -1,0 +1,193 @@
+#include "device/dh/system/systemaction.h"
+
+#include "device/dh/system/systemdata.h"
+#include "device/registry/logging.h"
+#include "sdk/configlibrary.h"
+#include "sdk/neterror.h"
+#include "sdk/netlibrary.h"
+
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto timeWait = 3000ms;
+constexpr auto requestWait = 5000ms;
+constexpr std::int32_t wholeDevice = -1;
+constexpr std::int32_t firstChannel = 0;
+constexpr std::uint32_t localesTextSize = 32768;
+constexpr std::uint32_t writtenTextSize = 4096;
+
+/// The last error of the library belongs to the call that failed, not to the action.
+std::uint32_t errorOf(const sdk::NetLibrary &net, bool isDone)
+{
+    return isDone ? 0 : net.NetGetLastError();
+}
+
+/// Without a library for configuration texts, or with a text that it does not understand, nothing is sent.
+constexpr auto unusableText = static_cast<std::uint32_t>(sdk::NetError::Refused);
+
+std::uint32_t setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, const sdk::TimeRecord &time)
+{
+    const std::uint32_t error = errorOf(
+        *libraries.net, libraries.net->NetSetDeviceSetting(handle, sdk::DeviceSetting::Time, wholeDevice,
+                                                           &time, sizeof(time), timeWait));
+    if (error != 0)
+        qCWarning(logDevice) << "The time was refused, error" << Qt::hex << error;
+    return error;
+}
+
+/// Packs a record into the text of a configuration and writes that.
+template<typename Record>
+std::uint32_t writeConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name,
+                                 const Record &record, std::uint32_t textSize)
+{
+    std::vector<char> text(textSize, '\0');
+    if (!libraries.config ||
+        !libraries.config->ConfigPackData(name, &record, sizeof(record), text.data(), textSize))
+        return unusableText;
+    std::int32_t error = 0;
+    return errorOf(*libraries.net, libraries.net->NetSetNewConfig(handle, name, wholeDevice, text.data(),
+                                                                  textSize, error, requestWait));
+}
+
+/// Only the rule is changed in what the device has.
+std::uint32_t setDaylightSaving(const sdk::SdkLibraries &libraries, std::int64_t handle,
+                                const DaylightSaving &rule)
+{
+    const char *const name = "Locales";
+    std::vector<char> text(localesTextSize, '\0');
+    std::int32_t error = 0;
+    if (!libraries.config)
+        return unusableText;
+    if (!libraries.net->NetGetNewConfig(handle, name, wholeDevice, text.data(), localesTextSize, error,
+                                        requestWait))
+        return libraries.net->NetGetLastError();
+    const std::string_view whole(text.data(), text.size());
+    sdk::LocalesRecord record{};
+    std::uint32_t returned = 0;
+    if (!libraries.config->ConfigParseData(name, whole.substr(0, whole.find('\0')), &record, sizeof(record),
+                                           returned))
+        return unusableText;
+    record.daylightSavingEnabled = rule.enabled ? 1 : 0;
+    record.begin = rule.begin;
+    record.end = rule.end;
+    return writeConfiguration(libraries, handle, name, record, localesTextSize);
+}
+
+std::uint32_t resetSystem(const sdk::SdkLibraries &libraries, std::int64_t handle)
+{
+    const sdk::ResetSystemInput input{.size = sizeof(input)};
+    sdk::ResetSystemOutput output{.size = sizeof(output)};
+    return errorOf(*libraries.net, libraries.net->NetResetSystem(handle, input, output, requestWait));
+}
+
+using Make = std::optional<SystemAction> (*)(const sdk::SdkLibraries &libraries, const QVariantMap &data);
+
+std::optional<SystemAction> timeAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto time = timeFrom(data);
+    if (!time)
+        return std::nullopt;
+    return [libraries, time = *time](std::int64_t handle) {
+        return setTime(libraries, handle, time);
+    };
+}
+
+std::optional<SystemAction> daylightSavingAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto rule = daylightSavingFrom(data);
+    if (!rule)
+        return std::nullopt;
+    return [libraries, rule = *rule](std::int64_t handle) {
+        return setDaylightSaving(libraries, handle, rule);
+    };
+}
+
+std::optional<SystemAction> ntpAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto record = ntpFrom(data);
+    if (!record)
+        return std::nullopt;
+    return [libraries, record = *record](std::int64_t handle) {
+        return writeConfiguration(libraries, handle, "NTP", record, writtenTextSize);
+    };
+}
+
+std::optional<SystemAction> autoMaintainAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto record = autoMaintainFrom(data);
+    if (!record)
+        return std::nullopt;
+    return [libraries, record = *record](std::int64_t handle) {
+        return writeConfiguration(libraries, handle, "AutoMaintain", record, writtenTextSize);
+    };
+}
+
+std::optional<SystemAction> rebootAction(const sdk::SdkLibraries &libraries, const QVariantMap &)
+{
+    return [libraries](std::int64_t handle) {
+        return errorOf(*libraries.net, libraries.net->NetRebootDevice(handle, requestWait));
+    };
+}
+
+std::optional<SystemAction> resetAction(const sdk::SdkLibraries &libraries, const QVariantMap &)
+{
+    return [libraries](std::int64_t handle) {
+        return resetSystem(libraries, handle);
+    };
+}
+
+std::optional<SystemAction> videoStandardAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto item = videoStandardFrom(data);
+    if (!item)
+        return std::nullopt;
+    return [libraries, item = *item](std::int64_t handle) {
+        return errorOf(*libraries.net, libraries.net->NetSetItem(handle, sdk::videoStandardItem, wholeDevice,
+                                                                 &item, sizeof(item), requestWait));
+    };
+}
+
+std::optional<SystemAction> channelNameAction(const sdk::SdkLibraries &libraries, const QVariantMap &data)
+{
+    const auto item = channelNameFrom(data);
+    if (!item)
+        return std::nullopt;
+    return [libraries, item = *item](std::int64_t handle) {
+        return errorOf(*libraries.net, libraries.net->NetSetItem(
+                                           handle, static_cast<std::uint32_t>(sdk::CameraItem::ChannelName),
+                                           firstChannel, &item, sizeof(item), requestWait));
+    };
+}
+
+struct CommandEntry
+{
+    QLatin1StringView command;
+    Make make;
+};
+
+constexpr std::array commands = {
+    CommandEntry{QLatin1StringView("setTimeByPC"), &timeAction},
+    CommandEntry{QLatin1StringView("setTimeByManual"), &timeAction},
+    CommandEntry{QLatin1StringView("dstConfig"), &daylightSavingAction},
+    CommandEntry{QLatin1StringView("ntpConfig"), &ntpAction},
+    CommandEntry{QLatin1StringView("autoMaintain"), &autoMaintainAction},
+    CommandEntry{QLatin1StringView("rebootDevice"), &rebootAction},
+    CommandEntry{QLatin1StringView("resetSystem"), &resetAction},
+    CommandEntry{QLatin1StringView("videoStandard"), &videoStandardAction},
+    CommandEntry{QLatin1StringView("channelName"), &channelNameAction},
+};
+
+} // namespace
+
+std::optional<SystemAction> systemAction(const sdk::SdkLibraries &libraries, const QString &command,
+                                         const QVariantMap &data)
+{
+    for (const CommandEntry &entry : commands) {
+        if (entry.command == command)
+            return entry.make(libraries, data);
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,154 @@
+#include "device/dh/system/systemdata.h"
+
+#include "device/registry/bytetext.h"
+#include "sdk/blocktext.h"
+
+#include <QDateTime>
+
+namespace {
+
+constexpr int largestWord = 65535;
+
+/// A whole number from `minimum` to `maximum`, also as the text of one.
+std::optional<std::int32_t> numberFrom(const QVariantMap &data, const QString &key, int minimum, int maximum)
+{
+    bool isNumber = false;
+    const double number = data.value(key).toDouble(&isNumber);
+    // Turned round, so that what is no number fails as well.
+    if (!isNumber || !(number >= minimum && number <= maximum))
+        return std::nullopt;
+    const auto whole = static_cast<std::int32_t>(number);
+    return whole == number ? std::optional(whole) : std::nullopt;
+}
+
+std::optional<bool> flagFrom(const QVariantMap &data, const QString &key)
+{
+    const QVariant value = data.value(key);
+    return value.canConvert<bool>() ? std::optional(value.toBool()) : std::nullopt;
+}
+
+/// Hour and minute; an invalid time when the text is none.
+QTime minutesFrom(const QVariantMap &data, const QString &key)
+{
+    return QTime::fromString(data.value(key).toString(), QStringLiteral("hh:mm"));
+}
+
+/// Begin or end of daylight saving, whose keys begin with `prefix`.
+std::optional<sdk::DaylightSavingPoint> pointFrom(const QVariantMap &data, const QString &prefix, bool byWeek)
+{
+    constexpr int lastWeekIndex = 4;
+    constexpr int lastDayIndex = 30;
+    constexpr int saturday = 6;
+    const auto month = numberFrom(data, prefix + QLatin1String("Month"), 1, 12);
+    const QTime time = minutesFrom(data, prefix + QLatin1String("Time"));
+    if (!month || !time.isValid())
+        return std::nullopt;
+    sdk::DaylightSavingPoint point{.month = *month,
+                                   .week = sdk::DaylightSavingPoint::byDate,
+                                   .day = 0,
+                                   .hour = time.hour(),
+                                   .minute = time.minute()};
+    if (!byWeek) {
+        const auto dayIndex = numberFrom(data, prefix + QLatin1String("Day"), 0, lastDayIndex);
+        if (!dayIndex)
+            return std::nullopt;
+        point.day = *dayIndex + 1;
+        return point;
+    }
+    const auto weekIndex = numberFrom(data, prefix + QLatin1String("Week"), 0, lastWeekIndex);
+    const auto weekDay = numberFrom(data, prefix + QLatin1String("WeekDay"), 0, saturday);
+    if (!weekIndex || !weekDay)
+        return std::nullopt;
+    point.week = *weekIndex == lastWeekIndex ? sdk::DaylightSavingPoint::lastWeek : *weekIndex + 1;
+    point.day = *weekDay;
+    return point;
+}
+
+} // namespace
+
+std::optional<sdk::TimeRecord> timeFrom(const QVariantMap &data)
+{
+    const QDateTime time = QDateTime::fromString(data.value(QStringLiteral("time")).toString(),
+                                                 QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    // Date and time apart: a moment that this computer's daylight saving leaves out is one on a device.
+    if (!time.date().isValid() || !time.time().isValid() || time.date().year() < 1)
+        return std::nullopt;
+    const auto part = [](int number) {
+        return static_cast<std::uint32_t>(number);
+    };
+    return sdk::TimeRecord{.year = part(time.date().year()),
+                           .month = part(time.date().month()),
+                           .day = part(time.date().day()),
+                           .hour = part(time.time().hour()),
+                           .minute = part(time.time().minute()),
+                           .second = part(time.time().second())};
+}
+
+std::optional<DaylightSaving> daylightSavingFrom(const QVariantMap &data)
+{
+    const auto enabled = flagFrom(data, QStringLiteral("dstEnable"));
+    const auto mode = numberFrom(data, QStringLiteral("dstMode"), 0, 1);
+    if (!enabled || !mode)
+        return std::nullopt;
+    const auto begin = pointFrom(data, QStringLiteral("start"), *mode == 1);
+    const auto end = pointFrom(data, QStringLiteral("end"), *mode == 1);
+    if (!begin || !end)
+        return std::nullopt;
+    return DaylightSaving{.enabled = *enabled, .begin = *begin, .end = *end};
+}
+
+std::optional<sdk::NtpRecord> ntpFrom(const QVariantMap &data)
+{
+    const auto timeZone = numberFrom(data, QStringLiteral("timeZone"), 0, sdk::NtpRecord::timeZones - 1);
+    const auto enabled = flagFrom(data, QStringLiteral("ntpSet"));
+    const auto port = numberFrom(data, QStringLiteral("ntpPort"), 0, largestWord);
+    const auto updatePeriod = numberFrom(data, QStringLiteral("updatePeriod"), 0, largestWord);
+    const std::string server = data.value(QStringLiteral("ntpServer")).toString().toStdString();
+    sdk::NtpRecord record{};
+    if (!timeZone || !enabled || !port || !updatePeriod || server.size() >= record.address.size() ||
+        !data.contains(QStringLiteral("ntpServer")))
+        return std::nullopt;
+    record.size = sizeof(record);
+    record.enabled = *enabled ? 1 : 0;
+    sdk::setBlockText(record.address, server);
+    record.port = *port;
+    record.updatePeriod = *updatePeriod;
+    record.timeZone = *timeZone;
+    return record;
+}
+
+std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data)
+{
+    const auto week = numberFrom(data, QStringLiteral("week"), 0, sdk::AutoMaintainRecord::everyDay);
+    const auto autoReboot = flagFrom(data, QStringLiteral("autoReboot"));
+    const QTime time = minutesFrom(data, QStringLiteral("time"));
+    if (!week || !autoReboot || !time.isValid())
+        return std::nullopt;
+    sdk::AutoMaintainRecord record{};
+    record.size = sizeof(record);
+    record.rebootDay = *autoReboot ? *week : sdk::AutoMaintainRecord::never;
+    record.rebootHour = time.hour();
+    record.rebootMinute = time.minute();
+    record.rebootEnabled = *autoReboot ? 1 : 0;
+    return record;
+}
+
+std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data)
+{
+    const QString name = ByteText::withoutInvisible(data.value(QStringLiteral("name")).toString()).trimmed();
+    if (name.isEmpty() || ByteText::bytes(name) > ByteText::channelNameBytes())
+        return std::nullopt;
+    sdk::ChannelNameItem item = {};
+    item.size = sizeof(item);
+    sdk::setBlockText(item.name, name.toStdString());
+    return item;
+}
+
+std::optional<sdk::VideoStandardItem> videoStandardFrom(const QVariantMap &data)
+{
+    const auto standard = numberFrom(data, QStringLiteral("videoStandard"), 1, 2);
+    if (!standard)
+        return std::nullopt;
+    return sdk::VideoStandardItem{.size = sizeof(sdk::VideoStandardItem),
+                                  .standard = static_cast<sdk::VideoStandard>(*standard)};
+}

@@ -1,0 +1,342 @@
+#include "device/dh/upgrade/upgradework.h"
+
+#include "device/dh/session/securelogin.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/logging.h"
+#include "sdk/clock.h"
+#include "sdk/netlibrary.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto upgradeAttributesWait = 3000ms;
+constexpr auto upgradeStartWait = 10000ms;
+constexpr auto lookInterval = 200ms;    ///< between two looks at the news
+constexpr auto returnInterval = 1000ms; ///< between two tries to log in again
+constexpr auto versionWait = 10000ms;   ///< for a version of a device that lets in again
+
+// How the phases share the percent of an upgrade.
+constexpr int writingFrom = 70;
+constexpr int restartingFrom = 95;
+
+/// Texts that hold more than a result.
+class UpgradeTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(UpgradeTexts)
+public:
+    static QString cannotStop() { return tr("已开始写入，无法停止"); }
+    static QString stopFails() { return tr("尚未停止，正在重试"); }
+    static QString restarts() { return tr("固件已写入，设备正在重启，无法停止"); }
+    static QString versions(const QString &before, const QString &now)
+    {
+        return before.isEmpty() ? now : QStringLiteral("%1 → %2").arg(before, now);
+    }
+    static QString done(const QString &versions) { return tr("升级成功：%1").arg(versions); }
+    static QString noVersion(const QString &reason) { return tr("%1：未读到版本号").arg(reason); }
+    static QString nothingToCompare(const QString &reason, const QString &now)
+    {
+        return tr("%1：现为 %2，升级前的版本未知").arg(reason, now);
+    }
+    static QString failedAt(const QString &reason, int percent)
+    {
+        return tr("%1（%2%）").arg(reason).arg(percent);
+    }
+};
+
+UpgradeTools::Result resultOfLogin(LoginResult result)
+{
+    switch (result) {
+    case LoginResult::NoSuchAccount:
+        return UpgradeTools::NoSuchAccount;
+    case LoginResult::WrongPassword:
+        return UpgradeTools::WrongPassword;
+    case LoginResult::AccountLocked:
+        return UpgradeTools::AccountLocked;
+    case LoginResult::AccountLoggedIn:
+        return UpgradeTools::DeviceBusy;
+    case LoginResult::NotInitialised:
+        return UpgradeTools::NotInitialised;
+    case LoginResult::ProtocolMismatch:
+    case LoginResult::NotSupported:
+        return UpgradeTools::NotSupported;
+    case LoginResult::UnknownCertificate:
+        return UpgradeTools::UnknownCertificate;
+    case LoginResult::ChangedCertificate:
+        return UpgradeTools::ChangedCertificate;
+    default:
+        return UpgradeTools::NoAnswer;
+    }
+}
+
+bool isCertificateRefused(UpgradeTools::Result result)
+{
+    return result == UpgradeTools::UnknownCertificate || result == UpgradeTools::ChangedCertificate;
+}
+
+UpgradeTools::Result resultOfError(std::uint32_t error)
+{
+    switch (static_cast<sdk::NetError>(error)) {
+    case sdk::NetError::UnusableFile:
+        return UpgradeTools::FileUnreadable;
+    case sdk::NetError::DeviceBusy:
+        return UpgradeTools::DeviceBusy;
+    case sdk::NetError::FirmwareRefused:
+        return UpgradeTools::FirmwareRefused;
+    case sdk::NetError::NotSupported:
+        return UpgradeTools::NotSupported;
+    case sdk::NetError::UnknownCertificate:
+        return UpgradeTools::UnknownCertificate;
+    case sdk::NetError::ChangedCertificate:
+        return UpgradeTools::ChangedCertificate;
+    default:
+        return isDeviceAway(error) ? UpgradeTools::NoAnswer : UpgradeTools::Failed;
+    }
+}
+
+} // namespace
+
+/// What the library has told last, on a thread of its own.
+class UpgradeWork::News
+{
+public:
+    static void handle(std::int64_t, const sdk::UpgradeProgress *progress, void *user)
+    {
+        if (!progress || progress->size != sizeof(*progress))
+            return;
+        auto *news = static_cast<News *>(user);
+        const std::scoped_lock lock(news->m_mutex);
+        if (news->hasEnded()) // what comes late does not undo it
+            return;
+        news->m_last = *progress;
+        if (!news->hasEnded())
+            news->m_onWay = *progress;
+    }
+
+    [[nodiscard]] sdk::UpgradeProgress last() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_last;
+    }
+
+    /// The last that was no end: an end does not say how far the device was.
+    [[nodiscard]] sdk::UpgradeProgress lastOnWay() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_onWay;
+    }
+
+private:
+    [[nodiscard]] bool hasEnded() const
+    {
+        return m_last.phase == sdk::UpgradePhase::Done || m_last.phase == sdk::UpgradePhase::Failed;
+    }
+
+    mutable std::mutex m_mutex;
+    sdk::UpgradeProgress m_onWay = {
+        .size = sizeof(sdk::UpgradeProgress), .phase = sdk::UpgradePhase::Sending, .percent = 0, .error = 0};
+    sdk::UpgradeProgress m_last = m_onWay;
+};
+
+UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits,
+                         const UpgradeOrder &order, UpgradeStop stop, Tell tell)
+    : m_libraries(libraries), m_limits(limits), m_order(order), m_stop(std::move(stop)),
+      m_tell(std::move(tell))
+{
+}
+
+bool UpgradeWork::shouldStop(const StepControl &control) const
+{
+    // The end of the program stops batches, too.
+    return (m_stop.isAsked || control.isStopped()) && !m_stop.end.stop_requested();
+}
+
+UpgradeState UpgradeWork::run(const StepControl &control)
+{
+    tell(UpgradeTools::Preparing, 0);
+    const FirmwareFile file = firmwareFile(m_order.file);
+    if (file.refusal != UpgradeTools::None)
+        return ended(file.refusal);
+    if (!file.fits(m_order.model))
+        return ended(UpgradeTools::WrongModel);
+    if (shouldStop(control))
+        return ended(UpgradeTools::Stopped);
+    const SecureLogin login =
+        secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
+    if (login.result != LoginResult::Success)
+        return ended(resultOfLogin(login.result));
+    News news;
+    UpgradeState state = send(login.handle, file, news, control);
+    m_libraries.net->NetLogout(login.handle); // no news from here on, also of what cannot be stopped
+    if (state.result != UpgradeTools::Restarting)
+        return state;
+    control.releasePlace();
+    return waitForReturn(file, control);
+}
+
+UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
+                               const StepControl &control)
+{
+    const Identity device = identity(loginHandle);
+    if (!file.fits(device.model))
+        return ended(UpgradeTools::WrongModel);
+    if (m_stop.end.stop_requested())
+        return ended(UpgradeTools::Cut);
+    if (shouldStop(control))
+        return ended(UpgradeTools::Stopped);
+    m_oldVersion = device.version;
+    const std::int64_t handle = m_libraries.net->NetStartUpgrade(
+        loginHandle, m_order.file.toLocal8Bit().constData(), &News::handle, &news, upgradeStartWait);
+    if (handle == 0) {
+        const std::uint32_t error = m_libraries.net->NetGetLastError();
+        qCWarning(logDevice) << "The upgrade of" << m_order.ipport << "was refused, error" << Qt::hex
+                             << error;
+        return ended(resultOfError(error));
+    }
+    UpgradeState state = follow(handle, news, control);
+    if (state.result != UpgradeTools::Stopped) // else it is stopped already
+        m_libraries.net->NetStopUpgrade(handle);
+    return state;
+}
+
+UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, const StepControl &control)
+{
+    sdk::Clock &clock = *m_libraries.clock;
+    const std::int64_t start = clock.now();
+    std::int64_t lastChange = start;
+    sdk::UpgradeProgress seen = news.last();
+    tell(UpgradeTools::Sending, 0);
+    while (clock.wait(lookInterval, m_stop.end)) {
+        const sdk::UpgradeProgress now = news.last();
+        if (now.phase == sdk::UpgradePhase::Done) {
+            tell(UpgradeTools::Restarting, restartingFrom);
+            return m_state;
+        }
+        if (now.phase == sdk::UpgradePhase::Failed) {
+            tellOnWay(news.lastOnWay());
+            return ended(resultOfError(now.error));
+        }
+        if (now.phase != seen.phase || now.percent != seen.percent)
+            lastChange = clock.now();
+        seen = now;
+        if (!m_stopRefused && shouldStop(control)) {
+            if (m_libraries.net->NetStopUpgrade(upgradeHandle))
+                return ended(UpgradeTools::Stopped);
+            // A device that is written goes on; of one that is not yet the stop may go well next time.
+            m_stopRefused = now.phase == sdk::UpgradePhase::Writing;
+            m_stopRemark = m_stopRefused ? UpgradeTexts::cannotStop() : UpgradeTexts::stopFails();
+        }
+        tellOnWay(now);
+        const auto longest = now.phase == sdk::UpgradePhase::Writing ? m_limits.writingStandsStill
+                                                                     : m_limits.sendingStandsStill;
+        if (clock.now() - lastChange > longest.count() || clock.now() - start > m_limits.whole.count())
+            return ended(UpgradeTools::Stuck);
+    }
+    return ended(UpgradeTools::Cut);
+}
+
+UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepControl &control)
+{
+    sdk::Clock &clock = *m_libraries.clock;
+    const std::int64_t start = clock.now();
+    bool wasAway = false;
+    std::optional<std::int64_t> letInAt; // after the reboot
+    while (clock.wait(returnInterval, m_stop.end)) {
+        if (shouldStop(control))
+            tell(UpgradeTools::Restarting, restartingFrom, UpgradeTexts::restarts());
+        const SecureLogin login =
+            secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
+        const UpgradeTools::Result refusal = resultOfLogin(login.result);
+        const auto passed = clock.now() - start;
+        if (login.result == LoginResult::Success) {
+            m_state.version = identity(login.handle).version;
+            m_libraries.net->NetLogout(login.handle);
+            // Some take a moment to go, and answer as before until then.
+            const bool hasRebooted = wasAway || passed > m_limits.leaves.count();
+            const UpgradeTools::Result outcome = outcomeOf(file, m_state.version);
+            const bool isOther = !m_oldVersion.isEmpty() && m_state.version != m_oldVersion;
+            if (!m_state.version.isEmpty() && (hasRebooted || (outcome == UpgradeTools::Success && isOther)))
+                return ended(outcome);
+            if (hasRebooted && clock.now() - letInAt.value_or(clock.now()) >= versionWait.count())
+                return ended(UpgradeTools::VersionUnknown);
+            if (hasRebooted && !letInAt)
+                letInAt = clock.now();
+        } else if (refusal == UpgradeTools::NoAnswer) {
+            wasAway = true;
+        } else if (UpgradeTools::canTryAgain(refusal) && !isCertificateRefused(refusal)) {
+            qCInfo(logDevice) << m_order.ipport << "does not let in yet after its upgrade";
+        } else {
+            return ended(refusal); // it has lost its accounts, or has another key, which the user decides on
+        }
+        if (passed > m_limits.comesBack.count())
+            return ended(UpgradeTools::NotBack);
+    }
+    return ended(UpgradeTools::Cut);
+}
+
+UpgradeTools::Result UpgradeWork::outcomeOf(const FirmwareFile &file, const QString &version) const
+{
+    if (file.head && sdk::isSameVersion(version.toStdString(), file.head->version))
+        return UpgradeTools::Success;
+    if (m_oldVersion.isEmpty())
+        return UpgradeTools::VersionUnknown;
+    return version == m_oldVersion ? UpgradeTools::KeptVersion : UpgradeTools::Success;
+}
+
+UpgradeWork::Identity UpgradeWork::identity(std::int64_t loginHandle) const
+{
+    sdk::DeviceAttributes attributes{};
+    std::uint32_t returned = 0;
+    if (!m_libraries.net->NetQueryConfig(loginHandle, sdk::QueryCommand::DeviceAttributes, 0, &attributes,
+                                         sizeof(attributes), returned, upgradeAttributesWait))
+        return {};
+    return {.model = fieldText(attributes.detailModel).trimmed(),
+            .version = fieldText(attributes.softwareVersion).trimmed()};
+}
+
+void UpgradeWork::tell(UpgradeTools::Result result, int percent, const QString &remark)
+{
+    const QString text = remark.isEmpty() ? UpgradeTools::text(result) : remark;
+    if (m_state.result == result && m_state.percent == percent && m_state.text == text)
+        return;
+    m_state.result = result;
+    m_state.percent = percent;
+    m_state.text = text;
+    m_tell(m_state);
+}
+
+void UpgradeWork::tellOnWay(const sdk::UpgradeProgress &progress)
+{
+    const bool isWriting = progress.phase == sdk::UpgradePhase::Writing;
+    const int percent = std::clamp(progress.percent, 0, 100);
+    tell(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
+         isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
+                   : percent * writingFrom / 100,
+         m_stopRemark);
+}
+
+UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const
+{
+    UpgradeState state = m_state;
+    const bool isOnWay = state.result == UpgradeTools::Sending || state.result == UpgradeTools::Writing;
+    state.text = UpgradeTools::text(result);
+    if (result == UpgradeTools::Success) {
+        state.percent = 100;
+        state.versions = UpgradeTexts::versions(m_oldVersion, state.version);
+        state.text = UpgradeTexts::done(state.versions);
+    } else if (result == UpgradeTools::VersionUnknown) {
+        state.text = state.version.isEmpty() ? UpgradeTexts::noVersion(state.text)
+                                             : UpgradeTexts::nothingToCompare(state.text, state.version);
+    } else if (isOnWay && (result == UpgradeTools::Failed || result == UpgradeTools::Stuck)) {
+        state.text = UpgradeTexts::failedAt(state.text, state.percent);
+    }
+    state.result = result;
+    return state;
+}

@@ -1,3 +1,0 @@
-#include "device/logging.h"
-
-Q_LOGGING_CATEGORY(logDevice, "configtools.device")

@@ -1,0 +1,129 @@
+#include "device/models/certificatelist.h"
+
+#include <algorithm>
+#include <utility>
+
+CertificateList::CertificateList(std::shared_ptr<CertificateStore> store, QObject *parent)
+    : DialogRows(parent), m_store(std::move(store))
+{
+    // One event for all refusals of a moment: thousands of devices may be refused within a second.
+    m_store->setListener([this] {
+        if (!m_isNotified.exchange(true))
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    m_isNotified = false;
+                    setNews(true);
+                },
+                Qt::QueuedConnection);
+    });
+}
+
+CertificateList::~CertificateList()
+{
+    m_store->setListener({});
+}
+
+void CertificateList::setNews(bool hasNews)
+{
+    if (std::exchange(m_hasNews, hasNews) != hasNews)
+        Q_EMIT hasNewsChanged();
+}
+
+void CertificateList::load()
+{
+    beginResetModel();
+    m_rows.clear();
+    const QList<RefusedCertificate> refused = m_store->refused();
+    m_rows.reserve(refused.size());
+    for (const RefusedCertificate &certificate : refused)
+        m_rows.append({.certificate = certificate, .isChecked = !certificate.isChanged()});
+    // The warnings first: the list may be long.
+    std::stable_partition(m_rows.begin(), m_rows.end(),
+                          [](const Row &row) { return row.certificate.isChanged(); });
+    endResetModel();
+    setNews(false);
+    Q_EMIT rowsChanged();
+    Q_EMIT checkedCountChanged();
+}
+
+QString CertificateList::agree()
+{
+    QList<RefusedCertificate> agreed;
+    for (const Row &row : std::as_const(m_rows)) {
+        if (row.isChecked)
+            agreed.append(row.certificate);
+    }
+    return m_store->agree(agreed);
+}
+
+int CertificateList::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int CertificateList::changedCount() const
+{
+    return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(),
+                                          [](const Row &row) { return row.certificate.isChanged(); }));
+}
+
+int CertificateList::checkedCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_rows.cbegin(), m_rows.cend(), [](const Row &row) { return row.isChecked; }));
+}
+
+Qt::CheckState CertificateList::checkState() const
+{
+    if (checkedCount() == 0)
+        return Qt::Unchecked;
+    const bool isWhole = std::all_of(m_rows.cbegin(), m_rows.cend(), [](const Row &row) {
+        return row.isChecked || row.certificate.isChanged();
+    });
+    return isWhole ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+void CertificateList::setRangeChecked(int first, int last, bool checked)
+{
+    first = std::max(first, 0);
+    last = std::min(last, rowCount() - 1);
+    if (first > last)
+        return;
+    for (int row = first; row <= last; ++row) {
+        // A range of several rows must not agree to a change that nobody has looked at.
+        if (!checked || first == last || !m_rows.at(row).certificate.isChanged())
+            m_rows[row].isChecked = checked;
+    }
+    Q_EMIT dataChanged(index(first), index(last), {CheckedRole});
+    Q_EMIT checkedCountChanged();
+}
+
+void CertificateList::setAllChecked(bool checked)
+{
+    for (Row &row : m_rows)
+        row.isChecked = checked && !row.certificate.isChanged();
+    if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {CheckedRole});
+    Q_EMIT checkedCountChanged();
+}
+
+QVariantMap CertificateList::valuesOf(int row) const
+{
+    const RefusedCertificate &certificate = m_rows.at(row).certificate;
+    const bool isIpv6 = certificate.address.contains(QLatin1Char(':'));
+    const QString host =
+        isIpv6 ? QLatin1Char('[') + certificate.address + QLatin1Char(']') : certificate.address;
+    const QString device = QStringLiteral("%1:%2").arg(host).arg(certificate.port);
+    const QString begin = certificate.validFrom.section(QLatin1Char(' '), 0, 0);
+    const QString end = certificate.validUntil.section(QLatin1Char(' '), 0, 0);
+    return {{QStringLiteral("identity"), device + certificate.identity},
+            {QStringLiteral("device"), device},
+            {QStringLiteral("mac"), certificate.identity},
+            {QStringLiteral("subject"), certificate.subject},
+            {QStringLiteral("validity"),
+             begin.isEmpty() && end.isEmpty() ? QString() : begin + QStringLiteral(" – ") + end},
+            {QStringLiteral("fingerprint"), certificate.fingerprint},
+            {QStringLiteral("stored"), certificate.storedFingerprint},
+            {QStringLiteral("changed"), certificate.isChanged()}};
+}

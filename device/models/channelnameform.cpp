@@ -1,0 +1,211 @@
+#include "device/models/channelnameform.h"
+
+#include "device/registry/bytetext.h"
+#include "device/registry/loginresult.h"
+
+#include <algorithm>
+#include <utility>
+
+int ChannelNameForm::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int ChannelNameForm::changedCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_rows.cbegin(), m_rows.cend(), [](const Row &row) { return row.isChanged(); }));
+}
+
+int ChannelNameForm::failedCount() const
+{
+    return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(),
+                                          [](const Row &row) { return hasFailed(row.lastWrite); }));
+}
+
+int ChannelNameForm::untoldCount() const
+{
+    return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(),
+                                          [](const Row &row) { return row.isConnected && !row.isTold; }));
+}
+
+void ChannelNameForm::load(const QVariantList &names, const QVariantList &connected)
+{
+    dropSaving();
+    beginResetModel();
+    m_rows.clear();
+    for (qsizetype channel = 0; channel < names.size(); ++channel) {
+        const QString name = names.at(channel).toString();
+        m_rows.append({.saved = name,
+                       .name = name,
+                       .isTold = names.at(channel).isValid(),
+                       .isConnected = connected.value(channel, true).toBool()});
+    }
+    endResetModel();
+    Q_EMIT changed();
+}
+
+void ChannelNameForm::set(int row, const QString &typed)
+{
+    change(row, ByteText::withoutInvisible(typed));
+}
+
+void ChannelNameForm::change(int row, const QString &name)
+{
+    if (row < 0 || row >= m_rows.size() || m_rows.at(row).name == name)
+        return;
+    m_rows[row].name = name;
+    m_rows[row].lastWrite = None;
+    tellOf(row);
+}
+
+void ChannelNameForm::setNames(const QStringList &channels, const QStringList &names)
+{
+    for (qsizetype place = 0; place < channels.size(); ++place)
+        set(channels.at(place).toInt(), names.value(place));
+}
+
+void ChannelNameForm::takeBack(int row)
+{
+    if (row >= 0 && row < m_rows.size())
+        change(row, m_rows.at(row).saved); // as the device has it, whatever is in it
+}
+
+void ChannelNameForm::cut(int row)
+{
+    if (row >= 0 && row < m_rows.size())
+        change(row, ByteText::cutTo(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
+}
+
+int ChannelNameForm::firstFaulty() const
+{
+    const auto found = std::find_if(m_rows.cbegin(), m_rows.cend(),
+                                    [this](const Row &row) { return isFaulty(troubleOf(row)); });
+    return found == m_rows.cend() ? -1 : static_cast<int>(found - m_rows.cbegin());
+}
+
+void ChannelNameForm::save()
+{
+    if (isSaving())
+        return;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (m_rows.at(row).isChanged())
+            m_rowsToSave.append(row);
+    }
+    if (!isSaving())
+        return;
+    m_saveTurns = 0;
+    requestNext();
+}
+
+void ChannelNameForm::requestNext()
+{
+    const int row = savingRow();
+    Q_EMIT savingChanged();
+    if (row != savingRow()) // it was stopped
+        return;
+    m_isWriting = true;
+    Q_EMIT writeRequested(row, m_rows.at(row).name.trimmed());
+}
+
+void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
+{
+    if (row < 0 || row >= m_rows.size())
+        return;
+    Row &written = m_rows[row];
+    if (result == resultCode(LoginResult::Success)) {
+        const QString wanted = written.name.trimmed();
+        written.saved = written.name = name.isValid() ? name.toString() : wanted;
+        written.isTold = true;
+        written.lastWrite = written.saved == wanted ? None : Different;
+    } else if (result == resultCode(LoginResult::Upgrading)) {
+        written.lastWrite = Upgrading;
+    } else {
+        written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? Unanswered : Refused;
+    }
+    const Trouble trouble = written.lastWrite;
+    tellOf(row);
+    if (row != savingRow())
+        return;
+    m_isWriting = false;
+    ++m_saveTurns;
+    if (m_isStopping || trouble == Unanswered || trouble == Upgrading || m_saveTurns == m_rowsToSave.size())
+        finishSaving();
+    else
+        requestNext();
+}
+
+void ChannelNameForm::stopSaving()
+{
+    m_isStopping = m_isWriting;
+    if (!m_isWriting)
+        dropSaving();
+}
+
+void ChannelNameForm::dropSaving()
+{
+    if (isSaving())
+        finishSaving();
+}
+
+void ChannelNameForm::finishSaving()
+{
+    m_isWriting = m_isStopping = false;
+    const QList<int> rows = std::exchange(m_rowsToSave, {});
+    const auto tried = rows.first(m_saveTurns);
+    const auto isWritten = [this](int row) {
+        return !hasFailed(m_rows.at(row).lastWrite);
+    };
+    const auto failed = std::find_if_not(tried.cbegin(), tried.cend(), isWritten);
+    Q_EMIT savingChanged();
+    Q_EMIT saved(static_cast<int>(rows.size()),
+                 static_cast<int>(std::count_if(tried.cbegin(), tried.cend(), isWritten)),
+                 failed == tried.cend() ? -1 : *failed);
+}
+
+int ChannelNameForm::savingRow() const
+{
+    return m_rowsToSave.value(m_saveTurns, -1);
+}
+
+double ChannelNameForm::savingProgress() const
+{
+    return isSaving() ? static_cast<double>(m_saveTurns) / static_cast<double>(m_rowsToSave.size()) : 0;
+}
+
+ChannelNameForm::Trouble ChannelNameForm::troubleOf(const Row &row) const
+{
+    if (!row.isChanged() && row.lastWrite == None)
+        return row.isTold ? None : Unknown;
+    if (row.isChanged() && row.name.trimmed().isEmpty())
+        return Empty;
+    // Blanks at the ends are not written.
+    if (row.isChanged() && ByteText::bytes(row.name.trimmed()) > ByteText::channelNameBytes())
+        return TooLong;
+    return row.lastWrite;
+}
+
+QVariantMap ChannelNameForm::valuesOf(int row) const
+{
+    const Row &channel = m_rows.at(row);
+    return {{QStringLiteral("identity"), QString::number(row)},
+            {QStringLiteral("num"), row + 1},
+            {QStringLiteral("connected"), channel.isConnected},
+            {QStringLiteral("name"), channel.name},
+            {QStringLiteral("saved"), channel.saved},
+            {QStringLiteral("changed"), channel.isChanged()},
+            {QStringLiteral("bytes"), ByteText::bytes(channel.name.trimmed())},
+            {QStringLiteral("trouble"), static_cast<int>(troubleOf(channel))}};
+}
+
+bool ChannelNameForm::isInConflict(int row) const
+{
+    const Trouble trouble = troubleOf(m_rows.at(row));
+    return isFaulty(trouble) || hasFailed(trouble);
+}
+
+void ChannelNameForm::tellOf(int row)
+{
+    Q_EMIT dataChanged(index(row), index(row));
+    Q_EMIT changed();
+}

@@ -1,0 +1,191 @@
+// The device table of a page: the rows that its filters leave, as an item model.
+#pragma once
+
+#include "device/models/devicetablerows.h"
+#include "device/models/followedmarks.h"
+#include "device/registry/devicenotes.h"
+
+#include <QAbstractListModel>
+#include <QHash>
+#include <QList>
+#include <QPointer>
+#include <QSet>
+
+class CDeviceFactory;
+
+/// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
+/// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
+/// rowName()). get() also gives "failure": what batches failed with the device, see FollowedMarks::wordsOf(),
+/// and "onlyNotDone", see FailedMarks.
+/// "note" is the note of the user about the device; the text search finds it as well.
+///
+/// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
+/// filter are of the same moment, and keeps the user's ticks, selection and order over a refresh. Lives on
+/// the scene's thread.
+///
+/// It exists because the toolkit's own TableModel takes its rows through JavaScript objects: with 10,000
+/// devices each refresh would hold up the window for a quarter of a second, once a second during a search.
+class DeviceTableModel : public QAbstractListModel
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("device/registry/devicefactory.h")
+    Q_PROPERTY(
+        CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    Q_PROPERTY(bool showInitialised READ showInitialised WRITE setShowInitialised NOTIFY filterChanged)
+    Q_PROPERTY(bool showUninitialised READ showUninitialised WRITE setShowUninitialised NOTIFY filterChanged)
+    Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
+    Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
+    Q_PROPERTY(DeviceNotes *notes READ notes WRITE setNotes NOTIFY notesChanged)
+    /// Whether only marked devices are shown, by their reasons and then by address unless the user has chosen
+    /// another order. It ends with the last mark.
+    Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
+    /// Whether texts that are no IPv4 address are ordered as the address 0 and not behind the others.
+    Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
+    Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
+    Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
+    Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
+    Q_PROPERTY(int totalCount READ totalCount NOTIFY countChanged)
+    Q_PROPERTY(int failedCount READ failedCount NOTIFY failedCountChanged)
+    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
+    Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedCountChanged)
+    Q_PROPERTY(int conflictCount READ conflictCount NOTIFY countChanged)
+    Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedCountChanged)
+public:
+    explicit DeviceTableModel(QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override; ///< "checked" only
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    void setDeviceFactory(CDeviceFactory *deviceFactory);
+    [[nodiscard]] bool showInitialised() const { return m_showInitialised; }
+    void setShowInitialised(bool show);
+    [[nodiscard]] bool showUninitialised() const { return m_showUninitialised; }
+    void setShowUninitialised(bool show);
+    [[nodiscard]] bool ipv6() const { return m_ipv6; }
+    void setIpv6(bool ipv6);
+    [[nodiscard]] QString searchText() const { return m_searchText; }
+    void setSearchText(const QString &searchText);
+    [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }
+    void setFailedMarks(FailedMarks *marks);
+    [[nodiscard]] DeviceNotes *notes() const { return m_notes; }
+    void setNotes(DeviceNotes *notes);
+    [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
+    void setOnlyFailed(bool only);
+    [[nodiscard]] QString sortKey() const { return m_sortKey; }
+    [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
+
+    [[nodiscard]] int totalCount() const { return m_totalCount; }   ///< rows of the list before any filter
+    [[nodiscard]] int failedCount() const { return m_failedCount; } ///< of them, those of marked devices
+    [[nodiscard]] int checkedCount() const { return m_checkedCount; }
+    [[nodiscard]] int checkedUpgradingCount() const
+    {
+        return m_checkedUpgradingCount;
+    }                                                                   ///< of them, at refresh
+    [[nodiscard]] int conflictCount() const { return m_conflictCount; } ///< shown rows in conflict
+    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
+
+    /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
+    Q_INVOKABLE void refresh();
+
+    /// Reads one IPv4 device's row again, in its place: while a batch runs, reading all of them for each
+    /// result would take longer than the batch. Conflicts stay as they were until refresh().
+    Q_INVOKABLE void refreshDevice(const QString &mac);
+    Q_INVOKABLE void refreshDevices(const QStringList &macs);
+
+    /// Orders by a key: first ascending, then descending, then in the order of the list again. Addresses are
+    /// compared as numbers, texts by the user's language.
+    Q_INVOKABLE void toggleSort(const QString &key);
+
+    /// Orders by a key in this direction; by none in the order of the list.
+    Q_INVOKABLE void setSort(const QString &key, Qt::SortOrder order);
+
+    Q_INVOKABLE void setChecked(int row, bool checked);
+    Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
+    Q_INVOKABLE void setAllChecked(bool checked);
+
+    /// Ticks the devices with these identities and no others, also where the filter hides them.
+    Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
+
+    /// The row as the scene sees it, with its keys; empty when `row` is out of range.
+    Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
+
+    /// Position of the row with this identity, -1 when it is not shown.
+    Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
+
+    /// The first row from `from` on, and then from the top, whose address or name begins with `text`; -1 when
+    /// there is none. Capitals count as small letters.
+    Q_INVOKABLE [[nodiscard]] int rowStarting(const QString &text, int from) const;
+
+    /// Ticks the shown rows whose value of `key` is that of the row, and no other device.
+    Q_INVOKABLE void checkSimilar(int row, const QString &key);
+
+    /// "identity" of the checked rows in the order shown, by which the operations of an IPv4 device name it.
+    Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
+
+    /// The checked rows as get() returns them, in the order shown.
+    Q_INVOKABLE [[nodiscard]] QVariantList checkedRows() const;
+
+    /// The checked rows whose devices have a password, or those that have none yet.
+    Q_INVOKABLE [[nodiscard]] QVariantList checkedRowsWith(bool initialised) const;
+
+    /// Deletes the devices of the checked rows from the list. Returns how many are still there: they are
+    /// being upgraded.
+    Q_INVOKABLE int deleteChecked();
+
+    /// The texts of the given rows as lines with tab-separated columns, for the clipboard.
+    Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;
+
+Q_SIGNALS:
+    void deviceFactoryChanged();
+    void filterChanged();
+    void failedMarksChanged();
+    void notesChanged();
+    void sortChanged();
+    void countChanged();
+    void failedCountChanged();
+    void checkedCountChanged();
+
+private:
+    [[nodiscard]] QVariantList readList() const;
+    [[nodiscard]] QList<DeviceTableRow> readRows();
+    void takeMarks();
+    void addNotes(QVariantList &list) const;
+    void forgetLostTicks(const QVariantList &list);
+    [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
+    [[nodiscard]] const QSet<QString> &checkedIdentities() const
+    {
+        return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4;
+    }
+    void takeRows(QList<DeviceTableRow> rows);
+    void notePlaces(qsizetype first); ///< of the rows from this one on
+    void applyFilter();
+    void countChecked();
+    void countFailed(const QVariantList &list);
+
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    bool m_showInitialised = true;
+    bool m_showUninitialised = true;
+    bool m_ipv6 = false;
+    QString m_searchText;
+    FollowedMarks m_failedMarks;
+    QPointer<DeviceNotes> m_notes; ///< not owned; null without notes
+    bool m_onlyFailed = false;
+    bool m_oddAddressesFirst = false;
+    QString m_sortKey; ///< empty: the order of the list
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+
+    QList<DeviceTableRow> m_rows;
+    QHash<QString, int> m_places; ///< in m_rows, by identity
+    // Identities of ticked rows, also of those that a filter hides.
+    QSet<QString> m_checkedIPv4;
+    QSet<QString> m_checkedIPv6;
+    int m_totalCount = 0;
+    int m_failedCount = 0;
+    int m_checkedCount = 0;
+    int m_checkedUpgradingCount = 0;
+    int m_conflictCount = 0;
+};

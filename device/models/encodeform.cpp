@@ -1,0 +1,283 @@
+#include "device/models/encodeform.h"
+
+#include "device/registry/devicefactory.h"
+#include "device/registry/loginresult.h"
+#include "sdk/neterror.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// A key of the main stream as the sub stream calls it.
+QString keyOf(bool isSub, const QString &field)
+{
+    return isSub ? QStringLiteral("sub") + field.at(0).toUpper() + field.sliced(1) : field;
+}
+
+/// The items of its stream that a setting is written with.
+QList<int> itemsOf(const QString &key)
+{
+    constexpr int videoFormat = 0;
+    constexpr int videoProfile = 1;
+    constexpr int audioCompression = 2;
+    constexpr int audioFormat = 3;
+    const auto is = [&key](const char *field) {
+        return key.endsWith(QLatin1String(field), Qt::CaseInsensitive);
+    };
+    if (is("curEncodeMode"))
+        return {videoFormat, videoProfile};
+    if (is("audioEnable") || is("curAudioCompression"))
+        return {audioCompression};
+    if (is("curSamplingFrequency"))
+        return {audioFormat};
+    return {videoFormat};
+}
+
+QList<int> placesOf(const QVariant &list)
+{
+    QList<int> places;
+    const QVariantList values = list.toList();
+    for (const QVariant &place : values)
+        places.append(place.toInt());
+    return places;
+}
+
+/// A choice of the back end as it is written elsewhere: "2688*1520" as "2688 × 1520", "G711a" as "G.711A".
+QString shownName(const QString &choice)
+{
+    static const QHash<QString, QString> names = {
+        {QStringLiteral("G711a"), QStringLiteral("G.711A")},
+        {QStringLiteral("G711u"), QStringLiteral("G.711U")},
+        {QStringLiteral("G7221"), QStringLiteral("G.722.1")},
+        {QStringLiteral("G723_53"), QStringLiteral("G.723 (5.3 kbit/s)")},
+        {QStringLiteral("G723_63"), QStringLiteral("G.723 (6.3 kbit/s)")},
+        {QStringLiteral("G726"), QStringLiteral("G.726")},
+        {QStringLiteral("G729"), QStringLiteral("G.729")},
+        {QStringLiteral("H263"), QStringLiteral("H.263")},
+        {QStringLiteral("H264"), QStringLiteral("H.264")},
+        {QStringLiteral("MPEG2_Layer2"), QStringLiteral("MPEG2 Layer 2")},
+        {QStringLiteral("1_2M"), QStringLiteral("1.2M")},
+        {QStringLiteral("1_3M"), QStringLiteral("1.3M")},
+        {QStringLiteral("5_0M"), QStringLiteral("5.0M")},
+    };
+    static const QRegularExpression size(QStringLiteral("^(\\d+)[*_](\\d+)$"));
+    const QRegularExpressionMatch match = size.match(choice);
+    if (match.hasMatch())
+        return match.captured(1) + QStringLiteral(" \u00d7 ") + match.captured(2);
+    return names.value(choice, choice);
+}
+
+QVariantMap setting(const QString &key, bool isChanged)
+{
+    return {{QStringLiteral("key"), key},
+            {QStringLiteral("changed"), isChanged},
+            {QStringLiteral("choices"), QStringList()},
+            {QStringLiteral("names"), QStringList()},
+            {QStringLiteral("index"), -1},
+            {QStringLiteral("value"), 0},
+            {QStringLiteral("minimum"), 0},
+            {QStringLiteral("maximum"), 0},
+            {QStringLiteral("usable"), true}};
+}
+
+} // namespace
+
+CDeviceFactory *EncodeForm::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void EncodeForm::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    if (m_deviceFactory == deviceFactory)
+        return;
+    m_deviceFactory = deviceFactory;
+    Q_EMIT deviceFactoryChanged();
+    read(); // the maps of the streams are complete from the first on
+}
+
+void EncodeForm::read()
+{
+    m_read.clear();
+    m_isReading = true;
+    fetch();
+    m_isReading = false;
+}
+
+bool EncodeForm::isDeviceAway(int result)
+{
+    return isSessionLost(static_cast<std::uint32_t>(result));
+}
+
+QString EncodeForm::failureName(int result)
+{
+    if (result == resultCode(LoginResult::Upgrading)) // nothing was asked
+        return resultName(result);
+    constexpr std::uint32_t highBit = 0x80000000;
+    const auto error = static_cast<std::uint32_t>(result) | highBit;
+    if (loginResultOf(error) == LoginResult::SessionEnded)
+        return resultName(resultCode(LoginResult::SessionEnded));
+    if (isDeviceAway(result))
+        return tr("设备没有应答");
+    switch (static_cast<sdk::NetError>(error)) {
+    case sdk::NetError::NotSupported:
+        return tr("设备不支持此操作");
+    case sdk::NetError::DeviceBusy:
+        return tr("设备正忙");
+    default:
+        return tr("设备拒绝了此操作（错误 %1）").arg(error, 0, 16);
+    }
+}
+
+void EncodeForm::takeSaved()
+{
+    fetch();
+}
+
+void EncodeForm::set(const QString &key, const QVariant &value)
+{
+    if (m_deviceFactory)
+        m_deviceFactory->setConfigData(QStringLiteral("dh"), key, value);
+    fetch();
+}
+
+void EncodeForm::fetch()
+{
+    m_changedCount = 0;
+    m_takenItems = placesOf(value(QStringLiteral("takenItems")));
+    m_unreadPlaces = placesOf(value(QStringLiteral("unreadPlaces")));
+    m_channels = value(QStringLiteral("channelNum")).toStringList();
+    if (m_channels.isEmpty()) // a device that tells of no channels has one
+        m_channels.append(QStringLiteral("1"));
+    m_channel = value(QStringLiteral("curChannel")).toInt();
+    m_streamTypes = value(QStringLiteral("allStreamType")).toStringList();
+    const QVariant offeredTypes = value(QStringLiteral("offeredStreamTypes"));
+    if (offeredTypes.isValid())
+        m_streamTypes.resize(std::min(m_streamTypes.size(), offeredTypes.value<qsizetype>()));
+    m_streamType = value(QStringLiteral("curStreamType")).toInt();
+    m_isComplete = !value(QStringLiteral("encodeMode")).toStringList().isEmpty() &&
+                   !value(QStringLiteral("resolution")).toStringList().isEmpty();
+    m_unreadItems = value(QStringLiteral("unreadItems")).toStringList();
+    m_subStreamTypes = value(QStringLiteral("subAllStreamType")).toStringList();
+    m_main = stream(false);
+    m_sub = stream(true);
+    Q_EMIT changed();
+}
+
+QVariant EncodeForm::value(const QString &key) const
+{
+    return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
+}
+
+bool EncodeForm::isTaken(const QString &key) const
+{
+    constexpr int itemsOfStream = 4;
+    const bool isSub = key.startsWith(QLatin1String("sub"));
+    QList<int> places = itemsOf(key);
+    for (int &place : places)
+        place += isSub ? itemsOfStream : 0;
+    // An item that was not read is not written, so nothing is waited for.
+    places.removeIf([this](int place) { return m_unreadPlaces.contains(place); });
+    return !places.isEmpty() && std::all_of(places.begin(), places.end(),
+                                            [this](int place) { return m_takenItems.contains(place); });
+}
+
+bool EncodeForm::noteChange(const QString &key, const QVariant &value)
+{
+    if (m_isReading || isTaken(key))
+        m_read.insert(key, value);
+    const bool isChanged = m_read.value(key) != value;
+    m_changedCount += isChanged ? 1 : 0;
+    return isChanged;
+}
+
+QVariantMap EncodeForm::choice(const QString &list, const QString &current)
+{
+    QStringList choices = value(list).toStringList();
+    const QVariant shown = value(current);
+    const QString text = shown.toString();
+    QVariantMap map = setting(current, noteChange(current, text));
+    const bool isOffered = !choices.isEmpty();
+    // A device may be set to what it does not offer. What it has stays there to be chosen again.
+    for (const QString &own : {m_read.value(current).toString(), text}) {
+        if (!own.isEmpty() && !choices.contains(own))
+            choices.append(own);
+    }
+    const bool isOnly = std::all_of(choices.cbegin(), choices.cend(),
+                                    [&text](const QString &choice) { return choice == text; });
+    map.insert(QStringLiteral("usable"), shown.isValid() && isOffered && !isOnly);
+    map.insert(QStringLiteral("choices"), choices);
+    QStringList names;
+    std::transform(choices.cbegin(), choices.cend(), std::back_inserter(names), shownName);
+    map.insert(QStringLiteral("names"), names);
+    map.insert(QStringLiteral("index"), choices.indexOf(text));
+    return map;
+}
+
+QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, const QString &rate)
+{
+    const QStringList choices = value(list).toStringList();
+    const int kilobits = value(rate).toInt();
+    QVariantMap map = setting(current, noteChange(current, kilobits));
+    const QVariant place = value(current);
+    if (!place.isValid()) {
+        map.insert(QStringLiteral("usable"), false);
+        return map;
+    }
+    const bool isStep = place.toInt() >= 0 && place.toInt() < choices.size();
+    map.insert(QStringLiteral("choices"), choices);
+    // The last entry stands for every rate that is none of the steps.
+    map.insert(QStringLiteral("index"), isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
+    map.insert(QStringLiteral("value"), kilobits);
+    map.insert(QStringLiteral("usable"), !choices.isEmpty());
+    return map;
+}
+
+QVariantMap EncodeForm::number(const QString &key, int minimum, int maximum)
+{
+    const QVariant shown = value(key);
+    const int current = shown.isValid() ? shown.toInt() : minimum - 1;
+    QVariantMap map = setting(key, noteChange(key, current));
+    map.insert(QStringLiteral("value"), current);
+    map.insert(QStringLiteral("minimum"), minimum);
+    map.insert(QStringLiteral("maximum"), qMax(maximum, current));
+    map.insert(QStringLiteral("usable"), shown.isValid() && maximum > minimum);
+    return map;
+}
+
+QVariantMap EncodeForm::stream(bool isSub)
+{
+    const auto key = [isSub](const char *field) {
+        return keyOf(isSub, QString::fromLatin1(field));
+    };
+    constexpr int bestQuality = 6;
+    QVariantMap map = {
+        {QStringLiteral("encodeMode"), choice(key("encodeMode"), key("curEncodeMode"))},
+        {QStringLiteral("resolution"), choice(key("resolution"), key("curResolution"))},
+        {QStringLiteral("control"), number(key("bitstreamControl"), 0, 1)},
+        {QStringLiteral("bitRate"), bitRate(key("bitStream"), key("curBitStream"), key("bitRate"))},
+        {QStringLiteral("frameRate"), number(key("frameRate"), 1, value(key("frameRateMax")).toInt())},
+        {QStringLiteral("quality"), number(key("quality"), 1, bestQuality)},
+        {QStringLiteral("audioEnable"), number(key("audioEnable"), 0, 1)},
+        {QStringLiteral("audioCompression"), choice(key("audioCompression"), key("curAudioCompression"))},
+        {QStringLiteral("samplingFrequency"), choice(key("samplingFrequency"), key("curSamplingFrequency"))},
+    };
+    // The main stream's picture cannot be switched off.
+    map.insert(QStringLiteral("videoEnable"),
+               isSub ? number(key("videoEnable"), 0, 1) : setting(QString(), false));
+    const QStringList missing = value(key("missingSettings")).toStringList();
+    map.insert(QStringLiteral("exists"), !missing.contains(QLatin1String("stream")));
+    map.insert(QStringLiteral("hasAudio"), !missing.contains(QLatin1String("audio")));
+    for (const QString &name :
+         {QStringLiteral("control"), QStringLiteral("audioEnable"), QStringLiteral("videoEnable")}) {
+        if (!missing.contains(name))
+            continue;
+        QVariantMap lacked = map.value(name).toMap();
+        lacked.insert(QStringLiteral("usable"), false);
+        map.insert(name, lacked);
+    }
+    return map;
+}

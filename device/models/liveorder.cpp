@@ -1,0 +1,116 @@
+#include "device/models/liveorder.h"
+
+#include "device/models/devicetablemodel.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicerow.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Not one that waits for its first password, or for an address.
+bool canBeWatched(const QVariantMap &row)
+{
+    const QString ipport = row.value(DeviceRowKey::ipport).toString();
+    return row.value(DeviceRowKey::state, true).toBool() && !ipport.isEmpty() &&
+           !ipport.startsWith(QLatin1Char(':'));
+}
+
+QString addressOf(const QVariant &row)
+{
+    return row.toMap().value(DeviceRowKey::ipport).toString();
+}
+
+} // namespace
+
+CDeviceFactory *LiveOrder::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void LiveOrder::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    if (m_deviceFactory == deviceFactory)
+        return;
+    m_deviceFactory = deviceFactory;
+    Q_EMIT deviceFactoryChanged();
+}
+
+DeviceTableModel *LiveOrder::table() const
+{
+    return m_table;
+}
+
+void LiveOrder::setTable(DeviceTableModel *table)
+{
+    if (m_table == table)
+        return;
+    if (m_table)
+        m_table->disconnect(this);
+    m_table = table;
+    if (m_table) {
+        connect(m_table, &DeviceTableModel::countChanged, this, &LiveOrder::countChanged);
+        connect(m_table, &DeviceTableModel::checkedCountChanged, this, &LiveOrder::tickedChanged);
+    }
+    Q_EMIT tableChanged();
+    Q_EMIT countChanged();
+    Q_EMIT tickedChanged();
+}
+
+void LiveOrder::setChosen(const QVariantList &chosen)
+{
+    if (m_chosen == chosen)
+        return;
+    m_chosen = chosen;
+    Q_EMIT chosenChanged();
+    Q_EMIT countChanged();
+}
+
+int LiveOrder::count() const
+{
+    if (!m_chosen.isEmpty())
+        return static_cast<int>(m_chosen.size());
+    return m_table ? m_table->rowCount() : 0;
+}
+
+int LiveOrder::ticked() const
+{
+    return m_table ? m_table->checkedCount() : 0;
+}
+
+int LiveOrder::placeOf(const QString &ipport) const
+{
+    if (!m_chosen.isEmpty()) {
+        const auto place = std::find_if(m_chosen.cbegin(), m_chosen.cend(),
+                                        [&](const QVariant &row) { return addressOf(row) == ipport; });
+        return place == m_chosen.cend() ? -1 : static_cast<int>(place - m_chosen.cbegin());
+    }
+    if (!m_table || !m_deviceFactory)
+        return -1;
+    const QVariantMap row = m_deviceFactory->getDeviceInfo(dhFamily, ipport);
+    const int place = m_table->rowOf(row.value(DeviceRowKey::mac).toString());
+    return place >= 0 ? place : m_table->rowOf(ipport);
+}
+
+QVariantMap LiveOrder::at(int place) const
+{
+    return m_chosen.isEmpty() ? m_table->get(place) : m_chosen.at(place).toMap();
+}
+
+QString LiveOrder::neighbour(const QString &ipport, int direction) const
+{
+    for (int place = placeOf(ipport) + direction; place >= 0 && place < count(); place += direction) {
+        const QVariantMap row = at(place);
+        if (canBeWatched(row) && addressOf(row) != ipport)
+            return addressOf(row);
+    }
+    return {};
+}
+
+QVariantList LiveOrder::tickedDevices() const
+{
+    QVariantList devices = m_table ? m_table->checkedRows() : QVariantList();
+    devices.removeIf([](const QVariant &row) { return !canBeWatched(row.toMap()); });
+    return devices;
+}

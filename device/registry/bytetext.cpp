@@ -1,0 +1,49 @@
+#include "device/registry/bytetext.h"
+
+#include "sdk/camerablocks.h"
+
+#include <QTextBoundaryFinder>
+
+namespace {
+
+/// Control characters, and marks of line ends and of directions.
+bool isInvisible(QChar letter)
+{
+    const char16_t code = letter.unicode();
+    return letter.category() == QChar::Other_Control || code == 0x061C || code == 0x200E || code == 0x200F ||
+           (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+} // namespace
+
+int ByteText::channelNameBytes()
+{
+    return static_cast<int>(sdk::ChannelNameItem().name.size()) - 1; // a zero ends it
+}
+
+int ByteText::bytes(const QString &text)
+{
+    return static_cast<int>(text.toUtf8().size());
+}
+
+QString ByteText::cutTo(const QString &text, int bytes)
+{
+    if (ByteText::bytes(text) <= bytes)
+        return text;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+    qsizetype end = 0;
+    qsizetype used = 0;
+    for (qsizetype next = letters.toNextBoundary(); next > 0; next = letters.toNextBoundary()) {
+        used += QStringView(text).sliced(end, next - end).toUtf8().size();
+        if (used > bytes)
+            break;
+        end = next;
+    }
+    return text.left(end);
+}
+
+QString ByteText::withoutInvisible(QString text)
+{
+    text.removeIf(isInvisible);
+    return text;
+}

@@ -1,0 +1,53 @@
+#include "device/registry/devicefilter.h"
+
+#include "device/registry/devicerow.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace {
+
+template<typename Predicate>
+QVariantList rowsThat(const QVariantList &rows, Predicate keeps)
+{
+    QVariantList kept;
+    std::copy_if(rows.cbegin(), rows.cend(), std::back_inserter(kept),
+                 [&keeps](const QVariant &row) { return keeps(row.toJsonObject()); });
+    return kept;
+}
+
+} // namespace
+
+QVariantList filteredRows(const QVariantList &rows, const QString &filtertype, const QString &searchtext,
+                          RowFamily family)
+{
+    if (filtertype == QLatin1String("nofilter"))
+        return rows;
+    if (filtertype == QLatin1String("removeall"))
+        return {};
+    if (filtertype == QLatin1String("removeinit"))
+        return rowsThat(rows,
+                        [](const QJsonObject &row) { return !row.value(DeviceRowKey::state).toBool(); });
+    if (filtertype == QLatin1String("removeuninit"))
+        return rowsThat(rows, [](const QJsonObject &row) { return row.value(DeviceRowKey::state).toBool(); });
+    if (filtertype == QLatin1String("search"))
+        return rowsThat(rows, [&](const QJsonObject &row) { return holdsText(row, searchtext); });
+    if (filtertype == QLatin1String("single") && family == RowFamily::IPv4) {
+        const auto isMeant = [&](const QVariant &row) {
+            return row.toJsonObject().value(DeviceRowKey::ipport).toString() == searchtext;
+        };
+        const auto single = std::find_if(rows.cbegin(), rows.cend(), isMeant);
+        return single == rows.cend() ? QVariantList() : QVariantList{*single};
+    }
+    return {};
+}
+
+bool holdsText(const QJsonObject &row, const QString &searchtext)
+{
+    constexpr std::array searchedKeys = {DeviceRowKey::type, DeviceRowKey::model,  DeviceRowKey::ipport,
+                                         DeviceRowKey::mac,  DeviceRowKey::vision, DeviceRowKey::name};
+    return std::any_of(searchedKeys.begin(), searchedKeys.end(), [&](QLatin1StringView key) {
+        return row.value(key).toString().contains(searchtext, Qt::CaseInsensitive);
+    });
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "device/registry/devicebase.h"
+
+/// A family that is declared and does nothing yet.
+class CDeviceOL : public CDeviceBase
+{
+    Q_OBJECT
+public:
+    using CDeviceBase::CDeviceBase;
+};

@@ -1,0 +1,434 @@
+#include "device/registry/devicestore.h"
+
+#include "device/registry/devicerow.h"
+#include "sdk/clock.h"
+
+#include <QVarLengthArray>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+/// A search announces its rows at most once in so many milliseconds.
+constexpr std::int64_t notificationInterval = 1000;
+
+constexpr QLatin1StringView loopbackAddress("127.0.0.1");
+
+// Most of an answer is zeros: reserved bytes, and what texts leave of their fields. A list of 10,000 devices
+// would hold 30 MB of them, so an answer is kept as the pieces between longer runs of zeros.
+
+/// Stands in front of each piece.
+struct PieceHead
+{
+    std::uint16_t zeros; ///< before the piece
+    std::uint16_t size;  ///< of the piece, in bytes
+};
+static_assert(sizeof(sdk::SearchAnswer) <= std::numeric_limits<std::uint16_t>::max());
+
+QByteArray packed(const sdk::SearchAnswer &answer)
+{
+    constexpr std::string_view run("\0\0\0\0", sizeof(PieceHead)); // a shorter one costs less than a head
+    const std::string_view bytes(reinterpret_cast<const char *>(&answer), sizeof(answer));
+    QVarLengthArray<char, sizeof(answer)> pieces;
+    std::size_t end = 0;
+    for (std::size_t begin = bytes.find_first_not_of('\0'); begin != std::string_view::npos;
+         begin = bytes.find_first_not_of('\0', end)) {
+        const std::size_t zeros = begin - end;
+        end = std::min(bytes.find(run, begin), bytes.size());
+        const std::string_view piece = bytes.substr(begin, end - begin);
+        const PieceHead head = {static_cast<std::uint16_t>(zeros), static_cast<std::uint16_t>(piece.size())};
+        pieces.append(reinterpret_cast<const char *>(&head), sizeof(head));
+        pieces.append(piece.data(), static_cast<qsizetype>(piece.size()));
+    }
+    return QByteArray(pieces.constData(), pieces.size());
+}
+
+sdk::SearchAnswer unpacked(const QByteArray &pieces)
+{
+    sdk::SearchAnswer answer{};
+    char *next = reinterpret_cast<char *>(&answer);
+    const char *piece = pieces.cbegin();
+    while (piece != pieces.cend()) {
+        PieceHead head;
+        std::memcpy(&head, piece, sizeof(head));
+        next = std::copy_n(piece + sizeof(head), head.size, next + head.zeros);
+        piece += sizeof(head) + head.size;
+    }
+    return answer;
+}
+
+} // namespace
+
+DeviceStore::DeviceStore(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
+
+DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
+{
+    const bool ipv4 = hasIPv4Address(answer);
+    const QString mac = macText(answer);
+    {
+        // Most answers are repeated ones: drop them before a row is built.
+        const std::scoped_lock lock(m_mutex);
+        const QString identity = identityOf(answer);
+        if (dropsLocked(identity)) {
+            const bool isChanged = ipv4 && takeMac(identity, mac);
+            return {
+                .added = false, .notify = isChanged && isNotificationDue(), .ipv4Count = ipv4CountLocked()};
+        }
+    }
+
+    QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
+    const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
+                       row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
+    const QByteArray record = packed(answer);
+    const QString uuid = uuidName(answer);
+
+    const std::scoped_lock lock(m_mutex);
+    const QString identity = identityOf(answer);
+    if (dropsLocked(identity))
+        return {};
+    m_settled.insert(identity);
+    ++m_found;
+    if (ipv4 && rowName(row) != identity)
+        row.insert(DeviceRowKey::identity, identity);
+    if (!ipv4)
+        addIPv6Locked(row);
+    else if (m_lost.remove(identity))
+        m_ipv4.replace(identity, row);
+    else if (heads)
+        m_ipv4.prepend(identity, row);
+    else
+        m_ipv4.append(identity, row);
+    if (ipv4 && !uuid.isEmpty() && !m_uuidHolders.contains(uuid))
+        m_uuidHolders.insert(uuid, {.ipport = addressAndPort(answer), .name = identity});
+
+    // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
+    const QString recordKey = ipv4 ? identity : mac;
+    if (ipv4 || !m_records.contains(recordKey))
+        m_records.insert(recordKey, record);
+
+    return {.added = true, .notify = isNotificationDue(), .ipv4Count = ipv4CountLocked()};
+}
+
+QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
+{
+    const QString mac = macText(answer);
+    QString ipport = addressAndPort(answer);
+    // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
+    // that arrived again, as every device answers each kind of search.
+    if (!hasIPv4Address(answer))
+        return mac + QLatin1Char(' ') + ipport;
+    QString uuid = uuidName(answer);
+    const UuidHolder holder = m_uuidHolders.value(uuid);
+    if (!mac.isEmpty()) {
+        // The same device, if it did not report its MAC before. Others that have its UUID and its address may
+        // exist: factories copy both. A row that was there before the search has no holder yet.
+        const QString known = m_ipv4.row(uuid).value(DeviceRowKey::mac).toString();
+        const bool isHolder = holder.ipport == ipport && holder.name == uuid;
+        const bool isListedBefore = holder.name.isEmpty() && m_ipv4.contains(uuid) && !m_ipv4.contains(mac);
+        return (isHolder || isListedBefore) && (known.isEmpty() || known == mac) ? uuid : mac;
+    }
+    if (uuid.isEmpty())
+        return ipport;
+    if (holder.name.isEmpty())
+        return uuid;
+    return holder.ipport == ipport ? holder.name : ipport;
+}
+
+bool DeviceStore::takeMac(const QString &name, const QString &mac)
+{
+    QJsonObject row = m_ipv4.row(name);
+    const bool isMissing = !row.isEmpty() && row.value(DeviceRowKey::mac).toString().isEmpty();
+    if (mac.isEmpty() || !isMissing || m_ipv4.contains(mac))
+        return false;
+    row.insert(DeviceRowKey::mac, mac);
+    m_ipv4.replace(name, row);
+    return true;
+}
+
+bool DeviceStore::dropsLocked(const QString &identity)
+{
+    const bool isListed = m_ipv4.contains(identity) && !m_lost.contains(identity); // it was added by hand
+    if (m_settled.contains(identity) || isListed)
+        return true;
+    if (m_found < maximumFound)
+        return false;
+    if (m_leftOut < std::numeric_limits<int>::max())
+        ++m_leftOut;
+    return true;
+}
+
+void DeviceStore::addIPv6Locked(QJsonObject &row)
+{
+    int &before = m_ipv6Found[row.value(DeviceRowKey::ipport).toString()];
+    if (before > 0)
+        row.insert(DeviceRowKey::duplicate, before);
+    ++before;
+    const QString name = rowName(row);
+    if (m_ipv6.contains(name)) // a lost one: those that were found since clear() have other numbers
+        m_ipv6.replace(name, row);
+    else
+        m_ipv6.append(name, row);
+}
+
+int DeviceStore::leftOut() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_leftOut;
+}
+
+QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
+{
+    QString mac = macText(answer);
+    const QString uuid = uuidName(answer);
+    const std::scoped_lock lock(m_mutex);
+    if (m_ipv4.contains(mac))
+        return mac;
+    const auto macOf = [this](const QString &name) {
+        return m_ipv4.row(name).value(DeviceRowKey::mac).toString();
+    };
+    // The row at the address goes before the one of the UUID, which another device may report as well.
+    if (mac.isEmpty()) {
+        const QStringList names = m_ipv4.namesAt(addressAndPort(answer));
+        const auto isOwn = [&](const QString &name) {
+            const bool isOther = name.startsWith(uuidPrefix) && !uuid.isEmpty() && name != uuid;
+            return macOf(name).isEmpty() && !isOther;
+        };
+        const auto name = std::find_if(names.cbegin(), names.cend(), isOwn);
+        if (name != names.cend())
+            return *name;
+    }
+    const QString known = macOf(uuid);
+    const bool isOwn = mac.isEmpty() || known.isEmpty() || known == mac;
+    return m_ipv4.contains(uuid) && isOwn ? uuid : QString();
+}
+
+bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address)
+{
+    const QJsonObject now = ipv4Row(answer);
+    const std::scoped_lock lock(m_mutex);
+    QJsonObject row = m_ipv4.row(name);
+    if (row.isEmpty() || rowAddress(row) != address)
+        return false;
+    for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::model, DeviceRowKey::vision}) {
+        if (!now.value(key).toString().isEmpty())
+            row.insert(key, now.value(key));
+    }
+    if (row.value(DeviceRowKey::mac).toString().isEmpty())
+        row.insert(DeviceRowKey::mac, now.value(DeviceRowKey::mac));
+    row.insert(DeviceRowKey::state, now.value(DeviceRowKey::state));
+    row.insert(DeviceRowKey::ipport, now.value(DeviceRowKey::ipport));
+    row.insert(DeviceRowKey::unconfirmed, false);
+    row.remove(DeviceRowKey::lost);
+    m_lost.remove(name);
+    if (!row.value(DeviceRowKey::https).toBool()) // a response holds the port of the plain web page only
+        row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
+    m_ipv4.replace(name, row);
+    m_records.insert(name, packed(answer));
+    return true;
+}
+
+void DeviceStore::setKept(const QSet<QString> &names)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_kept = names;
+}
+
+void DeviceStore::clear()
+{
+    const std::scoped_lock lock(m_mutex);
+    QHash<QString, QByteArray> records;
+    m_lost.clear();
+    for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+        DeviceRowList kept;
+        for (const QVariant &value : m_kept.isEmpty() ? QVariantList() : list->rows()) {
+            QJsonObject row = value.toJsonObject();
+            const QString name = rowName(row);
+            if (!m_kept.contains(name))
+                continue;
+            row.insert(DeviceRowKey::lost, true);
+            kept.append(name, row);
+            if (list == &m_ipv4)
+                m_lost.insert(name);
+            if (const auto record = m_records.constFind(name); record != m_records.cend())
+                records.insert(name, *record);
+        }
+        *list = std::move(kept);
+    }
+    m_records = std::move(records);
+    m_settled.clear();
+    m_uuidHolders.clear();
+    m_ipv6Found.clear();
+    m_found = 0;
+    m_leftOut = 0;
+}
+
+QVariantList DeviceStore::ipv4Rows() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.rows();
+}
+
+QVariantList DeviceStore::ipv6Rows() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv6.rows();
+}
+
+int DeviceStore::ipv4Count() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return ipv4CountLocked();
+}
+
+int DeviceStore::ipv4CountLocked() const
+{
+    return static_cast<int>(m_ipv4.rows().size() - m_lost.size());
+}
+
+std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &name) const
+{
+    const std::scoped_lock lock(m_mutex);
+    const auto record = m_records.constFind(name);
+    return record == m_records.cend() ? std::nullopt : std::optional(unpacked(*record));
+}
+
+void DeviceStore::putRecord(const QString &name, const sdk::SearchAnswer &answer)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_records.insert(name, packed(answer));
+}
+
+QJsonObject DeviceStore::row(const QString &mac) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.row(mac);
+}
+
+QJsonObject DeviceStore::rowAt(const QString &ipport) const
+{
+    const std::scoped_lock lock(m_mutex);
+    const std::optional<QString> name = m_ipv4.nameAt(ipport);
+    return name ? m_ipv4.row(*name) : QJsonObject();
+}
+
+QStringList DeviceStore::namesAt(const QString &ipport) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.namesAt(ipport) + m_ipv6.namesAt(ipport);
+}
+
+QJsonObject DeviceStore::rowNamed(const QString &name) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_ipv4.contains(name) ? m_ipv4.row(name) : m_ipv6.row(name);
+}
+
+bool DeviceStore::changeRowNamed(const QString &name, const Change &change)
+{
+    return changeFound(
+        [&]() -> Place {
+            for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+                if (list->contains(name))
+                    return {.list = list, .name = name};
+            }
+            return {};
+        },
+        change);
+}
+
+bool DeviceStore::changeRow(const QString &mac, const Change &change)
+{
+    return changeFound([&] { return m_ipv4.contains(mac) ? Place{.list = &m_ipv4, .name = mac} : Place(); },
+                       change);
+}
+
+bool DeviceStore::changeRowAt(const QString &ipport, const Change &change)
+{
+    return changeFound(
+        [&]() -> Place {
+            for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
+                if (const std::optional<QString> name = list->nameAt(ipport))
+                    return {.list = list, .name = *name};
+            }
+            return {};
+        },
+        change);
+}
+
+bool DeviceStore::changeFound(const Finder &find, const Change &change)
+{
+    QJsonObject before;
+    QJsonObject row;
+    for (bool first = true;; first = false) {
+        {
+            const std::scoped_lock lock(m_mutex);
+            const Place place = find();
+            if (!place.list)
+                return false;
+            const QJsonObject stored = place.list->row(place.name);
+            if (!first && stored == before) {
+                place.list->replace(place.name, row);
+                return true;
+            }
+            before = stored;
+        }
+        row = before;
+        change(row);
+    }
+}
+
+void DeviceStore::putRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer)
+{
+    const std::scoped_lock lock(m_mutex);
+    // The name of an address stays with the device that was there first, wherever that is now.
+    const auto isOfOther = [this, &row] {
+        const QJsonObject kept = m_ipv4.row(rowName(row));
+        return row.value(DeviceRowKey::mac).toString().isEmpty() && !kept.isEmpty() &&
+               kept.value(DeviceRowKey::ipport) != row.value(DeviceRowKey::ipport);
+    };
+    for (int before = 1; isOfOther(); ++before)
+        row.insert(DeviceRowKey::duplicate, before);
+    const QString name = rowName(row);
+    if (answer)
+        m_records.insert(name, packed(*answer));
+    row.insert(DeviceRowKey::num, QString::number(m_ipv4.rows().size() + 1));
+    m_lost.remove(name);
+    if (m_ipv4.contains(name))
+        m_ipv4.replace(name, row);
+    else
+        m_ipv4.append(name, row);
+}
+
+void DeviceStore::removeRows(const QSet<QString> &names)
+{
+    const std::scoped_lock lock(m_mutex);
+    for (const QString &name : names) {
+        if (m_ipv4.contains(name))
+            m_settled.insert(name);
+        m_records.remove(name);
+        m_lost.remove(name);
+    }
+    m_ipv4.remove(names);
+}
+
+void DeviceStore::removeIPv6Rows(const QSet<QString> &names)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_ipv6.remove(names);
+}
+
+bool DeviceStore::isNotificationDue()
+{
+    const std::int64_t now = m_clock->now();
+    if (!m_lastNotification)
+        m_lastNotification = now;
+    const bool clockSetBack = now < *m_lastNotification;
+    if (!clockSetBack && now - *m_lastNotification < notificationInterval)
+        return false;
+    m_lastNotification = now;
+    return true;
+}

@@ -1,0 +1,62 @@
+#include "device/registry/ipv6address.h"
+
+#include "device/registry/ipv4address.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+void appendNumber(Bytes &bytes, std::uint32_t number, int size)
+{
+    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
+        bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+}
+
+/// The bytes of groups between single colons; none for no text.
+std::optional<Bytes> groupBytes(QStringView text, bool atEnd)
+{
+    constexpr qsizetype longestGroup = 4;
+    Bytes bytes;
+    if (text.isEmpty())
+        return bytes;
+    const QList<QStringView> groups = text.split(u':');
+    for (qsizetype place = 0; place < groups.size(); ++place) {
+        const QStringView group = groups.at(place);
+        if (const auto ipv4 = ipv4Number(group); ipv4 && atEnd && place + 1 == groups.size()) {
+            appendNumber(bytes, *ipv4, 4);
+            continue;
+        }
+        bool isNumber = false;
+        const ushort number = group.toUShort(&isNumber, 16);
+        if (!isNumber || group.size() > longestGroup)
+            return std::nullopt;
+        appendNumber(bytes, number, 2);
+    }
+    return bytes;
+}
+
+} // namespace
+
+std::optional<std::array<std::uint8_t, 16>> ipv6Bytes(QStringView text)
+{
+    constexpr QStringView gap = u"::";
+    std::array<std::uint8_t, 16> address = {};
+    text = text.left(text.indexOf(u'%') < 0 ? text.size() : text.indexOf(u'%'));
+    const qsizetype gapPlace = text.indexOf(gap);
+    const bool hasGap = gapPlace >= 0;
+    const auto head = groupBytes(hasGap ? text.left(gapPlace) : text, !hasGap);
+    const auto tail = groupBytes(hasGap ? text.mid(gapPlace + gap.size()) : QStringView(), true);
+    if (!head || !tail)
+        return std::nullopt;
+    const std::size_t size = head->size() + tail->size();
+    if (hasGap ? size > address.size() - 2 : size != address.size())
+        return std::nullopt;
+    std::copy(head->begin(), head->end(), address.begin());
+    std::copy_backward(tail->begin(), tail->end(), address.end());
+    return address;
+}

@@ -1,0 +1,3 @@
+#include "device/registry/logging.h"
+
+Q_LOGGING_CATEGORY(logDevice, "configtools.device")

@@ -1,0 +1,106 @@
+#include "device/search/addresstools.h"
+
+#include "device/registry/ipv4address.h"
+#include "device/search/searchrange.h"
+
+#include <QUrl>
+
+#include <algorithm>
+
+bool AddressTools::isLegalAddress(const QString &text) const
+{
+    return ipv4Number(text).has_value();
+}
+
+bool AddressTools::mayBecomeAddress(const QString &text) const
+{
+    const QStringList octets = text.trimmed().split(QLatin1Char('.'));
+    const auto mayBeOctet = [](const QString &octet) {
+        bool isNumber = false;
+        return octet.toUInt(&isNumber) <= 255 && isNumber && octet.size() <= 3;
+    };
+    const bool isOpen = octets.constLast().isEmpty();
+    return octets.size() <= 4 && std::all_of(octets.cbegin(), octets.cend() - (isOpen ? 1 : 0), mayBeOctet);
+}
+
+bool AddressTools::mayBecomeMask(const QString &text) const
+{
+    const QString wanted = text.trimmed();
+    bool isBeginning = isLegalMask(wanted); // perhaps with leading zeros
+    for (int hosts = 1; hosts < 32 && !isBeginning; ++hosts)
+        isBeginning = ipv4Text(~((std::uint32_t(1) << hosts) - 1)).startsWith(wanted);
+    return isBeginning;
+}
+
+double AddressTools::toNumber(const QString &text) const
+{
+    return ipv4Number(text).value_or(0);
+}
+
+bool AddressTools::isLegalMask(const QString &text) const
+{
+    const std::optional<std::uint32_t> mask = ipv4Number(text);
+    return mask && isSubnetMask(*mask);
+}
+
+QString AddressTools::gatewayAfterEdit(const QString &before, const QString &after,
+                                       const QString &gateway) const
+{
+    constexpr qsizetype octetCount = 4;
+    const QLatin1Char point('.');
+    const QStringList old = before.split(point);
+    const QStringList now = after.split(point);
+    QStringList octets = gateway.isEmpty() ? QStringList() : gateway.split(point);
+    // What is not an octet, not even the beginning of one, stays out of the gateway.
+    const auto isOctet = [](const QString &text) {
+        constexpr int largest = 255;
+        bool isNumber = false;
+        return text.isEmpty() || (text.toInt(&isNumber) <= largest && isNumber);
+    };
+    if (now.size() > octetCount || octets.size() > octetCount || !std::ranges::all_of(now, isOctet))
+        return gateway;
+    for (qsizetype place = 0; place < now.size(); ++place) {
+        const bool last = place == octetCount - 1;
+        const bool changed = now.at(place) != old.value(place);
+        const QString octet = last && !now.at(place).isEmpty() ? QStringLiteral("1") : now.at(place);
+        if (place >= octets.size())
+            octets.append(octet);
+        else if (changed)
+            octets[place] = octet;
+    }
+    return octets.join(point);
+}
+
+QString AddressTools::webPage(const QString &ipport, int webPort, bool encrypted) const
+{
+    constexpr int plainPort = 80;
+    constexpr int encryptedPort = 443;
+    constexpr int highestPort = 65535;
+    QString host = ipport.section(QLatin1Char(':'), 0, -2);
+    if (host.startsWith(QLatin1Char('[')) && host.endsWith(QLatin1Char(']')))
+        host = host.sliced(1, host.size() - 2);
+    // Never a name: where a name leads is not the device's to say.
+    const bool isAddress = ipv4Number(host) || host.contains(QLatin1Char(':'));
+    if (!isAddress || webPort < 1 || webPort > highestPort)
+        return {};
+    QUrl page;
+    encrypted = encrypted || webPort == encryptedPort;
+    page.setScheme(encrypted ? QStringLiteral("https") : QStringLiteral("http"));
+    page.setHost(host, QUrl::StrictMode);
+    if (!page.isValid() || page.host().isEmpty())
+        return {};
+    if (webPort != (encrypted ? encryptedPort : plainPort))
+        page.setPort(webPort);
+    return page.toString();
+}
+
+QString AddressTools::plainAddress(const QString &text) const
+{
+    const std::optional<std::uint32_t> address = ipv4Number(text);
+    return address ? ipv4Text(*address) : text;
+}
+
+AddressTools::RangeFault AddressTools::searchRangeFault(const QString &begin, const QString &end) const
+{
+    return static_cast<RangeFault>(::searchRangeFault(begin, end));
+}

@@ -1,0 +1,201 @@
+#include "device/search/devicesearch.h"
+
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
+#include "sdk/clock.h"
+#include "sdk/netlibrary.h"
+#include "sdk/threadpriority.h"
+
+#include <QScopeGuard>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// How long sending a request may take.
+constexpr auto startWait = 4ms;
+
+// The local segment is asked three times, since a device may miss a single datagram, and is listened to for a
+// while after the last one.
+constexpr auto pauseBetweenRequests = 1000ms;
+constexpr auto listeningTime = 3000ms;
+
+constexpr auto localTime = 2 * pauseBetweenRequests + listeningTime;
+
+constexpr auto addressesWait = 3000ms;
+constexpr const char *anyLocalAddress = "0.0.0.0";
+
+} // namespace
+
+/// How far a search is, by the time of its waits.
+class DeviceSearch::Progress
+{
+public:
+    Progress(DeviceSearch &search, std::chrono::milliseconds whole) : m_search(search), m_whole(whole) {}
+
+    void add(std::chrono::milliseconds passed)
+    {
+        m_passed += passed;
+        if (!m_search.m_isEnding)
+            Q_EMIT m_search.progressed(static_cast<int>(100 * m_passed / m_whole));
+    }
+
+private:
+    DeviceSearch &m_search;
+    const std::chrono::milliseconds m_whole;
+    std::chrono::milliseconds m_passed{0};
+};
+
+DeviceSearch::DeviceSearch(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries)
+    : m_store(std::move(store)), m_libraries(std::move(libraries))
+{
+}
+
+DeviceSearch::~DeviceSearch()
+{
+    requestStop();
+    for (QFuture<void> &search : m_searches)
+        search.waitForFinished();
+}
+
+void DeviceSearch::stop()
+{
+    m_stop.request_stop();
+}
+
+void DeviceSearch::requestStop()
+{
+    m_isEnding = true;
+    stop();
+}
+
+void DeviceSearch::setRange(SearchRange range)
+{
+    m_range = range;
+}
+
+void DeviceSearch::start(bool localSegment)
+{
+    if (m_stop.stop_requested() && !m_isEnding)
+        m_stop = std::stop_source();
+    m_searches.removeIf([](const QFuture<void> &search) { return search.isFinished(); });
+    // The range is taken here, so that one that is set while another search runs belongs to the next one
+    // alone.
+    m_searches.append(QtConcurrent::run([this, localSegment, range = std::exchange(m_range, {}),
+                                         stop = m_stop.get_token()] { run(localSegment, range, stop); }));
+}
+
+void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::stop_token &stop)
+{
+    // A search mostly waits: its thread must not count against those that the pool keeps for work.
+    QThreadPool::globalInstance()->releaseThread();
+    const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
+    sdk::giveWayToWindow();
+
+    m_store->clear();
+    Q_EMIT rowsAdded();
+
+    if (m_libraries.net) {
+        const auto addresses = 2 * addressesWait * static_cast<int>(searchRequests(range).size());
+        Progress progress(*this, (localSegment ? localTime : 0ms) + addresses);
+        if (localSegment)
+            searchLocalSegment(stop, progress);
+        searchRange(range, stop, progress);
+    }
+
+    if (m_isEnding)
+        return;
+    if (const int leftOut = m_store->leftOut(); leftOut > 0)
+        Q_EMIT limited(DeviceStore::maximumFound, leftOut);
+    Q_EMIT rowsAdded();
+    Q_EMIT counted(m_store->ipv4Count());
+    Q_EMIT done();
+}
+
+void DeviceSearch::searchLocalSegment(const std::stop_token &stop, Progress &progress)
+{
+    sdk::SearchParameter parameter{};
+    parameter.size = sizeof(parameter);
+    parameter.handler = &DeviceSearch::answerHandler;
+    parameter.user = this;
+
+    sdk::SearchParameterEx parameterEx{};
+    parameterEx.size = sizeof(parameterEx);
+    parameterEx.handler = &DeviceSearch::answerHandler;
+    parameterEx.user = this;
+
+    sdk::NetLibrary &net = *m_libraries.net;
+    sdk::Clock &clock = *m_libraries.clock;
+    keepHandle(net.NetStartSearchDevices(parameter, startWait));
+    if (clock.wait(pauseBetweenRequests, stop)) {
+        progress.add(pauseBetweenRequests);
+        keepHandle(net.NetStartSearchDevices(parameter, startWait));
+        if (clock.wait(pauseBetweenRequests, stop)) {
+            progress.add(pauseBetweenRequests);
+            keepHandle(net.NetStartSearchDevicesEx(parameterEx, startWait));
+            clock.wait(listeningTime, stop);
+            progress.add(listeningTime);
+        }
+    }
+    stopHandles();
+}
+
+void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_token &stop, Progress &progress)
+{
+    sdk::NetLibrary &net = *m_libraries.net;
+    for (const sdk::SearchByAddressesRequest &request : searchRequests(addresses)) {
+        if (stop.stop_requested())
+            return;
+        net.NetSearchDevicesByIPs(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
+                                  addressesWait);
+        progress.add(addressesWait);
+        if (stop.stop_requested())
+            return;
+        net.NetSearchDevicesByIPsEx(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
+                                    addressesWait);
+        progress.add(addressesWait);
+    }
+}
+
+void DeviceSearch::keepHandle(std::int64_t handle)
+{
+    if (handle == 0) {
+        qCWarning(logDevice) << "DeviceSearch: a local search could not be started, error" << Qt::hex
+                             << m_libraries.net->NetGetLastError();
+        return;
+    }
+    const std::scoped_lock lock(m_mutex);
+    m_handles.append(handle);
+}
+
+void DeviceSearch::stopHandles()
+{
+    // Taken out under the lock and stopped outside it: stopping waits for handlers, and they must not wait
+    // for us.
+    QList<std::int64_t> handles;
+    {
+        const std::scoped_lock lock(m_mutex);
+        handles.swap(m_handles);
+    }
+    for (const std::int64_t handle : handles)
+        m_libraries.net->NetStopSearchDevices(handle);
+}
+
+void DeviceSearch::answerHandler(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+{
+    if (answer && answer->size == sizeof(*answer))
+        static_cast<DeviceSearch *>(user)->handleAnswer(*answer);
+}
+
+void DeviceSearch::handleAnswer(const sdk::SearchAnswer &answer)
+{
+    const DeviceStore::Addition addition = m_store->addAnswer(answer);
+    if (!addition.notify)
+        return;
+    Q_EMIT rowsAdded();
+    Q_EMIT counted(addition.ipv4Count);
+}

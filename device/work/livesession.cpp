@@ -1,0 +1,91 @@
+#include "device/work/livesession.h"
+
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+
+#include <utility>
+
+LiveSession::~LiveSession()
+{
+    m_stop.request_stop();
+    m_pictureStop.request_stop();
+}
+
+CDeviceFactory *LiveSession::deviceFactory() const
+{
+    return m_deviceFactory;
+}
+
+void LiveSession::setDeviceFactory(CDeviceFactory *deviceFactory)
+{
+    if (m_deviceFactory == deviceFactory)
+        return;
+    close();
+    m_deviceFactory = deviceFactory;
+    Q_EMIT deviceFactoryChanged();
+}
+
+void LiveSession::open(const QString &ipport, const QString &account, const QString &password)
+{
+    if (!m_deviceFactory)
+        return;
+    m_stop.request_stop();
+    m_stop = std::stop_source();
+    const OwnSessionStep step = m_deviceFactory->ownSessionStep(
+        dhFamily, {.ipport = ipport, .account = account, .password = password, .present = m_session});
+    // Dropped with the work, which logs out of a session that nobody has taken.
+    const auto offer = std::make_shared<OwnSessionOffer>();
+    m_deviceFactory->runForScene(
+        dhFamily,
+        [step, offer](const StepControl &control) {
+            *offer = step(control);
+            return SceneOutcome();
+        },
+        m_stop.get_token(),
+        [self = QPointer(this), number = ++m_number, offer](const SceneOutcome &) {
+            if (self && self->m_number == number)
+                self->take(std::exchange(*offer, {}));
+        });
+}
+
+void LiveSession::takePicture(int channel, const QString &folder)
+{
+    if (!m_deviceFactory || !m_session)
+        return;
+    const auto picture = std::make_shared<OwnPicture>();
+    m_deviceFactory->runForScene(
+        dhFamily,
+        [session = m_session, picture, channel, folder](const StepControl &control) {
+            *picture = session->takePicture(channel, folder, control);
+            return SceneOutcome();
+        },
+        m_pictureStop.get_token(),
+        [self = QPointer(this), stop = m_pictureStop.get_token(), picture, channel](const SceneOutcome &) {
+            if (self && !stop.stop_requested())
+                Q_EMIT self->pictureTaken(channel, picture->path, picture->message);
+        });
+}
+
+void LiveSession::close()
+{
+    m_stop.request_stop();
+    m_pictureStop.request_stop();
+    m_pictureStop = std::stop_source();
+    ++m_number;
+    setSession(nullptr);
+}
+
+void LiveSession::take(const OwnSessionOffer &offer)
+{
+    if (offer.session)
+        setSession(offer.session);
+    Q_EMIT ended(offer.result, offer.channels);
+}
+
+void LiveSession::setSession(const std::shared_ptr<OwnSession> &session)
+{
+    const qint64 before = handle();
+    m_session = session;
+    if (handle() != before)
+        Q_EMIT handleChanged();
+}

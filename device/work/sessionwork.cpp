@@ -1,0 +1,134 @@
+#include "device/work/sessionwork.h"
+
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+
+void SessionWork::changeFactory(CDeviceFactory *before)
+{
+    if (before)
+        disconnect(before, nullptr, this, nullptr);
+    if (deviceFactory())
+        connect(deviceFactory(), &CDeviceFactory::signalHighLevelLoginRet, this, &SessionWork::noteLogin);
+}
+
+void SessionWork::noteLogin(int result)
+{
+    if (isTaking() || result != resultCode(LoginResult::Success))
+        return;
+    cancel();
+    Q_EMIT otherLogin();
+}
+
+void SessionWork::beginJob(const SessionJob &job)
+{
+    if (deviceFactory())
+        begin(deviceFactory()->sessionStep(dhFamily, job));
+}
+
+void SessionWork::login(const QString &ipport, const QString &account, const QString &password)
+{
+    if (deviceFactory())
+        begin(deviceFactory()->loginStep(dhFamily, ipport, account, password));
+}
+
+void SessionWork::readEncoding()
+{
+    beginJob([](SessionOperations &device, const StepControl &) {
+        device.getEncodeCaps();
+        return QVariant();
+    });
+}
+
+void SessionWork::readEncodeChannel()
+{
+    beginJob([](SessionOperations &device, const StepControl &) {
+        device.getEncodeInfo();
+        return QVariant();
+    });
+}
+
+void SessionWork::chooseEncoding(const QString &key, int place)
+{
+    beginJob([key, place](SessionOperations &device, const StepControl &) {
+        device.setConfigData(key, place, {});
+        device.getEncodeInfo();
+        return QVariant();
+    });
+}
+
+void SessionWork::writeEncodeValue(const QString &key, const QVariant &value)
+{
+    beginJob([key, value](SessionOperations &device, const StepControl &) {
+        device.setConfigData(key, value, {});
+        return QVariant();
+    });
+}
+
+void SessionWork::saveEncoding()
+{
+    beginJob([](SessionOperations &device, const StepControl &) {
+        device.confirmConfigData();
+        return QVariant();
+    });
+}
+
+void SessionWork::readImage(int channel)
+{
+    beginJob([channel](SessionOperations &device, const StepControl &control) {
+        if (channel >= 0)
+            device.setConfigData(QStringLiteral("curVideoChannel"), channel, {});
+        device.getCameraConfig();
+        if (!device.isDeviceAway() && !control.shouldEnd())
+            device.getVideoInByChangeChannel();
+        return device.isDeviceAway() || control.shouldEnd()
+                   ? QVariant(QVariantList())
+                   : device.getConfigData(QStringLiteral("connectedChannels"), {});
+    });
+}
+
+void SessionWork::chooseImageMode(int place)
+{
+    beginJob([place](SessionOperations &device, const StepControl &) {
+        device.setConfigData(QStringLiteral("curSwitchMode"), place, {});
+        device.getVideoIn();
+        return QVariant();
+    });
+}
+
+void SessionWork::writeImage(const QString &key, const QVariantList &values)
+{
+    beginJob([key, values](SessionOperations &device, const StepControl &) {
+        for (const QVariant &entry : values) {
+            const QVariantList pair = entry.toList();
+            if (!device.isDeviceAway())
+                device.setConfigData(key, pair.value(1), pair.value(0).toString());
+        }
+        return QVariant();
+    });
+}
+
+void SessionWork::readNames()
+{
+    beginJob([](SessionOperations &device, const StepControl &control) {
+        const QVariantList names = device.getDeviceChannelData(QStringLiteral("channelNames"), 0);
+        const QVariantList connected =
+            device.isDeviceAway() || control.shouldEnd()
+                ? QVariantList()
+                : device.getDeviceChannelData(QStringLiteral("channelsConnected"), 0);
+        return QVariant(QVariantMap{{QStringLiteral("names"), QVariant(names)},
+                                    {QStringLiteral("connected"), QVariant(connected)}});
+    });
+}
+
+void SessionWork::writeName(int channel, const QString &name)
+{
+    beginJob([channel, name](SessionOperations &device, const StepControl &) {
+        device.setConfigData(QStringLiteral("channelName"), name, QString::number(channel));
+        const QVariant result = device.getConfigData(QStringLiteral("channelNameResult"), channel);
+        const bool isTaken = result.toInt() == resultCode(LoginResult::Success);
+        return QVariant(QVariantMap{
+            {QStringLiteral("result"), result},
+            {QStringLiteral("name"),
+             isTaken ? device.getConfigData(QStringLiteral("channelName"), channel) : QVariant()}});
+    });
+}
