@@ -223,6 +223,29 @@
         <source>删除账号</source>
         <translation>Remove account</translation>
     </message>
+    <message numerus="yes">
+        <source>删除没有设备使用的 %n 个账号？</source>
+        <translation>
+            <numerusform>Remove %n account that no device has?</numerusform>
+            <numerusform>Remove %n accounts that no device has?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>删除未使用的账号</source>
+        <translation>Remove unused accounts</translation>
+    </message>
+    <message>
+        <source>没有为任何设备选定的账号</source>
+        <translation>Accounts that are selected for no device</translation>
+    </message>
+    <message>
+        <source>未使用</source>
+        <translation>Not used</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -3410,10 +3433,6 @@ Right-click to copy the result</translation>
         <source>加入勾选的设备</source>
         <translation>Add selected devices</translation>
     </message>
-    <message>
-        <source>加入的设备不能在此抓图，请在设备图像窗口中保存</source>
-        <translation>No snapshots of added devices here: use the window of device images</translation>
-    </message>
 </context>
 <context>
     <name>LiveWindow</name>
@@ -3465,8 +3484,8 @@ Right-click to copy the result</translation>
         <translation>At most %1 devices can be added. %2 were not added.</translation>
     </message>
     <message>
-        <source>通道 %1</source>
-        <translation>Channel %1</translation>
+        <source>设备已移出画面</source>
+        <translation>The device is no longer shown</translation>
     </message>
 </context>
 <context>
@@ -4150,10 +4169,6 @@ File: </translation>
         <source>填入后可在表格中修改，保存时才写入设备。</source>
         <translation>The names can be edited in the table. Save writes them.</translation>
     </message>
-    <message>
-        <source>写入各台设备的通道 1。</source>
-        <translation>Names channel 1 of each device.</translation>
-    </message>
     <message numerus="yes">
         <source>当前设备的 %n 个通道</source>
         <translation>
@@ -4188,6 +4203,10 @@ File: </translation>
         <source>位数</source>
         <translation>Digits</translation>
     </message>
+    <message>
+        <source>写入各台摄像机的通道 1。</source>
+        <translation>Names channel 1 of each camera.</translation>
+    </message>
 </context>
 <context>
     <name>NamePlan</name>
@@ -4206,6 +4225,10 @@ File: </translation>
     <message>
         <source>名称过长，最多 %1 字节</source>
         <translation>Longer than %1 bytes</translation>
+    </message>
+    <message>
+        <source>录像机，不会执行；其通道请单独命名</source>
+        <translation>Recorder: skipped. Open it to name its channels</translation>
     </message>
 </context>
 <context>
@@ -4903,20 +4926,20 @@ File: </translation>
         <translation>The device does not report how many attempts are left. More wrong passwords may lock the account.</translation>
     </message>
     <message>
-        <source>之后打开的设备也使用此账号</source>
-        <translation>Also for devices opened later</translation>
-    </message>
-    <message>
-        <source>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</source>
-        <translation>After a successful login, devices without an account of their own are tried with it in place of that of the search settings, until the program ends</translation>
-    </message>
-    <message>
         <source>保存为此设备的账号</source>
         <translation>Store as the account of this device</translation>
     </message>
     <message>
         <source>登录成功后，以后登录这台设备都使用此账号</source>
         <translation>Once the login has succeeded, this device is always logged in to with this account</translation>
+    </message>
+    <message>
+        <source>之后的设备也使用此账号</source>
+        <translation>Also for later devices</translation>
+    </message>
+    <message>
+        <source>登录成功后，没有自己账号的设备都用此账号代替搜索设置中的账号，批处理也是如此，直到程序退出或搜索设置中的账号改变</source>
+        <translation>After a successful login, all devices without an account of their own, also those of batches, are tried with it in place of that of the search settings, until the program ends or the account of the search settings is changed</translation>
     </message>
 </context>
 <context>
@@ -5407,6 +5430,10 @@ File: </translation>
     <message>
         <source>未执行</source>
         <translation>Not done</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>The device is no longer shown</translation>
     </message>
 </context>
 <context>
@@ -6881,6 +6908,13 @@ File: </translation>
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
         <translation>No image: too large for the graphics card</translation>
+    </message>
+</context>
+<context>
+    <name>WatchedDevices</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>Channel %1</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,28 @@
         <source>删除账号</source>
         <translation>删除账号</translation>
     </message>
+    <message numerus="yes">
+        <source>删除没有设备使用的 %n 个账号？</source>
+        <translation>
+            <numerusform>删除没有设备使用的 %n 个账号？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>删除未使用的账号</source>
+        <translation>删除未使用的账号</translation>
+    </message>
+    <message>
+        <source>没有为任何设备选定的账号</source>
+        <translation>没有为任何设备选定的账号</translation>
+    </message>
+    <message>
+        <source>未使用</source>
+        <translation>未使用</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -3365,10 +3387,6 @@
         <source>加入勾选的设备</source>
         <translation>加入勾选的设备</translation>
     </message>
-    <message>
-        <source>加入的设备不能在此抓图，请在设备图像窗口中保存</source>
-        <translation>加入的设备不能在此抓图，请在设备图像窗口中保存</translation>
-    </message>
 </context>
 <context>
     <name>LiveWindow</name>
@@ -3419,8 +3437,8 @@
         <translation>最多加入 %1 台设备，其余 %2 台没有加入</translation>
     </message>
     <message>
-        <source>通道 %1</source>
-        <translation>通道 %1</translation>
+        <source>设备已移出画面</source>
+        <translation>设备已移出画面</translation>
     </message>
 </context>
 <context>
@@ -4097,10 +4115,6 @@
         <source>填入后可在表格中修改，保存时才写入设备。</source>
         <translation>填入后可在表格中修改，保存时才写入设备。</translation>
     </message>
-    <message>
-        <source>写入各台设备的通道 1。</source>
-        <translation>写入各台设备的通道 1。</translation>
-    </message>
     <message numerus="yes">
         <source>当前设备的 %n 个通道</source>
         <translation>
@@ -4133,6 +4147,10 @@
         <source>位数</source>
         <translation>位数</translation>
     </message>
+    <message>
+        <source>写入各台摄像机的通道 1。</source>
+        <translation>写入各台摄像机的通道 1。</translation>
+    </message>
 </context>
 <context>
     <name>NamePlan</name>
@@ -4151,6 +4169,10 @@
     <message>
         <source>名称过长，最多 %1 字节</source>
         <translation>名称过长，最多 %1 字节</translation>
+    </message>
+    <message>
+        <source>录像机，不会执行；其通道请单独命名</source>
+        <translation>录像机，不会执行；其通道请单独命名</translation>
     </message>
 </context>
 <context>
@@ -4829,20 +4851,20 @@
         <translation>设备没有报告剩余的尝试次数。继续输错可能锁定账户。</translation>
     </message>
     <message>
-        <source>之后打开的设备也使用此账号</source>
-        <translation>之后打开的设备也使用此账号</translation>
-    </message>
-    <message>
-        <source>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</source>
-        <translation>登录成功后，没有自己账号的设备用此账号代替搜索设置中的账号，直到程序退出</translation>
-    </message>
-    <message>
         <source>保存为此设备的账号</source>
         <translation>保存为此设备的账号</translation>
     </message>
     <message>
         <source>登录成功后，以后登录这台设备都使用此账号</source>
         <translation>登录成功后，以后登录这台设备都使用此账号</translation>
+    </message>
+    <message>
+        <source>之后的设备也使用此账号</source>
+        <translation>之后的设备也使用此账号</translation>
+    </message>
+    <message>
+        <source>登录成功后，没有自己账号的设备都用此账号代替搜索设置中的账号，批处理也是如此，直到程序退出或搜索设置中的账号改变</source>
+        <translation>登录成功后，没有自己账号的设备都用此账号代替搜索设置中的账号，批处理也是如此，直到程序退出或搜索设置中的账号改变</translation>
     </message>
 </context>
 <context>
@@ -5333,6 +5355,10 @@
     <message>
         <source>未执行</source>
         <translation>未执行</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>设备已移出画面</translation>
     </message>
 </context>
 <context>
@@ -6794,6 +6820,13 @@
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
         <translation>无法显示画面：显卡不支持这样大的画面</translation>
+    </message>
+</context>
+<context>
+    <name>WatchedDevices</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>通道 %1</translation>
     </message>
 </context>
 <context>
