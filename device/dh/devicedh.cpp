@@ -1,7 +1,10 @@
 #include "device/dh/devicedh.h"
 
 #include "device/batch/batchengine.h"
-#include "device/dh/logins/foundlogins.h"
+#include "device/dh/lists/devicelists.h"
+#include "device/dh/logins/devicelogins.h"
+#include "device/dh/session/sessionthreads.h"
+#include "device/dh/system/systemoperations.h"
 #include "device/dh/upgrade/upgraderunner.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
@@ -19,19 +22,22 @@ namespace {
 std::mutex agentListenerMutex;
 CDeviceDH *agentListener = nullptr;
 
-constexpr int maximumSessionThreads = 16;
-
 } // namespace
 
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits,
                      std::shared_ptr<BatchEngine> engine)
-    : CDeviceBase(store), m_libraries(std::move(libraries)), m_searchSettings(std::move(searchSettings)),
+    : CDeviceBase(store), m_libraries(std::move(libraries)),
       m_engine(engine ? std::move(engine) : std::make_shared<BatchEngine>(m_libraries.clock)),
-      m_search(std::make_unique<DeviceSearch>(store, m_libraries)),
-      m_foundLogins(std::make_unique<FoundLogins>(store, m_libraries)),
-      m_refresh(std::make_unique<DeviceRefresh>(std::move(store), m_libraries)),
-      m_keptLogins(m_libraries.net), m_state(std::make_shared<SessionState>(m_tables)),
+      m_logins(std::make_unique<DeviceLogins>(store, m_libraries)),
+      m_threads(std::make_shared<SessionThreads>(m_libraries.net, m_signals)),
+      m_lists(std::make_unique<DeviceLists>(store, m_libraries, *m_logins, m_signals)),
+      m_system(std::make_unique<SystemOperations>(
+          store, m_libraries, *m_logins, *m_threads,
+          [this](const QString &ipport) { return isUpgradingAt(ipport); }, m_signals)),
+      m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
+                                                  m_signals)),
+      m_state(std::make_shared<SessionState>(m_tables)),
       m_upgrades(std::make_unique<UpgradeRunner>(
           m_libraries, upgradeLimits, m_engine,
           UpgradeRunner::Watchers{.changed = [this](const UpgradeOrder &order,
@@ -42,28 +48,9 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
                                                                     Qt::QueuedConnection);
                                       }}))
 {
-    // One that does not answer keeps none that does waiting.
-    m_sessionThreads.setMaxThreadCount(maximumSessionThreads);
     m_documentFiles.setMaxThreadCount(1);
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
-
-    connect(m_search.get(), &DeviceSearch::rowsAdded, this, &CDeviceBase::signalCDeviceAddDeviceToTable,
-            Qt::DirectConnection);
-    connect(m_search.get(), &DeviceSearch::counted, this, &CDeviceBase::signalCDeviceSearchCount,
-            Qt::DirectConnection);
-    connect(m_search.get(), &DeviceSearch::limited, this, &CDeviceBase::signalCDeviceSearchLimited,
-            Qt::DirectConnection);
-    connect(m_search.get(), &DeviceSearch::progressed, this, &CDeviceBase::signalCDeviceSearchProgress,
-            Qt::DirectConnection);
-    connect(m_search.get(), &DeviceSearch::done, this, &CDeviceBase::signalCDeviceSearchDone,
-            Qt::DirectConnection);
-    connect(m_search.get(), &DeviceSearch::rowsAdded, m_foundLogins.get(), &FoundLogins::askNew,
-            Qt::DirectConnection);
-    connect(m_foundLogins.get(), &FoundLogins::rowsChanged, this, &CDeviceDH::noteChangedRows,
-            Qt::DirectConnection);
-    connect(m_refresh.get(), &DeviceRefresh::rowsChanged, this, &CDeviceDH::noteChangedRows,
-            Qt::DirectConnection);
 
     const std::lock_guard lock(agentListenerMutex);
     agentListener = this;
@@ -78,22 +65,23 @@ CDeviceDH::~CDeviceDH()
     }
     m_upgrades->requestEnd(); // before their batches: nothing stops that the user has not stopped
     m_engine->requestEnd();
-    m_search->requestStop();
-    m_refresh->requestStop();
-    m_foundLogins->requestStop();
+    m_search->requestEnd();
     m_snapshots.reset();
     m_upgrades->end();
-    m_sessionThreads.clear();
+    m_threads->clear();
     endSession();
-    m_keptLogins.letAllGo();
+    m_system->letLoginsGo();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_engine->end();
-    m_sessionThreads.waitForDone();
+    m_threads->waitForDone();
     m_documentFiles.waitForDone();
     m_search.reset();
-    m_foundLogins.reset();
-    m_refresh.reset();
+}
+
+void CDeviceDH::setStoredAccounts(const AccountChoice::Stored &stored)
+{
+    m_logins->setStoredAccounts(stored);
 }
 
 void CDeviceDH::factoryEnds()
@@ -148,4 +136,70 @@ void CDeviceDH::noteBrokenTunnel(const QString &deviceId, int localPort)
     // The tunnel to a device's web page has no row, nor has one whose device a search has taken off the list.
     if (isListed || deviceId.isEmpty())
         Q_EMIT signalCDeviceTunnelBroken(deviceId, localPort);
+}
+
+void CDeviceDH::startSearch()
+{
+    m_search->start();
+}
+
+void CDeviceDH::setSearchByIPInfo(quint32 beginip, quint32 endip)
+{
+    m_search->setRange(beginip, endip);
+}
+
+void CDeviceDH::stopSearch()
+{
+    m_search->stop();
+}
+
+void CDeviceDH::refreshDevices(const QStringList &macs)
+{
+    m_search->refresh(macs);
+}
+
+DeviceStep CDeviceDH::locationStep(const QStringList &macs)
+{
+    return m_search->locationStep(macs);
+}
+
+bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, const QString &fileName)
+{
+    return m_lists->exportDevices(folder, macs, fileName);
+}
+
+QVariantList CDeviceDH::exportFaults()
+{
+    return m_lists->exportFaults();
+}
+
+ImportPlan CDeviceDH::importPlan(const QString &path)
+{
+    return m_lists->importPlan(path, p2pPorts());
+}
+
+bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)
+{
+    m_importError = m_lists->importDevices(path, p2pPorts(), summary);
+    return m_importError.isEmpty();
+}
+
+QVariantList CDeviceDH::importFailures()
+{
+    return m_lists->importFailures();
+}
+
+QString CDeviceDH::importError()
+{
+    return m_importError;
+}
+
+void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
+{
+    m_system->run(command, data, ipports);
+}
+
+DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data, const QString &ipport)
+{
+    return m_system->step(command, data, ipport);
 }

@@ -5,13 +5,11 @@
 #include "device/dh/configuration/sessionrun.h"
 #include "device/dh/configuration/sessionstate.h"
 #include "device/dh/encode/valuetables.h"
-#include "device/dh/session/keptlogins.h"
-#include "device/dh/system/systemaction.h"
+#include "device/dh/search/searchoperations.h"
 #include "device/dh/upgrade/upgradedocuments.h"
 #include "device/dh/upgrade/upgradework.h"
+#include "device/registry/backendsignals.h"
 #include "device/registry/devicebase.h"
-#include "device/search/devicerefresh.h"
-#include "device/search/devicesearch.h"
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
 
@@ -23,8 +21,11 @@
 #include <mutex>
 #include <vector>
 
+class DeviceLists;
+class DeviceLogins;
 class FirmwareFiles;
-class FoundLogins;
+class SessionThreads;
+class SystemOperations;
 struct FirmwareFile;
 class SnapThread;
 struct SnapTask;
@@ -34,13 +35,6 @@ struct SessionOffer;
 struct SessionOrder;
 struct EncodeCopyOutcome;
 struct EncodeState;
-
-/// What a search reads from the local configuration.
-struct SearchSettings
-{
-    bool localDomain = true; ///< search the local segment
-    bool logsIn = false;     ///< log in to the devices that are found, with the default account
-};
 
 /// The family "dh": the one complete back end. Each group of its operations stands in a file of its own.
 class CDeviceDH : public CDeviceBase
@@ -58,7 +52,7 @@ public:
     ~CDeviceDH() override;
 
     /// The accounts that the user keeps for devices; asked on any thread. To be called before anything else.
-    void setStoredAccounts(const AccountChoice::Stored &stored) { m_accounts.setStored(stored); }
+    void setStoredAccounts(const AccountChoice::Stored &stored);
 
     /// Takes the port agent's events, on a thread of the agent: logs them. Of a tunnel that broke the user
     /// learns: the device's row gets the result of a network failure, and signalCDeviceTunnelBroken is
@@ -119,12 +113,7 @@ public:
                            const QString &newgateway, bool dhcpON) override;
 
     // Device lists: devicedhlists.cpp
-
-    /// `folder` may be a "file:///" address; the ending of `fileName` chooses the format. A device that is
-    /// not in the table any more is left out; false when none is left, or when the file cannot be written.
     bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName) override;
-
-    /// Blocks until every device of the list was asked.
     bool importDevice(const QString &path, ImportSummary &summary) override;
     QVariantList exportFaults() override;
     QVariantList importFailures() override;
@@ -132,11 +121,6 @@ public:
     ImportPlan importPlan(const QString &path) override;
 
     // System configuration: devicedhsystem.cpp
-    /// "cancelLogin" forgets the logins at once and does not wait for their end.
-    /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
-    /// when it refuses, also for an unknown command and for data that make no sense. `loginCheck` keeps
-    /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`. A device that is being
-    /// upgraded is left alone: LoginResult::Upgrading.
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
     DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport) override;
 
@@ -228,13 +212,9 @@ private:
         DeviceAccount usual;
     };
 
-    class LiveLogin;
-
     void beginSession(const QString &ipport, const QString &account, const QString &password,
                       const SecureLogin &login);
     void endSession();
-    /// Logs out on another thread, which the waits of the library may hold up.
-    void logOutLater(const QList<std::int64_t> &handles);
     void takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer);
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
@@ -263,8 +243,6 @@ private:
                                             const QString &folder, const StepControl &control) const;
     [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
                                            const StepControl &control) const;
-    /// Emits signalCDeviceAddSingleDeviceToTable once, however often it is called before. On any thread.
-    void noteChangedRows();
     void noteUpgradeRoundEnd();
     /// Writes a document of upgrades, see UpgradeDocuments::Writer.
     void writeDocument(const std::function<void()> &write, const std::function<void()> &written);
@@ -290,14 +268,6 @@ private:
     /// Writes "res" of the device's row.
     StepOutcome noteResult(const QString &mac, LoginResult result);
 
-    // On any thread, and block it for the waits of the library. Return a result.
-    StepOutcome readClock(const QString &ipport, const DeviceAccount &credentials,
-                          const StepControl &control);
-    StepOutcome performOn(const QString &ipport, const DeviceAccount &credentials, const QString &command,
-                          const QVariantMap &data, const StepControl &control);
-    int checkPassword(const QString &ipport, const QString &account, const QString &password);
-    StepOutcome modifyPassword(const QString &ipport, const QString &newPassword);
-
     /// What the network library can do at all: getConfigData("library").
     [[nodiscard]] QVariantMap libraryValues() const;
 
@@ -305,36 +275,22 @@ private:
     /// it waits for the step that runs.
     [[nodiscard]] BatchEngine::Hold holdDevice(const QString &ipport, const StepControl &control) const;
 
-    /// Of the device's row; the default account for what the row does not have.
-    /// Logs in as secureLogin() does, and notes in the row whether the device has let the account in. Any
-    /// thread.
-    [[nodiscard]] SecureLogin logIn(const QString &ipport, const DeviceAccount &account) const;
-    void noteLogin(const QString &ipport, LoginResult result) const;
-    /// Runs `work` in a login of its own, unless the step ends first. The outcome of a login that fails is
-    /// its result. Any thread.
-    [[nodiscard]] StepOutcome inLogin(const QString &ipport, const DeviceAccount &account,
-                                      const StepControl &control,
-                                      const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const;
-    [[nodiscard]] DeviceAccount listedAccount(const QJsonObject &row) const;
-    [[nodiscard]] DeviceAccount credentialsOf(const QString &ipport) const;
-    [[nodiscard]] DeviceAccount credentialsOf(const QJsonObject &row) const;
-
     const ValueTables m_tables;
     const sdk::SdkLibraries m_libraries;
-    const std::function<SearchSettings()> m_searchSettings;
     const std::shared_ptr<BatchEngine> m_engine;
-    std::unique_ptr<DeviceSearch> m_search;
-    std::unique_ptr<FoundLogins> m_foundLogins;
-    std::unique_ptr<DeviceRefresh> m_refresh;
+    BackEndSignals m_signals{*this};
+    const std::unique_ptr<DeviceLogins> m_logins;
+    const std::shared_ptr<SessionThreads> m_threads; ///< ends with this object
+    const std::unique_ptr<DeviceLists> m_lists;
+    const std::unique_ptr<SystemOperations> m_system;
+    std::unique_ptr<SearchOperations> m_search;
     Session m_session;
-    QThreadPool m_sessionThreads;                ///< of openSession(), runForScene() and logouts
     std::atomic<int> m_sessionRequest = 0;       ///< the number of the last openSession() that counts
     std::atomic<int> m_deviceGeneration = 0;     ///< rises when another device is logged in to
     std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
-    KeptLogins m_keptLogins;
-    std::shared_ptr<SessionState> m_state;   ///< never null; on the scene's thread
-    std::unique_ptr<SnapThread> m_snapshots; ///< null until the first snapshot
-    QThreadPool m_documentFiles;             ///< one thread, which writes documents of upgrades
+    std::shared_ptr<SessionState> m_state;       ///< never null; on the scene's thread
+    std::unique_ptr<SnapThread> m_snapshots;     ///< null until the first snapshot
+    QThreadPool m_documentFiles;                 ///< one thread, which writes documents of upgrades
     UpgradeDocuments m_upgradeDocuments{
         [this](const std::function<void()> &write, const std::function<void()> &written) {
             writeDocument(write, written);
@@ -345,11 +301,7 @@ private:
     QHash<QString, UpgradeOrder> m_rowlessOrders;            ///< of lines without a row, by address and port
     QSet<QString> m_changedUpgrades;                         ///< names of rows; any thread
     std::mutex m_changedUpgradesMutex;
-    std::atomic<bool> m_changedRowsNoted = false;
     std::atomic<bool> m_scheduleNoted = false;
     std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
-    AccountChoice m_accounts;
-    QVariantList m_exportFaults;
-    QVariantList m_importFailures;
     QString m_importError;
 };

@@ -2,6 +2,7 @@
 #include "device/dh/devicedh.h"
 #include "device/dh/encode/encodeconfig.h"
 #include "device/dh/encode/encodecopy.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/securelogin.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
@@ -25,7 +26,7 @@ DeviceStepMaker CDeviceDH::encodeCopy()
     const auto state = std::make_shared<const std::optional<EncodeState>>(m_state->encode.state());
     return [this, state, channels = m_state->channels](const QString &ipport) -> DeviceStep {
         return [this, ipport, state, channels,
-                credentials = credentialsOf(ipport)](const StepControl &control) {
+                credentials = m_logins->accountAt(ipport)](const StepControl &control) {
             EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
             if (isUpgradingAt(ipport))
                 outcome.result = resultCode(LoginResult::Upgrading);
@@ -43,7 +44,7 @@ EncodeCopyOutcome CDeviceDH::copyTo(const QString &ipport, const DeviceAccount &
                                     const EncodeState &state, const ChannelChoice &channels,
                                     const StepControl &control)
 {
-    const SecureLogin login = logIn(ipport, credentials);
+    const SecureLogin login = m_logins->logIn(ipport, credentials);
     if (login.result != LoginResult::Success)
         return {.result = resultCode(login.result), .skipped = {}};
     EncodeCopyOutcome outcome =

@@ -1,5 +1,6 @@
 // Live view and snapshots of the current session's device.
 #include "device/dh/devicedh.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/livechannels.h"
 #include "device/dh/session/securelogin.h"
 #include "device/registry/devicerow.h"
@@ -131,7 +132,7 @@ DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
 {
     const QJsonObject row = store().rowAt(order.ipport);
     const QJsonValue state = row.value(DeviceRowKey::state);
-    return [this, order, account = credentialsOf(row),
+    return [this, order, account = m_logins->accountOf(row),
             isInitialised = !state.isBool() || state.toBool()](const StepControl &control) {
         if (!isInitialised) // it takes no login
             return StepOutcome{.result = resultCode(LoginResult::NotInitialised), .text = {}};

@@ -1,5 +1,6 @@
 // Requests to devices that a search has found: the first password, and a new address.
 #include "device/dh/devicedh.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/dh/upgrade/upgraderunner.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
@@ -78,7 +79,7 @@ void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString
     if (m_upgrades->isUpgrading(mac))
         noteResult(mac, LoginResult::Upgrading);
     else
-        changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentialsOf(store().row(mac)),
+        changeAddress(mac, newip, newsubmask, newgateway, dhcpON, m_logins->accountOf(store().row(mac)),
                       StepControl());
 }
 
@@ -88,7 +89,7 @@ DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, cons
     const QJsonObject row = store().row(mac);
     // A device that is not listed may be found by the time that the step runs.
     const DeviceAccount credentials =
-        credentialsOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
+        m_logins->accountOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
     return [=, this](const StepControl &control) {
         if (m_upgrades->isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);

@@ -1,7 +1,9 @@
 // Rows and their logins.
 #include "device/dh/devicedh.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/dh/logins/rowadding.h"
 #include "device/dh/upgrade/upgraderunner.h"
+#include "device/registry/devicefilter.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 
@@ -31,7 +33,7 @@ DeviceStep CDeviceDH::addingStep(const DeviceToAdd &device)
 
 void CDeviceDH::setDefaultAccount(const QString &account, const QString &password)
 {
-    m_accounts.setDefault({.account = account, .password = password});
+    m_logins->setDefaultAccount({.account = account, .password = password});
 }
 
 void CDeviceDH::setFollowingAccount(const QString &account, const QString &password)
@@ -42,7 +44,7 @@ void CDeviceDH::setFollowingAccount(const QString &account, const QString &passw
 QVariantMap CDeviceDH::accountOf(const QString &name)
 {
     const QJsonObject row = store().rowNamed(name);
-    const AccountChoice::Chosen chosen = m_accounts.of(row.isEmpty() ? store().rowAt(name) : row);
+    const AccountChoice::Chosen chosen = m_logins->accounts().of(row.isEmpty() ? store().rowAt(name) : row);
     return {{QStringLiteral("account"), chosen.account.account},
             {QStringLiteral("password"), chosen.account.password},
             {QStringLiteral("isStored"), chosen.source == AccountChoice::Source::Stored},
@@ -60,7 +62,7 @@ bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, c
     const bool isWritten =
         (!mac.isEmpty() && store().changeRowNamed(mac, write)) || store().changeRowAt(ipport, write);
     if (isWritten && key == DeviceRowKey::name) // other values are shown by the page that writes them
-        noteChangedRows();
+        m_signals.noteChangedRows();
     return isWritten;
 }
 
@@ -73,7 +75,7 @@ QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
 {
     const QJsonObject row = store().rowNamed(mac);
     QVariantMap detail = row.toVariantMap();
-    const AccountChoice::Chosen chosen = m_accounts.of(row);
+    const AccountChoice::Chosen chosen = m_logins->accounts().of(row);
     if (chosen.source == AccountChoice::Source::Stored)
         detail.insert(DeviceRowKey::username, chosen.account.account);
     detail.remove(DeviceRowKey::password); // details are shown and handed on
@@ -117,4 +119,14 @@ void CDeviceDH::setBatchDeleteDevice(const QVariantMap &macs, const QString &ipv
     else
         store().removeRows(deleted);
     Q_EMIT signalCDeviceAddSingleDeviceToTable();
+}
+
+QVariantList CDeviceDH::filterData(const QString &filtertype, const QString &searchtext)
+{
+    return filteredRows(store().ipv4Rows(), filtertype, searchtext, RowFamily::IPv4);
+}
+
+QVariantList CDeviceDH::filterDataIPV6(const QString &filtertype, const QString &searchtext)
+{
+    return filteredRows(store().ipv6Rows(), filtertype, searchtext, RowFamily::IPv6);
 }

@@ -1,33 +1,32 @@
 // The current session.
 #include "device/batch/batchplan.h"
 #include "device/dh/devicedh.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/logindetail.h"
 #include "device/dh/session/securelogin.h"
 #include "device/dh/session/sessionoffer.h"
+#include "device/dh/session/sessionthreads.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "sdk/netlibrary.h"
 
-#include <QPointer>
-#include <QThread>
+#include <utility>
+
+namespace {
 
 /// A login of a live view beside the current session. The end of the back end logs out as well.
-class CDeviceDH::LiveLogin final : public OwnSession
+class LiveLogin final : public OwnSession
 {
 public:
-    LiveLogin(CDeviceDH &backEnd, const SecureLogin &login)
-        : m_backEnd(&backEnd), m_handle(login.handle), m_channelCount(login.channelCount)
+    LiveLogin(std::weak_ptr<SessionThreads> threads, const SecureLogin &login)
+        : m_threads(std::move(threads)), m_handle(login.handle), m_channelCount(login.channelCount)
     {
     }
 
     ~LiveLogin() override
     {
-        if (!m_backEnd)
-            return;
-        if (QThread::currentThread() == m_backEnd->thread())
-            m_backEnd->logOutLater({m_handle});
-        else // of the back end's own, whose end waits for it
-            m_backEnd->m_libraries.net->NetLogout(m_handle);
+        if (const std::shared_ptr<SessionThreads> threads = m_threads.lock())
+            threads->logOut(m_handle);
     }
 
     [[nodiscard]] qint64 handle() const override { return m_handle; }
@@ -40,10 +39,12 @@ public:
     }
 
 private:
-    const QPointer<CDeviceDH> m_backEnd;
+    const std::weak_ptr<SessionThreads> m_threads;
     const std::int64_t m_handle;
     const int m_channelCount;
 };
+
+} // namespace
 
 int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account, const QString &password)
 {
@@ -54,20 +55,6 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
     return outcome.value.toInt();
 }
 
-SecureLogin CDeviceDH::logIn(const QString &ipport, const DeviceAccount &account) const
-{
-    SecureLogin login = secureLogin(m_libraries.net.get(), ipport, account.account, account.password);
-    noteLogin(ipport, login.result);
-    return login;
-}
-
-void CDeviceDH::noteLogin(const QString &ipport, LoginResult result) const
-{
-    const bool isIn = result == LoginResult::Success;
-    if (store().rowAt(ipport).value(DeviceRowKey::loggedIn).toBool() != isIn)
-        store().changeRowAt(ipport, [isIn](QJsonObject &row) { row.insert(DeviceRowKey::loggedIn, isIn); });
-}
-
 SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
     return [this, ipport, account, password](const StepControl &control) {
@@ -75,7 +62,7 @@ SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, co
         if (control.isStopped())
             return SceneOutcome();
         const auto login = std::make_shared<UntakenLogin>(
-            m_libraries.net, logIn(ipport, {.account = account, .password = password}));
+            m_libraries.net, m_logins->logIn(ipport, {.account = account, .password = password}));
         const int result = resultCode(login->result());
         return SceneOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
                                 if (login->result() == LoginResult::Success)
@@ -96,23 +83,14 @@ BatchEngine::Hold CDeviceDH::holdDevice(const QString &ipport, const StepControl
 void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
                             const std::function<void(const SceneOutcome &outcome)> &ended)
 {
-    m_sessionThreads.start([this, step, stop, ended] {
-        if (stop.stop_requested())
-            return;
-        const SceneOutcome outcome = step(StepControl(stop, nullptr, {}, {}));
-        if (stop.stop_requested())
-            return;
-        // Behind the signals that the step has emitted on this thread. Dropped with this object.
-        QMetaObject::invokeMethod(
-            this, [ended, outcome] { ended(outcome); }, Qt::QueuedConnection);
-    });
+    m_threads->runForScene(step, stop, ended);
 }
 
 int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const QString &password)
 {
     if (isUpgradingAt(ipport)) // what follows the check would come between the device and its firmware
         return resultCode(LoginResult::Upgrading);
-    const SecureLogin login = logIn(ipport, {.account = account, .password = password});
+    const SecureLogin login = m_logins->logIn(ipport, {.account = account, .password = password});
     if (login.handle != 0)
         m_libraries.net->NetLogout(login.handle);
     // A device that waits for its first password takes no login and does not say why. Only what it refuses is
@@ -130,34 +108,34 @@ QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
 
 SceneStep CDeviceDH::detailStep(const QString &ipport)
 {
-    return
-        [this, libraries = m_libraries, ipport, known = credentialsOf(ipport)](const StepControl &control) {
-            const BatchEngine::Hold hold = holdDevice(ipport, control);
-            if (control.isStopped())
-                return SceneOutcome();
-            const SecureLogin login = logIn(ipport, known);
-            QVariantMap detail;
-            if (login.handle != 0) {
-                if (!control.shouldEnd())
-                    detail = loginDetail(ConfigSession(libraries, login.handle));
-                libraries.net->NetLogout(login.handle);
-            }
-            detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
-            // A row that a search has listed without a MAC gets it, and keeps its name.
-            const auto takeMac = [this, ipport, mac = detail.value(DeviceRowKey::mac).toString()] {
-                if (mac.isEmpty() || !store().row(mac).isEmpty())
-                    return;
-                bool isChanged = false;
-                store().changeRowAt(ipport, [&](QJsonObject &row) {
-                    isChanged = row.value(DeviceRowKey::mac) == QString();
-                    if (isChanged)
-                        row.insert(DeviceRowKey::mac, mac);
-                });
+    return [this, libraries = m_libraries, ipport,
+            known = m_logins->accountAt(ipport)](const StepControl &control) {
+        const BatchEngine::Hold hold = holdDevice(ipport, control);
+        if (control.isStopped())
+            return SceneOutcome();
+        const SecureLogin login = m_logins->logIn(ipport, known);
+        QVariantMap detail;
+        if (login.handle != 0) {
+            if (!control.shouldEnd())
+                detail = loginDetail(ConfigSession(libraries, login.handle));
+            libraries.net->NetLogout(login.handle);
+        }
+        detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
+        // A row that a search has listed without a MAC gets it, and keeps its name.
+        const auto takeMac = [this, ipport, mac = detail.value(DeviceRowKey::mac).toString()] {
+            if (mac.isEmpty() || !store().row(mac).isEmpty())
+                return;
+            bool isChanged = false;
+            store().changeRowAt(ipport, [&](QJsonObject &row) {
+                isChanged = row.value(DeviceRowKey::mac) == QString();
                 if (isChanged)
-                    Q_EMIT signalCDeviceAddSingleDeviceToTable();
-            };
-            return SceneOutcome{.value = detail, .take = takeMac};
+                    row.insert(DeviceRowKey::mac, mac);
+            });
+            if (isChanged)
+                Q_EMIT signalCDeviceAddSingleDeviceToTable();
         };
+        return SceneOutcome{.value = detail, .take = takeMac};
+    };
 }
 
 OwnSessionStep CDeviceDH::ownSessionStep(const OwnSessionOrder &order)
@@ -174,7 +152,7 @@ OwnSessionStep CDeviceDH::ownSessionStep(const OwnSessionOrder &order)
                                        .readsChannels = !present});
         OwnSessionOffer made = {.result = resultCode(offer.result), .channels = offer.channels};
         if (offer.login.handle != 0)
-            made.session = std::make_shared<LiveLogin>(*this, offer.login);
+            made.session = std::make_shared<LiveLogin>(m_threads, offer.login);
         else if (offer.result == LoginResult::Success)
             made.session = present;
         return made;
@@ -194,7 +172,7 @@ void CDeviceDH::openSession(const QString &ipport, const QString &account, const
                                               password != m_session.password,
                                 .readsChannels = readsChannels};
     const SessionRequest request = {.number = ++m_sessionRequest, .sessionBefore = m_session.handle};
-    m_sessionThreads.start([this, order, request, libraries = m_libraries] {
+    m_threads->start([this, order, request, libraries = m_libraries] {
         if (request.number != m_sessionRequest)
             return; // it has waited for a thread so long that nobody waits for it any more
         const SessionOffer offer = offerSession(libraries, order);
@@ -216,7 +194,7 @@ bool CDeviceDH::isInSession(const QString &ipport)
 
 void CDeviceDH::checkSession()
 {
-    m_sessionThreads.start([this, handle = m_session.handle, libraries = m_libraries] {
+    m_threads->start([this, handle = m_session.handle, libraries = m_libraries] {
         const bool answers = handle != 0 && answersInSession(ConfigSession(libraries, handle));
         QMetaObject::invokeMethod(
             this, [this, answers] { Q_EMIT signalCDeviceSessionChecked(answers); }, Qt::QueuedConnection);
@@ -235,7 +213,7 @@ void CDeviceDH::takeOffer(const SessionRequest &request, const SessionOrder &ord
             openSession(order.ipport, order.account, order.password, order.readsChannels, false);
         return;
     }
-    noteLogin(order.ipport, offer.result);
+    m_logins->note(order.ipport, offer.result);
     if (offer.login.handle != 0)
         beginSession(order.ipport, order.account, order.password, offer.login);
     if (offer.login.handle != 0 || offer.result != LoginResult::Success)
@@ -257,17 +235,7 @@ void CDeviceDH::beginSession(const QString &ipport, const QString &account, cons
     m_loginHandle = login.handle; // before the other is logged out: snapshots go on in the new session
     m_state->begin(ConfigSession(m_libraries, login.handle), ipport, login.channelCount);
     if (before != 0)
-        logOutLater({before});
-}
-
-void CDeviceDH::logOutLater(const QList<std::int64_t> &handles)
-{
-    if (handles.isEmpty())
-        return;
-    m_sessionThreads.start([net = m_libraries.net, handles] {
-        for (const std::int64_t handle : handles)
-            net->NetLogout(handle);
-    });
+        m_threads->logOutLater({before});
 }
 
 void CDeviceDH::endSession()

@@ -1,11 +1,12 @@
 // Firmware upgrades of the devices of rows, and of those of documents.
 #include "device/batch/batchplan.h"
 #include "device/dh/devicedh.h"
-#include "device/dh/lists/devicelistfile.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/dh/upgrade/firmwarefile.h"
 #include "device/dh/upgrade/upgraderunner.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
+#include "device/registry/localpath.h"
 #include "device/registry/logging.h"
 #include "sdk/threadpriority.h"
 
@@ -85,7 +86,7 @@ void CDeviceDH::startUpgrade(const QStringList &macs)
         else
             m_upgrades->start(upgradeOrder(row));
     }
-    noteChangedRows();
+    m_signals.noteChangedRows();
 }
 
 DeviceStep CDeviceDH::upgradeStep(const QString &mac)
@@ -96,7 +97,7 @@ DeviceStep CDeviceDH::upgradeStep(const QString &mac)
             return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = words};
         };
     }
-    noteChangedRows();
+    m_signals.noteChangedRows();
     return m_upgrades->step(row.isEmpty() ? m_rowlessOrders.value(mac) : upgradeOrder(row));
 }
 
@@ -150,18 +151,6 @@ bool CDeviceDH::isUpgradingAt(const QString &ipport) const
                        [this](const QString &name) { return m_upgrades->isUpgrading(name); });
 }
 
-void CDeviceDH::noteChangedRows()
-{
-    if (!m_changedRowsNoted.exchange(true))
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                m_changedRowsNoted = false;
-                Q_EMIT signalCDeviceAddSingleDeviceToTable();
-            },
-            Qt::QueuedConnection);
-}
-
 bool CDeviceDH::hasDeviceUpgrading()
 {
     return m_upgrades->isUpgrading() || m_upgradeDocuments.hasOpen();
@@ -184,7 +173,7 @@ UpgradeOrder CDeviceDH::upgradeOrder(const QJsonObject &row) const
 
 DeviceAccount CDeviceDH::upgradeCredentials(const QJsonObject &row) const
 {
-    DeviceAccount usual = credentialsOf(row);
+    DeviceAccount usual = m_logins->accountOf(row);
     const auto known = m_documentAccounts.constFind(rowName(row));
     if (known == m_documentAccounts.cend() || known->usual != usual)
         return usual;
@@ -206,7 +195,7 @@ UpgradeOrder CDeviceDH::upgradeOrder(const UpgradeDocumentLine &line, const QJso
     if (order.key.isEmpty())
         order.key = line.ipport;
     order.device = workKey(store().rowAt(line.ipport), line.ipport, order.key);
-    const DeviceAccount usual = credentialsOf(row);
+    const DeviceAccount usual = m_logins->accountOf(row);
     order.account = line.user.isEmpty() ? usual.account : line.user;
     order.password = line.user.isEmpty() && line.password.isEmpty() ? usual.password : line.password;
     return order;
@@ -272,8 +261,8 @@ UpgradeTools::Result CDeviceDH::followLine(const UpgradeDocumentLine &line, cons
     if (order.row.isEmpty())
         m_rowlessOrders.insert(order.key, order);
     else
-        m_documentAccounts.insert(order.row,
-                                  {.used = {order.account, order.password}, .usual = credentialsOf(row)});
+        m_documentAccounts.insert(
+            order.row, {.used = {order.account, order.password}, .usual = m_logins->accountOf(row)});
     store().changeRowNamed(
         order.row, [&order](QJsonObject &changed) { changed.insert(DeviceRowKey::filepath, order.file); });
     return UpgradeTools::None;
@@ -326,7 +315,7 @@ QList<UpgradeDocumentStep> CDeviceDH::upgradeDocumentSteps(const QString &path, 
 void CDeviceDH::noteDocumentsBegun()
 {
     noteUpgradeDocuments();
-    noteChangedRows();
+    m_signals.noteChangedRows();
     if (!m_upgrades->isUpgrading()) // no line could be upgraded
         QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeRoundEnd, Qt::QueuedConnection);
 }
@@ -363,7 +352,7 @@ void CDeviceDH::noteUpgrade(const UpgradeOrder &order, const UpgradeState &state
     }
     noteSchedule();
     if (!UpgradeTools::isRunning(state.result))
-        noteChangedRows();
+        m_signals.noteChangedRows();
 }
 
 QStringList CDeviceDH::takeChangedUpgrades()

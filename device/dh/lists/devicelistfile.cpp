@@ -10,7 +10,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -111,12 +110,6 @@ DeviceListContents refusal(const QString &reason)
 }
 
 } // namespace
-
-QString localPath(const QString &path)
-{
-    const QUrl url(path);
-    return url.isLocalFile() ? url.toLocalFile() : path;
-}
 
 bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines)
 {

@@ -3,9 +3,6 @@
 
 #include "device/dh/lists/devicelistline.h"
 
-/// The path that the scene means by a path or a "file:///" address.
-[[nodiscard]] QString localPath(const QString &path);
-
 /// Writes the list to a file: ".xlsx" a workbook, ".csv" comma-separated text, anything else XML. The file is
 /// replaced as a whole; on failure it is as it was, the log says why, and false is returned.
 [[nodiscard]] bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines);

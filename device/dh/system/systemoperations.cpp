@@ -1,6 +1,7 @@
-// System configuration: one maintenance action on each device of a list.
-#include "device/dh/devicedh.h"
-#include "device/dh/session/securelogin.h"
+#include "device/dh/system/systemoperations.h"
+
+#include "device/dh/logins/devicelogins.h"
+#include "device/dh/session/sessionthreads.h"
 #include "device/dh/system/deviceclock.h"
 #include "device/dh/system/systemaction.h"
 #include "device/registry/devicerow.h"
@@ -11,7 +12,7 @@
 
 #include <QDateTime>
 
-#include <functional>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -51,42 +52,36 @@ QString reasonOf(std::uint32_t libraryError)
 
 } // namespace
 
-StepOutcome CDeviceDH::inLogin(const QString &ipport, const DeviceAccount &account,
-                               const StepControl &control,
-                               const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const
+SystemOperations::SystemOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
+                                   const DeviceLogins &logins, SessionThreads &threads,
+                                   UpgradeCheck isUpgradingAt, BackEndSignals &backEndSignals)
+    : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins), m_threads(threads),
+      m_isUpgradingAt(std::move(isUpgradingAt)), m_signals(backEndSignals), m_keptLogins(m_libraries.net)
 {
-    const SecureLogin login = logIn(ipport, account);
-    if (login.result != LoginResult::Success)
-        return {.result = resultCode(login.result), .text = {}};
-    StepOutcome outcome = {.result = resultCode(LoginResult::NotDone), .text = {}};
-    if (!control.shouldEnd())
-        outcome = work(login.handle);
-    m_libraries.net->NetLogout(login.handle);
-    return outcome;
 }
 
-void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports)
+void SystemOperations::run(const QString &command, const QVariantMap &data, const QStringList &ipports)
 {
     if (command == QLatin1String("cancelLogin")) {
-        logOutLater(m_keptLogins.takeAll());
+        m_threads.logOutLater(m_keptLogins.takeAll());
         return;
     }
     bool hasPassed = false;
     for (const QString &ipport : ipports) {
         if (command == QLatin1String("modifyPassword") && !m_keptLogins.find(ipport))
             continue;
-        const int result = systemStep(command, data, ipport)(StepControl()).result;
+        const int result = step(command, data, ipport)(StepControl()).result;
         hasPassed = hasPassed || result == waitsForNewPassword;
-        Q_EMIT signalCDeviceRetToSystemConfig(ipport, result);
+        m_signals.emitNow(&CDeviceBase::signalCDeviceRetToSystemConfig, ipport, result);
     }
     if (hasPassed)
-        Q_EMIT signalCDeviceSystemConfigEnablePassword();
+        m_signals.emitNow(&CDeviceBase::signalCDeviceSystemConfigEnablePassword);
 }
 
-DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data, const QString &ipport)
+DeviceStep SystemOperations::step(const QString &command, const QVariantMap &data, const QString &ipport)
 {
     const QString password = data.value(QStringLiteral("password")).toString();
-    const DeviceAccount credentials = credentialsOf(ipport);
+    const DeviceAccount credentials = m_logins.accountAt(ipport);
     DeviceStep perform;
     if (command == QLatin1String("loginCheck"))
         perform = [this, ipport, account = credentials.account, password](const StepControl &) {
@@ -106,16 +101,17 @@ DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data
         };
     return [this, ipport, perform](const StepControl &control) {
         // Nothing comes between a device and its firmware.
-        if (isUpgradingAt(ipport))
+        if (m_isUpgradingAt(ipport))
             return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
         return perform(control);
     };
 }
 
-StepOutcome CDeviceDH::performOn(const QString &ipport, const DeviceAccount &credentials,
-                                 const QString &command, const QVariantMap &data, const StepControl &control)
+StepOutcome SystemOperations::performOn(const QString &ipport, const DeviceAccount &credentials,
+                                        const QString &command, const QVariantMap &data,
+                                        const StepControl &control)
 {
-    return inLogin(ipport, credentials, control, [&](sdk::LLONG loginHandle) {
+    return m_logins.inLogin(ipport, credentials, control, [&](sdk::LLONG loginHandle) {
         QVariantMap values = data;
         if (data.value(QStringLiteral("timeOfRequest")).toBool())
             values.insert(QStringLiteral("time"),
@@ -135,11 +131,11 @@ StepOutcome CDeviceDH::performOn(const QString &ipport, const DeviceAccount &cre
     });
 }
 
-StepOutcome CDeviceDH::readClock(const QString &ipport, const DeviceAccount &credentials,
-                                 const StepControl &control)
+StepOutcome SystemOperations::readClock(const QString &ipport, const DeviceAccount &credentials,
+                                        const StepControl &control)
 {
     sdk::NetLibrary &net = *m_libraries.net;
-    return inLogin(ipport, credentials, control, [&net](sdk::LLONG loginHandle) {
+    return m_logins.inLogin(ipport, credentials, control, [&net](sdk::LLONG loginHandle) {
         StepOutcome outcome = {.result = resultCode(LoginResult::Success), .text = {}};
         std::uint32_t error = 0;
         if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle, error)) {
@@ -153,17 +149,17 @@ StepOutcome CDeviceDH::readClock(const QString &ipport, const DeviceAccount &cre
     });
 }
 
-int CDeviceDH::checkPassword(const QString &ipport, const QString &account, const QString &password)
+int SystemOperations::checkPassword(const QString &ipport, const QString &account, const QString &password)
 {
     m_keptLogins.letGo(ipport);
-    const SecureLogin login = logIn(ipport, {.account = account, .password = password});
+    const SecureLogin login = m_logins.logIn(ipport, {.account = account, .password = password});
     if (login.result != LoginResult::Success)
         return resultCode(login.result);
     m_keptLogins.keep(ipport, {.loginHandle = login.handle, .account = account, .password = password});
     return waitsForNewPassword;
 }
 
-StepOutcome CDeviceDH::modifyPassword(const QString &ipport, const QString &newPassword)
+StepOutcome SystemOperations::modifyPassword(const QString &ipport, const QString &newPassword)
 {
     const std::optional<KeptLogin> login = m_keptLogins.find(ipport);
     if (!login)
@@ -176,19 +172,9 @@ StepOutcome CDeviceDH::modifyPassword(const QString &ipport, const QString &newP
         return outcome;
     }
     m_keptLogins.setPassword(ipport, newPassword);
-    store().changeRowAt(ipport, [&](QJsonObject &row) {
+    m_store->changeRowAt(ipport, [&](QJsonObject &row) {
         row.insert(DeviceRowKey::username, login->account);
         row.insert(DeviceRowKey::password, newPassword);
     });
     return {};
-}
-
-DeviceAccount CDeviceDH::credentialsOf(const QString &ipport) const
-{
-    return credentialsOf(store().rowAt(ipport));
-}
-
-DeviceAccount CDeviceDH::credentialsOf(const QJsonObject &row) const
-{
-    return m_accounts.of(row).account;
 }

@@ -1,9 +1,11 @@
-// Device lists: exporting devices to a file, and logging in to those of a file.
-#include "device/dh/devicedh.h"
+#include "device/dh/lists/devicelists.h"
+
 #include "device/dh/lists/devicelistfile.h"
 #include "device/dh/lists/devicelistimport.h"
 #include "device/dh/lists/devicelistvalues.h"
+#include "device/dh/logins/devicelogins.h"
 #include "device/registry/devicestore.h"
+#include "device/registry/localpath.h"
 #include "device/registry/logging.h"
 
 #include <QCoreApplication>
@@ -36,32 +38,39 @@ QVariantMap faultMap(const DeviceListLine &line, const UnreadableText &fault)
                        .arg(namedCharacter(fault.character))}};
 }
 
-} // namespace
-
 /// The stored accounts of devices are the user's own: their passwords do not leave the program.
-DeviceAccount CDeviceDH::listedAccount(const QJsonObject &row) const
+DeviceAccount listedAccount(const AccountChoice &accounts, const QJsonObject &row)
 {
-    AccountChoice::Chosen chosen = m_accounts.of(row);
+    AccountChoice::Chosen chosen = accounts.of(row);
     if (chosen.source == AccountChoice::Source::Stored)
         chosen.account.password.clear();
     return chosen.account;
 }
 
-bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, const QString &fileName)
+} // namespace
+
+DeviceLists::DeviceLists(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
+                         const DeviceLogins &logins, BackEndSignals &backEndSignals)
+    : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins),
+      m_signals(backEndSignals)
+{
+}
+
+bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, const QString &fileName)
 {
     std::vector<DeviceListLine> lines;
     lines.reserve(static_cast<std::size_t>(macs.size()));
     for (const QString &mac : macs) {
-        const ListedDevice device = {.row = store().row(mac), .record = store().record(mac)};
+        const ListedDevice device = {.row = m_store->row(mac), .record = m_store->record(mac)};
         // It has left the table since it was ticked. The others are worth having without it.
         if (device.row.isEmpty() && !device.record) {
-            qCWarning(logDevice) << "CDeviceDH::exportDevice: there is no device" << mac;
+            qCWarning(logDevice) << "DeviceLists::exportDevices: there is no device" << mac;
             continue;
         }
-        lines.push_back(listLineOf(device, listedAccount(device.row)));
+        lines.push_back(listLineOf(device, listedAccount(m_logins.accounts(), device.row)));
     }
     m_exportFaults.clear();
-    // A file without a device would tell the user that the export went well.
+    // A file without a device would look like an export that went well.
     if (lines.empty() || !writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines))
         return false;
     for (const UnreadableText &fault : unreadableTexts(fileName, lines))
@@ -69,12 +78,7 @@ bool CDeviceDH::exportDevice(const QString &folder, const QStringList &macs, con
     return true;
 }
 
-QVariantList CDeviceDH::exportFaults()
-{
-    return m_exportFaults;
-}
-
-ImportPlan CDeviceDH::importPlan(const QString &path)
+ImportPlan DeviceLists::importPlan(const QString &path, P2PPorts *ports) const
 {
     DeviceListContents contents = readDeviceList(localPath(path));
     const QString refusal =
@@ -83,17 +87,16 @@ ImportPlan CDeviceDH::importPlan(const QString &path)
         return {.refusal = refusal, .lines = {}};
     return {.refusal = {},
             .lines = DeviceListImport::plan(std::make_shared<DeviceListImport>(
-                RowAdding(store(), m_libraries, p2pPorts()), std::move(contents.lines)))};
+                RowAdding(*m_store, m_libraries, ports), std::move(contents.lines)))};
 }
 
-bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)
+QString DeviceLists::importDevices(const QString &path, P2PPorts *ports, ImportSummary &summary)
 {
     summary = {};
     m_importFailures.clear();
-    const ImportPlan plan = importPlan(path);
-    m_importError = plan.refusal;
-    if (!m_importError.isEmpty())
-        return false;
+    const ImportPlan plan = importPlan(path, ports);
+    if (!plan.refusal.isEmpty())
+        return plan.refusal;
     const int total = static_cast<int>(plan.lines.size());
     for (const ImportLine &line : plan.lines) {
         const StepOutcome outcome = line.step(StepControl());
@@ -102,20 +105,10 @@ bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)
             ++summary.errcount;
             m_importFailures.append(importFailure(line.place, outcome));
         }
-        Q_EMIT signalCDeviceImportProgress(summary.total, total);
+        m_signals.emitNow(&CDeviceBase::signalCDeviceImportProgress, summary.total, total);
     }
-    // Told together: a page reads the whole table again each time.
+    // Reported together: a page reads the whole table again each time.
     if (summary.errcount < total)
-        Q_EMIT signalCDeviceAddSingleDeviceToTable();
-    return true;
-}
-
-QVariantList CDeviceDH::importFailures()
-{
-    return m_importFailures;
-}
-
-QString CDeviceDH::importError()
-{
-    return m_importError;
+        m_signals.emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
+    return {};
 }
