@@ -5,7 +5,10 @@
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/sessionthreads.h"
 #include "device/dh/system/systemoperations.h"
-#include "device/dh/upgrade/upgraderunner.h"
+#include "device/dh/upgrade/documentupgrades.h"
+#include "device/dh/upgrade/rowupgrades.h"
+#include "device/dh/upgrade/upgradeorders.h"
+#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/logging.h"
@@ -31,24 +34,18 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_engine(engine ? std::move(engine) : std::make_shared<BatchEngine>(m_libraries.clock)),
       m_logins(std::make_unique<DeviceLogins>(store, m_libraries)),
       m_threads(std::make_shared<SessionThreads>(m_libraries.net, m_signals)),
+      m_upgrades(std::make_unique<UpgradeRound>(store, m_libraries, upgradeLimits, m_engine, m_signals)),
+      m_upgradeOrders(std::make_unique<UpgradeOrders>(store, *m_logins)),
+      m_rowUpgrades(std::make_unique<RowUpgrades>(store, *m_upgrades, *m_upgradeOrders, m_signals)),
+      m_documentUpgrades(std::make_unique<DocumentUpgrades>(store, *m_upgrades, *m_upgradeOrders)),
       m_lists(std::make_unique<DeviceLists>(store, m_libraries, *m_logins, m_signals)),
       m_system(std::make_unique<SystemOperations>(
           store, m_libraries, *m_logins, *m_threads,
-          [this](const QString &ipport) { return isUpgradingAt(ipport); }, m_signals)),
+          [this](const QString &ipport) { return m_upgrades->isUpgradingAt(ipport); }, m_signals)),
       m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
                                                   m_signals)),
-      m_state(std::make_shared<SessionState>(m_tables)),
-      m_upgrades(std::make_unique<UpgradeRunner>(
-          m_libraries, upgradeLimits, m_engine,
-          UpgradeRunner::Watchers{.changed = [this](const UpgradeOrder &order,
-                                                    const UpgradeState &state) { noteUpgrade(order, state); },
-                                  .roundEnded =
-                                      [this] {
-                                          QMetaObject::invokeMethod(this, &CDeviceDH::noteUpgradeRoundEnd,
-                                                                    Qt::QueuedConnection);
-                                      }}))
+      m_state(std::make_shared<SessionState>(m_tables))
 {
-    m_documentFiles.setMaxThreadCount(1);
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
 
@@ -75,7 +72,7 @@ CDeviceDH::~CDeviceDH()
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
     m_engine->end();
     m_threads->waitForDone();
-    m_documentFiles.waitForDone();
+    m_upgrades->waitForDocuments();
     m_search.reset();
 }
 
@@ -90,8 +87,8 @@ void CDeviceDH::factoryEnds()
     m_engine->requestEnd();
     m_snapshots.reset();
     m_upgrades->end();
-    noteUpgradeDocuments();
-    m_documentFiles.waitForDone();
+    m_upgrades->noteDocuments();
+    m_upgrades->waitForDocuments();
 }
 
 void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort, void *)
@@ -202,4 +199,90 @@ void CDeviceDH::systemConfig(const QString &command, const QVariantMap &data, co
 DeviceStep CDeviceDH::systemStep(const QString &command, const QVariantMap &data, const QString &ipport)
 {
     return m_system->step(command, data, ipport);
+}
+
+void CDeviceDH::setUpgradeFilePath(const QString &mac, const QString &path)
+{
+    m_rowUpgrades->setFiles({mac}, path);
+}
+
+QList<int> CDeviceDH::setUpgradeFiles(const QStringList &macs, const QString &path)
+{
+    return m_rowUpgrades->setFiles(macs, path);
+}
+
+void CDeviceDH::startUpgrade(const QStringList &macs)
+{
+    m_rowUpgrades->start(macs);
+}
+
+DeviceStep CDeviceDH::upgradeStep(const QString &mac)
+{
+    return m_rowUpgrades->step(mac);
+}
+
+DeviceStep CDeviceDH::repeatedDocumentStep(const QString &mac)
+{
+    return m_rowUpgrades->repeatedDocumentStep(mac);
+}
+
+QList<PlannedUpgrade> CDeviceDH::plannedUpgrades(const QStringList &macs)
+{
+    return m_rowUpgrades->planned(macs);
+}
+
+QStringList CDeviceDH::upgradesToRetry()
+{
+    return m_rowUpgrades->toRetry();
+}
+
+QStringList CDeviceDH::takeChangedUpgrades()
+{
+    return m_upgrades->takeChanged();
+}
+
+void CDeviceDH::stopUpgrade(const QString &mac)
+{
+    m_upgrades->runner().stop(mac);
+}
+
+bool CDeviceDH::hasDeviceUpgrading()
+{
+    return m_upgrades->isOpen();
+}
+
+QVariantList CDeviceDH::importUpgradeDocument(const QString &file)
+{
+    return m_documentUpgrades->report(file, m_importError);
+}
+
+SceneStep CDeviceDH::upgradeDocumentReading(const QString &path)
+{
+    return m_documentUpgrades->reading(path);
+}
+
+void CDeviceDH::startUpgradeByDocument(const QStringList &paths)
+{
+    m_documentUpgrades->start(paths);
+}
+
+QList<UpgradeDocumentStep> CDeviceDH::upgradeDocumentSteps(const QString &path, const QList<int> &lines)
+{
+    return m_documentUpgrades->steps(path, lines);
+}
+
+QString CDeviceDH::upgradeDocumentResult()
+{
+    return m_upgrades->documents().resultText().trimmed();
+}
+
+QVariantMap CDeviceDH::upgradeDocumentProgress()
+{
+    const UpgradeDocuments::Progress progress = m_upgrades->documents().progress();
+    return {{QStringLiteral("done"), progress.done}, {QStringLiteral("total"), progress.total}};
+}
+
+int CDeviceDH::upgradeDocumentSuccesses()
+{
+    return m_upgrades->documents().succeeded();
 }

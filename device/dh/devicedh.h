@@ -6,7 +6,6 @@
 #include "device/dh/configuration/sessionstate.h"
 #include "device/dh/encode/valuetables.h"
 #include "device/dh/search/searchoperations.h"
-#include "device/dh/upgrade/upgradedocuments.h"
 #include "device/dh/upgrade/upgradework.h"
 #include "device/registry/backendsignals.h"
 #include "device/registry/devicebase.h"
@@ -23,13 +22,14 @@
 
 class DeviceLists;
 class DeviceLogins;
-class FirmwareFiles;
+class DocumentUpgrades;
 class SessionThreads;
 class SystemOperations;
-struct FirmwareFile;
 class SnapThread;
 struct SnapTask;
-class UpgradeRunner;
+class RowUpgrades;
+class UpgradeOrders;
+class UpgradeRound;
 struct SecureLogin;
 struct SessionOffer;
 struct SessionOrder;
@@ -205,47 +205,17 @@ private:
         std::int64_t sessionBefore = 0; ///< handle of the session that there was
     };
 
-    /// What a document has logged in to a device with, and what would have been used without it.
-    struct DocumentAccount
-    {
-        DeviceAccount used;
-        DeviceAccount usual;
-    };
-
     void beginSession(const QString &ipport, const QString &account, const QString &password,
                       const SecureLogin &login);
     void endSession();
     void takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer);
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
-    [[nodiscard]] UpgradeOrder upgradeOrder(const QJsonObject &row) const;
-    [[nodiscard]] UpgradeOrder upgradeOrder(const UpgradeDocumentLine &line, const QJsonObject &row) const;
-    /// The account of a document again, unless the device has refused it or the user has given another since.
-    [[nodiscard]] DeviceAccount upgradeCredentials(const QJsonObject &row) const;
-    [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress() const;
-    /// Returns what speaks against the upgrade of the row's device.
-    UpgradeTools::Result setUpgradeFile(const QString &mac, const QString &file,
-                                        const FirmwareFile &firmware);
-    /// Adds a document, and returns its lines, which are followed then; none if it is refused.
-    [[nodiscard]] std::vector<UpgradeDocumentLine> addUpgradeDocument(const QString &path);
-    /// Follows a line of the document that was added last. Returns why it is not upgraded, None when it is.
-    [[nodiscard]] UpgradeTools::Result followLine(const UpgradeDocumentLine &line, const UpgradeOrder &order,
-                                                  const QJsonObject &row, FirmwareFiles &files);
-    /// Emits the signals that follow the begin of a document's lines.
-    void noteDocumentsBegun();
-    void noteUpgrade(const UpgradeOrder &order, const UpgradeState &state);
-    /// Says how far the upgrades are, once however often it is called before. On any thread.
-    void noteSchedule();
-    void noteUpgradeDocuments();
-    [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
     /// Takes the pictures of an order in a login.
     [[nodiscard]] OwnPicture takeOwnPicture(std::int64_t handle, int channelCount, int channel,
                                             const QString &folder, const StepControl &control) const;
     [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
                                            const StepControl &control) const;
-    void noteUpgradeRoundEnd();
-    /// Writes a document of upgrades, see UpgradeDocuments::Writer.
-    void writeDocument(const std::function<void()> &write, const std::function<void()> &written);
     /// Of one channel, or of all for -1.
     [[nodiscard]] SnapTask snapTask(const QString &kind, int onlyChannel, const QString &address) const;
     /// Any thread.
@@ -281,6 +251,10 @@ private:
     BackEndSignals m_signals{*this};
     const std::unique_ptr<DeviceLogins> m_logins;
     const std::shared_ptr<SessionThreads> m_threads; ///< ends with this object
+    const std::unique_ptr<UpgradeRound> m_upgrades;
+    const std::unique_ptr<UpgradeOrders> m_upgradeOrders;
+    const std::unique_ptr<RowUpgrades> m_rowUpgrades;
+    const std::unique_ptr<DocumentUpgrades> m_documentUpgrades;
     const std::unique_ptr<DeviceLists> m_lists;
     const std::unique_ptr<SystemOperations> m_system;
     std::unique_ptr<SearchOperations> m_search;
@@ -290,18 +264,5 @@ private:
     std::atomic<std::int64_t> m_loginHandle = 0; ///< of the session, for other threads
     std::shared_ptr<SessionState> m_state;       ///< never null; on the scene's thread
     std::unique_ptr<SnapThread> m_snapshots;     ///< null until the first snapshot
-    QThreadPool m_documentFiles;                 ///< one thread, which writes documents of upgrades
-    UpgradeDocuments m_upgradeDocuments{
-        [this](const std::function<void()> &write, const std::function<void()> &written) {
-            writeDocument(write, written);
-        }};
-    std::shared_ptr<OpenedUpgradeDocument> m_openedDocument; ///< read and not upgraded; may be null
-    bool m_isRoundEndUntold = false;                         ///< documents of the round are still written
-    QHash<QString, DocumentAccount> m_documentAccounts;      ///< by the name of the row
-    QHash<QString, UpgradeOrder> m_rowlessOrders;            ///< of lines without a row, by address and port
-    QSet<QString> m_changedUpgrades;                         ///< names of rows; any thread
-    std::mutex m_changedUpgradesMutex;
-    std::atomic<bool> m_scheduleNoted = false;
-    std::unique_ptr<UpgradeRunner> m_upgrades; ///< its threads tell the documents
     QString m_importError;
 };

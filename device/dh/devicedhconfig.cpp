@@ -1,5 +1,6 @@
 // The configuration pages: the operations, on the scene's thread and on any other.
 #include "device/dh/devicedh.h"
+#include "device/dh/upgrade/upgraderound.h"
 
 void CDeviceDH::perform(const std::function<void(SessionRun &run)> &operations)
 {
@@ -17,7 +18,7 @@ void CDeviceDH::tell(const std::vector<SessionRun::News> &news)
 std::function<bool()> CDeviceDH::upgradeCheck(const QString &ipport) const
 {
     return [this, ipport] {
-        return isUpgradingAt(ipport);
+        return m_upgrades->isUpgradingAt(ipport);
     };
 }
 

@@ -4,6 +4,7 @@
 #include "device/dh/encode/encodecopy.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/securelogin.h"
+#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "sdk/netlibrary.h"
@@ -28,7 +29,7 @@ DeviceStepMaker CDeviceDH::encodeCopy()
         return [this, ipport, state, channels,
                 credentials = m_logins->accountAt(ipport)](const StepControl &control) {
             EncodeCopyOutcome outcome = {.result = capabilitiesUnknown, .skipped = {}};
-            if (isUpgradingAt(ipport))
+            if (m_upgrades->isUpgradingAt(ipport))
                 outcome.result = resultCode(LoginResult::Upgrading);
             else if (*state && (*state)->unreadItems().size() < qsizetype{2} * itemsOfStream)
                 outcome = copyTo(ipport, credentials, **state, channels, control);

@@ -3,6 +3,7 @@
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/livechannels.h"
 #include "device/dh/session/securelogin.h"
+#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/loginresult.h"
@@ -136,7 +137,7 @@ DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
             isInitialised = !state.isBool() || state.toBool()](const StepControl &control) {
         if (!isInitialised) // it takes no login
             return StepOutcome{.result = resultCode(LoginResult::NotInitialised), .text = {}};
-        if (isUpgradingAt(order.ipport)) // nothing comes between a device and its firmware
+        if (m_upgrades->isUpgradingAt(order.ipport)) // nothing comes between a device and its firmware
             return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), order.ipport, account.account, account.password);

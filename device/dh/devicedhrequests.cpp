@@ -1,7 +1,7 @@
 // Requests to devices that a search has found: the first password, and a new address.
 #include "device/dh/devicedh.h"
 #include "device/dh/logins/devicelogins.h"
-#include "device/dh/upgrade/upgraderunner.h"
+#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/loginresult.h"

@@ -2,7 +2,7 @@
 #include "device/dh/devicedh.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/logins/rowadding.h"
-#include "device/dh/upgrade/upgraderunner.h"
+#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicefilter.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"

@@ -6,6 +6,7 @@
 #include "device/dh/session/securelogin.h"
 #include "device/dh/session/sessionoffer.h"
 #include "device/dh/session/sessionthreads.h"
+#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "sdk/netlibrary.h"
@@ -75,7 +76,7 @@ SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, co
 BatchEngine::Hold CDeviceDH::holdDevice(const QString &ipport, const StepControl &control) const
 {
     // The step of an upgrade takes minutes. What would disturb it is refused instead.
-    if (isUpgradingAt(ipport))
+    if (m_upgrades->isUpgradingAt(ipport))
         return {};
     return m_engine->hold(workKey(store().rowAt(ipport), ipport, ipport), control.stopToken());
 }
@@ -88,7 +89,7 @@ void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
 
 int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const QString &password)
 {
-    if (isUpgradingAt(ipport)) // what follows the check would come between the device and its firmware
+    if (m_upgrades->isUpgradingAt(ipport)) // what follows the check would come between the device and its firmware
         return resultCode(LoginResult::Upgrading);
     const SecureLogin login = m_logins->logIn(ipport, {.account = account, .password = password});
     if (login.handle != 0)

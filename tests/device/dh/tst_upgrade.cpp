@@ -1,4 +1,5 @@
 // Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
+#include "device/dh/upgrade/upgradedocument.h"
 #include "device/registry/loginresult.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/upgradesite.h"
