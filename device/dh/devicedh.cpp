@@ -3,6 +3,9 @@
 #include "device/batch/batchengine.h"
 #include "device/dh/lists/devicelists.h"
 #include "device/dh/logins/devicelogins.h"
+#include "device/dh/logins/rowlogin.h"
+#include "device/dh/rows/founddevices.h"
+#include "device/dh/rows/rowoperations.h"
 #include "device/dh/session/sessionthreads.h"
 #include "device/dh/system/systemoperations.h"
 #include "device/dh/upgrade/documentupgrades.h"
@@ -38,10 +41,11 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_upgradeOrders(std::make_unique<UpgradeOrders>(store, *m_logins)),
       m_rowUpgrades(std::make_unique<RowUpgrades>(store, *m_upgrades, *m_upgradeOrders, m_signals)),
       m_documentUpgrades(std::make_unique<DocumentUpgrades>(store, *m_upgrades, *m_upgradeOrders)),
+      m_rows(std::make_unique<RowOperations>(store, m_libraries, *m_logins, isUpgrading(), m_signals)),
+      m_foundDevices(std::make_unique<FoundDevices>(store, m_libraries, *m_logins, isUpgrading())),
       m_lists(std::make_unique<DeviceLists>(store, m_libraries, *m_logins, m_signals)),
       m_system(std::make_unique<SystemOperations>(
-          store, m_libraries, *m_logins, *m_threads,
-          [this](const QString &ipport) { return m_upgrades->isUpgradingAt(ipport); }, m_signals)),
+          store, m_libraries, *m_logins, *m_threads, isUpgradingAt(), m_signals)),
       m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
                                                   m_signals)),
       m_state(std::make_shared<SessionState>(m_tables))
@@ -51,6 +55,16 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
 
     const std::lock_guard lock(agentListenerMutex);
     agentListener = this;
+}
+
+UpgradeCheck CDeviceDH::isUpgrading() const
+{
+    return [&round = *m_upgrades](const QString &name) { return round.isUpgrading(name); };
+}
+
+UpgradeCheck CDeviceDH::isUpgradingAt() const
+{
+    return [&round = *m_upgrades](const QString &ipport) { return round.isUpgradingAt(ipport); };
 }
 
 CDeviceDH::~CDeviceDH()
@@ -285,4 +299,103 @@ QVariantMap CDeviceDH::upgradeDocumentProgress()
 int CDeviceDH::upgradeDocumentSuccesses()
 {
     return m_upgrades->documents().succeeded();
+}
+
+int CDeviceDH::getLoginDevice(const QString &address, const QString &account, const QString &password,
+                              const QString &port, int loginType, const QString &devicePort)
+{
+    return m_rows->add({.address = address,
+                        .account = account,
+                        .password = password,
+                        .port = port.toInt(),
+                        .reachedBy = static_cast<ReachedBy>(loginType),
+                        .devicePort = devicePort});
+}
+
+DeviceStep CDeviceDH::addingStep(const DeviceToAdd &device)
+{
+    return m_rows->addingStep(device, p2pPorts());
+}
+
+void CDeviceDH::setDefaultAccount(const QString &account, const QString &password)
+{
+    m_logins->setDefaultAccount({.account = account, .password = password});
+}
+
+void CDeviceDH::setFollowingAccount(const QString &account, const QString &password)
+{
+    m_logins->setFollowingAccount({.account = account, .password = password});
+}
+
+QVariantMap CDeviceDH::accountOf(const QString &name)
+{
+    return m_rows->accountOf(name);
+}
+
+bool CDeviceDH::updataDeviceInfo(const QString &key, const QVariant &newValue, const QString &mac,
+                                 const QString &ipport)
+{
+    return m_rows->update(key, newValue, mac, ipport);
+}
+
+QVariantMap CDeviceDH::getDeviceInfo(const QString &ipport)
+{
+    return m_rows->rowAt(ipport);
+}
+
+QJsonObject CDeviceDH::deviceRow(const QString &name)
+{
+    return m_rows->rowNamed(name);
+}
+
+QVariantMap CDeviceDH::getDeviceDetail(const QString &mac)
+{
+    return m_rows->detail(mac);
+}
+
+QVariantMap CDeviceDH::getDeviceDetailByAddress(const QString &ipport)
+{
+    return m_rows->detailAt(ipport);
+}
+
+QVariantList CDeviceDH::filterData(const QString &filtertype, const QString &searchtext)
+{
+    return m_rows->filtered(filtertype, searchtext);
+}
+
+QVariantList CDeviceDH::filterDataIPV6(const QString &filtertype, const QString &searchtext)
+{
+    return m_rows->filteredIPv6(filtertype, searchtext);
+}
+
+void CDeviceDH::setDeleteDevice(const QString &mac, const QString &ipvision)
+{
+    m_rows->remove({{mac, true}}, ipvision);
+}
+
+void CDeviceDH::setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion)
+{
+    m_rows->remove(macs, ipversion);
+}
+
+void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const QString &password)
+{
+    m_foundDevices->giveFirstPassword(mac, account, password);
+}
+
+DeviceStep CDeviceDH::initialisationStep(const QString &mac, const QString &account, const QString &password)
+{
+    return m_foundDevices->firstPasswordStep(mac, account, password);
+}
+
+void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
+                         const QString &newgateway, bool dhcpON)
+{
+    m_foundDevices->changeAddress(mac, newip, newsubmask, newgateway, dhcpON);
+}
+
+DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
+                                  const QString &newgateway, bool dhcpON)
+{
+    return m_foundDevices->addressStep(mac, newip, newsubmask, newgateway, dhcpON);
 }

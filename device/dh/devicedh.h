@@ -9,6 +9,7 @@
 #include "device/dh/upgrade/upgradework.h"
 #include "device/registry/backendsignals.h"
 #include "device/registry/devicebase.h"
+#include "device/registry/upgradecheck.h"
 #include "sdk/p2pagentlibrary.h"
 #include "sdk/sdklibraries.h"
 
@@ -23,10 +24,12 @@
 class DeviceLists;
 class DeviceLogins;
 class DocumentUpgrades;
+class FoundDevices;
 class SessionThreads;
 class SystemOperations;
 class SnapThread;
 struct SnapTask;
+class RowOperations;
 class RowUpgrades;
 class UpgradeOrders;
 class UpgradeRound;
@@ -209,6 +212,10 @@ private:
                       const SecureLogin &login);
     void endSession();
     void takeOffer(const SessionRequest &request, const SessionOrder &order, const SessionOffer &offer);
+    /// By the name of a row.
+    [[nodiscard]] UpgradeCheck isUpgrading() const;
+    /// By address and port.
+    [[nodiscard]] UpgradeCheck isUpgradingAt() const;
     static void tellAgentListener(const QString &deviceId, int localPort);
     void noteBrokenTunnel(const QString &deviceId, int localPort);
     /// Takes the pictures of an order in a login.
@@ -228,16 +235,6 @@ private:
     [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const DeviceAccount &credentials,
                                            const EncodeState &state, const ChannelChoice &channels,
                                            const StepControl &control);
-    StepOutcome giveFirstPassword(const QString &mac, const QString &account, const QString &password);
-    /// Whether a search has told how the device is reached without a login.
-    [[nodiscard]] bool isFound(const QString &mac) const;
-    StepOutcome noteNotFound(const QString &mac);
-    StepOutcome changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                              const QString &newgateway, bool dhcpON, const DeviceAccount &credentials,
-                              const StepControl &control);
-    /// Writes "res" of the device's row.
-    StepOutcome noteResult(const QString &mac, LoginResult result);
-
     /// What the network library can do at all: getConfigData("library").
     [[nodiscard]] QVariantMap libraryValues() const;
 
@@ -255,6 +252,8 @@ private:
     const std::unique_ptr<UpgradeOrders> m_upgradeOrders;
     const std::unique_ptr<RowUpgrades> m_rowUpgrades;
     const std::unique_ptr<DocumentUpgrades> m_documentUpgrades;
+    const std::unique_ptr<RowOperations> m_rows;
+    const std::unique_ptr<FoundDevices> m_foundDevices;
     const std::unique_ptr<DeviceLists> m_lists;
     const std::unique_ptr<SystemOperations> m_system;
     std::unique_ptr<SearchOperations> m_search;

@@ -26,6 +26,7 @@ public:
 
     /// On the scene's thread.
     void setDefaultAccount(const DeviceAccount &account) { m_accounts.setDefault(account); }
+    void setFollowingAccount(const DeviceAccount &account) { m_accounts.setFollowing(account); }
 
     [[nodiscard]] const AccountChoice &accounts() const { return m_accounts; }
 

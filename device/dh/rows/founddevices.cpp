@@ -1,13 +1,13 @@
-// Requests to devices that a search has found: the first password, and a new address.
-#include "device/dh/devicedh.h"
+#include "device/dh/rows/founddevices.h"
+
 #include "device/dh/logins/devicelogins.h"
-#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
-#include "device/registry/loginresult.h"
 #include "sdk/blocktext.h"
 #include "sdk/callstop.h"
 #include "sdk/netlibrary.h"
+
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -22,22 +22,26 @@ void setText(auto &field, const QString &text)
 
 } // namespace
 
-void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const QString &password)
+FoundDevices::FoundDevices(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
+                           const DeviceLogins &logins, UpgradeCheck isUpgrading)
+    : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins),
+      m_isUpgrading(std::move(isUpgrading))
 {
-    giveFirstPassword(mac, account, password);
 }
 
-DeviceStep CDeviceDH::initialisationStep(const QString &mac, const QString &account, const QString &password)
+DeviceStep FoundDevices::firstPasswordStep(const QString &mac, const QString &account,
+                                           const QString &password)
 {
     return [this, mac, account, password](const StepControl &) {
         return isFound(mac) ? giveFirstPassword(mac, account, password) : noteNotFound(mac);
     };
 }
 
-StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &account, const QString &password)
+StepOutcome FoundDevices::giveFirstPassword(const QString &mac, const QString &account,
+                                            const QString &password)
 {
     LoginResult result = LoginResult::Success;
-    const std::optional<sdk::SearchAnswer> record = store().record(mac);
+    const std::optional<sdk::SearchAnswer> record = m_store->record(mac);
     if (record && m_libraries.net) {
         sdk::InitDeviceAccountInput input{};
         input.size = sizeof(input);
@@ -51,7 +55,7 @@ StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &acco
         if (!m_libraries.net->NetInitDeviceAccount(input, output, searchRequestWait, ""))
             result = loginResultOf(m_libraries.net->NetGetLastError());
         else
-            store().changeRow(mac, [&](QJsonObject &row) {
+            m_store->changeRow(mac, [&](QJsonObject &row) {
                 row.insert(DeviceRowKey::username, account);
                 row.insert(DeviceRowKey::password, password);
             });
@@ -59,51 +63,51 @@ StepOutcome CDeviceDH::giveFirstPassword(const QString &mac, const QString &acco
     return noteResult(mac, result);
 }
 
-bool CDeviceDH::isFound(const QString &mac) const
+bool FoundDevices::isFound(const QString &mac) const
 {
-    const std::optional<sdk::SearchAnswer> record = store().record(mac);
+    const std::optional<sdk::SearchAnswer> record = m_store->record(mac);
     return record &&
            !(sdk::blockText(record->device.mac).empty() && sdk::blockText(record->device.uuid).empty());
 }
 
-StepOutcome CDeviceDH::noteNotFound(const QString &mac)
+StepOutcome FoundDevices::noteNotFound(const QString &mac)
 {
     StepOutcome outcome = noteResult(mac, LoginResult::NotSupported);
     outcome.text = tr("没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID");
     return outcome;
 }
 
-void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
-                         const QString &newgateway, bool dhcpON)
+void FoundDevices::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
+                                 const QString &newgateway, bool dhcpON)
 {
-    if (m_upgrades->isUpgrading(mac))
+    if (m_isUpgrading(mac))
         noteResult(mac, LoginResult::Upgrading);
     else
-        changeAddress(mac, newip, newsubmask, newgateway, dhcpON, m_logins->accountOf(store().row(mac)),
-                      StepControl());
+        requestAddress(mac, newip, newsubmask, newgateway, dhcpON, m_logins.accountOf(m_store->row(mac)),
+                       StepControl());
 }
 
-DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
-                                  const QString &newgateway, bool dhcpON)
+DeviceStep FoundDevices::addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
+                                     const QString &newgateway, bool dhcpON)
 {
-    const QJsonObject row = store().row(mac);
+    const QJsonObject row = m_store->row(mac);
     // A device that is not listed may be found by the time that the step runs.
     const DeviceAccount credentials =
-        m_logins->accountOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
+        m_logins.accountOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
     return [=, this](const StepControl &control) {
-        if (m_upgrades->isUpgrading(mac))
+        if (m_isUpgrading(mac))
             return noteResult(mac, LoginResult::Upgrading);
         if (!isFound(mac))
             return noteNotFound(mac);
-        return changeAddress(mac, newip, newsubmask, newgateway, dhcpON, credentials, control);
+        return requestAddress(mac, newip, newsubmask, newgateway, dhcpON, credentials, control);
     };
 }
 
-StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
-                                     const QString &newgateway, bool dhcpON, const DeviceAccount &credentials,
-                                     const StepControl &control)
+StepOutcome FoundDevices::requestAddress(const QString &mac, const QString &newip, const QString &newsubmask,
+                                         const QString &newgateway, bool dhcpON,
+                                         const DeviceAccount &credentials, const StepControl &control)
 {
-    std::optional<sdk::SearchAnswer> record = store().record(mac);
+    std::optional<sdk::SearchAnswer> record = m_store->record(mac);
     LoginResult result = LoginResult::Success;
     sdk::ModifyDeviceInput input{};
     if (record && m_libraries.net) {
@@ -133,7 +137,7 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
     // The row shows what was asked for, whatever came of it: the result stands beside it, and the next search
     // shows the true address. With DHCP the address is not known until then: the row has none.
     const QString address = dhcpON ? QString() : newip;
-    store().changeRow(mac, [&](QJsonObject &row) {
+    m_store->changeRow(mac, [&](QJsonObject &row) {
         const QStringList parts = row.value(DeviceRowKey::ipport).toString().split(QLatin1Char(':'));
         if (parts.size() == 2)
             row.insert(DeviceRowKey::ipport, QStringLiteral("%1:%2").arg(address, parts.at(1)));
@@ -143,7 +147,7 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
         if (result == LoginResult::Success && input.size != 0)
             record->device = input.device; // with its mask, its gateway and how it gets its address
         setText(record->device.address, address);
-        store().putRecord(mac, *record);
+        m_store->putRecord(mac, *record);
     }
     StepOutcome outcome = noteResult(mac, result);
     const bool isUnknown = result == LoginResult::NetworkFailure || result == LoginResult::Unconfirmed;
@@ -153,8 +157,9 @@ StepOutcome CDeviceDH::changeAddress(const QString &mac, const QString &newip, c
     return outcome;
 }
 
-StepOutcome CDeviceDH::noteResult(const QString &mac, LoginResult result)
+StepOutcome FoundDevices::noteResult(const QString &mac, LoginResult result)
 {
-    store().changeRow(mac, [result](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(result)); });
+    m_store->changeRow(mac,
+                       [result](QJsonObject &row) { row.insert(DeviceRowKey::res, resultCode(result)); });
     return {.result = resultCode(result), .text = {}};
 }
