@@ -1,9 +1,15 @@
 #include "device/dh/devicedh.h"
 
-#include "device/batch/batchengine.h"
+#include "device/dh/agentlistener.h"
+#include "device/dh/configuration/configurationpages.h"
+#include "device/dh/configuration/currentsession.h"
+#include "device/dh/configuration/encodecopies.h"
+#include "device/dh/configuration/pagehold.h"
+#include "device/dh/configuration/sessionlogins.h"
 #include "device/dh/lists/devicelists.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/logins/rowlogin.h"
+#include "device/dh/pictures/pictureoperations.h"
 #include "device/dh/rows/founddevices.h"
 #include "device/dh/rows/rowoperations.h"
 #include "device/dh/session/sessionthreads.h"
@@ -12,23 +18,10 @@
 #include "device/dh/upgrade/rowupgrades.h"
 #include "device/dh/upgrade/upgradeorders.h"
 #include "device/dh/upgrade/upgraderound.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/logging.h"
-#include "device/registry/loginresult.h"
-#include "media/snapthread.h"
 #include "sdk/netlibrary.h"
 
-#include <mutex>
 #include <utility>
-
-namespace {
-
-// The agent's handler is a plain function, and the agent hands it nothing to find a back end by.
-std::mutex agentListenerMutex;
-CDeviceDH *agentListener = nullptr;
-
-} // namespace
 
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits,
@@ -44,43 +37,56 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_rows(std::make_unique<RowOperations>(store, m_libraries, *m_logins, isUpgrading(), m_signals)),
       m_foundDevices(std::make_unique<FoundDevices>(store, m_libraries, *m_logins, isUpgrading())),
       m_lists(std::make_unique<DeviceLists>(store, m_libraries, *m_logins, m_signals)),
-      m_system(std::make_unique<SystemOperations>(
-          store, m_libraries, *m_logins, *m_threads, isUpgradingAt(), m_signals)),
-      m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
+      m_system(std::make_unique<SystemOperations>(store, m_libraries, *m_logins, *m_threads, isUpgradingAt(),
                                                   m_signals)),
-      m_state(std::make_shared<SessionState>(m_tables))
+      m_hold(std::make_unique<PageHold>(store, m_engine, isUpgradingAt())),
+      m_session(std::make_unique<CurrentSession>(m_libraries, *m_threads)),
+      m_sessionLogins(std::make_unique<SessionLogins>(store, m_libraries, *m_logins, m_threads,
+                                                      takeOwnPicture(), *m_hold, *m_session, m_signals)),
+      m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_hold, *m_session, m_signals)),
+      m_encodeCopies(std::make_unique<EncodeCopies>(store, m_libraries, *m_logins, isUpgradingAt(),
+                                                    *m_session, m_signals)),
+      m_pictures(std::make_unique<PictureOperations>(store, m_libraries, *m_logins, isUpgradingAt(),
+                                                     *m_session, m_signals)),
+      m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
+                                                  m_signals))
 {
     if (m_libraries.net && !m_libraries.net->NetInit())
         qCWarning(logDevice) << "CDeviceDH: the network library cannot be initialised";
+    m_agentListener = std::make_unique<AgentListener>(std::move(store), m_signals);
+}
 
-    const std::lock_guard lock(agentListenerMutex);
-    agentListener = this;
+OwnPictureTaker CDeviceDH::takeOwnPicture() const
+{
+    return [libraries = m_libraries](const OwnPictureOrder &order, const StepControl &control) {
+        return PictureOperations::takeOwnPicture(libraries, order, control);
+    };
 }
 
 UpgradeCheck CDeviceDH::isUpgrading() const
 {
-    return [&round = *m_upgrades](const QString &name) { return round.isUpgrading(name); };
+    return [&round = *m_upgrades](const QString &name) {
+        return round.isUpgrading(name);
+    };
 }
 
 UpgradeCheck CDeviceDH::isUpgradingAt() const
 {
-    return [&round = *m_upgrades](const QString &ipport) { return round.isUpgradingAt(ipport); };
+    return [&round = *m_upgrades](const QString &ipport) {
+        return round.isUpgradingAt(ipport);
+    };
 }
 
 CDeviceDH::~CDeviceDH()
 {
-    {
-        const std::lock_guard lock(agentListenerMutex);
-        if (agentListener == this)
-            agentListener = nullptr;
-    }
+    m_agentListener.reset();
     m_upgrades->requestEnd(); // before their batches: nothing stops that the user has not stopped
     m_engine->requestEnd();
     m_search->requestEnd();
-    m_snapshots.reset();
+    m_pictures->giveUpSnapshots();
     m_upgrades->end();
     m_threads->clear();
-    endSession();
+    m_session->end();
     m_system->letLoginsGo();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // cuts short the waits of running searches
@@ -99,7 +105,7 @@ void CDeviceDH::factoryEnds()
 {
     m_upgrades->requestEnd();
     m_engine->requestEnd();
-    m_snapshots.reset();
+    m_pictures->giveUpSnapshots();
     m_upgrades->end();
     m_upgrades->noteDocuments();
     m_upgrades->waitForDocuments();
@@ -107,46 +113,7 @@ void CDeviceDH::factoryEnds()
 
 void CDeviceDH::agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort, void *)
 {
-    switch (event) {
-    case sdk::P2PAgentEvent::ServiceConnected:
-        qCInfo(logDevice) << "P2P: the service is connected";
-        return;
-    case sdk::P2PAgentEvent::ServiceLost:
-        qCWarning(logDevice) << "P2P: the service is lost";
-        tellAgentListener({}, 0);
-        return;
-    case sdk::P2PAgentEvent::TunnelOpened:
-        qCInfo(logDevice) << "P2P: port" << localPort << "leads to" << deviceId;
-        return;
-    case sdk::P2PAgentEvent::TunnelBroken:
-        qCWarning(logDevice) << "P2P: the tunnel to" << deviceId << "on port" << localPort << "is broken";
-        tellAgentListener(QString::fromUtf8(deviceId), localPort);
-        return;
-    }
-    qCWarning(logDevice) << "P2P: event" << static_cast<int>(event) << "of" << deviceId << localPort;
-}
-
-void CDeviceDH::tellAgentListener(const QString &deviceId, int localPort)
-{
-    const std::lock_guard lock(agentListenerMutex);
-    if (!agentListener)
-        return;
-    // Queued events of an object that is gone are dropped.
-    QMetaObject::invokeMethod(
-        agentListener,
-        [listener = agentListener, deviceId, localPort] { listener->noteBrokenTunnel(deviceId, localPort); },
-        Qt::QueuedConnection);
-}
-
-void CDeviceDH::noteBrokenTunnel(const QString &deviceId, int localPort)
-{
-    const bool isListed =
-        store().changeRowAt(QStringLiteral("127.0.0.1:%1").arg(localPort), [](QJsonObject &row) {
-            row.insert(DeviceRowKey::res, resultCode(LoginResult::NetworkFailure));
-        });
-    // The tunnel to a device's web page has no row, nor has one whose device a search has taken off the list.
-    if (isListed || deviceId.isEmpty())
-        Q_EMIT signalCDeviceTunnelBroken(deviceId, localPort);
+    AgentListener::take(event, deviceId, localPort);
 }
 
 void CDeviceDH::startSearch()
@@ -398,4 +365,139 @@ DeviceStep CDeviceDH::addressStep(const QString &mac, const QString &newip, cons
                                   const QString &newgateway, bool dhcpON)
 {
     return m_foundDevices->addressStep(mac, newip, newsubmask, newgateway, dhcpON);
+}
+
+int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account, const QString &password)
+{
+    return m_sessionLogins->findAndLogin(ipport, account, password);
+}
+
+SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
+{
+    return m_sessionLogins->loginStep(ipport, account, password);
+}
+
+int CDeviceDH::checkLogin(const QString &ipport, const QString &account, const QString &password)
+{
+    return m_sessionLogins->check(ipport, account, password);
+}
+
+QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
+{
+    return m_sessionLogins->readDetail(ipport);
+}
+
+SceneStep CDeviceDH::detailStep(const QString &ipport)
+{
+    return m_sessionLogins->detailStep(ipport);
+}
+
+OwnSessionStep CDeviceDH::ownSessionStep(const OwnSessionOrder &order)
+{
+    return m_sessionLogins->ownSessionStep(order);
+}
+
+void CDeviceDH::openSession(const QString &ipport, const QString &account, const QString &password,
+                            bool readsChannels, bool isGivenNow)
+{
+    m_sessionLogins->openSession(ipport, account, password, readsChannels, isGivenNow);
+}
+
+void CDeviceDH::stopOpeningSession()
+{
+    m_sessionLogins->stopOpeningSession();
+}
+
+void CDeviceDH::checkSession()
+{
+    m_sessionLogins->checkSession();
+}
+
+bool CDeviceDH::isInSession(const QString &ipport)
+{
+    return m_session->isWith(ipport);
+}
+
+void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
+                            const std::function<void(const SceneOutcome &outcome)> &ended)
+{
+    m_threads->runForScene(step, stop, ended);
+}
+
+void CDeviceDH::getEncodeCaps()
+{
+    m_pages->perform([](SessionOperations &operations) { operations.getEncodeCaps(); });
+}
+
+void CDeviceDH::getEncodeInfo()
+{
+    m_pages->perform([](SessionOperations &operations) { operations.getEncodeInfo(); });
+}
+
+QVariant CDeviceDH::getConfigData(const QString &key, const QVariant &channel)
+{
+    return m_pages->value(key, channel);
+}
+
+void CDeviceDH::setConfigData(const QString &key, const QVariant &value, const QString &otype)
+{
+    m_pages->perform([&](SessionOperations &operations) { operations.setConfigData(key, value, otype); });
+}
+
+QVariantList CDeviceDH::getDeviceChannelData(const QString &key, int channelNum)
+{
+    QVariantList data;
+    m_pages->perform(
+        [&](SessionOperations &operations) { data = operations.getDeviceChannelData(key, channelNum); });
+    return data;
+}
+
+void CDeviceDH::confirmConfigData()
+{
+    m_pages->perform([](SessionOperations &operations) { operations.confirmConfigData(); });
+}
+
+void CDeviceDH::getCameraConfig()
+{
+    m_pages->perform([](SessionOperations &operations) { operations.getCameraConfig(); });
+}
+
+void CDeviceDH::getVideoIn()
+{
+    m_pages->perform([](SessionOperations &operations) { operations.getVideoIn(); });
+}
+
+void CDeviceDH::getVideoInByChangeChannel()
+{
+    m_pages->perform([](SessionOperations &operations) { operations.getVideoInByChangeChannel(); });
+}
+
+SceneStep CDeviceDH::sessionStep(const SessionJob &job)
+{
+    return m_pages->step(job);
+}
+
+void CDeviceDH::copyConfigToDevice(const QStringList &devlist)
+{
+    m_encodeCopies->copyTo(devlist);
+}
+
+DeviceStepMaker CDeviceDH::encodeCopy()
+{
+    return m_encodeCopies->steps();
+}
+
+void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address)
+{
+    m_pictures->takeSnapshots(kind, channelNum.toInt(), address);
+}
+
+QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
+{
+    return m_pictures->snapshotSteps(address);
+}
+
+DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
+{
+    return m_pictures->pictureStep(order);
 }

@@ -17,6 +17,18 @@ struct OwnPicture
     QString message = {}; ///< why it failed, in the user's language
 };
 
+/// A picture of a channel that is to be taken in a login.
+struct OwnPictureOrder
+{
+    qint64 handle = 0; ///< of the login
+    int channelCount = 0;
+    int channel = 0; ///< from 0
+    QString folder;  ///< below "snap/" in the current folder
+};
+
+/// Takes a picture. Any thread, which it blocks until the picture is there or given up.
+using OwnPictureTaker = std::function<OwnPicture(const OwnPictureOrder &order, const StepControl &control)>;
+
 /// A login that lasts as long as this object. It ends without holding up the scene's thread.
 class OwnSession
 {

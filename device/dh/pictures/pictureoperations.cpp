@@ -1,9 +1,9 @@
-// Live view and snapshots of the current session's device.
-#include "device/dh/devicedh.h"
+#include "device/dh/pictures/pictureoperations.h"
+
+#include "device/dh/configuration/currentsession.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/livechannels.h"
 #include "device/dh/session/securelogin.h"
-#include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/loginresult.h"
@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 namespace {
 
@@ -52,7 +53,7 @@ QString missingPictureText(const SnapOutcome &outcome)
 {
     if (outcome.problem != SnapProblem::NoPicture)
         return outcome.message;
-    return outcome.reason.isEmpty() ? QCoreApplication::translate("CDeviceDH", "设备没有发送画面")
+    return outcome.reason.isEmpty() ? QCoreApplication::translate("PictureOperations", "设备没有发送画面")
                                     : outcome.reason;
 }
 
@@ -70,27 +71,46 @@ SnapOutcome snapshotOnThread(const SnapTask &task, const SnapChannel &channel, c
 
 } // namespace
 
-void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address)
+PictureOperations::PictureOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
+                                     const DeviceLogins &logins, UpgradeCheck isUpgradingAt,
+                                     const CurrentSession &session, BackEndSignals &backEndSignals)
+    : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins),
+      m_isUpgradingAt(std::move(isUpgradingAt)), m_session(session), m_signals(backEndSignals)
+{
+}
+
+PictureOperations::~PictureOperations() = default;
+
+void PictureOperations::giveUpSnapshots()
+{
+    m_snapshots.reset();
+}
+
+void PictureOperations::takeSnapshots(const QString &kind, int channel, const QString &address)
 {
     if (kind != allChannels && kind != oneChannel)
         return;
     if (!m_snapshots) {
         m_snapshots = std::make_unique<SnapThread>();
-        connect(m_snapshots.get(), &SnapThread::captured, this, &CDeviceDH::noteSnapshot);
+        QObject::connect(m_snapshots.get(), &SnapThread::captured, m_signals.receiver(),
+                         [this](const QString &taken, int number, const QString &path,
+                                const QString &message) { noteSnapshot(taken, number, path, message); });
     }
-    m_snapshots->take(snapTask(kind, kind == oneChannel ? channelNum.toInt() : -1, address));
+    m_snapshots->take(snapTask(kind, kind == oneChannel ? channel : -1, address));
 }
 
-SnapTask CDeviceDH::snapTask(const QString &kind, int onlyChannel, const QString &address) const
+SnapTask PictureOperations::snapTask(const QString &kind, int onlyChannel, const QString &address) const
 {
     return {.kind = kind,
             .folder = folderName(address),
             .isDeviceCurrent =
-                [this, generation = m_deviceGeneration.load()] { return m_deviceGeneration == generation; },
-            .sessionHandle = [this] { return m_loginHandle.load(); },
+                [this, generation = m_session.deviceGeneration()] {
+                    return m_session.deviceGeneration() == generation;
+                },
+            .sessionHandle = [this] { return m_session.sharedHandle(); },
             .channels =
-                [libraries = m_libraries, handle = m_session.handle,
-                 channelCount = m_state->channels.channelCount, onlyChannel] {
+                [libraries = m_libraries, handle = m_session.handle(),
+                 channelCount = m_session.channelCount(), onlyChannel] {
                     const QList<bool> connected =
                         connectedChannels(ConfigSession(libraries, handle), channelCount);
                     if (onlyChannel >= 0)
@@ -102,9 +122,9 @@ SnapTask CDeviceDH::snapTask(const QString &kind, int onlyChannel, const QString
                 }};
 }
 
-QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
+QList<DeviceStep> PictureOperations::snapshotSteps(const QString &address)
 {
-    if (m_session.handle == 0)
+    if (m_session.handle() == 0)
         return {};
     // The device is asked once which channels have a camera, by the first step.
     struct Channels
@@ -114,7 +134,7 @@ QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
     };
     const auto channels = std::make_shared<Channels>();
     QList<DeviceStep> steps;
-    for (int number = 0; number < m_state->channels.channelCount; ++number) {
+    for (int number = 0; number < m_session.channelCount(); ++number) {
         steps.append([this, channels, number,
                       task = snapTask(allChannels, -1, address)](const StepControl &control) {
             std::call_once(channels->asked, [&] { channels->list = task.channels(); });
@@ -129,15 +149,15 @@ QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
     return steps;
 }
 
-DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
+DeviceStep PictureOperations::pictureStep(const PictureOrder &order)
 {
-    const QJsonObject row = store().rowAt(order.ipport);
+    const QJsonObject row = m_store->rowAt(order.ipport);
     const QJsonValue state = row.value(DeviceRowKey::state);
-    return [this, order, account = m_logins->accountOf(row),
+    return [this, order, account = m_logins.accountOf(row),
             isInitialised = !state.isBool() || state.toBool()](const StepControl &control) {
         if (!isInitialised) // it takes no login
             return StepOutcome{.result = resultCode(LoginResult::NotInitialised), .text = {}};
-        if (m_upgrades->isUpgradingAt(order.ipport)) // nothing comes between a device and its firmware
+        if (m_isUpgradingAt(order.ipport)) // nothing comes between a device and its firmware
             return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), order.ipport, account.account, account.password);
@@ -148,8 +168,8 @@ DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
     };
 }
 
-StepOutcome CDeviceDH::takePictures(const PictureOrder &order, const SecureLogin &login,
-                                    const StepControl &control) const
+StepOutcome PictureOperations::takePictures(const PictureOrder &order, const SecureLogin &login,
+                                            const StepControl &control) const
 {
     const ConfigSession session(m_libraries, login.handle);
     QList<SnapChannel> channels;
@@ -198,26 +218,29 @@ StepOutcome CDeviceDH::takePictures(const PictureOrder &order, const SecureLogin
             .text = failures > 0 ? tr("%n 个通道没有图像", nullptr, failures) : QString()};
 }
 
-OwnPicture CDeviceDH::takeOwnPicture(std::int64_t handle, int channelCount, int channel,
-                                     const QString &folder, const StepControl &control) const
+OwnPicture PictureOperations::takeOwnPicture(const sdk::SdkLibraries &libraries, const OwnPictureOrder &order,
+                                             const StepControl &control)
 {
-    const QList<bool> connected = connectedChannels(ConfigSession(m_libraries, handle), channelCount);
-    const SnapTask task = {.kind = {},
-                           .folder =
-                               QDir::current().absoluteFilePath(QStringLiteral("snap/") + folderName(folder)),
-                           .isDeviceCurrent = [] { return true; },
-                           .sessionHandle = [handle] { return handle; },
-                           .channels = {},
-                           .ownSession = handle};
-    const SnapOutcome outcome = snapshotOnThread(
-        task, {.number = channel, .connected = connected.value(channel, true)}, control.stopToken());
+    const QList<bool> connected =
+        connectedChannels(ConfigSession(libraries, order.handle), order.channelCount);
+    const SnapTask task = {
+        .kind = {},
+        .folder = QDir::current().absoluteFilePath(QStringLiteral("snap/") + folderName(order.folder)),
+        .isDeviceCurrent = [] { return true; },
+        .sessionHandle = [handle = order.handle] { return handle; },
+        .channels = {},
+        .ownSession = order.handle};
+    const SnapOutcome outcome =
+        snapshotOnThread(task, {.number = order.channel, .connected = connected.value(order.channel, true)},
+                         control.stopToken());
     return {.path = outcome.path, .message = outcome.message};
 }
 
-void CDeviceDH::noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message)
+void PictureOperations::noteSnapshot(const QString &kind, int channel, const QString &path,
+                                     const QString &message)
 {
     if (kind == allChannels)
-        Q_EMIT signalSnapPictureToFile(channel, path, message);
+        m_signals.emitNow(&CDeviceBase::signalSnapPictureToFile, channel, path, message);
     else
-        Q_EMIT signalSnapPictureToFileAgain(channel, path, message);
+        m_signals.emitNow(&CDeviceBase::signalSnapPictureToFileAgain, channel, path, message);
 }

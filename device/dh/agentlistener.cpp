@@ -1,0 +1,73 @@
+#include "device/dh/agentlistener.h"
+
+#include "device/registry/devicerow.h"
+#include "device/registry/devicestore.h"
+#include "device/registry/logging.h"
+#include "device/registry/loginresult.h"
+
+#include <mutex>
+#include <utility>
+
+namespace {
+
+// The agent's handler is a plain function, and the agent hands it nothing to find a back end by.
+std::mutex agentListenerMutex;
+AgentListener *agentListener = nullptr;
+
+} // namespace
+
+AgentListener::AgentListener(std::shared_ptr<DeviceStore> store, BackEndSignals &backEndSignals)
+    : m_store(std::move(store)), m_signals(backEndSignals)
+{
+    const std::lock_guard lock(agentListenerMutex);
+    agentListener = this;
+}
+
+AgentListener::~AgentListener()
+{
+    const std::lock_guard lock(agentListenerMutex);
+    if (agentListener == this)
+        agentListener = nullptr;
+}
+
+void AgentListener::take(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort)
+{
+    switch (event) {
+    case sdk::P2PAgentEvent::ServiceConnected:
+        qCInfo(logDevice) << "P2P: the service is connected";
+        return;
+    case sdk::P2PAgentEvent::ServiceLost:
+        qCWarning(logDevice) << "P2P: the service is lost";
+        pass({}, 0);
+        return;
+    case sdk::P2PAgentEvent::TunnelOpened:
+        qCInfo(logDevice) << "P2P: port" << localPort << "leads to" << deviceId;
+        return;
+    case sdk::P2PAgentEvent::TunnelBroken:
+        qCWarning(logDevice) << "P2P: the tunnel to" << deviceId << "on port" << localPort << "is broken";
+        pass(QString::fromUtf8(deviceId), localPort);
+        return;
+    }
+    qCWarning(logDevice) << "P2P: event" << static_cast<int>(event) << "of" << deviceId << localPort;
+}
+
+void AgentListener::pass(const QString &deviceId, int localPort)
+{
+    const std::lock_guard lock(agentListenerMutex);
+    if (!agentListener)
+        return;
+    // Dropped with the back end, which the listener belongs to.
+    agentListener->m_signals.queue(
+        [listener = agentListener, deviceId, localPort] { listener->noteBrokenTunnel(deviceId, localPort); });
+}
+
+void AgentListener::noteBrokenTunnel(const QString &deviceId, int localPort)
+{
+    const bool isListed =
+        m_store->changeRowAt(QStringLiteral("127.0.0.1:%1").arg(localPort), [](QJsonObject &row) {
+            row.insert(DeviceRowKey::res, resultCode(LoginResult::NetworkFailure));
+        });
+    // The tunnel to a device's web page has no row, nor has one whose device a search has taken off the list.
+    if (isListed || deviceId.isEmpty())
+        m_signals.emitNow(&CDeviceBase::signalCDeviceTunnelBroken, deviceId, localPort);
+}

@@ -1,0 +1,77 @@
+#include "device/dh/configuration/configurationpages.h"
+
+#include "device/dh/configuration/currentsession.h"
+#include "device/dh/configuration/pagehold.h"
+#include "sdk/netlibrary.h"
+
+#include <utility>
+
+ConfigurationPages::ConfigurationPages(sdk::SdkLibraries libraries, const PageHold &hold,
+                                       CurrentSession &session, BackEndSignals &backEndSignals)
+    : m_libraries(std::move(libraries)), m_hold(hold), m_session(session), m_signals(backEndSignals)
+{
+}
+
+void ConfigurationPages::perform(const std::function<void(SessionOperations &operations)> &operations)
+{
+    SessionRun run(m_session.state(), upgradeCheck(m_session.state().ipport));
+    operations(run);
+    emitNews(run.takeNews());
+}
+
+void ConfigurationPages::emitNews(const std::vector<SessionRun::News> &news)
+{
+    for (const SessionRun::News &piece : news)
+        m_signals.emitNow(piece);
+}
+
+std::function<bool()> ConfigurationPages::upgradeCheck(const QString &ipport) const
+{
+    return [this, ipport] {
+        return m_hold.isUpgradingAt(ipport);
+    };
+}
+
+SceneStep ConfigurationPages::step(const SessionJob &job)
+{
+    return
+        [this, job, state = std::make_shared<SessionState>(m_session.state())](const StepControl &control) {
+            const BatchEngine::Hold hold = m_hold.hold(state->ipport, control);
+            if (control.isStopped())
+                return SceneOutcome();
+            SessionRun run(*state, upgradeCheck(state->ipport));
+            const QVariant value = job(run, control);
+            return SceneOutcome{.value = value, .take = [this, state, news = run.takeNews()] {
+                                    if (state->session.handle() != m_session.handle())
+                                        return;
+                                    m_session.setState(state);
+                                    emitNews(news);
+                                }};
+        };
+}
+
+QVariant ConfigurationPages::value(const QString &key, const QVariant &channel) const
+{
+    if (key == QLatin1String("loginHandle"))
+        return QVariant::fromValue<qint64>(m_session.sharedHandle());
+    if (key == QLatin1String("sessionDevice"))
+        return m_session.ipport();
+    if (key == QLatin1String("library"))
+        return libraryValues();
+    return SessionRun(m_session.state(), {}).getConfigData(key, channel);
+}
+
+QVariantMap ConfigurationPages::libraryValues() const
+{
+    sdk::ProviderInformation information{};
+    information.size = sizeof(information);
+    if (m_libraries.net)
+        m_libraries.net->NetGetProviderInformation(information);
+    const auto has = [&information](sdk::ProviderFunction function) {
+        return (information.missingFunctions >> static_cast<std::uint32_t>(function) & 1) == 0;
+    };
+    return {{QStringLiteral("defaultPort"), information.defaultPort},
+            {QStringLiteral("videoStandard"), has(sdk::ProviderFunction::VideoStandard)},
+            {QStringLiteral("automaticMaintenance"), has(sdk::ProviderFunction::AutomaticMaintenance)},
+            {QStringLiteral("timeServerDetails"), has(sdk::ProviderFunction::TimeServerDetails)}};
+}

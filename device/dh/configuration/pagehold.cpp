@@ -1,0 +1,20 @@
+#include "device/dh/configuration/pagehold.h"
+
+#include "device/batch/batchplan.h"
+#include "device/registry/devicestore.h"
+
+#include <utility>
+
+PageHold::PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
+                   UpgradeCheck isUpgradingAt)
+    : m_store(std::move(store)), m_engine(std::move(engine)), m_isUpgradingAt(std::move(isUpgradingAt))
+{
+}
+
+BatchEngine::Hold PageHold::hold(const QString &ipport, const StepControl &control) const
+{
+    // The step of an upgrade takes minutes. What would disturb it is refused instead.
+    if (m_isUpgradingAt(ipport))
+        return {};
+    return m_engine->hold(workKey(m_store->rowAt(ipport), ipport, ipport), control.stopToken());
+}
