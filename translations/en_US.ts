@@ -896,56 +896,6 @@
     </message>
 </context>
 <context>
-    <name>CDeviceDH</name>
-    <message>
-        <source>未复制：%1</source>
-        <translation>Not copied: %1</translation>
-    </message>
-    <message>
-        <source>、</source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>设备没有应答</source>
-        <translation>No answer from the device</translation>
-    </message>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>The device is no longer in the list</translation>
-    </message>
-    <message>
-        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
-        <translation>The device was not found by a search, or reports neither a MAC address nor a UUID</translation>
-    </message>
-    <message>
-        <source>设备没有应答，密码可能已修改</source>
-        <translation>No answer from the device. Its password may have been changed.</translation>
-    </message>
-    <message>
-        <source>没有读到设备的时间</source>
-        <translation>The time could not be read</translation>
-    </message>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>The device has sent no image</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>No image of %n channel</numerusform>
-            <numerusform>No image of %n channels</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>已停止等待设备，地址可能已修改</source>
-        <translation>Stopped waiting for the device: its address may have changed</translation>
-    </message>
-    <message>
-        <source>超过时间限制，地址可能已修改</source>
-        <translation>Time limit exceeded: the address may have changed</translation>
-    </message>
-</context>
-<context>
     <name>CGIConfigManage</name>
     <message>
         <source>正在执行另一个文件中的CGI命令。</source>
@@ -2252,6 +2202,17 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
+    <name>EncodeCopies</name>
+    <message>
+        <source>未复制：%1</source>
+        <translation>Not copied: %1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>EncodeCopy</name>
     <message>
         <source>辅码流编码模式</source>
@@ -2658,6 +2619,21 @@ Right-click to copy the result</translation>
     <message>
         <source>MAC地址未知，不会执行</source>
         <translation>MAC address not known: skipped</translation>
+    </message>
+</context>
+<context>
+    <name>FoundDevices</name>
+    <message>
+        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
+        <translation>The device was not found by a search, or reports neither a MAC address nor a UUID</translation>
+    </message>
+    <message>
+        <source>已停止等待设备，地址可能已修改</source>
+        <translation>Stopped waiting for the device: its address may have changed</translation>
+    </message>
+    <message>
+        <source>超过时间限制，地址可能已修改</source>
+        <translation>Time limit exceeded: the address may have changed</translation>
     </message>
 </context>
 <context>
@@ -4874,6 +4850,20 @@ File: </translation>
     </message>
 </context>
 <context>
+    <name>PictureOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>The device has sent no image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>No image of %n channel</numerusform>
+            <numerusform>No image of %n channels</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>提示</source>
@@ -5082,6 +5072,13 @@ File: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Taken by the device, not confirmed</translation>
+    </message>
+</context>
+<context>
+    <name>RowUpgrades</name>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>The device is no longer in the list</translation>
     </message>
 </context>
 <context>
@@ -5705,6 +5702,21 @@ File: </translation>
     <message>
         <source>每天</source>
         <translation>Every day</translation>
+    </message>
+</context>
+<context>
+    <name>SystemOperations</name>
+    <message>
+        <source>设备没有应答</source>
+        <translation>No answer from the device</translation>
+    </message>
+    <message>
+        <source>没有读到设备的时间</source>
+        <translation>The time could not be read</translation>
+    </message>
+    <message>
+        <source>设备没有应答，密码可能已修改</source>
+        <translation>No answer from the device. Its password may have been changed.</translation>
     </message>
 </context>
 <context>

@@ -873,55 +873,6 @@
     </message>
 </context>
 <context>
-    <name>CDeviceDH</name>
-    <message>
-        <source>未复制：%1</source>
-        <translation>未复制：%1</translation>
-    </message>
-    <message>
-        <source>、</source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>设备没有应答</source>
-        <translation>设备没有应答</translation>
-    </message>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>设备已不在列表中</translation>
-    </message>
-    <message>
-        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
-        <translation>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</translation>
-    </message>
-    <message>
-        <source>设备没有应答，密码可能已修改</source>
-        <translation>设备没有应答，密码可能已修改</translation>
-    </message>
-    <message>
-        <source>没有读到设备的时间</source>
-        <translation>没有读到设备的时间</translation>
-    </message>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>设备没有发送画面</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>%n 个通道没有图像</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>已停止等待设备，地址可能已修改</source>
-        <translation>已停止等待设备，地址可能已修改</translation>
-    </message>
-    <message>
-        <source>超过时间限制，地址可能已修改</source>
-        <translation>超过时间限制，地址可能已修改</translation>
-    </message>
-</context>
-<context>
     <name>CGIConfigManage</name>
     <message>
         <source>正在执行另一个文件中的CGI命令。</source>
@@ -2215,6 +2166,17 @@
     </message>
 </context>
 <context>
+    <name>EncodeCopies</name>
+    <message>
+        <source>未复制：%1</source>
+        <translation>未复制：%1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>EncodeCopy</name>
     <message>
         <source>辅码流编码模式</source>
@@ -2618,6 +2580,21 @@
     <message>
         <source>MAC地址未知，不会执行</source>
         <translation>MAC地址未知，不会执行</translation>
+    </message>
+</context>
+<context>
+    <name>FoundDevices</name>
+    <message>
+        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
+        <translation>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</translation>
+    </message>
+    <message>
+        <source>已停止等待设备，地址可能已修改</source>
+        <translation>已停止等待设备，地址可能已修改</translation>
+    </message>
+    <message>
+        <source>超过时间限制，地址可能已修改</source>
+        <translation>超过时间限制，地址可能已修改</translation>
     </message>
 </context>
 <context>
@@ -4800,6 +4777,19 @@
     </message>
 </context>
 <context>
+    <name>PictureOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>设备没有发送画面</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>%n 个通道没有图像</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>提示</source>
@@ -5007,6 +4997,13 @@
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>设备已接受，但结果未确认</translation>
+    </message>
+</context>
+<context>
+    <name>RowUpgrades</name>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>设备已不在列表中</translation>
     </message>
 </context>
 <context>
@@ -5629,6 +5626,21 @@
     <message>
         <source>每天</source>
         <translation>每天</translation>
+    </message>
+</context>
+<context>
+    <name>SystemOperations</name>
+    <message>
+        <source>设备没有应答</source>
+        <translation>设备没有应答</translation>
+    </message>
+    <message>
+        <source>没有读到设备的时间</source>
+        <translation>没有读到设备的时间</translation>
+    </message>
+    <message>
+        <source>设备没有应答，密码可能已修改</source>
+        <translation>设备没有应答，密码可能已修改</translation>
     </message>
 </context>
 <context>
