@@ -34,6 +34,7 @@ class TestWatchedDevices : public QObject
     Q_OBJECT
 private:
     std::unique_ptr<WatchedDevices> m_watched;
+    QStringList m_left; ///< addresses of the channels when a device was removed
     QObject m_companion;
 
     /// Adds a device as the scene does, which makes a companion for each row.
@@ -107,15 +108,14 @@ private Q_SLOTS:
         m_watched->setFirst(ipportOf(0), "D0", channelsNamed({"C0"}));
         add(1, "D1", {"C0", "C1"});
         add(2, "D2", {"C0"});
-        QStringList left;
         connect(m_watched.get(), &QAbstractItemModel::rowsAboutToBeRemoved, this,
-                [&] { left = texts("ipport"); });
+                [this] { m_left = texts("ipport"); });
         m_watched->remove(ipportOf(1));
-        QCOMPARE(left, (QStringList{ipportOf(0), ipportOf(2)}));
+        QCOMPARE(m_left, (QStringList{ipportOf(0), ipportOf(2)}));
         connect(m_watched.get(), &QAbstractItemModel::modelAboutToBeReset, this,
-                [&] { left = texts("ipport"); });
+                [this] { m_left = texts("ipport"); });
         m_watched->clear();
-        QCOMPARE(left, QStringList(ipportOf(0)));
+        QCOMPARE(m_left, QStringList(ipportOf(0)));
         QCOMPARE(texts("caption"), QStringList("C0"));
     }
 
