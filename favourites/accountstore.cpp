@@ -257,21 +257,13 @@ QString AccountStore::keep(const QList<Device> &devices, const QString &account,
     return write(std::move(changed));
 }
 
-QString AccountStore::setDamagedAside() const
-{
-    QString kept = m_path + QStringLiteral(".damaged");
-    for (int number = 2; QFileInfo::exists(kept); ++number)
-        kept = m_path + QStringLiteral(".damaged%1").arg(number);
-    return renameOver(m_path, kept);
-}
-
 QString AccountStore::write(Contents contents)
 {
     if (contents.accounts.size() > maximumAccounts || contents.devices.size() > maximumDevices)
         return tr("账号已满：最多 %1 个账号和 %2 台设备").arg(maximumAccounts).arg(maximumDevices);
     std::ranges::sort(contents.accounts, isBefore);
     if (!m_path.isEmpty()) {
-        QString failure = problem().isEmpty() ? QString() : setDamagedAside();
+        QString failure = problem().isEmpty() ? QString() : setDamagedFileAside(m_path);
         if (failure.isEmpty())
             failure = replaceFile(m_path, textOf(contents));
         if (!failure.isEmpty())

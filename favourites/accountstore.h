@@ -88,7 +88,6 @@ private:
     [[nodiscard]] static QString refusalOf(const StoredAccount &account);
     [[nodiscard]] Contents contents() const;
     [[nodiscard]] QString write(Contents contents);
-    [[nodiscard]] QString setDamagedAside() const;
 
     const QString m_path;
     std::mutex m_writing; ///< held from reading the entries to change until they are written

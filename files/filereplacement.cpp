@@ -61,3 +61,12 @@ QString renameOver(const QString &from, const QString &to)
     std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
     return error ? QString::fromLocal8Bit(error.message().c_str()) : QString();
 }
+
+QString setDamagedFileAside(const QString &path)
+{
+    const QString ending = QStringLiteral(".damaged");
+    QString kept = path + ending;
+    for (int number = 2; QFileInfo::exists(kept); ++number)
+        kept = path + ending + QString::number(number);
+    return renameOver(path, kept);
+}

@@ -22,3 +22,7 @@ class QFileDevice;
 /// Renames the file `from` to `to` in the same file system; an existing file is replaced. Returns the reason
 /// of a failure; empty on success.
 [[nodiscard]] QString renameOver(const QString &from, const QString &to);
+
+/// Keeps the damaged file `path` under a free name next to it: with the ending ".damaged", ".damaged2" and so
+/// on. Returns the reason of a failure; empty on success.
+[[nodiscard]] QString setDamagedFileAside(const QString &path);

@@ -179,10 +179,7 @@ QString CertificateStore::write(const QList<Entry> &entries)
                                 {portKey, entry.port},
                                 {fingerprintKey, entry.fingerprint}});
     if (!problem().isEmpty()) {
-        QString kept = m_path + QStringLiteral(".damaged");
-        for (int number = 2; QFileInfo::exists(kept); ++number)
-            kept = m_path + QStringLiteral(".damaged%1").arg(number);
-        QString failure = renameOver(m_path, kept);
+        QString failure = setDamagedFileAside(m_path);
         if (!failure.isEmpty())
             return failure;
     }

@@ -155,10 +155,7 @@ QString DeviceNotes::write(const QHash<QString, QString> &notes) const
     for (const QString &device : std::as_const(devices))
         list.append(QJsonObject{{deviceKey, device}, {textKey, notes.value(device)}});
     if (m_state == State::Damaged && QFileInfo::exists(m_path)) {
-        QString kept = m_path + QStringLiteral(".damaged");
-        for (int number = 2; QFileInfo::exists(kept); ++number)
-            kept = m_path + QStringLiteral(".damaged%1").arg(number);
-        QString failure = renameOver(m_path, kept);
+        QString failure = setDamagedFileAside(m_path);
         if (!failure.isEmpty())
             return failure;
     }
