@@ -173,6 +173,7 @@ bool Batch::start()
             items.push_back({.device = device.key, .login = login, .step = preparedStep(device, isPrepared)});
     }
     m_began = QDateTime::currentDateTime();
+    m_start = m_engine.now();
     m_isRunning = true;
     m_number = m_engine.start(std::move(items), m_plan.policy, m_mailbox);
     m_isRunning = m_number != 0;
@@ -203,7 +204,7 @@ void Batch::noteProgress(double progress)
 int Batch::secondsLeft() const
 {
     constexpr qint64 earliest = 2000; // milliseconds
-    const qint64 elapsed = m_began.msecsTo(QDateTime::currentDateTime());
+    const qint64 elapsed = m_engine.now() - m_start;
     if (!m_isRunning || m_advance.progress <= 0 || elapsed < earliest)
         return -1;
     // The estimate is that of the last advance. When its time has passed without another one, none is known.
@@ -215,7 +216,7 @@ int Batch::secondsLeft() const
 void Batch::noteAdvance()
 {
     if (progress() > m_advance.progress)
-        m_advance = {progress(), m_began.msecsTo(QDateTime::currentDateTime())};
+        m_advance = {progress(), m_engine.now() - m_start};
 }
 
 void Batch::stop()
@@ -465,6 +466,7 @@ void Batch::takeNews()
         if (entry.outcome.result == BatchReport::Succeeded)
             m_succeeded.append(entry.device.name);
     }
+    noteAdvance();
     m_report.note(devices, results);
     deliver(outcomes);
     m_isHeld = m_isHeld || news.isHeld;

@@ -199,7 +199,8 @@ private:
     QList<qsizetype> m_running; ///< places of running steps, in the order of their start
     QDateTime m_began;
     QDateTime m_ended;
-    int m_number = 0; ///< in the engine
+    qint64 m_start = 0; ///< milliseconds on the clock of the engine
+    int m_number = 0;   ///< in the engine
     int m_done = 0;
     double m_progress = 0; ///< as noted
     Advance m_advance;

@@ -45,6 +45,11 @@ bool wasLoggedIn(int result)
 
 BatchEngine::BatchEngine(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
 
+std::int64_t BatchEngine::now() const
+{
+    return m_clock ? m_clock->now() : sdk::SystemClock().now();
+}
+
 BatchEngine::~BatchEngine()
 {
     end();

@@ -66,6 +66,9 @@ public:
     BatchEngine(const BatchEngine &) = delete;
     BatchEngine &operator=(const BatchEngine &) = delete;
 
+    /// Milliseconds on the clock of the deadlines; without it on one of the system.
+    [[nodiscard]] std::int64_t now() const;
+
     /// Returns the batch's number, 0 when the engine has ended or there is no thread to be had. An empty
     /// batch ends at once, in this call. The engine keeps the watcher until ended() has returned.
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QThreadPool>
@@ -357,6 +358,41 @@ private Q_SLOTS:
         QCOMPARE(m_batches->retry(batch), nullptr);
         QVERIFY(refused.value(0).value(0).toString().contains("192.168.1.1:"));
         QCOMPARE(askedMacs("NetLoginSecure"), QStringList());
+    }
+
+    void theTimeLeftIsEstimatedAtEachAdvance()
+    {
+        const auto clock = std::make_shared<sdk::demo::SteppableClock>();
+        BatchEngine engine(clock);
+        QSemaphore released;
+        BatchPlan plan;
+        plan.policy.atOnce = 1;
+        for (const QString &name : QStringList{"a", "b", "c", "d"})
+            plan.devices.append({.name = name, .identity = name, .ipport = {}, .title = {}, .login = name});
+        plan.stepOf = [&released](const BatchDevice &) {
+            return [&released](const StepControl &) {
+                released.acquire();
+                return StepOutcome{.result = BatchReport::Succeeded, .text = {}};
+            };
+        };
+        Batch batch(engine, plan);
+        const auto end = qScopeGuard([&released] { released.release(4); }); // a failure leaves steps behind
+        QVERIFY(batch.start());
+        QCOMPARE(batch.secondsLeft(), -1);
+        clock->advance(std::chrono::seconds(3));
+        released.release();
+        QTRY_COMPARE(batch.done(), 1);
+        QCOMPARE(batch.secondsLeft(), 9);
+        clock->advance(std::chrono::seconds(5));
+        QCOMPARE(batch.secondsLeft(), 4);
+        clock->advance(std::chrono::seconds(5)); // the estimate was too short
+        QCOMPARE(batch.secondsLeft(), -1);
+        released.release();
+        QTRY_COMPARE(batch.done(), 2);
+        QCOMPARE(batch.secondsLeft(), 13);
+        released.release(2);
+        QTRY_VERIFY(!batch.isRunning());
+        QCOMPARE(batch.secondsLeft(), -1);
     }
 
     void aRowOfAnUpgradingDeviceIsRefusedAtOnce()
