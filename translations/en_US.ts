@@ -628,6 +628,13 @@
             <numerusform>runs on %n devices</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>跳过 %n 台</source>
+        <translation>
+            <numerusform>%n skipped</numerusform>
+            <numerusform>%n skipped</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>BatchPreviewDialog</name>

@@ -614,6 +614,12 @@
             <numerusform>对 %n 台设备执行</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>跳过 %n 台</source>
+        <translation>
+            <numerusform>跳过 %n 台</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>BatchPreviewDialog</name>

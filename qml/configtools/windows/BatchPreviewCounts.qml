@@ -43,30 +43,19 @@ Row {
             }
         }
     }
-    Row {
+    OVLabel {
         height: parent.height
-        spacing: Theme.signGap
+        color: Theme.colours.sub
+        objectName: "planSkipped"
+        text: qsTr("跳过 %n 台", "", root.preview.skippedCount)
         visible: root.preview.skippedCount > 0
 
-        OVIcon {
-            anchors.verticalCenter: parent.verticalCenter
-            color: Theme.colours.sub
-            name: "mixed"
-            size: Theme.smallIconSize
+        HoverHandler {
+            id: skippedPointer
         }
-        OVLabel {
-            height: parent.height
-            color: Theme.colours.sub
-            objectName: "planSkipped"
-            text: root.preview.skippedCount
-
-            HoverHandler {
-                id: skippedPointer
-            }
-            OVToolTip {
-                shown: skippedPointer.hovered
-                text: qsTr("%n 台设备不会执行，请查看提示", "", root.preview.skippedCount)
-            }
+        OVToolTip {
+            shown: skippedPointer.hovered
+            text: qsTr("%n 台设备不会执行，请查看提示", "", root.preview.skippedCount)
         }
     }
 }
