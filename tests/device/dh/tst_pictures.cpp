@@ -195,6 +195,18 @@ private Q_SLOTS:
         view.stop();
 
         const qsizetype logins = asked("NetLoginSecure", camera);
+        const QString folder = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        const QSignalSpy pictures(&session, &LiveSession::pictureTaken);
+        session.takePicture(0, "Gate/1");
+        const bool isTaken = QTest::qWaitFor([&] { return !pictures.isEmpty(); }, longWait);
+        QVERIFY(QDir::setCurrent(folder));
+        QVERIFY(isTaken);
+        const QString path = pictures.last().at(1).toString().mid(QStringLiteral("file:///").size());
+        QCOMPARE(QFileInfo(path).path(), m_folder.filePath("snap/Gate_1"));
+        QVERIFY(!QImage(path).isNull());
+        QCOMPARE(m_site->requests().of("NetStartRealStream").last().mac, camera);
+
         session.open(cameraPort, "admin", "secret1"); // the device answers in the session
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, longWait);
         QCOMPARE(session.handle(), handle);

@@ -24,6 +24,12 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "            deviceTable.setCheckedDevices(identities);\n"
                           "            deviceTree.setCheckedDevices(identities);\n"
                           "        }\n"
+                          "    }\n"
+                          "    QtObject { id: store; function keepNew(devices, keeping) { return ''; } }\n"
+                          "    AccountKeeper { id: keeper; objectName: 'keeper'; batches: works }\n"
+                          "    Component.onCompleted: LoginMemory.accounts = store\n"
+                          "    function keepNew() {\n"
+                          "        keeper.follow(works.current, AccountList.ForDevices);\n"
                           "    }\n";
 
 constexpr int wrongPassword = 2;
@@ -60,6 +66,7 @@ private:
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     ChosenFile m_file;
+    int m_resultAgain = 0;
     QSemaphore m_gate; ///< lets one step end for each of its resources
 
     [[nodiscard]] QQuickItem *find(const QByteArray &name) const
@@ -85,7 +92,7 @@ private:
         return names;
     }
 
-    /// A device for each result, one after another. Each succeeds in another try.
+    /// A device for each result, one after another. Each has m_resultAgain in another try.
     Batch *start(const Results &results)
     {
         BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 1, .wrongPasswordsInARow = 2}};
@@ -98,7 +105,7 @@ private:
         }
         plan.stepOf = [this, results](const BatchDevice &device) {
             const int place = QStringView(device.identity).mid(1).toInt() - 1;
-            const int result = m_batches->kept().isEmpty() ? results.at(place) : 0;
+            const int result = m_batches->kept().isEmpty() ? results.at(place) : m_resultAgain;
             return [this, result](const StepControl & /*control*/) {
                 m_gate.acquire();
                 return StepOutcome{.result = result, .text = {}};
@@ -212,6 +219,25 @@ private Q_SLOTS:
         QTRY_COMPARE(text("selectedCount"), QStringLiteral("Ticked  ·  Work：1 台设备成功"));
         QVERIFY(!find("footWarning") && m_batches->failedMarks()->count() == 0);
         QCOMPARE(retried.first().first().value<Batch *>(), batch);
+    }
+
+    void aRetryThatStoresNoAccountReportsNone()
+    {
+        const QObject *keeper = m_window->findChild<QObject *>("keeper");
+        const Batch *batch = start({0, networkFailure});
+        QVERIFY(QMetaObject::invokeMethod(m_window.get(), "keepNew"));
+        m_gate.release(2);
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(keeper->property("keptCount").toInt(), 1);
+        QVERIFY(!keeper->property("words").toString().isEmpty());
+
+        const QSignalSpy retried(m_batches.get(), &Batches::retried);
+        m_resultAgain = networkFailure;
+        m_gate.release();
+        press("retryFailedButton");
+        QTRY_VERIFY(!retried.isEmpty() && !m_batches->isRunning());
+        QCOMPARE(keeper->property("words").toString(), QString());
+        m_resultAgain = 0;
     }
 
     void resultsAreSaved_data()
