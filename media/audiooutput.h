@@ -37,9 +37,9 @@ public:
     /// `pushed` in both cases, with the buffer locked. On the decoder's thread.
     void push(const std::uint8_t *data, std::int32_t size, const std::function<void()> &pushed);
 
-    /// Writes what was gathered to the output, which loses what it has no room for. Opens the output anew
-    /// when it has gone, or another one is the default: not every system tells that (the sound library of
-    /// Debian 12 does not), so it is looked at once a second.
+    /// Writes the gathered samples to the output, which drops those that it has no room for. Opens the output
+    /// again when it was removed or another one is the default. Not every system reports that (the sound
+    /// library of Debian 12 does not), so it is checked once a second.
     void drain();
 
     /// Plays from now on with the current sample rate on the current default output, if there is one. Does

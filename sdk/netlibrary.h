@@ -211,8 +211,8 @@ public:
     virtual bool NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
                                         std::uint32_t flag) = 0;
 
-    /// Tells the device that its stream is watched from here on: it begins anew with a picture that needs no
-    /// earlier one. `reserved` is 0.
+    /// Reports to the device that its stream is watched from now on: the stream starts again with a key
+    /// frame. `reserved` is 0.
     virtual bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel,
                                    std::uint32_t reserved) = 0;
 

@@ -7,7 +7,7 @@
 
 namespace sdk {
 
-/// When daylight saving begins or ends, each year anew.
+/// When daylight saving time begins or ends, in every year.
 struct DaylightSavingPoint
 {
     static constexpr std::int32_t byDate = 0;    ///< `week` of a point that is a day of the month

@@ -89,7 +89,7 @@ private:
     };
 
     void rebuild();
-    void placeGroups(); ///< numbers the rows of the groups anew
+    void placeGroups(); ///< numbers the rows of the groups again
     void forward(const QModelIndex &first, const QModelIndex &last);
     [[nodiscard]] std::optional<Place> placeOf(int row) const;
     [[nodiscard]] QModelIndex treeIndex(const Place &place) const;

@@ -23,7 +23,7 @@ public:
     PicturePainter(const PicturePainter &) = delete;
     PicturePainter &operator=(const PicturePainter &) = delete;
 
-    /// Makes the textures anew. There are none then when the graphics driver has none of that size.
+    /// Creates the textures again. There are none if the graphics driver does not support the size.
     void setPictureSize(const QSize &size);
     [[nodiscard]] QSize pictureSize() const { return m_size; }
     [[nodiscard]] bool hasTextures() const { return m_textures.front() != 0; }

@@ -261,7 +261,7 @@ void walkDiscarding(Driver &driver)
     driver.require(u"encodeSaveButton"_s);
     awaitIdle(driver);
     driver.check(driver.require(u"mainControlChoice"_s)->property("currentIndex").toInt() == 1,
-                 u"what was given up is read anew"_s);
+                 u"discarded settings are read again"_s);
 }
 
 void walkImage(Driver &driver, sdk::demo::DemoSite &site)

@@ -91,7 +91,7 @@ void walkOtherSize(Driver &driver, Driver &live)
     driver.click(u"device_"_s + camera);
     driver.require(u"mainResolutionChoice"_s);
     driver.await(u"the device was asked"_s, [&] { return !driver.text(u"configState"_s).endsWith(u'…'); });
-    awaitPictures(live, 1); // the page has logged in anew
+    awaitPictures(live, 1); // the page has logged in again
     const QQuickItem *choice = driver.require(u"mainResolutionChoice"_s);
     const int other = choice->property("currentIndex").toInt() == 0 ? 1 : 0;
     driver.click(u"mainResolutionChoice"_s);

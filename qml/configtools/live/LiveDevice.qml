@@ -79,8 +79,8 @@ Item {
         heard = 0;
     }
 
-    /// Looks whether a stream can be asked for: answered() follows. A device that has restarted has forgotten the
-    /// session, and is logged in to anew, once for all streams.
+    /// Checks whether a stream can be requested: answered() follows. A restart of the device ends the session; the
+    /// login is then repeated, once for all streams.
     function look() {
         if (asking)
             return;

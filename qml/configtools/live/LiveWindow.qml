@@ -116,7 +116,7 @@ T.ApplicationWindow {
         results.wanted().open();
     }
 
-    /// One of the pictures anew, unless its device is no longer shown.
+    /// Takes the snapshot of a channel again. Refused after its device was removed from the window.
     function snapAgain(channel) {
         const entry = grid.channels.find(shown => shown.ipport === taking.ipport && shown.channel === channel);
         if (entry)

@@ -54,7 +54,7 @@ Item {
             ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("未执行")}) : entry);
     }
 
-    /// Takes one channel, anew when it was taken before. `companion` is that of an added device, else null.
+    /// Takes a snapshot of one channel; an earlier one is replaced. `companion` is that of an added device, else null.
     function take(ipport, entry, companion) {
         const wanted = folderOf(ipport);
         if (wanted !== folder)
@@ -92,7 +92,7 @@ Item {
             return;
         running -= 1;
         const before = results.find(entry => entry.channel === channel);
-        // A picture that was written anew is read anew.
+        // The revision makes the view read a replaced file again.
         change(channel, {picture: picture, message: message, revision: (before?.revision ?? 0) + 1,
                          state: picture !== "" ? Snapshots.Taken : Snapshots.Failed});
     }

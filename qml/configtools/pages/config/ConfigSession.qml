@@ -125,7 +125,7 @@ Item {
             shown.load();
     }
 
-    /// The live view works with the same login, and has just made it anew. What ran was meant for the one before.
+    /// The live view uses the same login and has just repeated it. The work that ran belonged to the earlier login.
     function noteOtherLogin() {
         const isChangeLost = unsaved > 0 || writing;
         lost = false;

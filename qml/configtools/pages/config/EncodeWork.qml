@@ -22,7 +22,7 @@ Item {
         return result !== 0 && result !== configurationUnreadable && result !== abilitiesUnknown;
     }
 
-    /// Forgets the device. What was changed and not saved is lost; it is read anew when it is next shown.
+    /// Clears the device. Unsaved changes are lost. The settings are read again when the device is next shown.
     function forget() {
         read = false;
         unsavedItems = "";
