@@ -71,6 +71,7 @@ QtObject {
     readonly property int batchPanelWidth: 1216
     readonly property int batchPanelHeight: 600
     readonly property int batchListWidth: 408
+    readonly property real batchListShare: 0.3  // of the panel at most
     readonly property int batchBarWidth: 120
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
@@ -82,6 +83,7 @@ QtObject {
 
     // Pages with a device tree at the left and panels at the right.
     readonly property int treePaneWidth: 344
+    readonly property real treePaneShare: 0.3  // of the page at most
     readonly property int treeIndent: 22
     readonly property int panelWidth: 640
     readonly property int clockListHeight: 210
@@ -101,10 +103,13 @@ QtObject {
     readonly property int switchHeight: 20
     readonly property int changeMark: 6
     readonly property int encodeLabelWidth: 104
-    readonly property int imageLabelWidth: 124
+    readonly property int imageLabelWidth: 156
+    readonly property int imageWidth: 640  // of the image settings at most
+    readonly property int encodeWidth: 900
+    readonly property int encodeColumnWidth: 260  // of a stream beside the other one, at least
     readonly property int imageSideWidth: 272
+    readonly property real imageSideShare: 0.4  // of the panel at most
     readonly property int sideLabelWidth: 88
-    readonly property int configTabsWidth: 380
     readonly property int rangeFieldWidth: 76
     readonly property int sliderRest: 400  // milliseconds without a further step, after which a value counts
 
@@ -138,6 +143,7 @@ QtObject {
     readonly property int columnPlanAddress: 128
     readonly property int columnPlanAction: 184
     readonly property int columnPlanMark: 256
+    readonly property int columnPlanNoteLeast: 200
     readonly property int columnShortActions: 72
     readonly property int columnPort: 72
     readonly property int columnBytes: 84
@@ -148,15 +154,19 @@ QtObject {
     readonly property int columnCommand: 320
     readonly property int columnFile: 132
     readonly property int columnProgress: 172
-    readonly property int columnUpgradeActions: 140
+    readonly property int columnProgressLeast: 152
+    readonly property int columnUpgradeActions: 148
     readonly property int columnUpgradeNumber: 44
     readonly property int columnUpgradeName: 128
     readonly property int columnUpgradeModel: 100
     readonly property int columnUpgradeAddress: 160
+    readonly property int columnUpgradeAddressLeast: 148
     readonly property int columnUpgradeVersion: 96
+    readonly property int columnUpgradeVersionLeast: 84
     readonly property int columnUpgradeResult: 224
     readonly property int columnNote: 128
     readonly property int columnLeast: 88  // that a column with a share of spare room gives way to
+    readonly property int columnNameMost: 400  // that spare room gives to names and models
     readonly property int columnMost: 480  // that a column is fitted to
     readonly property int progressWidth: 76  // of a bar in a row
     readonly property int noteWidth: 480  // of the dialog for a note

@@ -8,6 +8,7 @@ Rectangle {
     required property var tabs
     required property int currentIndex
     property string namePrefix: "tab"  // of the object names of the tabs
+    readonly property real tabsWidth: row.x + row.width
     signal activated(int index)
 
     implicitHeight: Theme.tabBarHeight
@@ -27,6 +28,14 @@ Rectangle {
         x: Theme.pageMargin
         height: parent.height
 
+        /// Of a tab beside its text: less where the tabs have little room.
+        readonly property real padding: {
+            let room = root.width - 2 * x;
+            for (let i = 0; i < repeater.count; ++i)
+                room -= repeater.itemAt(i)?.contentItem.implicitWidth ?? 0;
+            return Math.max(12, Math.min(28, Math.floor(room / Math.max(1, repeater.count))));
+        }
+
         // qmllint disable unqualified
         Repeater {
             id: repeater
@@ -39,7 +48,7 @@ Rectangle {
                 required property string modelData
                 readonly property bool current: index === root.currentIndex
 
-                implicitWidth: label.implicitWidth + 28
+                implicitWidth: label.implicitWidth + row.padding
                 implicitHeight: Theme.tabBarHeight
                 // The arrow keys lead to the other tabs. A tab keeps its Tab stop as long as it has the focus.
                 focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus

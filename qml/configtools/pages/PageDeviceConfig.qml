@@ -255,7 +255,7 @@ FocusScope {
         id: deviceTree
         x: Theme.pageMargin
         y: Theme.pageMargin
-        width: Theme.treePaneWidth
+        width: Math.min(Theme.treePaneWidth, Math.round(page.width * Theme.treePaneShare))
         height: foot.y - y
         busyDevice: copying.running ? copying.current : session.busy ? session.device : ""
         choosing: true

@@ -36,7 +36,7 @@ Item {
             font: Theme.figureFont
             objectName: "configDevice"
             text: root.details
-            visible: text !== ""
+            visible: text !== "" && root.width - state.width - parent.spacing > Theme.columnNumber
         }
         Row {
             id: state
@@ -57,6 +57,7 @@ Item {
                 visible: root.session.device !== "" && !root.session.busy
             }
             OVLabel {
+                width: Math.min(implicitWidth, root.width - Theme.smallIconSize - parent.spacing)
                 height: root.height
                 color: root.session.device !== "" && !root.session.busy && !root.session.loggedIn
                     ? Theme.colours.bad : Theme.colours.sub

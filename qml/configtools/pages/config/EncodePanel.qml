@@ -44,7 +44,7 @@ Item {
             id: content
             x: Theme.pageMargin + Theme.unit
             y: Theme.controlGap
-            width: view.width - 2 * x
+            width: Math.min(Theme.encodeWidth, view.width - 2 * x)
             spacing: Theme.unit
 
             Item {
@@ -67,12 +67,15 @@ Item {
                     }
                 }
             }
-            Row {
+            Grid {
                 id: streams
 
-                readonly property real columnWidth: (content.width - spacing) / 2
+                readonly property bool beside: content.width >= 2 * Theme.encodeColumnWidth + columnSpacing
+                readonly property real columnWidth: beside ? (content.width - columnSpacing) / 2 : content.width
 
-                spacing: Theme.unit * 5
+                columnSpacing: Theme.unit * 5
+                columns: beside ? 2 : 1
+                rowSpacing: Theme.pageMargin
                 visible: !root.work.failed
 
                 EncodeStream {

@@ -65,7 +65,7 @@ Item {
         Item {
             id: groups
             x: choice.x
-            width: view.width - x - Theme.pageMargin - Theme.unit
+            width: Math.min(Theme.imageWidth, view.width - x - Theme.pageMargin - Theme.unit)
             height: children[root.subject].height
 
             ImagePictureGroups {
@@ -95,16 +95,17 @@ Item {
     }
     Rectangle {
         x: side.x - Theme.pageMargin
+        y: side.y - Theme.pageMargin
         width: Theme.line
-        height: parent.height
+        height: parent.height - y
         color: Theme.colours.line
     }
     ImageSide {
         id: side
         x: parent.width - width - Theme.pageMargin
-        y: Theme.pageMargin
-        width: Theme.imageSideWidth
-        height: parent.height - 2 * y
+        y: Theme.pageMargin + (choice.x + choice.width > x - 2 * Theme.pageMargin ? view.y : 0)  // below a wide choice
+        width: Math.min(Theme.imageSideWidth, Math.round(parent.width * Theme.imageSideShare))
+        height: parent.height - y - Theme.pageMargin
         work: root.work
     }
 }

@@ -1,5 +1,6 @@
 // Beside the image settings: the channel, its picture and its name, when the settings hold, and the defaults.
 import QtQuick
+import QtQuick.Templates as T
 import configtools
 
 Item {
@@ -27,94 +28,107 @@ Item {
         }
     }
 
-    Column {
-        width: parent.width
-        spacing: Theme.controlGap
+    Flickable {
+        id: view
+        anchors.fill: parent
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        contentHeight: Math.max(height, rows.height + Theme.pageMargin + buttons.height)
+        interactive: contentHeight > height
 
-        ChannelPicture {
-            width: parent.width
-            active: root.visible && root.work.session.loggedIn
-            channel: root.form.channel
-            deviceFactory: root.work.deviceFactory
-            connected: root.work.connectedChannels[root.form.channel] ?? true
-            channelName: root.form.channelName !== "" ? root.form.channelName
-                                                      : qsTr("通道 %1").arg(root.form.channel + 1)
-        }
-        OVFormRow {
-            width: parent.width
-            label: qsTr("通道")
-            labelWidth: Theme.sideLabelWidth
+        T.ScrollBar.vertical: OVScrollBar {}
 
-            OVChoice {
+        Column {
+            id: rows
+            width: parent.width
+            spacing: Theme.controlGap
+
+            ChannelPicture {
                 width: parent.width
-                accessibleName: qsTr("通道")
-                chosen: root.form.channel
-                enabled: root.form.channels.length > 1
-                model: root.form.channels
-                objectName: "imageChannelChoice"
-                source: root.form.groups
-                onPicked: index => root.work.chooseChannel(index)
+                active: root.visible && root.work.session.loggedIn
+                channel: root.form.channel
+                deviceFactory: root.work.deviceFactory
+                connected: root.work.connectedChannels[root.form.channel] ?? true
+                channelName: root.form.channelName !== "" ? root.form.channelName
+                                                          : qsTr("通道 %1").arg(root.form.channel + 1)
+            }
+            OVFormRow {
+                width: parent.width
+                label: qsTr("通道")
+                labelWidth: Theme.sideLabelWidth
+
+                OVChoice {
+                    width: parent.width
+                    accessibleName: qsTr("通道")
+                    chosen: root.form.channel
+                    enabled: root.form.channels.length > 1
+                    model: root.form.channels
+                    objectName: "imageChannelChoice"
+                    source: root.form.groups
+                    onPicked: index => root.work.chooseChannel(index)
+                }
+            }
+            OVFormRow {
+                width: parent.width
+                label: qsTr("通道名称")
+                labelWidth: Theme.sideLabelWidth
+
+                OVTextField {
+                    id: nameField
+                    width: parent.width
+                    accessibleName: qsTr("通道名称")
+                    enabled: !root.work.session.upgrading
+                    errorText: ByteText.bytes(text.trim()) > ByteText.channelNameBytes
+                        ? qsTr("名称过长，最多 %1 字节").arg(ByteText.channelNameBytes) : ""
+                    objectName: "channelNameField"
+                    text: root.form.channelName
+                    onAccepted: root.finishName()
+                    onActiveFocusChanged: if (!activeFocus) root.finishName()
+                }
+            }
+            OVFormRow {
+                width: parent.width
+                label: qsTr("配置模式")
+                labelWidth: Theme.sideLabelWidth
+
+                OVChoice {
+                    width: parent.width
+                    accessibleName: qsTr("配置模式")
+                    chosen: root.form.switchMode
+                    enabled: root.form.switchModes.length > 1
+                    model: root.form.switchModes
+                    objectName: "switchModeChoice"
+                    source: root.form.groups
+                    onPicked: index => root.work.chooseMode(index)
+                }
+            }
+            OVParagraph {
+                width: parent.width
+                color: Theme.colours.faint
+                font: Theme.hintFont
+                objectName: "imageNotice"
+                text: root.work.session.upgrading ? qsTr("设备正在升级，不能修改。") : qsTr("修改会立即写入设备。")
             }
         }
-        OVFormRow {
+        Row {
+            id: buttons
+            y: parent.height - height
             width: parent.width
-            label: qsTr("通道名称")
-            labelWidth: Theme.sideLabelWidth
+            spacing: Theme.unit
 
-            OVTextField {
-                id: nameField
-                width: parent.width
-                accessibleName: qsTr("通道名称")
-                enabled: !root.work.session.upgrading
-                errorText: ByteText.bytes(text.trim()) > ByteText.channelNameBytes
-                    ? qsTr("名称过长，最多 %1 字节").arg(ByteText.channelNameBytes) : ""
-                objectName: "channelNameField"
-                text: root.form.channelName
-                onAccepted: root.finishName()
-                onActiveFocusChanged: if (!activeFocus) root.finishName()
+            OVButton {
+                width: (parent.width - parent.spacing) / 2
+                objectName: "imageRefreshButton"
+                text: qsTr("刷新")
+                onClicked: root.work.load()
             }
-        }
-        OVFormRow {
-            width: parent.width
-            label: qsTr("配置模式")
-            labelWidth: Theme.sideLabelWidth
-
-            OVChoice {
-                width: parent.width
-                accessibleName: qsTr("配置模式")
-                chosen: root.form.switchMode
-                enabled: root.form.switchModes.length > 1
-                model: root.form.switchModes
-                objectName: "switchModeChoice"
-                source: root.form.groups
-                onPicked: index => root.work.chooseMode(index)
+            OVButton {
+                width: (parent.width - parent.spacing) / 2
+                enabled: root.groups.picture.support && !root.work.session.upgrading
+                objectName: "imageDefaultsButton"
+                text: qsTr("恢复默认")
+                onClicked: root.work.set("setDefault", [["", ""]])
             }
-        }
-        OVParagraph {
-            width: parent.width
-            color: Theme.colours.faint
-            font: Theme.hintFont
-            objectName: "imageNotice"
-            text: root.work.session.upgrading ? qsTr("设备正在升级，不能修改。") : qsTr("修改会立即写入设备。")
-        }
-    }
-    Row {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        spacing: Theme.unit
-
-        OVButton {
-            width: (parent.width - parent.spacing) / 2
-            objectName: "imageRefreshButton"
-            text: qsTr("刷新")
-            onClicked: root.work.load()
-        }
-        OVButton {
-            width: (parent.width - parent.spacing) / 2
-            enabled: root.groups.picture.support && !root.work.session.upgrading
-            objectName: "imageDefaultsButton"
-            text: qsTr("恢复默认")
-            onClicked: root.work.set("setDefault", [["", ""]])
         }
     }
 }

@@ -39,7 +39,7 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: Theme.pageMargin
         y: Theme.line
-        width: parent.width - Theme.configTabsWidth
+        width: Math.max(0, parent.width - tabs.tabsWidth - 2 * Theme.pageMargin)
         height: tabs.height
         session: root.session
     }

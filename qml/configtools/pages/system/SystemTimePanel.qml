@@ -72,7 +72,8 @@ Column {
             label: qsTr("时间")
             labelWidth: Theme.panelLabelWidth
 
-            Row {
+            Flow {
+                width: parent.width
                 spacing: Theme.unit
 
                 OVDateTimeField {
