@@ -1,8 +1,8 @@
 // A table of many rows. Columns are objects: "key" (a role of the model), "title", "width", and if wanted
 // "minimumWidth", "stretch" (its share of spare room), "sortable" and "cell" (a Component of an OVTableCell). In an
 // arrangeable table the user chooses which columns are shown and their order; "hidden" ones are not shown unless wanted,
-// "fixed" ones stay behind the others, and where room is short, those with a share of spare room give way, then those
-// with a "leastWidth".
+// and "fixed" ones stay behind the others. Where room is short, those with a share of spare room give way, then those
+// with a "leastWidth". Spare room makes a column no wider than its "mostWidth".
 // The model has the roles "checked", "conflict" (the row stands out) and "identity", get(row) for the values of
 // a row, and rowOf(identity), by which the current row lives through a reset. Values come through get() because
 // a role may bear any name, "model" among them, which delegates keep for something else. Ticks and order belong
@@ -51,18 +51,19 @@ FocusScope {
         const widths = columns.map(column => chosen[column.key] ?? column.width);
         const spare = room - widths.reduce((sum, width) => sum + width, 0);
         const shares = columns.map(column => chosen[column.key] === undefined ? column.stretch ?? 0 : 0);
-        if (spare < 0 && arrangeable)
-            return shrink(widths, shares, columns.map((column, i) =>
+        if (spare < 0)
+            return shrink(columns, widths, shares, columns.map((column, i) =>
                 chosen[column.key] === undefined ? column.leastWidth ?? widths[i] : widths[i]), -spare);
         const all = shares.reduce((sum, share) => sum + share, 0);
-        if (spare <= 0 || all === 0)
+        if (spare === 0 || all === 0)
             return widths;
-        return widths.map((width, i) => width + Math.floor(spare * shares[i] / all));
+        return widths.map((width, i) => shares[i] === 0 ? width
+            : Math.max(width, Math.min(columns[i].mostWidth ?? Infinity, width + Math.floor(spare * shares[i] / all))));
     }
 
     /// If that is not enough, the table scrolls.
-    function shrink(widths, shares, leastWidths, missing) {
-        const first = giveWay(widths, widths.map((width, i) => shares[i] > 0 ? Theme.columnLeast : width), missing);
+    function shrink(columns, widths, shares, leastWidths, missing) {
+        const first = giveWay(widths, widths.map((width, i) => shares[i] > 0 ? columns[i].leastWidth ?? Theme.columnLeast : width), missing);
         return giveWay(first, leastWidths, missing - widths.reduce((sum, width, i) => sum + width - first[i], 0));
     }
 

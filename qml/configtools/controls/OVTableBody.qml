@@ -223,7 +223,9 @@ ListView {
     // qmllint enable unqualified
 
     T.ScrollBar.vertical: OVScrollBar {}
-    T.ScrollBar.horizontal: OVScrollBar {}
+    T.ScrollBar.horizontal: OVScrollBar {
+        visible: root.count > 0 && size < 1.0
+    }
 
     WheelHandler {
         acceptedDevices: PointerDevice.AllDevices

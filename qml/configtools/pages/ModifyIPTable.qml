@@ -31,9 +31,9 @@ OVTable {
             key: "state", title: qsTr("状态"), width: Theme.columnState, minimumWidth: Theme.columnStateMinimum,
             leastWidth: Theme.columnStateMinimum, sortable: true, cell: stateCell
         },
-        {key: "name", title: qsTr("名称"), width: Theme.columnName, stretch: 2, sortable: true, cell: nameCell},
+        {key: "name", title: qsTr("名称"), width: Theme.columnName, mostWidth: Theme.columnNameMost, stretch: 2, sortable: true, cell: nameCell},
         {key: "type", title: qsTr("类型"), width: Theme.columnType, sortable: true},
-        {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 2, sortable: true},
+        {key: "model", title: qsTr("型号"), width: Theme.columnModel, mostWidth: Theme.columnNameMost, stretch: 2, sortable: true},
         {
             key: "ipport", title: qsTr("IP:端口"), width: root.ipv6 ? Theme.columnLongAddress : Theme.columnAddress,
             leastWidth: root.ipv6 ? Theme.columnLongAddress : Theme.columnUpgradeAddress,
@@ -145,6 +145,7 @@ OVTable {
                 anchors.right: parent.right
                 anchors.rightMargin: Theme.half
                 height: parent.height
+                opacity: truncated ? 0 : 1  // then only the dot, with the word under the pointer
                 text: state.value ? qsTr("已初始化") : qsTr("未初始化")
             }
         }
@@ -152,36 +153,7 @@ OVTable {
 
     Component {
         id: addressCell
-        OVTableCell {
-            id: address
-
-            OVLabel {
-                id: addressText
-                readonly property int signRoom: sign.visible ? sign.width + Theme.signGap : 0
-                width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
-                height: parent.height
-                font: Theme.figureFont
-                text: (address.value ?? "").replace(/^:/, "DHCP:")  // no address until the next search
-            }
-            OVIcon {
-                id: sign
-                anchors.left: addressText.right
-                anchors.leftMargin: Theme.signGap
-                anchors.verticalCenter: parent.verticalCenter
-                color: Theme.colours.bad
-                name: "alert"
-                size: Theme.smallIconSize
-                visible: address.conflict
-
-                HoverHandler {
-                    id: signPointer
-                }
-                OVToolTip {
-                    shown: signPointer.hovered
-                    text: qsTr("IP地址冲突")
-                }
-            }
-        }
+        DeviceAddressCell {}
     }
 
     // qmllint disable unqualified

@@ -12,7 +12,7 @@ OVTable {
 
     checkState: preview.checkState
     columns: [
-        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: figures},
+        {key: "num", title: qsTr("No."), width: Theme.columnNumber, leastWidth: Theme.columnUpgradeNumber, cell: figures},
         {key: "title", title: qsTr("名称和型号"), width: Theme.columnModel, stretch: 1},
         {
             key: "ipport", title: givesAddresses ? qsTr("原地址") : qsTr("IP:端口"),
@@ -26,7 +26,9 @@ OVTable {
             width: givesAddresses ? Theme.columnPlanAddress : Theme.columnPlanAction,
             stretch: givesFirmware ? 1 : 0, cell: actionCell
         },
-        {key: "note", title: qsTr("提示"), width: Theme.columnPlanMark, cell: noteCell}
+        {
+            key: "note", title: qsTr("提示"), width: Theme.columnPlanMark, leastWidth: Theme.columnPlanNoteLeast, cell: noteCell
+        }
     ]
     model: preview
     onAllToggled: checked => preview.setAllChecked(checked)

@@ -28,11 +28,20 @@ OVTable {
         {key: "num", title: qsTr("No."), width: Theme.columnUpgradeNumber, cell: numberCell},
         {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true, cell: nameCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnUpgradeModel, stretch: 1, sortable: true},
-        {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnUpgradeAddress, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: figureCell},
-        {key: "vision", title: qsTr("版本号"), width: Theme.columnUpgradeVersion, sortable: true, cell: figureCell},
+        {
+            key: "ipport", title: qsTr("IP:端口"), width: Theme.columnUpgradeAddress,
+            leastWidth: Theme.columnUpgradeAddressLeast, stretch: root.ipv6 ? 2 : 0, sortable: true, cell: addressCell
+        },
+        {
+            key: "vision", title: qsTr("版本号"), width: Theme.columnUpgradeVersion,
+            leastWidth: Theme.columnUpgradeVersionLeast, sortable: true, cell: figureCell
+        },
         {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
         {key: "filepath", title: qsTr("升级文件"), width: Theme.columnFile, stretch: 2, sortable: true, cell: fileCell},
-        {key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, cell: progressCell},
+        {
+            key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, leastWidth: Theme.columnProgressLeast,
+            cell: progressCell
+        },
         {key: "upgraderes", title: qsTr("结果"), width: Theme.columnUpgradeResult, stretch: 2, sortable: true, cell: resultCell},
         {key: "operate", title: qsTr("操作"), width: Theme.columnUpgradeActions, fixed: true, cell: actionCell}
     ]
@@ -69,6 +78,10 @@ OVTable {
         OVTableTextCell {
             font: Theme.figureFont
         }
+    }
+    Component {
+        id: addressCell
+        DeviceAddressCell {}
     }
     Component {
         id: fileCell

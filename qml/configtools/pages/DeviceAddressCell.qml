@@ -1,0 +1,35 @@
+// The address of a device, with a sign when another device has it, too.
+import QtQuick
+import configtools
+
+OVTableCell {
+    id: root
+
+    OVLabel {
+        id: words
+        readonly property int signRoom: sign.visible ? sign.width + Theme.signGap : 0
+        width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
+        height: parent.height
+        font: Theme.figureFont
+        text: (root.value ?? "").replace(/^:/, "DHCP:")  // no address until the next search
+    }
+    OVIcon {
+        id: sign
+        anchors.left: words.right
+        anchors.leftMargin: Theme.signGap
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.colours.bad
+        name: "alert"
+        objectName: "conflictSign" + root.rowIndex
+        size: Theme.smallIconSize
+        visible: root.conflict
+
+        HoverHandler {
+            id: pointer
+        }
+        OVToolTip {
+            shown: pointer.hovered
+            text: qsTr("IP地址冲突")
+        }
+    }
+}
