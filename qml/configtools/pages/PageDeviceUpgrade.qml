@@ -117,11 +117,12 @@ FocusScope {
         id: toolBar
         x: Theme.pageMargin
         width: parent.width - 2 * x
-        height: Theme.toolBarHeight
+        atOnce: page.atOnce
         ipv6: devices.ipv6
         failedCount: devices.failedCount
         marks: devices.failedMarks
         onlyFailed: devices.onlyFailed
+        onAtOnceChosen: count => page.chooseAtOnce(count)
         onDocumentRequested: work.chooseDocument()
         onFileRequested: work.chooseFileForChecked()
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
@@ -135,14 +136,12 @@ FocusScope {
         x: Theme.pageMargin
         y: toolBar.height
         width: parent.width - 2 * x
-        atOnce: page.atOnce
         batch: page.upgradeBatches.last
-        onAtOnceChosen: count => page.chooseAtOnce(count)
     }
     UpgradeTable {
         id: table
         x: Theme.pageMargin
-        y: summary.y + summary.height + Theme.unit
+        y: summary.y + summary.height
         width: parent.width - 2 * x
         height: foot.y - y
         checkState: devices.checkState

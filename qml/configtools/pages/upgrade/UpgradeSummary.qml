@@ -1,4 +1,4 @@
-// How the last upgrades of the session went, and how many devices are upgraded at a time.
+// How the last upgrades of the session went.
 import QtQuick
 import configtools
 
@@ -6,12 +6,9 @@ Item {
     id: root
 
     required property Batch batch  // null before the first upgrade
-    required property int atOnce
-    signal atOnceChosen(int count)
 
     readonly property BatchReport report: batch?.report ?? none
     readonly property BatchReport none: BatchReport {}
-    readonly property int mostAtOnce: 16
     readonly property int done: batch?.running ? batch.done : report.total - report.notDone
     readonly property string outcome: {
         if (batch?.running)  // those that are not done yet are still to come
@@ -21,10 +18,10 @@ Item {
         return report.summary;
     }
 
-    implicitHeight: Theme.controlHeight
+    implicitHeight: batch === null ? 0 : Theme.controlHeight + Theme.unit
 
     Row {
-        height: parent.height
+        height: Theme.controlHeight
         spacing: Theme.unit
         visible: root.batch !== null
 
@@ -40,27 +37,6 @@ Item {
             //: Devices of an upgrade that are done, of all of them.
             text: qsTr("升级：%1 / %2").arg(root.done).arg(root.batch?.total ?? 0)
                 + (root.outcome !== "" ? "  ·  " + root.outcome : "")
-        }
-    }
-    Row {
-        anchors.right: parent.right
-        height: parent.height
-        spacing: Theme.unit
-
-        OVLabel {
-            height: parent.height
-            color: Theme.colours.sub
-            //: Followed by a number of devices.
-            text: qsTr("同时升级")
-        }
-        OVComboBox {
-            width: Theme.hourFieldWidth
-            accessibleName: qsTr("同时升级的设备数")
-            currentIndex: root.atOnce - 1
-            font: Theme.figureFont
-            model: Array.from({length: root.mostAtOnce}, (value, index) => index + 1)
-            objectName: "upgradesAtOnceBox"
-            onActivated: index => root.atOnceChosen(index + 1)
         }
     }
 }

@@ -1,15 +1,17 @@
-// What can be done with the ticked devices of the upgrade page.
+// What can be done with the ticked devices of the upgrade page, how many are upgraded at a time, and which devices are
+// shown. In a narrow window the second part stands below the first one.
 import QtQuick
 import QtQuick.Layouts
 import configtools
 
-RowLayout {
+Item {
     id: root
 
     required property bool ipv6
     required property int failedCount
     required property FailedMarks marks
     required property bool onlyFailed
+    required property int atOnce
     property alias searchText: searchField.text
     readonly property bool keyGroup: true
     signal ipv6Chosen(bool ipv6)
@@ -19,15 +21,22 @@ RowLayout {
     signal retryRequested
     signal documentRequested
     signal templateRequested
+    signal atOnceChosen(int count)
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
-    spacing: Theme.pageMargin
+    readonly property int mostAtOnce: 16
+    readonly property bool wraps: width < actions.width + filters.spacing + filters.leastWidth
+    readonly property int lineHeight: Theme.controlHeight + Theme.unit
+
+    implicitHeight: Theme.toolBarHeight + (wraps ? lineHeight : 0)
 
     OVActionRow {
+        id: actions
+        y: (Theme.toolBarHeight - Theme.controlHeight) / 2
         OVButton {
             kind: OVButton.Primary
             objectName: "upgradeStartButton"
@@ -60,29 +69,59 @@ RowLayout {
             onClicked: root.templateRequested()
         }
     }
-    Item {
-        Layout.fillWidth: true
-    }
-    OVFailedFilter {
-        count: root.failedCount
-        marks: root.marks
-        on: root.onlyFailed
-        onToggled: on => root.onlyFailedToggled(on)
-    }
-    OVSegmentedChoice {
-        currentIndex: root.ipv6 ? 1 : 0
-        options: [{text: qsTr("IPV4"), objectName: "upgradeIpv4Choice"}, {text: qsTr("IPV6"), objectName: "upgradeIpv6Choice"}]
-        onActivated: index => root.ipv6Chosen(index === 1)
-    }
-    OVTextField {
-        id: searchField
-        Layout.fillWidth: true
-        Layout.maximumWidth: Theme.searchFieldWidth
-        Layout.minimumWidth: Theme.searchFieldMinimum
-        Layout.preferredWidth: Theme.searchFieldWidth
-        clearable: true
-        iconName: "search"
-        objectName: "upgradeSearchField"
-        placeholderText: qsTr("搜索...")
+    RowLayout {
+        id: filters
+        readonly property real leastWidth: implicitWidth - Theme.searchFieldWidth + Theme.searchFieldMinimum
+
+        x: root.wraps ? 0 : actions.width + spacing
+        y: actions.y + (root.wraps ? root.lineHeight : 0)
+        width: root.width - x
+        height: Theme.controlHeight
+        spacing: Theme.controlGap
+
+        Item {
+            Layout.fillWidth: true
+        }
+        Row {
+            spacing: Theme.unit
+
+            OVLabel {
+                height: parent.height
+                color: Theme.colours.sub
+                //: Followed by a number of devices.
+                text: qsTr("同时升级")
+            }
+            OVComboBox {
+                width: Theme.hourFieldWidth
+                accessibleName: qsTr("同时升级的设备数")
+                currentIndex: root.atOnce - 1
+                font: Theme.figureFont
+                model: Array.from({length: root.mostAtOnce}, (value, index) => index + 1)
+                objectName: "upgradesAtOnceBox"
+                onActivated: index => root.atOnceChosen(index + 1)
+            }
+        }
+        OVFailedFilter {
+            count: root.failedCount
+            marks: root.marks
+            on: root.onlyFailed
+            onToggled: on => root.onlyFailedToggled(on)
+        }
+        OVSegmentedChoice {
+            currentIndex: root.ipv6 ? 1 : 0
+            options: [{text: qsTr("IPV4"), objectName: "upgradeIpv4Choice"}, {text: qsTr("IPV6"), objectName: "upgradeIpv6Choice"}]
+            onActivated: index => root.ipv6Chosen(index === 1)
+        }
+        OVTextField {
+            id: searchField
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.searchFieldWidth
+            Layout.minimumWidth: Theme.searchFieldMinimum
+            Layout.preferredWidth: Theme.searchFieldWidth
+            clearable: true
+            iconName: "search"
+            objectName: "upgradeSearchField"
+            placeholderText: qsTr("搜索...")
+        }
     }
 }
