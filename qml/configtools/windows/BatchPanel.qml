@@ -31,8 +31,9 @@ OVDialog {
             });
     }
 
-    width: Math.min(Theme.batchPanelWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
-    height: Math.min(Theme.batchPanelHeight, (parent?.height ?? 0) - 4 * Theme.pageMargin)
+    wantedWidth: Theme.batchPanelWidth
+    height: Math.min(Theme.batchPanelHeight, mostHeight)
+    scrolls: false
     hasCancel: false
     objectName: "batchPanel"
     okText: qsTr("关闭")
@@ -97,13 +98,13 @@ OVDialog {
 
     OVTable {
         id: list
-        width: Math.min(Theme.batchListWidth, Math.round(parent.width / 3))
+        width: Math.min(Theme.batchListWidth, Math.round(parent.width * Theme.batchListShare))
         height: parent.height
         checkable: false
         columns: [
             {key: "title", title: qsTr("批处理"), width: Theme.columnType, stretch: 1},
             {key: "time", title: qsTr("开始时间"), width: Theme.columnTime, cell: figureCell},
-            {key: "counts", title: qsTr("成功 / 全部"), width: Theme.columnPlanAddress, cell: countCell}
+            {key: "counts", title: qsTr("成功 / 全部"), width: Theme.columnPlanAddress, leastWidth: Theme.columnLeast, cell: countCell}
         ]
         focus: true
         model: history
@@ -135,10 +136,13 @@ OVDialog {
         checkable: false
         columns: [
             {key: "device", title: qsTr("设备"), width: Theme.columnAddress, cell: figureCell},
-            {key: "mac", title: "MAC", width: Theme.columnMac, cell: figureCell},
             {key: "name", title: qsTr("名称"), width: Theme.columnModel, stretch: 1},
-            {key: "result", title: qsTr("结果"), width: Theme.columnModel, stretch: 2, cell: resultCell},
-            {key: "time", title: qsTr("时间"), width: Theme.columnTime, cell: figureCell}
+            {
+                key: "result", title: qsTr("结果"), width: Theme.columnOutcome, leastWidth: Theme.columnOutcome,
+                stretch: 2, cell: resultCell
+            },
+            {key: "time", title: qsTr("时间"), width: Theme.columnTime, cell: figureCell},
+            {key: "mac", title: "MAC", width: Theme.columnMac, cell: figureCell}
         ]
         model: results
         objectName: "batchResults"
