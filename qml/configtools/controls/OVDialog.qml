@@ -1,5 +1,6 @@
 // A modal box in the window: a head with a title, the content, a foot with buttons. Escape closes it, Enter
-// does what its primary button does, and the keyboard stays inside.
+// does what its primary button does, and the keyboard stays inside. It is no larger than the window: content that is
+// higher scrolls.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -21,6 +22,13 @@ T.Popup {
     property int noticeKind: OVToast.Error
     property alias footContent: footSlot.data  // beside the buttons
     readonly property alias buttonsWidth: buttons.width
+    property int wantedWidth: Theme.dialogWidth
+    property int leastHeight: 0
+    property bool scrolls: true  // false for content that fills the dialog, whatever its height
+    readonly property int mostWidth: parent ? parent.width - 4 * Theme.pageMargin : wantedWidth
+    readonly property int mostHeight: parent ? parent.height - 2 * Theme.pageMargin : implicitHeight
+    /// What the window has for the content, also while a notice stands above the buttons.
+    readonly property int contentRoom: mostHeight - head.height - strip.height - foot.height - 2 * contentMargin
     default property alias content: body.data
     signal accepted
     signal rejected
@@ -31,6 +39,7 @@ T.Popup {
     onAboutToShow: {
         leaving = false;
         notice = "";
+        view.contentY = 0;
         body.focus = true;  // not the button that answered the last time
     }
 
@@ -87,8 +96,8 @@ T.Popup {
     parent: T.Overlay.overlay
     x: Math.round(((parent?.width ?? 0) - width) / 2)
     y: Math.round(((parent?.height ?? 0) - height) / 2)
-    width: Theme.dialogWidth
-    height: implicitHeight
+    width: Math.min(wantedWidth, mostWidth)
+    height: Math.min(Math.max(leastHeight, implicitHeight), mostHeight)
     readonly property int contentMargin: dense ? Theme.unit + Theme.line : Theme.pageMargin
 
     implicitHeight: head.height + body.implicitHeight + 2 * contentMargin + strip.height + foot.height
@@ -146,15 +155,42 @@ T.Popup {
             }
         }
 
-        FocusScope {
-            id: body
-            x: Theme.pageMargin
-            y: head.height + root.contentMargin
-            width: parent.width - 2 * Theme.pageMargin
-            height: strip.y - y - root.contentMargin
-            enabled: !root.busy
-            focus: true
-            implicitHeight: childrenRect.height
+        Flickable {
+            id: view
+            // What gets the keyboard comes into view.
+            readonly property Item focused: Window.activeFocusItem
+
+            y: head.height
+            width: parent.width
+            height: strip.y - y
+            boundsBehavior: Flickable.StopAtBounds
+            clip: interactive
+            contentHeight: body.height + 2 * root.contentMargin
+            interactive: contentHeight > height
+            onFocusedChanged: {
+                let above = focused;
+                while (above && above !== body)
+                    above = above.parent;
+                if (!above || !interactive)
+                    return;
+                const top = focused.mapToItem(body, 0, 0).y;
+                const least = top + focused.height + 2 * root.contentMargin - height;
+                contentY = Math.max(0, Math.min(contentHeight - height, top, Math.max(contentY, least)));
+            }
+
+            T.ScrollBar.vertical: OVScrollBar {}
+
+            FocusScope {
+                id: body
+                readonly property real room: view.height - 2 * root.contentMargin
+                x: Theme.pageMargin
+                y: root.contentMargin
+                width: view.width - 2 * x
+                height: root.scrolls ? Math.max(room, implicitHeight) : room
+                enabled: !root.busy
+                focus: true
+                implicitHeight: childrenRect.height
+            }
         }
 
         Item {

@@ -20,7 +20,7 @@ OVDialog {
 
     readonly property bool asks: kind === OVMessageBox.Question || kind === OVMessageBox.DangerQuestion
 
-    width: Theme.messageWidth
+    wantedWidth: Theme.messageWidth
     hasCancel: asks
     okKind: kind === OVMessageBox.DangerQuestion ? OVButton.DangerPrimary : OVButton.Primary
     title: qsTr("提示")

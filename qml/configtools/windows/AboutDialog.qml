@@ -8,7 +8,7 @@ OVDialog {
     required property string productName
     required property string version
 
-    width: Theme.messageWidth
+    wantedWidth: Theme.messageWidth
     objectName: "aboutDialog"
     hasCancel: false
     onAccepted: close()

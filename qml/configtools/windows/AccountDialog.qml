@@ -22,7 +22,7 @@ OVDialog {
         open();
     }
 
-    width: Theme.addDeviceWidth
+    wantedWidth: Theme.addDeviceWidth
     objectName: "accountDialog"
     title: before === "" ? qsTr("添加账号") : qsTr("修改账号")
     onAccepted: {

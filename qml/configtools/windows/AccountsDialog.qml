@@ -63,7 +63,7 @@ OVDialog {
             + names.slice(0, shown).join(qsTr("、")) + (names.length > shown ? "…" : ""), OVMessageBox.DangerQuestion);
     }
 
-    width: Theme.initialiseWidth
+    wantedWidth: Theme.initialiseWidth
     hasCancel: choosing
     objectName: "accountsDialog"
     okEnabled: !choosing || (current.identity ?? "") !== ""

@@ -68,8 +68,8 @@ OVDialog {
     }
 
     cancellable: true
-    width: Theme.addDeviceWidth
-    height: Math.max(Theme.addDeviceHeight, implicitHeight)
+    wantedWidth: Theme.addDeviceWidth
+    leastHeight: Theme.addDeviceHeight
     objectName: "addDeviceDialog"
     title: qsTr("手动添加设备")
     onClosed: passwordField.text = ""  // no password stays longer than it is needed

@@ -52,8 +52,9 @@ OVDialog {
         saved.load(favourites.list());
     }
 
-    width: Math.min(Theme.favouritesWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
-    height: Math.min(Theme.favouritesHeight, (parent?.height ?? 0) - 4 * Theme.pageMargin)
+    wantedWidth: Theme.favouritesWidth
+    height: Math.min(Theme.favouritesHeight, mostHeight)
+    scrolls: false
     cancelText: qsTr("关闭")
     objectName: "favouritesWindow"
     okEnabled: saved.checkedCount > 0 && !running

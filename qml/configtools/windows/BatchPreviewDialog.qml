@@ -79,7 +79,7 @@ OVDialog {
         return byAddress ? preview.checkedAddresses() : preview.checkedIdentities();
     }
 
-    width: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth
+    wantedWidth: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth
     okKind: danger ? OVButton.DangerPrimary : OVButton.Primary
     objectName: "batchPreviewDialog"
     onAccepted: {

@@ -21,7 +21,7 @@ OVDialog {
         open();
     }
 
-    width: Theme.batchPreviewWidth
+    wantedWidth: Theme.batchPreviewWidth
     cancelText: qsTr("暂不信任")
     objectName: "certificateDialog"
     okEnabled: certificates.checkedCount > 0

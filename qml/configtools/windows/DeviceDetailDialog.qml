@@ -62,7 +62,7 @@ OVDialog {
             relogin.wanted().ask(mac, ipport, account, result);
     }
 
-    width: Theme.detailWidth
+    wantedWidth: Theme.detailWidth
     objectName: "detailDialog"
     okText: qsTr("复制全部")
     cancelText: qsTr("关闭")
@@ -130,7 +130,8 @@ OVDialog {
         }
         Item {
             width: parent.width
-            height: Theme.detailHeight - (root.trouble !== "" ? Theme.controlHeight + Theme.controlGap : 0)
+            height: Math.min(Theme.detailHeight, root.contentRoom - searchField.height - Theme.controlGap)
+                - (root.trouble !== "" ? Theme.controlHeight + Theme.controlGap : 0)
 
             ListView {
                 id: list

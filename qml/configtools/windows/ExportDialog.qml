@@ -8,7 +8,7 @@ OVDialog {
     readonly property string fileName: "device" + suffixes[formats.chosen]
     readonly property var suffixes: [".xlsx", ".csv", ".xml"]
 
-    width: Theme.messageWidth
+    wantedWidth: Theme.messageWidth
     objectName: "exportDialog"
     title: qsTr("请选择导出的文件格式")
     onOpened: formats.itemAt(formats.chosen).forceActiveFocus()

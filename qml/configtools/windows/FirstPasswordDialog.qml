@@ -47,8 +47,8 @@ OVDialog {
     readonly property string faultField: fault === "" ? "" : fault === noAccount ? "account"
         : fault === noConfirmation || fault === different ? "confirmation" : "password"
 
-    width: Theme.firstPasswordWidth
-    height: Math.max(Theme.firstPasswordHeight, implicitHeight)
+    wantedWidth: Theme.firstPasswordWidth
+    leastHeight: Theme.firstPasswordHeight
     objectName: "firstPasswordDialog"
     title: qsTr("初始化设置")
     onAccepted: {

@@ -23,7 +23,7 @@ OVDialog {
         return devices.identities();
     }
 
-    width: Theme.initialiseWidth
+    wantedWidth: Theme.initialiseWidth
     objectName: "initialiseDialog"
     okText: qsTr("初始化")
     title: qsTr("初始化设置")
@@ -67,10 +67,10 @@ OVDialog {
             columns: [
                 {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
                 {key: "type", title: qsTr("类型"), width: Theme.columnType},
-                {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1},
+                {key: "model", title: qsTr("型号"), width: Theme.columnModel},
                 {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, cell: figureCell},
                 {key: "mac", title: "MAC", width: Theme.columnMac, cell: figureCell},
-                {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, stretch: 1, cell: figureCell},
+                {key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, cell: figureCell},
                 {key: "note", title: qsTr("提示"), width: Theme.columnNote, stretch: 1, cell: noteCell}
             ]
             model: devices

@@ -14,7 +14,7 @@ OVDialog {
         entries.setNumberedRows(list);
     }
 
-    width: Theme.reportWidth
+    wantedWidth: Theme.reportWidth
     hasCancel: false
     onAccepted: close()
     onOpened: table.forceActiveFocus()

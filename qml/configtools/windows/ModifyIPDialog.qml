@@ -79,9 +79,9 @@ OVDialog {
         }
     }
 
-    width: openedOut ? Theme.batchPreviewWidth
+    wantedWidth: openedOut ? Theme.batchPreviewWidth
         : Math.max(Theme.modifyIpWidth, foot.visible ? foot.width + buttonsWidth + 3 * Theme.pageMargin : 0)
-    height: Math.max(Theme.modifyIpHeight, implicitHeight)
+    leastHeight: Theme.modifyIpHeight
     dense: true
     objectName: "modifyIpDialog"
     okText: !batch && warned !== "" && warned === warnings ? qsTr("仍然修改") : qsTr("确定")

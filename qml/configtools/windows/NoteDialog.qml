@@ -18,7 +18,7 @@ OVDialog {
             inform(notes.problem, OVToast.Error);
     }
 
-    width: Theme.noteWidth
+    wantedWidth: Theme.noteWidth
     objectName: "noteDialog"
     okText: qsTr("保存")
     title: qsTr("备注")

@@ -60,7 +60,7 @@ OVDialog {
         return fault === "";
     }
 
-    width: Theme.addDeviceWidth
+    wantedWidth: Theme.addDeviceWidth
     objectName: "reloginDialog"
     title: qsTr("重新登录")
     onOpened: (accountField.text === "" ? accountField : passwordField).forceActiveFocus()

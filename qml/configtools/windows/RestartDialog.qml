@@ -7,7 +7,7 @@ OVDialog {
 
     signal restartRequested
 
-    width: Theme.restartWidth
+    wantedWidth: Theme.restartWidth
     height: Theme.restartHeight
     objectName: "restartDialog"
     cancelText: qsTr("取消")

@@ -9,7 +9,7 @@ OVDialog {
     required property SearchReports reports
     readonly property int labelWidth: Theme.imageLabelWidth
 
-    width: Theme.detailWidth
+    wantedWidth: Theme.detailWidth
     objectName: "searchReportDialog"
     okText: qsTr("复制文本")
     cancelText: qsTr("关闭")

@@ -17,7 +17,7 @@ OVDialog {
         open();
     }
 
-    width: Theme.detailWidth
+    wantedWidth: Theme.detailWidth
     objectName: "batchCgiWindow"
     title: qsTr("批量配置CGI")
     onOpened: command.forceActiveFocus()

@@ -31,7 +31,7 @@ OVDialog {
             inform(qsTr("已保存到文件：%1").arg(saved.path), OVToast.Success);
     }
 
-    width: Math.min(Theme.answerWindowWidth, (parent?.width ?? 0) - 4 * Theme.pageMargin)
+    wantedWidth: Theme.answerWindowWidth
     cancelText: qsTr("关闭")
     objectName: "cgiAnswerWindow"
     okText: qsTr("复制全部")
@@ -49,7 +49,7 @@ OVDialog {
     ListView {
         id: list
         width: parent.width
-        height: Theme.detailHeight
+        height: Math.min(Theme.detailHeight, root.contentRoom)
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         clip: true

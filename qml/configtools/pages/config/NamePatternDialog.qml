@@ -43,7 +43,7 @@ OVDialog {
             camerasNamed(plan.namedIdentities(), plan.names());
     }
 
-    width: Theme.batchPreviewWidth
+    wantedWidth: Theme.batchPreviewWidth
     objectName: "namePatternDialog"
     okText: ofChannels ? qsTr("填入") : qsTr("执行")
     title: qsTr("按规则命名")

@@ -32,7 +32,7 @@ OVDialog {
             documentConfirmed(path, preview.checkedIdentities());
     }
 
-    width: Theme.batchPreviewWidth
+    wantedWidth: Theme.batchPreviewWidth
     objectName: "upgradePreview"
     okEnabled: preview.upgradeCount > 0
     okText: qsTr("开始升级")
