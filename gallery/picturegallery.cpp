@@ -446,7 +446,7 @@ void PictureGallery::finish(const QString &identity, const StepOutcome &outcome)
             noteChanged(row, row);
             continue;
         }
-        cell.state = Failed;
+        cell.state = BatchReport::isSkipped(outcome.result) ? Skipped : Failed;
         cell.message = outcomeText(outcome);
         if (!cell.file.isEmpty())
             QFile::remove(std::exchange(cell.file, QString()));

@@ -48,6 +48,7 @@ public:
         Fetching,
         Taken,
         Failed,
+        Skipped, ///< because of the state of its device
     };
     Q_ENUM(State)
 

@@ -16,6 +16,8 @@ Item {
     required property string note
     property bool current: false
     property bool canFetch: true
+    readonly property bool skipped: stage === PictureGallery.Skipped
+    readonly property bool failed: stage === PictureGallery.Failed
     readonly property bool busy: stage === PictureGallery.Fetching
     readonly property string title: name === "" ? device : name.startsWith(device) ? name : device + " · " + name
     signal chosen
@@ -85,7 +87,7 @@ Item {
             OVIcon {
                 anchors.horizontalCenter: parent.horizontalCenter
                 color: Theme.colours.barSub
-                name: root.stage === PictureGallery.Failed ? "noVideo" : "video"
+                name: root.failed || root.skipped ? "noVideo" : "video"
                 visible: !root.busy
             }
             OVParagraph {
@@ -97,7 +99,7 @@ Item {
                 maximumLineCount: 3
                 objectName: "galleryMessage"
                 text: root.busy ? qsTr("正在获取…")
-                    : root.stage === PictureGallery.Failed ? root.message : qsTr("等待中")
+                    : root.failed || root.skipped ? root.message : qsTr("等待中")
             }
         }
     }
@@ -141,7 +143,7 @@ Item {
         iconSize: Theme.smallIconSize
         objectName: "galleryAgain" + root.index
         toolTip: qsTr("重新获取（R）")
-        visible: root.stage === PictureGallery.Taken || root.stage === PictureGallery.Failed
+        visible: root.stage === PictureGallery.Taken || root.failed || root.skipped
         onClicked: {
             root.chosen();
             root.againRequested();
@@ -160,10 +162,10 @@ Item {
     OVIcon {
         x: state.x - width - Theme.half
         anchors.verticalCenter: state.verticalCenter
-        color: root.stage === PictureGallery.Failed ? Theme.colours.bad : Theme.colours.ok
-        name: root.stage === PictureGallery.Failed ? "error" : "ok"
+        color: root.failed ? Theme.colours.bad : root.skipped ? Theme.colours.sub : Theme.colours.ok
+        name: root.failed ? "error" : root.skipped ? "mixed" : "ok"
         size: Theme.smallIconSize
-        visible: root.stage === PictureGallery.Taken || root.stage === PictureGallery.Failed
+        visible: root.stage === PictureGallery.Taken || root.failed || root.skipped
     }
     OVLabel {
         id: state
@@ -171,11 +173,12 @@ Item {
         anchors.rightMargin: Theme.unit
         y: titleLabel.y + titleLabel.height
         height: Theme.unit * 2 + Theme.half
-        color: root.stage === PictureGallery.Failed ? Theme.colours.bad : Theme.colours.sub
+        color: root.failed ? Theme.colours.bad : Theme.colours.sub
         font: Theme.hintFont
         objectName: "galleryState"
         text: root.stage === PictureGallery.Taken ? root.takenAt
-            : root.stage === PictureGallery.Failed ? qsTr("失败")
+            : root.failed ? qsTr("失败")
+            : root.skipped ? qsTr("已跳过")
             : root.busy ? qsTr("获取中") : qsTr("等待中")
     }
 }
