@@ -1,6 +1,6 @@
 // Short messages that need no answer, up to three below each other with the newest at the top. Errors stay longer; a
-// click sends one away. They hang from the upper edge of the window, where no rows are, and below dialogs: a dialog has a
-// place of its own for what concerns it.
+// click sends one away. They hang from the upper edge of the window, where no rows are, in front of a dialog and the veil
+// around it. A dialog has a place of its own for what concerns it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -42,7 +42,7 @@ T.Popup {
     parent: T.Overlay.overlay
     x: Math.round(((parent?.width ?? 0) - width) / 2)
     y: Theme.half
-    z: -1
+    z: 1
     closePolicy: T.Popup.NoAutoClose
     focus: false
     modal: false
