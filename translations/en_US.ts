@@ -1653,6 +1653,13 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
+    <name>DeviceAddressCell</name>
+    <message>
+        <source>IP地址冲突</source>
+        <translation>IP address conflict</translation>
+    </message>
+</context>
+<context>
     <name>DeviceClock</name>
     <message>
         <source>%1 秒</source>
@@ -2732,6 +2739,10 @@ Right-click to copy the result</translation>
     <message>
         <source>获取中</source>
         <translation>Fetching</translation>
+    </message>
+    <message>
+        <source>已跳过</source>
+        <translation>Skipped</translation>
     </message>
 </context>
 <context>
@@ -4019,10 +4030,6 @@ File: </translation>
     <message>
         <source>未初始化</source>
         <translation>Not initialised</translation>
-    </message>
-    <message>
-        <source>IP地址冲突</source>
-        <translation>IP address conflict</translation>
     </message>
     <message>
         <source>备注</source>
@@ -6344,15 +6351,6 @@ File: </translation>
         <extracomment>Devices of an upgrade that are done, of all of them.</extracomment>
         <translation>Upgrade: %1 of %2 done</translation>
     </message>
-    <message>
-        <source>同时升级</source>
-        <extracomment>Followed by a number of devices.</extracomment>
-        <translation>Devices at a time</translation>
-    </message>
-    <message>
-        <source>同时升级的设备数</source>
-        <translation>Devices upgraded at a time</translation>
-    </message>
 </context>
 <context>
     <name>UpgradeTable</name>
@@ -6588,6 +6586,15 @@ File: </translation>
     <message>
         <source>IPV6</source>
         <translation>IPv6</translation>
+    </message>
+    <message>
+        <source>同时升级</source>
+        <extracomment>Followed by a number of devices.</extracomment>
+        <translation>Devices at a time</translation>
+    </message>
+    <message>
+        <source>同时升级的设备数</source>
+        <translation>Devices upgraded at a time</translation>
     </message>
 </context>
 <context>

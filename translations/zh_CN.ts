@@ -1617,6 +1617,13 @@
     </message>
 </context>
 <context>
+    <name>DeviceAddressCell</name>
+    <message>
+        <source>IP地址冲突</source>
+        <translation>IP地址冲突</translation>
+    </message>
+</context>
+<context>
     <name>DeviceClock</name>
     <message>
         <source>%1 秒</source>
@@ -2689,6 +2696,10 @@
     <message>
         <source>获取中</source>
         <translation>获取中</translation>
+    </message>
+    <message>
+        <source>已跳过</source>
+        <translation>已跳过</translation>
     </message>
 </context>
 <context>
@@ -3967,10 +3978,6 @@
     <message>
         <source>未初始化</source>
         <translation>未初始化</translation>
-    </message>
-    <message>
-        <source>IP地址冲突</source>
-        <translation>IP地址冲突</translation>
     </message>
     <message>
         <source>备注</source>
@@ -6257,15 +6264,6 @@
         <extracomment>Devices of an upgrade that are done, of all of them.</extracomment>
         <translation>升级：%1 / %2</translation>
     </message>
-    <message>
-        <source>同时升级</source>
-        <extracomment>Followed by a number of devices.</extracomment>
-        <translation>同时升级</translation>
-    </message>
-    <message>
-        <source>同时升级的设备数</source>
-        <translation>同时升级的设备数</translation>
-    </message>
 </context>
 <context>
     <name>UpgradeTable</name>
@@ -6501,6 +6499,15 @@
     <message>
         <source>IPV6</source>
         <translation>IPV6</translation>
+    </message>
+    <message>
+        <source>同时升级</source>
+        <extracomment>Followed by a number of devices.</extracomment>
+        <translation>同时升级</translation>
+    </message>
+    <message>
+        <source>同时升级的设备数</source>
+        <translation>同时升级的设备数</translation>
     </message>
 </context>
 <context>
