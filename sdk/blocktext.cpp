@@ -11,11 +11,12 @@ void setBlockText(char *destination, std::size_t size, std::string_view text)
         return;
     std::size_t length = std::min(text.size(), size - 1);
     if (length < text.size()) {
-        // Bytes 10xxxxxx continue a letter: step back to where the letter that does not fit begins.
+        // Bytes 10xxxxxx continue a character: step back to the first byte of the character that does not
+        // fit.
         while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
             --length;
     }
-    std::copy_n(text.data(), length, destination); // an empty text may be null
+    std::copy_n(text.data(), length, destination); // an empty string may be null
     std::memset(destination + length, 0, size - length);
 }
 

@@ -1,4 +1,4 @@
-// Reading and writing the fixed-size text fields of blocks.
+// Reading and writing the fixed-size string fields of blocks.
 #pragma once
 
 #include <array>
@@ -8,16 +8,16 @@
 
 namespace sdk {
 
-/// The text of a field: up to its first zero, or the whole field when it holds none.
+/// The string of a field: up to the first zero, or the complete field without one.
 template<std::size_t size>
 [[nodiscard]] std::string_view blockText(const std::array<char, size> &field)
 {
-    const std::string_view whole(field.data(), field.size());
-    return whole.substr(0, whole.find('\0'));
+    const std::string_view complete(field.data(), field.size());
+    return complete.substr(0, complete.find('\0'));
 }
 
-/// Writes `text` into `destination`, which has room for `size` bytes, and fills the rest with zeros. A text
-/// that does not fit with its terminating zero is cut, never in the middle of a UTF-8 letter.
+/// Writes `text` into `destination`, which has room for `size` bytes, and fills the rest with zeros. A string
+/// that does not fit with its terminating zero is truncated between two UTF-8 characters.
 void setBlockText(char *destination, std::size_t size, std::string_view text);
 
 template<std::size_t size>

@@ -29,7 +29,7 @@ void CallGate::close()
 {
     std::unique_lock lock(m_mutex);
     m_isOpen = false;
-    // A copy, and without the lock: whoever is woken may end its call at once.
+    // A copy, and without the lock: stop callbacks may end their calls, which locks the mutex.
     std::stop_source stop = m_stop;
     lock.unlock();
     stop.request_stop();

@@ -1,4 +1,4 @@
-// Lets calls into a library while it is open, and tells when the last of them has ended.
+// Admits calls to a library while the library is open, and waits for the last of them to end.
 #pragma once
 
 #include <condition_variable>
@@ -11,7 +11,7 @@ namespace sdk {
 class CallGate
 {
 public:
-    /// One call between its begin and its end.
+    /// One call. It lasts as long as this object.
     class Call
     {
     public:
@@ -20,7 +20,7 @@ public:
         Call(const Call &) = delete;
         Call &operator=(const Call &) = delete;
 
-        /// Whether the gate was open at the begin.
+        /// True if the gate was open at the start of the call. Otherwise the call must fail.
         [[nodiscard]] bool isAllowed() const { return m_isAllowed; }
 
         /// Stopped when the gate is closed during the call.
@@ -42,7 +42,7 @@ private:
     std::condition_variable m_callEnded;
     bool m_isOpen = false;
     int m_runningCalls = 0;
-    std::stop_source m_stop; // of the calls that began since the last open()
+    std::stop_source m_stop; // of the calls that started since the last open()
 };
 
 } // namespace sdk

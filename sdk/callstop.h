@@ -1,4 +1,4 @@
-// How the caller of a library's operation ends it before its time.
+// Ends an operation of a library early, on behalf of its caller.
 #pragma once
 
 #include <functional>
@@ -7,13 +7,13 @@
 
 namespace sdk {
 
-/// As long as it exists, a call of NetModifyDeviceBySearch on this thread ends early: on a stop, or when the
-/// time is over. A wait for the device at its new address ends within a moment. A request that is under way
-/// before is finished first. One at a time on a thread.
+/// While the object exists, a call of NetModifyDeviceBySearch on this thread ends early: when a stop is
+/// requested, or when the caller's time is over. A request that is already sent is completed first. A wait
+/// for the device at its new address ends within a fraction of a second. A thread has one object at a time.
 class CallStop
 {
 public:
-    /// `isLate` returns whether the time is over; empty for never. It is called on this thread.
+    /// `isLate` returns true when the caller's time is over; empty for no limit. It is called on this thread.
     explicit CallStop(std::stop_token stop, std::function<bool()> isLate = {})
         : m_stop(std::move(stop)), m_isLate(std::move(isLate))
     {
@@ -23,9 +23,9 @@ public:
     CallStop(const CallStop &) = delete;
     CallStop &operator=(const CallStop &) = delete;
 
-    // Of the calling thread, outside of any CallStop as well.
+    // These apply to the calling thread. They may be called without a CallStop.
 
-    /// Stopped with the caller, but not by the time.
+    /// The caller's stop token. `isLate` does not stop it.
     [[nodiscard]] static std::stop_token token() { return current() ? current()->m_stop : std::stop_token(); }
 
     [[nodiscard]] static bool isRequested()

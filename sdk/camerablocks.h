@@ -1,6 +1,6 @@
-// Blocks of the camera image configuration: the items of a picture input, and what its camera can do. Every
-// number is a little-endian word of 32 bits. In each item the caller sets size and, where there is one, mode
-// before it reads.
+// Blocks of the image configuration: the items of a video input, and the capabilities of its camera. Every
+// number is a little-endian word of 32 bits. Before it reads an item, the caller sets its size and, if it has
+// one, its mode.
 #pragma once
 
 #include <array>
@@ -9,7 +9,7 @@
 
 namespace sdk {
 
-/// When settings of an item hold; its word "mode".
+/// The condition in which the settings of an item apply; the word "mode" of the item.
 enum class CameraMode : std::int32_t
 {
     Day = 0,
@@ -19,7 +19,7 @@ enum class CameraMode : std::int32_t
 
 inline constexpr std::size_t cameraModeCount = 3;
 
-/// Item numbers of NetGetItem and NetSetItem that belong to a picture input.
+/// Item numbers of NetGetItem and NetSetItem that belong to a video input.
 enum class CameraItem : std::uint32_t
 {
     ChannelName = 1108,
@@ -126,10 +126,10 @@ struct BackLightItem
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t backMode;      ///< 0 off, 1 backlight, 2 wide dynamic range, 3 strong light
-    std::int32_t backLightMode; ///< of backlight compensation: 0 whole picture, 1 the region
+    std::int32_t backLightMode; ///< of backlight compensation: 0 complete image, 1 the region
     std::int32_t wideDynamic;
     std::int32_t glareInhibition;
-    std::int32_t regionTop; ///< the region, in 8192ths of the picture
+    std::int32_t regionTop; ///< the region, in 8192ths of the image
     std::int32_t regionBottom;
     std::int32_t regionLeft;
     std::int32_t regionRight;
@@ -171,7 +171,7 @@ struct DefogItem
 };
 static_assert(sizeof(DefogItem) == 32);
 
-/// CameraItem::Light: one kind of light. It holds at all times.
+/// CameraItem::Light: cameras with one type of light. It has no mode and always applies.
 struct LightItem
 {
     std::uint32_t size;
@@ -189,7 +189,7 @@ struct MixedLightItem
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t controlMode;
-    std::int32_t mixMode;   ///< which lights: 0 infrared, 1 white, 2 whichever serves
+    std::int32_t mixMode;   ///< which lights: 0 infrared, 1 white, 2 selected by the camera
     std::int32_t lightMode; ///< which lamps: 0 near and far, 1 near, 2 far
     std::int32_t sensitive; ///< 1, 3 or 5
     std::int32_t correction;
@@ -199,8 +199,8 @@ struct MixedLightItem
 };
 static_assert(sizeof(MixedLightItem) == 40);
 
-/// Configuration "VideoColor": the pictures of a channel by CameraMode; the other entries are for times of
-/// day and not used.
+/// Configuration "VideoColor": the image settings of a channel. The first three entries are indexed by
+/// CameraMode; the others belong to times of day and are not used.
 struct VideoColorRecord
 {
     std::uint32_t size;
@@ -215,7 +215,7 @@ struct LightingRecord
 {
     std::uint32_t size;
     std::int32_t reserved1;
-    std::array<MixedLightItem, cameraModeCount> lights; ///< by CameraMode, as `pictures` above
+    std::array<MixedLightItem, cameraModeCount> lights; ///< indexed by CameraMode
     std::array<std::uint8_t, 384> reserved2;
 };
 static_assert(sizeof(LightingRecord) == 512);
@@ -238,7 +238,7 @@ enum class CameraGroup : std::uint32_t
 
 inline constexpr std::uint32_t cameraGroupCount = 11;
 
-/// The numbers that a setting may have. Comes from a device: it may be empty or the wrong way round.
+/// The range of a setting. It comes from a device: it may be empty, or `minimum` may exceed `maximum`.
 struct ValueRange
 {
     std::int32_t minimum;
@@ -270,7 +270,7 @@ enum class CameraValue : std::uint32_t
     DefogIntensity,
 };
 
-/// Output of CapabilityQuery::Camera. In a mask bit N says that the camera knows value N.
+/// Output of CapabilityQuery::Camera. In a mask, bit N is set if the camera supports value N.
 struct CameraCapabilities
 {
     std::uint32_t size; ///< sizeof(CameraCapabilities), set by the caller
@@ -286,7 +286,7 @@ struct CameraCapabilities
     std::uint32_t defogMask;
     std::uint32_t lightControlMask;
     std::uint32_t mixedLightMask;
-    std::uint32_t missingValues; ///< CameraValue: bit N says that the camera lacks the value; 0 for none
+    std::uint32_t missingValues; ///< CameraValue: bit N is set if the camera lacks the value
     ValueRange picture;          ///< brightness, contrast, saturation, hue, gamma
     ValueRange sharpness;
     ValueRange gain;

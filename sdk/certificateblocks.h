@@ -1,4 +1,4 @@
-// Certificates of devices that are asked over TLS.
+// Certificates of devices that are accessed over TLS.
 #pragma once
 
 #include <array>
@@ -7,7 +7,7 @@
 
 namespace sdk {
 
-/// The certificate that a device has shown. Texts end with a zero.
+/// The certificate that a device has presented. Strings end with a zero.
 struct DeviceCertificate
 {
     std::uint32_t size; ///< sizeof(DeviceCertificate)
@@ -23,7 +23,7 @@ struct DeviceCertificate
 static_assert(sizeof(DeviceCertificate) == 512);
 static_assert(offsetof(DeviceCertificate, fingerprint) == 136);
 
-/// What is known of the key of a certificate.
+/// The result of comparing the key of a certificate with the stored keys.
 enum class CertificateVerdict : std::int32_t
 {
     Trusted = 0,
@@ -32,7 +32,8 @@ enum class CertificateVerdict : std::int32_t
 };
 
 /// Called during the handshake of a TLS connection, before any byte of a request is sent, on the thread of
-/// the request, several at a time. `certificate` is valid during the call only. Must not block.
+/// the request. Several calls may run at the same time. `certificate` is valid during the call only. Must not
+/// block.
 using CertificateHandler = CertificateVerdict (*)(const DeviceCertificate *certificate, void *user);
 
 } // namespace sdk

@@ -10,7 +10,7 @@ std::int64_t SystemClock::now() const
 
 bool SystemClock::wait(std::chrono::milliseconds duration, const std::stop_token &stop)
 {
-    // Each waiting thread has a condition of its own: nothing but the stop wakes it early.
+    // Each waiting thread has a separate condition: only the stop wakes it early.
     std::mutex mutex;
     std::condition_variable_any condition;
     std::unique_lock lock(mutex);

@@ -1,4 +1,4 @@
-// The clock that waits and time stamps go through, so that a simulated site can run on a clock of its own.
+// The clock of all timeouts and timestamps, so that a simulated site can use a separate clock.
 #pragma once
 
 #include <chrono>
@@ -18,22 +18,22 @@ public:
     /// Milliseconds since 1970-01-01T00:00:00Z.
     [[nodiscard]] virtual std::int64_t now() const = 0;
 
-    /// Blocks the calling thread until `duration` has passed on this clock. Returns false at once when a stop
-    /// is requested, true after the full wait.
+    /// Blocks the calling thread until `duration` has passed on this clock. Returns false immediately when a
+    /// stop is requested, true after the complete wait.
     virtual bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) = 0;
 
-    /// Blocks the calling thread until now() has reached `time`, else as wait(). A clock that can be stepped
-    /// overrides it, so that a step between the caller's look at the clock and its wait is not lost.
+    /// Blocks the calling thread until now() has reached `time`, otherwise as wait(). A clock that can be
+    /// stepped overrides it: a step between the caller's now() and its wait would be lost otherwise.
     virtual bool waitUntil(std::int64_t time, const std::stop_token &stop)
     {
         return wait(std::chrono::milliseconds(time - now()), stop);
     }
 
-    /// A wait that nothing cuts short.
+    /// A wait that cannot be stopped.
     void wait(std::chrono::milliseconds duration) { wait(duration, std::stop_token()); }
 };
 
-/// The computer's own time.
+/// The clock of the host.
 class SystemClock : public Clock
 {
 public:

@@ -1,4 +1,4 @@
-// Records that configuration texts unpack to, by configuration name.
+// Records of the configurations "Network", "DVRIP" and "Https".
 #pragma once
 
 #include <array>
@@ -20,7 +20,7 @@ struct NetworkRecord
 };
 static_assert(sizeof(NetworkRecord) == 320);
 
-/// "DVRIP": the device's own service.
+/// "DVRIP": the device's vendor-specific service.
 struct ServiceRecord
 {
     std::uint32_t size;
@@ -35,7 +35,7 @@ struct HttpsRecord
 {
     std::uint32_t size;
     std::int32_t enabled; ///< 0 or 1
-    std::int32_t port;    ///< 0 when it is not said
+    std::int32_t port;    ///< 0 if not reported
     std::int32_t reserved;
 };
 static_assert(sizeof(HttpsRecord) == 16);

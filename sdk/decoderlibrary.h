@@ -1,4 +1,4 @@
-// The decoder library's roles: live streams into pictures and sound.
+// The interface of the decoder library: it decodes live streams to frames and sound.
 #pragma once
 
 #include <array>
@@ -12,10 +12,10 @@ enum class DecodedFrameType : std::int32_t
 {
     Picture = 3, ///< planar YUV 4:2:0, 8 bits: Y, then U and V of half the width and height, rounded up;
                  ///< no padding between lines or planes
-    Sound = 101, ///< PCM, 16 bits signed in the byte order of the computer, one channel
+    Sound = 101, ///< PCM, 16 bits signed in the byte order of the host, one channel
 };
 
-/// How the values of a picture are to be read.
+/// The colour space of a frame.
 enum class PictureColour : std::int32_t
 {
     Bt601Limited = 0, ///< ITU-R BT.601, Y from 16 to 235
@@ -24,7 +24,7 @@ enum class PictureColour : std::int32_t
     Bt709Full = 3,
 };
 
-/// What the values of a picture mean when its stream does not say: BT.709 from 720 lines on.
+/// The colour space of a frame whose stream does not report one: BT.709 from 720 lines on.
 [[nodiscard]] constexpr PictureColour usualPictureColour(std::int32_t height)
 {
     return height >= 720 ? PictureColour::Bt709Limited : PictureColour::Bt601Limited;
@@ -36,20 +36,20 @@ struct DecodedFrameInformation
     std::int32_t height;
     std::int32_t reserved;
     DecodedFrameType type;
-    std::int32_t rate;    ///< pictures a second, 0 when the stream does not say; samples a second for sound
-    PictureColour colour; ///< of a picture
+    std::int32_t rate; ///< frames per second, 0 if not reported by the stream; samples per second for sound
+    PictureColour colour; ///< of a frame
 };
 static_assert(sizeof(DecodedFrameInformation) == 24);
 static_assert(offsetof(DecodedFrameInformation, type) == 12);
 static_assert(offsetof(DecodedFrameInformation, rate) == 16);
 
-/// Called with a decoded picture or a piece of sound, on the port's own thread. The bytes of a picture stay
-/// readable until the port is freed or two more pictures of the port have been delivered; those of sound end
-/// with the call.
+/// Called with a decoded frame or a chunk of sound, on the thread of the port. The bytes of a frame are valid
+/// until the port is freed or two more frames of the port have been delivered; those of sound are valid
+/// during the call.
 using DecodeHandler = void (*)(std::int32_t port, const std::uint8_t *data, std::int32_t size,
                                const DecodedFrameInformation *information, void *user);
 
-/// What DecoderSaveFrame writes.
+/// The file format of DecoderSaveFrame.
 enum class SavedPictureType : std::int32_t
 {
     Jpeg = 3,
@@ -58,62 +58,63 @@ enum class SavedPictureType : std::int32_t
 /// Filled by DecoderGetStatus.
 struct DecoderStatus
 {
-    std::array<char, 16> videoCodec; ///< "H.264", "H.265", "MJPEG"; empty until a stream has told
+    std::array<char, 16> videoCodec; ///< "H.264", "H.265", "MJPEG"; empty until it is known
     std::array<char, 16> audioCodec; ///< "AAC", "G.711A", "G.711Mu", "PCM"; empty without sound
-    std::uint32_t waitingBytes;      ///< taken, and not yet gone through
-    std::uint32_t damages;           ///< pieces of the stream that could not be decoded
-    std::uint32_t skippedPictures;   ///< left out because they were too late
+    std::uint32_t waitingBytes;      ///< received and not yet decoded
+    std::uint32_t damages;           ///< number of packets that could not be decoded
+    std::uint32_t skippedPictures;   ///< frames that were dropped because they were too late
 };
 static_assert(sizeof(DecoderStatus) == 44);
 
-/// Decodes live streams into pictures and sound, one port per live view. Operations may be called from any
-/// thread, those of one port not at the same time except DecoderInputData and DecoderGetStatus; none may be
-/// called from a handler. Every operation on a port that is not allocated fails.
+/// Decodes live streams to frames and sound, one port per live view. Operations may be called from any
+/// thread. Those of one port must not run at the same time, except DecoderInputData and DecoderGetStatus.
+/// None may be called from a handler. Every operation on a port that is not allocated fails.
 class DecoderLibrary
 {
 public:
     virtual ~DecoderLibrary() = default;
 
-    /// Gives a port, 0 or higher, in `port`. Returns false, with `port` unchanged, when there is none left.
+    /// Sets `port` to the number of an allocated port, 0 or higher. Returns false, with `port` unchanged,
+    /// when all ports are in use.
     virtual bool DecoderAllocPort(std::int32_t &port) = 0;
 
-    /// `mode` 0, to be set before DecoderPlay: a real-time stream, whose pictures and sound are delivered as
-    /// they arrive and left out when they are too late. No other mode is used; without it nothing is left
-    /// out.
+    /// To be called before DecoderPlay. `mode` 0 is a real-time stream: frames and sound are delivered as
+    /// they arrive, and dropped when they are too late. No other mode is used. Without this call nothing is
+    /// dropped.
     virtual bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) = 0;
 
-    /// Makes the port take data. `header` of `headerSize` bytes is what begins a stream (null, 0: the stream
-    /// brings it along). At most `bufferSize` bytes wait to be decoded.
+    /// Opens the port for data. `header` of `headerSize` bytes is the header of the stream; null and 0 if the
+    /// data contain it. At most `bufferSize` bytes are buffered.
     virtual bool DecoderOpenStream(std::int32_t port, const std::uint8_t *header, std::uint32_t headerSize,
                                    std::uint32_t bufferSize) = 0;
 
-    /// Sets or, by null, removes the handler. After it has returned, the one that was set before runs no
-    /// more.
+    /// Sets the handler; null removes it. The previous handler does not run after the return.
     virtual bool DecoderSetDecodeCallback(std::int32_t port, DecodeHandler handler, void *user) = 0;
 
-    /// Begins to decode. `window` is where to show pictures: always 0, the handler does.
+    /// Starts decoding. `window` is always 0: frames are delivered to the handler instead of a window.
     virtual bool DecoderPlay(std::int32_t port, std::uintptr_t window) = 0;
 
-    /// Takes the next `size` bytes of the stream, cut anywhere, and returns at once. Returns false, with
-    /// nothing taken, when the port is not open or its buffer has no room for them.
+    /// Copies the next `size` bytes of the stream to the buffer and returns immediately. Chunks may be split
+    /// anywhere. Returns false, with no byte copied, when the port is not open or its buffer has no room for
+    /// all of them.
     virtual bool DecoderInputData(std::int32_t port, const std::uint8_t *data, std::uint32_t size) = 0;
 
-    /// Ends decoding; no handler of the port runs after it has returned.
+    /// Ends decoding. No handler of the port runs after the return.
     virtual bool DecoderStop(std::int32_t port) = 0;
 
-    /// Throws away what waits. The port takes no more data.
+    /// Discards the buffered data. The port accepts no more data.
     virtual bool DecoderCloseStream(std::int32_t port) = 0;
 
-    /// Gives the port back, in whatever state it is. Its pictures end.
+    /// Frees the port in any state. Its frames become invalid.
     virtual bool DecoderFreePort(std::int32_t port) = 0;
 
-    /// What the port does; may be asked at any time between DecoderAllocPort and DecoderFreePort.
+    /// Fills `status`. May be called at any time between DecoderAllocPort and DecoderFreePort.
     virtual bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) = 0;
 
-    /// Writes a picture (its bytes as DecodedFrameType::Picture) to the file of that name in the local 8-bit
-    /// encoding, replacing it. `quality` is 1 to 100. `colour` is what the handler was given with the
-    /// picture. Returns false for a null picture, a size below 1 or a quality out of its range, and when the
-    /// file cannot be written: then what it held is still there.
+    /// Writes a frame (its bytes as DecodedFrameType::Picture) to the file of that name in the local 8-bit
+    /// encoding; an existing file is replaced. `quality` is 1 to 100. `colour` is
+    /// DecodedFrameInformation::colour of the frame. Returns false for a null frame, a size below 1 and a
+    /// quality out of range, and when the file cannot be written: an existing file is unchanged then.
     virtual bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
                                   SavedPictureType type, std::int32_t quality, const char *fileName,
                                   PictureColour colour) = 0;

@@ -1,5 +1,4 @@
-// Requests to devices that were found by search and are not logged in to: the first password, and a new
-// address.
+// Blocks of requests without a login to devices that a search has found: initialisation, and a new address.
 #pragma once
 
 #include "sdk/searchblocks.h"
@@ -17,9 +16,9 @@ struct InitDeviceAccountInput
     std::array<char, 40> mac;
     std::array<char, 128> account;
     std::array<char, 128> password;
-    std::uint8_t passwordResetWay; ///< as in the device's search answer
-    std::array<char, 64> address;  ///< where the device answers
-    std::uint16_t port;            ///< of its service, 0 if it is not known
+    std::uint8_t passwordResetWay; ///< as in the device's search response
+    std::array<char, 64> address;  ///< current address of the device
+    std::uint16_t port;            ///< of its service, 0 if unknown
     std::array<std::uint8_t, 32> reserved;
 };
 static_assert(sizeof(InitDeviceAccountInput) == 400);
@@ -31,7 +30,7 @@ struct DeviceRequestOutput
 };
 static_assert(sizeof(DeviceRequestOutput) == 4);
 
-/// Given to NetModifyDeviceBySearch: the device's own information with the new addresses in it.
+/// Given to NetModifyDeviceBySearch: the device's information from the search, with the new addresses.
 struct ModifyDeviceInput
 {
     std::uint32_t size; ///< sizeof(ModifyDeviceInput)

@@ -1,5 +1,5 @@
-// Blocks of the encode configuration: the items of a stream, and what a device's encoder can do. Numbers are
-// little-endian words of 32 bits unless their type says otherwise.
+// Blocks of the encode configuration: the items of a stream, and the capabilities of a device's encoder.
+// Numbers are little-endian words of 32 bits unless their type says otherwise.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 
 namespace sdk {
 
-/// Kinds of streams: each has its own items and its own capability block.
+/// Kinds of streams. Each has separate items and a separate capability block.
 enum class StreamKind : std::int32_t
 {
     MainNormal = 0,
@@ -19,14 +19,14 @@ enum class StreamKind : std::int32_t
 
 inline constexpr std::size_t streamKindCount = 4;
 
-/// The word "stream" of items: counts the kinds from 1.
+/// The value of the word "stream" of items: kinds are numbered from 1.
 [[nodiscard]] constexpr std::int32_t streamNumber(StreamKind kind)
 {
     return static_cast<std::int32_t>(kind) + 1;
 }
 
-/// Item numbers of NetGetItem and NetSetItem that belong to a stream. In each, the caller sets
-/// size and stream before it reads.
+/// Item numbers of NetGetItem and NetSetItem that belong to a stream. Before it reads an item, the caller
+/// sets its size and stream.
 enum class EncodeItem : std::uint32_t
 {
     VideoFormat = 1100,
@@ -50,7 +50,7 @@ struct VideoFormatItem
     std::int32_t height;
     std::int32_t bitRateControl; ///< 0 fixed, 1 variable
     std::int32_t bitRate;        ///< kbit/s
-    float frameRate;             ///< pictures a second
+    float frameRate;             ///< frames per second
     std::int32_t reserved;
     std::int32_t quality; ///< 1 to 6
 };
@@ -69,13 +69,13 @@ struct VideoProfileItem
 static_assert(sizeof(VideoProfileItem) == 12);
 static_assert(offsetof(VideoProfileItem, profile) == 8);
 
-/// EncodeItem::AudioCompression. The one item whose stream does not stand second.
+/// EncodeItem::AudioCompression. The one item whose stream is not the second word.
 struct AudioCompressionItem
 {
     std::int32_t size;
     std::int32_t audioEnable; ///< 0 or 1
     std::int32_t stream;
-    std::int32_t format; ///< audio format as configurations number it
+    std::int32_t format; ///< audio format, in the numbering of configurations
 };
 static_assert(sizeof(AudioCompressionItem) == 16);
 static_assert(offsetof(AudioCompressionItem, stream) == 8);
@@ -92,7 +92,7 @@ struct AudioFormatItem
 static_assert(sizeof(AudioFormatItem) == 28);
 static_assert(offsetof(AudioFormatItem, samplingFrequency) == 12);
 
-/// The size of a picture in pixels.
+/// The size of a frame in pixels.
 struct PictureSize
 {
     std::uint16_t width;
@@ -102,7 +102,7 @@ static_assert(sizeof(PictureSize) == 4);
 
 inline constexpr std::size_t maximumPictureSizes = 64;
 
-/// A list of picture sizes in a block. `count` comes from a device: it must be bounded before it is used.
+/// A list of frame sizes in a block. `count` comes from a device: it must be bounded before it is used.
 struct PictureSizeList
 {
     std::uint32_t count; ///< used entries of `sizes`
@@ -110,7 +110,7 @@ struct PictureSizeList
 };
 static_assert(sizeof(PictureSizeList) == 260);
 
-/// What a device may lack of a stream. Bits of EncodeCapabilityBlock::missingValues.
+/// Features of a stream that a device may lack. Bits of EncodeCapabilityBlock::missingValues.
 enum class EncodeValue : std::uint32_t
 {
     Stream = 0,     ///< the device has no stream of this kind
@@ -120,7 +120,7 @@ enum class EncodeValue : std::uint32_t
     AudioSwitch,    ///< sound cannot be switched on and off
 };
 
-/// A sampling frequency that an audio format can have.
+/// A sampling frequency of an audio format.
 struct AudioRate
 {
     std::int32_t format;    ///< as in EncodeCapabilityBlock::audioFormats
@@ -130,24 +130,24 @@ static_assert(sizeof(AudioRate) == 8);
 
 inline constexpr std::size_t maximumAudioRates = 24;
 
-/// What the encoder can do for one kind of stream. The counts come from a device: they must be bounded before
-/// they are used.
+/// The capabilities of the encoder for one kind of stream. The counts come from a device: they must be
+/// bounded before they are used.
 struct EncodeCapabilityBlock
 {
     std::uint32_t size; ///< sizeof(EncodeCapabilityBlock), set by the caller
     std::uint32_t compressionMask;
-    std::int32_t sizesDependOnCompression; ///< not 0: `sizesByCompression` holds, otherwise `sizes`
+    std::int32_t sizesDependOnCompression; ///< if not 0, `sizesByCompression` is used instead of `sizes`
     std::int32_t minimumBitRate;           ///< kbit/s
     std::int32_t maximumBitRate;
     std::int32_t maximumFrameRate;
     std::uint32_t profileCount;                ///< used entries of `profiles`
-    std::array<std::int32_t, 8> profiles;      ///< values 1 to 4 of H.264 profiles; 0 stands for none
+    std::array<std::int32_t, 8> profiles;      ///< H.264 profiles, 1 to 4; 0 for no profile
     std::uint32_t audioFormatCount;            ///< used entries of `audioFormats`
-    std::array<std::int32_t, 64> audioFormats; ///< audio format codes as capabilities number them
+    std::array<std::int32_t, 64> audioFormats; ///< audio formats, in the numbering of capabilities
     PictureSizeList sizes;
     std::array<PictureSizeList, 16> sizesByCompression; ///< by compression code
-    std::uint32_t missingValues;                        ///< EncodeValue: bit N is set if it is missing
-    std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if the device does not report them
+    std::uint32_t missingValues;  ///< EncodeValue: bit N is set if the device lacks the value
+    std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if not reported
     std::array<AudioRate, maximumAudioRates> audioRates;
     std::array<std::uint8_t, 36> reserved;
 };
@@ -172,7 +172,8 @@ struct EncodeCapabilityInput
     std::uint32_t reserved1;
     std::int32_t channel;
     std::uint32_t reserved2;
-    const char *text; ///< configuration text "Encode", ended by a zero: the settings to answer for
+    const char
+        *text; ///< configuration text "Encode", ended by a zero: the capabilities depend on these settings
 };
 static_assert(sizeof(EncodeCapabilityInput) == 24);
 static_assert(offsetof(EncodeCapabilityInput, channel) == 8);
@@ -183,7 +184,7 @@ struct EncodeStreamRecord
 {
     std::int32_t videoEnabled; ///< 0 or 1
     std::int32_t compression;
-    std::int32_t profile; ///< of H.264, 0 when it is not said
+    std::int32_t profile; ///< of H.264, 0 if not reported
     std::int32_t width;
     std::int32_t height;
     std::int32_t bitRateControl;

@@ -10,27 +10,29 @@ namespace {
 constexpr std::string_view firstLine = "BRELM-FIRMWARE 1";
 constexpr std::string_view firstWord = "BRELM-FIRMWARE";
 constexpr std::size_t longestModel = 32;
-constexpr std::size_t longestVersion = 63; // a device tells its version in a field of 64 bytes
+constexpr std::size_t longestVersion = 63; // devices report their version in a field of 64 bytes
 constexpr std::size_t mostModels = 64;
 
-bool isDigit(char letter)
+bool isDigit(char character)
 {
-    return letter >= '0' && letter <= '9';
+    return character >= '0' && character <= '9';
 }
 
-bool isLetterOrDigit(char letter)
+bool isLetterOrDigit(char character)
 {
-    return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') || isDigit(letter);
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
+           isDigit(character);
 }
 
-bool isModelLetter(char letter)
+bool isModelCharacter(char character)
 {
-    return isLetterOrDigit(letter) || letter == '-' || letter == '/' || letter == '.' || letter == '+';
+    return isLetterOrDigit(character) || character == '-' || character == '/' || character == '.' ||
+           character == '+';
 }
 
 bool isModel(std::string_view text)
 {
-    return !text.empty() && text.size() <= longestModel && std::ranges::all_of(text, isModelLetter);
+    return !text.empty() && text.size() <= longestModel && std::ranges::all_of(text, isModelCharacter);
 }
 
 /// The numbers that a version begins with: "2.900.0" of "2.900.0.R".
@@ -42,28 +44,29 @@ std::string_view numbersOf(std::string_view version)
     return numbers;
 }
 
-/// At least two numbers with dots between, and then parts of letters: "2.900.0", "2.900.0.R".
+/// True for at least two numbers separated by dots, optionally followed by parts with letters: "2.900.0",
+/// "2.900.0.R".
 bool isVersion(std::string_view text)
 {
     if (text.empty() || text.size() > longestVersion || !isDigit(text.front()) ||
         !isLetterOrDigit(text.back()))
         return false;
-    const bool isOfParts =
-        std::ranges::all_of(text, [](char letter) { return isLetterOrDigit(letter) || letter == '.'; });
+    const bool isOfParts = std::ranges::all_of(
+        text, [](char character) { return isLetterOrDigit(character) || character == '.'; });
     return isOfParts && numbersOf(text).find('.') != std::string_view::npos &&
            text.find("..") == std::string_view::npos;
 }
 
 std::string_view trimmed(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t\r";
-    const std::size_t first = text.find_first_not_of(blanks);
+    constexpr std::string_view spaces = " \t\r";
+    const std::size_t first = text.find_first_not_of(spaces);
     if (first == std::string_view::npos)
         return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return text.substr(first, text.find_last_not_of(spaces) - first + 1);
 }
 
-/// A version without what devices and files put around it: a "v" before, the date of the build behind.
+/// A version without a leading "v" and a trailing build date.
 std::string_view plainVersion(std::string_view version)
 {
     version = trimmed(version);
@@ -72,15 +75,15 @@ std::string_view plainVersion(std::string_view version)
     return version.substr(0, version.find_first_of(" \t,"));
 }
 
-/// Takes what is before the next `end` off `text`, and the `end` too.
+/// Removes the part before the next `end` from `text`, and `end` itself. Returns the part.
 std::string_view takeUntil(std::string_view &text, char end)
 {
-    const std::string_view piece = text.substr(0, text.find(end));
-    text.remove_prefix(std::min(text.size(), piece.size() + 1));
-    return piece;
+    const std::string_view part = text.substr(0, text.find(end));
+    text.remove_prefix(std::min(text.size(), part.size() + 1));
+    return part;
 }
 
-/// None when one of them is no model, or when there are too many.
+/// Empty when one of them is not a model, or when there are too many.
 std::vector<std::string> modelsIn(std::string_view list)
 {
     std::vector<std::string> models;
@@ -95,13 +98,13 @@ std::vector<std::string> modelsIn(std::string_view list)
 
 bool isSameText(std::string_view one, std::string_view other)
 {
-    const auto lower = [](char letter) {
-        return std::tolower(static_cast<unsigned char>(letter));
+    const auto lower = [](char character) {
+        return std::tolower(static_cast<unsigned char>(character));
     };
     return std::ranges::equal(one, other, {}, lower, lower);
 }
 
-/// Takes what a line of the head tells. Returns false when it makes no sense.
+/// Reads a line of the head. Returns false for an invalid line.
 bool takeLine(std::string_view line, FirmwareHead &head)
 {
     if (line.find('=') == std::string_view::npos)
@@ -135,12 +138,12 @@ bool isSameVersion(std::string_view one, std::string_view other)
     const std::string_view numbers = numbersOf(one);
     if (numbers.empty() || numbers != numbersOf(other))
         return false;
-    const std::string_view oneLetters = one.substr(numbers.size());
-    const std::string_view otherLetters = other.substr(numbers.size());
+    const std::string_view oneSuffix = one.substr(numbers.size());
+    const std::string_view otherSuffix = other.substr(numbers.size());
     const auto hasLetters = [](std::string_view text) {
         return std::ranges::any_of(text, isLetterOrDigit);
     };
-    return !hasLetters(oneLetters) || !hasLetters(otherLetters) || isSameText(oneLetters, otherLetters);
+    return !hasLetters(oneSuffix) || !hasLetters(otherSuffix) || isSameText(oneSuffix, otherSuffix);
 }
 
 FirmwareHeadReading readFirmwareHead(std::string_view bytes)
@@ -156,7 +159,7 @@ FirmwareHeadReading readFirmwareHead(std::string_view bytes)
         const bool isEnded = rest.find('\n') != std::string_view::npos;
         const std::string_view line = trimmed(takeUntil(rest, '\n'));
         if (line.empty() && isEnded) {
-            // One that does not say what it brings is of no use to anybody.
+            // A head without a version is invalid.
             return head.version.empty() ? FirmwareHeadReading{.kind = Kind::Damaged}
                                         : FirmwareHeadReading{.kind = Kind::Known, .head = head};
         }
@@ -174,7 +177,7 @@ std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName)
     FirmwareHead head;
     head.models = modelsIn(takeUntil(fileName, '_'));
     const std::string_view version = plainVersion(takeUntil(fileName, '_'));
-    // A word in front of the version, "Upgrade_2.900.0.bin", is no model: those have figures.
+    // A word before the version ("Upgrade_2.900.0.bin") is not a model: models contain digits.
     const bool areModels = !head.models.empty() && std::ranges::all_of(head.models, [](const auto &model) {
         return std::ranges::any_of(model, isDigit);
     });

@@ -1,4 +1,4 @@
-// What a firmware file tells of itself, by the lines at its head or by its name.
+// The models and the version of a firmware file, from the lines at its start or from its name.
 #pragma once
 
 #include <cstddef>
@@ -9,49 +9,49 @@
 
 namespace sdk {
 
-/// No head is longer, with the empty line that ends it.
+/// The maximum size of a head in bytes, including the empty line at its end.
 inline constexpr std::size_t longestFirmwareHead = 4096;
 
 struct FirmwareHead
 {
-    std::vector<std::string> models; ///< that the file is for; none when it does not tell
-    std::string version;             ///< "2.900.0", "2.900.0.R"; empty when it does not tell
+    std::vector<std::string> models; ///< of the devices that the file is for; empty if not reported
+    std::string version;             ///< "2.900.0", "2.900.0.R"; empty if not reported
 
-    /// Whether the file is for this model. One that names no models, and a model that is not known, fit.
+    /// True if the file is for this model. Also true if the file reports no models, or `model` is empty.
     [[nodiscard]] bool fits(std::string_view model) const;
 };
 
-/// What came of reading a head.
+/// The result of reading a head.
 struct FirmwareHeadReading
 {
     enum class Kind
     {
-        Unknown, ///< the file does not begin as ours do, and may still be firmware
-        Damaged, ///< it does, and what follows makes no sense
+        Unknown, ///< the file does not start with a head; it may still be firmware
+        Damaged, ///< the head is invalid
         Known,
     };
     Kind kind = Kind::Unknown;
-    FirmwareHead head = {}; ///< of Known
+    FirmwareHead head = {}; ///< valid with Known
 };
 
-/// Reads the head at the beginning of `bytes`, of which the first longestFirmwareHead are enough:
+/// Reads the head at the start of `bytes`, of which the first longestFirmwareHead are sufficient:
 ///
 ///     BRELM-FIRMWARE 1
 ///     model=B-2230-IR,B-2231-IR
 ///     version=2.900.0
 ///     (an empty line)
 ///
-/// Other keys are passed over, a line may end with CR LF, and what follows a version behind a blank or a
-/// comma, as the date of a build does, is no part of it.
+/// Other keys are ignored. A line may end with CR LF. A version ends at the first space or comma, which may
+/// be followed by a build date.
 [[nodiscard]] FirmwareHeadReading readFirmwareHead(std::string_view bytes);
 
-/// Whether two versions name the same firmware, as files and devices write them: with or without a "v"
-/// before, and with anything behind a blank or a comma. Letters behind the numbers, as in "2.900.0.R", count
-/// only when both have some. False when one of them has no number.
+/// True if two versions, from files or devices, are the same firmware. A leading "v" is ignored, and so is
+/// the part after a space or comma. Letters after the numbers ("2.900.0.R") are compared only if both
+/// versions have them. False when one of them has no number.
 [[nodiscard]] bool isSameVersion(std::string_view one, std::string_view other);
 
-/// What a file is for by its name, without the folder: "B-2230-IR,B-2231-IR_2.900.0.bin", with or without a
-/// "v" before the version, and with anything behind a further "_". Nothing for other names.
+/// The models and the version in a file name without its folder: "B-2230-IR,B-2231-IR_2.900.0.bin". The
+/// version may have a leading "v", and may be followed by "_" and any text. Nothing for other names.
 [[nodiscard]] std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName);
 
 } // namespace sdk

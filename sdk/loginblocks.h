@@ -1,4 +1,4 @@
-// Blocks of logging in to a device and of the device's answers that a login is followed by.
+// Blocks of the login to a device, and of the queries that follow it.
 #pragma once
 
 #include <array>
@@ -7,15 +7,15 @@
 
 namespace sdk {
 
-/// Handle of a session with a device: above 0, or 0 for none.
+/// The handle of a session with a device: above 0, or 0 for none.
 using LLONG = std::int64_t;
 
-/// What a device tells about itself when it accepts a login.
+/// The device information in the response to an accepted login.
 struct LoginDeviceInformation
 {
     std::array<char, 48> serialNumber;
-    std::array<char, 32> model; ///< model text, need not end with a zero
-    std::int32_t loginKind;     ///< how the session came about: 0 directly, 1 through a tunnel
+    std::array<char, 32> model; ///< need not end with a zero
+    std::int32_t loginKind;     ///< 0 direct, 1 through a tunnel
     std::uint8_t deviceType;    ///< one of DeviceTypeCode, others exist
     std::uint8_t reserved1;
     std::uint16_t channelCount; ///< video inputs
@@ -23,7 +23,7 @@ struct LoginDeviceInformation
 };
 static_assert(sizeof(LoginDeviceInformation) == 128);
 
-/// LoginDeviceInformation::deviceType of the kinds of devices that have a name of their own.
+/// LoginDeviceInformation::deviceType of the types of devices that have a separate name.
 enum class DeviceTypeCode : std::uint8_t
 {
     SpeedDome = 19,
@@ -36,11 +36,11 @@ enum class DeviceTypeCode : std::uint8_t
     ComputerRecorder = 42,
 };
 
-/// How NetLoginSecure opens its session.
+/// The connection of a session of NetLoginSecure.
 enum class LoginMode : std::int32_t
 {
     Direct = 0,
-    Tunnel = 19, ///< through a port of this computer that leads to the device
+    Tunnel = 19, ///< through a local port of the host, which is forwarded to the device
 };
 
 /// Given to NetLoginSecure.
@@ -60,7 +60,7 @@ static_assert(sizeof(LoginSecureInput) == 264);
 struct LoginSecureOutput
 {
     std::uint32_t size;  ///< sizeof(LoginSecureOutput), set by the caller
-    std::uint32_t error; ///< the code that NetGetLastError returns as well, 0 on success
+    std::uint32_t error; ///< also returned by NetGetLastError; 0 on success
     LoginDeviceInformation device;
 };
 static_assert(sizeof(LoginSecureOutput) == 136);
@@ -73,7 +73,7 @@ enum class QueryCommand : std::uint32_t
     NetworkServices = 91, ///< NetworkServices
 };
 
-/// Answer to QueryCommand::DeviceAttributes.
+/// Response to QueryCommand::DeviceAttributes.
 struct DeviceAttributes
 {
     std::uint32_t size;
@@ -88,11 +88,11 @@ struct DeviceAttributes
 };
 static_assert(sizeof(DeviceAttributes) == 212);
 
-/// Answer to QueryCommand::NetworkServices.
+/// Response to QueryCommand::NetworkServices.
 struct NetworkServices
 {
     std::uint32_t size;
-    std::int32_t webPort; ///< of the web page without TLS, 0 when it is not said
+    std::int32_t webPort; ///< of the web page without TLS, 0 if not reported
     std::int32_t servicePort;
     std::int32_t rtspPort;
     std::array<std::uint8_t, 3024> reserved;

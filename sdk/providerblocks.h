@@ -1,4 +1,4 @@
-// What a provider of the network library is, before any device is asked.
+// The properties of a provider: an implementation of the network library. They do not depend on a device.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ enum class ProviderFunction : std::uint32_t
 struct ProviderInformation
 {
     std::uint32_t size;       ///< sizeof(ProviderInformation), set by the caller
-    std::int32_t defaultPort; ///< of a device's service, as most devices have it
+    std::int32_t defaultPort; ///< service port of most devices
     std::uint32_t missingFunctions;
     std::uint32_t reserved;
 };

@@ -1,6 +1,6 @@
-// Blocks of the network library that carry device search: the requests that start a search and the answer
-// that every found device gives. All texts are 8-bit, in the local encoding, and need not end with a zero
-// when they fill their field: read them with blockText().
+// Blocks of device searches: the requests that start a search, and the response of a found device. All
+// strings are 8-bit, in the local encoding. A string that fills its field does not end with a zero: use
+// blockText() to read it.
 #pragma once
 
 #include <array>
@@ -9,29 +9,29 @@
 
 namespace sdk {
 
-/// Identity, network settings and state of one device, as it tells them in its search answer. The same bytes,
-/// with the new addresses put in, are sent back to the device to change its address.
+/// The identity, network settings and state of one device, from its search response. The same bytes with new
+/// addresses are sent to the device to change its address.
 struct SearchDeviceInformation
 {
-    std::int32_t ipVersion;                ///< 4 or 6: which of the two `address` holds
+    std::int32_t ipVersion;                ///< 4 or 6: the family of `address`
     std::int32_t port;                     ///< service port, 1 to 65535
     std::array<char, 64> address;          ///< "0.0.0.0" while an IPv4 address is unset
     std::array<char, 64> subnetMask;       ///< dotted mask, or the prefix length of an IPv6 address
-    std::array<char, 64> gateway;          ///< empty when there is none
+    std::array<char, 64> gateway;          ///< empty if there is none
     std::array<char, 40> mac;              ///< "02:1a:c5:00:40:17"
     std::array<char, 32> deviceType;       ///< "IPC", "NVR", ...
     std::array<char, 32> detailModel;      ///< model text printed on the device
-    std::array<char, 64> deviceName;       ///< given by the administrator
-    std::array<char, 128> softwareVersion; ///< digits and points, without a leading letter
+    std::array<char, 64> deviceName;       ///< set by the administrator
+    std::array<char, 128> softwareVersion; ///< digits and dots, without a leading letter
     std::array<char, 48> serialNumber;
-    std::uint16_t httpPort;              ///< port of the device's web page, 0 when it has none
+    std::uint16_t httpPort;              ///< port of the device's web page, 0 if it has none
     std::uint8_t dhcpEnabled;            ///< 0 or 1
     std::uint8_t initialisationState;    ///< low two bits: see initialisationBits()
     std::uint8_t passwordResetWay;       ///< bit 0 telephone, bit 1 mail: contacts for a lost password
-    std::array<char, 64> currentAddress; ///< in a request: where the device answers now, empty in an answer
+    std::array<char, 64> currentAddress; ///< in a request: present address of the device; empty in a response
     std::array<char, 64> account;        ///< in a request: the account that may change the address
     std::array<char, 64> password;       ///< in a request: of that account
-    std::array<char, 48> uuid; ///< number that the device gives itself, lower case; empty if it has none
+    std::array<char, 48> uuid;           ///< chosen by the device, lower case; empty if it has none
     std::array<std::uint8_t, 2443> reserved; ///< 0
 };
 static_assert(sizeof(SearchDeviceInformation) == 3232);
@@ -44,7 +44,7 @@ static_assert(offsetof(SearchDeviceInformation, reserved) == 789);
 /// Meaning of the low two bits of SearchDeviceInformation::initialisationState.
 enum class InitialisationBits : std::uint8_t
 {
-    NotReported = 0, ///< devices older than the password rule: they count as initialised
+    NotReported = 0, ///< devices without initialisation; they count as initialised
     Uninitialised = 1,
     Initialised = 2,
 };
@@ -54,19 +54,20 @@ enum class InitialisationBits : std::uint8_t
     return static_cast<InitialisationBits>(initialisationState & 0x03);
 }
 
-/// One answer of one device.
+/// One response of one device.
 struct SearchAnswer
 {
     std::uint32_t size;                ///< sizeof(SearchAnswer)
     std::uint32_t reserved;            ///< 0
-    std::array<char, 64> localAddress; ///< address of this computer that received the answer
+    std::array<char, 64> localAddress; ///< address of the host that received the response
     SearchDeviceInformation device;
 };
 static_assert(sizeof(SearchAnswer) == 3304);
 static_assert(offsetof(SearchAnswer, device) == 72);
 
-/// Receives answers on threads of the network library, several at a time. `answer` is valid during the call
-/// only. `searchHandle` is 0 for answers to NetSearchDevicesByIPs and NetSearchDevicesByIPsEx.
+/// Receives responses on threads of the network library; several calls may run at the same time. `answer` is
+/// valid during the call only. `searchHandle` is 0 for responses to NetSearchDevicesByIPs and
+/// NetSearchDevicesByIPsEx.
 using SearchAnswerHandler = void (*)(std::int64_t searchHandle, const SearchAnswer *answer, void *user);
 
 /// Given to NetStartSearchDevices.
@@ -86,18 +87,19 @@ struct SearchParameterEx
     std::uint32_t reserved;
     SearchAnswerHandler handler;
     void *user;
-    std::array<char, 64> localAddress; ///< address to search from, empty for every one
+    std::array<char, 64> localAddress; ///< source address of the search, empty for every address of the host
 };
 static_assert(sizeof(SearchParameterEx) == 88);
 
 inline constexpr int maximumSearchAddresses = 256;
 
-/// A list of addresses to ask one by one: given to NetSearchDevicesByIPs and NetSearchDevicesByIPsEx.
+/// A list of addresses to search one by one: given to NetSearchDevicesByIPs and NetSearchDevicesByIPsEx.
 struct SearchByAddressesRequest
 {
     std::uint32_t size; ///< sizeof(SearchByAddressesRequest)
     std::int32_t count; ///< used entries of `addresses`, 0 to maximumSearchAddresses
-    std::array<std::array<char, 64>, maximumSearchAddresses> addresses; ///< dotted texts
+    std::array<std::array<char, 64>, maximumSearchAddresses>
+        addresses; ///< dotted IPv4 addresses or IPv6 addresses
 };
 static_assert(sizeof(SearchByAddressesRequest) == 16392);
 

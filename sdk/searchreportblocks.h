@@ -1,4 +1,4 @@
-// What a search has sent and received, to explain a list that is empty.
+// The report of a search: the messages that it has sent and received. It explains an empty list of devices.
 #pragma once
 
 #include <array>
@@ -7,27 +7,29 @@
 
 namespace sdk {
 
-/// Why an answer to a search was not reported as a device. Indices of SearchInterfaceReport::discarded.
+/// The reason why a response to a search was not reported as a device. Indices of
+/// SearchInterfaceReport::discarded.
 enum class SearchDiscard : std::uint32_t
 {
     Unreadable = 0, ///< not a message of the search's protocol
-    OtherKind,      ///< a message of something that is no video device
-    NoService,      ///< the message names no address at which the device can be asked
-    ForeignAddress, ///< every address that the message names is on another host than its sender
-    Leaving,        ///< the device says that it leaves the network
+    OtherKind,      ///< a message of a device that is not a video device
+    NoService,      ///< the message contains no service address of the device
+    ForeignAddress, ///< every address in the message belongs to another host than its sender
+    Leaving,        ///< the device reports that it leaves the network
     TooMany,        ///< beyond the bounds of a search
 };
 inline constexpr std::size_t searchDiscards = 6;
 
-/// What stands in the way of a search through an interface. Bits of SearchInterfaceReport::obstacles.
+/// The reason why a search through an interface is impossible or found no devices. Bits of
+/// SearchInterfaceReport::obstacles.
 enum class SearchObstacle : std::uint32_t
 {
-    InterfaceDown = 0, ///< switched off
-    NoLink,            ///< no cable, or no other end
+    InterfaceDown = 0, ///< the interface is disabled
+    NoLink,            ///< no cable, or no peer
     NoAddress,         ///< neither an IPv4 address nor a link-local IPv6 address
-    NoMulticast,       ///< the interface cannot send to groups
-    SendFailed,        ///< the system refused to send; see `sendError`
-    NoAnswer,          ///< requests were sent and nothing was received: filtered, or no devices
+    NoMulticast,       ///< the interface cannot send multicast
+    SendFailed,        ///< the system returned an error on sending; see `sendError`
+    NoAnswer,          ///< requests were sent and no response was received: filtered, or no devices
 };
 
 /// One address of an interface; an interface without one has one entry with an empty address.
@@ -37,10 +39,10 @@ struct SearchInterfaceReport
     std::array<char, 64> address; ///< local; empty if there is none
     std::int32_t prefixLength;    ///< of `address`
     std::uint32_t obstacles;      ///< bits of SearchObstacle
-    std::int32_t sendError;       ///< number of the system's last error, 0 for none
-    std::uint32_t requestsSent;   ///< to groups
+    std::int32_t sendError;       ///< last error number of the system, 0 for none
+    std::uint32_t requestsSent;   ///< by multicast
     std::uint32_t messagesReceived;
-    std::uint32_t devicesFound;                          ///< reported to the search's handler
+    std::uint32_t devicesFound;                          ///< reported to the handler of the search
     std::array<std::uint32_t, searchDiscards> discarded; ///< by SearchDiscard
     std::array<std::uint8_t, 48> reserved;
 };
@@ -54,9 +56,9 @@ struct SearchReport
 {
     std::uint32_t size;              ///< sizeof(SearchReport), set by the caller
     std::uint32_t count;             ///< entries of `interfaces` that are filled
-    std::uint32_t addressesAsked;    ///< one by one, by the searches of address lists
-    std::uint32_t addressesAnswered; ///< of them
-    std::uint32_t addressesNoRoute;  ///< of them: this computer has no route to them
+    std::uint32_t addressesAsked;    ///< addresses searched by NetSearchDevicesByIPs and similar operations
+    std::uint32_t addressesAnswered; ///< of them, with a response
+    std::uint32_t addressesNoRoute;  ///< of them, without a route from the host
     std::uint32_t foreignDevices;    ///< devices found whose address is outside every interface's network
     std::array<std::uint8_t, 40> reserved;
     std::array<SearchInterfaceReport, maximumReportedInterfaces> interfaces;

@@ -1,4 +1,4 @@
-// Blocks of live streams: their kinds, their data, and which channels of a device have a camera.
+// Blocks of live streams: their kinds, their data, and the states of a device's channels.
 #pragma once
 
 #include <array>
@@ -7,36 +7,37 @@
 
 namespace sdk {
 
-/// Which stream of a channel NetStartRealStream opens.
+/// The stream of a channel that NetStartRealStream opens.
 enum class LiveStreamKind : std::int32_t
 {
     Main = 0,
     Sub = 1,
 };
 
-/// What a RealDataHandler is called with.
+/// The type of the data that a RealDataHandler is called with.
 enum class RealDataType : std::uint32_t
 {
-    Stream = 0, ///< bytes of the stream: Matroska without an end, as streams::MatroskaWriter makes it
-    End = 1,    ///< no bytes: the stream has ended by itself, `parameter` is a StreamEndReason
+    Stream = 0, ///< bytes of the stream: endless Matroska, as streams::MatroskaWriter writes it
+    End =
+        1, ///< no bytes: the stream has ended without a stop by the caller; `parameter` is a StreamEndReason
 };
 
-/// Why a live stream has ended that its caller did not stop.
+/// The reason of the end of a live stream that its caller did not stop.
 enum class StreamEndReason : std::int32_t
 {
-    ConnectionLost = 1, ///< the device does not respond any more
+    ConnectionLost = 1, ///< the device no longer responds
     EndedByDevice = 2,  ///< the device has closed the stream
-    NoFrames = 3,       ///< the device sends nothing that can be decoded
+    NoFrames = 3,       ///< the device sends no decodable frames
     Refused = 4,        ///< the device no longer accepts the login
-    Malformed = 5,      ///< the device sends what is not a stream
-    Failed = 6,         ///< this computer could not do its part
+    Malformed = 5,      ///< the data of the device are not a stream
+    Failed = 6,         ///< a failure of the host
 };
 
-/// Called with a piece of a live stream: `size` bytes at `data`, which end with the call. Pieces come in
-/// their order, cut anywhere, one at a time for each stream. `dataType` is a RealDataType. The stream starts
-/// again with another header where it must; `parameter` belongs to the library unless the type says
-/// otherwise. RealDataType::End is the last call, at most once: to the handler that is set when the stream
-/// ends, else to the next one.
+/// Called with a chunk of a live stream: `size` bytes at `data`, which are valid during the call. Chunks
+/// arrive in order, may be split anywhere, and are passed one at a time for each stream. `dataType` is a
+/// RealDataType. A stream may start again with another header. `parameter` is internal to the library except
+/// for RealDataType::End, which is the last call, made at most once: to the handler that is set when the
+/// stream ends, otherwise to the next one.
 using RealDataHandler = void (*)(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
                                  std::uint32_t size, std::int64_t parameter, void *user);
 
@@ -44,9 +45,9 @@ inline constexpr std::size_t maximumChannelStates = 1024;
 
 enum class ChannelConnection : std::int32_t
 {
-    Unknown = 0, ///< the device does not say
+    Unknown = 0, ///< not reported by the device
     Connected = 1,
-    NotConnected = 2, ///< nothing is plugged in, or the camera behind the channel does not answer
+    NotConnected = 2, ///< no camera is connected, or it does not respond
 };
 
 /// State of one channel of a device.

@@ -13,7 +13,7 @@ enum class DeviceSetting : std::uint32_t
     Time = 8, ///< TimeRecord
 };
 
-/// A date and time on a device's own clock, which knows no time zone.
+/// The date and time of a device's clock, without a time zone.
 struct TimeRecord
 {
     std::uint32_t year;
@@ -55,7 +55,7 @@ struct ResetSystemOutput
 };
 static_assert(sizeof(ResetSystemOutput) == 4);
 
-/// Given to NetModifyPassword. Its texts are no longer than those of a login.
+/// Given to NetModifyPassword. The fields are as long as those of a login.
 struct ModifyPasswordInput
 {
     std::uint32_t size; ///< sizeof(ModifyPasswordInput)

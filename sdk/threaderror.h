@@ -1,4 +1,4 @@
-// The last error of every calling thread, apart for each library in the process.
+// The last error of every calling thread, stored separately for each library object.
 #pragma once
 
 #include <cstdint>
@@ -17,13 +17,13 @@ public:
     requires std::is_enum_v<Error>
     bool fail(Error error) const { return failWith(static_cast<std::uint32_t>(error)); }
 
-    /// The code of the calling thread, 0 when nothing has failed on it.
+    /// The code of the calling thread, 0 if nothing has failed on it.
     [[nodiscard]] std::uint32_t last() const;
 
 private:
     bool failWith(std::uint32_t code) const;
 
-    std::uint64_t m_key; // never used twice, unlike the address of a library that is gone
+    std::uint64_t m_key; // never reused, unlike the address of a destroyed library
 };
 
 } // namespace sdk

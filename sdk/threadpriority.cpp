@@ -25,8 +25,8 @@ void giveWayToWindow() noexcept
     if (!hasWindow)
         return;
 #ifdef __linux__
-    // A thread of this niceness gets about a tenth of the time of a usual one beside it. It is counted from
-    // the first thread of the process, so that it does not rise from thread to thread.
+    // A thread of this niceness gets about a tenth of the processor time of a normal one. It is relative to
+    // the first thread of the process: relative to the calling thread, it would rise from thread to thread.
     constexpr int step = 10;
     constexpr int mostNice = 19;
     const int usual = getpriority(PRIO_PROCESS, static_cast<id_t>(getpid()));

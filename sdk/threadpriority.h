@@ -1,14 +1,14 @@
-// The priority of threads to the operating system.
+// The priority of threads.
 #pragma once
 
 namespace sdk {
 
-/// The program has a window, or will have one. To be called before threads begin.
+/// To be called at the start of an application with a window, before it creates threads.
 void expectWindow() noexcept;
 
-/// The calling thread gives way to the window from now on, and so do the threads that it begins: on a
-/// computer whose processors are all busy, the threads that paint the window run first. Does nothing without
-/// a window, and where the system has no such priority for a thread.
+/// Lowers the priority of the calling thread, and of the threads that it creates: when all processors are
+/// busy, the threads that paint the window run first. Does nothing without expectWindow(), and on systems
+/// without such a priority of a thread.
 void giveWayToWindow() noexcept;
 
 } // namespace sdk

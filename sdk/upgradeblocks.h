@@ -6,16 +6,16 @@
 
 namespace sdk {
 
-/// How far an upgrade is. It goes through the phases in their order.
+/// The phase of an upgrade. The phases follow each other in this order.
 enum class UpgradePhase : std::int32_t
 {
-    Sending = 1, ///< the file goes to the device, which can still drop it
-    Writing = 2, ///< the device replaces its firmware and cannot be stopped
+    Sending = 1, ///< the file is sent to the device; the upgrade can be cancelled
+    Writing = 2, ///< the device replaces its firmware; the upgrade cannot be cancelled
     Done = 3,    ///< the firmware is written; the device reboots, and its sessions have ended
-    Failed = 4,  ///< the device keeps the firmware that it had
+    Failed = 4,  ///< the device keeps its previous firmware
 };
 
-/// What a device tells of its upgrade.
+/// The progress of an upgrade.
 struct UpgradeProgress
 {
     std::uint32_t size; ///< sizeof(UpgradeProgress)
@@ -26,8 +26,8 @@ struct UpgradeProgress
 static_assert(sizeof(UpgradeProgress) == 16);
 static_assert(offsetof(UpgradeProgress, error) == 12);
 
-/// Called on a thread of the library, once at a time for each upgrade. `progress` ends with the call. After
-/// Done or Failed nothing more comes.
+/// Called on a thread of the library, one call at a time for each upgrade. `progress` is valid during the
+/// call. Done or Failed is the last call.
 using UpgradeProgressHandler = void (*)(std::int64_t upgradeHandle, const UpgradeProgress *progress,
                                         void *user);
 
