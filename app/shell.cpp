@@ -55,7 +55,7 @@ QString translationPath(const QString &code)
 QString usualAccount(const sdk::demo::DemoSite &site)
 {
     QHash<QString, int> devices;
-    site.visitDevices([&devices](const sdk::demo::SceneDevice &device) {
+    site.forEachDevice([&devices](const sdk::demo::SceneDevice &device) {
         if (!device.accounts.isEmpty())
             ++devices[device.accounts.constFirst().user + QLatin1String(" / ") +
                       device.accounts.constFirst().password];

@@ -68,8 +68,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
                             {u"both"_s, DigestChoice::Both}});
          }},
     };
-    for (qsizetype place = 1; place < arguments.size() && line.error.isEmpty(); ++place) {
-        const QString &argument = arguments.at(place);
+    for (qsizetype index = 1; index < arguments.size() && line.error.isEmpty(); ++index) {
+        const QString &argument = arguments.at(index);
         const QString name = argument.section(u'=', 0, 0);
         if (argument == u"--help" || argument == u"-h") {
             line.help = true;
@@ -81,7 +81,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
             line.error = u"unknown argument \"%1\""_s.arg(argument);
         } else {
             const QString value =
-                argument.contains(u'=') ? argument.section(u'=', 1) : arguments.value(++place);
+                argument.contains(u'=') ? argument.section(u'=', 1) : arguments.value(++index);
             if (!options.value(name)(value))
                 line.error = u"%1 cannot be \"%2\""_s.arg(name, value);
         }
@@ -93,19 +93,19 @@ QString CommandLine::usage()
 {
     return u"Usage: ConfigToolsSite [--scene SCENE] [--interface NAME] [OPTION...]\n"
            "\n"
-           "Serves a simulated site on a network: each device has a MAC and an address of its own.\n"
-           "It needs the right to make network namespaces and interfaces; scripts/lab starts it in\n"
-           "a network that leads nowhere else.\n"
+           "Serves a simulated site on a network: each device has a separate MAC and address.\n"
+           "It needs the right to create network namespaces and interfaces; scripts/lab starts it\n"
+           "in a network without any other connection.\n"
            "\n"
            "  --scene SCENE      office (the default), factory, faulty, fleet:N, or a scene file\n"
-           "  --interface NAME   where the devices are to be (eth0)\n"
+           "  --interface NAME   the interface that the devices are connected to (eth0)\n"
            "  --devices N        only the first N devices of the scene\n"
-           "  --list             print the devices and their accounts and end\n"
-           "  --record FOLDER    keep every message of a service as a file\n"
-           "  --login KIND       token, digest or both for all devices, instead of each in its manner\n"
+           "  --list             print the devices and their accounts, and exit\n"
+           "  --record FOLDER    write every message of a service to a file\n"
+           "  --login KIND       token, digest or both for all devices, instead of the method of their make\n"
            "  --digest KIND      md5, sha256 or both, the same\n"
-           "  --new-keys         devices make another key for HTTPS each time they start\n"
-           "  --help             print this text and end\n"_s;
+           "  --new-keys         devices create another HTTPS key at each start\n"
+           "  --help             print this text and exit\n"_s;
 }
 
 } // namespace site

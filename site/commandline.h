@@ -17,7 +17,7 @@ struct CommandLine
     SiteOptions options;
     QString error; ///< a sentence; empty on success
 
-    /// The first one of `arguments` is the name of the program.
+    /// `arguments` starts with the name of the program.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
     [[nodiscard]] static QString usage();
 };

@@ -45,7 +45,7 @@ QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &m
     if (manner.hasMedia2)
         scopes.append(scope(u"Profile/T"_s));
     scopes.append(scope(u"location/"_s));
-    scopes.append(scope(u"hardware/"_s + encoded(toldModel(device))));
+    scopes.append(scope(u"hardware/"_s + encoded(reportedModel(device))));
     scopes.append(scope(u"name/"_s + encoded(reportedName(device))));
     return scopes;
 }
@@ -78,7 +78,7 @@ std::string reportedName(const sdk::demo::SceneDevice &device)
     return std::string(sdk::blockText(searchAnswer(device, anyVersion, {}).device.deviceName));
 }
 
-std::string toldModel(const sdk::demo::SceneDevice &device)
+std::string reportedModel(const sdk::demo::SceneDevice &device)
 {
     constexpr int anyVersion = 4;
     return std::string(sdk::blockText(searchAnswer(device, anyVersion, {}).device.detailModel));

@@ -30,6 +30,6 @@ inline constexpr const char *deviceServicePath = "/onvif/device_service";
 
 /// The name of the device; with the corresponding faults it has invalid bytes, or is too long.
 [[nodiscard]] std::string reportedName(const sdk::demo::SceneDevice &device);
-[[nodiscard]] std::string toldModel(const sdk::demo::SceneDevice &device);
+[[nodiscard]] std::string reportedModel(const sdk::demo::SceneDevice &device);
 
 } // namespace site

@@ -31,7 +31,7 @@ QString lineOf(const SceneDevice &device)
     if (const QString objection = SiteServer::objectionTo(device); !objection.isEmpty())
         remarks.append(u"left out: "_s + objection);
     if (device.isUninitialised())
-        remarks.append(u"waits for its first password"_s);
+        remarks.append(u"not initialised"_s);
     if (device.inOtherSegment)
         remarks.append(u"other segment"_s);
     for (const FaultSetting &fault : device.faults)

@@ -9,7 +9,7 @@ class DemoSite;
 
 namespace site {
 
-/// A line for the installer's computer, then one for each device. The columns are separated by tabs.
+/// A line for the host of the installer, then one for each device. The columns are separated by tabs.
 [[nodiscard]] QString deviceList(const sdk::demo::DemoSite &site);
 
 } // namespace site

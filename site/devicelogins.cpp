@@ -23,7 +23,7 @@ QString reasonOf(sdk::NetError error)
     case sdk::NetError::AccountLoggedInSecure:
         return u"The account has a session already"_s;
     case sdk::NetError::NotSupported:
-        return u"The device waits for its first password"_s;
+        return u"The device is not initialised"_s;
     default:
         return u"The user or the password is wrong"_s;
     }
@@ -76,8 +76,8 @@ LoginOutcome DeviceLogins::outcome(const SceneDevice &device, const QString &use
                                    const std::function<bool(const QString &password)> &isProved)
 {
     const SceneAccount *account = accountOf(device, user);
-    const bool isRight = account && isProved(account->password);
-    const QString password = isRight ? account->password : (account ? account->password : QString()) + u'?';
+    const bool isCorrect = account && isProved(account->password);
+    const QString password = isCorrect ? account->password : (account ? account->password : QString()) + u'?';
     const sdk::NetError error = m_guard.check(device, user, password, LoginKind::Secure);
     LoginOutcome outcome;
     outcome.user = user;

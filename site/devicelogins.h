@@ -24,9 +24,9 @@ struct LoginOutcome
 {
     UserLevel level = UserLevel::Anonymous; ///< of the client
     QString user;
-    bool wasTried = false;                                               ///< the request contains a user name
-    bool isStale = false;                                                ///< the nonce has expired
-    QString reason = QStringLiteral("A user and a password are needed"); ///< why nobody was let in
+    bool wasTried = false; ///< the request contains a user name
+    bool isStale = false;  ///< the nonce has expired
+    QString reason = QStringLiteral("A user and a password are required"); ///< why the request is refused
 };
 
 /// The logins of all protocols to the devices of a site, with common counters of wrong passwords.

@@ -23,7 +23,7 @@ int fail(const QString &sentence, int code = 1)
     return code;
 }
 
-/// Blocks the signals that end the program in every thread, so that they stay pending for sigtimedwait().
+/// Blocks the signals that end the process, in every thread, so that they stay pending for sigtimedwait().
 sigset_t blockEndSignals()
 {
     sigset_t signals = {};

@@ -82,7 +82,7 @@ void ServedDevice::appear(const Shape &shape)
     if (m_discovery->isOpen())
         m_discovery->sendHello();
     else
-        qCWarning(siteLog, "%ls cannot be found: port %d is taken", qUtf16Printable(m_mac),
+        qCWarning(siteLog, "%ls does not respond to searches: port %d is in use", qUtf16Printable(m_mac),
                   DiscoveryPort::port);
 }
 

@@ -23,7 +23,7 @@ class Poller;
 class ServedDevice
 {
 public:
-    /// The parts of the program that all devices share; they must outlive the devices.
+    /// The objects that all devices share; they must outlive the devices.
     struct Parts
     {
         sdk::demo::DemoSite &site;

@@ -25,8 +25,8 @@ std::variant<BindingSections, BindingProblem> readBindingFile(const std::filesys
         return BindingProblem{.kind = BindingProblem::Kind::FileUnreadable, .file = file.string()};
     BindingSections sections;
     BindingSection *section = nullptr;
-    for (std::string whole; std::getline(stream, whole);) {
-        const std::string_view line = trimmed(whole);
+    for (std::string text; std::getline(stream, text);) {
+        const std::string_view line = trimmed(text);
         if (line.empty() || line.front() == '#')
             continue;
         if (line.front() == '[' && line.back() == ']') {

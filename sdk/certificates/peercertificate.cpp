@@ -62,7 +62,7 @@ std::string commonName(const X509 *certificate)
     // The name comes from the device: it must not break the line that displays it.
     std::replace_if(
         text.begin(), text.end(),
-        [](char letter) { return static_cast<unsigned char>(letter) < ' ' || letter == 0x7f; }, ' ');
+        [](char character) { return static_cast<unsigned char>(character) < ' ' || character == 0x7f; }, ' ');
     return text;
 }
 

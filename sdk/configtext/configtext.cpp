@@ -43,7 +43,7 @@ std::optional<QJsonObject> packedFields(std::span<const ConfigField> fields, con
 /// Returns false when the value does not fit `field`.
 bool unpackField(const ConfigField &field, const QJsonValue &value, char *record)
 {
-    char *const place = record + field.offset;
+    char *const fieldData = record + field.offset;
     std::int32_t number = 0;
     switch (field.kind) {
     case ConfigFieldKind::Text: {
@@ -52,7 +52,7 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
         const QByteArray bytes = value.toString().toUtf8();
         const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
         // A zero ends the text of a field, so the text is truncated there.
-        setBlockText(place, field.size, text.substr(0, text.find('\0')));
+        setBlockText(fieldData, field.size, text.substr(0, text.find('\0')));
         return true;
     }
     case ConfigFieldKind::Flag:
@@ -63,7 +63,7 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
     case ConfigFieldKind::ByteFlag:
         if (!value.isBool())
             return false;
-        *place = value.toBool() ? 1 : 0;
+        *fieldData = value.toBool() ? 1 : 0;
         return true;
     case ConfigFieldKind::Number: {
         const double wide = value.toDouble(std::nan(""));
@@ -74,30 +74,30 @@ bool unpackField(const ConfigField &field, const QJsonValue &value, char *record
         break;
     }
     case ConfigFieldKind::Object:
-        return value.isObject() && unpackFields({field.inner, field.innerCount}, value.toObject(), place);
+        return value.isObject() && unpackFields({field.inner, field.innerCount}, value.toObject(), fieldData);
     }
-    std::memcpy(place, &number, sizeof(number));
+    std::memcpy(fieldData, &number, sizeof(number));
     return true;
 }
 
 /// Undefined when the number of the field is out of range.
 QJsonValue packedField(const ConfigField &field, const char *record)
 {
-    const char *const place = record + field.offset;
+    const char *const fieldData = record + field.offset;
     if (field.kind == ConfigFieldKind::Text) {
-        const std::string_view whole(place, field.size);
-        const std::string_view text = whole.substr(0, whole.find('\0'));
+        const std::string_view complete(fieldData, field.size);
+        const std::string_view text = complete.substr(0, complete.find('\0'));
         return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     }
     if (field.kind == ConfigFieldKind::Object) {
-        const std::optional<QJsonObject> inner = packedFields({field.inner, field.innerCount}, place);
+        const std::optional<QJsonObject> inner = packedFields({field.inner, field.innerCount}, fieldData);
         return inner ? QJsonValue(*inner) : QJsonValue(QJsonValue::Undefined);
     }
     std::int32_t number = 0;
     if (field.kind == ConfigFieldKind::ByteFlag)
-        number = static_cast<std::uint8_t>(*place);
+        number = static_cast<std::uint8_t>(*fieldData);
     else
-        std::memcpy(&number, place, sizeof(number));
+        std::memcpy(&number, fieldData, sizeof(number));
     if (number < field.minimum || number > field.maximum)
         return QJsonValue(QJsonValue::Undefined);
     if (field.kind == ConfigFieldKind::Number)

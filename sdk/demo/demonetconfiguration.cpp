@@ -18,7 +18,7 @@ namespace sdk::demo {
 namespace {
 
 /// The common log values of a session's requests to a channel.
-QJsonObject askedOf(std::int64_t loginHandle, std::int32_t channel, std::chrono::milliseconds wait)
+QJsonObject logValues(std::int64_t loginHandle, std::int32_t channel, std::chrono::milliseconds wait)
 {
     return {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
             {QStringLiteral("channel"), channel},
@@ -63,14 +63,14 @@ bool DemoNetLibrary::NetGetItem(std::int64_t loginHandle, std::uint32_t item, st
     const CallGate::Call call(m_gate);
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
     const ItemBlock *known = itemBlock(item);
-    const bool isWhole = known && blockSize == known->size && statedSize(block, blockSize) == known->size;
-    QJsonObject request = askedOf(loginHandle, channel, wait);
+    const bool isValid = known && blockSize == known->size && statedSize(block, blockSize) == known->size;
+    QJsonObject request = logValues(loginHandle, channel, wait);
     request.insert(QStringLiteral("item"), static_cast<qint64>(item));
     request.insert(QStringLiteral("blockSize"), static_cast<qint64>(blockSize));
-    if (isWhole)
+    if (isValid)
         addFields(request, decodedItem(*known, block));
     record("NetGetItem", request, session.value_or(DemoSession()).mac);
-    if (known && !isWhole)
+    if (known && !isValid)
         return m_error.fail(DemoError::WrongSize);
     const std::optional<SceneDevice> device = askedDevice(call, session, wait);
     if (!device)
@@ -90,16 +90,16 @@ bool DemoNetLibrary::setItemOfChannel(const CallGate::Call &call, std::int64_t l
                                       std::chrono::milliseconds wait)
 {
     const ItemBlock *known = itemBlock(item);
-    const bool isWhole = known && (blockSize == known->size || isColorRecord(item, blockSize)) &&
+    const bool isValid = known && (blockSize == known->size || isColorRecord(item, blockSize)) &&
                          statedSize(block, blockSize) == blockSize;
-    QJsonObject request = askedOf(loginHandle, channel, wait);
+    QJsonObject request = logValues(loginHandle, channel, wait);
     request.insert(QStringLiteral("item"), static_cast<qint64>(item));
     request.insert(QStringLiteral("blockSize"), static_cast<qint64>(blockSize));
-    const QList<QByteArray> blocks = isWhole ? itemBlocks(item, block, blockSize) : QList<QByteArray>();
+    const QList<QByteArray> blocks = isValid ? itemBlocks(item, block, blockSize) : QList<QByteArray>();
     if (blocks.size() == 1)
         addFields(request, decodedItem(*known, block));
     record("NetSetItem", request, session.value_or(DemoSession()).mac);
-    if (known && !isWhole)
+    if (known && !isValid)
         return m_error.fail(DemoError::WrongSize);
     return maintain(call, session, wait, [&](SceneDevice &device) {
         for (const QByteArray &single : blocks) {
@@ -125,7 +125,7 @@ bool DemoNetLibrary::NetQueryCapabilities(std::int64_t loginHandle, CapabilityQu
         return queryCamera(call, loginHandle, session, static_cast<const CameraCapabilityInput *>(input),
                            static_cast<CameraCapabilities *>(output), wait);
     }
-    QJsonObject request = askedOf(loginHandle, 0, wait);
+    QJsonObject request = logValues(loginHandle, 0, wait);
     request.insert(QStringLiteral("query"), static_cast<int>(query));
     record("NetQueryCapabilities", request, session.value_or(DemoSession()).mac);
     return askedDevice(call, session, wait) && m_error.fail(NetError::NotSupported);
@@ -136,25 +136,25 @@ bool DemoNetLibrary::queryEncode(const CallGate::Call &call, std::int64_t loginH
                                  const EncodeCapabilityInput *input, EncodeCapabilities *output,
                                  std::chrono::milliseconds wait)
 {
-    const bool isWhole =
+    const bool isValid =
         input && input->size == sizeof(*input) && input->text && output && output->size == sizeof(*output) &&
         std::all_of(output->blocks.begin(), output->blocks.end(),
                     [](const EncodeCapabilityBlock &block) { return block.size == sizeof(block); });
-    const QByteArray text = isWhole ? QByteArray(input->text) : QByteArray();
-    QJsonObject request = askedOf(loginHandle, input ? input->channel : 0, wait);
+    const QByteArray text = isValid ? QByteArray(input->text) : QByteArray();
+    QJsonObject request = logValues(loginHandle, input ? input->channel : 0, wait);
     request.insert(QStringLiteral("query"), static_cast<int>(CapabilityQuery::Encode));
     request.insert(QStringLiteral("size"), input ? static_cast<qint64>(input->size) : 0);
     request.insert(QStringLiteral("outputSize"), output ? static_cast<qint64>(output->size) : 0);
     request.insert(QStringLiteral("text"), QJsonDocument::fromJson(text).object());
     record("NetQueryCapabilities", request, session.value_or(DemoSession()).mac);
-    if (!isWhole)
+    if (!isValid)
         return m_error.fail(DemoError::WrongSize);
     const std::optional<SceneDevice> device = askedDevice(call, session, wait);
     if (!device)
         return false;
     if (device->hasFault(Fault::RefusesCapabilities))
         return m_error.fail(NetError::NotSupported);
-    const NetError error = tellEncodeCapabilities(*device, input->channel, text, *output);
+    const NetError error = fillEncodeCapabilities(*device, input->channel, text, *output);
     return error == NetError::None || m_error.fail(error);
 }
 
@@ -163,7 +163,7 @@ bool DemoNetLibrary::queryCamera(const CallGate::Call &call, std::int64_t loginH
                                  const CameraCapabilityInput *input, CameraCapabilities *output,
                                  std::chrono::milliseconds wait)
 {
-    QJsonObject request = askedOf(loginHandle, input ? input->channel : 0, wait);
+    QJsonObject request = logValues(loginHandle, input ? input->channel : 0, wait);
     request.insert(QStringLiteral("query"), static_cast<int>(CapabilityQuery::Camera));
     request.insert(QStringLiteral("size"), input ? static_cast<qint64>(input->size) : 0);
     request.insert(QStringLiteral("outputSize"), output ? static_cast<qint64>(output->size) : 0);

@@ -45,7 +45,7 @@ std::int32_t usualPort(const DemoSite &site)
 {
     constexpr std::int32_t portWithoutDevices = 37777;
     std::map<std::int32_t, int> counts;
-    site.visitDevices([&counts](const SceneDevice &device) { ++counts[device.port]; });
+    site.forEachDevice([&counts](const SceneDevice &device) { ++counts[device.port]; });
     const auto usual = std::ranges::max_element(counts, {}, &std::pair<const std::int32_t, int>::second);
     return usual == counts.end() ? portWithoutDevices : usual->first;
 }

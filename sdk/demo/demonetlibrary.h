@@ -180,15 +180,15 @@ private:
     bool waitUnlessStopped(std::chrono::milliseconds duration, const std::stop_token &stop) const;
 
     /// Waits for the delay of a slow device. Returns false if it exceeds `wait`, and on a stop.
-    bool passAnswerTime(const std::stop_token &stop, const SceneDevice &device,
-                        std::chrono::milliseconds wait) const;
+    bool waitForResponse(const std::stop_token &stop, const SceneDevice &device,
+                         std::chrono::milliseconds wait) const;
 
     /// Counts a request with an accepted password.
     void noteRequest(const SceneDevice &device);
 
     /// Whether `mac` responds to a request without a login; otherwise the error is in m_error.
-    bool isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
-                    std::chrono::milliseconds wait);
+    bool responds(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
+                  std::chrono::milliseconds wait);
 
     DemoSite &m_site;
     ThreadError m_error;

@@ -28,7 +28,7 @@ std::optional<Block> blockOf(const void *bytes, std::uint32_t size)
 }
 
 /// The common log values of a session's requests.
-QJsonObject asked(std::int64_t loginHandle, std::chrono::milliseconds wait)
+QJsonObject logValues(std::int64_t loginHandle, std::chrono::milliseconds wait)
 {
     return {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
             {QStringLiteral("wait"), static_cast<qint64>(wait.count())}};
@@ -59,7 +59,7 @@ bool DemoNetLibrary::NetSetDeviceSetting(std::int64_t loginHandle, DeviceSetting
 {
     const CallGate::Call call(m_gate);
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
-    QJsonObject request = asked(loginHandle, wait);
+    QJsonObject request = logValues(loginHandle, wait);
     request.insert(QStringLiteral("setting"), static_cast<int>(setting));
     request.insert(QStringLiteral("channel"), channel);
     request.insert(QStringLiteral("blockSize"), static_cast<qint64>(blockSize));
@@ -89,7 +89,7 @@ bool DemoNetLibrary::NetSetItem(std::int64_t loginHandle, std::uint32_t item, st
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
     if (itemBlock(item))
         return setItemOfChannel(call, loginHandle, session, item, channel, block, blockSize, wait);
-    QJsonObject request = asked(loginHandle, wait);
+    QJsonObject request = logValues(loginHandle, wait);
     request.insert(QStringLiteral("item"), static_cast<qint64>(item));
     request.insert(QStringLiteral("channel"), channel);
     request.insert(QStringLiteral("blockSize"), static_cast<qint64>(blockSize));
@@ -119,7 +119,7 @@ bool DemoNetLibrary::NetSetNewConfig(std::int64_t loginHandle, const char *name,
     const std::size_t length = buffer.find('\0'); // larger than every string without a terminating zero
     const bool isEnded = length <= longestConfigText;
     const QByteArray words = isEnded ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
-    QJsonObject request = asked(loginHandle, wait);
+    QJsonObject request = logValues(loginHandle, wait);
     request.insert(QStringLiteral("name"), written);
     request.insert(QStringLiteral("channel"), channel);
     request.insert(QStringLiteral("textSize"), static_cast<qint64>(textSize));
@@ -140,12 +140,12 @@ bool DemoNetLibrary::NetRebootDevice(std::int64_t loginHandle, std::chrono::mill
 {
     const CallGate::Call call(m_gate);
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
-    record("NetRebootDevice", asked(loginHandle, wait), macOf(session));
-    const bool isGone = maintain(
+    record("NetRebootDevice", logValues(loginHandle, wait), macOf(session));
+    const bool isOffline = maintain(
         call, session, wait, [this](SceneDevice &device) { return reboot(device, m_site.clock().now()); });
-    if (isGone)
+    if (isOffline)
         m_sessions.endSessionsTo(session->mac);
-    return isGone;
+    return isOffline;
 }
 
 bool DemoNetLibrary::NetResetSystem(std::int64_t loginHandle, const ResetSystemInput &input,
@@ -153,18 +153,18 @@ bool DemoNetLibrary::NetResetSystem(std::int64_t loginHandle, const ResetSystemI
 {
     const CallGate::Call call(m_gate);
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
-    QJsonObject request = asked(loginHandle, wait);
+    QJsonObject request = logValues(loginHandle, wait);
     request.insert(QStringLiteral("size"), static_cast<qint64>(input.size));
     request.insert(QStringLiteral("outputSize"), static_cast<qint64>(output.size));
     record("NetResetSystem", request, macOf(session));
     if (input.size != sizeof(input) || output.size != sizeof(output))
         return m_error.fail(DemoError::WrongSize);
-    const bool isGone = maintain(call, session, wait, [this](SceneDevice &device) {
+    const bool isOffline = maintain(call, session, wait, [this](SceneDevice &device) {
         return resetToFactory(device, m_site.clock().now());
     });
-    if (isGone)
+    if (isOffline)
         m_sessions.endSessionsTo(session->mac);
-    return isGone;
+    return isOffline;
 }
 
 bool DemoNetLibrary::NetModifyPassword(std::int64_t loginHandle, const ModifyPasswordInput &input,
@@ -174,7 +174,7 @@ bool DemoNetLibrary::NetModifyPassword(std::int64_t loginHandle, const ModifyPas
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
     const QString account = textOf(input.account);
     const QString newPassword = textOf(input.newPassword);
-    QJsonObject request = asked(loginHandle, wait);
+    QJsonObject request = logValues(loginHandle, wait);
     request.insert(QStringLiteral("size"), static_cast<qint64>(input.size));
     request.insert(QStringLiteral("account"), account);
     request.insert(QStringLiteral("passwordLength"), newPassword.size());

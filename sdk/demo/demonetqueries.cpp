@@ -42,7 +42,7 @@ NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSes
         device = m_site.device(session.mac);
     if (device && device->hasFault(Fault::RefusesConnections))
         return NetError::ConnectFailed;
-    const bool hasAnswer = device && passAnswerTime(stop.get_token(), *device, wait);
+    const bool hasAnswer = device && waitForResponse(stop.get_token(), *device, wait);
     if (!device)
         m_site.clock().wait(bounded(wait), stop.get_token());
     if (call.stop().stop_requested())
@@ -62,8 +62,8 @@ NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSes
     return NetError::None;
 }
 
-bool DemoNetLibrary::passAnswerTime(const std::stop_token &stop, const SceneDevice &device,
-                                    std::chrono::milliseconds wait) const
+bool DemoNetLibrary::waitForResponse(const std::stop_token &stop, const SceneDevice &device,
+                                     std::chrono::milliseconds wait) const
 {
     const std::optional<FaultSetting> slow = device.fault(Fault::SlowAnswers);
     if (!slow)

@@ -27,8 +27,8 @@ bool DemoNetLibrary::waitUnlessStopped(std::chrono::milliseconds duration, const
     return true;
 }
 
-bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
-                                std::chrono::milliseconds wait)
+bool DemoNetLibrary::responds(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
+                              std::chrono::milliseconds wait)
 {
     if (!call.isAllowed())
         return m_error.fail(DemoError::NotPrepared);
@@ -40,7 +40,7 @@ bool DemoNetLibrary::isAnswered(const CallGate::Call &call, const QString &mac, 
         device->isListening(m_site.clock().now())) {
         if (device->hasFault(Fault::RefusesConnections))
             return m_error.fail(NetError::ConnectFailed);
-        return passAnswerTime(stop.get_token(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
+        return waitForResponse(stop.get_token(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
     }
     const bool isFullWait = waitUnlessStopped(bounded(wait), stop.get_token());
     return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
@@ -63,7 +63,7 @@ bool DemoNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, D
            mac);
     if (input.size != sizeof(InitDeviceAccountInput) || output.size != sizeof(DeviceRequestOutput))
         return m_error.fail(DemoError::WrongSize);
-    if (!isAnswered(call, mac, false, wait))
+    if (!responds(call, mac, false, wait))
         return false;
     const NetError error = initialiseDevice(m_site, mac, account);
     return error == NetError::None || m_error.fail(error);
@@ -89,7 +89,7 @@ bool DemoNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, Dev
         return m_error.fail(DemoError::WrongSize);
     if (CallStop::isRequested())
         return m_error.fail(NetError::Cancelled);
-    if (!isAnswered(call, mac, true, wait))
+    if (!responds(call, mac, true, wait))
         return false;
     const NetError error = changeDeviceAddress(m_site, mac, wanted);
     return error == NetError::None || m_error.fail(error);

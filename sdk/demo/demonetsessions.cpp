@@ -60,7 +60,7 @@ std::int64_t DemoNetLibrary::login(const char *operation, QJsonObject decoded, c
         const bool isFullWait = m_site.clock().wait(connectTime, call.stop());
         return fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
     }
-    if (!passAnswerTime(call.stop(), *found, connectTime))
+    if (!waitForResponse(call.stop(), *found, connectTime))
         return fail(NetError::ConnectTimeout);
     const NetError error = m_loginGuard.check(*found, request.account, request.password, request.kind);
     if (error != NetError::None)

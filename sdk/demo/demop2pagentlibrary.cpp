@@ -168,7 +168,7 @@ bool DemoP2PAgentLibrary::breakTunnel(int localPort)
 QString DemoP2PAgentLibrary::macOf(const QString &deviceId) const
 {
     QString mac;
-    m_site.visitDevices([&](const SceneDevice &device) {
+    m_site.forEachDevice([&](const SceneDevice &device) {
         if (mac.isEmpty() && !deviceId.isEmpty() && device.p2pId == deviceId)
             mac = device.mac;
     });

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 // Outside every namespace, as Q_INIT_RESOURCE requires. The reference keeps the linker from dropping the
 // resources of this static library.
-static void takeInSceneResources()
+static void initialiseSceneResources()
 {
     Q_INIT_RESOURCE(demoscenes);
 }
@@ -47,7 +47,7 @@ std::optional<Scene> generatedFleet(const QString &name, QString *error)
 std::optional<Scene> sceneOf(const QString &nameOrFile, QString *error)
 {
     if (builtInScenes().contains(nameOrFile)) {
-        takeInSceneResources();
+        initialiseSceneResources();
         return SceneReader::readFile(u":/demo/scenes/%1.json"_s.arg(nameOrFile), error);
     }
     if (nameOrFile.startsWith(fleetPrefix))

@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 
 constexpr auto longestTransfer = 30min;
 constexpr std::chrono::seconds longestDelay = 60s;
-constexpr int wholePercent = 100;
+constexpr int fullPercent = 100;
 
 NetError errorOf(const HttpAnswer &answer)
 {
@@ -88,7 +88,7 @@ private:
             return;
         const NetError failure = errorOf(answer);
         if (failure == NetError::None)
-            report(UpgradePhase::Done, wholePercent);
+            report(UpgradePhase::Done, fullPercent);
         else
             report(UpgradePhase::Failed, 0, failure);
     }
@@ -101,7 +101,7 @@ private:
             report(UpgradePhase::Writing, 0);
             return;
         }
-        const int percent = static_cast<int>(sent * wholePercent / m_size);
+        const int percent = static_cast<int>(sent * fullPercent / m_size);
         if (percent > m_percent)
             report(UpgradePhase::Sending, percent);
     }
@@ -129,7 +129,7 @@ private:
     std::atomic<UpgradePhase> m_phase = UpgradePhase::Sending;
     std::int64_t m_size = 0;
     int m_percent = -1;
-    std::jthread m_thread; ///< last: it uses the rest
+    std::jthread m_thread; ///< the last member: it uses the others
 };
 
 FirmwareUploads::FirmwareUploads(std::shared_ptr<const CertificateDecision> decision)

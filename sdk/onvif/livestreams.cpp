@@ -14,7 +14,7 @@ namespace sdk::onvif {
 namespace {
 
 /// Half a second of the largest streams. Later data would be too old for a live view.
-constexpr std::size_t longestWaiting = std::size_t(4) * 1024 * 1024;
+constexpr std::size_t maximumWaitingBytes = std::size_t(4) * 1024 * 1024;
 
 /// The first bytes of the container (EBML, RFC 8794).
 constexpr std::array<std::uint8_t, 4> headerBegin = {0x1a, 0x45, 0xdf, 0xa3};
@@ -134,7 +134,7 @@ void LiveStream::take(std::span<const std::uint8_t> bytes)
 
 void LiveStream::keep(std::span<const std::uint8_t> bytes)
 {
-    m_hasDropped = m_waiting.size() + bytes.size() > longestWaiting;
+    m_hasDropped = m_waiting.size() + bytes.size() > maximumWaitingBytes;
     if (m_hasDropped)
         m_waiting = {};
     else

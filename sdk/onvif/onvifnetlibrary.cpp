@@ -117,8 +117,8 @@ bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request,
         request.count > maximumSearchAddresses)
         return m_error.fail(NetError::InvalidValue);
     std::vector<std::string> addresses;
-    for (std::size_t place = 0; place < static_cast<std::size_t>(request.count); ++place)
-        addresses.emplace_back(blockText(request.addresses[place]));
+    for (std::size_t index = 0; index < static_cast<std::size_t>(request.count); ++index)
+        addresses.emplace_back(blockText(request.addresses[index]));
     m_discovery->searchAddresses(addresses, handler, user, wait);
     return true;
 }

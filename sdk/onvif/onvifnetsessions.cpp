@@ -264,8 +264,8 @@ bool OnvifNetLibrary::NetSetNewConfig(LLONG loginHandle, const char *name, std::
                                       const char *text, std::uint32_t textSize, std::int32_t &error,
                                       std::chrono::milliseconds wait)
 {
-    const std::string_view whole(text, textSize);
-    const std::string_view content = whole.substr(0, whole.find('\0'));
+    const std::string_view complete(text, textSize);
+    const std::string_view content = complete.substr(0, complete.find('\0'));
     const bool isWritten = onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         const std::string_view wanted = name;
         if (wanted == "Encode")

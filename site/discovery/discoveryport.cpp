@@ -143,11 +143,11 @@ void DiscoveryPort::receive(int ipVersion)
     QByteArray bytes(static_cast<qsizetype>(largestDatagram), Qt::Uninitialized);
     sockaddr_storage source = {};
     std::array<char, 256> control = {};
-    iovec place = {bytes.data(), largestDatagram};
+    iovec buffer = {bytes.data(), largestDatagram};
     msghdr message = {};
     message.msg_name = &source;
     message.msg_namelen = sizeof(source);
-    message.msg_iov = &place;
+    message.msg_iov = &buffer;
     message.msg_iovlen = 1;
     message.msg_control = control.data();
     message.msg_controllen = control.size();

@@ -35,7 +35,7 @@ public:
     /// False when the port is in use.
     [[nodiscard]] bool isOpen() const;
 
-    // Sends Hello to the segment.
+    /// Sends Hello to the segment.
     void sendHello();
     void sendBye();
 

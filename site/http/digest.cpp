@@ -15,27 +15,27 @@ namespace {
 QMap<QByteArray, QByteArray> readParameters(const QByteArray &text)
 {
     QMap<QByteArray, QByteArray> parameters;
-    qsizetype place = 0;
-    while (place < text.size()) {
-        const qsizetype equals = text.indexOf('=', place);
+    qsizetype position = 0;
+    while (position < text.size()) {
+        const qsizetype equals = text.indexOf('=', position);
         if (equals < 0)
             break;
-        const QByteArray name = text.mid(place, equals - place).trimmed().toLower();
+        const QByteArray name = text.mid(position, equals - position).trimmed().toLower();
         QByteArray value;
-        place = equals + 1;
-        if (place < text.size() && text.at(place) == '"') {
-            for (++place; place < text.size() && text.at(place) != '"'; ++place) {
-                if (text.at(place) == '\\' && place + 1 < text.size())
-                    ++place;
-                value += text.at(place);
+        position = equals + 1;
+        if (position < text.size() && text.at(position) == '"') {
+            for (++position; position < text.size() && text.at(position) != '"'; ++position) {
+                if (text.at(position) == '\\' && position + 1 < text.size())
+                    ++position;
+                value += text.at(position);
             }
-            const qsizetype comma = text.indexOf(',', place);
-            place = comma < 0 ? text.size() : comma + 1;
+            const qsizetype comma = text.indexOf(',', position);
+            position = comma < 0 ? text.size() : comma + 1;
         } else {
-            const qsizetype comma = text.indexOf(',', place);
+            const qsizetype comma = text.indexOf(',', position);
             const qsizetype end = comma < 0 ? text.size() : comma;
-            value = text.mid(place, end - place).trimmed();
-            place = end + 1;
+            value = text.mid(position, end - position).trimmed();
+            position = end + 1;
         }
         parameters.insert(name, value);
     }

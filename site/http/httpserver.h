@@ -44,7 +44,7 @@ private:
         HttpReceiver receiver;
         std::shared_ptr<const sdk::demo::DeviceKey> key; // null without TLS
         std::stop_source stop = {};
-        bool isOver = false; // its thread returns at once
+        bool isOver = false; // its thread returns immediately
         std::thread thread = {};
     };
 

@@ -129,9 +129,9 @@ bool ServerConnection::sendBody(const HttpResponse &response) const
             return false;
     }
     while (sent < end && !block.isEmpty()) {
-        const qint64 place = sent % block.size();
-        const qint64 count = std::min<qint64>(block.size() - place, end - sent);
-        if (!send(block.sliced(place, count)))
+        const qint64 offset = sent % block.size();
+        const qint64 count = std::min<qint64>(block.size() - offset, end - sent);
+        if (!send(block.sliced(offset, count)))
             return false;
         sent += count;
     }

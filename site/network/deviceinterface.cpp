@@ -69,7 +69,7 @@ std::unique_ptr<DeviceInterface> DeviceInterface::create(unsigned lower, const Q
     std::optional<NetworkSpace> space = NetworkSpace::create();
     if (!space) {
         *error =
-            u"A network namespace cannot be made (%1); this needs root, or unshare --user --map-root-user"_s
+            u"A network namespace cannot be created (%1); this needs root, or unshare --user --map-root-user"_s
                 .arg(textOfError(errno));
         return nullptr;
     }
@@ -85,7 +85,7 @@ std::unique_ptr<DeviceInterface> DeviceInterface::create(unsigned lower, const Q
     request.endNested(data);
     request.endNested(information);
     if (const int code = request.send(); code != 0) {
-        *error = u"The interface of a device (%1) cannot be made: %2"_s.arg(mac, textOfError(code));
+        *error = u"The interface of a device (%1) cannot be created: %2"_s.arg(mac, textOfError(code));
         return nullptr;
     }
     // Not make_unique: the constructor is private.

@@ -59,9 +59,9 @@ void NetlinkRequest::add(std::uint16_t attribute, std::string_view text)
 
 std::size_t NetlinkRequest::beginNested(std::uint16_t attribute)
 {
-    const std::size_t place = m_size;
+    const std::size_t offset = m_size;
     add(attribute, std::span<const std::byte>());
-    return place;
+    return offset;
 }
 
 void NetlinkRequest::endNested(std::size_t nested)

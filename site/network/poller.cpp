@@ -71,8 +71,8 @@ void Poller::run(const std::stop_token &stop)
     while (!stop.stop_requested()) {
         const int count = epoll_wait(m_epoll.number(), events.data(), static_cast<int>(events.size()),
                                      millisecondsToNext());
-        for (int place = 0; place < count && !stop.stop_requested(); ++place)
-            runReadable(events[static_cast<std::size_t>(place)].data.fd);
+        for (int index = 0; index < count && !stop.stop_requested(); ++index)
+            runReadable(events[static_cast<std::size_t>(index)].data.fd);
         if (!stop.stop_requested())
             runDue();
     }

@@ -16,7 +16,7 @@ class KeyFrames
 {
 public:
     /// Requests that the next frame of the stream is a key frame.
-    void ask(const QString &mac, const MediaStream &stream);
+    void request(const QString &mac, const MediaStream &stream);
 
     /// The number of requests.
     [[nodiscard]] int count(const QString &mac, const MediaStream &stream) const;
@@ -26,10 +26,11 @@ public:
 
 private:
     using Key = std::pair<QString, MediaStream>;
-    [[nodiscard]] int countLocked(const Key &key) const;
+    /// Requires m_mutex.
+    [[nodiscard]] int countOf(const Key &key) const;
 
     mutable std::mutex m_mutex;
-    std::condition_variable_any m_asked;
+    std::condition_variable_any m_requested;
     std::map<Key, int> m_counts;
 };
 

@@ -32,20 +32,20 @@ void refuse(GstRTSPContext *context, const QByteArrayList &challenges)
 gboolean checkLogin(const site::RtspDevice &device, GstRTSPContext *context)
 {
     const site::RtspContext &parts = device.context;
-    const std::optional<SceneDevice> asked = parts.site.device(device.mac);
-    if (!asked)
+    const std::optional<SceneDevice> current = parts.site.device(device.mac);
+    if (!current)
         return FALSE;
     // Many players support MD5 only and use the last challenge, so every device offers MD5 last.
-    site::DeviceManner manner = parts.options.mannerOf(*asked);
+    site::DeviceManner manner = parts.options.mannerOf(*current);
     manner.offersMd5 = true;
     const std::int64_t now = parts.site.clock().now();
     gchar *header = nullptr;
     gst_rtsp_message_get_header(context->request, GST_RTSP_HDR_AUTHORIZATION, &header, 0);
-    const site::LoginOutcome login =
-        parts.logins.check(*asked, manner, QByteArray(header), gst_rtsp_method_as_text(context->method), now);
+    const site::LoginOutcome login = parts.logins.check(*current, manner, QByteArray(header),
+                                                        gst_rtsp_method_as_text(context->method), now);
     if (login.level != site::UserLevel::Anonymous)
         return TRUE;
-    refuse(context, parts.logins.challenges(*asked, manner, login.isStale, now));
+    refuse(context, parts.logins.challenges(*current, manner, login.isStale, now));
     return FALSE;
 }
 

@@ -41,7 +41,7 @@ void afterPlay(GstRTSPClient *, GstRTSPContext *context, gpointer data)
 {
     const RtspDevice &device = *static_cast<RtspDevice *>(data);
     if (const std::optional<MediaStream> stream = playedStream(device, context))
-        device.context.keyFrames.ask(device.mac, *stream);
+        device.context.keyFrames.request(device.mac, *stream);
 }
 
 void clientConnected(GstRTSPServer *, GstRTSPClient *client, gpointer device)

@@ -60,13 +60,13 @@ void StreamFeeder::stop()
 
 void StreamFeeder::run(const std::stop_token &stop)
 {
-    const int asked = m_keyFrames.count(m_order.mac, m_order.stream);
+    const int requested = m_keyFrames.count(m_order.mac, m_order.stream);
     const std::optional<SceneDevice> device = m_site.device(m_order.mac);
     std::unique_ptr<LiveProduction> production =
         device ? LiveProduction::start(*device, m_order.stream.channel, m_order.stream.kind, m_order.settings)
                : nullptr;
     if (production && feedBeginning(*production)) {
-        m_keyFrames.waitAfter(asked, m_order.mac, m_order.stream, stop);
+        m_keyFrames.waitAfter(requested, m_order.mac, m_order.stream, stop);
         feedWhilePlayed(std::move(production), stop);
     }
     if (!stop.stop_requested())
@@ -91,7 +91,7 @@ bool StreamFeeder::feedBeginning(LiveProduction &production)
 
 void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, const std::stop_token &stop)
 {
-    int asked = -1; // the first frame of a client is a key frame
+    int requested = -1; // the first frame of a client is a key frame
     int pictures = 0;
     std::int64_t begin = m_site.clock().now();
     std::int64_t beginPicture = m_picture;
@@ -121,14 +121,14 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
             begin = due;
             beginPicture = m_picture = 0;
             takePipelineTime(settings->frameRate);
-            asked = -1;
+            requested = -1;
         }
         const int count = m_keyFrames.count(m_order.mac, m_order.stream);
         EncodedPackets packets;
-        if (!production->encodeFrame(m_picture, deviceTime(), count != asked, packets) ||
+        if (!production->encodeFrame(m_picture, deviceTime(), count != requested, packets) ||
             !feed(*production, packets))
             return;
-        asked = count;
+        requested = count;
         ++pictures;
         // Frames that cannot be encoded in time are skipped.
         const double late = static_cast<double>(m_site.clock().now() - due) * rate / millisecondsOfSecond;

@@ -190,7 +190,7 @@ ServiceResult setScopes(ServiceCall &call)
             device.name = QUrl::fromPercentEncoding(scope.mid(namePrefix.size()).toUtf8());
             return sdk::NetError::None;
         });
-        return resultOf(error, SoapFault::failed(u"The name cannot be kept"_s));
+        return resultOf(error, SoapFault::failed(u"The name cannot be stored"_s));
     }
     return std::nullopt;
 }

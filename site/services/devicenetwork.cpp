@@ -93,18 +93,18 @@ ServiceResult readIpv4(pugi::xml_node element, Ipv4Settings &settings)
     if (!manual)
         return settings.dhcp ? std::nullopt
                              : ServiceResult(SoapFault::invalid("ter:InvalidIPv4Address",
-                                                                u"An address or DHCP is needed"_s));
+                                                                u"An address or DHCP is required"_s));
     settings.address = textAt(manual, "tt:Address").value_or(QString());
     bool isNumber = false;
     const int prefixLength = textAt(manual, "tt:PrefixLength").value_or(QString()).toInt(&isNumber);
     constexpr int longest = 30;
     if (!isNumber || prefixLength < 1 || prefixLength > longest)
-        return SoapFault::invalid("ter:InvalidPrefixLength", u"There is no such prefix length"_s);
+        return SoapFault::invalid("ter:InvalidPrefixLength", u"The prefix length is invalid"_s);
     settings.mask = maskOf(prefixLength);
     const quint32 number = QHostAddress(settings.address).toIPv4Address();
     constexpr quint32 firstGroup = 0xE0000000;
     if (!isIpv4Address(settings.address) || number == 0 || number >= firstGroup)
-        return SoapFault::invalid("ter:InvalidIPv4Address", u"There is no such address"_s);
+        return SoapFault::invalid("ter:InvalidIPv4Address", u"The address is invalid"_s);
     return std::nullopt;
 }
 
@@ -157,7 +157,7 @@ ServiceResult getNetworkInterfaces(ServiceCall &call)
 ServiceResult setNetworkInterfaces(ServiceCall &call)
 {
     if (textAt(call.request, "tds:InterfaceToken") != QLatin1String(interfaceToken))
-        return SoapFault::invalid("ter:InvalidNetworkInterface", u"There is no such network interface"_s);
+        return SoapFault::invalid("ter:InvalidNetworkInterface", u"The network interface is unknown"_s);
     const pugi::xml_node ipv4 = nodeAt(call.request, "tds:NetworkInterface/tt:IPv4");
     bool needsReboot = false;
     if (ipv4) {
@@ -184,7 +184,7 @@ ServiceResult setNetworkDefaultGateway(ServiceCall &call)
     Ipv4Settings settings = pendingOf(call.device);
     settings.gateway = textAt(call.request, "tds:IPv4Address").value_or(QString());
     if (!settings.gateway.isEmpty() && !isIpv4Address(settings.gateway))
-        return SoapFault::invalid("ter:InvalidGatewayAddress", u"There is no such address"_s);
+        return SoapFault::invalid("ter:InvalidGatewayAddress", u"The address is invalid"_s);
     // With DHCP, the gateway comes from the DHCP server.
     if (settings.dhcp)
         return std::nullopt;

@@ -31,17 +31,17 @@ ServiceResult setSystemFactoryDefault(ServiceCall &call)
 {
     const QString kind = textAt(call.request, "tds:FactoryDefault").value_or(QString());
     if (kind != u"Hard" && kind != u"Soft")
-        return SoapFault::invalid(nullptr, u"There is no such kind of reset"_s);
+        return SoapFault::invalid(nullptr, u"The type of reset is unknown"_s);
     const sdk::NetError error =
         call.change([&call](SceneDevice &device) { return resetToFactory(device, call.now + moment); });
-    return resultOf(error, SoapFault::prohibited(u"The device refuses to be reset"_s));
+    return resultOf(error, SoapFault::prohibited(u"The device refuses the reset"_s));
 }
 
 ServiceResult startFirmwareUpgrade(ServiceCall &call)
 {
     const std::optional<QString> path = call.context.uploads.begin(call.device);
     if (!path)
-        return SoapFault{false, "ter:Action", "ter:DeviceBusy", u"The device is at an upgrade already"_s};
+        return SoapFault{false, "ter:Action", "ter:DeviceBusy", u"An upgrade is already running"_s};
     const FaultSetting usual = {Fault::RebootTakes, static_cast<int>(usualReboot.count())};
     const int away = call.device.fault(Fault::RebootTakes).value_or(usual).number;
     call.response.add("tds:UploadUri", call.root() + *path);

@@ -166,12 +166,12 @@ ServiceResult setSystemDateAndTime(ServiceCall &call)
     const pugi::xml_node given = childNamed(call.request, "tds:UTCDateTime");
     const std::optional<QDateTime> utc = readTime(given);
     if (!isManual && type != u"NTP")
-        return SoapFault::invalid("ter:InvalidDateTime", u"There is no such way to set the time"_s);
+        return SoapFault::invalid("ter:InvalidDateTime", u"The type of date and time is unknown"_s);
     if (isManual && given && !utc)
-        return SoapFault::invalid("ter:InvalidDateTime", u"There is no such date or time"_s);
+        return SoapFault::invalid("ter:InvalidDateTime", u"The date or time is invalid"_s);
     const std::int64_t newUtc = isManual && utc ? utc->toMSecsSinceEpoch() : utcOf(call.device, call.now);
     if (!offsetOf(zone, withDaylightSaving, newUtc))
-        return SoapFault::invalid("ter:InvalidTimeZone", u"There is no such time zone"_s);
+        return SoapFault::invalid("ter:InvalidTimeZone", u"The time zone is invalid"_s);
     const sdk::NetError error = call.change([&](SceneDevice &device) {
         // The clock is set first: if the device refuses it, no setting is changed.
         const std::int64_t ahead =
@@ -231,7 +231,7 @@ ServiceResult setNtp(ServiceCall &call)
         return SoapFault::invalid("ter:InvalidDnsName", u"The name of the server is too long"_s);
     const QString type = textAt(host, "tt:Type").value_or(QString());
     if (type == u"IPv4" && QHostAddress(server).protocol() != QAbstractSocket::IPv4Protocol)
-        return SoapFault::invalid("ter:InvalidIPv4Address", u"The server has no such address"_s);
+        return SoapFault::invalid("ter:InvalidIPv4Address", u"The address of the server is invalid"_s);
     const sdk::NetError error = call.change([&](SceneDevice &device) {
         const sdk::NetError changed = keepNtp(device, [&](sdk::NtpRecord &record) {
             if (!isFromDhcp)

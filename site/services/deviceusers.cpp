@@ -83,7 +83,7 @@ ServiceResult objectionTo(const WantedUser &user)
     if (user.account.password.size() > longestText)
         return SoapFault::invalid("ter:PasswordTooLong", u"The password is too long"_s);
     if (user.account.password.isEmpty())
-        return SoapFault::invalid("ter:PasswordTooWeak", u"A user needs a password"_s);
+        return SoapFault::invalid("ter:PasswordTooWeak", u"A password is required"_s);
     return std::nullopt;
 }
 
@@ -125,15 +125,15 @@ ServiceResult createUsers(ServiceCall &call)
         if (ServiceResult objection = objectionTo(user))
             return objection;
         if (!user.level)
-            return SoapFault::invalid("ter:AnonymousNotAllowed", u"There is no such level of users"_s);
+            return SoapFault::invalid("ter:AnonymousNotAllowed", u"The user level is unknown"_s);
         if (!names.insert(user.account.user).second && !call.device.isUninitialised())
             return SoapFault{true, "ter:OperationProhibited", "ter:UsernameClash",
-                             u"The user is there already"_s};
+                             u"The user already exists"_s};
     }
     if (users.empty())
-        return SoapFault::invalid("ter:UsernameMissing", u"No user is named"_s);
+        return SoapFault::invalid("ter:UsernameMissing", u"The request contains no user"_s);
     if (static_cast<qsizetype>(names.size()) > mostUsers)
-        return SoapFault{false, "ter:Action", "ter:TooManyUsers", u"The device has no room for more users"_s};
+        return SoapFault{false, "ter:Action", "ter:TooManyUsers", u"The device cannot store more users"_s};
     std::size_t first = 0;
     if (call.device.isUninitialised()) {
         if (ServiceResult objection = createFirstUser(call, users.front()))
@@ -157,7 +157,7 @@ ServiceResult setUser(ServiceCall &call)
     for (const WantedUser &user : users) {
         const SceneAccount *account = accountOf(call.device, user.account.user);
         if (!account)
-            return SoapFault::invalid("ter:UsernameMissing", u"There is no such user"_s);
+            return SoapFault::invalid("ter:UsernameMissing", u"The user is unknown"_s);
         // Without a password, the password of the user is not changed.
         const bool hasPassword = !user.account.password.isEmpty();
         if (ServiceResult objection = hasPassword ? objectionTo(user) : std::nullopt)
@@ -185,7 +185,7 @@ ServiceResult deleteUsers(ServiceCall &call)
     }
     for (const QString &name : std::as_const(names)) {
         if (!accountOf(call.device, name))
-            return SoapFault::invalid("ter:UsernameMissing", u"There is no such user"_s);
+            return SoapFault::invalid("ter:UsernameMissing", u"The user is unknown"_s);
         if (name == call.login.user)
             return SoapFault{true, "ter:InvalidArgVal", "ter:FixedUser", u"The user is logged in"_s};
     }

@@ -77,8 +77,8 @@ bool FirmwareUploads::take(const HttpReceiver &receiver, Upload &upload, QByteAr
     }
     const qint64 percent = size > 0 ? upload.received * all / size : all;
     if (const auto slow = device->fault(Fault::UpgradeTakes)) {
-        const std::chrono::milliseconds whole = std::chrono::seconds(slow->number);
-        m_site.clock().wait(whole * chunk.size() / std::max<qint64>(size, 1), receiver.stop);
+        const std::chrono::milliseconds duration = std::chrono::seconds(slow->number);
+        m_site.clock().wait(duration * chunk.size() / std::max<qint64>(size, 1), receiver.stop);
     }
     const int hang = percentOf(device->fault(Fault::UpgradeHangsAt));
     if (hang < all && percent >= hang) {
@@ -95,12 +95,12 @@ HttpResponse FirmwareUploads::finish(const HttpReceiver &receiver, const QByteAr
     const UploadPointer upload = uploadOf(receiver, path);
     const std::optional<SceneDevice> device = m_site.device(receiver.mac);
     if (!upload || !device)
-        return HttpResponse::line(HttpStatus::NotFound, u"Nobody has asked for an upgrade here"_s);
+        return HttpResponse::line(HttpStatus::NotFound, u"No upgrade was started at this path"_s);
     const sdk::FirmwareHeadReading reading =
         sdk::readFirmwareHead({upload->head.constData(), static_cast<std::size_t>(upload->head.size())});
     if (reading.kind != sdk::FirmwareHeadReading::Kind::Known ||
         !reading.head.fits(device->model.toStdString()))
-        return refuse(receiver.mac, u"This is no firmware of the device"_s);
+        return refuse(receiver.mac, u"This is not a firmware of the device"_s);
     if (percentOf(device->fault(Fault::UpgradeFailsAt)) == all)
         return refuse(receiver.mac, u"The firmware cannot be written"_s);
     {

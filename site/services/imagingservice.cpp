@@ -13,22 +13,23 @@ namespace {
 
 ServiceResult noSuchSource()
 {
-    return SoapFault::invalid("ter:NoSource", u"There is no such video source"_s);
+    return SoapFault::invalid("ter:NoSource", u"The video source is unknown"_s);
 }
 
 /// Nothing, with a fault, for an unknown or disconnected source.
 std::optional<ImageSettings> requestedSettings(const ServiceCall &call, int &channel,
                                                ServiceResult &objection)
 {
-    const std::optional<int> asked =
+    const std::optional<int> requested =
         channelOf(call.device, textAt(call.request, "timg:VideoSourceToken").value_or(QString()));
-    std::optional<ImageSettings> settings = asked ? imageSettings(call.device, *asked) : std::nullopt;
+    std::optional<ImageSettings> settings = requested ? imageSettings(call.device, *requested) : std::nullopt;
     if (settings)
-        channel = *asked;
+        channel = *requested;
     else
-        objection = asked ? ServiceResult(SoapFault{false, "ter:ActionNotSupported", "ter:NoImagingForSource",
-                                                    u"The picture of this source cannot be set"_s})
-                          : noSuchSource();
+        objection = requested
+                        ? ServiceResult(SoapFault{false, "ter:ActionNotSupported", "ter:NoImagingForSource",
+                                                  u"The image of this source cannot be set"_s})
+                        : noSuchSource();
     return settings;
 }
 
@@ -55,7 +56,7 @@ ServiceResult setImagingSettings(ServiceCall &call)
     if (!settings)
         return objection;
     if (!readImageSettings(childNamed(call.request, "timg:ImagingSettings"), *settings))
-        return SoapFault::invalid("ter:SettingsInvalid", u"The device does not know such settings"_s);
+        return SoapFault::invalid("ter:SettingsInvalid", u"The device does not support these settings"_s);
     return resultOf(takeImageSettings(call, channel, *settings),
                     SoapFault::invalid("ter:SettingsInvalid", u"The device refuses these settings"_s));
 }
@@ -68,7 +69,7 @@ ServiceResult getOptions(ServiceCall &call)
     if (!settings)
         return objection;
     if (call.device.hasFault(Fault::RefusesCapabilities))
-        return SoapFault::failed(u"The device does not tell what it can do"_s);
+        return SoapFault::failed(u"The device does not report its capabilities"_s);
     writeImageOptions(call.response.add("timg:ImagingOptions"), call.device, *settings);
     return std::nullopt;
 }

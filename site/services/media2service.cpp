@@ -158,17 +158,17 @@ ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
     const auto number = [wanted](const char *path, double before) {
         return textAt(wanted, path).value_or(QString::number(before)).toDouble();
     };
-    const auto whole = [&number](const char *path, int before) {
+    const auto integer = [&number](const char *path, int before) {
         return static_cast<int>(std::lround(number(path, before)));
     };
     sdk::VideoFormatItem &video = settings->video;
     video.compression = *compression;
-    video.width = whole("tt:Resolution/tt:Width", video.width);
-    video.height = whole("tt:Resolution/tt:Height", video.height);
-    video.quality = whole("tt:Quality", video.quality);
+    video.width = integer("tt:Resolution/tt:Width", video.width);
+    video.height = integer("tt:Resolution/tt:Height", video.height);
+    video.quality = integer("tt:Quality", video.quality);
     video.frameRate =
         static_cast<float>(number("tt:RateControl/tt:FrameRateLimit", static_cast<double>(video.frameRate)));
-    video.bitRate = whole("tt:RateControl/tt:BitrateLimit", video.bitRate);
+    video.bitRate = integer("tt:RateControl/tt:BitrateLimit", video.bitRate);
     if (const pugi::xml_attribute constant =
             childNamed(wanted, "tt:RateControl").attribute("ConstantBitRate"))
         video.bitRateControl = constant.as_bool() ? 0 : 1;
@@ -189,7 +189,7 @@ ServiceResult writeOptions(ServiceCall &call, MediaObject object,
     if (!streams || streams->isEmpty())
         return noSuchConfiguration();
     if (call.device.hasFault(Fault::RefusesCapabilities))
-        return SoapFault::failed(u"The device does not tell what it can do"_s);
+        return SoapFault::failed(u"The device does not report its capabilities"_s);
     write(call.response, call.device, streams->first());
     return std::nullopt;
 }
@@ -280,7 +280,7 @@ ServiceResult getStreamUri(ServiceCall &call)
         return noSuchProfile();
     const QString protocol = textAt(call.request, "tr2:Protocol").value_or(QString());
     if (protocol != u"RtspUnicast" && protocol != u"RTSP")
-        return SoapFault::invalid("ter:InvalidStreamSetup", u"The device does not stream in this way"_s);
+        return SoapFault::invalid("ter:InvalidStreamSetup", u"The device does not support this transport"_s);
     call.response.add("tr2:Uri", streamUri(call, *stream));
     return std::nullopt;
 }

@@ -15,12 +15,12 @@ namespace site {
 
 ServiceResult noSuchProfile()
 {
-    return SoapFault::invalid("ter:NoProfile", u"There is no such profile"_s);
+    return SoapFault::invalid("ter:NoProfile", u"The profile is unknown"_s);
 }
 
 ServiceResult noSuchConfiguration()
 {
-    return SoapFault::invalid("ter:NoConfig", u"There is no such configuration"_s);
+    return SoapFault::invalid("ter:NoConfig", u"The configuration is unknown"_s);
 }
 
 ServiceResult refusedSettings()
@@ -132,7 +132,7 @@ ServiceResult requestKeyFrame(ServiceCall &call, const char *profileToken)
         streamOf(call.device, MediaObject::Profile, textAt(call.request, profileToken).value_or(QString()));
     if (!stream)
         return noSuchProfile();
-    call.context.keyFrames.ask(call.device.mac, *stream);
+    call.context.keyFrames.request(call.device.mac, *stream);
     return std::nullopt;
 }
 

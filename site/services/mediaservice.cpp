@@ -219,7 +219,7 @@ ServiceResult getVideoEncoderConfigurationOptions(ServiceCall &call)
     if (!stream)
         return noSuchConfiguration();
     if (call.device.hasFault(Fault::RefusesCapabilities))
-        return SoapFault::failed(u"The device does not tell what it can do"_s);
+        return SoapFault::failed(u"The device does not report its capabilities"_s);
     writeMediaVideoOptions(call.response.add("trt:Options"), call.device, *stream);
     return std::nullopt;
 }
@@ -290,7 +290,7 @@ ServiceResult getAudioEncoderConfigurationOptions(ServiceCall &call)
     if (!stream)
         return noSuchConfiguration();
     if (call.device.hasFault(Fault::RefusesCapabilities))
-        return SoapFault::failed(u"The device does not tell what it can do"_s);
+        return SoapFault::failed(u"The device does not report its capabilities"_s);
     writeMediaAudioOptions(call.response.add("trt:Options"), call.device, *stream);
     return std::nullopt;
 }
@@ -321,7 +321,7 @@ ServiceResult getStreamUri(ServiceCall &call)
     const QString protocol =
         textAt(call.request, "trt:StreamSetup/tt:Transport/tt:Protocol").value_or(QString());
     if (textAt(call.request, "trt:StreamSetup/tt:Stream") == u"RTP-Multicast"_s || protocol == u"HTTP")
-        return SoapFault::invalid("ter:InvalidStreamSetup", u"The device does not stream in this way"_s);
+        return SoapFault::invalid("ter:InvalidStreamSetup", u"The device does not support this transport"_s);
     XmlElement uri = call.response.add("trt:MediaUri");
     uri.add("tt:Uri", streamUri(call, *stream));
     uri.add("tt:InvalidAfterConnect", false);

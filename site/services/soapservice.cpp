@@ -43,9 +43,9 @@ SoapFault faultOf(UnusableRequest kind)
 {
     switch (kind) {
     case UnusableRequest::NoXml:
-        return {true, "ter:WellFormed", nullptr, u"The request is no well-formed XML"_s};
+        return {true, "ter:WellFormed", nullptr, u"The request is not well-formed XML"_s};
     case UnusableRequest::NoEnvelope:
-        return {true, "ter:TagMismatch", nullptr, u"The request is no SOAP 1.2 message"_s};
+        return {true, "ter:TagMismatch", nullptr, u"The request is not a SOAP 1.2 message"_s};
     case UnusableRequest::NotUnderstood:
         break;
     }
@@ -116,7 +116,7 @@ SoapService::Outcome SoapService::run(const HttpReceiver &receiver, const SceneD
     LoginOutcome login;
     if (!operation) {
         outcome.fault = SoapFault::unknownOperation(
-            u"The device does not know the operation %1"_s.arg(QString::fromStdString(request.name)));
+            u"The device does not support the operation %1"_s.arg(QString::fromStdString(request.name)));
         outcome.status = statusOf(*outcome.fault);
         record(device, request, login, outcome);
         return outcome;
@@ -124,8 +124,9 @@ SoapService::Outcome SoapService::run(const HttpReceiver &receiver, const SceneD
     if (!isOpen(device, operation->access)) {
         login = this->login(device, manner, head, request, now);
         if (login.level < neededLevel(operation->access)) {
-            outcome.fault = SoapFault::notAuthorized(
-                login.level == UserLevel::Anonymous ? login.reason : u"The user may not do this"_s);
+            outcome.fault = SoapFault::notAuthorized(login.level == UserLevel::Anonymous
+                                                         ? login.reason
+                                                         : u"The user lacks the right for this operation"_s);
             outcome.isStale = login.isStale;
             // A request with a token gets the fault without a challenge.
             outcome.isChallenge = manner.takesDigest && !request.token && login.level == UserLevel::Anonymous;

@@ -9,7 +9,7 @@ namespace site {
 
 struct XmlNamespace
 {
-    std::string_view prefix; ///< in this program
+    std::string_view prefix; ///< in the sources of the site
     std::string_view uri;
 };
 

@@ -154,14 +154,14 @@ private Q_SLOTS:
     void oldLongResponsesAreRemoved()
     {
         LongAnswers answers;
-        constexpr qsizetype third = LongAnswers::room / 3 + 1;
+        constexpr qsizetype third = LongAnswers::maximumLength / 3 + 1;
         for (const char *key : {"a", "b", "a", "c"})
             answers.keep(key, QString(third, key[0]));
-        QCOMPARE(answers.whole("b", "b"), "b");
-        QCOMPARE(answers.whole("a", "a").size(), third);
-        QCOMPARE(answers.whole("c", "c").size(), third);
+        QCOMPARE(answers.complete("b", "b"), "b");
+        QCOMPARE(answers.complete("a", "a").size(), third);
+        QCOMPARE(answers.complete("c", "c").size(), third);
         answers.keep("a", "short");
-        QCOMPARE(answers.whole("a", "a"), "a");
+        QCOMPARE(answers.complete("a", "a"), "a");
     }
 
     void imagesOfTheSameSecondHaveSeparateFiles()

@@ -114,7 +114,7 @@ void walkMenus(Driver &driver)
 QString macAt(const sdk::demo::DemoSite &site, const QString &ipport)
 {
     QString mac;
-    site.visitDevices([&](const sdk::demo::SceneDevice &device) {
+    site.forEachDevice([&](const sdk::demo::SceneDevice &device) {
         if (ipport.startsWith(device.address + u':'))
             mac = device.mac;
     });

@@ -9,7 +9,7 @@
 inline QString macOf(const sdk::demo::DemoSite &site, const QString &ipport)
 {
     QString mac;
-    site.visitDevices([&](const sdk::demo::SceneDevice &device) {
+    site.forEachDevice([&](const sdk::demo::SceneDevice &device) {
         if (QStringLiteral("%1:%2").arg(device.address).arg(device.port) == ipport)
             mac = device.mac;
     });

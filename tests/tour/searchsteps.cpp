@@ -12,7 +12,7 @@ int devicesInReach(bool otherSegmentToo)
 {
     int devices = 0;
     const auto site = sdk::demo::DemoSite::open(u"office"_s, std::make_shared<sdk::SystemClock>(), nullptr);
-    site->visitDevices([&](const sdk::demo::SceneDevice &device) {
+    site->forEachDevice([&](const sdk::demo::SceneDevice &device) {
         const bool set =
             !device.isRemote && !device.address.isEmpty() && device.address != QLatin1String("0.0.0.0");
         devices += set && (otherSegmentToo || !device.inOtherSegment) ? 1 : 0;

@@ -114,8 +114,8 @@ constexpr std::size_t fieldSize(const ConfigField &field)
     if (field.kind != ConfigFieldKind::Object)
         return sizeof(std::int32_t);
     std::size_t size = 0;
-    for (std::size_t place = 0; place < field.innerCount; ++place)
-        size = std::max(size, field.inner[place].offset + fieldSize(field.inner[place]));
+    for (std::size_t index = 0; index < field.innerCount; ++index)
+        size = std::max(size, field.inner[index].offset + fieldSize(field.inner[index]));
     return size;
 }
 

@@ -223,7 +223,7 @@ NetError setChannelText(SceneDevice &device, const QString &name, std::int32_t c
     return NetError::NotSupported;
 }
 
-NetError tellEncodeCapabilities(const SceneDevice &device, std::int32_t channel, const QByteArray &text,
+NetError fillEncodeCapabilities(const SceneDevice &device, std::int32_t channel, const QByteArray &text,
                                 EncodeCapabilities &capabilities)
 {
     EncodeRecord settings = encodeRecord(device, channel);

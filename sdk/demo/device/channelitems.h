@@ -28,7 +28,7 @@ namespace sdk::demo {
 
 /// Fills the blocks of `capabilities` for the settings in `text`. Returns NotSupported if the device has no
 /// such channel, or `text` is not the configuration "Encode".
-[[nodiscard]] NetError tellEncodeCapabilities(const SceneDevice &device, std::int32_t channel,
+[[nodiscard]] NetError fillEncodeCapabilities(const SceneDevice &device, std::int32_t channel,
                                               const QByteArray &text, EncodeCapabilities &capabilities);
 
 } // namespace sdk::demo

@@ -59,17 +59,17 @@ NetError LoginGuard::check(const SceneDevice &device, const QString &account, co
 NetError LoginGuard::checkPassword(const SceneDevice &device, const SceneAccount &account,
                                    const QString &password, LoginKind kind)
 {
-    const bool isRight = password == account.password && !device.hasFault(Fault::WrongPassword);
+    const bool isCorrect = password == account.password && !device.hasFault(Fault::WrongPassword);
     const NetError wrong = kind == LoginKind::First ? NetError::WrongPassword : NetError::WrongPasswordSecure;
     const std::optional<FaultSetting> lock = device.fault(Fault::AccountLocked);
     if (!lock)
-        return isRight ? NetError::None : wrong;
+        return isCorrect ? NetError::None : wrong;
 
     const std::lock_guard guard(m_mutex);
     int &tries = m_wrongTries[{device.mac, account.user}];
     if (tries >= lock->number)
         return NetError::AccountLocked;
-    if (isRight) {
+    if (isCorrect) {
         tries = 0;
         return NetError::None;
     }

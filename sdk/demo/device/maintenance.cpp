@@ -68,9 +68,9 @@ NetError setConfiguration(SceneDevice &device, const QString &name, const QByteA
     std::array<char, largestRecord> record = {};
     if (!unpackConfigText(viewOf(name.toUtf8()), viewOf(text), record.data(), largestRecord))
         return NetError::NotSupported;
-    const QJsonObject told = QJsonDocument::fromJson(text).object().value(name).toObject();
+    const QJsonObject given = QJsonDocument::fromJson(text).object().value(name).toObject();
     QJsonObject kept = device.configuration.value(name).toObject();
-    for (auto entry = told.constBegin(); entry != told.constEnd(); ++entry)
+    for (auto entry = given.constBegin(); entry != given.constEnd(); ++entry)
         kept.insert(entry.key(), entry.value());
     device.configuration.insert(name, kept);
     return NetError::None;

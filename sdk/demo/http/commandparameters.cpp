@@ -103,7 +103,7 @@ void CommandParameters::rejectOthers()
 {
     for (const auto &parameter : std::as_const(m_parameters)) {
         if (!m_asked.contains(parameter.first))
-            reportError(u"This command does not know \"%1\", only %2"_s.arg(
+            reportError(u"This command has no parameter \"%1\", only %2"_s.arg(
                 parameter.first.left(longestShown),
                 m_asked.isEmpty() ? u"nothing"_s : m_asked.join(u", "_s)));
     }

@@ -79,10 +79,10 @@ QHash<QByteArray, QByteArray> readParameters(const QByteArray &text)
 bool isUriOf(const HttpRequest &request, const QByteArray &uri)
 {
     const HttpTarget target = readHttpTarget(request.target);
-    const QByteArray whole = target.query.isEmpty() && !request.target.contains('?')
-                                 ? target.path
-                                 : target.path + '?' + target.query;
-    return uri == whole || uri == target.path || uri == request.target;
+    const QByteArray complete = target.query.isEmpty() && !request.target.contains('?')
+                                    ? target.path
+                                    : target.path + '?' + target.query;
+    return uri == complete || uri == target.path || uri == request.target;
 }
 
 QByteArray randomSecret()
@@ -146,9 +146,9 @@ void HttpAuthentication::checkDigest(const SceneDevice &device, const HttpReques
     const QByteArray what = md5({request.method, given.value("uri")});
     const QByteArray expected =
         md5({who, given.value("nonce"), given.value("nc"), given.value("cnonce"), given.value("qop"), what});
-    const bool isRight = given.value("response").toLower() == expected;
-    credentials.areValid = isRight && state == NonceState::Good;
-    credentials.areStale = isRight && state == NonceState::Old;
+    const bool isCorrect = given.value("response").toLower() == expected;
+    credentials.areValid = isCorrect && state == NonceState::Good;
+    credentials.areStale = isCorrect && state == NonceState::Old;
 }
 
 HttpCredentials HttpAuthentication::check(const SceneDevice &device, const HttpRequest &request,

@@ -26,7 +26,7 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr char helpText[] = R"(Commands of this device. Letters beyond ASCII are UTF-8 with percent signs.
+constexpr char helpText[] = R"(Commands of this device. Characters outside ASCII are percent-encoded UTF-8.
 
 /cgi-bin/help                                  this text
 /cgi-bin/device?get=name                       also type, model, version, serial, mac, address, channels, time, all
@@ -99,7 +99,7 @@ public:
 private:
     [[nodiscard]] int channel();
     /// Whether every parameter is known and valid.
-    [[nodiscard]] bool isRight();
+    [[nodiscard]] bool isValid();
     HttpResponse parameterError() { return refusal(m_parameters.error()); }
     /// Calls `change` with the device. Returns false if the device refuses.
     bool change(const std::function<NetError(SceneDevice &device)> &change);
@@ -122,7 +122,7 @@ int Command::channel()
     return channel;
 }
 
-bool Command::isRight()
+bool Command::isValid()
 {
     m_parameters.rejectOthers();
     return m_parameters.error().isEmpty();
@@ -156,7 +156,7 @@ VideoFormatItem Command::mainStream(int channel) const
 
 HttpResponse Command::help()
 {
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     HttpResponse response;
     response.body = helpText;
@@ -172,7 +172,7 @@ HttpResponse Command::device()
         constexpr qsizetype longestName = sizeof(SearchDeviceInformation::deviceName) - 1;
         if (name.trimmed().isEmpty() || name.toUtf8().size() > longestName)
             m_parameters.reportError(u"value must be a name of 1 to %1 bytes"_s.arg(longestName));
-        if (!isRight())
+        if (!isValid())
             return parameterError();
         if (!change([&name](SceneDevice &device) {
                 device.name = name;
@@ -185,7 +185,7 @@ HttpResponse Command::device()
     for (const auto &value : values)
         known.append(value.first);
     const int index = m_parameters.choice(u"get"_s, known, 0);
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     HttpResponse response;
     for (const auto &[key, value] : values) {
@@ -207,7 +207,7 @@ HttpResponse Command::time()
         (!wanted.date().isValid() || wanted.date().year() < firstYear || wanted.date().year() > lastYear))
         m_parameters.reportError(
             u"set must be a time from %1 to %2, as 2024-05-06%2007:08:09"_s.arg(firstYear).arg(lastYear));
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     if (!given)
         return HttpResponse::line(HttpStatus::Ok, u"time="_s + shownTime(m_device, m_now));
@@ -246,7 +246,7 @@ HttpResponse Command::picture()
         *value = m_parameters.number(name, 0, 100, *value);
         reported += keyAndValue(name, QByteArray::number(*value));
     }
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     const QByteArray block(reinterpret_cast<const char *>(&settings), sizeof(settings));
     if (isChange && !change([&](SceneDevice &device) {
@@ -261,7 +261,7 @@ HttpResponse Command::picture()
 HttpResponse Command::snapshot()
 {
     const int channel = this->channel();
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     constexpr auto number = static_cast<std::uint32_t>(CameraItem::Picture);
     const std::optional<StreamSettings> settings =
@@ -284,7 +284,7 @@ HttpResponse Command::recording()
     const int channel = this->channel();
     constexpr int longest = 60;
     const int seconds = m_parameters.number(u"seconds"_s, 1, longest, 5);
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     constexpr qint64 bytesPerKilobit = 125;
     constexpr qsizetype blockSize = qsizetype{64} * 1024;
@@ -300,7 +300,7 @@ HttpResponse Command::recording()
 
 HttpResponse Command::reboot()
 {
-    if (!isRight())
+    if (!isValid())
         return parameterError();
     if (!change([this](SceneDevice &device) { return rebootAfterAnswer(device, m_now); }))
         return refusal(u"The device refuses to restart"_s);

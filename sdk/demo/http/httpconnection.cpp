@@ -50,7 +50,7 @@ bool HttpConnection::isProxy() const
     return m_route.localPort == HttpResponder::proxy && m_route.host.isEmpty();
 }
 
-bool HttpConnection::standSilent(HttpResponse &response) const
+bool HttpConnection::withholdResponse(HttpResponse &response) const
 {
     if (!m_responder.clock().wait(HttpResponder::silence, m_stop) || !isProxy())
         return false;
@@ -62,7 +62,7 @@ bool HttpConnection::enterTunnel(const HttpRequest &request)
 {
     HttpTunnel tunnel = m_responder.openTunnel(request);
     if (!tunnel.key) {
-        if ((tunnel.refusal.status != HttpStatus::None || standSilent(tunnel.refusal)) &&
+        if ((tunnel.refusal.status != HttpStatus::None || withholdResponse(tunnel.refusal)) &&
             sendResponse(tunnel.refusal, true, false))
             linger();
         return false;
@@ -97,7 +97,7 @@ void HttpConnection::serve()
             continue;
         }
         HttpResponse response = m_responder.respond(m_route, request);
-        if (response.status == HttpStatus::None && !standSilent(response))
+        if (response.status == HttpStatus::None && !withholdResponse(response))
             return;
         const bool hasBody = request.method != "HEAD";
         const bool keeps = request.keepsConnection && hasBody && request.method != "CONNECT";

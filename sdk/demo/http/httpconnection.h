@@ -34,7 +34,7 @@ private:
     bool enterTunnel(const HttpRequest &request);
     /// Handles a request without a response: the client gets none from a device, and an error from the proxy
     /// after the timeout. Returns false if the connection has ended.
-    bool standSilent(HttpResponse &response) const;
+    bool withholdResponse(HttpResponse &response) const;
 
     /// Returns Ok with a request, None if there is no further one, otherwise the status of the refusal.
     HttpStatus receiveRequest(HttpRequest &request);

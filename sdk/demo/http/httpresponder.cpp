@@ -169,7 +169,7 @@ HttpResponse HttpResponder::responseOfDevice(const QString &mac, const HttpReque
     }
     if (request.method != "GET" && request.method != "POST") {
         HttpResponse response =
-            HttpResponse::line(HttpStatus::MethodNotAllowed, u"Only GET and POST are known"_s);
+            HttpResponse::line(HttpStatus::MethodNotAllowed, u"Only GET and POST are supported"_s);
         response.fields.append("Allow: GET, POST");
         return response;
     }

@@ -51,9 +51,10 @@ QString canonicalMac(const QString &text)
     if (text.size() != length)
         return QString();
     for (qsizetype index = 0; index < length; ++index) {
-        const char16_t letter = text[index].toLower().unicode();
-        const bool isHexadecimal = (letter >= u'0' && letter <= u'9') || (letter >= u'a' && letter <= u'f');
-        if (index % 3 == 2 ? letter != u':' : !isHexadecimal)
+        const char16_t character = text[index].toLower().unicode();
+        const bool isHexadecimal =
+            (character >= u'0' && character <= u'9') || (character >= u'a' && character <= u'f');
+        if (index % 3 == 2 ? character != u':' : !isHexadecimal)
             return QString();
     }
     return text.toLower();

@@ -21,7 +21,7 @@ QString shownJsonValue(const QJsonValue &value)
 
 QJsonValue JsonKeys::value(const QString &key)
 {
-    m_askedKeys.append(key);
+    m_readKeys.append(key);
     return m_object.value(key);
 }
 
@@ -100,9 +100,9 @@ int JsonKeys::requiredNumber(const QString &key, int minimum, int maximum)
 void JsonKeys::rejectOtherKeys()
 {
     for (auto entry = m_object.constBegin(); entry != m_object.constEnd() && m_error.isEmpty(); ++entry) {
-        if (!m_askedKeys.contains(entry.key())) {
+        if (!m_readKeys.contains(entry.key())) {
             m_error = QStringLiteral("%1: \"%2\" is not a known key; known are %3")
-                          .arg(m_where, entry.key(), m_askedKeys.join(QStringLiteral(", ")));
+                          .arg(m_where, entry.key(), m_readKeys.join(QStringLiteral(", ")));
         }
     }
 }

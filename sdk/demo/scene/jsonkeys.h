@@ -47,7 +47,7 @@ private:
 
     QJsonObject m_object;
     QString m_where;
-    QStringList m_askedKeys;
+    QStringList m_readKeys;
     QString m_error;
 };
 

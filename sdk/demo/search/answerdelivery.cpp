@@ -37,7 +37,7 @@ bool AnswerDelivery::start()
                 [this, index, threads](const std::stop_token &stop) { deliverShare(index, threads, stop); });
         }
     } catch (const std::system_error &error) {
-        qCWarning(demoLog, "No thread for the answers of a search: %s", error.what());
+        qCWarning(demoLog, "No thread for the responses of a search: %s", error.what());
         finishImmediately();
         return false;
     }

@@ -37,7 +37,7 @@ void sortByTime(std::vector<PlannedAnswer> &answers)
 std::vector<PlannedAnswer> planLocalSearch(const SiteState &site, SearchKind kind, std::int64_t start)
 {
     std::vector<PlannedAnswer> answers;
-    site.visitDevices([&](const SceneDevice &device) {
+    site.forEachDevice([&](const SceneDevice &device) {
         if (device.inOtherSegment || !answersKind(device, kind, start))
             return;
         if (!device.address.isEmpty())
@@ -54,7 +54,7 @@ std::vector<PlannedAnswer> planAddressSearch(const SiteState &site, SearchKind k
                                              std::int64_t end)
 {
     std::vector<PlannedAnswer> answers;
-    site.visitDevicesAt(addresses.values(), [&](const SceneDevice &device) {
+    site.forEachDeviceAt(addresses.values(), [&](const SceneDevice &device) {
         if (!answersKind(device, kind, start))
             return;
         // A device without an address receives no packets.

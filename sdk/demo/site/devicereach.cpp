@@ -51,7 +51,7 @@ DeviceReach reach(const SiteState &site, const QString &address, int port, Devic
     const QString &wanted = ipv6.isEmpty() ? address : ipv6;
     if (ipv6.isEmpty() && !isIpv4)
         return found;
-    site.visitDevicesAt({wanted}, [&](const SceneDevice &device) {
+    site.forEachDeviceAt({wanted}, [&](const SceneDevice &device) {
         if (device.isRemote || !device.isListening(now) || found.kind == DeviceReach::Kind::Responds)
             return;
         if (port != 0 && portOf(device, kind) == port && !device.hasFault(Fault::RefusesConnections))

@@ -30,15 +30,15 @@ std::optional<SceneDevice> SiteState::device(const QString &mac) const
     return index < 0 ? std::nullopt : std::optional(m_devices.at(index));
 }
 
-void SiteState::visitDevices(const std::function<void(const SceneDevice &)> &visitor) const
+void SiteState::forEachDevice(const std::function<void(const SceneDevice &)> &visitor) const
 {
     const std::lock_guard lock(m_mutex);
     for (const SceneDevice &device : m_devices)
         visitor(device);
 }
 
-void SiteState::visitDevicesAt(const QStringList &addresses,
-                               const std::function<void(const SceneDevice &)> &visitor) const
+void SiteState::forEachDeviceAt(const QStringList &addresses,
+                                const std::function<void(const SceneDevice &)> &visitor) const
 {
     const std::lock_guard lock(m_mutex);
     std::set<qsizetype> indexes;

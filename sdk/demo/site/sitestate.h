@@ -43,14 +43,14 @@ public:
     [[nodiscard]] QList<SceneDevice> devices() const;
     [[nodiscard]] std::optional<SceneDevice> device(const QString &mac) const;
 
-    /// Passes every device to `visitor` without a copy. The site is locked meanwhile: the visitor must not
-    /// call it.
-    void visitDevices(const std::function<void(const SceneDevice &)> &visitor) const;
+    /// Calls `visitor` with every device, without a copy. The site is locked during the call: `visitor` must
+    /// not call it.
+    void forEachDevice(const std::function<void(const SceneDevice &)> &visitor) const;
 
     /// The same for the devices that have one of the addresses (IPv4, or IPv6 as canonicalIpv6Address()
     /// writes it), in the order of the scene. Its time does not depend on the number of devices.
-    void visitDevicesAt(const QStringList &addresses,
-                        const std::function<void(const SceneDevice &)> &visitor) const;
+    void forEachDeviceAt(const QStringList &addresses,
+                         const std::function<void(const SceneDevice &)> &visitor) const;
 
     /// Changes the device of the same MAC, or adds a new one to the site.
     void setDevice(const SceneDevice &device);

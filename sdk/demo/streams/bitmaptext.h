@@ -6,8 +6,8 @@
 
 namespace sdk::demo {
 
-inline constexpr int bitmapLetterWidth = 6; ///< in dots, with the gap to the next character
-inline constexpr int bitmapLetterHeight = 7;
+inline constexpr int bitmapGlyphWidth = 6; ///< in dots, with the gap to the next character
+inline constexpr int bitmapGlyphHeight = 7;
 
 /// Draws `text` with its upper left corner at `corner`, each dot `dot` pixels wide, in the colour of the
 /// painter's brush. Lower case is drawn as upper case, and characters outside ASCII as a box.

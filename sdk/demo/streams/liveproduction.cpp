@@ -19,8 +19,8 @@ int hueOf(const SceneDevice &device, std::int32_t channel)
     return static_cast<int>((first + channel * step) % circle);
 }
 
-TestCardTexts textsOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
-                      const StreamSettings &settings)
+TestCardLabels textsOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
+                       const StreamSettings &settings)
 {
     const QString codec = settings.codec == StreamCodec::H264   ? u"H.264"_s
                           : settings.codec == StreamCodec::H265 ? u"H.265"_s

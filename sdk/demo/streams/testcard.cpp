@@ -17,7 +17,7 @@ namespace sdk::demo {
 
 namespace {
 
-constexpr int clockLetters = 22; // "2024-01-01 00:00:00.00"
+constexpr int clockCharacters = 22; // "2024-01-01 00:00:00.00"
 constexpr qsizetype longestText = 200;
 const QColor paper(16, 16, 16);
 
@@ -45,12 +45,13 @@ bool hasFonts()
 
 } // namespace
 
-TestCard::TestCard(QSize size, int hue, const TestCardTexts &texts)
+TestCard::TestCard(QSize size, int hue, const TestCardLabels &labels)
     : m_still(size, QImage::Format_RGB32), m_tint(QColor::fromHsv(hue, 150, 105)),
       m_lightTint(QColor::fromHsv(hue, 70, 190)), m_line(std::max(1, size.height() / 540)),
-      m_dot(std::max(1, std::min(size.width() / 2 / (clockLetters * bitmapLetterWidth), size.height() / 100)))
+      m_dot(
+          std::max(1, std::min(size.width() / 2 / (clockCharacters * bitmapGlyphWidth), size.height() / 100)))
 {
-    drawStill(texts);
+    drawStill(labels);
 }
 
 QList<TestCard::Region> TestCard::moving(std::int64_t time) const
@@ -58,7 +59,7 @@ QList<TestCard::Region> TestCard::moving(std::int64_t time) const
     return {hand(time), slider(time), clock(time)};
 }
 
-void TestCard::drawStill(const TestCardTexts &texts)
+void TestCard::drawStill(const TestCardLabels &labels)
 {
     m_still.fill(m_tint);
     QPainter painter(&m_still);
@@ -67,7 +68,7 @@ void TestCard::drawStill(const TestCardTexts &texts)
     drawFineLines(painter);
     drawStar(painter);
     drawScale(painter);
-    drawTexts(painter, texts);
+    drawLabels(painter, labels);
 }
 
 /// The grid, the ring and the edge: they show whether the image is complete and has the right proportions.
@@ -169,15 +170,15 @@ void TestCard::drawScale(QPainter &painter) const
 }
 
 /// The details above the clock, the name below it.
-void TestCard::drawTexts(QPainter &painter, const TestCardTexts &texts) const
+void TestCard::drawLabels(QPainter &painter, const TestCardLabels &labels) const
 {
     const int gap = m_dot * 2;
     const QRect middle = clockArea();
-    const int width = std::min(bitmapWidth(texts.details), m_still.width());
+    const int width = std::min(bitmapWidth(labels.details), m_still.width());
     QRect details(0, 0, width, middle.height());
     details.moveCenter({m_still.width() / 2, 0});
     details.moveBottom(middle.top() - gap);
-    drawStrip(painter, details, texts.details);
+    drawStrip(painter, details, labels.details);
 
     QRect name(0, middle.bottom() + gap, m_still.width(), middle.height());
     if (hasFonts()) {
@@ -185,29 +186,29 @@ void TestCard::drawTexts(QPainter &painter, const TestCardTexts &texts) const
         font.setPixelSize(name.height() * 3 / 4);
         painter.setFont(font);
         painter.setPen(Qt::white);
-        const int length = painter.fontMetrics().horizontalAdvance(texts.name) + 2 * gap;
+        const int length = painter.fontMetrics().horizontalAdvance(labels.name) + 2 * gap;
         name.setWidth(std::min(length, m_still.width()));
         name.moveCenter({m_still.width() / 2, name.center().y()});
         painter.fillRect(name, paper);
-        painter.drawText(name, Qt::AlignCenter | Qt::TextSingleLine, texts.name);
+        painter.drawText(name, Qt::AlignCenter | Qt::TextSingleLine, labels.name);
         return;
     }
-    name.setWidth(std::min(bitmapWidth(texts.name), m_still.width()));
+    name.setWidth(std::min(bitmapWidth(labels.name), m_still.width()));
     name.moveCenter({m_still.width() / 2, name.center().y()});
-    drawStrip(painter, name, texts.name);
+    drawStrip(painter, name, labels.name);
 }
 
 /// With a margin of a dot on both sides; a character ends with a gap of one dot.
 int TestCard::bitmapWidth(const QString &text) const
 {
-    return (static_cast<int>(std::min<qsizetype>(text.size(), longestText)) * bitmapLetterWidth + 1) * m_dot;
+    return (static_cast<int>(std::min<qsizetype>(text.size(), longestText)) * bitmapGlyphWidth + 1) * m_dot;
 }
 
 void TestCard::drawStrip(QPainter &painter, const QRect &area, const QString &text) const
 {
     painter.fillRect(area, paper);
     painter.setBrush(Qt::white);
-    const int top = (area.height() - bitmapLetterHeight * m_dot) / 2;
+    const int top = (area.height() - bitmapGlyphHeight * m_dot) / 2;
     drawBitmapText(painter, area.topLeft() + QPoint(m_dot, top), m_dot, text.left(longestText));
 }
 
@@ -271,9 +272,9 @@ TestCard::Region TestCard::clock(std::int64_t time) const
 
 QRect TestCard::part(int x, int y, int width, int height) const
 {
-    constexpr int whole = 1000;
+    constexpr int thousand = 1000;
     const auto share = [](int side, int thousandths) {
-        return evenFloor(side * thousandths / whole);
+        return evenFloor(side * thousandths / thousand);
     };
     return {share(m_still.width(), x), share(m_still.height(), y), std::max(2, share(m_still.width(), width)),
             std::max(2, share(m_still.height(), height))};
@@ -292,8 +293,8 @@ QRect TestCard::track() const
 
 QRect TestCard::clockArea() const
 {
-    const int width = std::min(evenFloor((clockLetters * bitmapLetterWidth + 2) * m_dot), m_still.width());
-    const int height = evenFloor((bitmapLetterHeight + 3) * m_dot);
+    const int width = std::min(evenFloor((clockCharacters * bitmapGlyphWidth + 2) * m_dot), m_still.width());
+    const int height = evenFloor((bitmapGlyphHeight + 3) * m_dot);
     return {evenFloor((m_still.width() - width) / 2), part(0, 820, 0, 0).top(), width, height};
 }
 

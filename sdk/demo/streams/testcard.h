@@ -11,7 +11,7 @@
 namespace sdk::demo {
 
 /// The labels of a test card.
-struct TestCardTexts
+struct TestCardLabels
 {
     QString name;    ///< of the device, in any script; drawn as dots if the application has no fonts
     QString details; ///< ASCII only
@@ -23,7 +23,7 @@ class TestCard
 {
 public:
     /// `hue` is the tint of the card, 0 to 359. Both sides of `size` are even.
-    TestCard(QSize size, int hue, const TestCardTexts &texts);
+    TestCard(QSize size, int hue, const TestCardLabels &labels);
 
     /// A region of the card with even corners and sides.
     struct Region
@@ -39,13 +39,13 @@ public:
     [[nodiscard]] QList<Region> moving(std::int64_t time) const;
 
 private:
-    void drawStill(const TestCardTexts &texts);
+    void drawStill(const TestCardLabels &labels);
     void drawFrame(QPainter &painter) const;
     void drawColours(QPainter &painter) const;
     void drawFineLines(QPainter &painter) const;
     void drawStar(QPainter &painter) const;
     void drawScale(QPainter &painter) const;
-    void drawTexts(QPainter &painter, const TestCardTexts &texts) const;
+    void drawLabels(QPainter &painter, const TestCardLabels &labels) const;
     void drawStrip(QPainter &painter, const QRect &area, const QString &text) const;
     [[nodiscard]] int bitmapWidth(const QString &text) const;
     [[nodiscard]] Region hand(std::int64_t time) const;

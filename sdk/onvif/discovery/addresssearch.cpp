@@ -67,17 +67,17 @@ std::vector<std::string> acceptingAddresses(const std::vector<std::string> &addr
             waiting.push_back({.fd = attempt.descriptor, .events = POLLOUT, .revents = 0});
         ::poll(waiting.data(), waiting.size(), std::min(millisecondsUntil(end), 50));
         std::vector<Attempt> open;
-        for (std::size_t place = 0; place < attempts.size(); ++place) {
-            if (waiting[place].revents == 0) {
-                open.push_back(attempts[place]);
+        for (std::size_t index = 0; index < attempts.size(); ++index) {
+            if (waiting[index].revents == 0) {
+                open.push_back(attempts[index]);
                 continue;
             }
             int error = 0;
             socklen_t length = sizeof(error);
-            ::getsockopt(attempts[place].descriptor, SOL_SOCKET, SO_ERROR, &error, &length);
+            ::getsockopt(attempts[index].descriptor, SOL_SOCKET, SO_ERROR, &error, &length);
             if (error == 0)
-                accepting.push_back(attempts[place].address);
-            ::close(attempts[place].descriptor);
+                accepting.push_back(attempts[index].address);
+            ::close(attempts[index].descriptor);
         }
         attempts = std::move(open);
     }
@@ -103,7 +103,7 @@ void AddressSearch::run(const std::vector<std::string> &addresses, milliseconds 
     std::vector<std::string> silent;
     std::copy_if(addresses.begin(), addresses.end(), std::back_inserter(silent),
                  [this](const std::string &address) { return !m_answered.contains(address); });
-    askByHttp(silent, end);
+    searchByHttp(silent, end);
     m_inspections.waitForDone();
 }
 
@@ -111,7 +111,7 @@ void AddressSearch::probe(const std::vector<std::string> &addresses, Time end)
 {
     DiscoverySockets sockets;
     sockets.open();
-    std::set<std::string> asked;
+    std::set<std::string> targets;
     const std::string message = probeMessage(ProbeKind::Transmitters);
     for (const std::string &address : addresses) {
         const std::optional<SocketAddress> target = socketAddress(address, discoveryPort);
@@ -120,16 +120,16 @@ void AddressSearch::probe(const std::vector<std::string> &addresses, Time end)
         const int error = sockets.sendTo(message, *target);
         m_counters.noteAskedAddress(error);
         if (error == 0)
-            asked.insert(addressText(*target));
+            targets.insert(addressText(*target));
     }
     const Time probeEnd = std::min(end, steady_clock::now() + probeTime);
-    while (m_answered.size() < asked.size() && !m_isCancelled && steady_clock::now() < probeEnd) {
+    while (m_answered.size() < targets.size() && !m_isCancelled && steady_clock::now() < probeEnd) {
         const int wait = std::min(millisecondsUntil(probeEnd), 50);
         sockets.receive(wait, [&](std::string_view datagram, const SocketAddress &sender,
                                   const std::string &localAddress) {
             const std::string address = addressText(sender);
             // Messages of other devices arrive here as well.
-            if (!asked.contains(address) || m_answered.contains(address))
+            if (!targets.contains(address) || m_answered.contains(address))
                 return;
             DiscoveryMessage content = readDiscoveryMessage(datagram);
             for (DeviceAnnouncement &announcement : content.announcements) {
@@ -148,7 +148,7 @@ void AddressSearch::probe(const std::vector<std::string> &addresses, Time end)
     }
 }
 
-void AddressSearch::askByHttp(const std::vector<std::string> &addresses, Time end)
+void AddressSearch::searchByHttp(const std::vector<std::string> &addresses, Time end)
 {
     std::vector<std::string> left = addresses;
     for (const int port : usualPorts) {
@@ -166,10 +166,10 @@ void AddressSearch::askByHttp(const std::vector<std::string> &addresses, Time en
     }
 }
 
-void AddressSearch::inspect(FoundDevice device, bool mustAnswer, Time end)
+void AddressSearch::inspect(FoundDevice device, bool mustRespond, Time end)
 {
-    const bool hasAnswered = inspectDevice(device, m_http, milliseconds(millisecondsUntil(end)));
-    if (m_isCancelled || (mustAnswer && !hasAnswered))
+    const bool hasResponded = inspectDevice(device, m_http, milliseconds(millisecondsUntil(end)));
+    if (m_isCancelled || (mustRespond && !hasResponded))
         return;
     const std::scoped_lock lock(m_mutex);
     if (!m_reported.insert(device.address).second)

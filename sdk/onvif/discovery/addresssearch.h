@@ -39,8 +39,8 @@ private:
     using Time = std::chrono::steady_clock::time_point;
 
     void probe(const std::vector<std::string> &addresses, Time end);
-    void askByHttp(const std::vector<std::string> &addresses, Time end);
-    void inspect(FoundDevice device, bool mustAnswer, Time end);
+    void searchByHttp(const std::vector<std::string> &addresses, Time end);
+    void inspect(FoundDevice device, bool mustRespond, Time end);
 
     const std::shared_ptr<HttpClient> m_http;
     const Reporter m_reporter;

@@ -77,9 +77,9 @@ bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
                    std::chrono::milliseconds wait)
 {
     noteNeighbour(device);
-    const bool hasAnswered = askOpenly(device, http, wait);
+    const bool hasResponded = askOpenly(device, http, wait);
     device.service.identity = identityOf(device);
-    return hasAnswered;
+    return hasResponded;
 }
 
 } // namespace sdk::onvif

@@ -249,13 +249,13 @@ void DiscoverySockets::receive(int milliseconds, const Receiver &receiver)
         return;
     static thread_local std::array<char, largestDatagram> buffer;
     int left = maximumDatagrams;
-    for (std::size_t place = 0; place < m_sockets.size(); ++place) {
-        while ((waiting[place].revents & POLLIN) != 0 && left-- > 0) {
-            const Datagram datagram = receiveInto(m_sockets[place].descriptor, buffer);
+    for (std::size_t index = 0; index < m_sockets.size(); ++index) {
+        while ((waiting[index].revents & POLLIN) != 0 && left-- > 0) {
+            const Datagram datagram = receiveInto(m_sockets[index].descriptor, buffer);
             if (datagram.size <= 0)
                 break;
             receiver({buffer.data(), static_cast<std::size_t>(datagram.size)}, datagram.sender,
-                     localAddressOf(m_sockets[place], datagram.interfaceIndex));
+                     localAddressOf(m_sockets[index], datagram.interfaceIndex));
         }
     }
     std::uint64_t count = 0;

@@ -25,8 +25,8 @@ void MacHolders::admit(FoundDevice &device)
 bool MacHolders::admits(const std::string &mac, const Holder &device)
 {
     auto &holders = device.address.find(':') == std::string::npos ? m_ipv4Holders : m_ipv6Holders;
-    const auto [place, isNew] = holders.try_emplace(mac, device);
-    Holder &holder = place->second;
+    const auto [entry, isNew] = holders.try_emplace(mac, device);
+    Holder &holder = entry->second;
     if (isNew)
         return true;
     const bool isSameDevice = holder.uuid == device.uuid;

@@ -23,8 +23,8 @@ constexpr std::string_view scopePrefix = "onvif://www.onvif.org/";
 std::string lowered(std::string_view text)
 {
     std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](char character) {
+        return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
     });
     return lower;
 }
@@ -85,8 +85,9 @@ std::string uuidOf(std::string_view address)
             text.erase(0, prefix.size());
     }
     // Only hexadecimal digits and hyphens, since the string identifies a device in lists and files.
-    const bool isPlain = std::all_of(text.begin(), text.end(), [](char letter) {
-        return (letter >= '0' && letter <= '9') || (letter >= 'a' && letter <= 'f') || letter == '-';
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](char character) {
+        return (character >= '0' && character <= '9') || (character >= 'a' && character <= 'f') ||
+               character == '-';
     });
     constexpr std::size_t length = 36;
     return isPlain && text.size() == length ? text : std::string();

@@ -69,7 +69,7 @@ RtspStream::Outcome RtspStream::receive(const std::stop_token &stop)
                                            AV_CODEC_ID_PCM_S16LE, AV_CODEC_ID_PCM_S16BE});
     remuxer = picture ? Remuxer::of(*picture, sound, m_mustRestart, m_dataHandler) : nullptr;
     if (!remuxer)
-        return {StreamEnd::Unsupported, "no picture track that can be decoded"};
+        return {StreamEnd::Unsupported, "no decodable video track"};
     setAnswer(std::nullopt);
     const AvPointer<AVPacket> packet(av_packet_alloc());
     while (packet && !remuxer->hasFailed() && session.read(*packet)) {

@@ -24,17 +24,17 @@ std::string_view streamEndName(StreamEnd end)
     case StreamEnd::Unreachable:
         return "unreachable";
     case StreamEnd::NoAnswer:
-        return "no answer";
+        return "no response";
     case StreamEnd::Redirected:
         return "redirected";
     case StreamEnd::Oversized:
-        return "oversized answer";
+        return "oversized response";
     case StreamEnd::Malformed:
-        return "malformed answer";
+        return "malformed response";
     case StreamEnd::Unsupported:
         return "unsupported";
     case StreamEnd::NoKeyFrame:
-        return "no key picture";
+        return "no key frame";
     case StreamEnd::NoData:
         return "no data";
     case StreamEnd::Ended:

@@ -533,17 +533,17 @@ NetError cameraItem(OnvifSession &session, std::uint32_t item, int channel, void
     const auto wanted = static_cast<CameraItem>(item);
     if (wanted == CameraItem::ChannelName)
         return readName(session, channel, block, size, deadline);
-    return withBlock(wanted, [&](auto whole) {
-        if (!block || size != sizeof(whole))
+    return withBlock(wanted, [&](auto typedBlock) {
+        if (!block || size != sizeof(typedBlock))
             return NetError::InvalidValue;
-        std::memcpy(&whole, block, sizeof(whole));
+        std::memcpy(&typedBlock, block, sizeof(typedBlock));
         const ServiceResult<Source> source = readSource(session, channel, deadline);
         if (!source.isOk())
             return source.error;
         if (!has(source.value.options, wanted))
             return NetError::NotSupported;
-        fill(whole, source.value);
-        std::memcpy(block, &whole, sizeof(whole));
+        fill(typedBlock, source.value);
+        std::memcpy(block, &typedBlock, sizeof(typedBlock));
         return NetError::None;
     });
 }
@@ -559,16 +559,16 @@ NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel, c
         std::memcpy(&record, block, sizeof(record));
         return writeColors(session, channel, record, deadline);
     }
-    return withBlock(wanted, [&](auto whole) {
-        if (!block || size != sizeof(whole))
+    return withBlock(wanted, [&](auto typedBlock) {
+        if (!block || size != sizeof(typedBlock))
             return NetError::InvalidValue;
-        std::memcpy(&whole, block, sizeof(whole));
+        std::memcpy(&typedBlock, block, sizeof(typedBlock));
         const ServiceResult<Source> source = readSource(session, channel, deadline);
         if (!source.isOk())
             return source.error;
         if (!has(source.value.options, wanted))
             return NetError::NotSupported;
-        const std::optional<ImagingSettings> settings = change(whole, source.value);
+        const std::optional<ImagingSettings> settings = change(typedBlock, source.value);
         return settings ? writeSettings(session, source.value, *settings, deadline) : NetError::InvalidValue;
     });
 }

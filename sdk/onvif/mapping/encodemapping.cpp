@@ -354,43 +354,44 @@ NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_
 NetError encodeItem(OnvifSession &session, std::uint32_t item, int channel, void *block, std::uint32_t size,
                     Deadline deadline)
 {
-    const auto read = [&](auto whole, auto fillIn) {
-        if (!block || size != sizeof(whole))
+    const auto read = [&](auto typedBlock, auto fillIn) {
+        if (!block || size != sizeof(typedBlock))
             return NetError::InvalidValue;
-        std::memcpy(&whole, block, sizeof(whole));
-        if (whole.size != static_cast<std::int32_t>(sizeof(whole)) || !isStreamNumber(whole.stream))
+        std::memcpy(&typedBlock, block, sizeof(typedBlock));
+        if (typedBlock.size != static_cast<std::int32_t>(sizeof(typedBlock)) ||
+            !isStreamNumber(typedBlock.stream))
             return NetError::InvalidValue;
         ServiceResult<Stream> stream =
-            readStream(session, channel, kindOf(whole.stream), Purpose::Show, deadline);
+            readStream(session, channel, kindOf(typedBlock.stream), Purpose::Show, deadline);
         if (!stream.isOk())
             return stream.error;
-        const NetError error = fillIn(whole, stream.value);
+        const NetError error = fillIn(typedBlock, stream.value);
         if (error == NetError::None)
-            std::memcpy(block, &whole, sizeof(whole));
+            std::memcpy(block, &typedBlock, sizeof(typedBlock));
         return error;
     };
     switch (static_cast<EncodeItem>(item)) {
     case EncodeItem::VideoFormat:
-        return read(VideoFormatItem{}, [&](VideoFormatItem &whole, Stream &stream) {
+        return read(VideoFormatItem{}, [&](VideoFormatItem &typedBlock, Stream &stream) {
             const NetError error = readOptions(session, stream, deadline);
-            fill(whole, stream);
+            fill(typedBlock, stream);
             return error;
         });
     case EncodeItem::VideoProfile:
-        return read(VideoProfileItem{}, [](VideoProfileItem &whole, const Stream &stream) {
-            whole.profile = profileNumber(stream.profile.video->profile);
+        return read(VideoProfileItem{}, [](VideoProfileItem &typedBlock, const Stream &stream) {
+            typedBlock.profile = profileNumber(stream.profile.video->profile);
             return NetError::None;
         });
     case EncodeItem::AudioCompression:
-        return read(AudioCompressionItem{}, [](AudioCompressionItem &whole, const Stream &stream) {
-            fill(whole, stream);
+        return read(AudioCompressionItem{}, [](AudioCompressionItem &typedBlock, const Stream &stream) {
+            fill(typedBlock, stream);
             return NetError::None;
         });
     case EncodeItem::AudioFormat:
-        return read(AudioFormatItem{}, [](AudioFormatItem &whole, const Stream &stream) {
+        return read(AudioFormatItem{}, [](AudioFormatItem &typedBlock, const Stream &stream) {
             if (!stream.profile.audio)
                 return NetError::NotSupported;
-            whole.samplingFrequency = stream.profile.audio->sampleRate * hertzOfKilohertz;
+            typedBlock.samplingFrequency = stream.profile.audio->sampleRate * hertzOfKilohertz;
             return NetError::None;
         });
     }
@@ -400,43 +401,46 @@ NetError encodeItem(OnvifSession &session, std::uint32_t item, int channel, void
 NetError setEncodeItem(OnvifSession &session, std::uint32_t item, int channel, const void *block,
                        std::uint32_t size, Deadline deadline)
 {
-    const auto write = [&](auto whole, auto apply) {
-        if (!block || size != sizeof(whole))
+    const auto write = [&](auto typedBlock, auto apply) {
+        if (!block || size != sizeof(typedBlock))
             return NetError::InvalidValue;
-        std::memcpy(&whole, block, sizeof(whole));
-        if (whole.size != static_cast<std::int32_t>(sizeof(whole)) || !isStreamNumber(whole.stream))
+        std::memcpy(&typedBlock, block, sizeof(typedBlock));
+        if (typedBlock.size != static_cast<std::int32_t>(sizeof(typedBlock)) ||
+            !isStreamNumber(typedBlock.stream))
             return NetError::InvalidValue;
         ServiceResult<Stream> stream =
-            readStream(session, channel, kindOf(whole.stream), Purpose::Change, deadline);
-        return stream.isOk() ? apply(whole, stream.value) : stream.error;
+            readStream(session, channel, kindOf(typedBlock.stream), Purpose::Change, deadline);
+        return stream.isOk() ? apply(typedBlock, stream.value) : stream.error;
     };
     switch (static_cast<EncodeItem>(item)) {
     case EncodeItem::VideoFormat:
-        return write(VideoFormatItem{}, [&](const VideoFormatItem &whole, Stream &stream) {
+        return write(VideoFormatItem{}, [&](const VideoFormatItem &typedBlock, Stream &stream) {
             if (const NetError error = readOptions(session, stream, deadline); error != NetError::None)
                 return error;
             VideoEncoder video = *stream.profile.video;
-            return take(whole, stream, video) ? writeVideo(session, video, deadline) : NetError::InvalidValue;
+            return take(typedBlock, stream, video) ? writeVideo(session, video, deadline)
+                                                   : NetError::InvalidValue;
         });
     case EncodeItem::VideoProfile:
-        return write(VideoProfileItem{}, [&](const VideoProfileItem &whole, const Stream &stream) {
+        return write(VideoProfileItem{}, [&](const VideoProfileItem &typedBlock, const Stream &stream) {
             VideoEncoder video = *stream.profile.video;
-            const std::string profile = profileName(whole.profile);
+            const std::string profile = profileName(typedBlock.profile);
             if (video.encoding != "H264" || profile.empty() || profile == video.profile)
                 return NetError::None; // other codecs have no such profile
             video.profile = profile;
             return writeVideo(session, video, deadline);
         });
     case EncodeItem::AudioCompression:
-        return write(AudioCompressionItem{}, [&](const AudioCompressionItem &whole, const Stream &stream) {
+        return write(AudioCompressionItem{}, [&](const AudioCompressionItem &typedBlock,
+                                                 const Stream &stream) {
             const bool isEnabled = stream.profile.audio.has_value();
-            if ((whole.audioEnable != 0) != isEnabled)
+            if ((typedBlock.audioEnable != 0) != isEnabled)
                 return NetError::NotSupported; // sound belongs to a profile or does not
-            return isEnabled ? writeAudio(session, stream, whole.format, 0, deadline) : NetError::None;
+            return isEnabled ? writeAudio(session, stream, typedBlock.format, 0, deadline) : NetError::None;
         });
     case EncodeItem::AudioFormat:
-        return write(AudioFormatItem{}, [&](const AudioFormatItem &whole, const Stream &stream) {
-            return writeAudio(session, stream, 0, whole.samplingFrequency / hertzOfKilohertz, deadline);
+        return write(AudioFormatItem{}, [&](const AudioFormatItem &typedBlock, const Stream &stream) {
+            return writeAudio(session, stream, 0, typedBlock.samplingFrequency / hertzOfKilohertz, deadline);
         });
     }
     return NetError::NotSupported;

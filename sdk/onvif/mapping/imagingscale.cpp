@@ -7,7 +7,7 @@ namespace sdk::onvif {
 
 namespace {
 
-constexpr int wholePercent = 100;
+constexpr int fullPercent = 100;
 
 } // namespace
 
@@ -16,12 +16,12 @@ int percentOf(double value, const ImagingRange &range)
     if (!range.isUsable())
         return 0;
     const double share = (value - range.minimum) / (range.maximum - range.minimum);
-    return static_cast<int>(std::lround(std::clamp(share, 0.0, 1.0) * wholePercent));
+    return static_cast<int>(std::lround(std::clamp(share, 0.0, 1.0) * fullPercent));
 }
 
 double valueAt(int percent, const ImagingRange &range)
 {
-    const double share = static_cast<double>(std::clamp(percent, 0, wholePercent)) / wholePercent;
+    const double share = static_cast<double>(std::clamp(percent, 0, fullPercent)) / fullPercent;
     return range.minimum + share * (range.maximum - range.minimum);
 }
 

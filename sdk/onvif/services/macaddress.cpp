@@ -6,22 +6,22 @@ std::string canonicalMac(std::string_view text)
 {
     constexpr std::size_t digits = 12;
     std::string hex;
-    for (char letter : text) {
-        if (letter >= 'A' && letter <= 'F')
-            letter = static_cast<char>(letter - 'A' + 'a');
-        if ((letter >= '0' && letter <= '9') || (letter >= 'a' && letter <= 'f'))
-            hex += letter;
-        else if (letter != ':' && letter != '-' && letter != '.')
+    for (char character : text) {
+        if (character >= 'A' && character <= 'F')
+            character = static_cast<char>(character - 'A' + 'a');
+        if ((character >= '0' && character <= '9') || (character >= 'a' && character <= 'f'))
+            hex += character;
+        else if (character != ':' && character != '-' && character != '.')
             return {};
     }
     if (hex.size() != digits || hex.find_first_not_of('0') == std::string::npos)
         return {};
     std::string mac;
-    for (std::size_t place = 0; place < digits; place += 2) {
-        if (place > 0)
+    for (std::size_t index = 0; index < digits; index += 2) {
+        if (index > 0)
             mac += ':';
-        mac += hex[place];
-        mac += hex[place + 1];
+        mac += hex[index];
+        mac += hex[index + 1];
     }
     return mac;
 }

@@ -35,7 +35,7 @@ double numberOf(std::string_view text)
     return error == std::errc() && std::isfinite(value) ? std::clamp(value, 0.0, double(largestValue)) : 0;
 }
 
-int wholeNumberOf(std::string_view text)
+int integerOf(std::string_view text)
 {
     return static_cast<int>(numberOf(text));
 }
@@ -43,8 +43,8 @@ int wholeNumberOf(std::string_view text)
 void takeSizes(VideoEncodingOptions &options, const XmlElement &element)
 {
     for (const XmlElement &size : element.children("ResolutionsAvailable")) {
-        const int width = wholeNumberOf(size.child("Width").text());
-        const int height = wholeNumberOf(size.child("Height").text());
+        const int width = integerOf(size.child("Width").text());
+        const int height = integerOf(size.child("Height").text());
         const std::pair<int, int> pair(width, height);
         if (width > 0 && height > 0 && options.sizes.size() < maximumOptions &&
             std::find(options.sizes.begin(), options.sizes.end(), pair) == options.sizes.end())
@@ -60,14 +60,14 @@ VideoEncodingOptions firstOptions(std::string_view encoding, const XmlElement &e
     options.encoding = encoding;
     takeSizes(options, element);
     options.maximumFrameRate = numberOf(element.at({"FrameRateRange", "Max"}).text());
-    options.minimumKeyInterval = wholeNumberOf(element.at({"GovLengthRange", "Min"}).text());
-    options.maximumKeyInterval = wholeNumberOf(element.at({"GovLengthRange", "Max"}).text());
+    options.minimumKeyInterval = integerOf(element.at({"GovLengthRange", "Min"}).text());
+    options.maximumKeyInterval = integerOf(element.at({"GovLengthRange", "Max"}).text());
     for (const XmlElement &profile : element.children("H264ProfilesSupported")) {
         if (options.profiles.size() < maximumOptions)
             options.profiles.emplace_back(profile.text());
     }
-    options.minimumBitRate = wholeNumberOf(extension.at({"BitrateRange", "Min"}).text());
-    options.maximumBitRate = wholeNumberOf(extension.at({"BitrateRange", "Max"}).text());
+    options.minimumBitRate = integerOf(extension.at({"BitrateRange", "Min"}).text());
+    options.maximumBitRate = integerOf(extension.at({"BitrateRange", "Max"}).text());
     options.minimumQuality = numberOf(quality.child("Min").text());
     options.maximumQuality = numberOf(quality.child("Max").text());
     return options;
@@ -94,16 +94,16 @@ std::vector<VideoEncodingOptions> readSecondOptions(const XmlElement &response)
         VideoEncodingOptions options;
         options.encoding = std::string(element.child("Encoding").text());
         takeSizes(options, element);
-        options.minimumBitRate = wholeNumberOf(element.at({"BitrateRange", "Min"}).text());
-        options.maximumBitRate = wholeNumberOf(element.at({"BitrateRange", "Max"}).text());
+        options.minimumBitRate = integerOf(element.at({"BitrateRange", "Min"}).text());
+        options.maximumBitRate = integerOf(element.at({"BitrateRange", "Max"}).text());
         options.minimumQuality = numberOf(element.at({"QualityRange", "Min"}).text());
         options.maximumQuality = numberOf(element.at({"QualityRange", "Max"}).text());
         for (const std::string_view rate : words(element.attribute("FrameRatesSupported")))
             options.maximumFrameRate = std::max(options.maximumFrameRate, numberOf(rate));
         const std::vector<std::string_view> interval = words(element.attribute("GovLengthRange"));
         if (!interval.empty()) {
-            options.minimumKeyInterval = wholeNumberOf(interval.front());
-            options.maximumKeyInterval = wholeNumberOf(interval.back());
+            options.minimumKeyInterval = integerOf(interval.front());
+            options.maximumKeyInterval = integerOf(interval.back());
         }
         for (const std::string_view profile : words(element.attribute("ProfilesSupported")))
             options.profiles.emplace_back(profile);
@@ -118,7 +118,7 @@ std::vector<int> readNumbers(const XmlElement &list)
     std::vector<int> numbers;
     for (const XmlElement &item : list.children("Items")) {
         if (numbers.size() < maximumOptions)
-            numbers.push_back(wholeNumberOf(item.text()));
+            numbers.push_back(integerOf(item.text()));
     }
     return numbers;
 }

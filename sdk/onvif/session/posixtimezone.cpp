@@ -26,15 +26,15 @@ public:
     [[nodiscard]] bool isAtEnd() const { return m_left.empty(); }
     [[nodiscard]] char next() const { return m_left.empty() ? '\0' : m_left.front(); }
 
-    bool skip(char letter)
+    bool skip(char character)
     {
-        if (next() != letter)
+        if (next() != character)
             return false;
         m_left.remove_prefix(1);
         return true;
     }
 
-    void require(char letter) { m_isOk = skip(letter) && m_isOk; }
+    void require(char character) { m_isOk = skip(character) && m_isOk; }
 
     std::string name()
     {
@@ -43,9 +43,10 @@ public:
         std::string read;
         const bool isQuoted = skip('<');
         while (!m_left.empty() && read.size() < longest) {
-            const auto letter = static_cast<unsigned char>(next());
-            const bool belongs = isQuoted ? std::isalnum(letter) != 0 || letter == '+' || letter == '-'
-                                          : std::isalpha(letter) != 0;
+            const auto character = static_cast<unsigned char>(next());
+            const bool belongs = isQuoted
+                                     ? std::isalnum(character) != 0 || character == '+' || character == '-'
+                                     : std::isalpha(character) != 0;
             if (!belongs)
                 break;
             read += next();
@@ -128,8 +129,8 @@ std::string offsetText(int minutesAhead)
 
 std::string nameText(const std::string &name)
 {
-    for (const char letter : name) {
-        if (std::isalpha(static_cast<unsigned char>(letter)) == 0)
+    for (const char character : name) {
+        if (std::isalpha(static_cast<unsigned char>(character)) == 0)
             return '<' + name + '>';
     }
     return name;

@@ -68,8 +68,8 @@ bool isDigestChallenge(std::string_view line)
 {
     constexpr std::string_view start = "www-authenticate: digest";
     return line.size() >= start.size() &&
-           std::equal(start.begin(), start.end(), line.begin(), [](char expected, char letter) {
-               return expected == static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+           std::equal(start.begin(), start.end(), line.begin(), [](char expected, char character) {
+               return expected == static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
            });
 }
 
@@ -144,7 +144,7 @@ struct HttpClient::Exchange
         if (self->headerLength > longestHeaders)
             return 0;
         if (line.starts_with(
-                "HTTP/")) // the headers of the next answer: the one to the login follows a challenge
+                "HTTP/")) // the headers of the next response: the response to the login follows the challenge
             self->answer.offersDigest = false;
         if (isDigestChallenge(line))
             self->answer.offersDigest = true;

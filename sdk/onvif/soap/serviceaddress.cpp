@@ -20,14 +20,15 @@ std::optional<int> portOf(std::string_view digits)
 
 bool isPrintable(std::string_view text)
 {
-    return std::all_of(text.begin(), text.end(), [](char letter) { return letter > ' ' && letter < 0x7f; });
+    return std::all_of(text.begin(), text.end(),
+                       [](char character) { return character > ' ' && character < 0x7f; });
 }
 
 std::string lowered(std::string_view text)
 {
     std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](char character) {
+        return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
     });
     return lower;
 }

@@ -33,16 +33,16 @@ bool declares(std::string_view attribute, std::string_view prefix)
     return attribute.size() == prefix.size() + 1 && attribute.front() == ':' && attribute.ends_with(prefix);
 }
 
-bool isBlank(char letter)
+bool isSpace(char character)
 {
-    return letter == ' ' || letter == '\t' || letter == '\r' || letter == '\n';
+    return character == ' ' || character == '\t' || character == '\r' || character == '\n';
 }
 
 std::string_view trimmed(std::string_view text)
 {
-    while (!text.empty() && isBlank(text.front()))
+    while (!text.empty() && isSpace(text.front()))
         text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
+    while (!text.empty() && isSpace(text.back()))
         text.remove_suffix(1);
     return text;
 }

@@ -119,7 +119,7 @@ private Q_SLOTS:
 
         QStringList ipv4;
         int others = 0;
-        m_site->visitDevices([&](const sdk::demo::SceneDevice &device) {
+        m_site->forEachDevice([&](const sdk::demo::SceneDevice &device) {
             if (device.inOtherSegment)
                 return;
             const bool set = !device.isRemote && !device.address.isEmpty() && device.address != "0.0.0.0";

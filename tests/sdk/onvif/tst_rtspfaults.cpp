@@ -129,36 +129,36 @@ void TestRtspFaults::faultEndsTheStream_data()
     row("broken device", status("PLAY", "500 Internal Server Error"), "rejected");
     row("no transport", status("SETUP", "461 Unsupported Transport"), "unsupported");
 
-    row("stall at the first request", answering("OPTIONS", ""), "no answer");
+    row("stall at the first request", answering("OPTIONS", ""), "no response");
     row("stall within an answer", answering("DESCRIBE", okay + "Content-Length: 400\r\n\r\nv=0"),
-        "no answer");
-    row("stall at the transport", answering("SETUP", ""), "no answer");
-    row("stall before playing", answering("PLAY", ""), "no answer");
+        "no response");
+    row("stall at the transport", answering("SETUP", ""), "no response");
+    row("stall before playing", answering("PLAY", ""), "no response");
     row(
         "stall when playing", [](RtspScript &script) { script.packets.clear(); }, "no data");
 
-    row("no protocol at all", answering("OPTIONS", "220 ready\r\n\r\n"), "no answer");
-    row("endless line", answering("OPTIONS", "", QByteArray(8192, 'x')), "no answer");
-    row("endless head", answering("DESCRIBE", okay, "X-Filler: 1\r\n"), "oversized answer");
+    row("no protocol at all", answering("OPTIONS", "220 ready\r\n\r\n"), "no response");
+    row("endless line", answering("OPTIONS", "", QByteArray(8192, 'x')), "no response");
+    row("endless head", answering("DESCRIBE", okay, "X-Filler: 1\r\n"), "oversized response");
     row("endless description",
         answering("DESCRIBE", okay + "Content-Length: 2000000000\r\n\r\n", QByteArray(65536, 'v')),
-        "oversized answer");
+        "oversized response");
     row("length beyond numbers",
         answering("DESCRIBE", okay + "Content-Length: 18446744073709551700\r\n\r\n", QByteArray(65536, 'v')),
-        "oversized answer");
+        "oversized response");
     row("thousands of tracks",
         describing(source().description + QByteArray("m=video 0 RTP/AVP 96\r\n").repeated(3000)),
-        "oversized answer");
+        "oversized response");
     row("hundreds of tracks",
         describing(source().description + QByteArray("m=video 0 RTP/AVP 96\r\n").repeated(300)),
-        "oversized answer");
-    row("no description", describing(""), "malformed answer");
+        "oversized response");
+    row("no description", describing(""), "malformed response");
     row("no pictures", describing(source().descriptionWithout("m=video") + "m=audio 0 RTP/AVP 0\r\n"),
         "unsupported");
     row("pictures of an unknown kind",
         describing("v=0\r\nm=video 0 RTP/AVP 96\r\na=rtpmap:96 VP8/90000\r\na=control:0\r\n"), "unsupported");
 
-    row("no key picture", leaveOutKeyPictures, "no key picture");
+    row("no key picture", leaveOutKeyPictures, "no key frame");
     row(
         "unknown channels",
         [](RtspScript &script) {

@@ -2,39 +2,39 @@
 
 namespace sdk::onvif {
 
-void FrameAssembler::add(std::span<const std::uint8_t> piece, std::int64_t time)
+void FrameAssembler::add(std::span<const std::uint8_t> fragment, std::int64_t time)
 {
     if (m_codec != AV_CODEC_ID_H264 && m_codec != AV_CODEC_ID_HEVC) {
-        m_picture.assign(piece.begin(), piece.end());
+        m_frame.assign(fragment.begin(), fragment.end());
         m_time = time;
         deliver();
         return;
     }
-    const std::optional<StreamUnit> unit = firstUnit(piece, m_codec);
+    const std::optional<StreamUnit> unit = firstUnit(fragment, m_codec);
     if (unit && unit->place == 0)
-        addUnits(piece, *unit, time);
+        addUnits(fragment, *unit, time);
     else
-        append(piece); // a continued fragment
+        append(fragment); // a continued fragment
 }
 
 void FrameAssembler::addUnits(std::span<const std::uint8_t> units, const StreamUnit &first, std::int64_t time)
 {
     const std::optional<StreamUnit> slice = firstSlice(units, m_codec);
-    const bool isNext = m_hasSlices && (first.startsFrame || !m_held.empty());
+    const bool isNext = m_hasSlices && (first.startsFrame || !m_following.empty());
     if (isNext && !slice) {
-        if (m_held.empty())
-            m_heldTime = time;
-        m_place = Place::Held;
+        if (m_following.empty())
+            m_followingTime = time;
+        m_destination = Destination::Following;
         append(units);
         return;
     }
     if (isNext && slice->startsFrame)
         finish();
-    m_held.clear();
-    if (m_picture.empty())
+    m_following.clear();
+    if (m_frame.empty())
         m_time = time;
     m_hasSlices = m_hasSlices || slice;
-    m_place = Place::Picture;
+    m_destination = Destination::Frame;
     append(units);
 }
 
@@ -42,33 +42,33 @@ void FrameAssembler::finish()
 {
     if (m_hasSlices)
         deliver();
-    m_picture = std::exchange(m_held, {});
-    m_time = m_heldTime;
+    m_frame = std::exchange(m_following, {});
+    m_time = m_followingTime;
     m_hasSlices = false;
-    m_place = m_place == Place::Held ? Place::Picture : Place::Nowhere;
+    m_destination = m_destination == Destination::Following ? Destination::Frame : Destination::None;
 }
 
 void FrameAssembler::append(std::span<const std::uint8_t> bytes)
 {
-    if (m_place == Place::Nowhere)
+    if (m_destination == Destination::None)
         return;
-    if (m_picture.size() + m_held.size() + bytes.size() > mostBytes) {
-        m_picture.clear();
-        m_held.clear();
+    if (m_frame.size() + m_following.size() + bytes.size() > mostBytes) {
+        m_frame.clear();
+        m_following.clear();
         m_hasSlices = false;
-        m_place = Place::Nowhere;
+        m_destination = Destination::None;
         return;
     }
-    std::vector<std::uint8_t> &end = m_place == Place::Held ? m_held : m_picture;
+    std::vector<std::uint8_t> &end = m_destination == Destination::Following ? m_following : m_frame;
     end.insert(end.end(), bytes.begin(), bytes.end());
 }
 
 void FrameAssembler::deliver()
 {
-    const std::size_t size = m_picture.size();
-    m_picture.resize(size + AV_INPUT_BUFFER_PADDING_SIZE);
-    m_handler({m_picture.data(), size}, m_time);
-    m_picture.clear();
+    const std::size_t size = m_frame.size();
+    m_frame.resize(size + AV_INPUT_BUFFER_PADDING_SIZE);
+    m_handler({m_frame.data(), size}, m_time);
+    m_frame.clear();
 }
 
 } // namespace sdk::onvif

@@ -28,21 +28,21 @@ public:
     FrameAssembler(AVCodecID codec, Handler handler) : m_codec(codec), m_handler(std::move(handler)) {}
 
     /// Appends the next fragment, and delivers the frame before it if that is now complete.
-    void add(std::span<const std::uint8_t> piece, std::int64_t time);
+    void add(std::span<const std::uint8_t> fragment, std::int64_t time);
 
     /// True if finish() would deliver a frame.
-    [[nodiscard]] bool hasPicture() const { return m_hasSlices; }
+    [[nodiscard]] bool hasFrame() const { return m_hasSlices; }
 
     /// Delivers the received fragments as a complete frame. Later fragments of it are dropped.
     void finish();
 
 private:
     /// The destination of the next fragment.
-    enum class Place
+    enum class Destination
     {
-        Nowhere, ///< dropped: the start of its unit is missing
-        Picture,
-        Held,
+        None, ///< dropped: the start of its unit is missing
+        Frame,
+        Following,
     };
 
     void addUnits(std::span<const std::uint8_t> units, const StreamUnit &first, std::int64_t time);
@@ -51,15 +51,16 @@ private:
 
     const AVCodecID m_codec;
     const Handler m_handler;
-    std::vector<std::uint8_t> m_picture;
+    std::vector<std::uint8_t> m_frame;
     std::int64_t m_time = 0;
     bool m_hasSlices = false;
 
-    /// Units after a slice, which usually belong to the next frame. Some devices repeat their parameters
-    /// before each slice: then the next slice is not the first one of a frame, and these units are dropped.
-    std::vector<std::uint8_t> m_held;
-    std::int64_t m_heldTime = 0;
-    Place m_place = Place::Nowhere;
+    /// Parameter units after a slice. They usually belong to the next frame. Some devices repeat their
+    /// parameters before each slice: then the next slice is not the first one of a frame, and these units are
+    /// dropped.
+    std::vector<std::uint8_t> m_following;
+    std::int64_t m_followingTime = 0;
+    Destination m_destination = Destination::None;
 };
 
 } // namespace sdk::onvif

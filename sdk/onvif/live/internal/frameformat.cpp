@@ -21,9 +21,9 @@ std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture,
     bool hasPicture = false;
     std::optional<StreamUnit> unit = firstUnit(picture, codec);
     while (unit && !unit->isSlice) {
-        picture = picture.subspan(unit->place);
+        picture = picture.subspan(unit->offset);
         const std::optional<StreamUnit> next = firstUnit(picture.subspan(unit->headSize), codec);
-        const std::size_t size = next ? unit->headSize + next->place : picture.size();
+        const std::size_t size = next ? unit->headSize + next->offset : picture.size();
         if (unit->parameterSet != ParameterSet::None) {
             // Start codes have three or four bytes.
             std::vector<std::uint8_t> one(startCode.begin(), startCode.end());
@@ -97,19 +97,19 @@ bool FrameFormat::examineJpeg(std::span<const std::uint8_t> picture)
     constexpr std::uint8_t firstFrameMarker = 0xc0; // baseline and two rarer types
     constexpr std::uint8_t lastFrameMarker = 0xc2;
     constexpr std::size_t headSize = 9; // marker, length, precision, height, width
-    const auto number = [&picture](std::size_t place) {
+    const auto number = [&picture](std::size_t offset) {
         constexpr int byte = 8;
-        return picture[place] << byte | picture[place + 1];
+        return picture[offset] << byte | picture[offset + 1];
     };
-    std::size_t place = 2; // after the start marker
-    while (place + headSize <= picture.size() && picture[place] == marker) {
-        const std::uint8_t kind = picture[place + 1];
+    std::size_t offset = 2; // after the start marker
+    while (offset + headSize <= picture.size() && picture[offset] == marker) {
+        const std::uint8_t kind = picture[offset + 1];
         if (kind >= firstFrameMarker && kind <= lastFrameMarker) {
-            m_height = number(place + 5);
-            m_width = number(place + 7);
+            m_height = number(offset + 5);
+            m_width = number(offset + 7);
             return m_width > 0 && m_height > 0;
         }
-        place += 2 + static_cast<std::size_t>(number(place + 2));
+        offset += 2 + static_cast<std::size_t>(number(offset + 2));
     }
     return false;
 }

@@ -43,7 +43,7 @@ Remuxer::Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr
 bool Remuxer::add(const AVPacket &packet)
 {
     if (packet.stream_index == m_picture.index) {
-        m_lastPiece = std::chrono::steady_clock::now();
+        m_lastFragment = std::chrono::steady_clock::now();
         m_assembler.add({packet.data, static_cast<std::size_t>(packet.size)}, packet.pts);
         return true;
     }
@@ -61,7 +61,7 @@ bool Remuxer::add(const AVPacket &packet)
 
 void Remuxer::deliverWaiting()
 {
-    if (m_assembler.hasPicture() && std::chrono::steady_clock::now() - m_lastPiece >= longestWait)
+    if (m_assembler.hasFrame() && std::chrono::steady_clock::now() - m_lastFragment >= longestWait)
         m_assembler.finish();
 }
 
@@ -105,7 +105,7 @@ void Remuxer::write(AVPacket &packet, Timeline &timeline)
     std::optional<std::int64_t> time;
     if (packet.pts != AV_NOPTS_VALUE)
         time = av_rescale_q(packet.pts, packet.time_base, microsecond);
-    packet.pts = timeline.place(time, microsecondsNow());
+    packet.pts = timeline.continuousTime(time, microsecondsNow());
     packet.dts = packet.pts;
     packet.duration = 0;
     packet.time_base = microsecond;

@@ -61,7 +61,7 @@ private:
     std::atomic<bool> &m_mustRestart;
     const BytesHandler m_handler;
     FrameAssembler m_assembler;
-    std::chrono::steady_clock::time_point m_lastPiece;
+    std::chrono::steady_clock::time_point m_lastFragment;
     Timeline m_pictureTimes;
     Timeline m_soundTimes;
     std::unique_ptr<streams::MatroskaWriter> m_writer;

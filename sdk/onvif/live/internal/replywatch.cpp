@@ -65,11 +65,12 @@ void ReplyWatch::readReplyLine(const char *line)
     } else if (*line == '\0') {
         endHeader();
     } else if (++m_headerLines > mostHeaderLines) {
-        object(StreamEnd::Oversized, "an answer has more than " + std::to_string(mostHeaderLines) + " lines");
+        object(StreamEnd::Oversized,
+               "a response has more than " + std::to_string(mostHeaderLines) + " lines");
     } else if (av_stristart(line, "Content-Length:", &value)) {
         const long length = std::strtol(value, nullptr, decimal);
         if (length < 0 || length > mostContentBytes)
-            object(StreamEnd::Oversized, "an answer announces " + std::to_string(length) + " bytes");
+            object(StreamEnd::Oversized, "a response announces " + std::to_string(length) + " bytes");
     } else if (av_stristart(line, "WWW-Authenticate:", &value)) {
         // The line is in a buffer of FFmpeg, which evaluates it after this call.
         if (!isUsable(value))
@@ -92,7 +93,8 @@ void ReplyWatch::readStatus(const char *line)
     m_isDigestKnown = false;
     m_isStale = false;
     if (m_status >= firstRedirection && m_status <= lastRedirection)
-        object(StreamEnd::Redirected, "the device sends elsewhere (" + std::to_string(m_status) + ")");
+        object(StreamEnd::Redirected,
+               "the device redirects to another address (" + std::to_string(m_status) + ")");
 }
 
 /// False for a challenge of a type that FFmpeg does not support and would use instead of another one.
@@ -118,15 +120,15 @@ void ReplyWatch::readTransport(std::string_view transport)
     // With interleaved transport, no data are sent to that address.
     const std::string source(parameter(transport, "source="));
     if (!source.empty() && transport.find("/TCP") == std::string_view::npos && !isSameAddress(source, m_host))
-        object(StreamEnd::Redirected, "the device names another address for its data");
+        object(StreamEnd::Redirected, "the device announces another source address for its data");
 }
 
 void ReplyWatch::endHeader()
 {
     if (m_offersPlainPassword && !m_offersDigest)
-        object(StreamEnd::Unsupported, "the device wants the password as plain text");
+        object(StreamEnd::Unsupported, "the device requests the password in plain text");
     else if (m_offersDigest && !m_isDigestKnown)
-        object(StreamEnd::Unsupported, "the device wants a login of an unknown kind");
+        object(StreamEnd::Unsupported, "the device requests an unsupported login method");
     // FFmpeg sends the login with its keep-alive requests, and continues after a refusal.
     if (m_isPlaying && m_hasSentLogin && m_status == unauthorised) {
         if (!m_isStale || m_wasStaleBefore)

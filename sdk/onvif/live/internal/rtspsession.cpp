@@ -122,12 +122,11 @@ bool RtspSession::isInterrupted()
 void RtspSession::checkTimes(Time now)
 {
     if (m_answerBy && now > *m_answerBy)
-        endWith(StreamEnd::NoAnswer, "the device did not answer within " + secondsText(m_timeouts.answer));
+        endWith(StreamEnd::NoAnswer, "the device did not respond within " + secondsText(m_timeouts.answer));
     if (m_dataBy && now > *m_dataBy)
-        endWith(StreamEnd::NoData, "no picture came for " + secondsText(m_timeouts.silence));
+        endWith(StreamEnd::NoData, "no video packet arrived for " + secondsText(m_timeouts.silence));
     if (m_keyPictureBy && now > *m_keyPictureBy) {
-        endWith(StreamEnd::NoKeyFrame,
-                "no picture to begin with came within " + secondsText(m_timeouts.keyPicture));
+        endWith(StreamEnd::NoKeyFrame, "no key frame arrived within " + secondsText(m_timeouts.keyPicture));
     }
 }
 

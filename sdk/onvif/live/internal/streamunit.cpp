@@ -76,8 +76,8 @@ std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodec
     if (code + startCode.size() + headerSize > bytes.size())
         return std::nullopt;
     StreamUnit unit;
-    unit.place = code > 0 && bytes[code - 1] == 0 ? code - 1 : code; // a fourth byte of the code
-    unit.codeSize = code - unit.place + startCode.size();
+    unit.offset = code > 0 && bytes[code - 1] == 0 ? code - 1 : code; // a fourth byte of the code
+    unit.codeSize = code - unit.offset + startCode.size();
     unit.headSize = unit.codeSize + headerSize;
     const std::span<const std::uint8_t> rest = bytes.subspan(code + startCode.size());
     if (codec == AV_CODEC_ID_H264)
@@ -89,14 +89,14 @@ std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodec
 
 std::optional<StreamUnit> firstSlice(std::span<const std::uint8_t> bytes, AVCodecID codec)
 {
-    std::size_t place = 0;
+    std::size_t offset = 0;
     std::optional<StreamUnit> unit = firstUnit(bytes, codec);
     while (unit && !unit->isSlice) {
-        place += unit->place + unit->headSize;
-        unit = firstUnit(bytes.subspan(place), codec);
+        offset += unit->offset + unit->headSize;
+        unit = firstUnit(bytes.subspan(offset), codec);
     }
     if (unit)
-        unit->place += place;
+        unit->offset += offset;
     return unit;
 }
 

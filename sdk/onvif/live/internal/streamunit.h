@@ -20,7 +20,7 @@ enum class ParameterSet
 /// The start of a unit.
 struct StreamUnit
 {
-    std::size_t place = 0;    ///< of its start code
+    std::size_t offset = 0;   ///< of its start code
     std::size_t codeSize = 0; ///< of the start code
     std::size_t headSize = 0; ///< of start code and header
     ParameterSet parameterSet = ParameterSet::None;

@@ -2,7 +2,7 @@
 
 namespace sdk::onvif {
 
-std::int64_t Timeline::place(std::optional<std::int64_t> time, std::int64_t arrival)
+std::int64_t Timeline::continuousTime(std::optional<std::int64_t> time, std::int64_t arrival)
 {
     if (!m_hasBegun && time)
         m_last = *time;
