@@ -29,10 +29,10 @@ QByteArray namedEncoding(const QByteArray &headers)
     const qsizetype begin = qMax(0, text.lastIndexOf("\ncontent-type:") + 1);
     const QByteArray type = text.mid(begin).split('\n').constFirst();
     const QByteArray mark = QByteArrayLiteral("charset=");
-    const qsizetype place = type.indexOf(mark);
-    if (place < 0)
+    const qsizetype position = type.indexOf(mark);
+    if (position < 0)
         return {};
-    QByteArray name = type.mid(place + mark.size()).split(';').constFirst();
+    QByteArray name = type.mid(position + mark.size()).split(';').constFirst();
     return name.replace('"', "").trimmed();
 }
 

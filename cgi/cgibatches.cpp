@@ -107,7 +107,7 @@ QString CgiBatches::addressOf(const QString &ipport, const QString &command)
 
 QString CgiBatches::answerOf(const QString &identity, const QString &result) const
 {
-    return m_answers->whole(identity, result);
+    return m_answers->complete(identity, result);
 }
 
 QStringList CgiBatches::failuresOf(Batch *batch) const

@@ -4,11 +4,10 @@
 
 class LongAnswers;
 
-/// Commands to devices over HTTP as batches, for the scene: one command to several listed devices, each with
-/// the account of the device. The responses are written to the rows. Commands of a workbook are in
-/// workbooks().
+/// Batches of commands to devices over HTTP, for QML: one command to several listed devices, each with the
+/// account of the device. The responses are written to the rows. workbooks() has the commands of workbooks.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class CgiBatches : public QObject
 {
     Q_OBJECT
@@ -23,7 +22,7 @@ public:
 
     /// Sends a command to the devices with these row identities. The rows get the command as "url"
     /// immediately, and the start of the response as "result", or the text for "not sent". Returns the batch,
-    /// or null when it does not start. The scene does not own it.
+    /// or null when it does not start. QML does not own it.
     Q_INVOKABLE Batch *send(const QString &title, const QStringList &identities, const QString &command);
 
     /// The complete response whose start is the row's "result", if it is kept.

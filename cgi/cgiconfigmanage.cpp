@@ -90,7 +90,7 @@ CgiSurroundings CGIConfigManage::watched(CgiSurroundings surroundings)
     return surroundings;
 }
 
-/// Processes events of the scene, unless it has just done so. Returns true if the work continues.
+/// Processes events of the main thread, unless it has just done so. Returns true if the work continues.
 bool CGIConfigManage::passEvents()
 {
     constexpr qint64 interval = 50; // milliseconds without events
@@ -114,7 +114,7 @@ void CGIConfigManage::setCertificateHandler(sdk::CertificateHandler handler, voi
 QString CGIConfigManage::singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                          const QString &ipport)
 {
-    // While a request waits, the scene's timers run and could call again.
+    // During a request, timers of QML run and could call this function again.
     if (m_isRunning)
         return failedResult + tr("正在发送另一条CGI命令。");
     const Run run(*this);
@@ -180,19 +180,19 @@ QStringList CGIConfigManage::linesOf(const QString &text) const
     constexpr qsizetype longest = 500;
     constexpr qsizetype most = 100'000;
     QStringList lines;
-    qsizetype place = 0;
-    while (place < text.size() && lines.size() < most) {
-        qsizetype end = text.indexOf(QLatin1Char('\n'), place);
+    qsizetype position = 0;
+    while (position < text.size() && lines.size() < most) {
+        qsizetype end = text.indexOf(QLatin1Char('\n'), position);
         end = end < 0 ? text.size() : end;
-        qsizetype length = std::min(end - place, longest);
-        if (length < end - place && text.at(place + length - 1).isHighSurrogate())
+        qsizetype length = std::min(end - position, longest);
+        if (length < end - position && text.at(position + length - 1).isHighSurrogate())
             --length; // does not split a surrogate pair
-        QString line = text.mid(place, length);
+        QString line = text.mid(position, length);
         line.remove(QLatin1Char('\r'));
         lines.append(line);
-        place += length == end - place ? length + 1 : length;
+        position += length == end - position ? length + 1 : length;
     }
-    if (place < text.size())
+    if (position < text.size())
         lines.append(tr("…（内容过长，已截断）"));
     return lines;
 }

@@ -8,12 +8,12 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-/// Commands to devices over HTTP, for the scene: one command, or the commands of a workbook with their
-/// results written to it; and utilities of the command page.
+/// Commands to devices over HTTP, for QML: one command, or the commands of a workbook with their results
+/// written to it; and utilities of the command page.
 ///
-/// Operations run on the scene's thread and block it; the scene itself sends its commands with CgiBatches.
-/// The event loop runs during a request and between two rows of a workbook, so that stop() can be called. The
-/// object must exist until the call has returned.
+/// Operations run on the main thread and block it. The pages send commands with CgiBatches instead. The event
+/// loop runs during a request and between two rows of a workbook, so that stop() can be called. The object
+/// must exist until the call has returned.
 class CGIConfigManage : public QObject
 {
     Q_OBJECT

@@ -28,8 +28,8 @@ public:
         if (!refusal.isEmpty())
             return refusal;
         m_results.emplace(m_workbook);
-        for (std::size_t place = 0; place < commands().size(); ++place)
-            m_places.insert(nameOf(commands()[place]), place);
+        for (std::size_t index = 0; index < commands().size(); ++index)
+            m_indices.insert(nameOf(commands()[index]), index);
         return {};
     }
 
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] const std::vector<WorkbookCommand> &commands() const { return m_results->commands(); }
     [[nodiscard]] const WorkbookCommand &command(const QString &line) const
     {
-        return commands()[m_places.value(line)];
+        return commands()[m_indices.value(line)];
     }
 
     [[nodiscard]] AnswerSink sinkOf(const QString &line) const
@@ -58,8 +58,8 @@ public:
 
     void take(const QString &line, const QString &beginning)
     {
-        m_results->take(command(line), m_answers->whole(line, beginning));
-        m_answers->forget(line);
+        m_results->take(command(line), m_answers->complete(line, beginning));
+        m_answers->remove(line);
     }
 
     [[nodiscard]] QString finish() { return m_results->finish(); }
@@ -68,7 +68,7 @@ private:
     CommandWorkbook m_workbook;
     QDateTime m_changed; ///< time of the file's last change
     std::optional<WorkbookResults> m_results;
-    QHash<QString, std::size_t> m_places; ///< indices of commands, by the names of their lines
+    QHash<QString, std::size_t> m_indices; ///< indices of commands, by the names of their lines
     const std::shared_ptr<LongAnswers> m_answers = std::make_shared<LongAnswers>(); ///< not yet written
 };
 
@@ -196,11 +196,11 @@ void CgiWorkbooks::finish()
         sdk::giveWayToWindow();
         const QString text = workbook->finish();
         QMetaObject::invokeMethod(
-            this, [this, text] { tellEnd(text); }, Qt::QueuedConnection);
+            this, [this, text] { reportEnd(text); }, Qt::QueuedConnection);
     });
 }
 
-void CgiWorkbooks::tellEnd(const QString &text)
+void CgiWorkbooks::reportEnd(const QString &text)
 {
     m_factory.busyState()->end(std::exchange(m_work, 0));
     m_isRunning = false;

@@ -6,10 +6,10 @@
 #include <QThreadPool>
 #include <QVariantList>
 
-/// Workbooks of commands as batches, for the scene: the command of each line is sent, and the response is
+/// Batches of the commands of a workbook, for QML: the command of each line is sent, and the response is
 /// written to the line.
 ///
-/// Lives on the scene's thread. Files are read and written on a separate thread.
+/// Lives on the main thread. Files are read and written on a separate thread.
 class CgiWorkbooks : public QObject
 {
     Q_OBJECT
@@ -26,8 +26,8 @@ public:
     Q_INVOKABLE void read(const QString &path);
 
     /// Sends the commands of the lines with these names in the last read workbook; the commands for one
-    /// device are sent in their order. Returns the batch, or null when it does not start. The scene does not
-    /// own it. When the results are in the file, ended() is emitted with a message for the user.
+    /// device are sent in their order. Returns the batch, or null when it does not start. QML does not own
+    /// it. When the results are in the file, ended() is emitted with a message for the user.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:
@@ -45,7 +45,7 @@ private:
     [[nodiscard]] DeviceStep lineStep(const BatchDevice &line) const;
     void takeLines(const QList<BatchOutcome> &outcomes);
     void finish();
-    void tellEnd(const QString &text);
+    void reportEnd(const QString &text);
 
     CDeviceFactory &m_factory;
     Batches &m_batches;

@@ -10,7 +10,7 @@
 
 /// Opens web pages of devices in the browser of the desktop. The browser does not know the keys that the user
 /// has accepted, and the user enters the password there: so the key of a device is checked first. Lives on
-/// the scene's thread; connections are made on another thread, without an account.
+/// the main thread; connections are made on another thread, without an account.
 class WebPages : public QObject
 {
     Q_OBJECT

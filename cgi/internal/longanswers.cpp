@@ -3,30 +3,30 @@
 void LongAnswers::keep(const QString &key, const QString &answer)
 {
     const std::lock_guard lock(m_mutex);
-    forgetLocked(key);
-    if (answer.size() <= longestBeginning || answer.size() > room)
+    erase(key);
+    if (answer.size() <= longestBeginning || answer.size() > maximumLength)
         return;
-    while (m_length + answer.size() > room)
-        forgetLocked(QString(m_keys.constFirst()));
+    while (m_length + answer.size() > maximumLength)
+        erase(QString(m_keys.constFirst()));
     m_answers.insert(key, answer);
     m_keys.append(key);
     m_length += answer.size();
 }
 
-void LongAnswers::forget(const QString &key)
+void LongAnswers::remove(const QString &key)
 {
     const std::lock_guard lock(m_mutex);
-    forgetLocked(key);
+    erase(key);
 }
 
-QString LongAnswers::whole(const QString &key, const QString &beginning) const
+QString LongAnswers::complete(const QString &key, const QString &beginning) const
 {
     const std::lock_guard lock(m_mutex);
     const auto answer = m_answers.constFind(key);
     return answer != m_answers.cend() && answer->startsWith(beginning) ? *answer : beginning;
 }
 
-void LongAnswers::forgetLocked(const QString &key)
+void LongAnswers::erase(const QString &key)
 {
     const auto answer = m_answers.constFind(key);
     if (answer == m_answers.cend())

@@ -10,19 +10,21 @@ class LongAnswers
 {
 public:
     static constexpr qsizetype longestBeginning = 4000;
-    static constexpr qsizetype room = 32'000'000; ///< limit of the total number of characters
+    static constexpr qsizetype maximumLength = 32'000'000; ///< total number of stored characters
 
     /// Stores the response of `key` in place of an earlier one. A short response is not stored; the oldest
     /// ones are removed at the limit.
     void keep(const QString &key, const QString &answer);
 
-    void forget(const QString &key);
+    /// Removes the response of `key`, if there is one.
+    void remove(const QString &key);
 
     /// The response of `key` if it starts with `beginning`, otherwise `beginning`.
-    [[nodiscard]] QString whole(const QString &key, const QString &beginning) const;
+    [[nodiscard]] QString complete(const QString &key, const QString &beginning) const;
 
 private:
-    void forgetLocked(const QString &key);
+    /// Requires m_mutex.
+    void erase(const QString &key);
 
     mutable std::mutex m_mutex;
     QHash<QString, QString> m_answers;

@@ -65,16 +65,16 @@ QString describeForeignFile(const QByteArray &file, const QString &reason)
                                : QStringLiteral("not a workbook of the format .xlsx");
 }
 
-bool readWhole(zip_source_t *source, QByteArray &bytes)
+bool readAll(zip_source_t *source, QByteArray &bytes)
 {
     zip_stat_t stat;
     zip_stat_init(&stat);
     if (zip_source_stat(source, &stat) != 0 || !(stat.valid & ZIP_STAT_SIZE) || zip_source_open(source) != 0)
         return false;
     bytes = QByteArray(qsizetype(stat.size), Qt::Uninitialized);
-    const bool isWhole = zip_source_read(source, bytes.data(), stat.size) == zip_int64_t(stat.size);
+    const bool isComplete = zip_source_read(source, bytes.data(), stat.size) == zip_int64_t(stat.size);
     zip_source_close(source);
-    return isWhole;
+    return isComplete;
 }
 
 } // namespace
@@ -122,7 +122,7 @@ bool ZipPackage::checkEntry(const struct zip_stat &entry)
     if (entry.encryption_method != ZIP_EM_NONE)
         return fail(QStringLiteral("part %1 of the workbook is encrypted").arg(name));
     if (entry.size > sizeWithoutRatio && entry.size / maximumRatio >= entry.comp_size)
-        return fail(QStringLiteral("part %1 of the workbook is packed too tightly to be genuine").arg(name));
+        return fail(QStringLiteral("part %1 of the workbook has a suspicious compression ratio").arg(name));
     return true;
 }
 
@@ -191,7 +191,7 @@ bool ZipPackage::build(QByteArray &file)
     Archive archive(openArchive(source, reason));
     const bool isBuilt =
         archive ? writeChanges(std::move(archive)) &&
-                      (readWhole(source, file) || fail(QStringLiteral("the archive cannot be read back")))
+                      (readAll(source, file) || fail(QStringLiteral("the archive cannot be read back")))
                 : fail(reason);
     zip_source_free(source);
     return isBuilt;
